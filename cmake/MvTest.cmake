@@ -1,0 +1,31 @@
+# mv_add_test(<name> LINK <target>...)      a Qt Test program <name>.cpp, run by ctest
+# mv_add_benchmark(<name> LINK <target>...) a Google Benchmark program <name>.cpp
+
+function(mv_test_environment out)
+    set(${out}
+        "QT_QPA_PLATFORM=offscreen"
+        "LC_ALL=C.UTF-8"
+        "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1"
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
+        "UBSAN_OPTIONS=print_stacktrace=1" PARENT_SCOPE)
+endfunction()
+
+function(mv_add_test name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "LINK" ${ARGN})
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE MvTestSupport Qt6::Test ${ARG_LINK})
+    target_compile_definitions(${name} PRIVATE MV_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+    add_test(NAME ${name} COMMAND ${name})
+    mv_test_environment(environment)
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 300)
+    endif()
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT ${ARG_TIMEOUT})
+endfunction()
+
+function(mv_add_benchmark name)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    find_package(benchmark REQUIRED)
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE benchmark::benchmark ${ARG_LINK})
+endfunction()

@@ -1,0 +1,3 @@
+#include "MvCore/MvApplicationLocale.h"
+
+template class MvSingleton<MvApplicationLocale>;

@@ -1,0 +1,71 @@
+#include "MvCore/MvDirectoryConfig.h"
+
+#include <QStandardPaths>
+
+template class MvSingleton<MvDirectoryConfig>;
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView folderName("mvcalendar");
+const QString embeddedRoot = u":/mvcalendar"_s;
+
+bool leavesItsRoot(const QString &relativePath)
+{
+    const QString clean = QDir::cleanPath(relativePath);
+    return QDir::isAbsolutePath(clean) || clean == ".."_L1 || clean.startsWith("../"_L1);
+}
+
+} // namespace
+
+MvDirectoryConfig::MvDirectoryConfig()
+    : m_programDataDir(qEnvironmentVariable("MVCALENDAR_DATA"))
+{
+    if (m_programDataDir.isEmpty()) {
+        m_programDataDir =
+            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + folderName;
+    }
+    const QString overrideRoot = qEnvironmentVariable("MVCALENDAR_RESOURCES");
+    if (!overrideRoot.isEmpty())
+        m_resourceRoots.append(overrideRoot);
+    const QStringList shared = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+    for (const QString &root : shared.mid(1)) // the first one is the user's
+        m_resourceRoots.append(root + u'/' + folderName);
+}
+
+QFileInfo MvDirectoryConfig::resource(const QString &relativePath) const
+{
+    const QFileInfo embedded(embeddedRoot + u'/' + relativePath);
+    if (leavesItsRoot(relativePath))
+        return embedded;
+    const QStringList roots = m_resourceRoots + QStringList{m_programDataDir};
+    for (const QString &root : roots) {
+        const QFileInfo file(root + u'/' + relativePath);
+        if (file.isFile())
+            return file;
+    }
+    return embedded;
+}
+
+QDir MvDirectoryConfig::programDataDir() const
+{
+    return QDir(m_programDataDir);
+}
+
+QFileInfo MvDirectoryConfig::programDataFile(const QString &fileName) const
+{
+    return QFileInfo(programDataDir(), fileName);
+}
+
+QDir MvDirectoryConfig::programDataSubDir(const QString &name) const
+{
+    const QDir parent = programDataDir();
+    parent.mkpath(name);
+    return QDir(parent.filePath(name));
+}
+
+void MvDirectoryConfig::setProgramDataDir(const QString &path)
+{
+    m_programDataDir = path;
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "MvCore/MvSingleton.h"
+#include "MvCore/mvcore_export.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+class MvDirectoryConfig;
+extern template class MVCORE_EXPORT MvSingleton<MvDirectoryConfig>;
+
+/// Where files lie: what the program ships and what belongs to the user.
+class MVCORE_EXPORT MvDirectoryConfig : public MvSingleton<MvDirectoryConfig>
+{
+public:
+    MvDirectoryConfig();
+
+    /// A shipped file by its path relative to the resource root ("schemas/calendar_layout.xml"). The first that exists
+    /// of: the override folder (environment variable MVCALENDAR_RESOURCES), the installed data folder, the user's data
+    /// folder, the embedded default. Nothing found: the embedded path, which does not exist. A path that leaves the
+    /// root ("..") is not found.
+    QFileInfo resource(const QString &relativePath) const;
+
+    /// The user's data folder (environment variable MVCALENDAR_DATA, else the platform's). It may not exist yet.
+    QDir programDataDir() const;
+    /// A file in it. Neither file nor folder is created.
+    QFileInfo programDataFile(const QString &fileName) const;
+    /// A sub-folder of it; created when missing.
+    QDir programDataSubDir(const QString &name) const;
+
+    /// Other user folder, for programs that bring their own and for tests.
+    void setProgramDataDir(const QString &path);
+
+private:
+    QString m_programDataDir;
+    QStringList m_resourceRoots; // in order of precedence
+};

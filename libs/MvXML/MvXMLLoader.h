@@ -1,0 +1,35 @@
+#pragma once
+
+#include "MvXML/mvxml_export.h"
+
+#include <QDomDocument>
+#include <QDomElement>
+#include <QFileInfo>
+#include <QString>
+
+/// Loading XML files: the one guarded way to a file from outside.
+///
+/// Before a document is built, the file must pass: a regular file, at most 64 MiB, no tag longer than 64 KiB, no
+/// entity declarations, at most 256 levels, well-formed.
+class MVXML_EXPORT MvXMLLoader
+{
+public:
+    /// What went wrong, for a person: empty message means nothing did. Line and column count from 1, 0 when unknown.
+    struct Error
+    {
+        QString message;
+        int line = 0;
+        int column = 0;
+
+        bool isError() const { return !message.isEmpty(); }
+        /// "Datei:Zeile:Spalte: message", as far as known.
+        QString describe(const QFileInfo &file) const;
+    };
+
+    /// The document; a null one on error, which is then described in `error` when given.
+    static QDomDocument loadDocument(const QFileInfo &file, Error *error = nullptr);
+    static QDomDocument parse(const QByteArray &bytes, Error *error = nullptr);
+    /// The root element; a null one on error. A file that exists but cannot be read logs one warning with file and
+    /// place.
+    static QDomElement loadDocumentElement(const QFileInfo &file);
+};
