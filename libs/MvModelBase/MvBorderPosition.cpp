@@ -1,0 +1,10 @@
+#include "MvModelBase/MvBorderPosition.h"
+
+template class MvEnumWrapper<MvBorderPositionEnum>;
+
+void MvBorderPosition::fillTable(Table *table) const
+{
+    table->insert(QStringLiteral("inside"), BORDER_POSITION_INSIDE);
+    table->insert(QStringLiteral("centred"), BORDER_POSITION_CENTRED);
+    table->insert(QStringLiteral("outside"), BORDER_POSITION_OUTSIDE);
+}

@@ -1,0 +1,13 @@
+#include "MvModelBase/MvFontCreator.h"
+
+template class MvSingleton<MvFontCreator>;
+
+QString MvFontCreator::defaultFontFamily() const
+{
+    return QStringLiteral("Lato");
+}
+
+QFont MvFontCreator::createDefaultFont()
+{
+    return QFont(instance().defaultFontFamily(), 10);
+}
