@@ -1,0 +1,327 @@
+#include "MvCalendar/MvCalendariumAppearance.h"
+
+#include "MvCalendar/MvCalendariumAppearanceImpl.h"
+#include "MvCore/MvMath.h"
+
+#include <QDomElement>
+#include <QImage>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QString headerSeparator = u"$$"_s;
+
+// what calendariumOptions() answers with
+constexpr int holidaysOption = 1;
+constexpr int holidayColorsOption = 2;
+
+std::function<QList<MvCalendarCellType>(const MvCalendariumAppearance &)> &usedCellTypes()
+{
+    static std::function<QList<MvCalendarCellType>(const MvCalendariumAppearance &)> usedTypes;
+    return usedTypes;
+}
+
+} // namespace
+
+MvCalendariumAppearance::MvCalendariumAppearance()
+    : d(new MvCalendariumAppearanceImpl)
+{
+}
+
+MvCalendariumAppearance::MvCalendariumAppearance(const QDomElement &element, bool adaptGrid,
+                                                 MvCalendariumColorSchemaRegistry *registry)
+    : MvCalendariumAppearance()
+{
+    fromXML(element, adaptGrid, registry);
+}
+
+MvCalendariumAppearance::~MvCalendariumAppearance() = default;
+MvCalendariumAppearance::MvCalendariumAppearance(const MvCalendariumAppearance &) = default;
+MvCalendariumAppearance::MvCalendariumAppearance(MvCalendariumAppearance &&) noexcept = default;
+MvCalendariumAppearance &MvCalendariumAppearance::operator=(const MvCalendariumAppearance &) = default;
+MvCalendariumAppearance &MvCalendariumAppearance::operator=(MvCalendariumAppearance &&) noexcept = default;
+
+void MvCalendariumAppearance::fromXML(const QDomElement &element, bool adaptGrid,
+                                      MvCalendariumColorSchemaRegistry *registry)
+{
+    d->read(element, adaptGrid, registry);
+}
+
+void MvCalendariumAppearance::write(QDomElement &element, bool embedUserSchema) const
+{
+    d->write(element, embedUserSchema);
+}
+
+bool MvCalendariumAppearance::isValid() const
+{
+    return d->colorSchema.isValid() && d->layoutSchema.isValid();
+}
+
+const MvCalendariumLayoutSchema &MvCalendariumAppearance::layoutSchema() const
+{
+    return d->layoutSchema;
+}
+
+void MvCalendariumAppearance::setLayoutSchema(const MvCalendariumLayoutSchema &schema)
+{
+    d->layoutSchema = schema;
+}
+
+void MvCalendariumAppearance::setLayoutSchemaByID(const MvCalendariumLayoutSchemaID &id)
+{
+    d->setLayoutSchemaById(id);
+}
+
+const MvCalendariumType &MvCalendariumAppearance::type() const
+{
+    return d->layoutSchema.calendariumType();
+}
+
+const MvCalendarRenderingInformation &MvCalendariumAppearance::renderingInformation() const
+{
+    return d->layoutSchema.renderingInformation();
+}
+
+void MvCalendariumAppearance::setRenderingInformation(const MvCalendarRenderingInformation &information)
+{
+    if (renderingInformation() != information)
+        d->layoutSchema.setRenderingInformation(information);
+}
+
+bool MvCalendariumAppearance::currentSchemaNeeds(const MvCalendarRenderingInformation &information) const
+{
+    return renderingInformation().hasAnyOf(information);
+}
+
+bool MvCalendariumAppearance::showHolidays() const
+{
+    return d->layoutSchema.showHolidays();
+}
+
+void MvCalendariumAppearance::setShowHolidays(bool show)
+{
+    if (showHolidays() != show)
+        d->layoutSchema.setShowHolidays(show);
+}
+
+Qt::Alignment MvCalendariumAppearance::textAlignment(const MvCalendarCellType &cellType) const
+{
+    return d->layoutSchema.textAlignment(cellType);
+}
+
+int MvCalendariumAppearance::cellBorderWidth(const MvCalendarCellType &cellType) const
+{
+    return d->layoutSchema.cellBorderWidth(cellType);
+}
+
+QMarginsF MvCalendariumAppearance::padding(const MvCalendarCellType &cellType) const
+{
+    return d->layoutSchema.padding(cellType);
+}
+
+MvCalendarBorderType MvCalendariumAppearance::borderType(const MvCalendarCellType &cellType) const
+{
+    if (!gridConfig().isEnabled())
+        return {};
+    return d->layoutSchema.allCellsHaveNoBorder() ? MvCalendarBorderType(CALENDAR_BORDER_ALL)
+                                                  : d->layoutSchema.borderType(cellType);
+}
+
+int MvCalendariumAppearance::calendariumOptions() const
+{
+    if (!showHolidays())
+        return 0;
+    switch (type().value()) {
+    case CALENDAR_ONE_DAY_PER_ROW:
+    case CALENDAR_ONE_WEEK_PER_ROW:
+        return holidaysOption | holidayColorsOption;
+    case CALENDAR_HOLIDAYS:
+        return holidaysOption;
+    default:
+        return 0;
+    }
+}
+
+bool MvCalendariumAppearance::rendererShowsDays() const
+{
+    return usedCellTypes() && usedCellTypes()(*this).contains(CALENDAR_CELL_TYPE_WEEKDAY);
+}
+
+const MvCalendariumColorSchema &MvCalendariumAppearance::colorSchema() const
+{
+    return d->colorSchema;
+}
+
+void MvCalendariumAppearance::setColorSchema(const MvCalendariumColorSchema &schema)
+{
+    d->colorSchema = schema;
+}
+
+void MvCalendariumAppearance::setColorSchemaById(const MvCalendariumColorSchemaID &id,
+                                                 MvCalendariumColorSchemaRegistry *registry)
+{
+    d->setColorSchemaById(id, registry);
+}
+
+MvCalendariumAppearance MvCalendariumAppearance::createVariant(const MvCalendariumColorSchema &schema) const
+{
+    MvCalendariumAppearance variant = *this;
+    variant.setColorSchema(schema);
+    return variant;
+}
+
+MvBorderConfig MvCalendariumAppearance::gridConfig() const
+{
+    return d->colorSchema.gridConfig();
+}
+
+void MvCalendariumAppearance::setGridConfig(const MvBorderConfig &grid)
+{
+    if (!(gridConfig() == grid))
+        d->colorSchema.setGridConfig(grid);
+}
+
+QColor MvCalendariumAppearance::cellColor(const MvCalendarCellColorKey &key) const
+{
+    return d->colorSchema.cellColor(key);
+}
+
+void MvCalendariumAppearance::setCellColor(const QColor &color, const MvCalendarCellColorKey &key)
+{
+    d->colorSchema.setCellColor(color, key);
+}
+
+bool MvCalendariumAppearance::haveSameColors(const MvCalendarCellType &typeA, const MvCalendarCellType &typeB) const
+{
+    return d->colorSchema.haveSameColors(typeA, typeB);
+}
+
+bool MvCalendariumAppearance::distinguishesParities() const
+{
+    return d->colorSchema.distinguishesParities();
+}
+
+void MvCalendariumAppearance::copyColors(const MvCalendarCellType &fromType, const MvCalendarCellType &toType)
+{
+    d->colorSchema.copyColors(fromType, toType);
+}
+
+void MvCalendariumAppearance::copyParities(bool from, bool to)
+{
+    d->colorSchema.copyParities(from, to);
+}
+
+bool MvCalendariumAppearance::isOpaqueColor(const QColor &color) const
+{
+    return MvCalendariumColorSchema::isOpaqueColor(color);
+}
+
+bool MvCalendariumAppearance::shouldIPaintTheBackground(const MvCalendarCellType &cellType, bool even) const
+{
+    return isOpaqueColor(cellColor({MvCalendarCellColorRoleEnum::bgcolor, cellType, MvParityLogic(even)}));
+}
+
+bool MvCalendariumAppearance::shouldIPaintTheBorder(const MvCalendarCellType &cellType) const
+{
+    return gridConfig().isEnabled() && d->layoutSchema.calendarCanPaintBorders() && borderType(cellType).isValid();
+}
+
+const MvCalendariumFontSettings &MvCalendariumAppearance::fontSettings() const
+{
+    return d->fontSettings;
+}
+
+void MvCalendariumAppearance::setFontSettings(const MvCalendariumFontSettings &settings)
+{
+    d->fontSettings = settings;
+}
+
+QFont MvCalendariumAppearance::font(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude,
+                                    int minimum) const
+{
+    return d->fontSettings.font(d->layoutSchema.font(cellType), d->optimizedSize, magnitude, minimum);
+}
+
+QFont MvCalendariumAppearance::fontHolidays(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude,
+                                            int minimum) const
+{
+    return d->fontSettings.fontHolidays(d->layoutSchema.font(cellType), d->optimizedSize, magnitude, minimum);
+}
+
+QFontMetrics MvCalendariumAppearance::fontMetrics(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude,
+                                                  int minimum) const
+{
+    static QImage printer = [] {
+        QImage image(1, 1, QImage::Format_Mono);
+        image.setDotsPerMeterX(MvMath::printerResolution2dpm());
+        image.setDotsPerMeterY(MvMath::printerResolution2dpm());
+        return image;
+    }();
+    return QFontMetrics(font(cellType, magnitude, minimum), &printer);
+}
+
+MvSpaceMagnitude MvCalendariumAppearance::optimizedSize() const
+{
+    return d->optimizedSize;
+}
+
+QString MvCalendariumAppearance::columnHeaders() const
+{
+    return d->columnHeaders;
+}
+
+void MvCalendariumAppearance::setColumnHeaders(const QString &headers)
+{
+    if (d.constData()->columnHeaders != headers)
+        d->columnHeaders = headers;
+}
+
+void MvCalendariumAppearance::setColumnHeaders(const QList<QString> &headers)
+{
+    setColumnHeaders(headers.join(headerSeparator));
+}
+
+QStringList MvCalendariumAppearance::columnHeadersList() const
+{
+    return d->columnHeaders.split(headerSeparator, Qt::SkipEmptyParts);
+}
+
+int MvCalendariumAppearance::countColumns() const
+{
+    return int(columnHeadersList().size());
+}
+
+int MvCalendariumAppearance::offsetMonth() const
+{
+    return d->offsetMonth;
+}
+
+void MvCalendariumAppearance::setOffsetMonth(int months)
+{
+    if (d.constData()->offsetMonth != months)
+        d->offsetMonth = months;
+}
+
+bool MvCalendariumAppearance::overriddenShowCalendarWeek() const
+{
+    return d->overrideShowCalendarWeek;
+}
+
+void MvCalendariumAppearance::setOverrideShowCalendarWeek(bool show)
+{
+    if (d.constData()->overrideShowCalendarWeek != show)
+        d->overrideShowCalendarWeek = show;
+}
+
+void MvCalendariumAppearance::setUsedCellTypes(
+    std::function<QList<MvCalendarCellType>(const MvCalendariumAppearance &)> usedTypes)
+{
+    usedCellTypes() = std::move(usedTypes);
+}
+
+bool operator==(const MvCalendariumAppearance &a, const MvCalendariumAppearance &b)
+{
+    return a.d == b.d || *a.d == *b.d;
+}

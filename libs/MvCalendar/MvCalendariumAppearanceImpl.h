@@ -1,0 +1,32 @@
+#pragma once
+
+#include "MvCalendar/MvCalendariumColorSchema.h"
+#include "MvCalendar/MvCalendariumFontSettings.h"
+#include "MvCalendar/MvCalendariumLayoutSchema.h"
+#include "MvCore/MvSharedData.h"
+#include "MvCore/MvSpaceMagnitude.h"
+
+class MvCalendariumColorSchemaRegistry;
+
+/// The record behind MvCalendariumAppearance.
+struct MvCalendariumAppearanceImpl : MvSharedData {
+    MvCalendariumLayoutSchema layoutSchema;
+    MvCalendariumColorSchema colorSchema;
+    MvCalendariumFontSettings fontSettings;
+    QString columnHeaders; // joined by "$$"
+    int offsetMonth = 0;
+    MvSpaceMagnitude optimizedSize = MAGNITUDE_A4;
+    bool overrideShowCalendarWeek = false;
+
+    void read(const QDomElement &element, bool adaptGrid, MvCalendariumColorSchemaRegistry *registry);
+    void write(QDomElement &element, bool embedUserSchema) const;
+
+    void setColorSchemaById(const MvCalendariumColorSchemaID &id, MvCalendariumColorSchemaRegistry *registry);
+    void setLayoutSchemaById(const MvCalendariumLayoutSchemaID &id);
+
+    bool operator==(const MvCalendariumAppearanceImpl &) const = default;
+
+private:
+    void readColorSchema(const QDomElement &element, MvCalendariumColorSchemaRegistry *registry);
+    void encodeColorSchema(QDomElement &element, bool embedUserSchema) const;
+};

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "MvCalendar/MvCalendariumColorSchemaList.h"
+#include "MvCalendar/MvCalendariumColorSchemaVisibility.h"
+#include "MvCore/MvSingleton.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <QMultiHash>
+#include <QRecursiveMutex>
+
+#include <memory>
+
+class MvCalendariumColorSchemaRegistry;
+extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendariumColorSchemaRegistry>;
+
+/// All colour schemas of the process: those of the user's file first, then the shipped ones. A schema may be known
+/// under several ids. Reading is serialised; everything else belongs to the GUI thread.
+class MVCALENDAR_EXPORT MvCalendariumColorSchemaRegistry : public MvSingleton<MvCalendariumColorSchemaRegistry>
+{
+public:
+    /// An empty registry; only the process-wide one reads files by itself.
+    MvCalendariumColorSchemaRegistry() = default;
+    ~MvCalendariumColorSchemaRegistry() override = default;
+
+    /// An empty registry of its own, for temporary use.
+    static std::unique_ptr<MvCalendariumColorSchemaRegistry> createTemporaryRegistry();
+
+    void setupInstance() override;
+
+    /// Adds the schemas of a file, or of the children "calendararea" of an element. An element without id is skipped; a
+    /// schema equal to a known one only adds its id, with a warning. A file that cannot be loaded adds nothing.
+    void read(const QFileInfo &file, const MvCalendariumColorSchemaVisibility &visibility);
+    void read(const QDomElement &element, const MvCalendariumColorSchemaVisibility &visibility);
+
+    /// The schema of an id; an invalid one when there is none.
+    MvCalendariumColorSchema findSchema(const MvCalendariumColorSchemaID &id) const;
+    bool contains(const MvCalendariumColorSchemaID &id) const;
+    /// The id under which the schema was first registered; an invalid one when it is not registered.
+    MvCalendariumColorSchemaID id(const MvCalendariumColorSchema &schema) const;
+    /// The first id of each schema, in the order of the list.
+    QList<MvCalendariumColorSchemaID> schemaIds() const;
+    /// The name shown to users; the id where a file gives none.
+    QString name(const MvCalendariumColorSchemaID &id) const;
+    MvCalendariumColorSchemaList allSchemata() const { return m_schemata; }
+    /// What choosers offer: neither deprecated nor hidden by the user.
+    MvCalendariumColorSchemaList visibleSchemata() const;
+    /// The schemas of the list whose visibility shares a bit with the given one.
+    MvCalendariumColorSchemaList filter(const MvCalendariumColorSchemaList &list,
+                                        const MvCalendariumColorSchemaVisibility &visibility) const;
+
+    /// SCHEMA_VISIBILITY_UNKNOWN for a schema that is not registered.
+    MvCalendariumColorSchemaVisibility visibility(const MvCalendariumColorSchema &schema) const;
+    void setVisibility(const MvCalendariumColorSchema &schema, const MvCalendariumColorSchemaVisibility &visibility);
+    bool isRegistered(const MvCalendariumColorSchema &schema) const;
+    bool isUserSchema(const MvCalendariumColorSchema &schema) const;
+
+    /// Enters a schema as a user's, under a fresh id, unless an equal one is registered; gives its id.
+    MvCalendariumColorSchemaID record(const MvCalendariumColorSchema &schema);
+    /// Adds an id for a schema. The first id of a schema stays its main one; an id moves to the schema that got it
+    /// last.
+    void recordSchemaId(const MvCalendariumColorSchema &schema, const MvCalendariumColorSchemaID &id);
+    /// Enters the schema under a fresh user id even if it is known under others; gives the new id.
+    MvCalendariumColorSchemaID recordSchemaUniquely(const MvCalendariumColorSchema &schema);
+    /// A user id that no schema has.
+    MvCalendariumColorSchemaID generateUniqueId() const;
+    /// Registers a valid schema that is not known yet; says whether it is registered now.
+    bool checkUserSchemaAndRegister(const MvCalendariumColorSchema &schema);
+    /// Forgets the schema and its ids.
+    void remove(const MvCalendariumColorSchema &schema);
+
+    /// Schemas that the user has hidden; kept in the general settings.
+    bool isIgnoredSchema(const MvCalendariumColorSchemaID &id) const;
+    void setIgnoreSchema(const MvCalendariumColorSchemaID &id);
+    void setIgnoreSchema(const MvCalendariumColorSchema &schema);
+
+    /// Appends one "calendararea" per schema.
+    void write(QDomElement &element, const MvCalendariumColorSchemaList &list) const;
+    /// Saves the user schemas to the user's file; says whether it is in place.
+    bool saveSystemUserSchemata() const;
+    static QString userSchemaFileName();
+    static QFileInfo systemUserSchemaFile();
+
+    /// Forgets everything, shows hidden schemas again and reads the shipped schemas alone.
+    void resetToFactoryDefaults();
+
+private:
+    void clear();
+    void readShippedSchemata();
+    void recordRead(const QDomElement &area, const MvCalendariumColorSchemaVisibility &visibility);
+
+    MvCalendariumColorSchemaList m_schemata;
+    QMultiHash<MvCalendariumColorSchema, MvCalendariumColorSchemaID> m_ids; // values(): latest first
+    QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> m_byId;
+    QHash<MvCalendariumColorSchemaID, QString> m_names;
+    QHash<MvCalendariumColorSchema, MvCalendariumColorSchemaVisibility> m_visibilities;
+    mutable QRecursiveMutex m_mutex; // guards reading
+};

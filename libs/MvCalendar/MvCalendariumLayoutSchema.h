@@ -1,0 +1,61 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarCellType.h"
+#include "MvCalendar/MvCalendarRenderingInformation.h"
+#include "MvCalendar/MvCalendariumLayoutCellInfo.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaID.h"
+#include "MvCalendar/MvCalendariumType.h"
+
+#include <QSharedDataPointer>
+
+struct MvCalendariumLayoutSchemaImpl;
+
+/// The geometry of a calendarium, independent of its colours: which kind it is, what it shows and how the cells of
+/// each type are laid out. A value; copies share their record until one is changed.
+///
+/// A default-constructed schema has no id and is invalid.
+class MVCALENDAR_EXPORT MvCalendariumLayoutSchema
+{
+public:
+    MvCalendariumLayoutSchema();
+    explicit MvCalendariumLayoutSchema(const QDomElement &element);
+    ~MvCalendariumLayoutSchema();
+    MvCalendariumLayoutSchema(const MvCalendariumLayoutSchema &);
+    MvCalendariumLayoutSchema(MvCalendariumLayoutSchema &&) noexcept;
+    MvCalendariumLayoutSchema &operator=(const MvCalendariumLayoutSchema &);
+    MvCalendariumLayoutSchema &operator=(MvCalendariumLayoutSchema &&) noexcept;
+
+    void read(const QDomElement &element);
+    void write(QDomElement &element) const;
+
+    bool isValid() const;
+    bool isUserSchema() const;
+    const MvCalendariumLayoutSchemaID &ID() const;
+    /// The name shown to users; the id where the file gives none.
+    QString name() const;
+    size_t hashValue() const;
+
+    // per cell type; a type that the schema does not have is laid out by default
+    const MvCalendariumLayoutCellInfo &cellInfo(const MvCalendarCellType &type) const;
+    QFont font(const MvCalendarCellType &type) const;
+    Qt::Alignment textAlignment(const MvCalendarCellType &type) const;
+    int cellBorderWidth(const MvCalendarCellType &type) const;
+    MvCalendarBorderType borderType(const MvCalendarCellType &type) const;
+    QMarginsF padding(const MvCalendarCellType &type) const;
+
+    const MvCalendariumType &calendariumType() const;
+    const MvCalendarRenderingInformation &renderingInformation() const;
+    void setRenderingInformation(const MvCalendarRenderingInformation &information);
+    /// Whether the names of holidays are shown; true unless a page switches it off. Not part of the schema's file.
+    bool showHolidays() const;
+    void setShowHolidays(bool show);
+
+    /// True when no cell of the schema has a border.
+    bool allCellsHaveNoBorder() const;
+    bool calendarCanPaintBorders() const;
+
+    MVCALENDAR_EXPORT friend bool operator==(const MvCalendariumLayoutSchema &a, const MvCalendariumLayoutSchema &b);
+
+private:
+    QSharedDataPointer<MvCalendariumLayoutSchemaImpl> d;
+};

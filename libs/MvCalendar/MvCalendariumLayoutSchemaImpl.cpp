@@ -1,0 +1,67 @@
+#include "MvCalendar/MvCalendariumLayoutSchemaImpl.h"
+
+#include "MvXML/MvXMLBuilder.h"
+#include "MvXML/MvXMLParser.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+const QString cellTag = u"cell"_s;
+}
+
+void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
+{
+    type.fromXML(element);
+    renderingInformation.fromXML(element);
+    id.read(element);
+    name = MvXMLParser::textAttribute(element, u"name"_s);
+    readCells(element);
+    copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION);
+    copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY);
+    copyCellInfoIfMissing(CALENDAR_CELL_TYPE_HEAD_SATURDAY, CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION);
+    copyCellInfoIfMissing(CALENDAR_CELL_TYPE_HEAD_SUNDAY, CALENDAR_CELL_TYPE_HEAD_HOLIDAY);
+    noCellHasABorder =
+        std::none_of(cells.cbegin(), cells.cend(), [](const auto &cell) { return cell.borderType().isValid(); });
+}
+
+void MvCalendariumLayoutSchemaImpl::write(QDomElement &element) const
+{
+    type.toXML(element);
+    renderingInformation.toXML(element);
+    id.write(element);
+    if (!name.isEmpty())
+        MvXMLBuilder::addAttribute(element, u"name"_s, name);
+    QList<MvCalendarCellType> types = cells.keys();
+    std::sort(types.begin(), types.end());
+    for (const MvCalendarCellType &cellType : std::as_const(types)) {
+        QDomElement cell = MvXMLBuilder::buildDomElement(element, cellTag);
+        cellType.toXML(cell);
+        cells.value(cellType).toXML(cell);
+    }
+}
+
+void MvCalendariumLayoutSchemaImpl::readCells(const QDomElement &element)
+{
+    cells.clear();
+    for (QDomElement cell = element.firstChildElement(cellTag); !cell.isNull();
+         cell = cell.nextSiblingElement(cellTag)) {
+        MvCalendarCellType types;
+        types.fromXML(cell);
+        const MvCalendariumLayoutCellInfo info(cell);
+        const QList<MvCalendarCellType> singles = types.singleTypes();
+        for (const MvCalendarCellType &single : singles)
+            cells.insert(single, info);
+    }
+}
+
+void MvCalendariumLayoutSchemaImpl::copyCellInfoIfMissing(const MvCalendarCellType &from, const MvCalendarCellType &to)
+{
+    const auto source = cells.constFind(from);
+    if (source == cells.cend() || cells.contains(to))
+        return;
+    const MvCalendariumLayoutCellInfo info = *source; // insert() may move the hash
+    cells.insert(to, info);
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarCellType.h"
+#include "MvCalendar/MvCalendarRenderingInformation.h"
+#include "MvCalendar/MvCalendariumLayoutCellInfo.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaID.h"
+#include "MvCalendar/MvCalendariumType.h"
+#include "MvCore/MvSharedData.h"
+
+#include <QHash>
+
+/// The record behind MvCalendariumLayoutSchema.
+struct MvCalendariumLayoutSchemaImpl : MvSharedData {
+    MvCalendariumLayoutSchemaID id;
+    QString name;
+    MvCalendariumType type;
+    MvCalendarRenderingInformation renderingInformation;
+    bool showHolidays = true;
+    QHash<MvCalendarCellType, MvCalendariumLayoutCellInfo> cells; // by single type
+    bool noCellHasABorder = true;
+
+    void read(const QDomElement &element);
+    void write(QDomElement &element) const;
+
+    bool operator==(const MvCalendariumLayoutSchemaImpl &) const = default;
+
+private:
+    void readCells(const QDomElement &element);
+    void copyCellInfoIfMissing(const MvCalendarCellType &from, const MvCalendarCellType &to);
+};

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "MvCalendar/MvCalendariumLayoutSchemaList.h"
+#include "MvCore/MvSingleton.h"
+
+#include <QHash>
+#include <QStringList>
+
+class MvCalendariumLayoutSchemaRegistry;
+extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendariumLayoutSchemaRegistry>;
+
+/// All layout schemas of the process: those of the user's file, then the shipped ones, which win where ids are equal.
+class MVCALENDAR_EXPORT MvCalendariumLayoutSchemaRegistry : public MvSingleton<MvCalendariumLayoutSchemaRegistry>
+{
+public:
+    /// Reads "000-user-calendar-layout.xml" of the user's data folder and the shipped "calendar_layout.xml".
+    MvCalendariumLayoutSchemaRegistry();
+
+    /// The schema of an id; an invalid one when there is none.
+    MvCalendariumLayoutSchema findSchema(const MvCalendariumLayoutSchemaID &id) const;
+    /// The schema at a position of the list; an invalid one out of range.
+    MvCalendariumLayoutSchema schema(int index) const;
+    const MvCalendariumLayoutSchemaList &schemata() const { return m_schemata; }
+    /// The names of all schemas in the order of the list, for choosers.
+    QStringList schemaNames() const;
+
+    /// Enters a user's schema, in place of one with the same id; one without a user id is not taken.
+    bool recordUserSchema(const MvCalendariumLayoutSchema &schema);
+
+    static QString userSchemaFile();
+    /// Saves the user schemas of the list; says whether the file is in place.
+    bool saveUserSchemaFile() const;
+
+private:
+    MvCalendariumLayoutSchemaList m_schemata;
+    QHash<QString, MvCalendariumLayoutSchema> m_byId;
+};
