@@ -1,0 +1,20 @@
+#pragma once
+
+#include "MvCalendar/mvcalendar_export.h"
+#include "MvCore/MvInitializerAbstract.h"
+
+/// The module's start-up hook: makes personal entries and holidays known to the text compiler, and the cell types of
+/// the renderers to the appearance. Registers itself when the library is loaded.
+class MVCALENDAR_EXPORT MvCalendarInitializer : public MvInitializerAbstract
+{
+public:
+    MvCalendarInitializer();
+
+    void setup(MvInitializerOption option) override;
+    void teardown() override;
+
+    void initCalendarHolidays();
+
+private:
+    static MvCalendarInitializer me;
+};

@@ -1,0 +1,763 @@
+#include "MvCalendar/MvCalendariumRenderer.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCore/MvMath.h"
+#include "MvModelBase/MvPaintRecorder.h"
+#include "MvModelBase/MvQualityTypeManager.h"
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvProductBase/MvCalendarWeekHeadlineOption.h"
+#include "MvProductBase/MvCalendarWeekTextOption.h"
+#include "MvProductBase/MvCalendariumContentKey.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+// features of the content
+const MvCalendariumFeatures holidaysAreWritten(1);
+const MvCalendariumFeatures holidaysChangeColors(2);
+const MvCalendariumFeatures entriesAreWritten(4);
+const MvCalendariumFeatures vacationsAreShown(8);
+
+const MvCalendariumHolidayType vacation(16);
+const MvCalendariumHolidayType publicHoliday(32);
+
+const QString sampleDayNumber = u"22"_s; // the widest one
+
+constexpr double topLineWidth = 20.0;
+constexpr double borderAllowance = 1.0;
+
+// cells larger than this show holiday texts beside the day number
+constexpr double holidayTextsFromWidth = 155.0;
+constexpr double holidayTextsFromHeight = 60.0;
+
+constexpr double textGap = 5.0; // between texts and what else is in the cell
+constexpr double largeCell = 300.0;
+constexpr double largeCellMargin = 10.0;
+constexpr double smallCellMargin = 2.0;
+
+constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
+constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
+constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
+constexpr int wideCellTexts = wrappingText | Qt::AlignBottom | Qt::AlignLeft;
+
+QString dayNumber(const QDate &date)
+{
+    return QString::number(date.day());
+}
+
+} // namespace
+
+MvCalendariumRenderer::MvCalendariumRenderer(const MvCalendariumAppearance &appearance)
+    : m_content(MvDateRange::createDefaultCalendarStart(), MvCalendariumHolidayConfig())
+    , m_appearance(appearance)
+    , m_dateRange(MvDateRange::createDefaultCalendarDateRange())
+{
+}
+
+MvCalendariumRenderer::~MvCalendariumRenderer() = default;
+
+// ---- what a layout is, by default
+
+QSize MvCalendariumRenderer::minimumSizeHint() const
+{
+    return {400, 300};
+}
+
+bool MvCalendariumRenderer::thereIsToMuchText(const QRectF &) const
+{
+    return false;
+}
+
+bool MvCalendariumRenderer::hasOneHeaderPerDay() const
+{
+    return false;
+}
+
+QStringList MvCalendariumRenderer::maxmimumWidthCalendarWeekText() const
+{
+    return {calendarWeekText(QDate(2222, 12, 24))}; // week 52, the widest number
+}
+
+bool MvCalendariumRenderer::shouldIPaintTheBorder(const MvCalendarCellTypeConfig &config) const
+{
+    return m_appearance.shouldIPaintTheBorder(config.colorConfig());
+}
+
+bool MvCalendariumRenderer::isConfigured(const MvCalendarRenderingInformation &info) const
+{
+    return renderingInformation().hasAnyOf(info);
+}
+
+QList<MvCalendarCellType> MvCalendariumRenderer::dayCellTypes() const
+{
+    return {CALENDAR_CELL_TYPE_WEEKDAY, CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SUNDAY,
+            CALENDAR_CELL_TYPE_HOLIDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION};
+}
+
+QList<MvCalendarCellType> MvCalendariumRenderer::dayHeadCellTypes(bool withSpecialDays) const
+{
+    QList<MvCalendarCellType> types = {CALENDAR_CELL_TYPE_HEAD_WEEKDAY, CALENDAR_CELL_TYPE_HEAD_SATURDAY,
+                                       CALENDAR_CELL_TYPE_HEAD_SUNDAY};
+    if (withSpecialDays)
+        types << CALENDAR_CELL_TYPE_HEAD_HOLIDAY << CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION;
+    return types;
+}
+
+// ---- configuration and pass
+
+void MvCalendariumRenderer::setCalendarInformation(const MvCalendariumContentConfig &content, const MvDateRange &range)
+{
+    m_dateRange = MvDateRange(range.startDate(), range.endDate());
+    m_content = content.moveToDayInMonth(1);
+}
+
+void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
+{
+    Q_EMIT rectForDatesRestart(startDate(), rect);
+    m_devicePixelsPerUnit = std::sqrt(std::abs(painter.deviceTransform().determinant()));
+
+    MvPaintRecorder recorder(painter); // has the resolution of the target, so that nothing needs to be scaled
+    QPainter recordingPainter(&recorder);
+    recordingPainter.setRenderHints(painter.renderHints());
+    const QRectF clip = painter.clipBoundingRect();
+    if (clip.width() > 0.0 && clip.height() > 0.0)
+        recordingPainter.setClipRect(clip, Qt::ReplaceClip);
+    renderBase(recordingPainter, rect);
+    recordingPainter.end();
+
+    paintFills(painter);
+    m_fills.clear();
+    recorder.recording().replay(painter);
+}
+
+void MvCalendariumRenderer::paintFills(QPainter &painter)
+{
+    QList<unsigned int> colors = m_fills.keys();
+    std::sort(colors.begin(), colors.end()); // the same page always gives the same file
+    for (const unsigned int color : std::as_const(colors))
+        painter.fillPath(m_fills.value(color), QColor::fromRgba(color));
+}
+
+void MvCalendariumRenderer::addFill(const QRectF &rect, const QColor &color)
+{
+    m_fills[color.rgba()].addRect(rect);
+}
+
+// ---- dates
+
+QDate MvCalendariumRenderer::startDate() const
+{
+    return m_content.date();
+}
+
+QDate MvCalendariumRenderer::startDateOfCalendar() const
+{
+    const QDate moved = m_dateRange.startDate().addMonths(m_appearance.offsetMonth());
+    return QDate(moved.year(), moved.month(), 1);
+}
+
+QDate MvCalendariumRenderer::endDateOfCalendar() const
+{
+    return m_dateRange.endDate().addMonths(m_appearance.offsetMonth());
+}
+
+int MvCalendariumRenderer::numberOfWeeks(const QDate &month) const
+{
+    constexpr int most = 6;
+    if (!month.isValid() || !isConfigured(calendar_render_no_empty_weeks))
+        return most;
+    const int daysBefore = QDate(month.year(), month.month(), 1).dayOfWeek() - 1; // in the first row
+    return (daysBefore + month.daysInMonth() + 6) / 7;
+}
+
+QDate MvCalendariumRenderer::mondayOfWeekWithDay(const QDate &day)
+{
+    return day.addDays(1 - day.dayOfWeek());
+}
+
+bool MvCalendariumRenderer::isEvenCalendarWeek(const QDate &date)
+{
+    return date.weekNumber() % 2 == 0;
+}
+
+bool MvCalendariumRenderer::isEvenWeek(const QDate &date) const
+{
+    const QDate start = startDate();
+    switch (start.month() - date.month()) {
+    case 1: // the month before the page
+    case -11:
+        return isEvenWeek(start);
+    case 11: // the month after it
+    case -1:
+        return isEvenWeek(start.addMonths(1).addDays(-1));
+    default:
+        return isEvenCalendarWeek(date) != isEvenCalendarWeek(start);
+    }
+}
+
+// ---- cell types of a date
+
+MvCalendariumContentKey MvCalendariumRenderer::contentFor(const QDate &date) const
+{
+    return MvCalendariumContentKey(m_content.moveToDay(date), m_modelInfo);
+}
+
+QSet<MvCalendariumHolidayType> MvCalendariumRenderer::tags(const QDate &date) const
+{
+    return MvCalendariumHolidayCache::instance().tags(contentFor(date));
+}
+
+bool MvCalendariumRenderer::hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const
+{
+    return m_content.hasFeatures(features) && tags(date).contains(publicHoliday);
+}
+
+// a vacation never recolours a weekend
+bool MvCalendariumRenderer::hasVacationColors(const QDate &date) const
+{
+    return date.dayOfWeek() <= 5 && m_content.hasFeatures(vacationsAreShown) && tags(date).contains(vacation);
+}
+
+MvCalendarCellType MvCalendariumRenderer::headCellType(const QDate &date, const MvCalendariumFeatures &features) const
+{
+    if (hasHoliday(date, features))
+        return CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
+    return hasVacationColors(date) ? MvCalendarCellType(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION)
+                                   : headCellTypeWeekDay(date.dayOfWeek());
+}
+
+MvCalendarCellType MvCalendariumRenderer::contentCellType(const QDate &date,
+                                                          const MvCalendariumFeatures &features) const
+{
+    if (hasHoliday(date, features))
+        return CALENDAR_CELL_TYPE_HOLIDAY;
+    return hasVacationColors(date) ? MvCalendarCellType(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
+                                   : contentCellTypeWeekDay(date.dayOfWeek());
+}
+
+MvCalendarCellType MvCalendariumRenderer::headCellTypeWeekDay(int dayOfWeek)
+{
+    while (dayOfWeek > 7)
+        dayOfWeek -= 7;
+    if (dayOfWeek == 6)
+        return CALENDAR_CELL_TYPE_HEAD_SATURDAY;
+    return dayOfWeek == 7 ? CALENDAR_CELL_TYPE_HEAD_SUNDAY : CALENDAR_CELL_TYPE_HEAD_WEEKDAY;
+}
+
+MvCalendarCellType MvCalendariumRenderer::contentCellTypeWeekDay(int dayOfWeek)
+{
+    while (dayOfWeek > 7)
+        dayOfWeek -= 7;
+    if (dayOfWeek == 6)
+        return CALENDAR_CELL_TYPE_SATURDAY;
+    return dayOfWeek == 7 ? CALENDAR_CELL_TYPE_SUNDAY : CALENDAR_CELL_TYPE_WEEKDAY;
+}
+
+MvCalendarCellTypeConfig MvCalendariumRenderer::headCellTypeConfig(const QDate &date) const
+{
+    return {headCellType(date, holidaysAreWritten), headCellType(date, holidaysChangeColors)};
+}
+
+MvCalendarCellTypeConfig MvCalendariumRenderer::contentCellTypeConfig(const QDate &date) const
+{
+    return {contentCellType(date, holidaysAreWritten), contentCellType(date, holidaysChangeColors)};
+}
+
+double MvCalendariumRenderer::max3(double a, double b, double c)
+{
+    return std::max({a, b, c});
+}
+
+// ---- fonts and measuring
+
+QFont MvCalendariumRenderer::font(const MvCalendarCellType &type) const
+{
+    return m_appearance.font(type, m_productSize, m_minimumFontSize);
+}
+
+QFont MvCalendariumRenderer::fontHolidays(const MvCalendarCellType &type) const
+{
+    return m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize);
+}
+
+QFontMetrics MvCalendariumRenderer::fontMetrics(const MvCalendarCellType &type) const
+{
+    return m_appearance.fontMetrics(type, m_productSize, m_minimumFontSize);
+}
+
+QFontMetricsF MvCalendariumRenderer::calculateFontMetrics(const QFont &font, QPaintDevice *device)
+{
+    if (device)
+        return QFontMetricsF(font, device);
+    QImage printer(1, 1, QImage::Format_Mono);
+    printer.setDotsPerMeterX(MvMath::printerResolution2dpm());
+    printer.setDotsPerMeterY(MvMath::printerResolution2dpm());
+    return QFontMetricsF(font, &printer);
+}
+
+QSizeF MvCalendariumRenderer::paddingDifference(const MvCalendarCellType &type) const
+{
+    const QMarginsF margins = padding(type);
+    return {margins.left() + margins.right(), margins.top() + margins.bottom()};
+}
+
+QSizeF MvCalendariumRenderer::minimumSizeFont(const MvCalendarCellType &type, QPaintDevice *device,
+                                              const QString &text) const
+{
+    if (text.isEmpty())
+        return {0.0, 0.0};
+    const QFontMetricsF metrics = calculateFontMetrics(font(type), device);
+    return {metrics.horizontalAdvance(text), metrics.height()};
+}
+
+QSizeF MvCalendariumRenderer::maximumSizeOfStrings(const MvCalendarCellType &type, const QStringList &texts) const
+{
+    const QFont cellFont = font(type);
+    int width = 0;
+    for (const QString &text : texts)
+        width = std::max(width, MvCalendariumTextPainter::advance(cellFont, text));
+    return {MvMath::referencePixel2tenthMillimetre(width),
+            MvMath::referencePixel2tenthMillimetre(fontMetrics(type).height())};
+}
+
+bool MvCalendariumRenderer::isTextToWide(int maxWidth, const QFont &font, const QString &text)
+{
+    return MvCalendariumTextPainter::isTextToWide(maxWidth, font, text);
+}
+
+bool MvCalendariumRenderer::isAnyTextToWide(int maxWidth, const QFont &font, const QStringList &texts)
+{
+    return MvCalendariumTextPainter::isAnyTextToWide(maxWidth, font, texts);
+}
+
+double MvCalendariumRenderer::minimumHeightOfCellType(const MvCalendarCellType &type, bool rotated) const
+{
+    double height = 0.0;
+    if (type == CALENDAR_CELL_TYPE_WEEK_OF_YEAR) {
+        const QSizeF size = maximumSizeOfStrings(type, maxmimumWidthCalendarWeekText());
+        height = rotated ? size.width() : size.height();
+    } else {
+        height = MvMath::referencePixel2tenthMillimetre(fontMetrics(type).height());
+    }
+    return height + paddingDifference(type).height() + borderAllowance;
+}
+
+double MvCalendariumRenderer::contentWidthOfCellType(const MvCalendarCellType &type, bool shortNames) const
+{
+    const auto widthOf = [this, &type](const QStringList &texts) { return maximumSizeOfStrings(type, texts).width(); };
+    switch (type.value()) {
+    case CALENDAR_CELL_TYPE_HEAD_WEEKDAY:
+        return widthOf(weekdayNames(shortNames));
+    case CALENDAR_CELL_TYPE_HEAD_SATURDAY:
+        return widthOf({saturdayName(shortNames)});
+    case CALENDAR_CELL_TYPE_HEAD_SUNDAY:
+        return widthOf({sundayName(shortNames)});
+    case CALENDAR_CELL_TYPE_WEEK_OF_YEAR:
+        return widthOf(maxmimumWidthCalendarWeekText());
+    case CALENDAR_CELL_TYPE_WEEKDAY:
+    case CALENDAR_CELL_TYPE_SATURDAY:
+    case CALENDAR_CELL_TYPE_SUNDAY:
+    case CALENDAR_CELL_TYPE_HOLIDAY:
+    case CALENDAR_CELL_TYPE_HEAD_HOLIDAY: // the special heads are measured like day numbers, not like day names
+    case CALENDAR_CELL_TYPE_SCHOOL_VACATION:
+    case CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION:
+        return widthOf({sampleDayNumber});
+    case CALENDAR_CELL_TYPE_TOPLINE:
+        return topLineWidth;
+    default:
+        return 0.0;
+    }
+}
+
+double MvCalendariumRenderer::widthOfCellType(const MvCalendarCellType &type, bool shortNames) const
+{
+    return contentWidthOfCellType(type, shortNames) + paddingDifference(type).width() + borderAllowance;
+}
+
+MvRealRange MvCalendariumRenderer::widthRangeOfCellTypes(const MvCalendarCellType &types, bool shortNames) const
+{
+    MvRealRange range;
+    const QList<MvCalendarCellType> singles = types.singleTypes();
+    for (const MvCalendarCellType &single : singles) {
+        const double width = widthOfCellType(single, shortNames);
+        if (range == MvRealRange())
+            range = {width, width};
+        range.minimum = std::min(range.minimum, width);
+        range.maximum = std::max(range.maximum, width);
+    }
+    return range;
+}
+
+double MvCalendariumRenderer::maxHeadWidth() const
+{
+    return max3(widthOfCellType(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, false),
+                widthOfCellType(CALENDAR_CELL_TYPE_HEAD_SATURDAY, false),
+                widthOfCellType(CALENDAR_CELL_TYPE_HEAD_SUNDAY, false));
+}
+
+double MvCalendariumRenderer::maxContentWidth() const
+{
+    return max3(widthOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false), widthOfCellType(CALENDAR_CELL_TYPE_SATURDAY, false),
+                widthOfCellType(CALENDAR_CELL_TYPE_SUNDAY, false));
+}
+
+QSizeF MvCalendariumRenderer::minimumSizeWeekdays(bool shortNames, QPaintDevice *device) const
+{
+    QSizeF size(0.0, 0.0);
+    for (int day = 1; day <= 7; ++day) {
+        const QSizeF daySize = minimumSizeFont(contentCellTypeWeekDay(day), device, dayName(day, shortNames));
+        size = size.expandedTo(daySize);
+    }
+    return size;
+}
+
+// ---- breaking and drawing texts
+
+QStringList MvCalendariumRenderer::manuallyBreakLines(int maxWidth, const QFont &font, const QStringList &texts)
+{
+    return MvCalendariumTextPainter::breakLines(maxWidth, font, texts);
+}
+
+void MvCalendariumRenderer::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)
+{
+    MvCalendariumTextPainter::drawText(painter, rect, flags, text);
+}
+
+void MvCalendariumRenderer::drawTexts(QPainter &painter, const QRectF &rect, int flags, const QStringList &lines)
+{
+    MvCalendariumTextPainter::drawTexts(painter, rect, flags, lines);
+}
+
+// ---- words
+
+MvCalendariumWords MvCalendariumRenderer::words() const
+{
+    return MvCalendariumWords(language());
+}
+
+MvLocale MvCalendariumRenderer::language() const
+{
+    return m_content.language();
+}
+
+bool MvCalendariumRenderer::usesShortDayNames() const
+{
+    return isConfigured(calendar_render_days_of_week_short);
+}
+
+QString MvCalendariumRenderer::dayNameFromDate(const QDate &date, bool shortName) const
+{
+    return stringFromDate(date, shortName ? u"ddd"_s : u"dddd"_s);
+}
+
+QString MvCalendariumRenderer::calendarMonth(int month, const MvCalendarRenderingInformation &info) const
+{
+    return words().month(month, info);
+}
+
+QString MvCalendariumRenderer::calendarYear(int year, const MvCalendarRenderingInformation &info)
+{
+    return MvCalendariumWords::calendarYear(year, info);
+}
+
+QString MvCalendariumRenderer::yearName(int year) const
+{
+    return MvCalendariumWords::yearName(year, renderingInformation());
+}
+
+QString MvCalendariumRenderer::calendarMonth(const QDate &date) const
+{
+    const QDate shown = date.isValid() ? date : startDate();
+    return tr("%1 %2", "%1 = Monat, %2 = Jahr. Englische Version wahrscheinlich: '%2 %1'")
+        .arg(monthName(shown.month()), yearName(shown.year()));
+}
+
+QString MvCalendariumRenderer::calendarWeekHeadlineText() const
+{
+    return m_content.calendarWeekHeadlineOption().textInProduct(language());
+}
+
+QString MvCalendariumRenderer::calendarWeekText(const QDate &date) const
+{
+    return m_content.calendarWeekTextOption()
+        .textInProduct(language())
+        .replace(u"%1"_s, QString::number(date.weekNumber()));
+}
+
+// ---- texts of a day
+
+QStringList MvCalendariumRenderer::descriptions(const QDate &date) const
+{
+    return MvCalendariumHolidayCache::instance().descriptions(contentFor(date));
+}
+
+QStringList MvCalendariumRenderer::describeOfficialHolidays(const QDate &date) const
+{
+    if (!m_appearance.showHolidays())
+        return {};
+    QStringList texts = descriptions(date);
+    texts.removeAll(QString());
+    return texts;
+}
+
+QStringList MvCalendariumRenderer::describePersonalHolidays(const QDate &date) const
+{
+    return MvCalendarEventRegistry::instance().descriptions(contentFor(date));
+}
+
+QStringList MvCalendariumRenderer::describeHolidays(const QDate &date) const
+{
+    QStringList texts;
+    if (m_content.hasFeatures(holidaysAreWritten))
+        texts += describeOfficialHolidays(date);
+    if (m_content.hasFeatures(entriesAreWritten))
+        texts += describePersonalHolidays(date);
+    return texts;
+}
+
+QPair<QStringList, QStringList> MvCalendariumRenderer::splitHolidays(const QStringList &texts,
+                                                                     const MvCalendarCellType &type) const
+{
+    switch (int(textAlignment(type) & Qt::AlignVertical_Mask)) {
+    case Qt::AlignTop:
+        return {{}, texts};
+    case Qt::AlignBottom:
+        return {texts, {}};
+    default:
+        return {texts.mid(0, texts.size() / 2), texts.mid(texts.size() / 2)};
+    }
+}
+
+// ---- HTML table
+
+QString MvCalendariumRenderer::tableSkeleton(int spacing, int padding) const
+{
+    return u"<table width=\"100%\" height=\"100%\" cellpadding=\"%1\" cellspacing=\"%2\">%3</table>"_s.arg(
+        QString::number(padding), QString::number(spacing), u"%3"_s);
+}
+
+QString MvCalendariumRenderer::rowSkeleton()
+{
+    return u"<tr>%1</tr"_s; // without the last bracket, as ever
+}
+
+QString MvCalendariumRenderer::cellSkeleton(int rowSpan, int colSpan, const QColor &color, const QString &width) const
+{
+    const auto attribute = [](bool isSet, const QString &pattern, const QString &value) {
+        return isSet ? pattern.arg(value) : QString();
+    };
+    return u"<td %1 %2 %3 %4 >%5</td>"_s.arg(attribute(rowSpan > 1, u"rowspan=\"%1\""_s, QString::number(rowSpan)),
+                                             attribute(colSpan > 1, u"colspan=\"%1\""_s, QString::number(colSpan)),
+                                             attribute(color.isValid(), u"bgcolor=\"%1\""_s, color.name()),
+                                             attribute(!width.isEmpty(), u"width=\"%1\""_s, width), u"%5"_s);
+}
+
+// ---- colours of a cell
+
+QColor MvCalendariumRenderer::backgroundColor(const MvCalendarCellTypeConfig &config, bool even) const
+{
+    return m_appearance.cellColor({MvCalendarCellColorRoleEnum::bgcolor, config.colorConfig(), MvParityLogic(even)});
+}
+
+QColor MvCalendariumRenderer::fontColor(const MvCalendarCellTypeConfig &config, bool even) const
+{
+    return m_appearance.cellColor({MvCalendarCellColorRoleEnum::textcolor, config.colorConfig(), MvParityLogic(even)});
+}
+
+bool MvCalendariumRenderer::shouldIPaintTheBackground(const MvCalendarCellTypeConfig &config, bool even) const
+{
+    return m_appearance.shouldIPaintTheBackground(config.colorConfig(), even);
+}
+
+void MvCalendariumRenderer::createBorderPen(QPainter &painter) const
+{
+    painter.setPen(m_appearance.gridConfig().createPen());
+}
+
+// ---- painting a cell
+
+void MvCalendariumRenderer::drawCellBackground(QPainter &painter, const QRectF &rect,
+                                               const MvCalendarCellTypeConfig &config, bool even)
+{
+    if (shouldIPaintTheBackground(config, even)) {
+        QColor color = backgroundColor(config, even);
+        color.setAlphaF(color.alphaF() * static_cast<float>(m_backgroundAlpha));
+        addFill(rect, color);
+    }
+    if (!shouldIPaintTheBorder(config))
+        return;
+    const MvCalendarBorderType sides = borderType(config.colorConfig());
+    painter.save();
+    createBorderPen(painter);
+    if (sides.hasAnyOf(CALENDAR_BORDER_LEFT))
+        painter.drawLine(QLineF(rect.topLeft(), rect.bottomLeft()));
+    if (sides.hasAnyOf(CALENDAR_BORDER_RIGHT))
+        painter.drawLine(QLineF(rect.topRight(), rect.bottomRight()));
+    if (sides.hasAnyOf(CALENDAR_BORDER_TOP))
+        painter.drawLine(QLineF(rect.topLeft(), rect.topRight()));
+    if (sides.hasAnyOf(CALENDAR_BORDER_BOTTOM))
+        painter.drawLine(QLineF(rect.bottomLeft(), rect.bottomRight()));
+    painter.restore();
+}
+
+void MvCalendariumRenderer::drawCell(QPainter &painter, const QRectF &rect, const MvCalendarCellTypeConfig &config,
+                                     const QString &text, bool even, int flags)
+{
+    if (!(rect.width() > 0.0) || !(rect.height() > 0.0))
+        return;
+    drawCellBackground(painter, rect, config, even);
+    if (!text.isEmpty())
+        drawCellText(painter, rect, config, text, flags, even);
+}
+
+void MvCalendariumRenderer::drawCellText(QPainter &painter, const QRectF &rect, const MvCalendarCellTypeConfig &config,
+                                         const QString &text, int flags, bool even)
+{
+    const QColor color = fontColor(config, even);
+    if (!isOpaqueColor(color))
+        return;
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    painter.save();
+    preparePen(painter, font(type), color);
+    const int alignment = flags == 0 ? int(textAlignment(type)) : flags;
+    drawText(painter, rect.marginsRemoved(padding(type)), alignment | Qt::TextDontClip, text);
+    painter.restore();
+}
+
+void MvCalendariumRenderer::preparePen(QPainter &painter, const QFont &font, const QColor &color) const
+{
+    painter.setFont(font);
+    painter.setPen(QPen(QBrush(color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+}
+
+void MvCalendariumRenderer::drawDayNumberCell(QPainter &painter, const QRectF &rect, const QDate &date)
+{
+    const bool even = isEvenWeek(date);
+    const MvCalendarCellTypeConfig config = contentCellTypeConfig(date);
+    drawCellBackground(painter, rect, config, even);
+    if (rect.width() > holidayTextsFromWidth && rect.height() > holidayTextsFromHeight) {
+        if (drawCellHoliday(painter, rect, date, even))
+            return; // the photo stands for the number
+    } else {
+        Q_EMIT rectForDateFound(date, rect);
+    }
+    drawCellText(painter, rect, config, dayNumber(date), 0, even);
+}
+
+bool MvCalendariumRenderer::drawCellHoliday(QPainter &painter, const QRectF &rect, const QDate &date, bool even)
+{
+    Q_EMIT rectForDateFound(date, rect);
+    const MvCalendarCellTypeConfig config = contentCellTypeConfig(date);
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const QRectF inner = rect.marginsRemoved(padding(type));
+    const QColor color = fontColor(config, even);
+    QStringList texts = describeHolidays(date);
+    if (!isOpaqueColor(color) || texts.isEmpty())
+        return drawCellHolidayPicture(painter, date, inner);
+
+    painter.save();
+    preparePen(painter, fontHolidays(type), color);
+    painter.setClipRect(rect, Qt::IntersectClip);
+    const int width = static_cast<int>(inner.width());
+    if (isAnyTextToWide(width, painter.font(), texts))
+        texts = manuallyBreakLines(width, painter.font(), texts);
+    const bool tooWide = isAnyTextToWide(width, painter.font(), texts);
+    const QRectF rest = drawHolidayTexts(painter, inner, texts, type);
+    painter.restore();
+
+    const bool hasPicture = drawCellHolidayPicture(painter, date, rest);
+    if (tooWide)
+        drawQualityWarning(painter, rect);
+    return hasPicture;
+}
+
+// gives what is left of the inner rectangle
+QRectF MvCalendariumRenderer::drawHolidayTexts(QPainter &painter, const QRectF &inner, const QStringList &lines,
+                                               const MvCalendarCellType &type) const
+{
+    const double lineHeight = painter.font().pixelSize();
+    if (lines.size() < 2) {
+        drawText(painter, inner, bottomTexts, lines.constFirst());
+        return inner.adjusted(0.0, 0.0, 0.0, -(lineHeight + textGap));
+    }
+    const auto [top, bottom] = splitHolidays(lines, type);
+    drawTexts(painter, inner, topTexts, top);
+    drawTexts(painter, inner, bottomTexts, bottom);
+    return inner.adjusted(0.0, lineHeight * double(top.size()) + textGap, 0.0,
+                          -(lineHeight * double(bottom.size()) + textGap));
+}
+
+void MvCalendariumRenderer::drawCellHolidayWide(QPainter &painter, const QRectF &rect, const QDate &date, bool even)
+{
+    Q_EMIT rectForDateFound(date, rect);
+    const MvCalendarCellTypeConfig config = contentCellTypeConfig(date);
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const double vertical = rect.height() > largeCell ? largeCellMargin : smallCellMargin;
+    const double horizontal = rect.width() > largeCell ? largeCellMargin : smallCellMargin;
+    QRectF inner = rect.marginsRemoved(padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
+
+    const QImage picture = pictureWithin(date, inner.size());
+    if (!picture.isNull()) {
+        const QSize size = picture.size().scaled(inner.size().toSize(), Qt::KeepAspectRatio);
+        painter.drawImage(QRectF(inner.topLeft(), size), picture);
+        inner.setLeft(inner.left() + size.width() + textGap);
+    }
+
+    const QStringList texts = describeHolidays(date);
+    const QColor color = fontColor(config, even);
+    if (!isOpaqueColor(color) || texts.isEmpty())
+        return;
+    painter.save();
+    preparePen(painter, fontHolidays(type), color);
+    painter.setClipRect(rect, Qt::IntersectClip);
+    drawText(painter, inner, wideCellTexts, texts.join(u", "_s));
+    painter.restore();
+}
+
+bool MvCalendariumRenderer::drawCellHolidayPicture(QPainter &painter, const QDate &date, const QRectF &rect)
+{
+    const QImage picture = pictureWithin(date, rect.size());
+    if (picture.isNull())
+        return false;
+    const QSize size = picture.size().scaled(rect.size().toSize(), Qt::KeepAspectRatio);
+    double x = std::round(rect.x());
+    if (rect.width() > size.width())
+        x = std::trunc(x + (rect.width() - size.width()) * 0.5);
+    painter.drawImage(QRectF(QPointF(x, std::round(rect.y())), size), picture);
+    return true;
+}
+
+QImage MvCalendariumRenderer::holidayPicture(const QDate &date) const
+{
+    return MvCalendarEventRegistry::instance().eventImage(contentFor(date));
+}
+
+// the picture in as many pixels as the device has there, so that print is sharp and screens decode little
+QImage MvCalendariumRenderer::pictureWithin(const QDate &date, const QSizeF &size) const
+{
+    const QSize pixels = (size * m_devicePixelsPerUnit).toSize();
+    return pixels.isEmpty() ? QImage() : MvCalendarEventRegistry::instance().eventImage(contentFor(date), pixels);
+}
+
+void MvCalendariumRenderer::drawQualityWarning(QPainter &painter, const QRectF &rect) const
+{
+    if (!MvRenderingRule::decodeFrom(painter).hasFlag(MvRenderingRule::ShowQualityWarnings))
+        return;
+    const int edge = static_cast<int>(std::min(rect.width(), rect.height()));
+    const QPixmap symbol = MvQualityTypeManager::instance().qualityWarningPixmap(edge);
+    const QPointF offset(std::round((rect.width() - symbol.width()) / 2.0),
+                         std::round((rect.height() - symbol.height()) / 2.0));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawPixmap(rect.topLeft() + offset, symbol);
+    painter.restore();
+}

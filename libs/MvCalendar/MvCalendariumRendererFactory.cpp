@@ -1,0 +1,45 @@
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+
+#include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvCalendariumRendererMonthOnly.h"
+#include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
+
+#include <memory>
+
+template class MvSingleton<MvCalendariumRendererFactory>;
+
+MvCalendariumRenderer *MvCalendariumRendererFactory::createRenderer(const MvCalendariumAppearance &appearance) const
+{
+    switch (appearance.type().value()) {
+    case CALENDAR_ONE_WEEK_PER_ROW:
+        return new MvCalendariumRendererOneWeekPerRow(appearance);
+    case CALENDAR_TWO_WEEKS: // these have no renderer of their own yet
+    case CALENDAR_ONE_DAY_PER_ROW:
+    case CALENDAR_ONE_COLUMN_PER_WEEK:
+    case CALENDAR_YEAR:
+    case CALENDAR_YEAR_ONLY:
+    case CALENDAR_ONE_ROW:
+    case CALENDAR_HOLIDAYS:
+    case CALENDAR_MONTH_ONLY:
+        break;
+    }
+    return new MvCalendariumRendererMonthOnly(appearance);
+}
+
+QList<MvCalendarCellType> MvCalendariumRendererFactory::usedCellTypes(const MvCalendariumAppearance &appearance) const
+{
+    const std::unique_ptr<MvCalendariumRenderer> renderer(createRenderer(appearance));
+    QList<MvCalendarCellType> types = renderer->usedCellTypes();
+    if (!appearance.currentSchemaNeeds(calendar_render_title))
+        types.removeAll(MvCalendarCellType(CALENDAR_CELL_TYPE_TITLE));
+    if (!appearance.currentSchemaNeeds(
+            MvCalendarRenderingInformation(calendar_render_year_long | calendar_render_year_short)))
+        types.removeAll(MvCalendarCellType(CALENDAR_CELL_TYPE_YEAR));
+    return types;
+}
+
+bool MvCalendariumRendererFactory::hasOneHeaderPerDay(const MvCalendariumAppearance &appearance) const
+{
+    const std::unique_ptr<MvCalendariumRenderer> renderer(createRenderer(appearance));
+    return renderer->hasOneHeaderPerDay();
+}

@@ -1,0 +1,28 @@
+#include "MvCalendar/MvCalendariumRendererMonthOnly.h"
+
+MvCalendariumDisplayAbilities MvCalendariumRendererMonthOnly::abilities() const
+{
+    return ABILITY_NONE;
+}
+
+QSize MvCalendariumRendererMonthOnly::minimumSizeHint() const
+{
+    const QSizeF text = maximumSizeOfStrings(CALENDAR_CELL_TYPE_MONTH, {calendarMonth(startDate())});
+    return (text + paddingDifference(CALENDAR_CELL_TYPE_MONTH)).toSize();
+}
+
+bool MvCalendariumRendererMonthOnly::rendersMonthInformation() const
+{
+    return true;
+}
+
+QList<MvCalendarCellType> MvCalendariumRendererMonthOnly::usedCellTypes() const
+{
+    return {CALENDAR_CELL_TYPE_MONTH};
+}
+
+void MvCalendariumRendererMonthOnly::renderBase(QPainter &painter, const QRectF &rect)
+{
+    const MvCalendarCellTypeConfig month(CALENDAR_CELL_TYPE_MONTH, CALENDAR_CELL_TYPE_MONTH);
+    drawCell(painter, rect, month, calendarMonth(startDate()), true, 0);
+}

@@ -1,0 +1,121 @@
+#include "MvCalendar/MvCalendariumTextPainter.h"
+
+#include "MvModelBase/MvOutlinePainter.h"
+#include "MvModelBase/MvTextOutlineCache.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+MvTextOutline outlineOf(const QFont &font, const QString &text)
+{
+    return MvTextOutlineCache::instance().outline(font, text);
+}
+
+// the alignment rules of QFontMetricsF::boundingRect() for a block of the given size, without its wrapping
+QRectF aligned(const QRectF &rect, int flags, double width, double height)
+{
+    double x = 0.0;
+    if (flags & Qt::AlignRight)
+        x = rect.width() - width;
+    else if (flags & Qt::AlignHCenter)
+        x = (rect.width() - width) / 2.0;
+    double y = 0.0;
+    if (flags & Qt::AlignBottom)
+        y = rect.height() - height;
+    else if (flags & Qt::AlignVCenter)
+        y = (rect.height() - height) / 2.0;
+    return {rect.x() + x, rect.y() + y, width, height};
+}
+
+} // namespace
+
+int MvCalendariumTextPainter::advance(const QFont &font, const QString &text)
+{
+    return static_cast<int>(std::lround(outlineOf(font, text).advance()));
+}
+
+bool MvCalendariumTextPainter::isTextToWide(int maxWidth, const QFont &font, const QString &text)
+{
+    return advance(font, text) > maxWidth;
+}
+
+bool MvCalendariumTextPainter::isAnyTextToWide(int maxWidth, const QFont &font, const QStringList &texts)
+{
+    return std::any_of(texts.cbegin(), texts.cend(),
+                       [&](const QString &text) { return isTextToWide(maxWidth, font, text); });
+}
+
+QStringList MvCalendariumTextPainter::breakLines(int maxWidth, const QFont &font, const QStringList &texts)
+{
+    static const QRegularExpression whiteSpace(u"\\s+"_s);
+    QStringList lines;
+    for (const QString &text : texts) {
+        QString line;
+        const QStringList words = text.split(whiteSpace, Qt::SkipEmptyParts);
+        for (const QString &word : words) {
+            const QString candidate = line.isEmpty() ? word : line + u' ' + word;
+            if (!isTextToWide(maxWidth, font, candidate)) {
+                line = candidate;
+            } else if (!line.isEmpty()) {
+                lines.append(line);
+                line = word;
+            } else {
+                lines.append(word);
+            }
+        }
+        if (!line.isEmpty())
+            lines.append(line);
+    }
+    return lines;
+}
+
+QRectF MvCalendariumTextPainter::boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text)
+{
+    return aligned(rect, flags, outlineOf(font, text).advance(), QFontMetricsF(font).height());
+}
+
+void MvCalendariumTextPainter::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)
+{
+    const QFontMetricsF metrics(painter.font());
+    const MvTextOutline outline = outlineOf(painter.font(), text);
+    const QRectF box = aligned(rect, flags, outline.advance(), metrics.height());
+    MvOutlinePainter::fillOutline(painter, {box.x(), box.y() + metrics.ascent()}, outline, painter.pen().color());
+}
+
+void MvCalendariumTextPainter::drawTexts(QPainter &painter, const QRectF &rect, int flags, const QStringList &lines)
+{
+    const QFontMetricsF metrics(painter.font());
+    QList<MvPlacedOutline> block;
+    double width = 0.0;
+    for (const QString &line : lines) {
+        block.append({{}, outlineOf(painter.font(), line)});
+        width = std::max(width, block.constLast().outline.advance());
+    }
+    const QRectF box = aligned(rect, flags, width, metrics.height() * double(lines.size()));
+    const auto place = [&box](MvPlacedOutline &line, double y) {
+        line.baseline = {std::trunc((box.width() - line.outline.advance()) / 2.0) + box.x(), y};
+    };
+    if (flags & Qt::AlignBottom) {
+        double y = std::trunc(rect.top() + rect.height() - metrics.descent());
+        for (auto line = block.rbegin(); line != block.rend(); ++line) {
+            place(*line, y);
+            y = std::trunc(y - metrics.height());
+        }
+    } else {
+        double y = std::trunc(rect.top() + metrics.ascent());
+        for (MvPlacedOutline &line : block) {
+            place(line, y);
+            y = std::trunc(y + metrics.height());
+        }
+    }
+    MvOutlinePainter::fillOutlines(painter, block, painter.pen().color());
+}

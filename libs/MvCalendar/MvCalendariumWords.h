@@ -1,0 +1,41 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarRenderingInformation.h"
+#include "MvCalendar/mvcalendar_export.h"
+#include "MvCore/MvLocale.h"
+
+#include <QDate>
+#include <QStringList>
+
+/// The words of a calendarium in one language: days, months, years, weeks.
+class MVCALENDAR_EXPORT MvCalendariumWords
+{
+public:
+    explicit MvCalendariumWords(const MvLocale &language)
+        : m_language(language)
+    {
+    }
+
+    /// Day 1 is Monday, 7 Sunday.
+    QString dayName(int day, bool shortName) const;
+    /// Monday to Friday.
+    QStringList weekdayNames(bool shortNames) const;
+    /// The short word for "week".
+    QString weekShort() const;
+    QString monthShort(int month) const;
+    QString monthLong(int month) const;
+
+    /// The formats "ddd", "dddd", "MMM" and "MMMM" in the language of the page; every other format, also one that
+    /// contains these, in that of the application.
+    QString fromDate(const QDate &date, const QString &format) const;
+
+    /// The month as its number, its short or its long name, by the month flags; long when there are none.
+    QString month(int month, const MvCalendarRenderingInformation &information) const;
+    /// The year in full when the long flag stands alone, otherwise as an apostrophe and two digits.
+    static QString calendarYear(int year, const MvCalendarRenderingInformation &information);
+    /// The year in full (long flag), as an apostrophe and two digits (short flag), or nothing (none or both).
+    static QString yearName(int year, const MvCalendarRenderingInformation &information);
+
+private:
+    MvLocale m_language;
+};
