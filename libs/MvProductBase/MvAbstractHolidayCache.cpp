@@ -1,0 +1,8 @@
+#include "MvProductBase/MvAbstractHolidayCache.h"
+
+MvAbstractHolidayCache::MvAbstractHolidayCache(QObject *parent)
+    : QObject(parent)
+{
+}
+
+MvAbstractHolidayCache::~MvAbstractHolidayCache() = default;

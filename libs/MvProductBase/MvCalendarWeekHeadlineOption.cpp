@@ -1,0 +1,13 @@
+#include "MvProductBase/MvCalendarWeekHeadlineOption.h"
+
+#include "MvProductBase/MvCalendarWordsRegistry.h"
+
+MvCalendarWeekHeadlineOption::MvCalendarWeekHeadlineOption(const QString &pattern)
+    : m_pattern(pattern)
+{
+}
+
+QString MvCalendarWeekHeadlineOption::textInProduct(const MvLocale &language) const
+{
+    return m_pattern.isEmpty() ? MvCalendarWordsRegistry::instance().weekHeadline(language) : m_pattern;
+}

@@ -1,0 +1,13 @@
+#include "MvProductBase/MvCalendarWeekTextOption.h"
+
+#include "MvProductBase/MvCalendarWordsRegistry.h"
+
+MvCalendarWeekTextOption::MvCalendarWeekTextOption(const QString &pattern)
+    : m_pattern(pattern)
+{
+}
+
+QString MvCalendarWeekTextOption::textInProduct(const MvLocale &language) const
+{
+    return m_pattern.isEmpty() ? MvCalendarWordsRegistry::instance().weekText(language) : m_pattern;
+}

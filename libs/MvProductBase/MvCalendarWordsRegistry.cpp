@@ -1,0 +1,123 @@
+#include "MvProductBase/MvCalendarWordsRegistry.h"
+
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvXML/MvXMLLoader.h"
+#include "MvXML/MvXMLParser.h"
+
+template class MvSingleton<MvCalendarWordsRegistry>;
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QString withoutDot(QString name)
+{
+    while (name.endsWith(u'.'))
+        name.chop(1);
+    return name;
+}
+
+bool isDay(int day)
+{
+    return day >= 1 && day <= 7;
+}
+
+bool isMonth(int month)
+{
+    return month >= 1 && month <= 12;
+}
+
+} // namespace
+
+MvCalendarWordsRegistry::MvCalendarWordsRegistry()
+{
+    readWeekWords();
+}
+
+MvLocale MvCalendarWordsRegistry::defaultLanguage()
+{
+    return MvLocale(u"de_DE"_s);
+}
+
+void MvCalendarWordsRegistry::readWeekWords()
+{
+    const QFileInfo file = MvDirectoryConfig::instance().resource(u"words/weeks.xml"_s);
+    const QDomElement root = MvXMLLoader::loadDocumentElement(file);
+    for (QDomElement week = root.firstChildElement(u"week"_s); !week.isNull();
+         week = week.nextSiblingElement(u"week"_s)) {
+        WeekWords words;
+        words.shortWord = MvXMLParser::textAttribute(week, u"short"_s, u"W"_s);
+        words.headline = MvXMLParser::textAttribute(week, u"headline"_s, words.shortWord);
+        words.text = MvXMLParser::textAttribute(week, u"text"_s, u"%1"_s);
+        m_weekWords.insert(MvXMLParser::textAttribute(week, u"language"_s), words);
+    }
+}
+
+MvCalendarWordsRegistry::WeekWords MvCalendarWordsRegistry::weekWords(const MvLocale &language) const
+{
+    const MvLocale locale = language.isValid() ? language : defaultLanguage();
+    for (const QString &name : {locale.name(), locale.language()}) {
+        const auto words = m_weekWords.constFind(name);
+        if (words != m_weekWords.constEnd())
+            return *words;
+    }
+    return {u"W"_s, u"W"_s, u"%1"_s};
+}
+
+std::shared_ptr<const MvCalendarWordsRegistry::Names> MvCalendarWordsRegistry::names(const MvLocale &language) const
+{
+    const MvLocale locale = language.isValid() ? language : defaultLanguage();
+    {
+        QReadLocker lock(&m_lock);
+        const auto known = m_names.constFind(locale);
+        if (known != m_names.constEnd())
+            return *known;
+    }
+    const QLocale words = locale.toQLocale();
+    const auto made = std::make_shared<Names>();
+    for (int day = 1; day <= 7; ++day) {
+        made->shortDays[day - 1] = withoutDot(words.standaloneDayName(day, QLocale::ShortFormat));
+        made->longDays[day - 1] = words.standaloneDayName(day, QLocale::LongFormat);
+    }
+    for (int month = 1; month <= 12; ++month) {
+        made->shortMonths[month - 1] = withoutDot(words.standaloneMonthName(month, QLocale::ShortFormat));
+        made->longMonths[month - 1] = words.standaloneMonthName(month, QLocale::LongFormat);
+    }
+    QWriteLocker lock(&m_lock);
+    m_names.insert(locale, made);
+    return made;
+}
+
+QString MvCalendarWordsRegistry::dayName(const MvLocale &language, int day, bool shortName) const
+{
+    if (!isDay(day))
+        return {};
+    const std::shared_ptr<const Names> words = names(language);
+    return shortName ? words->shortDays[day - 1] : words->longDays[day - 1];
+}
+
+QString MvCalendarWordsRegistry::monthNameShort(const MvLocale &language, int month) const
+{
+    return isMonth(month) ? names(language)->shortMonths[month - 1] : QString();
+}
+
+QString MvCalendarWordsRegistry::monthNameLong(const MvLocale &language, int month) const
+{
+    return isMonth(month) ? names(language)->longMonths[month - 1] : QString();
+}
+
+QString MvCalendarWordsRegistry::weekShort(const MvLocale &language) const
+{
+    return weekWords(language).shortWord;
+}
+
+QString MvCalendarWordsRegistry::weekHeadline(const MvLocale &language) const
+{
+    return weekWords(language).headline;
+}
+
+QString MvCalendarWordsRegistry::weekText(const MvLocale &language) const
+{
+    return weekWords(language).text;
+}

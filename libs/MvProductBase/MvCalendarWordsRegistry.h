@@ -1,0 +1,59 @@
+#pragma once
+
+#include "MvCore/MvLocale.h"
+#include "MvCore/MvSingleton.h"
+#include "MvProductBase/mvproductbase_export.h"
+
+#include <QHash>
+#include <QReadWriteLock>
+#include <QString>
+
+#include <memory>
+
+class MvCalendarWordsRegistry;
+extern template class MVPRODUCTBASE_EXPORT MvSingleton<MvCalendarWordsRegistry>;
+
+/// The words of the calendar in every language: names of days and months as they stand alone, the word for week.
+///
+/// Short names carry no dot at their end. An invalid locale speaks the default language. May be asked by any thread.
+class MVPRODUCTBASE_EXPORT MvCalendarWordsRegistry : public MvSingleton<MvCalendarWordsRegistry>
+{
+public:
+    MvCalendarWordsRegistry();
+
+    static MvLocale defaultLanguage();
+
+    /// 1 = Monday to 7 = Sunday; any other number gives an empty name.
+    QString dayName(const MvLocale &language, int day, bool shortName) const;
+    /// 1 = January to 12 = December; any other number gives an empty name.
+    QString monthNameShort(const MvLocale &language, int month) const;
+    QString monthNameLong(const MvLocale &language, int month) const;
+
+    /// The short word for week, "KW" in German; "W" in a language without words of its own.
+    QString weekShort(const MvLocale &language) const;
+    /// The head of the column of calendar weeks.
+    QString weekHeadline(const MvLocale &language) const;
+    /// The text of a week in that column; `%1` stands for its number.
+    QString weekText(const MvLocale &language) const;
+
+private:
+    struct WeekWords {
+        QString shortWord;
+        QString headline;
+        QString text;
+    };
+    struct Names {
+        QString shortDays[7];
+        QString longDays[7];
+        QString shortMonths[12];
+        QString longMonths[12];
+    };
+
+    void readWeekWords();
+    WeekWords weekWords(const MvLocale &language) const;
+    std::shared_ptr<const Names> names(const MvLocale &language) const;
+
+    QHash<QString, WeekWords> m_weekWords; // by "de_CH" or "de"; never changes once read
+    mutable QReadWriteLock m_lock;         // guards m_names
+    mutable QHash<MvLocale, std::shared_ptr<const Names>> m_names;
+};

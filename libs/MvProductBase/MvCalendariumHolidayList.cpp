@@ -1,0 +1,13 @@
+#include "MvProductBase/MvCalendariumHolidayList.h"
+
+MvCalendariumHolidayList::~MvCalendariumHolidayList() = default;
+
+MvCalendariumHolidayList MvCalendariumHolidayList::filter(const QDate &day) const
+{
+    MvCalendariumHolidayList found;
+    for (const MvCalendariumHoliday &holiday : *this) {
+        if (holiday.date() == day)
+            found.append(holiday);
+    }
+    return found;
+}
