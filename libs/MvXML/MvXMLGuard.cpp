@@ -133,6 +133,28 @@ MvXMLLoader::Error readThroughStream(QXmlStreamReader &reader)
     return reader.hasError() ? error(messageOf(reader)) : MvXMLLoader::Error{};
 }
 
+/// Place of the first bytes that are not UTF-8, in a text that does not name another encoding. The XML reader knows
+/// only that there are some, since it decodes ahead.
+MvXMLLoader::Error wrongEncoding(const QByteArray &bytes)
+{
+    const QByteArray head = bytes.left(256).toLower();
+    if (head.contains("encoding=") && !head.contains("utf-8"))
+        return {};
+    QStringDecoder whole(QStringConverter::Utf8);
+    const QString decoded = whole.decode(bytes);
+    if (!whole.hasError())
+        return {};
+    const QList<QByteArray> lines = bytes.split('\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        QStringDecoder decoder(QStringConverter::Utf8);
+        const QString line = decoder.decode(lines.at(i));
+        if (decoder.hasError())
+            return {MvXMLLoader::tr("Die Zeichen sind nicht als UTF-8 gespeichert."), int(i) + 1,
+                    int(line.indexOf(QChar::ReplacementCharacter)) + 1};
+    }
+    return {};
+}
+
 } // namespace
 
 QString MvXMLGuard::wideText(const QByteArray &bytes)
@@ -152,7 +174,9 @@ MvXMLLoader::Error MvXMLGuard::scan(QByteArrayView utf8)
 MvXMLLoader::Error MvXMLGuard::readThrough(const QByteArray &bytes)
 {
     QXmlStreamReader reader(bytes);
-    return readThroughStream(reader);
+    const MvXMLLoader::Error error = readThroughStream(reader);
+    const MvXMLLoader::Error encoding = error.isError() ? wrongEncoding(bytes) : MvXMLLoader::Error();
+    return encoding.isError() ? encoding : error;
 }
 
 MvXMLLoader::Error MvXMLGuard::readThrough(const QString &text)
