@@ -3,19 +3,45 @@
 #include "MvCore/mvcore_export.h"
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QFileInfo>
+#include <QList>
 #include <QString>
 
 /// The one way to write a user's file: the new content is complete and on disk before it takes the old one's place.
+///
+/// Whatever happens (full disk, killed program, lost power), afterwards the file holds either the old content or the
+/// new one, never a part. Mode and owner of an existing file are kept; a symbolic link stays and its target is
+/// written. Only where the folder takes no new files is the existing file written in place, after a copy of it was
+/// put elsewhere.
+///
+/// Backups lie beside the file and end in "~", which file managers hide: "name~" is the previous version,
+/// "name.2026-03-01~" the state before the first change of that day, for the last seven days with changes.
 class MVCORE_EXPORT MvSafeFileWriter
 {
+    Q_DECLARE_TR_FUNCTIONS(MvSafeFileWriter)
+
 public:
-    struct Result
-    {
+    enum class Backups {
+        Keep,
+        None, // for what can be made again, such as a page as PDF or PNG
+    };
+
+    struct Result {
         QString error; // for a person; empty when the file is in place
+        QString note;  // for the log: the file is in place, but something beside it went wrong
 
         bool isOk() const { return error.isEmpty(); }
     };
 
-    static Result write(const QFileInfo &file, const QByteArray &content);
+    /// Writes the content. The folder must exist. Directories, devices and pipes are refused, and so is a file that
+    /// may not be written. Any thread.
+    static Result write(const QFileInfo &file, const QByteArray &content, Backups backups = Backups::Keep);
+
+    /// Keeps an existing file under a name of its own beside it ("name.unlesbar-2026-03-01.xml"), so that the file may
+    /// be overwritten. The copy's path; an empty one when it could not be made.
+    static QString setAside(const QFileInfo &file);
+
+    /// The existing backups of a file: the previous version first, then the days, newest first.
+    static QList<QFileInfo> backups(const QFileInfo &file);
 };

@@ -1,32 +1,132 @@
 #include "MvXML/MvXMLLoader.h"
 
+#include "MvXML/MvXMLGuard.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Opens a regular file without waiting: a pipe nobody writes to must not stop the program.
+bool openRegular(const QFileInfo &file, QFile &device, MvXMLLoader::Error &error)
+{
+    if (file.filePath().startsWith(u':')) {
+        if (!QFileInfo(file.filePath()).isDir() && device.open(QIODevice::ReadOnly))
+            return true;
+        error.message = MvXMLLoader::tr("Die Datei gibt es nicht.");
+        return false;
+    }
+    const int descriptor =
+        ::open(QFile::encodeName(file.absoluteFilePath()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) {
+        error.message = errno == ENOENT || errno == ENOTDIR ? MvXMLLoader::tr("Die Datei gibt es nicht.")
+                                                            : MvXMLLoader::tr("Die Datei darf nicht gelesen werden.");
+        return false;
+    }
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        ::close(descriptor);
+        error.message = MvXMLLoader::tr("Das ist keine gewöhnliche Datei.");
+        return false;
+    }
+    return device.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+}
+
+QByteArray readLimited(const QFileInfo &file, MvXMLLoader::Error &error)
+{
+    QFile device(file.filePath());
+    if (!openRegular(file, device, error))
+        return {};
+    const QByteArray bytes = device.read(MvXMLGuard::sizeLimit + 1); // the size that is told may be wrong
+    if (device.error() != QFileDevice::NoError)
+        error.message = MvXMLLoader::tr("Die Datei lässt sich nicht zu Ende lesen.");
+    return bytes;
+}
+
+/// All checks; for UTF-16 and UTF-32 also the decoded text.
+MvXMLLoader::Error check(const QByteArray &bytes, QString &wideText)
+{
+    if (bytes.size() > MvXMLGuard::sizeLimit)
+        return {MvXMLLoader::tr("Die Datei ist größer als %1 MiB.").arg(MvXMLGuard::sizeLimit / (1024 * 1024))};
+    if (bytes.trimmed().isEmpty())
+        return {MvXMLLoader::tr("Die Datei ist leer.")};
+    wideText = MvXMLGuard::wideText(bytes);
+    MvXMLLoader::Error error = MvXMLGuard::scan(wideText.isEmpty() ? bytes : wideText.toUtf8());
+    if (error.isError())
+        return error;
+    return wideText.isEmpty() ? MvXMLGuard::readThrough(bytes) : MvXMLGuard::readThrough(wideText);
+}
+
+} // namespace
+
 QString MvXMLLoader::Error::describe(const QFileInfo &file) const
 {
-    return QStringLiteral("%1:%2:%3: %4").arg(file.filePath()).arg(line).arg(column).arg(message);
+    const QString path = QDir::toNativeSeparators(file.filePath());
+    if (line <= 0)
+        return u"%1: %2"_s.arg(path, message);
+    return u"%1:%2:%3: %4"_s.arg(path).arg(line).arg(column).arg(message);
+}
+
+QByteArray MvXMLLoader::loadBytes(const QFileInfo &file, Error *error)
+{
+    Error found;
+    QByteArray bytes = readLimited(file, found);
+    if (!found.isError()) {
+        QString wideText;
+        found = check(bytes, wideText);
+        if (!wideText.isEmpty())
+            bytes = wideText.toUtf8(); // readers of streams take the mark off
+    }
+    if (error)
+        *error = found;
+    return found.isError() ? QByteArray() : bytes;
 }
 
 QDomDocument MvXMLLoader::loadDocument(const QFileInfo &file, Error *error)
 {
-    QFile device(file.filePath());
-    if (!device.open(QIODevice::ReadOnly)) {
-        if (error)
-            error->message = device.errorString();
-        return {};
-    }
-    return parse(device.readAll(), error);
+    Error found;
+    const QByteArray bytes = readLimited(file, found);
+    if (!found.isError())
+        return parse(bytes, error);
+    if (error)
+        *error = found;
+    return {};
 }
 
 QDomDocument MvXMLLoader::parse(const QByteArray &bytes, Error *error)
 {
-    Error ignored;
-    Error &e = error ? *error : ignored;
+    QString wideText;
+    Error found = check(bytes, wideText);
     QDomDocument document;
-    if (!document.setContent(bytes, &e.message, &e.line, &e.column))
-        return {};
+    if (!found.isError()) {
+        const bool isBuilt = wideText.isEmpty()
+                                 ? document.setContent(bytes, &found.message, &found.line, &found.column)
+                                 : document.setContent(wideText, &found.message, &found.line, &found.column);
+        if (!isBuilt)
+            document = {};
+        else
+            found = {};
+    }
+    if (error)
+        *error = found;
     return document;
 }
 
 QDomElement MvXMLLoader::loadDocumentElement(const QFileInfo &file)
 {
-    return loadDocument(file).documentElement();
+    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    if (!present.exists())
+        return {};
+    Error error;
+    const QDomDocument document = loadDocument(present, &error);
+    if (error.isError())
+        qWarning().noquote() << error.describe(present);
+    return document.documentElement();
 }

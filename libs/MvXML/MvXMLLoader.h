@@ -2,6 +2,8 @@
 
 #include "MvXML/mvxml_export.h"
 
+#include <QByteArray>
+#include <QCoreApplication>
 #include <QDomDocument>
 #include <QDomElement>
 #include <QFileInfo>
@@ -10,13 +12,14 @@
 /// Loading XML files: the one guarded way to a file from outside.
 ///
 /// Before a document is built, the file must pass: a regular file, at most 64 MiB, no tag longer than 64 KiB, no
-/// entity declarations, at most 256 levels, well-formed.
+/// entity declarations, at most 256 levels and a million elements, well-formed. UTF-8, UTF-16, UTF-32 and ISO 8859-1.
 class MVXML_EXPORT MvXMLLoader
 {
+    Q_DECLARE_TR_FUNCTIONS(MvXMLLoader)
+
 public:
     /// What went wrong, for a person: empty message means nothing did. Line and column count from 1, 0 when unknown.
-    struct Error
-    {
+    struct Error {
         QString message;
         int line = 0;
         int column = 0;
@@ -27,9 +30,13 @@ public:
     };
 
     /// The document; a null one on error, which is then described in `error` when given.
+    /// Shipped files (":/...") are read as well; directories, devices and pipes are refused.
     static QDomDocument loadDocument(const QFileInfo &file, Error *error = nullptr);
     static QDomDocument parse(const QByteArray &bytes, Error *error = nullptr);
+    /// The bytes of a file, once they passed all checks but for building a document; empty on error. For readers that
+    /// go through large files as a stream.
+    static QByteArray loadBytes(const QFileInfo &file, Error *error = nullptr);
     /// The root element; a null one on error. A file that exists but cannot be read logs one warning with file and
-    /// place.
+    /// place; a missing file is nothing to tell.
     static QDomElement loadDocumentElement(const QFileInfo &file);
 };

@@ -1,0 +1,262 @@
+#include "MvCalendar/MvCalendarEvent.h"
+
+#include "MvCalendar/MvCalendarEventFoto.h"
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvCore/MvStringHelper.h"
+#include "MvCore/MvUniqueFilenameMaker.h"
+#include "MvFoto/MvFotoAccess.h"
+#include "MvXML/MvXMLBuilder.h"
+#include "MvXML/MvXMLParser.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int mediumQuality = 4;
+constexpr int mediumCaching = 13;
+
+/// A date and time in ISO form. A midnight that the local time zone skipped is the day's first moment: nobody loses a
+/// birthday because clocks were put forward that night.
+QDateTime readDateTime(const QDomElement &element, const QString &name)
+{
+    const QDateTime value = MvXMLParser::dateTimeText(element, name, Qt::ISODate);
+    if (value.isValid())
+        return value;
+    const QString text = MvXMLParser::text(element, name).trimmed();
+    const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
+    return QTime::fromString(text.mid(11), Qt::ISODate).isValid() ? date.startOfDay() : QDateTime();
+}
+
+QString shortDate(const QDateTime &dateTime)
+{
+    return QLocale().toString(dateTime.date(), QLocale::ShortFormat);
+}
+
+QByteArray encoded(const QImage &image, const QString &suffix)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, suffix.toLatin1());
+    return writer.write(image) ? bytes : QByteArray();
+}
+
+} // namespace
+
+MvCalendarEvent::MvCalendarEvent() = default;
+MvCalendarEvent::~MvCalendarEvent() = default;
+MvCalendarEvent::MvCalendarEvent(const MvCalendarEvent &) = default;
+MvCalendarEvent::MvCalendarEvent(MvCalendarEvent &&) noexcept = default;
+MvCalendarEvent &MvCalendarEvent::operator=(const MvCalendarEvent &) = default;
+MvCalendarEvent &MvCalendarEvent::operator=(MvCalendarEvent &&) noexcept = default;
+
+MvCalendarEvent::MvCalendarEvent(const QString &name, const QDateTime &dateTime, bool recurrent, const MvFoto &foto,
+                                 const QUuid &uuid, const QDateTime &lastChanged)
+    : m_name(name)
+    , m_dateTime(dateTime)
+    , m_recurrent(recurrent)
+    , m_uuid(uuid)
+    , m_lastChanged(lastChanged)
+{
+    setFoto(foto);
+}
+
+MvCalendarEvent::MvCalendarEvent(const QDomElement &element)
+{
+    read(element);
+    m_foto = createFoto(element);
+}
+
+MvCalendarEvent::MvCalendarEvent(const QDomElement &element, const QDir &fileFolder)
+{
+    read(element);
+    m_foto = MvCalendarEventFoto::fromText(MvXMLParser::text(element, u"Image"_s), imageDirectory(), &fileFolder);
+}
+
+void MvCalendarEvent::read(const QDomElement &element)
+{
+    m_name = MvXMLParser::text(element, u"Name"_s);
+    m_dateTime = readDateTime(element, u"DateTime"_s);
+    m_recurrent = MvXMLParser::boolText(element, u"Recurrent"_s, true);
+    const QString newUuid = QUuid::createUuid().toString();
+    m_uuid = QUuid::fromString(MvXMLParser::text(element, u"UUID"_s, newUuid));
+    m_lastChanged = MvXMLParser::dateTimeText(element, u"LastChanged"_s, Qt::ISODate, QDateTime::currentDateTime());
+}
+
+QSize MvCalendarEvent::imageSize() const
+{
+    return m_foto.isValid() ? MvFotoAccess::preferredSize(m_foto) : QSize();
+}
+
+MvDrawable MvCalendarEvent::image() const
+{
+    return MvDrawable(MvFotoAccess::fullRes(m_foto));
+}
+
+void MvCalendarEvent::setEventName(const QString &name)
+{
+    m_name = name;
+    updateChangeTime();
+}
+
+void MvCalendarEvent::setDateTime(const QDateTime &dateTime)
+{
+    m_dateTime = dateTime;
+    updateChangeTime();
+}
+
+void MvCalendarEvent::setRecurrent(bool recurrent)
+{
+    m_recurrent = recurrent;
+    updateChangeTime();
+}
+
+void MvCalendarEvent::setFoto(const MvFoto &foto)
+{
+    const bool isKeptAsItIs =
+        !foto.mayBeOpened() || (foto.isLocalFile() && isInAppSafeArea(foto.localFileInfo())); // also no photo at all
+    m_foto = isKeptAsItIs ? foto : MvFoto(saveImageToNewPosition(loadFotoAsThumbnail(foto), foto));
+    updateChangeTime();
+}
+
+void MvCalendarEvent::updateChangeTime()
+{
+    m_lastChanged = QDateTime::currentDateTime();
+}
+
+bool MvCalendarEvent::isAtDay(const QDate &day) const
+{
+    const QDate date = m_dateTime.date();
+    if (date.day() != day.day() || date.month() != day.month())
+        return false;
+    return date.year() == day.year() || m_recurrent;
+}
+
+QString MvCalendarEvent::longDescription() const
+{
+    return u"%1: \"%2\""_s.arg(shortDate(m_dateTime), m_name);
+}
+
+QString MvCalendarEvent::debugString() const
+{
+    return u"%1: \"%2\" %3 %4"_s.arg(shortDate(m_dateTime), m_name, QString::number(int(isRecurrent())),
+                                     m_uuid.toString());
+}
+
+void MvCalendarEvent::createXML(QDomNode &parent) const
+{
+    QDomElement element = MvXMLBuilder::buildDomElement(parent, u"CalendarEvent"_s);
+    if (!isValid())
+        return;
+    MvXMLBuilder::buildDomElement(element, u"Name"_s, m_name);
+    MvXMLBuilder::buildDomElement(element, u"DateTime"_s, m_dateTime.toString(Qt::ISODate));
+    MvXMLBuilder::buildDomElement(element, u"Recurrent"_s, MvStringHelper::boolToString(m_recurrent));
+    MvXMLBuilder::buildDomElement(element, u"Image"_s, m_foto.localFilePath());
+    MvXMLBuilder::buildDomElement(element, u"UUID"_s, m_uuid.toString());
+    MvXMLBuilder::buildDomElement(element, u"LastChanged"_s, m_lastChanged.toString(Qt::ISODate));
+}
+
+QDir MvCalendarEvent::imageDirectory()
+{
+    return MvDirectoryConfig::instance().programDataSubDir(u"calendarEventFotos"_s);
+}
+
+bool MvCalendarEvent::isInAppSafeArea(const QFileInfo &file) const
+{
+    return file.dir() == imageDirectory();
+}
+
+QImage MvCalendarEvent::loadFotoAsThumbnail(const MvFoto &foto) const
+{
+    const QImage image = MvFotoAccess::midRes(foto, mediumQuality, mediumCaching);
+    if (image.isNull())
+        qWarning().nospace() << "Unable to open image : " << foto;
+    return image;
+}
+
+QFileInfo MvCalendarEvent::saveImageToNewPosition(const QImage &image, const MvFoto &foto) const
+{
+    const QString name =
+        MvMediaFormat::createFilename(foto.mediaFormat(), foto.filenameHint(), foto.fileExtensionHint());
+    const QFileInfo file =
+        MvUniqueFilenameMaker::instance().makeUniqueFileName(QFileInfo(imageDirectory(), name), true);
+    const QByteArray bytes = encoded(image, file.suffix());
+    if (bytes.isEmpty() || !MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).isOk())
+        qWarning().noquote().nospace() << "Unable to save image to : " << file.absoluteFilePath();
+    return QFileInfo(file.absoluteFilePath());
+}
+
+MvFoto MvCalendarEvent::createFoto(const QDomElement &element) const
+{
+    return MvCalendarEventFoto::fromText(MvXMLParser::text(element, u"Image"_s), imageDirectory(), nullptr);
+}
+
+bool MvCalendarEvent::lessThanDate(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    if (a.m_dateTime == b.m_dateTime)
+        return a < b;
+    const QDate first = a.m_dateTime.date();
+    const QDate second = b.m_dateTime.date();
+    return first.month() == second.month() ? first.day() < second.day() : first.month() < second.month();
+}
+
+bool MvCalendarEvent::greaterThanDate(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    return lessThanDate(b, a);
+}
+
+bool MvCalendarEvent::lessThanName(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    return a.m_name == b.m_name ? a < b : a.m_name < b.m_name;
+}
+
+bool MvCalendarEvent::greaterThanName(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    return lessThanName(b, a);
+}
+
+bool MvCalendarEvent::lessThanRecurrent(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    return a.isRecurrent() == b.isRecurrent() ? a < b : !a.isRecurrent();
+}
+
+bool MvCalendarEvent::greaterThanRecurrent(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    return lessThanRecurrent(b, a);
+}
+
+bool MvCalendarEvent::operator==(const MvCalendarEvent &other) const
+{
+    return m_recurrent == other.m_recurrent && m_name == other.m_name && m_dateTime == other.m_dateTime &&
+           m_foto == other.m_foto;
+}
+
+bool MvCalendarEvent::operator<(const MvCalendarEvent &other) const
+{
+    if (isValid() != other.isValid())
+        return isValid();
+    if (m_recurrent != other.m_recurrent)
+        return !m_recurrent;
+    if (m_name != other.m_name)
+        return m_name < other.m_name;
+    if (m_dateTime != other.m_dateTime)
+        return m_dateTime < other.m_dateTime;
+    return m_foto < m_foto; // of itself, hence never: entries that differ in their photos alone are equivalent
+}
+
+QDebug operator<<(QDebug debug, const MvCalendarEvent &event)
+{
+    const QDebugStateSaver saver(debug);
+    debug.noquote().nospace() << event.debugString();
+    return debug;
+}
+
+size_t qHash(const MvCalendarEvent &event, size_t seed)
+{
+    return qHashMulti(seed, event.description(), event.dateTime(), event.storedRecurrent(), event.foto());
+}

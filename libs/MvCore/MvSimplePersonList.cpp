@@ -1,0 +1,3 @@
+#include "MvCore/MvSimplePersonList.h"
+
+MvSimplePersonList::~MvSimplePersonList() = default;

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "MvCore/MvSimplePerson.h"
+#include "MvCore/mvcore_export.h"
+
+#include <QList>
+
+/// The contacts of an address book, in its order.
+class MVCORE_EXPORT MvSimplePersonList : public QList<MvSimplePerson>
+{
+public:
+    using QList<MvSimplePerson>::QList;
+    MvSimplePersonList() = default;
+    virtual ~MvSimplePersonList();
+    MvSimplePersonList(const MvSimplePersonList &) = default;
+    MvSimplePersonList(MvSimplePersonList &&) noexcept = default;
+    MvSimplePersonList &operator=(const MvSimplePersonList &) = default;
+    MvSimplePersonList &operator=(MvSimplePersonList &&) noexcept = default;
+};

@@ -1,0 +1,32 @@
+#include "MvFoto/MvFotoAccess.h"
+
+#include "MvImageLoader/MvImageLoader.h"
+
+#include <algorithm>
+
+QSize MvFotoAccess::preferredSize(const MvFoto &foto)
+{
+    return foto.mayBeOpened() ? MvImageLoader::instance().size(foto.localFileInfo()) : QSize();
+}
+
+QImage MvFotoAccess::fullRes(const MvFoto &foto)
+{
+    return foto.mayBeOpened() ? MvImageLoader::instance().load(foto.localFileInfo()) : QImage();
+}
+
+QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching)
+{
+    const int side = 128 << std::clamp(quality, 0, 7);
+    const QSize full = preferredSize(foto);
+    if (full.isEmpty())
+        return {};
+    const QSize target = full.width() > side || full.height() > side ? QSize(side, side) : full;
+    MvImageLoader &loader = MvImageLoader::instance();
+    return caching & UseMemory ? loader.loadScaled(foto.localFileInfo(), target)
+                               : loader.loadUncached(foto.localFileInfo(), target);
+}
+
+QImage MvFotoAccess::scaled(const MvFoto &foto, const QSize &bounds)
+{
+    return foto.mayBeOpened() ? MvImageLoader::instance().loadScaled(foto.localFileInfo(), bounds) : QImage();
+}

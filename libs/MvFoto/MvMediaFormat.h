@@ -1,0 +1,44 @@
+#pragma once
+
+#include "MvFoto/mvfoto_export.h"
+
+#include <QFileInfo>
+#include <QString>
+
+/// The format of a photo's file.
+class MVFOTO_EXPORT MvMediaFormat
+{
+public:
+    enum Format {
+        Unknown,
+        Jpeg,
+        Png,
+        Gif,
+        Bmp,
+        Tiff,
+        WebP,
+    };
+
+    MvMediaFormat() = default;
+    MvMediaFormat(Format format) // implicit: a format is a value of its class
+        : m_format(format)
+    {
+    }
+
+    /// The format of the file's content, whatever its name says; unknown when it cannot be read.
+    static MvMediaFormat ofFile(const QFileInfo &file);
+
+    /// A name for a copy of a photo in a format that can be written: a JPEG keeps its extension, photos of unknown
+    /// format become "jpg", all others, which may have transparent parts, "png". Characters that file systems refuse
+    /// are dropped from the hint; an empty hint gives "foto".
+    static QString createFilename(const MvMediaFormat &format, const QString &filenameHint,
+                                  const QString &fileExtensionHint);
+
+    Format format() const { return m_format; }
+    bool isValid() const { return m_format != Unknown; }
+
+    bool operator==(const MvMediaFormat &) const = default;
+
+private:
+    Format m_format = Unknown;
+};

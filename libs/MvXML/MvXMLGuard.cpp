@@ -1,0 +1,186 @@
+#include "MvXML/MvXMLGuard.h"
+
+#include <QStringDecoder>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Walks over the raw text and knows what it stands in: text, tag, comment, character data or instruction.
+class RawScan
+{
+public:
+    explicit RawScan(QByteArrayView text)
+        : m_text(text)
+    {
+    }
+
+    MvXMLLoader::Error run()
+    {
+        if (const qsizetype nul = m_text.indexOf('\0'); nul >= 0)
+            return errorAt(nul, MvXMLLoader::tr("Ein NUL-Zeichen darf nicht vorkommen."));
+        qsizetype position = m_text.indexOf('<');
+        while (position >= 0) {
+            if (startsWith(position, "<!--"))
+                position = after(position + 4, "-->");
+            else if (startsWith(position, "<![CDATA["))
+                position = after(position + 9, "]]>");
+            else if (startsWith(position, "<?"))
+                position = after(position + 2, "?>");
+            else if (startsWith(position, "<!ENTITY"))
+                return errorAt(position, MvXMLLoader::tr("Entitäten dürfen nicht vereinbart werden."));
+            else if (startsWith(position, "<!ATTLIST")) // a default of 60 KiB would count for every element
+                return errorAt(position, MvXMLLoader::tr("Vorgaben für Attribute dürfen nicht vereinbart werden."));
+            else if (startsWith(position, "<!"))
+                position += 2; // declarations may hold others; only their start counts
+            else {
+                const qsizetype end = endOfTag(position);
+                if (end < 0)
+                    return errorAt(
+                        position,
+                        MvXMLLoader::tr("Eine Auszeichnung ist länger als %1 KiB.").arg(MvXMLGuard::tagLimit / 1024));
+                position = end;
+            }
+            if (position < 0)
+                break; // not closed: the stream pass names the place
+            position = m_text.indexOf('<', position);
+        }
+        return {};
+    }
+
+private:
+    bool startsWith(qsizetype position, QByteArrayView word) const { return m_text.sliced(position).startsWith(word); }
+
+    qsizetype after(qsizetype position, QByteArrayView word) const
+    {
+        const qsizetype found = position <= m_text.size() ? m_text.indexOf(word, position) : -1;
+        return found < 0 ? -1 : found + word.size();
+    }
+
+    /// Behind the ">" of a tag; -1 when it is too long. A ">" in quotes belongs to a value.
+    qsizetype endOfTag(qsizetype start) const
+    {
+        const qsizetype limit = std::min(m_text.size(), start + MvXMLGuard::tagLimit);
+        char quote = 0;
+        for (qsizetype i = start + 1; i < limit; ++i) {
+            const char c = m_text.at(i);
+            if (quote)
+                quote = c == quote ? 0 : quote;
+            else if (c == '"' || c == '\'')
+                quote = c;
+            else if (c == '>')
+                return i + 1;
+        }
+        return limit == m_text.size() ? limit : -1;
+    }
+
+    MvXMLLoader::Error errorAt(qsizetype position, const QString &message) const
+    {
+        const QByteArrayView before = m_text.first(position);
+        const qsizetype lineStart = before.lastIndexOf('\n') + 1;
+        return {message, int(before.count('\n')) + 1, int(position - lineStart) + 1};
+    }
+
+    QByteArrayView m_text;
+};
+
+QString messageOf(const QXmlStreamReader &reader)
+{
+    switch (reader.error()) {
+    case QXmlStreamReader::PrematureEndOfDocumentError:
+        return MvXMLLoader::tr("Die Datei endet zu früh.");
+    case QXmlStreamReader::NotWellFormedError:
+        return MvXMLLoader::tr("Das ist kein wohlgeformtes XML (%1)").arg(reader.errorString());
+    default:
+        return reader.errorString();
+    }
+}
+
+MvXMLLoader::Error readThroughStream(QXmlStreamReader &reader)
+{
+    const auto error = [&reader](const QString &message) {
+        return MvXMLLoader::Error{message, int(reader.lineNumber()), int(reader.columnNumber()) + 1};
+    };
+    reader.setNamespaceProcessing(false); // as the document is built
+    int depth = 0;
+    int elements = 0;
+    while (!reader.atEnd()) {
+        switch (reader.readNext()) {
+        case QXmlStreamReader::StartElement:
+            if (++depth > MvXMLGuard::depthLimit)
+                return error(MvXMLLoader::tr("Die Elemente sind tiefer als %1 Ebenen verschachtelt.")
+                                 .arg(MvXMLGuard::depthLimit));
+            if (++elements > MvXMLGuard::elementLimit)
+                return error(MvXMLLoader::tr("Die Datei hat zu viele Elemente."));
+            break;
+        case QXmlStreamReader::EndElement:
+            --depth;
+            break;
+        case QXmlStreamReader::DTD:
+            if (!reader.entityDeclarations().isEmpty()) // what the raw look took for a comment or a value
+                return error(MvXMLLoader::tr("Entitäten dürfen nicht vereinbart werden."));
+            if (reader.text().contains("<!ATTLIST"_L1))
+                return error(MvXMLLoader::tr("Vorgaben für Attribute dürfen nicht vereinbart werden."));
+            break;
+        case QXmlStreamReader::EntityReference:
+            return error(MvXMLLoader::tr("Die Entität \"%1\" ist nicht bekannt.").arg(reader.name()));
+        default:
+            break;
+        }
+    }
+    return reader.hasError() ? error(messageOf(reader)) : MvXMLLoader::Error{};
+}
+
+/// Place of the first bytes that are not UTF-8, in a text that does not name another encoding. The XML reader knows
+/// only that there are some, since it decodes ahead.
+MvXMLLoader::Error wrongEncoding(const QByteArray &bytes)
+{
+    const QByteArray head = bytes.left(256).toLower();
+    if (head.contains("encoding=") && !head.contains("utf-8"))
+        return {};
+    QStringDecoder whole(QStringConverter::Utf8);
+    const QString decoded = whole.decode(bytes);
+    if (!whole.hasError())
+        return {};
+    const QList<QByteArray> lines = bytes.split('\n');
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        QStringDecoder decoder(QStringConverter::Utf8);
+        const QString line = decoder.decode(lines.at(i));
+        if (decoder.hasError())
+            return {MvXMLLoader::tr("Die Zeichen sind nicht als UTF-8 gespeichert."), int(i) + 1,
+                    int(line.indexOf(QChar::ReplacementCharacter)) + 1};
+    }
+    return {};
+}
+
+} // namespace
+
+QString MvXMLGuard::wideText(const QByteArray &bytes)
+{
+    const std::optional<QStringConverter::Encoding> encoding = QStringConverter::encodingForData(bytes, u'<');
+    if (!encoding || *encoding == QStringConverter::Utf8)
+        return {};
+    QStringDecoder decoder(*encoding);
+    return decoder.decode(bytes);
+}
+
+MvXMLLoader::Error MvXMLGuard::scan(QByteArrayView utf8)
+{
+    return RawScan(utf8).run();
+}
+
+MvXMLLoader::Error MvXMLGuard::readThrough(const QByteArray &bytes)
+{
+    QXmlStreamReader reader(bytes);
+    const MvXMLLoader::Error error = readThroughStream(reader);
+    const MvXMLLoader::Error encoding = error.isError() ? wrongEncoding(bytes) : MvXMLLoader::Error();
+    return encoding.isError() ? encoding : error;
+}
+
+MvXMLLoader::Error MvXMLGuard::readThrough(const QString &text)
+{
+    QXmlStreamReader reader(text);
+    return readThroughStream(reader);
+}

@@ -1,0 +1,276 @@
+#include "MvTest.h"
+
+#include "MvCore/MvFileBackup.h"
+#include "MvCore/MvFileGuard.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvCore/MvUniqueFilenameMaker.h"
+
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+class tst_MvSafeFileWriter : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void replacesAndKeepsMode();
+    void writesThroughLinks();
+    void refuses_data();
+    void refuses();
+    void sizeLimitLeavesTheOldFile();
+    void fullDiskLeavesTheOldFile();
+    void closedFolderIsWrittenInPlace();
+    void previousVersionStays();
+    void backupsOfSevenDays();
+    void sweepsTemporaries();
+    void setsAside();
+    void stampTellsOfOtherWriters();
+    void freeNames();
+
+private:
+    QString path(const QString &name) const { return QDir(m_dir->path()).absoluteFilePath(name); }
+    QByteArray contentOf(const QString &name) const;
+    void put(const QString &name, const QByteArray &content) const;
+    QStringList names() const
+    {
+        return QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+void tst_MvSafeFileWriter::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_dir->isValid());
+}
+
+QByteArray tst_MvSafeFileWriter::contentOf(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+void tst_MvSafeFileWriter::put(const QString &name, const QByteArray &content) const
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+void tst_MvSafeFileWriter::replacesAndKeepsMode()
+{
+    put(u"a.xml"_qs, "old");
+    QVERIFY(::chmod(QFile::encodeName(path(u"a.xml"_qs)).constData(), 0640) == 0);
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new", MvSafeFileWriter::Backups::None).isOk());
+    QCOMPARE(contentOf(u"a.xml"_qs), "new");
+    QCOMPARE(names(), QStringList{u"a.xml"_qs});
+    struct stat status = {};
+    QVERIFY(::stat(QFile::encodeName(path(u"a.xml"_qs)).constData(), &status) == 0);
+    QCOMPARE(status.st_mode & 07777, 0640u);
+}
+
+void tst_MvSafeFileWriter::writesThroughLinks()
+{
+    QVERIFY(QDir(m_dir->path()).mkdir(u"elsewhere"_qs));
+    put(u"elsewhere/real.xml"_qs, "old");
+    QVERIFY(QFile::link(u"elsewhere/real.xml"_qs, path(u"one.xml"_qs)));
+    QVERIFY(QFile::link(u"one.xml"_qs, path(u"two.xml"_qs)));
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"two.xml"_qs)), "new").isOk());
+    QVERIFY(QFileInfo(path(u"two.xml"_qs)).isSymLink());
+    QVERIFY(QFileInfo(path(u"one.xml"_qs)).isSymLink());
+    QCOMPARE(contentOf(u"elsewhere/real.xml"_qs), "new");
+    QCOMPARE(contentOf(u"elsewhere/real.xml~"_qs), "old"); // backups lie where the content lies
+
+    QVERIFY(QFile::link(u"elsewhere/later.xml"_qs, path(u"dangling.xml"_qs)));
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"dangling.xml"_qs)), "first").isOk());
+    QCOMPARE(contentOf(u"elsewhere/later.xml"_qs), "first");
+}
+
+void tst_MvSafeFileWriter::refuses_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("message");
+    QTest::newRow("folder") << u"folder"_qs << u"keine gewöhnliche Datei"_qs;
+    QTest::newRow("pipe") << u"pipe"_qs << u"keine gewöhnliche Datei"_qs;
+    QTest::newRow("device") << u"/dev/full"_qs << u"keine gewöhnliche Datei"_qs;
+    QTest::newRow("missing folder") << u"nowhere/a.xml"_qs << u"Den Ordner gibt es nicht"_qs;
+    QTest::newRow("file in place of a folder") << u"file/a.xml"_qs << u"Den Ordner gibt es nicht"_qs;
+    QTest::newRow("circle of links") << u"circle"_qs << u"im Kreis"_qs;
+    QTest::newRow("name too long") << QString(300, u'x') << u"zu lang"_qs;
+}
+
+void tst_MvSafeFileWriter::refuses()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, message);
+    QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_qs));
+    put(u"file"_qs, "kept");
+    QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_qs)).constData(), 0600), 0);
+    QVERIFY(QFile::link(u"circle"_qs, path(u"circle"_qs)));
+    const QStringList before = names();
+    const auto result = MvSafeFileWriter::write(QFileInfo(path(name)), "new");
+    QVERIFY2(result.error.contains(message), qPrintable(result.error));
+    QVERIFY(result.error.contains(name.right(20)));
+    QCOMPARE(names(), before);
+    QCOMPARE(contentOf(u"file"_qs), "kept");
+}
+
+void tst_MvSafeFileWriter::sizeLimitLeavesTheOldFile()
+{
+    put(u"a.xml"_qs, "old");
+    struct rlimit before = {};
+    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit limit = before;
+    limit.rlim_cur = 64 * 1024;
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), QByteArray(100 * 1024, 'x'));
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handler);
+    QVERIFY2(result.error.contains(u"größer als erlaubt"_qs), qPrintable(result.error));
+    QCOMPARE(contentOf(u"a.xml"_qs), "old");
+    QCOMPARE(names(), QStringList{u"a.xml"_qs});
+}
+
+void tst_MvSafeFileWriter::fullDiskLeavesTheOldFile()
+{
+    const QByteArray mountPoint = QFile::encodeName(m_dir->path());
+    if (::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=256k") != 0)
+        QSKIP("mounting a small file system needs the administrator");
+    put(u"a.xml"_qs, QByteArray(100 * 1024, 'o'));
+    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), QByteArray(200 * 1024, 'n'));
+    const QByteArray content = contentOf(u"a.xml"_qs);
+    const QStringList files = names();
+    const bool fitsLater = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "small").isOk();
+    QCOMPARE(::umount(mountPoint.constData()), 0);
+    QVERIFY2(result.error.contains(u"Datenträger ist voll"_qs), qPrintable(result.error));
+    QCOMPARE(content, QByteArray(100 * 1024, 'o'));
+    QCOMPARE(files, QStringList{u"a.xml"_qs});
+    QVERIFY(fitsLater);
+}
+
+void tst_MvSafeFileWriter::closedFolderIsWrittenInPlace()
+{
+    put(u"a.xml"_qs, "a long old content");
+    const QByteArray folder = QFile::encodeName(m_dir->path());
+    QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_qs)).constData(), 0666), 0);
+    QCOMPARE(::chmod(folder.constData(), 0555), 0);
+    const bool isAdministrator = ::geteuid() == 0; // for whom no folder is closed
+    if (isAdministrator)
+        QCOMPARE(::seteuid(65534), 0);
+    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new");
+    const auto refused = MvSafeFileWriter::write(QFileInfo(path(u"b.xml"_qs)), "new");
+    if (isAdministrator)
+        QCOMPARE(::seteuid(0), 0);
+    QCOMPARE(::chmod(folder.constData(), 0755), 0);
+    QCOMPARE(result.error, QString());
+    QCOMPARE(contentOf(u"a.xml"_qs), "new");
+    QVERIFY2(refused.error.contains(u"darf nicht geschrieben werden"_qs), qPrintable(refused.error));
+}
+
+void tst_MvSafeFileWriter::previousVersionStays()
+{
+    const QFileInfo file(path(u"a.xml"_qs));
+    const QString today = u"a.xml.%1~"_qs.arg(QDate::currentDate().toString(Qt::ISODate));
+    for (const char *version : {"1", "2", "3", "3"})
+        QVERIFY(MvSafeFileWriter::write(file, version).isOk());
+    QCOMPARE(contentOf(u"a.xml~"_qs), "2"); // writing the same again must not push the other version out
+    QCOMPARE(contentOf(today), "1");
+    QCOMPARE(MvSafeFileWriter::backups(file).size(), 2);
+
+    put(u"a.xml"_qs, "edited in place"); // backups must not share the file's storage
+    QCOMPARE(contentOf(u"a.xml~"_qs), "2");
+    put(u"a.xml"_qs, "");
+    QVERIFY(MvSafeFileWriter::write(file, "4").isOk());
+    QCOMPARE(contentOf(u"a.xml~"_qs), "2"); // an emptied file is not worth keeping
+}
+
+void tst_MvSafeFileWriter::backupsOfSevenDays()
+{
+    const QDate start(2026, 2, 26);
+    for (int day = 0; day < 9; ++day) {
+        put(u"a.xml"_qs, "state of day " + QByteArray::number(day));
+        QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "changed", start.addDays(day)));
+        QFile::remove(path(u"a.xml"_qs)); // as replacing does
+    }
+    const QList<QFileInfo> backups = MvSafeFileWriter::backups(QFileInfo(path(u"a.xml"_qs)));
+    QCOMPARE(backups.size(), 8);
+    QCOMPARE(backups.at(1).fileName(), u"a.xml.2026-03-06~"_qs);
+    QCOMPARE(backups.last().fileName(), u"a.xml.2026-02-28~"_qs);
+    QCOMPARE(contentOf(u"a.xml.2026-03-01~"_qs), "state of day 3");
+}
+
+void tst_MvSafeFileWriter::sweepsTemporaries()
+{
+    const QString mine = QFileInfo(QFile::decodeName(MvFileBackup::temporaryPath(m_dir->path()))).fileName();
+    const QStringList parts = mine.split(u'-');
+    const pid_t child = ::fork(); // a process number that is certainly gone
+    if (child == 0)
+        ::_exit(0);
+    QCOMPARE(::waitpid(child, nullptr, 0), child);
+    const QString orphan = parts.at(0) + u'-' + parts.at(1) + u'-' + QString::number(child) + u"-0-1"_qs;
+    const QString ofOtherHost = parts.at(0) + u"-0-"_qs + QString::number(child) + u"-0-1"_qs;
+    const QString old = ofOtherHost + u"0"_qs;
+    for (const QString &name : {mine, orphan, ofOtherHost, old})
+        put(name, "half");
+    QFile oldFile(path(old));
+    QVERIFY(oldFile.open(QIODevice::ReadWrite));
+    QVERIFY(oldFile.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime));
+
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new").isOk());
+    QStringList expected = {mine, ofOtherHost, u"a.xml"_qs};
+    expected.sort();
+    QStringList present = names();
+    present.sort();
+    QCOMPARE(present, expected);
+}
+
+void tst_MvSafeFileWriter::setsAside()
+{
+    const QString date = QDate::currentDate().toString(Qt::ISODate);
+    put(u"liste.xml"_qs, "broken");
+    const QFileInfo file(path(u"liste.xml"_qs));
+    QCOMPARE(QFileInfo(MvSafeFileWriter::setAside(file)).fileName(), u"liste.unlesbar-%1.xml"_qs.arg(date));
+    put(u"liste.xml"_qs, "broken again");
+    QCOMPARE(QFileInfo(MvSafeFileWriter::setAside(file)).fileName(), u"liste.unlesbar-%1-2.xml"_qs.arg(date));
+    QCOMPARE(contentOf(u"liste.unlesbar-%1.xml"_qs.arg(date)), "broken");
+    QCOMPARE(MvSafeFileWriter::setAside(QFileInfo(path(u"missing.xml"_qs))), QString());
+}
+
+void tst_MvSafeFileWriter::stampTellsOfOtherWriters()
+{
+    const QFileInfo file(path(u"a.xml"_qs));
+    QCOMPARE(MvFileGuard::stamp(file), QByteArray());
+    put(u"a.xml"_qs, "one");
+    const QByteArray stamp = MvFileGuard::stamp(file);
+    QCOMPARE(MvFileGuard::stamp(file), stamp);
+    QVERIFY(MvSafeFileWriter::write(file, "two").isOk()); // same size, same second
+    QVERIFY(MvFileGuard::stamp(file) != stamp);
+
+    const MvFileGuard first(file);
+    QVERIFY(first.isLocked());
+    QVERIFY(!MvFileGuard(file, 1).isLocked());
+}
+
+void tst_MvSafeFileWriter::freeNames()
+{
+    MvUniqueFilenameMaker &maker = MvUniqueFilenameMaker::instance();
+    put(u"foto.jpg"_qs, "x");
+    const QFileInfo file(path(u"foto.jpg"_qs));
+    QCOMPARE(maker.makeUniqueFileName(file, false).fileName(), u"foto_2.jpg"_qs);
+    QCOMPARE(maker.makeUniqueFileName(file, true).fileName(), u"foto_2.jpg"_qs);
+    QCOMPARE(maker.makeUniqueFileName(file, true).fileName(), u"foto_3.jpg"_qs); // given out, not yet written
+    QCOMPARE(maker.makeUniqueFileName(QFileInfo(path(u"frei"_qs)), true).fileName(), u"frei"_qs);
+}
+
+MV_TEST_MAIN(tst_MvSafeFileWriter)
+#include "tst_MvSafeFileWriter.moc"
