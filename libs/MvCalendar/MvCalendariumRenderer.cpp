@@ -21,15 +21,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// features of the content
-const MvCalendariumFeatures holidaysAreWritten(1);
-const MvCalendariumFeatures holidaysChangeColors(2);
-const MvCalendariumFeatures entriesAreWritten(4);
-const MvCalendariumFeatures vacationsAreShown(8);
-
-const MvCalendariumHolidayType vacation(16);
-const MvCalendariumHolidayType publicHoliday(32);
-
 const QString sampleDayNumber = u"22"_s; // the widest one
 
 constexpr double topLineWidth = 20.0;
@@ -116,7 +107,7 @@ QList<MvCalendarCellType> MvCalendariumRenderer::dayHeadCellTypes(bool withSpeci
 
 void MvCalendariumRenderer::setCalendarInformation(const MvCalendariumContentConfig &content, const MvDateRange &range)
 {
-    m_dateRange = MvDateRange(range.startDate(), range.endDate());
+    m_dateRange = MvDateRange(range.start(), range.end());
     m_content = content.moveToDayInMonth(1);
 }
 
@@ -161,13 +152,13 @@ QDate MvCalendariumRenderer::startDate() const
 
 QDate MvCalendariumRenderer::startDateOfCalendar() const
 {
-    const QDate moved = m_dateRange.startDate().addMonths(m_appearance.offsetMonth());
+    const QDate moved = m_dateRange.start().addMonths(m_appearance.offsetMonth());
     return QDate(moved.year(), moved.month(), 1);
 }
 
 QDate MvCalendariumRenderer::endDateOfCalendar() const
 {
-    return m_dateRange.endDate().addMonths(m_appearance.offsetMonth());
+    return m_dateRange.end().addMonths(m_appearance.offsetMonth());
 }
 
 int MvCalendariumRenderer::numberOfWeeks(const QDate &month) const
@@ -224,7 +215,7 @@ bool MvCalendariumRenderer::hasHoliday(const QDate &date, const MvCalendariumFea
 // a vacation never recolours a weekend
 bool MvCalendariumRenderer::hasVacationColors(const QDate &date) const
 {
-    return date.dayOfWeek() <= 5 && m_content.hasFeatures(vacationsAreShown) && tags(date).contains(vacation);
+    return date.dayOfWeek() <= 5 && m_content.hasFeatures(FEATURE_SCHOOL_VACATIONS) && tags(date).contains(vacation);
 }
 
 MvCalendarCellType MvCalendariumRenderer::headCellType(const QDate &date, const MvCalendariumFeatures &features) const
@@ -264,12 +255,12 @@ MvCalendarCellType MvCalendariumRenderer::contentCellTypeWeekDay(int dayOfWeek)
 
 MvCalendarCellTypeConfig MvCalendariumRenderer::headCellTypeConfig(const QDate &date) const
 {
-    return {headCellType(date, holidaysAreWritten), headCellType(date, holidaysChangeColors)};
+    return {headCellType(date, FEATURE_HOLIDAYS), headCellType(date, FEATURE_HOLIDAY_COLORS)};
 }
 
 MvCalendarCellTypeConfig MvCalendariumRenderer::contentCellTypeConfig(const QDate &date) const
 {
-    return {contentCellType(date, holidaysAreWritten), contentCellType(date, holidaysChangeColors)};
+    return {contentCellType(date, FEATURE_HOLIDAYS), contentCellType(date, FEATURE_HOLIDAY_COLORS)};
 }
 
 double MvCalendariumRenderer::max3(double a, double b, double c)
@@ -517,9 +508,9 @@ QStringList MvCalendariumRenderer::describePersonalHolidays(const QDate &date) c
 QStringList MvCalendariumRenderer::describeHolidays(const QDate &date) const
 {
     QStringList texts;
-    if (m_content.hasFeatures(holidaysAreWritten))
+    if (m_content.hasFeatures(FEATURE_HOLIDAYS))
         texts += describeOfficialHolidays(date);
-    if (m_content.hasFeatures(entriesAreWritten))
+    if (m_content.hasFeatures(FEATURE_ENTRIES))
         texts += describePersonalHolidays(date);
     return texts;
 }

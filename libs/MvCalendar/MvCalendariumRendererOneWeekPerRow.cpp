@@ -9,7 +9,6 @@ namespace
 
 constexpr int daysPerWeek = 7;
 constexpr int mostWeeks = 6;
-const MvCalendariumFeatures calendarWeeks(64);
 
 MvCalendarCellTypeConfig same(const MvCalendarCellType &type)
 {
@@ -51,7 +50,7 @@ QStringList MvCalendariumRendererOneWeekPerRow::maxmimumWidthCalendarWeekText() 
 bool MvCalendariumRendererOneWeekPerRow::isConfigured(const MvCalendarRenderingInformation &info) const
 {
     if (info.hasAnyOf(calendar_render_week_of_year) &&
-        (calendariumContent().hasFeatures(calendarWeeks) || appearance().overriddenShowCalendarWeek()))
+        (calendariumContent().hasFeatures(FEATURE_CALENDAR_WEEKS) || appearance().overriddenShowCalendarWeek()))
         return true;
     return MvCalendariumRenderer::isConfigured(info);
 }

@@ -1,0 +1,9 @@
+#!/bin/sh
+# Builds everything with warnings as errors and runs every test. Arguments go to ctest: ./test.sh -R MvCalendar
+set -eu
+cd "$(dirname "$0")"
+
+tools/setup.sh test
+[ -f build/dev/build.ninja ] || cmake --preset dev >/dev/null
+cmake --build --preset dev
+ctest --preset dev "$@"

@@ -1,0 +1,64 @@
+"""Installs the build into a temporary prefix and builds a stand-alone client against it, in both ways there are."""
+
+import argparse
+import os
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+CLIENT = Path(__file__).resolve().parent / "client"
+options = argparse.Namespace()
+
+
+def run(*command, **environment):
+    result = subprocess.run([str(c) for c in command], capture_output=True, text=True, env=os.environ | environment)
+    if result.returncode:
+        raise AssertionError(f"{' '.join(map(str, command))}\n{result.stdout}{result.stderr}")
+    return result.stdout
+
+
+class Package(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(cls.folder.cleanup)
+        cls.work = Path(cls.folder.name)
+        cls.prefix = cls.work / "prefix"
+        run(options.cmake, "--install", options.build, "--prefix", cls.prefix)
+
+    def pkg_config(self, *arguments):
+        path = next(self.prefix.rglob("mvcalendar.pc")).parent
+        return run("pkg-config", *arguments, "mvcalendar", PKG_CONFIG_PATH=str(path)).split()
+
+    def assert_runs(self, program):
+        libraries = next(self.prefix.rglob("libMvCalendar.so")).parent
+        self.assertEqual(run(program, LD_LIBRARY_PATH=str(libraries)), "a4 1\n")
+
+    def test_cmake(self):
+        build = self.work / "cmake"
+        run(options.cmake, "-S", CLIENT, "-B", build, f"-DCMAKE_PREFIX_PATH={self.prefix}",
+            f"-DCMAKE_CXX_COMPILER={options.compiler}", f"-DCMAKE_CXX_FLAGS={options.flags}")
+        run(options.cmake, "--build", build)
+        self.assert_runs(build / "client")
+
+    def test_pkg_config(self):
+        program = self.work / "client"
+        run(options.compiler, *options.flags.split(), "-std=c++20", "-fPIC", CLIENT / "main.cpp", "-o", program,
+            *self.pkg_config("--cflags", "--libs"))
+        self.assert_runs(program)
+        self.assertEqual(Path(*self.pkg_config("--variable=prefix")).resolve(), self.prefix.resolve())
+
+    def test_no_build_path_remains(self):
+        for path in [*self.prefix.rglob("*.cmake"), *self.prefix.rglob("*.pc")]:
+            self.assertNotIn(str(options.build), path.read_text(encoding="utf-8"), path)
+        for path in self.prefix.rglob("*.so.*.*.*"):
+            self.assertNotIn(str(options.build), run("readelf", "-d", path), path)
+
+
+if __name__ == "__main__":
+    parser = argparse.ArgumentParser()
+    for name in ("build", "cmake", "compiler", "flags"):
+        parser.add_argument(f"--{name}", default="")
+    options, rest = parser.parse_known_args()
+    unittest.main(argv=[__file__, *rest])

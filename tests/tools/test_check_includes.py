@@ -1,0 +1,82 @@
+"""Plants violations into small source trees and asks tools/check_includes to find them."""
+
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+TOOL = Path(__file__).resolve().parents[2] / "tools" / "check_includes"
+
+GROUPS = """mv_add_library(MvCalendar
+    SOURCES
+        # vocabulary
+        MvName
+        # appearance
+        MvLook
+    HEADERS_ONLY
+        # vocabulary
+        MvKey
+    PUBLIC MvModelBase
+)
+"""
+GOOD = {
+    "libs/MvCalendar/CMakeLists.txt": GROUPS,
+    "libs/MvCore/MvMath.h": "#include <QString>\n#include \"MvCore/mvcore_export.h\"\n",
+    "libs/MvXML/MvLoader.h": '#include "MvCore/MvMath.h"\n#include "MvXML/mvxml_export.h"\n',
+    "libs/MvCalendar/MvName.h": '#include "MvXML/MvLoader.h"\n#include "MvCalendar/MvKey.h"\n',
+    "libs/MvCalendar/MvKey.h": "",
+    "libs/MvCalendar/MvLook.h": '#include "MvCalendar/MvName.h"\n',
+    "libs/MvCalendar/MvLook.cpp": '#include "MvCalendar/MvLook.h"\n',
+    "apps/cli/main.cpp": '#include "MvCalendar/MvLook.h"\n#include "MvCommand.h"\n',
+    "apps/cli/MvCommand.h": "",
+}
+
+# name, files over the good tree, words that the finding must hold (none: no finding)
+CASES = [
+    ("a tree in order", {}, []),
+    ("upwards", {"libs/MvCore/MvMath.cpp": '#include "MvXML/MvLoader.h"\n'},
+     ["libs/MvCore/MvMath.cpp:1", "MvCore must not look at MvXML"]),
+    ("upwards, to a generated header", {"libs/MvCore/MvMath.cpp": '\n#include "MvXML/mvxml_export.h"\n'},
+     ["libs/MvCore/MvMath.cpp:2", "must not look at MvXML"]),
+    ("upwards in angle brackets", {"libs/MvCore/MvMath.cpp": "#  include <MvXML/MvLoader.h>\n"}, ["must not look at"]),
+    ("sideways", {"libs/MvImageLoader/MvImage.h": '#include "MvXML/MvLoader.h"\n'}, ["MvImageLoader must not look at"]),
+    ("a library on a program", {"libs/MvXML/MvB.h": '#include "cli/MvCommand.h"\n'}, ["must not look at apps/cli"]),
+    ("a program on another", {"apps/studio/main.cpp": '#include "cli/MvCommand.h"\n'},
+     ["apps/studio must not look at apps/cli"]),
+    ("a module nobody ordered", {"libs/MvNew/MvA.h": ""}, ["MvNew is in no order"]),
+    ("a header that is not there", {"libs/MvXML/MvA.h": '#include "MvCore/MvGone.h"\n'}, ["MvGone.h does not exist"]),
+    ("a group upwards", {"libs/MvCalendar/MvKey.h": '#include "MvCalendar/MvLook.h"\n'},
+     ["libs/MvCalendar/MvKey.h:1", '"vocabulary" must not look at "appearance"']),
+    ("a class in no group", {"libs/MvCalendar/MvStray.h": ""}, ["MvStray.h:1: stands in no group"]),
+    ("two headers in a circle",
+     {"libs/MvCore/MvA.h": '#include "MvCore/MvB.h"\n', "libs/MvCore/MvB.h": '#include "MvA.h"\n'},
+     ["cycle of files", "MvA.h -> libs/MvCore/MvB.h"]),
+    ("modules in a circle", {"libs/MvCore/MvMath.cpp": '#include "MvXML/MvLoader.h"\n'},
+     ["cycle of modules: MvXML -> MvCore -> MvXML"]),
+]
+
+
+class CheckIncludes(unittest.TestCase):
+    def check(self, files):
+        with tempfile.TemporaryDirectory() as folder:
+            for name, text in files.items():
+                path = Path(folder, name)
+                path.parent.mkdir(parents=True, exist_ok=True)
+                path.write_text(text, encoding="utf-8")
+            return subprocess.run([sys.executable, TOOL, folder], capture_output=True, text=True)
+
+    def test_findings(self):
+        for name, files, words in CASES:
+            with self.subTest(name):
+                result = self.check(GOOD | files)
+                self.assertEqual(result.returncode, 1 if words else 0, result.stdout + result.stderr)
+                for word in words:
+                    self.assertIn(word, result.stdout)
+
+    def test_an_empty_tree_is_not_in_order(self):
+        self.assertEqual(self.check({}).returncode, 2)
+
+
+if __name__ == "__main__":
+    unittest.main()
