@@ -4,8 +4,7 @@
 
 #include <bit>
 
-namespace
-{
+namespace {
 
 template <class E>
 int bitCount(const MvEnumWrapper<E> &value)

@@ -11,12 +11,12 @@ template class MvEnumWrapper<MvCalendarCellTypeEnum>;
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int allBits = 0xFFFFF;
 
-struct Entry {
+struct Entry
+{
     const char *name;
     MvCalendarCellTypeEnum type;
     const char *description; // null for a second name

@@ -8,13 +8,13 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString rootName = u"CalendarEvents"_s;
 const QString entryName = u"CalendarEvent"_s;
 
-struct ReadEntries {
+struct ReadEntries
+{
     MvCalendarEventList events;
     qsizetype lost = 0; // elements with content that gave no valid entry
 };

@@ -8,8 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString headerSeparator = u"$$"_s;
 
@@ -181,6 +180,11 @@ void MvCalendariumAppearance::setGridConfig(const MvBorderConfig &grid)
 {
     if (!(gridConfig() == grid))
         d->colorSchema.setGridConfig(grid);
+}
+
+void MvCalendariumAppearance::adaptGridToLayout()
+{
+    d->adaptGridToLayout();
 }
 
 QColor MvCalendariumAppearance::cellColor(const MvCalendarCellColorKey &key) const

@@ -77,6 +77,8 @@ public:
     MvCalendariumAppearance createVariant(const MvCalendariumColorSchema &schema) const;
     MvBorderConfig gridConfig() const;
     void setGridConfig(const MvBorderConfig &grid);
+    /// Switches the grid on exactly when the layout has borders.
+    void adaptGridToLayout();
     QColor cellColor(const MvCalendarCellColorKey &key) const;
     void setCellColor(const QColor &color, const MvCalendarCellColorKey &key);
     bool haveSameColors(const MvCalendarCellType &typeA, const MvCalendarCellType &typeB) const;

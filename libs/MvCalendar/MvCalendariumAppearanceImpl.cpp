@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString optimizedSizeKey = u"optimizedSize"_s;
 const QString columnHeadersKey = u"extrainformation"_s;
@@ -32,11 +31,8 @@ void MvCalendariumAppearanceImpl::read(const QDomElement &element, bool adaptGri
     columnHeaders = MvXMLParser::textAttribute(element, columnHeadersKey);
     offsetMonth = MvXMLParser::intAttribute(element, offsetMonthKey, 0);
     layoutSchema.setShowHolidays(MvXMLParser::boolAttribute(element, showHolidayKey, true));
-    if (adaptGrid) {
-        MvBorderConfig grid = colorSchema.gridConfig();
-        grid.setIsEnabled(!layoutSchema.allCellsHaveNoBorder());
-        colorSchema.setGridConfig(grid);
-    }
+    if (adaptGrid)
+        adaptGridToLayout();
 }
 
 void MvCalendariumAppearanceImpl::write(QDomElement &element, bool embedUserSchema) const
@@ -63,6 +59,13 @@ void MvCalendariumAppearanceImpl::setColorSchemaById(const MvCalendariumColorSch
 void MvCalendariumAppearanceImpl::setLayoutSchemaById(const MvCalendariumLayoutSchemaID &id)
 {
     layoutSchema = MvCalendariumLayoutSchemaRegistry::instance().findSchema(id);
+}
+
+void MvCalendariumAppearanceImpl::adaptGridToLayout()
+{
+    MvBorderConfig grid = colorSchema.gridConfig();
+    grid.setIsEnabled(!layoutSchema.allCellsHaveNoBorder());
+    colorSchema.setGridConfig(grid);
 }
 
 void MvCalendariumAppearanceImpl::readColorSchema(const QDomElement &element,

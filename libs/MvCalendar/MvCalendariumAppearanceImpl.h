@@ -9,7 +9,8 @@
 class MvCalendariumColorSchemaRegistry;
 
 /// The record behind MvCalendariumAppearance.
-struct MvCalendariumAppearanceImpl : MvSharedData {
+struct MvCalendariumAppearanceImpl : MvSharedData
+{
     MvCalendariumLayoutSchema layoutSchema;
     MvCalendariumColorSchema colorSchema;
     MvCalendariumFontSettings fontSettings;
@@ -23,6 +24,7 @@ struct MvCalendariumAppearanceImpl : MvSharedData {
 
     void setColorSchemaById(const MvCalendariumColorSchemaID &id, MvCalendariumColorSchemaRegistry *registry);
     void setLayoutSchemaById(const MvCalendariumLayoutSchemaID &id);
+    void adaptGridToLayout();
 
     bool operator==(const MvCalendariumAppearanceImpl &) const = default;
 

@@ -7,13 +7,13 @@
 
 #include <cmath>
 
-struct MvCalendariumColorCellInfoImpl : MvSharedData {
+struct MvCalendariumColorCellInfoImpl : MvSharedData
+{
     MvCalendarCellDefaultColors pairs = MvCalendarCellDefaultColors::superDefault();
     bool operator==(const MvCalendariumColorCellInfoImpl &) const = default;
 };
 
-namespace
-{
+namespace {
 
 constexpr auto background = MvCalendarCellColorRoleEnum::bgcolor;
 constexpr auto text = MvCalendarCellColorRoleEnum::textcolor;

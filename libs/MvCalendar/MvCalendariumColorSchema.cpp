@@ -2,8 +2,7 @@
 
 #include "MvCalendar/MvCalendariumColorSchemaImpl.h"
 
-namespace
-{
+namespace {
 
 std::function<MvCalendariumColorSchemaID(const MvCalendariumColorSchema &)> &idLookup()
 {

@@ -8,7 +8,8 @@
 class QDomElement;
 
 /// The record behind MvCalendariumColorSchema.
-struct MvCalendariumColorSchemaImpl : MvSharedData {
+struct MvCalendariumColorSchemaImpl : MvSharedData
+{
     MvCalendarCellColorInfo cells;
     MvBorderConfig grid; // the default border
     bool deprecated = false;

@@ -12,8 +12,7 @@ template class MvSingleton<MvCalendariumColorSchemaRegistry>;
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 const QString areaTag = u"calendararea"_s;
 }
 

@@ -11,8 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString familyKey = u"font"_s;
 const QString sizeKey = u"fontsize_percentage"_s;

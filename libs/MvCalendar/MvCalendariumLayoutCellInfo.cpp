@@ -11,13 +11,13 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr int defaultBorderWidth = 2;
 const QString defaultAlignment = u"AlignCenter"_s;
 } // namespace
 
-struct MvCalendariumLayoutCellInfoImpl : MvSharedData {
+struct MvCalendariumLayoutCellInfoImpl : MvSharedData
+{
     int borderWidth = defaultBorderWidth;
     MvCalendarBorderType borderType;
     QFont font = MvFontCreator::createDefaultFont();

@@ -10,7 +10,8 @@
 #include <QHash>
 
 /// The record behind MvCalendariumLayoutSchema.
-struct MvCalendariumLayoutSchemaImpl : MvSharedData {
+struct MvCalendariumLayoutSchemaImpl : MvSharedData
+{
     MvCalendariumLayoutSchemaID id;
     QString name;
     MvCalendariumType type;

@@ -18,8 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString sampleDayNumber = u"22"_s; // the widest one
 
@@ -209,13 +208,14 @@ QSet<MvCalendariumHolidayType> MvCalendariumRenderer::tags(const QDate &date) co
 
 bool MvCalendariumRenderer::hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const
 {
-    return m_content.hasFeatures(features) && tags(date).contains(publicHoliday);
+    return m_content.hasFeatures(features) && tags(date).contains(HOLIDAY_TYPE_PUBLIC);
 }
 
 // a vacation never recolours a weekend
 bool MvCalendariumRenderer::hasVacationColors(const QDate &date) const
 {
-    return date.dayOfWeek() <= 5 && m_content.hasFeatures(FEATURE_SCHOOL_VACATIONS) && tags(date).contains(vacation);
+    return date.dayOfWeek() <= 5 && m_content.hasFeatures(FEATURE_SCHOOL_VACATIONS) &&
+           tags(date).contains(HOLIDAY_TYPE_SCHOOL_VACATION);
 }
 
 MvCalendarCellType MvCalendariumRenderer::headCellType(const QDate &date, const MvCalendariumFeatures &features) const

@@ -4,8 +4,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 constexpr int daysPerWeek = 7;
 constexpr int mostWeeks = 6;

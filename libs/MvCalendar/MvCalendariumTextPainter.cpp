@@ -12,8 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 MvTextOutline outlineOf(const QFont &font, const QString &text)
 {

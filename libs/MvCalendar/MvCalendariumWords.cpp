@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString shortDayFormat = u"ddd"_s;
 const QString longDayFormat = u"dddd"_s;
