@@ -1,0 +1,410 @@
+#include "MvCalendar/MvCalendarEventRegistry.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventMerge.h"
+
+#include "MvCore/MvBasisSettings.h"
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvFileGuard.h"
+#include "MvCore/MvLogger.h"
+#include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvProactiveHelpController.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvFoto/MvFotoAccess.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSet>
+
+template class MvSingleton<MvCalendarEventRegistry>;
+
+using namespace Qt::StringLiterals;
+
+const MvProjectIdentifier DEFAULT_PROJECT_ID(u"DEFAULT_START_CALENDAR_ID"_s, false);
+
+namespace
+{
+
+constexpr int importAdvice = 43;
+constexpr double importAdviceDelay = 0.5;
+constexpr int importAdviceHelpType = 4;
+
+MvCalendarEventList validOnly(const MvCalendarEventList &events)
+{
+    MvCalendarEventList valid;
+    for (const MvCalendarEvent &event : events) {
+        if (event.isValid())
+            valid.append(event);
+    }
+    return valid;
+}
+
+MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPath)
+{
+    MvFoto foto;
+    const QImage image = person.image();
+    if (!image.isNull() && image.save(temporaryPath, "PNG"))
+        foto = MvFoto(QFileInfo(temporaryPath));
+    return MvCalendarEvent(person.name(), person.birthday().startOfDay(), true, foto, person.uuid(),
+                           QDateTime::currentDateTime());
+}
+
+} // namespace
+
+MvCalendarEventRegistry::MvCalendarEventRegistry()
+    : m_activeModelId(DEFAULT_PROJECT_ID)
+{
+    store(DEFAULT_PROJECT_ID, {});
+    load();
+}
+
+void MvCalendarEventRegistry::setupInstance()
+{
+}
+
+// ---- what falls on a day
+
+const MvCalendarEventIndex *MvCalendarEventRegistry::indexFor(const MvCalendariumContentConfig &config,
+                                                              const MvProjectIdentifier &project) const
+{
+    if (!config.hasFeatures(MvCalendariumFeatures(FEATURE_ENTRIES)))
+        return nullptr;
+    const auto found = m_lists.constFind(project);
+    return found == m_lists.cend() ? nullptr : &*found;
+}
+
+template <class Function>
+void MvCalendarEventRegistry::visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project,
+                                    Function function) const
+{
+    if (const MvCalendarEventIndex *index = indexFor(config, project))
+        index->visit(config.date(), function);
+}
+
+bool MvCalendarEventRegistry::hasHolidayOfType(const MvCalendariumContentKey &, const MvCalendariumHolidayType &)
+{
+    return false;
+}
+
+QStringList MvCalendarEventRegistry::descriptions(const MvCalendariumContentKey &key)
+{
+    QStringList texts;
+    visit(key.config(), key.project(), [&texts](const MvCalendarEvent &event) {
+        texts.append(event.description());
+        return false;
+    });
+    return texts;
+}
+
+MvImageReference MvCalendarEventRegistry::imageFile(const MvCalendariumContentKey &key) const
+{
+    MvImageReference reference;
+    visit(key.config(), key.project(), [&reference](const MvCalendarEvent &event) {
+        if (!event.foto().mayBeOpened() || !event.imagePath().isFile())
+            return false;
+        reference = {event.imagePath().absoluteFilePath(), event.imageSize()};
+        return true;
+    });
+    return reference;
+}
+
+MvCalendarEventList MvCalendarEventRegistry::events(const MvCalendariumContentConfig &config) const
+{
+    return events(config, m_activeModelId);
+}
+
+MvCalendarEventList MvCalendarEventRegistry::events(const MvCalendariumContentConfig &config,
+                                                    const MvProjectIdentifier &project) const
+{
+    MvCalendarEventList found;
+    visit(config, project, [&found](const MvCalendarEvent &event) {
+        found.append(event);
+        return false;
+    });
+    return found;
+}
+
+QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key) const
+{
+    QImage image;
+    visit(key.config(), key.project(), [&image](const MvCalendarEvent &event) {
+        image = MvFotoAccess::fullRes(event.foto());
+        return !image.isNull();
+    });
+    return image;
+}
+
+QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key, const QSize &bounds) const
+{
+    QImage image;
+    visit(key.config(), key.project(), [&image, &bounds](const MvCalendarEvent &event) {
+        image = MvFotoAccess::scaled(event.foto(), bounds);
+        return !image.isNull();
+    });
+    return image;
+}
+
+// ---- lists
+
+void MvCalendarEventRegistry::store(const MvProjectIdentifier &project, const MvCalendarEventList &events)
+{
+    m_lists.insert(project, MvCalendarEventIndex(events));
+}
+
+void MvCalendarEventRegistry::setActiveModelId(const MvProjectIdentifier &id, bool silent)
+{
+    if (!m_lists.contains(id))
+        store(id, eventsOfProject(DEFAULT_PROJECT_ID));
+    m_activeModelId = id;
+    if (!silent)
+        Q_EMIT eventsChanged();
+}
+
+void MvCalendarEventRegistry::updateActiveModelId(const MvProjectIdentifier &from, const MvProjectIdentifier &to)
+{
+    store(to, eventsOfProject(from));
+    Q_EMIT eventsChanged();
+}
+
+MvCalendarEventList MvCalendarEventRegistry::eventsOfProject(const MvProjectIdentifier &project) const
+{
+    const auto found = m_lists.constFind(project);
+    return found == m_lists.cend() ? MvCalendarEventList() : found->events();
+}
+
+void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
+{
+    const MvCalendarEventList own = withOwnFotos(validOnly(events));
+    {
+        MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
+        const MvFileGuard guard(calendarEventsDir());
+        store(m_activeModelId, withChangesOfOthers(own));
+        saveUserFile(activeEventList());
+    }
+    Q_EMIT eventsChanged();
+}
+
+bool MvCalendarEventRegistry::changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after)
+{
+    if (before == after)
+        return false;
+    const MvCalendarEventList present = eventsOfCurrentProject();
+    MvCalendarEventList changed = present;
+    const qsizetype position = before.isValid() ? changed.indexOf(before) : -1;
+    if (position >= 0 && after.isValid())
+        changed[position] = after;
+    else if (position >= 0)
+        changed.removeAt(position);
+    else if (after.isValid())
+        changed.append(after);
+    if (changed == present)
+        return false;
+    setEvents(changed);
+    return true;
+}
+
+MvCalendarEventList MvCalendarEventRegistry::mergeLists(const MvCalendarEventList &base,
+                                                        const MvCalendarEventList &other, bool keepBase) const
+{
+    return MvCalendarEventMerge::joined(base, other, keepBase);
+}
+
+MvCalendarEventList MvCalendarEventRegistry::onlyNewEvents(const MvCalendarEventList &base,
+                                                           const MvCalendarEventList &other) const
+{
+    return mergeLists(base, other, false);
+}
+
+// ---- reading
+
+MvCalendarEventList MvCalendarEventRegistry::readFromDocument(const QDomDocument &document) const
+{
+    return readFromElement(document.firstChildElement(u"CalendarEvents"_s));
+}
+
+MvCalendarEventList MvCalendarEventRegistry::readFromElement(const QDomElement &element) const
+{
+    return MvCalendarEventFile::readElement(element);
+}
+
+QFileInfo MvCalendarEventRegistry::calendarEventsDir() const
+{
+    return MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml"_s);
+}
+
+bool MvCalendarEventRegistry::isUserFile(const QFileInfo &file) const
+{
+    return file.absoluteFilePath() == calendarEventsDir().absoluteFilePath();
+}
+
+bool MvCalendarEventRegistry::load()
+{
+    return loadFrom(calendarEventsDir(), false);
+}
+
+bool MvCalendarEventRegistry::loadFrom(const QFileInfo &file, bool merge)
+{
+    MvLogger::legacyLog(u"CalendarEvents ACTION:loadFromFileOnStartup MERGE:%1"_s.arg(merge ? u"set"_s : u"unset"_s));
+    const QByteArray stamp = MvFileGuard::stamp(file); // before reading: a later change is then noticed
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
+    if (isUserFile(file)) {
+        const bool isDamaged = !content.isRead() && !content.isMissing;
+        m_file = {content.events, stamp, isDamaged || (content.isRead() && !content.isComplete), isDamaged};
+    }
+    if (!content.isRead()) {
+        if (!content.isMissing)
+            qWarning().noquote() << content.error;
+        return false;
+    }
+    const MvCalendarEventList events =
+        merge ? mergeLists({}, content.events, true) : mergeLists(activeEventList(), content.events, true);
+    if (!events.isEmpty()) {
+        store(m_activeModelId, events);
+        Q_EMIT eventsChanged();
+    }
+    return true;
+}
+
+// ---- writing
+
+void MvCalendarEventRegistry::save() const
+{
+    saveAs(calendarEventsDir());
+}
+
+void MvCalendarEventRegistry::saveAs(const QFileInfo &file) const
+{
+    if (!isUserFile(file)) {
+        write(file, activeEventList());
+        return;
+    }
+    MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
+    const MvFileGuard guard(file);
+    const File before = m_file;
+    const MvCalendarEventList events = activeEventList();
+    const MvCalendarEventList all = withChangesOfOthers(withOwnFotos(events));
+    if (saveUserFile(all) && all != events) {
+        // the list here does not have all of that yet: the next change takes it in
+        m_file.events = before.events;
+        m_file.stamp = before.stamp;
+    }
+}
+
+/// Photos elsewhere, which came with an imported file, are copied into the photo folder.
+MvCalendarEventList MvCalendarEventRegistry::withOwnFotos(const MvCalendarEventList &events) const
+{
+    const QString ownFolder = MvCalendarEvent::imageDirectory().absolutePath() + u'/';
+    MvCalendarEventList own = events;
+    for (qsizetype i = 0; i < events.size(); ++i) {
+        const MvFoto foto = events.at(i).foto();
+        const QString path = foto.localFilePath();
+        if (!foto.mayBeOpened() || (path.startsWith(ownFolder) && !path.mid(ownFolder.size()).contains(u'/')) ||
+            !QFileInfo(path).isFile())
+            continue;
+        MvCalendarEvent &event = own[i];
+        event.setFoto(m_takenOver.value(path, foto));
+        m_takenOver.insert(path, event.foto());
+    }
+    return own;
+}
+
+/// The list together with what another program has written since the file was last read or written here.
+MvCalendarEventList MvCalendarEventRegistry::withChangesOfOthers(const MvCalendarEventList &events) const
+{
+    const QFileInfo file = calendarEventsDir();
+    const QByteArray stamp = MvFileGuard::stamp(file);
+    if (stamp.isEmpty() || stamp == m_file.stamp)
+        return events;
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
+    m_file.mustBeSetAside = !content.isComplete;
+    if (!content.isRead())
+        return events;
+    MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
+    return MvCalendarEventMerge::threeWay(m_file.events, events, content.events);
+}
+
+bool MvCalendarEventRegistry::saveUserFile(const MvCalendarEventList &events) const
+{
+    const QFileInfo file = calendarEventsDir();
+    if (m_file.mustBeSetAside && QFileInfo::exists(file.absoluteFilePath())) {
+        const QString aside = MvSafeFileWriter::setAside(file);
+        if (aside.isEmpty()) {
+            reportSaveError(tr("%1 ist nicht vollständig lesbar und ließ sich nicht beiseitelegen. Es wurde nichts "
+                               "überschrieben.")
+                                .arg(file.absoluteFilePath()));
+            return false;
+        }
+        MvLogger::legacyLog(u"CalendarEvents ACTION:setAside VALUE:%1"_s.arg(aside));
+    }
+    m_file.mustBeSetAside = false;
+    if (!write(file, events))
+        return false;
+    m_file.events = events;
+    m_file.stamp = MvFileGuard::stamp(file);
+    return true;
+}
+
+bool MvCalendarEventRegistry::write(const QFileInfo &file, const MvCalendarEventList &events) const
+{
+    MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file.baseName()));
+    const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, MvCalendarEventFile::toBytes(events));
+    reportSaveError(result.error);
+    if (!result.isOk())
+        return false;
+    if (!result.note.isEmpty())
+        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
+    MvPlatformIndependent::instance().fileWritten(QFileInfo(file.absoluteFilePath()));
+    return true;
+}
+
+void MvCalendarEventRegistry::reportSaveError(const QString &error) const
+{
+    m_lastSaveError = error;
+    if (!error.isEmpty())
+        qWarning().noquote() << error;
+}
+
+// ---- address book and photos
+
+MvCalendarEventList MvCalendarEventRegistry::loadFromSystemAddressBook()
+{
+    const MvSimplePersonList persons = MvPlatformIndependent::instance().addressBookContacts();
+    const QString folder = MvBasisSettings::instance().temporaryDirectory();
+    MvCalendarEventList events;
+    for (const MvSimplePerson &person : persons) {
+        const QString temporaryPath = u"%1/%2.png"_s.arg(folder, person.uuid().toString());
+        events.append(eventOf(person, temporaryPath));
+        QFile::remove(temporaryPath);
+    }
+    return events;
+}
+
+void MvCalendarEventRegistry::playImportedCustomerEntriesProactiveAdvice(int foundInAddressBook, int imported) const
+{
+    const QString text = tr("%1 von %2 Einträgen mit Geburtstagen importiert").arg(imported).arg(foundInAddressBook);
+    MvProactiveHelpController &help = MvProactiveHelpController::instance();
+    help.resetPendingAdvicesAndClose();
+    help.updatePlaceHolderText(importAdvice, u"#ENTRIES_MESSAGE#"_s, text);
+    help.showAdvice(importAdvice, importAdviceDelay, importAdviceHelpType, MvProactiveHelpTransferContent{0, {}});
+}
+
+void MvCalendarEventRegistry::cleanupImageDirectory() const
+{
+    if (m_file.couldNotBeRead)
+        return;
+    QSet<QString> used; // under every name: the user's folder may be reached through links
+    const MvCalendarEventList events = withChangesOfOthers(activeEventList());
+    if (m_file.mustBeSetAside) // another program has left what cannot be read
+        return;
+    for (const MvCalendarEvent &event : events) {
+        if (!event.foto().isValid())
+            continue;
+        used.insert(event.imagePath().absoluteFilePath());
+        used.insert(event.imagePath().canonicalFilePath());
+    }
+    const QFileInfoList files = MvCalendarEvent::imageDirectory().entryInfoList(QDir::Files, QDir::Unsorted);
+    for (const QFileInfo &file : files) {
+        if (!used.contains(file.absoluteFilePath()) && !used.contains(file.canonicalFilePath()))
+            QFile::remove(file.absoluteFilePath());
+    }
+}

@@ -1,0 +1,132 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarEventIndex.h"
+#include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/mvcalendar_export.h"
+
+#include "MvCore/MvSingleton.h"
+#include "MvModelBase/MvProjectIdentifier.h"
+#include "MvProductBase/MvAbstractHolidayCache.h"
+
+#include <QByteArray>
+#include <QDomDocument>
+#include <QDomElement>
+#include <QFileInfo>
+#include <QHash>
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+class MvCalendarEventRegistry;
+extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendarEventRegistry>;
+
+/// The list that exists before any document is opened.
+MVCALENDAR_EXPORT extern const MvProjectIdentifier DEFAULT_PROJECT_ID;
+
+/// The user's personal entries: one list per document, one of them active. The active one is shown, edited and kept in
+/// the user's file, which is written at once after every change.
+///
+/// Several running programs may share the file: before it is written, what others have changed since is taken in. A
+/// file that could not be read is set aside before it is overwritten. To be used from the GUI thread.
+class MVCALENDAR_EXPORT MvCalendarEventRegistry : public MvAbstractHolidayCache,
+                                                  public MvSingleton<MvCalendarEventRegistry>
+{
+    Q_OBJECT
+
+public:
+    MvCalendarEventRegistry();
+
+    /// Personal entries are never holidays: always false.
+    bool hasHolidayOfType(const MvCalendariumContentKey &key, const MvCalendariumHolidayType &type) override;
+
+    // What falls on a day. Without the feature "entries" in the configuration: nothing. None of these searches the
+    // list or decodes anything that was decoded before.
+    QStringList descriptions(const MvCalendariumContentKey &key) override;
+    /// The file of the first entry of the day whose photo exists and may be opened.
+    MvImageReference imageFile(const MvCalendariumContentKey &key) const override;
+    MvCalendarEventList events(const MvCalendariumContentConfig &config) const;
+    MvCalendarEventList events(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project) const;
+    /// The photo, in full resolution, of the first entry of the day that has one which can be read; else null.
+    QImage eventImage(const MvCalendariumContentKey &key) const;
+    /// The same within the bounds (pixels), keeping the aspect ratio, smooth: what painting a cell needs. Decoded once
+    /// per photo and size.
+    QImage eventImage(const MvCalendariumContentKey &key, const QSize &bounds) const;
+
+    void setupInstance() override;
+
+    MvProjectIdentifier activeModelId() const { return m_activeModelId; }
+    /// Makes a document's list the active one; a document without a list starts with a copy of the default list.
+    void setActiveModelId(const MvProjectIdentifier &id, bool silent);
+    /// Copies the list of one document to another, such as a document saved under a new name.
+    void updateActiveModelId(const MvProjectIdentifier &from, const MvProjectIdentifier &to);
+
+    MvCalendarEventList eventsOfProject(const MvProjectIdentifier &project) const;
+    MvCalendarEventList activeEventList() const { return eventsOfProject(m_activeModelId); }
+    MvCalendarEventList eventsOfCurrentProject() const { return activeEventList(); }
+
+    /// Replaces the active list by the valid entries of the list and saves it. Photos that came with an imported file
+    /// are copied into the photo folder.
+    void setEvents(const MvCalendarEventList &events);
+    /// Replaces an entry; an invalid `before` adds one, an invalid `after` removes one. Says whether anything changed.
+    bool changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after);
+
+    /// `base`, when it is to be kept, then the entries of `other` whose uuid is null or unknown in `base`.
+    MvCalendarEventList mergeLists(const MvCalendarEventList &base, const MvCalendarEventList &other,
+                                   bool keepBase) const;
+    MvCalendarEventList onlyNewEvents(const MvCalendarEventList &base, const MvCalendarEventList &other) const;
+
+    MvCalendarEventList readFromDocument(const QDomDocument &document) const;
+    MvCalendarEventList readFromElement(const QDomElement &element) const;
+
+    /// The user's file, whether it exists or not.
+    QFileInfo calendarEventsDir() const;
+    /// Reads the user's file; false when it is missing or damaged.
+    bool load();
+    /// Reads a file into the active list. The flag works the other way round than its name says, which callers rely
+    /// on: set, the file's entries replace the list; unset, those with unknown uuids are added.
+    bool loadFrom(const QFileInfo &file, bool merge);
+    void save() const;
+    void saveAs(const QFileInfo &file) const;
+    /// Why the last saving failed, for a person; empty when it did not.
+    QString lastSaveError() const { return m_lastSaveError; }
+
+    /// An entry for each contact of the system's address book. Nothing is stored.
+    MvCalendarEventList loadFromSystemAddressBook();
+    /// Tells the user how many of the found birthdays are new.
+    void playImportedCustomerEntriesProactiveAdvice(int foundInAddressBook, int imported) const;
+
+    /// Deletes the photos in the photo folder that no entry of the active list uses. Does nothing as long as the
+    /// user's file could not be read: its entries are not known then.
+    void cleanupImageDirectory() const;
+
+Q_SIGNALS:
+    void eventsChanged();
+
+private:
+    /// What is known about the user's file: knowledge about the disk, not part of the registry's state.
+    struct File {
+        MvCalendarEventList events;  // what it held when last read or written here
+        QByteArray stamp;            // the state of the file at that time
+        bool mustBeSetAside = false; // it holds what is not in the list: keep it before overwriting
+        bool couldNotBeRead = false; // its entries, and so the photos in use, are unknown
+    };
+
+    const MvCalendarEventIndex *indexFor(const MvCalendariumContentConfig &config,
+                                         const MvProjectIdentifier &project) const;
+    template <class Function>
+    void visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project, Function function) const;
+
+    void store(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    MvCalendarEventList withOwnFotos(const MvCalendarEventList &events) const;
+    MvCalendarEventList withChangesOfOthers(const MvCalendarEventList &events) const;
+    bool saveUserFile(const MvCalendarEventList &events) const;
+    bool write(const QFileInfo &file, const MvCalendarEventList &events) const;
+    bool isUserFile(const QFileInfo &file) const;
+    void reportSaveError(const QString &error) const;
+
+    QHash<MvProjectIdentifier, MvCalendarEventIndex> m_lists;
+    MvProjectIdentifier m_activeModelId;
+    mutable File m_file;
+    mutable QHash<QString, MvFoto> m_takenOver; // copies of imported photos by the path they came from
+    mutable QString m_lastSaveError;
+};
