@@ -1,0 +1,66 @@
+#include "MvProject/MvFileNamePattern.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The placeholder's text; a null string for an unknown one.
+QString replacement(QChar letter, const QDate &month, int page)
+{
+    switch (letter.unicode()) {
+    case u'm':
+        return u"%1"_s.arg(month.month(), 2, 10, QChar(u'0'));
+    case u'y':
+        return u"%1"_s.arg(month.year(), 4, 10, QChar(u'0'));
+    case u'n':
+        return u"%1"_s.arg(page + 1, 2, 10, QChar(u'0'));
+    case u'%':
+        return u"%"_s;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+QString MvFileNamePattern::path(const QDate &month, int page) const
+{
+    const qsizetype nameStart = m_path.lastIndexOf(u'/') + 1;
+    QString result = m_path.left(nameStart);
+    for (qsizetype i = nameStart; i < m_path.size(); ++i) {
+        const bool isPlaceholder = m_path[i] == u'%' && i + 1 < m_path.size();
+        const QString text = isPlaceholder ? replacement(m_path[i + 1], month, page) : QString();
+        result += text.isNull() ? QString(m_path[i]) : text;
+        i += text.isNull() ? 0 : 1;
+    }
+    return result;
+}
+
+QStringList MvFileNamePattern::paths(const QList<QDate> &pages, QString *error) const
+{
+    QString name = QFileInfo(m_path).fileName().remove(u"%%"_s);
+    for (const QString &known : {u"%m"_s, u"%y"_s, u"%n"_s})
+        name.remove(known);
+    if (name.contains(u'%')) {
+        *error =
+            tr("%1: unbekannter Platzhalter; erlaubt sind %m (Monat), %y (Jahr), %n (Seite) und %% (Prozentzeichen)")
+                .replace(u"%1"_s, m_path);
+        return {};
+    }
+
+    QStringList result;
+    for (int page = 0; page < pages.size(); ++page)
+        result.append(path(pages[page], page));
+    if (QSet<QString>(result.cbegin(), result.cend()).size() != result.size()) {
+        *error = tr("%1: bei %2 Seiten braucht der Dateiname einen Platzhalter, der sie unterscheidet: %n (Seite), %m "
+                    "(Monat) oder %y-%m")
+                     .replace(u"%1"_s, m_path)
+                     .replace(u"%2"_s, QString::number(pages.size()));
+        return {};
+    }
+    return result;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "MvProject/MvPageFormat.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+
+#include <functional>
+
+class QPainter;
+
+/// Pages to be exported: how many, on which paper, and who paints them.
+class MVPROJECT_EXPORT MvPageSource
+{
+public:
+    MvPageFormat format;
+    /// One page per date, the first day of the month that it shows; file names are made from it.
+    QList<QDate> pages;
+    /// Paints the page with the number, counted from 0, in tenths of a millimetre with the origin at the top left
+    /// corner of the trimmed page.
+    std::function<void(QPainter &painter, int page)> paint;
+
+    QString title;
+    QString author;
+
+    /// What keeps the pages from being exported, for a person; empty when nothing does.
+    QString error() const;
+
+    /// Has a page painted for print, clipped to the page and its bleed. The trimmed page's corner lies at `corner` of
+    /// the device and a tenth of a millimetre measures `scale` of its units. The painter's state is as before after.
+    void paintPage(QPainter &painter, int page, const QPointF &corner, double scale) const;
+};

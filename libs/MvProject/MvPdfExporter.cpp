@@ -1,0 +1,67 @@
+#include "MvProject/MvPdfExporter.h"
+
+#include "MvCore/MvMath.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfBoxes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QTemporaryFile>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Paints all pages with the lower left corner of the media box at that of the PDF page, which is up to a point larger.
+QString paintRawFile(QTemporaryFile &file, const MvPageSource &source)
+{
+    const QSizeF media = source.format.mediaRect().size() * MvPdfBoxes::pointsPerTenthMillimetre;
+    const QSize points(int(std::ceil(media.width())), int(std::ceil(media.height())));
+
+    QPdfWriter writer(&file);
+    writer.setResolution(MvPdfExporter::resolution);
+    writer.setTitle(source.title);
+    writer.setCreator(u"MvCalendar"_s);
+    writer.setPageLayout(QPageLayout(QPageSize(points, u"page"_s, QPageSize::ExactMatch), QPageLayout::Portrait, {}));
+
+    constexpr double scale = MvPdfExporter::resolution / MvMath::tenthMillimetresPerInch;
+    const double top = MvMath::point2pixel(points.height() - media.height(), MvPdfExporter::resolution);
+    const QPointF corner(source.format.bleed() * scale, source.format.bleed() * scale + top);
+
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return QCoreApplication::translate("MvPdfExporter", "Die Seiten lassen sich nicht zeichnen");
+    for (int page = 0; page < source.pages.size(); ++page) {
+        if (page > 0 && !writer.newPage())
+            return QCoreApplication::translate("MvPdfExporter", "Seite %1 lässt sich nicht anlegen").arg(page + 1);
+        source.paintPage(painter, page, corner, scale);
+    }
+    painter.end();
+    return file.flush() && file.error() == QFile::NoError ? QString() : file.errorString();
+}
+
+} // namespace
+
+MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo &target)
+{
+    QString error = source.error();
+    QTemporaryFile raw(QDir::tempPath() + u"/mvcalendar-XXXXXX.pdf"_s);
+    if (error.isEmpty() && !raw.open())
+        error = raw.errorString();
+    if (error.isEmpty())
+        error = paintRawFile(raw, source);
+    if (error.isEmpty()) {
+        error = MvPdfBoxes::finish(raw.fileName(), source, [&target](const QByteArray &content) {
+            return MvSafeFileWriter::write(target, content).error;
+        });
+    }
+    if (!error.isEmpty())
+        return {u"%1: %2"_s.arg(target.filePath(), error), {}};
+    return {{}, {target}};
+}

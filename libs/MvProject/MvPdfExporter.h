@@ -1,0 +1,18 @@
+#pragma once
+
+#include "MvProject/MvExportResult.h"
+#include "MvProject/mvproject_export.h"
+
+class MvPageSource;
+
+/// Writes pages as one PDF: vectors, sRGB, exact MediaBox, BleedBox and TrimBox.
+class MVPROJECT_EXPORT MvPdfExporter
+{
+public:
+    /// Dots per inch that the painter reports; images are scaled for it.
+    static constexpr int resolution = 300;
+
+    /// Pages are painted one after the other into a temporary file, so that memory does not grow with what has been
+    /// painted, and the finished file takes the target's name at the end.
+    static MvExportResult write(const MvPageSource &source, const QFileInfo &target);
+};

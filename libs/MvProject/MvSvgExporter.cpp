@@ -1,0 +1,53 @@
+#include "MvProject/MvSvgExporter.h"
+
+#include "MvCore/MvMath.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvFileNamePattern.h"
+#include "MvProject/MvPageSource.h"
+
+#include <QBuffer>
+#include <QPainter>
+#include <QSvgGenerator>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int resolution = 300;
+
+QByteArray paintSvg(const MvPageSource &source, int page)
+{
+    constexpr double scale = resolution / MvMath::tenthMillimetresPerInch;
+    const QSizeF size = source.format.trimSize() * scale;
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setResolution(resolution);
+    generator.setSize(size.toSize()); // written in millimetres, rounded to the dot
+    generator.setViewBox(QRectF(QPointF(), size));
+    generator.setTitle(source.title);
+    QPainter painter(&generator);
+    source.paintPage(painter, page, {}, scale);
+    painter.end();
+    return buffer.data();
+}
+
+} // namespace
+
+MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &pattern)
+{
+    MvExportResult result{source.error(), {}};
+    QStringList paths;
+    if (result.isOk())
+        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error);
+    for (int page = 0; page < paths.size(); ++page) {
+        const QString error = MvSafeFileWriter::write(QFileInfo(paths[page]), paintSvg(source, page)).error;
+        if (!error.isEmpty()) {
+            result.error = u"%1: %2"_s.arg(paths[page], error);
+            break;
+        }
+        result.files.append(QFileInfo(paths[page]));
+    }
+    return result;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "MvProject/MvExportResult.h"
+#include "MvProject/mvproject_export.h"
+
+class MvPageSource;
+
+/// Writes each page as an SVG of the trimmed page, measured in millimetres.
+class MVPROJECT_EXPORT MvSvgExporter
+{
+public:
+    /// File names by MvFileNamePattern. The first page that cannot be written ends the export.
+    static MvExportResult write(const MvPageSource &source, const QString &pattern);
+};
