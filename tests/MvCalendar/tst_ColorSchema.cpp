@@ -1,0 +1,324 @@
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarCellColorInfo.h"
+#include "MvCalendar/MvCalendariumColorCellInfo.h"
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvXML/MvXMLBuilder.h"
+#include "MvXML/MvXMLLoader.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto background = MvCalendarCellColorRoleEnum::bgcolor;
+constexpr auto text = MvCalendarCellColorRoleEnum::textcolor;
+constexpr auto even = MvParityLogicEnum::even;
+constexpr auto odd = MvParityLogicEnum::odd;
+constexpr auto both = MvParityLogicEnum::both;
+
+QDomElement element(const QString &xml)
+{
+    static QList<QDomDocument> documents; // an element does not keep its document
+    documents.append(MvXMLLoader::parse(xml.toUtf8()));
+    return documents.constLast().documentElement();
+}
+
+MvCalendariumColorSchema schema(const QString &children)
+{
+    return MvCalendariumColorSchema(element(u"<calendararea>%1</calendararea>"_s.arg(children)));
+}
+
+QString hex(const QColor &color)
+{
+    return color.name(QColor::HexArgb);
+}
+
+MvCalendariumColorSchema writtenAndRead(const MvCalendariumColorSchema &original, QDomElement *written = nullptr)
+{
+    QDomDocument document;
+    QDomElement area = MvXMLBuilder::buildRootElement(document, u"calendararea"_s);
+    original.write(area, MvCalendariumColorSchemaID(u"X"_s));
+    const QDomElement read = element(document.toString());
+    if (written)
+        *written = read;
+    return MvCalendariumColorSchema(read);
+}
+
+} // namespace
+
+class tst_ColorSchema : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsCells_data();
+    void readsCells();
+    void grid_data();
+    void grid();
+    void roundTrip_data();
+    void roundTrip();
+    void writesOnlyDeviations();
+    void copies();
+    void sharesUntilChanged();
+    void describesDifferences();
+    void contrast();
+
+    void registryAliasesDuplicates();
+    void registryRenamesOldIds();
+    void registryKeepsUserSchemata();
+    void registryHidesSchemata();
+    void shippedSchemata();
+};
+
+void tst_ColorSchema::readsCells_data()
+{
+    QTest::addColumn<QString>("cells");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("evenBackground");
+    QTest::addColumn<QString>("oddText");
+    const QString defaults = u"<celldefault bgcolor='#102030' textcolor='#405060'/>"_s;
+    QTest::newRow("one attribute for both parities")
+        << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/>"_s << 8 << u"#ffff0000"_s << u"#ff000000"_s;
+    QTest::newRow("two attributes")
+        << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcoloreven='#80ff0000' textcolorodd='blue'/>"_s << 8
+        << u"#80ff0000"_s << u"#ff0000ff"_s;
+    QTest::newRow("defaults of the schema") << defaults << int(CALENDAR_CELL_TYPE_MONTH) << u"#ff102030"_s
+                                            << u"#ff405060"_s;
+    QTest::newRow("missing role takes the schema's default")
+        << defaults + u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/>"_s << 8 << u"#ffff0000"_s
+        << u"#ff405060"_s;
+    QTest::newRow("several types in one element")
+        << u"<cell type='CALENDAR_CELL_TYPE_TITLE, CALENDAR_CELL_TYPE_YEAR' bgcolor='#00ff00'/>"_s
+        << int(CALENDAR_CELL_TYPE_YEAR) << u"#ff00ff00"_s << u"#ff000000"_s;
+    QTest::newRow("vacations take the colours of Saturdays")
+        << u"<cell type='CALENDAR_CELL_TYPE_SATURDAY' bgcolor='#00ff00'/>"_s << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
+        << u"#ff00ff00"_s << u"#ff000000"_s;
+    QTest::newRow("holidays do not") << u"<cell type='CALENDAR_CELL_TYPE_SATURDAY' bgcolor='#00ff00'/>"_s
+                                     << int(CALENDAR_CELL_TYPE_HOLIDAY) << u"#00000000"_s << u"#ff000000"_s;
+    QTest::newRow("no colour at all") << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='rot'/>"_s << 8
+                                      << u"#00000000"_s << u"#ff000000"_s;
+}
+
+void tst_ColorSchema::readsCells()
+{
+    QFETCH(QString, cells);
+    QFETCH(int, type);
+    const MvCalendariumColorSchema read = schema(cells);
+    QVERIFY(read.isValid());
+    QTEST(hex(read.cellColor({background, MvCalendarCellType(type), even})), "evenBackground");
+    QTEST(hex(read.cellColor({text, MvCalendarCellType(type), odd})), "oddText");
+    QCOMPARE(read.cellColors().usedCellTypes(), MvCalendarCellType::allTypes());
+    QCOMPARE(read.cellColor({background, MvCalendarCellType(type), both}), QColor(Qt::transparent)); // not a single key
+}
+
+void tst_ColorSchema::grid_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<QString>("children");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QString>("color");
+    const QString border = u"<border enabled='%1' color='#112233' width='3'/>"_s;
+    const QString cell = u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' %1/>"_s;
+    QTest::newRow("border") << QString() << border.arg(u"true"_s) << true << u"#ff112233"_s;
+    QTest::newRow("a disabled border is the default one") << QString() << border.arg(u"false"_s) << false
+                                                          << u"#ff000000"_s;
+    QTest::newRow("nothing") << QString() << QString() << false << u"#ff000000"_s;
+    QTest::newRow("old colour") << u"gridcolor='#aabbcc'"_s << QString() << true << u"#ffaabbcc"_s;
+    QTest::newRow("old transparent colour") << u"gridcolor='transparent'"_s << QString() << false << u"#00000000"_s;
+    QTest::newRow("switched off by the user")
+        << u"gridcolor='#aabbcc' userGridVisible='false'"_s << QString() << false << u"#ffaabbcc"_s;
+    QTest::newRow("recoloured by the user")
+        << u"gridcolor='#aabbcc' userGridColor='#010203'"_s << QString() << true << u"#ff010203"_s;
+    QTest::newRow("guessed from the cells") << QString() << cell.arg(u"bordercolor='#445566'"_s) << true
+                                            << u"#ff445566"_s;
+    QTest::newRow("chromatic backgrounds never had a grid")
+        << u"gridcolor='#aabbcc'"_s << cell.arg(u"bgcolor='#ff0000'"_s) << false << u"#ff000000"_s;
+}
+
+void tst_ColorSchema::grid()
+{
+    QFETCH(QString, attributes);
+    QFETCH(QString, children);
+    const MvBorderConfig read =
+        MvCalendariumColorSchema(element(u"<calendararea %1>%2</calendararea>"_s.arg(attributes, children)))
+            .gridConfig();
+    QTEST(read.isEnabled(), "enabled");
+    QTEST(hex(read.color()), "color");
+}
+
+void tst_ColorSchema::roundTrip_data()
+{
+    QTest::addColumn<QString>("cells");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("alternating weeks")
+        << u"<cell type='CALENDAR_CELL_TYPE_WEEKDAY' bgcoloreven='#eeeeee' bgcolorodd='#00ffffff'/>"_s;
+    // without a cell of its own, the holiday would come back with Sunday's colours
+    QTest::newRow("holiday in default colours, Sunday not")
+        << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/><cell type='CALENDAR_CELL_TYPE_HOLIDAY'/>"_s;
+    QTest::newRow("translucent with a border")
+        << u"<border color='#80112233' width='1.5' position='inside'/><celldefault bgcolor='#40ffffff'/>"_s;
+}
+
+void tst_ColorSchema::roundTrip()
+{
+    QFETCH(QString, cells);
+    const MvCalendariumColorSchema original = schema(cells);
+    const MvCalendariumColorSchema read = writtenAndRead(original);
+    QCOMPARE(read.describeDifference(original), u"MvCalendariumColorSchema: no difference."_s);
+    QVERIFY(read == original);
+    QCOMPARE(read.hashValue(), original.hashValue());
+}
+
+void tst_ColorSchema::writesOnlyDeviations()
+{
+    MvCalendariumColorSchema original = schema(u"<celldefault bgcolor='#ffffff' textcolor='#222222'/>"_s);
+    original.setCellColor(QColor(u"#ff0000"_s), {text, CALENDAR_CELL_TYPE_SUNDAY, both});
+    QDomElement written;
+    writtenAndRead(original, &written);
+    QCOMPARE(written.attribute(u"colorschema"_s), u"X"_s);
+    QCOMPARE(written.firstChildElement(u"celldefault"_s).attribute(u"bgcolor"_s), u"#ffffff"_s);
+    const QDomElement cell = written.firstChildElement(u"cell"_s);
+    QCOMPARE(cell.attribute(u"type"_s), u"CALENDAR_CELL_TYPE_SUNDAY"_s);
+    QCOMPARE(cell.attribute(u"textcolor"_s), u"#ff0000"_s);
+    QVERIFY(!cell.hasAttribute(u"bgcolor"_s));
+    // the holiday kept the default colours although Sunday, from which it would be made, has not
+    QCOMPARE(cell.nextSiblingElement(u"cell"_s).attribute(u"type"_s), u"CALENDAR_CELL_TYPE_HOLIDAY"_s);
+    QVERIFY(cell.nextSiblingElement(u"cell"_s).nextSiblingElement(u"cell"_s).isNull());
+}
+
+void tst_ColorSchema::copies()
+{
+    MvCalendariumColorSchema changed = schema(
+        u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcoloreven='#111111' bgcolorodd='#222222' textcolor='#333333'/>"_s);
+    QVERIFY(changed.distinguishesParities());
+    QVERIFY(!changed.haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_WEEKDAY));
+    changed.copyColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_WEEKDAY);
+    QVERIFY(changed.haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_WEEKDAY));
+    changed.copyParities(true, false); // even over odd
+    QVERIFY(!changed.distinguishesParities());
+    QCOMPARE(hex(changed.cellColor({background, CALENDAR_CELL_TYPE_WEEKDAY, odd})), u"#ff111111"_s);
+    QVERIFY(MvCalendariumColorSchema::isOpaqueColor(QColor(0, 0, 0, 1)));
+    QVERIFY(!MvCalendariumColorSchema::isOpaqueColor(Qt::transparent));
+    QVERIFY(!MvCalendariumColorSchema::isOpaqueColor(QColor()));
+}
+
+void tst_ColorSchema::sharesUntilChanged()
+{
+    const MvCalendariumColorSchema original = schema(QString());
+    MvCalendariumColorSchema copy = original;
+    QCOMPARE(&copy.cellColors(), &original.cellColors());
+    copy.setGridConfig(original.gridConfig());
+    QCOMPARE(&copy.cellColors(), &original.cellColors()); // the present value changes nothing
+    copy.setCellColor(Qt::red, {text, CALENDAR_CELL_TYPE_SUNDAY, both});
+    QVERIFY(copy != original);
+    QVERIFY(copy.hashValue() != original.hashValue());
+    QVERIFY(!MvCalendariumColorSchema().isValid());
+}
+
+void tst_ColorSchema::describesDifferences()
+{
+    const MvCalendariumColorSchema a = schema(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' textcolor='#ff0000'/>"_s);
+    MvCalendariumColorSchema b = a;
+    b.setCellColor(QColor(u"#00ff00"_s), {text, CALENDAR_CELL_TYPE_SUNDAY, even});
+    QCOMPARE(a.describeDifference(b), u"Cells: difference colors for textcolor CALENDAR_CELL_TYPE_SUNDAY even: "
+                                      "#ff0000 vs #00ff00"_s);
+    QVERIFY(a.describeDifference(MvCalendariumColorSchema()).contains(u"second missing key:"_s));
+    QVERIFY(MvCalendariumColorSchema().describeDifference(a).contains(u"first missing key:"_s));
+}
+
+void tst_ColorSchema::contrast()
+{
+    // figures from the definition of the contrast ratio in WCAG 2.1
+    QCOMPARE(MvCalendariumColorCellInfo::colorContrast(Qt::white, Qt::black), 21.0);
+    QCOMPARE(MvCalendariumColorCellInfo::colorContrast(Qt::red, Qt::red), 1.0);
+    QVERIFY(qAbs(MvCalendariumColorCellInfo::colorContrast(QColor(u"#767676"_s), Qt::white) - 4.54) < 0.01);
+    MvCalendariumColorCellInfo cell;
+    cell.setFontColor(Qt::white, false);
+    QVERIFY(qAbs(cell.minimumCellContrast(Qt::white) - 1.0) < 1e-9); // white on paper in odd weeks
+    QCOMPARE(cell.usedColors(), (QList<QColor>{Qt::black, Qt::white}));
+}
+
+void tst_ColorSchema::registryAliasesDuplicates()
+{
+    const auto registry = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    QTest::ignoreMessage(QtWarningMsg, "Duplicate schema found, aliassed A by B");
+    registry->read(element(u"<s><calendararea colorschema='A' name='Eins'/><calendararea colorschema='B'/>"
+                           "<calendararea name='ohne Kennung'/>"
+                           "<calendararea schema='C'><celldefault bgcolor='red'/></calendararea></s>"_s),
+                   SCHEMA_VISIBILITY_OFFERED);
+    QCOMPARE(registry->allSchemata().size(), 2);
+    const MvCalendariumColorSchema first = registry->findSchema(MvCalendariumColorSchemaID(u"A"_s));
+    QVERIFY(first.isValid());
+    QVERIFY(first == registry->findSchema(MvCalendariumColorSchemaID(u"B"_s)));
+    QCOMPARE(registry->id(first), MvCalendariumColorSchemaID(u"A"_s));
+    QCOMPARE(registry->name(MvCalendariumColorSchemaID(u"A"_s)), u"Eins"_s);
+    QVERIFY(!registry->findSchema(MvCalendariumColorSchemaID(u"D"_s)).isValid());
+    QCOMPARE(registry->visibility(first), MvCalendariumColorSchemaVisibility(SCHEMA_VISIBILITY_OFFERED));
+    QCOMPARE(registry->visibility(MvCalendariumColorSchema()),
+             MvCalendariumColorSchemaVisibility(SCHEMA_VISIBILITY_UNKNOWN));
+}
+
+void tst_ColorSchema::registryRenamesOldIds()
+{
+    MvCalendariumColorSchemaID id;
+    id.read(element(u"<e colorschema='WHITE'/>"_s));
+    QCOMPARE(id.toString(), u"PAPER_WHITE"_s);
+    QVERIFY(MvCalendariumColorSchemaRegistry::instance().contains(id));
+}
+
+void tst_ColorSchema::registryKeepsUserSchemata()
+{
+    auto &registry = MvCalendariumColorSchemaRegistry::instance();
+    MvCalendariumColorSchema mine = schema(u"<celldefault bgcolor='#123456'/>"_s);
+    QVERIFY(!mine.isUserSchema());
+    const MvCalendariumColorSchemaID id = registry.record(mine);
+    QVERIFY2(QRegularExpression(u"^USER_\\d{1,5}$"_s).match(id.toString()).hasMatch(), qPrintable(id.toString()));
+    QCOMPARE(registry.record(mine), id); // once is enough
+    QVERIFY(mine.isUserSchema());
+    QVERIFY(registry.saveSystemUserSchemata());
+    const auto reread = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    reread->read(MvCalendariumColorSchemaRegistry::systemUserSchemaFile(), SCHEMA_VISIBILITY_OFFERED);
+    QCOMPARE(reread->allSchemata().size(), 1);
+    QVERIFY(reread->findSchema(id) == mine);
+    registry.remove(mine);
+    QVERIFY(!registry.contains(id));
+}
+
+void tst_ColorSchema::registryHidesSchemata()
+{
+    auto &registry = MvCalendariumColorSchemaRegistry::instance();
+    const MvCalendariumColorSchemaID id(u"NIGHT"_s);
+    const qsizetype offered = registry.visibleSchemata().size();
+    registry.setIgnoreSchema(registry.findSchema(id));
+    QVERIFY(registry.isIgnoredSchema(id));
+    QCOMPARE(registry.visibleSchemata().size(), offered - 1);
+    registry.resetToFactoryDefaults();
+    QVERIFY(!registry.isIgnoredSchema(id));
+    QCOMPARE(registry.visibleSchemata().size(), offered);
+}
+
+void tst_ColorSchema::shippedSchemata()
+{
+    const auto &registry = MvCalendariumColorSchemaRegistry::instance();
+    QVERIFY(registry.allSchemata().size() >= 6);
+    for (const MvCalendariumColorSchemaID &id : registry.schemaIds()) {
+        QVERIFY2(registry.name(id) != id.toString(), qPrintable(id.toString())); // has a German name
+        const MvCalendariumColorSchema shipped = registry.findSchema(id);
+        QVERIFY(writtenAndRead(shipped) == shipped);
+        for (const MvCalendarCellType &type : MvCalendarCellType::allTypes().singleTypes()) {
+            const bool isLarge = type == CALENDAR_CELL_TYPE_TITLE || type == CALENDAR_CELL_TYPE_MONTH
+                || type == CALENDAR_CELL_TYPE_YEAR;
+            for (const MvParityLogicEnum parity : {even, odd}) {
+                MvCalendariumColorCellInfo cell;
+                cell.setBackgroundColor(shipped.cellColor({background, type, parity}), true);
+                cell.setFontColor(shipped.cellColor({text, type, parity}), true);
+                const double found = cell.cellContrast(Qt::white, true);
+                QVERIFY2(found >= (isLarge ? 3.0 : 4.5),
+                         qPrintable(u"%1 %2: %3"_s.arg(id.toString(), type.encode()).arg(found)));
+            }
+        }
+    }
+}
+
+MV_TEST_MAIN(tst_ColorSchema)
+#include "tst_ColorSchema.moc"
