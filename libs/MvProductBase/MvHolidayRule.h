@@ -1,0 +1,53 @@
+#pragma once
+
+#include "MvProductBase/mvproductbase_export.h"
+
+#include <QDate>
+#include <QList>
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+/// When in a year a holiday is: an anchor ("12-25", "easter", "sun#2 in 05") and steps from there ("prev sun", "-21").
+/// docs/holidays.md describes the grammar.
+class MVPRODUCTBASE_EXPORT MvHolidayRule
+{
+public:
+    /// The rule in a form that is quick to ask; nothing, and what is wrong with which word, for a malformed text.
+    static std::optional<MvHolidayRule> parse(const QString &text, QString *error = nullptr);
+
+    /// The date by the rule of the year, which steps may have moved across New Year; invalid when there is none.
+    QDate dateByYear(int year) const;
+
+private:
+    friend class MvHolidayRuleParser;
+
+    enum class AnchorKind { Fixed, SingleDate, Easter, Orthodox, WeekdayOfMonth };
+    struct Anchor {
+        AnchorKind kind = AnchorKind::Fixed;
+        int year = 0; // of a single date
+        int month = 0;
+        int day = 0;     // of the month
+        int weekday = 0; // 1 = Monday to 7 = Sunday
+        int number = 0;  // n-th weekday of the month, negative from its end; days after Easter
+
+        QDate dateIn(int year) const;
+    };
+
+    enum class StepKind { Shift, Next, Previous, From, UpTo, Only, Not };
+    struct Step {
+        StepKind kind = StepKind::Shift;
+        int days = 0;        // of a shift
+        quint8 weekdays = 0; // bit n: weekday n
+        bool isConditional = false;
+        quint8 ifWeekdays = 0;   // the condition: one of these weekdays...
+        QList<Anchor> ifAnchors; // ...or one of these dates
+
+        bool appliesTo(const QDate &date, int year) const;
+        QDate apply(const QDate &date) const;
+    };
+
+    Anchor m_anchor;
+    QList<Step> m_steps;
+};

@@ -1,0 +1,248 @@
+#include "MvProductBase/MvHolidayTableReader.h"
+
+#include "MvXML/MvXMLLoader.h"
+#include "MvXML/MvXMLParser.h"
+
+#include <QDebug>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int longestVacation = 400; // days; more than any, and a limit to what a wrong year costs
+
+template <class Function>
+void forEachChild(const QDomElement &parent, const QString &name, Function function)
+{
+    for (QDomElement child = parent.firstChildElement(name); !child.isNull(); child = child.nextSiblingElement(name))
+        function(child);
+}
+
+QStringList words(const QDomElement &element, const QString &attribute)
+{
+    return MvXMLParser::textAttribute(element, attribute).split(u' ', Qt::SkipEmptyParts);
+}
+
+} // namespace
+
+MvHolidayTableReader::MvHolidayTableReader(const QFileInfo &file)
+    : m_file(file)
+{
+}
+
+void MvHolidayTableReader::complain(const QDomElement &element, const QString &message)
+{
+    m_problems.append(u"%1:%2: %3"_s.arg(m_file.filePath()).arg(element.lineNumber()).arg(message));
+}
+
+void MvHolidayTableReader::report() const
+{
+    if (m_problems.isEmpty())
+        return;
+    QString message = m_problems.first();
+    if (m_problems.size() > 1)
+        message += tr(" (und %n weitere Fehler in dieser Datei)", nullptr, static_cast<int>(m_problems.size()) - 1);
+    qWarning().noquote() << message;
+}
+
+QDomElement MvHolidayTableReader::open(const QString &rootName)
+{
+    MvXMLLoader::Error error;
+    const QDomElement root = MvXMLLoader::loadDocument(m_file, &error).documentElement();
+    if (error.isError())
+        m_problems.append(error.describe(m_file));
+    else if (root.tagName() != rootName)
+        complain(root, tr("\"%1\" statt \"%2\"").arg(root.tagName(), rootName));
+    else
+        return root;
+    return {};
+}
+
+QList<MvHolidayTableReader::Country> MvHolidayTableReader::readCountries()
+{
+    QList<Country> countries;
+    forEachChild(open(u"HolidayCountries"_s), u"country"_s, [&](const QDomElement &element) {
+        const Country country = {MvXMLParser::textAttribute(element, u"code"_s),
+                                 MvXMLParser::textAttribute(element, u"name"_s), words(element, u"languages"_s)};
+        if (country.code.size() != 2 || country.languages.isEmpty())
+            complain(element, tr("Land ohne Kennung oder Sprache"));
+        else
+            countries.append(country);
+    });
+    report();
+    return countries;
+}
+
+MvHolidayTable MvHolidayTableReader::readTable()
+{
+    MvHolidayTable table;
+    const QDomElement root = open(u"HolidayTable"_s);
+    table.setLanguage(MvXMLParser::textAttribute(root, u"language"_s));
+    forEachChild(root, u"region"_s, [&](const QDomElement &element) {
+        const MvHolidayTable::Region region = readRegion(element);
+        if (region.code.isEmpty() || table.hasRegion(region.code))
+            complain(element, tr("Region ohne eigene Kennung"));
+        else
+            table.addRegion(region);
+    });
+    forEachChild(root, u"holiday"_s, [&](const QDomElement &element) {
+        if (const auto entry = readEntry(element, table))
+            table.addEntry(*entry);
+    });
+    report();
+    return table;
+}
+
+MvHolidayTable::Region MvHolidayTableReader::readRegion(const QDomElement &element)
+{
+    MvHolidayTable::Region region;
+    region.code = MvXMLParser::textAttribute(element, u"code"_s);
+    region.name = MvXMLParser::textAttribute(element, u"name"_s, region.code);
+    region.parent = MvXMLParser::textAttribute(element, u"parent"_s);
+    region.language = MvXMLParser::textAttribute(element, u"language"_s);
+    region.localName = MvXMLParser::textAttribute(element, u"localName"_s);
+    return region;
+}
+
+std::optional<MvHolidayTable::Entry> MvHolidayTableReader::readEntry(const QDomElement &element,
+                                                                     const MvHolidayTable &table)
+{
+    MvHolidayTable::Entry entry;
+    entry.name = MvXMLParser::textAttribute(element, u"name"_s).simplified();
+    entry.type = MvCalendariumHolidayType(MvXMLParser::textAttribute(element, u"type"_s, u"public"_s));
+    entry.isPartial = MvXMLParser::boolAttribute(element, u"partial"_s);
+    QString error;
+    const std::optional<MvHolidayRule> rule =
+        MvHolidayRule::parse(MvXMLParser::textAttribute(element, u"rule"_s), &error);
+    if (entry.name.isEmpty())
+        complain(element, tr("Feiertag ohne Namen"));
+    else if (MvHolidayTable::rank(entry.type) > MvHolidayTable::rank(HOLIDAY_TYPE_OBSERVANCE))
+        complain(element, tr("Feiertag \"%1\" hat eine unbekannte Art").arg(entry.name));
+    else if (!rule)
+        complain(element, tr("Feiertag \"%1\": %2").arg(entry.name, error));
+    else if (readYear(element, u"from"_s, entry.from) && readYear(element, u"until"_s, entry.until) &&
+             readExceptions(element, entry) && readRegions(element, table, entry.regions)) {
+        entry.rule = *rule;
+        forEachChild(element, u"name"_s, [&](const QDomElement &name) {
+            entry.names.insert(MvXMLParser::textAttribute(name, u"language"_s),
+                               MvXMLParser::textAttribute(name, u"text"_s, entry.name));
+        });
+        return entry;
+    }
+    return {};
+}
+
+bool MvHolidayTableReader::readYear(const QDomElement &element, const QString &attribute, std::optional<int> &year)
+{
+    if (!element.hasAttribute(attribute))
+        return true;
+    bool ok = false;
+    year = element.attribute(attribute).toInt(&ok);
+    if (!ok)
+        complain(element, tr("\"%1\" ist kein Jahr").arg(element.attribute(attribute)));
+    return ok;
+}
+
+bool MvHolidayTableReader::readExceptions(const QDomElement &element, MvHolidayTable::Entry &entry)
+{
+    const QStringList years = words(element, u"except"_s);
+    for (const QString &text : years) {
+        bool ok = false;
+        entry.exceptYears.insert(text.toInt(&ok));
+        if (!ok) {
+            complain(element, tr("\"%1\" ist kein Jahr").arg(text));
+            return false;
+        }
+    }
+    return true;
+}
+
+bool MvHolidayTableReader::readRegions(const QDomElement &element, const MvHolidayTable &table, QStringList &regions)
+{
+    regions = words(element, u"regions"_s);
+    for (const QString &code : std::as_const(regions)) {
+        if (!table.hasRegion(code)) {
+            complain(element, tr("unbekannte Region \"%1\"").arg(code));
+            return false;
+        }
+    }
+    return true;
+}
+
+std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacation(const QDomElement &element)
+{
+    const MvSchoolVacationTable::Vacation vacation = {
+        MvXMLParser::textAttribute(element, u"name"_s).simplified(),
+        QDate::fromString(MvXMLParser::textAttribute(element, u"start"_s), Qt::ISODate),
+        QDate::fromString(MvXMLParser::textAttribute(element, u"end"_s), Qt::ISODate)};
+    const qint64 length = vacation.start.daysTo(vacation.end);
+    if (vacation.name.isEmpty() || !vacation.start.isValid() || !vacation.end.isValid())
+        complain(element, tr("Ferien ohne Namen, Anfang oder Ende"));
+    else if (length < 0 || length > longestVacation)
+        complain(element, tr("\"%1\" endet vor dem Anfang oder dauert zu lange").arg(vacation.name));
+    else
+        return vacation;
+    return {};
+}
+
+void MvHolidayTableReader::readVacations(MvSchoolVacationTable &vacations)
+{
+    if (!m_file.exists())
+        return;
+    forEachChild(open(u"SchoolVacations"_s), u"region"_s, [&](const QDomElement &region) {
+        forEachChild(region, u"vacation"_s, [&](const QDomElement &element) {
+            if (const auto vacation = readVacation(element))
+                vacations.add(MvXMLParser::textAttribute(region, u"code"_s), *vacation);
+        });
+    });
+    report();
+}
+
+QDomElement MvHolidayTableReader::ownCountry(const QString &country)
+{
+    QDomElement found;
+    forEachChild(open(u"MyHolidays"_s), u"country"_s, [&](const QDomElement &element) {
+        if (found.isNull() && MvXMLParser::textAttribute(element, u"code"_s).toUpper() == country)
+            found = element;
+    });
+    return found;
+}
+
+void MvHolidayTableReader::readOwn(const QString &country, MvHolidayTable &table, MvSchoolVacationTable &vacations)
+{
+    if (!m_file.exists())
+        return;
+    const QDomElement root = ownCountry(country);
+    forEachChild(root, u"remove"_s, [&](const QDomElement &element) {
+        QStringList regions;
+        if (readRegions(element, table, regions))
+            table.removeEntries(MvXMLParser::textAttribute(element, u"name"_s).simplified(), regions);
+    });
+    QList<MvHolidayTable::Entry> entries;
+    forEachChild(root, u"holiday"_s, [&](const QDomElement &element) {
+        if (const auto entry = readEntry(element, table))
+            entries.append(*entry);
+    });
+    for (const MvHolidayTable::Entry &entry : std::as_const(entries))
+        table.removeEntries(entry.name, entry.regions); // before any is added: several own ones may share a name
+    for (const MvHolidayTable::Entry &entry : std::as_const(entries))
+        table.addEntry(entry);
+    readOwnVacations(root, table, vacations);
+    report();
+}
+
+void MvHolidayTableReader::readOwnVacations(const QDomElement &country, const MvHolidayTable &table,
+                                            MvSchoolVacationTable &vacations)
+{
+    forEachChild(country, u"vacation"_s, [&](const QDomElement &element) {
+        QStringList regions;
+        const auto vacation = readVacation(element);
+        if (!vacation || !readRegions(element, table, regions))
+            return;
+        if (regions.isEmpty())
+            regions.append(QString()); // the whole country
+        for (const QString &region : std::as_const(regions))
+            vacations.add(region, *vacation);
+    });
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "MvProductBase/MvHolidayTable.h"
+#include "MvProductBase/MvSchoolVacationTable.h"
+#include "MvProductBase/mvproductbase_export.h"
+
+#include <QCoreApplication>
+#include <QDomElement>
+#include <QFileInfo>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+/// Reads one file of holidays or school vacations; docs/holidays.md describes the formats.
+///
+/// What is malformed is left out and the rest is read. A file that is not well-formed gives nothing. Either way one
+/// warning tells of it, with the first place that is wrong.
+class MVPRODUCTBASE_EXPORT MvHolidayTableReader
+{
+    Q_DECLARE_TR_FUNCTIONS(MvHolidayTableReader)
+
+public:
+    struct Country {
+        QString code;
+        QString name; // in German
+        QStringList languages;
+    };
+
+    explicit MvHolidayTableReader(const QFileInfo &file);
+
+    /// The list of countries.
+    QList<Country> readCountries();
+    /// The holidays of a country.
+    MvHolidayTable readTable();
+    /// Adds school vacations of a country; a file that does not exist adds nothing.
+    void readVacations(MvSchoolVacationTable &vacations);
+    /// Applies the user's own file to the tables of a country: removals first, then what it adds. An added holiday
+    /// takes the place of those of its name in its regions. A file that does not exist changes nothing.
+    void readOwn(const QString &country, MvHolidayTable &table, MvSchoolVacationTable &vacations);
+
+    /// What was wrong, one line each with its place, in the order of the file.
+    QStringList problems() const { return m_problems; }
+
+private:
+    QDomElement open(const QString &rootName);
+    QDomElement ownCountry(const QString &country);
+    MvHolidayTable::Region readRegion(const QDomElement &element);
+    std::optional<MvHolidayTable::Entry> readEntry(const QDomElement &element, const MvHolidayTable &table);
+    std::optional<MvSchoolVacationTable::Vacation> readVacation(const QDomElement &element);
+    bool readYear(const QDomElement &element, const QString &attribute, std::optional<int> &year);
+    bool readExceptions(const QDomElement &element, MvHolidayTable::Entry &entry);
+    bool readRegions(const QDomElement &element, const MvHolidayTable &table, QStringList &regions);
+    void readOwnVacations(const QDomElement &country, const MvHolidayTable &table, MvSchoolVacationTable &vacations);
+
+    void complain(const QDomElement &element, const QString &message);
+    void report() const;
+
+    QFileInfo m_file;
+    QStringList m_problems;
+};

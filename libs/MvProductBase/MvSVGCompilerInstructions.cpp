@@ -1,0 +1,52 @@
+#include "MvProductBase/MvSVGCompilerInstructions.h"
+
+#include <QHash>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+using Kind = MvSVGCompilerInstructions::Kind;
+
+const QHash<QString, Kind> &placeholders()
+{
+    static const QHash<QString, Kind> kinds = {
+        {u"date"_s, Kind::Date}, {u"month"_s, Kind::Month},       {u"year"_s, Kind::Year},
+        {u"week"_s, Kind::Week}, {u"holidays"_s, Kind::Holidays}, {u"entries"_s, Kind::Entries},
+    };
+    return kinds;
+}
+
+} // namespace
+
+MvSVGCompilerInstructions::MvSVGCompilerInstructions(const QString &text)
+{
+    qsizetype literalStart = 0;
+    for (qsizetype open = text.indexOf(u'{'); open >= 0; open = text.indexOf(u'{', open + 1)) {
+        const qsizetype close = text.indexOf(u'}', open);
+        if (close < 0)
+            break;
+        const Kind kind = placeholders().value(text.mid(open + 1, close - open - 1), Kind::Literal);
+        if (kind == Kind::Literal)
+            continue;
+        appendLiteral(QStringView(text).mid(literalStart, open - literalStart));
+        m_instructions.append({kind, QString()});
+        literalStart = close + 1;
+    }
+    appendLiteral(QStringView(text).mid(literalStart));
+}
+
+void MvSVGCompilerInstructions::appendLiteral(QStringView text)
+{
+    if (!text.isEmpty())
+        m_instructions.append({Kind::Literal, text.toString()});
+}
+
+bool MvSVGCompilerInstructions::isConstant() const
+{
+    return std::all_of(m_instructions.cbegin(), m_instructions.cend(),
+                       [](const Instruction &instruction) { return instruction.kind == Kind::Literal; });
+}
