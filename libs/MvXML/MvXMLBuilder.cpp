@@ -4,6 +4,8 @@
 #include "MvCore/MvStringHelper.h"
 #include "MvXML/MvXMLKeywords.h"
 
+#include <QDir>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -107,5 +109,5 @@ QDomElement MvXMLBuilder::buildFont(QDomElement &parent, const QFont &font)
 
 bool MvXMLBuilder::saveUTF8(const QDomDocument &document, const QFileInfo &file)
 {
-    return MvSafeFileWriter::write(file, document.toByteArray(2)).isOk();
+    return QDir().mkpath(file.absolutePath()) && MvSafeFileWriter::write(file, document.toByteArray(2)).isOk();
 }

@@ -33,6 +33,7 @@ public:
     /// Appends the element "font" that MvXMLParser::readFont() reads to an equal font.
     static QDomElement buildFont(QDomElement &parent, const QFont &font);
 
-    /// Saves the document as UTF-8, indented by 2, through the safe file writer; says whether it is in place.
+    /// Saves the document as UTF-8, indented by 2, through the safe file writer; says whether it is in place. A missing
+    /// folder is made.
     static bool saveUTF8(const QDomDocument &document, const QFileInfo &file);
 };
