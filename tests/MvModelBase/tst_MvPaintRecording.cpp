@@ -58,6 +58,20 @@ MvPaintRecording recorded(const Painting &painting)
     return recorded(painter, painting);
 }
 
+QByteArray svg(const Painting &painting)
+{
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setSize(QSize(240, 200));
+    generator.setViewBox(QRect(0, 0, 240, 200));
+    QPainter painter(&generator);
+    painter.setRenderHints(hintsOfTarget);
+    painting(painter);
+    painter.end();
+    return buffer.data();
+}
+
 int differingPixels(const QImage &a, const QImage &b)
 {
     int count = 0;
@@ -225,6 +239,7 @@ private Q_SLOTS:
     void keepsToTheTarget();
     void replaysOnVectorTargets_data();
     void replaysOnVectorTargets();
+    void textsAreOneOperation();
     void reportsTheTarget();
     void keepsHints();
     void textBecomesOutlines();
@@ -338,32 +353,40 @@ void tst_MvPaintRecording::replaysOnVectorTargets()
 {
     QFETCH(Painting, painting);
     const MvPaintRecording recording = recorded(painting);
-    const auto drawing = [](const Painting &paint) {
-        QBuffer buffer;
-        QSvgGenerator generator;
-        generator.setOutputDevice(&buffer);
-        generator.setSize(QSize(240, 200));
-        generator.setViewBox(QRect(0, 0, 240, 200));
-        QPainter painter(&generator);
-        painter.setRenderHints(hintsOfTarget);
-        paint(painter);
-        painter.end();
-        return buffer.data();
-    };
-    const auto rendered = [](const QByteArray &svg) {
+    const auto rendered = [](const QByteArray &drawing) {
         QImage image = canvas();
         QPainter painter(&image);
-        QSvgRenderer(svg).render(&painter, QRectF(0, 0, 240, 200));
+        QSvgRenderer(drawing).render(&painter, QRectF(0, 0, 240, 200));
         return image;
     };
-    const QByteArray direct = drawing(painting);
-    const QByteArray replayed = drawing([&recording](QPainter &painter) { recording.replay(painter); });
+    const QByteArray direct = svg(painting);
+    const QByteArray replayed = svg([&recording](QPainter &painter) { recording.replay(painter); });
     QCOMPARE(replayed.count("<path"), direct.count("<path"));
     QCOMPARE(differingPixels(rendered(replayed), rendered(direct)), 0);
 
     // a recorder is such a target, too
     const MvPaintRecording again = recorded([&recording](QPainter &painter) { recording.replay(painter); });
     QCOMPARE(again.describe(), recording.describe());
+}
+
+void tst_MvPaintRecording::textsAreOneOperation()
+{
+    QFont font(u"Lato"_qs);
+    font.setPixelSize(20);
+    const MvTextOutline outline(font, u"Illustration"_qs);
+    QVERIFY(outline.groups().size() > 8);
+    const Painting twice = [&outline, &font](QPainter &painter) {
+        MvOutlinePainter::fillOutline(painter, {10, 30}, outline, Qt::black);
+        MvOutlinePainter::fillOutlines(painter, {{{10, 60}, outline}, {{10, 90}, outline}}, Qt::black);
+        MvOutlinePainter::fillOutline(painter, {10, 90}, MvTextOutline(font, u"  "_qs), Qt::black);
+    };
+    const MvPaintRecording recording = recorded(twice);
+    QCOMPARE(recording.operationCount(), 2);
+    const auto items = recording.items();
+    QCOMPARE(items.size(), 3);
+    QCOMPARE(items[2].text, outline.text());
+    QCOMPARE(items[2].baseline, QPointF(10, 90));
+    QCOMPARE(svg(twice).count("<path"), 2); // whole, where nothing is gained by parts
 }
 
 void tst_MvPaintRecording::reportsTheTarget()
