@@ -146,7 +146,10 @@ void MvPaintPlayer::paint(const Lines<Line> &shape)
 template <class Rect>
 void MvPaintPlayer::paint(const Rects<Rect> &shape)
 {
-    m_painter.drawRects(shape.rects.constData(), int(shape.rects.size()));
+    if (m_state->pen.style() == Qt::NoPen && shape.rects.size() == 1)
+        m_painter.fillRect(shape.rects.first(), m_state->brush); // that is how a filled rectangle gets here
+    else
+        m_painter.drawRects(shape.rects.constData(), int(shape.rects.size()));
 }
 
 template <class Rect>

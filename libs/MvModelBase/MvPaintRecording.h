@@ -55,9 +55,13 @@ public:
     /// Paints everything again, with the pixels that painting straight to the target would have given.
     ///
     /// Transforms and opacity are recorded relative to those of the target; every clip, also a replaced one, is
-    /// intersected with the clip the target has. Render hints and composition modes are those of the recording. A
-    /// clip to one rectangle counts as QPainter::setClipRect(QRectF), however it was set. The painter's state is as
-    /// before afterwards.
+    /// intersected with the clip the target has. Render hints and composition modes are those of the recording. The
+    /// painter's state is as before afterwards.
+    ///
+    /// Where a painter hands one thing on in the same words as another, the common one is assumed: a clip to one
+    /// rectangle is QPainter::setClipRect(QRectF), a rectangle without a pen is QPainter::fillRect(). So pixels at
+    /// the edges can differ for rectangular clip paths, for drawRect() without pen and antialiasing off the pixel
+    /// grid, and furthermore where the dashes of a rounded rectangle begin, and under opaque background mode.
     void replay(QPainter &painter) const;
 
     /// The shapes in the order they were painted.

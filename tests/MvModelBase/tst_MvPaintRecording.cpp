@@ -5,6 +5,7 @@
 
 #include <QBitmap>
 #include <QBuffer>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QSvgGenerator>
 #include <QSvgRenderer>
@@ -57,6 +58,20 @@ MvPaintRecording recorded(const Painting &painting)
     return recorded(painter, painting);
 }
 
+QByteArray svg(const Painting &painting)
+{
+    QBuffer buffer;
+    QSvgGenerator generator;
+    generator.setOutputDevice(&buffer);
+    generator.setSize(QSize(240, 200));
+    generator.setViewBox(QRect(0, 0, 240, 200));
+    QPainter painter(&generator);
+    painter.setRenderHints(hintsOfTarget);
+    painting(painter);
+    painter.end();
+    return buffer.data();
+}
+
 int differingPixels(const QImage &a, const QImage &b)
 {
     int count = 0;
@@ -87,11 +102,12 @@ void drawShapes(QPainter &painter)
     painter.drawRect(QRect(80, 12, 30, 30));
     painter.drawEllipse(QRectF(12.5, 60.5, 50, 31.3));
     painter.drawEllipse(QRect(70, 60, 30, 40));
-    painter.drawRoundedRect(QRectF(120.5, 20.5, 70.3, 50.2), 8, 12);
     painter.drawPath(star());
     painter.drawPie(QRectF(130, 100, 60, 60), 300, 2900);
     painter.drawLine(QPointF(5.1, 150.2), QPointF(210.7, 170.9));
     painter.drawLine(5, 160, 210, 160);
+    painter.setPen(QPen(Qt::black, 2));
+    painter.drawRoundedRect(QRectF(120.5, 20.5, 70.3, 50.2), 8, 12);
     painter.setPen(Qt::black); // one unit wide
     painter.drawLine(QPointF(3.5, 3.5), QPointF(3.5, 190.5));
     painter.setPen(QPen(Qt::darkGreen, 0)); // cosmetic
@@ -119,12 +135,19 @@ void drawFills(QPainter &painter)
     bounding.setColorAt(0, Qt::white);
     bounding.setColorAt(1, Qt::darkRed);
     painter.fillRect(QRectF(110, 110, 90, 40), bounding);
-    painter.setBrushOrigin(3.5, 2);
-    painter.setBackground(Qt::yellow);
-    painter.setBackgroundMode(Qt::OpaqueMode);
+}
+
+void drawPatterns(QPainter &painter)
+{
     painter.setPen(Qt::NoPen);
     painter.setBrush(QBrush(Qt::blue, Qt::DiagCrossPattern));
-    painter.drawRect(QRectF(110, 155, 90, 40));
+    painter.drawRect(QRectF(10, 15, 90, 40));
+    painter.setBrushOrigin(QPointF(3.5, 2));
+    painter.setBrush(QBrush(photo()));
+    painter.drawEllipse(QRectF(20, 60, 90, 80));
+    painter.fillRect(QRectF(120.3, 60.2, 70.6, 70.1), QBrush(Qt::red, Qt::Dense4Pattern));
+    painter.setPen(QPen(QBrush(Qt::darkGreen, Qt::Dense3Pattern), 7));
+    painter.drawLine(QPointF(10, 150), QPointF(190, 180));
 }
 
 void drawImages(QPainter &painter)
@@ -161,10 +184,6 @@ void drawStates(QPainter &painter)
     painter.restore();
     painter.scale(1.25, 0.8);
     painter.drawRect(QRectF(5, 5, 40, 40));
-    painter.setClipping(false);
-    painter.drawLine(QPointF(0, 0), QPointF(150, 150));
-    painter.setClipping(true);
-    painter.drawLine(QPointF(150, 0), QPointF(0, 150));
     painter.restore();
     painter.setClipPath(star(), Qt::IntersectClip);
     painter.save();
@@ -174,6 +193,22 @@ void drawStates(QPainter &painter)
     painter.restore();
     painter.setCompositionMode(QPainter::CompositionMode_Multiply);
     painter.fillRect(QRectF(30, 0, 60, 200), QColor(200, 100, 255));
+}
+
+void drawSwitchedClips(QPainter &painter)
+{
+    painter.save();
+    painter.setClipRect(QRectF(13.3, 14.4, 90.7, 80.2));
+    painter.setPen(QPen(Qt::red, 3));
+    painter.drawLine(QPointF(0, 0), QPointF(150, 150));
+    painter.setClipping(false);
+    painter.drawLine(QPointF(10, 0), QPointF(160, 150));
+    painter.setClipping(true);
+    painter.drawLine(QPointF(20, 0), QPointF(170, 150));
+    painter.setClipRect(QRectF(40, 60, 100, 50));
+    painter.fillRect(QRectF(0, 0, 200, 200), QColor(0, 0, 255, 60));
+    painter.restore();
+    painter.drawLine(QPointF(30, 0), QPointF(180, 150));
 }
 
 void drawOutlines(QPainter &painter)
@@ -204,6 +239,7 @@ private Q_SLOTS:
     void keepsToTheTarget();
     void replaysOnVectorTargets_data();
     void replaysOnVectorTargets();
+    void textsAreOneOperation();
     void reportsTheTarget();
     void keepsHints();
     void textBecomesOutlines();
@@ -218,10 +254,16 @@ void tst_MvPaintRecording::replaysPixelForPixel_data()
     QTest::addColumn<QTransform>("transform");
     QTest::addColumn<bool>("antialiased");
     QTest::addColumn<double>("pixelRatio");
+    QTest::addColumn<bool>("clipped");
 
     const std::pair<const char *, Painting> paintings[] = {
-        {"shapes", drawShapes}, {"fills", drawFills},       {"images", drawImages},
-        {"states", drawStates}, {"outlines", drawOutlines},
+        {"shapes", drawShapes},
+        {"fills", drawFills},
+        {"patterns", drawPatterns},
+        {"images", drawImages},
+        {"states", drawStates},
+        {"outlines", drawOutlines},
+        {"switched clips", drawSwitchedClips},
     };
     const std::pair<const char *, QTransform> transforms[] = {
         {"plain", {}},
@@ -235,7 +277,8 @@ void tst_MvPaintRecording::replaysPixelForPixel_data()
             for (const bool antialiased : {true, false}) {
                 for (const double pixelRatio : {1.0, 2.0})
                     QTest::addRow("%s %s %s %g", paintingName, transformName, antialiased ? "soft" : "hard", pixelRatio)
-                        << painting << transform << antialiased << pixelRatio;
+                        << painting << transform << antialiased << pixelRatio
+                        << (qstrcmp(paintingName, "switched clips") != 0);
             }
         }
     }
@@ -247,11 +290,13 @@ void tst_MvPaintRecording::replaysPixelForPixel()
     QFETCH(QTransform, transform);
     QFETCH(bool, antialiased);
     QFETCH(double, pixelRatio);
+    QFETCH(bool, clipped); // to switch clips off would free the painting from that of the target, too
     const auto painted = [&](bool throughRecording) {
         QImage image = canvas(pixelRatio);
         QPainter painter(&image);
         painter.setRenderHints(hintsOfTarget, antialiased);
-        painter.setClipRect(QRectF(8, 5, 200, 185));
+        if (clipped)
+            painter.setClipRect(QRectF(8, 5, 200, 185));
         painter.setTransform(transform);
         if (throughRecording)
             recorded(painter, painting).replay(painter);
@@ -308,32 +353,40 @@ void tst_MvPaintRecording::replaysOnVectorTargets()
 {
     QFETCH(Painting, painting);
     const MvPaintRecording recording = recorded(painting);
-    const auto drawing = [](const Painting &paint) {
-        QBuffer buffer;
-        QSvgGenerator generator;
-        generator.setOutputDevice(&buffer);
-        generator.setSize(QSize(240, 200));
-        generator.setViewBox(QRect(0, 0, 240, 200));
-        QPainter painter(&generator);
-        painter.setRenderHints(hintsOfTarget);
-        paint(painter);
-        painter.end();
-        return buffer.data();
-    };
-    const auto rendered = [](const QByteArray &svg) {
+    const auto rendered = [](const QByteArray &drawing) {
         QImage image = canvas();
         QPainter painter(&image);
-        QSvgRenderer(svg).render(&painter, QRectF(0, 0, 240, 200));
+        QSvgRenderer(drawing).render(&painter, QRectF(0, 0, 240, 200));
         return image;
     };
-    const QByteArray direct = drawing(painting);
-    const QByteArray replayed = drawing([&recording](QPainter &painter) { recording.replay(painter); });
+    const QByteArray direct = svg(painting);
+    const QByteArray replayed = svg([&recording](QPainter &painter) { recording.replay(painter); });
     QCOMPARE(replayed.count("<path"), direct.count("<path"));
     QCOMPARE(differingPixels(rendered(replayed), rendered(direct)), 0);
 
     // a recorder is such a target, too
     const MvPaintRecording again = recorded([&recording](QPainter &painter) { recording.replay(painter); });
     QCOMPARE(again.describe(), recording.describe());
+}
+
+void tst_MvPaintRecording::textsAreOneOperation()
+{
+    QFont font(u"Lato"_qs);
+    font.setPixelSize(20);
+    const MvTextOutline outline(font, u"Illustration"_qs);
+    QVERIFY(outline.groups().size() > 8);
+    const Painting twice = [&outline, &font](QPainter &painter) {
+        MvOutlinePainter::fillOutline(painter, {10, 30}, outline, Qt::black);
+        MvOutlinePainter::fillOutlines(painter, {{{10, 60}, outline}, {{10, 90}, outline}}, Qt::black);
+        MvOutlinePainter::fillOutline(painter, {10, 90}, MvTextOutline(font, u"  "_qs), Qt::black);
+    };
+    const MvPaintRecording recording = recorded(twice);
+    QCOMPARE(recording.operationCount(), 2);
+    const auto items = recording.items();
+    QCOMPARE(items.size(), 3);
+    QCOMPARE(items[2].text, outline.text());
+    QCOMPARE(items[2].baseline, QPointF(10, 90));
+    QCOMPARE(svg(twice).count("<path"), 2); // whole, where nothing is gained by parts
 }
 
 void tst_MvPaintRecording::reportsTheTarget()
@@ -343,7 +396,8 @@ void tst_MvPaintRecording::reportsTheTarget()
     const MvPaintRecorder recorder(&image);
     QCOMPARE(recorder.logicalDpiX(), 150);
     QCOMPARE(recorder.logicalDpiY(), 300);
-    QCOMPARE(recorder.size(), image.size());
+    QCOMPARE(recorder.width(), image.width());
+    QCOMPARE(recorder.height(), image.height());
     QCOMPARE(recorder.devicePixelRatioF(), 1.0);
     QCOMPARE(MvPaintRecorder(nullptr).logicalDpiX(), 96);
 
@@ -358,14 +412,14 @@ void tst_MvPaintRecording::reportsTheTarget()
 
 void tst_MvPaintRecording::keepsHints()
 {
-    const auto custom = QPainter::RenderHint(0x800000);
-    const auto screen = QPainter::RenderHint(0x800);
+    const auto custom = QPainter::RenderHints::fromInt(0x800000);
+    const auto screen = QPainter::RenderHints::fromInt(0x800);
     QImage image = canvas();
     QPainter target(&image);
-    target.setRenderHint(custom);
+    target.setRenderHints(custom);
     const MvPaintRecording recording = recorded(target, [&](QPainter &painter) {
-        QVERIFY(painter.testRenderHint(custom));
-        painter.setRenderHint(screen);
+        QVERIFY((painter.renderHints() & custom) == custom);
+        painter.setRenderHints(screen);
         painter.fillRect(QRectF(0, 0, 1, 1), Qt::red);
     });
     struct Probe : QPaintEngine {
@@ -384,6 +438,7 @@ void tst_MvPaintRecording::keepsHints()
     };
     struct Device : QPaintDevice {
         QPaintEngine *paintEngine() const override { return &probe; }
+        int metric(PaintDeviceMetric) const override { return 1; }
         mutable Probe probe;
     } device;
     QPainter painter(&device);
