@@ -1,0 +1,384 @@
+#include "MvBoxFont.h"
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCore/MvInitializer.h"
+#include "MvXML/MvXMLBuilder.h"
+#include "MvXML/MvXMLLoader.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QDomElement element(const QString &xml)
+{
+    static QList<QDomDocument> documents; // an element does not keep its document
+    documents.append(MvXMLLoader::parse(xml.toUtf8()));
+    return documents.constLast().documentElement();
+}
+
+MvCalendariumLayoutSchema layout(const QString &cells,
+                                 const QString &attributes = u"layoutschema='L' type='CALENDAR_ONE_WEEK_PER_ROW'"_s)
+{
+    return MvCalendariumLayoutSchema(element(u"<calendararea %1>%2</calendararea>"_s.arg(attributes, cells)));
+}
+
+QDomElement written(const MvCalendariumAppearance &appearance, bool embedUserSchema = false)
+{
+    QDomDocument document;
+    QDomElement root = MvXMLBuilder::buildRootElement(document, u"calendarium"_s);
+    appearance.write(root, embedUserSchema);
+    return element(document.toString());
+}
+
+} // namespace
+
+class tst_LayoutAndAppearance : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cellDefaults();
+    void laterCellReplacesEarlierOne();
+    void specialTypesFollowTheirPartners();
+    void layoutRoundTrip();
+    void unknownLayouts();
+    void shippedLayouts();
+    void userLayoutsAreKept();
+
+    void fontSettings_data();
+    void fontSettings();
+    void fontSize_data();
+    void fontSize();
+    void unknownFontWordsTakeDefaults();
+    void metricsDoNotDependOnTheScreen();
+
+    void appearanceRoundTrip();
+    void defaultsAreNotWritten();
+    void embedsUserSchemata();
+    void columnHeaders();
+    void borders_data();
+    void borders();
+    void gridFollowsTheLayout();
+    void options_data();
+    void options();
+    void knowsWhetherDaysAreShown();
+    void copyOnWrite();
+};
+
+void tst_LayoutAndAppearance::cellDefaults()
+{
+    const MvCalendariumLayoutSchema read = layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY'/>"_s);
+    QCOMPARE(read.textAlignment(CALENDAR_CELL_TYPE_SUNDAY), Qt::Alignment(Qt::AlignCenter));
+    QCOMPARE(read.cellBorderWidth(CALENDAR_CELL_TYPE_SUNDAY), 2);
+    QCOMPARE(read.borderType(CALENDAR_CELL_TYPE_SUNDAY).toInt(), 0);
+    QCOMPARE(read.padding(CALENDAR_CELL_TYPE_SUNDAY), QMarginsF());
+    QVERIFY(read.allCellsHaveNoBorder());
+    QVERIFY(read.cellInfo(CALENDAR_CELL_TYPE_TITLE) == MvCalendariumLayoutCellInfo()); // not stored
+}
+
+void tst_LayoutAndAppearance::laterCellReplacesEarlierOne()
+{
+    const MvCalendariumLayoutSchema read =
+        layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bordersize='7' paddingleft='3'/>"
+               "<cell type='CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SUNDAY' paddingtop='4.5'/>"_s);
+    QCOMPARE(read.cellBorderWidth(CALENDAR_CELL_TYPE_SUNDAY), 2);
+    QCOMPARE(read.padding(CALENDAR_CELL_TYPE_SUNDAY), QMarginsF(0, 4.5, 0, 0));
+}
+
+void tst_LayoutAndAppearance::specialTypesFollowTheirPartners()
+{
+    const MvCalendariumLayoutSchema read =
+        layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bordersize='5'/>"
+               "<cell type='CALENDAR_CELL_TYPE_SATURDAY' bordersize='6'/>"
+               "<cell type='CALENDAR_CELL_TYPE_SCHOOL_VACATION' bordersize='9'/>"
+               "<cell type='CALENDAR_CELL_TYPE_HEAD_SATURDAY' bordertype='CALENDER_BORDER_TOP'/>"_s);
+    QCOMPARE(read.cellBorderWidth(CALENDAR_CELL_TYPE_HOLIDAY), 5);
+    QCOMPARE(read.cellBorderWidth(CALENDAR_CELL_TYPE_SCHOOL_VACATION), 9); // its own stays
+    QCOMPARE(read.borderType(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION).toInt(), 4);
+    QCOMPARE(read.cellBorderWidth(CALENDAR_CELL_TYPE_HEAD_HOLIDAY), 2); // no partner, default
+    QVERIFY(!read.allCellsHaveNoBorder());
+}
+
+void tst_LayoutAndAppearance::layoutRoundTrip()
+{
+    const MvCalendariumLayoutSchema original = layout(
+        u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bordersize='3' maxfontsize='12' textalign='AlignLeft|AlignBottom' "
+        "bordertype='CALENDAR_BORDER_TOP, CALENDAR_BORDER_LEFT' paddingleft='1.25' paddingtop='-2'>"
+        "<font family='Lato' pointsize='9.5' weight='700' italic='true' capitalization='AllUppercase' "
+        "letterspacing='6'/></cell>"_s,
+        u"schema='USER_7' name='Größe &quot;A&quot;' type='CALENDAR_YEAR' renderinfo='calendar_render_title'"_s);
+    QCOMPARE(original.ID().toString(), u"USER_7"_s); // from the older attribute
+    QVERIFY(original.isUserSchema());
+    QDomDocument document;
+    QDomElement root = MvXMLBuilder::buildRootElement(document, u"calendararea"_s);
+    original.write(root);
+    const MvCalendariumLayoutSchema read(element(document.toString()));
+    QVERIFY(read == original);
+    QCOMPARE(read.font(CALENDAR_CELL_TYPE_HOLIDAY).letterSpacing(), 106.0);
+}
+
+void tst_LayoutAndAppearance::unknownLayouts()
+{
+    QVERIFY(!MvCalendariumLayoutSchemaRegistry::instance().findSchema(MvCalendariumLayoutSchemaID(u"?"_s)).isValid());
+    QVERIFY(!MvCalendariumLayoutSchemaRegistry::instance().schema(-1).isValid());
+    QVERIFY(!layout(QString(), u"type='CALENDAR_YEAR'"_s).isValid()); // no id
+    QVERIFY(!MvCalendariumLayoutSchemaID(u"user_1"_s).isUserID());    // case matters
+}
+
+void tst_LayoutAndAppearance::shippedLayouts()
+{
+    const auto &registry = MvCalendariumLayoutSchemaRegistry::instance();
+    QVERIFY(registry.schemata().size() >= 6);
+    QSet<QString> ids;
+    for (const MvCalendariumLayoutSchema &schema : registry.schemata()) {
+        ids.insert(schema.ID().toString());
+        QVERIFY2(schema.name() != schema.ID().toString(), qPrintable(schema.name()));
+        QVERIFY2(schema.calendariumType().isValid(), qPrintable(schema.name()));
+        QVERIFY2(schema.renderingInformation().isValid(), qPrintable(schema.name()));
+    }
+    QCOMPARE(ids.size(), registry.schemata().size());
+}
+
+void tst_LayoutAndAppearance::userLayoutsAreKept()
+{
+    MvCalendariumLayoutSchemaRegistry registry;
+    QVERIFY(!registry.recordUserSchema(layout(QString()))); // not a user's id
+    QVERIFY(registry.recordUserSchema(layout(QString(), u"layoutschema='USER_1' type='CALENDAR_YEAR'"_s)));
+    QVERIFY(registry.saveUserSchemaFile());
+    const MvCalendariumLayoutSchemaRegistry reread;
+    QCOMPARE(reread.findSchema(MvCalendariumLayoutSchemaID(u"USER_1"_s)).calendariumType().toInt(), 32);
+    QCOMPARE(reread.schemata().constFirst().ID().toString(), u"USER_1"_s); // users first
+    QVERIFY(QFile::remove(MvCalendariumLayoutSchemaRegistry::userSchemaFile()));
+}
+
+void tst_LayoutAndAppearance::fontSettings_data()
+{
+    QTest::addColumn<QString>("attributes");
+    QTest::addColumn<int>("percentage");
+    QTest::addColumn<int>("holidays");
+    QTest::newRow("nothing") << QString() << 0 << -50;
+    QTest::newRow("old size in steps of ten") << u"fontsize='2'"_s << 20 << -50;
+    QTest::newRow("the new size wins") << u"fontsize='2' fontsize_percentage='-10'"_s << -10 << -50;
+    QTest::newRow("holidays") << u"fontsize_percentage_holiddays='-30'"_s << 0 << -30;
+}
+
+void tst_LayoutAndAppearance::fontSettings()
+{
+    QFETCH(QString, attributes);
+    const MvCalendariumFontSettings settings(element(u"<e %1/>"_s.arg(attributes)));
+    QTEST(settings.fontSizePercentage(), "percentage");
+    QTEST(settings.fontSizePercentageHolidays(), "holidays");
+    QCOMPARE(settings.fontName(), u"Lato"_s); // the default family where a page names none
+}
+
+void tst_LayoutAndAppearance::fontSize_data()
+{
+    QTest::addColumn<int>("percentage");
+    QTest::addColumn<int>("target");
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("pixels");
+    // 20 points are 20 * 200 / 72 = 55.56 pixels at 200 dpi
+    QTest::newRow("layout size") << 0 << 0 << 6 << 56;
+    QTest::newRow("larger") << 20 << 0 << 6 << 67;           // 24 points
+    QTest::newRow("points are truncated") << 4 << 0 << 6 << 56; // 20.8 points count as 20
+    QTest::newRow("half") << -50 << 0 << 6 << 28;            // 10 points
+    QTest::newRow("two paper classes up") << 0 << 512 << 6 << 112;
+    QTest::newRow("smallest size") << -95 << 0 << 6 << 21;   // 6 points are 21.2 pixels at 254 dpi
+    QTest::newRow("never nothing") << -100 << 0 << 0 << 1;
+}
+
+void tst_LayoutAndAppearance::fontSize()
+{
+    QFETCH(int, percentage);
+    QFETCH(int, target);
+    QFETCH(int, minimum);
+    MvCalendariumFontSettings settings;
+    settings.setFontSizePercentage(percentage);
+    const QFont font = settings.font(QFont(u"Lato"_s, 20), MAGNITUDE_A4, MvSpaceMagnitude(target), minimum);
+    QTEST(font.pixelSize(), "pixels");
+    QCOMPARE(font.family(), u"Lato"_s);
+}
+
+void tst_LayoutAndAppearance::unknownFontWordsTakeDefaults()
+{
+    const MvCalendariumFontSettings unknown(
+        element(u"<e font-weight='Fett' font-capitalization='Laut' font-letter-spacing='viel'/>"_s));
+    QCOMPARE(unknown.weight(), QFont::Normal);
+    QCOMPARE(unknown.capitalization(), QFont::MixedCase);
+    QCOMPARE(unknown.letterSpacing(), 0.0);
+    const MvCalendariumFontSettings known(element(
+        u"<e font='X' font-weight='Bold' font-capitalization='SmallCaps' font-letter-spacing='2' "
+        "fontsize_percentage='50'/>"_s));
+    QFont base(u"Lato"_s, 10);
+    base.setWeight(QFont::Light);
+    const QFont font = known.font(base, MAGNITUDE_A4, MAGNITUDE_NONE, 6);
+    QCOMPARE(font.weight(), QFont::Bold);
+    QCOMPARE(font.capitalization(), QFont::SmallCaps);
+    QCOMPARE(font.letterSpacing(), 3.0); // grows with the size
+    QCOMPARE(font.family(), u"X"_s);
+    QCOMPARE(unknown.font(base, MAGNITUDE_A4, MAGNITUDE_NONE, 6).weight(), QFont::Light); // the layout's
+}
+
+void tst_LayoutAndAppearance::metricsDoNotDependOnTheScreen()
+{
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY'><font family='%1' pointsize='18'/>"
+                                      "</cell>"_s.arg(MvBoxFont::family())));
+    const QFontMetrics metrics = appearance.fontMetrics(CALENDAR_CELL_TYPE_SUNDAY, MAGNITUDE_NONE, 6);
+    QCOMPARE(metrics.height(), 50); // 18 points are 50 pixels at 200 dpi, boxes are one em high
+    QCOMPARE(metrics.horizontalAdvance(u"22"_s), 50);
+}
+
+void tst_LayoutAndAppearance::appearanceRoundTrip()
+{
+    MvCalendariumAppearance original;
+    original.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_GRID_LINES"_s));
+    original.setColorSchemaById(MvCalendariumColorSchemaID(u"NIGHT"_s));
+    original.setFontSettings(
+        MvCalendariumFontSettings(u"EB Garamond"_s, 10, -40, QFont::Bold, QFont::AllUppercase, 1.5));
+    original.setColumnHeaders(QStringList{u"Mama"_s, u"Jörg"_s});
+    original.setOffsetMonth(-2);
+    original.setShowHolidays(false);
+    QVERIFY(original.isValid());
+    const MvCalendariumAppearance read(written(original), false, nullptr);
+    QVERIFY(read == original);
+    QVERIFY(read.layoutSchema() == original.layoutSchema());
+    QVERIFY(!read.showHolidays());
+}
+
+void tst_LayoutAndAppearance::defaultsAreNotWritten()
+{
+    const QDomElement root = written(MvCalendariumAppearance());
+    for (const QString &absent :
+         {u"offsetmonth"_s, u"extrainformation"_s, u"font-capitalization"_s, u"font-weight"_s,
+          u"font-letter-spacing"_s})
+        QVERIFY2(!root.hasAttribute(absent), qPrintable(absent));
+    QCOMPARE(root.attribute(u"fontsize_percentage"_s), u"0"_s);
+    QCOMPARE(root.attribute(u"fontsize_percentage_holiddays"_s), u"-50"_s);
+    QCOMPARE(root.attribute(u"show_holiday"_s), u"true"_s);
+    QCOMPARE(root.attribute(u"optimizedSize"_s), u"a4"_s);
+    QVERIFY(!MvCalendariumAppearance(element(u"<e/>"_s), false, nullptr).isValid());
+    QCOMPARE(MvCalendariumAppearance(element(u"<e optimizedSize='a2'/>"_s), false, nullptr).optimizedSize().toInt(),
+             512);
+}
+
+void tst_LayoutAndAppearance::embedsUserSchemata()
+{
+    MvCalendariumAppearance appearance;
+    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"NIGHT"_s));
+    QVERIFY(written(appearance, true).firstChildElement(u"colorschema"_s).isNull()); // a shipped one goes by its id
+    appearance.setCellColor(QColor(u"#123456"_s), {MvCalendarCellColorRoleEnum::textcolor, CALENDAR_CELL_TYPE_SUNDAY,
+                                                   MvParityLogicEnum::both});
+    const QDomElement embedded = written(appearance, true);
+    QVERIFY(!embedded.firstChildElement(u"colorschema"_s).isNull());
+    QVERIFY(MvCalendariumAppearance(embedded, false, nullptr).colorSchema() == appearance.colorSchema());
+    QVERIFY(written(appearance, false).firstChildElement(u"colorschema"_s).isNull());
+
+    const auto registry = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    const QString id = registry->record(appearance.colorSchema()).toString();
+    const QDomElement byId = element(u"<e colorschema='%1'/>"_s.arg(id));
+    QVERIFY(MvCalendariumAppearance(byId, false, registry.get()).colorSchema() == appearance.colorSchema());
+    QVERIFY(!MvCalendariumAppearance(byId, false, nullptr).colorSchema().isValid());
+}
+
+void tst_LayoutAndAppearance::columnHeaders()
+{
+    MvCalendariumAppearance appearance;
+    appearance.setColumnHeaders(u"Mo$$$$Di"_s);
+    QCOMPARE(appearance.columnHeadersList(), (QStringList{u"Mo"_s, u"Di"_s}));
+    QCOMPARE(appearance.countColumns(), 2);
+    appearance.setColumnHeaders(QStringList{u"A"_s, QString(), u"B"_s});
+    QCOMPARE(appearance.columnHeaders(), u"A$$$$B"_s);
+}
+
+void tst_LayoutAndAppearance::borders_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("cell");
+    QTest::addColumn<bool>("grid");
+    QTest::addColumn<int>("sides");
+    QTest::addColumn<bool>("painted");
+    const QString left = u"bordertype='CALENDAR_BORDER_LEFT'"_s;
+    QTest::newRow("grid off") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << left << false << 0 << false;
+    QTest::newRow("the layout's sides") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << left << true << 1 << true;
+    QTest::newRow("no borders in the layout: all") << u"CALENDAR_YEAR"_s << QString() << true << 15 << true;
+    QTest::newRow("a kind without borders") << u"CALENDAR_MONTH_ONLY"_s << left << true << 1 << false;
+    QTest::newRow("week columns have none either") << u"CALENDAR_ONE_COLUMN_PER_WEEK"_s << left << true << 1 << false;
+}
+
+void tst_LayoutAndAppearance::borders()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, cell);
+    QFETCH(bool, grid);
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' %1/>"_s.arg(cell),
+                                      u"layoutschema='L' type='%1'"_s.arg(type)));
+    MvBorderConfig config;
+    config.setIsEnabled(grid);
+    appearance.setGridConfig(config);
+    QTEST(appearance.borderType(CALENDAR_CELL_TYPE_SUNDAY).toInt(), "sides");
+    QTEST(appearance.shouldIPaintTheBorder(CALENDAR_CELL_TYPE_SUNDAY), "painted");
+}
+
+void tst_LayoutAndAppearance::gridFollowsTheLayout()
+{
+    const QString page = u"<e colorschema='PAPER_WHITE' layoutschema='%1'/>"_s;
+    const auto gridIsOn = [&page](const QString &id, bool adapt) {
+        return MvCalendariumAppearance(element(page.arg(id)), adapt, nullptr).gridConfig().isEnabled();
+    };
+    QVERIFY(gridIsOn(u"MONTH_GRID_CLASSIC"_s, true));
+    QVERIFY(!gridIsOn(u"MONTH_GRID_SERIF"_s, true)); // has no borders
+    QVERIFY(gridIsOn(u"MONTH_GRID_SERIF"_s, false)); // the colour schema's own
+}
+
+void tst_LayoutAndAppearance::options_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<bool>("showHolidays");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << true << 3;
+    QTest::newRow("list") << u"CALENDAR_ONE_DAY_PER_ROW"_s << true << 3;
+    QTest::newRow("holidays") << u"CALENDAR_HOLIDAYS"_s << true << 1;
+    QTest::newRow("year") << u"CALENDAR_YEAR"_s << true << 0;
+    QTest::newRow("holidays off") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << false << 0;
+}
+
+void tst_LayoutAndAppearance::options()
+{
+    QFETCH(QString, type);
+    QFETCH(bool, showHolidays);
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(layout(QString(), u"layoutschema='L' type='%1'"_s.arg(type)));
+    appearance.setShowHolidays(showHolidays);
+    QTEST(appearance.calendariumOptions(), "expected");
+}
+
+void tst_LayoutAndAppearance::knowsWhetherDaysAreShown()
+{
+    MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_GRID_SERIF"_s));
+    QVERIFY(appearance.rendererShowsDays());
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_ONLY"_s));
+    QVERIFY(!appearance.rendererShowsDays());
+}
+
+void tst_LayoutAndAppearance::copyOnWrite()
+{
+    MvCalendariumAppearance original;
+    original.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_ONLY"_s));
+    MvCalendariumAppearance copy = original;
+    QCOMPARE(&copy.layoutSchema(), &original.layoutSchema());
+    copy.setOffsetMonth(0);
+    QCOMPARE(&copy.layoutSchema(), &original.layoutSchema()); // the present value changes nothing
+    copy.setShowHolidays(false);
+    QVERIFY(copy != original);
+    QVERIFY(original.showHolidays());
+}
+
+MV_TEST_MAIN(tst_LayoutAndAppearance)
+#include "tst_LayoutAndAppearance.moc"

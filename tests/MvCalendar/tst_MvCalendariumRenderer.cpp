@@ -1,0 +1,635 @@
+#include "MvBoxFont.h"
+#include "MvPageFixture.h"
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvCalendar/MvCalendariumRendererMonthOnly.h"
+#include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvModelBase/MvPaintRecorder.h"
+#include "MvModelBase/MvRenderingRule.h"
+
+#include <QPainter>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+using Item = MvPaintRecording::Item;
+
+namespace {
+
+const QString noEmptyWeeks = u"calendar_render_no_empty_weeks"_s;
+
+MvCalendarEvent entry(const QString &name, const QDate &date, const QString &photo = {})
+{
+    return MvCalendarEvent(name, date.startOfDay(), true, photo.isEmpty() ? MvFoto() : MvFoto(QFileInfo(photo)),
+                           QUuid::createUuid(), QDateTime());
+}
+
+QList<Item> textsIn(const MvPaintRecording &recording, const QRectF &cell)
+{
+    QList<Item> texts;
+    for (const Item &item : recording.items(Item::Text)) {
+        if (cell.contains(item.bounds.center()))
+            texts.append(item);
+    }
+    return texts;
+}
+
+} // namespace
+
+/// What all layouts share: dates, cell types, measures, words, and how one cell is painted.
+class tst_MvCalendariumRenderer : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { MvCalendarEventRegistry::instance().setEvents({}); }
+
+    void weeksOfMonth_data();
+    void weeksOfMonth();
+    void weekParity_data();
+    void weekParity();
+    void cellTypes_data();
+    void cellTypes();
+    void weekdayTypesBeyondSunday();
+    void calendarRange();
+    void factory_data();
+    void factory();
+    void factoryFiltersCellTypes();
+
+    void years_data();
+    void years();
+    void monthsAndWeeks();
+    void measures();
+    void breaksLines_data();
+    void breaksLines();
+    void placesTextsAsFontMetricsDo_data();
+    void placesTextsAsFontMetricsDo();
+    void textBlocks_data();
+    void textBlocks();
+
+    void textsOfADay();
+    void splitsTexts_data();
+    void splitsTexts();
+    void htmlFragments();
+
+    void passFillsBeneathTexts();
+    void passKeepsTheClip();
+    void translucentBackgrounds();
+    void bordersOfACell();
+    void smallCellsShowNumbersOnly_data();
+    void smallCellsShowNumbersOnly();
+    void textsLeaveTheNumberItsPlace();
+    void photoStandsForTheNumber();
+    void photoInAWideCell();
+    void warnsOfTooWideWords();
+    void invisibleTextsAreNotDrawn();
+    void monthOnly();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void tst_MvCalendariumRenderer::weeksOfMonth_data()
+{
+    QTest::addColumn<QDate>("month");
+    QTest::addColumn<int>("weeks");
+    QTest::newRow("28 days from Monday") << QDate(2027, 2, 1) << 4;
+    QTest::newRow("28 days from Thursday") << QDate(2029, 2, 1) << 5;
+    QTest::newRow("29 days from Monday") << QDate(2044, 2, 1) << 5;
+    QTest::newRow("29 days from Sunday") << QDate(2032, 2, 1) << 5;
+    QTest::newRow("30 days from Saturday") << QDate(2028, 4, 1) << 5;
+    QTest::newRow("30 days from Sunday") << QDate(2031, 6, 1) << 6;
+    QTest::newRow("31 days from Friday") << QDate(2027, 10, 1) << 5;
+    QTest::newRow("31 days from Saturday") << QDate(2027, 5, 1) << 6;
+    QTest::newRow("31 days from Sunday") << QDate(2027, 8, 1) << 6;
+    QTest::newRow("any day of the month counts") << QDate(2027, 2, 28) << 4;
+    QTest::newRow("no month") << QDate() << 6;
+}
+
+void tst_MvCalendariumRenderer::weeksOfMonth()
+{
+    QFETCH(QDate, month);
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 1, 1));
+    QTEST(page.renderer().numberOfWeeks(month), "weeks");
+    MvPageFixture withEmptyWeeks(MvPageFixture::appearance(u"calendar_render_title"_s), QDate(2027, 1, 1));
+    QCOMPARE(withEmptyWeeks.renderer().numberOfWeeks(month), 6);
+}
+
+void tst_MvCalendariumRenderer::weekParity_data()
+{
+    QTest::addColumn<QDate>("page");
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<bool>("even");
+    QTest::newRow("first week is odd") << QDate(2027, 10, 1) << QDate(2027, 10, 3) << false;
+    QTest::newRow("second week is even") << QDate(2027, 10, 1) << QDate(2027, 10, 4) << true;
+    QTest::newRow("third week is odd") << QDate(2027, 10, 1) << QDate(2027, 10, 17) << false;
+    QTest::newRow("days before the month") << QDate(2027, 10, 1) << QDate(2027, 9, 28) << false;
+    QTest::newRow("days after the month follow its last day") << QDate(2027, 9, 1) << QDate(2027, 10, 3) << false;
+    QTest::newRow("December before January") << QDate(2027, 1, 1) << QDate(2026, 12, 30) << false;
+    // 1 January 2027 lies in week 53, 4 January in week 1: both odd, so that the rows do not alternate here
+    QTest::newRow("after week 53") << QDate(2027, 1, 1) << QDate(2027, 1, 4) << false;
+    QTest::newRow("January after December") << QDate(2026, 12, 1) << QDate(2027, 1, 2) << false;
+}
+
+void tst_MvCalendariumRenderer::weekParity()
+{
+    QFETCH(QDate, page);
+    QFETCH(QDate, date);
+    MvPageFixture fixture(MvPageFixture::appearance(noEmptyWeeks), page);
+    QTEST(fixture.renderer().isEvenWeek(date), "even");
+}
+
+void tst_MvCalendariumRenderer::cellTypes_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<int>("features");
+    QTest::addColumn<int>("inscription");
+    QTest::addColumn<int>("color");
+    const int holiday = CALENDAR_CELL_TYPE_HOLIDAY;
+    const int weekday = CALENDAR_CELL_TYPE_WEEKDAY;
+    QTest::newRow("Epiphany") << QDate(2027, 1, 6) << 3 << holiday << holiday;
+    QTest::newRow("its text alone") << QDate(2027, 1, 6) << 1 << holiday << weekday;
+    QTest::newRow("its colour alone") << QDate(2027, 1, 6) << 2 << weekday << holiday;
+    QTest::newRow("switched off") << QDate(2027, 1, 6) << 0 << weekday << weekday;
+    QTest::newRow("Labour Day on a Saturday") << QDate(2027, 5, 1) << 3 << holiday << holiday;
+    QTest::newRow("the same switched off") << QDate(2027, 5, 1) << 0 << int(CALENDAR_CELL_TYPE_SATURDAY)
+                                           << int(CALENDAR_CELL_TYPE_SATURDAY);
+    QTest::newRow("vacation") << QDate(2027, 8, 10) << 8 << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
+                              << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION);
+    QTest::newRow("Saturday in the vacation") << QDate(2027, 8, 14) << 11 << int(CALENDAR_CELL_TYPE_SATURDAY)
+                                              << int(CALENDAR_CELL_TYPE_SATURDAY);
+    QTest::newRow("a named day is no holiday") << QDate(2027, 12, 24) << 3 << weekday << weekday;
+}
+
+void tst_MvCalendariumRenderer::cellTypes()
+{
+    QFETCH(QDate, date);
+    QFETCH(int, features);
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), date, features);
+    const MvCalendarCellTypeConfig content = page.renderer().contentCellTypeConfig(date);
+    QTEST(content.inscriptionConfig().toInt(), "inscription");
+    QTEST(content.colorConfig().toInt(), "color");
+    // heads decide alike
+    const bool headIsHoliday = page.renderer().headCellTypeConfig(date).colorConfig() == CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
+    QCOMPARE(headIsHoliday, content.colorConfig() == CALENDAR_CELL_TYPE_HOLIDAY);
+}
+
+void tst_MvCalendariumRenderer::weekdayTypesBeyondSunday()
+{
+    QCOMPARE(MvCalendariumRenderer::headCellTypeWeekDay(13).toInt(), int(CALENDAR_CELL_TYPE_HEAD_SATURDAY));
+    QCOMPARE(MvCalendariumRenderer::contentCellTypeWeekDay(21).toInt(), int(CALENDAR_CELL_TYPE_SUNDAY));
+    QCOMPARE(MvCalendariumRenderer::contentCellTypeWeekDay(8).toInt(), int(CALENDAR_CELL_TYPE_WEEKDAY));
+}
+
+void tst_MvCalendariumRenderer::calendarRange()
+{
+    MvCalendariumAppearance appearance = MvPageFixture::appearance(noEmptyWeeks);
+    appearance.setOffsetMonth(2);
+    MvPageFixture page(appearance, QDate(2027, 3, 17));
+    QCOMPARE(page.renderer().startDate(), QDate(2027, 3, 1));
+    QCOMPARE(page.renderer().startDateOfCalendar(), QDate(2027, 3, 1));
+    QCOMPARE(page.renderer().endDateOfCalendar(), QDate(2028, 2, 29));
+}
+
+void tst_MvCalendariumRenderer::factory_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QByteArray>("renderer");
+    QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << QByteArray("MvCalendariumRendererOneWeekPerRow");
+    QTest::newRow("month only") << u"CALENDAR_MONTH_ONLY"_s << QByteArray("MvCalendariumRendererMonthOnly");
+    QTest::newRow("nothing") << QString() << QByteArray("MvCalendariumRendererMonthOnly");
+    QTest::newRow("two at once") << u"CALENDAR_MONTH_ONLY, CALENDAR_YEAR"_s
+                                 << QByteArray("MvCalendariumRendererMonthOnly");
+}
+
+void tst_MvCalendariumRenderer::factory()
+{
+    QFETCH(QString, type);
+    MvPageFixture page(MvPageFixture::appearance({}, {}, type), QDate(2027, 1, 1));
+    QTEST(QByteArray(page.renderer().metaObject()->className()), "renderer");
+}
+
+void tst_MvCalendariumRenderer::factoryFiltersCellTypes()
+{
+    const auto &factory = MvCalendariumRendererFactory::instance();
+    const MvCalendarCellType title = CALENDAR_CELL_TYPE_TITLE;
+    const MvCalendarCellType week = CALENDAR_CELL_TYPE_WEEK_OF_YEAR;
+    QVERIFY(!factory.usedCellTypes(MvPageFixture::appearance(noEmptyWeeks)).contains(title));
+    const auto withTitle = factory.usedCellTypes(MvPageFixture::appearance(u"calendar_render_title"_s));
+    QVERIFY(withTitle.contains(title));
+    QVERIFY(!withTitle.contains(week));
+    MvCalendariumAppearance overridden = MvPageFixture::appearance(noEmptyWeeks);
+    overridden.setOverrideShowCalendarWeek(true);
+    QVERIFY(factory.usedCellTypes(overridden).contains(week));
+}
+
+void tst_MvCalendariumRenderer::years_data()
+{
+    QTest::addColumn<int>("year");
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("calendar");
+    QTest::newRow("none") << 2024 << 0 << QString() << u"'24"_s;
+    QTest::newRow("long") << 2024 << 1 << u"2024"_s << u"2024"_s;
+    QTest::newRow("short") << 2005 << 2 << u"'05"_s << u"'05"_s;
+    QTest::newRow("both") << 2024 << 3 << QString() << u"'24"_s;
+}
+
+void tst_MvCalendariumRenderer::years()
+{
+    QFETCH(int, year);
+    QFETCH(int, flags);
+    const MvCalendarRenderingInformation info(flags);
+    MvPageFixture page(MvPageFixture::appearance(info.encodeCSV()), QDate(2027, 1, 1));
+    QTEST(page.renderer().yearName(year), "name");
+    QTEST(MvCalendariumRenderer::calendarYear(year, info), "calendar");
+}
+
+void tst_MvCalendariumRenderer::monthsAndWeeks()
+{
+    MvPageFixture page(MvPageFixture::appearance(u"calendar_render_month_number, calendar_render_year_long"_s),
+                       QDate(2027, 3, 1));
+    const MvCalendariumRenderer &renderer = page.renderer();
+    QCOMPARE(renderer.calendarMonth(QDate(2027, 5, 9)), u"5 2027"_s);
+    QCOMPARE(renderer.calendarMonth(QDate()), u"3 2027"_s); // the page's month
+    QCOMPARE(renderer.calendarMonth(3, MvCalendarRenderingInformation(calendar_render_month_short)), u"Mär"_s);
+    QCOMPARE(renderer.calendarMonth(3, MvCalendarRenderingInformation(0)), u"März"_s);
+    QCOMPARE(renderer.dayName(1, true), u"Mo"_s);
+    QCOMPARE(renderer.stringFromDate(QDate(2027, 10, 3), u"dddd"_s), u"Sonntag"_s);
+    QCOMPARE(renderer.stringFromDate(QDate(2027, 10, 3), u"d. MMMM yyyy"_s), u"3. Oktober 2027"_s);
+    QCOMPARE(renderer.calendarWeekText(QDate(2027, 1, 1)), u"53"_s);
+    QCOMPARE(renderer.calendarWeekHeadlineText(), u"KW"_s);
+}
+
+void tst_MvCalendariumRenderer::measures()
+{
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 1, 1));
+    const MvCalendariumRenderer &renderer = page.renderer();
+    // "22" in boxes of 50 pixels is 50 pixels wide; a pixel is 1.27 tenths of a millimetre
+    QCOMPARE(renderer.contentWidthOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false), 63.5);
+    QCOMPARE(renderer.widthOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false), 84.5);
+    QCOMPARE(renderer.minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false), 84.5);
+    // 25 pixels: the longest of Monday to Friday is "Donnerstag"
+    QCOMPARE(renderer.contentWidthOfCellType(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, false), 125 * 1.27);
+    QCOMPARE(renderer.contentWidthOfCellType(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, true), 25 * 1.27);
+    const double dayHead = renderer.contentWidthOfCellType(CALENDAR_CELL_TYPE_HEAD_HOLIDAY, false);
+    QCOMPARE(dayHead, 25 * 1.27); // like the number "22", not like a name
+    QCOMPARE(renderer.widthRangeOfCellTypes(CALENDAR_CELL_TYPE_TOPLINE, false), (MvRealRange{21.0, 21.0}));
+    QCOMPARE(renderer.widthRangeOfCellTypes(MvCalendarCellType(0), false), MvRealRange());
+    const MvRealRange range = renderer.widthRangeOfCellTypes(
+        MvCalendarCellType(CALENDAR_CELL_TYPE_WEEKDAY | CALENDAR_CELL_TYPE_TOPLINE), false);
+    QCOMPARE(range, (MvRealRange{21.0, 84.5}));
+    QCOMPARE(renderer.maximumSizeOfStrings(CALENDAR_CELL_TYPE_WEEKDAY, {}).width(), 0.0);
+    // a week text that stands upright is as high as it is wide: "52" and, in the grid, "KW"
+    QCOMPARE(renderer.minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, true), 25 * 1.27 + 1.0);
+    QCOMPARE(renderer.minimumSizeFont(CALENDAR_CELL_TYPE_WEEKDAY, nullptr, QString()), QSizeF(0, 0));
+    QCOMPARE(renderer.minimumSizeWeekdays(true, nullptr), QSizeF(50, 50));
+}
+
+void tst_MvCalendariumRenderer::breaksLines_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QStringList>("lines");
+    // ten pixels per character
+    QTest::newRow("texts are never joined") << 1000 << QStringList{u"a b"_s, u"c"_s} << QStringList{u"a b"_s, u"c"_s};
+    QTest::newRow("exactly as wide fits") << 50 << QStringList{u"ab cd"_s} << QStringList{u"ab cd"_s};
+    QTest::newRow("one pixel less does not") << 49 << QStringList{u"ab cd"_s} << QStringList{u"ab"_s, u"cd"_s};
+    QTest::newRow("a long word stands alone")
+        << 50 << QStringList{u"ab Friedensfest cd ef"_s} << QStringList{u"ab"_s, u"Friedensfest"_s, u"cd ef"_s};
+    QTest::newRow("white space") << 1000 << QStringList{u"  a\t\n b "_s} << QStringList{u"a b"_s};
+    QTest::newRow("nothing") << 10 << QStringList{QString(), u"  "_s} << QStringList();
+}
+
+void tst_MvCalendariumRenderer::breaksLines()
+{
+    QFETCH(int, width);
+    QFETCH(QStringList, texts);
+    QTEST(MvCalendariumRenderer::manuallyBreakLines(width, MvBoxFont::font(20), texts), "lines");
+    QVERIFY(!MvCalendariumRenderer::isTextToWide(50, MvBoxFont::font(20), u"12345"_s));
+    QVERIFY(!MvCalendariumRenderer::isAnyTextToWide(50, MvBoxFont::font(20), {}));
+}
+
+void tst_MvCalendariumRenderer::placesTextsAsFontMetricsDo_data()
+{
+    QTest::addColumn<QFont>("font");
+    QTest::addColumn<int>("flags");
+    for (const int flags : {int(Qt::AlignLeft | Qt::AlignTop), int(Qt::AlignCenter), int(Qt::AlignRight | Qt::AlignBottom),
+                            int(Qt::AlignHCenter | Qt::AlignBottom), 0}) {
+        QTest::addRow("boxes %x", flags) << MvBoxFont::font(37) << flags;
+        QFont lato(u"Lato"_s);
+        lato.setPixelSize(31);
+        lato.setHintingPreference(QFont::PreferNoHinting);
+        QTest::addRow("Lato %x", flags) << lato << flags;
+    }
+}
+
+void tst_MvCalendariumRenderer::placesTextsAsFontMetricsDo()
+{
+    QFETCH(QFont, font);
+    QFETCH(int, flags);
+    const QRectF rect(12.5, 33.25, 611.7, 77.1);
+    const QString text = u"Heilige Drei Könige"_s;
+    const QRectF expected = QFontMetricsF(font).boundingRect(rect, flags | Qt::TextDontClip, text);
+    const QRectF found = MvCalendariumTextPainter::boundingRect(font, rect, flags | Qt::TextDontClip, text);
+    for (const double difference : {found.x() - expected.x(), found.y() - expected.y(),
+                                    found.width() - expected.width(), found.height() - expected.height()})
+        QVERIFY2(qAbs(difference) < 0.1, qPrintable(QString::number(difference)));
+}
+
+void tst_MvCalendariumRenderer::textBlocks_data()
+{
+    QTest::addColumn<int>("flags");
+    QTest::addColumn<QList<QPointF>>("baselines");
+    // 20 pixels: ascent 16, descent 4; "abcd" is 40 wide, "ab" 20
+    QTest::newRow("top, centred") << int(Qt::AlignTop | Qt::AlignHCenter)
+                                  << QList<QPointF>{{80.25, 116}, {90.25, 136}};
+    QTest::newRow("bottom, centred") << int(Qt::AlignBottom | Qt::AlignHCenter)
+                                     << QList<QPointF>{{80.25, 176}, {90.25, 196}};
+    QTest::newRow("left: lines are still centred on the widest") << int(Qt::AlignTop | Qt::AlignLeft)
+                                                                 << QList<QPointF>{{50.25, 116}, {60.25, 136}};
+}
+
+void tst_MvCalendariumRenderer::textBlocks()
+{
+    QFETCH(int, flags);
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    painter.setFont(MvBoxFont::font(20));
+    MvCalendariumRenderer::drawTexts(painter, {50.25, 100, 100, 100}, flags, {u"abcd"_s, u"ab"_s});
+    painter.end();
+    QList<QPointF> baselines;
+    for (const Item &text : recorder.recording().items(Item::Text))
+        baselines.append(text.baseline);
+    QTEST(baselines, "baselines");
+}
+
+void tst_MvCalendariumRenderer::textsOfADay()
+{
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Oma"_s, QDate(1950, 1, 6))});
+    const QDate day(2027, 1, 6);
+    const QStringList official{u"Heilige Drei Könige"_s};
+    const QStringList personal{u"Oma"_s};
+    const auto describe = [&day](int features, bool showHolidays) {
+        MvCalendariumAppearance appearance = MvPageFixture::appearance(noEmptyWeeks);
+        appearance.setShowHolidays(showHolidays);
+        MvPageFixture page(appearance, day, features);
+        page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+        return page.renderer().describeHolidays(day);
+    };
+    QCOMPARE(describe(1 | 4, true), official + personal);
+    QCOMPARE(describe(1, true), official);
+    QCOMPARE(describe(4, true), personal);
+    QCOMPARE(describe(0, true), QStringList());
+    QCOMPARE(describe(1 | 4, false), personal); // the page's switch silences holidays alone
+}
+
+void tst_MvCalendariumRenderer::splitsTexts_data()
+{
+    QTest::addColumn<QString>("alignment");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<int>("top");
+    QTest::newRow("number on top") << u"AlignTop"_s << 3 << 0;
+    QTest::newRow("number at the bottom") << u"AlignBottom"_s << 3 << 3;
+    QTest::newRow("centred, four") << u"AlignCenter"_s << 4 << 2;
+    QTest::newRow("centred, three") << u"AlignCenter"_s << 3 << 1;
+    QTest::newRow("centred, one") << u"AlignCenter"_s << 1 << 0;
+    QTest::newRow("no vertical alignment") << u"AlignLeft"_s << 2 << 1;
+}
+
+void tst_MvCalendariumRenderer::splitsTexts()
+{
+    QFETCH(QString, alignment);
+    QFETCH(int, count);
+    QFETCH(int, top);
+    const QString cells = u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' textalign='%1'/>"_s.arg(alignment);
+    MvPageFixture page(MvPageFixture::appearance({}, cells), QDate(2027, 1, 1));
+    const QStringList texts = QStringList{u"1"_s, u"2"_s, u"3"_s, u"4"_s}.mid(0, count);
+    const auto [above, below] = page.renderer().splitHolidays(texts, CALENDAR_CELL_TYPE_SUNDAY);
+    QCOMPARE(above, texts.mid(0, top));
+    QCOMPARE(below, texts.mid(top));
+}
+
+void tst_MvCalendariumRenderer::htmlFragments()
+{
+    MvPageFixture page(MvPageFixture::appearance({}), QDate(2027, 1, 1));
+    QCOMPARE(page.renderer().tableSkeleton(2, 3),
+             u"<table width=\"100%\" height=\"100%\" cellpadding=\"3\" cellspacing=\"2\">%3</table>"_s);
+    QCOMPARE(MvCalendariumRenderer::rowSkeleton(), u"<tr>%1</tr"_s);
+    QCOMPARE(page.renderer().cellSkeleton(1, 1, QColor(), QString()), u"<td     >%5</td>"_s);
+    QCOMPARE(page.renderer().cellSkeleton(2, 3, QColor(Qt::red), u"14%"_s),
+             u"<td rowspan=\"2\" colspan=\"3\" bgcolor=\"#ff0000\" width=\"14%\" >%5</td>"_s);
+}
+
+void tst_MvCalendariumRenderer::passFillsBeneathTexts()
+{
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
+    const QList<Item> items = page.render({0, 0, 2800, 1600}).items();
+    QCOMPARE(page.restarts, 1);
+    int lastFill = -1;
+    int firstOther = int(items.size());
+    QSet<QRgb> colors;
+    int fills = 0;
+    for (int i = 0; i < items.size(); ++i) {
+        const bool isFill = items.at(i).kind == Item::Path || items.at(i).kind == Item::Rect;
+        if (isFill) {
+            lastFill = i;
+            ++fills;
+            colors.insert(items.at(i).fill.rgba());
+        } else {
+            firstOther = qMin(firstOther, i);
+        }
+    }
+    QVERIFY(lastFill < firstOther);
+    QCOMPARE(fills, int(colors.size())); // one shape per colour
+    QVERIFY(colors.contains(qRgb(0xdd, 0xdd, 0xdd)));
+    QVERIFY(colors.contains(qRgb(0, 255, 0)));
+}
+
+void tst_MvCalendariumRenderer::passKeepsTheClip()
+{
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1), 0);
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    painter.setClipRect(QRectF(100, 100, 300, 300));
+    page.renderer().render(painter, {0, 0, 2800, 1600});
+    painter.end();
+    const QList<Item> items = recorder.recording().items();
+    QVERIFY(!items.isEmpty());
+    for (const Item &item : items)
+        QVERIFY(QRectF(99, 99, 302, 302).contains(item.clip));
+}
+
+void tst_MvCalendariumRenderer::translucentBackgrounds()
+{
+    MvCalendariumAppearance appearance = MvPageFixture::appearance({}, MvPageFixture::defaultCells(),
+                                                                   u"CALENDAR_MONTH_ONLY"_s);
+    appearance.setCellColor(QColor(10, 20, 30, 128),
+                            {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_MONTH, MvParityLogicEnum::both});
+    MvPageFixture page(appearance, QDate(2027, 2, 1));
+    page.renderer().setBackgroundAlpha(0.5);
+    const QList<Item> items = page.render({0, 0, 280, 160}).items();
+    QCOMPARE(items.constFirst().fill.alpha(), 64);
+    QCOMPARE(items.constFirst().bounds, QRectF(0, 0, 280, 160));
+}
+
+void tst_MvCalendariumRenderer::bordersOfACell()
+{
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
+    const QRectF first = QRectF(0, 0, 400, 400); // Monday the 1st of a month of four weeks
+    const QList<Item> lines = page.render({0, 0, 2800, 1600}).items(Item::Line);
+    QCOMPARE(page.days.constFirst().rect, first);
+    QList<QLineF> ofFirst;
+    for (const Item &line : lines) {
+        if (first.contains(line.line.p1()) && first.contains(line.line.p2()))
+            ofFirst.append(line.line);
+    }
+    // left and top are asked for; the left edge of the next and the top of the one below lie on this cell's edges
+    QVERIFY(ofFirst.contains(QLineF(0, 0, 0, 400)));
+    QVERIFY(ofFirst.contains(QLineF(0, 0, 400, 0)));
+    QVERIFY(!lines.isEmpty());
+    for (const Item &line : lines) {
+        QCOMPARE(line.strokeWidth, 2.0);
+        QVERIFY(line.line.p1().y() < 1600 && line.line.p1().x() < 2800); // no right or bottom edge of the page
+    }
+}
+
+void tst_MvCalendariumRenderer::smallCellsShowNumbersOnly_data()
+{
+    QTest::addColumn<QSizeF>("cell");
+    QTest::addColumn<bool>("hasText");
+    QTest::newRow("too narrow") << QSizeF(155.0, 100.0) << false;
+    QTest::newRow("too low") << QSizeF(400.0, 60.0) << false;
+    QTest::newRow("just large enough") << QSizeF(155.1, 60.1) << true;
+}
+
+void tst_MvCalendariumRenderer::smallCellsShowNumbersOnly()
+{
+    QFETCH(QSizeF, cell);
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 5, 1));
+    const MvPaintRecording recording = page.render({0, 0, cell.width() * 7, cell.height() * 6});
+    QStringList texts;
+    for (const Item &text : recording.items(Item::Text))
+        texts.append(text.text);
+    QVERIFY(texts.contains(u"1"_s));
+    QTEST(texts.contains(u"Muttertag"_s), "hasText");
+    // however small, every day has its rectangle once
+    QCOMPARE(page.days.size(), 31);
+    QSet<QDate> dates;
+    for (const MvPageFixture::Day &day : std::as_const(page.days)) {
+        dates.insert(day.date);
+        QVERIFY(qAbs(day.rect.width() - cell.width()) < 1e-6);
+    }
+    QCOMPARE(dates.size(), 31);
+}
+
+void tst_MvCalendariumRenderer::textsLeaveTheNumberItsPlace()
+{
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Großtante Wilhelmine"_s, QDate(1950, 1, 6))});
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 1, 1));
+    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    const MvPaintRecording recording = page.render({0, 0, 2100, 1500});
+    const QRectF cell = page.days.at(5).rect;
+    const QList<Item> texts = textsIn(recording, cell);
+    QStringList names;
+    for (const Item &text : texts) {
+        names.append(text.text);
+        QVERIFY2(cell.contains(text.bounds), qPrintable(text.text));
+    }
+    QCOMPARE(names, (QStringList{u"Heilige Drei Könige"_s, u"Großtante Wilhelmine"_s, u"6"_s}));
+    QVERIFY(texts.at(0).bounds.bottom() < texts.at(1).bounds.top());
+    QVERIFY(texts.at(2).bounds.bottom() < texts.at(0).bounds.top()); // the number, top left, above both
+    QCOMPARE(texts.at(0).font.pixelSize(), 25);                      // half the number's size
+    QCOMPARE(texts.at(0).fill, QColor(u"#aa0000"_s));
+    // the last line rests on the inner rectangle's bottom
+    const double descent = 5.0;
+    QCOMPARE(texts.at(1).baseline.y(), std::trunc(cell.bottom() - 10 - descent));
+}
+
+void tst_MvCalendariumRenderer::photoStandsForTheNumber()
+{
+    const QString file = m_folder.filePath(u"foto.png"_s);
+    QImage photo(300, 400, QImage::Format_RGB32);
+    photo.fill(Qt::darkGreen);
+    QVERIFY(photo.save(file));
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Opa"_s, QDate(1940, 2, 11), file)});
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
+    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    QCOMPARE(page.renderer().holidayPicture(QDate(2027, 2, 11)).size(), photo.size());
+    const MvPaintRecording recording = page.render({0, 0, 2100, 1600});
+    const QRectF cell = page.days.at(10).rect;
+    QCOMPARE(cell, QRectF(900, 400, 300, 400));
+    const QList<Item> texts = textsIn(recording, cell);
+    QCOMPARE(texts.size(), 1);
+    QCOMPARE(texts.constFirst().text, u"Opa"_s);
+    const QList<Item> images = recording.items(Item::Image);
+    QCOMPARE(images.size(), 1);
+    // inner height 380 less the line of 25 and a gap of 5; the photo keeps 3:4 and is centred
+    QCOMPARE(images.constFirst().bounds.height(), 350.0);
+    QCOMPARE(images.constFirst().bounds.top(), 410.0);
+    QVERIFY(qAbs(images.constFirst().bounds.width() - 262.5) <= 1.0);
+    QVERIFY(qAbs(images.constFirst().bounds.center().x() - cell.center().x()) <= 1.0);
+}
+
+void tst_MvCalendariumRenderer::photoInAWideCell()
+{
+    const QString file = m_folder.filePath(u"quadrat.png"_s);
+    QImage photo(100, 100, QImage::Format_RGB32);
+    photo.fill(Qt::darkBlue);
+    QVERIFY(photo.save(file));
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Eva"_s, QDate(1990, 2, 11), file),
+                                                   entry(u"Adam"_s, QDate(1991, 2, 11))});
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
+    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    page.renderer().drawCellHolidayWide(painter, {0, 0, 1000, 124}, QDate(2027, 2, 11), false);
+    painter.end();
+    QCOMPARE(page.days.size(), 1);
+    // padding 10, margins 10 (wide) and 2 (low): the photo is 100 high
+    const MvPaintRecording recording = recorder.recording();
+    QCOMPARE(recording.items(Item::Image).constFirst().bounds, QRectF(20, 12, 100, 100));
+    const Item text = recording.items(Item::Text).constFirst();
+    QCOMPARE(text.text, u"Eva, Adam"_s);
+    QCOMPARE(text.baseline, QPointF(125, 107)); // 5 beside the photo, descent 5 above the inner bottom
+}
+
+void tst_MvCalendariumRenderer::warnsOfTooWideWords()
+{
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Donaudampfschifffahrt"_s, QDate(1990, 2, 10))});
+    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1), FEATURE_ENTRIES);
+    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    const QRectF rect(0, 0, 1400, 1600);
+    QVERIFY(page.render(rect).items(Item::Image).isEmpty());
+    const QList<Item> symbols = page.render(rect, MvRenderingRule::ShowQualityWarnings).items(Item::Image);
+    QCOMPARE(symbols.size(), 1);
+    QCOMPARE(symbols.constFirst().bounds, QRectF(400, 500, 200, 200)); // centred in the cell of 200 x 400
+}
+
+void tst_MvCalendariumRenderer::invisibleTextsAreNotDrawn()
+{
+    MvCalendariumAppearance appearance = MvPageFixture::appearance(noEmptyWeeks);
+    appearance.setCellColor(Qt::transparent, {MvCalendarCellColorRoleEnum::textcolor, MvCalendarCellType::allTypes(),
+                                              MvParityLogicEnum::both});
+    MvPageFixture page(appearance, QDate(2027, 5, 1));
+    QVERIFY(page.render({0, 0, 2100, 1600}).items(Item::Text).isEmpty());
+    QCOMPARE(page.days.size(), 31);
+}
+
+void tst_MvCalendariumRenderer::monthOnly()
+{
+    MvPageFixture page(MvPageFixture::appearance(u"calendar_render_year_long, calendar_render_month_long"_s,
+                                                 MvPageFixture::defaultCells(), u"CALENDAR_MONTH_ONLY"_s),
+                       QDate(2027, 3, 1));
+    const QList<Item> texts = page.render({0, 0, 800, 200}).items(Item::Text);
+    QCOMPARE(texts.size(), 1);
+    QCOMPARE(texts.constFirst().text, u"März 2027"_s);
+    QCOMPARE(page.renderer().minimumSizeHint(), QSize(144, 32)); // 9 characters of 12.5 pixels, rounded to 113
+    QVERIFY(page.renderer().rendersMonthInformation());
+    QVERIFY(page.days.isEmpty());
+}
+
+MV_TEST_MAIN(tst_MvCalendariumRenderer)
+#include "tst_MvCalendariumRenderer.moc"
