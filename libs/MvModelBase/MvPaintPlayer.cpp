@@ -50,6 +50,7 @@ void MvPaintPlayer::play()
         enter(m_recording.states[operation.state]);
         std::visit([this](const auto &shape) { paint(shape); }, operation.shape);
     }
+    enterClip(nullptr);
     m_painter.restore();
 }
 
@@ -86,29 +87,22 @@ void MvPaintPlayer::enter(const MvPaintState &state)
 
 void MvPaintPlayer::enterClip(const MvPaintClip *clip)
 {
-    if (clip == m_clip)
-        return;
-    if (!isAncestor(m_clip, clip))
-        dropClip();
-    if (clip) {
-        if (clip->parent.get() != m_clip)
-            enterClip(clip->parent.get());
-        addClip(*clip);
+    while (!m_clips.empty() && !isAncestor(m_clips.back(), clip)) {
+        m_painter.restore(); // the only way back to a wider clip
+        m_clips.pop_back();
+        m_state = nullptr;
     }
-}
-
-void MvPaintPlayer::dropClip()
-{
-    m_painter.restore(); // the only way back to the clip of the target
-    m_painter.save();
-    m_state = nullptr;
-    m_clip = nullptr;
+    const MvPaintClip *now = m_clips.empty() ? nullptr : m_clips.back();
+    if (clip == now)
+        return;
+    enterClip(clip->parent.get());
+    addClip(*clip);
 }
 
 void MvPaintPlayer::addClip(const MvPaintClip &clip)
 {
+    m_painter.save();
     setTransform(clip.transform);
-    setHints(clip.hints);
     if (const QRegion *region = std::get_if<QRegion>(&clip.shape)) {
         if (region->rectCount() == 1)
             m_painter.setClipRect(QRectF(region->boundingRect()), Qt::IntersectClip);
@@ -122,7 +116,7 @@ void MvPaintPlayer::addClip(const MvPaintClip &clip)
             m_painter.setClipPath(path, Qt::IntersectClip);
     }
     m_state = nullptr;
-    m_clip = &clip;
+    m_clips.push_back(&clip);
 }
 
 void MvPaintPlayer::setTransform(const QTransform &transform)

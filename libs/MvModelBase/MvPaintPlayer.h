@@ -14,7 +14,6 @@ public:
 private:
     void enter(const MvPaintState &state);
     void enterClip(const MvPaintClip *clip);
-    void dropClip();
     void addClip(const MvPaintClip &clip);
     void setTransform(const QTransform &transform);
     void setHints(QPainter::RenderHints hints);
@@ -39,6 +38,6 @@ private:
     const MvPaintRecordingData &m_recording;
     const QTransform m_base;
     const double m_baseOpacity;
-    const MvPaintState *m_state = nullptr; // the one the painter has; null when that is not known
-    const MvPaintClip *m_clip = nullptr;   // likewise, besides the target's own clip
+    const MvPaintState *m_state = nullptr;    // the one the painter has; null when that is not known
+    std::vector<const MvPaintClip *> m_clips; // in force besides the target's own, each after a save()
 };

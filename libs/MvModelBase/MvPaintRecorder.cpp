@@ -60,7 +60,7 @@ private:
     void add(MvPaintOperation::Shape &&shape);
     void updateClip(const QPaintEngineState &now);
     void intersectClip(const QPaintEngineState &now);
-    std::shared_ptr<const MvPaintClip> formerClip(const MvPaintClip &clip) const;
+    std::shared_ptr<const MvPaintClip> known(std::shared_ptr<const MvPaintClip> clip) const;
 
     template <class Value>
     void change(Value MvPaintState::*field, const Value &value)
@@ -73,10 +73,9 @@ private:
 
     QSharedDataPointer<MvPaintRecordingData> m_data{new MvPaintRecordingData}; // detaches from recordings given out
     MvPaintState m_state;
-    bool m_stateKept = false;                                // the last of the states kept equals m_state
-    std::vector<std::shared_ptr<const MvPaintClip>> m_clips; // every clip so far
-    bool m_restoringClip = false;
-    const QTextItem *m_textItem = nullptr; // while its outline is on the way
+    bool m_stateKept = false;                      // the last of the states kept equals m_state
+    std::shared_ptr<const MvPaintClip> m_leftClip; // in force before the clip was last dropped
+    const QTextItem *m_textItem = nullptr;         // while its outline is on the way
 };
 
 bool MvPaintRecorderEngine::begin(QPaintDevice *)
@@ -84,8 +83,7 @@ bool MvPaintRecorderEngine::begin(QPaintDevice *)
     m_data = new MvPaintRecordingData;
     m_state = MvPaintState();
     m_stateKept = false;
-    m_clips.clear();
-    m_restoringClip = false;
+    m_leftClip.reset();
     return true;
 }
 
@@ -123,21 +121,14 @@ void MvPaintRecorderEngine::updateState(const QPaintEngineState &now)
         change(&MvPaintState::clipEnabled, now.isClipEnabled());
     if (dirty & (DirtyClipPath | DirtyClipRegion))
         updateClip(now);
-    else
-        m_restoringClip = false;
 }
 
 void MvPaintRecorderEngine::updateClip(const QPaintEngineState &now)
 {
-    // A painter that is restored drops the clip with this very flag and then repeats the clips it had before. It
-    // does so with the hints of the state it leaves, so the clips are looked up rather than taken anew.
-    if (now.state() == DirtyFlags(DirtyClipPath) && now.clipOperation() == Qt::NoClip)
-        m_restoringClip = true;
-    else if (now.state() & DirtyClipEnabled)
-        m_restoringClip = false;
-
-    if (now.clipOperation() != Qt::IntersectClip)
+    if (now.clipOperation() != Qt::IntersectClip) {
+        m_leftClip = m_state.clip;
         change(&MvPaintState::clip, std::shared_ptr<const MvPaintClip>());
+    }
     if (now.clipOperation() != Qt::NoClip)
         intersectClip(now);
 }
@@ -147,31 +138,24 @@ void MvPaintRecorderEngine::intersectClip(const QPaintEngineState &now)
     auto clip = std::make_shared<MvPaintClip>();
     clip->parent = m_state.clip;
     clip->transform = now.transform();
-    clip->hints = m_state.hints;
     // both flags together only come with the first state of all, where the other shape is empty
     if ((now.state() & DirtyClipPath) && !((now.state() & DirtyClipRegion) && now.clipPath().isEmpty()))
         clip->shape = now.clipPath();
     else
         clip->shape = now.clipRegion();
 
-    if (m_restoringClip) {
-        if (const auto former = formerClip(*clip)) {
-            change(&MvPaintState::clip, former);
-            return;
-        }
-    }
-    m_clips.push_back(clip);
-    change(&MvPaintState::clip, std::shared_ptr<const MvPaintClip>(clip));
+    change(&MvPaintState::clip, known(std::move(clip)));
 }
 
-std::shared_ptr<const MvPaintClip> MvPaintRecorderEngine::formerClip(const MvPaintClip &clip) const
+/// A painter that is restored drops the clip and then repeats the clips it had before, one by one. They become the
+/// ones they were, so that a player need not leave them.
+std::shared_ptr<const MvPaintClip> MvPaintRecorderEngine::known(std::shared_ptr<const MvPaintClip> clip) const
 {
-    for (auto former = m_clips.crbegin(); former != m_clips.crend(); ++former) {
-        if ((*former)->parent == clip.parent && (*former)->transform == clip.transform &&
-            (*former)->shape == clip.shape)
-            return *former;
+    for (auto former = m_leftClip; former; former = former->parent) {
+        if (former->parent == clip->parent && former->transform == clip->transform && former->shape == clip->shape)
+            return former;
     }
-    return {};
+    return clip;
 }
 
 void MvPaintRecorderEngine::drawPath(const QPainterPath &path)

@@ -25,7 +25,6 @@ struct MvPaintClip {
     std::shared_ptr<const MvPaintClip> parent;
     std::variant<QRegion, QPainterPath> shape; // in the coordinates of the transform
     QTransform transform;
-    QPainter::RenderHints hints; // those a path was clipped with: they decide on soft or hard edges
 };
 
 struct MvPaintState {

@@ -2,6 +2,7 @@
 
 #include "MvModelBase/mvmodelbase_export.h"
 
+#include <QHashFunctions>
 #include <QString>
 
 /// Names one document of the application. A temporary one lives for the running program only.
