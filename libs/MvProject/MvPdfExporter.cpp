@@ -58,7 +58,7 @@ MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo 
         error = paintRawFile(raw, source);
     if (error.isEmpty()) {
         error = MvPdfBoxes::finish(raw.fileName(), source, [&target](const QByteArray &content) {
-            return MvSafeFileWriter::write(target, content).error;
+            return MvSafeFileWriter::write(target, content, MvSafeFileWriter::Backups::None).error;
         });
     }
     if (!error.isEmpty())

@@ -79,7 +79,8 @@ MvExportResult MvPngExporter::write(const MvPageSource &source, const QString &p
         writer.setText(u"Title"_s, source.title);
         QString error = writer.write(image) ? QString() : writer.errorString();
         if (error.isEmpty())
-            error = MvSafeFileWriter::write(QFileInfo(paths[page]), buffer.data()).error;
+            error =
+                MvSafeFileWriter::write(QFileInfo(paths[page]), buffer.data(), MvSafeFileWriter::Backups::None).error;
         if (!error.isEmpty()) {
             result.error = u"%1: %2"_s.arg(paths[page], error);
             return result;

@@ -26,7 +26,7 @@ QByteArray paintSvg(const MvPageSource &source, int page)
     generator.setResolution(resolution);
     generator.setSize(size.toSize()); // written in millimetres, rounded to the dot
     generator.setViewBox(QRectF(QPointF(), size));
-    generator.setTitle(source.title);
+    generator.setTitle(source.title.toHtmlEscaped()); // it is written as it stands
     QPainter painter(&generator);
     source.paintPage(painter, page, {}, scale);
     painter.end();
@@ -42,7 +42,9 @@ MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &p
     if (result.isOk())
         paths = MvFileNamePattern(pattern).paths(source.pages, &result.error);
     for (int page = 0; page < paths.size(); ++page) {
-        const QString error = MvSafeFileWriter::write(QFileInfo(paths[page]), paintSvg(source, page)).error;
+        const QString error =
+            MvSafeFileWriter::write(QFileInfo(paths[page]), paintSvg(source, page), MvSafeFileWriter::Backups::None)
+                .error;
         if (!error.isEmpty()) {
             result.error = u"%1: %2"_s.arg(paths[page], error);
             break;

@@ -1,0 +1,362 @@
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfExporter.h"
+#include "MvProject/MvPngExporter.h"
+#include "MvProject/MvSvgExporter.h"
+#include "MvTest.h"
+
+#include <QColorSpace>
+#include <QDomDocument>
+#include <QPainter>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+
+#include <csignal>
+#include <cstdlib>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Files of this process cannot grow beyond a size while it lives, as on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_before{};
+};
+
+QByteArray outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitCode() != 0)
+        return "failed: " + process.readAllStandardError() + process.readAllStandardOutput();
+    return process.readAllStandardOutput();
+}
+
+/// Where pixels are dark, in tenths of a millimetre when the picture has 254 dots per inch.
+QRect darkRect(const QImage &image)
+{
+    QRect rect;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qGray(image.pixel(x, y)) < 128)
+                rect |= QRect(x, y, 1, 1);
+    return rect;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+class tst_MvExporters : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { cleanup(); }
+    void cleanup() { m_folder = std::make_unique<QTemporaryDir>(); }
+    void pdfBoxes_data();
+    void pdfBoxes();
+    void pdfGeometry_data();
+    void pdfGeometry();
+    void pdfMetadata();
+    void png_data();
+    void png();
+    void svg();
+    void paintsForPrint();
+    void refuses_data();
+    void refuses();
+    void failingTargets_data();
+    void failingTargets();
+    void fullDisk_data();
+    void fullDisk();
+
+private:
+    MvPageSource source(const QString &format, double bleed, int pages) const;
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QStringList filesInFolder() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+/// Pages with one black rectangle that lies 10 mm from the left and 20 mm from the top and measures 30 by 40 mm.
+MvPageSource tst_MvExporters::source(const QString &format, double bleed, int pages) const
+{
+    MvPageSource source;
+    source.format = MvPageFormat::fromName(format);
+    source.format.setBleed(bleed);
+    for (int page = 0; page < pages; ++page)
+        source.pages.append(QDate(2027, 1, 1).addMonths(page));
+    source.paint = [](QPainter &painter, int) { painter.fillRect(QRectF(100, 200, 300, 400), Qt::black); };
+    source.title = u"Kalender <2027> & „Mühe“"_s;
+    source.author = u"Jürgen"_s;
+    return source;
+}
+
+void tst_MvExporters::pdfBoxes_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<double>("bleed");
+    QTest::addColumn<QRectF>("media"); // points, x and y of the lower left corner
+    QTest::addColumn<QRectF>("trim");
+    // 1 mm is 72 / 25.4 = 2.834645669 points
+    QTest::newRow("A4") << u"A4"_s << 0.0 << QRectF(0, 0, 595.2756, 841.8898) << QRectF(0, 0, 595.2756, 841.8898);
+    QTest::newRow("A5 with 3 mm bleed") << u"A5"_s << 30.0 << QRectF(0, 0, 436.5354, 612.2835)
+                                        << QRectF(8.5039, 8.5039, 419.5276, 595.2756);
+    QTest::newRow("A0") << u"A0"_s << 0.0 << QRectF(0, 0, 2383.9370, 3370.3937) << QRectF(0, 0, 2383.9370, 3370.3937);
+    QTest::newRow("own size") << u"300,5x200"_s << 0.0 << QRectF(0, 0, 851.8110, 566.9291)
+                              << QRectF(0, 0, 851.8110, 566.9291);
+}
+
+void tst_MvExporters::pdfBoxes()
+{
+    QFETCH(const QString, format);
+    QFETCH(const double, bleed);
+    QFETCH(const QRectF, media);
+    QFETCH(const QRectF, trim);
+    const MvExportResult result = MvPdfExporter::write(source(format, bleed, 12), QFileInfo(path(u"k.pdf"_s)));
+    QCOMPARE(result.error, QString());
+    QCOMPARE(filesInFolder(), QStringList{u"k.pdf"_s});
+
+    QPDF pdf;
+    pdf.processFile(path(u"k.pdf"_s).toLocal8Bit().constData());
+    const auto pages = QPDFPageDocumentHelper(pdf).getAllPages();
+    QCOMPARE(pages.size(), size_t(12));
+    const std::pair<const char *, QRectF> boxes[] = {{"/MediaBox", media}, {"/BleedBox", media}, {"/TrimBox", trim}};
+    for (const QPDFPageObjectHelper &page : pages) {
+        QPDFObjectHandle object = page.getObjectHandle();
+        for (const auto &[name, expected] : boxes) {
+            const QPDFObjectHandle::Rectangle box = object.getKey(name).getArrayAsRectangle();
+            const QRectF actual(QPointF(box.llx, box.lly), QPointF(box.urx, box.ury));
+            QVERIFY2(qAbs(actual.left() - expected.left()) < 0.01 && qAbs(actual.top() - expected.top()) < 0.01 &&
+                         qAbs(actual.width() - expected.width()) < 0.01 &&
+                         qAbs(actual.height() - expected.height()) < 0.01,
+                     qPrintable(u"%1 %2 x %3"_s.arg(QLatin1StringView(name)).arg(actual.width()).arg(actual.height())));
+        }
+    }
+    QVERIFY(outputOf(u"qpdf"_s, {u"--check"_s, path(u"k.pdf"_s)}).contains("No syntax"));
+}
+
+void tst_MvExporters::pdfGeometry_data()
+{
+    QTest::addColumn<double>("bleed");
+    QTest::addColumn<QRect>("dark"); // tenths of a millimetre from the media box's top left corner
+    QTest::newRow("no bleed") << 0.0 << QRect(100, 200, 300, 400);
+    QTest::newRow("3 mm bleed") << 30.0 << QRect(130, 230, 300, 400);
+}
+
+void tst_MvExporters::pdfGeometry()
+{
+    QFETCH(const double, bleed);
+    QFETCH(const QRect, dark);
+    QVERIFY(MvPdfExporter::write(source(u"105,3x90,7"_s, bleed, 1), QFileInfo(path(u"k.pdf"_s))).isOk());
+    const QByteArray messages = outputOf(
+        u"pdftoppm"_s, {u"-r"_s, u"254"_s, u"-png"_s, u"-singlefile"_s, u"-gray"_s, path(u"k.pdf"_s), path(u"k"_s)});
+    const QImage image(path(u"k.png"_s));
+    QVERIFY2(!image.isNull(), messages.constData());
+    const QRect found = darkRect(image);
+    for (const int difference : {found.left() - dark.left(), found.top() - dark.top(), found.right() - dark.right(),
+                                 found.bottom() - dark.bottom()})
+        QVERIFY2(qAbs(difference) <= 1, qPrintable(QDebug::toString(found)));
+}
+
+void tst_MvExporters::pdfMetadata()
+{
+    QVERIFY(MvPdfExporter::write(source(u"A6"_s, 0, 2), QFileInfo(path(u"k.pdf"_s))).isOk());
+    const QString info = QString::fromUtf8(outputOf(u"pdfinfo"_s, {u"-enc"_s, u"UTF-8"_s, path(u"k.pdf"_s)}));
+    QVERIFY2(QRegularExpression(u"Title: +Kalender <2027> & „Mühe“\n"_s).match(info).hasMatch(), qPrintable(info));
+    QVERIFY2(QRegularExpression(u"Author: +Jürgen\n"_s).match(info).hasMatch(), qPrintable(info));
+    QVERIFY2(QRegularExpression(u"Pages: +2\n"_s).match(info).hasMatch(), qPrintable(info));
+
+    const QByteArray xmp = outputOf(u"pdfinfo"_s, {u"-meta"_s, path(u"k.pdf"_s)});
+    QDomDocument document;
+    QVERIFY2(document.setContent(xmp, true), xmp.constData());
+    QCOMPARE(document.elementsByTagNameNS(u"http://purl.org/dc/elements/1.1/"_s, u"title"_s).at(0).toElement().text(),
+             u"Kalender <2027> & „Mühe“"_s);
+
+    QPDF pdf;
+    pdf.processFile(path(u"k.pdf"_s).toLocal8Bit().constData());
+    QPDFObjectHandle intent = pdf.getRoot().getKey("/OutputIntents").getArrayItem(0);
+    const std::shared_ptr<Buffer> profile = intent.getKey("/DestOutputProfile").getStreamData();
+    const QByteArray bytes(reinterpret_cast<const char *>(profile->getBuffer()), qsizetype(profile->getSize()));
+    QCOMPARE(QColorSpace::fromIccProfile(bytes).primaries(), QColorSpace::Primaries::SRgb);
+}
+
+void tst_MvExporters::png_data()
+{
+    QTest::addColumn<int>("dpi");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("300") << 300 << QSize(2480, 3508);
+    QTest::newRow("254: a pixel per tenth of a millimetre") << 254 << QSize(2100, 2970);
+    QTest::newRow("10") << 10 << QSize(83, 117);
+}
+
+void tst_MvExporters::png()
+{
+    QFETCH(const int, dpi);
+    QFETCH(const QSize, size);
+    const MvExportResult result = MvPngExporter::write(source(u"A4"_s, 30, 2), path(u"s-%m.png"_s), dpi);
+    QCOMPARE(result.error, QString());
+    QCOMPARE(result.files, (QList<QFileInfo>{QFileInfo(path(u"s-01.png"_s)), QFileInfo(path(u"s-02.png"_s))}));
+    QCOMPARE(filesInFolder(), (QStringList{u"s-01.png"_s, u"s-02.png"_s}));
+
+    const QImage image(path(u"s-02.png"_s));
+    QCOMPARE(image.size(), size); // the trimmed page, without bleed
+    QCOMPARE(qRound(image.dotsPerMeterX() * 0.0254), dpi);
+    QCOMPARE(qRound(image.dotsPerMeterY() * 0.0254), dpi);
+    QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
+    QVERIFY(!image.hasAlphaChannel());
+    QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
+    if (dpi == 254)
+        QCOMPARE(darkRect(image), QRect(100, 200, 300, 400));
+}
+
+void tst_MvExporters::svg()
+{
+    QVERIFY(MvSvgExporter::write(source(u"A4"_s, 0, 2), path(u"s-%n.svg"_s)).isOk());
+    QDomDocument document;
+    QVERIFY(document.setContent(contentOf(path(u"s-02.svg"_s))));
+    const QDomElement root = document.documentElement();
+    for (const auto &[name, expected] : {std::pair(u"width"_s, 210.0), std::pair(u"height"_s, 297.0)}) {
+        QString value = root.attribute(name);
+        QVERIFY2(value.endsWith("mm"_L1), qPrintable(value));
+        value.chop(2);
+        QVERIFY2(qAbs(value.toDouble() - expected) < 0.1, qPrintable(value));
+    }
+    QCOMPARE(root.firstChildElement(u"title"_s).text(), u"Kalender <2027> & „Mühe“"_s);
+}
+
+void tst_MvExporters::paintsForPrint()
+{
+    MvPageSource pages = source(u"A6"_s, 20, 1);
+    QRectF clip;
+    bool isPrint = false;
+    pages.paint = [&](QPainter &painter, int) {
+        clip = painter.clipBoundingRect();
+        isPrint = MvRenderingRule::decodeFrom(painter).hasFlag(MvRenderingRule::Print);
+        painter.setPen(Qt::red); // what one page sets is not the next one's
+    };
+    QImage image(300, 300, QImage::Format_RGB32);
+    QPainter painter(&image);
+    pages.paintPage(painter, 0, QPointF(10, 10), 0.1);
+    QCOMPARE(clip, QRectF(-20, -20, 1090, 1520));
+    QVERIFY(isPrint);
+    QVERIFY(painter.transform().isIdentity());
+    QCOMPARE(painter.pen().color(), QColor(Qt::black));
+    QVERIFY(!MvRenderingRule::decodeFrom(painter).hasFlag(MvRenderingRule::Print));
+}
+
+void tst_MvExporters::refuses_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<int>("dpi");
+    QTest::addColumn<QString>("pattern");
+    QTest::newRow("no size") << u"A9"_s << 1 << 100 << u"s-%m.png"_s;
+    QTest::newRow("no pages") << u"A6"_s << 0 << 100 << u"s-%m.png"_s;
+    QTest::newRow("dots below the limit") << u"A6"_s << 1 << 9 << u"s-%m.png"_s;
+    QTest::newRow("dots above the limit") << u"A6"_s << 1 << 1201 << u"s-%m.png"_s;
+    QTest::newRow("too many pixels") << u"A0"_s << 1 << 1200 << u"s-%m.png"_s;
+    QTest::newRow("names that do not differ") << u"A6"_s << 2 << 100 << u"s.png"_s;
+}
+
+void tst_MvExporters::refuses()
+{
+    QFETCH(const QString, format);
+    QFETCH(const int, pages);
+    QFETCH(const int, dpi);
+    QFETCH(const QString, pattern);
+    const MvExportResult result = MvPngExporter::write(source(format, 0, pages), path(pattern), dpi);
+    QVERIFY(!result.isOk());
+    QVERIFY(result.files.isEmpty());
+    QCOMPARE(filesInFolder(), QStringList());
+}
+
+void tst_MvExporters::failingTargets_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::newRow("folder does not exist") << u"nowhere/k-%m"_s;
+    QTest::newRow("a file in place of the folder") << u"file/k-%m"_s;
+    QTest::newRow("a folder of that name") << u"folder"_s;
+}
+
+void tst_MvExporters::failingTargets()
+{
+    QFETCH(const QString, target);
+    QVERIFY(QDir(m_folder->path()).mkdir(u"folder"_s));
+    QFile file(path(u"file"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const MvPageSource pages = source(u"A6"_s, 0, 1);
+    const MvExportResult results[] = {MvPdfExporter::write(pages, QFileInfo(path(target))),
+                                      MvPngExporter::write(pages, path(target), 50),
+                                      MvSvgExporter::write(pages, path(target))};
+    for (const MvExportResult &result : results) {
+        QVERIFY(!result.isOk());
+        QVERIFY2(result.error.startsWith(path(target.section(u'%', 0, 0))), qPrintable(result.error));
+        QVERIFY(result.files.isEmpty());
+    }
+    QCOMPARE(filesInFolder(), (QStringList{u"file"_s, u"folder"_s}));
+    QVERIFY(QDir(path(u"folder"_s)).isEmpty());
+}
+
+void tst_MvExporters::fullDisk_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("pdf") << u"k.pdf"_s;
+    QTest::newRow("png") << u"k.png"_s;
+    QTest::newRow("svg") << u"k.svg"_s;
+}
+
+void tst_MvExporters::fullDisk()
+{
+    QFETCH(const QString, name);
+    QFile old(path(name));
+    QVERIFY(old.open(QIODevice::WriteOnly));
+    old.write("what was there before");
+    old.close();
+
+    MvPageSource pages = source(u"A6"_s, 0, 1);
+    pages.paint = [](QPainter &painter, int) {
+        for (int i = 0; i < 2000; ++i) // more than fits, however well it compresses
+            painter.drawLine(QPointF((i * 7919) % 1050, (i * 104729) % 1480), QPointF((i * 31) % 1050, i % 1480));
+    };
+    MvExportResult result;
+    {
+        const FullDisk disk(3000);
+        result = name.endsWith(".pdf"_L1)   ? MvPdfExporter::write(pages, QFileInfo(path(name)))
+                 : name.endsWith(".png"_L1) ? MvPngExporter::write(pages, path(name), 100)
+                                            : MvSvgExporter::write(pages, path(name));
+    }
+    QVERIFY(!result.isOk());
+    QVERIFY2(result.error.startsWith(path(name)), qPrintable(result.error));
+    QCOMPARE(contentOf(path(name)), QByteArray("what was there before"));
+    QCOMPARE(filesInFolder(), QStringList{name});
+}
+
+MV_TEST_MAIN(tst_MvExporters)
+#include "tst_MvExporters.moc"

@@ -1,0 +1,108 @@
+#include "MvProject/MvFileNamePattern.h"
+#include "MvProject/MvPageFormat.h"
+#include "MvTest.h"
+
+using namespace Qt::StringLiterals;
+
+class tst_MvPageFormat : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsNames_data();
+    void readsNames();
+    void rectangles();
+    void namesFiles_data();
+    void namesFiles();
+};
+
+void tst_MvPageFormat::readsNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSizeF>("size"); // invalid: the name is not understood
+    QTest::addColumn<QString>("magnitude");
+    QTest::newRow("A4") << u"A4"_s << QSizeF(2100, 2970) << u"a4"_s;
+    QTest::newRow("case and blanks do not matter") << u" a0 "_s << QSizeF(8410, 11890) << u"a0"_s;
+    QTest::newRow("smallest") << u"A6"_s << QSizeF(1050, 1480) << u"a6"_s;
+    QTest::newRow("millimetres stay as they are turned") << u"300x200"_s << QSizeF(3000, 2000) << u"a4"_s;
+    QTest::newRow("decimal comma and point") << u"148,5X210.5"_s << QSizeF(1485, 2105) << u"a5"_s;
+    QTest::newRow("multiplication sign") << u"300 × 300"_s << QSizeF(3000, 3000) << u"a3"_s;
+    QTest::newRow("unknown class") << u"A7"_s << QSizeF() << QString();
+    QTest::newRow("a class of another row") << u"B4"_s << QSizeF() << QString();
+    QTest::newRow("no height") << u"300x"_s << QSizeF() << QString();
+    QTest::newRow("three sides") << u"300x200x100"_s << QSizeF() << QString();
+    QTest::newRow("nothing") << QString() << QSizeF() << QString();
+    QTest::newRow("too small") << u"10x200"_s << QSizeF() << QString();
+    QTest::newRow("too large") << u"300x3001"_s << QSizeF() << QString();
+}
+
+void tst_MvPageFormat::readsNames()
+{
+    QFETCH(const QString, name);
+    QFETCH(const QSizeF, size);
+    QFETCH(const QString, magnitude);
+    const MvPageFormat format = MvPageFormat::fromName(name);
+    QCOMPARE(format.isValid(), size.isValid());
+    QCOMPARE(format.trimRect().isEmpty(), !size.isValid());
+    if (size.isValid())
+        QCOMPARE(format.trimSize(), size);
+    QCOMPARE(format.magnitude().encodeCSV(), magnitude);
+}
+
+void tst_MvPageFormat::rectangles()
+{
+    MvPageFormat page = MvPageFormat::fromName(u"A4"_s);
+    QCOMPARE(page.orientation(), MvPageFormat::Orientation::Portrait);
+    page.setOrientation(MvPageFormat::Orientation::Landscape);
+    page.setOrientation(MvPageFormat::Orientation::Landscape); // turning what is turned changes nothing
+    QCOMPARE(page.trimRect(), QRectF(0, 0, 2970, 2100));
+    QCOMPARE(page.mediaRect(), page.trimRect());
+    QCOMPARE(page.contentRect(), QRectF(QPointF(110, 120), QPointF(2860, 1990)));
+
+    page.setBleed(30);
+    QCOMPARE(page.mediaRect(), QRectF(-30, -30, 3030, 2160));
+    QCOMPARE(page.contentRect(), QRectF(QPointF(110, 120), QPointF(2860, 1990))); // the bleed moves nothing
+    page.setBleed(-1);
+    QCOMPARE(page.bleed(), 0.0);
+
+    const QStringList names = MvPageFormat::names() << u"20x20"_s << u"20x3000"_s;
+    for (const QString &name : names) {
+        const MvPageFormat format = MvPageFormat::fromName(name);
+        QVERIFY2(format.trimRect().adjusted(50, 50, -50, -50).contains(format.contentRect()), qPrintable(name));
+        QVERIFY2(!format.contentRect().isEmpty(), qPrintable(name));
+    }
+}
+
+void tst_MvPageFormat::namesFiles_data()
+{
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<int>("months");
+    QTest::addColumn<QString>("last"); // empty: refused
+    QTest::newRow("month") << u"out/seite-%m.png"_s << 12 << u"out/seite-07.png"_s;
+    QTest::newRow("year and month") << u"%y-%m.png"_s << 13 << u"2027-08.png"_s;
+    QTest::newRow("page number") << u"%n.png"_s << 120 << u"120.png"_s;
+    QTest::newRow("one page needs none") << u"blatt.png"_s << 1 << u"blatt.png"_s;
+    QTest::newRow("percent sign") << u"100%%-%n.png"_s << 2 << u"100%-02.png"_s;
+    QTest::newRow("the folder's name is left alone") << u"50%m/%n.png"_s << 2 << u"50%m/02.png"_s;
+    QTest::newRow("none for several pages") << u"seite.png"_s << 12 << QString();
+    QTest::newRow("months come back") << u"seite-%m.png"_s << 13 << QString();
+    QTest::newRow("unknown placeholder") << u"%n-%d.png"_s << 2 << QString();
+    QTest::newRow("lone percent sign") << u"%n.%"_s << 2 << QString();
+}
+
+void tst_MvPageFormat::namesFiles()
+{
+    QFETCH(const QString, pattern);
+    QFETCH(const int, months);
+    QFETCH(const QString, last);
+    QList<QDate> pages;
+    for (int month = 0; month < months; ++month)
+        pages.append(QDate(2026, 8, 1).addMonths(month));
+    QString error;
+    const QStringList paths = MvFileNamePattern(pattern).paths(pages, &error);
+    QCOMPARE(paths.value(months - 1), last);
+    QCOMPARE(error.contains(pattern), last.isEmpty()); // says which name it is about
+}
+
+MV_TEST_MAIN(tst_MvPageFormat)
+#include "tst_MvPageFormat.moc"
