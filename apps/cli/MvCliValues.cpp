@@ -37,10 +37,7 @@ int MvCliValues::number(const QString &name, int minimum, int maximum, int defau
     const int value = text(name).toInt(&isNumber);
     if (isNumber && value >= minimum && value <= maximum)
         return value;
-    setError(tr("--%1 „%2“: erlaubt sind ganze Zahlen von %3 bis %4")
-                 .arg(name, text(name))
-                 .arg(minimum)
-                 .arg(maximum));
+    setError(tr("--%1 „%2“: erlaubt sind ganze Zahlen von %3 bis %4").arg(name, text(name)).arg(minimum).arg(maximum));
     return defaultValue;
 }
 
@@ -136,8 +133,7 @@ QString MvCliValues::region(const MvLocale &locale)
     if (codes.isEmpty())
         setError(tr("--region „%1“: %2 hat keine Regionen").arg(wanted, countryName(locale)));
     else
-        setError(tr("--region „%1“: erlaubt sind für %2 %3")
-                     .arg(wanted, countryName(locale), codes.join(u", "_s)) +
+        setError(tr("--region „%1“: erlaubt sind für %2 %3").arg(wanted, countryName(locale), codes.join(u", "_s)) +
                  MvNearMiss::describe(wanted, names + codes));
     return {};
 }

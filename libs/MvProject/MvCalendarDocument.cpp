@@ -72,7 +72,7 @@ void MvCalendarDocument::paint(QPainter &painter, int page) const
 void MvCalendarDocument::paintBackground(QPainter &painter) const
 {
     const QColor color = m_appearance.cellColor(MvCalendarCellColorKey(
-        CALENDAR_CELL_COLOR_ROLE_BGCOLOR, CALENDAR_CELL_TYPE_TITLE, MvParityLogic(true)));
+        MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_TITLE, MvParityLogicEnum::even));
     if (m_appearance.isOpaqueColor(color))
         painter.fillRect(m_format.mediaRect(), color);
 }
