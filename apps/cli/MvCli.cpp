@@ -1,0 +1,135 @@
+#include "MvCli.h"
+
+#include "MvHolidaysCommand.h"
+#include "MvNearMiss.h"
+#include "MvRegionsCommand.h"
+#include "MvRenderCommand.h"
+#include "MvSchemaListCommand.h"
+#include "MvTextTable.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QString &programName()
+{
+    static const QString name = u"mvcalendar"_s;
+    return name;
+}
+
+bool asksForHelp(const QStringList &arguments)
+{
+    return arguments.contains(u"--help"_s) || arguments.contains(u"-h"_s);
+}
+
+/// Hints and errors: one line each, with the program's name in front.
+void printLines(const QString &text, QTextStream &err)
+{
+    for (const QString &line : text.split(u'\n', Qt::SkipEmptyParts))
+        err << programName() << ": " << line << '\n';
+}
+
+} // namespace
+
+MvCli::MvCli()
+{
+    m_commands.push_back(std::make_unique<MvRenderCommand>());
+    m_commands.push_back(std::make_unique<MvSchemaListCommand>(MvSchemaListCommand::Kind::Layouts));
+    m_commands.push_back(std::make_unique<MvSchemaListCommand>(MvSchemaListCommand::Kind::Colors));
+    m_commands.push_back(std::make_unique<MvRegionsCommand>());
+    m_commands.push_back(std::make_unique<MvHolidaysCommand>());
+}
+
+int MvCli::run(const QStringList &arguments, QTextStream &out, QTextStream &err) const
+{
+    QString hintText;
+    QTextStream hints(&hintText);
+    MvCliCommand::Result result = dispatch(arguments, {out, hints});
+    out.flush();
+    if (result.code == MvCliCommand::Done && out.status() != QTextStream::Ok)
+        result = {MvCliCommand::Failed, tr("die Ausgabe lässt sich nicht schreiben")};
+    hints.flush();
+    printLines(hintText, err);
+    printLines(result.error.simplified(), err);
+    err.flush();
+    return result.code;
+}
+
+MvCliCommand::Result MvCli::dispatch(const QStringList &arguments, const MvCliCommand::Streams &streams) const
+{
+    if (arguments.isEmpty())
+        return {
+            MvCliCommand::Misused,
+            tr("es fehlt der Befehl; erlaubt sind %1 (Hilfe: mvcalendar --help)").arg(commandNames().join(u", "_s))};
+    if (arguments.first() == u"--version"_s) {
+        streams.out << programName() << ' ' << QCoreApplication::applicationVersion() << '\n';
+        return {};
+    }
+    const bool isHelpCommand = arguments.first() == u"help"_s;
+    const QStringList rest = arguments.mid(isHelpCommand ? 1 : 0);
+    if (rest.isEmpty() || rest.first() == u"--help"_s || rest.first() == u"-h"_s) {
+        printHelp(streams.out);
+        return {};
+    }
+
+    const MvCliCommand *command = find(rest.first());
+    if (!command)
+        return {MvCliCommand::Misused,
+                tr("unbekannter Befehl „%1“; erlaubt sind %2").arg(rest.first(), commandNames().join(u", "_s)) +
+                    MvNearMiss::describe(rest.first(), commandNames())};
+    if (isHelpCommand || asksForHelp(rest)) {
+        printHelp(*command, streams.out);
+        return {};
+    }
+    MvCliArguments options;
+    if (const QString error = options.parse(rest.mid(1), command->options()); !error.isEmpty())
+        return {MvCliCommand::Misused, tr("%1 (Hilfe: mvcalendar %2 --help)").arg(error, command->name())};
+    return command->run(options, streams);
+}
+
+const MvCliCommand *MvCli::find(const QString &name) const
+{
+    for (const auto &command : m_commands)
+        if (command->name() == name)
+            return command.get();
+    return nullptr;
+}
+
+QStringList MvCli::commandNames() const
+{
+    QStringList names;
+    for (const auto &command : m_commands)
+        names.append(command->name());
+    return names;
+}
+
+void MvCli::printHelp(QTextStream &out) const
+{
+    out << tr("mvcalendar setzt und druckt Kalender.") << "\n\n" << tr("Befehle:") << '\n';
+    MvTextTable table;
+    for (const auto &command : m_commands)
+        table.addRow({u"  "_s + command->name(), command->summary()});
+    table.print(out);
+    out << '\n' << tr("Beispiele:") << '\n';
+    for (const auto &command : m_commands)
+        for (const QString &example : command->examples())
+            out << "  mvcalendar " << example << '\n';
+    out << '\n'
+        << tr("Optionen eines Befehls: mvcalendar BEFEHL --help. Version: mvcalendar --version.") << '\n'
+        << tr("Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch.")
+        << '\n';
+}
+
+void MvCli::printHelp(const MvCliCommand &command, QTextStream &out)
+{
+    out << "mvcalendar " << command.name() << ": " << command.summary() << "\n\n" << tr("Optionen:") << '\n';
+    MvTextTable table;
+    for (const MvCliOption &option : command.options())
+        table.addRow(
+            {u"  --"_s + option.name + (option.value.isEmpty() ? QString() : u' ' + option.value), option.help});
+    table.print(out);
+    out << '\n' << tr("Beispiele:") << '\n';
+    for (const QString &example : command.examples())
+        out << "  mvcalendar " << example << '\n';
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "MvCliOption.h"
+
+#include <QCoreApplication>
+#include <QHash>
+#include <QList>
+#include <QStringList>
+
+/// The options of one call, checked against those that the command has.
+class MvCliArguments
+{
+    Q_DECLARE_TR_FUNCTIONS(MvCliArguments)
+
+public:
+    /// "--name value", "--name=value", "--switch"; "-o" stands for "--output". Gives an error for a person; empty when
+    /// all is well.
+    QString parse(const QStringList &arguments, const QList<MvCliOption> &options);
+
+    bool has(const QString &name) const { return m_values.contains(name); }
+    /// The option's value; a null string when it was not given.
+    QString value(const QString &name) const { return m_values.value(name).value(0); }
+    QStringList values(const QString &name) const { return m_values.value(name); }
+
+private:
+    QHash<QString, QStringList> m_values;
+};

@@ -1,0 +1,25 @@
+#include "MvCliCommand.h"
+
+using namespace Qt::StringLiterals;
+
+MvCliOption MvCliCommand::countryOption()
+{
+    return {u"country"_s, u"LAND"_s, QCoreApplication::translate("MvCliCommand", "Staat, Kürzel oder Name (DE)")};
+}
+
+MvCliOption MvCliCommand::languageOption()
+{
+    return {u"language"_s, u"SPRACHE"_s,
+            QCoreApplication::translate("MvCliCommand", "Sprache, wo ein Staat mehrere hat: de, fr, it …")};
+}
+
+MvCliOption MvCliCommand::regionOption()
+{
+    return {u"region"_s, u"REGION"_s,
+            QCoreApplication::translate("MvCliCommand", "Bundesland, Kanton …, Kürzel oder Name: BY, Bayern")};
+}
+
+MvCliOption MvCliCommand::formatOption(const QStringList &formats)
+{
+    return {u"format"_s, formats.join(u'|'), QCoreApplication::translate("MvCliCommand", "Ausgabe (text)")};
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "MvCliArguments.h"
+#include "MvCliOption.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QTextStream>
+
+/// One command of the program: what it is called, which options it takes, what it does.
+class MvCliCommand
+{
+public:
+    /// Exit codes.
+    enum ExitCode {
+        Done = 0,
+        Failed = 1, // the command was understood, but something could not be read or written
+        Misused = 2 // the command was not understood
+    };
+
+    /// Where a command writes: results to one stream, hints for a person to the other.
+    struct Streams {
+        QTextStream &out;
+        QTextStream &hints;
+    };
+
+    struct Result {
+        ExitCode code = Done;
+        QString error; // one line for a person
+    };
+
+    virtual ~MvCliCommand() = default;
+    MvCliCommand(const MvCliCommand &) = delete;
+    MvCliCommand &operator=(const MvCliCommand &) = delete;
+
+    virtual QString name() const = 0;
+    virtual QString summary() const = 0;
+    virtual QList<MvCliOption> options() const = 0;
+    /// Calls as somebody would type them, without the program's name.
+    virtual QStringList examples() const = 0;
+
+    virtual Result run(const MvCliArguments &arguments, const Streams &streams) const = 0;
+
+protected:
+    MvCliCommand() = default;
+
+    static Result misused(const QString &error) { return {Misused, error}; }
+    static Result failed(const QString &error) { return {Failed, error}; }
+
+    /// Options that several commands share.
+    static MvCliOption countryOption();
+    static MvCliOption languageOption();
+    static MvCliOption regionOption();
+    static MvCliOption formatOption(const QStringList &formats);
+};

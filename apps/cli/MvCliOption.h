@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+/// An option of a command, "--name VALUE", or "--name" when it takes no value.
+struct MvCliOption {
+    QString name;  // without dashes
+    QString value; // what stands for the value in the help text; empty for a switch
+    QString help;
+    bool isRepeatable = false;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "MvCliCommand.h"
+#include "MvProductBase/MvCalendariumHolidayList.h"
+
+/// "holidays": the holidays and school vacations of some years.
+class MvHolidaysCommand : public MvCliCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(MvHolidaysCommand)
+
+public:
+    QString name() const override { return QStringLiteral("holidays"); }
+    QString summary() const override;
+    QList<MvCliOption> options() const override;
+    QStringList examples() const override;
+    Result run(const MvCliArguments &arguments, const Streams &streams) const override;
+
+private:
+    static void printText(const MvCalendariumHolidayList &holidays, QTextStream &out);
+    static void printCsv(const MvCalendariumHolidayList &holidays, QTextStream &out);
+    static void printJson(const MvCalendariumHolidayList &holidays, QTextStream &out);
+};

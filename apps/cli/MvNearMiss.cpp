@@ -1,0 +1,60 @@
+#include "MvNearMiss.h"
+
+#include <QList>
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr qsizetype longestName = 64; // nobody mistypes longer ones; bounds the work on hostile input
+constexpr qsizetype shortestBeginning = 3;
+
+/// Letters to insert, drop or exchange to make one word the other.
+qsizetype editDistance(const QString &a, const QString &b)
+{
+    QList<qsizetype> row(b.size() + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (qsizetype i = 1; i <= a.size(); ++i) {
+        qsizetype diagonal = row[0];
+        row[0] = i;
+        for (qsizetype j = 1; j <= b.size(); ++j) {
+            const qsizetype replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
+        }
+    }
+    return row.last();
+}
+
+} // namespace
+
+QString MvNearMiss::find(const QString &typed, const QStringList &known)
+{
+    const QString word = typed.toLower();
+    QString nearest;
+    qsizetype best = std::numeric_limits<qsizetype>::max();
+    if (word.isEmpty() || word.size() > longestName)
+        return nearest;
+    for (const QString &candidate : known) {
+        const QString lower = candidate.toLower();
+        const qsizetype distance = editDistance(word, lower);
+        const bool isNear = distance * 3 <= std::max(word.size(), lower.size());
+        const bool isBeginning = word.size() >= shortestBeginning && lower.startsWith(word);
+        if ((isNear || isBeginning) && distance < best) {
+            best = distance;
+            nearest = candidate;
+        }
+    }
+    return nearest;
+}
+
+QString MvNearMiss::describe(const QString &typed, const QStringList &known)
+{
+    const QString nearest = find(typed, known);
+    return nearest.isEmpty() ? QString() : tr(" – meinten Sie „%1“?").replace(u"%1"_s, nearest);
+}

@@ -1,0 +1,43 @@
+#include "MvOutputTarget.h"
+
+#include "MvProject/MvFileNamePattern.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfExporter.h"
+#include "MvProject/MvPngExporter.h"
+#include "MvProject/MvSvgExporter.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+MvOutputTarget::MvOutputTarget(const QString &path)
+    : m_path(path)
+    , m_suffix(QFileInfo(path).suffix().toLower())
+{
+}
+
+QString MvOutputTarget::error(const MvPageSource &pages) const
+{
+    if (m_suffix != u"pdf"_s && m_suffix != u"png"_s && m_suffix != u"svg"_s)
+        return tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path);
+    const QFileInfo folder(QFileInfo(m_path).path());
+    if (!folder.exists())
+        return tr("%1: den Ordner %2 gibt es nicht").replace(u"%1"_s, m_path).replace(u"%2"_s, folder.filePath());
+    if (!folder.isDir() || !folder.isWritable())
+        return tr("%1: in %2 lässt sich nicht schreiben").replace(u"%1"_s, m_path).replace(u"%2"_s, folder.filePath());
+    if (QFileInfo(m_path).isDir())
+        return tr("%1 ist ein Ordner").replace(u"%1"_s, m_path);
+    QString error;
+    if (m_suffix != u"pdf"_s)
+        MvFileNamePattern(m_path).paths(pages.pages, &error);
+    return error;
+}
+
+MvExportResult MvOutputTarget::write(const MvPageSource &pages, int dpi) const
+{
+    if (m_suffix == u"pdf"_s)
+        return MvPdfExporter::write(pages, QFileInfo(m_path));
+    if (m_suffix == u"png"_s)
+        return MvPngExporter::write(pages, m_path, dpi);
+    return MvSvgExporter::write(pages, m_path);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "MvCliCommand.h"
+
+/// "regions": the countries and regions whose holidays are known.
+class MvRegionsCommand : public MvCliCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(MvRegionsCommand)
+
+public:
+    QString name() const override { return QStringLiteral("regions"); }
+    QString summary() const override;
+    QList<MvCliOption> options() const override;
+    QStringList examples() const override;
+    Result run(const MvCliArguments &arguments, const Streams &streams) const override;
+};

@@ -1,0 +1,223 @@
+#include "MvRenderCommand.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvCliValues.h"
+#include "MvNearMiss.h"
+#include "MvOutputTarget.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfExporter.h"
+#include "MvProject/MvPngExporter.h"
+#include "MvSchemaListCommand.h"
+#include "MvVacationHint.h"
+
+#include <QFontDatabase>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int mostMonths = 120;
+constexpr double widestBleed = 20.0; // millimetres
+
+/// The id of the layout or colour schema that an option names, the first one when it was not given.
+QString schemaId(MvCliValues &values, const QString &option, MvSchemaListCommand::Kind kind)
+{
+    const QList<MvSchemaListCommand::Schema> schemata = MvSchemaListCommand::schemata(kind);
+    if (!values.has(option))
+        return schemata.isEmpty() ? QString() : schemata.first().id;
+    const QString id = MvSchemaListCommand::find(kind, values.text(option));
+    if (!id.isEmpty())
+        return id;
+    QStringList ids;
+    QStringList names;
+    for (const MvSchemaListCommand::Schema &schema : schemata) {
+        ids.append(schema.id);
+        names.append(schema.name);
+    }
+    values.setError(
+        MvRenderCommand::tr("--%1 „%2“: erlaubt sind %3").arg(option, values.text(option), ids.join(u", "_s)) +
+        MvNearMiss::describe(values.text(option), ids + names));
+    return {};
+}
+
+QString titleOf(const MvDateRange &range)
+{
+    const QLocale german(QLocale::German, QLocale::Germany);
+    if (range.start().month() == 1 && range.monthCount() == 12)
+        return MvRenderCommand::tr("Kalender %1").arg(range.start().year());
+    const auto describe = [&](const QDate &date) { return german.toString(date, u"MMMM yyyy"_s); };
+    if (range.monthCount() == 1)
+        return MvRenderCommand::tr("Kalender %1").arg(describe(range.start()));
+    return MvRenderCommand::tr("Kalender %1 bis %2").arg(describe(range.start()), describe(range.end()));
+}
+
+} // namespace
+
+QString MvRenderCommand::summary() const
+{
+    return tr("druckt einen Kalender in Dateien");
+}
+
+QList<MvCliOption> MvRenderCommand::options() const
+{
+    return {{u"year"_s, u"JAHR"_s, tr("Januar bis Dezember dieses Jahres (das kommende)")},
+            {u"from"_s, u"JAHR-MONAT"_s, tr("erster Monat, statt --year")},
+            {u"months"_s, u"ZAHL"_s, tr("wie viele Monate ab --from (12)")},
+            countryOption(),
+            languageOption(),
+            regionOption(),
+            {u"public-only"_s, {}, tr("nur gesetzliche Feiertage")},
+            {u"vacations"_s, {}, tr("auch Schulferien")},
+            {u"no-holidays"_s, {}, tr("keine Feiertage")},
+            {u"layout"_s, u"ID"_s, tr("Layout, siehe layouts")},
+            {u"colors"_s, u"ID"_s, tr("Farbschema, siehe colors")},
+            {u"font"_s, u"FAMILIE"_s, tr("Schriftfamilie statt der des Layouts")},
+            {u"page"_s, u"FORMAT"_s, tr("A0 bis A6 oder Breite und Höhe in Millimetern, 300x200 (A4)")},
+            {u"landscape"_s, {}, tr("Querformat (so bei A0 bis A6)")},
+            {u"portrait"_s, {}, tr("Hochformat")},
+            {u"bleed"_s, u"MM"_s, tr("Beschnitt an jeder Kante, nur im PDF (0)")},
+            {u"entries"_s, u"DATEI"_s, tr("persönliche Einträge aus dieser Datei")},
+            {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge")},
+            {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027)")},
+            {u"author"_s, u"TEXT"_s, tr("Verfasser im PDF")},
+            {u"dpi"_s, u"ZAHL"_s, tr("Punkte je Zoll der PNG-Dateien (300)")},
+            {u"output"_s, u"DATEI"_s,
+             tr("-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt"), true}};
+}
+
+QStringList MvRenderCommand::examples() const
+{
+    return {u"render --year 2027 --region BY --entries geburtstage.xml -o kalender.pdf"_s,
+            u"render --from 2026-08 --months 12 --country AT --page A3 --vacations -o schuljahr.pdf"_s,
+            u"render --year 2027 --colors NIGHT --dpi 150 -o seite-%m.png"_s};
+}
+
+MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const Streams &streams) const
+{
+    MvCliValues values(arguments);
+    MvCalendarDocument document;
+    document.setRange(range(values));
+    document.setHolidayConfig(holidayConfig(values));
+    document.setAppearance(appearance(values));
+    document.setFormat(pageFormat(values));
+    document.setTitle(values.text(u"title"_s, titleOf(document.range())));
+    document.setAuthor(values.text(u"author"_s));
+    const int dpi = values.number(u"dpi"_s, MvPngExporter::minimumDpi, MvPngExporter::maximumDpi, 300);
+    values.exclude(u"entries"_s, u"my-entries"_s);
+    if (!values.has(u"output"_s))
+        values.setError(tr("es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png oder .svg"));
+    if (!values.isOk())
+        return misused(values.error());
+
+    const MvPageSource blank = document.pageSource();
+    for (const QString &path : arguments.values(u"output"_s))
+        if (const QString error = MvOutputTarget(path).error(blank); !error.isEmpty())
+            return failed(error);
+
+    QString error;
+    MvCalendariumHolidayConfig config = document.holidayConfig();
+    config.setFeature(FEATURE_ENTRIES, loadEntries(values, &error));
+    if (!error.isEmpty())
+        return failed(error);
+    document.setHolidayConfig(config);
+    hintAtMissingFonts(document.appearance(), streams.hints);
+    MvVacationHint::print(config, document.range().end(), streams.hints);
+
+    const MvPageSource pages = document.pageSource();
+    for (const QString &path : arguments.values(u"output"_s)) {
+        const MvExportResult result = MvOutputTarget(path).write(pages, dpi);
+        for (const QFileInfo &file : result.files)
+            streams.out << file.filePath() << '\n';
+        if (!result.isOk())
+            return failed(result.error);
+    }
+    return {};
+}
+
+MvDateRange MvRenderCommand::range(MvCliValues &values)
+{
+    values.exclude(u"year"_s, u"from"_s);
+    const int months = values.number(u"months"_s, 1, mostMonths, 12);
+    const int year = values.year(u"year"_s, MvDateRange::createDefaultCalendarStart().year());
+    const QDate start = values.has(u"from"_s) ? values.month(u"from"_s) : QDate(year, 1, 1);
+    return {start, start.addMonths(months).addDays(-1)};
+}
+
+MvPageFormat MvRenderCommand::pageFormat(MvCliValues &values)
+{
+    values.exclude(u"landscape"_s, u"portrait"_s);
+    const QString name = values.text(u"page"_s, u"A4"_s);
+    MvPageFormat format = MvPageFormat::fromName(name);
+    if (!format.isValid())
+        values.setError(tr("--page „%1“: erlaubt sind %2 oder Breite und Höhe in Millimetern wie 300x200 (20 bis 3000)")
+                            .arg(name, MvPageFormat::names().join(u", "_s)) +
+                        MvNearMiss::describe(name, MvPageFormat::names()));
+    const bool isPaperSize = MvPageFormat::names().contains(name.trimmed().toUpper());
+    if (values.has(u"portrait"_s))
+        format.setOrientation(MvPageFormat::Orientation::Portrait);
+    else if (values.has(u"landscape"_s) || isPaperSize)
+        format.setOrientation(MvPageFormat::Orientation::Landscape);
+    format.setBleed(10.0 * values.millimetres(u"bleed"_s, widestBleed, 0.0));
+    return format;
+}
+
+MvCalendariumAppearance MvRenderCommand::appearance(MvCliValues &values)
+{
+    using Kind = MvSchemaListCommand::Kind;
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(schemaId(values, u"layout"_s, Kind::Layouts)));
+    appearance.setColorSchemaById(MvCalendariumColorSchemaID(schemaId(values, u"colors"_s, Kind::Colors)));
+    appearance.setShowHolidays(!values.has(u"no-holidays"_s));
+    if (values.has(u"font"_s)) {
+        MvCalendariumFontSettings settings = appearance.fontSettings();
+        settings.setFont(values.text(u"font"_s));
+        appearance.setFontSettings(settings);
+    }
+    if (!appearance.isValid())
+        values.setError(tr("Layouts und Farbschemata fehlen; das Programm ist unvollständig installiert"));
+    return appearance;
+}
+
+MvCalendariumHolidayConfig MvRenderCommand::holidayConfig(MvCliValues &values)
+{
+    const MvLocale locale = values.country();
+    MvCalendariumHolidayConfig config(locale, values.region(locale), FEATURE_CALENDAR_WEEKS);
+    config.setFeature(MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS), !values.has(u"no-holidays"_s));
+    config.setFeature(FEATURE_PUBLIC_HOLIDAYS_ONLY, values.has(u"public-only"_s));
+    config.setFeature(FEATURE_SCHOOL_VACATIONS, values.has(u"vacations"_s));
+    return config;
+}
+
+bool MvRenderCommand::loadEntries(const MvCliValues &values, QString *error)
+{
+    if (values.has(u"my-entries"_s))
+        return true;
+    if (!values.has(u"entries"_s))
+        return false;
+    const QFileInfo file(values.text(u"entries"_s));
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
+    *error = content.error;
+    if (content.events.isEmpty())
+        return false; // loading an empty list would leave the user's own entries in place
+    // set, the flag replaces the active list; nothing is saved
+    return MvCalendarEventRegistry::instance().loadFrom(file, true);
+}
+
+void MvRenderCommand::hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints)
+{
+    QStringList families{appearance.fontSettings().fontName()};
+    if (families.first().isEmpty()) {
+        families.clear();
+        for (const MvCalendarCellType &type : MvCalendariumRendererFactory::instance().usedCellTypes(appearance))
+            families.append(appearance.layoutSchema().font(type).family());
+    }
+    families.removeDuplicates();
+    families.removeIf([](const QString &family) { return QFontDatabase::hasFamily(family); });
+    if (!families.isEmpty())
+        hints << tr("Schrift nicht installiert, eine andere tritt an ihre Stelle: %1").arg(families.join(u", "_s))
+              << '\n';
+}

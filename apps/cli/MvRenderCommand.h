@@ -1,0 +1,28 @@
+#pragma once
+
+#include "MvCliCommand.h"
+#include "MvProject/MvCalendarDocument.h"
+
+class MvCliValues;
+
+/// "render": prints a calendar into files.
+class MvRenderCommand : public MvCliCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(MvRenderCommand)
+
+public:
+    QString name() const override { return QStringLiteral("render"); }
+    QString summary() const override;
+    QList<MvCliOption> options() const override;
+    QStringList examples() const override;
+    Result run(const MvCliArguments &arguments, const Streams &streams) const override;
+
+private:
+    static MvDateRange range(MvCliValues &values);
+    static MvPageFormat pageFormat(MvCliValues &values);
+    static MvCalendariumAppearance appearance(MvCliValues &values);
+    static MvCalendariumHolidayConfig holidayConfig(MvCliValues &values);
+    /// Loads what was asked for; whether there are entries to print. An unreadable file gives an error.
+    static bool loadEntries(const MvCliValues &values, QString *error);
+    static void hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints);
+};

@@ -1,0 +1,47 @@
+#include "MvCli.h"
+#include "MvCore/MvInitializer.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QLocale>
+
+#include <cstdio>
+
+namespace
+{
+
+/// Warnings of the libraries, as lines like the program's own.
+void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    const bool isOfOurs = !context.category || qstrcmp(context.category, "default") == 0;
+    if (type == QtDebugMsg || type == QtInfoMsg || (type == QtWarningMsg && !isOfOurs))
+        return;
+    if (message.startsWith(QLatin1StringView("QStandardPaths:")))
+        return; // about the desktop session, which nothing here needs
+    std::fprintf(stderr, "mvcalendar: %s\n", message.simplified().toLocal8Bit().constData());
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // no window is ever opened
+    qInstallMessageHandler(printMessage);
+
+    QGuiApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("mvcalendar"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(MV_VERSION));
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
+
+    QFile standardOutput;
+    QFile standardError;
+    if (!standardOutput.open(stdout, QIODevice::WriteOnly) || !standardError.open(stderr, QIODevice::WriteOnly))
+        return MvCliCommand::Failed;
+    QTextStream out(&standardOutput);
+    QTextStream err(&standardError);
+    const int exitCode = MvCli().run(QCoreApplication::arguments().mid(1), out, err);
+    MvInitializer::instance().teardown();
+    return exitCode;
+}

@@ -1,0 +1,89 @@
+#include "MvProject/MvCalendarDocument.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvProductBase/MvCalendariumContentConfig.h"
+#include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
+#include "MvProject/MvPageSource.h"
+
+#include <QPainter>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int monthsPerYear = 12;
+
+MvPageFormat a4Landscape()
+{
+    MvPageFormat format = MvPageFormat::fromName(u"A4"_s);
+    format.setOrientation(MvPageFormat::Orientation::Landscape);
+    return format;
+}
+
+int monthsPerPage(const MvCalendariumType &type)
+{
+    return type == CALENDAR_YEAR || type == CALENDAR_YEAR_ONLY ? monthsPerYear : 1;
+}
+
+} // namespace
+
+MvCalendarDocument::MvCalendarDocument()
+    : m_holidayConfig(MvCalendariumHolidayConfigDefault::instance().defaultConfig())
+    , m_range(MvDateRange::createDefaultCalendarDateRange())
+    , m_format(a4Landscape())
+{
+}
+
+bool MvCalendarDocument::isValid() const
+{
+    return m_appearance.isValid() && m_range.isValid() && m_format.isValid();
+}
+
+QList<QDate> MvCalendarDocument::pages() const
+{
+    QList<QDate> pages;
+    const int step = monthsPerPage(m_appearance.type());
+    for (int month = 0; month < m_range.monthCount(); month += step)
+        pages.append(m_range.monthAt(month));
+    return pages;
+}
+
+void MvCalendarDocument::paint(QPainter &painter, int page) const
+{
+    const QDate month = pages().value(page);
+    if (!isValid() || !month.isValid())
+        return;
+    paintBackground(painter);
+    const std::unique_ptr<MvCalendariumRenderer> renderer(
+        MvCalendariumRendererFactory::instance().createRenderer(m_appearance));
+    renderer->setCalendarInformation(MvCalendariumContentConfig(month, m_holidayConfig), m_range);
+    renderer->setProductSize(m_format.magnitude());
+    renderer->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    renderer->render(painter, m_format.contentRect());
+}
+
+/// Margins and bleed continue the ground that the calendarium's title stands on, or a dark calendarium would have a
+/// white frame.
+void MvCalendarDocument::paintBackground(QPainter &painter) const
+{
+    const QColor color = m_appearance.cellColor(MvCalendarCellColorKey(
+        MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_TITLE, MvParityLogicEnum::even));
+    if (m_appearance.isOpaqueColor(color))
+        painter.fillRect(m_format.mediaRect(), color);
+}
+
+MvPageSource MvCalendarDocument::pageSource() const
+{
+    MvPageSource source;
+    source.format = m_format;
+    source.pages = m_appearance.isValid() ? pages() : QList<QDate>();
+    source.paint = [document = *this](QPainter &painter, int page) { document.paint(painter, page); };
+    source.title = m_title;
+    source.author = m_author;
+    return source;
+}
