@@ -1,12 +1,11 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCore/MvMath.h"
 #include "MvModelBase/MvPaintRecorder.h"
-#include "MvModelBase/MvQualityTypeManager.h"
-#include "MvModelBase/MvRenderingRule.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
 #include "MvProductBase/MvCalendarWeekTextOption.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
@@ -24,25 +23,6 @@ const QString sampleDayNumber = u"22"_s; // the widest one
 
 constexpr double topLineWidth = 20.0;
 constexpr double borderAllowance = 1.0;
-
-// cells larger than this show holiday texts beside the day number
-constexpr double holidayTextsFromWidth = 155.0;
-constexpr double holidayTextsFromHeight = 60.0;
-
-constexpr double textGap = 5.0; // between texts and what else is in the cell
-constexpr double largeCell = 300.0;
-constexpr double largeCellMargin = 10.0;
-constexpr double smallCellMargin = 2.0;
-
-constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
-constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
-constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
-constexpr int wideCellTexts = wrappingText | Qt::AlignBottom | Qt::AlignLeft;
-
-QString dayNumber(const QDate &date)
-{
-    return QString::number(date.day());
-}
 
 } // namespace
 
@@ -113,6 +93,7 @@ void MvCalendariumRenderer::setCalendarInformation(const MvCalendariumContentCon
 void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
 {
     Q_EMIT rectForDatesRestart(startDate(), rect);
+    m_unfittingTexts.clear();
     m_devicePixelsPerUnit = std::sqrt(std::abs(painter.deviceTransform().determinant()));
 
     MvPaintRecorder recorder(painter); // has the resolution of the target, so that nothing needs to be scaled
@@ -579,25 +560,7 @@ void MvCalendariumRenderer::createBorderPen(QPainter &painter) const
 void MvCalendariumRenderer::drawCellBackground(QPainter &painter, const QRectF &rect,
                                                const MvCalendarCellTypeConfig &config, bool even)
 {
-    if (shouldIPaintTheBackground(config, even)) {
-        QColor color = backgroundColor(config, even);
-        color.setAlphaF(color.alphaF() * static_cast<float>(m_backgroundAlpha));
-        addFill(rect, color);
-    }
-    if (!shouldIPaintTheBorder(config))
-        return;
-    const MvCalendarBorderType sides = borderType(config.colorConfig());
-    painter.save();
-    createBorderPen(painter);
-    if (sides.hasAnyOf(CALENDAR_BORDER_LEFT))
-        painter.drawLine(QLineF(rect.topLeft(), rect.bottomLeft()));
-    if (sides.hasAnyOf(CALENDAR_BORDER_RIGHT))
-        painter.drawLine(QLineF(rect.topRight(), rect.bottomRight()));
-    if (sides.hasAnyOf(CALENDAR_BORDER_TOP))
-        painter.drawLine(QLineF(rect.topLeft(), rect.topRight()));
-    if (sides.hasAnyOf(CALENDAR_BORDER_BOTTOM))
-        painter.drawLine(QLineF(rect.bottomLeft(), rect.bottomRight()));
-    painter.restore();
+    MvCalendariumCellPainter(*this, painter).drawBackground(rect, config, even);
 }
 
 void MvCalendariumRenderer::drawCell(QPainter &painter, const QRectF &rect, const MvCalendarCellTypeConfig &config,
@@ -613,118 +576,27 @@ void MvCalendariumRenderer::drawCell(QPainter &painter, const QRectF &rect, cons
 void MvCalendariumRenderer::drawCellText(QPainter &painter, const QRectF &rect, const MvCalendarCellTypeConfig &config,
                                          const QString &text, int flags, bool even)
 {
-    const QColor color = fontColor(config, even);
-    if (!isOpaqueColor(color))
-        return;
-    const MvCalendarCellType &type = config.inscriptionConfig();
-    painter.save();
-    preparePen(painter, font(type), color);
-    const int alignment = flags == 0 ? int(textAlignment(type)) : flags;
-    drawText(painter, rect.marginsRemoved(padding(type)), alignment | Qt::TextDontClip, text);
-    painter.restore();
-}
-
-void MvCalendariumRenderer::preparePen(QPainter &painter, const QFont &font, const QColor &color) const
-{
-    painter.setFont(font);
-    painter.setPen(QPen(QBrush(color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    MvCalendariumCellPainter(*this, painter).drawText(rect, config, text, flags, even);
 }
 
 void MvCalendariumRenderer::drawDayNumberCell(QPainter &painter, const QRectF &rect, const QDate &date)
 {
-    const bool even = isEvenWeek(date);
-    const MvCalendarCellTypeConfig config = contentCellTypeConfig(date);
-    drawCellBackground(painter, rect, config, even);
-    if (rect.width() > holidayTextsFromWidth && rect.height() > holidayTextsFromHeight) {
-        if (drawCellHoliday(painter, rect, date, even))
-            return; // the photo stands for the number
-    } else {
-        Q_EMIT rectForDateFound(date, rect);
-    }
-    drawCellText(painter, rect, config, dayNumber(date), 0, even);
+    MvCalendariumCellPainter(*this, painter).drawDayNumber(rect, date);
 }
 
 bool MvCalendariumRenderer::drawCellHoliday(QPainter &painter, const QRectF &rect, const QDate &date, bool even)
 {
-    Q_EMIT rectForDateFound(date, rect);
-    const MvCalendarCellTypeConfig config = contentCellTypeConfig(date);
-    const MvCalendarCellType &type = config.inscriptionConfig();
-    const QRectF inner = rect.marginsRemoved(padding(type));
-    const QColor color = fontColor(config, even);
-    QStringList texts = describeHolidays(date);
-    if (!isOpaqueColor(color) || texts.isEmpty())
-        return drawCellHolidayPicture(painter, date, inner);
-
-    painter.save();
-    preparePen(painter, fontHolidays(type), color);
-    painter.setClipRect(rect, Qt::IntersectClip);
-    const int width = static_cast<int>(inner.width());
-    if (isAnyTextToWide(width, painter.font(), texts))
-        texts = manuallyBreakLines(width, painter.font(), texts);
-    const bool tooWide = isAnyTextToWide(width, painter.font(), texts);
-    const QRectF rest = drawHolidayTexts(painter, inner, texts, type);
-    painter.restore();
-
-    const bool hasPicture = drawCellHolidayPicture(painter, date, rest);
-    if (tooWide)
-        drawQualityWarning(painter, rect);
-    return hasPicture;
-}
-
-// gives what is left of the inner rectangle
-QRectF MvCalendariumRenderer::drawHolidayTexts(QPainter &painter, const QRectF &inner, const QStringList &lines,
-                                               const MvCalendarCellType &type) const
-{
-    const double lineHeight = painter.font().pixelSize();
-    if (lines.size() < 2) {
-        drawText(painter, inner, bottomTexts, lines.constFirst());
-        return inner.adjusted(0.0, 0.0, 0.0, -(lineHeight + textGap));
-    }
-    const auto [top, bottom] = splitHolidays(lines, type);
-    drawTexts(painter, inner, topTexts, top);
-    drawTexts(painter, inner, bottomTexts, bottom);
-    return inner.adjusted(0.0, lineHeight * double(top.size()) + textGap, 0.0,
-                          -(lineHeight * double(bottom.size()) + textGap));
+    return MvCalendariumCellPainter(*this, painter).drawHoliday(rect, date, even);
 }
 
 void MvCalendariumRenderer::drawCellHolidayWide(QPainter &painter, const QRectF &rect, const QDate &date, bool even)
 {
-    Q_EMIT rectForDateFound(date, rect);
-    const MvCalendarCellTypeConfig config = contentCellTypeConfig(date);
-    const MvCalendarCellType &type = config.inscriptionConfig();
-    const double vertical = rect.height() > largeCell ? largeCellMargin : smallCellMargin;
-    const double horizontal = rect.width() > largeCell ? largeCellMargin : smallCellMargin;
-    QRectF inner = rect.marginsRemoved(padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
-
-    const QImage picture = pictureWithin(date, inner.size());
-    if (!picture.isNull()) {
-        const QSize size = picture.size().scaled(inner.size().toSize(), Qt::KeepAspectRatio);
-        painter.drawImage(QRectF(inner.topLeft(), size), picture);
-        inner.setLeft(inner.left() + size.width() + textGap);
-    }
-
-    const QStringList texts = describeHolidays(date);
-    const QColor color = fontColor(config, even);
-    if (!isOpaqueColor(color) || texts.isEmpty())
-        return;
-    painter.save();
-    preparePen(painter, fontHolidays(type), color);
-    painter.setClipRect(rect, Qt::IntersectClip);
-    drawText(painter, inner, wideCellTexts, texts.join(u", "_s));
-    painter.restore();
+    MvCalendariumCellPainter(*this, painter).drawHolidayWide(rect, date, even);
 }
 
 bool MvCalendariumRenderer::drawCellHolidayPicture(QPainter &painter, const QDate &date, const QRectF &rect)
 {
-    const QImage picture = pictureWithin(date, rect.size());
-    if (picture.isNull())
-        return false;
-    const QSize size = picture.size().scaled(rect.size().toSize(), Qt::KeepAspectRatio);
-    double x = std::round(rect.x());
-    if (rect.width() > size.width())
-        x = std::trunc(x + (rect.width() - size.width()) * 0.5);
-    painter.drawImage(QRectF(QPointF(x, std::round(rect.y())), size), picture);
-    return true;
+    return MvCalendariumCellPainter(*this, painter).drawPicture(date, rect);
 }
 
 QImage MvCalendariumRenderer::holidayPicture(const QDate &date) const
@@ -732,23 +604,7 @@ QImage MvCalendariumRenderer::holidayPicture(const QDate &date) const
     return MvCalendarEventRegistry::instance().eventImage(contentFor(date));
 }
 
-// the picture in as many pixels as the device has there, so that print is sharp and screens decode little
-QImage MvCalendariumRenderer::pictureWithin(const QDate &date, const QSizeF &size) const
+void MvCalendariumRenderer::reportUnfitting(const QDate &date, const QString &text, const QRectF &rect)
 {
-    const QSize pixels = (size * m_devicePixelsPerUnit).toSize();
-    return pixels.isEmpty() ? QImage() : MvCalendarEventRegistry::instance().eventImage(contentFor(date), pixels);
-}
-
-void MvCalendariumRenderer::drawQualityWarning(QPainter &painter, const QRectF &rect) const
-{
-    if (!MvRenderingRule::decodeFrom(painter).hasFlag(MvRenderingRule::ShowQualityWarnings))
-        return;
-    const int edge = static_cast<int>(std::min(rect.width(), rect.height()));
-    const QPixmap symbol = MvQualityTypeManager::instance().qualityWarningPixmap(edge);
-    const QPointF offset(std::round((rect.width() - symbol.width()) / 2.0),
-                         std::round((rect.height() - symbol.height()) / 2.0));
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawPixmap(rect.topLeft() + offset, symbol);
-    painter.restore();
+    m_unfittingTexts.append({date, text, rect});
 }

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumDisplayAbilities.h"
 #include "MvCalendar/MvCalendariumWords.h"
+#include "MvCalendar/MvUnfittingText.h"
 #include "MvCore/MvRealRange.h"
 #include "MvCore/MvSpaceMagnitude.h"
 #include "MvModelBase/MvProjectIdentifier.h"
@@ -72,6 +73,9 @@ public:
 
     /// One paint pass: announces a restart, then every date's rectangle; paints backgrounds, then lines and texts.
     void render(QPainter &painter, const QRectF &rect);
+
+    /// The texts that had no room in the last pass, in the order of painting.
+    const QList<MvUnfittingText> &unfittingTexts() const { return m_unfittingTexts; }
 
     // dates
     const MvCalendariumAppearance &appearance() const { return m_appearance; }
@@ -212,18 +216,17 @@ Q_SIGNALS:
 protected:
     /// Collects a background; rectangles of one colour are filled as one shape.
     void addFill(const QRectF &rect, const QColor &color);
+    /// Notes a text of the day whose cell has no room for it.
+    void reportUnfitting(const QDate &date, const QString &text, const QRectF &rect);
 
 private:
+    friend class MvCalendariumCellPainter;
+
     MvCalendariumWords words() const;
     bool usesShortDayNames() const;
     bool hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const;
     bool hasVacationColors(const QDate &date) const;
     void paintFills(QPainter &painter);
-    void preparePen(QPainter &painter, const QFont &font, const QColor &color) const;
-    QRectF drawHolidayTexts(QPainter &painter, const QRectF &inner, const QStringList &lines,
-                            const MvCalendarCellType &type) const;
-    void drawQualityWarning(QPainter &painter, const QRectF &rect) const;
-    QImage pictureWithin(const QDate &date, const QSizeF &size) const;
 
     MvCalendariumContentConfig m_content;
     MvCalendariumAppearance m_appearance;
@@ -233,5 +236,6 @@ private:
     MvSpaceMagnitude m_productSize;
     int m_minimumFontSize = 6;
     MvProjectIdentifier m_modelInfo;
+    QList<MvUnfittingText> m_unfittingTexts;
     double m_devicePixelsPerUnit = 1.0; // of the pass that runs, for photos
 };

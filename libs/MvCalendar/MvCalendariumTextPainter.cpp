@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QChar ellipsis(u'…');
+
 MvTextOutline outlineOf(const QFont &font, const QString &text)
 {
     return MvTextOutlineCache::instance().outline(font, text);
@@ -75,6 +77,29 @@ QStringList MvCalendariumTextPainter::breakLines(int maxWidth, const QFont &font
             lines.append(line);
     }
     return lines;
+}
+
+QStringList MvCalendariumTextPainter::fitLines(int maxWidth, int maxLines, const QFont &font, const QStringList &texts,
+                                               bool *isCut)
+{
+    QStringList lines = breakLines(maxWidth, font, texts);
+    *isCut = lines.size() > maxLines;
+    if (!*isCut)
+        return lines;
+    lines.resize(std::max(0, maxLines));
+    if (!lines.isEmpty())
+        lines.last() = elided(maxWidth, font, lines.constLast() + ellipsis);
+    return lines;
+}
+
+QString MvCalendariumTextPainter::elided(int maxWidth, const QFont &font, const QString &text)
+{
+    if (!isTextToWide(maxWidth, font, text))
+        return text;
+    QString kept = text.endsWith(ellipsis) ? text.chopped(1) : text;
+    while (!kept.isEmpty() && isTextToWide(maxWidth, font, kept + ellipsis))
+        kept = kept.chopped(1).trimmed();
+    return kept + ellipsis;
 }
 
 QRectF MvCalendariumTextPainter::boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text)

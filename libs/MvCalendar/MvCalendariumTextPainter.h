@@ -24,6 +24,12 @@ public:
     /// cut: one that is wider has a line of its own. Every text starts on a new line.
     static QStringList breakLines(int maxWidth, const QFont &font, const QStringList &texts);
 
+    /// Breaks the texts like breakLines() into as many lines as there is room for. Where more are needed, the last line
+    /// is shortened to end in an ellipsis and `isCut` says so. No room for a line: an empty list, cut.
+    static QStringList fitLines(int maxWidth, int maxLines, const QFont &font, const QStringList &texts, bool *isCut);
+    /// The text, shortened to end in an ellipsis if it is wider than the width.
+    static QString elided(int maxWidth, const QFont &font, const QString &text);
+
     /// Where one line of text lies in the rectangle: its advance and line height, aligned by the flags. It may be
     /// larger than the rectangle.
     static QRectF boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text);

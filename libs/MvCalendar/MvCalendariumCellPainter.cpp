@@ -1,0 +1,238 @@
+#include "MvCalendar/MvCalendariumCellPainter.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvModelBase/MvQualityTypeManager.h"
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvProductBase/MvCalendariumContentKey.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// cells larger than this show holiday texts beside the day number
+constexpr double holidayTextsFromWidth = 155.0;
+constexpr double holidayTextsFromHeight = 60.0;
+
+constexpr double textGap = 5.0; // between texts and what else is in the cell
+constexpr double largeCell = 300.0;
+constexpr double largeCellMargin = 10.0;
+constexpr double smallCellMargin = 2.0;
+
+constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
+constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
+constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
+constexpr int wideCellTexts = wrappingText | Qt::AlignBottom | Qt::AlignLeft;
+
+} // namespace
+
+MvCalendariumCellPainter::MvCalendariumCellPainter(MvCalendariumRenderer &renderer, QPainter &painter)
+    : m_renderer(renderer)
+    , m_painter(painter)
+{
+}
+
+void MvCalendariumCellPainter::drawBackground(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even)
+{
+    if (m_renderer.shouldIPaintTheBackground(config, even)) {
+        QColor color = m_renderer.backgroundColor(config, even);
+        color.setAlphaF(color.alphaF() * static_cast<float>(m_renderer.m_backgroundAlpha));
+        m_renderer.addFill(rect, color);
+    }
+    if (m_renderer.shouldIPaintTheBorder(config))
+        drawBorder(rect, config.colorConfig());
+}
+
+void MvCalendariumCellPainter::drawBorder(const QRectF &rect, const MvCalendarCellType &type)
+{
+    const MvCalendarBorderType sides = m_renderer.borderType(type);
+    m_painter.save();
+    m_renderer.createBorderPen(m_painter);
+    if (sides.hasAnyOf(CALENDAR_BORDER_LEFT))
+        m_painter.drawLine(QLineF(rect.topLeft(), rect.bottomLeft()));
+    if (sides.hasAnyOf(CALENDAR_BORDER_RIGHT))
+        m_painter.drawLine(QLineF(rect.topRight(), rect.bottomRight()));
+    if (sides.hasAnyOf(CALENDAR_BORDER_TOP))
+        m_painter.drawLine(QLineF(rect.topLeft(), rect.topRight()));
+    if (sides.hasAnyOf(CALENDAR_BORDER_BOTTOM))
+        m_painter.drawLine(QLineF(rect.bottomLeft(), rect.bottomRight()));
+    m_painter.restore();
+}
+
+void MvCalendariumCellPainter::drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config,
+                                        const QString &text, int flags, bool even)
+{
+    const QColor color = m_renderer.fontColor(config, even);
+    if (!m_renderer.isOpaqueColor(color))
+        return;
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    m_painter.save();
+    preparePen(m_renderer.font(type), color);
+    const int alignment = flags == 0 ? int(m_renderer.textAlignment(type)) : flags;
+    MvCalendariumTextPainter::drawText(m_painter, rect.marginsRemoved(m_renderer.padding(type)),
+                                       alignment | Qt::TextDontClip, text);
+    m_painter.restore();
+}
+
+void MvCalendariumCellPainter::preparePen(const QFont &font, const QColor &color)
+{
+    m_painter.setFont(font);
+    m_painter.setPen(QPen(QBrush(color), 1.0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+}
+
+void MvCalendariumCellPainter::drawDayNumber(const QRectF &rect, const QDate &date)
+{
+    const bool even = m_renderer.isEvenWeek(date);
+    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
+    drawBackground(rect, config, even);
+    if (rect.width() > holidayTextsFromWidth && rect.height() > holidayTextsFromHeight) {
+        if (drawHoliday(rect, date, even))
+            return; // the photo stands for the number
+    } else {
+        Q_EMIT m_renderer.rectForDateFound(date, rect);
+    }
+    drawText(rect, config, QString::number(date.day()), 0, even);
+}
+
+bool MvCalendariumCellPainter::drawHoliday(const QRectF &rect, const QDate &date, bool even)
+{
+    Q_EMIT m_renderer.rectForDateFound(date, rect);
+    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const QRectF inner = rect.marginsRemoved(m_renderer.padding(type));
+    const QColor color = m_renderer.fontColor(config, even);
+    const QStringList texts = m_renderer.describeHolidays(date);
+    if (!m_renderer.isOpaqueColor(color) || texts.isEmpty())
+        return drawPicture(date, inner);
+
+    m_painter.save();
+    preparePen(m_renderer.fontHolidays(type), color);
+    m_painter.setClipRect(rect, Qt::IntersectClip);
+    bool hasTooWideWord = false;
+    const QStringList lines = holidayLines(texts, rect, inner, date, type, &hasTooWideWord);
+    const QRectF rest = drawHolidayLines(inner, lines, type);
+    m_painter.restore();
+
+    const bool hasPicture = drawPicture(date, rest);
+    if (hasTooWideWord)
+        drawQualityWarning(rect);
+    return hasPicture;
+}
+
+QStringList MvCalendariumCellPainter::holidayLines(const QStringList &texts, const QRectF &cell, const QRectF &inner,
+                                                   const QDate &date, const MvCalendarCellType &type,
+                                                   bool *hasTooWideWord)
+{
+    const QFont font = m_painter.font();
+    const int width = static_cast<int>(inner.width());
+    const double numberHeight = QFontMetricsF(m_renderer.font(type)).height();
+    const double lineHeight = QFontMetricsF(font).height();
+    const int maxLines = std::max(1, static_cast<int>((inner.height() - numberHeight) / lineHeight));
+
+    QStringList lines = texts;
+    bool isCut = texts.size() > maxLines;
+    if (isCut || MvCalendariumTextPainter::isAnyTextToWide(width, font, texts))
+        lines = MvCalendariumTextPainter::fitLines(width, maxLines, font, texts, &isCut);
+    *hasTooWideWord = MvCalendariumTextPainter::isAnyTextToWide(width, font, lines);
+    if (isCut || *hasTooWideWord)
+        m_renderer.reportUnfitting(date, texts.join(u", "_s), cell);
+    return lines;
+}
+
+QRectF MvCalendariumCellPainter::drawHolidayLines(const QRectF &inner, const QStringList &lines,
+                                                  const MvCalendarCellType &type)
+{
+    const double lineHeight = m_painter.font().pixelSize();
+    if (lines.size() < 2) {
+        MvCalendariumTextPainter::drawText(m_painter, inner, bottomTexts, lines.constFirst());
+        return inner.adjusted(0.0, 0.0, 0.0, -(lineHeight + textGap));
+    }
+    const auto [top, bottom] = m_renderer.splitHolidays(lines, type);
+    MvCalendariumTextPainter::drawTexts(m_painter, inner, topTexts, top);
+    MvCalendariumTextPainter::drawTexts(m_painter, inner, bottomTexts, bottom);
+    return inner.adjusted(0.0, lineHeight * double(top.size()) + textGap, 0.0,
+                          -(lineHeight * double(bottom.size()) + textGap));
+}
+
+void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &date, bool even)
+{
+    Q_EMIT m_renderer.rectForDateFound(date, rect);
+    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const double vertical = rect.height() > largeCell ? largeCellMargin : smallCellMargin;
+    const double horizontal = rect.width() > largeCell ? largeCellMargin : smallCellMargin;
+    QRectF inner =
+        rect.marginsRemoved(m_renderer.padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
+
+    const QImage picture = pictureWithin(date, inner.size());
+    if (!picture.isNull()) {
+        const QSize size = picture.size().scaled(inner.size().toSize(), Qt::KeepAspectRatio);
+        m_painter.drawImage(QRectF(inner.topLeft(), size), picture);
+        inner.setLeft(inner.left() + size.width() + textGap);
+    }
+
+    const QStringList texts = m_renderer.describeHolidays(date);
+    const QColor color = m_renderer.fontColor(config, even);
+    if (!m_renderer.isOpaqueColor(color) || texts.isEmpty())
+        return;
+    m_painter.save();
+    preparePen(m_renderer.fontHolidays(type), color);
+    m_painter.setClipRect(rect, Qt::IntersectClip);
+    const QString text = texts.join(u", "_s);
+    const QFontMetricsF metrics(m_painter.font());
+    const int maxLines = std::max(1, static_cast<int>(inner.height() / metrics.height()));
+    bool isCut = false;
+    const QStringList lines = MvCalendariumTextPainter::fitLines(static_cast<int>(inner.width()), maxLines,
+                                                                 m_painter.font(), {text}, &isCut);
+    if (isCut || MvCalendariumTextPainter::isAnyTextToWide(static_cast<int>(inner.width()), m_painter.font(), lines))
+        m_renderer.reportUnfitting(date, text, rect);
+    QRectF line = inner;
+    line.setBottom(inner.bottom() - metrics.height() * double(lines.size() - 1));
+    for (const QString &part : lines) {
+        MvCalendariumTextPainter::drawText(m_painter, line, wideCellTexts, part);
+        line.translate(0.0, metrics.height());
+    }
+    m_painter.restore();
+}
+
+bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect)
+{
+    const QImage picture = pictureWithin(date, rect.size());
+    if (picture.isNull())
+        return false;
+    const QSize size = picture.size().scaled(rect.size().toSize(), Qt::KeepAspectRatio);
+    double x = std::round(rect.x());
+    if (rect.width() > size.width())
+        x = std::trunc(x + (rect.width() - size.width()) * 0.5);
+    m_painter.drawImage(QRectF(QPointF(x, std::round(rect.y())), size), picture);
+    return true;
+}
+
+QImage MvCalendariumCellPainter::pictureWithin(const QDate &date, const QSizeF &size) const
+{
+    const QSize pixels = (size * m_renderer.m_devicePixelsPerUnit).toSize();
+    if (pixels.isEmpty())
+        return {};
+    return MvCalendarEventRegistry::instance().eventImage(m_renderer.contentFor(date), pixels);
+}
+
+void MvCalendariumCellPainter::drawQualityWarning(const QRectF &rect)
+{
+    if (!MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::ShowQualityWarnings))
+        return;
+    const int edge = static_cast<int>(std::min(rect.width(), rect.height()));
+    const QPixmap symbol = MvQualityTypeManager::instance().qualityWarningPixmap(edge);
+    const QPointF offset(std::round((rect.width() - symbol.width()) / 2.0),
+                         std::round((rect.height() - symbol.height()) / 2.0));
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.drawPixmap(rect.topLeft() + offset, symbol);
+    m_painter.restore();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarCellTypeConfig.h"
+#include "MvCalendar/mvcalendar_export.h"
+
+#include <QDate>
+#include <QImage>
+#include <QRectF>
+#include <QStringList>
+
+class MvCalendariumRenderer;
+class QColor;
+class QFont;
+class QPainter;
+
+/// Paints single cells for a renderer, which knows colours, fonts and the texts of the days. See the operations of
+/// MvCalendariumRenderer, which call these.
+class MvCalendariumCellPainter
+{
+public:
+    /// Both must outlive the cell painter.
+    MvCalendariumCellPainter(MvCalendariumRenderer &renderer, QPainter &painter);
+
+    void drawBackground(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even);
+    void drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
+                  bool even);
+    void drawDayNumber(const QRectF &rect, const QDate &date);
+    /// True when a photo was drawn.
+    bool drawHoliday(const QRectF &rect, const QDate &date, bool even);
+    void drawHolidayWide(const QRectF &rect, const QDate &date, bool even);
+    bool drawPicture(const QDate &date, const QRectF &rect);
+
+private:
+    void drawBorder(const QRectF &rect, const MvCalendarCellType &type);
+    void preparePen(const QFont &font, const QColor &color);
+    /// The texts broken into lines that leave the day number its place; what does not fit is reported.
+    QStringList holidayLines(const QStringList &texts, const QRectF &cell, const QRectF &inner, const QDate &date,
+                             const MvCalendarCellType &type, bool *hasTooWideWord);
+    /// Gives what is left of the inner rectangle.
+    QRectF drawHolidayLines(const QRectF &inner, const QStringList &lines, const MvCalendarCellType &type);
+    void drawQualityWarning(const QRectF &rect);
+    /// The photo in as many pixels as the device has there, so that print is sharp and screens decode little.
+    QImage pictureWithin(const QDate &date, const QSizeF &size) const;
+
+    MvCalendariumRenderer &m_renderer;
+    QPainter &m_painter;
+};
