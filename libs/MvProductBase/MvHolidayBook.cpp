@@ -1,5 +1,7 @@
 #include "MvProductBase/MvHolidayBook.h"
 
+#include "MvProductBase/MvHolidayTableReader.h"
+
 #include <QMutexLocker>
 
 #include <algorithm>

@@ -3,13 +3,13 @@
 #include "MvCore/MvLocale.h"
 #include "MvProductBase/MvCalendariumHolidayCacheKey.h"
 #include "MvProductBase/MvHolidayTable.h"
-#include "MvProductBase/MvHolidayTableReader.h"
 #include "MvProductBase/MvSchoolVacationTable.h"
 #include "MvProductBase/mvproductbase_export.h"
 
 #include <QFileInfo>
 #include <QHash>
 #include <QMutex>
+#include <QSet>
 #include <QString>
 
 #include <functional>
