@@ -1,5 +1,7 @@
 #include "MvProductBase/MvHolidayBook.h"
 
+#include "MvProductBase/MvHolidayTableReader.h"
+
 #include <QMutexLocker>
 
 #include <algorithm>
@@ -51,53 +53,62 @@ void MvHolidayBook::readCountries()
 
 MvHolidayBook::Country MvHolidayBook::read(const QString &code) const
 {
-    const auto file = [this](const QString &name) { return m_finder(u"holidays/%1.xml"_s.arg(name)); };
-    MvHolidayTable holidays = MvHolidayTableReader(file(code)).readTable();
-    MvSchoolVacationTable vacations;
-    MvHolidayTableReader(file(u"vacations-"_s + code)).readVacations(vacations);
-    MvHolidayTableReader(file(u"vacations-%1-odbl"_s.arg(code))).readVacations(vacations);
-    MvHolidayTableReader(m_ownFile).readOwn(code, holidays, vacations);
-    return {std::make_shared<const MvHolidayTable>(std::move(holidays)),
-            std::make_shared<const MvSchoolVacationTable>(std::move(vacations))};
+    MvHolidayTable holidays = MvHolidayTableReader(m_finder(u"holidays/%1.xml"_s.arg(code))).readTable();
+    Country made;
+    MvHolidayTableReader(m_ownFile).readOwn(code, holidays, made.ownVacations);
+    made.holidays = std::make_shared<const MvHolidayTable>(std::move(holidays));
+    return made;
 }
 
-MvHolidayBook::Country MvHolidayBook::country(const MvLocale &locale) const
+// the caller holds the lock, also while files are read, so that each is read, and complained about, once
+MvHolidayBook::Country &MvHolidayBook::country(const QString &code) const
 {
-    const QString code = locale.country();
-    QMutexLocker lock(&m_mutex); // also while reading, so that a file is read, and complained about, once
-    const auto known = m_countries.constFind(code);
-    if (known != m_countries.constEnd())
+    const auto known = m_countries.find(code);
+    if (known != m_countries.end())
         return *known;
-    const Country made = m_codes.contains(code) ? read(code)
-                                                : Country{std::make_shared<const MvHolidayTable>(),
-                                                          std::make_shared<const MvSchoolVacationTable>()};
-    m_countries.insert(code, made);
-    return made;
+    const Country unknown = {std::make_shared<const MvHolidayTable>(), {}, {}};
+    return *m_countries.insert(code, m_codes.contains(code) ? read(code) : unknown);
 }
 
 std::shared_ptr<const MvHolidayTable> MvHolidayBook::table(const MvLocale &locale) const
 {
-    return country(locale).holidays;
+    const QMutexLocker lock(&m_mutex);
+    return country(locale.country()).holidays;
+}
+
+std::shared_ptr<const MvSchoolVacationTable> MvHolidayBook::vacations(const MvLocale &locale) const
+{
+    const QString code = locale.country();
+    const QMutexLocker lock(&m_mutex);
+    Country &where = country(code);
+    if (!where.vacations) {
+        MvSchoolVacationTable all = where.ownVacations;
+        if (m_codes.contains(code)) {
+            for (const QString &name : {u"holidays/vacations-%1.xml"_s, u"holidays/vacations-%1-odbl.xml"_s})
+                MvHolidayTableReader(m_finder(name.arg(code))).readVacations(all);
+        }
+        where.vacations = std::make_shared<const MvSchoolVacationTable>(std::move(all));
+    }
+    return where.vacations;
 }
 
 QDate MvHolidayBook::vacationsKnownUntil(const MvLocale &locale, const QString &region) const
 {
-    const Country where = country(locale);
-    return where.vacations->knownUntil(where.holidays->regionWithParents(region));
+    return vacations(locale)->knownUntil(table(locale)->regionWithParents(region));
 }
 
 MvCalendariumHolidayList MvHolidayBook::holidaysOfYear(const MvCalendariumHolidayCacheKey &key) const
 {
     const MvCalendariumHolidayConfig config = key.config();
-    const Country where = country(config.language());
-    MvCalendariumHolidayList found =
-        where.holidays->holidays(key.year(), config.province(), config.language().language());
+    const MvLocale locale = config.language();
+    const std::shared_ptr<const MvHolidayTable> holidays = table(locale);
+    MvCalendariumHolidayList found = holidays->holidays(key.year(), config.province(), locale.language());
     if (config.hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY))
         found.removeIf([](const MvCalendariumHoliday &holiday) { return holiday.type() != HOLIDAY_TYPE_PUBLIC; });
     if (!config.hasFeatures(FEATURE_SCHOOL_VACATIONS))
         return found;
-    found.append(where.vacations->days(key.year(), where.holidays->regionWithParents(config.province()),
-                                       config.hasFeatures(FEATURE_VACATION_NAMES_DAILY)));
+    found.append(vacations(locale)->days(key.year(), holidays->regionWithParents(config.province()),
+                                         config.hasFeatures(FEATURE_VACATION_NAMES_DAILY)));
     std::stable_sort(found.begin(), found.end(), [](const MvCalendariumHoliday &a, const MvCalendariumHoliday &b) {
         return a.date() < b.date(); // vacations come last on their days: they were appended
     });

@@ -3,19 +3,20 @@
 #include "MvCore/MvLocale.h"
 #include "MvProductBase/MvCalendariumHolidayCacheKey.h"
 #include "MvProductBase/MvHolidayTable.h"
-#include "MvProductBase/MvHolidayTableReader.h"
 #include "MvProductBase/MvSchoolVacationTable.h"
 #include "MvProductBase/mvproductbase_export.h"
 
 #include <QFileInfo>
 #include <QHash>
 #include <QMutex>
+#include <QSet>
 #include <QString>
 
 #include <functional>
 #include <memory>
 
-/// Everything that the data files say about holidays. A country is read when it is first asked for and stays as it is.
+/// Everything that the data files say about holidays. The files of a country are read when they are first asked for,
+/// those of its vacations later than those of its holidays; from then on it stays as it is.
 ///
 /// May be asked by any thread.
 class MVPRODUCTBASE_EXPORT MvHolidayBook
@@ -39,12 +40,14 @@ public:
 private:
     struct Country {
         std::shared_ptr<const MvHolidayTable> holidays;
-        std::shared_ptr<const MvSchoolVacationTable> vacations;
+        MvSchoolVacationTable ownVacations;                     // the user's
+        std::shared_ptr<const MvSchoolVacationTable> vacations; // with the shipped ones; null until asked for
     };
 
     void readCountries();
-    Country country(const MvLocale &locale) const;
+    Country &country(const QString &code) const;
     Country read(const QString &code) const;
+    std::shared_ptr<const MvSchoolVacationTable> vacations(const MvLocale &locale) const;
 
     FileFinder m_finder;
     QFileInfo m_ownFile;

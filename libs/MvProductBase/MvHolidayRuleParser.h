@@ -1,7 +1,6 @@
 #pragma once
 
 #include "MvProductBase/MvHolidayRule.h"
-#include "MvProductBase/mvproductbase_export.h"
 
 #include <QCoreApplication>
 #include <QStringList>

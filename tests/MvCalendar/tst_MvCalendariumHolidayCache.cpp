@@ -1,0 +1,231 @@
+#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumHolidayCache.h"
+
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvTest.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+MvCalendariumHolidayConfig bavaria(int features = FEATURE_HOLIDAYS | FEATURE_ENTRIES)
+{
+    return {MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(features)};
+}
+
+MvCalendariumContentKey keyOf(const QDate &day, const MvCalendariumHolidayConfig &config = bavaria())
+{
+    return {MvCalendariumContentConfig(day, config), MvProjectIdentifier()};
+}
+
+MvCalendarEvent entry(const QString &name, const QDate &day)
+{
+    return MvCalendarEvent(name, day.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
+}
+
+} // namespace
+
+class tst_MvCalendariumHolidayCache : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void yearsAreComputedOnce();
+    void days_data();
+    void days();
+    void invalidDayHasNothing();
+    void longestHolidayName();
+    void longestHolidayNameBelongsToTheFirstCall();
+    void eventsOfAMonth();
+    void longestEventName();
+    void repairsConfigurations_data();
+    void repairsConfigurations();
+    void reloadReadsDataAnew();
+
+private:
+    void writeOwnHolidays(const QByteArray &elements) const;
+    static QFileInfo ownFile() { return MvDirectoryConfig::instance().programDataFile(u"my-holidays.xml"_s); }
+
+    MvCalendariumHolidayCache &m_cache = MvCalendariumHolidayCache::instance();
+};
+
+void tst_MvCalendariumHolidayCache::cleanup()
+{
+    QFile::remove(ownFile().filePath());
+    MvCalendarEventRegistry::instance().setEvents({});
+    m_cache.reloadData();
+}
+
+void tst_MvCalendariumHolidayCache::writeOwnHolidays(const QByteArray &elements) const
+{
+    QVERIFY(QDir().mkpath(ownFile().absolutePath()));
+    QFile file(ownFile().filePath());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<MyHolidays><country code=\"DE\">" + elements + "</country></MyHolidays>");
+}
+
+void tst_MvCalendariumHolidayCache::yearsAreComputedOnce()
+{
+    const MvCalendariumHolidayCacheKey key(2027, bavaria());
+    const MvCalendariumHolidayCacheKey withVacations(2027, bavaria(FEATURE_HOLIDAYS | FEATURE_SCHOOL_VACATIONS));
+    QVERIFY(!m_cache.isPrepared(key));
+    QVERIFY(m_cache.fetch(key).isEmpty());
+    const MvCalendariumHolidayList list = m_cache.readHolidays(key);
+    QVERIFY(!list.isEmpty());
+    QVERIFY(m_cache.isPrepared(key));
+    QCOMPARE(m_cache.fetch(key).constData(), list.constData()); // the same list, not one computed again
+    QCOMPARE(m_cache.readHolidays(key).constData(), list.constData());
+    QVERIFY(!m_cache.isPrepared(withVacations));
+    QVERIFY(!m_cache.isPrepared(MvCalendariumHolidayCacheKey(2028, bavaria())));
+    m_cache.prepareYear(key);
+    QVERIFY(m_cache.fetch(key).constData() != list.constData());
+}
+
+void tst_MvCalendariumHolidayCache::days_data()
+{
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<int>("features");
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<int>("types"); // of all holidays of the day
+    const int all = FEATURE_SCHOOL_VACATIONS;
+    const int vacation = HOLIDAY_TYPE_SCHOOL_VACATION;
+    QTest::newRow("public holiday") << QDate(2026, 10, 3) << all << QStringList{u"Tag der Deutschen Einheit"_s}
+                                    << int(HOLIDAY_TYPE_PUBLIC);
+    QTest::newRow("nothing") << QDate(2026, 10, 5) << all << QStringList() << 0;
+    QTest::newRow("observed day") << QDate(2026, 5, 10) << all << QStringList{u"Muttertag"_s}
+                                  << int(HOLIDAY_TYPE_OBSERVANCE);
+    QTest::newRow("inside a vacation: its type, no text") << QDate(2026, 8, 20) << all << QStringList() << vacation;
+    QTest::newRow("vacation switched off") << QDate(2026, 8, 20) << 0 << QStringList() << 0;
+    QTest::newRow("a holiday and a nameless vacation day give one text")
+        << QDate(2026, 8, 15) << all << QStringList{u"Mariä Himmelfahrt"_s} << (HOLIDAY_TYPE_PUBLIC | vacation);
+    QTest::newRow("first day of a vacation") << QDate(2026, 8, 3) << all << QStringList{u"Sommerferien"_s} << vacation;
+}
+
+void tst_MvCalendariumHolidayCache::days()
+{
+    QFETCH(QDate, day);
+    QFETCH(int, features);
+    QFETCH(int, types);
+    const MvCalendariumContentKey key = keyOf(day, bavaria(features));
+    QTEST(m_cache.descriptions(key), "texts");
+    int tagged = 0;
+    const QSet<MvCalendariumHolidayType> tags = m_cache.tags(key);
+    for (const MvCalendariumHolidayType &tag : tags)
+        tagged |= tag.toInt();
+    QCOMPARE(tagged, types);
+    for (const int type : {16, 32, 64, 128, 16 | 32, 64 | 128})
+        QCOMPARE(m_cache.hasHolidayOfType(key, MvCalendariumHolidayType(type)), (types & type) != 0);
+    QVERIFY(m_cache.imageFile(key).isEmpty());
+}
+
+void tst_MvCalendariumHolidayCache::invalidDayHasNothing()
+{
+    const MvCalendariumContentKey nowhen = keyOf(QDate());
+    QVERIFY(m_cache.holidays(nowhen.config()).isEmpty());
+    QVERIFY(m_cache.descriptions(nowhen).isEmpty());
+    QVERIFY(m_cache.tags(nowhen).isEmpty());
+    QVERIFY(!m_cache.hasHolidayOfType(nowhen, MvCalendariumHolidayType(255)));
+    QVERIFY(m_cache.eventDays(nowhen.config()).isEmpty());
+    QVERIFY(!m_cache.longestHolidayName(nowhen.config()).isValid());
+}
+
+void tst_MvCalendariumHolidayCache::longestHolidayName()
+{
+    writeOwnHolidays(R"(<holiday name="Gleich lang, aber früher" rule="03-03"/>
+        <holiday name="Gleich lang, aber später" rule="03-04"/>)");
+    m_cache.reloadData();
+    const auto longest = [this](int month) {
+        return m_cache.longestHolidayName(MvCalendariumContentConfig(QDate(2027, month, 1), bavaria(0)));
+    };
+    QCOMPARE(longest(3).description(), u"Gleich lang, aber früher"_s);
+    QCOMPARE(longest(3).date(), QDate(2027, 3, 3));
+    QCOMPARE(longest(10).description(), u"Tag der Deutschen Einheit"_s);
+    QCOMPARE(longest(7), MvCalendariumHoliday()); // July has none
+}
+
+// one table serves every year and configuration until it is dropped
+void tst_MvCalendariumHolidayCache::longestHolidayNameBelongsToTheFirstCall()
+{
+    const MvCalendariumContentConfig march2027(QDate(2027, 3, 1), bavaria());
+    const MvCalendariumContentConfig march2028(QDate(2028, 3, 1), bavaria());
+    const MvCalendariumHoliday first = m_cache.longestHolidayName(march2027);
+    QCOMPARE(first.date().year(), 2027);
+    QCOMPARE(m_cache.longestHolidayName(march2028), first);
+    const MvCalendariumContentConfig vienna(QDate(2028, 3, 1), {MvLocale(u"de_AT"_s), u"9"_s});
+    QCOMPARE(m_cache.longestHolidayName(vienna), first);
+    m_cache.reloadData();
+    QCOMPARE(m_cache.longestHolidayName(march2028).date().year(), 2028);
+}
+
+void tst_MvCalendariumHolidayCache::eventsOfAMonth()
+{
+    MvCalendarEventRegistry::instance().setEvents(
+        {entry(u"Letzter"_s, QDate(1990, 2, 28)), entry(u"März"_s, QDate(1990, 3, 1)),
+         entry(u"Erster"_s, QDate(1990, 2, 1)), entry(u"Auch"_s, QDate(1991, 2, 28))});
+    QStringList names;
+    const MvCalendarEventList events = m_cache.eventDays(MvCalendariumContentConfig(QDate(2027, 2, 14), bavaria()));
+    for (const MvCalendarEvent &event : events)
+        names.append(event.description());
+    QCOMPARE(names, (QStringList{u"Erster"_s, u"Letzter"_s, u"Auch"_s})); // by day, then in the user's order
+    QVERIFY(m_cache.eventDays(MvCalendariumContentConfig(QDate(2027, 2, 14), bavaria(FEATURE_HOLIDAYS))).isEmpty());
+}
+
+void tst_MvCalendariumHolidayCache::longestEventName()
+{
+    const MvCalendariumContentConfig february(QDate(2027, 2, 14), bavaria());
+    QCOMPARE(m_cache.longestEventName(february), MvCalendarEvent());
+    MvCalendarEventRegistry::instance().setEvents(
+        {entry(u"Kurz"_s, QDate(1990, 2, 2)), entry(u"Lang A"_s, QDate(1990, 2, 3)),
+         entry(u"Lang B"_s, QDate(1990, 2, 4)), entry(u"Sehr lang"_s, QDate(1990, 3, 4))});
+    QCOMPARE(m_cache.longestEventName(february).description(), u"Lang A"_s);
+    const MvCalendarEvent shorter = entry(u"a"_s, QDate(1990, 1, 1));
+    const MvCalendarEvent longer = entry(u"bb"_s, QDate(1990, 1, 1));
+    QVERIFY(MvCalendariumHolidayCache::hasShorterDescription(shorter, longer));
+    QVERIFY(!MvCalendariumHolidayCache::hasShorterDescription(longer, shorter));
+    QVERIFY(!MvCalendariumHolidayCache::hasShorterDescription(longer, longer));
+}
+
+void tst_MvCalendariumHolidayCache::repairsConfigurations_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("province");
+    QTest::addColumn<QString>("repairedLocale");
+    QTest::addColumn<QString>("repairedProvince");
+    QTest::newRow("fine") << u"de_AT"_s << u"9"_s << u"de_AT"_s << u"9"_s;
+    QTest::newRow("unknown province") << u"de_AT"_s << u"BY"_s << u"de_AT"_s << u"1"_s;
+    QTest::newRow("province in another case") << u"de_DE"_s << u"by"_s << u"de_DE"_s << u"BW"_s;
+    QTest::newRow("unknown language") << u"ja_JP"_s << u"BY"_s << u"de_DE"_s << u"BY"_s;
+    QTest::newRow("neither is known") << u"en_DE"_s << u"9"_s << u"de_DE"_s << u"BW"_s;
+    QTest::newRow("a country without provinces keeps what is there") << u"de_LI"_s << u"BY"_s << u"de_LI"_s << u"BY"_s;
+}
+
+void tst_MvCalendariumHolidayCache::repairsConfigurations()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, province);
+    const MvCalendariumFeatures features(7);
+    const MvCalendariumHolidayConfig valid =
+        m_cache.makeValid(MvCalendariumHolidayConfig(MvLocale(locale), province, features));
+    QTEST(valid.language().name(), "repairedLocale");
+    QTEST(valid.province(), "repairedProvince");
+    QCOMPARE(valid.features(), features);
+}
+
+void tst_MvCalendariumHolidayCache::reloadReadsDataAnew()
+{
+    const MvCalendariumContentKey key = keyOf(QDate(2027, 7, 13));
+    QVERIFY(m_cache.descriptions(key).isEmpty());
+    writeOwnHolidays(R"(<holiday name="Richtfest" rule="07-13"/>)");
+    QVERIFY(m_cache.descriptions(key).isEmpty());
+    m_cache.reloadData();
+    QCOMPARE(m_cache.descriptions(key), QStringList{u"Richtfest"_s});
+}
+
+MV_TEST_MAIN(tst_MvCalendariumHolidayCache)
+#include "tst_MvCalendariumHolidayCache.moc"

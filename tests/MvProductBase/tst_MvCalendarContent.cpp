@@ -1,0 +1,257 @@
+#include "MvProductBase/MvCalendarWordsRegistry.h"
+#include "MvProductBase/MvCalendariumContentKey.h"
+#include "MvProductBase/MvCalendariumHolidayCacheKey.h"
+#include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
+#include "MvProductBase/MvCalendariumHolidayList.h"
+
+#include "MvTest.h"
+
+using namespace Qt::StringLiterals;
+
+/// The values that say what a page shows, and its words.
+class tst_MvCalendarContent : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void featuresAreWrittenByName();
+    void holidayTypesInSets();
+    void hasFeaturesMeansAll_data();
+    void hasFeaturesMeansAll();
+    void equalityAndHashes();
+    void defaultCalendar_data();
+    void defaultCalendar();
+    void ranges_data();
+    void ranges();
+    void contentMoves();
+    void holidaysOfADay();
+    void words_data();
+    void words();
+    void wordsOutOfRange();
+    void weekOptions();
+};
+
+void tst_MvCalendarContent::featuresAreWrittenByName()
+{
+    const QString names = u"holidays, holidayColors, entries, schoolVacations, vacationNamesDaily, "
+                          "publicHolidaysOnly, calendarWeeks"_s;
+    QCOMPARE(MvCalendariumFeatures(127).encodeCSV(), names);
+    QCOMPARE(MvCalendariumFeatures(names).toInt(), 127);
+    QCOMPARE(MvCalendariumFeatures(u"Entries,unknown, calendarweeks"_s).toInt(), 68);
+    QCOMPARE(MvCalendariumHolidayType(240).encodeCSV(), u"schoolVacation, public, optional, observance"_s);
+}
+
+void tst_MvCalendarContent::holidayTypesInSets()
+{
+    const QSet<MvCalendariumHolidayType> types = {HOLIDAY_TYPE_PUBLIC, MvCalendariumHolidayType(32),
+                                                  HOLIDAY_TYPE_OPTIONAL};
+    QCOMPARE(types.size(), 2);
+    QVERIFY(types.contains(MvCalendariumHolidayType(64)));
+    QVERIFY(!types.contains(MvCalendariumHolidayType(96)));
+}
+
+void tst_MvCalendarContent::hasFeaturesMeansAll_data()
+{
+    QTest::addColumn<int>("on");
+    QTest::addColumn<int>("asked");
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("one of one") << 1 << 1 << true;
+    QTest::newRow("one of several") << 7 << 2 << true;
+    QTest::newRow("two of two") << 3 << 3 << true;
+    QTest::newRow("one of the two is off") << 5 << 3 << false;
+    QTest::newRow("none is asked for") << 0 << 0 << true;
+}
+
+void tst_MvCalendarContent::hasFeaturesMeansAll()
+{
+    QFETCH(int, on);
+    QFETCH(int, asked);
+    QFETCH(bool, answer);
+    const MvCalendariumHolidayConfig config({}, {}, MvCalendariumFeatures(on));
+    const MvCalendariumFeatures features(asked);
+    QCOMPARE(config.hasFeatures(features), answer);
+    QCOMPARE(MvCalendariumContentConfig(QDate(2027, 1, 1), config).hasFeatures(features), answer);
+
+    MvCalendariumHolidayConfig changed = config;
+    changed.setFeature(features, true);
+    QVERIFY(changed.hasFeatures(features));
+    changed.setFeature(features, false);
+    QCOMPARE(changed.features().toInt(), on & ~asked);
+}
+
+void tst_MvCalendarContent::equalityAndHashes()
+{
+    const MvCalendariumHolidayConfig base(MvLocale(u"de_DE"_s), u"BY"_s, FEATURE_HOLIDAYS);
+    MvCalendariumHolidayConfig language = base;
+    language.setLanguage(MvLocale(u"de_AT"_s));
+    MvCalendariumHolidayConfig province = base;
+    province.setProvince(u"BW"_s);
+    MvCalendariumHolidayConfig features = base;
+    features.setFeature(FEATURE_ENTRIES, true);
+    QSet<MvCalendariumHolidayCacheKey> keys;
+    for (const MvCalendariumHolidayConfig &config : {base, language, province, features}) {
+        keys.insert(MvCalendariumHolidayCacheKey(2026, config));
+        keys.insert(MvCalendariumHolidayCacheKey(2027, config));
+        keys.insert(MvCalendariumHolidayCacheKey(2027, config));
+    }
+    QCOMPARE(keys.size(), 8);
+    QVERIFY(keys.contains(MvCalendariumHolidayCacheKey(
+        2026, MvCalendariumHolidayConfig(MvLocale(u"de_DE"_s), u"BY"_s, FEATURE_HOLIDAYS))));
+
+    const MvCalendariumContentConfig day(QDate(2027, 5, 1), base);
+    const MvCalendariumContentKey key(day, MvProjectIdentifier(u"a"_s, false));
+    const QSet<MvCalendariumContentKey> days = {
+        key, MvCalendariumContentKey(day.moveToDay(QDate(2027, 5, 2)).moveToDayInMonth(1), key.project()),
+        MvCalendariumContentKey(day.moveToDay(QDate(2027, 5, 2)), key.project()),
+        MvCalendariumContentKey(day, MvProjectIdentifier(u"b"_s, false))};
+    QCOMPARE(days.size(), 3);
+
+    const MvCalendariumHolidayConfig initial = MvCalendariumHolidayConfigDefault::instance().defaultConfig();
+    QCOMPARE(initial.language().name(), u"de_DE"_s);
+    QVERIFY(!initial.province().isEmpty());
+    QVERIFY(initial.hasFeatures(MvCalendariumFeatures(1 | 2 | 4 | 64)));
+}
+
+void tst_MvCalendarContent::defaultCalendar_data()
+{
+    QTest::addColumn<QDate>("today");
+    QTest::addColumn<int>("year");
+    QTest::newRow("New Year") << QDate(2027, 1, 1) << 2027;
+    QTest::newRow("last day of January") << QDate(2027, 1, 31) << 2027;
+    QTest::newRow("first day of February") << QDate(2027, 2, 1) << 2028;
+    QTest::newRow("last day of the year") << QDate(2027, 12, 31) << 2028;
+}
+
+void tst_MvCalendarContent::defaultCalendar()
+{
+    QFETCH(QDate, today);
+    QFETCH(int, year);
+    QCOMPARE(MvDateRange::createDefaultCalendarStart(today), QDate(year, 1, 1));
+    const MvDateRange range = MvDateRange::createDefaultCalendarDateRange(today);
+    QCOMPARE(range, MvDateRange(QDate(year, 1, 1), QDate(year, 12, 31)));
+    QCOMPARE(range.monthCount(), 12);
+}
+
+void tst_MvCalendarContent::ranges_data()
+{
+    QTest::addColumn<MvDateRange>("range");
+    QTest::addColumn<int>("days");
+    QTest::addColumn<int>("months");
+    QTest::newRow("February of a leap year") << MvDateRange::monthOf(QDate(2028, 2, 29)) << 29 << 1;
+    QTest::newRow("one day") << MvDateRange(QDate(2027, 3, 31), QDate(2027, 3, 31)) << 1 << 1;
+    QTest::newRow("two days of two years") << MvDateRange(QDate(2026, 12, 31), QDate(2027, 1, 1)) << 2 << 2;
+    QTest::newRow("from the end of a month on") << MvDateRange(QDate(2027, 1, 31), QDate(2027, 3, 1)) << 30 << 3;
+    QTest::newRow("end before start") << MvDateRange(QDate(2027, 1, 2), QDate(2027, 1, 1)) << 0 << 0;
+    QTest::newRow("no start") << MvDateRange(QDate(), QDate(2027, 1, 1)) << 0 << 0;
+    QTest::newRow("month of no day") << MvDateRange::monthOf(QDate()) << 0 << 0;
+}
+
+void tst_MvCalendarContent::ranges()
+{
+    QFETCH(MvDateRange, range);
+    QFETCH(int, days);
+    QFETCH(int, months);
+    QCOMPARE(range.isValid(), days > 0);
+    QCOMPARE(range.dayCount(), days);
+    QCOMPARE(range.lastIndexEvenIfUnvalid(), range.firstIndex() + days - 1);
+    QCOMPARE(range.dayAt(range.firstIndex()), days > 0 ? range.start() : QDate());
+    QCOMPARE(range.dayAt(range.lastIndexEvenIfUnvalid()), days > 0 ? range.end() : QDate());
+    QVERIFY(!range.dayAt(range.lastIndexEvenIfUnvalid() + 1).isValid());
+    QVERIFY(!range.dayAt(range.firstIndex() - 1).isValid());
+    QCOMPARE(range.contains(range.end()), days > 0);
+    QVERIFY(!range.contains(range.end().addDays(1)) && !range.contains(QDate()));
+    QCOMPARE(range.monthCount(), months);
+    QVERIFY(!range.monthAt(months).isValid());
+    if (months > 0)
+        QCOMPARE(range.monthAt(months - 1), QDate(range.end().year(), range.end().month(), 1));
+}
+
+void tst_MvCalendarContent::contentMoves()
+{
+    MvCalendariumContentConfig config(QDate(2027, 2, 17), MvCalendariumHolidayConfig(MvLocale(u"fr_CH"_s), u"GE"_s));
+    config.setCalendarWeekTextOption(MvCalendarWeekTextOption(u"S%1"_s));
+    const MvCalendariumContentConfig first = config.moveToDayInMonth(1);
+    QCOMPARE(first.date(), QDate(2027, 2, 1));
+    QCOMPARE(config.date(), QDate(2027, 2, 17));
+    QCOMPARE(first.holidayConfig(), config.holidayConfig());
+    QCOMPARE(first.calendarWeekTextOption().textInProduct(first.language()), u"S%1"_s);
+    QVERIFY(!config.moveToDayInMonth(29).isValid());
+    QCOMPARE(config.dayRange(), MvDateRange(QDate(2027, 2, 1), QDate(2027, 2, 28)));
+
+    const MvCalendariumContentConfig nothing;
+    QVERIFY(!nothing.isValid() && !nothing.moveToDayInMonth(1).isValid() && !nothing.dayRange().isValid());
+    QCOMPARE(nothing.language().name(), u"de_DE"_s);
+}
+
+void tst_MvCalendarContent::holidaysOfADay()
+{
+    const QDate day(2026, 5, 1);
+    const MvCalendariumHolidayList list = {{HOLIDAY_TYPE_PUBLIC, day, u"A"_s},
+                                           {HOLIDAY_TYPE_PUBLIC, day.addYears(1), u"B"_s},
+                                           {HOLIDAY_TYPE_SCHOOL_VACATION, day, QString()}};
+    const MvCalendariumHolidayList found = list.filter(day);
+    QCOMPARE(found.size(), 2);
+    QCOMPARE(found.last().type(), MvCalendariumHolidayType(HOLIDAY_TYPE_SCHOOL_VACATION));
+    QVERIFY(list.filter(QDate()).isEmpty());
+    QVERIFY(!MvCalendariumHoliday().isValid());
+}
+
+void tst_MvCalendarContent::words_data()
+{
+    QTest::addColumn<MvLocale>("language");
+    QTest::addColumn<QString>("shortDays");
+    QTest::addColumn<QString>("shortMonths");
+    QTest::addColumn<QString>("first"); // Monday, January, week
+    QTest::newRow("German") << MvLocale(u"de_DE"_s) << u"Mo Di Mi Do Fr Sa So"_s
+                            << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s << u"Montag Januar KW"_s;
+    QTest::newRow("German in Austria") << MvLocale(u"de_AT"_s) << u"Mo Di Mi Do Fr Sa So"_s
+                                       << u"Jän Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s << u"Montag Jänner KW"_s;
+    QTest::newRow("French") << MvLocale(u"fr_CH"_s) << u"lun mar mer jeu ven sam dim"_s
+                            << u"janv févr mars avr mai juin juil août sept oct nov déc"_s << u"lundi janvier Sem"_s;
+    QTest::newRow("Polish: months in the nominative")
+        << MvLocale(u"pl_PL"_s) << u"pon wt śr czw pt sob niedz"_s
+        << u"sty lut mar kwi maj cze lip sie wrz paź lis gru"_s << u"poniedziałek styczeń Tydz"_s;
+    QTest::newRow("none: German") << MvLocale() << u"Mo Di Mi Do Fr Sa So"_s
+                                  << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s << u"Montag Januar KW"_s;
+}
+
+void tst_MvCalendarContent::words()
+{
+    QFETCH(MvLocale, language);
+    const MvCalendarWordsRegistry &registry = MvCalendarWordsRegistry::instance();
+    QStringList days;
+    for (int day = 1; day <= 7; ++day)
+        days.append(registry.dayName(language, day, true));
+    QStringList months;
+    for (int month = 1; month <= 12; ++month)
+        months.append(registry.monthNameShort(language, month));
+    const QStringList first = {registry.dayName(language, 1, false), registry.monthNameLong(language, 1),
+                               registry.weekShort(language)};
+    QTEST(days.join(u' '), "shortDays");
+    QTEST(months.join(u' '), "shortMonths");
+    QTEST(first.join(u' '), "first");
+}
+
+void tst_MvCalendarContent::wordsOutOfRange()
+{
+    const MvCalendarWordsRegistry &registry = MvCalendarWordsRegistry::instance();
+    const MvLocale german(u"de_DE"_s);
+    for (const int number : {-1, 0, 13}) {
+        QVERIFY(registry.dayName(german, number, true).isEmpty() && registry.dayName(german, number, false).isEmpty());
+        QVERIFY(registry.monthNameShort(german, number).isEmpty() && registry.monthNameLong(german, number).isEmpty());
+    }
+    QVERIFY(registry.dayName(german, 8, true).isEmpty());
+    QCOMPARE(registry.weekShort(MvLocale(u"ja_JP"_s)), u"W"_s);
+}
+
+void tst_MvCalendarContent::weekOptions()
+{
+    const MvLocale german(u"de_AT"_s);
+    QCOMPARE(MvCalendarWeekHeadlineOption().textInProduct(german), u"KW"_s);
+    QCOMPARE(MvCalendarWeekHeadlineOption(u"Woche"_s).textInProduct(german), u"Woche"_s);
+    QCOMPARE(MvCalendarWeekTextOption().textInProduct(german).arg(9), u"9"_s);
+    QCOMPARE(MvCalendarWeekTextOption(u"KW %1"_s).textInProduct(german).arg(53), u"KW 53"_s);
+}
+
+MV_TEST_MAIN(tst_MvCalendarContent)
+#include "tst_MvCalendarContent.moc"

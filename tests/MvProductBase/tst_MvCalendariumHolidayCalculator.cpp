@@ -1,0 +1,288 @@
+#include "MvProductBase/MvCalendariumHolidayCalculator.h"
+
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvTest.h"
+
+#include <QDir>
+#include <QThread>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const MvCalendariumHolidayCalculator &calculator()
+{
+    return MvCalendariumHolidayCalculator::instance();
+}
+
+MvCalendariumHolidayList holidays(int year, const QString &locale, const QString &region, int features = 0)
+{
+    return calculator().holidaysOfYear(MvCalendariumHolidayCacheKey(
+        year, MvCalendariumHolidayConfig(MvLocale(locale), region, MvCalendariumFeatures(features))));
+}
+
+QStringList textsOn(const MvCalendariumHolidayList &list, const QDate &day)
+{
+    QStringList texts;
+    const MvCalendariumHolidayList found = list.filter(day);
+    for (const MvCalendariumHoliday &holiday : found)
+        texts.append(holiday.description());
+    return texts;
+}
+
+} // namespace
+
+/// The calculator with the data that is shipped.
+class tst_MvCalendariumHolidayCalculator : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyCountryIsSound_data();
+    void everyCountryIsSound();
+    void countriesAndRegions();
+    void findsProvinces_data();
+    void findsProvinces();
+    void days_data();
+    void days();
+    void schoolVacations_data();
+    void schoolVacations();
+    void worksWithoutShareAlikeData();
+    void ownFileCountsAfterReload();
+    void answersManyThreads();
+};
+
+void tst_MvCalendariumHolidayCalculator::everyCountryIsSound_data()
+{
+    QTest::addColumn<QString>("locale");
+    const QList<MvLocale> locales = calculator().availableLanguages();
+    for (const MvLocale &locale : locales)
+        QTest::addRow("%s", qPrintable(locale.name())) << locale.name();
+}
+
+// a data file with an error warns, and a warning fails the test
+void tst_MvCalendariumHolidayCalculator::everyCountryIsSound()
+{
+    QFETCH(QString, locale);
+    const QStringList regions = calculator().availableProvinces(MvLocale(locale)) + QStringList{QString()};
+    for (const QString &region : regions) {
+        for (const int year : {1800, 1945, 1995, 2026, 2027, 2605}) {
+            const MvCalendariumHolidayList list = holidays(year, locale, region, FEATURE_SCHOOL_VACATIONS);
+            QVERIFY(!list.isEmpty());
+            QSet<std::pair<QDate, QString>> seen;
+            QDate last(year, 1, 1);
+            for (const MvCalendariumHoliday &holiday : list) {
+                QVERIFY(holiday.isValid());
+                QCOMPARE(holiday.date().year(), year);
+                QVERIFY(holiday.date() >= last);
+                const bool isVacation = holiday.type() == HOLIDAY_TYPE_SCHOOL_VACATION;
+                QVERIFY(isVacation || !holiday.description().isEmpty());
+                const auto before = seen.size();
+                seen.insert({holiday.date(), holiday.description()});
+                QVERIFY2(seen.size() > before || isVacation, qPrintable(holiday.description()));
+                last = holiday.date();
+            }
+            const MvCalendariumHolidayList publicOnly = holidays(year, locale, region, FEATURE_PUBLIC_HOLIDAYS_ONLY);
+            QVERIFY(std::all_of(publicOnly.cbegin(), publicOnly.cend(), [](const MvCalendariumHoliday &holiday) {
+                return holiday.type() == HOLIDAY_TYPE_PUBLIC;
+            }));
+            const bool isWhole = !region.isEmpty() || regions.size() == 1; // some countries have few days in common
+            QVERIFY2(year < 1990 || publicOnly.size() >= (isWhole ? 5 : 1), qPrintable(region));
+        }
+    }
+}
+
+void tst_MvCalendariumHolidayCalculator::countriesAndRegions()
+{
+    QStringList names;
+    const QList<MvLocale> locales = calculator().availableLanguages();
+    for (const MvLocale &locale : locales)
+        names.append(locale.name());
+    QCOMPARE(names, u"de_DE de_AT de_CH fr_CH it_CH nl_BE fr_BE de_BE bg_BG da_DK fi_FI fr_FR el_GR en_IE it_IT de_IT "
+                    "en_CA fr_CA hr_HR de_LI fr_LU de_LU lb_LU nl_NL no_NO pl_PL pt_PT ro_RO sv_SE sk_SK sl_SI es_ES "
+                    "ca_ES cs_CZ hu_HU en_US en_GB"_s.split(u' '));
+
+    QCOMPARE(calculator().availableProvinces(MvLocale(u"de_DE"_s)).size(), 19);
+    QCOMPARE(calculator().availableProvinces(MvLocale(u"fr_CH"_s)).size(), 26);
+    QCOMPARE(calculator().availableProvinces(MvLocale(u"de_LI"_s)), QStringList());
+    QCOMPARE(calculator().availableProvinces(MvLocale(u"ja_JP"_s)), QStringList());
+    QCOMPARE(calculator().provinceName(MvLocale(u"de_DE"_s), u"BY-A"_s), u"Bayern (Stadt Augsburg)"_s);
+    QCOMPARE(calculator().provinceName(MvLocale(u"de_CH"_s), u"GE"_s), u"Genf"_s);
+    QCOMPARE(calculator().provinceName(MvLocale(u"fr_CH"_s), u"GE"_s), u"Genève"_s);
+    QCOMPARE(calculator().provinceName(MvLocale(u"de_DE"_s), u"ZH"_s), QString());
+    QVERIFY(holidays(2026, u"ja_JP"_s, QString()).isEmpty());
+}
+
+void tst_MvCalendariumHolidayCalculator::findsProvinces_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("code");
+    QTest::newRow("code") << u"de_DE"_s << u"BY"_s << u"BY"_s;
+    QTest::newRow("code in lower case") << u"de_DE"_s << u"by-a"_s << u"BY-A"_s;
+    QTest::newRow("name") << u"de_DE"_s << u"baden-württemberg"_s << u"BW"_s;
+    QTest::newRow("a code that is a number") << u"de_AT"_s << u"9"_s << u"9"_s;
+    QTest::newRow("name of it") << u"de_AT"_s << u"Wien"_s << u"9"_s;
+    QTest::newRow("local name") << u"de_CH"_s << u"genève"_s << u"GE"_s;
+    QTest::newRow("part of a name") << u"de_DE"_s << u"Württemberg"_s << QString();
+    QTest::newRow("nothing") << u"de_DE"_s << QString() << QString();
+}
+
+void tst_MvCalendariumHolidayCalculator::findsProvinces()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, text);
+    QTEST(calculator().findProvince(MvLocale(locale), text), "code");
+}
+
+void tst_MvCalendariumHolidayCalculator::days_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<QStringList>("texts");
+    const QDate assumption(2026, 8, 15);
+    const QDate peace(2026, 8, 8);
+    QTest::newRow("BY: Assumption") << u"de_DE"_s << u"BY"_s << assumption << QStringList{u"Mariä Himmelfahrt"_s};
+    QTest::newRow("BW: none") << u"de_DE"_s << u"BW"_s << assumption << QStringList();
+    QTest::newRow("Augsburg: its own") << u"de_DE"_s << u"BY-A"_s << peace
+                                       << QStringList{u"Augsburger Hohes Friedensfest"_s};
+    QTest::newRow("Augsburg: that of Bavaria")
+        << u"de_DE"_s << u"BY-A"_s << assumption << QStringList{u"Mariä Himmelfahrt"_s};
+    QTest::newRow("BY: not that of Augsburg") << u"de_DE"_s << u"BY"_s << peace << QStringList();
+    QTest::newRow("two holidays on one day")
+        << u"de_DE"_s << u"NW"_s << QDate(2008, 5, 1) << QStringList{u"Tag der Arbeit"_s, u"Christi Himmelfahrt"_s};
+    QTest::newRow("4th Advent on Christmas Eve")
+        << u"de_DE"_s << u"NW"_s << QDate(2028, 12, 24) << QStringList{u"4. Advent"_s, u"Heiligabend"_s};
+    QTest::newRow("500 years of the Reformation, everywhere")
+        << u"de_DE"_s << u"BY"_s << QDate(2017, 10, 31) << QStringList{u"Reformationstag"_s};
+    QTest::newRow("and only then") << u"de_DE"_s << u"BY"_s << QDate(2018, 10, 31) << QStringList();
+    QTest::newRow("1990 had two days of unity: the old")
+        << u"de_DE"_s << u"NW"_s << QDate(1990, 6, 17) << QStringList{u"Tag der deutschen Einheit"_s};
+    QTest::newRow("and the new") << u"de_DE"_s << u"NW"_s << QDate(1990, 10, 3)
+                                 << QStringList{u"Tag der Deutschen Einheit"_s};
+    QTest::newRow("Easter Sunday in Brandenburg stands once")
+        << u"de_DE"_s << u"BB"_s << QDate(2026, 4, 5) << QStringList{u"Ostersonntag"_s};
+    QTest::newRow("French in the Jura") << u"fr_CH"_s << u"JU"_s << QDate(2026, 8, 1)
+                                        << QStringList{u"Fête nationale"_s};
+    QTest::newRow("a Saturday's Friday lies in the old year")
+        << u"en_US"_s << QString() << QDate(2027, 12, 31)
+        << QStringList{u"New Year's Day (observed)"_s, u"New Year's Eve"_s};
+}
+
+void tst_MvCalendariumHolidayCalculator::days()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, region);
+    QFETCH(QDate, day);
+    QTEST(textsOn(holidays(day.year(), locale, region), day), "texts");
+}
+
+// as published by the ministries of the Länder
+void tst_MvCalendariumHolidayCalculator::schoolVacations_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<QDate>("first");
+    QTest::addColumn<QDate>("last");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("BY, summer") << u"de_DE"_s << u"BY"_s << QDate(2026, 8, 3) << QDate(2026, 9, 14)
+                                << u"Sommerferien"_s;
+    QTest::newRow("NW, summer") << u"de_DE"_s << u"NW"_s << QDate(2026, 7, 20) << QDate(2026, 9, 1)
+                                << u"Sommerferien"_s;
+    QTest::newRow("part of a Land") << u"de_DE"_s << u"SN-K"_s << QDate(2026, 7, 4) << QDate(2026, 8, 14)
+                                    << u"Sommerferien"_s;
+}
+
+void tst_MvCalendariumHolidayCalculator::schoolVacations()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, region);
+    QFETCH(QDate, first);
+    QFETCH(QDate, last);
+    QFETCH(QString, name);
+    const auto named = [&](int features) {
+        const MvCalendariumHolidayList list = holidays(first.year(), locale, region, features);
+        QList<QDate> days;
+        for (const MvCalendariumHoliday &holiday : list) {
+            if (holiday.type() == HOLIDAY_TYPE_SCHOOL_VACATION && holiday.description() == name)
+                days.append(holiday.date());
+        }
+        return days;
+    };
+    QCOMPARE(named(FEATURE_SCHOOL_VACATIONS), QList<QDate>{first});
+    const QList<QDate> daily = named(FEATURE_SCHOOL_VACATIONS | FEATURE_VACATION_NAMES_DAILY);
+    QCOMPARE(daily.size(), first.daysTo(last) + 1);
+    QCOMPARE(daily.first(), first);
+    QCOMPARE(daily.last(), last);
+    QVERIFY(named(FEATURE_VACATION_NAMES_DAILY).isEmpty());
+}
+
+void tst_MvCalendariumHolidayCalculator::worksWithoutShareAlikeData()
+{
+    const auto finder = [](const QString &name) {
+        return name.contains("-odbl"_L1) ? QFileInfo(u":/nowhere"_s) : MvDirectoryConfig::instance().resource(name);
+    };
+    const MvHolidayBook book(finder, QFileInfo());
+    const MvLocale germany(u"de_DE"_s);
+    QCOMPARE(book.vacationsKnownUntil(germany, u"NW"_s), QDate(2029, 8, 14));
+    QVERIFY(calculator().vacationsKnownUntil(germany, u"NW"_s) > QDate(2030, 6, 1));
+    QVERIFY(!book.vacationsKnownUntil(MvLocale(u"de_CH"_s), u"ZH"_s).isValid());
+    const MvCalendariumHolidayConfig zurich(MvLocale(u"de_CH"_s), u"ZH"_s, FEATURE_SCHOOL_VACATIONS);
+    QVERIFY(!book.holidaysOfYear(MvCalendariumHolidayCacheKey(2027, zurich)).isEmpty());
+}
+
+void tst_MvCalendariumHolidayCalculator::ownFileCountsAfterReload()
+{
+    const QFileInfo file = MvDirectoryConfig::instance().programDataFile(u"my-holidays.xml"_s);
+    QVERIFY(QDir().mkpath(file.absolutePath()));
+    QFile own(file.filePath());
+    QVERIFY(own.open(QIODevice::WriteOnly));
+    own.write("<MyHolidays><country code=\"DE\"><holiday name=\"Firmenjubil\xc3\xa4um\" rule=\"03-17\"/>"
+              "<remove name=\"Valentinstag\"/></country></MyHolidays>");
+    own.close();
+
+    const QDate jubilee(2026, 3, 17);
+    const QDate valentine(2026, 2, 14);
+    QVERIFY(textsOn(holidays(2026, u"de_DE"_s, u"NW"_s), jubilee).isEmpty());
+    MvCalendariumHolidayCalculator::instance().reloadData();
+    const MvCalendariumHolidayList changed = holidays(2026, u"de_DE"_s, u"NW"_s);
+    QVERIFY(own.remove());
+    MvCalendariumHolidayCalculator::instance().reloadData();
+    QCOMPARE(textsOn(changed, jubilee), QStringList{u"Firmenjubiläum"_s});
+    QVERIFY(!textsOn(changed, valentine).contains(u"Valentinstag"_s));
+    QVERIFY(textsOn(holidays(2026, u"de_DE"_s, u"NW"_s), valentine).contains(u"Valentinstag"_s));
+}
+
+// for the thread sanitizer; without it, for crashes
+void tst_MvCalendariumHolidayCalculator::answersManyThreads()
+{
+    const QStringList locales = {u"de_DE"_s, u"de_AT"_s, u"fr_CH"_s, u"en_GB"_s};
+    const MvCalendariumHolidayList expected = holidays(2027, u"de_DE"_s, u"BY"_s);
+    std::atomic<int> wrong = 0;
+    QList<QThread *> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.append(QThread::create([&] {
+            for (int round = 0; round < 20; ++round) {
+                for (const QString &locale : locales)
+                    holidays(2027, locale, QString(), FEATURE_SCHOOL_VACATIONS);
+                if (!(holidays(2027, u"de_DE"_s, u"BY"_s) == expected))
+                    ++wrong;
+            }
+        }));
+        threads.last()->start();
+    }
+    for (int i = 0; i < 3; ++i)
+        MvCalendariumHolidayCalculator::instance().reloadData();
+    for (QThread *thread : std::as_const(threads)) {
+        QVERIFY(thread->wait());
+        delete thread;
+    }
+    QCOMPARE(wrong.load(), 0);
+}
+
+MV_TEST_MAIN(tst_MvCalendariumHolidayCalculator)
+#include "tst_MvCalendariumHolidayCalculator.moc"

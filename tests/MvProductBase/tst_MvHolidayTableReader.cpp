@@ -1,0 +1,344 @@
+#include "MvProductBase/MvHolidayBook.h"
+#include "MvProductBase/MvHolidayTableReader.h"
+
+#include "MvTest.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QByteArray regions = R"xml(
+  <region code="N" name="Norden" localName="Nord" language="xx"/>
+  <region code="S" name="Süden"/>
+  <region code="S-K" name="Süden (Kurort)" parent="S"/>)xml";
+
+QByteArray tableFile(const QByteArray &holidays)
+{
+    return R"(<HolidayTable country="ZZ" name="Land" language="de">)" + regions + holidays + "</HolidayTable>";
+}
+
+QByteArray vacationFile(const QByteArray &vacations)
+{
+    return R"(<SchoolVacations country="ZZ">)" + vacations + "</SchoolVacations>";
+}
+
+QByteArray ownFile(const QByteArray &elements)
+{
+    return R"(<MyHolidays><country code="zz">)" + elements + "</country></MyHolidays>";
+}
+
+} // namespace
+
+class tst_MvHolidayTableReader : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_folder.isValid()); }
+    void init();
+
+    void entries_data();
+    void entries();
+    void sameDay();
+    void names_data();
+    void names();
+    void vacations_data();
+    void vacations();
+    void vacationsKnownUntil();
+    void brokenFiles_data();
+    void brokenFiles();
+    void ownFile_data();
+    void ownFile();
+    void ownFileWithErrors();
+    void regionsThatBelongToEachOther();
+
+private:
+    QFileInfo write(const QString &name, const QByteArray &content) const;
+    MvHolidayBook book() const;
+    /// "0101 Neujahr" for each day of 2026 in the region.
+    QStringList days(const QString &region, const MvCalendariumFeatures &features = {}, int year = 2026,
+                     const QString &language = u"de"_s) const;
+
+    QTemporaryDir m_folder;
+};
+
+void tst_MvHolidayTableReader::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    QDir(m_folder.path()).removeRecursively();
+    QDir().mkpath(m_folder.path());
+    write(u"countries.xml"_s,
+          R"(<HolidayCountries><country code="ZZ" name="Land" languages="de xx"/></HolidayCountries>)");
+}
+
+QFileInfo tst_MvHolidayTableReader::write(const QString &name, const QByteArray &content) const
+{
+    QFile file(m_folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write a test file");
+    return QFileInfo(file.fileName());
+}
+
+MvHolidayBook tst_MvHolidayTableReader::book() const
+{
+    return MvHolidayBook([this](const QString &name) { return QFileInfo(m_folder.filePath(name.section(u'/', -1))); },
+                         QFileInfo(m_folder.filePath(u"my-holidays.xml"_s)));
+}
+
+QStringList tst_MvHolidayTableReader::days(const QString &region, const MvCalendariumFeatures &features, int year,
+                                           const QString &language) const
+{
+    const MvCalendariumHolidayConfig config(MvLocale(language, u"ZZ"_s), region, features);
+    QStringList texts;
+    const MvCalendariumHolidayList found = book().holidaysOfYear(MvCalendariumHolidayCacheKey(year, config));
+    for (const MvCalendariumHoliday &holiday : found)
+        texts.append(holiday.date().toString(u"MMdd "_s) + holiday.description());
+    return texts;
+}
+
+void tst_MvHolidayTableReader::entries_data()
+{
+    QTest::addColumn<QByteArray>("holiday");
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<int>("year");
+    QTest::addColumn<QStringList>("expected");
+
+    const QByteArray national = R"(<holiday name="Tag" type="public" rule="06-01"/>)";
+    const QByteArray southern = R"(<holiday name="Tag" type="public" rule="06-01" regions="S"/>)";
+    const QByteArray limited = R"(<holiday name="Tag" rule="06-01" from="2000" until="2010" except="2005 2006"/>)";
+    const QByteArray crossing = R"(<holiday name="Tag" rule="01-01 -1" from="2027" until="2027"/>)";
+    const QStringList day = {u"0601 Tag"_s};
+    QTest::newRow("the whole country, in a region") << national << u"N"_s << 2026 << day;
+    QTest::newRow("the whole country, without a region") << national << QString() << 2026 << day;
+    QTest::newRow("the whole country, in an unknown region") << national << u"Mond"_s << 2026 << day;
+    QTest::newRow("a region") << southern << u"S"_s << 2026 << day;
+    QTest::newRow("another region") << southern << u"N"_s << 2026 << QStringList();
+    QTest::newRow("a region, asked without one") << southern << QString() << 2026 << QStringList();
+    QTest::newRow("a part inherits from its region") << southern << u"S-K"_s << 2026 << day;
+    QTest::newRow("a region inherits nothing from its part")
+        << QByteArray(R"(<holiday name="Tag" rule="06-01" regions="S-K"/>)") << u"S"_s << 2026 << QStringList();
+    QTest::newRow("before its first year") << limited << QString() << 1999 << QStringList();
+    QTest::newRow("in its first year") << limited << QString() << 2000 << day;
+    QTest::newRow("in an excepted year") << limited << QString() << 2006 << QStringList();
+    QTest::newRow("in its last year") << limited << QString() << 2010 << day;
+    QTest::newRow("after its last year") << limited << QString() << 2011 << QStringList();
+    QTest::newRow("the year of the rule counts, not that of the day")
+        << crossing << QString() << 2026 << QStringList{u"1231 Tag"_s};
+    QTest::newRow("the day is not in the year of its rule") << crossing << QString() << 2027 << QStringList();
+    QTest::newRow("a day moved into the next year") << QByteArray(R"(<holiday name="Tag" rule="12-26 next mon +7"/>)")
+                                                    << QString() << 2027 << QStringList{u"0104 Tag"_s};
+}
+
+void tst_MvHolidayTableReader::entries()
+{
+    QFETCH(QByteArray, holiday);
+    QFETCH(QString, region);
+    QFETCH(int, year);
+    write(u"ZZ.xml"_s, tableFile(holiday));
+    QTEST(days(region, {}, year), "expected");
+}
+
+void tst_MvHolidayTableReader::sameDay()
+{
+    write(u"ZZ.xml"_s, tableFile(R"(
+        <holiday name="Gedenktag" type="observance" rule="06-01"/>
+        <holiday name="Doppelt" type="observance" rule="06-01"/>
+        <holiday name="Doppelt" type="public" rule="06-01" regions="S"/>
+        <holiday name="Schulfrei" type="optional" rule="06-01"/>
+        <holiday name="Feiertag" type="public" rule="06-01"/>
+        <holiday name="Zuvor" type="observance" rule="05-31"/>)"));
+    write(u"vacations-ZZ.xml"_s, vacationFile(R"(
+        <region code="S"><vacation name="Ferien" start="2026-06-01" end="2026-06-02"/></region>)"));
+    const QStringList expected = {u"0531 Zuvor"_s,     u"0601 Doppelt"_s, u"0601 Feiertag"_s, u"0601 Schulfrei"_s,
+                                  u"0601 Gedenktag"_s, u"0601 Ferien"_s,  u"0602 "_s};
+    QCOMPARE(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), expected);
+    QCOMPARE(days(u"S"_s, FEATURE_PUBLIC_HOLIDAYS_ONLY), (QStringList{u"0601 Doppelt"_s, u"0601 Feiertag"_s}));
+}
+
+void tst_MvHolidayTableReader::names_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<QStringList>("expected");
+    QTest::newRow("the country's language") << u"de"_s << u"N"_s << QStringList{u"0101 Neujahr"_s, u"0102 Nur so"_s};
+    QTest::newRow("another one") << u"fr"_s << u"S"_s << QStringList{u"0101 Nouvel An"_s, u"0102 Nur so"_s};
+    QTest::newRow("not known: that of the region") << u"en"_s << u"N"_s << QStringList{u"0101 Xx"_s, u"0102 Nur so"_s};
+    QTest::newRow("neither is known") << u"en"_s << u"S"_s << QStringList{u"0101 Neujahr"_s, u"0102 Nur so"_s};
+}
+
+void tst_MvHolidayTableReader::names()
+{
+    write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Nur so" rule="01-02"/><holiday name="Neujahr" rule="01-01">
+        <name language="fr" text="Nouvel An"/><name language="xx" text="Xx"/></holiday>)"));
+    QFETCH(QString, language);
+    QFETCH(QString, region);
+    QTEST(days(region, {}, 2026, language), "expected");
+}
+
+void tst_MvHolidayTableReader::vacations_data()
+{
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<int>("year");
+    QTest::addColumn<int>("features");
+    QTest::addColumn<QStringList>("expected");
+    const int shown = FEATURE_SCHOOL_VACATIONS;
+    const int daily = FEATURE_SCHOOL_VACATIONS | FEATURE_VACATION_NAMES_DAILY;
+    QTest::newRow("not asked for") << u"S"_s << 2026 << int(FEATURE_HOLIDAYS) << QStringList();
+    QTest::newRow("another region") << u"N"_s << 2026 << shown << QStringList();
+    QTest::newRow("without a region") << QString() << 2026 << shown << QStringList();
+    QTest::newRow("old year: its first day is named")
+        << u"S"_s << 2026 << shown << QStringList{u"1230 Winter"_s, u"1231 "_s};
+    QTest::newRow("new year: it goes on without a name")
+        << u"S"_s << 2027 << shown << QStringList{u"0101 "_s, u"0102 "_s};
+    QTest::newRow("named on every day") << u"S"_s << 2027 << daily << QStringList{u"0101 Winter"_s, u"0102 Winter"_s};
+    QTest::newRow("a part of the region") << u"S-K"_s << 2027 << shown << QStringList{u"0101 "_s, u"0102 "_s};
+    QTest::newRow("two spans that meet or overlap are one, another name starts anew")
+        << u"S"_s << 2028 << shown
+        << QStringList{u"0701 Sommer"_s, u"0702 "_s, u"0703 "_s, u"0704 "_s, u"0705 Hitzefrei"_s};
+    QTest::newRow("starting on New Year's Day") << u"S"_s << 2030 << shown << QStringList{u"0101 Winter"_s};
+}
+
+void tst_MvHolidayTableReader::vacations()
+{
+    write(u"ZZ.xml"_s, tableFile({}));
+    write(u"vacations-ZZ.xml"_s, vacationFile(R"(<region code="S">
+        <vacation name="Winter" start="2026-12-30" end="2027-01-02"/>
+        <vacation name="Sommer" start="2028-07-01" end="2028-07-02"/>
+        <vacation name="Hitzefrei" start="2028-07-05" end="2028-07-05"/>
+        <vacation name="Winter" start="2030-01-01" end="2030-01-01"/></region>)"));
+    write(u"vacations-ZZ-odbl.xml"_s, vacationFile(R"(<region code="S">
+        <vacation name="Sommer" start="2028-07-02" end="2028-07-03"/>
+        <vacation name="Sommer" start="2028-07-04" end="2028-07-04"/></region>)"));
+    QFETCH(QString, region);
+    QFETCH(int, year);
+    QFETCH(int, features);
+    QTEST(days(region, MvCalendariumFeatures(features), year), "expected");
+}
+
+void tst_MvHolidayTableReader::vacationsKnownUntil()
+{
+    write(u"ZZ.xml"_s, tableFile({}));
+    write(u"vacations-ZZ.xml"_s, vacationFile(R"xml(<region code="S">
+        <vacation name="Sommer" start="2028-07-01" end="2028-08-02"/>
+        <vacation name="Winter" start="2027-12-24" end="2028-01-02"/>
+        <vacation name="Buß- und Bettag (schulfrei)" start="2030-11-20" end="2030-11-20"/></region>)xml"));
+    const MvLocale land(u"de_ZZ"_s);
+    QCOMPARE(book().vacationsKnownUntil(land, u"S"_s), QDate(2028, 8, 2));
+    QCOMPARE(book().vacationsKnownUntil(land, u"S-K"_s), QDate(2028, 8, 2));
+    QVERIFY(!book().vacationsKnownUntil(land, u"N"_s).isValid());
+}
+
+void tst_MvHolidayTableReader::brokenFiles_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("warning"); // a pattern
+    QTest::addColumn<QStringList>("rest");
+
+    const QByteArray good = "\n<holiday name=\"Gut\" rule=\"06-01\"/>";
+    const QStringList rest = {u"0601 Gut"_s};
+    const auto table = [&](const char *name, const QByteArray &bad, const QString &warning) {
+        QTest::newRow(name) << u"ZZ.xml"_s << tableFile("\n" + bad + good) << u"ZZ\\.xml:5: .*"_s + warning << rest;
+    };
+    table("bad rule", R"(<holiday name="Schlecht" rule="06-31"/>)", u"Schlecht.*06-31"_s);
+    table("no name", R"(<holiday rule="06-02"/>)", u"Namen"_s);
+    table("unknown type", R"(<holiday name="Schlecht" type="holy" rule="06-02"/>)", u"Schlecht"_s);
+    table("vacation as a type", R"(<holiday name="Schlecht" type="schoolVacation" rule="06-02"/>)", u"Schlecht"_s);
+    table("no year", R"(<holiday name="Schlecht" rule="06-02" from="früher"/>)", u"früher"_s);
+    table("no year excepted", R"(<holiday name="Schlecht" rule="06-02" except="2026 bald"/>)", u"bald"_s);
+    table("unknown region", R"(<holiday name="Schlecht" rule="06-02" regions="S O"/>)", u"O"_s);
+    table("region twice", R"(<region code="S" name="Noch einmal"/>)", u"Kennung"_s);
+    table("several errors, one warning", R"(<holiday/><holiday/><holiday/>)", u"2 weitere"_s);
+
+    QTest::newRow("cut file") << u"ZZ.xml"_s << tableFile(good).chopped(9) << u"ZZ\\.xml:\\d+:\\d+: "_s
+                              << QStringList();
+    QTest::newRow("empty file") << u"ZZ.xml"_s << QByteArray() << u"ZZ\\.xml:"_s << QStringList();
+    QTest::newRow("something else") << u"ZZ.xml"_s << QByteArray("<svg/>") << u"ZZ\\.xml:1: .*svg"_s << QStringList();
+    QTest::newRow("cut vacations leave the holidays alone")
+        << u"vacations-ZZ.xml"_s << QByteArray("<SchoolVacations><region>") << u"vacations-ZZ\\.xml:"_s << rest;
+    for (const char *bad : {R"(start="2026-02-30" end="2026-03-01")", R"(start="2026-03-02" end="2026-03-01")",
+                            R"(start="2026-01-01" end="2206-01-01")", R"(start="2026-03-01")"}) {
+        QTest::addRow("vacation: %s", bad)
+            << u"vacations-ZZ.xml"_s
+            << vacationFile("<region code=\"S\"><vacation name=\"F\" " + QByteArray(bad) + "/></region>")
+            << u"vacations-ZZ\\.xml:1: "_s << rest;
+    }
+    QTest::newRow("cut own file") << u"my-holidays.xml"_s << QByteArray("<MyHolidays>") << u"my-holidays\\.xml:"_s
+                                  << rest;
+}
+
+void tst_MvHolidayTableReader::brokenFiles()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, warning);
+    write(u"ZZ.xml"_s, tableFile("<holiday name=\"Gut\" rule=\"06-01\"/>"));
+    write(file, content);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning)); // once: a second warning fails the test
+    QTEST(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), "rest");
+}
+
+void tst_MvHolidayTableReader::ownFile_data()
+{
+    QTest::addColumn<QByteArray>("own");
+    QTest::addColumn<QStringList>("north");
+    QTest::addColumn<QStringList>("south");
+    const QStringList shipped = {u"0601 Erster"_s, u"0602 Zweiter"_s};
+    QTest::newRow("nothing") << ::ownFile({}) << shipped << shipped;
+    QTest::newRow("another country")
+        << QByteArray(R"(<MyHolidays><country code="AA"><remove name="Erster"/></country></MyHolidays>)") << shipped
+        << shipped;
+    QTest::newRow("added") << ::ownFile(R"(<holiday name="Dritter" rule="06-03" regions="S"/>)") << shipped
+                           << (shipped + QStringList{u"0603 Dritter"_s});
+    QTest::newRow("moved everywhere") << ::ownFile(R"(<holiday name="erster" rule="06-05"/>)")
+                                      << QStringList{u"0602 Zweiter"_s, u"0605 erster"_s}
+                                      << QStringList{u"0602 Zweiter"_s, u"0605 erster"_s};
+    QTest::newRow("moved in a region") << ::ownFile(R"(<holiday name="Erster" rule="06-05" regions="S"/>)") << shipped
+                                       << QStringList{u"0602 Zweiter"_s, u"0605 Erster"_s};
+    QTest::newRow("two own ones of one name")
+        << ::ownFile(R"(<holiday name="Erster" rule="06-05"/><holiday name="Erster" rule="06-07"/>)")
+        << QStringList{u"0602 Zweiter"_s, u"0605 Erster"_s, u"0607 Erster"_s}
+        << QStringList{u"0602 Zweiter"_s, u"0605 Erster"_s, u"0607 Erster"_s};
+    QTest::newRow("removed everywhere") << ::ownFile(R"(<remove name="Zweiter"/>)") << QStringList{u"0601 Erster"_s}
+                                        << QStringList{u"0601 Erster"_s};
+    QTest::newRow("removed in a region") << ::ownFile(R"(<remove name="Zweiter" regions="N"/>)")
+                                         << QStringList{u"0601 Erster"_s} << shipped;
+    QTest::newRow("own vacation") << ::ownFile(
+                                         R"(<vacation name="Brücke" start="2026-06-03" end="2026-06-04" regions="S"/>)")
+                                  << shipped << (shipped + QStringList{u"0603 Brücke"_s, u"0604 "_s});
+}
+
+void tst_MvHolidayTableReader::ownFile()
+{
+    QFETCH(QByteArray, own);
+    write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Erster" rule="06-01"/><holiday name="Zweiter" rule="06-02"/>)"));
+    write(u"my-holidays.xml"_s, own);
+    QTEST(days(u"N"_s, FEATURE_SCHOOL_VACATIONS), "north");
+    QTEST(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), "south");
+}
+
+void tst_MvHolidayTableReader::ownFileWithErrors()
+{
+    write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Erster" rule="06-01"/>)"));
+    write(u"my-holidays.xml"_s, ::ownFile("\n"
+                                          R"(<holiday name="Erster" rule="Juni"/>
+        <remove name="Erster" regions="Mond"/><holiday name="Neu" rule="06-02"/>)"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"my-holidays\\.xml:3: .*Mond.*1 weitere"_s));
+    QCOMPARE(days(u"S"_s), (QStringList{u"0601 Erster"_s, u"0602 Neu"_s})); // what is wrong takes nothing away
+}
+
+void tst_MvHolidayTableReader::regionsThatBelongToEachOther()
+{
+    write(u"ZZ.xml"_s, R"(<HolidayTable country="ZZ" language="de"><region code="A" parent="B"/>
+        <region code="B" parent="A"/><region code="C" parent="Mond"/>
+        <holiday name="Tag" rule="06-01" regions="B"/></HolidayTable>)");
+    QCOMPARE(days(u"A"_s), QStringList{u"0601 Tag"_s});
+    QCOMPARE(days(u"C"_s), QStringList());
+}
+
+MV_TEST_MAIN(tst_MvHolidayTableReader)
+#include "tst_MvHolidayTableReader.moc"

@@ -1,0 +1,153 @@
+#include "MvProductBase/MvCalendariumHolidayCalculator.h"
+
+#include "MvTest.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+enum class Side { OnlyHere, OnlyThere };
+
+/// Where this calculator and the independent source differ, and why that is right.
+struct Difference {
+    const char *places; // "CC-region", several separated by blanks
+    const char *name;   // as the side that has it calls it
+    Side side;
+    int count; // of days in the five years
+    const char *reason;
+};
+
+const Difference differences[] = {
+    {"DE-BY", "Mariä Himmelfahrt", Side::OnlyHere, 5,
+     "legal in the municipalities with a Catholic majority, most of them"},
+    {"GB-SCT", "World Cup bank holiday", Side::OnlyHere, 1, "proclaimed for 15 June 2026, too late for the source"},
+    // Easter, Whit Sunday and the day of prayer are Sundays in Switzerland, not days off of their own
+    {"CH-BE CH-BS CH-GL CH-ZH", "Ostersonntag", Side::OnlyThere, 5, "Sunday"},
+    {"CH-BE CH-BS CH-GL CH-ZH", "Pfingstsonntag", Side::OnlyThere, 5, "Sunday"},
+    {"CH-BE CH-BS CH-ZH", "Eidg. Dank-  Buss- und Bettag", Side::OnlyThere, 5, "Sunday"},
+    {"CH-GE", "Pâques", Side::OnlyThere, 5, "Sunday"},
+    {"CH-GE", "Pentecôte", Side::OnlyThere, 5, "Sunday"},
+    {"CH-TI", "Domenica di Pasqua", Side::OnlyThere, 5, "Sunday"},
+    {"CH-TI", "Pentecoste", Side::OnlyThere, 5, "Sunday"},
+    {"CH-TI", "Digiuno federale", Side::OnlyThere, 5, "Sunday"},
+    // shops close early in Glarus, but the law does not list the days
+    {"CH-GL", "Heiliger Abend", Side::OnlyThere, 5, "not in the cantonal law"},
+    {"CH-GL", "Silvester", Side::OnlyThere, 5, "not in the cantonal law"},
+    // the first Thursday of April, a week later only when that is Maundy Thursday; in 2027 that is 25 March
+    {"CH-GL", "Näfelser Fahrt", Side::OnlyHere, 1, "2027 on 1 April"},
+    {"CH-GL", "Näfelser Fahrt", Side::OnlyThere, 1, "2027 on 8 April"},
+};
+
+constexpr int firstYear = 2026;
+constexpr int lastYear = 2030;
+
+using NamesByDate = QMap<QDate, QStringList>;
+
+QMap<QString, NamesByDate> readFacts()
+{
+    QMap<QString, NamesByDate> facts;
+    QFile file(QStringLiteral(MV_TEST_DATA "/public_holidays.csv"));
+    if (!file.open(QIODevice::ReadOnly))
+        return facts;
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
+        const QStringList fields = line.split(u',');
+        if (!line.startsWith(u'#') && fields.size() == 4) {
+            facts[fields.at(0) + u'-' + fields.at(1)][QDate::fromString(fields.at(2), Qt::ISODate)].append(
+                fields.at(3));
+        }
+    }
+    return facts;
+}
+
+MvLocale localeOf(const QString &country)
+{
+    const MvLocale german(u"de"_s, country);
+    const QList<MvLocale> known = MvCalendariumHolidayCalculator::instance().availableLanguages();
+    if (known.contains(german))
+        return german;
+    const auto any = std::find_if(known.cbegin(), known.cend(),
+                                  [&country](const MvLocale &locale) { return locale.country() == country; });
+    return any == known.cend() ? MvLocale() : *any;
+}
+
+NamesByDate computed(const QString &place)
+{
+    const MvCalendariumHolidayConfig config(localeOf(place.section(u'-', 0, 0)), place.section(u'-', 1),
+                                            FEATURE_PUBLIC_HOLIDAYS_ONLY);
+    NamesByDate found;
+    for (int year = firstYear; year <= lastYear; ++year) {
+        const MvCalendariumHolidayList holidays =
+            MvCalendariumHolidayCalculator::instance().holidaysOfYear(MvCalendariumHolidayCacheKey(year, config));
+        for (const MvCalendariumHoliday &holiday : holidays)
+            found[holiday.date()].append(holiday.description());
+    }
+    return found;
+}
+
+QStringList datesOnlyIn(const NamesByDate &a, const NamesByDate &b)
+{
+    QStringList dates;
+    for (auto day = a.cbegin(); day != a.cend(); ++day) {
+        if (!b.contains(day.key()))
+            dates.append(day.key().toString(Qt::ISODate) + u' ' + day.value().join(u" / "_s));
+    }
+    return dates;
+}
+
+// takes the explained days away and says whether each explanation was needed as often as it claims
+QString takeExplained(const QString &place, Side side, QStringList &days)
+{
+    for (const Difference &difference : differences) {
+        if (difference.side != side || !QString::fromUtf8(difference.places).split(u' ').contains(place))
+            continue;
+        const QString name = QString::fromUtf8(difference.name);
+        const auto removed = days.removeIf([&name](const QString &day) { return day.mid(11) == name; });
+        if (removed != difference.count)
+            return u"%1: %2 days instead of %3"_s.arg(name).arg(removed).arg(difference.count);
+    }
+    return {};
+}
+
+} // namespace
+
+/// The public holidays of five years against a source that the product does not use.
+class tst_MvPublicHolidays : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void agreeWithIndependentSource_data();
+    void agreeWithIndependentSource();
+};
+
+void tst_MvPublicHolidays::agreeWithIndependentSource_data()
+{
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<NamesByDate>("facts");
+    const QMap<QString, NamesByDate> facts = readFacts();
+    for (const char *land :
+         {"BW", "BY", "BE", "BB", "HB", "HH", "HE", "MV", "NI", "NW", "RP", "SL", "SN", "ST", "SH", "TH"})
+        QVERIFY2(facts.contains(u"DE-"_s + QLatin1StringView(land)), land);
+    for (auto place = facts.cbegin(); place != facts.cend(); ++place)
+        QTest::addRow("%s", qPrintable(place.key())) << place.key() << place.value();
+}
+
+void tst_MvPublicHolidays::agreeWithIndependentSource()
+{
+    QFETCH(QString, place);
+    QFETCH(NamesByDate, facts);
+    const NamesByDate here = computed(place);
+    QStringList onlyHere = datesOnlyIn(here, facts);
+    QStringList onlyThere = datesOnlyIn(facts, here);
+    QCOMPARE(takeExplained(place, Side::OnlyHere, onlyHere), QString());
+    QCOMPARE(takeExplained(place, Side::OnlyThere, onlyThere), QString());
+    QCOMPARE(onlyHere, QStringList());
+    QCOMPARE(onlyThere, QStringList());
+}
+
+MV_TEST_MAIN(tst_MvPublicHolidays)
+#include "tst_MvPublicHolidays.moc"
