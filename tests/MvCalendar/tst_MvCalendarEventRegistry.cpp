@@ -89,6 +89,7 @@ private Q_SLOTS:
     void importsAddressBook();
     void tellsOfImports();
     void clearsFilledTexts();
+    void sampleList();
 
 private:
     QString path(const QString &name) const { return m_data->filePath(name); }
@@ -525,6 +526,17 @@ void tst_MvCalendarEventRegistry::clearsFilledTexts()
     QVERIFY(cache.count() > 0);
     registry.setEvents({});
     QCOMPARE(cache.count(), 0);
+}
+
+void tst_MvCalendarEventRegistry::sampleList()
+{
+    MvCalendarEventRegistry registry;
+    QVERIFY(registry.loadFrom(QFileInfo(QStringLiteral(MV_TEST_DATA "/../../resources/samples/eintraege.xml")), true));
+    QCOMPARE(registry.activeEventList().size(), 12);
+    QCOMPARE(registry.descriptions(keyAt(QDate(2026, 8, 17))).size(), 2);
+    QCOMPARE(registry.descriptions(keyAt(QDate(2028, 2, 29))).size(), 1);
+    QCOMPARE(registry.eventImage(keyAt(QDate(2026, 3, 9)), {300, 300}).size(), QSize(225, 300));
+    QCOMPARE(registry.eventImage(keyAt(QDate(2026, 8, 17))).size(), QSize(600, 800));
 }
 
 MV_TEST_MAIN(tst_MvCalendarEventRegistry)
