@@ -1,6 +1,7 @@
 #include "MvCalendar/MvCalendarEvent.h"
 
 #include "MvCalendar/MvCalendarEventFoto.h"
+#include "MvCalendar/MvCalendarEventTexts.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvStringHelper.h"
@@ -15,19 +16,19 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 constexpr int mediumQuality = 4;
 constexpr int mediumCaching = 13;
 
 /// A date and time in ISO form. A midnight that the local time zone skipped is the day's first moment: nobody loses a
 /// birthday because clocks were put forward that night.
-QDateTime readDateTime(const QDomElement &element, const QString &name)
+QDateTime readDateTime(const QString &text)
 {
-    const QDateTime value = MvXMLParser::dateTimeText(element, name, Qt::ISODate);
+    const QDateTime value = QDateTime::fromString(text, Qt::ISODate);
     if (value.isValid())
         return value;
-    const QString text = MvXMLParser::text(element, name).trimmed();
     const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
     return QTime::fromString(text.mid(11), Qt::ISODate).isValid() ? date.startOfDay() : QDateTime();
 }
@@ -67,24 +68,27 @@ MvCalendarEvent::MvCalendarEvent(const QString &name, const QDateTime &dateTime,
 
 MvCalendarEvent::MvCalendarEvent(const QDomElement &element)
 {
-    read(element);
+    read(MvCalendarEventTexts(element));
     m_foto = createFoto(element);
 }
 
-MvCalendarEvent::MvCalendarEvent(const QDomElement &element, const QDir &fileFolder)
+MvCalendarEvent::MvCalendarEvent(const MvCalendarEventTexts &texts, const QDir &fileFolder)
 {
-    read(element);
-    m_foto = MvCalendarEventFoto::fromText(MvXMLParser::text(element, u"Image"_s), imageDirectory(), &fileFolder);
+    read(texts);
+    const QString image = texts.text(u"Image"_s);
+    if (!image.isEmpty())
+        m_foto = MvCalendarEventFoto::fromText(image, imageDirectory(), &fileFolder);
 }
 
-void MvCalendarEvent::read(const QDomElement &element)
+void MvCalendarEvent::read(const MvCalendarEventTexts &texts)
 {
-    m_name = MvXMLParser::text(element, u"Name"_s);
-    m_dateTime = readDateTime(element, u"DateTime"_s);
-    m_recurrent = MvXMLParser::boolText(element, u"Recurrent"_s, true);
-    const QString newUuid = QUuid::createUuid().toString();
-    m_uuid = QUuid::fromString(MvXMLParser::text(element, u"UUID"_s, newUuid));
-    m_lastChanged = MvXMLParser::dateTimeText(element, u"LastChanged"_s, Qt::ISODate, QDateTime::currentDateTime());
+    m_name = texts.text(u"Name"_s);
+    m_dateTime = readDateTime(texts.text(u"DateTime"_s).trimmed());
+    m_recurrent = MvStringHelper::stringToBool(texts.text(u"Recurrent"_s), true);
+    m_uuid = texts.contains(u"UUID"_s) ? QUuid::fromString(texts.text(u"UUID"_s)) : QUuid::createUuid();
+    m_lastChanged = QDateTime::fromString(texts.text(u"LastChanged"_s).trimmed(), Qt::ISODate);
+    if (!m_lastChanged.isValid())
+        m_lastChanged = QDateTime::currentDateTime();
 }
 
 QSize MvCalendarEvent::imageSize() const
@@ -257,5 +261,8 @@ QDebug operator<<(QDebug debug, const MvCalendarEvent &event)
 
 size_t qHash(const MvCalendarEvent &event, size_t seed)
 {
-    return qHashMulti(seed, event.description(), event.dateTime(), event.storedRecurrent(), event.foto());
+    // equal times have equal local fields; those are at hand, whereas the moment itself asks for the time zone's rules
+    const QDateTime &dateTime = event.dateTime();
+    const QDateTime local = dateTime.timeSpec() == Qt::LocalTime ? dateTime : dateTime.toLocalTime();
+    return qHashMulti(seed, event.description(), local.date(), local.time(), event.storedRecurrent(), event.foto());
 }

@@ -14,6 +14,7 @@
 #include <QString>
 #include <QUuid>
 
+class MvCalendarEventTexts;
 class QDomElement;
 class QDomNode;
 
@@ -31,9 +32,9 @@ public:
                     const QUuid &uuid, const QDateTime &lastChanged);
     /// Reads the form that createXML() writes; what is missing takes its default, a missing uuid a new one.
     explicit MvCalendarEvent(const QDomElement &element);
-    /// The same for an element of a file: its photos may also lie in the file's folder and below. A photo elsewhere is
+    /// The same for an entry of a file: its photos may also lie in the file's folder and below. A photo elsewhere is
     /// kept by name and written back, but never opened.
-    MvCalendarEvent(const QDomElement &element, const QDir &fileFolder);
+    MvCalendarEvent(const MvCalendarEventTexts &texts, const QDir &fileFolder);
     virtual ~MvCalendarEvent();
     MvCalendarEvent(const MvCalendarEvent &);
     MvCalendarEvent(MvCalendarEvent &&) noexcept;
@@ -109,7 +110,7 @@ public:
     bool storedRecurrent() const { return m_recurrent; }
 
 private:
-    void read(const QDomElement &element);
+    void read(const MvCalendarEventTexts &texts);
     void updateChangeTime();
 
     QString m_name;

@@ -1,42 +1,46 @@
 #include "MvCalendar/MvCalendarEventFile.h"
 
+#include "MvCalendar/MvCalendarEventTexts.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
 
 #include <QDomDocument>
 #include <QSet>
+#include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 const QString rootName = u"CalendarEvents"_s;
 const QString entryName = u"CalendarEvent"_s;
 
-struct ReadEntries
+/// Gathers what a file holds, each equal entry once.
+class Gathering
 {
-    MvCalendarEventList events;
-    qsizetype lost = 0; // elements with content that gave no valid entry
-};
-
-ReadEntries readEntries(const QDomElement &root, const QDir *fileFolder)
-{
-    ReadEntries result;
-    QSet<MvCalendarEvent> known;
-    for (QDomElement element = root.firstChildElement(entryName); !element.isNull();
-         element = element.nextSiblingElement(entryName)) {
-        const MvCalendarEvent event = fileFolder ? MvCalendarEvent(element, *fileFolder) : MvCalendarEvent(element);
+public:
+    void add(const MvCalendarEvent &event, bool isEmpty)
+    {
         if (!event.isValid()) {
-            result.lost += element.hasChildNodes() ? 1 : 0;
-            continue;
+            m_lost += isEmpty ? 0 : 1;
+            return;
         }
-        if (known.contains(event))
-            continue;
-        known.insert(event);
-        result.events.append(event);
+        const qsizetype before = m_known.size();
+        m_known.insert(event);
+        if (m_known.size() > before)
+            m_events.append(event);
     }
-    return result;
-}
+
+    MvCalendarEventList events() const { return m_events; }
+    /// No element with content was left out as invalid.
+    bool isComplete() const { return m_lost == 0; }
+
+private:
+    MvCalendarEventList m_events;
+    QSet<MvCalendarEvent> m_known;
+    qsizetype m_lost = 0;
+};
 
 void warnOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &file)
 {
@@ -59,24 +63,39 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
     const QFileInfo present(file.filePath()); // the given one may remember an older state
     Content content;
     MvXMLLoader::Error error;
-    const QDomDocument document = MvXMLLoader::loadDocument(present, &error);
+    const QByteArray bytes = MvXMLLoader::loadBytes(present, &error);
     if (error.isError()) {
         content.error = error.describe(present);
         content.isMissing = !present.exists() && !present.isSymLink();
         return content;
     }
-    const QDomElement root = document.firstChildElement(rootName);
+    // as a stream: faster than a document in memory, and names of blanks alone stay
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    const bool isList = reader.readNextStartElement() && reader.qualifiedName() == rootName;
     const QDir folder = present.absoluteDir();
-    const ReadEntries entries = readEntries(root, &folder);
-    content.events = entries.events;
-    content.isComplete = !root.isNull() && entries.lost == 0;
+    Gathering gathering;
+    while (isList && reader.readNextStartElement()) {
+        if (reader.qualifiedName() != entryName) {
+            reader.skipCurrentElement();
+            continue;
+        }
+        const MvCalendarEventTexts texts(reader);
+        gathering.add(MvCalendarEvent(texts, folder), texts.isEmpty());
+    }
+    content.events = gathering.events();
+    content.isComplete = isList && gathering.isComplete();
     warnOfForeignFotos(content.events, present);
     return content;
 }
 
 MvCalendarEventList MvCalendarEventFile::readElement(const QDomElement &element)
 {
-    return readEntries(element, nullptr).events;
+    Gathering gathering;
+    for (QDomElement child = element.firstChildElement(entryName); !child.isNull();
+         child = child.nextSiblingElement(entryName))
+        gathering.add(MvCalendarEvent(child), !child.hasChildNodes());
+    return gathering.events();
 }
 
 QByteArray MvCalendarEventFile::toBytes(const MvCalendarEventList &events)

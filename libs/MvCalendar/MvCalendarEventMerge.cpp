@@ -3,7 +3,8 @@
 #include <QHash>
 #include <QSet>
 
-namespace {
+namespace
+{
 
 QHash<QUuid, const MvCalendarEvent *> byUuid(const MvCalendarEventList &events)
 {

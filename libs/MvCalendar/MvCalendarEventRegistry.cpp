@@ -11,6 +11,8 @@
 #include "MvCore/MvProactiveHelpController.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvFoto/MvFotoAccess.h"
+#include "MvProductBase/MvSVGCompilerInstructionsCache.h"
+#include "MvProductBase/MvSVGImageRendererCache.h"
 
 #include <QDir>
 #include <QFile>
@@ -60,6 +62,10 @@ MvCalendarEventRegistry::MvCalendarEventRegistry()
 
 void MvCalendarEventRegistry::setupInstance()
 {
+    // artwork and texts that show entries are made anew after every change
+    connect(this, &MvCalendarEventRegistry::eventsChanged, this, [] { MvSVGImageRendererCache::instance().clear(); });
+    connect(this, &MvCalendarEventRegistry::eventsChanged, this,
+            [] { MvSVGCompilerInstructionsCache::instance().clear(); });
 }
 
 // ---- what falls on a day

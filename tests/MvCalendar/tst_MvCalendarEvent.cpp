@@ -1,0 +1,365 @@
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventTexts.h"
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvFoto/MvFotoAccess.h"
+
+#include <QDomDocument>
+#include <QTemporaryDir>
+
+class tst_MvCalendarEvent : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void isAtDay_data();
+    void isAtDay();
+    void sortsByDay_data();
+    void sortsByDay();
+    void baseOrder();
+    void comparesWithoutUuid();
+    void textForms();
+    void roundTrip_data();
+    void roundTrip();
+    void readsDefaults();
+    void readsSkippedMidnights();
+    void invalidEntryIsEmptyElement();
+    void setFotoCopies();
+    void unreadableFotoWarns();
+    void fotoPaths_data();
+    void fotoPaths();
+    void movedUserFolder();
+    void largeFilesReadAlike();
+
+private:
+    QString outside(const QString &name) const { return m_outside->filePath(name); }
+    static void putImage(const QString &path, const QSize &size = {16, 12});
+
+    std::unique_ptr<QTemporaryDir> m_data;
+    std::unique_ptr<QTemporaryDir> m_outside;
+};
+
+static MvCalendarEvent entry(const QString &name, const QDate &date, bool recurrent = true)
+{
+    return MvCalendarEvent(name, date.startOfDay(), recurrent, MvFoto(), QUuid::createUuid(), QDateTime());
+}
+
+static QDomElement parsed(QDomDocument &document, const QString &xml)
+{
+    document.setContent(xml);
+    return document.documentElement();
+}
+
+void tst_MvCalendarEvent::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    m_data = std::make_unique<QTemporaryDir>();
+    m_outside = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_data->isValid() && m_outside->isValid());
+    MvDirectoryConfig::instance().setProgramDataDir(m_data->filePath(u"mv"_qs));
+}
+
+void tst_MvCalendarEvent::putImage(const QString &path, const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    QVERIFY(QFileInfo(path).dir().mkpath(u"."_qs));
+    QVERIFY(image.save(path));
+}
+
+void tst_MvCalendarEvent::isAtDay_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<bool>("recurrent");
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<bool>("isAtDay");
+    const QDate birthday(1990, 5, 17);
+    QTest::newRow("every year") << birthday << true << QDate(2025, 5, 17) << true;
+    QTest::newRow("once, another year") << birthday << false << QDate(2025, 5, 17) << false;
+    QTest::newRow("once, that day") << birthday << false << birthday << true;
+    QTest::newRow("another month") << birthday << true << QDate(2025, 6, 17) << false;
+    QTest::newRow("another day") << birthday << true << QDate(2025, 5, 16) << false;
+    QTest::newRow("before it began") << birthday << true << QDate(1980, 5, 17) << true;
+    QTest::newRow("leap day in a common year") << QDate(1992, 2, 29) << true << QDate(2026, 2, 28) << false;
+    QTest::newRow("leap day") << QDate(1992, 2, 29) << true << QDate(2028, 2, 29) << true;
+}
+
+void tst_MvCalendarEvent::isAtDay()
+{
+    QFETCH(QDate, date);
+    QFETCH(bool, recurrent);
+    QFETCH(QDate, day);
+    const MvCalendarEvent event = entry(u"x"_qs, date, recurrent);
+    QTEST(event.isAtDay(day), "isAtDay");
+    QVERIFY(event.isRecurrent()); // whatever is stored
+    QCOMPARE(event.storedRecurrent(), recurrent);
+}
+
+void tst_MvCalendarEvent::sortsByDay_data()
+{
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("date") << u"date"_qs << QStringList{u"Cäsar"_qs, u"anna"_qs, u"Anna"_qs, u"Berta"_qs};
+    QTest::newRow("name, capitals first")
+        << u"name"_qs << QStringList{u"Anna"_qs, u"Berta"_qs, u"Cäsar"_qs, u"anna"_qs};
+    // the stored flag decides in the base order although every entry is called recurrent
+    QTest::newRow("recurrent") << u"recurrent"_qs << QStringList{u"anna"_qs, u"Anna"_qs, u"Berta"_qs, u"Cäsar"_qs};
+}
+
+void tst_MvCalendarEvent::sortsByDay()
+{
+    QFETCH(QString, column);
+    QFETCH(QStringList, names);
+    using Comparator = bool (*)(const MvCalendarEvent &, const MvCalendarEvent &);
+    const QHash<QString, std::pair<Comparator, Comparator>> comparators = {
+        {u"date"_qs, {MvCalendarEvent::lessThanDate, MvCalendarEvent::greaterThanDate}},
+        {u"name"_qs, {MvCalendarEvent::lessThanName, MvCalendarEvent::greaterThanName}},
+        {u"recurrent"_qs, {MvCalendarEvent::lessThanRecurrent, MvCalendarEvent::greaterThanRecurrent}},
+    };
+    QList<MvCalendarEvent> events = {entry(u"Anna"_qs, QDate(1980, 2, 1)), entry(u"Berta"_qs, QDate(1930, 12, 31)),
+                                     entry(u"Cäsar"_qs, QDate(2001, 1, 31)),
+                                     entry(u"anna"_qs, QDate(2020, 1, 31), false)};
+    std::stable_sort(events.begin(), events.end(), comparators.value(column).first);
+    QStringList sorted;
+    for (const MvCalendarEvent &event : std::as_const(events))
+        sorted.append(event.description());
+    QCOMPARE(sorted, names);
+    for (qsizetype i = 1; i < events.size(); ++i) {
+        QVERIFY(!comparators.value(column).first(events.at(i), events.at(i - 1)));
+        QVERIFY(!comparators.value(column).second(events.at(i - 1), events.at(i)));
+    }
+}
+
+void tst_MvCalendarEvent::baseOrder()
+{
+    const QDate day(2000, 1, 1);
+    const QList<MvCalendarEvent> ascending = {entry(u"Z"_qs, day, false), entry(u"A"_qs, day),
+                                              entry(u"A"_qs, day.addDays(1)), entry(u"B"_qs, day), MvCalendarEvent()};
+    for (qsizetype i = 0; i < ascending.size(); ++i) {
+        for (qsizetype k = 0; k < ascending.size(); ++k)
+            QCOMPARE(ascending.at(i) < ascending.at(k), i < k);
+    }
+    putImage(MvCalendarEvent::imageDirectory().filePath(u"a.png"_qs));
+    MvCalendarEvent withFoto = ascending.at(1);
+    withFoto.setFoto(MvFoto(QFileInfo(MvCalendarEvent::imageDirectory().filePath(u"a.png"_qs))));
+    QVERIFY(!(withFoto == ascending.at(1)));
+    QVERIFY(!(withFoto < ascending.at(1)) && !(ascending.at(1) < withFoto)); // the photo never decides
+}
+
+void tst_MvCalendarEvent::comparesWithoutUuid()
+{
+    const MvCalendarEvent a = entry(u"A"_qs, QDate(2000, 1, 1));
+    const MvCalendarEvent b = entry(u"A"_qs, QDate(2000, 1, 1));
+    QVERIFY(a.uuid() != b.uuid());
+    QVERIFY(a == b);
+    QCOMPARE(qHash(a), qHash(b));
+    QVERIFY(!(a == entry(u"A"_qs, QDate(2000, 1, 1), false)));
+    QVERIFY(!(a == entry(u"a"_qs, QDate(2000, 1, 1))));
+}
+
+void tst_MvCalendarEvent::textForms()
+{
+    const QUuid uuid(u"{11111111-2222-3333-4444-555555555555}"_qs);
+    const MvCalendarEvent event(u"Oma"_qs, QDate(1941, 3, 9).startOfDay(), false, MvFoto(), uuid, QDateTime());
+    QCOMPARE(event.longDescription(), u"09.03.41: \"Oma\""_qs);
+    const QString debug = u"09.03.41: \"Oma\" 1 {11111111-2222-3333-4444-555555555555}"_qs;
+    QCOMPARE(event.debugString(), debug);
+    QString written;
+    QDebug(&written) << event;
+    QCOMPARE(written.trimmed(), debug);
+}
+
+void tst_MvCalendarEvent::roundTrip_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("readName");
+    const auto same = [](const char *what, const QString &name) { QTest::newRow(what) << name << name; };
+    same("umlauts", u"Jörg Weiß, Ærø"_qs);
+    same("emoji of several parts", u"Oma \U0001F469\u200d\U0001F467 \U0001F382"_qs);
+    same("markup", u"<b>&amp; \"Kurt\" 'x' ]]> -->"_qs);
+    same("line feed and tab", u"a\nb\tc"_qs);
+    same("carriage return", u"a\rb"_qs);
+    same("blanks around", u"  Anna  "_qs);
+    same("blanks alone", u"   "_qs);
+    same("right to left", u"\u05d0\u05d1\u05d2"_qs);
+    same("very long", QString(100000, u'ä'));
+    QTest::newRow("control characters go") << u"A\u0001\u001fB\uffff"_qs << u"AB"_qs;
+    QTest::newRow("NUL goes") << QString(u"A"_qs + QChar(0) + u'B') << u"AB"_qs;
+    QTest::newRow("half a pair goes") << QString(u"A"_qs + QChar(0xd83d) + u'B') << u"AB"_qs;
+}
+
+void tst_MvCalendarEvent::roundTrip()
+{
+    QFETCH(QString, name);
+    const MvCalendarEvent event(name, QDate(1944, 2, 29).startOfDay(), false, MvFoto(), QUuid::createUuid(),
+                                QDateTime());
+    QFile file(outside(u"list.xml"_qs));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(MvCalendarEventFile::toBytes({event}));
+    file.close();
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
+    QCOMPARE(content.error, QString());
+    QCOMPARE(content.events.size(), 1);
+    const MvCalendarEvent &read = content.events.first();
+    QTEST(read.description(), "readName");
+    QCOMPARE(read.dateTime(), event.dateTime());
+    QCOMPARE(read.storedRecurrent(), false);
+    QCOMPARE(read.uuid(), event.uuid());
+    QCOMPARE(read.lastChanged().toString(Qt::ISODate), event.lastChanged().toString(Qt::ISODate));
+}
+
+void tst_MvCalendarEvent::readsDefaults()
+{
+    QDomDocument document;
+    const QDomElement element = parsed(document, u"<CalendarEvent><Name>Kurt</Name></CalendarEvent>"_qs);
+    const MvCalendarEvent first(element);
+    const MvCalendarEvent second(element);
+    QVERIFY(!first.isValid());
+    QVERIFY(first.storedRecurrent());
+    QVERIFY(!first.uuid().isNull() && first.uuid() != second.uuid());
+    QVERIFY(first.lastChanged().isValid());
+    QVERIFY(!first.foto().isValid());
+
+    const QString pattern =
+        u"<CalendarEvent><Name>Kurt</Name><DateTime>%1</DateTime><UUID>%2</UUID></CalendarEvent>"_qs;
+    QVERIFY(MvCalendarEvent(parsed(document, pattern.arg(u"1990-05-17"_qs, u"broken"_qs))).isValid());
+    QVERIFY(MvCalendarEvent(document.documentElement()).uuid().isNull());
+    for (const char *date : {"1990-02-30T00:00:00", "17.05.1990", "", "1990-05-17Tmorgens"})
+        QVERIFY2(!MvCalendarEvent(parsed(document, pattern.arg(QLatin1String(date), QString()))).isValid(), date);
+}
+
+void tst_MvCalendarEvent::readsSkippedMidnights()
+{
+    // clocks were put forward from midnight to one o'clock
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "America/Sao_Paulo");
+    QDomDocument document;
+    const MvCalendarEvent event(parsed(
+        document, u"<CalendarEvent><Name>Ana</Name><DateTime>2017-10-15T00:00:00</DateTime></CalendarEvent>"_qs));
+    const QDate date = event.dateTime().date();
+    const bool isValid = event.isValid();
+    zone.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", zone);
+    QVERIFY(isValid);
+    QCOMPARE(date, QDate(2017, 10, 15));
+}
+
+void tst_MvCalendarEvent::invalidEntryIsEmptyElement()
+{
+    QDomDocument document;
+    QDomElement root = parsed(document, u"<CalendarEvents/>"_qs);
+    entry(QString(), QDate(2000, 1, 1)).createXML(root);
+    QCOMPARE(document.toString(-1), u"<CalendarEvents><CalendarEvent/></CalendarEvents>"_qs);
+}
+
+void tst_MvCalendarEvent::setFotoCopies()
+{
+    putImage(outside(u"groß.jpg"_qs), {4000, 3000});
+    MvCalendarEvent event = entry(u"Oma"_qs, QDate(2000, 1, 1));
+    event.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_qs))));
+    QVERIFY(event.isInAppSafeArea(event.imagePath()));
+    QCOMPARE(event.imagePath().fileName(), u"groß.jpg"_qs);
+    QCOMPARE(event.imageSize(), QSize(2048, 1536));
+    QCOMPARE(event.image().size(), QSize(2048, 1536));
+
+    MvCalendarEvent other = event;
+    other.setFoto(event.foto()); // lies there already
+    QVERIFY(other == event);
+    QCOMPARE(MvCalendarEvent::imageDirectory().count(), 3u);   // with "." and ".."
+    other.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_qs)))); // another copy under another name
+    QCOMPARE(other.imagePath().fileName(), u"groß_2.jpg"_qs);
+    other.setFoto(MvFoto());
+    QVERIFY(!other.foto().isValid() && !other.imageSize().isValid() && other.image().isNull());
+}
+
+void tst_MvCalendarEvent::unreadableFotoWarns()
+{
+    MvCalendarEvent event = entry(u"Oma"_qs, QDate(2000, 1, 1));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Unable to open image : MvFoto"_qs));
+    QTest::ignoreMessage(QtWarningMsg,
+                         QRegularExpression(u"^Unable to save image to : .*calendarEventFotos/missing\\.jpg$"_qs));
+    event.setFoto(MvFoto(QFileInfo(outside(u"missing.jpg"_qs))));
+    QVERIFY(event.foto().isValid());
+    QVERIFY(!event.imagePath().exists());
+}
+
+void tst_MvCalendarEvent::fotoPaths_data()
+{
+    QTest::addColumn<QString>("text"); // LIST: the list's folder, FOTOS: the photo folder
+    QTest::addColumn<QString>("path"); // empty: no photo
+    QTest::addColumn<bool>("mayBeOpened");
+    const auto row = [](const char *what, const QString &text, const QString &path, bool mayBeOpened) {
+        QTest::newRow(what) << text << path << mayBeOpened;
+    };
+    row("own photo", u"FOTOS/own.png"_qs, u"FOTOS/own.png"_qs, true);
+    row("own photo by name", u"own.png"_qs, u"FOTOS/own.png"_qs, true);
+    row("own photo before the one beside", u"both.png"_qs, u"FOTOS/both.png"_qs, true);
+    row("beside the list", u"beside.png"_qs, u"LIST/beside.png"_qs, true);
+    row("below the list", u"fotos/below.png"_qs, u"LIST/fotos/below.png"_qs, true);
+    row("named in full beside the list", u"LIST/beside.png"_qs, u"LIST/beside.png"_qs, true);
+    row("out of the list's folder", u"../secret.png"_qs, u"LIST/../secret.png"_qs, false);
+    row("out and in again", u"../list/beside.png"_qs, u"LIST/beside.png"_qs, true);
+    row("link out of the folder", u"link.png"_qs, u"LIST/link.png"_qs, false);
+    row("folder link out of the folder", u"up/secret.png"_qs, u"LIST/up/secret.png"_qs, false);
+    row("elsewhere", u"/etc/hostname"_qs, u"/etc/hostname"_qs, false);
+    row("elsewhere and missing", u"/nowhere/a.png"_qs, u"/nowhere/a.png"_qs, false);
+    row("missing", u"missing.png"_qs, u"FOTOS/missing.png"_qs, true);
+    row("none", QString(), QString(), false);
+}
+
+void tst_MvCalendarEvent::fotoPaths()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, path);
+    QFETCH(bool, mayBeOpened);
+    const QString folder = outside(u"list"_qs);
+    const QString fotos = MvCalendarEvent::imageDirectory().absolutePath();
+    const auto inPlace = [&](QString pattern) {
+        return pattern.replace(u"LIST"_qs, folder).replace(u"FOTOS"_qs, fotos);
+    };
+    for (const QString &file : {fotos + u"/own.png"_qs, fotos + u"/both.png"_qs, folder + u"/both.png"_qs,
+                                folder + u"/beside.png"_qs, folder + u"/fotos/below.png"_qs, outside(u"secret.png"_qs)})
+        putImage(file);
+    QVERIFY(QFile::link(outside(u"secret.png"_qs), folder + u"/link.png"_qs));
+    QVERIFY(QFile::link(m_outside->path(), folder + u"/up"_qs));
+
+    QDomDocument document;
+    const QDomElement element =
+        parsed(document, u"<CalendarEvent><Name>x</Name><Image>%1</Image></CalendarEvent>"_qs.arg(inPlace(text)));
+    const MvCalendarEvent event(MvCalendarEventTexts{element}, QDir(folder));
+    const QString expected = path.isEmpty() ? QString() : QDir::cleanPath(inPlace(path));
+    QCOMPARE(event.foto().localFilePath(), expected);
+    QCOMPARE(event.foto().mayBeOpened(), mayBeOpened);
+    QCOMPARE(event.image().isNull(), !(mayBeOpened && QFileInfo::exists(expected)));
+}
+
+void tst_MvCalendarEvent::movedUserFolder()
+{
+    putImage(MvCalendarEvent::imageDirectory().filePath(u"oma.png"_qs));
+    QDomDocument document;
+    const MvCalendarEvent event(parsed(
+        document, u"<CalendarEvent><Image>/home/früher/mv/calendarEventFotos/oma.png</Image></CalendarEvent>"_qs));
+    QVERIFY(event.isInAppSafeArea(event.imagePath()));
+    QVERIFY(!event.image().isNull());
+}
+
+void tst_MvCalendarEvent::largeFilesReadAlike()
+{
+    MvCalendarEventList events;
+    for (int i = 0; i < 10000; ++i)
+        events.append(entry(u"Person %1"_qs.arg(i / 2), QDate(1950, 1, 1).addDays(i / 2))); // each twice
+    QFile file(outside(u"large.xml"_qs));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(MvCalendarEventFile::toBytes(events));
+    file.close();
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
+    QVERIFY(content.isRead() && content.isComplete);
+    QCOMPARE(content.events.size(), 5000);
+    for (qsizetype i = 0; i < content.events.size(); ++i)
+        QCOMPARE(content.events.at(i), events.at(2 * i));
+}
+
+MV_TEST_MAIN(tst_MvCalendarEvent)
+#include "tst_MvCalendarEvent.moc"
