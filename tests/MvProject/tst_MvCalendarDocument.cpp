@@ -3,6 +3,7 @@
 #include "MvProject/MvPageSource.h"
 #include "MvTest.h"
 
+#include <QDomDocument>
 #include <QImage>
 #include <QPainter>
 
