@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,18 +15,21 @@ namespace
 constexpr qsizetype longestName = 64; // nobody mistypes longer ones; bounds the work on hostile input
 constexpr qsizetype shortestBeginning = 3;
 
-/// Letters to insert, drop or exchange to make one word the other.
+/// Letters to insert, to drop, to exchange, or neighbours to swap, that make one word the other.
 qsizetype editDistance(const QString &a, const QString &b)
 {
+    QList<qsizetype> beforeLast(b.size() + 1);
+    QList<qsizetype> last(b.size() + 1);
     QList<qsizetype> row(b.size() + 1);
     std::iota(row.begin(), row.end(), 0);
     for (qsizetype i = 1; i <= a.size(); ++i) {
-        qsizetype diagonal = row[0];
+        beforeLast = std::exchange(last, row);
         row[0] = i;
         for (qsizetype j = 1; j <= b.size(); ++j) {
-            const qsizetype replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
-            diagonal = row[j];
-            row[j] = std::min({replaced, row[j] + 1, row[j - 1] + 1});
+            const qsizetype replaced = last[j - 1] + (a[i - 1] == b[j - 1] ? 0 : 1);
+            row[j] = std::min({replaced, last[j] + 1, row[j - 1] + 1});
+            if (i > 1 && j > 1 && a[i - 1] == b[j - 2] && a[i - 2] == b[j - 1])
+                row[j] = std::min(row[j], beforeLast[j - 2] + 1);
         }
     }
     return row.last();

@@ -16,10 +16,18 @@ MvOutputTarget::MvOutputTarget(const QString &path)
 {
 }
 
-QString MvOutputTarget::error(const MvPageSource &pages) const
+QString MvOutputTarget::nameError(const MvPageSource &pages) const
 {
     if (m_suffix != u"pdf"_s && m_suffix != u"png"_s && m_suffix != u"svg"_s)
         return tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path);
+    QString error;
+    if (m_suffix != u"pdf"_s)
+        MvFileNamePattern(m_path).paths(pages.pages, &error);
+    return error;
+}
+
+QString MvOutputTarget::placeError() const
+{
     const QFileInfo folder(QFileInfo(m_path).path());
     if (!folder.exists())
         return tr("%1: den Ordner %2 gibt es nicht").replace(u"%1"_s, m_path).replace(u"%2"_s, folder.filePath());
@@ -27,10 +35,7 @@ QString MvOutputTarget::error(const MvPageSource &pages) const
         return tr("%1: in %2 lässt sich nicht schreiben").replace(u"%1"_s, m_path).replace(u"%2"_s, folder.filePath());
     if (QFileInfo(m_path).isDir())
         return tr("%1 ist ein Ordner").replace(u"%1"_s, m_path);
-    QString error;
-    if (m_suffix != u"pdf"_s)
-        MvFileNamePattern(m_path).paths(pages.pages, &error);
-    return error;
+    return {};
 }
 
 MvExportResult MvOutputTarget::write(const MvPageSource &pages, int dpi) const

@@ -15,8 +15,10 @@ class MvOutputTarget
 public:
     explicit MvOutputTarget(const QString &path);
 
-    /// What keeps the target from being written, as far as it can be told beforehand; empty when nothing does.
-    QString error(const MvPageSource &pages) const;
+    /// What is wrong with the name itself, for these pages; empty when nothing is.
+    QString nameError(const MvPageSource &pages) const;
+    /// What keeps a file of that name from being written, as far as it can be told beforehand; empty when nothing does.
+    QString placeError() const;
 
     MvExportResult write(const MvPageSource &pages, int dpi) const;
 

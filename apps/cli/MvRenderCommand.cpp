@@ -113,14 +113,17 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     if (!values.isOk())
         return misused(values.error());
 
-    const MvPageSource blank = document.pageSource();
     for (const QString &path : arguments.values(u"output"_s))
-        if (const QString error = MvOutputTarget(path).error(blank); !error.isEmpty())
+        values.setError(MvOutputTarget(path).nameError(document.pageSource()));
+    if (!values.isOk())
+        return misused(values.error());
+    for (const QString &path : arguments.values(u"output"_s))
+        if (const QString error = MvOutputTarget(path).placeError(); !error.isEmpty())
             return failed(error);
 
     QString error;
     MvCalendariumHolidayConfig config = document.holidayConfig();
-    config.setFeature(FEATURE_ENTRIES, loadEntries(values, &error));
+    config.setFeature(FEATURE_ENTRIES, loadEntries(values, &error, streams.hints));
     if (!error.isEmpty())
         return failed(error);
     document.setHolidayConfig(config);
@@ -192,7 +195,7 @@ MvCalendariumHolidayConfig MvRenderCommand::holidayConfig(MvCliValues &values)
     return config;
 }
 
-bool MvRenderCommand::loadEntries(const MvCliValues &values, QString *error)
+bool MvRenderCommand::loadEntries(const MvCliValues &values, QString *error, QTextStream &hints)
 {
     if (values.has(u"my-entries"_s))
         return true;
@@ -201,6 +204,8 @@ bool MvRenderCommand::loadEntries(const MvCliValues &values, QString *error)
     const QFileInfo file(values.text(u"entries"_s));
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
     *error = content.error;
+    if (content.isRead() && content.events.isEmpty())
+        hints << tr("%1: keine Einträge gefunden").replace(u"%1"_s, file.filePath()) << '\n';
     if (content.events.isEmpty())
         return false; // loading an empty list would leave the user's own entries in place
     // set, the flag replaces the active list; nothing is saved

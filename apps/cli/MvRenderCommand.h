@@ -22,7 +22,8 @@ private:
     static MvPageFormat pageFormat(MvCliValues &values);
     static MvCalendariumAppearance appearance(MvCliValues &values);
     static MvCalendariumHolidayConfig holidayConfig(MvCliValues &values);
-    /// Loads what was asked for; whether there are entries to print. An unreadable file gives an error.
-    static bool loadEntries(const MvCliValues &values, QString *error);
+    /// Loads what was asked for; whether there are entries to print. An unreadable file gives an error, one without
+    /// entries a hint.
+    static bool loadEntries(const MvCliValues &values, QString *error, QTextStream &hints);
     static void hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints);
 };

@@ -28,6 +28,12 @@ QSize pixelSize(const MvPageFormat &format, int dpi)
     return {int(std::lround(pixels.width())), int(std::lround(pixels.height()))};
 }
 
+/// Pixels per tenth of a millimetre with which the page reaches the picture's edges: half pixels would shine through.
+double coveringScale(const MvPageFormat &format, const QSize &pixels)
+{
+    return std::max(pixels.width() / format.trimSize().width(), pixels.height() / format.trimSize().height());
+}
+
 QString check(const MvPageSource &source, int dpi)
 {
     if (const QString error = source.error(); !error.isEmpty())
@@ -71,7 +77,7 @@ MvExportResult MvPngExporter::write(const MvPageSource &source, const QString &p
     for (int page = 0; page < paths.size(); ++page) {
         image.fill(Qt::white);
         QPainter painter(&image);
-        source.paintPage(painter, page, {}, dpi / MvMath::tenthMillimetresPerInch);
+        source.paintPage(painter, page, {}, coveringScale(source.format, image.size()));
         painter.end();
 
         QBuffer buffer;

@@ -33,7 +33,10 @@ class Package(unittest.TestCase):
 
     def assert_runs(self, program):
         libraries = next(self.prefix.rglob("libMvCalendar.so")).parent
-        self.assertEqual(run(program, LD_LIBRARY_PATH=str(libraries)), "a4 1\n")
+        pdf = self.work / "client.pdf"
+        self.addCleanup(pdf.unlink)
+        self.assertEqual(run(program, pdf, LD_LIBRARY_PATH=str(libraries)), "12\n")
+        self.assertTrue(pdf.read_bytes().startswith(b"%PDF-"))
 
     def test_cmake(self):
         build = self.work / "cmake"

@@ -1,12 +1,24 @@
-// A program of somebody else: links the installed library and asks it for something only its binary can answer.
-#include "MvCalendar/MvCalendariumType.h"
-#include "MvCore/MvSpaceMagnitude.h"
+// A program of somebody else: links the installed library and has it print a calendar.
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfExporter.h"
 
+#include <QGuiApplication>
 #include <QTextStream>
 
-int main()
+int main(int argc, char **argv)
 {
-    QTextStream(stdout) << MvSpaceMagnitude::ofPage(2970, 2100).encodeCSV() << ' '
-                        << MvCalendariumType(QStringLiteral("CALENDAR_ONE_WEEK_PER_ROW")).toInt() << '\n';
+    QGuiApplication application(argc, argv);
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().schema(0));
+    appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().visibleSchemata().value(0));
+    MvCalendarDocument document;
+    document.setAppearance(appearance);
+
+    const MvPageSource pages = document.pageSource();
+    const MvExportResult result = MvPdfExporter::write(pages, QFileInfo(QString::fromLocal8Bit(argv[1])));
+    QTextStream(stdout) << (result.isOk() ? QString::number(pages.pages.size()) : result.error) << '\n';
     return 0;
 }

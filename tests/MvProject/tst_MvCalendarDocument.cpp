@@ -1,0 +1,127 @@
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvPageSource.h"
+#include "MvTest.h"
+
+#include <QDomDocument>
+#include <QImage>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+class tst_MvCalendarDocument : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void pages_data();
+    void pages();
+    void paintsTheMargins_data();
+    void paintsTheMargins();
+    void withoutSchemasThereIsNothing();
+
+private:
+    static MvCalendarDocument document(const QString &colors);
+};
+
+MvCalendarDocument tst_MvCalendarDocument::document(const QString &colors)
+{
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().schema(0));
+    appearance.setColorSchemaById(MvCalendariumColorSchemaID(colors));
+    MvCalendarDocument document;
+    document.setAppearance(appearance);
+    document.setRange(MvDateRange(QDate(2027, 2, 1), QDate(2027, 2, 28)));
+    document.setFormat(MvPageFormat::fromName(u"A6"_s));
+    return document;
+}
+
+void tst_MvCalendarDocument::pages_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QDate>("start");
+    QTest::addColumn<QDate>("end");
+    QTest::addColumn<QList<QDate>>("pages");
+    QTest::newRow("a page per month, over the year's end")
+        << u"CALENDAR_ONE_WEEK_PER_ROW"_s << QDate(2026, 11, 1) << QDate(2027, 1, 31)
+        << QList<QDate>{QDate(2026, 11, 1), QDate(2026, 12, 1), QDate(2027, 1, 1)};
+    QTest::newRow("a page per year") << u"CALENDAR_YEAR"_s << QDate(2026, 8, 1) << QDate(2028, 7, 31)
+                                     << QList<QDate>{QDate(2026, 8, 1), QDate(2027, 8, 1)};
+    QTest::newRow("a year that has begun") << u"CALENDAR_YEAR_ONLY"_s << QDate(2026, 1, 1) << QDate(2027, 1, 31)
+                                           << QList<QDate>{QDate(2026, 1, 1), QDate(2027, 1, 1)};
+    QTest::newRow("a range the wrong way round")
+        << u"CALENDAR_MONTH_ONLY"_s << QDate(2027, 1, 1) << QDate(2026, 1, 1) << QList<QDate>{};
+}
+
+void tst_MvCalendarDocument::pages()
+{
+    QFETCH(const QString, type);
+    QFETCH(const QDate, start);
+    QFETCH(const QDate, end);
+    QFETCH(const QList<QDate>, pages);
+    QDomDocument xml;
+    QDomElement element = xml.createElement(u"calendararea"_s);
+    element.setAttribute(u"layoutschema"_s, u"TEST"_s);
+    element.setAttribute(u"type"_s, type);
+    MvCalendarDocument calendar = document(u"NIGHT"_s);
+    MvCalendariumAppearance appearance = calendar.appearance();
+    appearance.setLayoutSchema(MvCalendariumLayoutSchema(element));
+    calendar.setAppearance(appearance);
+    calendar.setRange(MvDateRange(start, end));
+    QCOMPARE(calendar.pages(), pages);
+    QCOMPARE(calendar.pageSource().pages, pages);
+}
+
+void tst_MvCalendarDocument::paintsTheMargins_data()
+{
+    QTest::addColumn<QString>("colors");
+    QTest::addColumn<QColor>("margin");
+    QTest::newRow("dark page") << u"NIGHT"_s << QColor(u"#1A2130"_s);
+    QTest::newRow("paper shows through") << u"PAPER_WHITE"_s << QColor(Qt::green);
+}
+
+void tst_MvCalendarDocument::paintsTheMargins()
+{
+    QFETCH(const QString, colors);
+    QFETCH(const QColor, margin);
+    const MvCalendarDocument calendar = document(colors);
+    QImage image(106, 149, QImage::Format_RGB32); // a pixel per millimetre
+    image.fill(Qt::green);
+    QPainter painter(&image);
+    const MvPageSource source = calendar.pageSource();
+    source.paintPage(painter, 0, {}, 0.1);
+    painter.end();
+
+    const QRect content =
+        QRectF(calendar.format().contentRect().topLeft() / 10, calendar.format().contentRect().size() / 10)
+            .toAlignedRect()
+            .adjusted(-1, -1, 1, 1);
+    bool isPaintedInside = false;
+    for (int y = 0; y < 148; ++y) {
+        for (int x = 0; x < 105; ++x) {
+            if (content.contains(x, y))
+                isPaintedInside |= image.pixelColor(x, y) != margin;
+            else
+                QCOMPARE(image.pixelColor(x, y), margin);
+        }
+    }
+    QVERIFY(isPaintedInside);
+}
+
+void tst_MvCalendarDocument::withoutSchemasThereIsNothing()
+{
+    const MvCalendarDocument empty;
+    QVERIFY(!empty.isValid());
+    QVERIFY(!empty.pageSource().error().isEmpty());
+    QImage image(50, 50, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    const QImage before = image;
+    QPainter painter(&image);
+    empty.paint(painter, 0);
+    document(u"NIGHT"_s).paint(painter, 1); // a page that there is not
+    painter.end();
+    QCOMPARE(image, before);
+}
+
+MV_TEST_MAIN(tst_MvCalendarDocument)
+#include "tst_MvCalendarDocument.moc"

@@ -1,0 +1,444 @@
+#include "MvTest.h"
+
+#include <QDirIterator>
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+/// Runs the program as a person does: what it prints, what it writes, how it ends.
+class tst_mvcalendar : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanup() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void refuses_data();
+    void refuses();
+    void help_data();
+    void help();
+    void holidays_data();
+    void holidays();
+    void holidayFormatsAgree();
+    void regionByNameOrCode();
+    void vacationsEnd();
+    void lists_data();
+    void lists();
+    void regions();
+    void rendersPdf_data();
+    void rendersPdf();
+    void rendersPng();
+    void entries();
+    void noEntries_data();
+    void noEntries();
+    void damagedEntries_data();
+    void damagedEntries();
+    void unknownFont();
+    void brokenOutput();
+
+private:
+    struct Call {
+        int exitCode = -1;
+        QByteArray out;
+        QByteArray err;
+
+        QList<QByteArray> outLines() const { return out.trimmed().split('\n'); }
+    };
+    Call run(const QStringList &arguments) const;
+    QStringList files() const { return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    void write(const QString &path, const QByteArray &content) const;
+    QList<QImage> render(const QStringList &extraArguments) const;
+
+    QDir m_userFolder;
+    std::unique_ptr<QTemporaryDir> m_folder; // the program's working directory
+};
+
+namespace
+{
+
+QByteArray entriesFile(const QByteArray &name, const QByteArray &date)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<CalendarEvents>\n"
+           "  <CalendarEvent>\n    <Name>" +
+           name + "</Name>\n    <DateTime>" + date +
+           "T00:00:00</DateTime>\n    <Recurrent>true</Recurrent>\n"
+           "    <UUID>{6f1a2a2e-7a53-4f0e-9d55-0d0f6f5b1c01}</UUID>\n  </CalendarEvent>\n</CalendarEvents>\n";
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+void tst_mvcalendar::initTestCase()
+{
+    cleanup();
+    m_userFolder = QDir(qEnvironmentVariable("MVCALENDAR_DATA"));
+    QVERIFY(m_userFolder.mkpath(u"."_s));
+}
+
+tst_mvcalendar::Call tst_mvcalendar::run(const QStringList &arguments) const
+{
+    QProcess process;
+    process.setWorkingDirectory(m_folder->path());
+    process.start(QStringLiteral(MV_PROGRAM), arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        return {-1, {}, "did not end by itself"};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+void tst_mvcalendar::write(const QString &path, const QByteArray &content) const
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+/// January to March 2027 as small pictures.
+QList<QImage> tst_mvcalendar::render(const QStringList &extraArguments) const
+{
+    const QStringList arguments = QStringList{u"render"_s, u"--from"_s, u"2027-01"_s, u"--months"_s, u"3"_s,
+                                              u"--dpi"_s,  u"60"_s,     u"-o"_s,      u"p-%m.png"_s} +
+                                  extraArguments;
+    const Call call = run(arguments);
+    QList<QImage> pages;
+    for (const QByteArray &line : call.outLines())
+        pages.append(QImage(path(QString::fromUtf8(line))));
+    return call.exitCode == 0 && call.err.isEmpty() ? pages : QList<QImage>();
+}
+
+void tst_mvcalendar::refuses_data()
+{
+    QTest::addColumn<QString>("arguments"); // blanks part them
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("words"); // of the one line on stderr
+    const auto row = [](const char *name, const QString &arguments, int exitCode, const QStringList &words) {
+        QTest::newRow(name) << arguments << exitCode << words;
+    };
+    row("no command", QString(), 2, {u"render"_s, u"holidays"_s, u"regions"_s});
+    row("unknown command", u"holiday"_s, 2, {u"„holiday“"_s, u"meinten Sie „holidays“"_s});
+    row("unknown option", u"render --regoin BY -o a.pdf"_s, 2, {u"--regoin"_s, u"meinten Sie „--region“"_s});
+    row("option of another command", u"layouts --year 2027"_s, 2, {u"--year"_s});
+    row("missing value", u"render -o a.pdf --region"_s, 2, {u"--region"_s});
+    row("year that is none", u"render --year 20x7 -o a.pdf"_s, 2, {u"20x7"_s, u"1583"_s, u"9999"_s});
+    row("year before the calendar", u"holidays --year 1500"_s, 2, {u"1500"_s, u"1583"_s});
+    row("years the wrong way round", u"holidays --year 2027 --to 2026"_s, 2, {u"2026"_s, u"2027"_s});
+    row("month that is none", u"render --from 2026-13 -o a.pdf"_s, 2, {u"2026-13"_s, u"2026-08"_s});
+    row("no months", u"render --from 2026-08 --months 0 -o a.pdf"_s, 2, {u"--months"_s, u"1 bis 120"_s});
+    row("year and first month", u"render --year 2027 --from 2026-08 -o a.pdf"_s, 2, {u"--year"_s, u"--from"_s});
+    row("unknown country", u"regions --country ZZ"_s, 2, {u"ZZ"_s, u"DE, AT, CH"_s});
+    row("unknown region", u"holidays --region Bayer"_s, 2, {u"Deutschland"_s, u"BY"_s, u"meinten Sie „Bayern“"_s});
+    row("region of another country", u"holidays --country AT --region BY"_s, 2, {u"BY"_s, u"Österreich"_s});
+    row("unknown layout", u"render --layout MONTH_GRID_CLASIC -o a.pdf"_s, 2,
+        {u"MONTH_GRID_LINES"_s, u"meinten Sie „MONTH_GRID_CLASSIC“"_s});
+    row("unknown colours", u"render --colors PAPER_WHIT -o a.pdf"_s, 2, {u"NIGHT"_s, u"meinten Sie „PAPER_WHITE“"_s});
+    row("unknown paper", u"render --page A9 -o a.pdf"_s, 2, {u"A9"_s, u"A0, A1"_s});
+    row("upright and across", u"render --landscape --portrait -o a.pdf"_s, 2, {u"--portrait"_s});
+    row("too much bleed", u"render --bleed 21 -o a.pdf"_s, 2, {u"21"_s, u"20"_s});
+    row("too few dots", u"render --dpi 5 -o a.png"_s, 2, {u"10 bis 1200"_s});
+    row("no output", u"render --year 2027"_s, 2, {u"-o"_s, u".pdf"_s});
+    row("suffix", u"render -o a.docx"_s, 2, {u"a.docx"_s, u".pdf, .png oder .svg"_s});
+    row("one name for twelve pictures", u"render -o a.png"_s, 2, {u"a.png"_s, u"%m"_s});
+    row("unknown placeholder", u"render -o %q.png"_s, 2, {u"%q.png"_s, u"%m"_s});
+    row("second target is wrong", u"render -o a.pdf -o b.txt"_s, 2, {u"b.txt"_s});
+    row("unknown format", u"holidays --format cvs"_s, 2, {u"text, csv, json"_s, u"meinten Sie „csv“"_s});
+    row("folder that is not there", u"render -o nowhere/a.pdf"_s, 1, {u"nowhere"_s});
+    row("folder that is a file", u"render -o /proc/version/a.pdf"_s, 1, {u"/proc/version"_s});
+    row("folder that takes nothing", u"render -o /proc/a.pdf"_s, 1, {u"/proc/a.pdf"_s});
+    row("entries that are not there", u"render --entries gone.xml -o a.pdf"_s, 1, {u"gone.xml"_s});
+    row("both kinds of entries", u"render --entries a.xml --my-entries -o a.pdf"_s, 2, {u"--my-entries"_s});
+}
+
+void tst_mvcalendar::refuses()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const int, exitCode);
+    QFETCH(const QStringList, words);
+    const Call call = run(arguments.split(u' ', Qt::SkipEmptyParts));
+    QCOMPARE(call.exitCode, exitCode);
+    QCOMPARE(call.out, QByteArray());
+    QVERIFY2(call.err.startsWith("mvcalendar: ") && call.err.endsWith('\n'), call.err.constData());
+    QCOMPARE(call.err.count('\n'), 1);
+    for (const QString &word : words)
+        QVERIFY2(QString::fromUtf8(call.err).contains(word), call.err.constData());
+    QCOMPARE(files(), QStringList()); // nothing half written
+}
+
+void tst_mvcalendar::help_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("word");
+    QTest::newRow("program") << u"--help"_s << u"Rückgabewerte"_s;
+    QTest::newRow("command by option") << u"render --year x --help"_s << u"--entries DATEI"_s;
+    QTest::newRow("command by help") << u"help holidays"_s << u"mvcalendar holidays --country DE"_s;
+}
+
+void tst_mvcalendar::help()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const QString, word);
+    const Call call = run(arguments.split(u' '));
+    QCOMPARE(call.exitCode, 0);
+    QCOMPARE(call.err, QByteArray());
+    QVERIFY(call.out.contains("Beispiele:"));
+    QVERIFY2(QString::fromUtf8(call.out).contains(word), call.out.constData());
+}
+
+void tst_mvcalendar::holidays_data()
+{
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<QByteArray>("row"); // as published by the states' ministries
+    QTest::addColumn<bool>("isThere");
+    QTest::newRow("everywhere") << u"BE"_s << QByteArray("2027-03-29,public,Ostermontag") << true;
+    QTest::newRow("in the state") << u"BY"_s << QByteArray("2027-05-27,public,Fronleichnam") << true;
+    QTest::newRow("in another state") << u"BE"_s << QByteArray("2027-05-27,public,Fronleichnam") << false;
+    QTest::newRow("in a part of the state") << u"BY-A"_s << QByteArray("2027-08-08,public,Augsburger") << true;
+    QTest::newRow("not a day off") << u"BY"_s << QByteArray("2027-05-09,observance,Muttertag") << true;
+    QTest::newRow("first vacation day") << u"BY"_s << QByteArray("2027-08-02,vacation,Sommerferien") << true;
+    QTest::newRow("last vacation day") << u"BY"_s << QByteArray("2027-09-13,vacation,Sommerferien") << true;
+    QTest::newRow("after it") << u"BY"_s << QByteArray("2027-09-14,vacation") << false;
+}
+
+void tst_mvcalendar::holidays()
+{
+    QFETCH(const QString, region);
+    QFETCH(const QByteArray, row);
+    QFETCH(const bool, isThere);
+    const Call call = run({u"holidays"_s, u"--country"_s, u"DE"_s, u"--region"_s, region, u"--year"_s, u"2027"_s,
+                           u"--format"_s, u"csv"_s});
+    QCOMPARE(call.exitCode, 0);
+    QVERIFY(call.out.startsWith("date,type,name\n"));
+    QCOMPARE(call.out.contains('\n' + row), isThere);
+}
+
+void tst_mvcalendar::holidayFormatsAgree()
+{
+    const QStringList arguments{u"holidays"_s, u"--region"_s, u"SN"_s, u"--year"_s, u"2026"_s, u"--to"_s, u"2027"_s};
+    const Call csv = run(arguments + QStringList{u"--format"_s, u"csv"_s});
+    const Call json = run(arguments + QStringList{u"--format"_s, u"json"_s});
+    const QJsonArray array = QJsonDocument::fromJson(json.out).array();
+    const QList<QByteArray> lines = csv.outLines().mid(1);
+    QCOMPARE(array.size(), lines.size());
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QJsonObject holiday = array[i].toObject();
+        const QList<QByteArray> fields = lines[i].split(',');
+        QCOMPARE(holiday[u"date"_s].toString().toUtf8(), fields.value(0));
+        QCOMPARE(holiday[u"type"_s].toString().toUtf8(), fields.value(1));
+        QVERIFY(QByteArrayList({"public", "optional", "observance", "vacation"}).contains(fields.value(1)));
+        QCOMPARE(holiday[u"name"_s].toString().toUtf8(), fields.mid(2).join(',').replace('"', ""));
+        QVERIFY2(!fields.value(2).isEmpty(), lines[i].constData());
+    }
+    QVERIFY(csv.out.contains("\n2026-11-18,public,") && csv.out.contains("\n2027-11-17,public,")); // Buß- und Bettag
+    QVERIFY(std::is_sorted(lines.cbegin(), lines.cend(),
+                           [](const QByteArray &a, const QByteArray &b) { return a.left(10) < b.left(10); }));
+
+    const Call text = run(arguments);
+    QCOMPARE(text.exitCode, 0);
+    QVERIFY(text.out.contains("Mi. 17.11.2027"));
+    QVERIFY(text.outLines().size() < lines.size()); // vacations are one line each
+}
+
+void tst_mvcalendar::regionByNameOrCode()
+{
+    const QStringList arguments{u"holidays"_s, u"--year"_s, u"2027"_s, u"--region"_s};
+    const QByteArray byCode = run(arguments + QStringList{u"BW"_s}).out;
+    QVERIFY(!byCode.isEmpty());
+    QCOMPARE(run(arguments + QStringList{u"Baden-Württemberg"_s}).out, byCode);
+    QCOMPARE(run(arguments + QStringList{u"bw"_s, u"--country"_s, u"Deutschland"_s}).out, byCode);
+}
+
+void tst_mvcalendar::vacationsEnd()
+{
+    const Call call = run({u"holidays"_s, u"--region"_s, u"BY"_s, u"--year"_s, u"2060"_s, u"--format"_s, u"csv"_s});
+    QCOMPARE(call.exitCode, 0);
+    QVERIFY2(QRegularExpression(u"^mvcalendar: Ferien BY bis 20\\d\\d-\\d\\d\n$"_s)
+                 .match(QString::fromUtf8(call.err))
+                 .hasMatch(),
+             call.err.constData());
+    QVERIFY(call.out.contains("2060-12-25,public,"));
+    QVERIFY(!call.out.contains(",vacation,"));
+}
+
+void tst_mvcalendar::lists_data()
+{
+    QTest::addColumn<QString>("command");
+    QTest::newRow("layouts") << u"layouts"_s;
+    QTest::newRow("colors") << u"colors"_s;
+}
+
+void tst_mvcalendar::lists()
+{
+    QFETCH(const QString, command);
+    const Call json = run({command, u"--format"_s, u"json"_s});
+    const QList<QByteArray> lines = run({command}).outLines();
+    const QJsonArray array = QJsonDocument::fromJson(json.out).array();
+    QVERIFY(array.size() >= 2);
+    QCOMPARE(lines.size(), array.size());
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        const QString id = array[i][u"id"_s].toString();
+        const QString name = array[i][u"name"_s].toString();
+        QVERIFY(!id.isEmpty() && !name.isEmpty());
+        QCOMPARE(QString::fromUtf8(lines[i]).section(u' ', 0, 0), id);
+        QVERIFY(QString::fromUtf8(lines[i]).endsWith(u"  "_s + name));
+    }
+}
+
+void tst_mvcalendar::regions()
+{
+    const Call germany = run({u"regions"_s, u"--country"_s, u"DE"_s});
+    QCOMPARE(germany.exitCode, 0);
+    for (const char *state : {"BW ", "BY ", "BE ", "BB ", "HB ", "HH ", "HE ", "MV ", "NI ", "NW ", "RP ", "SL ", "SN ",
+                              "ST ", "SH ", "TH "})
+        QVERIFY2(germany.out.contains("DE  " + QByteArray(state)), state);
+    QVERIFY(germany.out.contains("Thüringen"));
+
+    const Call everywhere = run({u"regions"_s, u"--format"_s, u"json"_s});
+    QSet<QString> countries;
+    for (const QJsonValue value : QJsonDocument::fromJson(everywhere.out).array())
+        countries.insert(value[u"country"_s].toString());
+    QVERIFY(countries.contains({u"DE"_s, u"AT"_s, u"CH"_s}));
+
+    QVERIFY(run({u"regions"_s, u"--country"_s, u"CH"_s, u"--language"_s, u"fr"_s}).out.contains("Genève"));
+}
+
+void tst_mvcalendar::rendersPdf_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<QString>("size"); // as pdfinfo prints it
+    QTest::newRow("a year on A4") << u"--year 2027 --landscape"_s << 12 << u"841.89 x 595.276 pts"_s;
+    QTest::newRow("a school year, upright A3")
+        << u"--from 2026-08 --months 13 --page A3 --portrait"_s << 13 << u"841.89 x 1190.55 pts"_s;
+    QTest::newRow("own size with bleed") << u"--months 1 --page 300x200 --bleed 3"_s << 1 << u"867.402 x 583.937 pts"_s;
+    QTest::newRow("another country and layout")
+        << u"--year 2027 --country AT --region Tirol --layout MONTH_ONLY --colors NIGHT"_s << 12
+        << u"841.89 x 595.276 pts"_s;
+}
+
+void tst_mvcalendar::rendersPdf()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const int, pages);
+    QFETCH(const QString, size);
+    const Call call = run(QStringList{u"render"_s, u"-o"_s, u"k.pdf"_s} + arguments.split(u' '));
+    QCOMPARE(call.err, QByteArray());
+    QCOMPARE(call.exitCode, 0);
+    QCOMPARE(call.out, QByteArray("k.pdf\n"));
+    QCOMPARE(files(), QStringList{u"k.pdf"_s});
+
+    QProcess pdfinfo;
+    pdfinfo.start(u"pdfinfo"_s, {path(u"k.pdf"_s)});
+    QVERIFY(pdfinfo.waitForFinished());
+    const QString info = QString::fromUtf8(pdfinfo.readAllStandardOutput());
+    QVERIFY2(info.contains(QRegularExpression(u"Pages: +%1\n"_s.arg(pages))), qPrintable(info));
+    QVERIFY2(info.contains(QRegularExpression(u"Page size: +%1"_s.arg(size))), qPrintable(info));
+}
+
+void tst_mvcalendar::rendersPng()
+{
+    const Call call = run({u"render"_s, u"--from"_s, u"2026-12"_s, u"--months"_s, u"2"_s, u"-o"_s, u"s-%y-%m.png"_s,
+                           u"-o"_s, u"k.pdf"_s, u"--dpi"_s, u"127"_s});
+    QCOMPARE(call.err, QByteArray());
+    QCOMPARE(call.out, QByteArray("s-2026-12.png\ns-2027-01.png\nk.pdf\n"));
+    QCOMPARE(files(), (QStringList{u"k.pdf"_s, u"s-2026-12.png"_s, u"s-2027-01.png"_s}));
+    const QImage december(path(u"s-2026-12.png"_s));
+    QCOMPARE(december.size(), QSize(1485, 1050)); // 5 pixels per millimetre
+    QCOMPARE(december.dotsPerMeterX(), 5000);
+    QVERIFY(december != QImage(path(u"s-2027-01.png"_s)));
+}
+
+void tst_mvcalendar::entries()
+{
+    const QString own = m_userFolder.filePath(u"calendarEvents.xml"_s);
+    const QByteArray ownContent = entriesFile("Oma Erna", "1950-03-10");
+    write(own, ownContent);
+    write(path(u"other.xml"_s), entriesFile("Klaus", "1980-02-03"));
+
+    const QList<QImage> blank = render({});
+    const QList<QImage> mine = render({u"--my-entries"_s});
+    const QList<QImage> others = render({u"--entries"_s, u"other.xml"_s});
+    QCOMPARE(blank.size(), 3);
+    QVERIFY(mine.size() == 3 && mine[0] == blank[0] && mine[1] == blank[1] && mine[2] != blank[2]);
+    QVERIFY(others.size() == 3 && others[0] == blank[0] && others[1] != blank[1] && others[2] == blank[2]);
+
+    QCOMPARE(contentOf(own), ownContent);
+    QDirIterator written(m_userFolder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (written.hasNext())
+        QCOMPARE(written.next(), own);
+    QVERIFY(QFile::remove(own));
+}
+
+void tst_mvcalendar::noEntries_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("none") << QByteArray("<CalendarEvents/>");
+    QTest::newRow("without a name") << entriesFile("", "1980-02-03");
+    QTest::newRow("another kind of document") << QByteArray("<html/>");
+}
+
+void tst_mvcalendar::noEntries()
+{
+    QFETCH(const QByteArray, content);
+    const QList<QImage> blank = render({});
+    const QString own = m_userFolder.filePath(u"calendarEvents.xml"_s);
+    write(own, entriesFile("Oma Erna", "1950-03-10"));
+    write(path(u"none.xml"_s), content);
+    const Call call = run({u"render"_s, u"--from"_s, u"2027-03"_s, u"--months"_s, u"1"_s, u"--dpi"_s, u"60"_s,
+                           u"--entries"_s, u"none.xml"_s, u"-o"_s, u"p.png"_s});
+    QCOMPARE(call.exitCode, 0);
+    QVERIFY2(call.err.contains("none.xml: keine Einträge") && call.err.count('\n') == 1, call.err.constData());
+    QCOMPARE(QImage(path(u"p.png"_s)), blank.value(2)); // the user's own ones do not step in
+    QVERIFY(QFile::remove(own));
+}
+
+void tst_mvcalendar::damagedEntries_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("place");
+    QTest::newRow("cut off") << entriesFile("Klaus", "1980-02-03").left(120) << u"bad.xml:5:"_s;
+    QTest::newRow("wrong end tag") << QByteArray("<CalendarEvents>\n<CalendarEvent></Name>") << u"bad.xml:2:"_s;
+    QTest::newRow("something else") << QByteArray("%PDF-1.5") << u"bad.xml:1:"_s;
+    QTest::newRow("empty") << QByteArray() << u"bad.xml"_s;
+}
+
+void tst_mvcalendar::damagedEntries()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, place);
+    write(path(u"bad.xml"_s), content);
+    const Call call = run({u"render"_s, u"--entries"_s, u"bad.xml"_s, u"-o"_s, u"k.pdf"_s});
+    QCOMPARE(call.exitCode, 1);
+    QCOMPARE(call.err.count('\n'), 1);
+    QVERIFY2(QString::fromUtf8(call.err).contains(place), call.err.constData());
+    QCOMPARE(files(), QStringList{u"bad.xml"_s});
+}
+
+void tst_mvcalendar::unknownFont()
+{
+    const Call call = run({u"render"_s, u"--months"_s, u"1"_s, u"--font"_s, u"Gibtsnicht Sans"_s, u"-o"_s, u"k.pdf"_s});
+    QCOMPARE(call.exitCode, 0);
+    QVERIFY2(call.err.contains("Gibtsnicht Sans") && call.err.count('\n') == 1, call.err.constData());
+}
+
+void tst_mvcalendar::brokenOutput()
+{
+    QProcess process;
+    process.setStandardOutputFile(u"/dev/full"_s);
+    process.start(QStringLiteral(MV_PROGRAM), {u"layouts"_s});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(process.readAllStandardError().count('\n'), 1);
+}
+
+MV_TEST_MAIN(tst_mvcalendar)
+#include "tst_mvcalendar.moc"
