@@ -20,6 +20,7 @@ int main(int argc, char **argv)
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(QStringLiteral("MONTH_GRID_CLASSIC")));
     appearance.setColorSchemaById(MvCalendariumColorSchemaID(QStringLiteral("WARM_PAPER")));
+    appearance.adaptGridToLayout();
 
     MvPageFormat page = MvPageFormat::fromName(QStringLiteral("A3"));
     page.setOrientation(MvPageFormat::Orientation::Landscape);

@@ -174,6 +174,7 @@ MvCalendariumAppearance MvRenderCommand::appearance(MvCliValues &values)
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(schemaId(values, u"layout"_s, Kind::Layouts)));
     appearance.setColorSchemaById(MvCalendariumColorSchemaID(schemaId(values, u"colors"_s, Kind::Colors)));
+    appearance.adaptGridToLayout();
     appearance.setShowHolidays(!values.has(u"no-holidays"_s));
     if (values.has(u"font"_s)) {
         MvCalendariumFontSettings settings = appearance.fontSettings();
