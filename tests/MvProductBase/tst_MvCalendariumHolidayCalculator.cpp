@@ -4,9 +4,11 @@
 #include "MvTest.h"
 
 #include <QDir>
-#include <QThread>
 
 #include <algorithm>
+#include <atomic>
+#include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -263,24 +265,21 @@ void tst_MvCalendariumHolidayCalculator::answersManyThreads()
     const QStringList locales = {u"de_DE"_s, u"de_AT"_s, u"fr_CH"_s, u"en_GB"_s};
     const MvCalendariumHolidayList expected = holidays(2027, u"de_DE"_s, u"BY"_s);
     std::atomic<int> wrong = 0;
-    QList<QThread *> threads;
+    std::vector<std::thread> threads; // not QThread: the sanitizer does not see through its waiting
     for (int i = 0; i < 4; ++i) {
-        threads.append(QThread::create([&] {
+        threads.emplace_back([&] {
             for (int round = 0; round < 20; ++round) {
                 for (const QString &locale : locales)
                     holidays(2027, locale, QString(), FEATURE_SCHOOL_VACATIONS);
                 if (!(holidays(2027, u"de_DE"_s, u"BY"_s) == expected))
                     ++wrong;
             }
-        }));
-        threads.last()->start();
+        });
     }
     for (int i = 0; i < 3; ++i)
         MvCalendariumHolidayCalculator::instance().reloadData();
-    for (QThread *thread : std::as_const(threads)) {
-        QVERIFY(thread->wait());
-        delete thread;
-    }
+    for (std::thread &thread : threads)
+        thread.join();
     QCOMPARE(wrong.load(), 0);
 }
 
