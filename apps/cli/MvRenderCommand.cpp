@@ -129,6 +129,8 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     document.setHolidayConfig(config);
     hintAtMissingFonts(document.appearance(), streams.hints);
     MvVacationHint::print(config, document.range().end(), streams.hints);
+    if (config.hasFeatures(FEATURE_ENTRIES))
+        hintAtLeapDayEntries(document.range(), streams.hints);
 
     const MvPageSource pages = document.pageSource();
     for (const QString &path : arguments.values(u"output"_s)) {
@@ -226,4 +228,21 @@ void MvRenderCommand::hintAtMissingFonts(const MvCalendariumAppearance &appearan
     if (!families.isEmpty())
         hints << tr("Schrift nicht installiert, eine andere tritt an ihre Stelle: %1").arg(families.join(u", "_s))
               << '\n';
+}
+
+// an entry of 29 February is printed in leap years alone; nobody should miss a birthday without knowing
+void MvRenderCommand::hintAtLeapDayEntries(const MvDateRange &range, QTextStream &hints)
+{
+    for (int year = range.start().year(); year <= range.end().year(); ++year) {
+        if (QDate::isLeapYear(year) && range.contains(QDate(year, 2, 29)))
+            return;
+    }
+    QStringList names;
+    for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList()) {
+        const QDate date = event.dateTime().date();
+        if (date.month() == 2 && date.day() == 29)
+            names.append(event.description());
+    }
+    if (!names.isEmpty())
+        hints << tr("29. Februar gibt es im gedruckten Zeitraum nicht: %1").arg(names.join(u", "_s)) << '\n';
 }

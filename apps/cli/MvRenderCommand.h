@@ -25,5 +25,6 @@ private:
     /// Loads what was asked for; whether there are entries to print. An unreadable file gives an error, one without
     /// entries a hint.
     static bool loadEntries(const MvCliValues &values, QString *error, QTextStream &hints);
+    static void hintAtLeapDayEntries(const MvDateRange &range, QTextStream &hints);
     static void hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints);
 };

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void noEntries();
     void damagedEntries_data();
     void damagedEntries();
+    void leapDayEntries();
     void unknownFont();
     void brokenOutput();
 
@@ -421,6 +422,18 @@ void tst_mvcalendar::damagedEntries()
     QCOMPARE(call.err.count('\n'), 1);
     QVERIFY2(QString::fromUtf8(call.err).contains(place), call.err.constData());
     QCOMPARE(files(), QStringList{u"bad.xml"_s});
+}
+
+void tst_mvcalendar::leapDayEntries()
+{
+    write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-02-29"));
+    const QStringList arguments{u"render"_s, u"--entries"_s, u"e.xml"_s, u"-o"_s, u"k.pdf"_s, u"--year"_s};
+    const Call common = run(arguments + QStringList{u"2027"_s});
+    QCOMPARE(common.exitCode, 0);
+    QVERIFY2(common.err.contains("Gudrun"), common.err.constData());
+    const Call leap = run(arguments + QStringList{u"2028"_s});
+    QCOMPARE(leap.exitCode, 0);
+    QVERIFY2(!leap.err.contains("Gudrun"), leap.err.constData());
 }
 
 void tst_mvcalendar::unknownFont()
