@@ -1,6 +1,8 @@
-// What a month page costs: a pass of the renderer beside the page's primitives painted straight, on A4 at 300 dpi.
+// What a page costs, for each shipped layout: a pass of the renderer beside the page's primitives painted straight, and
+// beside recording the pass alone. A4 at 300 dpi.
 
 #include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvModelBase/MvPaintRecorder.h"
@@ -36,10 +38,10 @@ void prepare(QPainter &painter)
     painter.scale(scale, scale);
 }
 
-std::unique_ptr<MvCalendariumRenderer> makeRenderer()
+std::unique_ptr<MvCalendariumRenderer> makeRenderer(const MvCalendariumLayoutSchemaID &layout)
 {
     MvCalendariumAppearance appearance;
-    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_GRID_CLASSIC"_s));
+    appearance.setLayoutSchemaByID(layout);
     appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
     appearance.adaptGridToLayout();
     std::unique_ptr<MvCalendariumRenderer> renderer(
@@ -50,9 +52,9 @@ std::unique_ptr<MvCalendariumRenderer> makeRenderer()
     return renderer;
 }
 
-QList<MvPaintRecording::Item> primitives()
+QList<MvPaintRecording::Item> primitives(const MvCalendariumLayoutSchemaID &layout)
 {
-    const auto renderer = makeRenderer();
+    const auto renderer = makeRenderer(layout);
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -74,9 +76,9 @@ void paintStraight(QPainter &painter, const QList<MvPaintRecording::Item> &items
     }
 }
 
-void MonthPagePrimitivesStraight(benchmark::State &state)
+void primitivesStraight(benchmark::State &state, const MvCalendariumLayoutSchemaID &layout)
 {
-    const QList<MvPaintRecording::Item> items = primitives();
+    const QList<MvPaintRecording::Item> items = primitives(layout);
     QImage image = page();
     for (auto _ : state) {
         QPainter painter(&image);
@@ -86,9 +88,9 @@ void MonthPagePrimitivesStraight(benchmark::State &state)
     state.counters["items"] = double(items.size());
 }
 
-void MonthPagePass(benchmark::State &state)
+void pass(benchmark::State &state, const MvCalendariumLayoutSchemaID &layout)
 {
-    const auto renderer = makeRenderer();
+    const auto renderer = makeRenderer(layout);
     QImage image = page();
     for (auto _ : state) {
         QPainter painter(&image);
@@ -97,9 +99,9 @@ void MonthPagePass(benchmark::State &state)
     }
 }
 
-void MonthPageLayoutAlone(benchmark::State &state)
+void recordingAlone(benchmark::State &state, const MvCalendariumLayoutSchemaID &layout)
 {
-    const auto renderer = makeRenderer();
+    const auto renderer = makeRenderer(layout);
     MvPaintRecorder recorder(nullptr);
     for (auto _ : state) {
         QPainter painter(&recorder);
@@ -107,9 +109,18 @@ void MonthPageLayoutAlone(benchmark::State &state)
     }
 }
 
-BENCHMARK(MonthPagePrimitivesStraight)->Unit(benchmark::kMillisecond);
-BENCHMARK(MonthPagePass)->Unit(benchmark::kMillisecond);
-BENCHMARK(MonthPageLayoutAlone)->Unit(benchmark::kMillisecond);
+void registerBenchmarks()
+{
+    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        const MvCalendariumLayoutSchemaID id = schema.ID();
+        const std::string name = id.toString().toStdString();
+        benchmark::RegisterBenchmark((name + "/straight").c_str(), primitivesStraight, id)
+            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark((name + "/pass").c_str(), pass, id)->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark((name + "/recording").c_str(), recordingAlone, id)
+            ->Unit(benchmark::kMillisecond);
+    }
+}
 
 } // namespace
 
@@ -118,6 +129,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
+    registerBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }
