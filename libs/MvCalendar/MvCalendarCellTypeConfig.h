@@ -7,6 +7,11 @@
 class MvCalendarCellTypeConfig
 {
 public:
+    /// One type for both.
+    explicit MvCalendarCellTypeConfig(const MvCalendarCellType &type)
+        : MvCalendarCellTypeConfig(type, type)
+    {
+    }
     MvCalendarCellTypeConfig(const MvCalendarCellType &inscription, const MvCalendarCellType &color)
         : m_inscription(inscription)
         , m_color(color)

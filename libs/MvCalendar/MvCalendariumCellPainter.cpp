@@ -66,8 +66,8 @@ void MvCalendariumCellPainter::drawBorder(const QRectF &rect, const MvCalendarCe
     m_painter.restore();
 }
 
-void MvCalendariumCellPainter::drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config,
-                                        const QString &text, int flags, bool even)
+void MvCalendariumCellPainter::drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text,
+                                        int flags, bool even)
 {
     const QColor color = m_renderer.fontColor(config, even);
     if (!m_renderer.isOpaqueColor(color))
@@ -79,6 +79,37 @@ void MvCalendariumCellPainter::drawText(const QRectF &rect, const MvCalendarCell
     MvCalendariumTextPainter::drawText(m_painter, rect.marginsRemoved(m_renderer.padding(type)),
                                        alignment | Qt::TextDontClip, text);
     m_painter.restore();
+}
+
+void MvCalendariumCellPainter::drawFittingText(const QRectF &rect, const MvCalendarCellTypeConfig &config,
+                                               const QString &text, int flags, bool even, const QDate &date)
+{
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const double width = rect.marginsRemoved(m_renderer.padding(type)).intersected(rect).width();
+    const QString shown = MvCalendariumTextPainter::elided(static_cast<int>(width), m_renderer.font(type), text);
+    if (shown != text)
+        m_renderer.reportUnfitting(date, text, rect);
+    drawText(rect, config, shown, flags, even);
+}
+
+void MvCalendariumCellPainter::drawNumber(const QRectF &rect, const MvCalendarCellTypeConfig &config,
+                                          const QString &number, bool even, const QDate &date)
+{
+    const QFont font = m_renderer.font(config.inscriptionConfig());
+    if (MvCalendariumTextPainter::isTextToWide(static_cast<int>(rect.width()), font, number) ||
+        QFontMetricsF(font).capHeight() > rect.height())
+        m_renderer.reportUnfitting(date, number, rect);
+    else
+        drawText(rect, config, number, 0, even);
+}
+
+void MvCalendariumCellPainter::reportMissingTexts(const QRectF &rect, const QDate &date)
+{
+    if (!m_renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS)) // knows days by their colours alone
+        return;
+    const QStringList texts = m_renderer.describeHolidays(date);
+    if (!texts.isEmpty())
+        m_renderer.reportUnfitting(date, texts.join(u", "_s), rect);
 }
 
 void MvCalendariumCellPainter::preparePen(const QFont &font, const QColor &color)
@@ -97,8 +128,18 @@ void MvCalendariumCellPainter::drawDayNumber(const QRectF &rect, const QDate &da
             return; // the photo stands for the number
     } else {
         Q_EMIT m_renderer.rectForDateFound(date, rect);
+        reportMissingTexts(rect, date);
     }
-    drawText(rect, config, QString::number(date.day()), 0, even);
+    drawNumber(rect, config, QString::number(date.day()), even, date);
+}
+
+void MvCalendariumCellPainter::drawPlainDay(const QRectF &rect, const QDate &date, const QString &number)
+{
+    const bool even = m_renderer.isEvenWeek(date);
+    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
+    drawBackground(rect, config, even);
+    Q_EMIT m_renderer.rectForDateFound(date, rect);
+    drawNumber(rect, config, number, even, date);
 }
 
 bool MvCalendariumCellPainter::drawHoliday(const QRectF &rect, const QDate &date, bool even)
@@ -168,8 +209,7 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     const MvCalendarCellType &type = config.inscriptionConfig();
     const double vertical = rect.height() > largeCell ? largeCellMargin : smallCellMargin;
     const double horizontal = rect.width() > largeCell ? largeCellMargin : smallCellMargin;
-    QRectF inner =
-        rect.marginsRemoved(m_renderer.padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
+    QRectF inner = rect.marginsRemoved(m_renderer.padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
 
     const QImage picture = pictureWithin(date, inner.size());
     if (!picture.isNull()) {
@@ -189,8 +229,8 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     const QFontMetricsF metrics(m_painter.font());
     const int maxLines = std::max(1, static_cast<int>(inner.height() / metrics.height()));
     bool isCut = false;
-    const QStringList lines = MvCalendariumTextPainter::fitLines(static_cast<int>(inner.width()), maxLines,
-                                                                 m_painter.font(), {text}, &isCut);
+    const QStringList lines =
+        MvCalendariumTextPainter::fitLines(static_cast<int>(inner.width()), maxLines, m_painter.font(), {text}, &isCut);
     if (isCut || MvCalendariumTextPainter::isAnyTextToWide(static_cast<int>(inner.width()), m_painter.font(), lines))
         m_renderer.reportUnfitting(date, text, rect);
     QRectF line = inner;

@@ -24,13 +24,23 @@ public:
     void drawBackground(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even);
     void drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
                   bool even);
+    /// A text that is wider than the cell ends in an ellipsis and is reported for the date.
+    void drawFittingText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
+                         bool even, const QDate &date);
     void drawDayNumber(const QRectF &rect, const QDate &date);
+    /// The day without its texts and photo.
+    void drawPlainDay(const QRectF &rect, const QDate &date, const QString &number);
     /// True when a photo was drawn.
     bool drawHoliday(const QRectF &rect, const QDate &date, bool even);
     void drawHolidayWide(const QRectF &rect, const QDate &date, bool even);
     bool drawPicture(const QDate &date, const QRectF &rect);
 
 private:
+    /// A number that would run into its neighbours is left out and reported instead.
+    void drawNumber(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &number, bool even,
+                    const QDate &date);
+    /// Notes the texts of a day whose cell is too small for any, in layouts that show them.
+    void reportMissingTexts(const QRectF &rect, const QDate &date);
     void drawBorder(const QRectF &rect, const MvCalendarCellType &type);
     void preparePen(const QFont &font, const QColor &color);
     /// The texts broken into lines that leave the day number its place; what does not fit is reported.

@@ -2,7 +2,10 @@
 
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumRendererMonthOnly.h"
+#include "MvCalendar/MvCalendariumRendererOneColumnPerWeek.h"
+#include "MvCalendar/MvCalendariumRendererOneRow.h"
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
+#include "MvCalendar/MvCalendariumRendererTwoWeeksPerRow.h"
 
 #include <memory>
 
@@ -13,12 +16,15 @@ MvCalendariumRenderer *MvCalendariumRendererFactory::createRenderer(const MvCale
     switch (appearance.type().value()) {
     case CALENDAR_ONE_WEEK_PER_ROW:
         return new MvCalendariumRendererOneWeekPerRow(appearance);
-    case CALENDAR_TWO_WEEKS: // these have no renderer of their own yet
-    case CALENDAR_ONE_DAY_PER_ROW:
+    case CALENDAR_TWO_WEEKS:
+        return new MvCalendariumRendererTwoWeeksPerRow(appearance);
     case CALENDAR_ONE_COLUMN_PER_WEEK:
+        return new MvCalendariumRendererOneColumnPerWeek(appearance);
+    case CALENDAR_ONE_ROW:
+        return new MvCalendariumRendererOneRow(appearance);
+    case CALENDAR_ONE_DAY_PER_ROW: // these have no renderer of their own yet
     case CALENDAR_YEAR:
     case CALENDAR_YEAR_ONLY:
-    case CALENDAR_ONE_ROW:
     case CALENDAR_HOLIDAYS:
     case CALENDAR_MONTH_ONLY:
         break;

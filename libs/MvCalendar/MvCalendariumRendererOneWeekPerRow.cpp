@@ -4,18 +4,6 @@
 
 #include <algorithm>
 
-namespace {
-
-constexpr int daysPerWeek = 7;
-constexpr int mostWeeks = 6;
-
-MvCalendarCellTypeConfig same(const MvCalendarCellType &type)
-{
-    return {type, type};
-}
-
-} // namespace
-
 MvCalendariumDisplayAbilities MvCalendariumRendererOneWeekPerRow::abilities() const
 {
     return MvCalendariumDisplayAbilities(ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS |
@@ -43,15 +31,14 @@ QList<MvCalendarCellType> MvCalendariumRendererOneWeekPerRow::usedCellTypes() co
 
 QStringList MvCalendariumRendererOneWeekPerRow::maxmimumWidthCalendarWeekText() const
 {
-    return MvCalendariumRenderer::maxmimumWidthCalendarWeekText() << calendarWeekHeadlineText();
+    return MvCalendariumMonthRenderer::maxmimumWidthCalendarWeekText() << calendarWeekHeadlineText();
 }
 
 bool MvCalendariumRendererOneWeekPerRow::isConfigured(const MvCalendarRenderingInformation &info) const
 {
-    if (info.hasAnyOf(calendar_render_week_of_year) &&
-        (calendariumContent().hasFeatures(FEATURE_CALENDAR_WEEKS) || appearance().overriddenShowCalendarWeek()))
+    if (info.hasAnyOf(calendar_render_week_of_year) && areCalendarWeeksRequested())
         return true;
-    return MvCalendariumRenderer::isConfigured(info);
+    return MvCalendariumMonthRenderer::isConfigured(info);
 }
 
 // ---- sizes
@@ -76,12 +63,9 @@ double MvCalendariumRendererOneWeekPerRow::widthOfCell(const QRectF &rect, const
 double MvCalendariumRendererOneWeekPerRow::heightOfCell(const QRectF &rect, const MvCalendarCellType &type,
                                                         const QDate &date) const
 {
-    const auto planned = [this](MvCalendarCellTypeEnum cellType, MvCalendarRenderingInformationEnum info) {
-        return isConfigured(info) ? minimumHeightOfCellType(cellType, false) : 0.0;
-    };
     const int rows = numberOfWeeks(date);
-    const double title = planned(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
-    const double head = planned(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, calendar_render_days_of_week);
+    const double title = plannedHeight(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
+    const double head = plannedHeight(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, calendar_render_days_of_week);
     const double row = minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);
     const double scale = rect.height() / (head + title + rows * row);
 
@@ -140,8 +124,7 @@ double MvCalendariumRendererOneWeekPerRow::renderMonth(QPainter &painter, const 
     if (!rendersMonthInformation())
         return y;
     const double height = heightOfCell(rect, CALENDAR_CELL_TYPE_TITLE, startDate());
-    drawCell(painter, {rect.left(), y, rect.width(), height}, same(CALENDAR_CELL_TYPE_TITLE),
-             u' ' + calendarMonth(startDate()), true, 0);
+    drawTitle(painter, {rect.left(), y, rect.width(), height});
     return y + height;
 }
 
@@ -153,12 +136,14 @@ double MvCalendariumRendererOneWeekPerRow::renderHeadline(QPainter &painter, con
     double x = rect.left();
     if (isConfigured(calendar_render_week_of_year)) {
         const double width = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
-        drawCell(painter, {x, y, width, height}, same(CALENDAR_CELL_TYPE_TOPLINE), calendarWeekHeadlineText(), true, 0);
+        drawCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TOPLINE),
+                 calendarWeekHeadlineText(), true, 0);
         x += width;
     }
     const double width = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY);
     for (int day = 1; day <= daysPerWeek; ++day) {
-        drawCell(painter, {x, y, width, height}, same(headCellTypeWeekDay(day)), dayName(day), true, 0);
+        drawCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(headCellTypeWeekDay(day)), dayName(day), true,
+                 0);
         x += width;
     }
     return y + height;
@@ -176,7 +161,7 @@ void MvCalendariumRendererOneWeekPerRow::renderDayCells(QPainter &painter, const
         double x = rect.left();
         if (isConfigured(calendar_render_week_of_year)) {
             const double weekWidth = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
-            drawCell(painter, {x, y, weekWidth, height}, same(CALENDAR_CELL_TYPE_WEEK_OF_YEAR),
+            drawCell(painter, {x, y, weekWidth, height}, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_WEEK_OF_YEAR),
                      calendarWeekText(monday), even, 0);
             x += weekWidth;
         }
@@ -195,7 +180,7 @@ void MvCalendariumRendererOneWeekPerRow::renderWeek(QPainter &painter, const QRe
         if (date.month() == month)
             drawDayNumberCell(painter, cell, date);
         else
-            drawCellBackground(painter, cell, same(contentCellTypeWeekDay(date.dayOfWeek())), even);
+            drawNeighbouringDay(painter, cell, date, even);
         cell.translate(cell.width(), 0.0);
     }
 }

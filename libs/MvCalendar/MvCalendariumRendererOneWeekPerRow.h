@@ -1,14 +1,14 @@
 #pragma once
 
-#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumMonthRenderer.h"
 
 /// The month grid: title, weekday names and one row per week, led by its calendar week where that is configured.
-class MVCALENDAR_EXPORT MvCalendariumRendererOneWeekPerRow : public MvCalendariumRenderer
+class MVCALENDAR_EXPORT MvCalendariumRendererOneWeekPerRow : public MvCalendariumMonthRenderer
 {
     Q_OBJECT
 
 public:
-    using MvCalendariumRenderer::MvCalendariumRenderer;
+    using MvCalendariumMonthRenderer::MvCalendariumMonthRenderer;
 
     MvCalendariumDisplayAbilities abilities() const override;
     QSize minimumSizeHint() const override;

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "MvCalendar/MvCalendariumMonthRenderer.h"
+
+/// The month as columns, one per week from Monday down to Sunday, headed by the calendar week. Weekdays stand beside
+/// every day, or once in front of the first week (calendar_render_days_of_week_only_in_front): then cells hold plain
+/// numbers, without the texts and photos of their days.
+class MVCALENDAR_EXPORT MvCalendariumRendererOneColumnPerWeek : public MvCalendariumMonthRenderer
+{
+    Q_OBJECT
+
+public:
+    using MvCalendariumMonthRenderer::MvCalendariumMonthRenderer;
+
+    MvCalendariumDisplayAbilities abilities() const override;
+    QSize minimumSizeHint() const override;
+    /// False: the columns have no title.
+    bool rendersMonthInformation() const override;
+    QList<MvCalendarCellType> usedCellTypes() const override;
+    void renderBase(QPainter &painter, const QRectF &rect) override;
+    /// Calendar weeks are configured by the content and by the appearance, not by the layout.
+    bool isConfigured(const MvCalendarRenderingInformation &info) const override;
+
+    /// Weekday heads take whole units, the days of the date's month the remainder; a week is as wide as both. 0 for
+    /// types that are not shown.
+    double widthOfCell(const QRectF &rect, const MvCalendarCellType &type, const QDate &date) const;
+    /// With the weekdays in front. The heads of holidays and vacations are as wide as days.
+    double widthOfCellTypeWithWeekdaysInFront(const QRectF &rect, const MvCalendarCellType &type,
+                                              const QDate &date) const;
+    /// Days and heads take whole units, the calendar week the remainder; 0 for types that are not shown.
+    double heightOfCell(const QRectF &rect, const MvCalendarCellType &type) const;
+    /// Of six weeks, whatever the month.
+    double minimumWidth() const;
+    double minimumHeight() const;
+    QSize minimumSizeWithWeekdaysInFront() const;
+
+private:
+    void renderBaseWithWeekdaysInFront(QPainter &painter, const QRectF &rect);
+    void renderWeekdaysInFront(QPainter &painter, const QRectF &rect);
+    void renderWeekHead(QPainter &painter, const QRectF &cell, const QDate &monday);
+    void renderWeek(QPainter &painter, const QRectF &rect, const QRectF &column, const QDate &monday);
+    void renderPlainWeek(QPainter &painter, const QRectF &rect, const QRectF &column, const QDate &monday);
+};

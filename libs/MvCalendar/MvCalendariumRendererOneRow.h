@@ -1,0 +1,33 @@
+#pragma once
+
+#include "MvCalendar/MvCalendariumMonthRenderer.h"
+
+/// The strip: a month in one row, each day a column with its weekday above its number. Too narrow for the names of
+/// holidays, it tells them by colour alone.
+class MVCALENDAR_EXPORT MvCalendariumRendererOneRow : public MvCalendariumMonthRenderer
+{
+    Q_OBJECT
+
+public:
+    using MvCalendariumMonthRenderer::MvCalendariumMonthRenderer;
+
+    MvCalendariumDisplayAbilities abilities() const override;
+    /// Of a month of 31 days with four Sundays and five Saturdays, always with the title.
+    QSize minimumSizeHint() const override;
+    /// True, whether or not the layout shows the title.
+    bool rendersMonthInformation() const override;
+    QList<MvCalendarCellType> usedCellTypes() const override;
+    bool hasOneHeaderPerDay() const override;
+    void renderBase(QPainter &painter, const QRectF &rect) override;
+    /// Never round the title.
+    bool shouldIPaintTheBorder(const MvCalendarCellTypeConfig &config) const override;
+
+    /// The same for all types: the width over the days of the date's month, 31 for an invalid date.
+    double widthOfCell(const QRectF &rect, const MvCalendarCellType &type, const QDate &date) const;
+    /// The share of the height that title, weekdays (CALENDAR_CELL_TYPE_HEAD_WEEKDAY) or numbers
+    /// (CALENDAR_CELL_TYPE_WEEKDAY) take; 0 for other types. The numbers take the remainder of whole units.
+    double heightOfCell(const QRectF &rect, const MvCalendarCellType &type) const;
+
+private:
+    void renderDays(QPainter &painter, const QRectF &rect, double y);
+};
