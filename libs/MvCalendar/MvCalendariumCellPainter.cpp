@@ -81,6 +81,17 @@ void MvCalendariumCellPainter::drawText(const QRectF &rect, const MvCalendarCell
     m_painter.restore();
 }
 
+void MvCalendariumCellPainter::drawFittingText(const QRectF &rect, const MvCalendarCellTypeConfig &config,
+                                               const QString &text, int flags, bool even, const QDate &date)
+{
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const double width = rect.marginsRemoved(m_renderer.padding(type)).width();
+    const QString shown = MvCalendariumTextPainter::elided(static_cast<int>(width), m_renderer.font(type), text);
+    if (shown != text)
+        m_renderer.reportUnfitting(date, text, rect);
+    drawText(rect, config, shown, flags, even);
+}
+
 void MvCalendariumCellPainter::preparePen(const QFont &font, const QColor &color)
 {
     m_painter.setFont(font);
@@ -168,8 +179,7 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     const MvCalendarCellType &type = config.inscriptionConfig();
     const double vertical = rect.height() > largeCell ? largeCellMargin : smallCellMargin;
     const double horizontal = rect.width() > largeCell ? largeCellMargin : smallCellMargin;
-    QRectF inner =
-        rect.marginsRemoved(m_renderer.padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
+    QRectF inner = rect.marginsRemoved(m_renderer.padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
 
     const QImage picture = pictureWithin(date, inner.size());
     if (!picture.isNull()) {
@@ -189,8 +199,8 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     const QFontMetricsF metrics(m_painter.font());
     const int maxLines = std::max(1, static_cast<int>(inner.height() / metrics.height()));
     bool isCut = false;
-    const QStringList lines = MvCalendariumTextPainter::fitLines(static_cast<int>(inner.width()), maxLines,
-                                                                 m_painter.font(), {text}, &isCut);
+    const QStringList lines =
+        MvCalendariumTextPainter::fitLines(static_cast<int>(inner.width()), maxLines, m_painter.font(), {text}, &isCut);
     if (isCut || MvCalendariumTextPainter::isAnyTextToWide(static_cast<int>(inner.width()), m_painter.font(), lines))
         m_renderer.reportUnfitting(date, text, rect);
     QRectF line = inner;

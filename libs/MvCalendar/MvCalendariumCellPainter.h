@@ -24,6 +24,9 @@ public:
     void drawBackground(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even);
     void drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
                   bool even);
+    /// A text that is wider than the cell ends in an ellipsis and is reported for the date.
+    void drawFittingText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
+                         bool even, const QDate &date);
     void drawDayNumber(const QRectF &rect, const QDate &date);
     /// True when a photo was drawn.
     bool drawHoliday(const QRectF &rect, const QDate &date, bool even);

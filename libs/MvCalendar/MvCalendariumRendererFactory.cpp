@@ -1,8 +1,11 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 
 #include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvCalendariumRendererHolidays.h"
 #include "MvCalendar/MvCalendariumRendererMonthOnly.h"
+#include "MvCalendar/MvCalendariumRendererOneDayPerRow.h"
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
+#include "MvCalendar/MvCalendariumRendererYearOnly.h"
 
 #include <memory>
 
@@ -13,13 +16,16 @@ MvCalendariumRenderer *MvCalendariumRendererFactory::createRenderer(const MvCale
     switch (appearance.type().value()) {
     case CALENDAR_ONE_WEEK_PER_ROW:
         return new MvCalendariumRendererOneWeekPerRow(appearance);
-    case CALENDAR_TWO_WEEKS: // these have no renderer of their own yet
     case CALENDAR_ONE_DAY_PER_ROW:
+        return new MvCalendariumRendererOneDayPerRow(appearance);
+    case CALENDAR_YEAR_ONLY:
+        return new MvCalendariumRendererYearOnly(appearance);
+    case CALENDAR_HOLIDAYS:
+        return new MvCalendariumRendererHolidays(appearance);
+    case CALENDAR_TWO_WEEKS: // these have no renderer of their own yet
     case CALENDAR_ONE_COLUMN_PER_WEEK:
     case CALENDAR_YEAR:
-    case CALENDAR_YEAR_ONLY:
     case CALENDAR_ONE_ROW:
-    case CALENDAR_HOLIDAYS:
     case CALENDAR_MONTH_ONLY:
         break;
     }
