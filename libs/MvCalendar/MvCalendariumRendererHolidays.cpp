@@ -153,5 +153,7 @@ void MvCalendariumRendererHolidays::fill(QTextDocument &document, const QRectF &
 
 QString MvCalendariumRendererHolidays::html(const QString &paragraph) const
 {
-    return u"<font color=\"%1\">%2</font>"_s.arg(fontColor(blockCell, true).name(), paragraph);
+    // a date stays with the first word of its name
+    const QString bound = QString(paragraph).replace(u": "_s, u":\u00a0"_s);
+    return u"<font color=\"%1\">%2</font>"_s.arg(fontColor(blockCell, true).name(), bound);
 }

@@ -240,6 +240,8 @@ void MvCalendariumRendererOneDayPerRow::renderWeekday(QPainter &painter, const Q
     const QRectF cell(x, y, width, rowHeight(rect, date));
     const bool even = isEvenWeek(date);
     drawCellBackground(painter, cell, head, even);
+    if (!shouldIPaintTheBackground(head, even)) // the row's own ground goes on beneath the name
+        MvCalendariumCellPainter(*this, painter).drawGround(cell, contentCellTypeConfig(date), even);
     drawCellText(painter, cell, head, dayNameFromDate(date), Qt::AlignLeft | Qt::AlignVCenter, even);
 }
 
