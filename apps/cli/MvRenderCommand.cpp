@@ -75,6 +75,7 @@ QList<MvCliOption> MvRenderCommand::options() const
             {u"no-holidays"_s, {}, tr("keine Feiertage")},
             {u"layout"_s, u"ID"_s, tr("Layout, siehe layouts")},
             {u"colors"_s, u"ID"_s, tr("Farbschema, siehe colors")},
+            {u"columns"_s, u"NAMEN"_s, tr("Spalten einer Tagesliste, mit Kommas getrennt, statt der des Layouts")},
             {u"font"_s, u"FAMILIE"_s, tr("Schriftfamilie statt der des Layouts")},
             {u"page"_s, u"FORMAT"_s, tr("A0 bis A6 oder Breite und Höhe in Millimetern, 300x200 (A4)")},
             {u"landscape"_s, {}, tr("Querformat (so bei A0 bis A6)")},
@@ -93,6 +94,7 @@ QStringList MvRenderCommand::examples() const
 {
     return {u"render --year 2027 --region BY --entries geburtstage.xml -o kalender.pdf"_s,
             u"render --from 2026-08 --months 12 --country AT --page A3 --vacations -o schuljahr.pdf"_s,
+            u"render --year 2027 --layout FAMILY_PLANNER --columns \"Mama,Papa,Lena,Jonas\" --portrait -o planer.pdf"_s,
             u"render --year 2027 --colors NIGHT --dpi 150 -o seite-%m.png"_s};
 }
 
@@ -175,6 +177,9 @@ MvCalendariumAppearance MvRenderCommand::appearance(MvCliValues &values)
     using Kind = MvSchemaListCommand::Kind;
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(schemaId(values, u"layout"_s, Kind::Layouts)));
+    appearance.adoptLayoutSuggestions();
+    if (values.has(u"columns"_s))
+        appearance.setColumnHeaders(columns(values, appearance));
     appearance.setColorSchemaById(MvCalendariumColorSchemaID(schemaId(values, u"colors"_s, Kind::Colors)));
     appearance.adaptGridToLayout();
     appearance.setShowHolidays(!values.has(u"no-holidays"_s));
@@ -186,6 +191,23 @@ MvCalendariumAppearance MvRenderCommand::appearance(MvCliValues &values)
     if (!appearance.isValid())
         values.setError(tr("Layouts und Farbschemata fehlen; das Programm ist unvollständig installiert"));
     return appearance;
+}
+
+QStringList MvRenderCommand::columns(MvCliValues &values, const MvCalendariumAppearance &appearance)
+{
+    constexpr int mostColumns = 10;
+    if (appearance.layoutSchema().isValid() && appearance.type() != CALENDAR_ONE_DAY_PER_ROW)
+        values.setError(tr("--columns: das Layout „%1“ hat keine Spalten zum Eintragen, nur Tageslisten haben welche")
+                            .arg(appearance.layoutSchema().name()));
+    QStringList columns = values.text(u"columns"_s).split(u',');
+    for (QString &column : columns) {
+        column = column.trimmed();
+        if (column.isEmpty())
+            column = u" "_s; // a column without a name
+    }
+    if (columns.size() > mostColumns)
+        values.setError(tr("--columns: %1 Namen; erlaubt sind höchstens %2").arg(columns.size()).arg(mostColumns));
+    return columns;
 }
 
 MvCalendariumHolidayConfig MvRenderCommand::holidayConfig(MvCliValues &values)

@@ -21,6 +21,8 @@ private:
     static MvDateRange range(MvCliValues &values);
     static MvPageFormat pageFormat(MvCliValues &values);
     static MvCalendariumAppearance appearance(MvCliValues &values);
+    /// The headings of the free columns.
+    static QStringList columns(MvCliValues &values, const MvCalendariumAppearance &appearance);
     static MvCalendariumHolidayConfig holidayConfig(MvCliValues &values);
     /// Loads what was asked for; whether there are entries to print. An unreadable file gives an error, one without
     /// entries a hint.

@@ -73,6 +73,12 @@ void MvCalendariumAppearance::setLayoutSchemaByID(const MvCalendariumLayoutSchem
     d->setLayoutSchemaById(id);
 }
 
+void MvCalendariumAppearance::adoptLayoutSuggestions()
+{
+    d->columnHeaders = d.constData()->layoutSchema.suggestedColumnHeaders();
+    d->fontSettings.setFontSizePercentageHolidays(d.constData()->layoutSchema.suggestedHolidayFontPercentage());
+}
+
 const MvCalendariumType &MvCalendariumAppearance::type() const
 {
     return d->layoutSchema.calendariumType();

@@ -50,6 +50,9 @@ public:
     void setLayoutSchema(const MvCalendariumLayoutSchema &schema);
     /// An unknown id gives an invalid schema.
     void setLayoutSchemaByID(const MvCalendariumLayoutSchemaID &id);
+    /// Takes the column headers and the size of holiday texts that the layout suggests: for a new page, or one that
+    /// changes to this layout. Setting the layout alone keeps what the page has.
+    void adoptLayoutSuggestions();
     const MvCalendariumType &type() const;
     const MvCalendarRenderingInformation &renderingInformation() const;
     void setRenderingInformation(const MvCalendarRenderingInformation &information);

@@ -41,13 +41,18 @@ MvCalendariumCellPainter::MvCalendariumCellPainter(MvCalendariumRenderer &render
 
 void MvCalendariumCellPainter::drawBackground(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even)
 {
-    if (m_renderer.shouldIPaintTheBackground(config, even)) {
-        QColor color = m_renderer.backgroundColor(config, even);
-        color.setAlphaF(color.alphaF() * static_cast<float>(m_renderer.m_backgroundAlpha));
-        m_renderer.addFill(rect, color);
-    }
+    drawGround(rect, config, even);
     if (m_renderer.shouldIPaintTheBorder(config))
         drawBorder(rect, config.colorConfig());
+}
+
+void MvCalendariumCellPainter::drawGround(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even)
+{
+    if (!m_renderer.shouldIPaintTheBackground(config, even))
+        return;
+    QColor color = m_renderer.backgroundColor(config, even);
+    color.setAlphaF(color.alphaF() * static_cast<float>(m_renderer.m_backgroundAlpha));
+    m_renderer.addFill(rect, color);
 }
 
 void MvCalendariumCellPainter::drawBorder(const QRectF &rect, const MvCalendarCellType &type)

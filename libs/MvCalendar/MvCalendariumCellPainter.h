@@ -21,7 +21,9 @@ public:
     /// Both must outlive the cell painter.
     MvCalendariumCellPainter(MvCalendariumRenderer &renderer, QPainter &painter);
 
+    /// Ground and border.
     void drawBackground(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even);
+    void drawGround(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even);
     void drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
                   bool even);
     /// A text that is wider than the cell ends in an ellipsis and is reported for the date.

@@ -116,6 +116,21 @@ void MvCalendariumLayoutSchema::setShowHolidays(bool show)
         d->showHolidays = show;
 }
 
+const QString &MvCalendariumLayoutSchema::suggestedColumnHeaders() const
+{
+    return d->columnHeaders;
+}
+
+int MvCalendariumLayoutSchema::suggestedHolidayFontPercentage() const
+{
+    return d->holidayFontPercentage;
+}
+
+const MvCalendariumLayoutSchemaID &MvCalendariumLayoutSchema::monthLayout() const
+{
+    return d->monthLayout;
+}
+
 bool MvCalendariumLayoutSchema::allCellsHaveNoBorder() const
 {
     return d->noCellHasABorder;

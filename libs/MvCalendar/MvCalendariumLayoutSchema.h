@@ -50,6 +50,17 @@ public:
     bool showHolidays() const;
     void setShowHolidays(bool show);
 
+    // what the schema suggests for a new page; the page's own settings count, see
+    // MvCalendariumAppearance::adoptLayoutSuggestions()
+    /// Column headers joined by "$$"; empty where it has none. Attribute "columnheaders".
+    const QString &suggestedColumnHeaders() const;
+    /// Size of holiday texts relative to the font of their cell, -50 where nothing is said. Attribute
+    /// "holidayfontpercentage".
+    int suggestedHolidayFontPercentage() const;
+    /// The layout of the line with the month's name that stands above this one on a page of its own; an invalid id for
+    /// layouts that need none. Attribute "monthlayout".
+    const MvCalendariumLayoutSchemaID &monthLayout() const;
+
     /// True when no cell of the schema has a border.
     bool allCellsHaveNoBorder() const;
     bool calendarCanPaintBorders() const;

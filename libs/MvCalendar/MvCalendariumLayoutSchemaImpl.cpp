@@ -9,6 +9,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 const QString cellTag = u"cell"_s;
+const QString columnHeadersKey = u"columnheaders"_s;
+const QString holidayFontKey = u"holidayfontpercentage"_s;
+const QString monthLayoutKey = u"monthlayout"_s;
 }
 
 void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
@@ -17,6 +20,7 @@ void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
     renderingInformation.fromXML(element);
     id.read(element);
     name = MvXMLParser::textAttribute(element, u"name"_s);
+    readSuggestions(element);
     readCells(element);
     copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION);
     copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY);
@@ -33,6 +37,7 @@ void MvCalendariumLayoutSchemaImpl::write(QDomElement &element) const
     id.write(element);
     if (!name.isEmpty())
         MvXMLBuilder::addAttribute(element, u"name"_s, name);
+    writeSuggestions(element);
     QList<MvCalendarCellType> types = cells.keys();
     std::sort(types.begin(), types.end());
     for (const MvCalendarCellType &cellType : std::as_const(types)) {
@@ -40,6 +45,23 @@ void MvCalendariumLayoutSchemaImpl::write(QDomElement &element) const
         cellType.toXML(cell);
         cells.value(cellType).toXML(cell);
     }
+}
+
+void MvCalendariumLayoutSchemaImpl::readSuggestions(const QDomElement &element)
+{
+    columnHeaders = MvXMLParser::textAttribute(element, columnHeadersKey);
+    holidayFontPercentage = MvXMLParser::intAttribute(element, holidayFontKey, defaultHolidayFontPercentage);
+    monthLayout = MvCalendariumLayoutSchemaID(MvXMLParser::textAttribute(element, monthLayoutKey));
+}
+
+void MvCalendariumLayoutSchemaImpl::writeSuggestions(QDomElement &element) const
+{
+    if (!columnHeaders.isEmpty())
+        MvXMLBuilder::addAttribute(element, columnHeadersKey, columnHeaders);
+    if (holidayFontPercentage != defaultHolidayFontPercentage)
+        MvXMLBuilder::addAttribute(element, holidayFontKey, holidayFontPercentage);
+    if (monthLayout.isValid())
+        MvXMLBuilder::addAttribute(element, monthLayoutKey, monthLayout.toString());
 }
 
 void MvCalendariumLayoutSchemaImpl::readCells(const QDomElement &element)

@@ -19,6 +19,11 @@ struct MvCalendariumLayoutSchemaImpl : MvSharedData
     bool showHolidays = true;
     QHash<MvCalendarCellType, MvCalendariumLayoutCellInfo> cells; // by single type
     bool noCellHasABorder = true;
+    QString columnHeaders; // suggested to new pages, as are the next two
+    int holidayFontPercentage = defaultHolidayFontPercentage;
+    MvCalendariumLayoutSchemaID monthLayout;
+
+    static constexpr int defaultHolidayFontPercentage = -50;
 
     void read(const QDomElement &element);
     void write(QDomElement &element) const;
@@ -26,6 +31,8 @@ struct MvCalendariumLayoutSchemaImpl : MvSharedData
     bool operator==(const MvCalendariumLayoutSchemaImpl &) const = default;
 
 private:
+    void readSuggestions(const QDomElement &element);
+    void writeSuggestions(QDomElement &element) const;
     void readCells(const QDomElement &element);
     void copyCellInfoIfMissing(const MvCalendarCellType &from, const MvCalendarCellType &to);
 };

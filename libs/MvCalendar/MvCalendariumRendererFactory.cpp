@@ -1,11 +1,14 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 
 #include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvCalendariumRendererHolidays.h"
 #include "MvCalendar/MvCalendariumRendererMonthOnly.h"
 #include "MvCalendar/MvCalendariumRendererOneColumnPerWeek.h"
+#include "MvCalendar/MvCalendariumRendererOneDayPerRow.h"
 #include "MvCalendar/MvCalendariumRendererOneRow.h"
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
 #include "MvCalendar/MvCalendariumRendererTwoWeeksPerRow.h"
+#include "MvCalendar/MvCalendariumRendererYearOnly.h"
 
 #include <memory>
 
@@ -18,14 +21,18 @@ MvCalendariumRenderer *MvCalendariumRendererFactory::createRenderer(const MvCale
         return new MvCalendariumRendererOneWeekPerRow(appearance);
     case CALENDAR_TWO_WEEKS:
         return new MvCalendariumRendererTwoWeeksPerRow(appearance);
+    case CALENDAR_ONE_DAY_PER_ROW:
+        return new MvCalendariumRendererOneDayPerRow(appearance);
     case CALENDAR_ONE_COLUMN_PER_WEEK:
         return new MvCalendariumRendererOneColumnPerWeek(appearance);
+    case CALENDAR_YEAR: // has no renderer of its own yet
+        break;
+    case CALENDAR_YEAR_ONLY:
+        return new MvCalendariumRendererYearOnly(appearance);
     case CALENDAR_ONE_ROW:
         return new MvCalendariumRendererOneRow(appearance);
-    case CALENDAR_ONE_DAY_PER_ROW: // these have no renderer of their own yet
-    case CALENDAR_YEAR:
-    case CALENDAR_YEAR_ONLY:
     case CALENDAR_HOLIDAYS:
+        return new MvCalendariumRendererHolidays(appearance);
     case CALENDAR_MONTH_ONLY:
         break;
     }

@@ -9,7 +9,7 @@
 
 #include <QPainter>
 
-#include <memory>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -59,12 +59,33 @@ void MvCalendarDocument::paint(QPainter &painter, int page) const
     if (!isValid() || !month.isValid())
         return;
     paintBackground(painter);
-    const std::unique_ptr<MvCalendariumRenderer> renderer(
-        MvCalendariumRendererFactory::instance().createRenderer(m_appearance));
-    renderer->setCalendarInformation(MvCalendariumContentConfig(month, m_holidayConfig), m_range);
-    renderer->setProductSize(m_format.magnitude());
-    renderer->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
-    renderer->render(painter, m_format.contentRect());
+    const auto calendarium = renderer(m_appearance, month);
+    QRectF rect = m_format.contentRect();
+    if (!calendarium->rendersMonthInformation())
+        rect = paintMonthLine(painter, rect, month);
+    calendarium->render(painter, rect);
+}
+
+std::unique_ptr<MvCalendariumRenderer> MvCalendarDocument::renderer(const MvCalendariumAppearance &appearance,
+                                                                    const QDate &month) const
+{
+    std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
+    made->setCalendarInformation(MvCalendariumContentConfig(month, m_holidayConfig), m_range);
+    made->setProductSize(m_format.magnitude());
+    made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    return made;
+}
+
+QRectF MvCalendarDocument::paintMonthLine(QPainter &painter, const QRectF &rect, const QDate &month) const
+{
+    MvCalendariumAppearance appearance = m_appearance;
+    appearance.setLayoutSchemaByID(m_appearance.layoutSchema().monthLayout());
+    if (!appearance.isValid())
+        return rect;
+    const auto line = renderer(appearance, month);
+    const double height = std::min(rect.height() / 2.0, double(line->minimumSizeHint().height()));
+    line->render(painter, {rect.left(), rect.top(), rect.width(), height});
+    return rect.adjusted(0.0, height, 0.0, 0.0);
 }
 
 /// Margins and bleed continue the ground that the calendarium's title stands on, or a dark calendarium would have a

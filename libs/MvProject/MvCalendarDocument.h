@@ -6,12 +6,18 @@
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/mvproject_export.h"
 
+#include <QRectF>
+
+#include <memory>
+
+class MvCalendariumRenderer;
 class MvPageSource;
 class QPainter;
 
 /// A calendar to be printed: one calendarium per page, month after month. A value.
 ///
-/// A layout of whole years has one page per twelve months instead.
+/// A layout of whole years has one page per twelve months instead. Above layouts that do not show their month stands
+/// the line that they name for it.
 class MVPROJECT_EXPORT MvCalendarDocument
 {
 public:
@@ -52,6 +58,10 @@ public:
 
 private:
     void paintBackground(QPainter &painter) const;
+    std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
+                                                    const QDate &month) const;
+    /// Gives what it leaves of the rectangle.
+    QRectF paintMonthLine(QPainter &painter, const QRectF &rect, const QDate &month) const;
 
     MvCalendariumAppearance m_appearance;
     MvCalendariumHolidayConfig m_holidayConfig;

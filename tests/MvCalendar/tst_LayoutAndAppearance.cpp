@@ -44,6 +44,7 @@ private Q_SLOTS:
     void laterCellReplacesEarlierOne();
     void specialTypesFollowTheirPartners();
     void layoutRoundTrip();
+    void suggestionsForNewPages();
     void unknownLayouts();
     void shippedLayouts();
     void userLayoutsAreKept();
@@ -118,6 +119,26 @@ void tst_LayoutAndAppearance::layoutRoundTrip()
     const MvCalendariumLayoutSchema read(element(document.toString()));
     QVERIFY(read == original);
     QCOMPARE(read.font(CALENDAR_CELL_TYPE_HOLIDAY).letterSpacing(), 106.0);
+}
+
+void tst_LayoutAndAppearance::suggestionsForNewPages()
+{
+    const QString attributes = u"layoutschema='USER_L' type='CALENDAR_ONE_DAY_PER_ROW' columnheaders='Ich$$Du' "
+                               "holidayfontpercentage='-30' monthlayout='MONTH_LINE'"_s;
+    const MvCalendariumLayoutSchema read = layout(QString(), attributes);
+    QDomDocument document;
+    QDomElement root = MvXMLBuilder::buildRootElement(document, u"calendararea"_s);
+    read.write(root);
+    QCOMPARE(MvCalendariumLayoutSchema(element(document.toString())), read);
+
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(read);
+    QCOMPARE(appearance.countColumns(), 0);
+    appearance.adoptLayoutSuggestions();
+    QCOMPARE(appearance.columnHeadersList(), (QStringList{u"Ich"_s, u"Du"_s}));
+    QCOMPARE(appearance.fontSettings().fontSizePercentageHolidays(), -30);
+    QCOMPARE(read.monthLayout().toString(), u"MONTH_LINE"_s);
+    QCOMPARE(layout(QString()).suggestedHolidayFontPercentage(), -50);
 }
 
 void tst_LayoutAndAppearance::unknownLayouts()

@@ -1,0 +1,295 @@
+#include "MvCalendar/MvCalendariumRendererOneDayPerRow.h"
+
+#include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCore/MvAngle.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int mostColumns = 10;
+constexpr int mostDays = 31;
+constexpr int minimumColumnWidth = 20;
+constexpr double weekTextAir = 20.0; // a strip must exceed the height of its text by this much to carry it
+
+const MvCalendarCellTypeConfig topLine(CALENDAR_CELL_TYPE_TOPLINE, CALENDAR_CELL_TYPE_TOPLINE);
+
+} // namespace
+
+MvCalendariumDisplayAbilities MvCalendariumRendererOneDayPerRow::abilities() const
+{
+    return MvCalendariumDisplayAbilities(ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS |
+                                         ABILITY_DISPLAY_HOLIDAYS_COLORS);
+}
+
+QSize MvCalendariumRendererOneDayPerRow::minimumSizeHint() const
+{
+    const bool hasWeekdays = isConfigured(calendar_render_days_of_week);
+    const double row =
+        minimumHeightOfCellType(hasWeekdays ? CALENDAR_CELL_TYPE_HEAD_WEEKDAY : CALENDAR_CELL_TYPE_WEEKDAY, false);
+    const int height = static_cast<int>(minimumHeightOfCellType(CALENDAR_CELL_TYPE_TOPLINE, false) + mostDays * row);
+
+    int width = static_cast<int>(maxContentWidth());
+    if (hasWeekdays)
+        width += static_cast<int>(maxHeadWidth());
+    if (isConfigured(calendar_render_week_of_year))
+        width += static_cast<int>(widthOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, false));
+    return {width + minimumColumnWidth * numberEmptyOfColumns(), height};
+}
+
+bool MvCalendariumRendererOneDayPerRow::rendersMonthInformation() const
+{
+    return false;
+}
+
+bool MvCalendariumRendererOneDayPerRow::thereIsToMuchText(const QRectF &rect) const
+{
+    if (!hasTopHeader())
+        return false;
+    // by the number of headings as it is, even where fewer columns are drawn
+    const int width = static_cast<int>(widthOfOneColumn(rect, appearance().countColumns()));
+    return isAnyTextToWide(width, font(CALENDAR_CELL_TYPE_TOPLINE), appearance().columnHeadersList());
+}
+
+QList<MvCalendarCellType> MvCalendariumRendererOneDayPerRow::usedCellTypes() const
+{
+    QList<MvCalendarCellType> types = dayCellTypes();
+    if (isConfigured(calendar_render_days_of_week))
+        types += dayHeadCellTypes(true);
+    if (hasTopHeader())
+        types << CALENDAR_CELL_TYPE_TOPLINE;
+    if (isConfigured(calendar_render_week_of_year))
+        types << CALENDAR_CELL_TYPE_WEEK_OF_YEAR;
+    return types;
+}
+
+bool MvCalendariumRendererOneDayPerRow::hasOneHeaderPerDay() const
+{
+    return true;
+}
+
+// ---- sizes
+
+double MvCalendariumRendererOneDayPerRow::panedHeadWidth() const
+{
+    return isConfigured(calendar_render_days_of_week) ? maxHeadWidth() : 0.0;
+}
+
+double MvCalendariumRendererOneDayPerRow::planedWeekOfYearWidth() const
+{
+    return isConfigured(calendar_render_week_of_year) ? widthOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, true) : 0.0;
+}
+
+double MvCalendariumRendererOneDayPerRow::planedNormalCellWidth() const
+{
+    return maxContentWidth();
+}
+
+double MvCalendariumRendererOneDayPerRow::widthOfCell(const QRectF &, const MvCalendarCellType &type) const
+{
+    if (type == CALENDAR_CELL_TYPE_WEEK_OF_YEAR)
+        return planedWeekOfYearWidth();
+    if (dayHeadCellTypes(true).contains(type))
+        return panedHeadWidth();
+    return dayCellTypes().contains(type) ? planedNormalCellWidth() : 0.0;
+}
+
+int MvCalendariumRendererOneDayPerRow::numberEmptyOfColumns() const
+{
+    return std::clamp(appearance().countColumns(), 1, mostColumns);
+}
+
+bool MvCalendariumRendererOneDayPerRow::hasTopHeader() const
+{
+    const QStringList headers = appearance().columnHeadersList();
+    if (headers.size() == 1)
+        return !headers.constFirst().isEmpty() && headers.constFirst() != u"1"_s;
+    return !headers.isEmpty();
+}
+
+QPair<double, double> MvCalendariumRendererOneDayPerRow::heightOfCell(const QRectF &rect,
+                                                                      const MvCalendarCellType &type,
+                                                                      const QDate &date) const
+{
+    const bool hasTopLine = hasTopHeader();
+    const double row = rect.height() / (date.daysInMonth() + (hasTopLine ? 1 : 0));
+    const double top = hasTopLine ? row : 0.0;
+    if (type == CALENDAR_CELL_TYPE_TOPLINE)
+        return {top, top};
+    const bool isRow = dayCellTypes().contains(type) || dayHeadCellTypes(true).contains(type);
+    return {isRow ? row : 0.0, top};
+}
+
+double MvCalendariumRendererOneDayPerRow::rowHeight(const QRectF &rect, const QDate &date) const
+{
+    return heightOfCell(rect, headCellTypeConfig(date).inscriptionConfig(), date).first;
+}
+
+double MvCalendariumRendererOneDayPerRow::offsetOfLeftHeader(const QRectF &rect) const
+{
+    return widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR) + widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY) +
+           widthOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY);
+}
+
+double MvCalendariumRendererOneDayPerRow::widthOfOneColumn(const QRectF &rect, int count) const
+{
+    return (rect.width() - offsetOfLeftHeader(rect)) / count;
+}
+
+double MvCalendariumRendererOneDayPerRow::widthOfCalendarWeek(const QRectF &rect) const
+{
+    return widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
+}
+
+// ---- painting
+
+void MvCalendariumRendererOneDayPerRow::renderBase(QPainter &painter, const QRectF &rect)
+{
+    Q_EMIT hasTitleLineMayHaveChanged(hasTopHeader());
+    const QDate start = startDate();
+    double y = rect.y() + renderHeadline(painter, rect, start);
+    double weekTop = y;
+    const int days = start.daysInMonth();
+    for (int day = 1; day <= days; ++day) {
+        const QDate date = start.addDays(day - 1);
+        if (day == 1 || date.dayOfWeek() == Qt::Monday)
+            weekTop = y;
+        if (day == days || date.dayOfWeek() == Qt::Sunday)
+            renderCalendarWeek(painter, date, rect, y, weekTop);
+        renderDay(painter, rect, date, y);
+        y += rowHeight(rect, date);
+    }
+}
+
+void MvCalendariumRendererOneDayPerRow::renderDay(QPainter &painter, const QRectF &rect, const QDate &date, double y)
+{
+    const MvCalendarCellTypeConfig content = contentCellTypeConfig(date);
+    double x = rect.x() + widthOfCalendarWeek(rect);
+    const double dayWidth = widthOfCell(rect, content.inscriptionConfig());
+    drawCell(painter, {x, y, dayWidth, rowHeight(rect, date)}, content, u" %1 "_s.arg(date.day()), isEvenWeek(date), 0);
+    x += dayWidth;
+    if (isConfigured(calendar_render_days_of_week)) {
+        const double width = widthOfCell(rect, headCellTypeConfig(date).inscriptionConfig());
+        renderWeekday(painter, date, y, x, rect, width);
+        x += width;
+    }
+    renderColumn(painter, rect, date, y, x, numberEmptyOfColumns());
+}
+
+int MvCalendariumRendererOneDayPerRow::renderHeadline(QPainter &painter, const QRectF &rect, const QDate &date)
+{
+    if (!hasTopHeader())
+        return 0;
+    const double height = heightOfCell(rect, CALENDAR_CELL_TYPE_TOPLINE, date).first;
+    const int columns = numberEmptyOfColumns();
+    drawCellBackground(painter, {rect.x(), rect.y(), rect.width(), height}, topLine, true);
+    renderHead(painter, columns, height, rect);
+    renderColumnLines(painter, rect, columns);
+    return static_cast<int>(height);
+}
+
+void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int columns, double height, const QRectF &rect)
+{
+    if (!hasTopHeader())
+        return;
+    const double width = widthOfOneColumn(rect, columns);
+    QRectF cell(rect.x() + offsetOfLeftHeader(rect), rect.y(), width, height);
+    const QStringList headers = appearance().columnHeadersList();
+    for (int column = 0; column < headers.size(); ++column) {
+        MvCalendariumCellPainter(*this, painter)
+            .drawFittingText(cell, topLine, headers.at(column), Qt::AlignHCenter | Qt::AlignVCenter, true, startDate());
+        if (column >= columns)
+            reportUnfitting(startDate(), headers.at(column), cell);
+        cell.translate(width, 0.0);
+    }
+}
+
+void MvCalendariumRendererOneDayPerRow::renderColumnLines(QPainter &painter, const QRectF &rect, int columns)
+{
+    const MvCalendarBorderType sides = borderType(CALENDAR_CELL_TYPE_HEAD_WEEKDAY);
+    const double top = rect.y();
+    const double bottom = rect.y() + rect.height() - 1.0;
+    const auto drawLine = [&](double x) { painter.drawLine(QLineF(x, top, x, bottom)); };
+    const double left = rect.x() + offsetOfLeftHeader(rect);
+    const double width = widthOfOneColumn(rect, columns);
+    painter.save();
+    createBorderPen(painter);
+    if (sides.hasAnyOf(CALENDAR_BORDER_RIGHT))
+        drawLine(left - 1.0);
+    for (int column = 0; column < columns; ++column) {
+        const double x = left + column * width;
+        if (sides.hasAnyOf(CALENDAR_BORDER_LEFT)) {
+            drawLine(x + 1.0);
+            drawLine(x);
+        }
+        if (sides.hasAnyOf(CALENDAR_BORDER_RIGHT))
+            drawLine(x + width - 1.0);
+    }
+    painter.restore();
+}
+
+void MvCalendariumRendererOneDayPerRow::renderWeekday(QPainter &painter, const QDate &date, double y, double x,
+                                                      const QRectF &rect, double width)
+{
+    const MvCalendarCellTypeConfig head = headCellTypeConfig(date);
+    const QRectF cell(x, y, width, rowHeight(rect, date));
+    const bool even = isEvenWeek(date);
+    drawCellBackground(painter, cell, head, even);
+    if (!shouldIPaintTheBackground(head, even)) // the row's own ground goes on beneath the name
+        MvCalendariumCellPainter(*this, painter).drawGround(cell, contentCellTypeConfig(date), even);
+    drawCellText(painter, cell, head, dayNameFromDate(date), Qt::AlignLeft | Qt::AlignVCenter, even);
+}
+
+void MvCalendariumRendererOneDayPerRow::renderColumn(QPainter &painter, const QRectF &rect, const QDate &date, double y,
+                                                     double x, int columns)
+{
+    const MvCalendarCellTypeConfig content = contentCellTypeConfig(date);
+    const bool even = isEvenWeek(date);
+    const double width = (rect.x() + rect.width() - x) / columns;
+    const double height = rowHeight(rect, date);
+    for (int column = 0; column < columns; ++column) {
+        const QRectF cell(x + column * width, y, width, height);
+        drawCellBackground(painter, cell, content, even);
+        if (column == 0)
+            drawCellHolidayWide(painter, cell, date, even);
+    }
+}
+
+void MvCalendariumRendererOneDayPerRow::renderCalendarWeek(QPainter &painter, const QDate &date, const QRectF &rect,
+                                                           double y, double weekTop)
+{
+    if (!isConfigured(calendar_render_week_of_year))
+        return;
+    const QRectF cell(rect.x(), weekTop, widthOfCalendarWeek(rect), y + rowHeight(rect, date) - weekTop);
+    const MvCalendarCellType head = headCellTypeConfig(date).inscriptionConfig();
+    const bool even = isEvenWeek(date);
+    // the ground and lines of the weekday names beside it, the text in its own colour
+    drawCellBackground(painter, cell, {CALENDAR_CELL_TYPE_WEEK_OF_YEAR, head}, even);
+
+    const QRectF turned = MvAngle(270).rotateRect(cell);
+    const double textHeight = minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, false);
+    const bool hasOneRow = date.day() == 1 || date.dayOfWeek() == Qt::Monday;
+    if (hasOneRow || !(turned.width() > textHeight + weekTextAir))
+        return;
+    painter.save();
+    painter.translate(cell.center());
+    painter.rotate(-90.0);
+    painter.translate(-cell.center());
+    const MvCalendarCellTypeConfig week(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
+    drawCellText(painter, turned, week, weekText(date, turned.width()), 0, even);
+    painter.restore();
+}
+
+// where the strip is too short for the word, the number stands alone
+QString MvCalendariumRendererOneDayPerRow::weekText(const QDate &date, double width) const
+{
+    const QString number = QString::number(date.weekNumber());
+    const QString text = tr("%1 %2", "flip 1 and 2 to write '1 KW' instead of 'KW 1' ").arg(weekShort(), number);
+    const double inner = width - paddingDifference(CALENDAR_CELL_TYPE_WEEK_OF_YEAR).width();
+    return isTextToWide(static_cast<int>(inner), font(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), text) ? number : text;
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "MvCalendar/MvCalendariumRenderer.h"
+
+/// The month as a list: one row per day with its number, the weekday's name where that is configured, and one to ten
+/// free columns to write in; the first one takes the day's texts. A line above carries the headings of the columns,
+/// a strip on the left the calendar weeks.
+class MVCALENDAR_EXPORT MvCalendariumRendererOneDayPerRow : public MvCalendariumRenderer
+{
+    Q_OBJECT
+
+public:
+    using MvCalendariumRenderer::MvCalendariumRenderer;
+
+    /// Calendar weeks are not announced, although they can be drawn.
+    MvCalendariumDisplayAbilities abilities() const override;
+    /// Of a month of 31 days with a top line, whatever the month and its headings.
+    QSize minimumSizeHint() const override;
+    bool rendersMonthInformation() const override;
+    /// Whether a heading is wider than its column.
+    bool thereIsToMuchText(const QRectF &rect) const override;
+    QList<MvCalendarCellType> usedCellTypes() const override;
+    bool hasOneHeaderPerDay() const override;
+    void renderBase(QPainter &painter, const QRectF &rect) override;
+
+    /// The width of the weekday names, 0 where there are none; the name is historical.
+    double panedHeadWidth() const;
+    double planedWeekOfYearWidth() const;
+    double planedNormalCellWidth() const;
+    /// The planned width of a cell; 0 for types that have no column. The rectangle makes no difference.
+    double widthOfCell(const QRectF &rect, const MvCalendarCellType &type) const;
+    /// The free columns, 1 to 10.
+    int numberEmptyOfColumns() const;
+    /// There is a top line: for two headings or more, or for one that is not "1", which older calendars have for
+    /// "no heading".
+    bool hasTopHeader() const;
+    /// The height of the cell, and that of the top line: the month's rows and the top line are equally high.
+    QPair<double, double> heightOfCell(const QRectF &rect, const MvCalendarCellType &type, const QDate &date) const;
+    /// The width of everything left of the free columns.
+    double offsetOfLeftHeader(const QRectF &rect) const;
+    double widthOfOneColumn(const QRectF &rect, int count) const;
+    double widthOfCalendarWeek(const QRectF &rect) const;
+
+protected:
+    /// The top line and the dividing lines of the columns; gives its height in whole units.
+    int renderHeadline(QPainter &painter, const QRectF &rect, const QDate &date);
+    /// All headings, also those beyond the last column.
+    void renderHead(QPainter &painter, int columns, double height, const QRectF &rect);
+    void renderWeekday(QPainter &painter, const QDate &date, double y, double x, const QRectF &rect, double width);
+    void renderColumn(QPainter &painter, const QRectF &rect, const QDate &date, double y, double x, int columns);
+    /// The strip of the week that ends with the date, from weekTop to the bottom of the row at y.
+    void renderCalendarWeek(QPainter &painter, const QDate &date, const QRectF &rect, double y, double weekTop);
+
+private:
+    double rowHeight(const QRectF &rect, const QDate &date) const;
+    void renderDay(QPainter &painter, const QRectF &rect, const QDate &date, double y);
+    void renderColumnLines(QPainter &painter, const QRectF &rect, int columns);
+    QString weekText(const QDate &date, double width) const;
+};

@@ -1,0 +1,72 @@
+#include "MvCalendar/MvCalendariumRendererYearOnly.h"
+
+#include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCore/MvMath.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+MvCalendariumDisplayAbilities MvCalendariumRendererYearOnly::abilities() const
+{
+    return ABILITY_NONE;
+}
+
+QSize MvCalendariumRendererYearOnly::minimumSizeHint() const
+{
+    const QSizeF text = maximumSizeOfStrings(CALENDAR_CELL_TYPE_YEAR, {calendarYear(QDate())});
+    return (text + paddingDifference(CALENDAR_CELL_TYPE_YEAR)).toSize();
+}
+
+bool MvCalendariumRendererYearOnly::rendersMonthInformation() const
+{
+    return false;
+}
+
+QList<MvCalendarCellType> MvCalendariumRendererYearOnly::usedCellTypes() const
+{
+    return {CALENDAR_CELL_TYPE_YEAR};
+}
+
+void MvCalendariumRendererYearOnly::renderBase(QPainter &painter, const QRectF &rect)
+{
+    const MvCalendarCellTypeConfig year(CALENDAR_CELL_TYPE_YEAR, CALENDAR_CELL_TYPE_YEAR);
+    drawCell(painter, rect, year, {}, true, 0);
+    if (!rect.isEmpty())
+        MvCalendariumCellPainter(*this, painter)
+            .drawFittingText(rect, year, calendarYear(QDate()), 0, true, startDate());
+}
+
+QString MvCalendariumRendererYearOnly::calendarYear(const QDate &date) const
+{
+    const MvCalendarRenderingInformation info = renderingInformation();
+    const QDate shown = date.isValid() ? date : startDate();
+    const int first = date.isValid() ? date.year() : startDateOfCalendar().year();
+    const int last = date.isValid() ? date.year() : endDateOfCalendar().year();
+
+    const QString prefix = isConfigured(calendar_render_year_school) ? tr("Schuljahr ") : QString();
+    if (!isConfigured(calendar_render_all_years))
+        return prefix + calendarYear(std::max(shown.year(), first), info);
+
+    const QString month = showsMonth() ? calendarMonth(shown.month(), info) + u' ' : QString();
+    QStringList years;
+    for (int year = first; year <= last; ++year)
+        years.append(month + calendarYear(year, info));
+    return prefix + years.join(yearSeparator());
+}
+
+bool MvCalendariumRendererYearOnly::showsMonth() const
+{
+    return isConfigured(MvCalendarRenderingInformation(calendar_render_month_number | calendar_render_month_short |
+                                                       calendar_render_month_long));
+}
+
+// beside months a bare slash would bind the year to the next month's name
+QString MvCalendariumRendererYearOnly::yearSeparator() const
+{
+    const QString own = appearance().columnHeaders();
+    if (!own.isEmpty())
+        return own;
+    return showsMonth() ? u" / "_s : u"/"_s;
+}

@@ -1,0 +1,204 @@
+#include "MvBoxFont.h"
+#include "MvPageFixture.h"
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRendererHolidays.h"
+
+using namespace Qt::StringLiterals;
+
+using Item = MvPaintRecording::Item;
+
+namespace
+{
+
+MvCalendariumAppearance block()
+{
+    const QString cell = u"<cell type='CALENDAR_CELL_TYPE_WEEKDAY' paddingleft='30' paddingtop='20' paddingright='10' "
+                         "paddingbottom='10'><font family='%1' pointsize='9'/></cell>"_s.arg(MvBoxFont::family());
+    return MvPageFixture::appearance(u"calendar_render_days"_s, cell, u"CALENDAR_HOLIDAYS"_s);
+}
+
+MvCalendariumRendererHolidays &blockOf(MvPageFixture &page)
+{
+    return dynamic_cast<MvCalendariumRendererHolidays &>(page.renderer());
+}
+
+QRectF inkOf(const MvPaintRecording &recording)
+{
+    QRectF ink;
+    for (const Item &item : recording.items()) {
+        if (item.fill != QColor(u"#eeeeee"_s)) // the ground
+            ink |= item.bounds;
+    }
+    return ink;
+}
+
+MvCalendarEvent entry(const QString &name, const QDate &date)
+{
+    return MvCalendarEvent(name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
+}
+
+} // namespace
+
+class tst_MvCalendariumRendererHolidays : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { MvCalendarEventRegistry::instance().setEvents({}); }
+
+    void describes_data();
+    void describes();
+    void holidaysOfAMonth_data();
+    void holidaysOfAMonth();
+    void joinsEntries_data();
+    void joinsEntries();
+    void entryOfEveryDay();
+    void switchedOff();
+    void paintsTheBlock();
+    void leavesOutWhatDoesNotFit();
+    void whatItIs();
+};
+
+void tst_MvCalendariumRendererHolidays::describes_data()
+{
+    QTest::addColumn<QDate>("from");
+    QTest::addColumn<QDate>("to");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one day") << QDate(2027, 5, 1) << QDate(2027, 5, 1) << u"1.5: Fest"_s;
+    QTest::newRow("two days") << QDate(2027, 5, 31) << QDate(2027, 6, 1) << u"31.5/1.6: Fest"_s;
+    QTest::newRow("more") << QDate(2027, 12, 24) << QDate(2028, 1, 7) << u"24.12-7.1: Fest"_s;
+}
+
+void tst_MvCalendariumRendererHolidays::describes()
+{
+    QFETCH(QDate, from);
+    QFETCH(QDate, to);
+    MvPageFixture page(block(), QDate(2027, 5, 1));
+    QTEST(blockOf(page).describe(from, to, u"Fest"_s), "text");
+}
+
+void tst_MvCalendariumRendererHolidays::holidaysOfAMonth_data()
+{
+    QTest::addColumn<QDate>("month");
+    QTest::addColumn<int>("features");
+    QTest::addColumn<QString>("html");
+    const int publicOnly = FEATURE_HOLIDAYS | FEATURE_PUBLIC_HOLIDAYS_ONLY;
+    const int vacations = publicOnly | FEATURE_SCHOOL_VACATIONS;
+    // the vacations of Bayern: 24 December 2026 to 8 January, 18 to 28 May 2027
+    QTest::newRow("public holidays") << QDate(2027, 1, 1) << publicOnly
+                                     << u"<p>1.1: Neujahr, 6.1: Heilige Drei Könige</p>"_s;
+    QTest::newRow("vacation that began last year")
+        << QDate(2027, 1, 1) << vacations
+        << u"<p>1.1: Neujahr, 24.12-8.1: Weihnachtsferien, 6.1: Heilige Drei Könige</p>"_s;
+    QTest::newRow("the same from the other side")
+        << QDate(2026, 12, 1) << vacations
+        << u"<p>24.12-8.1: Weihnachtsferien, 25.12: 1. Weihnachtstag, 26.12: 2. Weihnachtstag</p>"_s;
+    QTest::newRow("vacation within the month")
+        << QDate(2027, 5, 1) << vacations
+        << u"<p>1.5: Tag der Arbeit, 6.5: Christi Himmelfahrt, 17.5: Pfingstmontag, 18.5-28.5: Pfingstferien, "
+           "27.5: Fronleichnam</p>"_s;
+    QTest::newRow("month without holidays") << QDate(2027, 7, 1) << publicOnly << u"<p></p>"_s;
+}
+
+void tst_MvCalendariumRendererHolidays::holidaysOfAMonth()
+{
+    QFETCH(QDate, month);
+    QFETCH(int, features);
+    MvPageFixture page(block(), month, features);
+    QTEST(blockOf(page).createHolidayDescription(), "html");
+}
+
+void tst_MvCalendariumRendererHolidays::joinsEntries_data()
+{
+    QTest::addColumn<QList<QDate>>("dates");
+    QTest::addColumn<QString>("html");
+    const QString pattern = u"<p>%1: Fest</p>"_s;
+    QTest::newRow("over the end of the month")
+        << QList<QDate>{{2020, 5, 31}, {2020, 6, 1}} << pattern.arg(u"31.5/1.6"_s);
+    QTest::newRow("over its beginning") << QList<QDate>{{2020, 4, 29}, {2020, 4, 30}, {2020, 5, 1}}
+                                        << pattern.arg(u"29.4-1.5"_s);
+    QTest::newRow("a gap parts them") << QList<QDate>{{2020, 5, 3}, {2020, 5, 5}} << u"<p>3.5: Fest, 5.5: Fest</p>"_s;
+    QTest::newRow("twice on one day is one") << QList<QDate>{{2020, 5, 3}, {2019, 5, 3}} << pattern.arg(u"3.5"_s);
+    QTest::newRow("days of other months alone") << QList<QDate>{{2020, 4, 30}, {2020, 6, 1}} << u"<p></p>"_s;
+}
+
+void tst_MvCalendariumRendererHolidays::joinsEntries()
+{
+    QFETCH(QList<QDate>, dates);
+    MvCalendarEventList events;
+    for (const QDate &date : std::as_const(dates))
+        events.append(entry(u"Fest"_s, date));
+    MvCalendarEventRegistry::instance().setEvents(events);
+    MvPageFixture page(block(), QDate(2027, 5, 1), FEATURE_ENTRIES);
+    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    QTEST(blockOf(page).createHolidayDescription(), "html");
+}
+
+void tst_MvCalendariumRendererHolidays::entryOfEveryDay()
+{
+    MvCalendarEventList events;
+    for (QDate date(2020, 1, 1); date.year() == 2020; date = date.addDays(1))
+        events.append(entry(u"<Tom & Anna>"_s, date));
+    MvCalendarEventRegistry::instance().setEvents(events);
+    MvPageFixture page(block(), QDate(2027, 5, 1), FEATURE_ENTRIES);
+    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    const QString html = blockOf(page).createHolidayDescription(); // comes to an end
+    QVERIFY2(html.endsWith(u": &lt;Tom &amp; Anna&gt;</p>"_s), qPrintable(html));
+}
+
+void tst_MvCalendariumRendererHolidays::switchedOff()
+{
+    MvPageFixture withoutTexts(block(), QDate(2027, 5, 1), FEATURE_HOLIDAY_COLORS);
+    QCOMPARE(blockOf(withoutTexts).createHolidayDescription(), u"<p></p>"_s);
+    MvCalendariumAppearance silent = block();
+    silent.setShowHolidays(false);
+    MvPageFixture silenced(silent, QDate(2027, 5, 1), FEATURE_HOLIDAYS);
+    QCOMPARE(blockOf(silenced).createHolidayDescription(), u"<p></p>"_s);
+}
+
+void tst_MvCalendariumRendererHolidays::paintsTheBlock()
+{
+    MvPageFixture page(block(), QDate(2027, 5, 1), FEATURE_HOLIDAYS | FEATURE_PUBLIC_HOLIDAYS_ONLY);
+    const QRectF rect(100, 200, 800, 400);
+    const MvPaintRecording recording = page.render(rect);
+    QVERIFY(page.days.isEmpty());
+    QVERIFY(page.renderer().unfittingTexts().isEmpty());
+    QCOMPARE(recording.items().constFirst().bounds, rect); // the ground of an even week
+    QCOMPARE(recording.items().constFirst().fill, QColor(u"#eeeeee"_s));
+    QCOMPARE(recording.items().constLast().fill, QColor(Qt::black));
+    const QRectF ink = inkOf(recording);
+    QVERIFY(rect.marginsRemoved({30, 20, 10, 10}).contains(ink));
+    QVERIFY(qAbs(ink.left() - 130.0) < 3.0); // a box begins 0.075 em within its character
+    // one pixel is one unit: the first line of 25 begins below the padding, its box 0.1 em lower
+    QVERIFY2(qAbs(ink.top() - (220.0 + 2.5)) < 1.0, qPrintable(QString::number(ink.top())));
+}
+
+void tst_MvCalendariumRendererHolidays::leavesOutWhatDoesNotFit()
+{
+    MvPageFixture page(block(), QDate(2027, 5, 1), FEATURE_HOLIDAYS | FEATURE_PUBLIC_HOLIDAYS_ONLY);
+    const QRectF rect(0, 0, 540, 85); // two lines of 40 characters
+    const QRectF ink = inkOf(page.render(rect));
+    QVERIFY(!ink.isEmpty());
+    QVERIFY(rect.contains(ink));
+    const QList<MvUnfittingText> unfitting = page.renderer().unfittingTexts();
+    QCOMPARE(unfitting.size(), 1);
+    QCOMPARE(unfitting.constFirst().text, u"17.5: Pfingstmontag, 27.5: Fronleichnam"_s);
+    QCOMPARE(unfitting.constFirst().rect, rect);
+
+    const QRectF tiny(0, 0, 200, 35);
+    page.render(tiny);
+    QVERIFY(page.renderer().unfittingTexts().constFirst().text.startsWith(u"1.5: Tag der Arbeit"_s));
+}
+
+void tst_MvCalendariumRendererHolidays::whatItIs()
+{
+    MvPageFixture page(block(), QDate(2027, 5, 1));
+    QCOMPARE(page.renderer().abilities().toInt(), 14);
+    QVERIFY(!page.renderer().rendersMonthInformation());
+    QCOMPARE(page.renderer().usedCellTypes(), QList<MvCalendarCellType>{CALENDAR_CELL_TYPE_WEEKDAY});
+}
+
+MV_TEST_MAIN(tst_MvCalendariumRendererHolidays)
+#include "tst_MvCalendariumRendererHolidays.moc"
