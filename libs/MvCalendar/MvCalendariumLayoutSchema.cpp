@@ -116,6 +116,11 @@ void MvCalendariumLayoutSchema::setShowHolidays(bool show)
         d->showHolidays = show;
 }
 
+MvSpaceMagnitude MvCalendariumLayoutSchema::optimizedSize() const
+{
+    return d->optimizedSize;
+}
+
 bool MvCalendariumLayoutSchema::allCellsHaveNoBorder() const
 {
     return d->noCellHasABorder;

@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumLayoutCellInfo.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaID.h"
 #include "MvCalendar/MvCalendariumType.h"
+#include "MvCore/MvSpaceMagnitude.h"
 
 #include <QSharedDataPointer>
 
@@ -49,6 +50,10 @@ public:
     /// Whether the names of holidays are shown; true unless a page switches it off. Not part of the schema's file.
     bool showHolidays() const;
     void setShowHolidays(bool show);
+
+    /// The paper class that fonts and paddings are made for (attribute "optimizedSize", "a8" to "a0"); none where the
+    /// file does not say: A4 then.
+    MvSpaceMagnitude optimizedSize() const;
 
     /// True when no cell of the schema has a border.
     bool allCellsHaveNoBorder() const;

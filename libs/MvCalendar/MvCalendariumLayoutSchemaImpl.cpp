@@ -9,6 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 const QString cellTag = u"cell"_s;
+const QString optimizedSizeKey = u"optimizedSize"_s;
 }
 
 void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
@@ -17,6 +18,7 @@ void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
     renderingInformation.fromXML(element);
     id.read(element);
     name = MvXMLParser::textAttribute(element, u"name"_s);
+    optimizedSize = MvSpaceMagnitude(MvXMLParser::textAttribute(element, optimizedSizeKey));
     readCells(element);
     copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION);
     copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY);
@@ -33,6 +35,8 @@ void MvCalendariumLayoutSchemaImpl::write(QDomElement &element) const
     id.write(element);
     if (!name.isEmpty())
         MvXMLBuilder::addAttribute(element, u"name"_s, name);
+    if (optimizedSize.isValid())
+        MvXMLBuilder::addAttribute(element, optimizedSizeKey, optimizedSize.encodeCSV());
     QList<MvCalendarCellType> types = cells.keys();
     std::sort(types.begin(), types.end());
     for (const MvCalendarCellType &cellType : std::as_const(types)) {

@@ -67,6 +67,12 @@ bool MvCalendariumRenderer::isConfigured(const MvCalendarRenderingInformation &i
     return renderingInformation().hasAnyOf(info);
 }
 
+bool MvCalendariumRenderer::isConfiguredOrWeeksAskedFor(const MvCalendarRenderingInformation &info) const
+{
+    const bool isAskedFor = m_content.hasFeatures(FEATURE_CALENDAR_WEEKS) || m_appearance.overriddenShowCalendarWeek();
+    return (isAskedFor && info.hasAnyOf(calendar_render_week_of_year)) || renderingInformation().hasAnyOf(info);
+}
+
 QList<MvCalendarCellType> MvCalendariumRenderer::dayCellTypes() const
 {
     return {CALENDAR_CELL_TYPE_WEEKDAY, CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SUNDAY,

@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumRendererMonthOnly.h"
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
+#include "MvCalendar/MvCalendariumRendererYear.h"
 
 #include <memory>
 
@@ -13,10 +14,11 @@ MvCalendariumRenderer *MvCalendariumRendererFactory::createRenderer(const MvCale
     switch (appearance.type().value()) {
     case CALENDAR_ONE_WEEK_PER_ROW:
         return new MvCalendariumRendererOneWeekPerRow(appearance);
+    case CALENDAR_YEAR:
+        return new MvCalendariumRendererYear(appearance);
     case CALENDAR_TWO_WEEKS: // these have no renderer of their own yet
     case CALENDAR_ONE_DAY_PER_ROW:
     case CALENDAR_ONE_COLUMN_PER_WEEK:
-    case CALENDAR_YEAR:
     case CALENDAR_YEAR_ONLY:
     case CALENDAR_ONE_ROW:
     case CALENDAR_HOLIDAYS:

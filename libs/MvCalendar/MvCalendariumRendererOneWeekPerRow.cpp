@@ -48,10 +48,7 @@ QStringList MvCalendariumRendererOneWeekPerRow::maxmimumWidthCalendarWeekText() 
 
 bool MvCalendariumRendererOneWeekPerRow::isConfigured(const MvCalendarRenderingInformation &info) const
 {
-    if (info.hasAnyOf(calendar_render_week_of_year) &&
-        (calendariumContent().hasFeatures(FEATURE_CALENDAR_WEEKS) || appearance().overriddenShowCalendarWeek()))
-        return true;
-    return MvCalendariumRenderer::isConfigured(info);
+    return isConfiguredOrWeeksAskedFor(info);
 }
 
 // ---- sizes
