@@ -14,8 +14,9 @@ namespace
 {
 
 constexpr int monthsPerPage = 12;
-constexpr int usualColumns = 4;     // of small months
-constexpr double mostOfTitle = 0.2; // of the page's height
+constexpr int usualColumns = 4;      // of small months
+constexpr int smallestOfPlanner = 5; // points
+constexpr double mostOfTitle = 0.2;  // of the page's height
 
 constexpr int yearFlags = calendar_render_year_long | calendar_render_year_short;
 
@@ -27,6 +28,13 @@ int monthsBetween(const QDate &from, const QDate &to)
 }
 
 } // namespace
+
+MvCalendariumRendererYear::MvCalendariumRendererYear(const MvCalendariumAppearance &appearance)
+    : MvCalendariumRenderer(appearance)
+{
+    if (isPlanner())
+        setMinimumFontSize(smallestOfPlanner);
+}
 
 // ---- what the layout is
 
@@ -83,7 +91,7 @@ bool MvCalendariumRendererYear::isEvenWeek(const QDate &date) const
 
 bool MvCalendariumRendererYear::isPlanner() const
 {
-    return isConfigured(calendar_render_days_of_week_only_in_front);
+    return renderingInformation().hasAnyOf(calendar_render_days_of_week_only_in_front);
 }
 
 // ---- words
@@ -115,13 +123,19 @@ QString MvCalendariumRendererYear::yearTitle() const
     return isConfigured(calendar_render_year_school) ? tr("Schuljahr %1").arg(years) : years;
 }
 
-QString MvCalendariumRendererYear::monthName(const QDate &month, double cellWidth) const
+QStringList MvCalendariumRendererYear::monthNames(double cellWidth) const
 {
-    const bool needsYear = !isConfigured(calendar_render_title) && !yearName(month.year()).isEmpty();
-    const QString name = needsYear ? calendarMonth(month) : MvCalendariumRenderer::monthName(month.month());
-    return fits(CALENDAR_CELL_TYPE_MONTH, cellWidth, name)
-               ? name
-               : fitted(CALENDAR_CELL_TYPE_MONTH, cellWidth, monthShort(month.month()));
+    QStringList names;
+    QStringList shortNames;
+    bool allFit = true;
+    for (int index = 0; index < monthsPerPage; ++index) {
+        const QDate month = firstMonth().addMonths(index);
+        const bool needsYear = !isConfigured(calendar_render_title) && !yearName(month.year()).isEmpty();
+        names.append(needsYear ? calendarMonth(month) : monthName(month.month()));
+        shortNames.append(fitted(CALENDAR_CELL_TYPE_MONTH, cellWidth, monthShort(month.month())));
+        allFit = allFit && fits(CALENDAR_CELL_TYPE_MONTH, cellWidth, names.constLast());
+    }
+    return allFit ? names : shortNames;
 }
 
 bool MvCalendariumRendererYear::fits(const MvCalendarCellType &type, double cellWidth, const QString &text) const

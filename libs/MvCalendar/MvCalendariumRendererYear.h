@@ -14,7 +14,8 @@ class MVCALENDAR_EXPORT MvCalendariumRendererYear : public MvCalendariumRenderer
     Q_OBJECT
 
 public:
-    using MvCalendariumRenderer::MvCalendariumRenderer;
+    /// The smallest font of a planner is 5 points unless it is set otherwise.
+    explicit MvCalendariumRendererYear(const MvCalendariumAppearance &appearance);
 
     /// Names of holidays are shown by the planner only.
     MvCalendariumDisplayAbilities abilities() const override;
@@ -36,9 +37,9 @@ public:
     /// "2026/27", with calendar_render_all_years both years as they are written, joined by the column headers or "/".
     /// A school year is called one.
     QString yearTitle() const;
-    /// The month as the layout writes it, with the year if there is no title to tell it; the short name where that is
-    /// too wide, in page units, for a cell of the type MONTH.
-    QString monthName(const QDate &month, double cellWidth) const;
+    /// The twelve months as the layout writes them, with the year if there is no title to tell it; all of them short
+    /// where one is too wide for a cell of the type MONTH, whose width is in page units.
+    QStringList monthNames(double cellWidth) const;
     /// The text, shortened to fit into a cell of the type in page units.
     QString fitted(const MvCalendarCellType &type, double cellWidth, const QString &text) const;
     bool fits(const MvCalendarCellType &type, double cellWidth, const QString &text) const;

@@ -31,9 +31,10 @@ void MvYearGridPainter::paint(const QRectF &rect)
     m_weekHead = m_renderer.calendarWeekHeadlineText();
     if (!m_renderer.fits(CALENDAR_CELL_TYPE_TOPLINE, m_sizes.weekWidth, m_weekHead))
         m_weekHead.clear();
+    const QStringList names = m_renderer.monthNames(MvSmallMonthGrid::size(m_sizes).width());
     for (int index = 0; index < MvYearArrangement::monthCount; ++index) {
         const QDate month = m_renderer.firstMonth().addMonths(index);
-        paintMonth(MvSmallMonthGrid(arrangement.monthRect(index).topLeft(), month, m_sizes), month);
+        paintMonth(MvSmallMonthGrid(arrangement.monthRect(index).topLeft(), month, m_sizes), names.at(index));
     }
 }
 
@@ -68,11 +69,9 @@ QString MvYearGridPainter::weekText(const QDate &monday) const
 
 // ---- painting
 
-void MvYearGridPainter::paintMonth(const MvSmallMonthGrid &grid, const QDate &month)
+void MvYearGridPainter::paintMonth(const MvSmallMonthGrid &grid, const QString &name)
 {
-    const QRectF name = grid.nameRect();
-    m_renderer.drawCell(m_painter, name, same(CALENDAR_CELL_TYPE_MONTH), m_renderer.monthName(month, name.width()),
-                        true, 0);
+    m_renderer.drawCell(m_painter, grid.nameRect(), same(CALENDAR_CELL_TYPE_MONTH), name, true, 0);
     if (m_sizes.headHeight > 0.0)
         paintHeads(grid);
     for (int row = 0; row < grid.rows(); ++row)

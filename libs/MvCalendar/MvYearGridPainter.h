@@ -22,7 +22,7 @@ private:
     /// The week as the content writes it, its number alone where the column is too narrow.
     QString weekText(const QDate &monday) const;
 
-    void paintMonth(const MvSmallMonthGrid &grid, const QDate &month);
+    void paintMonth(const MvSmallMonthGrid &grid, const QString &name);
     void paintHeads(const MvSmallMonthGrid &grid);
     void paintWeek(const MvSmallMonthGrid &grid, int row);
     void paintDay(const QRectF &cell, const QDate &date);

@@ -16,7 +16,8 @@ namespace
 
 constexpr int daysPerWeek = 7;
 constexpr double readableContrast = 4.5;
-constexpr double leastTextWidth = 2.5; // in heights of a line; less than that shows ellipses only
+constexpr double gapBeneathNumber = 0.2; // in heights of a line
+constexpr double leastTextWidth = 2.5;   // in heights of a line; less than that shows ellipses only
 
 MvCalendarCellTypeConfig same(const MvCalendarCellType &type)
 {
@@ -73,8 +74,9 @@ MvYearPlannerPainter::MvYearPlannerPainter(MvCalendariumRendererYear &renderer, 
 void MvYearPlannerPainter::paint(const QRectF &rect)
 {
     const MvYearPlanner planner(rect, m_renderer.firstMonth(), m_renderer.neededPlannerSizes());
+    const QStringList names = m_renderer.monthNames(planner.nameRect(0).width());
     for (int column = 0; column < MvYearPlanner::monthCount; ++column)
-        paintMonth(planner, column);
+        paintMonth(planner, column, names.at(column));
 }
 
 // ---- styles
@@ -105,12 +107,10 @@ double MvYearPlannerPainter::baseline(const MvCalendarCellType &type, const QFon
 
 // ---- painting
 
-void MvYearPlannerPainter::paintMonth(const MvYearPlanner &planner, int column)
+void MvYearPlannerPainter::paintMonth(const MvYearPlanner &planner, int column, const QString &name)
 {
     const QDate month = planner.month(column);
-    const QRectF name = planner.nameRect(column);
-    m_renderer.drawCell(m_painter, name, same(CALENDAR_CELL_TYPE_MONTH), m_renderer.monthName(month, name.width()),
-                        true, 0);
+    m_renderer.drawCell(m_painter, planner.nameRect(column), same(CALENDAR_CELL_TYPE_MONTH), name, true, 0);
     const int days = month.daysInMonth();
     for (int day = 1; day <= days; ++day)
         paintDay(planner, planner.dayRect(column, day), month.addDays(day - 1));
@@ -127,11 +127,23 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     const QColor color = m_renderer.fontColor(config, even);
     if (!m_renderer.isOpaqueColor(color))
         return;
-    const MvYearPlanner::Parts parts = planner.parts(cell, date.dayOfWeek() == Qt::Monday);
+    const Style textStyle = style(config.inscriptionConfig());
+    const QStringList texts = m_renderer.describeHolidays(date);
+    MvYearPlanner::Parts parts = planner.parts(cell, date.dayOfWeek() == Qt::Monday);
+    bool isCut = false;
+    QStringList lines = fittingLines(texts, innerRect(planner, parts.texts, textStyle).size(), textStyle, &isCut);
+    if (isCut && !parts.week.isNull()) { // the week gives way
+        parts = planner.parts(cell, false);
+        lines = fittingLines(texts, innerRect(planner, parts.texts, textStyle).size(), textStyle, &isCut);
+    }
+    if (isCut)
+        m_renderer.reportUnfitting(date, texts.join(u", "_s), cell);
+
     paintFront(parts, config, date, even);
     if (!parts.week.isNull())
         paintWeek(parts.week, config, date, even);
-    paintTexts(planner, parts.texts, config, date, cell, color);
+    m_painter.setPen(color);
+    paintTexts(planner, innerRect(planner, parts.texts, textStyle), lines, textStyle);
 }
 
 void MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const MvCalendarCellTypeConfig &config,
@@ -161,43 +173,38 @@ void MvYearPlannerPainter::paintWeek(const QRectF &part, const MvCalendarCellTyp
                             week.flags, even);
 }
 
-void MvYearPlannerPainter::paintTexts(const MvYearPlanner &planner, const QRectF &part,
-                                      const MvCalendarCellTypeConfig &config, const QDate &date, const QRectF &cell,
-                                      const QColor &color)
+QRectF MvYearPlannerPainter::innerRect(const MvYearPlanner &planner, const QRectF &part, const Style &style) const
 {
-    const QStringList texts = m_renderer.describeHolidays(date);
-    if (texts.isEmpty())
-        return;
-    const Style &cellStyle = style(config.inscriptionConfig());
-    const double left = planner.hasTextsBeneath() ? cellStyle.leftPadding : 0.0;
-    const QRectF inner = part.adjusted(left, 0.0, -cellStyle.rightPadding, 0.0);
-    bool isCut = false;
-    const QStringList lines = fittingLines(texts, inner.size(), cellStyle, &isCut);
-    if (isCut)
-        m_renderer.reportUnfitting(date, texts.join(u", "_s), cell);
+    if (planner.hasTextsBeneath())
+        return part.adjusted(style.leftPadding, gapBeneathNumber * style.lineHeight, -style.rightPadding, 0.0);
+    return part.adjusted(0.0, 0.0, -style.rightPadding, 0.0);
+}
+
+void MvYearPlannerPainter::paintTexts(const MvYearPlanner &planner, const QRectF &inner, const QStringList &lines,
+                                      const Style &style)
+{
     if (lines.isEmpty())
         return;
-
     double top = inner.top();
     if (!planner.hasTextsBeneath() && lines.size() == 1) // on the line of the number
-        top = inner.center().y() + cellStyle.baseline - cellStyle.textBaseline - cellStyle.lineHeight / 2.0;
+        top = inner.center().y() + style.baseline - style.textBaseline - style.lineHeight / 2.0;
     else if (!planner.hasTextsBeneath())
-        top += (inner.height() - cellStyle.lineHeight * double(lines.size())) / 2.0;
-    m_painter.save();
-    m_painter.setFont(cellStyle.texts);
-    m_painter.setPen(color);
+        top += (inner.height() - style.lineHeight * double(lines.size())) / 2.0;
+    m_painter.setFont(style.texts);
     for (const QString &line : lines) {
-        MvCalendariumTextPainter::drawText(m_painter, {inner.left(), top, inner.width(), cellStyle.lineHeight},
+        MvCalendariumTextPainter::drawText(m_painter, {inner.left(), top, inner.width(), style.lineHeight},
                                            Qt::AlignLeft | Qt::AlignTop, line);
-        top += cellStyle.lineHeight;
+        top += style.lineHeight;
     }
-    m_painter.restore();
 }
 
 /// Every text on a line of its own or, if there are too few, one after the other.
 QStringList MvYearPlannerPainter::fittingLines(const QStringList &texts, const QSizeF &size, const Style &style,
                                                bool *isCut) const
 {
+    *isCut = false;
+    if (texts.isEmpty())
+        return {};
     const int width = std::max(0, static_cast<int>(size.width()));
     const bool isTooNarrow = size.width() < leastTextWidth * style.lineHeight;
     const int maxLines = isTooNarrow ? 0 : std::max(0, static_cast<int>(size.height() / style.lineHeight));

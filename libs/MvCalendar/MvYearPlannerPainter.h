@@ -35,13 +35,14 @@ private:
     /// Below the middle of the cell, when the text is centred vertically.
     double baseline(const MvCalendarCellType &type, const QFont &font) const;
 
-    void paintMonth(const MvYearPlanner &planner, int column);
+    void paintMonth(const MvYearPlanner &planner, int column, const QString &name);
     void paintDay(const MvYearPlanner &planner, const QRectF &cell, const QDate &date);
     void paintFront(const MvYearPlanner::Parts &parts, const MvCalendarCellTypeConfig &config, const QDate &date,
                     bool even);
     void paintWeek(const QRectF &part, const MvCalendarCellTypeConfig &config, const QDate &date, bool even);
-    void paintTexts(const MvYearPlanner &planner, const QRectF &part, const MvCalendarCellTypeConfig &config,
-                    const QDate &date, const QRectF &cell, const QColor &color);
+    void paintTexts(const MvYearPlanner &planner, const QRectF &inner, const QStringList &lines, const Style &style);
+    /// The room for texts in the part of a cell.
+    QRectF innerRect(const MvYearPlanner &planner, const QRectF &part, const Style &style) const;
     QStringList fittingLines(const QStringList &texts, const QSizeF &size, const Style &style, bool *isCut) const;
 
     MvCalendariumRendererYear &m_renderer;
