@@ -65,7 +65,7 @@ const MvCalendariumLayoutSchema &MvCalendariumAppearance::layoutSchema() const
 
 void MvCalendariumAppearance::setLayoutSchema(const MvCalendariumLayoutSchema &schema)
 {
-    d->layoutSchema = schema;
+    d->setLayoutSchema(schema);
 }
 
 void MvCalendariumAppearance::setLayoutSchemaByID(const MvCalendariumLayoutSchemaID &id)

@@ -47,8 +47,9 @@ public:
 
     // layout
     const MvCalendariumLayoutSchema &layoutSchema() const;
+    /// Brings the paper class that the schema is made for, if it names one; see optimizedSize().
     void setLayoutSchema(const MvCalendariumLayoutSchema &schema);
-    /// An unknown id gives an invalid schema.
+    /// The same with a registered schema. An unknown id gives an invalid schema.
     void setLayoutSchemaByID(const MvCalendariumLayoutSchemaID &id);
     /// Takes the column headers and the size of holiday texts that the layout suggests: for a new page, or one that
     /// changes to this layout. Setting the layout alone keeps what the page has.
@@ -100,7 +101,8 @@ public:
     QFont fontHolidays(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude, int minimum) const;
     /// The metrics of font() at the printer's resolution.
     QFontMetrics fontMetrics(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude, int minimum) const;
-    /// The paper class that the layout's fonts are made for; A4 by default.
+    /// The paper class that the layout's fonts are made for: that of the file the appearance was read from, else the
+    /// layout's own, else A4.
     MvSpaceMagnitude optimizedSize() const;
 
     // column headers, month offset, calendar weeks

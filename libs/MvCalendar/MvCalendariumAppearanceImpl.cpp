@@ -21,13 +21,13 @@ void MvCalendariumAppearanceImpl::read(const QDomElement &element, bool adaptGri
                                        MvCalendariumColorSchemaRegistry *registry)
 {
     fontSettings = MvCalendariumFontSettings(element);
-    const QString size = MvXMLParser::textAttribute(element, optimizedSizeKey);
-    if (!size.isEmpty())
-        optimizedSize = MvSpaceMagnitude(size);
     readColorSchema(element, registry);
     MvCalendariumLayoutSchemaID layoutId;
     layoutId.read(element);
     setLayoutSchemaById(layoutId);
+    const QString size = MvXMLParser::textAttribute(element, optimizedSizeKey);
+    if (!size.isEmpty()) // overrides the layout's
+        optimizedSize = MvSpaceMagnitude(size);
     columnHeaders = MvXMLParser::textAttribute(element, columnHeadersKey);
     offsetMonth = MvXMLParser::intAttribute(element, offsetMonthKey, 0);
     layoutSchema.setShowHolidays(MvXMLParser::boolAttribute(element, showHolidayKey, true));
@@ -56,9 +56,18 @@ void MvCalendariumAppearanceImpl::setColorSchemaById(const MvCalendariumColorSch
         isInGivenRegistry ? registry->findSchema(id) : MvCalendariumColorSchemaRegistry::instance().findSchema(id);
 }
 
+void MvCalendariumAppearanceImpl::setLayoutSchema(const MvCalendariumLayoutSchema &schema)
+{
+    if (schema.optimizedSize().isValid())
+        optimizedSize = schema.optimizedSize();
+    else if (layoutSchema.optimizedSize().isValid()) // came with the layout that goes
+        optimizedSize = MAGNITUDE_A4;
+    layoutSchema = schema;
+}
+
 void MvCalendariumAppearanceImpl::setLayoutSchemaById(const MvCalendariumLayoutSchemaID &id)
 {
-    layoutSchema = MvCalendariumLayoutSchemaRegistry::instance().findSchema(id);
+    setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().findSchema(id));
 }
 
 void MvCalendariumAppearanceImpl::adaptGridToLayout()

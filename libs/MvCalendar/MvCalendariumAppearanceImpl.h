@@ -23,6 +23,8 @@ struct MvCalendariumAppearanceImpl : MvSharedData
     void write(QDomElement &element, bool embedUserSchema) const;
 
     void setColorSchemaById(const MvCalendariumColorSchemaID &id, MvCalendariumColorSchemaRegistry *registry);
+    /// Takes the schema with the paper class it is made for.
+    void setLayoutSchema(const MvCalendariumLayoutSchema &schema);
     void setLayoutSchemaById(const MvCalendariumLayoutSchemaID &id);
     void adaptGridToLayout();
 

@@ -131,6 +131,11 @@ const MvCalendariumLayoutSchemaID &MvCalendariumLayoutSchema::monthLayout() cons
     return d->monthLayout;
 }
 
+MvSpaceMagnitude MvCalendariumLayoutSchema::optimizedSize() const
+{
+    return d->optimizedSize;
+}
+
 bool MvCalendariumLayoutSchema::allCellsHaveNoBorder() const
 {
     return d->noCellHasABorder;

@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumLayoutCellInfo.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaID.h"
 #include "MvCalendar/MvCalendariumType.h"
+#include "MvCore/MvSpaceMagnitude.h"
 
 #include <QSharedDataPointer>
 
@@ -60,6 +61,9 @@ public:
     /// The layout of the line with the month's name that stands above this one on a page of its own; an invalid id for
     /// layouts that need none. Attribute "monthlayout".
     const MvCalendariumLayoutSchemaID &monthLayout() const;
+    /// The paper class that fonts and paddings are made for (attribute "optimizedSize", "a8" to "a0"); none where the
+    /// file does not say: A4 then.
+    MvSpaceMagnitude optimizedSize() const;
 
     /// True when no cell of the schema has a border.
     bool allCellsHaveNoBorder() const;

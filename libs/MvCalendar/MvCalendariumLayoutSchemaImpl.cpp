@@ -12,6 +12,7 @@ const QString cellTag = u"cell"_s;
 const QString columnHeadersKey = u"columnheaders"_s;
 const QString holidayFontKey = u"holidayfontpercentage"_s;
 const QString monthLayoutKey = u"monthlayout"_s;
+const QString optimizedSizeKey = u"optimizedSize"_s;
 }
 
 void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
@@ -21,6 +22,7 @@ void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
     id.read(element);
     name = MvXMLParser::textAttribute(element, u"name"_s);
     readSuggestions(element);
+    optimizedSize = MvSpaceMagnitude(MvXMLParser::textAttribute(element, optimizedSizeKey));
     readCells(element);
     copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION);
     copyCellInfoIfMissing(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY);
@@ -38,6 +40,8 @@ void MvCalendariumLayoutSchemaImpl::write(QDomElement &element) const
     if (!name.isEmpty())
         MvXMLBuilder::addAttribute(element, u"name"_s, name);
     writeSuggestions(element);
+    if (optimizedSize.isValid())
+        MvXMLBuilder::addAttribute(element, optimizedSizeKey, optimizedSize.encodeCSV());
     QList<MvCalendarCellType> types = cells.keys();
     std::sort(types.begin(), types.end());
     for (const MvCalendarCellType &cellType : std::as_const(types)) {

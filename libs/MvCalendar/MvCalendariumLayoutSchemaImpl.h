@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaID.h"
 #include "MvCalendar/MvCalendariumType.h"
 #include "MvCore/MvSharedData.h"
+#include "MvCore/MvSpaceMagnitude.h"
 
 #include <QHash>
 
@@ -16,6 +17,7 @@ struct MvCalendariumLayoutSchemaImpl : MvSharedData
     QString name;
     MvCalendariumType type;
     MvCalendarRenderingInformation renderingInformation;
+    MvSpaceMagnitude optimizedSize; // none: the layout does not say
     bool showHolidays = true;
     QHash<MvCalendarCellType, MvCalendariumLayoutCellInfo> cells; // by single type
     bool noCellHasABorder = true;

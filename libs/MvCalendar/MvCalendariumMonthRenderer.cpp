@@ -8,11 +8,6 @@ double MvCalendariumMonthRenderer::plannedHeight(const MvCalendarCellType &type,
     return isConfigured(info) ? minimumHeightOfCellType(type, false) : 0.0;
 }
 
-bool MvCalendariumMonthRenderer::areCalendarWeeksRequested() const
-{
-    return calendariumContent().hasFeatures(FEATURE_CALENDAR_WEEKS) || appearance().overriddenShowCalendarWeek();
-}
-
 void MvCalendariumMonthRenderer::drawTitle(QPainter &painter, const QRectF &rect)
 {
     drawFittingCell(painter, rect, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TITLE),

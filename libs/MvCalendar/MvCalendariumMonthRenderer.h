@@ -17,8 +17,6 @@ protected:
 
     /// The minimum height of a line that shows the information; 0 when it is not configured.
     double plannedHeight(const MvCalendarCellType &type, const MvCalendarRenderingInformation &info) const;
-    /// Whether the page's content or its appearance asks for calendar weeks, whatever the layout says.
-    bool areCalendarWeeksRequested() const;
 
     /// The page's month, in one cell.
     void drawTitle(QPainter &painter, const QRectF &rect);

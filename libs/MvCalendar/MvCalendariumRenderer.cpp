@@ -67,6 +67,17 @@ bool MvCalendariumRenderer::isConfigured(const MvCalendarRenderingInformation &i
     return renderingInformation().hasAnyOf(info);
 }
 
+bool MvCalendariumRenderer::areCalendarWeeksRequested() const
+{
+    return m_content.hasFeatures(FEATURE_CALENDAR_WEEKS) || m_appearance.overriddenShowCalendarWeek();
+}
+
+bool MvCalendariumRenderer::isConfiguredOrWeeksAskedFor(const MvCalendarRenderingInformation &info) const
+{
+    return (info.hasAnyOf(calendar_render_week_of_year) && areCalendarWeeksRequested()) ||
+           renderingInformation().hasAnyOf(info);
+}
+
 QList<MvCalendarCellType> MvCalendariumRenderer::dayCellTypes() const
 {
     return {CALENDAR_CELL_TYPE_WEEKDAY, CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SUNDAY,

@@ -92,7 +92,7 @@ public:
     static QDate mondayOfWeekWithDay(const QDate &day);
     static bool isEvenCalendarWeek(const QDate &date);
     /// Parity relative to the page: the week of startDate() is odd, and rows alternate from there.
-    bool isEvenWeek(const QDate &date) const;
+    virtual bool isEvenWeek(const QDate &date) const;
 
     // cell types of a date; features: 1 holidays change the inscription, 2 they change the colour
     MvCalendariumContentKey contentFor(const QDate &date) const;
@@ -214,6 +214,10 @@ Q_SIGNALS:
     void hasTitleLineMayHaveChanged(bool hasTitleLine);
 
 protected:
+    /// Whether the page's content or its appearance asks for calendar weeks, whatever the layout says.
+    bool areCalendarWeeksRequested() const;
+    /// isConfigured() for layouts whose calendar weeks the content or the appearance can ask for as well.
+    bool isConfiguredOrWeeksAskedFor(const MvCalendarRenderingInformation &info) const;
     /// Collects a background; rectangles of one colour are filled as one shape.
     void addFill(const QRectF &rect, const QColor &color);
     /// Notes a text of the day whose cell has no room for it.

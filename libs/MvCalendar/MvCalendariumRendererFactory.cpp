@@ -8,6 +8,7 @@
 #include "MvCalendar/MvCalendariumRendererOneRow.h"
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
 #include "MvCalendar/MvCalendariumRendererTwoWeeksPerRow.h"
+#include "MvCalendar/MvCalendariumRendererYear.h"
 #include "MvCalendar/MvCalendariumRendererYearOnly.h"
 
 #include <memory>
@@ -25,8 +26,8 @@ MvCalendariumRenderer *MvCalendariumRendererFactory::createRenderer(const MvCale
         return new MvCalendariumRendererOneDayPerRow(appearance);
     case CALENDAR_ONE_COLUMN_PER_WEEK:
         return new MvCalendariumRendererOneColumnPerWeek(appearance);
-    case CALENDAR_YEAR: // has no renderer of its own yet
-        break;
+    case CALENDAR_YEAR:
+        return new MvCalendariumRendererYear(appearance);
     case CALENDAR_YEAR_ONLY:
         return new MvCalendariumRendererYearOnly(appearance);
     case CALENDAR_ONE_ROW:

@@ -36,9 +36,7 @@ QStringList MvCalendariumRendererOneWeekPerRow::maxmimumWidthCalendarWeekText() 
 
 bool MvCalendariumRendererOneWeekPerRow::isConfigured(const MvCalendarRenderingInformation &info) const
 {
-    if (info.hasAnyOf(calendar_render_week_of_year) && areCalendarWeeksRequested())
-        return true;
-    return MvCalendariumMonthRenderer::isConfigured(info);
+    return isConfiguredOrWeeksAskedFor(info);
 }
 
 // ---- sizes
