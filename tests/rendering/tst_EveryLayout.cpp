@@ -61,9 +61,11 @@ MvPageFixture pageOf(const MvCalendariumLayoutSchema &layout, const QDate &month
     return page;
 }
 
-bool meet(const QRectF &a, const QRectF &b)
+// of what the clip leaves: a word wider than its cell ends at the cell's edge
+bool meet(const Item &a, const Item &b)
 {
-    const QRectF common = a & b;
+    const auto ink = [](const Item &text) { return text.clip.isNull() ? text.bounds : text.bounds & text.clip; };
+    const QRectF common = ink(a) & ink(b);
     return common.width() > tolerance && common.height() > tolerance;
 }
 
@@ -82,7 +84,7 @@ QString overlaps(QList<Item> texts)
     std::sort(texts.begin(), texts.end(), [](const Item &a, const Item &b) { return a.bounds.top() < b.bounds.top(); });
     for (qsizetype i = 0; i < texts.size(); ++i) {
         for (qsizetype j = i + 1; j < texts.size() && texts.at(j).bounds.top() < texts.at(i).bounds.bottom(); ++j) {
-            if (meet(texts.at(i).bounds, texts.at(j).bounds))
+            if (meet(texts.at(i), texts.at(j)))
                 return describe(texts.at(i)) + u" meets "_s + describe(texts.at(j));
         }
     }
