@@ -321,7 +321,8 @@ void tst_MvCalendariumRendererOneDayPerRow::lowRowsShowTheWeekNumberAlone()
 
 void tst_MvCalendariumRendererOneDayPerRow::longTextsEndInAnEllipsis()
 {
-    const QString name = u"Großtante Wilhelmine und Großonkel Balthasar mit den Zwillingen"_s;
+    const QString name =
+        u"Großtante Wilhelmine und Großonkel Balthasar mit den Zwillingen Anna und Otto aus Garmisch-Partenkirchen"_s;
     MvCalendarEventRegistry::instance().setEvents(
         {MvCalendarEvent(name, QDate(1950, 5, 12).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime())});
     MvPageFixture page(dayList(weekdays, u"A$$B$$C$$D"_s), QDate(2027, 5, 1), FEATURE_ENTRIES);
