@@ -7,6 +7,7 @@
 #include "MvCliValues.h"
 #include "MvNearMiss.h"
 #include "MvOutputTarget.h"
+#include "MvRenderReport.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPngExporter.h"
@@ -86,6 +87,8 @@ QList<MvCliOption> MvRenderCommand::options() const
             {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027)")},
             {u"author"_s, u"TEXT"_s, tr("Verfasser im PDF")},
             {u"dpi"_s, u"ZAHL"_s, tr("Punkte je Zoll der PNG-Dateien (300)")},
+            {u"report"_s, u"FORM"_s,
+             tr("json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien und Texte ohne Platz nennt")},
             {u"output"_s, u"DATEI"_s,
              tr("-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt"), true}};
 }
@@ -95,6 +98,7 @@ QStringList MvRenderCommand::examples() const
     return {u"render --year 2027 --region BY --entries geburtstage.xml -o kalender.pdf"_s,
             u"render --from 2026-08 --months 12 --country AT --page A3 --vacations -o schuljahr.pdf"_s,
             u"render --year 2027 --layout FAMILY_PLANNER --columns \"Mama,Papa,Lena,Jonas\" --portrait -o planer.pdf"_s,
+            u"render --year 2027 --entries geburtstage.xml --report json -o kalender.pdf"_s,
             u"render --year 2027 --colors NIGHT --dpi 150 -o seite-%m.png"_s};
 }
 
@@ -110,6 +114,9 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     document.setAuthor(values.text(u"author"_s));
     const int dpi = values.number(u"dpi"_s, MvPngExporter::minimumDpi, MvPngExporter::maximumDpi, 300);
     values.exclude(u"entries"_s, u"my-entries"_s);
+    const bool isReported = values.has(u"report"_s);
+    if (isReported)
+        values.choice(u"report"_s, {u"json"_s});
     if (!values.has(u"output"_s))
         values.setError(tr("es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png oder .svg"));
     if (!values.isOk())
@@ -135,13 +142,21 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
         hintAtLeapDayEntries(document.range(), streams.hints);
 
     const MvPageSource pages = document.pageSource();
+    MvRenderReport report(document);
     for (const QString &path : arguments.values(u"output"_s)) {
         const MvExportResult result = MvOutputTarget(path).write(pages, dpi);
-        for (const QFileInfo &file : result.files)
-            streams.out << file.filePath() << '\n';
+        for (const QFileInfo &file : result.files) {
+            report.addFile(file.filePath());
+            if (!isReported)
+                streams.out << file.filePath() << '\n';
+        }
         if (!result.isOk())
             return failed(result.error);
     }
+    if (isReported)
+        streams.out << report.toJson();
+    else
+        report.printHint(streams.hints);
     return {};
 }
 

@@ -16,14 +16,14 @@ QList<MvSchemaListCommand::Schema> MvSchemaListCommand::schemata(Kind kind)
     QList<Schema> result;
     if (kind == Kind::Layouts) {
         for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata())
-            result.append({schema.ID().toString(), schema.name()});
+            result.append({schema.ID().toString(), schema.name(), schema.description()});
         return result;
     }
     const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     const MvCalendariumColorSchemaList visible = registry.visibleSchemata();
     for (const MvCalendariumColorSchema &schema : visible) {
         const MvCalendariumColorSchemaID id = registry.id(schema);
-        result.append({id.toString(), registry.name(id)});
+        result.append({id.toString(), registry.name(id), {}});
     }
     return result;
 }
@@ -71,7 +71,10 @@ MvCliCommand::Result MvSchemaListCommand::run(const MvCliArguments &arguments, c
     QJsonArray array;
     MvTextTable table;
     for (const Schema &schema : schemata(m_kind)) {
-        array.append(QJsonObject{{u"id"_s, schema.id}, {u"name"_s, schema.name}});
+        QJsonObject object{{u"id"_s, schema.id}, {u"name"_s, schema.name}};
+        if (!schema.description.isEmpty())
+            object.insert(u"description"_s, schema.description);
+        array.append(object);
         table.addRow({schema.id, schema.name});
     }
     if (format == u"json"_s)

@@ -17,6 +17,7 @@ public:
     struct Schema {
         QString id;
         QString name;
+        QString description; // of layouts
     };
 
     explicit MvSchemaListCommand(Kind kind)

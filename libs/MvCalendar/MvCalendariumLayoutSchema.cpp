@@ -52,6 +52,11 @@ QString MvCalendariumLayoutSchema::name() const
     return d->name.isEmpty() ? d->id.toString() : d->name;
 }
 
+QString MvCalendariumLayoutSchema::description() const
+{
+    return d->description;
+}
+
 size_t MvCalendariumLayoutSchema::hashValue() const
 {
     return qHashMulti(0, d->id, d->type, d->renderingInformation, d->cells.size());

@@ -34,6 +34,8 @@ public:
     const MvCalendariumLayoutSchemaID &ID() const;
     /// The name shown to users; the id where the file gives none.
     QString name() const;
+    /// One sentence on what the layout is for, in German; empty where the file gives none. Attribute "description".
+    QString description() const;
     size_t hashValue() const;
 
     // per cell type; a type that the schema does not have is laid out by default

@@ -21,6 +21,7 @@ void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
     renderingInformation.fromXML(element);
     id.read(element);
     name = MvXMLParser::textAttribute(element, u"name"_s);
+    description = MvXMLParser::textAttribute(element, u"description"_s);
     readSuggestions(element);
     optimizedSize = MvSpaceMagnitude(MvXMLParser::textAttribute(element, optimizedSizeKey));
     readCells(element);
@@ -39,6 +40,8 @@ void MvCalendariumLayoutSchemaImpl::write(QDomElement &element) const
     id.write(element);
     if (!name.isEmpty())
         MvXMLBuilder::addAttribute(element, u"name"_s, name);
+    if (!description.isEmpty())
+        MvXMLBuilder::addAttribute(element, u"description"_s, description);
     writeSuggestions(element);
     if (optimizedSize.isValid())
         MvXMLBuilder::addAttribute(element, optimizedSizeKey, optimizedSize.encodeCSV());

@@ -15,6 +15,7 @@ struct MvCalendariumLayoutSchemaImpl : MvSharedData
 {
     MvCalendariumLayoutSchemaID id;
     QString name;
+    QString description;
     MvCalendariumType type;
     MvCalendarRenderingInformation renderingInformation;
     MvSpaceMagnitude optimizedSize; // none: the layout does not say

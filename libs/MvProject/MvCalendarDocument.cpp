@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvModelBase/MvPaintRecorder.h"
 #include "MvProductBase/MvCalendariumContentConfig.h"
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
 #include "MvProject/MvPageSource.h"
@@ -56,21 +57,39 @@ QList<QDate> MvCalendarDocument::pages() const
 void MvCalendarDocument::paint(QPainter &painter, int page) const
 {
     const QDate month = pages().value(page);
+    if (isValid() && month.isValid())
+        paintPage(painter, month);
+}
+
+QList<MvUnfittingText> MvCalendarDocument::unfittingTexts(int page) const
+{
+    const QDate month = pages().value(page);
     if (!isValid() || !month.isValid())
-        return;
+        return {};
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    return paintPage(painter, month);
+}
+
+QList<MvUnfittingText> MvCalendarDocument::paintPage(QPainter &painter, const QDate &month) const
+{
     paintBackground(painter);
     const auto calendarium = renderer(m_appearance, month);
     QRectF rect = m_format.contentRect();
     if (!calendarium->rendersMonthInformation())
         rect = paintMonthLine(painter, rect, month);
     calendarium->render(painter, rect);
+    return calendarium->unfittingTexts();
 }
 
 std::unique_ptr<MvCalendariumRenderer> MvCalendarDocument::renderer(const MvCalendariumAppearance &appearance,
                                                                     const QDate &month) const
 {
     std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
-    made->setCalendarInformation(MvCalendariumContentConfig(month, m_holidayConfig), m_range);
+    // a year's page begins with its own first month, not with that of the whole calendar
+    const bool isYearPage = appearance.type() == CALENDAR_YEAR;
+    const MvDateRange range = isYearPage ? MvDateRange(month, month.addMonths(12).addDays(-1)) : m_range;
+    made->setCalendarInformation(MvCalendariumContentConfig(month, m_holidayConfig), range);
     made->setProductSize(m_format.magnitude());
     made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
     return made;
@@ -88,12 +107,11 @@ QRectF MvCalendarDocument::paintMonthLine(QPainter &painter, const QRectF &rect,
     return rect.adjusted(0.0, height, 0.0, 0.0);
 }
 
-/// Margins and bleed continue the ground that the calendarium's title stands on, or a dark calendarium would have a
-/// white frame.
+/// Margins and bleed continue the ground of empty cells, or a dark calendarium would have a white frame.
 void MvCalendarDocument::paintBackground(QPainter &painter) const
 {
     const QColor color = m_appearance.cellColor(MvCalendarCellColorKey(
-        MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_TITLE, MvParityLogicEnum::even));
+        MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_EMPTY, MvParityLogicEnum::even));
     if (m_appearance.isOpaqueColor(color))
         painter.fillRect(m_format.mediaRect(), color);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvUnfittingText.h"
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
 #include "MvProductBase/MvDateRange.h"
 #include "MvProject/MvPageFormat.h"
@@ -51,6 +52,9 @@ public:
     /// entries are those of the active list. A page that there is not stays empty.
     void paint(QPainter &painter, int page) const;
 
+    /// The texts that have no room on a page, counted from 0, in the order of painting.
+    QList<MvUnfittingText> unfittingTexts(int page) const;
+
     /// The pages for the exporters. It keeps a copy of the document.
     MvPageSource pageSource() const;
 
@@ -58,6 +62,8 @@ public:
 
 private:
     void paintBackground(QPainter &painter) const;
+    /// Paints a page that there is and gives what had no room on it.
+    QList<MvUnfittingText> paintPage(QPainter &painter, const QDate &month) const;
     std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
                                                     const QDate &month) const;
     /// Gives what it leaves of the rectangle.

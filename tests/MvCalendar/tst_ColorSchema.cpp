@@ -44,6 +44,24 @@ MvCalendariumColorSchema writtenAndRead(const MvCalendariumColorSchema &original
     return MvCalendariumColorSchema(read);
 }
 
+// what can lie beneath a cell: the page, and beneath a head that lets it shine through, the day
+QList<QColor> groundsOf(const MvCalendariumColorSchema &schema, const MvCalendarCellType &type, MvParityLogicEnum parity)
+{
+    const QColor page = schema.cellColor({background, CALENDAR_CELL_TYPE_EMPTY, parity});
+    QList<QColor> grounds{page.alpha() == 0 ? QColor(Qt::white) : page};
+    static const QHash<int, MvCalendarCellTypeEnum> days = {
+        {CALENDAR_CELL_TYPE_HEAD_WEEKDAY, CALENDAR_CELL_TYPE_WEEKDAY},
+        {CALENDAR_CELL_TYPE_HEAD_SATURDAY, CALENDAR_CELL_TYPE_SATURDAY},
+        {CALENDAR_CELL_TYPE_HEAD_SUNDAY, CALENDAR_CELL_TYPE_SUNDAY},
+        {CALENDAR_CELL_TYPE_HEAD_HOLIDAY, CALENDAR_CELL_TYPE_HOLIDAY},
+        {CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION, CALENDAR_CELL_TYPE_SCHOOL_VACATION},
+    };
+    const auto day = days.constFind(type.toInt());
+    if (day != days.cend() && schema.cellColor({background, *day, parity}).alpha() == 255)
+        grounds.append(schema.cellColor({background, *day, parity}));
+    return grounds;
+}
+
 } // namespace
 
 class tst_ColorSchema : public MvTest
@@ -312,9 +330,11 @@ void tst_ColorSchema::shippedSchemata()
                 MvCalendariumColorCellInfo cell;
                 cell.setBackgroundColor(shipped.cellColor({background, type, parity}), true);
                 cell.setFontColor(shipped.cellColor({text, type, parity}), true);
-                const double found = cell.cellContrast(Qt::white, true);
-                QVERIFY2(found >= (isLarge ? 3.0 : 4.5),
-                         qPrintable(u"%1 %2: %3"_s.arg(id.toString(), type.encode()).arg(found)));
+                for (const QColor &ground : groundsOf(shipped, type, parity)) {
+                    const double found = cell.cellContrast(ground, true);
+                    QVERIFY2(found >= (isLarge ? 3.0 : 4.5),
+                             qPrintable(u"%1 %2: %3"_s.arg(id.toString(), type.encode()).arg(found)));
+                }
             }
         }
     }

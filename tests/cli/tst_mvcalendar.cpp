@@ -40,6 +40,7 @@ private Q_SLOTS:
     void damagedEntries_data();
     void damagedEntries();
     void leapDayEntries();
+    void reportsTextsWithoutRoom();
     void unknownFont();
     void brokenOutput();
 
@@ -434,6 +435,29 @@ void tst_mvcalendar::leapDayEntries()
     const Call leap = run(arguments + QStringList{u"2028"_s});
     QCOMPARE(leap.exitCode, 0);
     QVERIFY2(!leap.err.contains("Gudrun"), leap.err.constData());
+}
+
+void tst_mvcalendar::reportsTextsWithoutRoom()
+{
+    write(path(u"e.xml"_s), entriesFile("Donaudampfschifffahrtsgesellschaftsjubiläum", "1956-03-10"));
+    const QStringList arguments{u"render"_s, u"--from"_s, u"2027-02"_s, u"--months"_s, u"2"_s, u"--page"_s, u"A5"_s,
+                                u"--entries"_s, u"e.xml"_s, u"-o"_s, u"k.pdf"_s};
+    const Call silent = run(arguments);
+    QVERIFY2(silent.err.contains("10.3.2027"), silent.err.constData());
+    QCOMPARE(silent.out, QByteArray("k.pdf\n"));
+
+    const Call call = run(arguments + QStringList{u"--report"_s, u"json"_s});
+    QCOMPARE(call.exitCode, 0);
+    const QJsonObject report = QJsonDocument::fromJson(call.out).object();
+    QCOMPARE(report.value(u"files"_s).toArray(), QJsonArray{u"k.pdf"_s});
+    const QJsonArray unfitting = report.value(u"unfitting"_s).toArray();
+    QCOMPARE(unfitting.size(), 1);
+    const QJsonObject entry = unfitting.first().toObject();
+    QCOMPARE(entry.value(u"page"_s).toInt(), 2);
+    QCOMPARE(entry.value(u"date"_s).toString(), u"2027-03-10"_s);
+    QCOMPARE(entry.value(u"text"_s).toString(), u"Donaudampfschifffahrtsgesellschaftsjubiläum"_s);
+    QVERIFY(entry.value(u"rect"_s).toObject().value(u"width"_s).toDouble() > 100.0);
+    QCOMPARE(run(arguments + QStringList{u"--report"_s, u"xml"_s}).exitCode, 2);
 }
 
 void tst_mvcalendar::unknownFont()

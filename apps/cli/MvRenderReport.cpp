@@ -1,0 +1,42 @@
+#include "MvRenderReport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+MvRenderReport::MvRenderReport(const MvCalendarDocument &document)
+{
+    for (int page = 0; page < document.pages().size(); ++page) {
+        for (const MvUnfittingText &text : document.unfittingTexts(page))
+            m_unfitting.append({page + 1, text});
+    }
+}
+
+QString MvRenderReport::toJson() const
+{
+    QJsonArray unfitting;
+    for (const Entry &entry : m_unfitting) {
+        const QRectF &rect = entry.text.rect;
+        unfitting.append(QJsonObject{{u"page"_s, entry.page},
+                                     {u"date"_s, entry.text.date.toString(Qt::ISODate)},
+                                     {u"text"_s, entry.text.text},
+                                     {u"rect"_s, QJsonObject{{u"x"_s, rect.x()},
+                                                             {u"y"_s, rect.y()},
+                                                             {u"width"_s, rect.width()},
+                                                             {u"height"_s, rect.height()}}}});
+    }
+    const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)}, {u"unfitting"_s, unfitting}};
+    return QString::fromUtf8(QJsonDocument(report).toJson());
+}
+
+void MvRenderReport::printHint(QTextStream &hints) const
+{
+    if (!m_unfitting.isEmpty())
+        hints << tr("Texte ohne Platz: %1, der erste am %2; --report json nennt alle")
+                     .arg(QString::number(m_unfitting.size()),
+                          m_unfitting.constFirst().text.date.toString(u"d.M.yyyy"_s))
+              << '\n';
+}

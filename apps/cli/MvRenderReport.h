@@ -1,0 +1,34 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+class QTextStream;
+
+/// What came of printing a calendar: the files, and the texts that had no room on their pages.
+class MvRenderReport
+{
+    Q_DECLARE_TR_FUNCTIONS(MvRenderReport)
+
+public:
+    explicit MvRenderReport(const MvCalendarDocument &document);
+
+    void addFile(const QString &path) { m_files.append(path); }
+
+    /// An object with "files", a list of paths, and "unfitting", a list of objects with "page" (from 1), "date" (ISO),
+    /// "text" and "rect" ("x", "y", "width", "height" in tenths of a millimetre from the corner of the trimmed page).
+    QString toJson() const;
+    /// One line when texts had no room, otherwise nothing.
+    void printHint(QTextStream &hints) const;
+
+private:
+    struct Entry {
+        int page; // from 1
+        MvUnfittingText text;
+    };
+
+    QList<Entry> m_unfitting;
+    QStringList m_files;
+};
