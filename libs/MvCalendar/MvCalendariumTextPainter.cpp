@@ -12,7 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+namespace
+{
 
 constexpr QChar ellipsis(u'…');
 
@@ -41,7 +42,7 @@ QRectF aligned(const QRectF &rect, int flags, double width, double height)
 
 int MvCalendariumTextPainter::advance(const QFont &font, const QString &text)
 {
-    return static_cast<int>(std::lround(outlineOf(font, text).advance()));
+    return static_cast<int>(std::lround(MvTextOutlineCache::instance().advance(font, text)));
 }
 
 bool MvCalendariumTextPainter::isTextToWide(int maxWidth, const QFont &font, const QString &text)
@@ -104,7 +105,7 @@ QString MvCalendariumTextPainter::elided(int maxWidth, const QFont &font, const 
 
 QRectF MvCalendariumTextPainter::boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text)
 {
-    return aligned(rect, flags, outlineOf(font, text).advance(), QFontMetricsF(font).height());
+    return aligned(rect, flags, MvTextOutlineCache::instance().advance(font, text), QFontMetricsF(font).height());
 }
 
 void MvCalendariumTextPainter::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)

@@ -23,10 +23,28 @@ void MvTextOutlineCache::setupInstance()
         QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [this] { clear(); });
 }
 
+MvTextOutlineCache::Key MvTextOutlineCache::key(const QFont &font, const QString &text)
+{
+    return {font, font.pixelSize() > 0 ? 0 : int(QFontMetricsF(font).fontDpi()), text};
+}
+
+double MvTextOutlineCache::advance(const QFont &font, const QString &text)
+{
+    const Key key = MvTextOutlineCache::key(font, text);
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (const double *known = m_advances.object(key))
+            return *known;
+    }
+    const double fresh = QFontMetricsF(font).horizontalAdvance(text);
+    const QMutexLocker lock(&m_mutex);
+    m_advances.insert(key, new double(fresh));
+    return fresh;
+}
+
 MvTextOutline MvTextOutlineCache::outline(const QFont &font, const QString &text)
 {
-    const int dpi = font.pixelSize() > 0 ? 0 : int(QFontMetricsF(font).fontDpi());
-    const Key key{font, dpi, text};
+    const Key key = MvTextOutlineCache::key(font, text);
     {
         const QMutexLocker lock(&m_mutex);
         if (const MvTextOutline *known = m_outlines.object(key))
@@ -67,4 +85,5 @@ void MvTextOutlineCache::clear()
 {
     const QMutexLocker lock(&m_mutex);
     m_outlines.clear();
+    m_advances.clear();
 }

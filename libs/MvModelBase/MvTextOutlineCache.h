@@ -25,6 +25,10 @@ public:
     /// two fonts.
     MvTextOutline outline(const QFont &font, const QString &text);
 
+    /// The outline's advance, measured without shaping the outline: fitting and breaking tries many texts that are
+    /// never drawn. The last few thousand are kept.
+    double advance(const QFont &font, const QString &text);
+
     /// Drops outlines until the limit holds; 0 keeps none.
     void setMaximumElements(int elements);
     int maximumElements() const;
@@ -50,6 +54,11 @@ private:
         }
     };
 
+    static constexpr int maximumAdvances = 20'000;
+
+    static Key key(const QFont &font, const QString &text);
+
     mutable QMutex m_mutex;
     QCache<Key, MvTextOutline> m_outlines;
+    QCache<Key, double> m_advances{maximumAdvances};
 };
