@@ -58,6 +58,7 @@ private Q_SLOTS:
 
     void appearanceRoundTrip();
     void defaultsAreNotWritten();
+    void layoutsBringTheirPaperSize();
     void embedsUserSchemata();
     void columnHeaders();
     void borders_data();
@@ -284,6 +285,37 @@ void tst_LayoutAndAppearance::defaultsAreNotWritten()
     QVERIFY(!MvCalendariumAppearance(element(u"<e/>"_s), false, nullptr).isValid());
     QCOMPARE(MvCalendariumAppearance(element(u"<e optimizedSize='a2'/>"_s), false, nullptr).optimizedSize().toInt(),
              512);
+}
+
+void tst_LayoutAndAppearance::layoutsBringTheirPaperSize()
+{
+    const MvCalendariumLayoutSchemaID planner(u"YEAR_PLANNER"_s); // is made for A2
+    const MvCalendariumLayoutSchemaID grid(u"MONTH_GRID_CLASSIC"_s);
+    const auto sizeOf = [](const MvCalendariumAppearance &appearance) { return appearance.optimizedSize().encodeCSV(); };
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchemaByID(planner);
+    QCOMPARE(sizeOf(appearance), u"a2"_s);
+    QCOMPARE(appearance.font(CALENDAR_CELL_TYPE_MONTH, MAGNITUDE_A2, 1).pixelSize(), 67); // 24 points at 200 dpi
+    QCOMPARE(appearance.font(CALENDAR_CELL_TYPE_MONTH, MAGNITUDE_A4, 1).pixelSize(), 34);
+    QCOMPARE(sizeOf(MvCalendariumAppearance(written(appearance), false, nullptr)), u"a2"_s);
+    appearance.setLayoutSchemaByID(grid); // says nothing: what came with the planner goes with it
+    QCOMPARE(sizeOf(appearance), u"a4"_s);
+
+    // a page that names a size keeps it, whatever its layout says
+    const QString page = u"<e layoutschema='%1' optimizedSize='a3'/>"_s;
+    QCOMPARE(sizeOf({element(page.arg(planner.toString())), false, nullptr}), u"a3"_s);
+    MvCalendariumAppearance ofFile(element(page.arg(grid.toString())), false, nullptr);
+    ofFile.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_ONLY"_s));
+    QCOMPARE(sizeOf(ofFile), u"a3"_s);
+    QCOMPARE(sizeOf({element(u"<e layoutschema='YEAR_PLANNER'/>"_s), false, nullptr}), u"a2"_s);
+
+    MvCalendariumLayoutSchema schema = layout({}, u"layoutschema='L' optimizedSize='a1'"_s);
+    QCOMPARE(schema.optimizedSize().encodeCSV(), u"a1"_s);
+    QDomDocument document;
+    QDomElement root = MvXMLBuilder::buildRootElement(document, u"calendararea"_s);
+    schema.write(root);
+    QVERIFY(MvCalendariumLayoutSchema(root) == schema);
+    QVERIFY(!layout({}, u"layoutschema='L' optimizedSize='letter'"_s).optimizedSize().isValid());
 }
 
 void tst_LayoutAndAppearance::embedsUserSchemata()

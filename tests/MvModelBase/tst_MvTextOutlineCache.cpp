@@ -53,6 +53,7 @@ private Q_SLOTS:
     void linesAreOneShape();
     void keepsByFontAndText();
     void keepsResolutionsApart();
+    void advancesAreThoseOfTheOutlines();
     void isBounded();
     void forgetsWhenFontsChange();
     void servesThreads();
@@ -201,6 +202,20 @@ void tst_MvTextOutlineCache::keepsResolutionsApart()
         painter.setFont(font);
         QCOMPARE(cache.outline(painter.font(), u"12"_qs).bounds().height(), 0.7 * 30 * dpi / 72);
     }
+}
+
+void tst_MvTextOutlineCache::advancesAreThoseOfTheOutlines()
+{
+    MvTextOutlineCache cache;
+    QFont spaced = lato(23);
+    spaced.setLetterSpacing(QFont::AbsoluteSpacing, 1.5);
+    for (const QFont &font : {lato(23), lato(46), spaced, MvBoxFont::font(20)}) {
+        for (const QString &text : {u"Christi Himmelfahrt"_qs, u"AVATo…"_qs, u" "_qs, QString()}) {
+            QCOMPARE(cache.advance(font, text), MvTextOutline(font, text).advance());
+            QCOMPARE(cache.advance(font, text), MvTextOutline(font, text).advance()); // from the cache
+        }
+    }
+    QCOMPARE(cache.outlineCount(), 0);
 }
 
 void tst_MvTextOutlineCache::isBounded()

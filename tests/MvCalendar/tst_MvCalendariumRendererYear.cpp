@@ -1,0 +1,605 @@
+#include "MvPageFixture.h"
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRendererYear.h"
+#include "MvCalendar/MvYearArrangement.h"
+
+#include <QMap>
+#include <QSet>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+using Item = MvPaintRecording::Item;
+
+namespace
+{
+
+const QString gridInfo = u"calendar_render_title, calendar_render_year_long, calendar_render_month_long, "
+                         "calendar_render_week_of_year, calendar_render_days_of_week, "
+                         "calendar_render_days_of_week_short"_s;
+const QString plannerInfo = gridInfo + u", calendar_render_days_of_week_only_in_front"_s;
+const QRectF a4(100, 100, 2770, 1900);
+const QRectF a2(100, 100, 5740, 4000);
+const QRectF a2Upright(100, 100, 4000, 5740);
+constexpr double tolerance = 1e-6;
+
+MvCalendarEvent entry(const QString &name, const QDate &date)
+{
+    return MvCalendarEvent(name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
+}
+
+MvPageFixture pageOf(const QString &info, const QDate &from, int months = 12, const QDate &shown = {})
+{
+    MvPageFixture page(MvPageFixture::appearance(info, MvPageFixture::defaultCells(), u"CALENDAR_YEAR"_s), from);
+    page.renderer().setCalendarInformation(MvPageFixture::content(shown.isValid() ? shown : from),
+                                           MvDateRange(from, from.addMonths(months).addDays(-1)));
+    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    return page;
+}
+
+const MvCalendariumRendererYear &yearOf(MvPageFixture &page)
+{
+    return dynamic_cast<const MvCalendariumRendererYear &>(page.renderer());
+}
+
+QMap<QDate, QRectF> cellsByDate(const MvPageFixture &page)
+{
+    QMap<QDate, QRectF> cells;
+    for (const MvPageFixture::Day &day : page.days)
+        cells.insert(day.date, day.rect);
+    return cells;
+}
+
+QStringList textsIn(const MvPaintRecording &recording, const QRectF &cell)
+{
+    QStringList texts;
+    for (const Item &item : recording.items(Item::Text)) {
+        if (cell.contains(item.bounds.center()))
+            texts.append(item.text);
+    }
+    return texts;
+}
+
+QStringList texts(const MvPaintRecording &recording)
+{
+    return textsIn(recording, QRectF(-1e6, -1e6, 2e6, 2e6));
+}
+
+QColor fillAt(const MvPaintRecording &recording, const QPointF &point)
+{
+    QColor color;
+    for (const Item &item : recording.items()) {
+        if ((item.kind == Item::Path || item.kind == Item::Rect) && item.shape.contains(point))
+            color = item.fill;
+    }
+    return color;
+}
+
+MvSmallMonthGrid::Sizes someSizes()
+{
+    MvSmallMonthGrid::Sizes sizes;
+    sizes.nameHeight = 40;
+    sizes.headHeight = 30;
+    sizes.weekWidth = 35;
+    sizes.day = QSizeF(45, 40);
+    return sizes;
+}
+
+} // namespace
+
+/// Twelve months on a page, as small grids and as a planner.
+class tst_MvCalendariumRendererYear : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { MvCalendarEventRegistry::instance().setEvents({}); }
+
+    void arrangement_data();
+    void arrangement();
+    void arrangementFillsTheRectangle_data();
+    void arrangementFillsTheRectangle();
+    void smallMonth();
+    void everyDateOnce_data();
+    void everyDateOnce();
+    void titles_data();
+    void titles();
+    void monthsOfTheCalendar_data();
+    void monthsOfTheCalendar();
+    void weeksAndTheirParity();
+    void colorsOfDays();
+    void weekdayHeads_data();
+    void weekdayHeads();
+    void shortMonthsWhereNarrow();
+    void plannerFillsTheRectangle();
+    void plannerCell_data();
+    void plannerCell();
+    void textsStayInTheirCells_data();
+    void textsStayInTheirCells();
+    void weekGivesWayToTexts();
+    void weekIsReadableOnEveryGround();
+    void whatItShows_data();
+    void whatItShows();
+    void minimumSizeIsEnough_data();
+    void minimumSizeIsEnough();
+};
+
+void tst_MvCalendariumRendererYear::arrangement_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<int>("columns");
+    QTest::newRow("A4 landscape") << QSizeF(2770, 1900) << 4;
+    QTest::newRow("A4 upright") << QSizeF(1900, 2770) << 3;
+    QTest::newRow("strip") << QSizeF(6000, 500) << 12;
+    QTest::newRow("low strip below a photo") << QSizeF(3000, 800) << 6;
+    QTest::newRow("narrow column") << QSizeF(900, 2770) << 2;
+    QTest::newRow("bookmark") << QSizeF(500, 6000) << 1;
+}
+
+void tst_MvCalendariumRendererYear::arrangement()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(int, columns);
+    MvPageFixture page = pageOf(gridInfo, QDate(2027, 1, 1));
+    page.render({QPointF(0, 0), size});
+    // as painted: the lefts of the months' first Mondays
+    QSet<int> lefts;
+    for (const MvPageFixture::Day &day : std::as_const(page.days)) {
+        if (day.date.dayOfWeek() == Qt::Monday)
+            lefts.insert(qRound(day.rect.left()));
+    }
+    QCOMPARE(lefts.size(), columns);
+    const auto stretch = [](const QSizeF &cell) { return std::abs(std::log(cell.width() / cell.height())); };
+    const MvSmallMonthGrid::Sizes needed = yearOf(page).neededGridSizes();
+    const QRectF months = yearOf(page).monthsRect({QPointF(0, 0), size});
+    for (const int other : {1, 2, 3, 4, 6, 12}) {
+        const QSizeF cell = MvYearArrangement(months, other, needed).sizes().day;
+        if (!cell.isEmpty())
+            QVERIFY(stretch(page.days.constFirst().rect.size()) <= stretch(cell) + tolerance);
+    }
+}
+
+void tst_MvCalendariumRendererYear::arrangementFillsTheRectangle_data()
+{
+    QTest::addColumn<int>("columns");
+    for (const int columns : {1, 2, 3, 4, 6, 12})
+        QTest::addRow("%d", columns) << columns;
+}
+
+void tst_MvCalendariumRendererYear::arrangementFillsTheRectangle()
+{
+    QFETCH(int, columns);
+    const MvYearArrangement arrangement(a4, columns, someSizes());
+    QCOMPARE(arrangement.columns() * arrangement.rows(), 12);
+    QCOMPARE(arrangement.monthRect(0).topLeft(), a4.topLeft());
+    const QRectF last = arrangement.monthRect(11);
+    QVERIFY(qAbs(last.right() - a4.right()) < tolerance);
+    QVERIFY(qAbs(last.bottom() - a4.bottom()) < tolerance);
+    QCOMPARE(arrangement.monthRect(columns - 1).top(), a4.top());
+    QVERIFY(arrangement.sizes().weekWidth <= arrangement.sizes().day.width());
+    for (int i = 1; i < 12; ++i)
+        QVERIFY(!arrangement.monthRect(i - 1).intersects(arrangement.monthRect(i)));
+
+    const QSizeF minimum = MvYearArrangement::minimumSize(columns, someSizes());
+    const MvYearArrangement tight({QPointF(0, 0), minimum}, columns, someSizes());
+    QVERIFY(qAbs(tight.sizes().day.width() - 45) < tolerance);
+    QVERIFY(qAbs(tight.sizes().day.height() - 40) < tolerance);
+    // where there is less, names shrink with the rest
+    const MvYearArrangement small({QPointF(0, 0), minimum / 2}, columns, someSizes());
+    QVERIFY(qAbs(small.sizes().nameHeight - 20) < tolerance);
+    QVERIFY(qAbs(small.sizes().day.height() - 20) < tolerance);
+}
+
+void tst_MvCalendariumRendererYear::smallMonth()
+{
+    const MvSmallMonthGrid grid({10, 20}, QDate(2027, 5, 17), someSizes()); // begins on a Saturday, six rows
+    QCOMPARE(grid.monday(0), QDate(2027, 4, 26));
+    QVERIFY(!grid.date(0, 5).isValid());
+    QCOMPARE(grid.date(0, 6), QDate(2027, 5, 1));
+    QCOMPARE(grid.date(5, 1), QDate(2027, 5, 31));
+    QVERIFY(!grid.date(5, 2).isValid());
+    QVERIFY(grid.hasDays(5));
+    QVERIFY(!MvSmallMonthGrid({}, QDate(2027, 2, 1), someSizes()).hasDays(4)); // four weeks from Monday
+    QCOMPARE(grid.dayRect(QDate(2027, 5, 1)), grid.dayRect(0, 6));
+    QCOMPARE(grid.dayRect(QDate(2027, 5, 31)), QRectF(10 + 35, 20 + 70 + 200, 45, 40));
+    // edges are shared
+    QCOMPARE(grid.weekRect(0).right(), grid.dayRect(0, 1).left());
+    QCOMPARE(grid.headRect(3).bottom(), grid.dayRect(0, 3).top());
+    QCOMPARE(grid.nameRect().bottom(), grid.weekHeadRect().top());
+    QCOMPARE(grid.nameRect().right(), grid.dayRect(2, 7).right());
+}
+
+void tst_MvCalendariumRendererYear::everyDateOnce_data()
+{
+    QTest::addColumn<QString>("info");
+    QTest::addColumn<QDate>("from");
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<int>("days");
+    QTest::newRow("grid") << gridInfo << QDate(2027, 1, 1) << a4 << 365;
+    QTest::newRow("grid, leap year, rows left out")
+        << gridInfo + u", calendar_render_no_empty_weeks"_s << QDate(2028, 1, 1) << a4 << 366;
+    QTest::newRow("grid, school year") << gridInfo << QDate(2027, 8, 1) << a4 << 366;
+    QTest::newRow("planner") << plannerInfo << QDate(2027, 1, 1) << a2 << 365;
+    QTest::newRow("planner, leap year, upright") << plannerInfo << QDate(2028, 1, 1) << a2Upright << 366;
+    QTest::newRow("planner, tiny") << plannerInfo << QDate(2026, 8, 1) << QRectF(0, 0, 300, 200) << 365;
+}
+
+void tst_MvCalendariumRendererYear::everyDateOnce()
+{
+    QFETCH(QString, info);
+    QFETCH(QDate, from);
+    QFETCH(QRectF, rect);
+    QFETCH(int, days);
+    MvPageFixture page = pageOf(info, from);
+    page.render(rect);
+    QCOMPARE(page.days.size(), days);
+    const QMap<QDate, QRectF> cells = cellsByDate(page);
+    QCOMPARE(cells.size(), days);
+    QCOMPARE(cells.firstKey(), from);
+    QCOMPARE(cells.lastKey(), from.addMonths(12).addDays(-1));
+    const QRectF allowed = rect.adjusted(-tolerance, -tolerance, tolerance, tolerance);
+    double area = 0.0;
+    QSet<QPair<int, int>> centres;
+    for (const QRectF &cell : cells) {
+        QVERIFY(cell.width() > 0 && cell.height() > 0 && allowed.contains(cell));
+        area += cell.width() * cell.height();
+        centres.insert({qRound(cell.center().x() * 10), qRound(cell.center().y() * 10)});
+    }
+    QCOMPARE(centres.size(), days);
+    // all of one size, so that distinct centres do not overlap
+    const QSizeF size = cells.first().size();
+    QVERIFY(qAbs(area - size.width() * size.height() * days) < 1e-3);
+}
+
+void tst_MvCalendariumRendererYear::titles_data()
+{
+    QTest::addColumn<QDate>("from");
+    QTest::addColumn<QString>("info");
+    QTest::addColumn<QString>("headers");
+    QTest::addColumn<QString>("title");
+    const QDate january(2027, 1, 1);
+    const QDate august(2026, 8, 1);
+    const QString longYear = u"calendar_render_year_long"_s;
+    const QString shortYear = u"calendar_render_year_short"_s;
+    const QString school = u", calendar_render_year_school"_s;
+    const QString all = u", calendar_render_all_years"_s;
+    QTest::newRow("year") << january << longYear << QString() << u"2027"_s;
+    QTest::newRow("short") << january << shortYear << QString() << u"'27"_s;
+    QTest::newRow("not said how") << january << u"calendar_render_month_long"_s << QString() << u"2027"_s;
+    QTest::newRow("two years") << august << longYear << QString() << u"2026/27"_s;
+    QTest::newRow("over the century") << QDate(2099, 9, 1) << longYear << QString() << u"2099/00"_s;
+    QTest::newRow("school year") << august << longYear + school << QString() << u"Schuljahr 2026/27"_s;
+    QTest::newRow("both in full") << august << longYear + school + all << QString() << u"Schuljahr 2026/2027"_s;
+    QTest::newRow("own separator") << august << longYear + all << u" bis "_s << u"2026 bis 2027"_s;
+}
+
+void tst_MvCalendariumRendererYear::titles()
+{
+    QFETCH(QDate, from);
+    QFETCH(QString, info);
+    QFETCH(QString, headers);
+    QFETCH(QString, title);
+    for (const bool hasTitle : {true, false}) {
+        const QString flags = hasTitle ? info + u", calendar_render_title"_s : info;
+        MvCalendariumAppearance appearance =
+            MvPageFixture::appearance(flags, MvPageFixture::defaultCells(), u"CALENDAR_YEAR"_s);
+        appearance.setColumnHeaders(headers);
+        MvPageFixture page(appearance, from);
+        page.renderer().setCalendarInformation(MvPageFixture::content(from),
+                                               MvDateRange(from, from.addMonths(12).addDays(-1)));
+        QCOMPARE(texts(page.render(a4)).contains(title), hasTitle);
+        QCOMPARE(yearOf(page).titleRect(a4).height() > 0.0, hasTitle);
+    }
+}
+
+void tst_MvCalendariumRendererYear::monthsOfTheCalendar_data()
+{
+    QTest::addColumn<int>("months");
+    QTest::addColumn<QDate>("shown");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<QDate>("first");
+    QTest::newRow("page of May shows the calendar's year") << 12 << QDate(2026, 12, 1) << 0 << QDate(2026, 8, 1);
+    QTest::newRow("half a year shows a whole one") << 6 << QDate(2026, 8, 1) << 0 << QDate(2026, 8, 1);
+    QTest::newRow("second year") << 24 << QDate(2027, 8, 1) << 0 << QDate(2027, 8, 1);
+    QTest::newRow("within the second year") << 24 << QDate(2028, 7, 1) << 0 << QDate(2027, 8, 1);
+    QTest::newRow("ahead of the page") << 12 << QDate(2026, 8, 1) << 3 << QDate(2026, 11, 1);
+    QTest::newRow("before the calendar") << 12 << QDate(2020, 1, 1) << 0 << QDate(2026, 8, 1);
+    QTest::newRow("after it") << 24 << QDate(2040, 1, 1) << 0 << QDate(2027, 8, 1);
+}
+
+void tst_MvCalendariumRendererYear::monthsOfTheCalendar()
+{
+    QFETCH(int, months);
+    QFETCH(QDate, shown);
+    QFETCH(int, offset);
+    MvCalendariumAppearance appearance =
+        MvPageFixture::appearance(gridInfo, MvPageFixture::defaultCells(), u"CALENDAR_YEAR"_s);
+    appearance.setOffsetMonth(offset);
+    MvPageFixture page(appearance, shown);
+    const QDate from(2026, 8, 1);
+    page.renderer().setCalendarInformation(MvPageFixture::content(shown),
+                                           MvDateRange(from, from.addMonths(months).addDays(-1)));
+    page.render(a4);
+    QTEST(cellsByDate(page).firstKey(), "first");
+    QCOMPARE(cellsByDate(page).lastKey(), yearOf(page).firstMonth().addMonths(12).addDays(-1));
+}
+
+void tst_MvCalendariumRendererYear::weeksAndTheirParity()
+{
+    MvPageFixture page = pageOf(gridInfo, QDate(2027, 1, 1));
+    const MvPaintRecording recording = page.render(a4);
+    const QMap<QDate, QRectF> cells = cellsByDate(page);
+    const auto weekBeside = [&](const QDate &monday) {
+        QRectF week = cells.value(monday);
+        week.moveRight(week.left());
+        return textsIn(recording, week);
+    };
+    QCOMPARE(weekBeside(QDate(2027, 1, 4)), QStringList(u"1"_s));
+    QCOMPARE(weekBeside(QDate(2027, 12, 27)), QStringList(u"52"_s));
+    QCOMPARE(texts(recording).count(u"53"_s), 1); // 1 January lies in the last week of 2026
+    // the colours of the weekdays in the fixture: even weeks #eeeeee, odd ones #dddddd
+    const QColor even(u"#eeeeee"_s);
+    const QColor odd(u"#dddddd"_s);
+    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 1, 11)).center()), even);  // week 2
+    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 1, 18)).center()), odd);   // week 3
+    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 11, 29)).center()), even); // both in week 48,
+    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 12, 1)).center()), even);  // two months
+}
+
+void tst_MvCalendariumRendererYear::colorsOfDays()
+{
+    for (const QString &info : {gridInfo, plannerInfo}) {
+        MvPageFixture page = pageOf(info, QDate(2027, 1, 1));
+        const MvPaintRecording recording = page.render(a2);
+        const QMap<QDate, QRectF> cells = cellsByDate(page);
+        const auto ground = [&](const QDate &date) { return fillAt(recording, cells.value(date).center()); };
+        QCOMPARE(ground(QDate(2027, 5, 1)), QColor(u"#ff0000"_s));  // a Saturday and a holiday
+        QCOMPARE(ground(QDate(2027, 5, 8)), QColor(u"#00ff00"_s));  // a Saturday
+        QCOMPARE(ground(QDate(2027, 8, 10)), QColor(u"#0000ff"_s)); // vacation
+    }
+}
+
+void tst_MvCalendariumRendererYear::weekdayHeads_data()
+{
+    QTest::addColumn<QString>("flags");
+    QTest::addColumn<double>("width");
+    QTest::addColumn<QString>("head");
+    // the box font's characters are 12.5 wide in the heads; four months with three gaps of a day, 31 days in width
+    QTest::newRow("long") << QString() << 36.0 * 140 << u"Donnerstag"_s;
+    QTest::newRow("short, as configured") << u"calendar_render_days_of_week_short"_s << 36.0 * 140 << u"Do"_s;
+    QTest::newRow("short, for want of room") << QString() << 36.0 * 80 << u"Do"_s;
+}
+
+void tst_MvCalendariumRendererYear::weekdayHeads()
+{
+    QFETCH(QString, flags);
+    QFETCH(double, width);
+    QFETCH(QString, head);
+    MvPageFixture page = pageOf(u"calendar_render_days_of_week, "_s + flags, QDate(2027, 1, 1));
+    const QStringList painted = texts(page.render({0, 0, width, width * 0.7}));
+    QCOMPARE(painted.count(head), 12);
+    MvPageFixture tiny = pageOf(u"calendar_render_days_of_week, "_s + flags, QDate(2027, 1, 1));
+    QCOMPARE(texts(tiny.render({0, 0, 36 * 20, 500})).count(u"D"_s), 24); // Tuesdays and Thursdays
+    MvPageFixture none = pageOf(flags, QDate(2027, 1, 1));
+    QVERIFY(!texts(none.render({0, 0, width, width * 0.7})).contains(head));
+}
+
+void tst_MvCalendariumRendererYear::shortMonthsWhereNarrow()
+{
+    MvPageFixture page = pageOf(plannerInfo, QDate(2027, 1, 1));
+    QVERIFY(texts(page.render(a2)).contains(u"September"_s));
+    const QStringList narrow = texts(page.render({0, 0, 1200, 3000})); // September needs 112.5
+    QVERIFY(narrow.contains(u"Sep"_s));
+    QVERIFY(narrow.contains(u"Jan"_s)); // all alike
+    QVERIFY(!narrow.contains(u"Januar"_s));
+    MvPageFixture untitled = pageOf(u"calendar_render_year_long, calendar_render_month_long"_s, QDate(2026, 8, 1));
+    const QStringList named = texts(untitled.render(a2));
+    QVERIFY(named.contains(u"August 2026"_s)); // nothing else tells the year
+    QVERIFY(named.contains(u"Juli 2027"_s));
+}
+
+void tst_MvCalendariumRendererYear::plannerFillsTheRectangle()
+{
+    MvPageFixture page = pageOf(plannerInfo, QDate(2027, 1, 1));
+    page.render(a2);
+    const QMap<QDate, QRectF> cells = cellsByDate(page);
+    const QRectF last = cells.value(QDate(2027, 12, 31));
+    QVERIFY(qAbs(last.right() - a2.right()) < tolerance);
+    QVERIFY(qAbs(last.bottom() - a2.bottom()) < tolerance);
+    QCOMPARE(cells.value(QDate(2027, 1, 1)).left(), a2.left());
+    for (const QDate date : {QDate(2027, 2, 14), QDate(2027, 11, 30)}) {
+        QCOMPARE(cells.value(date).left(), cells.value(QDate(2027, date.month() - 1, date.day())).right());
+        QCOMPARE(cells.value(date).top(), cells.value(date.addDays(-1)).bottom());
+    }
+    const MvYearPlanner planner(yearOf(page).monthsRect(a2), QDate(2027, 1, 1), yearOf(page).neededPlannerSizes());
+    QCOMPARE(planner.nameRect(3).bottom(), cells.value(QDate(2027, 4, 1)).top());
+    QCOMPARE(planner.dayRect(5, 9), cells.value(QDate(2027, 6, 9)));
+}
+
+void tst_MvCalendariumRendererYear::plannerCell_data()
+{
+    QTest::addColumn<QRectF>("cell");
+    QTest::addColumn<bool>("isBeneath");
+    QTest::addColumn<QRectF>("weekday");
+    QTest::addColumn<QRectF>("week");
+    QTest::addColumn<QRectF>("texts");
+    const QRectF none;
+    QTest::newRow("wide") << QRectF(0, 0, 400, 60) << false << QRectF(50, 0, 40, 60) << QRectF(370, 0, 30, 60)
+                          << QRectF(90, 0, 280, 60);
+    QTest::newRow("tall") << QRectF(0, 0, 150, 160) << true << QRectF(50, 0, 40, 50) << QRectF(120, 0, 30, 50)
+                          << QRectF(0, 50, 150, 110);
+    QTest::newRow("no room for the week")
+        << QRectF(0, 0, 100, 50) << false << QRectF(50, 0, 40, 50) << none << QRectF(90, 0, 10, 50);
+    QTest::newRow("number only") << QRectF(0, 0, 50, 50) << false << none << none << none;
+}
+
+void tst_MvCalendariumRendererYear::plannerCell()
+{
+    QFETCH(QRectF, cell);
+    MvYearPlanner::Sizes sizes;
+    sizes.numberWidth = 50;
+    sizes.weekdayWidth = 40;
+    sizes.weekWidth = 30;
+    sizes.lineHeight = 50;
+    sizes.textHeight = 25;
+    const MvYearPlanner planner({0, 0, cell.width() * 12, cell.height() * 31}, QDate(2027, 1, 1), sizes);
+    QTEST(planner.hasTextsBeneath(), "isBeneath");
+    const MvYearPlanner::Parts parts = planner.parts(planner.dayRect(0, 1), true);
+    QCOMPARE(parts.number.topLeft(), QPointF(0, 0));
+    QCOMPARE(parts.number.width(), 50.0);
+    QTEST(parts.weekday, "weekday");
+    QTEST(parts.week, "week");
+    QTEST(parts.texts, "texts");
+    QVERIFY(planner.parts(planner.dayRect(0, 1), false).week.isNull());
+}
+
+void tst_MvCalendariumRendererYear::textsStayInTheirCells_data()
+{
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<bool>("fits");
+    QTest::newRow("A1") << QRectF(0, 0, 8200, 5700) << true;
+    QTest::newRow("A2 upright") << a2Upright << true;
+    QTest::newRow("A3") << QRectF(0, 0, 4000, 2770) << true;
+    QTest::newRow("A4") << a4 << false;
+    QTest::newRow("smaller than it should be") << QRectF(0, 0, 2000, 1900) << false;
+}
+
+void tst_MvCalendariumRendererYear::textsStayInTheirCells()
+{
+    QFETCH(QRectF, rect);
+    QFETCH(bool, fits);
+    const QDate crowded(2027, 6, 16);
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Großtante Wilhelmine Süß"_s, crowded.addYears(-70)),
+                                                   entry(u"Jörg und Annemarie"_s, crowded.addYears(-30))});
+    MvPageFixture page = pageOf(plannerInfo, QDate(2027, 1, 1));
+    const MvPaintRecording recording = page.render(rect);
+    const QMap<QDate, QRectF> cells = cellsByDate(page);
+    const QRectF months = yearOf(page).monthsRect(rect);
+    for (const Item &text : recording.items(Item::Text)) {
+        const auto cell = std::find_if(cells.cbegin(), cells.cend(),
+                                       [&](const QRectF &c) { return c.contains(text.bounds.center()); });
+        if (cell == cells.cend())
+            continue; // title and months
+        QVERIFY2(cell->adjusted(-1, -1, 1, 1).contains(text.bounds),
+                 qPrintable(cell.key().toString(Qt::ISODate) + u' ' + text.text));
+        QVERIFY(text.bounds.top() >= months.top());
+    }
+    const auto &unfitting = page.renderer().unfittingTexts();
+    const auto reported =
+        std::find_if(unfitting.cbegin(), unfitting.cend(), [&](const MvUnfittingText &u) { return u.date == crowded; });
+    QCOMPARE(reported == unfitting.cend(), fits);
+    const QString painted = textsIn(recording, cells.value(crowded)).join(u' ');
+    if (fits) {
+        QVERIFY2(painted.contains(u"Wilhelmine"_s) && painted.contains(u"Annemarie"_s), qPrintable(painted));
+        QVERIFY(!painted.contains(u'…'));
+    } else {
+        QCOMPARE(reported->text, u"Großtante Wilhelmine Süß, Jörg und Annemarie"_s);
+        QCOMPARE(reported->rect, cells.value(crowded));
+        QVERIFY(painted.startsWith(u"16"_s));
+        QVERIFY(!painted.contains(u"Süß"_s) || painted.contains(u'…'));
+    }
+}
+
+void tst_MvCalendariumRendererYear::weekGivesWayToTexts()
+{
+    const QDate monday(2027, 6, 14); // week 24
+    const QRectF rect(0, 0, 12 * 275, 3400);
+    const auto paintedOn = [&](const QString &name) {
+        MvCalendarEventRegistry::instance().setEvents({entry(name, monday.addYears(-20))});
+        MvPageFixture page = pageOf(plannerInfo, QDate(2027, 1, 1));
+        const MvPaintRecording recording = page.render(rect);
+        return textsIn(recording, cellsByDate(page).value(monday));
+    };
+    QVERIFY(paintedOn(u"Eva"_s).contains(u"24"_s));
+    // 150 of the 275 for a word; 70 go to the number, 25 each to weekday and week, 10 are padding
+    const QStringList painted = paintedOn(u"Kindergarten"_s);
+    QVERIFY2(painted.contains(u"Kindergarten"_s), qPrintable(painted.join(u',')));
+    QVERIFY(!painted.contains(u"24"_s));
+    // what is cut all the same leaves it out as well, and is listed
+    QVERIFY(!paintedOn(u"Donaudampfschifffahrtsgesellschaft"_s).contains(u"24"_s));
+}
+
+void tst_MvCalendariumRendererYear::weekIsReadableOnEveryGround()
+{
+    MvCalendariumAppearance appearance =
+        MvPageFixture::appearance(plannerInfo, MvPageFixture::defaultCells(), u"CALENDAR_YEAR"_s);
+    const auto weekColor = [&](const QColor &color) {
+        appearance.setCellColor(
+            color, {MvCalendarCellColorRoleEnum::textcolor, CALENDAR_CELL_TYPE_WEEK_OF_YEAR, MvParityLogicEnum::both});
+        MvPageFixture page(appearance, QDate(2027, 1, 1));
+        const MvPaintRecording recording = page.render(a2);
+        const QRectF cell = cellsByDate(page).value(QDate(2027, 6, 14));
+        for (const Item &text : recording.items(Item::Text)) {
+            if (text.text == u"24"_s && cell.contains(text.bounds.center()))
+                return text.fill;
+        }
+        return QColor();
+    };
+    QCOMPARE(weekColor(QColor(u"#444444"_s)), QColor(u"#444444"_s));
+    QCOMPARE(weekColor(QColor(u"#f0f0f0"_s)), QColor(u"#000000"_s)); // that of the day instead
+}
+
+void tst_MvCalendariumRendererYear::whatItShows_data()
+{
+    QTest::addColumn<QString>("info");
+    QTest::addColumn<int>("abilities");
+    QTest::addColumn<bool>("heads");
+    QTest::addColumn<bool>("weeks");
+    const int grid = ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS_COLORS | ABILITY_DISPLAY_CALENDAR_WEEKS;
+    QTest::newRow("bare grid") << u"calendar_render_title"_s << grid << false << false;
+    QTest::newRow("grid") << gridInfo << grid << true << true;
+    QTest::newRow("planner") << u"calendar_render_days_of_week_only_in_front"_s << (grid | ABILITY_DISPLAY_HOLIDAYS)
+                             << true << false;
+}
+
+void tst_MvCalendariumRendererYear::whatItShows()
+{
+    QFETCH(QString, info);
+    QFETCH(bool, heads);
+    QFETCH(bool, weeks);
+    MvCalendariumAppearance appearance =
+        MvPageFixture::appearance(info, MvPageFixture::defaultCells(), u"CALENDAR_YEAR"_s);
+    MvPageFixture page(appearance, QDate(2027, 1, 1));
+    QTEST(page.renderer().abilities().toInt(), "abilities");
+    const QList<MvCalendarCellType> used = page.renderer().usedCellTypes();
+    QVERIFY(used.contains(CALENDAR_CELL_TYPE_MONTH));
+    QVERIFY(used.contains(CALENDAR_CELL_TYPE_HOLIDAY));
+    QCOMPARE(used.contains(CALENDAR_CELL_TYPE_HEAD_WEEKDAY), heads);
+    QCOMPARE(used.contains(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), weeks);
+    QCOMPARE(texts(page.render(a2)).contains(u"44"_s), weeks);
+    // the override asks for weeks as well
+    appearance.setOverrideShowCalendarWeek(true);
+    MvPageFixture overridden(appearance, QDate(2027, 1, 1));
+    QVERIFY(overridden.renderer().usedCellTypes().contains(CALENDAR_CELL_TYPE_WEEK_OF_YEAR));
+    QVERIFY(texts(overridden.render(a2)).contains(u"44"_s));
+}
+
+void tst_MvCalendariumRendererYear::minimumSizeIsEnough_data()
+{
+    QTest::addColumn<QString>("info");
+    QTest::newRow("grid") << gridInfo;
+    QTest::newRow("planner") << plannerInfo;
+}
+
+void tst_MvCalendariumRendererYear::minimumSizeIsEnough()
+{
+    QFETCH(QString, info);
+    MvPageFixture page = pageOf(info, QDate(2027, 1, 1));
+    const QRectF rect(QPointF(0, 0), page.renderer().minimumSizeHint());
+    const QList<Item> items = page.render(rect).items(Item::Text);
+    QVERIFY(items.size() > 365);
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        QVERIFY2(rect.contains(items.at(i).bounds), qPrintable(items.at(i).text));
+        for (qsizetype j = i + 1; j < items.size(); ++j) {
+            QVERIFY2(!items.at(i).bounds.intersects(items.at(j).bounds),
+                     qPrintable(items.at(i).text + u" and "_s + items.at(j).text));
+        }
+    }
+}
+
+MV_TEST_MAIN(tst_MvCalendariumRendererYear)
+#include "tst_MvCalendariumRendererYear.moc"
