@@ -44,21 +44,26 @@ MvCalendariumColorSchema writtenAndRead(const MvCalendariumColorSchema &original
     return MvCalendariumColorSchema(read);
 }
 
-// what can lie beneath a cell: the page, and beneath a head that lets it shine through, the day
-QList<QColor> groundsOf(const MvCalendariumColorSchema &schema, const MvCalendarCellType &type, MvParityLogicEnum parity)
+// What a text of the type may stand on: its own ground; without one the page's, which is that of empty cells, and for the
+// name of a weekday in a list that of its day.
+QList<QColor> groundsOf(const MvCalendariumColorSchema &schema, const MvCalendarCellType &type,
+                        const MvParityLogic &parity)
 {
-    const QColor page = schema.cellColor({background, CALENDAR_CELL_TYPE_EMPTY, parity});
-    QList<QColor> grounds{page.alpha() == 0 ? QColor(Qt::white) : page};
-    static const QHash<int, MvCalendarCellTypeEnum> days = {
+    static const QHash<MvCalendarCellType, MvCalendarCellType> dayOfHead = {
         {CALENDAR_CELL_TYPE_HEAD_WEEKDAY, CALENDAR_CELL_TYPE_WEEKDAY},
         {CALENDAR_CELL_TYPE_HEAD_SATURDAY, CALENDAR_CELL_TYPE_SATURDAY},
         {CALENDAR_CELL_TYPE_HEAD_SUNDAY, CALENDAR_CELL_TYPE_SUNDAY},
         {CALENDAR_CELL_TYPE_HEAD_HOLIDAY, CALENDAR_CELL_TYPE_HOLIDAY},
-        {CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION, CALENDAR_CELL_TYPE_SCHOOL_VACATION},
+        {CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION, CALENDAR_CELL_TYPE_SCHOOL_VACATION}};
+    const QColor own = schema.cellColor({MvCalendarCellColorRoleEnum::bgcolor, type, parity});
+    if (own.alpha() > 0)
+        return {own};
+    const auto groundOf = [&](const MvCalendarCellType &other) {
+        return schema.cellColor({MvCalendarCellColorRoleEnum::bgcolor, other, parity});
     };
-    const auto day = days.constFind(type.toInt());
-    if (day != days.cend() && schema.cellColor({background, *day, parity}).alpha() == 255)
-        grounds.append(schema.cellColor({background, *day, parity}));
+    QList<QColor> grounds{groundOf(CALENDAR_CELL_TYPE_EMPTY)};
+    if (dayOfHead.contains(type))
+        grounds.append(groundOf(dayOfHead.value(type)));
     return grounds;
 }
 
@@ -327,11 +332,11 @@ void tst_ColorSchema::shippedSchemata()
             const bool isLarge = type == CALENDAR_CELL_TYPE_TITLE || type == CALENDAR_CELL_TYPE_MONTH
                 || type == CALENDAR_CELL_TYPE_YEAR;
             for (const MvParityLogicEnum parity : {even, odd}) {
-                MvCalendariumColorCellInfo cell;
-                cell.setBackgroundColor(shipped.cellColor({background, type, parity}), true);
-                cell.setFontColor(shipped.cellColor({text, type, parity}), true);
                 for (const QColor &ground : groundsOf(shipped, type, parity)) {
-                    const double found = cell.cellContrast(ground, true);
+                    MvCalendariumColorCellInfo cell;
+                    cell.setBackgroundColor(ground, true);
+                    cell.setFontColor(shipped.cellColor({text, type, parity}), true);
+                    const double found = cell.cellContrast(Qt::white, true);
                     QVERIFY2(found >= (isLarge ? 3.0 : 4.5),
                              qPrintable(u"%1 %2: %3"_s.arg(id.toString(), type.encode()).arg(found)));
                 }
