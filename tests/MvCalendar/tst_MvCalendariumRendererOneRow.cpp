@@ -168,7 +168,7 @@ void tst_MvCalendariumRendererOneRow::narrowColumnsReportWhatTheyDrop()
     QCOMPARE(page.days.size(), 28);
 
     const QStringList lowTitle = textsOf(page.render({0, 0, 100, 300}));
-    QCOMPARE(lowTitle.constFirst(), u" Febru…"_s); // 8 characters of 12.5
+    QCOMPARE(lowTitle.constFirst(), u" Februa…"_s); // 8 characters of 12.5
     QVERIFY(page.renderer().unfittingTexts().contains(
         MvUnfittingText{QDate(2027, 2, 1), u" Februar 2027"_s, QRectF(0, 0, 100, 65)}));
 }
