@@ -129,6 +129,8 @@ void tst_MvCalendariumRendererOneRow::headsFollowTheirDays()
     MvCalendariumAppearance appearance = strip(heads);
     appearance.setCellColor(Qt::magenta, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_HEAD_HOLIDAY,
                                           MvParityLogicEnum::both});
+    appearance.setCellColor(Qt::cyan, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_HEAD_WEEKDAY,
+                                       MvParityLogicEnum::even});
     const QRectF rect(0, 0, 3100, 300);
     const auto areaOf = [&](int features, const QColor &color) {
         MvPageFixture page(appearance, QDate(2027, 5, 1), features);
@@ -146,6 +148,8 @@ void tst_MvCalendariumRendererOneRow::headsFollowTheirDays()
     // rows of weeks alternate from the month's first one, which is odd; Monday the 3rd begins an even one
     QVERIFY(areaOf(0, QColor(u"#eeeeee"_s)).contains(QPointF(250, 200)));
     QVERIFY(areaOf(0, QColor(u"#dddddd"_s)).contains(QPointF(1050, 200))); // 11 May
+    QVERIFY(areaOf(0, Qt::cyan).contains(QPointF(250, 10)));
+    QVERIFY(!areaOf(0, Qt::cyan).contains(QPointF(1050, 10)));
 }
 
 void tst_MvCalendariumRendererOneRow::narrowColumnsReportWhatTheyDrop()
