@@ -98,8 +98,11 @@ QString MvCalendariumTextPainter::elided(int maxWidth, const QFont &font, const 
     if (!isTextToWide(maxWidth, font, text))
         return text;
     QString kept = text.endsWith(ellipsis) ? text.chopped(1) : text;
-    while (!kept.isEmpty() && isTextToWide(maxWidth, font, kept + ellipsis))
-        kept = kept.chopped(1).trimmed();
+    while (!kept.isEmpty() && isTextToWide(maxWidth, font, kept + ellipsis)) {
+        kept.chop(1);
+        while (kept.endsWith(u' '))
+            kept.chop(1);
+    }
     return kept + ellipsis;
 }
 

@@ -198,6 +198,10 @@ void tst_MvCalendariumRenderer::factory_data()
     QTest::addColumn<QString>("type");
     QTest::addColumn<QByteArray>("renderer");
     QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << QByteArray("MvCalendariumRendererOneWeekPerRow");
+    QTest::newRow("two weeks") << u"CALENDAR_TWO_WEEKS"_s << QByteArray("MvCalendariumRendererTwoWeeksPerRow");
+    QTest::newRow("week columns") << u"CALENDAR_ONE_COLUMN_PER_WEEK"_s
+                                  << QByteArray("MvCalendariumRendererOneColumnPerWeek");
+    QTest::newRow("strip") << u"CALENDAR_ONE_ROW"_s << QByteArray("MvCalendariumRendererOneRow");
     QTest::newRow("month only") << u"CALENDAR_MONTH_ONLY"_s << QByteArray("MvCalendariumRendererMonthOnly");
     QTest::newRow("nothing") << QString() << QByteArray("MvCalendariumRendererMonthOnly");
     QTest::newRow("two at once") << u"CALENDAR_MONTH_ONLY, CALENDAR_YEAR"_s
