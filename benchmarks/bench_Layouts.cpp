@@ -117,8 +117,7 @@ void registerBenchmarks()
         benchmark::RegisterBenchmark((name + "/straight").c_str(), primitivesStraight, id)
             ->Unit(benchmark::kMillisecond);
         benchmark::RegisterBenchmark((name + "/pass").c_str(), pass, id)->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark((name + "/recording").c_str(), recordingAlone, id)
-            ->Unit(benchmark::kMillisecond);
+        benchmark::RegisterBenchmark((name + "/recording").c_str(), recordingAlone, id)->Unit(benchmark::kMillisecond);
     }
 }
 

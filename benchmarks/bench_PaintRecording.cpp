@@ -18,8 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 constexpr int columns = 7;
 constexpr int rows = 8;
 constexpr QSizeF cellSize(320, 400);

@@ -21,8 +21,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr double scale = 300.0 / 254.0;
 constexpr int entryCount = 500;

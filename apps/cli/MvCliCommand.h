@@ -21,12 +21,14 @@ public:
     };
 
     /// Where a command writes: results to one stream, hints for a person to the other.
-    struct Streams {
+    struct Streams
+    {
         QTextStream &out;
         QTextStream &hints;
     };
 
-    struct Result {
+    struct Result
+    {
         ExitCode code = Done;
         QString error; // one line for a person
     };

@@ -3,7 +3,8 @@
 #include <QString>
 
 /// An option of a command, "--name VALUE", or "--name" when it takes no value.
-struct MvCliOption {
+struct MvCliOption
+{
     QString name;  // without dashes
     QString value; // what stands for the value in the help text; empty for a switch
     QString help;

@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int firstYear = 1583; // the first whole year of our calendar
 constexpr int lastYear = 9999;

@@ -16,8 +16,7 @@ class MvCliValues
 public:
     explicit MvCliValues(const MvCliArguments &arguments)
         : m_arguments(arguments)
-    {
-    }
+    {}
 
     bool isOk() const { return m_error.isEmpty(); }
     QString error() const { return m_error; }

@@ -13,8 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int mostYears = 200;
 
@@ -54,7 +53,8 @@ QString csvField(const QString &text)
 }
 
 /// A holiday or a run of vacation days.
-struct Span {
+struct Span
+{
     MvCalendariumHoliday holiday;
     QDate last;
 };

@@ -9,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr qsizetype longestName = 64; // nobody mistypes longer ones; bounds the work on hostile input
 constexpr qsizetype shortestBeginning = 3;

@@ -13,8 +13,7 @@ using namespace Qt::StringLiterals;
 MvOutputTarget::MvOutputTarget(const QString &path)
     : m_path(path)
     , m_suffix(QFileInfo(path).suffix().toLower())
-{
-}
+{}
 
 QString MvOutputTarget::nameError(const MvPageSource &pages) const
 {

@@ -11,8 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// One locale per country: the asked one, or the first of every country there is.
 QList<MvLocale> countries(const MvLocale &asked)

@@ -7,10 +7,10 @@
 #include "MvCliValues.h"
 #include "MvNearMiss.h"
 #include "MvOutputTarget.h"
-#include "MvRenderReport.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPngExporter.h"
+#include "MvRenderReport.h"
 #include "MvSchemaListCommand.h"
 #include "MvVacationHint.h"
 
@@ -18,8 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int mostMonths = 120;
 constexpr double widestBleed = 20.0; // millimetres

@@ -24,7 +24,8 @@ public:
     void printHint(QTextStream &hints) const;
 
 private:
-    struct Entry {
+    struct Entry
+    {
         int page; // from 1
         MvUnfittingText text;
     };

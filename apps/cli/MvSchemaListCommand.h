@@ -14,7 +14,8 @@ public:
     };
 
     /// A schema's id and its German name.
-    struct Schema {
+    struct Schema
+    {
         QString id;
         QString name;
         QString description; // of layouts
@@ -22,8 +23,7 @@ public:
 
     explicit MvSchemaListCommand(Kind kind)
         : m_kind(kind)
-    {
-    }
+    {}
 
     /// What there is, in the order in which it is offered.
     static QList<Schema> schemata(Kind kind);

@@ -7,8 +7,7 @@
 
 #include <cstdio>
 
-namespace
-{
+namespace {
 
 /// Warnings of the libraries, as lines like the program's own.
 void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)

@@ -19,8 +19,7 @@ MvCalendarCellColorKey::MvCalendarCellColorKey(const MvCalendarCellColorRole &ro
     : m_role(role)
     , m_cellType(cellType)
     , m_parity(parity)
-{
-}
+{}
 
 MvCalendarCellColorKey MvCalendarCellColorKey::convertedTo(const MvParityLogic &parity) const
 {

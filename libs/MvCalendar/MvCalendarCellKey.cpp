@@ -3,8 +3,7 @@
 MvCalendarCellKey::MvCalendarCellKey(const MvCalendarCellType &cellType, const MvParityLogic &parity)
     : m_cellType(cellType)
     , m_parity(parity)
-{
-}
+{}
 
 MvCalendarCellKey MvCalendarCellKey::convertedTo(const MvCalendarCellType &cellType) const
 {

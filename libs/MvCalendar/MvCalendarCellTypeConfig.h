@@ -10,13 +10,11 @@ public:
     /// One type for both.
     explicit MvCalendarCellTypeConfig(const MvCalendarCellType &type)
         : MvCalendarCellTypeConfig(type, type)
-    {
-    }
+    {}
     MvCalendarCellTypeConfig(const MvCalendarCellType &inscription, const MvCalendarCellType &color)
         : m_inscription(inscription)
         , m_color(color)
-    {
-    }
+    {}
 
     const MvCalendarCellType &inscriptionConfig() const { return m_inscription; }
     const MvCalendarCellType &colorConfig() const { return m_color; }

@@ -16,8 +16,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int mediumQuality = 4;
 constexpr int mediumCaching = 13;

@@ -10,8 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString rootName = u"CalendarEvents"_s;
 const QString entryName = u"CalendarEvent"_s;

@@ -15,7 +15,8 @@ class MVCALENDAR_EXPORT MvCalendarEventFile
     Q_DECLARE_TR_FUNCTIONS(MvCalendarEventFile)
 
 public:
-    struct Content {
+    struct Content
+    {
         MvCalendarEventList events;
         QString error;           // for a person, with file and place; empty when the file was read
         bool isMissing = false;  // there is no such file; error is set, too

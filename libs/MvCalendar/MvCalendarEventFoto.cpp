@@ -2,8 +2,7 @@
 
 #include <QFileInfo>
 
-namespace
-{
+namespace {
 
 /// Whether the path lies below the folder, all links resolved. What does not exist counts by its cleaned path.
 bool liesBelow(const QString &path, const QDir &folder)

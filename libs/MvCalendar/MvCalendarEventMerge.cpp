@@ -3,8 +3,7 @@
 #include <QHash>
 #include <QSet>
 
-namespace
-{
+namespace {
 
 QHash<QUuid, const MvCalendarEvent *> byUuid(const MvCalendarEventList &events)
 {

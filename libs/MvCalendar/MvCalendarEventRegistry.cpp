@@ -24,8 +24,7 @@ using namespace Qt::StringLiterals;
 
 const MvProjectIdentifier DEFAULT_PROJECT_ID(u"DEFAULT_START_CALENDAR_ID"_s, false);
 
-namespace
-{
+namespace {
 
 constexpr int importAdvice = 43;
 constexpr double importAdviceDelay = 0.5;

@@ -104,7 +104,8 @@ Q_SIGNALS:
 
 private:
     /// What is known about the user's file: knowledge about the disk, not part of the registry's state.
-    struct File {
+    struct File
+    {
         MvCalendarEventList events;  // what it held when last read or written here
         QByteArray stamp;            // the state of the file at that time
         bool mustBeSetAside = false; // it holds what is not in the list: keep it before overwriting

@@ -23,8 +23,7 @@ void MvCalendarInitializer::setup(MvInitializerOption)
 }
 
 void MvCalendarInitializer::teardown()
-{
-}
+{}
 
 void MvCalendarInitializer::initCalendarHolidays()
 {

@@ -26,8 +26,7 @@ std::function<QList<MvCalendarCellType>(const MvCalendariumAppearance &)> &usedC
 
 MvCalendariumAppearance::MvCalendariumAppearance()
     : d(new MvCalendariumAppearanceImpl)
-{
-}
+{}
 
 MvCalendariumAppearance::MvCalendariumAppearance(const QDomElement &element, bool adaptGrid,
                                                  MvCalendariumColorSchemaRegistry *registry)

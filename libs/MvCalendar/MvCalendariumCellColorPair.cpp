@@ -6,8 +6,7 @@
 MvCalendariumCellColorPair::MvCalendariumCellColorPair(const QColor &even, const QColor &odd)
     : m_even(even)
     , m_odd(odd)
-{
-}
+{}
 
 void MvCalendariumCellColorPair::setColor(const QColor &color, bool even)
 {

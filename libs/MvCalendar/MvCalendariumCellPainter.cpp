@@ -36,8 +36,7 @@ constexpr int wideCellTexts = wrappingText | Qt::AlignBottom | Qt::AlignLeft;
 MvCalendariumCellPainter::MvCalendariumCellPainter(MvCalendariumRenderer &renderer, QPainter &painter)
     : m_renderer(renderer)
     , m_painter(painter)
-{
-}
+{}
 
 void MvCalendariumCellPainter::drawBackground(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even)
 {

@@ -40,8 +40,7 @@ QColor over(const QColor &top, const QColor &bottom)
 
 MvCalendariumColorCellInfo::MvCalendariumColorCellInfo()
     : d(new MvCalendariumColorCellInfoImpl)
-{
-}
+{}
 
 MvCalendariumColorCellInfo::~MvCalendariumColorCellInfo() = default;
 MvCalendariumColorCellInfo::MvCalendariumColorCellInfo(const MvCalendariumColorCellInfo &) = default;

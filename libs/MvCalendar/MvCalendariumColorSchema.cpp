@@ -14,8 +14,7 @@ std::function<MvCalendariumColorSchemaID(const MvCalendariumColorSchema &)> &idL
 
 MvCalendariumColorSchema::MvCalendariumColorSchema()
     : d(new MvCalendariumColorSchemaImpl)
-{
-}
+{}
 
 MvCalendariumColorSchema::MvCalendariumColorSchema(const QDomElement &element)
     : MvCalendariumColorSchema()

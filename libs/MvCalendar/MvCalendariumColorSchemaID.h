@@ -15,8 +15,7 @@ public:
     MvCalendariumColorSchemaID() = default;
     explicit MvCalendariumColorSchemaID(const QString &id)
         : m_id(id)
-    {
-    }
+    {}
 
     /// A new id for a user's schema: "USER_" and a random number below 100000.
     static MvCalendariumColorSchemaID create();

@@ -40,8 +40,7 @@ MvCalendariumFontSettings::MvCalendariumFontSettings(const QString &fontName, in
     , m_capitalization(capitalization)
     , m_letterSpacing(letterSpacing)
     , m_weight(weight)
-{
-}
+{}
 
 MvCalendariumFontSettings::MvCalendariumFontSettings(const QDomElement &element)
     : m_fontName(MvXMLParser::textAttribute(element, familyKey, MvFontCreator::instance().defaultFontFamily()))

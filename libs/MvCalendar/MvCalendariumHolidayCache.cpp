@@ -15,8 +15,7 @@ QReadWriteLock MvCalendariumHolidayCache::myLock;
 MvCalendariumHolidayCache::MvCalendariumHolidayCache() = default;
 
 void MvCalendariumHolidayCache::setupInstance()
-{
-}
+{}
 
 bool MvCalendariumHolidayCache::isPrepared(const MvCalendariumHolidayCacheKey &key) const
 {

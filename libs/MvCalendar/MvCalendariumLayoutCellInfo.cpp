@@ -30,8 +30,7 @@ struct MvCalendariumLayoutCellInfoImpl : MvSharedData
 
 MvCalendariumLayoutCellInfo::MvCalendariumLayoutCellInfo()
     : d(new MvCalendariumLayoutCellInfoImpl)
-{
-}
+{}
 
 MvCalendariumLayoutCellInfo::MvCalendariumLayoutCellInfo(const QDomElement &element)
     : MvCalendariumLayoutCellInfo()

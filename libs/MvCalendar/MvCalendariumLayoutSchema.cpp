@@ -7,8 +7,7 @@
 
 MvCalendariumLayoutSchema::MvCalendariumLayoutSchema()
     : d(new MvCalendariumLayoutSchemaImpl)
-{
-}
+{}
 
 MvCalendariumLayoutSchema::MvCalendariumLayoutSchema(const QDomElement &element)
     : MvCalendariumLayoutSchema()

@@ -13,8 +13,7 @@ public:
     MvCalendariumLayoutSchemaID() = default;
     explicit MvCalendariumLayoutSchemaID(const QString &id)
         : m_id(id)
-    {
-    }
+    {}
 
     /// True for every id but the empty one.
     bool isValid() const { return !m_id.isEmpty(); }

@@ -13,7 +13,7 @@ const QString columnHeadersKey = u"columnheaders"_s;
 const QString holidayFontKey = u"holidayfontpercentage"_s;
 const QString monthLayoutKey = u"monthlayout"_s;
 const QString optimizedSizeKey = u"optimizedSize"_s;
-}
+} // namespace
 
 void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
 {

@@ -30,8 +30,7 @@ MvCalendariumRenderer::MvCalendariumRenderer(const MvCalendariumAppearance &appe
     : m_content(MvDateRange::createDefaultCalendarStart(), MvCalendariumHolidayConfig())
     , m_appearance(appearance)
     , m_dateRange(MvDateRange::createDefaultCalendarDateRange())
-{
-}
+{}
 
 MvCalendariumRenderer::~MvCalendariumRenderer() = default;
 

@@ -10,8 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const MvCalendarCellTypeConfig blockCell(CALENDAR_CELL_TYPE_WEEKDAY, CALENDAR_CELL_TYPE_WEEKDAY);
 const QString itemSeparator = u", "_s;

@@ -27,7 +27,8 @@ public:
     QString describe(const QDate &from, const QDate &to, const QString &text) const;
 
 private:
-    struct Event {
+    struct Event
+    {
         QDate first;
         QDate last;
         QString text;

@@ -184,5 +184,4 @@ void MvCalendariumRendererOneWeekPerRow::renderWeek(QPainter &painter, const QRe
 }
 
 void MvCalendariumRendererOneWeekPerRow::paintGrid(QPainter &, const QRectF &)
-{
-}
+{}

@@ -10,8 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int monthsPerPage = 12;
 constexpr int usualColumns = 4;      // of small months

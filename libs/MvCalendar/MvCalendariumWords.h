@@ -13,8 +13,7 @@ class MVCALENDAR_EXPORT MvCalendariumWords
 public:
     explicit MvCalendariumWords(const MvLocale &language)
         : m_language(language)
-    {
-    }
+    {}
 
     /// Day 1 is Monday, 7 Sunday.
     QString dayName(int day, bool shortName) const;

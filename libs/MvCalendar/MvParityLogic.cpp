@@ -13,8 +13,7 @@ void MvParityLogic::fillTable(Table *table) const
 
 MvParityLogic::MvParityLogic(bool even)
     : MvParityLogic(even ? MvParityLogicEnum::even : MvParityLogicEnum::odd)
-{
-}
+{}
 
 bool MvParityLogic::sourceField() const
 {

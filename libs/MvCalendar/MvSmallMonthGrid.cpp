@@ -4,8 +4,7 @@ MvSmallMonthGrid::MvSmallMonthGrid(const QPointF &corner, const QDate &month, co
     : m_corner(corner)
     , m_first(month.year(), month.month(), 1)
     , m_sizes(sizes)
-{
-}
+{}
 
 QSizeF MvSmallMonthGrid::size(const Sizes &sizes)
 {

@@ -13,7 +13,8 @@ public:
     static constexpr int daysPerWeek = 7;
 
     /// The sizes of the cells, the same for all months of a page.
-    struct Sizes {
+    struct Sizes
+    {
         double nameHeight = 0.0;
         double headHeight = 0.0; // 0: no weekday heads
         double weekWidth = 0.0;  // 0: no calendar weeks

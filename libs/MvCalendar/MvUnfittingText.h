@@ -5,7 +5,8 @@
 #include <QString>
 
 /// A text of a day that had no room in its cell: it was shortened, or one of its words is wider than the cell.
-struct MvUnfittingText {
+struct MvUnfittingText
+{
     QDate date;
     QString text;
     QRectF rect; // of the cell, in page units

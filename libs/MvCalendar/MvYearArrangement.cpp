@@ -4,8 +4,7 @@
 #include <array>
 #include <limits>
 
-namespace
-{
+namespace {
 
 constexpr std::array columnCounts{4, 3, 6, 2, 12, 1}; // of equally stretched ones the first is taken
 

@@ -5,8 +5,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 MvCalendarCellTypeConfig same(const MvCalendarCellType &type)
 {
@@ -18,8 +17,7 @@ MvCalendarCellTypeConfig same(const MvCalendarCellType &type)
 MvYearGridPainter::MvYearGridPainter(MvCalendariumRendererYear &renderer, QPainter &painter)
     : m_renderer(renderer)
     , m_painter(painter)
-{
-}
+{}
 
 void MvYearGridPainter::paint(const QRectF &rect)
 {

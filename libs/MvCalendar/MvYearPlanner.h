@@ -17,7 +17,8 @@ public:
     static constexpr int mostDays = 31;
 
     /// What the parts need, including their paddings.
-    struct Sizes {
+    struct Sizes
+    {
         double nameHeight = 0.0;
         double numberWidth = 0.0;
         double weekdayWidth = 0.0;
@@ -27,7 +28,8 @@ public:
     };
 
     /// The parts of a cell; those for which there is no room, or that it does not have, are null.
-    struct Parts {
+    struct Parts
+    {
         QRectF number;
         QRectF weekday;
         QRectF week;

@@ -11,8 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int daysPerWeek = 7;
 constexpr double readableContrast = 4.5;

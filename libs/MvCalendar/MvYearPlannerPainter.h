@@ -21,7 +21,8 @@ public:
 
 private:
     /// How the texts of a type of cell are set; the same for all days of a pass.
-    struct Style {
+    struct Style
+    {
         QFont texts;
         double lineHeight = 0.0; // of the texts
         double baseline = 0.0;   // of the number, below the middle of its cell

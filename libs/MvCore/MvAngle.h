@@ -11,8 +11,7 @@ public:
     constexpr MvAngle() = default;
     constexpr explicit MvAngle(double degrees)
         : m_degrees(degrees)
-    {
-    }
+    {}
 
     constexpr double degrees() const { return m_degrees; }
 

@@ -23,8 +23,7 @@ MvDirectoryConfig::MvDirectoryConfig()
     : m_programDataDir(qEnvironmentVariable("MVCALENDAR_DATA"))
 {
     if (m_programDataDir.isEmpty()) {
-        m_programDataDir =
-            QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + folderName;
+        m_programDataDir = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + folderName;
     }
     const QString overrideRoot = qEnvironmentVariable("MVCALENDAR_RESOURCES");
     if (!overrideRoot.isEmpty())

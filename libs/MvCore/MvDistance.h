@@ -7,8 +7,7 @@ public:
     constexpr MvDistance() = default;
     constexpr explicit MvDistance(double tenthMillimetres)
         : m_value(tenthMillimetres)
-    {
-    }
+    {}
 
     static constexpr MvDistance fromMillimetres(double millimetres) { return MvDistance(millimetres * 10.0); }
 

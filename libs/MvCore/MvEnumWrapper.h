@@ -21,8 +21,7 @@ public:
     MvEnumWrapper() = default;
     MvEnumWrapper(E value) // implicit: an enumerator is a value of its class
         : m_value(static_cast<qint32>(value))
-    {
-    }
+    {}
     virtual ~MvEnumWrapper() = default;
     MvEnumWrapper(const MvEnumWrapper &) = default;
     MvEnumWrapper(MvEnumWrapper &&) noexcept = default;
@@ -125,15 +124,15 @@ public:                                                                         
     Class() = default;                                                                                                 \
     Class(EnumType value)                                                                                              \
         : MvEnumWrapper<EnumType>(value)                                                                               \
-    {                                                                                                                  \
-    }                                                                                                                  \
+    {}                                                                                                                 \
     Class(const MvEnumWrapper<EnumType> &value)                                                                        \
         : MvEnumWrapper<EnumType>(value)                                                                               \
-    {                                                                                                                  \
-    }                                                                                                                  \
+    {}                                                                                                                 \
     explicit Class(int value)                                                                                          \
         : MvEnumWrapper<EnumType>(EnumType(value))                                                                     \
+    {}                                                                                                                 \
+    explicit Class(const QString &names)                                                                               \
     {                                                                                                                  \
+        decode(names);                                                                                                 \
     }                                                                                                                  \
-    explicit Class(const QString &names) { decode(names); }                                                            \
     void fillTable(MvEnumToStringTable<EnumType> *table) const override;

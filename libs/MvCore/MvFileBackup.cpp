@@ -19,8 +19,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QString temporaryPrefix = u".mvtmp-"_s;
 

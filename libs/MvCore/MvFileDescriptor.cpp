@@ -10,8 +10,7 @@
 
 MvFileDescriptor::MvFileDescriptor(MvFileDescriptor &&other) noexcept
     : m_descriptor(std::exchange(other.m_descriptor, -1))
-{
-}
+{}
 
 MvFileDescriptor &MvFileDescriptor::operator=(MvFileDescriptor &&other) noexcept
 {

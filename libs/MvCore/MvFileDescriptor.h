@@ -16,8 +16,7 @@ public:
     /// Takes the descriptor over; a negative one is closed.
     explicit MvFileDescriptor(int descriptor)
         : m_descriptor(descriptor)
-    {
-    }
+    {}
     MvFileDescriptor(MvFileDescriptor &&other) noexcept;
     MvFileDescriptor &operator=(MvFileDescriptor &&other) noexcept;
     MvFileDescriptor(const MvFileDescriptor &) = delete;

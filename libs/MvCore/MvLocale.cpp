@@ -17,16 +17,20 @@ struct CountryNames
 const QHash<QString, CountryNames> &countryNames()
 {
     static const QHash<QString, CountryNames> names = {
-        {u"AT"_s, {u"Österreich"_s}},     {u"BE"_s, {u"Belgien"_s, true}}, {u"BG"_s, {u"Bulgarien"_s}},
-        {u"CA"_s, {u"Kanada"_s, true}},   {u"CH"_s, {u"Schweiz"_s, true}}, {u"CZ"_s, {u"Tschechien"_s}},
-        {u"DE"_s, {u"Deutschland"_s}},    {u"DK"_s, {u"Dänemark"_s}},      {u"ES"_s, {u"Spanien"_s, true}},
-        {u"FI"_s, {u"Finnland"_s}},       {u"FR"_s, {u"Frankreich"_s}},    {u"GB"_s, {u"Vereinigtes Königreich"_s}},
-        {u"GR"_s, {u"Griechenland"_s}},   {u"HR"_s, {u"Kroatien"_s}},      {u"HU"_s, {u"Ungarn"_s}},
-        {u"IE"_s, {u"Irland"_s}},         {u"IT"_s, {u"Italien"_s, true}}, {u"LI"_s, {u"Liechtenstein"_s}},
-        {u"LU"_s, {u"Luxemburg"_s, true}}, {u"NL"_s, {u"Niederlande"_s}},  {u"NO"_s, {u"Norwegen"_s}},
-        {u"PL"_s, {u"Polen"_s}},          {u"PT"_s, {u"Portugal"_s}},      {u"RO"_s, {u"Rumänien"_s}},
-        {u"SE"_s, {u"Schweden"_s}},       {u"SI"_s, {u"Slowenien"_s}},     {u"SK"_s, {u"Slowakei"_s}},
-        {u"US"_s, {u"USA"_s}},
+        {u"AT"_s, {u"Österreich"_s}},      {u"BE"_s, {u"Belgien"_s, true}},
+        {u"BG"_s, {u"Bulgarien"_s}},       {u"CA"_s, {u"Kanada"_s, true}},
+        {u"CH"_s, {u"Schweiz"_s, true}},   {u"CZ"_s, {u"Tschechien"_s}},
+        {u"DE"_s, {u"Deutschland"_s}},     {u"DK"_s, {u"Dänemark"_s}},
+        {u"ES"_s, {u"Spanien"_s, true}},   {u"FI"_s, {u"Finnland"_s}},
+        {u"FR"_s, {u"Frankreich"_s}},      {u"GB"_s, {u"Vereinigtes Königreich"_s}},
+        {u"GR"_s, {u"Griechenland"_s}},    {u"HR"_s, {u"Kroatien"_s}},
+        {u"HU"_s, {u"Ungarn"_s}},          {u"IE"_s, {u"Irland"_s}},
+        {u"IT"_s, {u"Italien"_s, true}},   {u"LI"_s, {u"Liechtenstein"_s}},
+        {u"LU"_s, {u"Luxemburg"_s, true}}, {u"NL"_s, {u"Niederlande"_s}},
+        {u"NO"_s, {u"Norwegen"_s}},        {u"PL"_s, {u"Polen"_s}},
+        {u"PT"_s, {u"Portugal"_s}},        {u"RO"_s, {u"Rumänien"_s}},
+        {u"SE"_s, {u"Schweden"_s}},        {u"SI"_s, {u"Slowenien"_s}},
+        {u"SK"_s, {u"Slowakei"_s}},        {u"US"_s, {u"USA"_s}},
     };
     return names;
 }
@@ -34,10 +38,10 @@ const QHash<QString, CountryNames> &countryNames()
 QString languageName(const QString &language)
 {
     static const QHash<QString, QString> names = {
-        {u"de"_s, u"Deutsch"_s},        {u"fr"_s, u"Französisch"_s}, {u"it"_s, u"Italienisch"_s},
-        {u"rm"_s, u"Rätoromanisch"_s},  {u"nl"_s, u"Niederländisch"_s}, {u"en"_s, u"Englisch"_s},
-        {u"es"_s, u"Spanisch"_s},       {u"ca"_s, u"Katalanisch"_s}, {u"gl"_s, u"Galicisch"_s},
-        {u"eu"_s, u"Baskisch"_s},       {u"lb"_s, u"Luxemburgisch"_s},
+        {u"de"_s, u"Deutsch"_s},       {u"fr"_s, u"Französisch"_s},    {u"it"_s, u"Italienisch"_s},
+        {u"rm"_s, u"Rätoromanisch"_s}, {u"nl"_s, u"Niederländisch"_s}, {u"en"_s, u"Englisch"_s},
+        {u"es"_s, u"Spanisch"_s},      {u"ca"_s, u"Katalanisch"_s},    {u"gl"_s, u"Galicisch"_s},
+        {u"eu"_s, u"Baskisch"_s},      {u"lb"_s, u"Luxemburgisch"_s},
     };
     return names.value(language, language);
 }

@@ -2,8 +2,7 @@
 
 #include <utility>
 
-namespace
-{
+namespace {
 
 std::unique_ptr<MvPlatformIndependent> &layerInUse()
 {
@@ -29,8 +28,7 @@ MvPlatformIndependent::setInstance(std::unique_ptr<MvPlatformIndependent> platfo
 }
 
 void MvPlatformIndependent::fileWritten(const QFileInfo &)
-{
-}
+{}
 
 MvSimplePersonList MvPlatformIndependent::addressBookContacts()
 {

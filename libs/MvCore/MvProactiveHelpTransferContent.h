@@ -3,7 +3,8 @@
 #include <QString>
 
 /// What a help notice hands over to the place it leads to: a kind (0: nothing) and a text.
-struct MvProactiveHelpTransferContent {
+struct MvProactiveHelpTransferContent
+{
     int kind = 0;
     QString text;
 

@@ -17,8 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The file that is really written: the end of the chain of symbolic links, which need not exist.
 QString resolvedPath(const QFileInfo &file)

@@ -27,7 +27,8 @@ public:
         None, // for what can be made again, such as a page as PDF or PNG
     };
 
-    struct Result {
+    struct Result
+    {
         QString error; // for a person; empty when the file is in place
         QString note;  // for the log: the file is in place, but something beside it went wrong
 

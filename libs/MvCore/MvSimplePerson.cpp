@@ -5,7 +5,6 @@ MvSimplePerson::MvSimplePerson(const QString &name, const QDate &birthday, const
     , m_birthday(birthday)
     , m_image(image)
     , m_uuid(uuid)
-{
-}
+{}
 
 MvSimplePerson::~MvSimplePerson() = default;

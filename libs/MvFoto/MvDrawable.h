@@ -15,8 +15,7 @@ public:
     MvDrawable() = default;
     explicit MvDrawable(const QImage &image)
         : m_image(image)
-    {
-    }
+    {}
 
     bool isNull() const { return m_image.isNull(); }
     QSize size() const { return m_image.size(); }

@@ -2,7 +2,8 @@
 
 #include "MvCore/MvSharedData.h"
 
-struct MvFotoImpl : MvSharedData {
+struct MvFotoImpl : MvSharedData
+{
     MvFotoKeyFileInfo key;
 };
 
@@ -15,8 +16,7 @@ MvFoto &MvFoto::operator=(MvFoto &&) noexcept = default;
 
 MvFoto::MvFoto(const QFileInfo &file)
     : MvFoto(MvFotoKeyFileInfo(file.filePath(), {}, QDir::current()))
-{
-}
+{}
 
 MvFoto::MvFoto(const MvFotoKeyFileInfo &key)
 {

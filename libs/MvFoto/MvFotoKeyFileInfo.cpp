@@ -3,8 +3,7 @@
 MvFotoKeyFileInfo::MvFotoKeyFileInfo(const QString &path, const MvVideoFrameIndex &frame, const QDir &relativeTo)
     : m_path(path.isEmpty() ? QString() : QDir::cleanPath(relativeTo.absoluteFilePath(path)))
     , m_frame(frame)
-{
-}
+{}
 
 bool MvFotoKeyFileInfo::operator==(const MvFotoKeyFileInfo &other) const
 {

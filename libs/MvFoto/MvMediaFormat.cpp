@@ -6,8 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr qsizetype longestName = 80; // characters; leaves room for a counter in every file system
 

@@ -22,8 +22,7 @@ public:
     MvMediaFormat() = default;
     MvMediaFormat(Format format) // implicit: a format is a value of its class
         : m_format(format)
-    {
-    }
+    {}
 
     /// The format of the file's content, whatever its name says; unknown when it cannot be read.
     static MvMediaFormat ofFile(const QFileInfo &file);

@@ -1,7 +1,8 @@
 #pragma once
 
 /// The frame of a video that serves as a photo; a photo has none.
-struct MvVideoFrameIndex {
+struct MvVideoFrameIndex
+{
     int frame = -1; // from 0; negative: not from a video
 
     bool isValid() const { return frame >= 0; }

@@ -4,8 +4,7 @@
 
 MvImageCache::MvImageCache(qint64 byteLimit)
     : m_byteLimit(byteLimit)
-{
-}
+{}
 
 QImage MvImageCache::image(const Key &key, const std::function<QImage()> &make)
 {

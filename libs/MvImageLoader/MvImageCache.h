@@ -19,7 +19,8 @@ class MVIMAGELOADER_EXPORT MvImageCache
 {
 public:
     /// An image of a file in a certain state, decoded for a certain size (an empty one: full size).
-    struct Key {
+    struct Key
+    {
         QString path;
         qint64 changed = 0; // milliseconds since the epoch
         qint64 bytes = 0;
@@ -38,7 +39,8 @@ public:
     qint64 byteCount() const;
 
 private:
-    struct Entry {
+    struct Entry
+    {
         QImage image;
         std::list<Key>::iterator use;
     };

@@ -1,9 +1,9 @@
 #include "MvImageLoader/MvImageFormat.h"
 
-namespace
-{
+namespace {
 
-struct Signature {
+struct Signature
+{
     QByteArray start;
     QByteArray format;
 };

@@ -13,8 +13,7 @@
 
 template class MvSingleton<MvImageLoader>;
 
-namespace
-{
+namespace {
 
 /// An image file opened for reading in its own format; closed with the object.
 class OpenImage

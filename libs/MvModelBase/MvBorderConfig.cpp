@@ -14,8 +14,7 @@ MvBorderConfig::MvBorderConfig(const QColor &color, MvDistance width, MvBorderPo
     , m_width(width)
     , m_position(position)
     , m_enabled(enabled)
-{
-}
+{}
 
 MvBorderConfig MvBorderConfig::createFromXML(const QDomElement &element)
 {

@@ -8,8 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
+namespace {
 /// Rasterising works in 1/64 of a pixel; a pixel nearer than this to a shape may be touched by it.
 constexpr double rasterGuard = 1.0 / 32.0;
 

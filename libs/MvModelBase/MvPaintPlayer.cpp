@@ -6,8 +6,7 @@
 
 using namespace MvPaintShape;
 
-namespace
-{
+namespace {
 /// The rectangle that a path of five elements goes round, as QPainterPath::addRect() makes it.
 std::optional<QRectF> rectOf(const QPainterPath &path)
 {
@@ -40,8 +39,7 @@ MvPaintPlayer::MvPaintPlayer(QPainter &painter, const MvPaintRecordingData &reco
     , m_recording(recording)
     , m_base(painter.worldMatrixEnabled() ? painter.worldTransform() : QTransform())
     , m_baseOpacity(painter.opacity())
-{
-}
+{}
 
 void MvPaintPlayer::play()
 {

@@ -15,8 +15,7 @@ class MvPaintRecorderEngine : public QPaintEngine
 public:
     MvPaintRecorderEngine()
         : QPaintEngine(AllFeatures)
-    {
-    }
+    {}
 
     const MvPaintRecordingData *data() const { return m_data.constData(); }
 
@@ -199,14 +198,12 @@ void MvPaintRecorderEngine::addOutlines(const QPainter &painter, const QList<MvP
 
 MvPaintRecorder::MvPaintRecorder(const QPainter &target)
     : MvPaintRecorder(target.device())
-{
-}
+{}
 
 MvPaintRecorder::MvPaintRecorder(const QPaintDevice *target)
     : m_metrics(metricsOf(target))
     , m_engine(std::make_unique<MvPaintRecorderEngine>())
-{
-}
+{}
 
 MvPaintRecorder::~MvPaintRecorder() = default;
 

@@ -38,7 +38,8 @@ protected:
     int metric(PaintDeviceMetric metric) const override;
 
 private:
-    struct Metrics {
+    struct Metrics
+    {
         int width = 1;
         int height = 1;
         int widthMM = 1;

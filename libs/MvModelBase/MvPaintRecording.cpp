@@ -10,8 +10,7 @@
 using namespace Qt::StringLiterals;
 using namespace MvPaintShape;
 
-namespace
-{
+namespace {
 using Item = MvPaintRecording::Item;
 
 template <class Rect>
@@ -258,13 +257,11 @@ QString describeItem(const Item &item)
 
 MvPaintRecording::MvPaintRecording()
     : d(new MvPaintRecordingData)
-{
-}
+{}
 
 MvPaintRecording::MvPaintRecording(const MvPaintRecordingData *data)
     : d(data)
-{
-}
+{}
 
 MvPaintRecording::MvPaintRecording(const MvPaintRecording &) = default;
 MvPaintRecording &MvPaintRecording::operator=(const MvPaintRecording &) = default;

@@ -22,7 +22,8 @@ class MVMODELBASE_EXPORT MvPaintRecording
 {
 public:
     /// One recorded shape in page coordinates: those of the recorder, with every recorded transform applied.
-    struct Item {
+    struct Item
+    {
         enum Kind { Line, Rect, Ellipse, Point, Polygon, Path, Image, Text };
 
         Kind kind = Path;

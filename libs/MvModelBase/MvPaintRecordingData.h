@@ -21,13 +21,15 @@
 #include <vector>
 
 /// One clip operation; a clip in force is the chain from here to the root, intersected.
-struct MvPaintClip {
+struct MvPaintClip
+{
     std::shared_ptr<const MvPaintClip> parent;
     std::variant<QRegion, QPainterPath> shape; // in the coordinates of the transform
     QTransform transform;
 };
 
-struct MvPaintState {
+struct MvPaintState
+{
     QPen pen;
     QBrush brush;
     QPointF brushOrigin;
@@ -44,55 +46,65 @@ struct MvPaintState {
 };
 
 /// The shapes a painter can be asked for. Whole-number forms are kept apart, since targets round them differently.
-namespace MvPaintShape
-{
+namespace MvPaintShape {
 template <class Line>
-struct Lines {
+struct Lines
+{
     QList<Line> lines;
 };
 template <class Rect>
-struct Rects {
+struct Rects
+{
     QList<Rect> rects;
 };
 template <class Rect>
-struct Ellipse {
+struct Ellipse
+{
     Rect rect;
 };
 template <class Point>
-struct Points {
+struct Points
+{
     QList<Point> points;
 };
 template <class Polygon>
-struct Poly {
+struct Poly
+{
     Polygon polygon;
     QPaintEngine::PolygonDrawMode drawMode;
 };
-struct Path {
+struct Path
+{
     QPainterPath path;
 };
-struct Image {
+struct Image
+{
     QImage image;
     QRectF target;
     QRectF source;
     Qt::ImageConversionFlags flags;
 };
-struct Bitmap {
+struct Bitmap
+{
     QPixmap pixmap; // one bit deep: drawn in the colour of the pen
     QRectF target;
     QRectF source;
 };
-struct Tiles {
+struct Tiles
+{
     QPixmap pixmap;
     QRectF target;
     QPointF offset;
 };
-struct Outlines {
+struct Outlines
+{
     QList<MvPlacedOutline> lines;
     QColor color;
 };
 } // namespace MvPaintShape
 
-struct MvPaintOperation {
+struct MvPaintOperation
+{
     using Shape = std::variant<MvPaintShape::Lines<QLine>, MvPaintShape::Lines<QLineF>, MvPaintShape::Rects<QRect>,
                                MvPaintShape::Rects<QRectF>, MvPaintShape::Ellipse<QRect>, MvPaintShape::Ellipse<QRectF>,
                                MvPaintShape::Points<QPoint>, MvPaintShape::Points<QPointF>,
@@ -103,7 +115,8 @@ struct MvPaintOperation {
     size_t state = 0; // index into the recording's states
 };
 
-struct MvPaintRecordingData : QSharedData {
+struct MvPaintRecordingData : QSharedData
+{
     std::vector<MvPaintState> states;
     std::vector<MvPaintOperation> operations;
 };

@@ -3,5 +3,4 @@
 MvProjectIdentifier::MvProjectIdentifier(const QString &projectID, bool isTemporary)
     : m_projectID(projectID)
     , m_isTemporary(isTemporary)
-{
-}
+{}

@@ -19,8 +19,7 @@ public:
     MvRenderingRule() = default;
     explicit MvRenderingRule(unsigned flags)
         : m_flags(flags & allFlags)
-    {
-    }
+    {}
 
     /// The rule that a painter carries.
     static MvRenderingRule decodeFrom(const QPainter &painter);

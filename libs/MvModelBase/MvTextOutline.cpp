@@ -8,7 +8,8 @@
 
 #include <algorithm>
 
-struct MvTextOutlineImpl : MvSharedData {
+struct MvTextOutlineImpl : MvSharedData
+{
     QFont font;
     QString text;
     QPainterPath path;
@@ -17,8 +18,7 @@ struct MvTextOutlineImpl : MvSharedData {
     QList<MvTextOutline::Group> groups;
 };
 
-namespace
-{
+namespace {
 using Group = MvTextOutline::Group;
 
 QList<Group> subPaths(const QPainterPath &path)
@@ -106,13 +106,11 @@ QPainterPath shaped(const QFont &font, const QString &text)
 
 MvTextOutline::MvTextOutline()
     : d(new MvTextOutlineImpl)
-{
-}
+{}
 
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text)
     : MvTextOutline(font, text, shaped(font, text), QFontMetricsF(font).horizontalAdvance(text))
-{
-}
+{}
 
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text, const QPainterPath &path, double advance)
     : d(new MvTextOutlineImpl)

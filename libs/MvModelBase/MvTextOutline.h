@@ -17,7 +17,8 @@ class MVMODELBASE_EXPORT MvTextOutline
 {
 public:
     /// Sub-paths of the outline that overlap in x, usually one glyph. Two groups share no x.
-    struct Group {
+    struct Group
+    {
         QPainterPath path;
         double left = 0.0;
         double right = 0.0;
@@ -62,7 +63,8 @@ private:
 };
 
 /// A line of text with the place of its baseline's start.
-struct MvPlacedOutline {
+struct MvPlacedOutline
+{
     QPointF baseline;
     MvTextOutline outline;
 

@@ -7,15 +7,13 @@
 
 template class MvSingleton<MvTextOutlineCache>;
 
-namespace
-{
+namespace {
 constexpr int entryCost = 16; // of an entry besides its elements, so that blank texts are bounded too
 }
 
 MvTextOutlineCache::MvTextOutlineCache(int maximumElements)
     : m_outlines(std::max(0, maximumElements))
-{
-}
+{}
 
 void MvTextOutlineCache::setupInstance()
 {

@@ -40,7 +40,8 @@ public:
     void setupInstance() override;
 
 private:
-    struct Key {
+    struct Key
+    {
         QFont font;
         int dpi; // 0 for a font in pixels
         QString text;

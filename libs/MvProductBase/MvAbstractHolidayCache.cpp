@@ -2,7 +2,6 @@
 
 MvAbstractHolidayCache::MvAbstractHolidayCache(QObject *parent)
     : QObject(parent)
-{
-}
+{}
 
 MvAbstractHolidayCache::~MvAbstractHolidayCache() = default;

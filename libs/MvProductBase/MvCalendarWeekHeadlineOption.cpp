@@ -4,8 +4,7 @@
 
 MvCalendarWeekHeadlineOption::MvCalendarWeekHeadlineOption(const QString &pattern)
     : m_pattern(pattern)
-{
-}
+{}
 
 QString MvCalendarWeekHeadlineOption::textInProduct(const MvLocale &language) const
 {

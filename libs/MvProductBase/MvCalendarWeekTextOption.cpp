@@ -4,8 +4,7 @@
 
 MvCalendarWeekTextOption::MvCalendarWeekTextOption(const QString &pattern)
     : m_pattern(pattern)
-{
-}
+{}
 
 QString MvCalendarWeekTextOption::textInProduct(const MvLocale &language) const
 {

@@ -8,8 +8,7 @@ template class MvSingleton<MvCalendarWordsRegistry>;
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 QString withoutDot(QString name)
 {

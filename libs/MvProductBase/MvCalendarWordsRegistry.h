@@ -37,12 +37,14 @@ public:
     QString weekText(const MvLocale &language) const;
 
 private:
-    struct WeekWords {
+    struct WeekWords
+    {
         QString shortWord;
         QString headline;
         QString text;
     };
-    struct Names {
+    struct Names
+    {
         QString shortDays[7];
         QString longDays[7];
         QString shortMonths[12];

@@ -4,8 +4,7 @@ MvCalendariumContentConfig::MvCalendariumContentConfig(const QDate &date,
                                                        const MvCalendariumHolidayConfig &holidayConfig)
     : m_date(date)
     , m_holidayConfig(holidayConfig)
-{
-}
+{}
 
 MvCalendariumContentConfig MvCalendariumContentConfig::moveToDay(const QDate &date) const
 {

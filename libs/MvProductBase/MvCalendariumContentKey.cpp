@@ -4,8 +4,7 @@ MvCalendariumContentKey::MvCalendariumContentKey(const MvCalendariumContentConfi
                                                  const MvProjectIdentifier &project)
     : m_config(config)
     , m_project(project)
-{
-}
+{}
 
 size_t qHash(const MvCalendariumContentKey &key, size_t seed)
 {

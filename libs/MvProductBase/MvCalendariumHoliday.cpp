@@ -5,5 +5,4 @@ MvCalendariumHoliday::MvCalendariumHoliday(const MvCalendariumHolidayType &type,
     : m_type(type)
     , m_date(date)
     , m_description(description)
-{
-}
+{}

@@ -3,8 +3,7 @@
 MvCalendariumHolidayCacheKey::MvCalendariumHolidayCacheKey(int year, const MvCalendariumHolidayConfig &config)
     : m_year(year)
     , m_config(config)
-{
-}
+{}
 
 MvCalendariumHolidayCacheKey::~MvCalendariumHolidayCacheKey() = default;
 

@@ -2,16 +2,14 @@
 
 MvCalendariumHolidayConfig::MvCalendariumHolidayConfig()
     : m_language(QStringLiteral("de"), QStringLiteral("DE"))
-{
-}
+{}
 
 MvCalendariumHolidayConfig::MvCalendariumHolidayConfig(const MvLocale &language, const QString &province,
                                                        const MvCalendariumFeatures &features)
     : m_language(language)
     , m_province(province)
     , m_features(features)
-{
-}
+{}
 
 bool MvCalendariumHolidayConfig::hasFeatures(const MvCalendariumFeatures &features) const
 {

@@ -6,5 +6,4 @@ MvCalendariumHolidayConfigDefault::MvCalendariumHolidayConfigDefault()
     : m_config(
           MvLocale(QStringLiteral("de_DE")), QStringLiteral("NW"),
           MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS | FEATURE_ENTRIES | FEATURE_CALENDAR_WEEKS))
-{
-}
+{}

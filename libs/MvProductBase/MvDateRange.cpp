@@ -3,8 +3,7 @@
 MvDateRange::MvDateRange(const QDate &start, const QDate &end)
     : m_start(start)
     , m_end(end)
-{
-}
+{}
 
 MvDateRange MvDateRange::monthOf(const QDate &day)
 {

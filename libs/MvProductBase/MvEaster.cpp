@@ -1,7 +1,6 @@
 #include "MvProductBase/MvEaster.h"
 
-namespace
-{
+namespace {
 
 constexpr int firstGregorianYear = 1583;
 

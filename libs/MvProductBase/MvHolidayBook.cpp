@@ -8,8 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 // by the plain letters of the name: "Österreich" stands between "Niederlande" and "Polen"
 QString sortKey(const QString &name)

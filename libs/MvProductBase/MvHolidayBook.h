@@ -38,7 +38,8 @@ public:
     QDate vacationsKnownUntil(const MvLocale &locale, const QString &region) const;
 
 private:
-    struct Country {
+    struct Country
+    {
         std::shared_ptr<const MvHolidayTable> holidays;
         MvSchoolVacationTable ownVacations;                     // the user's
         std::shared_ptr<const MvSchoolVacationTable> vacations; // with the shipped ones; null until asked for

@@ -3,8 +3,7 @@
 #include "MvProductBase/MvEaster.h"
 #include "MvProductBase/MvHolidayRuleParser.h"
 
-namespace
-{
+namespace {
 
 QDate numberedWeekday(int year, int month, int weekday, int number)
 {

@@ -24,7 +24,8 @@ private:
     friend class MvHolidayRuleParser;
 
     enum class AnchorKind { Fixed, SingleDate, Easter, Orthodox, WeekdayOfMonth };
-    struct Anchor {
+    struct Anchor
+    {
         AnchorKind kind = AnchorKind::Fixed;
         int year = 0; // of a single date
         int month = 0;
@@ -36,7 +37,8 @@ private:
     };
 
     enum class StepKind { Shift, Next, Previous, From, UpTo, Only, Not };
-    struct Step {
+    struct Step
+    {
         StepKind kind = StepKind::Shift;
         int days = 0;        // of a shift
         quint8 weekdays = 0; // bit n: weekday n

@@ -4,8 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int longestShift = 366; // a rule is asked for its year and both neighbours, so no date is moved out of reach
 
@@ -13,8 +12,7 @@ constexpr int longestShift = 366; // a rule is asked for its year and both neigh
 
 MvHolidayRuleParser::MvHolidayRuleParser(const QString &text)
     : m_words(text.simplified().split(u' ', Qt::SkipEmptyParts))
-{
-}
+{}
 
 std::optional<MvHolidayRule> MvHolidayRuleParser::parse()
 {

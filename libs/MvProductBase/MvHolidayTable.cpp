@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-namespace
-{
+namespace {
 
 bool haveCommon(const QStringList &a, const QStringList &b)
 {

@@ -15,7 +15,8 @@
 class MVPRODUCTBASE_EXPORT MvHolidayTable
 {
 public:
-    struct Region {
+    struct Region
+    {
         QString code; // "BY"
         QString name; // in German
         QString parent;
@@ -23,7 +24,8 @@ public:
         QString localName; // in that language
     };
 
-    struct Entry {
+    struct Entry
+    {
         QString name;                  // in the language of the country
         QHash<QString, QString> names; // in other languages, by language code
         MvCalendariumHolidayType type;

@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int longestVacation = 400; // days; more than any, and a limit to what a wrong year costs
 
@@ -28,8 +27,7 @@ QStringList words(const QDomElement &element, const QString &attribute)
 
 MvHolidayTableReader::MvHolidayTableReader(const QFileInfo &file)
     : m_file(file)
-{
-}
+{}
 
 void MvHolidayTableReader::complain(const QDomElement &element, const QString &message)
 {

@@ -20,7 +20,8 @@ class MVPRODUCTBASE_EXPORT MvHolidayTableReader
     Q_DECLARE_TR_FUNCTIONS(MvHolidayTableReader)
 
 public:
-    struct Country {
+    struct Country
+    {
         QString code;
         QString name; // in German
         QStringList languages;

@@ -6,7 +6,8 @@
 #include <QString>
 
 /// An image file and its size in pixels, known without reading the image. Default: no image.
-struct MVPRODUCTBASE_EXPORT MvImageReference {
+struct MVPRODUCTBASE_EXPORT MvImageReference
+{
     QString path;
     QSize size;
 

@@ -6,8 +6,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 using Kind = MvSVGCompilerInstructions::Kind;
 

@@ -13,7 +13,8 @@ class MVPRODUCTBASE_EXPORT MvSVGCompilerInstructions
 {
 public:
     enum class Kind { Literal, Date, Month, Year, Week, Holidays, Entries };
-    struct Instruction {
+    struct Instruction
+    {
         Kind kind = Kind::Literal;
         QString text; // of a literal
 

@@ -4,8 +4,7 @@ template class MvSingleton<MvSVGCompilerInstructionsCache>;
 
 MvSVGCompilerInstructionsCache::MvSVGCompilerInstructionsCache()
     : m_cache(4 * 1024 * 1024)
-{
-}
+{}
 
 MvSVGCompilerInstructions MvSVGCompilerInstructionsCache::instructions(const QString &text)
 {

@@ -7,8 +7,7 @@ template class MvSingleton<MvSVGCompilerInstructionsFactory>;
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 using Kind = MvSVGCompilerInstructions::Kind;
 

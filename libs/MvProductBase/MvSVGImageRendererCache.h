@@ -29,7 +29,8 @@ public:
     int count() const { return static_cast<int>(m_cache.count()); }
 
 private:
-    struct Key {
+    struct Key
+    {
         QByteArray svg;
         MvCalendariumContentKey content;
 

@@ -12,7 +12,8 @@
 class MVPRODUCTBASE_EXPORT MvSchoolVacationTable
 {
 public:
-    struct Vacation {
+    struct Vacation
+    {
         QString name;
         QDate start; // both included
         QDate end;

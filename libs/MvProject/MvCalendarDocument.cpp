@@ -14,8 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int monthsPerYear = 12;
 
@@ -37,8 +36,7 @@ MvCalendarDocument::MvCalendarDocument()
     : m_holidayConfig(MvCalendariumHolidayConfigDefault::instance().defaultConfig())
     , m_range(MvDateRange::createDefaultCalendarDateRange())
     , m_format(a4Landscape())
-{
-}
+{}
 
 bool MvCalendarDocument::isValid() const
 {

@@ -5,7 +5,8 @@
 #include <QString>
 
 /// What became of an export. Every file named is complete; a file that could not be written is as it was before.
-struct MvExportResult {
+struct MvExportResult
+{
     QString error; // for a person; empty when everything was written
     QList<QFileInfo> files;
 

@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// The placeholder's text; a null string for an unknown one.
 QString replacement(QChar letter, const QDate &month, int page)

@@ -19,8 +19,7 @@ class MVPROJECT_EXPORT MvFileNamePattern
 public:
     explicit MvFileNamePattern(const QString &path)
         : m_path(path)
-    {
-    }
+    {}
 
     /// The name of one page's file, counted from 0. An unknown placeholder stays as it stands.
     QString path(const QDate &month, int page) const;

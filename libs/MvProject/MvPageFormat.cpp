@@ -7,8 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr double minimumSide = 200.0;
 constexpr double maximumSide = 30000.0;

@@ -15,8 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// Paints all pages with the lower left corner of the media box at that of the PDF page, which is up to a point larger.
 QString paintRawFile(QTemporaryFile &file, const MvPageSource &source)

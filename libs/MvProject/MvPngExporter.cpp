@@ -17,8 +17,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 constexpr int maximumPixels = 32000; // the raster engine counts in 16 bits
 

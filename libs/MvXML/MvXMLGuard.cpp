@@ -5,8 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// Walks over the raw text and knows what it stands in: text, tag, comment, character data or instruction.
 class RawScan
@@ -14,8 +13,7 @@ class RawScan
 public:
     explicit RawScan(QByteArrayView text)
         : m_text(text)
-    {
-    }
+    {}
 
     MvXMLLoader::Error run()
     {

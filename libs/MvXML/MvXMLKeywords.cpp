@@ -18,10 +18,10 @@ struct AlignmentWord
 const QList<AlignmentWord> &alignmentWords()
 {
     static const QList<AlignmentWord> words = {
-        {u"AlignCenter"_s, Qt::AlignCenter},   {u"AlignLeft"_s, Qt::AlignLeft},
-        {u"AlignRight"_s, Qt::AlignRight},     {u"AlignHCenter"_s, Qt::AlignHCenter},
-        {u"AlignJustify"_s, Qt::AlignJustify}, {u"AlignTop"_s, Qt::AlignTop},
-        {u"AlignBottom"_s, Qt::AlignBottom},   {u"AlignVCenter"_s, Qt::AlignVCenter},
+        {u"AlignCenter"_s, Qt::AlignCenter},     {u"AlignLeft"_s, Qt::AlignLeft},
+        {u"AlignRight"_s, Qt::AlignRight},       {u"AlignHCenter"_s, Qt::AlignHCenter},
+        {u"AlignJustify"_s, Qt::AlignJustify},   {u"AlignTop"_s, Qt::AlignTop},
+        {u"AlignBottom"_s, Qt::AlignBottom},     {u"AlignVCenter"_s, Qt::AlignVCenter},
         {u"AlignBaseline"_s, Qt::AlignBaseline},
     };
     return words;

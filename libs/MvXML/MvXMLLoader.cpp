@@ -11,8 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// Opens a regular file without waiting: a pipe nobody writes to must not stop the program.
 bool openRegular(const QFileInfo &file, QFile &device, MvXMLLoader::Error &error)

@@ -19,7 +19,8 @@ class MVXML_EXPORT MvXMLLoader
 
 public:
     /// What went wrong, for a person: empty message means nothing did. Line and column count from 1, 0 when unknown.
-    struct Error {
+    struct Error
+    {
         QString message;
         int line = 0;
         int column = 0;

@@ -35,8 +35,8 @@ QString MvPageFixture::defaultCells()
     return u"<cell type='%1' textalign='AlignLeft|AlignTop' bordertype='CALENDAR_BORDER_LEFT, CALENDAR_BORDER_TOP' "
            "paddingleft='10' paddingtop='10' paddingright='10' paddingbottom='10'>"
            "<font family='%3' pointsize='18'/></cell>"
-           "<cell type='%2' textalign='AlignLeft|AlignTop'><font family='%3' pointsize='9'/></cell>"_s
-        .arg(numbers, heads, MvBoxFont::family());
+           "<cell type='%2' textalign='AlignLeft|AlignTop'><font family='%3' pointsize='9'/></cell>"_s.arg(
+               numbers, heads, MvBoxFont::family());
 }
 
 MvCalendariumContentConfig MvPageFixture::content(const QDate &month, int features)
@@ -51,7 +51,9 @@ MvPageFixture::MvPageFixture(const MvCalendariumAppearance &appearance, const QD
     const MvDateRange year(QDate(month.year(), 1, 1), QDate(month.year(), 12, 31));
     m_renderer->setCalendarInformation(content(month, features), year);
     QObject::connect(m_renderer.get(), &MvCalendariumRenderer::rectForDateFound,
-                     [this](const QDate &date, const QRectF &rect) { days.append({date, rect}); });
+                     [this](const QDate &date, const QRectF &rect) {
+                         days.append({date, rect});
+                     });
     QObject::connect(m_renderer.get(), &MvCalendariumRenderer::rectForDatesRestart, [this] {
         days.clear();
         ++restarts;

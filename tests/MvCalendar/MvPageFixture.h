@@ -25,7 +25,8 @@ public:
     /// One pass, in page units.
     MvPaintRecording render(const QRectF &rect, unsigned renderingRule = 0);
 
-    struct Day {
+    struct Day
+    {
         QDate date;
         QRectF rect;
     };

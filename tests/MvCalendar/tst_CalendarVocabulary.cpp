@@ -150,12 +150,12 @@ void tst_CalendarVocabulary::expandsToInvisibleCells_data()
     QTest::addColumn<int>("visible");
     QTest::addColumn<int>("expanded");
     const int all = MvCalendarCellType::allTypes().toInt();
-    const int onTheirOwn = CALENDAR_CELL_TYPE_SPECIAL_DAY | CALENDAR_CELL_TYPE_COMMENT | CALENDAR_CELL_TYPE_EMPTY
-        | CALENDAR_CELL_TYPE_EXTRA_INFORMATION;
+    const int onTheirOwn = CALENDAR_CELL_TYPE_SPECIAL_DAY | CALENDAR_CELL_TYPE_COMMENT | CALENDAR_CELL_TYPE_EMPTY |
+                           CALENDAR_CELL_TYPE_EXTRA_INFORMATION;
     QTest::newRow("a weekday brings nearly all") << int(CALENDAR_CELL_TYPE_WEEKDAY) << 0 << (all & ~onTheirOwn);
     QTest::newRow("Sunday alone") << int(CALENDAR_CELL_TYPE_SUNDAY) << 0
-                                  << (CALENDAR_CELL_TYPE_SUNDAY | CALENDAR_CELL_TYPE_HEAD_SUNDAY
-                                      | CALENDAR_CELL_TYPE_HOLIDAY | CALENDAR_CELL_TYPE_HEAD_HOLIDAY);
+                                  << (CALENDAR_CELL_TYPE_SUNDAY | CALENDAR_CELL_TYPE_HEAD_SUNDAY |
+                                      CALENDAR_CELL_TYPE_HOLIDAY | CALENDAR_CELL_TYPE_HEAD_HOLIDAY);
     QTest::newRow("visible types stay out and trigger nothing")
         << int(CALENDAR_CELL_TYPE_SUNDAY) << int(CALENDAR_CELL_TYPE_HEAD_SUNDAY)
         << (CALENDAR_CELL_TYPE_SUNDAY | CALENDAR_CELL_TYPE_HOLIDAY);
@@ -247,13 +247,14 @@ void tst_CalendarVocabulary::ordersKeys()
     QVERIFY(key(2, 4, 2) < key(1, 8, 1)); // type first
     QVERIFY(key(1, 8, 2) < key(2, 8, 1)); // then role
     QVERIFY(key(1, 8, 1) < key(1, 8, 2)); // then parity
-    QVERIFY(MvCalendarCellKey(MvCalendarCellType(4), MvParityLogic(2))
-            < MvCalendarCellKey(MvCalendarCellType(8), MvParityLogic(1)));
+    QVERIFY(MvCalendarCellKey(MvCalendarCellType(4), MvParityLogic(2)) <
+            MvCalendarCellKey(MvCalendarCellType(8), MvParityLogic(1)));
 }
 
 void tst_CalendarVocabulary::expandingGoesThroughTheVirtualForm()
 {
-    struct Counting : MvCalendarCellType {
+    struct Counting : MvCalendarCellType
+    {
         using MvCalendarCellType::expandTo;
         void expandTo(MvCalendarCellTypeEnum other) override
         {

@@ -44,8 +44,8 @@ MvCalendariumColorSchema writtenAndRead(const MvCalendariumColorSchema &original
     return MvCalendariumColorSchema(read);
 }
 
-// What a text of the type may stand on: its own ground; without one the page's, which is that of empty cells, and for the
-// name of a weekday in a list that of its day.
+// What a text of the type may stand on: its own ground; without one the page's, which is that of empty cells, and for
+// the name of a weekday in a list that of its day.
 QList<QColor> groundsOf(const MvCalendariumColorSchema &schema, const MvCalendarCellType &type,
                         const MvParityLogic &parity)
 {
@@ -105,8 +105,8 @@ void tst_ColorSchema::readsCells_data()
     QTest::newRow("two attributes")
         << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcoloreven='#80ff0000' textcolorodd='blue'/>"_s << 8
         << u"#80ff0000"_s << u"#ff0000ff"_s;
-    QTest::newRow("defaults of the schema") << defaults << int(CALENDAR_CELL_TYPE_MONTH) << u"#ff102030"_s
-                                            << u"#ff405060"_s;
+    QTest::newRow("defaults of the schema")
+        << defaults << int(CALENDAR_CELL_TYPE_MONTH) << u"#ff102030"_s << u"#ff405060"_s;
     QTest::newRow("missing role takes the schema's default")
         << defaults + u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/>"_s << 8 << u"#ffff0000"_s
         << u"#ff405060"_s;
@@ -143,8 +143,8 @@ void tst_ColorSchema::grid_data()
     const QString border = u"<border enabled='%1' color='#112233' width='3'/>"_s;
     const QString cell = u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' %1/>"_s;
     QTest::newRow("border") << QString() << border.arg(u"true"_s) << true << u"#ff112233"_s;
-    QTest::newRow("a disabled border is the default one") << QString() << border.arg(u"false"_s) << false
-                                                          << u"#ff000000"_s;
+    QTest::newRow("a disabled border is the default one")
+        << QString() << border.arg(u"false"_s) << false << u"#ff000000"_s;
     QTest::newRow("nothing") << QString() << QString() << false << u"#ff000000"_s;
     QTest::newRow("old colour") << u"gridcolor='#aabbcc'"_s << QString() << true << u"#ffaabbcc"_s;
     QTest::newRow("old transparent colour") << u"gridcolor='transparent'"_s << QString() << false << u"#00000000"_s;
@@ -152,8 +152,8 @@ void tst_ColorSchema::grid_data()
         << u"gridcolor='#aabbcc' userGridVisible='false'"_s << QString() << false << u"#ffaabbcc"_s;
     QTest::newRow("recoloured by the user")
         << u"gridcolor='#aabbcc' userGridColor='#010203'"_s << QString() << true << u"#ff010203"_s;
-    QTest::newRow("guessed from the cells") << QString() << cell.arg(u"bordercolor='#445566'"_s) << true
-                                            << u"#ff445566"_s;
+    QTest::newRow("guessed from the cells")
+        << QString() << cell.arg(u"bordercolor='#445566'"_s) << true << u"#ff445566"_s;
     QTest::newRow("chromatic backgrounds never had a grid")
         << u"gridcolor='#aabbcc'"_s << cell.arg(u"bgcolor='#ff0000'"_s) << false << u"#ff000000"_s;
 }
@@ -329,8 +329,8 @@ void tst_ColorSchema::shippedSchemata()
         const MvCalendariumColorSchema shipped = registry.findSchema(id);
         QVERIFY(writtenAndRead(shipped) == shipped);
         for (const MvCalendarCellType &type : MvCalendarCellType::allTypes().singleTypes()) {
-            const bool isLarge = type == CALENDAR_CELL_TYPE_TITLE || type == CALENDAR_CELL_TYPE_MONTH
-                || type == CALENDAR_CELL_TYPE_YEAR;
+            const bool isLarge =
+                type == CALENDAR_CELL_TYPE_TITLE || type == CALENDAR_CELL_TYPE_MONTH || type == CALENDAR_CELL_TYPE_YEAR;
             for (const MvParityLogicEnum parity : {even, odd}) {
                 for (const QColor &ground : groundsOf(shipped, type, parity)) {
                     MvCalendariumColorCellInfo cell;

@@ -204,11 +204,11 @@ void tst_LayoutAndAppearance::fontSize_data()
     QTest::addColumn<int>("pixels");
     // 20 points are 20 * 200 / 72 = 55.56 pixels at 200 dpi
     QTest::newRow("layout size") << 0 << 0 << 6 << 56;
-    QTest::newRow("larger") << 20 << 0 << 6 << 67;           // 24 points
+    QTest::newRow("larger") << 20 << 0 << 6 << 67;              // 24 points
     QTest::newRow("points are truncated") << 4 << 0 << 6 << 56; // 20.8 points count as 20
-    QTest::newRow("half") << -50 << 0 << 6 << 28;            // 10 points
+    QTest::newRow("half") << -50 << 0 << 6 << 28;               // 10 points
     QTest::newRow("two paper classes up") << 0 << 512 << 6 << 112;
-    QTest::newRow("smallest size") << -95 << 0 << 6 << 21;   // 6 points are 21.2 pixels at 254 dpi
+    QTest::newRow("smallest size") << -95 << 0 << 6 << 21; // 6 points are 21.2 pixels at 254 dpi
     QTest::newRow("never nothing") << -100 << 0 << 0 << 1;
 }
 
@@ -231,9 +231,9 @@ void tst_LayoutAndAppearance::unknownFontWordsTakeDefaults()
     QCOMPARE(unknown.weight(), QFont::Normal);
     QCOMPARE(unknown.capitalization(), QFont::MixedCase);
     QCOMPARE(unknown.letterSpacing(), 0.0);
-    const MvCalendariumFontSettings known(element(
-        u"<e font='X' font-weight='Bold' font-capitalization='SmallCaps' font-letter-spacing='2' "
-        "fontsize_percentage='50'/>"_s));
+    const MvCalendariumFontSettings known(
+        element(u"<e font='X' font-weight='Bold' font-capitalization='SmallCaps' font-letter-spacing='2' "
+                "fontsize_percentage='50'/>"_s));
     QFont base(u"Lato"_s, 10);
     base.setWeight(QFont::Light);
     const QFont font = known.font(base, MAGNITUDE_A4, MAGNITUDE_NONE, 6);
@@ -274,9 +274,8 @@ void tst_LayoutAndAppearance::appearanceRoundTrip()
 void tst_LayoutAndAppearance::defaultsAreNotWritten()
 {
     const QDomElement root = written(MvCalendariumAppearance());
-    for (const QString &absent :
-         {u"offsetmonth"_s, u"extrainformation"_s, u"font-capitalization"_s, u"font-weight"_s,
-          u"font-letter-spacing"_s})
+    for (const QString &absent : {u"offsetmonth"_s, u"extrainformation"_s, u"font-capitalization"_s, u"font-weight"_s,
+                                  u"font-letter-spacing"_s})
         QVERIFY2(!root.hasAttribute(absent), qPrintable(absent));
     QCOMPARE(root.attribute(u"fontsize_percentage"_s), u"0"_s);
     QCOMPARE(root.attribute(u"fontsize_percentage_holiddays"_s), u"-50"_s);
@@ -291,7 +290,9 @@ void tst_LayoutAndAppearance::layoutsBringTheirPaperSize()
 {
     const MvCalendariumLayoutSchemaID planner(u"YEAR_PLANNER"_s); // is made for A2
     const MvCalendariumLayoutSchemaID grid(u"MONTH_GRID_CLASSIC"_s);
-    const auto sizeOf = [](const MvCalendariumAppearance &appearance) { return appearance.optimizedSize().encodeCSV(); };
+    const auto sizeOf = [](const MvCalendariumAppearance &appearance) {
+        return appearance.optimizedSize().encodeCSV();
+    };
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(planner);
     QCOMPARE(sizeOf(appearance), u"a2"_s);
@@ -368,8 +369,8 @@ void tst_LayoutAndAppearance::borders()
     QFETCH(QString, cell);
     QFETCH(bool, grid);
     MvCalendariumAppearance appearance;
-    appearance.setLayoutSchema(layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' %1/>"_s.arg(cell),
-                                      u"layoutschema='L' type='%1'"_s.arg(type)));
+    appearance.setLayoutSchema(
+        layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' %1/>"_s.arg(cell), u"layoutschema='L' type='%1'"_s.arg(type)));
     MvBorderConfig config;
     config.setIsEnabled(grid);
     appearance.setGridConfig(config);

@@ -12,8 +12,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-namespace
-{
+namespace {
 
 /// A platform layer that has contacts and remembers what it was told.
 class TestPlatform : public MvPlatformIndependent
@@ -21,8 +20,7 @@ class TestPlatform : public MvPlatformIndependent
 public:
     explicit TestPlatform(QStringList *written)
         : m_written(written)
-    {
-    }
+    {}
 
     void fileWritten(const QFileInfo &file) override
     {

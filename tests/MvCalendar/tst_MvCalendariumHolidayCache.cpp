@@ -9,8 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 MvCalendariumHolidayConfig bavaria(int features = FEATURE_HOLIDAYS | FEATURE_ENTRIES)
 {

@@ -154,12 +154,12 @@ void tst_MvCalendariumRenderer::cellTypes_data()
     QTest::newRow("its colour alone") << QDate(2027, 1, 6) << 2 << weekday << holiday;
     QTest::newRow("switched off") << QDate(2027, 1, 6) << 0 << weekday << weekday;
     QTest::newRow("Labour Day on a Saturday") << QDate(2027, 5, 1) << 3 << holiday << holiday;
-    QTest::newRow("the same switched off") << QDate(2027, 5, 1) << 0 << int(CALENDAR_CELL_TYPE_SATURDAY)
-                                           << int(CALENDAR_CELL_TYPE_SATURDAY);
+    QTest::newRow("the same switched off")
+        << QDate(2027, 5, 1) << 0 << int(CALENDAR_CELL_TYPE_SATURDAY) << int(CALENDAR_CELL_TYPE_SATURDAY);
     QTest::newRow("vacation") << QDate(2027, 8, 10) << 8 << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
                               << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION);
-    QTest::newRow("Saturday in the vacation") << QDate(2027, 8, 14) << 11 << int(CALENDAR_CELL_TYPE_SATURDAY)
-                                              << int(CALENDAR_CELL_TYPE_SATURDAY);
+    QTest::newRow("Saturday in the vacation")
+        << QDate(2027, 8, 14) << 11 << int(CALENDAR_CELL_TYPE_SATURDAY) << int(CALENDAR_CELL_TYPE_SATURDAY);
     QTest::newRow("a named day is no holiday") << QDate(2027, 12, 24) << 3 << weekday << weekday;
 }
 
@@ -172,7 +172,8 @@ void tst_MvCalendariumRenderer::cellTypes()
     QTEST(content.inscriptionConfig().toInt(), "inscription");
     QTEST(content.colorConfig().toInt(), "color");
     // heads decide alike
-    const bool headIsHoliday = page.renderer().headCellTypeConfig(date).colorConfig() == CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
+    const bool headIsHoliday =
+        page.renderer().headCellTypeConfig(date).colorConfig() == CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
     QCOMPARE(headIsHoliday, content.colorConfig() == CALENDAR_CELL_TYPE_HOLIDAY);
 }
 
@@ -320,8 +321,8 @@ void tst_MvCalendariumRenderer::placesTextsAsFontMetricsDo_data()
 {
     QTest::addColumn<QFont>("font");
     QTest::addColumn<int>("flags");
-    for (const int flags : {int(Qt::AlignLeft | Qt::AlignTop), int(Qt::AlignCenter), int(Qt::AlignRight | Qt::AlignBottom),
-                            int(Qt::AlignHCenter | Qt::AlignBottom), 0}) {
+    for (const int flags : {int(Qt::AlignLeft | Qt::AlignTop), int(Qt::AlignCenter),
+                            int(Qt::AlignRight | Qt::AlignBottom), int(Qt::AlignHCenter | Qt::AlignBottom), 0}) {
         QTest::addRow("boxes %x", flags) << MvBoxFont::font(37) << flags;
         QFont lato(u"Lato"_s);
         lato.setPixelSize(31);
@@ -348,12 +349,11 @@ void tst_MvCalendariumRenderer::textBlocks_data()
     QTest::addColumn<int>("flags");
     QTest::addColumn<QList<QPointF>>("baselines");
     // 20 pixels: ascent 16, descent 4; "abcd" is 40 wide, "ab" 20
-    QTest::newRow("top, centred") << int(Qt::AlignTop | Qt::AlignHCenter)
-                                  << QList<QPointF>{{80.25, 116}, {90.25, 136}};
+    QTest::newRow("top, centred") << int(Qt::AlignTop | Qt::AlignHCenter) << QList<QPointF>{{80.25, 116}, {90.25, 136}};
     QTest::newRow("bottom, centred") << int(Qt::AlignBottom | Qt::AlignHCenter)
                                      << QList<QPointF>{{80.25, 176}, {90.25, 196}};
-    QTest::newRow("left: lines are still centred on the widest") << int(Qt::AlignTop | Qt::AlignLeft)
-                                                                 << QList<QPointF>{{50.25, 116}, {60.25, 136}};
+    QTest::newRow("left: lines are still centred on the widest")
+        << int(Qt::AlignTop | Qt::AlignLeft) << QList<QPointF>{{50.25, 116}, {60.25, 136}};
 }
 
 void tst_MvCalendariumRenderer::textBlocks()
@@ -468,8 +468,8 @@ void tst_MvCalendariumRenderer::passKeepsTheClip()
 
 void tst_MvCalendariumRenderer::translucentBackgrounds()
 {
-    MvCalendariumAppearance appearance = MvPageFixture::appearance({}, MvPageFixture::defaultCells(),
-                                                                   u"CALENDAR_MONTH_ONLY"_s);
+    MvCalendariumAppearance appearance =
+        MvPageFixture::appearance({}, MvPageFixture::defaultCells(), u"CALENDAR_MONTH_ONLY"_s);
     appearance.setCellColor(QColor(10, 20, 30, 128),
                             {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_MONTH, MvParityLogicEnum::both});
     MvPageFixture page(appearance, QDate(2027, 2, 1));
@@ -583,8 +583,8 @@ void tst_MvCalendariumRenderer::photoInAWideCell()
     QImage photo(100, 100, QImage::Format_RGB32);
     photo.fill(Qt::darkBlue);
     QVERIFY(photo.save(file));
-    MvCalendarEventRegistry::instance().setEvents({entry(u"Eva"_s, QDate(1990, 2, 11), file),
-                                                   entry(u"Adam"_s, QDate(1991, 2, 11))});
+    MvCalendarEventRegistry::instance().setEvents(
+        {entry(u"Eva"_s, QDate(1990, 2, 11), file), entry(u"Adam"_s, QDate(1991, 2, 11))});
     MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
     page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
     MvPaintRecorder recorder(nullptr);

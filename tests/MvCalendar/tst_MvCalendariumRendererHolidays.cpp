@@ -9,8 +9,7 @@ using namespace Qt::StringLiterals;
 
 using Item = MvPaintRecording::Item;
 
-namespace
-{
+namespace {
 
 MvCalendariumAppearance block()
 {

@@ -176,8 +176,8 @@ void tst_MvCalendariumRendererOneColumnPerWeek::printsWeeksHeadsAndDays()
 void tst_MvCalendariumRendererOneColumnPerWeek::weeksWithoutNumbersKeepTheirCell()
 {
     MvCalendariumAppearance appearance = columns(plain + u", calendar_render_week_of_year"_s);
-    appearance.setCellColor(Qt::magenta, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_WEEK_OF_YEAR,
-                                          MvParityLogicEnum::both});
+    appearance.setCellColor(
+        Qt::magenta, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_WEEK_OF_YEAR, MvParityLogicEnum::both});
     MvPageFixture page(appearance, QDate(2027, 2, 1), 0); // the layout's own wish does not count
     const MvPaintRecording recording = page.render({0, 0, 2800, 1400});
     QCOMPARE(textsOf(recording).size(), 28);
@@ -204,8 +204,8 @@ void tst_MvCalendariumRendererOneColumnPerWeek::weekdaysInFront()
     MvPageFixture page(columns(inFront), QDate(2027, 2, 1), FEATURE_CALENDAR_WEEKS);
     const QRectF rect(100, 50, 2800, 1400);
     const MvPaintRecording recording = page.render(rect);
-    QCOMPARE(textsOf(recording).mid(0, 10), (QStringList{u"Mo"_s, u"Di"_s, u"Mi"_s, u"Do"_s, u"Fr"_s, u"Sa"_s, u"So"_s,
-                                                         u"5"_s, u"01"_s, u"02"_s}));
+    QCOMPARE(textsOf(recording).mid(0, 10),
+             (QStringList{u"Mo"_s, u"Di"_s, u"Mi"_s, u"Do"_s, u"Fr"_s, u"Sa"_s, u"So"_s, u"5"_s, u"01"_s, u"02"_s}));
     const QList<Item> texts = recording.items(Item::Text);
     const double front = weeks(page).widthOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, QDate(2027, 2, 1));
     QCOMPARE(texts.at(0).baseline.x(), 100.0);
@@ -251,13 +251,14 @@ void tst_MvCalendariumRendererOneColumnPerWeek::minimumSizes()
     MvPageFixture days(columns(plain), february);
     QCOMPARE(days.renderer().minimumSizeHint(), QSize(int(6 * dayMaximum), int(plannedHeight)));
     MvPageFixture beside(columns(heads), february);
-    QCOMPARE(beside.renderer().minimumSizeHint(), QSize(int(6 * (dayMaximum + headMaximum)), 8 * 32 + 6)); // heads' rows
+    QCOMPARE(beside.renderer().minimumSizeHint(),
+             QSize(int(6 * (dayMaximum + headMaximum)), 8 * 32 + 6)); // heads' rows
     MvPageFixture front(columns(inFront), february);
     QCOMPARE(front.renderer().minimumSizeHint(), QSize(int(headMaximum + 6 * 32.75), 8 * 32 + 6));
 
-    const QString wideWeeks = MvPageFixture::defaultCells()
-        + u"<cell type='CALENDAR_CELL_TYPE_WEEK_OF_YEAR' paddingleft='30' paddingright='40'>"
-          "<font family='MvBox' pointsize='9'/></cell>"_s;
+    const QString wideWeeks = MvPageFixture::defaultCells() +
+                              u"<cell type='CALENDAR_CELL_TYPE_WEEK_OF_YEAR' paddingleft='30' paddingright='40'>"
+                              "<font family='MvBox' pointsize='9'/></cell>"_s;
     MvPageFixture padded(MvPageFixture::appearance(plain, wideWeeks, u"CALENDAR_ONE_COLUMN_PER_WEEK"_s), february);
     QCOMPARE(weeks(padded).minimumWidth(), 6 * (32.75 + 70) + 6 * 70.0); // paddings count once more
 }

@@ -11,8 +11,7 @@ using namespace Qt::StringLiterals;
 
 using Item = MvPaintRecording::Item;
 
-namespace
-{
+namespace {
 
 const QString dayListType = u"CALENDAR_ONE_DAY_PER_ROW"_s;
 const QString days = u"calendar_render_days"_s;

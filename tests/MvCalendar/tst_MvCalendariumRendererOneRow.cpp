@@ -55,7 +55,7 @@ void tst_MvCalendariumRendererOneRow::sharesTheHeight_data()
     QTest::addColumn<double>("headHeight");
     // planned: title and heads 25 * 1.27 + 1 = 32.75 each, numbers 84.5
     QTest::newRow("numbers alone") << QString() << 0.0 << 0.0;
-    QTest::newRow("heads") << heads << 0.0 << 83.0;                       // 300 / 117.25 * 32.75 = 83.79
+    QTest::newRow("heads") << heads << 0.0 << 83.0; // 300 / 117.25 * 32.75 = 83.79
     QTest::newRow("title") << title << 83.0 << 0.0;
     QTest::newRow("title and heads") << title + u", "_s + heads << 65.0 << 65.0; // 300 / 150 * 32.75 = 65.5
 }
@@ -127,10 +127,10 @@ void tst_MvCalendariumRendererOneRow::printsTitleHeadsAndNumbers()
 void tst_MvCalendariumRendererOneRow::headsFollowTheirDays()
 {
     MvCalendariumAppearance appearance = strip(heads);
-    appearance.setCellColor(Qt::magenta, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_HEAD_HOLIDAY,
-                                          MvParityLogicEnum::both});
-    appearance.setCellColor(Qt::cyan, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_HEAD_WEEKDAY,
-                                       MvParityLogicEnum::even});
+    appearance.setCellColor(
+        Qt::magenta, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_HEAD_HOLIDAY, MvParityLogicEnum::both});
+    appearance.setCellColor(
+        Qt::cyan, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, MvParityLogicEnum::even});
     const QRectF rect(0, 0, 3100, 300);
     const auto areaOf = [&](int features, const QColor &color) {
         MvPageFixture page(appearance, QDate(2027, 5, 1), features);

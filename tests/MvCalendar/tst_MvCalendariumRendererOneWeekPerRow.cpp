@@ -49,8 +49,8 @@ void tst_MvCalendariumRendererOneWeekPerRow::sharesTheHeight_data()
     QTest::newRow("rows alone") << rowsAlone << 0.0 << 0.0 << 100.0;
     QTest::newRow("title") << rowsAlone + u", calendar_render_title"_s << 36.0 << 0.0 << 94.0;
     const double scale = 600.0 / (32.75 * 2 + 84.5 * 6);
-    QTest::newRow("title and heads") << rowsAlone + u", calendar_render_title, calendar_render_days_of_week"_s
-                                     << 34.0 << 600.0 - 34.0 - 6 * 84.5 * scale << 84.5 * scale;
+    QTest::newRow("title and heads") << rowsAlone + u", calendar_render_title, calendar_render_days_of_week"_s << 34.0
+                                     << 600.0 - 34.0 - 6 * 84.5 * scale << 84.5 * scale;
 }
 
 void tst_MvCalendariumRendererOneWeekPerRow::sharesTheHeight()

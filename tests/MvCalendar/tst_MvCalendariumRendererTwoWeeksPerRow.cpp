@@ -140,12 +140,12 @@ void tst_MvCalendariumRendererTwoWeeksPerRow::printsTitleAndShortHeads()
 void tst_MvCalendariumRendererTwoWeeksPerRow::neighbouringMonthsAreEmpty()
 {
     MvCalendariumAppearance appearance = twoWeeks(QString());
-    appearance.setCellColor(Qt::magenta, {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_EMPTY,
-                                          MvParityLogicEnum::both});
+    appearance.setCellColor(Qt::magenta,
+                            {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_EMPTY, MvParityLogicEnum::both});
     MvPageFixture page(appearance, QDate(2027, 4, 1), 1 | 2 | 4 | 8); // followed by Labour Day
     const MvPaintRecording recording = page.render({0, 0, 2800, 900});
-    const QPointF before(100, 150);      // 29 March, Easter Monday
-    const QPointF labourDay(1100, 750);  // 1 May
+    const QPointF before(100, 150);     // 29 March, Easter Monday
+    const QPointF labourDay(1100, 750); // 1 May
     const QPointF afterNext(2700, 750);
     for (const QPointF &point : {before, labourDay, afterNext}) {
         QCOMPARE(fillAt(recording.items(), point), QColor(Qt::magenta).name());

@@ -15,8 +15,7 @@ using namespace Qt::StringLiterals;
 
 using Item = MvPaintRecording::Item;
 
-namespace
-{
+namespace {
 
 const QString gridInfo = u"calendar_render_title, calendar_render_year_long, calendar_render_month_long, "
                          "calendar_render_week_of_year, calendar_render_days_of_week, "

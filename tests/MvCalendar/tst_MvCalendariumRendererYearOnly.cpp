@@ -8,8 +8,7 @@ using namespace Qt::StringLiterals;
 
 using Item = MvPaintRecording::Item;
 
-namespace
-{
+namespace {
 
 MvCalendariumAppearance yearCell(int renderInfo)
 {

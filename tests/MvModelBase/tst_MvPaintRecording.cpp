@@ -16,8 +16,7 @@
 using Painting = std::function<void(QPainter &)>;
 Q_DECLARE_METATYPE(Painting)
 
-namespace
-{
+namespace {
 constexpr auto hintsOfTarget = QPainter::Antialiasing | QPainter::SmoothPixmapTransform;
 
 QImage canvas(double pixelRatio = 1.0)
@@ -422,11 +421,11 @@ void tst_MvPaintRecording::keepsHints()
         painter.setRenderHints(screen);
         painter.fillRect(QRectF(0, 0, 1, 1), Qt::red);
     });
-    struct Probe : QPaintEngine {
+    struct Probe : QPaintEngine
+    {
         Probe()
             : QPaintEngine(AllFeatures)
-        {
-        }
+        {}
         bool begin(QPaintDevice *) override { return true; }
         bool end() override { return true; }
         Type type() const override { return User; }
@@ -436,7 +435,8 @@ void tst_MvPaintRecording::keepsHints()
         QPainter::RenderHints hints;
         QPainter::RenderHints seen;
     };
-    struct Device : QPaintDevice {
+    struct Device : QPaintDevice
+    {
         QPaintEngine *paintEngine() const override { return &probe; }
         int metric(PaintDeviceMetric) const override { return 1; }
         mutable Probe probe;

@@ -12,8 +12,7 @@
 #include <thread>
 #include <vector>
 
-namespace
-{
+namespace {
 QFont lato(int pixels)
 {
     QFont font(u"Lato"_qs);

@@ -8,8 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 const QByteArray regions = R"xml(
   <region code="N" name="Norden" localName="Nord" language="xx"/>

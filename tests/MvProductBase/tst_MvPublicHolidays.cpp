@@ -6,13 +6,13 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 enum class Side { OnlyHere, OnlyThere };
 
 /// Where this calculator and the independent source differ, and why that is right.
-struct Difference {
+struct Difference
+{
     const char *places; // "CC-region", several separated by blanks
     const char *name;   // as the side that has it calls it
     Side side;

@@ -10,8 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// Tells of one day only.
 class OneDay : public MvAbstractHolidayCache
@@ -21,8 +20,7 @@ public:
         : m_day(day)
         , m_isHoliday(isHoliday)
         , m_texts(texts)
-    {
-    }
+    {}
 
     bool hasHolidayOfType(const MvCalendariumContentKey &key, const MvCalendariumHolidayType &type) override
     {

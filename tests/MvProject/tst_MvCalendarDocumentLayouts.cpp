@@ -11,8 +11,7 @@ using namespace Qt::StringLiterals;
 
 using Item = MvPaintRecording::Item;
 
-namespace
-{
+namespace {
 
 MvCalendarDocument document(const QString &layout)
 {

@@ -20,8 +20,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace
-{
+namespace {
 
 /// Files of this process cannot grow beyond a size while it lives, as on a full disk.
 class FullDisk

@@ -45,7 +45,8 @@ private Q_SLOTS:
     void brokenOutput();
 
 private:
-    struct Call {
+    struct Call
+    {
         int exitCode = -1;
         QByteArray out;
         QByteArray err;
@@ -62,8 +63,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_folder; // the program's working directory
 };
 
-namespace
-{
+namespace {
 
 QByteArray entriesFile(const QByteArray &name, const QByteArray &date)
 {
@@ -440,8 +440,8 @@ void tst_mvcalendar::leapDayEntries()
 void tst_mvcalendar::reportsTextsWithoutRoom()
 {
     write(path(u"e.xml"_s), entriesFile("Donaudampfschifffahrtsgesellschaftsjubiläum", "1956-03-10"));
-    const QStringList arguments{u"render"_s, u"--from"_s, u"2027-02"_s, u"--months"_s, u"2"_s, u"--page"_s, u"A5"_s,
-                                u"--entries"_s, u"e.xml"_s, u"-o"_s, u"k.pdf"_s};
+    const QStringList arguments{u"render"_s, u"--from"_s,    u"2027-02"_s, u"--months"_s, u"2"_s,    u"--page"_s,
+                                u"A5"_s,     u"--entries"_s, u"e.xml"_s,   u"-o"_s,       u"k.pdf"_s};
     const Call silent = run(arguments);
     QVERIFY2(silent.err.contains("10.3.2027"), silent.err.constData());
     QCOMPARE(silent.out, QByteArray("k.pdf\n"));

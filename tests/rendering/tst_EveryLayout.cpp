@@ -96,8 +96,8 @@ QString clipped(const QList<Item> &texts, const QRectF &target, const QList<MvUn
 {
     const QRectF allowed = target.adjusted(-tolerance, -tolerance, tolerance, tolerance);
     for (const Item &text : texts) {
-        const bool isWhole = text.clip.isNull()
-            || text.clip.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(text.bounds);
+        const bool isWhole = text.clip.isNull() ||
+                             text.clip.adjusted(-tolerance, -tolerance, tolerance, tolerance).contains(text.bounds);
         const bool isReported = std::any_of(unfitting.cbegin(), unfitting.cend(), [&text](const MvUnfittingText &u) {
             return u.rect.intersects(text.bounds);
         });
@@ -144,8 +144,7 @@ void tst_EveryLayout::prints()
     QFETCH(bool, hasLongNames);
     QFETCH(QString, language);
     MvCalendarEventRegistry::instance().setEvents(hasLongNames ? longNames() : shortNames());
-    const auto schema =
-        MvCalendariumLayoutSchemaRegistry::instance().findSchema(MvCalendariumLayoutSchemaID(layout));
+    const auto schema = MvCalendariumLayoutSchemaRegistry::instance().findSchema(MvCalendariumLayoutSchemaID(layout));
     const bool isOfYears = schema.calendariumType().hasAnyOf(MvCalendariumType(CALENDAR_YEAR | CALENDAR_YEAR_ONLY));
     // 2026 has week 53, 2027 a February of four weeks and months of six, 2028 a leap day
     const QDate end(2028, 4, 1);
