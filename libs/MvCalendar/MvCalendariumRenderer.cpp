@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCalendar/MvHtmlTableSkeleton.h"
 #include "MvCore/MvMath.h"
 #include "MvModelBase/MvPaintRecorder.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
@@ -523,24 +524,17 @@ QPair<QStringList, QStringList> MvCalendariumRenderer::splitHolidays(const QStri
 
 QString MvCalendariumRenderer::tableSkeleton(int spacing, int padding) const
 {
-    return u"<table width=\"100%\" height=\"100%\" cellpadding=\"%1\" cellspacing=\"%2\">%3</table>"_s.arg(
-        QString::number(padding), QString::number(spacing), u"%3"_s);
+    return MvHtmlTableSkeleton::table(spacing, padding);
 }
 
 QString MvCalendariumRenderer::rowSkeleton()
 {
-    return u"<tr>%1</tr"_s; // without the last bracket, as ever
+    return MvHtmlTableSkeleton::row();
 }
 
 QString MvCalendariumRenderer::cellSkeleton(int rowSpan, int colSpan, const QColor &color, const QString &width) const
 {
-    const auto attribute = [](bool isSet, const QString &pattern, const QString &value) {
-        return isSet ? pattern.arg(value) : QString();
-    };
-    return u"<td %1 %2 %3 %4 >%5</td>"_s.arg(attribute(rowSpan > 1, u"rowspan=\"%1\""_s, QString::number(rowSpan)),
-                                             attribute(colSpan > 1, u"colspan=\"%1\""_s, QString::number(colSpan)),
-                                             attribute(color.isValid(), u"bgcolor=\"%1\""_s, color.name()),
-                                             attribute(!width.isEmpty(), u"width=\"%1\""_s, width), u"%5"_s);
+    return MvHtmlTableSkeleton::cell(rowSpan, colSpan, color, width);
 }
 
 // ---- colours of a cell
