@@ -4,7 +4,10 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumPreviewParameters.h"
 #include "MvCore/MvInitializer.h"
+#include "MvProductBase/MvCalendariumContentConfig.h"
+#include "MvProductBase/MvDateRange.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
 
@@ -68,6 +71,7 @@ private Q_SLOTS:
     void options();
     void knowsWhetherDaysAreShown();
     void copyOnWrite();
+    void previewParameters();
 };
 
 void tst_LayoutAndAppearance::cellDefaults()
@@ -432,6 +436,21 @@ void tst_LayoutAndAppearance::copyOnWrite()
     copy.setShowHolidays(false);
     QVERIFY(copy != original);
     QVERIFY(original.showHolidays());
+}
+
+void tst_LayoutAndAppearance::previewParameters()
+{
+    const MvCalendariumPreviewParameters parameters = MvCalendariumPreviewParameters::createDefault();
+    QCOMPARE(parameters.calendariumContent().date(), parameters.calendarRange().start());
+    QCOMPARE(parameters.calendarRange().monthCount(), 12);
+    QVERIFY(parameters.calendariumContent().hasFeatures(FEATURE_HOLIDAYS));
+    QVERIFY(parameters != MvCalendariumPreviewParameters()); // whose holidays are all off
+    MvCalendariumPreviewParameters copy = parameters;
+    QVERIFY(copy == parameters);
+    MvCalendariumAppearance appearance;
+    appearance.setOffsetMonth(1);
+    copy.setAppearance(appearance);
+    QVERIFY(copy != parameters);
 }
 
 MV_TEST_MAIN(tst_LayoutAndAppearance)
