@@ -3,7 +3,9 @@
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvXML/MvXMLKeywords.h"
+#include "MvXML/MvXMLLoader.h"
 
+#include <QDebug>
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -109,5 +111,14 @@ QDomElement MvXMLBuilder::buildFont(QDomElement &parent, const QFont &font)
 
 bool MvXMLBuilder::saveUTF8(const QDomDocument &document, const QFileInfo &file)
 {
-    return QDir().mkpath(file.absolutePath()) && MvSafeFileWriter::write(file, document.toByteArray(2)).isOk();
+    if (!QDir().mkpath(file.absolutePath()))
+        return false;
+    MvXMLLoader::Error error;
+    if (QFileInfo::exists(file.filePath()) && MvXMLLoader::loadDocument(file, &error).isNull()) {
+        const QString aside = MvSafeFileWriter::setAside(file);
+        if (aside.isEmpty())
+            return false; // better an unsaved change than a lost file
+        qWarning().noquote() << u"%1, set aside as %2"_s.arg(error.describe(file), aside);
+    }
+    return MvSafeFileWriter::write(file, document.toByteArray(2)).isOk();
 }

@@ -34,6 +34,6 @@ public:
     static QDomElement buildFont(QDomElement &parent, const QFont &font);
 
     /// Saves the document as UTF-8, indented by 2, through the safe file writer; says whether it is in place. A missing
-    /// folder is made.
+    /// folder is made. A file in the place that cannot be read is set aside under a dated name first, with a warning.
     static bool saveUTF8(const QDomDocument &document, const QFileInfo &file);
 };
