@@ -1,5 +1,6 @@
 #include "MvCalendar/MvYearPlannerPainter.h"
 
+#include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumRendererYear.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
 
@@ -7,14 +8,13 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int daysPerWeek = 7;
-constexpr double readableContrast = 4.5;
+constexpr double readableContrast = 4.5; // WCAG 2.1, level AA
 constexpr double gapBeneathNumber = 0.2; // in heights of a line
 constexpr double leastTextWidth = 2.5;   // in heights of a line; less than that shows ellipses only
 
@@ -40,24 +40,13 @@ MvCalendarCellType headOf(const MvCalendarCellType &content)
     }
 }
 
-double luminance(const QColor &color)
+/// Whether the text reads well on the background, on white paper where that is translucent.
+bool isReadable(const QColor &text, const QColor &background)
 {
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-/// The ratio of contrast of a text to a background, on white paper where that is translucent: 1 to 21.
-double contrast(const QColor &text, const QColor &background)
-{
-    const auto onPaper = [alpha = background.isValid() ? background.alphaF() : 0.0F](float value) {
-        return value * alpha + 1.0F - alpha;
-    };
-    const double ground = luminance(
-        QColor::fromRgbF(onPaper(background.redF()), onPaper(background.greenF()), onPaper(background.blueF())));
-    const auto [darker, lighter] = std::minmax(ground, luminance(text));
-    return (lighter + 0.05) / (darker + 0.05);
+    MvCalendariumColorCellInfo cell;
+    cell.setFontColor(text, true);
+    cell.setBackgroundColor(background, true);
+    return cell.cellContrast(Qt::white, true) >= readableContrast;
 }
 
 } // namespace
@@ -164,11 +153,11 @@ void MvYearPlannerPainter::paintWeek(const QRectF &part, const MvCalendarCellTyp
 {
     const MvCalendarCellType type = CALENDAR_CELL_TYPE_WEEK_OF_YEAR;
     const QColor background = m_renderer.backgroundColor(config, even);
-    const bool isReadable = contrast(m_renderer.fontColor(same(type), even), background) >= readableContrast;
+    const bool hasOwnColor = isReadable(m_renderer.fontColor(same(type), even), background);
     const double lift = style(config.inscriptionConfig()).baseline;
     const Style &week = style(type);
     m_renderer.drawCellText(m_painter, part.translated(0.0, lift - week.baseline),
-                            {type, isReadable ? type : config.colorConfig()}, m_renderer.calendarWeekText(date),
+                            {type, hasOwnColor ? type : config.colorConfig()}, m_renderer.calendarWeekText(date),
                             week.flags, even);
 }
 
