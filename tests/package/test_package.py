@@ -40,7 +40,7 @@ class Package(unittest.TestCase):
 
     def test_cmake(self):
         build = self.work / "cmake"
-        run(options.cmake, "-S", CLIENT, "-B", build, f"-DCMAKE_PREFIX_PATH={self.prefix}",
+        run(options.cmake, "-G", "Ninja", "-S", CLIENT, "-B", build, f"-DCMAKE_PREFIX_PATH={self.prefix}",
             f"-DCMAKE_CXX_COMPILER={options.compiler}", f"-DCMAKE_CXX_FLAGS={options.flags}")
         run(options.cmake, "--build", build)
         self.assert_runs(build / "client")
