@@ -1,0 +1,43 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/mvcalendar_export.h"
+
+#include "MvCore/MvUndoCommand.h"
+
+#include <functional>
+
+class QGraphicsObject;
+
+/// Changes a personal entry in the active list of MvCalendarEventRegistry: an invalid entry before adds one, an
+/// invalid entry after removes one. Without a difference the command is obsolete from the start.
+///
+/// It belongs to the list that is active when it is done; whoever makes another list the active one clears the undo
+/// stack.
+class MVCALENDAR_EXPORT MvUndoCommandCalendarEvent : public MvUndoCommand
+{
+public:
+    /// Repaints one canvas item, or does nothing when the item is gone.
+    using Repaint = std::function<void()>;
+    /// Makes the repaint of an item. It is to notice when the item is deleted: commands outlive items.
+    using RepaintMaker = std::function<Repaint(QGraphicsObject *)>;
+
+    /// The item, if any, is repainted after each change; it is not owned.
+    MvUndoCommandCalendarEvent(const MvCalendarEvent &before, const MvCalendarEvent &after, QGraphicsObject *item);
+    ~MvUndoCommandCalendarEvent() override;
+
+    void doCoreAction() override;
+    void undoCore() override;
+
+    /// Changes the registry's entry and, if that made a difference, repaints the item.
+    void change(const MvCalendarEvent &from, const MvCalendarEvent &to);
+
+    /// This library works without a canvas and cannot repaint items itself: a program that has one tells how, once.
+    /// Commands made without it repaint nothing.
+    static void setRepaintMaker(const RepaintMaker &maker);
+
+private:
+    Repaint m_repaint;
+    MvCalendarEvent m_before;
+    MvCalendarEvent m_after;
+};

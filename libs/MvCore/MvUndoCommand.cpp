@@ -1,0 +1,19 @@
+#include "MvCore/MvUndoCommand.h"
+
+MvUndoCommand::MvUndoCommand(const QString &text, QUndoCommand *parent)
+    : QUndoCommand(text, parent)
+{}
+
+MvUndoCommand::~MvUndoCommand() = default;
+
+void MvUndoCommand::redo()
+{
+    doCoreAction();
+    QUndoCommand::redo(); // the children
+}
+
+void MvUndoCommand::undo()
+{
+    QUndoCommand::undo();
+    undoCore();
+}

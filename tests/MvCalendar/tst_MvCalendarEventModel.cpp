@@ -1,0 +1,426 @@
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventModel.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvUndoController.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+namespace {
+
+MvCalendarEvent entry(const QString &name, const QDate &date, bool recurrent = true)
+{
+    return MvCalendarEvent(name, date.startOfDay(), recurrent, MvFoto(), QUuid::createUuid(), QDateTime());
+}
+
+QString described(const MvCalendarEvent &event)
+{
+    return u"%1 %2%3"_qs.arg(event.dateTime().toString(u"yyyy-MM-dd"), event.description(),
+                             event.storedRecurrent() ? QString() : u" once"_qs);
+}
+
+QStringList described(const MvCalendarEventList &events)
+{
+    QStringList lines;
+    for (const MvCalendarEvent &event : events)
+        lines.append(described(event));
+    lines.sort();
+    return lines;
+}
+
+QString names(const MvCalendarEventModel &model)
+{
+    QStringList names;
+    for (int row = 0; row < model.rowCount(); ++row)
+        names.append(model.index(row, MvCalendarEventModel::NameColumn).data().toString());
+    return names.join(u' ');
+}
+
+/// Gives indexes beyond the rows, too.
+class TestModel : public MvCalendarEventModel
+{
+public:
+    QModelIndex anyIndex(int row, int column) const { return createIndex(row, column); }
+};
+
+/// Bends the two habits of the model that Qt's tester takes no table with: rows below cells, and pictures to display.
+class TestableModel : public MvCalendarEventModel
+{
+public:
+    int rowCount(const QModelIndex &parent = {}) const override
+    {
+        return parent.isValid() ? 0 : MvCalendarEventModel::rowCount(parent);
+    }
+    QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override
+    {
+        const QVariant value = MvCalendarEventModel::data(index, role);
+        return value.metaType() == QMetaType::fromType<QImage>() ? QVariant() : value;
+    }
+};
+
+const MvCalendarEventList &threeEntries()
+{
+    static const MvCalendarEventList entries{entry(u"Xaver"_qs, QDate(1950, 12, 31)),
+                                             entry(u"Anna"_qs, QDate(2004, 2, 29)),
+                                             entry(u"Moritz"_qs, QDate(1999, 3, 1), false)};
+    return entries;
+}
+
+} // namespace
+
+class tst_MvCalendarEventModel : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void mirrorsTheRegistry();
+    void cells_data();
+    void cells();
+    void headers_data();
+    void headers();
+    void edits_data();
+    void edits();
+    void editsFotos();
+    void movedEntriesKeepTheirEdits();
+    void sorts_data();
+    void sorts();
+    void sortsSharedDays();
+    void sortByFotoBeginsAResetOnly();
+    void removesRows_data();
+    void removesRows();
+    void removesRowsOfIndexes();
+    void removalWaitsForSave();
+    void modelTester();
+
+private:
+    static MvCalendarEventRegistry &registry() { return MvCalendarEventRegistry::instance(); }
+    static MvUndoController &undo() { return MvUndoController::instance(); }
+    static QStringList onDisk() { return described(MvCalendarEventRegistry().activeEventList()); }
+    static QStringList allThree()
+    {
+        return {u"1950-12-31 Xaver"_qs, u"1999-03-01 Moritz once"_qs, u"2004-02-29 Anna"_qs};
+    }
+};
+
+void tst_MvCalendarEventModel::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    undo().clear();
+    registry().setEvents(threeEntries());
+}
+
+void tst_MvCalendarEventModel::mirrorsTheRegistry()
+{
+    MvCalendarEventModel model;
+    QCOMPARE(model.rowCount(), 0);
+    QSignalSpy spy(&model, &QAbstractItemModel::modelReset);
+    model.load();
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(names(model), u"Anna Moritz Xaver"_qs); // by month and day, whatever the year
+    registry().setEvents({entry(u"Neu"_qs, QDate(2026, 7, 1))});
+    QCOMPARE(spy.count(), 2);
+    QCOMPARE(names(model), u"Neu"_qs);
+    QCOMPARE(model.rowCount(model.index(0, 0)), 1); // whatever the parent
+    QCOMPARE(model.columnCount(model.index(0, 0)), 4);
+    QCOMPARE(model.flags(model.index(0, MvCalendarEventModel::NameColumn)), Qt::NoItemFlags);
+}
+
+void tst_MvCalendarEventModel::cells_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QVariant>("value");
+    const QVariant anna = QVariant::fromValue(threeEntries().at(1));
+    const QVariant none = QVariant::fromValue(MvCalendarEvent());
+    QTest::newRow("no photo") << 0 << 0 << int(Qt::DisplayRole) << QVariant(QImage());
+    QTest::newRow("path of no photo") << 0 << 0 << int(Qt::EditRole) << QVariant(QString());
+    QTest::newRow("date") << 0 << 1 << int(Qt::DisplayRole) << QVariant(QDate(2004, 2, 29));
+    QTest::newRow("date to edit") << 0 << 1 << int(Qt::EditRole) << QVariant(QDate(2004, 2, 29));
+    QTest::newRow("name") << 0 << 2 << int(Qt::DisplayRole) << QVariant(u"Anna"_qs);
+    QTest::newRow("name to edit") << 0 << 2 << int(Qt::EditRole) << QVariant(u"Anna"_qs);
+    QTest::newRow("entry") << 0 << 3 << int(Qt::DisplayRole) << anna;
+    QTest::newRow("entry to edit") << 0 << 3 << int(Qt::EditRole) << anna;
+    QTest::newRow("user role of the photo") << 0 << 0 << int(Qt::UserRole) << anna;
+    QTest::newRow("user role of the entry") << 0 << 3 << int(Qt::UserRole) << anna;
+    QTest::newRow("tool tip of the name") << 0 << 2 << int(Qt::ToolTipRole) << QVariant(u"Anna"_qs);
+    QTest::newRow("tool tip of the date") << 0 << 1 << int(Qt::ToolTipRole) << QVariant();
+    QTest::newRow("another role") << 0 << 2 << int(Qt::DecorationRole) << QVariant();
+    QTest::newRow("another column") << 0 << 4 << int(Qt::DisplayRole) << QVariant();
+    QTest::newRow("photo beyond the rows") << 3 << 0 << int(Qt::DisplayRole) << QVariant();
+    QTest::newRow("path beyond the rows") << 3 << 0 << int(Qt::EditRole) << QVariant();
+    QTest::newRow("date beyond the rows") << 3 << 1 << int(Qt::DisplayRole) << QVariant(QDate());
+    QTest::newRow("name beyond the rows") << 3 << 2 << int(Qt::DisplayRole) << QVariant(QString());
+    QTest::newRow("entry beyond the rows") << 3 << 3 << int(Qt::UserRole) << none;
+    QTest::newRow("entry before the rows") << -2 << 3 << int(Qt::UserRole) << none;
+}
+
+void tst_MvCalendarEventModel::cells()
+{
+    QFETCH(const int, row);
+    QFETCH(const int, column);
+    QFETCH(const int, role);
+    TestModel model;
+    model.load();
+    const QVariant found = model.data(model.anyIndex(row, column), role);
+    QTEST(found, "value");
+    if (found.metaType() == QMetaType::fromType<MvCalendarEvent>())
+        QCOMPARE(found.value<MvCalendarEvent>().uuid(), model.calendarEvent(model.anyIndex(row, 0)).uuid());
+}
+
+void tst_MvCalendarEventModel::headers_data()
+{
+    QTest::addColumn<int>("section");
+    QTest::addColumn<Qt::Orientation>("orientation");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("photo") << 0 << Qt::Horizontal << int(Qt::DisplayRole) << QVariant(u"Foto"_qs);
+    QTest::newRow("date") << 1 << Qt::Horizontal << int(Qt::DisplayRole) << QVariant(u"Datum"_qs);
+    QTest::newRow("name") << 2 << Qt::Horizontal << int(Qt::DisplayRole) << QVariant(u"Name"_qs);
+    QTest::newRow("entry") << 3 << Qt::Horizontal << int(Qt::DisplayRole) << QVariant();
+    QTest::newRow("row") << 7 << Qt::Vertical << int(Qt::DisplayRole) << QVariant(u"     "_qs);
+    QTest::newRow("tool tip") << 2 << Qt::Horizontal << int(Qt::ToolTipRole) << QVariant();
+}
+
+void tst_MvCalendarEventModel::headers()
+{
+    QFETCH(const int, section);
+    QFETCH(const Qt::Orientation, orientation);
+    QFETCH(const int, role);
+    QTEST(MvCalendarEventModel().headerData(section, orientation, role), "value");
+}
+
+void tst_MvCalendarEventModel::edits_data()
+{
+    // of the row of Moritz; an empty result stands for no change
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<int>("role");
+    QTest::addColumn<QStringList>("result");
+    const QString anna = u"2004-02-29 Anna"_qs;
+    const QString xaver = u"1950-12-31 Xaver"_qs;
+    const int edit = Qt::EditRole;
+    QTest::newRow("name") << 1 << 2 << QVariant(u"Max"_qs) << edit
+                          << QStringList{xaver, u"1999-03-01 Max once"_qs, anna};
+    QTest::newRow("the same name") << 1 << 2 << QVariant(u"Moritz"_qs) << edit << QStringList();
+    QTest::newRow("no name removes") << 1 << 2 << QVariant(QString()) << edit << QStringList{xaver, anna};
+    QTest::newRow("no name in the last row")
+        << 2 << 2 << QVariant(QString()) << edit << QStringList{u"1999-03-01 Moritz once"_qs, anna};
+    QTest::newRow("date") << 1 << 1 << QVariant(QDate(1999, 1, 2)) << edit
+                          << QStringList{xaver, u"1999-01-02 Moritz once"_qs, anna};
+    QTest::newRow("the same date") << 1 << 1 << QVariant(QDate(1999, 3, 1)) << edit << QStringList();
+    QTest::newRow("no date") << 1 << 1 << QVariant(u"morgen"_qs) << edit << QStringList();
+    QTest::newRow("an empty date") << 1 << 1 << QVariant(QDate()) << edit << QStringList();
+    QTest::newRow("an entry makes it recurrent") << 1 << 3 << QVariant::fromValue(threeEntries().at(2)) << edit
+                                                 << QStringList{xaver, u"1999-03-01 Moritz"_qs, anna};
+    QTest::newRow("recurrent already") << 0 << 3 << QVariant::fromValue(threeEntries().at(2)) << edit << QStringList();
+    QTest::newRow("no photo as before") << 1 << 0 << QVariant(QString()) << edit << QStringList();
+    QTest::newRow("another role") << 1 << 2 << QVariant(u"Max"_qs) << int(Qt::DisplayRole) << QStringList();
+    QTest::newRow("another column") << 1 << 4 << QVariant(u"Max"_qs) << edit << QStringList();
+    QTest::newRow("beyond the rows") << 3 << 2 << QVariant(u"Max"_qs) << edit << QStringList();
+    QTest::newRow("before the rows") << -1 << 2 << QVariant(u"Max"_qs) << edit << QStringList();
+}
+
+void tst_MvCalendarEventModel::edits()
+{
+    QFETCH(const int, row);
+    QFETCH(const int, column);
+    QFETCH(const QVariant, value);
+    QFETCH(const int, role);
+    QFETCH(const QStringList, result);
+    const bool isChange = !result.isEmpty();
+    TestModel model;
+    model.load();
+
+    QCOMPARE(model.setData(model.anyIndex(row, column), value, role), isChange);
+    QCOMPARE(undo().stack()->count(), int(isChange));
+    QCOMPARE(onDisk(), isChange ? result : allThree());
+    QCOMPARE(model.rowCount(), isChange ? result.size() : 3);
+
+    undo().undo();
+    QCOMPARE(described(registry().activeEventList()), allThree());
+    QCOMPARE(onDisk(), allThree());
+    QCOMPARE(names(model), u"Anna Moritz Xaver"_qs);
+    undo().redo();
+    QCOMPARE(onDisk(), isChange ? result : allThree());
+}
+
+void tst_MvCalendarEventModel::editsFotos()
+{
+    const QTemporaryDir folder;
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(folder.filePath(u"rot.png"_qs)));
+    MvCalendarEventModel model;
+    model.load();
+    const QModelIndex anna = model.index(0, MvCalendarEventModel::FotoColumn);
+
+    QVERIFY(model.setData(anna, folder.filePath(u"rot.png"_qs)));
+    const QString own = anna.data(Qt::EditRole).toString();
+    QCOMPARE(QFileInfo(own).dir(), MvCalendarEvent::imageDirectory());
+    QCOMPARE(anna.data().value<QImage>().size(), QSize(40, 30));
+    QVERIFY(!model.setData(anna, own)); // the path that the cell gave
+
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Unable to open image"_qs));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"Unable to save image"_qs));
+    QVERIFY(!model.setData(anna, folder.filePath(u"fehlt.png"_qs)));
+    QCOMPARE(anna.data(Qt::EditRole).toString(), own); // not lost
+
+    QVERIFY(model.setData(anna, QString()));
+    QVERIFY(anna.data().value<QImage>().isNull());
+    undo().undo();
+    QCOMPARE(anna.data(Qt::EditRole).toString(), own);
+    undo().undo();
+    QCOMPARE(anna.data(Qt::EditRole).toString(), QString());
+}
+
+void tst_MvCalendarEventModel::movedEntriesKeepTheirEdits()
+{
+    MvCalendarEventModel model;
+    MvCalendarEventModel second;
+    model.load();
+    QSignalSpy spy(&model, &QAbstractItemModel::dataChanged);
+    QVERIFY(model.setData(model.index(0, MvCalendarEventModel::DateColumn), QDate(2005, 6, 1)));
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(names(model), u"Moritz Anna Xaver"_qs);
+    QCOMPARE(names(second), names(model));
+    QCOMPARE(undo().stack()->undoText(), u"set calendar event from Anna to Anna"_qs);
+}
+
+void tst_MvCalendarEventModel::sorts_data()
+{
+    QTest::addColumn<int>("column");
+    QTest::addColumn<Qt::SortOrder>("order");
+    QTest::addColumn<QString>("order of names");
+    QTest::newRow("date, smallest first") << 1 << Qt::DescendingOrder << u"Anna Moritz Xaver"_qs;
+    QTest::newRow("date, largest first") << 1 << Qt::AscendingOrder << u"Xaver Moritz Anna"_qs;
+    QTest::newRow("name, smallest first") << 2 << Qt::DescendingOrder << u"Anna Moritz Xaver"_qs;
+    QTest::newRow("name, largest first") << 2 << Qt::AscendingOrder << u"Xaver Moritz Anna"_qs;
+    // every entry counts as recurrent: what remains is the stored flag, then the name
+    QTest::newRow("recurrence, smallest first") << 3 << Qt::DescendingOrder << u"Moritz Anna Xaver"_qs;
+    QTest::newRow("recurrence, largest first") << 3 << Qt::AscendingOrder << u"Xaver Anna Moritz"_qs;
+}
+
+void tst_MvCalendarEventModel::sorts()
+{
+    QFETCH(const int, column);
+    QFETCH(const Qt::SortOrder, order);
+    MvCalendarEventModel model;
+    model.load();
+    QSignalSpy spy(&model, &QAbstractItemModel::modelReset);
+    model.sort(column, order);
+    QCOMPARE(spy.count(), 1);
+    QTEST(names(model), "order of names");
+}
+
+void tst_MvCalendarEventModel::sortsSharedDays()
+{
+    MvCalendarEventList events;
+    for (int i = 0; i < 60; ++i) // three days of four years, names in no order
+        events.append(entry(QString::number((i * 37) % 60), QDate(2000 + i % 4, 5, 1 + i % 3)));
+    registry().setEvents(events);
+    MvCalendarEventModel model;
+    model.load();
+    for (const Qt::SortOrder order : {Qt::DescendingOrder, Qt::AscendingOrder}) {
+        model.sort(MvCalendarEventModel::DateColumn, order);
+        const auto isMisplaced =
+            order == Qt::DescendingOrder ? MvCalendarEvent::greaterThanDate : MvCalendarEvent::lessThanDate;
+        for (int first = 0; first < model.rowCount(); ++first) {
+            for (int second = first + 1; second < model.rowCount(); ++second)
+                QVERIFY(!isMisplaced(model.calendarEvent(model.index(first, 0)),
+                                     model.calendarEvent(model.index(second, 0))));
+        }
+    }
+}
+
+void tst_MvCalendarEventModel::sortByFotoBeginsAResetOnly()
+{
+    MvCalendarEventModel model;
+    model.load();
+    model.sort(MvCalendarEventModel::DateColumn, Qt::AscendingOrder);
+    QSignalSpy begun(&model, &QAbstractItemModel::modelAboutToBeReset);
+    QSignalSpy ended(&model, &QAbstractItemModel::modelReset);
+    model.sort(MvCalendarEventModel::FotoColumn, Qt::DescendingOrder);
+    QCOMPARE(begun.count(), 1);
+    QCOMPARE(ended.count(), 0);
+    QCOMPARE(names(model), u"Xaver Moritz Anna"_qs);
+    model.load();
+    QCOMPARE(ended.count(), 1);
+}
+
+void tst_MvCalendarEventModel::removesRows_data()
+{
+    QTest::addColumn<QList<int>>("rows");
+    QTest::addColumn<bool>("isRemoved");
+    QTest::addColumn<QString>("remaining");
+    QTest::newRow("each once") << QList<int>{3, 1, 3} << true << u"A C E"_qs;
+    QTest::newRow("first and last") << QList<int>{0, 4} << true << u"B C D"_qs;
+    QTest::newRow("all") << QList<int>{4, 3, 2, 1, 0} << true << QString();
+    QTest::newRow("none") << QList<int>() << true << u"A B C D E"_qs;
+    QTest::newRow("some do not exist") << QList<int>{-1, 2, 5} << false << u"A B D E"_qs;
+}
+
+void tst_MvCalendarEventModel::removesRows()
+{
+    QFETCH(const QList<int>, rows);
+    MvCalendarEventList events;
+    for (int i = 0; i < 5; ++i)
+        events.append(entry(QChar(u'A' + i), QDate(2026, 1, 1 + i)));
+    registry().setEvents(events);
+    MvCalendarEventModel model;
+    model.load();
+    QTEST(model.removeRows(rows), "isRemoved");
+    QTEST(names(model), "remaining");
+}
+
+void tst_MvCalendarEventModel::removesRowsOfIndexes()
+{
+    MvCalendarEventModel model;
+    model.load();
+    QVERIFY(model.removeRows({model.index(2, 0), model.index(0, 1), model.index(0, 3)}));
+    QCOMPARE(names(model), u"Moritz"_qs);
+}
+
+void tst_MvCalendarEventModel::removalWaitsForSave()
+{
+    MvCalendarEventModel model;
+    model.load();
+    QSignalSpy spy(&model, &QAbstractItemModel::rowsRemoved);
+    QVERIFY(model.removeRows(0, -1));
+    QVERIFY(model.removeRows(0, 0));
+    QVERIFY(!model.removeRows(2, 2));
+    QVERIFY(!model.removeRows(-1, 1));
+    QCOMPARE(spy.count(), 0);
+    QVERIFY(model.removeRows(0, 2));
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(names(model), u"Xaver"_qs);
+    QCOMPARE(onDisk(), allThree());
+    model.save();
+    QCOMPARE(onDisk(), QStringList{u"1950-12-31 Xaver"_qs});
+    QCOMPARE(names(model), u"Xaver"_qs);
+}
+
+void tst_MvCalendarEventModel::modelTester()
+{
+    TestableModel model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    model.load();
+    QVERIFY(model.setData(model.index(0, 1), QDate(2004, 12, 31)));
+    QVERIFY(model.setData(model.index(2, 2), QString())); // the last row goes
+    undo().undo();
+    undo().undo();
+    undo().redo();
+    model.sort(MvCalendarEventModel::NameColumn, Qt::AscendingOrder);
+    QVERIFY(model.removeRows(QList<int>{2, 0}));
+    model.save();
+    QVERIFY(model.removeRows(0, 1));
+    registry().setEvents(threeEntries());
+    QCOMPARE(names(model), u"Anna Moritz Xaver"_qs);
+}
+
+MV_TEST_MAIN(tst_MvCalendarEventModel)
+#include "tst_MvCalendarEventModel.moc"
