@@ -2,6 +2,7 @@
 
 #include "MvCalendar/mvcalendar_export.h"
 
+#include <QHash>
 #include <QString>
 
 class QDomElement;
