@@ -312,16 +312,6 @@ QSizeF MvCalendariumRenderer::maximumSizeOfStrings(const MvCalendarCellType &typ
             MvMath::referencePixel2tenthMillimetre(fontMetrics(type).height())};
 }
 
-bool MvCalendariumRenderer::isTextToWide(int maxWidth, const QFont &font, const QString &text)
-{
-    return MvCalendariumTextPainter::isTextToWide(maxWidth, font, text);
-}
-
-bool MvCalendariumRenderer::isAnyTextToWide(int maxWidth, const QFont &font, const QStringList &texts)
-{
-    return MvCalendariumTextPainter::isAnyTextToWide(maxWidth, font, texts);
-}
-
 double MvCalendariumRenderer::minimumHeightOfCellType(const MvCalendarCellType &type, bool rotated) const
 {
     double height = 0.0;
@@ -401,23 +391,6 @@ QSizeF MvCalendariumRenderer::minimumSizeWeekdays(bool shortNames, QPaintDevice 
         size = size.expandedTo(daySize);
     }
     return size;
-}
-
-// ---- breaking and drawing texts
-
-QStringList MvCalendariumRenderer::manuallyBreakLines(int maxWidth, const QFont &font, const QStringList &texts)
-{
-    return MvCalendariumTextPainter::breakLines(maxWidth, font, texts);
-}
-
-void MvCalendariumRenderer::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)
-{
-    MvCalendariumTextPainter::drawText(painter, rect, flags, text);
-}
-
-void MvCalendariumRenderer::drawTexts(QPainter &painter, const QRectF &rect, int flags, const QStringList &lines)
-{
-    MvCalendariumTextPainter::drawTexts(painter, rect, flags, lines);
 }
 
 // ---- words

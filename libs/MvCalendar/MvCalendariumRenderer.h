@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarCellTypeConfig.h"
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumDisplayAbilities.h"
+#include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvCalendariumWords.h"
 #include "MvCalendar/MvUnfittingText.h"
 #include "MvCore/MvRealRange.h"
@@ -123,8 +124,14 @@ public:
     /// In pixels of the device, (0, 0) for an empty text.
     QSizeF minimumSizeFont(const MvCalendarCellType &type, QPaintDevice *device, const QString &text) const;
     QSizeF maximumSizeOfStrings(const MvCalendarCellType &type, const QStringList &texts) const;
-    static bool isTextToWide(int maxWidth, const QFont &font, const QString &text);
-    static bool isAnyTextToWide(int maxWidth, const QFont &font, const QStringList &texts);
+    static bool isTextToWide(int maxWidth, const QFont &font, const QString &text)
+    {
+        return MvCalendariumTextPainter::isTextToWide(maxWidth, font, text);
+    }
+    static bool isAnyTextToWide(int maxWidth, const QFont &font, const QStringList &texts)
+    {
+        return MvCalendariumTextPainter::isAnyTextToWide(maxWidth, font, texts);
+    }
     /// `rotated`: the text of a calendar week runs vertically.
     double minimumHeightOfCellType(const MvCalendarCellType &type, bool rotated) const;
     double contentWidthOfCellType(const MvCalendarCellType &type, bool shortNames) const;
@@ -138,9 +145,18 @@ public:
     QSizeF minimumSizeWeekdays(bool shortNames, QPaintDevice *device) const;
 
     // breaking and drawing texts, see MvCalendariumTextPainter
-    static QStringList manuallyBreakLines(int maxWidth, const QFont &font, const QStringList &texts);
-    static void drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text);
-    static void drawTexts(QPainter &painter, const QRectF &rect, int flags, const QStringList &lines);
+    static QStringList manuallyBreakLines(int maxWidth, const QFont &font, const QStringList &texts)
+    {
+        return MvCalendariumTextPainter::breakLines(maxWidth, font, texts);
+    }
+    static void drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)
+    {
+        MvCalendariumTextPainter::drawText(painter, rect, flags, text);
+    }
+    static void drawTexts(QPainter &painter, const QRectF &rect, int flags, const QStringList &lines)
+    {
+        MvCalendariumTextPainter::drawTexts(painter, rect, flags, lines);
+    }
 
     // words in the page's language, see MvCalendariumWords
     MvLocale language() const;
