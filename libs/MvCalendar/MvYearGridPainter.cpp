@@ -5,14 +5,7 @@
 
 #include <algorithm>
 
-namespace {
-
-MvCalendarCellTypeConfig same(const MvCalendarCellType &type)
-{
-    return {type, type};
-}
-
-} // namespace
+namespace {} // namespace
 
 MvYearGridPainter::MvYearGridPainter(MvCalendariumRendererYear &renderer, QPainter &painter)
     : m_renderer(renderer)
@@ -69,7 +62,7 @@ QString MvYearGridPainter::weekText(const QDate &monday) const
 
 void MvYearGridPainter::paintMonth(const MvSmallMonthGrid &grid, const QString &name)
 {
-    m_renderer.drawCell(m_painter, grid.nameRect(), same(CALENDAR_CELL_TYPE_MONTH), name, true, 0);
+    m_renderer.drawCell(m_painter, grid.nameRect(), MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_MONTH), name, true, 0);
     if (m_sizes.headHeight > 0.0)
         paintHeads(grid);
     for (int row = 0; row < grid.rows(); ++row)
@@ -79,9 +72,11 @@ void MvYearGridPainter::paintMonth(const MvSmallMonthGrid &grid, const QString &
 void MvYearGridPainter::paintHeads(const MvSmallMonthGrid &grid)
 {
     if (m_sizes.weekWidth > 0.0)
-        m_renderer.drawCell(m_painter, grid.weekHeadRect(), same(CALENDAR_CELL_TYPE_TOPLINE), m_weekHead, true, 0);
+        m_renderer.drawCell(m_painter, grid.weekHeadRect(), MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TOPLINE),
+                            m_weekHead, true, 0);
     for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day) {
-        m_renderer.drawCell(m_painter, grid.headRect(day), same(MvCalendariumRenderer::headCellTypeWeekDay(day)),
+        m_renderer.drawCell(m_painter, grid.headRect(day),
+                            MvCalendarCellTypeConfig(MvCalendariumRenderer::headCellTypeWeekDay(day)),
                             m_weekdayHeads.at(day - 1), true, 0);
     }
 }
@@ -91,16 +86,18 @@ void MvYearGridPainter::paintWeek(const MvSmallMonthGrid &grid, int row)
     const QDate monday = grid.monday(row);
     const bool even = m_renderer.isEvenWeek(monday);
     if (m_sizes.weekWidth > 0.0) {
-        m_renderer.drawCell(m_painter, grid.weekRect(row),
-                            same(grid.hasDays(row) ? CALENDAR_CELL_TYPE_WEEK_OF_YEAR : CALENDAR_CELL_TYPE_EMPTY),
-                            grid.hasDays(row) ? weekText(monday) : QString(), even, 0);
+        m_renderer.drawCell(
+            m_painter, grid.weekRect(row),
+            MvCalendarCellTypeConfig(grid.hasDays(row) ? CALENDAR_CELL_TYPE_WEEK_OF_YEAR : CALENDAR_CELL_TYPE_EMPTY),
+            grid.hasDays(row) ? weekText(monday) : QString(), even, 0);
     }
     for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day) {
         const QDate date = grid.date(row, day);
         if (date.isValid())
             paintDay(grid.dayRect(row, day), date);
         else
-            m_renderer.drawCellBackground(m_painter, grid.dayRect(row, day), same(CALENDAR_CELL_TYPE_EMPTY), even);
+            m_renderer.drawCellBackground(m_painter, grid.dayRect(row, day),
+                                          MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_EMPTY), even);
     }
 }
 

@@ -18,11 +18,6 @@ constexpr double readableContrast = 4.5; // WCAG 2.1, level AA
 constexpr double gapBeneathNumber = 0.2; // in heights of a line
 constexpr double leastTextWidth = 2.5;   // in heights of a line; less than that shows ellipses only
 
-MvCalendarCellTypeConfig same(const MvCalendarCellType &type)
-{
-    return {type, type};
-}
-
 /// The head type of a day whose content has the type.
 MvCalendarCellType headOf(const MvCalendarCellType &content)
 {
@@ -98,12 +93,14 @@ double MvYearPlannerPainter::baseline(const MvCalendarCellType &type, const QFon
 void MvYearPlannerPainter::paintMonth(const MvYearPlanner &planner, int column, const QString &name)
 {
     const QDate month = planner.month(column);
-    m_renderer.drawCell(m_painter, planner.nameRect(column), same(CALENDAR_CELL_TYPE_MONTH), name, true, 0);
+    m_renderer.drawCell(m_painter, planner.nameRect(column), MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_MONTH), name,
+                        true, 0);
     const int days = month.daysInMonth();
     for (int day = 1; day <= days; ++day)
         paintDay(planner, planner.dayRect(column, day), month.addDays(day - 1));
     for (int day = days + 1; day <= MvYearPlanner::mostDays; ++day)
-        m_renderer.drawCellBackground(m_painter, planner.dayRect(column, day), same(CALENDAR_CELL_TYPE_EMPTY), true);
+        m_renderer.drawCellBackground(m_painter, planner.dayRect(column, day),
+                                      MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_EMPTY), true);
 }
 
 void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &cell, const QDate &date)
@@ -153,7 +150,7 @@ void MvYearPlannerPainter::paintWeek(const QRectF &part, const MvCalendarCellTyp
 {
     const MvCalendarCellType type = CALENDAR_CELL_TYPE_WEEK_OF_YEAR;
     const QColor background = m_renderer.backgroundColor(config, even);
-    const bool hasOwnColor = isReadable(m_renderer.fontColor(same(type), even), background);
+    const bool hasOwnColor = isReadable(m_renderer.fontColor(MvCalendarCellTypeConfig(type), even), background);
     const double lift = style(config.inscriptionConfig()).baseline;
     const Style &week = style(type);
     m_renderer.drawCellText(m_painter, part.translated(0.0, lift - week.baseline),
