@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-namespace {} // namespace
-
 MvYearGridPainter::MvYearGridPainter(MvCalendariumRendererYear &renderer, QPainter &painter)
     : m_renderer(renderer)
     , m_painter(painter)
