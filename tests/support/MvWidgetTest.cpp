@@ -1,0 +1,16 @@
+#include "MvWidgetTest.h"
+
+#include "MvTestHome.h"
+
+#include <QApplication>
+
+#include <memory>
+
+int mvRunWidgetTest(int argc, char **argv, QObject *(*create)())
+{
+    const MvTestHome home;
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const std::unique_ptr<QObject> test(create());
+    return QTest::qExec(test.get(), argc, argv);
+}
