@@ -1,0 +1,7 @@
+#include "MvStudioWindow.h"
+
+MvStudioWindow::MvStudioWindow(QWidget *parent)
+    : QMainWindow(parent)
+{}
+
+MvStudioWindow::~MvStudioWindow() = default;
