@@ -1,0 +1,109 @@
+#pragma once
+
+#include <QDate>
+#include <QGraphicsView>
+#include <QPointer>
+
+class MvPageDropTarget;
+class MvPageItem;
+class MvPhotoHandle;
+class MvProject;
+class QMenu;
+
+/// Shows a page of the open project and lets its dates and its photo be edited in place.
+///
+/// Zoom 1 shows the page as large as it is printed. Fitted, the page follows the size of the view until it is zoomed
+/// otherwise.
+class MvPageCanvas : public QGraphicsView
+{
+    Q_OBJECT
+
+public:
+    static constexpr double minimumZoom = 0.05;
+    static constexpr double maximumZoom = 8.0;
+
+    /// The project is not owned and must outlive the canvas.
+    explicit MvPageCanvas(MvProject *project, QWidget *parent = nullptr);
+    ~MvPageCanvas() override;
+
+    int currentPage() const;
+    MvPageItem *pageItem() const { return m_item; }
+    double zoom() const;
+    bool isFitted() const { return m_isFitted; }
+
+    /// The day that the keyboard acts on; invalid when it acts on none.
+    QDate focusDate() const { return m_focusDate; }
+    /// A date that the page does not show is none.
+    void setFocusDate(const QDate &date);
+
+    /// The menu for a point of the viewport: the day's entries and the page's photo. The caller shows and deletes it.
+    QMenu *createContextMenu(const QPoint &position);
+
+public Q_SLOTS:
+    /// Clamped to the pages that there are.
+    void setCurrentPage(int page);
+    void nextPage();
+    void previousPage();
+
+    void zoomIn();
+    void zoomOut();
+    void zoomToFit();
+    /// Clamped to the limits.
+    void setZoom(double zoom);
+
+    /// Asks for a file without blocking and makes it the page's photo.
+    void choosePhoto();
+    /// Makes a file the photo of the shown page; one undo step.
+    void setPhoto(const QString &path);
+    void removePhoto();
+
+Q_SIGNALS:
+    void currentPageChanged(int page);
+    void zoomChanged(double zoom);
+    /// Something worth a line in the status bar.
+    void message(const QString &text);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void drawForeground(QPainter *painter, const QRectF &rect) override;
+    void dropEvent(QDropEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    void onPagesReset();
+    void onRefreshed();
+    void applyZoom(double zoom, const QPointF &fixedPoint);
+    double fittingZoom() const;
+    double pixelsPerUnit() const;
+    bool zoomByGesture(QEvent *event);
+    bool moveFocusDate(int key);
+    void openMenuForFocusDate();
+    bool movePhotoByKey(int key);
+    void updateDescription();
+    QDate dateAt(const QPoint &position) const;
+    void addPhotoActions(QMenu *menu);
+    void setPanning(bool panning);
+
+    MvProject *m_project;
+    QGraphicsScene *m_scene;
+    MvPageItem *m_item;
+    MvPhotoHandle *m_photoHandle;
+    MvPageDropTarget *m_dropTarget;
+    QDate m_focusDate;
+    QPoint m_panFrom;
+    bool m_isPanning = false;
+    bool m_isSpaceDown = false;
+    bool m_isFitted = true;
+};

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "MvModelBase/MvPaintRecording.h"
+#include "MvProject/MvCalendarPage.h"
+
+#include <QBasicTimer>
+#include <QDate>
+#include <QGraphicsObject>
+#include <QHash>
+#include <QPixmap>
+#include <QTransform>
+
+#include <memory>
+#include <optional>
+
+class MvGraphicsItemCalendariumCellsManager;
+class MvProject;
+class MvScreenPhotos;
+
+/// A page of the open project as it will be printed, live: its paper with a shadow, ground, photo and calendarium. Its
+/// units are those of the page, tenths of a millimetre from the trimmed corner; the bleed is not shown.
+///
+/// The calendarium is recorded when something changed, once for all changes of a turn of the event loop. Painting only
+/// replays, and replays only what is not in its cache of device pixels.
+class MvPageItem : public QGraphicsObject
+{
+    Q_OBJECT
+
+public:
+    /// The project is not owned and must outlive the item.
+    explicit MvPageItem(MvProject *project, QGraphicsItem *parent = nullptr);
+    ~MvPageItem() override;
+
+    /// The page's number, counted from 0; a page that there is not is shown as nothing.
+    int page() const { return m_page; }
+    void setPage(int page);
+    /// What is shown: the project's page, or the one that a gesture tries out.
+    const MvCalendarPage &shownPage() const { return m_shown; }
+    /// Shows another state of the page than the project's until the next call; no value ends it.
+    void setTrial(const std::optional<MvCalendarPage> &page);
+
+    QRectF pageRect() const { return m_pageRect; }
+    /// The photo's part of the trimmed page; empty without a photo.
+    QRectF photoRect() const;
+    /// The day whose cell is at a point of the item; an invalid date when there is none.
+    QDate dateAt(const QPointF &point) const;
+    /// Empty for a date that the page does not show.
+    QRectF dateRect(const QDate &date) const { return m_dates.value(date); }
+    QList<QDate> dates() const; ///< in their order
+
+    /// Records what changed now, instead of on the next turn of the event loop.
+    void refreshNow();
+    const MvPaintRecording &recording() const { return m_recording; }
+    MvGraphicsItemCalendariumCellsManager *cells() const { return m_cells.get(); }
+    MvScreenPhotos *photos() const { return m_photos.get(); }
+
+    QRectF boundingRect() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+public Q_SLOTS:
+    /// Has everything recorded anew.
+    void refresh();
+
+Q_SIGNALS:
+    /// The page has been recorded; its rectangles are those of its present state.
+    void refreshed();
+
+protected:
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    struct Cache
+    {
+        QPixmap pixels;
+        QTransform transform; // from the item to pixels, whole pixels of translation taken out
+        QRect rect;           // of the pixels, relative to those
+    };
+
+    void record();
+    void removeOutdatedCells();
+    void discardCache();
+    void paintInto(QPainter &painter) const;
+    void paintShadow(QPainter &painter) const;
+    void paintPhoto(QPainter &painter) const;
+    void paintPhotoNotice(QPainter &painter, const QRectF &rect) const;
+
+    MvProject *m_project;
+    std::unique_ptr<MvScreenPhotos> m_photos;
+    std::unique_ptr<MvGraphicsItemCalendariumCellsManager> m_cells;
+    MvCalendarPage m_shown;
+    std::optional<MvCalendarPage> m_trial;
+    MvCalendarPage m_cellsPage; // what the cells were placed for
+    QRectF m_pageRect;
+    MvPaintRecording m_recording;
+    QHash<QDate, QRectF> m_dates;
+    Cache m_cache;
+    QBasicTimer m_timer;
+    int m_page = 0;
+};

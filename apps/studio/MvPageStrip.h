@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QListView>
+
+class MvIdleImages;
+class MvPageStripModel;
+class MvProject;
+class MvScreenPhotos;
+
+/// The pages of the open project one below the other, as thumbnails with their months. Thumbnails arrive one by one
+/// while the program has nothing else to do, the current and the visible ones first.
+class MvPageStrip : public QListView
+{
+    Q_OBJECT
+
+public:
+    /// The project is not owned and must outlive the strip.
+    explicit MvPageStrip(MvProject *project, QWidget *parent = nullptr);
+    ~MvPageStrip() override;
+
+    int currentPage() const;
+    /// Null as long as it has not been made.
+    QImage thumbnail(int page) const;
+    /// True when no thumbnail is out of date.
+    bool isComplete() const;
+
+    QSize sizeHint() const override;
+
+public Q_SLOTS:
+    /// Marks the page and scrolls to it; emits nothing.
+    void setCurrentPage(int page);
+
+Q_SIGNALS:
+    /// The user chose a page.
+    void pageActivated(int page);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+    bool event(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void onPagesReset();
+    void onPhotoLoaded(const QString &path);
+    void onThumbnailReady(int page);
+    void preferVisible();
+    void adaptToWidth();
+    QImage makeThumbnail(int page);
+
+    MvProject *m_project;
+    MvPageStripModel *m_model;
+    MvIdleImages *m_images;
+    MvScreenPhotos *m_photos;
+    QSize m_thumbnailSize; // logical pixels
+    bool m_isMarking = false;
+};

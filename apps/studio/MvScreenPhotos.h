@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QCache>
+#include <QHash>
+#include <QImage>
+#include <QObject>
+#include <QSize>
+#include <QString>
+#include <QThreadPool>
+
+#include <atomic>
+#include <memory>
+
+/// Photos in the size of the screen, decoded off the GUI thread. To be used from the GUI thread.
+class MvScreenPhotos : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Keeps images of up to so many bytes.
+    explicit MvScreenPhotos(qint64 byteLimit, QObject *parent = nullptr);
+    /// Waits for the photo that is being decoded; those that wait for their turn are given up.
+    ~MvScreenPhotos() override;
+
+    /// The photo, as large as it fits into the bounds (pixels), but never larger than its file has it. Null when it is
+    /// not there yet: loaded() follows. While a larger version is being decoded, the smaller one is given.
+    QImage photo(const QString &path, const QSize &bounds);
+
+    /// True once a file has turned out not to be a photo that can be read.
+    bool isUnreadable(const QString &path) const { return m_states.value(path).unreadable; }
+    /// Reads all files again when they are asked for next.
+    void clear();
+
+Q_SIGNALS:
+    void loaded(const QString &path);
+
+private:
+    struct State
+    {
+        QSize decoding; // the bounds that are being decoded; empty when none are
+        QSize decoded;  // the bounds that the kept image is good for
+        bool unreadable = false;
+    };
+
+    void startDecoding(const QString &path, const QSize &bounds);
+    void take(const QString &path, const QSize &bounds, const QImage &image);
+    static QImage decode(const QString &path, const QSize &bounds);
+
+    QCache<QString, QImage> m_images; // cost in kilobytes
+    QHash<QString, State> m_states;
+    std::shared_ptr<std::atomic_bool> m_givenUp;
+    QThreadPool m_pool;
+};
