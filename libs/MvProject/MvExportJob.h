@@ -27,6 +27,9 @@ public:
                 QObject *parent = nullptr);
     ~MvExportJob() override;
 
+    /// Exports only these pages, counted from 0, instead of all; before start(). Numbers that there are not do not
+    /// count.
+    void setPages(const QList<int> &pages);
     /// Once per job; later calls do nothing.
     void start();
     /// Ends the export as soon as possible; finished() still comes. No incomplete file is left, and files that were
@@ -40,12 +43,13 @@ Q_SIGNALS:
     void finished(const MvExportResult &result);
 
 private:
-    void recordPage(int page);
+    void recordPage(int number);
     void finish();
 
     const MvCalendarDocument m_document;
     const MvExportTarget m_target;
     const int m_dpi;
+    QList<int> m_pages;
     std::shared_ptr<MvExportFeed> m_feed;
     std::unique_ptr<QThread> m_thread; // while running
     MvExportResult m_result;           // written by the thread, read after its end

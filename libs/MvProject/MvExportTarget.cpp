@@ -21,7 +21,7 @@ QString MvExportTarget::nameError(const MvPageSource &pages) const
         return tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path);
     QString error;
     if (m_suffix != u"pdf"_s)
-        MvFileNamePattern(m_path).paths(pages.pages, &error);
+        MvFileNamePattern(m_path).paths(pages.pages, &error, pages.numbers);
     return error;
 }
 

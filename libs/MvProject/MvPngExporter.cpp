@@ -84,7 +84,7 @@ MvExportResult MvPngExporter::write(const MvPageSource &source, const QString &p
     result.error = check(source, dpi);
     QStringList paths;
     if (result.isOk())
-        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error);
+        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error, source.numbers);
     if (!result.isOk())
         return result;
     QImage image = emptyPage(source.format, dpi);

@@ -40,7 +40,7 @@ MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &p
     MvExportResult result{source.error(), {}};
     QStringList paths;
     if (result.isOk())
-        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error);
+        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error, source.numbers);
     for (int page = 0; page < paths.size(); ++page) {
         const QByteArray bytes = paintSvg(source, page);
         result.isCancelled = observer && observer->isCancelled();
