@@ -1,16 +1,11 @@
 #include "MvProject/MvCalendarDocument.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCalendar/MvCalendariumRenderer.h"
-#include "MvCalendar/MvCalendariumRendererFactory.h"
-#include "MvModelBase/MvPaintRecorder.h"
-#include "MvProductBase/MvCalendariumContentConfig.h"
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
 #include "MvProject/MvPageSource.h"
 
 #include <QPainter>
 
-#include <algorithm>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -25,102 +20,178 @@ MvPageFormat a4Landscape()
     return format;
 }
 
-int monthsPerPage(const MvCalendariumType &type)
+/// From one month to the other; negative when the second is earlier.
+int monthsTo(const QDate &from, const QDate &to)
 {
-    return type == CALENDAR_YEAR || type == CALENDAR_YEAR_ONLY ? monthsPerYear : 1;
+    return (to.year() - from.year()) * monthsPerYear + to.month() - from.month();
+}
+
+QDate monthOf(const MvCalendarPage &page)
+{
+    return page.contentConfig().moveToDayInMonth(1).date();
+}
+
+MvCalendarPage movedTo(const QDate &month, const MvCalendarPage &page)
+{
+    MvCalendarPage moved = page;
+    moved.setContentConfig(page.contentConfig().moveToDay(month));
+    return moved;
 }
 
 } // namespace
 
 MvCalendarDocument::MvCalendarDocument()
-    : m_holidayConfig(MvCalendariumHolidayConfigDefault::instance().defaultConfig())
-    , m_range(MvDateRange::createDefaultCalendarDateRange())
-    , m_format(a4Landscape())
-{}
+    : m_format(a4Landscape())
+{
+    m_look.setContentConfig({QDate(), MvCalendariumHolidayConfigDefault::instance().defaultConfig()});
+    setRange(MvDateRange::createDefaultCalendarDateRange());
+}
+
+void MvCalendarDocument::setAppearance(const MvCalendariumAppearance &appearance)
+{
+    const int monthsBefore = monthsPerPage();
+    m_look.setAppearance(appearance);
+    for (MvCalendarPage &page : m_pages)
+        page.setAppearance(appearance);
+    if (look().monthCount() != monthsBefore)
+        divide(m_range, look().monthCount());
+}
+
+void MvCalendarDocument::setHolidayConfig(const MvCalendariumHolidayConfig &config)
+{
+    const auto apply = [&config](MvCalendarPage &page) {
+        MvCalendariumContentConfig content = page.contentConfig();
+        content.setHolidayConfig(config);
+        page.setContentConfig(content);
+    };
+    apply(m_look);
+    for (MvCalendarPage &page : m_pages)
+        apply(page);
+}
+
+void MvCalendarDocument::setRange(const MvDateRange &range)
+{
+    if (range != m_range)
+        divide(range, monthsPerPage());
+}
+
+void MvCalendarDocument::setPage(int page, const MvCalendarPage &content)
+{
+    if (page < 0 || page >= m_pages.size())
+        return;
+    const int monthsBefore = monthsPerPage();
+    m_pages[page] = movedTo(monthOf(m_pages[page]), content);
+    if (m_pages.size() == 1 && content.monthCount() != monthsBefore)
+        divide(m_range, content.monthCount());
+}
+
+QList<QDate> MvCalendarDocument::pageDates() const
+{
+    QList<QDate> dates;
+    for (const MvCalendarPage &page : m_pages)
+        dates.append(monthOf(page));
+    return dates;
+}
+
+void MvCalendarDocument::setPages(const MvDateRange &range, const QList<MvCalendarPage> &pages)
+{
+    if (pages.isEmpty())
+        return;
+    m_pages = pages;
+    MvDateRange whole = range;
+    if (!whole.isValid()) {
+        const QDate last = monthOf(pages.constLast()).addMonths(monthsPerPage());
+        whole = {monthOf(pages.constFirst()), last.addDays(-1)};
+    }
+    divide(whole, monthsPerPage());
+}
+
+/// The distance of the pages: a page of a year among those of months does not count.
+int MvCalendarDocument::monthsPerPage() const
+{
+    if (m_pages.size() < 2)
+        return look().monthCount();
+    return monthsTo(monthOf(m_pages[0]), monthOf(m_pages[1])) == monthsPerYear ? monthsPerYear : 1;
+}
+
+const MvCalendarPage &MvCalendarDocument::nearestPage(const QDate &month, const QList<MvCalendarPage> &pages) const
+{
+    const MvCalendarPage *nearest = &m_look;
+    int distance = -1;
+    for (const MvCalendarPage &page : pages) {
+        const int pageDistance = std::abs(monthsTo(monthOf(page), month));
+        if (distance < 0 || pageDistance < distance) {
+            nearest = &page;
+            distance = pageDistance;
+        }
+    }
+    return *nearest;
+}
+
+void MvCalendarDocument::divide(const MvDateRange &range, int monthsPerPage)
+{
+    if (!m_pages.isEmpty()) {
+        m_look = m_pages.constFirst();
+        m_look.setPhotoFrame({});
+    }
+    const QList<MvCalendarPage> before = std::exchange(m_pages, {});
+    for (const MvCalendarPage &page : before) {
+        if (page.photoFrame().isValid())
+            m_sparePhotos.insert(monthOf(page), page.photoFrame());
+    }
+    m_range = range;
+    for (int number = 0; number < range.monthCount(); number += monthsPerPage) {
+        const QDate month = range.monthAt(number);
+        MvCalendarPage page = movedTo(month, nearestPage(month, before));
+        page.setPhotoFrame(m_sparePhotos.take(month));
+        m_pages.append(page);
+    }
+}
 
 bool MvCalendarDocument::isValid() const
 {
-    return m_appearance.isValid() && m_range.isValid() && m_format.isValid();
-}
-
-QList<QDate> MvCalendarDocument::pages() const
-{
-    QList<QDate> pages;
-    const int step = monthsPerPage(m_appearance.type());
-    for (int month = 0; month < m_range.monthCount(); month += step)
-        pages.append(m_range.monthAt(month));
-    return pages;
+    if (!m_format.isValid() || !m_range.isValid() || m_pages.isEmpty())
+        return false;
+    return std::all_of(m_pages.cbegin(), m_pages.cend(), [](const MvCalendarPage &page) { return page.isValid(); });
 }
 
 void MvCalendarDocument::paint(QPainter &painter, int page) const
 {
-    const QDate month = pages().value(page);
-    if (isValid() && month.isValid())
-        paintPage(painter, month);
+    if (isValid() && page >= 0 && page < m_pages.size())
+        m_pages[page].paint(painter, m_format, m_range);
 }
 
 QList<MvUnfittingText> MvCalendarDocument::unfittingTexts(int page) const
 {
-    const QDate month = pages().value(page);
-    if (!isValid() || !month.isValid())
+    if (!isValid() || page < 0 || page >= m_pages.size())
         return {};
-    MvPaintRecorder recorder(nullptr);
-    QPainter painter(&recorder);
-    return paintPage(painter, month);
+    return m_pages[page].unfittingTexts(m_format, m_range);
 }
 
-QList<MvUnfittingText> MvCalendarDocument::paintPage(QPainter &painter, const QDate &month) const
+QStringList MvCalendarDocument::missingPhotos() const
 {
-    paintBackground(painter);
-    const auto calendarium = renderer(m_appearance, month);
-    QRectF rect = m_format.contentRect();
-    if (!calendarium->rendersMonthInformation())
-        rect = paintMonthLine(painter, rect, month);
-    calendarium->render(painter, rect);
-    return calendarium->unfittingTexts();
-}
-
-std::unique_ptr<MvCalendariumRenderer> MvCalendarDocument::renderer(const MvCalendariumAppearance &appearance,
-                                                                    const QDate &month) const
-{
-    std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
-    // a year's page begins with its own first month, not with that of the whole calendar
-    const bool isYearPage = appearance.type() == CALENDAR_YEAR;
-    const MvDateRange range = isYearPage ? MvDateRange(month, month.addMonths(12).addDays(-1)) : m_range;
-    made->setCalendarInformation(MvCalendariumContentConfig(month, m_holidayConfig), range);
-    made->setProductSize(m_format.magnitude());
-    made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
-    return made;
-}
-
-QRectF MvCalendarDocument::paintMonthLine(QPainter &painter, const QRectF &rect, const QDate &month) const
-{
-    MvCalendariumAppearance appearance = m_appearance;
-    appearance.setLayoutSchemaByID(m_appearance.layoutSchema().monthLayout());
-    if (!appearance.isValid())
-        return rect;
-    const auto line = renderer(appearance, month);
-    const double height = std::min(rect.height() / 2.0, double(line->minimumSizeHint().height()));
-    line->render(painter, {rect.left(), rect.top(), rect.width(), height});
-    return rect.adjusted(0.0, height, 0.0, 0.0);
-}
-
-/// Margins and bleed continue the ground of empty cells, or a dark calendarium would have a white frame.
-void MvCalendarDocument::paintBackground(QPainter &painter) const
-{
-    const QColor color = m_appearance.cellColor(MvCalendarCellColorKey(
-        MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_EMPTY, MvParityLogicEnum::even));
-    if (m_appearance.isOpaqueColor(color))
-        painter.fillRect(m_format.mediaRect(), color);
+    QStringList paths;
+    for (const MvCalendarPage &page : m_pages) {
+        if (!paths.contains(page.photoFrame().path()) && page.photoFrame().isMissing())
+            paths.append(page.photoFrame().path());
+    }
+    return paths;
 }
 
 MvPageSource MvCalendarDocument::pageSource() const
 {
     MvPageSource source;
     source.format = m_format;
-    source.pages = m_appearance.isValid() ? pages() : QList<QDate>();
+    source.pages = isValid() ? pageDates() : QList<QDate>();
     source.paint = [document = *this](QPainter &painter, int page) { document.paint(painter, page); };
     source.title = m_title;
     source.author = m_author;
     return source;
+}
+
+bool MvCalendarDocument::operator==(const MvCalendarDocument &other) const
+{
+    return m_range == other.m_range && m_format == other.m_format && m_title == other.m_title &&
+           m_author == other.m_author && m_pages == other.m_pages && m_sparePhotos == other.m_sparePhotos &&
+           look() == other.look();
 }

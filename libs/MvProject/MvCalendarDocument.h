@@ -4,36 +4,41 @@
 #include "MvCalendar/MvUnfittingText.h"
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
 #include "MvProductBase/MvDateRange.h"
+#include "MvProject/MvCalendarPage.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/mvproject_export.h"
 
-#include <QRectF>
+#include <QList>
+#include <QMap>
+#include <QStringList>
 
-#include <memory>
-
-class MvCalendariumRenderer;
 class MvPageSource;
 class QPainter;
 
-/// A calendar to be printed: one calendarium per page, month after month. A value.
+/// A calendar to be printed: a page per month, or per twelve months where the layout shows years. A value.
 ///
-/// A layout of whole years has one page per twelve months instead. Above layouts that do not show their month stands
-/// the line that they name for it.
+/// The pages follow each other without a gap. Photos are kept by month: one whose month has no page for the time being,
+/// because the range became shorter or the pages show years, comes back with it.
 class MVPROJECT_EXPORT MvCalendarDocument
 {
 public:
     /// A4 landscape, the default range, and the default holiday configuration; without schemas, invalid.
     MvCalendarDocument();
 
-    const MvCalendariumAppearance &appearance() const { return m_appearance; }
-    void setAppearance(const MvCalendariumAppearance &appearance) { m_appearance = appearance; }
+    /// The appearance of the first page.
+    const MvCalendariumAppearance &appearance() const { return look().appearance(); }
+    /// Gives all pages the appearance. When it turns months into years, or years into months, the range gets new pages.
+    void setAppearance(const MvCalendariumAppearance &appearance);
 
-    const MvCalendariumHolidayConfig &holidayConfig() const { return m_holidayConfig; }
-    void setHolidayConfig(const MvCalendariumHolidayConfig &config) { m_holidayConfig = config; }
+    /// That of the first page.
+    MvCalendariumHolidayConfig holidayConfig() const { return look().contentConfig().holidayConfig(); }
+    /// Gives it to all pages.
+    void setHolidayConfig(const MvCalendariumHolidayConfig &config);
 
     /// The months, whole ones, that the calendar spans.
     const MvDateRange &range() const { return m_range; }
-    void setRange(const MvDateRange &range) { m_range = range; }
+    /// Months that stay keep their page, new ones look like the page next to them. An invalid range leaves no pages.
+    void setRange(const MvDateRange &range);
 
     const MvPageFormat &format() const { return m_format; }
     void setFormat(const MvPageFormat &format) { m_format = format; }
@@ -43,36 +48,49 @@ public:
     QString author() const { return m_author; }
     void setAuthor(const QString &author) { m_author = author; }
 
-    /// Appearance, range and page format are valid.
+    const QList<MvCalendarPage> &pages() const { return m_pages; }
+    /// Replaces a page, counted from 0, but for its month, which follows from its place. A single page that changes
+    /// from years to months is divided like those of setAppearance(). A number that there is not changes nothing.
+    void setPage(int page, const MvCalendarPage &content);
+    /// The first day of each page's month.
+    QList<QDate> pageDates() const;
+
+    /// Takes pages as a file has them, each with its month. Months of the range that have none look like their
+    /// neighbour; of pages for other months only the photos are kept. One without any range is that of the pages.
+    void setPages(const MvDateRange &range, const QList<MvCalendarPage> &pages);
+    /// Photos whose months have no page, by the first day of the month.
+    const QMap<QDate, MvPhotoFrame> &sparePhotos() const { return m_sparePhotos; }
+    void setSparePhotos(const QMap<QDate, MvPhotoFrame> &photos) { m_sparePhotos = photos; }
+
+    /// Page format, range and all pages are valid.
     bool isValid() const;
 
-    /// The first day of each page's month.
-    QList<QDate> pages() const;
     /// Paints a page, counted from 0, in tenths of a millimetre with the origin at the trimmed page's corner. Personal
     /// entries are those of the active list. A page that there is not stays empty.
     void paint(QPainter &painter, int page) const;
 
     /// The texts that have no room on a page, counted from 0, in the order of painting.
     QList<MvUnfittingText> unfittingTexts(int page) const;
+    /// The paths of the photos on pages that are not there or cannot be read, each once. Looks into the files.
+    QStringList missingPhotos() const;
 
     /// The pages for the exporters. It keeps a copy of the document.
     MvPageSource pageSource() const;
 
-    bool operator==(const MvCalendarDocument &) const = default;
+    bool operator==(const MvCalendarDocument &other) const;
 
 private:
-    void paintBackground(QPainter &painter) const;
-    /// Paints a page that there is and gives what had no room on it.
-    QList<MvUnfittingText> paintPage(QPainter &painter, const QDate &month) const;
-    std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
-                                                    const QDate &month) const;
-    /// Gives what it leaves of the rectangle.
-    QRectF paintMonthLine(QPainter &painter, const QRectF &rect, const QDate &month) const;
+    const MvCalendarPage &look() const { return m_pages.isEmpty() ? m_look : m_pages.constFirst(); }
+    int monthsPerPage() const;
+    const MvCalendarPage &nearestPage(const QDate &month, const QList<MvCalendarPage> &pages) const;
+    /// Divides the range anew. Pages of the same month are taken over, others look like the nearest one.
+    void divide(const MvDateRange &range, int monthsPerPage);
 
-    MvCalendariumAppearance m_appearance;
-    MvCalendariumHolidayConfig m_holidayConfig;
     MvDateRange m_range;
     MvPageFormat m_format;
     QString m_title;
     QString m_author;
+    QList<MvCalendarPage> m_pages;
+    QMap<QDate, MvPhotoFrame> m_sparePhotos;
+    MvCalendarPage m_look; // of new pages, while there are none
 };

@@ -68,7 +68,7 @@ void tst_MvCalendarDocument::pages()
     appearance.setLayoutSchema(MvCalendariumLayoutSchema(element));
     calendar.setAppearance(appearance);
     calendar.setRange(MvDateRange(start, end));
-    QCOMPARE(calendar.pages(), pages);
+    QCOMPARE(calendar.pageDates(), pages);
     QCOMPARE(calendar.pageSource().pages, pages);
 }
 

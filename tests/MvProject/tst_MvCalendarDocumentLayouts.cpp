@@ -96,7 +96,7 @@ void tst_MvCalendarDocumentLayouts::columnsOfTheFamilyPlanner()
 void tst_MvCalendarDocumentLayouts::pagesOfWholeYears()
 {
     const MvCalendarDocument year = document(u"YEAR_ONLY"_s);
-    QCOMPARE(year.pages(), QList<QDate>{QDate(2027, 1, 1)});
+    QCOMPARE(year.pageDates(), QList<QDate>{QDate(2027, 1, 1)});
     const QList<Item> texts = textsOf(year, 0);
     QCOMPARE(texts.size(), 1); // no month above it
     QCOMPARE(texts.constFirst().text, u"2027"_s);

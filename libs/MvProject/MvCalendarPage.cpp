@@ -1,0 +1,151 @@
+#include "MvProject/MvCalendarPage.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvModelBase/MvPaintRecorder.h"
+#include "MvProject/MvPhotoPainter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int monthsPerYear = 12;
+
+} // namespace
+
+MvCalendarPage::MvCalendarPage(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content)
+    : m_appearance(appearance)
+    , m_content(content)
+{}
+
+void MvCalendarPage::setAppearance(const MvCalendariumAppearance &appearance)
+{
+    if (!(appearance.layoutSchema() == m_appearance.layoutSchema()))
+        m_unknownLayout.clear();
+    if (!(appearance.colorSchema() == m_appearance.colorSchema()))
+        m_unknownColors.clear();
+    m_appearance = appearance;
+}
+
+int MvCalendarPage::monthCount() const
+{
+    const bool isYear = m_appearance.type() == CALENDAR_YEAR || m_appearance.type() == CALENDAR_YEAR_ONLY;
+    return isYear ? monthsPerYear : 1;
+}
+
+QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
+{
+    QRectF rect = format.contentRect();
+    if (!m_photo.isValid() || !format.isValid())
+        return rect;
+    const QRectF photo = m_photo.rect(format);
+    const double gap = rect.left(); // the calendarium keeps the distance that it has from the page's edges
+    switch (m_photo.placement()) {
+    case MvPhotoFrame::Placement::Top:
+        rect.setTop(photo.bottom() + gap);
+        break;
+    case MvPhotoFrame::Placement::Left:
+        rect.setLeft(photo.right() + gap);
+        break;
+    case MvPhotoFrame::Placement::Right:
+        rect.setRight(photo.left() - gap);
+        break;
+    }
+    return rect.isEmpty() ? QRectF() : rect;
+}
+
+void MvCalendarPage::paint(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange) const
+{
+    paintGround(painter, format);
+    paintPhoto(painter, format);
+    paintCalendarium(painter, format, documentRange, {});
+}
+
+void MvCalendarPage::paintGround(QPainter &painter, const MvPageFormat &format) const
+{
+    const QColor color = m_appearance.cellColor(MvCalendarCellColorKey(
+        MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_EMPTY, MvParityLogicEnum::even));
+    if (m_appearance.isValid() && m_appearance.isOpaqueColor(color))
+        painter.fillRect(format.mediaRect(), color);
+}
+
+void MvCalendarPage::paintPhoto(QPainter &painter, const MvPageFormat &format) const
+{
+    if (m_photo.isValid())
+        MvPhotoPainter(painter, m_photo).paint(m_photo.rect(format));
+}
+
+MvPaintRecording MvCalendarPage::record(const MvPageFormat &format, const MvDateRange &documentRange,
+                                        const Prepare &prepare, const MvRenderingRule &rule, double pixelsPerUnit) const
+{
+    const double scale = pixelsPerUnit > 0.0 ? pixelsPerUnit : 1.0;
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    rule.encodeInto(painter);
+    painter.scale(scale, scale);
+    paintCalendarium(painter, format, documentRange, prepare);
+    painter.end();
+
+    MvPaintRecorder unscaled(nullptr); // takes the scale out again: shapes are shared, only transforms change
+    QPainter unscaledPainter(&unscaled);
+    unscaledPainter.scale(1.0 / scale, 1.0 / scale);
+    recorder.recording().replay(unscaledPainter);
+    unscaledPainter.end();
+    return unscaled.recording();
+}
+
+QList<MvUnfittingText> MvCalendarPage::unfittingTexts(const MvPageFormat &format,
+                                                      const MvDateRange &documentRange) const
+{
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    return paintCalendarium(painter, format, documentRange, {});
+}
+
+QList<MvUnfittingText> MvCalendarPage::paintCalendarium(QPainter &painter, const MvPageFormat &format,
+                                                        const MvDateRange &documentRange, const Prepare &prepare) const
+{
+    QRectF rect = calendariumRect(format);
+    if (!isValid() || rect.isEmpty())
+        return {};
+    const auto calendarium = renderer(m_appearance, format, documentRange);
+    if (!calendarium->rendersMonthInformation())
+        rect = paintMonthLine(painter, rect, format, documentRange);
+    if (prepare)
+        prepare(*calendarium);
+    calendarium->render(painter, rect);
+    return calendarium->unfittingTexts();
+}
+
+std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendariumAppearance &appearance,
+                                                                const MvPageFormat &format,
+                                                                const MvDateRange &documentRange) const
+{
+    std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
+    const MvCalendariumContentConfig content = m_content.moveToDayInMonth(1);
+    // a year's page begins with its own first month, not with that of the whole calendar
+    const QDate month = content.date();
+    const bool isYearPage = appearance.type() == CALENDAR_YEAR;
+    made->setCalendarInformation(content, isYearPage ? MvDateRange(month, month.addMonths(monthsPerYear).addDays(-1))
+                                                     : documentRange);
+    made->setProductSize(format.magnitude());
+    made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    return made;
+}
+
+QRectF MvCalendarPage::paintMonthLine(QPainter &painter, const QRectF &rect, const MvPageFormat &format,
+                                      const MvDateRange &documentRange) const
+{
+    MvCalendariumAppearance appearance = m_appearance;
+    appearance.setLayoutSchemaByID(m_appearance.layoutSchema().monthLayout());
+    if (!appearance.isValid())
+        return rect;
+    const auto line = renderer(appearance, format, documentRange);
+    const double height = std::min(rect.height() / 2.0, double(line->minimumSizeHint().height()));
+    line->render(painter, {rect.left(), rect.top(), rect.width(), height});
+    return rect.adjusted(0.0, height, 0.0, 0.0);
+}

@@ -1,0 +1,75 @@
+#include "MvProject/MvPhotoFrame.h"
+
+#include "MvFoto/MvFotoAccess.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+double clamped(double value, double minimum, double maximum, double otherwise)
+{
+    return std::isfinite(value) ? std::clamp(value, minimum, maximum) : otherwise;
+}
+
+} // namespace
+
+MvPhotoFrame::MvPhotoFrame(const QString &path, Placement placement)
+    : m_placement(placement)
+{
+    setPath(path);
+}
+
+bool MvPhotoFrame::isMissing() const
+{
+    return isValid() && MvFotoAccess::preferredSize(MvFoto(QFileInfo(m_path))).isEmpty();
+}
+
+void MvPhotoFrame::setPath(const QString &path)
+{
+    m_path = path.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+void MvPhotoFrame::setShare(double share)
+{
+    m_share = clamped(share, minimumShare, maximumShare, defaultShare);
+}
+
+void MvPhotoFrame::setFocus(const QPointF &focus)
+{
+    m_focus = {clamped(focus.x(), 0.0, 1.0, 0.5), clamped(focus.y(), 0.0, 1.0, 0.5)};
+}
+
+QRectF MvPhotoFrame::rect(const MvPageFormat &format) const
+{
+    if (!isValid() || !format.isValid())
+        return {};
+    QRectF rect = format.mediaRect();
+    const QRectF trim = format.trimRect();
+    switch (m_placement) {
+    case Placement::Top:
+        rect.setBottom(m_share * trim.height());
+        break;
+    case Placement::Left:
+        rect.setRight(m_share * trim.width());
+        break;
+    case Placement::Right:
+        rect.setLeft((1.0 - m_share) * trim.width());
+        break;
+    }
+    return rect;
+}
+
+QRectF MvPhotoFrame::crop(const QSizeF &photo, const QSizeF &frame) const
+{
+    if (photo.isEmpty() || frame.isEmpty())
+        return {};
+    const QSizeF seen = frame.scaled(photo, Qt::KeepAspectRatio);
+    const auto start = [](double focus, double whole, double part) {
+        return std::clamp(focus * whole - part / 2.0, 0.0, std::max(0.0, whole - part));
+    };
+    return {{start(m_focus.x(), photo.width(), seen.width()), start(m_focus.y(), photo.height(), seen.height())}, seen};
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "MvProject/MvPageFormat.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+
+/// The photo of a page: which file, where it stands, what of it is seen. A value.
+///
+/// A photo bleeds: it reaches over the trimmed page's edges on three sides and leaves the rest to the calendarium.
+class MVPROJECT_EXPORT MvPhotoFrame
+{
+public:
+    enum class Placement {
+        Top,
+        Left,
+        Right,
+    };
+
+    static constexpr double minimumShare = 0.3;
+    static constexpr double maximumShare = 0.75;
+    static constexpr double defaultShare = 0.55;
+
+    /// No photo.
+    MvPhotoFrame() = default;
+    explicit MvPhotoFrame(const QString &path, Placement placement = Placement::Top);
+
+    /// True when a photo is named, whether or not its file exists.
+    bool isValid() const { return !m_path.isEmpty(); }
+    /// The photo is named, but its file is not there or holds no photo. Looks into the file; any thread.
+    bool isMissing() const;
+
+    /// The absolute path; empty for no photo.
+    QString path() const { return m_path; }
+    /// A relative path counts from the current folder.
+    void setPath(const QString &path);
+
+    Placement placement() const { return m_placement; }
+    void setPlacement(Placement placement) { m_placement = placement; }
+
+    /// The photo's part of the trimmed page's height (at the top) or width (beside it). Clamped to the limits.
+    double share() const { return m_share; }
+    void setShare(double share);
+
+    /// The point of the photo that stays in sight when it is cropped, from (0, 0) at its top left corner to (1, 1).
+    /// Clamped.
+    QPointF focus() const { return m_focus; }
+    void setFocus(const QPointF &focus);
+
+    /// Where the photo stands, with the bleed, in tenths of a millimetre from the trimmed page's corner; empty without
+    /// a photo or with an invalid format.
+    QRectF rect(const MvPageFormat &format) const;
+    /// The part of a photo of the size that is seen in a frame of the other size: as large as can be, of the frame's
+    /// proportions, with the focus as near to its middle as the photo's edges allow.
+    QRectF crop(const QSizeF &photo, const QSizeF &frame) const;
+
+    bool operator==(const MvPhotoFrame &) const = default;
+
+private:
+    QString m_path;
+    Placement m_placement = Placement::Top;
+    double m_share = defaultShare;
+    QPointF m_focus{0.5, 0.5};
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "MvProject/MvPhotoFrame.h"
+
+#include <QCoreApplication>
+#include <QImage>
+
+class QPainter;
+
+/// Paints the photo of a page, decoded at the size that the painter's device needs. Any thread.
+class MvPhotoPainter
+{
+    Q_DECLARE_TR_FUNCTIONS(MvPhotoPainter)
+
+public:
+    MvPhotoPainter(QPainter &painter, const MvPhotoFrame &frame)
+        : m_painter(painter)
+        , m_frame(frame)
+    {}
+
+    /// Fills the rectangle with the photo. Where its file is missing: nothing on print, on a screen a grey field, which
+    /// on an interactive one names the file.
+    void paint(const QRectF &rect);
+
+private:
+    QImage decode(const QSize &full, double devicePixelsPerPhotoPixel) const;
+    void drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect);
+    void paintPlaceholder(const QRectF &rect, bool isNamed);
+
+    QPainter &m_painter;
+    const MvPhotoFrame &m_frame;
+};

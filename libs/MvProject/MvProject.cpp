@@ -1,0 +1,132 @@
+#include "MvProject/MvProject.h"
+
+#include "MvCore/MvFileGuard.h"
+#include "MvCore/MvUndoController.h"
+#include "MvProject/MvProjectFile.h"
+#include "MvProject/MvUndoCommandDocument.h"
+
+MvProject::MvProject(QObject *parent)
+    : QObject(parent)
+    , m_saved(m_document)
+{}
+
+MvProject::~MvProject() = default;
+
+void MvProject::change(const MvCalendarDocument &after, const QString &text, int mergeId)
+{
+    MvUndoController::instance().push(new MvUndoCommandDocument(this, after, text, -1, mergeId));
+}
+
+void MvProject::changePage(int page, const MvCalendarPage &after, const QString &text, int mergeId)
+{
+    MvCalendarDocument document = m_document;
+    document.setPage(page, after);
+    MvUndoController::instance().push(new MvUndoCommandDocument(this, document, text, page, mergeId));
+}
+
+void MvProject::newProject(const MvCalendarDocument &document)
+{
+    m_notes.clear();
+    m_saved = document;
+    replace(document, QFileInfo(), QFileInfo());
+}
+
+bool MvProject::open(const QFileInfo &file, QString *error)
+{
+    const MvProjectFile::Content content = MvProjectFile::read(file);
+    if (error)
+        *error = content.error;
+    if (!content.isRead())
+        return false;
+    m_notes = content.notes;
+    m_saved = content.document;
+    replace(content.document, file, QFileInfo());
+    return true;
+}
+
+void MvProject::openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered)
+{
+    m_notes.clear();
+    m_saved.reset();
+    replace(document, original, recovered);
+}
+
+bool MvProject::save(QString *error)
+{
+    if (m_file.filePath().isEmpty()) {
+        if (error)
+            *error = tr("Das Projekt hat noch keine Datei.");
+        return false;
+    }
+    return saveAs(m_file, error);
+}
+
+bool MvProject::saveAs(const QFileInfo &file, QString *error)
+{
+    const QString writeError = MvProjectFile::write(m_document, file);
+    if (error)
+        *error = writeError;
+    if (!writeError.isEmpty())
+        return false;
+    const bool isOther = file.absoluteFilePath() != m_file.absoluteFilePath() || m_file.filePath().isEmpty();
+    m_file = QFileInfo(file.absoluteFilePath());
+    m_stamp = MvFileGuard::stamp(m_file);
+    m_saved = m_document;
+    m_recoveredFrom = QFileInfo();
+    if (isOther)
+        Q_EMIT fileInfoChanged();
+    updateModified();
+    Q_EMIT saved();
+    return true;
+}
+
+QString MvProject::displayName() const
+{
+    if (!m_file.filePath().isEmpty())
+        return m_file.completeBaseName();
+    return m_document.title().isEmpty() ? tr("Unbenannt") : m_document.title();
+}
+
+bool MvProject::isFileChangedByOthers() const
+{
+    return !m_stamp.isEmpty() && MvFileGuard::stamp(m_file) != m_stamp;
+}
+
+void MvProject::apply(const MvCalendarDocument &document)
+{
+    const MvCalendarDocument before = std::exchange(m_document, document);
+    const bool isReset = before.pageDates() != document.pageDates() || before.range() != document.range() ||
+                         !(before.format() == document.format());
+    if (isReset) {
+        Q_EMIT pagesReset();
+    } else {
+        for (int page = 0; page < document.pages().size(); ++page) {
+            if (!(before.pages()[page] == document.pages()[page]))
+                Q_EMIT pageChanged(page);
+        }
+    }
+    updateModified();
+    Q_EMIT documentChanged();
+}
+
+void MvProject::replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered)
+{
+    MvUndoController::instance().clear();
+    m_document = document;
+    m_file = file.filePath().isEmpty() ? QFileInfo() : QFileInfo(file.absoluteFilePath());
+    m_stamp = m_file.filePath().isEmpty() ? QByteArray() : MvFileGuard::stamp(m_file);
+    m_recoveredFrom = recovered;
+    Q_EMIT documentReplaced();
+    Q_EMIT fileInfoChanged();
+    updateModified();
+    Q_EMIT documentChanged();
+}
+
+void MvProject::updateModified()
+{
+    const bool isModified = !m_saved || !(*m_saved == m_document);
+    if (isModified == m_isModified)
+        return;
+    m_isModified = isModified;
+    Q_EMIT modifiedChanged(isModified);
+}

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QByteArray>
+#include <QFileInfo>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// The open project: a document, the file it belongs to, and whether that has its present state. Every change is a step
+/// that MvUndoController can take back. GUI thread.
+///
+/// Personal entries are no part of it: they are saved as soon as they change.
+class MVPROJECT_EXPORT MvProject : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MvProject(QObject *parent = nullptr);
+    ~MvProject() override;
+
+    const MvCalendarDocument &document() const { return m_document; }
+
+    /// Does a change as one step with the text for menus; nothing happens when nothing changes. Steps with the same
+    /// merge id, not negative, that follow each other within a second become one.
+    void change(const MvCalendarDocument &after, const QString &text, int mergeId = -1);
+    /// The same with one page, counted from 0; steps merge on the same page only.
+    void changePage(int page, const MvCalendarPage &after, const QString &text, int mergeId = -1);
+
+    /// Begins with a document that no file belongs to. What was open before is given up, and its undo steps with it.
+    void newProject(const MvCalendarDocument &document);
+    /// Opens a file. When it cannot be read, what was open stays, and the error says for a person what, where and what
+    /// to do.
+    bool open(const QFileInfo &file, QString *error = nullptr);
+    /// Goes on with a document that was not saved to its file: the project is modified. The file may be none.
+    void openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered);
+    /// What of the file that was opened last could not be taken as it stands there, for a person.
+    const QStringList &notes() const { return m_notes; }
+
+    /// Writes the file; without one, an error.
+    bool save(QString *error = nullptr);
+    /// Writes another file, which then belongs to the project.
+    bool saveAs(const QFileInfo &file, QString *error = nullptr);
+
+    /// The file that the project belongs to; one without a path for a new project.
+    QFileInfo fileInfo() const { return m_file; }
+    /// The file's name without its suffix; for a new project its title, or "Unbenannt".
+    QString displayName() const;
+    /// The document differs from what was opened or saved.
+    bool isModified() const { return m_isModified; }
+    /// Somebody else has written or removed the file since it was opened or saved.
+    bool isFileChangedByOthers() const;
+    /// The file that a recovered document was read from, until it is saved; else one without a path.
+    QFileInfo recoveredFrom() const { return m_recoveredFrom; }
+
+Q_SIGNALS:
+    /// One page looks different.
+    void pageChanged(int page);
+    /// The number of pages, their months or their paper changed: everything is to be looked at anew.
+    void pagesReset();
+    /// Another project was opened.
+    void documentReplaced();
+    /// The document changed in any way, after the signals above.
+    void documentChanged();
+    void modifiedChanged(bool isModified);
+    void fileInfoChanged();
+    /// The file has the present state.
+    void saved();
+
+private:
+    friend class MvUndoCommandDocument;
+
+    /// Makes it the present state, for commands.
+    void apply(const MvCalendarDocument &document);
+    void replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered);
+    void updateModified();
+
+    MvCalendarDocument m_document;
+    std::optional<MvCalendarDocument> m_saved; // none for a recovered one: it differs from any file
+    QFileInfo m_file;
+    QByteArray m_stamp; // of the file, when it was read or written
+    QFileInfo m_recoveredFrom;
+    QStringList m_notes;
+    bool m_isModified = false;
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QString>
+#include <QStringList>
+
+/// Project files: a document as XML (docs/file-formats.md), reading and writing, without any state.
+class MVPROJECT_EXPORT MvProjectFile
+{
+    Q_DECLARE_TR_FUNCTIONS(MvProjectFile)
+
+public:
+    struct Content
+    {
+        MvCalendarDocument document;
+        QString error;        // for a person: file, place, what to do; empty when the file was read
+        QStringList notes;    // for a person: what could not be taken as it stands
+        QString originalPath; // of a recovered document: the file it belongs to; empty for a new project
+
+        bool isRead() const { return error.isEmpty(); }
+    };
+
+    /// The suffix of project files, without a dot: "mvcalendar".
+    static QString suffix();
+
+    /// Reads a file; the document is only to be used when there is no error.
+    static Content read(const QFileInfo &file);
+
+    /// Writes the file in one go, with backups. Gives an error for a person, with the file; an empty one when it is in
+    /// place. Any thread.
+    static QString write(const MvCalendarDocument &document, const QFileInfo &file);
+
+    /// The whole file. Photos below the folder are written relative to it. The original path is for recovery.
+    static QByteArray toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath = {});
+};

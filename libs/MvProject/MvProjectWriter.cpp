@@ -1,0 +1,139 @@
+#include "MvProject/MvProjectWriter.h"
+
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvProject/MvProjectVocabulary.h"
+#include "MvXML/MvXMLBuilder.h"
+
+#include <QDomDocument>
+#include <QXmlStreamWriter>
+
+#include <algorithm>
+
+using namespace MvProjectVocabulary;
+
+namespace {
+
+QString monthText(const QDate &month)
+{
+    return month.toString(monthFormat);
+}
+
+void addIfAny(QDomElement &element, const QString &name, const QString &value)
+{
+    if (!value.isEmpty())
+        MvXMLBuilder::addAttribute(element, name, value);
+}
+
+/// As a document writes itself, but with the attributes in order: two versions of a file can be compared.
+void writeInOrder(QXmlStreamWriter &writer, const QDomElement &element)
+{
+    writer.writeStartElement(element.tagName());
+    const QDomNamedNodeMap attributes = element.attributes();
+    QList<QDomAttr> sorted;
+    for (int i = 0; i < attributes.count(); ++i)
+        sorted.append(attributes.item(i).toAttr());
+    std::sort(sorted.begin(), sorted.end(), [](const QDomAttr &a, const QDomAttr &b) { return a.name() < b.name(); });
+    for (const QDomAttr &attribute : std::as_const(sorted))
+        writer.writeAttribute(attribute.name(), attribute.value());
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isElement())
+            writeInOrder(writer, child.toElement());
+        else if (child.isText())
+            writer.writeCharacters(child.nodeValue());
+    }
+    writer.writeEndElement();
+}
+
+} // namespace
+
+QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QString &originalPath) const
+{
+    QDomDocument dom;
+    QDomElement rootElement = MvXMLBuilder::buildRootElement(dom, root);
+    MvXMLBuilder::addAttribute(rootElement, versionKey, version);
+    addIfAny(rootElement, titleKey, document.title());
+    addIfAny(rootElement, authorKey, document.author());
+    addIfAny(rootElement, originalKey, originalPath);
+    writePaper(rootElement, document.format());
+    QDomElement rangeElement = MvXMLBuilder::buildDomElement(rootElement, range);
+    MvXMLBuilder::addAttribute(rangeElement, firstKey, monthText(document.range().start()));
+    MvXMLBuilder::addAttribute(rangeElement, lastKey, monthText(document.range().end()));
+    for (const MvCalendarPage &page : document.pages())
+        writePage(rootElement, page);
+    for (const auto &[month, photo] : document.sparePhotos().asKeyValueRange()) {
+        QDomElement element = MvXMLBuilder::buildDomElement(rootElement, sparePhoto);
+        MvXMLBuilder::addAttribute(element, monthKey, monthText(month));
+        writePhoto(element, photo);
+    }
+
+    QByteArray bytes;
+    QXmlStreamWriter writer(&bytes);
+    writer.setAutoFormatting(true);
+    writer.setAutoFormattingIndent(2);
+    writer.writeStartDocument();
+    writeInOrder(writer, rootElement);
+    writer.writeEndDocument();
+    return bytes;
+}
+
+void MvProjectWriter::writePaper(QDomElement &root, const MvPageFormat &format) const
+{
+    QDomElement element = MvXMLBuilder::buildDomElement(root, paper);
+    MvXMLBuilder::addAttribute(element, widthKey, format.trimSize().width());
+    MvXMLBuilder::addAttribute(element, heightKey, format.trimSize().height());
+    MvXMLBuilder::addAttribute(element, bleedKey, format.bleed());
+}
+
+void MvProjectWriter::writePage(QDomElement &root, const MvCalendarPage &page) const
+{
+    QDomElement element = MvXMLBuilder::buildDomElement(root, MvProjectVocabulary::page);
+    MvXMLBuilder::addAttribute(element, monthKey, monthText(page.contentConfig().date()));
+    QDomElement calendariumElement = MvXMLBuilder::buildDomElement(element, calendarium);
+    writeCalendarium(calendariumElement, page);
+    QDomElement contentElement = MvXMLBuilder::buildDomElement(element, content);
+    writeContent(contentElement, page.contentConfig());
+    if (page.photoFrame().isValid()) {
+        QDomElement photoElement = MvXMLBuilder::buildDomElement(element, photo);
+        writePhoto(photoElement, page.photoFrame());
+    }
+}
+
+void MvProjectWriter::writeCalendarium(QDomElement &element, const MvCalendarPage &page) const
+{
+    const MvCalendariumAppearance &appearance = page.appearance();
+    appearance.write(element, true);
+    if (page.unknownLayout().isValid())
+        page.unknownLayout().write(element);
+    if (page.unknownColors().isValid()) {
+        element.removeChild(element.firstChildElement(colorsKey));
+        page.unknownColors().write(element);
+    }
+    // what belongs to the schema, but was changed on this page
+    if (appearance.overriddenShowCalendarWeek())
+        MvXMLBuilder::addAttribute(element, weeksKey, true);
+    const MvCalendariumLayoutSchema registered =
+        MvCalendariumLayoutSchemaRegistry::instance().findSchema(appearance.layoutSchema().ID());
+    if (registered.renderingInformation() != appearance.renderingInformation())
+        MvXMLBuilder::addAttribute(element, renderingKey, appearance.renderingInformation().encodeCSV());
+}
+
+void MvProjectWriter::writeContent(QDomElement &element, const MvCalendariumContentConfig &content) const
+{
+    const MvCalendariumHolidayConfig config = content.holidayConfig();
+    MvXMLBuilder::addAttribute(element, languageKey, config.language().name());
+    addIfAny(element, regionKey, config.province());
+    MvXMLBuilder::addAttribute(element, featuresKey, config.features().encodeCSV());
+    addIfAny(element, weekHeadKey, content.calendarWeekHeadlineOption().pattern());
+    addIfAny(element, weekTextKey, content.calendarWeekTextOption().pattern());
+}
+
+void MvProjectWriter::writePhoto(QDomElement &element, const MvPhotoFrame &photo) const
+{
+    const QString relative = m_folder.relativeFilePath(photo.path());
+    const bool isBelow = QDir::isRelativePath(relative) && !relative.startsWith(QStringLiteral("../"));
+    MvXMLBuilder::addAttribute(element, pathKey, isBelow ? relative : photo.path());
+    MvXMLBuilder::addAttribute(element, placementKey, placements.value(int(photo.placement())));
+    MvXMLBuilder::addAttribute(element, shareKey, photo.share());
+    MvXMLBuilder::addAttribute(element, focusXKey, photo.focus().x());
+    MvXMLBuilder::addAttribute(element, focusYKey, photo.focus().y());
+}
