@@ -61,16 +61,12 @@ void MvPagePhoto::choose()
     dialog->open();
 }
 
-void MvPagePhoto::set(const QString &path)
+bool MvPagePhoto::set(MvProject *project, int page, const QString &path)
 {
-    const QFileInfo file(path);
-    if (MvImageLoader::format(file).isEmpty()) {
-        Q_EMIT message(tr("„%1“ ist kein Foto, das gelesen werden kann. Möglich sind JPEG, PNG, TIFF, WebP, BMP und GIF.")
-                           .arg(file.fileName()));
-        return;
-    }
-    const MvPhotoFrame added = frameFor(path, m_project->document().format());
-    change(tr("Foto einfügen"), [&](MvPhotoFrame &frame) {
+    if (MvImageLoader::format(QFileInfo(path)).isEmpty())
+        return false;
+    const MvPhotoFrame added = frameFor(path, project->document().format());
+    change(project, page, tr("Foto einfügen"), [&](MvPhotoFrame &frame) {
         if (frame.isValid()) {
             frame.setPath(path);
             frame.setFocus({0.5, 0.5});
@@ -78,7 +74,18 @@ void MvPagePhoto::set(const QString &path)
             frame = added;
         }
     });
-    Q_EMIT message(tr("„%1“ ist jetzt das Foto der Seite.").arg(file.fileName()));
+    return true;
+}
+
+void MvPagePhoto::set(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    if (set(m_project, m_item->page(), path))
+        Q_EMIT message(tr("„%1“ ist jetzt das Foto der Seite.").arg(name));
+    else
+        Q_EMIT message(
+            tr("„%1“ ist kein Foto, das gelesen werden kann. Möglich sind JPEG, PNG, TIFF, WebP, BMP und GIF.")
+                .arg(name));
 }
 
 void MvPagePhoto::remove()
@@ -144,12 +151,18 @@ void MvPagePhoto::addSizes(QMenu *menu)
 
 void MvPagePhoto::change(const QString &text, const std::function<void(MvPhotoFrame &)> &edit)
 {
-    const QList<MvCalendarPage> &pages = m_project->document().pages();
-    if (m_item->page() < 0 || m_item->page() >= pages.size())
+    change(m_project, m_item->page(), text, edit);
+}
+
+void MvPagePhoto::change(MvProject *project, int page, const QString &text,
+                         const std::function<void(MvPhotoFrame &)> &edit)
+{
+    const QList<MvCalendarPage> &pages = project->document().pages();
+    if (page < 0 || page >= pages.size())
         return;
-    MvCalendarPage page = pages.at(m_item->page());
-    MvPhotoFrame frame = page.photoFrame();
+    MvCalendarPage changed = pages.at(page);
+    MvPhotoFrame frame = changed.photoFrame();
     edit(frame);
-    page.setPhotoFrame(frame);
-    m_project->changePage(m_item->page(), page, text);
+    changed.setPhotoFrame(frame);
+    project->changePage(page, changed, text);
 }

@@ -26,6 +26,8 @@ public:
     /// Makes a file the photo; where there is one already, it takes its place. Files that are no photos change nothing
     /// and say so.
     void set(const QString &path);
+    /// The same for any page; false when the file is no photo.
+    static bool set(MvProject *project, int page, const QString &path);
     void remove();
     /// The actions for the page's photo, for menus.
     void addActions(QMenu *menu);
@@ -42,6 +44,8 @@ private:
     void addPlacements(QMenu *menu);
     void addSizes(QMenu *menu);
     void change(const QString &text, const std::function<void(MvPhotoFrame &)> &edit);
+    static void change(MvProject *project, int page, const QString &text,
+                       const std::function<void(MvPhotoFrame &)> &edit);
 
     MvProject *m_project;
     MvPageItem *m_item;
