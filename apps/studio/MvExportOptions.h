@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/// What is to be exported, and where to.
+struct MvExportOptions
+{
+    enum class Kind {
+        Pdf,
+        Png,
+    };
+
+    Kind kind = Kind::Pdf;
+    QString target; // absolute: the PDF, or the pattern for the files of the pictures
+    QList<int> pages; // counted from 0
+    int dpi = 300;    // of pictures
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QList>
+
+class QAction;
+class QDialog;
+class QWidget;
+
+/// What the help menu shows.
+class MvHelpDialogs
+{
+    Q_DECLARE_TR_FUNCTIONS(MvHelpDialogs)
+
+public:
+    /// The actions that have shortcuts, as a table. Opened; deletes itself.
+    static QDialog *openShortcuts(const QList<QAction *> &actions, QWidget *parent);
+    static QDialog *openAbout(QWidget *parent);
+};

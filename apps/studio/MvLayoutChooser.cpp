@@ -1,0 +1,178 @@
+#include "MvLayoutChooser.h"
+
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvIdleImages.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int idRole = Qt::UserRole;
+constexpr QSize pictureSize(176, 132); // logical pixels
+
+QImage emptyPicture(double ratio)
+{
+    QImage image(pictureSize * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+/// The page of the format, as large as it can be within the picture.
+QRectF sheetRect(const MvPageFormat &format)
+{
+    const QSizeF sheet = format.trimSize().scaled(QSizeF(pictureSize) - QSizeF(4, 4), Qt::KeepAspectRatio);
+    return {QPointF((pictureSize.width() - sheet.width()) / 2.0, (pictureSize.height() - sheet.height()) / 2.0), sheet};
+}
+
+/// Layouts that are only a part of a page, such as the line with the month, are not offered.
+bool isWholePage(const MvCalendariumLayoutSchema &schema)
+{
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(schema);
+    return appearance.rendererShowsDays();
+}
+
+} // namespace
+
+MvLayoutChooser::MvLayoutChooser(QWidget *parent)
+    : QWidget(parent)
+    , m_list(new QListWidget(this))
+    , m_description(new QLabel(this))
+    , m_images(new MvIdleImages([this](int number) { return makePicture(number); }, this))
+{
+    m_list->setObjectName(u"layoutList"_s);
+    m_list->setAccessibleName(tr("Layouts"));
+    m_list->setViewMode(QListView::IconMode);
+    m_list->setMovement(QListView::Static);
+    m_list->setResizeMode(QListView::Adjust);
+    m_list->setIconSize(pictureSize);
+    m_list->setSpacing(4);
+    m_list->setWordWrap(true);
+    m_list->setUniformItemSizes(true);
+    m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    const int textHeight = 2 * m_list->fontMetrics().height() + 10;
+    m_list->setGridSize({pictureSize.width() + 20, pictureSize.height() + textHeight + 8});
+    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        if (!isWholePage(schema))
+            continue;
+        auto *item = new QListWidgetItem(schema.name(), m_list);
+        item->setData(idRole, schema.ID().toString());
+        item->setToolTip(schema.description());
+        item->setData(Qt::AccessibleDescriptionRole, schema.description());
+        item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    }
+    m_description->setWordWrap(true);
+    m_description->setObjectName(u"layoutDescription"_s);
+    m_description->setMinimumHeight(2 * m_description->fontMetrics().lineSpacing());
+    m_description->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->addWidget(m_list, 1);
+    column->addWidget(m_description);
+
+    connect(m_images, &MvIdleImages::imageReady, this, &MvLayoutChooser::showPicture);
+    connect(m_list, &QListWidget::currentRowChanged, this, [this] {
+        describeCurrent();
+        Q_EMIT layoutIdChanged();
+    });
+    connect(m_list, &QListWidget::itemActivated, this, &MvLayoutChooser::activated);
+    setFocusProxy(m_list);
+}
+
+MvLayoutChooser::~MvLayoutChooser() = default;
+
+void MvLayoutChooser::setDocument(const MvCalendarDocument &document)
+{
+    m_document = MvCalendarDocument();
+    m_document.setAppearance(document.appearance());
+    m_document.setHolidayConfig(document.holidayConfig());
+    m_document.setFormat(document.format());
+    const QDate start = document.range().start();
+    m_document.setRange({start, start.addMonths(12).addDays(-1)});
+    QPixmap blank = QPixmap::fromImage(emptyPicture(devicePixelRatioF()));
+    QPainter painter(&blank);
+    painter.fillRect(sheetRect(m_document.format()), palette().alternateBase());
+    painter.end();
+    for (int row = 0; row < m_list->count(); ++row)
+        if (m_list->item(row)->icon().isNull())
+            m_list->item(row)->setIcon(QIcon(blank));
+    m_images->reset(m_list->count());
+    if (!layoutId().isValid())
+        setLayoutId(document.appearance().layoutSchema().ID());
+}
+
+MvCalendariumLayoutSchemaID MvLayoutChooser::layoutId() const
+{
+    const QListWidgetItem *item = m_list->currentItem();
+    return item ? MvCalendariumLayoutSchemaID(item->data(idRole).toString()) : MvCalendariumLayoutSchemaID();
+}
+
+void MvLayoutChooser::setLayoutId(const MvCalendariumLayoutSchemaID &id)
+{
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->data(idRole).toString() != id.toString())
+            continue;
+        m_list->setCurrentRow(row);
+        m_list->scrollToItem(m_list->item(row));
+    }
+}
+
+MvCalendariumAppearance MvLayoutChooser::withLayout(const MvCalendariumAppearance &appearance,
+                                                    const MvCalendariumLayoutSchemaID &id)
+{
+    MvCalendariumAppearance changed = appearance;
+    changed.setLayoutSchemaByID(id);
+    changed.adoptLayoutSuggestions();
+    changed.adaptGridToLayout();
+    return changed;
+}
+
+QImage MvLayoutChooser::makePicture(int number) const
+{
+    const QListWidgetItem *item = m_list->item(number);
+    if (!item)
+        return {};
+    MvCalendarDocument document = m_document;
+    document.setAppearance(
+        withLayout(document.appearance(), MvCalendariumLayoutSchemaID(item->data(idRole).toString())));
+    QImage image = emptyPicture(devicePixelRatioF());
+    const QRectF sheet = sheetRect(document.format());
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    painter.fillRect(sheet, Qt::white);
+    painter.save();
+    painter.setClipRect(sheet);
+    painter.translate(sheet.topLeft());
+    painter.scale(sheet.width() / document.format().trimSize().width(),
+                  sheet.height() / document.format().trimSize().height());
+    document.paint(painter, 0);
+    painter.restore();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(sheet);
+    return image;
+}
+
+void MvLayoutChooser::showPicture(int number)
+{
+    if (QListWidgetItem *item = m_list->item(number)) {
+        QIcon icon;
+        const QPixmap picture = QPixmap::fromImage(m_images->image(number));
+        icon.addPixmap(picture);
+        icon.addPixmap(picture, QIcon::Selected); // a page keeps its colours when it is chosen
+        item->setIcon(icon);
+    }
+}
+
+void MvLayoutChooser::describeCurrent()
+{
+    const QListWidgetItem *item = m_list->currentItem();
+    m_description->setText(item ? item->toolTip() : QString());
+}

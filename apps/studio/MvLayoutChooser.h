@@ -1,0 +1,45 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+
+#include <QWidget>
+
+class MvIdleImages;
+class QLabel;
+class QListWidget;
+
+/// The layouts as small pictures of a page. The pictures arrive after the chooser is shown, one by one.
+class MvLayoutChooser : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MvLayoutChooser(QWidget *parent = nullptr);
+    ~MvLayoutChooser() override;
+
+    /// Pictures are made with colours, holidays, paper and first month of the document; its layout is selected.
+    void setDocument(const MvCalendarDocument &document);
+
+    /// An invalid id when nothing is selected.
+    MvCalendariumLayoutSchemaID layoutId() const;
+    void setLayoutId(const MvCalendariumLayoutSchemaID &id);
+
+    /// The appearance with another layout and what that suggests; colours and fonts stay.
+    static MvCalendariumAppearance withLayout(const MvCalendariumAppearance &appearance,
+                                              const MvCalendariumLayoutSchemaID &id);
+
+Q_SIGNALS:
+    void layoutIdChanged();
+    /// Chosen for good, by a double click or the return key.
+    void activated();
+
+private:
+    QImage makePicture(int number) const;
+    void showPicture(int number);
+    void describeCurrent();
+
+    QListWidget *m_list;
+    QLabel *m_description;
+    MvIdleImages *m_images;
+    MvCalendarDocument m_document;
+};

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+
+#include <QWidget>
+
+class MvSpinBox;
+class QComboBox;
+class QDoubleSpinBox;
+class QLabel;
+
+/// Paper, orientation, bleed and months of a calendar.
+class MvPageSetupEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int mostMonths = 36;
+
+    explicit MvPageSetupEditor(QWidget *parent = nullptr);
+
+    void setFormat(const MvPageFormat &format);
+    MvPageFormat format() const;
+
+    /// Its first month and the number of months count.
+    void setRange(const MvDateRange &range);
+    MvDateRange range() const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void addPaper();
+    void addMonths();
+    void onChanged();
+    bool isOwnPaper() const;
+
+    QComboBox *m_month;
+    MvSpinBox *m_year;
+    MvSpinBox *m_months;
+    QLabel *m_until;
+    QComboBox *m_paper;
+    QComboBox *m_orientation;
+    QDoubleSpinBox *m_width;
+    QDoubleSpinBox *m_height;
+    QDoubleSpinBox *m_bleed;
+};

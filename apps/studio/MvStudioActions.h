@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+
+class QAction;
+
+/// The actions of the window by what they do, each with icon, status tip, shortcut and object name.
+class MvStudioActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum Id {
+        New,
+        Open,
+        Save,
+        SaveAs,
+        ExportPdf,
+        ExportPng,
+        Print,
+        ImportBirthdays,
+        Quit,
+        Layout,
+        PageSetup,
+        ChoosePhoto,
+        RemovePhoto,
+        Settings,
+        ZoomIn,
+        ZoomOut,
+        ZoomFit,
+        Zoom100,
+        FullScreen,
+        Welcome,
+        NextPage,
+        PreviousPage,
+        FirstPage,
+        LastPage,
+        Shortcuts,
+        About,
+    };
+
+    /// The parent owns the actions, and their shortcuts hold in its window.
+    explicit MvStudioActions(QWidget *parent);
+
+    QAction *action(Id id) const { return m_actions.value(id); }
+    /// In the order of the menus.
+    QList<QAction *> actions() const { return m_inOrder; }
+
+private:
+    QHash<int, QAction *> m_actions;
+    QList<QAction *> m_inOrder;
+};

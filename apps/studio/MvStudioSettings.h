@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+/// What the studio remembers from one start to the next; stored at once.
+class MvStudioSettings
+{
+public:
+    static constexpr int mostRecentFiles = 10;
+
+    enum class Theme {
+        System,
+        Light,
+        Dark,
+    };
+
+    /// "de", "en", or empty for the system's.
+    static QString language();
+    static void setLanguage(const QString &language);
+
+    static Theme theme();
+    static void setTheme(Theme theme);
+    /// "system", "light" and "dark"; anything else is the system's.
+    static Theme themeOf(const QString &name);
+    static QString nameOf(Theme theme);
+
+    /// Absolute paths, the newest first; they need not exist any more.
+    static QStringList recentFiles();
+    static void addRecentFile(const QString &path);
+    static void removeRecentFile(const QString &path);
+    static void clearRecentFiles();
+
+    /// The folder where a file of a kind ("project", "export", "contacts") was last looked for; the user's documents
+    /// at first.
+    static QString folder(const QString &kind);
+    static void setFolder(const QString &kind, const QString &path);
+
+    static QByteArray windowGeometry();
+    static QByteArray windowState();
+    static void setWindow(const QByteArray &geometry, const QByteArray &state);
+
+    /// Whether the three ways in are shown at the start; until the user closes them.
+    static bool isWelcomeShown();
+    static void setWelcomeShown(bool shown);
+
+    /// Any value of a dialog that it offers again next time.
+    static QString text(const QString &key, const QString &defaultValue = {});
+    static void setText(const QString &key, const QString &value);
+};

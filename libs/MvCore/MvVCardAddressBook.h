@@ -1,0 +1,27 @@
+#pragma once
+
+#include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/mvcore_export.h"
+
+#include <QFileInfo>
+#include <QList>
+#include <QString>
+
+/// The address book of a system that keeps contacts as visiting cards in files.
+class MVCORE_EXPORT MvVCardAddressBook : public MvPlatformIndependent
+{
+public:
+    /// The files with the contacts. Without any: those in the folder "contacts" of the user's data, where some desktops
+    /// keep them.
+    void setFiles(const QList<QFileInfo> &files) { m_files = files; }
+    QList<QFileInfo> files() const;
+
+    /// Everybody with a birthday or an anniversary, each once.
+    MvSimplePersonList addressBookContacts() override;
+    /// Why files could not be read at the last time, for a person, one a line.
+    QString lastError() const { return m_lastError; }
+
+private:
+    QList<QFileInfo> m_files;
+    QString m_lastError;
+};
