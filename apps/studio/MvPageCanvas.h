@@ -2,10 +2,10 @@
 
 #include <QDate>
 #include <QGraphicsView>
-#include <QPointer>
 
 class MvPageDropTarget;
 class MvPageItem;
+class MvPagePhoto;
 class MvPhotoHandle;
 class MvProject;
 class QMenu;
@@ -64,6 +64,7 @@ Q_SIGNALS:
     void message(const QString &text);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
@@ -82,26 +83,31 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    void onPagesReset();
+    void onDocumentReplaced();
     void onRefreshed();
+    void applyPalette();
     void applyZoom(double zoom, const QPointF &fixedPoint);
     double fittingZoom() const;
     double pixelsPerUnit() const;
-    bool zoomByGesture(QEvent *event);
-    bool moveFocusDate(int key);
-    void openMenuForFocusDate();
-    bool movePhotoByKey(int key);
-    void updateDescription();
+    void updateHand();
     QDate dateAt(const QPoint &position) const;
-    void addPhotoActions(QMenu *menu);
-    void setPanning(bool panning);
+    QDate showDropTarget(const QDropEvent *event);
+    QDate firstDate() const;
+    void moveFocusDate(int key);
+    QDate neighbourOf(const QDate &date, const QPointF &direction) const;
+    void movePhoto(int key);
+    void openMenuForFocusDate();
+    void updateDescription();
 
     MvProject *m_project;
     QGraphicsScene *m_scene;
     MvPageItem *m_item;
+    MvPagePhoto *m_photo;
     MvPhotoHandle *m_photoHandle;
     MvPageDropTarget *m_dropTarget;
+    QString m_draggedPhoto;
     QDate m_focusDate;
+    QDate m_wantedDate; // becomes the focus date with the page that is about to be shown
     QPoint m_panFrom;
     bool m_isPanning = false;
     bool m_isSpaceDown = false;

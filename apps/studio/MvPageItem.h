@@ -48,6 +48,9 @@ public:
     QRectF dateRect(const QDate &date) const { return m_dates.value(date); }
     QList<QDate> dates() const; ///< in their order
 
+    /// How large the page is shown at most, for the photos of entries in the recording; smaller values change nothing.
+    void setPixelsPerUnit(double pixels);
+
     /// Records what changed now, instead of on the next turn of the event loop.
     void refreshNow();
     const MvPaintRecording &recording() const { return m_recording; }
@@ -95,5 +98,6 @@ private:
     QHash<QDate, QRectF> m_dates;
     Cache m_cache;
     QBasicTimer m_timer;
+    double m_pixelsPerUnit = 0.5;
     int m_page = 0;
 };

@@ -3,6 +3,7 @@
 #include <QListView>
 
 class MvIdleImages;
+class MvPageStripDelegate;
 class MvPageStripModel;
 class MvProject;
 class MvScreenPhotos;
@@ -35,12 +36,13 @@ Q_SIGNALS:
     void pageActivated(int page);
 
 protected:
-    void changeEvent(QEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool event(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
     void showEvent(QShowEvent *event) override;
@@ -48,15 +50,15 @@ protected:
 private:
     void onPagesReset();
     void onPhotoLoaded(const QString &path);
-    void onThumbnailReady(int page);
     void preferVisible();
     void adaptToWidth();
     QImage makeThumbnail(int page);
 
     MvProject *m_project;
-    MvPageStripModel *m_model;
     MvIdleImages *m_images;
     MvScreenPhotos *m_photos;
+    MvPageStripModel *m_model;
+    MvPageStripDelegate *m_delegate;
     QSize m_thumbnailSize; // logical pixels
     bool m_isMarking = false;
 };

@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -50,6 +51,13 @@ QImage MvScreenPhotos::photo(const QString &path, const QSize &bounds)
     if (!isGoodEnough && !state.unreadable && !covers(state.decoding, wanted))
         startDecoding(path, wanted);
     return image != nullptr ? *image : QImage();
+}
+
+QSize MvScreenPhotos::boundsFor(const QRectF &frame)
+{
+    constexpr double reserve = 1.5; // an upright photo of 2:3 in a frame that lies
+    const int side = int(std::ceil(reserve * std::max(frame.width(), frame.height())));
+    return {side, side};
 }
 
 void MvScreenPhotos::clear()

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QImage>
 #include <QObject>
+#include <QRectF>
 #include <QSize>
 #include <QString>
 #include <QThreadPool>
@@ -25,6 +26,9 @@ public:
     /// The photo, as large as it fits into the bounds (pixels), but never larger than its file has it. Null when it is
     /// not there yet: loaded() follows. While a larger version is being decoded, the smaller one is given.
     QImage photo(const QString &path, const QSize &bounds);
+
+    /// The bounds for a photo that is to cover a frame (pixels), whatever its proportions within reason.
+    static QSize boundsFor(const QRectF &frame);
 
     /// True once a file has turned out not to be a photo that can be read.
     bool isUnreadable(const QString &path) const { return m_states.value(path).unreadable; }

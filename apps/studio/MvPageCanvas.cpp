@@ -1,0 +1,589 @@
+#include "MvPageCanvas.h"
+
+#include "MvPageDropTarget.h"
+#include "MvPageItem.h"
+#include "MvPagePhoto.h"
+#include "MvPhotoHandle.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvCore/MvApplicationLocale.h"
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvProject/MvProject.h"
+
+#include <QAccessible>
+#include <QContextMenuEvent>
+#include <QGestureEvent>
+#include <QMenu>
+#include <QNativeGestureEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double zoomStep = 1.25;
+constexpr double unitsPerInch = 254.0; // tenths of a millimetre
+constexpr int fittingMargin = 8;       // pixels
+constexpr double photoStep = 0.05;     // of the frame, per key
+
+} // namespace
+
+MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
+    : QGraphicsView(parent)
+    , m_project(project)
+    , m_scene(new QGraphicsScene(this))
+    , m_item(new MvPageItem(project))
+    , m_photo(new MvPagePhoto(project, m_item, this))
+    , m_photoHandle(new MvPhotoHandle(project, m_item))
+    , m_dropTarget(new MvPageDropTarget(m_item))
+{
+    setObjectName(u"pageCanvas"_s);
+    setAccessibleName(tr("Kalenderseite"));
+    setFrameShape(QFrame::NoFrame);
+    setAlignment(Qt::AlignCenter);
+    setAcceptDrops(true);
+    setTransformationAnchor(NoAnchor);
+    setViewportUpdateMode(MinimalViewportUpdate);
+    // reaches the painter of every item, so that the cells of dates light up here and in no print
+    setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
+                   QPainter::RenderHints::fromInt(MvRenderingRule::InteractiveScreen));
+    viewport()->grabGesture(Qt::PinchGesture);
+    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex); // some dozens of items that come and go
+    m_scene->addItem(m_item);
+    setScene(m_scene);
+    applyPalette();
+    connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
+    connect(m_photo, &MvPagePhoto::message, this, &MvPageCanvas::message);
+    connect(project, &MvProject::pagesReset, this, [this] { setCurrentPage(currentPage()); });
+    connect(project, &MvProject::documentReplaced, this, &MvPageCanvas::onDocumentReplaced);
+    onRefreshed();
+}
+
+MvPageCanvas::~MvPageCanvas()
+{
+    delete m_item; // before the project's signals and the scene go
+}
+
+int MvPageCanvas::currentPage() const
+{
+    return m_item->page();
+}
+
+void MvPageCanvas::setCurrentPage(int page)
+{
+    const int last = int(m_project->document().pages().size()) - 1;
+    const int clamped = std::clamp(page, 0, std::max(0, last));
+    if (clamped == currentPage())
+        return;
+    m_photoHandle->cancelDrag();
+    m_item->setPage(clamped);
+    Q_EMIT currentPageChanged(clamped);
+}
+
+void MvPageCanvas::nextPage()
+{
+    setCurrentPage(currentPage() + 1);
+}
+
+void MvPageCanvas::previousPage()
+{
+    setCurrentPage(currentPage() - 1);
+}
+
+void MvPageCanvas::onDocumentReplaced()
+{
+    setFocusDate({});
+    setCurrentPage(0);
+    zoomToFit();
+}
+
+/// The page's rectangles are new: what stands on them follows.
+void MvPageCanvas::onRefreshed()
+{
+    m_scene->setSceneRect(m_item->boundingRect());
+    if (m_isFitted)
+        zoomToFit();
+    const QDate wanted = m_wantedDate.isValid() ? m_wantedDate : m_focusDate;
+    m_wantedDate = {};
+    m_focusDate = {};
+    setFocusDate(wanted);
+    updateDescription();
+    viewport()->update();
+}
+
+// ---------------------------------------------------------------------------------------------------- zoom and scroll
+
+double MvPageCanvas::pixelsPerUnit() const
+{
+    return logicalDpiX() / unitsPerInch;
+}
+
+double MvPageCanvas::zoom() const
+{
+    return transform().m11() / pixelsPerUnit();
+}
+
+double MvPageCanvas::fittingZoom() const
+{
+    const QRectF page = m_item->boundingRect();
+    if (page.isEmpty())
+        return 1.0;
+    const QSizeF room = maximumViewportSize() - QSize(2 * fittingMargin, 2 * fittingMargin);
+    return std::min(room.width() / page.width(), room.height() / page.height()) / pixelsPerUnit();
+}
+
+void MvPageCanvas::zoomToFit()
+{
+    m_isFitted = true;
+    applyZoom(fittingZoom(), viewport()->rect().center());
+}
+
+void MvPageCanvas::setZoom(double zoom)
+{
+    m_isFitted = false;
+    applyZoom(zoom, viewport()->rect().center());
+}
+
+void MvPageCanvas::zoomIn()
+{
+    setZoom(zoom() * zoomStep);
+}
+
+void MvPageCanvas::zoomOut()
+{
+    setZoom(zoom() / zoomStep);
+}
+
+/// The point of the viewport keeps its place on the page.
+void MvPageCanvas::applyZoom(double zoom, const QPointF &fixedPoint)
+{
+    const double scale = std::clamp(zoom, minimumZoom, maximumZoom) * pixelsPerUnit();
+    m_item->setPixelsPerUnit(scale * devicePixelRatioF());
+    if (qFuzzyCompare(scale, transform().m11()))
+        return;
+    const QPointF onPage = viewportTransform().inverted().map(fixedPoint);
+    setTransform(QTransform::fromScale(scale, scale));
+    const QPointF moved = viewportTransform().map(onPage) - fixedPoint;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));
+    Q_EMIT zoomChanged(this->zoom());
+}
+
+void MvPageCanvas::resizeEvent(QResizeEvent *event)
+{
+    QGraphicsView::resizeEvent(event);
+    if (m_isFitted)
+        zoomToFit();
+}
+
+void MvPageCanvas::wheelEvent(QWheelEvent *event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QGraphicsView::wheelEvent(event);
+        return;
+    }
+    m_isFitted = false;
+    constexpr double anglePerStep = 120.0;
+    applyZoom(zoom() * std::pow(zoomStep, event->angleDelta().y() / anglePerStep), event->position());
+    event->accept();
+}
+
+bool MvPageCanvas::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Gesture) {
+        auto *pinch = static_cast<QPinchGesture *>(static_cast<QGestureEvent *>(event)->gesture(Qt::PinchGesture));
+        if (pinch != nullptr) {
+            m_isFitted = false;
+            applyZoom(zoom() * pinch->scaleFactor(), viewport()->mapFromGlobal(pinch->hotSpot()));
+            return true;
+        }
+    }
+    if (event->type() == QEvent::NativeGesture) {
+        const auto *gesture = static_cast<QNativeGestureEvent *>(event);
+        if (gesture->gestureType() == Qt::ZoomNativeGesture) {
+            m_isFitted = false;
+            applyZoom(zoom() * (1.0 + gesture->value()), gesture->position());
+            return true;
+        }
+    }
+    return QGraphicsView::viewportEvent(event);
+}
+
+// ------------------------------------------------------------------------------------------------------------- pointer
+
+void MvPageCanvas::mousePressEvent(QMouseEvent *event)
+{
+    const bool isHand = event->button() == Qt::LeftButton && m_isSpaceDown;
+    if (event->button() != Qt::MiddleButton && !isHand) {
+        if (event->button() == Qt::LeftButton)
+            setFocusDate({});
+        QGraphicsView::mousePressEvent(event);
+        return;
+    }
+    m_isPanning = true;
+    m_panFrom = event->pos();
+    updateHand();
+}
+
+void MvPageCanvas::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_isPanning) {
+        QGraphicsView::mouseMoveEvent(event);
+        return;
+    }
+    const QPoint moved = event->pos() - m_panFrom;
+    m_panFrom = event->pos();
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - moved.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - moved.y());
+}
+
+void MvPageCanvas::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_isPanning) {
+        QGraphicsView::mouseReleaseEvent(event);
+        return;
+    }
+    m_isPanning = false;
+    updateHand();
+}
+
+/// The hand tool's cursor stands over those of the items.
+void MvPageCanvas::updateHand()
+{
+    setInteractive(!m_isPanning && !m_isSpaceDown);
+    if (m_isPanning)
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    else if (m_isSpaceDown)
+        viewport()->setCursor(Qt::OpenHandCursor);
+    else
+        viewport()->unsetCursor();
+}
+
+QDate MvPageCanvas::dateAt(const QPoint &position) const
+{
+    return m_item->dateAt(m_item->mapFromScene(mapToScene(position)));
+}
+
+QMenu *MvPageCanvas::createContextMenu(const QPoint &position)
+{
+    const QDate date = dateAt(position);
+    QMenu *menu = date.isValid() ? m_item->cells()->customEntryMenuForHoveredDate(date) : nullptr;
+    if (menu == nullptr)
+        menu = new QMenu(this);
+    menu->setObjectName(u"pageMenu"_s);
+    if (!menu->isEmpty())
+        menu->addSeparator();
+    m_photo->addActions(menu);
+    return menu;
+}
+
+void MvPageCanvas::contextMenuEvent(QContextMenuEvent *event)
+{
+    QPoint position = event->pos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const QRectF rect = m_focusDate.isValid() ? m_item->dateRect(m_focusDate) : m_item->pageRect();
+        position = mapFromScene(m_item->mapToScene(rect.center()));
+    }
+    QMenu *menu = createContextMenu(position);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(viewport()->mapToGlobal(position));
+    event->accept();
+}
+
+void MvPageCanvas::choosePhoto()
+{
+    m_photo->choose();
+}
+
+void MvPageCanvas::setPhoto(const QString &path)
+{
+    m_photo->set(path);
+}
+
+void MvPageCanvas::removePhoto()
+{
+    m_photo->remove();
+}
+
+// ------------------------------------------------------------------------------------------------------ drag and drop
+
+/// The day that a dragged photo would go to; an invalid date: to the page.
+QDate MvPageCanvas::showDropTarget(const QDropEvent *event)
+{
+    const QDate date =
+        event->modifiers() & Qt::ShiftModifier ? QDate() : dateAt(event->position().toPoint());
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    if (date.isValid()) {
+        m_dropTarget->showAt(m_item->dateRect(date), tr("Foto für den %1").arg(locale.toString(date, u"d. MMMM"_s)));
+        return date;
+    }
+    MvPhotoFrame frame = m_item->shownPage().photoFrame();
+    if (!frame.isValid())
+        frame = MvPagePhoto::frameFor(m_draggedPhoto, m_project->document().format());
+    m_dropTarget->showAt(frame.rect(m_project->document().format()) & m_item->pageRect(), tr("Foto der Seite"));
+    return {};
+}
+
+void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
+{
+    m_draggedPhoto = MvPagePhoto::photoIn(event->mimeData());
+    if (m_draggedPhoto.isEmpty() || m_item->pageRect().isEmpty()) {
+        event->ignore();
+        return;
+    }
+    QGraphicsView::dragEnterEvent(event);
+    showDropTarget(event);
+    event->acceptProposedAction();
+    Q_EMIT message(tr("Loslassen setzt das Foto ein. Mit gedrückter Umschalttaste wird es das Foto der Seite."));
+}
+
+void MvPageCanvas::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (m_draggedPhoto.isEmpty()) {
+        event->ignore();
+        return;
+    }
+    QGraphicsView::dragMoveEvent(event);
+    showDropTarget(event);
+    event->acceptProposedAction();
+}
+
+void MvPageCanvas::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    QGraphicsView::dragLeaveEvent(event);
+    m_dropTarget->hide();
+    m_draggedPhoto.clear();
+    Q_EMIT message({});
+}
+
+void MvPageCanvas::dropEvent(QDropEvent *event)
+{
+    if (m_draggedPhoto.isEmpty())
+        return;
+    const QString photo = std::exchange(m_draggedPhoto, {});
+    const bool isForDay = showDropTarget(event).isValid();
+    m_dropTarget->hide();
+    Q_EMIT message({});
+    if (isForDay)
+        QGraphicsView::dropEvent(event); // the day's cell takes it
+    else
+        m_photo->set(photo);
+    event->acceptProposedAction();
+}
+
+// ------------------------------------------------------------------------------------------------------------ keyboard
+
+void MvPageCanvas::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_PageDown:
+        nextPage();
+        return;
+    case Qt::Key_PageUp:
+        previousPage();
+        return;
+    case Qt::Key_Home:
+        setCurrentPage(0);
+        return;
+    case Qt::Key_End:
+        setCurrentPage(int(m_project->document().pages().size()) - 1);
+        return;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (event->modifiers() & Qt::AltModifier)
+            movePhoto(event->key());
+        else
+            moveFocusDate(event->key());
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        openMenuForFocusDate();
+        return;
+    case Qt::Key_Escape:
+        if (m_photoHandle->isDragging())
+            m_photoHandle->cancelDrag();
+        else
+            setFocusDate({});
+        return;
+    case Qt::Key_Space:
+        if (!event->isAutoRepeat()) {
+            m_isSpaceDown = true;
+            updateHand();
+        }
+        return;
+    default:
+        QGraphicsView::keyPressEvent(event);
+    }
+}
+
+void MvPageCanvas::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
+        QGraphicsView::keyReleaseEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat()) {
+        m_isSpaceDown = false;
+        updateHand();
+    }
+}
+
+void MvPageCanvas::focusInEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusInEvent(event);
+    const bool isByKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+                              event->reason() == Qt::ShortcutFocusReason;
+    if (isByKeyboard && !m_focusDate.isValid())
+        setFocusDate(firstDate());
+    viewport()->update();
+}
+
+void MvPageCanvas::focusOutEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusOutEvent(event);
+    m_isSpaceDown = false;
+    m_isPanning = false;
+    updateHand();
+    viewport()->update();
+}
+
+/// Where the keyboard begins: the first day of the page's month.
+QDate MvPageCanvas::firstDate() const
+{
+    const QDate first = m_item->shownPage().contentConfig().date();
+    const QList<QDate> dates = m_item->dates();
+    return dates.contains(first) ? first : dates.value(0);
+}
+
+void MvPageCanvas::setFocusDate(const QDate &date)
+{
+    const QDate shown = m_item->dateRect(date).isEmpty() ? QDate() : date;
+    if (shown == m_focusDate)
+        return;
+    m_focusDate = shown;
+    if (shown.isValid())
+        ensureVisible(m_item->mapRectToScene(m_item->dateRect(shown)));
+    updateDescription();
+    viewport()->update();
+}
+
+/// To the neighbouring cell on the page; where there is none, on to the next or the last day, across pages.
+void MvPageCanvas::moveFocusDate(int key)
+{
+    if (!m_focusDate.isValid()) {
+        setFocusDate(firstDate());
+        return;
+    }
+    const QPointF direction(key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0,
+                            key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0);
+    const QDate neighbour = neighbourOf(m_focusDate, direction);
+    if (neighbour.isValid()) {
+        setFocusDate(neighbour);
+        return;
+    }
+    const int days = direction.x() + direction.y() > 0 ? 1 : -1;
+    const QDate next = m_focusDate.addDays(days);
+    if (!m_item->dateRect(next).isEmpty()) {
+        setFocusDate(next);
+        return;
+    }
+    const int page = currentPage();
+    m_wantedDate = next;
+    setCurrentPage(page + days);
+    if (currentPage() == page)
+        m_wantedDate = {};
+}
+
+QDate MvPageCanvas::neighbourOf(const QDate &date, const QPointF &direction) const
+{
+    constexpr double asideCosts = 4.0; // straight on is nearer than aslant
+    const QRectF from = m_item->dateRect(date);
+    QDate best;
+    double bestDistance = 0.0;
+    for (const QDate &candidate : m_item->dates()) {
+        const QPointF way = m_item->dateRect(candidate).center() - from.center();
+        const double ahead = QPointF::dotProduct(way, direction);
+        const double aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
+        const double extent = direction.x() != 0.0 ? from.height() : from.width();
+        if (ahead <= 1.0 || aside > extent)
+            continue;
+        const double distance = ahead + asideCosts * aside;
+        if (!best.isValid() || distance < bestDistance) {
+            best = candidate;
+            bestDistance = distance;
+        }
+    }
+    return best;
+}
+
+void MvPageCanvas::movePhoto(int key)
+{
+    const double x = key == Qt::Key_Right ? photoStep : key == Qt::Key_Left ? -photoStep : 0.0;
+    const double y = key == Qt::Key_Down ? photoStep : key == Qt::Key_Up ? -photoStep : 0.0;
+    m_photoHandle->moveFocus({x, y});
+}
+
+void MvPageCanvas::openMenuForFocusDate()
+{
+    if (!m_focusDate.isValid())
+        return;
+    const QPointF corner = m_item->mapToScene(m_item->dateRect(m_focusDate).center());
+    m_item->cells()->showEntryForDate(m_focusDate, viewport()->mapToGlobal(mapFromScene(corner)));
+}
+
+/// What a screen reader says: the page, and the day that the keyboard is at with what stands on it.
+void MvPageCanvas::updateDescription()
+{
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    const MvCalendariumContentConfig &content = m_item->shownPage().contentConfig();
+    QString text = tr("Seite %1 von %2: %3")
+                       .arg(currentPage() + 1)
+                       .arg(m_project->document().pages().size())
+                       .arg(locale.toString(content.date(), u"MMMM yyyy"_s));
+    if (m_focusDate.isValid()) {
+        text += u". "_s + locale.toString(m_focusDate, QLocale::LongFormat);
+        for (const MvCalendarEvent &event :
+             MvCalendarEventRegistry::instance().events(content.moveToDay(m_focusDate)))
+            text += u", "_s + event.description();
+    }
+    if (text == accessibleDescription())
+        return;
+    setAccessibleDescription(text); // tells assistive programs by itself
+}
+
+// ------------------------------------------------------------------------------------------------------------ painting
+
+void MvPageCanvas::drawForeground(QPainter *painter, const QRectF & /*rect*/)
+{
+    if (!hasFocus() || !m_focusDate.isValid())
+        return;
+    const QRectF rect = m_item->mapRectToScene(m_item->dateRect(m_focusDate));
+    QPen pen(palette().color(QPalette::Highlight), 3.0);
+    pen.setCosmetic(true);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter->setPen(pen);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rect);
+}
+
+void MvPageCanvas::changeEvent(QEvent *event)
+{
+    QGraphicsView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        applyPalette();
+}
+
+/// A table under the paper: a little darker than the window's panels.
+void MvPageCanvas::applyPalette()
+{
+    constexpr int darker = 112;
+    const QBrush table(palette().color(QPalette::Window).darker(darker));
+    if (backgroundBrush() != table)
+        setBackgroundBrush(table);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "MvProject/MvPhotoFrame.h"
+
+#include <QObject>
+
+#include <functional>
+
+class MvPageItem;
+class MvProject;
+class QMenu;
+class QMimeData;
+class QWidget;
+
+/// What can be done with the photo of the shown page, each as one undo step.
+class MvPagePhoto : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The widget is the parent of dialogs and of this object.
+    MvPagePhoto(MvProject *project, MvPageItem *item, QWidget *parent);
+
+    /// Asks for a file without blocking and makes it the page's photo.
+    void choose();
+    /// Makes a file the photo; where there is one already, it takes its place. Files that are no photos change nothing
+    /// and say so.
+    void set(const QString &path);
+    /// The same for any page; false when the file is no photo.
+    static bool set(MvProject *project, int page, const QString &path);
+    void remove();
+    /// The actions for the page's photo, for menus.
+    void addActions(QMenu *menu);
+
+    /// The first photo among the files that are dragged; empty when there is none.
+    static QString photoIn(const QMimeData *data);
+    /// A frame for a new photo: at the top, or beside the calendarium when a page that lies gets an upright photo.
+    static MvPhotoFrame frameFor(const QString &path, const MvPageFormat &format);
+
+Q_SIGNALS:
+    void message(const QString &text);
+
+private:
+    void addPlacements(QMenu *menu);
+    void addSizes(QMenu *menu);
+    void change(const QString &text, const std::function<void(MvPhotoFrame &)> &edit);
+    static void change(MvProject *project, int page, const QString &text,
+                       const std::function<void(MvPhotoFrame &)> &edit);
+
+    MvProject *m_project;
+    MvPageItem *m_item;
+    QWidget *m_parent;
+};

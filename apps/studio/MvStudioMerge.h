@@ -1,0 +1,16 @@
+#pragma once
+
+/// Edits that follow each other quickly, as while a spin box is held down, become one undo step; one number for each
+/// kind of them.
+class MvStudioMerge
+{
+public:
+    enum Kind : int {
+        PhotoFocus = 1,
+        MonthCount,
+        StartDate,
+        Colors,
+        Fonts,
+        ColumnHeaders,
+    };
+};
