@@ -6,10 +6,10 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCliValues.h"
 #include "MvNearMiss.h"
-#include "MvOutputTarget.h"
+#include "MvProject/MvExportTarget.h"
 #include "MvProject/MvPageSource.h"
-#include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPngExporter.h"
+#include "MvProject/MvProjectFile.h"
 #include "MvRenderReport.h"
 #include "MvSchemaListCommand.h"
 #include "MvVacationHint.h"
@@ -64,7 +64,8 @@ QString MvRenderCommand::summary() const
 
 QList<MvCliOption> MvRenderCommand::options() const
 {
-    return {{u"year"_s, u"JAHR"_s, tr("Januar bis Dezember dieses Jahres (das kommende)")},
+    return {{u"project"_s, u"DATEI"_s, tr("ein Projekt; Zeitraum, Feiertage, Aussehen, Fotos und Papier stehen darin")},
+            {u"year"_s, u"JAHR"_s, tr("Januar bis Dezember dieses Jahres (das kommende)")},
             {u"from"_s, u"JAHR-MONAT"_s, tr("erster Monat, statt --year")},
             {u"months"_s, u"ZAHL"_s, tr("wie viele Monate ab --from (12)")},
             countryOption(),
@@ -98,52 +99,56 @@ QStringList MvRenderCommand::examples() const
             u"render --from 2026-08 --months 12 --country AT --page A3 --vacations -o schuljahr.pdf"_s,
             u"render --year 2027 --layout FAMILY_PLANNER --columns \"Mama,Papa,Lena,Jonas\" --portrait -o planer.pdf"_s,
             u"render --year 2027 --entries geburtstage.xml --report json -o kalender.pdf"_s,
+            u"render --project familie.mvcalendar -o kalender.pdf"_s,
             u"render --year 2027 --colors NIGHT --dpi 150 -o seite-%m.png"_s};
 }
 
 MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const Streams &streams) const
 {
     MvCliValues values(arguments);
-    MvCalendarDocument document;
-    document.setRange(range(values));
-    document.setHolidayConfig(holidayConfig(values));
-    document.setAppearance(appearance(values));
-    document.setFormat(pageFormat(values));
-    document.setTitle(values.text(u"title"_s, titleOf(document.range())));
-    document.setAuthor(values.text(u"author"_s));
+    MvCalendarDocument document = values.has(u"project"_s) ? MvCalendarDocument() : documentFromOptions(values);
+    if (values.has(u"project"_s))
+        excludeDecidedByProject(values);
     const int dpi = values.number(u"dpi"_s, MvPngExporter::minimumDpi, MvPngExporter::maximumDpi, 300);
     values.exclude(u"entries"_s, u"my-entries"_s);
-    const bool isReported = values.has(u"report"_s);
-    if (isReported)
+    if (values.has(u"report"_s))
         values.choice(u"report"_s, {u"json"_s});
     if (!values.has(u"output"_s))
         values.setError(tr("es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png oder .svg"));
     if (!values.isOk())
         return misused(values.error());
 
+    QString error;
+    if (values.has(u"project"_s))
+        document = documentFromProject(values, &error, streams.hints);
+    if (!error.isEmpty())
+        return failed(error);
     for (const QString &path : arguments.values(u"output"_s))
-        values.setError(MvOutputTarget(path).nameError(document.pageSource()));
+        values.setError(MvExportTarget(path).nameError(document.pageSource()));
     if (!values.isOk())
         return misused(values.error());
     for (const QString &path : arguments.values(u"output"_s))
-        if (const QString error = MvOutputTarget(path).placeError(); !error.isEmpty())
-            return failed(error);
+        if (const QString place = MvExportTarget(path).placeError(); !place.isEmpty())
+            return failed(place);
 
-    QString error;
-    MvCalendariumHolidayConfig config = document.holidayConfig();
-    config.setFeature(FEATURE_ENTRIES, loadEntries(values, &error, streams.hints));
+    takeEntries(values, document, &error, streams.hints);
     if (!error.isEmpty())
         return failed(error);
-    document.setHolidayConfig(config);
     hintAtMissingFonts(document.appearance(), streams.hints);
-    MvVacationHint::print(config, document.range().end(), streams.hints);
-    if (config.hasFeatures(FEATURE_ENTRIES))
+    MvVacationHint::print(document.holidayConfig(), document.range().end(), streams.hints);
+    if (document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
         hintAtLeapDayEntries(document.range(), streams.hints);
+    return write(document, arguments, dpi, streams);
+}
 
+MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, const MvCliArguments &arguments,
+                                            int dpi, const Streams &streams)
+{
+    const bool isReported = arguments.has(u"report"_s);
     const MvPageSource pages = document.pageSource();
     MvRenderReport report(document);
     for (const QString &path : arguments.values(u"output"_s)) {
-        const MvExportResult result = MvOutputTarget(path).write(pages, dpi);
+        const MvExportResult result = MvExportTarget(path).write(pages, dpi);
         for (const QFileInfo &file : result.files) {
             report.addFile(file.filePath());
             if (!isReported)
@@ -157,6 +162,44 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     else
         report.printHint(streams.hints);
     return {};
+}
+
+MvCalendarDocument MvRenderCommand::documentFromOptions(MvCliValues &values)
+{
+    MvCalendarDocument document;
+    document.setRange(range(values));
+    document.setHolidayConfig(holidayConfig(values));
+    document.setAppearance(appearance(values));
+    document.setFormat(pageFormat(values));
+    document.setTitle(values.text(u"title"_s, titleOf(document.range())));
+    document.setAuthor(values.text(u"author"_s));
+    return document;
+}
+
+MvCalendarDocument MvRenderCommand::documentFromProject(const MvCliValues &values, QString *error, QTextStream &hints)
+{
+    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(values.text(u"project"_s)));
+    *error = content.error;
+    for (const QString &note : content.notes)
+        hints << note << '\n';
+    MvCalendarDocument document = content.document;
+    if (document.title().isEmpty())
+        document.setTitle(titleOf(document.range()));
+    document.setTitle(values.text(u"title"_s, document.title()));
+    document.setAuthor(values.text(u"author"_s, document.author()));
+    return document;
+}
+
+void MvRenderCommand::excludeDecidedByProject(MvCliValues &values)
+{
+    const QStringList decided = {u"year"_s,        u"from"_s,      u"months"_s,      u"country"_s, u"language"_s,
+                                 u"region"_s,      u"vacations"_s, u"no-holidays"_s, u"layout"_s,  u"colors"_s,
+                                 u"public-only"_s, u"columns"_s,   u"font"_s,        u"page"_s,    u"landscape"_s,
+                                 u"portrait"_s,    u"bleed"_s};
+    for (const QString &name : decided) {
+        if (values.has(name))
+            values.setError(tr("--%1 und --project schließen einander aus: das steht im Projekt").arg(name));
+    }
 }
 
 MvDateRange MvRenderCommand::range(MvCliValues &values)
@@ -232,6 +275,24 @@ MvCalendariumHolidayConfig MvRenderCommand::holidayConfig(MvCliValues &values)
     config.setFeature(FEATURE_PUBLIC_HOLIDAYS_ONLY, values.has(u"public-only"_s));
     config.setFeature(FEATURE_SCHOOL_VACATIONS, values.has(u"vacations"_s));
     return config;
+}
+
+void MvRenderCommand::takeEntries(const MvCliValues &values, MvCalendarDocument &document, QString *error,
+                                  QTextStream &hints)
+{
+    const bool isAsked = values.has(u"entries"_s) || values.has(u"my-entries"_s);
+    if (!isAsked && values.has(u"project"_s))
+        return; // as the project says, from the user's own list
+    const bool areShown = loadEntries(values, error, hints);
+    for (int page = 0; page < document.pages().size(); ++page) {
+        MvCalendarPage changed = document.pages()[page];
+        MvCalendariumContentConfig content = changed.contentConfig();
+        MvCalendariumHolidayConfig config = content.holidayConfig();
+        config.setFeature(FEATURE_ENTRIES, areShown);
+        content.setHolidayConfig(config);
+        changed.setContentConfig(content);
+        document.setPage(page, changed);
+    }
 }
 
 bool MvRenderCommand::loadEntries(const MvCliValues &values, QString *error, QTextStream &hints)

@@ -8,6 +8,7 @@
 using namespace Qt::StringLiterals;
 
 MvRenderReport::MvRenderReport(const MvCalendarDocument &document)
+    : m_missingPhotos(document.missingPhotos())
 {
     for (int page = 0; page < document.pages().size(); ++page) {
         for (const MvUnfittingText &text : document.unfittingTexts(page))
@@ -28,7 +29,9 @@ QString MvRenderReport::toJson() const
                                                              {u"width"_s, rect.width()},
                                                              {u"height"_s, rect.height()}}}});
     }
-    const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)}, {u"unfitting"_s, unfitting}};
+    const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)},
+                             {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingPhotos)},
+                             {u"unfitting"_s, unfitting}};
     return QString::fromUtf8(QJsonDocument(report).toJson());
 }
 
@@ -39,4 +42,6 @@ void MvRenderReport::printHint(QTextStream &hints) const
                      .arg(QString::number(m_unfitting.size()),
                           m_unfitting.constFirst().text.date.toString(u"d.M.yyyy"_s))
               << '\n';
+    for (const QString &path : m_missingPhotos)
+        hints << tr("Foto fehlt oder ist nicht lesbar: %1").replace(u"%1"_s, path) << '\n';
 }

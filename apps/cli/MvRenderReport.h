@@ -7,7 +7,8 @@
 
 class QTextStream;
 
-/// What came of printing a calendar: the files, and the texts that had no room on their pages.
+/// What came of printing a calendar: the files, the texts that had no room on their pages, the photos that were not
+/// there.
 class MvRenderReport
 {
     Q_DECLARE_TR_FUNCTIONS(MvRenderReport)
@@ -17,10 +18,11 @@ public:
 
     void addFile(const QString &path) { m_files.append(path); }
 
-    /// An object with "files", a list of paths, and "unfitting", a list of objects with "page" (from 1), "date" (ISO),
+    /// An object with "files", a list of paths, "missingPhotos", the paths of photos that are not there or cannot be
+    /// read, and "unfitting", a list of objects with "page" (from 1), "date" (ISO),
     /// "text" and "rect" ("x", "y", "width", "height" in tenths of a millimetre from the corner of the trimmed page).
     QString toJson() const;
-    /// One line when texts had no room, otherwise nothing.
+    /// One line when texts had no room, one per missing photo, otherwise nothing.
     void printHint(QTextStream &hints) const;
 
 private:
@@ -31,5 +33,6 @@ private:
     };
 
     QList<Entry> m_unfitting;
+    QStringList m_missingPhotos;
     QStringList m_files;
 };

@@ -112,7 +112,7 @@ void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const Q
 void MvExportDialog::addPages(QFormLayout *form)
 {
     m_pages->setObjectName(u"exportPages"_s);
-    m_pages->addItem(tr("Alle %n Seiten", nullptr, int(m_document.pages().size())), AllPages);
+    m_pages->addItem(tr("Alle Seiten (%1)").arg(m_document.pages().size()), AllPages);
     m_pages->addItem(tr("Gezeigte Seite (%1)").arg(m_currentPage + 1), CurrentPage);
     m_pages->addItem(tr("Auswahl:"), SomePages);
     m_pageText->setObjectName(u"exportPageText"_s);
@@ -231,7 +231,7 @@ QString MvExportDialog::note() const
         existing += QFileInfo::exists(file) ? 1 : 0;
     if (existing > 0)
         lines.append(isPdf() ? tr("Die Datei gibt es schon; sie wird ersetzt.")
-                             : tr("%n Dateien gibt es schon; sie werden ersetzt.", nullptr, existing));
+                             : tr("Schon vorhanden und ersetzt werden: %1 Dateien.").arg(existing));
     return lines.join(u' ');
 }
 

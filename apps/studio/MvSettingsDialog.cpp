@@ -27,7 +27,7 @@ MvSettingsDialog::MvSettingsDialog(QWidget *parent)
     m_theme->addItem(tr("Wie das System"), u"system"_s);
     m_theme->addItem(tr("Hell"), u"light"_s);
     m_theme->addItem(tr("Dunkel"), u"dark"_s);
-    m_theme->setCurrentIndex(m_theme->findData(MvStudioSettings::nameOf(MvStudioSettings::theme())));
+    m_theme->setCurrentIndex(qMax(0, m_theme->findData(MvStudioSettings::theme())));
 
     auto *hint = new QLabel(tr("Eine andere Sprache gilt ab dem nächsten Start."), this);
     hint->setForegroundRole(QPalette::PlaceholderText);
@@ -47,7 +47,7 @@ MvSettingsDialog::MvSettingsDialog(QWidget *parent)
 void MvSettingsDialog::accept()
 {
     const QString language = m_language->currentData().toString();
-    const auto theme = MvStudioSettings::themeOf(m_theme->currentData().toString());
+    const QString theme = m_theme->currentData().toString();
     const bool hasNewLanguage = language != MvStudioSettings::language();
     const bool hasNewTheme = theme != MvStudioSettings::theme();
     MvStudioSettings::setLanguage(language);

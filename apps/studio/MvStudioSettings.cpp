@@ -36,24 +36,14 @@ void MvStudioSettings::setLanguage(const QString &language)
     setText(u"language"_s, language);
 }
 
-MvStudioSettings::Theme MvStudioSettings::theme()
+QString MvStudioSettings::theme()
 {
-    return themeOf(text(u"theme"_s));
+    return text(u"theme"_s, u"system"_s);
 }
 
-void MvStudioSettings::setTheme(Theme theme)
+void MvStudioSettings::setTheme(const QString &theme)
 {
-    setText(u"theme"_s, nameOf(theme));
-}
-
-MvStudioSettings::Theme MvStudioSettings::themeOf(const QString &name)
-{
-    return name == u"light"_s ? Theme::Light : name == u"dark"_s ? Theme::Dark : Theme::System;
-}
-
-QString MvStudioSettings::nameOf(Theme theme)
-{
-    return theme == Theme::Light ? u"light"_s : theme == Theme::Dark ? u"dark"_s : u"system"_s;
+    setText(u"theme"_s, theme);
 }
 
 QStringList MvStudioSettings::recentFiles()

@@ -10,21 +10,13 @@ class MvStudioSettings
 public:
     static constexpr int mostRecentFiles = 10;
 
-    enum class Theme {
-        System,
-        Light,
-        Dark,
-    };
-
     /// "de", "en", or empty for the system's.
     static QString language();
     static void setLanguage(const QString &language);
 
-    static Theme theme();
-    static void setTheme(Theme theme);
-    /// "system", "light" and "dark"; anything else is the system's.
-    static Theme themeOf(const QString &name);
-    static QString nameOf(Theme theme);
+    /// A name that MvTheme knows.
+    static QString theme();
+    static void setTheme(const QString &theme);
 
     /// Absolute paths, the newest first; they need not exist any more.
     static QStringList recentFiles();

@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int longestPictureSide = 1200; // pixels: a day's cell needs no more
 constexpr qsizetype mostPictureBytes = 16 * 1024 * 1024;
 
 /// What one card says, as far as a calendar asks.
@@ -82,7 +83,12 @@ QImage imageOf(const MvVCardProperty &property)
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     static const QList<QByteArray> formats{"jpeg", "png", "gif", "bmp", "webp"};
-    return formats.contains(reader.format()) ? reader.read() : QImage();
+    if (!formats.contains(reader.format()))
+        return {};
+    const QSize size = reader.size();
+    if (size.width() > longestPictureSide || size.height() > longestPictureSide)
+        reader.setScaledSize(size.scaled(longestPictureSide, longestPictureSide, Qt::KeepAspectRatio));
+    return reader.read();
 }
 
 /// Puts the properties of one card together.

@@ -7,8 +7,9 @@
 /// What became of an export. Every file named is complete; a file that could not be written is as it was before.
 struct MvExportResult
 {
-    QString error; // for a person; empty when everything was written
+    QString error; // for a person; empty when nothing went wrong
     QList<QFileInfo> files;
+    bool isCancelled = false; // ended by its observer: pages are missing
 
-    bool isOk() const { return error.isEmpty(); }
+    bool isOk() const { return error.isEmpty() && !isCancelled; }
 };

@@ -39,7 +39,7 @@ QString MvFileNamePattern::path(const QDate &month, int page) const
     return result;
 }
 
-QStringList MvFileNamePattern::paths(const QList<QDate> &pages, QString *error) const
+QStringList MvFileNamePattern::paths(const QList<QDate> &pages, QString *error, const QList<int> &numbers) const
 {
     QString name = QFileInfo(m_path).fileName().remove(u"%%"_s);
     for (const QString &known : {u"%m"_s, u"%y"_s, u"%n"_s})
@@ -53,7 +53,7 @@ QStringList MvFileNamePattern::paths(const QList<QDate> &pages, QString *error) 
 
     QStringList result;
     for (int page = 0; page < pages.size(); ++page)
-        result.append(path(pages[page], page));
+        result.append(path(pages[page], numbers.value(page, page)));
     if (QSet<QString>(result.cbegin(), result.cend()).size() != result.size()) {
         *error = tr("%1: bei %2 Seiten braucht der Dateiname einen Platzhalter, der sie unterscheidet: %n (Seite), %m "
                     "(Monat) oder %y-%m")

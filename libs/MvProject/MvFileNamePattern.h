@@ -24,9 +24,9 @@ public:
     /// The name of one page's file, counted from 0. An unknown placeholder stays as it stands.
     QString path(const QDate &month, int page) const;
 
-    /// The names of all pages. When they would not all differ, or a placeholder is unknown, an empty list and an error
-    /// for a person.
-    QStringList paths(const QList<QDate> &pages, QString *error) const;
+    /// The names of all pages, whose numbers, counted from 0, are given unless they are 0, 1, 2 and so on. When they
+    /// would not all differ, or a placeholder is unknown, an empty list and an error for a person.
+    QStringList paths(const QList<QDate> &pages, QString *error, const QList<int> &numbers = {}) const;
 
 private:
     QString m_path;

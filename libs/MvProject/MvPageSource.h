@@ -18,6 +18,8 @@ public:
     MvPageFormat format;
     /// One page per date, the first day of the month that it shows; file names are made from it.
     QList<QDate> pages;
+    /// The pages' numbers in their document, counted from 0, for file names; empty when they are all of it.
+    QList<int> numbers;
     /// Paints the page with the number, counted from 0, in tenths of a millimetre with the origin at the top left
     /// corner of the trimmed page.
     std::function<void(QPainter &painter, int page)> paint;

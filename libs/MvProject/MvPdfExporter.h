@@ -3,6 +3,7 @@
 #include "MvProject/MvExportResult.h"
 #include "MvProject/mvproject_export.h"
 
+class MvExportObserver;
 class MvPageSource;
 
 /// Writes pages as one PDF: vectors, sRGB, exact MediaBox, BleedBox and TrimBox.
@@ -14,5 +15,6 @@ public:
 
     /// Pages are painted one after the other into a temporary file, so that memory does not grow with what has been
     /// painted, and the finished file takes the target's name at the end.
-    static MvExportResult write(const MvPageSource &source, const QFileInfo &target);
+    static MvExportResult write(const MvPageSource &source, const QFileInfo &target,
+                                MvExportObserver *observer = nullptr);
 };

@@ -2,6 +2,7 @@
 
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvExportObserver.h"
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageSource.h"
 
@@ -54,43 +55,61 @@ QString check(const MvPageSource &source, int dpi)
     return {};
 }
 
+QImage emptyPage(const MvPageFormat &format, int dpi)
+{
+    QImage image(pixelSize(format, dpi), QImage::Format_RGB32);
+    image.setDotsPerMeterX(int(std::lround(dpi / 0.0254)));
+    image.setDotsPerMeterY(image.dotsPerMeterX());
+    image.setColorSpace(QColorSpace(QColorSpace::SRgb));
+    return image;
+}
+
+/// The file's bytes; empty on error.
+QByteArray encode(const QImage &image, const QString &title, QString *error)
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, "png");
+    writer.setText(u"Title"_s, title);
+    if (!writer.write(image))
+        *error = writer.errorString();
+    return error->isEmpty() ? buffer.data() : QByteArray();
+}
+
 } // namespace
 
-MvExportResult MvPngExporter::write(const MvPageSource &source, const QString &pattern, int dpi)
+MvExportResult MvPngExporter::write(const MvPageSource &source, const QString &pattern, int dpi,
+                                    MvExportObserver *observer)
 {
     MvExportResult result;
     result.error = check(source, dpi);
     QStringList paths;
     if (result.isOk())
-        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error);
+        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error, source.numbers);
     if (!result.isOk())
         return result;
-
-    QImage image(pixelSize(source.format, dpi), QImage::Format_RGB32);
+    QImage image = emptyPage(source.format, dpi);
     if (image.isNull())
         return {QCoreApplication::translate("MvPngExporter", "Der Speicher reicht nicht für eine Seite"), {}};
-    image.setDotsPerMeterX(int(std::lround(dpi / 0.0254)));
-    image.setDotsPerMeterY(image.dotsPerMeterX());
-    image.setColorSpace(QColorSpace(QColorSpace::SRgb));
 
     for (int page = 0; page < paths.size(); ++page) {
         image.fill(Qt::white);
         QPainter painter(&image);
         source.paintPage(painter, page, {}, coveringScale(source.format, image.size()));
         painter.end();
-
-        QBuffer buffer;
-        QImageWriter writer(&buffer, "png");
-        writer.setText(u"Title"_s, source.title);
-        QString error = writer.write(image) ? QString() : writer.errorString();
+        QString error;
+        const QByteArray bytes = encode(image, source.title, &error);
+        result.isCancelled = observer && observer->isCancelled();
+        if (result.isCancelled)
+            return result;
         if (error.isEmpty())
-            error =
-                MvSafeFileWriter::write(QFileInfo(paths[page]), buffer.data(), MvSafeFileWriter::Backups::None).error;
+            error = MvSafeFileWriter::write(QFileInfo(paths[page]), bytes, MvSafeFileWriter::Backups::None).error;
         if (!error.isEmpty()) {
             result.error = u"%1: %2"_s.arg(paths[page], error);
             return result;
         }
         result.files.append(QFileInfo(paths[page]));
+        if (observer)
+            observer->pagesDone(page + 1, int(paths.size()));
     }
     return result;
 }

@@ -3,6 +3,7 @@
 #include "MvProject/MvExportResult.h"
 #include "MvProject/mvproject_export.h"
 
+class MvExportObserver;
 class MvPageSource;
 
 /// Writes each page as a PNG of the trimmed page, sRGB, with its resolution in the file.
@@ -14,5 +15,6 @@ public:
 
     /// File names by MvFileNamePattern. Dots per inch outside the limits, and pages of more than 32000 pixels per side,
     /// are errors. The first page that cannot be written ends the export.
-    static MvExportResult write(const MvPageSource &source, const QString &pattern, int dpi);
+    static MvExportResult write(const MvPageSource &source, const QString &pattern, int dpi,
+                                MvExportObserver *observer = nullptr);
 };

@@ -2,6 +2,7 @@
 
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvExportObserver.h"
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageSource.h"
 
@@ -34,21 +35,26 @@ QByteArray paintSvg(const MvPageSource &source, int page)
 
 } // namespace
 
-MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &pattern)
+MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &pattern, MvExportObserver *observer)
 {
     MvExportResult result{source.error(), {}};
     QStringList paths;
     if (result.isOk())
-        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error);
+        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error, source.numbers);
     for (int page = 0; page < paths.size(); ++page) {
+        const QByteArray bytes = paintSvg(source, page);
+        result.isCancelled = observer && observer->isCancelled();
+        if (result.isCancelled)
+            break;
         const QString error =
-            MvSafeFileWriter::write(QFileInfo(paths[page]), paintSvg(source, page), MvSafeFileWriter::Backups::None)
-                .error;
+            MvSafeFileWriter::write(QFileInfo(paths[page]), bytes, MvSafeFileWriter::Backups::None).error;
         if (!error.isEmpty()) {
             result.error = u"%1: %2"_s.arg(paths[page], error);
             break;
         }
         result.files.append(QFileInfo(paths[page]));
+        if (observer)
+            observer->pagesDone(page + 1, int(paths.size()));
     }
     return result;
 }

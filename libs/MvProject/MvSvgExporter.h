@@ -3,6 +3,7 @@
 #include "MvProject/MvExportResult.h"
 #include "MvProject/mvproject_export.h"
 
+class MvExportObserver;
 class MvPageSource;
 
 /// Writes each page as an SVG of the trimmed page, measured in millimetres.
@@ -10,5 +11,6 @@ class MVPROJECT_EXPORT MvSvgExporter
 {
 public:
     /// File names by MvFileNamePattern. The first page that cannot be written ends the export.
-    static MvExportResult write(const MvPageSource &source, const QString &pattern);
+    static MvExportResult write(const MvPageSource &source, const QString &pattern,
+                                MvExportObserver *observer = nullptr);
 };

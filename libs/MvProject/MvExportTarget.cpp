@@ -1,4 +1,4 @@
-#include "MvOutputTarget.h"
+#include "MvProject/MvExportTarget.h"
 
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageSource.h"
@@ -10,22 +10,22 @@
 
 using namespace Qt::StringLiterals;
 
-MvOutputTarget::MvOutputTarget(const QString &path)
+MvExportTarget::MvExportTarget(const QString &path)
     : m_path(path)
     , m_suffix(QFileInfo(path).suffix().toLower())
 {}
 
-QString MvOutputTarget::nameError(const MvPageSource &pages) const
+QString MvExportTarget::nameError(const MvPageSource &pages) const
 {
     if (m_suffix != u"pdf"_s && m_suffix != u"png"_s && m_suffix != u"svg"_s)
         return tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path);
     QString error;
     if (m_suffix != u"pdf"_s)
-        MvFileNamePattern(m_path).paths(pages.pages, &error);
+        MvFileNamePattern(m_path).paths(pages.pages, &error, pages.numbers);
     return error;
 }
 
-QString MvOutputTarget::placeError() const
+QString MvExportTarget::placeError() const
 {
     const QFileInfo folder(QFileInfo(m_path).path());
     if (!folder.exists())
@@ -37,11 +37,18 @@ QString MvOutputTarget::placeError() const
     return {};
 }
 
-MvExportResult MvOutputTarget::write(const MvPageSource &pages, int dpi) const
+MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExportObserver *observer) const
 {
+    if (const QString error = nameError(pages); !error.isEmpty())
+        return {error, {}};
     if (m_suffix == u"pdf"_s)
-        return MvPdfExporter::write(pages, QFileInfo(m_path));
+        return MvPdfExporter::write(pages, QFileInfo(m_path), observer);
     if (m_suffix == u"png"_s)
-        return MvPngExporter::write(pages, m_path, dpi);
-    return MvSvgExporter::write(pages, m_path);
+        return MvPngExporter::write(pages, m_path, dpi, observer);
+    return MvSvgExporter::write(pages, m_path, observer);
+}
+
+int MvExportTarget::imageResolution(int dpi) const
+{
+    return m_suffix == u"png"_s ? dpi : MvPdfExporter::resolution;
 }

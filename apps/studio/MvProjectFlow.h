@@ -1,0 +1,59 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+
+class MvProject;
+class QWidget;
+
+/// New, open, save: the questions and messages around the open project. Nothing here waits for an answer; what comes
+/// after one is handed on as a function, which is not called when the user changes his mind or saving fails.
+class MvProjectFlow : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Then = std::function<void()>;
+
+    /// The project is not owned. The window is the parent of all dialogs.
+    MvProjectFlow(MvProject *project, QWidget *window);
+
+    /// What a user sees who has nothing yet: the coming year, A4 landscape, in German.
+    static MvCalendarDocument firstDocument();
+    /// "Kalender 2027", "Kalender März 2027 bis Juni 2028".
+    static QString titleOf(const MvDateRange &range);
+
+    /// Whether a file is named like a project.
+    static bool isProjectFile(const QString &path);
+
+public Q_SLOTS:
+    void startNew();
+    /// Asks for a file.
+    void askAndOpen();
+    /// Opens a file, after the question about unsaved changes.
+    void open(const QString &path);
+    void save();
+    void saveAs();
+
+public:
+    /// Calls `then` at once without unsaved changes; else after they were saved, or given up by the user.
+    void leave(const Then &then);
+    void saveThen(const Then &then);
+    void saveAsThen(const Then &then);
+
+Q_SIGNALS:
+    void message(const QString &text);
+    void recentFilesChanged();
+
+private:
+    void openNow(const QString &path);
+    void write(const QString &path, const Then &then);
+    void askAboutOthersChanges(const Then &then);
+
+    MvProject *m_project;
+    QWidget *m_window;
+};

@@ -1,0 +1,87 @@
+#include "MvProject/MvExportJob.h"
+
+#include "MvCore/MvMath.h"
+#include "MvProject/MvExportFeed.h"
+#include "MvProject/MvPageSource.h"
+
+#include <QPainter>
+#include <QThread>
+#include <QTimer>
+
+MvExportJob::MvExportJob(const MvCalendarDocument &document, const MvExportTarget &target, int dpi, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_target(target)
+    , m_dpi(dpi)
+    , m_feed(std::make_shared<MvExportFeed>([this](int done, int total) {
+        QMetaObject::invokeMethod(
+            this, [this, done, total] { Q_EMIT progress(done, total); }, Qt::QueuedConnection);
+    }))
+{
+    for (int page = 0; page < m_document.pages().size(); ++page)
+        m_pages.append(page);
+}
+
+MvExportJob::~MvExportJob()
+{
+    m_feed->cancel();
+    if (m_thread)
+        m_thread->wait();
+}
+
+void MvExportJob::setPages(const QList<int> &pages)
+{
+    m_pages.clear();
+    for (const int page : pages)
+        if (page >= 0 && page < m_document.pages().size())
+            m_pages.append(page);
+}
+
+void MvExportJob::start()
+{
+    if (std::exchange(m_isStarted, true))
+        return;
+    MvPageSource source = m_document.pageSource();
+    if (!source.pages.isEmpty()) { // a document that is invalid has none
+        source.pages.clear();
+        for (const int page : std::as_const(m_pages))
+            source.pages.append(m_document.pageDates().at(page));
+        source.numbers = m_pages;
+    }
+    source.paint = [feed = m_feed, document = m_document, pages = m_pages](QPainter &painter, int number) {
+        const MvCalendarPage &content = document.pages()[pages[number]];
+        content.paintGround(painter, document.format());
+        content.paintPhoto(painter, document.format());
+        feed->take(number).replay(painter);
+    };
+    m_thread.reset(QThread::create([this, source] { m_result = m_target.write(source, m_dpi, m_feed.get()); }));
+    connect(m_thread.get(), &QThread::finished, this, &MvExportJob::finish);
+    m_thread->start();
+    QTimer::singleShot(0, this, [this] {
+        Q_EMIT progress(0, int(m_pages.size()));
+        recordPage(0);
+    });
+}
+
+void MvExportJob::cancel()
+{
+    m_feed->cancel();
+}
+
+void MvExportJob::recordPage(int number)
+{
+    if (!m_thread || m_feed->isCancelled() || number >= m_pages.size())
+        return;
+    const double pixelsPerUnit = m_target.imageResolution(m_dpi) / MvMath::tenthMillimetresPerInch;
+    const MvCalendarPage &page = m_document.pages()[m_pages[number]];
+    m_feed->put(number, page.record(m_document.format(), m_document.range(), {},
+                                    MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit));
+    QTimer::singleShot(0, this, [this, number] { recordPage(number + 1); });
+}
+
+void MvExportJob::finish()
+{
+    m_thread->wait();
+    m_thread.release()->deleteLater(); // it is still emitting
+    Q_EMIT finished(m_result);
+}

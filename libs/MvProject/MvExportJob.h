@@ -1,0 +1,57 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvExportResult.h"
+#include "MvProject/MvExportTarget.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QObject>
+
+#include <memory>
+
+class MvExportFeed;
+class QThread;
+
+/// Exports a document while the program stays responsive: calendaria are recorded on the GUI thread, a page at a time,
+/// and written in a thread of the job's own, where photos are decoded too.
+///
+/// The document is copied; personal entries are those of the moment in which a page is recorded. GUI thread. A job that
+/// is deleted is cancelled first, which takes as long as the page that is just being written.
+class MVPROJECT_EXPORT MvExportJob : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Dots per inch are those of PNG files.
+    MvExportJob(const MvCalendarDocument &document, const MvExportTarget &target, int dpi = 300,
+                QObject *parent = nullptr);
+    ~MvExportJob() override;
+
+    /// Exports only these pages, counted from 0, instead of all; before start(). Numbers that there are not do not
+    /// count.
+    void setPages(const QList<int> &pages);
+    /// Once per job; later calls do nothing.
+    void start();
+    /// Ends the export as soon as possible; finished() still comes. No incomplete file is left, and files that were
+    /// complete stay and are named in the result.
+    void cancel();
+    bool isRunning() const { return m_thread != nullptr; }
+
+Q_SIGNALS:
+    /// So many pages of the total are done; first with none.
+    void progress(int done, int total);
+    void finished(const MvExportResult &result);
+
+private:
+    void recordPage(int number);
+    void finish();
+
+    const MvCalendarDocument m_document;
+    const MvExportTarget m_target;
+    const int m_dpi;
+    QList<int> m_pages;
+    std::shared_ptr<MvExportFeed> m_feed;
+    std::unique_ptr<QThread> m_thread; // while running
+    MvExportResult m_result;           // written by the thread, read after its end
+    bool m_isStarted = false;
+};

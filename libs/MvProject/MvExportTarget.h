@@ -1,0 +1,36 @@
+#pragma once
+
+#include "MvProject/MvExportResult.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QCoreApplication>
+#include <QString>
+
+class MvExportObserver;
+class MvPageSource;
+
+/// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .png or
+/// .svg.
+class MVPROJECT_EXPORT MvExportTarget
+{
+    Q_DECLARE_TR_FUNCTIONS(MvExportTarget)
+
+public:
+    explicit MvExportTarget(const QString &path);
+
+    QString path() const { return m_path; }
+    /// The dots per inch at which images are needed, when PNG files are to have so many.
+    int imageResolution(int dpi) const;
+
+    /// What is wrong with the name itself, for these pages; empty when nothing is.
+    QString nameError(const MvPageSource &pages) const;
+    /// What keeps a file of that name from being written, as far as it can be told beforehand; empty when nothing does.
+    QString placeError() const;
+
+    /// Writes the pages. The observer, if any, is not owned.
+    MvExportResult write(const MvPageSource &pages, int dpi, MvExportObserver *observer = nullptr) const;
+
+private:
+    QString m_path;
+    QString m_suffix; // lower case
+};

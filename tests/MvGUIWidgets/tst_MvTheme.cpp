@@ -1,0 +1,132 @@
+#include "MvWidgetTest.h"
+
+#include "MvGUIWidgets/MvTheme.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+/// Both palettes can be read, and the style sheet knows the widgets of the libraries and follows the palette.
+class tst_MvTheme : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void contrast_data();
+    void contrast();
+    void everyCssStyleIsDefined();
+    void switchesColours();
+    void schemeNames();
+
+private:
+    static double contrastOf(const QColor &one, const QColor &other);
+};
+
+/// The ratio of WCAG 2.1.
+double tst_MvTheme::contrastOf(const QColor &one, const QColor &other)
+{
+    const auto luminance = [](const QColor &colour) {
+        const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+    };
+    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
+    return (high + 0.05) / (low + 0.05);
+}
+
+void tst_MvTheme::contrast_data()
+{
+    QTest::addColumn<QPalette>("palette");
+    QTest::addColumn<int>("group");
+    QTest::addColumn<double>("minimum");
+    for (const bool dark : {false, true}) {
+        const QPalette palette = dark ? MvTheme::darkPalette() : MvTheme::lightPalette();
+        const QByteArray name = dark ? "dark" : "light";
+        QTest::newRow(name + " active") << palette << int(QPalette::Active) << 4.5;
+        QTest::newRow(name + " inactive") << palette << int(QPalette::Inactive) << 4.5;
+        QTest::newRow(name + " disabled") << palette << int(QPalette::Disabled) << 2.4;
+    }
+}
+
+void tst_MvTheme::contrast()
+{
+    QFETCH(const QPalette, palette);
+    QFETCH(const int, group);
+    QFETCH(const double, minimum);
+    using Role = QPalette::ColorRole;
+    const std::pair<Role, QList<Role>> pairs[] = {
+        {QPalette::WindowText, {QPalette::Window, QPalette::AlternateBase, QPalette::Midlight}},
+        {QPalette::Text, {QPalette::Base, QPalette::AlternateBase}},
+        {QPalette::PlaceholderText, {QPalette::Base, QPalette::AlternateBase, QPalette::Window}},
+        {QPalette::ButtonText, {QPalette::Button, QPalette::Window, QPalette::Midlight}},
+        {QPalette::HighlightedText, {QPalette::Highlight}},
+        {QPalette::BrightText, {QPalette::Highlight}},
+        {QPalette::Link, {QPalette::Base, QPalette::Window}},
+        {QPalette::LinkVisited, {QPalette::Base, QPalette::Window}},
+        {QPalette::ToolTipText, {QPalette::ToolTipBase}},
+    };
+    const auto colorGroup = QPalette::ColorGroup(group);
+    for (const auto &[text, grounds] : pairs)
+        for (const Role ground : grounds) {
+            const double ratio = contrastOf(palette.color(colorGroup, text), palette.color(colorGroup, ground));
+            QVERIFY2(ratio >= minimum, qPrintable(u"text role %1 on %2: %3"_s.arg(text).arg(ground).arg(ratio)));
+        }
+    if (colorGroup != QPalette::Disabled) // the frame of what has the focus
+        for (const Role ground : {QPalette::Window, QPalette::Base, QPalette::Button})
+            QVERIFY(contrastOf(palette.color(colorGroup, QPalette::Highlight), palette.color(ground)) >= 3.0);
+}
+
+/// A style named in the sources but missing in the sheet would go unnoticed.
+void tst_MvTheme::everyCssStyleIsDefined()
+{
+    QFile sheet(u":/mvcalendar/styles/studio.qss"_s);
+    QVERIFY(sheet.open(QIODevice::ReadOnly));
+    const QString styles = QString::fromUtf8(sheet.readAll());
+    const QRegularExpression use(uR"re("cssstyle"\s*,\s*(?:QVariant\()?(?:QStringLiteral\()?u?"([^"]+)")re"_s);
+    for (const QString &folder : {u"libs"_s, u"apps"_s}) {
+        QDirIterator files(QStringLiteral(MV_SOURCE_ROOT "/") + folder, {u"*.cpp"_s}, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            QFile source(files.next());
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            for (const auto &match : use.globalMatch(QString::fromUtf8(source.readAll())))
+                QVERIFY2(styles.contains(u"[cssstyle=\"%1\"]"_s.arg(match.captured(1))),
+                         qPrintable(source.fileName() + u": "_s + match.captured(1)));
+        }
+    }
+}
+
+void tst_MvTheme::switchesColours()
+{
+    QWidget window;
+    QPushButton link(u"MMMM"_s, &window);
+    link.setProperty("cssstyle", u"hyperlinkStyle"_s);
+    const auto has = [&window](const QColor &colour) {
+        const QImage image = window.grab().toImage();
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == colour)
+                    return true;
+        return false;
+    };
+    for (const MvTheme::Scheme scheme : {MvTheme::Scheme::Dark, MvTheme::Scheme::Light, MvTheme::Scheme::Dark}) {
+        const bool isDark = scheme == MvTheme::Scheme::Dark;
+        MvTheme::apply(scheme);
+        QCOMPARE(MvTheme::isDark(QApplication::palette()), isDark);
+        const QPalette expected = isDark ? MvTheme::darkPalette() : MvTheme::lightPalette();
+        QVERIFY(has(expected.color(QPalette::Link)));
+        QVERIFY(has(expected.color(QPalette::Window)));
+    }
+    MvTheme::apply(MvTheme::Scheme::System); // the test's desktop is light, whatever was set since
+    QVERIFY(!MvTheme::isDark(QApplication::palette()));
+}
+
+void tst_MvTheme::schemeNames()
+{
+    for (const QString &name : MvTheme::schemeNames())
+        QCOMPARE(MvTheme::nameOf(MvTheme::schemeFromName(name).value()), name);
+    QVERIFY(!MvTheme::schemeFromName(u"pink"_s));
+    QVERIFY(!MvTheme::schemeFromName(QString()));
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvTheme)
+#include "tst_MvTheme.moc"
