@@ -13,22 +13,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int idRole = Qt::UserRole;
-constexpr QSize pictureSize(176, 132); // logical pixels
-
-QImage emptyPicture(double ratio)
-{
-    QImage image(pictureSize * ratio, QImage::Format_ARGB32_Premultiplied);
-    image.setDevicePixelRatio(ratio);
-    image.fill(Qt::transparent);
-    return image;
-}
-
-/// The page of the format, as large as it can be within the picture.
-QRectF sheetRect(const MvPageFormat &format)
-{
-    const QSizeF sheet = format.trimSize().scaled(QSizeF(pictureSize) - QSizeF(4, 4), Qt::KeepAspectRatio);
-    return {QPointF((pictureSize.width() - sheet.width()) / 2.0, (pictureSize.height() - sheet.height()) / 2.0), sheet};
-}
 
 /// Layouts that are only a part of a page, such as the line with the month, are not offered.
 bool isWholePage(const MvCalendariumLayoutSchema &schema)
@@ -40,11 +24,12 @@ bool isWholePage(const MvCalendariumLayoutSchema &schema)
 
 } // namespace
 
-MvLayoutChooser::MvLayoutChooser(QWidget *parent)
+MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     : QWidget(parent)
     , m_list(new QListWidget(this))
     , m_description(new QLabel(this))
     , m_images(new MvIdleImages([this](int number) { return makePicture(number); }, this))
+    , m_pictureSize(pictureSize)
 {
     m_list->setObjectName(u"layoutList"_s);
     m_list->setAccessibleName(tr("Layouts"));
@@ -96,9 +81,9 @@ void MvLayoutChooser::setDocument(const MvCalendarDocument &document)
     m_document.setFormat(document.format());
     const QDate start = document.range().start();
     m_document.setRange({start, start.addMonths(12).addDays(-1)});
-    QPixmap blank = QPixmap::fromImage(emptyPicture(devicePixelRatioF()));
+    QPixmap blank = QPixmap::fromImage(emptyPicture());
     QPainter painter(&blank);
-    painter.fillRect(sheetRect(m_document.format()), palette().alternateBase());
+    painter.fillRect(sheetRect(), palette().alternateBase());
     painter.end();
     for (int row = 0; row < m_list->count(); ++row)
         if (m_list->item(row)->icon().isNull())
@@ -134,6 +119,23 @@ MvCalendariumAppearance MvLayoutChooser::withLayout(const MvCalendariumAppearanc
     return changed;
 }
 
+QImage MvLayoutChooser::emptyPicture() const
+{
+    QImage image(m_pictureSize * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(devicePixelRatioF());
+    image.fill(Qt::transparent);
+    return image;
+}
+
+/// The page, as large as it can be within the picture.
+QRectF MvLayoutChooser::sheetRect() const
+{
+    const QSizeF room = QSizeF(m_pictureSize) - QSizeF(4, 4);
+    const QSizeF sheet = m_document.format().trimSize().scaled(room, Qt::KeepAspectRatio);
+    return {QPointF((m_pictureSize.width() - sheet.width()) / 2.0, (m_pictureSize.height() - sheet.height()) / 2.0),
+            sheet};
+}
+
 QImage MvLayoutChooser::makePicture(int number) const
 {
     const QListWidgetItem *item = m_list->item(number);
@@ -142,8 +144,8 @@ QImage MvLayoutChooser::makePicture(int number) const
     MvCalendarDocument document = m_document;
     document.setAppearance(
         withLayout(document.appearance(), MvCalendariumLayoutSchemaID(item->data(idRole).toString())));
-    QImage image = emptyPicture(devicePixelRatioF());
-    const QRectF sheet = sheetRect(document.format());
+    QImage image = emptyPicture();
+    const QRectF sheet = sheetRect();
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     painter.fillRect(sheet, Qt::white);

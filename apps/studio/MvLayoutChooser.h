@@ -14,7 +14,9 @@ class MvLayoutChooser : public QWidget
     Q_OBJECT
 
 public:
-    explicit MvLayoutChooser(QWidget *parent = nullptr);
+    static constexpr QSize usualPictureSize{176, 132}; // logical pixels
+
+    explicit MvLayoutChooser(QWidget *parent = nullptr, const QSize &pictureSize = usualPictureSize);
     ~MvLayoutChooser() override;
 
     /// Pictures are made with colours, holidays, paper and first month of the document; its layout is selected.
@@ -34,6 +36,8 @@ Q_SIGNALS:
     void activated();
 
 private:
+    QImage emptyPicture() const;
+    QRectF sheetRect() const;
     QImage makePicture(int number) const;
     void showPicture(int number);
     void describeCurrent();
@@ -42,4 +46,5 @@ private:
     QLabel *m_description;
     MvIdleImages *m_images;
     MvCalendarDocument m_document;
+    QSize m_pictureSize;
 };

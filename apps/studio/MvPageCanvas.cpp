@@ -5,13 +5,12 @@
 #include "MvPagePhoto.h"
 #include "MvPhotoHandle.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvProject/MvProject.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QGestureEvent>
 #include <QMenu>
@@ -56,6 +55,10 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     m_scene->addItem(m_item);
     setScene(m_scene);
     applyPalette();
+    connect(m_scene, &QGraphicsScene::focusItemChanged, this, [this] {
+        if (focusDate().isValid())
+            m_keyboardDate = focusDate();
+    });
     connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
     connect(m_photo, &MvPagePhoto::message, this, &MvPageCanvas::message);
     connect(project, &MvProject::pagesReset, this, [this] { setCurrentPage(currentPage()); });
@@ -107,12 +110,10 @@ void MvPageCanvas::onRefreshed()
     m_scene->setSceneRect(m_item->boundingRect());
     if (m_isFitted)
         zoomToFit();
-    const QDate wanted = m_wantedDate.isValid() ? m_wantedDate : m_focusDate;
-    m_wantedDate = {};
-    m_focusDate = {};
-    setFocusDate(wanted);
+    // new cells have taken the place of the one that the keyboard was at
+    if (m_keyboardDate.isValid() && !focusDate().isValid())
+        setFocusDate(m_keyboardDate);
     updateDescription();
-    viewport()->update();
 }
 
 // ---------------------------------------------------------------------------------------------------- zoom and scroll
@@ -219,8 +220,7 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
 {
     const bool isHand = event->button() == Qt::LeftButton && m_isSpaceDown;
     if (event->button() != Qt::MiddleButton && !isHand) {
-        if (event->button() == Qt::LeftButton)
-            setFocusDate({});
+        setFocusDate({});
         QGraphicsView::mousePressEvent(event);
         return;
     }
@@ -285,7 +285,7 @@ void MvPageCanvas::contextMenuEvent(QContextMenuEvent *event)
 {
     QPoint position = event->pos();
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        const QRectF rect = m_focusDate.isValid() ? m_item->dateRect(m_focusDate) : m_item->pageRect();
+        const QRectF rect = focusDate().isValid() ? m_item->dateRect(focusDate()) : m_item->pageRect();
         position = mapFromScene(m_item->mapToScene(rect.center()));
     }
     QMenu *menu = createContextMenu(position);
@@ -398,12 +398,8 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Down:
         if (event->modifiers() & Qt::AltModifier)
             movePhoto(event->key());
-        else
-            moveFocusDate(event->key());
-        return;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        openMenuForFocusDate();
+        else if (!beginAtFirstDate() && !turnPageByArrow(event->key()))
+            QGraphicsView::keyPressEvent(event); // the day's cell goes on
         return;
     case Qt::Key_Escape:
         if (m_photoHandle->isDragging())
@@ -412,7 +408,9 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
             setFocusDate({});
         return;
     case Qt::Key_Space:
-        if (!event->isAutoRepeat()) {
+        if (focusDate().isValid()) {
+            QGraphicsView::keyPressEvent(event);
+        } else if (!event->isAutoRepeat()) {
             m_isSpaceDown = true;
             updateHand();
         }
@@ -439,9 +437,8 @@ void MvPageCanvas::focusInEvent(QFocusEvent *event)
     QGraphicsView::focusInEvent(event);
     const bool isByKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
                               event->reason() == Qt::ShortcutFocusReason;
-    if (isByKeyboard && !m_focusDate.isValid())
-        setFocusDate(firstDate());
-    viewport()->update();
+    if (isByKeyboard && !setFocusDate(m_keyboardDate))
+        beginAtFirstDate();
 }
 
 void MvPageCanvas::focusOutEvent(QFocusEvent *event)
@@ -450,76 +447,49 @@ void MvPageCanvas::focusOutEvent(QFocusEvent *event)
     m_isSpaceDown = false;
     m_isPanning = false;
     updateHand();
-    viewport()->update();
 }
 
-/// Where the keyboard begins: the first day of the page's month.
-QDate MvPageCanvas::firstDate() const
+QDate MvPageCanvas::focusDate() const
 {
+    const auto *cell = qobject_cast<MvGraphicsItemCalendariumCell *>(
+        m_scene->focusItem() != nullptr ? m_scene->focusItem()->toGraphicsObject() : nullptr);
+    return cell != nullptr ? cell->date() : QDate();
+}
+
+bool MvPageCanvas::setFocusDate(const QDate &date)
+{
+    m_keyboardDate = {};
+    if (date.isValid() && m_item->cells()->focusDate(date))
+        return true;
+    m_scene->setFocusItem(nullptr);
+    return false;
+}
+
+/// Where the keyboard begins when it is at no day: the first one of the page's month.
+bool MvPageCanvas::beginAtFirstDate()
+{
+    if (focusDate().isValid())
+        return false;
     const QDate first = m_item->shownPage().contentConfig().date();
-    const QList<QDate> dates = m_item->dates();
-    return dates.contains(first) ? first : dates.value(0);
+    return setFocusDate(first) || setFocusDate(m_item->dates().value(0));
 }
 
-void MvPageCanvas::setFocusDate(const QDate &date)
+/// Beyond the page's days the calendar goes on with the next or the last page.
+bool MvPageCanvas::turnPageByArrow(int key)
 {
-    const QDate shown = m_item->dateRect(date).isEmpty() ? QDate() : date;
-    if (shown == m_focusDate)
-        return;
-    m_focusDate = shown;
-    if (shown.isValid())
-        ensureVisible(m_item->mapRectToScene(m_item->dateRect(shown)));
-    updateDescription();
-    viewport()->update();
-}
-
-/// To the neighbouring cell on the page; where there is none, on to the next or the last day, across pages.
-void MvPageCanvas::moveFocusDate(int key)
-{
-    if (!m_focusDate.isValid()) {
-        setFocusDate(firstDate());
-        return;
-    }
-    const QPointF direction(key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : 0,
-                            key == Qt::Key_Down ? 1 : key == Qt::Key_Up ? -1 : 0);
-    const QDate neighbour = neighbourOf(m_focusDate, direction);
-    if (neighbour.isValid()) {
-        setFocusDate(neighbour);
-        return;
-    }
-    const int days = direction.x() + direction.y() > 0 ? 1 : -1;
-    const QDate next = m_focusDate.addDays(days);
-    if (!m_item->dateRect(next).isEmpty()) {
-        setFocusDate(next);
-        return;
-    }
+    constexpr int week = 7;
+    const QDate date = focusDate();
+    const int days = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : key == Qt::Key_Down ? week : -week;
+    const QDate next = date.addDays(days);
     const int page = currentPage();
-    m_wantedDate = next;
-    setCurrentPage(page + days);
+    if (!date.isValid() || !m_item->dateRect(next).isEmpty())
+        return false;
+    setCurrentPage(page + (days > 0 ? 1 : -1));
     if (currentPage() == page)
-        m_wantedDate = {};
-}
-
-QDate MvPageCanvas::neighbourOf(const QDate &date, const QPointF &direction) const
-{
-    constexpr double asideCosts = 4.0; // straight on is nearer than aslant
-    const QRectF from = m_item->dateRect(date);
-    QDate best;
-    double bestDistance = 0.0;
-    for (const QDate &candidate : m_item->dates()) {
-        const QPointF way = m_item->dateRect(candidate).center() - from.center();
-        const double ahead = QPointF::dotProduct(way, direction);
-        const double aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
-        const double extent = direction.x() != 0.0 ? from.height() : from.width();
-        if (ahead <= 1.0 || aside > extent)
-            continue;
-        const double distance = ahead + asideCosts * aside;
-        if (!best.isValid() || distance < bestDistance) {
-            best = candidate;
-            bestDistance = distance;
-        }
-    }
-    return best;
+        return true; // the calendar ends here
+    m_keyboardDate = next; // taken up with the new page's cells
+    m_scene->setFocusItem(nullptr);
+    return true;
 }
 
 void MvPageCanvas::movePhoto(int key)
@@ -529,48 +499,17 @@ void MvPageCanvas::movePhoto(int key)
     m_photoHandle->moveFocus({x, y});
 }
 
-void MvPageCanvas::openMenuForFocusDate()
-{
-    if (!m_focusDate.isValid())
-        return;
-    const QPointF corner = m_item->mapToScene(m_item->dateRect(m_focusDate).center());
-    m_item->cells()->showEntryForDate(m_focusDate, viewport()->mapToGlobal(mapFromScene(corner)));
-}
-
-/// What a screen reader says: the page, and the day that the keyboard is at with what stands on it.
+/// What a screen reader says of the page; its days tell for themselves.
 void MvPageCanvas::updateDescription()
 {
     const QLocale locale = MvApplicationLocale::instance().locale();
-    const MvCalendariumContentConfig &content = m_item->shownPage().contentConfig();
-    QString text = tr("Seite %1 von %2: %3")
-                       .arg(currentPage() + 1)
-                       .arg(m_project->document().pages().size())
-                       .arg(locale.toString(content.date(), u"MMMM yyyy"_s));
-    if (m_focusDate.isValid()) {
-        text += u". "_s + locale.toString(m_focusDate, QLocale::LongFormat);
-        for (const MvCalendarEvent &event :
-             MvCalendarEventRegistry::instance().events(content.moveToDay(m_focusDate)))
-            text += u", "_s + event.description();
-    }
-    if (text == accessibleDescription())
-        return;
-    setAccessibleDescription(text); // tells assistive programs by itself
+    setAccessibleDescription(tr("Seite %1 von %2: %3")
+                                 .arg(currentPage() + 1)
+                                 .arg(m_project->document().pages().size())
+                                 .arg(locale.toString(m_item->shownPage().contentConfig().date(), u"MMMM yyyy"_s)));
 }
 
 // ------------------------------------------------------------------------------------------------------------ painting
-
-void MvPageCanvas::drawForeground(QPainter *painter, const QRectF & /*rect*/)
-{
-    if (!hasFocus() || !m_focusDate.isValid())
-        return;
-    const QRectF rect = m_item->mapRectToScene(m_item->dateRect(m_focusDate));
-    QPen pen(palette().color(QPalette::Highlight), 3.0);
-    pen.setCosmetic(true);
-    pen.setJoinStyle(Qt::MiterJoin);
-    painter->setPen(pen);
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(rect);
-}
 
 void MvPageCanvas::changeEvent(QEvent *event)
 {

@@ -31,10 +31,10 @@ public:
     double zoom() const;
     bool isFitted() const { return m_isFitted; }
 
-    /// The day that the keyboard acts on; invalid when it acts on none.
-    QDate focusDate() const { return m_focusDate; }
-    /// A date that the page does not show is none.
-    void setFocusDate(const QDate &date);
+    /// The day that the keyboard is at; invalid when it is at none.
+    QDate focusDate() const;
+    /// False for a date that the page does not show: the keyboard is at none then.
+    bool setFocusDate(const QDate &date);
 
     /// The menu for a point of the viewport: the day's entries and the page's photo. The caller shows and deletes it.
     QMenu *createContextMenu(const QPoint &position);
@@ -69,7 +69,6 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dragMoveEvent(QDragMoveEvent *event) override;
-    void drawForeground(QPainter *painter, const QRectF &rect) override;
     void dropEvent(QDropEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -92,11 +91,9 @@ private:
     void updateHand();
     QDate dateAt(const QPoint &position) const;
     QDate showDropTarget(const QDropEvent *event);
-    QDate firstDate() const;
-    void moveFocusDate(int key);
-    QDate neighbourOf(const QDate &date, const QPointF &direction) const;
+    bool beginAtFirstDate();
+    bool turnPageByArrow(int key);
     void movePhoto(int key);
-    void openMenuForFocusDate();
     void updateDescription();
 
     MvProject *m_project;
@@ -106,8 +103,7 @@ private:
     MvPhotoHandle *m_photoHandle;
     MvPageDropTarget *m_dropTarget;
     QString m_draggedPhoto;
-    QDate m_focusDate;
-    QDate m_wantedDate; // becomes the focus date with the page that is about to be shown
+    QDate m_keyboardDate; // where the keyboard is, or will be when the page has cells again
     QPoint m_panFrom;
     bool m_isPanning = false;
     bool m_isSpaceDown = false;

@@ -164,6 +164,11 @@ MvDateRange MvPageSetupEditor::range() const
     return {start, start.addMonths(m_months->value()).addDays(-1)};
 }
 
+void MvPageSetupEditor::setStartVisible(bool visible)
+{
+    static_cast<QFormLayout *>(layout())->setRowVisible(0, visible);
+}
+
 void MvPageSetupEditor::onChanged()
 {
     const QLocale locale = MvApplicationLocale::instance().locale();

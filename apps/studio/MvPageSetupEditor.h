@@ -26,6 +26,9 @@ public:
     void setRange(const MvDateRange &range);
     MvDateRange range() const;
 
+    /// Hides the first month where the surroundings ask for it.
+    void setStartVisible(bool visible);
+
 Q_SIGNALS:
     void changed();
 

@@ -8,6 +8,7 @@ public:
     enum Kind : int {
         PhotoFocus = 1,
         MonthCount,
+        PageFormat,
         StartDate,
         Colors,
         Fonts,

@@ -1,0 +1,45 @@
+#include "MvStudioPanels.h"
+
+#include "MvColumnHeadersPanel.h"
+#include "MvContentPanel.h"
+#include "MvFontPanel.h"
+#include "MvLayoutPanel.h"
+#include "MvPageEdits.h"
+
+#include "MvCalendar/MvCalendarEventListWidget.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QWidget *createEntriesPanel(QWidget *parent)
+{
+    auto *panel = new QWidget(parent);
+    panel->setObjectName(u"entriesPanel"_s);
+    (new QVBoxLayout(panel))->addWidget(new MvCalendarEventListWidget(panel));
+    return panel;
+}
+
+} // namespace
+
+MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent)
+    : QObject(parent)
+    , m_edits(new MvPageEdits(project, this))
+{
+    m_panels = {
+        {u"contentPanel"_s, tr("Inhalt"), u"ico_panel_content"_s, new MvContentPanel(m_edits, parent)},
+        {u"layoutPanel"_s, tr("Layout und Farben"), u"ico_panel_layout"_s, new MvLayoutPanel(m_edits, parent)},
+        {u"fontPanel"_s, tr("Schriften"), u"ico_panel_fonts"_s, new MvFontPanel(m_edits, parent)},
+        {u"columnHeadersPanel"_s, tr("Spalten"), u"ico_panel_columns"_s, new MvColumnHeadersPanel(m_edits, parent)},
+        {u"entriesPanel"_s, tr("Einträge"), u"ico_panel_entries"_s, createEntriesPanel(parent)},
+    };
+}
+
+MvStudioPanels::~MvStudioPanels() = default;
+
+void MvStudioPanels::setCurrentPage(int page)
+{
+    m_edits->setCurrentPage(page);
+}
