@@ -2,12 +2,80 @@
 
 #include <QMainWindow>
 
+class MvBirthdayImport;
+class MvExportFlow;
+class MvPageCanvas;
+class MvPageStrip;
+class MvPrintFlow;
+class MvProject;
+class MvProjectFlow;
+class MvStudioActions;
+class MvStudioStatusBar;
+class MvUndoActions;
+class MvUnfittingWatch;
+class MvWelcomePanel;
+class QMenu;
+
 /// The window of the program: the page in the middle, the strip of pages and the panels around it.
 class MvStudioWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    explicit MvStudioWindow(QWidget *parent = nullptr);
+    /// The project is not owned and must outlive the window.
+    explicit MvStudioWindow(MvProject *project, QWidget *parent = nullptr);
     ~MvStudioWindow() override;
+
+    MvProjectFlow *projectFlow() const { return m_flow; }
+    MvBirthdayImport *birthdayImport() const { return m_import; }
+
+    int currentPage() const;
+
+public Q_SLOTS:
+    void setCurrentPage(int page);
+
+Q_SIGNALS:
+    /// The settings ask for other colours.
+    void themeChanged();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void createCenter();
+    void createDocks();
+    void createMenus();
+    void createToolBar();
+    void connectActions();
+    void connectPages();
+    void addPanels();
+
+    void fillRecentMenu();
+    void showMessage(const QString &text);
+    void updateTitle();
+    void updatePage();
+    void chooseLayout();
+    void changePageSetup();
+    void showSettings();
+    void setWelcomeShown(bool shown);
+    QString pageTitle(int page) const;
+    void rememberWindow() const;
+
+    MvProject *m_project;
+    MvStudioActions *m_actions;
+    MvUndoActions *m_undo;
+    MvProjectFlow *m_flow;
+    MvExportFlow *m_export;
+    MvPrintFlow *m_print;
+    MvBirthdayImport *m_import;
+    MvUnfittingWatch *m_unfitting;
+    MvWelcomePanel *m_welcome = nullptr;
+    MvPageCanvas *m_canvas = nullptr;
+    MvPageStrip *m_strip = nullptr;
+    MvStudioStatusBar *m_statusBar;
+    QMenu *m_recentMenu = nullptr;
+    QMenu *m_viewMenu = nullptr;
+    bool m_mayClose = false; // nothing would be lost
 };

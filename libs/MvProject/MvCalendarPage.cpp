@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvModelBase/MvPaintRecorder.h"
+#include "MvProject/MvCalendariumFit.h"
 #include "MvProject/MvPhotoPainter.h"
 
 #include <QPainter>
@@ -112,9 +113,10 @@ QList<MvUnfittingText> MvCalendarPage::paintCalendarium(QPainter &painter, const
     QRectF rect = calendariumRect(format);
     if (!isValid() || rect.isEmpty())
         return {};
-    const auto calendarium = renderer(m_appearance, format, documentRange);
-    if (!calendarium->rendersMonthInformation())
-        rect = paintMonthLine(painter, rect, format, documentRange);
+    const MvSpaceMagnitude pageSize = format.magnitude();
+    if (!renderer(m_appearance, pageSize, documentRange)->rendersMonthInformation())
+        rect = paintMonthLine(painter, rect, pageSize, documentRange);
+    const auto calendarium = fittedRenderer(pageSize, rect.size(), documentRange);
     if (prepare)
         prepare(*calendarium);
     calendarium->render(painter, rect);
@@ -122,7 +124,7 @@ QList<MvUnfittingText> MvCalendarPage::paintCalendarium(QPainter &painter, const
 }
 
 std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendariumAppearance &appearance,
-                                                                const MvPageFormat &format,
+                                                                const MvSpaceMagnitude &productSize,
                                                                 const MvDateRange &documentRange) const
 {
     std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
@@ -132,19 +134,29 @@ std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendar
     const bool isYearPage = appearance.type() == CALENDAR_YEAR;
     made->setCalendarInformation(content, isYearPage ? MvDateRange(month, month.addMonths(monthsPerYear).addDays(-1))
                                                      : documentRange);
-    made->setProductSize(format.magnitude());
+    made->setProductSize(productSize);
     made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
     return made;
 }
 
-QRectF MvCalendarPage::paintMonthLine(QPainter &painter, const QRectF &rect, const MvPageFormat &format,
+std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::fittedRenderer(const MvSpaceMagnitude &pageSize,
+                                                                      const QSizeF &room,
+                                                                      const MvDateRange &documentRange) const
+{
+    if (monthCount() > 1)
+        return renderer(m_appearance, pageSize, documentRange); // years fit themselves
+    const MvCalendariumFit fit(m_appearance, m_content, pageSize, room);
+    return renderer(fit.appearance(), fit.productSize(), documentRange);
+}
+
+QRectF MvCalendarPage::paintMonthLine(QPainter &painter, const QRectF &rect, const MvSpaceMagnitude &pageSize,
                                       const MvDateRange &documentRange) const
 {
     MvCalendariumAppearance appearance = m_appearance;
     appearance.setLayoutSchemaByID(m_appearance.layoutSchema().monthLayout());
     if (!appearance.isValid())
         return rect;
-    const auto line = renderer(appearance, format, documentRange);
+    const auto line = renderer(appearance, pageSize, documentRange);
     const double height = std::min(rect.height() / 2.0, double(line->minimumSizeHint().height()));
     line->render(painter, {rect.left(), rect.top(), rect.width(), height});
     return rect.adjusted(0.0, height, 0.0, 0.0);

@@ -1,0 +1,69 @@
+#include "MvProject/MvProjectRecovery.h"
+
+#include "MvCore/MvFileGuard.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectAutosave.h"
+#include "MvProject/MvProjectFile.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString lockSuffix = u".lock"_s;
+
+/// Removes the locks of programs that died before they had written anything.
+void sweepLocks(const QDir &folder)
+{
+    for (const QFileInfo &lock : folder.entryInfoList({u'*' + lockSuffix}, QDir::Files)) {
+        const QFileInfo file(lock.absoluteFilePath().chopped(lockSuffix.size()));
+        if (!file.exists())
+            MvFileGuard(file, 0); // takes the lock with it, if nobody holds it
+    }
+}
+
+} // namespace
+
+QList<MvProjectRecovery::Entry> MvProjectRecovery::found()
+{
+    const QDir folder(MvProjectAutosave::folder());
+    sweepLocks(folder);
+    QList<Entry> entries;
+    for (const QFileInfo &file : folder.entryInfoList({u"*."_s + MvProjectFile::suffix()}, QDir::Files)) {
+        if (!MvFileGuard(file, 0).isLocked())
+            continue; // its program lives
+        const MvProjectFile::Content content = MvProjectFile::read(file);
+        entries.append({file, content.originalPath, content.document.title(), file.lastModified()});
+    }
+    std::sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.time > b.time; });
+    return entries;
+}
+
+bool MvProjectRecovery::open(const Entry &entry, MvProject &project, QString *error)
+{
+    QString found;
+    MvProjectFile::Content content;
+    if (!MvFileGuard(entry.file, 0).isLocked())
+        found = tr("Der Stand ist schon in einem anderen Fenster geöffnet.");
+    else
+        content = MvProjectFile::read(entry.file);
+    if (found.isEmpty())
+        found = content.error;
+    if (error)
+        *error = found;
+    if (!found.isEmpty())
+        return false;
+    project.openRecovered(content.document, QFileInfo(content.originalPath), entry.file);
+    return true;
+}
+
+void MvProjectRecovery::discard(const Entry &entry)
+{
+    const MvFileGuard guard(entry.file, 0);
+    if (guard.isLocked())
+        QFile::remove(entry.file.absoluteFilePath());
+}
