@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
@@ -105,7 +106,7 @@ QIcon MvColorSchemaPicker::swatch(const MvCalendariumColorSchema &schema) const
             const QColor ground = colorOf(schema, MvCalendarCellColorRoleEnum::bgcolor, type, row);
             if (ground.isValid())
                 painter.fillRect(rect.adjusted(0.0, 0.0, 0.2, 0.2), ground);
-            painter.setBrush(colorOf(schema, MvCalendarCellColorRoleEnum::fontcolor, type, row));
+            painter.setBrush(colorOf(schema, MvCalendarCellColorRoleEnum::textcolor, type, row));
             painter.drawEllipse(rect.center(), 1.9, 1.9);
         }
     }

@@ -4,6 +4,7 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvProject/MvProject.h"
 

@@ -57,7 +57,7 @@ void MvPagePhoto::choose()
     const MvPhotoFrame &frame = m_item->shownPage().photoFrame();
     dialog->setDirectory(frame.isValid() ? QFileInfo(frame.path()).absolutePath()
                                          : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-    connect(dialog, &QFileDialog::fileSelected, this, &MvPagePhoto::set);
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) { set(path); });
     dialog->open();
 }
 
