@@ -1,0 +1,61 @@
+#include "MvCore/MvDiskAccessRequest.h"
+
+#include <QDir>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+template class MvSingleton<MvDiskAccessRequest>;
+
+namespace {
+
+MvDiskAccessRequest::Answer whileAlive(QObject *asker, const MvDiskAccessRequest::Answer &answer)
+{
+    if (!asker)
+        return answer;
+    return [guard = QPointer<QObject>(asker), answer](const QString &fileName) {
+        if (guard)
+            answer(fileName);
+    };
+}
+
+QString withReason(const QString &text, const QString &reason)
+{
+    return reason.isEmpty() ? text : text + u"\n\n"_s + reason;
+}
+
+} // namespace
+
+void MvDiskAccessRequest::requestOpenFile(int kind, const QString &title, const QString &filter, QObject *asker,
+                                          const Answer &answer)
+{
+    const MvRequestHandler::FileRequest request{kind, MvRequestHandler::FileMode::Open, title, filter, {}};
+    MvRequestHandler::current().askForFile(request, asker, whileAlive(asker, answer));
+}
+
+void MvDiskAccessRequest::requestSaveFile(int kind, const QString &title, const QString &filter,
+                                          const QString &suggestedName, QObject *asker, const Answer &answer)
+{
+    const MvRequestHandler::FileRequest request{kind, MvRequestHandler::FileMode::Save, title, filter, suggestedName};
+    MvRequestHandler::current().askForFile(request, asker, whileAlive(asker, answer));
+}
+
+void MvDiskAccessRequest::readCalendarEntriesFileFailed(const QString &fileName, const QString &reason, QObject *asker)
+{
+    const QString text = tr("„%1“ ist keine lesbare Liste von Kalendereinträgen. Ihre Einträge wurden nicht verändert.")
+                             .arg(QDir::toNativeSeparators(fileName));
+    MvRequestHandler::current().report(tr("Kalendereinträge"), withReason(text, reason), asker);
+}
+
+void MvDiskAccessRequest::writeCalendarEntriesFileFailed(const QString &fileName, const QString &reason, QObject *asker)
+{
+    const QString text =
+        tr("Die Kalendereinträge ließen sich nicht in „%1“ sichern.").arg(QDir::toNativeSeparators(fileName));
+    MvRequestHandler::current().report(tr("Kalendereinträge"), withReason(text, reason), asker);
+}
+
+void MvDiskAccessRequest::readFotoFailed(const QString &fileName, QObject *asker)
+{
+    const QString text = tr("„%1“ ist kein Foto, das gelesen werden kann.").arg(QDir::toNativeSeparators(fileName));
+    MvRequestHandler::current().report(tr("Foto"), text, asker);
+}

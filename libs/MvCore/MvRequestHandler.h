@@ -1,0 +1,47 @@
+#pragma once
+
+#include "MvCore/mvcore_export.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+class QObject;
+
+/// Whom the libraries ask when only the user can answer, and tell what the user must know. A program installs the one
+/// that fits: dialogs in a window, messages on a terminal, a script in a test.
+///
+/// Answers may come before the call returns or later; they are never waited for. GUI thread.
+class MVCORE_EXPORT MvRequestHandler
+{
+public:
+    enum class FileMode { Open, Save };
+
+    struct FileRequest
+    {
+        int kind = 0; // of MvDiskAccessRequest::Kind; what belongs together shares its last folder
+        FileMode mode = FileMode::Open;
+        QString title;
+        QString filter; // "*.xml", or in the form of file dialogs: "Fotos (*.jpg *.png);;Alle Dateien (*)"
+        QString suggestedName;
+    };
+
+    using FileAnswer = std::function<void(const QString &fileName)>; // empty: none was chosen
+    using YesNoAnswer = std::function<void(bool yes)>;
+
+    MvRequestHandler() = default;
+    virtual ~MvRequestHandler();
+    MvRequestHandler(const MvRequestHandler &) = delete;
+    MvRequestHandler &operator=(const MvRequestHandler &) = delete;
+
+    // `asker` is who wants to know, for dialogs the widget they belong to; it may be null.
+    virtual void askForFile(const FileRequest &request, QObject *asker, const FileAnswer &answer) = 0;
+    virtual void askYesNo(const QString &title, const QString &text, QObject *asker, const YesNoAnswer &answer) = 0;
+    virtual void report(const QString &title, const QString &text, QObject *asker) = 0;
+
+    /// The installed one. Without one: reports are logged as warnings, and nobody is there to choose or to agree.
+    static MvRequestHandler &current();
+    /// Replaces the installed one and returns that; null goes back to none.
+    static std::unique_ptr<MvRequestHandler> install(std::unique_ptr<MvRequestHandler> handler);
+};

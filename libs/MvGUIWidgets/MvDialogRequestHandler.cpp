@@ -1,0 +1,77 @@
+#include "MvGUIWidgets/MvDialogRequestHandler.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QWidget *windowOf(QObject *asker)
+{
+    const auto *widget = qobject_cast<QWidget *>(asker);
+    return widget ? widget->window() : QApplication::activeWindow();
+}
+
+/// The suffix of the filter's first pattern, which a typed name without one gets.
+QString suffixOf(const QString &filter)
+{
+    static const QRegularExpression pattern(uR"(\*\.(\w+))"_s);
+    return pattern.match(filter).captured(1);
+}
+
+QMessageBox *messageBox(QMessageBox::Icon icon, const QString &title, const QString &text, QObject *asker)
+{
+    auto *box = new QMessageBox(icon, title, text, QMessageBox::NoButton, windowOf(asker));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextFormat(Qt::PlainText); // file names are no markup
+    return box;
+}
+
+} // namespace
+
+MvDialogRequestHandler::MvDialogRequestHandler() = default;
+MvDialogRequestHandler::~MvDialogRequestHandler() = default;
+
+void MvDialogRequestHandler::askForFile(const FileRequest &request, QObject *asker, const FileAnswer &answer)
+{
+    auto *dialog = new QFileDialog(windowOf(asker), request.title, m_lastFolders.value(request.kind), request.filter);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    const bool saves = request.mode == FileMode::Save;
+    dialog->setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog->setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    if (saves) {
+        dialog->setDefaultSuffix(suffixOf(request.filter));
+        dialog->selectFile(request.suggestedName);
+    }
+    QObject::connect(dialog, &QFileDialog::finished, dialog, [this, dialog, kind = request.kind, answer](int result) {
+        const QString file = result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
+        if (!file.isEmpty() && &MvRequestHandler::current() == this)
+            m_lastFolders.insert(kind, QFileInfo(file).absolutePath());
+        answer(file);
+    });
+    dialog->open();
+}
+
+void MvDialogRequestHandler::askYesNo(const QString &title, const QString &text, QObject *asker,
+                                      const YesNoAnswer &answer)
+{
+    QMessageBox *box = messageBox(QMessageBox::Question, title, text, asker);
+    const QAbstractButton *yes = box->addButton(tr("Ja"), QMessageBox::YesRole);
+    QPushButton *no = box->addButton(tr("Nein"), QMessageBox::NoRole);
+    box->setDefaultButton(no);
+    box->setEscapeButton(no);
+    QObject::connect(box, &QMessageBox::finished, box, [box, yes, answer] { answer(box->clickedButton() == yes); });
+    box->open();
+}
+
+void MvDialogRequestHandler::report(const QString &title, const QString &text, QObject *asker)
+{
+    QMessageBox *box = messageBox(QMessageBox::Warning, title, text, asker);
+    box->addButton(QMessageBox::Ok);
+    box->open();
+}
