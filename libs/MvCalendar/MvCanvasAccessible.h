@@ -1,0 +1,28 @@
+#pragma once
+
+#include "MvCalendar/mvcalendar_export.h"
+
+#include <QAccessibleWidget>
+#include <QList>
+
+class MvGraphicsItemCalendariumCell;
+class QGraphicsView;
+
+/// A graphics view as a screen reader sees it: besides its scroll bars, the dates of its calendaria in order. A
+/// program's own class for its view can derive from it to list further items.
+class MVCALENDAR_EXPORT MvCanvasAccessible : public QAccessibleWidget
+{
+public:
+    explicit MvCanvasAccessible(QGraphicsView *view);
+
+    int childCount() const override;
+    QAccessibleInterface *child(int index) const override;
+    int indexOfChild(const QAccessibleInterface *child) const override;
+    QAccessibleInterface *childAt(int x, int y) const override;
+    QAccessibleInterface *focusChild() const override;
+
+protected:
+    QGraphicsView *view() const;
+    /// The visible ones, by date.
+    QList<MvGraphicsItemCalendariumCell *> cells() const;
+};
