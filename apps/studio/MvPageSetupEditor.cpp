@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double tenths = 10.0; // of a millimetre
-constexpr QDate earliest(1900, 1, 1);
+const QDate earliest(1900, 1, 1);
 constexpr int latestYear = 2200;
 
 QDoubleSpinBox *createLength(const QString &objectName, double least, double most, QWidget *parent)
