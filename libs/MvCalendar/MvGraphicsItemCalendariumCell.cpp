@@ -86,7 +86,9 @@ void MvGraphicsItemCalendariumCell::paint(QPainter *painter, const QStyleOptionG
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
     painter->setBrush(withAlpha(color, isFocused ? focusFillAlpha : fillAlpha));
-    painter->drawRoundedRect(m_boundingRect, lineWidth / scale, lineWidth / scale);
+    const qreal inset = isFocused ? width / 2 : 0; // a thick line stays inside
+    painter->drawRoundedRect(m_boundingRect.adjusted(inset, inset, -inset, -inset), lineWidth / scale,
+                             lineWidth / scale);
     painter->restore();
 }
 
