@@ -18,9 +18,9 @@
 namespace {
 
 constexpr qint64 photoBytes = qint64(192) << 20;
-constexpr int shadowWidth = 36; // tenths of a millimetre
-constexpr int shadowSteps = 12;
-const QColor shadowColor(0, 0, 0, 9);
+constexpr int shadowWidth = 44; // tenths of a millimetre
+constexpr int shadowSteps = 16;
+const QColor shadowColor(0, 0, 0, 5);
 const QColor placeholderColor(0xe4, 0xe6, 0xe9);
 const QColor placeholderTextColor(0x55, 0x5b, 0x63);
 

@@ -4,6 +4,21 @@
 
 #include <QtWidgets/QtWidgets>
 
+/// Base of test classes with windows: what the offscreen platform cannot do is no fault of ours.
+class MvWidgetTest : public MvTest
+{
+    Q_OBJECT
+
+protected:
+    static void failOnWarnings()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+    }
+
+private Q_SLOTS:
+    void init() { failOnWarnings(); }
+};
+
 /// Runs a test class in a QApplication (offscreen, Fusion) with a temporary user folder that is gone afterwards.
 int mvRunWidgetTest(int argc, char **argv, QObject *(*create)());
 

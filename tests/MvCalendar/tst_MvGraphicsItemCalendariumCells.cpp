@@ -1,0 +1,468 @@
+#include "MvWidgetTest.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCell.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvCore/MvUndoController.h"
+#include "MvModelBase/MvRenderingRule.h"
+
+#include <QAccessible>
+#include <QSvgRenderer>
+
+using Cell = MvGraphicsItemCalendariumCell;
+using Manager = MvGraphicsItemCalendariumCellsManager;
+
+namespace {
+
+const QDate day(2027, 6, 5);
+const QRectF pageRect(0, 0, 210, 180);
+
+class Calendarium : public QGraphicsObject
+{
+public:
+    QRectF boundingRect() const override { return pageRect; }
+    void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override {}
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override { event->accept(); }
+};
+
+/// June 2027 in a grid on a canvas.
+struct Canvas
+{
+    Canvas()
+    {
+        scene.addItem(item);
+        manager->setHolidayConfig({MvLocale(), {}, MvCalendariumFeatures(FEATURE_ENTRIES)});
+        view.resize(400, 350);
+        view.show();
+        view.activateWindow();
+    }
+
+    void pass(const QDate &month, const QRectF &rect)
+    {
+        manager->resetRectsForMonth(month, rect);
+        for (int i = 0; i < month.daysInMonth(); ++i)
+            manager->addRectForDate(month.addDays(i), QRectF(i % 7 * 30, i / 7 * 30, 28, 28));
+    }
+    QPoint centre(const QDate &date) { return view.mapFromScene(manager->cell(date)->sceneBoundingRect().center()); }
+
+    QGraphicsScene scene;
+    QGraphicsView view{&scene};
+    Calendarium *item = new Calendarium;
+    Manager *manager = new Manager(item);
+};
+
+MvCalendarEvent entry(const QString &name, const QDate &date)
+{
+    return {name, date.startOfDay(), true, {}, QUuid::createUuid(), {}};
+}
+
+QMenu *openMenu()
+{
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+
+MvCalendarDayEditorDialog *openEditor()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget);
+        if (dialog && dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_MvGraphicsItemCalendariumCells : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void passes_data();
+    void passes();
+    void clicks_data();
+    void clicks();
+    void dragIsNoClick();
+    void menuLeadsToTheEditor();
+    void notEditable();
+    void hovers();
+    void paintsForPeopleOnly_data();
+    void paintsForPeopleOnly();
+    void keyboard();
+    void screenReader();
+    void droppedFotos_data();
+    void droppedFotos();
+    void artwork_data();
+    void artwork();
+    void repaintsTheItem();
+};
+
+void tst_MvGraphicsItemCalendariumCells::init()
+{
+    failOnWarnings();
+    MvUndoController::instance().clear();
+    MvCalendarEventRegistry::instance().setEvents({});
+}
+
+void tst_MvGraphicsItemCalendariumCells::passes_data()
+{
+    QTest::addColumn<QDate>("month");
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<bool>("titleLine");
+    QTest::addColumn<bool>("keeps");
+    QTest::addColumn<bool>("keeps other months");
+    const QDate june(2027, 6, 1);
+    QTest::newRow("the same") << june << pageRect << false << true << true;
+    QTest::newRow("equal but for rounding") << june << pageRect.adjusted(0, 0, 1e-11, 0) << false << true << true;
+    QTest::newRow("another rectangle") << june << pageRect.adjusted(0, 0, 1, 0) << false << false << true;
+    QTest::newRow("a title line") << june << pageRect << true << false << true;
+    QTest::newRow("another month") << QDate(2027, 7, 1) << pageRect << false << false << false;
+}
+
+void tst_MvGraphicsItemCalendariumCells::passes()
+{
+    QFETCH(const QDate, month);
+    QFETCH(const QRectF, rect);
+    Canvas canvas;
+    canvas.pass({2027, 6, 1}, pageRect);
+    canvas.manager->addRectForDate({2027, 5, 31}, {0, 0, 20.7, 28}); // of the month before
+    QCOMPARE(canvas.manager->smallestWidth(), 20);
+    const QPointer<Cell> cell = canvas.manager->cell(day);
+    const QPointer<Cell> other = canvas.manager->cell({2027, 5, 31});
+    QCOMPARE(cell->sceneBoundingRect(), QRectF(120, 0, 28, 28));
+
+    canvas.manager->resetRectsForMonth(month, rect);
+    QFETCH(const bool, titleLine);
+    canvas.manager->resetRectsForTitleLine(titleLine);
+    QTEST(canvas.manager->cell(day) == cell, "keeps");
+    QTEST(canvas.manager->cell({2027, 5, 31}) == other, "keeps other months");
+    QTEST(cell->scene() != nullptr, "keeps");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTEST(cell != nullptr, "keeps");
+}
+
+void tst_MvGraphicsItemCalendariumCells::clicks_data()
+{
+    QTest::addColumn<QString>("gesture");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("click") << u"c"_qs << true;
+    QTest::newRow("double click") << u"cd"_qs << false;
+    QTest::newRow("right click") << u"r"_qs << false;
+    QTest::newRow("right click, later a click") << u"rwc"_qs << true;
+    QTest::newRow("double click, later a click") << u"cdwc"_qs << true;
+}
+
+void tst_MvGraphicsItemCalendariumCells::clicks()
+{
+    Canvas canvas;
+    canvas.pass({2027, 6, 1}, pageRect);
+    QVERIFY(QTest::qWaitForWindowExposed(&canvas.view));
+    QWidget *viewport = canvas.view.viewport();
+    QSignalSpy spy(canvas.manager->cell(day), &Cell::dateClicked);
+    QFETCH(const QString, gesture);
+    for (const QChar step : gesture) {
+        if (step == u'c')
+            QTest::mouseClick(viewport, Qt::LeftButton, {}, canvas.centre(day));
+        else if (step == u'r')
+            QTest::mouseClick(viewport, Qt::RightButton, {}, canvas.centre(day));
+        else if (step == u'd') {
+            QTest::mouseDClick(viewport, Qt::LeftButton, {}, canvas.centre(day));
+            QTest::mouseRelease(viewport, Qt::LeftButton, {}, canvas.centre(day));
+        } else
+            QTest::qWait(600);
+    }
+    QVERIFY(spy.isEmpty()); // not before it is clear that no second click follows
+    QTest::qWait(350);
+    QFETCH(const bool, opens);
+    QCOMPARE(spy.count(), int(opens));
+    QCOMPARE(openMenu() != nullptr, opens);
+    if (!opens)
+        return;
+    QCOMPARE(spy.at(0).at(1).toPoint(), viewport->mapToGlobal(canvas.centre(day)));
+    QCOMPARE(openMenu()->actions().last()->text(), u"Neuen Eintrag am 5. Juni erstellen…"_qs);
+    const QPointer<QMenu> menu = openMenu();
+    QTest::keyClick(menu, Qt::Key_Escape);
+    QTRY_VERIFY(!menu); // deletes itself
+}
+
+void tst_MvGraphicsItemCalendariumCells::dragIsNoClick()
+{
+    Canvas canvas;
+    canvas.pass({2027, 6, 1}, pageRect);
+    QVERIFY(QTest::qWaitForWindowExposed(&canvas.view));
+    QSignalSpy spy(canvas.manager->cell(day), &Cell::dateClicked);
+    QTest::mousePress(canvas.view.viewport(), Qt::LeftButton, {}, canvas.centre(day));
+    canvas.item->setPos(5, 5);
+    QTest::qWait(350);
+    QCOMPARE(spy.count(), 0);
+    QTest::mouseRelease(canvas.view.viewport(), Qt::LeftButton, {}, canvas.centre(day));
+}
+
+void tst_MvGraphicsItemCalendariumCells::menuLeadsToTheEditor()
+{
+    MvCalendarEventRegistry::instance().setEvents(
+        {entry(u"Oma & Opa"_qs, QDate(1950, 6, 5)), entry(u"Zoë"_qs, day), entry(u"anderer Tag"_qs, day.addDays(1))});
+    Canvas canvas;
+    const std::unique_ptr<QMenu> menu(canvas.manager->customEntryMenuForHoveredDate(day));
+    QCOMPARE(menu->title(), u"Eigene Einträge bearbeiten"_qs);
+    QStringList texts;
+    for (const QAction *action : menu->actions())
+        texts.append(action->text());
+    QCOMPARE(texts, (QStringList{u"„Oma && Opa“ bearbeiten…"_qs, u"„Zoë“ bearbeiten…"_qs, QString(),
+                                 u"Neuen Eintrag am 5. Juni erstellen…"_qs}));
+
+    QSignalSpy spy(canvas.manager, &Manager::eventChanged);
+    menu->actions().at(1)->trigger();
+    QPointer<MvCalendarDayEditorDialog> dialog = openEditor();
+    QVERIFY(dialog);
+    QCOMPARE(dialog->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Zoë"_qs);
+    QTest::keyClick(dialog, Qt::Key_Escape);
+    QTRY_VERIFY(!dialog);
+    QCOMPARE(spy.count(), 0);
+
+    menu->actions().last()->trigger();
+    dialog = openEditor();
+    QTest::keyClicks(dialog->findChild<QLineEdit *>(u"descriptionEdit"_qs), u"Neu"_qs);
+    QTest::keyClick(dialog, Qt::Key_Return);
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(MvCalendarEventRegistry::instance().activeEventList().last().dateTime(), day.startOfDay());
+}
+
+void tst_MvGraphicsItemCalendariumCells::notEditable()
+{
+    Canvas canvas;
+    canvas.manager->setEditable(false);
+    canvas.pass({2027, 6, 1}, pageRect);
+    QVERIFY(!canvas.manager->cell(day)->isVisible());
+    QVERIFY(!canvas.manager->customEntryMenuForHoveredDate(day));
+    QVERIFY(!canvas.manager->focusDate(day));
+    canvas.manager->showEntryForDate(day, {});
+    QTest::qWait(50);
+    QVERIFY(!openMenu());
+    canvas.manager->setEditable(true);
+    QVERIFY(canvas.manager->cell(day)->isVisible());
+}
+
+void tst_MvGraphicsItemCalendariumCells::hovers()
+{
+    Canvas canvas;
+    canvas.pass({2027, 6, 1}, pageRect);
+    QVERIFY(QTest::qWaitForWindowExposed(&canvas.view));
+    QCOMPARE(canvas.manager->cell(day)->opacity(), 0.01);
+    QTest::mouseMove(canvas.view.viewport(), canvas.centre(day));
+    QTRY_COMPARE(canvas.manager->hoveredDate(), day);
+    QTRY_COMPARE(canvas.manager->cell(day)->opacity(), 0.5);
+    QTest::mouseMove(canvas.view.viewport(), QPoint(2, 2));
+    QTRY_COMPARE(canvas.manager->hoveredDate(), QDate());
+    QTRY_COMPARE(canvas.manager->cell(day)->opacity(), 0.01);
+}
+
+void tst_MvGraphicsItemCalendariumCells::paintsForPeopleOnly_data()
+{
+    QTest::addColumn<unsigned>("flags");
+    QTest::addColumn<double>("opacity");
+    QTest::addColumn<bool>("paints");
+    QTest::newRow("on the screen") << 0x800U << 0.5 << true;
+    QTest::newRow("on the screen, with warnings") << 0x800800U << 0.5 << true;
+    QTest::newRow("hidden") << 0x800U << 0.02 << false;
+    QTest::newRow("no rule") << 0U << 0.5 << false;
+    QTest::newRow("print") << 0x8800U << 0.5 << false;
+    QTest::newRow("thumbnail") << 0x200800U << 0.5 << false;
+}
+
+void tst_MvGraphicsItemCalendariumCells::paintsForPeopleOnly()
+{
+    QFETCH(const unsigned, flags);
+    QFETCH(const double, opacity);
+    Cell cell(day, nullptr);
+    cell.setBoundingRect({0, 0, 20, 20});
+    cell.setOpacity(opacity);
+    QImage image(20, 20, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    MvRenderingRule(flags).encodeInto(painter);
+    cell.paint(&painter, nullptr, nullptr);
+    painter.end();
+    QTEST(image.pixelColor(10, 10).alpha() == 155, "paints");
+    QTEST(image.pixelColor(10, 10).alpha() != 0, "paints");
+}
+
+void tst_MvGraphicsItemCalendariumCells::keyboard()
+{
+    Canvas canvas;
+    canvas.pass({2027, 6, 1}, pageRect);
+    QVERIFY(QTest::qWaitForWindowActive(&canvas.view));
+    QVERIFY(!canvas.manager->focusDate({2027, 7, 1}));
+    QVERIFY(canvas.manager->focusDate(day));
+    const auto focused = [&canvas] {
+        const auto *cell = qobject_cast<Cell *>(canvas.scene.focusItem()->toGraphicsObject());
+        return cell && cell->hasKeyboardFocus() && cell->opacity() == 1.0 ? cell->date() : QDate();
+    };
+    const auto press = [&canvas](Qt::Key key) { QTest::keyClick(canvas.view.viewport(), key); };
+    QCOMPARE(focused(), day);
+    press(Qt::Key_Right);
+    press(Qt::Key_Down);
+    QCOMPARE(focused(), QDate(2027, 6, 13));
+    press(Qt::Key_End);
+    press(Qt::Key_Right); // no cell there
+    QCOMPARE(focused(), QDate(2027, 6, 30));
+    press(Qt::Key_Up);
+    press(Qt::Key_Left);
+    QCOMPARE(focused(), QDate(2027, 6, 22));
+    press(Qt::Key_Home);
+    QCOMPARE(focused(), QDate(2027, 6, 1));
+    press(Qt::Key_Return);
+    QTRY_VERIFY(openMenu());
+    QTest::keyClick(openMenu(), Qt::Key_Escape);
+    QTRY_VERIFY(!openMenu());
+    QCOMPARE(focused(), QDate(2027, 6, 1));
+
+    // a click leaves the keys to the calendarium
+    QTest::mouseClick(canvas.view.viewport(), Qt::LeftButton, {}, canvas.centre(day));
+    press(Qt::Key_Right);
+    QCOMPARE(focused(), QDate());
+    QCOMPARE(canvas.manager->cell(QDate(2027, 6, 1))->opacity(), 0.01);
+}
+
+void tst_MvGraphicsItemCalendariumCells::screenReader()
+{
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Tim"_qs, day), entry(u"Åsa"_qs, day)});
+    Canvas canvas;
+    canvas.pass({2027, 6, 1}, pageRect);
+    QVERIFY(QTest::qWaitForWindowActive(&canvas.view));
+    QAccessibleInterface *view = QAccessible::queryAccessibleInterface(&canvas.view);
+    QAccessibleInterface *cell = view->child(view->childCount() - 26); // the fifth of thirty
+    QVERIFY(cell && cell->isValid());
+    QCOMPARE(cell->role(), QAccessible::Button);
+    QCOMPARE(cell->text(QAccessible::Name), u"Samstag, 5. Juni 2027"_qs);
+    QCOMPARE(cell->text(QAccessible::Description), u"Tim, Åsa"_qs);
+    QCOMPARE(cell->parent(), view);
+    QCOMPARE(view->indexOfChild(cell), view->childCount() - 26);
+    const QPoint centre = canvas.view.viewport()->mapToGlobal(canvas.centre(day));
+    QVERIFY(cell->rect().contains(centre));
+    QCOMPARE(view->childAt(centre.x(), centre.y()), cell);
+    cell->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    QVERIFY(cell->state().focused);
+    cell->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QTRY_VERIFY(openMenu());
+    openMenu()->close();
+}
+
+void tst_MvGraphicsItemCalendariumCells::droppedFotos_data()
+{
+    QTest::addColumn<int>("entries");
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<bool>("opens the editor");
+    const QStringList fotos{u"text.txt"_qs, u"rot.png"_qs, u"blau.png"_qs};
+    QTest::newRow("no photo among the files") << 1 << QStringList{u"text.txt"_qs} << false << false;
+    QTest::newRow("a day without entries") << 0 << fotos << true << true;
+    QTest::newRow("a day with one") << 1 << fotos << true << false;
+    QTest::newRow("a day with two") << 2 << fotos << true << true;
+}
+
+void tst_MvGraphicsItemCalendariumCells::droppedFotos()
+{
+    const QTemporaryDir folder;
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(folder.filePath(u"rot.png"_qs)));
+    image.fill(Qt::blue);
+    QVERIFY(image.save(folder.filePath(u"blau.png"_qs)));
+    QFile text(folder.filePath(u"text.txt"_qs));
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("kein Foto") > 0);
+    text.close();
+    QFETCH(const QStringList, files);
+    QList<QUrl> urls;
+    for (const QString &file : files)
+        urls.append(QUrl::fromLocalFile(folder.filePath(file)));
+    QMimeData mime;
+    mime.setUrls(urls);
+
+    QFETCH(const int, entries);
+    MvCalendarEventList events;
+    for (int i = 0; i < entries; ++i)
+        events.append(entry(QString::number(i), day));
+    MvCalendarEventRegistry::instance().setEvents(events);
+    Canvas canvas;
+    canvas.manager->setHolidayConfig({}); // entries that the page does not show count, too
+    canvas.pass({2027, 6, 1}, pageRect);
+    QVERIFY(QTest::qWaitForWindowExposed(&canvas.view));
+
+    const QPoint pos = canvas.centre(day);
+    QDragEnterEvent enter(pos, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QApplication::sendEvent(canvas.view.viewport(), &enter);
+    QDragMoveEvent move(pos, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QApplication::sendEvent(canvas.view.viewport(), &move);
+    QTEST(move.isAccepted(), "accepted");
+    QDropEvent drop(pos, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QApplication::sendEvent(canvas.view.viewport(), &drop);
+
+    const QPointer<MvCalendarDayEditorDialog> editor = openEditor();
+    QTEST(editor != nullptr, "opens the editor");
+    QFETCH(const bool, accepted);
+    QCOMPARE(MvUndoController::instance().stack()->count(), int(accepted && !editor));
+    if (accepted && !editor) {
+        const MvFoto foto = MvCalendarEventRegistry::instance().activeEventList().first().foto();
+        QCOMPARE(QImage(foto.localFilePath()).pixelColor(20, 15), QColor(Qt::red)); // the first photo
+    }
+    if (editor) {
+        QVERIFY(editor->hasPhoto());
+        editor->rejectedClicked();
+    }
+}
+
+void tst_MvGraphicsItemCalendariumCells::artwork_data()
+{
+    QTest::addColumn<Qt::AspectRatioMode>("mode");
+    QTest::addColumn<QRectF>("cell");
+    // view box 100 x 100 shown in 200 x 100 at (10, 20); the day is at (10, 20), 30 x 40, moved by its group
+    QTest::newRow("stretched") << Qt::IgnoreAspectRatio << QRectF(10 + 40, 20 + 20, 60, 40);
+    QTest::newRow("fitted") << Qt::KeepAspectRatio << QRectF(60 + 20, 20 + 20, 30, 40);
+    QTest::newRow("filling") << Qt::KeepAspectRatioByExpanding << QRectF(10 + 40, -30 + 40, 60, 80);
+}
+
+void tst_MvGraphicsItemCalendariumCells::artwork()
+{
+    const QByteArray svg = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 100 100">
+        <g transform="translate(10,0)"><rect id="child_Day_2027-06-05" x="10" y="20" width="30" height="40"/></g></svg>)svg";
+    QSvgRenderer renderer(svg);
+    QFETCH(const Qt::AspectRatioMode, mode);
+    Canvas canvas;
+    canvas.manager->detectCellBoundingBoxes(MvDateRange::monthOf(day), &renderer, mode, {10, 20, 200, 100});
+    QTEST(canvas.manager->cell(day)->sceneBoundingRect(), "cell");
+    QVERIFY(!canvas.manager->cell(day.addDays(1)));
+}
+
+void tst_MvGraphicsItemCalendariumCells::repaintsTheItem()
+{
+    class CountingItem : public Calendarium
+    {
+    public:
+        void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override { ++paints; }
+        int paints = 0;
+    };
+    auto *item = new CountingItem;
+    QGraphicsScene scene;
+    scene.addItem(item);
+    QGraphicsView view(&scene);
+    Manager manager(item);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QTRY_VERIFY(item->paints > 0);
+    QTest::qWait(50);
+    const int before = item->paints;
+    MvCalendarDayEditorDialog dialog(item);
+    dialog.openDayEditorSingle(entry({}, day));
+    dialog.findChild<QLineEdit *>(u"descriptionEdit"_qs)->setText(u"Neu"_qs);
+    dialog.acceptedClicked();
+    QTRY_VERIFY(item->paints > before);
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvGraphicsItemCalendariumCells)
+#include "tst_MvGraphicsItemCalendariumCells.moc"
