@@ -30,3 +30,5 @@ private:
     MvLayoutChooser *m_layout = nullptr;
     MvPageSetupEditor *m_setup = nullptr;
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(MvDocumentDialog::Parts)

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double tenths = 10.0; // of a millimetre
-const QDate earliest(1900, 1, 1);
+constexpr int earliestYear = 1900;
 constexpr int latestYear = 2200;
 
 QDoubleSpinBox *createLength(const QString &objectName, double least, double most, QWidget *parent)
@@ -69,7 +69,7 @@ void MvPageSetupEditor::addMonths()
         m_month->addItem(locale.standaloneMonthName(month), month);
     m_year->setObjectName(u"startYear"_s);
     m_year->setAccessibleName(tr("Jahr des ersten Monats"));
-    m_year->setRange(earliest.year(), latestYear);
+    m_year->setRange(earliestYear, latestYear);
     m_months->setObjectName(u"monthCount"_s);
     m_months->setRange(1, mostMonths);
     m_until->setObjectName(u"lastMonth"_s);
@@ -138,9 +138,8 @@ void MvPageSetupEditor::setFormat(const MvPageFormat &format)
 MvPageFormat MvPageSetupEditor::format() const
 {
     const auto inTenths = [](double millimetres) { return std::round(millimetres * tenths); };
-    MvPageFormat format = isOwnPaper()
-                              ? MvPageFormat(QSizeF(inTenths(m_width->value()), inTenths(m_height->value())))
-                              : MvPageFormat::fromName(m_paper->currentData().toString());
+    MvPageFormat format = isOwnPaper() ? MvPageFormat(QSizeF(inTenths(m_width->value()), inTenths(m_height->value())))
+                                       : MvPageFormat::fromName(m_paper->currentData().toString());
     if (!isOwnPaper())
         format.setOrientation(MvPageFormat::Orientation(m_orientation->currentData().toInt()));
     format.setBleed(inTenths(m_bleed->value()));

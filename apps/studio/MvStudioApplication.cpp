@@ -1,16 +1,121 @@
 #include "MvStudioApplication.h"
 
+#include "MvCore/MvApplicationLocale.h"
+#include "MvCore/MvInitializer.h"
+#include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvUndoController.h"
+#include "MvCore/MvVCardAddressBook.h"
+#include "MvGUIWidgets/MvIconRegistry.h"
+#include "MvGUIWidgets/MvTheme.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectAutosave.h"
+#include "MvProjectFlow.h"
+#include "MvRecoveryDialog.h"
+#include "MvStudioMessage.h"
+#include "MvStudioSettings.h"
 #include "MvStudioWindow.h"
 
-MvStudioApplication::MvStudioApplication(QObject *parent)
-    : QObject(parent)
-{}
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTimer>
+#include <QTranslator>
 
-MvStudioApplication::~MvStudioApplication() = default;
+using namespace Qt::StringLiterals;
 
-bool MvStudioApplication::start()
+namespace {
+
+/// The system's locale where it speaks the language, since it also knows the country's forms of dates.
+QLocale localeOf(const QString &language)
 {
-    m_window = std::make_unique<MvStudioWindow>();
+    const QLocale system = QLocale::system();
+    if (language == u"en"_s)
+        return system.language() == QLocale::English ? system : QLocale(QLocale::English, QLocale::UnitedKingdom);
+    return system.language() == QLocale::German ? system : QLocale(QLocale::German, QLocale::Germany);
+}
+
+} // namespace
+
+MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+{
+    setUpLanguage();
+    applyTheme();
+    MvInitializer::instance().setup(MvInitializerOption::Everything);
+    MvPlatformIndependent::setInstance(std::make_unique<MvVCardAddressBook>());
+    QApplication::setWindowIcon(MvIconRegistry::instance().applicationIcon());
+    m_project = std::make_unique<MvProject>();
+    m_project->newProject(MvProjectFlow::firstDocument());
+    m_autosave = std::make_unique<MvProjectAutosave>(m_project.get());
+}
+
+MvStudioApplication::~MvStudioApplication()
+{
+    m_window.reset();
+    m_autosave.reset();
+    MvUndoController::instance().clear();
+    m_project.reset();
+    MvInitializer::instance().teardown();
+}
+
+void MvStudioApplication::setUpProcess(const QString &version)
+{
+    QCoreApplication::setApplicationName(u"mvcalendar-studio"_s);
+    QCoreApplication::setApplicationVersion(version);
+    QGuiApplication::setDesktopFileName(u"mvcalendar-studio"_s);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
+void MvStudioApplication::setUpLanguage()
+{
+    QString language = m_options.language().isEmpty() ? MvStudioSettings::language() : m_options.language();
+    if (language != u"de"_s && language != u"en"_s)
+        language = QLocale::system().language() == QLocale::German ? u"de"_s : u"en"_s;
+    const QLocale locale = localeOf(language);
+    QLocale::setDefault(locale);
+    MvApplicationLocale::instance().setLocale(locale);
+    // the texts of the libraries' own dialogs, where the system has them
+    auto *translator = new QTranslator(this);
+    if (translator->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(translator);
+}
+
+void MvStudioApplication::applyTheme()
+{
+    const QString name = m_options.theme().isEmpty() ? MvStudioSettings::theme() : m_options.theme();
+    MvTheme::apply(MvTheme::schemeFromName(name).value_or(MvTheme::Scheme::System));
+}
+
+void MvStudioApplication::start()
+{
+    m_window = std::make_unique<MvStudioWindow>(m_project.get());
+    connect(m_window.get(), &MvStudioWindow::themeChanged, this, [] {
+        MvTheme::apply(MvTheme::schemeFromName(MvStudioSettings::theme()).value_or(MvTheme::Scheme::System));
+    });
+    connect(m_autosave.get(), &MvProjectAutosave::failed, m_window.get(), [this](const QString &error) {
+        MvStudioMessage::error(m_window.get(), tr("Die Sicherung nebenbei ist misslungen. Speichern Sie bald selbst."),
+                               error);
+    });
     m_window->show();
-    return true;
+    QTimer::singleShot(0, m_window.get(), [this] {
+        if (!m_options.file().isEmpty())
+            m_window->projectFlow()->open(QFileInfo(m_options.file()).absoluteFilePath());
+        offerRecovery();
+    });
+}
+
+void MvStudioApplication::offerRecovery()
+{
+    const QList<MvProjectRecovery::Entry> entries = MvProjectRecovery::found();
+    if (entries.isEmpty())
+        return;
+    auto *dialog = new MvRecoveryDialog(entries, m_window.get());
+    connect(dialog, &MvRecoveryDialog::openRequested, this, [this](const MvProjectRecovery::Entry &entry) {
+        m_window->projectFlow()->leave([this, entry] {
+            QString error;
+            if (!MvProjectRecovery::open(entry, *m_project, &error))
+                MvStudioMessage::error(m_window.get(), tr("Der Kalender lässt sich nicht wiederherstellen."), error);
+        });
+    });
+    dialog->open();
 }

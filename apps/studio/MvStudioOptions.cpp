@@ -26,8 +26,8 @@ MvStudioOptions MvStudioOptions::parse(const QStringList &arguments)
     QCommandLineParser parser;
     const QCommandLineOption language(u"language"_s, {}, u"language"_s);
     const QCommandLineOption theme(u"theme"_s, {}, u"theme"_s);
-    const QCommandLineOption help({u"h"_s, u"help"_s});
-    const QCommandLineOption version({u"v"_s, u"version"_s});
+    const QCommandLineOption help(QStringList{u"h"_s, u"help"_s});
+    const QCommandLineOption version(QStringList{u"v"_s, u"version"_s});
     parser.addOptions({language, theme, help, version});
     if (!parser.parse(arguments)) {
         const QStringList unknown = parser.unknownOptionNames();

@@ -105,7 +105,8 @@ void MvStudioWindow::createDocks()
     addPanels();
 }
 
-void MvStudioWindow::addPanels() {}
+void MvStudioWindow::addPanels()
+{}
 
 void MvStudioWindow::createMenus()
 {
@@ -185,7 +186,7 @@ void MvStudioWindow::connectActions()
     on(A::ZoomOut, m_canvas, &MvPageCanvas::zoomOut);
     on(A::ZoomFit, m_canvas, &MvPageCanvas::zoomToFit);
     on(A::Zoom100, this, [this] { m_canvas->setZoom(1.0); });
-    on(A::FullScreen, this, [this](bool on) { on ? showFullScreen() : showNormal(); });
+    on(A::FullScreen, this, [this](bool isFull) { isFull ? showFullScreen() : showNormal(); });
     on(A::Welcome, this, &MvStudioWindow::setWelcomeShown);
     on(A::NextPage, m_canvas, &MvPageCanvas::nextPage);
     on(A::PreviousPage, m_canvas, &MvPageCanvas::previousPage);

@@ -2,9 +2,29 @@
 
 #include <QApplication>
 
+#include <cstdio>
+
+namespace {
+
+/// Help, version and wrong calls need no screen.
+MvStudioOptions parseWithoutScreen(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    return MvStudioOptions::parse(QCoreApplication::arguments());
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
-    QApplication application(argc, argv);
-    MvStudioApplication studio;
-    return studio.start() ? QApplication::exec() : 0;
+    MvStudioApplication::setUpProcess(QStringLiteral(MV_VERSION));
+    const MvStudioOptions early = parseWithoutScreen(argc, argv);
+    if (!early.message().isEmpty()) {
+        std::fputs(early.message().toLocal8Bit().constData(), early.exitCode() == 0 ? stdout : stderr);
+        return early.exitCode();
+    }
+    const QApplication application(argc, argv);
+    MvStudioApplication studio(MvStudioOptions::parse(QCoreApplication::arguments()));
+    studio.start();
+    return QApplication::exec();
 }
