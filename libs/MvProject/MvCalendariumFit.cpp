@@ -58,6 +58,9 @@ bool MvCalendariumFit::hasRoom(const QSizeF &room) const
     withoutHeaders.setColumnHeaders(QString());
     for (const QDate month : {QDate(2026, 8, 1), QDate(2026, 9, 1)}) {
         const auto renderer = makeRenderer(withoutHeaders, m_content.moveToDay(month), m_productSize);
+        // lists are content with less than they ask for
+        if (m_appearance.type() != CALENDAR_ONE_DAY_PER_ROW && renderer->minimumSizeHint().height() > room.height())
+            return false;
         MvPaintRecorder recorder(nullptr);
         QPainter painter(&recorder);
         renderer->render(painter, {QPointF(), room});
