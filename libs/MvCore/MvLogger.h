@@ -19,6 +19,8 @@ public:
 
     /// Writes one line to the sink; line breaks in values become blanks, so that a line stays a line.
     static void legacyLog(const QString &line);
+    /// The same for what was chosen in the panels and dialogs that design a calendar.
+    static void logCalendarDesignDialog(const QString &line) { legacyLog(line); }
 
     /// Where lines go; without one (the default) to the logging category "mv.action", which is off unless asked for.
     void setSink(Sink sink);
