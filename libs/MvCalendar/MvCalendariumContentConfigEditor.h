@@ -1,0 +1,90 @@
+#pragma once
+
+#include "MvCalendar/mvcalendar_export.h"
+#include "MvProductBase/MvCalendariumContentConfig.h"
+
+#include <QList>
+#include <QWidget>
+
+class MvMouseWheelEventFilter;
+class MvSpinBox;
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+
+/// What a calendar shows besides its dates: holidays, personal entries, the country and region whose holidays they
+/// are, and the month it starts with.
+///
+/// Loading a configuration emits nothing and logs nothing.
+class MVCALENDAR_EXPORT MvCalendariumContentConfigEditor : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MvCalendariumContentConfigEditor(QWidget *parent = nullptr, bool withTopSpacer = false);
+
+    /// What has no control here, as week texts and further features, is kept and comes back with contentConfig().
+    void setContentConfig(const MvCalendariumContentConfig &config);
+    MvCalendariumContentConfig contentConfig() const;
+    void setHolidayConfig(const MvCalendariumHolidayConfig &config);
+    /// Its province is the code of the chosen region, empty when there is none.
+    MvCalendariumHolidayConfig holidayConfig() const;
+
+    /// The first day of the month.
+    QDate startDate() const;
+    void setStartDate(const QDate &date);
+    int month() const; // 1 to 12
+    /// Other numbers change nothing.
+    void setMonth(int month);
+    int year() const;
+    void setYear(int year);
+    /// The name of the chosen region as it is shown: "Bayern".
+    QString province() const;
+
+    bool holidayChecked() const;
+    void setHolidayChecked(bool checked);
+    bool personalEntriesChecked() const;
+    void setPersonalEntriesChecked(bool checked);
+    void setCheckboxesChecked(bool holidays, bool personal);
+    void setCheckboxesVisible(bool holidays, bool personal);
+    void setDateConfigurationVisible(bool visible);
+    void reset();
+
+    QList<MvLocale> availableLanguages() const;
+    /// No country is chosen when the language is not available.
+    void setLanguage(const MvLocale &language);
+    /// Offers the regions of the country. The province is a code or a name; none is chosen when the country has no
+    /// such region.
+    void setProvince(const MvLocale &language, const QString &province);
+
+Q_SIGNALS:
+    void onChanged();
+
+public Q_SLOTS:
+    void languageChanged(int index);
+    void onStateChangedCheckBox(int state);
+    /// Writes a line for everything that differs from what was logged last.
+    void logChanges();
+
+private:
+    QWidget *createCheckBoxes();
+    QWidget *createDateBox(bool withTopSpacer);
+    void createYearAndMonthBox();
+    void createLanguageAndProvinceBox();
+    void addCaptioned(QGridLayout *grid, int row, const QString &caption, QComboBox *box);
+    void enableProvinceBox();
+    void noteAsLogged();
+
+    MvMouseWheelEventFilter *m_wheelFilter;
+    QWidget *m_dateBox = nullptr;
+    QComboBox *m_monthBox = nullptr;
+    MvSpinBox *m_yearBox = nullptr;
+    QComboBox *m_languageBox = nullptr;
+    QComboBox *m_provinceBox = nullptr;
+    QCheckBox *m_holidayBox = nullptr;
+    QCheckBox *m_entriesBox = nullptr;
+    QList<MvLocale> m_languages; // by index of the language box
+    MvCalendariumContentConfig m_given;
+    MvCalendariumContentConfig m_lastLogged;
+    bool m_loggingEnabled = false;
+};
