@@ -60,6 +60,7 @@ void MvLayoutPanel::showPage()
     showLayout();
     m_schemata->setColorSchema(appearance.colorSchema());
     m_colors->setAppearance(appearance);
+    m_colors->fixTableHeight(); // what stands around it scrolls
 }
 
 /// The pictures are made again only when they would look different.
@@ -99,7 +100,7 @@ void MvLayoutPanel::onSchemaChosen(const MvCalendariumColorSchema &schema)
         const bool hasGrid = appearance.gridConfig().isEnabled();
         appearance.setColorSchema(schema);
         MvBorderConfig grid = appearance.gridConfig();
-        grid.setEnabled(hasGrid);
+        grid.setIsEnabled(hasGrid);
         appearance.setGridConfig(grid);
         page.setAppearance(appearance);
     };
