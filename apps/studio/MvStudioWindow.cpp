@@ -13,6 +13,7 @@
 #include "MvProjectFlow.h"
 #include "MvSettingsDialog.h"
 #include "MvStudioActions.h"
+#include "MvStudioPanels.h"
 #include "MvStudioSettings.h"
 #include "MvStudioStatusBar.h"
 #include "MvUndoActions.h"
@@ -253,6 +254,7 @@ void MvStudioWindow::updatePage()
     const int count = int(m_project->document().pages().size());
     m_strip->setCurrentPage(page);
     m_export->setCurrentPage(page);
+    m_panels->setCurrentPage(page);
     m_statusBar->setPage(page, count, pageTitle(page));
     m_statusBar->setZoom(m_canvas->zoom(), m_canvas->isFitted());
     using A = MvStudioActions;

@@ -10,6 +10,7 @@ class MvPrintFlow;
 class MvProject;
 class MvProjectFlow;
 class MvStudioActions;
+class MvStudioPanels;
 class MvStudioStatusBar;
 class MvUndoActions;
 class MvUnfittingWatch;
@@ -74,6 +75,7 @@ private:
     MvWelcomePanel *m_welcome = nullptr;
     MvPageCanvas *m_canvas = nullptr;
     MvPageStrip *m_strip = nullptr;
+    MvStudioPanels *m_panels = nullptr;
     MvStudioStatusBar *m_statusBar;
     QMenu *m_recentMenu = nullptr;
     QMenu *m_viewMenu = nullptr;
