@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -117,6 +118,18 @@ MvCalendariumAppearance MvLayoutChooser::withLayout(const MvCalendariumAppearanc
     changed.adoptLayoutSuggestions();
     changed.adaptGridToLayout();
     return changed;
+}
+
+/// The pictures share the width evenly.
+void MvLayoutChooser::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    constexpr int air = 24;
+    const int room = width() - 2 * m_list->frameWidth() - m_list->style()->pixelMetric(QStyle::PM_ScrollBarExtent) - 1;
+    const int columns = qMax(1, room / (m_pictureSize.width() + air));
+    const QSize grid(room / columns, m_list->gridSize().height());
+    if (room > 0 && grid != m_list->gridSize())
+        m_list->setGridSize(grid);
 }
 
 QImage MvLayoutChooser::emptyPicture() const

@@ -136,7 +136,10 @@ QVariant MvCalendariumColorSchemaModel::data(const QModelIndex &index, int role)
         return {};
     if (index.column() != TypeColumn)
         return colorData(index, role);
-    return role == Qt::DisplayRole ? QVariant(rowName(m_rows[index.row()])) : QVariant();
+    const Row &row = m_rows[index.row()];
+    if (role == Qt::ToolTipRole && row.parity != MvParityLogicEnum::both)
+        return tr("Gezählt von der ersten Woche der Seite an");
+    return role == Qt::DisplayRole ? QVariant(rowName(row)) : QVariant();
 }
 
 QVariant MvCalendariumColorSchemaModel::colorData(const QModelIndex &index, int role) const

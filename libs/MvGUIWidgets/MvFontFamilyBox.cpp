@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int ForeignRole = Qt::UserRole + 1;
+constexpr int usualNameLength = 24; // characters
 
 } // namespace
 
@@ -45,6 +46,12 @@ void MvFontFamilyBox::setFontFamily(const QString &family)
 bool MvFontFamilyBox::isForeign() const
 {
     return currentData(ForeignRole).toBool();
+}
+
+QSize MvFontFamilyBox::sizeHint() const
+{
+    const QSize hint = QComboBox::sizeHint();
+    return {qMax(hint.width(), usualNameLength * fontMetrics().averageCharWidth()), hint.height()};
 }
 
 void MvFontFamilyBox::addForeign(const QString &family)
@@ -83,6 +90,7 @@ void MvFontFamilyBox::showState()
                                   "wird eine Ersatzschrift.")
                                    .arg(itemText(currentIndex()))
                              : tr("Ohne Eintrag gilt die Schrift des Layouts.");
+    lineEdit()->setCursorPosition(0); // a long name shows its beginning
     setToolTip(hint);
     setAccessibleDescription(hint);
 }

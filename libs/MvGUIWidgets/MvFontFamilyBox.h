@@ -22,6 +22,9 @@ public:
     /// Whether the chosen family was in none of the lists.
     bool isForeign() const;
 
+    /// Wide enough for most names of families.
+    QSize sizeHint() const override;
+
 protected:
     void hideEvent(QHideEvent *event) override;
 

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int monthsPerYear = 12;
+constexpr double tallestStrip = 0.4; // of its width: a strip beside a photo lies at the page's foot
 
 } // namespace
 
@@ -55,6 +56,8 @@ QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
         rect.setRight(photo.left() - gap);
         break;
     }
+    if (m_appearance.type() == CALENDAR_ONE_ROW)
+        rect.setTop(std::max(rect.top(), rect.bottom() - tallestStrip * rect.width()));
     return rect.isEmpty() ? QRectF() : rect;
 }
 

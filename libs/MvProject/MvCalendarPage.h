@@ -56,8 +56,8 @@ public:
     /// How many months the layout shows: 12 for a year, else 1.
     int monthCount() const;
 
-    /// What the photo leaves of the format's content rectangle to the calendarium and the line with its month; empty
-    /// when nothing is left.
+    /// What the photo leaves of the format's content rectangle to the calendarium and the line with its month; of a
+    /// tall rest a strip takes the foot. Empty when nothing is left.
     QRectF calendariumRect(const MvPageFormat &format) const;
 
     /// Paints the page. The range is that of the whole calendar.

@@ -3,10 +3,15 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvModelBase/MvPaintRecorder.h"
+#include "MvXML/MvXMLBuilder.h"
+#include "MvXML/MvXMLParser.h"
 
+#include <QDomDocument>
 #include <QPainter>
 
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,6 +25,26 @@ std::unique_ptr<MvCalendariumRenderer> makeRenderer(const MvCalendariumAppearanc
     made->setCalendarInformation(content, content.dayRange());
     made->setProductSize(productSize);
     return made;
+}
+
+/// Paddings shrink with the fonts, or small texts would drown in them and titles, which reach into them, would meet
+/// what stands below.
+MvCalendariumAppearance withScaledPaddings(const MvCalendariumAppearance &appearance, double factor)
+{
+    QDomDocument dom;
+    QDomElement schema = dom.createElement(u"calendararea"_s);
+    appearance.layoutSchema().write(schema);
+    for (QDomElement cell = schema.firstChildElement(u"cell"_s); !cell.isNull();
+         cell = cell.nextSiblingElement(u"cell"_s)) {
+        for (const QString &name : {u"paddingleft"_s, u"paddingtop"_s, u"paddingright"_s, u"paddingbottom"_s}) {
+            if (cell.hasAttribute(name))
+                MvXMLBuilder::addAttribute(cell, name, factor * MvXMLParser::doubleAttribute(cell, name));
+        }
+    }
+    MvCalendariumAppearance scaled = appearance;
+    scaled.setLayoutSchema(MvCalendariumLayoutSchema(schema));
+    scaled.setShowHolidays(appearance.showHolidays());
+    return scaled.optimizedSize() == appearance.optimizedSize() ? scaled : appearance; // fonts are to stay as they are
 }
 
 } // namespace
@@ -36,8 +61,11 @@ MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, co
     m_content.setHolidayConfig(empty);
 
     shortenWeekdays(room);
-    for (int step = 0; step < mostSteps && m_productSize.toInt() > MAGNITUDE_A8 && !hasRoom(room); ++step)
+    const MvCalendariumAppearance asDesigned = m_appearance;
+    for (int step = 0; step < mostSteps && m_productSize.toInt() > MAGNITUDE_A8 && !hasRoom(room); ++step) {
         m_productSize = MvSpaceMagnitude(m_productSize.toInt() / 2);
+        m_appearance = withScaledPaddings(asDesigned, asDesigned.optimizedSize().lengthFactor(m_productSize));
+    }
 }
 
 void MvCalendariumFit::shortenWeekdays(const QSizeF &room)
@@ -58,6 +86,9 @@ bool MvCalendariumFit::hasRoom(const QSizeF &room) const
     withoutHeaders.setColumnHeaders(QString());
     for (const QDate month : {QDate(2026, 8, 1), QDate(2026, 9, 1)}) {
         const auto renderer = makeRenderer(withoutHeaders, m_content.moveToDay(month), m_productSize);
+        // lists are content with less than they ask for
+        if (m_appearance.type() != CALENDAR_ONE_DAY_PER_ROW && renderer->minimumSizeHint().height() > room.height())
+            return false;
         MvPaintRecorder recorder(nullptr);
         QPainter painter(&recorder);
         renderer->render(painter, {QPointF(), room});

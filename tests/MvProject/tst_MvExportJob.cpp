@@ -1,0 +1,154 @@
+#include "MvProject/MvExportJob.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProjectFixture.h"
+#include "MvTest.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace MvProjectFixture;
+
+Q_DECLARE_METATYPE(MvExportResult)
+
+namespace {
+
+QStringList namesOf(const QList<QFileInfo> &files)
+{
+    QStringList names;
+    for (const QFileInfo &file : files)
+        names.append(file.fileName());
+    return names;
+}
+
+} // namespace
+
+class tst_MvExportJob : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { cleanup(); }
+    void cleanup();
+    void writesWhatTheExporterWrites_data();
+    void writesWhatTheExporterWrites();
+    void cancels_data();
+    void cancels();
+    void diesWhileRunning();
+    void tellsOfErrors();
+
+private:
+    MvCalendarDocument calendar(int pages) const;
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QStringList files() const
+    {
+        return QDir(m_folder->path()).entryList({u"*.pdf"_s, u"k-*"_s, u".mvtmp*"_s}, QDir::Files | QDir::Hidden);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_MvExportJob::cleanup()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(writePhoto(path(u"foto.png"_s), {600, 400}));
+}
+
+MvCalendarDocument tst_MvExportJob::calendar(int pages) const
+{
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, pages);
+    for (int page = 0; page < pages; ++page)
+        setPhoto(calendar, page, MvPhotoFrame(path(u"foto.png"_s), MvPhotoFrame::Placement(page % 3)));
+    return calendar;
+}
+
+void tst_MvExportJob::writesWhatTheExporterWrites_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("PNG") << u"k-%n.png"_s;
+    QTest::newRow("SVG") << u"k-%n.svg"_s;
+    QTest::newRow("PDF") << u"k.pdf"_s;
+}
+
+void tst_MvExportJob::writesWhatTheExporterWrites()
+{
+    QFETCH(const QString, name);
+    const MvCalendarDocument document = calendar(4);
+    MvExportJob job(document, MvExportTarget(path(name)), 72);
+    QSignalSpy progress(&job, &MvExportJob::progress);
+    QSignalSpy finished(&job, &MvExportJob::finished);
+    job.start();
+    job.start(); // changes nothing
+    QVERIFY(finished.wait(30000));
+    const auto result = finished.first().first().value<MvExportResult>();
+    QCOMPARE(result.error, QString());
+    QVERIFY(result.isOk() && !job.isRunning());
+    QCOMPARE(namesOf(result.files), files());
+    QCOMPARE(progress.size(), 5);
+    for (int done = 0; done <= 4; ++done)
+        QCOMPARE(progress[done], (QVariantList{done, 4}));
+
+    // a page straight from the document is the same
+    if (name.endsWith(u".png"_s)) {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"direkt"_s));
+        const QString direct = path(u"direkt/k-%n.png"_s);
+        QVERIFY(MvExportTarget(direct).write(document.pageSource(), 72).isOk());
+        for (const QFileInfo &file : result.files)
+            QCOMPARE(QImage(file.filePath()), QImage(path(u"direkt/"_s + file.fileName())));
+    }
+}
+
+void tst_MvExportJob::cancels_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("after"); // so many pages
+    QTest::newRow("pictures, at once") << u"k-%n.png"_s << 0;
+    QTest::newRow("pictures, later") << u"k-%n.png"_s << 3;
+    QTest::newRow("one file") << u"k.pdf"_s << 3;
+}
+
+void tst_MvExportJob::cancels()
+{
+    QFETCH(const QString, name);
+    QFETCH(const int, after);
+    MvExportJob job(calendar(40), MvExportTarget(path(name)), 150);
+    connect(&job, &MvExportJob::progress, &job, [&](int done) {
+        if (done == after)
+            job.cancel();
+    });
+    QSignalSpy finished(&job, &MvExportJob::finished);
+    job.start();
+    QVERIFY(finished.wait(30000));
+    const auto result = finished.first().first().value<MvExportResult>();
+    QCOMPARE(result.error, QString());
+    QVERIFY(result.isCancelled && !result.isOk());
+    QCOMPARE(namesOf(result.files), files());
+    QVERIFY(result.files.size() >= (name.endsWith(u".png"_s) ? after : 0) && result.files.size() < 40);
+    for (const QFileInfo &file : result.files)
+        QVERIFY(!QImage(file.filePath()).isNull());
+}
+
+void tst_MvExportJob::diesWhileRunning()
+{
+    auto job = std::make_unique<MvExportJob>(calendar(20), MvExportTarget(path(u"k.pdf"_s)));
+    QSignalSpy progress(job.get(), &MvExportJob::progress);
+    job->start();
+    QVERIFY(progress.wait());
+    job.reset();
+    QCOMPARE(files(), QStringList());
+}
+
+void tst_MvExportJob::tellsOfErrors()
+{
+    for (const QString &name : {u"k.doc"_s, u"k.png"_s, u"nirgends/k.pdf"_s}) {
+        MvExportJob job(calendar(2), MvExportTarget(path(name)));
+        QSignalSpy finished(&job, &MvExportJob::finished);
+        job.start();
+        QVERIFY(finished.wait(30000));
+        const auto result = finished.first().first().value<MvExportResult>();
+        QVERIFY2(result.error.contains(name), qPrintable(result.error));
+    }
+}
+
+MV_TEST_MAIN(tst_MvExportJob)
+#include "tst_MvExportJob.moc"

@@ -1,0 +1,262 @@
+#include "MvModelBase/MvPaintRecorder.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProjectFixture.h"
+#include "MvTest.h"
+
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+using namespace MvProjectFixture;
+
+using Item = MvPaintRecording::Item;
+using Placement = MvPhotoFrame::Placement;
+Q_DECLARE_METATYPE(Placement)
+
+class tst_MvPhotoFrame : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void clampsItsValues();
+    void crops_data();
+    void crops();
+    void sharesThePage_data();
+    void sharesThePage();
+    void isNeverDistorted_data();
+    void isNeverDistorted();
+    void missing_data();
+    void missing();
+    void fitsNarrowCalendaria_data();
+    void fitsNarrowCalendaria();
+
+private:
+    static QList<Item> itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule);
+
+    const QTemporaryDir m_folder;
+    QString m_photo;
+};
+
+void tst_MvPhotoFrame::initTestCase()
+{
+    m_photo = m_folder.filePath(u"foto.png"_s);
+    QVERIFY(writePhoto(m_photo, {300, 200}));
+}
+
+void tst_MvPhotoFrame::clampsItsValues()
+{
+    MvPhotoFrame frame(u"a.jpg"_s);
+    QVERIFY(QDir::isAbsolutePath(frame.path()));
+    frame.setShare(std::numeric_limits<double>::quiet_NaN());
+    QCOMPARE(frame.share(), MvPhotoFrame::defaultShare);
+    frame.setShare(2.0);
+    QCOMPARE(frame.share(), 0.75);
+    frame.setFocus({-3.0, std::numeric_limits<double>::infinity()});
+    QCOMPARE(frame.focus(), QPointF(0.0, 0.5));
+}
+
+void tst_MvPhotoFrame::crops_data()
+{
+    QTest::addColumn<QSizeF>("frame");
+    QTest::addColumn<QPointF>("focus");
+    QTest::addColumn<QRectF>("seen"); // of a photo of 300 x 200
+    QTest::newRow("same proportions") << QSizeF(600, 400) << QPointF(0.1, 0.9) << QRectF(0, 0, 300, 200);
+    QTest::newRow("square, middle") << QSizeF(50, 50) << QPointF(0.5, 0.5) << QRectF(50, 0, 200, 200);
+    QTest::newRow("square, focus left of the middle") << QSizeF(50, 50) << QPointF(0.4, 0.5) << QRectF(20, 0, 200, 200);
+    QTest::newRow("square, the edge stops it") << QSizeF(50, 50) << QPointF(1.0, 0.5) << QRectF(100, 0, 200, 200);
+    QTest::newRow("panorama, focus at the top") << QSizeF(900, 300) << QPointF(0.5, 0.1) << QRectF(0, 0, 300, 100);
+    QTest::newRow("nothing") << QSizeF(0, 50) << QPointF(0.5, 0.5) << QRectF();
+}
+
+void tst_MvPhotoFrame::crops()
+{
+    QFETCH(const QSizeF, frame);
+    QFETCH(const QPointF, focus);
+    QFETCH(const QRectF, seen);
+    MvPhotoFrame photo(m_photo);
+    photo.setFocus(focus);
+    QCOMPARE(photo.crop({300, 200}, frame), seen);
+}
+
+void tst_MvPhotoFrame::sharesThePage_data()
+{
+    QTest::addColumn<Placement>("placement");
+    QTest::addColumn<QRectF>("photo"); // on A5 landscape (2100 x 1480) with 3 mm bleed
+    QTest::newRow("top") << Placement::Top << QRectF(-30, -30, 2160, 30 + 740);
+    QTest::newRow("left") << Placement::Left << QRectF(-30, -30, 30 + 1050, 1540);
+    QTest::newRow("right") << Placement::Right << QRectF(1050, -30, 1050 + 30, 1540);
+}
+
+void tst_MvPhotoFrame::sharesThePage()
+{
+    QFETCH(const Placement, placement);
+    QFETCH(const QRectF, photo);
+    MvCalendarDocument calendar = document(u"MONTH_GRID_COMPACT"_s, 1);
+    MvPhotoFrame frame(m_photo, placement);
+    frame.setShare(0.5);
+    setPhoto(calendar, 0, frame);
+    const MvPageFormat format = calendar.format();
+    QCOMPARE(frame.rect(format), photo);
+    const MvCalendarPage page = calendar.pages()[0];
+    const QRectF room = page.calendariumRect(format);
+    QVERIFY(!room.intersects(photo.adjusted(-50, -50, 50, 50)));
+    QVERIFY(format.trimRect().adjusted(50, 50, -50, -50).contains(room));
+    if (placement != Placement::Top)
+        QCOMPARE(room.top(), 120.0); // the binding
+
+    const QList<Item> items = itemsOf(page, format, MvRenderingRule::Print);
+    int images = 0;
+    int texts = 0;
+    for (const Item &item : items) {
+        if (item.kind == Item::Image) {
+            ++images;
+            QVERIFY(item.bounds.adjusted(-0.01, -0.01, 0.01, 0.01).contains(photo));
+            QVERIFY(item.clip.intersected(item.bounds).adjusted(-0.01, -0.01, 0.01, 0.01).contains(photo));
+            QVERIFY(photo.adjusted(-0.01, -0.01, 0.01, 0.01).contains(item.clip));
+        } else if (item.kind == Item::Text) {
+            ++texts;
+            QVERIFY2(room.adjusted(-1, -1, 1, 1).contains(item.bounds), qPrintable(item.text));
+        }
+    }
+    QCOMPARE(images, 1);
+    QVERIFY(texts > 31);
+}
+
+void tst_MvPhotoFrame::isNeverDistorted_data()
+{
+    QTest::addColumn<double>("share");
+    QTest::addColumn<QPointF>("focus");
+    QTest::addColumn<QPoint>("corner"); // where the four colours meet, in tenths of a millimetre; of frames at the top
+    // the frame is 2160 wide, the photo 300 x 200 of it 7.2 units a pixel: 1440 high
+    QTest::newRow("half, middle") << 0.5 << QPointF(0.5, 0.5) << QPoint(1050, -30 + 385);
+    QTest::newRow("three quarters, top") << 0.75 << QPointF(0.5, 0.0) << QPoint(1050, -30 + 720);
+    QTest::newRow("a third, bottom") << 0.3 << QPointF(0.0, 0.9) << QPoint(1050, -1000); // out of sight
+}
+
+void tst_MvPhotoFrame::isNeverDistorted()
+{
+    QFETCH(const double, share);
+    QFETCH(const QPointF, focus);
+    QFETCH(const QPoint, corner);
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
+    MvPhotoFrame frame(m_photo);
+    frame.setShare(share);
+    frame.setFocus(focus);
+    setPhoto(calendar, 0, frame);
+    QImage image(2160, 1540, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    calendar.pageSource().paintPage(painter, 0, {30, 30}, 1.0);
+    painter.end();
+    const auto colorAt = [&image](const QPoint &place) { return image.pixelColor(place + QPoint(30, 30)); };
+    constexpr int near = 12; // pixels of the photo are smoothed over their neighbours
+    if (corner.y() > -30) {
+        QCOMPARE(colorAt(corner + QPoint(-near, -near)), QColor(Qt::red));
+        QCOMPARE(colorAt(corner + QPoint(near, -near)), QColor(Qt::green));
+        QCOMPARE(colorAt(corner + QPoint(-near, near)), QColor(Qt::blue));
+    }
+    QCOMPARE(colorAt({2120, int(share * 1480) - near}), QColor(Qt::yellow)); // up to the bleed's edge
+}
+
+void tst_MvPhotoFrame::missing_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("no file") << QByteArray();
+    QTest::newRow("not a photo") << QByteArray("Liebe Oma,");
+    QTest::newRow("a broken photo") << QByteArray("\x89PNG\r\n\x1a\n....");
+}
+
+void tst_MvPhotoFrame::missing()
+{
+    QFETCH(const QByteArray, content);
+    const QString path = m_folder.filePath(u"weg %1.jpg"_s.arg(content.size()));
+    if (!content.isEmpty()) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 3);
+    setPhoto(calendar, 0, MvPhotoFrame(path));
+    setPhoto(calendar, 1, MvPhotoFrame(m_photo));
+    setPhoto(calendar, 2, MvPhotoFrame(path));
+    QCOMPARE(calendar.missingPhotos(), QStringList{path});
+
+    const MvCalendarPage page = calendar.pages()[0];
+    const QRectF frame = page.photoFrame().rect(calendar.format());
+    const auto isInFrame = [&frame](const Item &item) {
+        return frame.contains(item.bounds) && item.bounds.height() > 0.0;
+    };
+    const auto inFrame = [&](unsigned rule) {
+        QStringList kinds;
+        for (const Item &item : itemsOf(page, calendar.format(), rule)) {
+            if (isInFrame(item))
+                kinds.append(item.kind == Item::Text ? item.text : item.fill.name());
+        }
+        return kinds;
+    };
+    QCOMPARE(inFrame(MvRenderingRule::Print), QStringList());
+    QCOMPARE(inFrame(MvRenderingRule::Thumbnail).size(), 1);
+    const QStringList onScreen = inFrame(MvRenderingRule::InteractiveScreen);
+    QCOMPARE(onScreen.size(), 3);
+    QCOMPARE(onScreen.last(), QFileInfo(path).fileName());
+}
+
+void tst_MvPhotoFrame::fitsNarrowCalendaria_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<Placement>("placement");
+    QTest::addColumn<double>("share");
+    QTest::newRow("strip") << u"ONE_ROW_STRIP"_s << Placement::Left << 0.3;
+    QTest::newRow("grid") << u"MONTH_GRID_CLASSIC"_s << Placement::Right << 0.6;
+    QTest::newRow("grid under a photo") << u"MONTH_GRID_LINES"_s << Placement::Top << 0.6;
+    QTest::newRow("two weeks") << u"TWO_WEEKS"_s << Placement::Left << 0.4;
+}
+
+void tst_MvPhotoFrame::fitsNarrowCalendaria()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const Placement, placement);
+    QFETCH(const double, share);
+    MvCalendarDocument calendar = document(layout, 12);
+    calendar.setHolidayConfig({MvLocale(u"de_DE"_s), QString(), FEATURE_NONE});
+    QList<int> sizes;
+    for (int page = 0; page < 12; ++page) {
+        MvPhotoFrame frame(m_photo, placement);
+        frame.setShare(share);
+        setPhoto(calendar, page, frame);
+        QStringList unfitting;
+        for (const MvUnfittingText &text : calendar.unfittingTexts(page))
+            unfitting.append(text.text);
+        QVERIFY2(unfitting.isEmpty(), qPrintable(unfitting.join(u" / "_s)));
+        QList<Item> texts;
+        int size = 0; // of the number of day 11; a calendar week may have the same, but is smaller
+        for (const Item &item : itemsOf(calendar.pages()[page], calendar.format(), MvRenderingRule::Print)) {
+            if (item.kind != Item::Text)
+                continue;
+            if (item.text == u"11"_s)
+                size = std::max(size, item.font.pixelSize());
+            for (const Item &other : std::as_const(texts))
+                QVERIFY2(!item.bounds.intersects(other.bounds), qPrintable(item.text + u" / "_s + other.text));
+            texts.append(item);
+        }
+        sizes.append(size);
+    }
+    QVERIFY(sizes.first() > 0);
+    QCOMPARE(sizes.count(sizes.first()), 12); // all months alike
+}
+
+QList<Item> tst_MvPhotoFrame::itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule)
+{
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    MvRenderingRule(rule).encodeInto(painter);
+    page.paint(painter, format, MvDateRange(QDate(2027, 1, 1), QDate(2027, 12, 31)));
+    painter.end();
+    return recorder.recording().items();
+}
+
+MV_TEST_MAIN(tst_MvPhotoFrame)
+#include "tst_MvPhotoFrame.moc"

@@ -1,0 +1,210 @@
+#include "MvCore/MvUndoController.h"
+#include "MvProject/MvProject.h"
+#include "MvProjectFixture.h"
+#include "MvTest.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace MvProjectFixture;
+
+class tst_MvProject : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dividesTheRange_data();
+    void dividesTheRange();
+    void photosFollowTheirMonths();
+    void monthsThatStayKeepTheirPage();
+    void tellsWhatChanged();
+    void mergesSteps_data();
+    void mergesSteps();
+    void savesAndOpens();
+};
+
+void tst_MvProject::dividesTheRange_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<int>("months");
+    QTest::addColumn<QList<QDate>>("pages");
+    QTest::newRow("months") << u"DAY_LIST"_s << 3
+                            << QList<QDate>{QDate(2027, 1, 1), QDate(2027, 2, 1), QDate(2027, 3, 1)};
+    QTest::newRow("year") << u"YEAR_GRID"_s << 12 << QList<QDate>{QDate(2027, 1, 1)};
+    QTest::newRow("year and a half") << u"YEAR_PLANNER"_s << 18 << QList<QDate>{QDate(2027, 1, 1), QDate(2028, 1, 1)};
+}
+
+void tst_MvProject::dividesTheRange()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const int, months);
+    QFETCH(const QList<QDate>, pages);
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, months);
+    QCOMPARE(calendar.pages().size(), months);
+    calendar.setAppearance(appearance(layout));
+    QCOMPARE(calendar.pageDates(), pages);
+    calendar.setAppearance(appearance(u"ONE_ROW_STRIP"_s));
+    QCOMPARE(calendar.pages().size(), months);
+    QVERIFY(calendar.isValid());
+
+    // a year among months leaves the others alone, until it is the only page
+    MvCalendarPage year = calendar.pages()[1];
+    year.setAppearance(appearance(u"YEAR_GRID"_s));
+    calendar.setPage(1, year);
+    QCOMPARE(calendar.pages().size(), months);
+    calendar.setRange({QDate(2027, 1, 1), QDate(2027, 4, 30)});
+    QCOMPARE(calendar.pages().size(), 4);
+    calendar.setAppearance(year.appearance());
+    QCOMPARE(calendar.pages().size(), 1);
+    MvCalendarPage month = calendar.pages()[0];
+    month.setAppearance(appearance(u"DAY_LIST"_s));
+    calendar.setPage(0, month);
+    QCOMPARE(calendar.pages().size(), 4);
+}
+
+void tst_MvProject::photosFollowTheirMonths()
+{
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s);
+    for (int page = 0; page < 12; ++page)
+        setPhoto(calendar, page, MvPhotoFrame(u"/fotos/%1.jpg"_s.arg(page + 1)));
+    const MvCalendarDocument before = calendar;
+    calendar.setAppearance(appearance(u"YEAR_GRID"_s));
+    QCOMPARE(calendar.pages()[0].photoFrame().path(), u"/fotos/1.jpg"_s);
+    calendar.setAppearance(before.appearance());
+    QVERIFY(calendar == before);
+
+    calendar.setRange({QDate(2027, 3, 1), QDate(2028, 2, 28)});
+    QCOMPARE(calendar.pages()[0].photoFrame().path(), u"/fotos/3.jpg"_s);
+    QVERIFY(!calendar.pages()[11].photoFrame().isValid()); // a new month has none
+    QCOMPARE(calendar.sparePhotos().keys(), (QList<QDate>{QDate(2027, 1, 1), QDate(2027, 2, 1)}));
+    calendar.setRange(before.range());
+    QVERIFY(calendar == before);
+}
+
+void tst_MvProject::monthsThatStayKeepTheirPage()
+{
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 3);
+    for (int page = 0; page < 3; ++page) {
+        MvCalendarPage changed = calendar.pages()[page];
+        changed.setAppearance(appearance(QStringList{u"DAY_LIST"_s, u"TWO_WEEKS"_s, u"WEEK_COLUMNS"_s}[page]));
+        changed.setContentConfig(changed.contentConfig().moveToDay(QDate(1999, 9, 9))); // the place decides
+        calendar.setPage(page, changed);
+    }
+    calendar.setRange({QDate(2026, 12, 1), QDate(2027, 4, 30)});
+    QStringList layouts;
+    for (const MvCalendarPage &page : calendar.pages())
+        layouts.append(page.appearance().layoutSchema().ID().toString());
+    QCOMPARE(layouts,
+             (QStringList{u"DAY_LIST"_s, u"DAY_LIST"_s, u"TWO_WEEKS"_s, u"WEEK_COLUMNS"_s, u"WEEK_COLUMNS"_s}));
+    QCOMPARE(calendar.pageDates().first(), QDate(2026, 12, 1));
+    calendar.setRange({});
+    QVERIFY(calendar.pages().isEmpty());
+    QCOMPARE(calendar.appearance().layoutSchema().ID().toString(), u"DAY_LIST"_s); // the look stays
+}
+
+void tst_MvProject::tellsWhatChanged()
+{
+    MvProject project;
+    project.newProject(document(u"MONTH_GRID_CLASSIC"_s));
+    QVERIFY(!project.isModified());
+    const QSignalSpy pages(&project, &MvProject::pageChanged);
+    const QSignalSpy resets(&project, &MvProject::pagesReset);
+    const QSignalSpy modified(&project, &MvProject::modifiedChanged);
+
+    project.changePage(4, project.document().pages()[4], u"nichts"_s);
+    QVERIFY(!MvUndoController::instance().stack()->canUndo());
+    MvCalendarPage may = project.document().pages()[4];
+    may.setAppearance(appearance(u"DAY_LIST"_s));
+    project.changePage(4, may, u"Layout"_s);
+    QCOMPARE(pages.size(), 1);
+    QCOMPARE(pages.first().first().toInt(), 4);
+
+    MvCalendarDocument wider = project.document();
+    MvPageFormat format = wider.format();
+    format.setBleed(0.0);
+    wider.setFormat(format);
+    project.change(wider, u"Beschnitt"_s);
+    QCOMPARE(resets.size(), 1);
+    MvUndoController::instance().undo();
+    MvUndoController::instance().undo();
+    QCOMPARE(resets.size(), 2);
+    QCOMPARE(pages.size(), 2);
+    QVERIFY(!project.isModified());
+    QCOMPARE(modified.size(), 2);
+
+    project.newProject(document(u"DAY_LIST"_s));
+    QVERIFY(!MvUndoController::instance().stack()->canRedo());
+}
+
+void tst_MvProject::mergesSteps_data()
+{
+    QTest::addColumn<QList<std::pair<int, int>>>("changes"); // page and merge id
+    QTest::addColumn<int>("steps");
+    using Changes = QList<std::pair<int, int>>;
+    QTest::newRow("typing") << Changes{{0, 7}, {0, 7}, {0, 7}} << 1;
+    QTest::newRow("without an id") << Changes{{0, -1}, {0, -1}} << 2;
+    QTest::newRow("another field") << Changes{{0, 7}, {0, 8}, {0, 7}} << 3;
+    QTest::newRow("another page") << Changes{{0, 7}, {1, 7}} << 2;
+}
+
+void tst_MvProject::mergesSteps()
+{
+    using Changes = QList<std::pair<int, int>>;
+    QFETCH(const Changes, changes);
+    QFETCH(const int, steps);
+    MvProject project;
+    project.newProject(document(u"MONTH_GRID_CLASSIC"_s));
+    const MvCalendarDocument before = project.document();
+    int number = 0;
+    for (const auto &[page, mergeId] : changes) {
+        MvCalendarPage changed = project.document().pages()[page];
+        changed.setPhotoFrame(MvPhotoFrame(u"/fotos/%1.jpg"_s.arg(++number)));
+        project.changePage(page, changed, u"Foto"_s, mergeId);
+    }
+    const MvCalendarDocument after = project.document();
+    QCOMPARE(MvUndoController::instance().stack()->count(), steps);
+    for (int step = 0; step < steps; ++step)
+        MvUndoController::instance().undo();
+    QVERIFY(project.document() == before);
+    for (int step = 0; step < steps; ++step)
+        MvUndoController::instance().redo();
+    QVERIFY(project.document() == after);
+}
+
+void tst_MvProject::savesAndOpens()
+{
+    const QTemporaryDir dir;
+    const QFileInfo file(dir.filePath(u"Oma & Opa.mvcalendar"_s));
+    MvProject project;
+    project.newProject(document(u"MONTH_GRID_CLASSIC"_s));
+    QString error;
+    QVERIFY(!project.save(&error));
+    QVERIFY(!error.isEmpty());
+    QVERIFY(!project.saveAs(QFileInfo(dir.filePath(u"nirgends/a.mvcalendar"_s)), &error));
+    QVERIFY2(error.contains(u"nirgends/a.mvcalendar"_s), qPrintable(error));
+    QVERIFY(project.fileInfo().filePath().isEmpty());
+
+    MvCalendarDocument changed = project.document();
+    changed.setTitle(u"Neu"_s);
+    project.change(changed, u"Titel"_s);
+    QVERIFY(project.isModified());
+    QVERIFY2(project.saveAs(file, &error), qPrintable(error));
+    QVERIFY(!project.isModified());
+    QCOMPARE(project.displayName(), u"Oma & Opa"_s);
+    MvUndoController::instance().undo();
+    QVERIFY(project.isModified());
+
+    MvProject other;
+    QVERIFY2(other.open(file, &error), qPrintable(error));
+    QVERIFY(other.document() == changed);
+    QVERIFY(!other.isModified() && !other.isFileChangedByOthers());
+    QVERIFY(project.save());
+    QVERIFY(other.isFileChangedByOthers());
+    QVERIFY(!other.open(QFileInfo(dir.filePath(u"fehlt.mvcalendar"_s)), &error));
+    QVERIFY(error.contains(u"fehlt.mvcalendar"_s));
+    QVERIFY(other.document() == changed); // what was open stays
+}
+
+MV_TEST_MAIN(tst_MvProject)
+#include "tst_MvProject.moc"

@@ -1,0 +1,230 @@
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvProject/MvProjectFile.h"
+#include "MvProjectFixture.h"
+#include "MvTest.h"
+
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace MvProjectFixture;
+
+class tst_MvProjectFile : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void roundTrip_data();
+    void roundTrip();
+    void photosMoveWithTheirFolder();
+    void keepsUnknownSchemas();
+    void mendsWhatItCan_data();
+    void mendsWhatItCan();
+    void refuses_data();
+    void refuses();
+    void namesTheBackup();
+
+private:
+    QFileInfo file(const QString &name = u"k.mvcalendar"_s) const { return QFileInfo(m_folder.filePath(name)); }
+    QFileInfo put(const QByteArray &content) const;
+
+    const QTemporaryDir m_folder;
+};
+
+QFileInfo tst_MvProjectFile::put(const QByteArray &content) const
+{
+    QFile device(file().filePath());
+    if (!device.open(QIODevice::WriteOnly) || device.write(content) != content.size())
+        qFatal("cannot write");
+    return file();
+}
+
+void tst_MvProjectFile::roundTrip_data()
+{
+    QTest::addColumn<MvCalendarDocument>("calendar");
+    MvCalendarDocument plain = document(u"MONTH_GRID_CLASSIC"_s);
+    QTest::newRow("plain") << plain;
+
+    MvCalendarDocument colorful = document(u"FAMILY_PLANNER"_s, 2);
+    MvCalendariumAppearance own = colorful.appearance();
+    own.setCellColor(QColor(1, 2, 3, 4),
+                     {MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_SUNDAY, MvParityLogicEnum::odd});
+    own.setColumnHeaders(QStringList{u"Mäx & \"Co\""_s, u"<b>"_s, u"Zeile\nzwei"_s});
+    own.setOffsetMonth(1);
+    own.setOverrideShowCalendarWeek(true);
+    own.setShowHolidays(false);
+    own.setRenderingInformation(own.renderingInformation() | calendar_render_days_of_week_short);
+    MvCalendariumFontSettings fonts = own.fontSettings();
+    fonts.setFont(u"EB Garamond"_s);
+    fonts.setFontSizePercentage(-20);
+    own.setFontSettings(fonts);
+    colorful.setAppearance(own);
+    MvCalendarPage page = colorful.pages()[1];
+    MvCalendariumContentConfig content = page.contentConfig();
+    content.setHolidayConfig(
+        {MvLocale(u"fr_CH"_s), u"ZH"_s, MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_ENTRIES)});
+    content.setCalendarWeekHeadlineOption(MvCalendarWeekHeadlineOption(u"Woche"_s));
+    content.setCalendarWeekTextOption(MvCalendarWeekTextOption(u"W%1"_s));
+    page.setContentConfig(content);
+    MvPhotoFrame photo(u"/anderswo/Foto mit Ümlaut.jpg"_s, MvPhotoFrame::Placement::Right);
+    photo.setShare(0.4321);
+    photo.setFocus({0.1, 1.0 / 3.0});
+    page.setPhotoFrame(photo);
+    colorful.setPage(1, page);
+    colorful.setAuthor(u"Jürgen"_s);
+    QTest::newRow("everything changed") << colorful;
+
+    MvCalendarDocument years = document(u"MONTH_GRID_CLASSIC"_s, 24);
+    setPhoto(years, 5, MvPhotoFrame(u"/fotos/6.jpg"_s));
+    years.setAppearance(appearance(u"YEAR_GRID"_s));
+    QTest::newRow("years with a photo in reserve") << years;
+
+    MvCalendarDocument mixed = document(u"MONTH_GRID_CLASSIC"_s, 3);
+    MvCalendarPage year = mixed.pages()[0];
+    year.setAppearance(appearance(u"YEAR_ONLY"_s));
+    mixed.setPage(0, year);
+    QTest::newRow("a year in front of months") << mixed;
+}
+
+void tst_MvProjectFile::roundTrip()
+{
+    QFETCH(const MvCalendarDocument, calendar);
+    QCOMPARE(MvProjectFile::write(calendar, file()), QString());
+    const MvProjectFile::Content content = MvProjectFile::read(file());
+    QCOMPARE(content.error, QString());
+    QCOMPARE(content.notes, QStringList());
+    QVERIFY(content.document == calendar);
+    const QDir folder = file().absoluteDir();
+    QCOMPARE(MvProjectFile::toBytes(content.document, folder), MvProjectFile::toBytes(calendar, folder));
+}
+
+void tst_MvProjectFile::photosMoveWithTheirFolder()
+{
+    QVERIFY(QDir(m_folder.path()).mkpath(u"alt/fotos"_s));
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
+    setPhoto(calendar, 0, MvPhotoFrame(m_folder.filePath(u"alt/fotos/oma.png"_s)));
+    setPhoto(calendar, 1, MvPhotoFrame(m_folder.filePath(u"neben.png"_s)));
+    QCOMPARE(MvProjectFile::write(calendar, file(u"alt/k.mvcalendar"_s)), QString());
+    QVERIFY(QDir(m_folder.path()).rename(u"alt"_s, u"neu"_s));
+    QVERIFY(writePhoto(m_folder.filePath(u"neu/fotos/oma.png"_s), {40, 30}));
+    const MvProjectFile::Content content = MvProjectFile::read(file(u"neu/k.mvcalendar"_s));
+    QCOMPARE(content.document.pages()[0].photoFrame().path(), m_folder.filePath(u"neu/fotos/oma.png"_s));
+    // what is missing keeps its path and is told
+    QCOMPARE(content.document.missingPhotos(), QStringList{m_folder.filePath(u"neben.png"_s)});
+}
+
+void tst_MvProjectFile::keepsUnknownSchemas()
+{
+    put("<calendarproject version='1'><paper width='2970' height='2100'/>"
+        "<page month='2027-01'>\n<calendarium layoutschema='USER_FEHLT' colorschema='USER_4711'/>"
+        "<content language='de_DE'/></page></calendarproject>");
+    MvProjectFile::Content content = MvProjectFile::read(file());
+    QCOMPARE(content.error, QString());
+    QCOMPARE(content.notes.size(), 2);
+    QVERIFY2(content.notes.first().contains(u"k.mvcalendar:2:"_s) && content.notes.first().contains(u"USER_FEHLT"_s),
+             qPrintable(content.notes.first()));
+    QVERIFY(content.document.isValid()); // something stands in for them
+    const QDir folder = file().absoluteDir();
+    const QByteArray kept = MvProjectFile::toBytes(content.document, folder);
+    QVERIFY(kept.contains("\"USER_FEHLT\"") && kept.contains("\"USER_4711\""));
+
+    MvCalendariumAppearance changed = content.document.appearance();
+    changed.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"DAY_LIST"_s));
+    content.document.setAppearance(changed);
+    const QByteArray bytes = MvProjectFile::toBytes(content.document, folder);
+    QVERIFY(bytes.contains("\"DAY_LIST\"") && bytes.contains("\"USER_4711\""));
+}
+
+void tst_MvProjectFile::mendsWhatItCan_data()
+{
+    QTest::addColumn<QByteArray>("inside");
+    QTest::addColumn<QList<QDate>>("pages");
+    QTest::addColumn<QString>("note");
+    const QByteArray paper = "<paper width='2100' height='2970'/>";
+    const auto page = [](const QByteArray &month) {
+        return "<page month='" + month +
+               "'><calendarium layoutschema='DAY_LIST' colorschema='NIGHT'/><content language='de_DE'/></page>";
+    };
+    const QDate january(2027, 1, 1);
+    QTest::newRow("no paper") << page("2027-01") << QList<QDate>{january} << u"A4"_s;
+    QTest::newRow("paper without end") << "<paper width='1e300' height='nan'/>" + page("2027-01")
+                                       << QList<QDate>{january} << u"A4"_s;
+    QTest::newRow("a page without a month")
+        << paper + page("gestern") + page("2027-01") << QList<QDate>{january} << u"„gestern“"_s;
+    QTest::newRow("a month twice") << paper + page("2027-01") + page("2027-01") << QList<QDate>{january}
+                                   << u"2027-01"_s;
+    QTest::newRow("a month in between is missing, order lost")
+        << paper + page("2027-03") + page("2027-01")
+        << QList<QDate>{january, january.addMonths(1), january.addMonths(2)} << QString();
+    QTest::newRow("a page outside") << paper + "<range first='2027-01' last='2027-01'/>" + page("2027-01") +
+                                           page("2030-01")
+                                    << QList<QDate>{january} << u"2030-01"_s;
+    QTest::newRow("a range the wrong way round") << paper + "<range first='2028-01' last='2027-01'/>" + page("2027-01")
+                                                 << QList<QDate>{january} << u"Zeitraum"_s;
+    QTest::newRow("a photo nowhere") << paper +
+                                            page("2027-01").replace("</page>", "<photo path='a.jpg' share='9'/></page>")
+                                     << QList<QDate>{january} << u"Foto"_s;
+}
+
+void tst_MvProjectFile::mendsWhatItCan()
+{
+    QFETCH(const QByteArray, inside);
+    QFETCH(const QList<QDate>, pages);
+    QFETCH(const QString, note);
+    const MvProjectFile::Content content =
+        MvProjectFile::read(put("<calendarproject version='1'>" + inside + "</calendarproject>"));
+    QCOMPARE(content.error, QString());
+    QCOMPARE(content.document.pageDates(), pages);
+    QVERIFY(content.document.isValid());
+    QCOMPARE(content.notes.size(), note.isEmpty() ? 0 : 1);
+    QVERIFY2(note.isEmpty() || content.notes.first().contains(note), qPrintable(content.notes.value(0)));
+}
+
+void tst_MvProjectFile::refuses_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("says");
+    QTest::newRow("empty") << QByteArray() << u"k.mvcalendar: "_s;
+    QTest::newRow("cut off") << QByteArray("<calendarproject version='1'>\n<page month='2027-01'>\n")
+                             << u".mvcalendar:"_s;
+    QTest::newRow("not XML") << QByteArray("Das ist ein Brief.\n") << u":1:"_s;
+    QTest::newRow("another file") << QByteArray("<CalendarEvents/>") << u"„CalendarEvents“"_s;
+    QTest::newRow("a newer program") << QByteArray("\n\n<calendarproject version='2'/>") << u".mvcalendar:3:"_s;
+    QTest::newRow("no pages") << QByteArray("<calendarproject version='1'/>") << u"keine Seiten"_s;
+    QTest::newRow("ten thousand years")
+        << QByteArray(
+               "<calendarproject><range first='0001-01' last='9999-12'/><page month='2027-01'/></calendarproject>")
+        << u"1200"_s;
+    QTest::newRow("pages ten thousand years apart")
+        << QByteArray("<calendarproject><page month='0001-01'><content language='de_DE'/></page><page month='9999-12'>"
+                      "<content language='de_DE'/></page></calendarproject>")
+        << u"1200"_s;
+    QTest::newRow("an entity that grows")
+        << QByteArray("<!DOCTYPE x [<!ENTITY a 'aaaa'>]><calendarproject title='&a;'/>") << u".mvcalendar:"_s;
+    QTest::newRow("a tower of elements") << QByteArray("<calendarproject>").repeated(5000) << u".mvcalendar:"_s;
+}
+
+void tst_MvProjectFile::refuses()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, says);
+    const MvProjectFile::Content read = MvProjectFile::read(put(content));
+    QVERIFY2(read.error.contains(says), qPrintable(read.error));
+    QVERIFY(read.error.contains(u"k.mvcalendar"_s));
+}
+
+void tst_MvProjectFile::namesTheBackup()
+{
+    const MvCalendarDocument calendar = document(u"DAY_LIST"_s, 1);
+    const QFileInfo twice = file(u"zweimal.mvcalendar"_s);
+    QCOMPARE(MvProjectFile::write(calendar, twice), QString());
+    QCOMPARE(MvProjectFile::write(document(u"DAY_LIST"_s, 2), twice), QString());
+    QFile device(twice.filePath());
+    QVERIFY(device.open(QIODevice::WriteOnly) && device.write("<kaputt") > 0);
+    device.close();
+    const QString error = MvProjectFile::read(twice).error;
+    QVERIFY2(error.contains(u"zweimal.mvcalendar~"_s), qPrintable(error));
+    QVERIFY(MvProjectFile::read(file(u"zweimal.mvcalendar~"_s)).document == calendar);
+}
+
+MV_TEST_MAIN(tst_MvProjectFile)
+#include "tst_MvProjectFile.moc"
