@@ -54,11 +54,9 @@ MvColorSchemaPicker::MvColorSchemaPicker(QWidget *parent)
     setIconSize(swatchSize);
     setWordWrap(true);
     setUniformItemSizes(true);
-    setFrameShape(NoFrame);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // as high as its content: what stands around it scrolls
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
-    setGridSize({swatchSize.width() + gap, swatchSize.height() + textLines * fontMetrics().height() + gap});
     const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     for (const MvCalendariumColorSchema &schema : registry.visibleSchemata()) {
         const MvCalendariumColorSchemaID id = registry.id(schema);
@@ -158,7 +156,6 @@ void MvColorSchemaPicker::changeEvent(QEvent *event)
     QListWidget::changeEvent(event);
     if (event->type() != QEvent::PaletteChange && event->type() != QEvent::FontChange)
         return;
-    setGridSize({swatchSize.width() + gap, swatchSize.height() + textLines * fontMetrics().height() + gap});
     for (int row = 0; row < count(); ++row)
         item(row)->setIcon(swatch(m_schemata.at(row)));
     adaptHeight();
@@ -166,13 +163,17 @@ void MvColorSchemaPicker::changeEvent(QEvent *event)
 
 QSize MvColorSchemaPicker::sizeHint() const
 {
-    return {3 * gridSize().width() + 2 * frameWidth(), height()};
+    return {3 * (swatchSize.width() + gap) + 2 * frameWidth(), height()};
 }
 
-/// All rows are seen, at any width.
+/// All rows are seen, at any width, and share it evenly.
 void MvColorSchemaPicker::adaptHeight()
 {
-    const int columns = std::max(1, (viewport()->width() - 1) / gridSize().width());
+    const int width = viewport()->width() - 1;
+    const int columns = std::max(1, width / (swatchSize.width() + gap));
+    const QSize grid(width / columns, swatchSize.height() + textLines * fontMetrics().height() + gap);
+    if (grid != gridSize())
+        setGridSize(grid);
     const int rows = (count() + columns - 1) / columns;
     const int needed = rows * gridSize().height() + 2 * frameWidth() + 2;
     if (height() != needed || minimumHeight() != needed)

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -13,13 +14,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int idRole = Qt::UserRole;
+constexpr double frameWidth = 3.0; // of the chosen picture
 
 /// Layouts that are only a part of a page, such as the line with the month, are not offered.
 bool isWholePage(const MvCalendariumLayoutSchema &schema)
 {
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchema(schema);
-    return appearance.rendererShowsDays();
+    return appearance.rendererShowsDays() && schema.calendariumType() != CALENDAR_HOLIDAYS;
 }
 
 } // namespace
@@ -119,6 +121,18 @@ MvCalendariumAppearance MvLayoutChooser::withLayout(const MvCalendariumAppearanc
     return changed;
 }
 
+/// The pictures share the width evenly.
+void MvLayoutChooser::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    constexpr int air = 24;
+    const int room = width() - 2 * m_list->frameWidth() - m_list->style()->pixelMetric(QStyle::PM_ScrollBarExtent) - 1;
+    const int columns = qMax(1, room / (m_pictureSize.width() + air));
+    const QSize grid(room / columns, m_list->gridSize().height());
+    if (room > 0 && grid != m_list->gridSize())
+        m_list->setGridSize(grid);
+}
+
 QImage MvLayoutChooser::emptyPicture() const
 {
     QImage image(m_pictureSize * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
@@ -130,7 +144,7 @@ QImage MvLayoutChooser::emptyPicture() const
 /// The page, as large as it can be within the picture.
 QRectF MvLayoutChooser::sheetRect() const
 {
-    const QSizeF room = QSizeF(m_pictureSize) - QSizeF(4, 4);
+    const QSizeF room = QSizeF(m_pictureSize) - QSizeF(2 * frameWidth, 2 * frameWidth);
     const QSizeF sheet = m_document.format().trimSize().scaled(room, Qt::KeepAspectRatio);
     return {QPointF((m_pictureSize.width() - sheet.width()) / 2.0, (m_pictureSize.height() - sheet.height()) / 2.0),
             sheet};
@@ -166,9 +180,14 @@ void MvLayoutChooser::showPicture(int number)
 {
     if (QListWidgetItem *item = m_list->item(number)) {
         QIcon icon;
-        const QPixmap picture = QPixmap::fromImage(m_images->image(number));
+        QPixmap picture = QPixmap::fromImage(m_images->image(number));
         icon.addPixmap(picture);
-        icon.addPixmap(picture, QIcon::Selected); // a page keeps its colours when it is chosen
+        QPainter painter(&picture); // a page keeps its colours when it is chosen, and gets a frame
+        painter.setPen(
+            QPen(palette().color(QPalette::Highlight), frameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(sheetRect());
+        painter.end();
+        icon.addPixmap(picture, QIcon::Selected);
         item->setIcon(icon);
     }
 }

@@ -35,6 +35,9 @@ Q_SIGNALS:
     /// Chosen for good, by a double click or the return key.
     void activated();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     QImage emptyPicture() const;
     QRectF sheetRect() const;

@@ -7,7 +7,9 @@
 
 #include "MvCalendar/MvCalendariumColorSchemaEditor.h"
 
+#include <QHeaderView>
 #include <QScrollArea>
+#include <QTableView>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -15,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize pictureSize(112, 84); // logical pixels: two side by side in a dock
+constexpr QSize pictureSize(124, 93); // logical pixels: two side by side in a dock
 
 } // namespace
 
@@ -60,6 +62,19 @@ void MvLayoutPanel::showPage()
     showLayout();
     m_schemata->setColorSchema(appearance.colorSchema());
     m_colors->setAppearance(appearance);
+    fitColorTable();
+}
+
+/// As high as its rows: what stands around it scrolls.
+void MvLayoutPanel::fitColorTable()
+{
+    auto *table = m_colors->findChild<QTableView *>(u"tableView"_s);
+    if (table == nullptr)
+        return;
+    int height = table->horizontalHeader()->sizeHint().height() + 2 * table->frameWidth();
+    for (int row = 0; row < table->model()->rowCount(); ++row)
+        height += table->rowHeight(row);
+    table->setFixedHeight(height);
 }
 
 /// The pictures are made again only when they would look different.
@@ -99,7 +114,7 @@ void MvLayoutPanel::onSchemaChosen(const MvCalendariumColorSchema &schema)
         const bool hasGrid = appearance.gridConfig().isEnabled();
         appearance.setColorSchema(schema);
         MvBorderConfig grid = appearance.gridConfig();
-        grid.setEnabled(hasGrid);
+        grid.setIsEnabled(hasGrid);
         appearance.setGridConfig(grid);
         page.setAppearance(appearance);
     };

@@ -22,6 +22,7 @@ protected:
 
 private:
     QWidget *createColorPage();
+    void fitColorTable();
     void showLayout();
     void onLayoutChosen();
     void onSchemaChosen(const MvCalendariumColorSchema &schema);

@@ -59,8 +59,10 @@ void MvPageDropTarget::paint(QPainter *painter, const QStyleOptionGraphicsItem *
     painter->setFont(widget != nullptr ? widget->font() : QGuiApplication::font());
     const QFontMetricsF metrics(painter->font());
     QRectF label(0, 0, metrics.horizontalAdvance(m_text) + 2 * labelPadding, metrics.height() + labelPadding);
-    label.moveCenter(rect.center());
-    const QRectF room = transform.mapRect(parentItem()->boundingRect());
+    QRectF room = transform.mapRect(parentItem()->boundingRect());
+    if (widget != nullptr)
+        room &= QRectF(widget->rect());
+    label.moveCenter((rect & room).center());
     label.moveLeft(std::clamp(label.left(), room.left(), std::max(room.left(), room.right() - label.width())));
     painter->setPen(Qt::NoPen);
     painter->setBrush(color);

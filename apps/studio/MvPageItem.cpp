@@ -20,7 +20,7 @@ namespace {
 constexpr qint64 photoBytes = qint64(192) << 20;
 constexpr int shadowWidth = 44; // tenths of a millimetre
 constexpr int shadowSteps = 16;
-const QColor shadowColor(0, 0, 0, 5);
+const QColor shadowColor(0, 0, 0, 4);
 const QColor placeholderColor(0xe4, 0xe6, 0xe9);
 const QColor placeholderTextColor(0x55, 0x5b, 0x63);
 

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int usualLetters = 38; // a panel's width in letters of its font
+constexpr int usualLetters = 46; // a panel's width in letters of its font
 
 } // namespace
 

@@ -30,7 +30,7 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent)
 {
     m_panels = {
         {u"contentPanel"_s, tr("Inhalt"), u"ico_panel_content"_s, new MvContentPanel(m_edits, parent)},
-        {u"layoutPanel"_s, tr("Layout und Farben"), u"ico_panel_layout"_s, new MvLayoutPanel(m_edits, parent)},
+        {u"layoutPanel"_s, tr("Gestaltung"), u"ico_panel_layout"_s, new MvLayoutPanel(m_edits, parent)},
         {u"fontPanel"_s, tr("Schriften"), u"ico_panel_fonts"_s, new MvFontPanel(m_edits, parent)},
         {u"columnHeadersPanel"_s, tr("Spalten"), u"ico_panel_columns"_s, new MvColumnHeadersPanel(m_edits, parent)},
         {u"entriesPanel"_s, tr("Einträge"), u"ico_panel_entries"_s, createEntriesPanel(parent)},
