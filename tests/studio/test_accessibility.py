@@ -72,7 +72,7 @@ def find_application(pid):
 
 
 def inside(program):
-    studio = subprocess.Popen([program])
+    studio = subprocess.Popen([program, "--language", "de"])
     try:
         application = find_application(studio.pid)
         if application is None:
@@ -86,6 +86,8 @@ def inside(program):
         errors = [f"no name: {place}" for place in walk.nameless]
         if len({DAY.search(n)[0] for n in days}) < 28:
             errors.append(f"{len(days)} days of the page are told, not a month")
+        if "--verbose" in sys.argv:
+            print(walk.named)
         if len(walk.named.get("push button", [])) < 5 or len(walk.named.get("menu item", [])) < 5:
             errors.append("the tree is too small to be the studio's")
         return errors
