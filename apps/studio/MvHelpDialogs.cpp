@@ -48,6 +48,7 @@ QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *
     table->setObjectName(u"shortcutTable"_s);
     table->setAccessibleName(tr("Tastenkürzel"));
     table->setRootIsDecorated(false);
+    table->setUniformRowHeights(true);
     table->setAlternatingRowColors(true);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setHeaderLabels({tr("Was"), tr("Tasten"), tr("Wozu")});

@@ -14,13 +14,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int idRole = Qt::UserRole;
+constexpr double frameWidth = 3.0; // of the chosen picture
 
 /// Layouts that are only a part of a page, such as the line with the month, are not offered.
 bool isWholePage(const MvCalendariumLayoutSchema &schema)
 {
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchema(schema);
-    return appearance.rendererShowsDays();
+    return appearance.rendererShowsDays() && schema.calendariumType() != CALENDAR_HOLIDAYS;
 }
 
 } // namespace
@@ -143,7 +144,7 @@ QImage MvLayoutChooser::emptyPicture() const
 /// The page, as large as it can be within the picture.
 QRectF MvLayoutChooser::sheetRect() const
 {
-    const QSizeF room = QSizeF(m_pictureSize) - QSizeF(4, 4);
+    const QSizeF room = QSizeF(m_pictureSize) - QSizeF(2 * frameWidth, 2 * frameWidth);
     const QSizeF sheet = m_document.format().trimSize().scaled(room, Qt::KeepAspectRatio);
     return {QPointF((m_pictureSize.width() - sheet.width()) / 2.0, (m_pictureSize.height() - sheet.height()) / 2.0),
             sheet};
@@ -179,9 +180,14 @@ void MvLayoutChooser::showPicture(int number)
 {
     if (QListWidgetItem *item = m_list->item(number)) {
         QIcon icon;
-        const QPixmap picture = QPixmap::fromImage(m_images->image(number));
+        QPixmap picture = QPixmap::fromImage(m_images->image(number));
         icon.addPixmap(picture);
-        icon.addPixmap(picture, QIcon::Selected); // a page keeps its colours when it is chosen
+        QPainter painter(&picture); // a page keeps its colours when it is chosen, and gets a frame
+        painter.setPen(
+            QPen(palette().color(QPalette::Highlight), frameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.drawRect(sheetRect());
+        painter.end();
+        icon.addPixmap(picture, QIcon::Selected);
         item->setIcon(icon);
     }
 }

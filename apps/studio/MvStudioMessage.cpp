@@ -74,6 +74,8 @@ QDialogButtonBox *MvStudioMessage::createButtonBox(QDialogButtonBox::StandardBut
     for (QAbstractButton *button : box->buttons())
         if (const QString text = buttonText(box->standardButton(button)); !text.isEmpty())
             button->setText(text);
+    for (QAbstractButton *button : box->buttons())
+        button->setIcon({}); // the style's own do not go with the program's
     return box;
 }
 

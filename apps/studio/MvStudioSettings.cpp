@@ -1,5 +1,6 @@
 #include "MvStudioSettings.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
@@ -77,7 +78,8 @@ QString MvStudioSettings::folder(const QString &kind)
     const QString known = text(u"folders/"_s + kind);
     if (!known.isEmpty() && QFileInfo(known).isDir())
         return known;
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
 }
 
 void MvStudioSettings::setFolder(const QString &kind, const QString &path)

@@ -25,7 +25,7 @@ public:
     static void clearRecentFiles();
 
     /// The folder where a file of a kind ("project", "export", "contacts") was last looked for; the user's documents
-    /// at first.
+    /// at first, or the home folder without those.
     static QString folder(const QString &kind);
     static void setFolder(const QString &kind, const QString &path);
 

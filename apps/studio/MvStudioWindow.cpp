@@ -107,7 +107,24 @@ void MvStudioWindow::createDocks()
 }
 
 void MvStudioWindow::addPanels()
-{}
+{
+    m_panels = new MvStudioPanels(m_project, this);
+    QDockWidget *first = nullptr;
+    for (const MvStudioPanel &panel : m_panels->panels()) {
+        auto *dock = new QDockWidget(panel.title, this);
+        dock->setObjectName(panel.objectName + u"Dock"_s);
+        dock->setWidget(panel.widget);
+        dock->toggleViewAction()->setIcon(MvIconRegistry::instance().icon(panel.iconName));
+        addDockWidget(Qt::RightDockWidgetArea, dock);
+        m_viewMenu->addAction(dock->toggleViewAction());
+        if (first)
+            tabifyDockWidget(first, dock);
+        else
+            first = dock;
+    }
+    if (first)
+        first->raise();
+}
 
 void MvStudioWindow::createMenus()
 {

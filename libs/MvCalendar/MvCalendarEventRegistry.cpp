@@ -18,6 +18,8 @@
 #include <QFile>
 #include <QSet>
 
+#include <utility>
+
 template class MvSingleton<MvCalendarEventRegistry>;
 
 using namespace Qt::StringLiterals;
@@ -180,6 +182,11 @@ MvCalendarEventList MvCalendarEventRegistry::eventsOfProject(const MvProjectIden
 void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
 {
     const MvCalendarEventList own = withOwnFotos(validOnly(events));
+    if (m_openChanges > 0) {
+        store(m_activeModelId, own);
+        m_hasOpenChanges = true;
+        return;
+    }
     {
         MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
         const MvFileGuard guard(calendarEventsDir());
@@ -206,6 +213,12 @@ bool MvCalendarEventRegistry::changeEvent(const MvCalendarEvent &before, const M
         return false;
     setEvents(changed);
     return true;
+}
+
+void MvCalendarEventRegistry::endChanges()
+{
+    if (m_openChanges > 0 && --m_openChanges == 0 && std::exchange(m_hasOpenChanges, false))
+        setEvents(activeEventList());
 }
 
 MvCalendarEventList MvCalendarEventRegistry::mergeLists(const MvCalendarEventList &base,

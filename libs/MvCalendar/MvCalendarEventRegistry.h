@@ -69,6 +69,9 @@ public:
     void setEvents(const MvCalendarEventList &events);
     /// Replaces an entry; an invalid `before` adds one, an invalid `after` removes one. Says whether anything changed.
     bool changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after);
+    /// Changes until the matching endChanges() are written and signalled once, there. May be nested.
+    void beginChanges() { ++m_openChanges; }
+    void endChanges();
 
     /// `base`, when it is to be kept, then the entries of `other` whose uuid is null or unknown in `base`.
     MvCalendarEventList mergeLists(const MvCalendarEventList &base, const MvCalendarEventList &other,
@@ -127,6 +130,8 @@ private:
 
     QHash<MvProjectIdentifier, MvCalendarEventIndex> m_lists;
     MvProjectIdentifier m_activeModelId;
+    int m_openChanges = 0;         // beginChanges() without endChanges()
+    bool m_hasOpenChanges = false; // something has changed since
     mutable File m_file;
     mutable QHash<QString, MvFoto> m_takenOver; // copies of imported photos by the path they came from
     mutable QString m_lastSaveError;

@@ -6,6 +6,7 @@
 #include "MvGUIWidgets/MvColorDelegate.h"
 #include "MvGUIWidgets/MvColorSwatch.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -124,7 +125,7 @@ int MvCalendariumColorSchemaModel::columnCount(const QModelIndex &parent) const
 
 Qt::ItemFlags MvCalendariumColorSchemaModel::flags(const QModelIndex &index) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!hasCell(index))
         return Qt::NoItemFlags;
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
     return index.column() == TypeColumn ? flags : flags | Qt::ItemIsEditable;
@@ -132,7 +133,7 @@ Qt::ItemFlags MvCalendariumColorSchemaModel::flags(const QModelIndex &index) con
 
 QVariant MvCalendariumColorSchemaModel::data(const QModelIndex &index, int role) const
 {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!hasCell(index))
         return {};
     if (index.column() != TypeColumn)
         return colorData(index, role);

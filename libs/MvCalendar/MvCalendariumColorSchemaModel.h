@@ -86,6 +86,7 @@ private:
 
     States statesOf(const MvCalendariumColorSchema &schema) const;
     bool isCoupled(const MvCalendarCellType &follower) const;
+    bool hasCell(const QModelIndex &index) const { return index.isValid() && index.row() < m_rows.size(); }
     QList<Row> createRows() const;
     bool alternates(const MvCalendarCellType &type) const;
     QString rowName(const Row &row) const;

@@ -42,6 +42,7 @@ private Q_SLOTS:
     void leapDayEntries();
     void reportsTextsWithoutRoom();
     void unknownFont();
+    void project();
     void brokenOutput();
 
 private:
@@ -132,6 +133,9 @@ void tst_mvcalendar::refuses_data()
     row("unknown option", u"render --regoin BY -o a.pdf"_s, 2, {u"--regoin"_s, u"meinten Sie „--region“"_s});
     row("option of another command", u"layouts --year 2027"_s, 2, {u"--year"_s});
     row("missing value", u"render -o a.pdf --region"_s, 2, {u"--region"_s});
+    row("project and layout", u"render --project k.mvcalendar --layout DAY_LIST -o a.pdf"_s, 2,
+        {u"--layout"_s, u"--project"_s});
+    row("no such project", u"render --project fehlt.mvcalendar -o a.pdf"_s, 1, {u"fehlt.mvcalendar"_s});
     row("year that is none", u"render --year 20x7 -o a.pdf"_s, 2, {u"20x7"_s, u"1583"_s, u"9999"_s});
     row("year before the calendar", u"holidays --year 1500"_s, 2, {u"1500"_s, u"1583"_s});
     row("years the wrong way round", u"holidays --year 2027 --to 2026"_s, 2, {u"2026"_s, u"2027"_s});
@@ -465,6 +469,33 @@ void tst_mvcalendar::unknownFont()
     const Call call = run({u"render"_s, u"--months"_s, u"1"_s, u"--font"_s, u"Gibtsnicht Sans"_s, u"-o"_s, u"k.pdf"_s});
     QCOMPARE(call.exitCode, 0);
     QVERIFY2(call.err.contains("Gibtsnicht Sans") && call.err.count('\n') == 1, call.err.constData());
+}
+
+void tst_mvcalendar::project()
+{
+    write(path(u"k.mvcalendar"_s),
+          "<calendarproject version='1' title='Familie'><paper width='1480' height='2100' bleed='30'/>"
+          "<page month='2027-02'><calendarium layoutschema='DAY_LIST' colorschema='NIGHT'/>"
+          "<content language='de_DE' features='holidays'/><photo path='fehlt.jpg' placement='top'/></page>"
+          "<page month='2027-03'><calendarium layoutschema='USER_9' colorschema='NIGHT'/>"
+          "<content language='de_DE' features='holidays'/></page></calendarproject>");
+    const Call call =
+        run({u"render"_s, u"--project"_s, u"k.mvcalendar"_s, u"--dpi"_s, u"60"_s, u"-o"_s, u"s-%m.png"_s});
+    QCOMPARE(call.exitCode, 0);
+    QCOMPARE(call.out, QByteArray("s-02.png\ns-03.png\n"));
+    QVERIFY2(call.err.contains("USER_9") && call.err.contains("fehlt.jpg"), call.err.constData());
+    QCOMPARE(QImage(path(u"s-02.png"_s)).size(), QSize(350, 496)); // 148 x 210 mm
+    const Call report =
+        run({u"render"_s, u"--project"_s, u"k.mvcalendar"_s, u"--report"_s, u"json"_s, u"-o"_s, u"k.pdf"_s});
+    const QJsonArray missing = QJsonDocument::fromJson(report.out).object().value(u"missingPhotos"_s).toArray();
+    QCOMPARE(missing, QJsonArray{path(u"fehlt.jpg"_s)});
+
+    write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-03-10"));
+    const Call entries = run({u"render"_s, u"--project"_s, u"k.mvcalendar"_s, u"--entries"_s, u"e.xml"_s, u"--dpi"_s,
+                              u"60"_s, u"-o"_s, u"e-%m.png"_s});
+    QCOMPARE(entries.exitCode, 0);
+    QCOMPARE(QImage(path(u"e-02.png"_s)), QImage(path(u"s-02.png"_s)));
+    QVERIFY(QImage(path(u"e-03.png"_s)) != QImage(path(u"s-03.png"_s)));
 }
 
 void tst_mvcalendar::brokenOutput()

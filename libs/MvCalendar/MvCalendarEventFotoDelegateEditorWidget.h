@@ -1,0 +1,46 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/mvcalendar_export.h"
+
+#include <QWidget>
+
+#include <functional>
+
+class QToolButton;
+
+/// The buttons over the photo of an entry in a list: choose another one, remove it.
+class MVCALENDAR_EXPORT MvCalendarEventFotoDelegateEditorWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    MvCalendarEventFotoDelegateEditorWidget(const MvCalendarEvent &event, QWidget *parent);
+    ~MvCalendarEventFotoDelegateEditorWidget() override;
+
+    void setCalendarEvent(const MvCalendarEvent &event);
+    /// The entry with the photo as chosen.
+    MvCalendarEvent calendarEvent() const { return m_event; }
+    /// Makes the buttons fit the entry.
+    void applyIcon();
+
+    /// Asks for the file of a photo and hands over the entry with that photo. Nothing happens when none is chosen;
+    /// a file that is no photo is reported.
+    static void requestFoto(const MvCalendarEvent &event, QWidget *asker,
+                            const std::function<void(const MvCalendarEvent &)> &use);
+
+public Q_SLOTS:
+    void onChangeImageButtonClicked();
+    void onRemoveImageButtonClicked();
+
+Q_SIGNALS:
+    /// The user has chosen or removed the photo.
+    void calendarEventChanged();
+
+private:
+    QToolButton *createButton(const QString &name, const QString &icon);
+
+    MvCalendarEvent m_event;
+    QToolButton *m_changeButton;
+    QToolButton *m_removeButton;
+};

@@ -1,0 +1,309 @@
+#include "MvCalendar/MvCalendarEventListWidget.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventDelegateEditDelete.h"
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventFotoDelegate.h"
+#include "MvCalendar/MvCalendarEventModel.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventTextDelegate.h"
+#include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
+
+#include "MvCore/MvDiskAccessRequest.h"
+#include "MvCore/MvLogger.h"
+#include "MvCore/MvUndoController.h"
+#include "MvCore/MvYesNoRequest.h"
+#include "MvGUIWidgets/MvActionRegistry.h"
+#include "MvGUIWidgets/MvIconRegistry.h"
+#include "MvGUIWidgets/MvTableView.h"
+
+#include <QAction>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QMenu>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int fotoColumnWidth = 66;
+
+MvCalendarEvent eventOf(const QModelIndex &index)
+{
+    return index.data(Qt::UserRole).value<MvCalendarEvent>();
+}
+
+void editEvent(const MvCalendarEvent &event)
+{
+    if (event.isValid())
+        MvCalendarDayEditorDialog::createSelfDeleting(nullptr)->openDayEditorSingle(event);
+}
+
+void deleteEvent(const MvCalendarEvent &event)
+{
+    MvUndoController::instance().push(new MvUndoCommandCalendarEvent(event, MvCalendarEvent(), nullptr));
+}
+
+} // namespace
+
+MvCalendarEventListWidget::MvCalendarEventListWidget(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *newEntryButton = createNewEntryButton(this); // first in the tab order
+    m_tableView = createEventTableView(this);
+    auto *layout = new QGridLayout(this);
+    layout->addWidget(newEntryButton, 0, 0, Qt::AlignLeft);
+    layout->addWidget(createHorizontalLine(this), 1, 0, 1, 2);
+    layout->addWidget(m_tableView, 2, 0, 1, 2);
+    layout->addWidget(changeEventListButton(this), 3, 0, 1, 2, Qt::AlignLeft);
+}
+
+MvCalendarEventListWidget::~MvCalendarEventListWidget() = default;
+
+// ---- parts
+
+MvCalendarEventModel *MvCalendarEventListWidget::createEventModel()
+{
+    auto *model = new MvCalendarEventModel(this);
+    model->load();
+    return model;
+}
+
+MvTableView *MvCalendarEventListWidget::createEventTableView(QWidget *parent)
+{
+    using Model = MvCalendarEventModel;
+    auto *view = new MvTableView(parent);
+    view->setObjectName(u"eventTableView"_s);
+    view->setAccessibleName(tr("Eigene Einträge"));
+    view->setContextMenuPolicy(Qt::CustomContextMenu);
+    view->setCornerButtonEnabled(false);
+    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    view->setModel(createEventModel());
+    view->setSortingEnabled(false);
+    view->setTextElideMode(Qt::ElideRight);
+    view->setWordWrap(false);
+    view->setListMode({Model::FotoColumn, Model::EventColumn});
+    view->setEmptyText(tr("Noch keine Einträge. Fügen Sie Geburtstage, Jahrestage und andere Termine hinzu, und sie "
+                          "erscheinen in Ihrem Kalender."));
+
+    QHeaderView *header = view->horizontalHeader();
+    header->setSectionsClickable(false);
+    header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setMinimumSectionSize(fotoColumnWidth);
+    header->setSectionResizeMode(Model::FotoColumn, QHeaderView::Fixed);
+    header->resizeSection(Model::FotoColumn, fotoColumnWidth);
+    header->setSectionResizeMode(Model::DateColumn, QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(Model::NameColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(Model::EventColumn, QHeaderView::ResizeToContents);
+    view->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+
+    view->setItemDelegate(new MvCalendarEventTextDelegate(view));
+    view->setItemDelegateForColumn(Model::FotoColumn, new MvCalendarEventFotoDelegate(view));
+    view->setItemDelegateForColumn(Model::EventColumn, new MvCalendarEventDelegateEditDelete(view));
+    view->updateToReasonableMinHeight();
+    connect(view, &QWidget::customContextMenuRequested, this,
+            &MvCalendarEventListWidget::onTableViewContextMenuRequested);
+    connect(view, &MvTableView::rowActivated, this, [](const QModelIndex &index) { editEvent(eventOf(index)); });
+    connect(view, &MvTableView::rowRemovalRequested, this,
+            [](const QModelIndex &index) { deleteEvent(eventOf(index)); });
+    return view;
+}
+
+QFrame *MvCalendarEventListWidget::createHorizontalLine(QWidget *parent)
+{
+    auto *line = new QFrame(parent);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
+
+QPushButton *MvCalendarEventListWidget::createAddButton(const QString &text, const QString &name, QWidget *parent)
+{
+    auto *button = new QPushButton(MvIconRegistry::instance().icon(u"ico_common_plus_grey"_s), text, parent);
+    button->setObjectName(name);
+    button->setProperty("cssstyle", u"addEntryButton"_s);
+    return button;
+}
+
+QPushButton *MvCalendarEventListWidget::createNewEntryButton(QWidget *parent)
+{
+    QPushButton *button = createAddButton(tr("Eintrag hinzufügen..."), u"newEntryButton"_s, parent);
+    connect(button, &QPushButton::clicked, this, &MvCalendarEventListWidget::addNewCalenderEntryClicked);
+    return button;
+}
+
+QPushButton *MvCalendarEventListWidget::createImportFromContactsButton(QWidget *parent)
+{
+    QPushButton *button = createAddButton(tr("Aus Adressbuch importieren"), u"importFromContactsButton"_s, parent);
+    connect(button, &QPushButton::clicked, this, &MvCalendarEventListWidget::importFromContacts);
+    return button;
+}
+
+QPushButton *MvCalendarEventListWidget::changeEventListButton(QWidget *parent)
+{
+    auto *button = new QPushButton(tr("Andere Einträge…"), parent);
+    button->setObjectName(u"changeEventListButton"_s);
+    button->setProperty("cssstyle", u"hyperlinkStyle"_s);
+    button->setCursor(Qt::PointingHandCursor);
+    auto *menu = new QMenu(button);
+    menu->addAction(tr("Sichern"), this, &MvCalendarEventListWidget::saveEventList);
+    menu->addAction(tr("Laden…"), this, [this] { loadEventList(false); });
+    menu->addAction(tr("Hinzufügen…"), this, &MvCalendarEventListWidget::importEventList);
+    menu->addSeparator();
+    menu->addAction(tr("Alle löschen…"), this, &MvCalendarEventListWidget::clearEventList);
+    button->setMenu(menu);
+    return button;
+}
+
+// ---- single entries
+
+MvCalendarEventList MvCalendarEventListWidget::events() const
+{
+    return MvCalendarEventRegistry::instance().eventsOfCurrentProject();
+}
+
+void MvCalendarEventListWidget::addNewCalenderEntryClicked()
+{
+    auto *dialog = MvCalendarDayEditorDialog::createSelfDeleting(nullptr);
+    connect(dialog, &QDialog::accepted, this, &MvCalendarEventListWidget::calendarEventAdded);
+    const QDateTime now = QDateTime::currentDateTime();
+    dialog->openDayEditorSeries(MvCalendarEvent({}, now, true, MvFoto(), QUuid::createUuid(), now));
+}
+
+void MvCalendarEventListWidget::onTableViewContextMenuRequested(const QPoint &pos)
+{
+    const QModelIndex index = m_tableView->indexAt(pos);
+    if (!index.isValid() || index.column() == MvCalendarEventModel::EventColumn)
+        return;
+    const QVariant event = index.siblingAtColumn(MvCalendarEventModel::EventColumn).data();
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto addAction = [this, menu, &event](int type, void (MvCalendarEventListWidget::*slot)()) {
+        QAction *action = MvActionRegistry::instance().unregisteredAction(type, menu);
+        action->setData(event);
+        connect(action, &QAction::triggered, this, slot);
+        menu->addAction(action);
+    };
+    addAction(MvActionRegistry::EditCalendarEvent, &MvCalendarEventListWidget::editEntryActionTriggered);
+    addAction(MvActionRegistry::DeleteCalendarEvent, &MvCalendarEventListWidget::deleteActionTriggered);
+    menu->popup(m_tableView->viewport()->mapToGlobal(pos));
+}
+
+void MvCalendarEventListWidget::editEntryActionTriggered()
+{
+    if (const auto *action = qobject_cast<QAction *>(sender()))
+        editEvent(action->data().value<MvCalendarEvent>());
+}
+
+void MvCalendarEventListWidget::deleteActionTriggered()
+{
+    if (const auto *action = qobject_cast<QAction *>(sender()))
+        deleteEvent(action->data().value<MvCalendarEvent>());
+}
+
+// ---- lists
+
+/// One step for all of them.
+void MvCalendarEventListWidget::changeEvents(const QString &macro, const MvCalendarEventList &removed,
+                                             const MvCalendarEventList &added)
+{
+    using Group = MvUndoCommandCalendarEventGroup;
+    MvUndoController &undo = MvUndoController::instance();
+    if (removed.isEmpty() && added.isEmpty())
+        return;
+    undo.beginMacro(macro);
+    undo.push(new Group(Group::Begin));
+    for (const MvCalendarEvent &event : removed) {
+        if (event.isValid())
+            undo.push(new MvUndoCommandCalendarEvent(event, MvCalendarEvent(), nullptr));
+    }
+    for (const MvCalendarEvent &event : added)
+        undo.push(new MvUndoCommandCalendarEvent(MvCalendarEvent(), event, nullptr));
+    undo.push(new Group(Group::End));
+    undo.endMacro();
+}
+
+void MvCalendarEventListWidget::finishAdding()
+{
+    MvCalendarEventRegistry::instance().save();
+    Q_EMIT calendarEventAdded();
+}
+
+void MvCalendarEventListWidget::saveEventList()
+{
+    const auto save = [this](const QString &fileName) {
+        if (fileName.isEmpty())
+            return;
+        const auto &registry = MvCalendarEventRegistry::instance();
+        registry.saveAs(QFileInfo(fileName));
+        if (!registry.lastSaveError().isEmpty())
+            MvDiskAccessRequest::instance().writeCalendarEntriesFileFailed(fileName, registry.lastSaveError(), this);
+    };
+    MvDiskAccessRequest::instance().requestSaveFile(MvDiskAccessRequest::CalendarEntriesFile, tr("Kalendereinträge"),
+                                                    u"*.xml"_s, tr("Kalendereinträge") + u".xml"_s, this, save);
+}
+
+void MvCalendarEventListWidget::importEventList()
+{
+    loadEventList(true);
+}
+
+void MvCalendarEventListWidget::loadEventList(bool merge)
+{
+    const auto read = [this, merge](const QString &fileName) {
+        if (!fileName.isEmpty())
+            readEventList(fileName, merge);
+    };
+    MvDiskAccessRequest::instance().requestOpenFile(MvDiskAccessRequest::CalendarEntriesFile, tr("Kalendereinträge"),
+                                                    u"*.xml"_s, this, read);
+}
+
+void MvCalendarEventListWidget::readEventList(const QString &fileName, bool merge)
+{
+    MvLogger::legacyLog(u"CalendarEvents ACTION:loadFromFile MERGE:%1"_s.arg(merge ? u"set"_s : u"unset"_s));
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(fileName));
+    if (!content.isRead()) {
+        MvDiskAccessRequest::instance().readCalendarEntriesFileFailed(fileName, content.error, this);
+        return;
+    }
+    const MvCalendarEventList current = events();
+    if (merge)
+        changeEvents(u"loadEventList"_s, {},
+                     MvCalendarEventRegistry::instance().onlyNewEvents(current, content.events));
+    else
+        changeEvents(u"loadEventList"_s, current, content.events);
+    finishAdding();
+}
+
+void MvCalendarEventListWidget::clearEventList()
+{
+    const QString question = tr("Alle Einträge löschen?");
+    const auto clear = [this](bool yes) {
+        MvLogger::legacyLog(u"CalendarEvents ACTION:deleteAll VALUE:%1"_s.arg(int(yes)));
+        if (yes)
+            changeEvents(u"clearEventList"_s, events(), {});
+    };
+    MvYesNoRequest::instance().request(question, question, this, clear);
+}
+
+void MvCalendarEventListWidget::importFromContacts()
+{
+    auto &registry = MvCalendarEventRegistry::instance();
+    const MvCalendarEventList contacts = registry.loadFromSystemAddressBook();
+    const MvCalendarEventList current = events();
+    const MvCalendarEventList added = registry.onlyNewEvents(current, contacts);
+    if (!added.isEmpty()) {
+        changeEvents(u"loadEventList"_s, {}, added);
+        finishAdding();
+    }
+    MvLogger::legacyLog(
+        u"CalendarEvents ACTION:importFromAddressBook MERGE:%1 STARTCOUNT:%2 FOUNDINADDRESSBOOK:%3 IMPORTED:%4"_s.arg(
+            u"set"_s, QString::number(current.size()), QString::number(contacts.size()),
+            QString::number(added.size())));
+    registry.playImportedCustomerEntriesProactiveAdvice(int(contacts.size()), int(added.size()));
+}

@@ -1,0 +1,38 @@
+#include "MvCalendar/MvCalendarEventTextDelegate.h"
+
+#include "MvCalendar/MvCalendarEventModel.h"
+
+#include <QDate>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int padding = 16; // left and right together
+
+} // namespace
+
+MvCalendarEventTextDelegate::MvCalendarEventTextDelegate(QObject *parent)
+    : QStyledItemDelegate(parent)
+{}
+
+QString MvCalendarEventTextDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    return value.userType() == QMetaType::QDate ? value.toDate().toString(u"dd.MM.yyyy"_s)
+                                                : QStyledItemDelegate::displayText(value, locale).simplified();
+}
+
+/// Asked for every row of the list: no text is laid out.
+QSize MvCalendarEventTextDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const bool isDate = index.column() == MvCalendarEventModel::DateColumn;
+    const int width = isDate ? option.fontMetrics.horizontalAdvance(u"00.00.0000"_s) + padding : padding;
+    return {width, 2 * option.fontMetrics.height()};
+}
+
+void MvCalendarEventTextDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->state |= QStyle::State_Enabled;
+    option->palette.setCurrentColorGroup(option->state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive);
+}

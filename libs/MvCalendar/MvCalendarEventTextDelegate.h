@@ -1,0 +1,21 @@
+#pragma once
+
+#include "MvCalendar/mvcalendar_export.h"
+
+#include <QStyledItemDelegate>
+
+/// The date and the name of an entry in a list. The list's rows have no flags, but are not greyed out.
+class MVCALENDAR_EXPORT MvCalendarEventTextDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit MvCalendarEventTextDelegate(QObject *parent = nullptr);
+
+    /// Dates with all digits of their year: birthdays are of another century.
+    QString displayText(const QVariant &value, const QLocale &locale) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+};

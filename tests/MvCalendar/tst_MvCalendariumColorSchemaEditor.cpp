@@ -1,0 +1,360 @@
+#include "MvWidgetTest.h"
+
+#include "MvCalendar/MvCalendariumColorSchemaEditor.h"
+#include "MvCalendar/MvCalendariumColorSchemaModel.h"
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvGUIWidgets/MvColorDelegate.h"
+#include "MvGUIWidgets/MvColorPalettePopup.h"
+#include "MvGUIWidgets/MvColorSelectionButton.h"
+
+#include <QDomDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Model = MvCalendariumColorSchemaModel;
+
+const QColor red(200, 0, 0);
+
+MvCalendarCellColorKey key(MvCalendarCellTypeEnum type, MvParityLogicEnum parity = MvParityLogicEnum::even,
+                           MvCalendarCellColorRoleEnum role = MvCalendarCellColorRoleEnum::bgcolor)
+{
+    return {role, type, parity};
+}
+
+/// A month with days, or another layout, in colours in which nothing is like anything else.
+MvCalendariumAppearance createAppearance(const QString &layout = u"MONTH_GRID_CLASSIC"_s)
+{
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
+    MvCalendariumColorSchema schema;
+    const QList<MvCalendarCellType> types = MvCalendarCellType::allTypes().singleTypes();
+    for (int i = 0; i < types.size(); ++i) {
+        schema.setCellColor(QColor(200 + 2 * i, 250, 250),
+                            {MvCalendarCellColorRoleEnum::bgcolor, types[i], MvParityLogicEnum::both});
+        schema.setCellColor(Qt::black, {MvCalendarCellColorRoleEnum::textcolor, types[i], MvParityLogicEnum::both});
+    }
+    appearance.setColorSchema(schema);
+    return appearance;
+}
+
+int rowOf(const Model &model, MvCalendarCellTypeEnum type, MvParityLogicEnum parity = MvParityLogicEnum::both)
+{
+    for (int row = 0; row < model.rowCount(); ++row) {
+        if (model.cellType(row) == type && model.parity(row) == parity)
+            return row;
+    }
+    return -1;
+}
+
+bool paint(Model &model, MvCalendarCellTypeEnum type, const QColor &color,
+           MvParityLogicEnum parity = MvParityLogicEnum::both)
+{
+    return model.setData(model.index(rowOf(model, type, parity), Model::BackgroundColumn), color);
+}
+
+} // namespace
+
+class tst_MvCalendariumColorSchemaEditor : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void rowsAreTheRenderersTypes_data();
+    void rowsAreTheRenderersTypes();
+    void settingAColor();
+    void couplingHolds_data();
+    void couplingHolds();
+    void couplingEndsByAColorOfItsOwn();
+    void weeksAlternate();
+    void contrast_data();
+    void contrast();
+    void choosingInTheTable();
+    void boxesFollowTheAppearance();
+    void boxesChangeTheSchema();
+    void controlsByLayout_data();
+    void controlsByLayout();
+    void equalAppearanceChangesNothing();
+};
+
+void tst_MvCalendariumColorSchemaEditor::rowsAreTheRenderersTypes_data()
+{
+    QTest::addColumn<QString>("layout");
+    for (const QString &layout : {u"MONTH_GRID_CLASSIC"_s, u"MONTH_ONLY"_s, u"FAMILY_PLANNER"_s, u"HOLIDAY_BLOCK"_s})
+        QTest::newRow(qPrintable(layout)) << layout;
+}
+
+void tst_MvCalendariumColorSchemaEditor::rowsAreTheRenderersTypes()
+{
+    QFETCH(QString, layout);
+    Model model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const MvCalendariumAppearance appearance = createAppearance(layout);
+    model.setAppearance(appearance);
+    const QList<MvCalendarCellType> types = MvCalendariumRendererFactory::instance().usedCellTypes(appearance);
+    QVERIFY(!types.isEmpty());
+    QCOMPARE(model.rowCount(), types.size());
+    for (int row = 0; row < model.rowCount(); ++row) {
+        QCOMPARE(model.cellType(row), types[row]);
+        QCOMPARE(model.index(row, Model::TypeColumn).data().toString(), types[row].description());
+        QVERIFY(!types[row].description().isEmpty());
+    }
+    model.setUseParityLogic(true);
+    QVERIFY(model.rowCount() >= types.size());
+    model.setAppearance(createAppearance(u"MONTH_ONLY"_s));
+    model.setUseParityLogic(true);
+    model.setUseParityLogic(false);
+}
+
+void tst_MvCalendariumColorSchemaEditor::settingAColor()
+{
+    Model model;
+    model.setAppearance(createAppearance());
+    QSignalSpy changed(&model, &Model::schemaChanged);
+    QVERIFY(paint(model, CALENDAR_CELL_TYPE_WEEKDAY, red));
+    QCOMPARE(changed.size(), 1);
+    for (const MvParityLogicEnum parity : {MvParityLogicEnum::even, MvParityLogicEnum::odd})
+        QCOMPARE(model.colorSchema().cellColor(key(CALENDAR_CELL_TYPE_WEEKDAY, parity)), red);
+    QVERIFY(paint(model, CALENDAR_CELL_TYPE_WEEKDAY, red)); // the same again
+    QVERIFY(!paint(model, CALENDAR_CELL_TYPE_WEEKDAY, QColor()));
+    QVERIFY(!model.setData(model.index(0, Model::TypeColumn), red));
+    QVERIFY(!model.setData({}, red));
+    QCOMPARE(changed.size(), 1);
+
+    MvCalendariumAppearance saved = model.appearance(); // the colours travel with the page
+    QDomDocument document;
+    QDomElement element = document.createElement(u"calendarium"_s);
+    saved.write(element, true);
+    const MvCalendariumAppearance read(element, false, nullptr);
+    QCOMPARE(read.cellColor(key(CALENDAR_CELL_TYPE_WEEKDAY)), red);
+}
+
+void tst_MvCalendariumColorSchemaEditor::couplingHolds_data()
+{
+    QTest::addColumn<int>("source");
+    QTest::addColumn<int>("follower");
+    QTest::addColumn<bool>("vacations");
+    QTest::newRow("vacations") << int(CALENDAR_CELL_TYPE_SATURDAY) << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION) << true;
+    QTest::newRow("holidays") << int(CALENDAR_CELL_TYPE_SUNDAY) << int(CALENDAR_CELL_TYPE_HOLIDAY) << false;
+}
+
+void tst_MvCalendariumColorSchemaEditor::couplingHolds()
+{
+    QFETCH(int, source);
+    QFETCH(int, follower);
+    QFETCH(bool, vacations);
+    const auto sourceType = static_cast<MvCalendarCellTypeEnum>(source);
+    const auto followerType = static_cast<MvCalendarCellTypeEnum>(follower);
+    Model model;
+    model.setAppearance(createAppearance());
+    const QColor own = model.colorSchema().cellColor(key(followerType));
+    const auto treatAlike = [&](bool on) {
+        vacations ? model.setTreatVacationsLikeSaturdays(on) : model.setTreatHolidaysLikeSundays(on);
+    };
+    QSignalSpy state(&model, vacations ? &Model::vacationsLikeSaturdaysChanged : &Model::holidaysLikeSundaysChanged);
+    QSignalSpy changed(&model, &Model::schemaChanged);
+    paint(model, sourceType, red);
+    QCOMPARE(model.colorSchema().cellColor(key(followerType)), own); // not yet
+    treatAlike(true);
+    QCOMPARE(state.takeFirst().first().toBool(), true);
+    QVERIFY(model.colorSchema().haveSameColors(sourceType, followerType));
+    paint(model, sourceType, Qt::green);
+    QCOMPARE(model.colorSchema().cellColor(key(followerType)), QColor(Qt::green));
+    QCOMPARE(changed.size(), 3);
+    treatAlike(false);
+    QCOMPARE(state.takeFirst().first().toBool(), false);
+    QCOMPARE(model.colorSchema().cellColor(key(followerType)), own);
+    QCOMPARE(model.colorSchema().cellColor(key(sourceType)), QColor(Qt::green));
+}
+
+void tst_MvCalendariumColorSchemaEditor::couplingEndsByAColorOfItsOwn()
+{
+    Model model;
+    MvCalendariumAppearance appearance = createAppearance();
+    appearance.copyColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY);
+    QSignalSpy state(&model, &Model::holidaysLikeSundaysChanged);
+    model.setAppearance(appearance);
+    QCOMPARE(state.takeFirst().first().toBool(), true);
+    paint(model, CALENDAR_CELL_TYPE_HOLIDAY, red);
+    QCOMPARE(state.takeFirst().first().toBool(), false);
+    paint(model, CALENDAR_CELL_TYPE_SUNDAY, Qt::green);
+    QCOMPARE(model.colorSchema().cellColor(key(CALENDAR_CELL_TYPE_HOLIDAY)), red);
+}
+
+void tst_MvCalendariumColorSchemaEditor::weeksAlternate()
+{
+    Model model;
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const MvCalendariumAppearance before = createAppearance();
+    model.setAppearance(before);
+    QSignalSpy changed(&model, &Model::schemaChanged);
+    model.setUseParityLogic(true);
+    QVERIFY(model.colorSchema().distinguishesParities()); // to be seen at once
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(rowOf(model, CALENDAR_CELL_TYPE_WEEKDAY), -1);
+    QVERIFY(rowOf(model, CALENDAR_CELL_TYPE_TITLE) >= 0); // belongs to no week
+
+    QVERIFY(paint(model, CALENDAR_CELL_TYPE_WEEKDAY, red, MvParityLogicEnum::odd));
+    const QColor even = before.cellColor(key(CALENDAR_CELL_TYPE_WEEKDAY));
+    QCOMPARE(model.colorSchema().cellColor(key(CALENDAR_CELL_TYPE_WEEKDAY)), even);
+    QCOMPARE(model.index(rowOf(model, CALENDAR_CELL_TYPE_WEEKDAY, MvParityLogicEnum::odd), 1).data(Qt::EditRole), red);
+
+    model.setUseParityLogic(false);
+    QVERIFY(model.colorSchema() == before.colorSchema());
+    QVERIFY(rowOf(model, CALENDAR_CELL_TYPE_WEEKDAY) >= 0);
+    model.setUseParityLogic(true);
+    QCOMPARE(model.colorSchema().cellColor(key(CALENDAR_CELL_TYPE_WEEKDAY, MvParityLogicEnum::odd)), red);
+}
+
+void tst_MvCalendariumColorSchemaEditor::contrast_data()
+{
+    QTest::addColumn<QColor>("text");
+    QTest::addColumn<QColor>("background");
+    QTest::addColumn<QString>("warning");
+    const QString low = u"Kontrast %1 : 1, empfohlen mindestens 4,5 : 1"_s;
+    QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << QString();
+    QTest::newRow("just below, by WCAG's own example")
+        << QColor(0x77, 0x77, 0x77) << QColor(Qt::white) << low.arg(u"4,4"_s);
+    QTest::newRow("just enough") << QColor(0x76, 0x76, 0x76) << QColor(Qt::white) << QString();
+    QTest::newRow("white on white paper") << QColor(Qt::white) << QColor(Qt::transparent) << low.arg(u"1,0"_s);
+    QTest::newRow("not to be seen") << QColor(Qt::transparent) << QColor(Qt::white) << QString();
+}
+
+void tst_MvCalendariumColorSchemaEditor::contrast()
+{
+    QFETCH(QColor, text);
+    QFETCH(QColor, background);
+    QFETCH(QString, warning);
+    MvCalendariumAppearance appearance = createAppearance();
+    appearance.setCellColor(Qt::transparent, key(CALENDAR_CELL_TYPE_EMPTY, MvParityLogicEnum::both));
+    appearance.setCellColor(
+        text, key(CALENDAR_CELL_TYPE_WEEKDAY, MvParityLogicEnum::both, MvCalendarCellColorRoleEnum::textcolor));
+    appearance.setCellColor(background, key(CALENDAR_CELL_TYPE_WEEKDAY, MvParityLogicEnum::both));
+    Model model;
+    model.setAppearance(appearance);
+    const QModelIndex cell = model.index(rowOf(model, CALENDAR_CELL_TYPE_WEEKDAY), Model::TextColumn);
+    QCOMPARE(cell.data(Qt::AccessibleDescriptionRole).toString(), warning);
+    QCOMPARE(cell.data(MvColorDelegate::WarningRole).toBool(), !warning.isEmpty());
+    QVERIFY(cell.data(Qt::ToolTipRole).toString().endsWith(warning));
+    QVERIFY(!cell.data(Qt::AccessibleTextRole).toString().isEmpty());
+}
+
+void tst_MvCalendariumColorSchemaEditor::choosingInTheTable()
+{
+    MvCalendariumColorSchemaEditor editor;
+    editor.setAppearance(createAppearance());
+    editor.show();
+    QSignalSpy changed(&editor, &MvCalendariumColorSchemaEditor::schemaChanged);
+    auto *view = editor.findChild<QTableView *>(u"tableView"_s);
+    const auto &model = *qobject_cast<Model *>(view->model());
+    view->setCurrentIndex(model.index(rowOf(model, CALENDAR_CELL_TYPE_SUNDAY), Model::TypeColumn));
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Space);
+    auto *palette = qobject_cast<MvColorPalettePopup *>(QApplication::activePopupWidget());
+    QVERIFY(palette);
+    QTest::mouseClick(palette->findChild<QPushButton *>(u"transparentButton"_s), Qt::LeftButton);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(editor.colorSchema().cellColor(key(CALENDAR_CELL_TYPE_SUNDAY)).alpha(), 0);
+    QVERIFY(editor.appearance().colorSchema() == changed[0][0].value<MvCalendariumColorSchema>());
+}
+
+void tst_MvCalendariumColorSchemaEditor::boxesFollowTheAppearance()
+{
+    MvCalendariumColorSchemaEditor editor;
+    MvCalendariumAppearance appearance = createAppearance();
+    editor.setAppearance(appearance);
+    const auto isChecked = [&editor](const QString &name) { return editor.findChild<QCheckBox *>(name)->isChecked(); };
+    auto *button = editor.findChild<MvColorSelectionButton *>(u"gridColorButton"_s);
+    for (const QString &name :
+         {u"vacationsLikeSaturdaysBox"_s, u"holidaysLikeSundaysBox"_s, u"parityBox"_s, u"showGridBox"_s})
+        QVERIFY2(!isChecked(name), qPrintable(name));
+    QVERIFY(!button->isEnabled());
+
+    appearance.copyColors(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION);
+    appearance.copyColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY);
+    appearance.setCellColor(red, key(CALENDAR_CELL_TYPE_WEEKDAY, MvParityLogicEnum::odd));
+    appearance.setGridConfig(MvBorderConfig(red, MvDistance(2.0), BORDER_POSITION_CENTRED, true));
+    editor.setAppearance(appearance);
+    for (const QString &name :
+         {u"vacationsLikeSaturdaysBox"_s, u"holidaysLikeSundaysBox"_s, u"parityBox"_s, u"showGridBox"_s})
+        QVERIFY2(isChecked(name), qPrintable(name));
+    QVERIFY(button->isEnabled());
+    QCOMPARE(button->color(), red);
+}
+
+void tst_MvCalendariumColorSchemaEditor::boxesChangeTheSchema()
+{
+    MvCalendariumColorSchemaEditor editor;
+    editor.setAppearance(createAppearance());
+    QSignalSpy changed(&editor, &MvCalendariumColorSchemaEditor::schemaChanged);
+    QSignalSpy vacations(&editor, &MvCalendariumColorSchemaEditor::vacationsLikeSaturdaysChangedByUser);
+    QSignalSpy holidays(&editor, &MvCalendariumColorSchemaEditor::holidaysLikeSundaysChangedByUser);
+    const auto press = [&editor](const QString &name) {
+        QTest::keyClick(editor.findChild<QWidget *>(name), Qt::Key_Space);
+    };
+    press(u"vacationsLikeSaturdaysBox"_s);
+    QVERIFY(editor.haveSameColors(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION));
+    QCOMPARE(vacations.size(), 1);
+    press(u"holidaysLikeSundaysBox"_s);
+    QVERIFY(editor.haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY));
+    QCOMPARE(holidays.size(), 1);
+    press(u"parityBox"_s);
+    QVERIFY(editor.colorSchema().distinguishesParities());
+    press(u"showGridBox"_s);
+    QVERIFY(editor.colorSchema().gridConfig().isEnabled());
+    QCOMPARE(changed.size(), 4);
+
+    editor.show();
+    press(u"gridColorButton"_s);
+    QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Space);
+    QCOMPARE(changed.size(), 5);
+    QVERIFY(editor.colorSchema().gridConfig().color() != QColor(Qt::black));
+    QVERIFY(editor.colorSchema().gridConfig().isEnabled());
+}
+
+void tst_MvCalendariumColorSchemaEditor::controlsByLayout_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<bool>("hasGrid");
+    QTest::addColumn<bool>("hasDays");
+    QTest::newRow("month grid") << u"MONTH_GRID_CLASSIC"_s << true << true;
+    QTest::newRow("month only") << u"MONTH_ONLY"_s << false << false;
+}
+
+void tst_MvCalendariumColorSchemaEditor::controlsByLayout()
+{
+    QFETCH(QString, layout);
+    QFETCH(bool, hasGrid);
+    QFETCH(bool, hasDays);
+    MvCalendariumColorSchemaEditor editor;
+    editor.setAppearance(createAppearance(layout));
+    for (const QString &name : {u"showGridBox"_s, u"gridColorButton"_s})
+        QCOMPARE(editor.findChild<QWidget *>(name)->isHidden(), !hasGrid);
+    for (const QString &name : {u"vacationsLikeSaturdaysBox"_s, u"holidaysLikeSundaysBox"_s})
+        QCOMPARE(editor.findChild<QWidget *>(name)->isHidden(), !hasDays);
+}
+
+void tst_MvCalendariumColorSchemaEditor::equalAppearanceChangesNothing()
+{
+    MvCalendariumColorSchemaEditor editor;
+    editor.setAppearance(createAppearance());
+    QSignalSpy changed(&editor, &MvCalendariumColorSchemaEditor::schemaChanged);
+    auto *box = editor.findChild<QCheckBox *>(u"parityBox"_s);
+    box->click();
+    auto *view = editor.findChild<QTableView *>(u"tableView"_s);
+    const int rows = view->model()->rowCount();
+    editor.setAppearance(editor.appearance()); // as a page that has taken the change over
+    QVERIFY(box->isChecked());
+    QCOMPARE(view->model()->rowCount(), rows);
+    QCOMPARE(changed.size(), 1);
+    editor.setAppearance(createAppearance()); // as after undo
+    QVERIFY(!box->isChecked());
+    QCOMPARE(changed.size(), 1);
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvCalendariumColorSchemaEditor)
+#include "tst_MvCalendariumColorSchemaEditor.moc"

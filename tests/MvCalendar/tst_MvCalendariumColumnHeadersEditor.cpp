@@ -1,0 +1,91 @@
+#include "MvWidgetTest.h"
+
+#include "MvCalendar/MvCalendariumColumnHeadersEditor.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList three{u"Anna"_s, u"Bernd"_s, u"Familie"_s};
+
+} // namespace
+
+class tst_MvCalendariumColumnHeadersEditor : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void count_data();
+    void count();
+    void settingIsSilent();
+    void longAndEmptyLists();
+    void typing();
+};
+
+void tst_MvCalendariumColumnHeadersEditor::count_data()
+{
+    QTest::addColumn<QString>("count");
+    QTest::addColumn<QStringList>("headers");
+    QTest::newRow("more") << u"5"_s << (three + QStringList{QString(), QString()});
+    QTest::newRow("fewer") << u"1"_s << QStringList{u"Anna"_s};
+}
+
+void tst_MvCalendariumColumnHeadersEditor::count()
+{
+    QFETCH(QString, count);
+    QFETCH(QStringList, headers);
+    MvCalendariumColumnHeadersEditor editor;
+    editor.setHeaders(three);
+    QSignalSpy changed(&editor, &MvCalendariumColumnHeadersEditor::headersChanged);
+    auto *box = editor.findChild<QSpinBox *>(u"countColumnsBox"_s);
+    box->selectAll();
+    QTest::keyClicks(box, count);
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(editor.headers(), headers);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.first().first().value<QList<QString>>(), headers);
+}
+
+void tst_MvCalendariumColumnHeadersEditor::settingIsSilent()
+{
+    MvCalendariumColumnHeadersEditor editor;
+    QSignalSpy changed(&editor, &MvCalendariumColumnHeadersEditor::headersChanged);
+    editor.setHeaders(three);
+    QVERIFY(changed.isEmpty());
+    QVERIFY(!editor.signalsBlocked());
+    QCOMPARE(editor.findChild<QSpinBox *>(u"countColumnsBox"_s)->value(), 3);
+    editor.blockSignals(true);
+    editor.setHeaders({});
+    QVERIFY(editor.signalsBlocked());
+}
+
+void tst_MvCalendariumColumnHeadersEditor::longAndEmptyLists()
+{
+    MvCalendariumColumnHeadersEditor editor;
+    const QStringList many(25, u"Spalte"_s); // more than a user may ask for
+    editor.setHeaders(many);
+    QCOMPARE(editor.headers(), many);
+    editor.setHeaders({});
+    QCOMPARE(editor.headers().join(u"$$"_s), QString());
+    QCOMPARE(editor.findChild<QListView *>()->model()->rowCount(), 1); // something to type into
+    QCOMPARE(editor.findChild<QSpinBox *>()->maximum(), 20);
+}
+
+void tst_MvCalendariumColumnHeadersEditor::typing()
+{
+    MvCalendariumColumnHeadersEditor editor;
+    editor.setHeaders(three);
+    editor.show();
+    QSignalSpy changed(&editor, &MvCalendariumColumnHeadersEditor::headersChanged);
+    auto *list = editor.findChild<QListView *>(u"columnHeadersList"_s);
+    list->setCurrentIndex(list->model()->index(1, 0)); // opens the field by itself
+    auto *field = list->findChild<QLineEdit *>();
+    QVERIFY(field);
+    QTest::keyClicks(field, u"Bruno"_s);
+    QTest::keyClick(field, Qt::Key_Return);
+    QTRY_COMPARE(changed.size(), 1);
+    QCOMPARE(editor.headers(), (QStringList{u"Anna"_s, u"Bruno"_s, u"Familie"_s}));
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvCalendariumColumnHeadersEditor)
+#include "tst_MvCalendariumColumnHeadersEditor.moc"

@@ -1,0 +1,200 @@
+#include "MvWidgetTest.h"
+
+#include "MvCalendar/MvCalendariumContentConfigEditor.h"
+#include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvCore/MvLogger.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const MvLocale germany(u"de_DE"_s);
+
+MvCalendariumContentConfig config(const QString &province, int features, const MvLocale &language = germany)
+{
+    return {QDate(2027, 5, 1), MvCalendariumHolidayConfig(language, province, MvCalendariumFeatures(features))};
+}
+
+bool hasHoliday(const MvCalendariumContentConfig &config, const QDate &date, const QString &name)
+{
+    const MvCalendariumHolidayList holidays = MvCalendariumHolidayCache::instance().holidays(config.moveToDay(date));
+    return std::any_of(holidays.cbegin(), holidays.cend(),
+                       [&name](const MvCalendariumHoliday &holiday) { return holiday.description() == name; });
+}
+
+} // namespace
+
+class tst_MvCalendariumContentConfigEditor : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { MvLogger::instance().setSink({}); }
+
+    void roundTrip_data();
+    void roundTrip();
+    void regionsHaveNamesAndGiveTheirHolidays();
+    void whatIsNotOffered();
+    void provinceBoxIsEnabled_data();
+    void provinceBoxIsEnabled();
+    void monthsThatDoNotExist();
+    void changesOfTheUser();
+    void loadingIsSilent();
+    void wheelChangesNothing();
+};
+
+void tst_MvCalendariumContentConfigEditor::roundTrip_data()
+{
+    QTest::addColumn<int>("given");
+    QTest::addColumn<int>("features");
+    QTest::newRow("none") << 0 << 0;
+    QTest::newRow("holidays bring colours and vacations") << 1 << (1 | 2 | 8);
+    QTest::newRow("vacations without holidays") << 8 << 0;
+    QTest::newRow("entries") << 4 << 4;
+    QTest::newRow("what has no box is kept") << (4 | 32 | 64) << (4 | 32 | 64);
+}
+
+void tst_MvCalendariumContentConfigEditor::roundTrip()
+{
+    QFETCH(int, given);
+    QFETCH(int, features);
+    MvCalendariumContentConfigEditor editor;
+    MvCalendariumContentConfig before = config(u"BY"_s, given);
+    before.setDate(QDate(1999, 12, 24));
+    editor.setContentConfig(before);
+    MvCalendariumContentConfig expected = config(u"BY"_s, features);
+    expected.setDate(QDate(1999, 12, 1));
+    QVERIFY(editor.contentConfig() == expected);
+}
+
+void tst_MvCalendariumContentConfigEditor::regionsHaveNamesAndGiveTheirHolidays()
+{
+    const QDate corpusChristi(2027, 5, 27); // a holiday in Bavaria, not in Berlin
+    MvCalendariumContentConfigEditor editor;
+    editor.setContentConfig(config(u"BE"_s, 1));
+    QCOMPARE(editor.province(), u"Berlin"_s);
+    QVERIFY(!hasHoliday(editor.contentConfig(), corpusChristi, u"Fronleichnam"_s));
+    QSignalSpy changed(&editor, &MvCalendariumContentConfigEditor::onChanged);
+    auto *box = editor.findChild<QComboBox *>(u"provinceBox"_s);
+    QTest::keyClicks(box, u"Bay"_s);
+    QCOMPARE(editor.province(), u"Bayern"_s);
+    QVERIFY(!changed.isEmpty());
+    QVERIFY(hasHoliday(editor.contentConfig(), corpusChristi, u"Fronleichnam"_s));
+    editor.setProvince(germany, u"Sachsen"_s); // by name
+    QCOMPARE(editor.holidayConfig().province(), u"SN"_s);
+}
+
+void tst_MvCalendariumContentConfigEditor::whatIsNotOffered()
+{
+    MvCalendariumContentConfigEditor editor;
+    editor.setContentConfig(config(u"Atlantis"_s, 1));
+    QCOMPARE(editor.findChild<QComboBox *>(u"provinceBox"_s)->currentIndex(), -1);
+    QCOMPARE(editor.holidayConfig().province(), QString());
+
+    const MvLocale unknown(u"is_IS"_s);
+    QVERIFY(!editor.availableLanguages().contains(unknown));
+    editor.setContentConfig(config(QString(), 1, unknown));
+    QCOMPARE(editor.findChild<QComboBox *>(u"languageBox"_s)->currentIndex(), -1);
+    QCOMPARE(editor.holidayConfig().language(), unknown); // kept until the user chooses
+    QCOMPARE(editor.findChild<QComboBox *>(u"provinceBox"_s)->count(), 0);
+}
+
+void tst_MvCalendariumContentConfigEditor::provinceBoxIsEnabled_data()
+{
+    QTest::addColumn<bool>("hasRegions");
+    QTest::newRow("regions") << true;
+    QTest::newRow("one region or none") << false;
+}
+
+void tst_MvCalendariumContentConfigEditor::provinceBoxIsEnabled()
+{
+    QFETCH(bool, hasRegions);
+    MvCalendariumContentConfigEditor editor;
+    const QList<MvLocale> languages = editor.availableLanguages();
+    const auto language = std::find_if(languages.cbegin(), languages.cend(), [&](const MvLocale &candidate) {
+        return (MvCalendariumHolidayCache::instance().availableProvinces(candidate).size() > 1) == hasRegions;
+    });
+    if (language == languages.cend())
+        QSKIP("no such country");
+    auto *province = editor.findChild<QComboBox *>(u"provinceBox"_s);
+    auto *holidays = editor.findChild<QCheckBox *>(u"holidayCheckBox"_s);
+    editor.setContentConfig(config(QString(), 0, *language));
+    QVERIFY(!province->isEnabled());
+    QTest::keyClick(holidays, Qt::Key_Space);
+    QCOMPARE(province->isEnabled(), hasRegions);
+    QTest::keyClick(holidays, Qt::Key_Space);
+    QVERIFY(!province->isEnabled());
+}
+
+void tst_MvCalendariumContentConfigEditor::monthsThatDoNotExist()
+{
+    MvCalendariumContentConfigEditor editor;
+    editor.setMonth(6);
+    for (const int month : {-1, 0, 13, 14}) {
+        editor.setMonth(month);
+        QCOMPARE(editor.month(), 6);
+    }
+    editor.setStartDate(QDate());
+    QCOMPARE(editor.month(), 6);
+    QCOMPARE(editor.year(), MvDateRange::createDefaultCalendarStart().year());
+}
+
+void tst_MvCalendariumContentConfigEditor::changesOfTheUser()
+{
+    MvCalendariumContentConfigEditor editor;
+    editor.setContentConfig(config(u"BY"_s, 1));
+    QStringList lines;
+    MvLogger::instance().setSink([&lines](const QString &line) { lines.append(line); });
+    QSignalSpy changed(&editor, &MvCalendariumContentConfigEditor::onChanged);
+    const auto expect = [&](const QStringList &expected) {
+        const bool isExpected = lines == expected && changed.size() == 1;
+        if (!isExpected)
+            qDebug() << lines << changed.size();
+        lines.clear();
+        changed.clear();
+        return isExpected;
+    };
+    const QString line = u"changeFeature NAME:%1 FROM:%2 TO:%3"_s;
+    QTest::keyClick(editor.findChild<QCheckBox *>(u"personalEntriesCheckBox"_s), Qt::Key_Space);
+    QVERIFY(expect({line.arg(u"entries"_s, u"holidays,holidayColors,schoolVacations"_s,
+                             u"holidays,holidayColors,entries,schoolVacations"_s)}));
+    QTest::keyClick(editor.findChild<QComboBox *>(u"monthBox"_s), Qt::Key_Down);
+    QVERIFY(expect({line.arg(u"month"_s, u"5"_s, u"6"_s)}));
+    QTest::keyClick(editor.findChild<QSpinBox *>(u"yearBox"_s), Qt::Key_Up);
+    QCoreApplication::processEvents();
+    QVERIFY(expect({line.arg(u"year"_s, u"2027"_s, u"2028"_s)}));
+    QTest::keyClicks(editor.findChild<QComboBox *>(u"languageBox"_s), u"Öst"_s);
+    QVERIFY(expect({line.arg(u"language"_s, u"de_DE"_s, u"de_AT"_s), line.arg(u"province"_s, u"BY"_s, QString())}));
+    QTest::keyClick(editor.findChild<QCheckBox *>(u"holidayCheckBox"_s), Qt::Key_Space);
+    QVERIFY(expect({line.arg(u"entries"_s, u"holidays,holidayColors,entries,schoolVacations"_s, u"entries"_s)}));
+}
+
+void tst_MvCalendariumContentConfigEditor::loadingIsSilent()
+{
+    MvCalendariumContentConfigEditor editor;
+    editor.setContentConfig(config(u"BY"_s, 1));
+    QStringList lines;
+    MvLogger::instance().setSink([&lines](const QString &line) { lines.append(line); });
+    QSignalSpy changed(&editor, &MvCalendariumContentConfigEditor::onChanged);
+    MvCalendariumContentConfig other = config(u"9"_s, 4, MvLocale(u"de_AT"_s));
+    other.setDate(QDate(2031, 8, 1));
+    editor.setContentConfig(other);
+    QCoreApplication::processEvents(); // the year's change would come late
+    QCOMPARE(lines, QStringList());
+    QCOMPARE(changed.size(), 0);
+}
+
+void tst_MvCalendariumContentConfigEditor::wheelChangesNothing()
+{
+    MvCalendariumContentConfigEditor editor;
+    editor.setContentConfig(config(u"BY"_s, 1));
+    const MvCalendariumContentConfig before = editor.contentConfig();
+    for (const QString &name : {u"yearBox"_s, u"monthBox"_s, u"languageBox"_s, u"provinceBox"_s}) {
+        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(editor.findChild<QWidget *>(name), &wheel);
+    }
+    QVERIFY(editor.contentConfig() == before);
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvCalendariumContentConfigEditor)
+#include "tst_MvCalendariumContentConfigEditor.moc"

@@ -1,0 +1,98 @@
+#include "MvWidgetTest.h"
+
+#include "MvCalendar/MvCalendariumFontEditor.h"
+#include "MvGUIWidgets/MvFontFamilyBox.h"
+#include "MvModelBase/MvFontTester.h"
+
+using namespace Qt::StringLiterals;
+
+class tst_MvCalendariumFontEditor : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void settingsRoundTrip_data();
+    void settingsRoundTrip();
+    void everyEditIsReportedOnce();
+    void wheelChangesNothing();
+    void symbolsAreNoGoodFonts();
+};
+
+void tst_MvCalendariumFontEditor::settingsRoundTrip_data()
+{
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<int>("holidaySize");
+    QTest::newRow("the layout's own") << QString() << 0 << -50;
+    QTest::newRow("largest and smallest") << u"Lato"_s << 200 << -70;
+    QTest::newRow("a font of another computer") << u"Nirgendwo Antiqua"_s << 20 << 0;
+}
+
+void tst_MvCalendariumFontEditor::settingsRoundTrip()
+{
+    QFETCH(QString, family);
+    QFETCH(int, size);
+    QFETCH(int, holidaySize);
+    MvCalendariumFontEditor editor;
+    QVERIFY(editor.currentSettings() == MvCalendariumFontSettings());
+    const MvCalendariumFontSettings settings(family, size, holidaySize, QFont::DemiBold, QFont::SmallCaps, 1.5);
+    editor.setFontSettings(settings);
+    QVERIFY(editor.currentSettings() == settings);
+    QCOMPARE(editor.findChild<QSpinBox *>(u"fontSizeBox"_s)->value(), size + 100);
+    QCOMPARE(editor.findChild<QSpinBox *>(u"holidayFontSizeBox"_s)->value(), holidaySize + 100);
+}
+
+void tst_MvCalendariumFontEditor::everyEditIsReportedOnce()
+{
+    MvCalendariumFontEditor editor;
+    editor.setFontSettings({u"Nirgendwo"_s, 0, -50, QFont::Bold, QFont::AllUppercase, 2.0});
+    QList<MvCalendariumFontSettings> reported;
+    connect(&editor, &MvCalendariumFontEditor::fontSettingsChanged, this,
+            [&reported](const MvCalendariumFontSettings &settings) { reported.append(settings); });
+    const auto expect = [&](const QString &family, int size, int holidaySize) {
+        const MvCalendariumFontSettings expected(family, size, holidaySize, QFont::Bold, QFont::AllUppercase, 2.0);
+        return reported.size() == 1 && reported.takeFirst() == expected;
+    };
+    QTest::keyClick(editor.findChild<QSpinBox *>(u"fontSizeBox"_s), Qt::Key_Up);
+    QVERIFY(expect(u"Nirgendwo"_s, 10, -50));
+    QTest::keyClick(editor.findChild<QSpinBox *>(u"holidayFontSizeBox"_s), Qt::Key_Down);
+    QVERIFY(expect(u"Nirgendwo"_s, 10, -60));
+    auto *box = editor.findChild<MvFontFamilyBox *>();
+    box->lineEdit()->selectAll();
+    QTest::keyClick(box->lineEdit(), Qt::Key_Delete);
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    QVERIFY(expect(QString(), 10, -60));
+}
+
+void tst_MvCalendariumFontEditor::wheelChangesNothing()
+{
+    MvCalendariumFontEditor editor;
+    auto *box = editor.findChild<QSpinBox *>(u"fontSizeBox"_s);
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(box, &wheel);
+    QCOMPARE(box->value(), 100);
+}
+
+void tst_MvCalendariumFontEditor::symbolsAreNoGoodFonts()
+{
+    MvFontTester tester;
+    QVERIFY(!tester.updateWasRun());
+    tester.updateFonts();
+    QVERIFY(tester.updateWasRun());
+    const QStringList installed = QFontDatabase::families();
+    const QStringList good = tester.goodFonts();
+    int asked = 0;
+    for (const QString &family : installed) {
+        const bool isText = family == u"Lato"_s || family.startsWith(u"EB Garamond"_s);
+        const bool isPictures = family.startsWith(u"D050000L"_s) || family.startsWith(u"Standard Symbols"_s);
+        if (!isText && !isPictures)
+            continue;
+        QVERIFY2(good.contains(family) == isText, qPrintable(family));
+        ++asked;
+    }
+    if (asked == 0)
+        QSKIP("none of the fonts that are known is installed");
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvCalendariumFontEditor)
+#include "tst_MvCalendariumFontEditor.moc"
