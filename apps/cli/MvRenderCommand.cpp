@@ -64,10 +64,10 @@ QString MvRenderCommand::summary() const
 
 QList<MvCliOption> MvRenderCommand::options() const
 {
-    return {{u"project"_s, u"DATEI"_s, tr("ein Projekt; Zeitraum, Feiertage, Aussehen, Fotos und Papier stehen darin")},
-            {u"year"_s, u"JAHR"_s, tr("Januar bis Dezember dieses Jahres (das kommende)")},
-            {u"from"_s, u"JAHR-MONAT"_s, tr("erster Monat, statt --year")},
-            {u"months"_s, u"ZAHL"_s, tr("wie viele Monate ab --from (12)")},
+    return {{u"project"_s, tr("DATEI"), tr("ein Projekt; Zeitraum, Feiertage, Aussehen, Fotos und Papier stehen darin")},
+            {u"year"_s, tr("JAHR"), tr("Januar bis Dezember dieses Jahres (das kommende)")},
+            {u"from"_s, tr("JAHR-MONAT"), tr("erster Monat, statt --year")},
+            {u"months"_s, tr("ZAHL"), tr("wie viele Monate ab --from (12)")},
             countryOption(),
             languageOption(),
             regionOption(),
@@ -76,20 +76,20 @@ QList<MvCliOption> MvRenderCommand::options() const
             {u"no-holidays"_s, {}, tr("keine Feiertage")},
             {u"layout"_s, u"ID"_s, tr("Layout, siehe layouts")},
             {u"colors"_s, u"ID"_s, tr("Farbschema, siehe colors")},
-            {u"columns"_s, u"NAMEN"_s, tr("Spalten einer Tagesliste, mit Kommas getrennt, statt der des Layouts")},
-            {u"font"_s, u"FAMILIE"_s, tr("Schriftfamilie statt der des Layouts")},
+            {u"columns"_s, tr("NAMEN"), tr("Spalten einer Tagesliste, mit Kommas getrennt, statt der des Layouts")},
+            {u"font"_s, tr("FAMILIE"), tr("Schriftfamilie statt der des Layouts")},
             {u"page"_s, u"FORMAT"_s, tr("A0 bis A6 oder Breite und Höhe in Millimetern, 300x200 (A4)")},
             {u"landscape"_s, {}, tr("Querformat (so bei A0 bis A6)")},
             {u"portrait"_s, {}, tr("Hochformat")},
             {u"bleed"_s, u"MM"_s, tr("Beschnitt an jeder Kante, nur im PDF (0)")},
-            {u"entries"_s, u"DATEI"_s, tr("persönliche Einträge aus dieser Datei")},
+            {u"entries"_s, tr("DATEI"), tr("persönliche Einträge aus dieser Datei")},
             {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge")},
             {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027)")},
             {u"author"_s, u"TEXT"_s, tr("Verfasser im PDF")},
-            {u"dpi"_s, u"ZAHL"_s, tr("Punkte je Zoll der PNG-Dateien (300)")},
+            {u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der PNG-Dateien (300)")},
             {u"report"_s, u"FORM"_s,
              tr("json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien und Texte ohne Platz nennt")},
-            {u"output"_s, u"DATEI"_s,
+            {u"output"_s, tr("DATEI"),
              tr("-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt"), true}};
 }
 

@@ -222,6 +222,7 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
     if (event->button() != Qt::MiddleButton && !isHand) {
         setFocusDate({});
         QGraphicsView::mousePressEvent(event);
+        event->accept(); // days look at a press and let it pass; nothing around the canvas wants it
         return;
     }
     m_isPanning = true;

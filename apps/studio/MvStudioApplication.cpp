@@ -5,6 +5,7 @@
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvUndoController.h"
 #include "MvCore/MvVCardAddressBook.h"
+#include "MvGUIWidgets/MvDialogRequestHandler.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvGUIWidgets/MvTheme.h"
 #include "MvProject/MvProject.h"
@@ -43,6 +44,7 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
     applyTheme();
     MvInitializer::instance().setup(MvInitializerOption::Everything);
     MvPlatformIndependent::setInstance(std::make_unique<MvVCardAddressBook>());
+    MvRequestHandler::install(std::make_unique<MvDialogRequestHandler>());
     QApplication::setWindowIcon(MvIconRegistry::instance().applicationIcon());
     m_project = std::make_unique<MvProject>();
     m_project->newProject(MvProjectFlow::firstDocument());

@@ -1,0 +1,367 @@
+#include "MvPageCanvas.h"
+#include "MvPageDropTarget.h"
+#include "MvPageItem.h"
+#include "MvPhotoHandle.h"
+#include "MvProjectFixture.h"
+#include "MvScreenPhotos.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvUndoController.h"
+#include "MvProject/MvProject.h"
+#include "MvWidgetTest.h"
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A canvas with three months of 2027 from January.
+struct OpenCanvas
+{
+    explicit OpenCanvas(const QString &layout = u"MONTH_GRID_CLASSIC"_s)
+    {
+        QVERIFY(folder.isValid());
+        project.newProject(MvProjectFixture::document(layout, 3));
+        canvas = std::make_unique<MvPageCanvas>(&project);
+        canvas->resize(900, 700);
+        canvas->show();
+        QVERIFY(QTest::qWaitForWindowExposed(canvas.get()));
+        canvas->activateWindow();
+        settle();
+    }
+
+    /// What changed is recorded and painted.
+    void settle() { item()->refreshNow(); }
+    MvPageItem *item() const { return canvas->pageItem(); }
+    MvPhotoFrame photo(int page = 0) const { return project.document().pages().at(page).photoFrame(); }
+    QPoint viewPoint(const QPointF &onPage) const { return canvas->mapFromScene(item()->mapToScene(onPage)); }
+    QPoint viewPoint(const QDate &date) const { return viewPoint(item()->dateRect(date).center()); }
+    int steps() const { return MvUndoController::instance().stack()->index(); }
+
+    QString writePhoto(const QSize &size = {300, 200}) const
+    {
+        const QString path = folder.filePath(u"foto%1x%2.png"_s.arg(size.width()).arg(size.height()));
+        return MvProjectFixture::writePhoto(path, size) ? path : QString();
+    }
+    void setPhoto(const QSize &size = {300, 200})
+    {
+        const QString path = writePhoto(size);
+        canvas->setPhoto(path);
+        settle();
+        canvas->grab(); // asks for the photo
+        QTRY_VERIFY(!item()->photos()->photo(path, {16, 16}).isNull());
+    }
+
+    void drag(const QString &path, const QPoint &position, Qt::KeyboardModifiers modifiers = {})
+    {
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(canvas->viewport(), &enter);
+        QDragMoveEvent move(position, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(canvas->viewport(), &move);
+        isAccepted = enter.isAccepted() && move.isAccepted();
+    }
+    void drop(const QPoint &position, Qt::KeyboardModifiers modifiers = {})
+    {
+        QDropEvent event(position, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(canvas->viewport(), &event);
+    }
+    QString dropText() const
+    {
+        for (QGraphicsItem *child : item()->childItems()) {
+            if (const auto *target = dynamic_cast<MvPageDropTarget *>(child))
+                return target->text();
+        }
+        return {};
+    }
+
+    void dragMouse(const QPoint &from, const QPoint &to, bool release = true)
+    {
+        QTest::mouseMove(canvas->viewport(), from);
+        QTest::mousePress(canvas->viewport(), Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, to, canvas->viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+        QApplication::sendEvent(canvas->viewport(), &move);
+        if (release)
+            QTest::mouseRelease(canvas->viewport(), Qt::LeftButton, {}, to);
+    }
+
+    QTemporaryDir folder;
+    QMimeData data;
+    bool isAccepted = false;
+    MvProject project;
+    std::unique_ptr<MvPageCanvas> canvas;
+};
+
+} // namespace
+
+/// The canvas, driven by mouse, keys and drops.
+class tst_MvPageCanvas : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void clickOnADateLeadsToANewEntry();
+    void photoDropped_data();
+    void photoDropped();
+    void refusesWhatIsNoPhoto();
+    void edgeOfThePhotoIsPulled();
+    void photoMovesInItsFrame();
+    void contextMenuPlacesThePhoto();
+    void keyboardGoesThroughTheCalendar();
+    void zooms();
+    void looksWithoutRecording();
+    void layoutsReplaceTheCells();
+};
+
+void tst_MvPageCanvas::init()
+{
+    MvWidgetTest::failOnWarnings();
+    MvCalendarEventRegistry::instance().setEvents({});
+    MvUndoController::instance().clear();
+}
+
+void tst_MvPageCanvas::clickOnADateLeadsToANewEntry()
+{
+    OpenCanvas open;
+    const auto before = open.item()->recording().operationCount();
+    QTest::mouseClick(open.canvas->viewport(), Qt::LeftButton, {}, open.viewPoint(QDate(2027, 1, 12)));
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    menu->actions().last()->trigger();
+    menu->close();
+
+    QPointer<MvCalendarDayEditorDialog> editor;
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget); dialog && dialog->isVisible())
+            editor = dialog;
+    }
+    QVERIFY(editor);
+    QTest::keyClicks(editor->findChild<QLineEdit *>(), u"Oma Erika"_s);
+    editor->acceptedClicked();
+    QCOMPARE(MvCalendarEventRegistry::instance().activeEventList().size(), 1);
+    QTRY_VERIFY(open.item()->recording().operationCount() > before); // the page shows it
+
+    MvUndoController::instance().undo();
+    QVERIFY(MvCalendarEventRegistry::instance().activeEventList().isEmpty());
+    QTRY_COMPARE(open.item()->recording().operationCount(), before);
+}
+
+void tst_MvPageCanvas::photoDropped_data()
+{
+    QTest::addColumn<bool>("onDay");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("said");
+    QTest::addColumn<int>("placement"); // -1: the page gets none
+    using Placement = MvPhotoFrame::Placement;
+    const Qt::KeyboardModifiers none;
+    const Qt::KeyboardModifiers shift = Qt::ShiftModifier;
+    QTest::newRow("beside the days") << false << none << QSize(300, 200) << u"Foto der Seite"_s << int(Placement::Top);
+    QTest::newRow("upright") << false << none << QSize(200, 300) << u"Foto der Seite"_s << int(Placement::Left);
+    QTest::newRow("on a day") << true << none << QSize(300, 200) << u"Foto für den 12. Januar"_s << -1;
+    QTest::newRow("on a day with shift") << true << shift << QSize(300, 200) << u"Foto der Seite"_s
+                                         << int(Placement::Top);
+}
+
+void tst_MvPageCanvas::photoDropped()
+{
+    QFETCH(const bool, onDay);
+    QFETCH(const Qt::KeyboardModifiers, modifiers);
+    QFETCH(const QSize, size);
+    QFETCH(const QString, said);
+    QFETCH(const int, placement);
+    OpenCanvas open;
+    const QString path = open.writePhoto(size);
+    const QPoint position = onDay ? open.viewPoint(QDate(2027, 1, 12)) : open.viewPoint(QPointF(40, 40));
+    open.drag(path, position, modifiers);
+    QVERIFY(open.isAccepted);
+    QCOMPARE(open.dropText(), said);
+    open.drop(position, modifiers);
+    QVERIFY(open.dropText().isEmpty());
+    QCOMPARE(open.photo().isValid(), placement >= 0);
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(widget)) {
+            QVERIFY(placement < 0); // a new entry with the photo
+            editor->rejectedClicked();
+        }
+    }
+    if (placement < 0)
+        return;
+    QCOMPARE(open.photo().path(), path);
+    QCOMPARE(int(open.photo().placement()), placement);
+    QCOMPARE(open.steps(), 1);
+    MvUndoController::instance().undo();
+    QVERIFY(!open.photo().isValid());
+}
+
+void tst_MvPageCanvas::refusesWhatIsNoPhoto()
+{
+    OpenCanvas open;
+    QFile file(open.folder.filePath(u"brief.jpg"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("kein Foto") > 0);
+    file.close();
+    open.drag(file.fileName(), open.viewPoint(QPointF(40, 40)));
+    QVERIFY(!open.isAccepted);
+    QSignalSpy said(open.canvas.get(), &MvPageCanvas::message);
+    open.canvas->setPhoto(file.fileName());
+    QVERIFY(said.value(0).value(0).toString().contains(u"brief.jpg"));
+    QVERIFY(!open.photo().isValid());
+    QCOMPARE(open.steps(), 0);
+}
+
+void tst_MvPageCanvas::edgeOfThePhotoIsPulled()
+{
+    OpenCanvas open;
+    open.setPhoto();
+    const QRectF before = open.item()->photoRect();
+    const QPointF grip(before.center().x(), before.bottom());
+    open.dragMouse(open.viewPoint(grip), open.viewPoint(grip - QPointF(0, 200)), false);
+    QTRY_VERIFY(qAbs(open.item()->photoRect().bottom() - (before.bottom() - 200)) < 20); // follows while it is pulled
+    QCOMPARE(open.steps(), 1);
+    QTest::keyClick(open.canvas.get(), Qt::Key_Escape);
+    QTest::mouseRelease(open.canvas->viewport(), Qt::LeftButton, {}, open.viewPoint(grip));
+    open.settle();
+    QCOMPARE(open.item()->photoRect(), before);
+
+    open.dragMouse(open.viewPoint(grip), open.viewPoint(grip - QPointF(0, 200)));
+    open.settle();
+    QVERIFY(qAbs(open.item()->photoRect().bottom() - (before.bottom() - 200)) < 20);
+    QCOMPARE(open.steps(), 2);
+    MvUndoController::instance().undo();
+    open.settle();
+    QCOMPARE(open.item()->photoRect(), before);
+}
+
+void tst_MvPageCanvas::photoMovesInItsFrame()
+{
+    OpenCanvas open;
+    open.setPhoto({200, 800}); // upright: the frame at its side shows a part of its height
+    open.canvas->grab();
+    const QPointF focus = open.photo().focus();
+    const QPointF centre = open.item()->photoRect().center();
+    open.dragMouse(open.viewPoint(centre), open.viewPoint(centre + QPointF(0, 300)));
+    QVERIFY(open.photo().focus().y() < focus.y()); // pulled down, more of its top is seen
+    QCOMPARE(open.steps(), 2);
+
+    const double y = open.photo().focus().y();
+    QTest::keyClick(open.canvas.get(), Qt::Key_Down, Qt::AltModifier);
+    QTest::keyClick(open.canvas.get(), Qt::Key_Down, Qt::AltModifier);
+    QVERIFY(open.photo().focus().y() > y);
+    QCOMPARE(open.steps(), 3); // both keys are one step
+}
+
+void tst_MvPageCanvas::contextMenuPlacesThePhoto()
+{
+    OpenCanvas open;
+    open.setPhoto();
+    const auto trigger = [&open](const QString &name) {
+        open.settle();
+        const std::unique_ptr<QMenu> menu(open.canvas->createContextMenu(open.viewPoint(QPointF(40, 40))));
+        auto *action = menu->findChild<QAction *>(name);
+        QVERIFY2(action, qPrintable(name));
+        action->trigger();
+    };
+    trigger(u"photoRight"_s);
+    QCOMPARE(open.photo().placement(), MvPhotoFrame::Placement::Right);
+    trigger(u"photoSize40"_s);
+    QCOMPARE(open.photo().share(), 0.4);
+    trigger(u"removePhoto"_s);
+    QVERIFY(!open.photo().isValid());
+    QCOMPARE(open.steps(), 4);
+    // a day's menu has its entries, too
+    open.settle();
+    const std::unique_ptr<QMenu> menu(open.canvas->createContextMenu(open.viewPoint(QDate(2027, 1, 12))));
+    const QList<QAction *> actions = menu->actions();
+    QVERIFY(std::any_of(actions.begin(), actions.end(), [](const QAction *each) {
+        return each->text().startsWith(u"Neuen Eintrag am 12. Jan");
+    }));
+    QVERIFY(menu->findChild<QAction *>(u"choosePhoto"_s));
+}
+
+void tst_MvPageCanvas::keyboardGoesThroughTheCalendar()
+{
+    OpenCanvas open;
+    QSignalSpy turned(open.canvas.get(), &MvPageCanvas::currentPageChanged);
+    QTest::keyClick(open.canvas.get(), Qt::Key_Right); // begins
+    QCOMPARE(open.canvas->focusDate(), QDate(2027, 1, 1));
+    QTest::keyClick(open.canvas.get(), Qt::Key_Right);
+    QTest::keyClick(open.canvas.get(), Qt::Key_Down);
+    QCOMPARE(open.canvas->focusDate(), QDate(2027, 1, 9));
+    for (int week = 0; week < 4; ++week)
+        QTest::keyClick(open.canvas.get(), Qt::Key_Down);
+    QTRY_COMPARE(open.canvas->focusDate(), QDate(2027, 2, 6)); // on the next page
+    QCOMPARE(turned.size(), 1);
+    QTest::keyClick(open.canvas.get(), Qt::Key_PageDown);
+    QTest::keyClick(open.canvas.get(), Qt::Key_PageDown);
+    QCOMPARE(open.canvas->currentPage(), 2); // there are three
+    QTest::keyClick(open.canvas.get(), Qt::Key_Home);
+    QCOMPARE(open.canvas->currentPage(), 0);
+    open.settle();
+    QVERIFY(open.canvas->accessibleDescription().contains(u"Seite 1 von 3"));
+}
+
+void tst_MvPageCanvas::zooms()
+{
+    OpenCanvas open;
+    MvPageCanvas &canvas = *open.canvas;
+    const double fitted = canvas.zoom();
+    canvas.resize(600, 500);
+    const double smaller = canvas.zoom();
+    QVERIFY(canvas.isFitted() && smaller < fitted);
+    const QPoint position = open.viewPoint(QDate(2027, 1, 14));
+    const QPointF onPage = canvas.mapToScene(position);
+    for (int step = 0; step < 6; ++step) {
+        QWheelEvent wheel(position, canvas.viewport()->mapToGlobal(position), {}, {0, 120}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(canvas.viewport(), &wheel);
+    }
+    QVERIFY(!canvas.isFitted() && canvas.zoom() > 3.0 * smaller);
+    QVERIFY((canvas.mapFromScene(onPage) - position).manhattanLength() <= 4); // stays under the mouse
+    canvas.setZoom(1000.0);
+    QCOMPARE(canvas.zoom(), MvPageCanvas::maximumZoom);
+    canvas.zoomToFit();
+    QCOMPARE(canvas.zoom(), smaller);
+}
+
+void tst_MvPageCanvas::looksWithoutRecording()
+{
+    OpenCanvas open;
+    QSignalSpy refreshed(open.item(), &MvPageItem::refreshed);
+    const QImage before = open.canvas->grab().toImage();
+    open.canvas->setZoom(2.0);
+    QTest::mouseMove(open.canvas->viewport(), open.viewPoint(QDate(2027, 1, 14)));
+    open.canvas->zoomToFit();
+    QTest::mouseMove(open.canvas->viewport(), QPoint(1, 1));
+    QTest::qWait(20);
+    QVERIFY(refreshed.size() <= 1); // the larger scale may ask for larger photos of entries
+    refreshed.clear();
+    QTRY_COMPARE(open.canvas->grab().toImage(), before);
+    QCOMPARE(refreshed.size(), 0);
+}
+
+void tst_MvPageCanvas::layoutsReplaceTheCells()
+{
+    OpenCanvas open;
+    const auto look = [&open](const QString &layout) {
+        MvCalendarDocument document = open.project.document();
+        document.setAppearance(MvProjectFixture::appearance(layout));
+        open.project.change(document, u"Layout"_s);
+        QSignalSpy refreshed(open.item(), &MvPageItem::refreshed);
+        QVERIFY(refreshed.wait());
+    };
+    look(u"MONTH_ONLY"_s);
+    QVERIFY(open.item()->dates().isEmpty());
+    QTest::mouseClick(open.canvas->viewport(), Qt::LeftButton, {}, QPoint(450, 400));
+    QTest::qWait(300);
+    QVERIFY(!QApplication::activePopupWidget()); // no cell of the grid is left behind
+    look(u"MONTH_GRID_LINES"_s);
+    QCOMPARE(open.item()->dates().size(), 31);
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvPageCanvas)
+#include "tst_MvPageCanvas.moc"

@@ -1,0 +1,297 @@
+#include "MvColorSchemaPicker.h"
+#include "MvLayoutChooser.h"
+#include "MvPageEdits.h"
+#include "MvProjectFixture.h"
+#include "MvStudioPanels.h"
+
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCore/MvUndoController.h"
+#include "MvProject/MvProject.h"
+#include "MvWidgetTest.h"
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The panels side by side over a calendar of 2027, the second page being the current one.
+struct OpenPanels
+{
+    explicit OpenPanels(const QString &layout = u"MONTH_GRID_CLASSIC"_s)
+    {
+        project.newProject(MvProjectFixture::document(layout));
+        panels = new MvStudioPanels(&project, &window);
+        panels->setCurrentPage(1);
+        auto *row = new QHBoxLayout(&window);
+        for (const MvStudioPanel &panel : panels->panels())
+            row->addWidget(panel.widget);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+    }
+
+    template <class Widget>
+    Widget *find(const QString &name) const
+    {
+        auto *widget = window.findChild<Widget *>(name);
+        if (widget == nullptr)
+            qFatal("no %s", qPrintable(name));
+        return widget;
+    }
+    void forThisPage() const { panels->edits()->setScope(MvPageEdits::Scope::CurrentPage); }
+    const MvCalendarPage &page(int number) const { return project.document().pages().at(number); }
+    const MvCalendariumAppearance &look(int number) const { return page(number).appearance(); }
+    QStringList undoTexts() const
+    {
+        const QUndoStack *stack = MvUndoController::instance().stack();
+        QStringList texts;
+        for (int step = 0; step < stack->index(); ++step)
+            texts.append(stack->text(step));
+        return texts;
+    }
+    /// Edits that come later, as by queued signals, have come.
+    static void settle() { QTest::qWait(20); }
+
+    QWidget window; // goes after the panels' project
+    MvProject project;
+    MvStudioPanels *panels = nullptr;
+};
+
+QString layoutOf(const MvCalendariumAppearance &appearance)
+{
+    return appearance.layoutSchema().ID().toString();
+}
+
+} // namespace
+
+/// The panels, driven as a user does, with undo and redo.
+class tst_MvStudioPanels : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void showingEditsNothing();
+    void scope_data();
+    void scope();
+    void undoAndRedoRefreshThePanels();
+    void startAndMonths();
+    void holidaysKeepWhatTheEditorDoesNotShow();
+    void gridOnAndOff();
+    void recolouringLeavesTheShippedSchema();
+    void yearsForAllPages();
+    void columnHeaders();
+};
+
+void tst_MvStudioPanels::init()
+{
+    MvWidgetTest::failOnWarnings();
+    MvUndoController::instance().clear();
+}
+
+void tst_MvStudioPanels::showingEditsNothing()
+{
+    OpenPanels open;
+    for (const QString &layout : {u"FAMILY_PLANNER"_s, u"MONTH_ONLY"_s, u"YEAR_PLANNER"_s, u"MONTH_GRID_LINES"_s}) {
+        MvCalendarDocument document = open.project.document();
+        MvCalendariumAppearance appearance = MvProjectFixture::appearance(layout, u"NIGHT"_s);
+        appearance.setFontSettings({u"Lato"_s, 20, -30, QFont::Normal, QFont::MixedCase, 0.0});
+        document.setAppearance(appearance);
+        open.project.newProject(document);
+        OpenPanels::settle();
+        QVERIFY(open.project.document() == document);
+    }
+    for (const int page : {2, 0}) {
+        open.panels->setCurrentPage(page);
+        OpenPanels::settle();
+    }
+    QCOMPARE(open.undoTexts(), QStringList());
+}
+
+void tst_MvStudioPanels::scope_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("others");
+    QTest::newRow("all pages") << u"scopeAllPages"_s << true;
+    QTest::newRow("this page") << u"scopeCurrentPage"_s << false;
+}
+
+void tst_MvStudioPanels::scope()
+{
+    QFETCH(const QString, button);
+    QFETCH(const bool, others);
+    const OpenPanels open;
+    open.find<QWidget>(u"layoutPanel"_s)->findChild<QToolButton *>(button)->click();
+    // every panel's switch shows the same
+    for (const QToolButton *each : open.window.findChildren<QToolButton *>(button))
+        QVERIFY(each->isChecked());
+    open.find<QWidget>(u"layoutPanel"_s)->findChild<MvLayoutChooser *>()->setLayoutId(
+        MvCalendariumLayoutSchemaID(u"DAY_LIST"_s));
+    QCOMPARE(layoutOf(open.look(1)), u"DAY_LIST"_s);
+    QCOMPARE(layoutOf(open.look(0)) == u"DAY_LIST"_s, others);
+    QCOMPARE(layoutOf(open.look(11)) == u"DAY_LIST"_s, others);
+
+    open.find<QSpinBox>(u"fontSizeBox"_s)->setValue(120);
+    QCOMPARE(open.look(1).fontSettings().fontSizePercentage(), 20);
+    QCOMPARE(open.look(0).fontSettings().fontSizePercentage(), others ? 20 : 0);
+    QVERIFY(open.look(1).fontSettings().fontName().isEmpty()); // the family was not touched
+    QCOMPARE(open.undoTexts(), QStringList({u"Layout ändern"_s, u"Schrift ändern"_s}));
+    MvUndoController::instance().undo();
+    MvUndoController::instance().undo();
+    QCOMPARE(layoutOf(open.look(0)), layoutOf(open.look(1)));
+}
+
+void tst_MvStudioPanels::undoAndRedoRefreshThePanels()
+{
+    const OpenPanels open;
+    auto *size = open.find<QSpinBox>(u"fontSizeBox"_s);
+    auto *country = open.find<QComboBox>(u"languageBox"_s);
+    auto *picker = open.find<MvColorSchemaPicker>(u"colorSchemaPicker"_s);
+    const int germany = country->currentIndex();
+    const int austria = country->findText(u"Österreich"_s);
+    QVERIFY(austria >= 0);
+    size->setValue(150);
+    country->setCurrentIndex(austria);
+    picker->setCurrentRow(3);
+    OpenPanels::settle();
+    QCOMPARE(open.page(5).contentConfig().holidayConfig().language().country(), u"AT"_s);
+    const QStringList steps = {u"Schrift ändern"_s, u"Feiertage und Einträge ändern"_s, u"Farbschema ändern"_s};
+    QCOMPARE(open.undoTexts(), steps);
+    for (int step = 0; step < 3; ++step)
+        MvUndoController::instance().undo();
+    OpenPanels::settle();
+    QCOMPARE(size->value(), 100);
+    QCOMPARE(country->currentIndex(), germany);
+    QCOMPARE(picker->currentRow(), 0);
+    QCOMPARE(open.page(5).contentConfig().holidayConfig().province(), u"NW"_s);
+    for (int step = 0; step < 3; ++step)
+        MvUndoController::instance().redo();
+    OpenPanels::settle();
+    QCOMPARE(size->value(), 150);
+    QCOMPARE(country->currentIndex(), austria);
+    QCOMPARE(picker->currentRow(), 3);
+    QCOMPARE(open.undoTexts(), steps); // refreshing made no step of its own
+}
+
+void tst_MvStudioPanels::startAndMonths()
+{
+    const OpenPanels open;
+    open.find<QComboBox>(u"monthBox"_s)->setCurrentIndex(8);
+    OpenPanels::settle();
+    QCOMPARE(open.project.document().range(), MvDateRange(QDate(2027, 9, 1), QDate(2028, 8, 31)));
+    open.find<QSpinBox>(u"monthCount"_s)->setValue(14);
+    OpenPanels::settle();
+    QCOMPARE(open.project.document().range(), MvDateRange(QDate(2027, 9, 1), QDate(2028, 10, 31)));
+    auto *orientation = open.find<QComboBox>(u"orientation"_s);
+    orientation->setCurrentIndex(1 - orientation->currentIndex());
+    QCOMPARE(open.project.document().format().orientation(), MvPageFormat::Orientation::Portrait);
+    QCOMPARE(open.project.document().format().bleed(), 30.0);
+    QCOMPARE(open.undoTexts(), QStringList({u"Beginn des Kalenders ändern"_s, u"Anzahl der Monate ändern"_s,
+                                            u"Seitenformat ändern"_s}));
+    MvUndoController::instance().undo();
+    MvUndoController::instance().undo();
+    QCOMPARE(open.find<QSpinBox>(u"monthCount"_s)->value(), 12);
+}
+
+void tst_MvStudioPanels::holidaysKeepWhatTheEditorDoesNotShow()
+{
+    const OpenPanels open;
+    open.forThisPage();
+    open.find<QCheckBox>(u"publicHolidaysOnly"_s)->click();
+    open.find<QCheckBox>(u"personalEntriesCheckBox"_s)->click();
+    OpenPanels::settle();
+    const MvCalendariumHolidayConfig config = open.page(1).contentConfig().holidayConfig();
+    QVERIFY(config.hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY));
+    QVERIFY(!config.hasFeatures(FEATURE_ENTRIES));
+    const MvCalendariumHolidayConfig other = open.page(0).contentConfig().holidayConfig();
+    QVERIFY(!other.hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY) && other.hasFeatures(FEATURE_ENTRIES));
+    for (const MvCalendariumFeaturesEnum feature : {FEATURE_HOLIDAYS, FEATURE_HOLIDAY_COLORS, FEATURE_SCHOOL_VACATIONS})
+        QCOMPARE(config.hasFeatures(feature), other.hasFeatures(feature));
+    QCOMPARE(config.province(), other.province());
+}
+
+void tst_MvStudioPanels::gridOnAndOff()
+{
+    const OpenPanels open;
+    open.find<QTabWidget>(u"layoutTabs"_s)->setCurrentIndex(1);
+    auto *grid = open.find<QCheckBox>(u"showGridBox"_s);
+    const bool before = grid->isChecked();
+    grid->click();
+    QCOMPARE(open.look(7).gridConfig().isEnabled(), !before);
+    // the grid is no colour: the schema stays marked, and choosing another one leaves the grid as it is
+    auto *picker = open.find<MvColorSchemaPicker>(u"colorSchemaPicker"_s);
+    QCOMPARE(picker->currentItem()->text(), u"Papierweiß"_s);
+    picker->setCurrentRow(2);
+    QCOMPARE(open.look(7).gridConfig().isEnabled(), !before);
+    MvUndoController::instance().undo();
+    MvUndoController::instance().undo();
+    QCOMPARE(grid->isChecked(), before);
+}
+
+void tst_MvStudioPanels::recolouringLeavesTheShippedSchema()
+{
+    OpenPanels open;
+    open.find<QTabWidget>(u"layoutTabs"_s)->setCurrentIndex(1);
+    const MvCalendariumColorSchemaID id(u"PAPER_WHITE"_s);
+    const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    const MvCalendariumColorSchema shipped = registry.findSchema(id);
+    const int known = int(registry.allSchemata().size());
+    auto *table = open.find<QTableView>(u"tableView"_s);
+    QVERIFY(table->model()->setData(table->model()->index(0, 1), QColor(1, 2, 3), Qt::EditRole));
+    QVERIFY(open.look(4).colorSchema() != shipped);
+    QCOMPARE(registry.findSchema(id), shipped);
+    QCOMPARE(int(registry.allSchemata().size()), known);
+    auto *picker = open.find<MvColorSchemaPicker>(u"colorSchemaPicker"_s);
+    QCOMPARE(picker->currentItem()->text(), u"Eigene Farben"_s);
+    const int rows = picker->count();
+
+    // the file has the colours of its own
+    QTemporaryDir folder;
+    const QFileInfo file(folder.filePath(u"kalender.xml"_s));
+    QVERIFY(open.project.saveAs(file));
+    MvProject read;
+    QVERIFY(read.open(file));
+    QCOMPARE(read.document().pages().at(4).appearance().colorSchema(), open.look(4).colorSchema());
+    MvUndoController::instance().clear();
+
+    picker->setCurrentRow(1); // the shipped one follows the own one
+    QCOMPARE(open.look(4).cellColor(MvCalendarCellColorKey(MvCalendarCellColorRoleEnum::bgcolor,
+                                                           CALENDAR_CELL_TYPE_SUNDAY, MvParityLogicEnum::even)),
+             shipped.cellColor(MvCalendarCellColorKey(MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_SUNDAY,
+                                                      MvParityLogicEnum::even)));
+    QCOMPARE(picker->count(), rows - 1);
+}
+
+void tst_MvStudioPanels::yearsForAllPages()
+{
+    const OpenPanels open;
+    auto *chooser = open.find<QWidget>(u"layoutPanel"_s)->findChild<MvLayoutChooser *>();
+    chooser->setLayoutId(MvCalendariumLayoutSchemaID(u"YEAR_PLANNER"_s));
+    QCOMPARE(open.project.document().pages().size(), 1);
+    open.panels->setCurrentPage(0); // as the window does
+    QCOMPARE(chooser->layoutId().toString(), u"YEAR_PLANNER"_s);
+    MvUndoController::instance().undo();
+    QCOMPARE(open.project.document().pages().size(), 12);
+    QCOMPARE(chooser->layoutId().toString(), u"MONTH_GRID_CLASSIC"_s);
+}
+
+void tst_MvStudioPanels::columnHeaders()
+{
+    const OpenPanels open;
+    auto *empty = open.find<QLabel>(u"noColumns"_s);
+    QVERIFY(empty->isVisible());
+    open.find<QPushButton>(u"chooseColumnsLayout"_s)->click();
+    QCOMPARE(layoutOf(open.look(3)), u"FAMILY_PLANNER"_s);
+    QVERIFY(!empty->isVisible());
+    auto *columns = open.find<QSpinBox>(u"countColumnsBox"_s);
+    QCOMPARE(columns->value(), 4);
+    columns->setValue(5);
+    auto *list = open.find<QListView>(u"columnHeadersList"_s);
+    QVERIFY(list->model()->setData(list->model()->index(4, 0), u"Oma"_s));
+    QCOMPARE(open.look(3).columnHeadersList(), QStringList({u"Mama"_s, u"Papa"_s, u"Kind 1"_s, u"Kind 2"_s, u"Oma"_s}));
+    MvUndoController::instance().undo();
+    QCOMPARE(columns->value(), 4);
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvStudioPanels)
+#include "tst_MvStudioPanels.moc"
