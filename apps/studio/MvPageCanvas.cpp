@@ -459,9 +459,9 @@ QDate MvPageCanvas::focusDate() const
 
 bool MvPageCanvas::setFocusDate(const QDate &date)
 {
-    m_keyboardDate = {};
     if (date.isValid() && m_item->cells()->focusDate(date))
         return true;
+    m_keyboardDate = {};
     m_scene->setFocusItem(nullptr);
     return false;
 }
