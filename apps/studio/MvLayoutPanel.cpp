@@ -9,8 +9,8 @@
 
 #include <QHeaderView>
 #include <QScrollArea>
-#include <QTableView>
 #include <QTabWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
