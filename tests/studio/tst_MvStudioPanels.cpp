@@ -121,9 +121,9 @@ void tst_MvStudioPanels::scope()
     QFETCH(const QString, button);
     QFETCH(const bool, others);
     const OpenPanels open;
-    open.find<QWidget>(u"layoutPanel"_s)->findChild<QToolButton *>(button)->click();
+    open.find<QWidget>(u"layoutPanel"_s)->findChild<QRadioButton *>(button)->click();
     // every panel's switch shows the same
-    for (const QToolButton *each : open.window.findChildren<QToolButton *>(button))
+    for (const QRadioButton *each : open.window.findChildren<QRadioButton *>(button))
         QVERIFY(each->isChecked());
     open.find<QWidget>(u"layoutPanel"_s)
         ->findChild<MvLayoutChooser *>()
