@@ -4,12 +4,13 @@ using namespace Qt::StringLiterals;
 
 MvCliOption MvCliCommand::countryOption()
 {
-    return {u"country"_s, u"LAND"_s, QCoreApplication::translate("MvCliCommand", "Staat, Kürzel oder Name (DE)")};
+    return {u"country"_s, QCoreApplication::translate("MvCliCommand", "LAND"),
+            QCoreApplication::translate("MvCliCommand", "Staat, Kürzel oder Name (DE)")};
 }
 
 MvCliOption MvCliCommand::languageOption()
 {
-    return {u"language"_s, u"SPRACHE"_s,
+    return {u"language"_s, QCoreApplication::translate("MvCliCommand", "SPRACHE"),
             QCoreApplication::translate("MvCliCommand", "Sprache, wo ein Staat mehrere hat: de, fr, it …")};
 }
 

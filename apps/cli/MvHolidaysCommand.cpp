@@ -91,8 +91,8 @@ QList<MvCliOption> MvHolidaysCommand::options() const
     return {countryOption(),
             languageOption(),
             regionOption(),
-            {u"year"_s, u"JAHR"_s, tr("Jahr (das kommende)")},
-            {u"to"_s, u"JAHR"_s, tr("letztes Jahr, wenn es mehrere sind")},
+            {u"year"_s, tr("JAHR"), tr("Jahr (das kommende)")},
+            {u"to"_s, tr("JAHR"), tr("letztes Jahr, wenn es mehrere sind")},
             formatOption({u"text"_s, u"csv"_s, u"json"_s})};
 }
 

@@ -1,9 +1,9 @@
 #include "MvCli.h"
 #include "MvCore/MvInitializer.h"
+#include "MvCore/MvTranslations.h"
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QLocale>
 
 #include <cstdio>
 
@@ -31,7 +31,7 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("mvcalendar"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MV_VERSION));
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    MvTranslations::install(MvTranslations::systemLanguage());
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
 
     QFile standardOutput;

@@ -102,7 +102,8 @@ void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const Q
     connect(m_target, &QLineEdit::textChanged, this, &MvExportDialog::validate);
     if (isPdf())
         return;
-    m_pattern = new QLineEdit(MvStudioSettings::text(u"export/pattern"_s, name + u"-%y-%m.png"_s), this);
+    const bool isWithinAYear = m_document.range().monthCount() <= 12;
+    m_pattern = new QLineEdit(name + (isWithinAYear ? u"-%m.png"_s : u"-%y-%m.png"_s), this);
     m_pattern->setObjectName(u"exportPattern"_s);
     m_pattern->setToolTip(tr("%m Monat, %y Jahr, %n Nummer der Seite"));
     form->addRow(labelFor(tr("Datei&namen:"), m_pattern), m_pattern);
@@ -252,10 +253,8 @@ MvExportOptions MvExportDialog::options() const
     options.target = target();
     options.pages = pages(&ignored);
     options.dpi = m_dpi ? m_dpi->value() : defaultDpi;
-    if (m_dpi) {
+    if (m_dpi)
         MvStudioSettings::setText(u"export/dpi"_s, QString::number(m_dpi->value()));
-        MvStudioSettings::setText(u"export/pattern"_s, m_pattern->text());
-    }
     MvStudioSettings::setFolder(u"export"_s, QFileInfo(options.target).absolutePath());
     return options;
 }

@@ -56,7 +56,8 @@ QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *
         const QString keys = keysOf(action);
         if (keys.isEmpty())
             continue;
-        auto *row = new QTreeWidgetItem(table, {action->text().remove(u'&').remove(u" …"_s), keys, action->statusTip()});
+        auto *row =
+            new QTreeWidgetItem(table, {action->text().remove(u'&').remove(u" …"_s), keys, action->statusTip()});
         row->setIcon(0, action->icon());
     }
     table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -64,7 +65,7 @@ QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *
     auto *column = new QVBoxLayout(dialog);
     column->addWidget(table, 1);
     addCloseButton(dialog, column);
-    dialog->resize(760, 520);
+    dialog->resize(760, 560);
     dialog->open();
     return dialog;
 }

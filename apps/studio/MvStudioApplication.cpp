@@ -1,10 +1,11 @@
 #include "MvStudioApplication.h"
 
-#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvTranslations.h"
 #include "MvCore/MvUndoController.h"
 #include "MvCore/MvVCardAddressBook.h"
+#include "MvGUIWidgets/MvDialogRequestHandler.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvGUIWidgets/MvTheme.h"
 #include "MvProject/MvProject.h"
@@ -16,24 +17,9 @@
 #include "MvStudioWindow.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QTimer>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The system's locale where it speaks the language, since it also knows the country's forms of dates.
-QLocale localeOf(const QString &language)
-{
-    const QLocale system = QLocale::system();
-    if (language == u"en"_s)
-        return system.language() == QLocale::English ? system : QLocale(QLocale::English, QLocale::UnitedKingdom);
-    return system.language() == QLocale::German ? system : QLocale(QLocale::German, QLocale::Germany);
-}
-
-} // namespace
 
 MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject *parent)
     : QObject(parent)
@@ -43,6 +29,7 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
     applyTheme();
     MvInitializer::instance().setup(MvInitializerOption::Everything);
     MvPlatformIndependent::setInstance(std::make_unique<MvVCardAddressBook>());
+    MvRequestHandler::install(std::make_unique<MvDialogRequestHandler>());
     QApplication::setWindowIcon(MvIconRegistry::instance().applicationIcon());
     m_project = std::make_unique<MvProject>();
     m_project->newProject(MvProjectFlow::firstDocument());
@@ -69,15 +56,9 @@ void MvStudioApplication::setUpProcess(const QString &version)
 void MvStudioApplication::setUpLanguage()
 {
     QString language = m_options.language().isEmpty() ? MvStudioSettings::language() : m_options.language();
-    if (language != u"de"_s && language != u"en"_s)
-        language = QLocale::system().language() == QLocale::German ? u"de"_s : u"en"_s;
-    const QLocale locale = localeOf(language);
-    QLocale::setDefault(locale);
-    MvApplicationLocale::instance().setLocale(locale);
-    // the texts of the libraries' own dialogs, where the system has them
-    auto *translator = new QTranslator(this);
-    if (translator->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(translator);
+    if (!MvTranslations::languages().contains(language))
+        language = MvTranslations::systemLanguage();
+    MvTranslations::install(language);
 }
 
 void MvStudioApplication::applyTheme()

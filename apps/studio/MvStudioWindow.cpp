@@ -2,6 +2,7 @@
 
 #include "MvBirthdayImport.h"
 #include "MvCore/MvApplicationLocale.h"
+#include "MvCore/MvProactiveHelpController.h"
 #include "MvDocumentDialog.h"
 #include "MvExportFlow.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
@@ -230,6 +231,8 @@ void MvStudioWindow::connectActions()
     connect(m_export, &MvExportFlow::message, this, &MvStudioWindow::showMessage);
     connect(m_import, &MvBirthdayImport::message, this, &MvStudioWindow::showMessage);
     connect(m_canvas, &MvPageCanvas::message, this, &MvStudioWindow::showMessage);
+    connect(&MvProactiveHelpController::instance(), &MvProactiveHelpController::adviceRequested, this,
+            [this](int, const QString &text) { showMessage(text.simplified()); });
 }
 
 void MvStudioWindow::connectPages()

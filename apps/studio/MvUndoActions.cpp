@@ -27,8 +27,8 @@ QString describe(const QString &step)
     if (step.startsWith("set calendar event"_L1))
         return MvUndoActions::tr("Eintrag ändern");
     static const QHash<QString, const char *> names{
-        {u"loadEventList"_s, QT_TR_NOOP("Einträge laden")},
-        {u"clearEventList"_s, QT_TR_NOOP("Einträge löschen")},
+        {u"loadEventList"_s, QT_TRANSLATE_NOOP("MvUndoActions", "Einträge laden")},
+        {u"clearEventList"_s, QT_TRANSLATE_NOOP("MvUndoActions", "Einträge löschen")},
     };
     const char *name = names.value(step);
     return name ? MvUndoActions::tr(name) : step;
@@ -69,6 +69,6 @@ void MvUndoActions::update()
     m_undo->setEnabled(stack->canUndo());
     m_redo->setEnabled(stack->canRedo());
     for (QAction *action : {m_undo, m_redo})
-        action->setToolTip(u"%1 (%2)"_s.arg(action->text().remove(u'&'),
-                                             action->shortcut().toString(QKeySequence::NativeText)));
+        action->setToolTip(
+            u"%1 (%2)"_s.arg(action->text().remove(u'&'), action->shortcut().toString(QKeySequence::NativeText)));
 }

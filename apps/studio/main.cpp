@@ -1,5 +1,7 @@
 #include "MvStudioApplication.h"
 
+#include "MvCore/MvTranslations.h"
+
 #include <QApplication>
 
 #include <cstdio>
@@ -10,6 +12,7 @@ namespace {
 MvStudioOptions parseWithoutScreen(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
+    MvTranslations::install(MvTranslations::systemLanguage());
     return MvStudioOptions::parse(QCoreApplication::arguments());
 }
 

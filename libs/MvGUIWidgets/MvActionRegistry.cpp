@@ -13,11 +13,11 @@ QAction *MvActionRegistry::unregisteredAction(int type, QObject *parent) const
     auto *action = new QAction(parent);
     switch (type) {
     case EditCalendarEvent:
-        action->setText(tr("Eintrag bearbeiten…"));
+        action->setText(MvActionRegistry::tr("Eintrag bearbeiten…"));
         action->setIcon(MvIconRegistry::instance().icon(u"ico_common_edit"_s));
         break;
     case DeleteCalendarEvent:
-        action->setText(tr("Eintrag löschen"));
+        action->setText(MvActionRegistry::tr("Eintrag löschen"));
         action->setIcon(MvIconRegistry::instance().icon(u"ico_common_delete"_s));
         break;
     default:

@@ -44,6 +44,9 @@ private Q_SLOTS:
     void unknownFont();
     void project();
     void brokenOutput();
+    void language_data();
+    void language();
+    void printsTheSameInEveryLanguage();
 
 private:
     struct Call
@@ -54,7 +57,7 @@ private:
 
         QList<QByteArray> outLines() const { return out.trimmed().split('\n'); }
     };
-    Call run(const QStringList &arguments) const;
+    Call run(const QStringList &arguments, const QMap<QString, QString> &environment = {}) const;
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
     QString path(const QString &name) const { return m_folder->filePath(name); }
     void write(const QString &path, const QByteArray &content) const;
@@ -90,9 +93,13 @@ void tst_mvcalendar::initTestCase()
     QVERIFY(m_userFolder.mkpath(u"."_s));
 }
 
-tst_mvcalendar::Call tst_mvcalendar::run(const QStringList &arguments) const
+tst_mvcalendar::Call tst_mvcalendar::run(const QStringList &arguments, const QMap<QString, QString> &environment) const
 {
     QProcess process;
+    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+    for (auto it = environment.cbegin(); it != environment.cend(); ++it)
+        variables.insert(it.key(), it.value());
+    process.setProcessEnvironment(variables);
     process.setWorkingDirectory(m_folder->path());
     process.start(QStringLiteral(MV_PROGRAM), arguments);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
@@ -506,6 +513,50 @@ void tst_mvcalendar::brokenOutput()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 1);
     QCOMPARE(process.readAllStandardError().count('\n'), 1);
+}
+
+void tst_mvcalendar::language_data()
+{
+    QTest::addColumn<QMap<QString, QString>>("environment");
+    QTest::addColumn<bool>("isEnglish");
+    using Environment = QMap<QString, QString>;
+    QTest::newRow("American") << Environment{{u"LC_ALL"_s, u"en_US.UTF-8"_s}} << true;
+    QTest::newRow("messages only") << Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, u"en_GB.UTF-8"_s}} << true;
+    QTest::newRow("Austrian") << Environment{{u"LC_ALL"_s, u"de_AT.UTF-8"_s}} << false;
+    QTest::newRow("French") << Environment{{u"LC_ALL"_s, u"fr_FR.UTF-8"_s}} << false;
+    QTest::newRow("C") << Environment{{u"LC_ALL"_s, u"C"_s}, {u"LANGUAGE"_s, u"en"_s}} << false;
+    QTest::newRow("the program's own variable") << Environment{{u"MVCALENDAR_LANGUAGE"_s, u"en"_s}} << true;
+}
+
+void tst_mvcalendar::language()
+{
+    using Environment = QMap<QString, QString>;
+    QFETCH(const Environment, environment);
+    QFETCH(const bool, isEnglish);
+    const Call help = run({u"help"_s, u"render"_s}, environment);
+    QCOMPARE(help.out.contains("Options:"), isEnglish);
+    QCOMPARE(help.out.contains("Optionen:"), !isEnglish);
+    QCOMPARE(run({u"rendr"_s}, environment).err.contains("did you mean"), isEnglish);
+}
+
+/// The language of the program is no business of the calendar's.
+void tst_mvcalendar::printsTheSameInEveryLanguage()
+{
+    for (const QString &layout : {u"DAY_LIST"_s, u"HOLIDAY_BLOCK"_s, u"SCHOOL_YEAR_GRID"_s, u"WEEK_COLUMNS"_s}) {
+        QByteArray pages;
+        for (const QString &language : {u"de"_s, u"en"_s}) {
+            const Call call = run({u"render"_s, u"--year"_s, u"2027"_s, u"--layout"_s, layout, u"--vacations"_s,
+                                   u"--title"_s, u"T"_s, u"-o"_s, u"%n.svg"_s},
+                                  {{u"MVCALENDAR_LANGUAGE"_s, language}});
+            QCOMPARE(call.exitCode, 0);
+            QByteArray drawn;
+            for (const QByteArray &file : call.outLines())
+                drawn += contentOf(path(QString::fromUtf8(file)));
+            QVERIFY(!drawn.isEmpty());
+            QCOMPARE(pages.isEmpty() ? drawn : pages, drawn);
+            pages = drawn;
+        }
+    }
 }
 
 MV_TEST_MAIN(tst_mvcalendar)

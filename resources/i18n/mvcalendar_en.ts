@@ -1,0 +1,2775 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="de">
+<context>
+    <name>MvActionRegistry</name>
+    <message>
+        <source>Eintrag bearbeiten…</source>
+        <translation>Edit entry…</translation>
+    </message>
+    <message>
+        <source>Eintrag löschen</source>
+        <translation>Delete entry</translation>
+    </message>
+</context>
+<context>
+    <name>MvBirthdayImport</name>
+    <message>
+        <source>Geburtstage aus einem Adressbuch importieren</source>
+        <translation>Import birthdays from an address book</translation>
+    </message>
+    <message>
+        <source>Visitenkarten (*.vcf *.vcard)</source>
+        <translation>Contact cards (*.vcf *.vcard)</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>All files (*)</translation>
+    </message>
+    <message>
+        <source>Das Adressbuch wird gelesen …</source>
+        <translation>Reading the address book …</translation>
+    </message>
+    <message>
+        <source>Geburtstage importieren</source>
+        <translation>Import birthdays</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Geburtstagen importiert</source>
+        <translation>%1 of %2 birthdays imported</translation>
+    </message>
+    <message>
+        <source>Ein Adressbuch ließ sich nicht lesen.</source>
+        <translation>An address book could not be read.</translation>
+    </message>
+    <message>
+        <source>In den Visitenkarten steht kein Geburtstag.</source>
+        <translation>There is no birthday in the contact cards.</translation>
+    </message>
+    <message>
+        <source>Tragen Sie die Geburtstage im Adressbuch ein, und exportieren Sie es noch einmal als vCard (.vcf).</source>
+        <translation>Enter the birthdays in the address book and export it once more as vCard (.vcf).</translation>
+    </message>
+    <message>
+        <source>Alle %1 Geburtstage waren schon da.</source>
+        <translation>All %1 birthdays were there already.</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Geburtstagen importiert.</source>
+        <translation>%1 of %2 birthdays imported.</translation>
+    </message>
+    <message>
+        <source>Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit Bearbeiten &gt; Rückgängig.</source>
+        <translation>They are now on their days. You can take this back with Edit &gt; Undo.</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarCellType</name>
+    <message>
+        <source>Titel</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Werktag</source>
+        <translation>Weekday</translation>
+    </message>
+    <message>
+        <source>Samstag</source>
+        <translation>Saturday</translation>
+    </message>
+    <message>
+        <source>Sonntag</source>
+        <translation>Sunday</translation>
+    </message>
+    <message>
+        <source>Besonderer Tag</source>
+        <translation>Special day</translation>
+    </message>
+    <message>
+        <source>Kommentar</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Leer</source>
+        <translation>Empty</translation>
+    </message>
+    <message>
+        <source>Extra Information</source>
+        <translation>Extra information</translation>
+    </message>
+    <message>
+        <source>Überschrift Werktag</source>
+        <translation>Heading, weekday</translation>
+    </message>
+    <message>
+        <source>Überschrift Samstag</source>
+        <translation>Heading, Saturday</translation>
+    </message>
+    <message>
+        <source>Überschrift Sonntag</source>
+        <translation>Heading, Sunday</translation>
+    </message>
+    <message>
+        <source>Überschrift sonstige</source>
+        <translation>Heading, other</translation>
+    </message>
+    <message>
+        <source>Wochentag</source>
+        <translation>Day of the week</translation>
+    </message>
+    <message>
+        <source>Kalenderwoche</source>
+        <translation>Calendar week</translation>
+    </message>
+    <message>
+        <source>Monat</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>Jahr</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>Feiertag</source>
+        <translation>Holiday</translation>
+    </message>
+    <message>
+        <source>Überschrift Feiertag</source>
+        <translation>Heading, holiday</translation>
+    </message>
+    <message>
+        <source>Schulferien</source>
+        <translation>School holidays</translation>
+    </message>
+    <message>
+        <source>Überschrift Schulferien</source>
+        <translation>Heading, school holidays</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarDayEditorDialog</name>
+    <message>
+        <source>Kalendereintrag bearbeiten</source>
+        <translation>Edit calendar entry</translation>
+    </message>
+    <message>
+        <source>Mein Termin / Ereignis</source>
+        <translation>My appointment / event</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Beschreibung</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Foto auswählen</source>
+        <translation>Choose photo</translation>
+    </message>
+    <message>
+        <source>Klicken um ein Foto auszuwählen</source>
+        <translation>Click to choose a photo</translation>
+    </message>
+    <message>
+        <source>Foto entfernen</source>
+        <translation>Remove photo</translation>
+    </message>
+    <message>
+        <source>Eintrag löschen</source>
+        <translation>Delete entry</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>OK und weiter</source>
+        <translation>OK and next</translation>
+    </message>
+    <message>
+        <source>Bestätigt den Termin und ermöglicht es, direkt einen Weiteren anzulegen.</source>
+        <translation>Confirms the appointment and lets you create another one right away.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Anderes Foto auswählen</source>
+        <translation>Choose another photo</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ kann nicht gelesen werden.</source>
+        <translation>The photo “%1” cannot be read.</translation>
+    </message>
+    <message>
+        <source>Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden.</source>
+        <translation>Drag a photo onto this area to use it as the symbol of the appointment.</translation>
+    </message>
+    <message>
+        <source>Fotos (%1)</source>
+        <translation>Photos (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventDelegateEditDeleteWidget</name>
+    <message>
+        <source>Eintrag bearbeiten</source>
+        <translation>Edit entry</translation>
+    </message>
+    <message>
+        <source>„%1“ bearbeiten</source>
+        <translation>Edit “%1”</translation>
+    </message>
+    <message>
+        <source>Eintrag löschen</source>
+        <translation>Delete entry</translation>
+    </message>
+    <message>
+        <source>„%1“ löschen</source>
+        <translation>Delete “%1”</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventFile</name>
+    <message numerus="yes">
+        <source>%1: %n Foto(s) liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</source>
+        <translation>
+            <numerusform>%1: %n photo lies outside the permitted folders and is not loaded: %2</numerusform>
+            <numerusform>%1: %n photos lie outside the permitted folders and are not loaded, the first being %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventFotoDelegateEditorWidget</name>
+    <message>
+        <source>Foto ändern…</source>
+        <translation>Change photo…</translation>
+    </message>
+    <message>
+        <source>Foto von „%1“ ändern</source>
+        <translation>Change the photo of “%1”</translation>
+    </message>
+    <message>
+        <source>Foto hinzufügen…</source>
+        <translation>Add photo…</translation>
+    </message>
+    <message>
+        <source>Foto zu „%1“ hinzufügen</source>
+        <translation>Add a photo to “%1”</translation>
+    </message>
+    <message>
+        <source>Foto entfernen</source>
+        <translation>Remove photo</translation>
+    </message>
+    <message>
+        <source>Foto von „%1“ entfernen</source>
+        <translation>Remove the photo of “%1”</translation>
+    </message>
+    <message>
+        <source>Fotos (%1)</source>
+        <translation>Photos (%1)</translation>
+    </message>
+    <message>
+        <source>Foto auswählen</source>
+        <translation>Choose photo</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventListWidget</name>
+    <message>
+        <source>Eigene Einträge</source>
+        <translation>Own entries</translation>
+    </message>
+    <message>
+        <source>Noch keine Einträge. Fügen Sie Geburtstage, Jahrestage und andere Termine hinzu, und sie erscheinen in Ihrem Kalender.</source>
+        <translation>No entries yet. Add birthdays, anniversaries and other dates, and they will appear in your calendar.</translation>
+    </message>
+    <message>
+        <source>Eintrag hinzufügen...</source>
+        <translation>Add entry...</translation>
+    </message>
+    <message>
+        <source>Aus Adressbuch importieren</source>
+        <translation>Import from address book</translation>
+    </message>
+    <message>
+        <source>Andere Einträge…</source>
+        <translation>Other entries…</translation>
+    </message>
+    <message>
+        <source>Sichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Laden…</source>
+        <translation>Load…</translation>
+    </message>
+    <message>
+        <source>Hinzufügen…</source>
+        <translation>Add…</translation>
+    </message>
+    <message>
+        <source>Alle löschen…</source>
+        <translation>Delete all…</translation>
+    </message>
+    <message>
+        <source>Kalendereinträge</source>
+        <translation>Calendar entries</translation>
+    </message>
+    <message>
+        <source>Alle Einträge löschen?</source>
+        <translation>Delete all entries?</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventModel</name>
+    <message>
+        <source>Foto</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventRegistry</name>
+    <message>
+        <source>%1 ist nicht vollständig lesbar und ließ sich nicht beiseitelegen. Es wurde nichts überschrieben.</source>
+        <translation>%1 cannot be read completely and could not be put aside. Nothing was overwritten.</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Einträgen mit Geburtstagen importiert</source>
+        <translation>%1 of %2 entries with birthdays imported</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarFeatureType</name>
+    <message>
+        <source>Startdatum</source>
+        <translation>Start date</translation>
+    </message>
+    <message>
+        <source>Feiertage &amp; eigene Einträge</source>
+        <translation>Holidays &amp; own entries</translation>
+    </message>
+    <message>
+        <source>Farben</source>
+        <translation>Colours</translation>
+    </message>
+    <message>
+        <source>Extras</source>
+        <translation>Extras</translation>
+    </message>
+    <message>
+        <source>Artickelvarianten</source>
+        <translation>Product variants</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumColorSchemaEditor</name>
+    <message>
+        <source>Farben der Felder</source>
+        <translation>Colours of the cells</translation>
+    </message>
+    <message>
+        <source>Schulferien wie Samstage färben</source>
+        <comment>CHECKBOX</comment>
+        <translation>Colour school holidays like Saturdays</translation>
+    </message>
+    <message>
+        <source>Feiertage wie Sonntage färben</source>
+        <comment>CHECKBOX</comment>
+        <translation>Colour holidays like Sundays</translation>
+    </message>
+    <message>
+        <source>Farbwechsel je Woche</source>
+        <comment>CHECKBOX</comment>
+        <translation>Change colours every week</translation>
+    </message>
+    <message>
+        <source>Gitter anzeigen</source>
+        <comment>CHECKBOX</comment>
+        <translation>Show grid</translation>
+    </message>
+    <message>
+        <source>Farbe des Gitters</source>
+        <translation>Colour of the grid</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumColorSchemaModel</name>
+    <message>
+        <source>Gezählt von der ersten Woche der Seite an</source>
+        <translation>Counted from the first week of the page</translation>
+    </message>
+    <message>
+        <source>Feld</source>
+        <translation>Cell</translation>
+    </message>
+    <message>
+        <source>Hintergrund</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Textfarbe</source>
+        <translation>Text colour</translation>
+    </message>
+    <message>
+        <source>%1, gerade Wochen</source>
+        <translation>%1, even weeks</translation>
+    </message>
+    <message>
+        <source>%1, ungerade Wochen</source>
+        <translation>%1, odd weeks</translation>
+    </message>
+    <message>
+        <source>Kontrast %1 : 1, empfohlen mindestens %2 : 1</source>
+        <translation>Contrast %1 : 1, recommended at least %2 : 1</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumColumnHeadersEditor</name>
+    <message>
+        <source>Anzahl der Spalten</source>
+        <translation>Number of columns</translation>
+    </message>
+    <message>
+        <source> Spalten</source>
+        <translation> columns</translation>
+    </message>
+    <message>
+        <source>Spaltenüberschriften</source>
+        <translation>Column headings</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumContentConfigEditor</name>
+    <message>
+        <source>Feiertage</source>
+        <translation>Holidays</translation>
+    </message>
+    <message>
+        <source>%1 / %2</source>
+        <comment>BUTTON</comment>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Schulferien</source>
+        <translation>School holidays</translation>
+    </message>
+    <message>
+        <source>Eigene Einträge</source>
+        <translation>Own entries</translation>
+    </message>
+    <message>
+        <source>Land:</source>
+        <translation>Country:</translation>
+    </message>
+    <message>
+        <source>Bundesland:</source>
+        <translation>State:</translation>
+    </message>
+    <message>
+        <source>Jahr, mit dem der Kalender beginnt</source>
+        <translation>Year in which the calendar starts</translation>
+    </message>
+    <message>
+        <source>Monat, mit dem der Kalender beginnt</source>
+        <translation>Month in which the calendar starts</translation>
+    </message>
+    <message>
+        <source>nicht gewählt</source>
+        <translation>not chosen</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumFontEditor</name>
+    <message>
+        <source>Schriftgröße</source>
+        <comment>LABEL</comment>
+        <translation>Font size</translation>
+    </message>
+    <message>
+        <source>Schriftgröße Feiertage</source>
+        <comment>LABEL</comment>
+        <translation>Font size of holidays</translation>
+    </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumRenderer</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>%1 = Monat, %2 = Jahr. Englische Version wahrscheinlich: &apos;%2 %1&apos;</comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumRendererHolidays</name>
+    <message>
+        <source>d.M</source>
+        <comment>Format of Days: d means day, M means Month, yy means Jear</comment>
+        <translation>d.M</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1/%2: %3</source>
+        <translation>%1/%2: %3</translation>
+    </message>
+    <message>
+        <source>%1-%2: %3</source>
+        <translation>%1-%2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumRendererOneDayPerRow</name>
+    <message>
+        <source>%1 %2</source>
+        <comment>flip 1 and 2 to write &apos;1 KW&apos; instead of &apos;KW 1&apos; </comment>
+        <translation>%1 %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumRendererYear</name>
+    <message>
+        <source>Schuljahr %1</source>
+        <translation>Schuljahr %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumRendererYearOnly</name>
+    <message>
+        <source>Schuljahr </source>
+        <translation>Schuljahr </translation>
+    </message>
+</context>
+<context>
+    <name>MvCli</name>
+    <message>
+        <source>die Ausgabe lässt sich nicht schreiben</source>
+        <translation>the output cannot be written</translation>
+    </message>
+    <message>
+        <source>es fehlt der Befehl; erlaubt sind %1 (Hilfe: mvcalendar --help)</source>
+        <translation>the command is missing; allowed are %1 (help: mvcalendar --help)</translation>
+    </message>
+    <message>
+        <source>unbekannter Befehl „%1“; erlaubt sind %2</source>
+        <translation>unknown command “%1”; allowed are %2</translation>
+    </message>
+    <message>
+        <source>%1 (Hilfe: mvcalendar %2 --help)</source>
+        <translation>%1 (help: mvcalendar %2 --help)</translation>
+    </message>
+    <message>
+        <source>mvcalendar setzt und druckt Kalender.</source>
+        <translation>mvcalendar lays out and prints calendars.</translation>
+    </message>
+    <message>
+        <source>Befehle:</source>
+        <translation>Commands:</translation>
+    </message>
+    <message>
+        <source>Beispiele:</source>
+        <translation>Examples:</translation>
+    </message>
+    <message>
+        <source>Optionen eines Befehls: mvcalendar BEFEHL --help. Version: mvcalendar --version.</source>
+        <translation>Options of a command: mvcalendar COMMAND --help. Version: mvcalendar --version.</translation>
+    </message>
+    <message>
+        <source>Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch.</source>
+        <translation>Exit codes: 0 done; 1 something could not be read or written; 2 the call was wrong.</translation>
+    </message>
+    <message>
+        <source>Optionen:</source>
+        <translation>Options:</translation>
+    </message>
+</context>
+<context>
+    <name>MvCliArguments</name>
+    <message>
+        <source>„%1“ gehört zu keiner Option</source>
+        <translation>“%1” belongs to no option</translation>
+    </message>
+    <message>
+        <source>unbekannte Option %1</source>
+        <translation>unknown option %1</translation>
+    </message>
+    <message>
+        <source>%1 nimmt keinen Wert</source>
+        <translation>%1 takes no value</translation>
+    </message>
+    <message>
+        <source>%1 ist zweimal angegeben</source>
+        <translation>%1 is given twice</translation>
+    </message>
+    <message>
+        <source>nach %1 fehlt der Wert: %2</source>
+        <translation>the value after %1 is missing: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvCliCommand</name>
+    <message>
+        <source>Staat, Kürzel oder Name (DE)</source>
+        <translation>country, code or name (DE)</translation>
+    </message>
+    <message>
+        <source>Sprache, wo ein Staat mehrere hat: de, fr, it …</source>
+        <translation>language, where a country has several: de, fr, it …</translation>
+    </message>
+    <message>
+        <source>Bundesland, Kanton …, Kürzel oder Name: BY, Bayern</source>
+        <translation>state, canton …, code or name: BY, Bayern</translation>
+    </message>
+    <message>
+        <source>Ausgabe (text)</source>
+        <translation>output (text)</translation>
+    </message>
+    <message>
+        <source>LAND</source>
+        <translation>COUNTRY</translation>
+    </message>
+    <message>
+        <source>SPRACHE</source>
+        <translation>LANGUAGE</translation>
+    </message>
+</context>
+<context>
+    <name>MvCliValues</name>
+    <message>
+        <source>--%1 „%2“: erlaubt sind ganze Zahlen von %3 bis %4</source>
+        <translation>--%1 “%2”: allowed are whole numbers from %3 to %4</translation>
+    </message>
+    <message>
+        <source>--%1 „%2“: erlaubt sind 0 bis %3 Millimeter</source>
+        <translation>--%1 “%2”: allowed are 0 to %3 millimetres</translation>
+    </message>
+    <message>
+        <source>--%1 „%2“: erlaubt ist ein Monat wie 2026-08</source>
+        <translation>--%1 “%2”: allowed is a month such as 2026-08</translation>
+    </message>
+    <message>
+        <source>--%1 „%2“: erlaubt sind %3</source>
+        <translation>--%1 “%2”: allowed are %3</translation>
+    </message>
+    <message>
+        <source>--%1 und --%2 schließen einander aus</source>
+        <translation>--%1 and --%2 exclude each other</translation>
+    </message>
+    <message>
+        <source>--country „%1“: erlaubt sind %2</source>
+        <translation>--country “%1”: allowed are %2</translation>
+    </message>
+    <message>
+        <source>--language „%1“: erlaubt sind hier %2</source>
+        <translation>--language “%1”: allowed here are %2</translation>
+    </message>
+    <message>
+        <source>--region „%1“: %2 hat keine Regionen</source>
+        <translation>--region “%1”: %2 has no regions</translation>
+    </message>
+    <message>
+        <source>--region „%1“: erlaubt sind für %2 %3</source>
+        <translation>--region “%1”: allowed for %2 are %3</translation>
+    </message>
+</context>
+<context>
+    <name>MvColorPalettePopup</name>
+    <message>
+        <source>Farbpalette</source>
+        <translation>Colour palette</translation>
+    </message>
+    <message>
+        <source>Verwendete Farben</source>
+        <translation>Colours in use</translation>
+    </message>
+    <message>
+        <source>Farbtöne</source>
+        <translation>Hues</translation>
+    </message>
+    <message>
+        <source>Andere Farbe…</source>
+        <translation>Other colour…</translation>
+    </message>
+    <message>
+        <source>Farbe wählen</source>
+        <translation>Choose colour</translation>
+    </message>
+</context>
+<context>
+    <name>MvColorSchemaPicker</name>
+    <message>
+        <source>Farbschemata</source>
+        <translation>Colour schemes</translation>
+    </message>
+    <message>
+        <source>Eigene Farben</source>
+        <translation>Own colours</translation>
+    </message>
+</context>
+<context>
+    <name>MvColorSwatch</name>
+    <message>
+        <source>Durchsichtig</source>
+        <translation>Transparent</translation>
+    </message>
+    <message>
+        <source>Weiß</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>Schwarz</source>
+        <translation>Black</translation>
+    </message>
+    <message>
+        <source>%1, %2 % deckend</source>
+        <translation>%1, %2 % opaque</translation>
+    </message>
+</context>
+<context>
+    <name>MvColumnHeadersPanel</name>
+    <message>
+        <source>Dieses Layout hat keine Spalten mit Überschriften.</source>
+        <translation>This layout has no columns with headings.</translation>
+    </message>
+    <message>
+        <source>Layout „%1“ nehmen</source>
+        <translation>Use layout “%1”</translation>
+    </message>
+    <message>
+        <source>Spaltenüberschriften ändern</source>
+        <translation>Change column headings</translation>
+    </message>
+</context>
+<context>
+    <name>MvContentPanel</name>
+    <message>
+        <source>&amp;Kalenderwochen</source>
+        <translation>&amp;Calendar weeks</translation>
+    </message>
+    <message>
+        <source>Nur &amp;gesetzliche Feiertage</source>
+        <translation>Only &amp;public holidays</translation>
+    </message>
+    <message>
+        <source>&amp;Ferien an jedem Tag nennen</source>
+        <translation>Name &amp;school holidays on each day</translation>
+    </message>
+    <message>
+        <source>Ganzer Kalender</source>
+        <translation>Whole calendar</translation>
+    </message>
+    <message>
+        <source>Dieses Layout zeigt die Kalenderwochen immer.</source>
+        <translation>This layout always shows the calendar weeks.</translation>
+    </message>
+    <message>
+        <source>Beginn des Kalenders ändern</source>
+        <translation>Change the start of the calendar</translation>
+    </message>
+    <message>
+        <source>Feiertage und Einträge ändern</source>
+        <translation>Change holidays and entries</translation>
+    </message>
+    <message>
+        <source>Kalenderwochen ein- oder ausblenden</source>
+        <translation>Show or hide calendar weeks</translation>
+    </message>
+    <message>
+        <source>Anzahl der Monate ändern</source>
+        <translation>Change the number of months</translation>
+    </message>
+    <message>
+        <source>Seitenformat ändern</source>
+        <translation>Change the page format</translation>
+    </message>
+</context>
+<context>
+    <name>MvDialogRequestHandler</name>
+    <message>
+        <source>Ja</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>MvDiskAccessRequest</name>
+    <message>
+        <source>„%1“ ist keine lesbare Liste von Kalendereinträgen. Ihre Einträge wurden nicht verändert.</source>
+        <translation>“%1” is not a readable list of calendar entries. Your entries were not changed.</translation>
+    </message>
+    <message>
+        <source>Kalendereinträge</source>
+        <translation>Calendar entries</translation>
+    </message>
+    <message>
+        <source>Die Kalendereinträge ließen sich nicht in „%1“ sichern.</source>
+        <translation>The calendar entries could not be saved to “%1”.</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Foto, das gelesen werden kann.</source>
+        <translation>“%1” is not a photo that can be read.</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>Photo</translation>
+    </message>
+</context>
+<context>
+    <name>MvExportDialog</name>
+    <message>
+        <source>Als PDF exportieren</source>
+        <translation>Export as PDF</translation>
+    </message>
+    <message>
+        <source>Als Bilder exportieren</source>
+        <translation>Export as images</translation>
+    </message>
+    <message>
+        <source>&amp;Exportieren</source>
+        <translation>&amp;Export</translation>
+    </message>
+    <message>
+        <source>&amp;Durchsuchen …</source>
+        <translation>&amp;Browse …</translation>
+    </message>
+    <message>
+        <source>&amp;Datei:</source>
+        <translation>&amp;File:</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner:</source>
+        <translation>F&amp;older:</translation>
+    </message>
+    <message>
+        <source>%m Monat, %y Jahr, %n Nummer der Seite</source>
+        <translation>%m month, %y year, %n number of the page</translation>
+    </message>
+    <message>
+        <source>Datei&amp;namen:</source>
+        <translation>File &amp;names:</translation>
+    </message>
+    <message>
+        <source>Alle Seiten (%1)</source>
+        <translation>All pages (%1)</translation>
+    </message>
+    <message>
+        <source>Gezeigte Seite (%1)</source>
+        <translation>Page shown (%1)</translation>
+    </message>
+    <message>
+        <source>Auswahl:</source>
+        <translation>Selection:</translation>
+    </message>
+    <message>
+        <source>Seiten, die exportiert werden</source>
+        <translation>Pages to export</translation>
+    </message>
+    <message>
+        <source>zum Beispiel 1-3, 5</source>
+        <translation>for example 1-3, 5</translation>
+    </message>
+    <message>
+        <source>&amp;Seiten:</source>
+        <translation>&amp;Pages:</translation>
+    </message>
+    <message>
+        <source> dpi</source>
+        <translation> dpi</translation>
+    </message>
+    <message>
+        <source>&amp;Auflösung:</source>
+        <translation>&amp;Resolution:</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Welche Seiten? Schreiben Sie zum Beispiel 1-3, 5.</source>
+        <translation>Which pages? Write for example 1-3, 5.</translation>
+    </message>
+    <message>
+        <source>Wie soll die Datei heißen?</source>
+        <translation>What is the file to be called?</translation>
+    </message>
+    <message>
+        <source>Wohin sollen die Bilder, und wie sollen sie heißen?</source>
+        <translation>Where are the images to go, and what are they to be called?</translation>
+    </message>
+    <message>
+        <source>Den Ordner %1 gibt es nicht.</source>
+        <translation>The folder %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>In den Ordner %1 dürfen Sie nicht schreiben; wählen Sie einen anderen.</source>
+        <translation>You may not write to the folder %1; choose another one.</translation>
+    </message>
+    <message>
+        <source>%1 ist ein Ordner.</source>
+        <translation>%1 is a folder.</translation>
+    </message>
+    <message>
+        <source>Jedes Bild wird %1 × %2 Pixel groß.</source>
+        <translation>Each image will be %1 × %2 pixels large.</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt es schon; sie wird ersetzt.</source>
+        <translation>The file exists already; it will be replaced.</translation>
+    </message>
+    <message>
+        <source>Schon vorhanden und ersetzt werden: %1 Dateien.</source>
+        <translation>Files that exist already and will be replaced: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>MvExportFlow</name>
+    <message>
+        <source>Der Kalender hat keine Seiten zum Exportieren.</source>
+        <translation>The calendar has no pages to export.</translation>
+    </message>
+    <message>
+        <source>Diese Fotos sind nicht da oder lassen sich nicht lesen:</source>
+        <translation>These photos are missing or cannot be read:</translation>
+    </message>
+    <message>
+        <source>Ihre Plätze bleiben leer. Legen Sie die Dateien zurück, oder wählen Sie auf den Seiten andere Fotos.</source>
+        <translation>Their places stay empty. Put the files back, or choose other photos on the pages.</translation>
+    </message>
+    <message>
+        <source>Trotzdem exportieren</source>
+        <translation>Export anyway</translation>
+    </message>
+    <message>
+        <source>Exportieren</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Die Seiten werden geschrieben: %1</source>
+        <translation>Writing the pages: %1</translation>
+    </message>
+    <message>
+        <source>Export abgebrochen; nichts wurde geschrieben</source>
+        <translation>Export cancelled; nothing was written</translation>
+    </message>
+    <message>
+        <source>Export abgebrochen; fertig sind %1 Dateien</source>
+        <translation>Export cancelled; %1 files are done</translation>
+    </message>
+    <message>
+        <source>Der Kalender wurde nicht exportiert.</source>
+        <translation>The calendar was not exported.</translation>
+    </message>
+    <message>
+        <source>%1 Dateien in %2</source>
+        <translation>%1 files in %2</translation>
+    </message>
+    <message>
+        <source>Exportiert: %1</source>
+        <translation>Exported: %1</translation>
+    </message>
+    <message>
+        <source>Der Kalender ist exportiert: %1</source>
+        <translation>The calendar has been exported: %1</translation>
+    </message>
+    <message>
+        <source>Diese Texte hatten keinen Platz und sind gekürzt:</source>
+        <translation>These texts had no room and are shortened:</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner öffnen</source>
+        <translation>&amp;Open folder</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvExportTarget</name>
+    <message>
+        <source>%1: die Endung muss .pdf, .png oder .svg sein</source>
+        <translation>%1: the name must end in .pdf, .png or .svg</translation>
+    </message>
+    <message>
+        <source>%1: den Ordner %2 gibt es nicht</source>
+        <translation>%1: the folder %2 does not exist</translation>
+    </message>
+    <message>
+        <source>%1: in %2 lässt sich nicht schreiben</source>
+        <translation>%1: %2 cannot be written to</translation>
+    </message>
+    <message>
+        <source>%1 ist ein Ordner</source>
+        <translation>%1 is a folder</translation>
+    </message>
+</context>
+<context>
+    <name>MvFileDescriptor</name>
+    <message>
+        <source>Der Datenträger ist voll.</source>
+        <translation>The disk is full.</translation>
+    </message>
+    <message>
+        <source>Der zugeteilte Speicherplatz ist verbraucht.</source>
+        <translation>The disk quota is used up.</translation>
+    </message>
+    <message>
+        <source>Die Datei wäre größer als erlaubt.</source>
+        <translation>The file would be larger than allowed.</translation>
+    </message>
+    <message>
+        <source>Im Ordner darf nicht geschrieben werden.</source>
+        <translation>The folder may not be written to.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger ist schreibgeschützt.</source>
+        <translation>The disk is write-protected.</translation>
+    </message>
+    <message>
+        <source>Den Ordner gibt es nicht.</source>
+        <translation>The folder does not exist.</translation>
+    </message>
+    <message>
+        <source>Der Dateiname ist zu lang.</source>
+        <translation>The file name is too long.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen gibt es einen Ordner.</source>
+        <translation>There is a folder of this name.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger meldet einen Fehler.</source>
+        <translation>The disk reports an error.</translation>
+    </message>
+</context>
+<context>
+    <name>MvFileNamePattern</name>
+    <message>
+        <source>%1: unbekannter Platzhalter; erlaubt sind %m (Monat), %y (Jahr), %n (Seite) und %% (Prozentzeichen)</source>
+        <translation>%1: unknown placeholder; allowed are %m (month), %y (year), %n (page) and %% (percent sign)</translation>
+    </message>
+    <message>
+        <source>%1: bei %2 Seiten braucht der Dateiname einen Platzhalter, der sie unterscheidet: %n (Seite), %m (Monat) oder %y-%m</source>
+        <translation>%1: with %2 pages the file name needs a placeholder that tells them apart: %n (page), %m (month) or %y-%m</translation>
+    </message>
+</context>
+<context>
+    <name>MvFontFamilyBox</name>
+    <message>
+        <source>Schrift des Layouts</source>
+        <translation>Font of the layout</translation>
+    </message>
+    <message>
+        <source>Auf diesem Computer nicht installiert</source>
+        <translation>Not installed on this computer</translation>
+    </message>
+    <message>
+        <source>%1, nicht installiert</source>
+        <translation>%1, not installed</translation>
+    </message>
+    <message>
+        <source>Die Schrift „%1“ ist auf diesem Computer nicht installiert; gezeigt und gedruckt wird eine Ersatzschrift.</source>
+        <translation>The font “%1” is not installed on this computer; a substitute is shown and printed.</translation>
+    </message>
+    <message>
+        <source>Ohne Eintrag gilt die Schrift des Layouts.</source>
+        <translation>Left empty, the font of the layout is used.</translation>
+    </message>
+</context>
+<context>
+    <name>MvFontPanel</name>
+    <message>
+        <source>Schrift des &amp;Layouts</source>
+        <translation>Font of the &amp;layout</translation>
+    </message>
+    <message>
+        <source>Nimmt wieder die Schriften und Größen, für die das Layout gemacht ist</source>
+        <translation>Returns to the fonts and sizes that the layout is made for</translation>
+    </message>
+    <message>
+        <source>Schrift ändern</source>
+        <translation>Change font</translation>
+    </message>
+    <message>
+        <source>Schrift des Layouts nehmen</source>
+        <translation>Use the font of the layout</translation>
+    </message>
+</context>
+<context>
+    <name>MvGraphicsItemCalendariumCell</name>
+    <message>
+        <source>Klicken um eigenen Eintrag am %1 zu erstellen</source>
+        <translation>Click to create an entry of your own on %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvGraphicsItemCalendariumCellsManager</name>
+    <message>
+        <source>Eigene Einträge bearbeiten</source>
+        <translation>Edit own entries</translation>
+    </message>
+    <message>
+        <source>„%1“ bearbeiten…</source>
+        <translation>Edit “%1”…</translation>
+    </message>
+    <message>
+        <source>Neuen Eintrag am %1 erstellen…</source>
+        <translation>Create new entry on %1…</translation>
+    </message>
+</context>
+<context>
+    <name>MvHelpDialogs</name>
+    <message>
+        <source>Tastenkürzel</source>
+        <translation>Keyboard shortcuts</translation>
+    </message>
+    <message>
+        <source>Was</source>
+        <translation>What</translation>
+    </message>
+    <message>
+        <source>Tasten</source>
+        <translation>Keys</translation>
+    </message>
+    <message>
+        <source>Wozu</source>
+        <translation>Purpose</translation>
+    </message>
+    <message>
+        <source>Über MvCalendar</source>
+        <translation>About MvCalendar</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;MvCalendar %1&lt;/h2&gt;&lt;p&gt;Gestaltet Fotokalender und druckt sie: als PDF, als Bilder und auf Papier.&lt;/p&gt;&lt;p&gt;Gebaut mit Qt %2 und qpdf. Schriften: Lato und EB Garamond (SIL Open Font License). Ein Teil der Schulferien stammt aus einer Sammlung unter der Open Database License; Näheres steht in docs/third-party.md.&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;MvCalendar %1&lt;/h2&gt;&lt;p&gt;Designs photo calendars and prints them: as PDF, as images and on paper.&lt;/p&gt;&lt;p&gt;Built with Qt %2 and qpdf. Fonts: Lato and EB Garamond (SIL Open Font License). Part of the school holidays comes from a collection under the Open Database License; docs/third-party.md tells more.&lt;/p&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>MvHolidayRuleParser</name>
+    <message>
+        <source>leere Regel</source>
+        <translation>empty rule</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist kein Anfang einer Regel</source>
+        <translation>&quot;%1&quot; does not begin a rule</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist kein gezählter Wochentag</source>
+        <translation>&quot;%1&quot; is not a counted day of the week</translation>
+    </message>
+    <message>
+        <source>nach &quot;%1&quot; wird &quot;in&quot; erwartet, nicht &quot;%2&quot;</source>
+        <translation>after &quot;%1&quot;, &quot;in&quot; is expected, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist kein Monat</source>
+        <translation>&quot;%1&quot; is not a month</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist keine Bedingung</source>
+        <translation>&quot;%1&quot; is not a condition</translation>
+    </message>
+    <message>
+        <source>nach &quot;if %1&quot; wird &quot;then&quot; erwartet, nicht &quot;%2&quot;</source>
+        <translation>after &quot;if %1&quot;, &quot;then&quot; is expected, not &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist zu weit</source>
+        <translation>&quot;%1&quot; is too far</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist kein Schritt einer Regel</source>
+        <translation>&quot;%1&quot; is not a step of a rule</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist kein Wochentag</source>
+        <translation>&quot;%1&quot; is not a day of the week</translation>
+    </message>
+</context>
+<context>
+    <name>MvHolidayTableReader</name>
+    <message numerus="yes">
+        <source> (und %n weitere Fehler in dieser Datei)</source>
+        <translation>
+            <numerusform> (and %n more error in this file)</numerusform>
+            <numerusform> (and %n more errors in this file)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; statt &quot;%2&quot;</source>
+        <translation>&quot;%1&quot; instead of &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Land ohne Kennung oder Sprache</source>
+        <translation>country without code or language</translation>
+    </message>
+    <message>
+        <source>Region ohne eigene Kennung</source>
+        <translation>region without a code of its own</translation>
+    </message>
+    <message>
+        <source>Feiertag ohne Namen</source>
+        <translation>holiday without a name</translation>
+    </message>
+    <message>
+        <source>Feiertag &quot;%1&quot; hat eine unbekannte Art</source>
+        <translation>holiday &quot;%1&quot; is of an unknown kind</translation>
+    </message>
+    <message>
+        <source>Feiertag &quot;%1&quot;: %2</source>
+        <translation>holiday &quot;%1&quot;: %2</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ist kein Jahr</source>
+        <translation>&quot;%1&quot; is not a year</translation>
+    </message>
+    <message>
+        <source>unbekannte Region &quot;%1&quot;</source>
+        <translation>unknown region &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Ferien ohne Namen, Anfang oder Ende</source>
+        <translation>school holidays without name, start or end</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; endet vor dem Anfang oder dauert zu lange</source>
+        <translation>&quot;%1&quot; ends before it starts or lasts too long</translation>
+    </message>
+</context>
+<context>
+    <name>MvHolidaysCommand</name>
+    <message>
+        <source>Feiertag</source>
+        <translation>holiday</translation>
+    </message>
+    <message>
+        <source>teils frei</source>
+        <translation>partly free</translation>
+    </message>
+    <message>
+        <source>Gedenktag</source>
+        <translation>observance</translation>
+    </message>
+    <message>
+        <source>Ferien</source>
+        <translation>school holidays</translation>
+    </message>
+    <message>
+        <source>gibt Feiertage und Schulferien aus</source>
+        <translation>lists public and school holidays</translation>
+    </message>
+    <message>
+        <source>Jahr (das kommende)</source>
+        <translation>year (the coming one)</translation>
+    </message>
+    <message>
+        <source>letztes Jahr, wenn es mehrere sind</source>
+        <translation>last year, if there are several</translation>
+    </message>
+    <message>
+        <source>--to „%1“: erlaubt sind %2 bis %3</source>
+        <translation>--to “%1”: allowed are %2 to %3</translation>
+    </message>
+    <message>
+        <source>JAHR</source>
+        <translation>YEAR</translation>
+    </message>
+</context>
+<context>
+    <name>MvLayoutChooser</name>
+    <message>
+        <source>Layouts</source>
+        <translation>Layouts</translation>
+    </message>
+</context>
+<context>
+    <name>MvLayoutPanel</name>
+    <message>
+        <source>&amp;Layout</source>
+        <translation>&amp;Layout</translation>
+    </message>
+    <message>
+        <source>Far&amp;ben</source>
+        <translation>&amp;Colours</translation>
+    </message>
+    <message>
+        <source>Farbschema ändern</source>
+        <translation>Change colour scheme</translation>
+    </message>
+    <message>
+        <source>Farben ändern</source>
+        <translation>Change colours</translation>
+    </message>
+</context>
+<context>
+    <name>MvNearMiss</name>
+    <message>
+        <source> – meinten Sie „%1“?</source>
+        <translation> – did you mean “%1”?</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageCanvas</name>
+    <message>
+        <source>Kalenderseite</source>
+        <translation>Calendar page</translation>
+    </message>
+    <message>
+        <source>Foto für den %1</source>
+        <translation>Photo for %1</translation>
+    </message>
+    <message>
+        <source>Foto der Seite</source>
+        <translation>Photo of the page</translation>
+    </message>
+    <message>
+        <source>Loslassen setzt das Foto ein. Mit gedrückter Umschalttaste wird es das Foto der Seite.</source>
+        <translation>Drop to insert the photo. With the Shift key pressed it becomes the photo of the page.</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2: %3</source>
+        <translation>Page %1 of %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageEdits</name>
+    <message>
+        <source>Layout ändern</source>
+        <translation>Change layout</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageItem</name>
+    <message>
+        <source>„%1“ lässt sich nicht lesen.
+Das Kontextmenü ersetzt das Foto durch ein anderes.</source>
+        <translation>“%1” cannot be read.
+The context menu replaces the photo by another one.</translation>
+    </message>
+    <message>
+        <source>Das Foto wird geladen …</source>
+        <translation>Loading the photo …</translation>
+    </message>
+</context>
+<context>
+    <name>MvPagePhoto</name>
+    <message>
+        <source>Foto für die Seite wählen</source>
+        <translation>Choose a photo for the page</translation>
+    </message>
+    <message>
+        <source>Fotos (%1)</source>
+        <translation>Photos (%1)</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>All files (*)</translation>
+    </message>
+    <message>
+        <source>Foto einfügen</source>
+        <translation>Insert photo</translation>
+    </message>
+    <message>
+        <source>„%1“ ist jetzt das Foto der Seite.</source>
+        <translation>“%1” is now the photo of the page.</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Foto, das gelesen werden kann. Möglich sind JPEG, PNG, TIFF, WebP, BMP und GIF.</source>
+        <translation>“%1” is not a photo that can be read. JPEG, PNG, TIFF, WebP, BMP and GIF are possible.</translation>
+    </message>
+    <message>
+        <source>Foto entfernen</source>
+        <translation>Remove photo</translation>
+    </message>
+    <message>
+        <source>Foto &amp;ersetzen…</source>
+        <translation>R&amp;eplace photo…</translation>
+    </message>
+    <message>
+        <source>&amp;Foto für die Seite wählen…</source>
+        <translation>Choose a p&amp;hoto for the page…</translation>
+    </message>
+    <message>
+        <source>&amp;Platz des Fotos</source>
+        <translation>&amp;Place of the photo</translation>
+    </message>
+    <message>
+        <source>&amp;Größe des Fotos</source>
+        <translation>&amp;Size of the photo</translation>
+    </message>
+    <message>
+        <source>Ausschnitt &amp;zur Mitte</source>
+        <translation>&amp;Centre the crop</translation>
+    </message>
+    <message>
+        <source>Ausschnitt des Fotos verschieben</source>
+        <translation>Move the crop of the photo</translation>
+    </message>
+    <message>
+        <source>Foto ent&amp;fernen</source>
+        <translation>&amp;Remove photo</translation>
+    </message>
+    <message>
+        <source>Platz des Fotos ändern</source>
+        <translation>Change the place of the photo</translation>
+    </message>
+    <message>
+        <source>&amp;Oben</source>
+        <translation>&amp;Top</translation>
+    </message>
+    <message>
+        <source>&amp;Links</source>
+        <translation>&amp;Left</translation>
+    </message>
+    <message>
+        <source>&amp;Rechts</source>
+        <translation>&amp;Right</translation>
+    </message>
+    <message>
+        <source>%1 % der Seite</source>
+        <translation>%1 % of the page</translation>
+    </message>
+    <message>
+        <source>Größe des Fotos ändern</source>
+        <translation>Change the size of the photo</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageRange</name>
+    <message>
+        <source>„%1“ sind keine Seiten; schreiben Sie zum Beispiel 1-3, 5</source>
+        <translation>“%1” are not pages; write for example 1-3, 5</translation>
+    </message>
+    <message>
+        <source>„%1“: es gibt die Seiten 1 bis %2</source>
+        <translation>“%1”: there are pages 1 to %2</translation>
+    </message>
+    <message>
+        <source>keine Seite gewählt</source>
+        <translation>no page chosen</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageSetupEditor</name>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Erster Monat</source>
+        <translation>First month</translation>
+    </message>
+    <message>
+        <source>Jahr des ersten Monats</source>
+        <translation>Year of the first month</translation>
+    </message>
+    <message>
+        <source>&amp;Erster Monat:</source>
+        <translation>&amp;First month:</translation>
+    </message>
+    <message>
+        <source>&amp;Monate:</source>
+        <translation>&amp;Months:</translation>
+    </message>
+    <message>
+        <source>Eigenes Format</source>
+        <translation>Custom format</translation>
+    </message>
+    <message>
+        <source>Querformat</source>
+        <translation>Landscape</translation>
+    </message>
+    <message>
+        <source>Hochformat</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Breite des Papiers</source>
+        <translation>Width of the paper</translation>
+    </message>
+    <message>
+        <source>Höhe des Papiers</source>
+        <translation>Height of the paper</translation>
+    </message>
+    <message>
+        <source>Was an jeder Kante über das fertige Blatt hinaus gedruckt und abgeschnitten wird</source>
+        <translation>What is printed beyond the finished sheet at each edge and cut off</translation>
+    </message>
+    <message>
+        <source>&amp;Papier:</source>
+        <translation>&amp;Paper:</translation>
+    </message>
+    <message>
+        <source>&amp;Ausrichtung:</source>
+        <translation>&amp;Orientation:</translation>
+    </message>
+    <message>
+        <source>&amp;Breite und Höhe:</source>
+        <translation>&amp;Width and height:</translation>
+    </message>
+    <message>
+        <source>Be&amp;schnitt:</source>
+        <translation>&amp;Bleed:</translation>
+    </message>
+    <message>
+        <source>bis %1</source>
+        <translation>to %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageSource</name>
+    <message>
+        <source>Die Seite hat keine Größe</source>
+        <translation>The page has no size</translation>
+    </message>
+    <message>
+        <source>Der Kalender hat keine Seiten</source>
+        <translation>The calendar has no pages</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageStrip</name>
+    <message>
+        <source>Seiten</source>
+        <translation>Pages</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageStripModel</name>
+    <message>
+        <source>Seite %1: %2</source>
+        <translation>Page %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvPdfBoxes</name>
+    <message>
+        <source>Die Zwischendatei ist unvollständig</source>
+        <translation>The intermediate file is incomplete</translation>
+    </message>
+</context>
+<context>
+    <name>MvPdfExporter</name>
+    <message>
+        <source>Die Seiten lassen sich nicht zeichnen</source>
+        <translation>The pages cannot be drawn</translation>
+    </message>
+    <message>
+        <source>Seite %1 lässt sich nicht anlegen</source>
+        <translation>Page %1 cannot be created</translation>
+    </message>
+</context>
+<context>
+    <name>MvPhotoHandle</name>
+    <message>
+        <source>Größe des Fotos ändern</source>
+        <translation>Change the size of the photo</translation>
+    </message>
+    <message>
+        <source>Ausschnitt des Fotos verschieben</source>
+        <translation>Move the crop of the photo</translation>
+    </message>
+</context>
+<context>
+    <name>MvPhotoPainter</name>
+    <message>
+        <source>Foto fehlt</source>
+        <translation>Photo missing</translation>
+    </message>
+</context>
+<context>
+    <name>MvPngExporter</name>
+    <message>
+        <source>%1 Punkte je Zoll gehen nicht; erlaubt sind %2 bis %3</source>
+        <translation>%1 dots per inch are not possible; allowed are %2 to %3</translation>
+    </message>
+    <message>
+        <source>Die Seite wäre %1 × %2 Bildpunkte groß; erlaubt sind %3 je Seite</source>
+        <translation>The page would be %1 × %2 pixels large; allowed are %3 per page</translation>
+    </message>
+    <message>
+        <source>Der Speicher reicht nicht für eine Seite</source>
+        <translation>There is not enough memory for a page</translation>
+    </message>
+</context>
+<context>
+    <name>MvPrintFlow</name>
+    <message>
+        <source>Der Kalender hat keine Seiten zum Drucken.</source>
+        <translation>The calendar has no pages to print.</translation>
+    </message>
+    <message>
+        <source>Auf diesem Rechner ist kein Drucker eingerichtet.</source>
+        <translation>No printer is set up on this computer.</translation>
+    </message>
+    <message>
+        <source>Sie können den Kalender als PDF exportieren und anderswo drucken lassen, oder sich ansehen, wie er gedruckt aussähe.</source>
+        <translation>You can export the calendar as a PDF and have it printed elsewhere, or look at how it would be printed.</translation>
+    </message>
+    <message>
+        <source>Als &amp;PDF exportieren …</source>
+        <translation>Export as &amp;PDF …</translation>
+    </message>
+    <message>
+        <source>&amp;Vorschau</source>
+        <translation>Pre&amp;view</translation>
+    </message>
+    <message>
+        <source>Druckvorschau</source>
+        <translation>Print preview</translation>
+    </message>
+</context>
+<context>
+    <name>MvProgressDialog</name>
+    <message>
+        <source>Wird abgebrochen …</source>
+        <translation>Cancelling …</translation>
+    </message>
+</context>
+<context>
+    <name>MvProject</name>
+    <message>
+        <source>Das Projekt hat noch keine Datei.</source>
+        <translation>The project has no file yet.</translation>
+    </message>
+    <message>
+        <source>Unbenannt</source>
+        <translation>Untitled</translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectAutosave</name>
+    <message>
+        <source>In %1 lässt sich nicht schreiben.</source>
+        <translation>%1 cannot be written to.</translation>
+    </message>
+    <message>
+        <source>Die Sicherung für den Notfall ist misslungen: %1</source>
+        <translation>The emergency copy failed: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectFlow</name>
+    <message>
+        <source>Kalender (*.%1)</source>
+        <translation>Calendars (*.%1)</translation>
+    </message>
+    <message>
+        <source>Kalender %1</source>
+        <translation>Calendar %1</translation>
+    </message>
+    <message>
+        <source>Kalender %1 bis %2</source>
+        <translation>Calendar %1 to %2</translation>
+    </message>
+    <message>
+        <source>Neuer Kalender</source>
+        <translation>New calendar</translation>
+    </message>
+    <message>
+        <source>Kalender öffnen</source>
+        <translation>Open calendar</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt es nicht mehr: %1</source>
+        <translation>The file no longer exists: %1</translation>
+    </message>
+    <message>
+        <source>Vielleicht wurde sie verschoben oder umbenannt. Suchen Sie sie über Datei &gt; Öffnen.</source>
+        <translation>It may have been moved or renamed. Look for it with File &gt; Open.</translation>
+    </message>
+    <message>
+        <source>Der Kalender lässt sich nicht öffnen.</source>
+        <translation>The calendar cannot be opened.</translation>
+    </message>
+    <message>
+        <source>%1 geöffnet</source>
+        <translation>%1 opened</translation>
+    </message>
+    <message>
+        <source>Nicht alles konnte so übernommen werden, wie es in der Datei steht.</source>
+        <translation>Not everything could be taken over as it stands in the file.</translation>
+    </message>
+    <message>
+        <source>„%1“ wurde geändert.</source>
+        <translation>“%1” was changed.</translation>
+    </message>
+    <message>
+        <source>Sollen die Änderungen gespeichert werden? Verworfenes ist nicht wiederzubekommen.</source>
+        <translation>Save the changes? What is discarded cannot be brought back.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 wurde inzwischen von anderer Hand geändert oder gelöscht.</source>
+        <translation>The file %1 has meanwhile been changed or deleted by someone else.</translation>
+    </message>
+    <message>
+        <source>Ersetzen Sie sie durch Ihren Stand, oder speichern Sie ihn unter einem anderen Namen.</source>
+        <translation>Replace it by your version, or save yours under another name.</translation>
+    </message>
+    <message>
+        <source>Ersetzen</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Anderer Name …</source>
+        <translation>Other name …</translation>
+    </message>
+    <message>
+        <source>Kalender speichern</source>
+        <translation>Save calendar</translation>
+    </message>
+    <message>
+        <source>Der Kalender wurde nicht gespeichert.</source>
+        <translation>The calendar was not saved.</translation>
+    </message>
+    <message>
+        <source>%1
+Speichern Sie ihn unter einem anderen Namen oder in einem anderen Ordner.</source>
+        <translation>%1
+Save it under another name or in another folder.</translation>
+    </message>
+    <message>
+        <source>%1 gespeichert</source>
+        <translation>%1 saved</translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectReader</name>
+    <message>
+        <source>Das ist kein Kalenderprojekt; die Datei beginnt mit „%1“.</source>
+        <translation>This is not a calendar project; the file begins with “%1”.</translation>
+    </message>
+    <message>
+        <source>Das Projekt stammt aus einer neueren Fassung des Programms. Bitte das Programm aktualisieren.</source>
+        <translation>The project was made by a newer version of the program. Please update the program.</translation>
+    </message>
+    <message>
+        <source>Den Monat %1 gibt es zweimal; die zweite Seite bleibt weg.</source>
+        <translation>The month %1 occurs twice; the second page is left out.</translation>
+    </message>
+    <message>
+        <source>Der Monat %1 liegt außerhalb des Kalenders; die Seite bleibt weg.</source>
+        <translation>The month %1 lies outside the calendar; the page is left out.</translation>
+    </message>
+    <message>
+        <source>Das Projekt enthält keine Seiten.</source>
+        <translation>The project contains no pages.</translation>
+    </message>
+    <message>
+        <source>Der Kalender reicht über mehr als %1 Monate.</source>
+        <translation>The calendar covers more than %1 months.</translation>
+    </message>
+    <message>
+        <source>Die Papiergröße fehlt oder geht nicht; es wird A4 quer.</source>
+        <translation>The paper size is missing or impossible; A4 landscape is used.</translation>
+    </message>
+    <message>
+        <source>Der Zeitraum ist nicht lesbar; es gilt der der Seiten.</source>
+        <translation>The period cannot be read; that of the pages is used.</translation>
+    </message>
+    <message>
+        <source>Das Layout „%1“ gibt es hier nicht; bis es wieder da ist, steht „%2“ an seiner Stelle.</source>
+        <translation>The layout “%1” does not exist here; until it is back, “%2” stands in its place.</translation>
+    </message>
+    <message>
+        <source>Das Farbschema „%1“ gibt es hier nicht; bis es wieder da ist, tritt ein anderes an seine Stelle.</source>
+        <translation>The colour scheme “%1” does not exist here; until it is back, another one takes its place.</translation>
+    </message>
+    <message>
+        <source>Die Sprache fehlt oder ist unbekannt; es wird Deutsch.</source>
+        <translation>The language is missing or unknown; German is used.</translation>
+    </message>
+    <message>
+        <source>Wo das Foto steht, ist nicht lesbar; es kommt nach oben.</source>
+        <translation>The place of the photo cannot be read; it goes to the top.</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Monat wie 2027-01.</source>
+        <translation>“%1” is not a month such as 2027-01.</translation>
+    </message>
+    <message>
+        <source>Eine frühere Fassung liegt daneben: %1</source>
+        <translation>An earlier version lies beside it: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectRecovery</name>
+    <message>
+        <source>Der Stand ist schon in einem anderen Fenster geöffnet.</source>
+        <translation>This version is open in another window already.</translation>
+    </message>
+</context>
+<context>
+    <name>MvRecoveryDialog</name>
+    <message>
+        <source>Nicht Gespeichertes wiederherstellen</source>
+        <translation>Recover unsaved work</translation>
+    </message>
+    <message>
+        <source>Das Programm wurde beim letzten Mal nicht richtig beendet. Diese Kalender waren noch nicht gespeichert:</source>
+        <translation>The program did not end properly last time. These calendars had not been saved yet:</translation>
+    </message>
+    <message>
+        <source>Nicht gespeicherte Kalender</source>
+        <translation>Unsaved calendars</translation>
+    </message>
+    <message>
+        <source>Kalender</source>
+        <translation>Calendar</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>As of</translation>
+    </message>
+    <message>
+        <source>Datei</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>noch nie gespeichert</source>
+        <translation>never saved yet</translation>
+    </message>
+    <message>
+        <source>Unbenannt</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Später entscheiden</source>
+        <translation>Decide later</translation>
+    </message>
+</context>
+<context>
+    <name>MvRegionsCommand</name>
+    <message>
+        <source>zählt Staaten und Regionen auf, deren Feiertage bekannt sind</source>
+        <translation>lists the countries and regions whose holidays are known</translation>
+    </message>
+    <message>
+        <source>Ferien bis %1</source>
+        <translation>school holidays until %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvRenderCommand</name>
+    <message>
+        <source>--%1 „%2“: erlaubt sind %3</source>
+        <translation>--%1 “%2”: allowed are %3</translation>
+    </message>
+    <message>
+        <source>Kalender %1</source>
+        <translation>Calendar %1</translation>
+    </message>
+    <message>
+        <source>Kalender %1 bis %2</source>
+        <translation>Calendar %1 to %2</translation>
+    </message>
+    <message>
+        <source>druckt einen Kalender in Dateien</source>
+        <translation>prints a calendar into files</translation>
+    </message>
+    <message>
+        <source>Januar bis Dezember dieses Jahres (das kommende)</source>
+        <translation>January to December of this year (the coming one)</translation>
+    </message>
+    <message>
+        <source>erster Monat, statt --year</source>
+        <translation>first month, instead of --year</translation>
+    </message>
+    <message>
+        <source>wie viele Monate ab --from (12)</source>
+        <translation>how many months from --from (12)</translation>
+    </message>
+    <message>
+        <source>nur gesetzliche Feiertage</source>
+        <translation>public holidays only</translation>
+    </message>
+    <message>
+        <source>auch Schulferien</source>
+        <translation>school holidays too</translation>
+    </message>
+    <message>
+        <source>keine Feiertage</source>
+        <translation>no holidays</translation>
+    </message>
+    <message>
+        <source>Layout, siehe layouts</source>
+        <translation>layout, see layouts</translation>
+    </message>
+    <message>
+        <source>Farbschema, siehe colors</source>
+        <translation>colour scheme, see colors</translation>
+    </message>
+    <message>
+        <source>Spalten einer Tagesliste, mit Kommas getrennt, statt der des Layouts</source>
+        <translation>columns of a list of days, separated by commas, instead of those of the layout</translation>
+    </message>
+    <message>
+        <source>Schriftfamilie statt der des Layouts</source>
+        <translation>font family instead of that of the layout</translation>
+    </message>
+    <message>
+        <source>A0 bis A6 oder Breite und Höhe in Millimetern, 300x200 (A4)</source>
+        <translation>A0 to A6, or width and height in millimetres, 300x200 (A4)</translation>
+    </message>
+    <message>
+        <source>Querformat (so bei A0 bis A6)</source>
+        <translation>landscape (as A0 to A6 are)</translation>
+    </message>
+    <message>
+        <source>Hochformat</source>
+        <translation>portrait</translation>
+    </message>
+    <message>
+        <source>Beschnitt an jeder Kante, nur im PDF (0)</source>
+        <translation>bleed at each edge, in the PDF only (0)</translation>
+    </message>
+    <message>
+        <source>persönliche Einträge aus dieser Datei</source>
+        <translation>personal entries from this file</translation>
+    </message>
+    <message>
+        <source>die eigenen persönlichen Einträge</source>
+        <translation>your own personal entries</translation>
+    </message>
+    <message>
+        <source>Titel der Dateien (Kalender 2027)</source>
+        <translation>title of the files (Calendar 2027)</translation>
+    </message>
+    <message>
+        <source>Verfasser im PDF</source>
+        <translation>author in the PDF</translation>
+    </message>
+    <message>
+        <source>Punkte je Zoll der PNG-Dateien (300)</source>
+        <translation>dots per inch of the PNG files (300)</translation>
+    </message>
+    <message>
+        <source>json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien und Texte ohne Platz nennt</source>
+        <translation>json: instead of the file names, prints a JSON object that names files and texts without room</translation>
+    </message>
+    <message>
+        <source>-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt</source>
+        <translation>-o: .pdf, or .png and .svg for each page; %m month, %y year, %n page; may be repeated</translation>
+    </message>
+    <message>
+        <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png oder .svg</source>
+        <translation>-o FILE is missing; allowed are names that end in .pdf, .png or .svg</translation>
+    </message>
+    <message>
+        <source>--page „%1“: erlaubt sind %2 oder Breite und Höhe in Millimetern wie 300x200 (20 bis 3000)</source>
+        <translation>--page “%1”: allowed are %2, or width and height in millimetres such as 300x200 (20 to 3000)</translation>
+    </message>
+    <message>
+        <source>Layouts und Farbschemata fehlen; das Programm ist unvollständig installiert</source>
+        <translation>layouts and colour schemes are missing; the program is not installed completely</translation>
+    </message>
+    <message>
+        <source>--columns: das Layout „%1“ hat keine Spalten zum Eintragen, nur Tageslisten haben welche</source>
+        <translation>--columns: the layout “%1” has no columns to write in, only lists of days have</translation>
+    </message>
+    <message>
+        <source>--columns: %1 Namen; erlaubt sind höchstens %2</source>
+        <translation>--columns: %1 names; allowed are at most %2</translation>
+    </message>
+    <message>
+        <source>%1: keine Einträge gefunden</source>
+        <translation>%1: no entries found</translation>
+    </message>
+    <message>
+        <source>Schrift nicht installiert, eine andere tritt an ihre Stelle: %1</source>
+        <translation>font not installed, another takes its place: %1</translation>
+    </message>
+    <message>
+        <source>29. Februar gibt es im gedruckten Zeitraum nicht: %1</source>
+        <translation>29 February does not occur in the printed period: %1</translation>
+    </message>
+    <message>
+        <source>JAHR</source>
+        <translation>YEAR</translation>
+    </message>
+    <message>
+        <source>JAHR-MONAT</source>
+        <translation>YEAR-MONTH</translation>
+    </message>
+    <message>
+        <source>ZAHL</source>
+        <translation>NUMBER</translation>
+    </message>
+    <message>
+        <source>NAMEN</source>
+        <translation>NAMES</translation>
+    </message>
+    <message>
+        <source>FAMILIE</source>
+        <translation>FAMILY</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>ein Projekt; Zeitraum, Feiertage, Aussehen, Fotos und Papier stehen darin</source>
+        <translation>a project; it holds period, holidays, look, photos and paper</translation>
+    </message>
+    <message>
+        <source>--%1 und --project schließen einander aus: das steht im Projekt</source>
+        <translation>--%1 and --project exclude each other: this is in the project</translation>
+    </message>
+</context>
+<context>
+    <name>MvRenderReport</name>
+    <message>
+        <source>Texte ohne Platz: %1, der erste am %2; --report json nennt alle</source>
+        <translation>texts without room: %1, the first on %2; --report json names all</translation>
+    </message>
+    <message>
+        <source>Foto fehlt oder ist nicht lesbar: %1</source>
+        <translation>photo missing or not readable: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvSafeFileWriter</name>
+    <message>
+        <source>%1 konnte nicht gespeichert werden: %2</source>
+        <translation>%1 could not be saved: %2</translation>
+    </message>
+    <message>
+        <source>Die bisherige Fassung ist nicht lesbar.</source>
+        <translation>The previous version cannot be read.</translation>
+    </message>
+    <message>
+        <source>Von der bisherigen Fassung lässt sich keine Sicherung anlegen.</source>
+        <translation>No backup of the previous version can be made.</translation>
+    </message>
+    <message>
+        <source>Die bisherige Fassung liegt in %1.</source>
+        <translation>The previous version is in %1.</translation>
+    </message>
+    <message>
+        <source>Die Verknüpfung führt im Kreis.</source>
+        <translation>The link leads in a circle.</translation>
+    </message>
+    <message>
+        <source>Das ist keine gewöhnliche Datei.</source>
+        <translation>This is not a regular file.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist schreibgeschützt.</source>
+        <translation>The file is write-protected.</translation>
+    </message>
+    <message>
+        <source>Von %1 ließ sich keine Sicherung anlegen.</source>
+        <translation>No backup of %1 could be made.</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 ließ sich nicht auf den Datenträger schreiben.</source>
+        <translation>The folder %1 could not be written to the disk.</translation>
+    </message>
+</context>
+<context>
+    <name>MvSchemaListCommand</name>
+    <message>
+        <source>zählt die Layouts auf</source>
+        <translation>lists the layouts</translation>
+    </message>
+    <message>
+        <source>zählt die Farbschemata auf</source>
+        <translation>lists the colour schemes</translation>
+    </message>
+</context>
+<context>
+    <name>MvScopeSwitch</name>
+    <message>
+        <source>Für alle Seiten</source>
+        <translation>For all pages</translation>
+    </message>
+    <message>
+        <source>Änderungen gelten für alle Seiten</source>
+        <translation>Changes apply to all pages</translation>
+    </message>
+    <message>
+        <source>Nur diese Seite</source>
+        <translation>Only this page</translation>
+    </message>
+    <message>
+        <source>Änderungen gelten nur für die Seite, die gerade zu sehen ist</source>
+        <translation>Changes apply only to the page now shown</translation>
+    </message>
+</context>
+<context>
+    <name>MvSettingsDialog</name>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Wie das System</source>
+        <translation>Like the system</translation>
+    </message>
+    <message>
+        <source>Hell</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>Dunkel</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>Eine andere Sprache gilt ab dem nächsten Start.</source>
+        <translation>Another language applies from the next start.</translation>
+    </message>
+    <message>
+        <source>&amp;Sprache:</source>
+        <translation>&amp;Language:</translation>
+    </message>
+    <message>
+        <source>&amp;Farben:</source>
+        <translation>&amp;Colours:</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioActions</name>
+    <message>
+        <source>&amp;Neu …</source>
+        <translation>&amp;New …</translation>
+    </message>
+    <message>
+        <source>Einen neuen Kalender beginnen</source>
+        <translation>Start a new calendar</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen …</source>
+        <translation>&amp;Open …</translation>
+    </message>
+    <message>
+        <source>Einen gespeicherten Kalender öffnen</source>
+        <translation>Open a saved calendar</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Den Kalender speichern</source>
+        <translation>Save the calendar</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter …</source>
+        <translation>Save &amp;As …</translation>
+    </message>
+    <message>
+        <source>Den Kalender unter anderem Namen speichern</source>
+        <translation>Save the calendar under another name</translation>
+    </message>
+    <message>
+        <source>Als &amp;PDF exportieren …</source>
+        <translation>Export as P&amp;DF …</translation>
+    </message>
+    <message>
+        <source>Den Kalender als PDF für die Druckerei schreiben</source>
+        <translation>Write the calendar as a PDF for the print shop</translation>
+    </message>
+    <message>
+        <source>Als &amp;Bilder exportieren …</source>
+        <translation>Export as &amp;Images …</translation>
+    </message>
+    <message>
+        <source>Jede Seite als PNG-Bild schreiben</source>
+        <translation>Write each page as a PNG image</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken …</source>
+        <translation>&amp;Print …</translation>
+    </message>
+    <message>
+        <source>Die Druckvorschau zeigen und den Kalender drucken</source>
+        <translation>Show the print preview and print the calendar</translation>
+    </message>
+    <message>
+        <source>&amp;Geburtstage importieren …</source>
+        <translation>Import &amp;Birthdays …</translation>
+    </message>
+    <message>
+        <source>Geburtstage aus einem Adressbuch (vCard) übernehmen</source>
+        <translation>Take over birthdays from an address book (vCard)</translation>
+    </message>
+    <message>
+        <source>&amp;Beenden</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message>
+        <source>Das Programm beenden</source>
+        <translation>Quit the program</translation>
+    </message>
+    <message>
+        <source>&amp;Einstellungen …</source>
+        <translation>Se&amp;ttings …</translation>
+    </message>
+    <message>
+        <source>Sprache und Farben des Programms wählen</source>
+        <translation>Choose the language and the colours of the program</translation>
+    </message>
+    <message>
+        <source>Ver&amp;größern</source>
+        <translation>Zoom &amp;In</translation>
+    </message>
+    <message>
+        <source>Die Seite größer zeigen</source>
+        <translation>Show the page larger</translation>
+    </message>
+    <message>
+        <source>Ver&amp;kleinern</source>
+        <translation>Zoom &amp;Out</translation>
+    </message>
+    <message>
+        <source>Die Seite kleiner zeigen</source>
+        <translation>Show the page smaller</translation>
+    </message>
+    <message>
+        <source>&amp;Ganze Seite</source>
+        <translation>&amp;Whole Page</translation>
+    </message>
+    <message>
+        <source>Die Seite so groß zeigen, dass sie ganz zu sehen ist</source>
+        <translation>Show the page at a size at which all of it can be seen</translation>
+    </message>
+    <message>
+        <source>&amp;Originalgröße</source>
+        <translation>&amp;Actual Size</translation>
+    </message>
+    <message>
+        <source>Die Seite so groß zeigen, wie sie gedruckt wird</source>
+        <translation>Show the page at the size at which it is printed</translation>
+    </message>
+    <message>
+        <source>&amp;Vollbild</source>
+        <translation>&amp;Full Screen</translation>
+    </message>
+    <message>
+        <source>Das Fenster über den ganzen Bildschirm breiten</source>
+        <translation>Spread the window over the whole screen</translation>
+    </message>
+    <message>
+        <source>Erste &amp;Schritte</source>
+        <translation>Getting &amp;Started</translation>
+    </message>
+    <message>
+        <source>Die Wege zum eigenen Kalender zeigen</source>
+        <translation>Show the ways to your own calendar</translation>
+    </message>
+    <message>
+        <source>&amp;Tastenkürzel</source>
+        <translation>&amp;Keyboard Shortcuts</translation>
+    </message>
+    <message>
+        <source>Alle Tastenkürzel auflisten</source>
+        <translation>List all keyboard shortcuts</translation>
+    </message>
+    <message>
+        <source>Ü&amp;ber MvCalendar</source>
+        <translation>&amp;About MvCalendar</translation>
+    </message>
+    <message>
+        <source>Version und Bestandteile des Programms</source>
+        <translation>Version and components of the program</translation>
+    </message>
+    <message>
+        <source>&amp;Layout wählen …</source>
+        <translation>Choose &amp;Layout …</translation>
+    </message>
+    <message>
+        <source>Ein Layout für alle Seiten aus Bildern wählen</source>
+        <translation>Choose a layout for all pages from pictures</translation>
+    </message>
+    <message>
+        <source>&amp;Papier und Zeitraum …</source>
+        <translation>Pa&amp;per and Period …</translation>
+    </message>
+    <message>
+        <source>Papier, Ausrichtung und Monate des Kalenders ändern</source>
+        <translation>Change paper, orientation and months of the calendar</translation>
+    </message>
+    <message>
+        <source>&amp;Foto wählen …</source>
+        <translation>Choose P&amp;hoto …</translation>
+    </message>
+    <message>
+        <source>Der gezeigten Seite ein Foto geben</source>
+        <translation>Give the page shown a photo</translation>
+    </message>
+    <message>
+        <source>Foto &amp;entfernen</source>
+        <translation>&amp;Remove Photo</translation>
+    </message>
+    <message>
+        <source>Das Foto der gezeigten Seite entfernen</source>
+        <translation>Remove the photo of the page shown</translation>
+    </message>
+    <message>
+        <source>&amp;Vorige Seite</source>
+        <translation>Pre&amp;vious Page</translation>
+    </message>
+    <message>
+        <source>Zur vorigen Seite gehen</source>
+        <translation>Go to the previous page</translation>
+    </message>
+    <message>
+        <source>&amp;Nächste Seite</source>
+        <translation>&amp;Next Page</translation>
+    </message>
+    <message>
+        <source>Zur nächsten Seite gehen</source>
+        <translation>Go to the next page</translation>
+    </message>
+    <message>
+        <source>&amp;Erste Seite</source>
+        <translation>&amp;First Page</translation>
+    </message>
+    <message>
+        <source>Zur ersten Seite gehen</source>
+        <translation>Go to the first page</translation>
+    </message>
+    <message>
+        <source>Le&amp;tzte Seite</source>
+        <translation>La&amp;st Page</translation>
+    </message>
+    <message>
+        <source>Zur letzten Seite gehen</source>
+        <translation>Go to the last page</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioApplication</name>
+    <message>
+        <source>Die Sicherung nebenbei ist misslungen. Speichern Sie bald selbst.</source>
+        <translation>The automatic backup failed. Save your work yourself soon.</translation>
+    </message>
+    <message>
+        <source>Der Kalender lässt sich nicht wiederherstellen.</source>
+        <translation>The calendar cannot be recovered.</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioMessage</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>… und %1 weitere</source>
+        <translation>… and %1 more</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioOptions</name>
+    <message>
+        <source>Aufruf: mvcalendar-studio [Optionen] [Datei]
+Gestaltet Fotokalender und druckt sie.
+
+  Datei                      Kalender, der geöffnet wird
+  --language de|en|system    Sprache des Programms
+  --theme light|dark|system  helle oder dunkle Farben
+  -h, --help                 diese Hilfe
+  -v, --version              die Version
+</source>
+        <translation>Usage: mvcalendar-studio [options] [file]
+Designs photo calendars and prints them.
+
+  file                       calendar to open
+  --language de|en|system    language of the program
+  --theme light|dark|system  light or dark colours
+  -h, --help                 this help
+  -v, --version              the version
+</translation>
+    </message>
+    <message>
+        <source>eine Option steht ohne ihren Wert</source>
+        <translation>an option lacks its value</translation>
+    </message>
+    <message>
+        <source>unbekannte Option „%1“</source>
+        <translation>unknown option “%1”</translation>
+    </message>
+    <message>
+        <source>--%1 „%2“: erlaubt sind %3</source>
+        <translation>--%1 “%2”: allowed are %3</translation>
+    </message>
+    <message>
+        <source>mehr als eine Datei</source>
+        <translation>more than one file</translation>
+    </message>
+    <message>
+        <source>mvcalendar-studio: %1 (Hilfe: mvcalendar-studio --help)</source>
+        <translation>mvcalendar-studio: %1 (help: mvcalendar-studio --help)</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioPanels</name>
+    <message>
+        <source>Inhalt</source>
+        <translation>Content</translation>
+    </message>
+    <message>
+        <source>Gestaltung</source>
+        <translation>Design</translation>
+    </message>
+    <message>
+        <source>Schriften</source>
+        <translation>Fonts</translation>
+    </message>
+    <message>
+        <source>Spalten</source>
+        <translation>Columns</translation>
+    </message>
+    <message>
+        <source>Einträge</source>
+        <translation>Entries</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioStatusBar</name>
+    <message>
+        <source>Diese Texte mussten gekürzt werden, weil ihr Tag zu wenig Platz hat</source>
+        <translation>These texts had to be shortened because their day has too little room</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Wie groß die Seite zu sehen ist; 100 % ist die Größe auf dem Papier</source>
+        <translation>How large the page is shown; 100 % is its size on paper</translation>
+    </message>
+    <message>
+        <source>Ganze Seite</source>
+        <translation>Whole page</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2 · %3</source>
+        <translation>Page %1 of %2 · %3</translation>
+    </message>
+    <message>
+        <source>Keine Seiten</source>
+        <translation>No pages</translation>
+    </message>
+    <message>
+        <source>1 Text ohne Platz</source>
+        <translation>1 text without room</translation>
+    </message>
+    <message>
+        <source>%1 Texte ohne Platz</source>
+        <translation>%1 texts without room</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>… und %1 weitere</source>
+        <translation>… and %1 more</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioWindow</name>
+    <message>
+        <source>Seiten</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Zuletzt geöffnet</source>
+        <translation>&amp;Recently Opened</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Seite</source>
+        <translation>&amp;Page</translation>
+    </message>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Diesen Kalender öffnen</source>
+        <translation>Open this calendar</translation>
+    </message>
+    <message>
+        <source>Liste &amp;leeren</source>
+        <translation>&amp;Clear List</translation>
+    </message>
+    <message>
+        <source>Die Liste leeren; die Dateien bleiben</source>
+        <translation>Clear the list; the files remain</translation>
+    </message>
+    <message>
+        <source>Layout für alle Seiten wählen</source>
+        <translation>Choose a layout for all pages</translation>
+    </message>
+    <message>
+        <source>Layout wählen</source>
+        <translation>Choose layout</translation>
+    </message>
+    <message>
+        <source>Papier und Zeitraum</source>
+        <translation>Paper and period</translation>
+    </message>
+    <message>
+        <source>Papier und Zeitraum ändern</source>
+        <translation>Change paper and period</translation>
+    </message>
+    <message>
+        <source>Die andere Sprache gilt ab dem nächsten Start.</source>
+        <translation>The other language applies from the next start.</translation>
+    </message>
+</context>
+<context>
+    <name>MvUndoActions</name>
+    <message>
+        <source>Eintrag ändern</source>
+        <translation>Change entry</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Den letzten Schritt zurücknehmen</source>
+        <translation>Take back the last step</translation>
+    </message>
+    <message>
+        <source>Den zurückgenommenen Schritt wieder tun</source>
+        <translation>Do again the step taken back</translation>
+    </message>
+    <message>
+        <source>&amp;Rückgängig</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Wiederholen</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Einträge laden</source>
+        <translation>Load entries</translation>
+    </message>
+    <message>
+        <source>Einträge löschen</source>
+        <translation>Delete entries</translation>
+    </message>
+</context>
+<context>
+    <name>MvVCardReader</name>
+    <message>
+        <source>%1 lässt sich nicht lesen: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>es gibt keine solche Datei</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>%1 ist zu groß für ein Adressbuch</source>
+        <translation>%1 is too large for an address book</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 (Jahrestag)</source>
+        <translation>%1 (anniversary)</translation>
+    </message>
+    <message>
+        <source>keine Visitenkarten (vCard) gefunden</source>
+        <translation>no contact cards (vCard) found</translation>
+    </message>
+</context>
+<context>
+    <name>MvVacationHint</name>
+    <message>
+        <source>Ferien %1: keine bekannt</source>
+        <translation>school holidays of %1: none known</translation>
+    </message>
+    <message>
+        <source>Ferien %1 bis %2</source>
+        <translation>school holidays of %1 to %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvWelcomePanel</name>
+    <message>
+        <source>Erste Schritte</source>
+        <translation>Getting started</translation>
+    </message>
+    <message>
+        <source>Ihr Kalender für das kommende Jahr ist schon da. So wird er Ihrer:</source>
+        <translation>Your calendar for the coming year is here already. Make it yours:</translation>
+    </message>
+    <message>
+        <source>Layout aus &amp;Bildern wählen</source>
+        <translation>Choose a layout from &amp;pictures</translation>
+    </message>
+    <message>
+        <source>Alle Layouts als kleine Seiten sehen und eines wählen</source>
+        <translation>See all layouts as small pages and choose one</translation>
+    </message>
+    <message>
+        <source>&amp;Geburtstage importieren</source>
+        <translation>Import &amp;birthdays</translation>
+    </message>
+    <message>
+        <source>Geburtstage aus einem Adressbuch (vCard) übernehmen</source>
+        <translation>Take over birthdays from an address book (vCard)</translation>
+    </message>
+    <message>
+        <source>Datei ö&amp;ffnen</source>
+        <translation>&amp;Open file</translation>
+    </message>
+    <message>
+        <source>Einen gespeicherten Kalender öffnen</source>
+        <translation>Open a saved calendar</translation>
+    </message>
+    <message>
+        <source>Erste Schritte schließen</source>
+        <translation>Close getting started</translation>
+    </message>
+    <message>
+        <source>Schließen; wieder zu zeigen über Ansicht &gt; Erste Schritte</source>
+        <translation>Close; can be shown again with View &gt; Getting Started</translation>
+    </message>
+</context>
+<context>
+    <name>MvXMLLoader</name>
+    <message>
+        <source>Ein NUL-Zeichen darf nicht vorkommen.</source>
+        <translation>A NUL character is not allowed.</translation>
+    </message>
+    <message>
+        <source>Entitäten dürfen nicht vereinbart werden.</source>
+        <translation>Entities may not be declared.</translation>
+    </message>
+    <message>
+        <source>Vorgaben für Attribute dürfen nicht vereinbart werden.</source>
+        <translation>Defaults of attributes may not be declared.</translation>
+    </message>
+    <message>
+        <source>Eine Auszeichnung ist länger als %1 KiB.</source>
+        <translation>A tag is longer than %1 KiB.</translation>
+    </message>
+    <message>
+        <source>Die Datei endet zu früh.</source>
+        <translation>The file ends too early.</translation>
+    </message>
+    <message>
+        <source>Das ist kein wohlgeformtes XML (%1)</source>
+        <translation>This is not well-formed XML (%1)</translation>
+    </message>
+    <message>
+        <source>Die Elemente sind tiefer als %1 Ebenen verschachtelt.</source>
+        <translation>The elements are nested deeper than %1 levels.</translation>
+    </message>
+    <message>
+        <source>Die Datei hat zu viele Elemente.</source>
+        <translation>The file has too many elements.</translation>
+    </message>
+    <message>
+        <source>Die Entität &quot;%1&quot; ist nicht bekannt.</source>
+        <translation>The entity &quot;%1&quot; is not known.</translation>
+    </message>
+    <message>
+        <source>Die Zeichen sind nicht als UTF-8 gespeichert.</source>
+        <translation>The characters are not stored as UTF-8.</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt es nicht.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei darf nicht gelesen werden.</source>
+        <translation>The file may not be read.</translation>
+    </message>
+    <message>
+        <source>Das ist keine gewöhnliche Datei.</source>
+        <translation>This is not a regular file.</translation>
+    </message>
+    <message>
+        <source>Die Datei lässt sich nicht zu Ende lesen.</source>
+        <translation>The file cannot be read to its end.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist größer als %1 MiB.</source>
+        <translation>The file is larger than %1 MiB.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+    </message>
+</context>
+</TS>

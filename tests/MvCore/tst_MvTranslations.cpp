@@ -1,0 +1,76 @@
+#include "MvTest.h"
+
+#include "MvCore/MvApplicationLocale.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvCore/MvTranslations.h"
+
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+class tst_MvTranslations : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void languageFor_data();
+    void languageFor();
+    void environmentDecides();
+    void installs();
+};
+
+void tst_MvTranslations::languageFor_data()
+{
+    QTest::addColumn<QStringList>("preferred");
+    QTest::addColumn<QString>("language");
+    QTest::newRow("American") << QStringList{u"en-US"_s} << u"en"_s;
+    QTest::newRow("with encoding") << QStringList{u"en_GB.UTF-8"_s} << u"en"_s;
+    QTest::newRow("bare, capitals") << QStringList{u"EN"_s} << u"en"_s;
+    QTest::newRow("Austrian") << QStringList{u"de-AT"_s, u"en-US"_s} << u"de"_s;
+    QTest::newRow("the first one counts") << QStringList{u"fr-FR"_s, u"en-US"_s} << u"de"_s;
+    QTest::newRow("begins like English") << QStringList{u"enm"_s} << u"de"_s;
+    QTest::newRow("C") << QStringList{u"C"_s} << u"de"_s;
+    QTest::newRow("nothing") << QStringList() << u"de"_s;
+}
+
+void tst_MvTranslations::languageFor()
+{
+    QFETCH(const QStringList, preferred);
+    QTEST(MvTranslations::languageFor(preferred), "language");
+}
+
+void tst_MvTranslations::environmentDecides()
+{
+    const auto cleanUp = qScopeGuard([] { qunsetenv("MVCALENDAR_LANGUAGE"); });
+    QCOMPARE(MvTranslations::systemLanguage(), u"de"_s); // tests run in the C locale
+    qputenv("MVCALENDAR_LANGUAGE", "en_US");
+    QCOMPARE(MvTranslations::systemLanguage(), u"en"_s);
+    qputenv("MVCALENDAR_LANGUAGE", "tlh");
+    QCOMPARE(MvTranslations::systemLanguage(), u"de"_s);
+}
+
+void tst_MvTranslations::installs()
+{
+    const auto text = [] { return MvSafeFileWriter::tr("Die Datei ist schreibgeschützt."); };
+    const QString german = text();
+    for (int round = 0; round < 2; ++round) { // there and back, and again
+        QVERIFY(MvTranslations::install(u"en"_s));
+        QCOMPARE(text(), u"The file is write-protected."_s);
+        QCOMPARE(
+            QCoreApplication::translate("MvHolidayTableReader", " (und %n weitere Fehler in dieser Datei)", nullptr, 1),
+            u" (and 1 more error in this file)"_s);
+        QCOMPARE(MvApplicationLocale::instance().locale().language(), QLocale::English);
+        QCOMPARE(QLocale().language(), QLocale::English);
+        QVERIFY(!MvTranslations::install(u"tlh"_s));
+        QCOMPARE(MvTranslations::language(), u"en"_s);
+
+        QVERIFY(MvTranslations::install(u"de"_s));
+        QCOMPARE(text(), german);
+        QCOMPARE(MvApplicationLocale::instance().locale(), QLocale(QLocale::German, QLocale::Germany));
+    }
+    QCOMPARE(MvTranslations::nameOf(u"de"_s), u"Deutsch"_s);
+    QCOMPARE(MvTranslations::nameOf(u"en"_s), u"English"_s);
+}
+
+MV_TEST_MAIN(tst_MvTranslations)
+#include "tst_MvTranslations.moc"

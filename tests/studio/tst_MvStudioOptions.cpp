@@ -1,0 +1,75 @@
+#include "MvPageRange.h"
+#include "MvStudioOptions.h"
+#include "MvTest.h"
+
+using namespace Qt::StringLiterals;
+
+/// What a person types: the command line, and the pages of an export.
+class tst_MvStudioOptions : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commandLine_data();
+    void commandLine();
+    void pages_data();
+    void pages();
+};
+
+void tst_MvStudioOptions::commandLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("message"); // a part of it
+    QTest::newRow("nothing") << QStringList() << 0 << QString();
+    QTest::newRow("all") << QStringList{u"--language"_s, u"en"_s, u"--theme=dark"_s, u"a.mvcalendar"_s} << 0
+                         << QString();
+    QTest::newRow("help") << QStringList{u"--help"_s} << 0 << u"--language de|en"_s;
+    QTest::newRow("version") << QStringList{u"-v"_s} << 0 << u"mvcalendar-studio "_s;
+    QTest::newRow("unknown option") << QStringList{u"--foo"_s} << 2 << u"„foo“"_s;
+    QTest::newRow("unknown language") << QStringList{u"--language"_s, u"fr"_s} << 2 << u"de, en"_s;
+    QTest::newRow("value missing") << QStringList{u"--theme"_s} << 2 << u"ohne ihren Wert"_s;
+    QTest::newRow("two files") << QStringList{u"a"_s, u"b"_s} << 2 << u"mehr als eine Datei"_s;
+}
+
+void tst_MvStudioOptions::commandLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, message);
+    const MvStudioOptions options = MvStudioOptions::parse(QStringList{u"mvcalendar-studio"_s} + arguments);
+    QTEST(options.exitCode(), "exitCode");
+    QCOMPARE(options.message().isEmpty(), message.isEmpty());
+    QVERIFY2(options.message().contains(message), qPrintable(options.message()));
+    if (arguments.size() == 4) {
+        QCOMPARE(options.language(), u"en"_s);
+        QCOMPARE(options.theme(), u"dark"_s);
+        QCOMPARE(options.file(), u"a.mvcalendar"_s);
+    }
+}
+
+void tst_MvStudioOptions::pages_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QList<int>>("pages"); // of six; none: an error
+    QTest::newRow("all") << QString() << QList<int>{0, 1, 2, 3, 4, 5};
+    QTest::newRow("mixed, unordered, twice") << u" 5, 1 - 3,2"_s << QList<int>{0, 1, 2, 4};
+    QTest::newRow("long dash") << u"2–3"_s << QList<int>{1, 2};
+    QTest::newRow("last") << u"6"_s << QList<int>{5};
+    QTest::newRow("too high") << u"7"_s << QList<int>();
+    QTest::newRow("zero") << u"0-2"_s << QList<int>();
+    QTest::newRow("backwards") << u"3-1"_s << QList<int>();
+    QTest::newRow("words") << u"Mai"_s << QList<int>();
+    QTest::newRow("commas alone") << u",,"_s << QList<int>();
+}
+
+void tst_MvStudioOptions::pages()
+{
+    QFETCH(QString, text);
+    QString error;
+    const QList<int> pages = MvPageRange::parse(text, 6, &error);
+    QTEST(pages, "pages");
+    QCOMPARE(error.isEmpty(), !pages.isEmpty());
+}
+
+MV_TEST_MAIN(tst_MvStudioOptions)
+#include "tst_MvStudioOptions.moc"

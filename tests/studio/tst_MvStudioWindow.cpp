@@ -1,0 +1,529 @@
+#include "MvBirthdayImport.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvUndoController.h"
+#include "MvPageCanvas.h"
+#include "MvPrintFlow.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectAutosave.h"
+#include "MvProject/MvProjectFile.h"
+#include "MvProjectFlow.h"
+#include "MvStudioApplication.h"
+#include "MvStudioSettings.h"
+#include "MvStudioWindow.h"
+#include "MvWidgetTest.h"
+
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+using namespace Qt::StringLiterals;
+
+/// What a person does with the window: menus, dialogs and questions, driven through the real widgets.
+class tst_MvStudioWindow : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void firstStart();
+    void everyActionIsComplete();
+    void newCalendar();
+    void saveAndOpen();
+    void recentFiles();
+    void closeQuestion_data();
+    void closeQuestion();
+    void fileChangedByOthers();
+    void dropOfAProject();
+    void undoTexts();
+    void statusBar();
+    void recovery();
+    void exportPdf();
+    void exportPictures();
+    void exportErrors();
+    void print();
+    void birthdays();
+    void settings();
+
+private:
+    void start(const QStringList &arguments = {});
+    MvStudioWindow *window() const { return m_studio->window(); }
+    MvProject *project() const { return m_studio->project(); }
+    void trigger(const char *action) const { window()->findChild<QAction *>(QLatin1StringView(action))->trigger(); }
+    /// The dialog that is open under the name, or null.
+    template <class Dialog = QDialog>
+    Dialog *dialog(const char *name) const
+    {
+        const auto all = window()->findChildren<Dialog *>(QLatin1StringView(name));
+        const auto open = std::find_if(all.begin(), all.end(), [](const Dialog *one) { return one->isVisible(); });
+        return open == all.end() ? nullptr : *open;
+    }
+    void click(QWidget *dialog, const char *button) const;
+    void chooseFile(const char *dialogName, const QString &path) const;
+    void rename(const QString &title) const;
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<MvStudioApplication> m_studio;
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_MvStudioWindow::init()
+{
+    failOnWarnings();
+    m_folder = std::make_unique<QTemporaryDir>();
+    MvStudioSettings::clearRecentFiles();
+    MvStudioSettings::setLanguage(u"de"_s);
+    MvStudioSettings::setWelcomeShown(true);
+    MvStudioSettings::setFolder(u"export"_s, m_folder->path());
+    start();
+}
+
+void tst_MvStudioWindow::cleanup()
+{
+    MvCalendarEventRegistry::instance().setEvents({});
+    m_studio.reset();
+    m_folder.reset();
+}
+
+void tst_MvStudioWindow::start(const QStringList &arguments)
+{
+    m_studio.reset();
+    m_studio =
+        std::make_unique<MvStudioApplication>(MvStudioOptions::parse(QStringList{u"mvcalendar-studio"_s} + arguments));
+    m_studio->start();
+    QVERIFY(QTest::qWaitForWindowExposed(window()));
+    QCoreApplication::processEvents();
+}
+
+void tst_MvStudioWindow::click(QWidget *dialog, const char *button) const
+{
+    QVERIFY(dialog);
+    auto *found = dialog->findChild<QAbstractButton *>(QLatin1StringView(button));
+    QVERIFY2(found, button);
+    QVERIFY2(found->isEnabled(), button);
+    QTest::mouseClick(found, Qt::LeftButton);
+}
+
+void tst_MvStudioWindow::chooseFile(const char *dialogName, const QString &path) const
+{
+    auto *files = dialog<QFileDialog>(dialogName);
+    QVERIFY2(files, dialogName);
+    files->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(path);
+    static_cast<QDialog *>(files)->accept();
+}
+
+void tst_MvStudioWindow::rename(const QString &title) const
+{
+    MvCalendarDocument document = project()->document();
+    document.setTitle(title);
+    project()->change(document, u"Titel ändern"_s);
+}
+
+void tst_MvStudioWindow::firstStart()
+{
+    const MvCalendarDocument &document = project()->document();
+    QCOMPARE(document.pages().size(), 12);
+    QCOMPARE(document.range(), MvDateRange::createDefaultCalendarDateRange());
+    QCOMPARE(document.format().trimSize(), QSizeF(2970, 2100));
+    QCOMPARE(document.holidayConfig().language().name(), u"de_DE"_s);
+    QCOMPARE(document.holidayConfig().province(), QString());
+    QVERIFY(document.isValid());
+    QVERIFY(!window()->isWindowModified());
+
+    auto *welcome = window()->findChild<QWidget *>(u"welcomePanel"_s);
+    QVERIFY(welcome->isVisible());
+    click(welcome, "welcomeLayout");
+    QVERIFY(dialog("layoutDialog"));
+    dialog("layoutDialog")->reject();
+    click(welcome, "welcomeClose");
+    QVERIFY(!welcome->isVisible());
+    start();
+    QVERIFY(!window()->findChild<QWidget *>(u"welcomePanel"_s)->isVisible());
+}
+
+void tst_MvStudioWindow::everyActionIsComplete()
+{
+    QHash<QKeySequence, QString> shortcuts;
+    QSet<QString> mnemonics;
+    for (QAction *menuAction : window()->menuBar()->actions()) {
+        const QChar key = menuAction->text().at(menuAction->text().indexOf(u'&') + 1);
+        QVERIFY2(!mnemonics.contains(key), qPrintable(menuAction->text()));
+        mnemonics.insert(key);
+        for (const QAction *action : menuAction->menu()->actions()) {
+            if (action->isSeparator() || action->menu())
+                continue;
+            QVERIFY2(!action->objectName().isEmpty() || action->isCheckable(), qPrintable(action->text()));
+            if (!action->isCheckable()) {
+                QVERIFY2(!action->statusTip().isEmpty(), qPrintable(action->text()));
+                QVERIFY2(!action->icon().isNull(), qPrintable(action->text()));
+                QVERIFY2(action->text().contains(u'&'), qPrintable(action->text()));
+            }
+            for (const QKeySequence &sequence : action->shortcuts()) {
+                QVERIFY2(!shortcuts.contains(sequence), qPrintable(action->text() + shortcuts.value(sequence)));
+                shortcuts.insert(sequence, action->text());
+            }
+        }
+    }
+    QVERIFY(shortcuts.size() > 20);
+    trigger("shortcuts");
+    QCOMPARE(dialog("shortcutsDialog")->findChild<QTreeWidget *>()->topLevelItemCount(), shortcuts.size() - 1);
+    trigger("about");
+    QVERIFY(dialog("aboutDialog"));
+}
+
+void tst_MvStudioWindow::newCalendar()
+{
+    trigger("newProject");
+    QDialog *setup = dialog("newProjectDialog");
+    QVERIFY(setup);
+    auto *layouts = setup->findChild<QListWidget *>(u"layoutList"_s);
+    QVERIFY(layouts->count() > 10);
+    layouts->setCurrentRow(1);
+    setup->findChild<QComboBox *>(u"startMonth"_s)->setCurrentIndex(8);
+    setup->findChild<QSpinBox *>(u"startYear"_s)->setValue(2027);
+    setup->findChild<QSpinBox *>(u"monthCount"_s)->setValue(18);
+    setup->findChild<QComboBox *>(u"paper"_s)->setCurrentText(u"A5"_s);
+    setup->findChild<QComboBox *>(u"orientation"_s)->setCurrentIndex(1);
+    QCOMPARE(setup->findChild<QLabel *>(u"lastMonth"_s)->text(), u"bis Februar 2029"_s);
+    QTRY_VERIFY(!layouts->item(0)->icon().isNull());
+    setup->accept();
+
+    const MvCalendarDocument &document = project()->document();
+    QCOMPARE(document.range(), MvDateRange(QDate(2027, 9, 1), QDate(2029, 2, 28)));
+    QCOMPARE(document.pages().size(), 18);
+    QCOMPARE(document.format().trimSize(), QSizeF(1480, 2100));
+    QVERIFY(document.appearance().layoutSchema().ID() !=
+            MvProjectFlow::firstDocument().appearance().layoutSchema().ID());
+    QCOMPARE(project()->displayName(), u"Kalender September 2027 bis Februar 2029"_s);
+    QVERIFY(!project()->isModified());
+
+    trigger("pageSetup");
+    setup = dialog("pageSetupDialog");
+    setup->findChild<QComboBox *>(u"paper"_s)->setCurrentText(u"Eigenes Format"_s);
+    setup->findChild<QDoubleSpinBox *>(u"paperWidth"_s)->setValue(300.5);
+    setup->findChild<QDoubleSpinBox *>(u"paperHeight"_s)->setValue(200);
+    setup->findChild<QDoubleSpinBox *>(u"bleed"_s)->setValue(3);
+    setup->accept();
+    QCOMPARE(project()->document().format().trimSize(), QSizeF(3005, 2000));
+    QCOMPARE(project()->document().format().bleed(), 30.0);
+    QVERIFY(project()->isModified());
+
+    // what is not saved is asked about before anything else
+    trigger("newProject");
+    QVERIFY(!dialog("newProjectDialog"));
+    click(dialog("saveQuestion"), "cancelButton");
+    QCOMPARE(project()->document().format().bleed(), 30.0);
+}
+
+void tst_MvStudioWindow::saveAndOpen()
+{
+    rename(u"Familie"_s);
+    QVERIFY(window()->isWindowModified());
+    trigger("saveProject");
+    chooseFile("projectFileDialog", path(u"Familie"_s));
+    const QString file = path(u"Familie.mvcalendar"_s);
+    QVERIFY(QFileInfo::exists(file));
+    QVERIFY(!window()->isWindowModified());
+    QVERIFY(window()->windowTitle().startsWith(u"Familie[*]"_s));
+
+    start({file}); // from the command line
+    QTRY_COMPARE(project()->fileInfo().filePath(), file);
+    QCOMPARE(project()->document().title(), u"Familie"_s);
+
+    QFile broken(path(u"kaputt.mvcalendar"_s));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("<calendarproject");
+    broken.close();
+    trigger("openProject");
+    chooseFile("projectFileDialog", broken.fileName());
+    auto *error = dialog<QMessageBox>("errorMessage");
+    QVERIFY(error);
+    QVERIFY2(error->informativeText().contains(u"kaputt.mvcalendar"_s), qPrintable(error->informativeText()));
+    QCOMPARE(project()->fileInfo().filePath(), file); // what was open stays
+}
+
+void tst_MvStudioWindow::recentFiles()
+{
+    const QString file = path(u"a & b.mvcalendar"_s);
+    QVERIFY(project()->saveAs(QFileInfo(file)));
+    MvStudioSettings::addRecentFile(path(u"weg.mvcalendar"_s));
+    MvStudioSettings::addRecentFile(file);
+    auto *menu = window()->findChild<QMenu *>(u"recentMenu"_s);
+    Q_EMIT menu->aboutToShow();
+    QCOMPARE(menu->actions().size(), 4); // two files, a line, and clearing
+    menu->actions().at(1)->trigger();
+    QVERIFY(dialog<QMessageBox>("errorMessage")->text().contains(u"weg.mvcalendar"_s));
+    QCOMPARE(MvStudioSettings::recentFiles(), QStringList{file});
+    project()->newProject(MvProjectFlow::firstDocument());
+    menu->actions().at(0)->trigger();
+    QCOMPARE(project()->fileInfo().filePath(), file);
+}
+
+void tst_MvStudioWindow::closeQuestion_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("isClosed");
+    QTest::addColumn<bool>("isSaved");
+    QTest::newRow("save") << u"saveButton"_s << true << true;
+    QTest::newRow("discard") << u"discardButton"_s << true << false;
+    QTest::newRow("cancel") << u"cancelButton"_s << false << false;
+}
+
+void tst_MvStudioWindow::closeQuestion()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, isClosed);
+    const QFileInfo file(path(u"Familie.mvcalendar"_s));
+    QVERIFY(project()->saveAs(file));
+    QVERIFY(project()->document().title() != u"Neu"_s);
+    rename(u"Neu"_s);
+    QVERIFY(!window()->close());
+    QVERIFY(window()->isVisible());
+    click(dialog("saveQuestion"), button.toLatin1());
+    QCOMPARE(window()->isVisible(), !isClosed);
+    QTEST(MvProjectFile::read(file).document.title() == u"Neu"_s, "isSaved");
+}
+
+void tst_MvStudioWindow::fileChangedByOthers()
+{
+    const QFileInfo file(path(u"Familie.mvcalendar"_s));
+    QVERIFY(project()->saveAs(file));
+    rename(u"Meins"_s);
+    MvCalendarDocument theirs = project()->document();
+    theirs.setTitle(u"Ihres"_s);
+    QCOMPARE(MvProjectFile::write(theirs, file), QString());
+    trigger("saveProject");
+    QCOMPARE(MvProjectFile::read(file).document.title(), u"Ihres"_s);
+    click(dialog("changedByOthersQuestion"), "replaceButton");
+    QCOMPARE(MvProjectFile::read(file).document.title(), u"Meins"_s);
+}
+
+void tst_MvStudioWindow::dropOfAProject()
+{
+    const QString file = path(u"Familie.mvcalendar"_s);
+    QVERIFY(project()->saveAs(QFileInfo(file)));
+    project()->newProject(MvProjectFlow::firstDocument());
+    const auto drop = [this](const QString &dropped) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(dropped)});
+        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window(), &enter);
+        QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted())
+            QCoreApplication::sendEvent(window(), &event);
+    };
+    drop(path(u"bild.jpg"_s));
+    QCOMPARE(project()->fileInfo().filePath(), QString());
+    drop(file);
+    QCOMPARE(project()->fileInfo().filePath(), file);
+}
+
+void tst_MvStudioWindow::undoTexts()
+{
+    auto *undo = window()->findChild<QAction *>(u"undo"_s);
+    auto *redo = window()->findChild<QAction *>(u"redo"_s);
+    QCOMPARE(undo->text().remove(u'&'), u"Rückgängig"_s);
+    QVERIFY(!undo->isEnabled());
+    rename(u"Neu"_s);
+    QCOMPARE(undo->text().remove(u'&'), u"Rückgängig: Titel ändern"_s);
+    QTest::keyClick(window(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(project()->document().title() != u"Neu"_s);
+    QVERIFY(!project()->isModified());
+    QCOMPARE(redo->text().remove(u'&'), u"Wiederholen: Titel ändern"_s);
+    QTest::keyClick(window(), Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(project()->document().title(), u"Neu"_s);
+}
+
+void tst_MvStudioWindow::statusBar()
+{
+    const int year = project()->document().range().start().year();
+    auto *label = window()->findChild<QLabel *>(u"pageLabel"_s);
+    QCOMPARE(label->text(), u"Seite 1 von 12 · Januar %1"_s.arg(year));
+    trigger("nextPage");
+    QCOMPARE(label->text(), u"Seite 2 von 12 · Februar %1"_s.arg(year));
+    trigger("lastPage");
+    QVERIFY(!window()->findChild<QAction *>(u"nextPage"_s)->isEnabled());
+
+    auto *canvas = window()->findChild<MvPageCanvas *>();
+    auto *zoom = window()->findChild<QComboBox *>(u"zoomBox"_s);
+    QCOMPARE(zoom->currentText(), u"Ganze Seite"_s);
+    zoom->lineEdit()->selectAll();
+    QTest::keyClicks(zoom->lineEdit(), u"80"_s);
+    QTest::keyClick(zoom->lineEdit(), Qt::Key_Return);
+    QCOMPARE(canvas->zoom(), 0.8);
+    QCOMPARE(zoom->currentText(), u"80 %"_s);
+    trigger("zoomFit");
+    QVERIFY(canvas->isFitted());
+    QCOMPARE(zoom->currentText(), u"Ganze Seite"_s);
+
+    // a text that has no room is told, and its page is one click away
+    auto *button = window()->findChild<QToolButton *>(u"unfittingButton"_s);
+    QVERIFY(!button->isVisible());
+    const QString longText = u"Donaudampfschifffahrtsgesellschaftskapitänswitwenrentenauszahlungsstelle"_s.repeated(2);
+    MvCalendarEventRegistry::instance().setEvents(
+        {MvCalendarEvent(longText, QDate(1990, 5, 17).startOfDay(), true, {}, QUuid::createUuid(), QDateTime())});
+    QTRY_VERIFY(button->isVisible());
+    QCOMPARE(button->text(), u"1 Text ohne Platz"_s);
+    Q_EMIT button->menu()->aboutToShow();
+    button->menu()->actions().first()->trigger();
+    QCOMPARE(window()->currentPage(), 4);
+}
+
+void tst_MvStudioWindow::recovery()
+{
+    MvCalendarDocument lost = MvProjectFlow::firstDocument();
+    lost.setTitle(u"Verloren"_s);
+    for (const QString &name : {u"a"_s, u"b"_s}) {
+        QFile file(u"%1/%2.%3"_s.arg(MvProjectAutosave::folder(), name, MvProjectFile::suffix()));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(MvProjectFile::toBytes(lost, QDir(MvProjectAutosave::folder())));
+    }
+    start();
+    QTRY_VERIFY(dialog("recoveryDialog"));
+    auto *list = dialog("recoveryDialog")->findChild<QTreeWidget *>(u"recoveryList"_s);
+    QCOMPARE(list->topLevelItemCount(), 2);
+    QCOMPARE(list->topLevelItem(0)->text(0), u"Verloren"_s);
+    click(dialog("recoveryDialog"), "recoveryDiscard");
+    QCOMPARE(list->topLevelItemCount(), 1);
+    click(dialog("recoveryDialog"), "recoveryOpen");
+    QCOMPARE(project()->document().title(), u"Verloren"_s);
+    QVERIFY(project()->isModified());
+
+    QVERIFY(project()->saveAs(QFileInfo(path(u"gerettet.mvcalendar"_s))));
+    start();
+    QTest::qWait(50);
+    QVERIFY(!dialog("recoveryDialog"));
+}
+
+void tst_MvStudioWindow::exportPdf()
+{
+    MvCalendarDocument document = project()->document();
+    MvCalendarPage page = document.pages().first();
+    page.setPhotoFrame(MvPhotoFrame(path(u"fehlt.jpg"_s)));
+    document.setPage(0, page);
+    project()->change(document, u"Foto"_s);
+
+    trigger("exportPdf");
+    QDialog *settings = dialog("exportDialog");
+    auto *target = settings->findChild<QLineEdit *>(u"exportTarget"_s);
+    QVERIFY(target->text().startsWith(m_folder->path()));
+    target->setText(path(u"Kalender"_s)); // the suffix comes by itself
+    click(settings, "exportButton");
+    auto *missing = dialog<QMessageBox>("missingPhotosQuestion");
+    QVERIFY(missing->informativeText().contains(u"fehlt.jpg"_s));
+    click(missing, "exportAnywayButton");
+    QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 30000);
+    QVERIFY(!dialog("progressDialog"));
+    QVERIFY(dialog<QMessageBox>("informationMessage")->text().contains(u"Kalender.pdf"_s));
+    QFile pdf(path(u"Kalender.pdf"_s));
+    QVERIFY(pdf.open(QIODevice::ReadOnly));
+    QVERIFY(pdf.read(5) == "%PDF-");
+}
+
+void tst_MvStudioWindow::exportPictures()
+{
+    const int year = project()->document().range().start().year();
+    trigger("exportPng");
+    QDialog *settings = dialog("exportDialog");
+    settings->findChild<QLineEdit *>(u"exportPattern"_s)->setText(u"%y-%m-%n"_s);
+    settings->findChild<QSpinBox *>(u"exportDpi"_s)->setValue(20);
+    settings->findChild<QComboBox *>(u"exportPages"_s)->setCurrentIndex(2);
+    settings->findChild<QLineEdit *>(u"exportPageText"_s)->setText(u"2, 5-6"_s);
+    click(settings, "exportButton");
+    QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 30000);
+    QStringList expected;
+    for (const QString &name : {u"%1-02-02.png"_s, u"%1-05-05.png"_s, u"%1-06-06.png"_s})
+        expected.append(name.arg(year));
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files, QDir::Name), expected);
+    QCOMPARE(QImage(path(expected.first())).size(), QSize(234, 165));
+}
+
+void tst_MvStudioWindow::exportErrors()
+{
+    trigger("exportPng");
+    QDialog *settings = dialog("exportDialog");
+    auto *button = settings->findChild<QPushButton *>(u"exportButton"_s);
+    auto *message = settings->findChild<QLabel *>(u"exportMessage"_s);
+    auto *target = settings->findChild<QLineEdit *>(u"exportTarget"_s);
+    auto *pattern = settings->findChild<QLineEdit *>(u"exportPattern"_s);
+    pattern->setText(u"%n.png"_s);
+    QVERIFY2(button->isEnabled(), qPrintable(message->text()));
+    target->setText(path(u"gibt es nicht"_s));
+    QVERIFY(!button->isEnabled());
+    QVERIFY(message->text().contains(u"gibt es nicht"_s));
+    target->setText(m_folder->path());
+    pattern->setText(u"immer gleich.png"_s);
+    QVERIFY(!button->isEnabled());
+    settings->findChild<QComboBox *>(u"exportPages"_s)->setCurrentIndex(1);
+    QVERIFY(button->isEnabled()); // a single page
+    settings->findChild<QComboBox *>(u"exportPages"_s)->setCurrentIndex(2);
+    settings->findChild<QLineEdit *>(u"exportPageText"_s)->setText(u"13"_s);
+    QVERIFY(message->text().contains(u"1 bis 12"_s));
+}
+
+void tst_MvStudioWindow::print()
+{
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+        trigger("print");
+        click(dialog("noPrinterQuestion"), "pdfButton");
+        QVERIFY(dialog("exportDialog"));
+        dialog("exportDialog")->reject();
+    }
+    auto *flow = window()->findChild<MvPrintFlow *>();
+    flow->showPreview();
+    auto *preview = dialog<QPrintPreviewDialog>("printPreview");
+    QVERIFY(preview);
+    QVERIFY(preview->isVisible());
+    preview->reject();
+
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path(u"druck.pdf"_s));
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, 4);
+    flow->paint(&printer);
+    QFile file(path(u"druck.pdf"_s));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll().count("/Type /Page\n"), 3);
+}
+
+void tst_MvStudioWindow::birthdays()
+{
+    QFile cards(path(u"kontakte.vcf"_s));
+    QVERIFY(cards.open(QIODevice::WriteOnly));
+    for (const QByteArray &name : {QByteArray("Anna"), QByteArray("Bert"), QByteArray("Carl")})
+        cards.write("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + name + "\r\nBDAY:19900517\r\nEND:VCARD\r\n");
+    cards.close();
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    QSignalSpy finished(window()->birthdayImport(), &MvBirthdayImport::finished);
+    for (const int imported : {3, 0}) {
+        trigger("importBirthdays");
+        chooseFile("contactsFileDialog", cards.fileName());
+        QTRY_COMPARE(finished.size(), 1);
+        QCOMPARE(finished.takeFirst(), (QVariantList{3, imported}));
+        QCOMPARE(registry.activeEventList().size(), 3);
+        dialog<QMessageBox>("informationMessage")->close();
+    }
+    QCOMPARE(window()->findChild<QAction *>(u"undo"_s)->text().remove(u'&'), u"Rückgängig: Geburtstage importieren"_s);
+    trigger("undo");
+    QCOMPARE(registry.activeEventList().size(), 0);
+    trigger("redo");
+    QCOMPARE(registry.activeEventList().size(), 3);
+}
+
+void tst_MvStudioWindow::settings()
+{
+    trigger("settings");
+    QDialog *settings = dialog("settingsDialog");
+    settings->findChild<QComboBox *>(u"settingsTheme"_s)->setCurrentIndex(2);
+    settings->findChild<QComboBox *>(u"settingsLanguage"_s)->setCurrentIndex(2);
+    settings->accept();
+    QCOMPARE(MvStudioSettings::theme(), u"dark"_s);
+    QCOMPARE(MvStudioSettings::language(), u"en"_s);
+    QVERIFY(QApplication::palette().color(QPalette::Window).lightness() < 100);
+    MvStudioSettings::setTheme(u"system"_s);
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvStudioWindow)
+#include "tst_MvStudioWindow.moc"
