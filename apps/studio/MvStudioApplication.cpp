@@ -1,8 +1,8 @@
 #include "MvStudioApplication.h"
 
-#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvTranslations.h"
 #include "MvCore/MvUndoController.h"
 #include "MvCore/MvVCardAddressBook.h"
 #include "MvGUIWidgets/MvDialogRequestHandler.h"
@@ -17,30 +17,15 @@
 #include "MvStudioWindow.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
 #include <QTimer>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The system's locale where it speaks the language, since it also knows the country's forms of dates.
-QLocale localeOf(const QString &language)
-{
-    const QLocale system = QLocale::system();
-    if (language == u"en"_s)
-        return system.language() == QLocale::English ? system : QLocale(QLocale::English, QLocale::UnitedKingdom);
-    return system.language() == QLocale::German ? system : QLocale(QLocale::German, QLocale::Germany);
-}
-
-} // namespace
 
 MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject *parent)
     : QObject(parent)
     , m_options(options)
 {
-    setUpLanguage();
+    setUpLanguage(options);
     applyTheme();
     MvInitializer::instance().setup(MvInitializerOption::Everything);
     MvPlatformIndependent::setInstance(std::make_unique<MvVCardAddressBook>());
@@ -68,18 +53,11 @@ void MvStudioApplication::setUpProcess(const QString &version)
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
-void MvStudioApplication::setUpLanguage()
+void MvStudioApplication::setUpLanguage(const MvStudioOptions &options)
 {
-    QString language = m_options.language().isEmpty() ? MvStudioSettings::language() : m_options.language();
-    if (language != u"de"_s && language != u"en"_s)
-        language = QLocale::system().language() == QLocale::German ? u"de"_s : u"en"_s;
-    const QLocale locale = localeOf(language);
-    QLocale::setDefault(locale);
-    MvApplicationLocale::instance().setLocale(locale);
-    // the texts of the libraries' own dialogs, where the system has them
-    auto *translator = new QTranslator(this);
-    if (translator->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(translator);
+    const QString wanted = options.language().isEmpty() ? MvStudioSettings::language() : options.language();
+    if (!MvTranslations::install(wanted)) // "system", or never chosen
+        MvTranslations::install(MvTranslations::systemLanguage());
 }
 
 void MvStudioApplication::applyTheme()

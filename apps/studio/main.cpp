@@ -10,7 +10,9 @@ namespace {
 MvStudioOptions parseWithoutScreen(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    return MvStudioOptions::parse(QCoreApplication::arguments());
+    const QStringList arguments = QCoreApplication::arguments();
+    MvStudioApplication::setUpLanguage(MvStudioOptions::parse(arguments));
+    return MvStudioOptions::parse(arguments); // messages are in that language now
 }
 
 } // namespace
