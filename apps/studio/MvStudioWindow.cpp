@@ -26,6 +26,7 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -33,6 +34,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QSize firstSize(1600, 1000);
 constexpr int messageTime = 8000; // milliseconds
 constexpr int stateVersion = 1;   // of the arrangement of docks and tool bars
 
@@ -75,7 +77,7 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     updateTitle();
     updatePage();
 
-    resize(1280, 800);
+    resize(firstSize.boundedTo(screen()->availableSize()));
     restoreGeometry(MvStudioSettings::windowGeometry());
     restoreState(MvStudioSettings::windowState(), stateVersion);
     m_canvas->setFocus();
