@@ -212,6 +212,10 @@
         <source>Fotos (%1)</source>
         <translation>Photos (%1)</translation>
     </message>
+    <message>
+        <source>Das Foto wird geladen…</source>
+        <translation>Loading the photo…</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarEventDelegateEditDeleteWidget</name>
