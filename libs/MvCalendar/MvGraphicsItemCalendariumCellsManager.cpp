@@ -160,6 +160,11 @@ MvGraphicsItemCalendariumCell *MvGraphicsItemCalendariumCellsManager::findCell(c
     return cell;
 }
 
+MvGraphicsItemCalendariumCell *MvGraphicsItemCalendariumCellsManager::cell(const QDate &date) const
+{
+    return m_cells.value(date);
+}
+
 MvGraphicsItemCalendariumCell *MvGraphicsItemCalendariumCellsManager::createCell(const QDate &date)
 {
     using Cell = MvGraphicsItemCalendariumCell;
