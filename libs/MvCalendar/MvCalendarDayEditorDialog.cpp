@@ -241,6 +241,13 @@ void MvCalendarDayEditorDialog::openDayEditorSeries(const MvCalendarEvent &event
 
 void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event, bool series)
 {
+    // two editors of one entry would make two of it
+    if (MvCalendarDayEditorDialog *other = otherEditor(event)) {
+        other->raise();
+        other->activateWindow();
+        close();
+        return;
+    }
     m_openedEvent = event;
     m_project = MvCalendarEventRegistry::instance().activeModelId();
     m_descriptionEdit->setText(event.description());
@@ -253,6 +260,18 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     show();
     setFoto(event.foto());
     QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
+}
+
+MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalendarEvent &event) const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(window);
+        if (editor && editor != this && editor->isVisible() && !event.uuid().isNull() &&
+            editor->m_openedEvent.uuid() == event.uuid())
+            return editor;
+    }
+    return nullptr;
 }
 
 /// The window that the user sees the dialog come from; null when there is none.

@@ -50,7 +50,8 @@ public:
 
     void openDayEditorSingle(const MvCalendarEvent &event);
     void openDayEditorSeries(const MvCalendarEvent &event);
-    /// Fills the dialog with the entry, which may be new, and shows it.
+    /// Fills the dialog with the entry, which may be new, and shows it. When another editor already shows that entry,
+    /// that one comes to the front instead and this one closes.
     void openDayEditorDialog(const MvCalendarEvent &event, bool series);
 
     void setDate(const QDate &date);
@@ -102,6 +103,7 @@ private:
     void showTextForPhoto(const QString &text);
     bool canRemovePhoto() const;
     void updateRemovePhotoButton();
+    MvCalendarDayEditorDialog *otherEditor(const MvCalendarEvent &event) const;
     QWidget *sourceWindow() const;
     void moveToSource();
     void closeWithProject();

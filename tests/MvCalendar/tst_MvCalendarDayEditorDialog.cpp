@@ -49,6 +49,7 @@ private Q_SLOTS:
     void unreadableFotosAreKept();
     void removeButtonFades();
     void belongsToItsWindowAndDocument();
+    void oneEditorPerEntry();
     void nothingIsCut();
 
 private:
@@ -372,6 +373,24 @@ void tst_MvCalendarDayEditorDialog::belongsToItsWindowAndDocument()
     registry.setActiveModelId(MvProjectIdentifier(u"anderes Dokument"_qs, false), false);
     QVERIFY(!dialog.isVisible());
     registry.setActiveModelId(DEFAULT_PROJECT_ID, true);
+}
+
+void tst_MvCalendarDayEditorDialog::oneEditorPerEntry()
+{
+    const MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 5, 6));
+    MvCalendarDayEditorDialog first(nullptr);
+    first.openDayEditorSingle(anna);
+    const QPointer<MvCalendarDayEditorDialog> second = MvCalendarDayEditorDialog::createSelfDeleting(nullptr);
+    second->openDayEditorSingle(anna);
+    QTRY_VERIFY(!second);
+    QVERIFY(first.isVisible());
+
+    MvCalendarDayEditorDialog other(nullptr); // of another entry
+    other.openDayEditorSingle(entry(u"Anna"_qs, QDate(2027, 5, 6)));
+    QVERIFY(other.isVisible());
+    first.close();
+    other.openDayEditorSingle(anna);
+    QVERIFY(other.isVisible());
 }
 
 void tst_MvCalendarDayEditorDialog::nothingIsCut()
