@@ -121,8 +121,7 @@ void MvBirthdayImport::finish()
     else if (imported == 0)
         MvStudioMessage::information(m_window, tr("Alle %1 Geburtstage waren schon da.").arg(m_found));
     else
-        MvStudioMessage::information(m_window,
-                                     tr("%1 von %2 Geburtstagen importiert.").arg(imported).arg(m_found),
+        MvStudioMessage::information(m_window, tr("%1 von %2 Geburtstagen importiert.").arg(imported).arg(m_found),
                                      tr("Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit "
                                         "Bearbeiten > Rückgängig."));
     Q_EMIT finished(int(m_found), int(imported));

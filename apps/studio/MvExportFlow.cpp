@@ -120,11 +120,11 @@ void MvExportFlow::tellDone(const MvExportResult &result)
                              : tr("%1 Dateien in %2").arg(result.files.size()).arg(QDir::toNativeSeparators(folder));
     Q_EMIT message(tr("Exportiert: %1").arg(what));
     const QStringList unfitting = unfittingTexts();
-    QMessageBox *box = MvStudioMessage::information(
-        m_window, tr("Der Kalender ist exportiert: %1").arg(what),
-        unfitting.isEmpty() ? QString()
-                            : tr("Diese Texte hatten keinen Platz und sind gekürzt:") + u'\n' +
-                                  MvStudioMessage::shortened(unfitting, mostLines));
+    QMessageBox *box = MvStudioMessage::information(m_window, tr("Der Kalender ist exportiert: %1").arg(what),
+                                                    unfitting.isEmpty()
+                                                        ? QString()
+                                                        : tr("Diese Texte hatten keinen Platz und sind gekürzt:") +
+                                                              u'\n' + MvStudioMessage::shortened(unfitting, mostLines));
     QPushButton *openFolder = box->addButton(tr("&Ordner öffnen"), QMessageBox::ActionRole);
     openFolder->setObjectName(u"openFolderButton"_s);
     connect(openFolder, &QPushButton::clicked, box,

@@ -51,10 +51,10 @@ void MvPrintFlow::start()
         showPreview();
         return;
     }
-    QMessageBox *box =
-        MvStudioMessage::question(m_window, u"noPrinterQuestion"_s, tr("Auf diesem Rechner ist kein Drucker eingerichtet."),
-                                  tr("Sie können den Kalender als PDF exportieren und anderswo drucken lassen, oder sich "
-                                     "ansehen, wie er gedruckt aussähe."));
+    QMessageBox *box = MvStudioMessage::question(
+        m_window, u"noPrinterQuestion"_s, tr("Auf diesem Rechner ist kein Drucker eingerichtet."),
+        tr("Sie können den Kalender als PDF exportieren und anderswo drucken lassen, oder sich "
+           "ansehen, wie er gedruckt aussähe."));
     QPushButton *pdf = box->addButton(tr("Als &PDF exportieren …"), QMessageBox::AcceptRole);
     QPushButton *preview = box->addButton(tr("&Vorschau"), QMessageBox::ActionRole);
     QPushButton *cancel =

@@ -112,8 +112,8 @@ void MvStudioStatusBar::fillMenu()
         if (text.size() > longestMenuText)
             text = text.left(longestMenuText) + u'…';
         text.replace(u'&', u"&&"_s);
-        QAction *action = menu->addAction(
-            tr("%1: %2").arg(locale.toString(entry.text.date, QLocale::ShortFormat), text));
+        QAction *action =
+            menu->addAction(tr("%1: %2").arg(locale.toString(entry.text.date, QLocale::ShortFormat), text));
         connect(action, &QAction::triggered, this, [this, page = entry.page] { Q_EMIT pageRequested(page); });
     }
     if (m_entries.size() > mostMenuEntries)

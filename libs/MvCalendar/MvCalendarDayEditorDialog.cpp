@@ -6,8 +6,8 @@
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvUndoController.h"
-#include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoList.h"
+#include "MvFoto/MvFotoLoader.h"
 #include "MvGUIWidgets/MvDropLabel.h"
 #include "MvGUIWidgets/MvLineEdit.h"
 
@@ -72,6 +72,11 @@ MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::createSelfDeleting(QGraphi
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setSize(defaultWidth, defaultHeight);
     return dialog;
+}
+
+void MvCalendarDayEditorDialog::afterDecoding(const MvFoto &foto, QObject *receiver, const std::function<void()> &use)
+{
+    MvFotoLoader::midRes(foto, fotoQuality, fotoCaching, receiver, [use](const QImage &) { use(); });
 }
 
 // ---- widgets
@@ -236,6 +241,13 @@ void MvCalendarDayEditorDialog::openDayEditorSeries(const MvCalendarEvent &event
 
 void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event, bool series)
 {
+    // two editors of one entry would make two of it
+    if (MvCalendarDayEditorDialog *other = otherEditor(event)) {
+        other->raise();
+        other->activateWindow();
+        close();
+        return;
+    }
     m_openedEvent = event;
     m_project = MvCalendarEventRegistry::instance().activeModelId();
     m_descriptionEdit->setText(event.description());
@@ -248,6 +260,18 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     show();
     setFoto(event.foto());
     QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
+}
+
+MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalendarEvent &event) const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(window);
+        if (editor && editor != this && editor->isVisible() && !event.uuid().isNull() &&
+            editor->m_openedEvent.uuid() == event.uuid())
+            return editor;
+    }
+    return nullptr;
 }
 
 /// The window that the user sees the dialog come from; null when there is none.
@@ -360,25 +384,40 @@ void MvCalendarDayEditorDialog::setFoto(const MvFoto &foto)
         resetPhoto();
         return;
     }
-    m_pixmap = QPixmap::fromImage(MvFotoAccess::midRes(foto, fotoQuality, fotoCaching));
-    showPhoto();
+    m_pixmap = {};
+    showTextForPhoto(tr("Das Foto wird geladen…"));
+    MvFotoLoader::midRes(foto, fotoQuality, fotoCaching, this,
+                         [this, foto](const QImage &image) { takeImage(foto, image); });
+}
+
+void MvCalendarDayEditorDialog::takeImage(const MvFoto &foto, const QImage &image)
+{
+    if (!(foto == m_foto))
+        return; // another one was set meanwhile
+    m_pixmap = QPixmap::fromImage(image);
+    if (m_pixmap.isNull())
+        showTextForPhoto(tr("Das Foto „%1“ kann nicht gelesen werden.").arg(foto.localFileInfo().fileName()));
+    else
+        showPhoto();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::animateInRemovePhotoButton);
 }
 
-void MvCalendarDayEditorDialog::showPhoto()
+void MvCalendarDayEditorDialog::showTextForPhoto(const QString &text)
 {
     m_fotoLabel->clear();
+    m_fotoLabel->setText(text);
     m_fotoLabel->setAccessibleName(tr("Anderes Foto auswählen"));
-    if (m_pixmap.isNull()) {
-        m_fotoLabel->setText(tr("Das Foto „%1“ kann nicht gelesen werden.").arg(m_foto.localFileInfo().fileName()));
-    } else {
-        const qreal ratio = m_fotoLabel->devicePixelRatioF();
-        QPixmap scaled = m_pixmap.scaled(m_fotoLabel->size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        scaled.setDevicePixelRatio(ratio);
-        m_fotoLabel->setPixmap(scaled);
-    }
     m_removePhotoButton->setEnabled(true);
+}
+
+void MvCalendarDayEditorDialog::showPhoto()
+{
+    const qreal ratio = m_fotoLabel->devicePixelRatioF();
+    QPixmap scaled = m_pixmap.scaled(m_fotoLabel->size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    m_fotoLabel->clear();
+    m_fotoLabel->setPixmap(scaled);
 }
 
 void MvCalendarDayEditorDialog::removePhoto()

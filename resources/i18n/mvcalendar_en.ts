@@ -212,6 +212,10 @@
         <source>Fotos (%1)</source>
         <translation>Photos (%1)</translation>
     </message>
+    <message>
+        <source>Das Foto wird geladen…</source>
+        <translation>Loading the photo…</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarEventDelegateEditDeleteWidget</name>
@@ -1103,8 +1107,8 @@
 <context>
     <name>MvFontPanel</name>
     <message>
-        <source>Schrift des &amp;Layouts</source>
-        <translation>Font of the &amp;layout</translation>
+        <source>Zurücksetzen</source>
+        <translation>Reset</translation>
     </message>
     <message>
         <source>Nimmt wieder die Schriften und Größen, für die das Layout gemacht ist</source>
@@ -1310,12 +1314,12 @@
 <context>
     <name>MvLayoutPanel</name>
     <message>
-        <source>&amp;Layout</source>
-        <translation>&amp;Layout</translation>
+        <source>Layout</source>
+        <translation>Layout</translation>
     </message>
     <message>
-        <source>Far&amp;ben</source>
-        <translation>&amp;Colours</translation>
+        <source>Farben</source>
+        <translation>Colours</translation>
     </message>
     <message>
         <source>Farbschema ändern</source>
