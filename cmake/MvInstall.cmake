@@ -1,4 +1,4 @@
-# Installation: libraries, headers, the CMake package and the pkg-config file.
+# Installation: libraries, headers, the CMake package, the pkg-config file, and what a desktop wants to know.
 include(CMakePackageConfigHelpers)
 
 get_property(mv_libraries GLOBAL PROPERTY MV_LIBRARIES)
@@ -22,3 +22,17 @@ if(mv_libraries)
     configure_file(cmake/mvcalendar.pc.in ${CMAKE_BINARY_DIR}/mvcalendar.pc @ONLY)
     install(FILES ${CMAKE_BINARY_DIR}/mvcalendar.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endif()
+
+set(mv_desktop_dir ${PROJECT_SOURCE_DIR}/resources/desktop)
+install(FILES ${mv_desktop_dir}/mvcalendar-studio.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${mv_desktop_dir}/mvcalendar.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+install(FILES ${mv_desktop_dir}/org.mvcalendar.Studio.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/man/mvcalendar.1 ${PROJECT_SOURCE_DIR}/docs/man/mvcalendar-studio.1
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+set(mv_icon_dir ${PROJECT_SOURCE_DIR}/resources/icons/app)
+set(mv_icon_theme ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
+install(FILES ${mv_icon_dir}/mvcalendar-studio.svg DESTINATION ${mv_icon_theme}/scalable/apps)
+foreach(size IN ITEMS 16 24 32 48 64 128 256)
+    install(FILES ${mv_icon_dir}/mvcalendar-studio-${size}.png DESTINATION ${mv_icon_theme}/${size}x${size}/apps
+        RENAME mvcalendar-studio.png)
+endforeach()

@@ -1,4 +1,4 @@
-// Paints the portraits of the sample list: flat, friendly, made of a few shapes.
+// Paints the portraits of the sample list, flat and friendly, and a landscape for the photo of a page.
 
 #include <QDir>
 #include <QGuiApplication>
@@ -6,6 +6,11 @@
 #include <QImageWriter>
 #include <QPainter>
 #include <QPainterPath>
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace
 {
@@ -113,6 +118,107 @@ bool paint(const Portrait &portrait, const QDir &folder)
     return writer.write(image);
 }
 
+// ---- landscape
+
+constexpr QSize landscape(1800, 1200);
+constexpr int shore = 800; // where the lake begins
+
+QColor mixed(const QColor &a, const QColor &b, double part)
+{
+    return QColor::fromRgbF(float(a.redF() + (b.redF() - a.redF()) * part),
+                            float(a.greenF() + (b.greenF() - a.greenF()) * part),
+                            float(a.blueF() + (b.blueF() - a.blueF()) * part));
+}
+
+/// The heights of a ridge, a fractal line.
+std::vector<double> ridge(QRandomGenerator &random, double base, double rise)
+{
+    std::vector<double> heights(size_t(landscape.width()), base);
+    double length = 620.0;
+    for (double size = rise; size > 0.6; size *= 0.52, length *= 0.47) {
+        const double phase = random.bounded(1.0) * length;
+        std::vector<double> knots;
+        for (int knot = 0; knot <= landscape.width() / length + 3; ++knot)
+            knots.push_back((random.bounded(1.0) - 0.5) * 2.0 * size);
+        for (int x = 0; x < landscape.width(); ++x) {
+            const double at = (x + phase) / length;
+            const auto knot = size_t(at);
+            const double part = at - std::floor(at);
+            heights[size_t(x)] -= knots[knot] + (knots[knot + 1] - knots[knot]) * part;
+        }
+    }
+    return heights;
+}
+
+void paintSky(QPainter &painter)
+{
+    QLinearGradient sky(0, 0, 0, shore);
+    sky.setColorAt(0.0, QColor(74, 124, 172));
+    sky.setColorAt(0.45, QColor(158, 192, 214));
+    sky.setColorAt(0.75, QColor(248, 222, 186));
+    sky.setColorAt(1.0, QColor(252, 198, 146));
+    painter.fillRect(QRect(QPoint(), landscape), sky);
+    QRadialGradient glow(QPointF(1260, 470), 620);
+    glow.setColorAt(0.0, QColor(255, 248, 226, 255));
+    glow.setColorAt(0.09, QColor(255, 244, 214, 225));
+    glow.setColorAt(0.12, QColor(255, 238, 200, 110));
+    glow.setColorAt(1.0, QColor(255, 226, 180, 0));
+    painter.fillRect(QRect(QPoint(), landscape), glow);
+}
+
+void paintRidges(QPainter &painter, QRandomGenerator &random)
+{
+    constexpr int count = 6;
+    const QColor far(186, 190, 204);
+    const QColor near(34, 62, 66);
+    for (int number = 0; number < count; ++number) {
+        const double depth = number / double(count - 1);
+        const std::vector<double> heights = ridge(random, 470 + 270 * depth, 150 - 112 * depth);
+        QPainterPath path(QPointF(0, shore));
+        for (int x = 0; x < landscape.width(); ++x) {
+            const double tree = number >= count - 2 ? random.bounded(5.0 + 13.0 * depth) : 0.0;
+            path.lineTo(x, std::min(heights[size_t(x)] - tree, double(shore - 6)));
+        }
+        path.lineTo(landscape.width(), shore);
+        path.closeSubpath();
+        const QColor colour = mixed(far, near, std::pow(depth, 1.2));
+        QLinearGradient mist(0, 380 + 200 * depth, 0, shore);
+        mist.setColorAt(0.0, colour);
+        mist.setColorAt(1.0, mixed(colour, QColor(250, 214, 176), 0.42 * (1.0 - 0.7 * depth)));
+        painter.fillPath(path, mist);
+    }
+}
+
+/// The land above it upside down, darker, broken by waves.
+void paintLake(QImage &image, QRandomGenerator &random)
+{
+    for (int y = shore; y < landscape.height(); ++y) {
+        const double far = (y - shore) / double(landscape.height() - shore);
+        const double wave = std::sin(y * (0.9 - 0.55 * far)) * (1.0 + 9.0 * far);
+        const int from = std::clamp(int(shore - 1 - (y - shore) * 1.35 + wave), 0, shore - 1);
+        const int shift = int((random.bounded(1.0) - 0.5) * (2.0 + 8.0 * far));
+        for (int x = 0; x < landscape.width(); ++x) {
+            const QColor above = image.pixelColor(std::clamp(x + shift, 0, landscape.width() - 1), from);
+            image.setPixelColor(x, y, mixed(above, QColor(24, 58, 84), 0.22 + 0.42 * far));
+        }
+    }
+}
+
+bool paintLandscape(const QDir &folder)
+{
+    QRandomGenerator random(11);
+    QImage image(landscape, QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    paintSky(painter);
+    paintRidges(painter, random);
+    painter.end();
+    paintLake(image, random);
+    QImageWriter writer(folder.filePath(QStringLiteral("bergsee.jpg")), "jpeg");
+    writer.setQuality(82);
+    return writer.write(image);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -133,5 +239,5 @@ int main(int argc, char **argv)
                           QColor(110, 70, 42),
                           QColor(240, 196, 164),
                           false};
-    return paint(erika, folder) && paint(ben, folder) ? 0 : 1;
+    return paint(erika, folder) && paint(ben, folder) && paintLandscape(folder) ? 0 : 1;
 }

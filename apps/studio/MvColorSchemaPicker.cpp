@@ -30,8 +30,9 @@ bool haveSameColors(const MvCalendariumColorSchema &a, const MvCalendariumColorS
 
 MvCalendarCellType dayType(int column)
 {
-    return column == 6 ? CALENDAR_CELL_TYPE_SUNDAY
-                       : column == 5 ? CALENDAR_CELL_TYPE_SATURDAY : CALENDAR_CELL_TYPE_WEEKDAY;
+    return column == 6   ? CALENDAR_CELL_TYPE_SUNDAY
+           : column == 5 ? CALENDAR_CELL_TYPE_SATURDAY
+                         : CALENDAR_CELL_TYPE_WEEKDAY;
 }
 
 QColor colorOf(const MvCalendariumColorSchema &schema, MvCalendarCellColorRoleEnum role, const MvCalendarCellType &type,
@@ -126,9 +127,8 @@ void MvColorSchemaPicker::setColorSchema(const MvCalendariumColorSchema &schema)
         delete takeItem(0);
         m_hasOwn = false;
     }
-    const auto same = std::find_if(m_schemata.begin(), m_schemata.end(), [&schema](const auto &known) {
-        return haveSameColors(known, schema);
-    });
+    const auto same = std::find_if(m_schemata.begin(), m_schemata.end(),
+                                   [&schema](const auto &known) { return haveSameColors(known, schema); });
     int row = same != m_schemata.end() ? int(same - m_schemata.begin()) : -1;
     if (row < 0 && schema.isValid()) {
         addSchema(0, schema, tr("Eigene Farben"), QString());

@@ -45,8 +45,7 @@ MvColumnHeadersPanel::MvColumnHeadersPanel(MvPageEdits *edits, QWidget *parent)
     m_stack->addWidget(m_editing);
     m_stack->addWidget(m_emptyState);
     addScrollingColumn()->addWidget(m_stack);
-    connect(m_editor, &MvCalendariumColumnHeadersEditor::headersChanged, this,
-            &MvColumnHeadersPanel::onHeadersChanged);
+    connect(m_editor, &MvCalendariumColumnHeadersEditor::headersChanged, this, &MvColumnHeadersPanel::onHeadersChanged);
 }
 
 QWidget *MvColumnHeadersPanel::createEmptyState()

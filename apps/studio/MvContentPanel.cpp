@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +32,8 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
 
     auto *calendar = new QGroupBox(tr("Ganzer Kalender"), this);
     m_setup->setStartVisible(false); // stands above
+    for (QLabel *label : m_setup->findChildren<QLabel *>())
+        label->setText(label->text().remove(u'&')); // here they would take the menus' keys
     (new QVBoxLayout(calendar))->addWidget(m_setup);
     column->addSpacing(fontMetrics().height() / 2);
     column->addWidget(calendar);

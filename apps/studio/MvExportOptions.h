@@ -12,7 +12,7 @@ struct MvExportOptions
     };
 
     Kind kind = Kind::Pdf;
-    QString target; // absolute: the PDF, or the pattern for the files of the pictures
+    QString target;   // absolute: the PDF, or the pattern for the files of the pictures
     QList<int> pages; // counted from 0
     int dpi = 300;    // of pictures
 };

@@ -20,7 +20,7 @@ constexpr int familyLetters = 24;
 MvFontPanel::MvFontPanel(MvPageEdits *edits, QWidget *parent)
     : MvPagePanel(edits, parent)
     , m_editor(new MvCalendariumFontEditor(this))
-    , m_reset(new QPushButton(tr("Schrift des &Layouts"), this))
+    , m_reset(new QPushButton(tr("Zurücksetzen"), this))
 {
     setObjectName(u"fontPanel"_s);
     addScopeSwitch();

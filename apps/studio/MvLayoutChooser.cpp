@@ -41,7 +41,6 @@ MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     m_list->setIconSize(pictureSize);
     m_list->setSpacing(4);
     m_list->setWordWrap(true);
-    m_list->setUniformItemSizes(true);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     const int textHeight = 2 * m_list->fontMetrics().height() + 10;
     m_list->setGridSize({pictureSize.width() + 20, pictureSize.height() + textHeight + 8});

@@ -9,8 +9,8 @@
 
 #include <QHeaderView>
 #include <QScrollArea>
-#include <QTableView>
 #include <QTabWidget>
+#include <QTableView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -32,8 +32,8 @@ MvLayoutPanel::MvLayoutPanel(MvPageEdits *edits, QWidget *parent)
     auto *tabs = new QTabWidget(this);
     tabs->setObjectName(u"layoutTabs"_s);
     tabs->setDocumentMode(true);
-    tabs->addTab(m_layouts, tr("&Layout"));
-    tabs->addTab(createColorPage(), tr("Far&ben"));
+    tabs->addTab(m_layouts, tr("Layout"));
+    tabs->addTab(createColorPage(), tr("Farben"));
     panelLayout()->addWidget(tabs, 1);
     connect(m_layouts, &MvLayoutChooser::layoutIdChanged, this, &MvLayoutPanel::onLayoutChosen);
     connect(m_schemata, &MvColorSchemaPicker::colorSchemaChosen, this, &MvLayoutPanel::onSchemaChosen);

@@ -315,8 +315,7 @@ void MvPageCanvas::removePhoto()
 /// The day that a dragged photo would go to; an invalid date: to the page.
 QDate MvPageCanvas::showDropTarget(const QDropEvent *event)
 {
-    const QDate date =
-        event->modifiers() & Qt::ShiftModifier ? QDate() : dateAt(event->position().toPoint());
+    const QDate date = event->modifiers() & Qt::ShiftModifier ? QDate() : dateAt(event->position().toPoint());
     const QLocale locale = MvApplicationLocale::instance().locale();
     if (date.isValid()) {
         m_dropTarget->showAt(m_item->dateRect(date), tr("Foto für den %1").arg(locale.toString(date, u"d. MMMM"_s)));
@@ -459,9 +458,9 @@ QDate MvPageCanvas::focusDate() const
 
 bool MvPageCanvas::setFocusDate(const QDate &date)
 {
-    m_keyboardDate = {};
     if (date.isValid() && m_item->cells()->focusDate(date))
         return true;
+    m_keyboardDate = {};
     m_scene->setFocusItem(nullptr);
     return false;
 }
@@ -487,7 +486,7 @@ bool MvPageCanvas::turnPageByArrow(int key)
         return false;
     setCurrentPage(page + (days > 0 ? 1 : -1));
     if (currentPage() == page)
-        return true; // the calendar ends here
+        return true;       // the calendar ends here
     m_keyboardDate = next; // taken up with the new page's cells
     m_scene->setFocusItem(nullptr);
     return true;

@@ -159,9 +159,8 @@ void MvPageItem::record()
 /// The manager keeps the cells of a month as long as its rectangle stays; another layout has other cells there.
 void MvPageItem::removeOutdatedCells()
 {
-    const bool isSameLayout =
-        m_shown.contentConfig().date() == m_cellsPage.contentConfig().date() &&
-        m_shown.appearance().layoutSchema() == m_cellsPage.appearance().layoutSchema();
+    const bool isSameLayout = m_shown.contentConfig().date() == m_cellsPage.contentConfig().date() &&
+                              m_shown.appearance().layoutSchema() == m_cellsPage.appearance().layoutSchema();
     if (!isSameLayout)
         m_cells->setStartDate(QDate());
     m_cellsPage = m_shown;
@@ -190,8 +189,8 @@ void MvPageItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*opt
     const QRect screen = QRect(-origin, QSize(device->width(), device->height()) * ratio);
     if (m_cache.transform != transform || !m_cache.rect.contains(all & screen)) {
         // a little more than what is seen, so that scrolling finds it there
-        const QRect area = all & screen.adjusted(-screen.width() / 4, -screen.height() / 4, screen.width() / 4,
-                                                 screen.height() / 4);
+        const QRect area =
+            all & screen.adjusted(-screen.width() / 4, -screen.height() / 4, screen.width() / 4, screen.height() / 4);
         if (area.isEmpty())
             return;
         m_cache = {QPixmap(area.size()), transform, area};

@@ -5,6 +5,7 @@
 
 #include <QScopedValueRollback>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -31,7 +32,13 @@ MvPagePanel::~MvPagePanel() = default;
 
 QSize MvPagePanel::sizeHint() const
 {
-    return {fontMetrics().averageCharWidth() * usualLetters, QWidget::sizeHint().height()};
+    int width = fontMetrics().averageCharWidth() * usualLetters;
+    if (const auto *area = findChild<QScrollArea *>(); area && area->widget()) {
+        const QMargins margins = m_layout->contentsMargins();
+        width = qMax(width, area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width() +
+                                margins.left() + margins.right());
+    }
+    return {width, QWidget::sizeHint().height()};
 }
 
 void MvPagePanel::addScopeSwitch()

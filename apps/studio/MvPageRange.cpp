@@ -12,8 +12,8 @@ QList<int> MvPageRange::parse(const QString &text, int pageCount, QString *error
     static const QRegularExpression form(u"^\\s*(\\d{1,4})\\s*(?:[-–]\\s*(\\d{1,4})\\s*)?$"_s);
     error->clear();
     QSet<int> pages;
-    const QStringList parts = text.trimmed().isEmpty() ? QStringList{u"1-%1"_s.arg(pageCount)}
-                                                       : text.split(u',', Qt::SkipEmptyParts);
+    const QStringList parts =
+        text.trimmed().isEmpty() ? QStringList{u"1-%1"_s.arg(pageCount)} : text.split(u',', Qt::SkipEmptyParts);
     for (const QString &part : parts) {
         const QRegularExpressionMatch match = form.match(part);
         const int first = match.captured(1).toInt();

@@ -93,8 +93,7 @@ void MvProjectFlow::startNew()
         start.setHolidayConfig(m_project->document().holidayConfig());
         start.setAppearance(m_project->document().appearance());
         start.setFormat(m_project->document().format());
-        auto *dialog =
-            new MvDocumentDialog(MvDocumentDialog::Layout | MvDocumentDialog::Setup, start, m_window);
+        auto *dialog = new MvDocumentDialog(MvDocumentDialog::Layout | MvDocumentDialog::Setup, start, m_window);
         dialog->setObjectName(u"newProjectDialog"_s);
         dialog->setWindowTitle(tr("Neuer Kalender"));
         connect(dialog, &QDialog::accepted, this, [this, dialog] {
@@ -118,8 +117,9 @@ void MvProjectFlow::open(const QString &path)
     if (!QFileInfo::exists(path)) {
         MvStudioSettings::removeRecentFile(path);
         Q_EMIT recentFilesChanged();
-        MvStudioMessage::error(m_window, tr("Die Datei gibt es nicht mehr: %1").arg(QDir::toNativeSeparators(path)),
-                               tr("Vielleicht wurde sie verschoben oder umbenannt. Suchen Sie sie über Datei > Öffnen."));
+        MvStudioMessage::error(
+            m_window, tr("Die Datei gibt es nicht mehr: %1").arg(QDir::toNativeSeparators(path)),
+            tr("Vielleicht wurde sie verschoben oder umbenannt. Suchen Sie sie über Datei > Öffnen."));
         return;
     }
     leave([this, path] { openNow(path); });
@@ -138,7 +138,8 @@ void MvProjectFlow::openNow(const QString &path)
     Q_EMIT recentFilesChanged();
     Q_EMIT message(tr("%1 geöffnet").arg(QDir::toNativeSeparators(file.absoluteFilePath())));
     if (!m_project->notes().isEmpty())
-        MvStudioMessage::information(m_window, tr("Nicht alles konnte so übernommen werden, wie es in der Datei steht."),
+        MvStudioMessage::information(m_window,
+                                     tr("Nicht alles konnte so übernommen werden, wie es in der Datei steht."),
                                      MvStudioMessage::shortened(m_project->notes(), 10));
 }
 

@@ -4,7 +4,7 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
-#include <QToolButton>
+#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 
@@ -21,26 +21,24 @@ MvScopeSwitch::MvScopeSwitch(MvPageEdits *edits, QWidget *parent)
     group->addButton(m_currentPage);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins({});
-    row->setSpacing(0);
     row->addWidget(m_allPages);
     row->addWidget(m_currentPage);
-    connect(m_allPages, &QToolButton::clicked, this, [this] { m_edits->setScope(MvPageEdits::Scope::AllPages); });
-    connect(m_currentPage, &QToolButton::clicked, this, [this] { m_edits->setScope(MvPageEdits::Scope::CurrentPage); });
+    row->addStretch(1);
+    connect(m_allPages, &QRadioButton::clicked, this, [this] { m_edits->setScope(MvPageEdits::Scope::AllPages); });
+    connect(m_currentPage, &QRadioButton::clicked, this,
+            [this] { m_edits->setScope(MvPageEdits::Scope::CurrentPage); });
     connect(edits, &MvPageEdits::scopeChanged, this, &MvScopeSwitch::showScope);
     showScope();
 }
 
-QToolButton *MvScopeSwitch::createButton(const QString &objectName, const QString &text, const QString &help)
+QRadioButton *MvScopeSwitch::createButton(const QString &objectName, const QString &text, const QString &help)
 {
-    auto *button = new QToolButton(this);
+    auto *button = new QRadioButton(this);
     button->setObjectName(objectName);
     button->setText(text);
     button->setToolTip(help);
     button->setAccessibleName(text);
     button->setAccessibleDescription(help);
-    button->setCheckable(true);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return button;
 }
 

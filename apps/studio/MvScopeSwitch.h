@@ -3,9 +3,9 @@
 #include <QWidget>
 
 class MvPageEdits;
-class QToolButton;
+class QRadioButton;
 
-/// Two buttons that decide what an edit applies to: all pages, or the current one alone.
+/// Two choices that decide what an edit applies to: all pages, or the current one alone.
 class MvScopeSwitch : public QWidget
 {
     Q_OBJECT
@@ -14,10 +14,10 @@ public:
     explicit MvScopeSwitch(MvPageEdits *edits, QWidget *parent = nullptr);
 
 private:
-    QToolButton *createButton(const QString &objectName, const QString &text, const QString &help);
+    QRadioButton *createButton(const QString &objectName, const QString &text, const QString &help);
     void showScope();
 
     MvPageEdits *m_edits;
-    QToolButton *m_allPages;
-    QToolButton *m_currentPage;
+    QRadioButton *m_allPages;
+    QRadioButton *m_currentPage;
 };

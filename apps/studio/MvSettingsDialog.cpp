@@ -1,5 +1,6 @@
 #include "MvSettingsDialog.h"
 
+#include "MvCore/MvTranslations.h"
 #include "MvStudioMessage.h"
 #include "MvStudioSettings.h"
 
@@ -20,8 +21,8 @@ MvSettingsDialog::MvSettingsDialog(QWidget *parent)
     setWindowTitle(tr("Einstellungen"));
     m_language->setObjectName(u"settingsLanguage"_s);
     m_language->addItem(tr("Wie das System"), QString());
-    m_language->addItem(u"Deutsch"_s, u"de"_s); // each language by its own name
-    m_language->addItem(u"English"_s, u"en"_s);
+    for (const QString &language : MvTranslations::languages())
+        m_language->addItem(MvTranslations::nameOf(language), language);
     m_language->setCurrentIndex(qMax(0, m_language->findData(MvStudioSettings::language())));
     m_theme->setObjectName(u"settingsTheme"_s);
     m_theme->addItem(tr("Wie das System"), u"system"_s);

@@ -25,7 +25,7 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
     : QObject(parent)
     , m_options(options)
 {
-    setUpLanguage();
+    setUpLanguage(options);
     applyTheme();
     MvInitializer::instance().setup(MvInitializerOption::Everything);
     MvPlatformIndependent::setInstance(std::make_unique<MvVCardAddressBook>());
@@ -53,12 +53,11 @@ void MvStudioApplication::setUpProcess(const QString &version)
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
 }
 
-void MvStudioApplication::setUpLanguage()
+void MvStudioApplication::setUpLanguage(const MvStudioOptions &options)
 {
-    QString language = m_options.language().isEmpty() ? MvStudioSettings::language() : m_options.language();
-    if (!MvTranslations::languages().contains(language))
-        language = MvTranslations::systemLanguage();
-    MvTranslations::install(language);
+    const QString wanted = options.language().isEmpty() ? MvStudioSettings::language() : options.language();
+    if (!MvTranslations::install(wanted)) // "system", or never chosen
+        MvTranslations::install(MvTranslations::systemLanguage());
 }
 
 void MvStudioApplication::applyTheme()

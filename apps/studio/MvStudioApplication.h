@@ -23,6 +23,9 @@ public:
     /// Names, version and defaults that hold before there is a window.
     static void setUpProcess(const QString &version);
 
+    /// The language that the options, the settings or the system ask for.
+    static void setUpLanguage(const MvStudioOptions &options);
+
     /// Opens the window with the coming year, or with the file of the command line. Offers what a crash left behind.
     void start();
 
@@ -31,7 +34,6 @@ public:
     MvProjectAutosave *autosave() const { return m_autosave.get(); }
 
 private:
-    void setUpLanguage();
     void applyTheme();
     void offerRecovery();
 

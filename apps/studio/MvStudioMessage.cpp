@@ -83,6 +83,5 @@ QString MvStudioMessage::shortened(const QStringList &lines, int most)
 {
     if (lines.size() <= most)
         return lines.join(u'\n');
-    return QStringList(lines.mid(0, most)).join(u'\n') + u'\n' +
-           tr("… und %1 weitere").arg(lines.size() - most);
+    return QStringList(lines.mid(0, most)).join(u'\n') + u'\n' + tr("… und %1 weitere").arg(lines.size() - most);
 }

@@ -29,11 +29,12 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent)
     , m_edits(new MvPageEdits(project, this))
 {
     m_panels = {
-        {u"contentPanel"_s, tr("Inhalt"), u"ico_panel_content"_s, new MvContentPanel(m_edits, parent)},
-        {u"layoutPanel"_s, tr("Gestaltung"), u"ico_panel_layout"_s, new MvLayoutPanel(m_edits, parent)},
-        {u"fontPanel"_s, tr("Schriften"), u"ico_panel_fonts"_s, new MvFontPanel(m_edits, parent)},
-        {u"columnHeadersPanel"_s, tr("Spalten"), u"ico_panel_columns"_s, new MvColumnHeadersPanel(m_edits, parent)},
-        {u"entriesPanel"_s, tr("Einträge"), u"ico_panel_entries"_s, createEntriesPanel(parent)},
+        {u"contentPanel"_s, tr("Inhalt"), u"ico_studio_content"_s, new MvContentPanel(m_edits, parent)},
+        {u"layoutPanel"_s, tr("Gestaltung"), u"ico_studio_colors"_s, new MvLayoutPanel(m_edits, parent)},
+        {u"fontPanel"_s, tr("Schriften"), u"ico_studio_fonts"_s, new MvFontPanel(m_edits, parent)},
+        {u"columnHeadersPanel"_s, tr("Spalten"), u"ico_studio_column_headers"_s,
+         new MvColumnHeadersPanel(m_edits, parent)},
+        {u"entriesPanel"_s, tr("Einträge"), u"ico_studio_entries"_s, createEntriesPanel(parent)},
     };
 }
 

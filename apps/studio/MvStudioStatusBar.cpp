@@ -85,7 +85,7 @@ void MvStudioStatusBar::setZoom(double zoom, bool isFitted)
 void MvStudioStatusBar::setUnfitting(const QList<MvUnfittingWatch::Entry> &entries)
 {
     m_entries = entries;
-    m_unfitting->setText(entries.size() == 1 ? tr("1 Text ohne Platz") : tr("%1 Texte ohne Platz").arg(entries.size()));
+    m_unfitting->setText(tr("%n Texte ohne Platz", nullptr, int(entries.size())));
     m_unfitting->setAccessibleName(m_unfitting->text());
     m_unfitting->setVisible(!entries.isEmpty());
 }
@@ -112,8 +112,8 @@ void MvStudioStatusBar::fillMenu()
         if (text.size() > longestMenuText)
             text = text.left(longestMenuText) + u'…';
         text.replace(u'&', u"&&"_s);
-        QAction *action = menu->addAction(
-            tr("%1: %2").arg(locale.toString(entry.text.date, QLocale::ShortFormat), text));
+        QAction *action =
+            menu->addAction(tr("%1: %2").arg(locale.toString(entry.text.date, QLocale::ShortFormat), text));
         connect(action, &QAction::triggered, this, [this, page = entry.page] { Q_EMIT pageRequested(page); });
     }
     if (m_entries.size() > mostMenuEntries)

@@ -26,6 +26,7 @@
 #include <QDockWidget>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -33,6 +34,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QSize firstSize(1600, 1000);
+constexpr int widestPanel = 420;  // at first; the page is what it is about
 constexpr int messageTime = 8000; // milliseconds
 constexpr int stateVersion = 1;   // of the arrangement of docks and tool bars
 
@@ -75,7 +78,7 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     updateTitle();
     updatePage();
 
-    resize(1280, 800);
+    resize(firstSize.boundedTo(screen()->availableSize()));
     restoreGeometry(MvStudioSettings::windowGeometry());
     restoreState(MvStudioSettings::windowState(), stateVersion);
     m_canvas->setFocus();
@@ -123,8 +126,13 @@ void MvStudioWindow::addPanels()
         else
             first = dock;
     }
-    if (first)
-        first->raise();
+    if (!first)
+        return;
+    first->raise();
+    int widest = 0;
+    for (const MvStudioPanel &panel : m_panels->panels())
+        widest = qMax(widest, qMin(panel.widget->sizeHint().width(), widestPanel));
+    resizeDocks({first}, {widest}, Qt::Horizontal);
 }
 
 void MvStudioWindow::createMenus()

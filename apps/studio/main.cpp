@@ -1,7 +1,5 @@
 #include "MvStudioApplication.h"
 
-#include "MvCore/MvTranslations.h"
-
 #include <QApplication>
 
 #include <cstdio>
@@ -12,8 +10,9 @@ namespace {
 MvStudioOptions parseWithoutScreen(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    MvTranslations::install(MvTranslations::systemLanguage());
-    return MvStudioOptions::parse(QCoreApplication::arguments());
+    const QStringList arguments = QCoreApplication::arguments();
+    MvStudioApplication::setUpLanguage(MvStudioOptions::parse(arguments));
+    return MvStudioOptions::parse(arguments); // messages are in that language now
 }
 
 } // namespace

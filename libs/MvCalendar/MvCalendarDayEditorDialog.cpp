@@ -1,18 +1,18 @@
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 
+#include "MvCalendar/MvCalendarEventDateEdit.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvUndoController.h"
-#include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoList.h"
+#include "MvFoto/MvFotoLoader.h"
 #include "MvGUIWidgets/MvDropLabel.h"
 #include "MvGUIWidgets/MvLineEdit.h"
 
 #include <QApplication>
-#include <QDateTimeEdit>
 #include <QDragEnterEvent>
 #include <QGraphicsObject>
 #include <QGraphicsOpacityEffect>
@@ -39,7 +39,6 @@ constexpr int spaceAroundRemoveButton = 5;
 constexpr int fotoQuality = 4;
 constexpr int fotoCaching = 13;
 constexpr int linesOfHint = 4;
-const QDate earliestDate(100, 1, 1); // the first one that date edits know
 
 void setStyleClass(QWidget *widget, const QString &name)
 {
@@ -74,6 +73,11 @@ MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::createSelfDeleting(QGraphi
     return dialog;
 }
 
+void MvCalendarDayEditorDialog::afterDecoding(const MvFoto &foto, QObject *receiver, const std::function<void()> &use)
+{
+    MvFotoLoader::midRes(foto, fotoQuality, fotoCaching, receiver, [use](const QImage &) { use(); });
+}
+
 // ---- widgets
 
 void MvCalendarDayEditorDialog::setupGUI()
@@ -93,12 +97,7 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     layout->setAlignment(Qt::AlignTop);
     layout->setContentsMargins(groupMargin, groupMargin, groupMargin, groupMargin);
 
-    m_dateEdit = new QDateTimeEdit(group);
-    m_dateEdit->setObjectName(u"dateEdit"_s);
-    m_dateEdit->setAccessibleName(tr("Datum"));
-    m_dateEdit->setCalendarPopup(true);
-    m_dateEdit->setDisplayFormat(u"dd.MM.yyyy"_s);
-    m_dateEdit->setMinimumDate(earliestDate);
+    m_dateEdit = new MvCalendarEventDateEdit(group);
     layout->addWidget(m_dateEdit, 0, Qt::AlignLeft);
 
     m_dateLabel = new QLabel(group);
@@ -236,6 +235,13 @@ void MvCalendarDayEditorDialog::openDayEditorSeries(const MvCalendarEvent &event
 
 void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event, bool series)
 {
+    // two editors of one entry would make two of it
+    if (MvCalendarDayEditorDialog *other = otherEditor(event)) {
+        other->raise();
+        other->activateWindow();
+        close();
+        return;
+    }
     m_openedEvent = event;
     m_project = MvCalendarEventRegistry::instance().activeModelId();
     m_descriptionEdit->setText(event.description());
@@ -248,6 +254,18 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     show();
     setFoto(event.foto());
     QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
+}
+
+MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalendarEvent &event) const
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(window);
+        if (editor && editor != this && editor->isVisible() && !event.uuid().isNull() &&
+            editor->m_openedEvent.uuid() == event.uuid())
+            return editor;
+    }
+    return nullptr;
 }
 
 /// The window that the user sees the dialog come from; null when there is none.
@@ -302,7 +320,10 @@ void MvCalendarDayEditorDialog::acceptedAndContinueClicked()
     MvCalendarEvent next = applyEventChange();
     next.setFoto(MvFoto());
     next.setEventName({});
-    next.setDateTime(next.dateTime().addDays(1));
+    QDate tomorrow = next.dateTime().date().addDays(1);
+    if (!next.hasYear())
+        tomorrow.setDate(MvCalendarEvent::unknownYear, tomorrow.month(), tomorrow.day());
+    next.setDateTime(tomorrow.startOfDay());
     openDayEditorDialog(next, true);
 }
 
@@ -325,7 +346,9 @@ void MvCalendarDayEditorDialog::setDate(const QDate &date)
 {
     m_date = date;
     m_dateEdit->setDate(date);
-    m_dateLabel->setText(MvApplicationLocale::instance().locale().toString(date, QLocale::LongFormat));
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    m_dateLabel->setText(date.year() == MvCalendarEvent::unknownYear ? locale.toString(date, u"d. MMMM"_s)
+                                                                     : locale.toString(date, QLocale::LongFormat));
 }
 
 MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
@@ -360,25 +383,40 @@ void MvCalendarDayEditorDialog::setFoto(const MvFoto &foto)
         resetPhoto();
         return;
     }
-    m_pixmap = QPixmap::fromImage(MvFotoAccess::midRes(foto, fotoQuality, fotoCaching));
-    showPhoto();
+    m_pixmap = {};
+    showTextForPhoto(tr("Das Foto wird geladen…"));
+    MvFotoLoader::midRes(foto, fotoQuality, fotoCaching, this,
+                         [this, foto](const QImage &image) { takeImage(foto, image); });
+}
+
+void MvCalendarDayEditorDialog::takeImage(const MvFoto &foto, const QImage &image)
+{
+    if (!(foto == m_foto))
+        return; // another one was set meanwhile
+    m_pixmap = QPixmap::fromImage(image);
+    if (m_pixmap.isNull())
+        showTextForPhoto(tr("Das Foto „%1“ kann nicht gelesen werden.").arg(foto.localFileInfo().fileName()));
+    else
+        showPhoto();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::animateInRemovePhotoButton);
 }
 
-void MvCalendarDayEditorDialog::showPhoto()
+void MvCalendarDayEditorDialog::showTextForPhoto(const QString &text)
 {
     m_fotoLabel->clear();
+    m_fotoLabel->setText(text);
     m_fotoLabel->setAccessibleName(tr("Anderes Foto auswählen"));
-    if (m_pixmap.isNull()) {
-        m_fotoLabel->setText(tr("Das Foto „%1“ kann nicht gelesen werden.").arg(m_foto.localFileInfo().fileName()));
-    } else {
-        const qreal ratio = m_fotoLabel->devicePixelRatioF();
-        QPixmap scaled = m_pixmap.scaled(m_fotoLabel->size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        scaled.setDevicePixelRatio(ratio);
-        m_fotoLabel->setPixmap(scaled);
-    }
     m_removePhotoButton->setEnabled(true);
+}
+
+void MvCalendarDayEditorDialog::showPhoto()
+{
+    const qreal ratio = m_fotoLabel->devicePixelRatioF();
+    QPixmap scaled = m_pixmap.scaled(m_fotoLabel->size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    m_fotoLabel->clear();
+    m_fotoLabel->setPixmap(scaled);
 }
 
 void MvCalendarDayEditorDialog::removePhoto()

@@ -11,11 +11,13 @@
 #include <QPixmap>
 #include <QPointer>
 
+#include <functional>
+
+class MvCalendarEventDateEdit;
 class MvDropLabel;
 class MvLineEdit;
 class MvUndoCommand;
 class QBoxLayout;
-class QDateTimeEdit;
 class QGraphicsObject;
 class QGroupBox;
 class QLabel;
@@ -42,13 +44,19 @@ public:
     /// A new dialog that deletes itself when it is closed, in its default size.
     static MvCalendarDayEditorDialog *createSelfDeleting(QGraphicsObject *item);
 
+    /// Calls when the photo is at hand in the form in which entries store it (MvCalendarEvent::setFoto()), so that
+    /// storing a large one does not keep the window waiting; not at all when the receiver is gone by then.
+    static void afterDecoding(const MvFoto &foto, QObject *receiver, const std::function<void()> &use);
+
     void openDayEditorSingle(const MvCalendarEvent &event);
     void openDayEditorSeries(const MvCalendarEvent &event);
-    /// Fills the dialog with the entry, which may be new, and shows it.
+    /// Fills the dialog with the entry, which may be new, and shows it. When another editor already shows that entry,
+    /// that one comes to the front instead and this one closes.
     void openDayEditorDialog(const MvCalendarEvent &event, bool series);
 
     void setDate(const QDate &date);
-    /// A photo that cannot be read is kept, with a text in its place.
+    /// A large photo is shown when it has been decoded; until then, and for one that cannot be read, a text stands in
+    /// its place.
     void setFoto(const MvFoto &foto);
     void resetPhoto();
     bool hasPhoto() const;
@@ -90,16 +98,19 @@ private:
     QPushButton *createButton(const QString &text, const QString &name, QBoxLayout *layout);
     void setupKeyboard();
 
+    void takeImage(const MvFoto &foto, const QImage &image);
     void showPhoto();
+    void showTextForPhoto(const QString &text);
     bool canRemovePhoto() const;
     void updateRemovePhotoButton();
+    MvCalendarDayEditorDialog *otherEditor(const MvCalendarEvent &event) const;
     QWidget *sourceWindow() const;
     void moveToSource();
     void closeWithProject();
 
     QPointer<QGraphicsObject> m_item;
     QLabel *m_dateLabel = nullptr;
-    QDateTimeEdit *m_dateEdit = nullptr;
+    MvCalendarEventDateEdit *m_dateEdit = nullptr;
     QDate m_date;
     MvLineEdit *m_descriptionEdit = nullptr;
     MvFoto m_foto;

@@ -1,5 +1,6 @@
 #include "MvCalendar/MvCalendarEventFotoDelegateEditorWidget.h"
 
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
@@ -88,9 +89,11 @@ void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent 
             MvDiskAccessRequest::instance().readFotoFailed(fileName, asker);
             return;
         }
-        MvCalendarEvent changed = event;
-        changed.setFoto(foto);
-        use(changed);
+        MvCalendarDayEditorDialog::afterDecoding(foto, asker, [event, foto, use] {
+            MvCalendarEvent changed = event;
+            changed.setFoto(foto);
+            use(changed);
+        });
     };
     MvDiskAccessRequest::instance().requestOpenFile(MvDiskAccessRequest::FotoFile, tr("Foto auswählen"), filter, asker,
                                                     take);

@@ -118,7 +118,8 @@ QFrame *MvCalendarEventListWidget::createHorizontalLine(QWidget *parent)
 {
     auto *line = new QFrame(parent);
     line->setFrameShape(QFrame::HLine);
-    line->setFrameShadow(QFrame::Sunken);
+    line->setFrameShadow(QFrame::Plain);
+    line->setForegroundRole(QPalette::Mid);
     return line;
 }
 

@@ -160,6 +160,11 @@ MvGraphicsItemCalendariumCell *MvGraphicsItemCalendariumCellsManager::findCell(c
     return cell;
 }
 
+MvGraphicsItemCalendariumCell *MvGraphicsItemCalendariumCellsManager::cell(const QDate &date) const
+{
+    return m_cells.value(date);
+}
+
 MvGraphicsItemCalendariumCell *MvGraphicsItemCalendariumCellsManager::createCell(const QDate &date)
 {
     using Cell = MvGraphicsItemCalendariumCell;
@@ -278,10 +283,12 @@ void MvGraphicsItemCalendariumCellsManager::takeFotoForDate(const QDate &date, c
     config.setHolidayConfig(withEntries);
     const MvCalendarEventList events = MvCalendarEventRegistry::instance().events(config);
     if (events.size() == 1) {
-        MvCalendarEvent changed = events.first();
-        changed.setFoto(foto);
-        MvUndoController::instance().push(new MvUndoCommandCalendarEvent(events.first(), changed, m_parent));
-        Q_EMIT eventChanged();
+        MvCalendarDayEditorDialog::afterDecoding(foto, this, [this, before = events.first(), foto] {
+            MvCalendarEvent changed = before;
+            changed.setFoto(foto);
+            MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, changed, m_parent));
+            Q_EMIT eventChanged();
+        });
     } else {
         createAndStartCalendarDayEditorDialog(newEntryAt(date))->setFoto(foto);
     }

@@ -56,7 +56,7 @@ public:
     QDate hoveredDate() const { return m_hoveredDate; }
 
     /// The cell of a date; null when the date has none.
-    MvGraphicsItemCalendariumCell *cell(const QDate &date) const { return m_cells.value(date); }
+    MvGraphicsItemCalendariumCell *cell(const QDate &date) const;
     /// Gives the date's cell the keyboard focus and brings it into view; false when it has no visible cell.
     bool focusDate(const QDate &date);
 

@@ -4,10 +4,10 @@
 #include "MvProject/MvExportObserver.h"
 
 #include <QHash>
-#include <QMutex>
-#include <QWaitCondition>
 
+#include <condition_variable>
 #include <functional>
+#include <mutex>
 
 /// Hands recorded pages from the thread that records to the one that exports, and carries progress and the wish to
 /// cancel between them. Any thread.
@@ -29,8 +29,8 @@ public:
 
 private:
     std::function<void(int, int)> m_progress;
-    mutable QMutex m_mutex;
-    QWaitCondition m_changed;
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
     QHash<int, MvPaintRecording> m_recordings;
     bool m_isCancelled = false;
 };

@@ -2,6 +2,7 @@
 
 import argparse
 import os
+import struct
 import subprocess
 import tempfile
 import unittest
@@ -51,6 +52,17 @@ class Package(unittest.TestCase):
             *self.pkg_config("--cflags", "--libs"))
         self.assert_runs(program)
         self.assertEqual(Path(*self.pkg_config("--variable=prefix")).resolve(), self.prefix.resolve())
+
+    def test_desktop_finds_the_studio(self):
+        share = self.prefix / "share"
+        for file in ("applications/mvcalendar-studio.desktop", "mime/packages/mvcalendar.xml",
+                     "metainfo/org.mvcalendar.Studio.metainfo.xml", "man/man1/mvcalendar.1",
+                     "man/man1/mvcalendar-studio.1", "icons/hicolor/scalable/apps/mvcalendar-studio.svg"):
+            self.assertTrue((share / file).is_file(), file)
+        for size in (16, 24, 32, 48, 64, 128, 256):
+            png = (share / f"icons/hicolor/{size}x{size}/apps/mvcalendar-studio.png").read_bytes()
+            self.assertEqual(struct.unpack(">II", png[16:24]), (size, size))
+        self.assertIn("mvcalendar-studio", run(self.prefix / "bin/mvcalendar-studio", "--version"))
 
     def test_no_build_path_remains(self):
         for path in [*self.prefix.rglob("*.cmake"), *self.prefix.rglob("*.pc")]:

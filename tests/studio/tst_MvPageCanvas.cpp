@@ -277,9 +277,8 @@ void tst_MvPageCanvas::contextMenuPlacesThePhoto()
     open.settle();
     const std::unique_ptr<QMenu> menu(open.canvas->createContextMenu(open.viewPoint(QDate(2027, 1, 12))));
     const QList<QAction *> actions = menu->actions();
-    QVERIFY(std::any_of(actions.begin(), actions.end(), [](const QAction *each) {
-        return each->text().startsWith(u"Neuen Eintrag am 12. Jan");
-    }));
+    QVERIFY(std::any_of(actions.begin(), actions.end(),
+                        [](const QAction *each) { return each->text().startsWith(u"Neuen Eintrag am 12. Jan"); }));
     QVERIFY(menu->findChild<QAction *>(u"choosePhoto"_s));
 }
 

@@ -121,12 +121,13 @@ void tst_MvStudioPanels::scope()
     QFETCH(const QString, button);
     QFETCH(const bool, others);
     const OpenPanels open;
-    open.find<QWidget>(u"layoutPanel"_s)->findChild<QToolButton *>(button)->click();
+    open.find<QWidget>(u"layoutPanel"_s)->findChild<QRadioButton *>(button)->click();
     // every panel's switch shows the same
-    for (const QToolButton *each : open.window.findChildren<QToolButton *>(button))
+    for (const QRadioButton *each : open.window.findChildren<QRadioButton *>(button))
         QVERIFY(each->isChecked());
-    open.find<QWidget>(u"layoutPanel"_s)->findChild<MvLayoutChooser *>()->setLayoutId(
-        MvCalendariumLayoutSchemaID(u"DAY_LIST"_s));
+    open.find<QWidget>(u"layoutPanel"_s)
+        ->findChild<MvLayoutChooser *>()
+        ->setLayoutId(MvCalendariumLayoutSchemaID(u"DAY_LIST"_s));
     QCOMPARE(layoutOf(open.look(1)), u"DAY_LIST"_s);
     QCOMPARE(layoutOf(open.look(0)) == u"DAY_LIST"_s, others);
     QCOMPARE(layoutOf(open.look(11)) == u"DAY_LIST"_s, others);
@@ -186,8 +187,8 @@ void tst_MvStudioPanels::startAndMonths()
     orientation->setCurrentIndex(1 - orientation->currentIndex());
     QCOMPARE(open.project.document().format().orientation(), MvPageFormat::Orientation::Portrait);
     QCOMPARE(open.project.document().format().bleed(), 30.0);
-    QCOMPARE(open.undoTexts(), QStringList({u"Beginn des Kalenders ändern"_s, u"Anzahl der Monate ändern"_s,
-                                            u"Seitenformat ändern"_s}));
+    QCOMPARE(open.undoTexts(),
+             QStringList({u"Beginn des Kalenders ändern"_s, u"Anzahl der Monate ändern"_s, u"Seitenformat ändern"_s}));
     MvUndoController::instance().undo();
     MvUndoController::instance().undo();
     QCOMPARE(open.find<QSpinBox>(u"monthCount"_s)->value(), 12);

@@ -1,0 +1,451 @@
+#include "MvWidgetTest.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvRequestHandler.h"
+#include "MvCore/MvUndoController.h"
+
+namespace {
+
+MvCalendarEvent entry(const QString &name, const QDate &date, const MvFoto &foto = {})
+{
+    return {name, date.startOfDay(), true, foto, QUuid::createUuid(), {}};
+}
+
+/// Chooses a file at once and notes what is reported.
+struct Script : MvRequestHandler
+{
+    explicit Script(QString file)
+        : chosen(std::move(file))
+    {}
+    void askForFile(const FileRequest &, QObject *, const FileAnswer &answer) override { answer(chosen); }
+    void askYesNo(const QString &, const QString &, QObject *, const YesNoAnswer &answer) override { answer(false); }
+    void report(const QString &, const QString &text, QObject *) override { reports.append(text); }
+    QString chosen;
+    QStringList reports;
+};
+
+} // namespace
+
+class tst_MvCalendarDayEditorDialog : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void namesThatCount_data();
+    void namesThatCount();
+    void createsChangesAndDeletes();
+    void keysAlone();
+    void seriesOverNewYear();
+    void birthdaysWithoutAYear();
+    void cancels();
+    void deletingANewEntryIsNoStep();
+    void drops_data();
+    void drops();
+    void choosesByKeyboard();
+    void largeFotosArriveLater();
+    void removesTheFoto();
+    void unreadableFotosAreKept();
+    void removeButtonFades();
+    void belongsToItsWindowAndDocument();
+    void oneEditorPerEntry();
+    void nothingIsCut();
+
+private:
+    static MvCalendarEventList events() { return MvCalendarEventRegistry::instance().activeEventList(); }
+    template <class Widget>
+    static Widget *part(const QWidget &dialog, const QString &name)
+    {
+        return dialog.findChild<Widget *>(name);
+    }
+    static QPushButton *ok(const QWidget &dialog) { return part<QPushButton>(dialog, u"okButton"_qs); }
+    static QLineEdit *description(const QWidget &dialog) { return part<QLineEdit>(dialog, u"descriptionEdit"_qs); }
+    QString path(const QString &file) const { return m_folder.filePath(file); }
+
+    QTemporaryDir m_folder;
+};
+
+void tst_MvCalendarDayEditorDialog::initTestCase()
+{
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path(u"rot.png"_qs)));
+    image.fill(Qt::blue);
+    QVERIFY(image.save(path(u"blau.png"_qs)));
+    QImage large(4000, 3000, QImage::Format_RGB32);
+    large.fill(Qt::green);
+    QVERIFY(large.save(path(u"groß.jpg"_qs)));
+    QFile text(path(u"text.png"_qs));
+    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("kein Foto") > 0);
+}
+
+void tst_MvCalendarDayEditorDialog::init()
+{
+    failOnWarnings();
+    MvUndoController::instance().clear();
+    MvCalendarEventRegistry::instance().setEvents({});
+}
+
+void tst_MvCalendarDayEditorDialog::namesThatCount_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("none") << QString() << false;
+    QTest::newRow("blanks") << u" \t "_qs << false;
+    QTest::newRow("a name") << u" Zoë "_qs << true;
+}
+
+void tst_MvCalendarDayEditorDialog::namesThatCount()
+{
+    QFETCH(const QString, name);
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSeries(entry(u"vorher"_qs, QDate(2027, 6, 5)));
+    description(dialog)->setText(name);
+    QTEST(ok(dialog)->isEnabled(), "enabled");
+    QTEST(part<QPushButton>(dialog, u"okAndContinueButton"_qs)->isEnabled(), "enabled");
+    dialog.openDayEditorSingle(entry(name, QDate(2027, 6, 5))); // with the name from the start
+    QTEST(ok(dialog)->isEnabled(), "enabled");
+}
+
+void tst_MvCalendarDayEditorDialog::createsChangesAndDeletes()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    QSignalSpy accepted(&dialog, &QDialog::accepted);
+    dialog.openDayEditorSingle(entry({}, QDate(2027, 6, 5)));
+    QCOMPARE(part<QLabel>(dialog, u"dateLabel"_qs)->text(), u"Samstag, 5. Juni 2027"_qs);
+    QTest::keyClicks(description(dialog), u"Oma"_qs);
+    ok(dialog)->click();
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(events().size(), 1);
+    const QUuid uuid = events().first().uuid();
+
+    dialog.openDayEditorSingle(events().first());
+    part<QDateTimeEdit>(dialog, u"dateEdit"_qs)->setDate({1604, 2, 29}); // a birthday without a year
+    ok(dialog)->click();
+    QCOMPARE(events().first().dateTime().date(), QDate(1604, 2, 29));
+    QCOMPARE(events().first().uuid(), uuid);
+    QVERIFY(!events().first().hasYear());
+
+    dialog.openDayEditorSingle(events().first());
+    ok(dialog)->click(); // nothing changed
+    QCOMPARE(MvUndoController::instance().stack()->count(), 2);
+
+    dialog.openDayEditorSingle(events().first());
+    part<QPushButton>(dialog, u"deleteButton"_qs)->click();
+    QVERIFY(events().isEmpty());
+    QCOMPARE(accepted.count(), 4);
+    MvUndoController::instance().undo();
+    MvUndoController::instance().undo();
+    QCOMPARE(events().first().dateTime().date(), QDate(2027, 6, 5));
+}
+
+void tst_MvCalendarDayEditorDialog::keysAlone()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSeries(entry(u"Anna"_qs, QDate(2027, 6, 5)));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QStringList order;
+    for (int i = 0; i < 7; ++i) {
+        order.append(dialog.focusWidget()->objectName());
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+    }
+    // the button for removing a photo is out of the way without one
+    QCOMPARE(order, (QStringList{u"descriptionEdit"_qs, u"fotoLabel"_qs, u"deleteButton"_qs, u"cancelButton"_qs,
+                                 u"okAndContinueButton"_qs, u"okButton"_qs, u"dateEdit"_qs}));
+    QTest::keyClick(description(dialog), Qt::Key_Return);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+    QVERIFY(!dialog.isVisible());
+}
+
+void tst_MvCalendarDayEditorDialog::seriesOverNewYear()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSeries(entry({}, QDate(2027, 12, 31), MvFoto(QFileInfo(path(u"rot.png"_qs)))));
+    description(dialog)->setText(u"Silvester"_qs);
+    QVERIFY(dialog.hasPhoto());
+    part<QPushButton>(dialog, u"okAndContinueButton"_qs)->click();
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(part<QDateTimeEdit>(dialog, u"dateEdit"_qs)->date(), QDate(2028, 1, 1));
+    QCOMPARE(description(dialog)->text(), QString());
+    QVERIFY(!dialog.hasPhoto());
+    QVERIFY(!ok(dialog)->isEnabled());
+    description(dialog)->setText(u"Neujahr"_qs);
+    ok(dialog)->click();
+    QCOMPARE(events().size(), 2);
+    QCOMPARE(events().first().dateTime().date(), QDate(2027, 12, 31));
+    QCOMPARE(events().last().dateTime().date(), QDate(2028, 1, 1));
+    QVERIFY(!events().last().foto().isValid());
+
+    dialog.openDayEditorSingle(events().first());
+    QVERIFY(!part<QPushButton>(dialog, u"okAndContinueButton"_qs)->isVisible());
+}
+
+void tst_MvCalendarDayEditorDialog::birthdaysWithoutAYear()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    auto *date = part<QDateTimeEdit>(dialog, u"dateEdit"_qs);
+    auto *unknown = part<QCheckBox>(dialog, u"yearUnknownBox"_qs);
+    dialog.openDayEditorSeries(entry(u"Opa"_qs, {1604, 2, 28}));
+    QCOMPARE(date->text(), u"28.02."_qs);
+    QCOMPARE(part<QLabel>(dialog, u"dateLabel"_qs)->text(), u"28. Februar"_qs);
+    QVERIFY(unknown->isChecked() && !date->calendarPopup()); // its sheet would have a year
+    date->setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClick(date, Qt::Key_Up);
+    part<QPushButton>(dialog, u"okAndContinueButton"_qs)->click();
+    QCOMPARE(events().first().dateTime().date(), QDate(1604, 2, 29));
+    QCOMPARE(date->text(), u"01.03."_qs);
+
+    dialog.openDayEditorSeries(entry(u"Oma"_qs, {1604, 12, 31}));
+    part<QPushButton>(dialog, u"okAndContinueButton"_qs)->click();
+    QCOMPARE(date->text(), u"01.01."_qs);
+
+    dialog.openDayEditorSingle(entry(u"Uropa"_qs, {1604, 2, 29}));
+    unknown->click(); // there is one after all
+    QCOMPARE(date->text().left(6), u"29.02."_qs);
+    QVERIFY(date->date().year() > 2000 && date->calendarPopup());
+    QTest::keyClicks(date, u"1932"_qs);
+    QCOMPARE(dialog.applyEventChange().dateTime().date(), QDate(1932, 2, 29));
+    unknown->click();
+    QVERIFY(!dialog.applyEventChange().hasYear());
+    unknown->click();
+    QCOMPARE(date->text(), u"29.02.1932"_qs);
+}
+
+void tst_MvCalendarDayEditorDialog::cancels()
+{
+    for (const bool byKey : {true, false}) {
+        QPointer<MvCalendarDayEditorDialog> dialog = MvCalendarDayEditorDialog::createSelfDeleting(nullptr);
+        QSignalSpy rejected(dialog, &QDialog::rejected);
+        dialog->openDayEditorSingle(entry(u"x"_qs, QDate(2027, 6, 5)));
+        description(*dialog)->setText(u"y"_qs);
+        if (byKey)
+            QTest::keyClick(description(*dialog), Qt::Key_Escape);
+        else
+            part<QPushButton>(*dialog, u"cancelButton"_qs)->click();
+        QCOMPARE(rejected.count(), 1);
+        QTRY_VERIFY(!dialog);
+    }
+    QVERIFY(events().isEmpty());
+}
+
+void tst_MvCalendarDayEditorDialog::deletingANewEntryIsNoStep()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry({}, QDate(2027, 6, 5)));
+    description(dialog)->setText(u"doch nicht"_qs);
+    part<QPushButton>(dialog, u"deleteButton"_qs)->click();
+    QVERIFY(events().isEmpty());
+    QCOMPARE(MvUndoController::instance().stack()->count(), 0);
+    QCOMPARE(dialog.result(), int(QDialog::Accepted));
+}
+
+void tst_MvCalendarDayEditorDialog::drops_data()
+{
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<QColor>("color");
+    QTest::newRow("one photo") << QStringList{u"blau.png"_qs} << true << QColor(Qt::blue);
+    QTest::newRow("the first of several") << QStringList{u"rot.png"_qs, u"blau.png"_qs} << true << QColor(Qt::red);
+    QTest::newRow("no photo, whatever its name") << QStringList{u"text.png"_qs} << false << QColor();
+    QTest::newRow("photos among others") << QStringList{u"text.png"_qs, u"fehlt.jpg"_qs, u"blau.png"_qs} << true
+                                         << QColor(Qt::blue);
+}
+
+void tst_MvCalendarDayEditorDialog::drops()
+{
+    QFETCH(const QStringList, files);
+    QFETCH(const QColor, color);
+    QList<QUrl> urls;
+    for (const QString &file : files)
+        urls.append(QUrl::fromLocalFile(path(file)));
+    QMimeData mime;
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5)));
+    QDragEnterEvent without({9, 9}, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    without.ignore();
+    QApplication::sendEvent(&dialog, &without);
+    QVERIFY(!without.isAccepted());
+    mime.setUrls(urls);
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QApplication::sendEvent(&dialog, &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent drop({9, 9}, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    drop.ignore();
+    QApplication::sendEvent(&dialog, &drop);
+    QTEST(drop.isAccepted(), "accepted");
+    QTEST(dialog.hasPhoto(), "accepted");
+    if (!color.isValid())
+        return;
+    ok(dialog)->click();
+    const QFileInfo stored = events().first().imagePath();
+    QCOMPARE(stored.dir(), MvCalendarEvent::imageDirectory());
+    QCOMPARE(QImage(stored.filePath()).pixelColor(5, 5), color);
+}
+
+void tst_MvCalendarDayEditorDialog::choosesByKeyboard()
+{
+    auto *script = new Script(path(u"text.png"_qs));
+    MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(script));
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5)));
+    auto *label = part<QLabel>(dialog, u"fotoLabel"_qs);
+    QTest::keyClick(label, Qt::Key_Space);
+    QCOMPARE(script->reports.size(), 1); // names the file that is no photo
+    QVERIFY(script->reports.first().contains(u"text.png"_qs));
+    QVERIFY(!dialog.hasPhoto());
+    script->chosen = path(u"rot.png"_qs);
+    QTest::keyClick(label, Qt::Key_Return);
+    QVERIFY(dialog.hasPhoto());
+    QVERIFY(dialog.isVisible()); // Enter went to the photo, not to OK
+    script->chosen.clear();
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(label);
+    QCOMPARE(accessible->role(), QAccessible::Button);
+    accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QVERIFY(dialog.hasPhoto()); // none chosen: as before
+    MvRequestHandler::install(nullptr);
+}
+
+void tst_MvCalendarDayEditorDialog::largeFotosArriveLater()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5)));
+    const auto setLarge = [&dialog, this] { dialog.setFoto(MvFoto(QFileInfo(path(u"groß.jpg"_qs)))); };
+    setLarge();
+    QVERIFY(!dialog.hasPhoto());
+    QTRY_VERIFY(dialog.hasPhoto());
+
+    setLarge();
+    dialog.removePhoto(); // before it arrives
+    QThreadPool::globalInstance()->waitForDone();
+    QTest::qWait(20);
+    QVERIFY(!dialog.hasPhoto());
+    setLarge();
+    ok(dialog)->click(); // does not lose it either
+    QCOMPARE(events().first().imageSize(), QSize(2048, 1536));
+}
+
+void tst_MvCalendarDayEditorDialog::removesTheFoto()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    const auto *label = part<QLabel>(dialog, u"fotoLabel"_qs);
+    const QString hint = label->text();
+    QCOMPARE(hint, u"Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden."_qs);
+    dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5), MvFoto(QFileInfo(path(u"rot.png"_qs)))));
+    const qreal ratio = label->devicePixelRatioF();
+    QCOMPARE(label->pixmap(Qt::ReturnByValue).size(), QSize(40, 30).scaled(label->size() * ratio, Qt::KeepAspectRatio));
+    auto *button = part<QPushButton>(dialog, u"removePhotoButton"_qs);
+    const auto *effect = qobject_cast<QGraphicsOpacityEffect *>(button->graphicsEffect());
+    QTRY_COMPARE(effect->opacity(), 1.0);
+    button->click();
+    QCOMPARE(label->text(), hint);
+    QVERIFY(!dialog.hasPhoto());
+    QVERIFY(!button->isEnabled());
+    QTRY_COMPARE(effect->opacity(), 0.0);
+    ok(dialog)->click();
+    QVERIFY(!events().first().foto().isValid());
+}
+
+void tst_MvCalendarDayEditorDialog::unreadableFotosAreKept()
+{
+    const QString file = MvCalendarEvent::imageDirectory().filePath(u"kaputt.png"_qs);
+    QVERIFY(QFile::copy(path(u"text.png"_qs), file));
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5), MvFoto(QFileInfo(file))));
+    QVERIFY(part<QLabel>(dialog, u"fotoLabel"_qs)->text().contains(u"kaputt.png"_qs));
+    description(dialog)->setText(u"anders"_qs);
+    ok(dialog)->click();
+    QCOMPARE(events().first().foto().localFilePath(), file);
+}
+
+void tst_MvCalendarDayEditorDialog::removeButtonFades()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5), MvFoto(QFileInfo(path(u"rot.png"_qs)))));
+    auto *label = part<QLabel>(dialog, u"fotoLabel"_qs);
+    auto *button = part<QPushButton>(dialog, u"removePhotoButton"_qs);
+    const auto *effect = qobject_cast<QGraphicsOpacityEffect *>(button->graphicsEffect());
+    const auto hover = [](QWidget *widget, bool enter) {
+        QHoverEvent event(enter ? QEvent::HoverEnter : QEvent::HoverLeave, {1, 1}, {1, 1}, QPointF(0, 0));
+        QApplication::sendEvent(widget, &event);
+    };
+    QTRY_COMPARE(effect->opacity(), 1.0); // some time after the photo appeared
+    hover(label, true);
+    hover(label, false);
+    QTRY_COMPARE(effect->opacity(), 0.0);
+    hover(label, true);
+    hover(label, false);
+    hover(button, true); // lies over the photo
+    QTRY_COMPARE(effect->opacity(), 1.0);
+    hover(button, false);
+    QTRY_COMPARE(effect->opacity(), 0.0);
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    button->setFocus(Qt::TabFocusReason); // the keyboard sees it, too
+    QTRY_COMPARE(effect->opacity(), 1.0);
+}
+
+void tst_MvCalendarDayEditorDialog::belongsToItsWindowAndDocument()
+{
+    auto window = std::make_unique<QWidget>();
+    window->setGeometry(100, 100, 600, 500);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry(u"x"_qs, QDate(2027, 6, 5)));
+    QVERIFY((dialog.geometry().center() - window->geometry().center()).manhattanLength() < 60);
+    QVERIFY(!dialog.testAttribute(Qt::WA_QuitOnClose));
+    QCOMPARE(dialog.windowHandle()->transientParent(), window->windowHandle());
+    window.reset();
+    QVERIFY(!dialog.isVisible());
+
+    auto &registry = MvCalendarEventRegistry::instance();
+    dialog.openDayEditorSingle(entry(u"x"_qs, QDate(2027, 6, 5)));
+    registry.setEvents({entry(u"y"_qs, QDate(2027, 6, 6))});
+    QVERIFY(dialog.isVisible());
+    registry.setActiveModelId(MvProjectIdentifier(u"anderes Dokument"_qs, false), false);
+    QVERIFY(!dialog.isVisible());
+    registry.setActiveModelId(DEFAULT_PROJECT_ID, true);
+}
+
+void tst_MvCalendarDayEditorDialog::oneEditorPerEntry()
+{
+    const MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 5, 6));
+    MvCalendarDayEditorDialog first(nullptr);
+    first.openDayEditorSingle(anna);
+    const QPointer<MvCalendarDayEditorDialog> second = MvCalendarDayEditorDialog::createSelfDeleting(nullptr);
+    second->openDayEditorSingle(anna);
+    QTRY_VERIFY(!second);
+    QVERIFY(first.isVisible());
+
+    MvCalendarDayEditorDialog other(nullptr); // of another entry
+    other.openDayEditorSingle(entry(u"Anna"_qs, QDate(2027, 5, 6)));
+    QVERIFY(other.isVisible());
+    first.close();
+    other.openDayEditorSingle(anna);
+    QVERIFY(other.isVisible());
+}
+
+void tst_MvCalendarDayEditorDialog::nothingIsCut()
+{
+    const QFont normal = QApplication::font();
+    QFont large = normal;
+    large.setPointSizeF(normal.pointSizeF() * 2);
+    for (const QFont &font : {normal, large}) {
+        QApplication::setFont(font);
+        MvCalendarDayEditorDialog dialog(nullptr);
+        dialog.setSize(500, 400);
+        if (font == normal)
+            QCOMPARE(dialog.size(), QSize(500, 400));
+        dialog.openDayEditorSeries(entry({}, QDate(2027, 6, 5)));
+        const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
+        for (const QPushButton *button : buttons)
+            QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(button->text()));
+        const auto *label = part<QLabel>(dialog, u"fotoLabel"_qs);
+        QVERIFY(label->height() >= label->heightForWidth(label->width()));
+    }
+    QApplication::setFont(normal);
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvCalendarDayEditorDialog)
+#include "tst_MvCalendarDayEditorDialog.moc"

@@ -1,0 +1,445 @@
+#include "MvWidgetTest.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventDelegateEditDeleteWidget.h"
+#include "MvCalendar/MvCalendarEventFotoDelegateEditorWidget.h"
+#include "MvCalendar/MvCalendarEventListWidget.h"
+#include "MvCalendar/MvCalendarEventModel.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvLogger.h"
+#include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvProactiveHelpController.h"
+#include "MvCore/MvRequestHandler.h"
+#include "MvCore/MvUndoController.h"
+#include "MvFoto/MvFotoThumbnails.h"
+#include "MvGUIWidgets/MvTableView.h"
+
+namespace {
+
+MvCalendarEvent entry(const QString &name, const QDate &date, const MvFoto &foto = {})
+{
+    return {name, date.startOfDay(), true, foto, QUuid::createUuid(), {}};
+}
+
+/// Answers at once and notes what was asked and reported.
+struct Script : MvRequestHandler
+{
+    void askForFile(const FileRequest &request, QObject *, const FileAnswer &answer) override
+    {
+        requests.append(u"%1 %2 %3"_qs.arg(request.kind).arg(request.title, request.filter));
+        answer(file);
+    }
+    void askYesNo(const QString &title, const QString &text, QObject *, const YesNoAnswer &answer) override
+    {
+        requests.append(title == text ? title : QString());
+        answer(agrees);
+    }
+    void report(const QString &, const QString &text, QObject *) override { reports.append(text); }
+
+    QString file;
+    bool agrees = true;
+    QStringList requests;
+    QStringList reports;
+};
+
+struct Contacts : MvPlatformIndependent
+{
+    MvSimplePersonList addressBookContacts() override { return persons; }
+    MvSimplePersonList persons;
+};
+
+MvCalendarDayEditorDialog *openEditor()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget);
+        if (dialog && dialog->isVisible())
+            return dialog;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class tst_MvCalendarEventListWidget : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void addsEntries();
+    void contextMenu_data();
+    void contextMenu();
+    void savesAndLoads_data();
+    void savesAndLoads();
+    void damagedFilesChangeNothing();
+    void clears_data();
+    void clears();
+    void importsContactsOnce();
+    void buttonsUnderTheMouse();
+    void fotoButtons();
+    void keysAlone();
+    void thumbnailsFillTheirCell();
+
+private:
+    static MvCalendarEventRegistry &registry() { return MvCalendarEventRegistry::instance(); }
+    static QStringList names()
+    {
+        QStringList names;
+        const MvCalendarEventList events = MvCalendarEventRegistry().activeEventList(); // as on the disk
+        for (const MvCalendarEvent &event : events)
+            names.append(event.description());
+        return names;
+    }
+    static MvTableView *table(const QWidget &list) { return list.findChild<MvTableView *>(); }
+    static QPoint centre(const QWidget &list, int row, int column)
+    {
+        return table(list)->visualRect(table(list)->model()->index(row, column)).center();
+    }
+    static QAction *menuAction(const QWidget &list, const QString &text)
+    {
+        const QList<QAction *> actions = list.findChild<QPushButton *>(u"changeEventListButton"_qs)->menu()->actions();
+        for (QAction *action : actions) {
+            if (action->text() == text)
+                return action;
+        }
+        return nullptr;
+    }
+    QString path(const QString &file) const { return m_folder.filePath(file); }
+
+    QTemporaryDir m_folder;
+    Script *m_script = nullptr;
+    QStringList m_log;
+};
+
+void tst_MvCalendarEventListWidget::initTestCase()
+{
+    QImage image(400, 100, QImage::Format_RGB32); // blue, its middle red
+    image.fill(Qt::blue);
+    QPainter(&image).fillRect(150, 0, 100, 100, Qt::red);
+    QVERIFY(image.save(path(u"foto.png"_qs)));
+    MvLogger::instance().setSink([this](const QString &line) { m_log.append(line); });
+}
+
+void tst_MvCalendarEventListWidget::init()
+{
+    failOnWarnings();
+    m_script = new Script;
+    MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(m_script));
+    registry().setEvents({entry(u"Anna"_qs, QDate(2004, 2, 29)), entry(u"Moritz"_qs, QDate(1999, 3, 1)),
+                          entry(u"Xaver"_qs, QDate(1950, 12, 31))});
+    MvUndoController::instance().clear();
+    m_log.clear();
+}
+
+void tst_MvCalendarEventListWidget::cleanup()
+{
+    MvRequestHandler::install(nullptr);
+    if (openEditor())
+        openEditor()->close();
+}
+
+void tst_MvCalendarEventListWidget::addsEntries()
+{
+    MvCalendarEventListWidget list;
+    QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
+    list.findChild<QPushButton *>(u"newEntryButton"_qs)->click();
+    MvCalendarDayEditorDialog *dialog = openEditor();
+    QVERIFY(dialog);
+    QCOMPARE(dialog->size(), QSize(500, 400));
+    QVERIFY(dialog->findChild<QPushButton *>(u"okAndContinueButton"_qs)->isVisible());
+    QTest::keyClicks(dialog->findChild<QLineEdit *>(u"descriptionEdit"_qs), u"Neu"_qs);
+    QTest::keyClick(dialog, Qt::Key_Return);
+    QCOMPARE(added.count(), 1);
+    QCOMPARE(names().last(), u"Neu"_qs);
+    QCOMPARE(table(list)->model()->rowCount(), 4);
+}
+
+void tst_MvCalendarEventListWidget::contextMenu_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::addColumn<bool>("opens");
+    QTest::newRow("photo") << 1 << 0 << true;
+    QTest::newRow("name") << 1 << 2 << true;
+    QTest::newRow("buttons") << 1 << 3 << false;
+    QTest::newRow("below the rows") << 9 << 2 << false;
+}
+
+void tst_MvCalendarEventListWidget::contextMenu()
+{
+    QFETCH(const int, row);
+    QFETCH(const int, column);
+    MvCalendarEventListWidget list;
+    list.resize(400, 500);
+    list.show();
+    const QPoint pos = row < 3 ? centre(list, row, column) : QPoint(200, table(list)->viewport()->height() - 2);
+    list.onTableViewContextMenuRequested(pos);
+    const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QTEST(menu != nullptr, "opens");
+    if (!menu)
+        return;
+    QCOMPARE(menu->actions().size(), 2);
+    menu->actions().first()->trigger();
+    QVERIFY(openEditor());
+    QCOMPARE(openEditor()->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Moritz"_qs);
+    menu->actions().last()->trigger();
+    QCOMPARE(names(), (QStringList{u"Anna"_qs, u"Xaver"_qs}));
+    QApplication::activePopupWidget()->close();
+    MvUndoController::instance().undo();
+    QCOMPARE(names().size(), 3);
+}
+
+void tst_MvCalendarEventListWidget::savesAndLoads_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<bool>("changed");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<int>("steps");
+    QTest::newRow("load, as saved") << u"Laden…"_qs << false << u"Anna Moritz Xaver"_qs << 1;
+    QTest::newRow("load, after changes") << u"Laden…"_qs << true << u"Anna Moritz Xaver"_qs << 1;
+    QTest::newRow("add, as saved") << u"Hinzufügen…"_qs << false << u"Anna Moritz Xaver"_qs << 0;
+    QTest::newRow("add, after changes") << u"Hinzufügen…"_qs << true << u"Neu Anna Moritz Xaver"_qs << 1;
+}
+
+void tst_MvCalendarEventListWidget::savesAndLoads()
+{
+    QFETCH(const QString, action);
+    QFETCH(const int, steps);
+    MvCalendarEventListWidget list;
+    m_script->file = path(u"einträge.xml"_qs);
+    menuAction(list, u"Sichern"_qs)->trigger();
+    QVERIFY(QFile::exists(m_script->file));
+    QFETCH(const bool, changed);
+    if (changed)
+        registry().setEvents({entry(u"Neu"_qs, QDate(2027, 1, 1))});
+    const QStringList before = names();
+
+    QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
+    QSignalSpy signalled(&registry(), &MvCalendarEventRegistry::eventsChanged);
+    menuAction(list, action)->trigger();
+    QCOMPARE(m_script->requests, QStringList(2, u"5 Kalendereinträge *.xml"_qs));
+    QTEST(names().join(u' '), "result");
+    QCOMPARE(added.count(), 1);
+    QCOMPARE(signalled.count(), steps); // not one by one
+    QVERIFY(m_log.contains(
+        u"CalendarEvents ACTION:loadFromFile MERGE:%1"_qs.arg(action == u"Laden…"_qs ? u"unset"_qs : u"set"_qs)));
+    QCOMPARE(MvUndoController::instance().stack()->count(), steps);
+    if (steps == 0)
+        return;
+    QCOMPARE(MvUndoController::instance().stack()->undoText(), u"loadEventList"_qs);
+    MvUndoController::instance().undo();
+    QStringList undone = names();
+    undone.sort();
+    QCOMPARE(undone, before); // both by name
+    QCOMPARE(signalled.count(), 2);
+    MvUndoController::instance().redo();
+    QTEST(names().join(u' '), "result");
+}
+
+void tst_MvCalendarEventListWidget::damagedFilesChangeNothing()
+{
+    MvCalendarEventListWidget list;
+    QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
+    m_script->file = path(u"kaputt.xml"_qs);
+    for (const QByteArray &content :
+         {QByteArray("<CalendarEvents><CalendarEvent>"), QByteArray(), QByteArray("\xff")}) {
+        QFile file(m_script->file);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        list.loadEventList(false);
+        QVERIFY(m_script->reports.last().contains(u"kaputt.xml"_qs));
+    }
+    m_script->file = path(u"fehlt.xml"_qs);
+    list.loadEventList(true);
+    QCOMPARE(m_script->reports.size(), 4);
+    m_script->file.clear(); // none chosen
+    list.loadEventList(false);
+    list.saveEventList();
+    QCOMPARE(m_script->reports.size(), 4);
+    QCOMPARE(names().size(), 3);
+    QCOMPARE(added.count(), 0);
+    QCOMPARE(MvUndoController::instance().stack()->count(), 0);
+
+    m_script->file = path(u"kein/ordner.xml"_qs);
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"ordner.xml"_qs));
+    list.saveEventList();
+    QCOMPARE(m_script->reports.size(), 5);
+}
+
+void tst_MvCalendarEventListWidget::clears_data()
+{
+    QTest::addColumn<bool>("agrees");
+    QTest::addColumn<int>("left");
+    QTest::addColumn<QString>("log");
+    QTest::newRow("yes") << true << 0 << u"CalendarEvents ACTION:deleteAll VALUE:1"_qs;
+    QTest::newRow("no") << false << 3 << u"CalendarEvents ACTION:deleteAll VALUE:0"_qs;
+}
+
+void tst_MvCalendarEventListWidget::clears()
+{
+    QFETCH(const bool, agrees);
+    QFETCH(const QString, log);
+    m_script->agrees = agrees;
+    MvCalendarEventListWidget list;
+    menuAction(list, u"Alle löschen…"_qs)->trigger();
+    QCOMPARE(m_script->requests, QStringList(u"Alle Einträge löschen?"_qs));
+    QVERIFY(m_log.contains(log));
+    QTEST(int(names().size()), "left");
+    QCOMPARE(MvUndoController::instance().stack()->count(), int(agrees));
+    MvUndoController::instance().undo();
+    QCOMPARE(names().size(), 3);
+}
+
+void tst_MvCalendarEventListWidget::importsContactsOnce()
+{
+    auto contacts = std::make_unique<Contacts>();
+    contacts->persons.append(MvSimplePerson(u"Oma"_qs, QDate(1940, 5, 6), QImage(), QUuid::createUuid()));
+    contacts->persons.append(MvSimplePerson(u"Opa"_qs, QDate(1604, 2, 29), QImage(), QUuid::createUuid()));
+    MvPlatformIndependent::setInstance(std::move(contacts));
+    MvCalendarEventListWidget list;
+    const std::unique_ptr<QPushButton> button(list.createImportFromContactsButton(nullptr));
+    QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
+    QSignalSpy advice(&MvProactiveHelpController::instance(), &MvProactiveHelpController::adviceRequested);
+    const QString logged = u"CalendarEvents ACTION:importFromAddressBook MERGE:set STARTCOUNT:%1 FOUNDINADDRESSBOOK:2 "
+                           "IMPORTED:%2"_qs;
+    button->click();
+    QCOMPARE(names().size(), 5);
+    QVERIFY(m_log.contains(logged.arg(3).arg(2)));
+    button->click();
+    QCOMPARE(names().size(), 5);
+    QVERIFY(m_log.contains(logged.arg(5).arg(0)));
+    QCOMPARE(added.count(), 1);
+    QCOMPARE(advice.count(), 2);
+    QCOMPARE(advice.last().at(1).toString(), u"0 von 2 Einträgen mit Geburtstagen importiert"_qs);
+    QCOMPARE(MvUndoController::instance().stack()->count(), 1);
+    MvPlatformIndependent::setInstance(nullptr);
+}
+
+void tst_MvCalendarEventListWidget::buttonsUnderTheMouse()
+{
+    MvCalendarEventListWidget list;
+    list.resize(400, 400);
+    list.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    const auto shown = [&list] {
+        QStringList names;
+        const auto editors = table(list)->viewport()->findChildren<MvCalendarEventDelegateEditDeleteWidget *>();
+        for (const auto *editor : editors) {
+            if (editor->isVisible())
+                names.append(editor->calendarEvent().description());
+        }
+        return names;
+    };
+    QWidget *viewport = table(list)->viewport();
+    QVERIFY(shown().isEmpty());
+    QTest::mouseMove(viewport, centre(list, 0, 1));
+    QTRY_COMPARE(shown(), QStringList(u"Anna"_qs));
+    QTest::mouseMove(viewport, centre(list, 1, 1));
+    QTRY_COMPARE(shown(), QStringList(u"Moritz"_qs));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of the row before
+    auto *editor = viewport->findChild<MvCalendarEventDelegateEditDeleteWidget *>();
+    for (const auto *button : editor->findChildren<QToolButton *>())
+        QVERIFY(!button->toolTip().isEmpty() && button->accessibleName().contains(u"Moritz"_qs));
+    editor->findChild<QToolButton *>(u"editEventButton"_qs)->click();
+    QVERIFY(openEditor());
+    QCOMPARE(openEditor()->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Moritz"_qs);
+    editor->findChild<QToolButton *>(u"deleteEventButton"_qs)->click();
+    QCOMPARE(names(), (QStringList{u"Anna"_qs, u"Xaver"_qs}));
+    MvUndoController::instance().undo();
+    QCOMPARE(names().size(), 3);
+}
+
+void tst_MvCalendarEventListWidget::fotoButtons()
+{
+    MvCalendarEventListWidget list;
+    list.resize(400, 400);
+    list.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    QWidget *viewport = table(list)->viewport();
+    const auto button = [&list, viewport](const QString &name) {
+        QTest::mouseMove(viewport, centre(list, 0, 2));
+        QTest::mouseMove(viewport, centre(list, 1, 2));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        auto *editor = viewport->findChild<MvCalendarEventFotoDelegateEditorWidget *>();
+        return editor ? editor->findChild<QToolButton *>(name) : nullptr;
+    };
+    const auto foto = [] { return registry().activeEventList().at(1).foto(); };
+    QTRY_VERIFY(button(u"changeImageButton"_qs));
+    QVERIFY(!button(u"removeImageButton"_qs)->isVisible());
+    m_script->file = path(u"foto.png"_qs);
+    button(u"changeImageButton"_qs)->click();
+    QCOMPARE(foto().localFileInfo().dir(), MvCalendarEvent::imageDirectory());
+    QCOMPARE(MvCalendarEvent::imageDirectory().entryList(QDir::Files).size(), 1); // copied once
+    QTRY_VERIFY(button(u"removeImageButton"_qs) && button(u"removeImageButton"_qs)->isVisible());
+    m_script->file = path(u"einträge.xml"_qs);
+    button(u"changeImageButton"_qs)->click();
+    QCOMPARE(m_script->reports.size(), 1);
+    QVERIFY(foto().isValid());
+    button(u"removeImageButton"_qs)->click();
+    QVERIFY(!foto().isValid());
+    QCOMPARE(MvUndoController::instance().stack()->count(), 2);
+}
+
+void tst_MvCalendarEventListWidget::keysAlone()
+{
+    MvCalendarEventListWidget list;
+    list.resize(400, 400);
+    list.show();
+    QVERIFY(QTest::qWaitForWindowActive(&list));
+    MvTableView *view = table(list);
+    const auto press = [view](Qt::Key key) { QTest::keyClick(view, key); };
+    const auto cursor = [view] { return QPoint(view->currentIndex().column(), view->currentIndex().row()); };
+    list.findChild<QPushButton *>(u"newEntryButton"_qs)->setFocus();
+    QTest::keyClick(list.focusWidget(), Qt::Key_Tab);
+    QVERIFY(view->hasFocus());
+    QCOMPARE(cursor(), QPoint(0, 0));
+    press(Qt::Key_Down);
+    QCOMPARE(cursor(), QPoint(0, 1));
+    m_script->file = path(u"foto.png"_qs);
+    press(Qt::Key_Return);
+    QVERIFY(registry().activeEventList().at(1).foto().isValid());
+    QTRY_COMPARE(cursor(), QPoint(0, 1)); // although the table was filled anew
+    press(Qt::Key_Delete);
+    QVERIFY(!registry().activeEventList().at(1).foto().isValid());
+    QCOMPARE(names().size(), 3);
+    QTRY_COMPARE(cursor(), QPoint(0, 1));
+
+    press(Qt::Key_Tab);
+    QCOMPARE(cursor(), QPoint(3, 1));
+    press(Qt::Key_Return);
+    QCOMPARE(openEditor()->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Moritz"_qs);
+    openEditor()->close();
+    list.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&list));
+    press(Qt::Key_End);
+    press(Qt::Key_Delete);
+    QCOMPARE(names(), (QStringList{u"Anna"_qs, u"Moritz"_qs}));
+    QTRY_COMPARE(cursor(), QPoint(3, 1)); // the last row now
+    press(Qt::Key_Tab);
+    QCOMPARE(list.focusWidget()->objectName(), u"changeEventListButton"_qs);
+    QTest::keyClick(list.focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+    QVERIFY(view->hasFocus());
+    QCOMPARE(cursor(), QPoint(3, 1));
+}
+
+void tst_MvCalendarEventListWidget::thumbnailsFillTheirCell()
+{
+    MvFotoThumbnails thumbnails;
+    QSignalSpy ready(&thumbnails, &MvFotoThumbnails::ready);
+    const MvFoto foto(QFileInfo(path(u"foto.png"_qs)));
+    QVERIFY(thumbnails.cropped(foto, {50, 50}, 2).isNull()); // not decoded here
+    QTRY_COMPARE(ready.count(), 1);
+    const QPixmap pixmap = thumbnails.cropped(foto, {50, 50}, 2);
+    QCOMPARE(pixmap.size(), QSize(100, 100));
+    QCOMPARE(pixmap.devicePixelRatio(), 2.0);
+    for (const QPoint &point : {QPoint(3, 3), QPoint(50, 50), QPoint(96, 96)}) // the middle of the photo
+        QCOMPARE(pixmap.toImage().pixelColor(point), QColor(Qt::red));
+    QVERIFY(thumbnails.cropped(MvFoto(QFileInfo(path(u"fehlt.png"_qs))), {50, 50}, 1).isNull());
+    QVERIFY(thumbnails.cropped(MvFoto(), {50, 50}, 1).isNull());
+}
+
+MV_WIDGET_TEST_MAIN(tst_MvCalendarEventListWidget)
+#include "tst_MvCalendarEventListWidget.moc"

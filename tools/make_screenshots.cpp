@@ -1,0 +1,486 @@
+// Opens the studio's windows one after another, as a user would, and saves what the screen shows. Run by the script of
+// the same name: make_screenshots FOLDER THEME LANGUAGE SAMPLES [STATE...]; --list names the states.
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvGUIWidgets/MvColorPalettePopup.h"
+#include "MvPageCanvas.h"
+#include "MvPageItem.h"
+#include "MvProgressDialog.h"
+#include "MvProject/MvProject.h"
+#include "MvProjectFlow.h"
+#include "MvRecoveryDialog.h"
+#include "MvStudioApplication.h"
+#include "MvStudioSettings.h"
+#include "MvStudioWindow.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTest>
+#include <QToolTip>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int settling = 700;      // milliseconds: layouts, animations and the page itself
+constexpr int longSettling = 2500; // pictures that come one by one
+
+class Screenshots
+{
+public:
+    struct State
+    {
+        const char *name;
+        void (Screenshots::*show)();
+        int settling;
+    };
+
+    Screenshots(MvStudioApplication *studio, const QDir &folder, const QDir &samples);
+
+    static QList<State> states();
+    void take(const State &state);
+
+private:
+    MvStudioWindow *window() const { return m_studio->window(); }
+    MvProject *project() const { return m_studio->project(); }
+    MvPageCanvas *canvas() const { return window()->findChild<MvPageCanvas *>(); }
+    template <class Widget>
+    Widget *find(const char *name) const
+    {
+        return window()->findChild<Widget *>(QLatin1StringView(name));
+    }
+    QString sample(const QString &name) const { return m_samples.absoluteFilePath(name); }
+    void trigger(const char *action) { find<QAction>(action)->trigger(); }
+    void raiseDock(const char *name, int tab = -1);
+    void popUp(QMenu *menu);
+    QPoint pointOf(const QDate &date) const;
+    void edit(const std::function<void(MvCalendarDocument &)> &change);
+    void setPagePhoto(MvPhotoFrame::Placement placement);
+    void setEntries(const QString &file);
+    void reset();
+
+    void welcome();
+    void start() {}
+    void photo() { setPagePhoto(MvPhotoFrame::Placement::Top); }
+    void photoSelected();
+    void photoLeft() { setPagePhoto(MvPhotoFrame::Placement::Left); }
+    void portrait();
+    void content() { raiseDock("contentPanelDock"); }
+    void layouts() { raiseDock("layoutPanelDock", 0); }
+    void colors() { raiseDock("layoutPanelDock", 1); }
+    void colorsDown();
+    void colorPalette();
+    void colorWarning();
+    void fonts() { raiseDock("fontPanelDock"); }
+    void columns();
+    void columnsEmpty() { raiseDock("columnHeadersPanelDock"); }
+    void entries() { raiseDock("entriesPanelDock"); }
+    void entriesEmpty();
+    void entriesHover();
+    void entriesMenu();
+    void year();
+    void dayFocus();
+    void pageMenu();
+    void fileMenu() { popUp(window()->menuBar()->actions().first()->menu()); }
+    void viewMenu() { popUp(window()->menuBar()->actions().at(2)->menu()); }
+    void dayNew();
+    void dayWithPhoto();
+    void newCalendar() { trigger("newProject"); }
+    void layoutChooser() { trigger("chooseLayout"); }
+    void pageSetup() { trigger("pageSetup"); }
+    void exportPdf() { trigger("exportPdf"); }
+    void exportPng() { trigger("exportPng"); }
+    void progress();
+    void settings() { trigger("settings"); }
+    void recovery();
+    void shortcuts() { trigger("shortcuts"); }
+    void about() { trigger("about"); }
+    void closeQuestion();
+    void error();
+    void noPrinter() { trigger("print"); }
+    void preview();
+    void unfitting();
+
+    MvStudioApplication *m_studio;
+    QDir m_folder;
+    QDir m_samples;
+    int m_number = 0;
+};
+
+Screenshots::Screenshots(MvStudioApplication *studio, const QDir &folder, const QDir &samples)
+    : m_studio(studio)
+    , m_folder(folder)
+    , m_samples(samples)
+{
+    window()->setGeometry(QGuiApplication::primaryScreen()->geometry());
+    window()->activateWindow();
+    if (!QTest::qWaitForWindowExposed(window()))
+        qFatal("the window does not show up");
+}
+
+QList<Screenshots::State> Screenshots::states()
+{
+    using S = Screenshots;
+    return {
+        {"welcome", &S::welcome, longSettling},
+        {"main", &S::start, longSettling},
+        {"photo", &S::photo, longSettling},
+        {"photo-selected", &S::photoSelected, longSettling},
+        {"photo-left", &S::photoLeft, longSettling},
+        {"portrait", &S::portrait, longSettling},
+        {"year", &S::year, longSettling},
+        {"content", &S::content, settling},
+        {"layouts", &S::layouts, longSettling},
+        {"colors", &S::colors, settling},
+        {"colors-down", &S::colorsDown, settling},
+        {"color-palette", &S::colorPalette, settling},
+        {"color-warning", &S::colorWarning, settling},
+        {"fonts", &S::fonts, settling},
+        {"columns", &S::columns, settling},
+        {"columns-empty", &S::columnsEmpty, settling},
+        {"entries", &S::entries, settling},
+        {"entries-empty", &S::entriesEmpty, settling},
+        {"entries-hover", &S::entriesHover, settling},
+        {"entries-menu", &S::entriesMenu, settling},
+        {"day-focus", &S::dayFocus, settling},
+        {"page-menu", &S::pageMenu, settling},
+        {"file-menu", &S::fileMenu, settling},
+        {"view-menu", &S::viewMenu, settling},
+        {"day-new", &S::dayNew, settling},
+        {"day-photo", &S::dayWithPhoto, settling},
+        {"new-calendar", &S::newCalendar, longSettling},
+        {"layout-chooser", &S::layoutChooser, longSettling},
+        {"page-setup", &S::pageSetup, settling},
+        {"export-pdf", &S::exportPdf, settling},
+        {"export-png", &S::exportPng, settling},
+        {"progress", &S::progress, settling},
+        {"settings", &S::settings, settling},
+        {"recovery", &S::recovery, settling},
+        {"shortcuts", &S::shortcuts, settling},
+        {"about", &S::about, settling},
+        {"close-question", &S::closeQuestion, settling},
+        {"error", &S::error, settling},
+        {"no-printer", &S::noPrinter, settling},
+        {"print-preview", &S::preview, longSettling},
+        {"unfitting", &S::unfitting, settling},
+    };
+}
+
+void Screenshots::take(const State &state)
+{
+    reset();
+    QTest::qWait(settling / 4);
+    (this->*state.show)();
+    QTest::qWait(state.settling);
+    const QString name = u"%1-%2.png"_s.arg(++m_number, 2, 10, QChar(u'0')).arg(QLatin1StringView(state.name));
+    if (!QGuiApplication::primaryScreen()->grabWindow(0).save(m_folder.filePath(name)))
+        qFatal("%s cannot be written", qPrintable(name));
+}
+
+// ---- what every picture begins with
+
+/// A calendar of the coming year with the sample entries, its second page, nothing open.
+void Screenshots::reset()
+{
+    QToolTip::hideText();
+    while (QWidget *popup = QApplication::activePopupWidget())
+        popup->close();
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (auto *progress = qobject_cast<MvProgressDialog *>(widget))
+            progress->finish();
+        else if (widget != window() && qobject_cast<QDialog *>(widget))
+            widget->close();
+    }
+    MvStudioSettings::setWelcomeShown(false);
+    if (find<QAction>("showWelcome")->isChecked())
+        trigger("showWelcome");
+    setEntries(u"eintraege.xml"_s);
+    MvCalendarDocument document = MvProjectFlow::firstDocument();
+    MvCalendariumHolidayConfig holidays = document.holidayConfig();
+    holidays.setProvince(u"BY"_s);
+    document.setHolidayConfig(holidays);
+    project()->newProject(document);
+    window()->setCurrentPage(4);
+    raiseDock("contentPanelDock");
+    canvas()->zoomToFit();
+    canvas()->setFocus();
+    window()->activateWindow();
+    QCursor::setPos(QPoint(2, window()->height() - 2));
+}
+
+void Screenshots::setEntries(const QString &file)
+{
+    MvCalendarEventRegistry::instance().setEvents(
+        file.isEmpty() ? MvCalendarEventList() : MvCalendarEventFile::read(QFileInfo(sample(file))).events);
+}
+
+void Screenshots::edit(const std::function<void(MvCalendarDocument &)> &change)
+{
+    MvCalendarDocument document = project()->document();
+    change(document);
+    project()->change(document, u"…"_s);
+}
+
+void Screenshots::raiseDock(const char *name, int tab)
+{
+    auto *dock = find<QDockWidget>(name);
+    dock->show();
+    dock->raise();
+    if (tab >= 0)
+        find<QTabWidget>("layoutTabs")->setCurrentIndex(tab);
+}
+
+void Screenshots::popUp(QMenu *menu)
+{
+    QAction *action = menu->menuAction();
+    menu->popup(window()->menuBar()->mapToGlobal(window()->menuBar()->actionGeometry(action).bottomLeft()));
+}
+
+/// Of the viewport.
+QPoint Screenshots::pointOf(const QDate &date) const
+{
+    for (int y = 0; y < canvas()->viewport()->height(); y += 6)
+        for (int x = 0; x < canvas()->viewport()->width(); x += 6) {
+            const QPoint point(x, y);
+            if (canvas()->pageItem()->dateAt(canvas()->mapToScene(point)) == date)
+                return point + QPoint(30, 30);
+        }
+    return canvas()->viewport()->rect().center();
+}
+
+void Screenshots::setPagePhoto(MvPhotoFrame::Placement placement)
+{
+    edit([&](MvCalendarDocument &document) {
+        MvCalendarPage page = document.pages().at(4);
+        page.setPhotoFrame(MvPhotoFrame(sample(u"bergsee.jpg"_s), placement));
+        document.setPage(4, page);
+    });
+}
+
+// ---- the page
+
+void Screenshots::welcome()
+{
+    trigger("showWelcome");
+    window()->setCurrentPage(0);
+}
+
+void Screenshots::photoSelected()
+{
+    photo();
+    QTest::qWait(settling);
+    const QRectF frame = project()->document().pages().at(4).photoFrame().rect(project()->document().format());
+    QTest::mouseClick(canvas()->viewport(), Qt::LeftButton, {}, canvas()->mapFromScene(frame.center()));
+}
+
+void Screenshots::portrait()
+{
+    edit([](MvCalendarDocument &document) {
+        MvPageFormat format = document.format();
+        format.setOrientation(MvPageFormat::Orientation::Portrait);
+        document.setFormat(format);
+    });
+    photo();
+}
+
+void Screenshots::year()
+{
+    edit([](MvCalendarDocument &document) {
+        MvCalendariumAppearance appearance = document.appearance();
+        appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"YEAR_GRID"_s));
+        appearance.adoptLayoutSuggestions();
+        appearance.adaptGridToLayout();
+        document.setAppearance(appearance);
+    });
+}
+
+void Screenshots::dayFocus()
+{
+    canvas()->setFocusDate(project()->document().pageDates().at(4).addDays(11));
+    QTest::keyClick(canvas(), Qt::Key_Right);
+}
+
+void Screenshots::pageMenu()
+{
+    photo();
+    QTest::qWait(settling);
+    const QPoint point = pointOf(project()->document().pageDates().at(4));
+    canvas()->createContextMenu(point)->popup(canvas()->viewport()->mapToGlobal(point));
+}
+
+// ---- panels
+
+void Screenshots::colorsDown()
+{
+    colors();
+    QTest::qWait(settling);
+    find<QCheckBox>("showGridBox")->setFocus(Qt::TabFocusReason);
+}
+
+void Screenshots::colorPalette()
+{
+    colors();
+    QTest::qWait(settling);
+    auto *table = find<QTableView>("tableView");
+    table->setFocus();
+    table->setCurrentIndex(table->model()->index(0, 1));
+    QTest::keyClick(table, Qt::Key_Space);
+}
+
+void Screenshots::colorWarning()
+{
+    colors();
+    QTest::qWait(settling);
+    QAbstractItemModel *model = find<QTableView>("tableView")->model();
+    for (int row = 0; row < 3; ++row)
+        model->setData(model->index(row, 2), QColor(214, 206, 190), Qt::EditRole);
+}
+
+void Screenshots::columns()
+{
+    columnsEmpty();
+    QTest::qWait(settling);
+    find<QPushButton>("chooseColumnsLayout")->click();
+}
+
+void Screenshots::entriesEmpty()
+{
+    setEntries({});
+    entries();
+}
+
+void Screenshots::entriesHover()
+{
+    entries();
+    QTest::qWait(settling);
+    auto *table = find<QTableView>("eventTableView");
+    QCursor::setPos(table->viewport()->mapToGlobal(table->visualRect(table->model()->index(2, 1)).center()));
+}
+
+void Screenshots::entriesMenu()
+{
+    entries();
+    QTest::qWait(settling);
+    auto *button = find<QPushButton>("changeEventListButton");
+    button->menu()->popup(button->mapToGlobal(button->rect().bottomLeft()));
+}
+
+void Screenshots::unfitting()
+{
+    const QDate first = project()->document().pageDates().at(4);
+    MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
+    for (const QString &name :
+         {u"Donaudampfschifffahrtsgesellschaftskapitänstreffen"_s, u"Großtante Wilhelmine-Henriette"_s,
+          u"Sommerfest der Freiwilligen Feuerwehr"_s, u"Kirchweih"_s, u"Elternabend"_s})
+        events.append(MvCalendarEvent(name, first.addDays(13).startOfDay(), false, MvFoto(), QUuid::createUuid(),
+                                      QDateTime::currentDateTime()));
+    MvCalendarEventRegistry::instance().setEvents(events);
+    edit([](MvCalendarDocument &document) {
+        MvCalendariumAppearance appearance = document.appearance();
+        MvCalendariumFontSettings fonts = appearance.fontSettings();
+        fonts.setFontSizePercentageHolidays(80);
+        appearance.setFontSettings(fonts);
+        document.setAppearance(appearance);
+    });
+    QTest::qWait(longSettling);
+    auto *button = find<QAbstractButton>("unfittingButton");
+    if (button && button->isVisible())
+        QTest::mouseClick(button, Qt::LeftButton);
+}
+
+// ---- windows
+
+void Screenshots::dayNew()
+{
+    MvCalendarDayEditorDialog::createSelfDeleting(canvas()->pageItem())
+        ->openDayEditorSeries(MvCalendarEvent({}, project()->document().pageDates().at(4).addDays(15).startOfDay(),
+                                              true, MvFoto(), QUuid::createUuid(), QDateTime::currentDateTime()));
+}
+
+void Screenshots::dayWithPhoto()
+{
+    const MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
+    for (const MvCalendarEvent &event : events)
+        if (event.description() == u"Oma Erika"_s)
+            MvCalendarDayEditorDialog::createSelfDeleting(canvas()->pageItem())->openDayEditorSingle(event);
+}
+
+void Screenshots::progress()
+{
+    auto *dialog = new MvProgressDialog(find<QAction>("exportPdf")->iconText(), u"Kalender 2027.pdf"_s, window());
+    dialog->open();
+    dialog->setProgress(5, 12);
+}
+
+void Screenshots::recovery()
+{
+    const QDateTime time(QDate(2026, 11, 3), QTime(20, 14));
+    const QList<MvProjectRecovery::Entry> entries = {
+        {QFileInfo(u"1.mvcalendar"_s), u"/home/sabine/Kalender/Familie 2027.mvcalendar"_s, u"Familie 2027"_s, time},
+        {QFileInfo(u"2.mvcalendar"_s), {}, project()->document().title(), time.addSecs(-4000)},
+    };
+    auto *dialog = new MvRecoveryDialog(entries, window());
+    dialog->open();
+}
+
+void Screenshots::closeQuestion()
+{
+    photo();
+    window()->close();
+}
+
+void Screenshots::error()
+{
+    window()->projectFlow()->open(u"/home/sabine/Kalender/Familie 2027.mvcalendar"_s);
+}
+
+void Screenshots::preview()
+{
+    photo();
+    trigger("print");
+    QTest::qWait(settling);
+    if (auto *preview = find<QPushButton>("previewButton"))
+        preview->click();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    MvStudioApplication::setUpProcess(u"1.0"_s);
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.value(0) == u"--list"_s) {
+        for (const Screenshots::State &state : Screenshots::states())
+            std::puts(state.name);
+        return 0;
+    }
+    if (arguments.size() < 4) {
+        std::fputs("usage: make_screenshots FOLDER THEME LANGUAGE SAMPLES [STATE...]\n", stderr);
+        return 2;
+    }
+    MvStudioApplication studio(MvStudioOptions::parse(
+        {u"mvcalendar-studio"_s, u"--theme"_s, arguments.at(1), u"--language"_s, arguments.at(2)}));
+    studio.start();
+    Screenshots screenshots(&studio, QDir(arguments.at(0)), QDir(arguments.at(3)));
+    const QStringList wanted = arguments.mid(4);
+    for (const Screenshots::State &state : Screenshots::states())
+        if (wanted.isEmpty() || wanted.contains(QLatin1StringView(state.name)))
+            screenshots.take(state);
+    return 0;
+}
