@@ -77,9 +77,11 @@ void MvLayoutPanel::fitColorTable()
         const int around = table->horizontalHeader()->sizeHint().height() + 2 * table->frameWidth();
         table->setFixedHeight(rows->length() + around);
     };
-    connect(rows, &QHeaderView::sectionResized, table, fit);
-    connect(rows, &QHeaderView::sectionCountChanged, table, fit);
-    connect(rows, &QHeaderView::geometriesChanged, table, fit);
+    for (const QHeaderView *header : {rows, table->horizontalHeader()}) { // which know their size late
+        connect(header, &QHeaderView::sectionResized, table, fit, Qt::QueuedConnection);
+        connect(header, &QHeaderView::sectionCountChanged, table, fit, Qt::QueuedConnection);
+        connect(header, &QHeaderView::geometriesChanged, table, fit, Qt::QueuedConnection);
+    }
     fit();
 }
 

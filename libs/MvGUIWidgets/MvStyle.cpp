@@ -12,12 +12,19 @@ namespace {
 
 constexpr double corner = 2.0; // the radius of Fusion's own outlines
 
+/// The default button has the outline of the focus, too: Return presses it.
+bool isDefaultButton(const QStyleOption &option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(&option);
+    return button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton);
+}
+
 QColor outlineColor(const QStyleOption &option, bool showsFocus)
 {
     if (!option.state.testFlag(QStyle::State_Enabled))
         return option.palette.color(QPalette::Midlight);
     const bool hasFocus = showsFocus && option.state.testFlag(QStyle::State_HasFocus);
-    return option.palette.color(hasFocus ? QPalette::Highlight : QPalette::Mid);
+    return option.palette.color(hasFocus || isDefaultButton(option) ? QPalette::Highlight : QPalette::Mid);
 }
 
 void drawOutline(QPainter &painter, const QStyleOption &option, bool showsFocus, bool isRound = false)
