@@ -1,0 +1,348 @@
+#include "MvStudioFixture.h"
+
+#include "MvPageCanvas.h"
+#include "MvPageItem.h"
+#include "MvStudioApplication.h"
+#include "MvStudioSettings.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvUndoController.h"
+#include "MvProject/MvProject.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+MvCalendarDocument calendarOf2027(const QString &layout)
+{
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
+    appearance.adoptLayoutSuggestions();
+    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
+    MvCalendarDocument document;
+    document.setRange({QDate(2027, 1, 1), QDate(2027, 12, 31)});
+    document.setAppearance(appearance);
+    document.setTitle(u"Familie 2027"_s);
+    return document;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString plain(QString text)
+{
+    text.remove(u'&').remove(QChar::SoftHyphen);
+    return text;
+}
+
+QString squeezed(QString text)
+{
+    static const QRegularExpression breaks(u"[\\s\\x{ad}-]"_s);
+    return text.remove(breaks);
+}
+
+} // namespace
+
+MvStudioFixture::MvStudioFixture(const QString &layout)
+{
+    MvStudioSettings::clearRecentFiles();
+    MvStudioSettings::setWelcomeShown(false);
+    MvStudioSettings::setWindow({}, {});
+    MvStudioSettings::setFolder(u"project"_s, m_folder.path());
+    MvStudioSettings::setFolder(u"export"_s, m_folder.path());
+    MvCalendarEventRegistry::instance().setEvents({});
+    start();
+    project()->newProject(calendarOf2027(layout));
+    QCoreApplication::processEvents();
+}
+
+MvStudioFixture::~MvStudioFixture()
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (qobject_cast<MvCalendarDayEditorDialog *>(widget))
+            delete widget;
+    }
+    m_studio.reset();
+}
+
+void MvStudioFixture::start()
+{
+    m_studio = std::make_unique<MvStudioApplication>(
+        MvStudioOptions::parse({u"mvcalendar-studio"_s, u"--language"_s, u"de"_s}));
+    m_studio->start();
+    QVERIFY(QTest::qWaitForWindowExposed(window()));
+    window()->activateWindow();
+    QCoreApplication::processEvents();
+}
+
+void MvStudioFixture::restart()
+{
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    const QString path = registry.calendarEventsDir().filePath();
+    m_studio.reset();
+    const QByteArray left = contentOf(path);
+    registry.setEvents({}); // as in a new process: nothing is known but by reading
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(left), qint64(left.size()));
+    file.close();
+    registry.load();
+    start();
+    project()->newProject(calendarOf2027(u"MONTH_GRID_CLASSIC"_s));
+    QCoreApplication::processEvents();
+}
+
+MvStudioWindow *MvStudioFixture::window() const
+{
+    return m_studio->window();
+}
+
+MvProject *MvStudioFixture::project() const
+{
+    return m_studio->project();
+}
+
+const MvCalendarDocument &MvStudioFixture::document() const
+{
+    return project()->document();
+}
+
+MvPageCanvas *MvStudioFixture::canvas() const
+{
+    return window()->findChild<MvPageCanvas *>();
+}
+
+MvPageItem *MvStudioFixture::page() const
+{
+    QCoreApplication::processEvents();
+    return canvas()->pageItem();
+}
+
+QString MvStudioFixture::writePhoto(const QString &name, const QColor &color, const QSize &size) const
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    return image.save(path(name)) ? path(name) : QString();
+}
+
+// ------------------------------------------------------------------------------------------------ what a person does
+
+/// Nobody else sees to that when a dialog has closed.
+void MvStudioFixture::activate() const
+{
+    window()->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window()));
+}
+
+bool MvStudioFixture::raiseDock(const char *name) const
+{
+    auto *dock = window()->findChild<QDockWidget *>(QLatin1StringView(name));
+    if (!dock)
+        return false;
+    for (QTabBar *tabs : window()->findChildren<QTabBar *>()) {
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            if (tabs->parent() == window() && plain(tabs->tabText(tab)) == plain(dock->windowTitle()))
+                QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+        }
+    }
+    QCoreApplication::processEvents();
+    return !dock->visibleRegion().isEmpty();
+}
+
+bool MvStudioFixture::trigger(const char *name) const
+{
+    auto *action = window()->findChild<QAction *>(QLatin1StringView(name));
+    if (!action || !action->isEnabled())
+        return false;
+    action->trigger();
+    return true;
+}
+
+bool MvStudioFixture::click(QWidget *parent, const char *name) const
+{
+    auto *button = parent ? find<QAbstractButton>(parent, name) : nullptr;
+    if (!button || !button->isEnabled())
+        return false;
+    QTest::mouseClick(button, Qt::LeftButton);
+    return true;
+}
+
+bool MvStudioFixture::press(const char *name, int key, Qt::KeyboardModifiers modifiers) const
+{
+    auto *widget = find(name);
+    if (!widget || !widget->isEnabled())
+        return false;
+    activate();
+    widget->setFocus(Qt::TabFocusReason);
+    QTest::keyClick(widget, Qt::Key(key), modifiers);
+    return true;
+}
+
+bool MvStudioFixture::choose(const char *name, const QString &text) const
+{
+    auto *box = find<QComboBox>(name);
+    const int row = box ? box->findText(text, Qt::MatchStartsWith) : -1;
+    if (row < 0 || !box->isEnabled())
+        return false;
+    box->showPopup();
+    box->view()->setCurrentIndex(box->model()->index(row, box->modelColumn()));
+    QTest::keyClick(box->view(), Qt::Key_Return);
+    QTest::qWait(1); // boxes may report later
+    return box->currentIndex() == row;
+}
+
+bool MvStudioFixture::chooseInMenu(QMenu *menu, const QString &begin) const
+{
+    if (!menu)
+        return false;
+    for (QAction *action : menu->actions()) {
+        if (!plain(action->text()).startsWith(begin) || !action->isEnabled())
+            continue;
+        menu->setActiveAction(action);
+        QTest::keyClick(menu, Qt::Key_Return);
+        return true;
+    }
+    return false;
+}
+
+bool MvStudioFixture::chooseFile(const QString &path) const
+{
+    auto *files = dialog<QFileDialog>();
+    auto *name = files ? files->findChild<QLineEdit *>(u"fileNameEdit"_s) : nullptr;
+    if (!name)
+        return false;
+    name->setText(path);
+    static_cast<QDialog *>(files)->accept();
+    return true;
+}
+
+QMenu *MvStudioFixture::clickDate(const QDate &date) const
+{
+    const QPointF onPage = page()->mapToScene(rectOf(date).center());
+    QTest::mouseClick(canvas()->viewport(), Qt::LeftButton, {}, canvas()->mapFromScene(onPage));
+    if (!QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }))
+        return nullptr;
+    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+}
+
+MvCalendarDayEditorDialog *MvStudioFixture::openDay(const QDate &date, const QString &begin) const
+{
+    return chooseInMenu(clickDate(date), begin) ? dialog<MvCalendarDayEditorDialog>() : nullptr;
+}
+
+bool MvStudioFixture::dropFile(QWidget *window, const QPoint &position, const QString &path,
+                               Qt::KeyboardModifiers modifiers)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    QWidget *under = window->childAt(position);
+    QWidget *target = under ? under : window;
+    while (!target->acceptDrops() && target != window)
+        target = target->parentWidget();
+    const QPoint there = target->mapFrom(window, position);
+    QDragEnterEvent enter(there, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+    QApplication::sendEvent(target, &enter);
+    QDragMoveEvent move(there, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+    QApplication::sendEvent(target, &move);
+    QDropEvent drop(there, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
+    QApplication::sendEvent(target, &drop);
+    return enter.isAccepted() && drop.isAccepted();
+}
+
+bool MvStudioFixture::dropOnDate(const QDate &date, const QString &path, Qt::KeyboardModifiers modifiers) const
+{
+    const QPointF onPage = page()->mapToScene(rectOf(date).center());
+    const QPoint inWindow = canvas()->viewport()->mapTo(window(), canvas()->mapFromScene(onPage));
+    return dropFile(window(), inWindow, path, modifiers);
+}
+
+void MvStudioFixture::undo() const
+{
+    pressInCanvas(Qt::Key_Z, Qt::ControlModifier);
+}
+
+void MvStudioFixture::redo() const
+{
+    pressInCanvas(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+}
+
+void MvStudioFixture::pressInCanvas(Qt::Key key, Qt::KeyboardModifiers modifiers) const
+{
+    activate();
+    canvas()->setFocus();
+    QTest::keyClick(canvas(), key, modifiers);
+    QCoreApplication::processEvents();
+}
+
+int MvStudioFixture::steps() const
+{
+    return MvUndoController::instance().stack()->index();
+}
+
+// ------------------------------------------------------------------------------------------------ what is to be seen
+
+QRectF MvStudioFixture::rectOf(const QDate &date) const
+{
+    return page()->dateRect(date);
+}
+
+QList<MvPaintRecording::Item> MvStudioFixture::items(MvPaintRecording::Item::Kind kind) const
+{
+    return page()->recording().items(kind);
+}
+
+QString MvStudioFixture::texts(const QDate &date) const
+{
+    QString all;
+    const QRectF rect = date.isValid() ? rectOf(date) : page()->pageRect();
+    for (const MvPaintRecording::Item &item : items(MvPaintRecording::Item::Text)) {
+        if (rect.contains(item.bounds.center()))
+            all += item.text;
+    }
+    return squeezed(all);
+}
+
+QList<QDate> MvStudioFixture::datesWith(const QString &text) const
+{
+    QList<QDate> found;
+    for (const QDate &date : page()->dates()) {
+        if (texts(date).contains(squeezed(text)))
+            found.append(date);
+    }
+    return found;
+}
+
+bool MvStudioFixture::hasPhoto(const QDate &date) const
+{
+    const QRectF rect = rectOf(date);
+    const QList<MvPaintRecording::Item> images = items(MvPaintRecording::Item::Image);
+    return std::any_of(images.begin(), images.end(),
+                       [&rect](const MvPaintRecording::Item &image) { return rect.contains(image.bounds.center()); });
+}
+
+QColor MvStudioFixture::cellColor(const QDate &date) const
+{
+    const QRectF rect = rectOf(date);
+    QColor color;
+    for (const MvPaintRecording::Item &item : page()->recording().items()) {
+        const bool isCell = item.fill.isValid() && item.bounds.contains(rect.center()) &&
+                            qAbs(item.bounds.width() - rect.width()) < rect.width() / 10;
+        if (isCell && item.kind != MvPaintRecording::Item::Text)
+            color = item.fill;
+    }
+    return color;
+}
+
+QSet<QRgb> MvStudioFixture::lineColors() const
+{
+    QSet<QRgb> colors;
+    for (const MvPaintRecording::Item &item : page()->recording().items()) {
+        if (item.stroke.isValid() && item.stroke.alpha() > 0 && item.kind != MvPaintRecording::Item::Text)
+            colors.insert(item.stroke.rgb());
+    }
+    return colors;
+}

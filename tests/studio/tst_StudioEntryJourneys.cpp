@@ -1,0 +1,239 @@
+#include "MvStudioFixture.h"
+
+#include "MvProject/MvCalendarDocument.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QDate birthday(2027, 1, 14);
+
+MvCalendarEventList entries()
+{
+    return MvCalendarEventRegistry::instance().activeEventList();
+}
+
+QStringList names()
+{
+    QStringList all;
+    for (const MvCalendarEvent &event : entries())
+        all.append(event.description());
+    all.sort();
+    return all;
+}
+
+QColor photoColor(const MvCalendarEvent &event)
+{
+    const QImage photo(event.imagePath().filePath());
+    return photo.isNull() ? QColor() : photo.pixelColor(photo.rect().center());
+}
+
+bool isNearly(const QColor &a, const QColor &b) // photos are stored as JPEG
+{
+    constexpr int tolerance = 12;
+    return a.isValid() && qAbs(a.red() - b.red()) < tolerance && qAbs(a.green() - b.green()) < tolerance &&
+           qAbs(a.blue() - b.blue()) < tolerance;
+}
+
+} // namespace
+
+/// Personal entries: from a click on a date to the next start of the program.
+class tst_StudioEntryJourneys : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void birthdayWithPhotos();
+    void entryIsDeleted();
+    void seriesOverNewYear();
+    void lists_data();
+    void lists();
+    void rowsOfTheList();
+
+private:
+    static bool addEntry(const MvStudioFixture &studio, const QDate &date, const QString &name);
+};
+
+/// By click, menu, keys and the button.
+bool tst_StudioEntryJourneys::addEntry(const MvStudioFixture &studio, const QDate &date, const QString &name)
+{
+    auto *editor = studio.openDay(date, u"Neuen Eintrag"_s);
+    if (!editor)
+        return false;
+    QTest::keyClicks(editor->focusWidget(), name);
+    return studio.click(editor, "okButton") && studio.datesWith(name).contains(date);
+}
+
+void tst_StudioEntryJourneys::birthdayWithPhotos()
+{
+    MvStudioFixture studio;
+    const QString red = studio.writePhoto(u"rot.png"_s, Qt::red);
+    const QString blue = studio.writePhoto(u"blau.png"_s, Qt::blue);
+    QPointer<MvCalendarDayEditorDialog> editor = studio.openDay(birthday, u"Neuen Eintrag am 14. Jan"_s);
+    QVERIFY(editor);
+    QVERIFY(!MvStudioFixture::find<QPushButton>(editor, "okButton")->isEnabled()); // nothing to keep yet
+    QTest::keyClicks(editor->focusWidget(), u"Oma Erna"_s);
+    auto *place = MvStudioFixture::find(editor, "fotoLabel");
+    QVERIFY(MvStudioFixture::dropFile(editor, place->mapTo(editor, place->rect().center()), red));
+    QVERIFY(studio.click(editor, "okButton"));
+    QTRY_VERIFY(!editor);
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
+    QVERIFY(studio.hasPhoto(birthday));
+    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::red));
+    QCOMPARE(studio.steps(), 1);
+
+    QVERIFY(studio.dropOnDate(birthday, blue)); // the day has one entry: it is meant
+    QCOMPARE(entries().size(), 1);
+    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::blue));
+    studio.undo();
+    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::red));
+    studio.undo();
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>());
+    QVERIFY(!studio.hasPhoto(birthday));
+    studio.redo();
+    studio.redo();
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
+
+    studio.restart();
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
+    QVERIFY(studio.hasPhoto(birthday));
+    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::blue));
+}
+
+void tst_StudioEntryJourneys::entryIsDeleted()
+{
+    MvStudioFixture studio;
+    QVERIFY(addEntry(studio, birthday, u"Oma Erna"_s));
+    auto *editor = studio.openDay(birthday, u"„Oma Erna“ bearbeiten"_s);
+    QVERIFY(editor);
+    QVERIFY(studio.click(editor, "deleteButton"));
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>());
+    studio.undo();
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
+    studio.redo();
+    studio.restart();
+    QCOMPARE(entries().size(), 0);
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>());
+}
+
+void tst_StudioEntryJourneys::seriesOverNewYear()
+{
+    MvStudioFixture studio;
+    QVERIFY(studio.raiseDock("entriesPanelDock"));
+    QVERIFY(studio.click(studio.window(), "newEntryButton"));
+    auto *editor = MvStudioFixture::dialog<MvCalendarDayEditorDialog>();
+    QVERIFY(editor);
+    auto *date = MvStudioFixture::find<QDateTimeEdit>(editor, "dateEdit");
+    date->setFocus(Qt::TabFocusReason);
+    date->setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClicks(date, u"30122026"_s);
+    for (const QString &name : {u"Anreise"_s, u"Silvester"_s, u"Neujahr"_s}) {
+        auto *description = MvStudioFixture::find<QLineEdit>(editor, "descriptionEdit");
+        description->setFocus();
+        QCOMPARE(description->text(), QString()); // each begins empty
+        QTest::keyClicks(description, name);
+        QVERIFY(studio.click(editor, "okAndContinueButton"));
+    }
+    QTest::keyClicks(editor->focusWidget(), u"Abreise"_s);
+    QTest::keyClick(editor->focusWidget(), Qt::Key_Return);
+    QTRY_VERIFY(!MvStudioFixture::dialog<MvCalendarDayEditorDialog>());
+
+    auto *list = studio.find<QTableView>("eventTableView");
+    QCOMPARE(list->model()->rowCount(), 4);
+    QCOMPARE(studio.steps(), 4);
+    QMap<QString, QDate> dates;
+    for (const MvCalendarEvent &event : entries())
+        dates.insert(event.description(), event.dateTime().date());
+    const QMap<QString, QDate> expected{{u"Anreise"_s, {2026, 12, 30}},
+                                        {u"Silvester"_s, {2026, 12, 31}},
+                                        {u"Neujahr"_s, {2027, 1, 1}},
+                                        {u"Abreise"_s, {2027, 1, 2}}};
+    QCOMPARE(dates, expected);
+    QCOMPARE(studio.datesWith(u"Abreise"_s), QList<QDate>{QDate(2027, 1, 2)});
+    QVERIFY(studio.trigger("lastPage"));
+    QCOMPARE(studio.datesWith(u"Anreise"_s), QList<QDate>{QDate(2027, 12, 30)});
+}
+
+void tst_StudioEntryJourneys::lists_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QStringList>("after");
+    QTest::newRow("load") << u"Laden"_s << QStringList{u"Opa"_s, u"Oma"_s};
+    QTest::newRow("add") << u"Hinzufügen"_s << QStringList{u"Opa"_s, u"Oma"_s, u"Tante"_s};
+    QTest::newRow("clear") << u"Alle löschen"_s << QStringList();
+}
+
+/// Each is one step, whatever the number of entries.
+void tst_StudioEntryJourneys::lists()
+{
+    QFETCH(QString, action);
+    QFETCH(QStringList, after);
+    after.sort();
+    MvStudioFixture studio;
+    const auto chooseInList = [&studio](const QString &text) {
+        auto *button = studio.find<QPushButton>("changeEventListButton");
+        button->menu()->popup(button->mapToGlobal(QPoint()));
+        return studio.chooseInMenu(button->menu(), text);
+    };
+    QVERIFY(addEntry(studio, birthday, u"Oma"_s));
+    QVERIFY(addEntry(studio, {2027, 1, 20}, u"Opa"_s));
+    QVERIFY(studio.raiseDock("entriesPanelDock"));
+    QVERIFY(chooseInList(u"Sichern"_s));
+    QVERIFY(studio.chooseFile(studio.path(u"liste.xml"_s)));
+    QCOMPARE(MvCalendarEventFile::read(QFileInfo(studio.path(u"liste.xml"_s))).events.size(), 2);
+    studio.undo(); // Opa is in the file only
+    QVERIFY(addEntry(studio, {2027, 1, 25}, u"Tante"_s));
+    const QStringList before = names();
+    const int steps = studio.steps();
+
+    QVERIFY(chooseInList(action));
+    if (after.isEmpty()) {
+        auto *question = MvStudioFixture::dialog<QMessageBox>();
+        QVERIFY(question);
+        const auto buttons = question->buttons();
+        QCOMPARE(buttons.size(), 2);
+        QTest::mouseClick(buttons.first()->text().contains(u"Ja"_s) ? buttons.first() : buttons.last(), Qt::LeftButton);
+    } else {
+        QVERIFY(studio.chooseFile(studio.path(u"liste.xml"_s)));
+    }
+    QTRY_COMPARE(names(), after);
+    QCOMPARE(studio.steps(), steps + 1);
+    QCOMPARE(studio.datesWith(u"Opa"_s).isEmpty(), after.isEmpty());
+    studio.undo();
+    QCOMPARE(names(), before);
+    QCOMPARE(studio.datesWith(u"Tante"_s).size(), 1);
+    studio.redo();
+    QCOMPARE(names(), after);
+    studio.restart();
+    QCOMPARE(names(), after);
+}
+
+void tst_StudioEntryJourneys::rowsOfTheList()
+{
+    MvStudioFixture studio;
+    QVERIFY(addEntry(studio, birthday, u"Oma"_s));
+    QVERIFY(studio.raiseDock("entriesPanelDock"));
+    auto *list = studio.find<QTableView>("eventTableView");
+    QTest::mouseMove(list->viewport(), list->visualRect(list->model()->index(0, 1)).center());
+    QTRY_VERIFY(studio.find("editEventButton")); // comes with the mouse
+    QVERIFY(studio.click(studio.window(), "editEventButton"));
+    auto *editor = MvStudioFixture::dialog<MvCalendarDayEditorDialog>();
+    QVERIFY(editor);
+    QTest::keyClick(editor->focusWidget(), Qt::Key_End);
+    QTest::keyClicks(editor->focusWidget(), u" Erna"_s);
+    QTest::keyClick(editor->focusWidget(), Qt::Key_Return);
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
+
+    QVERIFY(studio.press("eventTableView", Qt::Key_Delete)); // the same by keyboard
+    QCOMPARE(entries().size(), 0);
+    studio.undo();
+    studio.undo();
+    QCOMPARE(names(), QStringList{u"Oma"_s});
+}
+
+MV_WIDGET_TEST_MAIN(tst_StudioEntryJourneys)
+#include "tst_StudioEntryJourneys.moc"
