@@ -16,14 +16,14 @@ QList<MvSchemaListCommand::Schema> MvSchemaListCommand::schemata(Kind kind)
     QList<Schema> result;
     if (kind == Kind::Layouts) {
         for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata())
-            result.append({schema.ID().toString(), schema.name(), schema.description()});
+            result.append({schema.ID().toString(), schema.name(), schema.description(), schema.localizedName()});
         return result;
     }
     const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     const MvCalendariumColorSchemaList visible = registry.visibleSchemata();
     for (const MvCalendariumColorSchema &schema : visible) {
         const MvCalendariumColorSchemaID id = registry.id(schema);
-        result.append({id.toString(), registry.name(id), {}});
+        result.append({id.toString(), registry.name(id), {}, registry.localizedName(id)});
     }
     return result;
 }
@@ -35,8 +35,7 @@ QString MvSchemaListCommand::find(Kind kind, const QString &idOrName)
         MvCalendariumColorSchemaRegistry::instance().contains(MvCalendariumColorSchemaID(idOrName)))
         return idOrName;
     for (const Schema &schema : schemata(kind))
-        if (schema.id.compare(idOrName, Qt::CaseInsensitive) == 0 ||
-            schema.name.compare(idOrName, Qt::CaseInsensitive) == 0)
+        if (schema.id.compare(idOrName, Qt::CaseInsensitive) == 0 || schema.names.isAnyOf(idOrName))
             return schema.id;
     return {};
 }

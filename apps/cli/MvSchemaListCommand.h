@@ -2,6 +2,8 @@
 
 #include "MvCliCommand.h"
 
+#include "MvXML/MvLocalizedText.h"
+
 /// "layouts" and "colors": what can be given to "render".
 class MvSchemaListCommand : public MvCliCommand
 {
@@ -18,7 +20,8 @@ public:
     {
         QString id;
         QString name;
-        QString description; // of layouts
+        QString description;   // of layouts
+        MvLocalizedText names; // any of which a user may type
     };
 
     explicit MvSchemaListCommand(Kind kind)

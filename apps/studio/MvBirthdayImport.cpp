@@ -111,7 +111,7 @@ void MvBirthdayImport::finish()
     if (imported > 0)
         MvUndoController::instance().push(new MvUndoCommandEventList(tr("Geburtstage importieren"), m_events));
     m_events.clear();
-    Q_EMIT message(tr("%1 von %2 Geburtstagen importiert").arg(imported).arg(m_found));
+    Q_EMIT message(tr("%1 von %n Geburtstagen importiert", nullptr, int(m_found)).arg(imported));
     if (!m_error.isEmpty())
         MvStudioMessage::error(m_window, tr("Ein Adressbuch ließ sich nicht lesen."), m_error);
     else if (m_found == 0)
@@ -119,9 +119,10 @@ void MvBirthdayImport::finish()
                                      tr("Tragen Sie die Geburtstage im Adressbuch ein, und exportieren Sie es noch "
                                         "einmal als vCard (.vcf)."));
     else if (imported == 0)
-        MvStudioMessage::information(m_window, tr("Alle %1 Geburtstage waren schon da.").arg(m_found));
+        MvStudioMessage::information(m_window, tr("Alle %n Geburtstage waren schon da.", nullptr, int(m_found)));
     else
-        MvStudioMessage::information(m_window, tr("%1 von %2 Geburtstagen importiert.").arg(imported).arg(m_found),
+        MvStudioMessage::information(m_window,
+                                     tr("%1 von %n Geburtstagen importiert.", nullptr, int(m_found)).arg(imported),
                                      tr("Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit "
                                         "Bearbeiten > Rückgängig."));
     Q_EMIT finished(int(m_found), int(imported));

@@ -232,7 +232,7 @@ QString MvExportDialog::note() const
         existing += QFileInfo::exists(file) ? 1 : 0;
     if (existing > 0)
         lines.append(isPdf() ? tr("Die Datei gibt es schon; sie wird ersetzt.")
-                             : tr("Schon vorhanden und ersetzt werden: %1 Dateien.").arg(existing));
+                             : tr("Schon vorhanden und ersetzt werden: %n Dateien.", nullptr, existing));
     return lines.join(u' ');
 }
 

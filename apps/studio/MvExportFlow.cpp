@@ -102,7 +102,7 @@ void MvExportFlow::finish(const MvExportResult &result)
     if (result.isCancelled) {
         Q_EMIT message(result.files.isEmpty()
                            ? tr("Export abgebrochen; nichts wurde geschrieben")
-                           : tr("Export abgebrochen; fertig sind %1 Dateien").arg(result.files.size()));
+                           : tr("Export abgebrochen; fertig sind %n Dateien", nullptr, int(result.files.size())));
         return;
     }
     if (!result.error.isEmpty()) {
@@ -115,9 +115,10 @@ void MvExportFlow::finish(const MvExportResult &result)
 void MvExportFlow::tellDone(const MvExportResult &result)
 {
     const QString folder = result.files.value(0).absolutePath();
-    const QString what = result.files.size() == 1
-                             ? QDir::toNativeSeparators(result.files.first().absoluteFilePath())
-                             : tr("%1 Dateien in %2").arg(result.files.size()).arg(QDir::toNativeSeparators(folder));
+    const QString what =
+        result.files.size() == 1
+            ? QDir::toNativeSeparators(result.files.first().absoluteFilePath())
+            : tr("%n Dateien in %1", nullptr, int(result.files.size())).arg(QDir::toNativeSeparators(folder));
     Q_EMIT message(tr("Exportiert: %1").arg(what));
     const QStringList unfitting = unfittingTexts();
     QMessageBox *box = MvStudioMessage::information(m_window, tr("Der Kalender ist exportiert: %1").arg(what),

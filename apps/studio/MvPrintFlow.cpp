@@ -4,6 +4,8 @@
 #include "MvProject/MvProject.h"
 #include "MvStudioMessage.h"
 
+#include <QAction>
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -31,6 +33,15 @@ void adopt(const MvPageFormat &format, QPrinter *printer)
     printer->setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer->setFullPage(true);
     printer->setPageMargins({});
+}
+
+/// The preview offers another paper, which printers into a file do not even have; but the calendar knows its own.
+void hidePageSetup(const QPrintPreviewDialog *dialog)
+{
+    const QString text = QCoreApplication::translate("QPrintPreviewDialog", "Page setup");
+    for (QAction *action : dialog->findChildren<QAction *>())
+        if (action->text() == text)
+            action->setVisible(false);
 }
 
 } // namespace
@@ -82,6 +93,7 @@ void MvPrintFlow::showPreview()
     dialog->setObjectName(u"printPreview"_s);
     dialog->setWindowTitle(tr("Druckvorschau"));
     dialog->resize(m_window->size().expandedTo({800, 600}) - QSize(60, 60));
+    hidePageSetup(dialog);
     connect(dialog, &QPrintPreviewDialog::paintRequested, this, &MvPrintFlow::paint);
     connect(dialog, &QObject::destroyed, this, [printer] {}); // it outlives the dialog
     dialog->open();

@@ -85,7 +85,7 @@ void MvStudioStatusBar::setZoom(double zoom, bool isFitted)
 void MvStudioStatusBar::setUnfitting(const QList<MvUnfittingWatch::Entry> &entries)
 {
     m_entries = entries;
-    m_unfitting->setText(entries.size() == 1 ? tr("1 Text ohne Platz") : tr("%1 Texte ohne Platz").arg(entries.size()));
+    m_unfitting->setText(tr("%n Texte ohne Platz", nullptr, int(entries.size())));
     m_unfitting->setAccessibleName(m_unfitting->text());
     m_unfitting->setVisible(!entries.isEmpty());
 }

@@ -1,5 +1,6 @@
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 
+#include "MvCalendar/MvCalendarEventDateEdit.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
@@ -12,7 +13,6 @@
 #include "MvGUIWidgets/MvLineEdit.h"
 
 #include <QApplication>
-#include <QDateTimeEdit>
 #include <QDragEnterEvent>
 #include <QGraphicsObject>
 #include <QGraphicsOpacityEffect>
@@ -39,7 +39,6 @@ constexpr int spaceAroundRemoveButton = 5;
 constexpr int fotoQuality = 4;
 constexpr int fotoCaching = 13;
 constexpr int linesOfHint = 4;
-const QDate earliestDate(100, 1, 1); // the first one that date edits know
 
 void setStyleClass(QWidget *widget, const QString &name)
 {
@@ -98,12 +97,7 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     layout->setAlignment(Qt::AlignTop);
     layout->setContentsMargins(groupMargin, groupMargin, groupMargin, groupMargin);
 
-    m_dateEdit = new QDateTimeEdit(group);
-    m_dateEdit->setObjectName(u"dateEdit"_s);
-    m_dateEdit->setAccessibleName(tr("Datum"));
-    m_dateEdit->setCalendarPopup(true);
-    m_dateEdit->setDisplayFormat(u"dd.MM.yyyy"_s);
-    m_dateEdit->setMinimumDate(earliestDate);
+    m_dateEdit = new MvCalendarEventDateEdit(group);
     layout->addWidget(m_dateEdit, 0, Qt::AlignLeft);
 
     m_dateLabel = new QLabel(group);
@@ -326,7 +320,10 @@ void MvCalendarDayEditorDialog::acceptedAndContinueClicked()
     MvCalendarEvent next = applyEventChange();
     next.setFoto(MvFoto());
     next.setEventName({});
-    next.setDateTime(next.dateTime().addDays(1));
+    QDate tomorrow = next.dateTime().date().addDays(1);
+    if (!next.hasYear())
+        tomorrow.setDate(MvCalendarEvent::unknownYear, tomorrow.month(), tomorrow.day());
+    next.setDateTime(tomorrow.startOfDay());
     openDayEditorDialog(next, true);
 }
 
@@ -349,7 +346,9 @@ void MvCalendarDayEditorDialog::setDate(const QDate &date)
 {
     m_date = date;
     m_dateEdit->setDate(date);
-    m_dateLabel->setText(MvApplicationLocale::instance().locale().toString(date, QLocale::LongFormat));
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    m_dateLabel->setText(date.year() == MvCalendarEvent::unknownYear ? locale.toString(date, u"d. MMMM"_s)
+                                                                     : locale.toString(date, QLocale::LongFormat));
 }
 
 MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()

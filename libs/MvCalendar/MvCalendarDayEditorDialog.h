@@ -13,11 +13,11 @@
 
 #include <functional>
 
+class MvCalendarEventDateEdit;
 class MvDropLabel;
 class MvLineEdit;
 class MvUndoCommand;
 class QBoxLayout;
-class QDateTimeEdit;
 class QGraphicsObject;
 class QGroupBox;
 class QLabel;
@@ -110,7 +110,7 @@ private:
 
     QPointer<QGraphicsObject> m_item;
     QLabel *m_dateLabel = nullptr;
-    QDateTimeEdit *m_dateEdit = nullptr;
+    MvCalendarEventDateEdit *m_dateEdit = nullptr;
     QDate m_date;
     MvLineEdit *m_descriptionEdit = nullptr;
     MvFoto m_foto;

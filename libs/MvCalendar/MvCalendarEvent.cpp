@@ -13,6 +13,7 @@
 #include <QBuffer>
 #include <QImageWriter>
 #include <QLocale>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +35,11 @@ QDateTime readDateTime(const QString &text)
 
 QString shortDate(const QDateTime &dateTime)
 {
-    return QLocale().toString(dateTime.date(), QLocale::ShortFormat);
+    const QDate date = dateTime.date();
+    QString format = QLocale().dateFormat(QLocale::ShortFormat);
+    if (date.year() == MvCalendarEvent::unknownYear) // with what separates it: "dd.MM.", "dd/MM", "M/d", "MM-dd"
+        format.remove(QRegularExpression(u"^y+\\W+|(?:[^\\w.]+)?y+$"_s));
+    return QLocale().toString(date, format);
 }
 
 QByteArray encoded(const QImage &image, const QString &suffix)
@@ -137,6 +142,11 @@ bool MvCalendarEvent::isAtDay(const QDate &day) const
     if (date.day() != day.day() || date.month() != day.month())
         return false;
     return date.year() == day.year() || m_recurrent;
+}
+
+QString MvCalendarEvent::dateText(const QDate &date)
+{
+    return date.toString(date.year() == unknownYear ? u"dd.MM."_s : u"dd.MM.yyyy"_s);
 }
 
 QString MvCalendarEvent::longDescription() const

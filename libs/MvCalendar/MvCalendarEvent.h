@@ -2,6 +2,7 @@
 
 #include "MvCalendar/mvcalendar_export.h"
 
+#include "MvCore/MvVCardReader.h"
 #include "MvFoto/MvDrawable.h"
 #include "MvFoto/MvFoto.h"
 
@@ -25,6 +26,9 @@ class QDomNode;
 class MVCALENDAR_EXPORT MvCalendarEvent
 {
 public:
+    /// The year of a date without one, such as a birthday from an address book that leaves the year out.
+    static constexpr int unknownYear = MvVCardReader::unknownYear;
+
     /// An invalid entry: no name, no date; recurrent.
     MvCalendarEvent();
     /// Takes the photo over as setFoto() does; the last change is then now, whatever is given.
@@ -47,6 +51,10 @@ public:
     QString description() const { return m_name; }
     /// Only the date counts.
     QDateTime dateTime() const { return m_dateTime; }
+    /// False when only day and month are known: nobody is to see the year then.
+    bool hasYear() const { return m_dateTime.date().year() != unknownYear; }
+    /// "01.03.1941", or "01.03." without a year.
+    static QString dateText(const QDate &date);
     /// True for every entry. The stored flag is another matter: files, comparisons and isAtDay() go by it.
     bool isRecurrent() const { return true; }
     MvFoto foto() const { return m_foto; }
@@ -73,7 +81,7 @@ public:
     /// The same day and month; another year only when the stored flag says that the entry recurs.
     bool isAtDay(const QDate &day) const;
 
-    /// "01.03.26: "Oma Erika"", the date in the default locale's short format.
+    /// "01.03.26: "Oma Erika"", the date in the default locale's short format; without its year where that is unknown.
     QString longDescription() const;
     QString debugString() const;
 

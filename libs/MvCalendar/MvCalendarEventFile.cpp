@@ -49,7 +49,7 @@ void warnOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &file
             paths.append(event.foto().localFilePath());
     }
     if (!paths.isEmpty())
-        qWarning().noquote() << MvCalendarEventFile::tr("%1: %n Foto(s) liegen außerhalb der erlaubten Ordner und "
+        qWarning().noquote() << MvCalendarEventFile::tr("%1: %n Fotos liegen außerhalb der erlaubten Ordner und "
                                                         "werden nicht geladen, zuerst %2",
                                                         nullptr, int(paths.size()))
                                     .arg(file.filePath(), paths.first());

@@ -127,6 +127,8 @@ QVariant MvCalendarEventModel::data(const QModelIndex &index, int role) const
         return editData(event, index.column());
     case Qt::ToolTipRole:
         return index.column() == NameColumn ? QVariant(event.description()) : QVariant();
+    case Qt::AccessibleTextRole: // as it is painted
+        return index.column() == DateColumn ? QVariant(MvCalendarEvent::dateText(event.dateTime().date())) : QVariant();
     case Qt::UserRole:
         return QVariant::fromValue(event);
     default:

@@ -18,7 +18,7 @@ MvCalendarEventTextDelegate::MvCalendarEventTextDelegate(QObject *parent)
 
 QString MvCalendarEventTextDelegate::displayText(const QVariant &value, const QLocale &locale) const
 {
-    return value.userType() == QMetaType::QDate ? value.toDate().toString(u"dd.MM.yyyy"_s)
+    return value.userType() == QMetaType::QDate ? MvCalendarEvent::dateText(value.toDate())
                                                 : QStyledItemDelegate::displayText(value, locale).simplified();
 }
 

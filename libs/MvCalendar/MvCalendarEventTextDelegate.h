@@ -12,7 +12,7 @@ class MVCALENDAR_EXPORT MvCalendarEventTextDelegate : public QStyledItemDelegate
 public:
     explicit MvCalendarEventTextDelegate(QObject *parent = nullptr);
 
-    /// Dates with all digits of their year: birthdays are of another century.
+    /// Dates as MvCalendarEvent::dateText() has them, with all digits of their year: birthdays are of another century.
     QString displayText(const QVariant &value, const QLocale &locale) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 

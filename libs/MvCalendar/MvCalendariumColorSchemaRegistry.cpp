@@ -4,7 +4,6 @@
 #include "MvCore/MvGeneralSettings.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
-#include "MvXML/MvXMLParser.h"
 
 #include <QDebug>
 
@@ -61,7 +60,8 @@ void MvCalendariumColorSchemaRegistry::recordRead(const QDomElement &area,
         qWarning().noquote() << u"Duplicate schema found, aliassed %1 by %2"_s.arg(known.join(u", "_s), id.toString());
     }
     recordSchemaId(schema, id);
-    const QString name = MvXMLParser::textAttribute(area, u"name"_s);
+    MvLocalizedText name;
+    name.read(area, u"name"_s);
     if (!name.isEmpty())
         m_names.insert(id, name);
     setVisibility(schema, m_visibilities.value(schema) | visibility);
@@ -93,7 +93,8 @@ QList<MvCalendariumColorSchemaID> MvCalendariumColorSchemaRegistry::schemaIds() 
 
 QString MvCalendariumColorSchemaRegistry::name(const MvCalendariumColorSchemaID &id) const
 {
-    return m_names.value(id, id.toString());
+    const QString text = m_names.value(id).text();
+    return text.isEmpty() ? id.toString() : text;
 }
 
 MvCalendariumColorSchemaList MvCalendariumColorSchemaRegistry::visibleSchemata() const
@@ -218,8 +219,7 @@ void MvCalendariumColorSchemaRegistry::write(QDomElement &element, const MvCalen
         const MvCalendariumColorSchemaID schemaId = id(schema);
         QDomElement area = MvXMLBuilder::buildDomElement(element, areaTag);
         schema.write(area, schemaId);
-        if (m_names.contains(schemaId))
-            MvXMLBuilder::addAttribute(area, u"name"_s, m_names.value(schemaId));
+        m_names.value(schemaId).write(area, u"name"_s);
     }
 }
 

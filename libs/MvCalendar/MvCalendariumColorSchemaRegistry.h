@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendariumColorSchemaList.h"
 #include "MvCalendar/MvCalendariumColorSchemaVisibility.h"
 #include "MvCore/MvSingleton.h"
+#include "MvXML/MvLocalizedText.h"
 
 #include <QFileInfo>
 #include <QHash>
@@ -40,8 +41,10 @@ public:
     MvCalendariumColorSchemaID id(const MvCalendariumColorSchema &schema) const;
     /// The first id of each schema, in the order of the list.
     QList<MvCalendariumColorSchemaID> schemaIds() const;
-    /// The name shown to users; the id where a file gives none.
+    /// The name shown to users, in the program's language; the id where a file gives none. Attributes "name",
+    /// "name_en".
     QString name(const MvCalendariumColorSchemaID &id) const;
+    MvLocalizedText localizedName(const MvCalendariumColorSchemaID &id) const { return m_names.value(id); }
     MvCalendariumColorSchemaList allSchemata() const { return m_schemata; }
     /// What choosers offer: neither deprecated nor hidden by the user.
     MvCalendariumColorSchemaList visibleSchemata() const;
@@ -92,7 +95,7 @@ private:
     MvCalendariumColorSchemaList m_schemata;
     QMultiHash<MvCalendariumColorSchema, MvCalendariumColorSchemaID> m_ids; // values(): latest first
     QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> m_byId;
-    QHash<MvCalendariumColorSchemaID, QString> m_names;
+    QHash<MvCalendariumColorSchemaID, MvLocalizedText> m_names;
     QHash<MvCalendariumColorSchema, MvCalendariumColorSchemaVisibility> m_visibilities;
     mutable QRecursiveMutex m_mutex; // guards reading
 };

@@ -48,10 +48,20 @@ const MvCalendariumLayoutSchemaID &MvCalendariumLayoutSchema::ID() const
 
 QString MvCalendariumLayoutSchema::name() const
 {
-    return d->name.isEmpty() ? d->id.toString() : d->name;
+    return d->name.isEmpty() ? d->id.toString() : d->name.text();
 }
 
 QString MvCalendariumLayoutSchema::description() const
+{
+    return d->description.text();
+}
+
+const MvLocalizedText &MvCalendariumLayoutSchema::localizedName() const
+{
+    return d->name;
+}
+
+const MvLocalizedText &MvCalendariumLayoutSchema::localizedDescription() const
 {
     return d->description;
 }

@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaID.h"
 #include "MvCalendar/MvCalendariumType.h"
 #include "MvCore/MvSpaceMagnitude.h"
+#include "MvXML/MvLocalizedText.h"
 
 #include <QSharedDataPointer>
 
@@ -32,10 +33,14 @@ public:
     bool isValid() const;
     bool isUserSchema() const;
     const MvCalendariumLayoutSchemaID &ID() const;
-    /// The name shown to users; the id where the file gives none.
+    /// The name shown to users, in the program's language; the id where the file gives none. Attributes "name",
+    /// "name_en".
     QString name() const;
-    /// One sentence on what the layout is for, in German; empty where the file gives none. Attribute "description".
+    /// One sentence on what the layout is for, in the program's language; empty where the file gives none. Attributes
+    /// "description", "description_en".
     QString description() const;
+    const MvLocalizedText &localizedName() const;
+    const MvLocalizedText &localizedDescription() const;
     size_t hashValue() const;
 
     // per cell type; a type that the schema does not have is laid out by default

@@ -20,8 +20,8 @@ void MvCalendariumLayoutSchemaImpl::read(const QDomElement &element)
     type.fromXML(element);
     renderingInformation.fromXML(element);
     id.read(element);
-    name = MvXMLParser::textAttribute(element, u"name"_s);
-    description = MvXMLParser::textAttribute(element, u"description"_s);
+    name.read(element, u"name"_s);
+    description.read(element, u"description"_s);
     readSuggestions(element);
     optimizedSize = MvSpaceMagnitude(MvXMLParser::textAttribute(element, optimizedSizeKey));
     readCells(element);
@@ -38,10 +38,8 @@ void MvCalendariumLayoutSchemaImpl::write(QDomElement &element) const
     type.toXML(element);
     renderingInformation.toXML(element);
     id.write(element);
-    if (!name.isEmpty())
-        MvXMLBuilder::addAttribute(element, u"name"_s, name);
-    if (!description.isEmpty())
-        MvXMLBuilder::addAttribute(element, u"description"_s, description);
+    name.write(element, u"name"_s);
+    description.write(element, u"description"_s);
     writeSuggestions(element);
     if (optimizedSize.isValid())
         MvXMLBuilder::addAttribute(element, optimizedSizeKey, optimizedSize.encodeCSV());

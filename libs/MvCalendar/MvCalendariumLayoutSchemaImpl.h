@@ -7,6 +7,7 @@
 #include "MvCalendar/MvCalendariumType.h"
 #include "MvCore/MvSharedData.h"
 #include "MvCore/MvSpaceMagnitude.h"
+#include "MvXML/MvLocalizedText.h"
 
 #include <QHash>
 
@@ -14,8 +15,8 @@
 struct MvCalendariumLayoutSchemaImpl : MvSharedData
 {
     MvCalendariumLayoutSchemaID id;
-    QString name;
-    QString description;
+    MvLocalizedText name;
+    MvLocalizedText description;
     MvCalendariumType type;
     MvCalendarRenderingInformation renderingInformation;
     MvSpaceMagnitude optimizedSize; // none: the layout does not say

@@ -94,7 +94,7 @@ bool MvTranslations::install(const QString &language)
         return false;
     auto own = std::make_unique<QTranslator>();
     const QString file = u"i18n/mvcalendar_%1.qm"_s.arg(language);
-    if (language != sourceLanguage && !own->load(MvDirectoryConfig::instance().resource(file).filePath()))
+    if (!own->load(MvDirectoryConfig::instance().resource(file).filePath()))
         return false;
 
     for (const QPointer<QTranslator> &translator : std::as_const(installed().translators))
@@ -107,8 +107,7 @@ bool MvTranslations::install(const QString &language)
     auto ofQt = std::make_unique<QTranslator>();
     if (ofQt->load(u"qtbase_"_s + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         add(std::move(ofQt)); // a part of the system that may be missing
-    if (language != sourceLanguage)
-        add(std::move(own));
+    add(std::move(own));
     return true;
 }
 

@@ -6,8 +6,8 @@
 #include <QStringList>
 
 /// The language of the program's own texts. They are written in German; other languages come as translations
-/// (resource "i18n/mvcalendar_<language>.qm"). What a calendar prints follows the calendar's language instead, and is
-/// the same in every language of the program.
+/// (resource "i18n/mvcalendar_<language>.qm"), German ones alone for texts with a number, which stand in the plural.
+/// What a calendar prints follows the calendar's language instead, and is the same in every language of the program.
 class MVCORE_EXPORT MvTranslations
 {
 public:

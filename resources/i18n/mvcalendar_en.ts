@@ -35,10 +35,6 @@
         <translation>Import birthdays</translation>
     </message>
     <message>
-        <source>%1 von %2 Geburtstagen importiert</source>
-        <translation>%1 of %2 birthdays imported</translation>
-    </message>
-    <message>
         <source>Ein Adressbuch ließ sich nicht lesen.</source>
         <translation>An address book could not be read.</translation>
     </message>
@@ -51,16 +47,29 @@
         <translation>Enter the birthdays in the address book and export it once more as vCard (.vcf).</translation>
     </message>
     <message>
-        <source>Alle %1 Geburtstage waren schon da.</source>
-        <translation>All %1 birthdays were there already.</translation>
-    </message>
-    <message>
-        <source>%1 von %2 Geburtstagen importiert.</source>
-        <translation>%1 of %2 birthdays imported.</translation>
-    </message>
-    <message>
         <source>Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit Bearbeiten &gt; Rückgängig.</source>
         <translation>They are now on their days. You can take this back with Edit &gt; Undo.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %n Geburtstagen importiert</source>
+        <translation>
+            <numerusform>%1 of %n birthday imported</numerusform>
+            <numerusform>%1 of %n birthdays imported</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Alle %n Geburtstage waren schon da.</source>
+        <translation>
+            <numerusform>The birthday was already there.</numerusform>
+            <numerusform>All %n birthdays were already there.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %n Geburtstagen importiert.</source>
+        <translation>
+            <numerusform>%1 of %n birthday imported.</numerusform>
+            <numerusform>%1 of %n birthdays imported.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -239,7 +248,7 @@
 <context>
     <name>MvCalendarEventFile</name>
     <message numerus="yes">
-        <source>%1: %n Foto(s) liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</source>
+        <source>%1: %n Fotos liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</source>
         <translation>
             <numerusform>%1: %n photo lies outside the permitted folders and is not loaded: %2</numerusform>
             <numerusform>%1: %n photos lie outside the permitted folders and are not loaded, the first being %2</numerusform>
@@ -944,9 +953,12 @@
         <source>Die Datei gibt es schon; sie wird ersetzt.</source>
         <translation>The file exists already; it will be replaced.</translation>
     </message>
-    <message>
-        <source>Schon vorhanden und ersetzt werden: %1 Dateien.</source>
-        <translation>Files that exist already and will be replaced: %1.</translation>
+    <message numerus="yes">
+        <source>Schon vorhanden und ersetzt werden: %n Dateien.</source>
+        <translation>
+            <numerusform>Already there and to be replaced: %n file.</numerusform>
+            <numerusform>Already there and to be replaced: %n files.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -980,16 +992,8 @@
         <translation>Export cancelled; nothing was written</translation>
     </message>
     <message>
-        <source>Export abgebrochen; fertig sind %1 Dateien</source>
-        <translation>Export cancelled; %1 files are done</translation>
-    </message>
-    <message>
         <source>Der Kalender wurde nicht exportiert.</source>
         <translation>The calendar was not exported.</translation>
-    </message>
-    <message>
-        <source>%1 Dateien in %2</source>
-        <translation>%1 files in %2</translation>
     </message>
     <message>
         <source>Exportiert: %1</source>
@@ -1010,6 +1014,20 @@
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>Export abgebrochen; fertig sind %n Dateien</source>
+        <translation>
+            <numerusform>Export cancelled; %n file is finished</numerusform>
+            <numerusform>Export cancelled; %n files are finished</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Dateien in %1</source>
+        <translation>
+            <numerusform>%n file in %1</numerusform>
+            <numerusform>%n files in %1</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2510,20 +2528,19 @@ Designs photo calendars and prints them.
         <translation>No pages</translation>
     </message>
     <message>
-        <source>1 Text ohne Platz</source>
-        <translation>1 text without room</translation>
-    </message>
-    <message>
-        <source>%1 Texte ohne Platz</source>
-        <translation>%1 texts without room</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
     <message>
         <source>… und %1 weitere</source>
         <translation>… and %1 more</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Texte ohne Platz</source>
+        <translation>
+            <numerusform>%n text without room</numerusform>
+            <numerusform>%n texts without room</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarCellColorInfo.h"
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCore/MvTranslations.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
 
@@ -346,7 +347,8 @@ void tst_ColorSchema::shippedSchemata()
     const auto &registry = MvCalendariumColorSchemaRegistry::instance();
     QVERIFY(registry.allSchemata().size() >= 6);
     for (const MvCalendariumColorSchemaID &id : registry.schemaIds()) {
-        QVERIFY2(registry.name(id) != id.toString(), qPrintable(id.toString())); // has a German name
+        for (const QString &language : MvTranslations::languages())
+            QVERIFY2(!registry.localizedName(id).text(language).isEmpty(), qPrintable(id.toString()));
         const MvCalendariumColorSchema shipped = registry.findSchema(id);
         QVERIFY(writtenAndRead(shipped) == shipped);
         for (const MvCalendarCellType &type : MvCalendarCellType::allTypes().singleTypes()) {

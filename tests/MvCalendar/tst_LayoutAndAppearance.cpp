@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumPreviewParameters.h"
 #include "MvCore/MvInitializer.h"
+#include "MvCore/MvTranslations.h"
 #include "MvProductBase/MvCalendariumContentConfig.h"
 #include "MvProductBase/MvDateRange.h"
 #include "MvXML/MvXMLBuilder.h"
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void suggestionsForNewPages();
     void unknownLayouts();
     void shippedLayouts();
+    void namesFollowTheLanguage();
     void userLayoutsAreKept();
 
     void fontSettings_data();
@@ -115,7 +117,7 @@ void tst_LayoutAndAppearance::layoutRoundTrip()
         "bordertype='CALENDAR_BORDER_TOP, CALENDAR_BORDER_LEFT' paddingleft='1.25' paddingtop='-2'>"
         "<font family='Lato' pointsize='9.5' weight='700' italic='true' capitalization='AllUppercase' "
         "letterspacing='6'/></cell>"_s,
-        u"schema='USER_7' name='Größe &quot;A&quot;' type='CALENDAR_YEAR' renderinfo='calendar_render_title'"_s);
+        u"schema='USER_7' name='Größe &quot;A&quot;' description_en='Size' type='CALENDAR_YEAR' renderinfo='calendar_render_title'"_s);
     QCOMPARE(original.ID().toString(), u"USER_7"_s); // from the older attribute
     QVERIFY(original.isUserSchema());
     QDomDocument document;
@@ -124,6 +126,7 @@ void tst_LayoutAndAppearance::layoutRoundTrip()
     const MvCalendariumLayoutSchema read(element(document.toString()));
     QVERIFY(read == original);
     QCOMPARE(read.font(CALENDAR_CELL_TYPE_HOLIDAY).letterSpacing(), 106.0);
+    QCOMPARE(read.description(), u"Size"_s); // better than nothing
 }
 
 void tst_LayoutAndAppearance::suggestionsForNewPages()
@@ -158,14 +161,36 @@ void tst_LayoutAndAppearance::shippedLayouts()
 {
     const auto &registry = MvCalendariumLayoutSchemaRegistry::instance();
     QVERIFY(registry.schemata().size() >= 6);
-    QSet<QString> ids;
+    QSet<QString> ids, names;
     for (const MvCalendariumLayoutSchema &schema : registry.schemata()) {
         ids.insert(schema.ID().toString());
-        QVERIFY2(schema.name() != schema.ID().toString(), qPrintable(schema.name()));
+        for (const QString &language : MvTranslations::languages()) {
+            names.insert(schema.localizedName().text(language));
+            QVERIFY2(!schema.localizedName().text(language).isEmpty(), qPrintable(schema.ID().toString()));
+            QVERIFY2(!schema.localizedDescription().text(language).isEmpty(), qPrintable(schema.ID().toString()));
+        }
         QVERIFY2(schema.calendariumType().isValid(), qPrintable(schema.name()));
         QVERIFY2(schema.renderingInformation().isValid(), qPrintable(schema.name()));
     }
     QCOMPARE(ids.size(), registry.schemata().size());
+    QCOMPARE(names.size(), 2 * ids.size()); // told apart, and not the same in both languages
+}
+
+void tst_LayoutAndAppearance::namesFollowTheLanguage()
+{
+    const MvCalendariumLayoutSchema shipped = layout(QString(), u"layoutschema='L' name='Liste' name_en='List'"_s);
+    const MvCalendariumLayoutSchema ofUser = layout(QString(), u"layoutschema='USER_1' name='Meine'"_s);
+    const auto &colors = MvCalendariumColorSchemaRegistry::instance();
+    const MvCalendariumColorSchemaID night(u"NIGHT"_s);
+    const auto backToGerman = qScopeGuard([] { MvTranslations::install(u"de"_s); });
+    for (const auto &[language, list, dark] :
+         {std::tuple{u"de"_s, u"Liste"_s, u"Nacht"_s}, {u"en"_s, u"List"_s, u"Night"_s}}) {
+        QVERIFY(MvTranslations::install(language));
+        QCOMPARE(shipped.name(), list);
+        QCOMPARE(ofUser.name(), u"Meine"_s);
+        QCOMPARE(colors.name(night), dark);
+        QVERIFY(colors.localizedName(night).isAnyOf(u"nacht"_s) && colors.localizedName(night).isAnyOf(u"NIGHT"_s));
+    }
 }
 
 void tst_LayoutAndAppearance::userLayoutsAreKept()

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void createsChangesAndDeletes();
     void keysAlone();
     void seriesOverNewYear();
+    void birthdaysWithoutAYear();
     void cancels();
     void deletingANewEntryIsNoStep();
     void drops_data();
@@ -125,6 +126,7 @@ void tst_MvCalendarDayEditorDialog::createsChangesAndDeletes()
     ok(dialog)->click();
     QCOMPARE(events().first().dateTime().date(), QDate(1604, 2, 29));
     QCOMPARE(events().first().uuid(), uuid);
+    QVERIFY(!events().first().hasYear());
 
     dialog.openDayEditorSingle(events().first());
     ok(dialog)->click(); // nothing changed
@@ -178,6 +180,37 @@ void tst_MvCalendarDayEditorDialog::seriesOverNewYear()
 
     dialog.openDayEditorSingle(events().first());
     QVERIFY(!part<QPushButton>(dialog, u"okAndContinueButton"_qs)->isVisible());
+}
+
+void tst_MvCalendarDayEditorDialog::birthdaysWithoutAYear()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    auto *date = part<QDateTimeEdit>(dialog, u"dateEdit"_qs);
+    auto *unknown = part<QCheckBox>(dialog, u"yearUnknownBox"_qs);
+    dialog.openDayEditorSeries(entry(u"Opa"_qs, {1604, 2, 28}));
+    QCOMPARE(date->text(), u"28.02."_qs);
+    QCOMPARE(part<QLabel>(dialog, u"dateLabel"_qs)->text(), u"28. Februar"_qs);
+    QVERIFY(unknown->isChecked() && !date->calendarPopup()); // its sheet would have a year
+    date->setSelectedSection(QDateTimeEdit::DaySection);
+    QTest::keyClick(date, Qt::Key_Up);
+    part<QPushButton>(dialog, u"okAndContinueButton"_qs)->click();
+    QCOMPARE(events().first().dateTime().date(), QDate(1604, 2, 29));
+    QCOMPARE(date->text(), u"01.03."_qs);
+
+    dialog.openDayEditorSeries(entry(u"Oma"_qs, {1604, 12, 31}));
+    part<QPushButton>(dialog, u"okAndContinueButton"_qs)->click();
+    QCOMPARE(date->text(), u"01.01."_qs);
+
+    dialog.openDayEditorSingle(entry(u"Uropa"_qs, {1604, 2, 29}));
+    unknown->click(); // there is one after all
+    QCOMPARE(date->text().left(6), u"29.02."_qs);
+    QVERIFY(date->date().year() > 2000 && date->calendarPopup());
+    QTest::keyClicks(date, u"1932"_qs);
+    QCOMPARE(dialog.applyEventChange().dateTime().date(), QDate(1932, 2, 29));
+    unknown->click();
+    QVERIFY(!dialog.applyEventChange().hasYear());
+    unknown->click();
+    QCOMPARE(date->text(), u"29.02.1932"_qs);
 }
 
 void tst_MvCalendarDayEditorDialog::cancels()

@@ -163,13 +163,27 @@ void tst_MvCalendarEvent::comparesWithoutUuid()
 void tst_MvCalendarEvent::textForms()
 {
     const QUuid uuid(u"{11111111-2222-3333-4444-555555555555}"_qs);
-    const MvCalendarEvent event(u"Oma"_qs, QDate(1941, 3, 9).startOfDay(), false, MvFoto(), uuid, QDateTime());
+    MvCalendarEvent event(u"Oma"_qs, QDate(1941, 3, 9).startOfDay(), false, MvFoto(), uuid, QDateTime());
     QCOMPARE(event.longDescription(), u"09.03.41: \"Oma\""_qs);
     const QString debug = u"09.03.41: \"Oma\" 1 {11111111-2222-3333-4444-555555555555}"_qs;
     QCOMPARE(event.debugString(), debug);
     QString written;
     QDebug(&written) << event;
     QCOMPARE(written.trimmed(), debug);
+
+    event.setDateTime(QDate(MvCalendarEvent::unknownYear, 3, 9).startOfDay());
+    for (const auto &[locale, day] : {std::pair{u"de_DE"_qs, u"09.03."_qs},
+                                      {u"en_GB"_qs, u"09/03"_qs},
+                                      {u"en_US"_qs, u"3/9"_qs},
+                                      {u"hu_HU"_qs, u"03. 09."_qs},
+                                      {u"sv_SE"_qs, u"03-09"_qs},
+                                      {u"nl_NL"_qs, u"09-03"_qs}}) {
+        const QLocale before;
+        QLocale::setDefault(QLocale(locale));
+        const QString text = event.longDescription();
+        QLocale::setDefault(before);
+        QCOMPARE(text, day + u": \"Oma\""_qs);
+    }
 }
 
 void tst_MvCalendarEvent::roundTrip_data()

@@ -138,6 +138,7 @@ void tst_MvCalendarEventModel::cells_data()
     QTest::newRow("no photo") << 0 << 0 << int(Qt::DisplayRole) << QVariant(QImage());
     QTest::newRow("path of no photo") << 0 << 0 << int(Qt::EditRole) << QVariant(QString());
     QTest::newRow("date") << 0 << 1 << int(Qt::DisplayRole) << QVariant(QDate(2004, 2, 29));
+    QTest::newRow("read out") << 0 << 1 << int(Qt::AccessibleTextRole) << QVariant(u"29.02.2004"_qs);
     QTest::newRow("name") << 0 << 2 << int(Qt::DisplayRole) << QVariant(u"Anna"_qs);
     QTest::newRow("entry") << 0 << 3 << int(Qt::DisplayRole) << anna;
     QTest::newRow("user role of the photo") << 0 << 0 << int(Qt::UserRole) << anna;

@@ -52,13 +52,15 @@ void tst_MvTranslations::environmentDecides()
 void tst_MvTranslations::installs()
 {
     const auto text = [] { return MvSafeFileWriter::tr("Die Datei ist schreibgeschützt."); };
+    const auto more = [](int count) {
+        return QCoreApplication::translate("MvHolidayTableReader", " (und %n weitere Fehler in dieser Datei)", nullptr,
+                                           count);
+    };
     const QString german = text();
     for (int round = 0; round < 2; ++round) { // there and back, and again
         QVERIFY(MvTranslations::install(u"en"_s));
         QCOMPARE(text(), u"The file is write-protected."_s);
-        QCOMPARE(
-            QCoreApplication::translate("MvHolidayTableReader", " (und %n weitere Fehler in dieser Datei)", nullptr, 1),
-            u" (and 1 more error in this file)"_s);
+        QCOMPARE(more(1), u" (and 1 more error in this file)"_s);
         QCOMPARE(MvApplicationLocale::instance().locale().language(), QLocale::English);
         QCOMPARE(QLocale().language(), QLocale::English);
         QVERIFY(!MvTranslations::install(u"tlh"_s));
@@ -66,6 +68,8 @@ void tst_MvTranslations::installs()
 
         QVERIFY(MvTranslations::install(u"de"_s));
         QCOMPARE(text(), german);
+        QCOMPARE(more(1), u" (und 1 weiterer Fehler in dieser Datei)"_s);
+        QCOMPARE(more(3), u" (und 3 weitere Fehler in dieser Datei)"_s);
         QCOMPARE(MvApplicationLocale::instance().locale(), QLocale(QLocale::German, QLocale::Germany));
     }
     QCOMPARE(MvTranslations::nameOf(u"de"_s), u"Deutsch"_s);

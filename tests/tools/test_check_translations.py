@@ -31,11 +31,11 @@ NUMERUS = "<translation>{}</translation>"
 
 
 class CheckTranslations(unittest.TestCase):
-    def output_for(self, context, source, translation, attributes=""):
+    def output_for(self, context, source, translation, attributes="", language="en"):
         with tempfile.TemporaryDirectory() as folder:
             file = pathlib.Path(folder) / "x.ts"
             file.write_text(
-                f'<TS version="2.1" language="en"><context><name>{context}</name><message{attributes}>'
+                f'<TS version="2.1" language="{language}"><context><name>{context}</name><message{attributes}>'
                 f"<source>{source}</source>{translation}</message></context></TS>",
                 encoding="utf-8",
             )
@@ -50,15 +50,17 @@ class CheckTranslations(unittest.TestCase):
                 self.assertIn(expected, output) if expected else self.assertEqual("", output)
 
     def test_numerus_forms(self):
-        for forms, expected in (
-            (["%n page", "%n pages"], ""),
-            (["one page", "%n pages"], ""),
-            (["%n page"], "numerus forms"),
-            (["%n page", "%1 pages"], "placeholders"),
+        for language, forms, expected in (
+            ("en", ["%n page", "%n pages"], ""),
+            ("en", ["one page", "%n pages"], ""),
+            ("en", ["%n page"], "numerus forms"),
+            ("en", ["%n page", "%1 pages"], "placeholders"),
+            ("de", ["%n „Seite“", "%n „Seiten“"], ""),
+            ("de", ["%n Seite", "%n Blätter"], "source text itself"),
         ):
             with self.subTest(forms=forms):
                 inner = "".join(f"<numerusform>{form}</numerusform>" for form in forms)
-                output = self.output_for("MvA", "%n Seite(n)", NUMERUS.format(inner), ' numerus="yes"')
+                output = self.output_for("MvA", "%n „Seiten“", NUMERUS.format(inner), ' numerus="yes"', language)
                 self.assertIn(expected, output) if expected else self.assertEqual("", output)
 
 

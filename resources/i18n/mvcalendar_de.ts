@@ -1,0 +1,85 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="de">
+<context>
+    <name>MvBirthdayImport</name>
+    <message numerus="yes">
+        <source>%1 von %n Geburtstagen importiert</source>
+        <translation>
+            <numerusform>%1 von %n Geburtstag importiert</numerusform>
+            <numerusform>%1 von %n Geburtstagen importiert</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Alle %n Geburtstage waren schon da.</source>
+        <translation>
+            <numerusform>Der Geburtstag war schon da.</numerusform>
+            <numerusform>Alle %n Geburtstage waren schon da.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %n Geburtstagen importiert.</source>
+        <translation>
+            <numerusform>%1 von %n Geburtstag importiert.</numerusform>
+            <numerusform>%1 von %n Geburtstagen importiert.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventFile</name>
+    <message numerus="yes">
+        <source>%1: %n Fotos liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</source>
+        <translation>
+            <numerusform>%1: %n Foto liegt außerhalb der erlaubten Ordner und wird nicht geladen: %2</numerusform>
+            <numerusform>%1: %n Fotos liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvExportDialog</name>
+    <message numerus="yes">
+        <source>Schon vorhanden und ersetzt werden: %n Dateien.</source>
+        <translation>
+            <numerusform>Schon vorhanden und ersetzt wird: %n Datei.</numerusform>
+            <numerusform>Schon vorhanden und ersetzt werden: %n Dateien.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvExportFlow</name>
+    <message numerus="yes">
+        <source>Export abgebrochen; fertig sind %n Dateien</source>
+        <translation>
+            <numerusform>Export abgebrochen; fertig ist %n Datei</numerusform>
+            <numerusform>Export abgebrochen; fertig sind %n Dateien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Dateien in %1</source>
+        <translation>
+            <numerusform>%n Datei in %1</numerusform>
+            <numerusform>%n Dateien in %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvHolidayTableReader</name>
+    <message numerus="yes">
+        <source> (und %n weitere Fehler in dieser Datei)</source>
+        <translation>
+            <numerusform> (und %n weiterer Fehler in dieser Datei)</numerusform>
+            <numerusform> (und %n weitere Fehler in dieser Datei)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioStatusBar</name>
+    <message numerus="yes">
+        <source>%n Texte ohne Platz</source>
+        <translation>
+            <numerusform>%n Text ohne Platz</numerusform>
+            <numerusform>%n Texte ohne Platz</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

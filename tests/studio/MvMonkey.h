@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+#include <QRandomGenerator>
+#include <QStringList>
+#include <QTimer>
+#include <QWidget>
+
+class QFileDialog;
+class QWindow;
+
+/// Somebody who hits buttons, keys and pages of a window and of whatever it opens, at random but after a seed. Events
+/// go the way of real ones, through the window below the pointer, so that popups and modal dialogs take their part.
+///
+/// Dialogs for files are answered from a list, so that nothing outside of it is touched; the window does not close.
+/// Whoever enters an event loop of his own (menus of buttons, dragging, questions) is answered from a timer.
+class MvMonkey : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Files that may be chosen wherever a file is asked for, and a folder for new ones.
+    MvMonkey(QWidget *window, quint32 seed, const QStringList &files, const QString &folder);
+    ~MvMonkey() override;
+
+    /// One action; the name of it is in the log.
+    void act();
+    /// Closes what is open above and beside the window.
+    void closeOthers();
+
+    /// The last actions, to be told when something went wrong.
+    static QString log();
+    /// The same, for a program that is about to die.
+    static void writeLog();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    using Action = void (MvMonkey::*)();
+    struct Choice
+    {
+        int weight;
+        Action action;
+    };
+
+    int below(int number) { return int(m_random.bounded(number)); }
+    template <class List>
+    auto oneOf(const List &list)
+    {
+        return list.at(below(int(list.size())));
+    }
+    Action chooseAction();
+    void note(const QString &action);
+
+    void click();
+    void clickCanvas();
+    void doubleClick();
+    void drag();
+    void turnWheel();
+    void pressKey();
+    void typeText();
+    void dropFile();
+    void undo();
+    void redo();
+    void turnPage();
+    void triggerAction();
+    void raiseDock();
+    void closeWindow();
+
+    /// The window that a person could use now.
+    QWidget *currentWindow();
+    /// A widget on it, the small ones as likely as the large ones; and a point of the widget that is to be seen.
+    QWidget *someWidget(QPoint *point);
+    QWidget *canvas() const;
+    void sendKey(int key, Qt::KeyboardModifiers modifiers, const QString &text);
+    void press(QWidget *widget, const QPoint &point, Qt::MouseButton button, Qt::KeyboardModifiers modifiers = {});
+    void tameDialogs();
+    void answer(QFileDialog *dialog);
+    void watch();
+    void leaveInnerLoop();
+
+    QPointer<QWidget> m_window;
+    QRandomGenerator m_random;
+    const QStringList m_files;
+    const QString m_folder;
+    QPointer<QWidget> m_lastModal;
+    int m_modalAge = 0;
+    int m_ticks = 0; // of the watch since the last action began
+};

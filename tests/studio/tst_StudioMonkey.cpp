@@ -1,0 +1,350 @@
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventModel.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvRequestHandler.h"
+#include "MvCore/MvUndoController.h"
+#include "MvMonkey.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectFile.h"
+#include "MvProjectFixture.h"
+#include "MvStudioApplication.h"
+#include "MvStudioSettings.h"
+#include "MvStudioWindow.h"
+#include "MvWidgetTest.h"
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+extern "C" void __sanitizer_set_death_callback(void (*callback)()) __attribute__((weak));
+
+namespace {
+
+constexpr int actionsPerSeed = 1250;
+constexpr int actionsPerCheck = 125;
+constexpr int mostKeptWindows = 40; // menus, lists of boxes, docks
+
+/// Chooses from a list, agrees half the time, at once or later.
+class ScriptedAnswers : public MvRequestHandler
+{
+public:
+    ScriptedAnswers(quint32 seed, const QStringList &files, const QString &folder)
+        : m_random(seed)
+        , m_files(files)
+        , m_folder(folder)
+    {}
+
+    void askForFile(const FileRequest &request, QObject *asker, const FileAnswer &answer) override
+    {
+        QString file = request.mode == FileMode::Save ? m_folder + u"/Einträge.xml"_s
+                                                      : m_files.at(int(m_random.bounded(m_files.size())));
+        if (m_random.bounded(4) == 0)
+            file.clear();
+        give(asker, [answer, file] { answer(file); });
+    }
+    void askYesNo(const QString &, const QString &, QObject *asker, const YesNoAnswer &answer) override
+    {
+        give(asker, [answer, yes = m_random.bounded(2) == 0] { answer(yes); });
+    }
+    void report(const QString &, const QString &, QObject *) override {}
+
+private:
+    void give(QObject *asker, const std::function<void()> &answer)
+    {
+        if (m_random.bounded(2) == 0 || !asker)
+            answer();
+        else
+            QTimer::singleShot(int(m_random.bounded(30)), asker, answer);
+    }
+
+    QRandomGenerator m_random;
+    QStringList m_files;
+    QString m_folder;
+};
+
+QString textOf(const MvCalendarEvent &event)
+{
+    return u"%1|%2|%3|%4|%5"_s
+        .arg(event.dateTime().toString(Qt::ISODate), event.description(), event.uuid().toString(),
+             event.imagePath().filePath())
+        .arg(event.storedRecurrent());
+}
+
+QStringList textsOf(const MvCalendarEventList &events)
+{
+    QStringList texts;
+    for (const MvCalendarEvent &event : events)
+        texts.append(textOf(event));
+    texts.sort();
+    return texts;
+}
+
+QByteArray differenceOf(const QStringList &found, const QStringList &expected)
+{
+    QStringList lines{u"found %1, expected %2"_s.arg(found.size()).arg(expected.size())};
+    for (const QString &line : found)
+        if (!expected.contains(line))
+            lines.append(u"+ "_s + line);
+    for (const QString &line : expected)
+        if (!found.contains(line))
+            lines.append(u"- "_s + line);
+    return lines.join(u'\n').toUtf8();
+}
+
+QtMessageHandler &testHandler()
+{
+    static QtMessageHandler handler;
+    return handler;
+}
+
+/// What the platform without a screen cannot do would hide the rest.
+void dropPlatformMessages(QtMsgType type, const QMessageLogContext &context, const QString &text)
+{
+    if (!text.startsWith(u"This plugin does not support"_s))
+        testHandler()(type, context, text);
+}
+
+void dieLoudly(int signal)
+{
+    MvMonkey::writeLog();
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+} // namespace
+
+/// Ten thousand things that nobody would do, one after the other, and after each some that must still hold.
+class tst_StudioMonkey : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { testHandler() = qInstallMessageHandler(dropPlatformMessages); }
+    void cleanupTestCase() { qInstallMessageHandler(testHandler()); }
+    void init();
+    void cleanup();
+    void survives_data();
+    void survives();
+
+private:
+    MvProject *project() const { return m_studio->project(); }
+    MvCalendarEventList createEvents(const QString &photo) const;
+    QStringList createFiles() const;
+    void check();
+    void checkEntries();
+    void checkUndo();
+    void checkPages();
+    void checkWindows();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MvStudioApplication> m_studio;
+    std::unique_ptr<MvMonkey> m_monkey;
+};
+
+void tst_StudioMonkey::init()
+{
+    QTest::failOnWarning(QRegularExpression(u"^(?!.*kaputt)"_s)); // told about files that are broken on purpose
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+    QVERIFY(QDir::setCurrent(m_folder->path())); // for names without a folder
+    MvStudioSettings::setLanguage(u"de"_s);
+    MvStudioSettings::setWelcomeShown(true);
+    MvStudioSettings::setFolder(u"export"_s, m_folder->path());
+    QApplication::setQuitOnLastWindowClosed(false);
+    m_studio = std::make_unique<MvStudioApplication>(MvStudioOptions::parse({u"mvcalendar-studio"_s}));
+    m_studio->start();
+    QVERIFY(QTest::qWaitForWindowExposed(m_studio->window()));
+}
+
+void tst_StudioMonkey::cleanup()
+{
+    if (QTest::currentTestFailed())
+        qInfo().noquote() << MvMonkey::log();
+    MvRequestHandler::install({});
+    m_monkey.reset();
+    MvCalendarEventRegistry::instance().setEvents({});
+    m_studio.reset();
+    QDir::setCurrent(QDir::rootPath());
+    m_folder.reset();
+}
+
+MvCalendarEventList tst_StudioMonkey::createEvents(const QString &photo) const
+{
+    MvCalendarEventList events;
+    for (int day = 1; day < 20; ++day)
+        events.append(MvCalendarEvent(u"Person %1"_s.arg(day), QDate(1980 + day, 1 + day % 12, day).startOfDay(),
+                                      day % 3 > 0, day % 5 == 0 ? MvFoto(QFileInfo(photo)) : MvFoto(),
+                                      QUuid::createUuid(), {}));
+    return events;
+}
+
+QStringList tst_StudioMonkey::createFiles() const
+{
+    const auto write = [this](const QString &name, const QByteArray &content) {
+        QFile file(m_folder->filePath(name));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(content);
+        return file.fileName();
+    };
+    const QString photo = m_folder->filePath(u"Foto.png"_s);
+    const QString upright = m_folder->filePath(u"Hochkant.jpg"_s);
+    MvProjectFixture::writePhoto(photo, {300, 200});
+    MvProjectFixture::writePhoto(upright, {90, 160});
+    const MvCalendarEventList events = createEvents(photo);
+    const QString calendar = m_folder->filePath(u"Kalender."_s + MvProjectFile::suffix());
+    MvProjectFile::write(MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 3), QFileInfo(calendar));
+    return {photo,
+            upright,
+            photo,
+            calendar,
+            write(u"Termine.xml"_s, MvCalendarEventFile::toBytes(events)),
+            write(u"kaputt.xml"_s, MvCalendarEventFile::toBytes(events).chopped(700)),
+            write(u"kaputt.png"_s, "\x89PNG\r\n\x1a\nnothing more"),
+            write(u"kaputt."_s + MvProjectFile::suffix(), "<calendarproject version=\"1\"><page"),
+            write(u"Leute.vcf"_s, "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Anna Ärmel\r\nBDAY:1990-02-28\r\nEND:VCARD\r\n"
+                                  "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Ben\r\nBDAY:2000-02-29\r\nEND:VCARD\r\n"),
+            m_folder->filePath(u"kaputt, weil nicht da.jpg"_s)};
+}
+
+void tst_StudioMonkey::survives_data()
+{
+    QTest::addColumn<quint32>("seed");
+    for (quint32 seed = 1; seed <= 8; ++seed)
+        QTest::addRow("seed %u", seed) << seed;
+}
+
+void tst_StudioMonkey::survives()
+{
+    QFETCH(quint32, seed);
+    const QStringList files = createFiles();
+    MvRequestHandler::install(std::make_unique<ScriptedAnswers>(seed, files, m_folder->path()));
+    MvCalendarEventRegistry::instance().setEvents(createEvents(files.first()));
+    m_monkey = std::make_unique<MvMonkey>(m_studio->window(), seed, files, m_folder->path());
+    int steps = 0;
+    for (int action = 1; action <= actionsPerSeed; ++action) {
+        m_monkey->act();
+        if (action % 25 == 0)
+            QTest::qWait(5); // timers and threads have their say
+        if (action % actionsPerCheck == 0)
+            check();
+        steps = qMax(steps, MvUndoController::instance().stack()->count());
+        if (QTest::currentTestFailed())
+            return;
+    }
+    QVERIFY2(steps >= 10, "hardly anything was changed");
+}
+
+void tst_StudioMonkey::check()
+{
+    m_monkey->closeOthers();
+    QTest::qWait(20);
+    checkEntries();
+    if (!QTest::currentTestFailed())
+        checkUndo();
+    if (!QTest::currentTestFailed())
+        checkEntries();
+    if (!QTest::currentTestFailed())
+        checkPages();
+    if (!QTest::currentTestFailed())
+        checkWindows();
+}
+
+/// File, list and table are of one mind.
+void tst_StudioMonkey::checkEntries()
+{
+    const auto &registry = MvCalendarEventRegistry::instance();
+    const QStringList list = textsOf(registry.activeEventList());
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(registry.calendarEventsDir());
+    QVERIFY2(content.isRead() || (content.isMissing && list.isEmpty()), qPrintable(content.error));
+    const QStringList inFile = textsOf(content.events);
+    QVERIFY2(inFile == list, differenceOf(inFile, list).constData());
+
+    int tables = 0;
+    for (const auto *view : m_studio->window()->findChildren<QTableView *>()) {
+        const auto *model = qobject_cast<const MvCalendarEventModel *>(view->model());
+        if (!model)
+            continue;
+        ++tables;
+        MvCalendarEventList rows;
+        for (int row = 0; row < model->rowCount(); ++row)
+            rows.append(model->calendarEvent(model->index(row, 0)));
+        QVERIFY2(textsOf(rows) == list, differenceOf(textsOf(rows), list).constData());
+    }
+    QVERIFY(tables > 0);
+}
+
+/// Back to the beginning, forth again, and twice over: every state comes back as it was.
+void tst_StudioMonkey::checkUndo()
+{
+    MvUndoController &undo = MvUndoController::instance();
+    const int index = undo.stack()->index();
+    const MvCalendarDocument document = project()->document();
+    const QStringList entries = textsOf(MvCalendarEventRegistry::instance().activeEventList());
+    std::optional<MvCalendarDocument> firstDocument;
+    QStringList firstEntries;
+    for (int round = 0; round < 2; ++round) {
+        while (undo.stack()->canUndo()) {
+            undo.undo();
+            if (undo.stack()->index() % 20 == 0)
+                QCoreApplication::processEvents();
+        }
+        const QStringList atStart = textsOf(MvCalendarEventRegistry::instance().activeEventList());
+        if (round == 0) {
+            firstDocument = project()->document();
+            firstEntries = atStart;
+        }
+        QVERIFY(*firstDocument == project()->document());
+        QVERIFY2(firstEntries == atStart, differenceOf(atStart, firstEntries).constData());
+
+        while (undo.stack()->index() < index) {
+            const int before = undo.stack()->index();
+            undo.redo();
+            QCOMPARE(undo.stack()->index(), before + 1);
+        }
+        const QStringList redone = textsOf(MvCalendarEventRegistry::instance().activeEventList());
+        QVERIFY(project()->document() == document);
+        QVERIFY2(redone == entries, differenceOf(redone, entries).constData());
+    }
+}
+
+void tst_StudioMonkey::checkPages()
+{
+    const MvCalendarDocument &document = project()->document();
+    for (int page = 0; page < qMin(24, int(document.pages().size())); ++page)
+        QVERIFY(!document.pages().at(page).record(document.format(), document.range()).isEmpty());
+}
+
+/// Dialogs are gone when they were closed (an export that was cancelled ends with its page), and what widgets keep for
+/// the next time does not pile up.
+void tst_StudioMonkey::checkWindows()
+{
+    const auto describe = [] {
+        QStringList names;
+        for (const QWidget *widget : QApplication::topLevelWidgets())
+            names.append(QString::fromLatin1(widget->metaObject()->className()) + u' ' + widget->objectName());
+        names.sort();
+        return names.join(u", "_s);
+    };
+    const auto hasDialog = [] {
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        return std::any_of(widgets.begin(), widgets.end(),
+                           [](const QWidget *widget) { return qobject_cast<const QDialog *>(widget) != nullptr; });
+    };
+    QTRY_VERIFY2_WITH_TIMEOUT(!hasDialog(), qPrintable(describe()), 20000);
+    QVERIFY2(QApplication::topLevelWidgets().size() <= mostKeptWindows, qPrintable(describe()));
+    QVERIFY(m_studio->window()->isVisible());
+}
+
+int main(int argc, char **argv)
+{
+    for (const int signal : {SIGSEGV, SIGABRT, SIGBUS, SIGFPE}) {
+        if (!__sanitizer_set_death_callback)
+            std::signal(signal, dieLoudly);
+    }
+    if (__sanitizer_set_death_callback)
+        __sanitizer_set_death_callback(&MvMonkey::writeLog);
+    const QTemporaryDir home; // where dialogs of the library look and write on their own
+    qputenv("HOME", home.path().toLocal8Bit());
+    return mvRunWidgetTest(argc, argv, []() -> QObject * { return new tst_StudioMonkey; });
+}
+#include "tst_StudioMonkey.moc"
