@@ -90,6 +90,7 @@ void tst_StudioDesignJourneys::holidaysOfACountry()
     if (!studio.find<QCheckBox>("publicHolidaysOnly")->isChecked())
         QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
     const MvCalendarDocument before = studio.document();
+    const QString regionBefore = studio.find<QComboBox>("provinceBox")->currentText();
     const int steps = studio.steps();
     QVERIFY(studio.choose("languageBox", country));
     QVERIFY(studio.choose("provinceBox", region));
@@ -97,7 +98,7 @@ void tst_StudioDesignJourneys::holidaysOfACountry()
     while (studio.steps() > steps)
         studio.undo();
     QVERIFY(studio.document() == before);
-    QCOMPARE(studio.find<QComboBox>("provinceBox")->currentText().startsWith(region), false);
+    QCOMPARE(studio.find<QComboBox>("provinceBox")->currentText(), regionBefore);
 }
 
 void tst_StudioDesignJourneys::coloursByKeyboard()
@@ -159,28 +160,27 @@ void tst_StudioDesignJourneys::grid()
 {
     MvStudioFixture studio;
     QVERIFY(showColors(studio));
-    const bool wasOn = studio.find<QCheckBox>("showGridBox")->isChecked();
-    const auto operations = [&studio] { return studio.page()->recording().operationCount(); };
-    const int before = operations();
+    auto *box = studio.find<QCheckBox>("showGridBox");
+    QVERIFY(box->isChecked());
+    const QSet<QRgb> lines = studio.lineColors();
+    QVERIFY(!lines.isEmpty());
     QVERIFY(studio.press("showGridBox", Qt::Key_Space));
-    QCOMPARE(operations() < before, wasOn);
-    QVERIFY(operations() != before);
-    if (wasOn)
-        QVERIFY(studio.press("showGridBox", Qt::Key_Space));
-    const QSet<QRgb> black = studio.lineColors();
+    QCOMPARE(studio.lineColors(), QSet<QRgb>());
+    QVERIFY(!studio.find("gridColorButton")->isEnabled());
+    studio.undo();
+    QCOMPARE(studio.lineColors(), lines);
+    QVERIFY(box->isChecked());
 
     QVERIFY(studio.press("gridColorButton", Qt::Key_Return));
     auto *palette = qobject_cast<MvColorPalettePopup *>(QApplication::activePopupWidget());
     QVERIFY(palette);
-    QTest::keyClick(palette->focusWidget(), Qt::Key_Tab);
-    QTest::keyClick(palette->focusWidget(), Qt::Key_Down);
-    QTest::keyClick(palette->focusWidget(), Qt::Key_Down);
+    for (int step = 0; step < 3; ++step)
+        QTest::keyClick(palette->focusWidget(), Qt::Key_Down);
     QTest::keyClick(palette->focusWidget(), Qt::Key_Return);
-    QVERIFY(studio.lineColors() != black);
+    QVERIFY(studio.lineColors() != lines);
+    QVERIFY(!studio.lineColors().isEmpty());
     studio.undo();
-    QCOMPARE(studio.lineColors(), black);
-    studio.undo();
-    QCOMPARE(studio.find<QCheckBox>("showGridBox")->isChecked(), false);
+    QCOMPARE(studio.lineColors(), lines);
 }
 
 void tst_StudioDesignJourneys::columnHeaders()
@@ -197,20 +197,20 @@ void tst_StudioDesignJourneys::columnHeaders()
     list->setFocus(Qt::TabFocusReason);
     list->setCurrentIndex(list->model()->index(columns, 0));
     QTest::keyClick(list, Qt::Key_F2);
-    auto *editor = list->findChild<QLineEdit *>();
+    auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
     QVERIFY(editor);
     QTest::keyClicks(editor, u"Dackel"_s);
     QTest::keyClick(editor, Qt::Key_Return);
     QVERIFY(studio.texts().contains(u"Dackel"_s));
-    for (int step = 0; step < 2; ++step)
-        QVERIFY(studio.press("countColumnsBox", Qt::Key_Down));
+    studio.undo(); // with the column that was added a moment before
     QVERIFY(!studio.texts().contains(u"Dackel"_s));
+    QCOMPARE(studio.find<QSpinBox>("countColumnsBox")->value(), columns);
+    QVERIFY(studio.press("countColumnsBox", Qt::Key_Down));
     QVERIFY(!studio.texts().contains(u"Kind2"_s));
-    QVERIFY(studio.texts().contains(u"Mama"_s));
-    while (!studio.texts().contains(u"Dackel"_s) && studio.steps() > 0)
-        studio.undo();
+    QVERIFY(studio.texts().contains(u"Kind1"_s));
+    studio.undo();
     QVERIFY(studio.texts().contains(u"Kind2"_s));
-    QCOMPARE(studio.find<QSpinBox>("countColumnsBox")->value(), columns + 1);
+    QCOMPARE(list->model()->rowCount(), columns);
 }
 
 void tst_StudioDesignJourneys::fonts()
@@ -240,6 +240,7 @@ void tst_StudioDesignJourneys::fonts()
     studio.undo();
 
     QVERIFY(studio.choose("fontFamilyBox", u"EB Garamond"_s));
+    for (const auto &item : studio.items(MvPaintRecording::Item::Text)) qInfo()<<item.text<<item.font.families();
     QCOMPARE(fontOf(newYear, u"1"_s).family(), u"EB Garamond"_s);
     QVERIFY(studio.click(studio.window(), "resetFont"));
     QCOMPARE(fontOf(newYear, u"1"_s).family(), number.family());
@@ -348,25 +349,25 @@ void tst_StudioDesignJourneys::onlyThisPage()
 {
     MvStudioFixture studio;
     QVERIFY(studio.raiseDock("contentPanelDock"));
-    const auto weeks = [&studio](int page) {
-        return studio.document().pages().at(page).contentConfig().holidayConfig().hasFeatures(FEATURE_CALENDAR_WEEKS);
+    const auto publicOnly = [&studio](int page) {
+        return studio.document().pages().at(page).contentConfig().holidayConfig().hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY);
     };
-    const bool before = weeks(0);
+    const bool before = publicOnly(0);
     QVERIFY(studio.click(studio.window(), "scopeCurrentPage"));
     QVERIFY(studio.trigger("nextPage"));
-    QVERIFY(studio.press("calendarWeeks", Qt::Key_Space));
+    QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
     for (int page = 0; page < 12; ++page)
-        QCOMPARE(weeks(page), page == 1 ? !before : before);
+        QCOMPARE(publicOnly(page), page == 1 ? !before : before);
     QVERIFY(studio.trigger("nextPage"));
-    QCOMPARE(studio.find<QCheckBox>("calendarWeeks")->isChecked(), before);
+    QCOMPARE(studio.find<QCheckBox>("publicHolidaysOnly")->isChecked(), before);
     QVERIFY(studio.click(studio.window(), "scopeAllPages"));
-    QVERIFY(studio.press("calendarWeeks", Qt::Key_Space));
+    QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
     for (int page = 0; page < 12; ++page)
-        QCOMPARE(weeks(page), !before);
+        QCOMPARE(publicOnly(page), !before);
     studio.undo();
     studio.undo();
     for (int page = 0; page < 12; ++page)
-        QCOMPARE(weeks(page), before);
+        QCOMPARE(publicOnly(page), before);
 }
 
 MV_WIDGET_TEST_MAIN(tst_StudioDesignJourneys)
