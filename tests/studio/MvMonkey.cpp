@@ -541,7 +541,7 @@ void MvMonkey::leaveInnerLoop()
             QTest::mouseClick(oneOf(buttons), Qt::LeftButton);
         return;
     }
-    if (m_window->windowHandle() && m_ticks > 4 * patientTicks) { // something is being dragged
+    if (m_window->windowHandle() && m_ticks == 4 * patientTicks) { // something is being dragged
         note(u"inner release"_s);
         QTest::mouseRelease(m_window->windowHandle(), Qt::LeftButton, {}, {1, 1});
     }
