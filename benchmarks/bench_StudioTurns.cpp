@@ -1,0 +1,203 @@
+// How long the studio's window keeps somebody waiting at most while photos come in: the longest single event that is
+// handled between asking for something and seeing it, beside what decoding one such photo takes. Two years with a photo
+// of 12 megapixels on each page in the print preview, and a month with entries whose photos have 24.
+
+#include "MvPrintFlow.h"
+#include "MvStudioWindow.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvImageLoader/MvImageLoader.h"
+#include "MvProject/MvProject.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPrintPreviewDialog>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize windowSize(1280, 800);
+constexpr QSize pagePhoto(4000, 3000);
+constexpr QSize entryPhoto(6000, 4000);
+constexpr int entryPhotoCount = 8;
+constexpr int pageCount = 24;
+constexpr qint64 calm = 1500; // milliseconds without a noticeable event: all has come in
+
+/// Notes the longest event, nested ones within theirs.
+class Application : public QApplication
+{
+public:
+    using QApplication::QApplication;
+    bool notify(QObject *receiver, QEvent *event) override
+    {
+        if (m_depth > 0)
+            return QApplication::notify(receiver, event);
+        QElapsedTimer clock;
+        clock.start();
+        ++m_depth;
+        const bool isDone = QApplication::notify(receiver, event);
+        --m_depth;
+        const double milliseconds = double(clock.nsecsElapsed()) / 1e6;
+        longest = std::max(longest, milliseconds);
+        if (milliseconds > 5.0)
+            sinceNoticeable.start();
+        return isDone;
+    }
+
+    void settle()
+    {
+        sinceNoticeable.start();
+        while (sinceNoticeable.elapsed() < calm)
+            processEvents(QEventLoop::AllEvents, 20);
+    }
+
+    double longest = 0.0;
+    QElapsedTimer sinceNoticeable;
+
+private:
+    int m_depth = 0;
+};
+
+Application *application = nullptr;
+
+QString photo(const QTemporaryDir &folder, const QString &name, const QSize &size)
+{
+    const QString path = folder.filePath(name);
+    QImage noise(size / 8, QImage::Format_RGB32); // as hard to decode as a photo is
+    QRandomGenerator random(1);
+    for (int y = 0; y < noise.height(); ++y)
+        random.fillRange(reinterpret_cast<quint32 *>(noise.scanLine(y)), noise.width());
+    noise.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).save(path, "JPEG", 90);
+    return path;
+}
+
+MvCalendarDocument calendar(int months)
+{
+    MvCalendariumAppearance look;
+    look.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_GRID_CLASSIC"_s));
+    look.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
+    look.adoptLayoutSuggestions();
+    MvCalendarDocument document;
+    document.setAppearance(look);
+    document.setRange({QDate(2027, 1, 1), QDate(2027, 1, 1).addMonths(months).addDays(-1)});
+    return document;
+}
+
+void copyPhoto(const QString &first, const QString &path)
+{
+    QFile::remove(path);
+    QFile::copy(first, path);
+}
+
+double decodingTime(const QString &path, const QSize &size)
+{
+    QElapsedTimer clock;
+    clock.start();
+    const QImage image = MvImageLoader::instance().loadUncached(QFileInfo(path), size);
+    return image.isNull() ? 0.0 : double(clock.nsecsElapsed()) / 1e6;
+}
+
+void report(benchmark::State &state, const QString &path, const QSize &size)
+{
+    const double decoding = decodingTime(path, size);
+    state.counters["longest_ms"] = application->longest;
+    state.counters["decoding_ms"] = decoding;
+    state.counters["ratio"] = application->longest / decoding;
+}
+
+void printPreview(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString first = photo(folder, u"0.jpg"_s, pagePhoto);
+    MvCalendarDocument document = calendar(pageCount);
+    for (int number = 0; number < document.pages().size(); ++number) {
+        const QString path = folder.filePath(u"%1.jpg"_s.arg(number));
+        if (number > 0)
+            copyPhoto(first, path);
+        MvCalendarPage page = document.pages().at(number);
+        page.setPhotoFrame(MvPhotoFrame(path));
+        document.setPage(number, page);
+    }
+    for (auto _ : state) {
+        MvProject project;
+        project.newProject(document);
+        MvStudioWindow window(&project);
+        window.resize(windowSize);
+        window.show();
+        state.PauseTiming();
+        application->settle();
+        application->longest = 0.0;
+        state.ResumeTiming();
+        QMetaObject::invokeMethod(window.findChild<MvPrintFlow *>(), &MvPrintFlow::showPreview, Qt::QueuedConnection);
+        application->settle();
+        if (!window.findChild<QPrintPreviewDialog *>())
+            state.SkipWithError("no preview");
+    }
+    report(state, first, pagePhoto);
+}
+BENCHMARK(printPreview)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+void entryPhotos(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString first = photo(folder, u"0.jpg"_s, entryPhoto);
+    QByteArray entries = "<CalendarEvents>";
+    for (int number = 0; number < entryPhotoCount; ++number) {
+        if (number > 0)
+            copyPhoto(first, folder.filePath(u"%1.jpg"_s.arg(number)));
+        entries += u"<CalendarEvent><Name>A%1</Name><DateTime>1990-01-%2T00:00:00</DateTime><Image>%1.jpg</Image>"
+                   "</CalendarEvent>"_s.arg(number)
+                       .arg(10 + number)
+                       .toUtf8();
+    }
+    QFile file(folder.filePath(u"entries.xml"_s));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(entries + "</CalendarEvents>");
+    file.close();
+    for (auto _ : state) {
+        MvProject project;
+        project.newProject(calendar(12));
+        MvStudioWindow window(&project);
+        window.resize(windowSize);
+        window.show();
+        state.PauseTiming();
+        application->settle();
+        application->longest = 0.0;
+        state.ResumeTiming();
+        QMetaObject::invokeMethod(
+            &MvCalendarEventRegistry::instance(),
+            [&file] {
+                MvCalendarEventRegistry::instance().setEvents(MvCalendarEventFile::read(QFileInfo(file)).events);
+            },
+            Qt::QueuedConnection);
+        application->settle();
+    }
+    report(state, first, entryPhoto);
+}
+BENCHMARK(entryPhotos)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QTemporaryDir home;
+    qputenv("HOME", home.path().toLocal8Bit());
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    Application studio(argc, argv);
+    application = &studio;
+    QApplication::setStyle(u"Fusion"_s);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
