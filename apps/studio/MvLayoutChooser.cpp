@@ -1,6 +1,7 @@
 #include "MvLayoutChooser.h"
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvFoto/MvFotoStock.h"
 #include "MvIdleImages.h"
 
 #include <QLabel>
@@ -31,6 +32,7 @@ MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     , m_list(new QListWidget(this))
     , m_description(new QLabel(this))
     , m_images(new MvIdleImages([this](int number) { return makePicture(number); }, this))
+    , m_entryPhotos(new MvFotoStock(this))
     , m_pictureSize(pictureSize)
 {
     m_list->setObjectName(u"layoutList"_s);
@@ -63,6 +65,7 @@ MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     column->addWidget(m_list, 1);
     column->addWidget(m_description);
 
+    connect(m_entryPhotos, &MvFotoStock::arrived, this, [this](int number) { m_images->invalidate(number); });
     connect(m_images, &MvIdleImages::imageReady, this, &MvLayoutChooser::showPicture);
     connect(m_list, &QListWidget::currentRowChanged, this, [this] {
         describeCurrent();
@@ -167,7 +170,10 @@ QImage MvLayoutChooser::makePicture(int number) const
     painter.translate(sheet.topLeft());
     painter.scale(sheet.width() / document.format().trimSize().width(),
                   sheet.height() / document.format().trimSize().height());
-    document.paint(painter, 0);
+    {
+        const MvFotoStock::Use use(*m_entryPhotos, number);
+        document.paint(painter, 0);
+    }
     painter.restore();
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(palette().color(QPalette::Mid));

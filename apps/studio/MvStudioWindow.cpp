@@ -237,6 +237,7 @@ void MvStudioWindow::connectActions()
     connect(m_flow, &MvProjectFlow::recentFilesChanged, this, &MvStudioWindow::fillRecentMenu);
     connect(m_flow, &MvProjectFlow::message, this, &MvStudioWindow::showMessage);
     connect(m_export, &MvExportFlow::message, this, &MvStudioWindow::showMessage);
+    connect(m_print, &MvPrintFlow::message, this, &MvStudioWindow::showMessage);
     connect(m_import, &MvBirthdayImport::message, this, &MvStudioWindow::showMessage);
     connect(m_canvas, &MvPageCanvas::message, this, &MvStudioWindow::showMessage);
     connect(&MvProactiveHelpController::instance(), &MvProactiveHelpController::adviceRequested, this,
