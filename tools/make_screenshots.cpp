@@ -267,7 +267,10 @@ void Screenshots::setPagePhoto(MvPhotoFrame::Placement placement)
 {
     edit([&](MvCalendarDocument &document) {
         MvCalendarPage page = document.pages().at(4);
-        page.setPhotoFrame(MvPhotoFrame(sample(u"bergsee.jpg"_s), placement));
+        MvPhotoFrame frame(sample(u"bergsee.jpg"_s), placement);
+        if (placement != MvPhotoFrame::Placement::Top)
+            frame.setShare(0.4);
+        page.setPhotoFrame(frame);
         document.setPage(4, page);
     });
 }
@@ -393,14 +396,13 @@ void Screenshots::unfitting()
     edit([](MvCalendarDocument &document) {
         MvCalendariumAppearance appearance = document.appearance();
         MvCalendariumFontSettings fonts = appearance.fontSettings();
-        fonts.setFontSizePercentageHolidays(80);
+        fonts.setFontSizePercentageHolidays(-20);
         appearance.setFontSettings(fonts);
         document.setAppearance(appearance);
     });
     QTest::qWait(longSettling);
-    auto *button = find<QAbstractButton>("unfittingButton");
-    if (button && button->isVisible())
-        QTest::mouseClick(button, Qt::LeftButton);
+    auto *menu = find<QMenu>("unfittingMenu");
+    menu->popup(window()->geometry().bottomLeft() - QPoint(-40, menu->sizeHint().height() + 40));
 }
 
 // ---- windows

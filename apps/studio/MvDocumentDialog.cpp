@@ -30,6 +30,7 @@ MvDocumentDialog::MvDocumentDialog(Parts parts, const MvCalendarDocument &docume
         row->addWidget(m_setup, 0, Qt::AlignTop);
     }
     QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    m_accept = buttons->button(QDialogButtonBox::Ok);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto *column = new QVBoxLayout(this);
@@ -37,6 +38,11 @@ MvDocumentDialog::MvDocumentDialog(Parts parts, const MvCalendarDocument &docume
     column->addWidget(buttons);
     if (m_layout)
         resize(m_setup ? QSize(1000, 620) : QSize(860, 620));
+}
+
+void MvDocumentDialog::setAcceptText(const QString &text)
+{
+    m_accept->setText(text);
 }
 
 MvCalendarDocument MvDocumentDialog::document() const

@@ -1,5 +1,7 @@
 #include "MvLayoutChooser.h"
 
+#include "MvPageThumbnail.h"
+
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvFoto/MvFotoStock.h"
 #include "MvIdleImages.h"
@@ -164,17 +166,12 @@ QImage MvLayoutChooser::makePicture(int number) const
     const QRectF sheet = sheetRect();
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
-    painter.fillRect(sheet, Qt::white);
-    painter.save();
-    painter.setClipRect(sheet);
-    painter.translate(sheet.topLeft());
-    painter.scale(sheet.width() / document.format().trimSize().width(),
-                  sheet.height() / document.format().trimSize().height());
-    {
+    if (!document.pages().isEmpty()) {
         const MvFotoStock::Use use(*m_entryPhotos, number);
-        document.paint(painter, 0);
+        painter.drawImage(sheet,
+                          MvPageThumbnail::make(document.pages().constFirst(), document.format(), document.range(),
+                                                sheet.size().toSize(), devicePixelRatioF(), nullptr));
     }
-    painter.restore();
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(sheet);

@@ -35,6 +35,7 @@ MvLayoutPanel::MvLayoutPanel(MvPageEdits *edits, QWidget *parent)
     tabs->addTab(m_layouts, tr("Layout"));
     tabs->addTab(createColorPage(), tr("Farben"));
     panelLayout()->addWidget(tabs, 1);
+    fitColorTable();
     connect(m_layouts, &MvLayoutChooser::layoutIdChanged, this, &MvLayoutPanel::onLayoutChosen);
     connect(m_schemata, &MvColorSchemaPicker::colorSchemaChosen, this, &MvLayoutPanel::onSchemaChosen);
     connect(m_colors, &MvCalendariumColorSchemaEditor::schemaChanged, this, &MvLayoutPanel::onColorsChanged);
@@ -62,7 +63,6 @@ void MvLayoutPanel::showPage()
     showLayout();
     m_schemata->setColorSchema(appearance.colorSchema());
     m_colors->setAppearance(appearance);
-    fitColorTable();
 }
 
 /// As high as its rows: what stands around it scrolls.
@@ -71,10 +71,18 @@ void MvLayoutPanel::fitColorTable()
     auto *table = m_colors->findChild<QTableView *>(u"tableView"_s);
     if (table == nullptr)
         return;
-    int height = table->horizontalHeader()->sizeHint().height() + 2 * table->frameWidth();
-    for (int row = 0; row < table->model()->rowCount(); ++row)
-        height += table->rowHeight(row);
-    table->setFixedHeight(height);
+    table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QHeaderView *rows = table->verticalHeader();
+    const auto fit = [table, rows] {
+        const int around = table->horizontalHeader()->sizeHint().height() + 2 * table->frameWidth();
+        table->setFixedHeight(rows->length() + around);
+    };
+    for (const QHeaderView *header : {rows, table->horizontalHeader()}) { // which know their size late
+        connect(header, &QHeaderView::sectionResized, table, fit, Qt::QueuedConnection);
+        connect(header, &QHeaderView::sectionCountChanged, table, fit, Qt::QueuedConnection);
+        connect(header, &QHeaderView::geometriesChanged, table, fit, Qt::QueuedConnection);
+    }
+    fit();
 }
 
 /// The pictures are made again only when they would look different.

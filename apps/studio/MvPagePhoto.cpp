@@ -17,6 +17,17 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Beside a photo, the columns of a month need room for the names of holidays.
+double usualShare(MvPhotoFrame::Placement placement)
+{
+    constexpr double besideShare = 0.4;
+    return placement == MvPhotoFrame::Placement::Top ? MvPhotoFrame::defaultShare : besideShare;
+}
+
+} // namespace
+
 MvPagePhoto::MvPagePhoto(MvProject *project, MvPageItem *item, QWidget *parent)
     : QObject(parent)
     , m_project(project)
@@ -36,12 +47,11 @@ QString MvPagePhoto::photoIn(const QMimeData *data)
 
 MvPhotoFrame MvPagePhoto::frameFor(const QString &path, const MvPageFormat &format)
 {
-    constexpr double besideShare = 0.4;
     MvPhotoFrame frame(path);
     const QSize photo = MvImageLoader::instance().size(QFileInfo(path));
     if (format.orientation() == MvPageFormat::Orientation::Landscape && photo.height() > photo.width()) {
         frame.setPlacement(MvPhotoFrame::Placement::Left);
-        frame.setShare(besideShare);
+        frame.setShare(usualShare(frame.placement()));
     }
     return frame;
 }
@@ -125,7 +135,11 @@ void MvPagePhoto::addPlacements(QMenu *menu)
         action->setChecked(placement == current);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, placement] {
-            change(tr("Platz des Fotos ändern"), [placement](MvPhotoFrame &frame) { frame.setPlacement(placement); });
+            change(tr("Platz des Fotos ändern"), [placement](MvPhotoFrame &frame) {
+                if (frame.share() == usualShare(frame.placement())) // one that nobody has changed
+                    frame.setShare(usualShare(placement));
+                frame.setPlacement(placement);
+            });
         });
     };
     add(Placement::Top, tr("&Oben"), u"photoTop"_s);

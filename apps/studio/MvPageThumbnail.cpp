@@ -10,6 +10,9 @@ namespace {
 
 const QColor placeholderColor(0xe4, 0xe6, 0xe9);
 
+/// So small, lines and letters cover only a part of their pixels: drawn again, they are as dark as they should be.
+constexpr int passes = 2;
+
 void paintPhoto(QPainter &painter, const MvPhotoFrame &frame, const QRectF &rect, MvScreenPhotos *photos)
 {
     if (rect.isEmpty())
@@ -40,7 +43,9 @@ QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &for
     painter.scale(scaleX, scaleY);
     page.paintGround(painter, format);
     paintPhoto(painter, page.photoFrame(), page.photoFrame().rect(format), photos);
-    page.record(format, range, {}, rule, scaleX).replay(painter);
+    const MvPaintRecording calendarium = page.record(format, range, {}, rule, scaleX);
+    for (int pass = 0; pass < passes; ++pass)
+        calendarium.replay(painter);
     painter.end();
     image.setDevicePixelRatio(ratio);
     return image;

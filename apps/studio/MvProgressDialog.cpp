@@ -20,6 +20,7 @@ MvProgressDialog::MvProgressDialog(const QString &title, const QString &text, QW
     m_bar->setObjectName(u"progressBar"_s);
     m_bar->setAccessibleName(title);
     m_bar->setRange(0, 0);
+    m_bar->setFormat(tr("%p %"));
     m_text->setTextFormat(Qt::PlainText);
     QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Cancel, this);
     m_cancel = buttons->button(QDialogButtonBox::Cancel);

@@ -96,6 +96,7 @@ void MvProjectFlow::startNew()
         auto *dialog = new MvDocumentDialog(MvDocumentDialog::Layout | MvDocumentDialog::Setup, start, m_window);
         dialog->setObjectName(u"newProjectDialog"_s);
         dialog->setWindowTitle(tr("Neuer Kalender"));
+        dialog->setAcceptText(tr("Kalender anlegen"));
         connect(dialog, &QDialog::accepted, this, [this, dialog] {
             MvCalendarDocument document = dialog->document();
             document.setTitle(titleOf(document.range()));

@@ -31,6 +31,7 @@ public:
 
     MvStudioWindow *window() const { return m_window.get(); }
     MvProject *project() const { return m_project.get(); }
+    MvProjectAutosave *autosave() const { return m_autosave.get(); }
 
 private:
     void applyTheme();

@@ -18,7 +18,9 @@ QWidget *createEntriesPanel(QWidget *parent)
 {
     auto *panel = new QWidget(parent);
     panel->setObjectName(u"entriesPanel"_s);
-    (new QVBoxLayout(panel))->addWidget(new MvCalendarEventListWidget(panel));
+    auto *list = new MvCalendarEventListWidget(panel);
+    list->layout()->setContentsMargins({}); // the panel has some
+    (new QVBoxLayout(panel))->addWidget(list);
     return panel;
 }
 

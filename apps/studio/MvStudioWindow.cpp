@@ -3,10 +3,12 @@
 #include "MvBirthdayImport.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvProactiveHelpController.h"
+#include "MvDockTitles.h"
 #include "MvDocumentDialog.h"
 #include "MvExportFlow.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvHelpDialogs.h"
+#include "MvLeapDayHint.h"
 #include "MvPageCanvas.h"
 #include "MvPageStrip.h"
 #include "MvPrintFlow.h"
@@ -113,12 +115,15 @@ void MvStudioWindow::createDocks()
 void MvStudioWindow::addPanels()
 {
     m_panels = new MvStudioPanels(m_project, this);
+    auto *titles = new MvDockTitles(this);
     QDockWidget *first = nullptr;
     for (const MvStudioPanel &panel : m_panels->panels()) {
         auto *dock = new QDockWidget(panel.title, this);
         dock->setObjectName(panel.objectName + u"Dock"_s);
         dock->setWidget(panel.widget);
+        titles->add(dock);
         dock->toggleViewAction()->setIcon(MvIconRegistry::instance().icon(panel.iconName));
+        dock->toggleViewAction()->setIconVisibleInMenu(false); // the tick can be seen
         addDockWidget(Qt::RightDockWidgetArea, dock);
         m_viewMenu->addAction(dock->toggleViewAction());
         if (first)
@@ -177,6 +182,7 @@ void MvStudioWindow::createToolBar()
 {
     QToolBar *bar = addToolBar(tr("Werkzeuge"));
     bar->setObjectName(u"toolBar"_s);
+    bar->setMovable(false);
     const auto add = [&](std::initializer_list<MvStudioActions::Id> ids) {
         for (const MvStudioActions::Id id : ids)
             bar->addAction(m_actions->action(id));
@@ -238,6 +244,7 @@ void MvStudioWindow::connectActions()
     connect(m_flow, &MvProjectFlow::message, this, &MvStudioWindow::showMessage);
     connect(m_export, &MvExportFlow::message, this, &MvStudioWindow::showMessage);
     connect(m_print, &MvPrintFlow::message, this, &MvStudioWindow::showMessage);
+    connect(new MvLeapDayHint(m_project, this), &MvLeapDayHint::message, this, &MvStudioWindow::showMessage);
     connect(m_import, &MvBirthdayImport::message, this, &MvStudioWindow::showMessage);
     connect(m_canvas, &MvPageCanvas::message, this, &MvStudioWindow::showMessage);
     connect(&MvProactiveHelpController::instance(), &MvProactiveHelpController::adviceRequested, this,
@@ -354,6 +361,7 @@ void MvStudioWindow::chooseLayout()
     auto *dialog = new MvDocumentDialog(MvDocumentDialog::Layout, m_project->document(), this);
     dialog->setObjectName(u"layoutDialog"_s);
     dialog->setWindowTitle(tr("Layout für alle Seiten wählen"));
+    dialog->setAcceptText(tr("Layout übernehmen"));
     connect(dialog, &QDialog::accepted, this,
             [this, dialog] { m_project->change(dialog->document(), tr("Layout wählen")); });
     dialog->open();
@@ -364,6 +372,7 @@ void MvStudioWindow::changePageSetup()
     auto *dialog = new MvDocumentDialog(MvDocumentDialog::Setup, m_project->document(), this);
     dialog->setObjectName(u"pageSetupDialog"_s);
     dialog->setWindowTitle(tr("Papier und Zeitraum"));
+    dialog->setAcceptText(tr("Übernehmen"));
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         MvCalendarDocument document = dialog->document();
         if (document.title() == MvProjectFlow::titleOf(m_project->document().range()))

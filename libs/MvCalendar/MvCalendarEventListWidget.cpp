@@ -85,7 +85,7 @@ MvTableView *MvCalendarEventListWidget::createEventTableView(QWidget *parent)
     view->setModel(createEventModel());
     view->setSortingEnabled(false);
     view->setTextElideMode(Qt::ElideRight);
-    view->setWordWrap(false);
+    view->setWordWrap(true); // rows have room for two lines
     view->setListMode({Model::FotoColumn, Model::EventColumn});
     view->setEmptyText(tr("Noch keine Einträge. Fügen Sie Geburtstage, Jahrestage und andere Termine hinzu, und sie "
                           "erscheinen in Ihrem Kalender."));
@@ -119,7 +119,7 @@ QFrame *MvCalendarEventListWidget::createHorizontalLine(QWidget *parent)
     auto *line = new QFrame(parent);
     line->setFrameShape(QFrame::HLine);
     line->setFrameShadow(QFrame::Plain);
-    line->setForegroundRole(QPalette::Mid);
+    line->setForegroundRole(QPalette::Midlight);
     return line;
 }
 

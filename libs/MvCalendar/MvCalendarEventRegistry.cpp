@@ -47,6 +47,15 @@ MvCalendarEventList validOnly(const MvCalendarEventList &events)
     return valid;
 }
 
+/// Of entries that are equal, the very one is meant, where it is there: after undo and redo all are who they were.
+qsizetype positionOf(const MvCalendarEvent &event, const MvCalendarEventList &events)
+{
+    for (qsizetype i = 0; i < events.size(); ++i)
+        if (events.at(i).uuid() == event.uuid() && events.at(i) == event)
+            return i;
+    return events.indexOf(event);
+}
+
 MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPath)
 {
     MvFoto foto;
@@ -207,7 +216,7 @@ bool MvCalendarEventRegistry::changeEvent(const MvCalendarEvent &before, const M
         return false;
     const MvCalendarEventList present = eventsOfCurrentProject();
     MvCalendarEventList changed = present;
-    const qsizetype position = before.isValid() ? changed.indexOf(before) : -1;
+    const qsizetype position = before.isValid() ? positionOf(before, changed) : -1;
     if (position >= 0 && after.isValid())
         changed[position] = after;
     else if (position >= 0)

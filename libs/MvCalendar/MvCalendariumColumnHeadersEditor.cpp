@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostColumns = 20;
+constexpr int listWidth = 200;
 
 } // namespace
 
@@ -35,6 +36,7 @@ QSpinBox *MvCalendariumColumnHeadersEditor::createCountColumnsBox()
     box->setAccessibleName(tr("Anzahl der Spalten"));
     box->setRange(1, mostColumns);
     box->setSuffix(tr(" Spalten"));
+    box->setFixedWidth(listWidth);
     box->installEventFilter(new MvMouseWheelEventFilter(box));
     connect(box, &QSpinBox::valueChanged, this, &MvCalendariumColumnHeadersEditor::countColumnsChanged);
     return box;
@@ -48,7 +50,7 @@ QListView *MvCalendariumColumnHeadersEditor::createColumnHeadersEdit()
     list->setProperty("cssstyle", u"defaultListView"_s);
     list->setAlternatingRowColors(true);
     list->setEditTriggers(QAbstractItemView::AllEditTriggers);
-    list->setFixedWidth(200);
+    list->setFixedWidth(listWidth);
     list->setModel(m_model);
     connect(m_model, &QStringListModel::dataChanged, this, &MvCalendariumColumnHeadersEditor::headersEdited);
     return list;

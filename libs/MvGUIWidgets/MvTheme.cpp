@@ -1,6 +1,7 @@
 #include "MvGUIWidgets/MvTheme.h"
 
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvGUIWidgets/MvStyle.h"
 
 #include <QApplication>
 #include <QFile>
@@ -30,7 +31,7 @@ constexpr Colours lightColours{
     .disabledText = 0x84878a,
     .light = 0xffffff,
     .midlight = 0xe0ddd8,
-    .mid = 0xb4b0aa,
+    .mid = 0x84807a,
     .dark = 0x8a8680,
     .shadow = 0x4a4744,
     .highlight = 0x1f6a94,
@@ -52,7 +53,7 @@ constexpr Colours darkColours{
     .disabledText = 0x8b9094,
     .light = 0x4c5156,
     .midlight = 0x41464a,
-    .mid = 0x656b71,
+    .mid = 0x868d94,
     .dark = 0x17191b,
     .shadow = 0x0b0c0d,
     .highlight = 0x5aa9d6,
@@ -143,7 +144,7 @@ bool MvTheme::isSystemDark()
 void MvTheme::apply(Scheme scheme)
 {
     const bool wantsDark = isSystemDark() ? scheme != Scheme::Light : scheme == Scheme::Dark;
-    QApplication::setStyle(u"Fusion"_s);
+    QApplication::setStyle(new MvStyle);
     QApplication::setPalette(wantsDark ? darkPalette() : lightPalette());
     qApp->setStyleSheet(styleSheet()); // last and each time: it takes its colours from the palette when it is set
 }

@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr double air = 0.86; // numbers side by side do not touch: what fits, fits into so much of the width
 constexpr int mostSteps = 3; // an A4 page with the fonts of A7; below that they are as small as they may be
 
 std::unique_ptr<MvCalendariumRenderer> makeRenderer(const MvCalendariumAppearance &appearance,
@@ -91,7 +92,7 @@ bool MvCalendariumFit::hasRoom(const QSizeF &room) const
             return false;
         MvPaintRecorder recorder(nullptr);
         QPainter painter(&recorder);
-        renderer->render(painter, {QPointF(), room});
+        renderer->render(painter, {QPointF(), QSizeF(air * room.width(), room.height())});
         if (!renderer->unfittingTexts().isEmpty())
             return false;
     }

@@ -166,10 +166,6 @@
         <translation>My appointment / event</translation>
     </message>
     <message>
-        <source>Datum</source>
-        <translation>Date</translation>
-    </message>
-    <message>
         <source>Beschreibung</source>
         <translation>Description</translation>
     </message>
@@ -1676,6 +1672,10 @@ The context menu replaces the photo by another one.</translation>
         <source>Wird abgebrochen …</source>
         <translation>Cancelling …</translation>
     </message>
+    <message>
+        <source>%p %</source>
+        <translation>%p%</translation>
+    </message>
 </context>
 <context>
     <name>MvProject</name>
@@ -1782,6 +1782,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>%1 gespeichert</source>
         <translation>%1 saved</translation>
+    </message>
+    <message>
+        <source>Kalender anlegen</source>
+        <translation>Create Calendar</translation>
     </message>
 </context>
 <context>
@@ -2608,6 +2612,14 @@ Designs photo calendars and prints them.
     <message>
         <source>Die andere Sprache gilt ab dem nächsten Start.</source>
         <translation>The other language applies from the next start.</translation>
+    </message>
+    <message>
+        <source>Layout übernehmen</source>
+        <translation>Use Layout</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Apply</translation>
     </message>
 </context>
 <context>

@@ -69,6 +69,7 @@ private Q_SLOTS:
     void fileForm();
     void changesOneEntry_data();
     void changesOneEntry();
+    void changesTheVeryEntry();
     void loads_data();
     void loads();
     void loadsWithMergeFlag();
@@ -209,6 +210,19 @@ void tst_MvCalendarEventRegistry::changesOneEntry()
         if (event == newEntry && changes)
             QCOMPARE(event.uuid(), newEntry.uuid());
     }
+}
+
+/// Entries may be equal, as after adding a file twice; only their uuid tells them apart.
+void tst_MvCalendarEventRegistry::changesTheVeryEntry()
+{
+    const QDate day(2000, 1, 1);
+    const MvCalendarEvent first = entry(u"A"_qs, day);
+    const MvCalendarEvent second = entry(u"A"_qs, day);
+    MvCalendarEventRegistry registry;
+    registry.setEvents({first, second});
+    QVERIFY(registry.changeEvent(second, MvCalendarEvent()));
+    QCOMPARE(registry.activeEventList().size(), 1);
+    QCOMPARE(registry.activeEventList().first().uuid(), first.uuid());
 }
 
 void tst_MvCalendarEventRegistry::loads_data()

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QPointer>
 #include <QRandomGenerator>
@@ -88,5 +87,6 @@ private:
     const QString m_folder;
     QPointer<QWidget> m_lastModal;
     int m_modalAge = 0;
-    int m_ticks = 0; // of the watch since the last action began
+    int m_ticks = 0;          // of the watch since the last action began
+    bool m_isResting = false; // nothing is begun, whatever time it takes
 };

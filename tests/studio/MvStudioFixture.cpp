@@ -118,7 +118,7 @@ MvPageCanvas *MvStudioFixture::canvas() const
 
 MvPageItem *MvStudioFixture::page() const
 {
-    QCoreApplication::processEvents();
+    QTest::qWait(1); // the page is recorded on the next turn of the event loop
     return canvas()->pageItem();
 }
 
@@ -326,12 +326,10 @@ bool MvStudioFixture::hasPhoto(const QDate &date) const
 
 QColor MvStudioFixture::cellColor(const QDate &date) const
 {
-    const QRectF rect = rectOf(date);
+    const QPointF center = rectOf(date).center();
     QColor color;
-    for (const MvPaintRecording::Item &item : page()->recording().items()) {
-        const bool isCell = item.fill.isValid() && item.bounds.contains(rect.center()) &&
-                            qAbs(item.bounds.width() - rect.width()) < rect.width() / 10;
-        if (isCell && item.kind != MvPaintRecording::Item::Text)
+    for (const MvPaintRecording::Item &item : page()->recording().items()) { // cells of one colour are one path
+        if (item.fill.isValid() && item.kind != MvPaintRecording::Item::Text && item.shape.contains(center))
             color = item.fill;
     }
     return color;

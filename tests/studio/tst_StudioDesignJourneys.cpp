@@ -1,0 +1,376 @@
+#include "MvStudioFixture.h"
+
+#include "MvPageItem.h"
+
+#include "MvGUIWidgets/MvColorPalettePopup.h"
+#include "MvProject/MvProject.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QDate sunday(2027, 1, 10);
+const QDate tuesday(2027, 1, 12); // of an even week
+const QDate weekLater(2027, 1, 19);
+const QDate newYear(2027, 1, 1); // a Friday
+
+int rowOf(const QTableView *table, const QString &begin)
+{
+    for (int row = 0; row < table->model()->rowCount(); ++row) {
+        if (table->model()->index(row, 0).data().toString().startsWith(begin))
+            return row;
+    }
+    return -1;
+}
+
+} // namespace
+
+/// What the pages show and how they look: changed in the panels, seen on the page, taken back.
+class tst_StudioDesignJourneys : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void holidaysOfACountry_data();
+    void holidaysOfACountry();
+    void coloursByKeyboard();
+    void alternateWeeks();
+    void grid();
+    void columnHeaders();
+    void fonts();
+    void layouts_data();
+    void layouts();
+    void paper();
+    void pagePhoto();
+    void onlyThisPage();
+
+private:
+    static bool showColors(const MvStudioFixture &studio);
+};
+
+bool tst_StudioDesignJourneys::showColors(const MvStudioFixture &studio)
+{
+    if (!studio.raiseDock("layoutPanelDock"))
+        return false;
+    const auto *tabs = studio.find<QTabWidget>("layoutTabs");
+    QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
+    return studio.find("tableView") != nullptr;
+}
+
+void tst_StudioDesignJourneys::holidaysOfACountry_data()
+{
+    QTest::addColumn<QString>("country");
+    QTest::addColumn<QString>("region");
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<QString>("holiday");
+    QTest::addColumn<bool>("isHoliday");
+    const QDate epiphany(2027, 1, 6);
+    const QString kings = u"Heilige Drei Könige"_s;
+    QTest::newRow("Bavaria has Epiphany") << u"Deutschland"_s << u"Bayern"_s << epiphany << kings << true;
+    QTest::newRow("Rhineland has not") << u"Deutschland"_s << u"Nordrhein"_s << epiphany << kings << false;
+    QTest::newRow("Austria has") << u"Österreich"_s << u"Wien"_s << epiphany << kings << true;
+    QTest::newRow("its national day") << u"Österreich"_s << u"Tirol"_s << QDate(2027, 10, 26) << u"Nationalfeiertag"_s
+                                      << true;
+    QTest::newRow("Berlin's own") << u"Deutschland"_s << u"Berlin"_s << QDate(2027, 3, 8) << u"Frauentag"_s << true;
+    QTest::newRow("Saxony's own") << u"Deutschland"_s << u"Sachsen"_s << QDate(2027, 11, 17) << u"Bettag"_s << true;
+    QTest::newRow("not in Saxony-Anhalt")
+        << u"Deutschland"_s << u"Sachsen-Anhalt"_s << QDate(2027, 11, 17) << u"Bettag"_s << false;
+}
+
+void tst_StudioDesignJourneys::holidaysOfACountry()
+{
+    QFETCH(QString, country);
+    QFETCH(QString, region);
+    QFETCH(QDate, date);
+    QFETCH(QString, holiday);
+    QFETCH(bool, isHoliday);
+    MvStudioFixture studio;
+    studio.window()->setCurrentPage(date.month() - 1);
+    QVERIFY(studio.raiseDock("contentPanelDock"));
+    if (!studio.find<QCheckBox>("publicHolidaysOnly")->isChecked())
+        QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
+    const MvCalendarDocument before = studio.document();
+    const QString regionBefore = studio.find<QComboBox>("provinceBox")->currentText();
+    const int steps = studio.steps();
+    QVERIFY(studio.choose("languageBox", country));
+    QVERIFY(studio.choose("provinceBox", region));
+    QCOMPARE(studio.datesWith(holiday), isHoliday ? QList<QDate>{date} : QList<QDate>());
+    while (studio.steps() > steps)
+        studio.undo();
+    QVERIFY(studio.document() == before);
+    QCOMPARE(studio.find<QComboBox>("provinceBox")->currentText(), regionBefore);
+}
+
+void tst_StudioDesignJourneys::coloursByKeyboard()
+{
+    MvStudioFixture studio;
+    QVERIFY(showColors(studio));
+    auto *table = studio.find<QTableView>("tableView");
+    const QColor before = studio.cellColor(sunday);
+    const QColor holidayBefore = studio.cellColor(newYear);
+    QVERIFY(studio.press("tableView", Qt::Key_Home, Qt::ControlModifier));
+    for (int row = 0; row < rowOf(table, u"Sonntag"_s); ++row)
+        QTest::keyClick(table, Qt::Key_Down);
+    QTest::keyClick(table, Qt::Key_Right);
+    QTest::keyClick(table, Qt::Key_Space);
+    auto *palette = qobject_cast<MvColorPalettePopup *>(QApplication::activePopupWidget());
+    QVERIFY(palette);
+    for (int step = 0; step < 4; ++step)
+        QTest::keyClick(palette->focusWidget(), Qt::Key_Down);
+    QTest::keyClick(palette->focusWidget(), Qt::Key_Right);
+    QTest::keyClick(palette->focusWidget(), Qt::Key_Return);
+    const QColor after = studio.cellColor(sunday);
+    QVERIFY(after.isValid());
+    QVERIFY(after != before);
+    QCOMPARE(studio.cellColor(tuesday) == after, false);
+
+    auto *coupled = studio.find<QCheckBox>("holidaysLikeSundaysBox");
+    const bool wasCoupled = coupled->isChecked();
+    QCOMPARE(studio.cellColor(newYear), wasCoupled ? after : holidayBefore);
+    QVERIFY(studio.press("holidaysLikeSundaysBox", Qt::Key_Space));
+    QCOMPARE(coupled->isChecked(), !wasCoupled);
+    QCOMPARE(studio.cellColor(newYear) == after, !wasCoupled);
+
+    studio.undo();
+    QCOMPARE(coupled->isChecked(), wasCoupled);
+    studio.undo();
+    QCOMPARE(studio.cellColor(sunday), before);
+    QCOMPARE(studio.cellColor(newYear), holidayBefore);
+    QCOMPARE(table->model()->index(rowOf(table, u"Sonntag"_s), 1).data(Qt::EditRole).value<QColor>() == after, false);
+    studio.redo();
+    QCOMPARE(studio.cellColor(sunday), after);
+}
+
+void tst_StudioDesignJourneys::alternateWeeks()
+{
+    MvStudioFixture studio;
+    QVERIFY(showColors(studio));
+    QCOMPARE(studio.cellColor(tuesday), studio.cellColor(weekLater));
+    const int rows = studio.find<QTableView>("tableView")->model()->rowCount();
+    QVERIFY(studio.press("parityBox", Qt::Key_Space));
+    QVERIFY(studio.cellColor(tuesday) != studio.cellColor(weekLater));
+    QVERIFY(studio.find<QTableView>("tableView")->model()->rowCount() > rows);
+    studio.undo();
+    QCOMPARE(studio.cellColor(tuesday), studio.cellColor(weekLater));
+    QVERIFY(!studio.find<QCheckBox>("parityBox")->isChecked());
+    QCOMPARE(studio.find<QTableView>("tableView")->model()->rowCount(), rows);
+}
+
+void tst_StudioDesignJourneys::grid()
+{
+    MvStudioFixture studio;
+    QVERIFY(showColors(studio));
+    auto *box = studio.find<QCheckBox>("showGridBox");
+    QVERIFY(box->isChecked());
+    const QSet<QRgb> lines = studio.lineColors();
+    QVERIFY(!lines.isEmpty());
+    QVERIFY(studio.press("showGridBox", Qt::Key_Space));
+    QCOMPARE(studio.lineColors(), QSet<QRgb>());
+    QVERIFY(!studio.find("gridColorButton")->isEnabled());
+    studio.undo();
+    QCOMPARE(studio.lineColors(), lines);
+    QVERIFY(box->isChecked());
+
+    QVERIFY(studio.press("gridColorButton", Qt::Key_Return));
+    auto *palette = qobject_cast<MvColorPalettePopup *>(QApplication::activePopupWidget());
+    QVERIFY(palette);
+    for (int step = 0; step < 3; ++step)
+        QTest::keyClick(palette->focusWidget(), Qt::Key_Down);
+    QTest::keyClick(palette->focusWidget(), Qt::Key_Return);
+    QVERIFY(studio.lineColors() != lines);
+    QVERIFY(!studio.lineColors().isEmpty());
+    studio.undo();
+    QCOMPARE(studio.lineColors(), lines);
+}
+
+void tst_StudioDesignJourneys::columnHeaders()
+{
+    MvStudioFixture studio;
+    QVERIFY(studio.raiseDock("columnHeadersPanelDock"));
+    QVERIFY(studio.click(studio.window(), "chooseColumnsLayout")); // the layout of the start has none
+    QVERIFY(studio.texts().contains(u"Mama"_s));
+    const int columns = studio.find<QSpinBox>("countColumnsBox")->value();
+    QVERIFY(studio.press("countColumnsBox", Qt::Key_Up));
+    QCOMPARE(studio.find<QSpinBox>("countColumnsBox")->value(), columns + 1);
+
+    auto *list = studio.find<QListView>("columnHeadersList");
+    list->setFocus(Qt::TabFocusReason);
+    list->setCurrentIndex(list->model()->index(columns, 0));
+    QTest::keyClick(list, Qt::Key_F2);
+    auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    QVERIFY(editor);
+    QTest::keyClicks(editor, u"Dackel"_s);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QVERIFY(studio.texts().contains(u"Dackel"_s));
+    studio.undo(); // with the column that was added a moment before
+    QVERIFY(!studio.texts().contains(u"Dackel"_s));
+    QCOMPARE(studio.find<QSpinBox>("countColumnsBox")->value(), columns);
+    QVERIFY(studio.press("countColumnsBox", Qt::Key_Down));
+    QVERIFY(!studio.texts().contains(u"Kind2"_s));
+    QVERIFY(studio.texts().contains(u"Kind1"_s));
+    studio.undo();
+    QVERIFY(studio.texts().contains(u"Kind2"_s));
+    QCOMPARE(list->model()->rowCount(), columns);
+}
+
+void tst_StudioDesignJourneys::fonts()
+{
+    MvStudioFixture studio;
+    QVERIFY(studio.raiseDock("fontPanelDock"));
+    const auto fontOf = [&studio](const QDate &date, const QString &text) {
+        const QRectF rect = studio.page()->dateRect(date);
+        for (const MvPaintRecording::Item &item : studio.items(MvPaintRecording::Item::Text)) {
+            if (rect.contains(item.bounds.center()) && item.text.startsWith(text))
+                return item.font;
+        }
+        return QFont();
+    };
+    const auto sizeOf = [](const QFont &font) { return qMax(double(font.pixelSize()), font.pointSizeF()); };
+    const QFont number = fontOf(newYear, u"1"_s);
+    const QFont holiday = fontOf(newYear, u"Neu"_s);
+    QVERIFY(sizeOf(number) > sizeOf(holiday));
+
+    QVERIFY(studio.press("fontSizeBox", Qt::Key_Down));
+    QVERIFY(sizeOf(fontOf(newYear, u"1"_s)) < sizeOf(number));
+    studio.undo();
+    QCOMPARE(fontOf(newYear, u"1"_s), number);
+    QVERIFY(studio.press("holidayFontSizeBox", Qt::Key_Down));
+    QVERIFY(sizeOf(fontOf(newYear, u"Neu"_s)) < sizeOf(holiday));
+    QCOMPARE(fontOf(newYear, u"1"_s), number);
+    studio.undo();
+
+    QVERIFY(studio.choose("fontFamilyBox", u"EB Garamond"_s));
+    for (const auto &item : studio.items(MvPaintRecording::Item::Text))
+        qInfo() << item.text << item.font.families();
+    QCOMPARE(fontOf(newYear, u"1"_s).family(), u"EB Garamond"_s);
+    QVERIFY(studio.click(studio.window(), "resetFont"));
+    QCOMPARE(fontOf(newYear, u"1"_s).family(), number.family());
+    studio.undo();
+    QCOMPARE(fontOf(newYear, u"1"_s).family(), u"EB Garamond"_s);
+    QVERIFY(studio.find<QComboBox>("fontFamilyBox")->currentText().startsWith(u"EB Garamond"_s));
+}
+
+void tst_StudioDesignJourneys::layouts_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<int>("days");
+    QTest::newRow("strip") << u"Streifenkalender"_s << 12 << 31;
+    QTest::newRow("two weeks") << u"Zwei Wochen je Zeile"_s << 12 << 31;
+    QTest::newRow("list") << u"Tagesliste"_s << 12 << 31;
+    QTest::newRow("year overview") << u"Jahresübersicht"_s << 1 << 365;
+    QTest::newRow("year planner") << u"Jahresplaner"_s << 1 << 365;
+}
+
+/// The day's text stays where the day goes.
+void tst_StudioDesignJourneys::layouts()
+{
+    QFETCH(QString, name);
+    QFETCH(int, pages);
+    QFETCH(int, days);
+    MvStudioFixture studio;
+    studio.window()->setCurrentPage(pages == 1 ? 5 : 0);
+    QVERIFY(studio.raiseDock("layoutPanelDock"));
+    auto *list = studio.find<QListWidget>("layoutList");
+    QListWidgetItem *item = list->findItems(name, Qt::MatchExactly).value(0);
+    QVERIFY(item);
+    list->scrollToItem(item);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(item).center());
+    QCOMPARE(studio.document().pages().size(), pages);
+    QCOMPARE(studio.window()->currentPage(), 0);
+    const auto isOfThePage = [](const QDate &date) { return date.year() == 2027; };
+    const QList<QDate> dates = studio.page()->dates();
+    QVERIFY(std::count_if(dates.begin(), dates.end(), isOfThePage) >= days);
+    studio.undo();
+    QCOMPARE(studio.document().pages().size(), 12);
+    QCOMPARE(list->currentItem()->text(), u"Monatsraster klassisch"_s);
+    studio.redo();
+    QCOMPARE(studio.document().pages().size(), pages);
+    QCOMPARE(list->currentItem()->text(), name);
+}
+
+void tst_StudioDesignJourneys::paper()
+{
+    MvStudioFixture studio;
+    QVERIFY(studio.raiseDock("contentPanelDock"));
+    QCOMPARE(studio.page()->pageRect().size(), QSizeF(2970, 2100));
+    QVERIFY(studio.choose("orientation", u"Hochformat"_s));
+    QCOMPARE(studio.page()->pageRect().size(), QSizeF(2100, 2970));
+    QVERIFY(studio.choose("paper", u"A3"_s));
+    QCOMPARE(studio.page()->pageRect().size(), QSizeF(2970, 4200));
+    QVERIFY(studio.press("monthCount", Qt::Key_Up));
+    QCOMPARE(studio.document().pages().size(), 13);
+    QVERIFY(studio.trigger("lastPage"));
+    QCOMPARE(studio.page()->dates().contains(QDate(2028, 1, 1)), true);
+    studio.undo();
+    QCOMPARE(studio.document().pages().size(), 12);
+    QCOMPARE(studio.window()->currentPage(), 11);
+    while (studio.steps() > 0)
+        studio.undo();
+    QCOMPARE(studio.page()->pageRect().size(), QSizeF(2970, 2100));
+    QCOMPARE(studio.find<QComboBox>("orientation")->currentText(), u"Querformat"_s);
+}
+
+void tst_StudioDesignJourneys::pagePhoto()
+{
+    MvStudioFixture studio;
+    const QString photo = studio.writePhoto(u"foto.png"_s, Qt::green);
+    const QRectF dayBefore = studio.page()->dateRect(newYear);
+    QVERIFY(studio.dropOnDate(newYear, photo, Qt::ShiftModifier)); // the page is meant, not the day
+    const auto frame = [&studio] { return studio.document().pages().at(0).photoFrame(); };
+    QCOMPARE(frame().path(), photo);
+    QVERIFY(studio.page()->dateRect(newYear).height() < dayBefore.height()); // makes room
+
+    studio.activate();
+    const QPoint onPhoto =
+        QPoint(studio.window()->findChild<QGraphicsView *>(u"pageCanvas"_s)->viewport()->width() / 2, 60);
+    auto *viewport = studio.window()->findChild<QGraphicsView *>(u"pageCanvas"_s)->viewport();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, onPhoto, viewport->mapToGlobal(onPhoto));
+    QApplication::sendEvent(viewport, &event);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    QVERIFY(menu);
+    QAction *right = menu->findChild<QAction *>(u"photoRight"_s);
+    QVERIFY(right);
+    right->trigger();
+    menu->close();
+    QCOMPARE(frame().placement(), MvPhotoFrame::Placement::Right);
+    QVERIFY(studio.page()->photoRect().left() > studio.page()->dateRect(newYear).right());
+    QVERIFY(studio.trigger("removePhoto"));
+    QVERIFY(!frame().isValid());
+    QCOMPARE(studio.page()->dateRect(newYear), dayBefore);
+    studio.undo();
+    QCOMPARE(frame().placement(), MvPhotoFrame::Placement::Right);
+    studio.undo();
+    QCOMPARE(frame().placement(), MvPhotoFrame::Placement::Top);
+    studio.undo();
+    QVERIFY(!frame().isValid());
+}
+
+void tst_StudioDesignJourneys::onlyThisPage()
+{
+    MvStudioFixture studio;
+    QVERIFY(studio.raiseDock("contentPanelDock"));
+    const auto publicOnly = [&studio](int page) {
+        return studio.document().pages().at(page).contentConfig().holidayConfig().hasFeatures(
+            FEATURE_PUBLIC_HOLIDAYS_ONLY);
+    };
+    const bool before = publicOnly(0);
+    QVERIFY(studio.click(studio.window(), "scopeCurrentPage"));
+    QVERIFY(studio.trigger("nextPage"));
+    QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
+    for (int page = 0; page < 12; ++page)
+        QCOMPARE(publicOnly(page), page == 1 ? !before : before);
+    QVERIFY(studio.trigger("nextPage"));
+    QCOMPARE(studio.find<QCheckBox>("publicHolidaysOnly")->isChecked(), before);
+    QVERIFY(studio.click(studio.window(), "scopeAllPages"));
+    QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
+    for (int page = 0; page < 12; ++page)
+        QCOMPARE(publicOnly(page), !before);
+    studio.undo();
+    studio.undo();
+    for (int page = 0; page < 12; ++page)
+        QCOMPARE(publicOnly(page), before);
+}
+
+MV_WIDGET_TEST_MAIN(tst_StudioDesignJourneys)
+#include "tst_StudioDesignJourneys.moc"

@@ -1,0 +1,306 @@
+#include "MvStudioFixture.h"
+
+#include "MvDocumentDialog.h"
+#include "MvRecoveryDialog.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvProject/MvProject.h"
+
+#include <QAccessible>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString nameOf(const QWidget *widget)
+{
+    const QString name = widget->objectName().isEmpty() ? widget->parentWidget()->objectName() : widget->objectName();
+    return u"%1(%2)"_s.arg(QLatin1StringView(widget->metaObject()->className()), name);
+}
+
+/// What the focus goes to: the line edit of a spin box belongs to the box.
+const QWidget *controlOf(const QWidget *widget)
+{
+    const QWidget *control = widget;
+    while (control && control->parentWidget() && control->parentWidget()->focusProxy() == control)
+        control = control->parentWidget();
+    const QWidget *parent = widget->parentWidget();
+    if (qobject_cast<const QAbstractSpinBox *>(parent) || qobject_cast<const QComboBox *>(parent))
+        return parent;
+    return widget;
+}
+
+/// Whether a person can use it now: it is to be seen, enabled, and made for the keyboard.
+bool isControl(const QWidget *widget)
+{
+    const bool isKind = qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QComboBox *>(widget) ||
+                        qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+                        qobject_cast<const QAbstractItemView *>(widget) ||
+                        qobject_cast<const QGraphicsView *>(widget) || qobject_cast<const QAbstractSlider *>(widget);
+    if (!isKind || !widget->isVisible() || !widget->isEnabled() || widget->visibleRegion().isEmpty())
+        return false;
+    if (qobject_cast<const QScrollBar *>(widget) || qobject_cast<const QHeaderView *>(widget))
+        return false; // their views scroll and sort by keys
+    if (qobject_cast<const QToolBar *>(widget->parentWidget()) ||
+        qobject_cast<const QDockWidget *>(widget->parentWidget()))
+        return false; // the menus have the same actions
+    if (qobject_cast<const QTabBar *>(widget->parentWidget()))
+        return false; // the tab bar itself takes the keys
+    const bool isPart = controlOf(widget) != widget;
+    return !isPart && widget->objectName() != u"qt_toolbar_ext_button"_s;
+}
+
+QList<QWidget *> controlsIn(const QWidget *area)
+{
+    QList<QWidget *> all = area->findChildren<QWidget *>();
+    all.removeIf([area](const QWidget *widget) { return widget->window() != area->window() || !isControl(widget); });
+    return all;
+}
+
+/// All stops of the Tab key from the first one until it comes round; a stop may be visited more than once in a row.
+QList<const QWidget *> tabStops(QWidget *window, QString *trap)
+{
+    constexpr int mostStops = 400;
+    QList<const QWidget *> stops;
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window) || !QApplication::focusWidget())
+        QTest::keyClick(window, Qt::Key_Tab);
+    for (int step = 0; step < mostStops; ++step) {
+        const QWidget *focus = QApplication::focusWidget();
+        if (!focus) {
+            *trap = u"the focus is lost after %1"_s.arg(stops.isEmpty() ? u"nothing"_s : nameOf(stops.last()));
+            return stops;
+        }
+        const QWidget *control = controlOf(focus);
+        if (stops.isEmpty() || stops.last() != control) {
+            if (stops.contains(control))
+                return stops;
+            stops.append(control);
+        }
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    *trap = u"the focus stays at %1"_s.arg(nameOf(stops.last()));
+    return stops;
+}
+
+QRect inWindow(const QWidget *widget)
+{
+    return {widget->mapTo(widget->window(), QPoint()), widget->size()};
+}
+
+/// Stops of one container follow each other by rows, and in a row from left to right.
+QStringList outOfOrder(const QList<const QWidget *> &stops)
+{
+    QStringList errors;
+    for (qsizetype i = 1; i < stops.size(); ++i) {
+        const QWidget *before = stops.at(i - 1);
+        const QWidget *after = stops.at(i);
+        if (before->parentWidget() != after->parentWidget())
+            continue;
+        const QRect a = inWindow(before);
+        const QRect b = inWindow(after);
+        const bool isSameRow = qMin(a.bottom(), b.bottom()) - qMax(a.top(), b.top()) > qMin(a.height(), b.height()) / 2;
+        if (isSameRow ? b.left() < a.left() : b.top() < a.top())
+            errors.append(u"%1 after %2"_s.arg(nameOf(after), nameOf(before)));
+    }
+    return errors;
+}
+
+QChar mnemonicOf(const QString &text)
+{
+    const QKeySequence sequence = QKeySequence::mnemonic(text);
+    return sequence.isEmpty() ? QChar() : QChar(sequence[0].key()).toUpper();
+}
+
+QStringList doubles(const QList<QPair<QString, QString>> &texts) // what is shown, who shows it
+{
+    QStringList errors;
+    QHash<QChar, QString> seen;
+    for (const auto &[text, who] : texts) {
+        const QChar key = mnemonicOf(text);
+        if (key.isNull())
+            continue;
+        if (seen.contains(key) && seen.value(key) != who)
+            errors.append(u"Alt+%1: %2 and %3"_s.arg(key).arg(seen.value(key), who));
+        seen.insert(key, who);
+    }
+    return errors;
+}
+
+/// Of everything that is to be seen in a window at once, its menu bar included.
+QStringList mnemonicsThatCollide(const QWidget *window)
+{
+    QList<QPair<QString, QString>> texts;
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        if (!widget->isVisible() || widget->window() != window || widget->visibleRegion().isEmpty())
+            continue;
+        if (const auto *button = qobject_cast<const QAbstractButton *>(widget); button && button->isEnabled())
+            texts.append({button->text(), button->text()});
+        else if (const auto *label = qobject_cast<const QLabel *>(widget); label && label->buddy())
+            texts.append({label->text(), label->text()});
+        else if (const auto *group = qobject_cast<const QGroupBox *>(widget))
+            texts.append({group->title(), group->title()});
+        else if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                texts.append({tabs->tabText(tab), tabs->tabText(tab)});
+        } else if (const auto *bar = qobject_cast<const QMenuBar *>(widget)) {
+            for (const QAction *action : bar->actions())
+                texts.append({action->text(), action->text()});
+        }
+    }
+    return doubles(texts);
+}
+
+QStringList nameless(const QList<QWidget *> &controls)
+{
+    QStringList errors;
+    for (QWidget *control : controls) {
+        const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(control);
+        if (!interface || interface->text(QAccessible::Name).trimmed().isEmpty())
+            errors.append(nameOf(control));
+    }
+    return errors;
+}
+
+} // namespace
+
+/// Everything can be reached and used by keyboard alone, and tells its name.
+class tst_StudioKeyboard : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void docks_data();
+    void docks();
+    void dialogs_data();
+    void dialogs();
+    void menus();
+
+private:
+    static void check(QWidget *window, const QWidget *area);
+};
+
+void tst_StudioKeyboard::check(QWidget *window, const QWidget *area)
+{
+    const QList<QWidget *> controls = controlsIn(area);
+    QVERIFY(!controls.isEmpty());
+    QString trap;
+    const QList<const QWidget *> stops = tabStops(window, &trap);
+    QCOMPARE(trap, QString());
+    QStringList unreached;
+    for (const QWidget *control : controls) {
+        // of buttons that exclude each other the chosen one is the stop, and arrow keys go through them
+        const auto *button = qobject_cast<const QAbstractButton *>(control);
+        const bool isOneOfSeveral = button && button->group() && button->group()->exclusive();
+        const auto isReached = [&](const QWidget *stop) {
+            const auto *other = qobject_cast<const QAbstractButton *>(stop);
+            return stop == control || (isOneOfSeveral && other && other->group() == button->group());
+        };
+        if (std::none_of(stops.begin(), stops.end(), isReached))
+            unreached.append(nameOf(control));
+    }
+    QCOMPARE(unreached, QStringList());
+    QCOMPARE(outOfOrder(stops), QStringList());
+    QCOMPARE(nameless(controls), QStringList());
+    QCOMPARE(mnemonicsThatCollide(window), QStringList());
+}
+
+void tst_StudioKeyboard::docks_data()
+{
+    QTest::addColumn<QString>("dock");
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<int>("tab");
+    const QString month = u"MONTH_GRID_CLASSIC"_s;
+    QTest::newRow("content") << u"contentPanelDock"_s << month << 0;
+    QTest::newRow("layout") << u"layoutPanelDock"_s << month << 0;
+    QTest::newRow("colours") << u"layoutPanelDock"_s << month << 1;
+    QTest::newRow("fonts") << u"fontPanelDock"_s << month << 0;
+    QTest::newRow("no columns") << u"columnHeadersPanelDock"_s << month << 0;
+    QTest::newRow("columns") << u"columnHeadersPanelDock"_s << u"FAMILY_PLANNER"_s << 0;
+    QTest::newRow("entries") << u"entriesPanelDock"_s << month << 0;
+}
+
+/// The whole window with each of its panels.
+void tst_StudioKeyboard::docks()
+{
+    QFETCH(QString, dock);
+    QFETCH(QString, layout);
+    QFETCH(int, tab);
+    MvStudioFixture studio(layout);
+    QVERIFY(studio.trigger("showWelcome"));
+    studio.window()->resize(1280, 1000);
+    QVERIFY(studio.raiseDock(dock.toLatin1()));
+    if (auto *tabs = studio.find<QTabWidget>("layoutTabs"))
+        tabs->setCurrentIndex(tab);
+    QCoreApplication::processEvents();
+    check(studio.window(), studio.window());
+}
+
+void tst_StudioKeyboard::dialogs_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("dialog");
+    const auto row = [](const char *action, const char *dialog) {
+        QTest::newRow(dialog) << QString::fromLatin1(action) << QString::fromLatin1(dialog);
+    };
+    row("newProject", "newProjectDialog");
+    row("chooseLayout", "layoutDialog");
+    row("pageSetup", "pageSetupDialog");
+    row("settings", "settingsDialog");
+    row("shortcuts", "shortcutsDialog");
+    row("about", "aboutDialog");
+    QTest::newRow("exportPdf") << u"exportPdf"_s << u"exportDialog"_s;
+    QTest::newRow("exportPng") << u"exportPng"_s << u"exportDialog"_s;
+    QTest::newRow("recovery") << QString() << u"recoveryDialog"_s;
+    QTest::newRow("day editor") << QString() << QString();
+}
+
+void tst_StudioKeyboard::dialogs()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, dialog);
+    MvStudioFixture studio;
+    if (dialog == u"recoveryDialog"_s)
+        (new MvRecoveryDialog({{}, {}}, studio.window()))->open();
+    else if (dialog.isEmpty())
+        QVERIFY(studio.openDay({2027, 1, 14}, u"Neuen Eintrag"_s));
+    else
+        QVERIFY(studio.trigger(action.toLatin1()));
+    const QPointer<QDialog> open = dialog.isEmpty() ? MvStudioFixture::dialog<MvCalendarDayEditorDialog>()
+                                                    : MvStudioFixture::dialog<QDialog>(dialog.toLatin1());
+    QVERIFY(open);
+    const auto buttons = open->findChildren<QPushButton *>();
+    QVERIFY(std::any_of(buttons.begin(), buttons.end(), [](const QPushButton *one) { return one->isDefault(); }));
+    check(open, open);
+    if (QTest::currentTestFailed())
+        return;
+    QTest::keyClick(open, Qt::Key_Escape);
+    QTRY_VERIFY(!open || !open->isVisible());
+}
+
+void tst_StudioKeyboard::menus()
+{
+    MvStudioFixture studio;
+    const auto checkMenu = [](const QMenu *menu) {
+        QList<QPair<QString, QString>> texts;
+        for (const QAction *action : menu->actions()) {
+            if (!action->isSeparator() && action->isVisible())
+                texts.append({action->text(), action->text()});
+        }
+        return doubles(texts);
+    };
+    for (const QMenu *menu : studio.window()->menuBar()->findChildren<QMenu *>()) {
+        QCOMPARE(checkMenu(menu), QStringList());
+        for (const QAction *action : menu->actions())
+            QVERIFY2(action->isSeparator() || action->menu() || !mnemonicOf(action->text()).isNull() ||
+                         menu->actions().size() > 12,
+                     qPrintable(action->text()));
+    }
+    QMenu *day = studio.clickDate({2027, 1, 14});
+    QVERIFY(day);
+    QCOMPARE(checkMenu(day), QStringList());
+    QTest::keyClick(day, Qt::Key_Escape);
+}
+
+MV_WIDGET_TEST_MAIN(tst_StudioKeyboard)
+#include "tst_StudioKeyboard.moc"
