@@ -127,12 +127,12 @@ void tst_MvFoto::stock()
     {
         const MvFotoStock::Use first(stock, 1);
         QVERIFY(first.isComplete());
-        QCOMPARE(scaled(u"a.png"_qs, 16), QSize());
+        QCOMPARE(scaled(u"a.png"_qs, 16), QSize(0, 0));
         QVERIFY(!first.isComplete());
-        QCOMPARE(scaled(u"b.png"_qs, 16), QSize());
-        QCOMPARE(scaled(u"broken.jpg"_qs, 16), QSize());
+        QCOMPARE(scaled(u"b.png"_qs, 16), QSize(0, 0));
+        QCOMPARE(scaled(u"broken.jpg"_qs, 16), QSize(0, 0));
         const MvFotoStock::Use second(stock, 2);
-        QCOMPARE(scaled(u"a.png"_qs, 16), QSize());
+        QCOMPARE(scaled(u"a.png"_qs, 16), QSize(0, 0));
     }
     QCOMPARE(scaled(u"a.png"_qs, 8), QSize(8, 4)); // out of use: at once
     QTRY_COMPARE(arrived.count(), 2);
@@ -145,7 +145,7 @@ void tst_MvFoto::stock()
     {
         const MvFotoStock::Use again(stock, 1);
         QCOMPARE(scaled(u"a.png"_qs, 16), QSize(16, 8));
-        QCOMPARE(scaled(u"broken.jpg"_qs, 16), QSize()); // known now: not to be waited for once more
+        QCOMPARE(scaled(u"broken.jpg"_qs, 16), QSize(0, 0)); // known now: not to be waited for once more
         QVERIFY(again.isComplete());
         QCOMPARE(scaled(u"a.png"_qs, 32), QSize(16, 8)); // the best there is
         QVERIFY(!again.isComplete());
@@ -153,7 +153,7 @@ void tst_MvFoto::stock()
     QTRY_COMPARE(arrived.count(), 1);
     const MvFotoStock::Use last(stock, 1);
     QCOMPARE(scaled(u"a.png"_qs, 32), QSize(32, 16));
-    QCOMPARE(scaled(u"missing.png"_qs, 16), QSize());
+    QCOMPARE(scaled(u"missing.png"_qs, 16), QSize(0, 0));
     QVERIFY(last.isComplete());
 }
 
