@@ -240,7 +240,6 @@ void tst_StudioDesignJourneys::fonts()
     studio.undo();
 
     QVERIFY(studio.choose("fontFamilyBox", u"EB Garamond"_s));
-    for (const auto &item : studio.items(MvPaintRecording::Item::Text)) qInfo()<<item.text<<item.font.families();
     QCOMPARE(fontOf(newYear, u"1"_s).family(), u"EB Garamond"_s);
     QVERIFY(studio.click(studio.window(), "resetFont"));
     QCOMPARE(fontOf(newYear, u"1"_s).family(), number.family());
@@ -350,7 +349,8 @@ void tst_StudioDesignJourneys::onlyThisPage()
     MvStudioFixture studio;
     QVERIFY(studio.raiseDock("contentPanelDock"));
     const auto publicOnly = [&studio](int page) {
-        return studio.document().pages().at(page).contentConfig().holidayConfig().hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY);
+        return studio.document().pages().at(page).contentConfig().holidayConfig().hasFeatures(
+            FEATURE_PUBLIC_HOLIDAYS_ONLY);
     };
     const bool before = publicOnly(0);
     QVERIFY(studio.click(studio.window(), "scopeCurrentPage"));
