@@ -137,9 +137,9 @@ void printPreview(benchmark::State &state)
         application->longest = 0.0;
         state.ResumeTiming();
         QMetaObject::invokeMethod(window.findChild<MvPrintFlow *>(), &MvPrintFlow::showPreview, Qt::QueuedConnection);
+        while (!window.findChild<QPrintPreviewDialog *>())
+            QApplication::processEvents();
         application->settle();
-        if (!window.findChild<QPrintPreviewDialog *>())
-            state.SkipWithError("no preview");
     }
     report(state, first, pagePhoto);
 }
@@ -172,12 +172,14 @@ void entryPhotos(benchmark::State &state)
         application->settle();
         application->longest = 0.0;
         state.ResumeTiming();
-        QMetaObject::invokeMethod(
-            &MvCalendarEventRegistry::instance(),
-            [&file] {
-                MvCalendarEventRegistry::instance().setEvents(MvCalendarEventFile::read(QFileInfo(file)).events);
-            },
-            Qt::QueuedConnection);
+        const auto load = [&file, &window] {
+            const MvCalendarEventList events = MvCalendarEventFile::read(QFileInfo(file)).events;
+            MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+            registry.prepareFotos(events, &window, [&registry, events] { registry.setEvents(events); });
+        };
+        QMetaObject::invokeMethod(&window, load, Qt::QueuedConnection);
+        while (MvCalendarEventRegistry::instance().activeEventList().isEmpty())
+            QApplication::processEvents();
         application->settle();
     }
     report(state, first, entryPhoto);

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+class MvFotoStock;
 class MvIdleImages;
 class QLabel;
 class QListWidget;
@@ -48,6 +49,7 @@ private:
     QListWidget *m_list;
     QLabel *m_description;
     MvIdleImages *m_images;
+    MvFotoStock *m_entryPhotos;
     MvCalendarDocument m_document;
     QSize m_pictureSize;
 };

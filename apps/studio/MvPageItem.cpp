@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvFoto/MvFotoStock.h"
 #include "MvProject/MvProject.h"
 
 #include <QFileInfo>
@@ -43,6 +44,7 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     : QGraphicsObject(parent)
     , m_project(project)
     , m_photos(std::make_unique<MvScreenPhotos>(photoBytes))
+    , m_entryPhotos(std::make_unique<MvFotoStock>())
     , m_cells(std::make_unique<MvGraphicsItemCalendariumCellsManager>(this))
 {
     connect(project, &MvProject::pageChanged, this, [this](int page) {
@@ -53,6 +55,7 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     connect(project, &MvProject::documentReplaced, this, &MvPageItem::refresh);
     connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
     connect(m_photos.get(), &MvScreenPhotos::loaded, this, &MvPageItem::discardCache);
+    connect(m_entryPhotos.get(), &MvFotoStock::arrived, this, &MvPageItem::refresh);
     refreshNow();
 }
 
@@ -152,6 +155,7 @@ void MvPageItem::record()
                 [this](const QDate &date, const QRectF &rect) { m_dates.insert(date, rect); });
     };
     const MvCalendarDocument &document = m_project->document();
+    const MvFotoStock::Use use(*m_entryPhotos);
     m_recording = m_shown.record(document.format(), document.range(), listen,
                                  MvRenderingRule(MvRenderingRule::InteractiveScreen), m_pixelsPerUnit);
 }

@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 
+class MvFotoStock;
 class MvGraphicsItemCalendariumCellsManager;
 class MvProject;
 class MvScreenPhotos;
@@ -89,6 +90,7 @@ private:
 
     MvProject *m_project;
     std::unique_ptr<MvScreenPhotos> m_photos;
+    std::unique_ptr<MvFotoStock> m_entryPhotos;
     std::unique_ptr<MvGraphicsItemCalendariumCellsManager> m_cells;
     MvCalendarPage m_shown;
     std::optional<MvCalendarPage> m_trial;

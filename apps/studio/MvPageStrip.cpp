@@ -8,6 +8,7 @@
 #include "MvScreenPhotos.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvFoto/MvFotoStock.h"
 #include "MvProject/MvProject.h"
 
 #include <QDragEnterEvent>
@@ -34,6 +35,7 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     , m_project(project)
     , m_images(new MvIdleImages([this](int page) { return makeThumbnail(page); }, this))
     , m_photos(new MvScreenPhotos(photoBytes, this))
+    , m_entryPhotos(new MvFotoStock(this))
     , m_model(new MvPageStripModel(project, m_images, this))
     , m_delegate(new MvPageStripDelegate(this))
 {
@@ -54,6 +56,7 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     m_images->setPaused(true); // until somebody sees the strip
     connect(m_images, &MvIdleImages::imageReady, m_model, &MvPageStripModel::updateRow);
     connect(m_photos, &MvScreenPhotos::loaded, this, &MvPageStrip::onPhotoLoaded);
+    connect(m_entryPhotos, &MvFotoStock::arrived, this, [this](int page) { m_images->invalidate(page); });
     connect(project, &MvProject::pageChanged, this, [this](int page) {
         m_images->invalidate(page, changeDelay);
         m_model->updateRow(page);
@@ -155,6 +158,7 @@ QImage MvPageStrip::makeThumbnail(int page)
     const MvCalendarDocument &document = m_project->document();
     if (page >= document.pages().size())
         return {};
+    const MvFotoStock::Use use(*m_entryPhotos, page);
     return MvPageThumbnail::make(document.pages().at(page), document.format(), document.range(), m_thumbnailSize,
                                  devicePixelRatioF(), m_photos);
 }

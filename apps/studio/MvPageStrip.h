@@ -2,6 +2,7 @@
 
 #include <QListView>
 
+class MvFotoStock;
 class MvIdleImages;
 class MvPageStripDelegate;
 class MvPageStripModel;
@@ -57,6 +58,7 @@ private:
     MvProject *m_project;
     MvIdleImages *m_images;
     MvScreenPhotos *m_photos;
+    MvFotoStock *m_entryPhotos;
     MvPageStripModel *m_model;
     MvPageStripDelegate *m_delegate;
     QSize m_thumbnailSize; // logical pixels

@@ -1,7 +1,16 @@
 #pragma once
 
-#include <QObject>
+#include "MvProject/MvExportResult.h"
 
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class MvExportJob;
+class MvExportObserver;
+class MvPageSource;
+class MvPrintPages;
 class MvProject;
 class QPrinter;
 class QWidget;
@@ -17,17 +26,29 @@ public:
 
     /// Paints the pages that the printer is to print, each as large as it is, or smaller where the paper is.
     void paint(QPrinter *printer) const;
+    /// Paints pages of the source in the same way. Any thread; ends early, without a page printed, when the observer,
+    /// if any, wants to.
+    static MvExportResult paint(QPrinter *printer, const MvPageSource &source, MvExportObserver *observer = nullptr);
 
 public Q_SLOTS:
     /// Shows the preview; without any printer asks first what to do.
     void start();
+    /// Makes the pages ready, then shows them.
     void showPreview();
 
 Q_SIGNALS:
     /// The user wants a file instead.
     void pdfRequested();
+    /// For the status bar.
+    void message(const QString &text);
 
 private:
+    void openPreview();
+    void print(const std::shared_ptr<QPrinter> &printer);
+    void tellPrinted(const MvExportResult &result);
+
     MvProject *m_project;
     QWidget *m_window;
+    QPointer<MvPrintPages> m_pages; // of the preview that is being made ready or shown
+    QPointer<MvExportJob> m_printing;
 };

@@ -8,6 +8,7 @@
 #include "MvExportFlow.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvHelpDialogs.h"
+#include "MvLeapDayHint.h"
 #include "MvPageCanvas.h"
 #include "MvPageStrip.h"
 #include "MvPrintFlow.h"
@@ -242,6 +243,8 @@ void MvStudioWindow::connectActions()
     connect(m_flow, &MvProjectFlow::recentFilesChanged, this, &MvStudioWindow::fillRecentMenu);
     connect(m_flow, &MvProjectFlow::message, this, &MvStudioWindow::showMessage);
     connect(m_export, &MvExportFlow::message, this, &MvStudioWindow::showMessage);
+    connect(m_print, &MvPrintFlow::message, this, &MvStudioWindow::showMessage);
+    connect(new MvLeapDayHint(m_project, this), &MvLeapDayHint::message, this, &MvStudioWindow::showMessage);
     connect(m_import, &MvBirthdayImport::message, this, &MvStudioWindow::showMessage);
     connect(m_canvas, &MvPageCanvas::message, this, &MvStudioWindow::showMessage);
     connect(&MvProactiveHelpController::instance(), &MvProactiveHelpController::adviceRequested, this,

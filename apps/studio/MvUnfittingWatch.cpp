@@ -1,6 +1,7 @@
 #include "MvUnfittingWatch.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvFoto/MvFotoStock.h"
 #include "MvProject/MvProject.h"
 
 #include <QTimerEvent>
@@ -16,7 +17,9 @@ constexpr int delay = 600; // milliseconds without changes before looking
 MvUnfittingWatch::MvUnfittingWatch(MvProject *project, QObject *parent)
     : QObject(parent)
     , m_project(project)
+    , m_entryPhotos(new MvFotoStock(this))
 {
+    connect(m_entryPhotos, &MvFotoStock::arrived, this, &MvUnfittingWatch::invalidate);
     connect(project, &MvProject::pageChanged, this, &MvUnfittingWatch::invalidate);
     connect(project, &MvProject::pagesReset, this, &MvUnfittingWatch::reset);
     connect(project, &MvProject::documentReplaced, this, &MvUnfittingWatch::reset);
@@ -61,7 +64,9 @@ void MvUnfittingWatch::timerEvent(QTimerEvent *event)
         return QObject::timerEvent(event);
     const auto due = std::find_if(m_pages.begin(), m_pages.end(), [](const Page &page) { return page.isDue; });
     if (due != m_pages.end()) {
-        const QList<MvUnfittingText> texts = m_project->document().unfittingTexts(int(due - m_pages.begin()));
+        const int page = int(due - m_pages.begin());
+        const MvFotoStock::Use use(*m_entryPhotos, page); // what is missing gives the texts too much room: see again
+        const QList<MvUnfittingText> texts = m_project->document().unfittingTexts(page);
         due->isDue = false;
         m_hasNews = m_hasNews || texts != due->texts;
         due->texts = texts;

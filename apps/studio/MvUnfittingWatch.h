@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 
+class MvFotoStock;
 class MvProject;
 
 /// Knows which texts have no room on the pages of the open project. It looks at one page at a time, when the program
@@ -49,6 +50,7 @@ private:
 
     MvProject *m_project;
     QList<Page> m_pages;
+    MvFotoStock *m_entryPhotos;
     QBasicTimer m_timer;
     bool m_hasNews = false;
 };

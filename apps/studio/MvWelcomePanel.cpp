@@ -60,7 +60,7 @@ MvWelcomePanel::MvWelcomePanel(QWidget *parent)
     column->addLayout(ways);
     auto *row = new QHBoxLayout(this);
     row->addLayout(column, 1);
-    row->addWidget(close, 0, Qt::AlignTop);
+    row->addWidget(close, 0, Qt::AlignVCenter);
 
     connect(layouts, &QPushButton::clicked, this, &MvWelcomePanel::layoutRequested);
     connect(contacts, &QPushButton::clicked, this, &MvWelcomePanel::importRequested);

@@ -272,12 +272,17 @@ void MvCalendarEventListWidget::readEventList(const QString &fileName, bool merg
         MvDiskAccessRequest::instance().readCalendarEntriesFileFailed(fileName, content.error, this);
         return;
     }
+    MvCalendarEventRegistry::instance().prepareFotos(
+        content.events, this, [this, events = content.events, merge] { takeEventList(events, merge); });
+}
+
+void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, bool merge)
+{
     const MvCalendarEventList current = events();
     if (merge)
-        changeEvents(u"loadEventList"_s, {},
-                     MvCalendarEventRegistry::instance().onlyNewEvents(current, content.events));
+        changeEvents(u"loadEventList"_s, {}, MvCalendarEventRegistry::instance().onlyNewEvents(current, read));
     else
-        changeEvents(u"loadEventList"_s, current, content.events);
+        changeEvents(u"loadEventList"_s, current, read);
     finishAdding();
 }
 

@@ -60,6 +60,7 @@ Q_SIGNALS:
 private:
     QPushButton *createAddButton(const QString &text, const QString &name, QWidget *parent);
     void readEventList(const QString &fileName, bool merge);
+    void takeEventList(const MvCalendarEventList &read, bool merge);
     static void changeEvents(const QString &macro, const MvCalendarEventList &removed,
                              const MvCalendarEventList &added);
     void finishAdding();

@@ -16,7 +16,12 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFutureWatcher>
+#include <QPromise>
 #include <QSet>
+#include <QThreadPool>
+
+#include <memory>
 
 #include <utility>
 
@@ -317,16 +322,55 @@ void MvCalendarEventRegistry::saveAs(const QFileInfo &file) const
     }
 }
 
+bool MvCalendarEventRegistry::mustBeCopied(const MvFoto &foto) const
+{
+    const QString ownFolder = MvCalendarEvent::imageDirectory().absolutePath() + u'/';
+    const QString path = foto.localFilePath();
+    return foto.mayBeOpened() && (!path.startsWith(ownFolder) || path.mid(ownFolder.size()).contains(u'/')) &&
+           QFileInfo(path).isFile();
+}
+
+void MvCalendarEventRegistry::prepareFotos(const MvCalendarEventList &events, QObject *receiver,
+                                           const std::function<void()> &use)
+{
+    QHash<QString, MvFoto> fotos; // by path
+    for (const MvCalendarEvent &event : events) {
+        if (mustBeCopied(event.foto()) && !m_takenOver.contains(event.foto().localFilePath()))
+            fotos.insert(event.foto().localFilePath(), event.foto());
+    }
+    if (fotos.isEmpty()) {
+        use();
+        return;
+    }
+    auto *watcher = new QFutureWatcher<QHash<QString, MvFoto>>(receiver);
+    connect(watcher, &QFutureWatcherBase::finished, receiver, [this, watcher, use] {
+        watcher->deleteLater();
+        m_takenOver.insert(watcher->result());
+        use();
+    });
+    const auto promise = std::make_shared<QPromise<QHash<QString, MvFoto>>>();
+    promise->start();
+    watcher->setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, fotos] {
+        QHash<QString, MvFoto> copies;
+        for (auto it = fotos.begin(); it != fotos.end(); ++it) {
+            MvCalendarEvent event;
+            event.setFoto(it.value());
+            copies.insert(it.key(), event.foto());
+        }
+        promise->addResult(copies);
+        promise->finish();
+    });
+}
+
 /// Photos elsewhere, which came with an imported file, are copied into the photo folder.
 MvCalendarEventList MvCalendarEventRegistry::withOwnFotos(const MvCalendarEventList &events) const
 {
-    const QString ownFolder = MvCalendarEvent::imageDirectory().absolutePath() + u'/';
     MvCalendarEventList own = events;
     for (qsizetype i = 0; i < events.size(); ++i) {
         const MvFoto foto = events.at(i).foto();
         const QString path = foto.localFilePath();
-        if (!foto.mayBeOpened() || (path.startsWith(ownFolder) && !path.mid(ownFolder.size()).contains(u'/')) ||
-            !QFileInfo(path).isFile())
+        if (!mustBeCopied(foto))
             continue;
         MvCalendarEvent &event = own[i];
         event.setFoto(m_takenOver.value(path, foto));

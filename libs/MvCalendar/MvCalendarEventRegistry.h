@@ -17,6 +17,8 @@
 #include <QSize>
 #include <QString>
 
+#include <functional>
+
 class MvCalendarEventRegistry;
 extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendarEventRegistry>;
 
@@ -67,6 +69,9 @@ public:
     /// Replaces the active list by the valid entries of the list and saves it. Photos that came with an imported file
     /// are copied into the photo folder.
     void setEvents(const MvCalendarEventList &events);
+    /// Calls when setEvents() would not have to decode photos any more: copies those that lie elsewhere into the photo
+    /// folder, in the background. At once when there is nothing to copy; not at all when the receiver is gone by then.
+    void prepareFotos(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);
     /// Replaces an entry; an invalid `before` adds one, an invalid `after` removes one. Says whether anything changed.
     bool changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after);
     /// Changes until the matching endChanges() are written and signalled once, there. May be nested.
@@ -121,6 +126,7 @@ private:
     void visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project, Function function) const;
 
     void store(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    bool mustBeCopied(const MvFoto &foto) const;
     MvCalendarEventList withOwnFotos(const MvCalendarEventList &events) const;
     MvCalendarEventList withChangesOfOthers(const MvCalendarEventList &events) const;
     bool saveUserFile(const MvCalendarEventList &events) const;

@@ -8,9 +8,11 @@
 #include "MvProductBase/MvCalendarWordsRegistry.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QSpacerItem>
@@ -139,6 +141,7 @@ void MvCalendariumContentConfigEditor::createLanguageAndProvinceBox()
     m_provinceBox->setObjectName(u"provinceBox"_s);
     m_provinceBox->setPlaceholderText(tr("nicht gewählt"));
     m_provinceBox->setEnabled(false);
+    addWholeCountryAction();
     for (QComboBox *box : {m_languageBox, m_provinceBox}) {
         box->setMaximumWidth(widestBox);
         box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -147,6 +150,19 @@ void MvCalendariumContentConfigEditor::createLanguageAndProvinceBox()
     connect(m_languageBox, &QComboBox::currentIndexChanged, this, &MvCalendariumContentConfigEditor::onChanged);
     connect(m_provinceBox, &QComboBox::currentIndexChanged, this, &MvCalendariumContentConfigEditor::onChanged);
     languageChanged(m_languageBox->currentIndex());
+}
+
+void MvCalendariumContentConfigEditor::addWholeCountryAction()
+{
+    auto *action = new QAction(
+        tr("Ganzes Land") + u'\t' + QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText), m_provinceBox);
+    action->setObjectName(u"wholeCountry"_s);
+    m_provinceBox->addAction(action);
+    m_provinceBox->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_provinceBox->setStatusTip(tr("Das Bundesland, dessen Feiertage gelten; Entf wählt wieder das ganze Land"));
+    m_provinceBox->setAccessibleDescription(m_provinceBox->statusTip());
+    connect(action, &QAction::triggered, this, [this] { m_provinceBox->setCurrentIndex(-1); });
+    m_provinceBox->installEventFilter(this);
 }
 
 void MvCalendariumContentConfigEditor::addCaptioned(QGridLayout *grid, int row, const QString &caption, QComboBox *box)
@@ -322,6 +338,20 @@ void MvCalendariumContentConfigEditor::onStateChangedCheckBox(int)
 {
     enableProvinceBox();
     Q_EMIT onChanged();
+}
+
+/// The delete key in the box of the regions leads back to the whole country, whatever else it does in the window.
+bool MvCalendariumContentConfigEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_provinceBox || (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride))
+        return QWidget::eventFilter(watched, event);
+    const auto *key = static_cast<QKeyEvent *>(event);
+    if (key->modifiers() != Qt::NoModifier || (key->key() != Qt::Key_Delete && key->key() != Qt::Key_Backspace))
+        return QWidget::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress)
+        m_provinceBox->setCurrentIndex(-1);
+    event->accept();
+    return true;
 }
 
 /// Where there is nothing to choose from, or nothing to choose it for, the box only tells what holds.

@@ -15,6 +15,9 @@ class QGridLayout;
 /// What a calendar shows besides its dates: holidays, personal entries, the country and region whose holidays they
 /// are, and the month it starts with.
 ///
+/// A country without a chosen region is meant as a whole; the delete key, or the context menu of the regions, leads
+/// back to that.
+///
 /// Loading a configuration emits nothing and logs nothing.
 class MVCALENDAR_EXPORT MvCalendariumContentConfigEditor : public QWidget
 {
@@ -57,6 +60,8 @@ public:
     /// such region.
     void setProvince(const MvLocale &language, const QString &province);
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 Q_SIGNALS:
     void onChanged();
 
@@ -72,6 +77,7 @@ private:
     void createYearAndMonthBox();
     void createLanguageAndProvinceBox();
     void addCaptioned(QGridLayout *grid, int row, const QString &caption, QComboBox *box);
+    void addWholeCountryAction();
     void enableProvinceBox();
     void noteAsLogged();
 

@@ -1,5 +1,6 @@
 #include "MvFoto/MvFotoAccess.h"
 
+#include "MvFoto/MvFotoStock.h"
 #include "MvImageLoader/MvImageLoader.h"
 
 #include <algorithm>
@@ -28,5 +29,9 @@ QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching)
 
 QImage MvFotoAccess::scaled(const MvFoto &foto, const QSize &bounds)
 {
-    return foto.mayBeOpened() ? MvImageLoader::instance().loadScaled(foto.localFileInfo(), bounds) : QImage();
+    if (!foto.mayBeOpened())
+        return {};
+    if (MvFotoStock *stock = MvFotoStock::current())
+        return stock->scaled(foto.localFileInfo(), bounds);
+    return MvImageLoader::instance().loadScaled(foto.localFileInfo(), bounds);
 }

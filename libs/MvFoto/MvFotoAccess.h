@@ -23,6 +23,7 @@ public:
     /// Medium resolution: the longer side has at most 128 * 2^quality pixels, 2048 for quality 4. Smaller photos stay
     /// as they are.
     static QImage midRes(const MvFoto &foto, int quality, int caching);
-    /// The photo within the bounds (pixels), keeping its aspect ratio; decoded once per size and file state.
+    /// The photo within the bounds (pixels), keeping its aspect ratio; decoded once per size and file state. While
+    /// a MvFotoStock is in use, what it has at hand.
     static QImage scaled(const MvFoto &foto, const QSize &bounds);
 };

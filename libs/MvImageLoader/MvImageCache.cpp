@@ -28,6 +28,16 @@ QImage MvImageCache::image(const Key &key, const std::function<QImage()> &make)
     return made;
 }
 
+QImage MvImageCache::kept(const Key &key)
+{
+    const QMutexLocker lock(&m_mutex);
+    const auto found = m_entries.find(key);
+    if (found == m_entries.end())
+        return {};
+    m_uses.splice(m_uses.begin(), m_uses, found->use);
+    return found->image;
+}
+
 void MvImageCache::clear()
 {
     const QMutexLocker lock(&m_mutex);

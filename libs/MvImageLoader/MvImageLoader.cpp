@@ -131,6 +131,11 @@ QImage MvImageLoader::loadUncached(const QFileInfo &file, const QSize &bounds)
     return bounds.isEmpty() ? QImage() : OpenImage(file).read(bounds);
 }
 
+QImage MvImageLoader::kept(const QFileInfo &file, const QSize &bounds)
+{
+    return m_cache.kept(keyFor(QFileInfo(file.filePath()), bounds));
+}
+
 QSize MvImageLoader::size(const QFileInfo &file)
 {
     const QFileInfo present(file.filePath());

@@ -31,6 +31,8 @@ public:
     QImage loadScaled(const QFileInfo &file, const QSize &bounds);
     /// The same without keeping the image, for what is looked at once.
     QImage loadUncached(const QFileInfo &file, const QSize &bounds);
+    /// What loadScaled() gave, if it is still kept; null otherwise. Never decodes.
+    QImage kept(const QFileInfo &file, const QSize &bounds);
 
     /// Size of the turned image in pixels, from the file's head alone; invalid when the file cannot be read.
     QSize size(const QFileInfo &file);

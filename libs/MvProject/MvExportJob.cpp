@@ -1,6 +1,7 @@
 #include "MvProject/MvExportJob.h"
 
 #include "MvCore/MvMath.h"
+#include "MvFoto/MvFotoStock.h"
 #include "MvProject/MvExportFeed.h"
 #include "MvProject/MvPageSource.h"
 
@@ -9,15 +10,26 @@
 #include <QTimer>
 
 MvExportJob::MvExportJob(const MvCalendarDocument &document, const MvExportTarget &target, int dpi, QObject *parent)
+    : MvExportJob(
+          document,
+          [target, dpi](const MvPageSource &pages, MvExportObserver *observer) {
+              return target.write(pages, dpi, observer);
+          },
+          target.imageResolution(dpi), parent)
+{}
+
+MvExportJob::MvExportJob(const MvCalendarDocument &document, const Writer &write, int dpi, QObject *parent)
     : QObject(parent)
     , m_document(document)
-    , m_target(target)
+    , m_write(write)
     , m_dpi(dpi)
     , m_feed(std::make_shared<MvExportFeed>([this](int done, int total) {
         QMetaObject::invokeMethod(
             this, [this, done, total] { Q_EMIT progress(done, total); }, Qt::QueuedConnection);
     }))
+    , m_entryPhotos(new MvFotoStock(this))
 {
+    connect(m_entryPhotos, &MvFotoStock::arrived, this, &MvExportJob::recordPage);
     for (int page = 0; page < m_document.pages().size(); ++page)
         m_pages.append(page);
 }
@@ -54,7 +66,7 @@ void MvExportJob::start()
         content.paintPhoto(painter, document.format());
         feed->take(number).replay(painter);
     };
-    m_thread.reset(QThread::create([this, source] { m_result = m_target.write(source, m_dpi, m_feed.get()); }));
+    m_thread.reset(QThread::create([this, source] { m_result = m_write(source, m_feed.get()); }));
     connect(m_thread.get(), &QThread::finished, this, &MvExportJob::finish);
     m_thread->start();
     QTimer::singleShot(0, this, [this] {
@@ -72,10 +84,17 @@ void MvExportJob::recordPage(int number)
 {
     if (!m_thread || m_feed->isCancelled() || number >= m_pages.size())
         return;
-    const double pixelsPerUnit = m_target.imageResolution(m_dpi) / MvMath::tenthMillimetresPerInch;
+    const double pixelsPerUnit = m_dpi / MvMath::tenthMillimetresPerInch;
     const MvCalendarPage &page = m_document.pages()[m_pages[number]];
-    m_feed->put(number, page.record(m_document.format(), m_document.range(), {},
-                                    MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit));
+    {
+        const MvFotoStock::Use use(*m_entryPhotos, number);
+        const MvPaintRecording recording = page.record(m_document.format(), m_document.range(), {},
+                                                       MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit);
+        if (!use.isComplete())
+            return; // again when they have arrived
+        m_feed->put(number, recording);
+    }
+    const MvFotoStock::Use none(*m_entryPhotos, number); // they are in the recording: nothing is to be kept
     QTimer::singleShot(0, this, [this, number] { recordPage(number + 1); });
 }
 

@@ -7,13 +7,17 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 class MvExportFeed;
+class MvExportObserver;
+class MvFotoStock;
+class MvPageSource;
 class QThread;
 
-/// Exports a document while the program stays responsive: calendaria are recorded on the GUI thread, a page at a time,
-/// and written in a thread of the job's own, where photos are decoded too.
+/// Exports or prints a document while the program stays responsive: calendaria are recorded on the GUI thread, a page
+/// at a time, and written in a thread of the job's own. Photos are never decoded on the GUI thread.
 ///
 /// The document is copied; personal entries are those of the moment in which a page is recorded. GUI thread. A job that
 /// is deleted is cancelled first, which takes as long as the page that is just being written.
@@ -25,6 +29,10 @@ public:
     /// Dots per inch are those of PNG files.
     MvExportJob(const MvCalendarDocument &document, const MvExportTarget &target, int dpi = 300,
                 QObject *parent = nullptr);
+    /// Called in the job's thread; where pages are written to. The observer is never null.
+    using Writer = std::function<MvExportResult(const MvPageSource &pages, MvExportObserver *observer)>;
+    /// Small photos of days are made for so many dots per inch.
+    MvExportJob(const MvCalendarDocument &document, const Writer &write, int dpi, QObject *parent = nullptr);
     ~MvExportJob() override;
 
     /// Exports only these pages, counted from 0, instead of all; before start(). Numbers that there are not do not
@@ -47,10 +55,11 @@ private:
     void finish();
 
     const MvCalendarDocument m_document;
-    const MvExportTarget m_target;
+    const Writer m_write;
     const int m_dpi;
     QList<int> m_pages;
     std::shared_ptr<MvExportFeed> m_feed;
+    MvFotoStock *m_entryPhotos;
     std::unique_ptr<QThread> m_thread; // while running
     MvExportResult m_result;           // written by the thread, read after its end
     bool m_isStarted = false;

@@ -223,6 +223,29 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEventDateEdit</name>
+    <message>
+        <source>Jahr unbekannt</source>
+        <translation>Year unknown</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Der Eintrag hat nur Tag und Monat, etwa ein Geburtstag, dessen Jahr Sie nicht kennen.</source>
+        <translation>The entry has day and month alone, such as a birthday whose year you do not know.</translation>
+    </message>
+    <message>
+        <source>Tag und Monat</source>
+        <translation>Day and month</translation>
+    </message>
+    <message>
+        <source>Tag, Monat und Jahr</source>
+        <translation>Day, month and year</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventDelegateEditDeleteWidget</name>
     <message>
         <source>Eintrag bearbeiten</source>
@@ -497,6 +520,14 @@
     <message>
         <source>nicht gewählt</source>
         <translation>not chosen</translation>
+    </message>
+    <message>
+        <source>Ganzes Land</source>
+        <translation>Whole country</translation>
+    </message>
+    <message>
+        <source>Das Bundesland, dessen Feiertage gelten; Entf wählt wieder das ganze Land</source>
+        <translation>The region whose public holidays apply; Del chooses the whole country again</translation>
     </message>
 </context>
 <context>
@@ -1345,6 +1376,13 @@
     </message>
 </context>
 <context>
+    <name>MvLeapDayHint</name>
+    <message>
+        <source>Nur in Schaltjahren gedruckt, dieser Kalender hat keinen 29. Februar: %1</source>
+        <translation>Printed in leap years only, this calendar has no 29 February: %1</translation>
+    </message>
+</context>
+<context>
     <name>MvNearMiss</name>
     <message>
         <source> – meinten Sie „%1“?</source>
@@ -1664,6 +1702,38 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Druckvorschau</source>
         <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>Die Seiten werden vorbereitet …</source>
+        <translation>Preparing the pages …</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Die Seiten werden an den Drucker gegeben …</source>
+        <translation>Handing the pages to the printer …</translation>
+    </message>
+    <message>
+        <source>Der Kalender wurde nicht gedruckt.</source>
+        <translation>The calendar was not printed.</translation>
+    </message>
+    <message>
+        <source>Drucken abgebrochen</source>
+        <translation>Printing cancelled</translation>
+    </message>
+    <message>
+        <source>An den Drucker gegeben</source>
+        <translation>Handed to the printer</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine Seiten an.</source>
+        <translation>The printer does not accept any pages.</translation>
+    </message>
+    <message>
+        <source>Der Drucker nimmt keine weiteren Seiten an.</source>
+        <translation>The printer does not accept any more pages.</translation>
     </message>
 </context>
 <context>
@@ -2803,6 +2873,13 @@ Designs photo calendars and prints them.
     <message>
         <source>Die Datei ist leer.</source>
         <translation>The file is empty.</translation>
+    </message>
+</context>
+<context>
+    <name>QPrintPreviewDialog</name>
+    <message>
+        <source>Page setup</source>
+        <translation>Page setup</translation>
     </message>
 </context>
 </TS>

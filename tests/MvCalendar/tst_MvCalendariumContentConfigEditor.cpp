@@ -34,6 +34,8 @@ private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
     void regionsHaveNamesAndGiveTheirHolidays();
+    void backToTheWholeCountry_data();
+    void backToTheWholeCountry();
     void whatIsNotOffered();
     void provinceBoxIsEnabled_data();
     void provinceBoxIsEnabled();
@@ -82,6 +84,35 @@ void tst_MvCalendariumContentConfigEditor::regionsHaveNamesAndGiveTheirHolidays(
     QVERIFY(hasHoliday(editor.contentConfig(), corpusChristi, u"Fronleichnam"_s));
     editor.setProvince(germany, u"Sachsen"_s); // by name
     QCOMPARE(editor.holidayConfig().province(), u"SN"_s);
+}
+
+void tst_MvCalendariumContentConfigEditor::backToTheWholeCountry_data()
+{
+    QTest::addColumn<int>("key"); // 0: from the menu
+    QTest::newRow("delete") << int(Qt::Key_Delete);
+    QTest::newRow("backspace") << int(Qt::Key_Backspace);
+    QTest::newRow("menu") << 0;
+}
+
+void tst_MvCalendariumContentConfigEditor::backToTheWholeCountry()
+{
+    QFETCH(const int, key);
+    MvCalendariumContentConfigEditor editor;
+    editor.setContentConfig(config(u"BY"_s, 1));
+    auto *box = editor.findChild<QComboBox *>(u"provinceBox"_s);
+    const int regions = box->count();
+    QSignalSpy changed(&editor, &MvCalendariumContentConfigEditor::onChanged);
+    for (int round = 0; round < 2; ++round) { // the second time there is nothing to take back
+        if (key == 0)
+            box->actions().constFirst()->trigger();
+        else
+            QTest::keyClick(box, Qt::Key(key));
+        QCOMPARE(editor.holidayConfig().province(), QString());
+        QCOMPARE(editor.holidayConfig().language(), germany);
+        QCOMPARE(changed.count(), 1);
+    }
+    QCOMPARE(box->count(), regions);
+    QVERIFY(!hasHoliday(editor.contentConfig(), QDate(2027, 5, 27), u"Fronleichnam"_s));
 }
 
 void tst_MvCalendariumContentConfigEditor::whatIsNotOffered()

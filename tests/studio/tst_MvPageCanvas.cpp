@@ -268,8 +268,8 @@ void tst_MvPageCanvas::contextMenuPlacesThePhoto()
     };
     trigger(u"photoRight"_s);
     QCOMPARE(open.photo().placement(), MvPhotoFrame::Placement::Right);
-    trigger(u"photoSize40"_s);
-    QCOMPARE(open.photo().share(), 0.4);
+    trigger(u"photoSize50"_s);
+    QCOMPARE(open.photo().share(), 0.5);
     trigger(u"removePhoto"_s);
     QVERIFY(!open.photo().isValid());
     QCOMPARE(open.steps(), 4);

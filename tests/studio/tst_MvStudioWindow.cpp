@@ -13,6 +13,7 @@
 #include "MvWidgetTest.h"
 
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -42,6 +43,7 @@ private Q_SLOTS:
     void exportPictures();
     void exportErrors();
     void print();
+    void leapDayEntries();
     void birthdays();
     void settings();
 
@@ -471,10 +473,21 @@ void tst_MvStudioWindow::print()
     }
     auto *flow = window()->findChild<MvPrintFlow *>();
     flow->showPreview();
+    QVERIFY(dialog("progressDialog"));
+    QTRY_VERIFY(dialog<QPrintPreviewDialog>("printPreview"));
     auto *preview = dialog<QPrintPreviewDialog>("printPreview");
-    QVERIFY(preview);
     QVERIFY(preview->isVisible());
+    QVERIFY(!dialog("progressDialog"));
+    QCOMPARE(preview->findChild<QPrintPreviewWidget *>()->pageCount(), 12);
+    preview->printer()->setOutputFormat(QPrinter::PdfFormat);
+    preview->printer()->setOutputFileName(path(u"alle.pdf"_s));
+    Q_EMIT preview->paintRequested(preview->printer()); // as its button does
     preview->reject();
+    QVERIFY(dialog("progressDialog"));
+    QTRY_VERIFY(!dialog("progressDialog"));
+    QFile all(path(u"alle.pdf"_s));
+    QVERIFY(all.open(QIODevice::ReadOnly));
+    QCOMPARE(all.readAll().count("/Type /Page\n"), 12);
 
     QPrinter printer;
     printer.setOutputFormat(QPrinter::PdfFormat);
@@ -486,6 +499,35 @@ void tst_MvStudioWindow::print()
     QFile file(path(u"druck.pdf"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().count("/Type /Page\n"), 3);
+}
+
+void tst_MvStudioWindow::leapDayEntries()
+{
+    const auto shown = [this] { return window()->statusBar()->currentMessage(); };
+    const auto entry = [](const QString &name, const QDate &date) {
+        return MvCalendarEvent(name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
+    };
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    MvCalendarDocument document = project()->document();
+    document.setRange({QDate(2027, 1, 1), QDate(2027, 12, 31)});
+    project()->change(document, u"Monate"_s);
+    window()->statusBar()->clearMessage();
+    const MvCalendarEvent anna = entry(u"Anna"_s, {1992, 2, 29});
+    registry.setEvents({entry(u"Bert"_s, {1992, 2, 28})});
+    QCoreApplication::processEvents();
+    QCOMPARE(shown(), QString());
+    registry.setEvents({anna});
+    QTRY_VERIFY(shown().contains(u"Anna"_s));
+    window()->statusBar()->clearMessage();
+    registry.setEvents({anna, entry(u"Carl"_s, {1950, 5, 1})}); // Anna's is known
+    QCoreApplication::processEvents();
+    QCOMPARE(shown(), QString());
+
+    document.setRange({QDate(2027, 3, 1), QDate(2028, 2, 29)});
+    project()->change(document, u"Monate"_s);
+    registry.setEvents({anna, entry(u"Dora"_s, {1604, 2, 29})});
+    QCoreApplication::processEvents();
+    QVERIFY(!shown().contains(u"Dora"_s));
 }
 
 void tst_MvStudioWindow::birthdays()

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QObject>
+#include <QSet>
+#include <QUuid>
+
+class MvProject;
+
+/// Entries of 29 February are printed in leap years alone. When one comes in, or is moved there, while the calendar's
+/// range has no such day, this says so.
+class MvLeapDayHint : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The project is not owned and must outlive the hint. Entries that are there already are not told.
+    explicit MvLeapDayHint(const MvProject *project, QObject *parent = nullptr);
+
+Q_SIGNALS:
+    /// For the status bar; after the change that brought the entry.
+    void message(const QString &text);
+
+private:
+    void look();
+
+    const MvProject *m_project;
+    QSet<QUuid> m_known; // entries of 29 February
+};
