@@ -2,10 +2,10 @@
 // straight repaint of the recorded page, and beside a repaint that finds everything in the page's cache, as under the
 // hovering mouse; the thumbnail that is made in one idle slice; and a project of 24 months until its window is painted.
 
-#include "MvPageCanvas.h"
-#include "MvPageItem.h"
-#include "MvPageStrip.h"
-#include "MvStudioWindow.h"
+#include "pages/MvPageCanvas.h"
+#include "pages/MvPageItem.h"
+#include "pages/MvPageStrip.h"
+#include "window/MvStudioWindow.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"

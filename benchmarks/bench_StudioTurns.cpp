@@ -2,8 +2,8 @@
 // handled between asking for something and seeing it, beside what decoding one such photo takes. Two years with a photo
 // of 12 megapixels on each page in the print preview, and a month with entries whose photos have 24.
 
-#include "MvPrintFlow.h"
-#include "MvStudioWindow.h"
+#include "flows/MvPrintFlow.h"
+#include "window/MvStudioWindow.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"

@@ -6,15 +6,15 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvGUIWidgets/MvColorPalettePopup.h"
-#include "MvPageCanvas.h"
-#include "MvPageItem.h"
-#include "MvProgressDialog.h"
+#include "pages/MvPageCanvas.h"
+#include "pages/MvPageItem.h"
+#include "common/MvProgressDialog.h"
 #include "MvProject/MvProject.h"
-#include "MvProjectFlow.h"
-#include "MvRecoveryDialog.h"
+#include "flows/MvProjectFlow.h"
+#include "flows/MvRecoveryDialog.h"
 #include "MvStudioApplication.h"
-#include "MvStudioSettings.h"
-#include "MvStudioWindow.h"
+#include "common/MvStudioSettings.h"
+#include "window/MvStudioWindow.h"
 
 #include <QAction>
 #include <QApplication>

@@ -10,11 +10,11 @@
 #include "MvGUIWidgets/MvTheme.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
-#include "MvProjectFlow.h"
-#include "MvRecoveryDialog.h"
-#include "MvStudioMessage.h"
-#include "MvStudioSettings.h"
-#include "MvStudioWindow.h"
+#include "common/MvStudioMessage.h"
+#include "common/MvStudioSettings.h"
+#include "flows/MvProjectFlow.h"
+#include "flows/MvRecoveryDialog.h"
+#include "window/MvStudioWindow.h"
 
 #include <QApplication>
 #include <QTimer>

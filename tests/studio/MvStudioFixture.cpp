@@ -1,9 +1,9 @@
 #include "MvStudioFixture.h"
 
-#include "MvPageCanvas.h"
-#include "MvPageItem.h"
 #include "MvStudioApplication.h"
-#include "MvStudioSettings.h"
+#include "common/MvStudioSettings.h"
+#include "pages/MvPageCanvas.h"
+#include "pages/MvPageItem.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"

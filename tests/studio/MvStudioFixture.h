@@ -1,7 +1,7 @@
 #pragma once
 
-#include "MvStudioWindow.h"
 #include "MvWidgetTest.h"
+#include "window/MvStudioWindow.h"
 
 #include "MvModelBase/MvPaintRecording.h"
 

@@ -1,5 +1,5 @@
-#include "MvPageStrip.h"
 #include "MvProjectFixture.h"
+#include "pages/MvPageStrip.h"
 
 #include "MvCalendar/MvCalendarEvent.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"

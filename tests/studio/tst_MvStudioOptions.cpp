@@ -1,6 +1,6 @@
-#include "MvPageRange.h"
 #include "MvStudioOptions.h"
 #include "MvTest.h"
+#include "flows/MvPageRange.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
-#include "MvColorSchemaPicker.h"
-#include "MvLayoutChooser.h"
-#include "MvPageEdits.h"
 #include "MvProjectFixture.h"
-#include "MvStudioPanels.h"
+#include "panels/MvColorSchemaPicker.h"
+#include "panels/MvLayoutChooser.h"
+#include "panels/MvPageEdits.h"
+#include "panels/MvStudioPanels.h"
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCore/MvUndoController.h"

@@ -1,16 +1,16 @@
-#include "MvBirthdayImport.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvUndoController.h"
-#include "MvPageCanvas.h"
-#include "MvPrintFlow.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
-#include "MvProjectFlow.h"
 #include "MvStudioApplication.h"
-#include "MvStudioSettings.h"
-#include "MvStudioWindow.h"
 #include "MvWidgetTest.h"
+#include "common/MvStudioSettings.h"
+#include "flows/MvBirthdayImport.h"
+#include "flows/MvPrintFlow.h"
+#include "flows/MvProjectFlow.h"
+#include "pages/MvPageCanvas.h"
+#include "window/MvStudioWindow.h"
 
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>

@@ -1,6 +1,6 @@
 #include "MvStudioFixture.h"
 
-#include "MvPageItem.h"
+#include "pages/MvPageItem.h"
 
 #include "MvGUIWidgets/MvColorPalettePopup.h"
 #include "MvProject/MvProject.h"

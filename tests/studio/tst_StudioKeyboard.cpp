@@ -1,7 +1,7 @@
 #include "MvStudioFixture.h"
 
-#include "MvDocumentDialog.h"
-#include "MvRecoveryDialog.h"
+#include "flows/MvDocumentDialog.h"
+#include "flows/MvRecoveryDialog.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvProject/MvProject.h"

@@ -8,10 +8,10 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvProjectRecovery.h"
 #include "MvProjectFixture.h"
-#include "MvProjectFlow.h"
 #include "MvStudioApplication.h"
-#include "MvStudioWindow.h"
 #include "MvWidgetTest.h"
+#include "flows/MvProjectFlow.h"
+#include "window/MvStudioWindow.h"
 
 #include <functional>
 

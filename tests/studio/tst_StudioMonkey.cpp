@@ -8,9 +8,9 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
 #include "MvStudioApplication.h"
-#include "MvStudioSettings.h"
-#include "MvStudioWindow.h"
 #include "MvWidgetTest.h"
+#include "common/MvStudioSettings.h"
+#include "window/MvStudioWindow.h"
 
 #include <csignal>
 

@@ -1,0 +1,124 @@
+#include "common/MvStudioSettings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString recentKey = u"recentFiles"_s;
+const QString geometryKey = u"window/geometry"_s;
+const QString stateKey = u"window/state"_s;
+
+QSettings storage()
+{
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, u"mvcalendar"_s, u"mvcalendar-studio"_s);
+}
+
+void store(const QString &key, const QVariant &value)
+{
+    QSettings settings = storage();
+    settings.setValue(key, value);
+    settings.sync();
+}
+
+} // namespace
+
+QString MvStudioSettings::language()
+{
+    return text(u"language"_s);
+}
+
+void MvStudioSettings::setLanguage(const QString &language)
+{
+    setText(u"language"_s, language);
+}
+
+QString MvStudioSettings::theme()
+{
+    return text(u"theme"_s, u"system"_s);
+}
+
+void MvStudioSettings::setTheme(const QString &theme)
+{
+    setText(u"theme"_s, theme);
+}
+
+QStringList MvStudioSettings::recentFiles()
+{
+    return storage().value(recentKey).toStringList();
+}
+
+void MvStudioSettings::addRecentFile(const QString &path)
+{
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    QStringList files = recentFiles();
+    files.removeAll(absolute);
+    files.prepend(absolute);
+    store(recentKey, QStringList(files.mid(0, mostRecentFiles)));
+}
+
+void MvStudioSettings::removeRecentFile(const QString &path)
+{
+    QStringList files = recentFiles();
+    if (files.removeAll(path) > 0)
+        store(recentKey, files);
+}
+
+void MvStudioSettings::clearRecentFiles()
+{
+    store(recentKey, QStringList());
+}
+
+QString MvStudioSettings::folder(const QString &kind)
+{
+    const QString known = text(u"folders/"_s + kind);
+    if (!known.isEmpty() && QFileInfo(known).isDir())
+        return known;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo(documents).isDir() ? documents : QDir::homePath();
+}
+
+void MvStudioSettings::setFolder(const QString &kind, const QString &path)
+{
+    setText(u"folders/"_s + kind, path);
+}
+
+QByteArray MvStudioSettings::windowGeometry()
+{
+    return storage().value(geometryKey).toByteArray();
+}
+
+QByteArray MvStudioSettings::windowState()
+{
+    return storage().value(stateKey).toByteArray();
+}
+
+void MvStudioSettings::setWindow(const QByteArray &geometry, const QByteArray &state)
+{
+    store(geometryKey, geometry);
+    store(stateKey, state);
+}
+
+bool MvStudioSettings::isWelcomeShown()
+{
+    return storage().value(u"welcome"_s, true).toBool();
+}
+
+void MvStudioSettings::setWelcomeShown(bool shown)
+{
+    store(u"welcome"_s, shown);
+}
+
+QString MvStudioSettings::text(const QString &key, const QString &defaultValue)
+{
+    return storage().value(key, defaultValue).toString();
+}
+
+void MvStudioSettings::setText(const QString &key, const QString &value)
+{
+    store(key, value);
+}

@@ -1,0 +1,262 @@
+#include "flows/MvExportDialog.h"
+
+#include "MvGUIWidgets/MvSpinBox.h"
+#include "MvProject/MvFileNamePattern.h"
+#include "MvProject/MvPngExporter.h"
+#include "common/MvStudioMessage.h"
+#include "common/MvStudioSettings.h"
+#include "flows/MvPageRange.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum PageChoice {
+    AllPages,
+    CurrentPage,
+    SomePages,
+};
+
+constexpr int defaultDpi = 300;
+
+QString withSuffix(const QString &path, const QString &suffix)
+{
+    return path.endsWith(suffix, Qt::CaseInsensitive) || path.isEmpty() ? path : path + suffix;
+}
+
+QLabel *labelFor(const QString &text, QWidget *buddy)
+{
+    auto *label = new QLabel(text, buddy->parentWidget());
+    label->setBuddy(buddy);
+    return label;
+}
+
+} // namespace
+
+MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocument &document, int currentPage,
+                               const QString &folder, const QString &name, QWidget *parent)
+    : QDialog(parent)
+    , m_kind(kind)
+    , m_document(document)
+    , m_currentPage(currentPage)
+    , m_target(new QLineEdit(this))
+    , m_pages(new QComboBox(this))
+    , m_pageText(new QLineEdit(this))
+    , m_message(new QLabel(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(u"exportDialog"_s);
+    setWindowTitle(isPdf() ? tr("Als PDF exportieren") : tr("Als Bilder exportieren"));
+    auto *form = new QFormLayout;
+    addTarget(form, folder, name);
+    addPages(form);
+    if (!isPdf())
+        addResolution(form);
+
+    m_message->setObjectName(u"exportMessage"_s);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setWordWrap(true);
+    m_message->setMinimumHeight(2 * m_message->fontMetrics().lineSpacing());
+    m_message->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    m_export = buttons->button(QDialogButtonBox::Ok);
+    m_export->setText(tr("&Exportieren"));
+    m_export->setObjectName(u"exportButton"_s);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+
+    auto *column = new QVBoxLayout(this);
+    column->addLayout(form);
+    column->addWidget(m_message);
+    column->addStretch();
+    column->addWidget(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 90);
+    validate();
+}
+
+void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const QString &name)
+{
+    m_target->setObjectName(u"exportTarget"_s);
+    const QDir dir(folder);
+    m_target->setText(QDir::toNativeSeparators(isPdf() ? dir.filePath(name + u".pdf"_s) : dir.path()));
+    auto *browseButton = new QPushButton(tr("D&urchsuchen …"), this);
+    browseButton->setObjectName(u"exportBrowse"_s);
+    browseButton->setAutoDefault(false);
+    connect(browseButton, &QPushButton::clicked, this, &MvExportDialog::browse);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_target, 1);
+    row->addWidget(browseButton);
+    form->addRow(labelFor(isPdf() ? tr("&Datei:") : tr("&Ordner:"), m_target), row);
+    setTabOrder(m_target, browseButton);
+    connect(m_target, &QLineEdit::textChanged, this, &MvExportDialog::validate);
+    if (isPdf())
+        return;
+    const bool isWithinAYear = m_document.range().monthCount() <= 12;
+    m_pattern = new QLineEdit(name + (isWithinAYear ? u"-%m.png"_s : u"-%y-%m.png"_s), this);
+    m_pattern->setObjectName(u"exportPattern"_s);
+    m_pattern->setToolTip(tr("%m Monat, %y Jahr, %n Nummer der Seite"));
+    form->addRow(labelFor(tr("Datei&namen:"), m_pattern), m_pattern);
+    setTabOrder(browseButton, m_pattern);
+    connect(m_pattern, &QLineEdit::textChanged, this, &MvExportDialog::validate);
+}
+
+void MvExportDialog::addPages(QFormLayout *form)
+{
+    m_pages->setObjectName(u"exportPages"_s);
+    m_pages->addItem(tr("Alle Seiten (%1)").arg(m_document.pages().size()), AllPages);
+    m_pages->addItem(tr("Gezeigte Seite (%1)").arg(m_currentPage + 1), CurrentPage);
+    m_pages->addItem(tr("Auswahl:"), SomePages);
+    m_pageText->setObjectName(u"exportPageText"_s);
+    m_pageText->setAccessibleName(tr("Seiten, die exportiert werden"));
+    m_pageText->setPlaceholderText(tr("zum Beispiel 1-3, 5"));
+    m_pageText->setEnabled(false);
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_pages);
+    row->addWidget(m_pageText, 1);
+    form->addRow(labelFor(tr("&Seiten:"), m_pages), row);
+    connect(m_pages, &QComboBox::currentIndexChanged, this, [this] {
+        m_pageText->setEnabled(m_pages->currentData() == SomePages);
+        if (m_pageText->isEnabled())
+            m_pageText->setFocus();
+        validate();
+    });
+    connect(m_pageText, &QLineEdit::textChanged, this, &MvExportDialog::validate);
+}
+
+void MvExportDialog::addResolution(QFormLayout *form)
+{
+    m_dpi = new MvSpinBox(this);
+    m_dpi->setObjectName(u"exportDpi"_s);
+    m_dpi->setKeyboardTracking(true); // the size in pixels follows while typing
+    m_dpi->setRange(MvPngExporter::minimumDpi, MvPngExporter::maximumDpi);
+    m_dpi->setSuffix(tr(" dpi"));
+    m_dpi->setValue(MvStudioSettings::text(u"export/dpi"_s, QString::number(defaultDpi)).toInt());
+    form->addRow(labelFor(tr("&Auflösung:"), m_dpi), m_dpi);
+    connect(m_dpi, &MvSpinBox::valueChanged, this, &MvExportDialog::validate);
+}
+
+void MvExportDialog::browse()
+{
+    auto *dialog = new QFileDialog(this, windowTitle(), m_target->text());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName(u"exportFileDialog"_s);
+    dialog->setAcceptMode(isPdf() ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    if (isPdf()) {
+        dialog->setNameFilter(tr("PDF (*.pdf)"));
+        dialog->setDefaultSuffix(u"pdf"_s);
+        dialog->selectFile(QFileInfo(m_target->text()).fileName());
+    } else {
+        dialog->setFileMode(QFileDialog::Directory);
+    }
+    connect(dialog, &QFileDialog::fileSelected, this,
+            [this](const QString &path) { m_target->setText(QDir::toNativeSeparators(path)); });
+    dialog->open();
+}
+
+QString MvExportDialog::target() const
+{
+    const QString path = QDir::fromNativeSeparators(m_target->text().trimmed());
+    if (path.isEmpty())
+        return {};
+    if (isPdf())
+        return QFileInfo(withSuffix(path, u".pdf"_s)).absoluteFilePath();
+    const QString pattern = withSuffix(m_pattern->text().trimmed(), u".png"_s);
+    return pattern.isEmpty() ? QString() : QFileInfo(QDir(path), pattern).absoluteFilePath();
+}
+
+QList<int> MvExportDialog::pages(QString *error) const
+{
+    error->clear();
+    const int count = int(m_document.pages().size());
+    if (m_pages->currentData() == CurrentPage)
+        return {m_currentPage};
+    if (m_pages->currentData() == SomePages && m_pageText->text().trimmed().isEmpty())
+        *error = tr("Welche Seiten? Schreiben Sie zum Beispiel 1-3, 5.");
+    if (!error->isEmpty())
+        return {};
+    return MvPageRange::parse(m_pages->currentData() == SomePages ? m_pageText->text() : QString(), count, error);
+}
+
+QStringList MvExportDialog::fileNames(QString *error) const
+{
+    if (isPdf())
+        return {target()};
+    QString pageError;
+    QList<QDate> dates;
+    for (const int page : pages(&pageError))
+        dates.append(m_document.pageDates().value(page));
+    return MvFileNamePattern(target()).paths(dates, error);
+}
+
+QString MvExportDialog::error() const
+{
+    if (target().isEmpty())
+        return isPdf() ? tr("Wie soll die Datei heißen?") : tr("Wohin sollen die Bilder, und wie sollen sie heißen?");
+    const QFileInfo folder(QFileInfo(target()).absolutePath());
+    if (!folder.isDir())
+        return tr("Den Ordner %1 gibt es nicht.").arg(QDir::toNativeSeparators(folder.filePath()));
+    if (!folder.isWritable())
+        return tr("In den Ordner %1 dürfen Sie nicht schreiben; wählen Sie einen anderen.")
+            .arg(QDir::toNativeSeparators(folder.filePath()));
+    if (QFileInfo(target()).isDir())
+        return tr("%1 ist ein Ordner.").arg(QDir::toNativeSeparators(target()));
+    QString error;
+    pages(&error);
+    if (error.isEmpty())
+        fileNames(&error);
+    return error;
+}
+
+QString MvExportDialog::note() const
+{
+    QStringList lines;
+    if (m_dpi) {
+        const QSizeF inches = m_document.format().trimSize() / 254.0;
+        lines.append(tr("Jedes Bild wird %1 × %2 Pixel groß.")
+                         .arg(std::lround(inches.width() * m_dpi->value()))
+                         .arg(std::lround(inches.height() * m_dpi->value())));
+    }
+    QString ignored;
+    int existing = 0;
+    for (const QString &file : fileNames(&ignored))
+        existing += QFileInfo::exists(file) ? 1 : 0;
+    if (existing > 0)
+        lines.append(isPdf() ? tr("Die Datei gibt es schon; sie wird ersetzt.")
+                             : tr("Schon vorhanden und ersetzt werden: %n Dateien.", nullptr, existing));
+    return lines.join(u' ');
+}
+
+void MvExportDialog::validate()
+{
+    if (!m_export)
+        return; // still being built
+    const QString problem = error();
+    m_message->setText(problem.isEmpty() ? note() : problem);
+    m_export->setEnabled(problem.isEmpty());
+}
+
+MvExportOptions MvExportDialog::options() const
+{
+    QString ignored;
+    MvExportOptions options;
+    options.kind = m_kind;
+    options.target = target();
+    options.pages = pages(&ignored);
+    options.dpi = m_dpi ? m_dpi->value() : defaultDpi;
+    if (m_dpi)
+        MvStudioSettings::setText(u"export/dpi"_s, QString::number(m_dpi->value()));
+    MvStudioSettings::setFolder(u"export"_s, QFileInfo(options.target).absolutePath());
+    return options;
+}

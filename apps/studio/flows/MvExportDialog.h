@@ -1,0 +1,52 @@
+#pragma once
+
+#include "MvProject/MvCalendarDocument.h"
+#include "flows/MvExportOptions.h"
+
+#include <QDialog>
+
+class MvSpinBox;
+class QComboBox;
+class QFormLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+/// Asks where a calendar is to be exported to, which pages of it, and how fine.
+class MvExportDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// The name, without suffix, is what the file is called at first.
+    MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocument &document, int currentPage,
+                   const QString &folder, const QString &name, QWidget *parent);
+
+    MvExportOptions options() const;
+
+private:
+    bool isPdf() const { return m_kind == MvExportOptions::Kind::Pdf; }
+    void addTarget(QFormLayout *form, const QString &folder, const QString &name);
+    void addPages(QFormLayout *form);
+    void addResolution(QFormLayout *form);
+    void browse();
+    QString target() const;
+    QList<int> pages(QString *error) const;
+    /// What keeps it from being exported, for a person.
+    QString error() const;
+    /// What the user should know before, such as files that are replaced.
+    QString note() const;
+    QStringList fileNames(QString *error) const;
+    void validate();
+
+    MvExportOptions::Kind m_kind;
+    MvCalendarDocument m_document;
+    int m_currentPage;
+    QLineEdit *m_target;
+    QLineEdit *m_pattern = nullptr;
+    QComboBox *m_pages;
+    QLineEdit *m_pageText;
+    MvSpinBox *m_dpi = nullptr;
+    QLabel *m_message;
+    QPushButton *m_export = nullptr;
+};

@@ -1,0 +1,143 @@
+#include "flows/MvExportFlow.h"
+
+#include "MvCore/MvApplicationLocale.h"
+#include "MvProject/MvExportJob.h"
+#include "MvProject/MvProject.h"
+#include "common/MvProgressDialog.h"
+#include "common/MvStudioMessage.h"
+#include "common/MvStudioSettings.h"
+#include "flows/MvExportDialog.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QPushButton>
+#include <QUrl>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostLines = 12;
+
+QString fileNameOf(QString name)
+{
+    for (const QChar c : {u'/', u'\\', u':', u'%'})
+        name.replace(c, u'-');
+    return name;
+}
+
+} // namespace
+
+MvExportFlow::MvExportFlow(MvProject *project, QWidget *window)
+    : QObject(window)
+    , m_project(project)
+    , m_window(window)
+{}
+
+void MvExportFlow::start(MvExportOptions::Kind kind)
+{
+    if (isRunning())
+        return;
+    const MvCalendarDocument &document = m_project->document();
+    if (!document.isValid() || document.pages().isEmpty()) {
+        MvStudioMessage::error(m_window, tr("Der Kalender hat keine Seiten zum Exportieren."));
+        return;
+    }
+    const int page = qBound(0, m_currentPage, int(document.pages().size()) - 1);
+    auto *dialog = new MvExportDialog(kind, document, page, MvStudioSettings::folder(u"export"_s),
+                                      fileNameOf(m_project->displayName()), m_window);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { warnAndRun(dialog->options()); });
+    dialog->open();
+}
+
+void MvExportFlow::warnAndRun(const MvExportOptions &options)
+{
+    const QStringList missing = m_project->document().missingPhotos();
+    if (missing.isEmpty()) {
+        run(options);
+        return;
+    }
+    QStringList paths;
+    for (const QString &path : missing)
+        paths.append(QDir::toNativeSeparators(path));
+    QMessageBox *box = MvStudioMessage::question(
+        m_window, u"missingPhotosQuestion"_s, tr("Diese Fotos sind nicht da oder lassen sich nicht lesen:"),
+        MvStudioMessage::shortened(paths, mostLines) + u"\n\n"_s +
+            tr("Ihre Plätze bleiben leer. Legen Sie die Dateien zurück, oder wählen Sie auf den Seiten andere Fotos."));
+    QPushButton *go = box->addButton(tr("Trotzdem exportieren"), QMessageBox::AcceptRole);
+    QPushButton *cancel =
+        box->addButton(MvStudioMessage::buttonText(QDialogButtonBox::Cancel), QMessageBox::RejectRole);
+    go->setObjectName(u"exportAnywayButton"_s);
+    box->setDefaultButton(cancel);
+    box->setEscapeButton(cancel);
+    connect(box, &QMessageBox::buttonClicked, this, [this, options, go](QAbstractButton *button) {
+        if (button == go)
+            run(options);
+    });
+    box->open();
+}
+
+void MvExportFlow::run(const MvExportOptions &options)
+{
+    if (isRunning())
+        return;
+    m_options = options;
+    m_job = new MvExportJob(m_project->document(), MvExportTarget(options.target), options.dpi, this);
+    m_job->setPages(options.pages);
+    auto *dialog = new MvProgressDialog(
+        tr("Exportieren"), tr("Die Seiten werden geschrieben: %1").arg(QFileInfo(options.target).fileName()), m_window);
+    connect(m_job, &MvExportJob::progress, dialog, &MvProgressDialog::setProgress);
+    connect(m_job, &MvExportJob::finished, dialog, &MvProgressDialog::finish);
+    connect(dialog, &MvProgressDialog::canceled, m_job, &MvExportJob::cancel);
+    connect(m_job, &MvExportJob::finished, this, &MvExportFlow::finish);
+    dialog->open();
+    m_job->start();
+}
+
+void MvExportFlow::finish(const MvExportResult &result)
+{
+    m_job->deleteLater();
+    m_job = nullptr;
+    if (result.isCancelled) {
+        Q_EMIT message(result.files.isEmpty()
+                           ? tr("Export abgebrochen; nichts wurde geschrieben")
+                           : tr("Export abgebrochen; fertig sind %n Dateien", nullptr, int(result.files.size())));
+        return;
+    }
+    if (!result.error.isEmpty()) {
+        MvStudioMessage::error(m_window, tr("Der Kalender wurde nicht exportiert."), result.error);
+        return;
+    }
+    tellDone(result);
+}
+
+void MvExportFlow::tellDone(const MvExportResult &result)
+{
+    const QString folder = result.files.value(0).absolutePath();
+    const QString what =
+        result.files.size() == 1
+            ? QDir::toNativeSeparators(result.files.first().absoluteFilePath())
+            : tr("%n Dateien in %1", nullptr, int(result.files.size())).arg(QDir::toNativeSeparators(folder));
+    Q_EMIT message(tr("Exportiert: %1").arg(what));
+    const QStringList unfitting = unfittingTexts();
+    QMessageBox *box = MvStudioMessage::information(m_window, tr("Der Kalender ist exportiert: %1").arg(what),
+                                                    unfitting.isEmpty()
+                                                        ? QString()
+                                                        : tr("Diese Texte hatten keinen Platz und sind gekürzt:") +
+                                                              u'\n' + MvStudioMessage::shortened(unfitting, mostLines));
+    QPushButton *openFolder = box->addButton(tr("&Ordner öffnen"), QMessageBox::ActionRole);
+    openFolder->setObjectName(u"openFolderButton"_s);
+    connect(openFolder, &QPushButton::clicked, box,
+            [folder] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
+}
+
+QStringList MvExportFlow::unfittingTexts() const
+{
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    QStringList lines;
+    for (const int page : m_options.pages)
+        for (const MvUnfittingText &text : m_project->document().unfittingTexts(page))
+            lines.append(tr("%1: %2").arg(locale.toString(text.date, QLocale::ShortFormat), text.text.simplified()));
+    return lines;
+}

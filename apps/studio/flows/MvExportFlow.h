@@ -1,0 +1,48 @@
+#pragma once
+
+#include "flows/MvExportOptions.h"
+
+#include <QObject>
+
+class MvExportJob;
+class MvProject;
+class MvProgressDialog;
+struct MvExportResult;
+class QWidget;
+
+/// Exports the open project: asks where to, tells what is missing before, shows how far it has come, and tells
+/// afterwards what did not fit.
+class MvExportFlow : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The project is not owned. The window is the parent of all dialogs.
+    MvExportFlow(MvProject *project, QWidget *window);
+
+    bool isRunning() const { return m_job != nullptr; }
+
+public Q_SLOTS:
+    void startPdf() { start(MvExportOptions::Kind::Pdf); }
+    void startPng() { start(MvExportOptions::Kind::Png); }
+    /// The page that is offered as the shown one, counted from 0.
+    void setCurrentPage(int page) { m_currentPage = page; }
+
+Q_SIGNALS:
+    void message(const QString &text);
+
+private:
+    void start(MvExportOptions::Kind kind);
+    /// Photos that are not there would be missing on the pages.
+    void warnAndRun(const MvExportOptions &options);
+    void run(const MvExportOptions &options);
+    void finish(const MvExportResult &result);
+    void tellDone(const MvExportResult &result);
+    QStringList unfittingTexts() const;
+
+    MvProject *m_project;
+    QWidget *m_window;
+    MvExportJob *m_job = nullptr;
+    MvExportOptions m_options; // of the running job
+    int m_currentPage = 0;
+};

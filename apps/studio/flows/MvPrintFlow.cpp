@@ -1,0 +1,212 @@
+#include "flows/MvPrintFlow.h"
+
+#include "common/MvProgressDialog.h"
+#include "common/MvStudioMessage.h"
+#include "flows/MvPrintPages.h"
+
+#include "MvCore/MvMath.h"
+#include "MvProject/MvExportJob.h"
+#include "MvProject/MvExportObserver.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfExporter.h"
+#include "MvProject/MvProject.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QPushButton>
+#include <QWidget>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A preview takes the place of the printer's own engine.
+bool isPreview(const QPrinter &printer)
+{
+    return printer.paintEngine()->type() == QPaintEngine::Picture;
+}
+
+/// Numbers counted from 0.
+QList<int> pagesToPrint(const QPrinter &printer, int count)
+{
+    const bool isPart = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
+    const int first = isPart ? std::clamp(printer.fromPage(), 1, count) : 1;
+    const int last = isPart ? std::clamp(printer.toPage(), first, count) : count;
+    QList<int> numbers;
+    for (int number = first; number <= last; ++number)
+        numbers.append(number - 1);
+    return numbers;
+}
+
+void adopt(const MvPageFormat &format, QPrinter *printer)
+{
+    const QSizeF millimetres = format.trimSize() / 10.0;
+    const bool isLandscape = format.orientation() == MvPageFormat::Orientation::Landscape;
+    // a page size is upright; its orientation stands beside it
+    const QPageSize size(isLandscape ? millimetres.transposed() : millimetres, QPageSize::Millimeter, {},
+                         QPageSize::FuzzyMatch);
+    printer->setPageSize(size);
+    printer->setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer->setFullPage(true);
+    printer->setPageMargins({});
+}
+
+/// The preview offers another paper, which printers into a file do not even have; but the calendar knows its own.
+void hidePageSetup(const QPrintPreviewDialog *dialog)
+{
+    const QString text = QCoreApplication::translate("QPrintPreviewDialog", "Page setup");
+    for (QAction *action : dialog->findChildren<QAction *>())
+        if (action->text() == text)
+            action->setVisible(false);
+}
+
+} // namespace
+
+MvPrintFlow::MvPrintFlow(MvProject *project, QWidget *window)
+    : QObject(window)
+    , m_project(project)
+    , m_window(window)
+{}
+
+void MvPrintFlow::start()
+{
+    if (!m_project->document().isValid()) {
+        MvStudioMessage::error(m_window, tr("Der Kalender hat keine Seiten zum Drucken."));
+        return;
+    }
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) {
+        showPreview();
+        return;
+    }
+    QMessageBox *box = MvStudioMessage::question(
+        m_window, u"noPrinterQuestion"_s, tr("Auf diesem Rechner ist kein Drucker eingerichtet."),
+        tr("Sie können den Kalender als PDF exportieren und anderswo drucken lassen, oder sich "
+           "ansehen, wie er gedruckt aussähe."));
+    QPushButton *pdf = box->addButton(tr("Als &PDF exportieren …"), QMessageBox::AcceptRole);
+    QPushButton *preview = box->addButton(tr("&Vorschau"), QMessageBox::ActionRole);
+    QPushButton *cancel =
+        box->addButton(MvStudioMessage::buttonText(QDialogButtonBox::Cancel), QMessageBox::RejectRole);
+    pdf->setObjectName(u"pdfButton"_s);
+    preview->setObjectName(u"previewButton"_s);
+    box->setDefaultButton(pdf);
+    box->setEscapeButton(cancel);
+    connect(box, &QMessageBox::buttonClicked, this, [this, pdf, preview](QAbstractButton *button) {
+        if (button == pdf)
+            Q_EMIT pdfRequested();
+        else if (button == preview)
+            showPreview();
+    });
+    box->open();
+}
+
+void MvPrintFlow::showPreview()
+{
+    if (m_pages || m_printing)
+        return;
+    m_pages = new MvPrintPages(m_project->document(), this);
+    auto *dialog = new MvProgressDialog(tr("Druckvorschau"), tr("Die Seiten werden vorbereitet …"), m_window);
+    connect(m_pages, &MvPrintPages::progress, dialog, &MvProgressDialog::setProgress);
+    connect(m_pages, &MvPrintPages::ready, dialog, &MvProgressDialog::finish);
+    connect(m_pages, &MvPrintPages::ready, this, &MvPrintFlow::openPreview);
+    connect(dialog, &MvProgressDialog::canceled, m_pages, &QObject::deleteLater);
+    connect(m_pages, &QObject::destroyed, dialog, &MvProgressDialog::finish);
+    dialog->open();
+    m_pages->start();
+}
+
+void MvPrintFlow::openPreview()
+{
+    const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(m_project->displayName());
+    adopt(m_project->document().format(), printer.get());
+    auto *dialog = new QPrintPreviewDialog(printer.get(), m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName(u"printPreview"_s);
+    dialog->setWindowTitle(tr("Druckvorschau"));
+    dialog->resize(m_window->size().expandedTo({800, 600}) - QSize(60, 60));
+    hidePageSetup(dialog);
+    m_pages->setParent(dialog);
+    connect(dialog, &QPrintPreviewDialog::paintRequested, this, [this, printer] {
+        if (isPreview(*printer))
+            paint(printer.get(), m_pages->pageSource());
+        else
+            print(printer);
+    });
+    connect(dialog, &QObject::destroyed, this, [printer] {}); // it outlives the dialog
+    dialog->open();
+}
+
+/// The preview closes now; its printer goes on.
+void MvPrintFlow::print(const std::shared_ptr<QPrinter> &printer)
+{
+    const auto write = [printer](const MvPageSource &pages, MvExportObserver *observer) {
+        return paint(printer.get(), pages, observer);
+    };
+    m_printing = new MvExportJob(m_project->document(), write, MvPdfExporter::resolution, this);
+    m_printing->setPages(pagesToPrint(*printer, int(m_project->document().pages().size())));
+    auto *dialog = new MvProgressDialog(tr("Drucken"), tr("Die Seiten werden an den Drucker gegeben …"), m_window);
+    connect(m_printing, &MvExportJob::progress, dialog, &MvProgressDialog::setProgress);
+    connect(m_printing, &MvExportJob::finished, dialog, &MvProgressDialog::finish);
+    connect(dialog, &MvProgressDialog::canceled, m_printing, &MvExportJob::cancel);
+    connect(m_printing, &MvExportJob::finished, this, &MvPrintFlow::tellPrinted);
+    dialog->open();
+    m_printing->start();
+}
+
+void MvPrintFlow::tellPrinted(const MvExportResult &result)
+{
+    m_printing->deleteLater();
+    m_printing = nullptr;
+    if (!result.error.isEmpty())
+        MvStudioMessage::error(m_window, tr("Der Kalender wurde nicht gedruckt."), result.error);
+    else
+        Q_EMIT message(result.isCancelled ? tr("Drucken abgebrochen") : tr("An den Drucker gegeben"));
+}
+
+void MvPrintFlow::paint(QPrinter *printer) const
+{
+    MvPageSource source = m_project->document().pageSource();
+    const QList<int> numbers = pagesToPrint(*printer, int(source.pages.size()));
+    QList<QDate> dates;
+    for (const int number : numbers)
+        dates.append(source.pages.at(number));
+    source.pages = dates;
+    source.paint = [all = source.paint, numbers](QPainter &painter, int page) { all(painter, numbers.at(page)); };
+    paint(printer, source);
+}
+
+MvExportResult MvPrintFlow::paint(QPrinter *printer, const MvPageSource &source, MvExportObserver *observer)
+{
+    const QRectF paper = printer->paperRect(QPrinter::DevicePixel);
+    const QSizeF page = source.format.trimSize();
+    const double natural = printer->resolution() / MvMath::tenthMillimetresPerInch;
+    constexpr double rounding = 1.005; // whole points of the paper against tenths of a millimetre
+    const double fitting = std::min(paper.width() / page.width(), paper.height() / page.height());
+    const double scale = natural > fitting * rounding ? fitting : natural;
+    const QPointF corner = paper.center() - QPointF(page.width(), page.height()) * scale / 2.0;
+
+    QPainter painter;
+    if (!painter.begin(printer))
+        return {tr("Der Drucker nimmt keine Seiten an."), {}};
+    const int total = int(source.pages.size());
+    for (int number = 0; number < total; ++number) {
+        if (number > 0 && !printer->newPage())
+            return {tr("Der Drucker nimmt keine weiteren Seiten an."), {}};
+        source.paintPage(painter, number, corner, scale);
+        if (observer && observer->isCancelled()) {
+            printer->abort();
+            return {{}, {}, true};
+        }
+        if (observer)
+            observer->pagesDone(number + 1, total);
+    }
+    return {};
+}

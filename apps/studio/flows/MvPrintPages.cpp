@@ -1,0 +1,112 @@
+#include "flows/MvPrintPages.h"
+
+#include "pages/MvScreenPhotos.h"
+
+#include "MvFoto/MvFotoStock.h"
+#include "MvModelBase/MvRenderingRule.h"
+
+#include <QPainter>
+#include <QSet>
+#include <QTimer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr qint64 photoBytes = qint64(192) << 20; // for the photos of all pages
+constexpr int smallestSide = 256;                // pixels
+constexpr int largestSide = 2048;
+constexpr double pixelsPerUnit = 0.8; // some 200 dots per inch for the photos of entries
+
+QSize boundsFor(qsizetype photoCount)
+{
+    const double pixels = double(photoBytes) / 4.0 / double(std::max<qsizetype>(photoCount, 1));
+    const int side = int(std::sqrt(pixels)) / smallestSide * smallestSide;
+    return QSize(1, 1) * std::clamp(side, smallestSide, largestSide);
+}
+
+} // namespace
+
+MvPrintPages::MvPrintPages(const MvCalendarDocument &document, QObject *parent)
+    : QObject(parent)
+    , m_document(document)
+    , m_recordings(document.pages().size())
+    , m_photos(new MvScreenPhotos(photoBytes, this))
+    , m_entryPhotos(new MvFotoStock(this))
+{
+    connect(m_photos, &MvScreenPhotos::loaded, this, &MvPrintPages::takePhoto);
+    connect(m_entryPhotos, &MvFotoStock::arrived, this, &MvPrintPages::recordPage);
+}
+
+MvPrintPages::~MvPrintPages() = default;
+
+void MvPrintPages::start()
+{
+    QSet<QString> paths;
+    for (const MvCalendarPage &page : m_document.pages()) {
+        if (page.photoFrame().isValid())
+            paths.insert(page.photoFrame().path());
+    }
+    m_pathCount = int(paths.size());
+    m_photoBounds = boundsFor(paths.size());
+    for (const QString &path : std::as_const(paths))
+        m_photos->photo(path, m_photoBounds);
+    QTimer::singleShot(0, this, &MvPrintPages::recordNext);
+}
+
+MvPageSource MvPrintPages::pageSource() const
+{
+    MvPageSource source = m_document.pageSource();
+    source.paint = [this](QPainter &painter, int number) { paintPage(painter, number); };
+    return source;
+}
+
+/// A page per turn of the event loop.
+void MvPrintPages::recordNext()
+{
+    if (m_next >= m_recordings.size())
+        return;
+    recordPage(m_next++);
+    QTimer::singleShot(0, this, &MvPrintPages::recordNext);
+}
+
+void MvPrintPages::recordPage(int number)
+{
+    const MvFotoStock::Use use(*m_entryPhotos, number);
+    const MvPaintRecording recording = m_document.pages().at(number).record(
+        m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit);
+    if (!use.isComplete())
+        return; // again when they have arrived
+    m_recordings[number] = recording;
+    ++m_recordedCount;
+    tellProgress();
+}
+
+void MvPrintPages::takePhoto(const QString &path)
+{
+    m_images.insert(path, m_photos->photo(path, m_photoBounds));
+    tellProgress();
+}
+
+void MvPrintPages::tellProgress()
+{
+    const int done = m_recordedCount + int(m_images.size());
+    const int total = int(m_recordings.size()) + m_pathCount;
+    Q_EMIT progress(done, total);
+    if (done == total)
+        Q_EMIT ready();
+}
+
+void MvPrintPages::paintPage(QPainter &painter, int number) const
+{
+    const MvCalendarPage &page = m_document.pages().at(number);
+    page.paintGround(painter, m_document.format());
+    const QImage photo = m_images.value(page.photoFrame().path());
+    if (!photo.isNull()) {
+        const QRectF rect = page.photoFrame().rect(m_document.format());
+        painter.drawImage(rect, photo, page.photoFrame().crop(photo.size(), rect.size()));
+    }
+    if (m_recordings.at(number))
+        m_recordings.at(number)->replay(painter);
+}

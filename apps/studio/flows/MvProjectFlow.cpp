@@ -1,0 +1,248 @@
+#include "flows/MvProjectFlow.h"
+
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCore/MvApplicationLocale.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectFile.h"
+#include "common/MvStudioMessage.h"
+#include "common/MvStudioSettings.h"
+#include "flows/MvDocumentDialog.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QPushButton>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString projectFolder = u"project"_s;
+
+QString fileFilter()
+{
+    return MvProjectFlow::tr("Kalender (*.%1)").arg(MvProjectFile::suffix());
+}
+
+QFileDialog *createFileDialog(const QString &title, QFileDialog::AcceptMode mode, QWidget *parent)
+{
+    auto *dialog = new QFileDialog(parent, title, MvStudioSettings::folder(projectFolder), fileFilter());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName(u"projectFileDialog"_s);
+    dialog->setAcceptMode(mode);
+    dialog->setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog->setDefaultSuffix(MvProjectFile::suffix());
+    return dialog;
+}
+
+/// A file name out of a title.
+QString fileNameOf(QString title)
+{
+    for (const QChar c : {u'/', u'\\', u':', u'*', u'?', u'"', u'<', u'>', u'|'})
+        title.replace(c, u'-');
+    return title;
+}
+
+} // namespace
+
+MvProjectFlow::MvProjectFlow(MvProject *project, QWidget *window)
+    : QObject(window)
+    , m_project(project)
+    , m_window(window)
+{}
+
+MvCalendarDocument MvProjectFlow::firstDocument()
+{
+    MvCalendarDocument document;
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().schema(0));
+    appearance.adoptLayoutSuggestions();
+    const MvCalendariumColorSchemaList colors = MvCalendariumColorSchemaRegistry::instance().visibleSchemata();
+    if (!colors.isEmpty())
+        appearance.setColorSchema(colors.first());
+    appearance.adaptGridToLayout();
+    document.setAppearance(appearance);
+    MvCalendariumHolidayConfig holidays = document.holidayConfig();
+    holidays.setProvince({}); // nobody has said where yet
+    document.setHolidayConfig(holidays);
+    document.setTitle(titleOf(document.range()));
+    return document;
+}
+
+QString MvProjectFlow::titleOf(const MvDateRange &range)
+{
+    if (range.start().month() == 1 && range.monthCount() == 12)
+        return tr("Kalender %1").arg(range.start().year());
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    const QString from = locale.toString(range.start(), u"MMMM yyyy"_s);
+    if (range.monthCount() == 1)
+        return tr("Kalender %1").arg(from);
+    return tr("Kalender %1 bis %2").arg(from, locale.toString(range.end(), u"MMMM yyyy"_s));
+}
+
+bool MvProjectFlow::isProjectFile(const QString &path)
+{
+    return QFileInfo(path).suffix().compare(MvProjectFile::suffix(), Qt::CaseInsensitive) == 0;
+}
+
+void MvProjectFlow::startNew()
+{
+    leave([this] {
+        MvCalendarDocument start = firstDocument();
+        start.setHolidayConfig(m_project->document().holidayConfig());
+        start.setAppearance(m_project->document().appearance());
+        start.setFormat(m_project->document().format());
+        auto *dialog = new MvDocumentDialog(MvDocumentDialog::Layout | MvDocumentDialog::Setup, start, m_window);
+        dialog->setObjectName(u"newProjectDialog"_s);
+        dialog->setWindowTitle(tr("Neuer Kalender"));
+        dialog->setAcceptText(tr("Kalender anlegen"));
+        connect(dialog, &QDialog::accepted, this, [this, dialog] {
+            MvCalendarDocument document = dialog->document();
+            document.setTitle(titleOf(document.range()));
+            m_project->newProject(document);
+        });
+        dialog->open();
+    });
+}
+
+void MvProjectFlow::askAndOpen()
+{
+    QFileDialog *dialog = createFileDialog(tr("Kalender öffnen"), QFileDialog::AcceptOpen, m_window);
+    connect(dialog, &QFileDialog::fileSelected, this, &MvProjectFlow::open);
+    dialog->open();
+}
+
+void MvProjectFlow::open(const QString &path)
+{
+    if (!QFileInfo::exists(path)) {
+        MvStudioSettings::removeRecentFile(path);
+        Q_EMIT recentFilesChanged();
+        MvStudioMessage::error(
+            m_window, tr("Die Datei gibt es nicht mehr: %1").arg(QDir::toNativeSeparators(path)),
+            tr("Vielleicht wurde sie verschoben oder umbenannt. Suchen Sie sie über Datei > Öffnen."));
+        return;
+    }
+    leave([this, path] { openNow(path); });
+}
+
+void MvProjectFlow::openNow(const QString &path)
+{
+    QString error;
+    const QFileInfo file(path);
+    if (!m_project->open(file, &error)) {
+        MvStudioMessage::error(m_window, tr("Der Kalender lässt sich nicht öffnen."), error);
+        return;
+    }
+    MvStudioSettings::addRecentFile(path);
+    MvStudioSettings::setFolder(projectFolder, file.absolutePath());
+    Q_EMIT recentFilesChanged();
+    Q_EMIT message(tr("%1 geöffnet").arg(QDir::toNativeSeparators(file.absoluteFilePath())));
+    if (!m_project->notes().isEmpty())
+        MvStudioMessage::information(m_window,
+                                     tr("Nicht alles konnte so übernommen werden, wie es in der Datei steht."),
+                                     MvStudioMessage::shortened(m_project->notes(), 10));
+}
+
+void MvProjectFlow::save()
+{
+    saveThen({});
+}
+
+void MvProjectFlow::saveAs()
+{
+    saveAsThen({});
+}
+
+void MvProjectFlow::leave(const Then &then)
+{
+    if (!m_project->isModified()) {
+        then();
+        return;
+    }
+    QMessageBox *box = MvStudioMessage::question(
+        m_window, u"saveQuestion"_s, tr("„%1“ wurde geändert.").arg(m_project->displayName()),
+        tr("Sollen die Änderungen gespeichert werden? Verworfenes ist nicht wiederzubekommen."));
+    QPushButton *save = box->addButton(MvStudioMessage::buttonText(QDialogButtonBox::Save), QMessageBox::AcceptRole);
+    QPushButton *discard =
+        box->addButton(MvStudioMessage::buttonText(QDialogButtonBox::Discard), QMessageBox::DestructiveRole);
+    QPushButton *cancel =
+        box->addButton(MvStudioMessage::buttonText(QDialogButtonBox::Cancel), QMessageBox::RejectRole);
+    save->setObjectName(u"saveButton"_s);
+    discard->setObjectName(u"discardButton"_s);
+    cancel->setObjectName(u"cancelButton"_s);
+    box->setDefaultButton(save);
+    box->setEscapeButton(cancel);
+    connect(box, &QMessageBox::buttonClicked, this, [this, then, save, discard](QAbstractButton *button) {
+        if (button == save)
+            saveThen(then);
+        else if (button == discard)
+            then();
+    });
+    box->open();
+}
+
+void MvProjectFlow::saveThen(const Then &then)
+{
+    const QString path = m_project->fileInfo().filePath();
+    if (path.isEmpty())
+        saveAsThen(then);
+    else if (m_project->isFileChangedByOthers())
+        askAboutOthersChanges(then);
+    else
+        write(path, then);
+}
+
+void MvProjectFlow::askAboutOthersChanges(const Then &then)
+{
+    QMessageBox *box = MvStudioMessage::question(
+        m_window, u"changedByOthersQuestion"_s,
+        tr("Die Datei %1 wurde inzwischen von anderer Hand geändert oder gelöscht.")
+            .arg(QDir::toNativeSeparators(m_project->fileInfo().filePath())),
+        tr("Ersetzen Sie sie durch Ihren Stand, oder speichern Sie ihn unter einem anderen Namen."));
+    QPushButton *replace = box->addButton(tr("Ersetzen"), QMessageBox::DestructiveRole);
+    QPushButton *other = box->addButton(tr("Anderer Name …"), QMessageBox::AcceptRole);
+    QPushButton *cancel =
+        box->addButton(MvStudioMessage::buttonText(QDialogButtonBox::Cancel), QMessageBox::RejectRole);
+    replace->setObjectName(u"replaceButton"_s);
+    other->setObjectName(u"otherNameButton"_s);
+    box->setDefaultButton(other);
+    box->setEscapeButton(cancel);
+    connect(box, &QMessageBox::buttonClicked, this, [this, then, replace, other](QAbstractButton *button) {
+        if (button == replace)
+            write(m_project->fileInfo().filePath(), then);
+        else if (button == other)
+            saveAsThen(then);
+    });
+    box->open();
+}
+
+void MvProjectFlow::saveAsThen(const Then &then)
+{
+    QFileDialog *dialog = createFileDialog(tr("Kalender speichern"), QFileDialog::AcceptSave, m_window);
+    dialog->setLabelText(QFileDialog::Accept, MvStudioMessage::buttonText(QDialogButtonBox::Save));
+    if (!m_project->fileInfo().filePath().isEmpty())
+        dialog->setDirectory(m_project->fileInfo().absolutePath());
+    dialog->selectFile(fileNameOf(m_project->displayName()) + u'.' + MvProjectFile::suffix());
+    connect(dialog, &QFileDialog::fileSelected, this, [this, then](const QString &path) { write(path, then); });
+    dialog->open();
+}
+
+void MvProjectFlow::write(const QString &path, const Then &then)
+{
+    QString error;
+    const bool isSame = m_project->fileInfo().filePath() == path;
+    const bool isWritten = isSame ? m_project->save(&error) : m_project->saveAs(QFileInfo(path), &error);
+    if (!isWritten) {
+        MvStudioMessage::error(
+            m_window, tr("Der Kalender wurde nicht gespeichert."),
+            tr("%1\nSpeichern Sie ihn unter einem anderen Namen oder in einem anderen Ordner.").arg(error));
+        return;
+    }
+    MvStudioSettings::addRecentFile(path);
+    MvStudioSettings::setFolder(projectFolder, QFileInfo(path).absolutePath());
+    Q_EMIT recentFilesChanged();
+    Q_EMIT message(tr("%1 gespeichert").arg(QDir::toNativeSeparators(path)));
+    if (then)
+        then();
+}

@@ -1,0 +1,528 @@
+#include "pages/MvPageCanvas.h"
+
+#include "pages/MvPageDropTarget.h"
+#include "pages/MvPageItem.h"
+#include "pages/MvPagePhoto.h"
+#include "pages/MvPhotoHandle.h"
+
+#include "MvCalendar/MvGraphicsItemCalendariumCell.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvCore/MvApplicationLocale.h"
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvProject/MvProject.h"
+
+#include <QContextMenuEvent>
+#include <QGestureEvent>
+#include <QMenu>
+#include <QNativeGestureEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double zoomStep = 1.25;
+constexpr double unitsPerInch = 254.0; // tenths of a millimetre
+constexpr int fittingMargin = 8;       // pixels
+constexpr double photoStep = 0.05;     // of the frame, per key
+
+} // namespace
+
+MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
+    : QGraphicsView(parent)
+    , m_project(project)
+    , m_scene(new QGraphicsScene(this))
+    , m_item(new MvPageItem(project))
+    , m_photo(new MvPagePhoto(project, m_item, this))
+    , m_photoHandle(new MvPhotoHandle(project, m_item))
+    , m_dropTarget(new MvPageDropTarget(m_item))
+{
+    setObjectName(u"pageCanvas"_s);
+    setAccessibleName(tr("Kalenderseite"));
+    setFrameShape(QFrame::NoFrame);
+    setAlignment(Qt::AlignCenter);
+    setAcceptDrops(true);
+    setTransformationAnchor(NoAnchor);
+    setViewportUpdateMode(MinimalViewportUpdate);
+    // reaches the painter of every item, so that the cells of dates light up here and in no print
+    setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
+                   QPainter::RenderHints::fromInt(MvRenderingRule::InteractiveScreen));
+    viewport()->grabGesture(Qt::PinchGesture);
+    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex); // some dozens of items that come and go
+    m_scene->addItem(m_item);
+    setScene(m_scene);
+    applyPalette();
+    connect(m_scene, &QGraphicsScene::focusItemChanged, this, [this] {
+        if (focusDate().isValid())
+            m_keyboardDate = focusDate();
+    });
+    connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
+    connect(m_photo, &MvPagePhoto::message, this, &MvPageCanvas::message);
+    connect(project, &MvProject::pagesReset, this, [this] { setCurrentPage(currentPage()); });
+    connect(project, &MvProject::documentReplaced, this, &MvPageCanvas::onDocumentReplaced);
+    onRefreshed();
+}
+
+MvPageCanvas::~MvPageCanvas()
+{
+    delete m_item; // before the project's signals and the scene go
+}
+
+int MvPageCanvas::currentPage() const
+{
+    return m_item->page();
+}
+
+void MvPageCanvas::setCurrentPage(int page)
+{
+    const int last = int(m_project->document().pages().size()) - 1;
+    const int clamped = std::clamp(page, 0, std::max(0, last));
+    if (clamped == currentPage())
+        return;
+    m_photoHandle->cancelDrag();
+    m_item->setPage(clamped);
+    Q_EMIT currentPageChanged(clamped);
+}
+
+void MvPageCanvas::nextPage()
+{
+    setCurrentPage(currentPage() + 1);
+}
+
+void MvPageCanvas::previousPage()
+{
+    setCurrentPage(currentPage() - 1);
+}
+
+void MvPageCanvas::onDocumentReplaced()
+{
+    setFocusDate({});
+    setCurrentPage(0);
+    zoomToFit();
+}
+
+/// The page's rectangles are new: what stands on them follows.
+void MvPageCanvas::onRefreshed()
+{
+    m_scene->setSceneRect(m_item->boundingRect());
+    if (m_isFitted)
+        zoomToFit();
+    // new cells have taken the place of the one that the keyboard was at
+    if (m_keyboardDate.isValid() && !focusDate().isValid())
+        setFocusDate(m_keyboardDate);
+    updateDescription();
+}
+
+// ---------------------------------------------------------------------------------------------------- zoom and scroll
+
+double MvPageCanvas::pixelsPerUnit() const
+{
+    return logicalDpiX() / unitsPerInch;
+}
+
+double MvPageCanvas::zoom() const
+{
+    return transform().m11() / pixelsPerUnit();
+}
+
+double MvPageCanvas::fittingZoom() const
+{
+    const QRectF page = m_item->boundingRect();
+    if (page.isEmpty())
+        return 1.0;
+    const QSizeF room = maximumViewportSize() - QSize(2 * fittingMargin, 2 * fittingMargin);
+    return std::min(room.width() / page.width(), room.height() / page.height()) / pixelsPerUnit();
+}
+
+void MvPageCanvas::zoomToFit()
+{
+    m_isFitted = true;
+    applyZoom(fittingZoom(), viewport()->rect().center());
+}
+
+void MvPageCanvas::setZoom(double zoom)
+{
+    m_isFitted = false;
+    applyZoom(zoom, viewport()->rect().center());
+}
+
+void MvPageCanvas::zoomIn()
+{
+    setZoom(zoom() * zoomStep);
+}
+
+void MvPageCanvas::zoomOut()
+{
+    setZoom(zoom() / zoomStep);
+}
+
+/// The point of the viewport keeps its place on the page.
+void MvPageCanvas::applyZoom(double zoom, const QPointF &fixedPoint)
+{
+    const double scale = std::clamp(zoom, minimumZoom, maximumZoom) * pixelsPerUnit();
+    m_item->setPixelsPerUnit(scale * devicePixelRatioF());
+    if (qFuzzyCompare(scale, transform().m11()))
+        return;
+    const QPointF onPage = viewportTransform().inverted().map(fixedPoint);
+    setTransform(QTransform::fromScale(scale, scale));
+    const QPointF moved = viewportTransform().map(onPage) - fixedPoint;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));
+    Q_EMIT zoomChanged(this->zoom());
+}
+
+void MvPageCanvas::resizeEvent(QResizeEvent *event)
+{
+    QGraphicsView::resizeEvent(event);
+    if (m_isFitted)
+        zoomToFit();
+}
+
+void MvPageCanvas::wheelEvent(QWheelEvent *event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        QGraphicsView::wheelEvent(event);
+        return;
+    }
+    m_isFitted = false;
+    constexpr double anglePerStep = 120.0;
+    applyZoom(zoom() * std::pow(zoomStep, event->angleDelta().y() / anglePerStep), event->position());
+    event->accept();
+}
+
+bool MvPageCanvas::viewportEvent(QEvent *event)
+{
+    if (event->type() == QEvent::Gesture) {
+        auto *pinch = static_cast<QPinchGesture *>(static_cast<QGestureEvent *>(event)->gesture(Qt::PinchGesture));
+        if (pinch != nullptr) {
+            m_isFitted = false;
+            applyZoom(zoom() * pinch->scaleFactor(), viewport()->mapFromGlobal(pinch->hotSpot()));
+            return true;
+        }
+    }
+    if (event->type() == QEvent::NativeGesture) {
+        const auto *gesture = static_cast<QNativeGestureEvent *>(event);
+        if (gesture->gestureType() == Qt::ZoomNativeGesture) {
+            m_isFitted = false;
+            applyZoom(zoom() * (1.0 + gesture->value()), gesture->position());
+            return true;
+        }
+    }
+    return QGraphicsView::viewportEvent(event);
+}
+
+// ------------------------------------------------------------------------------------------------------------- pointer
+
+void MvPageCanvas::mousePressEvent(QMouseEvent *event)
+{
+    const bool isHand = event->button() == Qt::LeftButton && m_isSpaceDown;
+    if (event->button() != Qt::MiddleButton && !isHand) {
+        setFocusDate({});
+        QGraphicsView::mousePressEvent(event);
+        event->accept(); // days look at a press and let it pass; nothing around the canvas wants it
+        return;
+    }
+    m_isPanning = true;
+    m_panFrom = event->pos();
+    updateHand();
+}
+
+void MvPageCanvas::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_isPanning) {
+        QGraphicsView::mouseMoveEvent(event);
+        return;
+    }
+    const QPoint moved = event->pos() - m_panFrom;
+    m_panFrom = event->pos();
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - moved.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - moved.y());
+}
+
+void MvPageCanvas::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_isPanning) {
+        QGraphicsView::mouseReleaseEvent(event);
+        return;
+    }
+    m_isPanning = false;
+    updateHand();
+}
+
+/// The hand tool's cursor stands over those of the items.
+void MvPageCanvas::updateHand()
+{
+    setInteractive(!m_isPanning && !m_isSpaceDown);
+    if (m_isPanning)
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    else if (m_isSpaceDown)
+        viewport()->setCursor(Qt::OpenHandCursor);
+    else
+        viewport()->unsetCursor();
+}
+
+QDate MvPageCanvas::dateAt(const QPoint &position) const
+{
+    return m_item->dateAt(m_item->mapFromScene(mapToScene(position)));
+}
+
+QMenu *MvPageCanvas::createContextMenu(const QPoint &position)
+{
+    const QDate date = dateAt(position);
+    QMenu *menu = date.isValid() ? m_item->cells()->customEntryMenuForHoveredDate(date) : nullptr;
+    if (menu == nullptr)
+        menu = new QMenu(this);
+    menu->setObjectName(u"pageMenu"_s);
+    if (!menu->isEmpty())
+        menu->addSeparator();
+    m_photo->addActions(menu);
+    return menu;
+}
+
+void MvPageCanvas::contextMenuEvent(QContextMenuEvent *event)
+{
+    QPoint position = event->pos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        const QRectF rect = focusDate().isValid() ? m_item->dateRect(focusDate()) : m_item->pageRect();
+        position = mapFromScene(m_item->mapToScene(rect.center()));
+    }
+    QMenu *menu = createContextMenu(position);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(viewport()->mapToGlobal(position));
+    event->accept();
+}
+
+void MvPageCanvas::choosePhoto()
+{
+    m_photo->choose();
+}
+
+void MvPageCanvas::setPhoto(const QString &path)
+{
+    m_photo->set(path);
+}
+
+void MvPageCanvas::removePhoto()
+{
+    m_photo->remove();
+}
+
+// ------------------------------------------------------------------------------------------------------ drag and drop
+
+/// The day that a dragged photo would go to; an invalid date: to the page.
+QDate MvPageCanvas::showDropTarget(const QDropEvent *event)
+{
+    const QDate date = event->modifiers() & Qt::ShiftModifier ? QDate() : dateAt(event->position().toPoint());
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    if (date.isValid()) {
+        m_dropTarget->showAt(m_item->dateRect(date), tr("Foto für den %1").arg(locale.toString(date, u"d. MMMM"_s)));
+        return date;
+    }
+    MvPhotoFrame frame = m_item->shownPage().photoFrame();
+    if (!frame.isValid())
+        frame = MvPagePhoto::frameFor(m_draggedPhoto, m_project->document().format());
+    m_dropTarget->showAt(frame.rect(m_project->document().format()) & m_item->pageRect(), tr("Foto der Seite"));
+    return {};
+}
+
+void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
+{
+    m_draggedPhoto = MvPagePhoto::photoIn(event->mimeData());
+    if (m_draggedPhoto.isEmpty() || m_item->pageRect().isEmpty()) {
+        event->ignore();
+        return;
+    }
+    QGraphicsView::dragEnterEvent(event);
+    showDropTarget(event);
+    event->acceptProposedAction();
+    Q_EMIT message(tr("Loslassen setzt das Foto ein. Mit gedrückter Umschalttaste wird es das Foto der Seite."));
+}
+
+void MvPageCanvas::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (m_draggedPhoto.isEmpty()) {
+        event->ignore();
+        return;
+    }
+    QGraphicsView::dragMoveEvent(event);
+    showDropTarget(event);
+    event->acceptProposedAction();
+}
+
+void MvPageCanvas::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    QGraphicsView::dragLeaveEvent(event);
+    m_dropTarget->hide();
+    m_draggedPhoto.clear();
+    Q_EMIT message({});
+}
+
+void MvPageCanvas::dropEvent(QDropEvent *event)
+{
+    if (m_draggedPhoto.isEmpty())
+        return;
+    const QString photo = std::exchange(m_draggedPhoto, {});
+    const bool isForDay = showDropTarget(event).isValid();
+    m_dropTarget->hide();
+    Q_EMIT message({});
+    if (isForDay)
+        QGraphicsView::dropEvent(event); // the day's cell takes it
+    else
+        m_photo->set(photo);
+    event->acceptProposedAction();
+}
+
+// ------------------------------------------------------------------------------------------------------------ keyboard
+
+void MvPageCanvas::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_PageDown:
+        nextPage();
+        return;
+    case Qt::Key_PageUp:
+        previousPage();
+        return;
+    case Qt::Key_Home:
+        setCurrentPage(0);
+        return;
+    case Qt::Key_End:
+        setCurrentPage(int(m_project->document().pages().size()) - 1);
+        return;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        if (event->modifiers() & Qt::AltModifier)
+            movePhoto(event->key());
+        else if (!beginAtFirstDate() && !turnPageByArrow(event->key()))
+            QGraphicsView::keyPressEvent(event); // the day's cell goes on
+        return;
+    case Qt::Key_Escape:
+        if (m_photoHandle->isDragging())
+            m_photoHandle->cancelDrag();
+        else
+            setFocusDate({});
+        return;
+    case Qt::Key_Space:
+        if (focusDate().isValid()) {
+            QGraphicsView::keyPressEvent(event);
+        } else if (!event->isAutoRepeat()) {
+            m_isSpaceDown = true;
+            updateHand();
+        }
+        return;
+    default:
+        QGraphicsView::keyPressEvent(event);
+    }
+}
+
+void MvPageCanvas::keyReleaseEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Space) {
+        QGraphicsView::keyReleaseEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat()) {
+        m_isSpaceDown = false;
+        updateHand();
+    }
+}
+
+void MvPageCanvas::focusInEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusInEvent(event);
+    const bool isByKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+                              event->reason() == Qt::ShortcutFocusReason;
+    if (isByKeyboard && !setFocusDate(m_keyboardDate))
+        beginAtFirstDate();
+}
+
+void MvPageCanvas::focusOutEvent(QFocusEvent *event)
+{
+    QGraphicsView::focusOutEvent(event);
+    m_isSpaceDown = false;
+    m_isPanning = false;
+    updateHand();
+}
+
+QDate MvPageCanvas::focusDate() const
+{
+    const auto *cell = qobject_cast<MvGraphicsItemCalendariumCell *>(
+        m_scene->focusItem() != nullptr ? m_scene->focusItem()->toGraphicsObject() : nullptr);
+    return cell != nullptr ? cell->date() : QDate();
+}
+
+bool MvPageCanvas::setFocusDate(const QDate &date)
+{
+    if (date.isValid() && m_item->cells()->focusDate(date))
+        return true;
+    m_keyboardDate = {};
+    m_scene->setFocusItem(nullptr);
+    return false;
+}
+
+/// Where the keyboard begins when it is at no day: the first one of the page's month.
+bool MvPageCanvas::beginAtFirstDate()
+{
+    if (focusDate().isValid())
+        return false;
+    const QDate first = m_item->shownPage().contentConfig().date();
+    return setFocusDate(first) || setFocusDate(m_item->dates().value(0));
+}
+
+/// Beyond the page's days the calendar goes on with the next or the last page.
+bool MvPageCanvas::turnPageByArrow(int key)
+{
+    constexpr int week = 7;
+    const QDate date = focusDate();
+    const int days = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : key == Qt::Key_Down ? week : -week;
+    const QDate next = date.addDays(days);
+    const int page = currentPage();
+    if (!date.isValid() || !m_item->dateRect(next).isEmpty())
+        return false;
+    setCurrentPage(page + (days > 0 ? 1 : -1));
+    if (currentPage() == page)
+        return true;       // the calendar ends here
+    m_keyboardDate = next; // taken up with the new page's cells
+    m_scene->setFocusItem(nullptr);
+    return true;
+}
+
+void MvPageCanvas::movePhoto(int key)
+{
+    const double x = key == Qt::Key_Right ? photoStep : key == Qt::Key_Left ? -photoStep : 0.0;
+    const double y = key == Qt::Key_Down ? photoStep : key == Qt::Key_Up ? -photoStep : 0.0;
+    m_photoHandle->moveFocus({x, y});
+}
+
+/// What a screen reader says of the page; its days tell for themselves.
+void MvPageCanvas::updateDescription()
+{
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    setAccessibleDescription(tr("Seite %1 von %2: %3")
+                                 .arg(currentPage() + 1)
+                                 .arg(m_project->document().pages().size())
+                                 .arg(locale.toString(m_item->shownPage().contentConfig().date(), u"MMMM yyyy"_s)));
+}
+
+// ------------------------------------------------------------------------------------------------------------ painting
+
+void MvPageCanvas::changeEvent(QEvent *event)
+{
+    QGraphicsView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        applyPalette();
+}
+
+/// A table under the paper: a little darker than the window's panels.
+void MvPageCanvas::applyPalette()
+{
+    constexpr int darker = 112;
+    const QBrush table(palette().color(QPalette::Window).darker(darker));
+    if (backgroundBrush() != table)
+        setBackgroundBrush(table);
+}

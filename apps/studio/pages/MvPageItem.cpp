@@ -1,0 +1,266 @@
+#include "pages/MvPageItem.h"
+
+#include "pages/MvScreenPhotos.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCell.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvFoto/MvFotoStock.h"
+#include "MvProject/MvProject.h"
+
+#include <QFileInfo>
+#include <QPainter>
+#include <QTimerEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr qint64 photoBytes = qint64(192) << 20;
+constexpr int shadowWidth = 44; // tenths of a millimetre
+constexpr int shadowSteps = 16;
+const QColor shadowColor(0, 0, 0, 4);
+const QColor placeholderColor(0xe4, 0xe6, 0xe9);
+const QColor placeholderTextColor(0x55, 0x5b, 0x63);
+
+/// Translation in whole pixels; what is left of the transform decides how the pixels look.
+QPoint takeWholePixels(QTransform *transform)
+{
+    const QPoint whole(int(std::floor(transform->dx())), int(std::floor(transform->dy())));
+    *transform *= QTransform::fromTranslate(-whole.x(), -whole.y());
+    return whole;
+}
+
+QRect pixelsOf(const QTransform &transform, const QRectF &rect)
+{
+    return transform.mapRect(rect).toAlignedRect();
+}
+
+} // namespace
+
+MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
+    : QGraphicsObject(parent)
+    , m_project(project)
+    , m_photos(std::make_unique<MvScreenPhotos>(photoBytes))
+    , m_entryPhotos(std::make_unique<MvFotoStock>())
+    , m_cells(std::make_unique<MvGraphicsItemCalendariumCellsManager>(this))
+{
+    connect(project, &MvProject::pageChanged, this, [this](int page) {
+        if (page == m_page)
+            refresh();
+    });
+    connect(project, &MvProject::pagesReset, this, &MvPageItem::refresh);
+    connect(project, &MvProject::documentReplaced, this, &MvPageItem::refresh);
+    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
+    connect(m_photos.get(), &MvScreenPhotos::loaded, this, &MvPageItem::discardCache);
+    connect(m_entryPhotos.get(), &MvFotoStock::arrived, this, &MvPageItem::refresh);
+    refreshNow();
+}
+
+MvPageItem::~MvPageItem() = default;
+
+void MvPageItem::setPage(int page)
+{
+    if (m_page == page)
+        return;
+    m_page = page;
+    m_trial.reset();
+    refresh();
+}
+
+void MvPageItem::setTrial(const std::optional<MvCalendarPage> &page)
+{
+    m_trial = page;
+    refresh();
+}
+
+QRectF MvPageItem::photoRect() const
+{
+    const MvPhotoFrame &frame = m_shown.photoFrame();
+    return frame.isValid() ? frame.rect(m_project->document().format()) & m_pageRect : QRectF();
+}
+
+QDate MvPageItem::dateAt(const QPointF &point) const
+{
+    for (auto it = m_dates.begin(); it != m_dates.end(); ++it) {
+        if (it.value().contains(point))
+            return it.key();
+    }
+    return {};
+}
+
+QList<QDate> MvPageItem::dates() const
+{
+    QList<QDate> dates = m_dates.keys();
+    std::sort(dates.begin(), dates.end());
+    return dates;
+}
+
+void MvPageItem::setPixelsPerUnit(double pixels)
+{
+    // in steps, so that zooming does not record for every factor
+    const double needed = std::exp2(std::ceil(std::log2(std::max(pixels, 0.125))));
+    if (needed <= m_pixelsPerUnit)
+        return;
+    m_pixelsPerUnit = needed;
+    refresh();
+}
+
+void MvPageItem::refresh()
+{
+    m_timer.start(0, this);
+}
+
+void MvPageItem::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() == m_timer.timerId())
+        refreshNow();
+}
+
+void MvPageItem::refreshNow()
+{
+    m_timer.stop();
+    const MvCalendarDocument &document = m_project->document();
+    const bool isThere = m_page >= 0 && m_page < document.pages().size();
+    m_shown = m_trial ? *m_trial : isThere ? document.pages().at(m_page) : MvCalendarPage();
+    const QRectF pageRect = isThere ? document.format().trimRect() : QRectF();
+    if (pageRect != m_pageRect) {
+        prepareGeometryChange();
+        m_pageRect = pageRect;
+    }
+    record();
+    discardCache();
+    Q_EMIT refreshed();
+}
+
+void MvPageItem::record()
+{
+    m_dates.clear();
+    m_recording = {};
+    if (m_pageRect.isEmpty())
+        return;
+    removeOutdatedCells();
+    m_cells->setHolidayConfig(m_shown.contentConfig().holidayConfig());
+    const auto listen = [this](MvCalendariumRenderer &renderer) {
+        MvGraphicsItemCalendariumCellsManager *cells = m_cells.get();
+        connect(&renderer, &MvCalendariumRenderer::rectForDatesRestart, cells,
+                &MvGraphicsItemCalendariumCellsManager::resetRectsForMonth);
+        connect(&renderer, &MvCalendariumRenderer::rectForDateFound, cells,
+                &MvGraphicsItemCalendariumCellsManager::addRectForDate);
+        connect(&renderer, &MvCalendariumRenderer::hasTitleLineMayHaveChanged, cells,
+                &MvGraphicsItemCalendariumCellsManager::resetRectsForTitleLine);
+        connect(&renderer, &MvCalendariumRenderer::rectForDateFound, this,
+                [this](const QDate &date, const QRectF &rect) { m_dates.insert(date, rect); });
+    };
+    const MvCalendarDocument &document = m_project->document();
+    const MvFotoStock::Use use(*m_entryPhotos);
+    m_recording = m_shown.record(document.format(), document.range(), listen,
+                                 MvRenderingRule(MvRenderingRule::InteractiveScreen), m_pixelsPerUnit);
+}
+
+/// The manager keeps the cells of a month as long as its rectangle stays; another layout has other cells there.
+void MvPageItem::removeOutdatedCells()
+{
+    const bool isSameLayout = m_shown.contentConfig().date() == m_cellsPage.contentConfig().date() &&
+                              m_shown.appearance().layoutSchema() == m_cellsPage.appearance().layoutSchema();
+    if (!isSameLayout)
+        m_cells->setStartDate(QDate());
+    m_cellsPage = m_shown;
+}
+
+void MvPageItem::discardCache()
+{
+    m_cache = {};
+    update();
+}
+
+QRectF MvPageItem::boundingRect() const
+{
+    return m_pageRect.adjusted(-shadowWidth, -shadowWidth, shadowWidth, shadowWidth);
+}
+
+void MvPageItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*option*/, QWidget * /*widget*/)
+{
+    if (m_pageRect.isEmpty())
+        return;
+    const QPaintDevice *device = painter->device();
+    const double ratio = device->devicePixelRatioF();
+    QTransform transform = painter->worldTransform() * QTransform::fromScale(ratio, ratio);
+    const QPoint origin = takeWholePixels(&transform);
+    const QRect all = pixelsOf(transform, boundingRect());
+    const QRect screen = QRect(-origin, QSize(device->width(), device->height()) * ratio);
+    if (m_cache.transform != transform || !m_cache.rect.contains(all & screen)) {
+        // a little more than what is seen, so that scrolling finds it there
+        const QRect area =
+            all & screen.adjusted(-screen.width() / 4, -screen.height() / 4, screen.width() / 4, screen.height() / 4);
+        if (area.isEmpty())
+            return;
+        m_cache = {QPixmap(area.size()), transform, area};
+        m_cache.pixels.fill(Qt::transparent);
+        QPainter into(&m_cache.pixels);
+        into.setRenderHints(painter->renderHints());
+        into.setTransform(transform * QTransform::fromTranslate(-area.x(), -area.y()));
+        paintInto(into);
+        into.end();
+        m_cache.pixels.setDevicePixelRatio(ratio);
+    }
+    painter->save();
+    painter->resetTransform();
+    painter->drawPixmap(QPointF(m_cache.rect.topLeft() + origin) / ratio, m_cache.pixels);
+    painter->restore();
+}
+
+void MvPageItem::paintInto(QPainter &painter) const
+{
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    paintShadow(painter);
+    painter.fillRect(m_pageRect, Qt::white);
+    painter.setClipRect(m_pageRect);
+    m_shown.paintGround(painter, m_project->document().format());
+    paintPhoto(painter);
+    m_recording.replay(painter);
+}
+
+void MvPageItem::paintShadow(QPainter &painter) const
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(shadowColor);
+    for (int step = 1; step <= shadowSteps; ++step) {
+        const double reach = double(shadowWidth) * step / shadowSteps;
+        const QRectF rect = m_pageRect.adjusted(-reach * 0.7, -reach * 0.5, reach * 0.7, reach);
+        painter.drawRoundedRect(rect, reach, reach);
+    }
+}
+
+void MvPageItem::paintPhoto(QPainter &painter) const
+{
+    const MvPhotoFrame &frame = m_shown.photoFrame();
+    if (!frame.isValid())
+        return;
+    const QRectF rect = frame.rect(m_project->document().format());
+    const QImage image = m_photos->photo(frame.path(), MvScreenPhotos::boundsFor(painter.transform().mapRect(rect)));
+    if (image.isNull()) {
+        paintPhotoNotice(painter, rect);
+        return;
+    }
+    painter.drawImage(rect, image, frame.crop(image.size(), rect.size()));
+}
+
+/// In the photo's place while it is being decoded, or when there is none to be seen.
+void MvPageItem::paintPhotoNotice(QPainter &painter, const QRectF &rect) const
+{
+    painter.fillRect(rect, placeholderColor);
+    const QString path = m_shown.photoFrame().path();
+    const QString text = m_photos->isUnreadable(path)
+                             ? tr("„%1“ lässt sich nicht lesen.\nDas Kontextmenü ersetzt das Foto durch ein anderes.")
+                                   .arg(QFileInfo(path).fileName())
+                             : tr("Das Foto wird geladen …");
+    painter.save();
+    const QRect pixels = painter.transform().mapRect(rect & m_pageRect).toAlignedRect();
+    painter.resetTransform();
+    painter.setPen(placeholderTextColor);
+    painter.drawText(pixels, Qt::AlignCenter | Qt::TextWordWrap, text);
+    painter.restore();
+}

@@ -1,0 +1,182 @@
+#include "pages/MvPagePhoto.h"
+
+#include "pages/MvPageItem.h"
+
+#include "MvImageLoader/MvImageLoader.h"
+#include "MvProject/MvProject.h"
+
+#include <QActionGroup>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMimeData>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Beside a photo, the columns of a month need room for the names of holidays.
+double usualShare(MvPhotoFrame::Placement placement)
+{
+    constexpr double besideShare = 0.4;
+    return placement == MvPhotoFrame::Placement::Top ? MvPhotoFrame::defaultShare : besideShare;
+}
+
+} // namespace
+
+MvPagePhoto::MvPagePhoto(MvProject *project, MvPageItem *item, QWidget *parent)
+    : QObject(parent)
+    , m_project(project)
+    , m_item(item)
+    , m_parent(parent)
+{}
+
+QString MvPagePhoto::photoIn(const QMimeData *data)
+{
+    for (const QUrl &url : data->urls()) {
+        const QString path = url.toLocalFile();
+        if (!path.isEmpty() && !MvImageLoader::format(QFileInfo(path)).isEmpty())
+            return path;
+    }
+    return {};
+}
+
+MvPhotoFrame MvPagePhoto::frameFor(const QString &path, const MvPageFormat &format)
+{
+    MvPhotoFrame frame(path);
+    const QSize photo = MvImageLoader::instance().size(QFileInfo(path));
+    if (format.orientation() == MvPageFormat::Orientation::Landscape && photo.height() > photo.width()) {
+        frame.setPlacement(MvPhotoFrame::Placement::Left);
+        frame.setShare(usualShare(frame.placement()));
+    }
+    return frame;
+}
+
+void MvPagePhoto::choose()
+{
+    auto *dialog = new QFileDialog(m_parent, tr("Foto für die Seite wählen"));
+    dialog->setObjectName(u"photoDialog"_s);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters(
+        {tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s), tr("Alle Dateien (*)")});
+    const MvPhotoFrame &frame = m_item->shownPage().photoFrame();
+    dialog->setDirectory(frame.isValid() ? QFileInfo(frame.path()).absolutePath()
+                                         : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) { set(path); });
+    dialog->open();
+}
+
+bool MvPagePhoto::set(MvProject *project, int page, const QString &path)
+{
+    if (MvImageLoader::format(QFileInfo(path)).isEmpty())
+        return false;
+    const MvPhotoFrame added = frameFor(path, project->document().format());
+    change(project, page, tr("Foto einfügen"), [&](MvPhotoFrame &frame) {
+        if (frame.isValid()) {
+            frame.setPath(path);
+            frame.setFocus({0.5, 0.5});
+        } else {
+            frame = added;
+        }
+    });
+    return true;
+}
+
+void MvPagePhoto::set(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    if (set(m_project, m_item->page(), path))
+        Q_EMIT message(tr("„%1“ ist jetzt das Foto der Seite.").arg(name));
+    else
+        Q_EMIT message(
+            tr("„%1“ ist kein Foto, das gelesen werden kann. Möglich sind JPEG, PNG, TIFF, WebP, BMP und GIF.")
+                .arg(name));
+}
+
+void MvPagePhoto::remove()
+{
+    change(tr("Foto entfernen"), [](MvPhotoFrame &frame) { frame = {}; });
+}
+
+void MvPagePhoto::addActions(QMenu *menu)
+{
+    const bool hasPhoto = m_item->shownPage().photoFrame().isValid();
+    QAction *choosing = menu->addAction(hasPhoto ? tr("Foto &ersetzen…") : tr("&Foto für die Seite wählen…"));
+    choosing->setObjectName(u"choosePhoto"_s);
+    connect(choosing, &QAction::triggered, this, &MvPagePhoto::choose);
+    if (!hasPhoto)
+        return;
+    addPlacements(menu->addMenu(tr("&Platz des Fotos")));
+    addSizes(menu->addMenu(tr("&Größe des Fotos")));
+    QAction *centring = menu->addAction(tr("Ausschnitt &zur Mitte"));
+    centring->setObjectName(u"centrePhoto"_s);
+    connect(centring, &QAction::triggered, this, [this] {
+        change(tr("Ausschnitt des Fotos verschieben"), [](MvPhotoFrame &frame) { frame.setFocus({0.5, 0.5}); });
+    });
+    QAction *removing = menu->addAction(tr("Foto ent&fernen"));
+    removing->setObjectName(u"removePhoto"_s);
+    connect(removing, &QAction::triggered, this, &MvPagePhoto::remove);
+}
+
+void MvPagePhoto::addPlacements(QMenu *menu)
+{
+    using Placement = MvPhotoFrame::Placement;
+    auto *group = new QActionGroup(menu);
+    const MvPhotoFrame::Placement current = m_item->shownPage().photoFrame().placement();
+    const auto add = [&](Placement placement, const QString &text, const QString &name) {
+        QAction *action = menu->addAction(text);
+        action->setObjectName(name);
+        action->setCheckable(true);
+        action->setChecked(placement == current);
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, placement] {
+            change(tr("Platz des Fotos ändern"), [placement](MvPhotoFrame &frame) {
+                if (frame.share() == usualShare(frame.placement())) // one that nobody has changed
+                    frame.setShare(usualShare(placement));
+                frame.setPlacement(placement);
+            });
+        });
+    };
+    add(Placement::Top, tr("&Oben"), u"photoTop"_s);
+    add(Placement::Left, tr("&Links"), u"photoLeft"_s);
+    add(Placement::Right, tr("&Rechts"), u"photoRight"_s);
+}
+
+void MvPagePhoto::addSizes(QMenu *menu)
+{
+    auto *group = new QActionGroup(menu);
+    const int current = int(std::lround(m_item->shownPage().photoFrame().share() * 100.0));
+    for (const int percent : {30, 40, 50, 55, 60, 70, 75}) {
+        QAction *action = menu->addAction(tr("%1 % der Seite").arg(percent));
+        action->setObjectName(u"photoSize%1"_s.arg(percent));
+        action->setCheckable(true);
+        action->setChecked(percent == current);
+        group->addAction(action);
+        connect(action, &QAction::triggered, this, [this, percent] {
+            change(tr("Größe des Fotos ändern"), [percent](MvPhotoFrame &frame) { frame.setShare(percent / 100.0); });
+        });
+    }
+}
+
+void MvPagePhoto::change(const QString &text, const std::function<void(MvPhotoFrame &)> &edit)
+{
+    change(m_project, m_item->page(), text, edit);
+}
+
+void MvPagePhoto::change(MvProject *project, int page, const QString &text,
+                         const std::function<void(MvPhotoFrame &)> &edit)
+{
+    const QList<MvCalendarPage> &pages = project->document().pages();
+    if (page < 0 || page >= pages.size())
+        return;
+    MvCalendarPage changed = pages.at(page);
+    MvPhotoFrame frame = changed.photoFrame();
+    edit(frame);
+    changed.setPhotoFrame(frame);
+    project->changePage(page, changed, text);
+}

@@ -1,0 +1,238 @@
+#include "pages/MvPageStrip.h"
+
+#include "common/MvIdleImages.h"
+#include "pages/MvPagePhoto.h"
+#include "pages/MvPageStripDelegate.h"
+#include "pages/MvPageStripModel.h"
+#include "pages/MvPageThumbnail.h"
+#include "pages/MvScreenPhotos.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvFoto/MvFotoStock.h"
+#include "MvProject/MvProject.h"
+
+#include <QDragEnterEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 photoBytes = qint64(48) << 20;
+constexpr int changeDelay = 150; // milliseconds without a further change before thumbnails follow
+constexpr int entriesDelay = 300;
+constexpr int smallestWidth = 72; // of a thumbnail, logical pixels
+constexpr int largestWidth = 220;
+constexpr int usualWidth = 132;
+constexpr double largestProportion = 1.5; // height to width: thin pages do not fill the strip alone
+
+} // namespace
+
+MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
+    : QListView(parent)
+    , m_project(project)
+    , m_images(new MvIdleImages([this](int page) { return makeThumbnail(page); }, this))
+    , m_photos(new MvScreenPhotos(photoBytes, this))
+    , m_entryPhotos(new MvFotoStock(this))
+    , m_model(new MvPageStripModel(project, m_images, this))
+    , m_delegate(new MvPageStripDelegate(this))
+{
+    setObjectName(u"pageStrip"_s);
+    setAccessibleName(tr("Seiten"));
+    setFrameShape(QFrame::NoFrame);
+    setModel(m_model);
+    setItemDelegate(m_delegate);
+    setUniformItemSizes(true);
+    setMouseTracking(true);
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or its coming would change the width that made it come
+    setAcceptDrops(true);
+    setMinimumWidth(smallestWidth + 2 * MvPageStripDelegate::margin + verticalScrollBar()->sizeHint().width());
+    m_images->setPaused(true); // until somebody sees the strip
+    connect(m_images, &MvIdleImages::imageReady, m_model, &MvPageStripModel::updateRow);
+    connect(m_photos, &MvScreenPhotos::loaded, this, &MvPageStrip::onPhotoLoaded);
+    connect(m_entryPhotos, &MvFotoStock::arrived, this, [this](int page) { m_images->invalidate(page); });
+    connect(project, &MvProject::pageChanged, this, [this](int page) {
+        m_images->invalidate(page, changeDelay);
+        m_model->updateRow(page);
+    });
+    connect(project, &MvProject::pagesReset, this, &MvPageStrip::onPagesReset);
+    connect(project, &MvProject::documentReplaced, this, [this] {
+        m_images->forget();
+        m_photos->clear();
+        onPagesReset();
+        setCurrentPage(0);
+    });
+    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this,
+            [this] { m_images->invalidateAll(entriesDelay); });
+    onPagesReset();
+    setCurrentPage(0);
+}
+
+MvPageStrip::~MvPageStrip() = default;
+
+int MvPageStrip::currentPage() const
+{
+    return currentIndex().row();
+}
+
+QImage MvPageStrip::thumbnail(int page) const
+{
+    return m_images->image(page);
+}
+
+bool MvPageStrip::isComplete() const
+{
+    return m_images->isComplete();
+}
+
+QSize MvPageStrip::sizeHint() const
+{
+    const int width = usualWidth + 2 * MvPageStripDelegate::margin + verticalScrollBar()->sizeHint().width();
+    return {width, QListView::sizeHint().height()};
+}
+
+void MvPageStrip::onPagesReset()
+{
+    const int page = std::max(0, currentPage());
+    m_isMarking = true;
+    m_images->reset(int(m_project->document().pages().size()));
+    m_model->reset();
+    m_isMarking = false;
+    adaptToWidth();
+    setCurrentPage(std::min(page, m_model->rowCount() - 1));
+}
+
+void MvPageStrip::setCurrentPage(int page)
+{
+    m_isMarking = true;
+    setCurrentIndex(m_model->index(page));
+    m_isMarking = false;
+    preferVisible();
+}
+
+void MvPageStrip::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QListView::currentChanged(current, previous);
+    if (!m_isMarking && current.isValid())
+        Q_EMIT pageActivated(current.row());
+}
+
+/// A thumbnail as wide as the strip allows, of the page's proportions.
+void MvPageStrip::adaptToWidth()
+{
+    const QSizeF page = m_project->document().format().trimSize();
+    const double proportion = page.isEmpty() ? 1.0 : page.height() / page.width();
+    const int room = std::clamp(viewport()->width() - 2 * MvPageStripDelegate::margin, smallestWidth, largestWidth);
+    QSize size(room, qRound(room * proportion));
+    if (proportion > largestProportion)
+        size = QSize(qRound(room * largestProportion / proportion), qRound(room * largestProportion));
+    if (size == m_thumbnailSize)
+        return;
+    m_thumbnailSize = size;
+    m_delegate->setThumbnailSize(size);
+    m_images->invalidateAll(changeDelay);
+    scheduleDelayedItemsLayout();
+}
+
+/// The current page's thumbnail comes first, then those in sight.
+void MvPageStrip::preferVisible()
+{
+    QList<int> pages = {currentPage()};
+    const QModelIndex first = indexAt(viewport()->rect().center() - QPoint(0, viewport()->height() / 2 - 1));
+    for (int row = std::max(0, first.row()); row < m_model->rowCount(); ++row) {
+        if (!visualRect(m_model->index(row)).intersects(viewport()->rect()))
+            break;
+        pages.append(row);
+    }
+    m_images->prefer(pages);
+}
+
+QImage MvPageStrip::makeThumbnail(int page)
+{
+    const MvCalendarDocument &document = m_project->document();
+    if (page >= document.pages().size())
+        return {};
+    const MvFotoStock::Use use(*m_entryPhotos, page);
+    return MvPageThumbnail::make(document.pages().at(page), document.format(), document.range(), m_thumbnailSize,
+                                 devicePixelRatioF(), m_photos);
+}
+
+void MvPageStrip::onPhotoLoaded(const QString &path)
+{
+    const QList<MvCalendarPage> &pages = m_project->document().pages();
+    for (int page = 0; page < pages.size(); ++page) {
+        if (pages.at(page).photoFrame().path() == path)
+            m_images->invalidate(page);
+    }
+}
+
+void MvPageStrip::resizeEvent(QResizeEvent *event)
+{
+    QListView::resizeEvent(event);
+    adaptToWidth();
+    preferVisible();
+}
+
+void MvPageStrip::scrollContentsBy(int dx, int dy)
+{
+    QListView::scrollContentsBy(dx, dy);
+    preferVisible();
+}
+
+void MvPageStrip::showEvent(QShowEvent *event)
+{
+    QListView::showEvent(event);
+    preferVisible();
+    m_images->setPaused(false);
+}
+
+void MvPageStrip::hideEvent(QHideEvent *event)
+{
+    QListView::hideEvent(event);
+    m_images->setPaused(true);
+}
+
+bool MvPageStrip::event(QEvent *event)
+{
+    if (event->type() == QEvent::ScreenChangeInternal)
+        m_images->invalidateAll(changeDelay); // another screen may have smaller pixels
+    return QListView::event(event);
+}
+
+// A photo that is dropped on a thumbnail becomes that page's photo.
+
+void MvPageStrip::dragEnterEvent(QDragEnterEvent *event)
+{
+    event->setAccepted(!MvPagePhoto::photoIn(event->mimeData()).isEmpty());
+}
+
+void MvPageStrip::dragMoveEvent(QDragMoveEvent *event)
+{
+    const QModelIndex index = indexAt(event->position().toPoint());
+    event->setAccepted(index.isValid());
+    m_isMarking = true; // shows the target without turning to the page
+    selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+    m_isMarking = false;
+}
+
+void MvPageStrip::dragLeaveEvent(QDragLeaveEvent * /*event*/)
+{
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+}
+
+void MvPageStrip::dropEvent(QDropEvent *event)
+{
+    const int page = indexAt(event->position().toPoint()).row();
+    selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+    const QString path = MvPagePhoto::photoIn(event->mimeData());
+    if (page < 0 || path.isEmpty())
+        return;
+    MvPagePhoto::set(m_project, page, path);
+    event->acceptProposedAction();
+}

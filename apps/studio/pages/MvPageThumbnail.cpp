@@ -1,0 +1,52 @@
+#include "pages/MvPageThumbnail.h"
+
+#include "pages/MvScreenPhotos.h"
+
+#include "MvProject/MvCalendarPage.h"
+
+#include <QPainter>
+
+namespace {
+
+const QColor placeholderColor(0xe4, 0xe6, 0xe9);
+
+/// So small, lines and letters cover only a part of their pixels: drawn again, they are as dark as they should be.
+constexpr int passes = 2;
+
+void paintPhoto(QPainter &painter, const MvPhotoFrame &frame, const QRectF &rect, MvScreenPhotos *photos)
+{
+    if (rect.isEmpty())
+        return;
+    const QSize bounds = MvScreenPhotos::boundsFor(painter.transform().mapRect(rect));
+    const QImage image = photos != nullptr ? photos->photo(frame.path(), bounds) : QImage();
+    if (image.isNull())
+        painter.fillRect(rect, placeholderColor);
+    else
+        painter.drawImage(rect, image, frame.crop(image.size(), rect.size()));
+}
+
+} // namespace
+
+QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &format, const MvDateRange &range,
+                             const QSize &size, double ratio, MvScreenPhotos *photos)
+{
+    if (!format.isValid() || size.isEmpty())
+        return {};
+    QImage image(size * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    const double scaleX = image.width() / format.trimSize().width();
+    const double scaleY = image.height() / format.trimSize().height();
+    const MvRenderingRule rule(MvRenderingRule::Thumbnail);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    rule.encodeInto(painter);
+    painter.scale(scaleX, scaleY);
+    page.paintGround(painter, format);
+    paintPhoto(painter, page.photoFrame(), page.photoFrame().rect(format), photos);
+    const MvPaintRecording calendarium = page.record(format, range, {}, rule, scaleX);
+    for (int pass = 0; pass < passes; ++pass)
+        calendarium.replay(painter);
+    painter.end();
+    image.setDevicePixelRatio(ratio);
+    return image;
+}

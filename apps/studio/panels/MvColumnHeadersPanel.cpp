@@ -1,0 +1,99 @@
+#include "panels/MvColumnHeadersPanel.h"
+
+#include "common/MvStudioMerge.h"
+#include "panels/MvPageEdits.h"
+
+#include "MvCalendar/MvCalendariumColumnHeadersEditor.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The first layout that is made for columns; an invalid one when there is none.
+MvCalendariumLayoutSchema layoutWithColumns()
+{
+    const MvCalendariumLayoutSchemaList schemata = MvCalendariumLayoutSchemaRegistry::instance().schemata();
+    const auto found = std::find_if(schemata.begin(), schemata.end(), [](const MvCalendariumLayoutSchema &schema) {
+        return schema.calendariumType() == CALENDAR_ONE_DAY_PER_ROW && !schema.suggestedColumnHeaders().isEmpty();
+    });
+    return found != schemata.end() ? *found : MvCalendariumLayoutSchema();
+}
+
+} // namespace
+
+MvColumnHeadersPanel::MvColumnHeadersPanel(MvPageEdits *edits, QWidget *parent)
+    : MvPagePanel(edits, parent)
+    , m_stack(new QStackedWidget(this))
+    , m_editing(new QWidget(this))
+    , m_emptyState(createEmptyState())
+    , m_editor(new MvCalendariumColumnHeadersEditor(this))
+{
+    setObjectName(u"columnHeadersPanel"_s);
+    addScopeSwitch();
+    auto *column = new QVBoxLayout(m_editing);
+    column->setContentsMargins({});
+    column->addWidget(m_editor);
+    column->addStretch(1);
+    m_stack->addWidget(m_editing);
+    m_stack->addWidget(m_emptyState);
+    addScrollingColumn()->addWidget(m_stack);
+    connect(m_editor, &MvCalendariumColumnHeadersEditor::headersChanged, this, &MvColumnHeadersPanel::onHeadersChanged);
+}
+
+QWidget *MvColumnHeadersPanel::createEmptyState()
+{
+    auto *state = new QWidget(this);
+    auto *text = new QLabel(tr("Dieses Layout hat keine Spalten mit Überschriften."), state);
+    text->setObjectName(u"noColumns"_s);
+    text->setWordWrap(true);
+    text->setAlignment(Qt::AlignCenter);
+    auto *column = new QVBoxLayout(state);
+    column->addStretch(1);
+    column->addWidget(text);
+    const MvCalendariumLayoutSchema layout = layoutWithColumns();
+    if (layout.isValid()) {
+        auto *choose = new QPushButton(tr("Layout „%1“ nehmen").arg(layout.name()), state);
+        choose->setObjectName(u"chooseColumnsLayout"_s);
+        choose->setToolTip(layout.description());
+        connect(choose, &QPushButton::clicked, this, &MvColumnHeadersPanel::chooseLayoutWithColumns);
+        column->addSpacing(fontMetrics().height() / 2);
+        column->addWidget(choose, 0, Qt::AlignCenter);
+    }
+    column->addStretch(2);
+    return state;
+}
+
+void MvColumnHeadersPanel::showPage()
+{
+    const MvCalendariumAppearance appearance = edits()->page().appearance();
+    const bool hasColumns = appearance.type() == CALENDAR_ONE_DAY_PER_ROW;
+    m_stack->setCurrentWidget(hasColumns ? m_editing : m_emptyState);
+    const QStringList headers = appearance.columnHeaders().split(u"$$"_s); // empty ones are columns, too
+    if (hasColumns && headers != m_editor->headers())
+        m_editor->setHeaders(headers);
+}
+
+void MvColumnHeadersPanel::onHeadersChanged(const QList<QString> &headers)
+{
+    if (isShowing())
+        return;
+    const auto apply = [&headers](MvCalendarPage &page) {
+        MvCalendariumAppearance appearance = page.appearance();
+        appearance.setColumnHeaders(headers);
+        page.setAppearance(appearance);
+    };
+    edits()->edit(apply, tr("Spaltenüberschriften ändern"), MvStudioMerge::ColumnHeaders);
+}
+
+void MvColumnHeadersPanel::chooseLayoutWithColumns()
+{
+    edits()->setLayout(layoutWithColumns().ID());
+}

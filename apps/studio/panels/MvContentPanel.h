@@ -1,0 +1,36 @@
+#pragma once
+
+#include "panels/MvPagePanel.h"
+
+#include "MvProductBase/MvCalendariumContentConfig.h"
+
+class MvCalendariumContentConfigEditor;
+class MvPageSetupEditor;
+class QCheckBox;
+
+/// What the pages show: holidays of which country and region, personal entries, calendar weeks; and the calendar's
+/// months and paper.
+class MvContentPanel : public MvPagePanel
+{
+    Q_OBJECT
+
+public:
+    MvContentPanel(MvPageEdits *edits, QWidget *parent);
+
+protected:
+    void showPage() override;
+
+private:
+    QCheckBox *createFeatureBox(const QString &objectName, const QString &text, int feature);
+    void onContentChanged();
+    void onFeatureClicked(int feature, bool on);
+    void onSetupChanged();
+    void applyHolidays(const MvCalendariumHolidayConfig &before, const MvCalendariumHolidayConfig &after);
+
+    MvCalendariumContentConfigEditor *m_content;
+    QCheckBox *m_calendarWeeks;
+    QCheckBox *m_publicHolidaysOnly;
+    QCheckBox *m_vacationNamesDaily;
+    MvPageSetupEditor *m_setup;
+    MvCalendariumContentConfig m_shown; // as the editor gives it back without an edit
+};

@@ -1,0 +1,79 @@
+#include "panels/MvPagePanel.h"
+
+#include "panels/MvPageEdits.h"
+#include "panels/MvScopeSwitch.h"
+
+#include <QScopedValueRollback>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int usualLetters = 46; // a panel's width in letters of its font
+
+} // namespace
+
+MvPagePanel::MvPagePanel(MvPageEdits *edits, QWidget *parent)
+    : QWidget(parent)
+    , m_edits(edits)
+    , m_layout(new QVBoxLayout(this))
+{
+    connect(edits, &MvPageEdits::pageRefreshed, this, [this] {
+        m_isOutdated = true;
+        if (isVisible())
+            refresh();
+    });
+}
+
+MvPagePanel::~MvPagePanel() = default;
+
+QSize MvPagePanel::sizeHint() const
+{
+    int width = fontMetrics().averageCharWidth() * usualLetters;
+    if (const auto *area = findChild<QScrollArea *>(); area && area->widget()) {
+        const QMargins margins = m_layout->contentsMargins();
+        width = qMax(width, area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width() +
+                                margins.left() + margins.right());
+    }
+    return {width, QWidget::sizeHint().height()};
+}
+
+void MvPagePanel::addScopeSwitch()
+{
+    m_layout->addWidget(new MvScopeSwitch(m_edits, this));
+}
+
+QVBoxLayout *MvPagePanel::addScrollingColumn()
+{
+    auto *area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->viewport()->setAutoFillBackground(false);
+    auto *content = new QWidget(area);
+    content->setAutoFillBackground(false);
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, 0, 0);
+    area->setWidget(content);
+    m_layout->addWidget(area, 1);
+    return column;
+}
+
+void MvPagePanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    refresh();
+}
+
+void MvPagePanel::refresh()
+{
+    if (!m_isOutdated || m_isShowing)
+        return;
+    m_isOutdated = false;
+    const QScopedValueRollback<bool> showing(m_isShowing, true);
+    showPage();
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "panels/MvStudioPanel.h"
+
+#include <QList>
+#include <QObject>
+
+class MvPageEdits;
+class MvProject;
+
+/// The panels in which the user changes what the pages show and how they look. They follow undo and redo.
+class MvStudioPanels : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The widgets are children of `parent`, which also owns this object, until a dock takes them. The project is not
+    /// owned and must outlive them.
+    explicit MvStudioPanels(MvProject *project, QWidget *parent);
+    ~MvStudioPanels() override;
+
+    /// Content, layout and colours, fonts, column headers, entries.
+    QList<MvStudioPanel> panels() const { return m_panels; }
+
+    /// What an edit applies to: every page, as at first, or the current one alone.
+    MvPageEdits *edits() const { return m_edits; }
+
+public Q_SLOTS:
+    void setCurrentPage(int page);
+
+private:
+    MvPageEdits *m_edits;
+    QList<MvStudioPanel> m_panels;
+};

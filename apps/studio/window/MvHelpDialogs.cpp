@@ -1,0 +1,100 @@
+#include "window/MvHelpDialogs.h"
+
+#include "MvGUIWidgets/MvIconRegistry.h"
+#include "common/MvStudioMessage.h"
+
+#include <QAction>
+#include <QDialog>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QDialog *createDialog(const QString &objectName, const QString &title, QWidget *parent)
+{
+    auto *dialog = new QDialog(parent);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setObjectName(objectName);
+    dialog->setWindowTitle(title);
+    return dialog;
+}
+
+void addCloseButton(QDialog *dialog, QVBoxLayout *column)
+{
+    QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Close, dialog);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
+    column->addWidget(buttons);
+}
+
+QString keysOf(const QAction *action)
+{
+    QStringList keys;
+    for (const QKeySequence &sequence : action->shortcuts())
+        keys.append(sequence.toString(QKeySequence::NativeText));
+    keys.removeAll(QString());
+    return keys.join(u", "_s);
+}
+
+} // namespace
+
+QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *parent)
+{
+    QDialog *dialog = createDialog(u"shortcutsDialog"_s, tr("Tastenkürzel"), parent);
+    auto *table = new QTreeWidget(dialog);
+    table->setObjectName(u"shortcutTable"_s);
+    table->setAccessibleName(tr("Tastenkürzel"));
+    table->setRootIsDecorated(false);
+    table->setUniformRowHeights(true);
+    table->setAlternatingRowColors(true);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setHeaderLabels({tr("Was"), tr("Tasten"), tr("Wozu")});
+    for (const QAction *action : actions) {
+        const QString keys = keysOf(action);
+        if (keys.isEmpty())
+            continue;
+        auto *row =
+            new QTreeWidgetItem(table, {action->text().remove(u'&').remove(u" …"_s), keys, action->statusTip()});
+        row->setIcon(0, action->icon());
+    }
+    table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->header()->setStretchLastSection(true);
+    auto *column = new QVBoxLayout(dialog);
+    column->addWidget(table, 1);
+    addCloseButton(dialog, column);
+    dialog->resize(760, 560);
+    dialog->open();
+    return dialog;
+}
+
+QDialog *MvHelpDialogs::openAbout(QWidget *parent)
+{
+    QDialog *dialog = createDialog(u"aboutDialog"_s, tr("Über MvCalendar"), parent);
+    auto *text = new QLabel(dialog);
+    text->setObjectName(u"aboutText"_s);
+    text->setTextFormat(Qt::RichText);
+    text->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    text->setOpenExternalLinks(false);
+    text->setWordWrap(true);
+    text->setText(tr("<h2>MvCalendar %1</h2>"
+                     "<p>Gestaltet Fotokalender und druckt sie: als PDF, als Bilder und auf Papier.</p>"
+                     "<p>Gebaut mit Qt %2 und qpdf. Schriften: Lato und EB Garamond (SIL Open Font License). "
+                     "Ein Teil der Schulferien stammt aus einer Sammlung unter der Open Database License; "
+                     "Näheres steht in docs/third-party.md.</p>")
+                      .arg(QCoreApplication::applicationVersion(), QLatin1StringView(qVersion())));
+    auto *icon = new QLabel(dialog);
+    icon->setPixmap(dialog->windowIcon().pixmap(64));
+    auto *row = new QHBoxLayout;
+    row->setSpacing(16);
+    row->addWidget(icon, 0, Qt::AlignTop);
+    row->addWidget(text, 1);
+    auto *column = new QVBoxLayout(dialog);
+    column->addLayout(row, 1);
+    addCloseButton(dialog, column);
+    dialog->setMinimumWidth(dialog->fontMetrics().averageCharWidth() * 80);
+    dialog->open();
+    return dialog;
+}

@@ -1,0 +1,53 @@
+#include "window/MvLeapDayHint.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvProject/MvProject.h"
+
+#include <QStringList>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostNames = 3;
+
+bool hasLeapDay(const MvDateRange &range)
+{
+    for (int year = range.start().year(); year <= range.end().year(); ++year) {
+        if (QDate::isLeapYear(year) && range.contains(QDate(year, 2, 29)))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
+MvLeapDayHint::MvLeapDayHint(const MvProject *project, QObject *parent)
+    : QObject(parent)
+    , m_project(project)
+{
+    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, &MvLeapDayHint::look);
+    look();
+}
+
+void MvLeapDayHint::look()
+{
+    const QSet<QUuid> before = m_known;
+    m_known.clear();
+    QStringList names;
+    for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList()) {
+        const QDate date = event.dateTime().date();
+        if (date.month() != 2 || date.day() != 29)
+            continue;
+        m_known.insert(event.uuid());
+        if (!before.contains(event.uuid()))
+            names.append(event.description());
+    }
+    if (names.isEmpty() || sender() == nullptr || hasLeapDay(m_project->document().range()))
+        return;
+    const int count = int(names.size());
+    const QString listed = names.mid(0, mostNames).join(u", "_s) + (count > mostNames ? u", …"_s : QString());
+    const QString text = tr("Nur in Schaltjahren gedruckt, dieser Kalender hat keinen 29. Februar: %1").arg(listed);
+    QTimer::singleShot(0, this, [this, text] { Q_EMIT message(text); }); // what the change itself tells comes before
+}

@@ -1,0 +1,133 @@
+#include "window/MvStudioActions.h"
+
+#include "MvGUIWidgets/MvIconRegistry.h"
+
+#include <QAction>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Row
+{
+    MvStudioActions::Id id;
+    const char *name;
+    const char *icon;
+    QKeySequence shortcut;
+    QString text;
+    QString tip;
+};
+
+QList<Row> fileRows()
+{
+    using A = MvStudioActions;
+    return {
+        {A::New, "newProject", "document_new", QKeySequence::New, MvStudioActions::tr("&Neu …"),
+         MvStudioActions::tr("Einen neuen Kalender beginnen")},
+        {A::Open, "openProject", "document_open", QKeySequence::Open, MvStudioActions::tr("Ö&ffnen …"),
+         MvStudioActions::tr("Einen gespeicherten Kalender öffnen")},
+        {A::Save, "saveProject", "document_save", QKeySequence::Save, MvStudioActions::tr("&Speichern"),
+         MvStudioActions::tr("Den Kalender speichern")},
+        {A::SaveAs, "saveProjectAs", "document_save_as", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+         MvStudioActions::tr("Speichern &unter …"), MvStudioActions::tr("Den Kalender unter anderem Namen speichern")},
+        {A::ExportPdf, "exportPdf", "export_pdf", QKeySequence(Qt::CTRL | Qt::Key_E),
+         MvStudioActions::tr("Als &PDF exportieren …"),
+         MvStudioActions::tr("Den Kalender als PDF für die Druckerei schreiben")},
+        {A::ExportPng, "exportPng", "export_png", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+         MvStudioActions::tr("Als B&ilder exportieren …"), MvStudioActions::tr("Jede Seite als PNG-Bild schreiben")},
+        {A::Print, "print", "print", QKeySequence::Print, MvStudioActions::tr("&Drucken …"),
+         MvStudioActions::tr("Die Druckvorschau zeigen und den Kalender drucken")},
+        {A::ImportBirthdays, "importBirthdays", "import_contacts", QKeySequence(Qt::CTRL | Qt::Key_I),
+         MvStudioActions::tr("&Geburtstage importieren …"),
+         MvStudioActions::tr("Geburtstage aus einem Adressbuch (vCard) übernehmen")},
+        {A::Quit, "quit", "quit", QKeySequence(Qt::CTRL | Qt::Key_Q), MvStudioActions::tr("&Beenden"),
+         MvStudioActions::tr("Das Programm beenden")},
+        {A::Settings, "settings", "settings", QKeySequence(Qt::CTRL | Qt::Key_Comma),
+         MvStudioActions::tr("&Einstellungen …"), MvStudioActions::tr("Sprache und Farben des Programms wählen")},
+    };
+}
+
+QList<Row> viewRows()
+{
+    using A = MvStudioActions;
+    return {
+        {A::ZoomIn, "zoomIn", "zoom_in", QKeySequence(Qt::CTRL | Qt::Key_Plus), MvStudioActions::tr("Ver&größern"),
+         MvStudioActions::tr("Die Seite größer zeigen")},
+        {A::ZoomOut, "zoomOut", "zoom_out", QKeySequence(Qt::CTRL | Qt::Key_Minus), MvStudioActions::tr("Ver&kleinern"),
+         MvStudioActions::tr("Die Seite kleiner zeigen")},
+        {A::ZoomFit, "zoomFit", "zoom_fit", QKeySequence(Qt::CTRL | Qt::Key_0), MvStudioActions::tr("Ganze S&eite"),
+         MvStudioActions::tr("Die Seite so groß zeigen, dass sie ganz zu sehen ist")},
+        {A::Zoom100, "zoom100", "zoom_100", QKeySequence(Qt::CTRL | Qt::Key_1), MvStudioActions::tr("&Originalgröße"),
+         MvStudioActions::tr("Die Seite so groß zeigen, wie sie gedruckt wird")},
+        {A::FullScreen, "fullScreen", "full_screen", QKeySequence(Qt::Key_F11), MvStudioActions::tr("&Vollbild"),
+         MvStudioActions::tr("Das Fenster über den ganzen Bildschirm breiten")},
+        {A::Welcome,
+         "showWelcome",
+         "welcome",
+         {},
+         MvStudioActions::tr("Erste &Schritte"),
+         MvStudioActions::tr("Die Wege zum eigenen Kalender zeigen")},
+        {A::Shortcuts, "shortcuts", "help", QKeySequence(Qt::Key_F1), MvStudioActions::tr("&Tastenkürzel"),
+         MvStudioActions::tr("Alle Tastenkürzel auflisten")},
+        {A::About,
+         "about",
+         "about",
+         {},
+         MvStudioActions::tr("Ü&ber MvCalendar"),
+         MvStudioActions::tr("Version und Bestandteile des Programms")},
+    };
+}
+
+QList<Row> pageRows()
+{
+    using A = MvStudioActions;
+    return {
+        {A::Layout, "chooseLayout", "layout", QKeySequence(Qt::CTRL | Qt::Key_L),
+         MvStudioActions::tr("&Layout wählen …"), MvStudioActions::tr("Ein Layout für alle Seiten aus Bildern wählen")},
+        {A::PageSetup, "pageSetup", "page_setup", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+         MvStudioActions::tr("&Papier und Zeitraum …"),
+         MvStudioActions::tr("Papier, Ausrichtung und Monate des Kalenders ändern")},
+        {A::ChoosePhoto, "choosePhoto", "photo_add", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F),
+         MvStudioActions::tr("&Foto wählen …"), MvStudioActions::tr("Der gezeigten Seite ein Foto geben")},
+        {A::RemovePhoto,
+         "removePhoto",
+         "remove",
+         {},
+         MvStudioActions::tr("Foto &entfernen"),
+         MvStudioActions::tr("Das Foto der gezeigten Seite entfernen")},
+        {A::PreviousPage, "previousPage", "page_previous", QKeySequence(Qt::CTRL | Qt::Key_PageUp),
+         MvStudioActions::tr("&Vorige Seite"), MvStudioActions::tr("Zur vorigen Seite gehen")},
+        {A::NextPage, "nextPage", "page_next", QKeySequence(Qt::CTRL | Qt::Key_PageDown),
+         MvStudioActions::tr("&Nächste Seite"), MvStudioActions::tr("Zur nächsten Seite gehen")},
+        {A::FirstPage, "firstPage", "page_first", QKeySequence(Qt::CTRL | Qt::Key_Home),
+         MvStudioActions::tr("&Erste Seite"), MvStudioActions::tr("Zur ersten Seite gehen")},
+        {A::LastPage, "lastPage", "page_last", QKeySequence(Qt::CTRL | Qt::Key_End),
+         MvStudioActions::tr("Le&tzte Seite"), MvStudioActions::tr("Zur letzten Seite gehen")},
+    };
+}
+
+} // namespace
+
+MvStudioActions::MvStudioActions(QWidget *parent)
+    : QObject(parent)
+{
+    for (const Row &row : fileRows() + viewRows() + pageRows()) {
+        auto *action = new QAction(row.text, parent);
+        action->setObjectName(QLatin1StringView(row.name));
+        action->setShortcut(row.shortcut);
+        action->setStatusTip(row.tip);
+        QString name = row.text;
+        name.remove(u'&').remove(u" …"_s);
+        const QString keys = row.shortcut.toString(QKeySequence::NativeText);
+        action->setToolTip(keys.isEmpty() ? name : u"%1 (%2)"_s.arg(name, keys));
+        action->setIcon(MvIconRegistry::instance().icon(u"ico_studio_"_s + QLatin1StringView(row.icon)));
+        m_actions.insert(row.id, action);
+        m_inOrder.append(action);
+    }
+    m_actions.value(Quit)->setMenuRole(QAction::QuitRole);
+    m_actions.value(About)->setMenuRole(QAction::AboutRole);
+    m_actions.value(Settings)->setMenuRole(QAction::PreferencesRole);
+    m_actions.value(FullScreen)->setCheckable(true);
+    m_actions.value(Welcome)->setCheckable(true);
+}

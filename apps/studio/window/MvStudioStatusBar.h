@@ -1,0 +1,38 @@
+#pragma once
+
+#include "window/MvUnfittingWatch.h"
+
+#include <QStatusBar>
+
+class QComboBox;
+class QLabel;
+class QToolButton;
+
+/// Messages at the left; at the right the texts without room, the shown page and its zoom.
+class MvStudioStatusBar : public QStatusBar
+{
+    Q_OBJECT
+
+public:
+    explicit MvStudioStatusBar(QWidget *parent = nullptr);
+
+    /// Number of the page, counted from 0, and what it shows: "Seite 3 von 12 · März 2027".
+    void setPage(int page, int pageCount, const QString &title);
+    void setZoom(double zoom, bool isFitted);
+    void setUnfitting(const QList<MvUnfittingWatch::Entry> &entries);
+
+Q_SIGNALS:
+    void zoomRequested(double zoom);
+    void fitRequested();
+    void pageRequested(int page);
+
+private:
+    void onZoomEntered();
+    void fillMenu();
+
+    QList<MvUnfittingWatch::Entry> m_entries;
+    QToolButton *m_unfitting;
+    QLabel *m_page;
+    QComboBox *m_zoom;
+    QString m_zoomText; // as it stands when nobody types
+};

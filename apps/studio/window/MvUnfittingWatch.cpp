@@ -1,0 +1,83 @@
+#include "window/MvUnfittingWatch.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvFoto/MvFotoStock.h"
+#include "MvProject/MvProject.h"
+
+#include <QTimerEvent>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int delay = 600; // milliseconds without changes before looking
+
+} // namespace
+
+MvUnfittingWatch::MvUnfittingWatch(MvProject *project, QObject *parent)
+    : QObject(parent)
+    , m_project(project)
+    , m_entryPhotos(new MvFotoStock(this))
+{
+    connect(m_entryPhotos, &MvFotoStock::arrived, this, &MvUnfittingWatch::invalidate);
+    connect(project, &MvProject::pageChanged, this, &MvUnfittingWatch::invalidate);
+    connect(project, &MvProject::pagesReset, this, &MvUnfittingWatch::reset);
+    connect(project, &MvProject::documentReplaced, this, &MvUnfittingWatch::reset);
+    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, [this] {
+        for (int page = 0; page < m_pages.size(); ++page)
+            invalidate(page);
+    });
+    reset();
+}
+
+QList<MvUnfittingWatch::Entry> MvUnfittingWatch::entries() const
+{
+    QList<Entry> entries;
+    for (int page = 0; page < m_pages.size(); ++page)
+        for (const MvUnfittingText &text : m_pages.at(page).texts)
+            entries.append({page, text});
+    return entries;
+}
+
+bool MvUnfittingWatch::isComplete() const
+{
+    return std::none_of(m_pages.begin(), m_pages.end(), [](const Page &page) { return page.isDue; });
+}
+
+void MvUnfittingWatch::invalidate(int page)
+{
+    if (page >= 0 && page < m_pages.size())
+        m_pages[page].isDue = true;
+    m_timer.start(delay, this);
+}
+
+void MvUnfittingWatch::reset()
+{
+    m_pages = QList<Page>(m_project->document().pages().size());
+    m_hasNews = true;
+    m_timer.start(delay, this);
+}
+
+void MvUnfittingWatch::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_timer.timerId())
+        return QObject::timerEvent(event);
+    const auto due = std::find_if(m_pages.begin(), m_pages.end(), [](const Page &page) { return page.isDue; });
+    if (due != m_pages.end()) {
+        const int page = int(due - m_pages.begin());
+        const MvFotoStock::Use use(*m_entryPhotos, page); // what is missing gives the texts too much room: see again
+        const QList<MvUnfittingText> texts = m_project->document().unfittingTexts(page);
+        due->isDue = false;
+        m_hasNews = m_hasNews || texts != due->texts;
+        due->texts = texts;
+    }
+    if (!isComplete()) {
+        m_timer.start(0, this); // the next page, after whatever waits
+        return;
+    }
+    m_timer.stop();
+    if (m_hasNews) {
+        m_hasNews = false;
+        Q_EMIT changed();
+    }
+}
