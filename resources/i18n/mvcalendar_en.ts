@@ -2423,7 +2423,7 @@ Save it under another name or in another folder.</translation>
         <translation>Give the page shown a photo</translation>
     </message>
     <message>
-        <source>Foto &amp;entfernen</source>
+        <source>Foto entfe&amp;rnen</source>
         <translation>&amp;Remove Photo</translation>
     </message>
     <message>

@@ -100,8 +100,8 @@ QStringList outOfOrder(const QList<const QWidget *> &stops)
     for (qsizetype i = 1; i < stops.size(); ++i) {
         const QWidget *before = stops.at(i - 1);
         const QWidget *after = stops.at(i);
-        if (before->parentWidget() != after->parentWidget() || after->objectName().endsWith(u"Close"_s))
-            continue; // what closes a panel comes after what it offers
+        if (before->parentWidget() != after->parentWidget())
+            continue;
         const QRect a = inWindow(before);
         const QRect b = inWindow(after);
         const bool isSameRow = qMin(a.bottom(), b.bottom()) - qMax(a.top(), b.top()) > qMin(a.height(), b.height()) / 2;

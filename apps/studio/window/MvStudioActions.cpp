@@ -94,7 +94,7 @@ QList<Row> pageRows()
          "removePhoto",
          "remove",
          {},
-         MvStudioActions::tr("Foto &entfernen"),
+         MvStudioActions::tr("Foto entfe&rnen"),
          MvStudioActions::tr("Das Foto der gezeigten Seite entfernen")},
         {A::PreviousPage, "previousPage", "page_previous", QKeySequence(Qt::CTRL | Qt::Key_PageUp),
          MvStudioActions::tr("&Vorige Seite"), MvStudioActions::tr("Zur vorigen Seite gehen")},
