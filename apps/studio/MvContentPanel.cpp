@@ -20,7 +20,7 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
     , m_publicHolidaysOnly(
           createFeatureBox(u"publicHolidaysOnly"_s, tr("Nur &gesetzliche Feiertage"), FEATURE_PUBLIC_HOLIDAYS_ONLY))
     , m_vacationNamesDaily(
-          createFeatureBox(u"vacationNamesDaily"_s, tr("&Ferien an jedem Tag nennen"), FEATURE_VACATION_NAMES_DAILY))
+          createFeatureBox(u"vacationNamesDaily"_s, tr("Fe&rien an jedem Tag nennen"), FEATURE_VACATION_NAMES_DAILY))
     , m_setup(new MvPageSetupEditor(this))
 {
     setObjectName(u"contentPanel"_s);

@@ -91,7 +91,7 @@ void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const Q
     m_target->setObjectName(u"exportTarget"_s);
     const QDir dir(folder);
     m_target->setText(QDir::toNativeSeparators(isPdf() ? dir.filePath(name + u".pdf"_s) : dir.path()));
-    auto *browseButton = new QPushButton(tr("&Durchsuchen …"), this);
+    auto *browseButton = new QPushButton(tr("D&urchsuchen …"), this);
     browseButton->setObjectName(u"exportBrowse"_s);
     browseButton->setAutoDefault(false);
     connect(browseButton, &QPushButton::clicked, this, &MvExportDialog::browse);
@@ -99,6 +99,7 @@ void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const Q
     row->addWidget(m_target, 1);
     row->addWidget(browseButton);
     form->addRow(labelFor(isPdf() ? tr("&Datei:") : tr("&Ordner:"), m_target), row);
+    setTabOrder(m_target, browseButton);
     connect(m_target, &QLineEdit::textChanged, this, &MvExportDialog::validate);
     if (isPdf())
         return;
@@ -107,6 +108,7 @@ void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const Q
     m_pattern->setObjectName(u"exportPattern"_s);
     m_pattern->setToolTip(tr("%m Monat, %y Jahr, %n Nummer der Seite"));
     form->addRow(labelFor(tr("Datei&namen:"), m_pattern), m_pattern);
+    setTabOrder(browseButton, m_pattern);
     connect(m_pattern, &QLineEdit::textChanged, this, &MvExportDialog::validate);
 }
 

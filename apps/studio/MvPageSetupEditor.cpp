@@ -110,11 +110,11 @@ void MvPageSetupEditor::addPaper()
     size->addWidget(m_height, 1);
     auto *form = static_cast<QFormLayout *>(layout());
     form->addRow(tr("&Papier:"), m_paper);
-    form->addRow(tr("&Ausrichtung:"), m_orientation);
-    auto *sizeLabel = new QLabel(tr("&Breite und Höhe:"), this);
+    form->addRow(tr("Ausrich&tung:"), m_orientation);
+    auto *sizeLabel = new QLabel(tr("Breite &und Höhe:"), this);
     sizeLabel->setBuddy(m_width);
     form->addRow(sizeLabel, size);
-    form->addRow(tr("Be&schnitt:"), m_bleed);
+    form->addRow(tr("Bes&chnitt:"), m_bleed);
 }
 
 void MvPageSetupEditor::setFormat(const MvPageFormat &format)

@@ -37,9 +37,9 @@ MvWelcomePanel::MvWelcomePanel(QWidget *parent)
 
     auto *title = new QLabel(tr("Ihr Kalender für das kommende Jahr ist schon da. So wird er Ihrer:"), this);
     title->setWordWrap(true);
-    auto *layouts = createWay(u"welcomeLayout"_s, u"ico_studio_layout"_s, tr("Layout aus &Bildern wählen"),
+    auto *layouts = createWay(u"welcomeLayout"_s, u"ico_studio_layout"_s, tr("Layout aus Bildern &wählen"),
                               tr("Alle Layouts als kleine Seiten sehen und eines wählen"), this);
-    auto *contacts = createWay(u"welcomeImport"_s, u"ico_studio_import_contacts"_s, tr("&Geburtstage importieren"),
+    auto *contacts = createWay(u"welcomeImport"_s, u"ico_studio_import_contacts"_s, tr("Geburtstage &importieren"),
                                tr("Geburtstage aus einem Adressbuch (vCard) übernehmen"), this);
     auto *open = createWay(u"welcomeOpen"_s, u"ico_studio_document_open"_s, tr("Datei ö&ffnen"),
                            tr("Einen gespeicherten Kalender öffnen"), this);

@@ -809,10 +809,10 @@
     </message>
     <message>
         <source>Nur &amp;gesetzliche Feiertage</source>
-        <translation>Only &amp;public holidays</translation>
+        <translation>Only p&amp;ublic holidays</translation>
     </message>
     <message>
-        <source>&amp;Ferien an jedem Tag nennen</source>
+        <source>Fe&amp;rien an jedem Tag nennen</source>
         <translation>Name &amp;school holidays on each day</translation>
     </message>
     <message>
@@ -893,7 +893,7 @@
         <translation>&amp;Export</translation>
     </message>
     <message>
-        <source>&amp;Durchsuchen …</source>
+        <source>D&amp;urchsuchen …</source>
         <translation>&amp;Browse …</translation>
     </message>
     <message>
@@ -1578,18 +1578,18 @@ The context menu replaces the photo by another one.</translation>
     </message>
     <message>
         <source>&amp;Papier:</source>
-        <translation>&amp;Paper:</translation>
+        <translation>Pape&amp;r:</translation>
     </message>
     <message>
-        <source>&amp;Ausrichtung:</source>
+        <source>Ausrich&amp;tung:</source>
         <translation>&amp;Orientation:</translation>
     </message>
     <message>
-        <source>&amp;Breite und Höhe:</source>
+        <source>Breite &amp;und Höhe:</source>
         <translation>&amp;Width and height:</translation>
     </message>
     <message>
-        <source>Be&amp;schnitt:</source>
+        <source>Bes&amp;chnitt:</source>
         <translation>&amp;Bleed:</translation>
     </message>
     <message>
@@ -2295,7 +2295,7 @@ Save it under another name or in another folder.</translation>
         <translation>Write the calendar as a PDF for the print shop</translation>
     </message>
     <message>
-        <source>Als &amp;Bilder exportieren …</source>
+        <source>Als B&amp;ilder exportieren …</source>
         <translation>Export as &amp;Images …</translation>
     </message>
     <message>
@@ -2351,7 +2351,7 @@ Save it under another name or in another folder.</translation>
         <translation>Show the page smaller</translation>
     </message>
     <message>
-        <source>&amp;Ganze Seite</source>
+        <source>Ganze S&amp;eite</source>
         <translation>&amp;Whole Page</translation>
     </message>
     <message>
@@ -2776,16 +2776,16 @@ Designs photo calendars and prints them.
         <translation>Your calendar for the coming year is here already. Make it yours:</translation>
     </message>
     <message>
-        <source>Layout aus &amp;Bildern wählen</source>
-        <translation>Choose a layout from &amp;pictures</translation>
+        <source>Layout aus Bildern &amp;wählen</source>
+        <translation>Choose a layout from pic&amp;tures</translation>
     </message>
     <message>
         <source>Alle Layouts als kleine Seiten sehen und eines wählen</source>
         <translation>See all layouts as small pages and choose one</translation>
     </message>
     <message>
-        <source>&amp;Geburtstage importieren</source>
-        <translation>Import &amp;birthdays</translation>
+        <source>Geburtstage &amp;importieren</source>
+        <translation>Import birthda&amp;ys</translation>
     </message>
     <message>
         <source>Geburtstage aus einem Adressbuch (vCard) übernehmen</source>
@@ -2793,7 +2793,7 @@ Designs photo calendars and prints them.
     </message>
     <message>
         <source>Datei ö&amp;ffnen</source>
-        <translation>&amp;Open file</translation>
+        <translation>Ope&amp;n file</translation>
     </message>
     <message>
         <source>Einen gespeicherten Kalender öffnen</source>

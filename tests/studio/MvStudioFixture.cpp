@@ -47,7 +47,8 @@ QString squeezed(QString text)
 
 } // namespace
 
-MvStudioFixture::MvStudioFixture(const QString &layout)
+MvStudioFixture::MvStudioFixture(const QString &layout, const QString &language)
+    : m_language(language)
 {
     MvStudioSettings::clearRecentFiles();
     MvStudioSettings::setWelcomeShown(false);
@@ -72,7 +73,7 @@ MvStudioFixture::~MvStudioFixture()
 void MvStudioFixture::start()
 {
     m_studio = std::make_unique<MvStudioApplication>(
-        MvStudioOptions::parse({u"mvcalendar-studio"_s, u"--language"_s, u"de"_s}));
+        MvStudioOptions::parse({u"mvcalendar-studio"_s, u"--language"_s, m_language}));
     m_studio->start();
     QVERIFY(QTest::qWaitForWindowExposed(window()));
     window()->activateWindow();
@@ -134,8 +135,10 @@ QString MvStudioFixture::writePhoto(const QString &name, const QColor &color, co
 /// Nobody else sees to that when a dialog has closed.
 void MvStudioFixture::activate() const
 {
-    window()->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window()));
+    QVERIFY(QTest::qWaitFor([this] {
+        window()->activateWindow();
+        return QApplication::activeWindow() == window();
+    }));
 }
 
 bool MvStudioFixture::raiseDock(const char *name) const

@@ -26,7 +26,8 @@ class QMenu;
 class MvStudioFixture
 {
 public:
-    explicit MvStudioFixture(const QString &layout = QStringLiteral("MONTH_GRID_CLASSIC"));
+    explicit MvStudioFixture(const QString &layout = QStringLiteral("MONTH_GRID_CLASSIC"),
+                             const QString &language = QStringLiteral("de"));
     ~MvStudioFixture();
 
     /// Closes the window, ends the program and starts it anew: what it knows then, it has read from its files.
@@ -110,5 +111,6 @@ private:
     QRectF rectOf(const QDate &date) const;
 
     QTemporaryDir m_folder;
+    QString m_language;
     std::unique_ptr<MvStudioApplication> m_studio;
 };

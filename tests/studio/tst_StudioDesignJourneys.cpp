@@ -240,8 +240,6 @@ void tst_StudioDesignJourneys::fonts()
     studio.undo();
 
     QVERIFY(studio.choose("fontFamilyBox", u"EB Garamond"_s));
-    for (const auto &item : studio.items(MvPaintRecording::Item::Text))
-        qInfo() << item.text << item.font.families();
     QCOMPARE(fontOf(newYear, u"1"_s).family(), u"EB Garamond"_s);
     QVERIFY(studio.click(studio.window(), "resetFont"));
     QCOMPARE(fontOf(newYear, u"1"_s).family(), number.family());

@@ -84,7 +84,7 @@ void tst_StudioFileJourneys::exported_data()
     QTest::addColumn<QString>("pages");
     QTest::addColumn<QStringList>("files");
     QTest::newRow("pdf") << u"exportPdf"_s << u"Alle"_s << QStringList{u"Familie 2027.pdf"_s};
-    QTest::newRow("png") << u"exportPng"_s << u"Gezeigte"_s << QStringList{u"Familie 2027-2027-02.png"_s};
+    QTest::newRow("png") << u"exportPng"_s << u"Gezeigte"_s << QStringList{u"Familie 2027-02.png"_s};
 }
 
 void tst_StudioFileJourneys::exported()
