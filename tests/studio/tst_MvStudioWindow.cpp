@@ -476,7 +476,7 @@ void tst_MvStudioWindow::print()
     QVERIFY(dialog("progressDialog"));
     QTRY_VERIFY(dialog<QPrintPreviewDialog>("printPreview"));
     auto *preview = dialog<QPrintPreviewDialog>("printPreview");
-    QVERIFY(preview->isVisible());
+    QTRY_VERIFY(preview->isVisible());
     QVERIFY(!dialog("progressDialog"));
     QCOMPARE(preview->findChild<QPrintPreviewWidget *>()->pageCount(), 12);
     preview->printer()->setOutputFormat(QPrinter::PdfFormat);

@@ -140,8 +140,8 @@ void MvPrintFlow::openPreview()
         else
             print(printer);
     });
-    connect(dialog, &QObject::destroyed, this, [printer] {}); // it outlives the dialog
-    dialog->open();
+    connect(dialog, &QObject::destroyed, this, [printer] {});                // it outlives the dialog
+    QMetaObject::invokeMethod(dialog, &QDialog::open, Qt::QueuedConnection); // both take their time
 }
 
 /// The preview closes now; its printer goes on.

@@ -3,6 +3,7 @@
 #include "pages/MvScreenPhotos.h"
 
 #include "MvFoto/MvFotoStock.h"
+#include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvRenderingRule.h"
 
 #include <QPainter>
@@ -14,14 +15,17 @@
 
 namespace {
 
-constexpr qint64 photoBytes = qint64(192) << 20; // for the photos of all pages
+constexpr qint64 imageBytes = qint64(192) << 20; // for the photos of all pages
 constexpr int smallestSide = 256;                // pixels
 constexpr int largestSide = 2048;
 constexpr double pixelsPerUnit = 0.8; // some 200 dots per inch for the photos of entries
 
-QSize boundsFor(qsizetype photoCount)
+constexpr int mostShapes = 24; // pages whose shapes are painted within a moment
+
+/// For so many images.
+QSize boundsFor(qsizetype count)
 {
-    const double pixels = double(photoBytes) / 4.0 / double(std::max<qsizetype>(photoCount, 1));
+    const double pixels = double(imageBytes) / 4.0 / double(std::max<qsizetype>(count, 1));
     const int side = int(std::sqrt(pixels)) / smallestSide * smallestSide;
     return QSize(1, 1) * std::clamp(side, smallestSide, largestSide);
 }
@@ -32,7 +36,7 @@ MvPrintPages::MvPrintPages(const MvCalendarDocument &document, QObject *parent)
     : QObject(parent)
     , m_document(document)
     , m_recordings(document.pages().size())
-    , m_photos(new MvScreenPhotos(photoBytes, this))
+    , m_photos(new MvScreenPhotos(imageBytes, this))
     , m_entryPhotos(new MvFotoStock(this))
 {
     connect(m_photos, &MvScreenPhotos::loaded, this, &MvPrintPages::takePhoto);
@@ -78,9 +82,28 @@ void MvPrintPages::recordPage(int number)
         m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit);
     if (!use.isComplete())
         return; // again when they have arrived
-    m_recordings[number] = recording;
+    m_recordings[number] = m_recordings.size() > mostShapes ? asPixels(recording) : recording;
     ++m_recordedCount;
     tellProgress();
+}
+
+/// What is painted faster, and is as sharp as the preview of many pages needs it.
+MvPaintRecording MvPrintPages::asPixels(const MvPaintRecording &recording) const
+{
+    const QSizeF page = m_document.format().trimSize();
+    QImage image(page.scaled(boundsFor(m_recordings.size()), Qt::KeepAspectRatio).toSize(),
+                 QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter into(&image);
+    into.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    into.scale(image.width() / page.width(), image.height() / page.height());
+    recording.replay(into);
+    into.end();
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    painter.drawImage(QRectF(QPointF(), page), image);
+    painter.end();
+    return recorder.recording();
 }
 
 void MvPrintPages::takePhoto(const QString &path)

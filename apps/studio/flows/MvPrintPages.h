@@ -35,6 +35,7 @@ Q_SIGNALS:
 private:
     void recordNext();
     void recordPage(int number);
+    MvPaintRecording asPixels(const MvPaintRecording &recording) const;
     void takePhoto(const QString &path);
     void tellProgress();
     void paintPage(QPainter &painter, int number) const;
