@@ -63,6 +63,8 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     connect(m_photo, &MvPagePhoto::message, this, &MvPageCanvas::message);
     connect(project, &MvProject::pagesReset, this, [this] { setCurrentPage(currentPage()); });
     connect(project, &MvProject::documentReplaced, this, &MvPageCanvas::onDocumentReplaced);
+    // some fifty items that come and go with every month: an index of them costs more than it saves
+    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex);
     onRefreshed();
 }
 
