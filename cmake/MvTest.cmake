@@ -1,5 +1,4 @@
-# mv_add_test(<name> LINK <target>...)      a Qt Test program <name>.cpp, run by ctest; with CONFIGURATIONS <name> only
-#                                           by ctest -C <name>
+# mv_add_test(<name> LINK <target>...)      a Qt Test program <name>.cpp, run by ctest
 # mv_add_benchmark(<name> LINK <target>...) a Google Benchmark program <name>.cpp
 
 function(mv_test_environment out)
@@ -13,11 +12,11 @@ function(mv_test_environment out)
 endfunction()
 
 function(mv_add_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "LINK;CONFIGURATIONS" ${ARGN})
+    cmake_parse_arguments(ARG "" "TIMEOUT" "LINK" ${ARGN})
     add_executable(${name} ${name}.cpp)
     target_link_libraries(${name} PRIVATE MvTestSupport Qt6::Test ${ARG_LINK})
     target_compile_definitions(${name} PRIVATE MV_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-    add_test(NAME ${name} COMMAND ${name} CONFIGURATIONS ${ARG_CONFIGURATIONS})
+    add_test(NAME ${name} COMMAND ${name})
     mv_test_environment(environment)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 300)

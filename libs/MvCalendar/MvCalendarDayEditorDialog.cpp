@@ -398,7 +398,6 @@ void MvCalendarDayEditorDialog::takeImage(const MvFoto &foto, const QImage &imag
         showTextForPhoto(tr("Das Foto „%1“ kann nicht gelesen werden.").arg(foto.localFileInfo().fileName()));
     else
         showPhoto();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::animateInRemovePhotoButton);
 }
 

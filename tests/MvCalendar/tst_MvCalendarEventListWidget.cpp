@@ -72,6 +72,7 @@ private Q_SLOTS:
     void addsEntries();
     void contextMenu_data();
     void contextMenu();
+    void contextMenuOutlivesItsClick();
     void savesAndLoads_data();
     void savesAndLoads();
     void damagedFilesChangeNothing();
@@ -139,6 +140,7 @@ void tst_MvCalendarEventListWidget::cleanup()
     MvRequestHandler::install(nullptr);
     if (openEditor())
         openEditor()->close();
+    MvCalendarEvent::imageDirectory().removeRecursively();
 }
 
 void tst_MvCalendarEventListWidget::addsEntries()
@@ -190,6 +192,30 @@ void tst_MvCalendarEventListWidget::contextMenu()
     QApplication::activePopupWidget()->close();
     MvUndoController::instance().undo();
     QCOMPARE(names().size(), 3);
+}
+
+/// A photo that is decoded already is there at once; the editor must not let events run under the menu's feet then.
+void tst_MvCalendarEventListWidget::contextMenuOutlivesItsClick()
+{
+    registry().setEvents({entry(u"Anna"_qs, QDate(2004, 2, 29), MvFoto(QFileInfo(path(u"foto.png"_qs))))});
+    MvCalendarEventListWidget list;
+    list.resize(400, 500);
+    list.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+    for (int time = 0; time < 2; ++time) {
+        list.onTableViewContextMenuRequested(centre(list, 0, 2));
+        const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QAction *edit = menu->actions().first();
+        bool isAlive = false;
+        connect(edit, &QAction::triggered, this, [&] { isAlive = !menu.isNull(); });
+        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, menu->actionGeometry(edit).center());
+        QVERIFY(isAlive);
+        QTRY_VERIFY(openEditor());
+        QTRY_VERIFY(openEditor()->hasPhoto());
+        openEditor()->close();
+        QTRY_VERIFY(menu.isNull());
+    }
 }
 
 void tst_MvCalendarEventListWidget::savesAndLoads_data()
