@@ -8,6 +8,7 @@
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvPrintFlow.h"
+#include "flows/MvPrintPages.h"
 #include "flows/MvProjectFlow.h"
 #include "pages/MvPageCanvas.h"
 #include "window/MvStudioWindow.h"
@@ -43,6 +44,7 @@ private Q_SLOTS:
     void exportPictures();
     void exportErrors();
     void print();
+    void cancelledPreview();
     void leapDayEntries();
     void birthdays();
     void settings();
@@ -499,6 +501,22 @@ void tst_MvStudioWindow::print()
     QFile file(path(u"druck.pdf"_s));
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll().count("/Type /Page\n"), 3);
+}
+
+void tst_MvStudioWindow::cancelledPreview()
+{
+    auto *flow = window()->findChild<MvPrintFlow *>();
+    flow->showPreview();
+    auto *pages = flow->findChild<MvPrintPages *>();
+    QVERIFY(pages);
+    click(dialog("progressDialog"), "progressCancel");
+    Q_EMIT pages->ready(); // the last page came in the same moment
+    QVERIFY(!window()->findChild<QPrintPreviewDialog *>());
+    QTRY_VERIFY(!dialog("progressDialog"));
+    flow->showPreview(); // and once more
+    QTRY_VERIFY(dialog<QPrintPreviewDialog>("printPreview") &&
+                dialog<QPrintPreviewDialog>("printPreview")->isVisible());
+    dialog<QPrintPreviewDialog>("printPreview")->reject();
 }
 
 void tst_MvStudioWindow::leapDayEntries()

@@ -116,10 +116,18 @@ void MvPrintFlow::showPreview()
     connect(m_pages, &MvPrintPages::progress, dialog, &MvProgressDialog::setProgress);
     connect(m_pages, &MvPrintPages::ready, dialog, &MvProgressDialog::finish);
     connect(m_pages, &MvPrintPages::ready, this, &MvPrintFlow::openPreview);
-    connect(dialog, &MvProgressDialog::canceled, m_pages, &QObject::deleteLater);
+    connect(dialog, &MvProgressDialog::canceled, this, &MvPrintFlow::cancelPreview);
     connect(m_pages, &QObject::destroyed, dialog, &MvProgressDialog::finish);
     dialog->open();
     m_pages->start();
+}
+
+/// The last page may be ready before they are deleted: nobody wants to know it then.
+void MvPrintFlow::cancelPreview()
+{
+    m_pages->disconnect(this);
+    m_pages->deleteLater();
+    m_pages = nullptr;
 }
 
 void MvPrintFlow::openPreview()
@@ -134,9 +142,9 @@ void MvPrintFlow::openPreview()
     dialog->resize(m_window->size().expandedTo({800, 600}) - QSize(60, 60));
     hidePageSetup(dialog);
     m_pages->setParent(dialog);
-    connect(dialog, &QPrintPreviewDialog::paintRequested, this, [this, printer] {
+    connect(dialog, &QPrintPreviewDialog::paintRequested, m_pages, [this, printer, pages = m_pages.get()] {
         if (isPreview(*printer))
-            paint(printer.get(), m_pages->pageSource());
+            paint(printer.get(), pages->pageSource());
         else
             print(printer);
     });

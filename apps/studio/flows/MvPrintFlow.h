@@ -43,6 +43,7 @@ Q_SIGNALS:
     void message(const QString &text);
 
 private:
+    void cancelPreview();
     void openPreview();
     void print(const std::shared_ptr<QPrinter> &printer);
     void tellPrinted(const MvExportResult &result);
