@@ -1,6 +1,7 @@
 #include "MvCalendar/MvCalendariumContentConfigEditor.h"
 
 #include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvLogger.h"
 #include "MvGUIWidgets/MvMouseWheelEventFilter.h"
 #include "MvGUIWidgets/MvSpinBox.h"
@@ -122,8 +123,9 @@ void MvCalendariumContentConfigEditor::createYearAndMonthBox()
     m_monthBox->setObjectName(u"monthBox"_s);
     m_monthBox->setAccessibleName(tr("Monat, mit dem der Kalender beginnt"));
     const MvCalendarWordsRegistry &words = MvCalendarWordsRegistry::instance();
+    const MvLocale language(MvApplicationLocale::instance().locale().name()); // its default one unless told otherwise
     for (int month = 1; month <= 12; ++month)
-        m_monthBox->addItem(words.monthNameLong(MvCalendarWordsRegistry::defaultLanguage(), month));
+        m_monthBox->addItem(words.monthNameLong(language, month));
     m_monthBox->setMaxVisibleItems(12);
     connect(m_monthBox, &QComboBox::currentIndexChanged, this, &MvCalendariumContentConfigEditor::onChanged);
 }

@@ -1,5 +1,6 @@
 #include "MvCore/MvLocale.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QRegularExpression>
 
@@ -7,43 +8,65 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct CountryNames
+struct CountryName
 {
-    QString name;
+    const char *name = nullptr;
     bool hasSeveralLanguages = false;
 };
 
-// QLocale names countries in their own language only; these are the countries of the holiday tables, in German.
-const QHash<QString, CountryNames> &countryNames()
+// QLocale names countries in their own language or in English; these are the countries of the holiday tables.
+const QHash<QString, CountryName> &countryNames()
 {
-    static const QHash<QString, CountryNames> names = {
-        {u"AT"_s, {u"Österreich"_s}},      {u"BE"_s, {u"Belgien"_s, true}},
-        {u"BG"_s, {u"Bulgarien"_s}},       {u"CA"_s, {u"Kanada"_s, true}},
-        {u"CH"_s, {u"Schweiz"_s, true}},   {u"CZ"_s, {u"Tschechien"_s}},
-        {u"DE"_s, {u"Deutschland"_s}},     {u"DK"_s, {u"Dänemark"_s}},
-        {u"ES"_s, {u"Spanien"_s, true}},   {u"FI"_s, {u"Finnland"_s}},
-        {u"FR"_s, {u"Frankreich"_s}},      {u"GB"_s, {u"Vereinigtes Königreich"_s}},
-        {u"GR"_s, {u"Griechenland"_s}},    {u"HR"_s, {u"Kroatien"_s}},
-        {u"HU"_s, {u"Ungarn"_s}},          {u"IE"_s, {u"Irland"_s}},
-        {u"IT"_s, {u"Italien"_s, true}},   {u"LI"_s, {u"Liechtenstein"_s}},
-        {u"LU"_s, {u"Luxemburg"_s, true}}, {u"NL"_s, {u"Niederlande"_s}},
-        {u"NO"_s, {u"Norwegen"_s}},        {u"PL"_s, {u"Polen"_s}},
-        {u"PT"_s, {u"Portugal"_s}},        {u"RO"_s, {u"Rumänien"_s}},
-        {u"SE"_s, {u"Schweden"_s}},        {u"SI"_s, {u"Slowenien"_s}},
-        {u"SK"_s, {u"Slowakei"_s}},        {u"US"_s, {u"USA"_s}},
+    static const QHash<QString, CountryName> names = {
+        {u"AT"_s, {QT_TRANSLATE_NOOP("MvLocale", "Österreich")}},
+        {u"BE"_s, {QT_TRANSLATE_NOOP("MvLocale", "Belgien"), true}},
+        {u"BG"_s, {QT_TRANSLATE_NOOP("MvLocale", "Bulgarien")}},
+        {u"CA"_s, {QT_TRANSLATE_NOOP("MvLocale", "Kanada"), true}},
+        {u"CH"_s, {QT_TRANSLATE_NOOP("MvLocale", "Schweiz"), true}},
+        {u"CZ"_s, {QT_TRANSLATE_NOOP("MvLocale", "Tschechien")}},
+        {u"DE"_s, {QT_TRANSLATE_NOOP("MvLocale", "Deutschland")}},
+        {u"DK"_s, {QT_TRANSLATE_NOOP("MvLocale", "Dänemark")}},
+        {u"ES"_s, {QT_TRANSLATE_NOOP("MvLocale", "Spanien"), true}},
+        {u"FI"_s, {QT_TRANSLATE_NOOP("MvLocale", "Finnland")}},
+        {u"FR"_s, {QT_TRANSLATE_NOOP("MvLocale", "Frankreich")}},
+        {u"GB"_s, {QT_TRANSLATE_NOOP("MvLocale", "Vereinigtes Königreich")}},
+        {u"GR"_s, {QT_TRANSLATE_NOOP("MvLocale", "Griechenland")}},
+        {u"HR"_s, {QT_TRANSLATE_NOOP("MvLocale", "Kroatien")}},
+        {u"HU"_s, {QT_TRANSLATE_NOOP("MvLocale", "Ungarn")}},
+        {u"IE"_s, {QT_TRANSLATE_NOOP("MvLocale", "Irland")}},
+        {u"IT"_s, {QT_TRANSLATE_NOOP("MvLocale", "Italien"), true}},
+        {u"LI"_s, {QT_TRANSLATE_NOOP("MvLocale", "Liechtenstein")}},
+        {u"LU"_s, {QT_TRANSLATE_NOOP("MvLocale", "Luxemburg"), true}},
+        {u"NL"_s, {QT_TRANSLATE_NOOP("MvLocale", "Niederlande")}},
+        {u"NO"_s, {QT_TRANSLATE_NOOP("MvLocale", "Norwegen")}},
+        {u"PL"_s, {QT_TRANSLATE_NOOP("MvLocale", "Polen")}},
+        {u"PT"_s, {QT_TRANSLATE_NOOP("MvLocale", "Portugal")}},
+        {u"RO"_s, {QT_TRANSLATE_NOOP("MvLocale", "Rumänien")}},
+        {u"SE"_s, {QT_TRANSLATE_NOOP("MvLocale", "Schweden")}},
+        {u"SI"_s, {QT_TRANSLATE_NOOP("MvLocale", "Slowenien")}},
+        {u"SK"_s, {QT_TRANSLATE_NOOP("MvLocale", "Slowakei")}},
+        {u"US"_s, {QT_TRANSLATE_NOOP("MvLocale", "USA")}},
     };
     return names;
 }
 
 QString languageName(const QString &language)
 {
-    static const QHash<QString, QString> names = {
-        {u"de"_s, u"Deutsch"_s},       {u"fr"_s, u"Französisch"_s},    {u"it"_s, u"Italienisch"_s},
-        {u"rm"_s, u"Rätoromanisch"_s}, {u"nl"_s, u"Niederländisch"_s}, {u"en"_s, u"Englisch"_s},
-        {u"es"_s, u"Spanisch"_s},      {u"ca"_s, u"Katalanisch"_s},    {u"gl"_s, u"Galicisch"_s},
-        {u"eu"_s, u"Baskisch"_s},      {u"lb"_s, u"Luxemburgisch"_s},
+    static const QHash<QString, const char *> names = {
+        {u"de"_s, QT_TRANSLATE_NOOP("MvLocale", "Deutsch")},
+        {u"fr"_s, QT_TRANSLATE_NOOP("MvLocale", "Französisch")},
+        {u"it"_s, QT_TRANSLATE_NOOP("MvLocale", "Italienisch")},
+        {u"rm"_s, QT_TRANSLATE_NOOP("MvLocale", "Rätoromanisch")},
+        {u"nl"_s, QT_TRANSLATE_NOOP("MvLocale", "Niederländisch")},
+        {u"en"_s, QT_TRANSLATE_NOOP("MvLocale", "Englisch")},
+        {u"es"_s, QT_TRANSLATE_NOOP("MvLocale", "Spanisch")},
+        {u"ca"_s, QT_TRANSLATE_NOOP("MvLocale", "Katalanisch")},
+        {u"gl"_s, QT_TRANSLATE_NOOP("MvLocale", "Galicisch")},
+        {u"eu"_s, QT_TRANSLATE_NOOP("MvLocale", "Baskisch")},
+        {u"lb"_s, QT_TRANSLATE_NOOP("MvLocale", "Luxemburgisch")},
     };
-    return names.value(language, language);
+    const char *name = names.value(language);
+    return name ? QCoreApplication::translate("MvLocale", name) : language;
 }
 
 } // namespace
@@ -79,6 +102,7 @@ QLocale MvLocale::toQLocale() const
 
 QString MvLocale::visibleName() const
 {
-    const CountryNames names = countryNames().value(m_country, {m_country});
-    return names.hasSeveralLanguages ? u"%1 (%2)"_s.arg(names.name, languageName(m_language)) : names.name;
+    const CountryName known = countryNames().value(m_country);
+    const QString name = known.name ? QCoreApplication::translate("MvLocale", known.name) : m_country;
+    return known.hasSeveralLanguages ? u"%1 (%2)"_s.arg(name, languageName(m_language)) : name;
 }

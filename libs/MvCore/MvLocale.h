@@ -23,7 +23,8 @@ public:
     /// "de_DE"; empty when invalid.
     QString name() const;
     QLocale toQLocale() const;
-    /// The country in German, for choosers: "Deutschland"; "Schweiz (Französisch)" where it has several languages.
+    /// The country in the program's language, for choosers: "Deutschland"; "Schweiz (Französisch)" where it has several
+    /// languages.
     QString visibleName() const;
 
     bool operator==(const MvLocale &) const = default;

@@ -10,9 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// by the plain letters of the name: "Österreich" stands between "Niederlande" and "Polen"
-QString sortKey(const QString &name)
+// by the plain letters of the name that choosers show: "Österreich" stands between "Niederlande" and "Polen"
+QString sortKey(const MvHolidayTableReader::Country &country)
 {
+    const QString shown = MvLocale(country.languages.value(0), country.code).visibleName();
+    const QString name = shown == country.code ? country.name : shown;
     QString key = name.normalized(QString::NormalizationForm_D).toLower();
     key.removeIf([](QChar c) { return c.isMark(); });
     return key;
@@ -41,7 +43,7 @@ void MvHolidayBook::readCountries()
     std::stable_sort(countries.begin(), countries.end(), [](const Listed &a, const Listed &b) {
         const qsizetype rankA = neighbourhood(a.code);
         const qsizetype rankB = neighbourhood(b.code);
-        return rankA != rankB ? rankA < rankB : sortKey(a.name) < sortKey(b.name);
+        return rankA != rankB ? rankA < rankB : sortKey(a) < sortKey(b);
     });
     for (const Listed &country : std::as_const(countries)) {
         m_codes.insert(country.code);

@@ -1,6 +1,7 @@
 #include "MvTest.h"
 
 #include "MvCore/MvApplicationLocale.h"
+#include "MvCore/MvLocale.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvTranslations.h"
 
@@ -63,11 +64,14 @@ void tst_MvTranslations::installs()
         QCOMPARE(more(1), u" (and 1 more error in this file)"_s);
         QCOMPARE(MvApplicationLocale::instance().locale().language(), QLocale::English);
         QCOMPARE(QLocale().language(), QLocale::English);
+        QCOMPARE(MvLocale(u"de_AT"_s).visibleName(), u"Austria"_s);
+        QCOMPARE(MvLocale(u"fr_CH"_s).visibleName(), u"Switzerland (French)"_s);
         QVERIFY(!MvTranslations::install(u"tlh"_s));
         QCOMPARE(MvTranslations::language(), u"en"_s);
 
         QVERIFY(MvTranslations::install(u"de"_s));
         QCOMPARE(text(), german);
+        QCOMPARE(MvLocale(u"fr_CH"_s).visibleName(), u"Schweiz (Französisch)"_s);
         QCOMPARE(more(1), u" (und 1 weiterer Fehler in dieser Datei)"_s);
         QCOMPARE(more(3), u" (und 3 weitere Fehler in dieser Datei)"_s);
         QCOMPARE(MvApplicationLocale::instance().locale(), QLocale(QLocale::German, QLocale::Germany));
