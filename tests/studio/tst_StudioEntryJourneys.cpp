@@ -102,6 +102,14 @@ void tst_StudioEntryJourneys::birthdayWithPhotos()
     QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
     QVERIFY(studio.hasPhoto(birthday));
     QVERIFY(isNearly(photoColor(entries().value(0)), Qt::blue));
+
+    editor = studio.openDay(birthday, u"„Oma Erna“ bearbeiten"_s); // from the menu's key straight to its photo
+    QVERIFY(editor);
+    QTRY_VERIFY(editor->hasPhoto());
+    QVERIFY(studio.click(editor, "removePhotoButton"));
+    QVERIFY(studio.click(editor, "okButton"));
+    QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
+    QVERIFY(!studio.hasPhoto(birthday));
 }
 
 void tst_StudioEntryJourneys::entryIsDeleted()
