@@ -244,32 +244,37 @@ void tst_StudioKeyboard::docks()
 
 void tst_StudioKeyboard::dialogs_data()
 {
+    QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("action");
     QTest::addColumn<QString>("dialog");
-    const auto row = [](const char *action, const char *dialog) {
-        QTest::newRow(dialog) << QString::fromLatin1(action) << QString::fromLatin1(dialog);
-    };
-    row("newProject", "newProjectDialog");
-    row("chooseLayout", "layoutDialog");
-    row("pageSetup", "pageSetupDialog");
-    row("settings", "settingsDialog");
-    row("shortcuts", "shortcutsDialog");
-    row("about", "aboutDialog");
-    QTest::newRow("exportPdf") << u"exportPdf"_s << u"exportDialog"_s;
-    QTest::newRow("exportPng") << u"exportPng"_s << u"exportDialog"_s;
-    QTest::newRow("recovery") << QString() << u"recoveryDialog"_s;
-    QTest::newRow("day editor") << QString() << QString();
+    for (const char *language : {"de", "en"}) {
+        const auto row = [language](const char *action, const char *dialog) {
+            QTest::addRow("%s %s%s", language, action, dialog)
+                << QString::fromLatin1(language) << QString::fromLatin1(action) << QString::fromLatin1(dialog);
+        };
+        row("newProject", "newProjectDialog");
+        row("chooseLayout", "layoutDialog");
+        row("pageSetup", "pageSetupDialog");
+        row("settings", "settingsDialog");
+        row("shortcuts", "shortcutsDialog");
+        row("about", "aboutDialog");
+        row("exportPdf", "exportDialog");
+        row("exportPng", "exportDialog");
+        row("", "recoveryDialog");
+        row("", ""); // the editor of a day
+    }
 }
 
 void tst_StudioKeyboard::dialogs()
 {
+    QFETCH(QString, language);
     QFETCH(QString, action);
     QFETCH(QString, dialog);
-    MvStudioFixture studio;
+    MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
     if (dialog == u"recoveryDialog"_s)
         (new MvRecoveryDialog({{}, {}}, studio.window()))->open();
     else if (dialog.isEmpty())
-        QVERIFY(studio.openDay({2027, 1, 14}, u"Neuen Eintrag"_s));
+        QVERIFY(studio.openDay({2027, 1, 14}, language == u"de"_s ? u"Neuen Eintrag"_s : u"Create new entry"_s));
     else
         QVERIFY(studio.trigger(action.toLatin1()));
     const QPointer<QDialog> open = dialog.isEmpty() ? MvStudioFixture::dialog<MvCalendarDayEditorDialog>()
