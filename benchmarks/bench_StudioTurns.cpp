@@ -1,24 +1,34 @@
 // How long the studio's window keeps somebody waiting at most while photos come in: the longest single event that is
 // handled between asking for something and seeing it, beside what decoding one such photo takes. Two and five years
-// with a photo of 12 megapixels on each page in the print preview, and a month with entries whose photos have 24.
+// with a photo of 12 megapixels on each page in the print preview, and a month with entries whose photos have 24. And
+// step by step in a large calendar, of two years with 500 entries: all layouts and countries, entries and undo, zoom,
+// a photo, another length, saved and opened again.
 
 #include "flows/MvPrintFlow.h"
+#include "flows/MvUndoCommandEventList.h"
+#include "pages/MvPageCanvas.h"
 #include "window/MvStudioWindow.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCore/MvUndoController.h"
 #include "MvImageLoader/MvImageLoader.h"
 #include "MvProject/MvProject.h"
 
 #include <QApplication>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QPrintPreviewDialog>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
+#include <QUndoStack>
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -28,7 +38,7 @@ constexpr QSize windowSize(1280, 800);
 constexpr QSize pagePhoto(4000, 3000);
 constexpr QSize entryPhoto(6000, 4000);
 constexpr int entryPhotoCount = 8;
-constexpr qint64 calm = 1500; // milliseconds without a noticeable event: all has come in
+constexpr qint64 calm = 700; // milliseconds without a noticeable event: all has come in
 
 /// Notes the longest event, nested ones within theirs.
 class Application : public QApplication
@@ -184,6 +194,109 @@ void entryPhotos(benchmark::State &state)
     report(state, first, entryPhoto);
 }
 BENCHMARK(entryPhotos)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// ---- step by step
+
+constexpr int manyEntries = 500;
+
+/// A calendar of two years in its window, and what somebody does there.
+struct Sitting
+{
+    Sitting()
+    {
+        project.newProject(calendar(24));
+        window = std::make_unique<MvStudioWindow>(&project);
+        window->resize(windowSize);
+        window->show();
+        canvas = window->findChild<MvPageCanvas *>();
+        const auto docks = window->findChildren<QDockWidget *>();
+        for (QDockWidget *dock : docks)
+            dock->raise(); // the entries come last, and stay
+        application->settle();
+    }
+
+    /// The longest event in milliseconds, until all has come in.
+    double longestWhile(const std::function<void()> &step)
+    {
+        application->longest = 0.0;
+        QMetaObject::invokeMethod(window.get(), step, Qt::QueuedConnection);
+        application->settle();
+        return application->longest;
+    }
+    void change(const std::function<void(MvCalendarDocument &)> &edit)
+    {
+        MvCalendarDocument changed = project.document();
+        edit(changed);
+        project.change(changed, u"Schritt"_s);
+    }
+
+    MvProject project;
+    std::unique_ptr<MvStudioWindow> window;
+    MvPageCanvas *canvas = nullptr;
+};
+
+MvCalendarEventList entries(int count)
+{
+    MvCalendarEventList all;
+    for (int number = 0; number < count; ++number)
+        all.append(MvCalendarEvent(u"Geburtstag %1"_s.arg(number),
+                                   QDate(1990, 1, 1).addDays(number * 73 % 365).startOfDay(), true, MvFoto(),
+                                   QUuid::createUuid(), {}));
+    return all;
+}
+
+/// Each counter is the longest event in milliseconds.
+void sitting(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString picture = photo(folder, u"0.jpg"_s, entryPhoto);
+    const QFileInfo file(folder.filePath(u"kalender.mvcalendar"_s));
+    for (auto _ : state) {
+        Sitting studio;
+        const auto step = [&state, &studio](const char *name, const std::function<void()> &action) {
+            state.counters[name] = std::max(double(state.counters[name]), studio.longestWhile(action));
+        };
+        step("add500", [] { MvUndoController::instance().push(new MvUndoCommandEventList({}, entries(manyEntries))); });
+        step("undo500", [] { MvUndoController::instance().undo(); });
+        step("redo500", [] { MvUndoController::instance().redo(); });
+        for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata())
+            step("layouts", [&studio, &layout] {
+                studio.change([&layout](MvCalendarDocument &calendar) {
+                    MvCalendariumAppearance look = calendar.appearance();
+                    look.setLayoutSchemaByID(layout.ID());
+                    look.adoptLayoutSuggestions();
+                    calendar.setAppearance(look);
+                });
+            });
+        step("undoLayouts", [] {
+            while (MvUndoController::instance().stack()->index() > 1)
+                MvUndoController::instance().undo();
+        });
+        for (const MvLocale &locale : MvCalendariumHolidayCache::instance().availableLanguages())
+            step("countries", [&studio, &locale] {
+                studio.change([&locale](MvCalendarDocument &calendar) {
+                    MvCalendariumHolidayConfig config = calendar.holidayConfig();
+                    config.setLanguage(locale);
+                    calendar.setHolidayConfig(config);
+                });
+            });
+        step("fiveYears", [&studio] {
+            studio.change([](MvCalendarDocument &calendar) {
+                calendar.setRange({QDate(2027, 1, 1), QDate(2031, 12, 31)});
+            });
+        });
+        step("photo", [&studio, &picture] { studio.canvas->setPhoto(picture); });
+        for (int times = 0; times < 8; ++times)
+            step("zoom", [&studio] { studio.canvas->zoomIn(); });
+        step("fit", [&studio] { studio.canvas->zoomToFit(); });
+        step("save", [&studio, &file] { studio.project.saveAs(file); });
+        step("new", [&studio] { studio.project.newProject(calendar(12)); });
+        step("open", [&studio, &file] { studio.project.open(file); });
+        MvCalendarEventRegistry::instance().setEvents({});
+        MvUndoController::instance().clear();
+    }
+}
+BENCHMARK(sitting)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 } // namespace
 
