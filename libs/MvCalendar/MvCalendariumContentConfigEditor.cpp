@@ -122,6 +122,7 @@ void MvCalendariumContentConfigEditor::createYearAndMonthBox()
     m_monthBox = new QComboBox(m_dateBox);
     m_monthBox->setObjectName(u"monthBox"_s);
     m_monthBox->setAccessibleName(tr("Monat, mit dem der Kalender beginnt"));
+    m_monthBox->setAccessibleDescription(m_monthBox->accessibleName()); // some platforms tell a box's value as its name
     const MvCalendarWordsRegistry &words = MvCalendarWordsRegistry::instance();
     const MvLocale language(MvApplicationLocale::instance().locale().name()); // its default one unless told otherwise
     for (int month = 1; month <= 12; ++month)
