@@ -252,6 +252,7 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     if (!isVisible())
         moveToSource();
     show();
+    activateWindow(); // not every window manager gives the keyboard to a tool window that opens
     setFoto(event.foto());
     QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
 }
