@@ -38,6 +38,20 @@ int MvCalendarPage::monthCount() const
     return isYear ? monthsPerYear : 1;
 }
 
+MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
+{
+    const auto areShownWhen = [this](bool asked) {
+        MvCalendariumHolidayConfig holidays = m_content.holidayConfig();
+        holidays.setFeature(FEATURE_CALENDAR_WEEKS, asked);
+        MvCalendarPage page = *this;
+        page.m_content.setHolidayConfig(holidays);
+        return page.renderer(m_appearance, {}, {})->isConfigured(calendar_render_week_of_year);
+    };
+    if (areShownWhen(false))
+        return CalendarWeeks::Always;
+    return areShownWhen(true) ? CalendarWeeks::AsAsked : CalendarWeeks::Never;
+}
+
 QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
 {
     QRectF rect = format.contentRect();

@@ -56,6 +56,10 @@ public:
     /// How many months the layout shows: 12 for a year, else 1.
     int monthCount() const;
 
+    enum class CalendarWeeks { AsAsked, Always, Never };
+    /// Whether the layout shows calendar weeks: as the content's FEATURE_CALENDAR_WEEKS asks, or whatever it asks.
+    CalendarWeeks calendarWeeks() const;
+
     /// What the photo leaves of the format's content rectangle to the calendarium and the line with its month; of a
     /// tall rest a strip takes the foot. Empty when nothing is left.
     QRectF calendariumRect(const MvPageFormat &format) const;

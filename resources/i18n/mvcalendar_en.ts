@@ -843,6 +843,10 @@
         <source>Seitenformat ändern</source>
         <translation>Change the page format</translation>
     </message>
+    <message>
+        <source>Dieses Layout zeigt keine Kalenderwochen.</source>
+        <translation>This layout shows no calendar weeks.</translation>
+    </message>
 </context>
 <context>
     <name>MvDialogRequestHandler</name>

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void monthAboveLayoutsWithoutOne();
     void columnsOfTheFamilyPlanner();
     void pagesOfWholeYears();
+    void calendarWeeks_data();
+    void calendarWeeks();
 };
 
 void tst_MvCalendarDocumentLayouts::monthAboveLayoutsWithoutOne_data()
@@ -100,6 +102,45 @@ void tst_MvCalendarDocumentLayouts::pagesOfWholeYears()
     const QList<Item> texts = textsOf(year, 0);
     QCOMPARE(texts.size(), 1); // no month above it
     QCOMPARE(texts.constFirst().text, u"2027"_s);
+}
+
+void tst_MvCalendarDocumentLayouts::calendarWeeks_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QString>("expected"); // where it is known
+    const QHash<QString, QString> known{{u"MONTH_GRID_CLASSIC"_s, u"always"_s}, {u"DAY_LIST"_s, u"always"_s},
+                                        {u"MONTH_GRID_COMPACT"_s, u"asked"_s},  {u"WEEK_COLUMNS"_s, u"asked"_s},
+                                        {u"FAMILY_PLANNER"_s, u"never"_s},      {u"HOLIDAY_BLOCK"_s, u"never"_s}};
+    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        const QString id = schema.ID().toString();
+        QTest::newRow(qPrintable(id)) << id << known.value(id);
+    }
+}
+
+/// What the page says of its calendar weeks is what it paints.
+void tst_MvCalendarDocumentLayouts::calendarWeeks()
+{
+    using CalendarWeeks = MvCalendarPage::CalendarWeeks;
+    QFETCH(QString, layout);
+    QFETCH(QString, expected);
+    MvCalendarDocument document = ::document(layout);
+    const auto textsWhen = [&document](bool asked) {
+        MvCalendariumHolidayConfig holidays = document.holidayConfig();
+        holidays.setFeature(FEATURE_CALENDAR_WEEKS, asked);
+        document.setHolidayConfig(holidays);
+        QStringList texts;
+        for (const Item &item : textsOf(document, 0))
+            texts.append(item.text);
+        return texts;
+    };
+    const bool isChoice = textsWhen(true) != textsWhen(false);
+    const CalendarWeeks weeks = document.pages().constFirst().calendarWeeks();
+    QCOMPARE(weeks == CalendarWeeks::AsAsked, isChoice);
+    const QString name = weeks == CalendarWeeks::AsAsked  ? u"asked"_s
+                         : weeks == CalendarWeeks::Always ? u"always"_s
+                                                          : u"never"_s;
+    if (!expected.isEmpty())
+        QCOMPARE(name, expected);
 }
 
 MV_TEST_MAIN(tst_MvCalendarDocumentLayouts)

@@ -57,16 +57,26 @@ void MvContentPanel::showPage()
     const MvCalendariumHolidayConfig holidays = page.contentConfig().holidayConfig();
     m_content->setContentConfig({edits()->document().range().start(), holidays});
     m_shown = m_content->contentConfig();
-    const bool alwaysWithWeeks = page.appearance().currentSchemaNeeds(calendar_render_week_of_year);
-    m_calendarWeeks->setEnabled(!alwaysWithWeeks);
-    m_calendarWeeks->setChecked(alwaysWithWeeks || holidays.hasFeatures(FEATURE_CALENDAR_WEEKS));
-    m_calendarWeeks->setToolTip(alwaysWithWeeks ? tr("Dieses Layout zeigt die Kalenderwochen immer.") : QString());
+    showCalendarWeeks(page);
     m_publicHolidaysOnly->setChecked(holidays.hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY));
     m_vacationNamesDaily->setChecked(holidays.hasFeatures(FEATURE_VACATION_NAMES_DAILY));
     m_publicHolidaysOnly->setEnabled(m_content->holidayChecked());
     m_vacationNamesDaily->setEnabled(m_content->holidayChecked());
     m_setup->setRange(edits()->document().range());
     m_setup->setFormat(edits()->document().format());
+}
+
+/// A layout may leave nothing to choose.
+void MvContentPanel::showCalendarWeeks(const MvCalendarPage &page)
+{
+    using CalendarWeeks = MvCalendarPage::CalendarWeeks;
+    const CalendarWeeks weeks = page.calendarWeeks();
+    const bool isAsked = page.contentConfig().holidayConfig().hasFeatures(FEATURE_CALENDAR_WEEKS);
+    m_calendarWeeks->setEnabled(weeks == CalendarWeeks::AsAsked);
+    m_calendarWeeks->setChecked(weeks == CalendarWeeks::Always || (weeks == CalendarWeeks::AsAsked && isAsked));
+    m_calendarWeeks->setToolTip(weeks == CalendarWeeks::Always  ? tr("Dieses Layout zeigt die Kalenderwochen immer.")
+                                : weeks == CalendarWeeks::Never ? tr("Dieses Layout zeigt keine Kalenderwochen.")
+                                                                : QString());
 }
 
 void MvContentPanel::onContentChanged()

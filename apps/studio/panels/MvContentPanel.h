@@ -5,6 +5,7 @@
 #include "MvProductBase/MvCalendariumContentConfig.h"
 
 class MvCalendariumContentConfigEditor;
+class MvCalendarPage;
 class MvPageSetupEditor;
 class QCheckBox;
 
@@ -25,6 +26,7 @@ private:
     void onContentChanged();
     void onFeatureClicked(int feature, bool on);
     void onSetupChanged();
+    void showCalendarWeeks(const MvCalendarPage &page);
     void applyHolidays(const MvCalendariumHolidayConfig &before, const MvCalendariumHolidayConfig &after);
 
     MvCalendariumContentConfigEditor *m_content;

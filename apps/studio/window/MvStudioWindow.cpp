@@ -37,7 +37,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize firstSize(1600, 1000);
-constexpr QSize frame(8, 40); // what window managers put around it at most, as a rule
+constexpr QSize frame(8, 40);     // what window managers put around it at most, as a rule
 constexpr int widestPanel = 420;  // at first; the page is what it is about
 constexpr int messageTime = 8000; // milliseconds
 constexpr int stateVersion = 1;   // of the arrangement of docks and tool bars
