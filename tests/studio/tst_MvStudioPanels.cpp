@@ -81,6 +81,7 @@ private Q_SLOTS:
     void recolouringLeavesTheShippedSchema();
     void yearsForAllPages();
     void columnHeaders();
+    void picturesOfLayouts();
 };
 
 void tst_MvStudioPanels::init()
@@ -292,6 +293,28 @@ void tst_MvStudioPanels::columnHeaders()
     QCOMPARE(open.look(3).columnHeadersList(), QStringList({u"Mama"_s, u"Papa"_s, u"Kind 1"_s, u"Kind 2"_s, u"Oma"_s}));
     MvUndoController::instance().undo();
     QCOMPARE(columns->value(), 4);
+}
+
+/// They have the page's colours, its lines too, and the page's own layout is in sight.
+void tst_MvStudioPanels::picturesOfLayouts()
+{
+    OpenPanels open(u"WEEK_COLUMNS"_s);
+    open.window.resize(1400, 500);
+    auto *list = open.find<QListWidget>(u"layoutList"_s);
+    MvLayoutChooser reference(nullptr, list->iconSize());
+    reference.setDocument(open.project.document());
+    reference.show();
+    const auto picture = [](const QListWidget *of, int row) {
+        return of->item(row)->icon().pixmap(of->iconSize()).toImage();
+    };
+    const auto *expected = reference.findChild<QListWidget *>();
+    for (const QString &name : {u"Monatsraster klassisch"_s, u"Familienplaner"_s, u"Jahresplaner"_s}) {
+        const int row = list->row(list->findItems(name, Qt::MatchExactly).value(0));
+        QVERIFY(row >= 0);
+        QTRY_COMPARE(picture(list, row), picture(expected, row));
+    }
+    QVERIFY(list->verticalScrollBar()->maximum() > 0);
+    QVERIFY(list->viewport()->rect().contains(list->visualItemRect(list->currentItem())));
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvStudioPanels)

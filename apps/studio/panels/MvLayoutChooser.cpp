@@ -135,6 +135,24 @@ void MvLayoutChooser::resizeEvent(QResizeEvent *event)
     const QSize grid(room / columns, m_list->gridSize().height());
     if (room > 0 && grid != m_list->gridSize())
         m_list->setGridSize(grid);
+    scrollToCurrentSoon();
+}
+
+void MvLayoutChooser::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    scrollToCurrentSoon();
+}
+
+/// When the list has laid out its items anew.
+void MvLayoutChooser::scrollToCurrentSoon()
+{
+    const auto scroll = [this] {
+        m_list->doItemsLayout();
+        if (QListWidgetItem *item = m_list->currentItem())
+            m_list->scrollToItem(item);
+    };
+    QMetaObject::invokeMethod(this, scroll, Qt::QueuedConnection);
 }
 
 QImage MvLayoutChooser::emptyPicture() const

@@ -38,6 +38,7 @@ Q_SIGNALS:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     QImage emptyPicture() const;
@@ -45,6 +46,7 @@ private:
     QImage makePicture(int number) const;
     void showPicture(int number);
     void describeCurrent();
+    void scrollToCurrentSoon();
 
     QListWidget *m_list;
     QLabel *m_description;

@@ -97,7 +97,9 @@ void MvLayoutPanel::showLayout()
     if (m_pictured.isValid()) // whatever the layout
         look.setLayoutSchema(m_pictured.appearance().layoutSchema());
     look.setColumnHeaders(QString());
-    look.setGridConfig({});
+    MvBorderConfig grid = look.gridConfig(); // on or off as the layouts suggest
+    grid.setIsEnabled(true);
+    look.setGridConfig(grid);
     pictured.setAppearance(look);
     if (!(pictured == m_pictured)) {
         m_pictured = pictured;
