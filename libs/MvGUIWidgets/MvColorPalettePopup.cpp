@@ -2,10 +2,12 @@
 
 #include "MvGUIWidgets/MvColorSwatch.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -175,6 +177,7 @@ void MvColorPalettePopup::openAt(const QRect &parentRect)
     }
     move(place);
     show();
+    m_sinceOpened.start();
     const auto isCurrent = [](const QAbstractButton *choice) { return choice->isChecked(); };
     const auto current = std::find_if(m_choices.cbegin(), m_choices.cend(), isCurrent);
     (current != m_choices.cend() ? *current : m_choices.constFirst())->setFocus(Qt::PopupFocusReason);
@@ -207,6 +210,12 @@ void MvColorPalettePopup::hideEvent(QHideEvent *event)
     QFrame::hideEvent(event);
     if (!m_dialogIsOpen)
         deleteLater();
+}
+
+void MvColorPalettePopup::mousePressEvent(QMouseEvent *event)
+{
+    if (rect().contains(event->position().toPoint()) || m_sinceOpened.hasExpired(QApplication::doubleClickInterval()))
+        QFrame::mousePressEvent(event); // which closes it for a press beside it
 }
 
 bool MvColorPalettePopup::eventFilter(QObject *watched, QEvent *event)

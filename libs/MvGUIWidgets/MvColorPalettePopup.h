@@ -3,6 +3,7 @@
 #include "MvGUIWidgets/mvguiwidgets_export.h"
 
 #include <QColor>
+#include <QElapsedTimer>
 #include <QFrame>
 #include <QList>
 
@@ -22,7 +23,7 @@ public:
     MvColorPalettePopup(QWidget *parent, const QColor &current, const QList<QColor> &usedColors, bool alphaAllowed);
 
     /// Shows the palette below the rectangle of the parent, or above it where the screen ends. The keyboard starts at
-    /// the present colour.
+    /// the present colour. The second click of a double click on what opened it does not close it.
     void openAt(const QRect &parentRect);
 
     /// The tints on offer, row by row.
@@ -35,6 +36,7 @@ Q_SIGNALS:
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     void addUsedColors(QVBoxLayout *layout, const QList<QColor> &colors);
@@ -48,4 +50,5 @@ private:
     QColor m_current;
     bool m_alphaAllowed;
     bool m_dialogIsOpen = false;
+    QElapsedTimer m_sinceOpened;
 };

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void names();
     void buttonChoosesByKeyboard();
     void buttonIsSilentWhenNothingChanges();
+    void doubleClicksOpenOnce();
     void dialogDoesNotBlock_data();
     void dialogDoesNotBlock();
     void cellOpensPalette_data();
@@ -98,6 +99,23 @@ void tst_MvColorChoosers::buttonIsSilentWhenNothingChanges()
     QTest::mouseClick(openPalette()->findChild<QPushButton *>(u"transparentButton"_s), Qt::LeftButton);
     QCOMPARE(changed.size(), 1);
     QCOMPARE(button.color().alpha(), 0);
+}
+
+void tst_MvColorChoosers::doubleClicksOpenOnce()
+{
+    const int usual = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(200);
+    MvColorSelectionButton button(true);
+    button.show();
+    QTest::mouseClick(&button, Qt::LeftButton);
+    const QPointer<MvColorPalettePopup> palette = openPalette();
+    QVERIFY(palette);
+    QTest::mouseClick(palette, Qt::LeftButton, {}, QPoint(-5, -5)); // still on the button, as popups get it
+    QVERIFY(palette && palette->isVisible());
+    QTest::qWait(220);
+    QTest::mouseClick(palette, Qt::LeftButton, {}, QPoint(-5, -5));
+    QVERIFY(!palette || !palette->isVisible());
+    QApplication::setDoubleClickInterval(usual);
 }
 
 void tst_MvColorChoosers::dialogDoesNotBlock_data()
