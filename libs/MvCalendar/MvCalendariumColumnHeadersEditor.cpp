@@ -21,12 +21,13 @@ MvCalendariumColumnHeadersEditor::MvCalendariumColumnHeadersEditor(QWidget *pare
     : QWidget(parent)
     , m_model(new QStringListModel(QStringList{QString()}, this))
     , m_countBox(createCountColumnsBox())
+    , m_list(createColumnHeadersEdit())
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSizeConstraint(QLayout::SetMinimumSize);
     layout->addWidget(m_countBox);
-    layout->addWidget(createColumnHeadersEdit());
+    layout->addWidget(m_list);
 }
 
 QSpinBox *MvCalendariumColumnHeadersEditor::createCountColumnsBox()
@@ -62,9 +63,28 @@ void MvCalendariumColumnHeadersEditor::setHeaders(const QList<QString> &headers)
     const QSignalBlocker countBlocker(m_countBox); // a count beyond its range must not cut the list
     const QStringList shown = headers.isEmpty() ? QStringList{QString()} : headers;
     if (shown != m_model->stringList()) // keeps the place in the list
-        m_model->setStringList(shown);
+        showHeaders(shown);
     m_countBox->setMaximum(qMax(mostColumns, static_cast<int>(shown.size())));
     m_countBox->setValue(static_cast<int>(shown.size()));
+}
+
+/// Row by row: a reset would forget where one stands, and the click whose editor is about to open.
+void MvCalendariumColumnHeadersEditor::showHeaders(const QStringList &headers)
+{
+    const auto triggers = m_list->editTriggers();
+    m_list->setEditTriggers(QAbstractItemView::NoEditTriggers); // nobody asked to edit the row before one that goes
+    const int count = static_cast<int>(headers.size());
+    const int rows = m_model->rowCount();
+    if (rows > count)
+        m_model->removeRows(count, rows - count);
+    else if (rows < count)
+        m_model->insertRows(rows, count - rows);
+    m_list->setEditTriggers(triggers);
+    for (int row = 0; row < count; ++row) {
+        const QModelIndex index = m_model->index(row);
+        if (index.data(Qt::EditRole).toString() != headers.at(row))
+            m_model->setData(index, headers.at(row));
+    }
 }
 
 QList<QString> MvCalendariumColumnHeadersEditor::headers() const
@@ -79,7 +99,7 @@ void MvCalendariumColumnHeadersEditor::headersEdited()
 
 void MvCalendariumColumnHeadersEditor::countColumnsChanged(int count)
 {
-    m_model->setStringList(adaptStringListToCountItems(count));
+    showHeaders(adaptStringListToCountItems(count));
     headersEdited();
 }
 

@@ -31,9 +31,11 @@ public Q_SLOTS:
 private:
     QSpinBox *createCountColumnsBox();
     QListView *createColumnHeadersEdit();
+    void showHeaders(const QStringList &headers);
     /// The list cut, or filled up with empty texts, to the number of items.
     QStringList adaptStringListToCountItems(int count) const;
 
     QStringListModel *m_model;
     QSpinBox *m_countBox;
+    QListView *m_list;
 };

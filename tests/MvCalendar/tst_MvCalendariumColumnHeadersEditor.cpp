@@ -20,6 +20,7 @@ private Q_SLOTS:
     void settingIsSilent();
     void longAndEmptyLists();
     void typing();
+    void otherHeadersWhileAnEditorIsToOpen();
 };
 
 void tst_MvCalendariumColumnHeadersEditor::count_data()
@@ -85,6 +86,27 @@ void tst_MvCalendariumColumnHeadersEditor::typing()
     QTest::keyClick(field, Qt::Key_Return);
     QTRY_COMPARE(changed.size(), 1);
     QCOMPARE(editor.headers(), (QStringList{u"Anna"_s, u"Bruno"_s, u"Familie"_s}));
+}
+
+/// A click on the selected row opens its editor a moment later; the row may be another one, or gone, by then.
+void tst_MvCalendariumColumnHeadersEditor::otherHeadersWhileAnEditorIsToOpen()
+{
+    MvCalendariumColumnHeadersEditor editor;
+    editor.setHeaders(three);
+    editor.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&editor));
+    auto *list = editor.findChild<QListView *>();
+    for (const QStringList &headers : {QStringList{u"x"_s, u"y"_s, u"z"_s}, QStringList{u"Anna"_s}}) {
+        const QModelIndex last = list->model()->index(list->model()->rowCount() - 1, 0);
+        list->setCurrentIndex(last);
+        if (auto *line = list->viewport()->findChild<QLineEdit *>()) // it opens at once where one comes to
+            QTest::keyClick(line, Qt::Key_Escape);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(last).center());
+        editor.setHeaders(headers);
+        QVERIFY(list->currentIndex().isValid());
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        QCOMPARE(QStringList(editor.headers()), headers);
+    }
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvCalendariumColumnHeadersEditor)
