@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
+#include "MvCore/MvStringHelper.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoAccess.h"
 
@@ -45,6 +46,14 @@ void changeFoto(MvCalendarEvent &event, const QString &path)
         event = changed;
 }
 
+/// What is no name, or the present one as a file wrote it, changes nothing.
+void changeName(MvCalendarEvent &event, const QString &text)
+{
+    const QString name = MvStringHelper::simplifiedName(text);
+    if (!name.isEmpty() && text != event.description())
+        event.setEventName(name);
+}
+
 /// The entry with one field changed; equal to the given one when the value is of no use.
 MvCalendarEvent changedBy(const MvCalendarEvent &event, int column, const QVariant &value)
 {
@@ -58,7 +67,7 @@ MvCalendarEvent changedBy(const MvCalendarEvent &event, int column, const QVaria
             changed.setDateTime(value.toDateTime());
         break;
     case MvCalendarEventModel::NameColumn:
-        changed.setEventName(value.toString());
+        changeName(changed, value.toString());
         break;
     case MvCalendarEventModel::EventColumn:
         changed.setRecurrent(value.value<MvCalendarEvent>().isRecurrent());
@@ -189,7 +198,7 @@ bool MvCalendarEventModel::setData(const QModelIndex &index, const QVariant &val
         return false;
     m_events[index.row()] = after;
     MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, nullptr));
-    if (hasRow(index.row())) // the last row is gone when its entry was removed
+    if (hasRow(index.row())) // the last row is gone when another program has removed entries
         Q_EMIT dataChanged(index, index);
     return true;
 }

@@ -39,8 +39,9 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
-    /// Changes an entry through an undo command; false when nothing changes, or the value is no date or no readable
-    /// photo. No path means no photo, an empty name removes the entry, and the last column always makes it recurrent.
+    /// Changes an entry through an undo command; false when nothing changes, or the value is no date, no name after
+    /// MvStringHelper::simplifiedName(), or no readable photo. No path means no photo, and the last column always makes
+    /// the entry recurrent.
     /// The model has loaded anew on return: the entry may stand in another row.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 

@@ -1,8 +1,63 @@
 #include "MvCore/MvStringHelper.h"
 
 #include <QStringList>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Without halves of a surrogate pair and code points that are no characters, which no file could hold; blanks for
+/// control characters.
+QString wellFormed(const QString &text)
+{
+    QString result;
+    result.reserve(text.size());
+    const QList<uint> characters = text.toUcs4(); // a half of a pair becomes U+FFFD
+    qsizetype unit = 0;
+    for (const uint character : characters) {
+        const bool isHalf = text.at(unit).isSurrogate() && !QChar::requiresSurrogates(character);
+        unit += QChar::requiresSurrogates(character) ? 2 : 1;
+        if (isHalf || QChar::isNonCharacter(character))
+            continue;
+        if (QChar::category(character) == QChar::Other_Control)
+            result.append(u' ');
+        else
+            result.append(QChar::fromUcs4(character));
+    }
+    return result;
+}
+
+/// Joiners, marks of direction, fillers and the like, which show nothing by themselves.
+bool isInvisible(uint character)
+{
+    static constexpr std::pair<uint, uint> ranges[] = {
+        {0x034f, 0x034f}, {0x115f, 0x1160}, {0x17b4, 0x17b5}, {0x180b, 0x180f},   {0x2800, 0x2800},
+        {0x3164, 0x3164}, {0xfe00, 0xfe0f}, {0xffa0, 0xffa0}, {0xe0000, 0xe0fff},
+    };
+    const auto holds = [character](const auto &range) { return character >= range.first && character <= range.second; };
+    return QChar::isSpace(character) || QChar::category(character) == QChar::Other_Format ||
+           std::any_of(std::begin(ranges), std::end(ranges), holds);
+}
+
+/// At most so many units, without cutting a character with its marks in two.
+QString cutToWholeCharacters(const QString &text, qsizetype length)
+{
+    if (text.size() <= length)
+        return text;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.setPosition(length);
+    if (!finder.isAtBoundary())
+        finder.toPreviousBoundary();
+    if (finder.position() > 0)
+        return text.left(finder.position());
+    return text.left(text.at(length).isLowSurrogate() ? length - 1 : length); // nothing but marks on one letter
+}
+
+} // namespace
 
 QString MvStringHelper::boolToString(bool value)
 {
@@ -17,4 +72,13 @@ bool MvStringHelper::stringToBool(const QString &text, bool defaultValue)
     if (yes.contains(word))
         return true;
     return no.contains(word) ? false : defaultValue;
+}
+
+QString MvStringHelper::simplifiedName(const QString &name)
+{
+    const QString text = wellFormed(name).simplified();
+    const QList<uint> characters = text.toUcs4();
+    if (std::all_of(characters.cbegin(), characters.cend(), isInvisible))
+        return {};
+    return cutToWholeCharacters(text, longestName).trimmed();
 }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The textual form of simple values in files.
+/// The textual form of simple values in files, and of names as people give them.
 class MVCORE_EXPORT MvStringHelper
 {
 public:
@@ -12,4 +12,11 @@ public:
     static QString boolToString(bool value);
     /// Reads "true", "1", "yes", "on" and their opposites, whatever their case; anything else gives the default.
     static bool stringToBool(const QString &text, bool defaultValue);
+
+    static constexpr qsizetype longestName = 500; // UTF-16 units
+
+    /// A name as it is taken from a person or an address book: one line, no blanks around it and single ones in it.
+    /// Line breaks, tabs and other control characters count as blanks; what is no character at all goes. Empty when
+    /// nothing of it could be seen. A longer name than longestName ends there, with a whole character.
+    static QString simplifiedName(const QString &name);
 };

@@ -1,0 +1,46 @@
+#include "MvTest.h"
+
+#include "MvCore/MvStringHelper.h"
+
+class tst_MvStringHelper : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void names_data();
+    void names();
+};
+
+void tst_MvStringHelper::names_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("name");
+    const QString pair = u"\U0001F388"_qs;
+    const QString family = u"\U0001F468\u200d\U0001F469"_qs; // one character of five units
+    const QString letters(MvStringHelper::longestName, u'x');
+    QTest::newRow("as it is") << u"Oma Erika & Co."_qs << u"Oma Erika & Co."_qs;
+    QTest::newRow("lines and runs of blanks") << u" \tOma\r\n\u2028Erika \u00a0 M. \u0085"_qs << u"Oma Erika M."_qs;
+    QTest::newRow("control characters") << u"\u0000Oma\u0007Erika\u009f"_qs << u"Oma Erika"_qs;
+    QTest::newRow("halves of a pair") << pair.right(1) + u"Oma"_qs + pair.left(1) + pair + pair.left(1)
+                                      << u"Oma"_qs + pair;
+    QTest::newRow("no characters") << u"Oma\uffff\ufdd0\U0001fffe"_qs << u"Oma"_qs;
+    QTest::newRow("nothing to be seen") << u"\u0001\u200b \ufeff\u3164\u2060\ufe0f\u2800"_qs << QString();
+    QTest::newRow("joined") << family << family;
+    QTest::newRow("the longest") << letters << letters;
+    QTest::newRow("too long") << letters + u"y"_qs << letters;
+    QTest::newRow("ends before what does not fit whole") << letters.chopped(1) + family << letters.chopped(1);
+    QTest::newRow("ends without a blank") << letters.chopped(1) + u" y"_qs << letters.chopped(1);
+    QTest::newRow("nothing but marks") << u"a"_qs + QString(1000, QChar(0x0301))
+                                       << u"a"_qs + QString(letters.size() - 1, QChar(0x0301));
+}
+
+void tst_MvStringHelper::names()
+{
+    QFETCH(const QString, text);
+    QTEST(MvStringHelper::simplifiedName(text), "name");
+    QCOMPARE(MvStringHelper::simplifiedName(MvStringHelper::simplifiedName(text)),
+             MvStringHelper::simplifiedName(text));
+}
+
+MV_TEST_MAIN(tst_MvStringHelper)
+#include "tst_MvStringHelper.moc"
