@@ -1,4 +1,5 @@
 # mv_add_test(<name> LINK <target>...)      a Qt Test program <name>.cpp, run by ctest
+# mv_add_nightly(<name> COMMAND ...)        a long run: the command with MV_NIGHTLY=1, by ctest --preset nightly alone
 # mv_add_benchmark(<name> LINK <target>...) a Google Benchmark program <name>.cpp
 
 function(mv_test_environment out)
@@ -22,6 +23,17 @@ function(mv_add_test name)
         set(ARG_TIMEOUT 300)
     endif()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT ${ARG_TIMEOUT})
+endfunction()
+
+function(mv_add_nightly name)
+    cmake_parse_arguments(ARG "" "TIMEOUT" "COMMAND" ${ARGN})
+    add_test(NAME ${name} COMMAND ${ARG_COMMAND} CONFIGURATIONS Nightly)
+    mv_test_environment(environment)
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 7200)
+    endif()
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment};MV_NIGHTLY=1" TIMEOUT ${ARG_TIMEOUT}
+        LABELS nightly)
 endfunction()
 
 function(mv_add_benchmark name)

@@ -1120,6 +1120,17 @@
     </message>
 </context>
 <context>
+    <name>MvFileGuard</name>
+    <message>
+        <source>Ein anderes Programm schreibt gerade in diese Datei.</source>
+        <translation>Another program is just writing to this file.</translation>
+    </message>
+    <message>
+        <source>Dateien lassen sich hier nicht sperren.</source>
+        <translation>Files cannot be locked here.</translation>
+    </message>
+</context>
+<context>
     <name>MvFileNamePattern</name>
     <message>
         <source>%1: unbekannter Platzhalter; erlaubt sind %m (Monat), %y (Jahr), %n (Seite) und %% (Prozentzeichen)</source>

@@ -7,6 +7,7 @@
 
 #include <QTemporaryDir>
 
+#include <array>
 #include <csignal>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -32,6 +33,8 @@ private Q_SLOTS:
     void sweepsTemporaries();
     void setsAside();
     void stampTellsOfOtherWriters();
+    void locksOutOthers_data();
+    void locksOutOthers();
     void freeNames();
 
 private:
@@ -255,11 +258,57 @@ void tst_MvSafeFileWriter::stampTellsOfOtherWriters()
     QCOMPARE(MvFileGuard::stamp(file), stamp);
     QVERIFY(MvSafeFileWriter::write(file, "two").isOk()); // same size, same second
     QVERIFY(MvFileGuard::stamp(file) != stamp);
+}
 
-    put(u"a.xml.lock"_qs, ""); // left behind by a killed program, and nothing in it
-    const MvFileGuard first(file, 1);
-    QVERIFY(first.isLocked());
-    QVERIFY(!MvFileGuard(file, 1).isLocked());
+void tst_MvSafeFileWriter::locksOutOthers_data()
+{
+    QTest::addColumn<int>("folderMode");
+    QTest::addColumn<int>("fileMode"); // 0: no file
+    QTest::addColumn<bool>("isAdministratorFirst");
+    QTest::addColumn<bool>("isPossible");
+    QTest::newRow("open folder") << 0777 << 0666 << false << true;
+    QTest::newRow("no file yet") << 0777 << 0 << false << true;
+    QTest::newRow("closed folder") << 0555 << 0666 << false << true;
+    QTest::newRow("closed folder, read-only file") << 0555 << 0444 << false << true;
+    QTest::newRow("closed to the second alone") << 0555 << 0666 << true << true;
+    QTest::newRow("closed folder without a file") << 0555 << 0 << false << false;
+}
+
+void tst_MvSafeFileWriter::locksOutOthers()
+{
+    QFETCH(int, folderMode);
+    QFETCH(int, fileMode);
+    QFETCH(bool, isAdministratorFirst);
+    QFETCH(bool, isPossible);
+    if (::geteuid() != 0)
+        QSKIP("taking on another user needs the administrator");
+    const QFileInfo file(path(u"a.xml"_qs));
+    if (fileMode != 0) {
+        put(u"a.xml"_qs, "one");
+        put(u"a.xml.lock"_qs, ""); // left behind by a killed program, and nothing in it
+        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_qs)).constData(), mode_t(fileMode)), 0);
+        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml.lock"_qs)).constData(), 0600), 0);
+    }
+    QCOMPARE(::chmod(QFile::encodeName(m_dir->path()).constData(), mode_t(folderMode)), 0);
+    std::array<MvFileGuard::State, 3> states = {};
+    if (!isAdministratorFirst)
+        QCOMPARE(::seteuid(65534), 0);
+    {
+        const MvFileGuard guard(file, 0);
+        states[0] = guard.state();
+        QCOMPARE(::seteuid(0), 0);
+        QCOMPARE(::seteuid(65534), 0);
+        const MvFileGuard other(file, 0);
+        states[1] = other.state();
+        QCOMPARE(other.reason().isEmpty(), other.isLocked());
+        QCOMPARE(::seteuid(isAdministratorFirst ? 0 : 65534), 0);
+    }
+    states[2] = MvFileGuard(file, 0).state();
+    QCOMPARE(::seteuid(0), 0);
+    using State = MvFileGuard::State;
+    QCOMPARE(states[0], isPossible ? State::Locked : State::NotPossible);
+    QCOMPARE(states[1], isPossible ? State::HeldByOthers : State::NotPossible);
+    QCOMPARE(states[2], states[0]); // the first one has let go
 }
 
 void tst_MvSafeFileWriter::freeNames()
