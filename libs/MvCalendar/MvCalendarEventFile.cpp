@@ -19,12 +19,10 @@ const QString entryName = u"CalendarEvent"_s;
 class Gathering
 {
 public:
-    void add(const MvCalendarEvent &event, bool isEmpty)
+    void add(const MvCalendarEvent &event)
     {
-        if (!event.isValid()) {
-            m_lost += isEmpty ? 0 : 1;
+        if (!event.isValid())
             return;
-        }
         const qsizetype before = m_known.size();
         m_known.insert(event);
         if (m_known.size() > before)
@@ -32,14 +30,52 @@ public:
     }
 
     MvCalendarEventList events() const { return m_events; }
-    /// No element with content was left out as invalid.
-    bool isComplete() const { return m_lost == 0; }
 
 private:
     MvCalendarEventList m_events;
     QSet<MvCalendarEvent> m_known;
-    qsizetype m_lost = 0;
 };
+
+/// A text of a file as part of a message.
+QString shown(const QString &text)
+{
+    constexpr qsizetype longest = 60;
+    const QString simple = text.simplified();
+    return simple.size() > longest ? simple.left(longest) + u'…' : simple;
+}
+
+QString whyInvalid(const MvCalendarEvent &event, const MvCalendarEventTexts &texts)
+{
+    const QString date = shown(texts.text(u"DateTime"_s));
+    QStringList reasons;
+    if (event.description().isEmpty())
+        reasons.append(MvCalendarEventFile::tr("der Name fehlt"));
+    if (!event.dateTime().isValid())
+        reasons.append(date.isEmpty() ? MvCalendarEventFile::tr("das Datum fehlt")
+                                      : MvCalendarEventFile::tr("das Datum „%1“ ist nicht zu lesen").arg(date));
+    return reasons.join(u", "_s);
+}
+
+/// The entries of a list; the reader stands on its root element and is left on that's end.
+void readEntries(QXmlStreamReader &reader, const QDir &folder, MvCalendarEventFile::Content &content)
+{
+    Gathering gathering;
+    while (reader.readNextStartElement()) {
+        const int line = int(reader.lineNumber());
+        const QString element = reader.qualifiedName().toString();
+        if (element != entryName) {
+            reader.skipCurrentElement();
+            content.skipped.append({line, shown(element), MvCalendarEventFile::tr("das ist kein Eintrag")});
+            continue;
+        }
+        const MvCalendarEventTexts texts(reader);
+        const MvCalendarEvent event(texts, folder);
+        gathering.add(event);
+        if (!event.isValid() && !texts.isEmpty()) // nothing is lost with an empty one
+            content.skipped.append({line, shown(event.description()), whyInvalid(event, texts)});
+    }
+    content.events = gathering.events();
+}
 
 void warnOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &file)
 {
@@ -71,21 +107,37 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
     // as a stream: faster than a document in memory, and names of blanks alone stay
     QXmlStreamReader reader(bytes);
     reader.setNamespaceProcessing(false);
-    const bool isList = reader.readNextStartElement() && reader.qualifiedName() == rootName;
-    const QDir folder = present.absoluteDir();
-    Gathering gathering;
-    while (isList && reader.readNextStartElement()) {
-        if (reader.qualifiedName() != entryName) {
-            reader.skipCurrentElement();
-            continue;
-        }
-        const MvCalendarEventTexts texts(reader);
-        gathering.add(MvCalendarEvent(texts, folder), texts.isEmpty());
+    if (reader.readNextStartElement() && reader.qualifiedName() != rootName) {
+        content.foreign = MvXMLLoader::Error{tr("Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „%1“ "
+                                                "statt mit „%2“.")
+                                                 .arg(shown(reader.qualifiedName().toString()), rootName)}
+                              .describe(present);
+        return content;
     }
-    content.events = gathering.events();
-    content.isComplete = isList && gathering.isComplete();
+    readEntries(reader, present.absoluteDir(), content);
+    if (reader.hasError())
+        content.error =
+            MvXMLLoader::Error{reader.errorString(), int(reader.lineNumber()), int(reader.columnNumber()) + 1}.describe(
+                present);
+    content.isComplete = content.isRead() && content.skipped.isEmpty();
     warnOfForeignFotos(content.events, present);
     return content;
+}
+
+QString MvCalendarEventFile::Skipped::describe() const
+{
+    return name.isEmpty() ? tr("Zeile %1: %2").arg(line).arg(reason)
+                          : tr("Zeile %1, „%2“: %3").arg(QString::number(line), name, reason);
+}
+
+QString MvCalendarEventFile::describe(const QList<Skipped> &skipped, int most)
+{
+    QStringList lines;
+    for (const Skipped &one : skipped.mid(0, most))
+        lines.append(one.describe());
+    if (skipped.size() > most)
+        lines.append(tr("… und %n weitere", nullptr, int(skipped.size()) - most));
+    return lines.join(u'\n');
 }
 
 MvCalendarEventList MvCalendarEventFile::readElement(const QDomElement &element)
@@ -93,7 +145,7 @@ MvCalendarEventList MvCalendarEventFile::readElement(const QDomElement &element)
     Gathering gathering;
     for (QDomElement child = element.firstChildElement(entryName); !child.isNull();
          child = child.nextSiblingElement(entryName))
-        gathering.add(MvCalendarEvent(child), !child.hasChildNodes());
+        gathering.add(MvCalendarEvent(child));
     return gathering.events();
 }
 

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QList>
 #include <QString>
 
 /// Files of entries ("CalendarEvents"): reading and writing, without any state.
@@ -15,18 +16,37 @@ class MVCALENDAR_EXPORT MvCalendarEventFile
     Q_DECLARE_TR_FUNCTIONS(MvCalendarEventFile)
 
 public:
+    /// What a file holds, but the list does not.
+    struct Skipped
+    {
+        int line = 0;   // of its start, from 1
+        QString name;   // of the entry, or of an element that is no entry; may be empty
+        QString reason; // for a person: "das Datum „17.05.1941“ ist nicht zu lesen"
+
+        /// "Zeile 12, „Oma“: das Datum …"
+        QString describe() const;
+    };
+
     struct Content
     {
         MvCalendarEventList events;
-        QString error;           // for a person, with file and place; empty when the file was read
+        QString error;           // for a person, with file and place; empty when the file was read to its end
+        QString foreign;         // for a person, with file; set when it is well-formed, but no list of entries
+        QList<Skipped> skipped;  // in the order of the file
         bool isMissing = false;  // there is no such file; error is set, too
         bool isComplete = false; // everything in the file is in the list: writing it back loses nothing
 
         bool isRead() const { return error.isEmpty(); }
+        bool isForeign() const { return !foreign.isEmpty(); }
+        /// Why the file is not to be used as a list, for a person; empty for a list, even if some of it was skipped.
+        QString refusal() const { return isRead() ? foreign : error; }
     };
 
-    /// Reads a file. Photos that may not be opened give one warning for the file.
+    /// Reads a file. Photos that may not be opened give one warning for the file. May be called in any thread.
     static Content read(const QFileInfo &file);
+
+    /// One line for each, at most so many, then how many more there are.
+    static QString describe(const QList<Skipped> &skipped, int most);
 
     /// The valid entries among the child elements "CalendarEvent", in order, each equal one once.
     static MvCalendarEventList readElement(const QDomElement &element);

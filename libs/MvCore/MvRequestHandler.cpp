@@ -27,6 +27,12 @@ std::unique_ptr<MvRequestHandler> &installed()
 
 MvRequestHandler::~MvRequestHandler() = default;
 
+void MvRequestHandler::askChoice(const ChoiceRequest &request, QObject *asker, const ChoiceAnswer &answer)
+{
+    const int last = int(request.buttons.size()) - 1;
+    askYesNo(request.title, request.text, asker, [answer, last](bool yes) { answer(yes ? 0 : last); });
+}
+
 MvRequestHandler &MvRequestHandler::current()
 {
     static Nobody nobody;

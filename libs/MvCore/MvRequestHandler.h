@@ -3,6 +3,7 @@
 #include "MvCore/mvcore_export.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
@@ -27,8 +28,18 @@ public:
         QString suggestedName;
     };
 
+    /// A question with named buttons.
+    struct ChoiceRequest
+    {
+        QString title;
+        QString text;        // the question; agreeing to it means the first button
+        QString details;     // what helps to decide, may have several lines
+        QStringList buttons; // the first one does what is asked for, the last one leaves all as it is
+    };
+
     using FileAnswer = std::function<void(const QString &fileName)>; // empty: none was chosen
     using YesNoAnswer = std::function<void(bool yes)>;
+    using ChoiceAnswer = std::function<void(int button)>; // counted from 0; closing the question means the last one
 
     MvRequestHandler() = default;
     virtual ~MvRequestHandler();
@@ -39,6 +50,9 @@ public:
     virtual void askForFile(const FileRequest &request, QObject *asker, const FileAnswer &answer) = 0;
     virtual void askYesNo(const QString &title, const QString &text, QObject *asker, const YesNoAnswer &answer) = 0;
     virtual void report(const QString &title, const QString &text, QObject *asker) = 0;
+    /// A handler without buttons of its own asks by askYesNo(), without the details; yes means the first button, no the
+    /// last one.
+    virtual void askChoice(const ChoiceRequest &request, QObject *asker, const ChoiceAnswer &answer);
 
     /// The installed one. Without one: reports are logged as warnings, and nobody is there to choose or to agree.
     static MvRequestHandler &current();

@@ -60,12 +60,24 @@ void MvDialogRequestHandler::askForFile(const FileRequest &request, QObject *ask
 void MvDialogRequestHandler::askYesNo(const QString &title, const QString &text, QObject *asker,
                                       const YesNoAnswer &answer)
 {
-    QMessageBox *box = messageBox(QMessageBox::Question, title, text, asker);
-    const QAbstractButton *yes = box->addButton(tr("Ja"), QMessageBox::YesRole);
-    QPushButton *no = box->addButton(tr("Nein"), QMessageBox::NoRole);
-    box->setDefaultButton(no);
-    box->setEscapeButton(no);
-    QObject::connect(box, &QMessageBox::finished, box, [box, yes, answer] { answer(box->clickedButton() == yes); });
+    askChoice({title, text, {}, {tr("Ja"), tr("Nein")}}, asker, [answer](int button) { answer(button == 0); });
+}
+
+void MvDialogRequestHandler::askChoice(const ChoiceRequest &request, QObject *asker, const ChoiceAnswer &answer)
+{
+    QMessageBox *box = messageBox(QMessageBox::Question, request.title, request.text, asker);
+    box->setInformativeText(request.details);
+    QList<QPushButton *> buttons;
+    for (const QString &text : request.buttons) {
+        const bool isLast = buttons.size() + 1 == request.buttons.size();
+        buttons.append(box->addButton(text, isLast ? QMessageBox::NoRole : QMessageBox::YesRole));
+    }
+    box->setDefaultButton(buttons.last()); // what changes nothing
+    box->setEscapeButton(buttons.last());
+    QObject::connect(box, &QMessageBox::finished, box, [box, buttons, answer] {
+        const auto clicked = buttons.indexOf(qobject_cast<QPushButton *>(box->clickedButton()));
+        answer(int(clicked < 0 ? buttons.size() - 1 : clicked));
+    });
     box->open();
 }
 

@@ -19,6 +19,7 @@ public:
     void askForFile(const FileRequest &request, QObject *asker, const FileAnswer &answer) override;
     void askYesNo(const QString &title, const QString &text, QObject *asker, const YesNoAnswer &answer) override;
     void report(const QString &title, const QString &text, QObject *asker) override;
+    void askChoice(const ChoiceRequest &request, QObject *asker, const ChoiceAnswer &answer) override;
 
 private:
     QHash<int, QString> m_lastFolders; // by kind of file

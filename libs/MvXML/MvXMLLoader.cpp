@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -49,6 +50,19 @@ QByteArray readLimited(const QFileInfo &file, MvXMLLoader::Error &error)
     return bytes;
 }
 
+/// The text as UTF-8 whose declaration says so, too: a reader of bytes would go by what it said before. Places stay.
+QByteArray asUtf8(const QString &wideText)
+{
+    static const QRegularExpression declared(uR"(^\s*<\?xml\s[^>]*?encoding\s*=\s*(["'])([^"'>]*)\1)"_s);
+    QString text = wideText;
+    if (const auto match = declared.match(text.left(1024)); match.hasMatch()) {
+        const QString encoding = u"UTF-8"_s + match.captured(1);
+        text.replace(match.capturedStart(2), match.capturedLength(2) + 1,
+                     encoding.leftJustified(match.capturedLength(2) + 1));
+    }
+    return text.toUtf8();
+}
+
 /// All checks; for UTF-16 and UTF-32 also the decoded text.
 MvXMLLoader::Error check(const QByteArray &bytes, QString &wideText)
 {
@@ -81,7 +95,7 @@ QByteArray MvXMLLoader::loadBytes(const QFileInfo &file, Error *error)
         QString wideText;
         found = check(bytes, wideText);
         if (!wideText.isEmpty())
-            bytes = wideText.toUtf8(); // readers of streams take the mark off
+            bytes = asUtf8(wideText);
     }
     if (error)
         *error = found;

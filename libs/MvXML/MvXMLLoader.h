@@ -35,7 +35,7 @@ public:
     static QDomDocument loadDocument(const QFileInfo &file, Error *error = nullptr);
     static QDomDocument parse(const QByteArray &bytes, Error *error = nullptr);
     /// The bytes of a file, once they passed all checks but for building a document; empty on error. For readers that
-    /// go through large files as a stream.
+    /// go through large files as a stream. UTF-16 and UTF-32 come as UTF-8, with a declaration that says so.
     static QByteArray loadBytes(const QFileInfo &file, Error *error = nullptr);
     /// The root element; a null one on error. A file that exists but cannot be read logs one warning with file and
     /// place; a missing file is nothing to tell.

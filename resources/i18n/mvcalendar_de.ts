@@ -34,6 +34,13 @@
             <numerusform>%1: %n Fotos liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>… und %n weitere</source>
+        <translation>
+            <numerusform>… und %n weiterer</numerusform>
+            <numerusform>… und %n weitere</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MvExportDialog</name>

@@ -273,6 +273,41 @@
             <numerusform>%1: %n photos lie outside the permitted folders and are not loaded, the first being %2</numerusform>
         </translation>
     </message>
+    <message>
+        <source>der Name fehlt</source>
+        <translation>the name is missing</translation>
+    </message>
+    <message>
+        <source>das Datum fehlt</source>
+        <translation>the date is missing</translation>
+    </message>
+    <message>
+        <source>das Datum „%1“ ist nicht zu lesen</source>
+        <translation>the date “%1” cannot be read</translation>
+    </message>
+    <message>
+        <source>das ist kein Eintrag</source>
+        <translation>this is no entry</translation>
+    </message>
+    <message>
+        <source>Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „%1“ statt mit „%2“.</source>
+        <translation>This is no list of calendar entries; the file begins with “%1” instead of “%2”.</translation>
+    </message>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1, „%2“: %3</source>
+        <translation>Line %1, “%2”: %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>… und %n weitere</source>
+        <translation>
+            <numerusform>… and %n more</numerusform>
+            <numerusform>… and %n more</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarEventFotoDelegateEditorWidget</name>

@@ -1,0 +1,90 @@
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+
+#include <QStringEncoder>
+#include <QTemporaryDir>
+
+class tst_MvCalendarEventFile : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void reads_data();
+    void reads();
+    void shortensWhatWasSkipped();
+};
+
+void tst_MvCalendarEventFile::reads_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("names");
+    QTest::addColumn<QString>("skipped"); // all of them, one a line
+    QTest::addColumn<QString>("refusal"); // part of it
+
+    const auto list = [](const QByteArray &entries, const QByteArray &declaration = {}) {
+        return declaration + "<CalendarEvents>\n" + entries + "</CalendarEvents>";
+    };
+    const auto entry = [](const QByteArray &name, const QByteArray &date = "1950-05-17T00:00:00") {
+        return "<CalendarEvent><Name>" + name + "</Name><DateTime>" + date + "</DateTime></CalendarEvent>\n";
+    };
+    const auto encoded = [&](const char *encoding, QStringConverter::Flag mark) {
+        QStringEncoder encode(*QStringConverter::encodingForName(encoding), mark);
+        const QString declaration = u"<?xml version=\"1.0\" encoding='%1'?>\n"_qs.arg(QLatin1StringView(encoding));
+        return QByteArray(encode(declaration + QString::fromUtf8(list(entry("Jürgen")))));
+    };
+    const auto row = [](const char *name, const QByteArray &bytes, const QString &names, const QString &skipped = {},
+                        const QString &refusal = {}) { QTest::newRow(name) << bytes << names << skipped << refusal; };
+    using Flag = QStringConverter::Flag;
+    row("UTF-16 with a mark", encoded("UTF-16", Flag::WriteBom), u"Jürgen"_qs);
+    row("UTF-16BE without", encoded("UTF-16BE", Flag::Default), u"Jürgen"_qs);
+    row("UTF-32", encoded("UTF-32", Flag::WriteBom), u"Jürgen"_qs);
+    row("ISO 8859-1", list(entry("J\xfcrgen"), "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"), u"Jürgen"_qs);
+    row("no entries", "<CalendarEvents/>", {});
+    row("an empty element is nothing", list("<CalendarEvent/>" + entry("A")), u"A"_qs);
+    row("date in another form", list(entry("A") + entry("Oma  Erika", "17.05.1941") + entry("B")), u"A B"_qs,
+        u"Zeile 3, „Oma Erika“: das Datum „17.05.1941“ ist nicht zu lesen"_qs);
+    row("impossible date, long text", list(entry(QByteArray(100, 'x'), "1900-02-29T00:00:00")), {},
+        u"Zeile 2, „%1…“: das Datum „1900-02-29T00:00:00“ ist nicht zu lesen"_qs.arg(QString(60, u'x')));
+    row("no name, no date", list(entry("") + "<CalendarEvent><UUID/></CalendarEvent>"), {},
+        u"Zeile 2: der Name fehlt\nZeile 3: der Name fehlt, das Datum fehlt"_qs);
+    row("element that is no entry", list("<calendarevent><Name>A</Name></calendarevent>" + entry("B")), u"B"_qs,
+        u"Zeile 2, „calendarevent“: das ist kein Eintrag"_qs);
+    row("another document", "<?xml version=\"1.0\"?><Layouts>" + entry("A") + "</Layouts>", {}, {},
+        u"liste.xml: Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „Layouts“"_qs);
+    row("cut off", list(entry("A")).chopped(5), {}, {}, u"liste.xml:3:13: Die Datei endet zu früh."_qs);
+    row("declares what it is not", list(entry("A"), "<?xml version=\"1.0\" encoding=\"UTF-16\"?>"), {}, {},
+        u"liste.xml:1:"_qs);
+}
+
+void tst_MvCalendarEventFile::reads()
+{
+    QFETCH(const QByteArray, bytes);
+    QFETCH(const QString, skipped);
+    QFETCH(const QString, refusal);
+    const QTemporaryDir dir;
+    QFile file(dir.filePath(u"liste.xml"_qs));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
+    QStringList names;
+    for (const MvCalendarEvent &event : content.events)
+        names.append(event.description());
+    QTEST(names.join(u' '), "names");
+    QCOMPARE(MvCalendarEventFile::describe(content.skipped, 9), skipped);
+    QVERIFY2(content.refusal().contains(refusal), qPrintable(content.refusal()));
+    QCOMPARE(content.refusal().isEmpty(), refusal.isEmpty());
+    QCOMPARE(content.isComplete, skipped.isEmpty() && refusal.isEmpty());
+}
+
+void tst_MvCalendarEventFile::shortensWhatWasSkipped()
+{
+    QList<MvCalendarEventFile::Skipped> skipped;
+    for (int line = 1; line <= 14; ++line)
+        skipped.append({line, {}, u"X"_qs});
+    QCOMPARE(MvCalendarEventFile::describe(skipped, 2), u"Zeile 1: X\nZeile 2: X\n… und 12 weitere"_qs);
+}
+
+MV_TEST_MAIN(tst_MvCalendarEventFile)
+#include "tst_MvCalendarEventFile.moc"
