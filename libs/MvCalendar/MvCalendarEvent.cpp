@@ -131,6 +131,33 @@ void MvCalendarEvent::setFoto(const MvFoto &foto)
     updateChangeTime();
 }
 
+bool MvCalendarEvent::takeFoto(const MvFoto &foto, QString *error)
+{
+    const bool isOwn = foto.isValid() && isInAppSafeArea(foto.localFileInfo());
+    const bool isPresent = foto == m_foto && (isOwn || !foto.mayBeOpened());
+    if (isPresent || !foto.isValid()) {
+        setFoto(foto);
+        return true;
+    }
+    const QString name = QDir::toNativeSeparators(foto.localFilePath());
+    QString reason;
+    const QImage image = MvFotoAccess::midRes(foto, mediumQuality, mediumCaching, &reason);
+    if (image.isNull()) {
+        if (error)
+            *error = tr("Das Foto „%1“ kann nicht gelesen werden. %2").arg(name, reason).trimmed();
+        return false;
+    }
+    const QFileInfo file = isOwn ? foto.localFileInfo() : saveCopy(image, foto, &reason);
+    if (!reason.isEmpty()) {
+        if (error)
+            *error = tr("Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2").arg(name, reason);
+        return false;
+    }
+    m_foto = MvFoto(file);
+    updateChangeTime();
+    return true;
+}
+
 void MvCalendarEvent::updateChangeTime()
 {
     m_lastChanged = QDateTime::currentDateTime();
@@ -193,13 +220,22 @@ QImage MvCalendarEvent::loadFotoAsThumbnail(const MvFoto &foto) const
 
 QFileInfo MvCalendarEvent::saveImageToNewPosition(const QImage &image, const MvFoto &foto) const
 {
+    QString error;
+    const QFileInfo file = saveCopy(image, foto, &error);
+    if (!error.isEmpty())
+        qWarning().noquote().nospace() << "Unable to save image to : " << file.absoluteFilePath();
+    return file;
+}
+
+QFileInfo MvCalendarEvent::saveCopy(const QImage &image, const MvFoto &foto, QString *error) const
+{
     const QString name =
         MvMediaFormat::createFilename(foto.mediaFormat(), foto.filenameHint(), foto.fileExtensionHint());
     const QFileInfo file =
         MvUniqueFilenameMaker::instance().makeUniqueFileName(QFileInfo(imageDirectory(), name), true);
     const QByteArray bytes = encoded(image, file.suffix());
-    if (bytes.isEmpty() || !MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).isOk())
-        qWarning().noquote().nospace() << "Unable to save image to : " << file.absoluteFilePath();
+    *error = bytes.isEmpty() ? tr("Das Bild ließ sich nicht umwandeln.")
+                             : MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
     return QFileInfo(file.absoluteFilePath());
 }
 

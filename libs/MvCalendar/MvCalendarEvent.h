@@ -6,6 +6,7 @@
 #include "MvFoto/MvDrawable.h"
 #include "MvFoto/MvFoto.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
@@ -25,6 +26,8 @@ class QDomNode;
 /// depend on files elsewhere.
 class MVCALENDAR_EXPORT MvCalendarEvent
 {
+    Q_DECLARE_TR_FUNCTIONS(MvCalendarEvent)
+
 public:
     /// The year of a date without one, such as a birthday from an address book that leaves the year out.
     static constexpr int unknownYear = MvVCardReader::unknownYear;
@@ -75,8 +78,13 @@ public:
     void setDateTime(const QDateTime &dateTime);
     void setRecurrent(bool recurrent);
     /// Stores a photo of the photo folder as it is, any other as a copy in that folder. A photo that may not be opened
-    /// is only referred to.
+    /// is only referred to. A photo that cannot be read or copied leaves the entry with the name of a file that does
+    /// not exist: what people choose goes through takeFoto().
     void setFoto(const MvFoto &foto);
+    /// The same for a photo that somebody has chosen: it is decoded first, and the entry changes only when the photo is
+    /// in the photo folder. Else false, the entry stays as it is, and `error` says why, for a person. The photo that
+    /// the entry has already, and none, are always taken. Any thread.
+    bool takeFoto(const MvFoto &foto, QString *error = nullptr);
 
     /// The same day and month; another year only when the stored flag says that the entry recurs.
     bool isAtDay(const QDate &day) const;
@@ -120,6 +128,7 @@ public:
 private:
     void read(const MvCalendarEventTexts &texts);
     void updateChangeTime();
+    QFileInfo saveCopy(const QImage &image, const MvFoto &foto, QString *error) const;
 
     QString m_name;
     QDateTime m_dateTime;

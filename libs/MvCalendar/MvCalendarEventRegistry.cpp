@@ -14,14 +14,7 @@
 #include "MvProductBase/MvSVGCompilerInstructionsCache.h"
 #include "MvProductBase/MvSVGImageRendererCache.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFutureWatcher>
-#include <QPromise>
-#include <QSet>
-#include <QThreadPool>
-
-#include <memory>
 
 #include <utility>
 
@@ -195,7 +188,7 @@ MvCalendarEventList MvCalendarEventRegistry::eventsOfProject(const MvProjectIden
 
 void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
 {
-    const MvCalendarEventList own = withOwnFotos(validOnly(events));
+    const MvCalendarEventList own = m_fotos.withOwnCopies(validOnly(events));
     if (m_openChanges > 0) {
         store(m_activeModelId, own);
         m_hasOpenChanges = true;
@@ -314,7 +307,7 @@ void MvCalendarEventRegistry::saveAs(const QFileInfo &file) const
     const MvFileGuard guard(file);
     const File before = m_file;
     const MvCalendarEventList events = activeEventList();
-    const MvCalendarEventList all = withChangesOfOthers(withOwnFotos(events));
+    const MvCalendarEventList all = withChangesOfOthers(m_fotos.withOwnCopies(events));
     if (saveUserFile(all) && all != events) {
         // the list here does not have all of that yet: the next change takes it in
         m_file.events = before.events;
@@ -322,61 +315,10 @@ void MvCalendarEventRegistry::saveAs(const QFileInfo &file) const
     }
 }
 
-bool MvCalendarEventRegistry::mustBeCopied(const MvFoto &foto) const
-{
-    const QString ownFolder = MvCalendarEvent::imageDirectory().absolutePath() + u'/';
-    const QString path = foto.localFilePath();
-    return foto.mayBeOpened() && (!path.startsWith(ownFolder) || path.mid(ownFolder.size()).contains(u'/')) &&
-           QFileInfo(path).isFile();
-}
-
 void MvCalendarEventRegistry::prepareFotos(const MvCalendarEventList &events, QObject *receiver,
                                            const std::function<void()> &use)
 {
-    QHash<QString, MvFoto> fotos; // by path
-    for (const MvCalendarEvent &event : events) {
-        if (mustBeCopied(event.foto()) && !m_takenOver.contains(event.foto().localFilePath()))
-            fotos.insert(event.foto().localFilePath(), event.foto());
-    }
-    if (fotos.isEmpty()) {
-        use();
-        return;
-    }
-    auto *watcher = new QFutureWatcher<QHash<QString, MvFoto>>(receiver);
-    connect(watcher, &QFutureWatcherBase::finished, receiver, [this, watcher, use] {
-        watcher->deleteLater();
-        m_takenOver.insert(watcher->result());
-        use();
-    });
-    const auto promise = std::make_shared<QPromise<QHash<QString, MvFoto>>>();
-    promise->start();
-    watcher->setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, fotos] {
-        QHash<QString, MvFoto> copies;
-        for (auto it = fotos.begin(); it != fotos.end(); ++it) {
-            MvCalendarEvent event;
-            event.setFoto(it.value());
-            copies.insert(it.key(), event.foto());
-        }
-        promise->addResult(copies);
-        promise->finish();
-    });
-}
-
-/// Photos elsewhere, which came with an imported file, are copied into the photo folder.
-MvCalendarEventList MvCalendarEventRegistry::withOwnFotos(const MvCalendarEventList &events) const
-{
-    MvCalendarEventList own = events;
-    for (qsizetype i = 0; i < events.size(); ++i) {
-        const MvFoto foto = events.at(i).foto();
-        const QString path = foto.localFilePath();
-        if (!mustBeCopied(foto))
-            continue;
-        MvCalendarEvent &event = own[i];
-        event.setFoto(m_takenOver.value(path, foto));
-        m_takenOver.insert(path, event.foto());
-    }
-    return own;
+    m_fotos.prepare(events, receiver, use);
 }
 
 /// The list together with what another program has written since the file was last read or written here.
@@ -463,19 +405,8 @@ void MvCalendarEventRegistry::cleanupImageDirectory() const
 {
     if (m_file.couldNotBeRead)
         return;
-    QSet<QString> used; // under every name: the user's folder may be reached through links
     const MvCalendarEventList events = withChangesOfOthers(activeEventList());
     if (m_file.mustBeSetAside) // another program has left what cannot be read
         return;
-    for (const MvCalendarEvent &event : events) {
-        if (!event.foto().isValid())
-            continue;
-        used.insert(event.imagePath().absoluteFilePath());
-        used.insert(event.imagePath().canonicalFilePath());
-    }
-    const QFileInfoList files = MvCalendarEvent::imageDirectory().entryInfoList(QDir::Files, QDir::Unsorted);
-    for (const QFileInfo &file : files) {
-        if (!used.contains(file.absoluteFilePath()) && !used.contains(file.canonicalFilePath()))
-            QFile::remove(file.absoluteFilePath());
-    }
+    MvCalendarEventFotoFolder::removeAllBut(events);
 }

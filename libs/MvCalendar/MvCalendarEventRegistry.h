@@ -1,5 +1,6 @@
 #pragma once
 
+#include "MvCalendar/MvCalendarEventFotoFolder.h"
 #include "MvCalendar/MvCalendarEventIndex.h"
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
@@ -126,8 +127,6 @@ private:
     void visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project, Function function) const;
 
     void store(const MvProjectIdentifier &project, const MvCalendarEventList &events);
-    bool mustBeCopied(const MvFoto &foto) const;
-    MvCalendarEventList withOwnFotos(const MvCalendarEventList &events) const;
     MvCalendarEventList withChangesOfOthers(const MvCalendarEventList &events) const;
     bool saveUserFile(const MvCalendarEventList &events) const;
     bool write(const QFileInfo &file, const MvCalendarEventList &events) const;
@@ -139,6 +138,6 @@ private:
     int m_openChanges = 0;         // beginChanges() without endChanges()
     bool m_hasOpenChanges = false; // something has changed since
     mutable File m_file;
-    mutable QHash<QString, MvFoto> m_takenOver; // copies of imported photos by the path they came from
+    mutable MvCalendarEventFotoFolder m_fotos;
     mutable QString m_lastSaveError;
 };

@@ -9,6 +9,8 @@ template class MvSingleton<MvDiskAccessRequest>;
 
 namespace {
 
+constexpr qsizetype mostTexts = 5; // in one message
+
 MvDiskAccessRequest::Answer whileAlive(QObject *asker, const MvDiskAccessRequest::Answer &answer)
 {
     if (!asker)
@@ -58,4 +60,14 @@ void MvDiskAccessRequest::readFotoFailed(const QString &fileName, QObject *asker
 {
     const QString text = tr("„%1“ ist kein Foto, das gelesen werden kann.").arg(QDir::toNativeSeparators(fileName));
     MvRequestHandler::current().report(tr("Foto"), text, asker);
+}
+
+void MvDiskAccessRequest::takeFotosFailed(const QStringList &texts, QObject *asker)
+{
+    if (texts.isEmpty())
+        return;
+    QStringList shown = texts.mid(0, mostTexts);
+    if (shown.size() < texts.size())
+        shown.append(tr("… und %n weitere Fotos.", nullptr, int(texts.size() - shown.size())));
+    MvRequestHandler::current().report(tr("Foto"), shown.join(u"\n\n"_s), asker);
 }

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QString>
+#include <QStringList>
 
 class MvDiskAccessRequest;
 extern template class MVCORE_EXPORT MvSingleton<MvDiskAccessRequest>;
@@ -40,4 +41,6 @@ public:
     void writeCalendarEntriesFileFailed(const QString &fileName, const QString &reason = {}, QObject *asker = nullptr);
     /// A file is no photo that can be read.
     void readFotoFailed(const QString &fileName, QObject *asker = nullptr);
+    /// Photos could not be taken over. The texts name them and say why; many are told in one message.
+    void takeFotosFailed(const QStringList &texts, QObject *asker = nullptr);
 };

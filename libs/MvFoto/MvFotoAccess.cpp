@@ -15,7 +15,7 @@ QImage MvFotoAccess::fullRes(const MvFoto &foto)
     return foto.mayBeOpened() ? MvImageLoader::instance().load(foto.localFileInfo()) : QImage();
 }
 
-QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching)
+QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching, QString *)
 {
     const int side = 128 << std::clamp(quality, 0, 7);
     const QSize full = preferredSize(foto);

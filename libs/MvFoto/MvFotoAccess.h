@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QSize>
+#include <QString>
 
 /// The pixels of photos, turned and in sRGB (see MvImageLoader). A photo that cannot be read, or may not be opened,
 /// gives a null image. Any thread.
@@ -21,8 +22,8 @@ public:
     static QSize preferredSize(const MvFoto &foto);
     static QImage fullRes(const MvFoto &foto);
     /// Medium resolution: the longer side has at most 128 * 2^quality pixels, 2048 for quality 4. Smaller photos stay
-    /// as they are.
-    static QImage midRes(const MvFoto &foto, int quality, int caching);
+    /// as they are. When the image is null, `error` says why, for a person.
+    static QImage midRes(const MvFoto &foto, int quality, int caching, QString *error = nullptr);
     /// The photo within the bounds (pixels), keeping its aspect ratio; decoded once per size and file state. While
     /// a MvFotoStock is in use, what it has at hand.
     static QImage scaled(const MvFoto &foto, const QSize &bounds);

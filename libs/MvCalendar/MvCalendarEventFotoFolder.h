@@ -1,0 +1,59 @@
+#pragma once
+
+#include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/mvcalendar_export.h"
+
+#include "MvFoto/MvFoto.h"
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+
+#include <functional>
+
+class QObject;
+
+/// The photos of a list of entries on their way into the photo folder, and out of it. GUI thread.
+class MVCALENDAR_EXPORT MvCalendarEventFotoFolder
+{
+public:
+    /// The list with copies in the photo folder in place of photos that lie elsewhere, such as those that came with a
+    /// list from somebody else. Each is copied once, as long as file and copy stay as they are. A photo that cannot be
+    /// copied stays what it was, and the user is told once.
+    MvCalendarEventList withOwnCopies(const MvCalendarEventList &events);
+
+    /// Calls when withOwnCopies() would not have to decode photos any more: makes the copies in the background. At
+    /// once when there is nothing to copy; not at all when the receiver is gone by then.
+    void prepare(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);
+
+    /// Removes the photos that no entry of the list uses from the photo folder.
+    static void removeAllBut(const MvCalendarEventList &events);
+
+private:
+    /// The state of a file that was copied, or could not be.
+    struct Source
+    {
+        QString path;
+        qint64 changed = 0; // milliseconds since the epoch
+        qint64 bytes = 0;
+        bool operator==(const Source &) const = default;
+    };
+    friend size_t qHash(const Source &source, size_t seed)
+    {
+        return qHashMulti(seed, source.path, source.changed, source.bytes);
+    }
+    /// What became of a source: the copy, or why there is none.
+    struct Outcome
+    {
+        MvFoto copy;
+        QString error;
+    };
+    using Outcomes = QHash<Source, Outcome>;
+
+    static Source sourceOf(const MvFoto &foto);
+    static Outcome copied(const MvFoto &foto);
+    bool isKnown(const Source &source) const;
+
+    Outcomes m_outcomes;
+    QSet<Source> m_told;
+};
