@@ -2,10 +2,9 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventMerge.h"
+#include "MvCalendar/MvCalendarEventStore.h"
 
 #include "MvCore/MvBasisSettings.h"
-#include "MvCore/MvDirectoryConfig.h"
-#include "MvCore/MvFileGuard.h"
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvProactiveHelpController.h"
@@ -63,7 +62,13 @@ MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPa
 
 MvCalendarEventRegistry::MvCalendarEventRegistry()
     : m_activeModelId(DEFAULT_PROJECT_ID)
+    , m_userFile(new MvCalendarEventStore(this))
+    , m_keptProject(DEFAULT_PROJECT_ID)
 {
+    connect(m_userFile, &MvCalendarEventStore::eventsReplaced, this, [this](const MvCalendarEventList &events) {
+        store(m_keptProject, events);
+        Q_EMIT eventsChanged();
+    });
     store(DEFAULT_PROJECT_ID, {});
     load();
 }
@@ -194,12 +199,9 @@ void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
         m_hasOpenChanges = true;
         return;
     }
-    {
-        MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
-        const MvFileGuard guard(calendarEventsDir());
-        store(m_activeModelId, withChangesOfOthers(own));
-        saveUserFile(activeEventList());
-    }
+    m_errorElsewhere.reset();
+    m_keptProject = m_activeModelId;
+    m_userFile->keep(own, [this](const MvCalendarEventList &all) { store(m_activeModelId, all); });
     Q_EMIT eventsChanged();
 }
 
@@ -254,12 +256,7 @@ MvCalendarEventList MvCalendarEventRegistry::readFromElement(const QDomElement &
 
 QFileInfo MvCalendarEventRegistry::calendarEventsDir() const
 {
-    return MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml"_s);
-}
-
-bool MvCalendarEventRegistry::isUserFile(const QFileInfo &file) const
-{
-    return file.absoluteFilePath() == calendarEventsDir().absoluteFilePath();
+    return m_userFile->file();
 }
 
 bool MvCalendarEventRegistry::load()
@@ -270,19 +267,17 @@ bool MvCalendarEventRegistry::load()
 bool MvCalendarEventRegistry::loadFrom(const QFileInfo &file, bool merge)
 {
     MvLogger::legacyLog(u"CalendarEvents ACTION:loadFromFileOnStartup MERGE:%1"_s.arg(merge ? u"set"_s : u"unset"_s));
-    const QByteArray stamp = MvFileGuard::stamp(file); // before reading: a later change is then noticed
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
-    if (isUserFile(file)) {
-        const bool isDamaged = !content.isRead() && !content.isMissing;
-        m_file = {content.events, stamp, isDamaged || (content.isRead() && !content.isComplete), isDamaged};
-    }
+    const bool isUserFile = m_userFile->isFile(file);
+    const MvCalendarEventList present = activeEventList();
+    const MvCalendarEventFile::Content content =
+        isUserFile ? m_userFile->read(merge || present.isEmpty()) : MvCalendarEventFile::read(file);
     if (!content.isRead()) {
         if (!content.isMissing)
             qWarning().noquote() << content.error;
         return false;
     }
     const MvCalendarEventList events =
-        merge ? mergeLists({}, content.events, true) : mergeLists(activeEventList(), content.events, true);
+        merge ? mergeLists({}, content.events, true) : mergeLists(present, content.events, true);
     if (!events.isEmpty()) {
         store(m_activeModelId, events);
         Q_EMIT eventsChanged();
@@ -299,82 +294,38 @@ void MvCalendarEventRegistry::save() const
 
 void MvCalendarEventRegistry::saveAs(const QFileInfo &file) const
 {
-    if (!isUserFile(file)) {
-        write(file, activeEventList());
+    if (!m_userFile->isFile(file)) {
+        writeElsewhere(file);
         return;
     }
-    MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
-    const MvFileGuard guard(file);
-    const File before = m_file;
-    const MvCalendarEventList events = activeEventList();
-    const MvCalendarEventList all = withChangesOfOthers(m_fotos.withOwnCopies(events));
-    if (saveUserFile(all) && all != events) {
-        // the list here does not have all of that yet: the next change takes it in
-        m_file.events = before.events;
-        m_file.stamp = before.stamp;
+    m_errorElsewhere.reset();
+    m_userFile->keep(m_fotos.withOwnCopies(activeEventList()), {});
+}
+
+void MvCalendarEventRegistry::writeElsewhere(const QFileInfo &file) const
+{
+    MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file.baseName()));
+    const MvSafeFileWriter::Result result =
+        MvSafeFileWriter::write(file, MvCalendarEventFile::toBytes(activeEventList()));
+    m_errorElsewhere = result.error;
+    if (!result.isOk()) {
+        qWarning().noquote() << result.error;
+        return;
     }
+    if (!result.note.isEmpty())
+        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
+    MvPlatformIndependent::instance().fileWritten(QFileInfo(file.absoluteFilePath()));
+}
+
+QString MvCalendarEventRegistry::lastSaveError() const
+{
+    return m_errorElsewhere.value_or(m_userFile->saveError());
 }
 
 void MvCalendarEventRegistry::prepareFotos(const MvCalendarEventList &events, QObject *receiver,
                                            const std::function<void()> &use)
 {
     m_fotos.prepare(events, receiver, use);
-}
-
-/// The list together with what another program has written since the file was last read or written here.
-MvCalendarEventList MvCalendarEventRegistry::withChangesOfOthers(const MvCalendarEventList &events) const
-{
-    const QFileInfo file = calendarEventsDir();
-    const QByteArray stamp = MvFileGuard::stamp(file);
-    if (stamp.isEmpty() || stamp == m_file.stamp)
-        return events;
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
-    m_file.mustBeSetAside = !content.isComplete;
-    if (!content.isRead())
-        return events;
-    MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
-    return MvCalendarEventMerge::threeWay(m_file.events, events, content.events);
-}
-
-bool MvCalendarEventRegistry::saveUserFile(const MvCalendarEventList &events) const
-{
-    const QFileInfo file = calendarEventsDir();
-    if (m_file.mustBeSetAside && QFileInfo::exists(file.absoluteFilePath())) {
-        const QString aside = MvSafeFileWriter::setAside(file);
-        if (aside.isEmpty()) {
-            reportSaveError(tr("%1 ist nicht vollständig lesbar und ließ sich nicht beiseitelegen. Es wurde nichts "
-                               "überschrieben.")
-                                .arg(file.absoluteFilePath()));
-            return false;
-        }
-        MvLogger::legacyLog(u"CalendarEvents ACTION:setAside VALUE:%1"_s.arg(aside));
-    }
-    m_file.mustBeSetAside = false;
-    if (!write(file, events))
-        return false;
-    m_file.events = events;
-    m_file.stamp = MvFileGuard::stamp(file);
-    return true;
-}
-
-bool MvCalendarEventRegistry::write(const QFileInfo &file, const MvCalendarEventList &events) const
-{
-    MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file.baseName()));
-    const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, MvCalendarEventFile::toBytes(events));
-    reportSaveError(result.error);
-    if (!result.isOk())
-        return false;
-    if (!result.note.isEmpty())
-        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
-    MvPlatformIndependent::instance().fileWritten(QFileInfo(file.absoluteFilePath()));
-    return true;
-}
-
-void MvCalendarEventRegistry::reportSaveError(const QString &error) const
-{
-    m_lastSaveError = error;
-    if (!error.isEmpty())
-        qWarning().noquote() << error;
 }
 
 // ---- address book and photos
@@ -403,10 +354,8 @@ void MvCalendarEventRegistry::playImportedCustomerEntriesProactiveAdvice(int fou
 
 void MvCalendarEventRegistry::cleanupImageDirectory() const
 {
-    if (m_file.couldNotBeRead)
-        return;
-    const MvCalendarEventList events = withChangesOfOthers(activeEventList());
-    if (m_file.mustBeSetAside) // another program has left what cannot be read
+    const MvCalendarEventList events = m_userFile->withChangesOfOthers(activeEventList());
+    if (!m_userFile->isWhole())
         return;
     MvCalendarEventFotoFolder::removeAllBut(events);
 }

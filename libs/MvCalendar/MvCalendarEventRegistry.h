@@ -9,7 +9,6 @@
 #include "MvModelBase/MvProjectIdentifier.h"
 #include "MvProductBase/MvAbstractHolidayCache.h"
 
-#include <QByteArray>
 #include <QDomDocument>
 #include <QDomElement>
 #include <QFileInfo>
@@ -19,8 +18,10 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class MvCalendarEventRegistry;
+class MvCalendarEventStore;
 extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendarEventRegistry>;
 
 /// The list that exists before any document is opened.
@@ -29,8 +30,8 @@ MVCALENDAR_EXPORT extern const MvProjectIdentifier DEFAULT_PROJECT_ID;
 /// The user's personal entries: one list per document, one of them active. The active one is shown, edited and kept in
 /// the user's file, which is written at once after every change.
 ///
-/// Several running programs may share the file: before it is written, what others have changed since is taken in. A
-/// file that could not be read is set aside before it is overwritten. To be used from the GUI thread.
+/// What happens between the list and the file, and what a person must know about that, is the matter of userFile(). To
+/// be used from the GUI thread.
 class MVCALENDAR_EXPORT MvCalendarEventRegistry : public MvAbstractHolidayCache,
                                                   public MvSingleton<MvCalendarEventRegistry>
 {
@@ -89,6 +90,8 @@ public:
 
     /// The user's file, whether it exists or not.
     QFileInfo calendarEventsDir() const;
+    /// The same with what is known about it: whether it could be read, whether everything is saved. Owned here.
+    MvCalendarEventStore &userFile() const { return *m_userFile; }
     /// Reads the user's file; false when it is missing or damaged.
     bool load();
     /// Reads a file into the active list. The flag works the other way round than its name says, which callers rely
@@ -97,7 +100,7 @@ public:
     void save() const;
     void saveAs(const QFileInfo &file) const;
     /// Why the last saving failed, for a person; empty when it did not.
-    QString lastSaveError() const { return m_lastSaveError; }
+    QString lastSaveError() const;
 
     /// An entry for each contact of the system's address book. Nothing is stored.
     MvCalendarEventList loadFromSystemAddressBook();
@@ -112,32 +115,20 @@ Q_SIGNALS:
     void eventsChanged();
 
 private:
-    /// What is known about the user's file: knowledge about the disk, not part of the registry's state.
-    struct File
-    {
-        MvCalendarEventList events;  // what it held when last read or written here
-        QByteArray stamp;            // the state of the file at that time
-        bool mustBeSetAside = false; // it holds what is not in the list: keep it before overwriting
-        bool couldNotBeRead = false; // its entries, and so the photos in use, are unknown
-    };
-
     const MvCalendarEventIndex *indexFor(const MvCalendariumContentConfig &config,
                                          const MvProjectIdentifier &project) const;
     template <class Function>
     void visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project, Function function) const;
 
     void store(const MvProjectIdentifier &project, const MvCalendarEventList &events);
-    MvCalendarEventList withChangesOfOthers(const MvCalendarEventList &events) const;
-    bool saveUserFile(const MvCalendarEventList &events) const;
-    bool write(const QFileInfo &file, const MvCalendarEventList &events) const;
-    bool isUserFile(const QFileInfo &file) const;
-    void reportSaveError(const QString &error) const;
+    void writeElsewhere(const QFileInfo &file) const;
 
     QHash<MvProjectIdentifier, MvCalendarEventIndex> m_lists;
     MvProjectIdentifier m_activeModelId;
     int m_openChanges = 0;         // beginChanges() without endChanges()
     bool m_hasOpenChanges = false; // something has changed since
-    mutable File m_file;
+    MvCalendarEventStore *m_userFile;
+    MvProjectIdentifier m_keptProject; // whose list was last handed to the user's file
     mutable MvCalendarEventFotoFolder m_fotos;
-    mutable QString m_lastSaveError;
+    mutable std::optional<QString> m_errorElsewhere; // of the last saving, if that was to another file
 };

@@ -409,12 +409,31 @@
 <context>
     <name>MvCalendarEventRegistry</name>
     <message>
-        <source>%1 ist nicht vollständig lesbar und ließ sich nicht beiseitelegen. Es wurde nichts überschrieben.</source>
-        <translation>%1 cannot be read completely and could not be put aside. Nothing was overwritten.</translation>
-    </message>
-    <message>
         <source>%1 von %2 Einträgen mit Geburtstagen importiert</source>
         <translation>%1 of %2 entries with birthdays imported</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventStore</name>
+    <message>
+        <source>%1 konnte nicht gespeichert werden: %2</source>
+        <translation>%1 could not be saved: %2</translation>
+    </message>
+    <message>
+        <source>Ihre Einträge konnten nicht gelesen werden. %1</source>
+        <translation>Your entries could not be read. %1</translation>
+    </message>
+    <message>
+        <source>Ein Teil Ihrer Einträge in %1 konnte nicht gelesen werden.</source>
+        <translation>Some of your entries in %1 could not be read.</translation>
+    </message>
+    <message>
+        <source>%1 konnte noch nicht gespeichert werden: %2 Es wird weiter versucht.</source>
+        <translation>%1 could not be saved yet: %2 Saving is tried again and again.</translation>
+    </message>
+    <message>
+        <source>%1 ist nicht vollständig lesbar und ließ sich nicht beiseitelegen. Es wurde nichts überschrieben.</source>
+        <translation>%1 cannot be read completely and could not be put aside. Nothing was overwritten.</translation>
     </message>
 </context>
 <context>

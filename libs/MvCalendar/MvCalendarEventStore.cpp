@@ -1,0 +1,274 @@
+#include "MvCalendar/MvCalendarEventStore.h"
+
+#include "MvCalendar/MvCalendarEventMerge.h"
+
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvFileGuard.h"
+#include "MvCore/MvLogger.h"
+#include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvSafeFileWriter.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// milliseconds
+constexpr int firstRetry = 25;
+constexpr int slowestRetry = 500;
+constexpr int toldAsBusy = 3000;
+
+} // namespace
+
+MvCalendarEventStore::MvCalendarEventStore(QObject *parent)
+    : QObject(parent)
+{
+    m_retry.setSingleShot(true);
+    connect(&m_retry, &QTimer::timeout, this, &MvCalendarEventStore::saveNow);
+    if (const QCoreApplication *application = QCoreApplication::instance())
+        connect(application, &QCoreApplication::aboutToQuit, this, &MvCalendarEventStore::saveNow);
+}
+
+MvCalendarEventStore::~MvCalendarEventStore() = default;
+
+QFileInfo MvCalendarEventStore::file() const
+{
+    return MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml"_s);
+}
+
+bool MvCalendarEventStore::isFile(const QFileInfo &file) const
+{
+    return file.absoluteFilePath() == this->file().absoluteFilePath();
+}
+
+// ---- problems
+
+bool MvCalendarEventStore::Problem::operator==(const Problem &other) const
+{
+    return kind == other.kind && text == other.text && setAside.filePath() == other.setAside.filePath();
+}
+
+MvCalendarEventStore::Problem MvCalendarEventStore::problem() const
+{
+    return m_writeProblem.isProblem() ? m_writeProblem : m_readProblem;
+}
+
+MvCalendarEventStore::Problem MvCalendarEventStore::problemOf(Problem::Kind kind, const QString &text) const
+{
+    return {kind, text, file(), {}, MvSafeFileWriter::backups(file())};
+}
+
+void MvCalendarEventStore::changeProblem(Problem *problem, const Problem &value)
+{
+    const Problem before = this->problem();
+    *problem = value;
+    if (!(this->problem() == before))
+        Q_EMIT problemChanged();
+}
+
+void MvCalendarEventStore::fail(Problem::Kind kind, const QString &text)
+{
+    qWarning().noquote() << text;
+    changeProblem(&m_writeProblem, problemOf(kind, text));
+}
+
+QString MvCalendarEventStore::notSaved(const QString &reason) const
+{
+    return tr("%1 konnte nicht gespeichert werden: %2")
+        .arg(QDir::toNativeSeparators(file().absoluteFilePath()), reason);
+}
+
+void MvCalendarEventStore::dismissReadProblem()
+{
+    changeProblem(&m_readProblem, {});
+}
+
+// ---- reading
+
+MvCalendarEventFile::Content MvCalendarEventStore::read(bool becomesTheList)
+{
+    const QByteArray stamp = MvFileGuard::stamp(file()); // before reading: a later change is then noticed
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file());
+    if (becomesTheList) {
+        m_present = content.events;
+        m_inFile = content.events;
+        m_stamp = stamp;
+    }
+    m_couldNotBeRead = !content.isRead() && !content.isMissing;
+    noteContent(content);
+    return content;
+}
+
+void MvCalendarEventStore::noteContent(const MvCalendarEventFile::Content &content)
+{
+    const bool isUnreadable = !content.isRead() && !content.isMissing;
+    const bool isPart = content.isRead() && !content.isComplete;
+    m_mustBeSetAside = isUnreadable || isPart;
+    if (m_mustBeSetAside)
+        m_lastRead = content.events;
+    if (isUnreadable)
+        changeProblem(
+            &m_readProblem,
+            problemOf(Problem::Unreadable, tr("Ihre Einträge konnten nicht gelesen werden. %1").arg(content.error)));
+    else if (isPart)
+        changeProblem(&m_readProblem, problemOf(Problem::PartlyReadable,
+                                                tr("Ein Teil Ihrer Einträge in %1 konnte nicht gelesen werden.")
+                                                    .arg(QDir::toNativeSeparators(file().absoluteFilePath()))));
+    else if (m_readProblem.setAside.filePath().isEmpty()) // readable again before it was overwritten here
+        dismissReadProblem();
+}
+
+MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEventList &events)
+{
+    const QByteArray stamp = MvFileGuard::stamp(file());
+    if (stamp.isEmpty() || stamp == m_stamp)
+        return events;
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file());
+    noteContent(content);
+    if (!content.isRead())
+        return events;
+    MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
+    return MvCalendarEventMerge::threeWay(m_inFile, events, content.events);
+}
+
+// ---- writing
+
+void MvCalendarEventStore::keep(const MvCalendarEventList &events, const Adopt &adopt)
+{
+    m_present = events;
+    m_pending = {events, bool(adopt)};
+    tryPending(adopt);
+}
+
+bool MvCalendarEventStore::saveNow()
+{
+    if (!m_pending)
+        return true;
+    const MvCalendarEventList before = m_pending->events;
+    bool isReplaced = false;
+    tryPending([&](const MvCalendarEventList &events) { isReplaced = events != before; });
+    if (isReplaced)
+        Q_EMIT eventsReplaced(m_present);
+    return !m_pending;
+}
+
+void MvCalendarEventStore::tryPending(const Adopt &adopt)
+{
+    const Pending pending = *m_pending;
+    m_retry.stop();
+    MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
+    const MvFileGuard guard(file(), 0);
+    const MvCalendarEventList all = guard.isLocked() ? withChangesOfOthers(pending.events) : pending.events;
+    if (pending.adopts) {
+        m_present = all;
+        m_pending->events = all;
+        adopt(all);
+    }
+    if (guard.state() == MvFileGuard::State::HeldByOthers) {
+        waitForOthers(guard.reason());
+        return;
+    }
+    m_waiting.invalidate();
+    m_retry.setInterval(0);
+    if (!guard.isLocked()) {
+        fail(Problem::NotSaved, notSaved(guard.reason()));
+        return;
+    }
+    if (!setAside() || !write(all))
+        return;
+    if (pending.adopts || all == pending.events) { // else the caller's list lacks some: the next change takes it in
+        m_inFile = all;
+        m_stamp = MvFileGuard::stamp(file());
+    }
+    m_pending.reset();
+    changeProblem(&m_writeProblem, {});
+}
+
+void MvCalendarEventStore::waitForOthers(const QString &reason)
+{
+    if (!m_waiting.isValid())
+        m_waiting.start();
+    if (m_waiting.elapsed() >= toldAsBusy && m_writeProblem.kind != Problem::Busy)
+        fail(Problem::Busy, tr("%1 konnte noch nicht gespeichert werden: %2 Es wird weiter versucht.")
+                                .arg(QDir::toNativeSeparators(file().absoluteFilePath()), reason));
+    const int next = m_retry.interval() > 0 ? m_retry.interval() * 2 : firstRetry;
+    if (QCoreApplication::instance()) // nobody else has an event loop; the next change or saveNow() tries again
+        m_retry.start(std::min(next, slowestRetry));
+}
+
+/// Keeps a file that holds what is not in the list.
+bool MvCalendarEventStore::setAside()
+{
+    if (m_mustBeSetAside && QFileInfo::exists(file().absoluteFilePath())) {
+        const QString aside = MvSafeFileWriter::setAside(file());
+        if (aside.isEmpty()) {
+            fail(Problem::NotSaved, tr("%1 ist nicht vollständig lesbar und ließ sich nicht beiseitelegen. Es wurde "
+                                       "nichts überschrieben.")
+                                        .arg(QDir::toNativeSeparators(file().absoluteFilePath())));
+            return false;
+        }
+        MvLogger::legacyLog(u"CalendarEvents ACTION:setAside VALUE:%1"_s.arg(aside));
+        Problem told = m_readProblem;
+        told.setAside = QFileInfo(aside);
+        changeProblem(&m_readProblem, told);
+    }
+    m_mustBeSetAside = false;
+    return true;
+}
+
+bool MvCalendarEventStore::write(const MvCalendarEventList &events)
+{
+    MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file().baseName()));
+    // while a person may still want a backup, none is pushed out by newer ones
+    const auto backups = m_readProblem.isProblem() ? MvSafeFileWriter::Backups::None : MvSafeFileWriter::Backups::Keep;
+    const MvSafeFileWriter::Result result =
+        MvSafeFileWriter::write(file(), MvCalendarEventFile::toBytes(events), backups);
+    if (!result.isOk()) {
+        fail(Problem::NotSaved, result.error);
+        return false;
+    }
+    if (!result.note.isEmpty())
+        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
+    MvPlatformIndependent::instance().fileWritten(QFileInfo(file().absoluteFilePath()));
+    return true;
+}
+
+bool MvCalendarEventStore::restoreBackup(const QFileInfo &backup)
+{
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(backup);
+    if (!content.isRead()) {
+        fail(Problem::NotSaved, content.error);
+        return false;
+    }
+    MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
+    const MvFileGuard guard(file(), 0);
+    if (!guard.isLocked()) {
+        fail(guard.state() == MvFileGuard::State::HeldByOthers ? Problem::Busy : Problem::NotSaved,
+             notSaved(guard.reason()));
+        return false;
+    }
+    const MvCalendarEventList present = withChangesOfOthers(m_present);
+    m_mustBeSetAside = m_mustBeSetAside || m_readProblem.setAside.filePath().isEmpty();
+    if (!setAside())
+        return false;
+    const MvCalendarEventList before = m_readProblem.isProblem() ? m_lastRead : m_inFile;
+    const MvCalendarEventList all = MvCalendarEventMerge::threeWay(before, content.events, present);
+    m_present = all;
+    m_pending = {all, true};
+    m_retry.stop();
+    if (write(all)) {
+        m_inFile = all;
+        m_stamp = MvFileGuard::stamp(file());
+        m_pending.reset();
+        m_couldNotBeRead = false;
+        changeProblem(&m_writeProblem, {});
+        dismissReadProblem();
+    }
+    Q_EMIT eventsReplaced(all);
+    return true;
+}
