@@ -2,7 +2,7 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventDelegateEditDelete.h"
-#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventFileIntake.h"
 #include "MvCalendar/MvCalendarEventFotoDelegate.h"
 #include "MvCalendar/MvCalendarEventModel.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -153,10 +153,14 @@ QPushButton *MvCalendarEventListWidget::changeEventListButton(QWidget *parent)
     button->setCursor(Qt::PointingHandCursor);
     auto *menu = new QMenu(button);
     menu->addAction(tr("Sichern"), this, &MvCalendarEventListWidget::saveEventList);
-    menu->addAction(tr("Laden…"), this, [this] { loadEventList(false); });
-    menu->addAction(tr("Hinzufügen…"), this, &MvCalendarEventListWidget::importEventList);
+    menu->setToolTipsVisible(true);
+    menu->addAction(tr("Laden…"), this, [this] { loadEventList(false); })
+        ->setToolTip(tr("Ersetzt Ihre Einträge, in allen Ihren Kalendern, durch die einer Datei"));
+    menu->addAction(tr("Hinzufügen…"), this, &MvCalendarEventListWidget::importEventList)
+        ->setToolTip(tr("Fügt die Einträge einer Datei zu Ihren hinzu, in allen Ihren Kalendern"));
     menu->addSeparator();
-    menu->addAction(tr("Alle löschen…"), this, &MvCalendarEventListWidget::clearEventList);
+    menu->addAction(tr("Alle löschen…"), this, &MvCalendarEventListWidget::clearEventList)
+        ->setToolTip(tr("Löscht Ihre Einträge aus allen Ihren Kalendern"));
     button->setMenu(menu);
     return button;
 }
@@ -266,14 +270,13 @@ void MvCalendarEventListWidget::loadEventList(bool merge)
 
 void MvCalendarEventListWidget::readEventList(const QString &fileName, bool merge)
 {
+    using Intake = MvCalendarEventFileIntake;
     MvLogger::legacyLog(u"CalendarEvents ACTION:loadFromFile MERGE:%1"_s.arg(merge ? u"set"_s : u"unset"_s));
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(fileName));
-    if (!content.isRead()) {
-        MvDiskAccessRequest::instance().readCalendarEntriesFileFailed(fileName, content.error, this);
-        return;
-    }
-    MvCalendarEventRegistry::instance().prepareFotos(
-        content.events, this, [this, events = content.events, merge] { takeEventList(events, merge); });
+    Intake::start(fileName, merge ? Intake::Purpose::Add : Intake::Purpose::Replace, this,
+                  [this, merge](const MvCalendarEventList &read) {
+                      MvCalendarEventRegistry::instance().prepareFotos(
+                          read, this, [this, read, merge] { takeEventList(read, merge); });
+                  });
 }
 
 void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, bool merge)
@@ -288,13 +291,19 @@ void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, b
 
 void MvCalendarEventListWidget::clearEventList()
 {
-    const QString question = tr("Alle Einträge löschen?");
+    MvRequestHandler::ChoiceRequest question;
+    question.title = tr("Alle Einträge löschen?");
+    question.text = question.title;
+    question.details =
+        tr("Ihre Einträge verschwinden aus allen Ihren Kalendern, nicht nur aus diesem. Mit „Rückgängig“ "
+           "bekommen Sie sie wieder.");
+    question.buttons = QStringList{tr("Ja"), tr("Nein")};
     const auto clear = [this](bool yes) {
         MvLogger::legacyLog(u"CalendarEvents ACTION:deleteAll VALUE:%1"_s.arg(int(yes)));
         if (yes)
             changeEvents(u"clearEventList"_s, events(), {});
     };
-    MvYesNoRequest::instance().request(question, question, this, clear);
+    MvYesNoRequest::instance().request(question, this, clear);
 }
 
 void MvCalendarEventListWidget::importFromContacts()

@@ -37,7 +37,8 @@ public:
     MvCalendarEventList events() const;
 
     /// Replaces the entries by those of a file that the user chooses; with `merge`, adds those whose uuid is new. A
-    /// file that cannot be read is reported and changes nothing.
+    /// file that is no list or cannot be read is reported and changes nothing; the user is asked before entries get
+    /// lost and before only a part of the file is taken.
     void loadEventList(bool merge);
 
 public Q_SLOTS:

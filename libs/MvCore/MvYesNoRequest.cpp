@@ -4,11 +4,25 @@
 
 template class MvSingleton<MvYesNoRequest>;
 
-void MvYesNoRequest::request(const QString &title, const QString &text, QObject *asker, const Answer &answer)
+namespace {
+
+MvYesNoRequest::Answer whileAlive(QObject *asker, const MvYesNoRequest::Answer &answer)
 {
-    const auto whileAlive = [hasAsker = asker != nullptr, guard = QPointer<QObject>(asker), answer](bool yes) {
+    return [hasAsker = asker != nullptr, guard = QPointer<QObject>(asker), answer](bool yes) {
         if (!hasAsker || guard)
             answer(yes);
     };
-    MvRequestHandler::current().askYesNo(title, text, asker, whileAlive);
+}
+
+} // namespace
+
+void MvYesNoRequest::request(const QString &title, const QString &text, QObject *asker, const Answer &answer)
+{
+    MvRequestHandler::current().askYesNo(title, text, asker, whileAlive(asker, answer));
+}
+
+void MvYesNoRequest::request(const MvRequestHandler::ChoiceRequest &question, QObject *asker, const Answer &answer)
+{
+    MvRequestHandler::current().askChoice(question, asker,
+                                          [guarded = whileAlive(asker, answer)](int button) { guarded(button == 0); });
 }

@@ -18,4 +18,6 @@ public:
     /// Closing the question means no. The answer is dropped when its asker is gone by then; without an asker it always
     /// arrives.
     void request(const QString &title, const QString &text, QObject *asker, const Answer &answer);
+    /// The same with details below the question and two buttons of its own, the first one for yes.
+    void request(const MvRequestHandler::ChoiceRequest &question, QObject *asker, const Answer &answer);
 };

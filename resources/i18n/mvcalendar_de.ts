@@ -43,6 +43,47 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEventFileIntake</name>
+    <message numerus="yes">
+        <source>%n Einträge der Datei sind nicht lesbar und fehlen dann:</source>
+        <translation>
+            <numerusform>%n Eintrag der Datei ist nicht lesbar und fehlt dann:</numerusform>
+            <numerusform>%n Einträge der Datei sind nicht lesbar und fehlen dann:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?</source>
+        <translation>
+            <numerusform>„%1“ ist eine leere Liste. Ihren %n Eintrag dennoch durch sie ersetzen?</numerusform>
+            <numerusform>„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Ihre %n Einträge durch die aus „%1“ ersetzen?</source>
+        <translation>
+            <numerusform>Ihren %n Eintrag durch die aus „%1“ ersetzen?</numerusform>
+            <numerusform>Ihre %n Einträge durch die aus „%1“ ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon stehen nicht in der Datei.</source>
+        <translation>
+            <numerusform>%n davon steht nicht in der Datei.</numerusform>
+            <numerusform>%n davon stehen nicht in der Datei.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvDiskAccessRequest</name>
+    <message numerus="yes">
+        <source>… und %n weitere Fotos.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvExportDialog</name>
     <message numerus="yes">
         <source>Schon vorhanden und ersetzt werden: %n Dateien.</source>

@@ -223,6 +223,21 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEvent</name>
+    <message>
+        <source>Das Foto „%1“ kann nicht gelesen werden. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Bild ließ sich nicht umwandeln.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventDateEdit</name>
     <message>
         <source>Jahr unbekannt</source>
@@ -310,6 +325,69 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEventFileIntake</name>
+    <message>
+        <source>Kalendereinträge</source>
+        <translation>Calendar entries</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge der Datei sind nicht lesbar und fehlen dann:</source>
+        <translation>
+            <numerusform>%n entry of the file cannot be read and will be missing:</numerusform>
+            <numerusform>%n entries of the file cannot be read and will be missing:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?</source>
+        <translation>
+            <numerusform>“%1” is an empty list. Replace your %n entry by it all the same?</numerusform>
+            <numerusform>“%1” is an empty list. Replace your %n entries by it all the same?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Ihre %n Einträge durch die aus „%1“ ersetzen?</source>
+        <translation>
+            <numerusform>Replace your %n entry by those of “%1”?</numerusform>
+            <numerusform>Replace your %n entries by those of “%1”?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n davon stehen nicht in der Datei.</source>
+        <translation>
+            <numerusform>%n of them is not in the file.</numerusform>
+            <numerusform>%n of them are not in the file.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Die Liste gilt für alle Ihre Kalender, nicht nur für diesen. Mit „Rückgängig“ bekommen Sie die bisherigen Einträge wieder.</source>
+        <translation>The list counts for all your calendars, not for this one alone. “Undo” brings your present entries back.</translation>
+    </message>
+    <message>
+        <source>Ersetzen</source>
+        <translation>Replace</translation>
+    </message>
+    <message>
+        <source>Die lesbaren Einträge aus „%1“ hinzufügen?</source>
+        <translation>Add the readable entries of “%1”?</translation>
+    </message>
+    <message>
+        <source>Die lesbaren Einträge aus „%1“ laden?</source>
+        <translation>Load the readable entries of “%1”?</translation>
+    </message>
+    <message>
+        <source>Hinzufügen</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Laden</source>
+        <translation>Load</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventFotoDelegateEditorWidget</name>
     <message>
         <source>Foto ändern…</source>
@@ -389,6 +467,30 @@
     <message>
         <source>Alle Einträge löschen?</source>
         <translation>Delete all entries?</translation>
+    </message>
+    <message>
+        <source>Ersetzt Ihre Einträge, in allen Ihren Kalendern, durch die einer Datei</source>
+        <translation>Replaces your entries, in all your calendars, by those of a file</translation>
+    </message>
+    <message>
+        <source>Fügt die Einträge einer Datei zu Ihren hinzu, in allen Ihren Kalendern</source>
+        <translation>Adds the entries of a file to yours, in all your calendars</translation>
+    </message>
+    <message>
+        <source>Löscht Ihre Einträge aus allen Ihren Kalendern</source>
+        <translation>Deletes your entries from all your calendars</translation>
+    </message>
+    <message>
+        <source>Ihre Einträge verschwinden aus allen Ihren Kalendern, nicht nur aus diesem. Mit „Rückgängig“ bekommen Sie sie wieder.</source>
+        <translation>Your entries will disappear from all your calendars, not from this one alone. “Undo” brings them back.</translation>
+    </message>
+    <message>
+        <source>Ja</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
     </message>
 </context>
 <context>
@@ -934,6 +1036,13 @@
     <message>
         <source>Foto</source>
         <translation>Photo</translation>
+    </message>
+    <message numerus="yes">
+        <source>… und %n weitere Fotos.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -31,8 +31,13 @@ struct Script : MvRequestHandler
     }
     void askYesNo(const QString &title, const QString &text, QObject *, const YesNoAnswer &answer) override
     {
-        requests.append(title == text ? title : QString());
+        requests.append(title == text ? title : text);
         answer(agrees);
+    }
+    void askChoice(const ChoiceRequest &request, QObject *asker, const ChoiceAnswer &answer) override
+    {
+        MvRequestHandler::askChoice(request, asker, answer);
+        details = request.details;
     }
     void report(const QString &, const QString &text, QObject *) override { reports.append(text); }
 
@@ -40,6 +45,7 @@ struct Script : MvRequestHandler
     bool agrees = true;
     QStringList requests;
     QStringList reports;
+    QString details;
 };
 
 struct Contacts : MvPlatformIndependent
@@ -75,7 +81,9 @@ private Q_SLOTS:
     void contextMenuOutlivesItsClick();
     void savesAndLoads_data();
     void savesAndLoads();
-    void damagedFilesChangeNothing();
+    void decidesAboutDoubtfulFiles_data();
+    void decidesAboutDoubtfulFiles();
+    void noFileChangesNothing();
     void clears_data();
     void clears();
     void importsContactsOnce();
@@ -86,6 +94,11 @@ private Q_SLOTS:
 
 private:
     static MvCalendarEventRegistry &registry() { return MvCalendarEventRegistry::instance(); }
+    static void fill()
+    {
+        registry().setEvents({entry(u"Anna"_qs, QDate(2004, 2, 29)), entry(u"Moritz"_qs, QDate(1999, 3, 1)),
+                              entry(u"Xaver"_qs, QDate(1950, 12, 31))});
+    }
     static QStringList names()
     {
         QStringList names;
@@ -129,8 +142,7 @@ void tst_MvCalendarEventListWidget::init()
     failOnWarnings();
     m_script = new Script;
     MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(m_script));
-    registry().setEvents({entry(u"Anna"_qs, QDate(2004, 2, 29)), entry(u"Moritz"_qs, QDate(1999, 3, 1)),
-                          entry(u"Xaver"_qs, QDate(1950, 12, 31))});
+    fill();
     MvUndoController::instance().clear();
     m_log.clear();
 }
@@ -246,7 +258,8 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
     QSignalSpy signalled(&registry(), &MvCalendarEventRegistry::eventsChanged);
     menuAction(list, action)->trigger();
-    QCOMPARE(m_script->requests, QStringList(2, u"5 Kalendereinträge *.xml"_qs));
+    QCOMPARE(m_script->requests.mid(0, 2), QStringList(2, u"5 Kalendereinträge *.xml"_qs));
+    QCOMPARE(m_script->requests.size(), action == u"Laden…"_qs && changed ? 3 : 2); // only when entries get lost
     QTEST(names().join(u' '), "result");
     QCOMPARE(added.count(), 1);
     QCOMPARE(signalled.count(), steps); // not one by one
@@ -265,34 +278,92 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     QTEST(names().join(u' '), "result");
 }
 
-void tst_MvCalendarEventListWidget::damagedFilesChangeNothing()
+void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("report");   // part of it; then nothing is asked
+    QTest::addColumn<QString>("loading");  // the question, part of it
+    QTest::addColumn<QString>("adding");   // the same
+    QTest::addColumn<QString>("skipped");  // part of the details of both
+    QTest::addColumn<QString>("loaded");   // after yes
+    QTest::addColumn<QString>("enlarged"); // after adding with yes
+    const QString all = u"Anna Moritz Xaver"_qs;
+    const auto refused = [&](const char *name, const QByteArray &content, const QString &report) {
+        QTest::newRow(name) << content << report << QString() << QString() << QString() << all << all;
+    };
+    const QByteArray tante =
+        "<CalendarEvent><Name>Tante</Name><DateTime>1950-01-01T00:00:00</DateTime></CalendarEvent>";
+    const QByteArray opa = "<CalendarEvent><Name>Opa</Name><DateTime>17.05.1941</DateTime></CalendarEvent>";
+    refused("cut", "<CalendarEvents><CalendarEvent>", u"endet zu früh"_qs);
+    refused("no text", "", u"leer"_qs);
+    refused("no XML", "\xff", u"liste.xml:1"_qs);
+    refused("another document", "<Layouts>" + tante + "</Layouts>", u"beginnt mit „Layouts“"_qs);
+    refused("nothing readable", "<CalendarEvents>" + opa + "</CalendarEvents>", u"„Opa“"_qs);
+    QTest::newRow("some readable") << "<CalendarEvents>" + tante + opa + "</CalendarEvents>" << QString()
+                                   << u"Ihre 3 Einträge durch die aus „liste.xml“"_qs << u"lesbaren Einträge"_qs
+                                   << u"Zeile 1, „Opa“: das Datum „17.05.1941“"_qs << u"Tante"_qs << all + u" Tante"_qs;
+    QTest::newRow("empty list") << QByteArray("<CalendarEvents/>") << QString() << u"ist eine leere Liste"_qs
+                                << QString() << QString() << QString() << all;
+    QTest::newRow("large") << "<CalendarEvents>" + tante + QByteArray(300 * 1024, '\n') + "</CalendarEvents>"
+                           << QString() << u"Ihre 3 Einträge"_qs << QString() << QString() << u"Tante"_qs
+                           << all + u" Tante"_qs;
+}
+
+void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles()
+{
+    QFETCH(const QByteArray, content);
+    QFETCH(const QString, report);
+    QFETCH(const QString, skipped);
+    MvCalendarEventListWidget list;
+    m_script->file = path(u"liste.xml"_qs);
+    QFile file(m_script->file);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    file.close();
+    for (const bool merge : {false, true}) {
+        QFETCH(const QString, loading);
+        QFETCH(const QString, adding);
+        const QString question = merge ? adding : loading;
+        for (const bool agrees : {false, true}) {
+            m_script->agrees = agrees;
+            m_script->requests.clear();
+            m_script->reports.clear();
+            m_script->details.clear();
+            fill();
+            list.loadEventList(merge);
+            QThreadPool::globalInstance()->waitForDone();
+            QCoreApplication::processEvents();
+            QCOMPARE(m_script->reports.size(), report.isEmpty() ? 0 : 1);
+            QVERIFY2(m_script->reports.join(u'\n').contains(report), qPrintable(m_script->reports.join(u'\n')));
+            QCOMPARE(m_script->requests.size(), question.isEmpty() ? 1 : 2); // one for the file
+            QVERIFY2(m_script->requests.last().contains(question), qPrintable(m_script->requests.last()));
+            QVERIFY2(m_script->details.contains(skipped), qPrintable(m_script->details));
+            QCOMPARE(m_script->details.contains(u"alle Ihre Kalender"_qs), !loading.isEmpty() && !merge);
+            const bool isTaken = report.isEmpty() && (agrees || question.isEmpty());
+            if (!isTaken)
+                QCOMPARE(names().join(u' '), u"Anna Moritz Xaver"_qs);
+            else
+                QTEST(names().join(u' '), merge ? "enlarged" : "loaded");
+        }
+    }
+}
+
+void tst_MvCalendarEventListWidget::noFileChangesNothing()
 {
     MvCalendarEventListWidget list;
-    QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
-    m_script->file = path(u"kaputt.xml"_qs);
-    for (const QByteArray &content :
-         {QByteArray("<CalendarEvents><CalendarEvent>"), QByteArray(), QByteArray("\xff")}) {
-        QFile file(m_script->file);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
-        list.loadEventList(false);
-        QVERIFY(m_script->reports.last().contains(u"kaputt.xml"_qs));
-    }
     m_script->file = path(u"fehlt.xml"_qs);
     list.loadEventList(true);
-    QCOMPARE(m_script->reports.size(), 4);
+    QCOMPARE(m_script->reports.size(), 1);
     m_script->file.clear(); // none chosen
     list.loadEventList(false);
     list.saveEventList();
-    QCOMPARE(m_script->reports.size(), 4);
+    QCOMPARE(m_script->reports.size(), 1);
     QCOMPARE(names().size(), 3);
-    QCOMPARE(added.count(), 0);
     QCOMPARE(MvUndoController::instance().stack()->count(), 0);
 
     m_script->file = path(u"kein/ordner.xml"_qs);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"ordner.xml"_qs));
     list.saveEventList();
-    QCOMPARE(m_script->reports.size(), 5);
+    QCOMPARE(m_script->reports.size(), 2);
 }
 
 void tst_MvCalendarEventListWidget::clears_data()
@@ -312,6 +383,7 @@ void tst_MvCalendarEventListWidget::clears()
     MvCalendarEventListWidget list;
     menuAction(list, u"Alle löschen…"_qs)->trigger();
     QCOMPARE(m_script->requests, QStringList(u"Alle Einträge löschen?"_qs));
+    QVERIFY(m_script->details.contains(u"allen Ihren Kalendern"_qs));
     QVERIFY(m_log.contains(log));
     QTEST(int(names().size()), "left");
     QCOMPARE(MvUndoController::instance().stack()->count(), int(agrees));

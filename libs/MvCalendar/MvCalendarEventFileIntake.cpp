@@ -1,0 +1,135 @@
+#include "MvCalendar/MvCalendarEventFileIntake.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvDiskAccessRequest.h"
+#include "MvCore/MvYesNoRequest.h"
+
+#include <QDir>
+#include <QFutureWatcher>
+#include <QPromise>
+#include <QSet>
+#include <QThreadPool>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Content = MvCalendarEventFile::Content;
+using Intake = MvCalendarEventFileIntake;
+
+constexpr qint64 largeFile = 256 * 1024; // bytes: some 1,000 entries
+constexpr int mostNamed = 10;            // of the entries that are left out
+
+void readInThread(const QFileInfo &file, QObject *asker, const std::function<void(const Content &)> &then)
+{
+    auto *watcher = new QFutureWatcher<Content>(asker);
+    QObject::connect(watcher, &QFutureWatcherBase::finished, asker, [watcher, then] {
+        watcher->deleteLater();
+        then(watcher->result());
+    });
+    const auto promise = std::make_shared<QPromise<Content>>();
+    promise->start();
+    watcher->setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, file] {
+        promise->addResult(MvCalendarEventFile::read(file));
+        promise->finish();
+    });
+}
+
+QString skippedText(const Content &content)
+{
+    const QString count = MvCalendarEventFileIntake::tr(
+        "%n Einträge der Datei sind nicht lesbar und fehlen dann:", nullptr, int(content.skipped.size()));
+    return count + u'\n' + MvCalendarEventFile::describe(content.skipped, mostNamed);
+}
+
+/// How many entries of the list the file does not have.
+int missingIn(const MvCalendarEventList &read, const MvCalendarEventList &present)
+{
+    const QSet<MvCalendarEvent> known(read.cbegin(), read.cend());
+    return int(std::count_if(present.cbegin(), present.cend(),
+                             [&known](const MvCalendarEvent &event) { return !known.contains(event); }));
+}
+
+MvRequestHandler::ChoiceRequest replaceQuestion(const QString &name, const Content &content, qsizetype present,
+                                                int missing)
+{
+    MvRequestHandler::ChoiceRequest question;
+    question.text =
+        content.events.isEmpty()
+            ? MvCalendarEventFileIntake::tr("„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?",
+                                            nullptr, int(present))
+                  .arg(name)
+            : MvCalendarEventFileIntake::tr("Ihre %n Einträge durch die aus „%1“ ersetzen?", nullptr, int(present))
+                  .arg(name);
+    question.details =
+        content.events.isEmpty()
+            ? QString()
+            : MvCalendarEventFileIntake::tr("%n davon stehen nicht in der Datei.", nullptr, missing) + u' ';
+    question.details +=
+        MvCalendarEventFileIntake::tr("Die Liste gilt für alle Ihre Kalender, nicht nur für diesen. Mit „Rückgängig“ "
+                                      "bekommen Sie die bisherigen Einträge wieder.");
+    question.buttons =
+        QStringList{MvCalendarEventFileIntake::tr("Ersetzen"), MvCalendarEventFileIntake::tr("Abbrechen")};
+    return question;
+}
+
+MvRequestHandler::ChoiceRequest restQuestion(const QString &name, Intake::Purpose purpose)
+{
+    MvRequestHandler::ChoiceRequest question;
+    const bool adds = purpose == Intake::Purpose::Add;
+    question.text = adds ? MvCalendarEventFileIntake::tr("Die lesbaren Einträge aus „%1“ hinzufügen?").arg(name)
+                         : MvCalendarEventFileIntake::tr("Die lesbaren Einträge aus „%1“ laden?").arg(name);
+    question.buttons =
+        QStringList{adds ? MvCalendarEventFileIntake::tr("Hinzufügen") : MvCalendarEventFileIntake::tr("Laden"),
+                    MvCalendarEventFileIntake::tr("Abbrechen")};
+    return question;
+}
+
+} // namespace
+
+void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, QObject *asker, const Take &take)
+{
+    const QFileInfo file(fileName);
+    const auto judgeRead = [fileName, purpose, asker, take](const Content &content) {
+        judge(fileName, purpose, content, asker, take);
+    };
+    if (file.size() > largeFile)
+        readInThread(file, asker, judgeRead);
+    else
+        judgeRead(MvCalendarEventFile::read(file));
+}
+
+void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, const Content &content, QObject *asker,
+                                      const Take &take)
+{
+    const QString skipped = content.skipped.isEmpty() ? QString() : skippedText(content);
+    const bool hasNothing = content.events.isEmpty() && !skipped.isEmpty();
+    if (!content.refusal().isEmpty() || hasNothing) {
+        const QString reason = content.refusal().isEmpty() ? skipped : content.refusal();
+        MvDiskAccessRequest::instance().readCalendarEntriesFileFailed(fileName, reason, asker);
+        return;
+    }
+    const MvCalendarEventList present = MvCalendarEventRegistry::instance().eventsOfCurrentProject();
+    const int missing = purpose == Purpose::Replace ? missingIn(content.events, present) : 0;
+    if (missing == 0 && skipped.isEmpty()) {
+        take(content.events);
+        return;
+    }
+    const QString name = QFileInfo(fileName).fileName();
+    MvRequestHandler::ChoiceRequest question =
+        missing > 0 ? replaceQuestion(name, content, present.size(), missing) : restQuestion(name, purpose);
+    question.title = tr("Kalendereinträge");
+    QStringList details{question.details};
+    if (!skipped.isEmpty())
+        details << skipped << QDir::toNativeSeparators(fileName);
+    details.removeAll(QString());
+    question.details = details.join(u"\n\n"_s);
+    MvYesNoRequest::instance().request(question, asker, [events = content.events, take](bool yes) {
+        if (yes)
+            take(events);
+    });
+}
