@@ -43,20 +43,6 @@ bool isInvisible(uint character)
            std::any_of(std::begin(ranges), std::end(ranges), holds);
 }
 
-/// At most so many units, without cutting a character with its marks in two.
-QString cutToWholeCharacters(const QString &text, qsizetype length)
-{
-    if (text.size() <= length)
-        return text;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    finder.setPosition(length);
-    if (!finder.isAtBoundary())
-        finder.toPreviousBoundary();
-    if (finder.position() > 0)
-        return text.left(finder.position());
-    return text.left(text.at(length).isLowSurrogate() ? length - 1 : length); // nothing but marks on one letter
-}
-
 } // namespace
 
 QString MvStringHelper::boolToString(bool value)
@@ -80,5 +66,18 @@ QString MvStringHelper::simplifiedName(const QString &name)
     const QList<uint> characters = text.toUcs4();
     if (std::all_of(characters.cbegin(), characters.cend(), isInvisible))
         return {};
-    return cutToWholeCharacters(text, longestName).trimmed();
+    return beginning(text, longestName).trimmed();
+}
+
+QString MvStringHelper::beginning(const QString &text, qsizetype length)
+{
+    if (text.size() <= length)
+        return text;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.setPosition(length);
+    if (!finder.isAtBoundary())
+        finder.toPreviousBoundary();
+    if (finder.position() > 0)
+        return text.left(finder.position());
+    return text.left(text.at(length).isLowSurrogate() ? length - 1 : length); // nothing but marks on one letter
 }

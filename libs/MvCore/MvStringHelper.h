@@ -19,4 +19,6 @@ public:
     /// Line breaks, tabs and other control characters count as blanks; what is no character at all goes. Empty when
     /// nothing of it could be seen. A longer name than longestName ends there, with a whole character.
     static QString simplifiedName(const QString &name);
+    /// The text's beginning, of at most so many UTF-16 units, without cutting a character with its marks in two.
+    static QString beginning(const QString &text, qsizetype length);
 };

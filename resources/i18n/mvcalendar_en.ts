@@ -3030,6 +3030,37 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
+    <name>MvTypedDate</name>
+    <message>
+        <source>Bitte ein Datum eingeben. Beispiel: %1</source>
+        <translation>Please enter a date. Example: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Datum. Beispiel: %2</source>
+        <translation>“%1” is not a date. Example: %2</translation>
+    </message>
+    <message>
+        <source>Den Tag „%1“ gibt es nicht. Beispiel: %2</source>
+        <translation>There is no day “%1”. Example: %2</translation>
+    </message>
+    <message>
+        <source>Den Tag „%1“ gibt es im Jahr %2 nicht. Beispiel: %3</source>
+        <translation>There is no day “%1” in the year %2. Example: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt vor dem Jahr %2. Beispiel: %3</source>
+        <translation>“%1” is before the year %2. Example: %3</translation>
+    </message>
+    <message>
+        <source>„%1“ liegt mehr als %2 Jahre voraus. Beispiel: %3</source>
+        <translation>“%1” is more than %2 years ahead. Example: %3</translation>
+    </message>
+    <message>
+        <source>„%1“: das Jahr %2 steht für ein unbekanntes. Beispiel: %3</source>
+        <translation>“%1”: the year %2 stands for an unknown one. Example: %3</translation>
+    </message>
+</context>
+<context>
     <name>MvUndoActions</name>
     <message>
         <source>Eintrag ändern</source>
