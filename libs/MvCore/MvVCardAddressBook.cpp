@@ -1,9 +1,6 @@
 #include "MvCore/MvVCardAddressBook.h"
 
-#include "MvCore/MvVCardReader.h"
-
 #include <QDir>
-#include <QSet>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -18,19 +15,7 @@ QList<QFileInfo> MvVCardAddressBook::files() const
 
 MvSimplePersonList MvVCardAddressBook::addressBookContacts()
 {
-    MvSimplePersonList persons;
-    QSet<QUuid> known;
-    QStringList errors;
-    for (const QFileInfo &file : files()) {
-        const MvVCardReader::Content content = MvVCardReader::read(file);
-        if (!content.error.isEmpty())
-            errors.append(content.error);
-        for (const MvSimplePerson &person : content.persons) {
-            if (!known.contains(person.uuid()))
-                persons.append(person);
-            known.insert(person.uuid());
-        }
-    }
-    m_lastError = errors.join(u'\n');
-    return persons;
+    const MvVCardReader::Content content = MvVCardReader::read(files(), m_decoder);
+    m_lastError = content.error;
+    return content.persons;
 }

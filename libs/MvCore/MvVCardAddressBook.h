@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvVCardReader.h"
 #include "MvCore/mvcore_export.h"
 
 #include <QFileInfo>
@@ -16,6 +17,9 @@ public:
     void setFiles(const QList<QFileInfo> &files) { m_files = files; }
     QList<QFileInfo> files() const;
 
+    /// Who decodes the pictures; without one, small ones are decoded.
+    void setPictureDecoder(const MvVCardReader::PictureDecoder &decoder) { m_decoder = decoder; }
+
     /// Everybody with a birthday or an anniversary, each once.
     MvSimplePersonList addressBookContacts() override;
     /// Why files could not be read at the last time, for a person, one a line.
@@ -23,5 +27,6 @@ public:
 
 private:
     QList<QFileInfo> m_files;
+    MvVCardReader::PictureDecoder m_decoder;
     QString m_lastError;
 };

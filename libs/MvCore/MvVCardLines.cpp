@@ -1,63 +1,66 @@
 #include "MvCore/MvVCardLines.h"
 
-#include <QStringDecoder>
+#include <QBuffer>
 
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace {
 
-/// As UTF-8, whatever the byte order mark at the start says.
-QByteArray withoutByteOrderMark(const QByteArray &bytes)
-{
-    const auto encoding = QStringConverter::encodingForData(bytes);
-    if (!encoding || bytes.startsWith("BEGIN"))
-        return bytes;
-    QStringDecoder decoder(*encoding);
-    return QString(decoder(bytes)).toUtf8();
-}
+constexpr qsizetype mostParameters = 64;
 
-qsizetype endOfQuoted(const QByteArray &line, qsizetype from, QByteArrayView stops)
+/// Looks for a character outside of quotation marks, further along each time the line has grown.
+class Search
 {
-    bool isQuoted = false;
-    for (qsizetype at = from; at < line.size(); ++at) {
-        const char c = line.at(at);
-        if (c == '"')
-            isQuoted = !isQuoted;
-        else if (!isQuoted && stops.contains(c))
-            return at;
-    }
-    return -1;
-}
-
-/// Everything before the colon. The value stays empty.
-bool parseHead(const QByteArray &line, MvVCardProperty *property, qsizetype *colon)
-{
-    *colon = endOfQuoted(line, 0, ":");
-    if (*colon <= 0)
-        return false;
-    qsizetype start = 0;
-    bool isName = true;
-    while (start <= *colon) {
-        qsizetype end = endOfQuoted(line, start, ";:");
-        if (end < 0 || end > *colon)
-            end = *colon;
-        const QByteArray part = line.mid(start, end - start).trimmed();
-        start = end + 1;
-        if (isName) {
-            const qsizetype dot = part.lastIndexOf('.');
-            property->group = part.left(qMax<qsizetype>(dot, 0)).toUpper();
-            property->name = part.mid(dot + 1).toUpper();
-            isName = false;
-            continue;
+public:
+    qsizetype find(const QByteArray &line, QByteArrayView stops)
+    {
+        for (; m_at < line.size(); ++m_at) {
+            const char c = line.at(m_at);
+            if (c == '"')
+                m_isQuoted = !m_isQuoted;
+            else if (!m_isQuoted && stops.contains(c))
+                return m_at++;
         }
-        const qsizetype equals = part.indexOf('=');
-        const QByteArray name = part.left(qMax<qsizetype>(equals, 0)).trimmed().toUpper();
-        QByteArray value = part.mid(equals + 1).trimmed();
-        value.replace('"', "");
-        QByteArray &known = property->parameters[name];
-        known = known.isEmpty() ? value : known + ',' + value;
+        return -1;
     }
-    return true;
+
+private:
+    qsizetype m_at = 0;
+    bool m_isQuoted = false;
+};
+
+void parseParameter(const QByteArray &part, MvVCardProperty *property)
+{
+    const qsizetype equals = part.indexOf('=');
+    const QByteArray name = part.left(qMax<qsizetype>(equals, 0)).trimmed().toUpper();
+    QByteArray value = part.mid(equals + 1).trimmed();
+    value.replace('"', "");
+    QByteArray &known = property->parameters[name];
+    if (!known.isEmpty())
+        known.append(',');
+    known.append(value);
+}
+
+/// Everything before the colon.
+MvVCardProperty parseHead(const QByteArray &head)
+{
+    MvVCardProperty property;
+    Search search;
+    qsizetype start = 0;
+    for (qsizetype number = 0; start <= head.size() && number <= mostParameters; ++number) {
+        const qsizetype stop = search.find(head, ";");
+        const qsizetype end = stop < 0 ? head.size() : stop;
+        const QByteArray part = head.mid(start, end - start).trimmed();
+        start = end + 1;
+        if (number == 0) {
+            const qsizetype dot = part.lastIndexOf('.');
+            property.group = part.left(qMax<qsizetype>(dot, 0)).toUpper();
+            property.name = part.mid(dot + 1).toUpper();
+        } else {
+            parseParameter(part, &property);
+        }
+    }
+    return property;
 }
 
 QByteArray fromQuotedPrintable(const QByteArray &bytes)
@@ -79,91 +82,107 @@ QByteArray fromQuotedPrintable(const QByteArray &bytes)
     return result;
 }
 
-/// Puts lines together that belong to one property.
-class Unfolder
-{
-public:
-    explicit Unfolder(const QByteArray &bytes)
-        : m_bytes(bytes)
-    {}
-
-    bool next(MvVCardProperty *property)
-    {
-        while (m_at < m_bytes.size()) {
-            QByteArray line = takeLine();
-            MvVCardProperty head;
-            qsizetype colon = 0;
-            while (isFolded())
-                appendFolded(&line);
-            if (!parseHead(line, &head, &colon))
-                continue;
-            if (head.isQuotedPrintable())
-                joinSoftBreaks(&line);
-            else if (head.isBase64())
-                joinUnindented(&line);
-            head.value = line.mid(colon + 1);
-            if (head.isQuotedPrintable())
-                head.value = fromQuotedPrintable(head.value);
-            if (head.name == "VERSION")
-                m_isVersion2 = head.value.trimmed().startsWith("2");
-            *property = head;
-            return true;
-        }
-        return false;
-    }
-
-private:
-    QByteArray takeLine()
-    {
-        qsizetype end = m_at;
-        while (end < m_bytes.size() && m_bytes.at(end) != '\n' && m_bytes.at(end) != '\r')
-            ++end;
-        const QByteArray line = m_bytes.mid(m_at, end - m_at);
-        m_at = end + 1;
-        if (end + 1 < m_bytes.size() && m_bytes.at(end) == '\r' && m_bytes.at(end + 1) == '\n')
-            ++m_at;
-        return line;
-    }
-
-    bool isFolded() const { return m_at < m_bytes.size() && (m_bytes.at(m_at) == ' ' || m_bytes.at(m_at) == '\t'); }
-
-    // version 2.1 folds at a blank, which stays; the later ones insert it
-    void appendFolded(QByteArray *line) { line->append(m_isVersion2 ? takeLine() : takeLine().mid(1)); }
-
-    void joinSoftBreaks(QByteArray *line)
-    {
-        while (line->endsWith('=') && m_at < m_bytes.size()) {
-            line->chop(1);
-            line->append(takeLine());
-        }
-    }
-
-    // some programs do not indent the lines of a picture
-    void joinUnindented(QByteArray *line)
-    {
-        while (m_at < m_bytes.size()) {
-            qsizetype end = m_bytes.indexOf('\n', m_at);
-            if (end < 0)
-                end = m_bytes.size();
-            const QByteArrayView peek = QByteArrayView(m_bytes).sliced(m_at, end - m_at).trimmed();
-            if (peek.isEmpty() || peek.contains(':'))
-                return;
-            line->append(takeLine());
-        }
-    }
-
-    QByteArray m_bytes;
-    qsizetype m_at = 0;
-    bool m_isVersion2 = false;
-};
-
 } // namespace
+
+MvVCardLines::MvVCardLines(QIODevice *device, const MvLineReader::GoOn &goOn)
+    : m_lines(device, longestPicture, goOn)
+{
+    takeLine(); // the first one is ahead now
+}
+
+bool MvVCardLines::next(MvVCardProperty *property)
+{
+    while (m_hasAhead) {
+        const bool isCut = m_isAheadCut;
+        QByteArray line = takeLine();
+        Search search;
+        qsizetype colon = search.find(line, ":");
+        while (colon < 0 && isFolded()) { // within the head
+            if (line.size() < longestText)
+                line.append(takeFolded());
+            else
+                takeLine();
+            colon = search.find(line, ":");
+        }
+        if (colon < 0)
+            colon = line.indexOf(':'); // after a quotation mark that nobody closed
+        if (colon <= 0)
+            continue;
+        *property = parseHead(line.left(colon));
+        takeValue(property, line.mid(colon + 1), isCut);
+        if (property->name == "BEGIN")
+            m_isVersion2 = false; // until the card says so
+        else if (property->name == "VERSION")
+            m_isVersion2 = property->value.trimmed().startsWith('2');
+        return true;
+    }
+    return false;
+}
+
+void MvVCardLines::takeValue(MvVCardProperty *property, const QByteArray &start, bool isStartCut)
+{
+    const bool isPicture = property->name == "PHOTO";
+    const bool isQuotedPrintable = property->isQuotedPrintable();
+    const bool isBase64 = property->isBase64();
+    const qsizetype most = isPicture ? longestPicture : longestText;
+    QByteArray &value = property->value;
+    const auto append = [&](const QByteArray &more) {
+        property->isCut = property->isCut || value.size() + more.size() > most;
+        value.append(more.constData(), property->isCut && isPicture ? 0 : qMin(more.size(), most - value.size()));
+    };
+    append(start);
+    property->isCut = property->isCut || isStartCut;
+    while (m_hasAhead) {
+        if (isQuotedPrintable && value.endsWith('=')) {
+            value.chop(1);
+            append(isFolded() ? takeFolded() : takeLine());
+        } else if (isFolded()) {
+            append(takeFolded());
+        } else if (isBase64 && isMoreOfPicture()) {
+            append(takeLine());
+        } else {
+            break;
+        }
+    }
+    if (isPicture && property->isCut)
+        value.clear();
+    if (isQuotedPrintable)
+        value = fromQuotedPrintable(value);
+}
+
+QByteArray MvVCardLines::takeLine()
+{
+    QByteArray line = std::exchange(m_ahead, {});
+    m_hasAhead = m_lines.next(&m_ahead);
+    m_isAheadCut = m_lines.isCut();
+    return line;
+}
+
+bool MvVCardLines::isFolded() const
+{
+    return m_ahead.startsWith(' ') || m_ahead.startsWith('\t');
+}
+
+/// Version 2.1 folds at a blank, which stays; the later ones insert it.
+QByteArray MvVCardLines::takeFolded()
+{
+    return m_isVersion2 ? takeLine() : takeLine().mid(1);
+}
+
+/// Some programs do not indent the lines of a picture.
+bool MvVCardLines::isMoreOfPicture() const
+{
+    return !m_ahead.contains(':') && !m_ahead.trimmed().isEmpty();
+}
 
 QList<MvVCardProperty> MvVCardLines::split(const QByteArray &bytes)
 {
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
     QList<MvVCardProperty> properties;
-    Unfolder unfolder(withoutByteOrderMark(bytes));
-    for (MvVCardProperty property; unfolder.next(&property);)
+    MvVCardLines lines(&buffer);
+    for (MvVCardProperty property; lines.next(&property);)
         properties.append(property);
     return properties;
 }

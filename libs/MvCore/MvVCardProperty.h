@@ -12,6 +12,7 @@ struct MvVCardProperty
     QByteArray name;
     QHash<QByteArray, QByteArray> parameters; // those without a name, as in version 2.1, are joined under ""
     QByteArray value;
+    bool isCut = false; // it was longer than is taken; of a picture nothing is left then
 
     bool has(const char *parameter, const char *word) const;
     bool isQuotedPrintable() const;

@@ -1,35 +1,45 @@
 #pragma once
 
 #include "MvCore/MvSimplePersonList.h"
+#include "MvCore/MvVCardDate.h"
 #include "MvCore/mvcore_export.h"
 
 #include <QByteArray>
-#include <QCoreApplication>
 #include <QFileInfo>
+#include <QImage>
+#include <QList>
 #include <QString>
+#include <QStringList>
 
-/// Reads the people with a birthday or an anniversary from a file of visiting cards (vCard 2.1, 3.0 and 4.0).
-///
-/// Folded lines, quoted-printable, character sets and escapes are undone as the card's version wants it. Cards from
-/// other programs are often a little wrong: what can be understood is taken, the rest is left out.
+#include <functional>
+
+class MvVCardStream;
+
+/// Reads the people with a birthday or an anniversary from files of visiting cards, with their pictures.
 class MVCORE_EXPORT MvVCardReader
 {
-    Q_DECLARE_TR_FUNCTIONS(MvVCardReader)
-
 public:
-    /// Stands for the year of a birthday whose year nobody knows; a leap year, so that 29 February can be one.
-    static constexpr int unknownYear = 1604;
-    static constexpr qint64 mostBytes = 64 * 1024 * 1024;
+    /// Stands for the year of a birthday whose year nobody knows.
+    static constexpr int unknownYear = MvVCardDate::unknownYear;
+
+    /// Makes an image of the bytes of its file; null when it cannot or does not want to.
+    using PictureDecoder = std::function<QImage(const QByteArray &bytes)>;
 
     struct Content
     {
-        MvSimplePersonList persons; // each with name and date; a card with an anniversary gives one more for it
-        int cardCount = 0;          // with and without dates
-        QString error;              // for a person; empty when cards were read
+        MvSimplePersonList persons;     // each with name and date; a card with an anniversary gives one more for it
+        int cardCount = 0;              // with and without dates
+        int withoutDate = 0;            // cards
+        int withoutName = 0;            // cards that have a date
+        QStringList notUnderstood;      // dates: "name: what stands there"; also those that are read in two ways
+        QStringList unreadablePictures; // whose
+        QString error;                  // for a person, a line for each file; empty when cards were read
     };
 
-    /// The uuid of a person is made from the card's UID, or from name and date without one, so that the same card
-    /// gives the same uuid every time.
-    static Content read(const QFileInfo &file);
-    static Content read(const QByteArray &bytes);
+    /// Only the pictures of those who are in `persons` are decoded, by the decoder, or as far as they are small by one
+    /// of our own.
+    static Content read(const QFileInfo &file, const PictureDecoder &decoder = {});
+    static Content read(const QByteArray &bytes, const PictureDecoder &decoder = {});
+    /// All files together: each person once.
+    static Content read(const QList<QFileInfo> &files, const PictureDecoder &decoder = {});
 };

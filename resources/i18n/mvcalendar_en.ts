@@ -3096,30 +3096,45 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
-    <name>MvVCardReader</name>
-    <message>
-        <source>%1 lässt sich nicht lesen: %2</source>
-        <translation>%1 cannot be read: %2</translation>
-    </message>
-    <message>
-        <source>es gibt keine solche Datei</source>
-        <translation>there is no such file</translation>
-    </message>
-    <message>
-        <source>%1 ist zu groß für ein Adressbuch</source>
-        <translation>%1 is too large for an address book</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
+    <name>MvVCardBirthdays</name>
     <message>
         <source>%1 (Jahrestag)</source>
         <translation>%1 (anniversary)</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvVCardStream</name>
+    <message>
+        <source>es gibt keine solche Datei</source>
+        <translation>there is no such file</translation>
+    </message>
+    <message>
+        <source>das ist ein Ordner</source>
+        <translation>that is a folder</translation>
+    </message>
+    <message>
+        <source>das ist keine gewöhnliche Datei</source>
+        <translation>that is not a regular file</translation>
+    </message>
+    <message>
+        <source>%1 lässt sich nicht lesen: %2</source>
+        <translation>%1 cannot be read: %2</translation>
+    </message>
+    <message>
+        <source>%1 lässt sich nicht bis zum Ende lesen: %2</source>
+        <translation>%1 cannot be read to its end: %2</translation>
+    </message>
+    <message>
         <source>keine Visitenkarten (vCard) gefunden</source>
         <translation>no contact cards (vCard) found</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
