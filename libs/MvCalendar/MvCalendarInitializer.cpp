@@ -5,7 +5,11 @@
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCore/MvInitializer.h"
+#include "MvCore/MvLogger.h"
+#include "MvCore/MvSafeFileWriter.h"
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
+
+using namespace Qt::StringLiterals;
 
 MvCalendarInitializer MvCalendarInitializer::me;
 
@@ -19,6 +23,9 @@ MvCalendarInitializer::MvCalendarInitializer()
 
 void MvCalendarInitializer::setup(MvInitializerOption)
 {
+    const QStringList files = MvSafeFileWriter::finishInterrupted(); // before anything reads them
+    for (const QString &file : files)
+        MvLogger::legacyLog(u"Files ACTION:finishInterrupted VALUE:%1"_s.arg(file));
     initCalendarHolidays();
 }
 

@@ -1,7 +1,9 @@
 #include "MvCore/MvFileBackup.h"
 
+#include "MvCore/MvFileAttributes.h"
 #include "MvCore/MvFileDescriptor.h"
 
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -23,45 +25,67 @@ namespace {
 
 const QString temporaryPrefix = u".mvtmp-"_s;
 
+constexpr qsizetype dateLength = 12; // ".2026-03-01~"
+
+/// Folder and beginning of the name of all backups of a file.
+QString backupStem(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.absolutePath() + u'/' + MvFileBackup::stem(info.fileName(), dateLength);
+}
+
 QString previousVersionPath(const QString &path)
 {
-    return path + u'~';
+    return backupStem(path) + u'~';
 }
 
 QString dailyPath(const QString &path, const QDate &day)
 {
-    return path + u'.' + day.toString(Qt::ISODate) + u'~';
+    return backupStem(path) + u'.' + day.toString(Qt::ISODate) + u'~';
 }
 
 /// The day of a daily backup's name; invalid for other names.
-QDate dayOfBackup(const QString &fileName, const QString &backupName)
+QDate dayOfBackup(const QString &stem, const QString &backupName)
 {
-    if (!backupName.startsWith(fileName + u'.') || !backupName.endsWith(u'~'))
+    if (!backupName.startsWith(stem + u'.') || !backupName.endsWith(u'~'))
         return {};
-    return QDate::fromString(backupName.mid(fileName.size() + 1).chopped(1), Qt::ISODate);
+    return QDate::fromString(backupName.mid(stem.size() + 1).chopped(1), Qt::ISODate);
 }
 
-QList<QDate> backupDays(const QString &path) // newest first
+/// Newest first. Those after tomorrow come last: the clock was wrong when they were made. (Tomorrow may be the day in
+/// the time zone somebody has just come from.)
+QList<QDate> backupDays(const QString &path, const QDate &today)
 {
-    const QFileInfo info(path);
+    const QFileInfo stem(backupStem(path));
     QList<QDate> days;
-    const QStringList names = info.absoluteDir().entryList(QDir::Files | QDir::Hidden | QDir::System);
+    const QStringList names = stem.absoluteDir().entryList(QDir::Files | QDir::Hidden | QDir::System);
     for (const QString &name : names) {
-        const QDate day = dayOfBackup(info.fileName(), name);
+        const QDate day = dayOfBackup(stem.fileName(), name);
         if (day.isValid())
             days.append(day);
     }
     std::sort(days.begin(), days.end(), std::greater<>());
+    std::stable_partition(days.begin(), days.end(), [&today](const QDate &day) { return day <= today.addDays(1); });
     return days;
+}
+
+bool copyOver(const QString &path, const QString &backup)
+{
+    const QByteArray temporary = MvFileBackup::temporaryPath(QFileInfo(path).absolutePath());
+    if (!MvFileBackup::copy(path, QFile::decodeName(temporary)))
+        return false;
+    if (::rename(temporary.constData(), QFile::encodeName(backup).constData()) == 0)
+        return true;
+    ::unlink(temporary.constData());
+    return false;
 }
 
 /// Puts the file's present storage under a second name, replacing what lay there; a copy where links are unknown.
 bool linkOver(const QString &path, const QString &backup)
 {
     const QByteArray temporary = MvFileBackup::temporaryPath(QFileInfo(path).absolutePath());
-    if (::link(QFile::encodeName(path).constData(), temporary.constData()) != 0 &&
-        !MvFileBackup::copy(path, QFile::decodeName(temporary)))
-        return false;
+    if (::link(QFile::encodeName(path).constData(), temporary.constData()) != 0)
+        return copyOver(path, backup);
     const bool isDone = ::rename(temporary.constData(), QFile::encodeName(backup).constData()) == 0;
     ::unlink(temporary.constData()); // also left over when both names were links to the same file
     return isDone;
@@ -87,29 +111,63 @@ bool isRunning(qint64 processId)
 
 } // namespace
 
-bool MvFileBackup::keep(const QString &path, const QByteArray &newContent, const QDate &today)
+bool MvFileBackup::keep(const QString &path, const QByteArray &newContent, const QDate &today, Then then)
 {
     if (QFileInfo(path).size() == 0 || hasContent(path, newContent))
         return true;
-    bool isDone = linkOver(path, previousVersionPath(path));
+    const auto keepAs = then == Then::Replaced ? linkOver : copyOver;
+    bool isDone = keepAs(path, previousVersionPath(path));
     if (!QFileInfo::exists(dailyPath(path, today))) {
-        isDone = linkOver(path, dailyPath(path, today)) && isDone;
-        const QList<QDate> tooOld = backupDays(path).mid(daysKept);
+        isDone = keepAs(path, dailyPath(path, today)) && isDone;
+        const QList<QDate> tooOld = backupDays(path, today).mid(daysKept);
         for (const QDate &day : tooOld)
             QFile::remove(dailyPath(path, day));
+    }
+    if (then == Then::Overwritten) {
+        const QList<QFileInfo> shared = sharing(path);
+        for (const QFileInfo &backup : shared)
+            isDone = copyOver(path, backup.absoluteFilePath()) && isDone;
     }
     return isDone;
 }
 
-QList<QFileInfo> MvFileBackup::existing(const QString &path)
+QList<QFileInfo> MvFileBackup::existing(const QString &path, const QDate &today)
 {
     QList<QFileInfo> files;
     if (QFileInfo::exists(previousVersionPath(path)))
         files.append(QFileInfo(previousVersionPath(path)));
-    const QList<QDate> days = backupDays(path);
+    const QList<QDate> days = backupDays(path, today);
     for (const QDate &day : days)
         files.append(QFileInfo(dailyPath(path, day)));
     return files;
+}
+
+QList<QFileInfo> MvFileBackup::sharing(const QString &path)
+{
+    struct stat present = {};
+    if (::stat(QFile::encodeName(path).constData(), &present) != 0 || present.st_nlink < 2)
+        return {};
+    QList<QFileInfo> files = existing(path);
+    files.removeIf([&present](const QFileInfo &file) {
+        struct stat status = {};
+        return ::lstat(QFile::encodeName(file.absoluteFilePath()).constData(), &status) != 0 ||
+               status.st_ino != present.st_ino || status.st_dev != present.st_dev;
+    });
+    return files;
+}
+
+QString MvFileBackup::stem(const QString &fileName, qsizetype addition)
+{
+    constexpr qsizetype longestName = 255; // bytes, on all file systems of today
+    const QByteArray encoded = QFile::encodeName(fileName);
+    if (encoded.size() + addition <= longestName)
+        return fileName;
+    const QString mark =
+        u'-' + QString::fromLatin1(QCryptographicHash::hash(encoded, QCryptographicHash::Sha1).toHex().left(8));
+    QString start = fileName;
+    while (QFile::encodeName(start).size() + mark.size() + addition > longestName)
+        start.chop(start.back().isLowSurrogate() ? 2 : 1);
+    return start + mark;
 }
 
 bool MvFileBackup::copy(const QString &from, const QString &to)
@@ -119,13 +177,11 @@ bool MvFileBackup::copy(const QString &from, const QString &to)
         errno = EACCES;
         return false;
     }
-    struct stat status = {};
-    ::fstat(source.handle(), &status);
     const QByteArray target = QFile::encodeName(to);
-    MvFileDescriptor file(
-        ::open(target.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC | O_NOFOLLOW, status.st_mode & 0777));
+    MvFileDescriptor file(::open(target.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC | O_NOFOLLOW, 0600));
     if (!file.isOpen())
         return false;
+    MvFileAttributes::copy(QFile::encodeName(from), file);
     const QByteArray content = source.readAll();
     if (source.error() == QFileDevice::NoError && file.writeAll(content) && ::fsync(file.get()) == 0 && file.close())
         return true;

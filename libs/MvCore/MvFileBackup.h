@@ -15,17 +15,30 @@ public:
     /// Number of days with changes whose first state is kept.
     static constexpr int daysKept = 7;
 
+    enum class Then {
+        Replaced,   // the file gets new storage afterwards: a backup may share the old one
+        Overwritten // the file's storage is written: backups are copies, and those that shared it become copies
+    };
+
     /// Keeps the present file as the previous version and, once a day, as that day's backup; drops the days that are
     /// too old. Nothing happens when the file is empty or equal to the content that is about to replace it. False when
-    /// a backup could not be made. The file must be replaced afterwards, never written in place: a backup may share
-    /// its storage.
-    static bool keep(const QString &path, const QByteArray &newContent, const QDate &today);
+    /// a backup could not be made.
+    static bool keep(const QString &path, const QByteArray &newContent, const QDate &today, Then then = Then::Replaced);
 
-    /// The previous version first, then the days, newest first; only what exists.
-    static QList<QFileInfo> existing(const QString &path);
+    /// The previous version first, then the days, newest first; only what exists. Days that have not come yet are from
+    /// a time when the clock was wrong: they are last, and the first to be dropped.
+    static QList<QFileInfo> existing(const QString &path, const QDate &today = QDate::currentDate());
 
-    /// Copies a file to a new name with its mode, complete and on disk. An existing target is left alone (EEXIST).
+    /// The backups that are nothing but further names of the present file.
+    static QList<QFileInfo> sharing(const QString &path);
+
+    /// Copies a file to a new name, complete and on disk, with its rights; where these cannot be kept, for its owner
+    /// alone. An existing target is left alone (EEXIST).
     static bool copy(const QString &from, const QString &to);
+
+    /// The file's name as far as it goes together with an addition of so many bytes: one that would become too long is
+    /// cut and gets a number that tells it from others.
+    static QString stem(const QString &fileName, qsizetype addition);
 
     /// A name for a temporary file in the folder, encoded for the file system. It tells which program made it.
     static QByteArray temporaryPath(const QString &folder);

@@ -1,13 +1,13 @@
 #include "MvCore/MvSafeFileWriter.h"
 
+#include "MvCore/MvFileAttributes.h"
 #include "MvCore/MvFileBackup.h"
 #include "MvCore/MvFileDescriptor.h"
+#include "MvCore/MvInPlaceWriter.h"
 
 #include <QDate>
 #include <QDir>
 #include <QFile>
-#include <QStandardPaths>
-#include <QTemporaryFile>
 
 #include <cerrno>
 #include <cstdio>
@@ -28,20 +28,22 @@ QString resolvedPath(const QFileInfo &file)
     return info.isSymLink() ? QString() : info.absoluteFilePath();
 }
 
-bool readAll(const QString &path, QByteArray *content)
+bool isClosedTo(int systemError)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    *content = file.readAll();
-    return file.error() == QFileDevice::NoError;
+    return systemError == EACCES || systemError == EPERM || systemError == EROFS;
 }
 
-/// One writing of one file; the steps report through errno and say whether to go on.
-class SafeWrite
+/// One replacing of one file.
+class Replacement
 {
 public:
-    SafeWrite(const QString &path, const QByteArray &content)
+    enum class Step {
+        Done,
+        Impossible, // the file that is there must be written where it lies
+        Failed,     // errno says why
+    };
+
+    Replacement(const QString &path, const QByteArray &content)
         : m_path(path)
         , m_folder(QFileInfo(path).absolutePath())
         , m_content(content)
@@ -49,73 +51,60 @@ public:
     {
         m_exists = ::stat(m_encodedPath.constData(), &m_old) == 0;
     }
-
-    bool exists() const { return m_exists; }
-    bool isOrdinary() const { return !m_exists || S_ISREG(m_old.st_mode); }
-    bool mayBeWritten() const { return !m_exists || ::access(m_encodedPath.constData(), W_OK) == 0; }
-
-    /// Writes the new content beside the old one, complete and on disk.
-    bool prepare()
-    {
-        const QByteArray folder = QFile::encodeName(m_folder);
-        m_new = MvFileDescriptor(::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
-        const bool isUnnamed = m_new.isOpen();
-        m_temporary = MvFileBackup::temporaryPath(m_folder);
-        if (!isUnnamed) // not every file system has unnamed files
-            m_new = MvFileDescriptor(
-                ::open(m_temporary.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC | O_NOFOLLOW, 0666));
-        if (!m_new.isOpen())
-            return false;
-        m_hasTemporary = !isUnnamed;
-        if (!m_new.writeAll(m_content) || !keepOwnerAndMode() || ::fsync(m_new.get()) != 0)
-            return false;
-        if (isUnnamed && !giveName())
-            return false;
-        return m_new.close();
-    }
-
-    bool replace()
-    {
-        if (::rename(m_temporary.constData(), m_encodedPath.constData()) != 0)
-            return false;
-        m_hasTemporary = false;
-        return true;
-    }
-
-    /// Takes a half-made file away again.
-    void cancel()
+    ~Replacement()
     {
         if (m_hasTemporary)
             ::unlink(m_temporary.constData());
-        m_hasTemporary = false;
+    }
+    Replacement(const Replacement &) = delete;
+    Replacement &operator=(const Replacement &) = delete;
+
+    bool exists() const { return m_exists; }
+    bool isOrdinary() const { return !m_exists || S_ISREG(m_old.st_mode); }
+    bool mayBeWritten() const
+    {
+        return !m_exists || ::faccessat(AT_FDCWD, m_encodedPath.constData(), W_OK, AT_EACCESS) == 0;
+    }
+    /// Extended attributes of programs went lost.
+    bool hasLostNotes() const { return m_kept == MvFileAttributes::Kept::WithoutNotes; }
+
+    /// Writes the new content beside the old one, complete and on disk.
+    Step prepare()
+    {
+        if (m_exists && qsizetype(m_old.st_nlink) > 1 + MvFileBackup::sharing(m_path).size())
+            return Step::Impossible; // its other names would keep the old content
+        if (!openTemporary())
+            return m_exists && isClosedTo(errno) ? Step::Impossible : Step::Failed;
+        if (!m_new.writeAll(m_content))
+            return Step::Failed;
+        if (m_exists && (m_kept = MvFileAttributes::copy(m_encodedPath, m_new)) == MvFileAttributes::Kept::No)
+            return Step::Impossible;
+        const bool isOnDisk = ::fsync(m_new.get()) == 0 && (m_hasTemporary || giveName()) && m_new.close();
+        return isOnDisk ? Step::Done : Step::Failed;
     }
 
-    /// Overwrites the file where it lies. First the space is reserved, so that a full disk changes nothing.
-    bool overwrite(const QByteArray &content)
+    Step replace()
     {
-        MvFileDescriptor file(::open(m_encodedPath.constData(), O_WRONLY | O_CLOEXEC));
-        if (!file.isOpen())
-            return false;
-        if (content.size() > m_old.st_size) {
-            if (const int failure = ::posix_fallocate(file.get(), 0, content.size()); failure != 0) {
-                [[maybe_unused]] const int ignored = ::ftruncate(file.get(), m_old.st_size);
-                errno = failure;
-                return false;
-            }
+        if (::rename(m_temporary.constData(), m_encodedPath.constData()) == 0) {
+            m_hasTemporary = false;
+            return Step::Done;
         }
-        return file.writeAll(content) && ::ftruncate(file.get(), content.size()) == 0 && ::fsync(file.get()) == 0 &&
-               file.close();
+        // others' files in a folder with the sticky bit, and files that are mounted by themselves
+        return m_exists && (isClosedTo(errno) || errno == EBUSY) ? Step::Impossible : Step::Failed;
     }
 
 private:
-    bool keepOwnerAndMode()
+    bool openTemporary()
     {
-        if (!m_exists)
-            return true;
-        // another owner can only be kept by the administrator; the mode is set afterwards, since a change of owner
-        // clears parts of it
-        [[maybe_unused]] const int ignored = ::fchown(m_new.get(), m_old.st_uid, m_old.st_gid);
-        return ::fchmod(m_new.get(), m_old.st_mode & 07777) == 0;
+        const QByteArray folder = QFile::encodeName(m_folder);
+        m_new = MvFileDescriptor(::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
+        m_temporary = MvFileBackup::temporaryPath(m_folder);
+        if (!m_new.isOpen()) { // not every file system has unnamed files
+            m_new = MvFileDescriptor(::open(
+                m_temporary.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC | O_NOFOLLOW, m_exists ? 0600 : 0666));
+            m_hasTemporary = m_new.isOpen();
+        }
+        return m_new.isOpen();
     }
 
     bool giveName()
@@ -133,6 +122,7 @@ private:
     QByteArray m_temporary; // encoded path beside the file
     MvFileDescriptor m_new;
     struct stat m_old = {};
+    MvFileAttributes::Kept m_kept = MvFileAttributes::Kept::All;
     bool m_exists = false;
     bool m_hasTemporary = false; // there is a file under m_temporary
 };
@@ -143,30 +133,28 @@ MvSafeFileWriter::Result failure(const QString &path, const QString &reason)
             {}};
 }
 
-/// For folders that take no new file: the old content is copied elsewhere, then the file is written where it lies.
-MvSafeFileWriter::Result writeInPlace(SafeWrite &write, const QString &path, const QByteArray &content)
+void addNote(MvSafeFileWriter::Result &result, const QString &note)
 {
-    QByteArray old;
-    if (!readAll(path, &old))
-        return failure(path, MvSafeFileWriter::tr("Die bisherige Fassung ist nicht lesbar."));
-    QTemporaryFile copy(QDir::tempPath() + u"/mvcalendar-sicherung-XXXXXX"_s);
-    copy.setAutoRemove(false);
-    if (!copy.open() || copy.write(old) != old.size() || !copy.flush() || ::fsync(copy.handle()) != 0) {
-        copy.remove();
-        return failure(path, MvSafeFileWriter::tr("Von der bisherigen Fassung lässt sich keine Sicherung anlegen."));
-    }
-    if (write.overwrite(content)) {
-        copy.remove();
-        return {};
-    }
-    const QString reason = MvFileDescriptor::errorText(errno);
-    QByteArray present;
-    if ((readAll(path, &present) && present == old) || write.overwrite(old)) {
-        copy.remove();
-        return failure(path, reason);
-    }
-    return failure(path,
-                   reason + u' ' + MvSafeFileWriter::tr("Die bisherige Fassung liegt in %1.").arg(copy.fileName()));
+    result.note += result.note.isEmpty() ? note : u' ' + note;
+}
+
+void keepBackup(const QString &path, const QByteArray &content, MvFileBackup::Then then,
+                MvSafeFileWriter::Result &result)
+{
+    if (!MvFileBackup::keep(path, content, QDate::currentDate(), then))
+        addNote(result, MvSafeFileWriter::tr("Von %1 ließ sich keine Sicherung anlegen.").arg(path));
+}
+
+MvSafeFileWriter::Result writeInPlace(const QString &path, const QByteArray &content, MvSafeFileWriter::Backups backups)
+{
+    MvSafeFileWriter::Result result;
+    const bool mustUnshare = !MvFileBackup::sharing(path).isEmpty();
+    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
+    const bool isOpenFolder = ::faccessat(AT_FDCWD, folder.constData(), W_OK | X_OK, AT_EACCESS) == 0;
+    if (mustUnshare || (backups == MvSafeFileWriter::Backups::Keep && isOpenFolder))
+        keepBackup(path, content, MvFileBackup::Then::Overwritten, result);
+    const QString reason = MvInPlaceWriter::write(path, content);
+    return reason.isEmpty() ? result : failure(path, reason);
 }
 
 } // namespace
@@ -176,33 +164,38 @@ MvSafeFileWriter::Result MvSafeFileWriter::write(const QFileInfo &file, const QB
     const QString path = resolvedPath(file);
     if (path.isEmpty())
         return failure(file.filePath(), tr("Die Verknüpfung führt im Kreis."));
-    SafeWrite write(path, content);
-    if (!write.isOrdinary())
+    Result result;
+    if (MvInPlaceWriter::finish(path))
+        addNote(result, tr("Ein unterbrochenes Speichern von %1 wurde zu Ende geführt.").arg(path));
+    Replacement replacement(path, content);
+    if (!replacement.isOrdinary())
         return failure(path, tr("Das ist keine gewöhnliche Datei."));
-    if (!write.mayBeWritten())
-        return failure(path, tr("Die Datei ist schreibgeschützt."));
+    if (!replacement.mayBeWritten())
+        return failure(path,
+                       errno == EACCES ? tr("Die Datei ist schreibgeschützt.") : MvFileDescriptor::errorText(errno));
 
     const QString folder = QFileInfo(path).absolutePath();
     MvFileBackup::sweepTemporaries(folder);
-    if (!write.prepare()) {
-        const int reason = errno;
-        write.cancel();
-        const bool folderIsClosed = reason == EACCES || reason == EPERM || reason == EROFS;
-        if (folderIsClosed && write.exists())
-            return writeInPlace(write, path, content);
-        return failure(path, MvFileDescriptor::errorText(reason));
+    Replacement::Step step = replacement.prepare();
+    if (step == Replacement::Step::Done) {
+        if (backups == Backups::Keep && replacement.exists())
+            keepBackup(path, content, MvFileBackup::Then::Replaced, result);
+        step = replacement.replace();
     }
-    Result result;
-    if (backups == Backups::Keep && write.exists() && !MvFileBackup::keep(path, content, QDate::currentDate()))
-        result.note = tr("Von %1 ließ sich keine Sicherung anlegen.").arg(path);
-    if (!write.replace()) {
-        const int reason = errno;
-        write.cancel();
-        return failure(path, MvFileDescriptor::errorText(reason));
-    }
+    if (step == Replacement::Step::Failed)
+        return failure(path, MvFileDescriptor::errorText(errno));
+    if (step == Replacement::Step::Impossible)
+        return writeInPlace(path, content, backups);
+    if (replacement.hasLostNotes())
+        addNote(result, tr("Erweiterte Attribute von %1 gingen verloren.").arg(path));
     if (!MvFileDescriptor::syncFolder(folder))
-        result.note = tr("Der Ordner %1 ließ sich nicht auf den Datenträger schreiben.").arg(folder);
+        addNote(result, tr("Der Ordner %1 ließ sich nicht auf den Datenträger schreiben.").arg(folder));
     return result;
+}
+
+QStringList MvSafeFileWriter::finishInterrupted()
+{
+    return MvInPlaceWriter::finishAll();
 }
 
 QString MvSafeFileWriter::setAside(const QFileInfo &file)
@@ -214,11 +207,13 @@ QString MvSafeFileWriter::setAside(const QFileInfo &file)
     const QString pattern = u"%1/%2.unlesbar-%3%4%5"_s;
     const QString date = QDate::currentDate().toString(Qt::ISODate);
     const QString suffix = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
-    for (int number = 1; number < 1000; ++number) {
+    const qsizetype addition = u".unlesbar-2026-03-01-99"_s.size() + QFile::encodeName(suffix).size();
+    const QString stem = MvFileBackup::stem(info.completeBaseName(), addition);
+    for (int number = 1; number < 100; ++number) {
         const QString counter = number == 1 ? QString() : u"-%1"_s.arg(number);
-        const QString aside = pattern.arg(info.absolutePath(), info.completeBaseName(), date, counter, suffix);
+        const QString aside = pattern.arg(info.absolutePath(), stem, date, counter, suffix);
         if (MvFileBackup::copy(path, aside))
-            return aside;
+            return MvFileDescriptor::syncFolder(info.absolutePath()) ? aside : QString();
         if (errno != EEXIST)
             return {};
     }

@@ -1528,6 +1528,21 @@
     </message>
 </context>
 <context>
+    <name>MvInPlaceWriter</name>
+    <message>
+        <source>Die bisherige Fassung liegt in %1.</source>
+        <translation>The previous version is in %1.</translation>
+    </message>
+    <message>
+        <source>Die bisherige Fassung ist nicht lesbar.</source>
+        <translation>The previous version cannot be read.</translation>
+    </message>
+    <message>
+        <source>Von der bisherigen Fassung lässt sich keine Sicherung anlegen.</source>
+        <translation>No backup of the previous version can be made.</translation>
+    </message>
+</context>
+<context>
     <name>MvLayoutChooser</name>
     <message>
         <source>Layouts</source>
@@ -2496,18 +2511,6 @@ Save it under another name or in another folder.</translation>
         <translation>%1 could not be saved: %2</translation>
     </message>
     <message>
-        <source>Die bisherige Fassung ist nicht lesbar.</source>
-        <translation>The previous version cannot be read.</translation>
-    </message>
-    <message>
-        <source>Von der bisherigen Fassung lässt sich keine Sicherung anlegen.</source>
-        <translation>No backup of the previous version can be made.</translation>
-    </message>
-    <message>
-        <source>Die bisherige Fassung liegt in %1.</source>
-        <translation>The previous version is in %1.</translation>
-    </message>
-    <message>
         <source>Die Verknüpfung führt im Kreis.</source>
         <translation>The link leads in a circle.</translation>
     </message>
@@ -2526,6 +2529,14 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Der Ordner %1 ließ sich nicht auf den Datenträger schreiben.</source>
         <translation>The folder %1 could not be written to the disk.</translation>
+    </message>
+    <message>
+        <source>Ein unterbrochenes Speichern von %1 wurde zu Ende geführt.</source>
+        <translation>An interrupted saving of %1 was finished.</translation>
+    </message>
+    <message>
+        <source>Erweiterte Attribute von %1 gingen verloren.</source>
+        <translation>Extended attributes of %1 were lost.</translation>
     </message>
 </context>
 <context>

@@ -9,10 +9,13 @@
 
 #include <array>
 #include <csignal>
+#include <fcntl.h>
+#include <grp.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 class tst_MvSafeFileWriter : public MvTest
@@ -28,8 +31,14 @@ private Q_SLOTS:
     void sizeLimitLeavesTheOldFile();
     void fullDiskLeavesTheOldFile();
     void closedFolderIsWrittenInPlace();
+    void rightsOfSharedFiles_data();
+    void rightsOfSharedFiles();
+    void furtherNamesAndAttributes();
+    void longNames_data();
+    void longNames();
     void previousVersionStays();
     void backupsOfSevenDays();
+    void backupsWithAWrongClock();
     void sweepsTemporaries();
     void setsAside();
     void stampTellsOfOtherWriters();
@@ -180,6 +189,164 @@ void tst_MvSafeFileWriter::closedFolderIsWrittenInPlace()
     QVERIFY2(refused.error.contains(u"darf nicht geschrieben werden"_qs), qPrintable(refused.error));
 }
 
+struct Person
+{
+    uid_t user;
+    bool isInGroup;
+};
+
+namespace {
+
+constexpr gid_t sharedGroup = 3001;
+constexpr Person anna{2001, false}, bernd{2002, true}, clara{2003, false}, dieter{2004, true};
+
+template <class Function>
+auto as(const Person &person, Function function)
+{
+    const auto become = [](uid_t user, gid_t group, bool isInGroup) {
+        return ::seteuid(0) == 0 && ::setgroups(isInGroup ? 1 : 0, &sharedGroup) == 0 && ::setegid(group) == 0 &&
+               ::seteuid(user) == 0;
+    };
+    if (!become(person.user, person.user, person.isInGroup))
+        qFatal("cannot take on another user");
+    const auto result = function();
+    if (!become(0, 0, false))
+        qFatal("cannot become the administrator again");
+    return result;
+}
+
+/// "rw" for each person as far as it goes.
+QStringList rights(const QByteArray &file)
+{
+    QStringList all;
+    for (const Person &person : {anna, bernd, clara, dieter})
+        all.append(as(person, [&file] {
+            const auto may = [&file](int what) {
+                return ::faccessat(AT_FDCWD, file.constData(), what, AT_EACCESS) == 0;
+            };
+            return QString::fromLatin1(may(R_OK) ? "r" : "-") + QLatin1StringView(may(W_OK) ? "w" : "-");
+        }));
+    return all;
+}
+
+/// An access list as the file system keeps it: the owner everything, his group and the others nothing, one more person
+/// the given.
+QByteArray accessList(const Person &person, quint16 given)
+{
+    struct Entry
+    {
+        quint16 tag;
+        quint16 rights;
+        quint32 id;
+    };
+    const quint32 version = 2;
+    const std::array<Entry, 5> entries{Entry{1, 6, ~0u}, Entry{2, given, person.user}, Entry{4, 0, ~0u},
+                                       Entry{16, 6, ~0u}, Entry{32, 0, ~0u}};
+    return QByteArray(reinterpret_cast<const char *>(&version), sizeof version) +
+           QByteArray(reinterpret_cast<const char *>(entries.data()), sizeof entries);
+}
+
+} // namespace
+
+void tst_MvSafeFileWriter::rightsOfSharedFiles_data()
+{
+    QTest::addColumn<Person>("writer");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QByteArray>("list");
+    QTest::addColumn<QByteArray>("listOfFolder"); // which new files in it get
+    QTest::newRow("the group's, written by one of it") << bernd << 0660 << QByteArray() << QByteArray();
+    QTest::newRow("the group's, written by its owner") << anna << 0660 << QByteArray() << QByteArray();
+    QTest::newRow("the group's, written by the administrator")
+        << Person{0, false} << 0660 << QByteArray() << QByteArray();
+    QTest::newRow("with a list, written by its owner") << anna << 0600 << accessList(clara, 6) << QByteArray();
+    QTest::newRow("with a list, written by one on it") << bernd << 0600 << accessList(bernd, 6) << QByteArray();
+    QTest::newRow("private, in a folder with a list") << anna << 0600 << QByteArray() << accessList(clara, 6);
+}
+
+/// Whoever might read or write the file may do so after it was saved, and nobody else.
+void tst_MvSafeFileWriter::rightsOfSharedFiles()
+{
+    QFETCH(Person, writer);
+    QFETCH(int, mode);
+    QFETCH(QByteArray, list);
+    QFETCH(QByteArray, listOfFolder);
+    if (::geteuid() != 0)
+        QSKIP("taking on another user needs the administrator");
+    put(u"a.xml"_qs, "old");
+    const QByteArray file = QFile::encodeName(path(u"a.xml"_qs));
+    const QByteArray folder = QFile::encodeName(m_dir->path());
+    QCOMPARE(::chown(folder.constData(), anna.user, sharedGroup), 0);
+    QCOMPARE(::chmod(folder.constData(), 0777), 0);
+    QCOMPARE(::chown(file.constData(), anna.user, sharedGroup), 0);
+    QCOMPARE(::chmod(file.constData(), mode_t(mode)), 0);
+    const auto set = [](const QByteArray &target, const char *name, const QByteArray &value) {
+        return value.isEmpty() || ::setxattr(target.constData(), name, value.constData(), size_t(value.size()), 0) == 0;
+    };
+    if (!set(file, "system.posix_acl_access", list) || !set(folder, "system.posix_acl_default", listOfFolder))
+        QSKIP("this file system has no access lists");
+    const QStringList before = rights(file);
+    const auto result = as(writer, [this] { return MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new"); });
+    QDir(u"%1/mvcalendar-%2-unfinished"_qs.arg(QDir::tempPath()).arg(writer.user)).removeRecursively();
+    QCOMPARE(result.error, QString());
+    QCOMPARE(contentOf(u"a.xml"_qs), "new");
+    QCOMPARE(rights(file), before);
+    QCOMPARE(QFileInfo(path(u"a.xml"_qs)).groupId(), sharedGroup);
+    QCOMPARE(contentOf(u"a.xml~"_qs), "old");
+    const QStringList ofBackup = rights(file + '~');
+    for (qsizetype i = 0; i < before.size(); ++i)
+        QVERIFY(before[i].contains(u'r') || !ofBackup[i].contains(u'r'));
+}
+
+void tst_MvSafeFileWriter::furtherNamesAndAttributes()
+{
+    put(u"a.xml"_qs, "1");
+    const QByteArray file = QFile::encodeName(path(u"a.xml"_qs));
+    if (::setxattr(file.constData(), "user.note", "mine", 4, 0) != 0)
+        QSKIP("this file system has no attributes");
+    const auto note = [&file] {
+        std::array<char, 8> value = {};
+        return QByteArray(value.data(), ::getxattr(file.constData(), "user.note", value.data(), value.size()));
+    };
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "2").isOk());
+    QCOMPARE(note(), "mine");
+
+    // a program killed between keeping the backup and replacing the file: these further names are the backups
+    QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "3", QDate(2026, 3, 1)));
+    QCOMPARE(::link(file.constData(), QFile::encodeName(path(u"other.xml"_qs)).constData()), 0);
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"other.xml"_qs)), "3", MvSafeFileWriter::Backups::None).isOk());
+    QCOMPARE(contentOf(u"a.xml"_qs), "3"); // one file under two names
+    QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "4", QDate(2026, 3, 2)));
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "4").isOk());
+    QCOMPARE(contentOf(u"other.xml"_qs), "4");
+    QCOMPARE(contentOf(u"a.xml~"_qs), "3");
+    QCOMPARE(contentOf(u"a.xml.2026-03-02~"_qs), "3");
+    QCOMPARE(note(), "mine");
+}
+
+void tst_MvSafeFileWriter::longNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("room for nothing") << QString(251, u'x') + u".xml"_qs;
+    QTest::newRow("room for the lock alone") << QString(246, u'x') + u".xml"_qs;
+    QTest::newRow("two bytes a letter") << QString(124, u'ä') + u".xml"_qs;
+    QTest::newRow("four bytes a letter") << QString::fromUcs4(U"\U0001F382").repeated(62) + u".xml"_qs;
+    QTest::newRow("no text") << u"a\nb\u0001.xml"_qs;
+}
+
+void tst_MvSafeFileWriter::longNames()
+{
+    QFETCH(QString, name);
+    const QFileInfo file(path(name));
+    QVERIFY(MvFileGuard(file, 0).isLocked());
+    for (const char *version : {"1", "2", "3"})
+        QCOMPARE(MvSafeFileWriter::write(file, version).note, QString());
+    const QList<QFileInfo> backups = MvSafeFileWriter::backups(file);
+    QCOMPARE(backups.size(), 2);
+    QCOMPARE(contentOf(backups.first().fileName()), "2");
+    QCOMPARE(contentOf(QFileInfo(MvSafeFileWriter::setAside(file)).fileName()), "3");
+    QCOMPARE(MvSafeFileWriter::backups(QFileInfo(path(name.chopped(5) + u"y.xml"_qs))).size(), 0); // another file's
+}
+
 void tst_MvSafeFileWriter::previousVersionStays()
 {
     const QFileInfo file(path(u"a.xml"_qs));
@@ -210,6 +377,38 @@ void tst_MvSafeFileWriter::backupsOfSevenDays()
     QCOMPARE(backups.at(1).fileName(), u"a.xml.2026-03-06~"_qs);
     QCOMPARE(backups.last().fileName(), u"a.xml.2026-02-28~"_qs);
     QCOMPARE(contentOf(u"a.xml.2026-03-01~"_qs), "state of day 3");
+}
+
+/// The days kept are the latest ones with changes, whatever the clock said in between.
+void tst_MvSafeFileWriter::backupsWithAWrongClock()
+{
+    int number = 0;
+    const auto changeOn = [this, &number](const QDate &first, int days) {
+        for (int day = 0; day < days; ++day) {
+            put(u"a.xml"_qs, QByteArray::number(++number));
+            QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "changed", first.addDays(day)));
+            QFile::remove(path(u"a.xml"_qs));
+        }
+    };
+    const auto days = [this](const QDate &today) {
+        QStringList names;
+        const QList<QFileInfo> files = MvFileBackup::existing(path(u"a.xml"_qs), today).mid(1);
+        for (const QFileInfo &file : files)
+            names.append(file.fileName().mid(6).chopped(1));
+        return names;
+    };
+    changeOn(QDate(2026, 3, 1), 4);
+    changeOn(QDate(2040, 1, 1), 5); // ahead
+    changeOn(QDate(2026, 3, 5), 3);
+    QCOMPARE(days(QDate(2026, 3, 7)),
+             (QStringList{u"2026-03-07"_qs, u"2026-03-06"_qs, u"2026-03-05"_qs, u"2026-03-04"_qs, u"2026-03-03"_qs,
+                          u"2040-01-05"_qs, u"2040-01-04"_qs}));
+    changeOn(QDate(1970, 1, 1), 2); // behind
+    changeOn(QDate(2026, 3, 8), 1);
+    QCOMPARE(days(QDate(2026, 3, 8)).mid(0, 4),
+             (QStringList{u"2026-03-08"_qs, u"2026-03-07"_qs, u"2026-03-06"_qs, u"2026-03-05"_qs}));
+    changeOn(QDate(2026, 3, 9), 7);
+    QCOMPARE(days(QDate(2026, 3, 15)).last(), u"2026-03-09"_qs);
 }
 
 void tst_MvSafeFileWriter::sweepsTemporaries()
