@@ -1,6 +1,5 @@
 #include "MvRenderCommand.h"
 
-#include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
@@ -83,13 +82,15 @@ QList<MvCliOption> MvRenderCommand::options() const
         {u"landscape"_s, {}, tr("Querformat (so bei A0 bis A6)")},
         {u"portrait"_s, {}, tr("Hochformat")},
         {u"bleed"_s, u"MM"_s, tr("Beschnitt an jeder Kante, nur im PDF (0)")},
-        {u"entries"_s, tr("DATEI"), tr("persönliche Einträge aus dieser Datei")},
-        {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge")},
+        {u"entries"_s, tr("DATEI"),
+         tr("persönliche Einträge aus dieser Datei; was darin nicht lesbar ist, wird genannt")},
+        {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge, ebenso")},
         {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027)")},
         {u"author"_s, u"TEXT"_s, tr("Verfasser im PDF")},
         {u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der PNG-Dateien (300)")},
         {u"report"_s, u"FORM"_s,
-         tr("json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien und Texte ohne Platz nennt")},
+         tr("json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz und nicht Lesbares "
+            "nennt")},
         {u"output"_s, tr("DATEI"),
          tr("-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt"), true}};
 }
@@ -132,22 +133,24 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
         if (const QString place = MvExportTarget(path).placeError(); !place.isEmpty())
             return failed(place);
 
-    takeEntries(values, document, &error, streams.hints);
-    if (!error.isEmpty())
-        return failed(error);
+    const MvRenderEntries entries = takeEntries(values, document);
+    if (!entries.error().isEmpty())
+        return failed(entries.error());
+    entries.printHints(streams.hints);
     hintAtMissingFonts(document.appearance(), streams.hints);
     MvVacationHint::print(document.holidayConfig(), document.range().end(), streams.hints);
     if (document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
         hintAtLeapDayEntries(document.range(), streams.hints);
-    return write(document, arguments, dpi, streams);
+    return write(document, entries, arguments, dpi, streams);
 }
 
-MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, const MvCliArguments &arguments,
-                                            int dpi, const Streams &streams)
+MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, const MvRenderEntries &entries,
+                                            const MvCliArguments &arguments, int dpi, const Streams &streams)
 {
     const bool isReported = arguments.has(u"report"_s);
     const MvPageSource pages = document.pageSource();
     MvRenderReport report(document);
+    report.setSkippedEntries(entries.file(), entries.skipped());
     for (const QString &path : arguments.values(u"output"_s)) {
         const MvExportResult result = MvExportTarget(path).write(pages, dpi);
         for (const QFileInfo &file : result.files) {
@@ -278,39 +281,25 @@ MvCalendariumHolidayConfig MvRenderCommand::holidayConfig(MvCliValues &values)
     return config;
 }
 
-void MvRenderCommand::takeEntries(const MvCliValues &values, MvCalendarDocument &document, QString *error,
-                                  QTextStream &hints)
+MvRenderEntries MvRenderCommand::takeEntries(const MvCliValues &values, MvCalendarDocument &document)
 {
-    const bool isAsked = values.has(u"entries"_s) || values.has(u"my-entries"_s);
-    if (!isAsked && values.has(u"project"_s))
-        return; // as the project says, from the user's own list
-    const bool areShown = loadEntries(values, error, hints);
+    if (!values.has(u"entries"_s) && !values.has(u"my-entries"_s) && values.has(u"project"_s))
+        return document.holidayConfig().hasFeatures(FEATURE_ENTRIES) ? MvRenderEntries::own() : MvRenderEntries();
+    MvRenderEntries entries;
+    if (values.has(u"my-entries"_s))
+        entries = MvRenderEntries::own();
+    else if (values.has(u"entries"_s))
+        entries = MvRenderEntries::ofFile(QFileInfo(values.text(u"entries"_s)));
     for (int page = 0; page < document.pages().size(); ++page) {
         MvCalendarPage changed = document.pages()[page];
         MvCalendariumContentConfig content = changed.contentConfig();
         MvCalendariumHolidayConfig config = content.holidayConfig();
-        config.setFeature(FEATURE_ENTRIES, areShown);
+        config.setFeature(FEATURE_ENTRIES, entries.areShown());
         content.setHolidayConfig(config);
         changed.setContentConfig(content);
         document.setPage(page, changed);
     }
-}
-
-bool MvRenderCommand::loadEntries(const MvCliValues &values, QString *error, QTextStream &hints)
-{
-    if (values.has(u"my-entries"_s))
-        return true;
-    if (!values.has(u"entries"_s))
-        return false;
-    const QFileInfo file(values.text(u"entries"_s));
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
-    *error = content.error;
-    if (content.isRead() && content.events.isEmpty())
-        hints << tr("%1: keine Einträge gefunden").replace(u"%1"_s, file.filePath()) << '\n';
-    if (content.events.isEmpty())
-        return false; // loading an empty list would leave the user's own entries in place
-    // set, the flag replaces the active list; nothing is saved
-    return MvCalendarEventRegistry::instance().loadFrom(file, true);
+    return entries;
 }
 
 void MvRenderCommand::hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints)

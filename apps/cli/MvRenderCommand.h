@@ -2,6 +2,7 @@
 
 #include "MvCliCommand.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvRenderEntries.h"
 
 class MvCliValues;
 
@@ -22,8 +23,8 @@ private:
     /// An unreadable file gives an error, what could not be taken from it hints.
     static MvCalendarDocument documentFromProject(const MvCliValues &values, QString *error, QTextStream &hints);
     static void excludeDecidedByProject(MvCliValues &values);
-    static Result write(const MvCalendarDocument &document, const MvCliArguments &arguments, int dpi,
-                        const Streams &streams);
+    static Result write(const MvCalendarDocument &document, const MvRenderEntries &entries,
+                        const MvCliArguments &arguments, int dpi, const Streams &streams);
     static MvDateRange range(MvCliValues &values);
     static MvPageFormat pageFormat(MvCliValues &values);
     static MvCalendariumAppearance appearance(MvCliValues &values);
@@ -31,11 +32,7 @@ private:
     static QStringList columns(MvCliValues &values, const MvCalendariumAppearance &appearance);
     static MvCalendariumHolidayConfig holidayConfig(MvCliValues &values);
     /// Loads the entries that were asked for and has the pages show them.
-    static void takeEntries(const MvCliValues &values, MvCalendarDocument &document, QString *error,
-                            QTextStream &hints);
-    /// Loads what was asked for; whether there are entries to print. An unreadable file gives an error, one without
-    /// entries a hint.
-    static bool loadEntries(const MvCliValues &values, QString *error, QTextStream &hints);
+    static MvRenderEntries takeEntries(const MvCliValues &values, MvCalendarDocument &document);
     static void hintAtLeapDayEntries(const MvDateRange &range, QTextStream &hints);
     static void hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints);
 };

@@ -16,8 +16,20 @@ MvRenderReport::MvRenderReport(const MvCalendarDocument &document)
     }
 }
 
+void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped)
+{
+    m_entriesFile = file;
+    m_skipped = skipped;
+}
+
 QString MvRenderReport::toJson() const
 {
+    QJsonArray skippedEntries;
+    for (const MvCalendarEventFile::Skipped &skipped : m_skipped)
+        skippedEntries.append(QJsonObject{{u"file"_s, m_entriesFile.filePath()},
+                                          {u"line"_s, skipped.line},
+                                          {u"name"_s, skipped.name},
+                                          {u"reason"_s, skipped.reason}});
     QJsonArray unfitting;
     for (const Entry &entry : m_unfitting) {
         const QRectF &rect = entry.text.rect;
@@ -31,6 +43,7 @@ QString MvRenderReport::toJson() const
     }
     const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)},
                              {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingPhotos)},
+                             {u"skippedEntries"_s, skippedEntries},
                              {u"unfitting"_s, unfitting}};
     return QString::fromUtf8(QJsonDocument(report).toJson());
 }

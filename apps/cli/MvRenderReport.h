@@ -1,8 +1,10 @@
 #pragma once
 
+#include "MvCalendar/MvCalendarEventFile.h"
 #include "MvProject/MvCalendarDocument.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QStringList>
 
 class QTextStream;
@@ -18,9 +20,13 @@ public:
 
     void addFile(const QString &path) { m_files.append(path); }
 
+    /// Entries that are not printed since their file has them in a form that cannot be read.
+    void setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped);
+
     /// An object with "files", a list of paths, "missingPhotos", the paths of photos that are not there or cannot be
-    /// read, and "unfitting", a list of objects with "page" (from 1), "date" (ISO),
-    /// "text" and "rect" ("x", "y", "width", "height" in tenths of a millimetre from the corner of the trimmed page).
+    /// read, "skippedEntries", a list of objects with "file", "line" (from 1), "name" and "reason", and "unfitting", a
+    /// list of objects with "page" (from 1), "date" (ISO), "text" and "rect" ("x", "y", "width", "height" in tenths of
+    /// a millimetre from the corner of the trimmed page).
     QString toJson() const;
     /// One line when texts had no room, one per missing photo, otherwise nothing.
     void printHint(QTextStream &hints) const;
@@ -35,4 +41,6 @@ private:
     QList<Entry> m_unfitting;
     QStringList m_missingPhotos;
     QStringList m_files;
+    QFileInfo m_entriesFile;
+    QList<MvCalendarEventFile::Skipped> m_skipped;
 };

@@ -60,7 +60,7 @@ MvCalendarEventStore::Problem MvCalendarEventStore::problem() const
 
 MvCalendarEventStore::Problem MvCalendarEventStore::problemOf(Problem::Kind kind, const QString &text) const
 {
-    return {kind, text, file(), {}, MvSafeFileWriter::backups(file())};
+    return {kind, text, file(), {}, MvSafeFileWriter::backups(file()), {}};
 }
 
 void MvCalendarEventStore::changeProblem(Problem *problem, const Problem &value)
@@ -99,27 +99,29 @@ MvCalendarEventFile::Content MvCalendarEventStore::read(bool becomesTheList)
         m_inFile = content.events;
         m_stamp = stamp;
     }
-    m_couldNotBeRead = !content.isRead() && !content.isMissing;
+    m_couldNotBeRead = !content.refusal().isEmpty() && !content.isMissing;
     noteContent(content);
     return content;
 }
 
 void MvCalendarEventStore::noteContent(const MvCalendarEventFile::Content &content)
 {
-    const bool isUnreadable = !content.isRead() && !content.isMissing;
-    const bool isPart = content.isRead() && !content.isComplete;
+    const bool isUnreadable = !content.refusal().isEmpty() && !content.isMissing;
+    const bool isPart = !isUnreadable && !content.isMissing && !content.isComplete;
     m_mustBeSetAside = isUnreadable || isPart;
     if (m_mustBeSetAside)
         m_lastRead = content.events;
     if (isUnreadable)
-        changeProblem(
-            &m_readProblem,
-            problemOf(Problem::Unreadable, tr("Ihre Einträge konnten nicht gelesen werden. %1").arg(content.error)));
-    else if (isPart)
-        changeProblem(&m_readProblem, problemOf(Problem::PartlyReadable,
-                                                tr("Ein Teil Ihrer Einträge in %1 konnte nicht gelesen werden.")
-                                                    .arg(QDir::toNativeSeparators(file().absoluteFilePath()))));
-    else if (m_readProblem.setAside.filePath().isEmpty()) // readable again before it was overwritten here
+        changeProblem(&m_readProblem,
+                      problemOf(Problem::Unreadable,
+                                tr("Ihre Einträge konnten nicht gelesen werden. %1").arg(content.refusal())));
+    else if (isPart) {
+        Problem part =
+            problemOf(Problem::PartlyReadable, tr("Ein Teil Ihrer Einträge in %1 konnte nicht gelesen werden.")
+                                                   .arg(QDir::toNativeSeparators(file().absoluteFilePath())));
+        part.skipped = content.skipped;
+        changeProblem(&m_readProblem, part);
+    } else if (m_readProblem.setAside.filePath().isEmpty()) // readable again before it was overwritten here
         dismissReadProblem();
 }
 
@@ -130,7 +132,7 @@ MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEv
         return events;
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file());
     noteContent(content);
-    if (!content.isRead())
+    if (!content.refusal().isEmpty()) // also what is no list: nobody has removed all entries
         return events;
     MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
     return MvCalendarEventMerge::threeWay(m_inFile, events, content.events);
@@ -241,8 +243,8 @@ bool MvCalendarEventStore::write(const MvCalendarEventList &events)
 bool MvCalendarEventStore::restoreBackup(const QFileInfo &backup)
 {
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(backup);
-    if (!content.isRead()) {
-        fail(Problem::NotSaved, content.error);
+    if (!content.refusal().isEmpty()) {
+        fail(Problem::NotSaved, content.refusal());
         return false;
     }
     MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);

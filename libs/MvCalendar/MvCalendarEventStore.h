@@ -44,6 +44,7 @@ public:
         QFileInfo file;           // the user's file
         QFileInfo setAside;       // where the unreadable file was kept; without a path as long as it is in place
         QList<QFileInfo> backups; // of the file: the previous version first, then the days, newest first
+        QList<MvCalendarEventFile::Skipped> skipped; // what of a partly readable file is not in the list
 
         bool isProblem() const { return kind != None; }
         bool operator==(const Problem &other) const;

@@ -121,6 +121,16 @@
     </message>
 </context>
 <context>
+    <name>MvRenderEntries</name>
+    <message numerus="yes">
+        <source>%1: %n weitere nicht gedruckt; --report json nennt alle</source>
+        <translation>
+            <numerusform>%1: %n weiterer nicht gedruckt; --report json nennt alle</numerusform>
+            <numerusform>%1: %n weitere nicht gedruckt; --report json nennt alle</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvStudioStatusBar</name>
     <message numerus="yes">
         <source>%n Texte ohne Platz</source>

@@ -2401,14 +2401,6 @@ Save it under another name or in another folder.</translation>
         <translation>bleed at each edge, in the PDF only (0)</translation>
     </message>
     <message>
-        <source>persönliche Einträge aus dieser Datei</source>
-        <translation>personal entries from this file</translation>
-    </message>
-    <message>
-        <source>die eigenen persönlichen Einträge</source>
-        <translation>your own personal entries</translation>
-    </message>
-    <message>
         <source>Titel der Dateien (Kalender 2027)</source>
         <translation>title of the files (Calendar 2027)</translation>
     </message>
@@ -2419,10 +2411,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Punkte je Zoll der PNG-Dateien (300)</source>
         <translation>dots per inch of the PNG files (300)</translation>
-    </message>
-    <message>
-        <source>json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien und Texte ohne Platz nennt</source>
-        <translation>json: instead of the file names, prints a JSON object that names files and texts without room</translation>
     </message>
     <message>
         <source>-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt</source>
@@ -2447,10 +2435,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>--columns: %1 Namen; erlaubt sind höchstens %2</source>
         <translation>--columns: %1 names; allowed are at most %2</translation>
-    </message>
-    <message>
-        <source>%1: keine Einträge gefunden</source>
-        <translation>%1: no entries found</translation>
     </message>
     <message>
         <source>Schrift nicht installiert, eine andere tritt an ihre Stelle: %1</source>
@@ -2491,6 +2475,40 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>--%1 und --project schließen einander aus: das steht im Projekt</source>
         <translation>--%1 and --project exclude each other: this is in the project</translation>
+    </message>
+    <message>
+        <source>persönliche Einträge aus dieser Datei; was darin nicht lesbar ist, wird genannt</source>
+        <translation>personal entries of this file; what cannot be read in it is named</translation>
+    </message>
+    <message>
+        <source>die eigenen persönlichen Einträge, ebenso</source>
+        <translation>your own personal entries, in the same way</translation>
+    </message>
+    <message>
+        <source>json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz und nicht Lesbares nennt</source>
+        <translation>json: prints a JSON object instead of the file names, which names files, texts without room and what could not be read</translation>
+    </message>
+</context>
+<context>
+    <name>MvRenderEntries</name>
+    <message>
+        <source>Eine frühere Fassung vom %1: %2</source>
+        <translation>An earlier version of %1: %2</translation>
+    </message>
+    <message>
+        <source>%1: nicht gedruckt: %2</source>
+        <translation>%1: not printed: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n weitere nicht gedruckt; --report json nennt alle</source>
+        <translation>
+            <numerusform>%1: %n more not printed; --report json names all</numerusform>
+            <numerusform>%1: %n more not printed; --report json names all</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: keine Einträge gefunden</source>
+        <translation>%1: no entries found</translation>
     </message>
 </context>
 <context>

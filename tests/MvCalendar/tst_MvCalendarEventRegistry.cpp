@@ -2,6 +2,7 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvPlatformIndependent.h"
@@ -79,6 +80,7 @@ private Q_SLOTS:
     void fotosByDay();
     void setsUnreadableFilesAside();
     void keepsIncompleteFiles();
+    void anotherDocumentInPlaceOfTheListRemovesNothing();
     void takesInOtherPrograms();
     void saveTakesInOtherPrograms();
     void failedSavingIsTold();
@@ -378,6 +380,17 @@ void tst_MvCalendarEventRegistry::keepsIncompleteFiles()
     const QStringList aside = QDir(m_data->path()).entryList({u"*unlesbar*"_qs});
     QCOMPARE(aside.size(), 1);
     QCOMPARE(contentOf(aside.first()), content);
+}
+
+void tst_MvCalendarEventRegistry::anotherDocumentInPlaceOfTheListRemovesNothing()
+{
+    MvCalendarEventRegistry registry;
+    registry.setEvents({entry(u"A"_qs, QDate(2000, 1, 1))});
+    put(u"calendarEvents.xml"_qs, "<Layouts/>");
+    registry.changeEvent(MvCalendarEvent(), entry(u"B"_qs, QDate(2000, 1, 1)));
+    QCOMPARE(names(registry.activeEventList()), u"A B"_qs);
+    QCOMPARE(registry.userFile().problem().kind, MvCalendarEventStore::Problem::Unreadable);
+    QCOMPARE(contentOf(QDir(m_data->path()).entryList({u"*unlesbar*"_qs}).value(0)), "<Layouts/>");
 }
 
 void tst_MvCalendarEventRegistry::takesInOtherPrograms()

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void noEntries();
     void damagedEntries_data();
     void damagedEntries();
+    void skippedEntries_data();
+    void skippedEntries();
     void leapDayEntries();
     void reportsTextsWithoutRoom();
     void unknownFont();
@@ -395,8 +397,6 @@ void tst_mvcalendar::noEntries_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("none") << QByteArray("<CalendarEvents/>");
-    QTest::newRow("without a name") << entriesFile("", "1980-02-03");
-    QTest::newRow("another kind of document") << QByteArray("<html/>");
 }
 
 void tst_mvcalendar::noEntries()
@@ -422,6 +422,7 @@ void tst_mvcalendar::damagedEntries_data()
     QTest::newRow("wrong end tag") << QByteArray("<CalendarEvents>\n<CalendarEvent></Name>") << u"bad.xml:2:"_s;
     QTest::newRow("something else") << QByteArray("%PDF-1.5") << u"bad.xml:1:"_s;
     QTest::newRow("empty") << QByteArray() << u"bad.xml"_s;
+    QTest::newRow("another kind of document") << QByteArray("<html/>") << u"bad.xml: Das ist keine Liste"_s;
 }
 
 void tst_mvcalendar::damagedEntries()
@@ -434,6 +435,50 @@ void tst_mvcalendar::damagedEntries()
     QCOMPARE(call.err.count('\n'), 1);
     QVERIFY2(QString::fromUtf8(call.err).contains(place), call.err.constData());
     QCOMPARE(files(), QStringList{u"bad.xml"_s});
+
+    const QString own = m_userFolder.filePath(u"calendarEvents.xml"_s);
+    write(own, content);
+    write(own + u'~', entriesFile("Klaus", "1980-02-03"));
+    const Call mine = run({u"render"_s, u"--my-entries"_s, u"-o"_s, u"k.pdf"_s});
+    QCOMPARE(mine.exitCode, 1);
+    const QString lastLine = QString::fromUtf8(mine.err.trimmed().split('\n').last());
+    QVERIFY2(lastLine.contains(own) && lastLine.contains(own + u'~'), qPrintable(lastLine));
+    QCOMPARE(files(), QStringList{u"bad.xml"_s});
+    QVERIFY(QFile::remove(own) && QFile::remove(own + u'~'));
+}
+
+void tst_mvcalendar::skippedEntries_data()
+{
+    QTest::addColumn<QString>("option");
+    QTest::newRow("of a file") << u"--entries"_s;
+    QTest::newRow("own") << u"--my-entries"_s;
+}
+
+void tst_mvcalendar::skippedEntries()
+{
+    QFETCH(const QString, option);
+    const bool isOwn = option == u"--my-entries"_s;
+    const QString file = isOwn ? m_userFolder.filePath(u"calendarEvents.xml"_s) : u"e.xml"_s;
+    QByteArray content = entriesFile("Klaus", "1980-02-03");
+    const QByteArray second = entriesFile("Erna", "1900-02-29");
+    content.replace("</CalendarEvents>", second.mid(second.indexOf("  <CalendarEvent>")));
+    write(QDir(m_folder->path()).absoluteFilePath(file), content);
+    QStringList arguments{u"render"_s, option};
+    if (!isOwn)
+        arguments.append(file);
+    arguments += {u"--months"_s, u"1"_s, u"-o"_s, u"k.pdf"_s};
+    const Call call = run(arguments);
+    QCOMPARE(call.exitCode, 0);
+    const QString err = QString::fromUtf8(call.err);
+    QVERIFY2(err.contains(file) && err.contains(u"Zeile 9, „Erna“: das Datum „1900-02-29T00:00:00“"_s),
+             qPrintable(err));
+    QCOMPARE(call.err.count('\n'), 1);
+    const Call report = run(arguments + QStringList{u"--report"_s, u"json"_s});
+    const QJsonArray skipped = QJsonDocument::fromJson(report.out).object().value(u"skippedEntries"_s).toArray();
+    QCOMPARE(skipped.size(), 1);
+    QCOMPARE(skipped.first().toObject().value(u"line"_s).toInt(), 9);
+    if (isOwn)
+        QVERIFY(QFile::remove(file));
 }
 
 void tst_mvcalendar::leapDayEntries()

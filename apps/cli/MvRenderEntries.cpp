@@ -1,0 +1,63 @@
+#include "MvRenderEntries.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStore.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostHints = 20;
+
+} // namespace
+
+MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
+{
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
+    MvRenderEntries entries;
+    entries.m_file = file;
+    entries.m_isFile = true;
+    entries.m_error = content.refusal();
+    entries.m_skipped = content.skipped;
+    // loading an empty list would leave the user's own entries in place; with the flag set, the file's entries replace
+    // the list, and nothing is saved
+    entries.m_areShown = entries.m_error.isEmpty() && !content.events.isEmpty() &&
+                         MvCalendarEventRegistry::instance().loadFrom(file, true);
+    return entries;
+}
+
+MvRenderEntries MvRenderEntries::own()
+{
+    using Problem = MvCalendarEventStore::Problem;
+    const Problem problem = MvCalendarEventRegistry::instance().userFile().problem();
+    MvRenderEntries entries;
+    entries.m_file = problem.file;
+    entries.m_skipped = problem.skipped;
+    entries.m_areShown = true;
+    if (problem.kind != Problem::Unreadable)
+        return entries;
+    entries.m_error = problem.text;
+    if (!problem.backups.isEmpty()) {
+        const QFileInfo &backup = problem.backups.first();
+        entries.m_error += u' ' + tr("Eine frühere Fassung vom %1: %2")
+                                      .arg(QLocale().toString(backup.lastModified(), QLocale::ShortFormat),
+                                           QDir::toNativeSeparators(backup.filePath()));
+    }
+    return entries;
+}
+
+void MvRenderEntries::printHints(QTextStream &hints) const
+{
+    const QString file = QDir::toNativeSeparators(m_file.filePath());
+    for (const MvCalendarEventFile::Skipped &skipped : m_skipped.mid(0, mostHints))
+        hints << tr("%1: nicht gedruckt: %2").arg(file, skipped.describe()) << '\n';
+    if (m_skipped.size() > mostHints)
+        hints << tr("%1: %n weitere nicht gedruckt; --report json nennt alle", nullptr,
+                    int(m_skipped.size() - mostHints))
+                     .arg(file)
+              << '\n';
+    if (m_isFile && !m_areShown)
+        hints << tr("%1: keine Einträge gefunden").arg(file) << '\n';
+}
