@@ -3,31 +3,327 @@
 #include <QHash>
 #include <QSet>
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
-QHash<QUuid, const MvCalendarEvent *> byUuid(const MvCalendarEventList &events)
+/// What a file holds of an entry, apart from who it is. A part can be left out, to find entries that differ in it.
+struct Content
 {
-    QHash<QUuid, const MvCalendarEvent *> entries;
-    for (const MvCalendarEvent &event : events) {
-        if (!event.uuid().isNull())
-            entries.insert(event.uuid(), &event);
+    enum Part { Name = 1, Date = 2, Rest = 4, Uuid = 8 };
+    static constexpr int everything = Name | Date | Rest;
+
+    Content(const MvCalendarEvent &event, int parts)
+    {
+        if (parts & Name)
+            name = event.description();
+        if (parts & Date) {
+            const QDateTime when = event.dateTime();
+            const QDateTime local = when.timeSpec() == Qt::LocalTime ? when : when.toLocalTime();
+            date = local.date();
+            seconds = local.time().msecsSinceStartOfDay() / 1000;
+        }
+        if (parts & Rest) {
+            foto = event.foto();
+            isRecurrent = event.storedRecurrent();
+        }
+        if (parts & Uuid)
+            uuid = event.uuid();
     }
-    return entries;
+
+    bool operator==(const Content &) const = default;
+
+    QString name;
+    QDate date;
+    int seconds = 0;
+    MvFoto foto;
+    bool isRecurrent = false;
+    QUuid uuid;
+};
+
+size_t qHash(const Content &content, size_t seed)
+{
+    return qHashMulti(seed, content.name, content.date, content.seconds, content.foto, content.isRecurrent,
+                      content.uuid);
 }
 
-/// The entry of `mine` after the others had their say; null when it is gone.
-const MvCalendarEvent *merged(const MvCalendarEvent *base, const MvCalendarEvent &mine, const MvCalendarEvent *theirs)
+bool isSame(const MvCalendarEvent &a, const MvCalendarEvent &b)
 {
-    const bool isChangedHere = !base || !(*base == mine);
-    if (!theirs)
-        return base && !isChangedHere ? nullptr : &mine; // removed there, unless it is new or changed here
-    const bool isChangedThere = !base || !(*base == *theirs);
-    if (!isChangedThere)
-        return &mine;
-    if (!isChangedHere)
-        return theirs;
-    return mine.lastChanged() < theirs->lastChanged() ? theirs : &mine;
+    return Content(a, Content::everything) == Content(b, Content::everything);
 }
+
+/// The uuids that do not say who an entry is: none, and those of series.
+class SharedUuids
+{
+public:
+    void addFrom(const MvCalendarEventList &events)
+    {
+        QSet<QUuid> known = {QUuid()};
+        known.reserve(events.size());
+        for (const MvCalendarEvent &event : events) {
+            if (known.contains(event.uuid()))
+                m_uuids.insert(event.uuid());
+            known.insert(event.uuid());
+        }
+        m_uuids.insert(QUuid());
+    }
+
+    bool contains(const MvCalendarEvent &event) const { return m_uuids.contains(event.uuid()); }
+
+private:
+    QSet<QUuid> m_uuids;
+};
+
+/// Which entry of one list is which of another.
+class Pairing
+{
+public:
+    Pairing(const MvCalendarEventList &first, const MvCalendarEventList &second, const SharedUuids &shared)
+        : m_first(first)
+        , m_second(second)
+        , m_toSecond(first.size(), -1)
+        , m_toFirst(second.size(), -1)
+        , m_isDoubtful(first.size(), false)
+    {
+        pairInOrder(Content::everything | Content::Uuid);
+        pairInOrder(Content::everything);
+        pairNearest(Content::Uuid, false, [&shared](const MvCalendarEvent &event) { return !shared.contains(event); });
+        noteStrangers();
+        const auto isOfSeries = [](const MvCalendarEvent &event) { return !event.uuid().isNull(); };
+        for (const int parts : {Content::Name | Content::Date, int(Content::Date), int(Content::Name)})
+            pairNearest(parts | Content::Uuid, true, isOfSeries);
+    }
+
+    // positions; -1 without a partner
+    qsizetype toSecond(qsizetype first) const { return first < 0 ? -1 : m_toSecond[size_t(first)]; }
+    qsizetype toFirst(qsizetype second) const { return m_toFirst[size_t(second)]; }
+    /// The uuid did not say that it is this one.
+    bool isDoubtful(qsizetype first) const { return m_isDoubtful[size_t(first)]; }
+
+private:
+    void pair(qsizetype first, qsizetype second)
+    {
+        m_toSecond[size_t(first)] = second;
+        m_toFirst[size_t(second)] = first;
+    }
+
+    /// The first with the first, and so on: equal entries may occur several times.
+    void pairInOrder(int parts)
+    {
+        QHash<Content, std::vector<qsizetype>> waiting;
+        for (qsizetype i = m_second.size() - 1; i >= 0; --i) {
+            if (m_toFirst[size_t(i)] < 0)
+                waiting[Content(m_second.at(i), parts)].push_back(i);
+        }
+        for (qsizetype i = 0; i < m_first.size() && !waiting.isEmpty(); ++i) {
+            if (m_toSecond[size_t(i)] >= 0)
+                continue;
+            const auto found = waiting.find(Content(m_first.at(i), parts));
+            if (found == waiting.end() || found->empty())
+                continue;
+            pair(i, found->back());
+            found->pop_back();
+        }
+    }
+
+    /// Only where there is one candidate on each side.
+    template <class Condition>
+    void pairNearest(int parts, bool isDoubtful, Condition condition)
+    {
+        constexpr qsizetype several = -2;
+        const auto candidates = [&](const MvCalendarEventList &events, const std::vector<qsizetype> &partners) {
+            QHash<Content, qsizetype> positions;
+            for (qsizetype i = 0; i < events.size(); ++i) {
+                if (partners[size_t(i)] >= 0 || !condition(events.at(i)))
+                    continue;
+                const Content content(events.at(i), parts);
+                positions.insert(content, positions.contains(content) ? several : i);
+            }
+            return positions;
+        };
+        const QHash<Content, qsizetype> first = candidates(m_first, m_toSecond);
+        if (first.isEmpty())
+            return;
+        const QHash<Content, qsizetype> second = candidates(m_second, m_toFirst);
+        for (auto it = first.cbegin(); it != first.cend(); ++it) {
+            const qsizetype partner = second.value(it.key(), several);
+            if (it.value() == several || partner == several)
+                continue;
+            pair(it.value(), partner);
+            m_isDoubtful[size_t(it.value())] = isDoubtful;
+        }
+    }
+
+    /// A series of which each list has one entry looks like one entry: another name on another day is a doubt.
+    void noteStrangers()
+    {
+        for (qsizetype i = 0; i < m_first.size(); ++i) {
+            if (toSecond(i) < 0)
+                continue;
+            const MvCalendarEvent &first = m_first.at(i);
+            const MvCalendarEvent &second = m_second.at(toSecond(i));
+            m_isDoubtful[size_t(i)] =
+                first.description() != second.description() && first.dateTime().date() != second.dateTime().date();
+        }
+    }
+
+    const MvCalendarEventList &m_first;
+    const MvCalendarEventList &m_second;
+    std::vector<qsizetype> m_toSecond;
+    std::vector<qsizetype> m_toFirst;
+    std::vector<bool> m_isDoubtful;
+};
+
+/// Both have changed the entry: each field that only one of them has changed is that one's, the others are those of the
+/// later change.
+MvCalendarEvent mergedFields(const MvCalendarEvent &base, const MvCalendarEvent &mine, const MvCalendarEvent &theirs)
+{
+    const bool isMineLater = !(mine.lastChanged() < theirs.lastChanged());
+    const MvCalendarEvent &later = isMineLater ? mine : theirs;
+    const MvCalendarEvent &earlier = isMineLater ? theirs : mine;
+    const auto isLater = [&](int part) { // the field of the later change counts
+        const Content before(base, part);
+        return before == Content(earlier, part) || !(before == Content(later, part));
+    };
+    const bool isName = isLater(Content::Name);
+    const bool isDate = isLater(Content::Date);
+    const bool isRest = isLater(Content::Rest);
+    if (isName && isDate && isRest)
+        return later;
+    MvCalendarEvent merged = isRest ? later : earlier; // setting a photo might copy it
+    if (isName != isRest)
+        merged.setEventName(isName ? later.description() : earlier.description());
+    if (isDate != isRest)
+        merged.setDateTime(isDate ? later.dateTime() : earlier.dateTime());
+    return merged;
+}
+
+class ThreeWay
+{
+public:
+    ThreeWay(const MvCalendarEventList &base, const MvCalendarEventList &mine, const MvCalendarEventList &theirs,
+             bool theirsIsWhole)
+        : m_base(base)
+        , m_mine(mine)
+        , m_theirs(theirs)
+        , m_theirsIsWhole(theirsIsWhole)
+        , m_shared(sharedUuids())
+        , m_toMine(base, mine, m_shared)
+        , m_toTheirs(base, theirs, m_shared)
+    {}
+
+    MvCalendarEventList result()
+    {
+        for (qsizetype i = 0; i < m_mine.size(); ++i) {
+            if (m_toMine.toFirst(i) >= 0) {
+                takeKnown(m_toMine.toFirst(i), m_mine.at(i));
+                continue;
+            }
+            m_placesOfNew.push_back(m_result.size());
+            m_result.append(m_mine.at(i));
+        }
+        takeNewOfTheirs();
+        return withoutSurplus();
+    }
+
+private:
+    SharedUuids sharedUuids() const
+    {
+        SharedUuids shared;
+        for (const MvCalendarEventList *list : {&m_base, &m_mine, &m_theirs})
+            shared.addFrom(*list);
+        return shared;
+    }
+
+    /// An entry of mine that both started from.
+    void takeKnown(qsizetype position, const MvCalendarEvent &mine)
+    {
+        const MvCalendarEvent &base = m_base.at(position);
+        const qsizetype there = m_toTheirs.toSecond(position);
+        const bool isChangedHere = !isSame(base, mine);
+        if (there < 0) { // removed there
+            if (isChangedHere || !m_theirsIsWhole)
+                m_result.append(mine);
+            return;
+        }
+        const MvCalendarEvent &theirs = m_theirs.at(there);
+        if (!isChangedHere)
+            m_result.append(base.uuid() == mine.uuid() || !isSame(base, theirs) ? theirs : mine);
+        else if (isSame(base, theirs))
+            m_result.append(mine);
+        else if (isSame(mine, theirs))
+            m_result.append(theirs);
+        else if (m_toMine.isDoubtful(position) || m_toTheirs.isDoubtful(position))
+            m_result << mine << theirs;
+        else
+            m_result.append(mergedFields(base, mine, theirs));
+    }
+
+    /// What they have added, or changed while it was removed here. Both may have added the same, such as a contact of
+    /// an address book; its photo is then another copy on each side.
+    void takeNewOfTheirs()
+    {
+        MvCalendarEventList newHere;
+        MvCalendarEventList newThere;
+        for (const qsizetype place : m_placesOfNew)
+            newHere.append(m_result.at(place));
+        for (qsizetype i = 0; i < m_theirs.size(); ++i) {
+            const qsizetype base = m_toTheirs.toFirst(i);
+            if (base < 0 || (m_toMine.toSecond(base) < 0 && !isSame(m_base.at(base), m_theirs.at(i))))
+                newThere.append(m_theirs.at(i));
+        }
+        if (newThere.isEmpty())
+            return;
+        const Pairing pairing(newHere, newThere, m_shared);
+        for (qsizetype i = 0; i < newThere.size(); ++i) {
+            const qsizetype here = pairing.toFirst(i);
+            constexpr int nameAndDate = Content::Name | Content::Date;
+            if (here < 0 || !(Content(newHere.at(here), nameAndDate) == Content(newThere.at(i), nameAndDate))) {
+                m_result.append(newThere.at(i));
+                continue;
+            }
+            MvCalendarEvent &mine = m_result[m_placesOfNew[size_t(here)]];
+            if (mine.lastChanged() < newThere.at(i).lastChanged())
+                mine = newThere.at(i);
+        }
+    }
+
+    /// What both sides came to on different ways is there once, unless one of them has it more often.
+    MvCalendarEventList withoutSurplus() const
+    {
+        const auto counted = [](const MvCalendarEventList &events) {
+            QHash<Content, int> counts;
+            counts.reserve(events.size());
+            for (const MvCalendarEvent &event : events)
+                ++counts[Content(event, Content::everything)];
+            return counts;
+        };
+        const QHash<Content, int> result = counted(m_result);
+        if (result.size() == m_result.size())
+            return m_result;
+        const QHash<Content, int> mine = counted(m_mine);
+        const QHash<Content, int> theirs = counted(m_theirs);
+        QHash<Content, int> taken;
+        MvCalendarEventList rest;
+        for (const MvCalendarEvent &event : m_result) {
+            const Content content(event, Content::everything);
+            if (++taken[content] <= std::max({1, mine.value(content), theirs.value(content)}))
+                rest.append(event);
+        }
+        return rest;
+    }
+
+    const MvCalendarEventList &m_base;
+    const MvCalendarEventList &m_mine;
+    const MvCalendarEventList &m_theirs;
+    bool m_theirsIsWhole;
+    SharedUuids m_shared;
+    Pairing m_toMine;   // from base
+    Pairing m_toTheirs; // from base
+    MvCalendarEventList m_result;
+    std::vector<qsizetype> m_placesOfNew; // in the result: what mine has added
+};
 
 } // namespace
 
@@ -46,25 +342,20 @@ MvCalendarEventList MvCalendarEventMerge::joined(const MvCalendarEventList &base
 }
 
 MvCalendarEventList MvCalendarEventMerge::threeWay(const MvCalendarEventList &base, const MvCalendarEventList &mine,
-                                                   const MvCalendarEventList &theirs)
+                                                   const MvCalendarEventList &theirs, bool theirsIsWhole)
 {
-    const auto baseEntries = byUuid(base);
-    const auto myEntries = byUuid(mine);
-    const auto theirEntries = byUuid(theirs);
+    return ThreeWay(base, mine, theirs, theirsIsWhole).result();
+}
 
+MvCalendarEventList MvCalendarEventMerge::withoutRepetitions(const MvCalendarEventList &events)
+{
+    QSet<Content> known;
+    known.reserve(events.size());
     MvCalendarEventList result;
-    for (const MvCalendarEvent &event : mine) {
-        if (event.uuid().isNull())
-            result.append(event);
-        else if (const auto *entry = merged(baseEntries.value(event.uuid()), event, theirEntries.value(event.uuid())))
-            result.append(*entry);
-    }
-    const QSet<MvCalendarEvent> known(result.cbegin(), result.cend());
-    const QSet<MvCalendarEvent> before(base.cbegin(), base.cend());
-    for (const MvCalendarEvent &event : theirs) {
-        if (myEntries.contains(event.uuid()) || known.contains(event))
-            continue;
-        if (!before.contains(event)) // new there, or removed here but changed there
+    for (const MvCalendarEvent &event : events) {
+        const qsizetype before = known.size();
+        known.insert(Content(event, Content::everything));
+        if (known.size() > before)
             result.append(event);
     }
     return result;

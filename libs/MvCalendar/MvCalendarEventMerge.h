@@ -3,7 +3,7 @@
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
-/// Putting lists of entries together. Who an entry is, its uuid alone says.
+/// Putting lists of entries together.
 class MVCALENDAR_EXPORT MvCalendarEventMerge
 {
 public:
@@ -11,8 +11,17 @@ public:
     static MvCalendarEventList joined(const MvCalendarEventList &base, const MvCalendarEventList &other, bool keepBase);
 
     /// What two programs made of the same list: `base` is what both started from. Additions, changes and removals of
-    /// either side count; an entry both have changed takes the later change, and a change outweighs a removal. Order:
-    /// `mine`, then what `theirs` adds.
+    /// either side count. Of an entry both have changed, each field takes the change, or the later one of two; a
+    /// change outweighs a removal. Order: `mine`, then what `theirs` adds. n entries take time of order n.
+    ///
+    /// Who an entry is, its uuid alone does not say: a series shares one, and a list without uuids gets new ones with
+    /// each reading. Equal entries are paired first, then those whose uuid occurs once in each list, then the nearest
+    /// of one uuid; where that leaves a doubt, both are kept. Times count in seconds, as files hold them.
+    ///
+    /// When `theirs` could not be read as a whole, what is missing there is not taken as removed.
     static MvCalendarEventList threeWay(const MvCalendarEventList &base, const MvCalendarEventList &mine,
-                                        const MvCalendarEventList &theirs);
+                                        const MvCalendarEventList &theirs, bool theirsIsWhole = true);
+
+    /// Each of the entries that a file cannot tell apart once, as reading it gives them.
+    static MvCalendarEventList withoutRepetitions(const MvCalendarEventList &events);
 };

@@ -23,6 +23,12 @@ constexpr int firstRetry = 25;
 constexpr int slowestRetry = 500;
 constexpr int toldAsBusy = 3000;
 
+/// Readable, if only in part. A well-formed file of another kind says nothing about entries.
+bool isList(const MvCalendarEventFile::Content &content)
+{
+    return content.isRead() && !content.isForeign();
+}
+
 } // namespace
 
 MvCalendarEventStore::MvCalendarEventStore(QObject *parent)
@@ -95,22 +101,23 @@ MvCalendarEventFile::Content MvCalendarEventStore::read(bool becomesTheList)
     const QByteArray stamp = MvFileGuard::stamp(file()); // before reading: a later change is then noticed
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file());
     if (becomesTheList) {
-        m_present = content.events;
-        m_inFile = content.events;
+        m_inFile = isList(content) ? content.events : MvCalendarEventList();
+        m_present = m_inFile;
         m_stamp = stamp;
     }
-    m_couldNotBeRead = !content.refusal().isEmpty() && !content.isMissing;
+    m_couldNotBeRead = false;
     noteContent(content);
     return content;
 }
 
 void MvCalendarEventStore::noteContent(const MvCalendarEventFile::Content &content)
 {
-    const bool isUnreadable = !content.refusal().isEmpty() && !content.isMissing;
-    const bool isPart = !isUnreadable && !content.isMissing && !content.isComplete;
+    const bool isUnreadable = !isList(content) && !content.isMissing;
+    const bool isPart = isList(content) && !content.isComplete;
     m_mustBeSetAside = isUnreadable || isPart;
+    m_couldNotBeRead = m_couldNotBeRead || m_mustBeSetAside;
     if (m_mustBeSetAside)
-        m_lastRead = content.events;
+        m_lastRead = isPart ? content.events : MvCalendarEventList();
     if (isUnreadable)
         changeProblem(&m_readProblem,
                       problemOf(Problem::Unreadable,
@@ -132,10 +139,10 @@ MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEv
         return events;
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file());
     noteContent(content);
-    if (!content.refusal().isEmpty()) // also what is no list: nobody has removed all entries
+    if (!isList(content)) // nobody has removed all entries
         return events;
     MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
-    return MvCalendarEventMerge::threeWay(m_inFile, events, content.events);
+    return MvCalendarEventMerge::threeWay(m_inFile, events, content.events, content.isComplete);
 }
 
 // ---- writing
@@ -184,7 +191,7 @@ void MvCalendarEventStore::tryPending(const Adopt &adopt)
     if (!setAside() || !write(all))
         return;
     if (pending.adopts || all == pending.events) { // else the caller's list lacks some: the next change takes it in
-        m_inFile = all;
+        m_inFile = MvCalendarEventMerge::withoutRepetitions(all); // as others read it
         m_stamp = MvFileGuard::stamp(file());
     }
     m_pending.reset();
@@ -240,31 +247,41 @@ bool MvCalendarEventStore::write(const MvCalendarEventList &events)
     return true;
 }
 
-bool MvCalendarEventStore::restoreBackup(const QFileInfo &backup)
+bool MvCalendarEventStore::restoreBackup(const QFileInfo &backup, QString *error)
+{
+    QString reason;
+    const bool isRestored = restore(backup, &reason);
+    if (error)
+        *error = reason;
+    return isRestored;
+}
+
+bool MvCalendarEventStore::restore(const QFileInfo &backup, QString *error)
 {
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(backup);
-    if (!content.refusal().isEmpty()) {
-        fail(Problem::NotSaved, content.refusal());
+    if (!isList(content)) {
+        *error = content.refusal();
         return false;
     }
     MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
     const MvFileGuard guard(file(), 0);
     if (!guard.isLocked()) {
-        fail(guard.state() == MvFileGuard::State::HeldByOthers ? Problem::Busy : Problem::NotSaved,
-             notSaved(guard.reason()));
+        *error = notSaved(guard.reason());
         return false;
     }
     const MvCalendarEventList present = withChangesOfOthers(m_present);
     m_mustBeSetAside = m_mustBeSetAside || m_readProblem.setAside.filePath().isEmpty();
-    if (!setAside())
+    if (!setAside()) {
+        *error = m_writeProblem.text;
         return false;
+    }
     const MvCalendarEventList before = m_readProblem.isProblem() ? m_lastRead : m_inFile;
     const MvCalendarEventList all = MvCalendarEventMerge::threeWay(before, content.events, present);
     m_present = all;
     m_pending = {all, true};
     m_retry.stop();
     if (write(all)) {
-        m_inFile = all;
+        m_inFile = MvCalendarEventMerge::withoutRepetitions(all); // as others read it
         m_stamp = MvFileGuard::stamp(file());
         m_pending.reset();
         m_couldNotBeRead = false;

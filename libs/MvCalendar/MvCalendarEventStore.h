@@ -70,8 +70,8 @@ public:
     bool saveNow();
     /// Makes the entries of a backup the list, together with what was changed here since the problem arose; the present
     /// file is set aside, the list written and eventsReplaced() emitted. False, and nothing changed, when the backup
-    /// cannot be read or the present file neither locked nor set aside; problem() then says why.
-    bool restoreBackup(const QFileInfo &backup);
+    /// cannot be read or the present file neither locked nor set aside; `error` then says why, for a person.
+    bool restoreBackup(const QFileInfo &backup, QString *error = nullptr);
     /// The person wants to go on without what could not be read: that problem is over.
     void dismissReadProblem();
 
@@ -104,6 +104,7 @@ private:
         bool adopts = false; // the caller takes changes of others over
     };
 
+    bool restore(const QFileInfo &backup, QString *error);
     void tryPending(const Adopt &adopt);
     bool write(const MvCalendarEventList &events);
     bool setAside();
@@ -120,7 +121,7 @@ private:
     MvCalendarEventList m_lastRead; // what could be read when the problem of reading arose
     QByteArray m_stamp;             // the state of the file at that time
     bool m_mustBeSetAside = false;  // it holds what is not in the list: keep it before overwriting
-    bool m_couldNotBeRead = false;  // its entries, and so the photos in use, are unknown
+    bool m_couldNotBeRead = false;  // some of its entries, and so the photos in use, are unknown
     Problem m_readProblem;
     Problem m_writeProblem;
     QTimer m_retry;
