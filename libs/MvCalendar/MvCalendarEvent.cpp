@@ -19,9 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mediumQuality = 4;
-constexpr int mediumCaching = 13;
-
 /// A date and time in ISO form. A midnight that the local time zone skipped is the day's first moment: nobody loses a
 /// birthday because clocks were put forward that night.
 QDateTime readDateTime(const QString &text)
@@ -141,7 +138,7 @@ bool MvCalendarEvent::takeFoto(const MvFoto &foto, QString *error)
     }
     const QString name = QDir::toNativeSeparators(foto.localFilePath());
     QString reason;
-    const QImage image = MvFotoAccess::midRes(foto, mediumQuality, mediumCaching, &reason);
+    const QImage image = MvFotoAccess::midRes(foto, fotoQuality, fotoCaching, &reason);
     if (image.isNull()) {
         if (error)
             *error = tr("Das Foto „%1“ kann nicht gelesen werden. %2").arg(name, reason).trimmed();
@@ -212,7 +209,7 @@ bool MvCalendarEvent::isInAppSafeArea(const QFileInfo &file) const
 
 QImage MvCalendarEvent::loadFotoAsThumbnail(const MvFoto &foto) const
 {
-    const QImage image = MvFotoAccess::midRes(foto, mediumQuality, mediumCaching);
+    const QImage image = MvFotoAccess::midRes(foto, fotoQuality, fotoCaching);
     if (image.isNull())
         qWarning().nospace() << "Unable to open image : " << foto;
     return image;

@@ -31,6 +31,10 @@ class MVCALENDAR_EXPORT MvCalendarEvent
 public:
     /// The year of a date without one, such as a birthday from an address book that leaves the year out.
     static constexpr int unknownYear = MvVCardReader::unknownYear;
+    /// How photos are decoded for the photo folder (MvFotoAccess::midRes()): medium resolution, kept in memory. What
+    /// was decoded like this before is taken over without decoding again.
+    static constexpr int fotoQuality = 4;
+    static constexpr int fotoCaching = 13;
 
     /// An invalid entry: no name, no date; recurrent.
     MvCalendarEvent();

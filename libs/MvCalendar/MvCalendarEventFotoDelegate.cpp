@@ -84,8 +84,7 @@ bool MvCalendarEventFotoDelegate::editorEvent(QEvent *event, QAbstractItemModel 
     case Qt::Key_Enter:
     case Qt::Key_Space:
     case Qt::Key_F2:
-        MvCalendarEventFotoDelegateEditorWidget::requestFoto(
-            before, m_view, [before](const MvCalendarEvent &after) { change(before, after); });
+        MvCalendarEventFotoDelegateEditorWidget::requestFoto(before, m_view, change);
         return true;
     case Qt::Key_Delete: {
         MvCalendarEvent after = before;

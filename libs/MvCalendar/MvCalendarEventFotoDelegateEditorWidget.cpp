@@ -1,6 +1,6 @@
 #include "MvCalendar/MvCalendarEventFotoDelegateEditorWidget.h"
 
-#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventFotoIntake.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
@@ -78,7 +78,7 @@ void MvCalendarEventFotoDelegateEditorWidget::applyIcon()
 }
 
 void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent &event, QWidget *asker,
-                                                          const std::function<void(const MvCalendarEvent &)> &use)
+                                                          const MvCalendarEventFotoIntake::Use &use)
 {
     const QString filter = tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s);
     const auto take = [event, asker, use](const QString &fileName) {
@@ -89,11 +89,7 @@ void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent 
             MvDiskAccessRequest::instance().readFotoFailed(fileName, asker);
             return;
         }
-        MvCalendarDayEditorDialog::afterDecoding(foto, asker, [event, foto, use] {
-            MvCalendarEvent changed = event;
-            changed.setFoto(foto);
-            use(changed);
-        });
+        MvCalendarEventFotoIntake::take(event, foto, asker, use);
     };
     MvDiskAccessRequest::instance().requestOpenFile(MvDiskAccessRequest::FotoFile, tr("Foto auswählen"), filter, asker,
                                                     take);
@@ -102,7 +98,7 @@ void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent 
 void MvCalendarEventFotoDelegateEditorWidget::onChangeImageButtonClicked()
 {
     // the buttons may be gone, with the mouse, when the user has chosen
-    const auto use = [self = QPointer(this), before = m_event](const MvCalendarEvent &after) {
+    const auto use = [self = QPointer(this)](const MvCalendarEvent &before, const MvCalendarEvent &after) {
         if (!self) {
             MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, nullptr));
             return;

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventFotoIntake.h"
 #include "MvCalendar/mvcalendar_export.h"
 
 #include <QWidget>
-
-#include <functional>
 
 class QToolButton;
 
@@ -24,10 +22,9 @@ public:
     /// Makes the buttons fit the entry.
     void applyIcon();
 
-    /// Asks for the file of a photo and hands over the entry with that photo. Nothing happens when none is chosen;
-    /// a file that is no photo is reported.
-    static void requestFoto(const MvCalendarEvent &event, QWidget *asker,
-                            const std::function<void(const MvCalendarEvent &)> &use);
+    /// Asks for the file of a photo and hands over the entry without and with that photo, as
+    /// MvCalendarEventFotoIntake does. Nothing happens when none is chosen; a file that is no photo is reported.
+    static void requestFoto(const MvCalendarEvent &event, QWidget *asker, const MvCalendarEventFotoIntake::Use &use);
 
 public Q_SLOTS:
     void onChangeImageButtonClicked();

@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
+#include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoAccess.h"
@@ -37,13 +38,12 @@ bool isEarlier(const MvCalendarEvent &a, const MvCalendarEvent &b)
     return a.dateTime() == b.dateTime() ? a < b : a.dateTime() < b.dateTime();
 }
 
-/// A photo that could not be taken over leaves the entry as it is: the present photo is not lost to a wrong path.
+/// A photo that cannot be taken over leaves the entry as it is, and the user is told why.
 void changeFoto(MvCalendarEvent &event, const QString &path)
 {
-    MvCalendarEvent changed = event;
-    changed.setFoto(MvFoto(QFileInfo(path)));
-    if (path.isEmpty() || QFileInfo::exists(changed.foto().localFilePath()))
-        event = changed;
+    QString error;
+    if (!event.takeFoto(MvFoto(QFileInfo(path)), &error))
+        MvDiskAccessRequest::instance().takeFotosFailed({error});
 }
 
 /// What is no name, or the present one as a file wrote it, changes nothing.

@@ -54,8 +54,12 @@ MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPa
     const QImage image = person.image();
     if (!image.isNull() && image.save(temporaryPath, "PNG"))
         foto = MvFoto(QFileInfo(temporaryPath));
-    return MvCalendarEvent(person.name(), person.birthday().startOfDay(), true, foto, person.uuid(),
-                           QDateTime::currentDateTime());
+    MvCalendarEvent event(person.name(), person.birthday().startOfDay(), true, MvFoto(), person.uuid(),
+                          QDateTime::currentDateTime());
+    QString error;
+    if (!event.takeFoto(foto, &error)) // a birthday without its picture is better than none
+        qWarning().noquote() << error;
+    return event;
 }
 
 } // namespace

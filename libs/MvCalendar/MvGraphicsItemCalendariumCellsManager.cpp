@@ -1,6 +1,7 @@
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventFotoIntake.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumCellAccessible.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
@@ -283,12 +284,11 @@ void MvGraphicsItemCalendariumCellsManager::takeFotoForDate(const QDate &date, c
     config.setHolidayConfig(withEntries);
     const MvCalendarEventList events = MvCalendarEventRegistry::instance().events(config);
     if (events.size() == 1) {
-        MvCalendarDayEditorDialog::afterDecoding(foto, this, [this, before = events.first(), foto] {
-            MvCalendarEvent changed = before;
-            changed.setFoto(foto);
-            MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, changed, m_parent));
+        const auto use = [this](const MvCalendarEvent &before, const MvCalendarEvent &after) {
+            MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, m_parent));
             Q_EMIT eventChanged();
-        });
+        };
+        MvCalendarEventFotoIntake::take(events.first(), foto, this, use);
     } else {
         createAndStartCalendarDayEditorDialog(newEntryAt(date))->setFoto(foto);
     }

@@ -15,16 +15,19 @@ QImage MvFotoAccess::fullRes(const MvFoto &foto)
     return foto.mayBeOpened() ? MvImageLoader::instance().load(foto.localFileInfo()) : QImage();
 }
 
-QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching, QString *)
+QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching, QString *error)
 {
     const int side = 128 << std::clamp(quality, 0, 7);
-    const QSize full = preferredSize(foto);
-    if (full.isEmpty())
-        return {};
-    const QSize target = full.width() > side || full.height() > side ? QSize(side, side) : full;
     MvImageLoader &loader = MvImageLoader::instance();
-    return caching & UseMemory ? loader.loadScaled(foto.localFileInfo(), target)
-                               : loader.loadUncached(foto.localFileInfo(), target);
+    const QSize full = preferredSize(foto);
+    const QSize target = full.width() > side || full.height() > side ? QSize(side, side) : full;
+    QImage image;
+    if (!full.isEmpty())
+        image = caching & UseMemory ? loader.loadScaled(foto.localFileInfo(), target)
+                                    : loader.loadUncached(foto.localFileInfo(), target);
+    if (image.isNull() && error)
+        *error = foto.mayBeOpened() ? loader.error(foto.localFileInfo()) : QString();
+    return image;
 }
 
 QImage MvFotoAccess::scaled(const MvFoto &foto, const QSize &bounds)

@@ -1,6 +1,7 @@
 #include "MvFoto/MvFotoLoader.h"
 
 #include "MvFoto/MvFotoAccess.h"
+#include "MvImageLoader/MvImageLoader.h"
 
 #include <QFutureWatcher>
 #include <QPromise>
@@ -10,12 +11,9 @@
 
 namespace {
 
-constexpr qint64 smallPhoto = 4'500'000; // pixels; decoded in some 50 ms
-
-bool isSmall(const MvFoto &foto)
+bool isQuick(const MvFoto &foto)
 {
-    const QSize size = MvFotoAccess::preferredSize(foto);
-    return !size.isValid() || qint64(size.width()) * size.height() <= smallPhoto;
+    return !foto.mayBeOpened() || MvImageLoader::isQuick(foto.localFileInfo());
 }
 
 } // namespace
@@ -23,7 +21,7 @@ bool isSmall(const MvFoto &foto)
 void MvFotoLoader::midRes(const MvFoto &foto, int quality, int caching, QObject *receiver,
                           const std::function<void(const QImage &)> &use)
 {
-    if (isSmall(foto)) {
+    if (isQuick(foto)) {
         use(MvFotoAccess::midRes(foto, quality, caching));
         return;
     }

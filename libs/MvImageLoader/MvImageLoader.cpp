@@ -1,101 +1,14 @@
 #include "MvImageLoader/MvImageLoader.h"
 
-#include "MvImageLoader/MvImageFormat.h"
+#include "MvImageLoader/MvGuardedImageReader.h"
 
-#include <QColorSpace>
 #include <QDateTime>
-#include <QFile>
-#include <QImageReader>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 template class MvSingleton<MvImageLoader>;
 
 namespace {
 
-/// An image file opened for reading in its own format; closed with the object.
-class OpenImage
-{
-public:
-    explicit OpenImage(const QFileInfo &file)
-        : m_device(file.filePath())
-    {
-        if (!openRegular(file.filePath()))
-            return;
-        m_format = MvImageFormat::fromContent(m_device.peek(MvImageFormat::headSize));
-        if (m_format.isEmpty())
-            return;
-        m_reader.setDevice(&m_device);
-        m_reader.setAutoDetectImageFormat(false); // no other reader gets to see the file
-        m_reader.setFormat(m_format);
-        m_reader.setAutoTransform(true);
-        m_reader.setQuality(90); // scaled decoding: smooth instead of fast
-    }
-
-    QByteArray format() const { return m_format; }
-
-    /// Size as it will be seen, after turning.
-    QSize size() const
-    {
-        if (m_format.isEmpty())
-            return {};
-        const QSize size = m_reader.size();
-        return isTurned() ? size.transposed() : size;
-    }
-
-    QImage read(const QSize &bounds)
-    {
-        const QSize full = size();
-        if (full.isEmpty() || qint64(full.width()) * full.height() > MvImageLoader::decodeLimit / 4)
-            return {};
-        const QSize target = bounds.isEmpty() ? full : full.scaled(bounds, Qt::KeepAspectRatio);
-        if (target.isEmpty())
-            return {};
-        if (full.width() > 2 * target.width() && full.height() > 2 * target.height())
-            m_reader.setScaledSize(isTurned() ? 2 * target.transposed() : 2 * target);
-        QImage image = m_reader.read();
-        if (image.isNull())
-            return {};
-        if (image.size() != target)
-            image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        return readyToPaint(image);
-    }
-
-private:
-    bool openRegular(const QString &path)
-    {
-        if (path.startsWith(u':'))
-            return m_device.open(QIODevice::ReadOnly);
-        // without waiting: a pipe nobody writes to must not stop the program
-        const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-        if (descriptor < 0)
-            return false;
-        struct stat status = {};
-        if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-            ::close(descriptor);
-            return false;
-        }
-        return m_device.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    }
-
-    bool isTurned() const { return m_reader.transformation() & QImageIOHandler::TransformationRotate90; }
-
-    static QImage readyToPaint(const QImage &image)
-    {
-        QImage ready = image;
-        const QColorSpace srgb(QColorSpace::SRgb);
-        if (ready.colorSpace().isValid() && ready.colorSpace() != srgb)
-            ready.convertToColorSpace(srgb);
-        ready.convertTo(ready.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-        return ready;
-    }
-
-    QFile m_device;
-    QImageReader m_reader;
-    QByteArray m_format;
-};
+constexpr qsizetype mostErrors = 1000; // kept
 
 MvImageCache::Key keyFor(const QFileInfo &file, const QSize &target)
 {
@@ -106,16 +19,42 @@ MvImageCache::Key keyFor(const QFileInfo &file, const QSize &target)
 
 MvImageLoader::MvImageLoader()
     : m_cache(cacheLimit)
+{}
+
+QImage MvImageLoader::read(const QFileInfo &file, const QSize &bounds)
 {
-    QImageReader::setAllocationLimit(int(decodeLimit >> 20));
+    MvGuardedImageReader reader(file);
+    const QImage image = reader.read(bounds);
+    if (!reader.error().isEmpty()) {
+        const QMutexLocker lock(&m_mutex);
+        if (m_errors.size() >= mostErrors)
+            m_errors.clear();
+        m_errors.insert(keyFor(file, QSize()), reader.error());
+    }
+    return image;
+}
+
+QString MvImageLoader::error(const QFileInfo &file)
+{
+    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    {
+        const QMutexLocker lock(&m_mutex);
+        const QString known = m_errors.value(keyFor(present, QSize()));
+        if (!known.isEmpty())
+            return known;
+    }
+    MvGuardedImageReader reader(present);
+    if (reader.size().isEmpty())
+        reader.read({}); // tells why
+    return reader.error();
 }
 
 QImage MvImageLoader::load(const QFileInfo &file)
 {
-    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    const QFileInfo present(file.filePath());
     if (!present.isFile())
         return {};
-    return m_cache.image(keyFor(present, QSize()), [&] { return OpenImage(present).read(QSize()); });
+    return m_cache.image(keyFor(present, QSize()), [&] { return read(present, QSize()); });
 }
 
 QImage MvImageLoader::loadScaled(const QFileInfo &file, const QSize &bounds)
@@ -123,12 +62,12 @@ QImage MvImageLoader::loadScaled(const QFileInfo &file, const QSize &bounds)
     const QFileInfo present(file.filePath());
     if (bounds.isEmpty() || !present.isFile())
         return {};
-    return m_cache.image(keyFor(present, bounds), [&] { return OpenImage(present).read(bounds); });
+    return m_cache.image(keyFor(present, bounds), [&] { return read(present, bounds); });
 }
 
 QImage MvImageLoader::loadUncached(const QFileInfo &file, const QSize &bounds)
 {
-    return bounds.isEmpty() ? QImage() : OpenImage(file).read(bounds);
+    return bounds.isEmpty() ? QImage() : read(QFileInfo(file.filePath()), bounds);
 }
 
 QImage MvImageLoader::kept(const QFileInfo &file, const QSize &bounds)
@@ -139,10 +78,15 @@ QImage MvImageLoader::kept(const QFileInfo &file, const QSize &bounds)
 QSize MvImageLoader::size(const QFileInfo &file)
 {
     const QFileInfo present(file.filePath());
-    return present.isFile() ? OpenImage(present).size() : QSize();
+    return present.isFile() ? MvGuardedImageReader(present).size() : QSize();
+}
+
+bool MvImageLoader::isQuick(const QFileInfo &file)
+{
+    return MvGuardedImageReader(file).isQuick();
 }
 
 QByteArray MvImageLoader::format(const QFileInfo &file)
 {
-    return OpenImage(file).format();
+    return MvGuardedImageReader(file).format();
 }

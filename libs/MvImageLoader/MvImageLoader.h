@@ -7,22 +7,23 @@
 
 #include <QByteArray>
 #include <QFileInfo>
+#include <QHash>
 #include <QImage>
+#include <QMutex>
 #include <QSize>
+#include <QString>
 
 class MvImageLoader;
 extern template class MVIMAGELOADER_EXPORT MvSingleton<MvImageLoader>;
 
 /// Reads image files as they are to be printed: turned as the camera says, in sRGB, at the size that is needed.
 ///
-/// Only regular files in the formats of MvImageFormat are read, up to 1 GB decoded; everything else gives a null
-/// image. Decoded images are kept process-wide as long as there is room, and read again when the file has changed. Any
-/// thread.
+/// Everything goes through MvGuardedImageReader and its bounds; what that refuses gives a null image. Decoded images
+/// are kept process-wide as long as there is room, and read again when the file has changed. Any thread.
 class MVIMAGELOADER_EXPORT MvImageLoader : public MvSingleton<MvImageLoader>
 {
 public:
-    static constexpr qint64 decodeLimit = qint64(1) << 30; // bytes
-    static constexpr qint64 cacheLimit = 384 << 20;        // bytes
+    static constexpr qint64 cacheLimit = 384 << 20; // bytes
 
     /// The image in full size.
     QImage load(const QFileInfo &file);
@@ -33,6 +34,11 @@ public:
     QImage loadUncached(const QFileInfo &file, const QSize &bounds);
     /// What loadScaled() gave, if it is still kept; null otherwise. Never decodes.
     QImage kept(const QFileInfo &file, const QSize &bounds);
+
+    /// Why a file gave a null image, in one sentence for a person; empty when nothing is known against it.
+    QString error(const QFileInfo &file);
+    /// Whether decoding takes no longer than a window may stand still.
+    static bool isQuick(const QFileInfo &file);
 
     /// Size of the turned image in pixels, from the file's head alone; invalid when the file cannot be read.
     QSize size(const QFileInfo &file);
@@ -46,6 +52,9 @@ public:
 private:
     friend class MvSingleton<MvImageLoader>;
     MvImageLoader();
+    QImage read(const QFileInfo &file, const QSize &bounds);
 
     MvImageCache m_cache;
+    QMutex m_mutex; // for the errors
+    QHash<MvImageCache::Key, QString> m_errors;
 };

@@ -77,9 +77,9 @@
     <name>MvDiskAccessRequest</name>
     <message numerus="yes">
         <source>… und %n weitere Fotos.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… und %n weiteres Foto.</numerusform>
+            <numerusform>… und %n weitere Fotos.</numerusform>
         </translation>
     </message>
 </context>

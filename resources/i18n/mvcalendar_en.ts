@@ -226,15 +226,15 @@
     <name>MvCalendarEvent</name>
     <message>
         <source>Das Foto „%1“ kann nicht gelesen werden. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The photo “%1” cannot be read. %2</translation>
     </message>
     <message>
         <source>Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>The photo “%1” could not be copied into the photo folder. %2</translation>
     </message>
     <message>
         <source>Das Bild ließ sich nicht umwandeln.</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture could not be converted.</translation>
     </message>
 </context>
 <context>
@@ -1039,9 +1039,9 @@
     </message>
     <message numerus="yes">
         <source>… und %n weitere Fotos.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>… and %n more photo.</numerusform>
+            <numerusform>… and %n more photos.</numerusform>
         </translation>
     </message>
 </context>
@@ -1366,6 +1366,49 @@
     <message>
         <source>Neuen Eintrag am %1 erstellen…</source>
         <translation>Create new entry on %1…</translation>
+    </message>
+</context>
+<context>
+    <name>MvGuardedImageReader</name>
+    <message>
+        <source>Die Datei lässt sich nicht öffnen.</source>
+        <translation>The file cannot be opened.</translation>
+    </message>
+    <message>
+        <source>Gelesen werden JPEG, PNG, TIFF, WebP, BMP und GIF.</source>
+        <translation>JPEG, PNG, TIFF, WebP, BMP and GIF can be read.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß.</source>
+        <translation>The file is too large.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist beschädigt.</source>
+        <translation>The file is damaged.</translation>
+    </message>
+    <message>
+        <source>%1 × %2 Bildpunkte</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>Die Datei ist beschädigt oder nicht vollständig.</source>
+        <translation>The file is damaged or not complete.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist viel zu klein für die %1, die sie haben will.</source>
+        <translation>The file is far too small for the %1 that it claims to have.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist in mehr als %1 Durchgängen gespeichert. So etwas tut kein übliches Programm.</source>
+        <translation>The picture is stored in more than %1 passes. No usual program does such a thing.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist zu groß: %1. Verkleinern Sie es in einem Bildprogramm.</source>
+        <translation>The picture is too large: %1. Make it smaller in an image editor.</translation>
+    </message>
+    <message>
+        <source>Das Bild zu lesen dauert zu lange.</source>
+        <translation>Reading the picture takes too long.</translation>
     </message>
 </context>
 <context>

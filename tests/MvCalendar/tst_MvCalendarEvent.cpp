@@ -9,6 +9,9 @@
 #include <QDomDocument>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
+
 class tst_MvCalendarEvent : public MvTest
 {
     Q_OBJECT
@@ -29,6 +32,8 @@ private Q_SLOTS:
     void invalidEntryIsEmptyElement();
     void setFotoCopies();
     void unreadableFotoWarns();
+    void keepsTheFormerFoto_data();
+    void keepsTheFormerFoto();
     void fotoPaths_data();
     void fotoPaths();
     void movedUserFolder();
@@ -297,6 +302,49 @@ void tst_MvCalendarEvent::unreadableFotoWarns()
     event.setFoto(MvFoto(QFileInfo(outside(u"missing.jpg"_qs))));
     QVERIFY(event.foto().isValid());
     QVERIFY(!event.imagePath().exists());
+}
+
+void tst_MvCalendarEvent::keepsTheFormerFoto_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<bool>("isFull");
+    QTest::addColumn<QString>("reason"); // in the message
+    QTest::newRow("missing") << u"missing.jpg"_qs << false << u"lässt sich nicht öffnen"_qs;
+    QTest::newRow("no photo") << u"text.jpg"_qs << false << u"Gelesen werden"_qs;
+    QTest::newRow("no photo in the photo folder") << u"FOTOS/text.jpg"_qs << false << u"Gelesen werden"_qs;
+    QTest::newRow("no room for the copy") << u"new.png"_qs << true << u"größer als erlaubt"_qs;
+}
+
+void tst_MvCalendarEvent::keepsTheFormerFoto()
+{
+    QFETCH(QString, file);
+    QFETCH(bool, isFull);
+    QFETCH(QString, reason);
+    putImage(outside(u"good.png"_qs));
+    putImage(outside(u"new.png"_qs), {400, 300});
+    file = file.startsWith(u'F') ? MvCalendarEvent::imageDirectory().filePath(file.mid(6)) : outside(file);
+    if (file.endsWith(u"text.jpg"_qs)) {
+        QFile text(file);
+        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("kein Foto") > 0);
+    }
+    MvCalendarEvent event = entry(u"Oma"_qs, QDate(2000, 1, 1));
+    QVERIFY(event.takeFoto(MvFoto(QFileInfo(outside(u"good.png"_qs)))));
+    const MvCalendarEvent before = event;
+    const qsizetype files = MvCalendarEvent::imageDirectory().entryList(QDir::Files).size();
+
+    rlimit usual = {};
+    ::getrlimit(RLIMIT_FSIZE, &usual);
+    rlimit full = usual;
+    full.rlim_cur = 100; // bytes
+    std::signal(SIGXFSZ, SIG_IGN);
+    ::setrlimit(RLIMIT_FSIZE, isFull ? &full : &usual);
+    QString error;
+    const bool isTaken = event.takeFoto(MvFoto(QFileInfo(file)), &error);
+    ::setrlimit(RLIMIT_FSIZE, &usual);
+    QVERIFY(!isTaken);
+    QVERIFY2(error.contains(reason) && error.contains(QFileInfo(file).fileName()), qPrintable(error));
+    QVERIFY(event == before && event.imagePath().isFile());
+    QCOMPARE(MvCalendarEvent::imageDirectory().entryList(QDir::Files).size(), files);
 }
 
 void tst_MvCalendarEvent::fotoPaths_data()

@@ -134,6 +134,10 @@ void tst_MvCalendarEventListWidget::initTestCase()
     image.fill(Qt::blue);
     QPainter(&image).fillRect(150, 0, 100, 100, Qt::red);
     QVERIFY(image.save(path(u"foto.png"_qs)));
+    QFile huge(path(u"huge.webp"_qs)); // or so it says
+    QVERIFY(huge.open(QIODevice::WriteOnly) &&
+            huge.write(QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100")) >
+                0);
     MvLogger::instance().setSink([this](const QString &line) { m_log.append(line); });
 }
 
@@ -475,7 +479,11 @@ void tst_MvCalendarEventListWidget::fotoButtons()
     m_script->file = path(u"einträge.xml"_qs);
     button(u"changeImageButton"_qs)->click();
     QCOMPARE(m_script->reports.size(), 1);
-    QVERIFY(foto().isValid());
+    const MvFoto good = foto();
+    m_script->file = path(u"huge.webp"_qs);
+    button(u"changeImageButton"_qs)->click();
+    QVERIFY2(m_script->reports.last().contains(u"viel zu klein"_qs), qPrintable(m_script->reports.last()));
+    QVERIFY(good.isValid() && foto() == good);
     button(u"removeImageButton"_qs)->click();
     QVERIFY(!foto().isValid());
     QCOMPARE(MvUndoController::instance().stack()->count(), 2);
@@ -500,6 +508,10 @@ void tst_MvCalendarEventListWidget::keysAlone()
     press(Qt::Key_Return);
     QVERIFY(registry().activeEventList().at(1).foto().isValid());
     QTRY_COMPARE(cursor(), QPoint(0, 1)); // although the table was filled anew
+    m_script->file = path(u"huge.webp"_qs);
+    press(Qt::Key_F2);
+    QVERIFY(registry().activeEventList().at(1).imagePath().isFile());
+    QCOMPARE(m_script->reports.size(), 1);
     press(Qt::Key_Delete);
     QVERIFY(!registry().activeEventList().at(1).foto().isValid());
     QCOMPARE(names().size(), 3);

@@ -1,8 +1,10 @@
 #include "MvTest.h"
 
+#include "MvImageLoader/MvGuardedImageReader.h"
 #include "MvImageLoader/MvImageFormat.h"
 #include "MvImageLoader/MvImageLoader.h"
 
+#include <QBuffer>
 #include <QColorSpace>
 #include <QImageWriter>
 #include <QPainter>
@@ -21,6 +23,8 @@ private Q_SLOTS:
     void formats();
     void refuses_data();
     void refuses();
+    void givesUp();
+    void leavesOutTexts();
     void turnsAsTheCameraSays_data();
     void turnsAsTheCameraSays();
     void convertsToScreenColours();
@@ -64,6 +68,30 @@ static QString fieldNames(const QImage &image)
     return names;
 }
 
+static QByteArray written(const QImage &image, const char *format, bool isProgressive = false)
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(isProgressive);
+    return writer.write(image) ? buffer.data() : QByteArray();
+}
+
+/// A JPEG that says it is 20,000 pixels square, with a number of bytes after its end.
+static QByteArray claiming20000(int surplus)
+{
+    QByteArray jpeg = written(fields({64, 64}), "jpeg");
+    jpeg.replace(jpeg.indexOf("\xff\xc0") + 5, 4, QByteArray::fromHex("4e204e20"));
+    return jpeg + QByteArray(surplus, 0);
+}
+
+/// A progressive JPEG with its last pass again and again.
+static QByteArray manyScans(int count)
+{
+    const QByteArray jpeg = written(fields({64, 64}), "jpeg", true);
+    const qsizetype lastScan = jpeg.lastIndexOf("\xff\xda");
+    return jpeg.chopped(2) + jpeg.mid(lastScan).chopped(2).repeated(count) + jpeg.last(2);
+}
+
 void tst_MvImageLoader::init()
 {
     QTest::failOnWarning(QRegularExpression(u".?"_qs));
@@ -101,33 +129,83 @@ void tst_MvImageLoader::formats()
 void tst_MvImageLoader::refuses_data()
 {
     QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason"); // in it
+    const QString notRead = u"Gelesen werden JPEG"_qs;
     const QByteArray svg =
         "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9' height='9'/></svg>";
-    QTest::newRow("drawing under a photo's name") << svg;
-    QTest::newRow("drawing with an XML declaration") << "<?xml version='1.0'?>" + svg;
-    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("drawing under a photo's name") << svg << notRead;
+    QTest::newRow("drawing with an XML declaration") << "<?xml version='1.0'?>" + svg << notRead;
+    QTest::newRow("empty") << QByteArray() << notRead;
     QTest::newRow("pixel list as source code")
-        << QByteArray("/* XPM */\nstatic char *x[]={\"1 1 1 1\",\"a c red\",\"a\"};");
-    QTest::newRow("document") << QByteArray("%PDF-1.7\n");
+        << QByteArray("/* XPM */\nstatic char *x[]={\"1 1 1 1\",\"a c red\",\"a\"};") << notRead;
+    QTest::newRow("document") << QByteArray("%PDF-1.7\n") << notRead;
     // 60,000 pixels square would take 14 GB
     QTest::newRow("larger than memory allows") << QByteArray::fromHex("424d36000000000000003600000028000000"
                                                                       "60ea0000"
                                                                       "60ea0000"
                                                                       "0100180000000000"
-                                                                      "0000000000000000000000000000000000000000");
+                                                                      "0000000000000000000000000000000000000000")
+                                               << u"beschädigt"_qs;
+    QTest::newRow("34 bytes for 16,383 pixels square") << QByteArray::fromHex("524946461a00000057454250"
+                                                                              "5650384c0d000000"
+                                                                              "2ffebfff0f1111111111111111"
+                                                                              "00")
+                                                       << u"viel zu klein für die 16383 × 16383"_qs;
+    QTest::newRow("small file for 20,000 pixels square") << claiming20000(0) << u"zu klein für die 20000 × 20000"_qs;
+    QTest::newRow("the same, stuffed") << claiming20000(1 << 20) << u"zu groß: 20000 × 20000"_qs;
+    QTest::newRow("photo in 2,000 passes") << manyScans(2000) << u"64 Durchgängen"_qs;
+    QTest::newRow("photo cut off after 300 bytes")
+        << written(fields({400, 300}), "jpeg").first(300) << u"nicht vollständig"_qs;
 }
 
 void tst_MvImageLoader::refuses()
 {
     QFETCH(QByteArray, content);
+    QFETCH(QString, reason);
     put(u"foto.png"_qs, content);
     const QFileInfo file(path(u"foto.png"_qs));
+    for (int i = 0; i < 6 && reason.contains(u"nicht vollständig"_qs); ++i) // read three times below
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"JPEG"_qs));
     QVERIFY(MvImageLoader::instance().load(file).isNull());
-    QVERIFY(MvImageLoader::instance().loadScaled(file, {10, 10}).isNull());
+    QVERIFY2(MvImageLoader::instance().error(file).contains(reason), qPrintable(MvImageLoader::instance().error(file)));
+    MvGuardedImageReader inMemory(content);
+    QVERIFY(inMemory.read({9000, 9000}).isNull());
+    QCOMPARE(inMemory.error(), MvImageLoader::instance().error(file));
+    QVERIFY(MvImageLoader::instance().loadScaled(file, {9000, 9000}).isNull());
 
     QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_qs)).constData(), 0600), 0);
     for (const QString &other : {path(u"pipe"_qs), path(u"missing.png"_qs), m_dir->path(), u"/dev/zero"_qs})
         QVERIFY2(MvImageLoader::instance().load(QFileInfo(other)).isNull(), qPrintable(other));
+}
+
+void tst_MvImageLoader::givesUp()
+{
+    const QByteArray jpeg = written(fields({2000, 1500}), "jpeg", true); // an ordinary progressive one
+    MvGuardedImageReader inTime(jpeg);
+    QVERIFY(inTime.isQuick());
+    QCOMPARE(fieldNames(inTime.read({})), u"rgbw"_qs);
+    QCOMPARE(inTime.error(), QString());
+    QVERIFY(!MvGuardedImageReader(manyScans(40)).isQuick());
+
+    MvGuardedImageReader late(jpeg);
+    QCOMPARE(late.size(), QSize(2000, 1500));
+    late.setTimeLimit(0);
+    QTest::ignoreMessage(QtWarningMsg, "Corrupt JPEG data: premature end of data segment");
+    QVERIFY(late.read({}).isNull());
+    QVERIFY2(late.error().contains(u"zu lange"_qs), qPrintable(late.error()));
+}
+
+/// Which a decoder would unpack: 2 MB from 2 KB here.
+void tst_MvImageLoader::leavesOutTexts()
+{
+    QImage image = fields({80, 60});
+    image.setText(u"Description"_qs, u"A"_qs.repeated(2 << 20));
+    const QByteArray png = written(image, "png");
+    QVERIFY(png.contains("zTXt"));
+    MvGuardedImageReader reader(png);
+    const QImage read = reader.read({});
+    QCOMPARE(fieldNames(read), u"rgbw"_qs);
+    QCOMPARE(read.textKeys(), QStringList());
 }
 
 void tst_MvImageLoader::turnsAsTheCameraSays_data()
@@ -191,6 +269,10 @@ void tst_MvImageLoader::scales()
 {
     QFETCH(QSize, bounds);
     QFETCH(QSize, size);
+    const QFileInfo narrow(path(u"narrow.png"_qs)); // never less than a pixel
+    QVERIFY(fields({30000, 2}).save(narrow.filePath()));
+    if (size.isValid())
+        QCOMPARE(MvImageLoader::instance().loadScaled(narrow, bounds).size(), QSize(bounds.width(), 1));
     const QFileInfo file(path(u"foto.jpg"_qs));
     QImage image(1600, 1200, QImage::Format_RGB32);
     for (int y = 0; y < image.height(); ++y) {

@@ -1,0 +1,43 @@
+#include "MvCalendar/MvCalendarEventFotoIntake.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+
+#include "MvCore/MvDiskAccessRequest.h"
+#include "MvFoto/MvFotoLoader.h"
+
+namespace {
+
+/// The entry in the active list; when it was changed meanwhile, the one that has become of it. Invalid when it is gone.
+MvCalendarEvent presentForm(const MvCalendarEvent &event)
+{
+    const MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
+    if (events.contains(event))
+        return event;
+    MvCalendarEvent found;
+    for (const MvCalendarEvent &other : events) {
+        if (event.uuid().isNull() || other.uuid() != event.uuid())
+            continue;
+        if (found.isValid()) // one of a series: in doubt none
+            return {};
+        found = other;
+    }
+    return found;
+}
+
+} // namespace
+
+void MvCalendarEventFotoIntake::take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use)
+{
+    MvFotoLoader::midRes(foto, MvCalendarEvent::fotoQuality, MvCalendarEvent::fotoCaching, asker,
+                         [event, foto, asker, use](const QImage &) {
+                             const MvCalendarEvent before = presentForm(event);
+                             MvCalendarEvent after = before;
+                             QString error;
+                             if (!before.isValid())
+                                 return;
+                             if (after.takeFoto(foto, &error))
+                                 use(before, after);
+                             else
+                                 MvDiskAccessRequest::instance().takeFotosFailed({error}, asker);
+                         });
+}
