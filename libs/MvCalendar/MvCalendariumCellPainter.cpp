@@ -195,6 +195,8 @@ QRectF MvCalendariumCellPainter::drawHolidayLines(const QRectF &inner, const QSt
                                                   const MvCalendarCellType &type)
 {
     const double lineHeight = m_painter.font().pixelSize();
+    if (lines.isEmpty())
+        return inner;
     if (lines.size() < 2) {
         MvCalendariumTextPainter::drawText(m_painter, inner, bottomTexts, lines.constFirst());
         return inner.adjusted(0.0, 0.0, 0.0, -(lineHeight + textGap));

@@ -7,6 +7,7 @@
 #include "MvCalendar/MvHtmlTableSkeleton.h"
 #include "MvCore/MvMath.h"
 #include "MvModelBase/MvPaintRecorder.h"
+#include "MvModelBase/MvPrintableText.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
 #include "MvProductBase/MvCalendarWeekTextOption.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
@@ -460,14 +461,12 @@ QStringList MvCalendariumRenderer::describeOfficialHolidays(const QDate &date) c
 {
     if (!m_appearance.showHolidays())
         return {};
-    QStringList texts = descriptions(date);
-    texts.removeAll(QString());
-    return texts;
+    return MvPrintableText::onOneLineEach(descriptions(date));
 }
 
 QStringList MvCalendariumRenderer::describePersonalHolidays(const QDate &date) const
 {
-    return MvCalendarEventRegistry::instance().descriptions(contentFor(date));
+    return MvPrintableText::onOneLineEach(MvCalendarEventRegistry::instance().descriptions(contentFor(date)));
 }
 
 QStringList MvCalendariumRenderer::describeHolidays(const QDate &date) const
@@ -583,5 +582,6 @@ QImage MvCalendariumRenderer::holidayPicture(const QDate &date) const
 
 void MvCalendariumRenderer::reportUnfitting(const QDate &date, const QString &text, const QRectF &rect)
 {
-    m_unfittingTexts.append({date, text, rect});
+    if (MvPrintableText::isVisible(text))
+        m_unfittingTexts.append({date, text, rect});
 }

@@ -183,7 +183,8 @@ public:
     QString calendarWeekHeadlineText() const;
     QString calendarWeekText(const QDate &date) const;
 
-    // texts of a day: official holidays, then personal entries, as far as the page shows them
+    // texts of a day: official holidays, then personal entries, as far as the page shows them. All but descriptions()
+    // are on one line each, without those of which nothing would be seen.
     QStringList descriptions(const QDate &date) const;
     QStringList describeOfficialHolidays(const QDate &date) const;
     QStringList describePersonalHolidays(const QDate &date) const;
@@ -236,7 +237,7 @@ protected:
     bool isConfiguredOrWeeksAskedFor(const MvCalendarRenderingInformation &info) const;
     /// Collects a background; rectangles of one colour are filled as one shape.
     void addFill(const QRectF &rect, const QColor &color);
-    /// Notes a text of the day whose cell has no room for it.
+    /// Notes a text of the day whose cell has no room for it, unless nothing of it would be seen.
     void reportUnfitting(const QDate &date, const QString &text, const QRectF &rect);
 
 private:

@@ -1,6 +1,7 @@
 #include "MvCalendar/MvCalendariumRendererHolidays.h"
 
 #include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvModelBase/MvPrintableText.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
 
 #include <QPainter>
@@ -51,7 +52,8 @@ QStringList MvCalendariumRendererHolidays::texts(const QDate &date) const
         MvCalendariumHolidayConfig config = content.holidayConfig();
         config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
         content.setHolidayConfig(config);
-        found = MvCalendariumHolidayCache::instance().descriptions(MvCalendariumContentKey(content, modelInfo()));
+        found = MvPrintableText::onOneLineEach(
+            MvCalendariumHolidayCache::instance().descriptions(MvCalendariumContentKey(content, modelInfo())));
     }
     if (calendariumContent().hasFeatures(FEATURE_ENTRIES))
         found += describePersonalHolidays(date);
@@ -142,11 +144,16 @@ void MvCalendariumRendererHolidays::fill(QTextDocument &document, const QRectF &
     if (document.pageCount() <= 1)
         return;
     const QStringList all = items();
-    qsizetype kept = all.size();
-    do {
-        --kept;
+    const auto fits = [&](qsizetype kept) {
         document.setHtml(html(paragraph(kept > 0 ? all.first(kept).join(itemSeparator) + u" …"_s : QString())));
-    } while (kept > 0 && document.pageCount() > 1);
+        return document.pageCount() <= 1;
+    };
+    qsizetype kept = 0;
+    for (qsizetype tooMany = all.size(); tooMany - kept > 1;) {
+        const qsizetype middle = (kept + tooMany) / 2;
+        (fits(middle) ? kept : tooMany) = middle;
+    }
+    fits(kept);
     reportUnfitting(startDate(), all.sliced(kept).join(itemSeparator), rect);
 }
 

@@ -1,14 +1,16 @@
 #include "MvCalendar/MvCalendariumTextPainter.h"
 
 #include "MvModelBase/MvOutlinePainter.h"
+#include "MvModelBase/MvPrintableText.h"
 #include "MvModelBase/MvTextOutlineCache.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QRegularExpression>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -16,9 +18,86 @@ namespace {
 
 constexpr QChar ellipsis(u'…');
 
+constexpr qsizetype firstLook = 128;   // code units of a text that are measured before the rest is looked at
+constexpr qsizetype mostInLine = 2000; // more than a line of the largest sheet has room for
+
 MvTextOutline outlineOf(const QFont &font, const QString &text)
 {
-    return MvTextOutlineCache::instance().outline(font, text);
+    return MvTextOutlineCache::instance().outline(font,
+                                                  MvPrintableText::shapeable(MvPrintableText::start(text, mostInLine)));
+}
+
+double advanceOf(const QFont &font, const QString &text)
+{
+    return MvTextOutlineCache::instance().advance(font, MvPrintableText::shapeable(text));
+}
+
+/// The words of a text, taken one by one from its start. Only blanks part them, which line breaks and controls are
+/// here.
+class Words
+{
+public:
+    explicit Words(const QString &text)
+        : m_text(MvPrintableText::shapeable(text))
+    {
+        skipBlanks();
+    }
+
+    bool isAtEnd() const { return m_position >= m_text.size(); }
+
+    QString next()
+    {
+        const qsizetype end = m_text.indexOf(u' ', m_position);
+        const QString word = m_text.mid(m_position, end < 0 ? -1 : end - m_position);
+        m_position = end < 0 ? m_text.size() : end;
+        skipBlanks();
+        return word;
+    }
+
+private:
+    void skipBlanks()
+    {
+        while (!isAtEnd() && m_text.at(m_position) == u' ')
+            ++m_position;
+    }
+
+    QString m_text;
+    qsizetype m_position = 0;
+};
+
+/// At most `mostLines` lines; what comes after them is not looked at.
+QStringList brokenLines(int maxWidth, const QFont &font, const QStringList &texts, qsizetype mostLines)
+{
+    QStringList lines;
+    for (const QString &text : texts) {
+        QString line;
+        Words words(text);
+        while (!words.isAtEnd() && lines.size() < mostLines) {
+            const QString word = words.next();
+            const QString candidate = line.isEmpty() ? word : line + u' ' + word;
+            if (!MvCalendariumTextPainter::isTextToWide(maxWidth, font, candidate)) {
+                line = candidate;
+            } else if (!line.isEmpty()) {
+                lines.append(line);
+                line = word;
+            } else {
+                lines.append(word);
+            }
+        }
+        if (!line.isEmpty() && lines.size() < mostLines)
+            lines.append(line);
+    }
+    return lines;
+}
+
+/// The ends of the graphemes of a text, from its start.
+QList<qsizetype> graphemeEnds(const QString &text)
+{
+    QList<qsizetype> ends;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    while (finder.toNextBoundary() > 0)
+        ends.append(finder.position());
+    return ends;
 }
 
 // the alignment rules of QFontMetricsF::boundingRect() for a block of the given size, without its wrapping
@@ -41,11 +120,16 @@ QRectF aligned(const QRectF &rect, int flags, double width, double height)
 
 int MvCalendariumTextPainter::advance(const QFont &font, const QString &text)
 {
-    return static_cast<int>(std::lround(MvTextOutlineCache::instance().advance(font, text)));
+    return static_cast<int>(std::lround(advanceOf(font, text)));
 }
 
 bool MvCalendariumTextPainter::isTextToWide(int maxWidth, const QFont &font, const QString &text)
 {
+    // a start that is too wide decides, however long the rest is
+    for (qsizetype length = firstLook; length < text.size(); length *= 4) {
+        if (advance(font, MvPrintableText::start(text, length)) > maxWidth)
+            return true;
+    }
     return advance(font, text) > maxWidth;
 }
 
@@ -57,32 +141,13 @@ bool MvCalendariumTextPainter::isAnyTextToWide(int maxWidth, const QFont &font, 
 
 QStringList MvCalendariumTextPainter::breakLines(int maxWidth, const QFont &font, const QStringList &texts)
 {
-    static const QRegularExpression whiteSpace(u"\\s+"_s);
-    QStringList lines;
-    for (const QString &text : texts) {
-        QString line;
-        const QStringList words = text.split(whiteSpace, Qt::SkipEmptyParts);
-        for (const QString &word : words) {
-            const QString candidate = line.isEmpty() ? word : line + u' ' + word;
-            if (!isTextToWide(maxWidth, font, candidate)) {
-                line = candidate;
-            } else if (!line.isEmpty()) {
-                lines.append(line);
-                line = word;
-            } else {
-                lines.append(word);
-            }
-        }
-        if (!line.isEmpty())
-            lines.append(line);
-    }
-    return lines;
+    return brokenLines(maxWidth, font, texts, std::numeric_limits<qsizetype>::max());
 }
 
 QStringList MvCalendariumTextPainter::fitLines(int maxWidth, int maxLines, const QFont &font, const QStringList &texts,
                                                bool *isCut)
 {
-    QStringList lines = breakLines(maxWidth, font, texts);
+    QStringList lines = brokenLines(maxWidth, font, texts, std::max(0, maxLines) + 1);
     *isCut = lines.size() > maxLines;
     if (!*isCut)
         return lines;
@@ -96,18 +161,28 @@ QString MvCalendariumTextPainter::elided(int maxWidth, const QFont &font, const 
 {
     if (!isTextToWide(maxWidth, font, text))
         return text;
+    const auto shortened = [](const QString &kept) {
+        qsizetype end = kept.size();
+        while (end > 0 && kept.at(end - 1) == u' ')
+            --end;
+        return kept.first(end) + ellipsis;
+    };
     QString kept = text.endsWith(ellipsis) ? text.chopped(1) : text;
-    while (!kept.isEmpty() && isTextToWide(maxWidth, font, kept + ellipsis)) {
-        kept.chop(1);
-        while (kept.endsWith(u' '))
-            kept.chop(1);
+    for (qsizetype length = firstLook; length < kept.size(); length *= 2) {
+        const QString start = MvPrintableText::start(kept, length);
+        if (isTextToWide(maxWidth, font, shortened(start)))
+            kept = start;
     }
-    return kept + ellipsis;
+    const QList<qsizetype> ends = graphemeEnds(kept);
+    const auto tooLong = std::partition_point(ends.cbegin(), ends.cend(), [&](qsizetype end) {
+        return !isTextToWide(maxWidth, font, shortened(kept.first(end)));
+    });
+    return shortened(kept.first(tooLong == ends.cbegin() ? 0 : *std::prev(tooLong)));
 }
 
 QRectF MvCalendariumTextPainter::boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text)
 {
-    return aligned(rect, flags, MvTextOutlineCache::instance().advance(font, text), QFontMetricsF(font).height());
+    return aligned(rect, flags, advanceOf(font, text), QFontMetricsF(font).height());
 }
 
 void MvCalendariumTextPainter::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)

@@ -35,6 +35,8 @@ double MvTextOutlineCache::advance(const QFont &font, const QString &text)
             return *known;
     }
     const double fresh = QFontMetricsF(font).horizontalAdvance(text);
+    if (text.size() > longestKept)
+        return fresh;
     const QMutexLocker lock(&m_mutex);
     m_advances.insert(key, new double(fresh));
     return fresh;
@@ -50,6 +52,8 @@ MvTextOutline MvTextOutlineCache::outline(const QFont &font, const QString &text
     }
     // shaping takes long: others may ask meanwhile, and the last to finish an equal outline puts it in
     const MvTextOutline fresh(font, text);
+    if (text.size() > longestKept)
+        return fresh;
     const QMutexLocker lock(&m_mutex);
     m_outlines.insert(key, new MvTextOutline(fresh), entryCost + fresh.elementCount());
     return fresh;

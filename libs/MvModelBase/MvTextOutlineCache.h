@@ -19,6 +19,10 @@ class MVMODELBASE_EXPORT MvTextOutlineCache : public MvSingleton<MvTextOutlineCa
 public:
     static constexpr int defaultMaximumElements = 250'000;
 
+    /// Longer texts (in code units) are shaped whenever they are asked for: one of them would push out a page's worth
+    /// of others.
+    static constexpr int longestKept = 400;
+
     explicit MvTextOutlineCache(int maximumElements = defaultMaximumElements);
 
     /// The outline of the text, shaped now if it is not at hand. Two fonts in points of different resolution are

@@ -10,6 +10,8 @@ namespace {
 
 using Kind = MvSVGCompilerInstructions::Kind;
 
+constexpr qsizetype longestName = 8; // of a placeholder
+
 const QHash<QString, Kind> &placeholders()
 {
     static const QHash<QString, Kind> kinds = {
@@ -25,15 +27,15 @@ MvSVGCompilerInstructions::MvSVGCompilerInstructions(const QString &text)
 {
     qsizetype literalStart = 0;
     for (qsizetype open = text.indexOf(u'{'); open >= 0; open = text.indexOf(u'{', open + 1)) {
-        const qsizetype close = text.indexOf(u'}', open);
-        if (close < 0)
-            break;
-        const Kind kind = placeholders().value(text.mid(open + 1, close - open - 1), Kind::Literal);
+        // a name is short: artwork may hold many braces, and none of them closes far away
+        const QString name = text.mid(open + 1, longestName + 1);
+        const qsizetype length = name.indexOf(u'}');
+        const Kind kind = length < 0 ? Kind::Literal : placeholders().value(name.first(length), Kind::Literal);
         if (kind == Kind::Literal)
             continue;
         appendLiteral(QStringView(text).mid(literalStart, open - literalStart));
         m_instructions.append({kind, QString()});
-        literalStart = close + 1;
+        literalStart = open + 1 + length + 1;
     }
     appendLiteral(QStringView(text).mid(literalStart));
 }

@@ -1,5 +1,6 @@
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
 
+#include "MvModelBase/MvPrintableText.h"
 #include "MvProductBase/MvCalendarWordsRegistry.h"
 #include "MvProductBase/MvSVGCompilerInstructionsCache.h"
 
@@ -100,7 +101,7 @@ QStringList MvSVGCompilerInstructionsFactory::descriptions(const MvCalendariumCo
     const QList<MvAbstractHolidayCache *> caches = holidayCaches();
     for (MvAbstractHolidayCache *cache : caches) {
         if (cache->hasHolidayOfType(key, anyType) == ofHolidays) // a source of entries never has a holiday
-            texts.append(cache->descriptions(key));
+            texts.append(MvPrintableText::onOneLineEach(cache->descriptions(key)));
     }
     return texts;
 }

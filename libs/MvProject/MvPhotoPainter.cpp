@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvFoto/MvFotoAccess.h"
 #include "MvModelBase/MvOutlinePainter.h"
+#include "MvModelBase/MvPrintableText.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvModelBase/MvTextOutlineCache.h"
 
@@ -87,7 +88,7 @@ void MvPhotoPainter::paintPlaceholder(const QRectF &rect, bool isNamed)
     QFont font;
     font.setPixelSize(40); // 4 mm
     const int width = int(0.9 * rect.width());
-    const QStringList lines = {tr("Foto fehlt"), QFileInfo(m_frame.path()).fileName()};
+    const QStringList lines = {tr("Foto fehlt"), MvPrintableText::onOneLine(QFileInfo(m_frame.path()).fileName())};
     const double lineHeight = 60.0;
     double baseline = rect.center().y() - 5.0;
     for (const QString &line : lines) {
