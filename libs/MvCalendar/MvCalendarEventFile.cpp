@@ -69,9 +69,11 @@ void readEntries(QXmlStreamReader &reader, const QDir &folder, MvCalendarEventFi
             continue;
         }
         const MvCalendarEventTexts texts(reader);
+        if (texts.isEmpty())
+            continue;
         const MvCalendarEvent event(texts, folder);
         gathering.add(event);
-        if (!event.isValid() && !texts.isEmpty()) // nothing is lost with an empty one
+        if (!event.isValid())
             content.skipped.append({line, shown(event.description()), whyInvalid(event, texts)});
     }
     content.events = gathering.events();
@@ -98,7 +100,7 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
     const QFileInfo present(file.filePath()); // the given one may remember an older state
     Content content;
     MvXMLLoader::Error error;
-    const QByteArray bytes = MvXMLLoader::loadBytes(present, &error);
+    const QByteArray bytes = MvXMLLoader::loadBytes(present, &error, MvXMLLoader::Limits::ofStreams());
     if (error.isError()) {
         content.error = error.describe(present);
         content.isMissing = !present.exists() && !present.isSymLink();

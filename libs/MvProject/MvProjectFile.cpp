@@ -3,6 +3,7 @@
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvProjectReader.h"
 #include "MvProject/MvProjectWriter.h"
+#include "MvXML/MvXMLLoader.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +19,12 @@ MvProjectFile::Content MvProjectFile::read(const QFileInfo &file)
 
 QString MvProjectFile::write(const MvCalendarDocument &document, const QFileInfo &file)
 {
-    const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, toBytes(document, file.absoluteDir()));
+    const QByteArray bytes = toBytes(document, file.absoluteDir());
+    const MvXMLLoader::Error error = MvXMLLoader::check(bytes);
+    if (error.isError())
+        return tr("%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2")
+            .arg(QDir::toNativeSeparators(file.filePath()), error.message);
+    const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, bytes);
     return result.isOk() ? QString() : u"%1: %2"_s.arg(QDir::toNativeSeparators(file.filePath()), result.error);
 }
 

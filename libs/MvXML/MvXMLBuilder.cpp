@@ -120,5 +120,8 @@ bool MvXMLBuilder::saveUTF8(const QDomDocument &document, const QFileInfo &file)
             return false; // better an unsaved change than a lost file
         qWarning().noquote() << u"%1, set aside as %2"_s.arg(error.describe(file), aside);
     }
-    return MvSafeFileWriter::write(file, document.toByteArray(2)).isOk();
+    const QByteArray bytes = document.toByteArray(2);
+    if (MvXMLLoader::check(bytes).isError())
+        return false; // it could never be read again
+    return MvSafeFileWriter::write(file, bytes).isOk();
 }

@@ -34,7 +34,11 @@ public:
             else if (startsWith(position, "<!"))
                 position += 2; // declarations may hold others; only their start counts
             else {
-                const qsizetype end = endOfTag(position);
+                int attributes = 0;
+                const qsizetype end = endOfTag(position, attributes);
+                if (attributes > MvXMLGuard::attributeLimit)
+                    return errorAt(position, MvXMLLoader::tr("Eine Auszeichnung hat mehr als %1 Attribute.")
+                                                 .arg(MvXMLGuard::attributeLimit));
                 if (end < 0)
                     return errorAt(
                         position,
@@ -57,19 +61,21 @@ private:
         return found < 0 ? -1 : found + word.size();
     }
 
-    /// Behind the ">" of a tag; -1 when it is too long. A ">" in quotes belongs to a value.
-    qsizetype endOfTag(qsizetype start) const
+    /// Behind the ">" of a tag; -1 when it is too long. A ">" in quotes belongs to a value. Counts quoted values.
+    qsizetype endOfTag(qsizetype start, int &attributes) const
     {
         const qsizetype limit = std::min(m_text.size(), start + MvXMLGuard::tagLimit);
         char quote = 0;
         for (qsizetype i = start + 1; i < limit; ++i) {
             const char c = m_text.at(i);
-            if (quote)
+            if (quote) {
                 quote = c == quote ? 0 : quote;
-            else if (c == '"' || c == '\'')
+            } else if (c == '"' || c == '\'') {
                 quote = c;
-            else if (c == '>')
+                ++attributes;
+            } else if (c == '>') {
                 return i + 1;
+            }
         }
         return limit == m_text.size() ? limit : -1;
     }
@@ -96,7 +102,7 @@ QString messageOf(const QXmlStreamReader &reader)
     }
 }
 
-MvXMLLoader::Error readThroughStream(QXmlStreamReader &reader)
+MvXMLLoader::Error readThroughStream(QXmlStreamReader &reader, int mostElements)
 {
     const auto error = [&reader](const QString &message) {
         return MvXMLLoader::Error{message, int(reader.lineNumber()), int(reader.columnNumber()) + 1};
@@ -110,7 +116,7 @@ MvXMLLoader::Error readThroughStream(QXmlStreamReader &reader)
             if (++depth > MvXMLGuard::depthLimit)
                 return error(MvXMLLoader::tr("Die Elemente sind tiefer als %1 Ebenen verschachtelt.")
                                  .arg(MvXMLGuard::depthLimit));
-            if (++elements > MvXMLGuard::elementLimit)
+            if (++elements > mostElements)
                 return error(MvXMLLoader::tr("Die Datei hat zu viele Elemente."));
             break;
         case QXmlStreamReader::EndElement:
@@ -169,16 +175,16 @@ MvXMLLoader::Error MvXMLGuard::scan(QByteArrayView utf8)
     return RawScan(utf8).run();
 }
 
-MvXMLLoader::Error MvXMLGuard::readThrough(const QByteArray &bytes)
+MvXMLLoader::Error MvXMLGuard::readThrough(const QByteArray &bytes, int mostElements)
 {
     QXmlStreamReader reader(bytes);
-    const MvXMLLoader::Error error = readThroughStream(reader);
+    const MvXMLLoader::Error error = readThroughStream(reader, mostElements);
     const MvXMLLoader::Error encoding = error.isError() ? wrongEncoding(bytes) : MvXMLLoader::Error();
     return encoding.isError() ? encoding : error;
 }
 
-MvXMLLoader::Error MvXMLGuard::readThrough(const QString &text)
+MvXMLLoader::Error MvXMLGuard::readThrough(const QString &text, int mostElements)
 {
     QXmlStreamReader reader(text);
-    return readThroughStream(reader);
+    return readThroughStream(reader, mostElements);
 }

@@ -9,19 +9,18 @@
 class MvXMLGuard
 {
 public:
-    static constexpr qint64 sizeLimit = 64 * 1024 * 1024;
     static constexpr int tagLimit = 64 * 1024;
+    static constexpr int attributeLimit = 512; // of a tag: readers compare each with all
     static constexpr int depthLimit = 256;
-    static constexpr int elementLimit = 1'000'000;
 
     /// Decodes a text with a UTF-16 or UTF-32 byte order mark; otherwise empty, and the bytes are to be used.
     static QString wideText(const QByteArray &bytes);
 
-    /// Looks at the raw text without interpreting it: tags that are too long, declared entities, NUL characters. Such
-    /// texts would make an XML reader itself use up time or memory.
+    /// Looks at the raw text without interpreting it: tags that are too long or have too many attributes, declared
+    /// entities, NUL characters. Such texts would make an XML reader itself use up time or memory.
     static MvXMLLoader::Error scan(QByteArrayView utf8);
 
     /// Reads the text once as a stream: well-formed, not too deep, not too many elements.
-    static MvXMLLoader::Error readThrough(const QByteArray &bytes);
-    static MvXMLLoader::Error readThrough(const QString &text);
+    static MvXMLLoader::Error readThrough(const QByteArray &bytes, int mostElements);
+    static MvXMLLoader::Error readThrough(const QString &text, int mostElements);
 };

@@ -6,6 +6,9 @@
 #include <QFile>
 #include <QRegularExpression>
 
+#include <algorithm>
+#include <new>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -39,12 +42,20 @@ bool openRegular(const QFileInfo &file, QFile &device, MvXMLLoader::Error &error
     return device.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
 }
 
-QByteArray readLimited(const QFileInfo &file, MvXMLLoader::Error &error)
+QByteArray readLimited(const QFileInfo &file, qint64 mostBytes, MvXMLLoader::Error &error)
 {
+    constexpr qsizetype piece = 1024 * 1024;
     QFile device(file.filePath());
     if (!openRegular(file, device, error))
         return {};
-    const QByteArray bytes = device.read(MvXMLGuard::sizeLimit + 1); // the size that is told may be wrong
+    QByteArray bytes;
+    bytes.reserve(std::min(device.size(), mostBytes) + 1);
+    while (bytes.size() <= mostBytes) { // the size that is told may be wrong
+        const QByteArray part = device.read(piece);
+        if (part.isEmpty())
+            break;
+        bytes += part;
+    }
     if (device.error() != QFileDevice::NoError)
         error.message = MvXMLLoader::tr("Die Datei lässt sich nicht zu Ende lesen.");
     return bytes;
@@ -64,17 +75,29 @@ QByteArray asUtf8(const QString &wideText)
 }
 
 /// All checks; for UTF-16 and UTF-32 also the decoded text.
-MvXMLLoader::Error check(const QByteArray &bytes, QString &wideText)
+MvXMLLoader::Error check(const QByteArray &bytes, const MvXMLLoader::Limits &limits, QString &wideText)
 {
-    if (bytes.size() > MvXMLGuard::sizeLimit)
-        return {MvXMLLoader::tr("Die Datei ist größer als %1 MiB.").arg(MvXMLGuard::sizeLimit / (1024 * 1024))};
-    if (bytes.trimmed().isEmpty())
+    if (bytes.size() > limits.bytes)
+        return {MvXMLLoader::tr("Die Datei ist größer als %1 MiB.").arg(limits.bytes / (1024 * 1024))};
+    if (QByteArrayView(bytes).trimmed().isEmpty())
         return {MvXMLLoader::tr("Die Datei ist leer.")};
     wideText = MvXMLGuard::wideText(bytes);
     MvXMLLoader::Error error = MvXMLGuard::scan(wideText.isEmpty() ? bytes : wideText.toUtf8());
     if (error.isError())
         return error;
-    return wideText.isEmpty() ? MvXMLGuard::readThrough(bytes) : MvXMLGuard::readThrough(wideText);
+    return wideText.isEmpty() ? MvXMLGuard::readThrough(bytes, limits.elements)
+                              : MvXMLGuard::readThrough(wideText, limits.elements);
+}
+
+/// Runs the function; where the memory does not suffice, that is the error.
+template <typename Function>
+void withinMemory(MvXMLLoader::Error &error, Function function)
+{
+    try {
+        function();
+    } catch (const std::bad_alloc &) {
+        error = {MvXMLLoader::tr("Der Arbeitsspeicher reicht für diese Datei nicht aus.")};
+    }
 }
 
 } // namespace
@@ -87,16 +110,19 @@ QString MvXMLLoader::Error::describe(const QFileInfo &file) const
     return u"%1:%2:%3: %4"_s.arg(path).arg(line).arg(column).arg(message);
 }
 
-QByteArray MvXMLLoader::loadBytes(const QFileInfo &file, Error *error)
+QByteArray MvXMLLoader::loadBytes(const QFileInfo &file, Error *error, const Limits &limits)
 {
     Error found;
-    QByteArray bytes = readLimited(file, found);
-    if (!found.isError()) {
+    QByteArray bytes;
+    withinMemory(found, [&] {
+        bytes = readLimited(file, limits.bytes, found);
+        if (found.isError())
+            return;
         QString wideText;
-        found = check(bytes, wideText);
+        found = ::check(bytes, limits, wideText);
         if (!wideText.isEmpty())
             bytes = asUtf8(wideText);
-    }
+    });
     if (error)
         *error = found;
     return found.isError() ? QByteArray() : bytes;
@@ -105,7 +131,8 @@ QByteArray MvXMLLoader::loadBytes(const QFileInfo &file, Error *error)
 QDomDocument MvXMLLoader::loadDocument(const QFileInfo &file, Error *error)
 {
     Error found;
-    const QByteArray bytes = readLimited(file, found);
+    QByteArray bytes;
+    withinMemory(found, [&] { bytes = readLimited(file, Limits::ofDocuments().bytes, found); });
     if (!found.isError())
         return parse(bytes, error);
     if (error)
@@ -115,21 +142,32 @@ QDomDocument MvXMLLoader::loadDocument(const QFileInfo &file, Error *error)
 
 QDomDocument MvXMLLoader::parse(const QByteArray &bytes, Error *error)
 {
-    QString wideText;
-    Error found = check(bytes, wideText);
+    Error found;
     QDomDocument document;
-    if (!found.isError()) {
+    withinMemory(found, [&] {
+        QString wideText;
+        found = ::check(bytes, Limits::ofDocuments(), wideText);
+        if (found.isError())
+            return;
         const bool isBuilt = wideText.isEmpty()
                                  ? document.setContent(bytes, &found.message, &found.line, &found.column)
                                  : document.setContent(wideText, &found.message, &found.line, &found.column);
-        if (!isBuilt)
-            document = {};
-        else
+        if (isBuilt)
             found = {};
-    }
+    });
     if (error)
         *error = found;
-    return document;
+    return found.isError() ? QDomDocument() : document;
+}
+
+MvXMLLoader::Error MvXMLLoader::check(const QByteArray &bytes, const Limits &limits)
+{
+    Error found;
+    withinMemory(found, [&] {
+        QString wideText;
+        found = ::check(bytes, limits, wideText);
+    });
+    return found;
 }
 
 QDomElement MvXMLLoader::loadDocumentElement(const QFileInfo &file)

@@ -11,8 +11,9 @@
 
 /// Loading XML files: the one guarded way to a file from outside.
 ///
-/// Before a document is built, the file must pass: a regular file, at most 64 MiB, no tag longer than 64 KiB, no
-/// entity declarations, at most 256 levels and a million elements, well-formed. UTF-8, UTF-16, UTF-32 and ISO 8859-1.
+/// Before a document is built, the file must pass: a regular file, at most 64 MiB, no tag longer than 64 KiB or with
+/// more than 512 attributes, no entity declarations, at most 256 levels and a million elements, well-formed. UTF-8,
+/// UTF-16, UTF-32 and ISO 8859-1. A file that is more than the memory takes is an error like the others.
 class MVXML_EXPORT MvXMLLoader
 {
     Q_DECLARE_TR_FUNCTIONS(MvXMLLoader)
@@ -30,13 +31,28 @@ public:
         QString describe(const QFileInfo &file) const;
     };
 
+    /// What a reader is able to take.
+    struct Limits
+    {
+        qint64 bytes;
+        int elements;
+
+        static Limits ofDocuments() { return {64 * 1024 * 1024, 1'000'000}; }
+        /// For readers that go through the bytes as a stream: about a million entries.
+        static Limits ofStreams() { return {512 * 1024 * 1024, 16'000'000}; }
+    };
+
     /// The document; a null one on error, which is then described in `error` when given.
     /// Shipped files (":/...") are read as well; directories, devices and pipes are refused.
     static QDomDocument loadDocument(const QFileInfo &file, Error *error = nullptr);
     static QDomDocument parse(const QByteArray &bytes, Error *error = nullptr);
+    /// Whether bytes that are about to be written pass these checks; else why not. Without that a saved file could be
+    /// one that never opens again.
+    static Error check(const QByteArray &bytes, const Limits &limits = Limits::ofDocuments());
     /// The bytes of a file, once they passed all checks but for building a document; empty on error. For readers that
     /// go through large files as a stream. UTF-16 and UTF-32 come as UTF-8, with a declaration that says so.
-    static QByteArray loadBytes(const QFileInfo &file, Error *error = nullptr);
+    static QByteArray loadBytes(const QFileInfo &file, Error *error = nullptr,
+                                const Limits &limits = Limits::ofDocuments());
     /// The root element; a null one on error. A file that exists but cannot be read logs one warning with file and
     /// place; a missing file is nothing to tell.
     static QDomElement loadDocumentElement(const QFileInfo &file);

@@ -50,6 +50,16 @@ void tst_MvXMLLoader::refuses_data()
     row("tag that never ends", "<a " + big, u"länger als 64 KiB"_qs);
     row("quotation mark hides the end", "<a b=\"" + QByteArray(" c='>' ").repeated(20000) + "\"/>",
         u"länger als 64 KiB"_qs);
+    const auto attributes = [](int count) {
+        QByteArray tag = "<b";
+        for (int i = 0; i < count; ++i)
+            tag += " a" + QByteArray::number(i) + "='\"=>'";
+        return "<a>\n" + tag + "/></a>";
+    };
+    row("513 attributes", attributes(513), u"mehr als 512 Attribute"_qs, 2);
+    row("thousands of attributes without a blank", attributes(5000).replace("' a", "'a"), u"mehr als 512"_qs, 2);
+    row("UTF-16 without a mark", QByteArray("<\0a\0/\0>\0", 8), u"NUL-Zeichen"_qs);
+    row("UTF-7", "<?xml version=\"1.0\" encoding=\"UTF-7\"?><a>+ADwAIQ-</a>", QString(), 1);
     row("million elements", "<a>" + QByteArray("<b/>").repeated(1000001) + "</a>", u"zu viele Elemente"_qs);
     row("NUL in a text", QByteArray("<a>\n\nx\0y</a>", 13), u"NUL-Zeichen"_qs, 3);
     row("NULs alone", QByteArray(4096, '\0'), u"NUL-Zeichen"_qs);
