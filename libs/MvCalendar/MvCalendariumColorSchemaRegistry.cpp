@@ -13,7 +13,34 @@ using namespace Qt::StringLiterals;
 
 namespace {
 const QString areaTag = u"calendararea"_s;
+
+MvUserSchemaFile::Area areaOf(const MvCalendariumColorSchema &schema, const MvCalendariumColorSchemaID &id,
+                              const MvLocalizedText &name)
+{
+    QDomDocument document;
+    QDomElement area = document.createElement(areaTag);
+    document.appendChild(area);
+    schema.write(area, id);
+    name.write(area, u"name"_s);
+    return {id.toString(), area};
 }
+
+std::optional<MvUserSchemaFile::Area> readArea(const QDomElement &element)
+{
+    MvCalendariumColorSchemaID id;
+    id.read(element);
+    if (!id.isUserSchema())
+        return std::nullopt;
+    MvLocalizedText name;
+    name.read(element, u"name"_s);
+    return areaOf(MvCalendariumColorSchema(element), id, name);
+}
+
+} // namespace
+
+MvCalendariumColorSchemaRegistry::MvCalendariumColorSchemaRegistry()
+    : m_userFile(userSchemaFileName(), u"calendarschema"_s, readArea)
+{}
 
 std::unique_ptr<MvCalendariumColorSchemaRegistry> MvCalendariumColorSchemaRegistry::createTemporaryRegistry()
 {
@@ -23,7 +50,7 @@ std::unique_ptr<MvCalendariumColorSchemaRegistry> MvCalendariumColorSchemaRegist
 void MvCalendariumColorSchemaRegistry::setupInstance()
 {
     MvCalendariumColorSchema::setIdLookup([this](const MvCalendariumColorSchema &schema) { return id(schema); });
-    read(systemUserSchemaFile(), SCHEMA_VISIBILITY_OFFERED);
+    read(m_userFile.read(), SCHEMA_VISIBILITY_OFFERED);
     readShippedSchemata();
 }
 
@@ -223,18 +250,57 @@ void MvCalendariumColorSchemaRegistry::write(QDomElement &element, const MvCalen
     }
 }
 
-bool MvCalendariumColorSchemaRegistry::saveSystemUserSchemata() const
+MvUserSchemaFile::Areas MvCalendariumColorSchemaRegistry::userAreas() const
 {
-    MvCalendariumColorSchemaList users;
+    MvUserSchemaFile::Areas areas;
     for (const MvCalendariumColorSchema &schema : m_schemata) {
-        if (isUserSchema(schema))
-            users.append(schema);
+        const QList<MvCalendariumColorSchemaID> ids = m_ids.values(schema);
+        for (auto known = ids.crbegin(); known != ids.crend(); ++known) {
+            if (known->isUserSchema())
+                areas.append(areaOf(schema, *known, m_names.value(*known)));
+        }
     }
-    QDomDocument document;
-    MvXMLBuilder::buildUTF8ProcessingInstructions(document);
-    QDomElement root = MvXMLBuilder::buildRootElement(document, u"calendarschema"_s);
-    write(root, users);
-    return MvXMLBuilder::saveUTF8(document, systemUserSchemaFile());
+    return areas;
+}
+
+bool MvCalendariumColorSchemaRegistry::saveSystemUserSchemata()
+{
+    const MvUserSchemaFile::Areas mine = userAreas();
+    const MvUserSchemaFile::Saved saved = m_userFile.save(mine, [this](MvUserSchemaFile::Area &area) {
+        const MvCalendariumColorSchemaID id = generateUniqueId();
+        id.write(area.element);
+        area.id = id.toString();
+    });
+    m_saveError = saved.error;
+    if (saved.isOk())
+        adopt(mine, saved.areas);
+    return saved.isOk();
+}
+
+void MvCalendariumColorSchemaRegistry::adopt(const MvUserSchemaFile::Areas &mine, const MvUserSchemaFile::Areas &saved)
+{
+    const QMutexLocker lock(&m_mutex);
+    for (const MvUserSchemaFile::Area &area : mine) {
+        if (!saved.contains(area))
+            forgetId(MvCalendariumColorSchemaID(area.id));
+    }
+    for (const MvUserSchemaFile::Area &area : saved) {
+        if (!mine.contains(area))
+            recordRead(area.element, SCHEMA_VISIBILITY_OFFERED);
+    }
+}
+
+/// A schema without any id left is forgotten, too.
+void MvCalendariumColorSchemaRegistry::forgetId(const MvCalendariumColorSchemaID &id)
+{
+    const MvCalendariumColorSchema schema = m_byId.value(id);
+    if (m_ids.count(schema) <= 1) {
+        remove(schema);
+        return;
+    }
+    m_ids.remove(schema, id);
+    m_byId.remove(id);
+    m_names.remove(id);
 }
 
 QString MvCalendariumColorSchemaRegistry::userSchemaFileName()

@@ -2,6 +2,7 @@
 
 #include "MvCalendar/MvCalendariumColorSchemaList.h"
 #include "MvCalendar/MvCalendariumColorSchemaVisibility.h"
+#include "MvCalendar/MvUserSchemaFile.h"
 #include "MvCore/MvSingleton.h"
 #include "MvXML/MvLocalizedText.h"
 
@@ -21,7 +22,7 @@ class MVCALENDAR_EXPORT MvCalendariumColorSchemaRegistry : public MvSingleton<Mv
 {
 public:
     /// An empty registry; only the process-wide one reads files by itself.
-    MvCalendariumColorSchemaRegistry() = default;
+    MvCalendariumColorSchemaRegistry();
     ~MvCalendariumColorSchemaRegistry() override = default;
 
     /// An empty registry of its own, for temporary use.
@@ -79,8 +80,11 @@ public:
 
     /// Appends one "calendararea" per schema.
     void write(QDomElement &element, const MvCalendariumColorSchemaList &list) const;
-    /// Saves the user schemas to the user's file; says whether it is in place.
-    bool saveSystemUserSchemata() const;
+    /// Saves the user schemas to the user's file and takes over what other programs have changed there since; says
+    /// whether it is in place, else saveError() says why. Never waits for another program that writes just now.
+    bool saveSystemUserSchemata();
+    /// Why the last saving failed, for a person; empty when it did not.
+    QString saveError() const { return m_saveError; }
     static QString userSchemaFileName();
     static QFileInfo systemUserSchemaFile();
 
@@ -91,11 +95,16 @@ private:
     void clear();
     void readShippedSchemata();
     void recordRead(const QDomElement &area, const MvCalendariumColorSchemaVisibility &visibility);
+    MvUserSchemaFile::Areas userAreas() const;
+    void adopt(const MvUserSchemaFile::Areas &mine, const MvUserSchemaFile::Areas &saved);
+    void forgetId(const MvCalendariumColorSchemaID &id);
 
     MvCalendariumColorSchemaList m_schemata;
     QMultiHash<MvCalendariumColorSchema, MvCalendariumColorSchemaID> m_ids; // values(): latest first
     QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> m_byId;
     QHash<MvCalendariumColorSchemaID, MvLocalizedText> m_names;
     QHash<MvCalendariumColorSchema, MvCalendariumColorSchemaVisibility> m_visibilities;
+    MvUserSchemaFile m_userFile;
+    QString m_saveError;
     mutable QRecursiveMutex m_mutex; // guards reading
 };

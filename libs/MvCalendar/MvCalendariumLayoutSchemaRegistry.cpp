@@ -1,15 +1,45 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 
 #include "MvCore/MvDirectoryConfig.h"
-#include "MvXML/MvXMLBuilder.h"
+
+#include <QRandomGenerator>
 
 template class MvSingleton<MvCalendariumLayoutSchemaRegistry>;
 
 using namespace Qt::StringLiterals;
 
-MvCalendariumLayoutSchemaRegistry::MvCalendariumLayoutSchemaRegistry()
+namespace {
+
+const QString userFileName = u"000-user-calendar-layout.xml"_s;
+
+MvUserSchemaFile::Area areaOf(const MvCalendariumLayoutSchema &schema)
 {
-    m_schemata.read(QFileInfo(userSchemaFile()));
+    QDomDocument document;
+    QDomElement area = document.createElement(u"calendararea"_s);
+    document.appendChild(area);
+    schema.write(area);
+    return {schema.ID().toString(), area};
+}
+
+std::optional<MvUserSchemaFile::Area> readArea(const QDomElement &element)
+{
+    const MvCalendariumLayoutSchema schema(element);
+    return schema.isValid() && schema.isUserSchema() ? std::optional(areaOf(schema)) : std::nullopt;
+}
+
+void giveFreshId(MvUserSchemaFile::Area &area)
+{
+    const MvCalendariumLayoutSchemaID id(u"USER_"_s + QString::number(QRandomGenerator::system()->generate()));
+    id.write(area.element);
+    area.id = id.toString();
+}
+
+} // namespace
+
+MvCalendariumLayoutSchemaRegistry::MvCalendariumLayoutSchemaRegistry()
+    : m_userFile(userFileName, u"calendarlayout"_s, readArea)
+{
+    m_schemata.read(m_userFile.read());
     m_schemata.read(MvDirectoryConfig::instance().resource(u"schemas/calendar_layout.xml"_s));
     for (const MvCalendariumLayoutSchema &schema : std::as_const(m_schemata))
         m_byId.insert(schema.ID().toString(), schema);
@@ -45,14 +75,29 @@ bool MvCalendariumLayoutSchemaRegistry::recordUserSchema(const MvCalendariumLayo
 
 QString MvCalendariumLayoutSchemaRegistry::userSchemaFile()
 {
-    return MvDirectoryConfig::instance().programDataFile(u"000-user-calendar-layout.xml"_s).filePath();
+    return MvDirectoryConfig::instance().programDataFile(userFileName).filePath();
 }
 
-bool MvCalendariumLayoutSchemaRegistry::saveUserSchemaFile() const
+bool MvCalendariumLayoutSchemaRegistry::saveUserSchemaFile()
 {
-    QDomDocument document;
-    MvXMLBuilder::buildUTF8ProcessingInstructions(document);
-    QDomElement root = MvXMLBuilder::buildRootElement(document, u"calendarlayout"_s);
-    m_schemata.userSchemaList().write(root);
-    return MvXMLBuilder::saveUTF8(document, QFileInfo(userSchemaFile()));
+    const MvCalendariumLayoutSchemaList users = m_schemata.userSchemaList();
+    MvUserSchemaFile::Areas mine;
+    for (const MvCalendariumLayoutSchema &schema : users)
+        mine.append(areaOf(schema));
+    const MvUserSchemaFile::Saved saved = m_userFile.save(mine, giveFreshId);
+    m_saveError = saved.error;
+    if (!saved.isOk())
+        return false;
+    for (const MvUserSchemaFile::Area &area : std::as_const(mine)) {
+        if (!saved.areas.contains(area)) {
+            m_schemata.removeIf(
+                [&area](const MvCalendariumLayoutSchema &known) { return known.ID().toString() == area.id; });
+            m_byId.remove(area.id);
+        }
+    }
+    for (const MvUserSchemaFile::Area &area : saved.areas) {
+        if (!mine.contains(area))
+            recordUserSchema(MvCalendariumLayoutSchema(area.element));
+    }
+    return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendariumLayoutSchemaList.h"
+#include "MvCalendar/MvUserSchemaFile.h"
 #include "MvCore/MvSingleton.h"
 
 #include <QHash>
@@ -28,10 +29,15 @@ public:
     bool recordUserSchema(const MvCalendariumLayoutSchema &schema);
 
     static QString userSchemaFile();
-    /// Saves the user schemas of the list; says whether the file is in place.
-    bool saveUserSchemaFile() const;
+    /// Saves the user schemas of the list and takes over what other programs have changed in the file since; says
+    /// whether it is in place, else saveError() says why. Never waits for another program that writes just now.
+    bool saveUserSchemaFile();
+    /// Why the last saving failed, for a person; empty when it did not.
+    QString saveError() const { return m_saveError; }
 
 private:
     MvCalendariumLayoutSchemaList m_schemata;
     QHash<QString, MvCalendariumLayoutSchema> m_byId;
+    MvUserSchemaFile m_userFile;
+    QString m_saveError;
 };

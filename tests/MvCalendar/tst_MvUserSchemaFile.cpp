@@ -1,0 +1,168 @@
+#include "MvTest.h"
+
+#include "MvCalendar/MvUserSchemaFile.h"
+#include "MvCore/MvFileGuard.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Area = MvUserSchemaFile::Area;
+
+Area area(const QString &id, const QString &color)
+{
+    QDomDocument document;
+    QDomElement element = document.createElement(u"calendararea"_s);
+    document.appendChild(element);
+    element.setAttribute(u"id"_s, id);
+    element.setAttribute(u"color"_s, color);
+    return {id, element};
+}
+
+/// "1=red 2=blue" and back.
+MvUserSchemaFile::Areas areas(const QString &text)
+{
+    MvUserSchemaFile::Areas list;
+    for (const QString &one : text.split(u' ', Qt::SkipEmptyParts))
+        list.append(area(one.section(u'=', 0, 0), one.section(u'=', 1)));
+    return list;
+}
+
+QString text(const MvUserSchemaFile::Areas &list)
+{
+    QStringList parts;
+    for (const Area &one : list)
+        parts.append(one.id + u'=' + one.element.attribute(u"color"_s));
+    return parts.join(u' ');
+}
+
+/// One running program.
+class Program : public MvUserSchemaFile
+{
+public:
+    Program()
+        : MvUserSchemaFile(u"schemata.xml"_s, u"schemata"_s, [](const QDomElement &element) {
+            const QString id = element.attribute(u"id"_s);
+            return id.isEmpty() ? std::nullopt : std::optional(area(id, element.attribute(u"color"_s)));
+        })
+    {
+        read();
+    }
+
+    Saved keep(const QString &mine)
+    {
+        return save(areas(mine), [fresh = 90](Area &one) mutable {
+            one.id = QString::number(fresh++);
+            one.element.setAttribute(u"id"_s, one.id);
+        });
+    }
+};
+
+} // namespace
+
+class tst_MvUserSchemaFile : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+
+    void twoPrograms_data();
+    void twoPrograms();
+    void setsAside_data();
+    void setsAside();
+    void writesUnderItsLockOnly();
+
+private:
+    QStringList besides() const { return Program().file().dir().entryList({u"schemata.unlesbar*"_s}, QDir::Files); }
+};
+
+void tst_MvUserSchemaFile::cleanup()
+{
+    QDir(Program().file().absolutePath()).removeRecursively();
+}
+
+void tst_MvUserSchemaFile::twoPrograms_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("theirs");
+    QTest::addColumn<QString>("mine");
+    QTest::addColumn<QString>("after");
+    const auto row = [](const char *name, const QString &before, const QString &theirs, const QString &mine,
+                        const QString &after) { QTest::newRow(name) << before << theirs << mine << after; };
+    row("each adds one", u"1=red"_s, u"1=red 2=blue"_s, u"1=red 3=green"_s, u"1=red 3=green 2=blue"_s);
+    row("each adds the same", u"1=red"_s, u"1=red 2=blue"_s, u"1=red 2=blue"_s, u"1=red 2=blue"_s);
+    row("each adds one under the same id", u""_s, u"1=red"_s, u"1=blue"_s, u"1=red 90=blue"_s);
+    row("removed there", u"1=red 2=blue"_s, u"2=blue"_s, u"1=red 2=blue"_s, u"2=blue"_s);
+    row("removed here", u"1=red 2=blue"_s, u"1=red 2=blue 3=green"_s, u"2=blue"_s, u"2=blue 3=green"_s);
+    row("changed there", u"1=red"_s, u"1=pink"_s, u"1=red"_s, u"1=pink"_s);
+    row("changed here", u"1=red"_s, u"1=red"_s, u"1=pink"_s, u"1=pink"_s);
+    row("changed in both", u"1=red"_s, u"1=pink"_s, u"1=rose"_s, u"1=pink 90=rose"_s);
+    row("changed there, removed here", u"1=red"_s, u"1=pink"_s, u""_s, u"1=pink"_s);
+    row("removed there, changed here", u"1=red 2=blue"_s, u"2=blue"_s, u"1=pink 2=blue"_s, u"1=pink 2=blue"_s);
+    row("a fresh id that is taken", u""_s, u"1=red 90=white"_s, u"1=blue"_s, u"1=red 90=white 91=blue"_s);
+}
+
+void tst_MvUserSchemaFile::twoPrograms()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, theirs);
+    QFETCH(QString, mine);
+    QFETCH(QString, after);
+    QVERIFY(Program().keep(before).isOk());
+    Program other;
+    Program here;
+    QVERIFY(other.keep(theirs).isOk());
+    const MvUserSchemaFile::Saved saved = here.keep(mine);
+    QCOMPARE(saved.error, QString());
+    QCOMPARE(text(saved.areas), after);
+    QCOMPARE(text(here.keep(after).areas), after); // and stays so
+    QCOMPARE(text(other.keep(theirs).areas).split(u' ').size(),
+             after.split(u' ').size()); // the other one lacks nothing
+}
+
+void tst_MvUserSchemaFile::setsAside_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("after");
+    QTest::newRow("cut") << QByteArray("<schemata><calendararea id='1'") << u"5=new"_s;
+    QTest::newRow("foreign") << QByteArray("<layouts/>") << u"5=new"_s;
+    QTest::newRow("an id is damaged") << QByteArray("<schemata><calendararea id='1' color='red'/><calendararea "
+                                                    "color='blue'/></schemata>")
+                                      << u"5=new 1=red"_s;
+    QTest::newRow("an id twice") << QByteArray("<schemata><calendararea id='1' color='red'/><calendararea id='1' "
+                                               "color='blue'/></schemata>")
+                                 << u"5=new 1=red"_s;
+}
+
+void tst_MvUserSchemaFile::setsAside()
+{
+    QFETCH(QByteArray, content);
+    QVERIFY(Program().keep(u"1=red"_s).isOk());
+    Program here;
+    here.keep(u""_s);
+    QFile file(here.file().filePath());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    file.close();
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"schemata.xml.*set aside"_s));
+    QTEST(text(here.keep(u"5=new"_s).areas), "after");
+    QFile aside(here.file().dir().filePath(besides().value(0)));
+    QVERIFY(aside.open(QIODevice::ReadOnly));
+    QCOMPARE(aside.readAll(), content);
+    here.keep(u"5=new"_s);
+    QCOMPARE(besides().size(), 1); // once is enough
+}
+
+void tst_MvUserSchemaFile::writesUnderItsLockOnly()
+{
+    Program here;
+    QVERIFY(here.keep(u"1=red"_s).isOk());
+    {
+        const MvFileGuard other(here.file());
+        QVERIFY(!here.keep(u"2=blue"_s).error.isEmpty());
+    }
+    QCOMPARE(text(here.keep(u"1=red"_s).areas), u"1=red"_s);
+}
+
+MV_TEST_MAIN(tst_MvUserSchemaFile)
+#include "tst_MvUserSchemaFile.moc"
