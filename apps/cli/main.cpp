@@ -1,5 +1,6 @@
 #include "MvCli.h"
 #include "MvCore/MvInitializer.h"
+#include "MvCore/MvOutOfMemory.h"
 #include "MvCore/MvTranslations.h"
 
 #include <QFile>
@@ -32,6 +33,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("mvcalendar"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MV_VERSION));
     MvTranslations::install(MvTranslations::systemLanguage());
+    MvOutOfMemory::install(QCoreApplication::applicationName(), MvCliCommand::Failed);
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
 
     QFile standardOutput;

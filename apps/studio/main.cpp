@@ -1,3 +1,4 @@
+#include "MvCore/MvOutOfMemory.h"
 #include "MvStudioApplication.h"
 
 #include <QApplication>
@@ -26,6 +27,7 @@ int main(int argc, char **argv)
         return early.exitCode();
     }
     const QApplication application(argc, argv);
+    MvOutOfMemory::install(QStringLiteral("mvcalendar-studio"), 1);
     MvStudioApplication studio(MvStudioOptions::parse(QCoreApplication::arguments()));
     studio.start();
     return QApplication::exec();
