@@ -25,4 +25,11 @@ if(MV_SANITIZE)
 endif()
 add_compile_definitions(QT_NO_FOREACH QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
-add_link_options(-Wl,--as-needed -Wl,--no-undefined)
+if(MV_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+    add_link_options(-fsanitize=fuzzer-no-link)
+endif()
+add_link_options(-Wl,--as-needed)
+if(NOT (MV_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "Clang")) # its libraries find the sanitizer in the program
+    add_link_options(-Wl,--no-undefined)
+endif()

@@ -36,6 +36,23 @@ function(mv_add_nightly name)
         LABELS nightly)
 endfunction()
 
+# mv_add_fuzzer(<name> LINK <target>...) a fuzz target <name>.cpp (LLVMFuzzerTestOneInput) with its seeds in seeds/<name>.
+# With MV_FUZZ it is a libFuzzer program; else ctest runs it over the seeds alone.
+function(mv_add_fuzzer name)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE MvFuzzSupport ${ARG_LINK})
+    set(seeds ${CMAKE_CURRENT_SOURCE_DIR}/seeds/${name})
+    set(command ${name} ${seeds})
+    if(MV_FUZZ)
+        target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+        list(APPEND command -runs=0)
+    endif()
+    add_test(NAME ${name} COMMAND ${command})
+    mv_test_environment(environment)
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
+endfunction()
+
 function(mv_add_benchmark name)
     cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
     find_package(benchmark REQUIRED)

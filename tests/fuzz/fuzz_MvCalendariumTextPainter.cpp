@@ -1,0 +1,41 @@
+#include "MvFuzz.h"
+
+#include "MvBoxFont.h"
+#include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCore/MvStringHelper.h"
+#include "MvModelBase/MvPaintRecorder.h"
+#include "MvModelBase/MvPrintableText.h"
+#include "MvModelBase/MvTextOutlineCache.h"
+#include "MvProductBase/MvSVGCompilerInstructions.h"
+
+#include <QPainter>
+
+/// Any sequence of code units as a text to break, shorten and draw; the first one is the width.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    if (size < 2)
+        return 0;
+    const QByteArray bytes = MvFuzz::bytes(data + 2, (size - 2) / 2 * 2);
+    const QString text(reinterpret_cast<const QChar *>(bytes.constData()), bytes.size() / 2);
+    const int width = data[0] * 4;
+    static const QFont font = MvBoxFont::font(20);
+    MvTextOutlineCache::instance().clear();
+
+    const QString line = MvPrintableText::onOneLine(text);
+    MvFuzz::check(MvPrintableText::onOneLine(line) == line, "one line stays as it is");
+    MvFuzz::check(line.isEmpty() == !MvPrintableText::isVisible(line), "a line without ink is empty");
+    bool isCut = false;
+    const QStringList lines = MvCalendariumTextPainter::fitLines(width, data[1] % 8, font, {line, text}, &isCut);
+    MvFuzz::check(lines.size() <= data[1] % 8, "no more lines than there is room for");
+    MvFuzz::check(line.isEmpty() || isCut || !lines.isEmpty(), "a text is printed or said to be cut");
+    const QString name = MvStringHelper::simplifiedName(text);
+    MvFuzz::check(MvStringHelper::simplifiedName(name) == name, "a simple name stays as it is");
+    const MvSVGCompilerInstructions instructions(text);
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    painter.setFont(font);
+    MvCalendariumTextPainter::drawText(painter, {0, 0, 100, 100}, 0,
+                                       MvCalendariumTextPainter::elided(width, font, text));
+    MvCalendariumTextPainter::drawTexts(painter, {0, 0, 100, 100}, Qt::AlignBottom, lines);
+    return 0;
+}
