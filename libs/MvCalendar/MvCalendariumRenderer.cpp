@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvHtmlTableSkeleton.h"
 #include "MvCore/MvMath.h"
+#include "MvCore/MvStringHelper.h"
 #include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvPrintableText.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
@@ -582,6 +583,6 @@ QImage MvCalendariumRenderer::holidayPicture(const QDate &date) const
 
 void MvCalendariumRenderer::reportUnfitting(const QDate &date, const QString &text, const QRectF &rect)
 {
-    if (MvPrintableText::isVisible(text))
+    if (MvStringHelper::isVisible(text))
         m_unfittingTexts.append({date, text, rect});
 }

@@ -1,5 +1,6 @@
 #include "MvCalendar/MvCalendariumTextPainter.h"
 
+#include "MvCore/MvStringHelper.h"
 #include "MvModelBase/MvOutlinePainter.h"
 #include "MvModelBase/MvPrintableText.h"
 #include "MvModelBase/MvTextOutlineCache.h"
@@ -23,8 +24,8 @@ constexpr qsizetype mostInLine = 2000; // more than a line of the largest sheet 
 
 MvTextOutline outlineOf(const QFont &font, const QString &text)
 {
-    return MvTextOutlineCache::instance().outline(font,
-                                                  MvPrintableText::shapeable(MvPrintableText::start(text, mostInLine)));
+    return MvTextOutlineCache::instance().outline(
+        font, MvPrintableText::shapeable(MvStringHelper::beginning(text, mostInLine)));
 }
 
 double advanceOf(const QFont &font, const QString &text)
@@ -127,7 +128,7 @@ bool MvCalendariumTextPainter::isTextToWide(int maxWidth, const QFont &font, con
 {
     // a start that is too wide decides, however long the rest is
     for (qsizetype length = firstLook; length < text.size(); length *= 4) {
-        if (advance(font, MvPrintableText::start(text, length)) > maxWidth)
+        if (advance(font, MvStringHelper::beginning(text, length)) > maxWidth)
             return true;
     }
     return advance(font, text) > maxWidth;
@@ -169,7 +170,7 @@ QString MvCalendariumTextPainter::elided(int maxWidth, const QFont &font, const 
     };
     QString kept = text.endsWith(ellipsis) ? text.chopped(1) : text;
     for (qsizetype length = firstLook; length < kept.size(); length *= 2) {
-        const QString start = MvPrintableText::start(kept, length);
+        const QString start = MvStringHelper::beginning(kept, length);
         if (isTextToWide(maxWidth, font, shortened(start)))
             kept = start;
     }

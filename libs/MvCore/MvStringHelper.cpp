@@ -39,7 +39,8 @@ bool isInvisible(uint character)
         {0x3164, 0x3164}, {0xfe00, 0xfe0f}, {0xffa0, 0xffa0}, {0xe0000, 0xe0fff},
     };
     const auto holds = [character](const auto &range) { return character >= range.first && character <= range.second; };
-    return QChar::isSpace(character) || QChar::category(character) == QChar::Other_Format ||
+    const QChar::Category category = QChar::category(character);
+    return QChar::isSpace(character) || category == QChar::Other_Format || category == QChar::Other_Control ||
            std::any_of(std::begin(ranges), std::end(ranges), holds);
 }
 
@@ -63,17 +64,20 @@ bool MvStringHelper::stringToBool(const QString &text, bool defaultValue)
 QString MvStringHelper::simplifiedName(const QString &name)
 {
     const QString text = wellFormed(name).simplified();
+    return isVisible(text) ? beginning(text, longestName).trimmed() : QString();
+}
+
+bool MvStringHelper::isVisible(const QString &text)
+{
     const QList<uint> characters = text.toUcs4();
-    if (std::all_of(characters.cbegin(), characters.cend(), isInvisible))
-        return {};
-    return beginning(text, longestName).trimmed();
+    return !std::all_of(characters.cbegin(), characters.cend(), isInvisible);
 }
 
 QString MvStringHelper::beginning(const QString &text, qsizetype length)
 {
     if (text.size() <= length)
         return text;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.left(length + 1)); // what follows decides nothing
     finder.setPosition(length);
     if (!finder.isAtBoundary())
         finder.toPreviousBoundary();

@@ -19,6 +19,8 @@ public:
     /// Line breaks, tabs and other control characters count as blanks; what is no character at all goes. Empty when
     /// nothing of it could be seen. A longer name than longestName ends there, with a whole character.
     static QString simplifiedName(const QString &name);
+    /// Whether something of the text would be seen: not blanks, controls and invisible format characters alone.
+    static bool isVisible(const QString &text);
     /// The text's beginning, of at most so many UTF-16 units, without cutting a character with its marks in two.
     static QString beginning(const QString &text, qsizetype length);
 };

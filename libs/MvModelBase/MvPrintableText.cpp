@@ -1,8 +1,6 @@
 #include "MvModelBase/MvPrintableText.h"
 
-#include <QTextBoundaryFinder>
-
-#include <algorithm>
+#include "MvCore/MvStringHelper.h"
 
 namespace {
 
@@ -36,38 +34,7 @@ bool isMark(QChar c)
     return c.isMark() || c.category() == QChar::Other_Format;
 }
 
-bool isInvisible(char32_t c)
-{
-    switch (QChar::category(c)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-    case QChar::Separator_Space:
-        return true;
-    default:
-        break;
-    }
-    const bool isVariationSelector = (c >= 0xfe00 && c <= 0xfe0f) || (c >= 0xe0100 && c <= 0xe01ef);
-    const bool isFiller = c == 0x034f || c == 0x115f || c == 0x1160 || c == 0x2800 || c == 0x3164 || c == 0xffa0;
-    return isVariationSelector || isFiller;
-}
-
 } // namespace
-
-bool MvPrintableText::isVisible(QStringView text)
-{
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        char32_t c = text.at(i).unicode();
-        if (isWholePair(text, i)) {
-            c = QChar::surrogateToUcs4(text.at(i), text.at(i + 1));
-            ++i;
-        }
-        if (!isInvisible(c))
-            return true;
-    }
-    return false;
-}
 
 QString MvPrintableText::onOneLine(const QString &text)
 {
@@ -85,7 +52,7 @@ QString MvPrintableText::onOneLine(const QString &text)
     }
     if (line.endsWith(u' '))
         line.chop(1);
-    return isVisible(line) ? line : QString();
+    return MvStringHelper::isVisible(line) ? line : QString();
 }
 
 QStringList MvPrintableText::onOneLineEach(const QStringList &texts)
@@ -111,20 +78,4 @@ QString MvPrintableText::shapeable(const QString &text)
             clean[i] = u' ';
     }
     return clean;
-}
-
-QString MvPrintableText::start(const QString &text, qsizetype length)
-{
-    if (text.size() <= length)
-        return text;
-    length = std::max<qsizetype>(0, length);
-    const QString near = text.first(std::min(text.size(), length + 1)); // tells whether a grapheme ends at the length
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, near);
-    finder.setPosition(length);
-    if (!finder.isAtBoundary())
-        finder.toPreviousBoundary();
-    qsizetype end = std::max<qsizetype>(0, finder.position());
-    if (end == 0 && length > 0) // one grapheme of any number of marks
-        end = isWholePair(text, length - 1) ? length - 1 : length;
-    return text.first(end);
 }

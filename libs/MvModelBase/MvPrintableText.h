@@ -9,9 +9,6 @@
 class MVMODELBASE_EXPORT MvPrintableText
 {
 public:
-    /// Whether something of the text would be seen: not blanks, controls and invisible format characters alone.
-    static bool isVisible(QStringView text);
-
     /// The text on one line: line breaks, tabs, controls and blanks become single blanks, none at the ends. Blanks that
     /// do not break stay. Halves of surrogate pairs become U+FFFD, of accents and format characters in a row the first
     /// 30 are kept. Empty when nothing of it would be seen.
@@ -22,8 +19,4 @@ public:
     /// The text, character by character fit for shaping: controls and line breaks become blanks, halves of surrogate
     /// pairs and what is no character U+FFFD. Length and blanks stay.
     static QString shapeable(const QString &text);
-
-    /// The start of the text in at most `length` code units, cut between graphemes where there is a place to cut, and
-    /// never within a surrogate pair.
-    static QString start(const QString &text, qsizetype length);
 };

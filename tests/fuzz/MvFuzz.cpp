@@ -15,24 +15,20 @@ namespace {
 
 struct Surroundings
 {
-    Surroundings(int &argc, char **argv)
-        : folder(QFileInfo(u"/dev/shm"_s).isWritable() ? u"/dev/shm/mvfuzz-XXXXXX"_s : u"mvfuzz-XXXXXX"_s)
-        , application(argc, argv)
-    {}
-
-    MvTestHome home; // before the application, which asks it for a screen
-    QTemporaryDir folder;
-    QGuiApplication application;
+    MvTestHome home;
+    QTemporaryDir folder{QFileInfo(u"/dev/shm"_s).isWritable() ? u"/dev/shm/mvfuzz-XXXXXX"_s : u"mvfuzz-XXXXXX"_s};
 };
 
 std::unique_ptr<Surroundings> surroundings;
+QGuiApplication *application = nullptr; // stays: where the search ends, the application's own statics are gone already
 
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    surroundings = std::make_unique<Surroundings>(*argc, *argv);
+    surroundings = std::make_unique<Surroundings>();
+    application = new QGuiApplication(*argc, *argv);
     std::atexit([] { surroundings.reset(); });
     return 0;
 }

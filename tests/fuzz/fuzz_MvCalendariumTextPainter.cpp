@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 
     const QString line = MvPrintableText::onOneLine(text);
     MvFuzz::check(MvPrintableText::onOneLine(line) == line, "one line stays as it is");
-    MvFuzz::check(line.isEmpty() == !MvPrintableText::isVisible(line), "a line without ink is empty");
+    MvFuzz::check(line.isEmpty() == !MvStringHelper::isVisible(line), "a line without ink is empty");
     bool isCut = false;
     const QStringList lines = MvCalendariumTextPainter::fitLines(width, data[1] % 8, font, {line, text}, &isCut);
     MvFuzz::check(lines.size() <= data[1] % 8, "no more lines than there is room for");
