@@ -1785,6 +1785,13 @@
     </message>
 </context>
 <context>
+    <name>MvOutOfMemory</name>
+    <message>
+        <source>Der Arbeitsspeicher reicht nicht aus. Das Programm wird beendet.</source>
+        <translation>There is not enough memory. The program ends now.</translation>
+    </message>
+</context>
+<context>
     <name>MvPageCanvas</name>
     <message>
         <source>Kalenderseite</source>
@@ -2162,6 +2169,13 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Die Sicherung für den Notfall ist misslungen: %1</source>
         <translation>The emergency copy failed: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectFile</name>
+    <message>
+        <source>%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2</source>
+        <translation>%1: Saved like this, the project could not be opened again. %2</translation>
     </message>
 </context>
 <context>
@@ -3168,6 +3182,21 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
+    <name>MvUserSchemaFile</name>
+    <message>
+        <source>%1 konnte nicht gespeichert werden: %2</source>
+        <translation>%1 could not be saved: %2</translation>
+    </message>
+    <message>
+        <source>Der Ordner lässt sich nicht anlegen.</source>
+        <translation>The folder cannot be made.</translation>
+    </message>
+    <message>
+        <source>Was darin steht, ist nicht ganz zu lesen und ließ sich nicht beiseitelegen.</source>
+        <translation>Not all that it holds can be read, and it could not be set aside.</translation>
+    </message>
+</context>
+<context>
     <name>MvVCardBirthdays</name>
     <message>
         <source>%1 (Jahrestag)</source>
@@ -3328,6 +3357,14 @@ Designs photo calendars and prints them.
     <message>
         <source>Die Datei ist leer.</source>
         <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>Eine Auszeichnung hat mehr als %1 Attribute.</source>
+        <translation>A tag has more than %1 attributes.</translation>
+    </message>
+    <message>
+        <source>Der Arbeitsspeicher reicht für diese Datei nicht aus.</source>
+        <translation>There is not enough memory for this file.</translation>
     </message>
 </context>
 <context>
