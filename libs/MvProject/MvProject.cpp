@@ -5,6 +5,26 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvUndoCommandDocument.h"
 
+namespace {
+
+/// Device numbers may be others after a restart of the computer; the file is the same all the same.
+QByteArray withoutDevice(const QByteArray &stamp)
+{
+    return stamp.mid(stamp.indexOf(':'));
+}
+
+/// The stamp of a recovered document's file: the present one only if the file is still as it was under the document.
+QByteArray stampUnder(const QFileInfo &original, const QFileInfo &recovered, const QByteArray &known)
+{
+    const QByteArray present = MvFileGuard::stamp(original);
+    if (!known.isEmpty())
+        return withoutDevice(known) == withoutDevice(present) ? present : known;
+    const bool isOlder = original.exists() && original.lastModified() <= recovered.lastModified();
+    return isOlder ? present : QByteArrayLiteral("unknown");
+}
+
+} // namespace
+
 MvProject::MvProject(QObject *parent)
     : QObject(parent)
     , m_saved(m_document)
@@ -28,11 +48,12 @@ void MvProject::newProject(const MvCalendarDocument &document)
 {
     m_notes.clear();
     m_saved = document;
-    replace(document, QFileInfo(), QFileInfo());
+    replace(document, QFileInfo(), QFileInfo(), QByteArray());
 }
 
 bool MvProject::open(const QFileInfo &file, QString *error)
 {
+    const QByteArray stamp = MvFileGuard::stamp(file); // before reading: a later change is then noticed
     const MvProjectFile::Content content = MvProjectFile::read(file);
     if (error)
         *error = content.error;
@@ -40,15 +61,17 @@ bool MvProject::open(const QFileInfo &file, QString *error)
         return false;
     m_notes = content.notes;
     m_saved = content.document;
-    replace(content.document, file, QFileInfo());
+    replace(content.document, file, QFileInfo(), stamp);
     return true;
 }
 
-void MvProject::openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered)
+void MvProject::openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered,
+                              const QByteArray &originalStamp)
 {
     m_notes.clear();
     m_saved.reset();
-    replace(document, original, recovered);
+    const bool hasFile = !original.filePath().isEmpty();
+    replace(document, original, recovered, hasFile ? stampUnder(original, recovered, originalStamp) : QByteArray());
 }
 
 bool MvProject::save(QString *error)
@@ -109,12 +132,13 @@ void MvProject::apply(const MvCalendarDocument &document)
     Q_EMIT documentChanged();
 }
 
-void MvProject::replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered)
+void MvProject::replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered,
+                        const QByteArray &stamp)
 {
     MvUndoController::instance().clear();
     m_document = document;
     m_file = file.filePath().isEmpty() ? QFileInfo() : QFileInfo(file.absoluteFilePath());
-    m_stamp = m_file.filePath().isEmpty() ? QByteArray() : MvFileGuard::stamp(m_file);
+    m_stamp = stamp;
     m_recoveredFrom = recovered;
     Q_EMIT documentReplaced();
     Q_EMIT fileInfoChanged();

@@ -36,8 +36,10 @@ public:
     /// Opens a file. When it cannot be read, what was open stays, and the error says for a person what, where and what
     /// to do.
     bool open(const QFileInfo &file, QString *error = nullptr);
-    /// Goes on with a document that was not saved to its file: the project is modified. The file may be none.
-    void openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered);
+    /// Goes on with a document that was not saved to its file: the project is modified. The file may be none. Its stamp
+    /// is the one it had under the document; without one, the times of both files tell whether it is another by now.
+    void openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered,
+                       const QByteArray &originalStamp = {});
     /// What of the file that was opened last could not be taken as it stands there, for a person.
     const QStringList &notes() const { return m_notes; }
 
@@ -52,8 +54,11 @@ public:
     QString displayName() const;
     /// The document differs from what was opened or saved.
     bool isModified() const { return m_isModified; }
-    /// Somebody else has written or removed the file since it was opened or saved.
+    /// Somebody else has written or removed the file since it was opened or saved, for a recovered document also
+    /// before it was recovered.
     bool isFileChangedByOthers() const;
+    /// MvFileGuard's stamp of the file when it was opened or saved; empty without a file.
+    const QByteArray &fileStamp() const { return m_stamp; }
     /// The file that a recovered document was read from, until it is saved; else one without a path.
     QFileInfo recoveredFrom() const { return m_recoveredFrom; }
 
@@ -76,13 +81,14 @@ private:
 
     /// Makes it the present state, for commands.
     void apply(const MvCalendarDocument &document);
-    void replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered);
+    void replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered,
+                 const QByteArray &stamp);
     void updateModified();
 
     MvCalendarDocument m_document;
     std::optional<MvCalendarDocument> m_saved; // none for a recovered one: it differs from any file
     QFileInfo m_file;
-    QByteArray m_stamp; // of the file, when it was read or written
+    QByteArray m_stamp; // of the file, when it was read or written; what no file has, if that was another one
     QFileInfo m_recoveredFrom;
     QStringList m_notes;
     bool m_isModified = false;

@@ -60,8 +60,8 @@ void MvProjectAutosave::write()
         u"%1/%2.%3"_s.arg(folder(), QUuid::createUuid().toString(QUuid::WithoutBraces), MvProjectFile::suffix()));
     if (m_file.filePath().isEmpty() && !takeFile(fresh))
         return tellResult(tr("In %1 lässt sich nicht schreiben.").arg(folder()));
-    const QByteArray bytes =
-        MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(), m_project->fileInfo().filePath());
+    const QByteArray bytes = MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(),
+                                                    m_project->fileInfo().filePath(), m_project->fileStamp());
     m_thread.start([this, file = m_file, bytes] {
         const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None);
         QMetaObject::invokeMethod(

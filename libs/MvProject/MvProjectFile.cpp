@@ -28,7 +28,8 @@ QString MvProjectFile::write(const MvCalendarDocument &document, const QFileInfo
     return result.isOk() ? QString() : u"%1: %2"_s.arg(QDir::toNativeSeparators(file.filePath()), result.error);
 }
 
-QByteArray MvProjectFile::toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath)
+QByteArray MvProjectFile::toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath,
+                                  const QByteArray &originalStamp)
 {
-    return MvProjectWriter(folder).write(document, originalPath);
+    return MvProjectWriter(folder).write(document, originalPath, originalStamp);
 }

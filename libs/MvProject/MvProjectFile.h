@@ -19,9 +19,10 @@ public:
     struct Content
     {
         MvCalendarDocument document;
-        QString error;        // for a person: file, place, what to do; empty when the file was read
-        QStringList notes;    // for a person: what could not be taken as it stands
-        QString originalPath; // of a recovered document: the file it belongs to; empty for a new project
+        QString error;            // for a person: file, place, what to do; empty when the file was read
+        QStringList notes;        // for a person: what could not be taken as it stands
+        QString originalPath;     // of a recovered document: the file it belongs to; empty for a new project
+        QByteArray originalStamp; // MvFileGuard's, of that file when the document was opened or saved; may be unknown
 
         bool isRead() const { return error.isEmpty(); }
     };
@@ -36,6 +37,8 @@ public:
     /// place. Any thread.
     static QString write(const MvCalendarDocument &document, const QFileInfo &file);
 
-    /// The whole file. Photos below the folder are written relative to it. The original path is for recovery.
-    static QByteArray toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath = {});
+    /// The whole file. Photos below the folder are written relative to it. The original path and its file's stamp are
+    /// for recovery.
+    static QByteArray toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath = {},
+                              const QByteArray &originalStamp = {});
 };

@@ -35,6 +35,7 @@ void MvProjectReader::readRoot(const QDomElement &root)
                              "aktualisieren."));
     }
     m_content.originalPath = MvXMLParser::textAttribute(root, originalKey);
+    m_content.originalStamp = MvXMLParser::textAttribute(root, originalStampKey).toLatin1();
     MvCalendarDocument &document = m_content.document;
     document.setTitle(MvXMLParser::textAttribute(root, titleKey));
     document.setAuthor(MvXMLParser::textAttribute(root, authorKey));

@@ -57,7 +57,7 @@ bool MvProjectRecovery::open(const Entry &entry, MvProject &project, QString *er
         *error = found;
     if (!found.isEmpty())
         return false;
-    project.openRecovered(content.document, QFileInfo(content.originalPath), entry.file);
+    project.openRecovered(content.document, QFileInfo(content.originalPath), entry.file, content.originalStamp);
     return true;
 }
 

@@ -15,7 +15,9 @@ inline const QString root = QStringLiteral("calendarproject");
 inline const QString versionKey = QStringLiteral("version");
 inline const QString titleKey = QStringLiteral("title");
 inline const QString authorKey = QStringLiteral("author");
-inline const QString originalKey = QStringLiteral("original"); // of a recovered document
+// of a recovered document
+inline const QString originalKey = QStringLiteral("original");
+inline const QString originalStampKey = QStringLiteral("originalstamp");
 
 inline const QString paper = QStringLiteral("paper");
 inline const QString widthKey = QStringLiteral("width");

@@ -46,7 +46,8 @@ void writeInOrder(QXmlStreamWriter &writer, const QDomElement &element)
 
 } // namespace
 
-QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QString &originalPath) const
+QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QString &originalPath,
+                                  const QByteArray &originalStamp) const
 {
     QDomDocument dom;
     QDomElement rootElement = MvXMLBuilder::buildRootElement(dom, root);
@@ -54,6 +55,7 @@ QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QStr
     addIfAny(rootElement, titleKey, document.title());
     addIfAny(rootElement, authorKey, document.author());
     addIfAny(rootElement, originalKey, originalPath);
+    addIfAny(rootElement, originalStampKey, QString::fromLatin1(originalStamp));
     writePaper(rootElement, document.format());
     QDomElement rangeElement = MvXMLBuilder::buildDomElement(rootElement, range);
     MvXMLBuilder::addAttribute(rangeElement, firstKey, monthText(document.range().start()));

@@ -16,7 +16,8 @@ public:
         : m_folder(folder)
     {}
 
-    QByteArray write(const MvCalendarDocument &document, const QString &originalPath) const;
+    QByteArray write(const MvCalendarDocument &document, const QString &originalPath,
+                     const QByteArray &originalStamp) const;
 
 private:
     void writePaper(QDomElement &root, const MvPageFormat &format) const;

@@ -298,6 +298,11 @@ void tst_MvStudioWindow::fileChangedByOthers()
     QCOMPARE(MvProjectFile::write(theirs, file), QString());
     trigger("saveProject");
     QCOMPARE(MvProjectFile::read(file).document.title(), u"Ihres"_s);
+    click(dialog("changedByOthersQuestion"), "otherNameButton");
+    Q_EMIT qobject_cast<QFileDialog *>(dialog("projectFileDialog"))
+        ->fileSelected(file.filePath()); // the same after all
+    dialog("projectFileDialog")->close();
+    QCOMPARE(MvProjectFile::read(file).document.title(), u"Ihres"_s);
     click(dialog("changedByOthersQuestion"), "replaceButton");
     QCOMPARE(MvProjectFile::read(file).document.title(), u"Meins"_s);
 }

@@ -224,7 +224,13 @@ void MvProjectFlow::saveAsThen(const Then &then)
     if (!m_project->fileInfo().filePath().isEmpty())
         dialog->setDirectory(m_project->fileInfo().absolutePath());
     dialog->selectFile(fileNameOf(m_project->displayName()) + u'.' + MvProjectFile::suffix());
-    connect(dialog, &QFileDialog::fileSelected, this, [this, then](const QString &path) { write(path, then); });
+    connect(dialog, &QFileDialog::fileSelected, this, [this, then](const QString &path) {
+        const bool isOwn = QFileInfo(path).absoluteFilePath() == m_project->fileInfo().absoluteFilePath();
+        if (isOwn && m_project->isFileChangedByOthers())
+            askAboutOthersChanges(then); // to replace the file that is seen is not yet to give up what is in it
+        else
+            write(path, then);
+    });
     dialog->open();
 }
 
