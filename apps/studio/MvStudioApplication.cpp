@@ -5,6 +5,7 @@
 #include "MvCore/MvTranslations.h"
 #include "MvCore/MvUndoController.h"
 #include "MvCore/MvVCardAddressBook.h"
+#include "MvFoto/MvPictureIntake.h"
 #include "MvGUIWidgets/MvDialogRequestHandler.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvGUIWidgets/MvTheme.h"
@@ -28,7 +29,10 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
     setUpLanguage(options);
     applyTheme();
     MvInitializer::instance().setup(MvInitializerOption::Everything);
-    MvPlatformIndependent::setInstance(std::make_unique<MvVCardAddressBook>());
+    auto addressBook = std::make_unique<MvVCardAddressBook>();
+    addressBook->setPictureDecoder(
+        [](const QByteArray &bytes) { return MvPictureIntake::decoded(bytes, MvPictureIntake::sideOfEntries); });
+    MvPlatformIndependent::setInstance(std::move(addressBook));
     MvRequestHandler::install(std::make_unique<MvDialogRequestHandler>());
     QApplication::setWindowIcon(MvIconRegistry::instance().applicationIcon());
     m_project = std::make_unique<MvProject>();

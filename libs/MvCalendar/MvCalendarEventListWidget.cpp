@@ -310,8 +310,13 @@ void MvCalendarEventListWidget::importFromContacts()
 {
     auto &registry = MvCalendarEventRegistry::instance();
     const MvCalendarEventList contacts = registry.loadFromSystemAddressBook();
+    MvCalendarEventList birthdays;
+    for (const MvCalendarEvent &contact : contacts) {
+        if (contact.isValid()) // with a name and a date: the others are never stored
+            birthdays.append(contact);
+    }
     const MvCalendarEventList current = events();
-    const MvCalendarEventList added = registry.onlyNewEvents(current, contacts);
+    const MvCalendarEventList added = registry.onlyNewEvents(current, birthdays);
     if (!added.isEmpty()) {
         changeEvents(u"loadEventList"_s, {}, added);
         finishAdding();
@@ -320,5 +325,5 @@ void MvCalendarEventListWidget::importFromContacts()
         u"CalendarEvents ACTION:importFromAddressBook MERGE:%1 STARTCOUNT:%2 FOUNDINADDRESSBOOK:%3 IMPORTED:%4"_s.arg(
             u"set"_s, QString::number(current.size()), QString::number(contacts.size()),
             QString::number(added.size())));
-    registry.playImportedCustomerEntriesProactiveAdvice(int(contacts.size()), int(added.size()));
+    registry.playImportedCustomerEntriesProactiveAdvice(int(birthdays.size()), int(added.size()));
 }

@@ -33,11 +33,11 @@ Order MvVCardBirthdays::settledOrder(const Entry &entry) const
     return proven.size() == 1 ? Order(*proven.begin()) : Order::Unknown;
 }
 
-QString MvVCardBirthdays::openExample() const
+MvVCardDate MvVCardBirthdays::openExample() const
 {
     for (const Entry &entry : m_entries)
         if (entry.date().isAmbiguous() && settledOrder(entry) == Order::Unknown)
-            return entry.date().text();
+            return entry.date();
     return {};
 }
 

@@ -45,8 +45,8 @@ public:
     int withoutDate() const { return m_withoutDate; } // cards
     int withoutName() const { return m_withoutName; } // cards that have a date
 
-    /// A date as it is written whose order nothing settles; empty when no order has to be said.
-    QString openExample() const;
+    /// A date whose order nothing settles; empty when no order has to be said.
+    MvVCardDate openExample() const;
     /// The order is for the dates that nothing else settles.
     Result result(MvVCardDate::Order order = MvVCardDate::Order::Unknown) const;
 

@@ -1,5 +1,7 @@
 #include "MvCore/MvVCardDate.h"
 
+#include "MvCore/MvTypedDate.h"
+
 #include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
@@ -10,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int firstYear = 1583; // of the calendar that is in use
 constexpr qsizetype longestDate = 80;
 
 /// In plain digits, dashes and blanks, without quotation marks and without a time of day.
@@ -96,7 +97,7 @@ struct Maker
 
     QDate checked(const QDate &date) const
     {
-        return date.isValid() && date.year() >= firstYear && date <= today ? date : QDate();
+        return date.isValid() && date.year() >= MvTypedDate::earliestYear && date <= today ? date : QDate();
     }
 };
 

@@ -2,30 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="de">
 <context>
-    <name>MvBirthdayImport</name>
-    <message numerus="yes">
-        <source>%1 von %n Geburtstagen importiert</source>
-        <translation>
-            <numerusform>%1 von %n Geburtstag importiert</numerusform>
-            <numerusform>%1 von %n Geburtstagen importiert</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Alle %n Geburtstage waren schon da.</source>
-        <translation>
-            <numerusform>Der Geburtstag war schon da.</numerusform>
-            <numerusform>Alle %n Geburtstage waren schon da.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>%1 von %n Geburtstagen importiert.</source>
-        <translation>
-            <numerusform>%1 von %n Geburtstag importiert.</numerusform>
-            <numerusform>%1 von %n Geburtstagen importiert.</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>MvCalendarEventFile</name>
     <message numerus="yes">
         <source>%1: %n Fotos liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</source>
@@ -117,6 +93,51 @@
         <translation>
             <numerusform> (und %n weiterer Fehler in dieser Datei)</numerusform>
             <numerusform> (und %n weitere Fehler in dieser Datei)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvImportReport</name>
+    <message numerus="yes">
+        <source>%n Geburtstage importiert.</source>
+        <translation>
+            <numerusform>%n Geburtstag importiert.</numerusform>
+            <numerusform>%n Geburtstage importiert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Geburtstage importiert, aber noch nicht gespeichert.</source>
+        <translation>
+            <numerusform>%n Geburtstag importiert, aber noch nicht gespeichert.</numerusform>
+            <numerusform>%n Geburtstage importiert, aber noch nicht gespeichert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Alle %n Geburtstage waren schon da.</source>
+        <translation>
+            <numerusform>Der Geburtstag war schon da.</numerusform>
+            <numerusform>Alle %n Geburtstage waren schon da.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n waren schon da.</source>
+        <translation>
+            <numerusform>%n war schon da.</numerusform>
+            <numerusform>%n waren schon da.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Visitenkarten haben keinen Geburtstag.</source>
+        <translation>
+            <numerusform>%n Visitenkarte hat keinen Geburtstag.</numerusform>
+            <numerusform>%n Visitenkarten haben keinen Geburtstag.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Visitenkarten mit Geburtstag haben keinen Namen.</source>
+        <translation>
+            <numerusform>%n Visitenkarte mit Geburtstag hat keinen Namen.</numerusform>
+            <numerusform>%n Visitenkarten mit Geburtstag haben keinen Namen.</numerusform>
         </translation>
     </message>
 </context>

@@ -13,6 +13,13 @@
     </message>
 </context>
 <context>
+    <name>MvAddressBookImport</name>
+    <message>
+        <source>Das Bild ist zu groß.</source>
+        <translation>The picture is too large.</translation>
+    </message>
+</context>
+<context>
     <name>MvBirthdayImport</name>
     <message>
         <source>Geburtstage aus einem Adressbuch importieren</source>
@@ -35,41 +42,32 @@
         <translation>Import birthdays</translation>
     </message>
     <message>
-        <source>Ein Adressbuch ließ sich nicht lesen.</source>
-        <translation>An address book could not be read.</translation>
+        <source>Import abgebrochen; es wurde nichts übernommen</source>
+        <translation>Import cancelled; nothing was taken over</translation>
     </message>
     <message>
-        <source>In den Visitenkarten steht kein Geburtstag.</source>
-        <translation>There is no birthday in the contact cards.</translation>
+        <source>Ist mit „%1“ der %2 gemeint?</source>
+        <translation>Does “%1” mean %2?</translation>
     </message>
     <message>
-        <source>Tragen Sie die Geburtstage im Adressbuch ein, und exportieren Sie es noch einmal als vCard (.vcf).</source>
-        <translation>Enter the birthdays in the address book and export it once more as vCard (.vcf).</translation>
+        <source>In der Datei steht nirgends, ob der Tag oder der Monat vorn steht. Ihre Antwort gilt für alle Daten, die so geschrieben sind.</source>
+        <translation>Nothing in the file says whether the day or the month comes first. Your answer holds for all dates that are written like this.</translation>
     </message>
     <message>
-        <source>Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit Bearbeiten &gt; Rückgängig.</source>
-        <translation>They are now on their days. You can take this back with Edit &gt; Undo.</translation>
+        <source>Ja, der %1</source>
+        <translation>Yes, %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 von %n Geburtstagen importiert</source>
-        <translation>
-            <numerusform>%1 of %n birthday imported</numerusform>
-            <numerusform>%1 of %n birthdays imported</numerusform>
-        </translation>
+    <message>
+        <source>Nein, der %1</source>
+        <translation>No, %1</translation>
     </message>
-    <message numerus="yes">
-        <source>Alle %n Geburtstage waren schon da.</source>
-        <translation>
-            <numerusform>The birthday was already there.</numerusform>
-            <numerusform>All %n birthdays were already there.</numerusform>
-        </translation>
+    <message>
+        <source>Diese auslassen</source>
+        <translation>Leave these out</translation>
     </message>
-    <message numerus="yes">
-        <source>%1 von %n Geburtstagen importiert.</source>
-        <translation>
-            <numerusform>%1 of %n birthday imported.</numerusform>
-            <numerusform>%1 of %n birthdays imported.</numerusform>
-        </translation>
+    <message>
+        <source>Ein anderes Programm arbeitet gerade mit der Datei; gespeichert wird danach.</source>
+        <translation>Another program is working with the file; it will be saved afterwards.</translation>
     </message>
 </context>
 <context>
@@ -1571,6 +1569,79 @@
     </message>
 </context>
 <context>
+    <name>MvImportReport</name>
+    <message numerus="yes">
+        <source>%n Geburtstage importiert.</source>
+        <translation>
+            <numerusform>%n birthday imported.</numerusform>
+            <numerusform>%n birthdays imported.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Geburtstage importiert, aber noch nicht gespeichert.</source>
+        <translation>
+            <numerusform>%n birthday imported, but not yet saved.</numerusform>
+            <numerusform>%n birthdays imported, but not yet saved.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Alle %n Geburtstage waren schon da.</source>
+        <translation>
+            <numerusform>The birthday was there already.</numerusform>
+            <numerusform>All %n birthdays were there already.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ein Adressbuch ließ sich nicht lesen.</source>
+        <translation>An address book could not be read.</translation>
+    </message>
+    <message>
+        <source>In den Visitenkarten steht kein Geburtstag.</source>
+        <translation>There is no birthday on the contact cards.</translation>
+    </message>
+    <message>
+        <source>In den Visitenkarten steht kein Geburtstag, der sich lesen lässt.</source>
+        <translation>There is no birthday on the contact cards that can be read.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n waren schon da.</source>
+        <translation>
+            <numerusform>%n was there already.</numerusform>
+            <numerusform>%n were there already.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Visitenkarten haben keinen Geburtstag.</source>
+        <translation>
+            <numerusform>%n contact card has no birthday.</numerusform>
+            <numerusform>%n contact cards have no birthday.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Visitenkarten mit Geburtstag haben keinen Namen.</source>
+        <translation>
+            <numerusform>%n contact card with a birthday has no name.</numerusform>
+            <numerusform>%n contact cards with a birthday have no name.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit Bearbeiten &gt; Rückgängig.</source>
+        <translation>They are now on their days. Edit &gt; Undo takes this back.</translation>
+    </message>
+    <message>
+        <source>Tragen Sie die Geburtstage im Adressbuch ein, und exportieren Sie es noch einmal als vCard (.vcf).</source>
+        <translation>Enter the birthdays in the address book, and export it once more as vCard (.vcf).</translation>
+    </message>
+    <message>
+        <source>Nicht verstanden (%1):</source>
+        <translation>Not understood (%1):</translation>
+    </message>
+    <message>
+        <source>Ohne Bild, denn es ließ sich nicht übernehmen (%1):</source>
+        <translation>Without a picture, for it could not be taken over (%1):</translation>
+    </message>
+</context>
+<context>
     <name>MvInPlaceWriter</name>
     <message>
         <source>Die bisherige Fassung liegt in %1.</source>
@@ -2062,6 +2133,13 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Foto fehlt</source>
         <translation>Photo missing</translation>
+    </message>
+</context>
+<context>
+    <name>MvPictureIntake</name>
+    <message>
+        <source>Das Bild ließ sich nicht umwandeln.</source>
+        <translation>The picture could not be converted.</translation>
     </message>
 </context>
 <context>

@@ -400,12 +400,14 @@ void tst_MvCalendarEventListWidget::importsContactsOnce()
     auto contacts = std::make_unique<Contacts>();
     contacts->persons.append(MvSimplePerson(u"Oma"_qs, QDate(1940, 5, 6), QImage(), QUuid::createUuid()));
     contacts->persons.append(MvSimplePerson(u"Opa"_qs, QDate(1604, 2, 29), QImage(), QUuid::createUuid()));
+    contacts->persons.append(MvSimplePerson(u"Ohne Geburtstag"_qs, QDate(), QImage(), QUuid::createUuid()));
+    contacts->persons.append(MvSimplePerson(QString(), QDate(1990, 5, 17), QImage(), QUuid::createUuid()));
     MvPlatformIndependent::setInstance(std::move(contacts));
     MvCalendarEventListWidget list;
     const std::unique_ptr<QPushButton> button(list.createImportFromContactsButton(nullptr));
     QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
     QSignalSpy advice(&MvProactiveHelpController::instance(), &MvProactiveHelpController::adviceRequested);
-    const QString logged = u"CalendarEvents ACTION:importFromAddressBook MERGE:set STARTCOUNT:%1 FOUNDINADDRESSBOOK:2 "
+    const QString logged = u"CalendarEvents ACTION:importFromAddressBook MERGE:set STARTCOUNT:%1 FOUNDINADDRESSBOOK:4 "
                            "IMPORTED:%2"_qs;
     button->click();
     QCOMPARE(names().size(), 5);

@@ -159,7 +159,7 @@ void tst_MvVCardReader::orderOfDayAndMonth()
         else
             birthdays.add(card);
     }
-    QCOMPARE(birthdays.openExample(), example);
+    QCOMPARE(birthdays.openExample().text(), example);
     QStringList found;
     for (const auto &person : birthdays.result(MvVCardDate::Order::DayFirst).persons)
         found.append(person.date.toString(Qt::ISODate));

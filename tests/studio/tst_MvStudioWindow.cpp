@@ -47,6 +47,9 @@ private Q_SLOTS:
     void cancelledPreview();
     void leapDayEntries();
     void birthdays();
+    void orderOfBirthdays_data();
+    void orderOfBirthdays();
+    void birthdaysThatAreNotSaved();
     void settings();
 
 private:
@@ -65,6 +68,8 @@ private:
     void click(QWidget *dialog, const char *button) const;
     void chooseFile(const char *dialogName, const QString &path) const;
     void rename(const QString &title) const;
+    void importCards(const QByteArrayList &cards);
+    QString importReport() const;
     QString path(const QString &name) const { return m_folder->filePath(name); }
 
     std::unique_ptr<MvStudioApplication> m_studio;
@@ -553,28 +558,113 @@ void tst_MvStudioWindow::leapDayEntries()
     QVERIFY(!shown().contains(u"Dora"_s));
 }
 
+void tst_MvStudioWindow::importCards(const QByteArrayList &cards)
+{
+    QFile file(path(u"kontakte.vcf"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    for (const QByteArray &card : cards)
+        file.write("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + card + "\r\nEND:VCARD\r\n");
+    file.close();
+    trigger("importBirthdays");
+    chooseFile("contactsFileDialog", file.fileName());
+}
+
+/// What the import tells at its end; an empty text when it does not come.
+QString tst_MvStudioWindow::importReport() const
+{
+    const auto box = [this] {
+        auto *error = dialog<QMessageBox>("errorMessage");
+        return error ? error : dialog<QMessageBox>("informationMessage");
+    };
+    if (!QTest::qWaitFor([&] { return box() && !window()->birthdayImport()->isRunning(); }))
+        return {};
+    const QString text = box()->text() + u'\n' + box()->informativeText();
+    delete box();
+    return text;
+}
+
 void tst_MvStudioWindow::birthdays()
 {
-    QFile cards(path(u"kontakte.vcf"_s));
-    QVERIFY(cards.open(QIODevice::WriteOnly));
-    for (const QByteArray &name : {QByteArray("Anna"), QByteArray("Bert"), QByteArray("Carl")})
-        cards.write("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + name + "\r\nBDAY:19900517\r\nEND:VCARD\r\n");
-    cards.close();
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    const auto entry = [](const QString &name) {
+        return MvCalendarEvent(name, QDate(1950, 5, 1).startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
+    };
+    const auto names = [&] {
+        QStringList all;
+        for (const MvCalendarEvent &event : registry.activeEventList())
+            all.append(event.description());
+        return all.join(u' ');
+    };
+    registry.setEvents({entry(u"Zoe"_s), entry(u"Udo"_s)});
     QSignalSpy finished(window()->birthdayImport(), &MvBirthdayImport::finished);
-    for (const int imported : {3, 0}) {
-        trigger("importBirthdays");
-        chooseFile("contactsFileDialog", cards.fileName());
-        QTRY_COMPARE(finished.size(), 1);
-        QCOMPARE(finished.takeFirst(), (QVariantList{3, imported}));
-        QCOMPARE(registry.activeEventList().size(), 3);
-        dialog<QMessageBox>("informationMessage")->close();
+    const QByteArrayList cards{"Anna\r\nBDAY:19900517", "Bert\r\nBDAY:19900518", "Carl\r\nBDAY:19900230", "Dora",
+                               "\r\nBDAY:19900517"};
+    for (const int imported : {2, 0}) {
+        importCards(cards);
+        const QString report = importReport();
+        QCOMPARE(finished.takeFirst(), (QVariantList{2, imported}));
+        QCOMPARE(names(), u"Zoe Udo Anna Bert"_s);
+        QVERIFY(
+            report.startsWith(imported > 0 ? u"2 Geburtstage importiert."_s : u"Alle 2 Geburtstage waren schon da."_s));
+        for (const QString &part : {u"(1):\nCarl: 19900230"_s, u"keinen Geburtstag"_s, u"keinen Namen"_s})
+            QVERIFY2(report.contains(part), qPrintable(report));
     }
     QCOMPARE(window()->findChild<QAction *>(u"undo"_s)->text().remove(u'&'), u"Rückgängig: Geburtstage importieren"_s);
+
+    MvCalendarEventRegistry other; // another program adds one, which comes in with the next change here
+    other.changeEvent({}, entry(u"Xaver"_s));
+    registry.setEvents(registry.activeEventList());
     trigger("undo");
-    QCOMPARE(registry.activeEventList().size(), 0);
+    QCOMPARE(names(), u"Zoe Udo Xaver"_s);
     trigger("redo");
-    QCOMPARE(registry.activeEventList().size(), 3);
+    QCOMPARE(names(), u"Zoe Udo Xaver Anna Bert"_s);
+    MvCalendarEventList renamed = registry.activeEventList();
+    renamed.last().setEventName(u"Berti"_s); // elsewhere
+    registry.setEvents(renamed);
+    trigger("undo");
+    QCOMPARE(names(), u"Zoe Udo Xaver Berti"_s);
+}
+
+void tst_MvStudioWindow::orderOfBirthdays_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<QList<QDate>>("dates");
+    const QDate anna(1990, 5, 17);
+    QTest::newRow("day first") << 0 << QList{anna, QDate(1985, 12, 4)};
+    QTest::newRow("month first") << 1 << QList{anna, QDate(1985, 4, 12)};
+    QTest::newRow("left out") << 2 << QList{anna};
+    QTest::newRow("cancelled") << -1 << QList<QDate>();
+}
+
+void tst_MvStudioWindow::orderOfBirthdays()
+{
+    QFETCH(int, button);
+    const auto question = [this] { return window()->findChild<QMessageBox *>(); };
+    importCards({"Anna\r\nBDAY:19900517", "Bert\r\nBDAY:04/12/1985"});
+    QTRY_VERIFY(question());
+    QVERIFY(question()->text().contains(u"04/12/1985"_s));
+    if (button < 0)
+        window()->birthdayImport()->cancel();
+    question()->buttons().at(qMax(0, button))->click();
+    const QString report = button < 0 ? QString() : importReport();
+    QVERIFY(!window()->birthdayImport()->isRunning());
+    QCOMPARE(report.contains(u"Bert: 04/12/1985"_s), button == 2);
+    QList<QDate> dates;
+    for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList())
+        dates.append(event.dateTime().date());
+    QTEST(dates, "dates");
+}
+
+void tst_MvStudioWindow::birthdaysThatAreNotSaved()
+{
+    const QString file = MvCalendarEventRegistry::instance().calendarEventsDir().filePath();
+    QFile::remove(file);
+    QVERIFY(QDir().mkdir(file)); // no file can take its place
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"calendarEvents\\.xml"_s));
+    importCards({"Anna\r\nBDAY:19900517"});
+    const QString report = importReport();
+    QVERIFY(QDir().rmdir(file));
+    QVERIFY2(report.contains(u"nicht gespeichert"_s) && report.contains(file), qPrintable(report));
 }
 
 void tst_MvStudioWindow::settings()

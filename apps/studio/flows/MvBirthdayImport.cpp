@@ -1,49 +1,46 @@
 #include "flows/MvBirthdayImport.h"
 
+#include "MvCalendar/MvAddressBookImport.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCore/MvPlatformIndependent.h"
+#include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCore/MvApplicationLocale.h"
+#include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
-#include "MvCore/MvVCardAddressBook.h"
+#include "common/MvProgressDialog.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
+#include "flows/MvImportReport.h"
 #include "flows/MvUndoCommandEventList.h"
 
 #include <QFileDialog>
-#include <QThread>
-#include <QTimer>
+#include <QFutureWatcher>
+#include <QPromise>
+#include <QThreadPool>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
 
+using Order = MvVCardDate::Order;
+
 namespace {
 
-constexpr qsizetype personsAtATime = 4; // photos are copied: some of these take a while
-
-/// Hands out people that have been read already.
-class ReadAddressBook : public MvPlatformIndependent
-{
-public:
-    explicit ReadAddressBook(const MvSimplePersonList &persons)
-        : m_persons(persons)
-    {}
-
-    MvSimplePersonList addressBookContacts() override { return m_persons; }
-
-private:
-    MvSimplePersonList m_persons;
-};
+constexpr int progressInterval = 100; // milliseconds
+constexpr int progressDelay = 400;    // until a dialog shows it: small files are read by then
+constexpr int progressSteps = 1000;
 
 } // namespace
 
 MvBirthdayImport::MvBirthdayImport(QWidget *window)
     : QObject(window)
     , m_window(window)
-{}
+{
+    connect(&m_progressTimer, &QTimer::timeout, this, &MvBirthdayImport::showProgress);
+}
 
 MvBirthdayImport::~MvBirthdayImport()
 {
-    if (m_thread)
-        m_thread->wait();
+    if (m_import)
+        m_import->cancel();
 }
 
 void MvBirthdayImport::start()
@@ -60,70 +57,123 @@ void MvBirthdayImport::start()
 
 void MvBirthdayImport::import(const QStringList &files)
 {
-    if (m_isRunning || files.isEmpty())
+    if (isRunning() || files.isEmpty())
         return;
-    m_isRunning = true;
     MvStudioSettings::setFolder(u"contacts"_s, QFileInfo(files.first()).absolutePath());
     Q_EMIT message(tr("Das Adressbuch wird gelesen …"));
-    const auto book = std::make_shared<MvVCardAddressBook>();
     QList<QFileInfo> infos;
     for (const QString &file : files)
         infos.append(QFileInfo(file));
-    book->setFiles(infos);
-    const auto persons = std::make_shared<MvSimplePersonList>();
-    m_thread.reset(QThread::create([book, persons] { *persons = book->addressBookContacts(); }));
-    connect(m_thread.get(), &QThread::finished, this, [this, book, persons] { take(*persons, book->lastError()); });
-    m_thread->start();
+    m_import = std::make_shared<MvAddressBookImport>(infos);
+    runInBackground([](MvAddressBookImport &import) { import.readCards(); }, &MvBirthdayImport::askForOrder);
 }
 
-void MvBirthdayImport::take(const MvSimplePersonList &persons, const QString &error)
+void MvBirthdayImport::runInBackground(const std::function<void(MvAddressBookImport &)> &work,
+                                       void (MvBirthdayImport::*then)())
 {
-    m_thread->wait();
-    m_thread.release()->deleteLater(); // it is still emitting
-    m_waiting = persons;
-    m_found = persons.size();
-    m_error = error;
-    m_events.clear();
-    takeSome();
+    m_progressTimer.start(progressDelay);
+    auto *watcher = new QFutureWatcher<void>(this);
+    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, then, import = m_import] {
+        watcher->deleteLater();
+        if (import != m_import) // cancelled
+            return;
+        hideProgress();
+        (this->*then)();
+    });
+    const auto promise = std::make_shared<QPromise<void>>();
+    promise->start();
+    watcher->setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, work, import = m_import] {
+        work(*import);
+        promise->finish();
+    });
 }
 
-void MvBirthdayImport::takeSome()
+void MvBirthdayImport::showProgress()
 {
-    if (m_waiting.isEmpty()) {
-        finish();
+    if (!m_progress) {
+        m_progress = new MvProgressDialog(tr("Geburtstage importieren"), tr("Das Adressbuch wird gelesen …"), m_window);
+        connect(m_progress, &MvProgressDialog::canceled, this, &MvBirthdayImport::cancel);
+        m_progress->open();
+        m_progressTimer.start(progressInterval);
+    }
+    m_progress->setProgress(int(m_import->progress() * progressSteps), progressSteps);
+}
+
+void MvBirthdayImport::hideProgress()
+{
+    m_progressTimer.stop();
+    if (m_progress)
+        m_progress->finish();
+    m_progress = nullptr;
+}
+
+void MvBirthdayImport::cancel()
+{
+    if (!isRunning())
+        return;
+    m_import->cancel();
+    m_import.reset(); // its photos go when the thread lets go of it
+    hideProgress();
+    Q_EMIT message(tr("Import abgebrochen; es wurde nichts übernommen"));
+    Q_EMIT finished(0, 0);
+}
+
+/// Of a date that is read differently in different countries.
+void MvBirthdayImport::askForOrder()
+{
+    const MvVCardDate example = m_import->openExample();
+    if (example.isEmpty()) {
+        makeEntries(Order::Unknown);
         return;
     }
-    MvSimplePersonList some;
-    while (!m_waiting.isEmpty() && some.size() < personsAtATime)
-        some.append(m_waiting.takeFirst());
-    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
-    auto former = MvPlatformIndependent::setInstance(std::make_unique<ReadAddressBook>(some));
-    const MvCalendarEventList events = registry.loadFromSystemAddressBook();
-    MvPlatformIndependent::setInstance(std::move(former));
-    m_events.append(registry.onlyNewEvents(registry.activeEventList(), events));
-    QTimer::singleShot(0, this, &MvBirthdayImport::takeSome);
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    const auto read = [&](Order order) { return locale.toString(example.date(order), u"d. MMMM"_s); };
+    MvRequestHandler::ChoiceRequest request;
+    request.title = tr("Geburtstage importieren");
+    request.text = tr("Ist mit „%1“ der %2 gemeint?").arg(example.text(), read(Order::DayFirst));
+    request.details =
+        tr("In der Datei steht nirgends, ob der Tag oder der Monat vorn steht. Ihre Antwort gilt für alle "
+           "Daten, die so geschrieben sind.");
+    request.buttons = {tr("Ja, der %1").arg(read(Order::DayFirst)), tr("Nein, der %1").arg(read(Order::MonthFirst)),
+                       tr("Diese auslassen")};
+    const auto answered = [self = QPointer(this), import = std::weak_ptr(m_import)](int button) {
+        static constexpr Order orders[] = {Order::DayFirst, Order::MonthFirst, Order::Unknown};
+        if (self && self->m_import && self->m_import == import.lock())
+            self->makeEntries(orders[qBound(0, button, 2)]);
+    };
+    MvRequestHandler::current().askChoice(request, m_window, answered);
+}
+
+void MvBirthdayImport::makeEntries(Order order)
+{
+    runInBackground([order, known = MvCalendarEventRegistry::instance().activeEventList()](
+                        MvAddressBookImport &import) { import.makeEntries(known, order); },
+                    &MvBirthdayImport::finish);
 }
 
 void MvBirthdayImport::finish()
 {
-    m_isRunning = false;
-    const auto imported = m_events.size();
-    if (imported > 0)
-        MvUndoController::instance().push(new MvUndoCommandEventList(tr("Geburtstage importieren"), m_events));
-    m_events.clear();
-    Q_EMIT message(tr("%1 von %n Geburtstagen importiert", nullptr, int(m_found)).arg(imported));
-    if (!m_error.isEmpty())
-        MvStudioMessage::error(m_window, tr("Ein Adressbuch ließ sich nicht lesen."), m_error);
-    else if (m_found == 0)
-        MvStudioMessage::information(m_window, tr("In den Visitenkarten steht kein Geburtstag."),
-                                     tr("Tragen Sie die Geburtstage im Adressbuch ein, und exportieren Sie es noch "
-                                        "einmal als vCard (.vcf)."));
-    else if (imported == 0)
-        MvStudioMessage::information(m_window, tr("Alle %n Geburtstage waren schon da.", nullptr, int(m_found)));
+    const std::shared_ptr<MvAddressBookImport> import = std::exchange(m_import, nullptr);
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    const MvCalendarEventList events = registry.onlyNewEvents(registry.activeEventList(), import->takeEvents());
+    if (!events.isEmpty())
+        MvUndoController::instance().push(new MvUndoCommandEventList(tr("Geburtstage importieren"), events));
+    const MvImportReport report(import->report(), int(events.size()), problemOfFile());
+    Q_EMIT message(report.summary());
+    if (report.isError())
+        MvStudioMessage::error(m_window, report.summary(), report.details());
     else
-        MvStudioMessage::information(m_window,
-                                     tr("%1 von %n Geburtstagen importiert.", nullptr, int(m_found)).arg(imported),
-                                     tr("Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit "
-                                        "Bearbeiten > Rückgängig."));
-    Q_EMIT finished(int(m_found), int(imported));
+        MvStudioMessage::information(m_window, report.summary(), report.details());
+    Q_EMIT finished(import->report().found, int(events.size()));
+}
+
+/// Why the entries are not on disk yet; empty when they are.
+QString MvBirthdayImport::problemOfFile()
+{
+    const MvCalendarEventStore &file = MvCalendarEventRegistry::instance().userFile();
+    if (!file.hasUnsavedChanges())
+        return {};
+    const QString text = file.problem().text;
+    return text.isEmpty() ? tr("Ein anderes Programm arbeitet gerade mit der Datei; gespeichert wird danach.") : text;
 }

@@ -1,18 +1,24 @@
 #pragma once
 
-#include "MvCalendar/MvCalendarEventList.h"
-#include "MvCore/MvSimplePersonList.h"
+#include "MvCore/MvVCardDate.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
+#include <QTimer>
 
+#include <functional>
 #include <memory>
 
-class QThread;
+class MvAddressBookImport;
+class MvProgressDialog;
 class QWidget;
 
 /// Takes birthdays from address books over into the personal entries: as one step that can be undone, and each person
 /// once, however often it is imported.
+///
+/// Files and photos are read in the background. It can be cancelled at any time; neither that nor the end of this
+/// object waits for the reading.
 class MvBirthdayImport : public QObject
 {
     Q_OBJECT
@@ -22,11 +28,14 @@ public:
     explicit MvBirthdayImport(QWidget *window);
     ~MvBirthdayImport() override;
 
+    bool isRunning() const { return m_import != nullptr; }
+
 public Q_SLOTS:
     /// Asks for files.
     void start();
-    /// Reads files in a thread of their own.
+    /// Reads files. Does nothing while others are read.
     void import(const QStringList &files);
+    void cancel();
 
 Q_SIGNALS:
     void message(const QString &text);
@@ -34,15 +43,16 @@ Q_SIGNALS:
     void finished(int found, int imported);
 
 private:
-    void take(const MvSimplePersonList &persons, const QString &error);
-    void takeSome();
+    void runInBackground(const std::function<void(MvAddressBookImport &)> &work, void (MvBirthdayImport::*then)());
+    void askForOrder();
+    void makeEntries(MvVCardDate::Order order);
     void finish();
+    static QString problemOfFile();
+    void showProgress();
+    void hideProgress();
 
     QWidget *m_window;
-    MvSimplePersonList m_waiting;
-    MvCalendarEventList m_events; // of those that are done
-    QString m_error;
-    qsizetype m_found = 0;
-    std::unique_ptr<QThread> m_thread; // while files are read
-    bool m_isRunning = false;
+    std::shared_ptr<MvAddressBookImport> m_import; // while it runs
+    QPointer<MvProgressDialog> m_progress;
+    QTimer m_progressTimer;
 };

@@ -3,7 +3,8 @@
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCore/MvUndoCommand.h"
 
-/// Adds many personal entries at once: one step, one writing of the file.
+/// Adds many personal entries at once: one step, one writing of the file. Undoing takes away these alone: what has come
+/// since from elsewhere stays, and so does one of them that was changed there.
 class MvUndoCommandEventList : public MvUndoCommand
 {
 public:
@@ -13,6 +14,5 @@ public:
     void undoCore() override;
 
 private:
-    MvCalendarEventList m_added;
-    MvCalendarEventList m_before;
+    MvCalendarEventList m_added; // as they are in the list
 };

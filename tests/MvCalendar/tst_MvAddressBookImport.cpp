@@ -1,0 +1,164 @@
+#include "MvCalendar/MvAddressBookImport.h"
+#include "MvImageLoader/MvImageLoader.h"
+#include "MvTest.h"
+
+#include <QBuffer>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+/// Files of cards become entries with photos.
+class tst_MvAddressBookImport : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void photos_data();
+    void photos();
+    void newOnesAlone();
+    void changedBetweenTheSteps();
+    void nothingStaysOfWhatIsDropped();
+
+private:
+    QFileInfo write(const QByteArray &cards) const;
+    static QDir folder() { return MvCalendarEvent::imageDirectory(); }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+namespace {
+
+QByteArray card(const QByteArray &name, const QByteArray &picture, const QByteArray &rest = "BDAY:19900517")
+{
+    return "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + name + "\r\nPHOTO;ENCODING=b:" + picture.toBase64() + "\r\n" + rest +
+           "\r\nEND:VCARD\r\n";
+}
+
+QByteArray picture(const char *format, const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return image.save(&buffer, format) ? bytes : QByteArray();
+}
+
+/// As a camera says that is held upright: orientation 6.
+QByteArray turned(QByteArray jpeg)
+{
+    return jpeg.insert(2, QByteArray::fromHex("ffe10022457869660000"
+                                              "4d4d002a00000008"
+                                              "0001011200030000000100060000"
+                                              "00000000"));
+}
+
+} // namespace
+
+void tst_MvAddressBookImport::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    m_dir = std::make_unique<QTemporaryDir>();
+    for (const QString &file : folder().entryList(QDir::Files))
+        folder().remove(file);
+}
+
+QFileInfo tst_MvAddressBookImport::write(const QByteArray &cards) const
+{
+    QFile file(m_dir->filePath(u"karten.vcf"_s));
+    return file.open(QIODevice::WriteOnly) && file.write(cards) == cards.size() ? QFileInfo(file.fileName())
+                                                                                : QFileInfo();
+}
+
+void tst_MvAddressBookImport::photos_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QByteArray>("format"); // of the photo; empty without one
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("isKept"); // byte by byte
+    QTest::newRow("JPEG") << picture("jpeg", {720, 600}) << QByteArray("jpeg") << QSize(720, 600) << true;
+    QTest::newRow("PNG") << picture("png", {60, 1200}) << QByteArray("png") << QSize(60, 1200) << true;
+    QTest::newRow("turned") << turned(picture("jpeg", {400, 300})) << QByteArray("jpeg") << QSize(300, 400) << false;
+    QTest::newRow("large") << picture("jpeg", {2400, 1200}) << QByteArray("jpeg") << QSize(1200, 600) << false;
+    QTest::newRow("another format") << picture("bmp", {40, 30}) << QByteArray("png") << QSize(40, 30) << false;
+    QTest::newRow("no picture") << QByteArray("GIF89a, or so it says") << QByteArray() << QSize() << false;
+    QTest::newRow("too large") << QByteArray(20'000'000, 'x') << QByteArray() << QSize() << false;
+}
+
+void tst_MvAddressBookImport::photos()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QByteArray, format);
+    MvAddressBookImport import({write(card("Anna: Meier/..", bytes, "BDAY:19900517\r\nANNIVERSARY:20100612"))});
+    import.readCards();
+    import.makeEntries({}, MvVCardDate::Order::Unknown);
+    const MvCalendarEventList events = import.takeEvents();
+    QCOMPARE(events.size(), 2);
+    const QStringList files = folder().entryList(QDir::Files); // one, which both share
+    QCOMPARE(files.size(), format.isEmpty() ? 0 : 1);
+    QCOMPARE(import.report().unreadablePictures.size(), format.isEmpty() ? 1 : 0);
+    QCOMPARE(events.first().foto().isValid(), !format.isEmpty());
+    if (format.isEmpty())
+        return;
+    QFile file(events.last().imagePath().filePath());
+    QCOMPARE(folder().absoluteFilePath(files.first()), file.fileName());
+    QCOMPARE(MvImageLoader::format(QFileInfo(file)), format);
+    QTEST(MvImageLoader::instance().size(QFileInfo(file)), "size");
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QTEST(file.readAll() == bytes, "isKept");
+}
+
+void tst_MvAddressBookImport::newOnesAlone()
+{
+    const QByteArray photo = picture("png", {4, 4});
+    const QFileInfo file = write(card("Anna", photo) + card("Bert", photo) + card("Bert", photo) +
+                                 card("Carl", photo, "BDAY:12/04/1985") + card("Ohne", photo, "TEL:1"));
+    MvCalendarEventList known;
+    for (const auto order : {MvVCardDate::Order::Unknown, MvVCardDate::Order::MonthFirst}) {
+        MvAddressBookImport import({file});
+        import.readCards();
+        QCOMPARE(import.openExample().text(), u"12/04/1985"_s);
+        import.makeEntries(known, order);
+        const bool isFirst = known.isEmpty();
+        QCOMPARE(import.report().found, isFirst ? 2 : 3);
+        QCOMPARE(import.report().known, isFirst ? 0 : 2);
+        QCOMPARE(import.report().withoutDate, 1);
+        QCOMPARE(import.report().notUnderstood, isFirst ? QStringList{u"Carl: 12/04/1985"_s} : QStringList());
+        known.append(import.takeEvents());
+        QCOMPARE(folder().entryList(QDir::Files).size(), known.size());
+    }
+    QCOMPARE(known.size(), 3);
+    QCOMPARE(known.last().dateTime().date(), QDate(1985, 12, 4));
+}
+
+/// Nobody gets the face of another one whose card stands there now.
+void tst_MvAddressBookImport::changedBetweenTheSteps()
+{
+    const QByteArray photo = picture("png", {4, 4});
+    MvAddressBookImport import({write(card("Anna", photo))});
+    import.readCards();
+    write(card("Bert", photo) + card("Anna", photo));
+    import.makeEntries({}, MvVCardDate::Order::Unknown);
+    QVERIFY(!import.takeEvents().first().foto().isValid());
+}
+
+void tst_MvAddressBookImport::nothingStaysOfWhatIsDropped()
+{
+    const QFileInfo file = write(card("Anna", picture("png", {4, 4})));
+    {
+        MvAddressBookImport import({file});
+        import.readCards();
+        import.makeEntries({}, MvVCardDate::Order::Unknown);
+        QCOMPARE(folder().entryList(QDir::Files).size(), 1);
+    }
+    QCOMPARE(folder().entryList(QDir::Files).size(), 0);
+    MvAddressBookImport cancelled({file});
+    cancelled.cancel();
+    cancelled.readCards();
+    cancelled.makeEntries({}, MvVCardDate::Order::Unknown);
+    QVERIFY(cancelled.report().errors.isEmpty());
+    QVERIFY(cancelled.takeEvents().isEmpty());
+}
+
+MV_TEST_MAIN(tst_MvAddressBookImport)
+#include "tst_MvAddressBookImport.moc"
