@@ -1,0 +1,368 @@
+#include "MvStorageOperation.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvExportTarget.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectAutosave.h"
+#include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectRecovery.h"
+#include "MvProjectFixture.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QPainter>
+
+#include <algorithm>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString nameOf(int state)
+{
+    return u"Stand %1"_s.arg(state);
+}
+
+int stateOf(const QString &name)
+{
+    return name.startsWith(u"Stand "_s) ? name.mid(6).toInt() : -1;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// ---- entries
+
+constexpr int companions = 20; // further entries, to make the file larger
+
+MvCalendarEventList entries(int state)
+{
+    MvCalendarEventList events;
+    for (int i = 0; i <= companions; ++i)
+        events.append(MvCalendarEvent(i == 0 ? nameOf(state) : u"Gast %1/%2"_s.arg(i).arg(state),
+                                      QDate(1960 + i, 5, 17).startOfDay(), true, MvFoto(), QUuid::createUuid(), {}));
+    return events;
+}
+
+/// The state of a file of entries whose other entries are there and of the same state.
+int stateOfEntries(const QString &path)
+{
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(path));
+    if (content.isMissing)
+        return 0;
+    if (!content.isRead() || !content.isComplete || content.events.size() != companions + 1)
+        return -1;
+    const int state = stateOf(content.events.first().description());
+    const QString suffix = u'/' + QString::number(state);
+    const bool areOfOneState =
+        std::all_of(content.events.begin() + 1, content.events.end(),
+                    [&suffix](const MvCalendarEvent &event) { return event.description().endsWith(suffix); });
+    return areOfOneState ? state : -1;
+}
+
+QString ownList(const QDir &disk)
+{
+    return disk.filePath(u"data/calendarEvents.xml"_s);
+}
+
+/// What the person is told about saving.
+QString toldProblem()
+{
+    const MvCalendarEventStore::Problem problem = MvCalendarEventRegistry::instance().userFile().problem();
+    using Problem = MvCalendarEventStore::Problem;
+    return problem.kind == Problem::NotSaved || problem.kind == Problem::Busy ? problem.text : QString();
+}
+
+QString storeEntries(const QDir &, int state)
+{
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.setEvents(entries(state));
+    return toldProblem();
+}
+
+QString exportList(const QDir &disk, int state)
+{
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.beginChanges(); // the list in memory alone
+    registry.setEvents(entries(state));
+    registry.saveAs(QFileInfo(disk.filePath(u"Liste.xml"_s)));
+    return registry.lastSaveError();
+}
+
+const QByteArray damaged = "<CalendarEvents><CalendarEvent><Name>Oma</Name>";
+
+void damageList(const QDir &disk, int)
+{
+    QFile file(ownList(disk));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(damaged);
+    for (const QFileInfo &aside : QDir(disk.filePath(u"data"_s)).entryInfoList({u"*.unlesbar-*"_s}))
+        QFile::remove(aside.filePath());
+}
+
+/// The damaged list lies where it lay, or aside and the new one in its place.
+int stateAfterDamage(const QDir &disk)
+{
+    const int state = contentOf(ownList(disk)) == damaged ? 0 : stateOfEntries(ownList(disk));
+    const QFileInfoList asides = QDir(disk.filePath(u"data"_s)).entryInfoList({u"*.unlesbar-*"_s});
+    const bool isKept = state == 0 || std::any_of(asides.begin(), asides.end(), [](const QFileInfo &aside) {
+                            return contentOf(aside.filePath()) == damaged;
+                        });
+    return isKept ? state : -1;
+}
+
+/// A photo that somebody has chosen: it is copied, then the entry saved.
+QString storePhoto(const QDir &disk, int state)
+{
+    const QString source = QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state);
+    MvCalendarEvent entry(nameOf(state), QDate(1960, 5, 17).startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
+    QString error;
+    if (!entry.takeFoto(MvFoto(QFileInfo(source)), &error))
+        return error.isEmpty() ? u"the photo was not taken, without a word"_s : error;
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.setEvents({entry});
+    return toldProblem();
+}
+
+void makePhoto(const QDir &disk, int state)
+{
+    QImage image(100 + state, 80, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.save(QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state));
+}
+
+int stateOfPhoto(const QDir &disk)
+{
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(ownList(disk)));
+    if (content.isMissing)
+        return 0;
+    if (!content.isComplete || content.events.size() != 1)
+        return -1;
+    const int state = stateOf(content.events.first().description());
+    return QImage(content.events.first().imagePath().filePath()).width() == 100 + state ? state : -1;
+}
+
+// ---- colours, projects
+
+QString storeColors(const QDir &, int state)
+{
+    MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    const MvCalendariumColorSchemaList before = registry.allSchemata();
+    MvCalendariumColorSchema schema = before.last(); // a shipped one
+    for (const MvCalendariumColorSchema &known : before) {
+        if (registry.isUserSchema(known))
+            registry.remove(known);
+    }
+    MvBorderConfig grid = MvCalendariumColorSchema::createDefaultBorder();
+    grid.setColor(QColor(state, 1, 2));
+    grid.setIsEnabled(true);
+    schema.setGridConfig(grid);
+    registry.recordSchemaUniquely(schema);
+    return registry.saveSystemUserSchemata() ? QString() : u"not saved"_s;
+}
+
+int stateOfColors(const QDir &)
+{
+    if (!MvCalendariumColorSchemaRegistry::systemUserSchemaFile().exists())
+        return 0;
+    const auto registry = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    registry->read(MvCalendariumColorSchemaRegistry::systemUserSchemaFile(),
+                   MvCalendariumColorSchemaVisibility(SCHEMA_VISIBILITY_OFFERED));
+    const MvCalendariumColorSchemaList found = registry->allSchemata();
+    return found.size() == 1 ? found.first().gridConfig().color().red() : -1;
+}
+
+MvCalendarDocument document(int state)
+{
+    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 12);
+    document.setTitle(nameOf(state));
+    return document;
+}
+
+QString projectFile(const QDir &disk)
+{
+    return disk.filePath(u"Kalender.mvcalendar"_s);
+}
+
+QString storeProject(const QDir &disk, int state)
+{
+    MvProject project;
+    project.newProject(document(state));
+    QString error;
+    return project.saveAs(QFileInfo(projectFile(disk)), &error) ? QString() : error;
+}
+
+int stateOfProject(const QDir &disk)
+{
+    if (!QFileInfo::exists(projectFile(disk)))
+        return 0;
+    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(projectFile(disk)));
+    return content.isRead() && content.notes.isEmpty() ? stateOf(content.document.title()) : -1;
+}
+
+/// The program that stores goes without saving the project, as if it had been killed.
+QString autosave(const QDir &, int state)
+{
+    static MvProject project;
+    static MvProjectAutosave *autosave = new MvProjectAutosave(&project);
+    QString error;
+    QEventLoop loop;
+    QObject::connect(autosave, &MvProjectAutosave::written, &loop, &QEventLoop::quit);
+    QObject::connect(autosave, &MvProjectAutosave::failed, &loop, [&](const QString &text) {
+        error = text;
+        loop.quit();
+    });
+    autosave->setDelay(0);
+    project.change(document(state), u"Titel ändern"_s);
+    loop.exec();
+    return error;
+}
+
+int stateOfAutosave(const QDir &)
+{
+    const QFileInfoList files = QDir(MvProjectAutosave::folder()).entryInfoList({u"*.mvcalendar"_s}, QDir::Files);
+    int state = 0;
+    for (const QFileInfo &file : files) {
+        const MvProjectFile::Content content = MvProjectFile::read(file);
+        const int found = content.isRead() ? stateOf(content.document.title()) : -1;
+        state = state < 0 || found < 0 ? -1 : std::max(state, found);
+    }
+    return state;
+}
+
+void discardAutosaves(const QDir &, int)
+{
+    for (const MvProjectRecovery::Entry &entry : MvProjectRecovery::found())
+        MvProjectRecovery::discard(entry);
+}
+
+void leaveRecovery(const QDir &disk, int state)
+{
+    discardAutosaves(disk, state);
+    const QDir folder(MvProjectAutosave::folder());
+    MvSafeFileWriter::write(QFileInfo(folder.filePath(u"found-%1.mvcalendar"_s.arg(state))),
+                            MvProjectFile::toBytes(document(state), folder, projectFile(disk)),
+                            MvSafeFileWriter::Backups::None);
+}
+
+QString recover(const QDir &, int)
+{
+    const QList<MvProjectRecovery::Entry> found = MvProjectRecovery::found();
+    if (found.isEmpty())
+        return u"nothing found"_s;
+    auto *project = new MvProject; // stays: a program that ends gives up what it has not saved
+    new MvProjectAutosave(project);
+    QString error;
+    return MvProjectRecovery::open(found.first(), *project, &error) && project->save(&error) ? QString() : error;
+}
+
+/// What was found is in the project, or lies there still.
+int stateOfRecovery(const QDir &disk)
+{
+    const int saved = stateOfProject(disk);
+    const int left = stateOfAutosave(disk);
+    return left != 0 ? left : saved;
+}
+
+// ---- exports
+
+MvPageSource pages(int state)
+{
+    MvPageSource source;
+    source.format = MvPageFormat::fromName(u"A6"_s);
+    source.pages = {QDate(2027, 1, 1)};
+    source.title = nameOf(state);
+    source.paint = [state](QPainter &painter, int) { painter.fillRect(0, 0, 100 + state, 300, Qt::red); };
+    return source;
+}
+
+std::function<QString(const QDir &, int)> exportTo(const QString &name)
+{
+    return [name](const QDir &disk, int state) {
+        return MvExportTarget(disk.filePath(name)).write(pages(state), 30 + state).error;
+    };
+}
+
+/// For files that have the title somewhere and end with the given bytes.
+std::function<int(const QDir &)> stateByTitle(const QString &name, const QByteArray &end)
+{
+    return [name, end](const QDir &disk) {
+        const QByteArray content = contentOf(disk.filePath(name));
+        const qsizetype title = content.indexOf("Stand ");
+        if (content.isEmpty())
+            return 0;
+        if (title < 0 || !content.trimmed().endsWith(end))
+            return -1;
+        return content.mid(title + 6, content.indexOf('<', title) - title - 6).toInt();
+    };
+}
+
+int stateOfPng(const QDir &disk)
+{
+    const QString path = disk.filePath(u"Kalender.png"_s);
+    const QImage image(path);
+    if (!QFileInfo::exists(path))
+        return 0;
+    return image.isNull() ? -1 : qRound(image.dotsPerMeterX() * 0.0254) - 30;
+}
+
+// ---- a file with a second name, which is written where it lies
+
+QByteArray filling(int state)
+{
+    return QByteArray(4000 + state * 7919 % 9000, char('A' + state));
+}
+
+QString storeInPlace(const QDir &disk, int state)
+{
+    return MvSafeFileWriter::write(QFileInfo(disk.filePath(u"Kalender.pdf"_s)), filling(state)).error;
+}
+
+void makeSecondName(const QDir &disk, int)
+{
+    const QByteArray name = QFile::encodeName(disk.filePath(u"Kalender.pdf"_s));
+    [[maybe_unused]] const int ignored = ::link(name.constData(), (name + "-2").constData());
+}
+
+int stateInPlace(const QDir &disk)
+{
+    MvSafeFileWriter::finishInterrupted();
+    const QByteArray content = contentOf(disk.filePath(u"Kalender.pdf"_s));
+    if (QFileInfo::exists(disk.filePath(u"Kalender.pdf-2"_s)) &&
+        contentOf(disk.filePath(u"Kalender.pdf-2"_s)) != content)
+        return -1;
+    const int state = content.isEmpty() ? 0 : content.front() - 'A';
+    return state == 0 || content == filling(state) ? state : -1;
+}
+
+} // namespace
+
+const QList<MvStorageOperation> &MvStorageOperation::all()
+{
+    static const QList<MvStorageOperation> operations{
+        {"entries", false, storeEntries, [](const QDir &disk) { return stateOfEntries(ownList(disk)); }},
+        {"list export", false, exportList,
+         [](const QDir &disk) { return stateOfEntries(disk.filePath(u"Liste.xml"_s)); }},
+        {"list in place of a damaged one", false, storeEntries, stateAfterDamage, damageList},
+        {"photo of an entry", false, storePhoto, stateOfPhoto, makePhoto},
+        {"colour schemas", true, storeColors, stateOfColors},
+        {"project", true, storeProject, stateOfProject},
+        {"autosave", true, autosave, stateOfAutosave, discardAutosaves},
+        {"recovery", true, recover, stateOfRecovery, leaveRecovery},
+        {"PDF", true, exportTo(u"Kalender.pdf"_s), stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
+        {"PNG", true, exportTo(u"Kalender.png"_s), stateOfPng},
+        {"SVG", true, exportTo(u"Kalender.svg"_s), stateByTitle(u"Kalender.svg"_s, "</svg>")},
+        {"in place", false, storeInPlace, stateInPlace, makeSecondName},
+    };
+    return operations;
+}
