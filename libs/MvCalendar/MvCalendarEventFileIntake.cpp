@@ -41,8 +41,8 @@ void readInThread(const QFileInfo &file, QObject *asker, const std::function<voi
 
 QString skippedText(const Content &content)
 {
-    const QString count = MvCalendarEventFileIntake::tr(
-        "%n Einträge der Datei sind nicht lesbar und fehlen dann:", nullptr, int(content.skipped.size()));
+    const QString count =
+        MvCalendarEventFileIntake::tr("%n Einträge der Datei sind nicht lesbar:", nullptr, int(content.skipped.size()));
     return count + u'\n' + MvCalendarEventFile::describe(content.skipped, mostNamed);
 }
 

@@ -24,6 +24,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QPushButton>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -40,6 +41,16 @@ void editEvent(const MvCalendarEvent &event)
 {
     if (event.isValid())
         MvCalendarDayEditorDialog::createSelfDeleting(nullptr)->openDayEditorSingle(event);
+}
+
+/// What the list does not have. A file without uuids gets new ones with each reading: its entries are known by what
+/// they say.
+MvCalendarEventList newEvents(const MvCalendarEventList &current, const MvCalendarEventList &read)
+{
+    MvCalendarEventList added = MvCalendarEventRegistry::instance().onlyNewEvents(current, read);
+    const QSet<MvCalendarEvent> known(current.cbegin(), current.cend());
+    added.removeIf([&known](const MvCalendarEvent &event) { return known.contains(event); });
+    return added;
 }
 
 void deleteEvent(const MvCalendarEvent &event)
@@ -283,7 +294,7 @@ void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, b
 {
     const MvCalendarEventList current = events();
     if (merge)
-        changeEvents(u"loadEventList"_s, {}, MvCalendarEventRegistry::instance().onlyNewEvents(current, read));
+        changeEvents(u"loadEventList"_s, {}, newEvents(current, read));
     else
         changeEvents(u"loadEventList"_s, current, read);
     finishAdding();

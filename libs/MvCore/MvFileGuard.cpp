@@ -45,8 +45,11 @@ MvFileDescriptor openForLock(const QByteArray &path, int flags)
 {
     constexpr int always = O_CLOEXEC | O_NONBLOCK; // a pipe would keep us waiting
     MvFileDescriptor file(::open(path.constData(), O_RDWR | flags | always, 0666));
-    if (!file.isOpen() && (errno == EACCES || errno == EPERM || errno == EROFS))
+    if (const int refusal = errno; !file.isOpen() && (refusal == EACCES || refusal == EPERM || refusal == EROFS)) {
         file = MvFileDescriptor(::open(path.constData(), O_RDONLY | (flags & ~O_CREAT) | always));
+        if (!file.isOpen())
+            errno = refusal; // that it does not exist either is not the reason
+    }
     struct stat status = {};
     if (file.isOpen() && (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))) {
         file.close();

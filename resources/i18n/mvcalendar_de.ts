@@ -21,10 +21,10 @@
 <context>
     <name>MvCalendarEventFileIntake</name>
     <message numerus="yes">
-        <source>%n Einträge der Datei sind nicht lesbar und fehlen dann:</source>
+        <source>%n Einträge der Datei sind nicht lesbar:</source>
         <translation>
-            <numerusform>%n Eintrag der Datei ist nicht lesbar und fehlt dann:</numerusform>
-            <numerusform>%n Einträge der Datei sind nicht lesbar und fehlen dann:</numerusform>
+            <numerusform>%n Eintrag der Datei ist nicht lesbar:</numerusform>
+            <numerusform>%n Einträge der Datei sind nicht lesbar:</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -329,10 +329,10 @@
         <translation>Calendar entries</translation>
     </message>
     <message numerus="yes">
-        <source>%n Einträge der Datei sind nicht lesbar und fehlen dann:</source>
+        <source>%n Einträge der Datei sind nicht lesbar:</source>
         <translation>
-            <numerusform>%n entry of the file cannot be read and will be missing:</numerusform>
-            <numerusform>%n entries of the file cannot be read and will be missing:</numerusform>
+            <numerusform>%n entry of the file cannot be read:</numerusform>
+            <numerusform>%n entries of the file cannot be read:</numerusform>
         </translation>
     </message>
     <message numerus="yes">

@@ -1,6 +1,7 @@
 #include "MvTest.h"
 
 #include "MvCore/MvFileBackup.h"
+#include "MvCore/MvFileDescriptor.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvUniqueFilenameMaker.h"
@@ -500,6 +501,8 @@ void tst_MvSafeFileWriter::locksOutOthers()
         const MvFileGuard other(file, 0);
         states[1] = other.state();
         QCOMPARE(other.reason().isEmpty(), other.isLocked());
+        if (!isPossible)
+            QCOMPARE(other.reason(), MvFileDescriptor::errorText(EACCES));
         QCOMPARE(::seteuid(isAdministratorFirst ? 0 : 65534), 0);
     }
     states[2] = MvFileGuard(file, 0).state();
