@@ -1,11 +1,13 @@
 // What a page of a year costs beside a page of a month: layout and painting on A4 at 300 dpi with 500 entries in the
-// year. Month, year grid and planner are painted in turns within one run; the ratios are those to the month page.
+// year. Month, year grid and planner are painted in turns within one run; the ratios are those to the month page. And
+// what a name costs that nobody could print.
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvModelBase/MvPaintRecorder.h"
+#include "MvModelBase/MvTextOutlineCache.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -99,6 +101,33 @@ void YearPageLayoutAlone(benchmark::State &state)
     });
 }
 
+/// One day has a name of 100,000 letters without a blank: what its page costs beside the same one with a short name,
+/// both with nothing shaped before.
+void LongName(benchmark::State &state, const QString &layout)
+{
+    using Clock = std::chrono::steady_clock;
+    const auto renderer = makeRenderer(layout);
+    std::array<std::chrono::duration<double, std::milli>, 2> times{};
+    MvPaintRecorder recorder(nullptr);
+    for (auto _ : state) {
+        for (size_t i = 0; i < times.size(); ++i) {
+            const QString name = i == 0 ? u"Großtante Wilhelmine"_s : QString(100'000, u'x');
+            MvCalendarEventRegistry::instance().setEvents({MvCalendarEvent(
+                name, QDate(1990, 5, 5).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime())});
+            MvTextOutlineCache::instance().clear();
+            const auto start = Clock::now();
+            QPainter painter(&recorder);
+            renderer->render(painter, calendarium);
+            times[i] += Clock::now() - start;
+        }
+    }
+    state.counters["short_ms"] = times[0].count() / double(state.iterations());
+    state.counters["long_ratio"] = times[1] / times[0];
+    fillRegistry();
+}
+
+BENCHMARK_CAPTURE(LongName, month, u"MONTH_GRID_CLASSIC"_s)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(LongName, planner, u"YEAR_PLANNER"_s)->Unit(benchmark::kMillisecond);
 BENCHMARK(YearPagePass)->Unit(benchmark::kMillisecond);
 BENCHMARK(YearPageLayoutAlone)->Unit(benchmark::kMillisecond);
 

@@ -15,7 +15,7 @@ constexpr int mostHints = 20;
 
 MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
 {
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
+    MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
     MvRenderEntries entries;
     entries.m_file = file;
     entries.m_isFile = true;
@@ -23,8 +23,12 @@ MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
     entries.m_skipped = content.skipped;
     // loading an empty list would leave the user's own entries in place; with the flag set, the file's entries replace
     // the list, and nothing is saved
-    entries.m_areShown = entries.m_error.isEmpty() && !content.events.isEmpty() &&
-                         MvCalendarEventRegistry::instance().loadFrom(file, true);
+    if (!entries.m_error.isEmpty() || content.events.isEmpty())
+        return entries;
+    content = {}; // the memory for reading them once more
+    entries.m_areShown = MvCalendarEventRegistry::instance().loadFrom(file, true);
+    if (!entries.m_areShown)
+        entries.m_error = tr("%1 konnte nicht gelesen werden.").arg(QDir::toNativeSeparators(file.filePath()));
     return entries;
 }
 

@@ -1,5 +1,6 @@
 #include "MvProject/MvPdfBoxes.h"
 
+#include "MvModelBase/MvPrintableText.h"
 #include "MvProject/MvPageSource.h"
 
 #include <QColorSpace>
@@ -62,10 +63,10 @@ void setMetadata(QPDF &pdf, const MvPageSource &source)
     if (info.isDictionary() && !source.author.isEmpty())
         info.replaceKey("/Author", unicode(source.author));
 
-    const QString author =
-        source.author.isEmpty()
-            ? QString()
-            : u"<dc:creator><rdf:Seq><rdf:li>%1</rdf:li></rdf:Seq></dc:creator>"_s.arg(source.author.toHtmlEscaped());
+    const QString author = source.author.isEmpty()
+                               ? QString()
+                               : u"<dc:creator><rdf:Seq><rdf:li>%1</rdf:li></rdf:Seq></dc:creator>"_s.arg(
+                                     MvPrintableText::onOneLine(source.author).toHtmlEscaped());
     const QString packet =
         u"<?xpacket begin=\"\ufeff\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
         "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
@@ -73,7 +74,7 @@ void setMetadata(QPDF &pdf, const MvPageSource &source)
         "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\"><dc:format>application/pdf</dc:format>"
         "<dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">%1</rdf:li></rdf:Alt></dc:title>%2"
         "<xmp:CreatorTool>MvCalendar</xmp:CreatorTool></rdf:Description></rdf:RDF></x:xmpmeta>\n"
-        "<?xpacket end=\"w\"?>"_s.arg(source.title.toHtmlEscaped(), author);
+        "<?xpacket end=\"w\"?>"_s.arg(MvPrintableText::onOneLine(source.title).toHtmlEscaped(), author);
     QPDFObjectHandle stream = QPDFObjectHandle::newStream(&pdf, packet.toStdString());
     stream.getDict().replaceKey("/Type", QPDFObjectHandle::newName("/Metadata"));
     stream.getDict().replaceKey("/Subtype", QPDFObjectHandle::newName("/XML"));

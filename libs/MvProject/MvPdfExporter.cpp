@@ -2,6 +2,7 @@
 
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvModelBase/MvPrintableText.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfBoxes.h"
@@ -31,7 +32,7 @@ QString paintRawFile(QTemporaryFile &file, const MvPageSource &source, MvExportO
 
     QPdfWriter writer(&file);
     writer.setResolution(MvPdfExporter::resolution);
-    writer.setTitle(source.title);
+    writer.setTitle(MvPrintableText::onOneLine(source.title));
     writer.setCreator(u"MvCalendar"_s);
     writer.setPageLayout(QPageLayout(QPageSize(points, u"page"_s, QPageSize::ExactMatch), QPageLayout::Portrait, {}));
 

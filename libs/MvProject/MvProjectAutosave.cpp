@@ -5,6 +5,7 @@
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
+#include "MvXML/MvXMLLoader.h"
 
 #include <QDir>
 #include <QFile>
@@ -63,9 +64,11 @@ void MvProjectAutosave::write()
     const QByteArray bytes = MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(),
                                                     m_project->fileInfo().filePath(), m_project->fileStamp());
     m_thread.start([this, file = m_file, bytes] {
-        const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None);
+        QString error = MvXMLLoader::check(bytes).message; // better an older state than one that does not open
+        if (error.isEmpty())
+            error = MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
         QMetaObject::invokeMethod(
-            this, [this, error = result.error] { tellResult(error); }, Qt::QueuedConnection);
+            this, [this, error] { tellResult(error); }, Qt::QueuedConnection);
     });
 }
 

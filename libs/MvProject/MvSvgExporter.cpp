@@ -2,6 +2,7 @@
 
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvModelBase/MvPrintableText.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageSource.h"
@@ -26,7 +27,7 @@ QByteArray paintSvg(const MvPageSource &source, int page)
     generator.setResolution(resolution);
     generator.setSize(size.toSize()); // written in millimetres, rounded to the dot
     generator.setViewBox(QRectF(QPointF(), size));
-    generator.setTitle(source.title.toHtmlEscaped()); // it is written as it stands
+    generator.setTitle(MvPrintableText::onOneLine(source.title).toHtmlEscaped()); // it is written as it stands
     QPainter painter(&generator);
     source.paintPage(painter, page, {}, scale);
     painter.end();

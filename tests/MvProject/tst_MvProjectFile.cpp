@@ -15,6 +15,7 @@ class tst_MvProjectFile : public MvTest
 private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
+    void writesNothingThatDoesNotOpenAgain();
     void photosMoveWithTheirFolder();
     void keepsUnknownSchemas();
     void mendsWhatItCan_data();
@@ -95,6 +96,15 @@ void tst_MvProjectFile::roundTrip()
     QVERIFY(content.document == calendar);
     const QDir folder = file().absoluteDir();
     QCOMPARE(MvProjectFile::toBytes(content.document, folder), MvProjectFile::toBytes(calendar, folder));
+}
+
+void tst_MvProjectFile::writesNothingThatDoesNotOpenAgain()
+{
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
+    QCOMPARE(MvProjectFile::write(calendar, file()), QString());
+    calendar.setTitle(QString(70'000, u'x'));
+    QVERIFY(MvProjectFile::write(calendar, file()).contains(u"nicht wieder öffnen"_s));
+    QVERIFY(MvProjectFile::read(file()).isRead()); // the state of before
 }
 
 void tst_MvProjectFile::photosMoveWithTheirFolder()

@@ -8,6 +8,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <sys/resource.h>
+
 using namespace Qt::StringLiterals;
 
 /// Runs the program as a person does: what it prints, what it writes, how it ends.
@@ -46,6 +48,7 @@ private Q_SLOTS:
     void unknownFont();
     void project();
     void brokenOutput();
+    void littleMemory();
     void language_data();
     void language();
     void printsTheSameInEveryLanguage();
@@ -59,7 +62,8 @@ private:
 
         QList<QByteArray> outLines() const { return out.trimmed().split('\n'); }
     };
-    Call run(const QStringList &arguments, const QMap<QString, QString> &environment = {}) const;
+    /// With at most so many MiB of memory; 0 sets no limit.
+    Call run(const QStringList &arguments, const QMap<QString, QString> &environment = {}, rlim_t memory = 0) const;
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
     QString path(const QString &name) const { return m_folder->filePath(name); }
     void write(const QString &path, const QByteArray &content) const;
@@ -95,7 +99,8 @@ void tst_mvcalendar::initTestCase()
     QVERIFY(m_userFolder.mkpath(u"."_s));
 }
 
-tst_mvcalendar::Call tst_mvcalendar::run(const QStringList &arguments, const QMap<QString, QString> &environment) const
+tst_mvcalendar::Call tst_mvcalendar::run(const QStringList &arguments, const QMap<QString, QString> &environment,
+                                         rlim_t memory) const
 {
     QProcess process;
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
@@ -103,6 +108,9 @@ tst_mvcalendar::Call tst_mvcalendar::run(const QStringList &arguments, const QMa
         variables.insert(it.key(), it.value());
     process.setProcessEnvironment(variables);
     process.setWorkingDirectory(m_folder->path());
+    if (memory > 0)
+        process.setChildProcessModifier(
+            [limit = rlimit{memory << 20, memory << 20}] { ::setrlimit(RLIMIT_AS, &limit); });
     process.start(QStringLiteral(MV_PROGRAM), arguments);
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
         return {-1, {}, "did not end by itself"};
@@ -558,6 +566,24 @@ void tst_mvcalendar::brokenOutput()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitCode(), 1);
     QCOMPARE(process.readAllStandardError().count('\n'), 1);
+}
+
+/// A file that is larger than the memory left is an error as any other.
+void tst_mvcalendar::littleMemory()
+{
+#ifdef __SANITIZE_ADDRESS__
+    QSKIP("the sanitizer wants terabytes of addresses");
+#endif
+    const QStringList page = {u"render"_s, u"--year"_s, u"2027"_s, u"--months"_s, u"1"_s, u"-o"_s, u"p.pdf"_s};
+    rlim_t enough = 64;
+    while (enough < 4096 && run(page, {}, enough).exitCode != 0)
+        enough += 16;
+    write(path(u"large.xml"_s), entriesFile("Eva", "1990-01-14") + "<!--" + QByteArray(60 << 20, ' ') + "-->");
+    QVERIFY(QFile::remove(path(u"p.pdf"_s)));
+    const Call call = run(page + QStringList{u"--entries"_s, u"large.xml"_s}, {}, enough + 16);
+    QCOMPARE(call.exitCode, 1);
+    QVERIFY2(call.err.contains("large.xml: Der Arbeitsspeicher reicht"), call.err.constData());
+    QVERIFY(!files().contains(u"p.pdf"_s));
 }
 
 void tst_mvcalendar::language_data()
