@@ -1,11 +1,16 @@
 #include "common/MvStudioMessage.h"
 
+#include "MvCore/MvStringHelper.h"
+
 #include <QAbstractButton>
+#include <QLabel>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qsizetype longestLine = 200; // of a list in a message; longer names make windows larger than the screen
 
 QMessageBox *createBox(QWidget *parent, QMessageBox::Icon icon, const QString &text, const QString &hint)
 {
@@ -13,9 +18,11 @@ QMessageBox *createBox(QWidget *parent, QMessageBox::Icon icon, const QString &t
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIcon(icon);
     box->setWindowTitle(u"MvCalendar"_s);
-    box->setTextFormat(Qt::PlainText); // names of files may look like markup
+    box->setTextFormat(Qt::PlainText); // names of files and people may look like markup
     box->setText(text);
     box->setInformativeText(hint);
+    if (auto *label = box->findChild<QLabel *>(u"qt_msgbox_informativelabel"_s))
+        label->setTextFormat(Qt::PlainText); // that of the box does not reach it
     return box;
 }
 
@@ -81,7 +88,12 @@ QDialogButtonBox *MvStudioMessage::createButtonBox(QDialogButtonBox::StandardBut
 
 QString MvStudioMessage::shortened(const QStringList &lines, int most)
 {
-    if (lines.size() <= most)
-        return lines.join(u'\n');
-    return QStringList(lines.mid(0, most)).join(u'\n') + u'\n' + tr("… und %1 weitere").arg(lines.size() - most);
+    QStringList shown;
+    for (const QString &line : lines.mid(0, most)) {
+        const QString start = MvStringHelper::beginning(line, longestLine);
+        shown.append(start.size() < line.size() ? start + u'…' : line);
+    }
+    if (lines.size() > most)
+        shown.append(tr("… und %1 weitere").arg(lines.size() - most));
+    return shown.join(u'\n');
 }

@@ -23,6 +23,6 @@ public:
     static QString buttonText(QDialogButtonBox::StandardButton button);
     static QDialogButtonBox *createButtonBox(QDialogButtonBox::StandardButtons buttons, QWidget *parent);
 
-    /// At most so many lines, then how many are left out.
+    /// At most so many lines, each of a length that suits a window, then how many are left out.
     static QString shortened(const QStringList &lines, int most);
 };
