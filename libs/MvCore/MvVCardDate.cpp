@@ -1,5 +1,6 @@
 #include "MvCore/MvVCardDate.h"
 
+#include "MvCore/MvStringHelper.h"
 #include "MvCore/MvTypedDate.h"
 
 #include <QHash>
@@ -151,7 +152,7 @@ QDate plainDate(const QString &text, const Maker &make)
 MvVCardDate MvVCardDate::fromText(const QString &text, const QDate &today, int yearForNone)
 {
     MvVCardDate result;
-    result.m_text = text.simplified().left(longestDate);
+    result.m_text = MvStringHelper::beginning(MvStringHelper::simplifiedName(text), longestDate);
     if (result.m_text.isEmpty() || text.size() > longestDate)
         return result;
     const Maker make{today, yearForNone};

@@ -108,7 +108,7 @@ bool MvVCardLines::next(MvVCardProperty *property)
             colon = line.indexOf(':'); // after a quotation mark that nobody closed
         if (colon <= 0)
             continue;
-        *property = parseHead(line.left(colon));
+        *property = parseHead(line.left(qMin(colon, longestText)));
         takeValue(property, line.mid(colon + 1), isCut);
         if (property->name == "BEGIN")
             m_isVersion2 = false; // until the card says so

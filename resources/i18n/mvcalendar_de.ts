@@ -106,13 +106,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Geburtstage importiert, aber noch nicht gespeichert.</source>
-        <translation>
-            <numerusform>%n Geburtstag importiert, aber noch nicht gespeichert.</numerusform>
-            <numerusform>%n Geburtstage importiert, aber noch nicht gespeichert.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>Alle %n Geburtstage waren schon da.</source>
         <translation>
             <numerusform>Der Geburtstag war schon da.</numerusform>
@@ -138,6 +131,13 @@
         <translation>
             <numerusform>%n Visitenkarte mit Geburtstag hat keinen Namen.</numerusform>
             <numerusform>%n Visitenkarten mit Geburtstag haben keinen Namen.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Geburtstage stehen im Kalender, sind aber noch nicht gespeichert.</source>
+        <translation>
+            <numerusform>%n Geburtstag steht im Kalender, ist aber noch nicht gespeichert.</numerusform>
+            <numerusform>%n Geburtstage stehen im Kalender, sind aber noch nicht gespeichert.</numerusform>
         </translation>
     </message>
 </context>

@@ -69,6 +69,10 @@
         <source>Ein anderes Programm arbeitet gerade mit der Datei; gespeichert wird danach.</source>
         <translation>Another program is working with the file; it will be saved afterwards.</translation>
     </message>
+    <message>
+        <source>d. MMMM</source>
+        <translation>d MMMM</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarCellType</name>
@@ -1578,13 +1582,6 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>%n Geburtstage importiert, aber noch nicht gespeichert.</source>
-        <translation>
-            <numerusform>%n birthday imported, but not yet saved.</numerusform>
-            <numerusform>%n birthdays imported, but not yet saved.</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>Alle %n Geburtstage waren schon da.</source>
         <translation>
             <numerusform>The birthday was there already.</numerusform>
@@ -1639,6 +1636,13 @@
     <message>
         <source>Ohne Bild, denn es ließ sich nicht übernehmen (%1):</source>
         <translation>Without a picture, for it could not be taken over (%1):</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Geburtstage stehen im Kalender, sind aber noch nicht gespeichert.</source>
+        <translation>
+            <numerusform>%n birthday is in the calendar, but not yet saved.</numerusform>
+            <numerusform>%n birthdays are in the calendar, but not yet saved.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2644,6 +2648,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>%1: keine Einträge gefunden</source>
         <translation>%1: no entries found</translation>
+    </message>
+    <message>
+        <source>%1 konnte nicht gelesen werden.</source>
+        <translation>%1 could not be read.</translation>
     </message>
 </context>
 <context>

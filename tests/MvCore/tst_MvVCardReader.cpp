@@ -308,6 +308,7 @@ void tst_MvVCardReader::linearTime_data()
     QTest::addColumn<QByteArray>("again");
     QTest::newRow("parameters") << QByteArray("BDAY") << QByteArray(";X");
     QTest::newRow("parameters of a picture") << QByteArray("PHOTO") << QByteArray(";X=Y");
+    QTest::newRow("words of a parameter") << QByteArray("PHOTO;X") << QByteArray(",");
     QTest::newRow("quotation marks") << QByteArray("FN") << QByteArray(";\"");
     QTest::newRow("picture's lines, no line feed") << QByteArray("PHOTO;ENCODING=b:") << QByteArray("\rAAAA");
     QTest::newRow("a byte a line") << QByteArray("NOTE:") << QByteArray("\r\n x");

@@ -71,14 +71,13 @@ void MvBirthdayImport::import(const QStringList &files)
 void MvBirthdayImport::runInBackground(const std::function<void(MvAddressBookImport &)> &work,
                                        void (MvBirthdayImport::*then)())
 {
-    m_progressTimer.start(progressDelay);
+    if (!m_progress)
+        m_progressTimer.start(progressDelay);
     auto *watcher = new QFutureWatcher<void>(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, then, import = m_import] {
         watcher->deleteLater();
-        if (import != m_import) // cancelled
-            return;
-        hideProgress();
-        (this->*then)();
+        if (import == m_import) // else it was cancelled
+            (this->*then)();
     });
     const auto promise = std::make_shared<QPromise<void>>();
     promise->start();
@@ -127,8 +126,9 @@ void MvBirthdayImport::askForOrder()
         makeEntries(Order::Unknown);
         return;
     }
+    hideProgress();
     const QLocale locale = MvApplicationLocale::instance().locale();
-    const auto read = [&](Order order) { return locale.toString(example.date(order), u"d. MMMM"_s); };
+    const auto read = [&](Order order) { return locale.toString(example.date(order), tr("d. MMMM")); };
     MvRequestHandler::ChoiceRequest request;
     request.title = tr("Geburtstage importieren");
     request.text = tr("Ist mit „%1“ der %2 gemeint?").arg(example.text(), read(Order::DayFirst));
@@ -154,6 +154,7 @@ void MvBirthdayImport::makeEntries(Order order)
 
 void MvBirthdayImport::finish()
 {
+    hideProgress();
     const std::shared_ptr<MvAddressBookImport> import = std::exchange(m_import, nullptr);
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
     const MvCalendarEventList events = registry.onlyNewEvents(registry.activeEventList(), import->takeEvents());

@@ -24,8 +24,9 @@ bool MvImportReport::isError() const
 QString MvImportReport::summary() const
 {
     if (m_imported > 0)
-        return m_problem.isEmpty() ? tr("%n Geburtstage importiert.", nullptr, m_imported)
-                                   : tr("%n Geburtstage importiert, aber noch nicht gespeichert.", nullptr, m_imported);
+        return m_problem.isEmpty()
+                   ? tr("%n Geburtstage importiert.", nullptr, m_imported)
+                   : tr("%n Geburtstage stehen im Kalender, sind aber noch nicht gespeichert.", nullptr, m_imported);
     if (m_report.known > 0)
         return tr("Alle %n Geburtstage waren schon da.", nullptr, m_report.known);
     if (!m_report.errors.isEmpty())
