@@ -98,7 +98,7 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     layout->setContentsMargins(groupMargin, groupMargin, groupMargin, groupMargin);
 
     m_dateEdit = new MvCalendarEventDateEdit(group);
-    layout->addWidget(m_dateEdit, 0, Qt::AlignLeft);
+    layout->addWidget(m_dateEdit);
 
     m_dateLabel = new QLabel(group);
     m_dateLabel->setObjectName(u"dateLabel"_s);
@@ -311,6 +311,8 @@ void MvCalendarDayEditorDialog::closeWithProject()
 
 void MvCalendarDayEditorDialog::acceptedClicked()
 {
+    if (!m_dateEdit->takeText())
+        return;
     applyEventChange();
     accept();
     close();
@@ -318,6 +320,8 @@ void MvCalendarDayEditorDialog::acceptedClicked()
 
 void MvCalendarDayEditorDialog::acceptedAndContinueClicked()
 {
+    if (!m_dateEdit->takeText())
+        return;
     MvCalendarEvent next = applyEventChange();
     next.setFoto(MvFoto());
     next.setEventName({});
@@ -354,6 +358,7 @@ void MvCalendarDayEditorDialog::setDate(const QDate &date)
 
 MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
 {
+    m_dateEdit->takeText();
     MvCalendarEvent changed = m_openedEvent;
     changed.setDateTime(m_dateEdit->date().startOfDay());
     changed.setEventName(m_descriptionEdit->text());

@@ -5,11 +5,15 @@
 #include <QDate>
 #include <QWidget>
 
+class MvDateEdit;
 class QCheckBox;
-class QDateTimeEdit;
+class QLabel;
 
 /// The date of an entry, with or without a year. Where the year is unknown (MvCalendarEvent::hasYear()), the field
-/// shows and takes day and month alone; a box beside it says so, and lets the user give the year or leave it out.
+/// shows day and month alone; a box beside it says so, and lets the user give the year or leave it out. Whoever types a
+/// year knows it.
+///
+/// Below, a line says in words which date the text means, or why it is none.
 class MVCALENDAR_EXPORT MvCalendarEventDateEdit : public QWidget
 {
     Q_OBJECT
@@ -20,11 +24,24 @@ public:
     QDate date() const;
     void setDate(const QDate &date);
 
+    /// Takes the typed text over. False, with the keyboard in the field, when it is no date.
+    bool takeText();
+    /// Whether it shows another date than the one set last, or a text to be taken.
+    bool isTouched() const;
+
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void reserveHintLines();
     void showSections();
     void onYearSwitched(bool isUnknown);
+    void onMeaningChanged();
 
-    QDateTimeEdit *m_edit;
+    MvDateEdit *m_edit;
     QCheckBox *m_unknownBox;
+    QLabel *m_hint;
+    QDate m_date;   // as it was set
+    QDate m_shown;  // what the field made of it; not the same where it cannot show such a year
     int m_year = 0; // the last known one, to come back to; 0 when there was none
 };

@@ -2,6 +2,7 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
 
@@ -38,6 +39,11 @@ private Q_SLOTS:
     void namesThatCount();
     void createsChangesAndDeletes();
     void keysAlone();
+    void typedDates_data();
+    void typedDates();
+    void whatIsNoDate_data();
+    void whatIsNoDate();
+    void sectionsOfTheDate();
     void seriesOverNewYear();
     void birthdaysWithoutAYear();
     void cancels();
@@ -157,6 +163,166 @@ void tst_MvCalendarDayEditorDialog::keysAlone()
     QTest::keyClick(description(dialog), Qt::Key_Return);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QVERIFY(!dialog.isVisible());
+}
+
+void tst_MvCalendarDayEditorDialog::typedDates_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<QStringList>("texts");
+    const auto row = [](const char *locale, const QDate &date, const QString &texts) {
+        QTest::addRow("%s %s", locale, qPrintable(date.toString(Qt::ISODate)))
+            << QString::fromLatin1(locale) << date << texts.split(u'|');
+    };
+    const QString anywhere =
+        u"24.12.1950|24.12.50|24. 12. 1950|24 .12 .1950|24,12,1950|1950-12-24|1950/12/24|1950.12.24|"
+        "24 December 1950|24. Dezember 1950|December 24, 1950|Dec 24 1950|Dec. 24th, 1950"_qs;
+    row("de_DE", {1950, 12, 24},
+        anywhere + u"|24/12/1950|24-12-1950|24/12/50|24 12 1950|24 12 50|24121950|241250|"
+                   "24. Dez. 1950|24 Dezember 1950|24.Dez.1950|24. DEZ 50|24-Dez-1950|Sonntag, 24. Dezember 1950|So "
+                   "24.12.1950|"
+                   "24.12.1950 |  24.12.1950|19501224|24 - 12 - 1950|24.12 1950"_qs);
+    row("de_DE", {1962, 3, 5},
+        u"5.3.1962|05.03.1962|5.3.62|05.03.62|05/03/1962|5/3/62|5-3-62|05031962|050362|5. März 1962|"
+        "5. Mrz 62|5. Maerz 1962|5 Mar 1962|1962-3-5|05.3.1962"_qs);
+    row("de_DE", {2026, 12, 24}, u"24.12.|24.12|24/12|24. Dezember|24 Dez|2412|24.12.26"_qs);
+    row("de_DE", {2000, 1, 1}, u"01.01.2000|1.1.00|1. Jänner 2000|1. Januar 2000"_qs);
+    row("de_DE", {1984, 2, 29}, u"29.02.1984|29.2.84|29. Februar 1984|29021984"_qs);
+    row("en_US", {1950, 12, 24}, anywhere + u"|12/24/1950|12/24/50|12-24-1950|24/12/1950|12241950"_qs);
+    row("en_US", {1962, 5, 3}, u"05/03/1962|5/3/62|3.5.1962|May 3, 1962|3 May 1962"_qs);
+    row("en_GB", {1962, 3, 5}, u"05/03/1962|5/3/62|5.3.1962|5 March 1962|March 5, 1962|05031962"_qs);
+}
+
+void tst_MvCalendarDayEditorDialog::typedDates()
+{
+    QFETCH(const QString, locale);
+    QFETCH(const QDate, date);
+    QFETCH(const QStringList, texts);
+    MvApplicationLocale::instance().setLocale(QLocale(locale));
+    const auto restored = qScopeGuard([] { MvApplicationLocale::instance().setLocale(QLocale(u"de_DE"_qs)); });
+    MvCalendarDayEditorDialog dialog(nullptr);
+    auto *edit = part<QDateTimeEdit>(dialog, u"dateEdit"_qs);
+    auto *line = edit->findChild<QLineEdit *>();
+    dialog.openDayEditorSingle(entry(u"Anna"_qs, {2026, 11, 21}));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    const QStringList ways =
+        u"opened|Tab|Shift+Tab|click 1|click 4|click 8|Ctrl+A|pasted"_qs.split(u'|'); // the number is a letter's
+    for (const QString &way : ways) {
+        for (const QString &text : texts) {
+            if (text.size() == 4 && (way == u"Shift+Tab"_qs || way == u"click 8"_qs))
+                continue; // a year for the year
+            dialog.setDate({2026, 11, 21});
+            if (way == u"Shift+Tab"_qs) {
+                part<QCheckBox>(dialog, u"yearUnknownBox"_qs)->setFocus();
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Backtab);
+            } else if (way == u"Tab"_qs) {
+                ok(dialog)->setFocus();
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            } else if (way.startsWith(u"click"_qs)) {
+                const QString before = line->text().left(way.right(1).toInt());
+                const int x = line->fontMetrics().horizontalAdvance(before) + 3;
+                QTest::mouseClick(line, Qt::LeftButton, {}, {x, line->height() / 2});
+            } else {
+                edit->setFocus(Qt::OtherFocusReason);
+            }
+            if (way == u"Ctrl+A"_qs)
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_A, Qt::ControlModifier);
+            QCOMPARE(dialog.focusWidget(), edit);
+            if (way == u"pasted"_qs) {
+                QGuiApplication::clipboard()->setText(text + u"\n"_qs);
+                QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+            } else {
+                for (const QChar letter : text)
+                    QTest::sendKeyEvent(QTest::Click, edit, Qt::Key(letter.toUpper().unicode()), letter, {});
+            }
+            description(dialog)->setFocus();
+            const QString found = edit->date().toString(Qt::ISODate);
+            QVERIFY2(found == date.toString(Qt::ISODate), qPrintable(way + u": "_qs + text + u" gives "_qs + found));
+        }
+    }
+}
+
+void tst_MvCalendarDayEditorDialog::whatIsNoDate_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("no date") << u"morgen"_qs;
+    QTest::newRow("no such day") << u"31.04.1950"_qs;
+    QTest::newRow("too early") << u"24.11.1219"_qs;
+    QTest::newRow("too late") << u"24.12.2950"_qs;
+    QTest::newRow("nothing") << u" "_qs;
+}
+
+void tst_MvCalendarDayEditorDialog::whatIsNoDate()
+{
+    QFETCH(const QString, text);
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSeries(entry(u"Anna"_qs, {2026, 11, 21}));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *edit = part<QDateTimeEdit>(dialog, u"dateEdit"_qs);
+    const auto *hint = part<QLabel>(dialog, u"dateHint"_qs);
+    QCOMPARE(hint->text(), u"Samstag, 21. November 2026"_qs);
+    const int place = description(dialog)->mapTo(&dialog, QPoint()).y();
+    edit->setFocus();
+    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(edit, text);
+    QVERIFY(hint->text().isEmpty()); // not yet
+    description(dialog)->setFocus();
+    const QString error = hint->text();
+    QVERIFY2(error.contains(text.trimmed()) && error.contains(u"24.12.1950"_qs), qPrintable(error));
+    QVERIFY(hint->isVisible() && hint->height() >= hint->heightForWidth(hint->width()));
+    QCOMPARE(QAccessible::queryAccessibleInterface(edit)->text(QAccessible::Description), error);
+    for (auto *button : {ok(dialog), part<QPushButton>(dialog, u"okAndContinueButton"_qs)}) {
+        button->click();
+        QVERIFY(dialog.isVisible() && events().isEmpty());
+        QCOMPARE(dialog.focusWidget(), edit);
+        QCOMPARE(edit->text(), text);
+    }
+    QCOMPARE(description(dialog)->mapTo(&dialog, QPoint()).y(), place);
+    QTest::keyClicks(edit, u"1.2.1950"_qs);
+    QCOMPARE(hint->text(), u"Mittwoch, 1. Februar 1950"_qs);
+    ok(dialog)->click();
+    QCOMPARE(events().first().dateTime().date(), QDate(1950, 2, 1));
+}
+
+void tst_MvCalendarDayEditorDialog::sectionsOfTheDate()
+{
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(entry(u"Anna"_qs, {2026, 11, 21}));
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    auto *edit = part<QDateTimeEdit>(dialog, u"dateEdit"_qs);
+    ok(dialog)->setFocus();
+    const auto keys = [&dialog](std::initializer_list<Qt::Key> sequence) {
+        for (const Qt::Key key : sequence)
+            QTest::keyClick(dialog.focusWidget(), key);
+    };
+    keys({Qt::Key_Tab, Qt::Key_2, Qt::Key_4, Qt::Key_Tab, Qt::Key_1, Qt::Key_2, Qt::Key_Tab, Qt::Key_5, Qt::Key_0});
+    QCOMPARE(edit->text(), u"24.12.50"_qs);
+    keys({Qt::Key_Up}); // takes it
+    QCOMPARE(edit->text(), u"24.12.1951"_qs);
+    keys({Qt::Key_Backtab, Qt::Key_Down, Qt::Key_PageDown});
+    QCOMPARE(edit->text(), u"24.01.1951"_qs);
+    QTest::keyClick(edit, Qt::Key_Left, Qt::ControlModifier);
+    QWheelEvent wheel({9, 9}, edit->mapToGlobal(QPointF(9, 9)), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(edit, &wheel);
+    QCOMPARE(edit->text(), u"25.01.1951"_qs);
+    keys({Qt::Key_End, Qt::Key_Backspace, Qt::Key_7}); // one letter
+    QCOMPARE(edit->text(), u"25.01.1957"_qs);
+    keys({Qt::Key_Tab});
+    QVERIFY(dialog.focusWidget() != edit);
+    QCOMPARE(edit->date(), QDate(1957, 1, 25));
+
+    part<QCheckBox>(dialog, u"yearUnknownBox"_qs)->click();
+    edit->setFocus();
+    QTest::keyClicks(edit, u"3.5."_qs);
+    QVERIFY(!dialog.applyEventChange().hasYear());
+    QCOMPARE(edit->text(), u"03.05."_qs);
+    QTest::keyClicks(edit, u"3.5.1962"_qs); // known after all
+    QCOMPARE(dialog.applyEventChange().dateTime().date(), QDate(1962, 5, 3));
+    QVERIFY(!part<QCheckBox>(dialog, u"yearUnknownBox"_qs)->isChecked());
+
+    const MvCalendarEvent old = entry(u"Karl"_qs, {1219, 11, 24}); // from a file
+    dialog.openDayEditorSingle(old);
+    QCOMPARE(dialog.applyEventChange().dateTime(), old.dateTime());
 }
 
 void tst_MvCalendarDayEditorDialog::seriesOverNewYear()
