@@ -1,17 +1,21 @@
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 
 #include "MvCalendar/MvCalendarEventDateEdit.h"
+#include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvDiskAccessRequest.h"
+#include "MvCore/MvRequestHandler.h"
+#include "MvCore/MvStringHelper.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoList.h"
 #include "MvFoto/MvFotoLoader.h"
 #include "MvGUIWidgets/MvDropLabel.h"
 #include "MvGUIWidgets/MvLineEdit.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QGraphicsObject>
@@ -27,6 +31,9 @@
 #include <QStyle>
 #include <QTimer>
 #include <QWindow>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +52,18 @@ void setStyleClass(QWidget *widget, const QString &name)
     widget->setProperty("cssstyle", name);
 }
 
+/// This very entry: those of a series share their uuid, and equal ones differ in it.
+bool isSameEntry(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    return a.uuid() == b.uuid() && a == b;
+}
+
+bool holds(const MvCalendarEventList &events, const MvCalendarEvent &event)
+{
+    return std::any_of(events.cbegin(), events.cend(),
+                       [&event](const MvCalendarEvent &other) { return isSameEntry(other, event); });
+}
+
 } // namespace
 
 MvCalendarDayEditorDialog::MvCalendarDayEditorDialog(QGraphicsObject *item)
@@ -60,7 +79,7 @@ MvCalendarDayEditorDialog::MvCalendarDayEditorDialog(QGraphicsObject *item)
     m_removePhotoButton->graphicsEffect()->setProperty("opacity", 0.0);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &QWidget::close);
     connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this,
-            &MvCalendarDayEditorDialog::closeWithProject);
+            &MvCalendarDayEditorDialog::followEntry);
 }
 
 MvCalendarDayEditorDialog::~MvCalendarDayEditorDialog() = default;
@@ -97,6 +116,13 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     layout->setAlignment(Qt::AlignTop);
     layout->setContentsMargins(groupMargin, groupMargin, groupMargin, groupMargin);
 
+    m_noticeLabel = new QLabel(group);
+    m_noticeLabel->setObjectName(u"noticeLabel"_s);
+    m_noticeLabel->setTextFormat(Qt::PlainText);
+    m_noticeLabel->setWordWrap(true);
+    m_noticeLabel->hide();
+    layout->addWidget(m_noticeLabel);
+
     m_dateEdit = new MvCalendarEventDateEdit(group);
     layout->addWidget(m_dateEdit);
 
@@ -109,6 +135,7 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     m_descriptionEdit->setObjectName(u"descriptionEdit"_s);
     m_descriptionEdit->setPlaceholderText(tr("Beschreibung"));
     m_descriptionEdit->setAccessibleName(tr("Beschreibung"));
+    m_descriptionEdit->setMaxLength(MvStringHelper::longestName);
     connect(m_descriptionEdit, &QLineEdit::textChanged, this, &MvCalendarDayEditorDialog::onTextChanged);
     layout->addWidget(m_descriptionEdit);
 
@@ -244,8 +271,10 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     }
     m_openedEvent = event;
     m_project = MvCalendarEventRegistry::instance().activeModelId();
-    m_descriptionEdit->setText(event.description());
-    onTextChanged();
+    m_knownEvents = MvCalendarEventRegistry::instance().activeEventList();
+    m_isOfList = holds(m_knownEvents, event);
+    m_noticeLabel->hide();
+    showName(event.description());
     setDate(event.dateTime().date());
     m_descriptionEdit->setFocus();
     m_okAndContinueButton->setVisible(series);
@@ -262,8 +291,7 @@ MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalend
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(window);
-        if (editor && editor != this && editor->isVisible() && !event.uuid().isNull() &&
-            editor->m_openedEvent.uuid() == event.uuid())
+        if (editor && editor != this && editor->isVisible() && isSameEntry(editor->m_openedEvent, event))
             return editor;
     }
     return nullptr;
@@ -302,12 +330,67 @@ void MvCalendarDayEditorDialog::moveToSource()
     move(place.topLeft());
 }
 
-/// Another document's entries are not to be changed by what was opened for this one's.
-void MvCalendarDayEditorDialog::closeWithProject()
+// ---- changes from elsewhere
+
+void MvCalendarDayEditorDialog::followEntry()
 {
-    if (isVisible() && !(MvCalendarEventRegistry::instance().activeModelId() == m_project))
+    const auto &registry = MvCalendarEventRegistry::instance();
+    if (!isVisible())
+        return;
+    if (!(registry.activeModelId() == m_project)) { // its entries are not to be changed by what was opened for others
         rejectedClicked();
+        return;
+    }
+    const MvCalendarEventList before = std::exchange(m_knownEvents, registry.activeEventList());
+    if (!m_isOfList || m_isPushing)
+        return;
+    const MvCalendarEvent present = MvCalendarEventMerge::successor(m_openedEvent, before, m_knownEvents);
+    if (present.isValid())
+        takeOver(present);
+    else
+        loseEntry();
 }
+
+/// Fields that the user has touched stay as they are.
+void MvCalendarDayEditorDialog::takeOver(const MvCalendarEvent &present)
+{
+    const MvCalendarEvent before = std::exchange(m_openedEvent, present);
+    if (m_descriptionEdit->text() == m_shownName && present.description() != before.description())
+        showName(present.description());
+    if (!m_dateEdit->isTouched() && present.dateTime() != before.dateTime())
+        setDate(present.dateTime().date());
+    if (m_foto == before.foto() && !(present.foto() == before.foto()))
+        setFoto(present.foto());
+}
+
+bool MvCalendarDayEditorDialog::isTouched() const
+{
+    return m_descriptionEdit->text() != m_shownName || m_dateEdit->isTouched() || !(m_foto == m_openedEvent.foto());
+}
+
+/// Somebody has deleted the entry. What the user has entered is not thrown away.
+void MvCalendarDayEditorDialog::loseEntry()
+{
+    const QString name = MvStringHelper::simplifiedName(m_openedEvent.description());
+    if (!isTouched()) {
+        const QString text =
+            tr("Der Eintrag „%1“ ist inzwischen gelöscht worden. Das Fenster dafür ist deshalb geschlossen.").arg(name);
+        MvRequestHandler::current().report(windowTitle(), text, sourceWindow());
+        rejectedClicked();
+        return;
+    }
+    m_isOfList = false;
+    m_shownName.clear(); // the name is to be entered, too
+    m_openedEvent = MvCalendarEvent({}, m_openedEvent.dateTime(), true, MvFoto(), QUuid::createUuid(), {});
+    m_noticeLabel->setText(
+        tr("Der Eintrag „%1“ ist inzwischen gelöscht worden. „OK“ legt ihn mit Ihren Angaben neu an.").arg(name));
+    m_noticeLabel->show();
+    QAccessibleEvent alert(m_noticeLabel, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+    setSize(width(), height()); // the line may need room
+}
+
+// ---- buttons
 
 void MvCalendarDayEditorDialog::acceptedClicked()
 {
@@ -340,7 +423,7 @@ void MvCalendarDayEditorDialog::rejectedClicked()
 
 void MvCalendarDayEditorDialog::deleteEntry()
 {
-    push(new MvUndoCommandCalendarEvent(m_openedEvent, MvCalendarEvent(), nullptr));
+    change(MvCalendarEvent(), nullptr);
     accept();
     close();
 }
@@ -356,16 +439,39 @@ void MvCalendarDayEditorDialog::setDate(const QDate &date)
                                                                      : locale.toString(date, QLocale::LongFormat));
 }
 
+void MvCalendarDayEditorDialog::showName(const QString &name)
+{
+    m_descriptionEdit->setText(name);
+    m_shownName = m_descriptionEdit->text();
+    onTextChanged();
+}
+
 MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
 {
     m_dateEdit->takeText();
     MvCalendarEvent changed = m_openedEvent;
     changed.setDateTime(m_dateEdit->date().startOfDay());
-    changed.setEventName(m_descriptionEdit->text());
+    if (m_descriptionEdit->text() != m_shownName) // a file's own form stays as long as nobody changes it
+        changed.setEventName(MvStringHelper::simplifiedName(m_descriptionEdit->text()));
     changed.setRecurrent(true);
-    changed.setFoto(m_foto);
-    push(new MvUndoCommandCalendarEvent(m_openedEvent, changed, m_item));
+    QString error;
+    if (!changed.takeFoto(m_foto, &error))
+        MvDiskAccessRequest::instance().takeFotosFailed({error}, sourceWindow());
+    change(changed, m_item);
     return changed;
+}
+
+void MvCalendarDayEditorDialog::change(const MvCalendarEvent &changed, QGraphicsObject *item)
+{
+    m_isPushing = true;
+    push(new MvUndoCommandCalendarEvent(m_openedEvent, changed, item));
+    m_isPushing = false;
+    if (!changed.isValid())
+        return;
+    m_openedEvent = changed; // from now on it is this one that is edited
+    m_knownEvents = MvCalendarEventRegistry::instance().activeEventList();
+    m_isOfList = holds(m_knownEvents, changed);
+    m_shownName = m_descriptionEdit->text();
 }
 
 void MvCalendarDayEditorDialog::push(MvUndoCommand *command)
@@ -375,7 +481,7 @@ void MvCalendarDayEditorDialog::push(MvUndoCommand *command)
 
 void MvCalendarDayEditorDialog::onTextChanged()
 {
-    const bool hasName = !m_descriptionEdit->text().trimmed().isEmpty();
+    const bool hasName = !MvStringHelper::simplifiedName(m_descriptionEdit->text()).isEmpty();
     m_okButton->setEnabled(hasName);
     m_okAndContinueButton->setEnabled(hasName);
 }

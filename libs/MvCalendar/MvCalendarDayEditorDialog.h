@@ -1,6 +1,6 @@
 #pragma once
 
-#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
 #include "MvFoto/MvFoto.h"
@@ -29,6 +29,10 @@ class QPushButton;
 ///
 /// A tool window without parent that blocks nothing. It shows itself over the window it is opened from, and closes
 /// when that window goes or another document's entries become the active ones. What it changes can be undone.
+///
+/// While it is open, it follows its entry: what changes elsewhere shows in the fields that the user has not touched.
+/// When the entry is deleted elsewhere, the user is told, and the dialog closes; with something entered, it stays and
+/// makes a new entry of that.
 class MVCALENDAR_EXPORT MvCalendarDayEditorDialog : public QDialog
 {
     Q_OBJECT
@@ -61,7 +65,8 @@ public:
     void resetPhoto();
     bool hasPhoto() const;
 
-    /// Does what the user has entered, as an undoable step, and gives the entry as it is then.
+    /// Does what the user has entered, as an undoable step, and gives the entry as it is then. It keeps its date when
+    /// the typed one is none, and its photo when the new one cannot be taken, which the user is told.
     MvCalendarEvent applyEventChange();
     /// Takes ownership.
     void push(MvUndoCommand *command);
@@ -106,9 +111,15 @@ private:
     MvCalendarDayEditorDialog *otherEditor(const MvCalendarEvent &event) const;
     QWidget *sourceWindow() const;
     void moveToSource();
-    void closeWithProject();
+    void showName(const QString &name);
+    void change(const MvCalendarEvent &changed, QGraphicsObject *item);
+    bool isTouched() const;
+    void followEntry();
+    void takeOver(const MvCalendarEvent &present);
+    void loseEntry();
 
     QPointer<QGraphicsObject> m_item;
+    QLabel *m_noticeLabel = nullptr;
     QLabel *m_dateLabel = nullptr;
     MvCalendarEventDateEdit *m_dateEdit = nullptr;
     QDate m_date;
@@ -117,6 +128,10 @@ private:
     QPixmap m_pixmap; // of the photo, in medium resolution
     MvDropLabel *m_fotoLabel = nullptr;
     MvCalendarEvent m_openedEvent;
+    MvCalendarEventList m_knownEvents; // the list in which it was last seen
+    bool m_isOfList = false;           // it was there; a new one is not
+    bool m_isPushing = false;          // a change comes from here
+    QString m_shownName;               // as the field was filled
     QPushButton *m_removePhotoButton = nullptr;
     QPushButton *m_deleteButton = nullptr;
     QPushButton *m_cancelButton = nullptr;

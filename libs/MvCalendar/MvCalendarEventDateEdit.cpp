@@ -62,13 +62,14 @@ MvCalendarEventDateEdit::MvCalendarEventDateEdit(QWidget *parent)
     layout->addLayout(row);
     layout->addWidget(m_hint);
     setFocusProxy(m_edit);
-    reserveHintLines();
+    reserveRoom();
     showSections();
 }
 
-/// Nothing below moves when a reason takes more room than a date.
-void MvCalendarEventDateEdit::reserveHintLines()
+/// A month may be typed by name, and nothing below moves when a reason takes more room than a date.
+void MvCalendarEventDateEdit::reserveRoom()
 {
+    m_edit->setMinimumWidth(m_edit->fontMetrics().horizontalAdvance(u"00. September 0000 ✕"_s));
     m_hint->setFixedHeight(linesOfHint * m_hint->fontMetrics().lineSpacing());
 }
 
@@ -76,7 +77,7 @@ void MvCalendarEventDateEdit::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        reserveHintLines();
+        reserveRoom();
 }
 
 QDate MvCalendarEventDateEdit::date() const

@@ -33,7 +33,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void reserveHintLines();
+    void reserveRoom();
     void showSections();
     void onYearSwitched(bool isUnknown);
     void onMeaningChanged();

@@ -347,6 +347,22 @@ MvCalendarEventList MvCalendarEventMerge::threeWay(const MvCalendarEventList &ba
     return ThreeWay(base, mine, theirs, theirsIsWhole).result();
 }
 
+MvCalendarEvent MvCalendarEventMerge::successor(const MvCalendarEvent &event, const MvCalendarEventList &before,
+                                                const MvCalendarEventList &after)
+{
+    const auto isIt = [&event](const MvCalendarEvent &other) {
+        return other.uuid() == event.uuid() && isSame(other, event);
+    };
+    const auto found = std::find_if(before.cbegin(), before.cend(), isIt);
+    if (found == before.cend())
+        return {};
+    SharedUuids shared;
+    shared.addFrom(before);
+    shared.addFrom(after);
+    const qsizetype there = Pairing(before, after, shared).toSecond(found - before.cbegin());
+    return there < 0 ? MvCalendarEvent() : after.at(there);
+}
+
 MvCalendarEventList MvCalendarEventMerge::withoutRepetitions(const MvCalendarEventList &events)
 {
     QSet<Content> known;

@@ -22,6 +22,10 @@ public:
     static MvCalendarEventList threeWay(const MvCalendarEventList &base, const MvCalendarEventList &mine,
                                         const MvCalendarEventList &theirs, bool theirsIsWhole = true);
 
+    /// What has become of an entry of `before` in `after`, by the same rules; invalid when it is gone.
+    static MvCalendarEvent successor(const MvCalendarEvent &event, const MvCalendarEventList &before,
+                                     const MvCalendarEventList &after);
+
     /// Each of the entries that a file cannot tell apart once, as reading it gives them.
     static MvCalendarEventList withoutRepetitions(const MvCalendarEventList &events);
 };

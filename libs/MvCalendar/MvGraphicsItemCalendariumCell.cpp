@@ -102,6 +102,11 @@ void MvGraphicsItemCalendariumCell::hoverEnterEvent(QGraphicsSceneHoverEvent *)
 
 void MvGraphicsItemCalendariumCell::hoverLeaveEvent(QGraphicsSceneHoverEvent *)
 {
+    endHover();
+}
+
+void MvGraphicsItemCalendariumCell::endHover()
+{
     Q_EMIT hoveredDate(QDate());
     fade(false);
 }

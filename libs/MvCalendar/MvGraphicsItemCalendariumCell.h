@@ -36,6 +36,8 @@ public:
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
+    /// As when the mouse leaves.
+    void endHover();
     /// Opens the day's menu, as a click does, below the cell.
     void press();
     bool hasKeyboardFocus() const { return m_hasKeyboardFocus && hasFocus(); }

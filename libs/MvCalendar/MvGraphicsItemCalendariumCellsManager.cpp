@@ -97,6 +97,8 @@ void MvGraphicsItemCalendariumCellsManager::setStartDate(const QDate &date)
 void MvGraphicsItemCalendariumCellsManager::setEditable(bool editable)
 {
     m_isEditable = editable;
+    if (!editable)
+        endHover(cell(m_hoveredDate));
     for (const auto &cell : std::as_const(m_cells)) {
         if (cell)
             cell->setVisible(editable);
@@ -134,12 +136,20 @@ void MvGraphicsItemCalendariumCellsManager::remove(MvGraphicsItemCalendariumCell
 {
     if (!cell)
         return;
+    endHover(cell);
     cell->disconnect(this);
     if (cell->scene())
         cell->scene()->removeItem(cell);
     else
         cell->setParentItem(nullptr);
     cell->deleteLater();
+}
+
+/// Nobody tells a cell that goes or hides that the mouse has left it.
+void MvGraphicsItemCalendariumCellsManager::endHover(MvGraphicsItemCalendariumCell *cell)
+{
+    if (cell && m_hoveredDate.isValid() && cell->date() == m_hoveredDate)
+        cell->endHover();
 }
 
 void MvGraphicsItemCalendariumCellsManager::addRectForDate(const QDate &date, const QRectF &rect)

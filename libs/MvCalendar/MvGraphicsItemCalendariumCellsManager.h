@@ -52,7 +52,7 @@ public:
 
     /// Of all cells so far, in the item's units, cut to a whole number.
     int smallestWidth() const { return int(m_smallestWidth); }
-    /// Invalid when the mouse is over none.
+    /// Invalid when the mouse is over no cell; also from when that cell goes, or nothing can be edited.
     QDate hoveredDate() const { return m_hoveredDate; }
 
     /// The cell of a date; null when the date has none.
@@ -96,6 +96,7 @@ private:
     MvGraphicsItemCalendariumCell *findCell(const QDate &date);
     MvGraphicsItemCalendariumCell *createCell(const QDate &date);
     void remove(MvGraphicsItemCalendariumCell *cell);
+    void endHover(MvGraphicsItemCalendariumCell *cell);
     void removeKeys(const QDate &month);
     void showEntryForDateInternal();
     MvCalendariumContentConfig configOf(const QDate &date) const { return {date, m_holidayConfig}; }

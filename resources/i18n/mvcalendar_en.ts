@@ -223,6 +223,14 @@
         <source>Das Foto wird geladen…</source>
         <translation>Loading the photo…</translation>
     </message>
+    <message>
+        <source>Der Eintrag „%1“ ist inzwischen gelöscht worden. Das Fenster dafür ist deshalb geschlossen.</source>
+        <translation>The entry “%1” has been deleted meanwhile. Its window is therefore closed.</translation>
+    </message>
+    <message>
+        <source>Der Eintrag „%1“ ist inzwischen gelöscht worden. „OK“ legt ihn mit Ihren Angaben neu an.</source>
+        <translation>The entry “%1” has been deleted meanwhile. “OK” makes it anew from what you have entered.</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarEvent</name>

@@ -2,6 +2,7 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
@@ -57,6 +58,12 @@ private Q_SLOTS:
     void removeButtonFades();
     void belongsToItsWindowAndDocument();
     void oneEditorPerEntry();
+    void oneEditorPerEntryOfASeries();
+    void followsItsEntry_data();
+    void followsItsEntry();
+    void entriesThatAreGone();
+    void fotosThatCannotBeRead();
+    void namesAreSimplified();
     void nothingIsCut();
 
 private:
@@ -590,6 +597,131 @@ void tst_MvCalendarDayEditorDialog::oneEditorPerEntry()
     first.close();
     other.openDayEditorSingle(anna);
     QVERIFY(other.isVisible());
+}
+
+void tst_MvCalendarDayEditorDialog::oneEditorPerEntryOfASeries()
+{
+    MvCalendarDayEditorDialog series(nullptr);
+    series.openDayEditorSeries(entry({}, QDate(2027, 5, 6)));
+    for (const QString &name : {u"Anna"_qs, u"Bernd"_qs}) {
+        description(series)->setText(name);
+        part<QPushButton>(series, u"okAndContinueButton"_qs)->click();
+    }
+    QCOMPARE(events().first().uuid(), events().last().uuid());
+    MvCalendarDayEditorDialog anna(nullptr);
+    anna.openDayEditorSingle(events().first());
+    MvCalendarDayEditorDialog bernd(nullptr);
+    bernd.openDayEditorSingle(events().last());
+    QVERIFY(anna.isVisible() && bernd.isVisible() && series.isVisible());
+    description(anna)->setText(u"Anne"_qs);
+    ok(anna)->click();
+    part<QPushButton>(bernd, u"deleteButton"_qs)->click();
+    QCOMPARE(events().size(), 1);
+    QCOMPARE(events().first().description(), u"Anne"_qs);
+}
+
+void tst_MvCalendarDayEditorDialog::followsItsEntry_data()
+{
+    QTest::addColumn<QString>("name"); // typed in the editor; empty: none
+    QTest::addColumn<bool>("deletes");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("untouched") << QString() << false << u"Anni 2027-05-07 rot"_qs;
+    QTest::newRow("a typed name stays") << u"Anne"_qs << false << u"Anne 2027-05-07 rot"_qs;
+    QTest::newRow("deleted") << QString() << true << QString();
+}
+
+void tst_MvCalendarDayEditorDialog::followsItsEntry()
+{
+    QFETCH(const QString, name);
+    QFETCH(const bool, deletes);
+    QFETCH(const QString, result);
+    const MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 5, 6));
+    const MvCalendarEvent sister = {u"Berta"_qs, QDate(2027, 5, 8).startOfDay(), true, {}, anna.uuid(), {}};
+    MvCalendarEventRegistry::instance().setEvents({anna, sister});
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(anna);
+    if (!name.isEmpty())
+        description(dialog)->setText(name);
+    MvCalendarEvent changed = anna; // by others, one field after the other
+    const auto change = [&changed](const std::function<void(MvCalendarEvent &)> &set) {
+        const MvCalendarEvent before = changed;
+        set(changed);
+        MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, changed, nullptr));
+    };
+    change([this](MvCalendarEvent &event) { QVERIFY(event.takeFoto(MvFoto(QFileInfo(path(u"rot.png"_qs))))); });
+    change([](MvCalendarEvent &event) { event.setDateTime(QDate(2027, 5, 7).startOfDay()); });
+    change([](MvCalendarEvent &event) { event.setEventName(u"Anni"_qs); });
+    QVERIFY(dialog.isVisible() && dialog.hasPhoto());
+    part<QPushButton>(dialog, deletes ? u"deleteButton"_qs : u"okButton"_qs)->click();
+    QStringList found;
+    for (const MvCalendarEvent &event : events()) {
+        if (event.description() == sister.description())
+            continue;
+        const bool isRed = QImage(event.imagePath().filePath()).pixelColor(5, 5) == Qt::red;
+        const QString date = event.dateTime().date().toString(Qt::ISODate);
+        found.append(event.description() + u' ' + date + (isRed ? u" rot"_qs : QString()));
+    }
+    QCOMPARE(found.join(u'|'), result);
+    QCOMPARE(events().size(), deletes ? 1 : 2);
+}
+
+void tst_MvCalendarDayEditorDialog::entriesThatAreGone()
+{
+    auto *script = new Script({});
+    MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(script));
+    const auto restored = qScopeGuard([] { MvRequestHandler::install(nullptr); });
+    const MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 5, 6));
+    MvCalendarEventRegistry::instance().setEvents({anna});
+    MvCalendarDayEditorDialog untouched(nullptr);
+    untouched.openDayEditorSingle(anna);
+    MvCalendarEventRegistry::instance().setEvents({});
+    QVERIFY(!untouched.isVisible());
+    QVERIFY(script->reports.size() == 1 && script->reports.first().contains(u"„Anna“"_qs));
+
+    MvCalendarEventRegistry::instance().setEvents({anna});
+    MvCalendarDayEditorDialog touched(nullptr);
+    touched.openDayEditorSingle(anna);
+    touched.setFoto(MvFoto(QFileInfo(path(u"rot.png"_qs))));
+    MvCalendarEventRegistry::instance().setEvents({});
+    const auto *notice = part<QLabel>(touched, u"noticeLabel"_qs);
+    QVERIFY(touched.isVisible() && notice->isVisible() && notice->text().contains(u"„Anna“"_qs));
+    QCOMPARE(script->reports.size(), 1);
+    ok(touched)->click();
+    QCOMPARE(events().size(), 1);
+    QCOMPARE(events().first().description(), u"Anna"_qs);
+    QVERIFY(events().first().uuid() != anna.uuid()); // the old one may come back by undo
+    QVERIFY(events().first().foto().isValid());
+}
+
+void tst_MvCalendarDayEditorDialog::fotosThatCannotBeRead()
+{
+    auto *script = new Script({});
+    MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(script));
+    const auto restored = qScopeGuard([] { MvRequestHandler::install(nullptr); });
+    MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 5, 6), MvFoto(QFileInfo(path(u"rot.png"_qs))));
+    MvCalendarEventRegistry::instance().setEvents({anna});
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(anna);
+    dialog.setFoto(MvFoto(QFileInfo(path(u"text.png"_qs))));
+    description(dialog)->setText(u"Anne"_qs);
+    ok(dialog)->click();
+    QCOMPARE(events().first().description(), u"Anne"_qs);
+    QCOMPARE(events().first().foto(), anna.foto());
+    QVERIFY(script->reports.size() == 1 && script->reports.first().contains(u"text.png"_qs));
+}
+
+void tst_MvCalendarDayEditorDialog::namesAreSimplified()
+{
+    const MvCalendarEvent old = entry(u" a  b"_qs, QDate(2027, 5, 6)); // a file's form
+    MvCalendarEventRegistry::instance().setEvents({old});
+    MvCalendarDayEditorDialog dialog(nullptr);
+    dialog.openDayEditorSingle(old);
+    QCOMPARE(dialog.applyEventChange(), old);
+    description(dialog)->setText(u"\tOma \u0007 Erna"_qs);
+    QCOMPARE(dialog.applyEventChange().description(), u"Oma Erna"_qs);
+    description(dialog)->setText(u"\u0007\u200b"_qs);
+    QVERIFY(!ok(dialog)->isEnabled());
+    QCOMPARE(events().size(), 1);
 }
 
 void tst_MvCalendarDayEditorDialog::nothingIsCut()

@@ -260,6 +260,21 @@ void tst_MvGraphicsItemCalendariumCells::hovers()
     QTest::mouseMove(canvas.view.viewport(), QPoint(2, 2));
     QTRY_COMPARE(canvas.manager->hoveredDate(), QDate());
     QTRY_COMPARE(canvas.manager->cell(day)->opacity(), 0.01);
+
+    const auto hover = [&canvas] {
+        QTest::mouseMove(canvas.view.viewport(), QPoint(2, 2));
+        QTest::mouseMove(canvas.view.viewport(), canvas.centre(day));
+        QTRY_COMPARE(canvas.manager->hoveredDate(), day);
+    };
+    hover();
+    canvas.manager->setEditable(false);
+    QCOMPARE(canvas.manager->hoveredDate(), QDate());
+    canvas.manager->setEditable(true);
+    hover();
+    QSignalSpy spy(canvas.manager->cell(day), &MvGraphicsItemCalendariumCell::hoveredDate);
+    canvas.pass({2027, 7, 1}, pageRect); // the cell goes
+    QCOMPARE(canvas.manager->hoveredDate(), QDate());
+    QCOMPARE(spy.count(), 1);
 }
 
 void tst_MvGraphicsItemCalendariumCells::paintsForPeopleOnly_data()
