@@ -291,7 +291,8 @@ MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalend
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(window);
-        if (editor && editor != this && editor->isVisible() && isSameEntry(editor->m_openedEvent, event))
+        if (editor && editor != this && editor->isVisible() && (event.isValid() || !event.uuid().isNull()) &&
+            isSameEntry(editor->m_openedEvent, event))
             return editor;
     }
     return nullptr;
