@@ -1,5 +1,6 @@
 #include "MvStudioApplication.h"
 
+#include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvTranslations.h"
@@ -13,6 +14,7 @@
 #include "MvProject/MvProjectAutosave.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
+#include "flows/MvEntriesFlow.h"
 #include "flows/MvProjectFlow.h"
 #include "flows/MvRecoveryDialog.h"
 #include "window/MvStudioWindow.h"
@@ -42,6 +44,7 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
 
 MvStudioApplication::~MvStudioApplication()
 {
+    MvStudioSettings::setFailureHandler({});
     m_window.reset();
     m_autosave.reset();
     MvUndoController::instance().clear();
@@ -81,11 +84,31 @@ void MvStudioApplication::start()
                                error);
     });
     m_window->show();
+    MvStudioSettings::setFailureHandler([this](const QString &error) {
+        MvStudioMessage::error(m_window.get(), tr("Die Einstellungen ließen sich nicht speichern."), error);
+    });
     QTimer::singleShot(0, m_window.get(), [this] {
+        tellUnwritableFolder();
+        m_window->entriesFlow()->start();
         if (!m_options.file().isEmpty())
             m_window->projectFlow()->open(QFileInfo(m_options.file()).absoluteFilePath());
         offerRecovery();
     });
+}
+
+void MvStudioApplication::tellUnwritableFolder()
+{
+    const QDir folder = MvDirectoryConfig::instance().programDataDir();
+    QFileInfo place(folder.absolutePath());
+    while (!place.exists() && !place.isRoot())
+        place = QFileInfo(place.absolutePath()); // where it would have to be made
+    if (place.isDir() && place.isWritable())
+        return;
+    MvStudioMessage::error(m_window.get(), tr("Ihre Einträge können auf diesem Rechner nicht gespeichert werden."),
+                           tr("In den Ordner %1 lässt sich nicht schreiben. Was Sie eintragen, und was zwischendurch "
+                              "gesichert wird, ist nach dem Beenden nicht mehr da. Geben Sie dem Ordner Schreibrechte, "
+                              "und starten Sie das Programm neu.")
+                               .arg(QDir::toNativeSeparators(folder.absolutePath())));
 }
 
 void MvStudioApplication::offerRecovery()

@@ -35,6 +35,7 @@ public:
 
 private:
     void applyTheme();
+    void tellUnwritableFolder();
     void offerRecovery();
 
     MvStudioOptions m_options;

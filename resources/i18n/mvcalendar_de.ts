@@ -152,6 +152,16 @@
     </message>
 </context>
 <context>
+    <name>MvRestoreEntriesDialog</name>
+    <message numerus="yes">
+        <source>%n Einträge</source>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvStudioStatusBar</name>
     <message numerus="yes">
         <source>%n Texte ohne Platz</source>

@@ -1056,6 +1056,109 @@
     </message>
 </context>
 <context>
+    <name>MvEntriesFlow</name>
+    <message>
+        <source>Ihre Einträge fehlen in Ihren Kalendern.</source>
+        <translation>Your entries are missing from your calendars.</translation>
+    </message>
+    <message>
+        <source>Ein Teil Ihrer Einträge fehlt in Ihren Kalendern.</source>
+        <translation>Some of your entries are missing from your calendars.</translation>
+    </message>
+    <message>
+        <source>Ihre letzten Änderungen an den Einträgen sind nicht gespeichert.</source>
+        <translation>Your latest changes to the entries are not saved.</translation>
+    </message>
+    <message>
+        <source>Ihre letzten Änderungen an den Einträgen sind noch nicht gespeichert.</source>
+        <translation>Your latest changes to the entries are not saved yet.</translation>
+    </message>
+    <message>
+        <source>Eine frühere Fassung gibt es nicht.</source>
+        <translation>There is no earlier version.</translation>
+    </message>
+    <message>
+        <source>Frühere Fassungen gibt es vom %1.</source>
+        <translation>There are earlier versions of %1.</translation>
+    </message>
+    <message>
+        <source>Solange das Programm läuft, sind sie noch da. Schaffen Sie Platz oder Schreibrechte, und versuchen Sie es noch einmal, oder sichern Sie Ihre Einträge in eine andere Datei.</source>
+        <translation>As long as the program runs, they are still there. Make room on the disk or get the right to write, and try again, or save your entries to another file.</translation>
+    </message>
+    <message>
+        <source>Die Datei bleibt, wie sie ist; bevor eine neue an ihre Stelle kommt, wird sie beiseitegelegt.</source>
+        <translation>The file stays as it is; before a new one takes its place, it is set aside.</translation>
+    </message>
+    <message>
+        <source>Die Datei wird aufbewahrt: %1</source>
+        <translation>The file is kept: %1</translation>
+    </message>
+    <message>
+        <source>Einträge nicht lesbar</source>
+        <translation>Entries not readable</translation>
+    </message>
+    <message>
+        <source>Einträge nicht alle lesbar</source>
+        <translation>Not all entries readable</translation>
+    </message>
+    <message>
+        <source>Einträge nicht gespeichert</source>
+        <translation>Entries not saved</translation>
+    </message>
+    <message>
+        <source>Einträge noch nicht gespeichert</source>
+        <translation>Entries not saved yet</translation>
+    </message>
+    <message>
+        <source>Noch einmal versuchen</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>In andere Datei sichern …</source>
+        <translation>Save to another file …</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen …</source>
+        <translation>Restore …</translation>
+    </message>
+    <message>
+        <source>Ohne sie weitermachen</source>
+        <translation>Go on without them</translation>
+    </message>
+    <message>
+        <source>Später entscheiden</source>
+        <translation>Decide later</translation>
+    </message>
+    <message>
+        <source>Die Einträge sind gespeichert</source>
+        <translation>The entries are saved</translation>
+    </message>
+    <message>
+        <source>Die Einträge sind wiederhergestellt</source>
+        <translation>The entries are restored</translation>
+    </message>
+    <message>
+        <source>Die Einträge ließen sich nicht wiederherstellen.</source>
+        <translation>The entries could not be restored.</translation>
+    </message>
+    <message>
+        <source>Einträge gesichert: %1</source>
+        <translation>Entries saved: %1</translation>
+    </message>
+    <message>
+        <source>Kalendereinträge</source>
+        <translation>Calendar entries</translation>
+    </message>
+    <message>
+        <source>Wenn Sie das Programm jetzt beenden, gehen sie verloren.</source>
+        <translation>If you quit the program now, they will be lost.</translation>
+    </message>
+    <message>
+        <source>Trotzdem beenden</source>
+        <translation>Quit all the same</translation>
+    </message>
+</context>
+<context>
     <name>MvExportDialog</name>
     <message>
         <source>Als PDF exportieren</source>
@@ -2674,6 +2777,48 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvRestoreEntriesDialog</name>
+    <message>
+        <source>nicht lesbar</source>
+        <translation>not readable</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge</source>
+        <translation>
+            <numerusform>%n entry</numerusform>
+            <numerusform>%n entries</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Einträge wiederherstellen</source>
+        <translation>Restore entries</translation>
+    </message>
+    <message>
+        <source>Die Einträge der gewählten Fassung kommen in Ihre Liste zurück. Was Sie seither eingegeben haben, bleibt; die jetzige Datei wird beiseitegelegt.</source>
+        <translation>The entries of the chosen version come back into your list. What you have entered since stays; the present file is set aside.</translation>
+    </message>
+    <message>
+        <source>Frühere Fassungen</source>
+        <translation>Earlier versions</translation>
+    </message>
+    <message>
+        <source>Fassung vom</source>
+        <translation>Version of</translation>
+    </message>
+    <message>
+        <source>Inhalt</source>
+        <translation>Content</translation>
+    </message>
+    <message>
+        <source>Datei</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation>Restore</translation>
+    </message>
+</context>
+<context>
     <name>MvSafeFileWriter</name>
     <message>
         <source>%1 konnte nicht gespeichert werden: %2</source>
@@ -2990,6 +3135,18 @@ Save it under another name or in another folder.</translation>
         <source>Der Kalender lässt sich nicht wiederherstellen.</source>
         <translation>The calendar cannot be recovered.</translation>
     </message>
+    <message>
+        <source>Die Einstellungen ließen sich nicht speichern.</source>
+        <translation>The settings could not be saved.</translation>
+    </message>
+    <message>
+        <source>Ihre Einträge können auf diesem Rechner nicht gespeichert werden.</source>
+        <translation>Your entries cannot be saved on this computer.</translation>
+    </message>
+    <message>
+        <source>In den Ordner %1 lässt sich nicht schreiben. Was Sie eintragen, und was zwischendurch gesichert wird, ist nach dem Beenden nicht mehr da. Geben Sie dem Ordner Schreibrechte, und starten Sie das Programm neu.</source>
+        <translation>The folder %1 cannot be written to. What you enter, and what is saved in between, will be gone after quitting. Give yourself the right to write there, and start the program again.</translation>
+    </message>
 </context>
 <context>
     <name>MvStudioMessage</name>
@@ -3089,6 +3246,13 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
+    <name>MvStudioSettings</name>
+    <message>
+        <source>In die Datei %1 lässt sich nicht schreiben.</source>
+        <translation>The file %1 cannot be written.</translation>
+    </message>
+</context>
+<context>
     <name>MvStudioStatusBar</name>
     <message>
         <source>Diese Texte mussten gekürzt werden, weil ihr Tag zu wenig Platz hat</source>
@@ -3132,6 +3296,10 @@ Designs photo calendars and prints them.
             <numerusform>%n text without room</numerusform>
             <numerusform>%n texts without room</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Was geschehen ist, und was Sie tun können</source>
+        <translation>What has happened, and what you can do</translation>
     </message>
 </context>
 <context>

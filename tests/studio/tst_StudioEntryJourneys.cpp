@@ -1,10 +1,13 @@
 #include "MvStudioFixture.h"
 
-#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvProject.h"
+#include "common/MvStudioSettings.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCore/MvDirectoryConfig.h"
 
 using namespace Qt::StringLiterals;
 
@@ -47,12 +50,20 @@ class tst_StudioEntryJourneys : public MvWidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void init()
+    {
+        if (!QByteArray(QTest::currentTestFunction()).startsWith("trouble")) // which is logged, too
+            failOnWarnings();
+    }
     void birthdayWithPhotos();
     void entryIsDeleted();
     void seriesOverNewYear();
     void lists_data();
     void lists();
     void rowsOfTheList();
+    void troubleWithReadingIsToldAndMended();
+    void troubleWithSavingIsToldAndAsked();
+    void troubleWithFoldersIsTold();
 
 private:
     static bool addEntry(const MvStudioFixture &studio, const QDate &date, const QString &name);
@@ -242,6 +253,85 @@ void tst_StudioEntryJourneys::rowsOfTheList()
     studio.undo();
     studio.undo();
     QCOMPARE(names(), QStringList{u"Oma"_s});
+}
+
+void tst_StudioEntryJourneys::troubleWithReadingIsToldAndMended()
+{
+    MvStudioFixture studio;
+    QVERIFY(addEntry(studio, birthday, u"Oma"_s));
+    QVERIFY(addEntry(studio, birthday, u"Opa"_s));
+    QFile own(MvCalendarEventRegistry::instance().calendarEventsDir().filePath()); // Oma is in the version before
+    QVERIFY(own.resize(200));
+    studio.restart();
+    QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>("entriesProblem"));
+    auto *told = MvStudioFixture::dialog<QMessageBox>("entriesProblem");
+    QVERIFY2(told->informativeText().contains(own.fileName()), qPrintable(told->informativeText()));
+    const QString date =
+        QLocale(u"de"_s).toString(QFileInfo(own.fileName() + u'~').lastModified(), QLocale::ShortFormat);
+    QVERIFY2(told->informativeText().contains(date), qPrintable(told->informativeText()));
+    QVERIFY(studio.click(told, "laterButton"));
+    QVERIFY(studio.click(studio.window(), "entriesNoticeButton")); // stays
+    QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesProblem"), "restoreButton"));
+    auto *versions = MvStudioFixture::dialog<QDialog>("restoreEntriesDialog");
+    QVERIFY(versions);
+    QCOMPARE(versions->findChild<QTreeWidget *>()->topLevelItem(0)->text(1), u"1 Eintrag"_s);
+    QVERIFY(studio.click(versions, "restoreNowButton"));
+    QCOMPARE(names(), QStringList{u"Oma"_s});
+    QVERIFY(!studio.find("entriesNoticeButton"));
+    QCOMPARE(MvCalendarEventFile::read(QFileInfo(own.fileName())).events.size(), 1);
+}
+
+void tst_StudioEntryJourneys::troubleWithSavingIsToldAndAsked()
+{
+    MvStudioFixture studio;
+    const QString own = MvCalendarEventRegistry::instance().calendarEventsDir().filePath();
+    QVERIFY(QFile::remove(own) && QDir().mkdir(own)); // in the way
+    QVERIFY(addEntry(studio, birthday, u"Oma"_s));
+    QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>("entriesProblem"));
+    QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesProblem"), "laterButton"));
+    QVERIFY(addEntry(studio, birthday, u"Opa"_s));
+    QCoreApplication::processEvents();
+    QVERIFY(!MvStudioFixture::dialog<QMessageBox>("entriesProblem")); // once
+    QVERIFY(studio.find("entriesNoticeButton"));
+
+    studio.project()->newProject(studio.document()); // nothing but the entries is unsaved
+    studio.window()->close();
+    QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesUnsavedQuestion"), "cancelButton"));
+    QVERIFY(studio.window()->isVisible());
+    QVERIFY(QDir().rmdir(own));
+    QVERIFY(studio.click(studio.window(), "entriesNoticeButton"));
+    QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesProblem"), "retryButton"));
+    QVERIFY(!studio.find("entriesNoticeButton"));
+    QCOMPARE(MvCalendarEventFile::read(QFileInfo(own)).events.size(), 2);
+    studio.window()->close();
+    QVERIFY(!studio.window()->isVisible());
+}
+
+void tst_StudioEntryJourneys::troubleWithFoldersIsTold()
+{
+    QTemporaryFile inTheWay;
+    QVERIFY(inTheWay.open());
+    const QString missing = inTheWay.fileName() + u"/mvcalendar"_s;
+    const QString folder = MvDirectoryConfig::instance().programDataDir().path();
+    MvDirectoryConfig::instance().setProgramDataDir(missing);
+    {
+        const MvStudioFixture studio;
+        QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>("errorMessage"));
+        const QString told = MvStudioFixture::dialog<QMessageBox>("errorMessage")->informativeText();
+        QVERIFY2(told.contains(missing), qPrintable(told));
+    }
+    MvDirectoryConfig::instance().setProgramDataDir(folder);
+    QVERIFY(MvCalendarEventRegistry::instance().userFile().saveNow());
+
+    QStringList errors;
+    MvStudioSettings::setFailureHandler([&errors](const QString &error) { errors.append(error); });
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, missing);
+    MvStudioSettings::setTheme(u"dark"_s);
+    MvStudioSettings::setTheme(u"light"_s);
+    QCOMPARE(errors.size(), 1); // once
+    QVERIFY2(errors.first().contains(missing), qPrintable(errors.first()));
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope,
+                       QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
 }
 
 MV_WIDGET_TEST_MAIN(tst_StudioEntryJourneys)

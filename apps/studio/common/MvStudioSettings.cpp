@@ -5,6 +5,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -18,14 +20,37 @@ QSettings storage()
     return QSettings(QSettings::IniFormat, QSettings::UserScope, u"mvcalendar"_s, u"mvcalendar-studio"_s);
 }
 
+struct Failure
+{
+    std::function<void(const QString &)> handler;
+    bool isTold = false;
+};
+
+Failure &failure()
+{
+    static Failure instance;
+    return instance;
+}
+
 void store(const QString &key, const QVariant &value)
 {
     QSettings settings = storage();
     settings.setValue(key, value);
     settings.sync();
+    const bool fails = settings.status() != QSettings::NoError;
+    if (fails && !std::exchange(failure().isTold, true) && failure().handler)
+        failure().handler(MvStudioSettings::tr("In die Datei %1 lässt sich nicht schreiben.")
+                              .arg(QDir::toNativeSeparators(settings.fileName())));
+    else if (!fails)
+        failure().isTold = false;
 }
 
 } // namespace
+
+void MvStudioSettings::setFailureHandler(const std::function<void(const QString &)> &handler)
+{
+    failure() = {handler, false};
+}
 
 QString MvStudioSettings::language()
 {

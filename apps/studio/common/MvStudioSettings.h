@@ -1,12 +1,17 @@
 #pragma once
 
 #include <QByteArray>
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
+
+#include <functional>
 
 /// What the studio remembers from one start to the next; stored at once.
 class MvStudioSettings
 {
+    Q_DECLARE_TR_FUNCTIONS(MvStudioSettings)
+
 public:
     static constexpr int mostRecentFiles = 10;
 
@@ -40,4 +45,7 @@ public:
     /// Any value of a dialog that it offers again next time.
     static QString text(const QString &key, const QString &defaultValue = {});
     static void setText(const QString &key, const QString &value);
+
+    /// Is called when a value could not be stored, with the file's name for a person; once until storing works again.
+    static void setFailureHandler(const std::function<void(const QString &error)> &handler);
 };

@@ -23,10 +23,20 @@ constexpr int longestMenuText = 60;
 
 MvStudioStatusBar::MvStudioStatusBar(QWidget *parent)
     : QStatusBar(parent)
+    , m_entriesNotice(new QToolButton(this))
     , m_unfitting(new QToolButton(this))
     , m_page(new QLabel(this))
     , m_zoom(new QComboBox(this))
 {
+    m_entriesNotice->setObjectName(u"entriesNoticeButton"_s);
+    m_entriesNotice->setIcon(MvIconRegistry::instance().icon(u"ico_studio_warning"_s));
+    m_entriesNotice->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_entriesNotice->setAutoRaise(true);
+    m_entriesNotice->setFocusPolicy(Qt::TabFocus);
+    m_entriesNotice->setToolTip(tr("Was geschehen ist, und was Sie tun können"));
+    m_entriesNotice->hide();
+    connect(m_entriesNotice, &QToolButton::clicked, this, &MvStudioStatusBar::entriesNoticeClicked);
+
     m_unfitting->setObjectName(u"unfittingButton"_s);
     m_unfitting->setIcon(MvIconRegistry::instance().icon(u"ico_studio_warning"_s));
     m_unfitting->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -62,6 +72,7 @@ MvStudioStatusBar::MvStudioStatusBar(QWidget *parent)
     });
     connect(m_zoom->lineEdit(), &QLineEdit::editingFinished, this, &MvStudioStatusBar::onZoomEntered);
 
+    addPermanentWidget(m_entriesNotice);
     addPermanentWidget(m_unfitting);
     addPermanentWidget(m_page);
     addPermanentWidget(m_zoom);
@@ -88,6 +99,13 @@ void MvStudioStatusBar::setUnfitting(const QList<MvUnfittingWatch::Entry> &entri
     m_unfitting->setText(tr("%n Texte ohne Platz", nullptr, int(entries.size())));
     m_unfitting->setAccessibleName(m_unfitting->text());
     m_unfitting->setVisible(!entries.isEmpty());
+}
+
+void MvStudioStatusBar::setEntriesNotice(const QString &text)
+{
+    m_entriesNotice->setText(text);
+    m_entriesNotice->setAccessibleName(text);
+    m_entriesNotice->setVisible(!text.isEmpty());
 }
 
 void MvStudioStatusBar::onZoomEntered()

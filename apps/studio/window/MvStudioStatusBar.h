@@ -8,7 +8,7 @@ class QComboBox;
 class QLabel;
 class QToolButton;
 
-/// Messages at the left; at the right the texts without room, the shown page and its zoom.
+/// Messages at the left; at the right trouble with the entries, the texts without room, the shown page and its zoom.
 class MvStudioStatusBar : public QStatusBar
 {
     Q_OBJECT
@@ -20,17 +20,21 @@ public:
     void setPage(int page, int pageCount, const QString &title);
     void setZoom(double zoom, bool isFitted);
     void setUnfitting(const QList<MvUnfittingWatch::Entry> &entries);
+    /// What is wrong with the file of entries, in few words; empty when nothing is.
+    void setEntriesNotice(const QString &text);
 
 Q_SIGNALS:
     void zoomRequested(double zoom);
     void fitRequested();
     void pageRequested(int page);
+    void entriesNoticeClicked();
 
 private:
     void onZoomEntered();
     void fillMenu();
 
     QList<MvUnfittingWatch::Entry> m_entries;
+    QToolButton *m_entriesNotice;
     QToolButton *m_unfitting;
     QLabel *m_page;
     QComboBox *m_zoom;

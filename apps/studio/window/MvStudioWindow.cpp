@@ -7,6 +7,7 @@
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvDocumentDialog.h"
+#include "flows/MvEntriesFlow.h"
 #include "flows/MvExportFlow.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvProjectFlow.h"
@@ -63,6 +64,7 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     , m_export(new MvExportFlow(project, this))
     , m_print(new MvPrintFlow(project, this))
     , m_import(new MvBirthdayImport(this))
+    , m_entries(new MvEntriesFlow(this))
     , m_unfitting(new MvUnfittingWatch(project, this))
     , m_statusBar(new MvStudioStatusBar(this))
 {
@@ -258,6 +260,9 @@ void MvStudioWindow::connectPages()
     connect(m_canvas, &MvPageCanvas::zoomChanged, this,
             [this](double zoom) { m_statusBar->setZoom(zoom, m_canvas->isFitted()); });
     connect(m_strip, &MvPageStrip::pageActivated, m_canvas, &MvPageCanvas::setCurrentPage);
+    connect(m_entries, &MvEntriesFlow::noticeChanged, m_statusBar, &MvStudioStatusBar::setEntriesNotice);
+    connect(m_entries, &MvEntriesFlow::message, this, &MvStudioWindow::showMessage);
+    connect(m_statusBar, &MvStudioStatusBar::entriesNoticeClicked, m_entries, &MvEntriesFlow::show);
     connect(m_statusBar, &MvStudioStatusBar::zoomRequested, m_canvas, &MvPageCanvas::setZoom);
     connect(m_statusBar, &MvStudioStatusBar::fitRequested, m_canvas, &MvPageCanvas::zoomToFit);
     connect(m_statusBar, &MvStudioStatusBar::pageRequested, this, &MvStudioWindow::setCurrentPage);
@@ -409,15 +414,17 @@ void MvStudioWindow::rememberWindow() const
 
 void MvStudioWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_mayClose || !m_project->isModified()) {
+    if (m_mayClose || (!m_project->isModified() && !m_entries->hasUnsaved())) {
         rememberWindow();
         event->accept();
         return;
     }
     event->ignore();
     m_flow->leave([this] {
-        m_mayClose = true;
-        close();
+        m_entries->leave([this] {
+            m_mayClose = true;
+            close();
+        });
     });
 }
 

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 class MvBirthdayImport;
+class MvEntriesFlow;
 class MvExportFlow;
 class MvPageCanvas;
 class MvPageStrip;
@@ -29,6 +30,7 @@ public:
 
     MvProjectFlow *projectFlow() const { return m_flow; }
     MvBirthdayImport *birthdayImport() const { return m_import; }
+    MvEntriesFlow *entriesFlow() const { return m_entries; }
 
     int currentPage() const;
 
@@ -71,6 +73,7 @@ private:
     MvExportFlow *m_export;
     MvPrintFlow *m_print;
     MvBirthdayImport *m_import;
+    MvEntriesFlow *m_entries;
     MvUnfittingWatch *m_unfitting;
     MvWelcomePanel *m_welcome = nullptr;
     MvPageCanvas *m_canvas = nullptr;

@@ -1,0 +1,81 @@
+#include "flows/MvRestoreEntriesDialog.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCore/MvApplicationLocale.h"
+#include "common/MvStudioMessage.h"
+
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 largestCounted = 1024 * 1024; // bytes; nobody waits for more
+
+QString contentText(const QFileInfo &backup)
+{
+    if (backup.size() > largestCounted)
+        return {};
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(backup);
+    if (!content.refusal().isEmpty())
+        return MvRestoreEntriesDialog::tr("nicht lesbar");
+    return MvRestoreEntriesDialog::tr("%n Einträge", nullptr, int(content.events.size()));
+}
+
+} // namespace
+
+MvRestoreEntriesDialog::MvRestoreEntriesDialog(const QList<QFileInfo> &backups, QWidget *parent)
+    : QDialog(parent)
+    , m_backups(backups)
+    , m_list(new QTreeWidget(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(u"restoreEntriesDialog"_s);
+    setWindowTitle(tr("Einträge wiederherstellen"));
+    auto *text = new QLabel(tr("Die Einträge der gewählten Fassung kommen in Ihre Liste zurück. Was Sie seither "
+                               "eingegeben haben, bleibt; die jetzige Datei wird beiseitegelegt."),
+                            this);
+    text->setWordWrap(true);
+    m_list->setObjectName(u"backupList"_s);
+    m_list->setAccessibleName(tr("Frühere Fassungen"));
+    m_list->setRootIsDecorated(false);
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    m_list->setHeaderLabels({tr("Fassung vom"), tr("Inhalt"), tr("Datei")});
+    for (const QFileInfo &backup : backups)
+        addRow(backup);
+    m_list->resizeColumnToContents(0);
+    m_list->resizeColumnToContents(1);
+    m_list->setCurrentItem(m_list->topLevelItem(0));
+
+    QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Cancel, this);
+    QPushButton *restore = buttons->addButton(tr("Wiederherstellen"), QDialogButtonBox::AcceptRole);
+    restore->setObjectName(u"restoreNowButton"_s);
+    restore->setDefault(true);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_list, &QTreeWidget::itemActivated, this, &QDialog::accept);
+    connect(this, &QDialog::accepted, this, [this] {
+        const int row = m_list->indexOfTopLevelItem(m_list->currentItem());
+        if (row >= 0)
+            Q_EMIT restoreRequested(m_backups.at(row));
+    });
+
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(text);
+    column->addWidget(m_list, 1);
+    column->addWidget(buttons);
+    resize(640, 320);
+}
+
+void MvRestoreEntriesDialog::addRow(const QFileInfo &backup)
+{
+    const QString time = MvApplicationLocale::instance().locale().toString(backup.lastModified(), QLocale::ShortFormat);
+    const QString path = QDir::toNativeSeparators(backup.filePath());
+    auto *row = new QTreeWidgetItem(m_list, {time, contentText(backup), backup.fileName()});
+    row->setToolTip(2, path);
+}
