@@ -3,7 +3,10 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventFileIntake.h"
+#include "MvCalendar/MvCalendarEventListWidget.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvGUIWidgets/MvColorPalettePopup.h"
 #include "pages/MvPageCanvas.h"
@@ -115,6 +118,12 @@ private:
     void noPrinter() { trigger("print"); }
     void preview();
     void unfitting();
+    void entriesReplace();
+    void entriesClear();
+    void entriesUnreadable();
+    void entriesVersions();
+    void entriesUnsaved();
+    void entriesLeave();
 
     MvStudioApplication *m_studio;
     QDir m_folder;
@@ -178,6 +187,12 @@ QList<Screenshots::State> Screenshots::states()
         {"no-printer", &S::noPrinter, settling},
         {"print-preview", &S::preview, longSettling},
         {"unfitting", &S::unfitting, settling},
+        {"entries-replace", &S::entriesReplace, settling},
+        {"entries-clear", &S::entriesClear, settling},
+        {"entries-unreadable", &S::entriesUnreadable, settling},
+        {"entries-versions", &S::entriesVersions, settling},
+        {"entries-unsaved", &S::entriesUnsaved, settling},
+        {"entries-leave", &S::entriesLeave, settling},
     };
 }
 
@@ -209,6 +224,9 @@ void Screenshots::reset()
     MvStudioSettings::setWelcomeShown(false);
     if (find<QAction>("showWelcome")->isChecked())
         trigger("showWelcome");
+    auto &registry = MvCalendarEventRegistry::instance();
+    QDir().rmdir(registry.calendarEventsDir().filePath()); // of the states with trouble
+    registry.userFile().dismissReadProblem();
     setEntries(u"eintraege.xml"_s);
     MvCalendarDocument document = MvProjectFlow::firstDocument();
     MvCalendariumHolidayConfig holidays = document.holidayConfig();
@@ -449,6 +467,62 @@ void Screenshots::closeQuestion()
 void Screenshots::error()
 {
     window()->projectFlow()->open(u"/home/sabine/Kalender/Familie 2027.mvcalendar"_s);
+}
+
+/// Part of a list, from a folder far down.
+void Screenshots::entriesReplace()
+{
+    QByteArray list("<CalendarEvents>\n<CalendarEvent><Name>Tante Hedwig</Name><DateTime>1950-03-01T00:00:00</DateTime>"
+                    "</CalendarEvent>\n");
+    for (int i = 1; i <= 14; ++i)
+        list += "<CalendarEvent><Name>Person " + QByteArray::number(i) +
+                "</Name><DateTime>17.05.1941</DateTime></CalendarEvent>\n";
+    const QDir far(QDir::homePath() + u"/Dokumente/Familie/Kalender und Geburtstage/Sicherungen_von_den_alten_Rechnern"_s);
+    QDir().mkpath(far.path());
+    QFile file(far.filePath(u"Geburtstage_der_ganzen_Familie_und_aller_Freunde_aus_der_alten_Liste.xml"_s));
+    if (!file.open(QIODevice::WriteOnly) || file.write(list + "</CalendarEvents>\n") < 0)
+        qFatal("%s cannot be written", qPrintable(file.fileName()));
+    file.close();
+    MvCalendarEventFileIntake::start(file.fileName(), MvCalendarEventFileIntake::Purpose::Replace, window(), {});
+}
+
+void Screenshots::entriesClear()
+{
+    raiseDock("entriesPanelDock");
+    find<MvCalendarEventListWidget>(nullptr)->clearEventList();
+}
+
+void Screenshots::entriesUnreadable()
+{
+    setEntries({});
+    setEntries(u"eintraege.xml"_s);
+    QFile own(MvCalendarEventRegistry::instance().calendarEventsDir().filePath());
+    if (!own.resize(own.size() / 2))
+        qFatal("%s cannot be cut", qPrintable(own.fileName()));
+    MvCalendarEventRegistry::instance().load();
+}
+
+void Screenshots::entriesVersions()
+{
+    entriesUnreadable();
+    QTest::qWait(settling);
+    find<QPushButton>("restoreButton")->click();
+}
+
+void Screenshots::entriesUnsaved()
+{
+    const QString own = MvCalendarEventRegistry::instance().calendarEventsDir().filePath();
+    QFile::remove(own);
+    QDir().mkdir(own); // in the way
+    setEntries({});
+}
+
+void Screenshots::entriesLeave()
+{
+    entriesUnsaved();
+    QTest::qWait(settling);
+    find<QPushButton>("laterButton")->click();
+    window()->close();
 }
 
 void Screenshots::preview()

@@ -79,18 +79,19 @@ void readEntries(QXmlStreamReader &reader, const QDir &folder, MvCalendarEventFi
     content.events = gathering.events();
 }
 
-void warnOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &file)
+QString noteOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &file)
 {
     QStringList paths;
     for (const MvCalendarEvent &event : events) {
         if (event.foto().isValid() && !event.foto().mayBeOpened())
             paths.append(event.foto().localFilePath());
     }
-    if (!paths.isEmpty())
-        qWarning().noquote() << MvCalendarEventFile::tr("%1: %n Fotos liegen außerhalb der erlaubten Ordner und "
-                                                        "werden nicht geladen, zuerst %2",
-                                                        nullptr, int(paths.size()))
-                                    .arg(file.filePath(), paths.first());
+    if (paths.isEmpty())
+        return {};
+    const QString note = MvCalendarEventFile::tr("%1: %n Fotos liegen außerhalb der erlaubten Ordner und werden nicht "
+                                                 "geladen, zuerst %2",
+                                                 nullptr, int(paths.size()));
+    return note.arg(file.filePath(), paths.first());
 }
 
 } // namespace
@@ -122,7 +123,9 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
             MvXMLLoader::Error{reader.errorString(), int(reader.lineNumber()), int(reader.columnNumber()) + 1}.describe(
                 present);
     content.isComplete = content.isRead() && content.skipped.isEmpty();
-    warnOfForeignFotos(content.events, present);
+    content.note = noteOfForeignFotos(content.events, present);
+    if (!content.note.isEmpty())
+        qWarning().noquote() << content.note;
     return content;
 }
 

@@ -33,6 +33,7 @@ public:
         QString error;           // for a person, with file and place; empty when the file was read to its end
         QString foreign;         // for a person, with file; set when it is well-formed, but no list of entries
         QList<Skipped> skipped;  // in the order of the file
+        QString note;            // for a person, with file: photos that may not be opened; else empty
         bool isMissing = false;  // there is no such file; error is set, too
         bool isComplete = false; // everything in the file is in the list: writing it back loses nothing
 

@@ -117,6 +117,8 @@ void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, 
     const int missing = purpose == Purpose::Replace ? missingIn(content.events, present) : 0;
     if (missing == 0 && skipped.isEmpty()) {
         take(content.events);
+        if (!content.note.isEmpty())
+            MvRequestHandler::current().report(tr("Kalendereinträge"), content.note, asker);
         return;
     }
     const QString name = QFileInfo(fileName).fileName();
@@ -126,6 +128,7 @@ void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, 
     QStringList details{question.details};
     if (!skipped.isEmpty())
         details << skipped << QDir::toNativeSeparators(fileName);
+    details << content.note;
     details.removeAll(QString());
     question.details = details.join(u"\n\n"_s);
     MvYesNoRequest::instance().request(question, asker, [events = content.events, take](bool yes) {

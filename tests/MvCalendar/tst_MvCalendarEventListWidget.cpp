@@ -83,6 +83,7 @@ private Q_SLOTS:
     void savesAndLoads();
     void decidesAboutDoubtfulFiles_data();
     void decidesAboutDoubtfulFiles();
+    void fotosThatMayNotBeOpenedAreTold();
     void noFileChangesNothing();
     void clears_data();
     void clears();
@@ -355,6 +356,23 @@ void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles()
             load();
             QTEST(names().join(u' '), "enlarged"); // without uuids, entries are known by what they say
         }
+    }
+}
+
+void tst_MvCalendarEventListWidget::fotosThatMayNotBeOpenedAreTold()
+{
+    MvCalendarEventListWidget list;
+    m_script->file = path(u"liste.xml"_qs);
+    QFile file(m_script->file);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<CalendarEvents><CalendarEvent><Name>Tante</Name><DateTime>1950-01-01T00:00:00</DateTime>"
+               "<Image>/etc/hostname</Image></CalendarEvent></CalendarEvents>");
+    file.close();
+    for (const bool merge : {true, false}) { // adding asks nothing, replacing does
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"1 Foto"_qs));
+        list.loadEventList(merge);
+        const QString told = merge ? m_script->reports.value(0) : m_script->details;
+        QVERIFY2(told.contains(u"/etc/hostname"_qs), qPrintable(told));
     }
 }
 

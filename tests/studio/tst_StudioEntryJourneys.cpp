@@ -284,8 +284,9 @@ void tst_StudioEntryJourneys::troubleWithReadingIsToldAndMended()
 void tst_StudioEntryJourneys::troubleWithSavingIsToldAndAsked()
 {
     MvStudioFixture studio;
-    const QString own = MvCalendarEventRegistry::instance().calendarEventsDir().filePath();
-    QVERIFY(QFile::remove(own) && QDir().mkdir(own)); // in the way
+    const QString folder = MvDirectoryConfig::instance().programDataDir().absolutePath();
+    QFile inTheWay(folder);
+    QVERIFY(QDir().rename(folder, folder + u"-weg"_s) && inTheWay.open(QIODevice::WriteOnly));
     QVERIFY(addEntry(studio, birthday, u"Oma"_s));
     QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>("entriesProblem"));
     QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesProblem"), "laterButton"));
@@ -298,11 +299,11 @@ void tst_StudioEntryJourneys::troubleWithSavingIsToldAndAsked()
     studio.window()->close();
     QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesUnsavedQuestion"), "cancelButton"));
     QVERIFY(studio.window()->isVisible());
-    QVERIFY(QDir().rmdir(own));
+    QVERIFY(inTheWay.remove() && QDir().rename(folder + u"-weg"_s, folder));
     QVERIFY(studio.click(studio.window(), "entriesNoticeButton"));
     QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesProblem"), "retryButton"));
     QVERIFY(!studio.find("entriesNoticeButton"));
-    QCOMPARE(MvCalendarEventFile::read(QFileInfo(own)).events.size(), 2);
+    QCOMPARE(MvCalendarEventFile::read(MvCalendarEventRegistry::instance().calendarEventsDir()).events.size(), 2);
     studio.window()->close();
     QVERIFY(!studio.window()->isVisible());
 }

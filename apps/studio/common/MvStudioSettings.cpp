@@ -32,13 +32,15 @@ Failure &failure()
     return instance;
 }
 
-void store(const QString &key, const QVariant &value)
+enum class Telling { Aloud, Quietly };
+
+void store(const QString &key, const QVariant &value, Telling telling = Telling::Aloud)
 {
     QSettings settings = storage();
     settings.setValue(key, value);
     settings.sync();
     const bool fails = settings.status() != QSettings::NoError;
-    if (fails && !std::exchange(failure().isTold, true) && failure().handler)
+    if (fails && telling == Telling::Aloud && !std::exchange(failure().isTold, true) && failure().handler)
         failure().handler(MvStudioSettings::tr("In die Datei %1 lässt sich nicht schreiben.")
                               .arg(QDir::toNativeSeparators(settings.fileName())));
     else if (!fails)
@@ -124,8 +126,9 @@ QByteArray MvStudioSettings::windowState()
 
 void MvStudioSettings::setWindow(const QByteArray &geometry, const QByteArray &state)
 {
-    store(geometryKey, geometry);
-    store(stateKey, state);
+    // stored when the window closes: nobody reads a message then, or misses this much
+    store(geometryKey, geometry, Telling::Quietly);
+    store(stateKey, state, Telling::Quietly);
 }
 
 bool MvStudioSettings::isWelcomeShown()
