@@ -23,6 +23,13 @@ using Intake = MvCalendarEventFileIntake;
 constexpr qint64 largeFile = 256 * 1024; // bytes: some 1,000 entries
 constexpr int mostNamed = 10;            // of the entries that are left out
 
+/// The beginning and the end of a name that is too long for a question.
+QString shortened(const QString &name)
+{
+    constexpr qsizetype longest = 80;
+    return name.size() > longest ? name.left(longest / 2) + u'…' + name.right(longest / 2 - 1) : name;
+}
+
 void readInThread(const QFileInfo &file, QObject *asker, const std::function<void(const Content &)> &then)
 {
     auto *watcher = new QFutureWatcher<Content>(asker);
@@ -121,7 +128,7 @@ void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, 
             MvRequestHandler::current().report(tr("Kalendereinträge"), content.note, asker);
         return;
     }
-    const QString name = QFileInfo(fileName).fileName();
+    const QString name = shortened(QFileInfo(fileName).fileName());
     MvRequestHandler::ChoiceRequest question =
         missing > 0 ? replaceQuestion(name, content, present.size(), missing) : restQuestion(name, purpose);
     question.title = tr("Kalendereinträge");

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -67,6 +68,8 @@ void MvDialogRequestHandler::askChoice(const ChoiceRequest &request, QObject *as
 {
     QMessageBox *box = messageBox(QMessageBox::Question, request.title, request.text, asker);
     box->setInformativeText(request.details);
+    if (auto *label = box->findChild<QLabel *>(u"qt_msgbox_informativelabel"_s))
+        label->setTextFormat(Qt::PlainText); // that of the box does not reach it
     QList<QPushButton *> buttons;
     for (const QString &text : request.buttons) {
         const bool isLast = buttons.size() + 1 == request.buttons.size();

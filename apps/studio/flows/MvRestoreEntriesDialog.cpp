@@ -17,14 +17,16 @@ namespace {
 
 constexpr qint64 largestCounted = 1024 * 1024; // bytes; nobody waits for more
 
-QString contentText(const QFileInfo &backup)
+/// Number of entries; none when they are not counted or cannot be read, which the text says.
+int countEntries(const QFileInfo &backup, QString *text)
 {
     if (backup.size() > largestCounted)
-        return {};
+        return 0;
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(backup);
-    if (!content.refusal().isEmpty())
-        return MvRestoreEntriesDialog::tr("nicht lesbar");
-    return MvRestoreEntriesDialog::tr("%n Einträge", nullptr, int(content.events.size()));
+    const auto count = int(content.events.size());
+    *text = content.refusal().isEmpty() ? MvRestoreEntriesDialog::tr("%n Einträge", nullptr, count)
+                                        : MvRestoreEntriesDialog::tr("nicht lesbar");
+    return count;
 }
 
 } // namespace
@@ -50,7 +52,8 @@ MvRestoreEntriesDialog::MvRestoreEntriesDialog(const QList<QFileInfo> &backups, 
         addRow(backup);
     m_list->resizeColumnToContents(0);
     m_list->resizeColumnToContents(1);
-    m_list->setCurrentItem(m_list->topLevelItem(0));
+    if (!m_list->currentItem())
+        m_list->setCurrentItem(m_list->topLevelItem(0));
 
     QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Cancel, this);
     QPushButton *restore = buttons->addButton(tr("Wiederherstellen"), QDialogButtonBox::AcceptRole);
@@ -76,6 +79,10 @@ void MvRestoreEntriesDialog::addRow(const QFileInfo &backup)
 {
     const QString time = MvApplicationLocale::instance().locale().toString(backup.lastModified(), QLocale::ShortFormat);
     const QString path = QDir::toNativeSeparators(backup.filePath());
-    auto *row = new QTreeWidgetItem(m_list, {time, contentText(backup), backup.fileName()});
+    QString content;
+    const int count = countEntries(backup, &content);
+    auto *row = new QTreeWidgetItem(m_list, {time, content, backup.fileName()});
     row->setToolTip(2, path);
+    if (count > 0 && !m_list->currentItem()) // the newest that gives something back
+        m_list->setCurrentItem(row);
 }
