@@ -1,5 +1,7 @@
 #include "MvCalendar/MvCalendarEventMerge.h"
 
+#include "MvCalendar/MvCalendarEventContent.h"
+
 #include <QHash>
 #include <QSet>
 
@@ -8,45 +10,7 @@
 
 namespace {
 
-/// What a file holds of an entry, apart from who it is. A part can be left out, to find entries that differ in it.
-struct Content
-{
-    enum Part { Name = 1, Date = 2, Rest = 4, Uuid = 8 };
-    static constexpr int everything = Name | Date | Rest;
-
-    Content(const MvCalendarEvent &event, int parts)
-    {
-        if (parts & Name)
-            name = event.description();
-        if (parts & Date) {
-            const QDateTime when = event.dateTime();
-            const QDateTime local = when.timeSpec() == Qt::LocalTime ? when : when.toLocalTime();
-            date = local.date();
-            seconds = local.time().msecsSinceStartOfDay() / 1000;
-        }
-        if (parts & Rest) {
-            foto = event.foto();
-            isRecurrent = event.storedRecurrent();
-        }
-        if (parts & Uuid)
-            uuid = event.uuid();
-    }
-
-    bool operator==(const Content &) const = default;
-
-    QString name;
-    QDate date;
-    int seconds = 0;
-    MvFoto foto;
-    bool isRecurrent = false;
-    QUuid uuid;
-};
-
-size_t qHash(const Content &content, size_t seed)
-{
-    return qHashMulti(seed, content.name, content.date, content.seconds, content.foto, content.isRecurrent,
-                      content.uuid);
-}
+using Content = MvCalendarEventContent;
 
 bool isSame(const MvCalendarEvent &a, const MvCalendarEvent &b)
 {

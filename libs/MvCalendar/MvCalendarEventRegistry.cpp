@@ -39,15 +39,6 @@ MvCalendarEventList validOnly(const MvCalendarEventList &events)
     return valid;
 }
 
-/// Of entries that are equal, the very one is meant, where it is there: after undo and redo all are who they were.
-qsizetype positionOf(const MvCalendarEvent &event, const MvCalendarEventList &events)
-{
-    for (qsizetype i = 0; i < events.size(); ++i)
-        if (events.at(i).uuid() == event.uuid() && events.at(i) == event)
-            return i;
-    return events.indexOf(event);
-}
-
 MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPath)
 {
     MvFoto foto;
@@ -69,13 +60,12 @@ MvCalendarEventRegistry::MvCalendarEventRegistry()
     , m_userFile(new MvCalendarEventStore(this))
     , m_keptProject(DEFAULT_PROJECT_ID)
 {
-    connect(m_userFile, &MvCalendarEventStore::eventsReplaced, this, [this](const MvCalendarEventList &events) {
-        store(m_keptProject, events);
-        Q_EMIT eventsChanged();
-    });
+    connect(m_userFile, &MvCalendarEventStore::eventsReplaced, this, &MvCalendarEventRegistry::replaceEvents);
     store(DEFAULT_PROJECT_ID, {});
     load();
 }
+
+MvCalendarEventRegistry::~MvCalendarEventRegistry() = default;
 
 void MvCalendarEventRegistry::setupInstance()
 {
@@ -92,6 +82,7 @@ const MvCalendarEventIndex *MvCalendarEventRegistry::indexFor(const MvCalendariu
 {
     if (!config.hasFeatures(MvCalendariumFeatures(FEATURE_ENTRIES)))
         return nullptr;
+    finishWork();
     const auto found = m_lists.constFind(project);
     return found == m_lists.cend() ? nullptr : &*found;
 }
@@ -171,13 +162,54 @@ QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key, c
 
 void MvCalendarEventRegistry::store(const MvProjectIdentifier &project, const MvCalendarEventList &events)
 {
+    if (project == m_activeModelId) {
+        m_work.reset();
+        m_isWorkNewer = false;
+    }
     m_lists.insert(project, MvCalendarEventIndex(events));
+}
+
+/// What the user's file brings by itself.
+void MvCalendarEventRegistry::replaceEvents(const MvCalendarEventList &events)
+{
+    if (m_openChanges > 0 && m_keptProject == m_activeModelId) {
+        store(m_keptProject, MvCalendarEventMerge::threeWay(m_beforeChanges, activeEventList(), events));
+        m_beforeChanges = events;
+    } else {
+        store(m_keptProject, events);
+    }
+    Q_EMIT eventsChanged();
+}
+
+MvCalendarEventWorkList &MvCalendarEventRegistry::workList() const
+{
+    if (!m_work)
+        m_work = std::make_unique<MvCalendarEventWorkList>(activeEventList());
+    return *m_work;
+}
+
+/// The work list has changed: now, or at the end of many changes, it becomes the active list.
+void MvCalendarEventRegistry::takeWork()
+{
+    m_isWorkNewer = true;
+    if (m_openChanges > 0)
+        m_hasOpenChanges = true;
+    else
+        setEvents(activeEventList());
+}
+
+void MvCalendarEventRegistry::finishWork() const
+{
+    if (std::exchange(m_isWorkNewer, false))
+        m_lists.insert(m_activeModelId, MvCalendarEventIndex(m_work->events()));
 }
 
 void MvCalendarEventRegistry::setActiveModelId(const MvProjectIdentifier &id, bool silent)
 {
     if (!m_lists.contains(id))
         store(id, eventsOfProject(DEFAULT_PROJECT_ID));
+    finishWork();
+    m_work.reset();
     m_activeModelId = id;
     if (!silent)
         Q_EMIT eventsChanged();
@@ -191,18 +223,19 @@ void MvCalendarEventRegistry::updateActiveModelId(const MvProjectIdentifier &fro
 
 MvCalendarEventList MvCalendarEventRegistry::eventsOfProject(const MvProjectIdentifier &project) const
 {
+    finishWork();
     const auto found = m_lists.constFind(project);
     return found == m_lists.cend() ? MvCalendarEventList() : found->events();
 }
 
 void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
 {
-    const MvCalendarEventList own = m_fotos.withOwnCopies(validOnly(events));
     if (m_openChanges > 0) {
-        store(m_activeModelId, own);
+        store(m_activeModelId, validOnly(events));
         m_hasOpenChanges = true;
         return;
     }
+    const MvCalendarEventList own = m_fotos.withOwnCopies(validOnly(events));
     m_errorElsewhere.reset();
     m_keptProject = m_activeModelId;
     m_userFile->keep(own, [this](const MvCalendarEventList &all) { store(m_activeModelId, all); });
@@ -211,21 +244,35 @@ void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
 
 bool MvCalendarEventRegistry::changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after)
 {
-    if (before == after)
+    if (before == after || !workList().change(before, after))
         return false;
-    const MvCalendarEventList present = eventsOfCurrentProject();
-    MvCalendarEventList changed = present;
-    const qsizetype position = before.isValid() ? positionOf(before, changed) : -1;
-    if (position >= 0 && after.isValid())
-        changed[position] = after;
-    else if (position >= 0)
-        changed.removeAt(position);
-    else if (after.isValid())
-        changed.append(after);
-    if (changed == present)
-        return false;
-    setEvents(changed);
+    takeWork();
     return true;
+}
+
+bool MvCalendarEventRegistry::insertEvent(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place)
+{
+    if (!event.isValid())
+        return false;
+    workList().insert(event, place);
+    takeWork();
+    return true;
+}
+
+MvCalendarEvent MvCalendarEventRegistry::presentEvent(const MvCalendarEvent &event) const
+{
+    return workList().present(event);
+}
+
+MvCalendarEventWorkList::Place MvCalendarEventRegistry::placeOfEvent(const MvCalendarEvent &event) const
+{
+    return workList().placeOf(event);
+}
+
+void MvCalendarEventRegistry::beginChanges()
+{
+    if (m_openChanges++ == 0)
+        m_beforeChanges = activeEventList();
 }
 
 void MvCalendarEventRegistry::endChanges()
@@ -282,6 +329,8 @@ bool MvCalendarEventRegistry::loadFrom(const QFileInfo &file, bool merge)
     }
     const MvCalendarEventList events =
         merge ? mergeLists({}, content.events, true) : mergeLists(present, content.events, true);
+    if (isUserFile)
+        m_keptProject = m_activeModelId;
     if (!events.isEmpty()) {
         store(m_activeModelId, events);
         Q_EMIT eventsChanged();

@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarEventFotoFolder.h"
 #include "MvCalendar/MvCalendarEventIndex.h"
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvCalendarEventWorkList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
 #include "MvCore/MvSingleton.h"
@@ -18,6 +19,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 class MvCalendarEventRegistry;
@@ -39,6 +41,7 @@ class MVCALENDAR_EXPORT MvCalendarEventRegistry : public MvAbstractHolidayCache,
 
 public:
     MvCalendarEventRegistry();
+    ~MvCalendarEventRegistry() override;
 
     /// Personal entries are never holidays: always false.
     bool hasHolidayOfType(const MvCalendariumContentKey &key, const MvCalendariumHolidayType &type) override;
@@ -76,8 +79,16 @@ public:
     void prepareFotos(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);
     /// Replaces an entry; an invalid `before` adds one, an invalid `after` removes one. Says whether anything changed.
     bool changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after);
-    /// Changes until the matching endChanges() are written and signalled once, there. May be nested.
-    void beginChanges() { ++m_openChanges; }
+    /// Adds an entry where one was removed, at the end when its neighbours are gone.
+    bool insertEvent(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place);
+    /// The very entry as it stands in the active list by now, even if another program has changed it since; invalid
+    /// when it is gone. See MvCalendarEventWorkList::present().
+    MvCalendarEvent presentEvent(const MvCalendarEvent &event) const;
+    /// Where it stands in the active list.
+    MvCalendarEventWorkList::Place placeOfEvent(const MvCalendarEvent &event) const;
+    /// Changes until the matching endChanges() are written and signalled once, there. May be nested. Many changes in
+    /// between take time in proportion to their number.
+    void beginChanges();
     void endChanges();
 
     /// `base`, when it is to be kept, then the entries of `other` whose uuid is null or unknown in `base`.
@@ -121,12 +132,19 @@ private:
     void visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project, Function function) const;
 
     void store(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    MvCalendarEventWorkList &workList() const;
+    void takeWork();
+    void finishWork() const;
+    void replaceEvents(const MvCalendarEventList &events);
     void writeElsewhere(const QFileInfo &file) const;
 
-    QHash<MvProjectIdentifier, MvCalendarEventIndex> m_lists;
+    mutable QHash<MvProjectIdentifier, MvCalendarEventIndex> m_lists;
+    mutable std::unique_ptr<MvCalendarEventWorkList> m_work; // the active list, made when asked for
+    mutable bool m_isWorkNewer = false;                      // m_lists does not have it yet
     MvProjectIdentifier m_activeModelId;
     int m_openChanges = 0;         // beginChanges() without endChanges()
     bool m_hasOpenChanges = false; // something has changed since
+    MvCalendarEventList m_beforeChanges;
     MvCalendarEventStore *m_userFile;
     MvProjectIdentifier m_keptProject; // whose list was last handed to the user's file
     mutable MvCalendarEventFotoFolder m_fotos;

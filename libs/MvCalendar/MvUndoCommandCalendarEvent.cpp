@@ -2,7 +2,8 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 
-#include <algorithm>
+#include <QGraphicsObject>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -16,22 +17,29 @@ MvUndoCommandCalendarEvent::RepaintMaker &repaintMaker()
 
 MvUndoCommandCalendarEvent::Repaint repaintOf(QGraphicsObject *item)
 {
-    return item && repaintMaker() ? repaintMaker()(item) : MvUndoCommandCalendarEvent::Repaint();
+    if (!item)
+        return {};
+    if (repaintMaker())
+        return repaintMaker()(item);
+    return [guard = QPointer<QGraphicsObject>(item)] {
+        if (guard)
+            guard->update();
+    };
 }
 
-/// The entry as it stands in the registry, which replaces photos from elsewhere by copies of its own. Without this, an
-/// entry that came with such a photo would not be found again.
-MvCalendarEvent asStored(const MvCalendarEvent &event)
+/// The step from one state to the next, applied to a third: a field that is not as it was before the step is somebody
+/// else's and stays.
+MvCalendarEvent stepFrom(const MvCalendarEvent &from, const MvCalendarEvent &to, const MvCalendarEvent &present)
 {
-    const MvCalendarEventList events = MvCalendarEventRegistry::instance().eventsOfCurrentProject();
-    if (events.contains(event))
-        return event;
-    const auto differsByFotoOnly = [&event](const MvCalendarEvent &stored) {
-        return stored.uuid() == event.uuid() && stored.description() == event.description() &&
-               stored.dateTime() == event.dateTime() && stored.storedRecurrent() == event.storedRecurrent();
-    };
-    const auto found = std::find_if(events.cbegin(), events.cend(), differsByFotoOnly);
-    return found == events.cend() ? event : *found;
+    using Content = MvCalendarEventContent;
+    const auto isOurs = [&](int part) { return Content(present, part) == Content(from, part); };
+    const bool isRest = isOurs(Content::Rest);
+    MvCalendarEvent result = isRest ? to : present; // setting a photo might copy it
+    if (isOurs(Content::Name) != isRest)
+        result.setEventName(isRest ? present.description() : to.description());
+    if (isOurs(Content::Date) != isRest)
+        result.setDateTime(isRest ? present.dateTime() : to.dateTime());
+    return result;
 }
 
 } // namespace
@@ -50,19 +58,66 @@ MvUndoCommandCalendarEvent::~MvUndoCommandCalendarEvent() = default;
 
 void MvUndoCommandCalendarEvent::doCoreAction()
 {
-    change(m_before, m_after);
-    m_after = asStored(m_after);
+    apply(m_before, m_after);
 }
 
 void MvUndoCommandCalendarEvent::undoCore()
 {
-    change(m_after, m_before);
-    m_before = asStored(m_before);
+    apply(m_after, m_before);
+}
+
+/// Both become what they really were and are: an entry that another program has changed, or whose photo was copied, is
+/// found again on the way back.
+void MvUndoCommandCalendarEvent::apply(MvCalendarEvent &from, MvCalendarEvent &to)
+{
+    if (!to.isValid()) {
+        remove(from);
+        return;
+    }
+    const auto &registry = MvCalendarEventRegistry::instance();
+    const MvCalendarEvent present = from.isValid() ? registry.presentEvent(from) : MvCalendarEvent();
+    if (!from.isValid()) {
+        add(to);
+    } else if (!present.isValid() || present == from) {
+        change(from, to);
+    } else {
+        to = stepFrom(from, to, present);
+        from = present;
+        change(from, to);
+    }
+    const MvCalendarEvent stored = registry.presentEvent(to);
+    if (stored.isValid())
+        to = stored;
+}
+
+void MvUndoCommandCalendarEvent::remove(MvCalendarEvent &event)
+{
+    const auto &registry = MvCalendarEventRegistry::instance();
+    const MvCalendarEvent present = registry.presentEvent(event);
+    if (!present.isValid())
+        return;
+    event = present;
+    m_place = registry.placeOfEvent(event);
+    change(event, {});
+}
+
+void MvUndoCommandCalendarEvent::add(const MvCalendarEvent &event)
+{
+    if (!m_place)
+        change({}, event);
+    else if (MvCalendarEventRegistry::instance().insertEvent(event, *m_place))
+        repaint();
 }
 
 void MvUndoCommandCalendarEvent::change(const MvCalendarEvent &from, const MvCalendarEvent &to)
 {
-    if (MvCalendarEventRegistry::instance().changeEvent(from, to) && m_repaint)
+    if (MvCalendarEventRegistry::instance().changeEvent(from, to))
+        repaint();
+}
+
+void MvUndoCommandCalendarEvent::repaint()
+{
+    if (m_repaint)
         m_repaint();
 }
 

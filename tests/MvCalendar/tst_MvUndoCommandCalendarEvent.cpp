@@ -1,38 +1,38 @@
-#include "MvTest.h"
+#include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 #include "MvCore/MvUndoController.h"
 
-#include <QPointer>
 #include <QTemporaryDir>
 
-/// Stands in for a canvas item: the library knows those by name only.
-class QGraphicsObject : public QObject
+namespace {
+
+class Item : public QGraphicsObject
 {
 public:
-    int repaints = 0;
+    QRectF boundingRect() const override { return {0, 0, 10, 10}; }
+    void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override {}
 };
-
-namespace {
 
 MvCalendarEvent entry(const QString &name)
 {
     return MvCalendarEvent(name, QDate(2000, 2, 29).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
 }
 
-MvUndoCommandCalendarEvent::Repaint countRepaints(QGraphicsObject *item)
+QStringList namesInOrder(const MvCalendarEventList &events)
 {
-    return [guarded = QPointer<QGraphicsObject>(item)] {
-        if (guarded)
-            ++guarded->repaints;
-    };
+    QStringList names;
+    for (const MvCalendarEvent &event : events)
+        names.append(event.description());
+    return names;
 }
 
 } // namespace
 
-class tst_MvUndoCommandCalendarEvent : public MvTest
+class tst_MvUndoCommandCalendarEvent : public MvWidgetTest
 {
     Q_OBJECT
 
@@ -41,6 +41,10 @@ private Q_SLOTS:
     void changes_data();
     void changes();
     void macroIsOneStep();
+    void orderComesBack_data();
+    void orderComesBack();
+    void meansTheVeryEntry_data();
+    void meansTheVeryEntry();
     void repaintsWhatChanged();
     void findsAddedEntriesWithImportedFotos();
     void findsLoadedEntriesWithImportedFotos();
@@ -50,9 +54,7 @@ private:
     static MvUndoController &undo() { return MvUndoController::instance(); }
     static QString namesOf(const MvCalendarEventList &events)
     {
-        QStringList names;
-        for (const MvCalendarEvent &event : events)
-            names.append(event.description());
+        QStringList names = namesInOrder(events);
         names.sort();
         return names.join(u' ');
     }
@@ -62,7 +64,7 @@ private:
 
 void tst_MvUndoCommandCalendarEvent::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    failOnWarnings();
     undo().clear();
     registry().setEvents({entry(u"A"_qs), entry(u"B"_qs)});
 }
@@ -108,24 +110,121 @@ void tst_MvUndoCommandCalendarEvent::macroIsOneStep()
     QVERIFY(!undo().stack()->canUndo());
 }
 
+void tst_MvUndoCommandCalendarEvent::orderComesBack_data()
+{
+    QTest::addColumn<QString>("removed");
+    QTest::addColumn<QString>("added");
+    QTest::addColumn<QString>("addedByOthers");
+    QTest::addColumn<QString>("undone");
+    QTest::addColumn<QString>("redone");
+    const QString none;
+    QTest::newRow("all") << u"A B C D"_qs << none << none << u"A B C D"_qs << none;
+    QTest::newRow("from the end") << u"D C B A"_qs << none << none << u"A B C D"_qs << none;
+    QTest::newRow("two") << u"B C"_qs << none << none << u"A B C D"_qs << u"A D"_qs;
+    QTest::newRow("a list for another") << u"A B C D"_qs << u"X Y"_qs << none << u"A B C D"_qs << u"X Y"_qs;
+    QTest::newRow("others add") << u"B C"_qs << u"X"_qs << u"O"_qs << u"A B C D O"_qs << u"A D X O"_qs;
+}
+
+/// Entries of one day are printed in the list's order.
+void tst_MvUndoCommandCalendarEvent::orderComesBack()
+{
+    QFETCH(QString, removed);
+    QFETCH(QString, added);
+    QFETCH(QString, addedByOthers);
+    registry().setEvents({entry(u"A"_qs), entry(u"B"_qs), entry(u"C"_qs), entry(u"D"_qs)});
+    undo().beginMacro({});
+    undo().push(new MvUndoCommandCalendarEventGroup(MvUndoCommandCalendarEventGroup::Begin));
+    for (const QString &name : removed.split(u' ', Qt::SkipEmptyParts))
+        undo().push(new MvUndoCommandCalendarEvent(entry(name), {}, nullptr));
+    for (const QString &name : added.split(u' ', Qt::SkipEmptyParts))
+        undo().push(new MvUndoCommandCalendarEvent({}, entry(name), nullptr));
+    undo().push(new MvUndoCommandCalendarEventGroup(MvUndoCommandCalendarEventGroup::End));
+    undo().endMacro();
+    if (!addedByOthers.isEmpty()) {
+        MvCalendarEventRegistry().changeEvent({}, entry(addedByOthers));
+        registry().setEvents(registry().activeEventList());
+    }
+    undo().undo();
+    QTEST(namesInOrder(registry().activeEventList()).join(u' '), "undone");
+    undo().redo();
+    QTEST(namesInOrder(registry().activeEventList()).join(u' '), "redone");
+    undo().undo();
+    QTEST(namesInOrder(registry().activeEventList()).join(u' '), "undone");
+}
+
+void tst_MvUndoCommandCalendarEvent::meansTheVeryEntry_data()
+{
+    QTest::addColumn<QString>("before"); // name and day of the month
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("byOthers");
+    QTest::addColumn<QString>("undone");
+    QTest::addColumn<QString>("redone");
+    const QString none;
+    QTest::newRow("another field") << u"A 1"_qs << u"X 1"_qs << u"X 5"_qs << u"A 5"_qs << u"X 5"_qs;
+    QTest::newRow("the same field") << u"A 1"_qs << u"X 1"_qs << u"O 1"_qs << u"O 1"_qs << u"O 1"_qs;
+    QTest::newRow("one of two fields") << u"A 1"_qs << u"X 2"_qs << u"O 2"_qs << u"O 1"_qs << u"O 2"_qs;
+    QTest::newRow("an added one") << none << u"X 1"_qs << u"O 5"_qs << none << u"O 5"_qs;
+}
+
+/// Another program changes the entry in between: there is one entry all the same.
+void tst_MvUndoCommandCalendarEvent::meansTheVeryEntry()
+{
+    QFETCH(QString, before);
+    QFETCH(QString, after);
+    QFETCH(QString, byOthers);
+    const QUuid uuid = QUuid::createUuid();
+    const auto read = [&uuid](const QString &text) {
+        return text.isEmpty() ? MvCalendarEvent()
+                              : MvCalendarEvent(text.section(u' ', 0, 0),
+                                                QDate(2000, 1, text.section(u' ', 1).toInt()).startOfDay(), true,
+                                                MvFoto(), uuid, QDateTime());
+    };
+    const auto shown = [](const MvCalendarEventList &events) {
+        QStringList texts;
+        for (const MvCalendarEvent &event : events)
+            texts.append(u"%1 %2"_qs.arg(event.description()).arg(event.dateTime().date().day()));
+        return texts.join(u' ');
+    };
+    registry().setEvents({read(before)});
+    undo().push(new MvUndoCommandCalendarEvent(read(before), read(after), nullptr));
+    MvCalendarEventRegistry().changeEvent(read(after), read(byOthers));
+    registry().setEvents(registry().activeEventList());
+    QCOMPARE(shown(registry().activeEventList()), byOthers);
+    undo().undo();
+    QTEST(shown(registry().activeEventList()), "undone");
+    undo().redo();
+    QTEST(shown(registry().activeEventList()), "redone");
+}
+
 void tst_MvUndoCommandCalendarEvent::repaintsWhatChanged()
 {
-    auto item = std::make_unique<QGraphicsObject>();
-    undo().push(new MvUndoCommandCalendarEvent(entry(u"A"_qs), entry(u"C"_qs), item.get())); // nobody can repaint yet
+    QGraphicsScene scene;
+    auto *item = new Item;
+    scene.addItem(item);
+    QSignalSpy spy(&scene, &QGraphicsScene::changed);
+    const auto isRepainted = [&spy] {
+        spy.clear();
+        QCoreApplication::processEvents();
+        return !spy.isEmpty();
+    };
+    QVERIFY(isRepainted()); // as new
+    undo().push(new MvUndoCommandCalendarEvent(entry(u"A"_qs), entry(u"C"_qs), item));
+    QVERIFY(isRepainted());
     undo().undo();
-    QCOMPARE(item->repaints, 0);
+    QVERIFY(isRepainted());
+    MvUndoCommandCalendarEvent(entry(u"unknown"_qs), MvCalendarEvent(), item).doCoreAction();
+    QVERIFY(!isRepainted()); // the registry reports no change
 
-    MvUndoCommandCalendarEvent::setRepaintMaker(countRepaints);
-    undo().push(new MvUndoCommandCalendarEvent(entry(u"A"_qs), entry(u"C"_qs), item.get()));
-    QCOMPARE(item->repaints, 1);
-    undo().undo();
-    QCOMPARE(item->repaints, 2);
-    MvUndoCommandCalendarEvent(entry(u"unknown"_qs), MvCalendarEvent(), item.get()).doCoreAction();
-    QCOMPARE(item->repaints, 2); // the registry reports no change
-    item.reset();
-    undo().redo();
-    QCOMPARE(onDisk(), u"B C"_qs);
+    int made = 0;
+    MvUndoCommandCalendarEvent::setRepaintMaker([&made](QGraphicsObject *) { return [&made] { ++made; }; });
+    undo().push(new MvUndoCommandCalendarEvent(entry(u"A"_qs), entry(u"D"_qs), item));
     MvUndoCommandCalendarEvent::setRepaintMaker({});
+    QCOMPARE(made, 1);
+
+    undo().push(new MvUndoCommandCalendarEvent(entry(u"D"_qs), entry(u"E"_qs), item));
+    delete item; // commands outlive items
+    undo().undo();
+    QCOMPARE(onDisk(), u"B D"_qs);
 }
 
 /// What a file elsewhere, with a photo beside it, holds.
@@ -175,5 +274,5 @@ void tst_MvUndoCommandCalendarEvent::findsLoadedEntriesWithImportedFotos()
     QCOMPARE(onDisk(), u"Neu"_qs);
 }
 
-MV_TEST_MAIN(tst_MvUndoCommandCalendarEvent)
+MV_WIDGET_TEST_MAIN(tst_MvUndoCommandCalendarEvent)
 #include "tst_MvUndoCommandCalendarEvent.moc"
