@@ -1,6 +1,14 @@
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventIndex.h"
+#include "MvCalendar/MvCalendarEventListWidget.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvUndoController.h"
 
+#include <QApplication>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -55,4 +63,65 @@ static void lookUpPage(benchmark::State &state)
 }
 BENCHMARK(lookUpPage)->Unit(benchmark::kMicrosecond);
 
-BENCHMARK_MAIN();
+/// One step that removes or adds all entries by a command each, as the list of entries does it.
+static void changeAll(const MvCalendarEventList &removed, const MvCalendarEventList &added)
+{
+    using Group = MvUndoCommandCalendarEventGroup;
+    MvUndoController &undo = MvUndoController::instance();
+    undo.beginMacro(QStringLiteral("all"));
+    undo.push(new Group(Group::Begin));
+    for (const MvCalendarEvent &event : removed)
+        undo.push(new MvUndoCommandCalendarEvent(event, {}, nullptr));
+    for (const MvCalendarEvent &event : added)
+        undo.push(new MvUndoCommandCalendarEvent({}, event, nullptr));
+    undo.push(new Group(Group::End));
+    undo.endMacro();
+}
+
+/// Counters: how many times as long as one setEvents() each takes. With the list of entries looking on, or without.
+static void changeLists(benchmark::State &state)
+{
+    const bool isShown = state.range(1) != 0;
+    const QTemporaryDir dir;
+    MvDirectoryConfig::instance().setProgramDataDir(dir.path());
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    MvCalendarEventList events;
+    events.append(manyEntries().mid(0, state.range(0)));
+    std::unique_ptr<MvCalendarEventListWidget> widget;
+    if (isShown) {
+        widget = std::make_unique<MvCalendarEventListWidget>(nullptr);
+        widget->show();
+    }
+    qint64 once = 0;
+    qint64 loading = 0;
+    qint64 clearing = 0;
+    qint64 undoing = 0;
+    const auto measured = [](const auto &work) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        return timer.nsecsElapsed();
+    };
+    for (auto _ : state) {
+        registry.setEvents({});
+        once += measured([&] { registry.setEvents(events); });
+        clearing += measured([&] { changeAll(events, {}); });
+        undoing += measured([] { MvUndoController::instance().undo(); });
+        loading += measured([&] { changeAll(registry.activeEventList(), events); });
+        MvUndoController::instance().clear();
+        QCoreApplication::processEvents();
+    }
+    state.counters["once_ms"] = double(once) / 1e6 / double(state.iterations());
+    state.counters["clear"] = double(clearing) / double(once);
+    state.counters["undo"] = double(undoing) / double(once);
+    state.counters["load"] = double(loading) / double(once);
+}
+BENCHMARK(changeLists)->ArgsProduct({{1000, 10000}, {0, 1}})->Unit(benchmark::kMillisecond)->Iterations(3);
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

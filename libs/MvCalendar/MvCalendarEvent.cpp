@@ -19,15 +19,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A date and time in ISO form. A midnight that the local time zone skipped is the day's first moment: nobody loses a
-/// birthday because clocks were put forward that night.
+/// A date and time in ISO form. Where the local time zone skipped the time, the date counts: nobody loses a birthday
+/// because clocks were put forward that night.
 QDateTime readDateTime(const QString &text)
 {
     const QDateTime value = QDateTime::fromString(text, Qt::ISODate);
     if (value.isValid())
         return value;
     const QDate date = QDate::fromString(text.left(10), Qt::ISODate);
-    return QTime::fromString(text.mid(11), Qt::ISODate).isValid() ? date.startOfDay() : QDateTime();
+    return QTime::fromString(text.mid(11), Qt::ISODate).isValid() ? MvCalendarEvent::startOf(date) : QDateTime();
 }
 
 QString shortDate(const QDateTime &dateTime)
@@ -86,7 +86,7 @@ void MvCalendarEvent::read(const MvCalendarEventTexts &texts)
     m_name = texts.text(u"Name"_s);
     m_dateTime = readDateTime(texts.text(u"DateTime"_s).trimmed());
     m_recurrent = MvStringHelper::stringToBool(texts.text(u"Recurrent"_s), true);
-    m_uuid = texts.contains(u"UUID"_s) ? QUuid::fromString(texts.text(u"UUID"_s)) : QUuid::createUuid();
+    m_uuid = texts.contains(u"UUID"_s) ? QUuid::fromString(texts.text(u"UUID"_s).trimmed()) : QUuid::createUuid();
     m_lastChanged = QDateTime::fromString(texts.text(u"LastChanged"_s).trimmed(), Qt::ISODate);
     if (!m_lastChanged.isValid())
         m_lastChanged = QDateTime::currentDateTime();
@@ -166,6 +166,12 @@ bool MvCalendarEvent::isAtDay(const QDate &day) const
     if (date.day() != day.day() || date.month() != day.month())
         return false;
     return date.year() == day.year() || m_recurrent;
+}
+
+QDateTime MvCalendarEvent::startOf(const QDate &date)
+{
+    const QDateTime start = date.startOfDay();
+    return start.isValid() || !date.isValid() ? start : date.startOfDay(Qt::UTC);
 }
 
 QString MvCalendarEvent::dateText(const QDate &date)

@@ -60,6 +60,9 @@ public:
     QDateTime dateTime() const { return m_dateTime; }
     /// False when only day and month are known: nobody is to see the year then.
     bool hasYear() const { return m_dateTime.date().year() != unknownYear; }
+    /// The date as the time of an entry: its first moment, in world time where the local time zone left out the whole
+    /// day, as Kiribati did with 31 December 1994.
+    static QDateTime startOf(const QDate &date);
     /// "01.03.1941", or "01.03." without a year.
     static QString dateText(const QDate &date);
     /// True for every entry. The stored flag is another matter: files, comparisons and isAtDay() go by it.

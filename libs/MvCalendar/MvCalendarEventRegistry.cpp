@@ -45,7 +45,7 @@ MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPa
     const QImage image = person.image();
     if (!image.isNull() && image.save(temporaryPath, "PNG"))
         foto = MvFoto(QFileInfo(temporaryPath));
-    MvCalendarEvent event(person.name(), person.birthday().startOfDay(), true, MvFoto(), person.uuid(),
+    MvCalendarEvent event(person.name(), MvCalendarEvent::startOf(person.birthday()), true, MvFoto(), person.uuid(),
                           QDateTime::currentDateTime());
     QString error;
     if (!event.takeFoto(foto, &error)) // a birthday without its picture is better than none

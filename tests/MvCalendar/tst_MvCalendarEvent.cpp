@@ -28,6 +28,7 @@ private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
     void readsDefaults();
+    void readsSkippedMidnights_data();
     void readsSkippedMidnights();
     void invalidEntryIsEmptyElement();
     void setFotoCopies();
@@ -246,23 +247,38 @@ void tst_MvCalendarEvent::readsDefaults()
         u"<CalendarEvent><Name>Kurt</Name><DateTime>%1</DateTime><UUID>%2</UUID></CalendarEvent>"_qs;
     QVERIFY(MvCalendarEvent(parsed(document, pattern.arg(u"1990-05-17"_qs, u"broken"_qs))).isValid());
     QVERIFY(MvCalendarEvent(document.documentElement()).uuid().isNull());
+    const QUuid uuid = QUuid::createUuid();
+    const QString padded = u"\n  %1 "_qs.arg(uuid.toString());
+    QCOMPARE(MvCalendarEvent(parsed(document, pattern.arg(u"1990-05-17"_qs, padded))).uuid(), uuid);
     for (const char *date : {"1990-02-30T00:00:00", "17.05.1990", "", "1990-05-17Tmorgens"})
         QVERIFY2(!MvCalendarEvent(parsed(document, pattern.arg(QLatin1String(date), QString()))).isValid(), date);
 }
 
+void tst_MvCalendarEvent::readsSkippedMidnights_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::addColumn<QDate>("date");
+    QTest::newRow("from midnight to one o'clock") << QByteArray("America/Sao_Paulo") << QDate(2017, 10, 15);
+    QTest::newRow("a whole day left out") << QByteArray("Pacific/Kiritimati") << QDate(1994, 12, 31);
+}
+
 void tst_MvCalendarEvent::readsSkippedMidnights()
 {
-    // clocks were put forward from midnight to one o'clock
-    const QByteArray zone = qgetenv("TZ");
-    qputenv("TZ", "America/Sao_Paulo");
+    QFETCH(QByteArray, zone);
+    QFETCH(QDate, date);
+    const QByteArray before = qgetenv("TZ");
+    qputenv("TZ", zone);
     QDomDocument document;
-    const MvCalendarEvent event(parsed(
-        document, u"<CalendarEvent><Name>Ana</Name><DateTime>2017-10-15T00:00:00</DateTime></CalendarEvent>"_qs));
-    const QDate date = event.dateTime().date();
-    const bool isValid = event.isValid();
-    zone.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", zone);
-    QVERIFY(isValid);
-    QCOMPARE(date, QDate(2017, 10, 15));
+    const QString form = u"<CalendarEvent><Name>Ana</Name><DateTime>%1T00:00:00</DateTime></CalendarEvent>"_qs;
+    const MvCalendarEvent event(parsed(document, form.arg(date.toString(Qt::ISODate))));
+    QDomElement root = parsed(document, u"<CalendarEvents/>"_qs);
+    event.createXML(root);
+    const QDate dates[] = {event.dateTime().date(), MvCalendarEvent(root.firstChildElement()).dateTime().date()};
+    const bool isThatDay = event.isValid() && event.isAtDay(date);
+    before.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", before);
+    QVERIFY(isThatDay);
+    QCOMPARE(dates[0], date);
+    QCOMPARE(dates[1], date);
 }
 
 void tst_MvCalendarEvent::invalidEntryIsEmptyElement()

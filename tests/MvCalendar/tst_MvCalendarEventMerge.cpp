@@ -1,8 +1,8 @@
 #include "MvTest.h"
 
-#include "MvCalendar/MvCalendarEventMerge.h"
+#include "MvEntryHistory.h"
 
-#include <QRandomGenerator>
+#include "MvCalendar/MvCalendarEventMerge.h"
 
 class tst_MvCalendarEventMerge : public MvTest
 {
@@ -162,135 +162,45 @@ void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms_data()
     QTest::newRow("three") << 3;
 }
 
-namespace {
-
-/// One of several programs that share a list.
-struct Program
-{
-    MvCalendarEventList base;
-    MvCalendarEventList events;
-};
-
-/// What became of one entry. Its number begins its name, however often it is renamed: "17", "17.4".
-struct Story
-{
-    QSet<const Program *> changedBy;
-    QSet<const Program *> removedBy;
-
-    bool mustStay() const { return removedBy.isEmpty(); }
-    bool isOnce() const { return changedBy.size() < 2; } // else two may have changed it at the same time
-    bool mustBeGone() const { return !removedBy.isEmpty() && isOnce() && (changedBy - removedBy).isEmpty(); }
-};
-
-class Model
-{
-public:
-    explicit Model(quint32 seed)
-        : m_random(seed)
-    {}
-
-    /// The beginning of a series, which nobody touches: the series is known as such in every list.
-    static MvCalendarEventList beginning() { return list(u"series:first series:second"_qs); }
-
-    /// Adds, renames, moves or removes an entry: with a uuid of its own, of the series, or a null one.
-    void edit(Program &program)
-    {
-        MvCalendarEventList &events = program.events;
-        const int what = events.size() <= beginning().size() ? 0 : m_random.bounded(10);
-        if (what < 5) {
-            const QUuid uuids[] = {QUuid::createUuid(), QUuid::createUuidV5(QUuid(), u"series"_qs), QUuid()};
-            events.append(MvCalendarEvent(QString::number(m_stories.size()),
-                                          dayOf(u"@%1"_qs.arg(m_random.bounded(3))).startOfDay(), true, MvFoto(),
-                                          uuids[m_random.bounded(3)], QDateTime()));
-            m_stories.append(Story());
-            return;
-        }
-        const qsizetype at = m_random.bounded(events.size());
-        MvCalendarEvent &event = events[at];
-        const int number = numberOf(event);
-        if (number < 0)
-            return;
-        if (what == 9) { // as read from a file without uuids
-            event = MvCalendarEvent(event.description(), event.dateTime(), true, MvFoto(), QUuid::createUuid(), {});
-        } else if (what == 8) {
-            m_stories[number].removedBy.insert(&program);
-            events.removeAt(at);
-        } else {
-            m_stories[number].changedBy.insert(&program);
-            if (what == 7)
-                event.setDateTime(event.dateTime().addDays(1));
-            else
-                event.setEventName(u"%1.%2"_qs.arg(number).arg(++m_renamings));
-        }
-    }
-
-    /// Merges with the file, writes it.
-    static void save(Program &program, MvCalendarEventList &file)
-    {
-        program.events = MvCalendarEventMerge::threeWay(program.base, program.events, file);
-        program.base = program.events;
-        file = program.events;
-    }
-
-    /// What is wrong with the list, after everybody has read it.
-    QString mistakeIn(const MvCalendarEventList &events) const
-    {
-        QHash<int, int> found;
-        QSet<MvCalendarEvent> known;
-        for (const MvCalendarEvent &event : events) {
-            ++found[numberOf(event)];
-            if (known.contains(event))
-                return event.description() + u" is there twice"_qs;
-            known.insert(event);
-        }
-        for (int number = 0; number < m_stories.size(); ++number) {
-            const Story &story = m_stories.at(number);
-            const int count = found.value(number);
-            if (count == 0 ? story.mustStay() : story.mustBeGone())
-                return u"%1 is %2"_qs.arg(number).arg(count == 0 ? u"lost"_qs : u"back"_qs);
-            if (count > 1 && story.isOnce())
-                return u"%1 is there %2 times"_qs.arg(number).arg(count);
-        }
-        return {};
-    }
-
-    bool chance(int percent) { return m_random.bounded(100) < percent; }
-
-private:
-    static int numberOf(const MvCalendarEvent &event)
-    {
-        bool isNumber = false;
-        const int number = event.description().section(u'.', 0, 0).toInt(&isNumber);
-        return isNumber ? number : -1;
-    }
-
-    QRandomGenerator m_random;
-    QList<Story> m_stories;
-    int m_renamings = 0;
-};
-
-} // namespace
-
 /// What nobody removed stays, what somebody removed goes, and nothing is there twice.
 void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms()
 {
     QFETCH(int, programs);
+    struct Program
+    {
+        MvEntryEditor editor;
+        MvCalendarEventList base;
+        MvCalendarEventList events;
+    };
     for (quint32 seed = 0; seed < 100; ++seed) {
-        Model model(seed);
-        MvCalendarEventList file = Model::beginning();
-        QList<Program> running(programs, {file, file});
+        MvCalendarEventList file = MvEntryEditor::beginning();
+        MvEntryHistory history;
+        std::vector<Program> running;
+        for (int who = 0; who < programs; ++who)
+            running.push_back({MvEntryEditor(seed * 10 + quint32(who), u"%1x"_qs.arg(who)), file, file});
+        const auto save = [&file](Program &program) {
+            program.events = MvCalendarEventMerge::threeWay(program.base, program.events, file);
+            program.base = program.events;
+            file = program.events;
+        };
         for (int step = 0; step < 60; ++step) {
-            for (Program &program : running) {
-                model.edit(program);
-                if (model.chance(40))
-                    Model::save(program, file);
+            for (int who = 0; who < programs; ++who) {
+                Program &program = running[size_t(who)];
+                const MvEntryEdit edit = program.editor.next(program.events);
+                history.note(who, edit.what, edit.id());
+                if (edit.what == MvEntryEdit::Add)
+                    program.events.append(edit.after);
+                else if (edit.what == MvEntryEdit::Remove)
+                    program.events.removeOne(edit.before);
+                else
+                    program.events.replace(program.events.indexOf(edit.before), edit.after);
+                if (program.editor.bounded(5) < 2)
+                    save(program);
             }
         }
-        for (int round = 0; round < 2; ++round) { // at last all know of each other
-            for (Program &program : running)
-                Model::save(program, file);
-        }
-        const QString mistake = model.mistakeIn(file);
+        for (int round = 0; round < 2; ++round) // at last all know of each other
+            std::for_each(running.begin(), running.end(), save);
+        const QString mistake = history.mistakeIn(file);
         QVERIFY2(mistake.isEmpty(), qPrintable(u"seed %1: %2"_qs.arg(seed).arg(mistake)));
         for (const Program &program : running)
             QCOMPARE(QSet<MvCalendarEvent>(program.events.cbegin(), program.events.cend()),

@@ -79,11 +79,9 @@ private Q_SLOTS:
     void asksByDay();
     void fotosByDay();
     void setsUnreadableFilesAside();
-    void keepsIncompleteFiles();
     void anotherDocumentInPlaceOfTheListRemovesNothing();
     void takesInOtherPrograms();
     void saveTakesInOtherPrograms();
-    void failedSavingIsTold();
     void takesImportedFotosOver();
     void foreignFotosAreKeptByName();
     void cleansUp();
@@ -370,18 +368,6 @@ void tst_MvCalendarEventRegistry::setsUnreadableFilesAside()
     QCOMPARE(QDir(m_data->path()).entryList({u"*unlesbar*"_qs}).size(), 1);
 }
 
-void tst_MvCalendarEventRegistry::keepsIncompleteFiles()
-{
-    const QByteArray content =
-        "<CalendarEvents><CalendarEvent><Name>Kurt</Name><DateTime>17. Mai</DateTime></CalendarEvent></CalendarEvents>";
-    put(u"calendarEvents.xml"_qs, content);
-    const MvCalendarEventRegistry registry;
-    registry.save();
-    const QStringList aside = QDir(m_data->path()).entryList({u"*unlesbar*"_qs});
-    QCOMPARE(aside.size(), 1);
-    QCOMPARE(contentOf(aside.first()), content);
-}
-
 void tst_MvCalendarEventRegistry::anotherDocumentInPlaceOfTheListRemovesNothing()
 {
     MvCalendarEventRegistry registry;
@@ -418,22 +404,6 @@ void tst_MvCalendarEventRegistry::saveTakesInOtherPrograms()
     QCOMPARE(names(MvCalendarEventFile::read(first.calendarEventsDir()).events), u"A B"_qs);
     first.changeEvent(MvCalendarEvent(), entry(u"C"_qs, day));
     QCOMPARE(names(first.activeEventList()), u"A C B"_qs);
-}
-
-void tst_MvCalendarEventRegistry::failedSavingIsTold()
-{
-    MvCalendarEventRegistry registry;
-    QVERIFY(QDir(m_data->path()).mkdir(u"calendarEvents.xml"_qs)); // in the way
-    QSignalSpy spy(&registry, &MvCalendarEventRegistry::eventsChanged);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"calendarEvents\\.xml"_qs));
-    registry.setEvents({entry(u"A"_qs, QDate(2000, 1, 1))});
-    QVERIFY(!registry.lastSaveError().isEmpty());
-    QVERIFY(m_written.isEmpty());
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(QDir(m_data->path()).rmdir(u"calendarEvents.xml"_qs));
-    registry.save();
-    QCOMPARE(registry.lastSaveError(), QString());
-    QCOMPARE(m_written.size(), 1);
 }
 
 void tst_MvCalendarEventRegistry::takesImportedFotosOver()

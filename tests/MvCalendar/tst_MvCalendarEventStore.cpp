@@ -1,0 +1,215 @@
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvFileGuard.h"
+#include "MvCore/MvSafeFileWriter.h"
+
+#include <QTemporaryDir>
+
+using Problem = MvCalendarEventStore::Problem;
+
+class tst_MvCalendarEventStore : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void waitsForOthersWithoutWriting();
+    void failedSavingIsTriedAgain();
+    void restoresBackups_data();
+    void restoresBackups();
+    void takesInWhatOthersLeft_data();
+    void takesInWhatOthersLeft();
+    void removedEntriesStayAway();
+
+private:
+    QString path() const { return m_data->filePath(u"calendarEvents.xml"_qs); }
+    void put(const QByteArray &content) const;
+    QString onDisk() const { return names(MvCalendarEventFile::read(QFileInfo(path())).events); }
+
+    static QString names(const MvCalendarEventList &events)
+    {
+        QStringList names;
+        for (const MvCalendarEvent &event : events)
+            names.append(event.description());
+        return names.join(u' ');
+    }
+    static MvCalendarEvent entry(const QString &name, const QTime &time = QTime(0, 0))
+    {
+        return MvCalendarEvent(name, QDateTime(QDate(2000, 1, 1), time), true, MvFoto(), QUuid::createUuid(), {});
+    }
+    static void ignore(const char *warning)
+    {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(warning)));
+    }
+    static QByteArray fileOf(const QByteArray &names)
+    {
+        QByteArray list;
+        for (const QByteArray &name : names.split(' '))
+            list += "<CalendarEvent><Name>" + name + "</Name><DateTime>2000-01-01T00:00:00</DateTime></CalendarEvent>";
+        return "<CalendarEvents>" + list + "</CalendarEvents>";
+    }
+
+    std::unique_ptr<QTemporaryDir> m_data;
+};
+
+void tst_MvCalendarEventStore::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    m_data = std::make_unique<QTemporaryDir>();
+    MvDirectoryConfig::instance().setProgramDataDir(m_data->path());
+}
+
+void tst_MvCalendarEventStore::put(const QByteArray &content) const
+{
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+/// Another program stands still while it saves, and goes on much later.
+void tst_MvCalendarEventStore::waitsForOthersWithoutWriting()
+{
+    put(fileOf("A"));
+    MvCalendarEventRegistry registry;
+    const MvCalendarEventStore &store = registry.userFile();
+    QSignalSpy changed(&registry, &MvCalendarEventRegistry::eventsChanged);
+    QSignalSpy told(&store, &MvCalendarEventStore::problemChanged);
+    auto other = std::make_unique<MvFileGuard>(QFileInfo(path()), 0);
+    QVERIFY(other->isLocked());
+    registry.changeEvent({}, entry(u"B"_qs));
+    QCOMPARE(names(registry.activeEventList()), u"A B"_qs);
+    QVERIFY(store.hasUnsavedChanges());
+    QVERIFY(!registry.userFile().saveNow());
+    QCOMPARE(onDisk(), u"A"_qs);
+    ignore("calendarEvents\\.xml konnte noch nicht gespeichert werden");
+    QTRY_COMPARE_WITH_TIMEOUT(store.problem().kind, Problem::Busy, 60000);
+    QVERIFY(store.problem().text.contains(path()));
+    QCOMPARE(onDisk(), u"A"_qs);
+
+    put(fileOf("A C"));
+    changed.clear();
+    other.reset();
+    QTRY_VERIFY_WITH_TIMEOUT(!store.hasUnsavedChanges(), 60000);
+    QCOMPARE(onDisk(), u"A B C"_qs);
+    QCOMPARE(names(registry.activeEventList()), u"A B C"_qs);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(store.problem().kind, Problem::None);
+    QCOMPARE(told.count(), 2);
+}
+
+void tst_MvCalendarEventStore::failedSavingIsTriedAgain()
+{
+    MvCalendarEventRegistry registry;
+    MvCalendarEventStore &store = registry.userFile();
+    QSignalSpy told(&store, &MvCalendarEventStore::problemChanged);
+    QVERIFY(QDir().mkdir(path())); // in the way
+    for (const QString &name : {u"A"_qs, u"B"_qs}) {
+        ignore("calendarEvents\\.xml");
+        registry.changeEvent({}, entry(name));
+        QVERIFY(store.hasUnsavedChanges());
+        QCOMPARE(store.problem().kind, Problem::NotSaved);
+        QCOMPARE(store.problem().text, registry.lastSaveError());
+    }
+    ignore("calendarEvents\\.xml");
+    QVERIFY(!store.saveNow());
+    QCOMPARE(told.count(), 1);
+    QVERIFY(QDir().rmdir(path()));
+    QVERIFY(store.saveNow());
+    QCOMPARE(onDisk(), u"A B"_qs);
+    QCOMPARE(store.problem().kind, Problem::None);
+    QCOMPARE(told.count(), 2);
+}
+
+void tst_MvCalendarEventStore::restoresBackups_data()
+{
+    QTest::addColumn<QByteArray>("damaged");
+    QTest::addColumn<Problem::Kind>("kind");
+    QTest::addColumn<QString>("typedSince");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("cut off") << fileOf("A B").left(90) << Problem::Unreadable << QString() << u"A B"_qs;
+    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << Problem::Unreadable << QString() << u"A B"_qs;
+    QTest::newRow("typed since") << fileOf("A B").left(90) << Problem::Unreadable << u"X"_qs << u"A B X"_qs;
+    QTest::newRow("a part was read") << fileOf("A B").replace("2000-01-01T00:00:00</DateTime></CalendarEvent></",
+                                                              "1. Mai</DateTime></CalendarEvent></")
+                                     << Problem::PartlyReadable << u"X"_qs << u"A B X"_qs;
+}
+
+void tst_MvCalendarEventStore::restoresBackups()
+{
+    QFETCH(QByteArray, damaged);
+    QFETCH(Problem::Kind, kind);
+    QFETCH(QString, typedSince);
+    put(fileOf("A"));
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path()), fileOf("A B")).isOk());
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path()), fileOf("A B C")).isOk());
+    put(damaged);
+    if (damaged.startsWith("<CalendarEvents>") && kind == Problem::Unreadable)
+        ignore("calendarEvents\\.xml:1:\\d+");
+    MvCalendarEventRegistry registry;
+    MvCalendarEventStore &store = registry.userFile();
+    QCOMPARE(store.problem().kind, kind);
+    QCOMPARE(store.problem().backups.size(), 2); // the version before, and the first of the day
+    const QFileInfo backup = store.problem().backups.first();
+    for (const QString &name : typedSince.split(u' ', Qt::SkipEmptyParts)) {
+        registry.changeEvent({}, entry(name));
+        QCOMPARE(QFileInfo(store.problem().setAside).size(), damaged.size());
+        registry.changeEvent({}, entry(name + u"2"_qs));
+        registry.changeEvent(registry.activeEventList().last(), {});
+    }
+    QCOMPARE(names(MvCalendarEventFile::read(backup).events), u"A B"_qs); // saving has not pushed it out
+    QString error;
+    QVERIFY(!store.restoreBackup(QFileInfo(m_data->filePath(u"missing.xml"_qs)), &error));
+    QVERIFY(error.contains(u"missing.xml"_qs));
+    QSignalSpy changed(&registry, &MvCalendarEventRegistry::eventsChanged);
+    QVERIFY2(store.restoreBackup(backup, &error), qPrintable(error));
+    QTEST(names(registry.activeEventList()), "result");
+    QTEST(onDisk(), "result");
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(store.problem().kind, Problem::None);
+    QFile aside(QDir(m_data->path()).entryInfoList({u"*unlesbar*"_qs}).value(0).filePath());
+    QVERIFY(aside.open(QIODevice::ReadOnly));
+    QCOMPARE(aside.readAll(), damaged);
+}
+
+void tst_MvCalendarEventStore::takesInWhatOthersLeft_data()
+{
+    QTest::addColumn<QByteArray>("left");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("a line more, without uuids") << fileOf("A B C") << u"A B X C"_qs;
+    QTest::newRow("a line less, without uuids") << fileOf("B") << u"B X"_qs;
+    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << u"A B X"_qs;
+    QTest::newRow("a cut-off file") << fileOf("B C").left(120) << u"A B X"_qs;
+    QTest::newRow("an entry that cannot be read")
+        << fileOf("B C").replace("<DateTime>2000-01-01T00:00:00</DateTime></CalendarEvent></", "</CalendarEvent></")
+        << u"A B X"_qs;
+}
+
+/// A text editor, a synchronised folder or another program changed the file: all that was not removed stays.
+void tst_MvCalendarEventStore::takesInWhatOthersLeft()
+{
+    QFETCH(QByteArray, left);
+    put(fileOf("A B"));
+    MvCalendarEventRegistry registry;
+    put(left);
+    registry.changeEvent({}, entry(u"X"_qs));
+    QTEST(names(registry.activeEventList()), "result");
+    QTEST(onDisk(), "result");
+    QCOMPARE(MvCalendarEventRegistry().activeEventList(), registry.activeEventList());
+}
+
+/// Times are written in whole seconds.
+void tst_MvCalendarEventStore::removedEntriesStayAway()
+{
+    MvCalendarEventRegistry registry;
+    registry.setEvents({entry(u"A"_qs), entry(u"B"_qs, QTime(12, 0, 0, 123))});
+    MvCalendarEventRegistry().changeEvent({}, entry(u"C"_qs));
+    registry.changeEvent(registry.activeEventList().last(), {});
+    QCOMPARE(onDisk(), u"A C"_qs);
+}
+
+MV_TEST_MAIN(tst_MvCalendarEventStore)
+#include "tst_MvCalendarEventStore.moc"
