@@ -190,17 +190,25 @@ QString MvCalendarEvent::debugString() const
                                      m_uuid.toString());
 }
 
+QList<std::pair<QString, QString>> MvCalendarEvent::fileTexts() const
+{
+    if (!isValid())
+        return {};
+    return {
+        {u"Name"_s, m_name},
+        {u"DateTime"_s, m_dateTime.toString(Qt::ISODate)},
+        {u"Recurrent"_s, MvStringHelper::boolToString(m_recurrent)},
+        {u"Image"_s, m_foto.localFilePath()},
+        {u"UUID"_s, m_uuid.toString()},
+        {u"LastChanged"_s, m_lastChanged.toString(Qt::ISODate)},
+    };
+}
+
 void MvCalendarEvent::createXML(QDomNode &parent) const
 {
     QDomElement element = MvXMLBuilder::buildDomElement(parent, u"CalendarEvent"_s);
-    if (!isValid())
-        return;
-    MvXMLBuilder::buildDomElement(element, u"Name"_s, m_name);
-    MvXMLBuilder::buildDomElement(element, u"DateTime"_s, m_dateTime.toString(Qt::ISODate));
-    MvXMLBuilder::buildDomElement(element, u"Recurrent"_s, MvStringHelper::boolToString(m_recurrent));
-    MvXMLBuilder::buildDomElement(element, u"Image"_s, m_foto.localFilePath());
-    MvXMLBuilder::buildDomElement(element, u"UUID"_s, m_uuid.toString());
-    MvXMLBuilder::buildDomElement(element, u"LastChanged"_s, m_lastChanged.toString(Qt::ISODate));
+    for (const auto &[name, text] : fileTexts())
+        MvXMLBuilder::buildDomElement(element, name, text);
 }
 
 QDir MvCalendarEvent::imageDirectory()

@@ -12,9 +12,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
+#include <QList>
 #include <QMetaType>
 #include <QString>
 #include <QUuid>
+
+#include <utility>
 
 class MvCalendarEventTexts;
 class QDomElement;
@@ -102,6 +105,8 @@ public:
 
     /// Appends the element "CalendarEvent"; an empty one when the entry is invalid.
     void createXML(QDomNode &parent) const;
+    /// The names and texts of its child elements, in order; none when the entry is invalid.
+    QList<std::pair<QString, QString>> fileTexts() const;
 
     /// The photo folder; created when missing.
     static QDir imageDirectory();

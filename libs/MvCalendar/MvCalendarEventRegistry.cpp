@@ -195,7 +195,7 @@ void MvCalendarEventRegistry::takeWork()
     if (m_openChanges > 0)
         m_hasOpenChanges = true;
     else
-        setEvents(activeEventList());
+        setEvents(m_work->events());
 }
 
 void MvCalendarEventRegistry::finishWork() const
@@ -278,7 +278,7 @@ void MvCalendarEventRegistry::beginChanges()
 void MvCalendarEventRegistry::endChanges()
 {
     if (m_openChanges > 0 && --m_openChanges == 0 && std::exchange(m_hasOpenChanges, false))
-        setEvents(activeEventList());
+        setEvents(m_isWorkNewer ? m_work->events() : activeEventList());
 }
 
 MvCalendarEventList MvCalendarEventRegistry::mergeLists(const MvCalendarEventList &base,

@@ -142,7 +142,8 @@ MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEv
     if (!isList(content)) // nobody has removed all entries
         return events;
     MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
-    return MvCalendarEventMerge::threeWay(m_inFile, events, content.events, content.isComplete);
+    return MvCalendarEventMerge::threeWay(MvCalendarEventMerge::withoutRepetitions(m_inFile), // as others read it
+                                          events, content.events, content.isComplete);
 }
 
 // ---- writing
@@ -191,7 +192,7 @@ void MvCalendarEventStore::tryPending(const Adopt &adopt)
     if (!setAside() || !write(all))
         return;
     if (pending.adopts || all == pending.events) { // else the caller's list lacks some: the next change takes it in
-        m_inFile = MvCalendarEventMerge::withoutRepetitions(all); // as others read it
+        m_inFile = all;
         m_stamp = MvFileGuard::stamp(file());
     }
     m_pending.reset();
@@ -281,7 +282,7 @@ bool MvCalendarEventStore::restore(const QFileInfo &backup, QString *error)
     m_pending = {all, true};
     m_retry.stop();
     if (write(all)) {
-        m_inFile = MvCalendarEventMerge::withoutRepetitions(all); // as others read it
+        m_inFile = all;
         m_stamp = MvFileGuard::stamp(file());
         m_pending.reset();
         m_couldNotBeRead = false;

@@ -1,7 +1,9 @@
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvXML/MvXMLBuilder.h"
 
+#include <QDomDocument>
 #include <QStringEncoder>
 #include <QTemporaryDir>
 
@@ -13,6 +15,7 @@ private Q_SLOTS:
     void reads_data();
     void reads();
     void shortensWhatWasSkipped();
+    void writesWhatADocumentWould();
 };
 
 void tst_MvCalendarEventFile::reads_data()
@@ -84,6 +87,26 @@ void tst_MvCalendarEventFile::shortensWhatWasSkipped()
     for (int line = 1; line <= 14; ++line)
         skipped.append({line, {}, u"X"_qs});
     QCOMPARE(MvCalendarEventFile::describe(skipped, 2), u"Zeile 1: X\nZeile 2: X\n… und 12 weitere"_qs);
+}
+
+void tst_MvCalendarEventFile::writesWhatADocumentWould()
+{
+    MvCalendarEventList events;
+    QDomDocument document;
+    MvXMLBuilder::buildUTF8ProcessingInstructions(document);
+    QDomElement root = MvXMLBuilder::buildRootElement(document, u"CalendarEvents"_qs);
+    QCOMPARE(MvCalendarEventFile::toBytes({}), document.toByteArray(2));
+    const QString names[] = {
+        u"Jürgen"_qs,        u"A & B"_qs, u"<x>"_qs, u" y "_qs, u"   "_qs,   u"1\t2\n3\r4"_qs,
+        u"\"'"_qs,           u"😀"_qs,     u"]]>"_qs, {},        u"\x01z"_qs, QString(QChar(0xd800)),
+        QString(QChar(0xa0))};
+    for (const QString &name : names) {
+        events.append(
+            MvCalendarEvent(name, QDateTime::currentDateTime(), false, MvFoto(), QUuid::createUuid(), QDateTime()));
+        if (events.last().isValid())
+            events.last().createXML(root);
+    }
+    QCOMPARE(MvCalendarEventFile::toBytes(events), document.toByteArray(2));
 }
 
 MV_TEST_MAIN(tst_MvCalendarEventFile)
