@@ -68,7 +68,7 @@ MvAddressBookImport::EventsByCard MvAddressBookImport::makeEvents(const MvCalend
     for (const MvVCardBirthdays::Person &person : result.persons) {
         if (m_isCancelled || person.isRepeated)
             continue;
-        all.append(MvCalendarEvent(person.name, person.date.startOfDay(), true, {}, person.uuid, now));
+        all.append(MvCalendarEvent(person.name, MvCalendarEvent::startOf(person.date), true, {}, person.uuid, now));
         cards.insert(person.uuid, person.card);
     }
     m_events = MvCalendarEventMerge::joined(known, all, false);

@@ -135,11 +135,11 @@ void MvCalendarEventStore::noteContent(const MvCalendarEventFile::Content &conte
 MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEventList &events)
 {
     const QByteArray stamp = MvFileGuard::stamp(file());
-    if (stamp.isEmpty() || stamp == m_stamp)
+    if (stamp == m_stamp && !stamp.isEmpty())
         return events;
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file());
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file()); // also when it is gone by now
     noteContent(content);
-    if (!isList(content)) // nobody has removed all entries
+    if (!isList(content)) // nobody has removed all entries that way
         return events;
     MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
     return MvCalendarEventMerge::threeWay(MvCalendarEventMerge::withoutRepetitions(m_inFile), // as others read it

@@ -266,7 +266,7 @@ QMenu *MvGraphicsItemCalendariumCellsManager::createCustomEntryMenu(const QDate 
 
 MvCalendarEvent MvGraphicsItemCalendariumCellsManager::newEntryAt(const QDate &date)
 {
-    return {{}, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime::currentDateTime()};
+    return {{}, MvCalendarEvent::startOf(date), true, MvFoto(), QUuid::createUuid(), QDateTime::currentDateTime()};
 }
 
 QWidget *MvGraphicsItemCalendariumCellsManager::view() const

@@ -116,12 +116,13 @@ void tst_MvCalendarEventStore::failedSavingIsTriedAgain()
     }
     ignore("calendarEvents\\.xml");
     QVERIFY(!store.saveNow());
-    QCOMPARE(told.count(), 1);
+    QVERIFY(!told.isEmpty());
+    told.clear();
     QVERIFY(QDir().rmdir(path()));
     QVERIFY(store.saveNow());
     QCOMPARE(onDisk(), u"A B"_qs);
     QCOMPARE(store.problem().kind, Problem::None);
-    QCOMPARE(told.count(), 2);
+    QVERIFY(!told.isEmpty());
 }
 
 void tst_MvCalendarEventStore::restoresBackups_data()
