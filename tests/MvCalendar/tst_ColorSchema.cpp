@@ -90,7 +90,6 @@ private Q_SLOTS:
     void registryAliasesDuplicates();
     void registryRenamesOldIds();
     void registryKeepsUserSchemata();
-    void registrySetsUnreadableFilesAside();
     void registryHidesSchemata();
     void shippedSchemata();
 };
@@ -307,26 +306,6 @@ void tst_ColorSchema::registryKeepsUserSchemata()
     QVERIFY(reread->findSchema(id) == mine);
     registry.remove(mine);
     QVERIFY(!registry.contains(id));
-}
-
-void tst_ColorSchema::registrySetsUnreadableFilesAside()
-{
-    const QFileInfo file = MvCalendariumColorSchemaRegistry::systemUserSchemaFile();
-    QVERIFY(file.dir().mkpath(u"."_s));
-    const QByteArray damaged = "<calendarschema><calendararea colorschema='USER_1'>";
-    QFile device(file.filePath());
-    QVERIFY(device.open(QIODevice::WriteOnly) && device.write(damaged) == damaged.size());
-    device.close();
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"000-user-calendar-schema.xml.*set aside"_s));
-    QVERIFY(MvCalendariumColorSchemaRegistry::instance().saveSystemUserSchemata());
-    QVERIFY(!MvXMLLoader::loadDocumentElement(file).isNull());
-    bool isKept = false;
-    for (const QFileInfo &other : file.dir().entryInfoList(QDir::Files)) {
-        QFile kept(other.filePath());
-        isKept |= kept.open(QIODevice::ReadOnly) && kept.readAll() == damaged;
-    }
-    QVERIFY(isKept);
-    QVERIFY(QFile::remove(file.filePath()));
 }
 
 void tst_ColorSchema::registryHidesSchemata()
