@@ -112,6 +112,8 @@ void MvGuardedImageReader::open()
         }
         m_device->setStretches(stretches);
     }
+    if (format == "gif")
+        m_canvas = MvImageStructure::gifCanvas(m_source.get());
     m_format = format;
     m_reader = std::make_unique<QImageReader>();
     m_reader->setDevice(m_device.get());
@@ -153,13 +155,13 @@ bool MvGuardedImageReader::isQuick()
         return true; // nothing will be read
     if (isHollow(size()))
         return true;
-    return m_source->size() <= quickBytes && pixelsOf(size()) <= quickPixels && scans() <= quickScans;
+    return m_source->size() <= quickBytes && pixelsOf(decodedSize(size())) <= quickPixels && scans() <= quickScans;
 }
 
 /// A large picture needs something to show for it in the file.
 bool MvGuardedImageReader::isHollow(const QSize &full) const
 {
-    const qint64 pixels = pixelsOf(full);
+    const qint64 pixels = pixelsOf(decodedSize(full));
     return pixels > largePixels && pixels / mostPixelsPerByte > m_source->size();
 }
 
@@ -173,6 +175,8 @@ qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target
             qBound(1, qMin(full.width() / (2 * target.width()), full.height() / (2 * target.height())), 8);
         return 4 * pixels / (divisor * divisor) + (scans() > 1 ? 6 * pixels : 0);
     }
+    if (m_format == "gif")
+        return 2 * 4 * pixelsOf(decodedSize(full));
     if (m_format == "webp" && MvImageStructure::isAnimatedWebP(m_source.get()))
         return 4 * 4 * pixels;
     const QPixelFormat format = QImage::toPixelFormat(m_reader->imageFormat());
@@ -181,7 +185,8 @@ qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target
 
 bool MvGuardedImageReader::isWithinLimits(const QSize &full, const QSize &target)
 {
-    const QString size = tr("%1 × %2 Bildpunkte").arg(full.width()).arg(full.height());
+    const QSize decoded = decodedSize(full);
+    const QString size = tr("%1 × %2 Bildpunkte").arg(decoded.width()).arg(decoded.height());
     if (full.isEmpty() || target.isEmpty())
         m_error = tr("Die Datei ist beschädigt oder nicht vollständig.");
     else if (isHollow(full))

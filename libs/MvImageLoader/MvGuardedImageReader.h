@@ -58,6 +58,7 @@ public:
 private:
     void open();
     bool isTurned() const;
+    QSize decodedSize(const QSize &full) const { return full.expandedTo(m_canvas); }
     bool isHollow(const QSize &full) const;
     bool isWithinLimits(const QSize &full, const QSize &target);
     qint64 neededMemory(const QSize &full, const QSize &target);
@@ -68,6 +69,7 @@ private:
     std::unique_ptr<MvImageDevice> m_device;
     std::unique_ptr<QImageReader> m_reader;
     QByteArray m_format;
+    QSize m_canvas;   // of a GIF
     int m_scans = -1; // not counted yet
     QString m_error;
 };

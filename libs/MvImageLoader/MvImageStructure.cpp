@@ -129,6 +129,15 @@ QList<MvImageDevice::Stretch> MvImageStructure::pngWithoutTexts(QIODevice *devic
     return stretches;
 }
 
+QSize MvImageStructure::gifCanvas(QIODevice *device)
+{
+    device->seek(6);
+    const QByteArray sides = device->read(4);
+    if (sides.size() < 4)
+        return {};
+    return {qFromLittleEndian<quint16>(sides.constData()), qFromLittleEndian<quint16>(sides.constData() + 2)};
+}
+
 bool MvImageStructure::isAnimatedWebP(QIODevice *device)
 {
     device->seek(12);

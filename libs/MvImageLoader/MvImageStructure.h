@@ -4,6 +4,7 @@
 
 #include <QIODevice>
 #include <QList>
+#include <QSize>
 
 /// What the raw structure of an image file tells before anything is decoded. The position of the device is moved.
 class MvImageStructure
@@ -16,6 +17,9 @@ public:
     /// A PNG without its texts, which a decoder unpacks although nobody asked for them: a few bytes may become
     /// gigabytes. Empty when there are too many pieces for an honest file.
     static QList<MvImageDevice::Stretch> pngWithoutTexts(QIODevice *device);
+
+    /// The canvas of a GIF, which a decoder makes in full however small the picture on it is; empty when there is none.
+    static QSize gifCanvas(QIODevice *device);
 
     /// Whether a WebP has several pictures, for which a decoder keeps several canvases.
     static bool isAnimatedWebP(QIODevice *device);

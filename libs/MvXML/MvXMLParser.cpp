@@ -42,7 +42,7 @@ QColor MvXMLParser::color(const QString &text, const QColor &defaultValue)
     const QString word = text.trimmed();
     if (word.isEmpty() || !QColor::isValidColor(word))
         return defaultValue;
-    return QColor(word);
+    return QColor::fromRgba(QColor(word).rgba()); // "#RRRRGGGGBBBB" is finer than what is written
 }
 
 QString MvXMLParser::text(const QDomElement &element, const QString &name, const QString &defaultValue)

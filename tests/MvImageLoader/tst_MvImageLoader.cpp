@@ -151,6 +151,9 @@ void tst_MvImageLoader::refuses_data()
                                                                               "2ffebfff0f1111111111111111"
                                                                               "00")
                                                        << u"viel zu klein für die 16383 × 16383"_qs;
+    QTest::newRow("one pixel on a canvas of 16,000 pixels square")
+        << QByteArray::fromHex("474946383961803e803e800000000000ffffff2c00000000010001000002024401003b")
+        << u"viel zu klein für die 16000 × 16000"_qs;
     QTest::newRow("small file for 20,000 pixels square") << claiming20000(0) << u"zu klein für die 20000 × 20000"_qs;
     QTest::newRow("the same, stuffed") << claiming20000(1 << 20) << u"zu groß: 20000 × 20000"_qs;
     QTest::newRow("photo in 2,000 passes") << manyScans(2000) << u"64 Durchgängen"_qs;

@@ -8,6 +8,8 @@
 
 #include <QPainter>
 
+#include <memory>
+
 /// A layout: whatever is read can be painted.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
@@ -17,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchema(layout);
-    const auto renderer = MvCalendariumRendererFactory::instance().createRenderer(appearance);
+    const std::unique_ptr<MvCalendariumRenderer> renderer(
+        MvCalendariumRendererFactory::instance().createRenderer(appearance));
     MvFuzz::check(renderer != nullptr, "every layout has a renderer");
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
