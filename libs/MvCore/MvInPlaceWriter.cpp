@@ -104,8 +104,10 @@ public:
 
     void remove()
     {
-        ::unlink(QFile::encodeName(previousFile()).constData());
-        ::unlink(QFile::encodeName(newFile()).constData());
+        // under whatever suffix: of a file whose name had not been put in yet it is not known
+        const QStringList copies = QDir(m_folder).entryList({u"previous*"_s, u"new*"_s}, QDir::Files | QDir::Hidden);
+        for (const QString &copy : copies)
+            QFile::remove(m_folder + u'/' + copy);
         ::unlink(QFile::encodeName(targetFile()).constData()); // last: as long as it is there, the folder is ours
         ::rmdir(QFile::encodeName(m_folder).constData());
         m_lock.close();

@@ -253,7 +253,8 @@ void tst_StorageFaults::kills()
     const Attempt last = attempt(operation, disk, 1, {});
     QVERIFY2(last.fault.isEmpty() && last.isOk, qPrintable(last.describe(operation)));
     QStringList left;
-    QDirIterator files(disk.path(), {u".mvtmp-*"_s}, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    QDirIterator files(disk.path(), {u".mvtmp-*"_s, u"previous*"_s}, QDir::Files | QDir::Hidden,
+                       QDirIterator::Subdirectories);
     while (files.hasNext())
         left.append(files.next());
     QCOMPARE(left, QStringList());
