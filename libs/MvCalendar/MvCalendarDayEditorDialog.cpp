@@ -236,7 +236,8 @@ void MvCalendarDayEditorDialog::setupKeyboard()
 
 void MvCalendarDayEditorDialog::setSize(int width, int height)
 {
-    setFixedSize(QSize(width, height).expandedTo(minimumSizeHint()));
+    const QSize size = QSize(width, height).expandedTo(minimumSizeHint());
+    setFixedSize(size.width(), qMax(size.height(), layout()->totalMinimumHeightForWidth(size.width())));
 }
 
 void MvCalendarDayEditorDialog::repolishAndUpdateWidget()
@@ -388,6 +389,7 @@ void MvCalendarDayEditorDialog::loseEntry()
     m_noticeLabel->show();
     QAccessibleEvent alert(m_noticeLabel, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
+    m_noticeLabel->parentWidget()->layout()->activate();
     setSize(width(), height()); // the line may need room
 }
 

@@ -93,6 +93,15 @@ void MvDateEdit::setError(const QString &error)
     Q_EMIT meaningChanged();
 }
 
+/// The text is a date with its separators, finished or not: "31.11.2026", ".1.".
+bool MvDateEdit::hasSections() const
+{
+    const QString text = lineEdit()->text();
+    const auto isOfDate = [](QChar c) { return c.isDigit() || c == separator; };
+    return std::all_of(text.cbegin(), text.cend(), isOfDate) &&
+           text.count(separator) == textFromDateTime(dateTime()).count(separator);
+}
+
 /// The base moves cursor and text as its sections want it whenever its line signals; it must not hear of a text that
 /// is not its own.
 void MvDateEdit::shieldBase()
@@ -109,7 +118,7 @@ void MvDateEdit::noteSection()
     if (line->hasSelectedText()) {
         const QString before = text.left(line->selectionStart());
         const QString after = text.mid(line->selectionEnd());
-        const bool isSection = !isEdited() && !line->selectedText().contains(separator) &&
+        const bool isSection = hasSections() && !line->selectedText().contains(separator) &&
                                (before.isEmpty() || before.endsWith(separator)) &&
                                (after.isEmpty() || after.startsWith(separator));
         m_section = isSection ? std::optional(Section{before, after}) : std::nullopt;
@@ -232,10 +241,27 @@ bool MvDateEdit::eventFilter(QObject *watched, QEvent *event)
 /// A click selects, so that what is typed next replaces a section instead of growing into it.
 void MvDateEdit::selectSectionAtCursor()
 {
-    if (isEdited() || lineEdit()->hasSelectedText())
+    if (lineEdit()->hasSelectedText() || !hasSections())
         return;
     const qsizetype index = lineEdit()->text().left(lineEdit()->cursorPosition()).count(separator);
-    setSelectedSection(sectionAt(int(std::min<qsizetype>(index, sectionCount() - 1))));
+    selectSection(int(std::min<qsizetype>(index, sectionCount() - 1)));
+}
+
+/// A section has been left, so the date is taken; where it is none yet, such as 31 November on the way to December, the
+/// text waits for the other sections.
+void MvDateEdit::selectSection(int index)
+{
+    if (meaning().isValid())
+        takeText();
+    if (isEdited()) {
+        const QStringList sections = lineEdit()->text().split(separator);
+        const QStringList before = sections.mid(0, index);
+        lineEdit()->setSelection(int(before.join(separator).size()) + (index > 0 ? 1 : 0),
+                                 int(sections.value(index).size()));
+    } else {
+        setSelectedSection(sectionAt(index));
+    }
+    noteSection();
 }
 
 void MvDateEdit::focusInEvent(QFocusEvent *event)
@@ -245,9 +271,9 @@ void MvDateEdit::focusInEvent(QFocusEvent *event)
     QDateTimeEdit::focusInEvent(event);
     if (wasEdited && keepText(text))
         lineEdit()->selectAll();
-    if (event->reason() == Qt::MouseFocusReason)
-        selectSectionAtCursor();
     shieldBase();
+    if (!isEdited())
+        selectSectionAtCursor();
     if (!isEdited() && !m_error.isEmpty())
         setError({});
 }
@@ -277,8 +303,13 @@ bool MvDateEdit::keepText(const QString &text)
 bool MvDateEdit::focusNextPrevChild(bool next)
 {
     noteSection();
-    const bool isWhole = isEdited() && !m_section;
-    if (!takeText() || isWhole)
-        return QAbstractSpinBox::focusNextPrevChild(next);
-    return QDateTimeEdit::focusNextPrevChild(next);
+    if (m_section) {
+        const qsizetype index = m_section->before.count(separator) + (next ? 1 : -1);
+        if (index >= 0 && index < sectionCount()) {
+            selectSection(int(index));
+            return false;
+        }
+    }
+    takeText();
+    return QAbstractSpinBox::focusNextPrevChild(next);
 }

@@ -60,7 +60,9 @@ private:
 
     void noteSection();
     void onTextEdited();
+    bool hasSections() const;
     void selectSectionAtCursor();
+    void selectSection(int index);
     void shieldBase();
     bool keepText(const QString &text);
     void setError(const QString &error);

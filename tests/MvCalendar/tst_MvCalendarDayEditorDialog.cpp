@@ -122,12 +122,19 @@ void tst_MvCalendarDayEditorDialog::namesThatCount()
 
 void tst_MvCalendarDayEditorDialog::createsChangesAndDeletes()
 {
-    MvCalendarDayEditorDialog dialog(nullptr);
+    QGraphicsScene scene;
+    auto *item = new QGraphicsWidget;
+    item->resize(10, 10);
+    scene.addItem(item);
+    MvCalendarDayEditorDialog dialog(item);
     QSignalSpy accepted(&dialog, &QDialog::accepted);
     dialog.openDayEditorSingle(entry({}, QDate(2027, 6, 5)));
     QCOMPARE(part<QLabel>(dialog, u"dateLabel"_qs)->text(), u"Samstag, 5. Juni 2027"_qs);
     QTest::keyClicks(description(dialog), u"Oma"_qs);
+    QCoreApplication::processEvents();
+    QSignalSpy repainted(&scene, &QGraphicsScene::changed);
     ok(dialog)->click();
+    QTRY_COMPARE(repainted.count(), 1);
     QVERIFY(!dialog.isVisible());
     QCOMPARE(events().size(), 1);
     const QUuid uuid = events().first().uuid();
@@ -291,21 +298,23 @@ void tst_MvCalendarDayEditorDialog::sectionsOfTheDate()
         for (const Qt::Key key : sequence)
             QTest::keyClick(dialog.focusWidget(), key);
     };
-    keys({Qt::Key_Tab, Qt::Key_2, Qt::Key_4, Qt::Key_Tab, Qt::Key_1, Qt::Key_2, Qt::Key_Tab, Qt::Key_5, Qt::Key_0});
-    QCOMPARE(edit->text(), u"24.12.50"_qs);
+    keys({Qt::Key_Tab, Qt::Key_3, Qt::Key_1, Qt::Key_Tab}); // no 31 November, but on the way to December
+    QCOMPARE(edit->text(), u"31.11.2026"_qs);
+    keys({Qt::Key_1, Qt::Key_2, Qt::Key_Tab, Qt::Key_5, Qt::Key_0});
+    QCOMPARE(edit->text(), u"31.12.50"_qs);
     keys({Qt::Key_Up}); // takes it
-    QCOMPARE(edit->text(), u"24.12.1951"_qs);
+    QCOMPARE(edit->text(), u"31.12.1951"_qs);
     keys({Qt::Key_Backtab, Qt::Key_Down, Qt::Key_PageDown});
-    QCOMPARE(edit->text(), u"24.01.1951"_qs);
+    QCOMPARE(edit->text(), u"30.01.1951"_qs);
     QTest::keyClick(edit, Qt::Key_Left, Qt::ControlModifier);
     QWheelEvent wheel({9, 9}, edit->mapToGlobal(QPointF(9, 9)), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
     QApplication::sendEvent(edit, &wheel);
-    QCOMPARE(edit->text(), u"25.01.1951"_qs);
+    QCOMPARE(edit->text(), u"31.01.1951"_qs);
     keys({Qt::Key_End, Qt::Key_Backspace, Qt::Key_7}); // one letter
-    QCOMPARE(edit->text(), u"25.01.1957"_qs);
+    QCOMPARE(edit->text(), u"31.01.1957"_qs);
     keys({Qt::Key_Tab});
     QVERIFY(dialog.focusWidget() != edit);
-    QCOMPARE(edit->date(), QDate(1957, 1, 25));
+    QCOMPARE(edit->date(), QDate(1957, 1, 31));
 
     part<QCheckBox>(dialog, u"yearUnknownBox"_qs)->click();
     edit->setFocus();
@@ -702,6 +711,19 @@ void tst_MvCalendarDayEditorDialog::nothingIsCut()
             QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(button->text()));
         const auto *label = part<QLabel>(dialog, u"fotoLabel"_qs);
         QVERIFY(label->height() >= label->heightForWidth(label->width()));
+
+        const MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 6, 5)); // with all lines there may be
+        MvCalendarEventRegistry::instance().setEvents({anna});
+        dialog.openDayEditorSeries(anna);
+        description(dialog)->setText(u"Anne"_qs);
+        MvCalendarEventRegistry::instance().setEvents({});
+        QTest::keyClicks(part<QDateTimeEdit>(dialog, u"dateEdit"_qs), u"Sonntag, 24. Dezember 2950"_qs);
+        ok(dialog)->click();
+        for (const QString &name : {u"noticeLabel"_qs, u"dateHint"_qs, u"fotoLabel"_qs}) {
+            const auto *line = part<QLabel>(dialog, name);
+            QVERIFY2(line->isVisible() && line->height() >= line->heightForWidth(line->width()), qPrintable(name));
+        }
+        QVERIFY(dialog.height() >= dialog.layout()->totalMinimumHeightForWidth(dialog.width()));
     }
     QApplication::setFont(normal);
 }
