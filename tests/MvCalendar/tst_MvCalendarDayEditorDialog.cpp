@@ -125,16 +125,18 @@ void tst_MvCalendarDayEditorDialog::createsChangesAndDeletes()
     QGraphicsScene scene;
     auto *item = new QGraphicsWidget;
     item->resize(10, 10);
+    QSignalSpy repainted(&scene, &QGraphicsScene::changed);
     scene.addItem(item);
+    QTRY_VERIFY(!repainted.isEmpty());
     MvCalendarDayEditorDialog dialog(item);
     QSignalSpy accepted(&dialog, &QDialog::accepted);
     dialog.openDayEditorSingle(entry({}, QDate(2027, 6, 5)));
     QCOMPARE(part<QLabel>(dialog, u"dateLabel"_qs)->text(), u"Samstag, 5. Juni 2027"_qs);
     QTest::keyClicks(description(dialog), u"Oma"_qs);
     QCoreApplication::processEvents();
-    QSignalSpy repainted(&scene, &QGraphicsScene::changed);
+    repainted.clear();
     ok(dialog)->click();
-    QTRY_COMPARE(repainted.count(), 1);
+    QTRY_VERIFY(!repainted.isEmpty());
     QVERIFY(!dialog.isVisible());
     QCOMPARE(events().size(), 1);
     const QUuid uuid = events().first().uuid();
@@ -305,16 +307,16 @@ void tst_MvCalendarDayEditorDialog::sectionsOfTheDate()
     keys({Qt::Key_Up}); // takes it
     QCOMPARE(edit->text(), u"31.12.1951"_qs);
     keys({Qt::Key_Backtab, Qt::Key_Down, Qt::Key_PageDown});
-    QCOMPARE(edit->text(), u"30.01.1951"_qs);
-    QTest::keyClick(edit, Qt::Key_Left, Qt::ControlModifier);
-    QWheelEvent wheel({9, 9}, edit->mapToGlobal(QPointF(9, 9)), {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(edit, &wheel);
     QCOMPARE(edit->text(), u"31.01.1951"_qs);
+    QTest::keyClick(edit, Qt::Key_Left, Qt::ControlModifier);
+    QWheelEvent wheel({9, 9}, edit->mapToGlobal(QPointF(9, 9)), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(edit, &wheel);
+    QCOMPARE(edit->text(), u"30.01.1951"_qs);
     keys({Qt::Key_End, Qt::Key_Backspace, Qt::Key_7}); // one letter
-    QCOMPARE(edit->text(), u"31.01.1957"_qs);
+    QCOMPARE(edit->text(), u"30.01.1957"_qs);
     keys({Qt::Key_Tab});
     QVERIFY(dialog.focusWidget() != edit);
-    QCOMPARE(edit->date(), QDate(1957, 1, 31));
+    QCOMPARE(edit->date(), QDate(1957, 1, 30));
 
     part<QCheckBox>(dialog, u"yearUnknownBox"_qs)->click();
     edit->setFocus();
