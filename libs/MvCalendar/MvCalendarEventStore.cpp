@@ -104,6 +104,7 @@ MvCalendarEventFile::Content MvCalendarEventStore::read(bool becomesTheList)
         m_inFile = isList(content) ? content.events : MvCalendarEventList();
         m_present = m_inFile;
         m_stamp = stamp;
+        m_isWrittenHere = false;
     }
     m_couldNotBeRead = false;
     noteContent(content);
@@ -151,8 +152,33 @@ MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEv
 void MvCalendarEventStore::keep(const MvCalendarEventList &events, const Adopt &adopt)
 {
     m_present = events;
+    if (!m_pending && isInFile(events)) {
+        MvLogger::legacyLog(savingLine());
+        if (adopt)
+            adopt(events);
+        return;
+    }
     m_pending = {events, bool(adopt)};
     tryPending(adopt);
+}
+
+/// The very list was written here, and nobody has touched the file since.
+bool MvCalendarEventStore::isInFile(const MvCalendarEventList &events) const
+{
+    return m_isWrittenHere && m_inFile.isSharedWith(events) && !m_stamp.isEmpty() &&
+           m_stamp == MvFileGuard::stamp(file());
+}
+
+QString MvCalendarEventStore::savingLine() const
+{
+    return u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file().baseName());
+}
+
+void MvCalendarEventStore::noteWritten(const MvCalendarEventList &events)
+{
+    m_inFile = events;
+    m_stamp = MvFileGuard::stamp(file());
+    m_isWrittenHere = true;
 }
 
 bool MvCalendarEventStore::saveNow()
@@ -192,8 +218,7 @@ void MvCalendarEventStore::tryPending(const Adopt &adopt)
     if (!setAside() || !write(all))
         return;
     if (pending.adopts || all == pending.events) { // else the caller's list lacks some: the next change takes it in
-        m_inFile = all;
-        m_stamp = MvFileGuard::stamp(file());
+        noteWritten(all);
     }
     m_pending.reset();
     changeProblem(&m_writeProblem, {});
@@ -233,7 +258,7 @@ bool MvCalendarEventStore::setAside()
 
 bool MvCalendarEventStore::write(const MvCalendarEventList &events)
 {
-    MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file().baseName()));
+    MvLogger::legacyLog(savingLine());
     // while a person may still want a backup, none is pushed out by newer ones
     const auto backups = m_readProblem.isProblem() ? MvSafeFileWriter::Backups::None : MvSafeFileWriter::Backups::Keep;
     const MvSafeFileWriter::Result result =
@@ -282,8 +307,7 @@ bool MvCalendarEventStore::restore(const QFileInfo &backup, QString *error)
     m_pending = {all, true};
     m_retry.stop();
     if (write(all)) {
-        m_inFile = all;
-        m_stamp = MvFileGuard::stamp(file());
+        noteWritten(all);
         m_pending.reset();
         m_couldNotBeRead = false;
         changeProblem(&m_writeProblem, {});

@@ -82,7 +82,8 @@ public:
     MvCalendarEventFile::Content read(bool becomesTheList);
     /// Writes the list together with what others have changed; `adopt` gets that before it is written. Without `adopt`
     /// the caller's list stays as it is, and takes in the others' changes with the next call. When the file is
-    /// locked, or cannot be written, the list stays pending and is adopted as it is.
+    /// locked, or cannot be written, the list stays pending and is adopted as it is. What is in the file already is
+    /// not written again.
     void keep(const MvCalendarEventList &events, const Adopt &adopt);
     /// The list together with what others have written since the file was last read or written here.
     MvCalendarEventList withChangesOfOthers(const MvCalendarEventList &events);
@@ -107,6 +108,9 @@ private:
     bool restore(const QFileInfo &backup, QString *error);
     void tryPending(const Adopt &adopt);
     bool write(const MvCalendarEventList &events);
+    bool isInFile(const MvCalendarEventList &events) const;
+    QString savingLine() const;
+    void noteWritten(const MvCalendarEventList &events);
     bool setAside();
     void noteContent(const MvCalendarEventFile::Content &content);
     void waitForOthers(const QString &reason);
@@ -120,6 +124,7 @@ private:
     MvCalendarEventList m_inFile;   // what the file held when last read or written here
     MvCalendarEventList m_lastRead; // what could be read when the problem of reading arose
     QByteArray m_stamp;             // the state of the file at that time
+    bool m_isWrittenHere = false;   // it was m_inFile that was written here last
     bool m_mustBeSetAside = false;  // it holds what is not in the list: keep it before overwriting
     bool m_couldNotBeRead = false;  // some of its entries, and so the photos in use, are unknown
     Problem m_readProblem;

@@ -52,28 +52,12 @@ QString forMenu(const QString &name, const QFontMetrics &metrics)
     return text.replace(u'&', u"&&"_s);
 }
 
-/// Commands repaint their canvas item from now on. They outlive items.
-void installRepaint()
-{
-    static const bool isInstalled = [] {
-        MvUndoCommandCalendarEvent::setRepaintMaker([](QGraphicsObject *item) {
-            return [guard = QPointer<QGraphicsObject>(item)] {
-                if (guard)
-                    guard->update();
-            };
-        });
-        return true;
-    }();
-    Q_UNUSED(isInstalled)
-}
-
 } // namespace
 
 MvGraphicsItemCalendariumCellsManager::MvGraphicsItemCalendariumCellsManager(QGraphicsObject *parent)
     : QObject(parent)
     , m_parent(parent)
 {
-    installRepaint();
     MvCalendariumCellAccessible::install();
     m_menuTimer.setSingleShot(true);
     m_menuTimer.setInterval(menuDelay);
