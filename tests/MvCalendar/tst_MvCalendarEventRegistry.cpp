@@ -80,7 +80,6 @@ private Q_SLOTS:
     void fotosByDay();
     void setsUnreadableFilesAside();
     void anotherDocumentInPlaceOfTheListRemovesNothing();
-    void takesInOtherPrograms();
     void saveTakesInOtherPrograms();
     void takesImportedFotosOver();
     void foreignFotosAreKeptByName();
@@ -377,20 +376,6 @@ void tst_MvCalendarEventRegistry::anotherDocumentInPlaceOfTheListRemovesNothing(
     QCOMPARE(names(registry.activeEventList()), u"A B"_qs);
     QCOMPARE(registry.userFile().problem().kind, MvCalendarEventStore::Problem::Unreadable);
     QCOMPARE(contentOf(QDir(m_data->path()).entryList({u"*unlesbar*"_qs}).value(0)), "<Layouts/>");
-}
-
-void tst_MvCalendarEventRegistry::takesInOtherPrograms()
-{
-    const QDate day(2000, 1, 1);
-    MvCalendarEventRegistry first;
-    first.setEvents({entry(u"A"_qs, day), entry(u"B"_qs, day)});
-    MvCalendarEventRegistry second;
-    first.changeEvent(MvCalendarEvent(), entry(u"C"_qs, day));
-    second.changeEvent(second.activeEventList().first(), MvCalendarEvent()); // does not know of C
-    QCOMPARE(names(second.activeEventList()), u"B C"_qs);
-    first.changeEvent(MvCalendarEvent(), entry(u"D"_qs, day)); // does not know that A is gone
-    QCOMPARE(names(first.activeEventList()), u"B C D"_qs);
-    QCOMPARE(names(MvCalendarEventFile::read(first.calendarEventsDir()).events), u"B C D"_qs);
 }
 
 void tst_MvCalendarEventRegistry::saveTakesInOtherPrograms()
