@@ -310,7 +310,7 @@ QWidget *MvCalendarDayEditorDialog::sourceWindow() const
         }
     }
     QWidget *active = QApplication::activeWindow();
-    return active == this ? nullptr : active;
+    return active == this ? m_source.data() : active;
 }
 
 /// Over the middle of the window it comes from, above that window, and gone with it.
@@ -319,7 +319,8 @@ void MvCalendarDayEditorDialog::moveToSource()
     QWidget *source = sourceWindow();
     if (!source)
         return;
-    winId(); // makes the window handles
+    m_source = source; // messages belong to it: they outlive this dialog
+    winId();           // makes the window handles
     if (windowHandle() && source->windowHandle())
         windowHandle()->setTransientParent(source->windowHandle());
     connect(source, &QObject::destroyed, this, &QWidget::close, Qt::UniqueConnection);

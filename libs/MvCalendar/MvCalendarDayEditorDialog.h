@@ -119,6 +119,7 @@ private:
     void loseEntry();
 
     QPointer<QGraphicsObject> m_item;
+    QPointer<QWidget> m_source;
     QLabel *m_noticeLabel = nullptr;
     QLabel *m_dateLabel = nullptr;
     MvCalendarEventDateEdit *m_dateEdit = nullptr;

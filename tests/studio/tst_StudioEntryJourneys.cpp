@@ -8,6 +8,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvUndoController.h"
 
 using namespace Qt::StringLiterals;
 
@@ -237,9 +238,12 @@ void tst_StudioEntryJourneys::rowsOfTheList()
     QVERIFY(addEntry(studio, birthday, u"Oma"_s));
     QVERIFY(studio.raiseDock("entriesPanelDock"));
     auto *list = studio.find<QTableView>("eventTableView");
-    QTest::mouseMove(list->viewport(), list->visualRect(list->model()->index(0, 1)).center());
-    QTRY_VERIFY(studio.find("editEventButton")); // comes with the mouse
-    QVERIFY(studio.click(studio.window(), "editEventButton"));
+    const auto openEditor = [&] {
+        QTest::mouseMove(list->viewport(), list->visualRect(list->model()->index(0, 1)).center());
+        return QTest::qWaitFor([&] { return studio.find("editEventButton"); }) && // comes with the mouse
+               studio.click(studio.window(), "editEventButton");
+    };
+    QVERIFY(openEditor());
     auto *editor = MvStudioFixture::dialog<MvCalendarDayEditorDialog>();
     QVERIFY(editor);
     QTest::keyClick(editor->focusWidget(), Qt::Key_End);
@@ -253,6 +257,12 @@ void tst_StudioEntryJourneys::rowsOfTheList()
     studio.undo();
     studio.undo();
     QCOMPARE(names(), QStringList{u"Oma"_s});
+
+    QVERIFY(openEditor());
+    MvUndoController::instance().undo();
+    QTRY_VERIFY(!MvStudioFixture::dialog<MvCalendarDayEditorDialog>());
+    QTest::qWait(1);
+    QVERIFY(MvStudioFixture::dialog<QMessageBox>()); // that says why stays
 }
 
 void tst_StudioEntryJourneys::troubleWithReadingIsToldAndMended()
