@@ -17,7 +17,11 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     if (type == QtDebugMsg || type == QtInfoMsg || (type == QtWarningMsg && !isOfOurs))
         return;
     if (message.startsWith(QLatin1StringView("QStandardPaths:")))
-        return; // about the desktop session, which nothing here needs
+        return;          // about the desktop session, which nothing here needs
+    static QString last; // a file that is read twice has no more to say
+    if (message == last)
+        return;
+    last = message;
     std::fprintf(stderr, "mvcalendar: %s\n", message.simplified().toLocal8Bit().constData());
 }
 
