@@ -1,6 +1,8 @@
 #include "MvCalendar/MvCalendarEventTextDelegate.h"
 
 #include "MvCalendar/MvCalendarEventModel.h"
+#include "MvCore/MvStringHelper.h"
+#include "MvModelBase/MvPrintableText.h"
 
 #include <QDate>
 
@@ -18,8 +20,10 @@ MvCalendarEventTextDelegate::MvCalendarEventTextDelegate(QObject *parent)
 
 QString MvCalendarEventTextDelegate::displayText(const QVariant &value, const QLocale &locale) const
 {
-    return value.userType() == QMetaType::QDate ? MvCalendarEvent::dateText(value.toDate())
-                                                : QStyledItemDelegate::displayText(value, locale).simplified();
+    if (value.userType() == QMetaType::QDate)
+        return MvCalendarEvent::dateText(value.toDate());
+    return MvStringHelper::beginning(MvPrintableText::onOneLine(QStyledItemDelegate::displayText(value, locale)),
+                                     MvStringHelper::longestName);
 }
 
 /// Asked for every row of the list: no text is laid out.

@@ -13,6 +13,7 @@ public:
     explicit MvCalendarEventTextDelegate(QObject *parent = nullptr);
 
     /// Dates as MvCalendarEvent::dateText() has them, with all digits of their year: birthdays are of another century.
+    /// Names on one line, and no more of them than a list has room for.
     QString displayText(const QVariant &value, const QLocale &locale) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 

@@ -3,6 +3,7 @@
 
 #include "MvBoxFont.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventTextDelegate.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvModelBase/MvTextOutlineCache.h"
 
@@ -42,6 +43,7 @@ private Q_SLOTS:
 
     void everyPainter_data();
     void everyPainter();
+    void lists();
     void shortens_data();
     void shortens();
 };
@@ -96,6 +98,15 @@ void tst_AnyString::everyPainter()
     }
     const bool showsNames = page.renderer().abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS);
     QCOMPARE(page.renderer().unfittingTexts().isEmpty(), hasRoom || !showsNames);
+}
+
+void tst_AnyString::lists()
+{
+    const MvCalendarEventTextDelegate delegate;
+    const auto shown = [&delegate](const QString &name) { return delegate.displayText(name, QLocale()); };
+    QCOMPARE(shown(u" A\n\u0001B "_s), u"A B"_s);
+    QCOMPARE(shown(QString(100'000, u'x')).size(), 500);
+    QVERIFY(shown(u'a' + QString(100'000, QChar(0x0301))).size() < 100); // laying them all out takes a quarter minute
 }
 
 void tst_AnyString::shortens_data()
