@@ -2,7 +2,6 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvPlatformIndependent.h"
@@ -79,7 +78,6 @@ private Q_SLOTS:
     void asksByDay();
     void fotosByDay();
     void setsUnreadableFilesAside();
-    void anotherDocumentInPlaceOfTheListRemovesNothing();
     void saveTakesInOtherPrograms();
     void takesImportedFotosOver();
     void foreignFotosAreKeptByName();
@@ -365,17 +363,6 @@ void tst_MvCalendarEventRegistry::setsUnreadableFilesAside()
     QCOMPARE(fotos(), QStringList{u"in-use.png"_qs});
     registry.setEvents({});
     QCOMPARE(QDir(m_data->path()).entryList({u"*unlesbar*"_qs}).size(), 1);
-}
-
-void tst_MvCalendarEventRegistry::anotherDocumentInPlaceOfTheListRemovesNothing()
-{
-    MvCalendarEventRegistry registry;
-    registry.setEvents({entry(u"A"_qs, QDate(2000, 1, 1))});
-    put(u"calendarEvents.xml"_qs, "<Layouts/>");
-    registry.changeEvent(MvCalendarEvent(), entry(u"B"_qs, QDate(2000, 1, 1)));
-    QCOMPARE(names(registry.activeEventList()), u"A B"_qs);
-    QCOMPARE(registry.userFile().problem().kind, MvCalendarEventStore::Problem::Unreadable);
-    QCOMPARE(contentOf(QDir(m_data->path()).entryList({u"*unlesbar*"_qs}).value(0)), "<Layouts/>");
 }
 
 void tst_MvCalendarEventRegistry::saveTakesInOtherPrograms()
