@@ -1,5 +1,6 @@
 #include "MvStudioApplication.h"
 
+#include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvPlatformIndependent.h"
@@ -22,7 +23,15 @@
 #include <QApplication>
 #include <QTimer>
 
+#include <chrono>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::chrono::seconds quietTime(60); // after the start, until photos nobody needs are tidied up
+
+} // namespace
 
 MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject *parent)
     : QObject(parent)
@@ -87,6 +96,7 @@ void MvStudioApplication::start()
     MvStudioSettings::setFailureHandler([this](const QString &error) {
         MvStudioMessage::error(m_window.get(), tr("Die Einstellungen ließen sich nicht speichern."), error);
     });
+    QTimer::singleShot(quietTime, this, [] { MvCalendarEventRegistry::instance().sweepFotos(); });
     QTimer::singleShot(0, m_window.get(), [this] {
         tellUnwritableFolder();
         m_window->entriesFlow()->start();

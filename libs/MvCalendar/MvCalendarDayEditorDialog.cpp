@@ -92,11 +92,6 @@ MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::createSelfDeleting(QGraphi
     return dialog;
 }
 
-void MvCalendarDayEditorDialog::afterDecoding(const MvFoto &foto, QObject *receiver, const std::function<void()> &use)
-{
-    MvFotoLoader::midRes(foto, fotoQuality, fotoCaching, receiver, [use](const QImage &) { use(); });
-}
-
 // ---- widgets
 
 void MvCalendarDayEditorDialog::setupGUI()

@@ -11,8 +11,6 @@
 #include <QPixmap>
 #include <QPointer>
 
-#include <functional>
-
 class MvCalendarEventDateEdit;
 class MvDropLabel;
 class MvLineEdit;
@@ -47,10 +45,6 @@ public:
 
     /// A new dialog that deletes itself when it is closed, in its default size.
     static MvCalendarDayEditorDialog *createSelfDeleting(QGraphicsObject *item);
-
-    /// Calls when the photo is at hand in the form in which entries store it (MvCalendarEvent::setFoto()), so that
-    /// storing a large one does not keep the window waiting; not at all when the receiver is gone by then.
-    static void afterDecoding(const MvFoto &foto, QObject *receiver, const std::function<void()> &use);
 
     void openDayEditorSingle(const MvCalendarEvent &event);
     void openDayEditorSeries(const MvCalendarEvent &event);

@@ -1,12 +1,12 @@
 #include "MvCalendar/MvCalendarEvent.h"
 
-#include "MvCalendar/MvCalendarEventFoto.h"
+#include "MvCalendar/MvCalendarEventFotoFinder.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvStringHelper.h"
-#include "MvCore/MvUniqueFilenameMaker.h"
 #include "MvFoto/MvFotoAccess.h"
+#include "MvFoto/MvFotoBin.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLParser.h"
 
@@ -73,12 +73,10 @@ MvCalendarEvent::MvCalendarEvent(const QDomElement &element)
     m_foto = createFoto(element);
 }
 
-MvCalendarEvent::MvCalendarEvent(const MvCalendarEventTexts &texts, const QDir &fileFolder)
+MvCalendarEvent::MvCalendarEvent(const MvCalendarEventTexts &texts, MvCalendarEventFotoFinder &fotos)
 {
     read(texts);
-    const QString image = texts.text(u"Image"_s);
-    if (!image.isEmpty())
-        m_foto = MvCalendarEventFoto::fromText(image, imageDirectory(), &fileFolder);
+    m_foto = fotos.find(texts.text(u"Image"_s));
 }
 
 void MvCalendarEvent::read(const MvCalendarEventTexts &texts)
@@ -213,7 +211,7 @@ void MvCalendarEvent::createXML(QDomNode &parent) const
 
 QDir MvCalendarEvent::imageDirectory()
 {
-    return MvDirectoryConfig::instance().programDataSubDir(u"calendarEventFotos"_s);
+    return MvDirectoryConfig::instance().programDataSubDir(imageDirectoryName.toString());
 }
 
 bool MvCalendarEvent::isInAppSafeArea(const QFileInfo &file) const
@@ -242,17 +240,18 @@ QFileInfo MvCalendarEvent::saveCopy(const QImage &image, const MvFoto &foto, QSt
 {
     const QString name =
         MvMediaFormat::createFilename(foto.mediaFormat(), foto.filenameHint(), foto.fileExtensionHint());
-    const QFileInfo file =
-        MvUniqueFilenameMaker::instance().makeUniqueFileName(QFileInfo(imageDirectory(), name), true);
+    const QFileInfo file = MvFotoBin(imageDirectory()).reserve(name);
     const QByteArray bytes = encoded(image, file.suffix());
     *error = bytes.isEmpty() ? tr("Das Bild ließ sich nicht umwandeln.")
                              : MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
+    if (!error->isEmpty())
+        QFile::remove(file.absoluteFilePath());
     return QFileInfo(file.absoluteFilePath());
 }
 
 MvFoto MvCalendarEvent::createFoto(const QDomElement &element) const
 {
-    return MvCalendarEventFoto::fromText(MvXMLParser::text(element, u"Image"_s), imageDirectory(), nullptr);
+    return MvCalendarEventFotoFinder().find(MvXMLParser::text(element, u"Image"_s));
 }
 
 bool MvCalendarEvent::lessThanDate(const MvCalendarEvent &a, const MvCalendarEvent &b)

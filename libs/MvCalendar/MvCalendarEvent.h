@@ -19,6 +19,7 @@
 
 #include <utility>
 
+class MvCalendarEventFotoFinder;
 class MvCalendarEventTexts;
 class QDomElement;
 class QDomNode;
@@ -46,9 +47,9 @@ public:
                     const QUuid &uuid, const QDateTime &lastChanged);
     /// Reads the form that createXML() writes; what is missing takes its default, a missing uuid a new one.
     explicit MvCalendarEvent(const QDomElement &element);
-    /// The same for an entry of a file: its photos may also lie in the file's folder and below. A photo elsewhere is
-    /// kept by name and written back, but never opened.
-    MvCalendarEvent(const MvCalendarEventTexts &texts, const QDir &fileFolder);
+    /// The same for an entry of a file, whose photo may lie beside that. A photo that may not be opened is kept by name
+    /// and written back.
+    MvCalendarEvent(const MvCalendarEventTexts &texts, MvCalendarEventFotoFinder &fotos);
     virtual ~MvCalendarEvent();
     MvCalendarEvent(const MvCalendarEvent &);
     MvCalendarEvent(MvCalendarEvent &&) noexcept;
@@ -108,6 +109,7 @@ public:
     /// The names and texts of its child elements, in order; none when the entry is invalid.
     QList<std::pair<QString, QString>> fileTexts() const;
 
+    static constexpr QStringView imageDirectoryName = u"calendarEventFotos";
     /// The photo folder; created when missing.
     static QDir imageDirectory();
     /// Whether the file lies directly in the photo folder.

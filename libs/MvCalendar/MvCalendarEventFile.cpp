@@ -1,5 +1,6 @@
 #include "MvCalendar/MvCalendarEventFile.h"
 
+#include "MvCalendar/MvCalendarEventFotoFinder.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
@@ -59,9 +60,10 @@ QString whyInvalid(const MvCalendarEvent &event, const MvCalendarEventTexts &tex
 }
 
 /// The entries of a list; the reader stands on its root element and is left on that's end.
-void readEntries(QXmlStreamReader &reader, const QDir &folder, MvCalendarEventFile::Content &content)
+void readEntries(QXmlStreamReader &reader, const QFileInfo &file, MvCalendarEventFile::Content &content)
 {
     Gathering gathering;
+    MvCalendarEventFotoFinder fotos(file);
     while (reader.readNextStartElement()) {
         const int line = int(reader.lineNumber());
         const QString element = reader.qualifiedName().toString();
@@ -73,7 +75,7 @@ void readEntries(QXmlStreamReader &reader, const QDir &folder, MvCalendarEventFi
         const MvCalendarEventTexts texts(reader);
         if (texts.isEmpty())
             continue;
-        const MvCalendarEvent event(texts, folder);
+        const MvCalendarEvent event(texts, fotos);
         gathering.add(event);
         if (!event.isValid())
             content.skipped.append({line, shown(event.description()), whyInvalid(event, texts)});
@@ -162,7 +164,7 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
                               .describe(present);
         return content;
     }
-    readEntries(reader, present.absoluteDir(), content);
+    readEntries(reader, present, content);
     if (reader.hasError())
         content.error =
             MvXMLLoader::Error{reader.errorString(), int(reader.lineNumber()), int(reader.columnNumber()) + 1}.describe(

@@ -1,10 +1,14 @@
 #include "MvCalendar/MvCalendarEventFotoFolder.h"
 
+#include "MvCalendar/MvCalendarEventFotoSweep.h"
+#include "MvFoto/MvFotoBin.h"
+
+#include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvDiskAccessRequest.h"
+#include "MvCore/MvLogger.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QFutureWatcher>
 #include <QPromise>
@@ -16,27 +20,65 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Tells photos that are to be copied from those of the photo folder. Asks for the folder, which is made when missing,
-/// only when there is a photo, and then once.
-class Elsewhere
+QDir presentFolder() // which need not exist
+{
+    return QDir(
+        MvDirectoryConfig::instance().programDataDir().filePath(MvCalendarEvent::imageDirectoryName.toString()));
+}
+
+/// The photos of one list. Asks for the folder, which is made when missing, only when there is a photo, and then once.
+class Photos
 {
 public:
-    bool holds(const MvFoto &foto)
+    /// Whether the photo is to be copied.
+    bool isElsewhere(const MvFoto &foto)
     {
         if (!foto.mayBeOpened())
             return false;
-        if (m_folder.isEmpty())
-            m_folder = MvCalendarEvent::imageDirectory().absolutePath() + u'/';
         const QString path = foto.localFilePath();
-        const bool isInFolder = path.startsWith(m_folder) && path.indexOf(u'/', m_folder.size()) < 0;
+        const bool isInFolder = path.startsWith(folder()) && path.indexOf(u'/', folder().size()) < 0;
+        if (isInFolder && m_inBin.contains(path.mid(folder().size())))
+            MvCalendarEventFotoFolder::fetchBack(foto);
         return !isInFolder && QFileInfo(path).isFile();
     }
 
 private:
+    QString folder()
+    {
+        if (m_folder.isEmpty()) {
+            const QDir folder = MvCalendarEvent::imageDirectory();
+            m_folder = folder.absolutePath() + u'/';
+            const QStringList inBin = MvFotoBin(folder).names();
+            m_inBin = QSet<QString>(inBin.cbegin(), inBin.cend());
+        }
+        return m_folder;
+    }
+
     QString m_folder;
+    QSet<QString> m_inBin;
 };
 
+/// Everything that may be a list of entries of the user's: the file itself, backups, what was set aside, copies of a
+/// writing that was not finished.
+QFileInfoList userFiles()
+{
+    const QDir folder = MvDirectoryConfig::instance().programDataDir();
+    QFileInfoList files = QDir(folder.filePath(u"unfinished"_s)).entryInfoList(QDir::Files | QDir::Hidden);
+    const QString place = folder.filePath(u"calendarEvents.xml"_s);
+    const QSet<QString> places{place, QFileInfo(place).canonicalFilePath()}; // a link has its backups at its target
+    for (const QString &file : places) {
+        const QString names = QFileInfo(file).completeBaseName() + u'*';
+        if (!file.isEmpty())
+            files += QFileInfo(file).dir().entryInfoList({names}, QDir::Files | QDir::Hidden);
+    }
+    return files;
+}
+
 } // namespace
+
+MvCalendarEventFotoFolder::MvCalendarEventFotoFolder()
+    : m_use(presentFolder())
+{}
 
 MvCalendarEventFotoFolder::Source MvCalendarEventFotoFolder::sourceOf(const MvFoto &foto)
 {
@@ -62,13 +104,13 @@ bool MvCalendarEventFotoFolder::isKnown(const Source &source) const
 
 MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEventList &events)
 {
-    Elsewhere elsewhere;
+    Photos photos;
     MvCalendarEventList own = events;
     QStringList errors;
     bool hasFailed = false;
     for (qsizetype i = 0; i < events.size(); ++i) {
         const MvFoto foto = events.at(i).foto();
-        if (!elsewhere.holds(foto))
+        if (!photos.isElsewhere(foto))
             continue;
         const Source source = sourceOf(foto);
         const bool isTriedInVain = m_outcomes.contains(source) && hasFailed; // a full disk is full for all of them
@@ -83,6 +125,7 @@ MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEve
             errors.append(outcome.error);
         }
     }
+    m_use.begin(); // the folder may be new
     MvDiskAccessRequest::instance().takeFotosFailed(errors);
     return own;
 }
@@ -90,10 +133,10 @@ MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEve
 void MvCalendarEventFotoFolder::prepare(const MvCalendarEventList &events, QObject *receiver,
                                         const std::function<void()> &use)
 {
-    Elsewhere elsewhere;
+    Photos photos;
     QHash<Source, MvFoto> fotos;
     for (const MvCalendarEvent &event : events) {
-        if (!elsewhere.holds(event.foto()))
+        if (!photos.isElsewhere(event.foto()))
             continue;
         const Source source = sourceOf(event.foto());
         if (!isKnown(source))
@@ -121,6 +164,14 @@ void MvCalendarEventFotoFolder::prepare(const MvCalendarEventList &events, QObje
     });
 }
 
+bool MvCalendarEventFotoFolder::fetchBack(const MvFoto &foto)
+{
+    const QFileInfo file = foto.localFileInfo();
+    const QDir folder = presentFolder();
+    return foto.mayBeOpened() && file.absolutePath() == folder.absolutePath() &&
+           MvFotoBin(folder).fetchBack(file.fileName());
+}
+
 void MvCalendarEventFotoFolder::removeAllBut(const MvCalendarEventList &events)
 {
     QSet<QString> used; // under every name: the user's folder may be reached through links
@@ -130,9 +181,43 @@ void MvCalendarEventFotoFolder::removeAllBut(const MvCalendarEventList &events)
         used.insert(event.imagePath().absoluteFilePath());
         used.insert(event.imagePath().canonicalFilePath());
     }
-    const QFileInfoList files = MvCalendarEvent::imageDirectory().entryInfoList(QDir::Files, QDir::Unsorted);
+    const QDir folder = MvCalendarEvent::imageDirectory();
+    const MvFotoBin bin(folder);
+    const QFileInfoList files = folder.entryInfoList(QDir::Files, QDir::Unsorted);
     for (const QFileInfo &file : files) {
         if (!used.contains(file.absoluteFilePath()) && !used.contains(file.canonicalFilePath()))
-            QFile::remove(file.absoluteFilePath());
+            bin.put(file.fileName(), QDate::currentDate());
     }
+}
+
+void MvCalendarEventFotoFolder::sweep(QObject *receiver, const std::function<QSet<QString>()> &inUse,
+                                      const std::function<bool()> &mayGoOn)
+{
+    if (!presentFolder().exists() || !m_use.beginAlone())
+        return;
+    using Plan = std::shared_ptr<MvCalendarEventFotoSweep>; // null: something could not be read
+    auto *watcher = new QFutureWatcher<Plan>(receiver);
+    QObject::connect(watcher, &QFutureWatcherBase::finished, receiver, [this, watcher, inUse, mayGoOn] {
+        watcher->deleteLater();
+        const Plan plan = watcher->result();
+        if (plan && mayGoOn()) {
+            for (const QString &name : inUse())
+                plan->keep(name);
+            const int count = plan->run(QDateTime::currentDateTime());
+            MvLogger::legacyLog(u"CalendarEvents ACTION:sweepFotos VALUE:%1"_s.arg(count));
+        }
+        m_use.endAlone();
+    });
+    const auto promise = std::make_shared<QPromise<Plan>>();
+    promise->start();
+    watcher->setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, folder = presentFolder(), lists = userFiles()] {
+        auto plan = std::make_shared<MvCalendarEventFotoSweep>(folder);
+        for (const QFileInfo &list : lists) {
+            if (plan && !plan->keepNamesIn(list))
+                plan.reset();
+        }
+        promise->addResult(plan);
+        promise->finish();
+    });
 }

@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
+#include "MvCore/MvFolderUse.h"
 #include "MvFoto/MvFoto.h"
 
 #include <QHash>
@@ -17,17 +18,27 @@ class QObject;
 class MVCALENDAR_EXPORT MvCalendarEventFotoFolder
 {
 public:
+    /// This program uses the photo folder as long as the object lives.
+    MvCalendarEventFotoFolder();
+
     /// The list with copies in the photo folder in place of photos that lie elsewhere, such as those that came with a
     /// list from somebody else. Each is copied once, as long as file and copy stay as they are. A photo that cannot be
-    /// copied stays what it was, and the user is told once.
+    /// copied stays what it was, and the user is told once. Photos of the folder that are in its bin are fetched back.
     MvCalendarEventList withOwnCopies(const MvCalendarEventList &events);
 
     /// Calls when withOwnCopies() would not have to decode photos any more: makes the copies in the background. At
     /// once when there is nothing to copy; not at all when the receiver is gone by then.
     void prepare(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);
 
-    /// Removes the photos that no entry of the list uses from the photo folder.
+    /// Moves the photos that no entry of the list uses from the photo folder into its bin.
     static void removeAllBut(const MvCalendarEventList &events);
+    /// Puts a photo of the photo folder that is gone back into it, if it lies in the bin.
+    static bool fetchBack(const MvFoto &foto);
+
+    /// Tidies the photo folder up (MvCalendarEventFotoSweep) in the background, unless another program uses it.
+    /// Needed are the photos in `inUse`, asked once more at the end, and those that the user's files name, the backups
+    /// and set-aside ones among them. Given up when `mayGoOn` says so at the end.
+    void sweep(QObject *receiver, const std::function<QSet<QString>()> &inUse, const std::function<bool()> &mayGoOn);
 
 private:
     /// The state of a file that was copied, or could not be.
@@ -54,6 +65,7 @@ private:
     static Outcome copied(const MvFoto &foto);
     bool isKnown(const Source &source) const;
 
+    MvFolderUse m_use;
     Outcomes m_outcomes;
     QSet<Source> m_told;
 };

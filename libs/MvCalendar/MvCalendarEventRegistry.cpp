@@ -9,6 +9,7 @@
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvProactiveHelpController.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoAccess.h"
 #include "MvProductBase/MvSVGCompilerInstructionsCache.h"
 #include "MvProductBase/MvSVGImageRendererCache.h"
@@ -37,6 +38,12 @@ MvCalendarEventList validOnly(const MvCalendarEventList &events)
             valid.append(event);
     }
     return valid;
+}
+
+/// A photo that has gone to the bin comes back when it is to be shown.
+bool isThere(const MvFoto &foto)
+{
+    return foto.mayBeOpened() && (foto.localFileInfo().isFile() || MvCalendarEventFotoFolder::fetchBack(foto));
 }
 
 MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPath)
@@ -114,7 +121,7 @@ MvImageReference MvCalendarEventRegistry::imageFile(const MvCalendariumContentKe
 {
     MvImageReference reference;
     visit(key.config(), key.project(), [&reference](const MvCalendarEvent &event) {
-        if (!event.foto().mayBeOpened() || !event.imagePath().isFile())
+        if (!isThere(event.foto()))
             return false;
         reference = {event.imagePath().absoluteFilePath(), event.imageSize()};
         return true;
@@ -142,7 +149,8 @@ QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key) c
 {
     QImage image;
     visit(key.config(), key.project(), [&image](const MvCalendarEvent &event) {
-        image = MvFotoAccess::fullRes(event.foto());
+        if (isThere(event.foto()))
+            image = MvFotoAccess::fullRes(event.foto());
         return !image.isNull();
     });
     return image;
@@ -152,7 +160,8 @@ QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key, c
 {
     QImage image;
     visit(key.config(), key.project(), [&image, &bounds](const MvCalendarEvent &event) {
-        image = MvFotoAccess::scaled(event.foto(), bounds);
+        if (isThere(event.foto()))
+            image = MvFotoAccess::scaled(event.foto(), bounds);
         return !image.isNull();
     });
     return image;
@@ -411,4 +420,24 @@ void MvCalendarEventRegistry::cleanupImageDirectory() const
     if (!m_userFile->isWhole())
         return;
     MvCalendarEventFotoFolder::removeAllBut(events);
+}
+
+void MvCalendarEventRegistry::sweepFotos()
+{
+    const auto isQuiet = [this] {
+        return m_openChanges == 0 && MvUndoController::instance().stack()->count() == 0 && m_userFile->isWhole() &&
+               !m_userFile->hasUnsavedChanges() && !m_userFile->problem().isProblem() &&
+               QFileInfo(m_userFile->file().filePath()).isFile();
+    };
+    const auto inUse = [this] {
+        finishWork();
+        QSet<QString> names;
+        for (const MvCalendarEventIndex &list : std::as_const(m_lists)) {
+            for (const MvCalendarEvent &event : list.events())
+                names.insert(event.imagePath().fileName());
+        }
+        return names;
+    };
+    if (isQuiet())
+        m_fotos.sweep(this, inUse, isQuiet);
 }

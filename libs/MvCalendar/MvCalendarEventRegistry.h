@@ -118,9 +118,14 @@ public:
     /// Tells the user how many of the found birthdays are new.
     void playImportedCustomerEntriesProactiveAdvice(int foundInAddressBook, int imported) const;
 
-    /// Deletes the photos in the photo folder that no entry of the active list uses. Does nothing as long as the
-    /// user's file could not be read: its entries are not known then.
+    /// Moves the photos that no entry of the active list uses out of the photo folder, into its bin
+    /// (MvFotoBin). Does nothing as long as the user's file could not be read: its entries are not known
+    /// then.
     void cleanupImageDirectory() const;
+    /// Moves photos into the bin that nothing needs any more: no list here, no step that can be undone, no file of the
+    /// user's, backups and set-aside ones among them, no other running program. Happens in the background, and only
+    /// when nothing is in doubt: for a program that has started and waits for its user.
+    void sweepFotos();
 
 Q_SIGNALS:
     void eventsChanged();

@@ -1,11 +1,12 @@
 #include "MvFoto/MvPictureIntake.h"
 
 #include "MvCore/MvSafeFileWriter.h"
-#include "MvCore/MvUniqueFilenameMaker.h"
+#include "MvFoto/MvFotoBin.h"
 #include "MvFoto/MvMediaFormat.h"
 #include "MvImageLoader/MvGuardedImageReader.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
 
@@ -65,7 +66,9 @@ MvPictureIntake::Result MvPictureIntake::put(const QByteArray &bytes, const QDir
     if (content.isEmpty())
         return {{}, tr("Das Bild ließ sich nicht umwandeln.")};
     const MvMediaFormat format = isJpeg ? MvMediaFormat::Jpeg : MvMediaFormat::Png;
-    const QFileInfo file = MvUniqueFilenameMaker::instance().makeUniqueFileName(
-        QFileInfo(folder, MvMediaFormat::createFilename(format, nameHint, {})), true);
-    return {file, MvSafeFileWriter::write(file, content, MvSafeFileWriter::Backups::None).error};
+    const QFileInfo file = MvFotoBin(folder).reserve(MvMediaFormat::createFilename(format, nameHint, {}));
+    const QString error = MvSafeFileWriter::write(file, content, MvSafeFileWriter::Backups::None).error;
+    if (!error.isEmpty())
+        QFile::remove(file.absoluteFilePath());
+    return {file, error};
 }

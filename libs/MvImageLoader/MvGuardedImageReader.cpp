@@ -15,17 +15,19 @@
 #include <mutex>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
-constexpr int smoothQuality = 90;            // of scaled decoding: smooth instead of fast
-constexpr qint64 quickPixels = 4'500'000;    // decoded in some 50 ms
-constexpr qint64 quickBytes = 16 << 20;      // a file to be looked through
-constexpr int quickScans = 12;               // as in usual progressive files
-constexpr qint64 largePixels = 16'000'000;   // from here on, a file must have something to show for its size
-constexpr qint64 mostPixelsPerByte = 4096;   // a blank page as a bitmap still has more
-constexpr qint64 largeMemory = 128 << 20;    // bytes; one such image at a time
-constexpr qint64 otherFileLimit = 256 << 20; // bytes of files that decoders load as a whole
+constexpr int smoothQuality = 90;              // of scaled decoding: smooth instead of fast
+constexpr qint64 quickPixels = 4'500'000;      // decoded in some 50 ms
+constexpr qint64 quickBytes = 16 << 20;        // a file to be looked through
+constexpr int quickScans = 12;                 // as in usual progressive files
+constexpr qint64 largePixels = 16'000'000;     // from here on, a file must have something to show for its size
+constexpr qint64 mostPixelsPerByte = 4096;     // a blank page as a bitmap still has more
+constexpr qint64 mostPixelsPerByteAtAll = 256; // of JPEG and BMP
+constexpr qint64 largeMemory = 128 << 20;      // bytes; one such image at a time
+constexpr qint64 otherFileLimit = 256 << 20;   // bytes of files that decoders load as a whole
 
 /// Opens without waiting: a pipe that nobody writes to must not stop the program.
 std::unique_ptr<QIODevice> openRegular(const QString &path)
@@ -104,14 +106,8 @@ void MvGuardedImageReader::open()
     }
     m_device = std::make_unique<MvImageDevice>(m_source.get());
     m_device->setTimeLimit(timeLimit);
-    if (format == "png") {
-        const QList<MvImageDevice::Stretch> stretches = MvImageStructure::pngWithoutTexts(m_source.get());
-        if (stretches.isEmpty()) {
-            m_error = tr("Die Datei ist beschädigt.");
-            return;
-        }
-        m_device->setStretches(stretches);
-    }
+    if (format == "png")
+        m_device->setStretches(MvImageStructure::pngWithoutTexts(m_source.get(), MvImageStructure::PngPart::Head));
     if (format == "gif")
         m_canvas = MvImageStructure::gifCanvas(m_source.get());
     m_format = format;
@@ -136,11 +132,19 @@ QSize MvGuardedImageReader::size() const
     return isTurned() ? size.transposed() : size;
 }
 
-int MvGuardedImageReader::scans()
+/// All of the file, unlike what its head alone tells.
+void MvGuardedImageReader::lookThrough()
 {
-    if (m_scans < 0)
-        m_scans = m_format == "jpeg" ? MvImageStructure::jpegScans(m_source.get(), scanLimit) : 1;
-    return m_scans;
+    if (std::exchange(m_isLookedThrough, true))
+        return;
+    if (m_format == "png")
+        m_device->setStretches(MvImageStructure::pngWithoutTexts(m_source.get(), MvImageStructure::PngPart::All));
+    m_mayBeCutOff = m_format == "bmp";
+    if (m_format == "jpeg") {
+        const MvImageStructure::Jpeg jpeg = MvImageStructure::jpeg(m_source.get(), scanLimit);
+        m_scans = jpeg.scans;
+        m_mayBeCutOff = !jpeg.hasEnd;
+    }
 }
 
 void MvGuardedImageReader::setTimeLimit(double seconds)
@@ -155,7 +159,10 @@ bool MvGuardedImageReader::isQuick()
         return true; // nothing will be read
     if (isHollow(size()))
         return true;
-    return m_source->size() <= quickBytes && pixelsOf(decodedSize(size())) <= quickPixels && scans() <= quickScans;
+    if (m_source->size() > quickBytes || pixelsOf(decodedSize(size())) > quickPixels)
+        return false;
+    lookThrough();
+    return m_scans <= quickScans;
 }
 
 /// A large picture needs something to show for it in the file.
@@ -173,7 +180,7 @@ qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target
         // a decoder makes it smaller on the way, by up to 8, but several passes are gathered in full
         const int divisor =
             qBound(1, qMin(full.width() / (2 * target.width()), full.height() / (2 * target.height())), 8);
-        return 4 * pixels / (divisor * divisor) + (scans() > 1 ? 6 * pixels : 0);
+        return 4 * pixels / (divisor * divisor) + (m_scans > 1 ? 6 * pixels : 0);
     }
     if (m_format == "gif")
         return 2 * 4 * pixelsOf(decodedSize(full));
@@ -187,11 +194,13 @@ bool MvGuardedImageReader::isWithinLimits(const QSize &full, const QSize &target
 {
     const QSize decoded = decodedSize(full);
     const QString size = tr("%1 × %2 Bildpunkte").arg(decoded.width()).arg(decoded.height());
-    if (full.isEmpty() || target.isEmpty())
+    // decoders fill up what is missing; so little is no picture
+    const bool isCutOff = m_mayBeCutOff && pixelsOf(full) / mostPixelsPerByteAtAll > m_source->size();
+    if (full.isEmpty() || target.isEmpty() || isCutOff)
         m_error = tr("Die Datei ist beschädigt oder nicht vollständig.");
     else if (isHollow(full))
         m_error = tr("Die Datei ist viel zu klein für die %1, die sie haben will.").arg(size);
-    else if (scans() > scanLimit)
+    else if (m_scans > scanLimit)
         m_error = tr("Das Bild ist in mehr als %1 Durchgängen gespeichert. So etwas tut kein übliches Programm.")
                       .arg(scanLimit);
     else if (neededMemory(full, target) > memoryLimit)
@@ -206,6 +215,7 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
     const QSize full = size();
     const QSize target =
         bounds.isEmpty() || full.isEmpty() ? full : full.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1});
+    lookThrough();
     if (!isWithinLimits(full, target))
         return {};
     QMutexLocker lock(neededMemory(full, target) > largeMemory ? &largeImages() : nullptr);

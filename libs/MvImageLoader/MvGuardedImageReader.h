@@ -62,14 +62,16 @@ private:
     bool isHollow(const QSize &full) const;
     bool isWithinLimits(const QSize &full, const QSize &target);
     qint64 neededMemory(const QSize &full, const QSize &target);
-    int scans();
+    void lookThrough();
     QImage decode(const QSize &full, const QSize &target);
 
     std::unique_ptr<QIODevice> m_source;
     std::unique_ptr<MvImageDevice> m_device;
     std::unique_ptr<QImageReader> m_reader;
     QByteArray m_format;
-    QSize m_canvas;   // of a GIF
-    int m_scans = -1; // not counted yet
+    QSize m_canvas; // of a GIF
+    bool m_isLookedThrough = false;
+    int m_scans = 1;
+    bool m_mayBeCutOff = false;
     QString m_error;
 };

@@ -8,7 +8,8 @@ namespace {
 
 constexpr uchar startOfScan = 0xda;
 constexpr uchar endOfImage = 0xd9;
-constexpr qsizetype mostPngStretches = 10000;
+constexpr qsizetype mostPngStretches = 10'000;
+constexpr int mostPngChunks = 300'000; // of 8 KB usually
 
 /// Goes through the markers of a JPEG, whose compressed data lies between them.
 class JpegMarkers
@@ -20,15 +21,14 @@ public:
         m_device->seek(2); // after the start
     }
 
-    /// The next marker; 0 at the end of the file and at the end of the image. Its content is passed over.
+    /// The next marker; 0 after the end of the image and of the file. Its content is passed over.
     uchar next()
     {
-        if (m_last == startOfScan ? !findMarker() : !expectMarker())
-            return m_last = 0;
-        const uchar marker = take();
-        m_last = marker == endOfImage ? uchar(0) : marker;
-        const bool isAlone = marker == 0x01 || (marker >= 0xd0 && marker <= 0xd8);
-        if (m_last != 0 && !isAlone) {
+        if (m_last == endOfImage || !(m_last == startOfScan ? findMarker() : expectMarker()))
+            return 0;
+        m_last = take();
+        const bool isAlone = m_last == 0x01 || (m_last >= 0xd0 && m_last <= endOfImage);
+        if (!isAlone) {
             const int high = take();
             skip((high << 8 | take()) - 2);
         }
@@ -93,28 +93,32 @@ private:
 
 } // namespace
 
-int MvImageStructure::jpegScans(QIODevice *device, int most)
+MvImageStructure::Jpeg MvImageStructure::jpeg(QIODevice *device, int mostScans)
 {
     JpegMarkers markers(device);
-    int scans = 0;
+    Jpeg jpeg;
     while (const uchar marker = markers.next()) {
-        if (marker == startOfScan && ++scans > most)
+        jpeg.hasEnd = marker == endOfImage;
+        if (marker == startOfScan && ++jpeg.scans > mostScans)
             break;
     }
-    return scans;
+    return jpeg;
 }
 
-QList<MvImageDevice::Stretch> MvImageStructure::pngWithoutTexts(QIODevice *device)
+QList<MvImageDevice::Stretch> MvImageStructure::pngWithoutTexts(QIODevice *device, PngPart part)
 {
     QList<MvImageDevice::Stretch> stretches{{0, 8}};
     const qint64 size = device->size();
-    for (qint64 start = 8; start < size;) {
+    int chunks = 0;
+    for (qint64 start = 8; start < size; ++chunks) {
         device->seek(start);
         const QByteArray head = device->read(8);
         if (head.size() < 8)
             break;
-        const qint64 length = qMin(12 + qint64(qFromBigEndian<quint32>(head.constData())), size - start);
         const QByteArray type = head.mid(4);
+        const bool isRest = part == PngPart::Head && type == "IDAT";
+        const qint64 length =
+            isRest ? size - start : qMin(12 + qint64(qFromBigEndian<quint32>(head.constData())), size - start);
         if (type != "tEXt" && type != "zTXt" && type != "iTXt") {
             MvImageDevice::Stretch &last = stretches.last();
             if (last.start + last.length == start)
@@ -122,7 +126,7 @@ QList<MvImageDevice::Stretch> MvImageStructure::pngWithoutTexts(QIODevice *devic
             else
                 stretches.append({start, length});
         }
-        if (stretches.size() > mostPngStretches)
+        if (stretches.size() > mostPngStretches || chunks > mostPngChunks)
             return {};
         start += length;
     }

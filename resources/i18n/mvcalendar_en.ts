@@ -1496,10 +1496,6 @@
         <translation>The file is too large.</translation>
     </message>
     <message>
-        <source>Die Datei ist beschädigt.</source>
-        <translation>The file is damaged.</translation>
-    </message>
-    <message>
         <source>%1 × %2 Bildpunkte</source>
         <translation>%1 × %2 pixels</translation>
     </message>
@@ -2043,10 +2039,6 @@ The context menu replaces the photo by another one.</translation>
         <translation>“%1” is now the photo of the page.</translation>
     </message>
     <message>
-        <source>„%1“ ist kein Foto, das gelesen werden kann. Möglich sind JPEG, PNG, TIFF, WebP, BMP und GIF.</source>
-        <translation>“%1” is not a photo that can be read. JPEG, PNG, TIFF, WebP, BMP and GIF are possible.</translation>
-    </message>
-    <message>
         <source>Foto entfernen</source>
         <translation>Remove photo</translation>
     </message>
@@ -2101,6 +2093,10 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Größe des Fotos ändern</source>
         <translation>Change the size of the photo</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ kann nicht gelesen werden. %2</source>
+        <translation>The photo “%1” cannot be read. %2</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "MvCalendar/MvCalendarEvent.h"
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventFotoFinder.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvFoto/MvFotoAccess.h"
@@ -373,7 +374,12 @@ void tst_MvCalendarEvent::fotoPaths_data()
     };
     row("own photo", u"FOTOS/own.png"_qs, u"FOTOS/own.png"_qs, true);
     row("own photo by name", u"own.png"_qs, u"FOTOS/own.png"_qs, true);
-    row("own photo before the one beside", u"both.png"_qs, u"FOTOS/both.png"_qs, true);
+    row("the one beside before the own one", u"both.png"_qs, u"LIST/both.png"_qs, true);
+    row("own photo of somebody else", u"/home/x/calendarEventFotos/own.png"_qs,
+        u"/home/x/calendarEventFotos/own.png"_qs, false);
+    row("own photo in the bin", u"FOTOS/binned.png"_qs, u"FOTOS/binned.png"_qs, true);
+    row("somebody else's in the bin", u"/home/x/calendarEventFotos/binned.png"_qs,
+        u"/home/x/calendarEventFotos/binned.png"_qs, false);
     row("beside the list", u"beside.png"_qs, u"LIST/beside.png"_qs, true);
     row("below the list", u"fotos/below.png"_qs, u"LIST/fotos/below.png"_qs, true);
     row("named in full beside the list", u"LIST/beside.png"_qs, u"LIST/beside.png"_qs, true);
@@ -400,13 +406,15 @@ void tst_MvCalendarEvent::fotoPaths()
     for (const QString &file : {fotos + u"/own.png"_qs, fotos + u"/both.png"_qs, folder + u"/both.png"_qs,
                                 folder + u"/beside.png"_qs, folder + u"/fotos/below.png"_qs, outside(u"secret.png"_qs)})
         putImage(file);
+    putImage(fotos + u"/papierkorb/2026-01-01/binned.png"_qs);
     QVERIFY(QFile::link(outside(u"secret.png"_qs), folder + u"/link.png"_qs));
     QVERIFY(QFile::link(m_outside->path(), folder + u"/up"_qs));
 
     QDomDocument document;
     const QDomElement element =
         parsed(document, u"<CalendarEvent><Name>x</Name><Image>%1</Image></CalendarEvent>"_qs.arg(inPlace(text)));
-    const MvCalendarEvent event(MvCalendarEventTexts{element}, QDir(folder));
+    MvCalendarEventFotoFinder fotosOfList{QFileInfo(folder + u"/list.xml"_qs)};
+    const MvCalendarEvent event(MvCalendarEventTexts{element}, fotosOfList);
     const QString expected = path.isEmpty() ? QString() : QDir::cleanPath(inPlace(path));
     QCOMPARE(event.foto().localFilePath(), expected);
     QCOMPARE(event.foto().mayBeOpened(), mayBeOpened);
@@ -421,6 +429,10 @@ void tst_MvCalendarEvent::movedUserFolder()
         document, u"<CalendarEvent><Image>/home/früher/mv/calendarEventFotos/oma.png</Image></CalendarEvent>"_qs));
     QVERIFY(event.isInAppSafeArea(event.imagePath()));
     QVERIFY(!event.image().isNull());
+
+    MvCalendarEventFotoFinder ofBackup{MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml~"_qs)};
+    const QString text = u"/home/früher/mv/calendarEventFotos/oma.png"_qs;
+    QCOMPARE(ofBackup.find(text), event.foto());
 }
 
 void tst_MvCalendarEvent::largeFilesReadAlike()

@@ -436,6 +436,8 @@ void tst_MvCalendarEventRegistry::cleansUp()
     registry.setEvents({active});
     registry.cleanupImageDirectory();
     QCOMPARE(fotos(), QStringList{u"active.png"_qs});
+    QVERIFY(!registry.eventImage(keyAt(QDate(2026, 1, 1), DEFAULT_PROJECT_ID)).isNull()); // back from the bin
+    registry.cleanupImageDirectory();
 
     putImage(folder.filePath(u"theirs.png"_qs)); // another program has just added it
     MvCalendarEvent theirs = entry(u"theirs"_qs, QDate(2000, 1, 1));

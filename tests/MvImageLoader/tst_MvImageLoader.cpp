@@ -159,6 +159,8 @@ void tst_MvImageLoader::refuses_data()
     QTest::newRow("photo in 2,000 passes") << manyScans(2000) << u"64 Durchgängen"_qs;
     QTest::newRow("photo cut off after 300 bytes")
         << written(fields({400, 300}), "jpeg").first(300) << u"nicht vollständig"_qs;
+    QTest::newRow("progressive photo cut off")
+        << written(fields({2000, 1500}), "jpeg", true).first(400) << u"nicht vollständig"_qs;
 }
 
 void tst_MvImageLoader::refuses()
@@ -167,7 +169,8 @@ void tst_MvImageLoader::refuses()
     QFETCH(QString, reason);
     put(u"foto.png"_qs, content);
     const QFileInfo file(path(u"foto.png"_qs));
-    for (int i = 0; i < 6 && reason.contains(u"nicht vollständig"_qs); ++i) // read three times below
+    const bool isHeadCut = qstrcmp(QTest::currentDataTag(), "photo cut off after 300 bytes") == 0;
+    for (int i = 0; i < 6 && isHeadCut; ++i) // read three times below
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"JPEG"_qs));
     QVERIFY(MvImageLoader::instance().load(file).isNull());
     QVERIFY2(MvImageLoader::instance().error(file).contains(reason), qPrintable(MvImageLoader::instance().error(file)));

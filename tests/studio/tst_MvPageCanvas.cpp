@@ -212,6 +212,15 @@ void tst_MvPageCanvas::refusesWhatIsNoPhoto()
     QVERIFY(said.value(0).value(0).toString().contains(u"brief.jpg"));
     QVERIFY(!open.photo().isValid());
     QCOMPARE(open.steps(), 0);
+
+    open.setPhoto();
+    QVERIFY(file.open(QIODevice::WriteOnly)); // 34 bytes that claim 16,383 pixels square
+    file.write(QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100"));
+    file.close();
+    open.canvas->setPhoto(file.fileName());
+    QVERIFY(said.last().value(0).toString().contains(u"viel zu klein"));
+    QVERIFY(open.photo().isValid() && open.photo().path() != file.fileName());
+    QCOMPARE(open.steps(), 1);
 }
 
 void tst_MvPageCanvas::edgeOfThePhotoIsPulled()

@@ -2,6 +2,8 @@
 
 #include "pages/MvPageItem.h"
 
+#include "MvFoto/MvFotoAccess.h"
+#include "MvFoto/MvFotoLoader.h"
 #include "MvImageLoader/MvImageLoader.h"
 #include "MvProject/MvProject.h"
 
@@ -18,6 +20,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int decodedQuality = 3; // to see that a photo can be read; a page decodes it anew at its size
 
 /// Beside a photo, the columns of a month need room for the names of holidays.
 double usualShare(MvPhotoFrame::Placement placement)
@@ -71,31 +75,35 @@ void MvPagePhoto::choose()
     dialog->open();
 }
 
-bool MvPagePhoto::set(MvProject *project, int page, const QString &path)
+void MvPagePhoto::set(MvProject *project, int page, const QString &path, QObject *receiver,
+                      const std::function<void(const QString &error)> &tell)
 {
-    if (MvImageLoader::format(QFileInfo(path)).isEmpty())
-        return false;
-    const MvPhotoFrame added = frameFor(path, project->document().format());
-    change(project, page, tr("Foto einfügen"), [&](MvPhotoFrame &frame) {
-        if (frame.isValid()) {
-            frame.setPath(path);
-            frame.setFocus({0.5, 0.5});
-        } else {
-            frame = added;
+    const QFileInfo file(path);
+    const auto take = [project, page, path, file, tell](const QImage &image) {
+        if (image.isNull()) {
+            tell(tr("Das Foto „%1“ kann nicht gelesen werden. %2")
+                     .arg(file.fileName(), MvImageLoader::instance().error(file)));
+            return;
         }
-    });
-    return true;
+        const MvPhotoFrame added = frameFor(path, project->document().format());
+        change(project, page, tr("Foto einfügen"), [&](MvPhotoFrame &frame) {
+            if (frame.isValid()) {
+                frame.setPath(path);
+                frame.setFocus({0.5, 0.5});
+            } else {
+                frame = added;
+            }
+        });
+        tell({});
+    };
+    MvFotoLoader::midRes(MvFoto(file), decodedQuality, MvFotoAccess::NoCaching, receiver, take);
 }
 
 void MvPagePhoto::set(const QString &path)
 {
-    const QString name = QFileInfo(path).fileName();
-    if (set(m_project, m_item->page(), path))
-        Q_EMIT message(tr("„%1“ ist jetzt das Foto der Seite.").arg(name));
-    else
-        Q_EMIT message(
-            tr("„%1“ ist kein Foto, das gelesen werden kann. Möglich sind JPEG, PNG, TIFF, WebP, BMP und GIF.")
-                .arg(name));
+    set(m_project, m_item->page(), path, this, [this, name = QFileInfo(path).fileName()](const QString &error) {
+        Q_EMIT message(error.isEmpty() ? tr("„%1“ ist jetzt das Foto der Seite.").arg(name) : error);
+    });
 }
 
 void MvPagePhoto::remove()

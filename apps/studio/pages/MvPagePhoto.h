@@ -26,8 +26,10 @@ public:
     /// Makes a file the photo; where there is one already, it takes its place. Files that are no photos change nothing
     /// and say so.
     void set(const QString &path);
-    /// The same for any page; false when the file is no photo.
-    static bool set(MvProject *project, int page, const QString &path);
+    /// The same for any page. Tells how it went, at once for a small photo, after decoding in the background for a
+    /// large one, unless the receiver is gone by then: an empty text, or why the page keeps what it has.
+    static void set(MvProject *project, int page, const QString &path, QObject *receiver,
+                    const std::function<void(const QString &error)> &tell);
     void remove();
     /// The actions for the page's photo, for menus.
     void addActions(QMenu *menu);

@@ -8,6 +8,7 @@
 #include "pages/MvScreenPhotos.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvDiskAccessRequest.h"
 #include "MvFoto/MvFotoStock.h"
 #include "MvProject/MvProject.h"
 
@@ -233,6 +234,9 @@ void MvPageStrip::dropEvent(QDropEvent *event)
     const QString path = MvPagePhoto::photoIn(event->mimeData());
     if (page < 0 || path.isEmpty())
         return;
-    MvPagePhoto::set(m_project, page, path);
+    MvPagePhoto::set(m_project, page, path, this, [this](const QString &error) {
+        if (!error.isEmpty())
+            MvDiskAccessRequest::instance().takeFotosFailed({error}, this);
+    });
     event->acceptProposedAction();
 }

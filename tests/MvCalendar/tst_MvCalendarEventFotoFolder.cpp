@@ -1,0 +1,213 @@
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventFotoFolder.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvUndoController.h"
+
+#include <QTemporaryDir>
+#include <QThreadPool>
+
+#include <optional>
+
+/// Photos on their way into the photo folder, into its bin and back.
+class tst_MvCalendarEventFotoFolder : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { MvUndoController::instance().clear(); }
+    void copiesAgainWhatHasChanged();
+    void keepsThePathOfWhatCannotBeCopied();
+    void namesInTheBinAreTaken();
+    void sweeps();
+    void sweepsInNoDoubt_data();
+    void sweepsInNoDoubt();
+
+private:
+    QString path(const QString &name) const { return m_data->filePath(name); }
+    QString foto(const QString &name) const { return path(u"calendarEventFotos/"_qs + name); }
+    static QStringList fotos() { return MvCalendarEvent::imageDirectory().entryList(QDir::Files, QDir::Name); }
+    void put(const QString &name, const QByteArray &content) const;
+    /// A photo of two days ago.
+    static void putFoto(const QString &path, const QColor &color = Qt::red);
+    static MvCalendarEvent entry(const QString &name, const QString &foto);
+
+    std::unique_ptr<QTemporaryDir> m_data;
+};
+
+void tst_MvCalendarEventFotoFolder::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    m_data = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_data->isValid());
+    MvDirectoryConfig::instance().setProgramDataDir(m_data->path());
+}
+
+void tst_MvCalendarEventFotoFolder::put(const QString &name, const QByteArray &content) const
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+void tst_MvCalendarEventFotoFolder::putFoto(const QString &path, const QColor &color)
+{
+    QVERIFY(QFileInfo(path).dir().mkpath(u"."_qs));
+    QImage image(16, 12, QImage::Format_RGB32);
+    image.fill(color);
+    QVERIFY(image.save(path));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime));
+}
+
+MvCalendarEvent tst_MvCalendarEventFotoFolder::entry(const QString &name, const QString &foto)
+{
+    MvCalendarEvent event(name, QDate(2000, 1, 1).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
+    const MvFoto there{QFileInfo(foto)};
+    return event.takeFoto(there) ? event : MvCalendarEvent();
+}
+
+/// As read from a list beside the photo.
+static MvCalendarEvent withFotoBeside(const QString &path)
+{
+    const QFileInfo list(QFileInfo(path).dir(), u"list.xml"_qs);
+    QFile file(list.filePath());
+    if (file.open(QIODevice::WriteOnly))
+        file.write("<CalendarEvents><CalendarEvent><Name>Oma</Name><DateTime>1941-03-09T00:00:00</DateTime><Image>" +
+                   QFileInfo(path).fileName().toUtf8() + "</Image></CalendarEvent></CalendarEvents>");
+    file.close();
+    return MvCalendarEventFile::read(list).events.value(0);
+}
+
+void tst_MvCalendarEventFotoFolder::copiesAgainWhatHasChanged()
+{
+    const QTemporaryDir elsewhere;
+    const QString source = elsewhere.filePath(u"oma.png"_qs);
+    putFoto(source);
+    const MvCalendarEvent event = withFotoBeside(source);
+    MvCalendarEventFotoFolder folder;
+    const QString copy = folder.withOwnCopies({event}).first().foto().localFilePath();
+    QCOMPARE(copy, foto(u"oma.png"_qs));
+    QCOMPARE(folder.withOwnCopies({event}).first().foto().localFilePath(), copy); // once
+
+    putFoto(source, Qt::blue);
+    QFile touched(source);
+    QVERIFY(touched.open(QIODevice::ReadWrite));
+    QVERIFY(touched.setFileTime(QDateTime::currentDateTime(), QFileDevice::FileModificationTime));
+    const MvCalendarEvent changed = folder.withOwnCopies({event}).first();
+    QCOMPARE(QImage(changed.foto().localFilePath()).pixelColor(8, 6), QColor(Qt::blue));
+
+    QVERIFY(QFile::remove(changed.foto().localFilePath()));
+    QVERIFY(folder.withOwnCopies({event}).first().imagePath().isFile());
+}
+
+void tst_MvCalendarEventFotoFolder::keepsThePathOfWhatCannotBeCopied()
+{
+    const QTemporaryDir elsewhere;
+    const QString source = elsewhere.filePath(u"huge.webp"_qs);
+    QFile file(source);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100"));
+    file.close();
+    const MvCalendarEvent event = withFotoBeside(source);
+    MvCalendarEventRegistry registry;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"huge\\.webp“ kann nicht gelesen werden"_qs)); // once
+    registry.setEvents({event});
+    registry.setEvents({event, MvCalendarEvent(event)});
+    QCOMPARE(registry.activeEventList().first().foto().localFilePath(), source);
+    QCOMPARE(fotos(), QStringList());
+}
+
+void tst_MvCalendarEventFotoFolder::namesInTheBinAreTaken()
+{
+    const QTemporaryDir elsewhere;
+    putFoto(elsewhere.filePath(u"oma.png"_qs), Qt::blue);
+    putFoto(foto(u"oma.png"_qs));
+    MvCalendarEventRegistry registry;
+    const MvCalendarEvent oma = entry(u"Oma"_qs, foto(u"oma.png"_qs));
+    registry.setEvents({});
+    registry.cleanupImageDirectory();
+    QCOMPARE(fotos(), QStringList());
+    const MvCalendarEvent other = entry(u"Another"_qs, elsewhere.filePath(u"oma.png"_qs));
+    QCOMPARE(other.imagePath().fileName(), u"oma_2.png"_qs);
+    registry.setEvents({oma, other}); // as by undo
+    QCOMPARE(fotos(), (QStringList{u"oma.png"_qs, u"oma_2.png"_qs}));
+    QCOMPARE(QImage(foto(u"oma.png"_qs)).pixelColor(8, 6), QColor(Qt::red));
+}
+
+void tst_MvCalendarEventFotoFolder::sweeps()
+{
+    for (const char *name : {"active", "inactive", "backup", "aside & <1>", "cut-off", "wide", "orphan"})
+        putFoto(foto(QString::fromLatin1(name) + u".png"_qs));
+    for (const char *name : {"2020-01-01/gone", "2020-01-01/needed", "2999-01-01/later"})
+        putFoto(foto(u"papierkorb/"_qs + QString::fromLatin1(name) + u".png"_qs));
+    MvCalendarEventRegistry registry;
+    registry.setEvents({entry(u"A"_qs, foto(u"inactive.png"_qs))});
+    registry.setActiveModelId(MvProjectIdentifier(u"mine"_qs, false), true);
+    registry.setEvents({entry(u"B"_qs, foto(u"active.png"_qs))});
+    QImage(16, 12, QImage::Format_RGB32).save(foto(u"young.png"_qs));
+    const QByteArray folder = "<CalendarEvents><CalendarEvent><Image>/home/x/calendarEventFotos/";
+    put(u"calendarEvents.xml~"_qs, folder + "backup.png</Image></CalendarEvent></CalendarEvents>");
+    put(u"calendarEvents.xml.2026-01-01~"_qs, folder + "needed.png</Image></CalendarEvent></CalendarEvents>");
+    put(u"calendarEvents.unlesbar-2026-01-01.xml"_qs,
+        "\xff" + folder + "aside &amp; &lt;1&gt;.png</Im<<&" + folder + "cut-o");
+    const QString wide = u"\ufeff<CalendarEvents><Image>wide.png</Image></CalendarEvents>"_qs;
+    put(u"calendarEvents.unlesbar-2026-01-02.xml"_qs,
+        QByteArray(reinterpret_cast<const char *>(wide.utf16()), 2 * wide.size()));
+
+    registry.sweepFotos();
+    QTRY_VERIFY(!fotos().contains(u"orphan.png"_qs));
+    QCOMPARE(fotos(), (QStringList{u"active.png"_qs, u"aside & <1>.png"_qs, u"backup.png"_qs, u"cut-off.png"_qs,
+                                   u"inactive.png"_qs, u"needed.png"_qs, u"wide.png"_qs, u"young.png"_qs}));
+    QVERIFY(!QFileInfo::exists(foto(u"papierkorb/2020-01-01"_qs)));
+    QVERIFY(QFileInfo::exists(foto(u"papierkorb/2999-01-01/later.png"_qs)));
+    QVERIFY(QFileInfo::exists(foto(u"papierkorb/%1/orphan.png"_qs.arg(QDate::currentDate().toString(Qt::ISODate)))));
+}
+
+void tst_MvCalendarEventFotoFolder::sweepsInNoDoubt_data()
+{
+    QTest::addColumn<QString>("doubt");
+    for (const char *doubt : {"none", "undo", "other program", "missing", "unreadable", "partly readable",
+                              "strange list", "changed meanwhile"})
+        QTest::newRow(doubt) << QString::fromLatin1(doubt);
+}
+
+void tst_MvCalendarEventFotoFolder::sweepsInNoDoubt()
+{
+    QFETCH(QString, doubt);
+    putFoto(foto(u"orphan.png"_qs));
+    if (doubt == u"unreadable"_qs)
+        put(u"calendarEvents.xml"_qs, "<CalendarEvents><CalendarEvent>");
+    else if (doubt == u"partly readable"_qs)
+        put(u"calendarEvents.xml"_qs, "<CalendarEvents><CalendarEvent><Name>A</Name></CalendarEvent></CalendarEvents>");
+    else if (doubt != u"missing"_qs)
+        put(u"calendarEvents.xml"_qs, "<CalendarEvents/>");
+    if (doubt == u"unreadable"_qs)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"calendarEvents\\.xml"_qs));
+    if (doubt == u"strange list"_qs) // with letters as numbers
+        put(u"calendarEvents.xml~"_qs, "<Image>&#111;rphan.png</Image>");
+    auto &registry = MvCalendarEventRegistry::instance();
+    registry.loadFrom(registry.calendarEventsDir(), true);
+    std::optional<MvCalendarEventRegistry> other;
+    if (doubt == u"other program"_qs)
+        other.emplace();
+    const auto undoable = [] {
+        const MvCalendarEvent event(u"A"_qs, QDate(2000, 1, 1).startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
+        MvUndoController::instance().push(new MvUndoCommandCalendarEvent(MvCalendarEvent(), event, nullptr));
+    };
+    if (doubt == u"undo"_qs)
+        undoable();
+    registry.sweepFotos();
+    if (doubt == u"changed meanwhile"_qs)
+        undoable();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    QCOMPARE(fotos().isEmpty(), doubt == u"none"_qs);
+}
+
+MV_TEST_MAIN(tst_MvCalendarEventFotoFolder)
+#include "tst_MvCalendarEventFotoFolder.moc"
