@@ -52,6 +52,8 @@ void MvDateEdit::showDate(const QDate &date)
     setDate(date); // which writes the text anew
     m_section.reset();
     shieldBase();
+    if (hasFocus())
+        selectSection(std::max(0, currentSectionIndex()));
     setError({});
 }
 
@@ -79,7 +81,7 @@ bool MvDateEdit::takeText()
         m_section.reset();
         shieldBase();
         if (hasFocus())
-            selectSectionAtCursor();
+            selectSection(std::max(0, currentSectionIndex()));
     }
     m_section.reset();
     shieldBase();
@@ -175,9 +177,13 @@ bool MvDateEdit::event(QEvent *event)
         onTextEdited();
     noteSection();
     shieldBase();
+    if (event->type() == QEvent::InputMethod)
+        lineEdit()->blockSignals(true); // the line tells the new cursor before the new text
     const bool isUsed = QDateTimeEdit::event(event);
     if (lineEdit()->text() != m_text)
         onTextEdited();
+    else
+        shieldBase();
     return isUsed;
 }
 

@@ -32,25 +32,20 @@ void tst_MvTypedDate::dates_data()
     };
     const auto everywhere = [&row](const char *text, const char *date) { row(text, date, date, date); };
     row("05/03/1962", "1962-03-05", "1962-03-05", "1962-05-03");
-    row("5-3-62", "1962-03-05", "1962-03-05", "1962-05-03");
     row("05031962", "1962-03-05", "1962-03-05", "1962-05-03");
     row("12/24/1950", "", "", "1950-12-24");
-    row("12/24", "", "", "2027-12-24");
     everywhere("05.03.1962", "1962-03-05");
     everywhere("24/12/1950", "1950-12-24");
     everywhere("12.24.1950", "");
     everywhere("20121224", "2012-12-24");
     everywhere("December 24th, 1950", "1950-12-24");
     everywhere("So., den 24. Dez. '50", "1950-12-24");
-    everywhere("1950-Dec-24", "1950-12-24");
     everywhere("1. Jänner 2027", "2027-01-01");
-    everywhere("2. MAERZ 1962", "1962-03-02");
     everywhere("1950-12-24T00:00:00+01:00", "1950-12-24");
     everywhere("\u200e24\u2013\u0661\u0662\u2013\uff11\uff19\uff15\uff10",
                "1950-12-24");             // other digits, a mark of direction
     everywhere("24.12.28", "2028-12-24"); // the latest year of two digits
     everywhere("24.12.29", "1929-12-24");
-    everywhere("1.1.00", "2000-01-01");
     everywhere("01.01.1583", "1583-01-01");
     everywhere("21.11.2146", "2146-11-21");
 }
