@@ -1,7 +1,6 @@
 #include "MvCalendar/MvCalendarEventTextDelegate.h"
 
 #include "MvCalendar/MvCalendarEventModel.h"
-#include "MvCore/MvStringHelper.h"
 #include "MvModelBase/MvPrintableText.h"
 
 #include <QDate>
@@ -22,8 +21,7 @@ QString MvCalendarEventTextDelegate::displayText(const QVariant &value, const QL
 {
     if (value.userType() == QMetaType::QDate)
         return MvCalendarEvent::dateText(value.toDate());
-    return MvStringHelper::beginning(MvPrintableText::onOneLine(QStyledItemDelegate::displayText(value, locale)),
-                                     MvStringHelper::longestName);
+    return MvPrintableText::inShort(QStyledItemDelegate::displayText(value, locale));
 }
 
 /// Asked for every row of the list: no text is laid out.

@@ -11,6 +11,7 @@
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvUndoController.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
+#include "MvModelBase/MvPrintableText.h"
 
 #include <QFontMetrics>
 #include <QGraphicsScene>
@@ -47,8 +48,8 @@ bool isSame(const QRectF &a, const QRectF &b)
 /// The name as an action's text shows it: in one line, not too long, and its "&" is a letter.
 QString forMenu(const QString &name, const QFontMetrics &metrics)
 {
-    QString text =
-        metrics.elidedText(name.simplified(), Qt::ElideRight, longestNameInMenu * metrics.averageCharWidth());
+    QString text = metrics.elidedText(MvPrintableText::inShort(name), Qt::ElideRight,
+                                      longestNameInMenu * metrics.averageCharWidth());
     return text.replace(u'&', u"&&"_s);
 }
 

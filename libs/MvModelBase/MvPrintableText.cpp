@@ -55,6 +55,12 @@ QString MvPrintableText::onOneLine(const QString &text)
     return MvStringHelper::isVisible(line) ? line : QString();
 }
 
+QString MvPrintableText::inShort(const QString &text, qsizetype length)
+{
+    const QString line = onOneLine(text);
+    return line.size() <= length ? line : MvStringHelper::beginning(line, length - 1) + u'…';
+}
+
 QStringList MvPrintableText::onOneLineEach(const QStringList &texts)
 {
     QStringList lines;

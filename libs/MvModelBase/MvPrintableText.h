@@ -13,6 +13,9 @@ public:
     /// do not break stay. Halves of surrogate pairs become U+FFFD, of accents and format characters in a row the first
     /// 30 are kept. Empty when nothing of it would be seen.
     static QString onOneLine(const QString &text);
+    /// The text on one line for a list, a menu or a message: what is longer than so many code units ends in an
+    /// ellipsis.
+    static QString inShort(const QString &text, qsizetype length = 500);
     /// Each text on one line; those of which nothing would be seen are left out.
     static QStringList onOneLineEach(const QStringList &texts);
 

@@ -106,7 +106,7 @@ void tst_AnyString::lists()
     const auto shown = [&delegate](const QString &name) { return delegate.displayText(name, QLocale()); };
     QCOMPARE(shown(u" A\n\u0001B "_s), u"A B"_s);
     QCOMPARE(shown(QString(100'000, u'x')).size(), 500);
-    QVERIFY(shown(u'a' + QString(100'000, QChar(0x0301))).size() < 100); // laying them all out takes a quarter minute
+    QVERIFY(shown(u'a' + QString(100'000, QChar(0x0301))).size() < 100); // to lay them all out takes long
 }
 
 void tst_AnyString::shortens_data()

@@ -1,6 +1,7 @@
 #include "window/MvLeapDayHint.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvModelBase/MvPrintableText.h"
 #include "MvProject/MvProject.h"
 
 #include <QStringList>
@@ -11,6 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostNames = 3;
+constexpr qsizetype longestName = 60;
 
 bool hasLeapDay(const MvDateRange &range)
 {
@@ -42,7 +44,7 @@ void MvLeapDayHint::look()
             continue;
         m_known.insert(event.uuid());
         if (!before.contains(event.uuid()))
-            names.append(event.description());
+            names.append(MvPrintableText::inShort(event.description(), longestName));
     }
     if (names.isEmpty() || sender() == nullptr || hasLeapDay(m_project->document().range()))
         return;
