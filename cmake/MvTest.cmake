@@ -32,8 +32,8 @@ function(mv_add_nightly name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 7200)
     endif()
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment};MV_NIGHTLY=1" TIMEOUT ${ARG_TIMEOUT}
-        LABELS nightly)
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS nightly
+        ENVIRONMENT "${environment};MV_NIGHTLY=1;QTEST_FUNCTION_TIMEOUT=7200000")
 endfunction()
 
 # mv_add_fuzzer(<name> LINK <target>...) a fuzz target <name>.cpp (LLVMFuzzerTestOneInput) with its seeds in seeds/<name>.

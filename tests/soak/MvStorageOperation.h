@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDir>
-#include <QList>
 #include <QString>
 
 #include <functional>
@@ -10,14 +9,14 @@
 /// folder, which stands for the disk; photos that are chosen lie outside.
 struct MvStorageOperation
 {
+    enum class Application { Core, Gui, Widgets };
+
     const char *name;
-    bool needsFonts; // a QGuiApplication
+    Application application; // what the process that stores needs
     /// Stores a state; what a person is told when that fails, else nothing.
     std::function<QString(const QDir &disk, int state)> store;
     /// The state that is found by a program that starts; 0 when there is none, -1 for anything that no store() made.
     std::function<int(const QDir &disk)> stored;
     /// What happens before, while the disk works.
     std::function<void(const QDir &disk, int state)> prepare = {};
-
-    static const QList<MvStorageOperation> &all();
 };

@@ -1,297 +1,373 @@
-#include "MvFaultInjector.h"
-#include "MvStorageOperation.h"
-#include "MvTestHome.h"
+#include "MvStorageTest.h"
 
-#include "MvCore/MvDirectoryConfig.h"
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvExportTarget.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectAutosave.h"
+#include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectRecovery.h"
+#include "MvProjectFixture.h"
 
-#include <QGuiApplication>
-#include <QProcess>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
-#include <QtTest>
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QPainter>
 
-#include <cerrno>
-#include <memory>
-#include <optional>
-#include <sys/mount.h>
-#include <sys/wait.h>
+#include <algorithm>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
-// Whatever the system answers when the program writes, and wherever it dies: afterwards the old state or the new one is
-// on disk, as a whole; it is the new one if the program did not say that it failed; and the next writing succeeds.
-// Every attempt is made by a process of its own. The whole of it runs with MV_NIGHTLY set.
-
 namespace {
 
-const bool isNightly = qEnvironmentVariableIsSet("MV_NIGHTLY");
-constexpr int states = 40;
-constexpr int failed = 99; // exit codes beyond the states
-
-int after(int state)
+QString nameOf(int state)
 {
-    return state % states + 1;
+    return u"Stand %1"_s.arg(state);
 }
 
-void discardMessage(QtMsgType, const QMessageLogContext &, const QString &)
-{}
-
-/// Runs the function in a process of its own, with the folder as its disk. Its result, or `failed` when it crashed.
-/// What it tells comes back in `told`.
-int inProcess(const MvStorageOperation &operation, const QDir &disk, const std::function<int(QString *)> &function,
-              QString *told = nullptr)
+int stateOf(const QString &name)
 {
-    int ends[2] = {-1, -1};
-    if (::pipe(ends) != 0)
-        return failed;
-    const pid_t child = ::fork();
-    if (child == 0) {
-        qInstallMessageHandler(discardMessage);
-        qputenv("TMPDIR", QFile::encodeName(disk.filePath(u"tmp"_s)));
-        disk.mkpath(u"tmp"_s);
-        MvDirectoryConfig::instance().setProgramDataDir(disk.filePath(u"data"_s));
-        static int argc = 1;
-        static char name[] = "store";
-        static char *argv[] = {name, nullptr};
-        static const std::unique_ptr<QCoreApplication> application(
-            operation.needsFonts ? new QGuiApplication(argc, argv) : new QCoreApplication(argc, argv));
-        ::alarm(120);
-        QString text;
-        const int result = function(&text);
-        const QByteArray bytes = text.toUtf8();
-        ::_exit(::write(ends[1], bytes.constData(), size_t(bytes.size())) < 0 ? failed : result);
-    }
-    ::close(ends[1]);
-    QFile pipe;
-    if (!pipe.open(ends[0], QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        return failed;
-    const QByteArray bytes = pipe.readAll();
-    int status = 0;
-    if (::waitpid(child, &status, 0) != child)
-        return failed;
-    if (told)
-        *told = QString::fromUtf8(bytes);
-    if (WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
+    return name.startsWith(u"Stand "_s) ? name.mid(6).toInt() : -1;
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// ---- entries
+
+constexpr int companions = 20; // further entries, to make the file larger
+
+MvCalendarEventList entries(int state)
+{
+    MvCalendarEventList events;
+    for (int i = 0; i <= companions; ++i)
+        events.append(MvCalendarEvent(i == 0 ? nameOf(state) : u"Gast %1/%2"_s.arg(i).arg(state),
+                                      QDate(1960 + i, 5, 17).startOfDay(), true, MvFoto(), QUuid::createUuid(), {}));
+    return events;
+}
+
+/// The state of a file of entries whose other entries are there and of the same state.
+int stateOfEntries(const QString &path)
+{
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(path));
+    if (content.isMissing)
         return 0;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : failed;
+    if (!content.isRead() || !content.isComplete || content.events.size() != companions + 1)
+        return -1;
+    const int state = stateOf(content.events.first().description());
+    const QString suffix = u'/' + QString::number(state);
+    const bool areOfOneState =
+        std::all_of(content.events.begin() + 1, content.events.end(),
+                    [&suffix](const MvCalendarEvent &event) { return event.description().endsWith(suffix); });
+    return areOfOneState ? state : -1;
 }
 
-struct Attempt
+QString ownList(const QDir &disk)
 {
-    int before = 0; // state of the disk
-    int found = 0;  // afterwards
-    int calls = 0;  // that could fail
-    bool isOk = false;
-    QByteArray hit; // the call
-    QString told;
-    QString fault; // what is wrong with all that; empty when nothing is
+    return disk.filePath(u"data/calendarEvents.xml"_s);
+}
 
-    QString describe(const MvStorageOperation &operation) const
-    {
-        return u"%1, at %2: %3 (before %4, found %5, told: %6)"_s
-            .arg(QLatin1StringView(operation.name), QString::fromUtf8(hit), fault)
-            .arg(before)
-            .arg(found)
-            .arg(told.isEmpty() ? u"nothing"_s : told);
+/// What the person is told about saving.
+QString toldProblem()
+{
+    const MvCalendarEventStore::Problem problem = MvCalendarEventRegistry::instance().userFile().problem();
+    using Problem = MvCalendarEventStore::Problem;
+    return problem.kind == Problem::NotSaved || problem.kind == Problem::Busy ? problem.text : QString();
+}
+
+QString storeEntries(const QDir &, int state)
+{
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.setEvents(entries(state));
+    return toldProblem();
+}
+
+QString exportList(const QDir &disk, int state)
+{
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.beginChanges(); // the list in memory alone
+    registry.setEvents(entries(state));
+    registry.saveAs(QFileInfo(disk.filePath(u"Liste.xml"_s)));
+    return registry.lastSaveError();
+}
+
+const QByteArray damaged = "<CalendarEvents><CalendarEvent><Name>Oma</Name>";
+
+void damageList(const QDir &disk, int)
+{
+    QFile file(ownList(disk));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(damaged);
+    for (const QFileInfo &aside : QDir(disk.filePath(u"data"_s)).entryInfoList({u"*.unlesbar-*"_s}))
+        QFile::remove(aside.filePath());
+}
+
+/// The damaged list lies where it lay, or aside and the new one in its place.
+int stateAfterDamage(const QDir &disk)
+{
+    const int state = contentOf(ownList(disk)) == damaged ? 0 : stateOfEntries(ownList(disk));
+    const QFileInfoList asides = QDir(disk.filePath(u"data"_s)).entryInfoList({u"*.unlesbar-*"_s});
+    const bool isKept = state == 0 || std::any_of(asides.begin(), asides.end(), [](const QFileInfo &aside) {
+                            return contentOf(aside.filePath()) == damaged;
+                        });
+    return isKept ? state : -1;
+}
+
+/// A photo that somebody has chosen: it is copied, then the entry saved.
+QString storePhoto(const QDir &disk, int state)
+{
+    const QString source = QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state);
+    MvCalendarEvent entry(nameOf(state), QDate(1960, 5, 17).startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
+    QString error;
+    if (!entry.takeFoto(MvFoto(QFileInfo(source)), &error))
+        return error.isEmpty() ? u"the photo was not taken, without a word"_s : error;
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.setEvents({entry});
+    return toldProblem();
+}
+
+void makePhoto(const QDir &disk, int state)
+{
+    QImage image(100 + state, 80, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.save(QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state));
+}
+
+int stateOfPhoto(const QDir &disk)
+{
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(ownList(disk)));
+    if (content.isMissing)
+        return 0;
+    if (!content.isComplete || content.events.size() != 1)
+        return -1;
+    const int state = stateOf(content.events.first().description());
+    return QImage(content.events.first().imagePath().filePath()).width() == 100 + state ? state : -1;
+}
+
+// ---- colours, projects
+
+QString storeColors(const QDir &, int state)
+{
+    MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    const MvCalendariumColorSchemaList before = registry.allSchemata();
+    MvCalendariumColorSchema schema = before.last(); // a shipped one
+    for (const MvCalendariumColorSchema &known : before) {
+        if (registry.isUserSchema(known))
+            registry.remove(known);
     }
-};
+    MvBorderConfig grid = MvCalendariumColorSchema::createDefaultBorder();
+    grid.setColor(QColor(state, 1, 2));
+    grid.setIsEnabled(true);
+    schema.setGridConfig(grid);
+    registry.recordSchemaUniquely(schema);
+    return registry.saveSystemUserSchemata() ? QString() : u"not saved"_s;
+}
 
-/// Stores a state without trouble, then the next one with the plan's.
-Attempt attempt(const MvStorageOperation &operation, const QDir &disk, int state, const MvFaultInjector::Plan &plan,
-                const std::function<void()> &troubleBegins = {}, const std::function<void()> &troubleEnds = {})
+int stateOfColors(const QDir &)
 {
-    Attempt result;
-    QString told;
-    const QByteArray folder = QFile::encodeName(disk.canonicalPath());
-    const int code = inProcess(
-        operation, disk,
-        [&](QString *text) {
-            const auto prepare = [&](int next) {
-                if (operation.prepare)
-                    operation.prepare(disk, next);
-            };
-            prepare(state);
-            if (*text = operation.store(disk, state); !text->isEmpty())
-                return failed - 1;
-            prepare(after(state));
-            const int before = operation.stored(disk);
-            if (troubleBegins)
-                troubleBegins();
-            MvFaultInjector::arm(plan, folder);
-            const QString error = operation.store(disk, after(state));
-            MvFaultInjector::disarm();
-            if (troubleEnds)
-                troubleEnds();
-            *text = u"%1\n%2\n%3\n%4"_s.arg(before)
-                        .arg(MvFaultInjector::calls())
-                        .arg(QString::fromUtf8(MvFaultInjector::hit()), error);
-            return error.isEmpty() ? 0 : 1;
-        },
-        &told);
-    const QStringList parts = told.split(u'\n');
-    const bool wasKilled = code == 0 && told.isEmpty();
-    result.before = wasKilled ? state : parts.value(0).toInt();
-    result.calls = parts.value(1).toInt();
-    result.hit = wasKilled ? "kill " + QByteArray::number(plan.call) : parts.value(2).toUtf8();
-    result.told = code >= failed - 1 ? told : parts.mid(3).join(u' ');
-    result.isOk = code == 0 && !wasKilled;
-    result.found = inProcess(operation, disk, [&](QString *) {
-        const int found = operation.stored(disk);
-        return found < 0 ? failed : found;
+    if (!MvCalendariumColorSchemaRegistry::systemUserSchemaFile().exists())
+        return 0;
+    const auto registry = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    registry->read(MvCalendariumColorSchemaRegistry::systemUserSchemaFile(),
+                   MvCalendariumColorSchemaVisibility(SCHEMA_VISIBILITY_OFFERED));
+    const MvCalendariumColorSchemaList found = registry->allSchemata();
+    return found.size() == 1 ? found.first().gridConfig().color().red() : -1;
+}
+
+MvCalendarDocument document(int state)
+{
+    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 12);
+    document.setTitle(nameOf(state));
+    return document;
+}
+
+QString projectFile(const QDir &disk)
+{
+    return disk.filePath(u"Kalender.mvcalendar"_s);
+}
+
+QString storeProject(const QDir &disk, int state)
+{
+    MvProject project;
+    project.newProject(document(state));
+    QString error;
+    return project.saveAs(QFileInfo(projectFile(disk)), &error) ? QString() : error;
+}
+
+int stateOfProject(const QDir &disk)
+{
+    if (!QFileInfo::exists(projectFile(disk)))
+        return 0;
+    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(projectFile(disk)));
+    return content.isRead() && content.notes.isEmpty() ? stateOf(content.document.title()) : -1;
+}
+
+/// The program that stores goes without saving the project, as if it had been killed.
+QString autosave(const QDir &, int state)
+{
+    static MvProject project;
+    static MvProjectAutosave *autosave = new MvProjectAutosave(&project);
+    QString error;
+    QEventLoop loop;
+    QObject::connect(autosave, &MvProjectAutosave::written, &loop, &QEventLoop::quit);
+    QObject::connect(autosave, &MvProjectAutosave::failed, &loop, [&](const QString &text) {
+        error = text;
+        loop.quit();
     });
-    const bool isOld = result.found == result.before || (wasKilled && operation.prepare && result.found == 0);
-    if (code > 1)
-        result.fault = code == failed - 1 ? u"storing failed without any trouble"_s : u"crash"_s;
-    else if (result.found != after(state) && !isOld)
-        result.fault = u"neither the old state nor the new one"_s;
-    else if (result.isOk && result.found != after(state))
-        result.fault = u"nobody was told"_s;
-    return result;
+    autosave->setDelay(0);
+    project.change(document(state), u"Titel ändern"_s);
+    loop.exec();
+    return error;
+}
+
+int stateOfAutosave(const QDir &)
+{
+    const QFileInfoList files = QDir(MvProjectAutosave::folder()).entryInfoList({u"*.mvcalendar"_s}, QDir::Files);
+    int state = 0;
+    for (const QFileInfo &file : files) {
+        const MvProjectFile::Content content = MvProjectFile::read(file);
+        const int found = content.isRead() ? stateOf(content.document.title()) : -1;
+        state = state < 0 || found < 0 ? -1 : std::max(state, found);
+    }
+    return state;
+}
+
+void discardAutosaves(const QDir &, int)
+{
+    for (const MvProjectRecovery::Entry &entry : MvProjectRecovery::found())
+        MvProjectRecovery::discard(entry);
+}
+
+void leaveRecovery(const QDir &disk, int state)
+{
+    discardAutosaves(disk, state);
+    const QDir folder(MvProjectAutosave::folder());
+    MvSafeFileWriter::write(QFileInfo(folder.filePath(u"found-%1.mvcalendar"_s.arg(state))),
+                            MvProjectFile::toBytes(document(state), folder, projectFile(disk)),
+                            MvSafeFileWriter::Backups::None);
+}
+
+QString recover(const QDir &, int)
+{
+    const QList<MvProjectRecovery::Entry> found = MvProjectRecovery::found();
+    if (found.isEmpty())
+        return u"nothing found"_s;
+    auto *project = new MvProject; // stays: a program that ends gives up what it has not saved
+    new MvProjectAutosave(project);
+    QString error;
+    return MvProjectRecovery::open(found.first(), *project, &error) && project->save(&error) ? QString() : error;
+}
+
+/// What was found is in the project, or lies there still.
+int stateOfRecovery(const QDir &disk)
+{
+    const int saved = stateOfProject(disk);
+    const int left = stateOfAutosave(disk);
+    return left != 0 ? left : saved;
+}
+
+// ---- exports
+
+MvPageSource pages(int state)
+{
+    MvPageSource source;
+    source.format = MvPageFormat::fromName(u"A6"_s);
+    source.pages = {QDate(2027, 1, 1)};
+    source.title = nameOf(state);
+    source.paint = [state](QPainter &painter, int) { painter.fillRect(0, 0, 100 + state, 300, Qt::red); };
+    return source;
+}
+
+std::function<QString(const QDir &, int)> exportTo(const QString &name)
+{
+    return [name](const QDir &disk, int state) {
+        return MvExportTarget(disk.filePath(name)).write(pages(state), 30 + state).error;
+    };
+}
+
+/// For files that have the title somewhere and end with the given bytes.
+std::function<int(const QDir &)> stateByTitle(const QString &name, const QByteArray &end)
+{
+    return [name, end](const QDir &disk) {
+        const QByteArray content = contentOf(disk.filePath(name));
+        const qsizetype title = content.indexOf("Stand ");
+        if (content.isEmpty())
+            return 0;
+        if (title < 0 || !content.trimmed().endsWith(end))
+            return -1;
+        return content.mid(title + 6, content.indexOf('<', title) - title - 6).toInt();
+    };
+}
+
+int stateOfPng(const QDir &disk)
+{
+    const QString path = disk.filePath(u"Kalender.png"_s);
+    const QImage image(path);
+    if (!QFileInfo::exists(path))
+        return 0;
+    return image.isNull() ? -1 : qRound(image.dotsPerMeterX() * 0.0254) - 30;
+}
+
+// ---- a file with a second name, which is written where it lies
+
+QByteArray filling(int state)
+{
+    return QByteArray(4000 + state * 7919 % 9000, char('A' + state));
+}
+
+QString storeInPlace(const QDir &disk, int state)
+{
+    return MvSafeFileWriter::write(QFileInfo(disk.filePath(u"Kalender.pdf"_s)), filling(state)).error;
+}
+
+void makeSecondName(const QDir &disk, int)
+{
+    const QByteArray name = QFile::encodeName(disk.filePath(u"Kalender.pdf"_s));
+    [[maybe_unused]] const int ignored = ::link(name.constData(), (name + "-2").constData());
+}
+
+int stateInPlace(const QDir &disk)
+{
+    MvSafeFileWriter::finishInterrupted();
+    const QByteArray content = contentOf(disk.filePath(u"Kalender.pdf"_s));
+    if (QFileInfo::exists(disk.filePath(u"Kalender.pdf-2"_s)) &&
+        contentOf(disk.filePath(u"Kalender.pdf-2"_s)) != content)
+        return -1;
+    const int state = content.isEmpty() ? 0 : content.front() - 'A';
+    return state == 0 || content == filling(state) ? state : -1;
+}
+
+QList<MvStorageOperation> operations()
+{
+    using Application = MvStorageOperation::Application;
+    return {
+        {"entries", Application::Core, storeEntries, [](const QDir &disk) { return stateOfEntries(ownList(disk)); }},
+        {"list export", Application::Core, exportList,
+         [](const QDir &disk) { return stateOfEntries(disk.filePath(u"Liste.xml"_s)); }},
+        {"list in place of a damaged one", Application::Core, storeEntries, stateAfterDamage, damageList},
+        {"photo of an entry", Application::Core, storePhoto, stateOfPhoto, makePhoto},
+        {"colour schemas", Application::Gui, storeColors, stateOfColors},
+        {"project", Application::Gui, storeProject, stateOfProject},
+        {"autosave", Application::Gui, autosave, stateOfAutosave, discardAutosaves},
+        {"recovery", Application::Gui, recover, stateOfRecovery, leaveRecovery},
+        {"PDF", Application::Gui, exportTo(u"Kalender.pdf"_s), stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
+        {"PNG", Application::Gui, exportTo(u"Kalender.png"_s), stateOfPng},
+        {"SVG", Application::Gui, exportTo(u"Kalender.svg"_s), stateByTitle(u"Kalender.svg"_s, "</svg>")},
+        {"in place", Application::Core, storeInPlace, stateInPlace, makeSecondName},
+    };
 }
 
 } // namespace
 
-class tst_StorageFaults : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init();
-    void failingCalls_data() { addOperations(); }
-    void failingCalls();
-    void kills_data() { addOperations(); }
-    void kills();
-    void fullDisk_data() { addOperations(); }
-    void fullDisk();
-
-private:
-    static void addOperations();
-    QDir freshDisk();
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    int m_disks = 0;
-};
-
-void tst_StorageFaults::addOperations()
-{
-    QTest::addColumn<qsizetype>("index");
-    for (qsizetype i = 0; i < MvStorageOperation::all().size(); ++i)
-        QTest::newRow(MvStorageOperation::all()[i].name) << i;
-}
-
-void tst_StorageFaults::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-}
-
-QDir tst_StorageFaults::freshDisk()
-{
-    QDir folder(m_folder->path());
-    QDir(folder.filePath(QString::number(m_disks))).removeRecursively();
-    const QString name = QString::number(++m_disks);
-    folder.mkdir(name);
-    return QDir(folder.filePath(name));
-}
-
-/// The n-th call fails, for each n there is; with every error, once and from there on. In short: one of these for
-/// each n.
-void tst_StorageFaults::failingCalls()
-{
-    QFETCH(qsizetype, index);
-    const MvStorageOperation &operation = MvStorageOperation::all()[index];
-    using Kind = MvFaultInjector::Kind;
-    const QList<MvFaultInjector::Plan> plans{{Kind::Fail, 0, ENOSPC, false}, {Kind::Fail, 0, ENOSPC, true},
-                                             {Kind::Fail, 0, EIO, false},    {Kind::Fail, 0, EIO, true},
-                                             {Kind::Fail, 0, EACCES, false}, {Kind::Fail, 0, EACCES, true},
-                                             {Kind::ShortWrite, 0, 0, true}, {Kind::ShortWrite, 0, 0, false}};
-    int attempts = 0;
-    int toldOf = 0;
-    QStringList faults;
-    for (qsizetype first = 0; first < (isNightly ? plans.size() : 1); ++first) {
-        bool isEnd = false;
-        for (int call = 1; !isEnd; ++call) {
-            MvFaultInjector::Plan plan = plans[isNightly ? first : (call + index) % plans.size()];
-            plan.call = call;
-            const Attempt result = attempt(operation, freshDisk(), 1, plan);
-            isEnd = result.hit.isEmpty() || call > 1000;
-            ++attempts;
-            toldOf += result.told.isEmpty() ? 0 : 1;
-            if (!result.fault.isEmpty())
-                faults.append(result.describe(operation) +
-                              u" errno %1%2"_s.arg(plan.error).arg(plan.goesOn ? u"+"_s : QString()));
-        }
-    }
-    if (isNightly)
-        qInfo("%d attempts, %d told, %d faults", attempts, toldOf, int(faults.size()));
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-    QVERIFY(toldOf > 0);
-}
-
-/// Killed at a random call, again and again, on the same disk.
-void tst_StorageFaults::kills()
-{
-    QFETCH(qsizetype, index);
-    const MvStorageOperation &operation = MvStorageOperation::all()[index];
-    const int rounds = (isNightly ? 10000 : 200) / int(MvStorageOperation::all().size()) + 1;
-    const QDir disk = freshDisk();
-    const int calls = attempt(operation, disk, 1, {}).calls;
-    QVERIFY(calls > 0);
-    QRandomGenerator random(20270101 + quint32(index));
-    int finished = 0;
-    for (int round = 0, state = 3; round < rounds; ++round, state = after(after(state))) {
-        const Attempt result =
-            attempt(operation, disk, state, {MvFaultInjector::Kind::Kill, random.bounded(1, calls + 3), 0, false});
-        QVERIFY2(result.fault.isEmpty(), qPrintable(result.describe(operation)));
-        finished += result.found == after(state) ? 1 : 0;
-    }
-    if (isNightly)
-        qInfo("%d kills or so, %d of them when the new state was there", rounds, finished);
-    QVERIFY(finished > 0 && (operation.prepare || finished < rounds));
-    // what dead programs leave behind is swept
-    const Attempt last = attempt(operation, disk, 1, {});
-    QVERIFY2(last.fault.isEmpty() && last.isOk, qPrintable(last.describe(operation)));
-    QStringList left;
-    QDirIterator files(disk.path(), {u".mvtmp-*"_s, u"previous*"_s}, QDir::Files | QDir::Hidden,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext())
-        left.append(files.next());
-    QCOMPARE(left, QStringList());
-}
-
-/// A small disk with so much room left: nothing, a block, two...
-void tst_StorageFaults::fullDisk()
-{
-    QFETCH(qsizetype, index);
-    const MvStorageOperation &operation = MvStorageOperation::all()[index];
-    const int sizes = isNightly ? 20 : 4;
-    int toldOf = 0;
-    for (int size = 0; size < sizes; ++size) {
-        const QDir disk = freshDisk();
-        const QByteArray mountPoint = QFile::encodeName(disk.path());
-        if (::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=4m") != 0)
-            QSKIP("mounting a small file system needs the administrator");
-        const QString filler = disk.filePath(u"filler"_s);
-        const int room = size * (isNightly ? 1 : 5) * 4096;
-        const auto fill = [&] {
-            QFile file(filler);
-            if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-                while (file.write(QByteArray(4096, 'x')) == 4096) {}
-            file.resize(std::max<qint64>(file.size() - room, 0));
-        };
-        const Attempt result = attempt(operation, disk, 1, {}, fill, [&filler] { QFile::remove(filler); });
-        ::umount2(mountPoint.constData(), MNT_DETACH);
-        QVERIFY2(result.fault.isEmpty(), qPrintable(result.describe(operation) + u" room %1"_s.arg(room)));
-        toldOf += result.told.isEmpty() ? 0 : 1;
-    }
-    QVERIFY(toldOf > 0);
-}
-
 int main(int argc, char **argv)
 {
-    const MvTestHome home;
-    tst_StorageFaults test;
-    return QTest::qExec(&test, argc, argv); // no application: each process makes its own
+    return MvStorageTest::run(argc, argv, operations(), {.kills = 200, .nightlyKills = 10000});
 }
-#include "tst_StorageFaults.moc"
