@@ -107,7 +107,10 @@ static void changeLists(benchmark::State &state)
         once += measured([&] { registry.setEvents(events); });
         clearing += measured([&] { changeAll(events, {}); });
         undoing += measured([] { MvUndoController::instance().undo(); });
-        loading += measured([&] { changeAll(registry.activeEventList(), events); });
+        loading += measured([&] {
+            changeAll(registry.activeEventList(), events);
+            registry.save();
+        });
         MvUndoController::instance().clear();
         QCoreApplication::processEvents();
     }
