@@ -9,6 +9,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QFutureWatcher>
 #include <QPromise>
@@ -63,7 +64,10 @@ private:
 QFileInfoList userFiles()
 {
     const QDir folder = MvDirectoryConfig::instance().programDataDir();
-    QFileInfoList files = QDir(folder.filePath(u"unfinished"_s)).entryInfoList(QDir::Files | QDir::Hidden);
+    QFileInfoList files;
+    QDirIterator unfinished(folder.filePath(u"unfinished"_s), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (unfinished.hasNext())
+        files.append(unfinished.nextFileInfo());
     const QString place = folder.filePath(u"calendarEvents.xml"_s);
     const QSet<QString> places{place, QFileInfo(place).canonicalFilePath()}; // a link has its backups at its target
     for (const QString &file : places) {

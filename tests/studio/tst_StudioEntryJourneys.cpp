@@ -8,6 +8,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvFileGuard.h"
 #include "MvCore/MvUndoController.h"
 
 using namespace Qt::StringLiterals;
@@ -280,9 +281,19 @@ void tst_StudioEntryJourneys::troubleWithReadingIsToldAndMended()
         QLocale(u"de"_s).toString(QFileInfo(own.fileName() + u'~').lastModified(), QLocale::ShortFormat);
     QVERIFY2(told->informativeText().contains(date), qPrintable(told->informativeText()));
     QVERIFY(studio.click(told, "laterButton"));
-    QVERIFY(studio.click(studio.window(), "entriesNoticeButton")); // stays
-    QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("entriesProblem"), "restoreButton"));
-    auto *versions = MvStudioFixture::dialog<QDialog>("restoreEntriesDialog");
+    const auto chooseVersion = [&studio]() -> QDialog * {
+        return studio.click(studio.window(), "entriesNoticeButton") && // stays
+                       studio.click(MvStudioFixture::dialog<QMessageBox>("entriesProblem"), "restoreButton")
+                   ? MvStudioFixture::dialog<QDialog>("restoreEntriesDialog")
+                   : nullptr;
+    };
+    auto other = std::make_unique<MvFileGuard>(QFileInfo(own.fileName()), 0);
+    QVERIFY(studio.click(chooseVersion(), "restoreNowButton"));
+    auto *refused = MvStudioFixture::dialog<QMessageBox>();
+    QVERIFY(refused && refused->informativeText().contains(u"anderes Programm"_s));
+    refused->close();
+    other.reset();
+    auto *versions = chooseVersion();
     QVERIFY(versions);
     QCOMPARE(versions->findChild<QTreeWidget *>()->topLevelItem(0)->text(1), u"1 Eintrag"_s);
     QVERIFY(studio.click(versions, "restoreNowButton"));

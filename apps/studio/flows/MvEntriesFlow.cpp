@@ -170,11 +170,11 @@ void MvEntriesFlow::restore()
 {
     auto *dialog = new MvRestoreEntriesDialog(store().problem().backups, m_window);
     connect(dialog, &MvRestoreEntriesDialog::restoreRequested, this, [this](const QFileInfo &backup) {
-        if (store().restoreBackup(backup))
+        QString error;
+        if (store().restoreBackup(backup, &error))
             Q_EMIT message(tr("Die Einträge sind wiederhergestellt"));
         else
-            MvStudioMessage::error(m_window, tr("Die Einträge ließen sich nicht wiederherstellen."),
-                                   store().problem().text);
+            MvStudioMessage::error(m_window, tr("Die Einträge ließen sich nicht wiederherstellen."), error);
     });
     dialog->open();
 }
