@@ -410,7 +410,7 @@ void MvCalendarDayEditorDialog::acceptedAndContinueClicked()
     QDate tomorrow = next.dateTime().date().addDays(1);
     if (!next.hasYear())
         tomorrow.setDate(MvCalendarEvent::unknownYear, tomorrow.month(), tomorrow.day());
-    next.setDateTime(tomorrow.startOfDay());
+    next.setDateTime(MvCalendarEvent::startOf(tomorrow));
     openDayEditorDialog(next, true);
 }
 
@@ -449,7 +449,7 @@ MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
 {
     m_dateEdit->takeText();
     MvCalendarEvent changed = m_openedEvent;
-    changed.setDateTime(m_dateEdit->date().startOfDay());
+    changed.setDateTime(MvCalendarEvent::startOf(m_dateEdit->date()));
     if (m_descriptionEdit->text() != m_shownName) // a file's own form stays as long as nobody changes it
         changed.setEventName(MvStringHelper::simplifiedName(m_descriptionEdit->text()));
     changed.setRecurrent(true);

@@ -37,10 +37,12 @@ MvCalendarEvent eventOf(const QModelIndex &index)
     return index.data(Qt::UserRole).value<MvCalendarEvent>();
 }
 
+/// The entry as it is by now: it may have changed while a menu with it stood open.
 void editEvent(const MvCalendarEvent &event)
 {
-    if (event.isValid())
-        MvCalendarDayEditorDialog::createSelfDeleting(nullptr)->openDayEditorSingle(event);
+    const MvCalendarEvent present = MvCalendarEventRegistry::instance().presentEvent(event);
+    if (present.isValid())
+        MvCalendarDayEditorDialog::createSelfDeleting(nullptr)->openDayEditorSingle(present);
 }
 
 /// What the list does not have. A file without uuids gets new ones with each reading: its entries are known by what

@@ -238,7 +238,12 @@ QMenu *MvGraphicsItemCalendariumCellsManager::createCustomEntryMenu(const QDate 
     const QIcon icon = MvIconRegistry::instance().icon(u"ico_calendarCustomEvents"_s);
     const auto addAction = [this, menu, &icon](const QString &text, const MvCalendarEvent &event) {
         const QAction *action = menu->addAction(icon, text);
-        connect(action, &QAction::triggered, this, [this, event] { createAndStartCalendarDayEditorDialog(event); });
+        connect(action, &QAction::triggered, this, [this, event] {
+            // as it is by now: it may have changed while the menu stood open
+            const MvCalendarEvent present = MvCalendarEventRegistry::instance().presentEvent(event);
+            if (present.isValid() || !event.isValid())
+                createAndStartCalendarDayEditorDialog(event.isValid() ? present : event);
+        });
     };
     const MvCalendarEventList events = MvCalendarEventRegistry::instance().events({date, config});
     for (const MvCalendarEvent &event : events)

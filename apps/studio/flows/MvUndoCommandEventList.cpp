@@ -2,19 +2,7 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 
-#include <QHash>
-
-namespace {
-
-QHash<QUuid, MvCalendarEvent> byUuid(const MvCalendarEventList &events)
-{
-    QHash<QUuid, MvCalendarEvent> entries;
-    for (const MvCalendarEvent &event : events)
-        entries.insert(event.uuid(), event);
-    return entries;
-}
-
-} // namespace
+#include <QMultiHash>
 
 MvUndoCommandEventList::MvUndoCommandEventList(const QString &text, const MvCalendarEventList &added)
     : MvUndoCommand(text)
@@ -29,20 +17,22 @@ void MvUndoCommandEventList::doCoreAction()
     const MvCalendarEventList before = registry.activeEventList();
     const MvCalendarEventList added = registry.onlyNewEvents(before, m_added);
     registry.setEvents(registry.mergeLists(before, added, true));
-    const auto present = byUuid(registry.activeEventList()); // their photos may have been copied
     m_added.clear();
-    for (const MvCalendarEvent &event : added)
-        m_added.append(present.value(event.uuid(), event));
+    for (const MvCalendarEvent &event : added) {
+        const MvCalendarEvent present = registry.presentEvent(event); // its photo may have been copied
+        m_added.append(present.isValid() ? present : event);
+    }
 }
 
 void MvUndoCommandEventList::undoCore()
 {
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
-    const auto added = byUuid(m_added);
+    QMultiHash<QUuid, MvCalendarEvent> added; // several may share a uuid
+    for (const MvCalendarEvent &event : m_added)
+        added.insert(event.uuid(), event);
     MvCalendarEventList rest;
     for (const MvCalendarEvent &event : registry.activeEventList()) {
-        const auto mine = added.constFind(event.uuid());
-        if (mine == added.cend() || !(*mine == event))
+        if (!added.contains(event.uuid(), event))
             rest.append(event);
     }
     registry.setEvents(rest);

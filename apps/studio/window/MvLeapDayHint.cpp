@@ -35,15 +35,16 @@ MvLeapDayHint::MvLeapDayHint(const MvProject *project, QObject *parent)
 
 void MvLeapDayHint::look()
 {
-    const QSet<QUuid> before = m_known;
+    const auto before = m_known;
     m_known.clear();
     QStringList names;
     for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList()) {
         const QDate date = event.dateTime().date();
         if (date.month() != 2 || date.day() != 29)
             continue;
-        m_known.insert(event.uuid());
-        if (!before.contains(event.uuid()))
+        const auto key = qMakePair(event.uuid(), event.description());
+        m_known.insert(key);
+        if (!before.contains(key))
             names.append(MvPrintableText::inShort(event.description(), longestName));
     }
     if (names.isEmpty() || sender() == nullptr || hasLeapDay(m_project->document().range()))

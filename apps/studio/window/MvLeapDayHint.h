@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QPair>
 #include <QSet>
+#include <QString>
 #include <QUuid>
 
 class MvProject;
@@ -24,5 +26,5 @@ private:
     void look();
 
     const MvProject *m_project;
-    QSet<QUuid> m_known; // entries of 29 February
+    QSet<QPair<QUuid, QString>> m_known; // entries of 29 February, by uuid and name: a uuid may be shared
 };
