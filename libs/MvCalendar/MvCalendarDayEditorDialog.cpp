@@ -638,8 +638,12 @@ void MvCalendarDayEditorDialog::dropEvent(QDropEvent *event)
 {
     m_fotoLabel->setDropOffered(false);
     const MvFotoList fotos(event->mimeData());
-    if (fotos.isEmpty())
+    if (fotos.isEmpty()) {
+        const QString file = event->mimeData()->urls().value(0).toLocalFile();
+        if (!file.isEmpty())
+            MvDiskAccessRequest::instance().readFotoFailed(file, this);
         return;
+    }
     setFoto(fotos.first());
     event->acceptProposedAction();
 }

@@ -116,6 +116,8 @@ QByteArray entryIn(const QByteArray &document)
     return document.mid(begin, document.lastIndexOf("</") - begin);
 }
 
+constexpr qsizetype usualBytesOfEntry = 320;
+
 /// Nothing in it is written in any other way than it is.
 bool isPlain(const QString &text)
 {
@@ -131,13 +133,17 @@ bool appendPlain(QByteArray &bytes, const QList<std::pair<QString, QString>> &te
 {
     if (!std::all_of(texts.cbegin(), texts.cend(), [](const auto &text) { return isPlain(text.second); }))
         return false;
-    bytes += "  <" + entryName.toLatin1() + ">\n";
+    static const QByteArray entry = entryName.toLatin1();
+    bytes.append("  <").append(entry).append(">\n");
     for (const auto &[name, text] : texts) {
         const QByteArray element = name.toLatin1();
-        bytes += text.isEmpty() ? "    <" + element + "/>\n"
-                                : "    <" + element + '>' + text.toUtf8() + "</" + element + ">\n";
+        bytes.append("    <").append(element);
+        if (text.isEmpty())
+            bytes.append("/>\n");
+        else
+            bytes.append('>').append(text.toUtf8()).append("</").append(element).append(">\n");
     }
-    bytes += "  </" + entryName.toLatin1() + ">\n";
+    bytes.append("  </").append(entry).append(">\n");
     return true;
 }
 
@@ -206,6 +212,7 @@ QByteArray MvCalendarEventFile::toBytes(const MvCalendarEventList &events)
     const QByteArray frame = documentOf({});
     const qsizetype root = frame.lastIndexOf('<'); // "<CalendarEvents/>"
     QByteArray bytes = frame.first(root) + '<' + rootName.toLatin1() + ">\n";
+    bytes.reserve(bytes.size() + events.size() * usualBytesOfEntry);
     bool isEmpty = true;
     for (const MvCalendarEvent &event : events) {
         if (!event.isValid())

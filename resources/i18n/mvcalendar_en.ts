@@ -1995,6 +1995,10 @@
         <source>Seite %1 von %2: %3</source>
         <translation>Page %1 of %2: %3</translation>
     </message>
+    <message>
+        <source>„%1“ ist kein Foto, das gelesen werden kann.</source>
+        <translation>“%1” is not a photo that can be read.</translation>
+    </message>
 </context>
 <context>
     <name>MvPageEdits</name>

@@ -18,7 +18,8 @@ namespace {
 
 using Problem = MvCalendarEventStore::Problem;
 
-constexpr int mostNamed = 8; // entries that were left out
+constexpr int mostNamed = 8;       // entries that were left out
+constexpr int watchInterval = 250; // ms
 
 MvCalendarEventStore &store()
 {
@@ -236,4 +237,12 @@ void MvEntriesFlow::leave(const Then &then)
     box->setDefaultButton(again);
     box->setEscapeButton(cancel);
     box->open();
+    auto *watch = new QTimer(box); // what is tried again by itself may come to its end while the question stands
+    connect(watch, &QTimer::timeout, this, [this, box, then] {
+        if (store().hasUnsavedChanges())
+            return;
+        box->close();
+        QTimer::singleShot(0, this, then);
+    });
+    watch->start(watchInterval);
 }

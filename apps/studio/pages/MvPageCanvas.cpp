@@ -12,8 +12,10 @@
 #include "MvProject/MvProject.h"
 
 #include <QContextMenuEvent>
+#include <QFileInfo>
 #include <QGestureEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QNativeGestureEvent>
 #include <QScrollBar>
 
@@ -335,6 +337,9 @@ void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
     m_draggedPhoto = MvPagePhoto::photoIn(event->mimeData());
     if (m_draggedPhoto.isEmpty() || m_item->pageRect().isEmpty()) {
         event->ignore();
+        const QString file = event->mimeData()->urls().value(0).toLocalFile();
+        if (m_draggedPhoto.isEmpty() && !file.isEmpty())
+            Q_EMIT message(tr("„%1“ ist kein Foto, das gelesen werden kann.").arg(QFileInfo(file).fileName()));
         return;
     }
     QGraphicsView::dragEnterEvent(event);
