@@ -156,6 +156,7 @@ void MvCalendarEventStore::keep(const MvCalendarEventList &events, const Adopt &
         MvLogger::legacyLog(savingLine());
         if (adopt)
             adopt(events);
+        MvPlatformIndependent::instance().fileWritten(QFileInfo(file().absoluteFilePath()));
         return;
     }
     m_pending = {events, bool(adopt)};
