@@ -7,6 +7,25 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Whether it was noted long ago that the day's photos are too old; notes it when nothing is noted yet, or by a clock
+/// that was ahead.
+bool isOverdueForLong(const QString &notePath, const QDate &today)
+{
+    QFile note(notePath);
+    const bool hasNote = note.open(QIODevice::ReadOnly);
+    const QDate since = hasNote ? QDate::fromString(QString::fromLatin1(note.readAll()), Qt::ISODate) : QDate();
+    note.close();
+    if (since.isValid() && since <= today)
+        return since.daysTo(today) >= MvFotoBin::daysOverdue;
+    if (note.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        note.write(today.toString(Qt::ISODate).toLatin1());
+    return false;
+}
+
+} // namespace
+
 MvFotoBin::MvFotoBin(const QDir &fotoFolder)
     : m_fotoFolder(fotoFolder)
     , m_folder(fotoFolder.absoluteFilePath(u"papierkorb"_s))
@@ -73,14 +92,20 @@ void MvFotoBin::empty(const QDate &today, const QSet<QString> &needed) const
 {
     for (const QString &day : days()) {
         const QDate date = QDate::fromString(day, Qt::ISODate);
-        if (!date.isValid() || date.daysTo(today) <= daysKept)
-            continue;
         QDir folder(m_folder.filePath(day));
+        const QString note = folder.filePath(u".ueberfaellig"_s);
+        if (!date.isValid() || date.daysTo(today) <= daysKept) {
+            QFile::remove(note); // a clock was ahead
+            continue;
+        }
+        if (!isOverdueForLong(note, today))
+            continue;
         const QStringList names = folder.entryList(QDir::Files, QDir::Unsorted);
         for (const QString &name : names) {
             if (!needed.contains(name))
                 folder.remove(name);
         }
+        QFile::remove(note);
         m_folder.rmdir(day); // if nothing is left in it
     }
 }

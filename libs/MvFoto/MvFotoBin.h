@@ -16,6 +16,7 @@ class MVFOTO_EXPORT MvFotoBin
 {
 public:
     static constexpr int daysKept = 30;
+    static constexpr int daysOverdue = 8; // between being found too old and going: a clock may be wrong for a week
 
     explicit MvFotoBin(const QDir &fotoFolder);
 
@@ -32,7 +33,8 @@ public:
 
     /// The names of all photos in the bin.
     QStringList names() const;
-    /// Deletes what came more than `daysKept` days before today, except those photos that are still needed.
+    /// Notes what came more than `daysKept` days before today, and deletes what was noted at least `daysOverdue` days
+    /// before; but not those photos that are still needed.
     void empty(const QDate &today, const QSet<QString> &needed) const;
 
 private:
