@@ -69,6 +69,28 @@ QList<QDate> backupDays(const QString &path, const QDate &today)
     return days;
 }
 
+/// What is to go. Between days that lie more than a year apart somebody may have set the clock: the latest on the far
+/// side of such a leap are kept, too, of the first two leaps.
+QList<QDate> tooOld(const QList<QDate> &days)
+{
+    constexpr int leap = 366;
+    constexpr int mostLeaps = 2;
+    QList<QDate> outdated;
+    int leaps = 0;
+    int sinceLeap = 0;
+    for (qsizetype i = 0; i < days.size(); ++i) {
+        if (i > 0 && qAbs(days.at(i).daysTo(days.at(i - 1))) > leap) {
+            ++leaps;
+            sinceLeap = 0;
+        }
+        const bool isKept = i < MvFileBackup::daysKept || (leaps <= mostLeaps && sinceLeap < MvFileBackup::daysKept);
+        if (!isKept)
+            outdated.append(days.at(i));
+        ++sinceLeap;
+    }
+    return outdated;
+}
+
 bool copyOver(const QString &path, const QString &backup)
 {
     const QByteArray temporary = MvFileBackup::temporaryPath(QFileInfo(path).absolutePath());
@@ -119,8 +141,8 @@ bool MvFileBackup::keep(const QString &path, const QByteArray &newContent, const
     bool isDone = keepAs(path, previousVersionPath(path));
     if (!QFileInfo::exists(dailyPath(path, today))) {
         isDone = keepAs(path, dailyPath(path, today)) && isDone;
-        const QList<QDate> tooOld = backupDays(path, today).mid(daysKept);
-        for (const QDate &day : tooOld)
+        const QList<QDate> outdated = tooOld(backupDays(path, today));
+        for (const QDate &day : outdated)
             QFile::remove(dailyPath(path, day));
     }
     if (then == Then::Overwritten) {

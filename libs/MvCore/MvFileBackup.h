@@ -12,7 +12,8 @@
 class MVCORE_EXPORT MvFileBackup
 {
 public:
-    /// Number of days with changes whose first state is kept.
+    /// Number of days with changes whose first state is kept; as many of before and after the clock was set by more
+    /// than a year, whether it had been wrong or is now.
     static constexpr int daysKept = 7;
 
     enum class Then {

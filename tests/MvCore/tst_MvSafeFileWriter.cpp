@@ -379,18 +379,20 @@ void tst_MvSafeFileWriter::backupsWithAWrongClock()
             names.append(file.fileName().mid(6).chopped(1));
         return names;
     };
-    changeOn(QDate(2026, 3, 1), 4);
-    changeOn(QDate(2040, 1, 1), 5); // ahead
-    changeOn(QDate(2026, 3, 5), 3);
-    QCOMPARE(days(QDate(2026, 3, 7)),
-             (QStringList{u"2026-03-07"_qs, u"2026-03-06"_qs, u"2026-03-05"_qs, u"2026-03-04"_qs, u"2026-03-03"_qs,
-                          u"2040-01-05"_qs, u"2040-01-04"_qs}));
+    const auto run = [](const QDate &last) {
+        QStringList names;
+        for (int day = 0; day < MvFileBackup::daysKept; ++day)
+            names.append(last.addDays(-day).toString(Qt::ISODate));
+        return names;
+    };
+    changeOn(QDate(2026, 3, 1), 8);
+    changeOn(QDate(2040, 1, 1), 8); // ahead
+    QCOMPARE(days(QDate(2040, 1, 8)), run(QDate(2040, 1, 8)) + run(QDate(2026, 3, 8)));
+    changeOn(QDate(2026, 3, 9), 1);
+    QCOMPARE(days(QDate(2026, 3, 9)), run(QDate(2026, 3, 9)) + run(QDate(2040, 1, 8)));
     changeOn(QDate(1970, 1, 1), 2); // behind
-    changeOn(QDate(2026, 3, 8), 1);
-    QCOMPARE(days(QDate(2026, 3, 8)).mid(0, 4),
-             (QStringList{u"2026-03-08"_qs, u"2026-03-07"_qs, u"2026-03-06"_qs, u"2026-03-05"_qs}));
-    changeOn(QDate(2026, 3, 9), 7);
-    QCOMPARE(days(QDate(2026, 3, 15)).last(), u"2026-03-09"_qs);
+    changeOn(QDate(2026, 3, 10), 7);
+    QCOMPARE(days(QDate(2026, 3, 16)).mid(0, MvFileBackup::daysKept), run(QDate(2026, 3, 16)));
 }
 
 void tst_MvSafeFileWriter::sweepsTemporaries()
