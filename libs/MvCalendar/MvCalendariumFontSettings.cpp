@@ -23,6 +23,7 @@ const QString letterSpacingKey = u"font-letter-spacing"_s;
 
 constexpr int defaultHolidayPercentage = -50;
 constexpr double minimumSizeDpi = 254.0; // one pixel of the page is a tenth of a millimetre
+constexpr double mostPoints = 10000.0;   // files may say anything
 
 int atLeastOnePixel(double pixels)
 {
@@ -88,7 +89,7 @@ QFont MvCalendariumFontSettings::scaledFont(const QFont &baseFont, int percentag
     if (!m_fontName.isEmpty())
         font.setFamily(m_fontName);
     const double factor = percentage + 100.0;
-    const int points = static_cast<int>(baseFont.pointSizeF() * factor / 100.0);
+    const int points = static_cast<int>(std::clamp(baseFont.pointSizeF() * factor / 100.0, -mostPoints, mostPoints));
     font.setPixelSize(atLeastOnePixel(MvMath::point2pixel(points, MvMath::referenceDpi)));
     font = optimisedSize.adaptFont(font, magnitude);
     font.setPixelSize(std::max(font.pixelSize(), atLeastOnePixel(MvMath::point2pixel(minimum, minimumSizeDpi))));
