@@ -161,6 +161,25 @@ void MvCalendarDocument::paint(QPainter &painter, int page) const
         m_pages[page].paint(painter, m_format, m_range);
 }
 
+bool MvCalendarDocument::lacksLeapDay() const
+{
+    bool hasFebruary = false;
+    for (const MvCalendarPage &page : m_pages) {
+        const MvDateRange months = page.printedMonths();
+        if (!months.isValid() || !page.contentConfig().hasFeatures(FEATURE_ENTRIES))
+            continue;
+        for (int year = months.start().year(); year <= months.end().year(); ++year) {
+            const QDate march(year, 3, 1);
+            if (!months.contains(march.addDays(-1)))
+                continue;
+            if (QDate::isLeapYear(year))
+                return false;
+            hasFebruary = true;
+        }
+    }
+    return hasFebruary;
+}
+
 QList<MvUnfittingText> MvCalendarDocument::unfittingTexts(int page) const
 {
     if (!isValid() || page < 0 || page >= m_pages.size())

@@ -69,6 +69,10 @@ public:
     /// entries are those of the active list. A page that there is not stays empty.
     void paint(QPainter &painter, int page) const;
 
+    /// The pages that show entries have an end of February, and none of them a 29 February: entries of that day are
+    /// nowhere to be seen. False for a calendar that prints no February at all.
+    bool lacksLeapDay() const;
+
     /// The texts that have no room on a page, counted from 0, in the order of painting.
     QList<MvUnfittingText> unfittingTexts(int page) const;
     /// The paths of the photos on pages that are not there or cannot be read, each once. Looks into the files.

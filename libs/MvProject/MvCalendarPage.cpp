@@ -38,6 +38,14 @@ int MvCalendarPage::monthCount() const
     return isYear ? monthsPerYear : 1;
 }
 
+MvDateRange MvCalendarPage::printedMonths() const
+{
+    if (!isValid() || !m_appearance.rendererShowsDays())
+        return {};
+    const QDate first = m_content.moveToDayInMonth(1).date().addMonths(m_appearance.offsetMonth());
+    return {first, first.addMonths(monthCount()).addDays(-1)};
+}
+
 MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
 {
     const auto areShownWhen = [this](bool asked) {

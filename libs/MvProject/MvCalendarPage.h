@@ -55,6 +55,8 @@ public:
     bool isValid() const { return m_appearance.isValid() && m_content.isValid(); }
     /// How many months the layout shows: 12 for a year, else 1.
     int monthCount() const;
+    /// The months whose days are on the page, whatever the range of the whole calendar; invalid when it shows no days.
+    MvDateRange printedMonths() const;
 
     enum class CalendarWeeks { AsAsked, Always, Never };
     /// Whether the layout shows calendar weeks: as the content's FEATURE_CALENDAR_WEEKS asks, or whatever it asks.

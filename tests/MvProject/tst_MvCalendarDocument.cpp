@@ -16,6 +16,8 @@ class tst_MvCalendarDocument : public MvTest
 private Q_SLOTS:
     void pages_data();
     void pages();
+    void lacksLeapDay_data();
+    void lacksLeapDay();
     void paintsTheMargins_data();
     void paintsTheMargins();
     void withoutSchemasThereIsNothing();
@@ -70,6 +72,33 @@ void tst_MvCalendarDocument::pages()
     calendar.setRange(MvDateRange(start, end));
     QCOMPARE(calendar.pageDates(), pages);
     QCOMPARE(calendar.pageSource().pages, pages);
+}
+
+void tst_MvCalendarDocument::lacksLeapDay_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QDate>("start");
+    QTest::addColumn<int>("months");
+    QTest::addColumn<bool>("isLacking");
+    QTest::newRow("February of 28 days") << u"MONTH_GRID_CLASSIC"_s << QDate(2027, 1, 1) << 12 << true;
+    QTest::newRow("no February") << u"MONTH_GRID_CLASSIC"_s << QDate(2027, 3, 1) << 10 << false;
+    QTest::newRow("leap year among two") << u"MONTH_GRID_CLASSIC"_s << QDate(2027, 1, 1) << 24 << false;
+    QTest::newRow("year from May to the next February 29") << u"YEAR_PLANNER"_s << QDate(2027, 5, 1) << 1 << false;
+    QTest::newRow("year from May without") << u"YEAR_PLANNER"_s << QDate(2026, 5, 1) << 1 << true;
+    QTest::newRow("shows no days") << u"MONTH_ONLY"_s << QDate(2027, 1, 1) << 12 << false;
+}
+
+void tst_MvCalendarDocument::lacksLeapDay()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const QDate, start);
+    QFETCH(const int, months);
+    MvCalendarDocument calendar = document(u"PAPER_WHITE"_s);
+    MvCalendariumAppearance appearance = calendar.appearance();
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
+    calendar.setAppearance(appearance);
+    calendar.setRange({start, start.addMonths(months).addDays(-1)});
+    QTEST(calendar.lacksLeapDay(), "isLacking");
 }
 
 void tst_MvCalendarDocument::paintsTheMargins_data()

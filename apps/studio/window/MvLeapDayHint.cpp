@@ -14,15 +14,6 @@ namespace {
 constexpr int mostNames = 3;
 constexpr qsizetype longestName = 60;
 
-bool hasLeapDay(const MvDateRange &range)
-{
-    for (int year = range.start().year(); year <= range.end().year(); ++year) {
-        if (QDate::isLeapYear(year) && range.contains(QDate(year, 2, 29)))
-            return true;
-    }
-    return false;
-}
-
 } // namespace
 
 MvLeapDayHint::MvLeapDayHint(const MvProject *project, QObject *parent)
@@ -47,7 +38,7 @@ void MvLeapDayHint::look()
         if (!before.contains(key))
             names.append(MvPrintableText::inShort(event.description(), longestName));
     }
-    if (names.isEmpty() || sender() == nullptr || hasLeapDay(m_project->document().range()))
+    if (names.isEmpty() || sender() == nullptr || !m_project->document().lacksLeapDay())
         return;
     const int count = int(names.size());
     const QString listed = names.mid(0, mostNames).join(u", "_s) + (count > mostNames ? u", …"_s : QString());

@@ -8,8 +8,8 @@
 
 class MvProject;
 
-/// Entries of 29 February are printed in leap years alone. When one comes in, or is moved there, while the calendar's
-/// range has no such day, this says so.
+/// Entries of 29 February are printed in leap years alone. When one comes in, or is moved there, while the calendar
+/// prints a February without such a day, this says so.
 class MvLeapDayHint : public QObject
 {
     Q_OBJECT
