@@ -2,6 +2,7 @@
 
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvFoto/MvFotoAccess.h"
+#include "MvFoto/MvFotoResolution.h"
 #include "MvModelBase/MvOutlinePainter.h"
 #include "MvModelBase/MvPrintableText.h"
 #include "MvModelBase/MvRenderingRule.h"
@@ -46,6 +47,7 @@ void MvPhotoPainter::paint(const QRectF &rect)
     if (!image.isNull()) {
         const double scale = double(image.width()) / full.width();
         drawCropped(image, {seen.topLeft() * scale, seen.size() * scale}, rect);
+        MvFotoResolution::paintWarning(m_painter, rect, MvFotoResolution::pixelsPerInch(seen.size(), rect.size()));
         return;
     }
     const MvRenderingRule rule = MvRenderingRule::decodeFrom(m_painter);

@@ -19,7 +19,8 @@ public:
     {}
 
     /// Fills the rectangle with the photo. Where its file is missing: nothing on print, on a screen a grey field, which
-    /// on an interactive one names the file.
+    /// on an interactive one names the file. A photo that will look coarse in print is marked where quality warnings
+    /// are shown.
     void paint(const QRectF &rect);
 
 private:

@@ -1,5 +1,7 @@
+#include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvModelBase/MvPaintRecorder.h"
 #include "MvProject/MvPageSource.h"
+#include "MvProject/MvPrintedPhoto.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
 
@@ -33,6 +35,9 @@ private Q_SLOTS:
     void missing();
     void fitsNarrowCalendaria_data();
     void fitsNarrowCalendaria();
+    void resolution_data();
+    void resolution();
+    void resolutionInCells();
 
 private:
     static QList<Item> itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule);
@@ -246,6 +251,62 @@ void tst_MvPhotoFrame::fitsNarrowCalendaria()
     }
     QVERIFY(sizes.first() > 0);
     QCOMPARE(sizes.count(sizes.first()), 12); // all months alike
+}
+
+void tst_MvPhotoFrame::resolution_data()
+{
+    QTest::addColumn<QString>("paper");
+    QTest::addColumn<double>("share");
+    QTest::addColumn<double>("expected"); // pixels per inch of a photo of 1600 x 1200 at the left
+    QTest::addColumn<bool>("isMarked");
+    // the frame with its bleed of 3 mm: heights 154, 216 and 303 mm; only a wide frame shows the photo's whole width
+    QTest::newRow("A5") << u"A5"_s << 0.5 << 1200 / 154.0 * 25.4 << false;
+    QTest::newRow("A4") << u"A4"_s << 0.5 << 1200 / 216.0 * 25.4 << true;
+    QTest::newRow("A3, cropped above and below") << u"A3"_s << 0.75 << 1200 / 303.0 * 25.4 << true;
+}
+
+void tst_MvPhotoFrame::resolution()
+{
+    QFETCH(const QString, paper);
+    QFETCH(const double, share);
+    QFETCH(const double, expected);
+    QFETCH(const bool, isMarked);
+    const QString path = m_folder.filePath(u"gross.png"_s);
+    QVERIFY(QFileInfo::exists(path) || QImage(1600, 1200, QImage::Format_RGB32).save(path));
+    MvPageFormat format = MvPageFormat::fromName(paper);
+    format.setOrientation(MvPageFormat::Orientation::Landscape);
+    format.setBleed(30.0);
+    MvPhotoFrame frame(path, Placement::Left);
+    frame.setShare(share);
+    MvCalendarPage page = document(u"MONTH_GRID_CLASSIC"_s, 1).pages()[0];
+    page.setPhotoFrame(frame);
+
+    const QList<MvPrintedPhoto> photos = MvPrintedPhoto::ofPage(page, format, {});
+    QCOMPARE(photos.size(), 1);
+    QVERIFY2(std::abs(photos[0].pixelsPerInch - expected) < 0.5, qPrintable(QString::number(photos[0].pixelsPerInch)));
+    QCOMPARE(photos[0].grade() == MvFotoResolution::Grade::Poor, isMarked);
+    const auto images = [&](unsigned rule) {
+        const QList<Item> items = itemsOf(page, format, rule);
+        return std::count_if(items.begin(), items.end(), [](const Item &item) { return item.kind == Item::Image; });
+    };
+    QCOMPARE(images(MvRenderingRule::Print), 1);
+    QCOMPARE(images(MvRenderingRule::InteractiveScreen | MvRenderingRule::ShowQualityWarnings), isMarked ? 2 : 1);
+}
+
+void tst_MvPhotoFrame::resolutionInCells()
+{
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.setEvents(
+        {{u"Oma 🎂"_s, QDate(1960, 1, 20).startOfDay(), true, MvFoto(QFileInfo(m_photo)), QUuid::createUuid(), {}}});
+    const auto end = qScopeGuard([&registry] { registry.setEvents({}); });
+    const MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
+    const QList<MvPrintedPhoto> photos =
+        MvPrintedPhoto::ofPage(calendar.pages()[0], calendar.format(), calendar.range());
+    QCOMPARE(photos.size(), 1);
+    QCOMPARE(photos[0].date, QDate(2027, 1, 20));
+    QVERIFY(std::abs(photos[0].rect.width() / photos[0].rect.height() - 1.5) < 0.05);
+    QVERIFY(std::abs(photos[0].pixelsPerInch - 300 / photos[0].rect.width() * 254.0) < 3.0);
+    QCOMPARE(MvPrintedPhoto::ofPage(calendar.pages()[1], calendar.format(), calendar.range()).size(), 0);
 }
 
 QList<Item> tst_MvPhotoFrame::itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule)

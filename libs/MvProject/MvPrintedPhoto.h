@@ -1,0 +1,30 @@
+#pragma once
+
+#include "MvFoto/MvFotoResolution.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QDate>
+#include <QList>
+#include <QRectF>
+#include <QString>
+
+class MvCalendarPage;
+class MvDateRange;
+class MvPageFormat;
+
+/// A photo that a page shows, its own or that of an entry in the cell of its day, and how finely it is printed.
+struct MVPROJECT_EXPORT MvPrintedPhoto
+{
+    QString path;
+    QDate date;                 // of the day in whose cell it stands; invalid for the page's own photo
+    QRectF rect;                // in tenths of a millimetre from the trimmed page's corner
+    double pixelsPerInch = 0.0; // of the part that is seen
+
+    MvFotoResolution::Grade grade() const { return MvFotoResolution::grade(pixelsPerInch); }
+
+    bool operator==(const MvPrintedPhoto &) const = default;
+
+    /// The photos of a page whose files can be read: its own first, then those of days by date. GUI thread.
+    static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                        const MvDateRange &documentRange);
+};
