@@ -6,6 +6,8 @@
 #include <QDomElement>
 #include <QImage>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -309,8 +311,10 @@ int MvCalendariumAppearance::offsetMonth() const
 
 void MvCalendariumAppearance::setOffsetMonth(int months)
 {
-    if (d.constData()->offsetMonth != months)
-        d->offsetMonth = months;
+    constexpr int most = MvCalendariumAppearanceImpl::mostMonthsAhead;
+    const int bounded = std::clamp(months, -most, most);
+    if (d.constData()->offsetMonth != bounded)
+        d->offsetMonth = bounded;
 }
 
 bool MvCalendariumAppearance::overriddenShowCalendarWeek() const

@@ -113,7 +113,7 @@ public:
     /// The headers that are not empty.
     QStringList columnHeadersList() const;
     int countColumns() const;
-    /// Months by which the calendarium is ahead of its page.
+    /// Months by which the calendarium is ahead of its page, at most a century either way.
     int offsetMonth() const;
     void setOffsetMonth(int months);
     /// Calendar weeks are shown although the layout does not ask for them.

@@ -5,6 +5,8 @@
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLParser.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,7 +31,7 @@ void MvCalendariumAppearanceImpl::read(const QDomElement &element, bool adaptGri
     if (!size.isEmpty()) // overrides the layout's
         optimizedSize = MvSpaceMagnitude(size);
     columnHeaders = MvXMLParser::textAttribute(element, columnHeadersKey);
-    offsetMonth = MvXMLParser::intAttribute(element, offsetMonthKey, 0);
+    offsetMonth = std::clamp(MvXMLParser::intAttribute(element, offsetMonthKey, 0), -mostMonthsAhead, mostMonthsAhead);
     layoutSchema.setShowHolidays(MvXMLParser::boolAttribute(element, showHolidayKey, true));
     if (adaptGrid)
         adaptGridToLayout();

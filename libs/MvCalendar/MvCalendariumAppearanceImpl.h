@@ -11,6 +11,8 @@ class MvCalendariumColorSchemaRegistry;
 /// The record behind MvCalendariumAppearance.
 struct MvCalendariumAppearanceImpl : MvSharedData
 {
+    static constexpr int mostMonthsAhead = 1200; // either way: a century
+
     MvCalendariumLayoutSchema layoutSchema;
     MvCalendariumColorSchema colorSchema;
     MvCalendariumFontSettings fontSettings;

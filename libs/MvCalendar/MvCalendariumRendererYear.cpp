@@ -119,7 +119,7 @@ QString MvCalendariumRendererYear::yearTitle() const
     } else if (first != last) {
         years += u"/%1"_s.arg(last % 100, 2, 10, QLatin1Char('0'));
     }
-    return isConfigured(calendar_render_year_school) ? tr("Schuljahr %1").arg(years) : years;
+    return isConfigured(calendar_render_year_school) ? MvCalendariumWords(language()).schoolYear(years) : years;
 }
 
 QStringList MvCalendariumRendererYear::monthNames(double cellWidth) const

@@ -45,15 +45,16 @@ QString MvCalendariumRendererYearOnly::calendarYear(const QDate &date) const
     const int first = date.isValid() ? date.year() : startDateOfCalendar().year();
     const int last = date.isValid() ? date.year() : endDateOfCalendar().year();
 
-    const QString prefix = isConfigured(calendar_render_year_school) ? tr("Schuljahr ") : QString();
-    if (!isConfigured(calendar_render_all_years))
-        return prefix + calendarYear(std::max(shown.year(), first), info);
-
-    const QString month = showsMonth() ? calendarMonth(shown.month(), info) + u' ' : QString();
     QStringList years;
-    for (int year = first; year <= last; ++year)
-        years.append(month + calendarYear(year, info));
-    return prefix + years.join(yearSeparator());
+    if (isConfigured(calendar_render_all_years)) {
+        const QString month = showsMonth() ? calendarMonth(shown.month(), info) + u' ' : QString();
+        for (int year = first; year <= last; ++year)
+            years.append(month + calendarYear(year, info));
+    } else {
+        years.append(calendarYear(std::max(shown.year(), first), info));
+    }
+    const QString text = years.join(yearSeparator());
+    return isConfigured(calendar_render_year_school) ? MvCalendariumWords(language()).schoolYear(text) : text;
 }
 
 bool MvCalendariumRendererYearOnly::showsMonth() const

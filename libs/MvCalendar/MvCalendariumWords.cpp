@@ -50,6 +50,11 @@ QString MvCalendariumWords::monthLong(int month) const
     return MvCalendarWordsRegistry::instance().monthNameLong(m_language, month);
 }
 
+QString MvCalendariumWords::schoolYear(const QString &years) const
+{
+    return MvCalendarWordsRegistry::instance().schoolYear(m_language, years);
+}
+
 QString MvCalendariumWords::fromDate(const QDate &date, const QString &format) const
 {
     if (format == shortDayFormat || format == longDayFormat)

@@ -23,6 +23,8 @@ public:
     QString weekShort() const;
     QString monthShort(int month) const;
     QString monthLong(int month) const;
+    /// The school year that is written with these years, "Schuljahr 2026/27".
+    QString schoolYear(const QString &years) const;
 
     /// The formats "ddd", "dddd", "MMM" and "MMMM" in the language of the page; every other format, also one that
     /// contains these, in that of the application.

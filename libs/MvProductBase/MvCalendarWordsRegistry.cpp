@@ -27,11 +27,20 @@ bool isMonth(int month)
     return month >= 1 && month <= 12;
 }
 
+/// What is known for the language in its country, else for the language alone.
+template <typename Words>
+Words wordsIn(const QHash<QString, Words> &all, const MvLocale &language, const Words &otherwise)
+{
+    const MvLocale locale = language.isValid() ? language : MvCalendarWordsRegistry::defaultLanguage();
+    return all.value(locale.name(), all.value(locale.language(), otherwise));
+}
+
 } // namespace
 
 MvCalendarWordsRegistry::MvCalendarWordsRegistry()
 {
     readWeekWords();
+    readPhrases();
 }
 
 MvLocale MvCalendarWordsRegistry::defaultLanguage()
@@ -53,15 +62,16 @@ void MvCalendarWordsRegistry::readWeekWords()
     }
 }
 
-MvCalendarWordsRegistry::WeekWords MvCalendarWordsRegistry::weekWords(const MvLocale &language) const
+void MvCalendarWordsRegistry::readPhrases()
 {
-    const MvLocale locale = language.isValid() ? language : defaultLanguage();
-    for (const QString &name : {locale.name(), locale.language()}) {
-        const auto words = m_weekWords.constFind(name);
-        if (words != m_weekWords.constEnd())
-            return *words;
+    const QFileInfo file = MvDirectoryConfig::instance().resource(u"words/phrases.xml"_s);
+    const QDomElement root = MvXMLLoader::loadDocumentElement(file);
+    for (QDomElement element = root.firstChildElement(u"phrases"_s); !element.isNull();
+         element = element.nextSiblingElement(u"phrases"_s)) {
+        Phrases phrases;
+        phrases.schoolYear = MvXMLParser::textAttribute(element, u"schoolyear"_s, u"%1"_s);
+        m_phrases.insert(MvXMLParser::textAttribute(element, u"language"_s), phrases);
     }
-    return {u"W"_s, u"W"_s, u"%1"_s};
 }
 
 std::shared_ptr<const MvCalendarWordsRegistry::Names> MvCalendarWordsRegistry::names(const MvLocale &language) const
@@ -106,6 +116,11 @@ QString MvCalendarWordsRegistry::monthNameLong(const MvLocale &language, int mon
     return isMonth(month) ? names(language)->longMonths[month - 1] : QString();
 }
 
+MvCalendarWordsRegistry::WeekWords MvCalendarWordsRegistry::weekWords(const MvLocale &language) const
+{
+    return wordsIn(m_weekWords, language, {u"W"_s, u"W"_s, u"%1"_s});
+}
+
 QString MvCalendarWordsRegistry::weekShort(const MvLocale &language) const
 {
     return weekWords(language).shortWord;
@@ -119,4 +134,9 @@ QString MvCalendarWordsRegistry::weekHeadline(const MvLocale &language) const
 QString MvCalendarWordsRegistry::weekText(const MvLocale &language) const
 {
     return weekWords(language).text;
+}
+
+QString MvCalendarWordsRegistry::schoolYear(const MvLocale &language, const QString &years) const
+{
+    return wordsIn(m_phrases, language, {u"%1"_s}).schoolYear.arg(years);
 }

@@ -13,7 +13,8 @@
 class MvCalendarWordsRegistry;
 extern template class MVPRODUCTBASE_EXPORT MvSingleton<MvCalendarWordsRegistry>;
 
-/// The words of the calendar in every language: names of days and months as they stand alone, the word for week.
+/// The words of the calendar in every language: names of days and months as they stand alone, the word for week, and
+/// what else the calendar says itself.
 ///
 /// Short names carry no dot at their end. An invalid locale speaks the default language. May be asked by any thread.
 class MVPRODUCTBASE_EXPORT MvCalendarWordsRegistry : public MvSingleton<MvCalendarWordsRegistry>
@@ -36,12 +37,19 @@ public:
     /// The text of a week in that column; `%1` stands for its number.
     QString weekText(const MvLocale &language) const;
 
+    /// "Schuljahr 2026/27" for the years "2026/27"; the years alone in a language without words of its own.
+    QString schoolYear(const MvLocale &language, const QString &years) const;
+
 private:
     struct WeekWords
     {
         QString shortWord;
         QString headline;
         QString text;
+    };
+    struct Phrases
+    {
+        QString schoolYear;
     };
     struct Names
     {
@@ -52,10 +60,12 @@ private:
     };
 
     void readWeekWords();
+    void readPhrases();
     WeekWords weekWords(const MvLocale &language) const;
     std::shared_ptr<const Names> names(const MvLocale &language) const;
 
     QHash<QString, WeekWords> m_weekWords; // by "de_CH" or "de"; never changes once read
+    QHash<QString, Phrases> m_phrases;     // likewise
     mutable QReadWriteLock m_lock;         // guards m_names
     mutable QHash<MvLocale, std::shared_ptr<const Names>> m_names;
 };

@@ -16,6 +16,24 @@ namespace {
 constexpr int monthsPerYear = 12;
 constexpr double tallestStrip = 0.4; // of its width: a strip beside a photo lies at the page's foot
 
+/// The range of a year's page: it begins with its own first month, not with that of the whole calendar.
+MvDateRange twelveMonths(const QDate &month)
+{
+    return {month, month.addMonths(monthsPerYear).addDays(-1)};
+}
+
+/// The days that both have; those of the year where there are none.
+MvDateRange partOf(const MvDateRange &calendar, const MvDateRange &year)
+{
+    const MvDateRange part(std::max(calendar.start(), year.start()), std::min(calendar.end(), year.end()));
+    return calendar.isValid() && part.isValid() ? part : year;
+}
+
+MvCalendariumContentConfig monthsAhead(const MvCalendariumContentConfig &content, int months)
+{
+    return months == 0 ? content : content.moveToDay(content.date().addMonths(months));
+}
+
 } // namespace
 
 MvCalendarPage::MvCalendarPage(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content)
@@ -154,11 +172,18 @@ std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendar
 {
     std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
     const MvCalendariumContentConfig content = m_content.moveToDayInMonth(1);
-    // a year's page begins with its own first month, not with that of the whole calendar
-    const QDate month = content.date();
-    const bool isYearPage = appearance.type() == CALENDAR_YEAR;
-    made->setCalendarInformation(content, isYearPage ? MvDateRange(month, month.addMonths(monthsPerYear).addDays(-1))
-                                                     : documentRange);
+    switch (appearance.type().value()) {
+    case CALENDAR_YEAR: // moves its range itself
+        made->setCalendarInformation(content, twelveMonths(content.date()));
+        break;
+    case CALENDAR_YEAR_ONLY:
+        made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()),
+                                     partOf(documentRange, twelveMonths(content.date())));
+        break;
+    default:
+        made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()), documentRange);
+        break;
+    }
     made->setProductSize(productSize);
     made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
     return made;

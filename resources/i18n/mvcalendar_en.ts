@@ -754,20 +754,6 @@
     </message>
 </context>
 <context>
-    <name>MvCalendariumRendererYear</name>
-    <message>
-        <source>Schuljahr %1</source>
-        <translation>Schuljahr %1</translation>
-    </message>
-</context>
-<context>
-    <name>MvCalendariumRendererYearOnly</name>
-    <message>
-        <source>Schuljahr </source>
-        <translation>Schuljahr </translation>
-    </message>
-</context>
-<context>
     <name>MvCli</name>
     <message>
         <source>die Ausgabe lässt sich nicht schreiben</source>

@@ -201,18 +201,22 @@ void tst_MvCalendarContent::words_data()
     QTest::addColumn<MvLocale>("language");
     QTest::addColumn<QString>("shortDays");
     QTest::addColumn<QString>("shortMonths");
-    QTest::addColumn<QString>("first"); // Monday, January, week
+    QTest::addColumn<QString>("first"); // Monday, January, week, school year
     QTest::newRow("German") << MvLocale(u"de_DE"_s) << u"Mo Di Mi Do Fr Sa So"_s
-                            << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s << u"Montag Januar KW"_s;
+                            << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s
+                            << u"Montag Januar KW Schuljahr 26/27"_s;
     QTest::newRow("German in Austria") << MvLocale(u"de_AT"_s) << u"Mo Di Mi Do Fr Sa So"_s
-                                       << u"Jän Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s << u"Montag Jänner KW"_s;
+                                       << u"Jän Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s
+                                       << u"Montag Jänner KW Schuljahr 26/27"_s;
     QTest::newRow("French") << MvLocale(u"fr_CH"_s) << u"lun mar mer jeu ven sam dim"_s
-                            << u"janv févr mars avr mai juin juil août sept oct nov déc"_s << u"lundi janvier Sem"_s;
+                            << u"janv févr mars avr mai juin juil août sept oct nov déc"_s
+                            << u"lundi janvier Sem Année scolaire 26/27"_s;
     QTest::newRow("Polish: months in the nominative")
         << MvLocale(u"pl_PL"_s) << u"pon wt śr czw pt sob niedz"_s
-        << u"sty lut mar kwi maj cze lip sie wrz paź lis gru"_s << u"poniedziałek styczeń Tydz"_s;
+        << u"sty lut mar kwi maj cze lip sie wrz paź lis gru"_s << u"poniedziałek styczeń Tydz Rok szkolny 26/27"_s;
     QTest::newRow("none: German") << MvLocale() << u"Mo Di Mi Do Fr Sa So"_s
-                                  << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s << u"Montag Januar KW"_s;
+                                  << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s
+                                  << u"Montag Januar KW Schuljahr 26/27"_s;
 }
 
 void tst_MvCalendarContent::words()
@@ -226,7 +230,7 @@ void tst_MvCalendarContent::words()
     for (int month = 1; month <= 12; ++month)
         months.append(registry.monthNameShort(language, month));
     const QStringList first = {registry.dayName(language, 1, false), registry.monthNameLong(language, 1),
-                               registry.weekShort(language)};
+                               registry.weekShort(language), registry.schoolYear(language, u"26/27"_s)};
     QTEST(days.join(u' '), "shortDays");
     QTEST(months.join(u' '), "shortMonths");
     QTEST(first.join(u' '), "first");
@@ -242,6 +246,7 @@ void tst_MvCalendarContent::wordsOutOfRange()
     }
     QVERIFY(registry.dayName(german, 8, true).isEmpty());
     QCOMPARE(registry.weekShort(MvLocale(u"ja_JP"_s)), u"W"_s);
+    QCOMPARE(registry.schoolYear(MvLocale(u"ja_JP"_s), u"2026"_s), u"2026"_s);
 }
 
 void tst_MvCalendarContent::weekOptions()

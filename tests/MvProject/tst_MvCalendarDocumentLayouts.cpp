@@ -7,6 +7,8 @@
 
 #include <QPainter>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 using Item = MvPaintRecording::Item;
@@ -46,7 +48,8 @@ private Q_SLOTS:
     void monthAboveLayoutsWithoutOne_data();
     void monthAboveLayoutsWithoutOne();
     void columnsOfTheFamilyPlanner();
-    void pagesOfWholeYears();
+    void titleOfPage_data();
+    void titleOfPage();
     void calendarWeeks_data();
     void calendarWeeks();
 };
@@ -95,13 +98,58 @@ void tst_MvCalendarDocumentLayouts::columnsOfTheFamilyPlanner()
     QVERIFY(kept.columnHeadersList().isEmpty());
 }
 
-void tst_MvCalendarDocumentLayouts::pagesOfWholeYears()
+void tst_MvCalendarDocumentLayouts::titleOfPage_data()
 {
-    const MvCalendarDocument year = document(u"YEAR_ONLY"_s);
-    QCOMPARE(year.pageDates(), QList<QDate>{QDate(2027, 1, 1)});
-    const QList<Item> texts = textsOf(year, 0);
-    QCOMPARE(texts.size(), 1); // no month above it
-    QCOMPARE(texts.constFirst().text, u"2027"_s);
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QDate>("from");
+    QTest::addColumn<int>("months");
+    QTest::addColumn<int>("monthsAhead");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QStringList>("titles"); // the first text of each page, the months' blank in front taken off
+    const QDate january(2027, 1, 1);
+    const QDate august(2026, 8, 1);
+    const QString german = u"de_DE"_s;
+    QTest::newRow("a year") << u"YEAR_ONLY"_s << january << 12 << 0 << german << QStringList(u"2027"_s);
+    QTest::newRow("each school year its own") << u"SCHOOL_YEAR"_s << august << 24 << 0 << german
+                                              << QStringList{u"Schuljahr 2026/2027"_s, u"Schuljahr 2027/2028"_s};
+    QTest::newRow("as long as the calendar lasts")
+        << u"SCHOOL_YEAR"_s << august << 4 << 0 << u"fr_FR"_s << QStringList(u"Année scolaire 2026"_s);
+    QTest::newRow("its grid") << u"SCHOOL_YEAR_GRID"_s << august << 24 << 0 << u"en_GB"_s
+                              << QStringList{u"School year 2026/27"_s, u"School year 2027/28"_s};
+    QTest::newRow("a month ahead") << u"MONTH_GRID_CLASSIC"_s << QDate(2026, 11, 1) << 2 << 1 << german
+                                   << QStringList{u"Dezember 2026"_s, u"Januar 2027"_s};
+    QTest::newRow("two behind, in the line above")
+        << u"DAY_LIST"_s << january << 1 << -2 << german << QStringList(u"November 2026"_s);
+    for (const QString &layout : {u"YEAR_ONLY"_s, u"YEAR_GRID"_s}) {
+        QTest::addRow("%s: years ahead", qPrintable(layout))
+            << layout << january << 12 << 24 << german << QStringList(u"2029"_s);
+        QTest::addRow("%s: a year behind", qPrintable(layout))
+            << layout << january << 12 << -12 << german << QStringList(u"2026"_s);
+        QTest::addRow("%s: no further than a century", qPrintable(layout))
+            << layout << january << 12 << std::numeric_limits<int>::max() << german << QStringList(u"2127"_s);
+    }
+    QTest::newRow("nor back") << u"MONTH_GRID_CLASSIC"_s << january << 1 << std::numeric_limits<int>::min() << german
+                              << QStringList(u"Januar 1927"_s);
+}
+
+void tst_MvCalendarDocumentLayouts::titleOfPage()
+{
+    QFETCH(QString, layout);
+    QFETCH(QDate, from);
+    QFETCH(int, months);
+    QFETCH(int, monthsAhead);
+    QFETCH(QString, language);
+    QFETCH(QStringList, titles);
+    MvCalendarDocument document = ::document(layout);
+    MvCalendariumAppearance appearance = document.appearance();
+    appearance.setOffsetMonth(monthsAhead);
+    document.setAppearance(appearance);
+    document.setRange({from, from.addMonths(months).addDays(-1)});
+    document.setHolidayConfig(MvCalendariumHolidayConfig(MvLocale(language), {}, FEATURE_NONE));
+    QStringList printed;
+    for (int page = 0; page < document.pages().size(); ++page)
+        printed.append(textsOf(document, page).constFirst().text.trimmed());
+    QCOMPARE(printed, titles);
 }
 
 void tst_MvCalendarDocumentLayouts::calendarWeeks_data()
