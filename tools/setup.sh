@@ -5,9 +5,13 @@ set -eu
 
 build_packages="g++ cmake ninja-build ccache pkg-config python3-minimal qt6-base-dev qt6-svg-dev
     qt6-image-formats-plugins libgl-dev libopengl-dev libegl-dev libvulkan-dev libqpdf-dev fonts-lato fonts-ebgaramond
-    libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n"
+    libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
+    libhyphen-dev hyphen-bg hyphen-ca hyphen-cs hyphen-da hyphen-de hyphen-el hyphen-en-gb hyphen-en-us hyphen-es
+    hyphen-fr hyphen-hr hyphen-hu hyphen-it hyphen-nl hyphen-no hyphen-pl hyphen-pt-pt hyphen-ro hyphen-sk hyphen-sl
+    hyphen-sv"
 test_packages="python3 poppler-utils qpdf libbenchmark-dev clang-format desktop-file-utils appstream mandoc
-    shared-mime-info xvfb xauth dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi"
+    shared-mime-info xvfb xauth dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
+    fonts-noto-color-emoji"
 
 case "${1:-}" in
 build) wanted="$build_packages" ;;

@@ -27,6 +27,21 @@ const QString sampleDayNumber = u"22"_s; // the widest one
 constexpr double topLineWidth = 20.0;
 constexpr double borderAllowance = 1.0;
 
+constexpr double smallestPoints = 6.5; // of what people read on paper
+constexpr double pageDpi = 254.0;      // a pixel of the page is a tenth of a millimetre
+
+double floorOfType(const QFont &onPaper)
+{
+    return std::min(MvMath::point2pixel(smallestPoints, pageDpi), double(onPaper.pixelSize()));
+}
+
+/// The font, not smaller than the floor, which is rounded up since fonts have whole pixels.
+QFont atLeast(double floor, QFont font)
+{
+    font.setPixelSize(std::max(font.pixelSize(), static_cast<int>(std::ceil(floor))));
+    return font;
+}
+
 } // namespace
 
 MvCalendariumRenderer::MvCalendariumRenderer(const MvCalendariumAppearance &appearance)
@@ -266,17 +281,46 @@ double MvCalendariumRenderer::max3(double a, double b, double c)
 
 QFont MvCalendariumRenderer::font(const MvCalendarCellType &type) const
 {
-    return m_appearance.font(type, m_productSize, m_minimumFontSize);
+    const QFont font = m_appearance.font(type, m_productSize, m_minimumFontSize);
+    return paperSize() == m_productSize ? font : atLeast(smallestPixelSize(type), font);
 }
 
 QFont MvCalendariumRenderer::fontHolidays(const MvCalendarCellType &type) const
 {
-    return m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize);
+    const QFont font = m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize);
+    return paperSize() == m_productSize ? font : atLeast(smallestHolidayPixelSize(type), font);
 }
 
 QFontMetrics MvCalendariumRenderer::fontMetrics(const MvCalendarCellType &type) const
 {
-    return m_appearance.fontMetrics(type, m_productSize, m_minimumFontSize);
+    if (paperSize() == m_productSize)
+        return m_appearance.fontMetrics(type, m_productSize, m_minimumFontSize);
+    return QFontMetrics(font(type));
+}
+
+MvSpaceMagnitude MvCalendariumRenderer::paperSize() const
+{
+    return m_paperSize == MvSpaceMagnitude() ? m_productSize : m_paperSize;
+}
+
+double MvCalendariumRenderer::smallestPixelSize(const MvCalendarCellType &type) const
+{
+    return floorOfType(m_appearance.font(type, paperSize(), m_minimumFontSize));
+}
+
+double MvCalendariumRenderer::smallestHolidayPixelSize(const MvCalendarCellType &type) const
+{
+    return floorOfType(m_appearance.fontHolidays(type, paperSize(), m_minimumFontSize));
+}
+
+MvTextFitter MvCalendariumRenderer::fitter(const MvCalendarCellType &type) const
+{
+    return {font(type), smallestPixelSize(type), MvHyphenator(language())};
+}
+
+MvTextFitter MvCalendariumRenderer::holidayFitter(const MvCalendarCellType &type) const
+{
+    return {fontHolidays(type), smallestHolidayPixelSize(type), MvHyphenator(language())};
 }
 
 QFontMetricsF MvCalendariumRenderer::calculateFontMetrics(const QFont &font, QPaintDevice *device)

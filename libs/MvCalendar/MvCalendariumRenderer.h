@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumDisplayAbilities.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvCalendariumWords.h"
+#include "MvCalendar/MvTextFitter.h"
 #include "MvCalendar/MvUnfittingText.h"
 #include "MvCore/MvRealRange.h"
 #include "MvCore/MvSpaceMagnitude.h"
@@ -64,6 +65,9 @@ public:
     void setCalendarInformation(const MvCalendariumContentConfig &content, const MvDateRange &range);
     /// The paper class of the printed product; none (the default) leaves fonts as the layout made them.
     void setProductSize(const MvSpaceMagnitude &size) { m_productSize = size; }
+    /// The paper class of the sheet, where that of the product is smaller, so that fonts are. It says how small type
+    /// may become, see smallestPixelSize(); by default that of the product.
+    void setPaperSize(const MvSpaceMagnitude &size) { m_paperSize = size; }
     /// Points; 6 by default.
     void setMinimumFontSize(int size) { m_minimumFontSize = size; }
     /// The project whose personal entries are shown.
@@ -119,6 +123,17 @@ public:
     MvCalendarBorderType borderType(const MvCalendarCellType &type) const { return m_appearance.borderType(type); }
     /// Sum of the horizontal and of the vertical paddings.
     QSizeF paddingDifference(const MvCalendarCellType &type) const;
+
+    // the floor of type: 6.5 points on paper, or less where the layout with the user's percentage has less on this
+    // paper
+    /// The pixel size below which no text of the type is made smaller.
+    double smallestPixelSize(const MvCalendarCellType &type) const;
+    /// The same for the texts of days.
+    double smallestHolidayPixelSize(const MvCalendarCellType &type) const;
+    /// Fits texts in the font of the type, dividing words of the page's language.
+    MvTextFitter fitter(const MvCalendarCellType &type) const;
+    /// The same for the texts of days.
+    MvTextFitter holidayFitter(const MvCalendarCellType &type) const;
 
     // measuring
     /// In pixels of the device, (0, 0) for an empty text.
@@ -245,6 +260,7 @@ private:
 
     MvCalendariumWords words() const;
     bool usesShortDayNames() const;
+    MvSpaceMagnitude paperSize() const;
     bool hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const;
     bool hasVacationColors(const QDate &date) const;
     void paintFills(QPainter &painter);
@@ -255,6 +271,7 @@ private:
     double m_backgroundAlpha = 1.0;
     QHash<unsigned int, QPainterPath> m_fills; // by colour; empty outside render()
     MvSpaceMagnitude m_productSize;
+    MvSpaceMagnitude m_paperSize; // none: that of the product
     int m_minimumFontSize = 6;
     MvProjectIdentifier m_modelInfo;
     QList<MvUnfittingText> m_unfittingTexts;

@@ -1,6 +1,8 @@
 #include "MvCalendar/MvCalendariumTextPainter.h"
 
+#include "MvCalendar/MvLineBreaker.h"
 #include "MvCore/MvStringHelper.h"
+#include "MvModelBase/MvHyphenator.h"
 #include "MvModelBase/MvOutlinePainter.h"
 #include "MvModelBase/MvPrintableText.h"
 #include "MvModelBase/MvTextOutlineCache.h"
@@ -11,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -24,71 +25,8 @@ constexpr qsizetype mostInLine = 2000; // more than a line of the largest sheet 
 
 MvTextOutline outlineOf(const QFont &font, const QString &text)
 {
-    return MvTextOutlineCache::instance().outline(
-        font, MvPrintableText::shapeable(MvStringHelper::beginning(text, mostInLine)));
-}
-
-double advanceOf(const QFont &font, const QString &text)
-{
-    return MvTextOutlineCache::instance().advance(font, MvPrintableText::shapeable(text));
-}
-
-/// The words of a text, taken one by one from its start. Only blanks part them, which line breaks and controls are
-/// here.
-class Words
-{
-public:
-    explicit Words(const QString &text)
-        : m_text(MvPrintableText::shapeable(text))
-    {
-        skipBlanks();
-    }
-
-    bool isAtEnd() const { return m_position >= m_text.size(); }
-
-    QString next()
-    {
-        const qsizetype end = m_text.indexOf(u' ', m_position);
-        const QString word = m_text.mid(m_position, end < 0 ? -1 : end - m_position);
-        m_position = end < 0 ? m_text.size() : end;
-        skipBlanks();
-        return word;
-    }
-
-private:
-    void skipBlanks()
-    {
-        while (!isAtEnd() && m_text.at(m_position) == u' ')
-            ++m_position;
-    }
-
-    QString m_text;
-    qsizetype m_position = 0;
-};
-
-/// At most `mostLines` lines; what comes after them is not looked at.
-QStringList brokenLines(int maxWidth, const QFont &font, const QStringList &texts, qsizetype mostLines)
-{
-    QStringList lines;
-    for (const QString &text : texts) {
-        QString line;
-        Words words(text);
-        while (!words.isAtEnd() && lines.size() < mostLines) {
-            const QString word = words.next();
-            const QString candidate = line.isEmpty() ? word : line + u' ' + word;
-            if (!MvCalendariumTextPainter::isTextToWide(maxWidth, font, candidate)) {
-                line = candidate;
-            } else if (!line.isEmpty()) {
-                lines.append(line);
-                line = word;
-            } else {
-                lines.append(word);
-            }
-        }
-        if (!line.isEmpty() && lines.size() < mostLines)
-            lines.append(line);
-    }
-    return lines;
+    const QString line = MvPrintableText::shapeable(MvStringHelper::beginning(text, mostInLine));
+    return MvTextOutlineCache::instance().outline(font, MvHyphenator::withoutSoftHyphens(line));
 }
 
 /// The ends of the graphemes of a text, from its start.
@@ -121,17 +59,12 @@ QRectF aligned(const QRectF &rect, int flags, double width, double height)
 
 int MvCalendariumTextPainter::advance(const QFont &font, const QString &text)
 {
-    return static_cast<int>(std::lround(advanceOf(font, text)));
+    return static_cast<int>(std::lround(MvLineBreaker::advance(font, text)));
 }
 
 bool MvCalendariumTextPainter::isTextToWide(int maxWidth, const QFont &font, const QString &text)
 {
-    // a start that is too wide decides, however long the rest is
-    for (qsizetype length = firstLook; length < text.size(); length *= 4) {
-        if (advance(font, MvStringHelper::beginning(text, length)) > maxWidth)
-            return true;
-    }
-    return advance(font, text) > maxWidth;
+    return MvLineBreaker::isTooWide(maxWidth, font, text);
 }
 
 bool MvCalendariumTextPainter::isAnyTextToWide(int maxWidth, const QFont &font, const QStringList &texts)
@@ -142,13 +75,15 @@ bool MvCalendariumTextPainter::isAnyTextToWide(int maxWidth, const QFont &font, 
 
 QStringList MvCalendariumTextPainter::breakLines(int maxWidth, const QFont &font, const QStringList &texts)
 {
-    return brokenLines(maxWidth, font, texts, std::numeric_limits<qsizetype>::max());
+    return MvLineBreaker(maxWidth, font).lines(texts);
 }
 
 QStringList MvCalendariumTextPainter::fitLines(int maxWidth, int maxLines, const QFont &font, const QStringList &texts,
                                                bool *isCut)
 {
-    QStringList lines = brokenLines(maxWidth, font, texts, std::max(0, maxLines) + 1);
+    MvLineBreaker breaker(maxWidth, font);
+    breaker.setMostLines(std::max(0, maxLines) + 1);
+    QStringList lines = breaker.lines(texts);
     *isCut = lines.size() > maxLines;
     if (!*isCut)
         return lines;
@@ -183,7 +118,7 @@ QString MvCalendariumTextPainter::elided(int maxWidth, const QFont &font, const 
 
 QRectF MvCalendariumTextPainter::boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text)
 {
-    return aligned(rect, flags, advanceOf(font, text), QFontMetricsF(font).height());
+    return aligned(rect, flags, MvLineBreaker::advance(font, text), QFontMetricsF(font).height());
 }
 
 void MvCalendariumTextPainter::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)

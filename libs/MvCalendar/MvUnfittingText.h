@@ -4,12 +4,14 @@
 #include <QRectF>
 #include <QString>
 
-/// A text of a day that had no room in its cell: it was shortened, or one of its words is wider than the cell.
+/// A text of a day that does not stand whole on the page: it had no room in its cell and was shortened or left out, or
+/// no font has all of its characters.
 struct MvUnfittingText
 {
     QDate date;
     QString text;
-    QRectF rect; // of the cell, in page units
+    QRectF rect;                       // of the cell, in page units
+    QString missingGlyphs = QString(); // the characters that no font can show; empty: it is room that the text lacks
 
     bool operator==(const MvUnfittingText &) const = default;
 };

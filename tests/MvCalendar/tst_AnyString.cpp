@@ -119,7 +119,8 @@ void tst_AnyString::shortens_data()
     QTest::newRow("no blank before the ellipsis") << u"abcdefgh  ijkl"_s << u"abcdefgh…"_s;
     QTest::newRow("100,000") << QString(100'000, u'a') << u"aaaaaaaaa…"_s;
     QTest::newRow("accent stays with its letter") << u"abcdefghe\u0301\u0301ijkl"_s << u"abcdefghe\u0301\u0301…"_s;
-    QTest::newRow("pair stays whole") << u"abcdefgh\U0001F382ijkl"_s << u"abcdefgh\U0001F382…"_s;
+    // of a plane without fonts: an emoji would be as wide as its font has it
+    QTest::newRow("pair stays whole") << u"abcdefgh\U000F0000ijkl"_s << u"abcdefgh\U000F0000…"_s;
     QTest::newRow("family stays together") << u"abcdef\U0001F468\u200d\U0001F469\u200d\U0001F467ijkl"_s
                                            << u"abcdef\U0001F468\u200d\U0001F469\u200d\U0001F467…"_s;
 }

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "MvModelBase/MvHyphenator.h"
+
+#include <QFont>
+#include <QStringList>
+
+#include <limits>
+
+/// Breaks texts into lines, filled greedily; every text starts on a new line. Blanks part words, which line breaks and
+/// controls are here. Takes time by what it gives, however long the texts are.
+class MvLineBreaker
+{
+public:
+    /// Which words may be divided between lines.
+    enum Division {
+        NoWords,   ///< a word that is too wide has a line of its own
+        LongWords, ///< those that are too wide for any line
+        AllWords   ///< every word that does not fit the rest of its line
+    };
+
+    /// `maxWidth`: of a line in pixels of the font.
+    MvLineBreaker(int maxWidth, const QFont &font);
+
+    void setDivision(Division division, const MvHyphenator &hyphenator);
+    /// A line of one word, or of a part of one, may be as wide as this; by default as any line.
+    void setWidestWord(int width);
+    /// What comes after so many lines is not looked at.
+    void setMostLines(qsizetype count) { m_mostLines = count; }
+
+    QStringList lines(const QStringList &texts);
+
+    /// Of the last texts: a word that could not be divided is wider than it may be.
+    bool hasTooWideWord() const { return m_hasTooWideWord; }
+
+    /// The advance of a text in pixels of its font. Soft hyphens take none.
+    static double advance(const QFont &font, const QString &text);
+    /// The advance in whole pixels exceeds the width.
+    static bool isTooWide(int maxWidth, const QFont &font, const QString &text);
+
+private:
+    void addWord(QString word);
+    bool divide(QString *word);
+    void endLine();
+    bool isFull() const { return m_lines.size() >= m_mostLines; }
+
+    int m_maxWidth;
+    QFont m_font;
+    int m_widestWord;
+    Division m_division = NoWords;
+    MvHyphenator m_hyphenator;
+    qsizetype m_mostLines = std::numeric_limits<qsizetype>::max();
+    QStringList m_lines;
+    QString m_line;
+    bool m_hasTooWideWord = false;
+};

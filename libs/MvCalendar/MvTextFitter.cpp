@@ -1,0 +1,102 @@
+#include "MvCalendar/MvTextFitter.h"
+
+#include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCalendar/MvLineBreaker.h"
+#include "MvCore/MvMath.h"
+
+#include <QFontMetricsF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double pageDpi = 254.0; // a pixel of the page is a tenth of a millimetre
+constexpr double stepPoints = 0.5;
+constexpr double roundingSlack = 0.01; // of a line's height: rooms are often computed from it
+
+int lineCount(double height, const QFont &font)
+{
+    return std::max(0, static_cast<int>(height / QFontMetricsF(font).height() + roundingSlack));
+}
+
+QFont resized(const QFont &font, int pixelSize)
+{
+    QFont smaller = font;
+    if (font.letterSpacingType() == QFont::AbsoluteSpacing && font.letterSpacing() != 0.0)
+        smaller.setLetterSpacing(QFont::AbsoluteSpacing, font.letterSpacing() * pixelSize / font.pixelSize());
+    smaller.setPixelSize(pixelSize);
+    return smaller;
+}
+
+} // namespace
+
+MvTextFitter::MvTextFitter(const QFont &font, double floor, const MvHyphenator &hyphenator)
+    : m_font(font)
+    , m_floor(floor)
+    , m_hyphenator(hyphenator)
+{}
+
+/// From the largest to the smallest.
+QList<QFont> MvTextFitter::fonts() const
+{
+    QList<QFont> fonts{m_font};
+    const int smallest = std::max(1, static_cast<int>(std::ceil(m_floor)));
+    for (double size = m_font.pixelSize(); size > smallest;) {
+        size = std::max(double(smallest), size - MvMath::point2pixel(stepPoints, pageDpi));
+        fonts.append(resized(m_font, static_cast<int>(std::lround(size))));
+    }
+    return fonts;
+}
+
+MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, double widestWord) const
+{
+    const int width = static_cast<int>(room.width());
+    const int widest = std::max(width, static_cast<int>(widestWord));
+    const QList<QFont> sizes = fonts();
+    for (const QFont &font : sizes) {
+        const int mostLines = lineCount(room.height(), font);
+        MvLineBreaker breaker(width, font);
+        breaker.setWidestWord(widest);
+        breaker.setMostLines(mostLines + 1);
+        for (const auto division : {MvLineBreaker::NoWords, MvLineBreaker::LongWords, MvLineBreaker::AllWords}) {
+            breaker.setDivision(division, m_hyphenator);
+            const QStringList lines = breaker.lines(texts);
+            if (lines.size() <= mostLines && !breaker.hasTooWideWord())
+                return {font, lines, false};
+        }
+    }
+    return cut(room, texts, widest);
+}
+
+/// As much as there is room for in the smallest type.
+MvFittedText MvTextFitter::cut(const QSizeF &room, const QStringList &texts, int widestWord) const
+{
+    const QFont font = fonts().constLast();
+    const int mostLines = lineCount(room.height(), font);
+    const int width = static_cast<int>(room.width());
+    MvLineBreaker breaker(width, font);
+    breaker.setWidestWord(widestWord);
+    breaker.setMostLines(mostLines + 1);
+    breaker.setDivision(MvLineBreaker::AllWords, m_hyphenator);
+    QStringList lines = breaker.lines(texts);
+    if (lines.size() > mostLines) {
+        lines.resize(mostLines);
+        if (!lines.isEmpty())
+            lines.last() = MvCalendariumTextPainter::elided(width, font, lines.constLast() + u'…');
+    }
+    for (QString &line : lines)
+        line = MvCalendariumTextPainter::elided(widestWord, font, line);
+    return {font, lines, true};
+}
+
+MvFittedText MvTextFitter::fitLine(double width, const QString &text) const
+{
+    const int most = static_cast<int>(width);
+    const QList<QFont> sizes = fonts();
+    for (const QFont &font : sizes) {
+        if (!MvLineBreaker::isTooWide(most, font, text))
+            return {font, {text}, false};
+    }
+    return {sizes.constLast(), {MvCalendariumTextPainter::elided(most, sizes.constLast(), text)}, true};
+}

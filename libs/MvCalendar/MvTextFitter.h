@@ -1,0 +1,49 @@
+#pragma once
+
+#include "MvCalendar/mvcalendar_export.h"
+#include "MvModelBase/MvHyphenator.h"
+
+#include <QFont>
+#include <QSizeF>
+#include <QStringList>
+
+/// A text as it is to be drawn.
+struct MvFittedText
+{
+    QFont font;
+    QStringList lines;
+    bool isCut = false; ///< something had no room: a line ends in an ellipsis, or there are none
+
+    bool operator==(const MvFittedText &) const = default;
+};
+
+/// Fits texts into their room: wrapped at blanks, then with words divided by the hyphenator, then in smaller type down
+/// to the floor, at last with an ellipsis. What fits as it is stays as it is.
+///
+/// Widths and heights are pixels of the font, which are page units. Takes time by the room, however long the texts are.
+class MVCALENDAR_EXPORT MvTextFitter
+{
+public:
+    /// `font`: in pixels, the largest that is used. `floor`: the pixel size below which nothing is made smaller; one
+    /// above the font's leaves the font alone.
+    MvTextFitter(const QFont &font, double floor, const MvHyphenator &hyphenator);
+
+    const QFont &font() const { return m_font; }
+    double floor() const { return m_floor; }
+
+    /// Every text starts on a new line. The widest line is as wide as the room, and as many lines are set as it is high
+    /// by line height. A word that stands alone in its line may be as wide as `widestWord`, where that is more than the
+    /// room: paddings give before a word is divided or made smaller.
+    MvFittedText fit(const QSizeF &room, const QStringList &texts, double widestWord = 0.0) const;
+
+    /// On one line, never divided.
+    MvFittedText fitLine(double width, const QString &text) const;
+
+private:
+    QList<QFont> fonts() const;
+    MvFittedText cut(const QSizeF &room, const QStringList &texts, int widestWord) const;
+
+    QFont m_font;
+    double m_floor;
+    MvHyphenator m_hyphenator;
+};
