@@ -108,7 +108,7 @@ MvCalendariumHolidayList MvHolidayBook::holidaysOfYear(const MvCalendariumHolida
         found.removeIf([](const MvCalendariumHoliday &holiday) { return holiday.type() != HOLIDAY_TYPE_PUBLIC; });
     if (!config.hasFeatures(FEATURE_SCHOOL_VACATIONS))
         return found;
-    found.append(vacations(locale)->days(key.year(), holidays->regionWithParents(config.province()),
+    found.append(vacations(locale)->days(key.year(), holidays->regionWithParents(config.province()), locale.language(),
                                          config.hasFeatures(FEATURE_VACATION_NAMES_DAILY)));
     std::stable_sort(found.begin(), found.end(), [](const MvCalendariumHoliday &a, const MvCalendariumHoliday &b) {
         return a.date() < b.date(); // vacations come last on their days: they were appended

@@ -122,13 +122,22 @@ std::optional<MvHolidayTable::Entry> MvHolidayTableReader::readEntry(const QDomE
     else if (readYear(element, u"from"_s, entry.from) && readYear(element, u"until"_s, entry.until) &&
              readExceptions(element, entry) && readRegions(element, table, entry.regions)) {
         entry.rule = *rule;
-        forEachChild(element, u"name"_s, [&](const QDomElement &name) {
-            entry.names.insert(MvXMLParser::textAttribute(name, u"language"_s),
-                               MvXMLParser::textAttribute(name, u"text"_s, entry.name));
-        });
+        entry.names = readNames(element);
         return entry;
     }
     return {};
+}
+
+QHash<QString, QString> MvHolidayTableReader::readNames(const QDomElement &element,
+                                                        const QHash<QString, QString> &common)
+{
+    QHash<QString, QString> names = common;
+    forEachChild(element, u"name"_s, [&names](const QDomElement &name) {
+        const QString text = MvXMLParser::textAttribute(name, u"text"_s).simplified();
+        if (!text.isEmpty())
+            names.insert(MvXMLParser::textAttribute(name, u"language"_s), text);
+    });
+    return names;
 }
 
 bool MvHolidayTableReader::readYear(const QDomElement &element, const QString &attribute, std::optional<int> &year)
@@ -171,7 +180,7 @@ bool MvHolidayTableReader::readRegions(const QDomElement &element, const MvHolid
 std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacation(const QDomElement &element)
 {
     const MvSchoolVacationTable::Vacation vacation = {
-        MvXMLParser::textAttribute(element, u"name"_s).simplified(),
+        MvXMLParser::textAttribute(element, u"name"_s).simplified(), readNames(element),
         QDate::fromString(MvXMLParser::textAttribute(element, u"start"_s), Qt::ISODate),
         QDate::fromString(MvXMLParser::textAttribute(element, u"end"_s), Qt::ISODate)};
     const qint64 length = vacation.start.daysTo(vacation.end);
@@ -188,10 +197,18 @@ void MvHolidayTableReader::readVacations(MvSchoolVacationTable &vacations)
 {
     if (!m_file.exists())
         return;
-    forEachChild(open(u"SchoolVacations"_s), u"region"_s, [&](const QDomElement &region) {
+    const QDomElement root = open(u"SchoolVacations"_s);
+    QHash<QString, QHash<QString, QString>> common; // by name: most vacations share their names with others
+    forEachChild(root, u"names"_s, [&common](const QDomElement &names) {
+        common.insert(MvXMLParser::textAttribute(names, u"of"_s).simplified(), readNames(names));
+    });
+    forEachChild(root, u"region"_s, [&](const QDomElement &region) {
         forEachChild(region, u"vacation"_s, [&](const QDomElement &element) {
-            if (const auto vacation = readVacation(element))
-                vacations.add(MvXMLParser::textAttribute(region, u"code"_s), *vacation);
+            auto vacation = readVacation(element);
+            if (!vacation)
+                return;
+            vacation->names = readNames(element, common.value(vacation->name));
+            vacations.add(MvXMLParser::textAttribute(region, u"code"_s), *vacation);
         });
     });
     report();

@@ -47,6 +47,8 @@ private:
     QDomElement ownCountry(const QString &country);
     MvHolidayTable::Region readRegion(const QDomElement &element);
     std::optional<MvHolidayTable::Entry> readEntry(const QDomElement &element, const MvHolidayTable &table);
+    /// The names of the element in other languages, over those that are common to its name.
+    static QHash<QString, QString> readNames(const QDomElement &element, const QHash<QString, QString> &common = {});
     std::optional<MvSchoolVacationTable::Vacation> readVacation(const QDomElement &element);
     bool readYear(const QDomElement &element, const QString &attribute, std::optional<int> &year);
     bool readExceptions(const QDomElement &element, MvHolidayTable::Entry &entry);

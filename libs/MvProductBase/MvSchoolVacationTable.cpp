@@ -13,7 +13,8 @@ QList<MvSchoolVacationTable::Vacation> MvSchoolVacationTable::vacations(const QS
     return found;
 }
 
-MvCalendariumHolidayList MvSchoolVacationTable::days(int year, const QStringList &regions, bool namesDaily) const
+MvCalendariumHolidayList MvSchoolVacationTable::days(int year, const QStringList &regions, const QString &language,
+                                                     bool namesDaily) const
 {
     // the day before the year tells whether a vacation goes on or starts on 1 January
     const QDate first = QDate(year, 1, 1).addDays(-1);
@@ -21,9 +22,10 @@ MvCalendariumHolidayList MvSchoolVacationTable::days(int year, const QStringList
     std::map<QDate, std::set<QString>> namesOfDays; // overlapping spans of one name count once
     const QList<Vacation> known = vacations(regions);
     for (const Vacation &vacation : known) {
+        const QString name = vacation.names.value(language, vacation.name);
         const QDate end = std::min(vacation.end, last);
         for (QDate day = std::max(vacation.start, first); day <= end; day = day.addDays(1))
-            namesOfDays[day].insert(vacation.name);
+            namesOfDays[day].insert(name);
     }
 
     MvCalendariumHolidayList found;

@@ -14,8 +14,9 @@ class MVPRODUCTBASE_EXPORT MvSchoolVacationTable
 public:
     struct Vacation
     {
-        QString name;
-        QDate start; // both included
+        QString name;                  // in the language of the region
+        QHash<QString, QString> names; // in other languages, by language code
+        QDate start;                   // both included
         QDate end;
     };
 
@@ -24,8 +25,9 @@ public:
     bool isEmpty() const { return m_vacations.isEmpty(); }
 
     /// One entry per day of the year that lies in a vacation of one of the regions or of the whole country, by date.
-    /// The name stands on the first day of a vacation, whatever its year, or with `namesDaily` on every day.
-    MvCalendariumHolidayList days(int year, const QStringList &regions, bool namesDaily) const;
+    /// The name, in the language where it is known, stands on the first day of a vacation, whatever its year, or with
+    /// `namesDaily` on every day.
+    MvCalendariumHolidayList days(int year, const QStringList &regions, const QString &language, bool namesDaily) const;
 
     /// The last day of the last vacation known; single days, which are known years ahead, do not count. Invalid when
     /// none is known.

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void days();
     void schoolVacations_data();
     void schoolVacations();
+    void vacationsSpeakTheLanguageOfThePage();
     void worksWithoutShareAlikeData();
     void ownFileCountsAfterReload();
     void answersManyThreads();
@@ -196,6 +197,16 @@ void tst_MvCalendariumHolidayCalculator::schoolVacations_data()
                                 << u"Sommerferien"_s;
     QTest::newRow("part of a Land") << u"de_DE"_s << u"SN-K"_s << QDate(2026, 7, 4) << QDate(2026, 8, 14)
                                     << u"Sommerferien"_s;
+    QTest::newRow("ZG, autumn, two weeks from a Saturday") // as the canton publishes them
+        << u"de_CH"_s << u"ZG"_s << QDate(2027, 10, 2) << QDate(2027, 10, 17) << u"Herbstferien"_s;
+    QTest::newRow("ZG, spring, in Italian")
+        << u"it_CH"_s << u"ZG"_s << QDate(2029, 4, 14) << QDate(2029, 4, 29) << u"Vacanze di primavera"_s;
+    QTest::newRow("GE, autumn, in French")
+        << u"fr_CH"_s << u"GE"_s << QDate(2026, 10, 19) << QDate(2026, 10, 23) << u"Vacances d'automne"_s;
+    QTest::newRow("GE, Easter, in German")
+        << u"de_CH"_s << u"GE"_s << QDate(2027, 3, 26) << QDate(2027, 4, 9) << u"Osterferien"_s;
+    QTest::newRow("LU, carnival, in Luxembourgish")
+        << u"lb_LU"_s << QString() << QDate(2027, 2, 6) << QDate(2027, 2, 14) << u"Fuesvakanz"_s;
 }
 
 void tst_MvCalendariumHolidayCalculator::schoolVacations()
@@ -220,6 +231,29 @@ void tst_MvCalendariumHolidayCalculator::schoolVacations()
     QCOMPARE(daily.first(), first);
     QCOMPARE(daily.last(), last);
     QVERIFY(named(FEATURE_VACATION_NAMES_DAILY).isEmpty());
+}
+
+// no name of one language on a page of another
+void tst_MvCalendariumHolidayCalculator::vacationsSpeakTheLanguageOfThePage()
+{
+    constexpr int features = FEATURE_SCHOOL_VACATIONS | FEATURE_VACATION_NAMES_DAILY;
+    QHash<QString, QHash<QString, QString>> languageOf; // by country and name
+    const QList<MvLocale> locales = calculator().availableLanguages();
+    for (const MvLocale &locale : locales) {
+        QHash<QString, QString> &known = languageOf[locale.country()];
+        for (const QString &region : calculator().availableProvinces(locale) + QStringList{QString()}) {
+            for (int year = 2019; year <= 2035; ++year) {
+                for (const MvCalendariumHoliday &day : holidays(year, locale.name(), region, features)) {
+                    if (day.type() != HOLIDAY_TYPE_SCHOOL_VACATION)
+                        continue;
+                    const QString language = known.value(day.description(), locale.language());
+                    QVERIFY2(language == locale.language(), qPrintable(locale.name() + u' ' + day.description()));
+                    known.insert(day.description(), language);
+                }
+            }
+        }
+    }
+    QVERIFY(languageOf[u"CH"_s].size() > 20);
 }
 
 void tst_MvCalendariumHolidayCalculator::worksWithoutShareAlikeData()

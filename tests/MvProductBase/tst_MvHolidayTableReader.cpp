@@ -163,19 +163,34 @@ void tst_MvHolidayTableReader::names_data()
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("region");
     QTest::addColumn<QStringList>("expected");
-    QTest::newRow("the country's language") << u"de"_s << u"N"_s << QStringList{u"0101 Neujahr"_s, u"0102 Nur so"_s};
-    QTest::newRow("another one") << u"fr"_s << u"S"_s << QStringList{u"0101 Nouvel An"_s, u"0102 Nur so"_s};
-    QTest::newRow("not known: that of the region") << u"en"_s << u"N"_s << QStringList{u"0101 Xx"_s, u"0102 Nur so"_s};
-    QTest::newRow("neither is known") << u"en"_s << u"S"_s << QStringList{u"0101 Neujahr"_s, u"0102 Nur so"_s};
+    QTest::newRow("the country's language")
+        << u"de"_s << u"N"_s
+        << QStringList{u"0101 Neujahr"_s, u"0102 Nur so"_s, u"0104 Woche"_s, u"0106 Woche"_s, u"0108 Brücke"_s};
+    QTest::newRow("another one") << u"fr"_s << u"S"_s
+                                 << QStringList{u"0101 Nouvel An"_s, u"0102 Nur so"_s, u"0104 Semaine"_s,
+                                                u"0106 Semaine blanche"_s, u"0108 Pont"_s};
+    QTest::newRow("not known: that of the region")
+        << u"en"_s << u"N"_s
+        << QStringList{u"0101 Xx"_s, u"0102 Nur so"_s, u"0104 Woche"_s, u"0106 Week"_s, u"0108 Brücke"_s};
+    QTest::newRow("neither is known") << u"en"_s << u"S"_s
+                                      << QStringList{u"0101 Neujahr"_s, u"0102 Nur so"_s, u"0104 Woche"_s,
+                                                     u"0106 Week"_s, u"0108 Brücke"_s};
 }
 
 void tst_MvHolidayTableReader::names()
 {
     write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Nur so" rule="01-02"/><holiday name="Neujahr" rule="01-01">
         <name language="fr" text="Nouvel An"/><name language="xx" text="Xx"/></holiday>)"));
+    write(u"vacations-ZZ.xml"_s, vacationFile(R"(<region code="">
+        <vacation name="Woche" start="2026-01-04" end="2026-01-04"/>
+        <vacation name="Woche" start="2026-01-06" end="2026-01-06"><name language="fr" text="Semaine blanche"/>
+            <name language="en" text="Week"/></vacation></region>
+        <names of="Woche"><name language="fr" text="Semaine"/><name language="en" text=""/></names>)"));
+    write(u"my-holidays.xml"_s, ::ownFile(R"(<vacation name="Brücke" start="2026-01-08" end="2026-01-08">
+        <name language="fr" text="Pont"/></vacation>)"));
     QFETCH(QString, language);
     QFETCH(QString, region);
-    QTEST(days(region, {}, 2026, language), "expected");
+    QTEST(days(region, FEATURE_SCHOOL_VACATIONS, 2026, language), "expected");
 }
 
 void tst_MvHolidayTableReader::vacations_data()
