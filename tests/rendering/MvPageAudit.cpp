@@ -1,0 +1,355 @@
+#include "MvPageAudit.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Item = MvPaintRecording::Item;
+
+constexpr double hair = 0.5;      // page units that nobody sees
+constexpr double tolerance = 1.0; // a tenth of a millimetre
+constexpr double leastGap = 0.18; // between two texts on one line, in sizes of their type; a blank is some 0.25
+
+/// What is left of a text that may be broken into lines, hyphenated, or joined with others.
+QString essence(const QString &text)
+{
+    QString left;
+    for (const QChar c : text) {
+        const bool isBreak = c.isSpace() || c == u'-' || c == u',' || c == QChar(0x00AD) || c == QChar(0x2010) ||
+                             c == QChar(0x2011) || c.category() == QChar::Other_Format;
+        if (!isBreak)
+            left += c;
+    }
+    return left;
+}
+
+QString trimmedNumber(const QString &text)
+{
+    QString number = text.trimmed();
+    while (number.size() > 1 && number.startsWith(u'0'))
+        number.remove(0, 1);
+    if (number.endsWith(u'.'))
+        number.chop(1);
+    return number;
+}
+
+QString describe(const QRectF &rect)
+{
+    return u"%1,%2 %3x%4"_s.arg(rect.x(), 0, 'f', 1)
+        .arg(rect.y(), 0, 'f', 1)
+        .arg(rect.width(), 0, 'f', 1)
+        .arg(rect.height(), 0, 'f', 1);
+}
+
+QString describe(const Item &item)
+{
+    const QString what = item.kind == Item::Text ? u"\"%1\""_s.arg(item.text) : u"shape"_s;
+    return what + u" at "_s + describe(item.bounds);
+}
+
+bool overlap(const QRectF &a, const QRectF &b, double allowed)
+{
+    const QRectF common = a & b;
+    return common.width() > allowed && common.height() > allowed;
+}
+
+/// Of lines, too, which have no height or no width.
+bool isWithin(const QRectF &outer, const QRectF &inner, double allowed)
+{
+    return inner.left() >= outer.left() - allowed && inner.right() <= outer.right() + allowed &&
+           inner.top() >= outer.top() - allowed && inner.bottom() <= outer.bottom() + allowed;
+}
+
+bool isCut(const Item &text)
+{
+    return !text.clip.isNull() && !isWithin(text.clip, text.bounds, hair);
+}
+
+} // namespace
+
+QString MvPageAudit::name(Kind kind)
+{
+    static const QStringList names{u"leaves the calendarium"_s, u"cut by its cell"_s,     u"texts meet"_s,
+                                   u"texts run on"_s,           u"line through text"_s,   u"photo on text"_s,
+                                   u"type too small"_s,         u"negative size"_s,       u"cells overlap"_s,
+                                   u"day not once"_s,           u"missing, unreported"_s, u"reported, though whole"_s};
+    return names.at(kind);
+}
+
+QList<MvPageAudit::Fault> MvPageAudit::faults(const MvPrintedPage &page)
+{
+    return MvPageAudit(page).m_faults;
+}
+
+MvPageAudit::MvPageAudit(const MvPrintedPage &page)
+    : m_page(page)
+    , m_rect(page.page().calendariumRect(page.format()))
+{
+    for (const Item &item : page.items) {
+        if (item.kind == Item::Text && !item.bounds.isEmpty())
+            m_texts.append(item);
+    }
+    checkPlaces();
+    checkPairs();
+    checkLines();
+    checkType();
+    checkCells();
+    checkDays();
+    checkDayTexts();
+    checkWords();
+    checkHeads();
+    checkReports();
+}
+
+// ---- ink
+
+void MvPageAudit::checkPlaces()
+{
+    for (const Item &item : m_page.items) {
+        const double pen = item.stroke.isValid() ? item.strokeWidth : 0.0;
+        if (!isWithin(m_rect, item.bounds, tolerance + pen))
+            add(LeavesElement, describe(item) + u", beyond "_s + describe(m_rect));
+        if (item.kind == Item::Text && isCut(item))
+            add(LeavesCell, describe(item) + u", clip "_s + describe(item.clip));
+    }
+}
+
+void MvPageAudit::checkPairs()
+{
+    QList<Item> sorted = m_texts;
+    for (const Item &item : m_page.items) {
+        if (item.kind == Item::Image)
+            sorted.append(item);
+    }
+    std::sort(sorted.begin(), sorted.end(),
+              [](const Item &a, const Item &b) { return a.bounds.top() < b.bounds.top(); });
+    for (qsizetype i = 0; i < sorted.size(); ++i) {
+        for (qsizetype j = i + 1; j < sorted.size() && sorted.at(j).bounds.top() < sorted.at(i).bounds.bottom(); ++j)
+            checkPair(sorted.at(i), sorted.at(j));
+    }
+}
+
+void MvPageAudit::checkPair(const Item &a, const Item &b)
+{
+    if (a.kind == Item::Image || b.kind == Item::Image) {
+        const Item &text = a.kind == Item::Text ? a : b;
+        const Item &image = a.kind == Item::Text ? b : a;
+        const QRectF covered = image.bounds.adjusted(hair, hair, -hair, -hair);
+        if (text.kind == Item::Text && overlap(text.bounds, covered, 0.0) && text.shape.intersects(covered))
+            add(PhotoOnText, describe(text));
+        return;
+    }
+    if (overlap(a.bounds, b.bounds, hair)) {
+        if (a.shape.intersects(b.shape))
+            add(TextsMeet, describe(a) + u" and "_s + describe(b));
+        return;
+    }
+    const Item &left = a.bounds.left() < b.bounds.left() ? a : b;
+    const Item &right = &left == &a ? b : a;
+    const double size = std::min(a.font.pixelSize(), b.font.pixelSize());
+    const bool isOneText = left.text.back().isSpace() || right.text.front().isSpace() || right.text.front() == u',';
+    if (qAbs(a.baseline.y() - b.baseline.y()) < tolerance && !isOneText &&
+        right.bounds.left() - left.bounds.right() < leastGap * size)
+        add(TextsRunOn, describe(left) + u" and "_s + describe(right));
+}
+
+void MvPageAudit::checkLines()
+{
+    for (const Item &line : m_page.items) {
+        if (line.kind != Item::Line || !line.stroke.isValid())
+            continue;
+        const QRectF middle = line.bounds.adjusted(-hair / 2.0, -hair / 2.0, hair / 2.0, hair / 2.0);
+        for (const Item &text : std::as_const(m_texts)) {
+            if (overlap(middle, text.bounds, 0.0) && text.shape.intersects(middle))
+                add(LineThrough, describe(text));
+        }
+    }
+}
+
+void MvPageAudit::checkType()
+{
+    for (const Item &item : std::as_const(m_texts)) {
+        const double floor = isOfDay(item) ? m_page.textFloor : m_page.headFloor;
+        if (item.font.pixelSize() < floor - tolerance)
+            add(TypeTooSmall, describe(item) + u", %1 pixels under %2"_s.arg(item.font.pixelSize()).arg(floor));
+    }
+}
+
+/// Whether it is one of the day's texts, or a part of it.
+bool MvPageAudit::isOfDay(const Item &item) const
+{
+    const QString text = essence(item.text).remove(u'…');
+    for (const MvPrintedPage::Day &day : m_page.days) {
+        if (!day.rect.contains(item.bounds.center()))
+            continue;
+        const QString all = essence(m_page.dayTexts.value(day.date).join(QString()));
+        return !all.isEmpty() && all.contains(text);
+    }
+    return false;
+}
+
+// ---- cells
+
+void MvPageAudit::checkCells()
+{
+    for (const Item &item : m_page.items) {
+        if (item.kind == Item::Line && (item.line.dx() < 0.0 || item.line.dy() < 0.0))
+            add(NegativeSize, u"line at "_s + describe(item.bounds));
+        if (!item.fill.isValid() || (item.kind != Item::Path && item.kind != Item::Rect))
+            continue;
+        const QList<QPolygonF> cells = item.shape.toSubpathPolygons();
+        QList<QRectF> rects;
+        for (const QPolygonF &cell : cells) {
+            rects.append(cell.boundingRect());
+            if (cell.size() > 2 && (cell.at(1).x() < cell.at(0).x() || cell.at(2).y() < cell.at(1).y()))
+                add(NegativeSize, u"ground at "_s + describe(rects.constLast()));
+        }
+        for (qsizetype i = 0; i < rects.size(); ++i) {
+            for (qsizetype j = i + 1; j < rects.size(); ++j) {
+                if (overlap(rects.at(i), rects.at(j), tolerance))
+                    add(CellsOverlap, u"grounds at "_s + describe(rects.at(i)) + u" and "_s + describe(rects.at(j)));
+            }
+        }
+    }
+}
+
+void MvPageAudit::checkDays()
+{
+    QSet<QDate> dates;
+    for (qsizetype i = 0; i < m_page.days.size(); ++i) {
+        const MvPrintedPage::Day &day = m_page.days.at(i);
+        const QString what = day.date.toString(Qt::ISODate) + u" at "_s + describe(day.rect);
+        if (!(day.rect.width() > 0.0) || !(day.rect.height() > 0.0))
+            add(NegativeSize, what);
+        else if (!isWithin(m_rect, day.rect, hair))
+            add(LeavesElement, what);
+        if (dates.contains(day.date))
+            add(DayNotOnce, what + u" again"_s);
+        dates.insert(day.date);
+        for (qsizetype j = i + 1; j < m_page.days.size(); ++j) {
+            if (overlap(day.rect, m_page.days.at(j).rect, hair))
+                add(CellsOverlap, what + u" and "_s + describe(m_page.days.at(j).rect));
+        }
+    }
+    if (!m_page.showsDays)
+        return;
+    const QDate first = m_page.choice().month;
+    const auto expected = first.daysTo(first.addMonths(m_page.page().monthCount()));
+    if (dates.size() != expected)
+        add(DayNotOnce, u"%1 of %2 days"_s.arg(dates.size()).arg(expected));
+}
+
+// ---- what can be read, and what is reported
+
+/// Where the texts of a day stand: in lists the number stands before the cell of its texts.
+QRectF MvPageAudit::regionOf(const MvPrintedPage::Day &day) const
+{
+    if (m_page.page().appearance().type() != CALENDAR_ONE_DAY_PER_ROW)
+        return day.rect;
+    return {m_rect.left(), day.rect.top(), m_rect.width(), day.rect.height()};
+}
+
+/// Everything whole in there, in the order of painting, which is that of reading.
+QString MvPageAudit::textIn(const QRectF &region) const
+{
+    QString all;
+    for (const Item &item : m_texts) {
+        if (region.contains(item.bounds.center()) && !isCut(item))
+            all += essence(item.text);
+    }
+    return all;
+}
+
+bool MvPageAudit::hasItem(const QRectF &region, const QString &text) const
+{
+    return std::any_of(m_texts.cbegin(), m_texts.cend(), [&](const Item &item) {
+        return region.contains(item.bounds.center()) && !isCut(item) && trimmedNumber(item.text) == trimmedNumber(text);
+    });
+}
+
+bool MvPageAudit::isReported(const QDate &date, const QString &text) const
+{
+    return std::any_of(m_page.unfitting.cbegin(), m_page.unfitting.cend(), [&](const MvUnfittingText &report) {
+        return (!date.isValid() || !m_page.showsDays || report.date == date) &&
+               essence(report.text).contains(essence(text));
+    });
+}
+
+void MvPageAudit::checkDayTexts()
+{
+    for (const MvPrintedPage::Day &day : m_page.days) {
+        const QRectF region = regionOf(day);
+        const QString number = QString::number(day.date.day());
+        const bool hasPhoto = std::any_of(m_page.items.cbegin(), m_page.items.cend(), [&region](const Item &item) {
+            return item.kind == Item::Image && region.contains(item.bounds.center());
+        });
+        const bool isNumberReported =
+            std::any_of(m_page.unfitting.cbegin(), m_page.unfitting.cend(), [&](const MvUnfittingText &report) {
+                return report.date == day.date && trimmedNumber(report.text) == number;
+            });
+        if (!hasPhoto && !hasItem(region, number) && !isNumberReported)
+            add(MissingText, u"number of "_s + day.date.toString(Qt::ISODate));
+    }
+    QMap<QDate, QRectF> regions;
+    for (const MvPrintedPage::Day &day : m_page.days)
+        regions.insert(day.date, regionOf(day));
+    for (auto it = m_page.dayTexts.cbegin(); it != m_page.dayTexts.cend(); ++it) {
+        const QString read = textIn(regions.value(it.key(), m_rect));
+        for (const QString &text : it.value()) {
+            const bool isWhole = read.contains(essence(text));
+            const bool isMissed = isReported(it.key(), text);
+            const QString what = it.key().toString(Qt::ISODate) + u" \"%1\""_s.arg(text);
+            if (!isWhole && !isMissed)
+                add(MissingText, what);
+            if (isWhole && isMissed && m_page.showsDays)
+                add(FalseReport, what);
+        }
+    }
+}
+
+void MvPageAudit::checkWords()
+{
+    const QString read = textIn(m_rect);
+    for (const QString &word : m_page.words) {
+        if (!read.contains(essence(word)) && !isReported({}, word))
+            add(MissingText, u"\"%1\""_s.arg(word.trimmed()));
+    }
+}
+
+/// One form for all of a set, and all of that there; or reported.
+void MvPageAudit::checkHeads()
+{
+    QStringList read;
+    for (const Item &item : std::as_const(m_texts)) {
+        read << item.text.trimmed().toCaseFolded();
+        // behind a blank the ellipsis stands for whole texts that are left out
+        if (item.text.endsWith(u'…') &&
+            (item.text.endsWith(u" …"_s) ? m_page.unfitting.isEmpty() : !isReported({}, item.text.chopped(1))))
+            add(MissingText, u"\"%1\", of which the rest is missing"_s.arg(item.text));
+    }
+    for (const QList<QStringList> &forms : m_page.heads) {
+        const auto isRead = [&](const QString &name) {
+            return isReported({}, name) || std::any_of(read.cbegin(), read.cend(), [&](const QString &text) {
+                       return text == name.toCaseFolded() || text.startsWith(name.toCaseFolded() + u' ');
+                   });
+        };
+        if (std::none_of(forms.cbegin(), forms.cend(),
+                         [&](const QStringList &names) { return std::all_of(names.cbegin(), names.cend(), isRead); }))
+            add(MissingText, u"some of "_s + forms.constFirst().join(u", "_s));
+    }
+}
+
+void MvPageAudit::checkReports()
+{
+    for (const MvUnfittingText &report : m_page.unfitting) {
+        const QRectF region = report.rect.isEmpty() ? m_rect : report.rect;
+        const QString text = essence(report.text);
+        const bool isShort = text.size() <= 4; // a number or a name of a weekday, or "contains" would find it anywhere
+        if (isShort ? hasItem(region, report.text) : textIn(region).contains(text))
+            add(FalseReport, u"\"%1\" in %2"_s.arg(report.text, describe(region)));
+    }
+}

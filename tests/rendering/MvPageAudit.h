@@ -1,0 +1,63 @@
+#pragma once
+
+#include "MvPrintedPage.h"
+
+/// Finds what is wrong with a printed page: on what it recorded, and between that and what it reports.
+class MvPageAudit
+{
+public:
+    enum Kind {
+        LeavesElement, ///< ink outside the place of the calendarium
+        LeavesCell,    ///< letters cut by the clip of their cell
+        TextsMeet,     ///< ink of two texts on each other
+        TextsRunOn,    ///< two texts on a line with less than a blank between
+        LineThrough,   ///< a line crosses letters
+        PhotoOnText,   ///< a photo of an entry covers letters
+        TypeTooSmall,  ///< under the floor
+        NegativeSize,  ///< a cell of no or less than no size
+        CellsOverlap,  ///< two days, or two grounds of one colour
+        DayNotOnce,    ///< a day without a place, or with two
+        MissingText,   ///< neither whole on the page nor reported
+        FalseReport,   ///< reported, but whole on the page
+        KindCount
+    };
+    static QString name(Kind kind);
+
+    struct Fault
+    {
+        Kind kind;
+        QString what;
+    };
+
+    static QList<Fault> faults(const MvPrintedPage &page);
+
+private:
+    explicit MvPageAudit(const MvPrintedPage &page);
+
+    using Item = MvPaintRecording::Item;
+
+    void add(Kind kind, const QString &what) { m_faults.append({kind, what}); }
+
+    void checkPlaces();
+    void checkPairs();
+    void checkPair(const Item &a, const Item &b);
+    void checkLines();
+    void checkType();
+    void checkCells();
+    void checkDays();
+    void checkDayTexts();
+    void checkWords();
+    void checkHeads();
+    void checkReports();
+
+    bool isOfDay(const Item &item) const;
+    QRectF regionOf(const MvPrintedPage::Day &day) const;
+    QString textIn(const QRectF &region) const;
+    bool hasItem(const QRectF &region, const QString &text) const;
+    bool isReported(const QDate &date, const QString &text) const;
+
+    const MvPrintedPage &m_page;
+    QRectF m_rect;
+    QList<Item> m_texts; // with ink
+    QList<Fault> m_faults;
+};

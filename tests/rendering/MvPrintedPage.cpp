@@ -1,0 +1,272 @@
+#include "MvPrintedPage.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+
+#include <QDir>
+#include <QPainter>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double floorOfType = 6.5 / 72.0 * 254.0; // 6.5 points on paper, in tenths of a millimetre
+
+MvCalendarEvent entry(const QString &name, const QDate &date, const MvFoto &foto = {})
+{
+    return MvCalendarEvent(name, date.startOfDay(), true, foto, QUuid::createUuid(), QDateTime());
+}
+
+MvFoto samplePhoto()
+{
+    const QString path = QDir::temp().filePath(u"every-page-%1.png"_s.arg(QCoreApplication::applicationPid()));
+    if (!QFileInfo::exists(path)) {
+        QImage image(400, 300, QImage::Format_RGB32);
+        image.fill(Qt::darkCyan);
+        if (!image.save(path))
+            qFatal("the photo of the entries cannot be written");
+        qAddPostRoutine([] {
+            QFile::remove(QDir::temp().filePath(u"every-page-%1.png"_s.arg(QCoreApplication::applicationPid())));
+        });
+    }
+    return MvFoto(QFileInfo(path));
+}
+
+/// On weekdays, weekends, usual holidays, and at the ends of months.
+MvCalendarEventList entriesOf(MvPageChoice::Entries kind)
+{
+    MvCalendarEventList list;
+    for (int month = 1; month <= 12 && kind != MvPageChoice::None; ++month) {
+        for (const int day : {1, 6, 14, 25, 28}) {
+            const QDate date(1992, month, day);
+            list << entry(u"Eva"_s, date);
+            if (kind == MvPageChoice::Long && day != 28) {
+                list << entry(u"Großtante Wilhelmine Süßmilch-Ölschläger"_s, date);
+            } else if (kind == MvPageChoice::Long) {
+                list << entry(u"Mitgliederversammlung der Donaudampfschifffahrtsgesellschaft"_s, date);
+            } else if (kind == MvPageChoice::Many) {
+                for (const QString &name :
+                     {u"Jörg"_s, u"Oma Erika (80)"_s, u"Hochzeitstag Anna und Max"_s, u"Zahnarzt"_s})
+                    list << entry(name, date);
+            } else if (kind == MvPageChoice::Photos) {
+                list << entry(u"Hochzeitstag Anna und Max"_s, date, samplePhoto());
+            }
+        }
+    }
+    return list;
+}
+
+void setEntries(MvPageChoice::Entries kind)
+{
+    static int current = -1; // setting them stores them, too
+    if (current == kind)
+        return;
+    current = kind;
+    MvCalendarEventRegistry::instance().setEvents(entriesOf(kind));
+}
+
+MvPageFormat formatOf(const QString &paper)
+{
+    const QStringList words = paper.split(u' ');
+    MvPageFormat format = MvPageFormat::fromName(words.constFirst());
+    if (words.size() > 1)
+        format.setOrientation(MvPageFormat::Orientation::Landscape);
+    return format;
+}
+
+MvCalendariumAppearance appearanceOf(const MvPageChoice &choice, const QString &family)
+{
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(choice.layout));
+    appearance.adoptLayoutSuggestions();
+    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
+    appearance.adaptGridToLayout();
+    MvCalendariumFontSettings fonts = appearance.fontSettings();
+    fonts.setFont(family);
+    fonts.setFontSizePercentage(choice.font - 100);
+    appearance.setFontSettings(fonts);
+    return appearance;
+}
+
+} // namespace
+
+// ---- the choice
+
+QString MvPageChoice::describe() const
+{
+    static const QStringList entryNames{u"no entries"_s, u"short names"_s, u"long names"_s, u"many names"_s,
+                                        u"photos"_s};
+    const QString photo = place == u"none"_s ? u"no photo"_s : u"photo %1 %2"_s.arg(place).arg(share);
+    const QStringList parts{layout,
+                            paper,
+                            photo,
+                            u"%1 %"_s.arg(font),
+                            (language.name() + u' ' + region).trimmed(),
+                            entryNames.at(entries),
+                            month.toString(u"yyyy-MM"_s),
+                            hasWeeks ? u"weeks"_s : u"no weeks"_s};
+    return parts.join(u", "_s);
+}
+
+const QStringList &MvPageChoice::papers()
+{
+    static const QStringList papers = [] {
+        QStringList names;
+        for (const QString &size : {u"A6"_s, u"A5"_s, u"A4"_s, u"A3"_s, u"A2"_s})
+            names << size << size + u" landscape"_s;
+        return names << u"200x200"_s << u"210x99"_s << u"90x55"_s;
+    }();
+    return papers;
+}
+
+const QStringList &MvPageChoice::places()
+{
+    static const QStringList places{u"none"_s, u"top"_s, u"left"_s, u"right"_s};
+    return places;
+}
+
+const QList<double> &MvPageChoice::shares()
+{
+    static const QList<double> shares{MvPhotoFrame::minimumShare, 0.45, MvPhotoFrame::defaultShare, 0.65,
+                                      MvPhotoFrame::maximumShare};
+    return shares;
+}
+
+const QList<int> &MvPageChoice::fonts()
+{
+    static const QList<int> fonts{100, 150, 200};
+    return fonts;
+}
+
+const QList<QDate> &MvPageChoice::months()
+{
+    static const QList<QDate> months{QDate(2027, 5, 1), QDate(2026, 8, 1), QDate(2027, 2, 1),
+                                     QDate(2027, 1, 1), QDate(2028, 2, 1), QDate(2027, 9, 1)};
+    return months;
+}
+
+QStringList MvPageChoice::layouts()
+{
+    QStringList ids;
+    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata())
+        ids << schema.ID().toString();
+    return ids;
+}
+
+// ---- the page
+
+MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family)
+    : m_choice(choice)
+    , m_format(formatOf(choice.paper))
+{
+    setEntries(choice.entries);
+    MvCalendariumFeatures features(1 | 2 | 4 | 8 | (choice.hasWeeks ? 64 : 0));
+    m_page = MvCalendarPage(appearanceOf(choice, family),
+                            MvCalendariumContentConfig(choice.month, {choice.language, choice.region, features}));
+    if (choice.place != u"none"_s) {
+        const auto placement = MvPhotoFrame::Placement(MvPageChoice::places().indexOf(choice.place) - 1);
+        MvPhotoFrame photo(u"/photo.jpg"_s, placement);
+        photo.setShare(choice.share);
+        m_page.setPhotoFrame(photo);
+    }
+    items = m_page
+                .record(m_format, range(),
+                        [this](MvCalendariumRenderer &renderer) {
+                            expect(renderer);
+                            QObject::connect(&renderer, &MvCalendariumRenderer::rectForDateFound,
+                                             [this](const QDate &date, const QRectF &rect) {
+                                                 days.append({date, rect});
+                                             });
+                        })
+                .items();
+    unfitting = m_page.unfittingTexts(m_format, range());
+    measureFloors();
+}
+
+MvDateRange MvPrintedPage::range() const
+{
+    return MvDateRange(m_choice.month, m_choice.month.addMonths(12).addDays(-1));
+}
+
+QImage MvPrintedPage::picture(double pixelsPerUnit) const
+{
+    QImage image((m_format.trimSize() * pixelsPerUnit).toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(pixelsPerUnit, pixelsPerUnit);
+    m_page.paint(painter, m_format, range());
+    return image;
+}
+
+// ---- what is to be seen
+
+void MvPrintedPage::expect(const MvCalendariumRenderer &renderer)
+{
+    const MvCalendariumType type = m_page.appearance().type();
+    const QDate first = renderer.startDate();
+    const QDate end = first.addMonths(m_page.monthCount());
+    // the names of the weekdays in front of all weeks: a calendar of numbers alone
+    const bool hasNumbersOnly =
+        type == CALENDAR_ONE_COLUMN_PER_WEEK && renderer.isConfigured(calendar_render_days_of_week_only_in_front);
+    if (renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS) && !hasNumbersOnly) {
+        for (QDate date = first; date < end; date = date.addDays(1))
+            dayTexts.insert(date, renderer.describeHolidays(date));
+    }
+    showsDays = type != CALENDAR_MONTH_ONLY && type != CALENDAR_YEAR_ONLY && type != CALENDAR_HOLIDAYS;
+    words = m_page.appearance().columnHeadersList();
+    if (m_page.monthCount() > 1)
+        words << QString::number(first.year());
+    else if (type == CALENDAR_MONTH_ONLY || renderer.isConfigured(calendar_render_title))
+        words << renderer.calendarMonth(first);
+    else if (!m_page.appearance().layoutSchema().monthLayout().toString().isEmpty())
+        words << renderer.monthLong(first.month());
+    expectHeads(renderer);
+}
+
+void MvPrintedPage::expectHeads(const MvCalendariumRenderer &renderer)
+{
+    const auto firstLetters = [](const QStringList &names) {
+        QStringList letters;
+        for (const QString &name : names)
+            letters << name.left(1);
+        return letters;
+    };
+    if (showsDays && renderer.isConfigured(calendar_render_days_of_week)) {
+        const QStringList names = renderer.weekdayNames(false)
+                                  << renderer.saturdayName(false) << renderer.sundayName(false);
+        const QStringList shortNames = renderer.weekdayNames(true)
+                                       << renderer.saturdayName(true) << renderer.sundayName(true);
+        heads << QList<QStringList>{names, shortNames, firstLetters(shortNames)};
+    }
+    if (showsDays && m_page.monthCount() > 1) {
+        QList<QStringList> months(3);
+        for (int month = 1; month <= 12; ++month) {
+            months[0] << renderer.monthLong(month);
+            months[1] << renderer.monthShort(month);
+            months[2] << QString::number(month);
+        }
+        heads << months;
+    }
+}
+
+/// The floor, or what the layout itself has on this paper, whatever the room there is.
+void MvPrintedPage::measureFloors()
+{
+    const std::unique_ptr<MvCalendariumRenderer> renderer(
+        MvCalendariumRendererFactory::instance().createRenderer(m_page.appearance()));
+    renderer->setCalendarInformation(m_page.contentConfig(), range());
+    renderer->setProductSize(m_format.magnitude());
+    textFloor = floorOfType;
+    headFloor = floorOfType;
+    for (const MvCalendarCellType &type : renderer->usedCellTypes()) {
+        headFloor = std::min(headFloor, double(renderer->font(type).pixelSize()));
+        textFloor = std::min(textFloor, double(renderer->fontHolidays(type).pixelSize()));
+    }
+    textFloor = std::min(textFloor, m_page.appearance().type() == CALENDAR_HOLIDAYS ? headFloor : textFloor);
+}
