@@ -506,7 +506,24 @@ QStringList MvCalendariumRenderer::describeOfficialHolidays(const QDate &date) c
 {
     if (!m_appearance.showHolidays())
         return {};
-    return MvPrintableText::onOneLineEach(descriptions(date));
+    return MvPrintableText::onOneLineEach(isWithRunningVacations(date) ? descriptionsWithRunningVacations(date)
+                                                                       : descriptions(date));
+}
+
+// a vacation that began on the page before would be a month of colour without a word
+bool MvCalendariumRenderer::isWithRunningVacations(const QDate &date) const
+{
+    return date == startDate() && m_appearance.type() != CALENDAR_YEAR &&
+           m_content.hasFeatures(FEATURE_SCHOOL_VACATIONS);
+}
+
+QStringList MvCalendariumRenderer::descriptionsWithRunningVacations(const QDate &date) const
+{
+    MvCalendariumContentConfig content = m_content.moveToDay(date);
+    MvCalendariumHolidayConfig config = content.holidayConfig();
+    config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
+    content.setHolidayConfig(config);
+    return MvCalendariumHolidayCache::instance().descriptions(MvCalendariumContentKey(content, m_modelInfo));
 }
 
 QStringList MvCalendariumRenderer::describePersonalHolidays(const QDate &date) const

@@ -201,6 +201,7 @@ public:
     // texts of a day: official holidays, then personal entries, as far as the page shows them. All but descriptions()
     // are on one line each, without those of which nothing would be seen.
     QStringList descriptions(const QDate &date) const;
+    /// On the first day of a month's page also the vacations that began before; of a vacation's other days, nothing.
     QStringList describeOfficialHolidays(const QDate &date) const;
     QStringList describePersonalHolidays(const QDate &date) const;
     QStringList describeHolidays(const QDate &date) const;
@@ -254,6 +255,8 @@ protected:
     void addFill(const QRectF &rect, const QColor &color);
     /// Notes a text of the day whose cell has no room for it, unless nothing of it would be seen.
     void reportUnfitting(const QDate &date, const QString &text, const QRectF &rect);
+    /// descriptions() with the vacations that the day lies in, whether or not they begin on it.
+    QStringList descriptionsWithRunningVacations(const QDate &date) const;
 
 private:
     friend class MvCalendariumCellPainter;
@@ -263,6 +266,7 @@ private:
     MvSpaceMagnitude paperSize() const;
     bool hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const;
     bool hasVacationColors(const QDate &date) const;
+    bool isWithRunningVacations(const QDate &date) const;
     void paintFills(QPainter &painter);
 
     MvCalendariumContentConfig m_content;

@@ -1,8 +1,6 @@
 #include "MvCalendar/MvCalendariumRendererHolidays.h"
 
-#include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvModelBase/MvPrintableText.h"
-#include "MvProductBase/MvCalendariumContentKey.h"
 
 #include <QPainter>
 #include <QTextDocument>
@@ -48,12 +46,7 @@ QStringList MvCalendariumRendererHolidays::texts(const QDate &date) const
     QStringList found;
     if (calendariumContent().hasFeatures(FEATURE_HOLIDAYS) && appearance().showHolidays()) {
         // in cells a vacation has its name on the first day alone; here every day must tell to which run it belongs
-        MvCalendariumContentConfig content = calendariumContent().moveToDay(date);
-        MvCalendariumHolidayConfig config = content.holidayConfig();
-        config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
-        content.setHolidayConfig(config);
-        found = MvPrintableText::onOneLineEach(
-            MvCalendariumHolidayCache::instance().descriptions(MvCalendariumContentKey(content, modelInfo())));
+        found = MvPrintableText::onOneLineEach(descriptionsWithRunningVacations(date));
     }
     if (calendariumContent().hasFeatures(FEATURE_ENTRIES))
         found += describePersonalHolidays(date);

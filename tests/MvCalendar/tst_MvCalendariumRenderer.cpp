@@ -70,6 +70,8 @@ private Q_SLOTS:
     void textBlocks();
 
     void textsOfADay();
+    void runningVacations_data();
+    void runningVacations();
     void splitsTexts_data();
     void splitsTexts();
     void htmlFragments();
@@ -388,6 +390,35 @@ void tst_MvCalendariumRenderer::textsOfADay()
     QCOMPARE(describe(4, true), personal);
     QCOMPARE(describe(0, true), QStringList());
     QCOMPARE(describe(1 | 4, false), personal); // the page's switch silences holidays alone
+}
+
+void tst_MvCalendariumRenderer::runningVacations_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QDate>("day");
+    QTest::addColumn<int>("features");
+    QTest::addColumn<QStringList>("expected");
+    const int all = FEATURE_HOLIDAYS | FEATURE_SCHOOL_VACATIONS;
+    const QString grid = u"CALENDAR_ONE_WEEK_PER_ROW"_s;
+    const QStringList summer{u"Sommerferien"_s}; // of Bayern: 3 August to 14 September 2026
+    QTest::newRow("its own first day") << grid << QDate(2026, 8, 3) << all << summer;
+    QTest::newRow("first day of the next page") << grid << QDate(2026, 9, 1) << all << summer;
+    QTest::newRow("of a list, too") << u"CALENDAR_ONE_DAY_PER_ROW"_s << QDate(2026, 9, 1) << all << summer;
+    QTest::newRow("with a holiday") << grid << QDate(2027, 1, 1) << all
+                                    << QStringList{u"Neujahr"_s, u"Weihnachtsferien"_s};
+    QTest::newRow("no other day") << grid << QDate(2026, 9, 2) << all << QStringList();
+    QTest::newRow("not over a year's page") << u"CALENDAR_YEAR"_s << QDate(2026, 9, 1) << all << QStringList();
+    QTest::newRow("no vacations") << grid << QDate(2026, 9, 1) << int(FEATURE_HOLIDAYS) << QStringList();
+}
+
+void tst_MvCalendariumRenderer::runningVacations()
+{
+    QFETCH(const QString, type);
+    QFETCH(const QDate, day);
+    QFETCH(const int, features);
+    MvPageFixture page(MvPageFixture::appearance({}, MvPageFixture::defaultCells(), type),
+                       QDate(day.year(), day.month(), 1), features);
+    QTEST(page.renderer().describeHolidays(day), "expected");
 }
 
 void tst_MvCalendariumRenderer::splitsTexts_data()
