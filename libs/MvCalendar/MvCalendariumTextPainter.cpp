@@ -9,34 +9,18 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QTextBoundaryFinder>
 
 #include <algorithm>
 #include <cmath>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr QChar ellipsis(u'…');
-
-constexpr qsizetype firstLook = 128;   // code units of a text that are measured before the rest is looked at
 constexpr qsizetype mostInLine = 2000; // more than a line of the largest sheet has room for
 
 MvTextOutline outlineOf(const QFont &font, const QString &text)
 {
     const QString line = MvPrintableText::shapeable(MvStringHelper::beginning(text, mostInLine));
     return MvTextOutlineCache::instance().outline(font, MvHyphenator::withoutSoftHyphens(line));
-}
-
-/// The ends of the graphemes of a text, from its start.
-QList<qsizetype> graphemeEnds(const QString &text)
-{
-    QList<qsizetype> ends;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
-    while (finder.toNextBoundary() > 0)
-        ends.append(finder.position());
-    return ends;
 }
 
 // the alignment rules of QFontMetricsF::boundingRect() for a block of the given size, without its wrapping
@@ -83,37 +67,17 @@ QStringList MvCalendariumTextPainter::fitLines(int maxWidth, int maxLines, const
 {
     MvLineBreaker breaker(maxWidth, font);
     breaker.setMostLines(std::max(0, maxLines) + 1);
-    QStringList lines = breaker.lines(texts);
+    const QStringList lines = breaker.lines(texts);
     *isCut = lines.size() > maxLines;
     if (!*isCut)
         return lines;
-    lines.resize(std::max(0, maxLines));
-    if (!lines.isEmpty())
-        lines.last() = elided(maxWidth, font, lines.constLast() + ellipsis);
-    return lines;
+    breaker.setMostLines(maxLines);
+    return breaker.cutLines(texts);
 }
 
 QString MvCalendariumTextPainter::elided(int maxWidth, const QFont &font, const QString &text)
 {
-    if (!isTextToWide(maxWidth, font, text))
-        return text;
-    const auto shortened = [](const QString &kept) {
-        qsizetype end = kept.size();
-        while (end > 0 && kept.at(end - 1) == u' ')
-            --end;
-        return kept.first(end) + ellipsis;
-    };
-    QString kept = text.endsWith(ellipsis) ? text.chopped(1) : text;
-    for (qsizetype length = firstLook; length < kept.size(); length *= 2) {
-        const QString start = MvStringHelper::beginning(kept, length);
-        if (isTextToWide(maxWidth, font, shortened(start)))
-            kept = start;
-    }
-    const QList<qsizetype> ends = graphemeEnds(kept);
-    const auto tooLong = std::partition_point(ends.cbegin(), ends.cend(), [&](qsizetype end) {
-        return !isTextToWide(maxWidth, font, shortened(kept.first(end)));
-    });
-    return shortened(kept.first(tooLong == ends.cbegin() ? 0 : *std::prev(tooLong)));
+    return MvLineBreaker::elided(maxWidth, font, text);
 }
 
 QRectF MvCalendariumTextPainter::boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text)

@@ -4,10 +4,16 @@
 #include "MvModelBase/MvPrintableText.h"
 #include "MvModelBase/MvTextOutlineCache.h"
 
+#include <QTextBoundaryFinder>
+
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+constexpr QChar ellipsis(u'…');
 
 constexpr qsizetype firstLook = 128; // code units of a text that are measured before the rest is looked at
 
@@ -22,6 +28,7 @@ public:
     }
 
     bool isAtEnd() const { return m_position >= m_text.size(); }
+    QString rest() const { return m_text.mid(m_position); }
 
     QString next()
     {
@@ -45,7 +52,26 @@ private:
 
 QString joined(const QString &line, const QString &word)
 {
-    return line.isEmpty() ? word : line + u' ' + word;
+    return line.isEmpty() || word.isEmpty() ? line + word : line + u' ' + word;
+}
+
+/// The ends of the graphemes of a text, from its start.
+QList<qsizetype> graphemeEnds(const QString &text)
+{
+    QList<qsizetype> ends;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    while (finder.toNextBoundary() > 0)
+        ends.append(finder.position());
+    return ends;
+}
+
+/// An ellipsis in place of what parted the text from its rest.
+QString shortened(const QString &kept)
+{
+    qsizetype end = kept.size();
+    while (end > 0 && u" ,;:-\u2013(„“\"\u00ad"_s.contains(kept.at(end - 1)))
+        --end;
+    return kept.first(end) + ellipsis;
 }
 
 } // namespace
@@ -70,14 +96,39 @@ void MvLineBreaker::setWidestWord(int width)
 QStringList MvLineBreaker::lines(const QStringList &texts)
 {
     m_lines.clear();
+    m_rest.clear();
+    m_isRestLast = true;
     m_hasTooWideWord = false;
     for (const QString &text : texts) {
         Words words(text);
+        if (words.isAtEnd())
+            continue;
+        if (isFull() && !m_rest.isEmpty()) {
+            m_isRestLast = false;
+            break;
+        }
         while (!words.isAtEnd() && !isFull())
             addWord(words.next());
         endLine();
+        if (isFull())
+            m_rest = joined(m_rest, words.rest());
     }
     return m_lines;
+}
+
+QStringList MvLineBreaker::cutLines(const QStringList &texts)
+{
+    const qsizetype most = m_mostLines;
+    if (most <= 0)
+        return {};
+    m_mostLines = most - 1;
+    QStringList cut = lines(texts);
+    m_mostLines = most;
+    if (!m_rest.isEmpty())
+        cut.append(elided(m_maxWidth, m_font, m_isRestLast ? m_rest : m_rest + ellipsis));
+    for (QString &line : cut)
+        line = elided(m_widestWord, m_font, MvHyphenator::withoutSoftHyphens(line));
+    return cut;
 }
 
 void MvLineBreaker::endLine()
@@ -107,6 +158,7 @@ void MvLineBreaker::addWord(QString word)
         }
         endLine();
     }
+    m_rest = word;
 }
 
 /// Ends the line with as much of the word as it has room for, leaving the rest in the word.
@@ -141,4 +193,21 @@ bool MvLineBreaker::isTooWide(int maxWidth, const QFont &font, const QString &te
             return true;
     }
     return exceeds(text);
+}
+
+QString MvLineBreaker::elided(int maxWidth, const QFont &font, const QString &text)
+{
+    if (!isTooWide(maxWidth, font, text))
+        return text;
+    QString kept = text.endsWith(ellipsis) ? text.chopped(1) : text;
+    for (qsizetype length = firstLook; length < kept.size(); length *= 2) {
+        const QString start = MvStringHelper::beginning(kept, length);
+        if (isTooWide(maxWidth, font, shortened(start)))
+            kept = start;
+    }
+    const QList<qsizetype> ends = graphemeEnds(kept);
+    const auto tooLong = std::partition_point(ends.cbegin(), ends.cend(), [&](qsizetype end) {
+        return !isTooWide(maxWidth, font, shortened(kept.first(end)));
+    });
+    return shortened(kept.first(tooLong == ends.cbegin() ? 0 : *std::prev(tooLong)));
 }

@@ -29,6 +29,9 @@ public:
     void setMostLines(qsizetype count) { m_mostLines = count; }
 
     QStringList lines(const QStringList &texts);
+    /// As many lines as there may be, the last one filled with what fits of the rest and ended by an ellipsis; what is
+    /// wider than it may be ends in one, too. For texts that need more lines.
+    QStringList cutLines(const QStringList &texts);
 
     /// Of the last texts: a word that could not be divided is wider than it may be.
     bool hasTooWideWord() const { return m_hasTooWideWord; }
@@ -37,6 +40,9 @@ public:
     static double advance(const QFont &font, const QString &text);
     /// The advance in whole pixels exceeds the width.
     static bool isTooWide(int maxWidth, const QFont &font, const QString &text);
+    /// The text, ended by an ellipsis after a whole character if it is wider than the width. One that ends in an
+    /// ellipsis keeps it.
+    static QString elided(int maxWidth, const QFont &font, const QString &text);
 
 private:
     void addWord(QString word);
@@ -52,5 +58,7 @@ private:
     qsizetype m_mostLines = std::numeric_limits<qsizetype>::max();
     QStringList m_lines;
     QString m_line;
+    QString m_rest; // of the text at which the lines were full, and whether others follow
+    bool m_isRestLast = true;
     bool m_hasTooWideWord = false;
 };

@@ -1,6 +1,5 @@
 #include "MvCalendar/MvTextFitter.h"
 
-#include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvLineBreaker.h"
 #include "MvCore/MvMath.h"
 
@@ -73,21 +72,11 @@ MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, dou
 MvFittedText MvTextFitter::cut(const QSizeF &room, const QStringList &texts, int widestWord) const
 {
     const QFont font = fonts().constLast();
-    const int mostLines = lineCount(room.height(), font);
-    const int width = static_cast<int>(room.width());
-    MvLineBreaker breaker(width, font);
+    MvLineBreaker breaker(static_cast<int>(room.width()), font);
     breaker.setWidestWord(widestWord);
-    breaker.setMostLines(mostLines + 1);
+    breaker.setMostLines(lineCount(room.height(), font));
     breaker.setDivision(MvLineBreaker::AllWords, m_hyphenator);
-    QStringList lines = breaker.lines(texts);
-    if (lines.size() > mostLines) {
-        lines.resize(mostLines);
-        if (!lines.isEmpty())
-            lines.last() = MvCalendariumTextPainter::elided(width, font, lines.constLast() + u'…');
-    }
-    for (QString &line : lines)
-        line = MvCalendariumTextPainter::elided(widestWord, font, line);
-    return {font, lines, true};
+    return {font, breaker.cutLines(texts), true};
 }
 
 MvFittedText MvTextFitter::fitLine(double width, const QString &text) const
@@ -98,5 +87,5 @@ MvFittedText MvTextFitter::fitLine(double width, const QString &text) const
         if (!MvLineBreaker::isTooWide(most, font, text))
             return {font, {text}, false};
     }
-    return {sizes.constLast(), {MvCalendariumTextPainter::elided(most, sizes.constLast(), text)}, true};
+    return {sizes.constLast(), {MvLineBreaker::elided(most, sizes.constLast(), text)}, true};
 }

@@ -1,6 +1,7 @@
 #include "MvModelBase/MvHyphenator.h"
 
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvModelBase/MvHyphenationPatterns.h"
 
 #include <QCache>
 #include <QDir>
@@ -12,8 +13,8 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <hyphen.h>
 #include <mutex>
 #include <vector>
@@ -22,9 +23,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestRun = 300;            // letters; longer ones are no words
-constexpr qint64 largestFile = 16 * 1024 * 1024; // of patterns
-constexpr int mostWords = 5000;                  // kept per language
+constexpr qsizetype longestRun = 300; // letters; longer ones are no words
+constexpr int mostWords = 5000;       // kept per language
 constexpr QChar softHyphen(0x00ad);
 const QString hyphen = u"-"_s; // every font has it
 
@@ -82,27 +82,46 @@ QList<Run> runsOf(const QString &word)
 /// What libhyphen says of one word; it allocates all of it.
 struct Answer
 {
-    explicit Answer(qsizetype bytes)
-        : hyphens(size_t(bytes) + 16)
-        , size(bytes)
-    {}
-    ~Answer()
-    {
-        for (qsizetype i = 0; replacements && i < size; ++i)
-            std::free(replacements[i]);
-        std::free(replacements);
-        std::free(positions);
-        std::free(cuts);
-    }
+    /// Reads the patterns, a whole file of them, and applies them.
+    Answer(QByteArray patterns, const QByteArray &word, int fewestBefore, int fewestAfter);
+    ~Answer();
     Answer(const Answer &) = delete;
     Answer &operator=(const Answer &) = delete;
 
+    bool mayBreakAfter(qsizetype letter) const { return isGiven && (hyphens[size_t(letter)] & 1); }
+
+    bool isGiven = false;
     std::vector<char> hyphens;
     qsizetype size;
     char **replacements = nullptr;
     int *positions = nullptr;
     int *cuts = nullptr;
 };
+
+Answer::Answer(QByteArray patterns, const QByteArray &word, int fewestBefore, int fewestAfter)
+    : hyphens(size_t(word.size()) + 16)
+    , size(word.size())
+{
+    FILE *file = fmemopen(patterns.data(), size_t(patterns.size()), "r");
+    HyphenDict *dictionary = file ? hnj_hyphen_load_file(file) : nullptr;
+    if (file)
+        std::fclose(file);
+    if (!dictionary)
+        return;
+    isGiven = hnj_hyphen_hyphenate3(dictionary, word.constData(), int(word.size()), hyphens.data(), nullptr,
+                                    &replacements, &positions, &cuts, fewestBefore, fewestAfter, dictionary->clhmin,
+                                    dictionary->crhmin) == 0;
+    hnj_hyphen_free(dictionary);
+}
+
+Answer::~Answer()
+{
+    for (qsizetype i = 0; replacements && i < size; ++i)
+        std::free(replacements[i]);
+    std::free(replacements);
+    std::free(positions);
+    std::free(cuts);
+}
 
 } // namespace
 
@@ -112,16 +131,9 @@ struct MvHyphenatorImpl
     explicit MvHyphenatorImpl(const QString &file)
         : path(file)
     {}
-    ~MvHyphenatorImpl()
-    {
-        if (patterns)
-            hnj_hyphen_free(patterns);
-    }
-    MvHyphenatorImpl(const MvHyphenatorImpl &) = delete;
-    MvHyphenatorImpl &operator=(const MvHyphenatorImpl &) = delete;
 
     bool load();
-    void readEncoding();
+    bool readEncoding(const QByteArray &name);
     QByteArray encoded(const QString &letters) const;
     QString decoded(const char *bytes) const;
     QList<MvWordBreak> breaksOf(const QString &word) const;
@@ -130,7 +142,7 @@ struct MvHyphenatorImpl
 
     const QString path;
     std::once_flag isRead;
-    HyphenDict *patterns = nullptr;
+    std::unique_ptr<MvHyphenationPatterns> patterns;
     bool isUtf8 = true;
     QString characters; // of the bytes of an encoding with one byte each
     QHash<QChar, char> bytes;
@@ -142,22 +154,19 @@ struct MvHyphenatorImpl
 bool MvHyphenatorImpl::load()
 {
     std::call_once(isRead, [this] {
-        const QFileInfo file(path);
-        if (path.isEmpty() || !file.isFile() || file.size() > largestFile)
-            return;
-        patterns = hnj_hyphen_load(QFile::encodeName(path).constData());
-        if (patterns)
-            readEncoding();
+        auto read = std::make_unique<MvHyphenationPatterns>(path);
+        if (!read->isEmpty() && readEncoding(read->encoding()))
+            patterns = std::move(read);
     });
     return patterns != nullptr;
 }
 
-void MvHyphenatorImpl::readEncoding()
+bool MvHyphenatorImpl::readEncoding(const QByteArray &name)
 {
-    isUtf8 = patterns->utf8 != 0;
+    isUtf8 = name == "UTF-8"; // so the library has it
     if (isUtf8)
-        return;
-    QStringDecoder decoder(patterns->cset, QStringDecoder::Flag::Stateless);
+        return true;
+    QStringDecoder decoder(name.constData(), QStringDecoder::Flag::Stateless);
     for (int byte = 0; decoder.isValid() && byte < 256; ++byte) {
         const char single = char(byte);
         const QString text = decoder.decode(QByteArrayView(&single, 1));
@@ -165,10 +174,7 @@ void MvHyphenatorImpl::readEncoding()
         bytes.insert(characters.back(), single);
     }
     bytes.remove(QChar::ReplacementCharacter);
-    if (bytes.isEmpty()) {
-        hnj_hyphen_free(patterns);
-        patterns = nullptr;
-    }
+    return !bytes.isEmpty();
 }
 
 /// Empty when the patterns' encoding lacks one of the letters.
@@ -208,7 +214,7 @@ MvWordBreak MvHyphenatorImpl::breakAt(const QString &word, const Run &run, qsize
     const qsizetype last = first + answer.cuts[letter];
     if (ends.size() != 2 || first < 0 || last < first || last > run.letters.size())
         return plain;
-    const bool isUpper = word.at(run.starts.at(letter)).isUpper() && letter > 0;
+    const bool isUpper = letter > 0 && word.at(run.starts.at(letter)).isUpper();
     return {run.starts.at(first), (isUpper ? ends[0].toUpper() : ends[0]) + hyphen,
             isUpper ? ends[1].toUpper() : ends[1], run.starts.at(last)};
 }
@@ -221,15 +227,11 @@ void MvHyphenatorImpl::addPatternBreaks(const QString &word, const Run &run, QLi
     const QByteArray text = encoded(run.letters);
     if (text.isEmpty())
         return;
-    Answer answer(text.size());
-    const int before = std::max<int>(MvHyphenator::fewestBefore, patterns->lhmin);
-    const int after = std::max<int>(MvHyphenator::fewestAfter, patterns->rhmin);
-    if (hnj_hyphen_hyphenate3(patterns, text.constData(), int(text.size()), answer.hyphens.data(), nullptr,
-                              &answer.replacements, &answer.positions, &answer.cuts, before, after, patterns->clhmin,
-                              patterns->crhmin) != 0)
-        return;
+    const int before = std::max(MvHyphenator::fewestBefore, patterns->fewestBefore());
+    const int after = std::max(MvHyphenator::fewestAfter, patterns->fewestAfter());
+    const Answer answer(patterns->excerpt(text), text, before, after);
     for (qsizetype letter = before - 1; letter < count - after; ++letter) {
-        if (answer.hyphens[size_t(letter)] & 1)
+        if (answer.mayBreakAfter(letter))
             breaks.append(breakAt(word, run, letter, answer));
     }
 }
@@ -256,17 +258,15 @@ QList<MvWordBreak> MvHyphenatorImpl::breaksOf(const QString &word) const
 
 namespace {
 
-/// The file of a language in a folder: in its country, in the country most of it is spoken in, anywhere.
-QString fileIn(const QDir &folder, const MvLocale &language)
+const QString systemFolder = u"/usr/share/hyphen"_s;
+
+/// Names of pattern files for a language: as in its country, as in the country most speak it in, as anywhere.
+QStringList fileNames(const MvLocale &language)
 {
-    QStringList names{language.name(), QLocale(language.language()).name(), language.language()};
-    const QStringList anywhere =
-        folder.entryList({u"hyph_"_s + language.language() + u"_*.dic"_s}, QDir::Files | QDir::Readable, QDir::Name);
-    for (const QString &name : std::as_const(names)) {
-        if (const QFileInfo file(folder, u"hyph_"_s + name + u".dic"_s); file.isFile())
-            return file.canonicalFilePath();
-    }
-    return anywhere.isEmpty() ? QString() : QFileInfo(folder, anywhere.constFirst()).canonicalFilePath();
+    QStringList names;
+    for (const QString &name : {language.name(), QLocale(language.language()).name(), language.language()})
+        names.append(u"hyph_"_s + name + u".dic"_s);
+    return names;
 }
 
 } // namespace
@@ -299,10 +299,17 @@ QString MvHyphenator::fileFor(const MvLocale &language)
 {
     if (!language.isValid())
         return {};
-    for (const QString &folder :
-         {MvDirectoryConfig::instance().resource(u"hyphenation"_s).filePath(), u"/usr/share/hyphen"_s}) {
-        if (const QString file = fileIn(QDir(folder), language); !file.isEmpty())
-            return file;
+    const QStringList names = fileNames(language);
+    for (const QString &name : names) {
+        if (const QFileInfo file = MvDirectoryConfig::instance().resource(u"hyphenation/"_s + name); file.isFile())
+            return file.filePath();
+    }
+    const QDir system(systemFolder);
+    const QStringList others =
+        system.entryList({u"hyph_"_s + language.language() + u"_*.dic"_s}, QDir::Files, QDir::Name);
+    for (const QString &name : names + others) {
+        if (const QFileInfo file(system, name); file.isFile())
+            return file.canonicalFilePath();
     }
     return {};
 }
