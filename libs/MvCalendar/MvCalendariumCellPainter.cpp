@@ -1,8 +1,10 @@
 #include "MvCalendar/MvCalendariumCellPainter.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCalendar/MvTextFitter.h"
 #include "MvModelBase/MvQualityTypeManager.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
@@ -89,11 +91,19 @@ void MvCalendariumCellPainter::drawFittingText(const QRectF &rect, const MvCalen
                                                const QString &text, int flags, bool even, const QDate &date)
 {
     const MvCalendarCellType &type = config.inscriptionConfig();
-    const double width = rect.marginsRemoved(m_renderer.padding(type)).intersected(rect).width();
-    const QString shown = MvCalendariumTextPainter::elided(static_cast<int>(width), m_renderer.font(type), text);
-    if (shown != text)
+    const QColor color = m_renderer.fontColor(config, even);
+    if (!m_renderer.isOpaqueColor(color))
+        return;
+    const QRectF inner = rect.marginsRemoved(m_renderer.padding(type));
+    const MvTextFitter fitter = m_renderer.fitter(type);
+    MvCalendariumCellLine line(fitter, {inner.intersected(rect).width(), rect.height()}, text);
+    if (line.isCut()) // paddings give before letters do
+        line = MvCalendariumCellLine(fitter, {rect.width() - 2.0 * smallCellMargin, rect.height()}, text);
+    if (line.isCut())
         m_renderer.reportUnfitting(date, text, rect);
-    drawText(rect, config, shown, flags, even);
+    line.align(inner, flags == 0 ? int(m_renderer.textAlignment(type)) : flags);
+    line.keepInside(rect);
+    line.draw(m_painter, color);
 }
 
 void MvCalendariumCellPainter::drawNumber(const QRectF &rect, const MvCalendarCellTypeConfig &config,

@@ -26,7 +26,7 @@ public:
     void drawGround(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even);
     void drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
                   bool even);
-    /// A text that is wider than the cell ends in an ellipsis and is reported for the date.
+    /// On one line inside the cell: in smaller type where it must, then shortened or left out and reported for the date.
     void drawFittingText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
                          bool even, const QDate &date);
     void drawDayNumber(const QRectF &rect, const QDate &date);

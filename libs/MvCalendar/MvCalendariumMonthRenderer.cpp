@@ -1,6 +1,24 @@
 #include "MvCalendar/MvCalendariumMonthRenderer.h"
 
+#include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCalendar/MvTextFitter.h"
+#include "MvCore/MvStringHelper.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+constexpr int monthsPerYear = 12;
+const QString titleBlanks = QStringLiteral(" ");
+constexpr double headAir = 0.25; // between the names of two weekdays, in parts of their size
+
+} // namespace
 
 double MvCalendariumMonthRenderer::plannedHeight(const MvCalendarCellType &type,
                                                  const MvCalendarRenderingInformation &info) const
@@ -8,11 +26,108 @@ double MvCalendariumMonthRenderer::plannedHeight(const MvCalendarCellType &type,
     return isConfigured(info) ? minimumHeightOfCellType(type, false) : 0.0;
 }
 
+// ---- names of weekdays
+
+QStringList MvCalendariumMonthRenderer::weekdayHeads(double columnWidth) const
+{
+    const auto names = [this](bool shortNames) {
+        return weekdayNames(shortNames) << saturdayName(shortNames) << sundayName(shortNames);
+    };
+    const bool wantsShortNames = isConfigured(calendar_render_days_of_week_short);
+    if (!wantsShortNames && maxHeadWidth() <= columnWidth)
+        return names(false);
+
+    QStringList heads = names(true);
+    const auto fits = [this, columnWidth](const QString &name, int day) {
+        const MvCalendarCellType type = headCellTypeWeekDay(day);
+        const QFont headFont = font(type);
+        const double width = MvCalendariumTextPainter::advance(headFont, name);
+        const double start = textAlignment(type).testFlag(Qt::AlignHCenter) ? 0.0 : padding(type).left();
+        return width + std::max(start, headAir * headFont.pixelSize()) <= columnWidth;
+    };
+    bool doAllFit = true;
+    for (int day = 1; day <= daysPerWeek; ++day)
+        doAllFit = doAllFit && fits(heads.at(day - 1), day);
+    if (!doAllFit) {
+        for (QString &name : heads)
+            name = MvStringHelper::beginning(name, 1);
+    }
+    return heads;
+}
+
+// ---- the month
+
 void MvCalendariumMonthRenderer::drawTitle(QPainter &painter, const QRectF &rect)
 {
-    drawFittingCell(painter, rect, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TITLE),
-                    u' ' + calendarMonth(startDate()), true, startDate());
+    if (!(rect.width() > 0.0) || !(rect.height() > 0.0))
+        return;
+    drawCellBackground(painter, rect, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TITLE), true);
+    drawMonth(painter, rect, CALENDAR_CELL_TYPE_TITLE, titleBlanks);
 }
+
+void MvCalendariumMonthRenderer::drawMonth(QPainter &painter, const QRectF &rect, const MvCalendarCellType &type,
+                                           const QString &blanks)
+{
+    const MvCalendarCellTypeConfig config(type, type);
+    const QColor color = fontColor(config, true);
+    if (!isOpaqueColor(color))
+        return;
+    const QRectF inner = rect.marginsRemoved(padding(type));
+    const QSizeF room = roomForMonth(rect, type);
+    const QString text = monthText(startDate(), type, blanks);
+    MvCalendariumCellLine line({monthFont(room, type, blanks), smallestPixelSize(type), MvHyphenator()}, room, text);
+    if (line.isCut())
+        reportUnfitting(startDate(), text.trimmed(), rect);
+    line.align(inner, int(textAlignment(type)));
+    if (isCentred(type))
+        line.centre(inner);
+    line.keepInside(rect);
+    line.draw(painter, color);
+}
+
+bool MvCalendariumMonthRenderer::isCentred(const MvCalendarCellType &type) const
+{
+    return textAlignment(type).testFlag(Qt::AlignHCenter);
+}
+
+QString MvCalendariumMonthRenderer::monthText(const QDate &month, const MvCalendarCellType &type,
+                                              const QString &blanks) const
+{
+    const QString text = calendarMonth(month).trimmed(); // where there is no year, its blank goes, too
+    return isCentred(type) ? text : blanks + text;
+}
+
+/// The largest in which all months of the years of the calendar's first and last month fit.
+QFont MvCalendariumMonthRenderer::monthFont(const QSizeF &room, const MvCalendarCellType &type,
+                                            const QString &blanks) const
+{
+    QFont largest = font(type);
+    const double floor = smallestPixelSize(type);
+    const std::set<int> years{startDate().year(), startDateOfCalendar().year(), endDateOfCalendar().year()};
+    for (const int year : years) {
+        for (int month = 1; month <= monthsPerYear; ++month) {
+            const QString text = monthText(QDate(year, month, 1), type, blanks);
+            const bool fits = MvCalendariumTextPainter::advance(largest, text) <= static_cast<int>(room.width()) &&
+                              QFontMetricsF(largest).height() <= room.height();
+            if (!fits)
+                largest = MvCalendariumCellLine({largest, floor, MvHyphenator()}, room, text).font();
+        }
+    }
+    return largest;
+}
+
+QSizeF MvCalendariumMonthRenderer::roomForMonth(const QRectF &cell, const MvCalendarCellType &type) const
+{
+    return {cell.marginsRemoved(padding(type)).intersected(cell).width(), cell.height()};
+}
+
+bool MvCalendariumMonthRenderer::hasRoomForTitle(const QRectF &rect) const
+{
+    const QFont fitting = monthFont(roomForMonth(rect, CALENDAR_CELL_TYPE_TITLE), CALENDAR_CELL_TYPE_TITLE, titleBlanks);
+    return fitting.pixelSize() == font(CALENDAR_CELL_TYPE_TITLE).pixelSize();
+}
+
+// ---- cells
 
 void MvCalendariumMonthRenderer::drawFittingCell(QPainter &painter, const QRectF &rect,
                                                  const MvCalendarCellTypeConfig &config, const QString &text, bool even,

@@ -2,14 +2,18 @@
 
 #include "MvCalendar/MvCalendariumRenderer.h"
 
-/// What the layouts of a single month share: the title line, cells with texts of a date, and the planned heights that
-/// their rows are shared out by.
+/// What the layouts of a single month share: the title line, the names of weekdays above columns, cells with texts of a
+/// date, and the planned heights that their rows are shared out by.
 class MVCALENDAR_EXPORT MvCalendariumMonthRenderer : public MvCalendariumRenderer
 {
     Q_OBJECT
 
 public:
     using MvCalendariumRenderer::MvCalendariumRenderer;
+
+    /// The names of the weekdays, Monday first, for columns of that width: as the layout asks for them, or all short,
+    /// or all by their first letter, the first of which finds its room in all columns.
+    QStringList weekdayHeads(double columnWidth) const;
 
 protected:
     static constexpr int daysPerWeek = 7;
@@ -20,10 +24,21 @@ protected:
 
     /// The page's month, in one cell.
     void drawTitle(QPainter &painter, const QRectF &rect);
-    /// A cell whose text, where it is too wide, ends in an ellipsis and is reported for the date. Nothing in an empty
-    /// rectangle.
+    /// The page's month with the blanks before it, in the size in which each month of the calendar fits into the cell;
+    /// one that has no room in the smallest type is shortened and reported. Without the cell's ground.
+    void drawMonth(QPainter &painter, const QRectF &rect, const MvCalendarCellType &type, const QString &blanks);
+    /// Whether each month of the calendar fits into the line as large as its font is.
+    bool hasRoomForTitle(const QRectF &rect) const;
+    /// A cell whose text, where it is too wide, becomes smaller, then ends in an ellipsis and is reported for the date.
+    /// Nothing in an empty rectangle.
     void drawFittingCell(QPainter &painter, const QRectF &rect, const MvCalendarCellTypeConfig &config,
                          const QString &text, bool even, const QDate &date);
     /// The cell that a day of another month leaves: the colours of its weekday, no holiday.
     void drawNeighbouringDay(QPainter &painter, const QRectF &rect, const QDate &date, bool even);
+
+private:
+    bool isCentred(const MvCalendarCellType &type) const;
+    QString monthText(const QDate &month, const MvCalendarCellType &type, const QString &blanks) const;
+    QSizeF roomForMonth(const QRectF &cell, const MvCalendarCellType &type) const;
+    QFont monthFont(const QSizeF &room, const MvCalendarCellType &type, const QString &blanks) const;
 };

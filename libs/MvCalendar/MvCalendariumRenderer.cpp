@@ -35,10 +35,13 @@ double floorOfType(const QFont &onPaper)
     return std::min(MvMath::point2pixel(smallestPoints, pageDpi), double(onPaper.pixelSize()));
 }
 
-/// The font, not smaller than the floor, which is rounded up since fonts have whole pixels.
-QFont atLeast(double floor, QFont font)
+/// Not smaller than the floor, which is rounded up since fonts have whole pixels.
+QFont scaled(QFont font, double factor, double floor)
 {
-    font.setPixelSize(std::max(font.pixelSize(), static_cast<int>(std::ceil(floor))));
+    const int size = std::max(static_cast<int>(font.pixelSize() * factor), static_cast<int>(std::ceil(floor)));
+    if (font.letterSpacingType() == QFont::AbsoluteSpacing)
+        font.setLetterSpacing(QFont::AbsoluteSpacing, font.letterSpacing() * size / font.pixelSize());
+    font.setPixelSize(size);
     return font;
 }
 
@@ -57,6 +60,11 @@ MvCalendariumRenderer::~MvCalendariumRenderer() = default;
 QSize MvCalendariumRenderer::minimumSizeHint() const
 {
     return {400, 300};
+}
+
+bool MvCalendariumRenderer::hasRoom(const QSizeF &room) const
+{
+    return minimumSizeHint().height() <= room.height();
 }
 
 bool MvCalendariumRenderer::thereIsToMuchText(const QRectF &) const
@@ -116,6 +124,12 @@ void MvCalendariumRenderer::setCalendarInformation(const MvCalendariumContentCon
 {
     m_dateRange = MvDateRange(range.start(), range.end());
     m_content = content.moveToDayInMonth(1);
+}
+
+void MvCalendariumRenderer::setScale(double fonts, double paddings)
+{
+    m_fontScale = fonts;
+    m_paddingScale = paddings;
 }
 
 void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
@@ -282,35 +296,30 @@ double MvCalendariumRenderer::max3(double a, double b, double c)
 QFont MvCalendariumRenderer::font(const MvCalendarCellType &type) const
 {
     const QFont font = m_appearance.font(type, m_productSize, m_minimumFontSize);
-    return paperSize() == m_productSize ? font : atLeast(smallestPixelSize(type), font);
+    return m_fontScale == 1.0 ? font : scaled(font, m_fontScale, smallestPixelSize(type));
 }
 
 QFont MvCalendariumRenderer::fontHolidays(const MvCalendarCellType &type) const
 {
     const QFont font = m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize);
-    return paperSize() == m_productSize ? font : atLeast(smallestHolidayPixelSize(type), font);
+    return m_fontScale == 1.0 ? font : scaled(font, m_fontScale, smallestHolidayPixelSize(type));
 }
 
 QFontMetrics MvCalendariumRenderer::fontMetrics(const MvCalendarCellType &type) const
 {
-    if (paperSize() == m_productSize)
+    if (m_fontScale == 1.0)
         return m_appearance.fontMetrics(type, m_productSize, m_minimumFontSize);
     return QFontMetrics(font(type));
 }
 
-MvSpaceMagnitude MvCalendariumRenderer::paperSize() const
-{
-    return m_paperSize == MvSpaceMagnitude() ? m_productSize : m_paperSize;
-}
-
 double MvCalendariumRenderer::smallestPixelSize(const MvCalendarCellType &type) const
 {
-    return floorOfType(m_appearance.font(type, paperSize(), m_minimumFontSize));
+    return floorOfType(m_appearance.font(type, m_productSize, m_minimumFontSize));
 }
 
 double MvCalendariumRenderer::smallestHolidayPixelSize(const MvCalendarCellType &type) const
 {
-    return floorOfType(m_appearance.fontHolidays(type, paperSize(), m_minimumFontSize));
+    return floorOfType(m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize));
 }
 
 MvTextFitter MvCalendariumRenderer::fitter(const MvCalendarCellType &type) const

@@ -45,6 +45,9 @@ public:
     virtual MvCalendariumDisplayAbilities abilities() const = 0;
     /// The smallest size in page units at which the calendarium is readable.
     virtual QSize minimumSizeHint() const;
+    /// Whether everything but the texts of days and the names of weekdays finds its place in so much room, in whatever
+    /// month. Where it does not, the caller may try a smaller scale.
+    virtual bool hasRoom(const QSizeF &room) const;
     virtual bool rendersMonthInformation() const = 0;
     virtual bool thereIsToMuchText(const QRectF &rect) const; // the name is historical
     virtual QList<MvCalendarCellType> usedCellTypes() const = 0;
@@ -65,9 +68,9 @@ public:
     void setCalendarInformation(const MvCalendariumContentConfig &content, const MvDateRange &range);
     /// The paper class of the printed product; none (the default) leaves fonts as the layout made them.
     void setProductSize(const MvSpaceMagnitude &size) { m_productSize = size; }
-    /// The paper class of the sheet, where that of the product is smaller, so that fonts are. It says how small type
-    /// may become, see smallestPixelSize(); by default that of the product.
-    void setPaperSize(const MvSpaceMagnitude &size) { m_paperSize = size; }
+    /// Factors to the fonts and paddings of the layout, for a page that leaves the calendarium less room than the layout
+    /// was made for; 1 by default. No font becomes smaller than smallestPixelSize().
+    void setScale(double fonts, double paddings);
     /// Points; 6 by default.
     void setMinimumFontSize(int size) { m_minimumFontSize = size; }
     /// The project whose personal entries are shown.
@@ -119,7 +122,7 @@ public:
     static QFontMetricsF calculateFontMetrics(const QFont &font, QPaintDevice *device);
     Qt::Alignment textAlignment(const MvCalendarCellType &type) const { return m_appearance.textAlignment(type); }
     int cellBorderWidth(const MvCalendarCellType &type) const { return m_appearance.cellBorderWidth(type); }
-    QMarginsF padding(const MvCalendarCellType &type) const { return m_appearance.padding(type); }
+    QMarginsF padding(const MvCalendarCellType &type) const { return m_appearance.padding(type) * m_paddingScale; }
     MvCalendarBorderType borderType(const MvCalendarCellType &type) const { return m_appearance.borderType(type); }
     /// Sum of the horizontal and of the vertical paddings.
     QSizeF paddingDifference(const MvCalendarCellType &type) const;
@@ -263,7 +266,6 @@ private:
 
     MvCalendariumWords words() const;
     bool usesShortDayNames() const;
-    MvSpaceMagnitude paperSize() const;
     bool hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const;
     bool hasVacationColors(const QDate &date) const;
     bool isWithRunningVacations(const QDate &date) const;
@@ -275,7 +277,8 @@ private:
     double m_backgroundAlpha = 1.0;
     QHash<unsigned int, QPainterPath> m_fills; // by colour; empty outside render()
     MvSpaceMagnitude m_productSize;
-    MvSpaceMagnitude m_paperSize; // none: that of the product
+    double m_fontScale = 1.0;
+    double m_paddingScale = 1.0;
     int m_minimumFontSize = 6;
     MvProjectIdentifier m_modelInfo;
     QList<MvUnfittingText> m_unfittingTexts;

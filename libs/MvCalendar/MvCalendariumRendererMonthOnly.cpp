@@ -23,6 +23,8 @@ QList<MvCalendarCellType> MvCalendariumRendererMonthOnly::usedCellTypes() const
 
 void MvCalendariumRendererMonthOnly::renderBase(QPainter &painter, const QRectF &rect)
 {
-    const MvCalendarCellTypeConfig month(CALENDAR_CELL_TYPE_MONTH, CALENDAR_CELL_TYPE_MONTH);
-    drawCell(painter, rect, month, calendarMonth(startDate()), true, 0);
+    if (!(rect.width() > 0.0) || !(rect.height() > 0.0))
+        return;
+    drawCellBackground(painter, rect, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_MONTH), true);
+    drawMonth(painter, rect, CALENDAR_CELL_TYPE_MONTH, QString());
 }

@@ -1,14 +1,15 @@
 #pragma once
 
-#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumMonthRenderer.h"
 
-/// No dates: one cell with the month's name and the year. Also stands in for unknown kinds of calendarium.
-class MVCALENDAR_EXPORT MvCalendariumRendererMonthOnly : public MvCalendariumRenderer
+/// No dates: one cell with the month's name and the year, in type as large as all months of the calendar have room for.
+/// Also stands in for unknown kinds of calendarium.
+class MVCALENDAR_EXPORT MvCalendariumRendererMonthOnly : public MvCalendariumMonthRenderer
 {
     Q_OBJECT
 
 public:
-    using MvCalendariumRenderer::MvCalendariumRenderer;
+    using MvCalendariumMonthRenderer::MvCalendariumMonthRenderer;
 
     MvCalendariumDisplayAbilities abilities() const override;
     QSize minimumSizeHint() const override;

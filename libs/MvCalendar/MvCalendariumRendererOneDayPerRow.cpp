@@ -1,8 +1,11 @@
 #include "MvCalendar/MvCalendariumRendererOneDayPerRow.h"
 
+#include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCalendar/MvTextFitter.h"
 #include "MvCore/MvAngle.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
@@ -14,6 +17,10 @@ namespace {
 constexpr int mostColumns = 10;
 constexpr int mostDays = 31;
 constexpr int minimumColumnWidth = 20;
+constexpr double widestSheet = 1e5;
+// parts of the width that weeks, numbers and names of weekdays may take
+constexpr double widestLeftHeader = 0.6;
+constexpr double widestLeftHeaderWithLongNames = 0.45;
 constexpr double weekTextAir = 20.0; // a strip must exceed the height of its text by this much to carry it
 
 const MvCalendarCellTypeConfig topLine(CALENDAR_CELL_TYPE_TOPLINE, CALENDAR_CELL_TYPE_TOPLINE);
@@ -74,9 +81,43 @@ bool MvCalendariumRendererOneDayPerRow::hasOneHeaderPerDay() const
 
 // ---- sizes
 
+bool MvCalendariumRendererOneDayPerRow::hasRoom(const QSizeF &room) const
+{
+    const QRectF rect(QPointF(), room);
+    const double row = room.height() / (mostDays + (hasTopHeader() ? 1 : 0));
+    const auto isTooHigh = [this, row](const MvCalendarCellType &type) { return QFontMetricsF(font(type)).height() > row; };
+    const QList<MvCalendarCellType> types = usedCellTypes();
+    return std::none_of(types.cbegin(), types.cend(), isTooHigh) &&
+           offsetOfLeftHeader(rect) <= widestLeftHeader * room.width();
+}
+
 double MvCalendariumRendererOneDayPerRow::panedHeadWidth() const
 {
-    return isConfigured(calendar_render_days_of_week) ? maxHeadWidth() : 0.0;
+    return headWidth(isConfigured(calendar_render_days_of_week_short));
+}
+
+double MvCalendariumRendererOneDayPerRow::headWidth(bool shortNames) const
+{
+    if (!isConfigured(calendar_render_days_of_week))
+        return 0.0;
+    double width = 0.0;
+    for (const MvCalendarCellType &type : dayHeadCellTypes(false)) {
+        const QMarginsF margins = padding(type);
+        const double planned = widthOfCellType(type, shortNames) + std::max(0.0, -margins.left() - margins.right());
+        // a padding below 0 narrows a column of long names, but never the names that stand in it
+        const double narrowed = margins.right() < 0.0 ? widthOfCellType(type, false) : 0.0;
+        width = std::max({width, planned, narrowed});
+    }
+    return width;
+}
+
+/// Where the long names would leave the free columns little room.
+bool MvCalendariumRendererOneDayPerRow::hasShortNames(const QRectF &rect) const
+{
+    if (isConfigured(calendar_render_days_of_week_short))
+        return true;
+    const double others = planedWeekOfYearWidth() + planedNormalCellWidth();
+    return others + headWidth(false) > widestLeftHeaderWithLongNames * rect.width();
 }
 
 double MvCalendariumRendererOneDayPerRow::planedWeekOfYearWidth() const
@@ -89,12 +130,12 @@ double MvCalendariumRendererOneDayPerRow::planedNormalCellWidth() const
     return maxContentWidth();
 }
 
-double MvCalendariumRendererOneDayPerRow::widthOfCell(const QRectF &, const MvCalendarCellType &type) const
+double MvCalendariumRendererOneDayPerRow::widthOfCell(const QRectF &rect, const MvCalendarCellType &type) const
 {
     if (type == CALENDAR_CELL_TYPE_WEEK_OF_YEAR)
         return planedWeekOfYearWidth();
     if (dayHeadCellTypes(true).contains(type))
-        return panedHeadWidth();
+        return headWidth(hasShortNames(rect));
     return dayCellTypes().contains(type) ? planedNormalCellWidth() : 0.0;
 }
 
@@ -169,15 +210,44 @@ void MvCalendariumRendererOneDayPerRow::renderDay(QPainter &painter, const QRect
 {
     const MvCalendarCellTypeConfig content = contentCellTypeConfig(date);
     double x = rect.x() + widthOfCalendarWeek(rect);
-    const double dayWidth = widthOfCell(rect, content.inscriptionConfig());
-    drawCell(painter, {x, y, dayWidth, rowHeight(rect, date)}, content, u" %1 "_s.arg(date.day()), isEvenWeek(date), 0);
-    x += dayWidth;
+    const QRectF number(x, y, widthOfCell(rect, content.inscriptionConfig()), rowHeight(rect, date));
+    drawCellBackground(painter, number, content, isEvenWeek(date));
+    drawOnBaseline(painter, number, content, u" %1 "_s.arg(date.day()), 0, date);
+    x += number.width();
     if (isConfigured(calendar_render_days_of_week)) {
         const double width = widthOfCell(rect, headCellTypeConfig(date).inscriptionConfig());
         renderWeekday(painter, date, y, x, rect, width);
         x += width;
     }
     renderColumn(painter, rect, date, y, x, numberEmptyOfColumns());
+}
+
+/// Of everything that stands in a row: that of its number.
+double MvCalendariumRendererOneDayPerRow::baseline(const QRectF &row, const QDate &date) const
+{
+    const MvCalendarCellType type = contentCellType(date, FEATURE_HOLIDAYS);
+    MvCalendariumCellLine number({font(type), font(type).pixelSize() + 1.0, MvHyphenator()},
+                                 {widestSheet, row.height()}, u"0"_s);
+    number.align(row.marginsRemoved(padding(type)), int(textAlignment(type)));
+    number.keepInside({row.left(), row.top(), widestSheet, row.height()});
+    return number.baseline();
+}
+
+void MvCalendariumRendererOneDayPerRow::drawOnBaseline(QPainter &painter, const QRectF &cell,
+                                                       const MvCalendarCellTypeConfig &config, const QString &text,
+                                                       int flags, const QDate &date)
+{
+    const QColor color = fontColor(config, isEvenWeek(date));
+    if (!isOpaqueColor(color))
+        return;
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    MvCalendariumCellLine line(fitter(type), cell.size(), text);
+    if (line.isCut())
+        reportUnfitting(date, text.trimmed(), cell);
+    line.align(cell.marginsRemoved(padding(type)), flags == 0 ? int(textAlignment(type)) : flags);
+    line.setBaseline(baseline(cell, date));
+    line.keepInside(cell);
+    line.draw(painter, color);
 }
 
 int MvCalendariumRendererOneDayPerRow::renderHeadline(QPainter &painter, const QRectF &rect, const QDate &date)
@@ -199,11 +269,17 @@ void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int column
     const double width = widthOfOneColumn(rect, columns);
     QRectF cell(rect.x() + offsetOfLeftHeader(rect), rect.y(), width, height);
     const QStringList headers = appearance().columnHeadersList();
+    const QSizeF room = cell.marginsRemoved(padding(CALENDAR_CELL_TYPE_TOPLINE)).size();
+    MvTextFitter fitter = this->fitter(CALENDAR_CELL_TYPE_TOPLINE);
+    for (const QString &header : headers)
+        fitter = MvTextFitter(MvCalendariumCellLine(fitter, room, header).font(), fitter.floor(), MvHyphenator());
     for (int column = 0; column < headers.size(); ++column) {
-        MvCalendariumCellPainter(*this, painter)
-            .drawFittingText(cell, topLine, headers.at(column), Qt::AlignHCenter | Qt::AlignVCenter, true, startDate());
-        if (column >= columns)
+        MvCalendariumCellLine line(fitter, room, headers.at(column));
+        if (column >= columns || line.isCut())
             reportUnfitting(startDate(), headers.at(column), cell);
+        line.align(cell, Qt::AlignHCenter | Qt::AlignVCenter);
+        line.keepInside(cell);
+        line.draw(painter, fontColor(topLine, true));
         cell.translate(width, 0.0);
     }
 }
@@ -241,7 +317,8 @@ void MvCalendariumRendererOneDayPerRow::renderWeekday(QPainter &painter, const Q
     drawCellBackground(painter, cell, head, even);
     if (!shouldIPaintTheBackground(head, even)) // the row's own ground goes on beneath the name
         MvCalendariumCellPainter(*this, painter).drawGround(cell, contentCellTypeConfig(date), even);
-    drawCellText(painter, cell, head, dayNameFromDate(date), Qt::AlignLeft | Qt::AlignVCenter, even);
+    const QString name = dayNameFromDate(date, hasShortNames(rect));
+    drawOnBaseline(painter, cell, head, name, Qt::AlignLeft | Qt::AlignVCenter, date);
 }
 
 void MvCalendariumRendererOneDayPerRow::renderColumn(QPainter &painter, const QRectF &rect, const QDate &date, double y,

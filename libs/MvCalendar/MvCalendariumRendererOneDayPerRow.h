@@ -16,6 +16,8 @@ public:
     MvCalendariumDisplayAbilities abilities() const override;
     /// Of a month of 31 days with a top line, whatever the month and its headings.
     QSize minimumSizeHint() const override;
+    /// A row is as high as its number's line, and the free columns have the larger part of the width.
+    bool hasRoom(const QSizeF &room) const override;
     bool rendersMonthInformation() const override;
     /// Whether a heading is wider than its column.
     bool thereIsToMuchText(const QRectF &rect) const override;
@@ -23,11 +25,13 @@ public:
     bool hasOneHeaderPerDay() const override;
     void renderBase(QPainter &painter, const QRectF &rect) override;
 
-    /// The width of the weekday names, 0 where there are none; the name is historical.
+    /// The width of the weekday names as the layout asks for them, long or short, 0 where there are none; the name is
+    /// historical.
     double panedHeadWidth() const;
     double planedWeekOfYearWidth() const;
     double planedNormalCellWidth() const;
-    /// The planned width of a cell; 0 for types that have no column. The rectangle makes no difference.
+    /// The planned width of a cell; 0 for types that have no column. The rectangle makes a difference for the names of
+    /// weekdays alone: a narrow one has the short names.
     double widthOfCell(const QRectF &rect, const MvCalendarCellType &type) const;
     /// The free columns, 1 to 10.
     int numberEmptyOfColumns() const;
@@ -44,7 +48,7 @@ public:
 protected:
     /// The top line and the dividing lines of the columns; gives its height in whole units.
     int renderHeadline(QPainter &painter, const QRectF &rect, const QDate &date);
-    /// All headings, also those beyond the last column.
+    /// All headings, in type of one size, also those beyond the last column.
     void renderHead(QPainter &painter, int columns, double height, const QRectF &rect);
     void renderWeekday(QPainter &painter, const QDate &date, double y, double x, const QRectF &rect, double width);
     void renderColumn(QPainter &painter, const QRectF &rect, const QDate &date, double y, double x, int columns);
@@ -52,7 +56,12 @@ protected:
     void renderCalendarWeek(QPainter &painter, const QDate &date, const QRectF &rect, double y, double weekTop);
 
 private:
+    double headWidth(bool shortNames) const;
+    bool hasShortNames(const QRectF &rect) const;
     double rowHeight(const QRectF &rect, const QDate &date) const;
+    double baseline(const QRectF &row, const QDate &date) const;
+    void drawOnBaseline(QPainter &painter, const QRectF &cell, const MvCalendarCellTypeConfig &config,
+                        const QString &text, int flags, const QDate &date);
     void renderDay(QPainter &painter, const QRectF &rect, const QDate &date, double y);
     void renderColumnLines(QPainter &painter, const QRectF &rect, int columns);
     QString weekText(const QDate &date, double width) const;

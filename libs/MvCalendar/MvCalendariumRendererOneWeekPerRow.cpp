@@ -4,6 +4,14 @@
 
 #include <algorithm>
 
+namespace {
+
+constexpr double widthWithAir = 0.86; // numbers side by side do not touch
+const QString widestDayNumber = QStringLiteral("22");
+const QDate monthOfSixWeeks(2026, 8, 1);
+
+} // namespace
+
 MvCalendariumDisplayAbilities MvCalendariumRendererOneWeekPerRow::abilities() const
 {
     return MvCalendariumDisplayAbilities(ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS |
@@ -106,6 +114,20 @@ int MvCalendariumRendererOneWeekPerRow::minimumWidth() const
     return static_cast<int>(column * daysPerWeek + planedWeekOfYearWidth());
 }
 
+/// The names of weekdays do not count: they become shorter where they must.
+bool MvCalendariumRendererOneWeekPerRow::hasRoom(const QSizeF &room) const
+{
+    if (minimumHeight() > room.height())
+        return false;
+    const QRectF rect(0.0, 0.0, widthWithAir * room.width(), room.height());
+    for (const MvCalendarCellType type : {CALENDAR_CELL_TYPE_WEEKDAY, CALENDAR_CELL_TYPE_SUNDAY}) {
+        if (MvCalendariumTextPainter::advance(font(type), widestDayNumber) > widthOfCell(rect, type))
+            return false;
+    }
+    const double title = heightOfCell(rect, CALENDAR_CELL_TYPE_TITLE, monthOfSixWeeks);
+    return !rendersMonthInformation() || hasRoomForTitle({0.0, 0.0, rect.width(), title});
+}
+
 // ---- painting
 
 void MvCalendariumRendererOneWeekPerRow::renderBase(QPainter &painter, const QRectF &rect)
@@ -134,14 +156,15 @@ double MvCalendariumRendererOneWeekPerRow::renderHeadline(QPainter &painter, con
     double x = rect.left();
     if (isConfigured(calendar_render_week_of_year)) {
         const double width = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
-        drawCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TOPLINE),
-                 calendarWeekHeadlineText(), true, 0);
+        drawFittingCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TOPLINE),
+                        calendarWeekHeadlineText(), true, startDate());
         x += width;
     }
     const double width = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY);
+    const QStringList heads = weekdayHeads(width);
     for (int day = 1; day <= daysPerWeek; ++day) {
-        drawCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(headCellTypeWeekDay(day)), dayName(day), true,
-                 0);
+        drawFittingCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(headCellTypeWeekDay(day)),
+                        heads.at(day - 1), true, startDate());
         x += width;
     }
     return y + height;
@@ -159,8 +182,9 @@ void MvCalendariumRendererOneWeekPerRow::renderDayCells(QPainter &painter, const
         double x = rect.left();
         if (isConfigured(calendar_render_week_of_year)) {
             const double weekWidth = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
-            drawCell(painter, {x, y, weekWidth, height}, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_WEEK_OF_YEAR),
-                     calendarWeekText(monday), even, 0);
+            drawFittingCell(painter, {x, y, weekWidth, height},
+                            MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), calendarWeekText(monday), even,
+                            monday);
             x += weekWidth;
         }
         renderWeek(painter, {x, y, width, height}, monday, start.month(), even);

@@ -12,6 +12,7 @@ public:
 
     MvCalendariumDisplayAbilities abilities() const override;
     QSize minimumSizeHint() const override;
+    bool hasRoom(const QSizeF &room) const override;
     bool rendersMonthInformation() const override;
     QList<MvCalendarCellType> usedCellTypes() const override;
     void renderBase(QPainter &painter, const QRectF &rect) override;

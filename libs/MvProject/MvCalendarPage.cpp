@@ -71,7 +71,7 @@ MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
         holidays.setFeature(FEATURE_CALENDAR_WEEKS, asked);
         MvCalendarPage page = *this;
         page.m_content.setHolidayConfig(holidays);
-        return page.renderer(m_appearance, {}, {})->isConfigured(calendar_render_week_of_year);
+        return page.renderer(m_appearance, {})->isConfigured(calendar_render_week_of_year);
     };
     if (areShownWhen(false))
         return CalendarWeeks::Always;
@@ -156,18 +156,24 @@ QList<MvUnfittingText> MvCalendarPage::paintCalendarium(QPainter &painter, const
     QRectF rect = calendariumRect(format);
     if (!isValid() || rect.isEmpty())
         return {};
-    const MvSpaceMagnitude pageSize = format.magnitude();
-    if (!renderer(m_appearance, pageSize, documentRange)->rendersMonthInformation())
-        rect = paintMonthLine(painter, rect, pageSize, documentRange);
-    const auto calendarium = fittedRenderer(pageSize, rect.size(), documentRange);
+    const MvCalendariumFit fit(m_appearance, m_content, format.magnitude(), rect.size());
+    QList<MvUnfittingText> unfitting;
+    if (fit.lineHeight() > 0.0) {
+        const auto line = renderer(fit.lineAppearance(), documentRange);
+        fit.apply(*line);
+        line->render(painter, {rect.left(), rect.top(), rect.width(), fit.lineHeight()});
+        unfitting = line->unfittingTexts();
+        rect.setTop(rect.top() + fit.lineHeight());
+    }
+    const auto calendarium = renderer(m_appearance, documentRange);
+    fit.apply(*calendarium);
     if (prepare)
         prepare(*calendarium);
     calendarium->render(painter, rect);
-    return calendarium->unfittingTexts();
+    return unfitting + calendarium->unfittingTexts();
 }
 
 std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendariumAppearance &appearance,
-                                                                const MvSpaceMagnitude &productSize,
                                                                 const MvDateRange &documentRange) const
 {
     std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
@@ -184,30 +190,6 @@ std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendar
         made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()), documentRange);
         break;
     }
-    made->setProductSize(productSize);
     made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
     return made;
-}
-
-std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::fittedRenderer(const MvSpaceMagnitude &pageSize,
-                                                                      const QSizeF &room,
-                                                                      const MvDateRange &documentRange) const
-{
-    if (monthCount() > 1)
-        return renderer(m_appearance, pageSize, documentRange); // years fit themselves
-    const MvCalendariumFit fit(m_appearance, m_content, pageSize, room);
-    return renderer(fit.appearance(), fit.productSize(), documentRange);
-}
-
-QRectF MvCalendarPage::paintMonthLine(QPainter &painter, const QRectF &rect, const MvSpaceMagnitude &pageSize,
-                                      const MvDateRange &documentRange) const
-{
-    MvCalendariumAppearance appearance = m_appearance;
-    appearance.setLayoutSchemaByID(m_appearance.layoutSchema().monthLayout());
-    if (!appearance.isValid())
-        return rect;
-    const auto line = renderer(appearance, pageSize, documentRange);
-    const double height = std::min(rect.height() / 2.0, double(line->minimumSizeHint().height()));
-    line->render(painter, {rect.left(), rect.top(), rect.width(), height});
-    return rect.adjusted(0.0, height, 0.0, 0.0);
 }

@@ -89,14 +89,7 @@ private:
     QList<MvUnfittingText> paintCalendarium(QPainter &painter, const MvPageFormat &format,
                                             const MvDateRange &documentRange, const Prepare &prepare) const;
     std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
-                                                    const MvSpaceMagnitude &productSize,
                                                     const MvDateRange &documentRange) const;
-    /// The renderer of the calendarium, fitted into so much room.
-    std::unique_ptr<MvCalendariumRenderer> fittedRenderer(const MvSpaceMagnitude &pageSize, const QSizeF &room,
-                                                          const MvDateRange &documentRange) const;
-    /// Gives what it leaves of the rectangle.
-    QRectF paintMonthLine(QPainter &painter, const QRectF &rect, const MvSpaceMagnitude &pageSize,
-                          const MvDateRange &documentRange) const;
 
     MvCalendariumAppearance m_appearance;
     MvCalendariumContentConfig m_content;

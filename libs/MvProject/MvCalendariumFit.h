@@ -6,25 +6,43 @@
 
 #include <QSizeF>
 
-/// Fits a month's calendarium into the room that a photo, or a paper of unusual proportions, leaves it: short names of
-/// weekdays where the long ones would meet, smaller fonts where a month's name or a day's number has no room.
+#include <memory>
+
+class MvCalendariumRenderer;
+
+/// Fits a calendarium, and the line with its month where it has one above it, into the room that a page leaves them:
+/// type and paddings are scaled to the paper, and then made smaller together until a month's name and the numbers of its
+/// days find their place, or until type has reached its floor.
 ///
-/// It is the same for all months, so that pages of one layout look alike.
+/// It is the same for all months, so that pages of one layout look alike. The names of weekdays and the texts of days do
+/// not count; renderers make them fit by themselves, and so do those of whole years.
 class MvCalendariumFit
 {
 public:
     MvCalendariumFit(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
-                     const MvSpaceMagnitude &pageSize, const QSizeF &room);
+                     const MvSpaceMagnitude &paper, const QSizeF &room);
 
-    const MvCalendariumAppearance &appearance() const { return m_appearance; }
-    /// The paper class that fonts are to be adapted to.
-    const MvSpaceMagnitude &productSize() const { return m_productSize; }
+    /// The appearance of the line with the month; an invalid one for a calendarium that shows its month itself.
+    const MvCalendariumAppearance &lineAppearance() const { return m_lineAppearance; }
+    /// The height of that line; 0 without one.
+    double lineHeight() const { return lineHeight(m_scale); }
+    /// Gives a renderer of the calendarium or of the line its type and paddings.
+    void apply(MvCalendariumRenderer &renderer) const { apply(renderer, m_scale); }
 
 private:
-    void shortenWeekdays(const QSizeF &room);
-    bool hasRoom(const QSizeF &room) const;
+    using Renderer = std::unique_ptr<MvCalendariumRenderer>;
+
+    double largestScale() const;
+    bool hasRoom(double scale) const;
+    bool findsNothingUnfitting(double scale, const QSizeF &room) const;
+    double lineHeight(double scale) const;
+    void apply(MvCalendariumRenderer &renderer, double scale) const;
+    Renderer makeRenderer(const MvCalendariumAppearance &appearance, const QDate &month, double scale) const;
 
     MvCalendariumAppearance m_appearance;
+    MvCalendariumAppearance m_lineAppearance;
     MvCalendariumContentConfig m_content;
-    MvSpaceMagnitude m_productSize;
+    MvSpaceMagnitude m_paper;
+    QSizeF m_room;
+    double m_scale = 1.0;
 };
