@@ -21,6 +21,7 @@ public:
     /// room and what is seen of it no higher. What is too wide even so ends in an ellipsis; what is too high is empty.
     MvCalendariumCellLine(const MvTextFitter &fitter, const QSizeF &room, const QString &text);
 
+    const QString &text() const { return m_text; }
     const QFont &font() const { return m_font; }
     /// Shortened, or left out altogether.
     bool isCut() const { return m_isCut; }

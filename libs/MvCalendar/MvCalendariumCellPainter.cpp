@@ -31,7 +31,32 @@ constexpr double smallCellMargin = 2.0;
 constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
 constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
-constexpr int wideCellTexts = wrappingText | Qt::AlignBottom | Qt::AlignLeft;
+constexpr double leastMargin = 1.0;
+constexpr double widestPhotoBesideTexts = 0.5; // of a wide cell
+
+/// The letters of a text, which are the same however it is broken into lines.
+QString lettersOf(QString text)
+{
+    return text.removeIf(
+        [](QChar c) { return c.isSpace() || c.category() == QChar::Punctuation_Dash || c == u'\u00ad'; });
+}
+
+/// Of texts that stand one behind the other in lines of which the last one was shortened.
+QStringList textsNotWhole(const QStringList &texts, const QStringList &lines)
+{
+    QString shown = lettersOf(lines.join(QString()));
+    if (shown.endsWith(u'…'))
+        shown.chop(1);
+    qsizetype end = 0;
+    QStringList notWhole;
+    for (const QString &text : texts) {
+        end += lettersOf(text).size();
+        if (end > shown.size())
+            notWhole.append(text);
+        end += 1; // the comma
+    }
+    return notWhole;
+}
 
 } // namespace
 
@@ -218,7 +243,8 @@ QRectF MvCalendariumCellPainter::drawHolidayLines(const QRectF &inner, const QSt
                           -(lineHeight * double(bottom.size()) + textGap));
 }
 
-void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &date, bool even)
+void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &date, bool even,
+                                               std::optional<double> baseline)
 {
     Q_EMIT m_renderer.rectForDateFound(date, rect);
     const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
@@ -227,35 +253,62 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     const double horizontal = rect.width() > largeCell ? largeCellMargin : smallCellMargin;
     QRectF inner = rect.marginsRemoved(m_renderer.padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
 
-    const QImage picture = pictureWithin(date, inner.size());
+    const QColor color = m_renderer.fontColor(config, even);
+    const QStringList texts = m_renderer.isOpaqueColor(color) ? m_renderer.describeHolidays(date) : QStringList();
+    const QSizeF photoRoom(inner.width() * (texts.isEmpty() ? 1.0 : widestPhotoBesideTexts), inner.height());
+    const QImage picture = pictureWithin(date, photoRoom);
     if (!picture.isNull()) {
-        const QSize size = picture.size().scaled(inner.size().toSize(), Qt::KeepAspectRatio);
+        const QSize size = picture.size().scaled(photoRoom.toSize(), Qt::KeepAspectRatio);
         m_painter.drawImage(QRectF(inner.topLeft(), size), picture);
         inner.setLeft(inner.left() + size.width() + textGap);
     }
-
-    const QStringList texts = m_renderer.describeHolidays(date);
-    const QColor color = m_renderer.fontColor(config, even);
-    if (!m_renderer.isOpaqueColor(color) || texts.isEmpty())
+    if (texts.isEmpty())
         return;
     m_painter.save();
-    preparePen(m_renderer.fontHolidays(type), color);
     m_painter.setClipRect(rect, Qt::IntersectClip);
-    const QString text = texts.join(u", "_s);
-    const QFontMetricsF metrics(m_painter.font());
-    const int maxLines = std::max(1, static_cast<int>(inner.height() / metrics.height()));
-    bool isCut = false;
-    const QStringList lines =
-        MvCalendariumTextPainter::fitLines(static_cast<int>(inner.width()), maxLines, m_painter.font(), {text}, &isCut);
-    if (isCut || MvCalendariumTextPainter::isAnyTextToWide(static_cast<int>(inner.width()), m_painter.font(), lines))
-        m_renderer.reportUnfitting(date, text, rect);
-    QRectF line = inner;
-    line.setBottom(inner.bottom() - metrics.height() * double(lines.size() - 1));
-    for (const QString &part : lines) {
-        MvCalendariumTextPainter::drawText(m_painter, line, wideCellTexts, part);
-        line.translate(0.0, metrics.height());
-    }
+    drawWideTexts(rect, inner, texts, config, even, date, baseline);
     m_painter.restore();
+}
+
+void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &inner, const QStringList &texts,
+                                             const MvCalendarCellTypeConfig &config, bool even, const QDate &date,
+                                             std::optional<double> baseline)
+{
+    const MvTextFitter fitter = m_renderer.holidayFitter(config.inscriptionConfig());
+    const QRectF widest(QPointF(inner.left(), rect.top()),
+                        QPointF(std::max(inner.left(), rect.right() - leastMargin), rect.bottom()));
+    const QStringList joined{texts.join(u", "_s)};
+    MvFittedText fitted = fitter.fit(inner.size(), joined);
+    if (fitted.isCut || fitted.font != fitter.font()) // paddings give before letters become smaller
+        fitted = fitter.fit(widest.size(), joined);
+    if (fitted.lines.isEmpty()) { // the row is lower than a line, but perhaps not than what is seen of one
+        const MvCalendariumCellLine line(fitter, widest.size(), joined.constFirst());
+        fitted = {line.font(), line.isEmpty() ? QStringList() : QStringList{line.text()}, line.isCut()};
+    }
+    if (fitted.isCut) {
+        for (const QString &text : textsNotWhole(texts, fitted.lines))
+            m_renderer.reportUnfitting(date, text, rect);
+    }
+
+    const QFontMetricsF metrics(fitted.font);
+    const MvTextFitter unchanged(fitted.font, fitted.font.pixelSize() + 1.0, MvHyphenator());
+    double y =
+        baseline.value_or(inner.bottom() - metrics.descent()) - metrics.height() * double(fitted.lines.size() - 1);
+    QList<MvCalendariumCellLine> lines;
+    QRectF ink;
+    for (const QString &text : std::as_const(fitted.lines)) {
+        MvCalendariumCellLine line(unchanged, {widest.width() + inner.width(), rect.height()}, text);
+        line.align(widest, Qt::AlignLeft | Qt::AlignTop);
+        line.setBaseline(y);
+        y += metrics.height();
+        ink |= line.ink();
+        lines.append(line);
+    }
+    const double shift = std::max(0.0, rect.top() - ink.top()) - std::max(0.0, ink.bottom() - rect.bottom());
+    for (MvCalendariumCellLine &line : lines) {
+        line.setBaseline(line.baseline() + shift);
+        line.draw(m_painter, m_renderer.fontColor(config, even));
+    }
 }
 
 bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect)

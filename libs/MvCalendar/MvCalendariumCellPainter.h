@@ -8,6 +8,8 @@
 #include <QRectF>
 #include <QStringList>
 
+#include <optional>
+
 class MvCalendariumRenderer;
 class QColor;
 class QFont;
@@ -26,7 +28,8 @@ public:
     void drawGround(const QRectF &rect, const MvCalendarCellTypeConfig &config, bool even);
     void drawText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
                   bool even);
-    /// On one line inside the cell: in smaller type where it must, then shortened or left out and reported for the date.
+    /// On one line inside the cell: in smaller type where it must, then shortened or left out and reported for the
+    /// date.
     void drawFittingText(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &text, int flags,
                          bool even, const QDate &date);
     void drawDayNumber(const QRectF &rect, const QDate &date);
@@ -34,7 +37,8 @@ public:
     void drawPlainDay(const QRectF &rect, const QDate &date, const QString &number);
     /// True when a photo was drawn.
     bool drawHoliday(const QRectF &rect, const QDate &date, bool even);
-    void drawHolidayWide(const QRectF &rect, const QDate &date, bool even);
+    /// Texts stand at the bottom, or their last line on the baseline where one is given.
+    void drawHolidayWide(const QRectF &rect, const QDate &date, bool even, std::optional<double> baseline = {});
     bool drawPicture(const QDate &date, const QRectF &rect);
 
 private:
@@ -50,6 +54,9 @@ private:
                              const MvCalendarCellType &type, bool *hasTooWideWord);
     /// Gives what is left of the inner rectangle.
     QRectF drawHolidayLines(const QRectF &inner, const QStringList &lines, const MvCalendarCellType &type);
+    void drawWideTexts(const QRectF &rect, const QRectF &inner, const QStringList &texts,
+                       const MvCalendarCellTypeConfig &config, bool even, const QDate &date,
+                       std::optional<double> baseline);
     void drawQualityWarning(const QRectF &rect);
     /// The photo in as many pixels as the device has there, so that print is sharp and screens decode little.
     QImage pictureWithin(const QDate &date, const QSizeF &size) const;

@@ -123,7 +123,8 @@ QSizeF MvCalendariumMonthRenderer::roomForMonth(const QRectF &cell, const MvCale
 
 bool MvCalendariumMonthRenderer::hasRoomForTitle(const QRectF &rect) const
 {
-    const QFont fitting = monthFont(roomForMonth(rect, CALENDAR_CELL_TYPE_TITLE), CALENDAR_CELL_TYPE_TITLE, titleBlanks);
+    const QFont fitting =
+        monthFont(roomForMonth(rect, CALENDAR_CELL_TYPE_TITLE), CALENDAR_CELL_TYPE_TITLE, titleBlanks);
     return fitting.pixelSize() == font(CALENDAR_CELL_TYPE_TITLE).pixelSize();
 }
 

@@ -68,8 +68,8 @@ public:
     void setCalendarInformation(const MvCalendariumContentConfig &content, const MvDateRange &range);
     /// The paper class of the printed product; none (the default) leaves fonts as the layout made them.
     void setProductSize(const MvSpaceMagnitude &size) { m_productSize = size; }
-    /// Factors to the fonts and paddings of the layout, for a page that leaves the calendarium less room than the layout
-    /// was made for; 1 by default. No font becomes smaller than smallestPixelSize().
+    /// Factors to the fonts and paddings of the layout, for a page that leaves the calendarium less room than the
+    /// layout was made for; 1 by default. No font becomes smaller than smallestPixelSize().
     void setScale(double fonts, double paddings);
     /// Points; 6 by default.
     void setMinimumFontSize(int size) { m_minimumFontSize = size; }

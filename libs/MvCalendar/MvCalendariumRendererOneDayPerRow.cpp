@@ -85,7 +85,9 @@ bool MvCalendariumRendererOneDayPerRow::hasRoom(const QSizeF &room) const
 {
     const QRectF rect(QPointF(), room);
     const double row = room.height() / (mostDays + (hasTopHeader() ? 1 : 0));
-    const auto isTooHigh = [this, row](const MvCalendarCellType &type) { return QFontMetricsF(font(type)).height() > row; };
+    const auto isTooHigh = [this, row](const MvCalendarCellType &type) {
+        return QFontMetricsF(font(type)).height() > row;
+    };
     const QList<MvCalendarCellType> types = usedCellTypes();
     return std::none_of(types.cbegin(), types.cend(), isTooHigh) &&
            offsetOfLeftHeader(rect) <= widestLeftHeader * room.width();
@@ -233,6 +235,13 @@ double MvCalendariumRendererOneDayPerRow::baseline(const QRectF &row, const QDat
     return number.baseline();
 }
 
+/// None where the number is not in the middle of the row: texts stand at the bottom then.
+std::optional<double> MvCalendariumRendererOneDayPerRow::textBaseline(const QRectF &row, const QDate &date) const
+{
+    const Qt::Alignment alignment = textAlignment(contentCellType(date, FEATURE_HOLIDAYS));
+    return alignment.testFlag(Qt::AlignVCenter) ? std::optional(baseline(row, date)) : std::nullopt;
+}
+
 void MvCalendariumRendererOneDayPerRow::drawOnBaseline(QPainter &painter, const QRectF &cell,
                                                        const MvCalendarCellTypeConfig &config, const QString &text,
                                                        int flags, const QDate &date)
@@ -241,9 +250,12 @@ void MvCalendariumRendererOneDayPerRow::drawOnBaseline(QPainter &painter, const 
     if (!isOpaqueColor(color))
         return;
     const MvCalendarCellType &type = config.inscriptionConfig();
-    MvCalendariumCellLine line(fitter(type), cell.size(), text);
+    const QString seen = text.trimmed();
+    const int blanks =
+        MvCalendariumTextPainter::advance(font(type), text) - MvCalendariumTextPainter::advance(font(type), seen);
+    MvCalendariumCellLine line(fitter(type), {cell.width() + blanks, cell.height()}, text);
     if (line.isCut())
-        reportUnfitting(date, text.trimmed(), cell);
+        reportUnfitting(date, seen, cell);
     line.align(cell.marginsRemoved(padding(type)), flags == 0 ? int(textAlignment(type)) : flags);
     line.setBaseline(baseline(cell, date));
     line.keepInside(cell);
@@ -332,7 +344,7 @@ void MvCalendariumRendererOneDayPerRow::renderColumn(QPainter &painter, const QR
         const QRectF cell(x + column * width, y, width, height);
         drawCellBackground(painter, cell, content, even);
         if (column == 0)
-            drawCellHolidayWide(painter, cell, date, even);
+            MvCalendariumCellPainter(*this, painter).drawHolidayWide(cell, date, even, textBaseline(cell, date));
     }
 }
 

@@ -2,6 +2,8 @@
 
 #include "MvCalendar/MvCalendariumRenderer.h"
 
+#include <optional>
+
 /// The month as a list: one row per day with its number, the weekday's name where that is configured, and one to ten
 /// free columns to write in; the first one takes the day's texts. A line above carries the headings of the columns,
 /// a strip on the left the calendar weeks.
@@ -60,6 +62,7 @@ private:
     bool hasShortNames(const QRectF &rect) const;
     double rowHeight(const QRectF &rect, const QDate &date) const;
     double baseline(const QRectF &row, const QDate &date) const;
+    std::optional<double> textBaseline(const QRectF &row, const QDate &date) const;
     void drawOnBaseline(QPainter &painter, const QRectF &cell, const MvCalendarCellTypeConfig &config,
                         const QString &text, int flags, const QDate &date);
     void renderDay(QPainter &painter, const QRectF &rect, const QDate &date, double y);

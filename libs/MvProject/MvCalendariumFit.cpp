@@ -13,7 +13,7 @@ namespace {
 
 constexpr double air = 0.86; // numbers side by side do not touch: what fits, fits into so much of the width
 constexpr double step = 0.95;
-constexpr int mostSteps = 32;            // to a fifth of the size, which is the floor of every layout
+constexpr int mostSteps = 32;           // to a fifth of the size, which is the floor of every layout
 constexpr double largestLinePart = 0.5; // of the room's height
 
 const QDate longestMonth(2026, 8, 1); // 31 days in six weeks

@@ -11,11 +11,11 @@
 class MvCalendariumRenderer;
 
 /// Fits a calendarium, and the line with its month where it has one above it, into the room that a page leaves them:
-/// type and paddings are scaled to the paper, and then made smaller together until a month's name and the numbers of its
-/// days find their place, or until type has reached its floor.
+/// type and paddings are scaled to the paper, and then made smaller together until a month's name and the numbers of
+/// its days find their place, or until type has reached its floor.
 ///
-/// It is the same for all months, so that pages of one layout look alike. The names of weekdays and the texts of days do
-/// not count; renderers make them fit by themselves, and so do those of whole years.
+/// It is the same for all months, so that pages of one layout look alike. The names of weekdays and the texts of days
+/// do not count; renderers make them fit by themselves, and so do those of whole years.
 class MvCalendariumFit
 {
 public:
