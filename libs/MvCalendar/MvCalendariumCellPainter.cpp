@@ -32,6 +32,7 @@ constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
 constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
 constexpr double leastMargin = 1.0;
+constexpr QChar ellipsis(u'…');
 constexpr double widestPhotoBesideTexts = 0.5; // of a wide cell
 
 /// The letters of a text, which are the same however it is broken into lines.
@@ -41,20 +42,29 @@ QString lettersOf(QString text)
         [](QChar c) { return c.isSpace() || c.category() == QChar::Punctuation_Dash || c == u'\u00ad'; });
 }
 
-/// Of texts that stand one behind the other in lines of which the last one was shortened.
-QStringList textsNotWhole(const QStringList &texts, const QStringList &lines)
+/// Of texts that stand one behind the other in lines of which the last one was shortened. Where that one ends with a
+/// whole text, its ellipsis stands apart, for the texts that follow.
+QStringList textsNotWhole(const QStringList &texts, int width, const QFont &font, QStringList *lines)
 {
-    QString shown = lettersOf(lines.join(QString()));
-    if (shown.endsWith(u'…'))
-        shown.chop(1);
+    QString last = lines->isEmpty() ? QString() : lines->takeLast();
+    if (last.endsWith(ellipsis))
+        last.chop(1);
+    const qsizetype seen = lettersOf(lines->join(QString()) + last).size();
     qsizetype end = 0;
+    bool endsWithText = false;
     QStringList notWhole;
     for (const QString &text : texts) {
         end += lettersOf(text).size();
-        if (end > shown.size())
+        if (end > seen)
             notWhole.append(text);
+        endsWithText = endsWithText || end == seen || end + 1 == seen;
         end += 1; // the comma
     }
+    while (endsWithText && (last.endsWith(u',') || last.endsWith(u' ')))
+        last.chop(1);
+    const QString ended = last + (endsWithText ? u" "_s : QString()) + ellipsis;
+    if (seen > 0)
+        lines->append(MvCalendariumTextPainter::advance(font, ended) <= width ? ended : last);
     return notWhole;
 }
 
@@ -275,8 +285,8 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
                                              std::optional<double> baseline)
 {
     const MvTextFitter fitter = m_renderer.holidayFitter(config.inscriptionConfig());
-    const QRectF widest(QPointF(inner.left(), rect.top()),
-                        QPointF(std::max(inner.left(), rect.right() - leastMargin), rect.bottom()));
+    const QRectF widest(QPointF(inner.left(), rect.top() + leastMargin),
+                        QPointF(std::max(inner.left(), rect.right() - leastMargin), rect.bottom() - leastMargin));
     const QStringList joined{texts.join(u", "_s)};
     MvFittedText fitted = fitter.fit(inner.size(), joined);
     if (fitted.isCut || fitted.font != fitter.font()) // paddings give before letters become smaller
@@ -286,7 +296,8 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
         fitted = {line.font(), line.isEmpty() ? QStringList() : QStringList{line.text()}, line.isCut()};
     }
     if (fitted.isCut) {
-        for (const QString &text : textsNotWhole(texts, fitted.lines))
+        const int width = static_cast<int>(widest.width());
+        for (const QString &text : textsNotWhole(texts, width, fitted.font, &fitted.lines))
             m_renderer.reportUnfitting(date, text, rect);
     }
 
@@ -304,7 +315,7 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
         ink |= line.ink();
         lines.append(line);
     }
-    const double shift = std::max(0.0, rect.top() - ink.top()) - std::max(0.0, ink.bottom() - rect.bottom());
+    const double shift = std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
     for (MvCalendariumCellLine &line : lines) {
         line.setBaseline(line.baseline() + shift);
         line.draw(m_painter, m_renderer.fontColor(config, even));

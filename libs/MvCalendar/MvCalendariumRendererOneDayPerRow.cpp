@@ -21,6 +21,8 @@ constexpr double widestSheet = 1e5;
 // parts of the width that weeks, numbers and names of weekdays may take
 constexpr double widestLeftHeader = 0.6;
 constexpr double widestLeftHeaderWithLongNames = 0.45;
+constexpr double lineAir = 1.0;      // between a text and the line above or below the row
+constexpr double headingAir = 0.4;   // between two headings, in parts of their size
 constexpr double weekTextAir = 20.0; // a strip must exceed the height of its text by this much to carry it
 
 const MvCalendarCellTypeConfig topLine(CALENDAR_CELL_TYPE_TOPLINE, CALENDAR_CELL_TYPE_TOPLINE);
@@ -231,7 +233,7 @@ double MvCalendariumRendererOneDayPerRow::baseline(const QRectF &row, const QDat
     MvCalendariumCellLine number({font(type), font(type).pixelSize() + 1.0, MvHyphenator()},
                                  {widestSheet, row.height()}, u"0"_s);
     number.align(row.marginsRemoved(padding(type)), int(textAlignment(type)));
-    number.keepInside({row.left(), row.top(), widestSheet, row.height()});
+    number.keepInside({row.left(), row.top() + lineAir, widestSheet, row.height() - 2.0 * lineAir});
     return number.baseline();
 }
 
@@ -253,12 +255,13 @@ void MvCalendariumRendererOneDayPerRow::drawOnBaseline(QPainter &painter, const 
     const QString seen = text.trimmed();
     const int blanks =
         MvCalendariumTextPainter::advance(font(type), text) - MvCalendariumTextPainter::advance(font(type), seen);
-    MvCalendariumCellLine line(fitter(type), {cell.width() + blanks, cell.height()}, text);
+    const QRectF inside = cell.adjusted(0.0, lineAir, 0.0, -lineAir);
+    MvCalendariumCellLine line(fitter(type), {inside.width() + blanks, inside.height()}, text);
     if (line.isCut())
         reportUnfitting(date, seen, cell);
     line.align(cell.marginsRemoved(padding(type)), flags == 0 ? int(textAlignment(type)) : flags);
     line.setBaseline(baseline(cell, date));
-    line.keepInside(cell);
+    line.keepInside(inside);
     line.draw(painter, color);
 }
 
@@ -281,8 +284,9 @@ void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int column
     const double width = widthOfOneColumn(rect, columns);
     QRectF cell(rect.x() + offsetOfLeftHeader(rect), rect.y(), width, height);
     const QStringList headers = appearance().columnHeadersList();
-    const QSizeF room = cell.marginsRemoved(padding(CALENDAR_CELL_TYPE_TOPLINE)).size();
     MvTextFitter fitter = this->fitter(CALENDAR_CELL_TYPE_TOPLINE);
+    QSizeF room = cell.marginsRemoved(padding(CALENDAR_CELL_TYPE_TOPLINE)).size();
+    room -= QSizeF(headingAir * fitter.font().pixelSize(), 2.0 * lineAir);
     for (const QString &header : headers)
         fitter = MvTextFitter(MvCalendariumCellLine(fitter, room, header).font(), fitter.floor(), MvHyphenator());
     for (int column = 0; column < headers.size(); ++column) {

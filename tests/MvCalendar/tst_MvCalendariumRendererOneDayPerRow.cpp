@@ -320,7 +320,8 @@ void tst_MvCalendariumRendererOneDayPerRow::lowRowsShowTheWeekNumberAlone()
 void tst_MvCalendariumRendererOneDayPerRow::longTextsEndInAnEllipsis()
 {
     const QString name =
-        u"Großtante Wilhelmine und Großonkel Balthasar mit den Zwillingen Anna und Otto aus Garmisch-Partenkirchen"_s;
+        u"Großtante Wilhelmine und Großonkel Balthasar mit den Zwillingen Anna und Otto aus Garmisch-Partenkirchen, "
+        "Leopold, Kunigunde, Hieronymus, Apollonia und all den anderen aus Oberammergau und Unterammergau"_s;
     MvCalendarEventRegistry::instance().setEvents(
         {MvCalendarEvent(name, QDate(1950, 5, 12).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime())});
     MvPageFixture page(dayList(weekdays, u"A$$B$$C$$D"_s), QDate(2027, 5, 1), FEATURE_ENTRIES);
@@ -328,7 +329,7 @@ void tst_MvCalendariumRendererOneDayPerRow::longTextsEndInAnEllipsis()
     const MvPaintRecording recording = page.render({0, 0, 2000, 3200});
     const QRectF cell = page.days.at(11).rect;
     QList<Item> texts = textsOfRow(recording, cell).mid(2); // after number and weekday
-    QCOMPARE(texts.size(), 3);
+    QVERIFY(texts.size() > 2);
     for (const Item &text : std::as_const(texts))
         QVERIFY2(cell.contains(text.bounds), qPrintable(text.text));
     QVERIFY(texts.constLast().text.endsWith(u'…'));

@@ -326,9 +326,10 @@ void MvPageAudit::checkHeads()
     QStringList read;
     for (const Item &item : std::as_const(m_texts)) {
         read << item.text.trimmed().toCaseFolded();
-        // behind a blank the ellipsis stands for whole texts that are left out
+        // behind a blank the ellipsis stands for whole texts that are left out, else for the rest of the last one
+        const QString last = item.text.chopped(1).section(u", "_s, -1);
         if (item.text.endsWith(u'…') &&
-            (item.text.endsWith(u" …"_s) ? m_page.unfitting.isEmpty() : !isReported({}, item.text.chopped(1))))
+            (item.text.endsWith(u" …"_s) ? m_page.unfitting.isEmpty() : !isReported({}, last)))
             add(MissingText, u"\"%1\", of which the rest is missing"_s.arg(item.text));
     }
     for (const QList<QStringList> &forms : m_page.heads) {
