@@ -1,5 +1,6 @@
 #include "MvModelBase/MvPaintRecording.h"
 
+#include "MvModelBase/MvPaintClipper.h"
 #include "MvModelBase/MvPaintPlayer.h"
 
 #include <QStringList>
@@ -283,6 +284,11 @@ void MvPaintRecording::replay(QPainter &painter) const
 {
     if (!isEmpty() && painter.isActive())
         MvPaintPlayer(painter, *d).play();
+}
+
+MvPaintRecording MvPaintRecording::clipped(const QRectF &rect) const
+{
+    return MvPaintRecording(MvPaintClipper(*d, rect).clip());
 }
 
 QList<MvPaintRecording::Item> MvPaintRecording::items() const

@@ -65,6 +65,10 @@ public:
     /// grid, and furthermore where the dashes of a rounded rectangle begin, and under opaque background mode.
     void replay(QPainter &painter) const;
 
+    /// The same picture without clips, for targets that do not know any: what they and the rectangle, in page
+    /// coordinates, cut off is gone from the shapes.
+    MvPaintRecording clipped(const QRectF &rect) const;
+
     /// The shapes in the order they were painted.
     QList<Item> items() const;
 

@@ -2,6 +2,7 @@
 
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvPrintableText.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvFileNamePattern.h"
@@ -28,8 +29,12 @@ QByteArray paintSvg(const MvPageSource &source, int page)
     generator.setSize(size.toSize()); // written in millimetres, rounded to the dot
     generator.setViewBox(QRectF(QPointF(), size));
     generator.setTitle(MvPrintableText::onOneLine(source.title).toHtmlEscaped()); // it is written as it stands
+    MvPaintRecorder recorder(&generator);
+    QPainter recordingPainter(&recorder);
+    source.paintPage(recordingPainter, page, {}, scale);
+    recordingPainter.end();
     QPainter painter(&generator);
-    source.paintPage(painter, page, {}, scale);
+    recorder.recording().clipped({QPointF(), size}).replay(painter); // the generator knows no clips
     painter.end();
     return buffer.data();
 }

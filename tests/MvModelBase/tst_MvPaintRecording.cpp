@@ -13,6 +13,7 @@
 
 #include <functional>
 
+using Item = MvPaintRecording::Item;
 using Painting = std::function<void(QPainter &)>;
 Q_DECLARE_METATYPE(Painting)
 
@@ -238,6 +239,8 @@ private Q_SLOTS:
     void keepsToTheTarget();
     void replaysOnVectorTargets_data();
     void replaysOnVectorTargets();
+    void clipsShapes_data();
+    void clipsShapes();
     void textsAreOneOperation();
     void reportsTheTarget();
     void keepsHints();
@@ -366,6 +369,55 @@ void tst_MvPaintRecording::replaysOnVectorTargets()
     // a recorder is such a target, too
     const MvPaintRecording again = recorded([&recording](QPainter &painter) { recording.replay(painter); });
     QCOMPARE(again.describe(), recording.describe());
+}
+
+void tst_MvPaintRecording::clipsShapes_data()
+{
+    QTest::addColumn<Painting>("painting");
+    QTest::newRow("shapes") << Painting(drawShapes);
+    QTest::newRow("fills") << Painting(drawFills);
+    QTest::newRow("patterns") << Painting(drawPatterns);
+    QTest::newRow("images") << Painting(drawImages);
+    QTest::newRow("states") << Painting(drawStates);
+    QTest::newRow("outlines") << Painting(drawOutlines);
+    QTest::newRow("switched clips") << Painting(drawSwitchedClips);
+}
+
+// what a target without clips shows of it is what others show
+void tst_MvPaintRecording::clipsShapes()
+{
+    QFETCH(Painting, painting);
+    const QRectF window(31.5, 17.25, 150.25, 140.5);
+    const MvPaintRecording recording = recorded(painting);
+    const MvPaintRecording clipped = recording.clipped(window);
+    for (const Item &item : clipped.items())
+        QVERIFY2(item.clip.isNull(), qPrintable(clipped.describe()));
+    const auto painted = [&](const MvPaintRecording &what, bool isClipped) {
+        QImage image = canvas();
+        QPainter painter(&image);
+        painter.setRenderHints(hintsOfTarget);
+        if (isClipped)
+            painter.setClipRect(window);
+        what.replay(painter);
+        return image;
+    };
+    const QImage expected = painted(recording, true);
+    const QImage actual = painted(clipped, false);
+    int strayed = 0;
+    int unlike = 0; // edges and thin lines, which become shapes, are smoothed otherwise
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x) {
+            const QRgb a = actual.pixel(x, y);
+            const QRgb b = expected.pixel(x, y);
+            const int difference =
+                qMax(qAbs(qRed(a) - qRed(b)), qMax(qAbs(qGreen(a) - qGreen(b)), qAbs(qBlue(a) - qBlue(b))));
+            const bool isBeyond = !window.toAlignedRect().contains(x, y);
+            strayed += isBeyond && a != canvas().pixel(x, y) ? 1 : 0;
+            unlike += difference > 128 ? 1 : 0;
+        }
+    }
+    QCOMPARE(strayed, 0);
+    QVERIFY2(unlike < 60, qPrintable(QString::number(unlike)));
 }
 
 void tst_MvPaintRecording::textsAreOneOperation()

@@ -1,3 +1,4 @@
+#include "MvModelBase/MvOutlinePainter.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
@@ -9,6 +10,7 @@
 #include <QDomDocument>
 #include <QPainter>
 #include <QProcess>
+#include <QSvgRenderer>
 #include <QTemporaryDir>
 
 #include <qpdf/QPDF.hh>
@@ -84,6 +86,8 @@ private Q_SLOTS:
     void png_data();
     void png();
     void svg();
+    void svgIsClipped_data();
+    void svgIsClipped();
     void paintsForPrint();
     void refuses_data();
     void refuses();
@@ -255,6 +259,49 @@ void tst_MvExporters::svg()
         QVERIFY2(qAbs(value.toDouble() - expected) < 0.1, qPrintable(value));
     }
     QCOMPARE(root.firstChildElement(u"title"_s).text(), u"Kalender <2027> & „Mühe“"_s);
+}
+
+void tst_MvExporters::svgIsClipped_data()
+{
+    using Painting = std::function<void(QPainter &)>;
+    QTest::addColumn<Painting>("painting");
+    QTest::newRow("area") << Painting([](QPainter &painter) { painter.fillRect(-500, -500, 5000, 5000, Qt::black); });
+    QTest::newRow("line") << Painting([](QPainter &painter) {
+        painter.setPen(QPen(Qt::black, 700));
+        painter.drawLine(QPointF(0, 400), QPointF(3000, 400));
+    });
+    QTest::newRow("photo") << Painting([](QPainter &painter) {
+        QImage photo(50, 80, QImage::Format_RGB32);
+        photo.fill(Qt::black);
+        painter.drawImage(QRectF(50, 50, 1000, 1000), photo);
+    });
+    QTest::newRow("text") << Painting([](QPainter &painter) {
+        QFont font(u"Lato"_s, -1, QFont::Black);
+        font.setPixelSize(3000);
+        MvOutlinePainter::fillOutline(painter, {-300, 1400}, MvTextOutline(font, u"I"_s), Qt::black);
+    });
+}
+
+void tst_MvExporters::svgIsClipped()
+{
+    QFETCH(const std::function<void(QPainter &)>, painting);
+    MvPageSource pages = source(u"A4"_s, 30, 1);
+    pages.paint = [&painting](QPainter &painter, int) {
+        painter.setClipRect(QRectF(100, 200, 300, 400));
+        painting(painter);
+        painter.setClipping(false);
+        painter.fillRect(QRectF(-30, 50, 230, 10), Qt::black); // bleeds
+    };
+    QVERIFY(MvSvgExporter::write(pages, path(u"s.svg"_s)).isOk());
+    QSvgRenderer renderer(path(u"s.svg"_s));
+    QImage seen(2400, 3270, QImage::Format_RGB32); // with 15 mm around the page
+    seen.fill(Qt::white);
+    QPainter painter(&seen);
+    painter.translate(150, 150);
+    renderer.render(&painter, QRectF(0, 0, 2100, 2970));
+    painter.end();
+    QCOMPARE(darkRect(seen.copy(0, 0, 2400, 300)), QRect(150, 200, 200, 10));
+    QCOMPARE(darkRect(seen.copy(0, 300, 2400, 2970)), QRect(250, 50, 300, 400));
 }
 
 void tst_MvExporters::paintsForPrint()
