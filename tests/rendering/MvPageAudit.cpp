@@ -14,19 +14,6 @@ constexpr double hair = 0.5;      // page units that nobody sees
 constexpr double tolerance = 1.0; // a tenth of a millimetre
 constexpr double leastGap = 0.18; // between two texts on one line, in sizes of their type; a blank is some 0.25
 
-/// What is left of a text that may be broken into lines, hyphenated, or joined with others.
-QString essence(const QString &text)
-{
-    QString left;
-    for (const QChar c : text) {
-        const bool isBreak = c.isSpace() || c == u'-' || c == u',' || c == QChar(0x00AD) || c == QChar(0x2010) ||
-                             c == QChar(0x2011) || c.category() == QChar::Other_Format;
-        if (!isBreak)
-            left += c;
-    }
-    return left;
-}
-
 QString trimmedNumber(const QString &text)
 {
     QString number = text.trimmed();
@@ -51,10 +38,18 @@ QString describe(const Item &item)
     return what + u" at "_s + describe(item.bounds);
 }
 
+/// Asked a million times: cheaper than what QRectF does for rectangles of any sign.
 bool overlap(const QRectF &a, const QRectF &b, double allowed)
 {
-    const QRectF common = a & b;
-    return common.width() > allowed && common.height() > allowed;
+    return std::min(a.right(), b.right()) - std::max(a.left(), b.left()) > allowed &&
+           std::min(a.bottom(), b.bottom()) - std::max(a.top(), b.top()) > allowed;
+}
+
+bool holds(const QRectF &region, const Item &item)
+{
+    const QPointF center = item.bounds.center();
+    return center.x() >= region.left() && center.x() <= region.right() && center.y() >= region.top() &&
+           center.y() <= region.bottom();
 }
 
 /// Of lines, too, which have no height or no width.
@@ -80,6 +75,18 @@ QString MvPageAudit::name(Kind kind)
     return names.at(kind);
 }
 
+QString MvPageAudit::essence(const QString &text)
+{
+    QString left;
+    for (const QChar c : text) {
+        const bool isBreak = c.isSpace() || c == u'-' || c == u',' || c == QChar(0x00AD) || c == QChar(0x2010) ||
+                             c == QChar(0x2011) || c.category() == QChar::Other_Format;
+        if (!isBreak)
+            left += c;
+    }
+    return left;
+}
+
 QList<MvPageAudit::Fault> MvPageAudit::faults(const MvPrintedPage &page)
 {
     return MvPageAudit(page).m_faults;
@@ -93,6 +100,7 @@ MvPageAudit::MvPageAudit(const MvPrintedPage &page)
         if (item.kind == Item::Text && !item.bounds.isEmpty())
             m_texts.append(item);
     }
+    findDays();
     checkPlaces();
     checkPairs();
     checkLines();
@@ -183,13 +191,9 @@ void MvPageAudit::checkType()
 bool MvPageAudit::isOfDay(const Item &item) const
 {
     const QString text = essence(item.text).remove(u'…');
-    for (const MvPrintedPage::Day &day : m_page.days) {
-        if (!day.rect.contains(item.bounds.center()))
-            continue;
-        const QString all = essence(m_page.dayTexts.value(day.date).join(QString()));
-        return !all.isEmpty() && all.contains(text);
-    }
-    return false;
+    return std::any_of(m_days.cbegin(), m_days.cend(), [&](const Day &day) {
+        return holds(day.region, item) && !day.texts.isEmpty() && essence(day.texts.join(QString())).contains(text);
+    });
 }
 
 // ---- cells
@@ -245,12 +249,26 @@ void MvPageAudit::checkDays()
 
 // ---- what can be read, and what is reported
 
-/// Where the texts of a day stand: in lists the number stands before the cell of its texts.
-QRectF MvPageAudit::regionOf(const MvPrintedPage::Day &day) const
+/// What is in the cell of each day. In lists the number stands before the cell of the texts.
+void MvPageAudit::findDays()
 {
-    if (m_page.page().appearance().type() != CALENDAR_ONE_DAY_PER_ROW)
-        return day.rect;
-    return {m_rect.left(), day.rect.top(), m_rect.width(), day.rect.height()};
+    const bool isList = m_page.page().appearance().type() == CALENDAR_ONE_DAY_PER_ROW;
+    for (const MvPrintedPage::Day &day : m_page.days) {
+        const QRectF row(m_rect.left(), day.rect.top(), m_rect.width(), day.rect.height());
+        m_days.append({day.date, isList ? row : day.rect, m_page.dayTexts.value(day.date), {}, false});
+    }
+    for (const Item &item : m_page.items) {
+        if (item.kind != Item::Image && item.kind != Item::Text)
+            continue;
+        for (Day &day : m_days) {
+            if (!holds(day.region, item))
+                continue;
+            if (item.kind == Item::Image)
+                day.hasPhoto = true;
+            else if (!isCut(item))
+                day.read.append(essence(item.text));
+        }
+    }
 }
 
 /// Everything whole in there, in the order of painting, which is that of reading.
@@ -258,7 +276,7 @@ QString MvPageAudit::textIn(const QRectF &region) const
 {
     QString all;
     for (const Item &item : m_texts) {
-        if (region.contains(item.bounds.center()) && !isCut(item))
+        if (holds(region, item) && !isCut(item))
             all += essence(item.text);
     }
     return all;
@@ -267,47 +285,48 @@ QString MvPageAudit::textIn(const QRectF &region) const
 bool MvPageAudit::hasItem(const QRectF &region, const QString &text) const
 {
     return std::any_of(m_texts.cbegin(), m_texts.cend(), [&](const Item &item) {
-        return region.contains(item.bounds.center()) && !isCut(item) && trimmedNumber(item.text) == trimmedNumber(text);
+        return holds(region, item) && !isCut(item) && trimmedNumber(item.text) == trimmedNumber(text);
     });
 }
 
 bool MvPageAudit::isReported(const QDate &date, const QString &text) const
 {
     return std::any_of(m_page.unfitting.cbegin(), m_page.unfitting.cend(), [&](const MvUnfittingText &report) {
-        return (!date.isValid() || !m_page.showsDays || report.date == date) &&
+        return report.missingGlyphs.isEmpty() && (!date.isValid() || !m_page.showsDays || report.date == date) &&
                essence(report.text).contains(essence(text));
     });
 }
 
 void MvPageAudit::checkDayTexts()
 {
-    for (const MvPrintedPage::Day &day : m_page.days) {
-        const QRectF region = regionOf(day);
+    for (const Day &day : std::as_const(m_days)) {
         const QString number = QString::number(day.date.day());
-        const bool hasPhoto = std::any_of(m_page.items.cbegin(), m_page.items.cend(), [&region](const Item &item) {
-            return item.kind == Item::Image && region.contains(item.bounds.center());
-        });
-        const bool isNumberReported =
+        const auto isNumber = [&number](const QString &text) { return trimmedNumber(text) == number; };
+        const bool isReportedNumber =
             std::any_of(m_page.unfitting.cbegin(), m_page.unfitting.cend(), [&](const MvUnfittingText &report) {
-                return report.date == day.date && trimmedNumber(report.text) == number;
+                return report.date == day.date && isNumber(report.text);
             });
-        if (!hasPhoto && !hasItem(region, number) && !isNumberReported)
+        if (!day.hasPhoto && !isReportedNumber && std::none_of(day.read.cbegin(), day.read.cend(), isNumber))
             add(MissingText, u"number of "_s + day.date.toString(Qt::ISODate));
+        checkTexts(day.date, day.texts, day.read.join(QString()));
     }
-    QMap<QDate, QRectF> regions;
-    for (const MvPrintedPage::Day &day : m_page.days)
-        regions.insert(day.date, regionOf(day));
-    for (auto it = m_page.dayTexts.cbegin(); it != m_page.dayTexts.cend(); ++it) {
-        const QString read = textIn(regions.value(it.key(), m_rect));
-        for (const QString &text : it.value()) {
-            const bool isWhole = read.contains(essence(text));
-            const bool isMissed = isReported(it.key(), text);
-            const QString what = it.key().toString(Qt::ISODate) + u" \"%1\""_s.arg(text);
-            if (!isWhole && !isMissed)
-                add(MissingText, what);
-            if (isWhole && isMissed && m_page.showsDays)
-                add(FalseReport, what);
-        }
+    if (!m_page.showsDays) { // a block of texts with their dates
+        const QString all = textIn(m_rect);
+        for (auto it = m_page.dayTexts.cbegin(); it != m_page.dayTexts.cend(); ++it)
+            checkTexts(it.key(), it.value(), all);
+    }
+}
+
+void MvPageAudit::checkTexts(const QDate &date, const QStringList &texts, const QString &read)
+{
+    for (const QString &text : texts) {
+        const bool isWhole = read.contains(essence(text));
+        const bool isMissed = isReported(date, text);
+        const QString what = date.toString(Qt::ISODate) + u" \"%1\""_s.arg(text);
+        if (!isWhole && !isMissed)
+            add(MissingText, what);
+        if (isWhole && isMissed && m_page.showsDays)
+            add(FalseReport, what);
     }
 }
 
@@ -347,6 +366,8 @@ void MvPageAudit::checkHeads()
 void MvPageAudit::checkReports()
 {
     for (const MvUnfittingText &report : m_page.unfitting) {
+        if (!report.missingGlyphs.isEmpty())
+            continue; // whole, but for characters that are boxes
         const QRectF region = report.rect.isEmpty() ? m_rect : report.rect;
         const QString text = essence(report.text);
         const bool isShort = text.size() <= 4; // a number or a name of a weekday, or "contains" would find it anywhere

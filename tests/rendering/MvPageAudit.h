@@ -30,6 +30,8 @@ public:
     };
 
     static QList<Fault> faults(const MvPrintedPage &page);
+    /// What is left of a text that may be broken into lines, hyphenated, or joined with others.
+    static QString essence(const QString &text);
 
 private:
     explicit MvPageAudit(const MvPrintedPage &page);
@@ -38,6 +40,17 @@ private:
 
     void add(Kind kind, const QString &what) { m_faults.append({kind, what}); }
 
+    /// A day's cell, and what can be read in it.
+    struct Day
+    {
+        QDate date;
+        QRectF region;
+        QStringList texts; ///< that it is to show
+        QStringList read;  ///< whole items, in the order of painting
+        bool hasPhoto = false;
+    };
+
+    void findDays();
     void checkPlaces();
     void checkPairs();
     void checkPair(const Item &a, const Item &b);
@@ -46,12 +59,12 @@ private:
     void checkCells();
     void checkDays();
     void checkDayTexts();
+    void checkTexts(const QDate &date, const QStringList &texts, const QString &read);
     void checkWords();
     void checkHeads();
     void checkReports();
 
     bool isOfDay(const Item &item) const;
-    QRectF regionOf(const MvPrintedPage::Day &day) const;
     QString textIn(const QRectF &region) const;
     bool hasItem(const QRectF &region, const QString &text) const;
     bool isReported(const QDate &date, const QString &text) const;
@@ -59,5 +72,6 @@ private:
     const MvPrintedPage &m_page;
     QRectF m_rect;
     QList<Item> m_texts; // with ink
+    QList<Day> m_days;
     QList<Fault> m_faults;
 };

@@ -1,7 +1,6 @@
 #include "MvPrintedPage.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 
@@ -53,7 +52,7 @@ MvCalendarEventList entriesOf(MvPageChoice::Entries kind)
                 for (const QString &name :
                      {u"Jörg"_s, u"Oma Erika (80)"_s, u"Hochzeitstag Anna und Max"_s, u"Zahnarzt"_s})
                     list << entry(name, date);
-            } else if (kind == MvPageChoice::Photos) {
+            } else if (kind == MvPageChoice::Photos && day == 14) {
                 list << entry(u"Hochzeitstag Anna und Max"_s, date, samplePhoto());
             }
         }
@@ -84,7 +83,7 @@ MvCalendariumAppearance appearanceOf(const MvPageChoice &choice, const QString &
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(choice.layout));
     appearance.adoptLayoutSuggestions();
-    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
+    appearance.setColorSchemaById(MvCalendariumColorSchemaID(choice.colors));
     appearance.adaptGridToLayout();
     MvCalendariumFontSettings fonts = appearance.fontSettings();
     fonts.setFont(family);
@@ -94,71 +93,6 @@ MvCalendariumAppearance appearanceOf(const MvPageChoice &choice, const QString &
 }
 
 } // namespace
-
-// ---- the choice
-
-QString MvPageChoice::describe() const
-{
-    static const QStringList entryNames{u"no entries"_s, u"short names"_s, u"long names"_s, u"many names"_s,
-                                        u"photos"_s};
-    const QString photo = place == u"none"_s ? u"no photo"_s : u"photo %1 %2"_s.arg(place).arg(share);
-    const QStringList parts{layout,
-                            paper,
-                            photo,
-                            u"%1 %"_s.arg(font),
-                            (language.name() + u' ' + region).trimmed(),
-                            entryNames.at(entries),
-                            month.toString(u"yyyy-MM"_s),
-                            hasWeeks ? u"weeks"_s : u"no weeks"_s};
-    return parts.join(u", "_s);
-}
-
-const QStringList &MvPageChoice::papers()
-{
-    static const QStringList papers = [] {
-        QStringList names;
-        for (const QString &size : {u"A6"_s, u"A5"_s, u"A4"_s, u"A3"_s, u"A2"_s})
-            names << size << size + u" landscape"_s;
-        return names << u"200x200"_s << u"210x99"_s << u"90x55"_s;
-    }();
-    return papers;
-}
-
-const QStringList &MvPageChoice::places()
-{
-    static const QStringList places{u"none"_s, u"top"_s, u"left"_s, u"right"_s};
-    return places;
-}
-
-const QList<double> &MvPageChoice::shares()
-{
-    static const QList<double> shares{MvPhotoFrame::minimumShare, 0.45, MvPhotoFrame::defaultShare, 0.65,
-                                      MvPhotoFrame::maximumShare};
-    return shares;
-}
-
-const QList<int> &MvPageChoice::fonts()
-{
-    static const QList<int> fonts{100, 150, 200};
-    return fonts;
-}
-
-const QList<QDate> &MvPageChoice::months()
-{
-    static const QList<QDate> months{QDate(2027, 5, 1), QDate(2026, 8, 1), QDate(2027, 2, 1),
-                                     QDate(2027, 1, 1), QDate(2028, 2, 1), QDate(2027, 9, 1)};
-    return months;
-}
-
-QStringList MvPageChoice::layouts()
-{
-    QStringList ids;
-    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata())
-        ids << schema.ID().toString();
-    return ids;
-}
-
-// ---- the page
 
 MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family)
     : m_choice(choice)
@@ -170,7 +104,7 @@ MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family)
                             MvCalendariumContentConfig(choice.month, {choice.language, choice.region, features}));
     if (choice.place != u"none"_s) {
         const auto placement = MvPhotoFrame::Placement(MvPageChoice::places().indexOf(choice.place) - 1);
-        MvPhotoFrame photo(u"/photo.jpg"_s, placement);
+        MvPhotoFrame photo(choice.photo, placement);
         photo.setShare(choice.share);
         m_page.setPhotoFrame(photo);
     }

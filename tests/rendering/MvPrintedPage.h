@@ -1,7 +1,8 @@
 #pragma once
 
+#include "MvPageChoice.h"
+
 #include "MvCalendar/MvUnfittingText.h"
-#include "MvCore/MvLocale.h"
 #include "MvModelBase/MvPaintRecording.h"
 #include "MvProject/MvCalendarPage.h"
 
@@ -9,35 +10,6 @@
 #include <QStringList>
 
 class MvCalendariumRenderer;
-
-/// What a person chooses for a page.
-struct MvPageChoice
-{
-    enum Entries { None, Short, Long, Many, Photos };
-
-    QString layout;
-    QString paper; ///< "A5", "A4 landscape", "90x55"
-    QString place; ///< of the photo: "none", "top", "left", "right"
-    double share = MvPhotoFrame::defaultShare;
-    int font = 100; ///< percent of the layout's size
-    MvLocale language;
-    QString region;
-    Entries entries = Short;
-    QDate month;
-    bool hasWeeks = true; ///< asked for; not every layout has them
-
-    /// One line, "MONTH_ONLY, A4 landscape, photo left 0.65, 150 %, de_DE BY, long names, 2027-05, weeks".
-    QString describe() const;
-
-    static const QStringList &papers();
-    static const QStringList &places();
-    /// All shares that matter, from the smallest to the largest.
-    static const QList<double> &shares();
-    static const QList<int> &fonts();
-    /// Months of four, five and six weeks, with week 53, with a leap day, with the longest name.
-    static const QList<QDate> &months();
-    static QStringList layouts();
-};
 
 /// A page as the programs print it, recorded, with what it says of itself. The active entries become those of the
 /// choice.

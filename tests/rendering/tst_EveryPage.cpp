@@ -3,13 +3,10 @@
 #include "MvPairwisePlan.h"
 #include "MvTest.h"
 
-#include "MvProductBase/MvCalendariumHolidayCalculator.h"
-
 #include <QDir>
 
 #include <algorithm>
 #include <cstdio>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -83,55 +80,10 @@ bool isKnown(const QString &layout, MvPageAudit::Kind kind)
            });
 }
 
-/// Every language, with the countries where it is spoken.
-const QList<QList<MvLocale>> &languages()
-{
-    static const QList<QList<MvLocale>> languages = [] {
-        QMap<QString, QList<MvLocale>> byLanguage;
-        for (const MvLocale &locale : MvCalendariumHolidayCalculator::instance().availableLanguages())
-            byLanguage[locale.language()].append(locale);
-        return byLanguage.values();
-    }();
-    return languages;
-}
-
-/// The values of all factors but the layout, and the choice that a case of theirs stands for.
-QList<int> factorSizes()
-{
-    return {int(MvPageChoice::papers().size()),
-            int(MvPageChoice::places().size()),
-            int(MvPageChoice::shares().size()),
-            int(MvPageChoice::fonts().size()),
-            int(languages().size()),
-            MvPageChoice::Photos + 1,
-            int(MvPageChoice::months().size()),
-            2};
-}
-
-MvPageChoice choiceOf(const QString &layout, const MvPairwisePlan::Case &values)
-{
-    MvPageChoice choice;
-    choice.layout = layout;
-    choice.paper = MvPageChoice::papers().at(values.at(0));
-    choice.place = MvPageChoice::places().at(values.at(1));
-    choice.share = MvPageChoice::shares().at(values.at(2));
-    choice.font = MvPageChoice::fonts().at(values.at(3));
-    const int turn = std::accumulate(values.begin(), values.end(), 0); // of what is no factor of its own
-    const QList<MvLocale> countries = languages().at(values.at(4));
-    choice.language = countries.at(turn % countries.size());
-    choice.entries = MvPageChoice::Entries(values.at(5));
-    choice.month = MvPageChoice::months().at(values.at(6));
-    choice.hasWeeks = values.at(7) != 0;
-    const QStringList regions = MvCalendariumHolidayCalculator::instance().availableProvinces(choice.language);
-    if (!regions.isEmpty())
-        choice.region = regions.at(turn % regions.size());
-    return choice;
-}
-
 /// Everything with everything; months and calendar weeks take turns.
 QList<MvPairwisePlan::Case> fullProduct()
 {
-    const QList<int> sizes = factorSizes();
+    const QList<int> sizes = MvPageChoice::factorSizes();
     QList<MvPairwisePlan::Case> cases{{}};
     for (const int size : sizes.first(6)) {
         QList<MvPairwisePlan::Case> longer;
@@ -152,7 +104,8 @@ QList<MvPairwisePlan::Case> casesOf(const QString &layout)
 {
     const bool isFull = qEnvironmentVariable("MV_PAGE_PLAN") == u"full"_s;
     const QList<MvPairwisePlan::Case> all =
-        isFull ? fullProduct() : MvPairwisePlan(factorSizes(), seed + qChecksum(layout.toLatin1())).cases();
+        isFull ? fullProduct()
+               : MvPairwisePlan(MvPageChoice::factorSizes(), seed + qChecksum(layout.toLatin1())).cases();
     const QStringList shard = qEnvironmentVariable("MV_PAGE_SHARD", u"1/1"_s).split(u'/');
     QList<MvPairwisePlan::Case> cases;
     for (qsizetype i = shard.constFirst().toInt() - 1; i < all.size(); i += shard.constLast().toInt())
@@ -218,7 +171,7 @@ void tst_EveryPage::prints()
     int pages = 0;
     const QList<MvPairwisePlan::Case> cases = casesOf(layout);
     for (const MvPairwisePlan::Case &values : cases) {
-        const MvPageChoice choice = choiceOf(layout, values);
+        const MvPageChoice choice = MvPageChoice::of(layout, values);
         if (!choice.describe().contains(only))
             continue;
         ++pages;
