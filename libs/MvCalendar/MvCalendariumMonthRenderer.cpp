@@ -4,19 +4,26 @@
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvTextFitter.h"
+#include "MvCalendar/MvWeekdayHeads.h"
 #include "MvCore/MvStringHelper.h"
+#include "MvModelBase/MvTextOutlineCache.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int monthsPerYear = 12;
-const QString titleBlanks = QStringLiteral(" ");
+const QString titleBlanks = u" "_s;
 constexpr double headAir = 0.25; // between the names of two weekdays, in parts of their size
+const QString widestNumber = u"28"_s;
+constexpr double numberGap = 0.3; // between the numbers of two columns, of the size of type
 
 } // namespace
 
@@ -56,6 +63,13 @@ QStringList MvCalendariumMonthRenderer::weekdayHeads(double columnWidth) const
 }
 
 // ---- the month
+
+double MvCalendariumMonthRenderer::leastNumberWidth() const
+{
+    QFont smallest = font(CALENDAR_CELL_TYPE_WEEKDAY);
+    smallest.setPixelSize(static_cast<int>(std::ceil(smallestPixelSize(CALENDAR_CELL_TYPE_WEEKDAY))));
+    return MvTextOutlineCache::instance().advance(smallest, widestNumber) + numberGap * smallest.pixelSize();
+}
 
 void MvCalendariumMonthRenderer::drawTitle(QPainter &painter, const QRectF &rect)
 {
@@ -139,6 +153,11 @@ void MvCalendariumMonthRenderer::drawFittingCell(QPainter &painter, const QRectF
     drawCellBackground(painter, rect, config, even);
     if (!text.isEmpty())
         MvCalendariumCellPainter(*this, painter).drawFittingText(rect, config, text, 0, even, date);
+}
+
+void MvCalendariumMonthRenderer::reportMissingHeads(const QRectF &line)
+{
+    reportUnfitting(startDate(), MvWeekdayHeads::names(*this, MvWeekdayHeads::Form::Short).join(u' '), line);
 }
 
 void MvCalendariumMonthRenderer::drawNeighbouringDay(QPainter &painter, const QRectF &rect, const QDate &date,

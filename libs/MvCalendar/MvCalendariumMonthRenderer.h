@@ -22,6 +22,9 @@ protected:
     /// The minimum height of a line that shows the information; 0 when it is not configured.
     double plannedHeight(const MvCalendarCellType &type, const MvCalendarRenderingInformation &info) const;
 
+    /// What a column needs to show the numbers of days in the smallest type, apart from those beside it.
+    double leastNumberWidth() const;
+
     /// The page's month, in one cell.
     void drawTitle(QPainter &painter, const QRectF &rect);
     /// The page's month with the blanks before it, in the size in which each month of the calendar fits into the cell;
@@ -33,6 +36,8 @@ protected:
     /// Nothing in an empty rectangle.
     void drawFittingCell(QPainter &painter, const QRectF &rect, const MvCalendarCellTypeConfig &config,
                          const QString &text, bool even, const QDate &date);
+    /// Notes that the line of weekdays has no room for them.
+    void reportMissingHeads(const QRectF &line);
     /// The cell that a day of another month leaves: the colours of its weekday, no holiday.
     void drawNeighbouringDay(QPainter &painter, const QRectF &rect, const QDate &date, bool even);
 

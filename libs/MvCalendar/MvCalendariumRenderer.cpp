@@ -162,7 +162,9 @@ void MvCalendariumRenderer::paintFills(QPainter &painter)
 
 void MvCalendariumRenderer::addFill(const QRectF &rect, const QColor &color)
 {
-    m_fills[color.rgba()].addRect(rect);
+    QPainterPath &fill = m_fills[color.rgba()];
+    fill.setFillRule(Qt::WindingFill); // cells that overlap fill what they share, too
+    fill.addRect(rect);
 }
 
 // ---- dates

@@ -1,8 +1,10 @@
 #include "MvCalendar/MvCalendariumRendererOneColumnPerWeek.h"
 
 #include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCalendar/MvWeekdayHeads.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -37,11 +39,10 @@ bool MvCalendariumRendererOneColumnPerWeek::isConfigured(const MvCalendarRenderi
 double MvCalendariumRendererOneColumnPerWeek::widthOfCell(const QRectF &rect, const MvCalendarCellType &type,
                                                           const QDate &date) const
 {
-    if (isConfigured(calendar_render_days_of_week_only_in_front))
+    if (hasHeadsInFront())
         return widthOfCellTypeWithWeekdaysInFront(rect, type, date);
     const int weeks = numberOfWeeks(date);
-    const double headMaximum = isConfigured(calendar_render_days_of_week) ? maxHeadWidth() : 0.0;
-    const int head = static_cast<int>(rect.width() / ((maxContentWidth() + headMaximum) * weeks) * headMaximum);
+    const int head = isConfigured(calendar_render_days_of_week) ? headWidth(rect, weeks) : 0;
     const double day = (rect.width() - weeks * head) / weeks;
     switch (type.value()) {
     case CALENDAR_CELL_TYPE_WEEK_OF_YEAR:
@@ -68,8 +69,7 @@ double MvCalendariumRendererOneColumnPerWeek::widthOfCellTypeWithWeekdaysInFront
                                                                                  const QDate &date) const
 {
     const int weeks = numberOfWeeks(date);
-    const double cellMaximum = std::max(maxContentWidth(), widthOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, false));
-    const double column = rect.width() / (maxHeadWidth() + weeks * cellMaximum) * cellMaximum;
+    const double column = columnWidthWithWeekdaysInFront(rect, weeks);
     switch (type.value()) {
     case CALENDAR_CELL_TYPE_HEAD_WEEKDAY:
     case CALENDAR_CELL_TYPE_HEAD_SATURDAY:
@@ -87,6 +87,47 @@ double MvCalendariumRendererOneColumnPerWeek::widthOfCellTypeWithWeekdaysInFront
     default:
         return 0.0;
     }
+}
+
+int MvCalendariumRendererOneColumnPerWeek::headWidth(const QRectF &rect, int weeks) const
+{
+    const double head = plannedHeadWidth();
+    const double days = std::max(0.0, maxContentWidth());
+    const double planned = rect.width() / ((days + head) * weeks) * head;
+    const double most = std::floor(rect.width() / weeks - leastNumberWidth());
+    const double least = leastHeadWidth();
+    return most < least ? 0 : static_cast<int>(std::clamp(planned, least, most));
+}
+
+double MvCalendariumRendererOneColumnPerWeek::columnWidthWithWeekdaysInFront(const QRectF &rect, int weeks) const
+{
+    const double cell = std::max(maxContentWidth(), widthOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, false));
+    const double planned = rect.width() / (plannedHeadWidth() + weeks * cell) * cell;
+    const double most = (rect.width() - leastHeadWidth()) / weeks;
+    const double least = leastNumberWidth();
+    return most < least ? rect.width() / weeks : std::clamp(planned, least, most);
+}
+
+/// As the layout plans the heads, with long names unless it says short ones, but not narrower than those that are
+/// printed.
+double MvCalendariumRendererOneColumnPerWeek::plannedHeadWidth() const
+{
+    const bool shortNames = isConfigured(calendar_render_days_of_week_short);
+    double width = MvWeekdayHeads::leastWidth(*this, MvWeekdayHeads::Form::Short, !hasHeadsInFront(), false);
+    for (const MvCalendarCellType &type : dayHeadCellTypes(false))
+        width = std::max(width, widthOfCellType(type, shortNames));
+    return width;
+}
+
+/// What letters need in the smallest type.
+double MvCalendariumRendererOneColumnPerWeek::leastHeadWidth() const
+{
+    return MvWeekdayHeads::leastWidth(*this, MvWeekdayHeads::Form::Letter, !hasHeadsInFront(), true);
+}
+
+bool MvCalendariumRendererOneColumnPerWeek::hasHeadsInFront() const
+{
+    return isConfigured(calendar_render_days_of_week_only_in_front);
 }
 
 double MvCalendariumRendererOneColumnPerWeek::heightOfCell(const QRectF &rect, const MvCalendarCellType &type) const
@@ -143,7 +184,7 @@ QSize MvCalendariumRendererOneColumnPerWeek::minimumSizeWithWeekdaysInFront() co
 
 QSize MvCalendariumRendererOneColumnPerWeek::minimumSizeHint() const
 {
-    if (isConfigured(calendar_render_days_of_week_only_in_front))
+    if (hasHeadsInFront())
         return minimumSizeWithWeekdaysInFront();
     return {static_cast<int>(minimumWidth()), static_cast<int>(minimumHeight())};
 }
@@ -152,15 +193,20 @@ QSize MvCalendariumRendererOneColumnPerWeek::minimumSizeHint() const
 
 void MvCalendariumRendererOneColumnPerWeek::renderBase(QPainter &painter, const QRectF &rect)
 {
-    if (isConfigured(calendar_render_days_of_week_only_in_front)) {
+    if (hasHeadsInFront()) {
         renderBaseWithWeekdaysInFront(painter, rect);
         return;
     }
     const QDate start = startDate();
+    const QSizeF head(widthOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, start),
+                      heightOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY));
+    const MvWeekdayHeads heads(*this, MvWeekdayHeads::Form::Short, head, true);
+    if (isConfigured(calendar_render_days_of_week) && heads.form() == MvWeekdayHeads::Form::None)
+        reportMissingHeads(rect);
     QDate monday = mondayOfWeekWithDay(start);
     QRectF column(rect.topLeft(), QSizeF(widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR, start), rect.height()));
     for (int week = numberOfWeeks(start); week > 0; --week) {
-        renderWeek(painter, rect, column, monday);
+        renderWeek(painter, rect, column, monday, heads);
         monday = monday.addDays(daysPerWeek);
         column.moveLeft(column.right());
     }
@@ -174,11 +220,10 @@ void MvCalendariumRendererOneColumnPerWeek::renderWeekHead(QPainter &painter, co
 }
 
 void MvCalendariumRendererOneColumnPerWeek::renderWeek(QPainter &painter, const QRectF &rect, const QRectF &column,
-                                                       const QDate &monday)
+                                                       const QDate &monday, const MvWeekdayHeads &heads)
 {
     const QDate start = startDate();
-    const bool hasHeads = isConfigured(calendar_render_days_of_week);
-    const double headWidth = hasHeads ? widthOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, start) : 0.0;
+    const double headWidth = widthOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, start);
     const double dayWidth = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY, start);
     const double weekHeight = heightOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
     renderWeekHead(painter, {column.left(), column.top(), column.width(), weekHeight}, monday);
@@ -188,10 +233,9 @@ void MvCalendariumRendererOneColumnPerWeek::renderWeek(QPainter &painter, const 
         const QDate date = monday.addDays(day);
         const MvCalendarCellTypeConfig head = headCellTypeConfig(date);
         const double height = heightOfCell(rect, head.inscriptionConfig());
-        if (hasHeads) {
-            drawFittingCell(painter, {column.left(), y, headWidth, height}, head, stringFromDate(date, u"ddd"_s),
-                            isEvenWeek(date), date);
-        }
+        const QRectF headCell(column.left(), y, headWidth, height);
+        drawCell(painter, headCell, head, {}, isEvenWeek(date), 0);
+        heads.draw(painter, headCell, head, date.dayOfWeek(), isEvenWeek(date));
         const QRectF cell(column.left() + headWidth, y, dayWidth, height);
         if (date.month() == start.month())
             drawDayNumberCell(painter, cell, date);
@@ -220,13 +264,21 @@ void MvCalendariumRendererOneColumnPerWeek::renderWeekdaysInFront(QPainter &pain
     const QDate monday = mondayOfWeekWithDay(startDate());
     QRectF cell(rect.left(), rect.top(), widthOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, startDate()),
                 heightOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR));
+    if (!(cell.width() > 0.0)) {
+        reportMissingHeads(rect);
+        return;
+    }
     drawCellBackground(painter, cell, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), isEvenWeek(monday));
+    const QSizeF head(cell.width(), heightOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY));
+    const MvWeekdayHeads heads(*this, MvWeekdayHeads::Form::Short, head, false);
+    if (heads.form() == MvWeekdayHeads::Form::None)
+        reportMissingHeads(rect);
     for (int day = 1; day <= daysPerWeek; ++day) {
-        const MvCalendarCellType type = headCellTypeWeekDay(day);
+        const MvCalendarCellTypeConfig config(headCellTypeWeekDay(day));
         cell.moveTop(cell.bottom());
-        cell.setHeight(heightOfCell(rect, type));
-        drawFittingCell(painter, cell, MvCalendarCellTypeConfig(type), dayName(day, true), true,
-                        monday.addDays(day - 1));
+        cell.setHeight(heightOfCell(rect, config.inscriptionConfig()));
+        drawCell(painter, cell, config, {}, true, 0);
+        heads.draw(painter, cell, config, day, true);
     }
 }
 

@@ -1,6 +1,8 @@
 #include "MvCalendar/MvCalendariumRendererOneRow.h"
 
-using namespace Qt::StringLiterals;
+#include "MvCalendar/MvWeekdayHeads.h"
+
+#include <algorithm>
 
 namespace {
 constexpr int mostDays = 31;
@@ -68,32 +70,57 @@ double MvCalendariumRendererOneRow::heightOfCell(const QRectF &rect, const MvCal
     }
 }
 
-void MvCalendariumRendererOneRow::renderBase(QPainter &painter, const QRectF &rect)
+MvCalendariumRendererOneRow::Bands MvCalendariumRendererOneRow::bands(const QRectF &rect) const
 {
-    double y = rect.top();
-    if (isConfigured(calendar_render_title)) {
-        const double height = heightOfCell(rect, CALENDAR_CELL_TYPE_TITLE);
-        drawTitle(painter, {rect.left(), y, rect.width(), height});
-        y += height;
-    }
-    renderDays(painter, rect, y);
+    const QDate month = startDate();
+    Bands bands;
+    bands.columns = month.daysInMonth();
+    bands.title = heightOfCell(rect, CALENDAR_CELL_TYPE_TITLE);
+    bands.head = heightOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY);
+    bands.day =
+        QSizeF(widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY, month), heightOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY));
+
+    const int mostColumns = std::max(1, static_cast<int>(rect.width() / leastNumberWidth()));
+    const int rows = (mostDays + mostColumns - 1) / mostColumns;
+    const double title = plannedHeight(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
+    const double head = plannedHeight(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, calendar_render_days_of_week);
+    const double day = minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);
+    const double scale = rect.height() / (title + rows * (head + day));
+    if (rows == 1 || day * scale < smallestPixelSize(CALENDAR_CELL_TYPE_WEEKDAY))
+        return bands;
+    bands.columns = (mostDays + rows - 1) / rows; // the same in all months
+    bands.title = title * scale;
+    bands.head = head * scale;
+    bands.day = QSizeF(rect.width() / bands.columns, day * scale);
+    return bands;
 }
 
-void MvCalendariumRendererOneRow::renderDays(QPainter &painter, const QRectF &rect, double y)
+void MvCalendariumRendererOneRow::renderBase(QPainter &painter, const QRectF &rect)
 {
-    const QDate first = startDate();
-    const double headHeight = heightOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY);
-    const double dayHeight = heightOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY);
-    double x = rect.left();
-    for (int day = 0; day < first.daysInMonth(); ++day) {
-        const QDate date = first.addDays(day);
-        const MvCalendarCellTypeConfig head = headCellTypeConfig(date);
-        const double width = widthOfCell(rect, head.inscriptionConfig(), date);
-        if (isConfigured(calendar_render_days_of_week)) {
-            drawFittingCell(painter, {x, y, width, headHeight}, head, stringFromDate(date, u"ddd"_s), isEvenWeek(date),
-                            date);
-        }
-        drawDayNumberCell(painter, {x, y + headHeight, width, dayHeight}, date);
-        x += width;
+    const Bands bands = this->bands(rect);
+    if (isConfigured(calendar_render_title))
+        drawTitle(painter, {rect.left(), rect.top(), rect.width(), bands.title});
+    const QSizeF headSize(bands.day.width(), bands.head);
+    const MvWeekdayHeads heads(*this, MvWeekdayHeads::Form::Short, headSize, true);
+    const bool hasHeads = isConfigured(calendar_render_days_of_week);
+    if (hasHeads && heads.form() == MvWeekdayHeads::Form::None)
+        reportMissingHeads(rect);
+
+    QPointF corner(rect.left(), rect.top() + bands.title);
+    for (QDate date = startDate(); date.month() == startDate().month(); date = date.addDays(1)) {
+        if (hasHeads)
+            drawHead(painter, {corner, headSize}, date, heads);
+        drawDayNumberCell(painter, {corner + QPointF(0.0, bands.head), bands.day}, date);
+        const bool isLastInRow = date.day() % bands.columns == 0;
+        corner = isLastInRow ? QPointF(rect.left(), corner.y() + bands.head + bands.day.height())
+                             : corner + QPointF(bands.day.width(), 0.0);
     }
+}
+
+void MvCalendariumRendererOneRow::drawHead(QPainter &painter, const QRectF &cell, const QDate &date,
+                                           const MvWeekdayHeads &heads)
+{
+    const MvCalendarCellTypeConfig config = headCellTypeConfig(date);
+    drawCell(painter, cell, config, {}, isEvenWeek(date), 0);
+    heads.draw(painter, cell, config, date.dayOfWeek(), isEvenWeek(date));
 }

@@ -2,8 +2,11 @@
 
 #include "MvCalendar/MvCalendariumMonthRenderer.h"
 
+class MvWeekdayHeads;
+
 /// The strip: a month in one row, each day a column with its weekday above its number. Too narrow for the names of
-/// holidays, it tells them by colour alone.
+/// holidays, it tells them by colour alone. Where the numbers of a month cannot stand side by side even in the smallest
+/// type, and there is height for it, the days go on in further rows.
 class MVCALENDAR_EXPORT MvCalendariumRendererOneRow : public MvCalendariumMonthRenderer
 {
     Q_OBJECT
@@ -29,5 +32,14 @@ public:
     double heightOfCell(const QRectF &rect, const MvCalendarCellType &type) const;
 
 private:
-    void renderDays(QPainter &painter, const QRectF &rect, double y);
+    /// What the rows of days are made of; the title stands above them.
+    struct Bands
+    {
+        int columns = 0;
+        double title = 0.0;
+        double head = 0.0;
+        QSizeF day;
+    };
+    Bands bands(const QRectF &rect) const;
+    void drawHead(QPainter &painter, const QRectF &cell, const QDate &date, const MvWeekdayHeads &heads);
 };

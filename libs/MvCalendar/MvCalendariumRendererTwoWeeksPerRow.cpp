@@ -1,5 +1,7 @@
 #include "MvCalendar/MvCalendariumRendererTwoWeeksPerRow.h"
 
+#include "MvCalendar/MvWeekdayHeads.h"
+
 namespace {
 constexpr int daysPerRow = 14;
 constexpr int rows = 3; // 42 days from a Monday hold every month
@@ -91,11 +93,15 @@ void MvCalendariumRendererTwoWeeksPerRow::renderHeadline(QPainter &painter, cons
 {
     const QDate monday = mondayOfWeekWithDay(startDate());
     QRectF cell = line;
+    cell.setWidth(widthOfCell(line, CALENDAR_CELL_TYPE_HEAD_WEEKDAY));
+    const MvWeekdayHeads heads(*this, MvWeekdayHeads::Form::Short, cell.size(), false);
+    if (heads.form() == MvWeekdayHeads::Form::None)
+        reportMissingHeads(line);
     for (int day = 0; day < daysPerRow; ++day) {
         const QDate date = monday.addDays(day);
         const MvCalendarCellTypeConfig config(headCellTypeWeekDay(date.dayOfWeek()));
-        cell.setWidth(widthOfCell(line, config.inscriptionConfig()));
-        drawFittingCell(painter, cell, config, dayName(date.dayOfWeek(), true), isEvenWeek(date), date);
+        drawCell(painter, cell, config, {}, isEvenWeek(date), 0);
+        heads.draw(painter, cell, config, date.dayOfWeek(), isEvenWeek(date));
         cell.moveLeft(cell.right());
     }
 }

@@ -14,7 +14,9 @@
 namespace {
 
 constexpr int monthsPerYear = 12;
-constexpr double tallestStrip = 0.4; // of its width: a strip beside a photo lies at the page's foot
+constexpr double tallestStrip = 0.4;         // of its width: a strip beside a photo lies at the page's foot
+constexpr double narrowStrip = 900.0;        // less than that and the days take several rows,
+constexpr double tallestNarrowStrip = 450.0; // which need height
 
 /// The range of a year's page: it begins with its own first month, not with that of the whole calendar.
 MvDateRange twelveMonths(const QDate &month)
@@ -96,8 +98,10 @@ QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
         rect.setRight(photo.left() - gap);
         break;
     }
-    if (m_appearance.type() == CALENDAR_ONE_ROW)
-        rect.setTop(std::max(rect.top(), rect.bottom() - tallestStrip * rect.width()));
+    if (m_appearance.type() == CALENDAR_ONE_ROW) {
+        const double tallest = rect.width() < narrowStrip ? tallestNarrowStrip : tallestStrip * rect.width();
+        rect.setTop(std::max(rect.top(), rect.bottom() - tallest));
+    }
     return rect.isEmpty() ? QRectF() : rect;
 }
 

@@ -1,3 +1,4 @@
+#include "MvBoxFont.h"
 #include "MvPageFixture.h"
 #include "MvTest.h"
 
@@ -65,6 +66,7 @@ private Q_SLOTS:
     void heights();
     void everyMonthFillsTheRectangle_data();
     void everyMonthFillsTheRectangle();
+    void headsGiveWay();
     void printsWeeksHeadsAndDays();
     void weeksWithoutNumbersKeepTheirCell();
     void neighbouringMonthsAreEmpty();
@@ -159,6 +161,33 @@ void tst_MvCalendariumRendererOneColumnPerWeek::everyMonthFillsTheRectangle()
         for (const double gap : {filled.left() - rect.left(), filled.top() - rect.top(), filled.right() - rect.right(),
                                  filled.bottom() - rect.bottom()})
             QVERIFY(qAbs(gap) < 1e-6);
+    }
+}
+
+/// Whatever the paddings are: columns lie side by side within the page, and weekdays are named or give their room away.
+void tst_MvCalendariumRendererOneColumnPerWeek::headsGiveWay()
+{
+    const QString types = u"CALENDAR_CELL_TYPE_HEAD_WEEKDAY, CALENDAR_CELL_TYPE_HEAD_SATURDAY, "
+                          "CALENDAR_CELL_TYPE_HEAD_SUNDAY, CALENDAR_CELL_TYPE_HEAD_HOLIDAY, "
+                          "CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION"_s;
+    const QString negative =
+        MvPageFixture::defaultCells() + u"<cell type='%1' paddingleft='14' paddingright='-300'><font family='%2' "
+                                        "pointsize='9'/></cell>"_s.arg(types, MvBoxFont::family());
+    for (const QString &info : {heads, inFront, heads + u", calendar_render_days_of_week_short"_s}) {
+        MvPageFixture page(MvPageFixture::appearance(info, negative, u"CALENDAR_ONE_COLUMN_PER_WEEK"_s),
+                           QDate(2027, 5, 1), 0);
+        for (const double width : {2000.0, 500.0, 300.0, 190.0, 60.0}) {
+            const QStringList texts = textsOf(page.render({100, 0, width, 1400}));
+            const bool isNamed = texts.contains(u"Mo"_s) || texts.contains(u"M"_s);
+            const double head =
+                weeks(page).widthOfCell({100, 0, width, 1400}, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, QDate(2027, 5, 1));
+            QVERIFY(isNamed ? head > 0.0 : head == 0.0);
+            QVERIFY(isNamed || width < 300.0);
+            QVERIFY(page.days.constFirst().rect.left() >= 100.0 + head - 1e-6);
+            QVERIFY(page.days.constLast().rect.right() <= 100.0 + width + 1e-6);
+            for (qsizetype day = 7; day < page.days.size(); ++day)
+                QVERIFY(page.days.at(day).rect.left() > page.days.at(day - 7).rect.right() - 1e-6);
+        }
     }
 }
 

@@ -44,6 +44,7 @@ private Q_SLOTS:
     void printsTitleHeadsAndNumbers();
     void headsFollowTheirDays();
     void narrowColumnsReportWhatTheyDrop();
+    void furtherRowsWhereNarrow();
     void titleHasNoBorder();
     void describesItself();
 };
@@ -166,15 +167,31 @@ void tst_MvCalendariumRendererOneRow::narrowColumnsReportWhatTheyDrop()
     QCOMPARE(missing.size(), 19);
     QCOMPARE(missing.constFirst(), (MvUnfittingText{QDate(2027, 2, 10), u"10"_s, page.days.at(9).rect}));
 
-    const QStringList narrow = textsOf(page.render({0, 0, 28 * 20, 300})); // "Mo" is 23 wide in the smallest type
-    QVERIFY(!narrow.contains(u"Mo"_s));
-    QVERIFY(narrow.contains(u"…"_s));
-    QCOMPARE(page.days.size(), 28);
-
     const QStringList lowTitle = textsOf(page.render({0, 0, 100, 300}));
     QCOMPARE(lowTitle.constFirst(), u" Februa…"_s); // 8 characters of 11.5
     QVERIFY(page.renderer().unfittingTexts().contains(
         MvUnfittingText{QDate(2027, 2, 1), u"Februar 2027"_s, QRectF(0, 0, 100, 65)}));
+}
+
+void tst_MvCalendariumRendererOneRow::furtherRowsWhereNarrow()
+{
+    // numbers need 30 in the smallest type: 22 columns, which makes two rows of 16
+    const QRectF rect(50, 20, 670, 600);
+    for (const QDate month : {QDate(2027, 2, 1), QDate(2027, 5, 1)}) {
+        MvPageFixture page(strip(title + u", "_s + heads), month, 0);
+        page.render(rect);
+        QCOMPARE(page.days.size(), month.daysInMonth());
+        const QRectF first = page.days.constFirst().rect;
+        QVERIFY(qAbs(first.width() - rect.width() / 16) < 1e-6);
+        QVERIFY(qAbs(page.days.at(15).rect.right() - rect.right()) < 1e-6);
+        const QRectF below = page.days.at(16).rect;
+        QCOMPARE(below.left(), first.left());
+        QVERIFY(below.top() > first.bottom()); // weekdays come between
+        QVERIFY(qAbs(page.days.constLast().rect.bottom() - rect.bottom()) < 1e-6);
+    }
+    MvPageFixture low(strip(heads), QDate(2027, 5, 1), 0);
+    low.render({0, 0, 670, 40});
+    QCOMPARE(low.days.constFirst().rect.top(), low.days.constLast().rect.top());
 }
 
 void tst_MvCalendariumRendererOneRow::titleHasNoBorder()
