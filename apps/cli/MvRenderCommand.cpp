@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCliValues.h"
+#include "MvFileHints.h"
 #include "MvNearMiss.h"
 #include "MvProject/MvExportTarget.h"
 #include "MvProject/MvPageSource.h"
@@ -89,10 +90,12 @@ QList<MvCliOption> MvRenderCommand::options() const
         {u"author"_s, u"TEXT"_s, tr("Verfasser im PDF")},
         {u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der PNG-Dateien (300)")},
         {u"report"_s, u"FORM"_s,
-         tr("json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz und nicht Lesbares "
-            "nennt")},
+         tr("json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz, Fotos mit ihrer "
+            "Auflösung und nicht Lesbares nennt")},
         {u"output"_s, tr("DATEI"),
-         tr("-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt"), true}};
+         tr("-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite, auch für ein .pdf je Seite; mehrfach "
+            "erlaubt"),
+         true}};
 }
 
 QStringList MvRenderCommand::examples() const
@@ -120,28 +123,45 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     if (!values.isOk())
         return misused(values.error());
 
+    const QStringList targets = arguments.values(u"output"_s);
+    MvFileHints hints(values.text(u"project"_s, targets.constFirst()), streams.hints);
     QString error;
     if (values.has(u"project"_s))
-        document = documentFromProject(values, &error, streams.hints);
+        document = documentFromProject(values, &error, hints.stream());
     if (!error.isEmpty())
         return failed(error);
-    for (const QString &path : arguments.values(u"output"_s))
-        values.setError(MvExportTarget(path).nameError(document.pageSource()));
-    if (!values.isOk())
-        return misused(values.error());
-    for (const QString &path : arguments.values(u"output"_s))
-        if (const QString place = MvExportTarget(path).placeError(); !place.isEmpty())
-            return failed(place);
+    if (const Result checked = checkTargets(targets, document); checked.code != Done)
+        return checked;
 
     const MvRenderEntries entries = takeEntries(values, document);
     if (!entries.error().isEmpty())
         return failed(entries.error());
     entries.printHints(streams.hints);
-    hintAtMissingFonts(document.appearance(), streams.hints);
-    MvVacationHint::print(document.holidayConfig(), document.range().end(), streams.hints);
-    if (document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
-        hintAtLeapDayEntries(document.range(), streams.hints);
-    return write(document, entries, arguments, dpi, streams);
+    printHints(document, values.has(u"vacations"_s), hints.stream());
+    return write(document, entries, arguments, dpi, {streams.out, hints.stream()});
+}
+
+MvCliCommand::Result MvRenderCommand::checkTargets(const QStringList &paths, const MvCalendarDocument &document)
+{
+    const MvPageSource pages = document.pageSource();
+    for (const QString &path : paths)
+        if (const QString error = MvExportTarget(path).nameError(pages); !error.isEmpty())
+            return misused(error);
+    for (const QString &path : paths)
+        if (const QString place = MvExportTarget(path).placeError(); !place.isEmpty())
+            return failed(place);
+    return {};
+}
+
+void MvRenderCommand::printHints(const MvCalendarDocument &document, bool areVacationsAsked, QTextStream &hints)
+{
+    hintAtMissingFonts(document.appearance(), hints);
+    if (areVacationsAsked)
+        MvVacationHint::printAsked(document.holidayConfig(), document.range().end(), hints);
+    else
+        MvVacationHint::print(document.holidayConfig(), document.range().end(), hints);
+    if (document.lacksLeapDay())
+        hintAtLeapDayEntries(hints);
 }
 
 MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, const MvRenderEntries &entries,
@@ -318,12 +338,8 @@ void MvRenderCommand::hintAtMissingFonts(const MvCalendariumAppearance &appearan
 }
 
 // an entry of 29 February is printed in leap years alone; nobody should miss a birthday without knowing
-void MvRenderCommand::hintAtLeapDayEntries(const MvDateRange &range, QTextStream &hints)
+void MvRenderCommand::hintAtLeapDayEntries(QTextStream &hints)
 {
-    for (int year = range.start().year(); year <= range.end().year(); ++year) {
-        if (QDate::isLeapYear(year) && range.contains(QDate(year, 2, 29)))
-            return;
-    }
     QStringList names;
     for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList()) {
         const QDate date = event.dateTime().date();

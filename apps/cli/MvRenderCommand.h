@@ -23,6 +23,8 @@ private:
     /// An unreadable file gives an error, what could not be taken from it hints.
     static MvCalendarDocument documentFromProject(const MvCliValues &values, QString *error, QTextStream &hints);
     static void excludeDecidedByProject(MvCliValues &values);
+    /// What is wrong with the names of the files, or keeps them from being written.
+    static Result checkTargets(const QStringList &paths, const MvCalendarDocument &document);
     static Result write(const MvCalendarDocument &document, const MvRenderEntries &entries,
                         const MvCliArguments &arguments, int dpi, const Streams &streams);
     static MvDateRange range(MvCliValues &values);
@@ -33,6 +35,8 @@ private:
     static MvCalendariumHolidayConfig holidayConfig(MvCliValues &values);
     /// Loads the entries that were asked for and has the pages show them.
     static MvRenderEntries takeEntries(const MvCliValues &values, MvCalendarDocument &document);
-    static void hintAtLeapDayEntries(const MvDateRange &range, QTextStream &hints);
+    /// What a person should know before printing.
+    static void printHints(const MvCalendarDocument &document, bool areVacationsAsked, QTextStream &hints);
+    static void hintAtLeapDayEntries(QTextStream &hints);
     static void hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints);
 };

@@ -5,14 +5,48 @@
 #include <QJsonObject>
 #include <QTextStream>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostPhotoHints = 20;
+
+QJsonObject rectObject(const QRectF &rect)
+{
+    return {{u"x"_s, rect.x()}, {u"y"_s, rect.y()}, {u"width"_s, rect.width()}, {u"height"_s, rect.height()}};
+}
+
+QJsonValue dateValue(const QDate &date)
+{
+    return date.isValid() ? QJsonValue(date.toString(Qt::ISODate)) : QJsonValue();
+}
+
+QString gradeName(MvFotoResolution::Grade grade)
+{
+    switch (grade) {
+    case MvFotoResolution::Grade::Poor:
+        return u"poor"_s;
+    case MvFotoResolution::Grade::Modest:
+        return u"modest"_s;
+    case MvFotoResolution::Grade::Good:
+        break;
+    }
+    return u"good"_s;
+}
+
+} // namespace
 
 MvRenderReport::MvRenderReport(const MvCalendarDocument &document)
     : m_missingPhotos(document.missingPhotos())
 {
-    for (int page = 0; page < document.pages().size(); ++page) {
+    for (int page = 0; page < document.pages().size() && document.isValid(); ++page) {
         for (const MvUnfittingText &text : document.unfittingTexts(page))
             m_unfitting.append({page + 1, text});
+        for (const MvPrintedPhoto &photo :
+             MvPrintedPhoto::ofPage(document.pages()[page], document.format(), document.range()))
+            m_photos.append({page + 1, photo});
     }
 }
 
@@ -32,17 +66,25 @@ QString MvRenderReport::toJson() const
                                           {u"reason"_s, skipped.reason}});
     QJsonArray unfitting;
     for (const Entry &entry : m_unfitting) {
-        const QRectF &rect = entry.text.rect;
-        unfitting.append(QJsonObject{{u"page"_s, entry.page},
-                                     {u"date"_s, entry.text.date.toString(Qt::ISODate)},
-                                     {u"text"_s, entry.text.text},
-                                     {u"rect"_s, QJsonObject{{u"x"_s, rect.x()},
-                                                             {u"y"_s, rect.y()},
-                                                             {u"width"_s, rect.width()},
-                                                             {u"height"_s, rect.height()}}}});
+        QJsonObject text{{u"page"_s, entry.page},
+                         {u"date"_s, dateValue(entry.text.date)},
+                         {u"text"_s, entry.text.text},
+                         {u"rect"_s, rectObject(entry.text.rect)}};
+        if (!entry.text.missingGlyphs.isEmpty())
+            text.insert(u"missingGlyphs"_s, entry.text.missingGlyphs);
+        unfitting.append(text);
     }
+    QJsonArray photos;
+    for (const Photo &entry : m_photos)
+        photos.append(QJsonObject{{u"page"_s, entry.page},
+                                  {u"date"_s, dateValue(entry.photo.date)},
+                                  {u"path"_s, entry.photo.path},
+                                  {u"ppi"_s, std::round(entry.photo.pixelsPerInch)},
+                                  {u"quality"_s, gradeName(entry.photo.grade())},
+                                  {u"rect"_s, rectObject(entry.photo.rect)}});
     const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)},
                              {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingPhotos)},
+                             {u"photos"_s, photos},
                              {u"skippedEntries"_s, skippedEntries},
                              {u"unfitting"_s, unfitting}};
     return QString::fromUtf8(QJsonDocument(report).toJson());
@@ -50,11 +92,54 @@ QString MvRenderReport::toJson() const
 
 void MvRenderReport::printHint(QTextStream &hints) const
 {
-    if (!m_unfitting.isEmpty())
-        hints << tr("Texte ohne Platz: %1, der erste am %2; --report json nennt alle")
-                     .arg(QString::number(m_unfitting.size()),
-                          m_unfitting.constFirst().text.date.toString(u"d.M.yyyy"_s))
-              << '\n';
+    printTextHints(hints);
     for (const QString &path : m_missingPhotos)
         hints << tr("Foto fehlt oder ist nicht lesbar: %1").replace(u"%1"_s, path) << '\n';
+    printPhotoHints(hints);
+}
+
+void MvRenderReport::printTextHints(QTextStream &hints) const
+{
+    int withoutRoom = 0;
+    QDate first;
+    QList<uint> missing;
+    for (const Entry &entry : m_unfitting) {
+        for (const uint character : entry.text.missingGlyphs.toUcs4()) {
+            if (!missing.contains(character))
+                missing.append(character);
+        }
+        if (entry.text.missingGlyphs.isEmpty() && ++withoutRoom == 1)
+            first = entry.text.date;
+    }
+    if (withoutRoom > 0)
+        hints << tr("Texte ohne Platz: %1, der erste am %2; --report json nennt alle")
+                     .arg(QString::number(withoutRoom), first.toString(u"d.M.yyyy"_s))
+              << '\n';
+    const QString glyphs = QString::fromUcs4(reinterpret_cast<const char32_t *>(missing.constData()), missing.size());
+    if (!glyphs.isEmpty())
+        hints << tr("Keine Schrift hat diese Zeichen: %1; --report json nennt die Texte").arg(glyphs) << '\n';
+}
+
+void MvRenderReport::printPhotoHints(QTextStream &hints) const
+{
+    int poor = 0;
+    int modest = 0;
+    for (const auto &[page, photo] : m_photos) {
+        const MvFotoResolution::Grade grade = photo.grade();
+        modest += grade == MvFotoResolution::Grade::Modest ? 1 : 0;
+        if (grade != MvFotoResolution::Grade::Poor || ++poor > mostPhotoHints)
+            continue;
+        hints << tr("Foto wird grob, nur %1 Pixel je Zoll (gut ab %2): Seite %3, %4")
+                     .arg(std::floor(photo.pixelsPerInch))
+                     .arg(MvFotoResolution::modestBelow)
+                     .arg(page)
+                     .arg(photo.path)
+              << '\n';
+    }
+    if (poor > mostPhotoHints)
+        hints << tr("%n weitere Fotos werden grob; --report json nennt alle", nullptr, poor - mostPhotoHints) << '\n';
+    if (modest > 0)
+        hints << tr("%n Fotos mit weniger als %1 Pixeln je Zoll; --report json nennt sie", nullptr, modest)
+                     .arg(MvFotoResolution::modestBelow)
+              << '\n';
 }

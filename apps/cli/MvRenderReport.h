@@ -2,6 +2,7 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvPrintedPhoto.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -9,8 +10,8 @@
 
 class QTextStream;
 
-/// What came of printing a calendar: the files, the texts that had no room on their pages, the photos that were not
-/// there.
+/// What came of printing a calendar: the files, the texts that do not stand whole on their pages, the photos that were
+/// not there and how finely the others are printed.
 class MvRenderReport
 {
     Q_DECLARE_TR_FUNCTIONS(MvRenderReport)
@@ -23,12 +24,10 @@ public:
     /// Entries that are not printed since their file has them in a form that cannot be read.
     void setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped);
 
-    /// An object with "files", a list of paths, "missingPhotos", the paths of photos that are not there or cannot be
-    /// read, "skippedEntries", a list of objects with "file", "line" (from 1), "name" and "reason", and "unfitting", a
-    /// list of objects with "page" (from 1), "date" (ISO), "text" and "rect" ("x", "y", "width", "height" in tenths of
-    /// a millimetre from the corner of the trimmed page).
+    /// The object that the program's manual describes.
     QString toJson() const;
-    /// One line when texts had no room, one per missing photo, otherwise nothing.
+    /// One line when texts had no room, one when characters have no glyph, one per photo that is missing or will look
+    /// coarse, one for those that are not quite fine; otherwise nothing.
     void printHint(QTextStream &hints) const;
 
 private:
@@ -37,8 +36,17 @@ private:
         int page; // from 1
         MvUnfittingText text;
     };
+    struct Photo
+    {
+        int page; // from 1
+        MvPrintedPhoto photo;
+    };
+
+    void printTextHints(QTextStream &hints) const;
+    void printPhotoHints(QTextStream &hints) const;
 
     QList<Entry> m_unfitting;
+    QList<Photo> m_photos;
     QStringList m_missingPhotos;
     QStringList m_files;
     QFileInfo m_entriesFile;

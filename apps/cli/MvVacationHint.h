@@ -6,13 +6,14 @@
 #include <QDate>
 #include <QTextStream>
 
-/// Says where the known school vacations end: they are announced a few years ahead only.
+/// Says where the known school vacations end, since they are announced a few years ahead only, or that there are none.
 class MvVacationHint
 {
     Q_DECLARE_TR_FUNCTIONS(MvVacationHint)
 
 public:
-    /// Prints one line if vacations are not known for the region up to the day; nothing if there are no vacations to
-    /// show, or no table at all for a whole country.
+    /// Prints one line if vacations are not known for the region up to the day; nothing if there are none to show.
     static void print(const MvCalendariumHolidayConfig &config, const QDate &neededUntil, QTextStream &hints);
+    /// For somebody who asked for them: without a region, too, one line tells why there are none.
+    static void printAsked(const MvCalendariumHolidayConfig &config, const QDate &neededUntil, QTextStream &hints);
 };

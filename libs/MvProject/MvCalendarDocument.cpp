@@ -205,6 +205,8 @@ MvPageSource MvCalendarDocument::pageSource() const
     source.paint = [document = *this](QPainter &painter, int page) { document.paint(painter, page); };
     source.title = m_title;
     source.author = m_author;
+    if (const MvLocale language = holidayConfig().language(); language.isValid())
+        source.language = language.name().replace(u'_', u'-');
     return source;
 }
 

@@ -1,5 +1,6 @@
 #include "MvProject/MvExportTarget.h"
 
+#include "MvProject/MvExportObserver.h"
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
@@ -9,6 +10,43 @@
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// One page of several, to be exported on its own.
+MvPageSource onePage(const MvPageSource &pages, int page)
+{
+    MvPageSource one = pages;
+    one.pages = {pages.pages[page]};
+    one.numbers = {pages.numbers.value(page, page)};
+    one.paint = [paint = pages.paint, page](QPainter &painter, int) { paint(painter, page); };
+    return one;
+}
+
+/// Tells of pages that each become a file as of pages of one.
+class PageObserver : public MvExportObserver
+{
+public:
+    PageObserver(MvExportObserver *all, int page, int total)
+        : m_all(all)
+        , m_page(page)
+        , m_total(total)
+    {}
+
+    void pagesDone(int done, int) override
+    {
+        if (m_all)
+            m_all->pagesDone(m_page + done, m_total);
+    }
+    bool isCancelled() const override { return m_all && m_all->isCancelled(); }
+
+private:
+    MvExportObserver *m_all;
+    int m_page;
+    int m_total;
+};
+
+} // namespace
 
 MvExportTarget::MvExportTarget(const QString &path)
     : m_path(path)
@@ -20,7 +58,7 @@ QString MvExportTarget::nameError(const MvPageSource &pages) const
     if (m_suffix != u"pdf"_s && m_suffix != u"png"_s && m_suffix != u"svg"_s)
         return tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path);
     QString error;
-    if (m_suffix != u"pdf"_s)
+    if (m_suffix != u"pdf"_s || isPdfPerPage())
         MvFileNamePattern(m_path).paths(pages.pages, &error, pages.numbers);
     return error;
 }
@@ -41,11 +79,33 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
 {
     if (const QString error = nameError(pages); !error.isEmpty())
         return {error, {}};
+    if (isPdfPerPage())
+        return writePdfPerPage(pages, observer);
     if (m_suffix == u"pdf"_s)
         return MvPdfExporter::write(pages, QFileInfo(m_path), observer);
     if (m_suffix == u"png"_s)
         return MvPngExporter::write(pages, m_path, dpi, observer);
     return MvSvgExporter::write(pages, m_path, observer);
+}
+
+bool MvExportTarget::isPdfPerPage() const
+{
+    const QString name = QFileInfo(m_path).fileName().remove(u"%%"_s);
+    return m_suffix == u"pdf"_s && (name.contains(u"%m"_s) || name.contains(u"%y"_s) || name.contains(u"%n"_s));
+}
+
+MvExportResult MvExportTarget::writePdfPerPage(const MvPageSource &pages, MvExportObserver *observer) const
+{
+    MvExportResult all;
+    const QStringList paths = MvFileNamePattern(m_path).paths(pages.pages, &all.error, pages.numbers);
+    for (int page = 0; page < paths.size() && all.isOk(); ++page) {
+        PageObserver pageObserver(observer, page, int(paths.size()));
+        const MvExportResult one = MvPdfExporter::write(onePage(pages, page), QFileInfo(paths[page]), &pageObserver);
+        all.files += one.files;
+        all.error = one.error;
+        all.isCancelled = one.isCancelled;
+    }
+    return all;
 }
 
 int MvExportTarget::imageResolution(int dpi) const

@@ -10,7 +10,7 @@ class MvExportObserver;
 class MvPageSource;
 
 /// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .png or
-/// .svg.
+/// .svg. A PDF whose name has a placeholder of MvFileNamePattern becomes one of each page.
 class MVPROJECT_EXPORT MvExportTarget
 {
     Q_DECLARE_TR_FUNCTIONS(MvExportTarget)
@@ -31,6 +31,9 @@ public:
     MvExportResult write(const MvPageSource &pages, int dpi, MvExportObserver *observer = nullptr) const;
 
 private:
+    bool isPdfPerPage() const;
+    MvExportResult writePdfPerPage(const MvPageSource &pages, MvExportObserver *observer) const;
+
     QString m_path;
     QString m_suffix; // lower case
 };

@@ -26,6 +26,7 @@ public:
 
     QString title;
     QString author;
+    QString language = QStringLiteral("de-DE"); // of the texts on the pages
 
     /// What keeps the pages from being exported, for a person; empty when nothing does.
     QString error() const;

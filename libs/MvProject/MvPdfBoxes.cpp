@@ -5,6 +5,7 @@
 
 #include <QColorSpace>
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 
 #include <qpdf/Buffer.hh>
@@ -57,11 +58,22 @@ void setOutputIntent(QPDF &pdf)
     pdf.getRoot().replaceKey("/OutputIntents", intents);
 }
 
+/// The date of builds that are to be equal bit by bit, as a PDF has it; empty when none is wanted.
+QString reproducibleDate()
+{
+    bool isGiven = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);
+    const QDateTime date = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return isGiven && date.isValid() ? date.toString(u"'D:'yyyyMMddHHmmss'Z'"_s) : QString();
+}
+
 void setMetadata(QPDF &pdf, const MvPageSource &source)
 {
     QPDFObjectHandle info = pdf.getTrailer().getKey("/Info");
     if (info.isDictionary() && !source.author.isEmpty())
         info.replaceKey("/Author", unicode(source.author));
+    if (const QString date = reproducibleDate(); info.isDictionary() && !date.isEmpty())
+        info.replaceKey("/CreationDate", QPDFObjectHandle::newString(date.toStdString()));
 
     const QString author = source.author.isEmpty()
                                ? QString()
@@ -84,7 +96,7 @@ void setMetadata(QPDF &pdf, const MvPageSource &source)
     preferences.replaceKey("/DisplayDocTitle", QPDFObjectHandle::newBool(true));
     preferences.replaceKey("/PrintScaling", QPDFObjectHandle::newName("/None")); // millimetres are meant
     pdf.getRoot().replaceKey("/ViewerPreferences", preferences);
-    pdf.getRoot().replaceKey("/Lang", QPDFObjectHandle::newString("de-DE"));
+    pdf.getRoot().replaceKey("/Lang", QPDFObjectHandle::newString(source.language.toStdString()));
 }
 
 } // namespace
@@ -108,6 +120,7 @@ QString MvPdfBoxes::finish(const QString &rawFile, const MvPageSource &source,
         QPDFWriter writer(pdf);
         writer.setOutputMemory();
         writer.setObjectStreamMode(qpdf_o_generate);
+        writer.setDeterministicID(true);
         writer.write();
         const std::shared_ptr<Buffer> buffer = writer.getBufferSharedPointer();
         return take(

@@ -152,6 +152,23 @@
     </message>
 </context>
 <context>
+    <name>MvRenderReport</name>
+    <message numerus="yes">
+        <source>%n weitere Fotos werden grob; --report json nennt alle</source>
+        <translation>
+            <numerusform>%n weiteres Foto wird grob; --report json nennt alle</numerusform>
+            <numerusform>%n weitere Fotos werden grob; --report json nennt alle</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos mit weniger als %1 Pixeln je Zoll; --report json nennt sie</source>
+        <translation>
+            <numerusform>%n Foto mit weniger als %1 Pixeln je Zoll; --report json nennt es</numerusform>
+            <numerusform>%n Fotos mit weniger als %1 Pixeln je Zoll; --report json nennt sie</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvRestoreEntriesDialog</name>
     <message numerus="yes">
         <source>%n Einträge</source>

@@ -2649,10 +2649,6 @@ Save it under another name or in another folder.</translation>
         <translation>dots per inch of the PNG files (300)</translation>
     </message>
     <message>
-        <source>-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite; mehrfach erlaubt</source>
-        <translation>-o: .pdf, or .png and .svg for each page; %m month, %y year, %n page; may be repeated</translation>
-    </message>
-    <message>
         <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png oder .svg</source>
         <translation>-o FILE is missing; allowed are names that end in .pdf, .png or .svg</translation>
     </message>
@@ -2721,8 +2717,12 @@ Save it under another name or in another folder.</translation>
         <translation>your own personal entries, in the same way</translation>
     </message>
     <message>
-        <source>json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz und nicht Lesbares nennt</source>
-        <translation>json: prints a JSON object instead of the file names, which names files, texts without room and what could not be read</translation>
+        <source>json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz, Fotos mit ihrer Auflösung und nicht Lesbares nennt</source>
+        <translation>json: prints a JSON object instead of the file names, which names files, texts without room, photos with their resolution and what could not be read</translation>
+    </message>
+    <message>
+        <source>-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite, auch für ein .pdf je Seite; mehrfach erlaubt</source>
+        <translation>-o: .pdf, or .png and .svg for each page; %m month, %y year, %n page, also for one .pdf for each page; may be given several times</translation>
     </message>
 </context>
 <context>
@@ -2760,6 +2760,28 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Foto fehlt oder ist nicht lesbar: %1</source>
         <translation>photo missing or not readable: %1</translation>
+    </message>
+    <message>
+        <source>Keine Schrift hat diese Zeichen: %1; --report json nennt die Texte</source>
+        <translation>no font has these characters: %1; --report json names the texts</translation>
+    </message>
+    <message>
+        <source>Foto wird grob, nur %1 Pixel je Zoll (gut ab %2): Seite %3, %4</source>
+        <translation>photo will look coarse, only %1 pixels per inch (good from %2 on): page %3, %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n weitere Fotos werden grob; --report json nennt alle</source>
+        <translation>
+            <numerusform>%n more photo will look coarse; --report json names all</numerusform>
+            <numerusform>%n more photos will look coarse; --report json names all</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos mit weniger als %1 Pixeln je Zoll; --report json nennt sie</source>
+        <translation>
+            <numerusform>%n photo of fewer than %1 pixels per inch; --report json names it</numerusform>
+            <numerusform>%n photos of fewer than %1 pixels per inch; --report json names them</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3495,6 +3517,10 @@ Designs photo calendars and prints them.
     <message>
         <source>Ferien %1 bis %2</source>
         <translation>school holidays of %1 to %2</translation>
+    </message>
+    <message>
+        <source>ohne --region keine Schulferien: „mvcalendar regions --country %1“ nennt die Regionen</source>
+        <translation>no school holidays without --region: “mvcalendar regions --country %1” names the regions</translation>
     </message>
 </context>
 <context>

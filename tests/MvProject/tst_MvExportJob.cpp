@@ -68,6 +68,7 @@ void tst_MvExportJob::writesWhatTheExporterWrites_data()
     QTest::newRow("PNG") << u"k-%n.png"_s;
     QTest::newRow("SVG") << u"k-%n.svg"_s;
     QTest::newRow("PDF") << u"k.pdf"_s;
+    QTest::newRow("PDF of each page") << u"k-%n.pdf"_s;
 }
 
 void tst_MvExportJob::writesWhatTheExporterWrites()

@@ -190,7 +190,15 @@ void tst_MvExporters::pdfGeometry()
 
 void tst_MvExporters::pdfMetadata()
 {
-    QVERIFY(MvPdfExporter::write(source(u"A6"_s, 0, 2), QFileInfo(path(u"k.pdf"_s))).isOk());
+    MvPageSource pages = source(u"A6"_s, 0, 2);
+    pages.language = u"fr-CH"_s;
+    qputenv("SOURCE_DATE_EPOCH", "1800000000");
+    for (const QString &name : {u"k.pdf"_s, u"gleich.pdf"_s}) {
+        QVERIFY(MvPdfExporter::write(pages, QFileInfo(path(name))).isOk());
+        QTest::qWait(1100); // dates have seconds
+    }
+    qunsetenv("SOURCE_DATE_EPOCH");
+    QVERIFY(contentOf(path(u"k.pdf"_s)) == contentOf(path(u"gleich.pdf"_s)));
     const QString info = QString::fromUtf8(outputOf(u"pdfinfo"_s, {u"-enc"_s, u"UTF-8"_s, path(u"k.pdf"_s)}));
     QVERIFY2(QRegularExpression(u"Title: +Kalender <2027> & „Mühe“\n"_s).match(info).hasMatch(), qPrintable(info));
     QVERIFY2(QRegularExpression(u"Author: +Jürgen\n"_s).match(info).hasMatch(), qPrintable(info));
@@ -204,6 +212,7 @@ void tst_MvExporters::pdfMetadata()
 
     QPDF pdf;
     pdf.processFile(path(u"k.pdf"_s).toLocal8Bit().constData());
+    QCOMPARE(QString::fromStdString(pdf.getRoot().getKey("/Lang").getStringValue()), u"fr-CH"_s);
     QPDFObjectHandle intent = pdf.getRoot().getKey("/OutputIntents").getArrayItem(0);
     const std::shared_ptr<Buffer> profile = intent.getKey("/DestOutputProfile").getStreamData();
     const QByteArray bytes(reinterpret_cast<const char *>(profile->getBuffer()), qsizetype(profile->getSize()));

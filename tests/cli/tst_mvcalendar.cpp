@@ -29,7 +29,6 @@ private Q_SLOTS:
     void holidays();
     void holidayFormatsAgree();
     void regionByNameOrCode();
-    void vacationsEnd();
     void lists_data();
     void lists();
     void regions();
@@ -42,9 +41,10 @@ private Q_SLOTS:
     void damagedEntries();
     void skippedEntries_data();
     void skippedEntries();
-    void leapDayEntries();
+    void hints_data();
+    void hints();
     void reportsTextsWithoutRoom();
-    void unknownFont();
+    void reportsCoarsePhotos();
     void project();
     void brokenOutput();
     void littleMemory();
@@ -279,18 +279,6 @@ void tst_mvcalendar::regionByNameOrCode()
     QCOMPARE(run(arguments + QStringList{u"bw"_s, u"--country"_s, u"Deutschland"_s}).out, byCode);
 }
 
-void tst_mvcalendar::vacationsEnd()
-{
-    const Call call = run({u"holidays"_s, u"--region"_s, u"BY"_s, u"--year"_s, u"2060"_s, u"--format"_s, u"csv"_s});
-    QCOMPARE(call.exitCode, 0);
-    QVERIFY2(QRegularExpression(u"^mvcalendar: Ferien BY bis 20\\d\\d-\\d\\d\n$"_s)
-                 .match(QString::fromUtf8(call.err))
-                 .hasMatch(),
-             call.err.constData());
-    QVERIFY(call.out.contains("2060-12-25,public,"));
-    QVERIFY(!call.out.contains(",vacation,"));
-}
-
 void tst_mvcalendar::lists_data()
 {
     QTest::addColumn<QString>("command");
@@ -369,10 +357,10 @@ void tst_mvcalendar::rendersPdf()
 void tst_mvcalendar::rendersPng()
 {
     const Call call = run({u"render"_s, u"--from"_s, u"2026-12"_s, u"--months"_s, u"2"_s, u"-o"_s, u"s-%y-%m.png"_s,
-                           u"-o"_s, u"k.pdf"_s, u"--dpi"_s, u"127"_s});
+                           u"-o"_s, u"k-%m.pdf"_s, u"--dpi"_s, u"127"_s});
     QCOMPARE(call.err, QByteArray());
-    QCOMPARE(call.out, QByteArray("s-2026-12.png\ns-2027-01.png\nk.pdf\n"));
-    QCOMPARE(files(), (QStringList{u"k.pdf"_s, u"s-2026-12.png"_s, u"s-2027-01.png"_s}));
+    QCOMPARE(call.out, QByteArray("s-2026-12.png\ns-2027-01.png\nk-12.pdf\nk-01.pdf\n"));
+    QCOMPARE(files(), (QStringList{u"k-01.pdf"_s, u"k-12.pdf"_s, u"s-2026-12.png"_s, u"s-2027-01.png"_s}));
     const QImage december(path(u"s-2026-12.png"_s));
     QCOMPARE(december.size(), QSize(1485, 1050)); // 5 pixels per millimetre
     QCOMPARE(december.dotsPerMeterX(), 5000);
@@ -481,16 +469,61 @@ void tst_mvcalendar::skippedEntries()
         QVERIFY(QFile::remove(file));
 }
 
-void tst_mvcalendar::leapDayEntries()
+void tst_mvcalendar::hints_data()
 {
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QString>("hint"); // after the file's name; none when empty
+    const auto row = [](const char *name, const QString &arguments, const QString &hint = {}) {
+        QTest::newRow(name) << arguments << hint;
+    };
+    row("vacations without a region", u"--vacations"_s, u"ohne --region keine Schulferien: .*--country DE“.*"_s);
+    row("vacations of a country without any", u"--vacations --country FR"_s, u"Ferien FR: keine bekannt"_s);
+    row("vacations of a country without regions", u"--vacations --country LU --year 2025"_s);
+    row("vacations beyond what is known", u"--vacations --region BY --year 2060"_s, u"Ferien BY bis 20\\d\\d-\\d\\d"_s);
+    row("nobody asked for vacations", u"--year 2060"_s);
+    row("a font that is not there", u"--font GibtsnichtSans"_s, u"Schrift nicht installiert.*: GibtsnichtSans"_s);
+    row("29 February in a common year", u"--entries e.xml --from 2027-02"_s, u"29\\. Februar .*: Gudrun"_s);
+    row("in a leap year", u"--entries e.xml --from 2028-02"_s);
+    row("no end of February is printed", u"--entries e.xml --from 2027-05"_s);
+    row("a year's page has it, months after its first",
+        u"--entries e.xml --from 2027-05 --layout YEAR_PLANNER --page A2"_s);
+}
+
+void tst_mvcalendar::hints()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const QString, hint);
     write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-02-29"));
-    const QStringList arguments{u"render"_s, u"--entries"_s, u"e.xml"_s, u"-o"_s, u"k.pdf"_s, u"--year"_s};
-    const Call common = run(arguments + QStringList{u"2027"_s});
-    QCOMPARE(common.exitCode, 0);
-    QVERIFY2(common.err.contains("Gudrun"), common.err.constData());
-    const Call leap = run(arguments + QStringList{u"2028"_s});
-    QCOMPARE(leap.exitCode, 0);
-    QVERIFY2(!leap.err.contains("Gudrun"), leap.err.constData());
+    const bool isYear = arguments.contains(u"--year"_s);
+    const Call call =
+        run(QStringList{u"render"_s, u"-o"_s, u"k.pdf"_s} + arguments.split(u' ') +
+            (isYear ? QStringList() : QStringList{u"--months"_s, u"1"_s}) +
+            (arguments.contains(u"--from"_s) || isYear ? QStringList() : QStringList{u"--from"_s, u"2027-03"_s}));
+    QCOMPARE(call.exitCode, 0);
+    const QRegularExpression expected(hint.isEmpty() ? u"^$"_s : u"^mvcalendar: k\\.pdf: %1\n$"_s.arg(hint));
+    QVERIFY2(expected.match(QString::fromUtf8(call.err)).hasMatch(), call.err.constData());
+}
+
+void tst_mvcalendar::reportsCoarsePhotos()
+{
+    QVERIFY(QImage(900, 700, QImage::Format_RGB32).save(path(u"grob.png"_s)));
+    write(path(u"k.mvcalendar"_s),
+          "<calendarproject version='1'><paper width='1480' height='2100' bleed='0'/><page month='2027-02'>"
+          "<calendarium layoutschema='MONTH_GRID_CLASSIC' colorschema='NIGHT'/><content language='de_DE'/>"
+          "<photo path='grob.png' placement='top' share='0.5'/></page></calendarproject>");
+    const QStringList arguments{u"render"_s, u"--project"_s, u"k.mvcalendar"_s, u"-o"_s, u"k.pdf"_s};
+    const QString err = QString::fromUtf8(run(arguments).err); // 148 mm are 5.83 inches: 154 pixels each
+    QVERIFY2(err.startsWith(u"mvcalendar: k.mvcalendar: 1 Foto "_s) && err.count(u'\n') == 1, qPrintable(err));
+    const QJsonObject report =
+        QJsonDocument::fromJson(run(arguments + QStringList{u"--report"_s, u"json"_s}).out).object();
+    const QJsonObject photo = report.value(u"photos"_s).toArray().at(0).toObject();
+    QCOMPARE(photo.value(u"ppi"_s).toInt(), 154);
+    QCOMPARE(photo.value(u"quality"_s).toString(), u"modest"_s);
+    QCOMPARE(photo.value(u"path"_s).toString(), path(u"grob.png"_s));
+    QVERIFY(photo.value(u"page"_s).toInt() == 1 && photo.value(u"date"_s).isNull());
+    QVERIFY(QImage(800, 700, QImage::Format_RGB32).save(path(u"grob.png"_s)));
+    const QString poor = QString::fromUtf8(run(arguments).err);
+    QVERIFY2(poor.contains(u"nur 137 Pixel je Zoll"_s) && poor.contains(u"grob.png"_s), qPrintable(poor));
 }
 
 void tst_mvcalendar::reportsTextsWithoutRoom()
@@ -514,13 +547,6 @@ void tst_mvcalendar::reportsTextsWithoutRoom()
     QCOMPARE(entry.value(u"text"_s).toString(), u"Donaudampfschifffahrtsgesellschaftsjubiläum"_s);
     QVERIFY(entry.value(u"rect"_s).toObject().value(u"width"_s).toDouble() > 100.0);
     QCOMPARE(run(arguments + QStringList{u"--report"_s, u"xml"_s}).exitCode, 2);
-}
-
-void tst_mvcalendar::unknownFont()
-{
-    const Call call = run({u"render"_s, u"--months"_s, u"1"_s, u"--font"_s, u"Gibtsnicht Sans"_s, u"-o"_s, u"k.pdf"_s});
-    QCOMPARE(call.exitCode, 0);
-    QVERIFY2(call.err.contains("Gibtsnicht Sans") && call.err.count('\n') == 1, call.err.constData());
 }
 
 void tst_mvcalendar::project()
