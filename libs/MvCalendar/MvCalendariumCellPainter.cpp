@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCalendar/MvDayTextPlacement.h"
 #include "MvCalendar/MvTextFitter.h"
 #include "MvModelBase/MvQualityTypeManager.h"
 #include "MvModelBase/MvRenderingRule.h"
@@ -24,6 +25,9 @@ constexpr double holidayTextsFromWidth = 155.0;
 constexpr double holidayTextsFromHeight = 60.0;
 
 constexpr double textGap = 5.0; // between texts and what else is in the cell
+const QString widestNumber = u"22"_s;
+constexpr double numberAir = 0.3;     // of the type's size, between two numbers side by side
+constexpr double mostPixels = 8192.0; // of a photo in a cell, on each side
 constexpr double largeCell = 300.0;
 constexpr double largeCellMargin = 10.0;
 constexpr double smallCellMargin = 2.0;
@@ -32,41 +36,8 @@ constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
 constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
 constexpr double leastMargin = 1.0;
-constexpr QChar ellipsis(u'…');
 constexpr double widestPhotoBesideTexts = 0.5; // of a wide cell
-
-/// The letters of a text, which are the same however it is broken into lines.
-QString lettersOf(QString text)
-{
-    return text.removeIf(
-        [](QChar c) { return c.isSpace() || c.category() == QChar::Punctuation_Dash || c == u'\u00ad'; });
-}
-
-/// Of texts that stand one behind the other in lines of which the last one was shortened. Where that one ends with a
-/// whole text, its ellipsis stands apart, for the texts that follow.
-QStringList textsNotWhole(const QStringList &texts, int width, const QFont &font, QStringList *lines)
-{
-    QString last = lines->isEmpty() ? QString() : lines->takeLast();
-    if (last.endsWith(ellipsis))
-        last.chop(1);
-    const qsizetype seen = lettersOf(lines->join(QString()) + last).size();
-    qsizetype end = 0;
-    bool endsWithText = false;
-    QStringList notWhole;
-    for (const QString &text : texts) {
-        end += lettersOf(text).size();
-        if (end > seen)
-            notWhole.append(text);
-        endsWithText = endsWithText || end == seen || end + 1 == seen;
-        end += 1; // the comma
-    }
-    while (endsWithText && (last.endsWith(u',') || last.endsWith(u' ')))
-        last.chop(1);
-    const QString ended = last + (endsWithText ? u" "_s : QString()) + ellipsis;
-    if (seen > 0)
-        lines->append(MvCalendariumTextPainter::advance(font, ended) <= width ? ended : last);
-    return notWhole;
-}
+const QString separator = u", "_s;
 
 } // namespace
 
@@ -141,15 +112,37 @@ void MvCalendariumCellPainter::drawFittingText(const QRectF &rect, const MvCalen
     line.draw(m_painter, color);
 }
 
+MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, const MvCalendarCellType &type,
+                                                           const QString &number) const
+{
+    const MvTextFitter fitter = m_renderer.fitter(type);
+    const QList<QFont> sizes = fitter.sizes();
+    const auto hasRoom = [&](const QFont &font, double air) { // all numbers of a page are as large as the widest
+        return MvCalendariumTextPainter::advance(font, widestNumber) + air * font.pixelSize() <= rect.width() &&
+               QFontMetricsF(font).capHeight() <= rect.height() - 2.0 * leastMargin;
+    };
+    auto size = std::find_if(sizes.cbegin(), sizes.cend(), [&](const QFont &font) { return hasRoom(font, numberAir); });
+    if (size == sizes.cend()) // without air only where nothing else helps
+        size = std::find_if(sizes.cbegin(), sizes.cend(), [&](const QFont &font) { return hasRoom(font, 0.0); });
+    const MvTextFitter fixed(size == sizes.cend() ? sizes.constLast() : *size, fitter.floor(), MvHyphenator());
+    MvCalendariumCellLine line(fixed, rect.size(), number);
+    if (line.isCut())
+        return {fixed, QSizeF(), number}; // half a number is none
+    line.align(rect.marginsRemoved(m_renderer.padding(type)), int(m_renderer.textAlignment(type)));
+    line.keepInside(rect.adjusted(leastMargin, leastMargin, -leastMargin, -leastMargin));
+    return line;
+}
+
 void MvCalendariumCellPainter::drawNumber(const QRectF &rect, const MvCalendarCellTypeConfig &config,
                                           const QString &number, bool even, const QDate &date)
 {
-    const QFont font = m_renderer.font(config.inscriptionConfig());
-    if (MvCalendariumTextPainter::isTextToWide(static_cast<int>(rect.width()), font, number) ||
-        QFontMetricsF(font).capHeight() > rect.height())
+    const QColor color = m_renderer.fontColor(config, even);
+    if (!m_renderer.isOpaqueColor(color))
+        return;
+    const MvCalendariumCellLine line = numberLine(rect, config.inscriptionConfig(), number);
+    if (line.isEmpty())
         m_renderer.reportUnfitting(date, number, rect);
-    else
-        drawText(rect, config, number, 0, even);
+    line.draw(m_painter, color);
 }
 
 void MvCalendariumCellPainter::reportMissingTexts(const QRectF &rect, const QDate &date)
@@ -157,8 +150,8 @@ void MvCalendariumCellPainter::reportMissingTexts(const QRectF &rect, const QDat
     if (!m_renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS)) // knows days by their colours alone
         return;
     const QStringList texts = m_renderer.describeHolidays(date);
-    if (!texts.isEmpty())
-        m_renderer.reportUnfitting(date, texts.join(u", "_s), rect);
+    for (const QString &text : texts)
+        m_renderer.reportUnfitting(date, text, rect);
 }
 
 void MvCalendariumCellPainter::preparePen(const QFont &font, const QColor &color)
@@ -202,55 +195,39 @@ bool MvCalendariumCellPainter::drawHoliday(const QRectF &rect, const QDate &date
     if (!m_renderer.isOpaqueColor(color) || texts.isEmpty())
         return drawPicture(date, inner);
 
+    const MvTextFitter fitter = m_renderer.holidayFitter(type);
+    const MvCalendariumCellLine number = numberLine(rect, type, QString::number(date.day()));
+    const MvDayCell cell{rect, inner, m_renderer.textAlignment(type), QFontMetricsF(number.font()).height(),
+                         number.isEmpty() ? QRectF() : number.ink()};
+    const MvPlacedTexts placed = MvDayTextPlacement(cell, fitter).place(texts);
     m_painter.save();
-    preparePen(m_renderer.fontHolidays(type), color);
+    preparePen(placed.text.font, color);
     m_painter.setClipRect(rect, Qt::IntersectClip);
-    bool hasTooWideWord = false;
-    const QStringList lines = holidayLines(texts, rect, inner, date, type, &hasTooWideWord);
-    const QRectF rest = drawHolidayLines(inner, lines, type);
+    drawPlaced(placed);
     m_painter.restore();
+    reportCut(date, placed.text, rect);
 
-    const bool hasPicture = drawPicture(date, rest);
-    if (hasTooWideWord)
+    const bool hasPicture = drawPicture(date, placed.rest(inner));
+    if (placed.text.isCut)
         drawQualityWarning(rect);
     return hasPicture;
 }
 
-QStringList MvCalendariumCellPainter::holidayLines(const QStringList &texts, const QRectF &cell, const QRectF &inner,
-                                                   const QDate &date, const MvCalendarCellType &type,
-                                                   bool *hasTooWideWord)
+void MvCalendariumCellPainter::drawPlaced(const MvPlacedTexts &texts)
 {
-    const QFont font = m_painter.font();
-    const int width = static_cast<int>(inner.width());
-    const double numberHeight = QFontMetricsF(m_renderer.font(type)).height();
-    const double lineHeight = QFontMetricsF(font).height();
-    const int maxLines = std::max(1, static_cast<int>((inner.height() - numberHeight) / lineHeight));
-
-    QStringList lines = texts;
-    bool isCut = texts.size() > maxLines;
-    if (isCut || MvCalendariumTextPainter::isAnyTextToWide(width, font, texts))
-        lines = MvCalendariumTextPainter::fitLines(width, maxLines, font, texts, &isCut);
-    *hasTooWideWord = MvCalendariumTextPainter::isAnyTextToWide(width, font, lines);
-    if (isCut || *hasTooWideWord)
-        m_renderer.reportUnfitting(date, texts.join(u", "_s), cell);
-    return lines;
+    const auto draw = texts.text.lines.size() == 1 ? [](QPainter &painter, const QRectF &room, int flags,
+                                                        const QStringList &lines) {
+        if (!lines.isEmpty())
+            MvCalendariumTextPainter::drawText(painter, room, flags, lines.constFirst());
+    } : &MvCalendariumTextPainter::drawTexts;
+    draw(m_painter, texts.room, topTexts, texts.top);
+    draw(m_painter, texts.room, bottomTexts, texts.bottom);
 }
 
-QRectF MvCalendariumCellPainter::drawHolidayLines(const QRectF &inner, const QStringList &lines,
-                                                  const MvCalendarCellType &type)
+void MvCalendariumCellPainter::reportCut(const QDate &date, const MvFittedText &text, const QRectF &rect)
 {
-    const double lineHeight = m_painter.font().pixelSize();
-    if (lines.isEmpty())
-        return inner;
-    if (lines.size() < 2) {
-        MvCalendariumTextPainter::drawText(m_painter, inner, bottomTexts, lines.constFirst());
-        return inner.adjusted(0.0, 0.0, 0.0, -(lineHeight + textGap));
-    }
-    const auto [top, bottom] = m_renderer.splitHolidays(lines, type);
-    MvCalendariumTextPainter::drawTexts(m_painter, inner, topTexts, top);
-    MvCalendariumTextPainter::drawTexts(m_painter, inner, bottomTexts, bottom);
-    return inner.adjusted(0.0, lineHeight * double(top.size()) + textGap, 0.0,
-                          -(lineHeight * double(bottom.size()) + textGap));
+    for (const QString &cut : text.cutTexts)
+        m_renderer.reportUnfitting(date, cut, rect);
 }
 
 void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &date, bool even,
@@ -287,19 +264,17 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
     const MvTextFitter fitter = m_renderer.holidayFitter(config.inscriptionConfig());
     const QRectF widest(QPointF(inner.left(), rect.top() + leastMargin),
                         QPointF(std::max(inner.left(), rect.right() - leastMargin), rect.bottom() - leastMargin));
-    const QStringList joined{texts.join(u", "_s)};
-    MvFittedText fitted = fitter.fit(inner.size(), joined);
+    MvFittedText fitted = fitter.fitRunning(inner.size(), texts, separator);
     if (fitted.isCut || fitted.font != fitter.font()) // paddings give before letters become smaller
-        fitted = fitter.fit(widest.size(), joined);
+        fitted = fitter.fitRunning(widest.size(), texts, separator);
     if (fitted.lines.isEmpty()) { // the row is lower than a line, but perhaps not than what is seen of one
-        const MvCalendariumCellLine line(fitter, widest.size(), joined.constFirst());
-        fitted = {line.font(), line.isEmpty() ? QStringList() : QStringList{line.text()}, line.isCut()};
+        const MvFittedText line =
+            fitter.fitRunning({widest.width(), QFontMetricsF(fitted.font).height()}, texts, separator);
+        const QRectF ink = MvCalendariumTextPainter::inkRect(line.font, widest, Qt::AlignLeft, line.lines);
+        if (line.lines.size() == 1 && ink.height() <= widest.height())
+            fitted = line;
     }
-    if (fitted.isCut) {
-        const int width = static_cast<int>(widest.width());
-        for (const QString &text : textsNotWhole(texts, width, fitted.font, &fitted.lines))
-            m_renderer.reportUnfitting(date, text, rect);
-    }
+    reportCut(date, fitted, rect);
 
     const QFontMetricsF metrics(fitted.font);
     const MvTextFitter unchanged(fitted.font, fitted.font.pixelSize() + 1.0, MvHyphenator());
@@ -337,10 +312,11 @@ bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect
 
 QImage MvCalendariumCellPainter::pictureWithin(const QDate &date, const QSizeF &size) const
 {
-    const QSize pixels = (size * m_renderer.m_devicePixelsPerUnit).toSize();
-    if (pixels.isEmpty())
+    const QSizeF wanted = size * m_renderer.m_devicePixelsPerUnit;
+    if (!(wanted.width() >= 1.0 && wanted.height() >= 1.0))
         return {};
-    return MvCalendarEventRegistry::instance().eventImage(m_renderer.contentFor(date), pixels);
+    const double tooMany = std::max({1.0, wanted.width() / mostPixels, wanted.height() / mostPixels});
+    return MvCalendarEventRegistry::instance().eventImage(m_renderer.contentFor(date), (wanted / tooMany).toSize());
 }
 
 void MvCalendariumCellPainter::drawQualityWarning(const QRectF &rect)

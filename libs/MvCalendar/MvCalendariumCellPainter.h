@@ -10,7 +10,10 @@
 
 #include <optional>
 
+class MvCalendariumCellLine;
 class MvCalendariumRenderer;
+struct MvFittedText;
+struct MvPlacedTexts;
 class QColor;
 class QFont;
 class QPainter;
@@ -42,18 +45,18 @@ public:
     bool drawPicture(const QDate &date, const QRectF &rect);
 
 private:
-    /// A number that would run into its neighbours is left out and reported instead.
+    /// The number of a day where the layout has it, in smaller type where its cell is too small. Empty, if there is no
+    /// room for it even so.
+    MvCalendariumCellLine numberLine(const QRectF &rect, const MvCalendarCellType &type, const QString &number) const;
+    /// What has no room is reported.
     void drawNumber(const QRectF &rect, const MvCalendarCellTypeConfig &config, const QString &number, bool even,
                     const QDate &date);
     /// Notes the texts of a day whose cell is too small for any, in layouts that show them.
     void reportMissingTexts(const QRectF &rect, const QDate &date);
     void drawBorder(const QRectF &rect, const MvCalendarCellType &type);
     void preparePen(const QFont &font, const QColor &color);
-    /// The texts broken into lines that leave the day number its place; what does not fit is reported.
-    QStringList holidayLines(const QStringList &texts, const QRectF &cell, const QRectF &inner, const QDate &date,
-                             const MvCalendarCellType &type, bool *hasTooWideWord);
-    /// Gives what is left of the inner rectangle.
-    QRectF drawHolidayLines(const QRectF &inner, const QStringList &lines, const MvCalendarCellType &type);
+    void drawPlaced(const MvPlacedTexts &texts);
+    void reportCut(const QDate &date, const MvFittedText &text, const QRectF &rect);
     void drawWideTexts(const QRectF &rect, const QRectF &inner, const QStringList &texts,
                        const MvCalendarCellTypeConfig &config, bool even, const QDate &date,
                        std::optional<double> baseline);

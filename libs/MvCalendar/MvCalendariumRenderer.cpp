@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCalendar/MvDayTextPlacement.h"
 #include "MvCalendar/MvHtmlTableSkeleton.h"
 #include "MvCore/MvMath.h"
 #include "MvCore/MvStringHelper.h"
@@ -555,14 +556,7 @@ QStringList MvCalendariumRenderer::describeHolidays(const QDate &date) const
 QPair<QStringList, QStringList> MvCalendariumRenderer::splitHolidays(const QStringList &texts,
                                                                      const MvCalendarCellType &type) const
 {
-    switch (int(textAlignment(type) & Qt::AlignVertical_Mask)) {
-    case Qt::AlignTop:
-        return {{}, texts};
-    case Qt::AlignBottom:
-        return {texts, {}};
-    default:
-        return {texts.mid(0, texts.size() / 2), texts.mid(texts.size() / 2)};
-    }
+    return MvDayTextPlacement::split(texts, textAlignment(type));
 }
 
 // ---- HTML table

@@ -39,6 +39,44 @@ QRectF aligned(const QRectF &rect, int flags, double width, double height)
     return {rect.x() + x, rect.y() + y, width, height};
 }
 
+MvPlacedOutline placedLine(const QFont &font, const QRectF &rect, int flags, const QString &text)
+{
+    const QFontMetricsF metrics(font);
+    const MvTextOutline outline = outlineOf(font, text);
+    const QRectF box = aligned(rect, flags, outline.advance(), metrics.height());
+    return {{box.x(), box.y() + metrics.ascent()}, outline};
+}
+
+/// Each centred on the widest.
+QList<MvPlacedOutline> placedLines(const QFont &font, const QRectF &rect, int flags, const QStringList &lines)
+{
+    const QFontMetricsF metrics(font);
+    QList<MvPlacedOutline> block;
+    double width = 0.0;
+    for (const QString &line : lines) {
+        block.append({{}, outlineOf(font, line)});
+        width = std::max(width, block.constLast().outline.advance());
+    }
+    const QRectF box = aligned(rect, flags, width, metrics.height() * double(lines.size()));
+    const auto place = [&box](MvPlacedOutline &line, double y) {
+        line.baseline = {std::trunc((box.width() - line.outline.advance()) / 2.0) + box.x(), y};
+    };
+    if (flags & Qt::AlignBottom) {
+        double y = std::trunc(rect.top() + rect.height() - metrics.descent());
+        for (auto line = block.rbegin(); line != block.rend(); ++line) {
+            place(*line, y);
+            y = std::trunc(y - metrics.height());
+        }
+    } else {
+        double y = std::trunc(rect.top() + metrics.ascent());
+        for (MvPlacedOutline &line : block) {
+            place(line, y);
+            y = std::trunc(y + metrics.height());
+        }
+    }
+    return block;
+}
+
 } // namespace
 
 int MvCalendariumTextPainter::advance(const QFont &font, const QString &text)
@@ -85,39 +123,25 @@ QRectF MvCalendariumTextPainter::boundingRect(const QFont &font, const QRectF &r
     return aligned(rect, flags, MvLineBreaker::advance(font, text), QFontMetricsF(font).height());
 }
 
+QRectF MvCalendariumTextPainter::inkRect(const QFont &font, const QRectF &rect, int flags, const QStringList &lines)
+{
+    QRectF ink;
+    const QList<MvPlacedOutline> block = lines.size() == 1 ? QList{placedLine(font, rect, flags, lines.constFirst())}
+                                                           : placedLines(font, rect, flags, lines);
+    for (const MvPlacedOutline &line : block) {
+        if (!line.outline.isEmpty())
+            ink |= line.bounds();
+    }
+    return ink;
+}
+
 void MvCalendariumTextPainter::drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text)
 {
-    const QFontMetricsF metrics(painter.font());
-    const MvTextOutline outline = outlineOf(painter.font(), text);
-    const QRectF box = aligned(rect, flags, outline.advance(), metrics.height());
-    MvOutlinePainter::fillOutline(painter, {box.x(), box.y() + metrics.ascent()}, outline, painter.pen().color());
+    const MvPlacedOutline line = placedLine(painter.font(), rect, flags, text);
+    MvOutlinePainter::fillOutline(painter, line.baseline, line.outline, painter.pen().color());
 }
 
 void MvCalendariumTextPainter::drawTexts(QPainter &painter, const QRectF &rect, int flags, const QStringList &lines)
 {
-    const QFontMetricsF metrics(painter.font());
-    QList<MvPlacedOutline> block;
-    double width = 0.0;
-    for (const QString &line : lines) {
-        block.append({{}, outlineOf(painter.font(), line)});
-        width = std::max(width, block.constLast().outline.advance());
-    }
-    const QRectF box = aligned(rect, flags, width, metrics.height() * double(lines.size()));
-    const auto place = [&box](MvPlacedOutline &line, double y) {
-        line.baseline = {std::trunc((box.width() - line.outline.advance()) / 2.0) + box.x(), y};
-    };
-    if (flags & Qt::AlignBottom) {
-        double y = std::trunc(rect.top() + rect.height() - metrics.descent());
-        for (auto line = block.rbegin(); line != block.rend(); ++line) {
-            place(*line, y);
-            y = std::trunc(y - metrics.height());
-        }
-    } else {
-        double y = std::trunc(rect.top() + metrics.ascent());
-        for (MvPlacedOutline &line : block) {
-            place(line, y);
-            y = std::trunc(y + metrics.height());
-        }
-    }
-    MvOutlinePainter::fillOutlines(painter, block, painter.pen().color());
+    MvOutlinePainter::fillOutlines(painter, placedLines(painter.font(), rect, flags, lines), painter.pen().color());
 }

@@ -34,6 +34,9 @@ public:
     /// larger than the rectangle.
     static QRectF boundingRect(const QFont &font, const QRectF &rect, int flags, const QString &text);
 
+    /// Where lines are seen that drawText() (one line) or drawTexts() (several) draw; null when nothing is.
+    static QRectF inkRect(const QFont &font, const QRectF &rect, int flags, const QStringList &lines);
+
     /// Draws one line in the painter's font and pen colour, aligned in the rectangle by the flags.
     static void drawText(QPainter &painter, const QRectF &rect, int flags, const QString &text);
     /// Draws several lines, each centred on the widest one; the flags align the block. With Qt::AlignBottom the last

@@ -15,7 +15,8 @@ namespace {
 
 constexpr QChar ellipsis(u'…');
 
-constexpr qsizetype firstLook = 128; // code units of a text that are measured before the rest is looked at
+constexpr qsizetype firstLook = 128;    // code units of a text that are measured before the rest is looked at
+constexpr qsizetype longestRest = 2000; // of texts that run on: more than a line of the largest sheet has room for
 
 /// The words of a text, taken one by one from its start.
 class Words
@@ -96,39 +97,90 @@ void MvLineBreaker::setWidestWord(int width)
 QStringList MvLineBreaker::lines(const QStringList &texts)
 {
     m_lines.clear();
-    m_rest.clear();
-    m_isRestLast = true;
-    m_hasTooWideWord = false;
-    for (const QString &text : texts) {
-        Words words(text);
+    m_line.clear();
+    m_cut.clear();
+    m_rest = Rest();
+    for (m_index = 0; m_index < texts.size(); ++m_index) {
+        Words words(withSeparator(texts, m_index));
         if (words.isAtEnd())
             continue;
-        if (isFull() && !m_rest.isEmpty()) {
-            m_isRestLast = false;
+        if (isFull() && !m_rest.ends.isEmpty() && (m_separator.isEmpty() || m_rest.text.size() > longestRest)) {
+            m_rest.isAll = false;
             break;
         }
+        m_restOfWord.clear();
         while (!words.isAtEnd() && !isFull())
             addWord(words.next());
-        endLine();
+        const bool isLast = m_index + 1 == texts.size();
+        if (m_separator.isEmpty() || isLast)
+            endLine();
         if (isFull())
-            m_rest = joined(m_rest, words.rest());
+            addToRest(joined(m_restOfWord, words.rest()), isLast ? 0 : m_separator.trimmed().size());
     }
     return m_lines;
+}
+
+QString MvLineBreaker::withSeparator(const QStringList &texts, qsizetype index) const
+{
+    return index + 1 == texts.size() ? texts.at(index) : texts.at(index) + m_separator;
+}
+
+void MvLineBreaker::addToRest(const QString &part, qsizetype separatorLength)
+{
+    QString visible = MvHyphenator::withoutSoftHyphens(part);
+    while (visible.endsWith(u' '))
+        visible.chop(1);
+    if (visible.isEmpty()) // the text stands whole in its lines
+        return;
+    m_rest.text = joined(m_rest.text, visible);
+    m_rest.ends.append({m_index, m_rest.text.size() - separatorLength});
 }
 
 QStringList MvLineBreaker::cutLines(const QStringList &texts)
 {
     const qsizetype most = m_mostLines;
-    if (most <= 0)
-        return {};
-    m_mostLines = most - 1;
+    m_mostLines = std::max<qsizetype>(0, most - 1);
     QStringList cut = lines(texts);
     m_mostLines = most;
-    if (!m_rest.isEmpty())
-        cut.append(elided(m_maxWidth, m_font, m_isRestLast ? m_rest : m_rest + ellipsis));
+    const QString last = most > 0 ? lastLine() : QString();
+    const qsizetype shown = last.size() - (last.endsWith(ellipsis) ? 1 : 0);
+    for (const Rest::End &text : std::as_const(m_rest.ends)) {
+        if (text.end > shown)
+            noteCut(text.index);
+    }
+    for (qsizetype index = m_rest.isAll ? texts.size() : m_index; index < texts.size(); ++index)
+        noteCut(index);
     for (QString &line : cut)
-        line = elided(m_widestWord, m_font, MvHyphenator::withoutSoftHyphens(line));
+        line = elided(m_widestWord, m_font, line);
+    if (!last.isEmpty())
+        cut.append(last);
+    cut.removeIf([this](const QString &line) { return isTooWide(m_widestWord, m_font, line); });
     return cut;
+}
+
+/// What fits of the rest. A blank before the ellipsis says that whole texts are left out.
+QString MvLineBreaker::lastLine()
+{
+    if (m_rest.text.isEmpty())
+        return {};
+    if (m_rest.isAll && !isTooWide(m_maxWidth, m_font, m_rest.text))
+        return m_rest.text;
+    const QString cut = elided(m_maxWidth, m_font, m_rest.text + ellipsis);
+    const qsizetype end = cut.size() - 1;
+    const bool isBetweenTexts =
+        std::any_of(m_rest.ends.cbegin(), m_rest.ends.cend(), [end](const Rest::End &text) { return text.end == end; });
+    if (!isBetweenTexts)
+        return cut;
+    const QString parted = cut.chopped(1) + u' ' + ellipsis;
+    if (!isTooWide(m_maxWidth, m_font, parted))
+        return parted;
+    return end > 0 ? elided(m_maxWidth, m_font, m_rest.text.first(end - 1) + ellipsis) : cut;
+}
+
+void MvLineBreaker::noteCut(qsizetype index)
+{
+    if (!m_cut.contains(index))
+        m_cut.append(index);
 }
 
 void MvLineBreaker::endLine()
@@ -151,14 +203,15 @@ void MvLineBreaker::addWord(QString word)
         if (mayDivide && !standsAlone && divide(&word))
             continue;
         if (m_line.isEmpty()) { // stands alone, whether it has room or not
-            m_hasTooWideWord = m_hasTooWideWord || !standsAlone;
+            if (!standsAlone)
+                noteCut(m_index);
             m_line = word;
             endLine();
             return;
         }
         endLine();
     }
-    m_rest = word;
+    m_restOfWord = word;
 }
 
 /// Ends the line with as much of the word as it has room for, leaving the rest in the word.

@@ -7,8 +7,8 @@
 
 #include <limits>
 
-/// Breaks texts into lines, filled greedily; every text starts on a new line. Blanks part words, which line breaks and
-/// controls are here. Takes time by what it gives, however long the texts are.
+/// Breaks texts into lines, filled greedily. Blanks part words, which line breaks and controls are here. Takes time by
+/// what it gives, however long the texts are.
 class MvLineBreaker
 {
 public:
@@ -27,14 +27,18 @@ public:
     void setWidestWord(int width);
     /// What comes after so many lines is not looked at.
     void setMostLines(qsizetype count) { m_mostLines = count; }
+    /// What stands between two texts that run on. Without one, as by default, every text starts on a new line.
+    void setSeparator(const QString &separator) { m_separator = separator; }
 
     QStringList lines(const QStringList &texts);
     /// As many lines as there may be, the last one filled with what fits of the rest and ended by an ellipsis; what is
-    /// wider than it may be ends in one, too. For texts that need more lines.
+    /// wider than it may be ends in one, too. For texts that need more room than there is.
     QStringList cutLines(const QStringList &texts);
 
     /// Of the last texts: a word that could not be divided is wider than it may be.
-    bool hasTooWideWord() const { return m_hasTooWideWord; }
+    bool hasTooWideWord() const { return !m_cut.isEmpty(); }
+    /// Those of the texts that do not stand whole in the last cutLines(), by their index.
+    QList<qsizetype> cutTexts() const { return m_cut; }
 
     /// The advance of a text in pixels of its font. Soft hyphens take none.
     static double advance(const QFont &font, const QString &text);
@@ -45,10 +49,26 @@ public:
     static QString elided(int maxWidth, const QFont &font, const QString &text);
 
 private:
+    struct Rest
+    {
+        QString text; // what stands after the last line
+        struct End
+        {
+            qsizetype index;
+            qsizetype end; // of the text of this index
+        };
+        QList<End> ends;
+        bool isAll = true; // otherwise there is more
+    };
+
     void addWord(QString word);
     bool divide(QString *word);
     void endLine();
     bool isFull() const { return m_lines.size() >= m_mostLines; }
+    QString withSeparator(const QStringList &texts, qsizetype index) const;
+    void addToRest(const QString &part, qsizetype textLength);
+    QString lastLine();
+    void noteCut(qsizetype index);
 
     int m_maxWidth;
     QFont m_font;
@@ -56,9 +76,12 @@ private:
     Division m_division = NoWords;
     MvHyphenator m_hyphenator;
     qsizetype m_mostLines = std::numeric_limits<qsizetype>::max();
+    QString m_separator;
+
     QStringList m_lines;
     QString m_line;
-    QString m_rest; // of the text at which the lines were full, and whether others follow
-    bool m_isRestLast = true;
-    bool m_hasTooWideWord = false;
+    QString m_restOfWord;  // that had no line
+    qsizetype m_index = 0; // of the text that is being broken
+    Rest m_rest;
+    QList<qsizetype> m_cut;
 };

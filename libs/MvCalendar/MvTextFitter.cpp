@@ -36,8 +36,7 @@ MvTextFitter::MvTextFitter(const QFont &font, double floor, const MvHyphenator &
     , m_hyphenator(hyphenator)
 {}
 
-/// From the largest to the smallest.
-QList<QFont> MvTextFitter::fonts() const
+QList<QFont> MvTextFitter::sizes() const
 {
     QList<QFont> fonts{m_font};
     const int smallest = std::max(1, static_cast<int>(std::ceil(m_floor)));
@@ -50,42 +49,61 @@ QList<QFont> MvTextFitter::fonts() const
 
 MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, double widestWord) const
 {
-    const int width = static_cast<int>(room.width());
-    const int widest = std::max(width, static_cast<int>(widestWord));
-    const QList<QFont> sizes = fonts();
-    for (const QFont &font : sizes) {
+    return fit(room, texts, QString(), std::max(static_cast<int>(room.width()), static_cast<int>(widestWord)));
+}
+
+MvFittedText MvTextFitter::fitRunning(const QSizeF &room, const QStringList &texts, const QString &separator) const
+{
+    return fit(room, texts, separator, static_cast<int>(room.width()));
+}
+
+MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, const QString &separator,
+                               int widestWord) const
+{
+    const QList<QFont> fonts = sizes();
+    for (const QFont &font : fonts) {
         const int mostLines = lineCount(room.height(), font);
-        MvLineBreaker breaker(width, font);
-        breaker.setWidestWord(widest);
+        MvLineBreaker breaker(static_cast<int>(room.width()), font);
+        breaker.setWidestWord(widestWord);
+        breaker.setSeparator(separator);
         breaker.setMostLines(mostLines + 1);
         for (const auto division : {MvLineBreaker::NoWords, MvLineBreaker::LongWords, MvLineBreaker::AllWords}) {
             breaker.setDivision(division, m_hyphenator);
             const QStringList lines = breaker.lines(texts);
             if (lines.size() <= mostLines && !breaker.hasTooWideWord())
-                return {font, lines, false};
+                return {font, lines, false, {}};
         }
     }
-    return cut(room, texts, widest);
+    return cut(room, texts, separator, widestWord);
 }
 
 /// As much as there is room for in the smallest type.
-MvFittedText MvTextFitter::cut(const QSizeF &room, const QStringList &texts, int widestWord) const
+MvFittedText MvTextFitter::cut(const QSizeF &room, const QStringList &texts, const QString &separator,
+                               int widestWord) const
 {
-    const QFont font = fonts().constLast();
+    const QFont font = sizes().constLast();
     MvLineBreaker breaker(static_cast<int>(room.width()), font);
     breaker.setWidestWord(widestWord);
+    breaker.setSeparator(separator);
     breaker.setMostLines(lineCount(room.height(), font));
     breaker.setDivision(MvLineBreaker::AllWords, m_hyphenator);
-    return {font, breaker.cutLines(texts), true};
+    MvFittedText fitted{font, breaker.cutLines(texts), true, {}};
+    const QList<qsizetype> cut = breaker.cutTexts();
+    for (const qsizetype index : cut)
+        fitted.cutTexts.append(texts.at(index));
+    return fitted;
 }
 
 MvFittedText MvTextFitter::fitLine(double width, const QString &text) const
 {
     const int most = static_cast<int>(width);
-    const QList<QFont> sizes = fonts();
-    for (const QFont &font : sizes) {
+    const QList<QFont> fonts = sizes();
+    for (const QFont &font : fonts) {
         if (!MvLineBreaker::isTooWide(most, font, text))
-            return {font, {text}, false};
+            return {font, {text}, false, {}};
     }
-    return {sizes.constLast(), {MvLineBreaker::elided(most, sizes.constLast(), text)}, true};
+    const QString line = MvLineBreaker::elided(most, fonts.constLast(), text);
+    if (MvLineBreaker::isTooWide(most, fonts.constLast(), line)) // not even an ellipsis
+        return {fonts.constLast(), {}, true, {text}};
+    return {fonts.constLast(), {line}, true, {text}};
 }

@@ -4,6 +4,7 @@
 #include "MvModelBase/MvHyphenator.h"
 
 #include <QFont>
+#include <QList>
 #include <QSizeF>
 #include <QStringList>
 
@@ -12,7 +13,8 @@ struct MvFittedText
 {
     QFont font;
     QStringList lines;
-    bool isCut = false; ///< something had no room: a line ends in an ellipsis, or there are none
+    bool isCut = false;   ///< something had no room: a line ends in an ellipsis, or there are none
+    QStringList cutTexts; ///< those of the texts that do not stand whole in the lines
 
     bool operator==(const MvFittedText &) const = default;
 };
@@ -30,18 +32,23 @@ public:
 
     const QFont &font() const { return m_font; }
     double floor() const { return m_floor; }
+    /// The font in all its sizes, from the largest to the smallest.
+    QList<QFont> sizes() const;
 
     /// Every text starts on a new line. The widest line is as wide as the room, and as many lines are set as it is high
-    /// by line height. A word that stands alone in its line may be as wide as `widestWord`, where that is more than the
-    /// room: paddings give before a word is divided or made smaller.
+    /// by line height (a line that lacks a hundredth of it has room). A word that stands alone in its line may be as
+    /// wide as `widestWord`, where that is more than the room: paddings give before a word is divided or made smaller.
     MvFittedText fit(const QSizeF &room, const QStringList &texts, double widestWord = 0.0) const;
+
+    /// The texts one after the other, parted by the separator.
+    MvFittedText fitRunning(const QSizeF &room, const QStringList &texts, const QString &separator) const;
 
     /// On one line, never divided.
     MvFittedText fitLine(double width, const QString &text) const;
 
 private:
-    QList<QFont> fonts() const;
-    MvFittedText cut(const QSizeF &room, const QStringList &texts, int widestWord) const;
+    MvFittedText fit(const QSizeF &room, const QStringList &texts, const QString &separator, int widestWord) const;
+    MvFittedText cut(const QSizeF &room, const QStringList &texts, const QString &separator, int widestWord) const;
 
     QFont m_font;
     double m_floor;

@@ -633,7 +633,7 @@ void tst_MvCalendariumRenderer::photoInAWideCell()
 
 void tst_MvCalendariumRenderer::warnsOfTooWideWords()
 {
-    MvCalendarEventRegistry::instance().setEvents({entry(u"Donaudampfschifffahrt"_s, QDate(1990, 2, 10))});
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Xxxxxxxxxxxxxxxxxxxxxxxx"_s, QDate(1990, 2, 10))});
     MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1), FEATURE_ENTRIES);
     page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
     const QRectF rect(0, 0, 1400, 1600);

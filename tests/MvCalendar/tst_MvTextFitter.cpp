@@ -13,6 +13,8 @@ class tst_MvTextFitter : public MvTest
 private Q_SLOTS:
     void fits_data();
     void fits();
+    void running_data();
+    void running();
     void oneLine_data();
     void oneLine();
 };
@@ -48,7 +50,7 @@ void tst_MvTextFitter::fits_data()
     row("smaller type has more lines", {100, 50}, {u"eins"_s, u"zwei"_s, u"drei"_s}, 16,
         {u"eins"_s, u"zwei"_s, u"drei"_s});
     row("an ellipsis at last", {60, 20}, {u"Pfingstmontag"_s}, 12, {u"Pfingstmo…"_s}, true);
-    row("others left out", {60, 20}, {u"Pfingsten,"_s, u"Oma"_s}, 12, {u"Pfingsten…"_s}, true);
+    row("others left out", {60, 20}, {u"Pfingsten"_s, u"Oma"_s}, 12, {u"Pfingste…"_s}, true);
     row("a word without a place to divide", {60, 40}, {u"xxxxxxxxxxxxxxxx am Tag"_s}, 12,
         {u"xxxxxxxxx…"_s, u"am Tag"_s}, true);
     row("no room for a line", {100, 10}, {u"Tag"_s}, 12, {}, true);
@@ -69,6 +71,34 @@ void tst_MvTextFitter::fits()
     QTEST(fitted.lines, "lines");
     QTEST(fitted.isCut, "isCut");
     QCOMPARE(fitted.font.pixelSize(), pixelSize);
+}
+
+void tst_MvTextFitter::running_data()
+{
+    QTest::addColumn<QSizeF>("room");
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<QStringList>("cutTexts");
+    const QString oma = u"Oma"_s;
+    const QString eva = u"Eva Maria"_s;
+    const QString max = u"Max"_s;
+    // "Oma, Eva Maria, Max" has 19 letters of 6 in the smallest type
+    QTest::newRow("one line") << QSizeF(190, 20) << QStringList{u"Oma, Eva Maria, Max"_s} << QStringList{};
+    QTest::newRow("parted anywhere") << QSizeF(100, 40) << QStringList{u"Oma, Eva"_s, u"Maria, Max"_s} << QStringList{};
+    QTest::newRow("the last one cut") << QSizeF(110, 12) << QStringList{u"Oma, Eva Maria, M…"_s} << QStringList{max};
+    QTest::newRow("two whole, one gone") << QSizeF(96, 12) << QStringList{u"Oma, Eva Maria …"_s} << QStringList{max};
+    QTest::newRow("one whole") << QSizeF(80, 12) << QStringList{u"Oma, Eva Mar…"_s} << QStringList{eva, max};
+    QTest::newRow("none") << QSizeF(80, 11) << QStringList{} << QStringList{oma, eva, max};
+    QTest::newRow("not even an ellipsis") << QSizeF(5, 12) << QStringList{} << QStringList{oma, eva, max};
+}
+
+void tst_MvTextFitter::running()
+{
+    QFETCH(QSizeF, room);
+    QFETCH(QStringList, cutTexts);
+    const MvFittedText fitted = fitter(12.0).fitRunning(room, {u"Oma"_s, u"Eva Maria"_s, u"Max"_s}, u", "_s);
+    QTEST(fitted.lines, "lines");
+    QCOMPARE(fitted.cutTexts, cutTexts);
+    QCOMPARE(fitted.isCut, !cutTexts.isEmpty());
 }
 
 void tst_MvTextFitter::oneLine_data()
