@@ -43,7 +43,7 @@ private Q_SLOTS:
     void everyDayHasItsColumn();
     void printsTitleHeadsAndNumbers();
     void headsFollowTheirDays();
-    void narrowColumnsReportWhatTheyDrop();
+    void narrowColumnsKeepTheirNumbers();
     void furtherRowsWhereNarrow();
     void titleHasNoBorder();
     void describesItself();
@@ -153,7 +153,7 @@ void tst_MvCalendariumRendererOneRow::headsFollowTheirDays()
     QVERIFY(!areaOf(0, Qt::cyan).contains(QPointF(1050, 10)));
 }
 
-void tst_MvCalendariumRendererOneRow::narrowColumnsReportWhatTheyDrop()
+void tst_MvCalendariumRendererOneRow::narrowColumnsKeepTheirNumbers()
 {
     // numbers of two digits are 50 wide, heads and the title 25 a pair
     MvPageFixture page(strip(title + u", "_s + heads), QDate(2027, 2, 1), 0);
@@ -161,11 +161,8 @@ void tst_MvCalendariumRendererOneRow::narrowColumnsReportWhatTheyDrop()
     QVERIFY(page.renderer().unfittingTexts().isEmpty());
 
     const QStringList tight = textsOf(page.render({0, 0, 28 * 49, 300}));
-    QVERIFY(tight.contains(u"9"_s));
-    QVERIFY(!tight.contains(u"10"_s));
-    const QList<MvUnfittingText> missing = page.renderer().unfittingTexts();
-    QCOMPARE(missing.size(), 19);
-    QCOMPARE(missing.constFirst(), (MvUnfittingText{QDate(2027, 2, 10), u"10"_s, page.days.at(9).rect}));
+    QVERIFY(tight.contains(u"10"_s)); // in smaller type
+    QVERIFY(page.renderer().unfittingTexts().isEmpty());
 
     const QStringList lowTitle = textsOf(page.render({0, 0, 100, 300}));
     QCOMPARE(lowTitle.constFirst(), u" Februa…"_s); // 8 characters of 11.5
