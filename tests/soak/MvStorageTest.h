@@ -2,6 +2,7 @@
 
 #include "MvStorageOperation.h"
 
+#include <QFileInfo>
 #include <QList>
 #include <QObject>
 #include <QTemporaryDir>
@@ -24,6 +25,14 @@ public:
         int stride = 1;    // each so-manieth call alone fails in the short form
         int diskSizes = 4; // of full disks in the short form
     };
+
+    /// The name that what is stored has in a state, and back; -1 for anything else.
+    static QString nameOf(int state);
+    static int stateOf(const QString &name);
+    /// The state of a project by its title; 0 when there is no file, -1 when it cannot be read as it was written.
+    static int stateOfProject(const QFileInfo &file);
+    /// The state of a file that has the title somewhere and ends with the given bytes; 0 and -1 likewise.
+    static int stateByTitle(const QString &path, const QByteArray &end);
 
     /// Runs the test, which makes no application of its own.
     static int run(int argc, char **argv, const QList<MvStorageOperation> &operations, const Extent &extent);

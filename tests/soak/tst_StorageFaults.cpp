@@ -25,15 +25,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString nameOf(int state)
-{
-    return u"Stand %1"_s.arg(state);
-}
-
-int stateOf(const QString &name)
-{
-    return name.startsWith(u"Stand "_s) ? name.mid(6).toInt() : -1;
-}
+const auto nameOf = MvStorageTest::nameOf;
+const auto stateOf = MvStorageTest::stateOf;
 
 QByteArray contentOf(const QString &path)
 {
@@ -204,10 +197,7 @@ QString storeProject(const QDir &disk, int state)
 
 int stateOfProject(const QDir &disk)
 {
-    if (!QFileInfo::exists(projectFile(disk)))
-        return 0;
-    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(projectFile(disk)));
-    return content.isRead() && content.notes.isEmpty() ? stateOf(content.document.title()) : -1;
+    return MvStorageTest::stateOfProject(QFileInfo(projectFile(disk)));
 }
 
 /// The program that stores goes without saving the project, as if it had been killed.
@@ -233,8 +223,7 @@ int stateOfAutosave(const QDir &)
     const QFileInfoList files = QDir(MvProjectAutosave::folder()).entryInfoList({u"*.mvcalendar"_s}, QDir::Files);
     int state = 0;
     for (const QFileInfo &file : files) {
-        const MvProjectFile::Content content = MvProjectFile::read(file);
-        const int found = content.isRead() ? stateOf(content.document.title()) : -1;
+        const int found = MvStorageTest::stateOfProject(file);
         state = state < 0 || found < 0 ? -1 : std::max(state, found);
     }
     return state;
@@ -293,18 +282,9 @@ std::function<QString(const QDir &, int)> exportTo(const QString &name)
     };
 }
 
-/// For files that have the title somewhere and end with the given bytes.
 std::function<int(const QDir &)> stateByTitle(const QString &name, const QByteArray &end)
 {
-    return [name, end](const QDir &disk) {
-        const QByteArray content = contentOf(disk.filePath(name));
-        const qsizetype title = content.indexOf("Stand ");
-        if (content.isEmpty())
-            return 0;
-        if (title < 0 || !content.trimmed().endsWith(end))
-            return -1;
-        return content.mid(title + 6, content.indexOf('<', title) - title - 6).toInt();
-    };
+    return [name, end](const QDir &disk) { return MvStorageTest::stateByTitle(disk.filePath(name), end); };
 }
 
 int stateOfPng(const QDir &disk)

@@ -21,15 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString nameOf(int state)
-{
-    return u"Stand %1"_s.arg(state);
-}
-
-int stateOf(const QString &name)
-{
-    return name.startsWith(u"Stand "_s) ? name.mid(6).toInt() : -1;
-}
+const auto nameOf = MvStorageTest::nameOf;
+const auto stateOf = MvStorageTest::stateOf;
 
 MvStudioApplication &studio()
 {
@@ -119,14 +112,6 @@ QString storeProject(const QDir &disk, int state)
     return toldAfter([] { studio().window()->projectFlow()->save(); }, [project] { return !project->isModified(); });
 }
 
-int stateOfProject(const QFileInfo &file)
-{
-    if (!file.exists())
-        return 0;
-    const MvProjectFile::Content content = MvProjectFile::read(file);
-    return content.isRead() ? stateOf(content.document.title()) : -1;
-}
-
 QString autosave(const QDir &, int state)
 {
     studio().autosave()->setDelay(0);
@@ -147,7 +132,7 @@ void clearAutosaves(const QDir &, int)
 int stateOfAutosave(const QDir &)
 {
     const QFileInfoList files = QDir(MvProjectAutosave::folder()).entryInfoList({u"*.mvcalendar"_s}, QDir::Files);
-    return files.isEmpty() ? 0 : stateOfProject(files.first());
+    return files.isEmpty() ? 0 : MvStorageTest::stateOfProject(files.first());
 }
 
 template <class Widget>
@@ -178,27 +163,18 @@ QString exportPdf(const QDir &disk, int state)
     return told;
 }
 
-int stateOfPdf(const QDir &disk)
-{
-    QFile file(disk.filePath(u"Kalender.pdf"_s));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    const QByteArray content = file.readAll();
-    const qsizetype title = content.indexOf("Stand ");
-    if (title < 0 || !content.trimmed().endsWith("%%EOF"))
-        return -1;
-    return content.mid(title + 6, content.indexOf('<', title) - title - 6).toInt();
-}
-
 QList<MvStorageOperation> operations()
 {
     using Application = MvStorageOperation::Application;
     return {
         {"entry", Application::Widgets, storeEntry, stateOfEntry},
         {"project", Application::Widgets, storeProject,
-         [](const QDir &disk) { return stateOfProject(QFileInfo(disk.filePath(u"Kalender.mvcalendar"_s))); }},
+         [](const QDir &disk) {
+             return MvStorageTest::stateOfProject(QFileInfo(disk.filePath(u"Kalender.mvcalendar"_s)));
+         }},
         {"autosave", Application::Widgets, autosave, stateOfAutosave, clearAutosaves},
-        {"PDF", Application::Widgets, exportPdf, stateOfPdf},
+        {"PDF", Application::Widgets, exportPdf,
+         [](const QDir &disk) { return MvStorageTest::stateByTitle(disk.filePath(u"Kalender.pdf"_s), "%%EOF"); }},
     };
 }
 
