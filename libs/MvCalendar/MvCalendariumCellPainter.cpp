@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvDayTextPlacement.h"
 #include "MvCalendar/MvTextFitter.h"
+#include "MvFoto/MvFotoResolution.h"
 #include "MvModelBase/MvQualityTypeManager.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
@@ -246,7 +247,7 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     const QImage picture = pictureWithin(date, photoRoom);
     if (!picture.isNull()) {
         const QSize size = picture.size().scaled(photoRoom.toSize(), Qt::KeepAspectRatio);
-        m_painter.drawImage(QRectF(inner.topLeft(), size), picture);
+        drawPhoto(date, QRectF(inner.topLeft(), size), picture);
         inner.setLeft(inner.left() + size.width() + textGap);
     }
     if (texts.isEmpty())
@@ -306,8 +307,17 @@ bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect
     double x = std::round(rect.x());
     if (rect.width() > size.width())
         x = std::trunc(x + (rect.width() - size.width()) * 0.5);
-    m_painter.drawImage(QRectF(QPointF(x, std::round(rect.y())), size), picture);
+    drawPhoto(date, QRectF(QPointF(x, std::round(rect.y())), size), picture);
     return true;
+}
+
+void MvCalendariumCellPainter::drawPhoto(const QDate &date, const QRectF &rect, const QImage &picture)
+{
+    m_painter.drawImage(rect, picture);
+    if (!MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::ShowQualityWarnings))
+        return; // the size of its file need not be known
+    const QSize full = MvCalendarEventRegistry::instance().imageFile(m_renderer.contentFor(date)).size;
+    MvFotoResolution::paintWarning(m_painter, rect, MvFotoResolution::pixelsPerInch(full, rect.size()));
 }
 
 QImage MvCalendariumCellPainter::pictureWithin(const QDate &date, const QSizeF &size) const

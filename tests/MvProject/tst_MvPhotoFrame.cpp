@@ -295,18 +295,32 @@ void tst_MvPhotoFrame::resolution()
 
 void tst_MvPhotoFrame::resolutionInCells()
 {
+    const QString small = m_folder.filePath(u"klein.png"_s);
+    QVERIFY(writePhoto(small, {90, 60}));
+    const auto entry = [](const QDate &date, const QString &photo) {
+        return MvCalendarEvent(u"Oma"_s, date.startOfDay(), true, MvFoto(QFileInfo(photo)), QUuid::createUuid(), {});
+    };
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
-    registry.setEvents(
-        {{u"Oma 🎂"_s, QDate(1960, 1, 20).startOfDay(), true, MvFoto(QFileInfo(m_photo)), QUuid::createUuid(), {}}});
+    registry.setEvents({entry({1960, 1, 20}, m_photo), entry({1962, 1, 6}, small)});
     const auto end = qScopeGuard([&registry] { registry.setEvents({}); });
     const MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
     const QList<MvPrintedPhoto> photos =
         MvPrintedPhoto::ofPage(calendar.pages()[0], calendar.format(), calendar.range());
-    QCOMPARE(photos.size(), 1);
-    QCOMPARE(photos[0].date, QDate(2027, 1, 20));
-    QVERIFY(std::abs(photos[0].rect.width() / photos[0].rect.height() - 1.5) < 0.05);
-    QVERIFY(std::abs(photos[0].pixelsPerInch - 300 / photos[0].rect.width() * 254.0) < 3.0);
+    QCOMPARE(photos.size(), 2);
+    for (const auto &[photo, day, width] : {std::tuple(photos[0], 6, 90), std::tuple(photos[1], 20, 300)}) {
+        QCOMPARE(photo.date, QDate(2027, 1, day));
+        QVERIFY(std::abs(photo.rect.width() / photo.rect.height() - 1.5) < 0.05);
+        QVERIFY(std::abs(photo.pixelsPerInch - width / photo.rect.width() * 254.0) < 3.0);
+        QCOMPARE(photo.grade() == MvFotoResolution::Grade::Poor, day == 6);
+    }
     QCOMPARE(MvPrintedPhoto::ofPage(calendar.pages()[1], calendar.format(), calendar.range()).size(), 0);
+    for (const auto &[rule, images] : {std::pair(unsigned(MvRenderingRule::InteractiveScreen), 2),
+                                       std::pair(unsigned(MvRenderingRule::ShowQualityWarnings), 3)})
+        QCOMPARE(calendar.pages()[0]
+                     .record(calendar.format(), calendar.range(), {}, MvRenderingRule(rule))
+                     .items(Item::Image)
+                     .size(),
+                 images);
 }
 
 QList<Item> tst_MvPhotoFrame::itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule)
