@@ -1,5 +1,6 @@
 #include "MvCli.h"
 
+#include "MvColorsCommand.h"
 #include "MvHolidaysCommand.h"
 #include "MvNearMiss.h"
 #include "MvRegionsCommand.h"
@@ -35,7 +36,7 @@ MvCli::MvCli()
 {
     m_commands.push_back(std::make_unique<MvRenderCommand>());
     m_commands.push_back(std::make_unique<MvSchemaListCommand>(MvSchemaListCommand::Kind::Layouts));
-    m_commands.push_back(std::make_unique<MvSchemaListCommand>(MvSchemaListCommand::Kind::Colors));
+    m_commands.push_back(std::make_unique<MvColorsCommand>());
     m_commands.push_back(std::make_unique<MvRegionsCommand>());
     m_commands.push_back(std::make_unique<MvHolidaysCommand>());
 }

@@ -23,25 +23,15 @@ namespace {
 constexpr int mostMonths = 120;
 constexpr double widestBleed = 20.0; // millimetres
 
-/// The id of the layout or colour schema that an option names, the first one when it was not given.
+/// The id of the layout or colour schema that an option names, the usual one when it was not given.
 QString schemaId(MvCliValues &values, const QString &option, MvSchemaListCommand::Kind kind)
 {
-    const QList<MvSchemaListCommand::Schema> schemata = MvSchemaListCommand::schemata(kind);
     if (!values.has(option))
-        return schemata.isEmpty() ? QString() : schemata.first().id;
+        return MvSchemaListCommand::defaultId(kind);
     const QString id = MvSchemaListCommand::find(kind, values.text(option));
-    if (!id.isEmpty())
-        return id;
-    QStringList ids;
-    QStringList names;
-    for (const MvSchemaListCommand::Schema &schema : schemata) {
-        ids.append(schema.id);
-        names.append(schema.name);
-    }
-    values.setError(
-        MvRenderCommand::tr("--%1 „%2“: erlaubt sind %3").arg(option, values.text(option), ids.join(u", "_s)) +
-        MvNearMiss::describe(values.text(option), ids + names));
-    return {};
+    if (id.isEmpty())
+        values.setError(MvSchemaListCommand::unknownError(kind, option, values.text(option)));
+    return id;
 }
 
 QString titleOf(const MvDateRange &range)

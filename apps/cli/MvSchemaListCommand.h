@@ -2,9 +2,10 @@
 
 #include "MvCliCommand.h"
 
+#include "MvCalendar/MvCalendariumColorSchemaID.h"
 #include "MvXML/MvLocalizedText.h"
 
-/// "layouts" and "colors": what can be given to "render".
+/// "layouts", and the list of "colors": what can be given to "render".
 class MvSchemaListCommand : public MvCliCommand
 {
     Q_DECLARE_TR_FUNCTIONS(MvSchemaListCommand)
@@ -15,7 +16,7 @@ public:
         Colors,
     };
 
-    /// A schema's id and its German name.
+    /// A schema's id and name.
     struct Schema
     {
         QString id;
@@ -30,8 +31,13 @@ public:
 
     /// What there is, in the order in which it is offered.
     static QList<Schema> schemata(Kind kind);
-    /// The id of the schema with that id or name, whatever the case; empty when there is none.
+    /// The id of the schema with that id or name, whatever the case; empty when there is none. Of equal ones a shipped
+    /// schema is found. Colours are found under each of their ids, offered or not.
     static QString find(Kind kind, const QString &idOrName);
+    /// What is taken when nobody names one.
+    static QString defaultId(Kind kind);
+    /// What to say of an option's value that find() does not find.
+    static QString unknownError(Kind kind, const QString &option, const QString &idOrName);
 
     QString name() const override;
     QString summary() const override;
@@ -39,6 +45,12 @@ public:
     QStringList examples() const override;
     Result run(const MvCliArguments &arguments, const Streams &streams) const override;
 
+protected:
+    static void print(const QList<Schema> &schemata, bool asJson, QTextStream &out);
+    static Schema describe(const MvCalendariumColorSchemaID &id);
+
 private:
+    static QList<Schema> findable(Kind kind);
+
     Kind m_kind;
 };

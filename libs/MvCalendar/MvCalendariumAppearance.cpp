@@ -5,6 +5,7 @@
 
 #include <QDomElement>
 #include <QImage>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -13,10 +14,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString headerSeparator = u"$$"_s;
+const QString headerDollar = u"$\u2060"_s; // one that is no part of a separator
 
 // what calendariumOptions() answers with
 constexpr int holidaysOption = 1;
 constexpr int holidayColorsOption = 2;
+
+/// A header in the form in which it can be joined to others.
+QString joinable(QString header)
+{
+    static const QRegularExpression atRisk(u"\\$(?=[$\u2060]|\\z)"_s);
+    return header.replace(atRisk, headerDollar);
+}
 
 std::function<QList<MvCalendarCellType>(const MvCalendariumAppearance &)> &usedCellTypes()
 {
@@ -291,12 +300,17 @@ void MvCalendariumAppearance::setColumnHeaders(const QString &headers)
 
 void MvCalendariumAppearance::setColumnHeaders(const QList<QString> &headers)
 {
-    setColumnHeaders(headers.join(headerSeparator));
+    QStringList parts;
+    for (const QString &header : headers)
+        parts.append(joinable(header));
+    setColumnHeaders(parts.join(headerSeparator));
 }
 
 QStringList MvCalendariumAppearance::columnHeadersList() const
 {
-    return d->columnHeaders.split(headerSeparator, Qt::SkipEmptyParts);
+    QStringList headers = d->columnHeaders.split(headerSeparator, Qt::SkipEmptyParts);
+    headers.replaceInStrings(headerDollar, u"$"_s);
+    return headers;
 }
 
 int MvCalendariumAppearance::countColumns() const

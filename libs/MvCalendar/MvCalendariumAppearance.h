@@ -106,7 +106,8 @@ public:
     MvSpaceMagnitude optimizedSize() const;
 
     // column headers, month offset, calendar weeks
-    /// The headers joined by "$$".
+    /// The headers joined by "$$". A "$" at the end of a header or before another one is followed by an invisible word
+    /// joiner, so that it parts nothing.
     QString columnHeaders() const;
     void setColumnHeaders(const QString &headers);
     void setColumnHeaders(const QList<QString> &headers);

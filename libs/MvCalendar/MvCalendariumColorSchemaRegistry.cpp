@@ -1,5 +1,6 @@
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 
+#include "MvCalendar/MvSchemaFileCheck.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvGeneralSettings.h"
 #include "MvXML/MvXMLBuilder.h"
@@ -7,12 +8,15 @@
 
 #include <QDebug>
 
+#include <algorithm>
+
 template class MvSingleton<MvCalendariumColorSchemaRegistry>;
 
 using namespace Qt::StringLiterals;
 
 namespace {
 const QString areaTag = u"calendararea"_s;
+const QString defaultId = u"PAPER_WHITE"_s;
 
 MvUserSchemaFile::Area areaOf(const MvCalendariumColorSchema &schema, const MvCalendariumColorSchemaID &id,
                               const MvLocalizedText &name)
@@ -50,7 +54,7 @@ std::unique_ptr<MvCalendariumColorSchemaRegistry> MvCalendariumColorSchemaRegist
 void MvCalendariumColorSchemaRegistry::setupInstance()
 {
     MvCalendariumColorSchema::setIdLookup([this](const MvCalendariumColorSchema &schema) { return id(schema); });
-    read(m_userFile.read(), SCHEMA_VISIBILITY_OFFERED);
+    readFrom(m_userFile.read(), SCHEMA_VISIBILITY_OFFERED, m_userFile.file());
     readShippedSchemata();
 }
 
@@ -61,37 +65,77 @@ void MvCalendariumColorSchemaRegistry::readShippedSchemata()
 
 void MvCalendariumColorSchemaRegistry::read(const QFileInfo &file, const MvCalendariumColorSchemaVisibility &visibility)
 {
-    read(MvXMLLoader::loadDocumentElement(file), visibility);
+    readFrom(MvXMLLoader::loadDocumentElement(file), visibility, file);
 }
 
 void MvCalendariumColorSchemaRegistry::read(const QDomElement &element,
                                             const MvCalendariumColorSchemaVisibility &visibility)
 {
+    readFrom(element, visibility, QFileInfo());
+}
+
+void MvCalendariumColorSchemaRegistry::readFrom(const QDomElement &element,
+                                                const MvCalendariumColorSchemaVisibility &visibility,
+                                                const QFileInfo &file)
+{
     const QMutexLocker lock(&m_mutex);
     for (QDomElement area = element.firstChildElement(areaTag); !area.isNull(); area = area.nextSiblingElement(areaTag))
-        recordRead(area, visibility);
+        recordRead(area, visibility, file);
 }
 
 void MvCalendariumColorSchemaRegistry::recordRead(const QDomElement &area,
-                                                  const MvCalendariumColorSchemaVisibility &visibility)
+                                                  const MvCalendariumColorSchemaVisibility &visibility,
+                                                  const QFileInfo &file)
 {
     MvCalendariumColorSchemaID id;
     id.read(area);
     if (!id.isValid())
         return;
+    MvSchemaFileCheck(file).checkColors(area);
     const MvCalendariumColorSchema schema(area);
-    if (!m_schemata.insertSchema(schema)) {
-        QStringList known;
-        for (const MvCalendariumColorSchemaID &knownId : m_ids.values(schema))
-            known.prepend(knownId.toString());
-        qWarning().noquote() << u"Duplicate schema found, aliassed %1 by %2"_s.arg(known.join(u", "_s), id.toString());
+    if (m_schemata.contains(schema)) {
+        qWarning().noquote() << u"Duplicate schema found, aliassed %1 by %2"_s.arg(idTexts(schema).join(u", "_s),
+                                                                                   id.toString());
     }
-    recordSchemaId(schema, id);
     MvLocalizedText name;
     name.read(area, u"name"_s);
+    enter(schema, id, name, MvSchemaPlace(file, area));
+    setVisibility(schema, m_visibilities.value(schema) | visibility);
+}
+
+void MvCalendariumColorSchemaRegistry::enter(const MvCalendariumColorSchema &schema,
+                                             const MvCalendariumColorSchemaID &id, const MvLocalizedText &name,
+                                             const MvSchemaPlace &place)
+{
+    m_schemata.insertSchema(schema);
+    const bool isNew = !m_byId.contains(id);
+    if (isNew || !(m_byId.value(id) == schema)) {
+        if (!isNew)
+            takeFromOther(id, name);
+        m_byId.insert(id, schema);
+        m_ids.insert(schema, id);
+    }
     if (!name.isEmpty())
         m_names.insert(id, name);
-    setVisibility(schema, m_visibilities.value(schema) | visibility);
+    m_places.insert(id, place);
+}
+
+/// The id goes to a schema with the given name. The one that had it is forgotten when it has no other.
+void MvCalendariumColorSchemaRegistry::takeFromOther(const MvCalendariumColorSchemaID &id,
+                                                     const MvLocalizedText &winner)
+{
+    const MvCalendariumColorSchema loser = m_byId.value(id);
+    const QString loserName = name(id);
+    m_ids.remove(loser, id);
+    m_names.remove(id);
+    const MvSchemaPlace place = m_places.take(id);
+    if (m_ids.contains(loser))
+        return;
+    m_visibilities.remove(loser);
+    m_schemata.deleteSchema(loser);
+    place.warn(tr("Das Farbschema „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, die mit USER_ "
+                  "beginnt, bringt es zurück.")
+                   .arg(loserName, id.toString(), winner.isEmpty() ? id.toString() : winner.text()));
 }
 
 MvCalendariumColorSchema MvCalendariumColorSchemaRegistry::findSchema(const MvCalendariumColorSchemaID &id) const
@@ -106,8 +150,47 @@ bool MvCalendariumColorSchemaRegistry::contains(const MvCalendariumColorSchemaID
 
 MvCalendariumColorSchemaID MvCalendariumColorSchemaRegistry::id(const MvCalendariumColorSchema &schema) const
 {
-    const QList<MvCalendariumColorSchemaID> ids = m_ids.values(schema);
-    return ids.isEmpty() ? MvCalendariumColorSchemaID() : ids.constLast();
+    const QList<MvCalendariumColorSchemaID> all = ids(schema);
+    const auto shipped =
+        std::find_if(all.cbegin(), all.cend(), [](const MvCalendariumColorSchemaID &id) { return !id.isUserSchema(); });
+    return shipped != all.cend() ? *shipped : all.value(0);
+}
+
+QList<MvCalendariumColorSchemaID> MvCalendariumColorSchemaRegistry::ids(const MvCalendariumColorSchema &schema) const
+{
+    const QList<MvCalendariumColorSchemaID> latestFirst = m_ids.values(schema);
+    return {latestFirst.crbegin(), latestFirst.crend()};
+}
+
+QStringList MvCalendariumColorSchemaRegistry::idTexts(const MvCalendariumColorSchema &schema) const
+{
+    QStringList texts;
+    for (const MvCalendariumColorSchemaID &id : ids(schema))
+        texts.append(id.toString());
+    return texts;
+}
+
+MvCalendariumColorSchemaID
+MvCalendariumColorSchemaRegistry::idWhateverTheGrid(const MvCalendariumColorSchema &schema) const
+{
+    const MvCalendariumColorSchemaID exact = id(schema);
+    if (exact.isValid())
+        return exact;
+    MvCalendariumColorSchema switched = schema;
+    MvBorderConfig grid = schema.gridConfig();
+    grid.setIsEnabled(!grid.isEnabled());
+    switched.setGridConfig(grid);
+    return id(switched);
+}
+
+MvCalendariumColorSchema MvCalendariumColorSchemaRegistry::defaultSchema() const
+{
+    const MvCalendariumColorSchemaID usual(defaultId);
+    if (contains(usual))
+        return findSchema(usual);
+    const auto shipped = std::find_if(m_schemata.cbegin(), m_schemata.cend(),
+                                      [this](const auto &schema) { return !isUserSchema(schema); });
+    return shipped != m_schemata.cend() ? *shipped : m_schemata.value(0);
 }
 
 QList<MvCalendariumColorSchemaID> MvCalendariumColorSchemaRegistry::schemaIds() const
@@ -124,15 +207,33 @@ QString MvCalendariumColorSchemaRegistry::name(const MvCalendariumColorSchemaID 
     return text.isEmpty() ? id.toString() : text;
 }
 
+void MvCalendariumColorSchemaRegistry::setName(const MvCalendariumColorSchemaID &id, const MvLocalizedText &name)
+{
+    m_names.insert(id, name);
+}
+
 MvCalendariumColorSchemaList MvCalendariumColorSchemaRegistry::visibleSchemata() const
 {
-    MvCalendariumColorSchemaList visible;
+    return offeredSchemata(false);
+}
+
+MvCalendariumColorSchemaList MvCalendariumColorSchemaRegistry::hiddenSchemata() const
+{
+    return offeredSchemata(true);
+}
+
+MvCalendariumColorSchemaList MvCalendariumColorSchemaRegistry::offeredSchemata(bool hidden) const
+{
+    MvCalendariumColorSchemaList offered;
     const QStringList ignored = MvGeneralSettings::instance().idsToIgnore();
     for (const MvCalendariumColorSchema &schema : filter(m_schemata, SCHEMA_VISIBILITY_OFFERED)) {
-        if (!schema.deprecated() && !ignored.contains(id(schema).toString()))
-            visible.append(schema);
+        const QStringList texts = idTexts(schema);
+        const bool isHidden = std::any_of(texts.cbegin(), texts.cend(),
+                                          [&ignored](const QString &text) { return ignored.contains(text); });
+        if (!schema.deprecated() && isHidden == hidden)
+            offered.append(schema);
     }
-    return visible;
+    return offered;
 }
 
 MvCalendariumColorSchemaList
@@ -177,21 +278,13 @@ MvCalendariumColorSchemaID MvCalendariumColorSchemaRegistry::record(const MvCale
 void MvCalendariumColorSchemaRegistry::recordSchemaId(const MvCalendariumColorSchema &schema,
                                                       const MvCalendariumColorSchemaID &id)
 {
-    const auto previous = m_byId.constFind(id);
-    if (previous != m_byId.cend()) {
-        if (*previous == schema)
-            return;
-        m_ids.remove(*previous, id);
-    }
-    m_byId.insert(id, schema);
-    m_ids.insert(schema, id);
+    enter(schema, id, MvLocalizedText(), MvSchemaPlace());
 }
 
 MvCalendariumColorSchemaID
 MvCalendariumColorSchemaRegistry::recordSchemaUniquely(const MvCalendariumColorSchema &schema)
 {
     const MvCalendariumColorSchemaID id = generateUniqueId();
-    m_schemata.insertSchema(schema);
     recordSchemaId(schema, id);
     setVisibility(schema, m_visibilities.value(schema) | MvCalendariumColorSchemaVisibility(SCHEMA_VISIBILITY_OFFERED));
     return id;
@@ -215,15 +308,32 @@ void MvCalendariumColorSchemaRegistry::remove(const MvCalendariumColorSchema &sc
     for (const MvCalendariumColorSchemaID &id : m_ids.values(schema)) {
         m_byId.remove(id);
         m_names.remove(id);
+        m_places.remove(id);
     }
     m_ids.remove(schema);
     m_visibilities.remove(schema);
     m_schemata.deleteSchema(schema);
 }
 
+void MvCalendariumColorSchemaRegistry::removeId(const MvCalendariumColorSchemaID &id)
+{
+    const MvCalendariumColorSchema schema = m_byId.value(id);
+    if (m_ids.count(schema) <= 1) {
+        remove(schema);
+        return;
+    }
+    m_ids.remove(schema, id);
+    m_byId.remove(id);
+    m_names.remove(id);
+    m_places.remove(id);
+}
+
 bool MvCalendariumColorSchemaRegistry::isIgnoredSchema(const MvCalendariumColorSchemaID &id) const
 {
-    return MvGeneralSettings::instance().idsToIgnore().contains(id.toString());
+    const QStringList texts = idTexts(m_byId.value(id)) + QStringList{id.toString()};
+    const QStringList ignored = MvGeneralSettings::instance().idsToIgnore();
+    return std::any_of(texts.cbegin(), texts.cend(),
+                       [&ignored](const QString &text) { return ignored.contains(text); });
 }
 
 void MvCalendariumColorSchemaRegistry::setIgnoreSchema(const MvCalendariumColorSchemaID &id)
@@ -240,6 +350,14 @@ void MvCalendariumColorSchemaRegistry::setIgnoreSchema(const MvCalendariumColorS
     setIgnoreSchema(id(schema));
 }
 
+void MvCalendariumColorSchemaRegistry::unsetIgnoreSchema(const MvCalendariumColorSchemaID &id)
+{
+    const QStringList texts = idTexts(m_byId.value(id)) + QStringList{id.toString()};
+    QStringList ignored = MvGeneralSettings::instance().idsToIgnore();
+    if (ignored.removeIf([&texts](const QString &text) { return texts.contains(text); }) > 0)
+        MvGeneralSettings::instance().setIDsToIgnore(ignored);
+}
+
 void MvCalendariumColorSchemaRegistry::write(QDomElement &element, const MvCalendariumColorSchemaList &list) const
 {
     for (const MvCalendariumColorSchema &schema : list) {
@@ -254,10 +372,9 @@ MvUserSchemaFile::Areas MvCalendariumColorSchemaRegistry::userAreas() const
 {
     MvUserSchemaFile::Areas areas;
     for (const MvCalendariumColorSchema &schema : m_schemata) {
-        const QList<MvCalendariumColorSchemaID> ids = m_ids.values(schema);
-        for (auto known = ids.crbegin(); known != ids.crend(); ++known) {
-            if (known->isUserSchema())
-                areas.append(areaOf(schema, *known, m_names.value(*known)));
+        for (const MvCalendariumColorSchemaID &known : ids(schema)) {
+            if (known.isUserSchema())
+                areas.append(areaOf(schema, known, m_names.value(known)));
         }
     }
     return areas;
@@ -282,25 +399,12 @@ void MvCalendariumColorSchemaRegistry::adopt(const MvUserSchemaFile::Areas &mine
     const QMutexLocker lock(&m_mutex);
     for (const MvUserSchemaFile::Area &area : mine) {
         if (!saved.contains(area))
-            forgetId(MvCalendariumColorSchemaID(area.id));
+            removeId(MvCalendariumColorSchemaID(area.id));
     }
     for (const MvUserSchemaFile::Area &area : saved) {
         if (!mine.contains(area))
-            recordRead(area.element, SCHEMA_VISIBILITY_OFFERED);
+            recordRead(area.element, SCHEMA_VISIBILITY_OFFERED, QFileInfo());
     }
-}
-
-/// A schema without any id left is forgotten, too.
-void MvCalendariumColorSchemaRegistry::forgetId(const MvCalendariumColorSchemaID &id)
-{
-    const MvCalendariumColorSchema schema = m_byId.value(id);
-    if (m_ids.count(schema) <= 1) {
-        remove(schema);
-        return;
-    }
-    m_ids.remove(schema, id);
-    m_byId.remove(id);
-    m_names.remove(id);
 }
 
 QString MvCalendariumColorSchemaRegistry::userSchemaFileName()
@@ -329,5 +433,6 @@ void MvCalendariumColorSchemaRegistry::clear()
     m_ids.clear();
     m_byId.clear();
     m_names.clear();
+    m_places.clear();
     m_visibilities.clear();
 }

@@ -2,10 +2,12 @@
 
 #include "MvCalendar/MvCalendariumColorSchemaList.h"
 #include "MvCalendar/MvCalendariumColorSchemaVisibility.h"
+#include "MvCalendar/MvSchemaPlace.h"
 #include "MvCalendar/MvUserSchemaFile.h"
 #include "MvCore/MvSingleton.h"
 #include "MvXML/MvLocalizedText.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QHash>
 #include <QMultiHash>
@@ -18,8 +20,13 @@ extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendariumColorSchemaRegi
 
 /// All colour schemas of the process: those of the user's file first, then the shipped ones. A schema may be known
 /// under several ids. Reading is serialised; everything else belongs to the GUI thread.
+///
+/// A user's schema never stands before a shipped one: where both have equal colours, the shipped id is the main one;
+/// where both have one id, the shipped schema keeps it.
 class MVCALENDAR_EXPORT MvCalendariumColorSchemaRegistry : public MvSingleton<MvCalendariumColorSchemaRegistry>
 {
+    Q_DECLARE_TR_FUNCTIONS(MvCalendariumColorSchemaRegistry)
+
 public:
     /// An empty registry; only the process-wide one reads files by itself.
     MvCalendariumColorSchemaRegistry();
@@ -38,17 +45,28 @@ public:
     /// The schema of an id; an invalid one when there is none.
     MvCalendariumColorSchema findSchema(const MvCalendariumColorSchemaID &id) const;
     bool contains(const MvCalendariumColorSchemaID &id) const;
-    /// The id under which the schema was first registered; an invalid one when it is not registered.
+    /// The schema's main id: the first that is no user's, else the first; an invalid one when it is not registered.
     MvCalendariumColorSchemaID id(const MvCalendariumColorSchema &schema) const;
-    /// The first id of each schema, in the order of the list.
+    /// All ids of the schema, in the order in which it got them.
+    QList<MvCalendariumColorSchemaID> ids(const MvCalendariumColorSchema &schema) const;
+    /// The main id of the registered schema with these colours and lines, whether or not they have the grid on; an
+    /// invalid one when there is none.
+    MvCalendariumColorSchemaID idWhateverTheGrid(const MvCalendariumColorSchema &schema) const;
+    /// The main id of each schema, in the order of the list.
     QList<MvCalendariumColorSchemaID> schemaIds() const;
+    /// What new pages begin with and what stands in for unknown schemas: a shipped one, whatever the user has made or
+    /// hidden. An invalid schema when nothing is shipped.
+    MvCalendariumColorSchema defaultSchema() const;
     /// The name shown to users, in the program's language; the id where a file gives none. Attributes "name",
     /// "name_en".
     QString name(const MvCalendariumColorSchemaID &id) const;
     MvLocalizedText localizedName(const MvCalendariumColorSchemaID &id) const { return m_names.value(id); }
+    void setName(const MvCalendariumColorSchemaID &id, const MvLocalizedText &name);
     MvCalendariumColorSchemaList allSchemata() const { return m_schemata; }
     /// What choosers offer: neither deprecated nor hidden by the user.
     MvCalendariumColorSchemaList visibleSchemata() const;
+    /// What they would offer, had the user not hidden it.
+    MvCalendariumColorSchemaList hiddenSchemata() const;
     /// The schemas of the list whose visibility shares a bit with the given one.
     MvCalendariumColorSchemaList filter(const MvCalendariumColorSchemaList &list,
                                         const MvCalendariumColorSchemaVisibility &visibility) const;
@@ -61,8 +79,8 @@ public:
 
     /// Enters a schema as a user's, under a fresh id, unless an equal one is registered; gives its id.
     MvCalendariumColorSchemaID record(const MvCalendariumColorSchema &schema);
-    /// Adds an id for a schema. The first id of a schema stays its main one; an id moves to the schema that got it
-    /// last.
+    /// Adds an id for a schema, which is entered if need be. An id moves to the schema that got it last; one that has
+    /// none left is forgotten, with a warning.
     void recordSchemaId(const MvCalendariumColorSchema &schema, const MvCalendariumColorSchemaID &id);
     /// Enters the schema under a fresh user id even if it is known under others; gives the new id.
     MvCalendariumColorSchemaID recordSchemaUniquely(const MvCalendariumColorSchema &schema);
@@ -72,11 +90,15 @@ public:
     bool checkUserSchemaAndRegister(const MvCalendariumColorSchema &schema);
     /// Forgets the schema and its ids.
     void remove(const MvCalendariumColorSchema &schema);
+    /// Forgets one id, and the schema if it has no other.
+    void removeId(const MvCalendariumColorSchemaID &id);
 
-    /// Schemas that the user has hidden; kept in the general settings.
+    /// Schemas that the user has hidden, under any of their ids; kept in the general settings.
     bool isIgnoredSchema(const MvCalendariumColorSchemaID &id) const;
     void setIgnoreSchema(const MvCalendariumColorSchemaID &id);
     void setIgnoreSchema(const MvCalendariumColorSchema &schema);
+    /// Shows a hidden schema again.
+    void unsetIgnoreSchema(const MvCalendariumColorSchemaID &id);
 
     /// Appends one "calendararea" per schema.
     void write(QDomElement &element, const MvCalendariumColorSchemaList &list) const;
@@ -94,15 +116,23 @@ public:
 private:
     void clear();
     void readShippedSchemata();
-    void recordRead(const QDomElement &area, const MvCalendariumColorSchemaVisibility &visibility);
+    void readFrom(const QDomElement &element, const MvCalendariumColorSchemaVisibility &visibility,
+                  const QFileInfo &file);
+    void recordRead(const QDomElement &area, const MvCalendariumColorSchemaVisibility &visibility,
+                    const QFileInfo &file);
+    void enter(const MvCalendariumColorSchema &schema, const MvCalendariumColorSchemaID &id,
+               const MvLocalizedText &name, const MvSchemaPlace &place);
+    void takeFromOther(const MvCalendariumColorSchemaID &id, const MvLocalizedText &winner);
+    MvCalendariumColorSchemaList offeredSchemata(bool hidden) const;
+    QStringList idTexts(const MvCalendariumColorSchema &schema) const;
     MvUserSchemaFile::Areas userAreas() const;
     void adopt(const MvUserSchemaFile::Areas &mine, const MvUserSchemaFile::Areas &saved);
-    void forgetId(const MvCalendariumColorSchemaID &id);
 
     MvCalendariumColorSchemaList m_schemata;
     QMultiHash<MvCalendariumColorSchema, MvCalendariumColorSchemaID> m_ids; // values(): latest first
     QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> m_byId;
     QHash<MvCalendariumColorSchemaID, MvLocalizedText> m_names;
+    QHash<MvCalendariumColorSchemaID, MvSchemaPlace> m_places;
     QHash<MvCalendariumColorSchema, MvCalendariumColorSchemaVisibility> m_visibilities;
     MvUserSchemaFile m_userFile;
     QString m_saveError;

@@ -2,6 +2,7 @@
 
 #include "MvGUIWidgets/MvMouseWheelEventFilter.h"
 #include "MvGUIWidgets/MvSpinBox.h"
+#include "MvGUIWidgets/MvWholeTextDelegate.h"
 
 #include <QListView>
 #include <QSignalBlocker>
@@ -53,6 +54,7 @@ QListView *MvCalendariumColumnHeadersEditor::createColumnHeadersEdit()
     list->setEditTriggers(QAbstractItemView::AllEditTriggers);
     list->setFixedWidth(listWidth);
     list->setModel(m_model);
+    list->setItemDelegate(new MvWholeTextDelegate(list));
     connect(m_model, &QStringListModel::dataChanged, this, &MvCalendariumColumnHeadersEditor::headersEdited);
     return list;
 }

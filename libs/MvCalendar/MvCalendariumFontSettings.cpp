@@ -25,6 +25,20 @@ constexpr int defaultHolidayPercentage = -50;
 constexpr double minimumSizeDpi = 254.0; // one pixel of the page is a tenth of a millimetre
 constexpr double mostPoints = 10000.0;   // files may say anything
 
+constexpr int leastPercentage = -100;
+constexpr int mostPercentage = 900;
+constexpr double mostLetterSpacing = 100.0;
+
+int bounded(int percentage)
+{
+    return std::clamp(percentage, leastPercentage, mostPercentage);
+}
+
+double boundedSpacing(double spacing)
+{
+    return std::isfinite(spacing) ? std::clamp(spacing, -mostLetterSpacing, mostLetterSpacing) : 0.0;
+}
+
 int atLeastOnePixel(double pixels)
 {
     return std::max(1, static_cast<int>(std::lround(pixels)));
@@ -36,24 +50,41 @@ MvCalendariumFontSettings::MvCalendariumFontSettings(const QString &fontName, in
                                                      int fontSizePercentageHolidays, QFont::Weight weight,
                                                      QFont::Capitalization capitalization, double letterSpacing)
     : m_fontName(fontName)
-    , m_fontSizePercentage(fontSizePercentage)
-    , m_fontSizePercentageHolidays(fontSizePercentageHolidays)
+    , m_fontSizePercentage(bounded(fontSizePercentage))
+    , m_fontSizePercentageHolidays(bounded(fontSizePercentageHolidays))
     , m_capitalization(capitalization)
-    , m_letterSpacing(letterSpacing)
+    , m_letterSpacing(boundedSpacing(letterSpacing))
     , m_weight(weight)
 {}
 
 MvCalendariumFontSettings::MvCalendariumFontSettings(const QDomElement &element)
     : m_fontName(MvXMLParser::textAttribute(element, familyKey, MvFontCreator::instance().defaultFontFamily()))
-    , m_fontSizePercentageHolidays(MvXMLParser::intAttribute(element, holidaySizeKey, defaultHolidayPercentage))
+    , m_fontSizePercentageHolidays(
+          bounded(MvXMLParser::intAttribute(element, holidaySizeKey, defaultHolidayPercentage)))
     , m_capitalization(MvXMLKeywords::capitalization(MvXMLParser::textAttribute(element, capitalizationKey)))
-    , m_letterSpacing(MvXMLParser::doubleAttribute(element, letterSpacingKey, 0.0))
+    , m_letterSpacing(boundedSpacing(MvXMLParser::doubleAttribute(element, letterSpacingKey, 0.0)))
     , m_weight(MvXMLKeywords::weight(MvXMLParser::textAttribute(element, weightKey)))
 {
     if (element.hasAttribute(sizeKey))
-        m_fontSizePercentage = MvXMLParser::intAttribute(element, sizeKey, 0);
+        setFontSizePercentage(MvXMLParser::intAttribute(element, sizeKey, 0));
     else
         setFontSize(MvXMLParser::intAttribute(element, legacySizeKey, 0));
+}
+
+void MvCalendariumFontSettings::setFontSizePercentage(int percentage)
+{
+    m_fontSizePercentage = bounded(percentage);
+}
+
+void MvCalendariumFontSettings::setFontSizePercentageHolidays(int percentage)
+{
+    m_fontSizePercentageHolidays = bounded(percentage);
+}
+
+void MvCalendariumFontSettings::setFontSize(int size)
+{
+    constexpr int step = 10;
+    setFontSizePercentage(std::clamp(size, leastPercentage / step, mostPercentage / step) * step);
 }
 
 void MvCalendariumFontSettings::write(QDomElement &element) const

@@ -29,14 +29,14 @@ public:
     /// Empty: the layout's family.
     QString fontName() const { return m_fontName; }
     void setFont(const QString &fontName) { m_fontName = fontName; }
-    /// Change relative to the layout's size: 0 keeps it, 20 makes it 120 %, -50 half.
+    /// Change relative to the layout's size: 0 keeps it, 20 makes it 120 %, -50 half; brought into -100 to 900.
     int fontSizePercentage() const { return m_fontSizePercentage; }
-    void setFontSizePercentage(int percentage) { m_fontSizePercentage = percentage; }
+    void setFontSizePercentage(int percentage);
     /// The same for the texts of holidays and entries inside a cell; -50 by default.
     int fontSizePercentageHolidays() const { return m_fontSizePercentageHolidays; }
-    void setFontSizePercentageHolidays(int percentage) { m_fontSizePercentageHolidays = percentage; }
+    void setFontSizePercentageHolidays(int percentage);
     /// The size of old files, in steps of ten percent.
-    void setFontSize(int size) { m_fontSizePercentage = size * 10; }
+    void setFontSize(int size);
     QFont::Capitalization capitalization() const { return m_capitalization; }
     /// Between letters, in pixels at the layout's size; 0 keeps the layout's.
     double letterSpacing() const { return m_letterSpacing; }

@@ -9,11 +9,23 @@
 #include <QDomElement>
 #include <QFont>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int defaultBorderWidth = 2;
 const QString defaultAlignment = u"AlignCenter"_s;
+
+// files may say anything
+constexpr int mostBorderWidth = 200;
+constexpr int mostFontSize = 10000;
+constexpr double mostPadding = 10000.0;
+
+double paddingOf(const QDomElement &element, const QString &key)
+{
+    return std::clamp(MvXMLParser::doubleAttribute(element, key), -mostPadding, mostPadding);
+}
 } // namespace
 
 struct MvCalendariumLayoutCellInfoImpl : MvSharedData
@@ -35,15 +47,14 @@ MvCalendariumLayoutCellInfo::MvCalendariumLayoutCellInfo()
 MvCalendariumLayoutCellInfo::MvCalendariumLayoutCellInfo(const QDomElement &element)
     : MvCalendariumLayoutCellInfo()
 {
-    d->borderWidth = MvXMLParser::intAttribute(element, u"bordersize"_s, defaultBorderWidth);
+    d->borderWidth =
+        std::clamp(MvXMLParser::intAttribute(element, u"bordersize"_s, defaultBorderWidth), 0, mostBorderWidth);
     d->borderType = MvCalendarBorderType(MvXMLParser::textAttribute(element, u"bordertype"_s));
     d->font = MvXMLParser::readFont(element.firstChildElement(u"font"_s), d->font);
-    d->maxFontSize = MvXMLParser::intAttribute(element, u"maxfontsize"_s, 0);
+    d->maxFontSize = std::clamp(MvXMLParser::intAttribute(element, u"maxfontsize"_s, 0), 0, mostFontSize);
     d->alignment = MvXMLKeywords::alignment(MvXMLParser::textAttribute(element, u"textalign"_s, defaultAlignment));
-    d->padding = QMarginsF(MvXMLParser::doubleAttribute(element, u"paddingleft"_s),
-                           MvXMLParser::doubleAttribute(element, u"paddingtop"_s),
-                           MvXMLParser::doubleAttribute(element, u"paddingright"_s),
-                           MvXMLParser::doubleAttribute(element, u"paddingbottom"_s));
+    d->padding = QMarginsF(paddingOf(element, u"paddingleft"_s), paddingOf(element, u"paddingtop"_s),
+                           paddingOf(element, u"paddingright"_s), paddingOf(element, u"paddingbottom"_s));
 }
 
 MvCalendariumLayoutCellInfo::~MvCalendariumLayoutCellInfo() = default;

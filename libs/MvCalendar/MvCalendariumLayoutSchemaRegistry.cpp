@@ -1,8 +1,12 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 
+#include "MvCalendar/MvSchemaFileCheck.h"
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvXML/MvXMLLoader.h"
 
 #include <QRandomGenerator>
+
+#include <algorithm>
 
 template class MvSingleton<MvCalendariumLayoutSchemaRegistry>;
 
@@ -10,12 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString areaTag = u"calendararea"_s;
+const QString defaultId = u"MONTH_GRID_CLASSIC"_s;
 const QString userFileName = u"000-user-calendar-layout.xml"_s;
 
 MvUserSchemaFile::Area areaOf(const MvCalendariumLayoutSchema &schema)
 {
     QDomDocument document;
-    QDomElement area = document.createElement(u"calendararea"_s);
+    QDomElement area = document.createElement(areaTag);
     document.appendChild(area);
     schema.write(area);
     return {schema.ID().toString(), area};
@@ -39,10 +45,32 @@ void giveFreshId(MvUserSchemaFile::Area &area)
 MvCalendariumLayoutSchemaRegistry::MvCalendariumLayoutSchemaRegistry()
     : m_userFile(userFileName, u"calendarlayout"_s, readArea)
 {
-    m_schemata.read(m_userFile.read());
-    m_schemata.read(MvDirectoryConfig::instance().resource(u"schemas/calendar_layout.xml"_s));
-    for (const MvCalendariumLayoutSchema &schema : std::as_const(m_schemata))
-        m_byId.insert(schema.ID().toString(), schema);
+    const QDomElement own = m_userFile.read();
+    const QFileInfo shippedFile = MvDirectoryConfig::instance().resource(u"schemas/calendar_layout.xml"_s);
+    const QDomElement shipped = MvXMLLoader::loadDocumentElement(shippedFile);
+    read(own, m_userFile.file());
+    read(shipped, shippedFile);
+}
+
+void MvCalendariumLayoutSchemaRegistry::read(const QDomElement &element, const QFileInfo &file)
+{
+    const MvSchemaFileCheck check(file);
+    for (QDomElement area = element.firstChildElement(areaTag); !area.isNull();
+         area = area.nextSiblingElement(areaTag)) {
+        const MvCalendariumLayoutSchema schema(area);
+        if (!schema.isValid() || !check.checkLayout(area))
+            continue;
+        const QString id = schema.ID().toString();
+        if (m_byId.contains(id)) {
+            m_schemata.removeIf([&id](const MvCalendariumLayoutSchema &known) { return known.ID().toString() == id; });
+            m_places.value(id).warn(tr("Das Layout „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, "
+                                       "die mit USER_ beginnt, bringt es zurück.")
+                                        .arg(m_byId.value(id).name(), id, schema.name()));
+        }
+        m_schemata.append(schema);
+        m_byId.insert(id, schema);
+        m_places.insert(id, MvSchemaPlace(file, area));
+    }
 }
 
 MvCalendariumLayoutSchema MvCalendariumLayoutSchemaRegistry::findSchema(const MvCalendariumLayoutSchemaID &id) const
@@ -53,6 +81,16 @@ MvCalendariumLayoutSchema MvCalendariumLayoutSchemaRegistry::findSchema(const Mv
 MvCalendariumLayoutSchema MvCalendariumLayoutSchemaRegistry::schema(int index) const
 {
     return m_schemata.value(index);
+}
+
+MvCalendariumLayoutSchema MvCalendariumLayoutSchemaRegistry::defaultSchema() const
+{
+    const MvCalendariumLayoutSchema usual = m_byId.value(defaultId);
+    if (usual.isValid())
+        return usual;
+    const auto shipped =
+        std::find_if(m_schemata.cbegin(), m_schemata.cend(), [](const auto &schema) { return !schema.isUserSchema(); });
+    return shipped != m_schemata.cend() ? *shipped : m_schemata.value(0);
 }
 
 QStringList MvCalendariumLayoutSchemaRegistry::schemaNames() const

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "MvCalendar/MvCalendariumLayoutSchemaList.h"
+#include "MvCalendar/MvSchemaPlace.h"
 #include "MvCalendar/MvUserSchemaFile.h"
 #include "MvCore/MvSingleton.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 
@@ -13,8 +15,11 @@ extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendariumLayoutSchemaReg
 /// All layout schemas of the process: those of the user's file, then the shipped ones, which win where ids are equal.
 class MVCALENDAR_EXPORT MvCalendariumLayoutSchemaRegistry : public MvSingleton<MvCalendariumLayoutSchemaRegistry>
 {
+    Q_DECLARE_TR_FUNCTIONS(MvCalendariumLayoutSchemaRegistry)
+
 public:
-    /// Reads "000-user-calendar-layout.xml" of the user's data folder and the shipped "calendar_layout.xml".
+    /// Reads "000-user-calendar-layout.xml" of the user's data folder and the shipped "calendar_layout.xml". A layout
+    /// of an unknown kind, or whose id another one has that comes later, is left out with a warning.
     MvCalendariumLayoutSchemaRegistry();
 
     /// The schema of an id; an invalid one when there is none.
@@ -22,6 +27,9 @@ public:
     /// The schema at a position of the list; an invalid one out of range.
     MvCalendariumLayoutSchema schema(int index) const;
     const MvCalendariumLayoutSchemaList &schemata() const { return m_schemata; }
+    /// What new pages begin with and what stands in for unknown layouts: a shipped one, whatever the user has made. An
+    /// invalid schema when nothing is shipped.
+    MvCalendariumLayoutSchema defaultSchema() const;
     /// The names of all schemas in the order of the list, for choosers.
     QStringList schemaNames() const;
 
@@ -36,8 +44,11 @@ public:
     QString saveError() const { return m_saveError; }
 
 private:
+    void read(const QDomElement &element, const QFileInfo &file);
+
     MvCalendariumLayoutSchemaList m_schemata;
     QHash<QString, MvCalendariumLayoutSchema> m_byId;
+    QHash<QString, MvSchemaPlace> m_places; // by id
     MvUserSchemaFile m_userFile;
     QString m_saveError;
 };

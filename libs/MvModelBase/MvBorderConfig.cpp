@@ -10,19 +10,29 @@
 using namespace Qt::StringLiterals;
 
 MvBorderConfig::MvBorderConfig(const QColor &color, MvDistance width, MvBorderPosition position, bool enabled)
-    : m_color(color)
-    , m_width(width)
-    , m_position(position)
+    : m_position(position)
     , m_enabled(enabled)
-{}
+{
+    setColor(color);
+    setWidth(width);
+}
+
+void MvBorderConfig::setColor(const QColor &color)
+{
+    m_color = QColor::fromRgba(color.rgba());
+}
+
+void MvBorderConfig::setWidth(MvDistance width)
+{
+    m_width = MvDistance(width.tenthMillimetres() > 0.0 ? std::min(width.tenthMillimetres(), mostWidth) : 0.0);
+}
 
 MvBorderConfig MvBorderConfig::createFromXML(const QDomElement &element)
 {
     MvBorderConfig border;
     border.m_enabled = MvXMLParser::boolAttribute(element, u"enabled"_s, true);
     border.m_color = MvXMLParser::colorAttribute(element, u"color"_s, border.m_color);
-    const double width = MvXMLParser::doubleAttribute(element, u"width"_s, border.m_width.tenthMillimetres());
-    border.m_width = MvDistance(std::clamp(width, 0.0, 200.0));
+    border.setWidth(MvDistance(MvXMLParser::doubleAttribute(element, u"width"_s, border.m_width.tenthMillimetres())));
     const MvBorderPosition position(MvXMLParser::textAttribute(element, u"position"_s));
     if (position.isValid())
         border.m_position = position;

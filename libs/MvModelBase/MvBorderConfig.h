@@ -18,12 +18,16 @@ public:
     MvBorderConfig() = default;
     MvBorderConfig(const QColor &color, MvDistance width, MvBorderPosition position, bool enabled);
 
+    static constexpr double mostWidth = 200.0; // tenths of a millimetre
+
     bool isEnabled() const { return m_enabled; }
     void setIsEnabled(bool enabled) { m_enabled = enabled; }
     QColor color() const { return m_color; }
-    void setColor(const QColor &color) { m_color = color; }
+    /// Kept as files write it, in 8 bits per part, whatever its model. An invalid one is black.
+    void setColor(const QColor &color);
     MvDistance width() const { return m_width; }
-    void setWidth(MvDistance width) { m_width = width; }
+    /// Brought into 0 to `mostWidth`.
+    void setWidth(MvDistance width);
     MvBorderPosition position() const { return m_position; }
     void setPosition(const MvBorderPosition &position) { m_position = position; }
 

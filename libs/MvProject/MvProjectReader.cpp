@@ -87,6 +87,7 @@ MvPageFormat MvProjectReader::readPaper(const QDomElement &root)
         note(element.isNull() ? root : element, tr("Die Papiergröße fehlt oder geht nicht; es wird A4 quer."));
     }
     format.setBleed(MvXMLParser::doubleAttribute(element, bleedKey));
+    noteChanged(element, bleedKey, format.bleed());
     return format;
 }
 
@@ -122,18 +123,25 @@ void MvProjectReader::readAppearance(const QDomElement &element, MvCalendarPage 
     MvCalendariumLayoutSchemaID unknownLayout;
     if (!appearance.layoutSchema().isValid()) {
         unknownLayout.read(element);
-        appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().schema(0));
+        appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().defaultSchema());
         note(element, tr("Das Layout „%1“ gibt es hier nicht; bis es wieder da ist, steht „%2“ an seiner Stelle.")
                           .arg(unknownLayout.toString(), appearance.layoutSchema().name()));
     }
     MvCalendariumColorSchemaID unknownColors;
     if (!appearance.colorSchema().isValid()) {
         unknownColors.read(element);
-        appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().visibleSchemata().value(0));
+        appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().defaultSchema());
         note(element, tr("Das Farbschema „%1“ gibt es hier nicht; bis es wieder da ist, tritt ein anderes an seine "
                          "Stelle.")
                           .arg(unknownColors.toString()));
     }
+    MvBorderConfig grid = appearance.gridConfig();
+    grid.setIsEnabled(MvXMLParser::boolAttribute(element, gridKey, grid.isEnabled()));
+    appearance.setGridConfig(grid);
+    noteChanged(element, offsetMonthKey, appearance.offsetMonth());
+    noteChanged(element, fontSizeKey, appearance.fontSettings().fontSizePercentage());
+    noteChanged(element, holidayFontSizeKey, appearance.fontSettings().fontSizePercentageHolidays());
+    noteChanged(element, letterSpacingKey, appearance.fontSettings().letterSpacing());
     appearance.setOverrideShowCalendarWeek(MvXMLParser::boolAttribute(element, weeksKey));
     if (element.hasAttribute(renderingKey))
         appearance.setRenderingInformation(MvCalendarRenderingInformation(element.attribute(renderingKey)));
@@ -173,6 +181,7 @@ MvPhotoFrame MvProjectReader::readPhoto(const QDomElement &element)
     else
         note(element, tr("Wo das Foto steht, ist nicht lesbar; es kommt nach oben."));
     frame.setShare(MvXMLParser::doubleAttribute(element, shareKey, MvPhotoFrame::defaultShare));
+    noteChanged(element, shareKey, frame.share());
     frame.setFocus(
         {MvXMLParser::doubleAttribute(element, focusXKey, 0.5), MvXMLParser::doubleAttribute(element, focusYKey, 0.5)});
     return frame;
@@ -198,6 +207,15 @@ QDate MvProjectReader::month(const QDomElement &element, const QString &name)
     if (!month.isValid())
         note(element, tr("„%1“ ist kein Monat wie 2027-01.").arg(text));
     return month;
+}
+
+void MvProjectReader::noteChanged(const QDomElement &place, const QString &attribute, double taken)
+{
+    const QString text = MvXMLParser::textAttribute(place, attribute);
+    bool isNumber = false;
+    const double written = text.trimmed().toDouble(&isNumber);
+    if (!text.isEmpty() && !(isNumber && written == taken))
+        note(place, tr("%1 „%2“ geht nicht; es gilt %3.").arg(attribute, text).arg(taken));
 }
 
 void MvProjectReader::fail(const QDomElement &place, const QString &message)

@@ -33,6 +33,8 @@ private:
 
     void fail(const QDomElement &place, const QString &message);
     void note(const QDomElement &place, const QString &message);
+    /// Tells of an attribute that holds another number than was taken.
+    void noteChanged(const QDomElement &place, const QString &attribute, double taken);
     QString placed(const QDomElement &place, const QString &message) const;
     /// What to do when the file cannot be used.
     QString advice() const;

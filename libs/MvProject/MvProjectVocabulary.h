@@ -36,6 +36,12 @@ inline const QString calendarium = QStringLiteral("calendarium");
 inline const QString layoutKey = QStringLiteral("layoutschema");
 inline const QString colorsKey = QStringLiteral("colorschema"); // also of an element
 inline const QString weeksKey = QStringLiteral("showcalendarweeks");
+inline const QString gridKey = QStringLiteral("showgrid");
+// of a page's appearance, to name them
+inline const QString offsetMonthKey = QStringLiteral("offsetmonth");
+inline const QString fontSizeKey = QStringLiteral("fontsize_percentage");
+inline const QString holidayFontSizeKey = QStringLiteral("fontsize_percentage_holiddays");
+inline const QString letterSpacingKey = QStringLiteral("font-letter-spacing");
 inline const QString renderingKey = QStringLiteral("renderinfo");
 
 inline const QString content = QStringLiteral("content");

@@ -1,5 +1,6 @@
 #include "MvProject/MvProjectWriter.h"
 
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvProject/MvProjectVocabulary.h"
 #include "MvXML/MvXMLBuilder.h"
@@ -22,6 +23,22 @@ void addIfAny(QDomElement &element, const QString &name, const QString &value)
 {
     if (!value.isEmpty())
         MvXMLBuilder::addAttribute(element, name, value);
+}
+
+/// The colour schema in the form that a file keeps wholly. Its own form loses the lines of a grid that is off, and the
+/// id of a schema whose grid is on where that of the page is not: then the grid is written switched, and the switch
+/// beside it.
+MvCalendariumColorSchema writable(const MvCalendariumColorSchema &schema)
+{
+    const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    MvBorderConfig grid = schema.gridConfig();
+    grid.setIsEnabled(!grid.isEnabled());
+    MvCalendariumColorSchema switched = schema;
+    switched.setGridConfig(grid);
+    if (!registry.isRegistered(schema) && registry.isRegistered(switched))
+        return switched;
+    const bool wouldLoseLines = grid.isEnabled() && !(schema.gridConfig() == MvBorderConfig());
+    return wouldLoseLines ? switched : schema;
 }
 
 /// As a document writes itself, but with the attributes in order: two versions of a file can be compared.
@@ -103,7 +120,11 @@ void MvProjectWriter::writePage(QDomElement &root, const MvCalendarPage &page) c
 void MvProjectWriter::writeCalendarium(QDomElement &element, const MvCalendarPage &page) const
 {
     const MvCalendariumAppearance &appearance = page.appearance();
-    appearance.write(element, true);
+    const MvCalendariumColorSchema colors = writable(appearance.colorSchema());
+    appearance.createVariant(colors).write(element, true);
+    const bool hasGrid = appearance.gridConfig().isEnabled();
+    if (colors.gridConfig().isEnabled() != hasGrid)
+        MvXMLBuilder::addAttribute(element, gridKey, hasGrid);
     if (page.unknownLayout().isValid())
         page.unknownLayout().write(element);
     if (page.unknownColors().isValid()) {

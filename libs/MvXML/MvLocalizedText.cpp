@@ -13,6 +13,12 @@ namespace {
 const QString fileLanguage = u"de"_s; // of attributes that do not name theirs
 }
 
+MvLocalizedText::MvLocalizedText(const QString &text)
+{
+    if (!text.isEmpty())
+        m_texts.insert(fileLanguage, text);
+}
+
 void MvLocalizedText::read(const QDomElement &element, const QString &key)
 {
     m_texts.clear();

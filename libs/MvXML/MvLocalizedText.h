@@ -12,6 +12,10 @@ class QDomElement;
 class MVXML_EXPORT MvLocalizedText
 {
 public:
+    MvLocalizedText() = default;
+    /// One text for all languages; none when it is empty.
+    explicit MvLocalizedText(const QString &text);
+
     /// Replaces what was there by the element's attributes "<key>" and "<key>_<language>"; empty ones do not count.
     void read(const QDomElement &element, const QString &key);
     /// Writes the attributes that read() took.

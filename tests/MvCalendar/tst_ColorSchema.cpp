@@ -3,6 +3,8 @@
 #include "MvCalendar/MvCalendarCellColorInfo.h"
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCalendar/MvUserColorSchemata.h"
+#include "MvCore/MvFileGuard.h"
 #include "MvCore/MvTranslations.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
@@ -91,6 +93,10 @@ private Q_SLOTS:
     void registryRenamesOldIds();
     void registryKeepsUserSchemata();
     void registryHidesSchemata();
+    void userFiles_data();
+    void userFiles();
+    void idsOfEqualColoursAreKept();
+    void userSchemata();
     void shippedSchemata();
 };
 
@@ -186,7 +192,13 @@ void tst_ColorSchema::roundTrip_data()
 void tst_ColorSchema::roundTrip()
 {
     QFETCH(QString, cells);
-    const MvCalendariumColorSchema original = schema(cells);
+    MvCalendariumColorSchema original = schema(cells);
+    if (original.gridConfig().isEnabled()) { // as a chooser of colours may give them
+        MvBorderConfig grid = original.gridConfig();
+        grid.setColor(QColor::fromHsvF(0.1F, 0.2F, 0.3F));
+        grid.setWidth(MvDistance(1e9));
+        original.setGridConfig(grid);
+    }
     const MvCalendariumColorSchema read = writtenAndRead(original);
     QCOMPARE(read.describeDifference(original), u"MvCalendariumColorSchema: no difference."_s);
     QVERIFY(read == original);
@@ -319,6 +331,130 @@ void tst_ColorSchema::registryHidesSchemata()
     registry.resetToFactoryDefaults();
     QVERIFY(!registry.isIgnoredSchema(id));
     QCOMPARE(registry.visibleSchemata().size(), offered);
+}
+
+void tst_ColorSchema::userFiles_data()
+{
+    QTest::addColumn<QString>("areas");
+    QTest::addColumn<QStringList>("warnings");
+    QTest::addColumn<QStringList>("offered"); // beside the shipped ones
+    QTest::addColumn<QString>("hidden");      // an id, and the one that is not offered then
+    const QString red = u"<calendararea colorschema='%1' name='%2'><celldefault bgcolor='#ff0000'/></calendararea>"_s;
+    const QString blue = u"<calendararea colorschema='%1' name='%2'><celldefault bgcolor='#0000ff'/></calendararea>"_s;
+    const QString file = u"colors.xml:%1:\\d+: .*"_s;
+    QTest::newRow("a shipped id") << red.arg(u"PAPER_WHITE"_s, u"Mein Weiß"_s)
+                                  << QStringList{file.arg(1) + u"„Mein Weiß“.*PAPER_WHITE.*„Papierweiß“"_s}
+                                  << QStringList() << u"PAPER_WHITE PAPER_WHITE"_s;
+    QTest::newRow("an id twice") << red.arg(u"USER_1"_s, u"Rot"_s) + u'\n' + blue.arg(u"USER_1"_s, u"Blau"_s)
+                                 << QStringList{file.arg(1) + u"„Rot“.*USER_1.*„Blau“"_s} << QStringList{u"USER_1"_s}
+                                 << u"USER_1 USER_1"_s;
+    QTest::newRow("a shipped schema under an id of one's own")
+        << u"NIGHT"_s << QStringList{u"Duplicate schema found, aliassed USER_77 by NIGHT"_s} << QStringList()
+        << u"USER_77 NIGHT"_s;
+    QTest::newRow("typing errors") << u"\n<calendararea colorschema='USER_3'><cell type='CALENDAR_CELL_TYPE_SUNDY'/>\n"
+                                      "<cell type='CALENDAR_CELL_TYPE_SUNDAY' textcolorodd='rott'/></calendararea>"_s
+                                   << QStringList{file.arg(2) + u"USER_3.*CALENDAR_CELL_TYPE_SUNDY"_s,
+                                                  file.arg(3) + u"USER_3.*rott"_s}
+                                   << QStringList{u"USER_3"_s} << u"USER_3 USER_3"_s;
+}
+
+void tst_ColorSchema::userFiles()
+{
+    QFETCH(QString, areas);
+    QFETCH(const QStringList, warnings);
+    QFETCH(const QStringList, offered);
+    QFETCH(const QString, hidden);
+    const QFileInfo shipped(u":/mvcalendar/schemas/calendar_schema.xml"_s);
+    const auto plain = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    plain->read(shipped, SCHEMA_VISIBILITY_OFFERED);
+    if (plain->contains(MvCalendariumColorSchemaID(areas))) { // a copy of that one
+        QDomDocument document;
+        QDomElement area = MvXMLBuilder::buildRootElement(document, u"calendararea"_s);
+        plain->findSchema(MvCalendariumColorSchemaID(areas)).write(area, MvCalendariumColorSchemaID(u"USER_77"_s));
+        areas = document.toString();
+    }
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"colors.xml"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write((u"<s>"_s + areas + u"</s>"_s).toUtf8()) > 0);
+    file.close();
+    for (const QString &warning : warnings)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
+    const auto registry = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    registry->read(QFileInfo(file.fileName()), SCHEMA_VISIBILITY_OFFERED);
+    registry->read(shipped, SCHEMA_VISIBILITY_OFFERED);
+    const auto ids = [](const QList<MvCalendariumColorSchemaID> &list) {
+        QSet<QString> texts;
+        for (const MvCalendariumColorSchemaID &id : list)
+            texts.insert(id.toString());
+        return texts;
+    };
+    QCOMPARE(ids(registry->schemaIds()), ids(plain->schemaIds()) + QSet(offered.cbegin(), offered.cend()));
+    QCOMPARE(registry->visibleSchemata().size(), plain->schemaIds().size() + offered.size());
+    QCOMPARE(registry->id(registry->defaultSchema()).toString(), u"PAPER_WHITE"_s);
+    QVERIFY(registry->defaultSchema() == plain->defaultSchema());
+    QCOMPARE(registry->name(MvCalendariumColorSchemaID(u"NIGHT"_s)), u"Nacht"_s);
+    const MvCalendariumColorSchemaID other(hidden.section(u' ', 1));
+    registry->setIgnoreSchema(MvCalendariumColorSchemaID(hidden.section(u' ', 0, 0)));
+    QVERIFY(registry->isIgnoredSchema(other));
+    QVERIFY(!registry->visibleSchemata().contains(registry->findSchema(other)));
+    registry->unsetIgnoreSchema(other);
+    QVERIFY(registry->visibleSchemata().contains(registry->findSchema(other)));
+}
+
+void tst_ColorSchema::idsOfEqualColoursAreKept()
+{
+    auto &registry = MvCalendariumColorSchemaRegistry::instance();
+    const MvCalendariumColorSchemaID night(u"NIGHT"_s);
+    const MvCalendariumColorSchemaID id = registry.recordSchemaUniquely(registry.findSchema(night));
+    QVERIFY(registry.saveSystemUserSchemata());
+    const auto reread = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+    reread->read(MvCalendariumColorSchemaRegistry::systemUserSchemaFile(), SCHEMA_VISIBILITY_OFFERED);
+    QVERIFY(reread->findSchema(id) == registry.findSchema(night));
+    registry.removeId(id);
+    QVERIFY(!registry.contains(id) && registry.contains(night));
+    QVERIFY(registry.saveSystemUserSchemata());
+}
+
+/// Kept, renamed and removed on disk as in the registry; what cannot be saved is not done at all.
+void tst_ColorSchema::userSchemata()
+{
+    auto &registry = MvCalendariumColorSchemaRegistry::instance();
+    const QList<MvCalendariumColorSchemaID> shipped = registry.schemaIds();
+    MvCalendariumColorSchema mine = schema(u"<celldefault bgcolor='#123456'/>"_s);
+    MvBorderConfig grid(Qt::red, MvDistance(3.0), BORDER_POSITION_CENTRED, false);
+    mine.setGridConfig(grid);
+    for (const QString &name : {QString(), u" \n "_s, u"nacht"_s, u"Night"_s, u"OFFICE_RED"_s, QString(99, u'x')})
+        QVERIFY2(!MvUserColorSchemata::keep(mine, name).isOk(), qPrintable(name));
+    QVERIFY(!MvUserColorSchemata::keep(registry.defaultSchema(), u"Neu"_s).isOk()); // exists
+    const MvUserColorSchemata::Result kept = MvUserColorSchemata::keep(mine, u" Unser\nBlau"_s);
+    QCOMPARE(kept.error, QString());
+    QCOMPARE(registry.name(kept.id), u"Unser Blau"_s);
+    QCOMPARE(registry.idWhateverTheGrid(mine), kept.id);
+    const auto onDisk = [] {
+        auto reread = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
+        reread->read(MvCalendariumColorSchemaRegistry::systemUserSchemaFile(), SCHEMA_VISIBILITY_OFFERED);
+        return reread;
+    };
+    QCOMPARE(onDisk()->findSchema(kept.id).gridConfig().color(), QColor(Qt::red));
+    {
+        const MvFileGuard otherProgram(MvCalendariumColorSchemaRegistry::systemUserSchemaFile());
+        const QList<MvCalendariumColorSchemaID> before = registry.schemaIds();
+        QVERIFY(!MvUserColorSchemata::keep(schema(u"<celldefault bgcolor='#654321'/>"_s), u"Grün"_s).isOk());
+        QVERIFY(!MvUserColorSchemata::rename(kept.id, u"Grün"_s).isOk());
+        QVERIFY(!MvUserColorSchemata::remove(kept.id).isOk());
+        QVERIFY(!MvUserColorSchemata::reset().isOk());
+        QCOMPARE(registry.schemaIds(), before);
+        QCOMPARE(registry.name(kept.id), u"Unser Blau"_s);
+    }
+    QVERIFY(MvUserColorSchemata::rename(kept.id, u"unser blau"_s).isOk());
+    QCOMPARE(onDisk()->name(kept.id), u"unser blau"_s);
+    QVERIFY(MvUserColorSchemata::remove(kept.id).isOk());
+    QVERIFY(!onDisk()->contains(kept.id));
+    QVERIFY(MvUserColorSchemata::keep(mine, u"Blau"_s).isOk());
+    registry.setIgnoreSchema(shipped.constLast());
+    QVERIFY(MvUserColorSchemata::reset().isOk());
+    QCOMPARE(registry.schemaIds(), shipped);
+    QVERIFY(onDisk()->schemaIds().isEmpty() && registry.hiddenSchemata().isEmpty());
 }
 
 void tst_ColorSchema::shippedSchemata()

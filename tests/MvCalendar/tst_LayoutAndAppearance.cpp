@@ -53,6 +53,7 @@ private Q_SLOTS:
     void shippedLayouts();
     void namesFollowTheLanguage();
     void userLayoutsAreKept();
+    void mistakesInUserLayouts();
 
     void fontSettings_data();
     void fontSettings();
@@ -205,6 +206,34 @@ void tst_LayoutAndAppearance::userLayoutsAreKept()
     QVERIFY(QFile::remove(MvCalendariumLayoutSchemaRegistry::userSchemaFile()));
 }
 
+void tst_LayoutAndAppearance::mistakesInUserLayouts()
+{
+    const QString path = MvCalendariumLayoutSchemaRegistry::userSchemaFile();
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<l><calendararea layoutschema='DAY_LIST' name='Mein Monat' type='CALENDAR_YEAR'/>\n"
+               "<calendararea layoutschema='USER_1' type='CALENDAR_ONE_WEEK_PER_ROWS'/>\n"
+               "<calendararea layoutschema='USER_2' type='CALENDAR_YEAR' renderinfo='calendar_render_nothing, dayz'>\n"
+               "<cell type='CALENDAR_CELL_TYPE_SUNDY' bordertype='CALENDAR_BORDER_TOPP'/></calendararea>\n"
+               "<calendararea layoutschema='USER_3' type='CALENDAR_YEAR'/>\n"
+               "<calendararea layoutschema='USER_3' type='CALENDAR_MONTH_ONLY'/></l>");
+    file.close();
+    for (const QString &warning :
+         {u":1:\\d+: .*„Mein Monat“.*DAY_LIST"_s, u":2:\\d+: .*USER_1.*_ROWS"_s, u":3:\\d+: .*USER_2.*„dayz“"_s,
+          u":4:\\d+: .*USER_2.*_SUNDY"_s, u":4:\\d+: .*USER_2.*_TOPP"_s, u":5:\\d+: .*„USER_3“"_s})
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QRegularExpression::escape(path) + warning));
+    const MvCalendariumLayoutSchemaRegistry registry;
+    QStringList ids;
+    for (const MvCalendariumLayoutSchema &schema : registry.schemata())
+        ids.append(schema.ID().toString());
+    QCOMPARE(ids.mid(0, 2), (QStringList{u"USER_2"_s, u"USER_3"_s}));
+    QCOMPARE(ids.count(u"DAY_LIST"_s), 1);
+    QVERIFY(!ids.contains(u"USER_1"_s));
+    QCOMPARE(registry.schema(1).calendariumType(), MvCalendariumType(CALENDAR_MONTH_ONLY));
+    QCOMPARE(registry.defaultSchema().ID().toString(), u"MONTH_GRID_CLASSIC"_s);
+    QVERIFY(file.remove());
+}
+
 void tst_LayoutAndAppearance::fontSettings_data()
 {
     QTest::addColumn<QString>("attributes");
@@ -213,6 +242,7 @@ void tst_LayoutAndAppearance::fontSettings_data()
     QTest::newRow("nothing") << QString() << 0 << -50;
     QTest::newRow("old size in steps of ten") << u"fontsize='2'"_s << 20 << -50;
     QTest::newRow("the new size wins") << u"fontsize='2' fontsize_percentage='-10'"_s << -10 << -50;
+    QTest::newRow("beyond measure") << u"fontsize='2147483647' fontsize_percentage_holiddays='-9999'"_s << 900 << -100;
     QTest::newRow("holidays") << u"fontsize_percentage_holiddays='-30'"_s << 0 << -30;
 }
 
@@ -375,6 +405,13 @@ void tst_LayoutAndAppearance::columnHeaders()
     QCOMPARE(appearance.countColumns(), 2);
     appearance.setColumnHeaders(QStringList{u"A"_s, QString(), u"B"_s});
     QCOMPARE(appearance.columnHeaders(), u"A$$$$B"_s);
+    for (const QStringList &headers : {QStringList{u"US$"_s, u"B"_s},
+                                       {u"$"_s, u"$$"_s, u"$$$"_s},
+                                       {u"Papa$$Mama"_s},
+                                       {u"$A"_s, u"$\u2060$"_s, u"B$\u2060"_s}}) {
+        appearance.setColumnHeaders(headers);
+        QCOMPARE(appearance.columnHeadersList(), headers);
+    }
 }
 
 void tst_LayoutAndAppearance::borders_data()

@@ -82,6 +82,8 @@ void tst_MvCalendariumColumnHeadersEditor::typing()
     list->setCurrentIndex(list->model()->index(1, 0)); // opens the field by itself
     auto *field = list->findChild<QLineEdit *>();
     QVERIFY(field);
+    QTest::keyClicks(field, u"Bruno und Co"_s);
+    QTest::mouseDClick(field, Qt::LeftButton); // all of it, not one word
     QTest::keyClicks(field, u"Bruno"_s);
     QTest::keyClick(field, Qt::Key_Return);
     QTRY_COMPARE(changed.size(), 1);

@@ -1,4 +1,5 @@
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
@@ -15,6 +16,8 @@ class tst_MvProjectFile : public MvTest
 private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
+    void roundTripOfAppearances_data();
+    void roundTripOfAppearances();
     void writesNothingThatDoesNotOpenAgain();
     void photosMoveWithTheirFolder();
     void keepsUnknownSchemas();
@@ -98,6 +101,58 @@ void tst_MvProjectFile::roundTrip()
     QCOMPARE(MvProjectFile::toBytes(content.document, folder), MvProjectFile::toBytes(calendar, folder));
 }
 
+void tst_MvProjectFile::roundTripOfAppearances_data()
+{
+    QTest::addColumn<QString>("layout");
+    for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata())
+        QTest::newRow(qPrintable(layout.ID().toString())) << layout.ID().toString();
+}
+
+/// A page for each schema, shipped, kept by the user or the page's own, with each state of the grid and of the
+/// switches.
+void tst_MvProjectFile::roundTripOfAppearances()
+{
+    QFETCH(const QString, layout);
+    MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    MvCalendariumColorSchema own = registry.defaultSchema();
+    own.setGridConfig(
+        MvBorderConfig(QColor::fromHsvF(0.1F, 0.2F, 0.3F), MvDistance(4.5), BORDER_POSITION_CENTRED, true));
+    MvCalendariumColorSchema kept = own;
+    kept.copyColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_WEEKDAY);
+    const auto forget = qScopeGuard([&registry, id = registry.record(kept)] { registry.removeId(id); });
+    QList<MvCalendariumAppearance> looks;
+    for (const MvCalendariumColorSchema &schema : registry.allSchemata() + QList<MvCalendariumColorSchema>{own}) {
+        for (const int state : {0, 1, 2}) {
+            MvCalendariumAppearance look = appearance(layout).createVariant(schema);
+            MvBorderConfig grid = look.gridConfig();
+            grid.setIsEnabled(state > 0);
+            if (state == 2)
+                grid.setColor(Qt::magenta);
+            look.setGridConfig(grid);
+            look.setShowHolidays(state != 1);
+            look.setOverrideShowCalendarWeek(state == 2);
+            look.setOffsetMonth(state - 1);
+            looks.append(look);
+        }
+    }
+    const int monthsPerPage = 12 / int(document(layout).pages().size());
+    MvCalendarDocument calendar = document(layout, int(looks.size()) * monthsPerPage);
+    for (int number = 0; number < looks.size(); ++number) {
+        MvCalendarPage page = calendar.pages().at(number);
+        page.setAppearance(looks.at(number));
+        calendar.setPage(number, page);
+    }
+    QCOMPARE(MvProjectFile::write(calendar, file()), QString());
+    const MvProjectFile::Content content = MvProjectFile::read(file());
+    QCOMPARE(content.notes, QStringList());
+    for (int number = 0; number < looks.size(); ++number) {
+        const MvCalendariumAppearance read = content.document.pages().at(number).appearance();
+        QCOMPARE(read.colorSchema().describeDifference(looks.at(number).colorSchema()),
+                 u"MvCalendariumColorSchema: no difference."_s);
+    }
+    QVERIFY(content.document == calendar);
+}
+
 void tst_MvProjectFile::writesNothingThatDoesNotOpenAgain()
 {
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
@@ -170,9 +225,17 @@ void tst_MvProjectFile::mendsWhatItCan_data()
                                     << QList<QDate>{january} << u"2030-01"_s;
     QTest::newRow("a range the wrong way round") << paper + "<range first='2028-01' last='2027-01'/>" + page("2027-01")
                                                  << QList<QDate>{january} << u"Zeitraum"_s;
-    QTest::newRow("a photo nowhere") << paper +
-                                            page("2027-01").replace("</page>", "<photo path='a.jpg' share='9'/></page>")
+    QTest::newRow("a photo nowhere") << paper + page("2027-01").replace("</page>", "<photo path='a.jpg'/></page>")
                                      << QList<QDate>{january} << u"Foto"_s;
+    for (const auto &[attribute, taken] : {std::pair("offsetmonth='2147483647'", "1200"),
+                                           {"fontsize_percentage='99999'", "900"},
+                                           {"fontsize_percentage_holiddays='viel'", "-50"},
+                                           {"font-letter-spacing='-1e9'", "-100"}})
+        QTest::newRow(attribute) << paper + page("2027-01").replace("DAY_LIST'", QByteArray("DAY_LIST' ") + attribute)
+                                 << QList<QDate>{january} << QString::fromUtf8(taken);
+    QTest::newRow("a share of nine pages")
+        << paper + page("2027-01").replace("</page>", "<photo path='a.jpg' placement='top' share='9'/></page>")
+        << QList<QDate>{january} << u"0.75"_s;
 }
 
 void tst_MvProjectFile::mendsWhatItCan()

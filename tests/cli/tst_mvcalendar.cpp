@@ -31,6 +31,8 @@ private Q_SLOTS:
     void regionByNameOrCode();
     void lists_data();
     void lists();
+    void colors();
+    void usersSchemataAreNoDefaults();
     void regions();
     void rendersPdf_data();
     void rendersPdf();
@@ -67,6 +69,7 @@ private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     void write(const QString &path, const QByteArray &content) const;
     QList<QImage> render(const QStringList &extraArguments) const;
+    void forgetUserSchemata() const;
 
     QDir m_userFolder;
     std::unique_ptr<QTemporaryDir> m_folder; // the program's working directory
@@ -123,6 +126,12 @@ void tst_mvcalendar::write(const QString &path, const QByteArray &content) const
     QCOMPARE(file.write(content), content.size());
 }
 
+void tst_mvcalendar::forgetUserSchemata() const
+{
+    for (const QString &name : m_userFolder.entryList({u"000-user-*"_s}, QDir::Files | QDir::Hidden))
+        QFile::remove(m_userFolder.filePath(name));
+}
+
 /// January to March 2027 as small pictures.
 QList<QImage> tst_mvcalendar::render(const QStringList &extraArguments) const
 {
@@ -164,6 +173,12 @@ void tst_mvcalendar::refuses_data()
     row("unknown layout", u"render --layout MONTH_GRID_CLASIC -o a.pdf"_s, 2,
         {u"MONTH_GRID_LINES"_s, u"meinten Sie „MONTH_GRID_CLASSIC“"_s});
     row("unknown colours", u"render --colors PAPER_WHIT -o a.pdf"_s, 2, {u"NIGHT"_s, u"meinten Sie „PAPER_WHITE“"_s});
+    row("colours from nowhere", u"colors --save Blau"_s, 2, {u"--from"_s});
+    row("two things at once", u"colors --hide NIGHT --reset"_s, 2, {u"--hide"_s, u"--reset"_s});
+    row("removing what is shipped", u"colors --remove NIGHT"_s, 2, {u"NIGHT"_s, u"--hide"_s});
+    row("hiding what there is not", u"colors --hide NIGT"_s, 2, {u"meinten Sie „NIGHT“"_s});
+    row("a name that is taken", u"colors --save nacht --from k.mvcalendar"_s, 2, {u"„nacht“"_s});
+    row("colours of no file", u"colors --save Blau --from fehlt.xml"_s, 1, {u"fehlt.xml"_s});
     row("unknown paper", u"render --page A9 -o a.pdf"_s, 2, {u"A9"_s, u"A0, A1"_s});
     row("upright and across", u"render --landscape --portrait -o a.pdf"_s, 2, {u"--portrait"_s});
     row("too much bleed", u"render --bleed 21 -o a.pdf"_s, 2, {u"21"_s, u"20"_s});
@@ -301,6 +316,55 @@ void tst_mvcalendar::lists()
         QCOMPARE(QString::fromUtf8(lines[i]).section(u' ', 0, 0), id);
         QVERIFY(QString::fromUtf8(lines[i]).endsWith(u"  "_s + name));
     }
+}
+
+/// Colours of a project become a schema of the user's, which is offered, hidden, shown, renamed and removed.
+void tst_mvcalendar::colors()
+{
+    const auto tidy = qScopeGuard([this] { forgetUserSchemata(); });
+    write(path(u"k.mvcalendar"_s),
+          "<calendarproject version='1'><page month='2027-02'><calendarium layoutschema='DAY_LIST' font=''>"
+          "<colorschema><celldefault bgcolor='#ffeedd'/></colorschema></calendarium><content language='de_DE'/></page>"
+          "</calendarproject>");
+    const auto colors = [this](const QString &arguments) { return run((u"colors "_s + arguments).split(u' ')); };
+    const QByteArray kept = colors(u"--save Sand --from k.mvcalendar"_s).out;
+    QVERIFY2(QRegularExpression(u"^USER_\\d+  Sand\n$"_s).match(QString::fromUtf8(kept)).hasMatch(), kept.constData());
+    QCOMPARE(colors(u"--save Staub --from k.mvcalendar"_s).exitCode, 1); // the same again
+    const QString id = QString::fromUtf8(kept).section(u' ', 0, 0);
+    QVERIFY(run({u"colors"_s}).out.contains("Sand"));
+    for (const QString &arguments : {u"--hide sand"_s, u"--hide WARM_PAPER"_s, u"--rename %1 --to Dunes"_s.arg(id)})
+        QCOMPARE(colors(arguments).exitCode, 0);
+    QVERIFY(!run({u"colors"_s}).out.contains("Dunes"));
+    QCOMPARE(colors(u"--hidden"_s).outLines().size(), 2);
+    QCOMPARE(colors(u"--show warm_paper"_s).exitCode, 0);
+    QCOMPARE(colors(u"--hidden"_s).out, id.toUtf8() + "  Dunes\n");
+    QCOMPARE(colors(u"--remove dunes"_s).exitCode, 0);
+    QCOMPARE(colors(u"--save Sand --from k.mvcalendar"_s).exitCode, 0);
+    QCOMPARE(colors(u"--reset"_s).exitCode, 0);
+    QVERIFY(!run({u"colors"_s}).out.contains("USER_"));
+}
+
+void tst_mvcalendar::usersSchemataAreNoDefaults()
+{
+    const auto tidy = qScopeGuard([this] { forgetUserSchemata(); });
+    const auto page = [this](const QStringList &options) {
+        const Call call = run(
+            QStringList{u"render"_s, u"--from"_s, u"2027-03"_s, u"--months"_s, u"1"_s, u"-o"_s, u"p.svg"_s} + options);
+        return call.exitCode == 0 ? contentOf(path(u"p.svg"_s)) : call.err;
+    };
+    const QStringList warm{u"--colors"_s, u"Warmes Papier"_s, u"--layout"_s, u"Tagesliste"_s};
+    const QByteArray plain = page({});
+    const QByteArray named = page(warm);
+    write(m_userFolder.filePath(u"000-user-calendar-schema.xml"_s),
+          "<s><calendararea colorschema='USER_1' name='Warmes Papier'><celldefault bgcolor='#ff0000'/></calendararea>"
+          "<calendararea colorschema='PAPER_WHITE'><celldefault bgcolor='#00ff00'/></calendararea></s>");
+    write(m_userFolder.filePath(u"000-user-calendar-layout.xml"_s),
+          "<l><calendararea layoutschema='USER_1' name='Tagesliste' type='CALENDAR_YEAR'/></l>");
+    QCOMPARE(page({}), plain);
+    QCOMPARE(page(warm), named);
+    QVERIFY(page({u"--colors"_s, u"user_1"_s}) != plain);
+    const QByteArray warning = run({u"colors"_s}).err;
+    QVERIFY2(warning.count('\n') == 1 && warning.contains("000-user-calendar-schema.xml:1:"), warning.constData());
 }
 
 void tst_mvcalendar::regions()

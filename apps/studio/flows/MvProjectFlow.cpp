@@ -56,11 +56,9 @@ MvCalendarDocument MvProjectFlow::firstDocument()
 {
     MvCalendarDocument document;
     MvCalendariumAppearance appearance;
-    appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().schema(0));
+    appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().defaultSchema());
     appearance.adoptLayoutSuggestions();
-    const MvCalendariumColorSchemaList colors = MvCalendariumColorSchemaRegistry::instance().visibleSchemata();
-    if (!colors.isEmpty())
-        appearance.setColorSchema(colors.first());
+    appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().defaultSchema());
     appearance.adaptGridToLayout();
     document.setAppearance(appearance);
     MvCalendariumHolidayConfig holidays = document.holidayConfig();

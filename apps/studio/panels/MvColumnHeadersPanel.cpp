@@ -27,6 +27,14 @@ MvCalendariumLayoutSchema layoutWithColumns()
     return found != schemata.end() ? *found : MvCalendariumLayoutSchema();
 }
 
+const QString blank = u" "_s; // a column without a name, in the calendar
+
+QStringList replaced(QStringList headers, const QString &from, const QString &to)
+{
+    std::replace(headers.begin(), headers.end(), from, to);
+    return headers;
+}
+
 } // namespace
 
 MvColumnHeadersPanel::MvColumnHeadersPanel(MvPageEdits *edits, QWidget *parent)
@@ -76,7 +84,9 @@ void MvColumnHeadersPanel::showPage()
     const MvCalendariumAppearance appearance = edits()->page().appearance();
     const bool hasColumns = appearance.type() == CALENDAR_ONE_DAY_PER_ROW;
     m_stack->setCurrentWidget(hasColumns ? m_editing : m_emptyState);
-    const QStringList headers = appearance.columnHeaders().split(u"$$"_s); // empty ones are columns, too
+    QStringList headers = replaced(appearance.columnHeadersList(), blank, QString());
+    if (headers.isEmpty())
+        headers.append(QString()); // which the editor shows
     if (hasColumns && headers != m_editor->headers())
         m_editor->setHeaders(headers);
 }
@@ -85,9 +95,11 @@ void MvColumnHeadersPanel::onHeadersChanged(const QList<QString> &headers)
 {
     if (isShowing())
         return;
-    const auto apply = [&headers](MvCalendarPage &page) {
+    const bool isNone = headers.size() == 1 && headers.constFirst().isEmpty();
+    const QStringList columns = isNone ? QStringList() : replaced(headers, QString(), blank);
+    const auto apply = [&columns](MvCalendarPage &page) {
         MvCalendariumAppearance appearance = page.appearance();
-        appearance.setColumnHeaders(headers);
+        appearance.setColumnHeaders(columns);
         page.setAppearance(appearance);
     };
     edits()->edit(apply, tr("Spaltenüberschriften ändern"), MvStudioMerge::ColumnHeaders);

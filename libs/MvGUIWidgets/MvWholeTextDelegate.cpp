@@ -1,0 +1,14 @@
+#include "MvGUIWidgets/MvWholeTextDelegate.h"
+
+#include <QEvent>
+#include <QLineEdit>
+
+bool MvWholeTextDelegate::eventFilter(QObject *editor, QEvent *event)
+{
+    auto *line = qobject_cast<QLineEdit *>(editor);
+    if (line && event->type() == QEvent::MouseButtonDblClick) {
+        line->selectAll();
+        return true;
+    }
+    return QStyledItemDelegate::eventFilter(editor, event);
+}
