@@ -634,6 +634,13 @@
     </message>
 </context>
 <context>
+    <name>MvCalendariumColorSchemaRegistry</name>
+    <message>
+        <source>Das Farbschema „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, die mit USER_ beginnt, bringt es zurück.</source>
+        <translation>The colour scheme “%1” is left out, because “%3” has its id %2, too. Another one that begins with USER_ brings it back.</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendariumColumnHeadersEditor</name>
     <message>
         <source>Anzahl der Spalten</source>
@@ -715,6 +722,13 @@
     <message>
         <source> %</source>
         <translation> %</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumLayoutSchemaRegistry</name>
+    <message>
+        <source>Das Layout „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, die mit USER_ beginnt, bringt es zurück.</source>
+        <translation>The layout “%1” is left out, because “%3” has its id %2, too. Another one that begins with USER_ brings it back.</translation>
     </message>
 </context>
 <context>
@@ -920,6 +934,85 @@
     </message>
 </context>
 <context>
+    <name>MvColorSchemaShelf</name>
+    <message>
+        <source>Eigene Farben behalten …</source>
+        <translation>Keep own colours …</translation>
+    </message>
+    <message>
+        <source>Gibt den eigenen Farben dieser Seite einen Namen und bietet sie in allen Kalendern an</source>
+        <translation>Gives the own colours of this page a name and offers them in all calendars</translation>
+    </message>
+    <message>
+        <source>Verwalten</source>
+        <translation>Manage</translation>
+    </message>
+    <message>
+        <source>Farbschemata umbenennen, löschen, aus- und einblenden</source>
+        <translation>Rename, delete, hide and show colour schemes</translation>
+    </message>
+    <message>
+        <source>„%1“ umbenennen …</source>
+        <translation>Rename “%1” …</translation>
+    </message>
+    <message>
+        <source>„%1“ löschen …</source>
+        <translation>Delete “%1” …</translation>
+    </message>
+    <message>
+        <source>„%1“ wieder anbieten</source>
+        <translation>Offer “%1” again</translation>
+    </message>
+    <message>
+        <source>„%1“ ausblenden</source>
+        <translation>Hide “%1”</translation>
+    </message>
+    <message>
+        <source>Auf die mitgelieferten zurücksetzen …</source>
+        <translation>Reset to those that came with it …</translation>
+    </message>
+    <message>
+        <source>Ausgeblendete</source>
+        <translation>Hidden ones</translation>
+    </message>
+    <message>
+        <source>Meine Farben</source>
+        <translation>My colours</translation>
+    </message>
+    <message>
+        <source>Eigene Farben behalten</source>
+        <translation>Keep own colours</translation>
+    </message>
+    <message>
+        <source>Farbschema umbenennen</source>
+        <translation>Rename colour scheme</translation>
+    </message>
+    <message>
+        <source>Das Farbschema „%1“ löschen?</source>
+        <translation>Delete the colour scheme “%1”?</translation>
+    </message>
+    <message>
+        <source>Kalender, die es zeigen, behalten ihre Farben.</source>
+        <translation>Calendars that show it keep their colours.</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Alle eigenen Farbschemata löschen und ausgeblendete wieder anbieten?</source>
+        <translation>Delete all colour schemes of your own and offer the hidden ones again?</translation>
+    </message>
+    <message>
+        <source>Kalender, die sie zeigen, behalten ihre Farben.</source>
+        <translation>Calendars that show them keep their colours.</translation>
+    </message>
+    <message>
+        <source>Zurücksetzen</source>
+        <translation>Reset</translation>
+    </message>
+</context>
+<context>
     <name>MvColorSwatch</name>
     <message>
         <source>Durchsichtig</source>
@@ -936,6 +1029,69 @@
     <message>
         <source>%1, %2 % deckend</source>
         <translation>%1, %2 % opaque</translation>
+    </message>
+</context>
+<context>
+    <name>MvColorsCommand</name>
+    <message>
+        <source>Weitere Seiten haben andere eigene Farben; behalten werden die ersten.</source>
+        <translation>Other pages have other colours of their own; the first ones are kept.</translation>
+    </message>
+    <message>
+        <source>%1: das ist weder ein Projekt noch eine Datei mit genau einem Farbschema</source>
+        <translation>%1: this is neither a project nor a file with exactly one colour scheme</translation>
+    </message>
+    <message>
+        <source>zählt die Farbschemata auf, behält eigene, blendet welche aus</source>
+        <translation>lists the colour schemes, keeps your own, hides some</translation>
+    </message>
+    <message>
+        <source>zählt die ausgeblendeten auf</source>
+        <translation>lists the hidden ones</translation>
+    </message>
+    <message>
+        <source>behält die Farben der Datei --from als eigenes Farbschema</source>
+        <translation>keeps the colours of the file --from as a colour scheme of your own</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>ein Projekt, oder eine Datei mit einem Farbschema</source>
+        <translation>a project, or a file with one colour scheme</translation>
+    </message>
+    <message>
+        <source>nennt ein eigenes Farbschema um in --to</source>
+        <translation>renames a colour scheme of your own to --to</translation>
+    </message>
+    <message>
+        <source>der neue Name</source>
+        <translation>the new name</translation>
+    </message>
+    <message>
+        <source>löscht ein eigenes Farbschema; Projekte behalten ihre Farben</source>
+        <translation>deletes a colour scheme of your own; projects keep their colours</translation>
+    </message>
+    <message>
+        <source>bietet ein Farbschema nicht mehr an</source>
+        <translation>offers a colour scheme no more</translation>
+    </message>
+    <message>
+        <source>bietet es wieder an</source>
+        <translation>offers it again</translation>
+    </message>
+    <message>
+        <source>löscht alle eigenen und bietet alle ausgeblendeten wieder an</source>
+        <translation>deletes all of your own and offers all hidden ones again</translation>
+    </message>
+    <message>
+        <source>--%1 und --%2 gehören zusammen</source>
+        <translation>--%1 and --%2 belong together</translation>
+    </message>
+    <message>
+        <source>--%1 „%2“: das ist kein eigenes Farbschema; ausblenden lässt es sich mit --hide</source>
+        <translation>--%1 “%2”: this is no colour scheme of your own; --hide hides it</translation>
     </message>
 </context>
 <context>
@@ -2504,6 +2660,10 @@ Save it under another name or in another folder.</translation>
         <source>Eine frühere Fassung liegt daneben: %1</source>
         <translation>An earlier version lies beside it: %1</translation>
     </message>
+    <message>
+        <source>%1 „%2“ geht nicht; es gilt %3.</source>
+        <translation>%1 “%2” is not possible; it becomes %3.</translation>
+    </message>
 </context>
 <context>
     <name>MvProjectRecovery</name>
@@ -2564,10 +2724,6 @@ Save it under another name or in another folder.</translation>
 </context>
 <context>
     <name>MvRenderCommand</name>
-    <message>
-        <source>--%1 „%2“: erlaubt sind %3</source>
-        <translation>--%1 “%2”: allowed are %3</translation>
-    </message>
     <message>
         <source>Kalender %1</source>
         <translation>Calendar %1</translation>
@@ -2862,6 +3018,21 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvSchemaFileCheck</name>
+    <message>
+        <source>Farbe</source>
+        <translation>colour</translation>
+    </message>
+    <message>
+        <source>Das Layout %1 bleibt weg: seine Art (type) „%2“ gibt es nicht.</source>
+        <translation>The layout %1 is left out: there is no kind (type) “%2”.</translation>
+    </message>
+    <message>
+        <source>%1: „%2“ gibt es nicht (%3); es zählt nicht.</source>
+        <translation>%1: there is no “%2” (%3); it does not count.</translation>
+    </message>
+</context>
+<context>
     <name>MvSchemaListCommand</name>
     <message>
         <source>zählt die Layouts auf</source>
@@ -2870,6 +3041,17 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>zählt die Farbschemata auf</source>
         <translation>lists the colour schemes</translation>
+    </message>
+    <message>
+        <source>--%1 „%2“: erlaubt sind %3</source>
+        <translation>--%1 “%2”: allowed are %3</translation>
+    </message>
+</context>
+<context>
+    <name>MvSchemaNameDialog</name>
+    <message>
+        <source>&amp;Name des Farbschemas:</source>
+        <translation>&amp;Name of the colour scheme:</translation>
     </message>
 </context>
 <context>
@@ -3449,6 +3631,25 @@ Designs photo calendars and prints them.
     <message>
         <source>Einträge löschen</source>
         <translation>Delete entries</translation>
+    </message>
+</context>
+<context>
+    <name>MvUserColorSchemata</name>
+    <message>
+        <source>Es fehlt ein Name.</source>
+        <translation>A name is missing.</translation>
+    </message>
+    <message>
+        <source>Der Name ist länger als %1 Zeichen.</source>
+        <translation>The name is longer than %1 letters.</translation>
+    </message>
+    <message>
+        <source>Ein Farbschema „%1“ gibt es schon.</source>
+        <translation>There is a colour scheme “%1” already.</translation>
+    </message>
+    <message>
+        <source>Diese Farben gibt es schon: %1 („%2“).</source>
+        <translation>These colours exist already: %1 (“%2”).</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include "panels/MvStudioPanels.h"
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCore/MvFileGuard.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
 #include "MvWidgetTest.h"
@@ -49,6 +50,27 @@ struct OpenPanels
             texts.append(stack->text(step));
         return texts;
     }
+    QStringList tiles() const
+    {
+        QStringList names;
+        const auto *picker = find<QListWidget>(u"colorSchemaPicker"_s);
+        for (int row = 0; row < picker->count(); ++row)
+            names.append(picker->item(row)->text());
+        return names;
+    }
+    /// Chooses from the menu of colour schemas.
+    void manage(const QString &action) const
+    {
+        QMenu *menu = find<QToolButton>(u"manageSchemata"_s)->menu();
+        Q_EMIT menu->aboutToShow();
+        menu->findChild<QAction *>(action)->trigger();
+    }
+    void agree(const QString &question) const
+    {
+        auto *box = find<QMessageBox>(question);
+        box->findChild<QPushButton *>(u"agreeButton"_s)->click();
+        delete box;
+    }
     /// Edits that come later, as by queued signals, have come.
     static void settle() { QTest::qWait(20); }
 
@@ -79,6 +101,8 @@ private Q_SLOTS:
     void holidaysKeepWhatTheEditorDoesNotShow();
     void gridOnAndOff();
     void recolouringLeavesTheShippedSchema();
+    void ownColorsStayAtHand();
+    void ownColorsAreKept();
     void yearsForAllPages();
     void columnHeaders();
     void picturesOfLayouts();
@@ -254,14 +278,97 @@ void tst_MvStudioPanels::recolouringLeavesTheShippedSchema()
     MvProject read;
     QVERIFY(read.open(file));
     QCOMPARE(read.document().pages().at(4).appearance().colorSchema(), open.look(4).colorSchema());
-    MvUndoController::instance().clear();
 
     picker->setCurrentRow(1); // the shipped one follows the own one
     QCOMPARE(open.look(4).cellColor(MvCalendarCellColorKey(MvCalendarCellColorRoleEnum::bgcolor,
                                                            CALENDAR_CELL_TYPE_SUNDAY, MvParityLogicEnum::even)),
              shipped.cellColor(MvCalendarCellColorKey(MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_SUNDAY,
                                                       MvParityLogicEnum::even)));
+    QCOMPARE(picker->count(), rows); // the own ones are still at hand
+    QVERIFY(open.project.save());
     QCOMPARE(picker->count(), rows - 1);
+}
+
+void tst_MvStudioPanels::ownColorsStayAtHand()
+{
+    const OpenPanels open;
+    open.find<QTabWidget>(u"layoutTabs"_s)->setCurrentIndex(1);
+    auto *picker = open.find<MvColorSchemaPicker>(u"colorSchemaPicker"_s);
+    auto *table = open.find<QTableView>(u"tableView"_s);
+    const QStringList shipped = open.tiles();
+    const int height = picker->height();
+    const auto recolour = [table](const QColor &color) {
+        table->model()->setData(table->model()->index(0, 1), color, Qt::EditRole);
+    };
+    recolour(QColor(1, 2, 3));
+    open.forThisPage();
+    recolour(QColor(4, 5, 6));
+    QCOMPARE(open.tiles(), (QStringList{u"Eigene Farben"_s, u"Eigene Farben 2"_s} + shipped));
+    QCOMPARE(picker->currentRow(), 1);
+    const MvCalendariumColorSchema own = open.look(1).colorSchema();
+    picker->setCurrentRow(4);
+    QCOMPARE(open.tiles().size(), shipped.size() + 2);
+    picker->setCurrentRow(1);
+    QCOMPARE(open.look(1).colorSchema(), own);
+    for (int step = 0; step < 3; ++step)
+        MvUndoController::instance().undo();
+    QCOMPARE(open.tiles(), QStringList{u"Eigene Farben"_s} + shipped); // those of the page alone are undone
+    QCOMPARE(picker->height(), height);                                // what stands below has not moved
+    MvUndoController::instance().undo();
+    QCOMPARE(open.tiles(), shipped);
+}
+
+/// Under a name, for all calendars: no step of the document's.
+void tst_MvStudioPanels::ownColorsAreKept()
+{
+    OpenPanels open;
+    open.find<QTabWidget>(u"layoutTabs"_s)->setCurrentIndex(1);
+    auto *picker = open.find<MvColorSchemaPicker>(u"colorSchemaPicker"_s);
+    auto *keep = open.find<QPushButton>(u"keepColors"_s);
+    QVERIFY(!keep->isEnabled());
+    const QStringList shipped = open.tiles();
+    auto *table = open.find<QTableView>(u"tableView"_s);
+    table->model()->setData(table->model()->index(0, 1), QColor(1, 2, 3), Qt::EditRole);
+    const auto answerName = [&open](const QString &name, bool isPossible) {
+        auto *dialog = open.find<QDialog>(u"schemaNameDialog"_s);
+        dialog->findChild<QLineEdit *>()->setText(name);
+        QCOMPARE(dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->isEnabled(), isPossible);
+        dialog->done(isPossible ? QDialog::Accepted : QDialog::Rejected);
+        delete dialog;
+    };
+    keep->click();
+    answerName(u"NACHT"_s, false);
+    {
+        QVERIFY(QDir().mkpath(MvCalendariumColorSchemaRegistry::systemUserSchemaFile().path()));
+        const MvFileGuard otherProgram(MvCalendariumColorSchemaRegistry::systemUserSchemaFile());
+        keep->click();
+        answerName(u"Sand & Meer"_s, true);
+        QVERIFY(open.find<QMessageBox>(u"errorMessage"_s)->text().contains(u"000-user-calendar-schema.xml"_s));
+        delete open.find<QMessageBox>(u"errorMessage"_s);
+        QCOMPARE(open.tiles(), QStringList{u"Eigene Farben"_s} + shipped);
+    }
+    keep->click();
+    answerName(u"Sand & Meer"_s, true);
+    QCOMPARE(open.tiles(), QStringList{u"Sand & Meer"_s} + shipped);
+    QCOMPARE(picker->currentRow(), 0);
+    QCOMPARE(open.undoTexts(), QStringList{u"Farben ändern"_s});
+
+    open.manage(u"renameSchema"_s);
+    answerName(u"Sand"_s, true);
+    open.manage(u"hideSchema"_s); // stays in sight as long as the page has it
+    QCOMPARE(open.tiles(), QStringList{u"Sand"_s} + shipped);
+    picker->setCurrentRow(1);
+    QCOMPARE(open.tiles(), shipped);
+    MvUndoController::instance().undo();
+    open.manage(u"showSchema"_s);
+    open.manage(u"deleteSchema"_s);
+    open.agree(u"deleteSchemaQuestion"_s);
+    QCOMPARE(open.tiles(), QStringList{u"Eigene Farben"_s} + shipped);
+    keep->click();
+    answerName(u"Sand"_s, true);
+    open.manage(u"resetSchemata"_s);
+    open.agree(u"resetSchemataQuestion"_s);
+    QCOMPARE(open.tiles(), QStringList{u"Eigene Farben"_s} + shipped);
 }
 
 void tst_MvStudioPanels::yearsForAllPages()
@@ -293,6 +400,11 @@ void tst_MvStudioPanels::columnHeaders()
     QCOMPARE(open.look(3).columnHeadersList(), QStringList({u"Mama"_s, u"Papa"_s, u"Kind 1"_s, u"Kind 2"_s, u"Oma"_s}));
     MvUndoController::instance().undo();
     QCOMPARE(columns->value(), 4);
+    columns->setValue(6); // those without a name are columns, too
+    QCOMPARE(open.look(3).countColumns(), 6);
+    QVERIFY(list->model()->setData(list->model()->index(3, 0), u"US$"_s));
+    QCOMPARE(list->model()->index(4, 0).data().toString(), QString());
+    QCOMPARE(open.look(3).columnHeadersList().mid(3), QStringList({u"US$"_s, u" "_s, u" "_s}));
 }
 
 /// They have the page's colours, its lines too, and the page's own layout is in sight.

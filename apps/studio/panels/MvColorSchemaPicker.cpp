@@ -1,8 +1,10 @@
 #include "panels/MvColorSchemaPicker.h"
 
+#include "MvCalendar/MvCalendarCellColorInfo.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 
 #include <QEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QScopedValueRollback>
@@ -14,19 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int idRole = Qt::UserRole;
 constexpr QSize swatchSize(78, 44); // logical pixels
 constexpr int swatchColumns = 7;
 constexpr int swatchRows = 3;
 constexpr int gap = 10;
 constexpr int textLines = 2;
-
-bool haveSameColors(const MvCalendariumColorSchema &a, const MvCalendariumColorSchema &b)
-{
-    MvCalendariumColorSchema sameGrid = a;
-    sameGrid.setGridConfig(b.gridConfig());
-    return sameGrid == b;
-}
 
 MvCalendarCellType dayType(int column)
 {
@@ -58,23 +52,79 @@ MvColorSchemaPicker::MvColorSchemaPicker(QWidget *parent)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // as high as its content: what stands around it scrolls
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTextElideMode(Qt::ElideRight);
-    const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
-    for (const MvCalendariumColorSchema &schema : registry.visibleSchemata()) {
-        const MvCalendariumColorSchemaID id = registry.id(schema);
-        addSchema(count(), schema, registry.name(id), id.toString());
-    }
     connect(this, &QListWidget::currentRowChanged, this, &MvColorSchemaPicker::onRowChanged);
 }
 
-void MvColorSchemaPicker::addSchema(int row, const MvCalendariumColorSchema &schema, const QString &name,
-                                    const QString &objectId)
+MvCalendariumColorSchemaID MvColorSchemaPicker::registeredId(const MvCalendariumColorSchema &schema)
 {
-    auto *item = new QListWidgetItem(swatch(schema), name);
-    item->setData(idRole, objectId);
-    item->setToolTip(name);
-    item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_schemata.insert(row, schema);
-    insertItem(row, item);
+    const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    const MvCalendariumColorSchemaID known = registry.idWhateverTheGrid(schema);
+    if (known.isValid() || schema.gridConfig().isEnabled())
+        return known;
+    const MvCalendariumColorSchemaList all = registry.allSchemata();
+    const auto same = std::find_if(all.cbegin(), all.cend(), [&schema](const MvCalendariumColorSchema &registered) {
+        return registered.cellColors() == schema.cellColors();
+    });
+    return same != all.cend() ? registry.id(*same) : MvCalendariumColorSchemaID();
+}
+
+QList<MvColorSchemaPicker::Tile> MvColorSchemaPicker::tilesOf(const MvCalendariumColorSchemaID &marked,
+                                                              const QList<MvCalendariumColorSchema> &ownColors)
+{
+    QList<Tile> tiles;
+    for (const MvCalendariumColorSchema &own : ownColors) {
+        const QString name = tr("Eigene Farben");
+        tiles.append({own, {}, tiles.isEmpty() ? name : u"%1 %2"_s.arg(name).arg(tiles.size() + 1)});
+    }
+    const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    QList<MvCalendariumColorSchema> offered = registry.visibleSchemata();
+    const MvCalendariumColorSchema inUse = registry.findSchema(marked);
+    if (inUse.isValid() && !offered.contains(inUse))
+        offered.append(inUse);
+    std::stable_partition(offered.begin(), offered.end(), [](const auto &schema) { return schema.isUserSchema(); });
+    for (const MvCalendariumColorSchema &schema : std::as_const(offered)) {
+        const MvCalendariumColorSchemaID id = registry.id(schema);
+        tiles.append({schema, id, registry.name(id)});
+    }
+    return tiles;
+}
+
+void MvColorSchemaPicker::showSchemata(const MvCalendariumColorSchema &marked,
+                                       const QList<MvCalendariumColorSchema> &ownColors)
+{
+    const QScopedValueRollback<bool> marking(m_isMarking, true);
+    const MvCalendariumColorSchemaID id = registeredId(marked);
+    setTiles(tilesOf(id, ownColors));
+    const auto found = std::find_if(m_tiles.cbegin(), m_tiles.cend(), [&](const Tile &tile) {
+        return id.isValid() ? tile.id == id : tile.schema == marked;
+    });
+    setCurrentRow(found != m_tiles.cend() ? int(found - m_tiles.cbegin()) : -1);
+    adaptHeight();
+}
+
+/// Only what changes: a click may be under way on what stays.
+void MvColorSchemaPicker::setTiles(const QList<Tile> &tiles)
+{
+    for (int row = count() - 1; row >= 0; --row) {
+        if (!tiles.contains(m_tiles.at(row))) {
+            m_tiles.removeAt(row);
+            delete takeItem(row);
+        }
+    }
+    for (int row = 0; row < tiles.size(); ++row) {
+        const Tile &tile = tiles.at(row);
+        if (row < m_tiles.size() && m_tiles.at(row) == tile)
+            continue;
+        if (const qsizetype later = m_tiles.indexOf(tile); later >= 0) {
+            m_tiles.removeAt(later);
+            delete takeItem(int(later));
+        }
+        auto *item = new QListWidgetItem(swatch(tile.schema), tile.name);
+        item->setToolTip(tile.name);
+        item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        m_tiles.insert(row, tile);
+        insertItem(row, item);
+    }
 }
 
 /// Three weeks of days on the schema's paper.
@@ -119,30 +169,17 @@ QIcon MvColorSchemaPicker::swatch(const MvCalendariumColorSchema &schema) const
     return icon;
 }
 
-void MvColorSchemaPicker::setColorSchema(const MvCalendariumColorSchema &schema)
-{
-    const QScopedValueRollback<bool> marking(m_isMarking, true);
-    if (m_hasOwn) {
-        m_schemata.removeFirst();
-        delete takeItem(0);
-        m_hasOwn = false;
-    }
-    const auto same = std::find_if(m_schemata.begin(), m_schemata.end(),
-                                   [&schema](const auto &known) { return haveSameColors(known, schema); });
-    int row = same != m_schemata.end() ? int(same - m_schemata.begin()) : -1;
-    if (row < 0 && schema.isValid()) {
-        addSchema(0, schema, tr("Eigene Farben"), QString());
-        m_hasOwn = true;
-        row = 0;
-    }
-    setCurrentRow(row);
-    adaptHeight();
-}
-
 void MvColorSchemaPicker::onRowChanged(int row)
 {
     if (!m_isMarking && row >= 0)
-        Q_EMIT colorSchemaChosen(m_schemata.at(row));
+        Q_EMIT colorSchemaChosen(m_tiles.at(row).schema);
+}
+
+/// The right button asks for the menu of a swatch and chooses nothing.
+void MvColorSchemaPicker::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        QListWidget::mousePressEvent(event);
 }
 
 void MvColorSchemaPicker::resizeEvent(QResizeEvent *event)
@@ -157,7 +194,7 @@ void MvColorSchemaPicker::changeEvent(QEvent *event)
     if (event->type() != QEvent::PaletteChange && event->type() != QEvent::FontChange)
         return;
     for (int row = 0; row < count(); ++row)
-        item(row)->setIcon(swatch(m_schemata.at(row)));
+        item(row)->setIcon(swatch(m_tiles.at(row).schema));
     adaptHeight();
 }
 
@@ -166,7 +203,8 @@ QSize MvColorSchemaPicker::sizeHint() const
     return {3 * (swatchSize.width() + gap) + 2 * frameWidth(), height()};
 }
 
-/// All rows are seen, at any width, and share it evenly.
+/// All rows are seen, at any width, and share it evenly. There is always room for own colours: what stands below stays
+/// where it is when they come.
 void MvColorSchemaPicker::adaptHeight()
 {
     const int width = viewport()->width() - 1;
@@ -174,7 +212,8 @@ void MvColorSchemaPicker::adaptHeight()
     const QSize grid(width / columns, swatchSize.height() + textLines * fontMetrics().height() + gap);
     if (grid != gridSize())
         setGridSize(grid);
-    const int rows = (count() + columns - 1) / columns;
+    const bool hasOwn = !m_tiles.isEmpty() && !m_tiles.constFirst().id.isValid();
+    const int rows = (count() + (hasOwn ? 0 : 1) + columns - 1) / columns;
     const int needed = rows * gridSize().height() + 2 * frameWidth() + 2;
     if (height() != needed || minimumHeight() != needed)
         setFixedHeight(needed);

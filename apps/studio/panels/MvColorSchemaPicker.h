@@ -4,8 +4,8 @@
 
 #include <QListWidget>
 
-/// The colour schemas as swatches with their names. A schema that none of them is shows as the user's own, first in
-/// the list.
+/// Colour schemas as swatches with their names: the pages' own colours, then what the registry offers, the user's
+/// schemas first. A hidden schema that is marked is shown, too.
 class MvColorSchemaPicker : public QListWidget
 {
     Q_OBJECT
@@ -13,8 +13,16 @@ class MvColorSchemaPicker : public QListWidget
 public:
     explicit MvColorSchemaPicker(QWidget *parent = nullptr);
 
-    /// Marks the schema, whose grid does not count; emits nothing.
-    void setColorSchema(const MvCalendariumColorSchema &schema);
+    /// Offers the registered schemas as they are now, with own colours before them, and marks one. Emits nothing.
+    void showSchemata(const MvCalendariumColorSchema &marked, const QList<MvCalendariumColorSchema> &ownColors);
+
+    /// What a row shows; in a row that there is not, invalid ones. Own colours have no id.
+    MvCalendariumColorSchema schema(int row) const { return m_tiles.value(row).schema; }
+    MvCalendariumColorSchemaID id(int row) const { return m_tiles.value(row).id; }
+
+    /// The registered schema that looks like this one: the grid may be on or off, and lines that nobody sees do not
+    /// count. An invalid id for own colours.
+    static MvCalendariumColorSchemaID registeredId(const MvCalendariumColorSchema &schema);
 
     QSize sizeHint() const override;
 
@@ -24,15 +32,26 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void addSchema(int row, const MvCalendariumColorSchema &schema, const QString &name, const QString &objectId);
+    struct Tile
+    {
+        MvCalendariumColorSchema schema;
+        MvCalendariumColorSchemaID id;
+        QString name;
+
+        bool operator==(const Tile &) const = default;
+    };
+
+    static QList<Tile> tilesOf(const MvCalendariumColorSchemaID &marked,
+                               const QList<MvCalendariumColorSchema> &ownColors);
+    void setTiles(const QList<Tile> &tiles);
     QIcon swatch(const MvCalendariumColorSchema &schema) const;
     void adaptHeight();
     void onRowChanged(int row);
 
-    QList<MvCalendariumColorSchema> m_schemata; // one per row
-    bool m_hasOwn = false;                      // the first row is the user's own
+    QList<Tile> m_tiles; // one per row
     bool m_isMarking = false;
 };

@@ -1,7 +1,7 @@
 #include "panels/MvLayoutPanel.h"
 
 #include "common/MvStudioMerge.h"
-#include "panels/MvColorSchemaPicker.h"
+#include "panels/MvColorSchemaShelf.h"
 #include "panels/MvLayoutChooser.h"
 #include "panels/MvPageEdits.h"
 
@@ -24,7 +24,7 @@ constexpr QSize pictureSize(124, 93); // logical pixels: two side by side in a d
 MvLayoutPanel::MvLayoutPanel(MvPageEdits *edits, QWidget *parent)
     : MvPagePanel(edits, parent)
     , m_layouts(new MvLayoutChooser(this, pictureSize))
-    , m_schemata(new MvColorSchemaPicker(this))
+    , m_schemata(new MvColorSchemaShelf(this))
     , m_colors(new MvCalendariumColorSchemaEditor(this))
 {
     setObjectName(u"layoutPanel"_s);
@@ -37,7 +37,10 @@ MvLayoutPanel::MvLayoutPanel(MvPageEdits *edits, QWidget *parent)
     panelLayout()->addWidget(tabs, 1);
     fitColorTable();
     connect(m_layouts, &MvLayoutChooser::layoutIdChanged, this, &MvLayoutPanel::onLayoutChosen);
-    connect(m_schemata, &MvColorSchemaPicker::colorSchemaChosen, this, &MvLayoutPanel::onSchemaChosen);
+    connect(m_schemata, &MvColorSchemaShelf::colorSchemaChosen, this, &MvLayoutPanel::onSchemaChosen);
+    connect(m_schemata, &MvColorSchemaShelf::schemataChanged, this, &MvLayoutPanel::showSchemata);
+    connect(edits, &MvPageEdits::documentReplaced, m_schemata, &MvColorSchemaShelf::forgetOwnColors);
+    connect(edits, &MvPageEdits::documentSaved, m_schemata, &MvColorSchemaShelf::forgetUnusedColors);
     connect(m_colors, &MvCalendariumColorSchemaEditor::schemaChanged, this, &MvLayoutPanel::onColorsChanged);
 }
 
@@ -61,8 +64,19 @@ void MvLayoutPanel::showPage()
 {
     const MvCalendariumAppearance appearance = edits()->page().appearance();
     showLayout();
-    m_schemata->setColorSchema(appearance.colorSchema());
+    showSchemata();
     m_colors->setAppearance(appearance);
+}
+
+void MvLayoutPanel::showSchemata()
+{
+    QList<MvCalendariumColorSchema> ofPages;
+    for (const MvCalendarPage &page : edits()->document().pages()) {
+        const MvCalendariumColorSchema &schema = page.appearance().colorSchema();
+        if (ofPages.isEmpty() || !(ofPages.constLast() == schema))
+            ofPages.append(schema);
+    }
+    m_schemata->showSchema(edits()->page().appearance().colorSchema(), ofPages);
 }
 
 /// As high as its rows: what stands around it scrolls.

@@ -5,7 +5,7 @@
 #include "MvProject/MvCalendarDocument.h"
 
 class MvCalendariumColorSchemaEditor;
-class MvColorSchemaPicker;
+class MvColorSchemaShelf;
 class MvLayoutChooser;
 
 /// The layout, from pictures, and the colours: a schema from swatches, or single colours. Changed colours belong to the
@@ -24,12 +24,13 @@ private:
     QWidget *createColorPage();
     void fitColorTable();
     void showLayout();
+    void showSchemata();
     void onLayoutChosen();
     void onSchemaChosen(const MvCalendariumColorSchema &schema);
     void onColorsChanged(const MvCalendariumColorSchema &schema);
 
     MvLayoutChooser *m_layouts;
-    MvColorSchemaPicker *m_schemata;
+    MvColorSchemaShelf *m_schemata;
     MvCalendariumColorSchemaEditor *m_colors;
     MvCalendarDocument m_pictured; // what the pictures of the layouts were made for
 };

@@ -13,8 +13,10 @@ MvPageEdits::MvPageEdits(MvProject *project, QObject *parent)
             Q_EMIT pageRefreshed();
     });
     connect(project, &MvProject::pagesReset, this, &MvPageEdits::pageRefreshed);
+    connect(project, &MvProject::saved, this, &MvPageEdits::documentSaved);
     connect(project, &MvProject::documentReplaced, this, [this] {
         m_currentPage = 0;
+        Q_EMIT documentReplaced();
         Q_EMIT pageRefreshed();
     });
 }

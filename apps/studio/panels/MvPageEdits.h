@@ -45,6 +45,9 @@ Q_SIGNALS:
     void scopeChanged();
     /// Another page is the current one, or it has changed, be it by undo.
     void pageRefreshed();
+    /// Another project was opened; before its page is shown.
+    void documentReplaced();
+    void documentSaved();
 
 private:
     MvProject *m_project;
