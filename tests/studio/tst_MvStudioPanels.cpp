@@ -8,6 +8,7 @@
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
+#include "MvProject/MvProjectFile.h"
 #include "MvWidgetTest.h"
 
 #include <memory>
@@ -275,9 +276,7 @@ void tst_MvStudioPanels::recolouringLeavesTheShippedSchema()
     QTemporaryDir folder;
     const QFileInfo file(folder.filePath(u"kalender.xml"_s));
     QVERIFY(open.project.saveAs(file));
-    MvProject read;
-    QVERIFY(read.open(file));
-    QCOMPARE(read.document().pages().at(4).appearance().colorSchema(), open.look(4).colorSchema());
+    QCOMPARE(MvProjectFile::read(file).document.pages().at(4).appearance().colorSchema(), open.look(4).colorSchema());
 
     picker->setCurrentRow(1); // the shipped one follows the own one
     QCOMPARE(open.look(4).cellColor(MvCalendarCellColorKey(MvCalendarCellColorRoleEnum::bgcolor,
