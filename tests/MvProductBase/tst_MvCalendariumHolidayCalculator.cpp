@@ -170,6 +170,10 @@ void tst_MvCalendariumHolidayCalculator::days_data()
         << u"de_DE"_s << u"BB"_s << QDate(2026, 4, 5) << QStringList{u"Ostersonntag"_s};
     QTest::newRow("French in the Jura") << u"fr_CH"_s << u"JU"_s << QDate(2026, 8, 1)
                                         << QStringList{u"Fête nationale"_s};
+    QTest::newRow("French in Ontario") << u"fr_CA"_s << u"ON"_s << QDate(2027, 12, 26)
+                                       << QStringList{u"Lendemain de Noël"_s};
+    QTest::newRow("Catalan on the islands")
+        << u"ca_ES"_s << u"IB"_s << QDate(2027, 3, 1) << QStringList{u"Diada de les Illes Balears"_s};
     QTest::newRow("a Saturday's Friday lies in the old year")
         << u"en_US"_s << QString() << QDate(2027, 12, 31)
         << QStringList{u"New Year's Day (observed)"_s, u"New Year's Eve"_s};
