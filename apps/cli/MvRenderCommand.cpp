@@ -34,6 +34,11 @@ QString schemaId(MvCliValues &values, const QString &option, MvSchemaListCommand
     return id;
 }
 
+MvExportTarget targetOf(const QString &path)
+{
+    return MvExportTarget(path, MvExportTarget::Pdf::OneOfEachPage);
+}
+
 QString titleOf(const MvDateRange &range)
 {
     const QLocale german(QLocale::German, QLocale::Germany);
@@ -135,10 +140,10 @@ MvCliCommand::Result MvRenderCommand::checkTargets(const QStringList &paths, con
 {
     const MvPageSource pages = document.pageSource();
     for (const QString &path : paths)
-        if (const QString error = MvExportTarget(path).nameError(pages); !error.isEmpty())
+        if (const QString error = targetOf(path).nameError(pages); !error.isEmpty())
             return misused(error);
     for (const QString &path : paths)
-        if (const QString place = MvExportTarget(path).placeError(); !place.isEmpty())
+        if (const QString place = targetOf(path).placeError(); !place.isEmpty())
             return failed(place);
     return {};
 }
@@ -162,7 +167,7 @@ MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, 
     MvRenderReport report(document);
     report.setSkippedEntries(entries.file(), entries.skipped());
     for (const QString &path : arguments.values(u"output"_s)) {
-        const MvExportResult result = MvExportTarget(path).write(pages, dpi);
+        const MvExportResult result = targetOf(path).write(pages, dpi);
         for (const QFileInfo &file : result.files) {
             report.addFile(file.filePath());
             if (!isReported)

@@ -48,9 +48,10 @@ private:
 
 } // namespace
 
-MvExportTarget::MvExportTarget(const QString &path)
+MvExportTarget::MvExportTarget(const QString &path, Pdf pdf)
     : m_path(path)
     , m_suffix(QFileInfo(path).suffix().toLower())
+    , m_pdf(pdf)
 {}
 
 QString MvExportTarget::nameError(const MvPageSource &pages) const
@@ -91,7 +92,8 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
 bool MvExportTarget::isPdfPerPage() const
 {
     const QString name = QFileInfo(m_path).fileName().remove(u"%%"_s);
-    return m_suffix == u"pdf"_s && (name.contains(u"%m"_s) || name.contains(u"%y"_s) || name.contains(u"%n"_s));
+    return m_pdf == Pdf::OneOfEachPage && m_suffix == u"pdf"_s &&
+           (name.contains(u"%m"_s) || name.contains(u"%y"_s) || name.contains(u"%n"_s));
 }
 
 MvExportResult MvExportTarget::writePdfPerPage(const MvPageSource &pages, MvExportObserver *observer) const

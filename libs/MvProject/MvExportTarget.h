@@ -10,13 +10,16 @@ class MvExportObserver;
 class MvPageSource;
 
 /// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .png or
-/// .svg. A PDF whose name has a placeholder of MvFileNamePattern becomes one of each page.
+/// .svg.
 class MVPROJECT_EXPORT MvExportTarget
 {
     Q_DECLARE_TR_FUNCTIONS(MvExportTarget)
 
 public:
-    explicit MvExportTarget(const QString &path);
+    /// Whether a PDF whose name has a placeholder of MvFileNamePattern is that one file, or becomes one of each page.
+    enum class Pdf { OneFile, OneOfEachPage };
+
+    explicit MvExportTarget(const QString &path, Pdf pdf = Pdf::OneFile);
 
     QString path() const { return m_path; }
     /// The dots per inch at which images are needed, when PNG files are to have so many.
@@ -36,4 +39,5 @@ private:
 
     QString m_path;
     QString m_suffix; // lower case
+    Pdf m_pdf;
 };

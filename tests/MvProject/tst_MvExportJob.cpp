@@ -75,7 +75,7 @@ void tst_MvExportJob::writesWhatTheExporterWrites()
 {
     QFETCH(const QString, name);
     const MvCalendarDocument document = calendar(4);
-    MvExportJob job(document, MvExportTarget(path(name)), 72);
+    MvExportJob job(document, MvExportTarget(path(name), MvExportTarget::Pdf::OneOfEachPage), 72);
     QSignalSpy progress(&job, &MvExportJob::progress);
     QSignalSpy finished(&job, &MvExportJob::finished);
     job.start();
