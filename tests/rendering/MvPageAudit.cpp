@@ -261,7 +261,7 @@ void MvPageAudit::findDays()
     const bool isList = m_page.page().appearance().type() == CALENDAR_ONE_DAY_PER_ROW;
     for (const MvPrintedPage::Day &day : m_page.days) {
         const QRectF row(m_rect.left(), day.rect.top(), m_rect.width(), day.rect.height());
-        m_days.append({day.date, isList ? row : day.rect, m_page.dayTexts.value(day.date), {}, false});
+        m_days.append({day.date, day.rect, isList ? row : day.rect, m_page.dayTexts.value(day.date), {}, false});
     }
     for (const Item &item : m_page.items) {
         if (item.kind != Item::Image && item.kind != Item::Text)
@@ -269,6 +269,8 @@ void MvPageAudit::findDays()
         for (Day &day : m_days) {
             if (!holds(day.region, item))
                 continue;
+            if (holds(day.cell, item) && !isWithin(day.cell, item.bounds, tolerance))
+                add(LeavesCell, describe(item) + u", of "_s + describe(day.cell));
             if (item.kind == Item::Image)
                 day.hasPhoto = true;
             else if (!isCut(item))

@@ -8,7 +8,7 @@ class MvPageAudit
 public:
     enum Kind {
         LeavesElement, ///< ink outside the place of the calendarium
-        LeavesCell,    ///< letters cut by the clip of their cell
+        LeavesCell,    ///< letters cut by the clip of their cell, or outside their day's
         TextsMeet,     ///< ink of two texts on each other
         TextsRunOn,    ///< two texts on a line with less than a blank between
         LineThrough,   ///< a line crosses letters
@@ -44,7 +44,8 @@ private:
     struct Day
     {
         QDate date;
-        QRectF region;
+        QRectF cell;
+        QRectF region;     ///< where to look for its number and texts
         QStringList texts; ///< that it is to show
         QStringList read;  ///< whole items, in the order of painting
         bool hasPhoto = false;
