@@ -16,7 +16,7 @@ constexpr double tolerance = 1.0; // a tenth of a millimetre
 /// Between two texts on one line, in sizes of their type: more than there is between letters. A blank is some 0.25.
 double leastGap(const QFont &font)
 {
-    return font.family() == u"MvBox"_s ? 0.17 : 0.13;
+    return font.family() == u"MvBox"_s ? 0.17 : 0.1;
 }
 
 QString trimmedNumber(const QString &text)
@@ -353,10 +353,12 @@ void MvPageAudit::checkHeads()
     QStringList read;
     for (const Item &item : std::as_const(m_texts)) {
         read << item.text.trimmed().toCaseFolded();
-        // behind a blank the ellipsis stands for whole texts that are left out, else for the rest of the last one
-        const QString last = item.text.chopped(1).section(u", "_s, -1);
-        if (item.text.endsWith(u'…') &&
-            (item.text.endsWith(u" …"_s) ? m_page.unfitting.isEmpty() : !isReported({}, last)))
+        if (!item.text.endsWith(u'…'))
+            continue;
+        const QString text = item.text.chopped(1);
+        const QString cut = text.mid(text.lastIndexOf(u", "_s) + 1); // the last of several
+        // behind a blank the ellipsis stands for whole texts that are left out
+        if (text.endsWith(u' ') ? m_page.unfitting.isEmpty() : !isReported({}, cut))
             add(MissingText, u"\"%1\", of which the rest is missing"_s.arg(item.text));
     }
     for (const QList<QStringList> &forms : m_page.heads) {

@@ -165,18 +165,19 @@ void MvPrintedPage::expect(const MvCalendariumRenderer &renderer)
 
 void MvPrintedPage::expectHeads(const MvCalendariumRenderer &renderer)
 {
-    const auto firstLetters = [](const QStringList &names) {
-        QStringList letters;
+    const auto letters = [](const QStringList &names, qsizetype from) {
+        QStringList found;
         for (const QString &name : names)
-            letters << name.left(1);
-        return letters;
+            found << name.mid(from, 1);
+        return found;
     };
     if (showsDays && renderer.isConfigured(calendar_render_days_of_week)) {
         const QStringList names = renderer.weekdayNames(false)
                                   << renderer.saturdayName(false) << renderer.sundayName(false);
         const QStringList shortNames = renderer.weekdayNames(true)
                                        << renderer.saturdayName(true) << renderer.sundayName(true);
-        heads << QList<QStringList>{names, shortNames, firstLetters(shortNames)};
+        // some languages begin all days alike
+        heads << QList<QStringList>{names, shortNames, letters(shortNames, 0), letters(shortNames, 1)};
     }
     if (showsDays && m_page.monthCount() > 1) {
         QList<QStringList> months(3);
