@@ -261,13 +261,28 @@ void MvCalendariumAppearance::setFontSettings(const MvCalendariumFontSettings &s
 QFont MvCalendariumAppearance::font(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude,
                                     int minimum) const
 {
-    return d->fontSettings.font(d->layoutSchema.font(cellType), d->optimizedSize, magnitude, minimum);
+    return atMostAsLayoutSays(
+        d->fontSettings.font(d->layoutSchema.font(cellType), d->optimizedSize, magnitude, minimum), cellType,
+        magnitude);
 }
 
 QFont MvCalendariumAppearance::fontHolidays(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude,
                                             int minimum) const
 {
-    return d->fontSettings.fontHolidays(d->layoutSchema.font(cellType), d->optimizedSize, magnitude, minimum);
+    return atMostAsLayoutSays(
+        d->fontSettings.fontHolidays(d->layoutSchema.font(cellType), d->optimizedSize, magnitude, minimum), cellType,
+        magnitude);
+}
+
+/// The layout's largest size is one of the paper that it is made for.
+QFont MvCalendariumAppearance::atMostAsLayoutSays(QFont font, const MvCalendarCellType &cellType,
+                                                  const MvSpaceMagnitude &magnitude) const
+{
+    const int points = d->layoutSchema.cellInfo(cellType).maxFontSize();
+    const double most = MvMath::point2pixel(points, MvMath::referenceDpi) * d->optimizedSize.lengthFactor(magnitude);
+    if (points > 0 && font.pixelSize() > most)
+        font.setPixelSize(std::max(1, static_cast<int>(std::lround(most))));
+    return font;
 }
 
 QFontMetrics MvCalendariumAppearance::fontMetrics(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude,

@@ -94,7 +94,7 @@ public:
     bool shouldIPaintTheBackground(const MvCalendarCellType &cellType, bool even) const;
     bool shouldIPaintTheBorder(const MvCalendarCellType &cellType) const;
 
-    // fonts; minimum in points, see MvCalendariumFontSettings::font()
+    // fonts; minimum in points, see MvCalendariumFontSettings::font(); never larger than the layout's largest size
     const MvCalendariumFontSettings &fontSettings() const;
     void setFontSettings(const MvCalendariumFontSettings &settings);
     QFont font(const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude, int minimum) const;
@@ -127,5 +127,7 @@ public:
     MVCALENDAR_EXPORT friend bool operator==(const MvCalendariumAppearance &a, const MvCalendariumAppearance &b);
 
 private:
+    QFont atMostAsLayoutSays(QFont font, const MvCalendarCellType &cellType, const MvSpaceMagnitude &magnitude) const;
+
     QSharedDataPointer<MvCalendariumAppearanceImpl> d;
 };

@@ -31,6 +31,8 @@ MvCalendariumCellLine::MvCalendariumCellLine(const MvTextFitter &fitter, const Q
     const MvFittedText fitted = fitter.fitLine(room.width(), text);
     m_isCut = fitted.isCut;
     m_text = fitted.lines.value(0);
+    if (m_text.trimmed() == u"…")
+        m_text.clear(); // says nothing
     setFont(fitted.font);
     const int smallest = std::max(1, static_cast<int>(std::ceil(fitter.floor())));
     while (m_ink.height() > room.height() && m_font.pixelSize() > smallest) {

@@ -22,11 +22,11 @@ public:
     MvCalendariumLayoutCellInfo &operator=(const MvCalendariumLayoutCellInfo &);
     MvCalendariumLayoutCellInfo &operator=(MvCalendariumLayoutCellInfo &&) noexcept;
 
-    /// Tenths of a millimetre.
+    /// Tenths of a millimetre. Kept for files that have it; lines are as wide as the grid of the colours says.
     int cellBorderWidth() const;
     MvCalendarBorderType borderType() const;
     QFont font() const;
-    /// Points; 0 means no limit.
+    /// Points on the paper that the layout is made for, which no percentage of the user exceeds; 0 means no limit.
     int maxFontSize() const;
     Qt::Alignment textAlignment() const;
     /// Tenths of a millimetre.

@@ -1,11 +1,9 @@
 #include "MvCalendar/MvCalendariumMonthRenderer.h"
 
 #include "MvCalendar/MvCalendariumCellLine.h"
-#include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvTextFitter.h"
 #include "MvCalendar/MvWeekdayHeads.h"
-#include "MvCore/MvStringHelper.h"
 #include "MvModelBase/MvTextOutlineCache.h"
 
 #include <QFontMetricsF>
@@ -21,7 +19,8 @@ namespace {
 
 constexpr int monthsPerYear = 12;
 const QString titleBlanks = u" "_s;
-constexpr double headAir = 0.25; // between the names of two weekdays, in parts of their size
+constexpr double textGap = 0.25; // between two texts side by side, in parts of their size
+constexpr double lineAir = 1.0;  // between a text and the lines of its cell
 const QString widestNumber = u"28"_s;
 constexpr double numberGap = 0.3; // between the numbers of two columns, of the size of type
 
@@ -31,35 +30,6 @@ double MvCalendariumMonthRenderer::plannedHeight(const MvCalendarCellType &type,
                                                  const MvCalendarRenderingInformation &info) const
 {
     return isConfigured(info) ? minimumHeightOfCellType(type, false) : 0.0;
-}
-
-// ---- names of weekdays
-
-QStringList MvCalendariumMonthRenderer::weekdayHeads(double columnWidth) const
-{
-    const auto names = [this](bool shortNames) {
-        return weekdayNames(shortNames) << saturdayName(shortNames) << sundayName(shortNames);
-    };
-    const bool wantsShortNames = isConfigured(calendar_render_days_of_week_short);
-    if (!wantsShortNames && maxHeadWidth() <= columnWidth)
-        return names(false);
-
-    QStringList heads = names(true);
-    const auto fits = [this, columnWidth](const QString &name, int day) {
-        const MvCalendarCellType type = headCellTypeWeekDay(day);
-        const QFont headFont = font(type);
-        const double width = MvCalendariumTextPainter::advance(headFont, name);
-        const double start = textAlignment(type).testFlag(Qt::AlignHCenter) ? 0.0 : padding(type).left();
-        return width + std::max(start, headAir * headFont.pixelSize()) <= columnWidth;
-    };
-    bool doAllFit = true;
-    for (int day = 1; day <= daysPerWeek; ++day)
-        doAllFit = doAllFit && fits(heads.at(day - 1), day);
-    if (!doAllFit) {
-        for (QString &name : heads)
-            name = MvStringHelper::beginning(name, 1);
-    }
-    return heads;
 }
 
 // ---- the month
@@ -151,8 +121,23 @@ void MvCalendariumMonthRenderer::drawFittingCell(QPainter &painter, const QRectF
     if (!(rect.width() > 0.0) || !(rect.height() > 0.0))
         return;
     drawCellBackground(painter, rect, config, even);
-    if (!text.isEmpty())
-        MvCalendariumCellPainter(*this, painter).drawFittingText(rect, config, text, 0, even, date);
+    const QColor color = fontColor(config, even);
+    if (text.isEmpty() || !isOpaqueColor(color))
+        return;
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const QRectF inner = rect.marginsRemoved(padding(type));
+    const QRectF inside = rect.adjusted(lineAir, lineAir, -lineAir, -lineAir);
+    const MvTextFitter fitter = this->fitter(type);
+    MvCalendariumCellLine line(fitter, {inner.intersected(inside).width(), inside.height()}, text);
+    if (line.isCut()) { // paddings give before letters do
+        const double air = textGap * smallestPixelSize(type);
+        line = MvCalendariumCellLine(fitter, {rect.width() - air, inside.height()}, text);
+    }
+    if (line.isCut())
+        reportUnfitting(date, text, rect);
+    line.align(inner, int(textAlignment(type)));
+    line.keepInside(inside);
+    line.draw(painter, color);
 }
 
 void MvCalendariumMonthRenderer::reportMissingHeads(const QRectF &line)

@@ -2,18 +2,14 @@
 
 #include "MvCalendar/MvCalendariumRenderer.h"
 
-/// What the layouts of a single month share: the title line, the names of weekdays above columns, cells with texts of a
-/// date, and the planned heights that their rows are shared out by.
+/// What the layouts of a single month share: the title line, cells with texts of a date, and the planned heights that
+/// their rows are shared out by.
 class MVCALENDAR_EXPORT MvCalendariumMonthRenderer : public MvCalendariumRenderer
 {
     Q_OBJECT
 
 public:
     using MvCalendariumRenderer::MvCalendariumRenderer;
-
-    /// The names of the weekdays, Monday first, for columns of that width: as the layout asks for them, or all short,
-    /// or all by their first letter, the first of which finds its room in all columns.
-    QStringList weekdayHeads(double columnWidth) const;
 
 protected:
     static constexpr int daysPerWeek = 7;

@@ -61,7 +61,7 @@ bool MvCalendariumRendererOneDayPerRow::thereIsToMuchText(const QRectF &rect) co
         return false;
     // by the number of headings as it is, even where fewer columns are drawn
     const int width = static_cast<int>(widthOfOneColumn(rect, appearance().countColumns()));
-    return isAnyTextToWide(width, font(CALENDAR_CELL_TYPE_TOPLINE), appearance().columnHeadersList());
+    return isAnyTextToWide(width, font(CALENDAR_CELL_TYPE_TOPLINE), headings());
 }
 
 QList<MvCalendarCellType> MvCalendariumRendererOneDayPerRow::usedCellTypes() const
@@ -146,6 +146,11 @@ double MvCalendariumRendererOneDayPerRow::widthOfCell(const QRectF &rect, const 
 int MvCalendariumRendererOneDayPerRow::numberEmptyOfColumns() const
 {
     return std::clamp(appearance().countColumns(), 1, mostColumns);
+}
+
+QStringList MvCalendariumRendererOneDayPerRow::headings() const
+{
+    return MvCalendariumWords(language()).columnHeadings(appearance());
 }
 
 bool MvCalendariumRendererOneDayPerRow::hasTopHeader() const
@@ -255,7 +260,8 @@ void MvCalendariumRendererOneDayPerRow::drawOnBaseline(QPainter &painter, const 
     const QString seen = text.trimmed();
     const int blanks =
         MvCalendariumTextPainter::advance(font(type), text) - MvCalendariumTextPainter::advance(font(type), seen);
-    const QRectF inside = cell.adjusted(0.0, lineAir, 0.0, -lineAir);
+    const bool isBelowTopLine = date.day() == 1 && hasTopHeader(); // whose line may lie up to a unit lower
+    const QRectF inside = cell.adjusted(0.0, isBelowTopLine ? 2.0 * lineAir : lineAir, 0.0, -lineAir);
     MvCalendariumCellLine line(fitter(type), {inside.width() + blanks, inside.height()}, text);
     if (line.isCut())
         reportUnfitting(date, seen, cell);
@@ -283,7 +289,7 @@ void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int column
         return;
     const double width = widthOfOneColumn(rect, columns);
     QRectF cell(rect.x() + offsetOfLeftHeader(rect), rect.y(), width, height);
-    const QStringList headers = appearance().columnHeadersList();
+    const QStringList headers = headings();
     MvTextFitter fitter = this->fitter(CALENDAR_CELL_TYPE_TOPLINE);
     QSizeF room = cell.marginsRemoved(padding(CALENDAR_CELL_TYPE_TOPLINE)).size();
     room -= QSizeF(headingAir * fitter.font().pixelSize(), 2.0 * lineAir);

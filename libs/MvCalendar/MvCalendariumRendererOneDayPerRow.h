@@ -58,6 +58,7 @@ protected:
     void renderCalendarWeek(QPainter &painter, const QDate &date, const QRectF &rect, double y, double weekTop);
 
 private:
+    QStringList headings() const;
     double headWidth(bool shortNames) const;
     bool hasShortNames(const QRectF &rect) const;
     double rowHeight(const QRectF &rect, const QDate &date) const;

@@ -1,5 +1,7 @@
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
 
+#include "MvCalendar/MvWeekdayHeads.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -161,10 +163,15 @@ double MvCalendariumRendererOneWeekPerRow::renderHeadline(QPainter &painter, con
         x += width;
     }
     const double width = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY);
-    const QStringList heads = weekdayHeads(width);
+    using Form = MvWeekdayHeads::Form;
+    const bool isShort = isConfigured(calendar_render_days_of_week_short);
+    const MvWeekdayHeads heads(*this, isShort ? Form::Short : Form::Long, {width, height}, false);
+    if (heads.form() == Form::None)
+        reportMissingHeads({x, y, daysPerWeek * width, height});
     for (int day = 1; day <= daysPerWeek; ++day) {
-        drawFittingCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(headCellTypeWeekDay(day)),
-                        heads.at(day - 1), true, startDate());
+        const MvCalendarCellTypeConfig config(headCellTypeWeekDay(day));
+        drawCellBackground(painter, {x, y, width, height}, config, true);
+        heads.draw(painter, {x, y, width, height}, config, day, true);
         x += width;
     }
     return y + height;

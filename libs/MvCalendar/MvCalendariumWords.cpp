@@ -1,5 +1,6 @@
 #include "MvCalendar/MvCalendariumWords.h"
 
+#include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvProductBase/MvCalendarWordsRegistry.h"
 
@@ -48,6 +49,16 @@ QString MvCalendariumWords::monthShort(int month) const
 QString MvCalendariumWords::monthLong(int month) const
 {
     return MvCalendarWordsRegistry::instance().monthNameLong(m_language, month);
+}
+
+QStringList MvCalendariumWords::columnHeadings(const MvCalendariumAppearance &appearance) const
+{
+    QStringList headings = appearance.columnHeadersList();
+    if (appearance.columnHeaders() == appearance.layoutSchema().suggestedColumnHeaders()) {
+        for (QString &heading : headings)
+            heading = MvCalendarWordsRegistry::instance().familyMember(m_language, heading);
+    }
+    return headings;
 }
 
 QString MvCalendariumWords::schoolYear(const QString &years) const

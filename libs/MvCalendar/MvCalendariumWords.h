@@ -7,6 +7,8 @@
 #include <QDate>
 #include <QStringList>
 
+class MvCalendariumAppearance;
+
 /// The words of a calendarium in one language: days, months, years, weeks.
 class MVCALENDAR_EXPORT MvCalendariumWords
 {
@@ -25,6 +27,9 @@ public:
     QString monthLong(int month) const;
     /// The school year that is written with these years, "Schuljahr 2026/27".
     QString schoolYear(const QString &years) const;
+    /// The headings of columns as a page prints them: those that the layout suggested in this language, others as they
+    /// are.
+    QStringList columnHeadings(const MvCalendariumAppearance &appearance) const;
 
     /// The formats "ddd", "dddd", "MMM" and "MMMM" in the language of the page; every other format, also one that
     /// contains these, in that of the application.

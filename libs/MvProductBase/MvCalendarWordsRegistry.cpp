@@ -69,7 +69,10 @@ void MvCalendarWordsRegistry::readPhrases()
     for (QDomElement element = root.firstChildElement(u"phrases"_s); !element.isNull();
          element = element.nextSiblingElement(u"phrases"_s)) {
         Phrases phrases;
-        phrases.schoolYear = MvXMLParser::textAttribute(element, u"schoolyear"_s, u"%1"_s);
+        phrases.schoolYear = MvXMLParser::textAttribute(element, u"schoolyear"_s, phrases.schoolYear);
+        phrases.mother = MvXMLParser::textAttribute(element, u"mother"_s);
+        phrases.father = MvXMLParser::textAttribute(element, u"father"_s);
+        phrases.child = MvXMLParser::textAttribute(element, u"child"_s);
         m_phrases.insert(MvXMLParser::textAttribute(element, u"language"_s), phrases);
     }
 }
@@ -138,5 +141,21 @@ QString MvCalendarWordsRegistry::weekText(const MvLocale &language) const
 
 QString MvCalendarWordsRegistry::schoolYear(const MvLocale &language, const QString &years) const
 {
-    return wordsIn(m_phrases, language, {u"%1"_s}).schoolYear.arg(years);
+    return wordsIn(m_phrases, language, {}).schoolYear.arg(years);
+}
+
+QString MvCalendarWordsRegistry::familyMember(const MvLocale &language, const QString &heading) const
+{
+    const Phrases from = wordsIn(m_phrases, defaultLanguage(), {});
+    const Phrases to = wordsIn(m_phrases, language, {});
+    const qsizetype lastBlank = heading.lastIndexOf(u' ');
+    const QString number = heading.mid(lastBlank + 1);
+    QString word;
+    if (heading == from.mother)
+        word = to.mother;
+    else if (heading == from.father)
+        word = to.father;
+    else if (lastBlank > 0 && heading == from.child.arg(number) && !to.child.isEmpty())
+        word = to.child.arg(number);
+    return word.isEmpty() ? heading : word;
 }

@@ -39,6 +39,9 @@ public:
 
     /// "Schuljahr 2026/27" for the years "2026/27"; the years alone in a language without words of its own.
     QString schoolYear(const MvLocale &language, const QString &years) const;
+    /// The heading of a column for a member of the family, "Mama" or "Kind 1" in the default language; a heading that
+    /// names none, or a language without words of its own, gives the heading as it is.
+    QString familyMember(const MvLocale &language, const QString &heading) const;
 
 private:
     struct WeekWords
@@ -49,7 +52,10 @@ private:
     };
     struct Phrases
     {
-        QString schoolYear;
+        QString schoolYear = QStringLiteral("%1");
+        QString mother;
+        QString father;
+        QString child; // %1 is its number
     };
     struct Names
     {

@@ -5,6 +5,7 @@
 
 #include "MvCalendar/MvCalendariumColumnHeadersEditor.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCalendar/MvCalendariumWords.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -84,7 +85,8 @@ void MvColumnHeadersPanel::showPage()
     const MvCalendariumAppearance appearance = edits()->page().appearance();
     const bool hasColumns = appearance.type() == CALENDAR_ONE_DAY_PER_ROW;
     m_stack->setCurrentWidget(hasColumns ? m_editing : m_emptyState);
-    QStringList headers = replaced(appearance.columnHeadersList(), blank, QString());
+    const MvCalendariumWords words(edits()->page().contentConfig().language());
+    QStringList headers = replaced(words.columnHeadings(appearance), blank, QString());
     if (headers.isEmpty())
         headers.append(QString()); // which the editor shows
     if (hasColumns && headers != m_editor->headers())
