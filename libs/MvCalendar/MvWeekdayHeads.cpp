@@ -16,7 +16,7 @@ constexpr int daysPerWeek = 7;
 constexpr double gapBetweenNames = 0.3; // of the size of type
 constexpr double gapBetweenLetters = 0.15;
 constexpr double mostShrunkNames = 0.85; // below that letters read better
-constexpr double hair = 1.0;             // that ink keeps from the edge of its cell
+constexpr double hair = 1.0;             // that ink keeps from the edges beside it, half of it above and below
 
 /// The days whose heads may have the type.
 bool mayHave(const MvCalendarCellType &type, int day)
@@ -157,7 +157,7 @@ double MvWeekdayHeads::scaleFor(Form form, QRectF *ink) const
         }
     }
     if (ink->height() > 0.0)
-        scale = std::min(scale, m_cell.height() / ink->height());
+        scale = std::min(scale, (m_cell.height() - hair) / ink->height());
     return std::max(0.0, scale);
 }
 
@@ -180,8 +180,9 @@ void MvWeekdayHeads::draw(QPainter &painter, const QRectF &cell, const MvCalenda
     const MvTextFitter asChosen(sized(m_renderer.font(type), size), size, {});
     MvCalendariumCellLine line(asChosen, cell.size(), text(day));
     line.align(cell.marginsRemoved(m_renderer.padding(type)), int(m_renderer.textAlignment(type)));
-    const double lowest = cell.bottom() - m_ink.bottom() * m_scale;
-    line.setBaseline(std::max(std::min(line.baseline(), lowest), cell.top() - m_ink.top() * m_scale));
+    const double lowest = cell.bottom() - hair / 2.0 - m_ink.bottom() * m_scale;
+    const double highest = cell.top() + hair / 2.0 - m_ink.top() * m_scale;
+    line.setBaseline(std::max(std::min(line.baseline(), lowest), highest));
     line.keepInside(cell.adjusted(hair, 0.0, -hair, 0.0));
     line.draw(painter, color);
 }

@@ -260,15 +260,19 @@ void tst_LayoutAndAppearance::fontSize_data()
     QTest::addColumn<int>("percentage");
     QTest::addColumn<int>("target");
     QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("largest");
     QTest::addColumn<int>("pixels");
     // 20 points are 20 * 200 / 72 = 55.56 pixels at 200 dpi
-    QTest::newRow("layout size") << 0 << 0 << 6 << 56;
-    QTest::newRow("larger") << 20 << 0 << 6 << 67;              // 24 points
-    QTest::newRow("points are truncated") << 4 << 0 << 6 << 56; // 20.8 points count as 20
-    QTest::newRow("half") << -50 << 0 << 6 << 28;               // 10 points
-    QTest::newRow("two paper classes up") << 0 << 512 << 6 << 112;
-    QTest::newRow("smallest size") << -95 << 0 << 6 << 21; // 6 points are 21.2 pixels at 254 dpi
-    QTest::newRow("never nothing") << -100 << 0 << 0 << 1;
+    QTest::newRow("layout size") << 0 << 0 << 6 << 0 << 56;
+    QTest::newRow("larger") << 20 << 0 << 6 << 0 << 67;              // 24 points
+    QTest::newRow("points are truncated") << 4 << 0 << 6 << 0 << 56; // 20.8 points count as 20
+    QTest::newRow("half") << -50 << 0 << 6 << 0 << 28;               // 10 points
+    QTest::newRow("two paper classes up") << 0 << 512 << 6 << 0 << 112;
+    QTest::newRow("smallest size") << -95 << 0 << 6 << 0 << 21; // 6 points are 21.2 pixels at 254 dpi
+    QTest::newRow("never nothing") << -100 << 0 << 0 << 0 << 1;
+    QTest::newRow("largest size of the layout") << 50 << 0 << 6 << 24 << 67;
+    QTest::newRow("that of larger paper") << 50 << 512 << 6 << 24 << 133;
+    QTest::newRow("below it") << -50 << 0 << 6 << 24 << 28;
 }
 
 void tst_LayoutAndAppearance::fontSize()
@@ -276,11 +280,18 @@ void tst_LayoutAndAppearance::fontSize()
     QFETCH(int, percentage);
     QFETCH(int, target);
     QFETCH(int, minimum);
+    QFETCH(int, largest);
     MvCalendariumFontSettings settings;
     settings.setFontSizePercentage(percentage);
-    const QFont font = settings.font(QFont(u"Lato"_s, 20), MAGNITUDE_A4, MvSpaceMagnitude(target), minimum);
+    settings.setFontSizePercentageHolidays(percentage);
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchema(layout(u"<cell type='CALENDAR_CELL_TYPE_WEEKDAY' maxfontsize='%1'>"
+                                      "<font family='Lato' pointsize='20'/></cell>"_s.arg(largest)));
+    appearance.setFontSettings(settings);
+    const QFont font = appearance.font(CALENDAR_CELL_TYPE_WEEKDAY, MvSpaceMagnitude(target), minimum);
     QTEST(font.pixelSize(), "pixels");
     QCOMPARE(font.family(), u"Lato"_s);
+    QCOMPARE(appearance.fontHolidays(CALENDAR_CELL_TYPE_WEEKDAY, MvSpaceMagnitude(target), minimum), font);
 }
 
 void tst_LayoutAndAppearance::unknownFontWordsTakeDefaults()

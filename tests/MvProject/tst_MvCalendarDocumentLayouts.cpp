@@ -47,6 +47,9 @@ class tst_MvCalendarDocumentLayouts : public MvTest
 private Q_SLOTS:
     void monthAboveLayoutsWithoutOne_data();
     void monthAboveLayoutsWithoutOne();
+    void monthsOfOneSize_data();
+    void monthsOfOneSize();
+    void rowsStandOnOneBaseline();
     void columnsOfTheFamilyPlanner();
     void titleOfPage_data();
     void titleOfPage();
@@ -79,6 +82,64 @@ void tst_MvCalendarDocumentLayouts::monthAboveLayoutsWithoutOne()
     }
 }
 
+void tst_MvCalendarDocumentLayouts::monthsOfOneSize_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<MvPhotoFrame::Placement>("placement");
+    QTest::addColumn<int>("percentage");
+    QTest::addColumn<bool>("isCentred");
+    QTest::newRow("narrow") << u"MONTH_ONLY"_s << MvPhotoFrame::Placement::Left << 0 << true;
+    QTest::newRow("large type") << u"MONTH_ONLY"_s << MvPhotoFrame::Placement::Top << 100 << true;
+    QTest::newRow("without year") << u"MONTH_ONLY_SERIF"_s << MvPhotoFrame::Placement::Top << 0 << true;
+    QTest::newRow("title") << u"MONTH_GRID_SERIF"_s << MvPhotoFrame::Placement::Right << 0 << true;
+    QTest::newRow("spaced title") << u"MONTH_GRID_COMPACT"_s << MvPhotoFrame::Placement::Top << 0 << true;
+    QTest::newRow("line above columns") << u"WEEK_COLUMNS_COMPACT"_s << MvPhotoFrame::Placement::Left << 0 << false;
+}
+
+/// The longest name decides; what is centred is so by what is seen of it.
+void tst_MvCalendarDocumentLayouts::monthsOfOneSize()
+{
+    QFETCH(QString, layout);
+    QFETCH(MvPhotoFrame::Placement, placement);
+    QFETCH(int, percentage);
+    QFETCH(bool, isCentred);
+    MvCalendarDocument document = ::document(layout);
+    MvCalendariumAppearance appearance = document.appearance();
+    appearance.setFontSettings({QString(), percentage, -50, QFont::Normal, QFont::MixedCase, 0.0});
+    document.setAppearance(appearance);
+    int size = 0;
+    for (int month = 0; month < 12; ++month) {
+        MvCalendarPage page = document.pages()[month];
+        MvPhotoFrame photo(u"/foto.jpg"_s, placement);
+        photo.setShare(0.7);
+        page.setPhotoFrame(photo);
+        document.setPage(month, page);
+        const Item title = textsOf(document, month).constFirst();
+        const QRectF room = page.calendariumRect(document.format());
+        QVERIFY2(room.contains(title.bounds), qPrintable(title.text));
+        QCOMPARE(page.unfittingTexts(document.format(), document.range()).size(), 0);
+        QCOMPARE(title.font.pixelSize(), month == 0 ? title.font.pixelSize() : size);
+        size = title.font.pixelSize();
+        if (isCentred)
+            QVERIFY2(qAbs(title.bounds.center().x() - room.center().x()) < 0.5, qPrintable(title.text));
+    }
+}
+
+void tst_MvCalendarDocumentLayouts::rowsStandOnOneBaseline()
+{
+    MvCalendarDocument document = ::document(u"DAY_LIST"_s); // upright: rows are higher than three lines
+    document.setHolidayConfig({MvLocale(u"de_DE"_s), QString(), FEATURE_HOLIDAYS});
+    QList<double> baselines;
+    for (const Item &text : textsOf(document, 4)) {
+        if (QStringList{u"6"_s, u"Christi Himmelfahrt"_s}.contains(text.text.trimmed()))
+            baselines.append(text.baseline.y());
+        else if (text.text == u"Donnerstag"_s && baselines.size() == 1)
+            baselines.append(text.baseline.y());
+    }
+    QCOMPARE(baselines.size(), 3);
+    QVERIFY(qAbs(baselines.at(1) - baselines.at(0)) < 0.01 && qAbs(baselines.at(2) - baselines.at(0)) < 0.01);
+}
+
 void tst_MvCalendarDocumentLayouts::columnsOfTheFamilyPlanner()
 {
     MvCalendarDocument document = ::document(u"FAMILY_PLANNER"_s);
@@ -89,6 +150,23 @@ void tst_MvCalendarDocumentLayouts::columnsOfTheFamilyPlanner()
         words.append(text.text);
     for (const QString &header : document.appearance().columnHeadersList())
         QCOMPARE(words.count(header), 1);
+
+    // headings that nobody has changed speak the page's language
+    const auto headingsIn = [&document](const QString &language) {
+        document.setHolidayConfig({MvLocale(language), QString(), MvCalendariumFeatures()});
+        QStringList found;
+        for (const Item &text : textsOf(document, 0)) {
+            if (text.font.bold() && !text.text.trimmed().toInt())
+                found.append(text.text);
+        }
+        return found;
+    };
+    QVERIFY(headingsIn(u"fr_FR"_s).join(u' ').contains(u"Maman Papa Enfant 1 Enfant 2"_s));
+    QVERIFY(headingsIn(u"en_US"_s).join(u' ').contains(u"Mom Dad Child 1 Child 2"_s));
+    MvCalendariumAppearance changed = document.appearance();
+    changed.setColumnHeaders(u"Mama$$Papa$$Lena$$Kind 2"_s);
+    document.setAppearance(changed);
+    QVERIFY(headingsIn(u"fr_FR"_s).join(u' ').contains(u"Mama Papa Lena Kind 2"_s));
 
     // setting a layout alone keeps what the page has
     MvCalendariumAppearance kept = document.appearance();

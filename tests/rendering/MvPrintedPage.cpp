@@ -3,6 +3,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvCalendar/MvCalendariumWords.h"
 
 #include <QDir>
 #include <QPainter>
@@ -153,7 +154,7 @@ void MvPrintedPage::expect(const MvCalendariumRenderer &renderer)
             dayTexts.insert(date, renderer.describeHolidays(date));
     }
     showsDays = type != CALENDAR_MONTH_ONLY && type != CALENDAR_YEAR_ONLY && type != CALENDAR_HOLIDAYS;
-    words = m_page.appearance().columnHeadersList();
+    words = MvCalendariumWords(renderer.language()).columnHeadings(m_page.appearance());
     if (m_page.monthCount() > 1)
         words << QString::number(first.year());
     else if (type == CALENDAR_MONTH_ONLY || renderer.isConfigured(calendar_render_title))
