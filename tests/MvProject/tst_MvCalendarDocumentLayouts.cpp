@@ -107,6 +107,7 @@ void tst_MvCalendarDocumentLayouts::monthsOfOneSize()
     MvCalendariumAppearance appearance = document.appearance();
     appearance.setFontSettings({QString(), percentage, -50, QFont::Normal, QFont::MixedCase, 0.0});
     document.setAppearance(appearance);
+    document.setHolidayConfig({MvLocale(u"de_DE"_s), QString(), MvCalendariumFeatures()});
     int size = 0;
     for (int month = 0; month < 12; ++month) {
         MvCalendarPage page = document.pages()[month];
