@@ -28,7 +28,6 @@ private Q_SLOTS:
     void holidays_data();
     void holidays();
     void holidayFormatsAgree();
-    void regionByNameOrCode();
     void lists_data();
     void lists();
     void colors();
@@ -235,27 +234,20 @@ void tst_mvcalendar::holidays_data()
 {
     QTest::addColumn<QString>("region");
     QTest::addColumn<QByteArray>("row"); // as published by the states' ministries
-    QTest::addColumn<bool>("isThere");
-    QTest::newRow("everywhere") << u"BE"_s << QByteArray("2027-03-29,public,Ostermontag") << true;
-    QTest::newRow("in the state") << u"BY"_s << QByteArray("2027-05-27,public,Fronleichnam") << true;
-    QTest::newRow("in another state") << u"BE"_s << QByteArray("2027-05-27,public,Fronleichnam") << false;
-    QTest::newRow("in a part of the state") << u"BY-A"_s << QByteArray("2027-08-08,public,Augsburger") << true;
-    QTest::newRow("not a day off") << u"BY"_s << QByteArray("2027-05-09,observance,Muttertag") << true;
-    QTest::newRow("first vacation day") << u"BY"_s << QByteArray("2027-08-02,vacation,Sommerferien") << true;
-    QTest::newRow("last vacation day") << u"BY"_s << QByteArray("2027-09-13,vacation,Sommerferien") << true;
-    QTest::newRow("after it") << u"BY"_s << QByteArray("2027-09-14,vacation") << false;
+    QTest::newRow("in a part of the state, by code") << u"by-a"_s << QByteArray("2027-08-08,public,Augsburger");
+    QTest::newRow("not a day off") << u"BY"_s << QByteArray("2027-05-09,observance,Muttertag");
+    QTest::newRow("last vacation day, by name") << u"Bayern"_s << QByteArray("2027-09-13,vacation,Sommerferien");
 }
 
 void tst_mvcalendar::holidays()
 {
     QFETCH(const QString, region);
     QFETCH(const QByteArray, row);
-    QFETCH(const bool, isThere);
-    const Call call = run({u"holidays"_s, u"--country"_s, u"DE"_s, u"--region"_s, region, u"--year"_s, u"2027"_s,
-                           u"--format"_s, u"csv"_s});
+    const Call call = run({u"holidays"_s, u"--country"_s, u"Deutschland"_s, u"--region"_s, region, u"--year"_s,
+                           u"2027"_s, u"--format"_s, u"csv"_s});
     QCOMPARE(call.exitCode, 0);
     QVERIFY(call.out.startsWith("date,type,name\n"));
-    QCOMPARE(call.out.contains('\n' + row), isThere);
+    QVERIFY2(call.out.contains('\n' + row), call.out.constData());
 }
 
 void tst_mvcalendar::holidayFormatsAgree()
@@ -283,15 +275,6 @@ void tst_mvcalendar::holidayFormatsAgree()
     QCOMPARE(text.exitCode, 0);
     QVERIFY(text.out.contains("Mi. 17.11.2027"));
     QVERIFY(text.outLines().size() < lines.size()); // vacations are one line each
-}
-
-void tst_mvcalendar::regionByNameOrCode()
-{
-    const QStringList arguments{u"holidays"_s, u"--year"_s, u"2027"_s, u"--region"_s};
-    const QByteArray byCode = run(arguments + QStringList{u"BW"_s}).out;
-    QVERIFY(!byCode.isEmpty());
-    QCOMPARE(run(arguments + QStringList{u"Baden-Württemberg"_s}).out, byCode);
-    QCOMPARE(run(arguments + QStringList{u"bw"_s, u"--country"_s, u"Deutschland"_s}).out, byCode);
 }
 
 void tst_mvcalendar::lists_data()
