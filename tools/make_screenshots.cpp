@@ -7,7 +7,9 @@
 #include "MvCalendar/MvCalendarEventListWidget.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCalendar/MvUserColorSchemata.h"
 #include "MvGUIWidgets/MvColorPalettePopup.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageItem.h"
@@ -32,6 +34,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 #include <QToolTip>
 
 #include <cstdio>
@@ -89,6 +92,8 @@ private:
     void colorsDown();
     void colorPalette();
     void colorWarning();
+    void colorsMenu();
+    void colorsName();
     void fonts() { raiseDock("fontPanelDock"); }
     void columns();
     void columnsEmpty() { raiseDock("columnHeadersPanelDock"); }
@@ -159,6 +164,8 @@ QList<Screenshots::State> Screenshots::states()
         {"colors-down", &S::colorsDown, settling},
         {"color-palette", &S::colorPalette, settling},
         {"color-warning", &S::colorWarning, settling},
+        {"colors-menu", &S::colorsMenu, settling},
+        {"colors-name", &S::colorsName, settling},
         {"fonts", &S::fonts, settling},
         {"columns", &S::columns, settling},
         {"columns-empty", &S::columnsEmpty, settling},
@@ -228,6 +235,7 @@ void Screenshots::reset()
     QDir().rmdir(registry.calendarEventsDir().filePath()); // of the states with trouble
     registry.userFile().dismissReadProblem();
     setEntries(u"eintraege.xml"_s);
+    MvUserColorSchemata::reset();
     MvCalendarDocument document = MvProjectFlow::firstDocument();
     MvCalendariumHolidayConfig holidays = document.holidayConfig();
     holidays.setProvince(u"BY"_s);
@@ -370,6 +378,26 @@ void Screenshots::colorWarning()
     QAbstractItemModel *model = find<QTableView>("tableView")->model();
     for (int row = 0; row < 3; ++row)
         model->setData(model->index(row, 2), QColor(214, 206, 190), Qt::EditRole);
+}
+
+void Screenshots::colorsMenu()
+{
+    colorWarning();
+    const MvCalendariumColorSchema own = project()->document().appearance().colorSchema();
+    MvUserColorSchemata::keep(own, u"Sand & Meer"_s);
+    MvCalendariumColorSchemaRegistry::instance().setIgnoreSchema(MvCalendariumColorSchemaID(u"SLATE"_s));
+    window()->setCurrentPage(5);
+    QTest::qWait(settling);
+    auto *button = find<QToolButton>("manageSchemata");
+    button->menu()->popup(button->mapToGlobal(button->rect().bottomLeft()));
+}
+
+void Screenshots::colorsName()
+{
+    colorWarning();
+    QTest::qWait(settling);
+    find<QPushButton>("keepColors")->click();
+    find<QLineEdit>("schemaName")->setText(u"Nacht"_s);
 }
 
 void Screenshots::columns()

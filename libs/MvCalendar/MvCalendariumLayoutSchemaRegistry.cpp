@@ -27,10 +27,12 @@ MvUserSchemaFile::Area areaOf(const MvCalendariumLayoutSchema &schema)
     return {schema.ID().toString(), area};
 }
 
+/// One that is left out would not be written back.
 std::optional<MvUserSchemaFile::Area> readArea(const QDomElement &element)
 {
     const MvCalendariumLayoutSchema schema(element);
-    return schema.isValid() && schema.isUserSchema() ? std::optional(areaOf(schema)) : std::nullopt;
+    const bool isKept = schema.isValid() && schema.isUserSchema() && MvSchemaFileCheck::isKnownKind(element);
+    return isKept ? std::optional(areaOf(schema)) : std::nullopt;
 }
 
 void giveFreshId(MvUserSchemaFile::Area &area)

@@ -68,11 +68,11 @@ void MvSchemaFileCheck::checkColors(const QDomElement &area) const
 bool MvSchemaFileCheck::checkLayout(const QDomElement &area) const
 {
     const QString id = idOf(area, u"layoutschema"_s);
-    const QString type = area.attribute(typeKey);
-    const bool isKnown = MvCalendariumType(type).isValid() && unknownWords<MvCalendariumType>(type).isEmpty();
+    const bool isKnown = isKnownKind(area);
     if (!isKnown)
         MvSchemaPlace(m_file, area)
-            .warn(tr("Das Layout %1 bleibt weg: seine Art (type) „%2“ gibt es nicht.").arg(id, type));
+            .warn(
+                tr("Das Layout %1 bleibt weg: seine Art (type) „%2“ gibt es nicht.").arg(id, area.attribute(typeKey)));
     warnOfWords(area, id, u"renderinfo"_s,
                 unknownWords<MvCalendarRenderingInformation>(area.attribute(u"renderinfo"_s)));
     warnOfWords(area, id, u"optimizedSize"_s, unknownWords<MvSpaceMagnitude>(area.attribute(u"optimizedSize"_s)));
@@ -81,6 +81,12 @@ bool MvSchemaFileCheck::checkLayout(const QDomElement &area) const
         warnOfWords(cell, id, u"bordertype"_s, unknownWords<MvCalendarBorderType>(cell.attribute(u"bordertype"_s)));
     }
     return isKnown;
+}
+
+bool MvSchemaFileCheck::isKnownKind(const QDomElement &layout)
+{
+    const QString type = layout.attribute(typeKey);
+    return MvCalendariumType(type).isValid() && unknownWords<MvCalendariumType>(type).isEmpty();
 }
 
 void MvSchemaFileCheck::warnOfWords(const QDomElement &place, const QString &schema, const QString &attribute,

@@ -25,6 +25,9 @@ public:
     /// kind nobody knows would be another layout.
     bool checkLayout(const QDomElement &area) const;
 
+    /// Whether there is the kind of calendarium that a layout names.
+    static bool isKnownKind(const QDomElement &layout);
+
 private:
     void warnOfWords(const QDomElement &place, const QString &schema, const QString &attribute,
                      const QStringList &unknown) const;

@@ -95,9 +95,12 @@ MvUserColorSchemata::Result MvUserColorSchemata::rename(const MvCalendariumColor
 MvUserColorSchemata::Result MvUserColorSchemata::remove(const MvCalendariumColorSchemaID &id)
 {
     const Kept before(id);
-    MvCalendariumColorSchemaRegistry::instance().removeId(id);
+    MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
+    registry.removeId(id);
     const Result result = save(id);
-    if (!result.isOk())
+    if (result.isOk())
+        registry.unsetIgnoreSchema(id); // another one may get it some day
+    else
         before.putBack();
     return result;
 }

@@ -47,9 +47,7 @@ void showColors(MvCalendariumColorSchemaEditor *editor)
 {
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_GRID_CLASSIC"_s));
-    const MvCalendariumColorSchemaList schemata = MvCalendariumColorSchemaRegistry::instance().allSchemata();
-    if (!schemata.isEmpty())
-        appearance.setColorSchema(schemata.first());
+    appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().defaultSchema());
     editor->setAppearance(appearance);
 }
 

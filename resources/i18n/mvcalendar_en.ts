@@ -932,6 +932,10 @@
         <source>Eigene Farben</source>
         <translation>Own colours</translation>
     </message>
+    <message>
+        <source>Farben, die Sie unten ändern, kommen als „Eigene Farben“ dazu.</source>
+        <translation>Colours that you change below join them as “Own colours”.</translation>
+    </message>
 </context>
 <context>
     <name>MvColorSchemaShelf</name>

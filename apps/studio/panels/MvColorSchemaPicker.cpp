@@ -203,6 +203,18 @@ QSize MvColorSchemaPicker::sizeHint() const
     return {3 * (swatchSize.width() + gap) + 2 * frameWidth(), height()};
 }
 
+bool MvColorSchemaPicker::hasOwnColors() const
+{
+    return !m_tiles.isEmpty() && !m_tiles.constFirst().id.isValid();
+}
+
+/// In the present width.
+int MvColorSchemaPicker::rowsFor(int tiles) const
+{
+    const int columns = std::max(1, (viewport()->width() - 1) / (swatchSize.width() + gap));
+    return (tiles + columns - 1) / columns;
+}
+
 /// All rows are seen, at any width, and share it evenly. There is always room for own colours: what stands below stays
 /// where it is when they come.
 void MvColorSchemaPicker::adaptHeight()
@@ -212,9 +224,22 @@ void MvColorSchemaPicker::adaptHeight()
     const QSize grid(width / columns, swatchSize.height() + textLines * fontMetrics().height() + gap);
     if (grid != gridSize())
         setGridSize(grid);
-    const bool hasOwn = !m_tiles.isEmpty() && !m_tiles.constFirst().id.isValid();
-    const int rows = (count() + (hasOwn ? 0 : 1) + columns - 1) / columns;
+    const int rows = rowsFor(count() + (hasOwnColors() ? 0 : 1));
     const int needed = rows * gridSize().height() + 2 * frameWidth() + 2;
     if (height() != needed || minimumHeight() != needed)
         setFixedHeight(needed);
+}
+
+/// A row that is there for own colours alone says so.
+void MvColorSchemaPicker::paintEvent(QPaintEvent *event)
+{
+    QListWidget::paintEvent(event);
+    const int rows = rowsFor(count());
+    if (hasOwnColors() || rowsFor(count() + 1) == rows)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const QRect room(gap, rows * gridSize().height(), viewport()->width() - 2 * gap, gridSize().height());
+    painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap,
+                     tr("Farben, die Sie unten ändern, kommen als „Eigene Farben“ dazu."));
 }

@@ -33,6 +33,7 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -49,6 +50,8 @@ private:
                                const QList<MvCalendariumColorSchema> &ownColors);
     void setTiles(const QList<Tile> &tiles);
     QIcon swatch(const MvCalendariumColorSchema &schema) const;
+    bool hasOwnColors() const;
+    int rowsFor(int tiles) const;
     void adaptHeight();
     void onRowChanged(int row);
 

@@ -12,8 +12,8 @@ int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
     MvCalendariumAppearance appearance;
-    appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().schema(0));
-    appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().visibleSchemata().value(0));
+    appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().defaultSchema());
+    appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().defaultSchema());
     MvCalendarDocument document;
     document.setAppearance(appearance);
 
