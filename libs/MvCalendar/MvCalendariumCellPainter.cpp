@@ -26,6 +26,7 @@ constexpr double holidayTextsFromWidth = 155.0;
 constexpr double holidayTextsFromHeight = 60.0;
 
 constexpr double textGap = 5.0; // between texts and what else is in the cell
+const QString tallestDigit = u"8"_s;
 const QString widestNumber = u"22"_s;
 constexpr double numberAir = 0.3;     // of the type's size, between two numbers side by side
 constexpr double mostPixels = 8192.0; // of a photo in a cell, on each side
@@ -126,11 +127,16 @@ MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, c
     if (size == sizes.cend()) // without air only where nothing else helps
         size = std::find_if(sizes.cbegin(), sizes.cend(), [&](const QFont &font) { return hasRoom(font, 0.0); });
     const MvTextFitter fixed(size == sizes.cend() ? sizes.constLast() : *size, fitter.floor(), MvHyphenator());
+    const double hair = leastMargin / 2.0;
     MvCalendariumCellLine line(fixed, rect.size(), number);
-    if (line.isCut())
-        return {fixed, QSizeF(), number}; // half a number is none
+    const bool isTooHigh =
+        MvCalendariumCellLine(fixed, rect.size(), tallestDigit).ink().height() > rect.height() - hair;
+    if (line.isCut() || isTooHigh)
+        return {fixed, QSizeF(), number}; // half a number is none, and all of a page have room or none has
     line.align(rect.marginsRemoved(m_renderer.padding(type)), int(m_renderer.textAlignment(type)));
-    line.keepInside(rect.adjusted(leastMargin, leastMargin, -leastMargin, -leastMargin));
+    const bool isTight = line.ink().height() > rect.height() - 2.0 * leastMargin;
+    line.keepInside(
+        rect.adjusted(leastMargin, isTight ? hair : leastMargin, -leastMargin, isTight ? 0.0 : -leastMargin));
     return line;
 }
 
@@ -291,7 +297,9 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
         ink |= line.ink();
         lines.append(line);
     }
-    const double shift = std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
+    const double shift = ink.height() > widest.height() // a hair higher: touches both lines rather than one
+                             ? rect.center().y() - ink.center().y()
+                             : std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
     for (MvCalendariumCellLine &line : lines) {
         line.setBaseline(line.baseline() + shift);
         line.draw(m_painter, m_renderer.fontColor(config, even));

@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -260,8 +261,7 @@ void MvCalendariumRendererOneDayPerRow::drawOnBaseline(QPainter &painter, const 
     const QString seen = text.trimmed();
     const int blanks =
         MvCalendariumTextPainter::advance(font(type), text) - MvCalendariumTextPainter::advance(font(type), seen);
-    const bool isBelowTopLine = date.day() == 1 && hasTopHeader(); // whose line may lie up to a unit lower
-    const QRectF inside = cell.adjusted(0.0, isBelowTopLine ? 2.0 * lineAir : lineAir, 0.0, -lineAir);
+    const QRectF inside = cell.adjusted(0.0, lineAir, 0.0, -lineAir);
     MvCalendariumCellLine line(fitter(type), {inside.width() + blanks, inside.height()}, text);
     if (line.isCut())
         reportUnfitting(date, seen, cell);
@@ -277,7 +277,8 @@ int MvCalendariumRendererOneDayPerRow::renderHeadline(QPainter &painter, const Q
         return 0;
     const double height = heightOfCell(rect, CALENDAR_CELL_TYPE_TOPLINE, date).first;
     const int columns = numberEmptyOfColumns();
-    drawCellBackground(painter, {rect.x(), rect.y(), rect.width(), height}, topLine, true);
+    // as high as what this gives: its lower line is the upper one of the first row
+    drawCellBackground(painter, {rect.x(), rect.y(), rect.width(), std::floor(height)}, topLine, true);
     renderHead(painter, columns, height, rect);
     renderColumnLines(painter, rect, columns);
     return static_cast<int>(height);
