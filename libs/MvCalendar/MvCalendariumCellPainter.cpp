@@ -109,6 +109,7 @@ void MvCalendariumCellPainter::drawFittingText(const QRectF &rect, const MvCalen
         line = MvCalendariumCellLine(fitter, {rect.width() - 2.0 * smallCellMargin, rect.height()}, text);
     if (line.isCut())
         m_renderer.reportUnfitting(date, text, rect);
+    m_renderer.reportMissingGlyphs(date, {text}, line.font(), rect);
     line.align(inner, flags == 0 ? int(m_renderer.textAlignment(type)) : flags);
     line.keepInside(rect);
     line.draw(m_painter, color);
@@ -213,6 +214,7 @@ bool MvCalendariumCellPainter::drawHoliday(const QRectF &rect, const QDate &date
     drawPlaced(placed);
     m_painter.restore();
     reportCut(date, placed.text, rect);
+    m_renderer.reportMissingGlyphs(date, texts, placed.text.font, rect);
 
     const bool hasPicture = drawPicture(date, placed.rest(inner));
     if (placed.text.isCut)
@@ -282,6 +284,7 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
             fitted = line;
     }
     reportCut(date, fitted, rect);
+    m_renderer.reportMissingGlyphs(date, texts, fitted.font, rect);
 
     const QFontMetricsF metrics(fitted.font);
     const MvTextFitter unchanged(fitted.font, fitted.font.pixelSize() + 1.0, MvHyphenator());

@@ -8,6 +8,7 @@
 #include "MvCalendar/MvHtmlTableSkeleton.h"
 #include "MvCore/MvMath.h"
 #include "MvCore/MvStringHelper.h"
+#include "MvModelBase/MvGlyphCoverage.h"
 #include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvPrintableText.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
@@ -651,4 +652,13 @@ void MvCalendariumRenderer::reportUnfitting(const QDate &date, const QString &te
 {
     if (MvStringHelper::isVisible(text))
         m_unfittingTexts.append({date, text, rect});
+}
+
+void MvCalendariumRenderer::reportMissingGlyphs(const QDate &date, const QStringList &texts, const QFont &font,
+                                                const QRectF &rect)
+{
+    for (const QString &text : texts) {
+        if (const QString missing = MvGlyphCoverage::missingCharacters(font, text); !missing.isEmpty())
+            m_unfittingTexts.append({date, text, rect, missing});
+    }
 }

@@ -256,6 +256,8 @@ protected:
     bool isConfiguredOrWeeksAskedFor(const MvCalendarRenderingInformation &info) const;
     /// Collects a background; rectangles of one colour are filled as one shape.
     void addFill(const QRectF &rect, const QColor &color);
+    /// Notes those of the texts in the font that have characters which no font can show.
+    void reportMissingGlyphs(const QDate &date, const QStringList &texts, const QFont &font, const QRectF &rect);
     /// Notes a text of the day whose cell has no room for it, unless nothing of it would be seen.
     void reportUnfitting(const QDate &date, const QString &text, const QRectF &rect);
     /// descriptions() with the vacations that the day lies in, whether or not they begin on it.

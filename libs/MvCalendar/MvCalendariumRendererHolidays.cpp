@@ -2,10 +2,9 @@
 
 #include "MvModelBase/MvPrintableText.h"
 
+#include <QHash>
 #include <QPainter>
-#include <QTextDocument>
-
-#include <algorithm>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -57,43 +56,53 @@ QStringList MvCalendariumRendererHolidays::texts(const QDate &date) const
 QList<MvCalendariumRendererHolidays::Event> MvCalendariumRendererHolidays::eventsOfMonth() const
 {
     QList<Event> events;
+    QHash<QString, qsizetype> running; // by text: the event that lasted until the day before
     const QDate start = startDate();
     for (int day = 0; day < start.daysInMonth(); ++day) {
         const QDate date = start.addDays(day);
+        QHash<QString, qsizetype> ofDay;
         const QStringList found = texts(date);
         for (const QString &text : found) {
-            const auto run = std::find_if(events.begin(), events.end(), [&](const Event &event) {
-                return event.text == text && event.last.addDays(1) == date;
-            });
-            if (run != events.end())
-                run->last = date;
+            const qsizetype run = running.value(text, events.size());
+            if (run < events.size())
+                events[run].last = date;
             else
                 events.append({date, date, text});
+            ofDay.insert(text, run);
         }
+        running = ofDay;
     }
     return events;
 }
 
-void MvCalendariumRendererHolidays::completeAcrossMonth(Event &event) const
+void MvCalendariumRendererHolidays::completeAcrossMonth(QList<Event> &events) const
 {
-    const auto follow = [this, &event](QDate &end, int direction) {
-        for (int day = 0; day < mostDaysBeyond && texts(end.addDays(direction)).contains(event.text); ++day)
-            end = end.addDays(direction);
+    const auto follow = [this, &events](QDate Event::*end, const QDate &edge, int direction) {
+        QList<Event *> open; // those that go on so far
+        for (Event &event : events) {
+            if (event.*end == edge)
+                open.append(&event);
+        }
+        for (int day = 1; day <= mostDaysBeyond && !open.isEmpty(); ++day) {
+            const QDate date = edge.addDays(direction * day);
+            const QStringList found = texts(date);
+            const QSet<QString> present(found.cbegin(), found.cend());
+            open.removeIf([&present](const Event *event) { return !present.contains(event->text); });
+            for (Event *event : std::as_const(open))
+                event->*end = date;
+        }
     };
-    if (event.first == startDate())
-        follow(event.first, -1);
-    if (event.last == startDate().addMonths(1).addDays(-1))
-        follow(event.last, 1);
+    follow(&Event::first, startDate(), -1);
+    follow(&Event::last, startDate().addMonths(1).addDays(-1), 1);
 }
 
 QStringList MvCalendariumRendererHolidays::items() const
 {
     QList<Event> events = eventsOfMonth();
+    completeAcrossMonth(events);
     QStringList items;
-    for (Event &event : events) {
-        completeAcrossMonth(event);
+    for (const Event &event : std::as_const(events))
         items.append(describe(event.first, event.last, event.text));
-    }
     return items;
 }
 
@@ -118,41 +127,24 @@ void MvCalendariumRendererHolidays::renderBase(QPainter &painter, const QRectF &
 {
     drawCellBackground(painter, rect, blockCell, true);
     const QRectF inner = rect.marginsRemoved(padding(CALENDAR_CELL_TYPE_WEEKDAY));
-    if (inner.isEmpty() || !isOpaqueColor(fontColor(blockCell, true)))
+    const QColor color = fontColor(blockCell, true);
+    if (inner.isEmpty() || !isOpaqueColor(color))
         return;
+    QStringList bound = items();
+    bound.replaceInStrings(u": "_s, u":\u00a0"_s); // a date stays with the first word of its name
+    const MvFittedText fitted = fitter(CALENDAR_CELL_TYPE_WEEKDAY).fitRunning(inner.size(), bound, itemSeparator);
+    for (const QString &text : fitted.cutTexts)
+        reportUnfitting(startDate(), QString(text).replace(u'\u00a0', u' '), rect);
+    reportMissingGlyphs(startDate(), bound, fitted.font, rect);
 
-    QTextDocument document;
-    document.setDocumentMargin(0.0); // the padding is the margin
-    document.setDefaultFont(font(CALENDAR_CELL_TYPE_WEEKDAY));
-    document.setPageSize(inner.size());
-    fill(document, rect);
-    painter.translate(inner.topLeft());
-    document.drawContents(&painter);
-    painter.translate(-inner.topLeft());
-}
-
-void MvCalendariumRendererHolidays::fill(QTextDocument &document, const QRectF &rect)
-{
-    document.setHtml(html(createHolidayDescription()));
-    if (document.pageCount() <= 1)
-        return;
-    const QStringList all = items();
-    const auto fits = [&](qsizetype kept) {
-        document.setHtml(html(paragraph(kept > 0 ? all.first(kept).join(itemSeparator) + u" …"_s : QString())));
-        return document.pageCount() <= 1;
-    };
-    qsizetype kept = 0;
-    for (qsizetype tooMany = all.size(); tooMany - kept > 1;) {
-        const qsizetype middle = (kept + tooMany) / 2;
-        (fits(middle) ? kept : tooMany) = middle;
+    painter.save();
+    painter.setFont(fitted.font);
+    painter.setPen(color);
+    const double lineHeight = QFontMetricsF(fitted.font).height();
+    QRectF line = inner;
+    for (const QString &text : fitted.lines) {
+        drawText(painter, line, Qt::AlignLeft | Qt::AlignTop, text);
+        line.translate(0.0, lineHeight);
     }
-    fits(kept);
-    reportUnfitting(startDate(), all.sliced(kept).join(itemSeparator), rect);
-}
-
-QString MvCalendariumRendererHolidays::html(const QString &paragraph) const
-{
-    // a date stays with the first word of its name
-    const QString bound = QString(paragraph).replace(u": "_s, u":\u00a0"_s);
-    return u"<font color=\"%1\">%2</font>"_s.arg(fontColor(blockCell, true).name(), bound);
+    painter.restore();
 }

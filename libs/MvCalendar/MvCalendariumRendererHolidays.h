@@ -2,8 +2,6 @@
 
 #include "MvCalendar/MvCalendariumRenderer.h"
 
-class QTextDocument;
-
 /// The holidays of the page's month as one running text, without a grid: "1.5: Tag der Arbeit, 18.5-29.5: Ferien".
 /// Days in a row that carry the same name are one item, with its true ends even where they lie outside the month.
 ///
@@ -36,9 +34,6 @@ private:
 
     QStringList texts(const QDate &date) const;
     QList<Event> eventsOfMonth() const;
-    void completeAcrossMonth(Event &event) const;
+    void completeAcrossMonth(QList<Event> &events) const;
     QStringList items() const;
-    QString html(const QString &paragraph) const;
-    /// Sets the items, as many as the page has room for; the ones left out are reported.
-    void fill(QTextDocument &document, const QRectF &rect);
 };

@@ -179,7 +179,7 @@ QString MvLineBreaker::lastLine()
 
 void MvLineBreaker::noteCut(qsizetype index)
 {
-    if (!m_cut.contains(index))
+    if (m_cut.isEmpty() || m_cut.constLast() != index) // they come in their order
         m_cut.append(index);
 }
 

@@ -123,6 +123,7 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     }
     if (isCut)
         m_renderer.reportUnfitting(date, texts.join(u", "_s), cell);
+    m_renderer.reportMissingGlyphs(date, texts, textStyle.texts, cell);
 
     paintFront(parts, config, date, even);
     if (!parts.week.isNull())

@@ -97,6 +97,33 @@ QPainterPath joined(const QList<MvPlacedOutline> &lines)
     return path;
 }
 
+/// On a raster as many pixels as the device has there, which looks better than what its painter makes of many more.
+QImage fittedToDevice(const QPainter &painter, const MvTextOutline::Picture &picture)
+{
+    if (!isRaster(painter))
+        return picture.image;
+    const QSize pixels = painter.deviceTransform().mapRect(picture.rect).size().toSize().expandedTo({1, 1});
+    const bool isSmaller = pixels.width() < picture.image.width() && pixels.height() < picture.image.height();
+    return isSmaller ? picture.image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : picture.image;
+}
+
+void drawPictures(QPainter &painter, const QList<MvPlacedOutline> &lines, const QColor &color)
+{
+    const bool wasSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+    const double opacity = painter.opacity();
+    for (const MvPlacedOutline &line : lines) {
+        const QList<MvTextOutline::Picture> &pictures = line.outline.pictures();
+        if (pictures.isEmpty())
+            continue;
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+        painter.setOpacity(opacity * double(color.alphaF()));
+        for (const MvTextOutline::Picture &picture : pictures)
+            painter.drawImage(picture.rect.translated(line.baseline), fittedToDevice(painter, picture));
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
+    painter.setOpacity(opacity);
+}
+
 /// Whether no pixel row is touched by two of the lines.
 bool shareNoRow(const QPainter &painter, const QList<MvPlacedOutline> &lines)
 {
@@ -138,4 +165,5 @@ void MvOutlinePainter::fillOutlines(QPainter &painter, const QList<MvPlacedOutli
     } else {
         painter.fillPath(joined(lines), color);
     }
+    drawPictures(painter, lines, color);
 }

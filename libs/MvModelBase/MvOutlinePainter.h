@@ -5,7 +5,7 @@
 class QColor;
 class QPainter;
 
-/// Fills text outlines in the way that suits the target.
+/// Fills text outlines in the way that suits the target, and draws the pictures among their glyphs.
 ///
 /// On an MvPaintRecorder one operation is recorded that shares the outline. On a raster target an antialiased text is
 /// filled in parts that share no pixel column: filling takes time that grows with the square of a path's width, and

@@ -102,7 +102,10 @@ private:
     void add(const Outlines &shape)
     {
         for (const MvPlacedOutline &line : shape.lines) {
-            Item item = plain(Item::Text, line.outline.path().translated(line.baseline));
+            QPainterPath seen = line.outline.path().translated(line.baseline);
+            for (const MvTextOutline::Picture &picture : line.outline.pictures())
+                seen.addRect(picture.rect.translated(line.baseline));
+            Item item = plain(Item::Text, seen);
             item.fill = shape.color;
             item.text = line.outline.text();
             item.font = line.outline.font();

@@ -1,6 +1,7 @@
 #include "MvModelBase/MvTextOutline.h"
 
 #include "MvCore/MvSharedData.h"
+#include "MvModelBase/MvGlyphPictures.h"
 
 #include <QFontMetricsF>
 #include <QImage>
@@ -16,6 +17,7 @@ struct MvTextOutlineImpl : MvSharedData
     QRectF bounds;
     double advance = 0.0;
     QList<MvTextOutline::Group> groups;
+    QList<MvTextOutline::Picture> pictures;
 };
 
 namespace {
@@ -110,7 +112,11 @@ MvTextOutline::MvTextOutline()
 
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text)
     : MvTextOutline(font, text, shaped(font, text), QFontMetricsF(font).horizontalAdvance(text))
-{}
+{
+    d->pictures = MvGlyphPictures::of(font, text, d->path.isEmpty());
+    for (const Picture &picture : std::as_const(d->pictures))
+        d->bounds |= picture.rect;
+}
 
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text, const QPainterPath &path, double advance)
     : d(new MvTextOutlineImpl)
@@ -135,7 +141,7 @@ MvTextOutline::~MvTextOutline() = default;
 
 bool MvTextOutline::isEmpty() const
 {
-    return d->groups.isEmpty();
+    return d->groups.isEmpty() && d->pictures.isEmpty();
 }
 
 QFont MvTextOutline::font() const
@@ -151,6 +157,11 @@ QString MvTextOutline::text() const
 const QPainterPath &MvTextOutline::path() const
 {
     return d->path;
+}
+
+const QList<MvTextOutline::Picture> &MvTextOutline::pictures() const
+{
+    return d->pictures;
 }
 
 QRectF MvTextOutline::bounds() const

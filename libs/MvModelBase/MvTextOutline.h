@@ -3,13 +3,15 @@
 #include "MvModelBase/mvmodelbase_export.h"
 
 #include <QFont>
+#include <QImage>
 #include <QList>
 #include <QPainterPath>
 #include <QSharedDataPointer>
 
 struct MvTextOutlineImpl;
 
-/// The outline of one line of text with its baseline starting at (0, 0), in the pixels of its font.
+/// The outline of one line of text with its baseline starting at (0, 0), in the pixels of its font; glyphs that have no
+/// outline but colours are pictures beside it.
 ///
 /// An immutable, shared value: a copy costs a reference count, and it can be painted by several threads at once.
 /// Fill rule is winding. Underlines and other decorations are not part of an outline.
@@ -24,6 +26,13 @@ public:
         double right = 0.0;
         double top = 0.0;
         double bottom = 0.0;
+    };
+
+    /// A glyph that is no outline but a coloured picture, as emoji are.
+    struct Picture
+    {
+        QImage image; // fine enough for print; shared by all texts with the glyph
+        QRectF rect;  // from the start of the baseline
     };
 
     /// An outline of nothing.
@@ -42,14 +51,16 @@ public:
     MvTextOutline &operator=(MvTextOutline &&) noexcept;
     ~MvTextOutline();
 
-    /// True when there is nothing to fill: no text, or blanks only.
+    /// True when nothing would be seen: no text, or blanks only.
     bool isEmpty() const;
 
     QFont font() const;
     QString text() const;
     const QPainterPath &path() const;
 
-    /// Bounding rectangle of the path's control points; null when empty.
+    const QList<Picture> &pictures() const;
+
+    /// Bounding rectangle of the path's control points and the pictures; null when empty.
     QRectF bounds() const;
 
     double advance() const;

@@ -8,8 +8,9 @@
 template class MvSingleton<MvTextOutlineCache>;
 
 namespace {
-constexpr int entryCost = 16; // of an entry besides its elements, so that blank texts are bounded too
-}
+constexpr int entryCost = 16;     // of an entry besides its elements, so that blank texts are bounded too
+constexpr int pictureCost = 1000; // in elements
+} // namespace
 
 MvTextOutlineCache::MvTextOutlineCache(int maximumElements)
     : m_outlines(std::max(0, maximumElements))
@@ -55,7 +56,8 @@ MvTextOutline MvTextOutlineCache::outline(const QFont &font, const QString &text
     if (text.size() > longestKept)
         return fresh;
     const QMutexLocker lock(&m_mutex);
-    m_outlines.insert(key, new MvTextOutline(fresh), entryCost + fresh.elementCount());
+    m_outlines.insert(key, new MvTextOutline(fresh),
+                      entryCost + fresh.elementCount() + pictureCost * int(fresh.pictures().size()));
     return fresh;
 }
 

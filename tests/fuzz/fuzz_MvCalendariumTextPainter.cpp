@@ -2,6 +2,7 @@
 
 #include "MvBoxFont.h"
 #include "MvCalendar/MvCalendariumTextPainter.h"
+#include "MvCalendar/MvTextFitter.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvPrintableText.h"
@@ -9,6 +10,34 @@
 #include "MvProductBase/MvSVGCompilerInstructions.h"
 
 #include <QPainter>
+
+namespace {
+
+/// Every division of a word is in order and within it; what is said to be whole has all of its letters on the lines.
+void checkFit(const QFont &font, const QSizeF &room, const QStringList &texts)
+{
+    const MvHyphenator hyphenator(MvLocale(QStringLiteral("hu_HU")));
+    qsizetype last = 0;
+    const QList<MvWordBreak> breaks = hyphenator.breaks(texts.constFirst());
+    for (const MvWordBreak &at : breaks) {
+        MvFuzz::check(at.end >= last && at.next >= at.end && at.next <= texts.constFirst().size(),
+                      "breaks are in order");
+        last = at.next;
+    }
+    const MvTextFitter fitter(font, 12.0, hyphenator);
+    for (const MvFittedText &fitted :
+         {fitter.fit(room, texts, room.width() + 20.0), fitter.fitRunning(room, texts, QStringLiteral(", ")),
+          fitter.fitLine(room.width(), texts.constFirst())}) {
+        MvFuzz::check(fitted.isCut == !fitted.cutTexts.isEmpty(), "what is cut is named");
+        MvFuzz::check(fitted.font.pixelSize() >= 12 && fitted.font.pixelSize() <= font.pixelSize(), "type has a floor");
+        for (const QString &shown : fitted.lines)
+            MvFuzz::check(
+                !MvCalendariumTextPainter::isTextToWide(static_cast<int>(room.width()) + 20, fitted.font, shown),
+                "lines have room");
+    }
+}
+
+} // namespace
 
 /// Any sequence of code units as a text to break, shorten and draw; the first one is the width.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -32,6 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QStringList lines = MvCalendariumTextPainter::fitLines(width, data[1] % 8, font, {line, text}, &isCut);
     MvFuzz::check(lines.size() <= data[1] % 8, "no more lines than there is room for");
     MvFuzz::check(line.isEmpty() || isCut || !lines.isEmpty(), "a text is printed or said to be cut");
+    checkFit(font, {width + 0.0, data[1] * 2.0}, {line, text});
     const QString name = MvStringHelper::simplifiedName(text);
     MvFuzz::check(MvStringHelper::simplifiedName(name) == name, "a simple name stays as it is");
     const MvSVGCompilerInstructions instructions(text);
