@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MvCalendar/MvTextFitter.h"
+#include "MvCalendar/mvcalendar_export.h"
 
 #include <QPair>
 #include <QRectF>
@@ -17,7 +18,7 @@ struct MvDayCell
 };
 
 /// A day's texts with their places.
-struct MvPlacedTexts
+struct MVCALENDAR_EXPORT MvPlacedTexts
 {
     MvFittedText text;
     QRectF room;           ///< the lines are centred in it,
@@ -33,7 +34,7 @@ struct MvPlacedTexts
 
 /// Says where the texts of a day stand in its cell: above and below the number, where the layout leaves them a place.
 /// In a low cell, which has room for one line there at most, texts that lack room may stand beside the number instead.
-class MvDayTextPlacement
+class MVCALENDAR_EXPORT MvDayTextPlacement
 {
 public:
     /// The fitter is that of the day's texts; it must outlive the placement.

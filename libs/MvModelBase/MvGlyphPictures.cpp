@@ -2,6 +2,7 @@
 
 #include <QCache>
 #include <QGlyphRun>
+#include <QHash>
 #include <QMutex>
 #include <QPainter>
 #include <QRawFont>
@@ -36,22 +37,41 @@ struct Key
     friend size_t qHash(const Key &key, size_t seed) { return qHashMulti(seed, key.family, key.glyph, key.pixels); }
 };
 
-Glyph painted(QRawFont font, quint32 index, double pixels)
+/// The smallest rectangle with everything that is seen in the image.
+QRect seen(const QImage &image)
 {
-    font.setPixelSize(pixels);
-    const QRectF rect = font.boundingRect(index);
-    if (rect.isEmpty())
-        return {};
-    QImage image(rect.size().toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
+    QRect rect;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(line[x]) > 0)
+                rect |= QRect(x, y, 1, 1);
+        }
+    }
+    return rect;
+}
+
+/// The glyph is painted with a scaled painter and cut out of the result: asking the font for its other sizes, or for
+/// the bounds of a bitmap, spoils its measures of all texts that follow.
+Glyph painted(const QRawFont &font, quint32 index, double pixels)
+{
+    const double em = font.pixelSize();
+    const QPointF origin(em, 2.0 * em);
+    QImage image((QSizeF(4.0, 3.0) * pixels).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QGlyphRun run;
     run.setRawFont(font);
     run.setGlyphIndexes({index});
     run.setPositions({QPointF()});
     QPainter painter(&image);
-    painter.drawGlyphRun(-rect.topLeft(), run);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.scale(pixels / em, pixels / em);
+    painter.drawGlyphRun(origin, run);
     painter.end();
-    return {image, QRectF(rect.topLeft() / pixels, QSizeF(image.size()) / pixels)};
+    const QRect rect = seen(image);
+    if (rect.isEmpty())
+        return {};
+    return {image.copy(rect), {QPointF(rect.topLeft()) / pixels - origin / em, QSizeF(rect.size()) / pixels}};
 }
 
 /// Painted once per font, glyph and size.
@@ -68,34 +88,52 @@ Glyph pictureOf(const QRawFont &font, quint32 index, double pixels)
     return fresh;
 }
 
+/// Whether the font has bitmaps alone.
+bool hasNoOutlines(const QRawFont &font)
+{
+    static QMutex mutex;
+    static QHash<QString, bool> known;
+    const QMutexLocker lock(&mutex);
+    const QString name = font.familyName() + font.styleName();
+    if (const auto found = known.constFind(name); found != known.cend())
+        return *found;
+    const bool isBitmap =
+        font.fontTable("glyf").isEmpty() && font.fontTable("CFF ").isEmpty() && font.fontTable("CFF2").isEmpty();
+    return *known.insert(name, isBitmap);
+}
+
 } // namespace
 
-QList<MvTextOutline::Picture> MvGlyphPictures::of(const QFont &font, const QString &text, bool hasNoOutline)
+QList<MvTextOutline::Picture> MvGlyphPictures::of(const QFont &font, const QString &text, QPainterPath *path)
 {
-    const auto mayBePicture = [](QChar c) { return c.unicode() >= firstSymbol; };
-    const bool isBlank = std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
-    if (isBlank || (!hasNoOutline && std::none_of(text.cbegin(), text.cend(), mayBePicture)))
+    const bool isFontOfBitmaps = hasNoOutlines(QRawFont::fromFont(font));
+    if (!isFontOfBitmaps &&
+        std::none_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= firstSymbol; }))
         return {};
     QTextLayout layout(text, font);
     layout.beginLayout();
     const QTextLine line = layout.createLine();
     layout.endLayout();
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    if (std::none_of(runs.cbegin(), runs.cend(), [](const QGlyphRun &run) { return hasNoOutlines(run.rawFont()); }))
+        return {};
 
     QList<MvTextOutline::Picture> pictures;
-    const QList<QGlyphRun> runs = layout.glyphRuns();
     for (const QGlyphRun &run : runs) {
         const QRawFont raw = run.rawFont();
+        const double em = raw.pixelSize();
+        const bool isBitmap = hasNoOutlines(raw);
         const QList<quint32> indexes = run.glyphIndexes();
         const QList<QPointF> positions = run.positions();
         for (qsizetype i = 0; i < indexes.size(); ++i) {
-            if (indexes.at(i) == 0 || !raw.pathForGlyph(indexes.at(i)).isEmpty())
-                continue;
-            const Glyph glyph = pictureOf(raw, indexes.at(i), raw.pixelSize() < largeFont ? finePixels : largePixels);
-            if (glyph.image.isNull())
-                continue;
-            const double em = raw.pixelSize();
             const QPointF origin = positions.at(i) - QPointF(0.0, line.ascent());
-            pictures.append({glyph.image, {origin + glyph.rect.topLeft() * em, glyph.rect.size() * em}});
+            if (!isBitmap) {
+                path->addPath(raw.pathForGlyph(indexes.at(i)).translated(origin));
+                continue;
+            }
+            const Glyph glyph = pictureOf(raw, indexes.at(i), em < largeFont ? finePixels : largePixels);
+            if (!glyph.image.isNull())
+                pictures.append({glyph.image, {origin + glyph.rect.topLeft() * em, glyph.rect.size() * em}});
         }
     }
     return pictures;

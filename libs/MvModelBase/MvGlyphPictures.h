@@ -6,7 +6,10 @@
 class MvGlyphPictures
 {
 public:
-    /// With their places in a line whose baseline starts at (0, 0). Looks only at texts that may have any: those with
-    /// characters of the planes where emoji are, or `hasNoOutline`.
-    static QList<MvTextOutline::Picture> of(const QFont &font, const QString &text, bool hasNoOutline);
+    /// With their places in a line whose baseline starts at (0, 0); the path gets the outlines of all others. Nothing
+    /// is given, and the path is left alone, when all glyphs have outlines.
+    ///
+    /// A font of bitmaps is never asked for outlines or for other sizes than its own: that spoils its measures of all
+    /// texts that follow.
+    static QList<MvTextOutline::Picture> of(const QFont &font, const QString &text, QPainterPath *path);
 };

@@ -111,10 +111,14 @@ MvTextOutline::MvTextOutline()
 {}
 
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text)
-    : MvTextOutline(font, text, shaped(font, text), QFontMetricsF(font).horizontalAdvance(text))
+    : d(new MvTextOutlineImpl)
 {
-    d->pictures = MvGlyphPictures::of(font, text, d->path.isEmpty());
-    for (const Picture &picture : std::as_const(d->pictures))
+    QPainterPath path;
+    const double advance = QFontMetricsF(font).horizontalAdvance(text);
+    const QList<Picture> pictures = MvGlyphPictures::of(font, text, &path);
+    *this = MvTextOutline(font, text, pictures.isEmpty() ? shaped(font, text) : path, advance);
+    d->pictures = pictures;
+    for (const Picture &picture : pictures)
         d->bounds |= picture.rect;
 }
 

@@ -1,9 +1,11 @@
 #include "MvBoxFont.h"
 #include "MvTest.h"
 
+#include "MvModelBase/MvGlyphCoverage.h"
 #include "MvModelBase/MvOutlinePainter.h"
 #include "MvModelBase/MvTextOutlineCache.h"
 
+#include <QFontDatabase>
 #include <QImage>
 #include <QPainter>
 
@@ -56,6 +58,9 @@ private Q_SLOTS:
     void isBounded();
     void forgetsWhenFontsChange();
     void servesThreads();
+    void emojiArePictures();
+    void missingCharacters_data();
+    void missingCharacters();
 };
 
 void tst_MvTextOutlineCache::groups_data()
@@ -272,6 +277,44 @@ void tst_MvTextOutlineCache::servesThreads()
     for (const QImage &image : images)
         QVERIFY(image == images[0]);
     QVERIFY(images[0] != canvas());
+}
+
+void tst_MvTextOutlineCache::emojiArePictures()
+{
+    if (!QFontDatabase::families().contains(u"Noto Color Emoji"_qs))
+        QSKIP("no emoji without their font");
+    for (const int pixels : {30, 50, 30}) { // one size must not spoil the measures of another
+        const MvTextOutline outline(lato(pixels), u"A\U0001F382\U0001F389"_qs);
+        QCOMPARE(outline.pictures().size(), 2);
+        const QRectF cake = outline.pictures().at(0).rect;
+        const QRectF party = outline.pictures().at(1).rect;
+        QVERIFY(cake.left() > MvTextOutline(lato(pixels), u"A"_qs).bounds().right());
+        QVERIFY(cake.right() < party.left() && cake.width() > 0.5 * pixels && party.right() <= outline.advance());
+        QVERIFY(outline.bounds().contains(cake) && !outline.isEmpty());
+
+        const QImage image = filled(QTransform::fromTranslate(50, 100), [&outline](QPainter &painter) {
+            MvOutlinePainter::fillOutline(painter, {}, outline, Qt::black);
+        });
+        int colored = 0;
+        for (int x = 50 + int(cake.left()); x < 50 + int(cake.right()); ++x)
+            colored += image.pixelColor(x, 100 - pixels / 4).hsvSaturation() > 40 ? 1 : 0;
+        QVERIFY(colored > cake.width() / 3);
+    }
+}
+
+void tst_MvTextOutlineCache::missingCharacters_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("missing");
+    QTest::newRow("none") << u"Jörg\u00a0– „Süß“ Žižek"_qs << QString();
+    QTest::newRow("each once") << u"x\U000F1234y\uE123\U000F1234"_qs << u"\U000F1234\uE123"_qs;
+    QTest::newRow("never seen") << u"a\u200d\ufe0f\u0301\u00ad\t"_qs << QString();
+}
+
+void tst_MvTextOutlineCache::missingCharacters()
+{
+    QFETCH(QString, text);
+    QTEST(MvGlyphCoverage::missingCharacters(lato(20), text), "missing");
 }
 
 MV_TEST_MAIN(tst_MvTextOutlineCache)
