@@ -43,8 +43,10 @@ int inProcess(const MvStorageOperation &operation, const QDir &disk, const std::
     const pid_t child = ::fork();
     if (child == 0) {
         qInstallMessageHandler(discardMessage);
-        qputenv("TMPDIR", QFile::encodeName(disk.filePath(u"tmp"_s)));
-        disk.mkpath(u"tmp"_s);
+        // of its own: what killed ones leave has the names that it would choose, since all begin with one random state
+        const QString temporary = u"tmp/%1"_s.arg(::getpid());
+        qputenv("TMPDIR", QFile::encodeName(disk.filePath(temporary)));
+        disk.mkpath(temporary);
         MvDirectoryConfig::instance().setProgramDataDir(disk.filePath(u"data"_s));
         static int argc = 1;
         static char name[] = "store";
