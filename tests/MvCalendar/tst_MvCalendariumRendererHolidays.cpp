@@ -56,7 +56,6 @@ private Q_SLOTS:
     void entryOfEveryDay();
     void switchedOff();
     void paintsTheBlock();
-    void leavesOutWhatDoesNotFit();
     void whatItIs();
 };
 
@@ -172,23 +171,6 @@ void tst_MvCalendariumRendererHolidays::paintsTheBlock()
     QVERIFY(qAbs(ink.left() - 130.0) < 3.0); // a box begins 0.075 em within its character
     // one pixel is one unit: the first line of 25 begins below the padding, its box 0.1 em lower
     QVERIFY2(qAbs(ink.top() - (220.0 + 2.5)) < 1.0, qPrintable(QString::number(ink.top())));
-}
-
-void tst_MvCalendariumRendererHolidays::leavesOutWhatDoesNotFit()
-{
-    MvPageFixture page(block(), QDate(2027, 5, 1), FEATURE_HOLIDAYS | FEATURE_PUBLIC_HOLIDAYS_ONLY);
-    const QRectF rect(0, 0, 540, 85); // two lines of 40: "... Christi", "Himmelfahrt, ... Pfingstmontag …"
-    const QRectF ink = inkOf(page.render(rect));
-    QVERIFY(!ink.isEmpty());
-    QVERIFY(rect.contains(ink));
-    const QList<MvUnfittingText> unfitting = page.renderer().unfittingTexts();
-    QCOMPARE(unfitting.size(), 1);
-    QCOMPARE(unfitting.constFirst().text, u"27.5: Fronleichnam"_s);
-    QCOMPARE(unfitting.constFirst().rect, rect);
-
-    const QRectF tiny(0, 0, 200, 35);
-    page.render(tiny);
-    QVERIFY(page.renderer().unfittingTexts().constFirst().text.startsWith(u"1.5: Tag der Arbeit"_s));
 }
 
 void tst_MvCalendariumRendererHolidays::whatItIs()

@@ -64,8 +64,6 @@ private Q_SLOTS:
     void widths_data();
     void widths();
     void heights();
-    void everyMonthFillsTheRectangle_data();
-    void everyMonthFillsTheRectangle();
     void headsGiveWay();
     void printsWeeksHeadsAndDays();
     void weeksWithoutNumbersKeepTheirCell();
@@ -117,51 +115,6 @@ void tst_MvCalendariumRendererOneColumnPerWeek::heights()
     for (const MvCalendarCellTypeEnum type : dayTypes + weekdayHeads + specialHeads)
         QCOMPARE(weeks(page).heightOfCell(rect, type), row);
     QCOMPARE(weeks(page).heightOfCell(rect, CALENDAR_CELL_TYPE_TOPLINE), 0.0);
-}
-
-void tst_MvCalendariumRendererOneColumnPerWeek::everyMonthFillsTheRectangle_data()
-{
-    QTest::addColumn<QString>("info");
-    QTest::addColumn<QDate>("month");
-    QTest::addColumn<int>("count");
-    const QList<QPair<QString, QString>> layouts{{u"days"_s, plain}, {u"heads"_s, heads}, {u"in front"_s, inFront}};
-    for (const auto &[name, info] : layouts) {
-        QTest::addRow("%s: 28 days, four weeks", qPrintable(name)) << info << QDate(2027, 2, 1) << 4;
-        QTest::addRow("%s: 29 days", qPrintable(name)) << info << QDate(2028, 2, 1) << 5;
-        QTest::addRow("%s: week 53", qPrintable(name)) << info << QDate(2027, 1, 1) << 5;
-        QTest::addRow("%s: 30 days, six weeks", qPrintable(name)) << info << QDate(2031, 6, 1) << 6;
-        QTest::addRow("%s: 31 days, six weeks", qPrintable(name)) << info << QDate(2027, 5, 1) << 6;
-    }
-    QTest::newRow("empty weeks are shown") << u"calendar_render_days_of_week"_s << QDate(2027, 2, 1) << 6;
-}
-
-void tst_MvCalendariumRendererOneColumnPerWeek::everyMonthFillsTheRectangle()
-{
-    QFETCH(QString, info);
-    QFETCH(QDate, month);
-    QFETCH(int, count);
-    MvPageFixture page(columns(info), month);
-    for (const QRectF &rect : {QRectF(100, 50, 2800, 1700), QRectF(0, 0, 120, 40)}) {
-        const QList<Item> items = page.render(rect).items();
-        QCOMPARE(page.days.size(), month.daysInMonth());
-        const double height = weeks(page).heightOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY);
-        const double column = weeks(page).widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR, month);
-        const int before = month.dayOfWeek() - 1;
-        for (const MvPageFixture::Day &day : std::as_const(page.days)) {
-            const int cell = before + day.date.day() - 1;
-            const double right = rect.right() - (count - 1 - cell / 7) * column;
-            QVERIFY(qAbs(day.rect.right() - right) < 1e-6);
-            QVERIFY(qAbs(day.rect.bottom() - (rect.bottom() - (6 - cell % 7) * height)) < 1e-6);
-        }
-        QRectF filled;
-        for (const Item &item : items) {
-            if (item.kind != Item::Text && item.fill.isValid())
-                filled |= item.bounds;
-        }
-        for (const double gap : {filled.left() - rect.left(), filled.top() - rect.top(), filled.right() - rect.right(),
-                                 filled.bottom() - rect.bottom()})
-            QVERIFY(qAbs(gap) < 1e-6);
-    }
 }
 
 /// Whatever the paddings are: columns lie side by side within the page, and weekdays are named or give their room away.

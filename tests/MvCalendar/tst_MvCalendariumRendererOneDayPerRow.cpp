@@ -90,8 +90,6 @@ private Q_SLOTS:
     void calendarWeeks_data();
     void calendarWeeks();
     void lowRowsShowTheWeekNumberAlone();
-    void longTextsEndInAnEllipsis();
-    void headingsThatDoNotFit();
     void minimumSize();
     void usedCellTypes_data();
     void usedCellTypes();
@@ -315,46 +313,6 @@ void tst_MvCalendariumRendererOneDayPerRow::lowRowsShowTheWeekNumberAlone()
         texts.append(item.text);
     QVERIFY(texts.contains(u"17"_s)); // "KW 17" is 62.5 long
     QVERIFY(texts.contains(u"KW 18"_s));
-}
-
-void tst_MvCalendariumRendererOneDayPerRow::longTextsEndInAnEllipsis()
-{
-    const QString name =
-        u"Großtante Wilhelmine und Großonkel Balthasar mit den Zwillingen Anna und Otto aus Garmisch-Partenkirchen, "
-        "Leopold, Kunigunde, Hieronymus, Apollonia und all den anderen aus Oberammergau und Unterammergau"_s;
-    MvCalendarEventRegistry::instance().setEvents(
-        {MvCalendarEvent(name, QDate(1950, 5, 12).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime())});
-    MvPageFixture page(dayList(weekdays, u"A$$B$$C$$D"_s), QDate(2027, 5, 1), FEATURE_ENTRIES);
-    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
-    const MvPaintRecording recording = page.render({0, 0, 2000, 3200});
-    const QRectF cell = page.days.at(11).rect;
-    QList<Item> texts = textsOfRow(recording, cell).mid(2); // after number and weekday
-    QVERIFY(texts.size() > 2);
-    for (const Item &text : std::as_const(texts))
-        QVERIFY2(cell.contains(text.bounds), qPrintable(text.text));
-    QVERIFY(texts.constLast().text.endsWith(u'…'));
-    const QList<MvUnfittingText> unfitting = page.renderer().unfittingTexts();
-    QCOMPARE(unfitting, (QList<MvUnfittingText>{{QDate(2027, 5, 12), name, cell}}));
-}
-
-void tst_MvCalendariumRendererOneDayPerRow::headingsThatDoNotFit()
-{
-    const QString longName = u"Urgroßmutter Adelheid"_s; // 262.5 wide
-    MvPageFixture page(dayList(days, u"Mama$$"_s + longName), QDate(2027, 5, 1), 0);
-    const QRectF narrow(0, 0, numberWidth + 2 * 200.0, 3200);
-    const MvPaintRecording recording = page.render(narrow);
-    const Item heading = recording.items(Item::Text).at(1);
-    QVERIFY(heading.text.startsWith(u"Urgro"_s) && heading.text.endsWith(u'…'));
-    QVERIFY(narrow.contains(heading.bounds));
-    QCOMPARE(page.renderer().unfittingTexts().size(), 1);
-    QCOMPARE(page.renderer().unfittingTexts().constFirst().text, longName);
-    QVERIFY(page.renderer().thereIsToMuchText(narrow));
-    const QRectF wide(0, 0, numberWidth + 2 * 263.0, 3200);
-    QVERIFY(!page.renderer().thereIsToMuchText(wide));
-    page.render(wide);
-    QVERIFY(page.renderer().unfittingTexts().isEmpty());
-    MvPageFixture withoutTopLine(dayList(days, u"1"_s), QDate(2027, 5, 1), 0);
-    QVERIFY(!withoutTopLine.renderer().thereIsToMuchText({0, 0, 90, 3200}));
 }
 
 void tst_MvCalendariumRendererOneDayPerRow::minimumSize()

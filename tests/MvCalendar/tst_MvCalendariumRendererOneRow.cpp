@@ -39,8 +39,6 @@ class tst_MvCalendariumRendererOneRow : public MvTest
 private Q_SLOTS:
     void sharesTheHeight_data();
     void sharesTheHeight();
-    void everyDayHasItsColumn_data();
-    void everyDayHasItsColumn();
     void printsTitleHeadsAndNumbers();
     void headsFollowTheirDays();
     void narrowColumnsKeepTheirNumbers();
@@ -77,35 +75,6 @@ void tst_MvCalendariumRendererOneRow::sharesTheHeight()
     page.render(rect);
     QCOMPARE(page.days.constFirst().rect.top(), 20.0 + titleHeight + headHeight);
     QCOMPARE(page.days.constFirst().rect.bottom(), rect.bottom());
-}
-
-void tst_MvCalendariumRendererOneRow::everyDayHasItsColumn_data()
-{
-    QTest::addColumn<QDate>("month");
-    QTest::addColumn<int>("days");
-    QTest::newRow("28 days") << QDate(2027, 2, 1) << 28;
-    QTest::newRow("29 days") << QDate(2028, 2, 1) << 29;
-    QTest::newRow("30 days") << QDate(2027, 4, 1) << 30;
-    QTest::newRow("31 days") << QDate(2027, 5, 1) << 31;
-    QTest::newRow("the widths go by the date, not by the page") << QDate() << 31;
-}
-
-void tst_MvCalendariumRendererOneRow::everyDayHasItsColumn()
-{
-    QFETCH(QDate, month);
-    QFETCH(int, days);
-    MvPageFixture page(strip(heads), month.isValid() ? month : QDate(2027, 5, 1));
-    for (const QRectF &rect : {QRectF(50, 70, 3100, 200), QRectF(0, 0, 31, 20)}) { // columns of a tenth of a millimetre
-        const double width = rect.width() / days;
-        QCOMPARE(row(page).widthOfCell(rect, CALENDAR_CELL_TYPE_TITLE, month), width);
-        page.render(rect);
-        QCOMPARE(page.days.size(), days);
-        for (int i = 0; i < days; ++i) {
-            QCOMPARE(page.days.at(i).date.day(), i + 1);
-            QVERIFY(qAbs(page.days.at(i).rect.left() - (rect.left() + i * width)) < 1e-6);
-        }
-        QVERIFY(qAbs(page.days.constLast().rect.right() - rect.right()) < 1e-6);
-    }
 }
 
 void tst_MvCalendariumRendererOneRow::printsTitleHeadsAndNumbers()

@@ -30,8 +30,6 @@ private Q_SLOTS:
     void sharesTheHeight();
     void fourRowsAreHalfAsTallAgain();
     void daysShareTheWidth();
-    void everyMonthFillsTheRectangle_data();
-    void everyMonthFillsTheRectangle();
     void neighbouringMonthsAreEmpty();
     void printsTitleHeadsAndWeeks();
     void contentSwitchesWeeksOn();
@@ -88,40 +86,6 @@ void tst_MvCalendariumRendererOneWeekPerRow::daysShareTheWidth()
         QCOMPARE(grid(page).widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR), planned);
         QCOMPARE(grid(page).widthOfCell(rect, CALENDAR_CELL_TYPE_SUNDAY), (width - planned) / 7);
     }
-}
-
-void tst_MvCalendariumRendererOneWeekPerRow::everyMonthFillsTheRectangle_data()
-{
-    QTest::addColumn<QDate>("month");
-    for (QDate month(2026, 1, 1); month < QDate(2029, 1, 1); month = month.addMonths(1))
-        QTest::newRow(qPrintable(month.toString(u"yyyy-MM"_s))) << month;
-    QTest::newRow("29 days from Sunday") << QDate(2032, 2, 1);
-}
-
-void tst_MvCalendariumRendererOneWeekPerRow::everyMonthFillsTheRectangle()
-{
-    QFETCH(QDate, month);
-    MvPageFixture page(MvPageFixture::appearance(everything), month);
-    const MvPaintRecording recording = page.render(target);
-    QCOMPARE(page.days.size(), month.daysInMonth());
-    QRectF all;
-    for (const MvPageFixture::Day &day : std::as_const(page.days)) {
-        all |= day.rect;
-        // its column is its weekday, its row the week
-        const double column = (day.rect.x() - target.x() - grid(page).planedWeekOfYearWidth()) / day.rect.width();
-        QVERIFY(qAbs(column - (day.date.dayOfWeek() - 1)) < 1e-6);
-    }
-    QVERIFY(qAbs(all.right() - target.right()) < 1e-6);
-    for (const Item &text : recording.items(Item::Text))
-        QVERIFY2(target.contains(text.bounds), qPrintable(text.text));
-    // backgrounds cover the rectangle to its last corner
-    QRectF filled;
-    for (const Item &item : recording.items()) {
-        if (item.fill.isValid() && item.kind != Item::Text)
-            filled |= item.bounds;
-    }
-    QVERIFY(qAbs(filled.bottom() - target.bottom()) < 1e-6);
-    QVERIFY(qAbs(filled.top() - target.top()) < 1e-6);
 }
 
 void tst_MvCalendariumRendererOneWeekPerRow::neighbouringMonthsAreEmpty()

@@ -42,12 +42,9 @@ private Q_SLOTS:
     void sharesTheHeight_data();
     void sharesTheHeight();
     void heightsByType();
-    void everyMonthFillsThreeRows_data();
-    void everyMonthFillsThreeRows();
     void printsTitleAndShortHeads();
     void neighbouringMonthsAreEmpty();
     void weeksAlternate();
-    void smallCellsReportTheirTexts();
     void describesItself();
 };
 
@@ -93,38 +90,6 @@ void tst_MvCalendariumRendererTwoWeeksPerRow::heightsByType()
     QCOMPARE(rows(page).widthOfCell(rect, CALENDAR_CELL_TYPE_TITLE), 200.0);
 }
 
-void tst_MvCalendariumRendererTwoWeeksPerRow::everyMonthFillsThreeRows_data()
-{
-    QTest::addColumn<QDate>("month");
-    QTest::addColumn<QPoint>("first"); // column and row
-    QTest::addColumn<QPoint>("last");
-    QTest::newRow("four weeks") << QDate(2027, 2, 1) << QPoint(0, 0) << QPoint(13, 1);
-    QTest::newRow("29 days") << QDate(2028, 2, 1) << QPoint(1, 0) << QPoint(1, 2);
-    QTest::newRow("five weeks, week 53") << QDate(2027, 1, 1) << QPoint(4, 0) << QPoint(6, 2);
-    QTest::newRow("six weeks of 31 days") << QDate(2027, 5, 1) << QPoint(5, 0) << QPoint(7, 2);
-    QTest::newRow("six weeks of 30 days") << QDate(2031, 6, 1) << QPoint(6, 0) << QPoint(7, 2);
-}
-
-void tst_MvCalendariumRendererTwoWeeksPerRow::everyMonthFillsThreeRows()
-{
-    QFETCH(QDate, month);
-    QFETCH(QPoint, first);
-    QFETCH(QPoint, last);
-    MvPageFixture page(twoWeeks(heads), month);
-    for (const QRectF &rect : {QRectF(100, 50, 2800, 1000), QRectF(0, 0, 280, 60)}) {
-        page.render(rect);
-        QCOMPARE(page.days.size(), month.daysInMonth());
-        const double dayHeight = rows(page).heightOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY);
-        const double top = rect.bottom() - 3 * dayHeight;
-        const auto cell = [&](const QPoint &place) {
-            return QPointF(rect.left() + place.x() * rect.width() / 14, top + place.y() * dayHeight);
-        };
-        QVERIFY((page.days.constFirst().rect.topLeft() - cell(first)).manhattanLength() < 1e-6);
-        QVERIFY((page.days.constLast().rect.topLeft() - cell(last)).manhattanLength() < 1e-6);
-        QCOMPARE(page.days.constLast().date, month.addMonths(1).addDays(-1));
-    }
-}
-
 void tst_MvCalendariumRendererTwoWeeksPerRow::printsTitleAndShortHeads()
 {
     MvPageFixture page(twoWeeks(everything), QDate(2027, 1, 1), 0);
@@ -163,24 +128,6 @@ void tst_MvCalendariumRendererTwoWeeksPerRow::weeksAlternate()
     QCOMPARE(fillAt(items, {1500, 150}), u"#eeeeee"_s);
     QCOMPARE(fillAt(items, {100, 450}), u"#dddddd"_s);
     QCOMPARE(fillAt(items, {1500, 450}), u"#eeeeee"_s);
-}
-
-void tst_MvCalendariumRendererTwoWeeksPerRow::smallCellsReportTheirTexts()
-{
-    MvPageFixture page(twoWeeks(QString()), QDate(2027, 1, 1), 1 | 2);
-    const auto namesEpiphany = [&page](double width) {
-        for (const Item &text : page.render({0, 0, width, 900}).items(Item::Text)) {
-            if (text.text.startsWith(u"Heilige"_s))
-                return true;
-        }
-        return false;
-    };
-    QVERIFY(namesEpiphany(14 * 200));
-    QVERIFY(page.renderer().unfittingTexts().isEmpty());
-    QVERIFY(!namesEpiphany(14 * 150)); // too narrow for any text
-    const MvPageFixture::Day epiphany = page.days.at(5);
-    QVERIFY(page.renderer().unfittingTexts().contains(
-        MvUnfittingText{epiphany.date, u"Heilige Drei Könige"_s, epiphany.rect}));
 }
 
 void tst_MvCalendariumRendererTwoWeeksPerRow::describesItself()

@@ -45,8 +45,6 @@ class tst_MvCalendarDocumentLayouts : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void monthAboveLayoutsWithoutOne_data();
-    void monthAboveLayoutsWithoutOne();
     void monthsOfOneSize_data();
     void monthsOfOneSize();
     void rowsStandOnOneBaseline();
@@ -56,31 +54,6 @@ private Q_SLOTS:
     void calendarWeeks_data();
     void calendarWeeks();
 };
-
-void tst_MvCalendarDocumentLayouts::monthAboveLayoutsWithoutOne_data()
-{
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QString>("month");
-    QTest::newRow("planner") << u"FAMILY_PLANNER"_s << u"Mai 2027"_s;
-    QTest::newRow("list") << u"DAY_LIST"_s << u"Mai 2027"_s;
-    QTest::newRow("birthdays, of any year") << u"BIRTHDAY_LIST"_s << u"Mai"_s;
-    QTest::newRow("grid with a title of its own") << u"MONTH_GRID_CLASSIC"_s << u" Mai 2027"_s;
-}
-
-void tst_MvCalendarDocumentLayouts::monthAboveLayoutsWithoutOne()
-{
-    QFETCH(QString, layout);
-    QFETCH(QString, month);
-    const MvCalendarDocument document = ::document(layout);
-    const QList<Item> texts = textsOf(document, 4);
-    QVERIFY(texts.size() > 31);
-    QCOMPARE(texts.constFirst().text, month);
-    const QRectF line = texts.constFirst().bounds;
-    for (const Item &text : texts.mid(1)) {
-        QVERIFY2(text.bounds.top() > line.bottom(), qPrintable(text.text));
-        QVERIFY2(document.format().contentRect().contains(text.bounds), qPrintable(text.text));
-    }
-}
 
 void tst_MvCalendarDocumentLayouts::monthsOfOneSize_data()
 {
