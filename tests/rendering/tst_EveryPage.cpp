@@ -26,18 +26,17 @@ const QList<Known> &known()
     using K = MvPageAudit;
     static const QList<Known> list{
         {"MONTH_GRID_CLASSIC", {K::TextsRunOn}},
-        {"MONTH_GRID_LINES", {K::TextsRunOn, K::LineThrough}},
-        {"MONTH_GRID_COMPACT", {K::LineThrough}},
-        {"FAMILY_PLANNER", {K::LineThrough, K::LeavesCell, K::MissingText}},
+        {"MONTH_GRID_LINES", {K::LineThrough, K::TextsRunOn}},
+        {"FAMILY_PLANNER", {K::LineThrough, K::MissingText}},
         {"DAY_LIST", {K::TextsMeet, K::LineThrough}},
-        {"BIRTHDAY_LIST", {K::FalseReport, K::TextsMeet, K::LineThrough}},
+        {"BIRTHDAY_LIST", {K::FalseReport, K::TextsMeet}},
         {"YEAR_GRID", {K::LeavesElement, K::LeavesCell, K::TextsMeet, K::TextsRunOn, K::LineThrough, K::MissingText}},
         {"SCHOOL_YEAR_GRID",
          {K::LeavesElement, K::LeavesCell, K::TextsMeet, K::TextsRunOn, K::LineThrough, K::MissingText}},
         {"YEAR_PLANNER",
          {K::LeavesElement, K::LeavesCell, K::TextsMeet, K::TextsRunOn, K::LineThrough, K::MissingText,
           K::FalseReport}},
-        {"ONE_ROW_STRIP_SERIF", {K::TextsRunOn, K::LineThrough}},
+        {"ONE_ROW_STRIP_SERIF", {K::TextsRunOn}},
         {"TWO_WEEKS", {K::TextsRunOn}},
         {"TWO_WEEKS_DESK", {K::TextsRunOn}},
     };
