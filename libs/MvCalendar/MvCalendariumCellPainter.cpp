@@ -125,8 +125,8 @@ MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, c
                QFontMetricsF(font).capHeight() <= rect.height() - 2.0 * leastMargin;
     };
     auto size = std::find_if(sizes.cbegin(), sizes.cend(), [&](const QFont &font) { return hasRoom(font, numberAir); });
-    if (size == sizes.cend()) // without air only where nothing else helps
-        size = std::find_if(sizes.cbegin(), sizes.cend(), [&](const QFont &font) { return hasRoom(font, 0.0); });
+    if (size == sizes.cend() && hasRoom(sizes.constLast(), 0.0)) // without air only where nothing else helps
+        size = std::prev(sizes.cend());
     const MvTextFitter fixed(size == sizes.cend() ? sizes.constLast() : *size, fitter.floor(), MvHyphenator());
     const double hair = leastMargin / 2.0;
     MvCalendariumCellLine line(fixed, rect.size(), number);
