@@ -280,7 +280,7 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
         const MvFittedText line =
             fitter.fitRunning({widest.width(), QFontMetricsF(fitted.font).height()}, texts, separator);
         const QRectF ink = MvCalendariumTextPainter::inkRect(line.font, widest, Qt::AlignLeft, line.lines);
-        if (line.lines.size() == 1 && ink.height() <= widest.height())
+        if (line.lines.size() == 1 && ink.height() <= rect.height() - leastMargin / 2.0)
             fitted = line;
     }
     reportCut(date, fitted, rect);

@@ -122,7 +122,21 @@ bool MvCalendariumRendererOneDayPerRow::hasShortNames(const QRectF &rect) const
     if (isConfigured(calendar_render_days_of_week_short))
         return true;
     const double others = planedWeekOfYearWidth() + planedNormalCellWidth();
-    return others + headWidth(false) > widestLeftHeaderWithLongNames * rect.width();
+    return others + headWidth(false) > widestLeftHeaderWithLongNames * rect.width() || !areHighEnoughForLongNames(rect);
+}
+
+/// Long names nearly always have letters that reach below the line, short ones rarely do.
+bool MvCalendariumRendererOneDayPerRow::areHighEnoughForLongNames(const QRectF &rect) const
+{
+    const double row = rect.height() / (mostDays + (hasTopHeader() ? 1 : 0));
+    if (QFontMetricsF(font(CALENDAR_CELL_TYPE_HEAD_WEEKDAY)).height() <= row - 2.0 * lineAir)
+        return true;
+    for (int day = 1; day <= 7; ++day) {
+        const MvCalendarCellType type = headCellTypeWeekDay(day);
+        if (MvCalendariumCellLine(fitter(type), {widestSheet, row - 2.0 * lineAir}, dayName(day, false)).isCut())
+            return false;
+    }
+    return true;
 }
 
 double MvCalendariumRendererOneDayPerRow::planedWeekOfYearWidth() const
@@ -293,7 +307,7 @@ void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int column
     const QStringList headers = headings();
     MvTextFitter fitter = this->fitter(CALENDAR_CELL_TYPE_TOPLINE);
     QSizeF room = cell.marginsRemoved(padding(CALENDAR_CELL_TYPE_TOPLINE)).size();
-    room -= QSizeF(headingAir * fitter.font().pixelSize(), 2.0 * lineAir);
+    room.rwidth() -= headingAir * fitter.font().pixelSize();
     for (const QString &header : headers)
         fitter = MvTextFitter(MvCalendariumCellLine(fitter, room, header).font(), fitter.floor(), MvHyphenator());
     for (int column = 0; column < headers.size(); ++column) {

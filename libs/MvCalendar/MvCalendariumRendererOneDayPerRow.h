@@ -33,7 +33,7 @@ public:
     double planedWeekOfYearWidth() const;
     double planedNormalCellWidth() const;
     /// The planned width of a cell; 0 for types that have no column. The rectangle makes a difference for the names of
-    /// weekdays alone: a narrow one has the short names.
+    /// weekdays alone: a narrow or low one has the short names.
     double widthOfCell(const QRectF &rect, const MvCalendarCellType &type) const;
     /// The free columns, 1 to 10.
     int numberEmptyOfColumns() const;
@@ -61,6 +61,7 @@ private:
     QStringList headings() const;
     double headWidth(bool shortNames) const;
     bool hasShortNames(const QRectF &rect) const;
+    bool areHighEnoughForLongNames(const QRectF &rect) const;
     double rowHeight(const QRectF &rect, const QDate &date) const;
     double baseline(const QRectF &row, const QDate &date) const;
     std::optional<double> textBaseline(const QRectF &row, const QDate &date) const;
