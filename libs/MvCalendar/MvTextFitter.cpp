@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -60,19 +61,30 @@ MvFittedText MvTextFitter::fitRunning(const QSizeF &room, const QStringList &tex
 MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, const QString &separator,
                                int widestWord) const
 {
-    const QList<QFont> fonts = sizes();
-    for (const QFont &font : fonts) {
+    const auto lines = [&](const QFont &font, MvLineBreaker::Division division) -> std::optional<QStringList> {
         const int mostLines = lineCount(room.height(), font);
         MvLineBreaker breaker(static_cast<int>(room.width()), font);
         breaker.setWidestWord(widestWord);
         breaker.setSeparator(separator);
         breaker.setMostLines(mostLines + 1);
-        for (const auto division : {MvLineBreaker::NoWords, MvLineBreaker::LongWords, MvLineBreaker::AllWords}) {
-            breaker.setDivision(division, m_hyphenator);
-            const QStringList lines = breaker.lines(texts);
-            if (lines.size() <= mostLines && !breaker.hasTooWideWord())
-                return {font, lines, false, {}};
+        breaker.setDivision(division, m_hyphenator);
+        const QStringList found = breaker.lines(texts);
+        return found.size() <= mostLines && !breaker.hasTooWideWord() ? std::optional(found) : std::nullopt;
+    };
+    if (const auto asItIs = lines(m_font, MvLineBreaker::NoWords))
+        return {m_font, *asItIs, false, {}};
+    const QList<QFont> fonts = sizes();
+    if (!lines(fonts.constLast(), MvLineBreaker::AllWords)) // no size between will do
+        return cut(room, texts, separator, widestWord);
+    for (const QFont &font : fonts) {
+        const auto filled = lines(font, MvLineBreaker::AllWords);
+        if (!filled)
+            continue;
+        for (const auto gentler : {MvLineBreaker::NoWords, MvLineBreaker::LongWords}) {
+            if (const auto found = lines(font, gentler))
+                return {font, *found, false, {}};
         }
+        return {font, *filled, false, {}};
     }
     return cut(room, texts, separator, widestWord);
 }
