@@ -254,10 +254,16 @@ void MvPaintClipper::add(const Outlines &shape)
     Outlines whole{{}, shape.color};
     for (const MvPlacedOutline &line : shape.lines) {
         const QRectF bounds = grown(line.bounds(), 0.0);
-        if (isInside(bounds))
+        if (isInside(bounds)) {
             whole.lines.append(line);
-        else if (!isOutside(bounds))
+        } else if (!isOutside(bounds)) {
             fill(line.outline.path().translated(line.baseline), shape.color);
+            for (const MvTextOutline::Picture &picture : line.outline.pictures()) {
+                const QRectF pixels = picture.image.rect();
+                addPicture(Image{picture.image, picture.rect.translated(line.baseline), pixels, Qt::AutoColor},
+                           pixels.size(), pixels);
+            }
+        }
     }
     if (!whole.lines.isEmpty())
         append(whole);

@@ -381,6 +381,12 @@ void tst_MvPaintRecording::clipsShapes_data()
     QTest::newRow("states") << Painting(drawStates);
     QTest::newRow("outlines") << Painting(drawOutlines);
     QTest::newRow("switched clips") << Painting(drawSwitchedClips);
+    QTest::newRow("a coloured glyph") << Painting([](QPainter &painter) {
+        QFont font(u"Lato"_qs);
+        font.setPixelSize(60);
+        painter.setClipRect(QRectF(40, 40, 50, 50));
+        MvOutlinePainter::fillOutline(painter, {45, 100}, MvTextOutline(font, u"A\U0001F382"_qs), Qt::black);
+    });
 }
 
 // what a target without clips shows of it is what others show
