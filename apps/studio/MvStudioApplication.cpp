@@ -44,7 +44,9 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
     addressBook->setPictureDecoder(
         [](const QByteArray &bytes) { return MvPictureIntake::decoded(bytes, MvPictureIntake::sideOfEntries); });
     MvPlatformIndependent::setInstance(std::move(addressBook));
-    MvRequestHandler::install(std::make_unique<MvDialogRequestHandler>());
+    auto requests = std::make_unique<MvDialogRequestHandler>();
+    requests->setFolderMemory(&MvStudioSettings::folderOfRequest, &MvStudioSettings::setFolderOfRequest);
+    MvRequestHandler::install(std::move(requests));
     QApplication::setWindowIcon(MvIconRegistry::instance().applicationIcon());
     m_project = std::make_unique<MvProject>();
     m_project->newProject(MvProjectFlow::firstDocument());

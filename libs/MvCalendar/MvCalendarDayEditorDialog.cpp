@@ -135,6 +135,10 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     layout->addWidget(m_descriptionEdit);
 
     layout->addWidget(createFotoContainer(), 1);
+    auto *clickHint = new QLabel(tr("Ein Klick auf die Fläche wählt ein Foto aus."), group);
+    clickHint->setForegroundRole(QPalette::PlaceholderText);
+    clickHint->setAlignment(Qt::AlignHCenter);
+    layout->addWidget(clickHint);
     return group;
 }
 
@@ -171,7 +175,7 @@ QWidget *MvCalendarDayEditorDialog::createFotoContainer()
 
 void MvCalendarDayEditorDialog::createRemovePhotoButton(QWidget *parent)
 {
-    m_removePhotoButton = new QPushButton(tr("Foto entfernen"), parent);
+    m_removePhotoButton = new QPushButton(tr("&Foto entfernen"), parent);
     m_removePhotoButton->setObjectName(u"removePhotoButton"_s);
     m_removePhotoButton->setAutoDefault(false);
     m_removePhotoButton->setAttribute(Qt::WA_Hover);
@@ -195,12 +199,12 @@ QGroupBox *MvCalendarDayEditorDialog::createButtonGroup()
     auto *layout = new QHBoxLayout(group);
     layout->setAlignment(Qt::AlignBottom);
 
-    m_deleteButton = createButton(tr("Eintrag löschen"), u"deleteButton"_s, layout);
+    m_deleteButton = createButton(tr("Eintrag &löschen"), u"deleteButton"_s, layout);
     connect(m_deleteButton, &QPushButton::clicked, this, &MvCalendarDayEditorDialog::deleteEntry);
     layout->addStretch();
-    m_cancelButton = createButton(tr("Abbrechen"), u"cancelButton"_s, layout);
+    m_cancelButton = createButton(tr("&Abbrechen"), u"cancelButton"_s, layout);
     connect(m_cancelButton, &QPushButton::clicked, this, &MvCalendarDayEditorDialog::rejectedClicked);
-    m_okAndContinueButton = createButton(tr("OK und weiter"), u"okAndContinueButton"_s, layout);
+    m_okAndContinueButton = createButton(tr("OK und &weiter"), u"okAndContinueButton"_s, layout);
     m_okAndContinueButton->setToolTip(tr("Bestätigt den Termin und ermöglicht es, direkt einen Weiteren anzulegen."));
     m_okAndContinueButton->setEnabled(false);
     connect(m_okAndContinueButton, &QPushButton::clicked, this, &MvCalendarDayEditorDialog::acceptedAndContinueClicked);
@@ -274,6 +278,7 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     setDate(event.dateTime().date());
     m_descriptionEdit->setFocus();
     m_okAndContinueButton->setVisible(series);
+    m_deleteButton->setVisible(m_isOfList);
     if (!isVisible())
         moveToSource();
     show();
@@ -378,6 +383,7 @@ void MvCalendarDayEditorDialog::loseEntry()
         return;
     }
     m_isOfList = false;
+    m_deleteButton->hide();
     m_shownName.clear(); // the name is to be entered, too
     m_openedEvent = MvCalendarEvent({}, m_openedEvent.dateTime(), true, MvFoto(), QUuid::createUuid(), {});
     m_noticeLabel->setText(

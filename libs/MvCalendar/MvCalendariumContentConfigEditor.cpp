@@ -27,6 +27,26 @@ constexpr int widestBox = 220;
 constexpr MvCalendariumFeaturesEnum holidayFeatures[] = {FEATURE_HOLIDAYS, FEATURE_HOLIDAY_COLORS,
                                                          FEATURE_SCHOOL_VACATIONS};
 
+/// Shows a mixed state, but nobody switches to one.
+class HolidayBox : public QCheckBox
+{
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void nextCheckState() override { setCheckState(checkState() == Qt::Unchecked ? Qt::Checked : Qt::Unchecked); }
+};
+
+/// What the regions of a country are called.
+QString captionOf(const MvLocale &language)
+{
+    const QString country = language.country();
+    if (country.isEmpty() || country == u"DE" || country == u"AT")
+        return MvCalendariumContentConfigEditor::tr("Bundesland:");
+    return country == u"CH" ? MvCalendariumContentConfigEditor::tr("Kanton:")
+                            : MvCalendariumContentConfigEditor::tr("Region:");
+}
+
 QString namesOf(const MvCalendariumFeatures &features)
 {
     return features.encodeCSV().remove(u' ');
@@ -61,7 +81,7 @@ QWidget *MvCalendariumContentConfigEditor::createCheckBoxes()
     grid->setSpacing(0);
 
     const QString holidays = tr("Feiertage");
-    m_holidayBox = new QCheckBox(
+    m_holidayBox = new HolidayBox(
         MvAppearanceConfig::vacationsAvailable() ? tr("%1 / %2", "BUTTON").arg(holidays, tr("Schulferien")) : holidays,
         row);
     m_holidayBox->setObjectName(u"holidayCheckBox"_s);
@@ -99,7 +119,8 @@ QWidget *MvCalendariumContentConfigEditor::createDateBox(bool withTopSpacer)
 
     createLanguageAndProvinceBox();
     addCaptioned(grid, 2, tr("Land:"), m_languageBox);
-    addCaptioned(grid, 3, tr("Bundesland:"), m_provinceBox);
+    m_provinceLabel = addCaptioned(grid, 3, QString(), m_provinceBox);
+    captionProvinces(m_languages.value(m_languageBox->currentIndex()));
     grid->setColumnStretch(3, 1);
     for (QWidget *box : {static_cast<QWidget *>(m_yearBox), static_cast<QWidget *>(m_monthBox),
                          static_cast<QWidget *>(m_languageBox), static_cast<QWidget *>(m_provinceBox)})
@@ -144,7 +165,7 @@ void MvCalendariumContentConfigEditor::createLanguageAndProvinceBox()
     m_provinceBox->setObjectName(u"provinceBox"_s);
     m_provinceBox->setPlaceholderText(tr("nicht gewählt"));
     m_provinceBox->setEnabled(false);
-    addWholeCountryAction();
+    setUpWholeCountry();
     for (QComboBox *box : {m_languageBox, m_provinceBox}) {
         box->setMaximumWidth(widestBox);
         box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -155,26 +176,34 @@ void MvCalendariumContentConfigEditor::createLanguageAndProvinceBox()
     languageChanged(m_languageBox->currentIndex());
 }
 
-void MvCalendariumContentConfigEditor::addWholeCountryAction()
+void MvCalendariumContentConfigEditor::setUpWholeCountry()
 {
     auto *action = new QAction(
         tr("Ganzes Land") + u'\t' + QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText), m_provinceBox);
     action->setObjectName(u"wholeCountry"_s);
     m_provinceBox->addAction(action);
     m_provinceBox->setContextMenuPolicy(Qt::ActionsContextMenu);
-    m_provinceBox->setStatusTip(tr("Das Bundesland, dessen Feiertage gelten; Entf wählt wieder das ganze Land"));
+    m_provinceBox->setStatusTip(tr("Die Region, deren Feiertage gelten; Entf wählt wieder das ganze Land"));
     m_provinceBox->setAccessibleDescription(m_provinceBox->statusTip());
-    connect(action, &QAction::triggered, this, [this] { m_provinceBox->setCurrentIndex(-1); });
+    connect(action, &QAction::triggered, this, [this] { m_provinceBox->setCurrentIndex(0); });
     m_provinceBox->installEventFilter(this);
 }
 
-void MvCalendariumContentConfigEditor::addCaptioned(QGridLayout *grid, int row, const QString &caption, QComboBox *box)
+void MvCalendariumContentConfigEditor::captionProvinces(const MvLocale &language)
+{
+    if (m_provinceLabel) // not yet while the boxes are being made
+        m_provinceLabel->setText(captionOf(language));
+}
+
+QLabel *MvCalendariumContentConfigEditor::addCaptioned(QGridLayout *grid, int row, const QString &caption,
+                                                       QComboBox *box)
 {
     auto *label = new QLabel(caption, m_dateBox);
     label->setProperty("cssstyle", u"MvCalendariumContentConfigEditor_ContorlCaptionLabel"_s);
     label->setBuddy(box);
     grid->addWidget(label, row, 0, 1, 2);
     grid->addWidget(box, row, 3);
+    return label;
 }
 
 void MvCalendariumContentConfigEditor::setContentConfig(const MvCalendariumContentConfig &config)
@@ -205,7 +234,8 @@ void MvCalendariumContentConfigEditor::setHolidayConfig(const MvCalendariumHolid
         const QSignalBlocker languageBlocker(m_languageBox);
         setLanguage(config.language());
         setProvince(config.language(), config.province());
-        setCheckboxesChecked(config.hasFeatures(FEATURE_HOLIDAYS), config.hasFeatures(FEATURE_ENTRIES));
+        showHolidayState();
+        setPersonalEntriesChecked(config.hasFeatures(FEATURE_ENTRIES));
     }
     noteAsLogged();
     m_loggingEnabled = true;
@@ -260,17 +290,41 @@ void MvCalendariumContentConfigEditor::setYear(int year)
 
 QString MvCalendariumContentConfigEditor::province() const
 {
-    return m_provinceBox->currentText();
+    return m_provinceBox->currentIndex() > 0 ? m_provinceBox->currentText() : QString();
 }
 
 bool MvCalendariumContentConfigEditor::holidayChecked() const
 {
-    return m_holidayBox->isChecked();
+    return holidayState() == Qt::PartiallyChecked ? m_given.holidayConfig().hasFeatures(FEATURE_HOLIDAYS)
+                                                  : m_holidayBox->isChecked();
+}
+
+Qt::CheckState MvCalendariumContentConfigEditor::holidayState() const
+{
+    return m_holidayBox->checkState();
+}
+
+/// A page may have holidays without vacations: neither a tick nor an empty box would be true then.
+void MvCalendariumContentConfigEditor::showHolidayState()
+{
+    int on = 0;
+    int count = 0;
+    for (const MvCalendariumFeaturesEnum feature : holidayFeatures) {
+        if (feature == FEATURE_SCHOOL_VACATIONS && !MvAppearanceConfig::vacationsAvailable())
+            continue;
+        ++count;
+        on += m_given.hasFeatures(feature) ? 1 : 0;
+    }
+    m_holidayBox->setCheckState(on == 0 ? Qt::Unchecked : on == count ? Qt::Checked : Qt::PartiallyChecked);
+    m_holidayBox->setToolTip(m_holidayBox->checkState() == Qt::PartiallyChecked
+                                 ? tr("Zu sehen ist nur ein Teil: Feiertage, ihre Farben oder die Schulferien. "
+                                      "Aus- und wieder eingeschaltet zeigt die Seite alles.")
+                                 : QString());
 }
 
 void MvCalendariumContentConfigEditor::setHolidayChecked(bool checked)
 {
-    m_holidayBox->setChecked(checked);
+    m_holidayBox->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
 }
 
 bool MvCalendariumContentConfigEditor::personalEntriesChecked() const
@@ -320,12 +374,16 @@ void MvCalendariumContentConfigEditor::setProvince(const MvLocale &language, con
     const QSignalBlocker blocker(m_provinceBox); // filling is not choosing: one change at most, at the end
     const QString before = m_provinceBox->currentData().toString();
     const MvCalendariumHolidayCalculator &calculator = MvCalendariumHolidayCalculator::instance();
+    captionProvinces(language);
     m_provinceBox->clear();
     const QStringList codes = MvCalendariumHolidayCache::instance().availableProvinces(language);
+    if (!codes.isEmpty())
+        m_provinceBox->addItem(tr("Ganzes Land"), QString());
     for (const QString &code : codes)
         m_provinceBox->addItem(calculator.provinceName(language, code), code);
     const QString code = province.isEmpty() ? QString() : calculator.findProvince(language, province);
-    m_provinceBox->setCurrentIndex(code.isEmpty() ? -1 : m_provinceBox->findData(code));
+    const bool isElsewhere = !province.isEmpty() && code.isEmpty();
+    m_provinceBox->setCurrentIndex(isElsewhere ? -1 : m_provinceBox->findData(code));
     enableProvinceBox();
     if (m_provinceBox->currentData().toString() != before)
         Q_EMIT onChanged();
@@ -337,8 +395,10 @@ void MvCalendariumContentConfigEditor::languageChanged(int index)
     setProvince(index >= 0 && index < m_languages.size() ? m_languages[index] : MvLocale(), province());
 }
 
-void MvCalendariumContentConfigEditor::onStateChangedCheckBox(int)
+void MvCalendariumContentConfigEditor::onStateChangedCheckBox(int state)
 {
+    if (state != Qt::PartiallyChecked)
+        m_holidayBox->setToolTip({});
     enableProvinceBox();
     Q_EMIT onChanged();
 }
@@ -352,7 +412,7 @@ bool MvCalendariumContentConfigEditor::eventFilter(QObject *watched, QEvent *eve
     if (key->modifiers() != Qt::NoModifier || (key->key() != Qt::Key_Delete && key->key() != Qt::Key_Backspace))
         return QWidget::eventFilter(watched, event);
     if (event->type() == QEvent::KeyPress)
-        m_provinceBox->setCurrentIndex(-1);
+        m_provinceBox->setCurrentIndex(0);
     event->accept();
     return true;
 }
@@ -360,7 +420,8 @@ bool MvCalendariumContentConfigEditor::eventFilter(QObject *watched, QEvent *eve
 /// Where there is nothing to choose from, or nothing to choose it for, the box only tells what holds.
 void MvCalendariumContentConfigEditor::enableProvinceBox()
 {
-    m_provinceBox->setEnabled(holidayChecked() && m_provinceBox->count() > 1);
+    constexpr int wholeCountryAndOne = 2;
+    m_provinceBox->setEnabled(m_holidayBox->isChecked() && m_provinceBox->count() > wholeCountryAndOne);
 }
 
 void MvCalendariumContentConfigEditor::noteAsLogged()

@@ -11,12 +11,13 @@ class MvSpinBox;
 class QCheckBox;
 class QComboBox;
 class QGridLayout;
+class QLabel;
 
 /// What a calendar shows besides its dates: holidays, personal entries, the country and region whose holidays they
 /// are, and the month it starts with.
 ///
-/// A country without a chosen region is meant as a whole; the delete key, or the context menu of the regions, leads
-/// back to that.
+/// A country without a chosen region is meant as a whole: the first item of the regions, to which the delete key leads
+/// back, too.
 ///
 /// Loading a configuration emits nothing and logs nothing.
 class MVCALENDAR_EXPORT MvCalendariumContentConfigEditor : public QWidget
@@ -41,10 +42,13 @@ public:
     void setMonth(int month);
     int year() const;
     void setYear(int year);
-    /// The name of the chosen region as it is shown: "Bayern".
+    /// The name of the chosen region as it is shown: "Bayern"; empty for the whole country.
     QString province() const;
 
+    /// Whether holidays are named; a mixed state that nobody has touched stays as it was given.
     bool holidayChecked() const;
+    /// What the check box shows: partially checked while only some of holidays, their colours and vacations are asked.
+    Qt::CheckState holidayState() const;
     void setHolidayChecked(bool checked);
     bool personalEntriesChecked() const;
     void setPersonalEntriesChecked(bool checked);
@@ -76,8 +80,10 @@ private:
     QWidget *createDateBox(bool withTopSpacer);
     void createYearAndMonthBox();
     void createLanguageAndProvinceBox();
-    void addCaptioned(QGridLayout *grid, int row, const QString &caption, QComboBox *box);
-    void addWholeCountryAction();
+    QLabel *addCaptioned(QGridLayout *grid, int row, const QString &caption, QComboBox *box);
+    void setUpWholeCountry();
+    void showHolidayState();
+    void captionProvinces(const MvLocale &language);
     void enableProvinceBox();
     void noteAsLogged();
 
@@ -87,6 +93,7 @@ private:
     MvSpinBox *m_yearBox = nullptr;
     QComboBox *m_languageBox = nullptr;
     QComboBox *m_provinceBox = nullptr;
+    QLabel *m_provinceLabel = nullptr;
     QCheckBox *m_holidayBox = nullptr;
     QCheckBox *m_entriesBox = nullptr;
     QList<MvLocale> m_languages; // by index of the language box

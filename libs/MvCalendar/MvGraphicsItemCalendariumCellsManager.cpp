@@ -222,8 +222,16 @@ void MvGraphicsItemCalendariumCellsManager::showEntryForDateInternal()
     QMenu *menu = customEntryMenuForHoveredDate(m_menuDate);
     if (!menu)
         return;
+    QList<QAction *> choices = menu->actions();
+    choices.removeIf([](const QAction *action) { return action->isSeparator(); });
+    if (choices.size() == 1 && !m_hasMenuForOneEntry) {
+        choices.constFirst()->trigger();
+        delete menu;
+        return;
+    }
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(m_menuPos + menuOffset);
+    menu->setActiveAction(choices.value(0)); // the next return key takes it
 }
 
 QMenu *MvGraphicsItemCalendariumCellsManager::customEntryMenuForHoveredDate(const QDate &date)

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QPointer>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +22,15 @@ MvDiskAccessRequest::Answer whileAlive(QObject *asker, const MvDiskAccessRequest
     };
 }
 
+/// Photos lie among the pictures, all else among the documents.
+QString firstFolder(int kind)
+{
+    const bool isFoto = kind == MvDiskAccessRequest::FotoFile;
+    const QString folder = QStandardPaths::writableLocation(isFoto ? QStandardPaths::PicturesLocation
+                                                                   : QStandardPaths::DocumentsLocation);
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
+}
+
 QString withReason(const QString &text, const QString &reason)
 {
     return reason.isEmpty() ? text : text + u"\n\n"_s + reason;
@@ -31,14 +41,16 @@ QString withReason(const QString &text, const QString &reason)
 void MvDiskAccessRequest::requestOpenFile(int kind, const QString &title, const QString &filter, QObject *asker,
                                           const Answer &answer)
 {
-    const MvRequestHandler::FileRequest request{kind, MvRequestHandler::FileMode::Open, title, filter, {}};
+    const MvRequestHandler::FileRequest request{kind,   MvRequestHandler::FileMode::Open, title, filter, {},
+                                                firstFolder(kind)};
     MvRequestHandler::current().askForFile(request, asker, whileAlive(asker, answer));
 }
 
 void MvDiskAccessRequest::requestSaveFile(int kind, const QString &title, const QString &filter,
                                           const QString &suggestedName, QObject *asker, const Answer &answer)
 {
-    const MvRequestHandler::FileRequest request{kind, MvRequestHandler::FileMode::Save, title, filter, suggestedName};
+    const MvRequestHandler::FileRequest request{kind, MvRequestHandler::FileMode::Save, title, filter, suggestedName,
+                                                firstFolder(kind)};
     MvRequestHandler::current().askForFile(request, asker, whileAlive(asker, answer));
 }
 

@@ -26,6 +26,7 @@ public:
         QString title;
         QString filter; // "*.xml", or in the form of file dialogs: "Fotos (*.jpg *.png);;Alle Dateien (*)"
         QString suggestedName;
+        QString folder = {}; // where to look the first time; empty: wherever the program is
     };
 
     /// A question with named buttons.

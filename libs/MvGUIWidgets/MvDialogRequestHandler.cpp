@@ -1,6 +1,7 @@
 #include "MvGUIWidgets/MvDialogRequestHandler.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
@@ -38,9 +39,25 @@ QMessageBox *messageBox(QMessageBox::Icon icon, const QString &title, const QStr
 MvDialogRequestHandler::MvDialogRequestHandler() = default;
 MvDialogRequestHandler::~MvDialogRequestHandler() = default;
 
+void MvDialogRequestHandler::setFolderMemory(const std::function<QString(int)> &given,
+                                             const std::function<void(int, const QString &)> &keep)
+{
+    m_givenFolder = given;
+    m_keepFolder = keep;
+}
+
+/// Never none: the toolkit would take the folder of whatever was chosen last.
+QString MvDialogRequestHandler::folderFor(const FileRequest &request) const
+{
+    QString folder = m_givenFolder ? m_givenFolder(request.kind) : QString();
+    if (folder.isEmpty())
+        folder = m_lastFolders.value(request.kind, request.folder);
+    return folder.isEmpty() ? QDir::homePath() : folder;
+}
+
 void MvDialogRequestHandler::askForFile(const FileRequest &request, QObject *asker, const FileAnswer &answer)
 {
-    auto *dialog = new QFileDialog(windowOf(asker), request.title, m_lastFolders.value(request.kind), request.filter);
+    auto *dialog = new QFileDialog(windowOf(asker), request.title, folderFor(request), request.filter);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     const bool saves = request.mode == FileMode::Save;
     dialog->setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -51,8 +68,11 @@ void MvDialogRequestHandler::askForFile(const FileRequest &request, QObject *ask
     }
     QObject::connect(dialog, &QFileDialog::finished, dialog, [this, dialog, kind = request.kind, answer](int result) {
         const QString file = result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();
-        if (!file.isEmpty() && &MvRequestHandler::current() == this)
+        if (!file.isEmpty() && &MvRequestHandler::current() == this) {
             m_lastFolders.insert(kind, QFileInfo(file).absolutePath());
+            if (m_keepFolder)
+                m_keepFolder(kind, QFileInfo(file).absolutePath());
+        }
         answer(file);
     });
     dialog->open();

@@ -74,6 +74,27 @@ void MvStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option
     }
 }
 
+/// The row that is marked stands on the highlight: its icon takes the colour of the text there.
+void MvStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                          const QWidget *widget) const
+{
+    const auto *row = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
+    const bool isMarked = row != nullptr && (element == CE_MenuItem || element == CE_MenuBarItem) &&
+                          row->state.testFlag(State_Selected) && row->state.testFlag(State_Enabled);
+    if (!isMarked || row->icon.isNull()) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    const int side = pixelMetric(PM_SmallIconSize, option, widget);
+    const QPixmap light =
+        row->icon.pixmap(QSize(side, side), painter->device()->devicePixelRatioF(), QIcon::Selected);
+    QStyleOptionMenuItem marked = *row;
+    marked.icon = QIcon();
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Active})
+        marked.icon.addPixmap(light, mode);
+    QProxyStyle::drawControl(element, &marked, painter, widget);
+}
+
 void MvStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                                  const QWidget *widget) const
 {

@@ -165,13 +165,13 @@ void tst_MvCalendarDayEditorDialog::keysAlone()
     dialog.openDayEditorSeries(entry(u"Anna"_qs, QDate(2027, 6, 5)));
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     QStringList order;
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 6; ++i) {
         order.append(dialog.focusWidget()->objectName());
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     }
-    // the button for removing a photo is out of the way without one
-    QCOMPARE(order, (QStringList{u"descriptionEdit"_qs, u"fotoLabel"_qs, u"deleteButton"_qs, u"cancelButton"_qs,
-                                 u"okAndContinueButton"_qs, u"okButton"_qs, u"dateEdit"_qs}));
+    // out of the way are the button for removing a photo, without one, and that for deleting what is only to come
+    QCOMPARE(order, (QStringList{u"descriptionEdit"_qs, u"fotoLabel"_qs, u"cancelButton"_qs, u"okAndContinueButton"_qs,
+                                 u"okButton"_qs, u"dateEdit"_qs}));
     QTest::keyClick(description(dialog), Qt::Key_Return);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QVERIFY(!dialog.isVisible());
@@ -678,7 +678,8 @@ void tst_MvCalendarDayEditorDialog::nothingIsCut()
         dialog.openDayEditorSeries(entry({}, QDate(2027, 6, 5)));
         const QList<QPushButton *> buttons = dialog.findChildren<QPushButton *>();
         for (const QPushButton *button : buttons)
-            QVERIFY2(button->width() >= button->minimumSizeHint().width(), qPrintable(button->text()));
+            QVERIFY2(button->isHidden() || button->width() >= button->minimumSizeHint().width(),
+                     qPrintable(button->text()));
         const auto *label = part<QLabel>(dialog, u"fotoLabel"_qs);
         QVERIFY(label->height() >= label->heightForWidth(label->width()));
 

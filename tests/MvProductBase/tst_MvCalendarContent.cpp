@@ -109,7 +109,7 @@ void tst_MvCalendarContent::equalityAndHashes()
     const MvCalendariumHolidayConfig initial = MvCalendariumHolidayConfigDefault::instance().defaultConfig();
     QCOMPARE(initial.language().name(), u"de_DE"_s);
     QVERIFY(!initial.province().isEmpty());
-    QVERIFY(initial.hasFeatures(MvCalendariumFeatures(1 | 2 | 4 | 64)));
+    QVERIFY(initial.hasFeatures(MvCalendariumFeatures(1 | 2 | 4 | 8 | 64)));
 }
 
 void tst_MvCalendarContent::defaultCalendar_data()

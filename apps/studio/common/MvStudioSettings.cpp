@@ -1,5 +1,7 @@
 #include "common/MvStudioSettings.h"
 
+#include "MvCore/MvDiskAccessRequest.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -14,6 +16,8 @@ namespace {
 const QString recentKey = u"recentFiles"_s;
 const QString geometryKey = u"window/geometry"_s;
 const QString stateKey = u"window/state"_s;
+
+const QString photoKind = u"photos"_s;
 
 QSettings storage()
 {
@@ -45,6 +49,18 @@ void store(const QString &key, const QVariant &value, Telling telling = Telling:
                               .arg(QDir::toNativeSeparators(settings.fileName())));
     else if (!fails)
         failure().isTold = false;
+}
+
+/// Empty when the folder is not there, or was never chosen.
+QString knownFolder(const QString &kind)
+{
+    const QString known = MvStudioSettings::text(u"folders/"_s + kind);
+    return QFileInfo(known).isDir() ? known : QString();
+}
+
+QString kindOfRequest(int kind)
+{
+    return kind == MvDiskAccessRequest::FotoFile ? photoKind : u"request%1"_s.arg(kind);
 }
 
 } // namespace
@@ -102,8 +118,7 @@ void MvStudioSettings::clearRecentFiles()
 
 QString MvStudioSettings::folder(const QString &kind)
 {
-    const QString known = text(u"folders/"_s + kind);
-    if (!known.isEmpty() && QFileInfo(known).isDir())
+    if (const QString known = knownFolder(kind); !known.isEmpty())
         return known;
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     return QFileInfo(documents).isDir() ? documents : QDir::homePath();
@@ -112,6 +127,22 @@ QString MvStudioSettings::folder(const QString &kind)
 void MvStudioSettings::setFolder(const QString &kind, const QString &path)
 {
     setText(u"folders/"_s + kind, path);
+}
+
+QString MvStudioSettings::photoFolder()
+{
+    const QString known = knownFolder(photoKind);
+    return known.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) : known;
+}
+
+QString MvStudioSettings::folderOfRequest(int kind)
+{
+    return knownFolder(kindOfRequest(kind));
+}
+
+void MvStudioSettings::setFolderOfRequest(int kind, const QString &path)
+{
+    setFolder(kindOfRequest(kind), path);
 }
 
 QByteArray MvStudioSettings::windowGeometry()

@@ -33,6 +33,11 @@ public:
     /// at first, or the home folder without those.
     static QString folder(const QString &kind);
     static void setFolder(const QString &kind, const QString &path);
+    /// The folder where a photo was last looked for, wherever in the program; the user's pictures at first.
+    static QString photoFolder();
+    /// The same for the kinds of MvDiskAccessRequest; empty for one that was never asked for.
+    static QString folderOfRequest(int kind);
+    static void setFolderOfRequest(int kind, const QString &path);
 
     static QByteArray windowGeometry();
     static QByteArray windowState();

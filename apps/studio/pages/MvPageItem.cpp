@@ -52,10 +52,14 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
             refresh();
     });
     connect(project, &MvProject::pagesReset, this, &MvPageItem::refresh);
-    connect(project, &MvProject::documentReplaced, this, &MvPageItem::refresh);
+    connect(project, &MvProject::documentReplaced, this, [this] {
+        m_photos->clear();
+        refresh();
+    });
     connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
     connect(m_photos.get(), &MvScreenPhotos::loaded, this, &MvPageItem::discardCache);
     connect(m_entryPhotos.get(), &MvFotoStock::arrived, this, &MvPageItem::refresh);
+    m_cells->setMenuForOneEntry(false);
     refreshNow();
 }
 

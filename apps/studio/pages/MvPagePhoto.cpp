@@ -1,7 +1,9 @@
 #include "pages/MvPagePhoto.h"
 
+#include "common/MvStudioSettings.h"
 #include "pages/MvPageItem.h"
 
+#include "MvCore/MvDiskAccessRequest.h"
 #include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoLoader.h"
 #include "MvImageLoader/MvImageLoader.h"
@@ -12,7 +14,6 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMimeData>
-#include <QStandardPaths>
 #include <QUrl>
 
 #include <cmath>
@@ -69,9 +70,14 @@ void MvPagePhoto::choose()
     dialog->setNameFilters(
         {tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s), tr("Alle Dateien (*)")});
     const MvPhotoFrame &frame = m_item->shownPage().photoFrame();
-    dialog->setDirectory(frame.isValid() ? QFileInfo(frame.path()).absolutePath()
-                                         : QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) { set(path); });
+    const QFileInfo present(frame.path());
+    dialog->setDirectory(frame.isValid() && QFileInfo(present.absolutePath()).isDir()
+                             ? present.absolutePath()
+                             : MvStudioSettings::photoFolder());
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        MvStudioSettings::setFolderOfRequest(MvDiskAccessRequest::FotoFile, QFileInfo(path).absolutePath());
+        set(path);
+    });
     dialog->open();
 }
 

@@ -2,15 +2,18 @@
 
 #include "MvImageLoader/MvImageLoader.h"
 
+#include <QDateTime>
 #include <QFileInfo>
-#include <QPointer>
+#include <QGuiApplication>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 namespace {
 
 constexpr int step = 256; // pixels: small changes of size do not decode again
+constexpr std::chrono::milliseconds watchInterval(2000);
 
 QSize roundedUp(const QSize &size)
 {
@@ -31,6 +34,12 @@ MvScreenPhotos::MvScreenPhotos(qint64 byteLimit, QObject *parent)
     , m_givenUp(std::make_shared<std::atomic_bool>(false))
 {
     m_pool.setMaxThreadCount(1); // what is seen first comes first, and the window keeps a core
+    m_watch.setInterval(watchInterval);
+    connect(&m_watch, &QTimer::timeout, this, &MvScreenPhotos::recheck);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive)
+            recheck();
+    });
 }
 
 MvScreenPhotos::~MvScreenPhotos()
@@ -65,27 +74,78 @@ void MvScreenPhotos::clear()
     m_pool.clear();
     m_images.clear();
     m_states.clear();
+    m_watch.stop();
+    m_isRechecking = false; // if it waited for its turn, it is given up
+}
+
+MvScreenPhotos::Stamp MvScreenPhotos::stampOf(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() ? Stamp{file.lastModified().toMSecsSinceEpoch(), file.size()} : Stamp();
+}
+
+void MvScreenPhotos::recheck()
+{
+    if (m_isRechecking || m_states.isEmpty())
+        return;
+    m_isRechecking = true;
+    const auto look = [this, paths = m_states.keys(), givenUp = m_givenUp] {
+        QHash<QString, Stamp> stamps;
+        for (const QString &path : paths) {
+            if (*givenUp)
+                return;
+            stamps.insert(path, stampOf(path));
+        }
+        QMetaObject::invokeMethod(this, [this, stamps] { takeStamps(stamps); });
+    };
+    m_pool.start(look); // not here: the folder may be far away
+}
+
+void MvScreenPhotos::takeStamps(const QHash<QString, Stamp> &stamps)
+{
+    m_isRechecking = false;
+    for (auto it = stamps.begin(); it != stamps.end(); ++it) {
+        const auto known = m_states.constFind(it.key());
+        if (known == m_states.constEnd() || !known->decoding.isEmpty() || known->stamp == it.value())
+            continue;
+        m_states.erase(known); // the image stays until there is a new one
+        Q_EMIT loaded(it.key());
+    }
+    watchUnreadable();
+}
+
+void MvScreenPhotos::watchUnreadable()
+{
+    const bool isNeeded =
+        std::any_of(m_states.cbegin(), m_states.cend(), [](const State &state) { return state.unreadable; });
+    if (isNeeded != m_watch.isActive())
+        isNeeded ? m_watch.start() : m_watch.stop();
 }
 
 void MvScreenPhotos::startDecoding(const QString &path, const QSize &bounds)
 {
     m_states[path].decoding = bounds;
     const auto decodeAndHandOver = [this, path, bounds, givenUp = m_givenUp] {
+        const Stamp stamp = stampOf(path); // before: what changes while it is read is read again
         const QImage image = *givenUp ? QImage() : decode(path, bounds);
         if (!*givenUp) // the destructor waits for this task, so that the object is still there
-            QMetaObject::invokeMethod(this, [this, path, bounds, image] { take(path, bounds, image); });
+            QMetaObject::invokeMethod(this, [this, path, bounds, stamp, image] { take(path, bounds, stamp, image); });
     };
     m_pool.start(decodeAndHandOver);
 }
 
-void MvScreenPhotos::take(const QString &path, const QSize &bounds, const QImage &image)
+void MvScreenPhotos::take(const QString &path, const QSize &bounds, const Stamp &stamp, const QImage &image)
 {
     State &state = m_states[path];
     if (state.decoding != bounds)
         return; // a larger version is on its way, or the file is to be read again
     state.decoding = {};
+    state.stamp = stamp;
     state.unreadable = image.isNull();
-    if (!image.isNull()) {
+    watchUnreadable();
+    if (image.isNull()) {
+        m_images.remove(path);
+    } else {
         state.decoded = bounds;
         m_images.insert(path, new QImage(image), std::max<qint64>(image.sizeInBytes() >> 10, 1));
     }

@@ -8,11 +8,15 @@
 #include <QSize>
 #include <QString>
 #include <QThreadPool>
+#include <QTimer>
 
 #include <atomic>
 #include <memory>
 
 /// Photos in the size of the screen, decoded off the GUI thread. To be used from the GUI thread.
+///
+/// Files that come, go or change are noticed: when the program is activated again, and a file that could not be read
+/// also while the program is in use.
 class MvScreenPhotos : public QObject
 {
     Q_OBJECT
@@ -30,28 +34,45 @@ public:
     /// The bounds for a photo that is to cover a frame (pixels), whatever its proportions within reason.
     static QSize boundsFor(const QRectF &frame);
 
-    /// True once a file has turned out not to be a photo that can be read.
+    /// True once a file has turned out not to be a photo that can be read, until it has changed.
     bool isUnreadable(const QString &path) const { return m_states.value(path).unreadable; }
     /// Reads all files again when they are asked for next.
     void clear();
+    /// Looks, in the background, whether files are others than those that were read; these are read again.
+    void recheck();
 
 Q_SIGNALS:
+    /// What photo() or isUnreadable() gives for the file is new.
     void loaded(const QString &path);
 
 private:
+    /// Tells one state of a file from another.
+    struct Stamp
+    {
+        qint64 changed = -1; // milliseconds; -1 for a file that is not there
+        qint64 size = -1;
+
+        bool operator==(const Stamp &) const = default;
+    };
     struct State
     {
         QSize decoding; // the bounds that are being decoded; empty when none are
         QSize decoded;  // the bounds that the kept image is good for
+        Stamp stamp; // of the file when it was read
         bool unreadable = false;
     };
 
     void startDecoding(const QString &path, const QSize &bounds);
-    void take(const QString &path, const QSize &bounds, const QImage &image);
+    void take(const QString &path, const QSize &bounds, const Stamp &stamp, const QImage &image);
+    void takeStamps(const QHash<QString, Stamp> &stamps);
+    void watchUnreadable();
+    static Stamp stampOf(const QString &path);
     static QImage decode(const QString &path, const QSize &bounds);
 
     QCache<QString, QImage> m_images; // cost in kilobytes
     QHash<QString, State> m_states;
     std::shared_ptr<std::atomic_bool> m_givenUp;
+    QTimer m_watch; // runs while a file cannot be read
+    bool m_isRechecking = false;
     QThreadPool m_pool;
 };

@@ -5,11 +5,14 @@
 #include "panels/MvPageSetupEditor.h"
 
 #include "MvCalendar/MvCalendariumContentConfigEditor.h"
+#include "MvCalendar/MvCalendariumHolidayCache.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +24,17 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
           createFeatureBox(u"publicHolidaysOnly"_s, tr("Nur &gesetzliche Feiertage"), FEATURE_PUBLIC_HOLIDAYS_ONLY))
     , m_vacationNamesDaily(
           createFeatureBox(u"vacationNamesDaily"_s, tr("Fe&rien an jedem Tag nennen"), FEATURE_VACATION_NAMES_DAILY))
+    , m_vacationHint(new QLabel(tr("Schulferien hat jede Region für sich: Sie erscheinen, sobald eine gewählt ist."), this))
     , m_setup(new MvPageSetupEditor(this))
 {
     setObjectName(u"contentPanel"_s);
     addScopeSwitch();
     QVBoxLayout *column = addScrollingColumn();
     column->addWidget(m_content);
+    m_vacationHint->setObjectName(u"vacationHint"_s);
+    m_vacationHint->setWordWrap(true);
+    m_vacationHint->setForegroundRole(QPalette::PlaceholderText);
+    column->addWidget(m_vacationHint);
     for (QCheckBox *box : {m_calendarWeeks, m_publicHolidaysOnly, m_vacationNamesDaily})
         column->addWidget(box);
 
@@ -54,16 +62,28 @@ QCheckBox *MvContentPanel::createFeatureBox(const QString &objectName, const QSt
 void MvContentPanel::showPage()
 {
     const MvCalendarPage page = edits()->page();
-    const MvCalendariumHolidayConfig holidays = page.contentConfig().holidayConfig();
+    MvCalendariumHolidayConfig holidays = page.contentConfig().holidayConfig();
+    if (!page.appearance().showHolidays())
+        holidays.setFeature(FEATURE_HOLIDAYS, false); // no names, whatever the content asks for
     m_content->setContentConfig({edits()->document().range().start(), holidays});
     m_shown = m_content->contentConfig();
+    m_shownHolidays = m_content->holidayState();
+    showVacationHint(holidays);
     showCalendarWeeks(page);
     m_publicHolidaysOnly->setChecked(holidays.hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY));
     m_vacationNamesDaily->setChecked(holidays.hasFeatures(FEATURE_VACATION_NAMES_DAILY));
-    m_publicHolidaysOnly->setEnabled(m_content->holidayChecked());
-    m_vacationNamesDaily->setEnabled(m_content->holidayChecked());
+    const bool hasAny = m_shownHolidays != Qt::Unchecked;
+    m_publicHolidaysOnly->setEnabled(hasAny);
+    m_vacationNamesDaily->setEnabled(hasAny);
     m_setup->setRange(edits()->document().range());
     m_setup->setFormat(edits()->document().format());
+}
+
+void MvContentPanel::showVacationHint(const MvCalendariumHolidayConfig &holidays)
+{
+    const bool hasRegions = !MvCalendariumHolidayCache::instance().availableProvinces(holidays.language()).isEmpty();
+    m_vacationHint->setVisible(hasRegions && holidays.province().isEmpty() &&
+                               holidays.hasFeatures(FEATURE_SCHOOL_VACATIONS));
 }
 
 /// A layout may leave nothing to choose.
@@ -99,8 +119,11 @@ void MvContentPanel::onContentChanged()
 /// Takes over only what the user changed: the editor knows less than the configuration may hold.
 void MvContentPanel::applyHolidays(const MvCalendariumHolidayConfig &before, const MvCalendariumHolidayConfig &after)
 {
-    if (before == after)
+    const Qt::CheckState state = m_content->holidayState();
+    const bool isSwitched = std::exchange(m_shownHolidays, state) != state;
+    if (before == after && !isSwitched)
         return;
+    const bool isOn = state == Qt::Checked;
     const auto apply = [&](MvCalendarPage &page) {
         MvCalendariumContentConfig content = page.contentConfig();
         MvCalendariumHolidayConfig holidays = content.holidayConfig();
@@ -108,13 +131,18 @@ void MvContentPanel::applyHolidays(const MvCalendariumHolidayConfig &before, con
             holidays.setLanguage(after.language());
         if (after.language() != before.language() || after.province() != before.province())
             holidays.setProvince(after.province());
-        for (const MvCalendariumFeaturesEnum feature :
-             {FEATURE_HOLIDAYS, FEATURE_HOLIDAY_COLORS, FEATURE_ENTRIES, FEATURE_SCHOOL_VACATIONS}) {
-            if (after.hasFeatures(feature) != before.hasFeatures(feature))
-                holidays.setFeature(feature, after.hasFeatures(feature));
-        }
+        if (after.hasFeatures(FEATURE_ENTRIES) != before.hasFeatures(FEATURE_ENTRIES))
+            holidays.setFeature(FEATURE_ENTRIES, after.hasFeatures(FEATURE_ENTRIES));
+        if (isSwitched)
+            holidays.setFeature(
+                MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS | FEATURE_SCHOOL_VACATIONS), isOn);
         content.setHolidayConfig(holidays);
         page.setContentConfig(content);
+        if (isSwitched && isOn && !page.appearance().showHolidays()) {
+            MvCalendariumAppearance appearance = page.appearance();
+            appearance.setShowHolidays(true);
+            page.setAppearance(appearance);
+        }
     };
     edits()->edit(apply, tr("Feiertage und Einträge ändern"));
 }

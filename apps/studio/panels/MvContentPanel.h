@@ -8,6 +8,7 @@ class MvCalendariumContentConfigEditor;
 class MvCalendarPage;
 class MvPageSetupEditor;
 class QCheckBox;
+class QLabel;
 
 /// What the pages show: holidays of which country and region, personal entries, calendar weeks; and the calendar's
 /// months and paper.
@@ -27,12 +28,15 @@ private:
     void onFeatureClicked(int feature, bool on);
     void onSetupChanged();
     void showCalendarWeeks(const MvCalendarPage &page);
+    void showVacationHint(const MvCalendariumHolidayConfig &holidays);
     void applyHolidays(const MvCalendariumHolidayConfig &before, const MvCalendariumHolidayConfig &after);
 
     MvCalendariumContentConfigEditor *m_content;
     QCheckBox *m_calendarWeeks;
     QCheckBox *m_publicHolidaysOnly;
     QCheckBox *m_vacationNamesDaily;
+    QLabel *m_vacationHint;
     MvPageSetupEditor *m_setup;
     MvCalendariumContentConfig m_shown; // as the editor gives it back without an edit
+    Qt::CheckState m_shownHolidays = Qt::Unchecked;
 };
