@@ -11,6 +11,7 @@
 #include "MvGUIWidgets/MvDialogRequestHandler.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvGUIWidgets/MvTheme.h"
+#include "MvGUIWidgets/MvWindowFit.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "common/MvStudioMessage.h"
@@ -47,6 +48,7 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
     auto requests = std::make_unique<MvDialogRequestHandler>();
     requests->setFolderMemory(&MvStudioSettings::folderOfRequest, &MvStudioSettings::setFolderOfRequest);
     MvRequestHandler::install(std::move(requests));
+    qApp->installEventFilter(new MvWindowFit(this));
     QApplication::setWindowIcon(MvIconRegistry::instance().applicationIcon());
     m_project = std::make_unique<MvProject>();
     m_project->newProject(MvProjectFlow::firstDocument());

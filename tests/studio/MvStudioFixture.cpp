@@ -227,14 +227,15 @@ QMenu *MvStudioFixture::clickDate(const QDate &date) const
 {
     const QPointF onPage = page()->mapToScene(rectOf(date).center());
     QTest::mouseClick(canvas()->viewport(), Qt::LeftButton, {}, canvas()->mapFromScene(onPage));
-    if (!QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }))
+    if (!QTest::qWaitFor([] { return QApplication::activePopupWidget() || dialog<MvCalendarDayEditorDialog>(); }))
         return nullptr;
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
 MvCalendarDayEditorDialog *MvStudioFixture::openDay(const QDate &date, const QString &begin) const
 {
-    return chooseInMenu(clickDate(date), begin) ? dialog<MvCalendarDayEditorDialog>() : nullptr;
+    QMenu *menu = clickDate(date);
+    return !menu || chooseInMenu(menu, begin) ? dialog<MvCalendarDayEditorDialog>() : nullptr;
 }
 
 bool MvStudioFixture::dropFile(QWidget *window, const QPoint &position, const QString &path,

@@ -80,9 +80,9 @@ public:
     bool choose(const char *box, const QString &text) const;
     bool chooseInMenu(QMenu *menu, const QString &begin) const;
     bool chooseFile(const QString &path) const;
-    /// Clicks a date of the shown page; null when no menu opens.
+    /// Clicks a date of the shown page; null when no menu opens, but the editor for a new entry, or nothing.
     QMenu *clickDate(const QDate &date) const;
-    /// The day editor for a date, for the menu's row that begins with the text.
+    /// The day editor for a date, for the menu's row that begins with the text; for a new entry where there is none.
     MvCalendarDayEditorDialog *openDay(const QDate &date, const QString &begin) const;
     /// Drops a file on what lies there; false when it is not taken.
     static bool dropFile(QWidget *window, const QPoint &position, const QString &path,

@@ -129,22 +129,29 @@ void tst_MvPageCanvas::clickOnADateLeadsToANewEntry()
     OpenCanvas open;
     const auto before = open.item()->recording().operationCount();
     QTest::mouseClick(open.canvas->viewport(), Qt::LeftButton, {}, open.viewPoint(QDate(2027, 1, 12)));
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    const QPointer<QMenu> menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    QVERIFY(menu);
-    menu->actions().last()->trigger();
-    menu->close();
-
     QPointer<MvCalendarDayEditorDialog> editor;
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget); dialog && dialog->isVisible())
-            editor = dialog;
-    }
-    QVERIFY(editor);
+    const auto findEditor = [&editor] {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget); dialog && dialog->isVisible())
+                editor = dialog;
+        }
+        return editor != nullptr;
+    };
+    QTRY_VERIFY(findEditor()); // there is nothing else to choose
+    QVERIFY(!QApplication::activePopupWidget());
     QTest::keyClicks(editor->findChild<QLineEdit *>(), u"Oma Erika"_s);
     editor->acceptedClicked();
     QCOMPARE(MvCalendarEventRegistry::instance().activeEventList().size(), 1);
     QTRY_VERIFY(open.item()->recording().operationCount() > before); // the page shows it
+    QTRY_VERIFY(!editor);
+
+    QVERIFY(open.item()->cells()->focusDate({2027, 1, 12}));
+    QTest::keyClick(open.canvas.get(), Qt::Key_Return);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return); // the entry's row is marked
+    QTRY_VERIFY(findEditor());
+    QCOMPARE(editor->findChild<QLineEdit *>(u"descriptionEdit"_s)->text(), u"Oma Erika"_s);
+    editor->rejectedClicked();
 
     MvUndoController::instance().undo();
     QVERIFY(MvCalendarEventRegistry::instance().activeEventList().isEmpty());

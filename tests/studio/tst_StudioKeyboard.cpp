@@ -319,6 +319,8 @@ void tst_StudioKeyboard::menus()
             QVERIFY2(action->isSeparator() || action->isCheckable() || !mnemonicOf(action->text()).isNull(),
                      qPrintable(action->text()));
     }
+    MvCalendarEventRegistry::instance().setEvents(
+        {MvCalendarEvent(u"Oma"_s, QDate(2027, 1, 14).startOfDay(), true, {}, QUuid::createUuid(), {})});
     QMenu *day = studio.clickDate({2027, 1, 14});
     QVERIFY(day);
     QCOMPARE(checkMenu(day).join(u'\n'), QString());

@@ -22,6 +22,8 @@ MvProgressDialog::MvProgressDialog(const QString &title, const QString &text, QW
     m_bar->setRange(0, 0);
     m_bar->setFormat(tr("%p %"));
     m_text->setTextFormat(Qt::PlainText);
+    constexpr int letters = 60;
+    m_text->setText(fontMetrics().elidedText(m_text->text(), Qt::ElideMiddle, fontMetrics().averageCharWidth() * letters));
     QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Cancel, this);
     m_cancel = buttons->button(QDialogButtonBox::Cancel);
     m_cancel->setObjectName(u"progressCancel"_s);
@@ -30,7 +32,7 @@ MvProgressDialog::MvProgressDialog(const QString &title, const QString &text, QW
     column->addWidget(m_text);
     column->addWidget(m_bar);
     column->addWidget(buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 60);
+    setMinimumWidth(fontMetrics().averageCharWidth() * letters);
 }
 
 void MvProgressDialog::setProgress(int done, int total)

@@ -8,6 +8,7 @@
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -29,6 +30,13 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
 {
     setObjectName(u"contentPanel"_s);
     addScopeSwitch();
+    constexpr int regionLetters = 22;
+    for (const QString &name : {u"languageBox"_s, u"provinceBox"_s}) { // there is room here for long names
+        auto *box = m_content->findChild<QComboBox *>(name);
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(regionLetters);
+        box->setMaximumWidth(QWIDGETSIZE_MAX);
+    }
     QVBoxLayout *column = addScrollingColumn();
     column->addWidget(m_content);
     m_vacationHint->setObjectName(u"vacationHint"_s);

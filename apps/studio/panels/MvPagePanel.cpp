@@ -32,13 +32,20 @@ MvPagePanel::~MvPagePanel() = default;
 
 QSize MvPagePanel::sizeHint() const
 {
-    int width = fontMetrics().averageCharWidth() * usualLetters;
-    if (const auto *area = findChild<QScrollArea *>(); area && area->widget()) {
-        const QMargins margins = m_layout->contentsMargins();
-        width = qMax(width, area->widget()->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width() +
-                                margins.left() + margins.right());
+    const int width = fontMetrics().averageCharWidth() * usualLetters;
+    return {qMax(width, minimumSizeHint().width()), QWidget::sizeHint().height()};
+}
+
+QSize MvPagePanel::minimumSizeHint() const
+{
+    QSize size = QWidget::minimumSizeHint();
+    const QMargins margins = m_layout->contentsMargins();
+    for (const auto *area : findChildren<QScrollArea *>()) {
+        const int content = area->widget() ? area->widget()->minimumSizeHint().width() : 0;
+        size.setWidth(qMax(size.width(), content + area->verticalScrollBar()->sizeHint().width() + margins.left() +
+                                             margins.right()));
     }
-    return {width, QWidget::sizeHint().height()};
+    return size;
 }
 
 void MvPagePanel::addScopeSwitch()

@@ -17,6 +17,8 @@ public:
     ~MvPagePanel() override;
 
     QSize sizeHint() const override;
+    /// As wide as its contents: they scroll up and down, and are never cut at the side.
+    QSize minimumSizeHint() const override;
 
 protected:
     MvPageEdits *edits() const { return m_edits; }

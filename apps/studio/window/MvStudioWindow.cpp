@@ -30,6 +30,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QTabBar>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -137,10 +138,23 @@ void MvStudioWindow::addPanels()
     if (!first)
         return;
     first->raise();
+    const int narrowest = widthOfTabs();
     int widest = 0;
-    for (const MvStudioPanel &panel : m_panels->panels())
+    for (const MvStudioPanel &panel : m_panels->panels()) {
+        panel.widget->setMinimumWidth(qMax(panel.widget->minimumSizeHint().width(), narrowest));
         widest = qMax(widest, qMin(panel.widget->sizeHint().width(), widestPanel));
+    }
     resizeDocks({first}, {widest}, Qt::Horizontal);
+}
+
+/// Of the panels' tabs side by side, with their whole texts.
+int MvStudioWindow::widthOfTabs() const
+{
+    QTabBar tabs;
+    tabs.setElideMode(Qt::ElideNone);
+    for (const MvStudioPanel &panel : m_panels->panels())
+        tabs.addTab(panel.title);
+    return tabs.sizeHint().width();
 }
 
 void MvStudioWindow::createMenus()

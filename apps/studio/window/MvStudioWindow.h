@@ -54,6 +54,7 @@ private:
     void connectActions();
     void connectPages();
     void addPanels();
+    int widthOfTabs() const;
 
     void fillRecentMenu();
     void showMessage(const QString &text);

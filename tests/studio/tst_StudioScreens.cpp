@@ -1,0 +1,200 @@
+#include "MvStudioFixture.h"
+
+#include "common/MvProgressDialog.h"
+#include "common/MvStudioMessage.h"
+#include "flows/MvImportReport.h"
+#include "flows/MvRecoveryDialog.h"
+#include "flows/MvRestoreEntriesDialog.h"
+#include "pages/MvPageCanvas.h"
+#include "pages/MvPageItem.h"
+#include "window/MvHelpDialogs.h"
+
+#include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCore/MvRequestHandler.h"
+#include "MvProject/MvProject.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize sizes[] = {{960, 540}, {1024, 600}, {1280, 800}}; // logical pixels
+constexpr double scales[] = {1.0, 2.0};
+
+/// The screens stand side by side, far from each other.
+QByteArray screenConfiguration()
+{
+    QJsonArray screens;
+    for (const QSize &size : sizes) {
+        for (const double scale : scales)
+            screens.append(QJsonObject{{u"name"_s, u"%1x%2@%3"_s.arg(size.width()).arg(size.height()).arg(scale)},
+                                       {u"x"_s, int(screens.size()) * 4000},
+                                       {u"y"_s, 0},
+                                       {u"width"_s, size.width()},
+                                       {u"height"_s, size.height()},
+                                       {u"dpr"_s, scale}});
+    }
+    return QJsonDocument(QJsonObject{{u"screens"_s, screens}}).toJson();
+}
+
+/// A control that shows less than it has to say; empty when none does.
+QString cutControl(const QWidget *window)
+{
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        const bool hasText = qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QComboBox *>(widget) ||
+                             qobject_cast<const QAbstractSpinBox *>(widget) || qobject_cast<const QLabel *>(widget);
+        bool scrolls = false;
+        bool isBehind = widget->objectName().startsWith(u"qt_"_s); // parts of the toolkit's own
+        for (const QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
+            scrolls = scrolls || qobject_cast<const QAbstractScrollArea *>(parent);
+            isBehind = isBehind || (qobject_cast<const QDockWidget *>(parent) && parent->visibleRegion().isEmpty());
+        }
+        if (!hasText || !widget->isVisible() || widget->window() != window || isBehind)
+            continue;
+        const QSize needed = widget->minimumSizeHint();
+        if (widget->width() < needed.width() || widget->height() < needed.height())
+            return u"%1 %2: %3x%4 of %5x%6"_s.arg(QLatin1StringView(widget->metaObject()->className()),
+                                                  widget->objectName())
+                .arg(widget->width())
+                .arg(widget->height())
+                .arg(needed.width())
+                .arg(needed.height());
+        const QRect inWindow(widget->mapTo(window, QPoint()), widget->size());
+        if (!scrolls && !window->rect().contains(inWindow))
+            return u"%1 lies outside"_s.arg(widget->objectName());
+    }
+    return {};
+}
+
+} // namespace
+
+/// The window and every dialog on small screens: all of it is to be seen and reached.
+class tst_StudioScreens : public MvWidgetTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyDialog_data();
+    void everyDialog();
+    void sidePanels_data() { everyDialog_data(); }
+    void sidePanels();
+
+private:
+    /// Opens dialogs one after the other; each call gives the next one's way.
+    static QList<std::pair<QString, std::function<void()>>> openers(const MvStudioFixture &studio);
+};
+
+void tst_StudioScreens::everyDialog_data()
+{
+    QTest::addColumn<QScreen *>("screen");
+    for (QScreen *screen : QGuiApplication::screens())
+        QTest::newRow(qPrintable(screen->name())) << screen;
+    QCOMPARE(QGuiApplication::screens().size(), qsizetype(std::size(sizes) * std::size(scales)));
+}
+
+QList<std::pair<QString, std::function<void()>>> tst_StudioScreens::openers(const MvStudioFixture &studio)
+{
+    QList<std::pair<QString, std::function<void()>>> openers;
+    for (QMenu *menu : studio.window()->findChildren<QMenu *>())
+        for (QAction *action : menu->actions())
+            if (action->text().contains(u'…') && action->isEnabled() && action->menu() == nullptr)
+                openers.append({action->objectName(), [action] { action->trigger(); }});
+    MvStudioWindow *window = studio.window();
+    const QStringList many(12, u"Eine Zeile, die von einem Eintrag aus einer langen Liste erzählt"_s);
+    openers += {
+        {u"shortcuts"_s, [&studio] { studio.trigger("shortcuts"); }},
+        {u"about"_s, [&studio] { studio.trigger("about"); }},
+        {u"day"_s,
+         [&studio] {
+             const MvCalendarEvent entry({}, QDate(2027, 5, 6).startOfDay(), true, {}, QUuid::createUuid(), {});
+             MvCalendarDayEditorDialog::createSelfDeleting(studio.page())->openDayEditorSeries(entry);
+         }},
+        {u"message"_s, [=] { MvStudioMessage::error(window, many.first(), MvStudioMessage::shortened(many, 10)); }},
+        {u"choice"_s,
+         [=] {
+             MvRequestHandler::current().askChoice(
+                 {u"Einträge"_s, many.mid(0, 2).join(u' '), many.join(u'\n'), {u"Ersetzen"_s, u"Abbrechen"_s}}, window,
+                 [](int) {});
+         }},
+        {u"progress"_s, [=] { (new MvProgressDialog(u"Export"_s, many.join(u' '), window))->open(); }},
+        {u"recovery"_s,
+         [=] {
+             (new MvRecoveryDialog({{QFileInfo(u"1"_s), u"/home/sabine/Kalender/Familie 2027.mvcalendar"_s,
+                                     u"Familie 2027"_s, QDateTime(QDate(2026, 11, 3), QTime(20, 14))}},
+                                   window))
+                 ->open();
+         }},
+        {u"restore"_s, [=] { (new MvRestoreEntriesDialog({}, window))->open(); }},
+    };
+    return openers;
+}
+
+void tst_StudioScreens::everyDialog()
+{
+    QFETCH(QScreen *, screen);
+    const MvStudioFixture studio;
+    MvStudioWindow *window = studio.window();
+    window->setGeometry(screen->availableGeometry());
+    QTRY_COMPARE(window->screen(), screen);
+    QVERIFY2(screen->availableGeometry().contains(window->geometry()), "the window itself");
+    int seen = 0;
+    for (const auto &[name, open] : openers(studio)) {
+        open();
+        QList<QDialog *> dialogs;
+        QVERIFY2(QTest::qWaitFor([&dialogs] {
+                     for (QWidget *widget : QApplication::topLevelWidgets())
+                         if (auto *dialog = qobject_cast<QDialog *>(widget); dialog && dialog->isVisible())
+                             dialogs.append(dialog);
+                     return !dialogs.isEmpty();
+                 }),
+                 qPrintable(name));
+        QCoreApplication::processEvents();
+        QDialog *dialog = dialogs.constFirst();
+        QVERIFY2(screen->availableGeometry().contains(dialog->frameGeometry()),
+                 qPrintable(u"%1: %2x%3"_s.arg(name).arg(dialog->width()).arg(dialog->height())));
+        if (!qobject_cast<QFileDialog *>(dialog)) { // the toolkit's own
+            const QString cut = cutControl(dialog);
+            QVERIFY2(cut.isEmpty(), qPrintable(name + u": "_s + cut));
+        }
+        if (auto *progress = qobject_cast<MvProgressDialog *>(dialog))
+            progress->finish();
+        else
+            dialog->close();
+        delete dialog;
+        ++seen;
+    }
+    QVERIFY(seen > 12);
+}
+
+/// The panels keep the width of what is in them, and of their tabs.
+void tst_StudioScreens::sidePanels()
+{
+    QFETCH(QScreen *, screen);
+    const MvStudioFixture studio;
+    MvStudioWindow *window = studio.window();
+    window->setGeometry(screen->availableGeometry());
+    QList<QDockWidget *> docks;
+    for (QDockWidget *dock : window->findChildren<QDockWidget *>())
+        if (dock->objectName() != u"pagesDock")
+            docks.append(dock);
+    window->resizeDocks({docks.first()}, {100}, Qt::Horizontal); // as narrow as a person can make them
+    for (QDockWidget *dock : docks) {
+        QVERIFY(studio.raiseDock(qPrintable(dock->objectName())));
+        QVERIFY2(cutControl(window).isEmpty(), qPrintable(cutControl(window)));
+        for (const QScrollArea *area : dock->findChildren<QScrollArea *>())
+            QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
+                     qPrintable(dock->objectName()));
+    }
+    for (const QTabBar *tabs : window->findChildren<QTabBar *>())
+        if (tabs->parent() == window)
+            QVERIFY(tabs->width() >= tabs->sizeHint().width());
+}
+
+int main(int argc, char **argv)
+{
+    QTemporaryFile screens;
+    if (!screens.open() || screens.write(screenConfiguration()) < 0 || !screens.flush())
+        return 1;
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screens.fileName()));
+    return mvRunWidgetTest(argc, argv, []() -> QObject * { return new tst_StudioScreens; });
+}
+#include "tst_StudioScreens.moc"
