@@ -10,6 +10,7 @@
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 
+#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvUndoController.h"
@@ -22,6 +23,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QSet>
@@ -68,7 +70,12 @@ MvCalendarEventListWidget::MvCalendarEventListWidget(QWidget *parent)
     auto *newEntryButton = createNewEntryButton(this); // first in the tab order
     m_tableView = createEventTableView(this);
     auto *layout = new QGridLayout(this);
+    m_searchField = createSearchField(this);
+    setTabOrder(newEntryButton, m_searchField);
+    setTabOrder(m_searchField, m_tableView);
     layout->addWidget(newEntryButton, 0, 0, Qt::AlignLeft);
+    layout->addWidget(m_searchField, 0, 1);
+    layout->setColumnStretch(1, 1);
     layout->addWidget(createHorizontalLine(this), 1, 0, 1, 2);
     layout->addWidget(m_tableView, 2, 0, 1, 2);
     layout->addWidget(changeEventListButton(this), 3, 0, 1, 2, Qt::AlignLeft);
@@ -121,10 +128,41 @@ MvTableView *MvCalendarEventListWidget::createEventTableView(QWidget *parent)
     view->updateToReasonableMinHeight();
     connect(view, &QWidget::customContextMenuRequested, this,
             &MvCalendarEventListWidget::onTableViewContextMenuRequested);
+    connect(view, &QAbstractItemView::clicked, this,
+            [this](const QModelIndex &index) { Q_EMIT eventClicked(eventOf(index)); });
     connect(view, &MvTableView::rowActivated, this, [](const QModelIndex &index) { editEvent(eventOf(index)); });
     connect(view, &MvTableView::rowRemovalRequested, this,
             [](const QModelIndex &index) { deleteEvent(eventOf(index)); });
     return view;
+}
+
+QLineEdit *MvCalendarEventListWidget::createSearchField(QWidget *parent)
+{
+    auto *field = new QLineEdit(parent);
+    field->setObjectName(u"entrySearchField"_s);
+    field->setPlaceholderText(tr("Suchen"));
+    field->setAccessibleName(tr("Einträge suchen"));
+    field->setClearButtonEnabled(true);
+    connect(field, &QLineEdit::textChanged, this, &MvCalendarEventListWidget::showFoundRows);
+    const QAbstractItemModel *model = m_tableView->model();
+    connect(model, &QAbstractItemModel::modelReset, this, &MvCalendarEventListWidget::showFoundRows);
+    connect(model, &QAbstractItemModel::layoutChanged, this, &MvCalendarEventListWidget::showFoundRows);
+    return field;
+}
+
+void MvCalendarEventListWidget::showFoundRows()
+{
+    const QString wanted = m_searchField->text().simplified();
+    const QAbstractItemModel *model = m_tableView->model();
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    for (int row = 0; row < model->rowCount(); ++row) {
+        const QString name = model->index(row, MvCalendarEventModel::NameColumn).data().toString();
+        const QDate date = model->index(row, MvCalendarEventModel::DateColumn).data().toDate();
+        const bool isFound = name.contains(wanted, Qt::CaseInsensitive) ||
+                             locale.toString(date, u"dd.MM.yyyy"_s).contains(wanted) ||
+                             locale.toString(date, u"d. MMMM yyyy"_s).contains(wanted, Qt::CaseInsensitive);
+        m_tableView->setRowHidden(row, !isFound);
+    }
 }
 
 QFrame *MvCalendarEventListWidget::createHorizontalLine(QWidget *parent)
@@ -190,7 +228,8 @@ void MvCalendarEventListWidget::addNewCalenderEntryClicked()
     auto *dialog = MvCalendarDayEditorDialog::createSelfDeleting(nullptr);
     connect(dialog, &QDialog::accepted, this, &MvCalendarEventListWidget::calendarEventAdded);
     const QDateTime now = QDateTime::currentDateTime();
-    dialog->openDayEditorSeries(MvCalendarEvent({}, now, true, MvFoto(), QUuid::createUuid(), now));
+    const QDateTime start = m_newDate.isValid() ? MvCalendarEvent::startOf(m_newDate) : now;
+    dialog->openDayEditorSeries(MvCalendarEvent({}, start, true, MvFoto(), QUuid::createUuid(), now));
 }
 
 void MvCalendarEventListWidget::onTableViewContextMenuRequested(const QPoint &pos)

@@ -3,18 +3,22 @@
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
+#include <QDate>
 #include <QPoint>
 #include <QWidget>
 
 class MvCalendarEventModel;
 class MvTableView;
 class QFrame;
+class QLineEdit;
 class QModelIndex;
 class QPushButton;
 
 /// All personal entries of the document: a table with photo, date, name and buttons per entry, a button for a new one,
 /// and a menu to save them to a file, load or add those of a file, and delete all. Whatever it changes is one undo
 /// step.
+///
+/// What is typed into the field above the table leaves only the rows whose name or date contains it.
 ///
 /// It holds no entries itself: its table follows MvCalendarEventRegistry.
 class MVCALENDAR_EXPORT MvCalendarEventListWidget : public QWidget
@@ -34,7 +38,12 @@ public:
     QPushButton *createImportFromContactsButton(QWidget *parent);
     QPushButton *changeEventListButton(QWidget *parent);
 
+    QLineEdit *createSearchField(QWidget *parent);
+
     MvCalendarEventList events() const;
+
+    /// The date that new entries begin with; an invalid one, as at first: today.
+    void setDateOfNewEntries(const QDate &date) { m_newDate = date; }
 
     /// Replaces the entries by those of a file that the user chooses; with `merge`, adds those whose uuid is new. A
     /// file that is no list or cannot be read is reported and changes nothing; the user is asked before entries get
@@ -57,6 +66,8 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void calendarEventAdded();
+    /// A row was clicked.
+    void eventClicked(const MvCalendarEvent &event);
 
 private:
     QPushButton *createAddButton(const QString &text, const QString &name, QWidget *parent);
@@ -65,6 +76,9 @@ private:
     static void changeEvents(const QString &macro, const MvCalendarEventList &removed,
                              const MvCalendarEventList &added);
     void finishAdding();
+    void showFoundRows();
 
     MvTableView *m_tableView;
+    QLineEdit *m_searchField = nullptr;
+    QDate m_newDate;
 };

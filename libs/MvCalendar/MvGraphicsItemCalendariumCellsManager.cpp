@@ -191,6 +191,8 @@ bool MvGraphicsItemCalendariumCellsManager::focusDate(const QDate &date)
         view->ensureVisible(found, 10, 10);
     if (!views.isEmpty() && !views.first()->hasFocus())
         views.first()->setFocus();
+    if (found->hasFocus() && !found->hasKeyboardFocus())
+        found->clearFocus(); // it came by the mouse; now it is the keyboard's
     found->setFocus(Qt::TabFocusReason);
     return true;
 }

@@ -49,7 +49,8 @@ public:
     /// Cells that are not editable are invisible and open nothing.
     void setEditable(bool editable);
     bool isEditable() const { return m_isEditable; }
-    /// With a single thing to choose, a click does it without showing the menu. The menu is shown unless told otherwise.
+    /// With a single thing to choose, a click does it without showing the menu. The menu is shown unless told
+    /// otherwise.
     void setMenuForOneEntry(bool shown) { m_hasMenuForOneEntry = shown; }
 
     /// Of all cells so far, in the item's units, cut to a whole number.

@@ -26,8 +26,8 @@ MvDiskAccessRequest::Answer whileAlive(QObject *asker, const MvDiskAccessRequest
 QString firstFolder(int kind)
 {
     const bool isFoto = kind == MvDiskAccessRequest::FotoFile;
-    const QString folder = QStandardPaths::writableLocation(isFoto ? QStandardPaths::PicturesLocation
-                                                                   : QStandardPaths::DocumentsLocation);
+    const QString folder =
+        QStandardPaths::writableLocation(isFoto ? QStandardPaths::PicturesLocation : QStandardPaths::DocumentsLocation);
     return QFileInfo(folder).isDir() ? folder : QDir::homePath();
 }
 
@@ -41,16 +41,16 @@ QString withReason(const QString &text, const QString &reason)
 void MvDiskAccessRequest::requestOpenFile(int kind, const QString &title, const QString &filter, QObject *asker,
                                           const Answer &answer)
 {
-    const MvRequestHandler::FileRequest request{kind,   MvRequestHandler::FileMode::Open, title, filter, {},
-                                                firstFolder(kind)};
+    const MvRequestHandler::FileRequest request{
+        kind, MvRequestHandler::FileMode::Open, title, filter, {}, firstFolder(kind)};
     MvRequestHandler::current().askForFile(request, asker, whileAlive(asker, answer));
 }
 
 void MvDiskAccessRequest::requestSaveFile(int kind, const QString &title, const QString &filter,
                                           const QString &suggestedName, QObject *asker, const Answer &answer)
 {
-    const MvRequestHandler::FileRequest request{kind, MvRequestHandler::FileMode::Save, title, filter, suggestedName,
-                                                firstFolder(kind)};
+    const MvRequestHandler::FileRequest request{
+        kind, MvRequestHandler::FileMode::Save, title, filter, suggestedName, firstFolder(kind)};
     MvRequestHandler::current().askForFile(request, asker, whileAlive(asker, answer));
 }
 

@@ -86,8 +86,7 @@ void MvStyle::drawControl(ControlElement element, const QStyleOption *option, QP
         return;
     }
     const int side = pixelMetric(PM_SmallIconSize, option, widget);
-    const QPixmap light =
-        row->icon.pixmap(QSize(side, side), painter->device()->devicePixelRatioF(), QIcon::Selected);
+    const QPixmap light = row->icon.pixmap(QSize(side, side), painter->device()->devicePixelRatioF(), QIcon::Selected);
     QStyleOptionMenuItem marked = *row;
     marked.icon = QIcon();
     for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Active})

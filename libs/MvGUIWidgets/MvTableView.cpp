@@ -199,8 +199,16 @@ bool MvTableView::moveCursorByKey(int key)
     const int row = currentIndex().row();
     const int column = std::max(0, currentIndex().column());
     const int page = std::max(1, viewport()->height() / std::max(1, rowHeight(std::max(0, row))) - 1);
-    const auto goTo = [this, lastRow, lastColumn](int toRow, int toColumn) {
-        setCursor(std::clamp(toRow, 0, lastRow), std::clamp(toColumn, 0, lastColumn));
+    const auto goTo = [this, lastRow, lastColumn, row](int toRow, int toColumn) {
+        const int target = std::clamp(toRow, 0, lastRow);
+        const int step = toRow < row ? -1 : 1;
+        int shown = target;
+        while (shown >= 0 && shown <= lastRow && isRowHidden(shown))
+            shown += step;
+        if (shown < 0 || shown > lastRow) // none that way: the other
+            for (shown = target; shown >= 0 && shown <= lastRow && isRowHidden(shown);)
+                shown -= step;
+        setCursor(shown, std::clamp(toColumn, 0, lastColumn));
         return true;
     };
     if (lastRow < 0)

@@ -25,7 +25,7 @@ QString MvProjectFile::write(const MvCalendarDocument &document, const QFileInfo
         return tr("%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2")
             .arg(QDir::toNativeSeparators(file.filePath()), error.message);
     const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, bytes);
-    return result.isOk() ? QString() : u"%1: %2"_s.arg(QDir::toNativeSeparators(file.filePath()), result.error);
+    return result.error; // names the file
 }
 
 QByteArray MvProjectFile::toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath,

@@ -142,6 +142,30 @@
     </message>
 </context>
 <context>
+    <name>MvMissingPhotos</name>
+    <message numerus="yes">
+        <source>%n Fotos sind nicht da oder lassen sich nicht lesen:</source>
+        <translation>
+            <numerusform>%n Foto ist nicht da oder lässt sich nicht lesen:</numerusform>
+            <numerusform>%n Fotos sind nicht da oder lassen sich nicht lesen:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos gefunden</source>
+        <translation>
+            <numerusform>%n Foto gefunden</numerusform>
+            <numerusform>%n Fotos gefunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos liegen nicht in diesem Ordner. Über Datei &gt; Fehlende Fotos suchen können Sie einen anderen zeigen.</source>
+        <translation>
+            <numerusform>%n Foto liegt nicht in diesem Ordner. Über Datei &gt; Fehlende Fotos suchen können Sie einen anderen zeigen.</numerusform>
+            <numerusform>%n Fotos liegen nicht in diesem Ordner. Über Datei &gt; Fehlende Fotos suchen können Sie einen anderen zeigen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvRenderEntries</name>
     <message numerus="yes">
         <source>%1: %n weitere nicht gedruckt; --report json nennt alle</source>
@@ -185,6 +209,13 @@
         <translation>
             <numerusform>%n Text ohne Platz</numerusform>
             <numerusform>%n Texte ohne Platz</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Hinweise zum Druck</source>
+        <translation>
+            <numerusform>%n Hinweis zum Druck</numerusform>
+            <numerusform>%n Hinweise zum Druck</numerusform>
         </translation>
     </message>
 </context>

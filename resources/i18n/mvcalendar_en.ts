@@ -180,22 +180,6 @@
         <translation>Click to choose a photo</translation>
     </message>
     <message>
-        <source>Foto entfernen</source>
-        <translation>Remove photo</translation>
-    </message>
-    <message>
-        <source>Eintrag löschen</source>
-        <translation>Delete entry</translation>
-    </message>
-    <message>
-        <source>Abbrechen</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
-        <source>OK und weiter</source>
-        <translation>OK and next</translation>
-    </message>
-    <message>
         <source>Bestätigt den Termin und ermöglicht es, direkt einen Weiteren anzulegen.</source>
         <translation>Confirms the appointment and lets you create another one right away.</translation>
     </message>
@@ -230,6 +214,26 @@
     <message>
         <source>Der Eintrag „%1“ ist inzwischen gelöscht worden. „OK“ legt ihn mit Ihren Angaben neu an.</source>
         <translation>The entry “%1” has been deleted meanwhile. “OK” makes it anew from what you have entered.</translation>
+    </message>
+    <message>
+        <source>Ein Klick auf die Fläche wählt ein Foto aus.</source>
+        <translation>A click on the area chooses a photo.</translation>
+    </message>
+    <message>
+        <source>&amp;Foto entfernen</source>
+        <translation>&amp;Remove photo</translation>
+    </message>
+    <message>
+        <source>Eintrag &amp;löschen</source>
+        <translation>&amp;Delete entry</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>OK und &amp;weiter</source>
+        <translation>OK and &amp;next</translation>
     </message>
 </context>
 <context>
@@ -502,6 +506,14 @@
         <source>Nein</source>
         <translation>No</translation>
     </message>
+    <message>
+        <source>Suchen</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Einträge suchen</source>
+        <translation>Search entries</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarEventModel</name>
@@ -699,8 +711,20 @@
         <translation>Whole country</translation>
     </message>
     <message>
-        <source>Das Bundesland, dessen Feiertage gelten; Entf wählt wieder das ganze Land</source>
-        <translation>The region whose public holidays apply; Del chooses the whole country again</translation>
+        <source>Kanton:</source>
+        <translation>Canton:</translation>
+    </message>
+    <message>
+        <source>Region:</source>
+        <translation>Region:</translation>
+    </message>
+    <message>
+        <source>Die Region, deren Feiertage gelten; Entf wählt wieder das ganze Land</source>
+        <translation>The region whose holidays apply; Del goes back to the whole country</translation>
+    </message>
+    <message>
+        <source>Zu sehen ist nur ein Teil: Feiertage, ihre Farben oder die Schulferien. Aus- und wieder eingeschaltet zeigt die Seite alles.</source>
+        <translation>Only a part is shown: holidays, their colours or the school vacations. Switched off and on again, the page shows all of them.</translation>
     </message>
 </context>
 <context>
@@ -1159,6 +1183,10 @@
         <source>Dieses Layout zeigt keine Kalenderwochen.</source>
         <translation>This layout shows no calendar weeks.</translation>
     </message>
+    <message>
+        <source>Schulferien hat jede Region für sich: Sie erscheinen, sobald eine gewählt ist.</source>
+        <translation>Each region has school vacations of its own: they appear as soon as one is chosen.</translation>
+    </message>
 </context>
 <context>
     <name>MvDialogRequestHandler</name>
@@ -1413,6 +1441,18 @@
             <numerusform>Already there and to be replaced: %n files.</numerusform>
         </translation>
     </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Was an jeder Kante über das fertige Blatt hinaus gedruckt und abgeschnitten wird; Druckereien verlangen meist 3 mm</source>
+        <translation>What is printed beyond each edge of the finished sheet and cut off; print shops mostly want 3 mm</translation>
+    </message>
+    <message>
+        <source>&amp;Beschnitt:</source>
+        <translation>B&amp;leed:</translation>
+    </message>
 </context>
 <context>
     <name>MvExportFlow</name>
@@ -1464,10 +1504,6 @@
         <source>&amp;Ordner öffnen</source>
         <translation>&amp;Open folder</translation>
     </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
     <message numerus="yes">
         <source>Export abgebrochen; fertig sind %n Dateien</source>
         <translation>
@@ -1481,6 +1517,10 @@
             <numerusform>%n file in %1</numerusform>
             <numerusform>%n files in %1</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Sehen Sie vor dem Druck nach:</source>
+        <translation>Have a look before printing:</translation>
     </message>
 </context>
 <context>
@@ -1691,6 +1731,102 @@
     <message>
         <source>&lt;h2&gt;MvCalendar %1&lt;/h2&gt;&lt;p&gt;Gestaltet Fotokalender und druckt sie: als PDF, als Bilder und auf Papier.&lt;/p&gt;&lt;p&gt;Gebaut mit Qt %2 und qpdf. Schriften: Lato und EB Garamond (SIL Open Font License). Ein Teil der Schulferien stammt aus einer Sammlung unter der Open Database License; Näheres steht in docs/third-party.md.&lt;/p&gt;</source>
         <translation>&lt;h2&gt;MvCalendar %1&lt;/h2&gt;&lt;p&gt;Designs photo calendars and prints them: as PDF, as images and on paper.&lt;/p&gt;&lt;p&gt;Built with Qt %2 and qpdf. Fonts: Lato and EB Garamond (SIL Open Font License). Part of the school holidays comes from a collection under the Open Database License; docs/third-party.md tells more.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>Pfeile</source>
+        <translation>Arrows</translation>
+    </message>
+    <message>
+        <source>Auf der Seite von Tag zu Tag gehen, am Rand zur nächsten Seite</source>
+        <translation>Go from day to day on the page, at its edge to the next page</translation>
+    </message>
+    <message>
+        <source>Eintrag</source>
+        <translation>Entry</translation>
+    </message>
+    <message>
+        <source>Eingabe</source>
+        <translation>Return</translation>
+    </message>
+    <message>
+        <source>Für den Tag einen Eintrag anlegen oder ändern</source>
+        <translation>Create or change an entry for the day</translation>
+    </message>
+    <message>
+        <source>Ausschnitt</source>
+        <translation>Crop</translation>
+    </message>
+    <message>
+        <source>Alt+Pfeile</source>
+        <translation>Alt+arrows</translation>
+    </message>
+    <message>
+        <source>Den Ausschnitt des Fotos verschieben</source>
+        <translation>Move the part of the photo that is shown</translation>
+    </message>
+    <message>
+        <source>Seiten</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>Bild auf, Bild ab, Pos1, Ende</source>
+        <translation>Page up, page down, Home, End</translation>
+    </message>
+    <message>
+        <source>In den Seiten blättern; das Mausrad tut es auch</source>
+        <translation>Turn the pages; the mouse wheel does so, too</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Strg+Mausrad</source>
+        <translation>Ctrl+mouse wheel</translation>
+    </message>
+    <message>
+        <source>Die Seite größer oder kleiner zeigen</source>
+        <translation>Show the page larger or smaller</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>Leertaste</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Gedrückt halten und die Seite mit der Maus verschieben</source>
+        <translation>Hold it and move the page with the mouse</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Umschalt beim Ablegen</source>
+        <translation>Shift when dropping</translation>
+    </message>
+    <message>
+        <source>Das Foto wird das der Seite, nicht das eines Tages</source>
+        <translation>The photo becomes that of the page, not of a day</translation>
+    </message>
+    <message>
+        <source>Abbruch</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Das Ziehen am Foto abbrechen, den Tag verlassen</source>
+        <translation>Stop dragging the photo, leave the day</translation>
     </message>
 </context>
 <context>
@@ -2106,6 +2242,58 @@
     </message>
 </context>
 <context>
+    <name>MvMissingPhotos</name>
+    <message numerus="yes">
+        <source>%n Fotos sind nicht da oder lassen sich nicht lesen:</source>
+        <translation>
+            <numerusform>%n photo is missing or cannot be read:</numerusform>
+            <numerusform>%n photos are missing or cannot be read:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Wenn sie in einen anderen Ordner gekommen sind, zeigen Sie ihn: Alle Fotos, die darin liegen, werden an ihren Namen erkannt.</source>
+        <translation>If they have been moved to another folder, show it: all photos in it are recognised by their names.</translation>
+    </message>
+    <message>
+        <source>In Ordner &amp;suchen …</source>
+        <translation>&amp;Search in folder …</translation>
+    </message>
+    <message>
+        <source>S&amp;päter</source>
+        <translation>&amp;Later</translation>
+    </message>
+    <message>
+        <source>In welchem Ordner liegen die Fotos?</source>
+        <translation>Which folder are the photos in?</translation>
+    </message>
+    <message>
+        <source>Kein Foto fehlt</source>
+        <translation>No photo is missing</translation>
+    </message>
+    <message>
+        <source>Die Fotos werden gesucht …</source>
+        <translation>Searching for the photos …</translation>
+    </message>
+    <message>
+        <source>Fotos wiederfinden</source>
+        <translation>Find photos again</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos gefunden</source>
+        <translation>
+            <numerusform>%n photo found</numerusform>
+            <numerusform>%n photos found</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos liegen nicht in diesem Ordner. Über Datei &gt; Fehlende Fotos suchen können Sie einen anderen zeigen.</source>
+        <translation>
+            <numerusform>%n photo is not in this folder. File &gt; Find missing photos lets you show another one.</numerusform>
+            <numerusform>%n photos are not in this folder. File &gt; Find missing photos lets you show another one.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvNearMiss</name>
     <message>
         <source> – meinten Sie „%1“?</source>
@@ -2478,6 +2666,25 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
+    <name>MvPrintNote</name>
+    <message>
+        <source>Seite %1</source>
+        <translation>Page %1</translation>
+    </message>
+    <message>
+        <source>%1: Foto „%2“ druckt grob, mit nur %3 Bildpunkten je Zoll</source>
+        <translation>%1: photo “%2” prints coarsely, with only %3 pixels per inch</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: „%2“ – keine Schrift hat %3</source>
+        <translation>%1: “%2” – no font has %3</translation>
+    </message>
+</context>
+<context>
     <name>MvProgressDialog</name>
     <message>
         <source>Wird abgebrochen …</source>
@@ -2604,6 +2811,18 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Kalender anlegen</source>
         <translation>Create Calendar</translation>
+    </message>
+    <message>
+        <source>Eine frühere Fassung, vom %1, liegt daneben und ist unversehrt.</source>
+        <translation>An earlier version, of %1, lies beside it and is intact.</translation>
+    </message>
+    <message>
+        <source>&amp;Frühere Fassung öffnen</source>
+        <translation>Open &amp;earlier version</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter …</source>
+        <translation>Save &amp;as …</translation>
     </message>
 </context>
 <context>
@@ -3318,6 +3537,14 @@ Save it under another name or in another folder.</translation>
         <source>Zur letzten Seite gehen</source>
         <translation>Go to the last page</translation>
     </message>
+    <message>
+        <source>Feh&amp;lende Fotos suchen …</source>
+        <translation>&amp;Find missing photos …</translation>
+    </message>
+    <message>
+        <source>Fotos, die nicht mehr an ihrem Platz sind, in einem Ordner wiederfinden</source>
+        <translation>Find photos again that have been moved to another folder</translation>
+    </message>
 </context>
 <context>
     <name>MvStudioApplication</name>
@@ -3477,10 +3704,6 @@ Designs photo calendars and prints them.
         <translation>No pages</translation>
     </message>
     <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>… und %1 weitere</source>
         <translation>… and %1 more</translation>
     </message>
@@ -3494,6 +3717,17 @@ Designs photo calendars and prints them.
     <message>
         <source>Was geschehen ist, und was Sie tun können</source>
         <translation>What has happened, and what you can do</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Hinweise zum Druck</source>
+        <translation>
+            <numerusform>%n hint about printing</numerusform>
+            <numerusform>%n hints about printing</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Texte ohne Platz, fehlende Zeichen und Fotos mit zu wenigen Bildpunkten</source>
+        <translation>Texts without room, missing characters and photos with too few pixels</translation>
     </message>
 </context>
 <context>
@@ -3769,6 +4003,14 @@ Designs photo calendars and prints them.
     <message>
         <source>Schließen; wieder zu zeigen über Ansicht &gt; Erste Schritte</source>
         <translation>Close; can be shown again with View &gt; Getting Started</translation>
+    </message>
+    <message>
+        <source>„%1“ öffnen</source>
+        <translation>Open “%1”</translation>
+    </message>
+    <message>
+        <source>Mit dem letzten Kalender weitermachen</source>
+        <translation>Go on with the last calendar</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
 #include "MvWidgetTest.h"
@@ -108,6 +109,7 @@ private Q_SLOTS:
     void photoDropped_data();
     void photoDropped();
     void refusesWhatIsNoPhoto();
+    void photoComesBack();
     void edgeOfThePhotoIsPulled();
     void photoMovesInItsFrame();
     void contextMenuPlacesThePhoto();
@@ -145,6 +147,8 @@ void tst_MvPageCanvas::clickOnADateLeadsToANewEntry()
     QTRY_VERIFY(open.item()->recording().operationCount() > before); // the page shows it
     QTRY_VERIFY(!editor);
 
+    open.canvas->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(open.canvas.get()));
     QVERIFY(open.item()->cells()->focusDate({2027, 1, 12}));
     QTest::keyClick(open.canvas.get(), Qt::Key_Return);
     QTRY_VERIFY(QApplication::activePopupWidget());
@@ -228,6 +232,25 @@ void tst_MvPageCanvas::refusesWhatIsNoPhoto()
     QVERIFY(said.last().value(0).toString().contains(u"viel zu klein"));
     QVERIFY(open.photo().isValid() && open.photo().path() != file.fileName());
     QCOMPARE(open.steps(), 1);
+}
+
+/// Its file goes and comes while the page is shown.
+void tst_MvPageCanvas::photoComesBack()
+{
+    OpenCanvas open;
+    open.setPhoto();
+    const QString path = open.photo().path();
+    const auto photoColor = [&open] {
+        const QImage image = open.canvas->viewport()->grab().toImage();
+        return image.pixelColor(open.viewPoint(open.item()->photoRect().topLeft() + QPointF(30, 30)));
+    };
+    QCOMPARE(photoColor(), QColor(Qt::red));
+    QVERIFY(QFile::rename(path, path + u"-weg"_s));
+    open.item()->photos()->recheck(); // as when the program is activated again
+    QTRY_VERIFY(open.item()->photos()->isUnreadable(path) || (photoColor(), false));
+    QVERIFY(photoColor() != QColor(Qt::red));
+    QVERIFY(QFile::rename(path + u"-weg"_s, path));
+    QTRY_COMPARE(photoColor(), QColor(Qt::red)); // by itself
 }
 
 void tst_MvPageCanvas::edgeOfThePhotoIsPulled()
@@ -324,6 +347,17 @@ void tst_MvPageCanvas::zooms()
 {
     OpenCanvas open;
     MvPageCanvas &canvas = *open.canvas;
+    const auto turnWheel = [&canvas](int angle) {
+        QWheelEvent event({50, 50}, {50, 50}, {}, {0, angle}, {}, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(canvas.viewport(), &event);
+        return canvas.currentPage();
+    };
+    QCOMPARE(turnWheel(-60), 0); // the whole page is seen: two half steps turn to the next
+    QCOMPARE(turnWheel(-60), 1);
+    QCOMPARE(turnWheel(120), 0);
+    canvas.setZoom(8.0);
+    QCOMPARE(turnWheel(-120), 0); // scrolls
+    canvas.zoomToFit();
     const double fitted = canvas.zoom();
     canvas.resize(600, 500);
     const double smaller = canvas.zoom();

@@ -4,6 +4,10 @@
 #include "panels/MvPageEdits.h"
 #include "panels/MvStudioPanels.h"
 
+#include "MvCalendar/MvCalendariumColorSchemaModel.h"
+#include "MvGUIWidgets/MvColorSelectionButton.h"
+#include "flows/MvProjectFlow.h"
+
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvUndoController.h"
@@ -85,6 +89,196 @@ QString layoutOf(const MvCalendariumAppearance &appearance)
     return appearance.layoutSchema().ID().toString();
 }
 
+using Control = std::function<QPair<QVariant, QVariant>(const QWidget *)>; // what it shows, what holds
+
+template <class Widget>
+Control control(const std::function<QVariant(const Widget *)> &shown, const std::function<QVariant()> &holds)
+{
+    return [=](const QWidget *widget) { return QPair(shown(qobject_cast<const Widget *>(widget)), holds()); };
+}
+QVariant checkedOf(const QAbstractButton *button)
+{
+    const auto *box = qobject_cast<const QCheckBox *>(button);
+    return box ? QVariant(int(box->checkState())) : QVariant(button->isChecked() ? 2 : 0);
+}
+Control switched(const std::function<bool()> &holds)
+{
+    return control<QAbstractButton>(checkedOf, [=] { return holds() ? 2 : 0; });
+}
+Control numbered(const std::function<double()> &holds)
+{
+    const auto shown = [](const QAbstractSpinBox *box) { return box->property("value").toDouble(); };
+    return control<QAbstractSpinBox>(shown, holds);
+}
+Control chosen(const std::function<QVariant()> &holds)
+{
+    const auto shown = [](const QComboBox *box) {
+        return box->currentData().isValid() ? box->currentData() : QVariant(box->currentText());
+    };
+    return control<QComboBox>(shown, holds);
+}
+
+QString colorsOf(const QAbstractItemModel *model)
+{
+    QStringList colors;
+    for (int row = 0; row < model->rowCount(); ++row)
+        for (const int column : {1, 2})
+            colors.append(model->index(row, column).data(Qt::EditRole).value<QColor>().name(QColor::HexArgb));
+    return colors.join(u' ');
+}
+
+/// All controls of the panels by name. One that is missing here fails the walk.
+QHash<QString, Control> controlsOf(const OpenPanels &open)
+{
+    const auto page = [&open] { return open.panels->edits()->page(); };
+    const auto look = [page] { return page().appearance(); };
+    const auto schema = [look] { return look().colorSchema(); };
+    const auto holidays = [page] { return page().contentConfig().holidayConfig(); };
+    const auto feature = [holidays](int which) {
+        return switched([=] { return holidays().hasFeatures(MvCalendariumFeatures(which)); });
+    };
+    const auto document = [&open]() -> const MvCalendarDocument & { return open.project.document(); };
+    const auto holidayState = [=] {
+        const bool named = holidays().hasFeatures(FEATURE_HOLIDAYS) && look().showHolidays();
+        const int on = int(named) + int(holidays().hasFeatures(FEATURE_HOLIDAY_COLORS)) +
+                       int(holidays().hasFeatures(FEATURE_SCHOOL_VACATIONS));
+        return on == 0 ? 0 : on == 3 ? 2 : 1;
+    };
+    const auto paper = [=] {
+        for (const QString &name : MvPageFormat::names()) {
+            MvPageFormat format = MvPageFormat::fromName(name);
+            format.setOrientation(document().format().orientation());
+            if (format.trimSize() == document().format().trimSize())
+                return name;
+        }
+        return QString();
+    };
+    const auto scope = [&open](MvPageEdits::Scope which) {
+        return switched([&open, which] { return open.panels->edits()->scope() == which; });
+    };
+    const auto weeks = [=] {
+        const auto shown = page().calendarWeeks();
+        return shown == MvCalendarPage::CalendarWeeks::Always ||
+               (shown == MvCalendarPage::CalendarWeeks::AsAsked && holidays().hasFeatures(FEATURE_CALENDAR_WEEKS));
+    };
+    const auto schemaName = [=]() -> QVariant {
+        for (const auto &known : MvCalendariumColorSchemaRegistry::instance().visibleSchemata()) {
+            MvCalendariumColorSchema same = known;
+            same.setGridConfig(schema().gridConfig());
+            if (same == schema())
+                return MvCalendariumColorSchemaRegistry::instance().name(
+                    MvCalendariumColorSchemaRegistry::instance().id(known));
+        }
+        return u"Eigene Farben"_s;
+    };
+    const auto colors = [=]() -> QVariant {
+        MvCalendariumColorSchemaModel model;
+        model.setAppearance(look());
+        return colorsOf(&model);
+    };
+    const Control layoutControl = [look](const QWidget *widget) {
+        const auto *list = qobject_cast<const QListWidget *>(widget);
+        const QString layout = layoutOf(look());
+        const bool isOffered = !list->model()->match(list->model()->index(0, 0), Qt::UserRole, layout).isEmpty();
+        const QVariant shown = list->currentItem() ? list->currentItem()->data(Qt::UserRole) : QVariant(QString());
+        return QPair(shown, QVariant(isOffered ? layout : QString()));
+    };
+    return {
+        {u"scopeAllPages"_s, scope(MvPageEdits::Scope::AllPages)},
+        {u"scopeCurrentPage"_s, scope(MvPageEdits::Scope::CurrentPage)},
+        {u"holidayCheckBox"_s, control<QAbstractButton>(checkedOf, holidayState)},
+        {u"personalEntriesCheckBox"_s, feature(FEATURE_ENTRIES)},
+        {u"publicHolidaysOnly"_s, feature(FEATURE_PUBLIC_HOLIDAYS_ONLY)},
+        {u"vacationNamesDaily"_s, feature(FEATURE_VACATION_NAMES_DAILY)},
+        {u"calendarWeeks"_s, switched(weeks)},
+        {u"yearBox"_s, numbered([=] { return document().range().start().year(); })},
+        {u"monthBox"_s,
+         chosen([=] { return QLocale(QLocale::German).standaloneMonthName(document().range().start().month()); })},
+        {u"languageBox"_s, chosen([=] { return holidays().language().visibleName(); })},
+        {u"provinceBox"_s, chosen([=] { return holidays().province(); })},
+        {u"monthCount"_s, numbered([=] { return document().range().monthCount(); })},
+        {u"paper"_s,
+         [paper](const QWidget *widget) { // a format of one's own may have any size, those of the named ones, too
+             const QVariant shown = qobject_cast<const QComboBox *>(widget)->currentData();
+             return QPair(shown, shown.toString().isEmpty() ? shown : QVariant(paper()));
+         }},
+        {u"orientation"_s, chosen([=] { return int(document().format().orientation()); })},
+        {u"paperWidth"_s, numbered([=] { return document().format().trimSize().width() / 10.0; })},
+        {u"paperHeight"_s, numbered([=] { return document().format().trimSize().height() / 10.0; })},
+        {u"bleed"_s, numbered([=] { return document().format().bleed() / 10.0; })},
+        {u"layoutList"_s, layoutControl},
+        {u"colorSchemaPicker"_s,
+         control<QListWidget>([](const QListWidget *list) { return list->currentItem()->text(); }, schemaName)},
+        {u"tableView"_s, control<QTableView>([](const QTableView *view) { return colorsOf(view->model()); }, colors)},
+        {u"vacationsLikeSaturdaysBox"_s, switched([=] {
+             return schema().haveSameColors(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION);
+         })},
+        {u"holidaysLikeSundaysBox"_s,
+         switched([=] { return schema().haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY); })},
+        {u"parityBox"_s, switched([=] { return schema().distinguishesParities(); })},
+        {u"showGridBox"_s, switched([=] { return look().gridConfig().isEnabled(); })},
+        {u"gridColorButton"_s,
+         control<MvColorSelectionButton>([](const MvColorSelectionButton *button) { return button->color(); },
+                                         [=] { return look().gridConfig().color(); })},
+        {u"fontFamilyBox"_s, chosen([=] { return look().fontSettings().fontName(); })},
+        {u"fontSizeBox"_s, numbered([=] { return 100 + look().fontSettings().fontSizePercentage(); })},
+        {u"holidayFontSizeBox"_s, numbered([=] { return 100 + look().fontSettings().fontSizePercentageHolidays(); })},
+        {u"countColumnsBox"_s, numbered([=] { return look().columnHeadersList().size(); })},
+        {u"columnHeadersList"_s,
+         control<QListView>(
+             [](const QListView *list) { return qobject_cast<QStringListModel *>(list->model())->stringList(); },
+             [=] { return look().columnHeadersList(); })},
+    };
+}
+
+bool isShown(const QWidget *control)
+{
+    for (const QWidget *widget = control; widget && !widget->isWindow(); widget = widget->parentWidget()) {
+        const bool isTab = widget->parentWidget()->objectName() == u"qt_tabwidget_stackedwidget";
+        if (widget->isHidden() && !isTab)
+            return false;
+    }
+    return true;
+}
+
+QList<QWidget *> shownControls(const OpenPanels &open)
+{
+    QList<QWidget *> controls;
+    for (auto *widget : open.window.findChildren<QWidget *>()) {
+        const auto *button = qobject_cast<QAbstractButton *>(widget);
+        const bool isControl = (button && (button->isCheckable() || qobject_cast<MvColorSelectionButton *>(widget))) ||
+                               qobject_cast<QComboBox *>(widget) || qobject_cast<QAbstractSpinBox *>(widget) ||
+                               (qobject_cast<QAbstractItemView *>(widget) && !widget->window()->isHidden());
+        bool isPart = widget->objectName().startsWith(u"qt_"_s) || widget->window() != &open.window ||
+                      qobject_cast<QHeaderView *>(widget);
+        for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget())
+            isPart = isPart || qobject_cast<QComboBox *>(parent) || qobject_cast<QAbstractSpinBox *>(parent) ||
+                     parent->objectName() == u"entriesPanel"; // which is about no page
+        if (isControl && !isPart && isShown(widget))
+            controls.append(widget);
+    }
+    return controls;
+}
+
+/// The controls that tell something else than holds; empty when all tell the truth.
+QString lies(const OpenPanels &open)
+{
+    const QHash<QString, Control> known = controlsOf(open);
+    QStringList found;
+    for (const QWidget *widget : shownControls(open)) {
+        const auto row = known.constFind(widget->objectName());
+        if (row == known.constEnd()) {
+            found.append(
+                u"unknown: %1 %2"_s.arg(QLatin1StringView(widget->metaObject()->className()), widget->objectName()));
+            continue;
+        }
+        const auto [shown, holds] = (*row)(widget);
+        if (shown != holds && shown.toString() + holds.toString() != QString())
+            found.append(u"%1: %2 for %3"_s.arg(widget->objectName(), shown.toString(), holds.toString()));
+    }
+    return found.join(u'\n');
+}
+
 } // namespace
 
 /// The panels, driven as a user does, with undo and redo.
@@ -97,6 +291,7 @@ private Q_SLOTS:
     void showingEditsNothing();
     void scope_data();
     void scope();
+    void everyControlTellsThePage();
     void undoAndRedoRefreshThePanels();
     void startAndMonths();
     void holidaysKeepWhatTheEditorDoesNotShow();
@@ -166,6 +361,72 @@ void tst_MvStudioPanels::scope()
     MvUndoController::instance().undo();
     MvUndoController::instance().undo();
     QCOMPARE(layoutOf(open.look(0)), layoutOf(open.look(1)));
+}
+
+/// At the start, while everything is used once, on other pages, in other layouts, by undo and redo, and in a calendar
+/// from elsewhere.
+void tst_MvStudioPanels::everyControlTellsThePage()
+{
+    OpenPanels open;
+    open.project.newProject(MvProjectFlow::firstDocument());
+    OpenPanels::settle();
+    QCOMPARE(lies(open), QString());
+    QCOMPARE(open.find<QCheckBox>(u"holidayCheckBox"_s)->checkState(), Qt::Checked);
+    for (const QString &layout : {u"FAMILY_PLANNER"_s, u"MONTH_ONLY"_s, u"YEAR_PLANNER"_s, u"MONTH_GRID_LINES"_s}) {
+        open.panels->edits()->setLayout(MvCalendariumLayoutSchemaID(layout));
+        OpenPanels::settle();
+        QVERIFY2(lies(open).isEmpty(), qPrintable(layout + u": "_s + lies(open)));
+        for (const bool forThisPage : {false, true}) {
+            open.panels->edits()->setScope(forThisPage ? MvPageEdits::Scope::CurrentPage
+                                                       : MvPageEdits::Scope::AllPages);
+            for (const QPointer<QWidget> widget : shownControls(open)) {
+                if (!widget || !widget->isEnabled() || widget->objectName().startsWith(u"scope"_s) ||
+                    widget->objectName() == u"countColumnsBox")
+                    continue;
+                if (auto *box = qobject_cast<QCheckBox *>(widget))
+                    box->click();
+                else if (auto *list = qobject_cast<QComboBox *>(widget))
+                    list->setCurrentIndex((list->currentIndex() + 1) % list->count());
+                else if (auto *spin = qobject_cast<QAbstractSpinBox *>(widget))
+                    spin->stepUp();
+                else
+                    continue;
+                OpenPanels::settle();
+                QVERIFY2(lies(open).isEmpty(),
+                         qPrintable(layout + u", "_s + widget->objectName() + u": "_s + lies(open)));
+            }
+        }
+        open.panels->setCurrentPage(int(open.project.document().pages().size()) - 1);
+        QVERIFY2(lies(open).isEmpty(), qPrintable(layout + u", last page: "_s + lies(open)));
+    }
+    auto *stack = MvUndoController::instance().stack();
+    for (const bool back : {true, false}) {
+        while (back ? stack->canUndo() : stack->canRedo()) {
+            const QString text = back ? stack->undoText() : stack->redoText();
+            back ? stack->undo() : stack->redo();
+            open.panels->setCurrentPage(0);
+            OpenPanels::settle();
+            QVERIFY2(lies(open).isEmpty(), qPrintable(text + u": "_s + lies(open)));
+        }
+    }
+
+    MvCalendarDocument foreign = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s);
+    foreign.setHolidayConfig({MvLocale(u"de_AT"_s), {}, FEATURE_HOLIDAYS});
+    MvCalendariumAppearance nameless = foreign.appearance();
+    nameless.setShowHolidays(false);
+    for (const bool isNameless : {false, true}) {
+        if (isNameless)
+            foreign.setAppearance(nameless);
+        open.project.newProject(foreign);
+        OpenPanels::settle();
+        QCOMPARE(lies(open), QString());
+        auto *box = open.find<QCheckBox>(u"holidayCheckBox"_s);
+        QVERIFY(box->checkState() != Qt::Checked);
+        while (box->checkState() != Qt::Checked) // can be had back, names and all
+            box->click();
+        QCOMPARE(lies(open), QString());
+        QVERIFY(open.look(3).showHolidays());
+    }
 }
 
 void tst_MvStudioPanels::undoAndRedoRefreshThePanels()

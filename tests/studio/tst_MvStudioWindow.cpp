@@ -175,7 +175,7 @@ void tst_MvStudioWindow::everyActionIsComplete()
     }
     QVERIFY(shortcuts.size() > 20);
     trigger("shortcuts");
-    QCOMPARE(dialog("shortcutsDialog")->findChild<QTreeWidget *>()->topLevelItemCount(), shortcuts.size() - 1);
+    QVERIFY(dialog("shortcutsDialog")->findChild<QTreeWidget *>()->topLevelItemCount() >= shortcuts.size());
     trigger("about");
     QVERIFY(dialog("aboutDialog"));
 }

@@ -63,6 +63,7 @@ private Q_SLOTS:
     void lists_data();
     void lists();
     void rowsOfTheList();
+    void listIsSearched();
     void troubleWithReadingIsToldAndMended();
     void troubleWithSavingIsToldAndAsked();
     void troubleWithFoldersIsTold();
@@ -231,6 +232,39 @@ void tst_StudioEntryJourneys::lists()
     QCOMPARE(names(), after);
     studio.restart();
     QCOMPARE(names(), after);
+}
+
+void tst_StudioEntryJourneys::listIsSearched()
+{
+    MvStudioFixture studio;
+    MvCalendarEventRegistry::instance().setEvents(
+        {MvCalendarEvent(u"Oma Erna"_s, QDate(1941, 3, 9).startOfDay(), true, {}, QUuid::createUuid(), {}),
+         MvCalendarEvent(u"Opa"_s, QDate(1938, 5, 4).startOfDay(), true, {}, QUuid::createUuid(), {})});
+    QVERIFY(studio.raiseDock("entriesPanelDock"));
+    auto *list = studio.find<QTableView>("eventTableView");
+    auto *field = studio.find<QLineEdit>("entrySearchField");
+    const auto shown = [list] {
+        QStringList names;
+        for (int row = 0; row < list->model()->rowCount(); ++row)
+            if (!list->isRowHidden(row))
+                names.append(list->model()->index(row, 2).data().toString());
+        return names;
+    };
+    QTest::keyClicks(field, u"erna"_s);
+    QCOMPARE(shown(), QStringList{u"Oma Erna"_s});
+    field->setText(u"mai"_s);
+    QCOMPARE(shown(), QStringList{u"Opa"_s});
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 2)).center());
+    QCOMPARE(studio.window()->currentPage(), 4);
+    QVERIFY(studio.press("eventTableView", Qt::Key_Home)); // passes the hidden row over
+    QCOMPARE(list->currentIndex().row(), 1);
+    field->clear();
+    QCOMPARE(shown().size(), 2);
+
+    QVERIFY(studio.click(studio.window(), "newEntryButton")); // begins within the calendar
+    auto *editor = MvStudioFixture::dialog<MvCalendarDayEditorDialog>();
+    QVERIFY(editor);
+    QCOMPARE(editor->findChild<QDateTimeEdit *>()->date(), QDate(2027, 5, 1));
 }
 
 void tst_StudioEntryJourneys::rowsOfTheList()

@@ -1,5 +1,7 @@
 #include "MvStudioFixture.h"
 
+#include "flows/MvProjectFlow.h"
+
 #include "MvProject/MvProject.h"
 
 using namespace Qt::StringLiterals;
@@ -16,6 +18,10 @@ private Q_SLOTS:
     void exported_data();
     void exported();
     void exportCancelled();
+    void missingPhotosAreFound();
+    void damagedFileLeadsToItsBackup();
+    void failedSavingLeadsElsewhere();
+    void nextCalendarIsLikeTheLast();
 };
 
 void tst_StudioFileJourneys::savedAndFoundAgain()
@@ -131,6 +137,104 @@ void tst_StudioFileJourneys::exportCancelled()
         QVERIFY2(!QImage(studio.path(file)).isNull(), qPrintable(file)); // complete or not there
     QVERIFY(studio.trigger("exportPdf"));                                // and again
     QVERIFY(MvStudioFixture::dialog<QDialog>("exportDialog"));
+}
+
+/// Moved to another folder, where another file has the same name; one is gone for good.
+void tst_StudioFileJourneys::missingPhotosAreFound()
+{
+    MvStudioFixture studio;
+    const QString path = studio.path(u"familie.mvcalendar"_s);
+    QVERIFY(QDir().mkpath(studio.path(u"alt/sommer"_s)) && QDir().mkpath(studio.path(u"neu/sommer"_s)) &&
+            QDir().mkpath(studio.path(u"neu/winter"_s)));
+    MvCalendarDocument document = studio.document();
+    for (int number = 0; number < 3; ++number) {
+        MvCalendarPage page = document.pages().at(number);
+        page.setPhotoFrame(MvPhotoFrame(studio.writePhoto(u"alt/sommer/%1.png"_s.arg(number), Qt::green)));
+        document.setPage(number, page);
+    }
+    studio.project()->change(document, u"Fotos"_s);
+    QVERIFY(studio.project()->saveAs(QFileInfo(path)));
+    for (const QString &name : {u"0.png"_s, u"1.png"_s})
+        QVERIFY(QFile::copy(studio.path(u"alt/sommer/"_s + name), studio.path(u"neu/sommer/"_s + name.toUpper())));
+    QVERIFY(QFile::copy(studio.path(u"alt/sommer/0.png"_s), studio.path(u"neu/winter/0.png"_s)));
+    QVERIFY(QDir(studio.path(u"alt"_s)).removeRecursively());
+
+    studio.window()->projectFlow()->open(path);
+    auto *message = MvStudioFixture::dialog<QMessageBox>("missingPhotosMessage");
+    QVERIFY(message);
+    QVERIFY2(message->text().startsWith(u"3 "_s), qPrintable(message->text()));
+    QVERIFY(studio.click(message, "searchPhotosButton"));
+    QVERIFY(studio.chooseFile(studio.path(u"neu"_s)));
+    QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>("informationMessage")); // one is not found
+    MvStudioFixture::dialog<QMessageBox>("informationMessage")->close();
+    const auto photo = [&](int page) { return studio.document().pages().at(page).photoFrame().path(); };
+    QCOMPARE(photo(0), studio.path(u"neu/sommer/0.PNG"_s)); // the folder says more than the case of letters
+    QCOMPARE(photo(1), studio.path(u"neu/sommer/1.PNG"_s));
+    QCOMPARE(photo(2), studio.path(u"alt/sommer/2.png"_s));
+    studio.undo(); // one step
+    QCOMPARE(photo(0), studio.path(u"alt/sommer/0.png"_s));
+    QCOMPARE(photo(1), studio.path(u"alt/sommer/1.png"_s));
+}
+
+void tst_StudioFileJourneys::damagedFileLeadsToItsBackup()
+{
+    MvStudioFixture studio;
+    const QString path = studio.path(u"familie.mvcalendar"_s);
+    QVERIFY(studio.project()->saveAs(QFileInfo(path)));
+    const MvCalendarDocument before = studio.document();
+    MvCalendarDocument changed = before;
+    changed.setTitle(u"Anders"_s);
+    studio.project()->change(changed, u"Titel"_s);
+    QVERIFY(studio.project()->save());
+    QFile file(path);
+    QVERIFY(file.resize(file.size() / 2));
+    studio.window()->projectFlow()->open(path);
+    auto *message = MvStudioFixture::dialog<QMessageBox>("errorMessage");
+    QVERIFY(message);
+    QVERIFY(studio.click(message, "openBackupButton"));
+    QVERIFY(studio.document() == before);
+    QCOMPARE(studio.project()->fileInfo().absoluteFilePath(), path);
+    QVERIFY(studio.trigger("saveProject")); // mends the file without a question
+    MvProject read;
+    QVERIFY(read.open(QFileInfo(path)));
+    QVERIFY(read.document() == before);
+}
+
+void tst_StudioFileJourneys::failedSavingLeadsElsewhere()
+{
+    MvStudioFixture studio;
+    QVERIFY(QDir().mkpath(studio.path(u"im Weg.mvcalendar"_s)));
+    QVERIFY(studio.project()->saveAs(QFileInfo(studio.path(u"familie.mvcalendar"_s))));
+    studio.window()->projectFlow()->saveAs();
+    auto *files = MvStudioFixture::dialog<QFileDialog>();
+    QVERIFY(files);
+    Q_EMIT files->fileSelected(studio.path(u"im Weg.mvcalendar"_s));
+    files->close();
+    auto *message = MvStudioFixture::dialog<QMessageBox>("errorMessage");
+    QVERIFY(message);
+    QCOMPARE(message->informativeText().count(u"im Weg"_s), 1);
+    QVERIFY(studio.click(message, "saveElsewhereButton"));
+    QVERIFY(studio.chooseFile(studio.path(u"anderswo.mvcalendar"_s)));
+    QVERIFY(QFile::exists(studio.path(u"anderswo.mvcalendar"_s)));
+}
+
+void tst_StudioFileJourneys::nextCalendarIsLikeTheLast()
+{
+    MvStudioFixture studio;
+    MvCalendarDocument document = studio.document();
+    MvPageFormat format = MvPageFormat::fromName(u"A3"_s);
+    format.setBleed(30);
+    document.setFormat(format);
+    document.setHolidayConfig({MvLocale(u"de_CH"_s), u"ZG"_s, document.holidayConfig().features()});
+    studio.project()->change(document, u"Papier"_s);
+    QVERIFY(studio.project()->saveAs(QFileInfo(studio.path(u"familie.mvcalendar"_s))));
+    studio.restart();
+    const MvCalendarDocument next = MvProjectFlow::firstDocument();
+    QVERIFY(next.format() == format);
+    QCOMPARE(next.holidayConfig().language(), MvLocale(u"de_CH"_s));
+    QCOMPARE(next.holidayConfig().province(), u"ZG"_s);
+    QSettings(QSettings::IniFormat, QSettings::UserScope, u"mvcalendar"_s, u"mvcalendar-studio"_s)
+        .remove(u"calendar"_s);
 }
 
 MV_WIDGET_TEST_MAIN(tst_StudioFileJourneys)

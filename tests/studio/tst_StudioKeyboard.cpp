@@ -4,6 +4,7 @@
 #include "flows/MvRecoveryDialog.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvProject/MvProject.h"
 
 #include <QAccessible>
@@ -321,6 +322,10 @@ void tst_StudioKeyboard::menus()
     }
     MvCalendarEventRegistry::instance().setEvents(
         {MvCalendarEvent(u"Oma"_s, QDate(2027, 1, 14).startOfDay(), true, {}, QUuid::createUuid(), {})});
+    QVERIFY(studio.raiseDock("fontPanelDock"));
+    QVERIFY(studio.press("fontFamilyBox", Qt::Key_E, Qt::ControlModifier)); // not the end of the line there
+    QVERIFY(MvStudioFixture::dialog<QDialog>("exportDialog"));
+    MvStudioFixture::dialog<QDialog>("exportDialog")->close();
     QMenu *day = studio.clickDate({2027, 1, 14});
     QVERIFY(day);
     QCOMPARE(checkMenu(day).join(u'\n'), QString());

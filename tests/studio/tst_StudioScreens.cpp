@@ -52,8 +52,8 @@ QString cutControl(const QWidget *window)
             continue;
         const QSize needed = widget->minimumSizeHint();
         if (widget->width() < needed.width() || widget->height() < needed.height())
-            return u"%1 %2: %3x%4 of %5x%6"_s.arg(QLatin1StringView(widget->metaObject()->className()),
-                                                  widget->objectName())
+            return u"%1 %2: %3x%4 of %5x%6"_s
+                .arg(QLatin1StringView(widget->metaObject()->className()), widget->objectName())
                 .arg(widget->width())
                 .arg(widget->height())
                 .arg(needed.width())
@@ -132,6 +132,9 @@ void tst_StudioScreens::everyDialog()
 {
     QFETCH(QScreen *, screen);
     const MvStudioFixture studio;
+    MvCalendarPage page = studio.document().pages().first();
+    page.setPhotoFrame(MvPhotoFrame(studio.path(u"nicht da.jpg"_s)));
+    studio.project()->changePage(0, page, u"Foto"_s);
     MvStudioWindow *window = studio.window();
     window->setGeometry(screen->availableGeometry());
     QTRY_COMPARE(window->screen(), screen);
@@ -181,8 +184,7 @@ void tst_StudioScreens::sidePanels()
         QVERIFY(studio.raiseDock(qPrintable(dock->objectName())));
         QVERIFY2(cutControl(window).isEmpty(), qPrintable(cutControl(window)));
         for (const QScrollArea *area : dock->findChildren<QScrollArea *>())
-            QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0,
-                     qPrintable(dock->objectName()));
+            QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0, qPrintable(dock->objectName()));
     }
     for (const QTabBar *tabs : window->findChildren<QTabBar *>())
         if (tabs->parent() == window)

@@ -23,7 +23,8 @@ MvProgressDialog::MvProgressDialog(const QString &title, const QString &text, QW
     m_bar->setFormat(tr("%p %"));
     m_text->setTextFormat(Qt::PlainText);
     constexpr int letters = 60;
-    m_text->setText(fontMetrics().elidedText(m_text->text(), Qt::ElideMiddle, fontMetrics().averageCharWidth() * letters));
+    m_text->setText(
+        fontMetrics().elidedText(m_text->text(), Qt::ElideMiddle, fontMetrics().averageCharWidth() * letters));
     QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Cancel, this);
     m_cancel = buttons->button(QDialogButtonBox::Cancel);
     m_cancel->setObjectName(u"progressCancel"_s);

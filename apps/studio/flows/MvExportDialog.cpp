@@ -9,6 +9,7 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -30,6 +31,8 @@ enum PageChoice {
 };
 
 constexpr int defaultDpi = 300;
+constexpr double tenths = 10.0;    // of a millimetre
+constexpr double mostBleed = 20.0; // millimetres
 
 QString withSuffix(const QString &path, const QString &suffix)
 {
@@ -62,7 +65,9 @@ MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocum
     auto *form = new QFormLayout;
     addTarget(form, folder, name);
     addPages(form);
-    if (!isPdf())
+    if (isPdf())
+        addBleed(form);
+    else
         addResolution(form);
 
     m_message->setObjectName(u"exportMessage"_s);
@@ -145,6 +150,20 @@ void MvExportDialog::addResolution(QFormLayout *form)
     m_dpi->setValue(MvStudioSettings::text(u"export/dpi"_s, QString::number(defaultDpi)).toInt());
     form->addRow(labelFor(tr("&Auflösung:"), m_dpi), m_dpi);
     connect(m_dpi, &MvSpinBox::valueChanged, this, &MvExportDialog::validate);
+}
+
+void MvExportDialog::addBleed(QFormLayout *form)
+{
+    m_bleed = new QDoubleSpinBox(this);
+    m_bleed->setObjectName(u"exportBleed"_s);
+    m_bleed->setRange(0.0, mostBleed);
+    m_bleed->setDecimals(1);
+    m_bleed->setSuffix(tr(" mm"));
+    m_bleed->setValue(m_document.format().bleed() / tenths);
+    m_bleed->setToolTip(
+        tr("Was an jeder Kante über das fertige Blatt hinaus gedruckt und abgeschnitten wird; Druckereien "
+           "verlangen meist 3 mm"));
+    form->addRow(labelFor(tr("&Beschnitt:"), m_bleed), m_bleed);
 }
 
 void MvExportDialog::browse()
@@ -255,6 +274,7 @@ MvExportOptions MvExportDialog::options() const
     options.target = target();
     options.pages = pages(&ignored);
     options.dpi = m_dpi ? m_dpi->value() : defaultDpi;
+    options.bleed = m_bleed ? std::round(m_bleed->value() * tenths) : m_document.format().bleed();
     if (m_dpi)
         MvStudioSettings::setText(u"export/dpi"_s, QString::number(m_dpi->value()));
     MvStudioSettings::setFolder(u"export"_s, QFileInfo(options.target).absolutePath());

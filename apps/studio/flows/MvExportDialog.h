@@ -7,6 +7,7 @@
 
 class MvSpinBox;
 class QComboBox;
+class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
@@ -29,6 +30,7 @@ private:
     void addTarget(QFormLayout *form, const QString &folder, const QString &name);
     void addPages(QFormLayout *form);
     void addResolution(QFormLayout *form);
+    void addBleed(QFormLayout *form);
     void browse();
     QString target() const;
     QList<int> pages(QString *error) const;
@@ -47,6 +49,7 @@ private:
     QComboBox *m_pages;
     QLineEdit *m_pageText;
     MvSpinBox *m_dpi = nullptr;
+    QDoubleSpinBox *m_bleed = nullptr;
     QLabel *m_message;
     QPushButton *m_export = nullptr;
 };

@@ -1,8 +1,8 @@
 #include "flows/MvExportFlow.h"
 
-#include "MvCore/MvApplicationLocale.h"
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvProject.h"
+#include "common/MvPrintNote.h"
 #include "common/MvProgressDialog.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostLines = 12;
+constexpr int mostLines = 8; // of each kind, so that the message fits small screens
 
 QString fileNameOf(QString name)
 {
@@ -83,7 +83,11 @@ void MvExportFlow::run(const MvExportOptions &options)
     if (isRunning())
         return;
     m_options = options;
-    m_job = new MvExportJob(m_project->document(), MvExportTarget(options.target), options.dpi, this);
+    MvCalendarDocument document = m_project->document();
+    MvPageFormat format = document.format();
+    format.setBleed(options.bleed);
+    document.setFormat(format);
+    m_job = new MvExportJob(document, MvExportTarget(options.target), options.dpi, this);
     m_job->setPages(options.pages);
     auto *dialog = new MvProgressDialog(
         tr("Exportieren"), tr("Die Seiten werden geschrieben: %1").arg(QFileInfo(options.target).fileName()), m_window);
@@ -120,24 +124,27 @@ void MvExportFlow::tellDone(const MvExportResult &result)
             ? QDir::toNativeSeparators(result.files.first().absoluteFilePath())
             : tr("%n Dateien in %1", nullptr, int(result.files.size())).arg(QDir::toNativeSeparators(folder));
     Q_EMIT message(tr("Exportiert: %1").arg(what));
-    const QStringList unfitting = unfittingTexts();
-    QMessageBox *box = MvStudioMessage::information(m_window, tr("Der Kalender ist exportiert: %1").arg(what),
-                                                    unfitting.isEmpty()
-                                                        ? QString()
-                                                        : tr("Diese Texte hatten keinen Platz und sind gekürzt:") +
-                                                              u'\n' + MvStudioMessage::shortened(unfitting, mostLines));
+    QMessageBox *box =
+        MvStudioMessage::information(m_window, tr("Der Kalender ist exportiert: %1").arg(what), printNotes());
     QPushButton *openFolder = box->addButton(tr("&Ordner öffnen"), QMessageBox::ActionRole);
     openFolder->setObjectName(u"openFolderButton"_s);
     connect(openFolder, &QPushButton::clicked, box,
             [folder] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); });
 }
 
-QStringList MvExportFlow::unfittingTexts() const
+/// What will not print well, for a person; empty when all does.
+QString MvExportFlow::printNotes() const
 {
-    const QLocale locale = MvApplicationLocale::instance().locale();
-    QStringList lines;
+    QStringList texts;
+    QStringList others;
     for (const int page : m_options.pages)
-        for (const MvUnfittingText &text : m_project->document().unfittingTexts(page))
-            lines.append(tr("%1: %2").arg(locale.toString(text.date, QLocale::ShortFormat), text.text.simplified()));
-    return lines;
+        for (const MvPrintNote &note : MvPrintNote::ofPage(m_project->document(), page))
+            (note.isAboutRoom() ? texts : others).append(note.toString());
+    QStringList parts;
+    if (!texts.isEmpty())
+        parts.append(tr("Diese Texte hatten keinen Platz und sind gekürzt:") + u'\n' +
+                     MvStudioMessage::shortened(texts, mostLines));
+    if (!others.isEmpty())
+        parts.append(tr("Sehen Sie vor dem Druck nach:") + u'\n' + MvStudioMessage::shortened(others, mostLines));
+    return parts.join(u"\n\n"_s);
 }

@@ -38,7 +38,7 @@ private:
     void run(const MvExportOptions &options);
     void finish(const MvExportResult &result);
     void tellDone(const MvExportResult &result);
-    QStringList unfittingTexts() const;
+    QString printNotes() const;
 
     MvProject *m_project;
     QWidget *m_window;

@@ -15,4 +15,5 @@ struct MvExportOptions
     QString target;   // absolute: the PDF, or the pattern for the files of the pictures
     QList<int> pages; // counted from 0
     int dpi = 300;    // of pictures
+    double bleed = 0; // tenths of a millimetre
 };

@@ -3,8 +3,11 @@
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCore/MvApplicationLocale.h"
+#include "MvCore/MvFileGuard.h"
+#include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
+#include "common/MvCalendarHabits.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvDocumentDialog.h"
@@ -64,6 +67,7 @@ MvCalendarDocument MvProjectFlow::firstDocument()
     MvCalendariumHolidayConfig holidays = document.holidayConfig();
     holidays.setProvince({}); // nobody has said where yet
     document.setHolidayConfig(holidays);
+    MvCalendarHabits::applyTo(document);
     document.setTitle(titleOf(document.range()));
     return document;
 }
@@ -129,7 +133,7 @@ void MvProjectFlow::openNow(const QString &path)
     QString error;
     const QFileInfo file(path);
     if (!m_project->open(file, &error)) {
-        MvStudioMessage::error(m_window, tr("Der Kalender lässt sich nicht öffnen."), error);
+        tellUnreadable(file, error);
         return;
     }
     MvStudioSettings::addRecentFile(path);
@@ -140,6 +144,31 @@ void MvProjectFlow::openNow(const QString &path)
         MvStudioMessage::information(m_window,
                                      tr("Nicht alles konnte so übernommen werden, wie es in der Datei steht."),
                                      MvStudioMessage::shortened(m_project->notes(), 10));
+    Q_EMIT opened();
+}
+
+/// The version before the last saving lies beside the file, as a rule.
+void MvProjectFlow::tellUnreadable(const QFileInfo &file, const QString &error)
+{
+    QMessageBox *box = MvStudioMessage::error(m_window, tr("Der Kalender lässt sich nicht öffnen."), error);
+    for (const QFileInfo &backup : MvSafeFileWriter::backups(file)) {
+        const MvProjectFile::Content content = MvProjectFile::read(backup);
+        if (!content.isRead())
+            continue;
+        const QString time =
+            MvApplicationLocale::instance().locale().toString(backup.lastModified(), QLocale::ShortFormat);
+        box->setInformativeText(error + u"\n\n"_s +
+                                tr("Eine frühere Fassung, vom %1, liegt daneben und ist unversehrt.").arg(time));
+        QPushButton *take = box->addButton(tr("&Frühere Fassung öffnen"), QMessageBox::AcceptRole);
+        take->setObjectName(u"openBackupButton"_s);
+        box->setDefaultButton(take);
+        connect(take, &QPushButton::clicked, this, [this, content, file] {
+            // saving replaces the damaged file, as long as nobody else mends it
+            m_project->openRecovered(content.document, file, QFileInfo(), MvFileGuard::stamp(file));
+            Q_EMIT opened();
+        });
+        return;
+    }
 }
 
 void MvProjectFlow::save()
@@ -238,11 +267,16 @@ void MvProjectFlow::write(const QString &path, const Then &then)
     const bool isSame = m_project->fileInfo().filePath() == path;
     const bool isWritten = isSame ? m_project->save(&error) : m_project->saveAs(QFileInfo(path), &error);
     if (!isWritten) {
-        MvStudioMessage::error(
+        QMessageBox *box = MvStudioMessage::error(
             m_window, tr("Der Kalender wurde nicht gespeichert."),
             tr("%1\nSpeichern Sie ihn unter einem anderen Namen oder in einem anderen Ordner.").arg(error));
+        QPushButton *other = box->addButton(tr("Speichern &unter …"), QMessageBox::AcceptRole);
+        other->setObjectName(u"saveElsewhereButton"_s);
+        box->setDefaultButton(other);
+        connect(other, &QPushButton::clicked, this, [this, then] { saveAsThen(then); });
         return;
     }
+    MvCalendarHabits::remember(m_project->document());
     MvStudioSettings::addRecentFile(path);
     MvStudioSettings::setFolder(projectFolder, QFileInfo(path).absolutePath());
     Q_EMIT recentFilesChanged();

@@ -8,6 +8,7 @@
 #include <functional>
 
 class MvProject;
+class QFileInfo;
 class QWidget;
 
 /// New, open, save: the questions and messages around the open project. Nothing here waits for an answer; what comes
@@ -48,9 +49,12 @@ public:
 Q_SIGNALS:
     void message(const QString &text);
     void recentFilesChanged();
+    /// A calendar of the user's was opened.
+    void opened();
 
 private:
     void openNow(const QString &path);
+    void tellUnreadable(const QFileInfo &file, const QString &error);
     void write(const QString &path, const Then &then);
     void askAboutOthersChanges(const Then &then);
 

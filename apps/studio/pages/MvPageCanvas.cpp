@@ -187,13 +187,23 @@ void MvPageCanvas::resizeEvent(QResizeEvent *event)
 
 void MvPageCanvas::wheelEvent(QWheelEvent *event)
 {
+    constexpr int anglePerStep = 120;
     if (!(event->modifiers() & Qt::ControlModifier)) {
-        QGraphicsView::wheelEvent(event);
+        if (verticalScrollBar()->maximum() > verticalScrollBar()->minimum()) {
+            QGraphicsView::wheelEvent(event);
+            return;
+        }
+        // nothing to scroll: on to the next page
+        if (event->phase() != Qt::ScrollMomentum)
+            m_wheelAngle += event->angleDelta().y();
+        const int pages = m_wheelAngle / anglePerStep;
+        m_wheelAngle -= pages * anglePerStep;
+        setCurrentPage(currentPage() - pages);
+        event->accept();
         return;
     }
     m_isFitted = false;
-    constexpr double anglePerStep = 120.0;
-    applyZoom(zoom() * std::pow(zoomStep, event->angleDelta().y() / anglePerStep), event->position());
+    applyZoom(zoom() * std::pow(zoomStep, double(event->angleDelta().y()) / anglePerStep), event->position());
     event->accept();
 }
 
@@ -475,8 +485,11 @@ bool MvPageCanvas::setFocusDate(const QDate &date)
 /// Where the keyboard begins when it is at no day: the first one of the page's month.
 bool MvPageCanvas::beginAtFirstDate()
 {
-    if (focusDate().isValid())
+    const QDate present = focusDate();
+    if (present.isValid() && m_item->cells()->cell(present)->hasKeyboardFocus())
         return false;
+    if (present.isValid() && setFocusDate(present)) // a click has left it there
+        return true;
     const QDate first = m_item->shownPage().contentConfig().date();
     return setFocusDate(first) || setFocusDate(m_item->dates().value(0));
 }

@@ -107,5 +107,6 @@ private:
     QPoint m_panFrom;
     bool m_isPanning = false;
     bool m_isSpaceDown = false;
+    int m_wheelAngle = 0; // of a wheel that turns pages, less than a step
     bool m_isFitted = true;
 };

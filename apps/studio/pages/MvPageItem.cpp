@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvFoto/MvFotoResolution.h"
 #include "MvFoto/MvFotoStock.h"
 #include "MvProject/MvProject.h"
 
@@ -31,6 +32,12 @@ QPoint takeWholePixels(QTransform *transform)
     const QPoint whole(int(std::floor(transform->dx())), int(std::floor(transform->dy())));
     *transform *= QTransform::fromTranslate(-whole.x(), -whole.y());
     return whole;
+}
+
+/// Photos that will be coarse in print are marked.
+MvRenderingRule screenRule()
+{
+    return MvRenderingRule(MvRenderingRule::InteractiveScreen | MvRenderingRule::ShowQualityWarnings);
 }
 
 QRect pixelsOf(const QTransform &transform, const QRectF &rect)
@@ -160,8 +167,7 @@ void MvPageItem::record()
     };
     const MvCalendarDocument &document = m_project->document();
     const MvFotoStock::Use use(*m_entryPhotos);
-    m_recording = m_shown.record(document.format(), document.range(), listen,
-                                 MvRenderingRule(MvRenderingRule::InteractiveScreen), m_pixelsPerUnit);
+    m_recording = m_shown.record(document.format(), document.range(), listen, screenRule(), m_pixelsPerUnit);
 }
 
 /// The manager keeps the cells of a month as long as its rectangle stays; another layout has other cells there.
@@ -250,6 +256,9 @@ void MvPageItem::paintPhoto(QPainter &painter) const
         return;
     }
     painter.drawImage(rect, image, frame.crop(image.size(), rect.size()));
+    const QSizeF seen = frame.crop(m_photos->fullSize(frame.path()), rect.size()).size();
+    screenRule().encodeInto(painter);
+    MvFotoResolution::paintWarning(painter, rect, MvFotoResolution::pixelsPerInch(seen, rect.size()));
 }
 
 /// In the photo's place while it is being decoded, or when there is none to be seen.

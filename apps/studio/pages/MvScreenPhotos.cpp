@@ -126,21 +126,22 @@ void MvScreenPhotos::startDecoding(const QString &path, const QSize &bounds)
 {
     m_states[path].decoding = bounds;
     const auto decodeAndHandOver = [this, path, bounds, givenUp = m_givenUp] {
-        const Stamp stamp = stampOf(path); // before: what changes while it is read is read again
-        const QImage image = *givenUp ? QImage() : decode(path, bounds);
+        const Decoded decoded = *givenUp ? Decoded() : decode(path, bounds);
         if (!*givenUp) // the destructor waits for this task, so that the object is still there
-            QMetaObject::invokeMethod(this, [this, path, bounds, stamp, image] { take(path, bounds, stamp, image); });
+            QMetaObject::invokeMethod(this, [this, path, bounds, decoded] { take(path, bounds, decoded); });
     };
     m_pool.start(decodeAndHandOver);
 }
 
-void MvScreenPhotos::take(const QString &path, const QSize &bounds, const Stamp &stamp, const QImage &image)
+void MvScreenPhotos::take(const QString &path, const QSize &bounds, const Decoded &decoded)
 {
     State &state = m_states[path];
     if (state.decoding != bounds)
         return; // a larger version is on its way, or the file is to be read again
     state.decoding = {};
-    state.stamp = stamp;
+    const QImage &image = decoded.image;
+    state.stamp = decoded.stamp;
+    state.full = decoded.full;
     state.unreadable = image.isNull();
     watchUnreadable();
     if (image.isNull()) {
@@ -152,15 +153,16 @@ void MvScreenPhotos::take(const QString &path, const QSize &bounds, const Stamp 
     Q_EMIT loaded(path);
 }
 
-QImage MvScreenPhotos::decode(const QString &path, const QSize &bounds)
+MvScreenPhotos::Decoded MvScreenPhotos::decode(const QString &path, const QSize &bounds)
 {
+    const Stamp stamp = stampOf(path); // before: what changes while it is read is read again
     MvImageLoader &loader = MvImageLoader::instance();
     const QFileInfo file(path);
     const QSize full = loader.size(file);
     if (full.isEmpty())
-        return {};
+        return {{}, {}, stamp};
     const QSize target = full.scaled(bounds, Qt::KeepAspectRatio).boundedTo(full);
     // kept here, and not a second time by the loader, whose room is for photos in print size
     const QImage image = loader.loadUncached(file, target);
-    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return {image.convertToFormat(QImage::Format_ARGB32_Premultiplied), full, stamp};
 }

@@ -34,6 +34,8 @@ public:
     /// The bounds for a photo that is to cover a frame (pixels), whatever its proportions within reason.
     static QSize boundsFor(const QRectF &frame);
 
+    /// What the file has, in pixels and upright; empty until it has been read.
+    QSize fullSize(const QString &path) const { return m_states.value(path).full; }
     /// True once a file has turned out not to be a photo that can be read, until it has changed.
     bool isUnreadable(const QString &path) const { return m_states.value(path).unreadable; }
     /// Reads all files again when they are asked for next.
@@ -58,16 +60,24 @@ private:
     {
         QSize decoding; // the bounds that are being decoded; empty when none are
         QSize decoded;  // the bounds that the kept image is good for
-        Stamp stamp; // of the file when it was read
+        QSize full;     // of the file
+        Stamp stamp;    // of the file when it was read
         bool unreadable = false;
     };
 
+    struct Decoded
+    {
+        QImage image; // null for a file that cannot be read
+        QSize full;
+        Stamp stamp;
+    };
+
     void startDecoding(const QString &path, const QSize &bounds);
-    void take(const QString &path, const QSize &bounds, const Stamp &stamp, const QImage &image);
+    void take(const QString &path, const QSize &bounds, const Decoded &decoded);
     void takeStamps(const QHash<QString, Stamp> &stamps);
     void watchUnreadable();
     static Stamp stampOf(const QString &path);
-    static QImage decode(const QString &path, const QSize &bounds);
+    static Decoded decode(const QString &path, const QSize &bounds);
 
     QCache<QString, QImage> m_images; // cost in kilobytes
     QHash<QString, State> m_states;

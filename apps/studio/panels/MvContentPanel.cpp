@@ -25,7 +25,8 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
           createFeatureBox(u"publicHolidaysOnly"_s, tr("Nur &gesetzliche Feiertage"), FEATURE_PUBLIC_HOLIDAYS_ONLY))
     , m_vacationNamesDaily(
           createFeatureBox(u"vacationNamesDaily"_s, tr("Fe&rien an jedem Tag nennen"), FEATURE_VACATION_NAMES_DAILY))
-    , m_vacationHint(new QLabel(tr("Schulferien hat jede Region für sich: Sie erscheinen, sobald eine gewählt ist."), this))
+    , m_vacationHint(
+          new QLabel(tr("Schulferien hat jede Region für sich: Sie erscheinen, sobald eine gewählt ist."), this))
     , m_setup(new MvPageSetupEditor(this))
 {
     setObjectName(u"contentPanel"_s);

@@ -112,7 +112,9 @@ void MvLayoutChooser::setLayoutId(const MvCalendariumLayoutSchemaID &id)
             continue;
         m_list->setCurrentRow(row);
         m_list->scrollToItem(m_list->item(row));
+        return;
     }
+    m_list->setCurrentRow(-1); // one that is not offered is none of these
 }
 
 MvCalendariumAppearance MvLayoutChooser::withLayout(const MvCalendariumAppearance &appearance,

@@ -42,8 +42,8 @@ QSize MvPagePanel::minimumSizeHint() const
     const QMargins margins = m_layout->contentsMargins();
     for (const auto *area : findChildren<QScrollArea *>()) {
         const int content = area->widget() ? area->widget()->minimumSizeHint().width() : 0;
-        size.setWidth(qMax(size.width(), content + area->verticalScrollBar()->sizeHint().width() + margins.left() +
-                                             margins.right()));
+        size.setWidth(qMax(size.width(),
+                           content + area->verticalScrollBar()->sizeHint().width() + margins.left() + margins.right()));
     }
     return size;
 }

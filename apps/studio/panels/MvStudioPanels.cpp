@@ -14,13 +14,41 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QWidget *createEntriesPanel(QWidget *parent)
+/// The calendar's page that shows the entry's day in one of its years; -1 for none.
+int pageOf(const MvCalendarDocument &document, const MvCalendarEvent &event)
+{
+    const QDate day = event.dateTime().date();
+    for (int page = 0; page < document.pages().size(); ++page) {
+        const MvDateRange months = document.pages().at(page).printedMonths();
+        for (QDate month = months.start(); month.isValid() && month <= months.end(); month = month.addMonths(1))
+            if (month.month() == day.month())
+                return page;
+    }
+    return -1;
+}
+
+/// Today, if the calendar has it, or else the first day of the current page.
+QDate dateOfNewEntries(const MvPageEdits &edits)
+{
+    const QDate today = QDate::currentDate();
+    return edits.document().range().contains(today) ? today : edits.page().contentConfig().moveToDayInMonth(1).date();
+}
+
+QWidget *createEntriesPanel(MvStudioPanels *panels, QWidget *parent)
 {
     auto *panel = new QWidget(parent);
     panel->setObjectName(u"entriesPanel"_s);
     auto *list = new MvCalendarEventListWidget(panel);
     list->layout()->setContentsMargins({}); // the panel has some
     (new QVBoxLayout(panel))->addWidget(list);
+    const MvPageEdits *edits = panels->edits();
+    const auto followPage = [list, edits] { list->setDateOfNewEntries(dateOfNewEntries(*edits)); };
+    QObject::connect(edits, &MvPageEdits::pageRefreshed, list, followPage);
+    followPage();
+    QObject::connect(list, &MvCalendarEventListWidget::eventClicked, panels, [panels](const MvCalendarEvent &event) {
+        if (const int page = pageOf(panels->edits()->document(), event); page >= 0)
+            Q_EMIT panels->pageRequested(page);
+    });
     return panel;
 }
 
@@ -36,7 +64,7 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent)
         {u"fontPanel"_s, tr("Schriften"), u"ico_studio_fonts"_s, new MvFontPanel(m_edits, parent)},
         {u"columnHeadersPanel"_s, tr("Spalten"), u"ico_studio_column_headers"_s,
          new MvColumnHeadersPanel(m_edits, parent)},
-        {u"entriesPanel"_s, tr("Einträge"), u"ico_studio_entries"_s, createEntriesPanel(parent)},
+        {u"entriesPanel"_s, tr("Einträge"), u"ico_studio_entries"_s, createEntriesPanel(this, parent)},
     };
 }
 

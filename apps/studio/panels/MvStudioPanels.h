@@ -28,6 +28,10 @@ public:
 public Q_SLOTS:
     void setCurrentPage(int page);
 
+Q_SIGNALS:
+    /// Somebody wants to see what is on another page.
+    void pageRequested(int page);
+
 private:
     MvPageEdits *m_edits;
     QList<MvStudioPanel> m_panels;

@@ -39,6 +39,36 @@ QString keysOf(const QAction *action)
     return keys.join(u", "_s);
 }
 
+/// What no action stands for.
+struct Keys
+{
+    QString what;
+    QString keys;
+    QString purpose;
+};
+
+QList<Keys> keysOfPage()
+{
+    return {
+        {MvHelpDialogs::tr("Tag"), MvHelpDialogs::tr("Pfeile"),
+         MvHelpDialogs::tr("Auf der Seite von Tag zu Tag gehen, am Rand zur nächsten Seite")},
+        {MvHelpDialogs::tr("Eintrag"), MvHelpDialogs::tr("Eingabe"),
+         MvHelpDialogs::tr("Für den Tag einen Eintrag anlegen oder ändern")},
+        {MvHelpDialogs::tr("Ausschnitt"), MvHelpDialogs::tr("Alt+Pfeile"),
+         MvHelpDialogs::tr("Den Ausschnitt des Fotos verschieben")},
+        {MvHelpDialogs::tr("Seiten"), MvHelpDialogs::tr("Bild auf, Bild ab, Pos1, Ende"),
+         MvHelpDialogs::tr("In den Seiten blättern; das Mausrad tut es auch")},
+        {MvHelpDialogs::tr("Zoom"), MvHelpDialogs::tr("Strg+Mausrad"),
+         MvHelpDialogs::tr("Die Seite größer oder kleiner zeigen")},
+        {MvHelpDialogs::tr("Hand"), MvHelpDialogs::tr("Leertaste"),
+         MvHelpDialogs::tr("Gedrückt halten und die Seite mit der Maus verschieben")},
+        {MvHelpDialogs::tr("Foto"), MvHelpDialogs::tr("Umschalt beim Ablegen"),
+         MvHelpDialogs::tr("Das Foto wird das der Seite, nicht das eines Tages")},
+        {MvHelpDialogs::tr("Abbruch"), MvHelpDialogs::tr("Esc"),
+         MvHelpDialogs::tr("Das Ziehen am Foto abbrechen, den Tag verlassen")},
+    };
+}
+
 } // namespace
 
 QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *parent)
@@ -60,6 +90,8 @@ QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *
             new QTreeWidgetItem(table, {action->text().remove(u'&').remove(u" …"_s), keys, action->statusTip()});
         row->setIcon(0, action->icon());
     }
+    for (const Keys &keys : keysOfPage())
+        new QTreeWidgetItem(table, {keys.what, keys.keys, keys.purpose});
     table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->header()->setStretchLastSection(true);
     auto *column = new QVBoxLayout(dialog);

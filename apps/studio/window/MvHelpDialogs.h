@@ -13,7 +13,7 @@ class MvHelpDialogs
     Q_DECLARE_TR_FUNCTIONS(MvHelpDialogs)
 
 public:
-    /// The actions that have shortcuts, as a table. Opened; deletes itself.
+    /// The actions that have shortcuts, and the keys of the page, as a table. Opened; deletes itself.
     static QDialog *openShortcuts(const QList<QAction *> &actions, QWidget *parent);
     static QDialog *openAbout(QWidget *parent);
 };

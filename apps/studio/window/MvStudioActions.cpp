@@ -3,6 +3,8 @@
 #include "MvGUIWidgets/MvIconRegistry.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QKeyEvent>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -41,6 +43,12 @@ QList<Row> fileRows()
         {A::ImportBirthdays, "importBirthdays", "import_contacts", QKeySequence(Qt::CTRL | Qt::Key_I),
          MvStudioActions::tr("&Geburtstage importieren …"),
          MvStudioActions::tr("Geburtstage aus einem Adressbuch (vCard) übernehmen")},
+        {A::FindPhotos,
+         "findPhotos",
+         "photo_add",
+         {},
+         MvStudioActions::tr("Feh&lende Fotos suchen …"),
+         MvStudioActions::tr("Fotos, die nicht mehr an ihrem Platz sind, in einem Ordner wiederfinden")},
         {A::Quit, "quit", "quit", QKeySequence(Qt::CTRL | Qt::Key_Q), MvStudioActions::tr("&Beenden"),
          MvStudioActions::tr("Das Programm beenden")},
         {A::Settings, "settings", "settings", QKeySequence(Qt::CTRL | Qt::Key_Comma),
@@ -125,9 +133,29 @@ MvStudioActions::MvStudioActions(QWidget *parent)
         m_actions.insert(row.id, action);
         m_inOrder.append(action);
     }
+    qApp->installEventFilter(this);
     m_actions.value(Quit)->setMenuRole(QAction::QuitRole);
     m_actions.value(About)->setMenuRole(QAction::AboutRole);
     m_actions.value(Settings)->setMenuRole(QAction::PreferencesRole);
     m_actions.value(FullScreen)->setCheckable(true);
     m_actions.value(Welcome)->setCheckable(true);
+}
+
+bool MvStudioActions::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (event->type() != QEvent::ShortcutOverride || widget == nullptr || widget->window() != parent())
+        return false;
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const bool isLetter = key->key() >= Qt::Key_A && key->key() <= Qt::Key_Z;
+    if (!isLetter || !(key->modifiers() & Qt::ControlModifier))
+        return false;
+    const QKeySequence keys(key->keyCombination());
+    for (const QAction *action : m_inOrder) {
+        if (action->isEnabled() && action->shortcuts().contains(keys)) {
+            event->ignore(); // no key of the widget's own
+            return true;
+        }
+    }
+    return false;
 }

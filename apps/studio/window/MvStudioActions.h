@@ -20,6 +20,7 @@ public:
         ExportPdf,
         ExportPng,
         Print,
+        FindPhotos,
         ImportBirthdays,
         Quit,
         Layout,
@@ -47,6 +48,9 @@ public:
     QAction *action(Id id) const { return m_actions.value(id); }
     /// In the order of the menus.
     QList<QAction *> actions() const { return m_inOrder; }
+
+    /// Sees to it that the letters of shortcuts reach them: text fields would take some for keys of their own.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QHash<int, QAction *> m_actions;

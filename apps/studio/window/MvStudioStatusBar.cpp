@@ -1,6 +1,5 @@
 #include "window/MvStudioStatusBar.h"
 
-#include "MvCore/MvApplicationLocale.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 
 #include <QComboBox>
@@ -10,6 +9,7 @@
 #include <QRegularExpression>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostMenuEntries = 30;
-constexpr int longestMenuText = 60;
 
 } // namespace
 
@@ -43,7 +42,6 @@ MvStudioStatusBar::MvStudioStatusBar(QWidget *parent)
     m_unfitting->setAutoRaise(true);
     m_unfitting->setPopupMode(QToolButton::InstantPopup);
     m_unfitting->setFocusPolicy(Qt::TabFocus);
-    m_unfitting->setToolTip(tr("Diese Texte mussten gekürzt werden, weil ihr Tag zu wenig Platz hat"));
     auto *menu = new QMenu(m_unfitting);
     menu->setObjectName(u"unfittingMenu"_s);
     m_unfitting->setMenu(menu);
@@ -96,7 +94,13 @@ void MvStudioStatusBar::setZoom(double zoom, bool isFitted)
 void MvStudioStatusBar::setUnfitting(const QList<MvUnfittingWatch::Entry> &entries)
 {
     m_entries = entries;
-    m_unfitting->setText(tr("%n Texte ohne Platz", nullptr, int(entries.size())));
+    const bool areTexts = std::all_of(entries.begin(), entries.end(),
+                                      [](const MvUnfittingWatch::Entry &entry) { return entry.isAboutRoom(); });
+    const int count = int(entries.size());
+    m_unfitting->setText(areTexts ? tr("%n Texte ohne Platz", nullptr, count)
+                                  : tr("%n Hinweise zum Druck", nullptr, count));
+    m_unfitting->setToolTip(areTexts ? tr("Diese Texte mussten gekürzt werden, weil ihr Tag zu wenig Platz hat")
+                                     : tr("Texte ohne Platz, fehlende Zeichen und Fotos mit zu wenigen Bildpunkten"));
     m_unfitting->setAccessibleName(m_unfitting->text());
     m_unfitting->setVisible(!entries.isEmpty());
 }
@@ -124,14 +128,8 @@ void MvStudioStatusBar::fillMenu()
 {
     QMenu *menu = m_unfitting->menu();
     menu->clear();
-    const QLocale locale = MvApplicationLocale::instance().locale();
     for (const MvUnfittingWatch::Entry &entry : m_entries.mid(0, mostMenuEntries)) {
-        QString text = entry.text.text.simplified();
-        if (text.size() > longestMenuText)
-            text = text.left(longestMenuText) + u'…';
-        text.replace(u'&', u"&&"_s);
-        QAction *action =
-            menu->addAction(tr("%1: %2").arg(locale.toString(entry.text.date, QLocale::ShortFormat), text));
+        QAction *action = menu->addAction(entry.toString().replace(u'&', u"&&"_s));
         connect(action, &QAction::triggered, this, [this, page = entry.page] { Q_EMIT pageRequested(page); });
     }
     if (m_entries.size() > mostMenuEntries)

@@ -8,7 +8,7 @@ class QComboBox;
 class QLabel;
 class QToolButton;
 
-/// Messages at the left; at the right trouble with the entries, the texts without room, the shown page and its zoom.
+/// Messages at the left; at the right trouble with the entries, what will not print well, the shown page and its zoom.
 class MvStudioStatusBar : public QStatusBar
 {
     Q_OBJECT

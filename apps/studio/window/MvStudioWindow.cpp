@@ -4,11 +4,13 @@
 #include "MvCore/MvProactiveHelpController.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvProject/MvProject.h"
+#include "common/MvCalendarHabits.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvDocumentDialog.h"
 #include "flows/MvEntriesFlow.h"
 #include "flows/MvExportFlow.h"
+#include "flows/MvMissingPhotos.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvProjectFlow.h"
 #include "pages/MvPageCanvas.h"
@@ -33,6 +35,8 @@
 #include <QTabBar>
 #include <QToolBar>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -64,6 +68,7 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     , m_flow(new MvProjectFlow(project, this))
     , m_export(new MvExportFlow(project, this))
     , m_print(new MvPrintFlow(project, this))
+    , m_missingPhotos(new MvMissingPhotos(project, this))
     , m_import(new MvBirthdayImport(this))
     , m_entries(new MvEntriesFlow(this))
     , m_unfitting(new MvUnfittingWatch(project, this))
@@ -168,7 +173,9 @@ void MvStudioWindow::createMenus()
     file->addSeparator();
     file->addActions({action(A::Save), action(A::SaveAs)});
     file->addSeparator();
-    file->addActions({action(A::ImportBirthdays), action(A::ExportPdf), action(A::ExportPng), action(A::Print)});
+    file->addActions({action(A::ImportBirthdays), action(A::FindPhotos)});
+    file->addSeparator();
+    file->addActions({action(A::ExportPdf), action(A::ExportPng), action(A::Print)});
     file->addSeparator();
     file->addAction(action(A::Quit));
 
@@ -230,6 +237,7 @@ void MvStudioWindow::connectActions()
     on(A::ExportPng, m_export, &MvExportFlow::startPng);
     on(A::Print, m_print, &MvPrintFlow::start);
     on(A::ImportBirthdays, m_import, &MvBirthdayImport::start);
+    on(A::FindPhotos, m_missingPhotos, &MvMissingPhotos::search);
     on(A::Quit, this, &QWidget::close);
     on(A::Settings, this, &MvStudioWindow::showSettings);
     on(A::ZoomIn, m_canvas, &MvPageCanvas::zoomIn);
@@ -254,6 +262,9 @@ void MvStudioWindow::connectActions()
     connect(m_welcome, &MvWelcomePanel::layoutRequested, this, &MvStudioWindow::chooseLayout);
     connect(m_welcome, &MvWelcomePanel::importRequested, m_import, &MvBirthdayImport::start);
     connect(m_welcome, &MvWelcomePanel::openRequested, m_flow, &MvProjectFlow::askAndOpen);
+    connect(m_welcome, &MvWelcomePanel::recentRequested, m_flow, &MvProjectFlow::open);
+    connect(m_flow, &MvProjectFlow::opened, this, &MvStudioWindow::onOpened);
+    connect(m_missingPhotos, &MvMissingPhotos::message, this, &MvStudioWindow::showMessage);
     connect(m_welcome, &MvWelcomePanel::closeRequested, this, [this] { setWelcomeShown(false); });
     connect(m_print, &MvPrintFlow::pdfRequested, m_export, &MvExportFlow::startPdf);
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MvStudioWindow::fillRecentMenu);
@@ -273,6 +284,7 @@ void MvStudioWindow::connectPages()
     connect(m_canvas, &MvPageCanvas::currentPageChanged, this, &MvStudioWindow::updatePage);
     connect(m_canvas, &MvPageCanvas::zoomChanged, this,
             [this](double zoom) { m_statusBar->setZoom(zoom, m_canvas->isFitted()); });
+    connect(m_panels, &MvStudioPanels::pageRequested, this, &MvStudioWindow::setCurrentPage);
     connect(m_strip, &MvPageStrip::pageActivated, m_canvas, &MvPageCanvas::setCurrentPage);
     connect(m_entries, &MvEntriesFlow::noticeChanged, m_statusBar, &MvStudioStatusBar::setEntriesNotice);
     connect(m_entries, &MvEntriesFlow::message, this, &MvStudioWindow::showMessage);
@@ -414,6 +426,10 @@ void MvStudioWindow::showSettings()
 void MvStudioWindow::setWelcomeShown(bool shown)
 {
     m_welcome->setVisible(shown);
+    const QStringList recent = MvStudioSettings::recentFiles();
+    const auto there =
+        std::find_if(recent.begin(), recent.end(), [](const QString &p) { return QFileInfo::exists(p); });
+    m_welcome->setRecentFile(there != recent.end() ? *there : QString());
     m_actions->action(MvStudioActions::Welcome)->setChecked(shown);
     if (shown != MvStudioSettings::isWelcomeShown())
         MvStudioSettings::setWelcomeShown(shown);
@@ -421,8 +437,25 @@ void MvStudioWindow::setWelcomeShown(bool shown)
         m_canvas->setFocus();
 }
 
+/// The first steps are behind somebody who opens a calendar; the next start shows them again.
+void MvStudioWindow::onOpened()
+{
+    m_welcome->hide();
+    m_actions->action(MvStudioActions::Welcome)->setChecked(false);
+    m_canvas->setFocus();
+    m_missingPhotos->look();
+}
+
+void MvStudioWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) // be it by the window manager
+        m_actions->action(MvStudioActions::FullScreen)->setChecked(isFullScreen());
+}
+
 void MvStudioWindow::rememberWindow() const
 {
+    MvCalendarHabits::remember(m_project->document());
     MvStudioSettings::setWindow(saveGeometry(), saveState(stateVersion));
 }
 

@@ -5,6 +5,7 @@
 class MvBirthdayImport;
 class MvEntriesFlow;
 class MvExportFlow;
+class MvMissingPhotos;
 class MvPageCanvas;
 class MvPageStrip;
 class MvPrintFlow;
@@ -42,6 +43,7 @@ Q_SIGNALS:
     void themeChanged();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -63,6 +65,7 @@ private:
     void chooseLayout();
     void changePageSetup();
     void showSettings();
+    void onOpened();
     void setWelcomeShown(bool shown);
     QString pageTitle(int page) const;
     void rememberWindow() const;
@@ -73,6 +76,7 @@ private:
     MvProjectFlow *m_flow;
     MvExportFlow *m_export;
     MvPrintFlow *m_print;
+    MvMissingPhotos *m_missingPhotos;
     MvBirthdayImport *m_import;
     MvEntriesFlow *m_entries;
     MvUnfittingWatch *m_unfitting;

@@ -33,9 +33,8 @@ MvUnfittingWatch::MvUnfittingWatch(MvProject *project, QObject *parent)
 QList<MvUnfittingWatch::Entry> MvUnfittingWatch::entries() const
 {
     QList<Entry> entries;
-    for (int page = 0; page < m_pages.size(); ++page)
-        for (const MvUnfittingText &text : m_pages.at(page).texts)
-            entries.append({page, text});
+    for (const Page &page : m_pages)
+        entries += page.notes;
     return entries;
 }
 
@@ -66,10 +65,10 @@ void MvUnfittingWatch::timerEvent(QTimerEvent *event)
     if (due != m_pages.end()) {
         const int page = int(due - m_pages.begin());
         const MvFotoStock::Use use(*m_entryPhotos, page); // what is missing gives the texts too much room: see again
-        const QList<MvUnfittingText> texts = m_project->document().unfittingTexts(page);
+        const QList<Entry> notes = MvPrintNote::ofPage(m_project->document(), page);
         due->isDue = false;
-        m_hasNews = m_hasNews || texts != due->texts;
-        due->texts = texts;
+        m_hasNews = m_hasNews || notes != due->notes;
+        due->notes = notes;
     }
     if (!isComplete()) {
         m_timer.start(0, this); // the next page, after whatever waits

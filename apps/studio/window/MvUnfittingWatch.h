@@ -1,6 +1,6 @@
 #pragma once
 
-#include "MvCalendar/MvUnfittingText.h"
+#include "common/MvPrintNote.h"
 
 #include <QBasicTimer>
 #include <QList>
@@ -9,20 +9,15 @@
 class MvFotoStock;
 class MvProject;
 
-/// Knows which texts have no room on the pages of the open project. It looks at one page at a time, when the program
-/// has nothing else to do, a while after the last change.
+/// Knows what will not print well on the pages of the open project: texts without room, characters that no font has,
+/// photos of too low resolution. It looks at one page at a time, when the program has nothing else to do, a while after
+/// the last change.
 class MvUnfittingWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    struct Entry
-    {
-        int page = 0;
-        MvUnfittingText text;
-
-        bool operator==(const Entry &) const = default;
-    };
+    using Entry = MvPrintNote;
 
     /// The project is not owned and must outlive the watch.
     explicit MvUnfittingWatch(MvProject *project, QObject *parent = nullptr);
@@ -41,7 +36,7 @@ protected:
 private:
     struct Page
     {
-        QList<MvUnfittingText> texts;
+        QList<Entry> notes;
         bool isDue = true;
     };
 

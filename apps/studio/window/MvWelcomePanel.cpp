@@ -1,7 +1,10 @@
 #include "window/MvWelcomePanel.h"
 
 #include "MvGUIWidgets/MvIconRegistry.h"
+#include "MvModelBase/MvPrintableText.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -43,6 +46,9 @@ MvWelcomePanel::MvWelcomePanel(QWidget *parent)
                                tr("Geburtstage aus einem Adressbuch (vCard) übernehmen"), this);
     auto *open = createWay(u"welcomeOpen"_s, u"ico_studio_document_open"_s, tr("Datei ö&ffnen"),
                            tr("Einen gespeicherten Kalender öffnen"), this);
+    m_recent = createWay(u"welcomeRecent"_s, u"ico_studio_recent"_s, QString(), QString(), this);
+    m_recent->hide();
+    connect(m_recent, &QPushButton::clicked, this, [this] { Q_EMIT recentRequested(m_recentPath); });
     auto *close = new QToolButton(this);
     close->setObjectName(u"welcomeClose"_s);
     close->setAccessibleName(tr("Erste Schritte schließen"));
@@ -52,7 +58,7 @@ MvWelcomePanel::MvWelcomePanel(QWidget *parent)
     close->setFocusPolicy(Qt::StrongFocus);
 
     auto *ways = new QHBoxLayout;
-    for (QPushButton *button : {layouts, contacts, open})
+    for (QPushButton *button : {m_recent, layouts, contacts, open})
         ways->addWidget(button);
     ways->addStretch();
     auto *column = new QVBoxLayout;
@@ -66,4 +72,15 @@ MvWelcomePanel::MvWelcomePanel(QWidget *parent)
     connect(contacts, &QPushButton::clicked, this, &MvWelcomePanel::importRequested);
     connect(open, &QPushButton::clicked, this, &MvWelcomePanel::openRequested);
     connect(close, &QToolButton::clicked, this, &MvWelcomePanel::closeRequested);
+}
+
+void MvWelcomePanel::setRecentFile(const QString &path)
+{
+    constexpr int longestName = 30;
+    m_recentPath = path;
+    m_recent->setVisible(!path.isEmpty());
+    QString name = MvPrintableText::inShort(QFileInfo(path).completeBaseName(), longestName);
+    m_recent->setText(tr("„%1“ öffnen").arg(name.replace(u'&', u"&&"_s)));
+    m_recent->setToolTip(QDir::toNativeSeparators(path));
+    m_recent->setStatusTip(tr("Mit dem letzten Kalender weitermachen"));
 }

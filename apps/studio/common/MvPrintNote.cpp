@@ -1,0 +1,44 @@
+#include "common/MvPrintNote.h"
+
+#include "MvCore/MvApplicationLocale.h"
+#include "MvModelBase/MvPrintableText.h"
+#include "MvProject/MvCalendarDocument.h"
+
+#include <QFileInfo>
+
+#include <cmath>
+
+namespace {
+
+constexpr int longestName = 60;
+
+} // namespace
+
+QString MvPrintNote::toString() const
+{
+    const QDate date = isPhoto() ? photo.date : text.date;
+    const QString place = date.isValid() ? MvApplicationLocale::instance().locale().toString(date, QLocale::ShortFormat)
+                                         : tr("Seite %1").arg(page + 1);
+    if (isPhoto())
+        return tr("%1: Foto „%2“ druckt grob, mit nur %3 Bildpunkten je Zoll")
+            .arg(place, MvPrintableText::inShort(QFileInfo(photo.path).fileName(), longestName))
+            .arg(std::lround(photo.pixelsPerInch));
+    const QString name = MvPrintableText::inShort(text.text, longestName);
+    return isAboutRoom() ? tr("%1: %2").arg(place, name)
+                         : tr("%1: „%2“ – keine Schrift hat %3").arg(place, name, text.missingGlyphs);
+}
+
+QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int page)
+{
+    QList<MvPrintNote> notes;
+    if (page < 0 || page >= document.pages().size())
+        return notes;
+    for (const MvUnfittingText &text : document.unfittingTexts(page))
+        notes.append({page, text, {}});
+    for (const MvPrintedPhoto &photo :
+         MvPrintedPhoto::ofPage(document.pages().at(page), document.format(), document.range())) {
+        if (photo.grade() == MvFotoResolution::Grade::Poor)
+            notes.append({page, {}, photo});
+    }
+    return notes;
+}

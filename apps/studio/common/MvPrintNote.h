@@ -1,0 +1,32 @@
+#pragma once
+
+#include "MvCalendar/MvUnfittingText.h"
+#include "MvProject/MvPrintedPhoto.h"
+
+#include <QCoreApplication>
+#include <QList>
+
+class MvCalendarDocument;
+
+/// Something that will not print well: a text without room or with characters that no font has, or a photo of too low
+/// resolution; never both.
+struct MvPrintNote
+{
+    Q_DECLARE_TR_FUNCTIONS(MvPrintNote)
+
+public:
+    int page = 0; // counted from 0
+    MvUnfittingText text;
+    MvPrintedPhoto photo;
+
+    bool isPhoto() const { return !photo.path.isEmpty(); }
+    /// It is room that a text lacks.
+    bool isAboutRoom() const { return !isPhoto() && text.missingGlyphs.isEmpty(); }
+    /// For a person, on one line: "14.05.27: Name".
+    QString toString() const;
+
+    /// Those of a page, texts first. GUI thread.
+    static QList<MvPrintNote> ofPage(const MvCalendarDocument &document, int page);
+
+    bool operator==(const MvPrintNote &) const = default;
+};

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QThreadPool>
+
+#include <atomic>
+#include <memory>
+
+class MvProject;
+class QWidget;
+
+/// Photos of an opened project that are not where it says: tells them once, and finds them again in a folder that the
+/// person shows, all at once, by their names.
+class MvMissingPhotos : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The project is not owned. The window is the parent of all dialogs.
+    MvMissingPhotos(MvProject *project, QWidget *window);
+    /// Waits until a search has noticed that nobody wants it any more.
+    ~MvMissingPhotos() override;
+
+    /// The files of these names below the folder, by the path that is missing. Of files of one name the one whose
+    /// folders are most like the missing one's; a name in other letters, large or small, is better than none.
+    static QHash<QString, QString> find(const QStringList &missing, const QString &folder,
+                                        const std::atomic_bool &isGivenUp);
+
+public Q_SLOTS:
+    /// Tells of what is missing; nothing happens when nothing is.
+    void look();
+    /// The same, and says so when nothing is.
+    void search();
+
+Q_SIGNALS:
+    void message(const QString &text);
+
+private:
+    void chooseFolder();
+    void searchIn(const QString &folder);
+    void take(const QHash<QString, QString> &found, int missing);
+
+    MvProject *m_project;
+    QWidget *m_window;
+    std::shared_ptr<std::atomic_bool> m_isGivenUp;
+    QThreadPool m_pool;
+};
