@@ -95,7 +95,7 @@ MvCalendariumAppearance appearanceOf(const MvPageChoice &choice, const QString &
 
 } // namespace
 
-MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family)
+MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family, double pixelsPerUnit)
     : m_choice(choice)
     , m_format(formatOf(choice.paper))
 {
@@ -110,14 +110,16 @@ MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family)
         m_page.setPhotoFrame(photo);
     }
     items = m_page
-                .record(m_format, range(),
-                        [this](MvCalendariumRenderer &renderer) {
-                            expect(renderer);
-                            QObject::connect(&renderer, &MvCalendariumRenderer::rectForDateFound,
-                                             [this](const QDate &date, const QRectF &rect) {
-                                                 days.append({date, rect});
-                                             });
-                        })
+                .record(
+                    m_format, range(),
+                    [this](MvCalendariumRenderer &renderer) {
+                        expect(renderer);
+                        QObject::connect(&renderer, &MvCalendariumRenderer::rectForDateFound,
+                                         [this](const QDate &date, const QRectF &rect) {
+                                             days.append({date, rect});
+                                         });
+                    },
+                    MvRenderingRule(MvRenderingRule::InteractiveScreen), pixelsPerUnit)
                 .items();
     unfitting = m_page.unfittingTexts(m_format, range());
     measureFloors();

@@ -16,8 +16,8 @@ class MvCalendariumRenderer;
 class MvPrintedPage
 {
 public:
-    /// The family of all fonts; empty for those of the layouts.
-    MvPrintedPage(const MvPageChoice &choice, const QString &family);
+    /// The family of all fonts; empty for those of the layouts. Photos of entries are recorded for that resolution.
+    MvPrintedPage(const MvPageChoice &choice, const QString &family, double pixelsPerUnit = 1.0);
 
     const MvPageChoice &choice() const { return m_choice; }
     const MvPageFormat &format() const { return m_format; }

@@ -122,7 +122,7 @@ void tst_PagePixels::agreeWithReports()
     std::unique_ptr<MvPrintedPage> page; // until there is one with texts
     QList<MvPrintedPage::Day> days;
     while (days.isEmpty()) {
-        page = std::make_unique<MvPrintedPage>(drawnLot(random), QString());
+        page = std::make_unique<MvPrintedPage>(drawnLot(random), QString(), pixelsPerUnit);
         for (const MvPrintedPage::Day &day : std::as_const(page->days)) {
             if (!page->dayTexts.value(day.date).isEmpty() && !day.rect.isEmpty())
                 days.append(day);
