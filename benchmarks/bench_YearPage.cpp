@@ -1,6 +1,6 @@
 // What a page of a year costs beside a page of a month: layout and painting on A4 at 300 dpi with 500 entries in the
 // year. Month, year grid and planner are painted in turns within one run; the ratios are those to the month page. And
-// what a name costs that nobody could print.
+// what a name costs that nobody could print, and more entries than a block of holidays has room for.
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumAppearance.h"
@@ -26,10 +26,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double scale = 300.0 / 254.0;
-constexpr int entryCount = 500;
+constexpr int fewEntries = 500;
 const QRectF calendarium(100, 100, 2770, 1900);
 
-void fillRegistry()
+void fillRegistry(int entryCount = fewEntries)
 {
     const QStringList names{u"Geburtstag Oma Gerda"_s, u"Max"_s, u"Zahnarzt"_s, u"Hochzeitstag"_s,
                             u"Großtante Wilhelmine"_s};
@@ -42,7 +42,7 @@ void fillRegistry()
     MvCalendarEventRegistry::instance().setEvents(entries);
 }
 
-std::unique_ptr<MvCalendariumRenderer> makeRenderer(const QString &layout)
+std::unique_ptr<MvCalendariumRenderer> makeRenderer(const QString &layout, int month = 5)
 {
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
@@ -51,7 +51,7 @@ std::unique_ptr<MvCalendariumRenderer> makeRenderer(const QString &layout)
     std::unique_ptr<MvCalendariumRenderer> renderer(
         MvCalendariumRendererFactory::instance().createRenderer(appearance));
     const MvCalendariumHolidayConfig holidays(MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 4 | 8 | 64));
-    renderer->setCalendarInformation(MvCalendariumContentConfig(QDate(2027, 5, 1), holidays),
+    renderer->setCalendarInformation(MvCalendariumContentConfig(QDate(2027, month, 1), holidays),
                                      MvDateRange(QDate(2027, 1, 1), QDate(2027, 12, 31)));
     renderer->setProductSize(MAGNITUDE_A4);
     renderer->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
@@ -126,6 +126,31 @@ void LongName(benchmark::State &state, const QString &layout)
     fillRegistry();
 }
 
+/// The year's twelve blocks of holidays beside its twelve month grids, with nothing shaped before.
+void HolidayBlocks(benchmark::State &state)
+{
+    using Clock = std::chrono::steady_clock;
+    fillRegistry(int(state.range(0)));
+    const std::array layouts{u"MONTH_GRID_CLASSIC"_s, u"HOLIDAY_BLOCK"_s};
+    std::array<std::chrono::duration<double, std::milli>, 2> times{};
+    MvPaintRecorder recorder(nullptr);
+    for (auto _ : state) {
+        for (size_t i = 0; i < layouts.size(); ++i) {
+            MvTextOutlineCache::instance().clear();
+            const auto start = Clock::now();
+            for (int month = 1; month <= 12; ++month) {
+                QPainter painter(&recorder);
+                makeRenderer(layouts[i], month)->render(painter, calendarium);
+            }
+            times[i] += Clock::now() - start;
+        }
+    }
+    state.counters["grids_ms"] = times[0].count() / double(state.iterations());
+    state.counters["blocks_ratio"] = times[1] / times[0];
+    fillRegistry();
+}
+
+BENCHMARK(HolidayBlocks)->Arg(500)->Arg(2000)->Arg(8000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(LongName, month, u"MONTH_GRID_CLASSIC"_s)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(LongName, planner, u"YEAR_PLANNER"_s)->Unit(benchmark::kMillisecond);
 BENCHMARK(YearPagePass)->Unit(benchmark::kMillisecond);

@@ -18,6 +18,11 @@ constexpr QChar ellipsis(u'…');
 constexpr qsizetype firstLook = 128;    // code units of a text that are measured before the rest is looked at
 constexpr qsizetype longestRest = 2000; // of texts that run on: more than a line of the largest sheet has room for
 
+// A line that is so many times as wide as its type is high has many words. It is shaped as a whole only where the sum
+// of its words comes so near to its width that the kerning at the blanks may decide.
+constexpr int manyWords = 20;
+constexpr double nearness = 0.1;
+
 /// The words of a text, taken one by one from its start.
 class Words
 {
@@ -98,6 +103,7 @@ QStringList MvLineBreaker::lines(const QStringList &texts)
 {
     m_lines.clear();
     m_line.clear();
+    m_sumOfWords = 0.0;
     m_cut.clear();
     m_rest = Rest();
     for (m_index = 0; m_index < texts.size(); ++m_index) {
@@ -188,13 +194,27 @@ void MvLineBreaker::endLine()
     if (!m_line.isEmpty() && !isFull())
         m_lines.append(MvHyphenator::withoutSoftHyphens(m_line));
     m_line.clear();
+    m_sumOfWords = 0.0;
+}
+
+/// Whether the line with this word, which is the candidate, is narrow enough.
+bool MvLineBreaker::hasRoomInLine(const QString &candidate, const QString &word)
+{
+    if (m_maxWidth > manyWords * m_font.pixelSize() && word.size() <= firstLook) {
+        m_sumOfWords += advance(m_font, u' ' + word);
+        if (m_sumOfWords < m_maxWidth * (1.0 - nearness))
+            return true;
+        if (m_sumOfWords > m_maxWidth * (1.0 + nearness))
+            return false;
+    }
+    return !isTooWide(m_maxWidth, m_font, candidate);
 }
 
 void MvLineBreaker::addWord(QString word)
 {
     while (!isFull()) {
         const QString candidate = joined(m_line, word);
-        if (!isTooWide(m_maxWidth, m_font, candidate)) {
+        if (hasRoomInLine(candidate, word)) {
             m_line = candidate;
             return;
         }

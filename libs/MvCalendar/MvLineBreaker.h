@@ -62,6 +62,7 @@ private:
     };
 
     void addWord(QString word);
+    bool hasRoomInLine(const QString &candidate, const QString &word);
     bool divide(QString *word);
     void endLine();
     bool isFull() const { return m_lines.size() >= m_mostLines; }
@@ -80,8 +81,9 @@ private:
 
     QStringList m_lines;
     QString m_line;
-    QString m_restOfWord;  // that had no line
-    qsizetype m_index = 0; // of the text that is being broken
+    double m_sumOfWords = 0.0; // of the line, in lines of many words
+    QString m_restOfWord;      // that had no line
+    qsizetype m_index = 0;     // of the text that is being broken
     Rest m_rest;
     QList<qsizetype> m_cut;
 };

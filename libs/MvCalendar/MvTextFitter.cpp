@@ -7,12 +7,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <numeric>
 #include <optional>
 
 namespace {
 
 constexpr double pageDpi = 254.0; // a pixel of the page is a tenth of a millimetre
 constexpr double stepPoints = 0.5;
+constexpr double leastGrowth = 0.9;    // of a text's width by its size: advances are rounded in each size
 constexpr double roundingSlack = 0.01; // of a line's height: rooms are often computed from it
 
 int lineCount(double height, const QFont &font)
@@ -27,6 +30,13 @@ QFont resized(const QFont &font, int pixelSize)
         smaller.setLetterSpacing(QFont::AbsoluteSpacing, font.letterSpacing() * pixelSize / font.pixelSize());
     smaller.setPixelSize(pixelSize);
     return smaller;
+}
+
+/// The width of all the lines together.
+double totalAdvance(const QFont &font, const QStringList &lines)
+{
+    return std::transform_reduce(lines.cbegin(), lines.cend(), 0.0, std::plus(),
+                                 [&font](const QString &line) { return MvLineBreaker::advance(font, line); });
 }
 
 } // namespace
@@ -74,9 +84,15 @@ MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, con
     if (const auto asItIs = lines(m_font, MvLineBreaker::NoWords))
         return {m_font, *asItIs, false, {}};
     const QList<QFont> fonts = sizes();
-    if (!lines(fonts.constLast(), MvLineBreaker::AllWords)) // no size between will do
+    const QFont &smallest = fonts.constLast();
+    const auto atLeast = lines(smallest, MvLineBreaker::AllWords);
+    if (!atLeast) // no size between will do
         return cut(room, texts, separator, widestWord);
+    const double smallestWidth = totalAdvance(smallest, *atLeast);
     for (const QFont &font : fonts) {
+        const double leastWidth = leastGrowth * smallestWidth * font.pixelSize() / smallest.pixelSize();
+        if (leastWidth > lineCount(room.height(), font) * double(widestWord))
+            continue; // more text than the room's area
         const auto filled = lines(font, MvLineBreaker::AllWords);
         if (!filled)
             continue;

@@ -41,6 +41,8 @@ void tst_MvTextFitter::fits_data()
     };
     row("stays as it is", twoLines, {u"Pfingstmontag"_s, u"Oma"_s}, 20, {u"Pfingstmontag"_s, u"Oma"_s});
     row("wraps", twoLines, {u"am Pfingstmontag"_s}, 20, {u"am"_s, u"Pfingstmontag"_s});
+    const QString twelve = u"Oma "_s.repeated(12).trimmed();
+    row("a line of many words", {500, 40}, {twelve + u" Oma"_s}, 20, {twelve, u"Oma"_s});
     row("divides the word that no line holds", {100, 60}, {u"am Pfingstmontag"_s}, 20,
         {u"am"_s, u"Pfingst-"_s, u"montag"_s});
     row("divides others where lines are scarce", {110, 40}, {u"am Pfingstmontag"_s}, 20,
