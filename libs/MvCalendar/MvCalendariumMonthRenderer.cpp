@@ -4,13 +4,11 @@
 #include "MvCalendar/MvCalendariumTextPainter.h"
 #include "MvCalendar/MvTextFitter.h"
 #include "MvCalendar/MvWeekdayHeads.h"
-#include "MvModelBase/MvTextOutlineCache.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -21,8 +19,6 @@ constexpr int monthsPerYear = 12;
 const QString titleBlanks = u" "_s;
 constexpr double textGap = 0.25; // between two texts side by side, in parts of their size
 constexpr double lineAir = 1.0;  // between a text and the lines of its cell
-const QString widestNumber = u"28"_s;
-constexpr double numberGap = 0.3; // between the numbers of two columns, of the size of type
 
 } // namespace
 
@@ -33,13 +29,6 @@ double MvCalendariumMonthRenderer::plannedHeight(const MvCalendarCellType &type,
 }
 
 // ---- the month
-
-double MvCalendariumMonthRenderer::leastNumberWidth() const
-{
-    QFont smallest = font(CALENDAR_CELL_TYPE_WEEKDAY);
-    smallest.setPixelSize(static_cast<int>(std::ceil(smallestPixelSize(CALENDAR_CELL_TYPE_WEEKDAY))));
-    return MvTextOutlineCache::instance().advance(smallest, widestNumber) + numberGap * smallest.pixelSize();
-}
 
 void MvCalendariumMonthRenderer::drawTitle(QPainter &painter, const QRectF &rect)
 {

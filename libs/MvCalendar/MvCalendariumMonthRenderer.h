@@ -18,9 +18,6 @@ protected:
     /// The minimum height of a line that shows the information; 0 when it is not configured.
     double plannedHeight(const MvCalendarCellType &type, const MvCalendarRenderingInformation &info) const;
 
-    /// What a column needs to show the numbers of days in the smallest type, apart from those beside it.
-    double leastNumberWidth() const;
-
     /// The page's month, in one cell.
     void drawTitle(QPainter &painter, const QRectF &rect);
     /// The page's month with the blanks before it, in the size in which each month of the calendar fits into the cell;

@@ -1,6 +1,7 @@
 #include "MvCalendar/MvCalendariumRendererOneColumnPerWeek.h"
 
 #include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCalendar/MvDayNumberSize.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 
 #include <algorithm>
@@ -94,7 +95,7 @@ int MvCalendariumRendererOneColumnPerWeek::headWidth(const QRectF &rect, int wee
     const double head = plannedHeadWidth();
     const double days = std::max(0.0, maxContentWidth());
     const double planned = rect.width() / ((days + head) * weeks) * head;
-    const double most = std::floor(rect.width() / weeks - leastNumberWidth());
+    const double most = std::floor(rect.width() / weeks - MvDayNumberSize::atFloor(*this).width());
     const double least = leastHeadWidth();
     return most < least ? 0 : static_cast<int>(std::clamp(planned, least, most));
 }
@@ -104,7 +105,7 @@ double MvCalendariumRendererOneColumnPerWeek::columnWidthWithWeekdaysInFront(con
     const double cell = std::max(maxContentWidth(), widthOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, false));
     const double planned = rect.width() / (plannedHeadWidth() + weeks * cell) * cell;
     const double most = (rect.width() - leastHeadWidth()) / weeks;
-    const double least = leastNumberWidth();
+    const double least = MvDayNumberSize::atFloor(*this).width();
     return most < least ? rect.width() / weeks : std::clamp(planned, least, most);
 }
 

@@ -1,5 +1,6 @@
 #include "MvCalendar/MvCalendariumRendererOneRow.h"
 
+#include "MvCalendar/MvDayNumberSize.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 
 #include <algorithm>
@@ -22,6 +23,23 @@ QSize MvCalendariumRendererOneRow::minimumSizeHint() const
     const double height = title + minimumHeightOfCellType(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, false) +
                           minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);
     return {static_cast<int>(width), static_cast<int>(height)};
+}
+
+bool MvCalendariumRendererOneRow::hasRoom(const QSizeF &room) const
+{
+    const Bands bands = this->bands({QPointF(), room});
+    const QSizeF number = MvDayNumberSize::asPrinted(*this);
+    return number.width() <= bands.day.width() && plannedHeight(bands.rows) <= room.height();
+}
+
+/// Of the title and so many rows with their weekdays.
+double MvCalendariumRendererOneRow::plannedHeight(int rows) const
+{
+    const double head =
+        MvCalendariumMonthRenderer::plannedHeight(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, calendar_render_days_of_week);
+    const double day = minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);
+    return MvCalendariumMonthRenderer::plannedHeight(CALENDAR_CELL_TYPE_TITLE, calendar_render_title) +
+           rows * (head + day);
 }
 
 bool MvCalendariumRendererOneRow::rendersMonthInformation() const
@@ -52,8 +70,9 @@ double MvCalendariumRendererOneRow::widthOfCell(const QRectF &rect, const MvCale
 
 double MvCalendariumRendererOneRow::heightOfCell(const QRectF &rect, const MvCalendarCellType &type) const
 {
-    const double title = plannedHeight(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
-    const double head = plannedHeight(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, calendar_render_days_of_week);
+    const double title = MvCalendariumMonthRenderer::plannedHeight(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
+    const double head =
+        MvCalendariumMonthRenderer::plannedHeight(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, calendar_render_days_of_week);
     const double day = minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);
     const double scale = rect.height() / (title + head + day);
     const int titleHeight = static_cast<int>(title * scale);
@@ -80,18 +99,18 @@ MvCalendariumRendererOneRow::Bands MvCalendariumRendererOneRow::bands(const QRec
     bands.day =
         QSizeF(widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY, month), heightOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY));
 
-    const int mostColumns = std::max(1, static_cast<int>(rect.width() / leastNumberWidth()));
+    const int mostColumns = std::max(1, static_cast<int>(rect.width() / MvDayNumberSize::atFloor(*this).width()));
     const int rows = (mostDays + mostColumns - 1) / mostColumns;
-    const double title = plannedHeight(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
-    const double head = plannedHeight(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, calendar_render_days_of_week);
-    const double day = minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);
-    const double scale = rect.height() / (title + rows * (head + day));
-    if (rows == 1 || day * scale < smallestPixelSize(CALENDAR_CELL_TYPE_WEEKDAY))
+    const double scale = rect.height() / plannedHeight(rows);
+    const double day = scale * minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);
+    if (rows == 1 || day < smallestPixelSize(CALENDAR_CELL_TYPE_WEEKDAY))
         return bands;
+    bands.rows = rows;
     bands.columns = (mostDays + rows - 1) / rows; // the same in all months
-    bands.title = title * scale;
-    bands.head = head * scale;
-    bands.day = QSizeF(rect.width() / bands.columns, day * scale);
+    bands.title = scale * MvCalendariumMonthRenderer::plannedHeight(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
+    bands.head = scale * MvCalendariumMonthRenderer::plannedHeight(CALENDAR_CELL_TYPE_HEAD_WEEKDAY,
+                                                                   calendar_render_days_of_week);
+    bands.day = QSizeF(rect.width() / bands.columns, day);
     return bands;
 }
 

@@ -17,6 +17,8 @@ public:
     MvCalendariumDisplayAbilities abilities() const override;
     /// Of a month of 31 days with four Sundays and five Saturdays, always with the title.
     QSize minimumSizeHint() const override;
+    /// The numbers of two days do not touch.
+    bool hasRoom(const QSizeF &room) const override;
     /// True, whether or not the layout shows the title.
     bool rendersMonthInformation() const override;
     QList<MvCalendarCellType> usedCellTypes() const override;
@@ -35,11 +37,13 @@ private:
     /// What the rows of days are made of; the title stands above them.
     struct Bands
     {
+        int rows = 1;
         int columns = 0;
         double title = 0.0;
         double head = 0.0;
         QSizeF day;
     };
     Bands bands(const QRectF &rect) const;
+    double plannedHeight(int rows) const;
     void drawHead(QPainter &painter, const QRectF &cell, const QDate &date, const MvWeekdayHeads &heads);
 };

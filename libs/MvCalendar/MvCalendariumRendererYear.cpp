@@ -1,9 +1,10 @@
 #include "MvCalendar/MvCalendariumRendererYear.h"
 
 #include "MvCalendar/MvCalendariumTextPainter.h"
-#include "MvCalendar/MvYearArrangement.h"
+#include "MvCalendar/MvDayNumberSize.h"
 #include "MvCalendar/MvYearGridPainter.h"
 #include "MvCalendar/MvYearPlannerPainter.h"
+#include "MvModelBase/MvTextOutlineCache.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,13 +14,30 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int monthsPerPage = 12;
-constexpr int usualColumns = 4;      // of small months
-constexpr int smallestOfPlanner = 5; // points
-constexpr double mostOfTitle = 0.2;  // of the page's height
+constexpr int usualColumns = 4;     // of small months
+constexpr int smallestOfYear = 5;   // points
+constexpr double mostOfTitle = 0.2; // of the page's height
 
 constexpr int yearFlags = calendar_render_year_long | calendar_render_year_short;
 
+constexpr double gapInPlanner = 0.25; // between number and weekday, of the size of type
+constexpr double hair = 2.0;          // that ink keeps from the edge of its cell
+
+const QString widestWeek = u"52"_s;
 const QStringList wideNumbers{u"20"_s, u"22"_s, u"24"_s, u"26"_s, u"28"_s, u"30"_s};
+
+QFont sized(QFont font, int pixelSize)
+{
+    if (font.letterSpacingType() == QFont::AbsoluteSpacing)
+        font.setLetterSpacing(QFont::AbsoluteSpacing, font.letterSpacing() * pixelSize / font.pixelSize());
+    font.setPixelSize(pixelSize);
+    return font;
+}
+
+MvTextOutline outline(const QFont &font, const QString &text)
+{
+    return MvTextOutlineCache::instance().outline(font, text);
+}
 
 int monthsBetween(const QDate &from, const QDate &to)
 {
@@ -31,8 +49,7 @@ int monthsBetween(const QDate &from, const QDate &to)
 MvCalendariumRendererYear::MvCalendariumRendererYear(const MvCalendariumAppearance &appearance)
     : MvCalendariumRenderer(appearance)
 {
-    if (isPlanner())
-        setMinimumFontSize(smallestOfPlanner);
+    setMinimumFontSize(smallestOfYear);
 }
 
 // ---- what the layout is
@@ -50,6 +67,15 @@ QSize MvCalendariumRendererYear::minimumSizeHint() const
                                       : MvYearArrangement::minimumSize(usualColumns, neededGridSizes());
     const double title = planned(CALENDAR_CELL_TYPE_TITLE, calendar_render_title);
     return {static_cast<int>(std::ceil(months.width())), static_cast<int>(std::ceil(months.height() + title))};
+}
+
+bool MvCalendariumRendererYear::hasRoom(const QSizeF &room) const
+{
+    const QRectF months = monthsRect({QPointF(), room});
+    const QSizeF cell = isPlanner() ? MvYearPlanner(months, firstMonth(), neededPlannerSizes()).dayRect(0, 1).size()
+                                    : arrangement(months).sizes().day;
+    const QSizeF number = MvDayNumberSize::asPrinted(*this);
+    return number.width() <= cell.width() && number.height() <= cell.height();
 }
 
 bool MvCalendariumRendererYear::rendersMonthInformation() const
@@ -122,19 +148,27 @@ QString MvCalendariumRendererYear::yearTitle() const
     return isConfigured(calendar_render_year_school) ? MvCalendariumWords(language()).schoolYear(years) : years;
 }
 
-QStringList MvCalendariumRendererYear::monthNames(double cellWidth) const
+QStringList MvCalendariumRendererYear::monthNames(const QSizeF &cell) const
 {
     QStringList names;
     QStringList shortNames;
+    QStringList numbers;
     bool allFit = true;
     for (int index = 0; index < monthsPerPage; ++index) {
         const QDate month = firstMonth().addMonths(index);
         const bool needsYear = !isConfigured(calendar_render_title) && !yearName(month.year()).isEmpty();
         names.append(needsYear ? calendarMonth(month) : monthName(month.month()));
-        shortNames.append(fitted(CALENDAR_CELL_TYPE_MONTH, cellWidth, monthShort(month.month())));
-        allFit = allFit && fits(CALENDAR_CELL_TYPE_MONTH, cellWidth, names.constLast());
+        shortNames.append(monthShort(month.month()));
+        numbers.append(QString::number(month.month()));
+        allFit = allFit && fits(CALENDAR_CELL_TYPE_MONTH, cell.width(), names.constLast());
     }
-    return allFit ? names : shortNames;
+    if (allFit)
+        return names;
+    const QFont font = fittingFont(CALENDAR_CELL_TYPE_MONTH, cell, shortNames);
+    const bool doShortNamesFit = std::none_of(shortNames.cbegin(), shortNames.cend(), [&](const QString &name) {
+        return line({QPointF(), cell}, CALENDAR_CELL_TYPE_MONTH, name, font).isEmpty();
+    });
+    return doShortNamesFit ? shortNames : numbers;
 }
 
 bool MvCalendariumRendererYear::fits(const MvCalendarCellType &type, double cellWidth, const QString &text) const
@@ -142,10 +176,38 @@ bool MvCalendariumRendererYear::fits(const MvCalendarCellType &type, double cell
     return textWidth(type, {text}) <= cellWidth;
 }
 
-QString MvCalendariumRendererYear::fitted(const MvCalendarCellType &type, double cellWidth, const QString &text) const
+QFont MvCalendariumRendererYear::fittingFont(const MvCalendarCellType &type, const QSizeF &cell,
+                                             const QStringList &texts) const
 {
-    const int width = static_cast<int>(cellWidth - paddingDifference(type).width());
-    return MvCalendariumTextPainter::elided(std::max(0, width), font(type), text);
+    const QFont largest = font(type);
+    const QMarginsF paddings = padding(type);
+    const double kept = textAlignment(type).testFlag(Qt::AlignLeft)    ? paddings.left()
+                        : textAlignment(type).testFlag(Qt::AlignRight) ? paddings.right()
+                                                                       : 0.0;
+    const double width = cell.width() - std::max(0.0, kept) - 2.0 * hair;
+    const double height = cell.height() - 2.0 * hair;
+    double scale = 1.0;
+    for (const QString &text : texts) {
+        const MvTextOutline shape = outline(largest, text);
+        scale =
+            std::min({scale, width / std::max(1.0, shape.advance()), height / std::max(1.0, shape.bounds().height())});
+    }
+    const int smallest = static_cast<int>(std::ceil(smallestPixelSize(type)));
+    const int size = std::max(smallest, static_cast<int>(scale * largest.pixelSize()));
+    return size < largest.pixelSize() ? sized(largest, size) : largest;
+}
+
+MvCalendariumCellLine MvCalendariumRendererYear::line(const QRectF &cell, const MvCalendarCellType &type,
+                                                      const QString &text, const QFont &font) const
+{
+    const QRectF room = cell.adjusted(0.0, hair, 0.0, -hair);
+    const MvTextFitter unchanged(font, font.pixelSize(), MvHyphenator());
+    MvCalendariumCellLine line(unchanged, room.size(), text);
+    if (line.isCut())
+        return {unchanged, QSizeF(), QString()};
+    line.align(cell.marginsRemoved(padding(type)), int(textAlignment(type)));
+    line.keepInside(room);
+    return line;
 }
 
 // ---- sizes
@@ -167,6 +229,14 @@ double MvCalendariumRendererYear::textWidth(const MvCalendarCellType &type, cons
 double MvCalendariumRendererYear::lineHeight(const MvCalendarCellType &type) const
 {
     return QFontMetricsF(font(type)).height() + paddingDifference(type).height();
+}
+
+double MvCalendariumRendererYear::gapBesideNumber() const
+{
+    const double wanted = gapInPlanner * font(CALENDAR_CELL_TYPE_WEEKDAY).pixelSize();
+    const double present =
+        padding(CALENDAR_CELL_TYPE_WEEKDAY).right() + padding(CALENDAR_CELL_TYPE_HEAD_WEEKDAY).left();
+    return std::max(0.0, wanted - present);
 }
 
 QRectF MvCalendariumRendererYear::titleRect(const QRectF &rect) const
@@ -195,6 +265,28 @@ MvSmallMonthGrid::Sizes MvCalendariumRendererYear::neededGridSizes() const
     return needed;
 }
 
+MvYearArrangement MvCalendariumRendererYear::arrangement(const QRectF &months) const
+{
+    const QSizeF number = MvDayNumberSize::atFloor(*this);
+    const QFont week = sized(font(CALENDAR_CELL_TYPE_WEEK_OF_YEAR),
+                             static_cast<int>(std::ceil(smallestPixelSize(CALENDAR_CELL_TYPE_WEEK_OF_YEAR))));
+    const double weekWidth = outline(week, widestWeek).advance() + 2.0 * hair;
+    const auto isReadable = [&](const MvYearArrangement &arrangement) {
+        const MvSmallMonthGrid::Sizes &sizes = arrangement.sizes();
+        return sizes.day.width() >= number.width() && sizes.day.height() >= number.height() &&
+               (sizes.weekWidth <= 0.0 || sizes.weekWidth >= weekWidth);
+    };
+    const MvSmallMonthGrid::Sizes needed = neededGridSizes();
+    MvSmallMonthGrid::Sizes withoutWeeks = needed;
+    withoutWeeks.weekWidth = 0.0;
+    for (const MvSmallMonthGrid::Sizes &sizes : {needed, withoutWeeks}) {
+        const MvYearArrangement best = MvYearArrangement::leastStretched(months, sizes, isReadable);
+        if (isReadable(best))
+            return best;
+    }
+    return MvYearArrangement::leastStretched(months, withoutWeeks);
+}
+
 MvYearPlanner::Sizes MvCalendariumRendererYear::neededPlannerSizes() const
 {
     MvYearPlanner::Sizes needed;
@@ -204,6 +296,7 @@ MvYearPlanner::Sizes MvCalendariumRendererYear::neededPlannerSizes() const
         needed.lineHeight = std::max(needed.lineHeight, lineHeight(type));
         needed.textHeight = std::max(needed.textHeight, QFontMetricsF(fontHolidays(type)).height());
     }
+    needed.numberWidth += gapBesideNumber();
     const QStringList names = weekdayNames(true) << saturdayName(true) << sundayName(true);
     for (const MvCalendarCellType &type : dayHeadCellTypes(true)) {
         needed.weekdayWidth = std::max(needed.weekdayWidth, textWidth(type, names));
@@ -218,13 +311,25 @@ MvYearPlanner::Sizes MvCalendariumRendererYear::neededPlannerSizes() const
 
 void MvCalendariumRendererYear::renderBase(QPainter &painter, const QRectF &rect)
 {
-    if (isConfigured(calendar_render_title)) {
-        const QRectF title = titleRect(rect);
-        drawCell(painter, title, {CALENDAR_CELL_TYPE_TITLE, CALENDAR_CELL_TYPE_TITLE},
-                 fitted(CALENDAR_CELL_TYPE_TITLE, title.width(), yearTitle()), true, 0);
-    }
+    if (isConfigured(calendar_render_title))
+        drawTitle(painter, titleRect(rect));
     if (isPlanner())
         MvYearPlannerPainter(*this, painter).paint(monthsRect(rect));
     else
         MvYearGridPainter(*this, painter).paint(monthsRect(rect));
+}
+
+void MvCalendariumRendererYear::drawTitle(QPainter &painter, const QRectF &title)
+{
+    const MvCalendarCellTypeConfig config(CALENDAR_CELL_TYPE_TITLE);
+    drawCell(painter, title, config, {}, true, 0);
+    const QRectF inner = title.marginsRemoved(padding(CALENDAR_CELL_TYPE_TITLE));
+    const double width = inner.intersected(title).width();
+    MvCalendariumCellLine line(fitter(CALENDAR_CELL_TYPE_TITLE), {width, title.height()}, yearTitle());
+    if (line.isCut())
+        reportMissing(yearTitle(), title);
+    line.align(inner, int(textAlignment(CALENDAR_CELL_TYPE_TITLE)));
+    line.keepInside(title);
+    if (isOpaqueColor(fontColor(config, true)))
+        line.draw(painter, fontColor(config, true));
 }

@@ -1,6 +1,6 @@
 #include "MvCalendar/MvCalendariumRendererYearOnly.h"
 
-#include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCore/MvMath.h"
 
 #include <algorithm>
@@ -33,9 +33,18 @@ void MvCalendariumRendererYearOnly::renderBase(QPainter &painter, const QRectF &
 {
     const MvCalendarCellTypeConfig year(CALENDAR_CELL_TYPE_YEAR, CALENDAR_CELL_TYPE_YEAR);
     drawCell(painter, rect, year, {}, true, 0);
-    if (!rect.isEmpty())
-        MvCalendariumCellPainter(*this, painter)
-            .drawFittingText(rect, year, calendarYear(QDate()), 0, true, startDate());
+    const QColor color = fontColor(year, true);
+    if (rect.isEmpty() || !isOpaqueColor(color))
+        return;
+    const QRectF inner = rect.marginsRemoved(padding(CALENDAR_CELL_TYPE_YEAR));
+    const double width = inner.intersected(rect).width();
+    const QString text = calendarYear(QDate());
+    MvCalendariumCellLine line(fitter(CALENDAR_CELL_TYPE_YEAR), {width, rect.height()}, text);
+    if (line.isCut())
+        reportUnfitting(startDate(), text, rect);
+    line.align(inner, int(textAlignment(CALENDAR_CELL_TYPE_YEAR)));
+    line.keepInside(rect);
+    line.draw(painter, color);
 }
 
 QString MvCalendariumRendererYearOnly::calendarYear(const QDate &date) const

@@ -16,10 +16,18 @@ constexpr double rowGap = 0.7;
 
 MvYearArrangement MvYearArrangement::leastStretched(const QRectF &rect, const MvSmallMonthGrid::Sizes &needed)
 {
+    return leastStretched(rect, needed, [](const MvYearArrangement &) { return true; });
+}
+
+MvYearArrangement MvYearArrangement::leastStretched(const QRectF &rect, const MvSmallMonthGrid::Sizes &needed,
+                                                    const std::function<bool(const MvYearArrangement &)> &isAcceptable)
+{
     MvYearArrangement best(rect, columnCounts.front(), needed);
     for (const int columns : columnCounts) {
         const MvYearArrangement arrangement(rect, columns, needed);
-        if (arrangement.stretch() < best.stretch())
+        const bool isBetter = isAcceptable(arrangement) == isAcceptable(best) ? arrangement.stretch() < best.stretch()
+                                                                              : isAcceptable(arrangement);
+        if (isBetter)
             best = arrangement;
     }
     return best;

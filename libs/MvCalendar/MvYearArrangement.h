@@ -2,6 +2,8 @@
 
 #include "MvCalendar/MvSmallMonthGrid.h"
 
+#include <functional>
+
 /// Twelve small months in columns and rows: 12x1, 6x2, 4x3, 3x4, 2x6 or 1x12, whichever stretches the cells of the
 /// days least. Geometry alone, in page units.
 ///
@@ -15,6 +17,9 @@ public:
     /// The arrangement for the rectangle. `needed`: the sizes at which the cells are readable. The column of calendar
     /// weeks becomes no wider than a day's.
     static MvYearArrangement leastStretched(const QRectF &rect, const MvSmallMonthGrid::Sizes &needed);
+    /// The same among those that are acceptable; any where none is.
+    static MvYearArrangement leastStretched(const QRectF &rect, const MvSmallMonthGrid::Sizes &needed,
+                                            const std::function<bool(const MvYearArrangement &)> &isAcceptable);
 
     MvYearArrangement(const QRectF &rect, int columns, const MvSmallMonthGrid::Sizes &needed);
 

@@ -1,9 +1,17 @@
 #include "MvCalendar/MvYearGridPainter.h"
 
 #include "MvCalendar/MvCalendariumRendererYear.h"
+#include "MvCalendar/MvWeekdayHeads.h"
 #include "MvCalendar/MvYearArrangement.h"
 
-#include <algorithm>
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString widestWeek = u"52"_s;
+constexpr double edgeOfNumber = 0.06; // of the size of type; numbers of two days do not touch
+
+} // namespace
 
 MvYearGridPainter::MvYearGridPainter(MvCalendariumRendererYear &renderer, QPainter &painter)
     : m_renderer(renderer)
@@ -12,43 +20,44 @@ MvYearGridPainter::MvYearGridPainter(MvCalendariumRendererYear &renderer, QPaint
 
 void MvYearGridPainter::paint(const QRectF &rect)
 {
-    const MvYearArrangement arrangement = MvYearArrangement::leastStretched(rect, m_renderer.neededGridSizes());
+    const MvYearArrangement arrangement = m_renderer.arrangement(rect);
     m_sizes = arrangement.sizes();
-    m_weekdayHeads = weekdayHeads(m_sizes.day.width());
-    const QStringList weekTexts = m_renderer.MvCalendariumRenderer::maxmimumWidthCalendarWeekText();
-    m_hasWeekNumbersOnly = !m_renderer.fits(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, m_sizes.weekWidth, weekTexts.constFirst());
-    m_weekHead = m_renderer.calendarWeekHeadlineText();
-    if (!m_renderer.fits(CALENDAR_CELL_TYPE_TOPLINE, m_sizes.weekWidth, m_weekHead))
-        m_weekHead.clear();
-    const QStringList names = m_renderer.monthNames(MvSmallMonthGrid::size(m_sizes).width());
+    const bool wantsWeeks = m_renderer.isConfigured(calendar_render_week_of_year);
+    if (wantsWeeks && m_sizes.weekWidth <= 0.0)
+        m_renderer.reportMissing(m_renderer.calendarWeekHeadlineText(), rect);
+    prepareTexts();
+    const MvWeekdayHeads heads(m_renderer,
+                               m_renderer.isConfigured(calendar_render_days_of_week_short) ? MvWeekdayHeads::Form::Short
+                                                                                           : MvWeekdayHeads::Form::Long,
+                               {m_sizes.day.width(), m_sizes.headHeight}, false);
+    if (m_sizes.headHeight > 0.0 && heads.form() == MvWeekdayHeads::Form::None)
+        m_renderer.reportMissing(MvWeekdayHeads::names(m_renderer, MvWeekdayHeads::Form::Short).join(u' '), rect);
+    const QSizeF nameSize(MvSmallMonthGrid::size(m_sizes).width(), m_sizes.nameHeight);
+    const QStringList names = m_renderer.monthNames(nameSize);
+    m_nameFont = m_renderer.fittingFont(CALENDAR_CELL_TYPE_MONTH, nameSize, names);
     for (int index = 0; index < MvYearArrangement::monthCount; ++index) {
         const QDate month = m_renderer.firstMonth().addMonths(index);
-        paintMonth(MvSmallMonthGrid(arrangement.monthRect(index).topLeft(), month, m_sizes), names.at(index));
+        const MvSmallMonthGrid grid(arrangement.monthRect(index).topLeft(), month, m_sizes);
+        paintMonth(grid, month, names.at(index));
+        if (m_sizes.headHeight > 0.0)
+            paintHeads(grid, heads);
     }
 }
 
 // ---- texts
 
-QStringList MvYearGridPainter::weekdayHeads(double columnWidth) const
+void MvYearGridPainter::prepareTexts()
 {
-    const auto names = [this](const auto &name) {
-        QStringList texts;
-        for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day)
-            texts.append(name(day));
-        return texts;
-    };
-    const auto fit = [&](const QStringList &texts) {
-        for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day) {
-            if (!m_renderer.fits(MvCalendariumRenderer::headCellTypeWeekDay(day), columnWidth, texts.at(day - 1)))
-                return false;
-        }
-        return true;
-    };
-    const QStringList asConfigured = names([this](int day) { return m_renderer.dayName(day); });
-    if (fit(asConfigured))
-        return asConfigured;
-    const QStringList shortNames = names([this](int day) { return m_renderer.dayName(day, true); });
-    return fit(shortNames) ? shortNames : names([this](int day) { return m_renderer.dayName(day, true).left(1); });
+    if (m_sizes.weekWidth <= 0.0)
+        return;
+    const QString week = m_renderer.MvCalendariumRenderer::maxmimumWidthCalendarWeekText().constFirst();
+    m_hasWeekNumbersOnly = !m_renderer.fits(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, m_sizes.weekWidth, week);
+    const QStringList widest{m_hasWeekNumbersOnly ? widestWeek : week};
+    m_weekFont =
+        m_renderer.fittingFont(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, {m_sizes.weekWidth, m_sizes.day.height()}, widest);
+    m_weekHead = m_renderer.calendarWeekHeadlineText();
+    if (!m_renderer.fits(CALENDAR_CELL_TYPE_TOPLINE, m_sizes.weekWidth, m_weekHead))
+        m_weekHead.clear();
 }
 
 QString MvYearGridPainter::weekText(const QDate &monday) const
@@ -58,24 +67,37 @@ QString MvYearGridPainter::weekText(const QDate &monday) const
 
 // ---- painting
 
-void MvYearGridPainter::paintMonth(const MvSmallMonthGrid &grid, const QString &name)
+void MvYearGridPainter::paintMonth(const MvSmallMonthGrid &grid, const QDate &month, const QString &name)
 {
-    m_renderer.drawCell(m_painter, grid.nameRect(), MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_MONTH), name, true, 0);
-    if (m_sizes.headHeight > 0.0)
-        paintHeads(grid);
+    const MvCalendarCellTypeConfig config(CALENDAR_CELL_TYPE_MONTH);
+    if (!paintCell(grid.nameRect(), config, name, m_nameFont, true))
+        m_renderer.reportUnfitting(month, name, grid.nameRect());
     for (int row = 0; row < grid.rows(); ++row)
         paintWeek(grid, row);
 }
 
-void MvYearGridPainter::paintHeads(const MvSmallMonthGrid &grid)
+bool MvYearGridPainter::paintCell(const QRectF &cell, const MvCalendarCellTypeConfig &config, const QString &text,
+                                  const QFont &font, bool even, double edge)
 {
+    m_renderer.drawCell(m_painter, cell, config, {}, even, 0);
+    const QColor color = m_renderer.fontColor(config, even);
+    if (text.isEmpty() || !m_renderer.isOpaqueColor(color))
+        return true;
+    const QRectF room = cell.adjusted(edge, 0.0, -edge, 0.0);
+    const MvCalendariumCellLine line = m_renderer.line(room, config.inscriptionConfig(), text, font);
+    line.draw(m_painter, color);
+    return !line.isEmpty();
+}
+
+void MvYearGridPainter::paintHeads(const MvSmallMonthGrid &grid, const MvWeekdayHeads &heads)
+{
+    const MvCalendarCellTypeConfig topline(CALENDAR_CELL_TYPE_TOPLINE);
     if (m_sizes.weekWidth > 0.0)
-        m_renderer.drawCell(m_painter, grid.weekHeadRect(), MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TOPLINE),
-                            m_weekHead, true, 0);
+        paintCell(grid.weekHeadRect(), topline, m_weekHead, m_renderer.font(CALENDAR_CELL_TYPE_TOPLINE), true);
     for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day) {
-        m_renderer.drawCell(m_painter, grid.headRect(day),
-                            MvCalendarCellTypeConfig(MvCalendariumRenderer::headCellTypeWeekDay(day)),
-                            m_weekdayHeads.at(day - 1), true, 0);
+        const MvCalendarCellTypeConfig config(MvCalendariumRenderer::headCellTypeWeekDay(day));
+        m_renderer.drawCell(m_painter, grid.headRect(day), config, {}, true, 0);
+        heads.draw(m_painter, grid.headRect(day), config, day, true);
     }
 }
 
@@ -84,10 +106,10 @@ void MvYearGridPainter::paintWeek(const MvSmallMonthGrid &grid, int row)
     const QDate monday = grid.monday(row);
     const bool even = m_renderer.isEvenWeek(monday);
     if (m_sizes.weekWidth > 0.0) {
-        m_renderer.drawCell(
-            m_painter, grid.weekRect(row),
-            MvCalendarCellTypeConfig(grid.hasDays(row) ? CALENDAR_CELL_TYPE_WEEK_OF_YEAR : CALENDAR_CELL_TYPE_EMPTY),
-            grid.hasDays(row) ? weekText(monday) : QString(), even, 0);
+        const bool hasDays = grid.hasDays(row);
+        paintCell(grid.weekRect(row),
+                  MvCalendarCellTypeConfig(hasDays ? CALENDAR_CELL_TYPE_WEEK_OF_YEAR : CALENDAR_CELL_TYPE_EMPTY),
+                  hasDays ? weekText(monday) : QString(), m_weekFont, even);
     }
     for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day) {
         const QDate date = grid.date(row, day);
@@ -101,7 +123,10 @@ void MvYearGridPainter::paintWeek(const MvSmallMonthGrid &grid, int row)
 
 void MvYearGridPainter::paintDay(const QRectF &cell, const QDate &date)
 {
-    m_renderer.drawCell(m_painter, cell, m_renderer.contentCellTypeConfig(date), QString::number(date.day()),
-                        m_renderer.isEvenWeek(date), 0);
+    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
+    const QString number = QString::number(date.day());
+    const QFont font = m_renderer.font(config.inscriptionConfig());
+    if (!paintCell(cell, config, number, font, m_renderer.isEvenWeek(date), edgeOfNumber * font.pixelSize()))
+        m_renderer.reportUnfitting(date, number, cell);
     Q_EMIT m_renderer.rectForDateFound(date, cell);
 }

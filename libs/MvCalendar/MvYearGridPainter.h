@@ -2,8 +2,10 @@
 
 #include "MvCalendar/MvSmallMonthGrid.h"
 
-#include <QStringList>
+#include <QFont>
 
+class MvCalendarCellTypeConfig;
+class MvWeekdayHeads;
 class MvCalendariumRendererYear;
 class QPainter;
 
@@ -17,20 +19,23 @@ public:
     void paint(const QRectF &rect);
 
 private:
-    /// The names as the layout asks for them, shorter ones where a column is too narrow.
-    QStringList weekdayHeads(double columnWidth) const;
+    void prepareTexts();
     /// The week as the content writes it, its number alone where the column is too narrow.
     QString weekText(const QDate &monday) const;
 
-    void paintMonth(const MvSmallMonthGrid &grid, const QString &name);
-    void paintHeads(const MvSmallMonthGrid &grid);
+    void paintMonth(const MvSmallMonthGrid &grid, const QDate &month, const QString &name);
+    void paintHeads(const MvSmallMonthGrid &grid, const MvWeekdayHeads &heads);
+    /// False when the text has no room between blank edges of that width; it is left out then.
+    bool paintCell(const QRectF &cell, const MvCalendarCellTypeConfig &config, const QString &text, const QFont &font,
+                   bool even, double edge = 0.0);
     void paintWeek(const MvSmallMonthGrid &grid, int row);
     void paintDay(const QRectF &cell, const QDate &date);
 
     MvCalendariumRendererYear &m_renderer;
     QPainter &m_painter;
     MvSmallMonthGrid::Sizes m_sizes;
-    QStringList m_weekdayHeads; // Monday first
+    QFont m_nameFont;
+    QFont m_weekFont;
     QString m_weekHead;
     bool m_hasWeekNumbersOnly = false;
 };

@@ -2,7 +2,6 @@
 
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumRendererYear.h"
-#include "MvCalendar/MvCalendariumTextPainter.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -17,6 +16,10 @@ constexpr int daysPerWeek = 7;
 constexpr double readableContrast = 4.5; // WCAG 2.1, level AA
 constexpr double gapBeneathNumber = 0.2; // in heights of a line
 constexpr double leastTextWidth = 2.5;   // in heights of a line; less than that shows ellipses only
+constexpr double gapBetweenNames = 0.2;  // of months, of the size of type
+constexpr double edgeOfNumber = 0.14;    // of the size of type; numbers of two months do not touch
+constexpr double hair = 2.0;             // that ink keeps from the edge of its cell
+const QString ellipsis = u"…"_s;
 
 /// The head type of a day whose content has the type.
 MvCalendarCellType headOf(const MvCalendarCellType &content)
@@ -57,35 +60,39 @@ MvYearPlannerPainter::MvYearPlannerPainter(MvCalendariumRendererYear &renderer, 
 void MvYearPlannerPainter::paint(const QRectF &rect)
 {
     const MvYearPlanner planner(rect, m_renderer.firstMonth(), m_renderer.neededPlannerSizes());
-    const QStringList names = m_renderer.monthNames(planner.nameRect(0).width());
+    QSizeF name = planner.nameRect(0).size();
+    name.rwidth() -= gapBetweenNames * m_renderer.font(CALENDAR_CELL_TYPE_MONTH).pixelSize();
+    const QStringList names = m_renderer.monthNames(name);
+    m_nameFont = m_renderer.fittingFont(CALENDAR_CELL_TYPE_MONTH, name, names);
+    m_rect = rect;
+    m_weekdaySize = planner.parts(planner.dayRect(0, 1), false).weekday.size();
+    if (m_weekdaySize.isEmpty())
+        reportMissingWeekdays();
     for (int column = 0; column < MvYearPlanner::monthCount; ++column)
         paintMonth(planner, column, names.at(column));
+}
+
+void MvYearPlannerPainter::reportMissingWeekdays()
+{
+    if (!m_hasReportedWeekdays)
+        m_renderer.reportMissing(m_weekdays.join(u' '), m_rect);
+    m_hasReportedWeekdays = true;
 }
 
 // ---- styles
 
 const MvYearPlannerPainter::Style &MvYearPlannerPainter::style(const MvCalendarCellType &type)
 {
-    const auto known = m_styles.constFind(type);
-    if (known != m_styles.cend())
-        return *known;
-    Style style;
-    style.texts = m_renderer.fontHolidays(type);
-    const QFontMetricsF metrics(style.texts);
-    style.lineHeight = metrics.height();
-    style.textBaseline = metrics.ascent() - metrics.height() / 2.0;
-    style.baseline = baseline(type, m_renderer.font(type));
+    const auto known = m_styles.find(type.value());
+    if (known != m_styles.end())
+        return known->second;
+    const bool isWeekday = m_renderer.dayHeadCellTypes(true).contains(type);
+    Style style{isWeekday ? m_renderer.fittingFont(type, m_weekdaySize, m_weekdays) : m_renderer.font(type),
+                m_renderer.holidayFitter(type)};
+    style.lineHeight = QFontMetricsF(style.texts.font()).height();
     style.leftPadding = m_renderer.padding(type).left();
     style.rightPadding = m_renderer.padding(type).right();
-    style.flags = int(m_renderer.textAlignment(type) & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter;
-    return *m_styles.insert(type, style);
-}
-
-double MvYearPlannerPainter::baseline(const MvCalendarCellType &type, const QFont &font) const
-{
-    const QFontMetricsF metrics(font);
-    const QMarginsF padding = m_renderer.padding(type);
-    return (padding.top() - padding.bottom()) / 2.0 + metrics.ascent() - metrics.height() / 2.0;
+    return m_styles.emplace(type.value(), style).first->second;
 }
 
 // ---- painting
@@ -93,8 +100,16 @@ double MvYearPlannerPainter::baseline(const MvCalendarCellType &type, const QFon
 void MvYearPlannerPainter::paintMonth(const MvYearPlanner &planner, int column, const QString &name)
 {
     const QDate month = planner.month(column);
-    m_renderer.drawCell(m_painter, planner.nameRect(column), MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_MONTH), name,
-                        true, 0);
+    const MvCalendarCellTypeConfig config(CALENDAR_CELL_TYPE_MONTH);
+    const QRectF nameCell = planner.nameRect(column);
+    m_renderer.drawCell(m_painter, nameCell, config, {}, true, 0);
+    const MvCalendariumCellLine line =
+        m_renderer.line(nameCell.adjusted(0.0, 0.0, -gapBetweenNames * m_nameFont.pixelSize(), 0.0),
+                        CALENDAR_CELL_TYPE_MONTH, name, m_nameFont);
+    if (line.isEmpty())
+        m_renderer.reportUnfitting(month, name, nameCell);
+    if (m_renderer.isOpaqueColor(m_renderer.fontColor(config, true)))
+        line.draw(m_painter, m_renderer.fontColor(config, true));
     const int days = month.daysInMonth();
     for (int day = 1; day <= days; ++day)
         paintDay(planner, planner.dayRect(column, day), month.addDays(day - 1));
@@ -115,93 +130,145 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     const Style textStyle = style(config.inscriptionConfig());
     const QStringList texts = m_renderer.describeHolidays(date);
     MvYearPlanner::Parts parts = planner.parts(cell, date.dayOfWeek() == Qt::Monday);
-    bool isCut = false;
-    QStringList lines = fittingLines(texts, innerRect(planner, parts.texts, textStyle).size(), textStyle, &isCut);
-    if (isCut && !parts.week.isNull()) { // the week gives way
+    Texts fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
+    if (!parts.week.isNull() && !areAsWritten(fitted, texts, textStyle)) { // the week gives way
         parts = planner.parts(cell, false);
-        lines = fittingLines(texts, innerRect(planner, parts.texts, textStyle).size(), textStyle, &isCut);
+        fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
     }
-    if (isCut)
-        m_renderer.reportUnfitting(date, texts.join(u", "_s), cell);
-    m_renderer.reportMissingGlyphs(date, texts, textStyle.texts, cell);
+    for (const QString &text : texts.mid(fitted.whole))
+        m_renderer.reportUnfitting(date, text, cell);
+    m_renderer.reportMissingGlyphs(date, texts, textStyle.texts.font(), cell);
 
-    paintFront(parts, config, date, even);
+    const double baseline = paintFront(parts, cell, config, date, even);
     if (!parts.week.isNull())
-        paintWeek(parts.week, config, date, even);
-    m_painter.setPen(color);
-    paintTexts(planner, innerRect(planner, parts.texts, textStyle), lines, textStyle);
+        paintWeek(parts.week, config, date, even, baseline);
+    paintTexts(planner, innerRect(planner, parts.texts, textStyle), fitted, baseline, color);
 }
 
-void MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const MvCalendarCellTypeConfig &config,
-                                      const QDate &date, bool even)
+double MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell,
+                                        const MvCalendarCellTypeConfig &config, const QDate &date, bool even)
 {
-    const Style &number = style(config.inscriptionConfig());
-    m_renderer.drawCellText(m_painter, parts.number, config, QString::number(date.day()), number.flags, even);
-    if (parts.weekday.isNull())
-        return;
-    const MvCalendarCellType head = headOf(config.inscriptionConfig());
-    const double lift = number.baseline; // insertion of the next style may move this one
-    const Style &weekday = style(head);
-    m_renderer.drawCellText(m_painter, parts.weekday.translated(0.0, lift - weekday.baseline),
-                            {head, config.colorConfig()}, m_weekdays.at(date.dayOfWeek() - 1), weekday.flags, even);
+    const QColor color = m_renderer.fontColor(config, even);
+    const MvCalendarCellType &type = config.inscriptionConfig();
+    const QString text = QString::number(date.day());
+    const double edge = edgeOfNumber * style(type).font.pixelSize();
+    const QRectF room = parts.number.adjusted(edge, 0.0, -std::max(edge, m_renderer.gapBesideNumber()), 0.0);
+    const MvCalendariumCellLine number = m_renderer.line(room, type, text, style(type).font);
+    if (number.isEmpty()) {
+        m_renderer.reportUnfitting(date, text, cell);
+        reportMissingWeekdays();
+        return parts.number.center().y();
+    }
+    number.draw(m_painter, color);
+    if (!parts.weekday.isNull()) {
+        const MvCalendarCellType head = headOf(type);
+        MvCalendariumCellLine weekday =
+            m_renderer.line(parts.weekday, head, m_weekdays.at(date.dayOfWeek() - 1), style(head).font);
+        if (weekday.isEmpty())
+            reportMissingWeekdays();
+        weekday.setBaseline(number.baseline());
+        weekday.keepInside(cell.adjusted(0.0, hair, 0.0, -hair));
+        weekday.draw(m_painter, m_renderer.fontColor({head, config.colorConfig()}, even));
+    }
+    return number.baseline();
 }
 
 void MvYearPlannerPainter::paintWeek(const QRectF &part, const MvCalendarCellTypeConfig &config, const QDate &date,
-                                     bool even)
+                                     bool even, double baseline)
 {
     const MvCalendarCellType type = CALENDAR_CELL_TYPE_WEEK_OF_YEAR;
     const QColor background = m_renderer.backgroundColor(config, even);
-    const bool hasOwnColor = isReadable(m_renderer.fontColor(MvCalendarCellTypeConfig(type), even), background);
-    const double lift = style(config.inscriptionConfig()).baseline;
-    const Style &week = style(type);
-    m_renderer.drawCellText(m_painter, part.translated(0.0, lift - week.baseline),
-                            {type, hasOwnColor ? type : config.colorConfig()}, m_renderer.calendarWeekText(date),
-                            week.flags, even);
+    const QColor ownColor = m_renderer.fontColor(MvCalendarCellTypeConfig(type), even);
+    MvCalendariumCellLine week = m_renderer.line(part, type, m_renderer.calendarWeekText(date), style(type).font);
+    week.setBaseline(baseline);
+    week.keepInside(part.adjusted(0.0, hair, 0.0, -hair));
+    week.draw(m_painter, isReadable(ownColor, background) ? ownColor : m_renderer.fontColor(config, even));
 }
 
 QRectF MvYearPlannerPainter::innerRect(const MvYearPlanner &planner, const QRectF &part, const Style &style) const
 {
+    const double right = std::max(hair, style.rightPadding);
     if (planner.hasTextsBeneath())
-        return part.adjusted(style.leftPadding, gapBeneathNumber * style.lineHeight, -style.rightPadding, 0.0);
-    return part.adjusted(0.0, 0.0, -style.rightPadding, 0.0);
+        return part.adjusted(style.leftPadding, gapBeneathNumber * style.lineHeight, -right, -hair);
+    return part.adjusted(0.0, hair, -right, -hair);
 }
 
-void MvYearPlannerPainter::paintTexts(const MvYearPlanner &planner, const QRectF &inner, const QStringList &lines,
-                                      const Style &style)
+void MvYearPlannerPainter::paintTexts(const MvYearPlanner &planner, const QRectF &inner, const Texts &texts,
+                                      double baseline, const QColor &color)
 {
-    if (lines.isEmpty())
-        return;
-    double top = inner.top();
-    if (!planner.hasTextsBeneath() && lines.size() == 1) // on the line of the number
-        top = inner.center().y() + style.baseline - style.textBaseline - style.lineHeight / 2.0;
+    const QFontMetricsF metrics(texts.set.font);
+    const double height = metrics.height();
+    const auto lineCount = double(texts.set.lines.size());
+    double y = inner.top() + metrics.ascent();
+    if (!planner.hasTextsBeneath() && lineCount == 1)
+        y = baseline;
     else if (!planner.hasTextsBeneath())
-        top += (inner.height() - style.lineHeight * double(lines.size())) / 2.0;
-    m_painter.setFont(style.texts);
-    for (const QString &line : lines) {
-        MvCalendariumTextPainter::drawText(m_painter, {inner.left(), top, inner.width(), style.lineHeight},
-                                           Qt::AlignLeft | Qt::AlignTop, line);
-        top += style.lineHeight;
+        y += (inner.height() - height * lineCount) / 2.0;
+    const MvTextFitter unchanged(texts.set.font, texts.set.font.pixelSize(), MvHyphenator());
+    QList<MvCalendariumCellLine> lines;
+    QRectF ink;
+    for (const QString &text : texts.set.lines) {
+        MvCalendariumCellLine line(unchanged, {inner.width() + 1.0, inner.height()}, text);
+        line.align(inner, Qt::AlignLeft | Qt::AlignTop);
+        line.setBaseline(y);
+        y += height;
+        ink |= line.ink();
+        lines.append(line);
+    }
+    const double shift = std::max(0.0, inner.top() - ink.top()) - std::max(0.0, ink.bottom() - inner.bottom());
+    for (MvCalendariumCellLine &line : lines) { // all by the same, so that they keep their distances
+        line.setBaseline(line.baseline() + shift);
+        line.draw(m_painter, color);
     }
 }
 
-/// Every text on a line of its own or, if there are too few, one after the other.
-QStringList MvYearPlannerPainter::fittingLines(const QStringList &texts, const QSizeF &size, const Style &style,
-                                               bool *isCut) const
+// ---- fitting
+
+bool MvYearPlannerPainter::areAsWritten(const Texts &texts, const QStringList &written, const Style &style)
 {
-    *isCut = false;
-    if (texts.isEmpty())
+    const QString lines = texts.set.lines.join(u' ');
+    return written.isEmpty() ||
+           (texts.set.font == style.texts.font() && (lines == written.join(u' ') || lines == written.join(u", "_s)));
+}
+
+/// Every text on a line of its own or, if there are too few, one after the other; an ellipsis stands for those that
+/// have no room.
+MvYearPlannerPainter::Texts MvYearPlannerPainter::fittingTexts(const QStringList &texts, const QRectF &inner,
+                                                               const Style &style) const
+{
+    if (texts.isEmpty() || inner.width() < leastTextWidth * style.lineHeight)
         return {};
-    const int width = std::max(0, static_cast<int>(size.width()));
-    const bool isTooNarrow = size.width() < leastTextWidth * style.lineHeight;
-    const int maxLines = isTooNarrow ? 0 : std::max(0, static_cast<int>(size.height() / style.lineHeight));
-    QStringList lines = MvCalendariumTextPainter::fitLines(width, maxLines, style.texts, texts, isCut);
-    if (*isCut && texts.size() > 1)
-        lines = MvCalendariumTextPainter::fitLines(width, maxLines, style.texts, {texts.join(u", "_s)}, isCut);
-    for (QString &line : lines) {
-        if (!MvCalendariumTextPainter::isTextToWide(width, style.texts, line))
-            continue;
-        line = MvCalendariumTextPainter::elided(width, style.texts, line);
-        *isCut = true;
+    Texts best = setTexts(texts, inner.size(), style);
+    if (!best.set.isCut)
+        return best;
+    qsizetype tooMany = texts.size();
+    qsizetype fit = 0;
+    while (tooMany - fit > 1) {
+        const qsizetype tried = (fit + tooMany) / 2;
+        const Texts some = setTexts(texts.first(tried) << ellipsis, inner.size(), style);
+        if (some.set.isCut) {
+            tooMany = tried;
+        } else {
+            fit = tried;
+            best = some;
+        }
     }
-    return lines;
+    if (fit == 0) // not even the ellipsis beside one
+        return setTexts({texts.constFirst()}, inner.size(), style);
+    best.whole = fit;
+    return best;
+}
+
+MvYearPlannerPainter::Texts MvYearPlannerPainter::setTexts(const QStringList &texts, const QSizeF &room,
+                                                           const Style &style) const
+{
+    const QString joined = texts.join(u", "_s);
+    MvFittedText set = style.texts.fit(room, texts);
+    if (set.isCut && texts.size() > 1)
+        set = style.texts.fit(room, {joined});
+    if (set.isCut && room.height() < style.lineHeight) { // lower than a line, but perhaps not than what is seen of it
+        const MvCalendariumCellLine line(style.texts, room, joined);
+        set = {line.font(), line.isEmpty() ? QStringList() : QStringList{line.text()}, line.isCut(), {}};
+    }
+    return {set, set.isCut ? 0 : texts.size()};
 }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarCellTypeConfig.h"
+#include "MvCalendar/MvTextFitter.h"
 #include "MvCalendar/MvYearPlanner.h"
 
 #include <QColor>
 #include <QFont>
-#include <QHash>
+
+#include <unordered_map>
 
 class MvCalendariumRendererYear;
 class QPainter;
@@ -23,31 +25,44 @@ private:
     /// How the texts of a type of cell are set; the same for all days of a pass.
     struct Style
     {
-        QFont texts;
+        QFont font; // of numbers and weekdays
+        MvTextFitter texts;
         double lineHeight = 0.0; // of the texts
-        double baseline = 0.0;   // of the number, below the middle of its cell
-        double textBaseline = 0.0;
         double rightPadding = 0.0;
         double leftPadding = 0.0;
-        int flags = 0;
+    };
+    struct Texts
+    {
+        MvFittedText set;
+        qsizetype whole = 0; // how many of the day's texts are printed whole
     };
 
     const Style &style(const MvCalendarCellType &type);
-    /// Below the middle of the cell, when the text is centred vertically.
-    double baseline(const MvCalendarCellType &type, const QFont &font) const;
+    /// Whether texts stand as they are written, in the size of the layout.
+    static bool areAsWritten(const Texts &texts, const QStringList &written, const Style &style);
+    void reportMissingWeekdays();
 
     void paintMonth(const MvYearPlanner &planner, int column, const QString &name);
     void paintDay(const MvYearPlanner &planner, const QRectF &cell, const QDate &date);
-    void paintFront(const MvYearPlanner::Parts &parts, const MvCalendarCellTypeConfig &config, const QDate &date,
-                    bool even);
-    void paintWeek(const QRectF &part, const MvCalendarCellTypeConfig &config, const QDate &date, bool even);
-    void paintTexts(const MvYearPlanner &planner, const QRectF &inner, const QStringList &lines, const Style &style);
+    /// Number and weekday; gives their baseline.
+    double paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell, const MvCalendarCellTypeConfig &config,
+                      const QDate &date, bool even);
+    void paintWeek(const QRectF &part, const MvCalendarCellTypeConfig &config, const QDate &date, bool even,
+                   double baseline);
+    void paintTexts(const MvYearPlanner &planner, const QRectF &inner, const Texts &texts, double baseline,
+                    const QColor &color);
     /// The room for texts in the part of a cell.
     QRectF innerRect(const MvYearPlanner &planner, const QRectF &part, const Style &style) const;
-    QStringList fittingLines(const QStringList &texts, const QSizeF &size, const Style &style, bool *isCut) const;
+    Texts fittingTexts(const QStringList &texts, const QRectF &inner, const Style &style) const;
+    /// As many lines as there is room for.
+    Texts setTexts(const QStringList &texts, const QSizeF &room, const Style &style) const;
 
     MvCalendariumRendererYear &m_renderer;
     QPainter &m_painter;
-    QHash<MvCalendarCellType, Style> m_styles;
+    std::unordered_map<int, Style> m_styles;
+    QFont m_nameFont;
+    QRectF m_rect;
+    QSizeF m_weekdaySize; // of the part of a cell
+    bool m_hasReportedWeekdays = false;
     QStringList m_weekdays; // short, Monday first
 };

@@ -40,8 +40,7 @@ MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, co
         m_lineAppearance = appearance;
         m_lineAppearance.setLayoutSchemaByID(appearance.layoutSchema().monthLayout());
     }
-    if (!isYear(appearance))
-        m_scale = largestScale();
+    m_scale = largestScale();
 }
 
 /// Of the steps from 1 down; the last one where none leaves room.
@@ -61,7 +60,9 @@ double MvCalendariumFit::largestScale() const
 bool MvCalendariumFit::hasRoom(double scale) const
 {
     const QSizeF room(m_room.width(), m_room.height() - lineHeight(scale));
-    return makeRenderer(m_appearance, longestMonth, scale)->hasRoom(room) && findsNothingUnfitting(scale, room);
+    if (!makeRenderer(m_appearance, longestMonth, scale)->hasRoom(room))
+        return false;
+    return isYear(m_appearance) || findsNothingUnfitting(scale, room); // years say it all themselves
 }
 
 bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) const
@@ -71,7 +72,9 @@ bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) c
     const Renderer renderer = makeRenderer(withoutHeaders, longestMonth, scale);
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
-    renderer->render(painter, {QPointF(), QSizeF(air * room.width(), room.height())});
+    // a strip says itself how far its numbers are apart, and takes more rows where it is narrower
+    const double width = m_appearance.type() == CALENDAR_ONE_ROW ? room.width() : air * room.width();
+    renderer->render(painter, {QPointF(), QSizeF(width, room.height())});
     return renderer->unfittingTexts().isEmpty();
 }
 
@@ -86,9 +89,7 @@ double MvCalendariumFit::lineHeight(double scale) const
 void MvCalendariumFit::apply(MvCalendariumRenderer &renderer, double scale) const
 {
     renderer.setProductSize(m_paper);
-    const MvCalendariumAppearance &appearance = renderer.appearance();
-    if (!isYear(appearance))
-        renderer.setScale(scale, scale * appearance.optimizedSize().lengthFactor(m_paper));
+    renderer.setScale(scale, scale * renderer.appearance().optimizedSize().lengthFactor(m_paper));
 }
 
 MvCalendariumFit::Renderer MvCalendariumFit::makeRenderer(const MvCalendariumAppearance &appearance, const QDate &month,

