@@ -495,6 +495,8 @@ void tst_MvCalendarEventListWidget::keysAlone()
     const auto cursor = [view] { return QPoint(view->currentIndex().column(), view->currentIndex().row()); };
     list.findChild<QPushButton *>(u"newEntryButton"_qs)->setFocus();
     QTest::keyClick(list.focusWidget(), Qt::Key_Tab);
+    QCOMPARE(list.focusWidget()->objectName(), u"entrySearchField"_qs);
+    QTest::keyClick(list.focusWidget(), Qt::Key_Tab);
     QVERIFY(view->hasFocus());
     QCOMPARE(cursor(), QPoint(0, 0));
     press(Qt::Key_Down);

@@ -373,7 +373,7 @@ void tst_MvStudioWindow::statusBar()
     // a text that has no room is told, and its page is one click away
     auto *button = window()->findChild<QToolButton *>(u"unfittingButton"_s);
     QVERIFY(!button->isVisible());
-    const QString longText = u"Donaudampfschifffahrtsgesellschaftskapitänswitwenrentenauszahlungsstelle"_s.repeated(2);
+    const QString longText = u"Donaudampfschifffahrtsgesellschaftskapitänswitwenrentenauszahlungsstelle"_s.repeated(20);
     MvCalendarEventRegistry::instance().setEvents(
         {MvCalendarEvent(longText, QDate(1990, 5, 17).startOfDay(), true, {}, QUuid::createUuid(), QDateTime())});
     QTRY_VERIFY(button->isVisible());
