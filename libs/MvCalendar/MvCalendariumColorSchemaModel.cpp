@@ -79,6 +79,15 @@ QColor tinted(const QColor &background, const QColor &ink)
     return QColor::fromHslF(qMax(0.0F, hue), saturation, lightness, alpha);
 }
 
+void tint(MvCalendariumColorSchema &schema, const MvCalendarCellType &type, const QList<MvParityLogicEnum> &weeks)
+{
+    for (const MvParityLogicEnum week : weeks) {
+        const MvCalendarCellColorKey background(MvCalendarCellColorRoleEnum::bgcolor, type, week);
+        const QColor ink = schema.cellColor({MvCalendarCellColorRoleEnum::textcolor, type, week});
+        schema.setCellColor(tinted(schema.cellColor(background), ink), background);
+    }
+}
+
 } // namespace
 
 MvCalendariumColorSchemaModel::MvCalendariumColorSchemaModel(QObject *parent)
@@ -187,15 +196,8 @@ bool MvCalendariumColorSchemaModel::setData(const QModelIndex &index, const QVar
         return false;
     MvCalendariumColorSchema schema = colorSchema();
     schema.setCellColor(color, key(index));
-    const MvCalendarCellType type = cellType(index.row());
-    copyToFollowers(schema, type);
-
-    States states = m_states;
-    if (type == vacation)
-        states.vacationsLikeSaturdays = schema.haveSameColors(CALENDAR_CELL_TYPE_SATURDAY, vacation);
-    if (type == holiday)
-        states.holidaysLikeSundays = schema.haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, holiday);
-    apply(schema, states);
+    copyToFollowers(schema, cellType(index.row()));
+    apply(schema, m_states);
     return true;
 }
 
@@ -203,18 +205,14 @@ void MvCalendariumColorSchemaModel::setTreatVacationsLikeSaturdays(bool on)
 {
     if (on == m_states.vacationsLikeSaturdays)
         return;
-    States states = m_states;
-    states.vacationsLikeSaturdays = on;
-    apply(withCoupling(vacation, on, m_beforeVacations), states);
+    apply(withCoupling(vacation, on, m_beforeVacations), m_states);
 }
 
 void MvCalendariumColorSchemaModel::setTreatHolidaysLikeSundays(bool on)
 {
     if (on == m_states.holidaysLikeSundays)
         return;
-    States states = m_states;
-    states.holidaysLikeSundays = on;
-    apply(withCoupling(holiday, on, m_beforeHolidays), states);
+    apply(withCoupling(holiday, on, m_beforeHolidays), m_states);
 }
 
 void MvCalendariumColorSchemaModel::setUseParityLogic(bool on)
@@ -364,7 +362,8 @@ void MvCalendariumColorSchemaModel::copyToFollowers(MvCalendariumColorSchema &sc
     }
 }
 
-/// Keeps the schema before switching on, to bring its colours back.
+/// Keeps the schema before switching on, to bring its colours back. Where these do not tell the follower from its
+/// source, or nothing was kept, a slightly different background does.
 MvCalendariumColorSchema MvCalendariumColorSchemaModel::withCoupling(const MvCalendarCellType &follower, bool on,
                                                                      SavedSchema &before) const
 {
@@ -376,6 +375,10 @@ MvCalendariumColorSchema MvCalendariumColorSchemaModel::withCoupling(const MvCal
             takeColors(schema, *before, type, MvParityLogicEnum::both);
     }
     before = on ? SavedSchema(colorSchema()) : std::nullopt;
+    if (!m_states.parities)
+        schema.copyParities(true, false); // weeks that alternated before do not again
+    if (!on && schema.haveSameColors(follower.synthetizingSource(), follower))
+        tint(schema, follower, {MvParityLogicEnum::even, MvParityLogicEnum::odd});
     return schema;
 }
 
@@ -397,11 +400,8 @@ MvCalendariumColorSchema MvCalendariumColorSchemaModel::withTintedOddWeeks() con
     MvCalendarCellType types = tintedTypes();
     if (m_hasHeadPerDay)
         types |= headTypes();
-    for (const MvCalendarCellType &type : types.singleTypes()) {
-        const MvCalendarCellColorKey odd(MvCalendarCellColorRoleEnum::bgcolor, type, MvParityLogicEnum::odd);
-        const QColor ink = schema.cellColor({MvCalendarCellColorRoleEnum::textcolor, type, MvParityLogicEnum::odd});
-        schema.setCellColor(tinted(schema.cellColor(odd), ink), odd);
-    }
+    for (const MvCalendarCellType &type : types.singleTypes())
+        tint(schema, type, {MvParityLogicEnum::odd});
     return schema;
 }
 
@@ -434,8 +434,11 @@ void MvCalendariumColorSchemaModel::reportStates(const States &states)
         Q_EMIT gridColorChanged(states.gridColor);
 }
 
-void MvCalendariumColorSchemaModel::apply(const MvCalendariumColorSchema &schema, const States &states)
+void MvCalendariumColorSchemaModel::apply(const MvCalendariumColorSchema &schema, States states)
 {
+    const States seen = statesOf(schema);
+    states.vacationsLikeSaturdays = seen.vacationsLikeSaturdays;
+    states.holidaysLikeSundays = seen.holidaysLikeSundays;
     const bool hasChanged = !(schema == colorSchema());
     m_appearance.setColorSchema(schema);
     const States before = std::exchange(m_states, states);

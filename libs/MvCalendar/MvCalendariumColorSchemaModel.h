@@ -44,11 +44,12 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     /// Takes a valid colour. Saturdays and Sundays take along what is treated like them; vacations or holidays that get
-    /// a colour of their own are not treated like them any longer.
+    /// a colour of their own are not treated like them any longer, those that get the same colours are.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 public Q_SLOTS:
-    /// Switching off gives vacations the colours back that they had before, if they had others.
+    /// Switching off gives vacations the colours back that they had before, or a slightly different background when
+    /// these would be alike, too: the state is always that of the colours.
     void setTreatVacationsLikeSaturdays(bool on);
     void setTreatHolidaysLikeSundays(bool on);
     /// Switching on gives odd weeks the colours back that they had before, or a slightly different background at first;
@@ -101,8 +102,8 @@ private:
     MvCalendariumColorSchema withTintedOddWeeks() const;
     void showRows();
     void reportStates(const States &states);
-    /// Takes over what an edit led to.
-    void apply(const MvCalendariumColorSchema &schema, const States &states);
+    /// Takes over what an edit led to. Whether days are treated alike is what the schema says.
+    void apply(const MvCalendariumColorSchema &schema, States states);
 
     MvCalendariumAppearance m_appearance;
     QList<Row> m_rows;

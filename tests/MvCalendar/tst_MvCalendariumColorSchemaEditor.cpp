@@ -182,6 +182,11 @@ void tst_MvCalendariumColorSchemaEditor::couplingEndsByAColorOfItsOwn()
     QCOMPARE(state.takeFirst().first().toBool(), false);
     paint(model, CALENDAR_CELL_TYPE_SUNDAY, Qt::green);
     QCOMPARE(model.colorSchema().cellColor(key(CALENDAR_CELL_TYPE_HOLIDAY)), red);
+    paint(model, CALENDAR_CELL_TYPE_SUNDAY, red); // alike again
+    QCOMPARE(state.takeFirst().first().toBool(), true);
+    model.setTreatHolidaysLikeSundays(false); // there is nothing to go back to
+    QVERIFY(!model.colorSchema().haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY));
+    QCOMPARE(state.takeFirst().first().toBool(), false);
 }
 
 void tst_MvCalendariumColorSchemaEditor::weeksAlternate()

@@ -177,12 +177,8 @@ QHash<QString, Control> controlsOf(const OpenPanels &open)
         model.setAppearance(look());
         return colorsOf(&model);
     };
-    // uncoupled days may still look alike: the next colour that somebody gives them tells them apart
-    const auto coupled = [schema](const MvCalendarCellType &a, const MvCalendarCellType &b) -> Control {
-        return [=](const QWidget *widget) {
-            const QVariant shown = checkedOf(qobject_cast<const QAbstractButton *>(widget));
-            return QPair(shown, shown == 2 ? QVariant(schema().haveSameColors(a, b) ? 2 : 0) : shown);
-        };
+    const auto coupled = [schema](const MvCalendarCellType &a, const MvCalendarCellType &b) {
+        return switched([=] { return schema().haveSameColors(a, b); });
     };
     const Control layoutControl = [look](const QWidget *widget) {
         const auto *list = qobject_cast<const QListWidget *>(widget);
