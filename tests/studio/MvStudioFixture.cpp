@@ -218,6 +218,10 @@ bool MvStudioFixture::chooseFile(const QString &path) const
     auto *name = files ? files->findChild<QLineEdit *>(u"fileNameEdit"_s) : nullptr;
     if (!name)
         return false;
+    files->activateWindow();
+    name->setFocus(); // without, a file that the list selects goes before the name
+    if (!QTest::qWaitFor([name] { return name->hasFocus(); }))
+        return false;
     name->setText(path);
     static_cast<QDialog *>(files)->accept();
     return true;

@@ -3,6 +3,7 @@
 #include "flows/MvProjectFlow.h"
 
 #include "MvProject/MvProject.h"
+#include "MvProject/MvProjectFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void missingPhotosAreFound();
     void damagedFileLeadsToItsBackup();
     void failedSavingLeadsElsewhere();
+    void nextCalendarIsLikeTheLast_data();
     void nextCalendarIsLikeTheLast();
 };
 
@@ -213,20 +215,40 @@ void tst_StudioFileJourneys::failedSavingLeadsElsewhere()
     auto *message = MvStudioFixture::dialog<QMessageBox>("errorMessage");
     QVERIFY(message);
     QCOMPARE(message->informativeText().count(u"im Weg"_s), 1);
-    QVERIFY(MvStudioFixture::find<QPushButton>(message, "saveElsewhereButton"));
+    QVERIFY(studio.click(message, "saveElsewhereButton"));
+    const QString elsewhere = studio.path(u"anderswo.mvcalendar"_s);
+    QVERIFY(studio.chooseFile(elsewhere));
+    MvProject read;
+    QVERIFY(read.open(QFileInfo(elsewhere)));
+    QVERIFY(read.document() == studio.document());
+    QCOMPARE(studio.project()->fileInfo().absoluteFilePath(), elsewhere);
+}
+
+void tst_StudioFileJourneys::nextCalendarIsLikeTheLast_data()
+{
+    QTest::addColumn<bool>("isOpened");
+    QTest::newRow("saved") << false;
+    QTest::newRow("opened and closed") << true;
 }
 
 void tst_StudioFileJourneys::nextCalendarIsLikeTheLast()
 {
+    QFETCH(const bool, isOpened);
     MvStudioFixture studio;
     MvCalendarDocument document = studio.document();
     MvPageFormat format = MvPageFormat::fromName(u"A3"_s);
     format.setBleed(30);
     document.setFormat(format);
     document.setHolidayConfig({MvLocale(u"de_CH"_s), u"ZG"_s, document.holidayConfig().features()});
-    studio.project()->change(document, u"Papier"_s);
-    QVERIFY(studio.project()->saveAs(QFileInfo(studio.path(u"familie.mvcalendar"_s))));
-    QVERIFY(studio.trigger("saveProject"));
+    const QFileInfo file(studio.path(u"familie.mvcalendar"_s));
+    if (isOpened) {
+        QCOMPARE(MvProjectFile::write(document, file), QString());
+        studio.window()->projectFlow()->open(file.filePath());
+        QVERIFY(studio.window()->close());
+    } else {
+        studio.project()->change(document, u"Papier"_s);
+        QVERIFY(studio.project()->saveAs(file));
+    }
     studio.restart();
     const MvCalendarDocument next = MvProjectFlow::firstDocument();
     QVERIFY(next.format() == format);

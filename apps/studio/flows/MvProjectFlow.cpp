@@ -53,7 +53,9 @@ MvProjectFlow::MvProjectFlow(MvProject *project, QWidget *window)
     : QObject(window)
     , m_project(project)
     , m_window(window)
-{}
+{
+    connect(project, &MvProject::saved, this, [project] { MvCalendarHabits::remember(project->document()); });
+}
 
 MvCalendarDocument MvProjectFlow::firstDocument()
 {
@@ -276,7 +278,6 @@ void MvProjectFlow::write(const QString &path, const Then &then)
         connect(other, &QPushButton::clicked, this, [this, then] { saveAsThen(then); });
         return;
     }
-    MvCalendarHabits::remember(m_project->document());
     MvStudioSettings::addRecentFile(path);
     MvStudioSettings::setFolder(projectFolder, QFileInfo(path).absolutePath());
     Q_EMIT recentFilesChanged();
