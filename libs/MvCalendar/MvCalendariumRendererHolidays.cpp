@@ -13,6 +13,7 @@ namespace {
 const MvCalendarCellTypeConfig blockCell(CALENDAR_CELL_TYPE_WEEKDAY, CALENDAR_CELL_TYPE_WEEKDAY);
 const QString itemSeparator = u", "_s;
 
+constexpr double leading = 1.1;     // of a line's height: accents of capitals keep off the descenders above them
 constexpr int mostDaysBeyond = 366; // where a run is followed out of the month: an entry of every day has no end
 
 QString paragraph(const QString &plainText)
@@ -132,7 +133,8 @@ void MvCalendariumRendererHolidays::renderBase(QPainter &painter, const QRectF &
         return;
     QStringList bound = items();
     bound.replaceInStrings(u": "_s, u":\u00a0"_s); // a date stays with the first word of its name
-    const MvFittedText fitted = fitter(CALENDAR_CELL_TYPE_WEEKDAY).fitRunning(inner.size(), bound, itemSeparator);
+    const QSizeF room(inner.width(), inner.height() / leading);
+    const MvFittedText fitted = fitter(CALENDAR_CELL_TYPE_WEEKDAY).fitRunning(room, bound, itemSeparator);
     for (const QString &text : fitted.cutTexts)
         reportUnfitting(startDate(), QString(text).replace(u'\u00a0', u' '), rect);
     reportMissingGlyphs(startDate(), bound, fitted.font, rect);
@@ -140,7 +142,7 @@ void MvCalendariumRendererHolidays::renderBase(QPainter &painter, const QRectF &
     painter.save();
     painter.setFont(fitted.font);
     painter.setPen(color);
-    const double lineHeight = QFontMetricsF(fitted.font).height();
+    const double lineHeight = leading * QFontMetricsF(fitted.font).height();
     QRectF line = inner;
     for (const QString &text : fitted.lines) {
         drawText(painter, line, Qt::AlignLeft | Qt::AlignTop, text);
