@@ -11,6 +11,7 @@ namespace {
 constexpr double hair = 1.0;       // between a text and the upper and lower edge of its cell, at least
 constexpr double air = 0.13;       // of the type's size, between a text and the sides of its cell: half a blank
 constexpr double numberGap = 3.0;  // between a text and the number
+constexpr double easyGap = 7.0;    // so that the two do not seem to touch
 constexpr double besideGap = 10.0; // between a number and the texts beside it
 constexpr double textGap = 5.0;    // between texts and what else is in the cell
 
@@ -86,8 +87,9 @@ MvPlacedTexts MvDayTextPlacement::place(const QStringList &texts) const
     const double line = lineHeight(m_fitter.font());
     const double height = m_cell.inner.height() - m_cell.numberHeight;
     MvPlacedTexts best = inUsualPlace(texts);
-    const auto consider = [&best](const MvPlacedTexts &other) {
-        if (isBetter(other.text, best.text))
+    const auto consider = [&](const MvPlacedTexts &other) {
+        const bool isEasier = isClear(other, easyGap) && !isClear(best, easyGap);
+        if (isBetter(other.text, best.text) || (isEasier && !isBetter(best.text, other.text)))
             best = other;
     };
     if (height < line)
@@ -116,9 +118,9 @@ MvPlacedTexts MvDayTextPlacement::placed(const MvFittedText &text) const
     return {text, m_cell.inner, top, bottom, false};
 }
 
-bool MvDayTextPlacement::isClear(const MvPlacedTexts &texts) const
+bool MvDayTextPlacement::isClear(const MvPlacedTexts &texts, double gap) const
 {
-    const QRectF number = m_cell.numberInk.adjusted(-numberGap, -numberGap, numberGap, numberGap);
+    const QRectF number = m_cell.numberInk.adjusted(-gap, -gap, gap, gap);
     const QList<QRectF> inks = texts.ink();
     return std::all_of(inks.cbegin(), inks.cend(), [&](const QRectF &ink) {
         return ink.isNull() || (m_cell.rect.contains(ink) && (m_cell.numberInk.isNull() || !ink.intersects(number)));
@@ -131,7 +133,7 @@ MvPlacedTexts MvDayTextPlacement::inUsualPlace(const QStringList &texts) const
     for (;;) {
         const MvPlacedTexts found = placed(m_fitter.fit({usualWidth(), height}, texts, widestWord()));
         const auto count = found.text.lines.size();
-        if (count == 0 || isClear(found))
+        if (count == 0 || isClear(found, numberGap))
             return found;
         height = lineHeight(found.text.font) * double(count - 1); // a number in the middle parts the lines unevenly
     }
@@ -142,7 +144,7 @@ MvPlacedTexts MvDayTextPlacement::onOneLine(const QStringList &texts) const
 {
     const double height = std::min(lineHeight(m_fitter.font()), m_cell.rect.height() - 2.0 * hair);
     MvPlacedTexts found = placed(m_fitter.fit({usualWidth(), height}, texts, widestWord()));
-    if (!isClear(found))
+    if (!isClear(found, numberGap))
         found = placed({found.text.font, {}, true, texts});
     return found;
 }
@@ -163,7 +165,7 @@ MvPlacedTexts MvDayTextPlacement::besideNumber(const QStringList &texts) const
         room.setLeft(m_cell.numberInk.right() + besideGap);
     MvPlacedTexts found{m_fitter.fit(room.size(), texts), room, {}, {}, true};
     (isAtBottom ? found.top : found.bottom) = found.text.lines;
-    if (!isClear(found))
+    if (!isClear(found, numberGap))
         found = placed({found.text.font, {}, true, texts});
     return found;
 }

@@ -51,7 +51,7 @@ private:
     MvPlacedTexts onOneLine(const QStringList &texts) const;
     MvPlacedTexts besideNumber(const QStringList &texts) const;
     MvPlacedTexts placed(const MvFittedText &text) const;
-    bool isClear(const MvPlacedTexts &texts) const;
+    bool isClear(const MvPlacedTexts &texts, double gap) const;
     double widestWord() const;
     double usualWidth() const;
 

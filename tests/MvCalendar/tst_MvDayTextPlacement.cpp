@@ -63,6 +63,9 @@ void tst_MvDayTextPlacement::places_data()
     QTest::newRow("low, beside over the foot") << QSizeF(380, 96) << bottom << both << both << none << true << none;
     QTest::newRow("low, the line meets the number") << QSizeF(200, 70) << top << QStringList{u"Pfingstmontag"_s} << none
                                                     << QStringList{u"Pfingstmontag"_s} << true << none;
+    const QStringList aunt{u"Großtante Wilhelmine aus Berlin"_s};
+    QTest::newRow("low, the line comes near the number")
+        << QSizeF(380, 89) << top << aunt << none << aunt << true << none;
     QTest::newRow("narrow: divided under the number")
         << QSizeF(120, 300) << top << QStringList{u"Pfingstmontag"_s} << none << QStringList{u"Pfingstmon-"_s, u"tag"_s}
         << false << none;
