@@ -103,8 +103,6 @@ private Q_SLOTS:
     void arrangementFillsTheRectangle_data();
     void arrangementFillsTheRectangle();
     void smallMonth();
-    void everyDateOnce_data();
-    void everyDateOnce();
     void titles_data();
     void titles();
     void monthsOfTheCalendar_data();
@@ -117,14 +115,10 @@ private Q_SLOTS:
     void plannerFillsTheRectangle();
     void plannerCell_data();
     void plannerCell();
-    void textsStayInTheirCells_data();
-    void textsStayInTheirCells();
     void weekGivesWayToTexts();
     void weekIsReadableOnEveryGround();
     void whatItShows_data();
     void whatItShows();
-    void minimumSizeIsEnough_data();
-    void minimumSizeIsEnough();
 };
 
 void tst_MvCalendariumRendererYear::arrangement_data()
@@ -210,48 +204,6 @@ void tst_MvCalendariumRendererYear::smallMonth()
     QCOMPARE(grid.headRect(3).bottom(), grid.dayRect(0, 3).top());
     QCOMPARE(grid.nameRect().bottom(), grid.weekHeadRect().top());
     QCOMPARE(grid.nameRect().right(), grid.dayRect(2, 7).right());
-}
-
-void tst_MvCalendariumRendererYear::everyDateOnce_data()
-{
-    QTest::addColumn<QString>("info");
-    QTest::addColumn<QDate>("from");
-    QTest::addColumn<QRectF>("rect");
-    QTest::addColumn<int>("days");
-    QTest::newRow("grid") << gridInfo << QDate(2027, 1, 1) << a4 << 365;
-    QTest::newRow("grid, leap year, rows left out")
-        << gridInfo + u", calendar_render_no_empty_weeks"_s << QDate(2028, 1, 1) << a4 << 366;
-    QTest::newRow("grid, school year") << gridInfo << QDate(2027, 8, 1) << a4 << 366;
-    QTest::newRow("planner") << plannerInfo << QDate(2027, 1, 1) << a2 << 365;
-    QTest::newRow("planner, leap year, upright") << plannerInfo << QDate(2028, 1, 1) << a2Upright << 366;
-    QTest::newRow("planner, tiny") << plannerInfo << QDate(2026, 8, 1) << QRectF(0, 0, 300, 200) << 365;
-}
-
-void tst_MvCalendariumRendererYear::everyDateOnce()
-{
-    QFETCH(QString, info);
-    QFETCH(QDate, from);
-    QFETCH(QRectF, rect);
-    QFETCH(int, days);
-    MvPageFixture page = pageOf(info, from);
-    page.render(rect);
-    QCOMPARE(page.days.size(), days);
-    const QMap<QDate, QRectF> cells = cellsByDate(page);
-    QCOMPARE(cells.size(), days);
-    QCOMPARE(cells.firstKey(), from);
-    QCOMPARE(cells.lastKey(), from.addMonths(12).addDays(-1));
-    const QRectF allowed = rect.adjusted(-tolerance, -tolerance, tolerance, tolerance);
-    double area = 0.0;
-    QSet<QPair<int, int>> centres;
-    for (const QRectF &cell : cells) {
-        QVERIFY(cell.width() > 0 && cell.height() > 0 && allowed.contains(cell));
-        area += cell.width() * cell.height();
-        centres.insert({qRound(cell.center().x() * 10), qRound(cell.center().y() * 10)});
-    }
-    QCOMPARE(centres.size(), days);
-    // all of one size, so that distinct centres do not overlap
-    const QSizeF size = cells.first().size();
-    QVERIFY(qAbs(area - size.width() * size.height() * days) < 1e-3);
 }
 
 void tst_MvCalendariumRendererYear::titles_data()
@@ -454,53 +406,6 @@ void tst_MvCalendariumRendererYear::plannerCell()
     QVERIFY(planner.parts(planner.dayRect(0, 1), false).week.isNull());
 }
 
-void tst_MvCalendariumRendererYear::textsStayInTheirCells_data()
-{
-    QTest::addColumn<QRectF>("rect");
-    QTest::addColumn<bool>("fits");
-    QTest::newRow("A1") << QRectF(0, 0, 8200, 5700) << true;
-    QTest::newRow("A2 upright") << a2Upright << true;
-    QTest::newRow("A3") << QRectF(0, 0, 4000, 2770) << true;
-    QTest::newRow("A4") << a4 << false;
-    QTest::newRow("smaller than it should be") << QRectF(0, 0, 2000, 1900) << false;
-}
-
-void tst_MvCalendariumRendererYear::textsStayInTheirCells()
-{
-    QFETCH(QRectF, rect);
-    QFETCH(bool, fits);
-    const QDate crowded(2027, 6, 16);
-    MvCalendarEventRegistry::instance().setEvents({entry(u"Großtante Wilhelmine Süß"_s, crowded.addYears(-70)),
-                                                   entry(u"Jörg und Annemarie"_s, crowded.addYears(-30))});
-    MvPageFixture page = pageOf(plannerInfo, QDate(2027, 1, 1));
-    const MvPaintRecording recording = page.render(rect);
-    const QMap<QDate, QRectF> cells = cellsByDate(page);
-    const QRectF months = yearOf(page).monthsRect(rect);
-    for (const Item &text : recording.items(Item::Text)) {
-        const auto cell = std::find_if(cells.cbegin(), cells.cend(),
-                                       [&](const QRectF &c) { return c.contains(text.bounds.center()); });
-        if (cell == cells.cend())
-            continue; // title and months
-        QVERIFY2(cell->adjusted(-1, -1, 1, 1).contains(text.bounds),
-                 qPrintable(cell.key().toString(Qt::ISODate) + u' ' + text.text));
-        QVERIFY(text.bounds.top() >= months.top());
-    }
-    const auto &unfitting = page.renderer().unfittingTexts();
-    const auto reported =
-        std::find_if(unfitting.cbegin(), unfitting.cend(), [&](const MvUnfittingText &u) { return u.date == crowded; });
-    QCOMPARE(reported == unfitting.cend(), fits);
-    const QString painted = textsIn(recording, cells.value(crowded)).join(u' ');
-    if (fits) {
-        QVERIFY2(painted.contains(u"Wilhelmine"_s) && painted.contains(u"Annemarie"_s), qPrintable(painted));
-        QVERIFY(!painted.contains(u'…'));
-    } else {
-        QCOMPARE(reported->text, u"Großtante Wilhelmine Süß"_s);
-        QCOMPARE(reported->rect, cells.value(crowded));
-        QVERIFY(painted.startsWith(u"16"_s));
-        QVERIFY(!painted.contains(u"Süß"_s) || painted.contains(u'…'));
-    }
-}
-
 void tst_MvCalendariumRendererYear::weekGivesWayToTexts()
 {
     const QDate monday(2027, 6, 14); // week 24
@@ -573,29 +478,6 @@ void tst_MvCalendariumRendererYear::whatItShows()
     MvPageFixture overridden(appearance, QDate(2027, 1, 1));
     QVERIFY(overridden.renderer().usedCellTypes().contains(CALENDAR_CELL_TYPE_WEEK_OF_YEAR));
     QVERIFY(texts(overridden.render(a2)).contains(u"44"_s));
-}
-
-void tst_MvCalendariumRendererYear::minimumSizeIsEnough_data()
-{
-    QTest::addColumn<QString>("info");
-    QTest::newRow("grid") << gridInfo;
-    QTest::newRow("planner") << plannerInfo;
-}
-
-void tst_MvCalendariumRendererYear::minimumSizeIsEnough()
-{
-    QFETCH(QString, info);
-    MvPageFixture page = pageOf(info, QDate(2027, 1, 1));
-    const QRectF rect(QPointF(0, 0), page.renderer().minimumSizeHint());
-    const QList<Item> items = page.render(rect).items(Item::Text);
-    QVERIFY(items.size() > 365);
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        QVERIFY2(rect.contains(items.at(i).bounds), qPrintable(items.at(i).text));
-        for (qsizetype j = i + 1; j < items.size(); ++j) {
-            QVERIFY2(!items.at(i).bounds.intersects(items.at(j).bounds),
-                     qPrintable(items.at(i).text + u" and "_s + items.at(j).text));
-        }
-    }
 }
 
 MV_TEST_MAIN(tst_MvCalendariumRendererYear)
