@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,8 +29,10 @@ constexpr double holidayTextsFromHeight = 60.0;
 constexpr double textGap = 5.0; // between texts and what else is in the cell
 const QString tallestDigit = u"8"_s;
 const QString widestNumber = u"22"_s;
-constexpr double numberAir = 0.3;     // of the type's size, between two numbers side by side
-constexpr double mostPixels = 8192.0; // of a photo in a cell, on each side
+const QString broadestNumber = u"24"_s; // by what is seen of it
+constexpr double numberAir = 0.3;       // of the type's size, between two numbers side by side
+constexpr double leastNumberAir = 0.1;  // nearer than that, two numbers read as one
+constexpr double mostPixels = 8192.0;   // of a photo in a cell, on each side
 constexpr double largeCell = 300.0;
 constexpr double largeCellMargin = 10.0;
 constexpr double smallCellMargin = 2.0;
@@ -40,6 +43,66 @@ constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
 constexpr double leastMargin = 1.0;
 constexpr double widestPhotoBesideTexts = 0.5; // of a wide cell
 const QString separator = u", "_s;
+
+/// Lines one below the other, the last on the baseline 0.
+struct Block
+{
+    QList<MvCalendariumCellLine> lines;
+    QRectF ink;
+};
+
+/// By line height, or further apart where letters would meet the accents below them.
+Block stacked(const MvFittedText &text, const QRectF &widest)
+{
+    const MvTextFitter unchanged(text.font, text.font.pixelSize() + 1.0, MvHyphenator());
+    Block block;
+    double pitch = QFontMetricsF(text.font).height();
+    for (const QString &words : text.lines) {
+        MvCalendariumCellLine line(unchanged, {2.0 * widest.width(), 2.0 * pitch}, words);
+        line.align(widest, Qt::AlignLeft | Qt::AlignTop);
+        line.setBaseline(0.0);
+        if (!block.lines.isEmpty())
+            pitch = std::max(pitch, block.lines.constLast().ink().bottom() - line.ink().top() + leastMargin);
+        block.lines.append(line);
+    }
+    double y = -pitch * double(block.lines.size() - 1);
+    for (MvCalendariumCellLine &line : block.lines) {
+        line.setBaseline(y);
+        block.ink |= line.ink();
+        y += pitch;
+    }
+    return block;
+}
+
+/// Texts with what is seen of them no higher than `height`: in the room less its paddings, or in the widest.
+std::pair<MvFittedText, Block> fitWide(const MvTextFitter &fitter, double height, const QRectF &inner,
+                                       const QRectF &widest, const QStringList &texts)
+{
+    MvFittedText fitted = fitter.fitRunning(inner.size(), texts, separator);
+    if (fitted.isCut || fitted.font != fitter.font()) // paddings give before letters become smaller
+        fitted = fitter.fitRunning(widest.size(), texts, separator);
+    Block block = stacked(fitted, widest);
+    if (!block.lines.isEmpty() && block.ink.height() <= height)
+        return {fitted, block};
+    // by what is seen of the lines instead of their height
+    std::pair<MvFittedText, Block> best{{fitted.font, {}, true, texts}, {}};
+    const QList<QFont> sizes = fitter.sizes();
+    for (const QFont &font : sizes) {
+        const double line = QFontMetricsF(font).height();
+        const MvTextFitter fixed(font, font.pixelSize() + 1.0, fitter.hyphenator());
+        for (auto count = std::max<qsizetype>(1, fitted.lines.size()); count > 0; --count) {
+            const MvFittedText smaller = fixed.fitRunning({widest.width(), line * double(count)}, texts, separator);
+            block = stacked(smaller, widest);
+            if (block.lines.isEmpty() || block.ink.height() > height)
+                continue;
+            if (!smaller.isCut)
+                return {smaller, block};
+            best = {smaller, block};
+            break;
+        }
+    }
+    return best;
+}
 
 } // namespace
 
@@ -120,24 +183,26 @@ MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, c
 {
     const MvTextFitter fitter = m_renderer.fitter(type);
     const QList<QFont> sizes = fitter.sizes();
-    const auto hasRoom = [&](const QFont &font, double air) { // all numbers of a page are as large as the widest
-        return MvCalendariumTextPainter::advance(font, widestNumber) + air * font.pixelSize() <= rect.width() &&
+    const auto hasRoom = [&](const QFont &font) { // all numbers of a page are as large as the widest
+        return MvCalendariumTextPainter::advance(font, widestNumber) + numberAir * font.pixelSize() <= rect.width() &&
                QFontMetricsF(font).capHeight() <= rect.height() - 2.0 * leastMargin;
     };
-    auto size = std::find_if(sizes.cbegin(), sizes.cend(), [&](const QFont &font) { return hasRoom(font, numberAir); });
-    if (size == sizes.cend() && hasRoom(sizes.constLast(), 0.0)) // without air only where nothing else helps
-        size = std::prev(sizes.cend());
-    const MvTextFitter fixed(size == sizes.cend() ? sizes.constLast() : *size, fitter.floor(), MvHyphenator());
+    const auto size = std::find_if(sizes.cbegin(), sizes.cend(), hasRoom);
+    const QFont font = size == sizes.cend() ? sizes.constLast() : *size;
+    const MvTextFitter fixed(font, fitter.floor(), MvHyphenator());
     const double hair = leastMargin / 2.0;
+    const auto inkOf = [&](const QString &digits) {
+        return MvCalendariumCellLine({font, font.pixelSize() + 1.0, MvHyphenator()}, 2.0 * rect.size(), digits).ink();
+    };
     MvCalendariumCellLine line(fixed, rect.size(), number);
-    const bool isTooHigh =
-        MvCalendariumCellLine(fixed, rect.size(), tallestDigit).ink().height() > rect.height() - hair;
-    if (line.isCut() || isTooHigh)
+    const bool isTooNear =
+        size == sizes.cend() && inkOf(broadestNumber).width() + leastNumberAir * font.pixelSize() > rect.width();
+    if (line.isCut() || isTooNear || inkOf(tallestDigit).height() > rect.height() - hair)
         return {fixed, QSizeF(), number}; // half a number is none, and all of a page have room or none has
     line.align(rect.marginsRemoved(m_renderer.padding(type)), int(m_renderer.textAlignment(type)));
-    const bool isTight = line.ink().height() > rect.height() - 2.0 * leastMargin;
-    line.keepInside(
-        rect.adjusted(leastMargin, isTight ? hair : leastMargin, -leastMargin, isTight ? 0.0 : -leastMargin));
+    const bool isTight = inkOf(tallestDigit).height() > rect.height() - 2.0 * leastMargin;
+    const double upright = isTight ? hair / 2.0 : leastMargin;
+    line.keepInside(rect.adjusted(leastMargin, upright, -leastMargin, -upright));
     return line;
 }
 
@@ -273,38 +338,19 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
     const MvTextFitter fitter = m_renderer.holidayFitter(config.inscriptionConfig());
     const QRectF widest(QPointF(inner.left(), rect.top() + leastMargin),
                         QPointF(std::max(inner.left(), rect.right() - leastMargin), rect.bottom() - leastMargin));
-    MvFittedText fitted = fitter.fitRunning(inner.size(), texts, separator);
-    if (fitted.isCut || fitted.font != fitter.font()) // paddings give before letters become smaller
-        fitted = fitter.fitRunning(widest.size(), texts, separator);
-    if (fitted.lines.isEmpty()) { // the row is lower than a line, but perhaps not than what is seen of one
-        const MvFittedText line =
-            fitter.fitRunning({widest.width(), QFontMetricsF(fitted.font).height()}, texts, separator);
-        const QRectF ink = MvCalendariumTextPainter::inkRect(line.font, widest, Qt::AlignLeft, line.lines);
-        if (line.lines.size() == 1 && ink.height() <= rect.height() - leastMargin / 2.0)
-            fitted = line;
-    }
+    const auto [fitted, block] = fitWide(fitter, rect.height() - leastMargin / 2.0, inner, widest, texts);
     reportCut(date, fitted, rect);
     m_renderer.reportMissingGlyphs(date, texts, fitted.font, rect);
+    if (block.lines.isEmpty())
+        return;
 
-    const QFontMetricsF metrics(fitted.font);
-    const MvTextFitter unchanged(fitted.font, fitted.font.pixelSize() + 1.0, MvHyphenator());
-    double y =
-        baseline.value_or(inner.bottom() - metrics.descent()) - metrics.height() * double(fitted.lines.size() - 1);
-    QList<MvCalendariumCellLine> lines;
-    QRectF ink;
-    for (const QString &text : std::as_const(fitted.lines)) {
-        MvCalendariumCellLine line(unchanged, {widest.width() + inner.width(), rect.height()}, text);
-        line.align(widest, Qt::AlignLeft | Qt::AlignTop);
-        line.setBaseline(y);
-        y += metrics.height();
-        ink |= line.ink();
-        lines.append(line);
-    }
-    const double shift = ink.height() > widest.height() // a hair higher: touches both lines rather than one
+    const double last = baseline.value_or(inner.bottom() - QFontMetricsF(fitted.font).descent());
+    const QRectF ink = block.ink.translated(0.0, last);
+    const double shift = ink.height() > widest.height() // a hair higher: as near to the line above as to that below
                              ? rect.center().y() - ink.center().y()
                              : std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
-    for (MvCalendariumCellLine &line : lines) {
-        line.setBaseline(line.baseline() + shift);
+    for (MvCalendariumCellLine line : block.lines) {
+        line.setBaseline(line.baseline() + last + shift);
         line.draw(m_painter, m_renderer.fontColor(config, even));
     }
 }

@@ -23,6 +23,7 @@ constexpr double widestSheet = 1e5;
 constexpr double widestLeftHeader = 0.6;
 constexpr double widestLeftHeaderWithLongNames = 0.45;
 constexpr double lineAir = 1.0;      // between a text and the line above or below the row
+constexpr double headingHair = 0.3;  // between a heading and the line above or below it
 constexpr double headingAir = 0.4;   // between two headings, in parts of their size
 constexpr double weekTextAir = 20.0; // a strip must exceed the height of its text by this much to carry it
 
@@ -293,7 +294,7 @@ int MvCalendariumRendererOneDayPerRow::renderHeadline(QPainter &painter, const Q
     const int columns = numberEmptyOfColumns();
     // as high as what this gives: its lower line is the upper one of the first row
     drawCellBackground(painter, {rect.x(), rect.y(), rect.width(), std::floor(height)}, topLine, true);
-    renderHead(painter, columns, height, rect);
+    renderHead(painter, columns, std::floor(height), rect);
     renderColumnLines(painter, rect, columns);
     return static_cast<int>(height);
 }
@@ -303,7 +304,7 @@ void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int column
     if (!hasTopHeader())
         return;
     const double width = widthOfOneColumn(rect, columns);
-    QRectF cell(rect.x() + offsetOfLeftHeader(rect), rect.y(), width, height);
+    QRectF cell(rect.x() + offsetOfLeftHeader(rect), rect.y() + headingHair, width, height - 2.0 * headingHair);
     const QStringList headers = headings();
     MvTextFitter fitter = this->fitter(CALENDAR_CELL_TYPE_TOPLINE);
     QSizeF room = cell.marginsRemoved(padding(CALENDAR_CELL_TYPE_TOPLINE)).size();

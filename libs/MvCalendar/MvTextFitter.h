@@ -32,6 +32,7 @@ public:
 
     const QFont &font() const { return m_font; }
     double floor() const { return m_floor; }
+    const MvHyphenator &hyphenator() const { return m_hyphenator; }
     /// The font in all its sizes, from the largest to the smallest.
     QList<QFont> sizes() const;
 

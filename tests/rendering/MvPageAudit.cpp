@@ -179,7 +179,7 @@ void MvPageAudit::checkLines()
         const QRectF middle = line.bounds.adjusted(-hair / 2.0, -hair / 2.0, hair / 2.0, hair / 2.0);
         for (const Item &text : std::as_const(m_texts)) {
             if (overlap(middle, text.bounds, 0.0) && text.shape.intersects(middle))
-                add(LineThrough, describe(text));
+                add(LineThrough, describe(text) + u", line "_s + describe(line.bounds));
         }
     }
 }
