@@ -346,9 +346,9 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
 
     const double last = baseline.value_or(inner.bottom() - QFontMetricsF(fitted.font).descent());
     const QRectF ink = block.ink.translated(0.0, last);
-    const double shift = ink.height() > widest.height() // a hair higher: as near to the line above as to that below
-                             ? rect.center().y() - ink.center().y()
-                             : std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
+    double shift = std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
+    if (ink.height() > widest.height() || (shift != 0.0 && block.lines.size() > 1))
+        shift = rect.center().y() - ink.center().y(); // as near to the line above as to that below
     for (MvCalendariumCellLine line : block.lines) {
         line.setBaseline(line.baseline() + last + shift);
         line.draw(m_painter, m_renderer.fontColor(config, even));

@@ -25,14 +25,7 @@ const QList<Known> &known()
 {
     using K = MvPageAudit;
     static const QList<Known> list{
-        {"MONTH_GRID_CLASSIC", {K::TextsRunOn}},
-        {"MONTH_GRID_LINES", {K::LineThrough, K::TextsRunOn}},
-        {"FAMILY_PLANNER", {K::LineThrough, K::MissingText}},
-        {"DAY_LIST", {K::TextsMeet, K::LineThrough}},
-        {"BIRTHDAY_LIST", {K::FalseReport, K::TextsMeet}},
-        {"ONE_ROW_STRIP_SERIF", {K::TextsRunOn}},
-        {"TWO_WEEKS", {K::TextsRunOn}},
-        {"TWO_WEEKS_DESK", {K::TextsRunOn}},
+        {"BIRTHDAY_LIST", {K::FalseReport}},
     };
     return list;
 }
