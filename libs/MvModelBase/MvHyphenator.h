@@ -26,8 +26,8 @@ struct MvWordBreak
 ///
 /// Patterns are files named "hyph_de_CH.dic" as office programs use them. They are looked for among the shipped and the
 /// user's data (folder "hyphenation", see MvDirectoryConfig) and then in /usr/share/hyphen, first for language and
-/// country, then for the language in its own country, then for the language anywhere. A language without patterns is
-/// divided at hyphens alone.
+/// country, then for the language in its own country, then for the language anywhere. Those of Finnish, which no
+/// package has, are shipped. A language without patterns is divided at hyphens alone.
 ///
 /// A handle over patterns that are read once per process; divided words are kept, too. Safe to use from several
 /// threads.

@@ -60,6 +60,9 @@ void tst_MvHyphenator::divides_data()
     QTest::newRow("Hungarian, compounds") << u"hu_HU"_s << u"Húsvéthétfő"_s << u"Hús-|vét-|hétfő"_s;
     QTest::newRow("Greek") << u"el_GR"_s << u"Χριστούγεννα"_s << u"Χρι-|στού-|γεννα"_s;
     QTest::newRow("Norwegian under its other code") << u"no_NO"_s << u"Langfredag"_s << u"Langfre-|dag"_s;
+    QTest::newRow("Finnish, patterns of our own")
+        << u"fi_FI"_s << u"Uudenvuodenpäivä"_s << u"Uu-|den-|vuo-|den-|päivä"_s;
+    QTest::newRow("Finnish compound") << u"fi_FI"_s << u"juhannusaatto"_s << u"ju-|han-|nus-|aatto"_s;
     QTest::newRow("no patterns") << u"tr_TR"_s << u"Bayramı-Bayramı"_s << u"Bayramı-|Bayramı"_s;
     QTest::newRow("no language") << QString() << u"Pfingstmontag"_s << u"Pfingstmontag"_s;
 
