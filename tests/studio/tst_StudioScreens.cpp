@@ -2,6 +2,7 @@
 
 #include "common/MvProgressDialog.h"
 #include "common/MvStudioMessage.h"
+#include "common/MvStudioSettings.h"
 #include "flows/MvImportReport.h"
 #include "flows/MvRecoveryDialog.h"
 #include "flows/MvRestoreEntriesDialog.h"
@@ -174,7 +175,12 @@ void tst_StudioScreens::sidePanels()
     QFETCH(QScreen *, screen);
     const MvStudioFixture studio;
     MvStudioWindow *window = studio.window();
+    MvStudioSettings::addRecentFile(studio.writePhoto(u"Unser Familienkalender fürs Jahr.png"_s, Qt::red));
     window->setGeometry(screen->availableGeometry());
+    QVERIFY(studio.trigger("showWelcome"));
+    QTest::qWait(1); // the layout comes later
+    QVERIFY2(window->minimumSizeHint().width() <= screen->availableSize().width(),
+             qPrintable(QDebug::toString(window->minimumSizeHint())));
     QList<QDockWidget *> docks;
     for (QDockWidget *dock : window->findChildren<QDockWidget *>())
         if (dock->objectName() != u"pagesDock")

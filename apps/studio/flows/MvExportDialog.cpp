@@ -63,6 +63,7 @@ MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocum
     setObjectName(u"exportDialog"_s);
     setWindowTitle(isPdf() ? tr("Als PDF exportieren") : tr("Als Bilder exportieren"));
     auto *form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow); // names get the room, numbers need none
     addTarget(form, folder, name);
     addPages(form);
     if (isPdf())

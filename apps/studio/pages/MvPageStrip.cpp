@@ -53,7 +53,6 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or its coming would change the width that made it come
     setAcceptDrops(true);
-    setMinimumWidth(smallestWidth + 2 * MvPageStripDelegate::margin + verticalScrollBar()->sizeHint().width());
     m_images->setPaused(true); // until somebody sees the strip
     connect(m_images, &MvIdleImages::imageReady, m_model, &MvPageStripModel::updateRow);
     connect(m_photos, &MvScreenPhotos::loaded, this, &MvPageStrip::onPhotoLoaded);
@@ -105,6 +104,7 @@ void MvPageStrip::onPagesReset()
     m_images->reset(int(m_project->document().pages().size()));
     m_model->reset();
     m_isMarking = false;
+    keepNamesWhole();
     adaptToWidth();
     setCurrentPage(std::min(page, m_model->rowCount() - 1));
 }
@@ -122,6 +122,19 @@ void MvPageStrip::currentChanged(const QModelIndex &current, const QModelIndex &
     QListView::currentChanged(current, previous);
     if (!m_isMarking && current.isValid())
         Q_EMIT pageActivated(current.row());
+}
+
+/// Short names of pages, as they stand below the current one, have room in the narrowest strip.
+void MvPageStrip::keepNamesWhole()
+{
+    QFont bold = font();
+    bold.setBold(true);
+    int width = smallestWidth;
+    for (int page = 0; page < m_model->rowCount(); ++page) {
+        const QString name = m_model->index(page).data().toString();
+        width = qMax(width, qMin(QFontMetrics(bold).horizontalAdvance(name), usualWidth));
+    }
+    setMinimumWidth(width + 2 * MvPageStripDelegate::margin + verticalScrollBar()->sizeHint().width());
 }
 
 /// A thumbnail as wide as the strip allows, of the page's proportions.

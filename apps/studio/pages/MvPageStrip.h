@@ -52,6 +52,7 @@ private:
     void onPagesReset();
     void onPhotoLoaded(const QString &path);
     void preferVisible();
+    void keepNamesWhole();
     void adaptToWidth();
     QImage makeThumbnail(int page);
 

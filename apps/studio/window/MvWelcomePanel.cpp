@@ -1,5 +1,6 @@
 #include "window/MvWelcomePanel.h"
 
+#include "MvGUIWidgets/MvFlowLayout.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvModelBase/MvPrintableText.h"
 
@@ -57,10 +58,9 @@ MvWelcomePanel::MvWelcomePanel(QWidget *parent)
     close->setAutoRaise(true);
     close->setFocusPolicy(Qt::StrongFocus);
 
-    auto *ways = new QHBoxLayout;
+    auto *ways = new MvFlowLayout;
     for (QPushButton *button : {m_recent, layouts, contacts, open})
         ways->addWidget(button);
-    ways->addStretch();
     auto *column = new QVBoxLayout;
     column->addWidget(title);
     column->addLayout(ways);
