@@ -381,6 +381,22 @@ void tst_MvStudioWindow::statusBar()
     Q_EMIT button->menu()->aboutToShow();
     button->menu()->actions().first()->trigger();
     QCOMPARE(window()->currentPage(), 4);
+
+    // so are characters that no font has, and photos of few pixels
+    MvCalendarEventRegistry::instance().setEvents(
+        {MvCalendarEvent(u"Anna \u0378"_s, QDate(1990, 5, 17).startOfDay(), true, {}, QUuid::createUuid(), {})});
+    QImage few(30, 20, QImage::Format_RGB32);
+    few.fill(Qt::green);
+    QVERIFY(few.save(path(u"klein.png"_s)));
+    MvCalendarPage page = project()->document().pages().at(4);
+    page.setPhotoFrame(MvPhotoFrame(path(u"klein.png"_s)));
+    project()->changePage(4, page, u"Foto"_s);
+    QTRY_COMPARE(button->text(), u"2 Hinweise zum Druck"_s);
+    Q_EMIT button->menu()->aboutToShow();
+    QCOMPARE(button->menu()->actions().at(0)->text(), u"17.05.27: „Anna \u0378“ – keine Schrift hat \u0378"_s);
+    static const QRegularExpression coarse(
+        u"^Seite 5: Foto „klein.png“ druckt grob, mit nur \\d+ Bildpunkten je Zoll$"_s);
+    QVERIFY(coarse.match(button->menu()->actions().at(1)->text()).hasMatch());
 }
 
 void tst_MvStudioWindow::recovery()

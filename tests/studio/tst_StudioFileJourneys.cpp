@@ -107,6 +107,10 @@ void tst_StudioFileJourneys::exported()
     QVERIFY(dialog);
     if (auto *resolution = MvStudioFixture::find<QSpinBox>(dialog, "exportDpi"))
         resolution->setValue(72);
+    auto *bleed = MvStudioFixture::find<QDoubleSpinBox>(dialog, "exportBleed");
+    QCOMPARE(bleed != nullptr, action == u"exportPdf"_s);
+    if (bleed)
+        bleed->setValue(3.0);
     auto *box = MvStudioFixture::find<QComboBox>(dialog, "exportPages");
     box->setCurrentIndex(box->findText(pages, Qt::MatchStartsWith));
     QVERIFY(studio.click(dialog, "exportButton"));
@@ -118,6 +122,11 @@ void tst_StudioFileJourneys::exported()
     QVERIFY(file.size() > 1000);
     if (action == u"exportPng"_s)
         QCOMPARE(QImage(file.filePath()).size(), QSize(842, 595)); // A4 at 72 dpi
+    QProcess reader;
+    reader.start(u"pdfinfo"_s, {file.filePath()});
+    QVERIFY(reader.waitForFinished());
+    if (action == u"exportPdf"_s) // 303 mm x 216 mm
+        QVERIFY(reader.readAllStandardOutput().contains("858.898 x 612.283 pts"));
 }
 
 void tst_StudioFileJourneys::exportCancelled()
