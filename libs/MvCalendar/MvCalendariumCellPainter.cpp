@@ -40,6 +40,7 @@ constexpr double smallCellMargin = 2.0;
 constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
 constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
+constexpr double overhangOfLetters = 0.1; // of their size, beyond the advance of a line
 constexpr double leastMargin = 1.0;
 constexpr double widestPhotoBesideTexts = 0.5; // of a wide cell
 const QString separator = u", "_s;
@@ -336,8 +337,10 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
                                              std::optional<double> baseline)
 {
     const MvTextFitter fitter = m_renderer.holidayFitter(config.inscriptionConfig());
-    const QRectF widest(QPointF(inner.left(), rect.top() + leastMargin),
-                        QPointF(std::max(inner.left(), rect.right() - leastMargin), rect.bottom() - leastMargin));
+    const double overhang = overhangOfLetters * fitter.font().pixelSize();
+    const QRectF widest(
+        QPointF(inner.left(), rect.top() + leastMargin),
+        QPointF(std::max(inner.left(), rect.right() - leastMargin - overhang), rect.bottom() - leastMargin));
     const auto [fitted, block] = fitWide(fitter, rect.height() - leastMargin / 2.0, inner, widest, texts);
     reportCut(date, fitted, rect);
     m_renderer.reportMissingGlyphs(date, texts, fitted.font, rect);

@@ -299,9 +299,13 @@ bool MvPageAudit::hasItem(const QRectF &region, const QString &text) const
 
 bool MvPageAudit::isReported(const QDate &date, const QString &text) const
 {
+    const bool isOfDay = date.isValid() && m_page.showsDays; // its texts are reported one by one
     return std::any_of(m_page.unfitting.cbegin(), m_page.unfitting.cend(), [&](const MvUnfittingText &report) {
-        return report.missingGlyphs.isEmpty() && (!date.isValid() || !m_page.showsDays || report.date == date) &&
-               essence(report.text).contains(essence(text));
+        if (!report.missingGlyphs.isEmpty())
+            return false;
+        if (isOfDay)
+            return report.date == date && essence(report.text) == essence(text);
+        return essence(report.text).contains(essence(text));
     });
 }
 
