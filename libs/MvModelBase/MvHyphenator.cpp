@@ -311,7 +311,7 @@ QString MvHyphenator::fileFor(const MvLocale &language)
         if (const QFileInfo file(system, name); file.isFile())
             return file.canonicalFilePath();
     }
-    return {};
+    return language.language() == u"lb"_s ? fileFor(MvLocale(u"de_LU"_s)) : QString();
 }
 
 bool MvHyphenator::hasPatterns() const

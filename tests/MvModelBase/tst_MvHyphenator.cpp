@@ -63,6 +63,7 @@ void tst_MvHyphenator::divides_data()
     QTest::newRow("Finnish, patterns of our own")
         << u"fi_FI"_s << u"Uudenvuodenpäivä"_s << u"Uu-|den-|vuo-|den-|päivä"_s;
     QTest::newRow("Finnish compound") << u"fi_FI"_s << u"juhannusaatto"_s << u"ju-|han-|nus-|aatto"_s;
+    QTest::newRow("Luxembourgish, like German") << u"lb_LU"_s << u"Ouschtersonndeg"_s << u"Ousch-|ter-|sonn-|deg"_s;
     QTest::newRow("no patterns") << u"tr_TR"_s << u"Bayramı-Bayramı"_s << u"Bayramı-|Bayramı"_s;
     QTest::newRow("no language") << QString() << u"Pfingstmontag"_s << u"Pfingstmontag"_s;
 
