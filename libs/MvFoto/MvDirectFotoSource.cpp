@@ -1,0 +1,14 @@
+#include "MvFoto/MvDirectFotoSource.h"
+
+#include "MvImageLoader/MvImageLoader.h"
+
+MvDirectFotoSource &MvDirectFotoSource::instance()
+{
+    static MvDirectFotoSource source;
+    return source;
+}
+
+QImage MvDirectFotoSource::scaled(const QFileInfo &file, const QSize &bounds)
+{
+    return MvImageLoader::instance().loadScaled(file, bounds);
+}

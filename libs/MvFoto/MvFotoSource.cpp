@@ -1,0 +1,3 @@
+#include "MvFoto/MvFotoSource.h"
+
+MvFotoSource::~MvFotoSource() = default;
