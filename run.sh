@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # Builds the programs and prints a calendar of the coming year into out/: a PDF of twelve pages and a PNG of each.
 #   ./run.sh studio [OPTION...] [FILE]   builds the studio and starts it instead
 set -eu

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # Builds everything with warnings as errors and runs every test. Arguments go to ctest: ./test.sh -R MvCalendar
 set -eu
 cd "$(dirname "$0")"

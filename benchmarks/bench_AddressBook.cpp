@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // A telephone's address book: 300 contacts with photos of 720 x 720, 100 of them with a birthday. What reading the
 // cards costs beside reading the bytes of their file, and what the whole import costs beside decoding the 100 photos.
 

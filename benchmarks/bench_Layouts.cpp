@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // What a page costs, for each shipped layout: a pass of the renderer beside the page's primitives painted straight, and
 // beside recording the pass alone. A4 at 300 dpi.
 

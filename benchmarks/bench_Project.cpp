@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // What keeps the GUI thread of a program that exports and saves by itself: recording a page of each shipped layout, for
 // the first time and again, and writing projects of a year and of ten years into memory.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // What a user of the studio waits for, at 1280x800: the page after another layout, colour schema or font, beside a
 // straight repaint of the recorded page, and beside a repaint that finds everything in the page's cache, as under the
 // hovering mouse; the thumbnail that is made in one idle slice; and a project of 24 months until its window is painted.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // How long the studio's window keeps somebody waiting at most while photos come in: the longest single event that is
 // handled between asking for something and seeing it, beside what decoding one such photo takes. Two and five years
 // with a photo of 12 megapixels on each page in the print preview, and a month with entries whose photos have 24. And

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // What a page of a year costs beside a page of a month: layout and painting on A4 at 300 dpi with 500 entries in the
 // year. Month, year grid and planner are painted in turns within one run; the ratios are those to the month page. And
 // what a name costs that nobody could print, and more entries than a block of holidays has room for.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # libhyphen, which brings neither a CMake package nor a pkg-config file: gives the target Hyphen::Hyphen.
 find_path(HYPHEN_INCLUDE_DIR hyphen.h)
 find_library(HYPHEN_LIBRARY hyphen)

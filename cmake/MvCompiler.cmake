@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # Compiler settings that hold for every target of the project.
 
 set(CMAKE_BUILD_WITH_INSTALL_RPATH OFF)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # Installation: libraries, headers, the CMake package, the pkg-config file, and what a desktop wants to know.
 include(CMakePackageConfigHelpers)
 

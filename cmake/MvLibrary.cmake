@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # mv_add_library(<Module> SOURCES <Class>... HEADERS_ONLY <Class>... PUBLIC <target>... PRIVATE <target>...)
 #
 # A shared library libs/<Module> with the alias MvCalendar::<Module>. SOURCES names classes: each stands for

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # mv_add_test(<name> LINK <target>...)      a Qt Test program <name>.cpp, run by ctest
 # mv_add_nightly(<name> COMMAND ...)        a long run: the command with MV_NIGHTLY=1, by ctest --preset nightly alone
 # mv_add_benchmark(<name> LINK <target>...) a Google Benchmark program <name>.cpp

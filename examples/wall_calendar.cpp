@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // Prints a wall calendar of 2027 with the holidays of Bavaria: wall_calendar kalender.pdf
 #include "MvCore/MvInitializer.h"
 #include "MvProject/MvCalendarDocument.h"

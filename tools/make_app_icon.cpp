@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // Draws <folder>/<name>.svg as <folder>/<name>-<size>.png in the sizes of the icon theme.
 
 #include <QGuiApplication>

@@ -1,4 +1,5 @@
 #!/usr/bin/env node
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // Writes the public holidays that an independent package knows as CSV, for tests/data/public_holidays.csv:
 //
 //     cd $(mktemp -d) && npm install --ignore-scripts date-holidays && node .../tools/make_holiday_facts.mjs

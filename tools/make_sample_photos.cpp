@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // Paints the portraits of the sample list, flat and friendly, and a landscape for the photo of a page.
 
 #include <QDir>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 // Opens the studio's windows one after another, as a user would, and saves what the screen shows. Run by the script of
 // the same name: make_screenshots FOLDER THEME LANGUAGE SAMPLES [STATE...]; --list names the states.
 

@@ -1,4 +1,5 @@
 #!/bin/sh
+# SPDX-License-Identifier: LGPL-2.1-or-later
 # Installs what the build needs and the system lacks (Debian 12): tools/setup.sh build|test
 # Asks dpkg first, so that nothing is fetched and no network is needed once everything is there.
 set -eu

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvSchemaListCommand.h"
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCli.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvOutOfMemory.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarCellKey.h"
 
 MvCalendarCellKey::MvCalendarCellKey(const MvCalendarCellType &cellType, const MvParityLogic &parity)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvParityLogic.h"
 
 template class MvEnumWrapper<MvParityLogicEnum>;

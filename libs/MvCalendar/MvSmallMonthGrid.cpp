@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvSmallMonthGrid.h"
 
 MvSmallMonthGrid::MvSmallMonthGrid(const QPointF &corner, const QDate &month, const Sizes &sizes)

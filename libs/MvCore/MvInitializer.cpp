@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvInitializer.h"
 
 template class MvSingleton<MvInitializer>;

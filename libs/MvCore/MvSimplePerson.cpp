@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvSimplePerson.h"
 
 MvSimplePerson::MvSimplePerson(const QString &name, const QDate &birthday, const QImage &image, const QUuid &uuid)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvFotoAccess.h"
 
 #include "MvFoto/MvFotoStock.h"

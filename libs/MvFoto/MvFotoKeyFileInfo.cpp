@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvFotoKeyFileInfo.h"
 
 MvFotoKeyFileInfo::MvFotoKeyFileInfo(const QString &path, const MvVideoFrameIndex &frame, const QDir &relativeTo)

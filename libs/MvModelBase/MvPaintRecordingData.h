@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
 // What a recording is made of; shared by the recorder, which fills it, and the recording, which plays it.

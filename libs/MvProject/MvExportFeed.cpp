@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvExportFeed.h"
 
 void MvExportFeed::put(int page, const MvPaintRecording &recording)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvCalendarWordsRegistry.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
 #include "MvProductBase/MvCalendariumHolidayCacheKey.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 """The files for desktops and readers of manuals: valid, and true of the programs that were built."""
 
 import argparse

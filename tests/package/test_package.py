@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 """Installs the build into a temporary prefix and builds a stand-alone client against it, in both ways there are."""
 
 import argparse

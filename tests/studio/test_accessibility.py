@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 """What a screen reader hears of the studio: test_accessibility.py <mvcalendar-studio>
 
 Starts the program on a screen and a session bus of its own and walks the tree that it tells assistive technology.

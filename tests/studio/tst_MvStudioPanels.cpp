@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProjectFixture.h"
 #include "panels/MvColorSchemaPicker.h"
 #include "panels/MvLayoutChooser.h"

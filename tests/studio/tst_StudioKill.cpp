@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCore/MvDirectoryConfig.h"

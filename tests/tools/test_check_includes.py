@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 """Plants violations into small source trees and asks tools/check_includes to find them."""
 
 import subprocess

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 """What tools/check_translations finds in a file of translations, and what it lets pass."""
 
 import pathlib

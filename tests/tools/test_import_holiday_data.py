@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
 """Imports small collections and reads back what tools/import_holiday_data made of them."""
 
 import json

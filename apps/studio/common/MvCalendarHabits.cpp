@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/MvCalendarHabits.h"
 
 #include "MvCalendar/MvCalendariumHolidayCache.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/MvPrintNote.h"
 
 #include "MvCore/MvApplicationLocale.h"

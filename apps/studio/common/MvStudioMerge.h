@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
 /// Edits that follow each other quickly, as while a spin box is held down, become one undo step; one number for each
