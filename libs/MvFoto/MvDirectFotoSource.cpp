@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvDirectFotoSource.h"
 
 #include "MvImageLoader/MvImageLoader.h"
