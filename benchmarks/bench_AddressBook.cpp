@@ -3,7 +3,7 @@
 // cards costs beside reading the bytes of their file, and what the whole import costs beside decoding the 100 photos.
 
 #include "MvCalendar/MvAddressBookImport.h"
-#include "MvImageLoader/MvGuardedImageReader.h"
+#include "MvFoto/MvGuardedImageReader.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>

@@ -6,8 +6,8 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
-#include "MvModelBase/MvPaintRecorder.h"
-#include "MvModelBase/MvPaintRecording.h"
+#include "MvPaint/MvPaintRecorder.h"
+#include "MvPaint/MvPaintRecording.h"
 
 #include <QGuiApplication>
 #include <QImage>

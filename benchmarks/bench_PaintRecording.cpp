@@ -3,9 +3,9 @@
 // 300 dpi with 56 cell fills, 53 texts and 150 lines. Each benchmark times two ways in turns within one run and
 // reports them in milliseconds, and the second as a ratio of the first.
 
-#include "MvModelBase/MvOutlinePainter.h"
-#include "MvModelBase/MvPaintRecorder.h"
-#include "MvModelBase/MvTextOutlineCache.h"
+#include "MvPaint/MvOutlinePainter.h"
+#include "MvPaint/MvPaintRecorder.h"
+#include "MvPaint/MvTextOutlineCache.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -3,7 +3,7 @@
 // the first time and again, and writing projects of a year and of ten years into memory.
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
-#include "MvModelBase/MvTextOutlineCache.h"
+#include "MvPaint/MvTextOutlineCache.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvProjectFile.h"
 

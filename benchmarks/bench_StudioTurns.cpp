@@ -15,7 +15,7 @@
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCore/MvUndoController.h"
-#include "MvImageLoader/MvImageLoader.h"
+#include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvProject.h"
 
 #include <QApplication>

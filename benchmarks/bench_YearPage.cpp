@@ -7,8 +7,8 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
-#include "MvModelBase/MvPaintRecorder.h"
-#include "MvModelBase/MvTextOutlineCache.h"
+#include "MvPaint/MvPaintRecorder.h"
+#include "MvPaint/MvTextOutlineCache.h"
 
 #include <QGuiApplication>
 #include <QImage>

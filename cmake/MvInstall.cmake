@@ -3,25 +3,32 @@
 include(CMakePackageConfigHelpers)
 
 get_property(mv_libraries GLOBAL PROPERTY MV_LIBRARIES)
-if(mv_libraries)
-    install(TARGETS ${mv_libraries} EXPORT MvCalendarTargets
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1)
-    set(mv_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/MvCalendar)
-    install(EXPORT MvCalendarTargets NAMESPACE MvCalendar:: DESTINATION ${mv_package_dir})
-    configure_package_config_file(cmake/MvCalendarConfig.cmake.in ${CMAKE_BINARY_DIR}/MvCalendarConfig.cmake
-        INSTALL_DESTINATION ${mv_package_dir})
-    write_basic_package_version_file(${CMAKE_BINARY_DIR}/MvCalendarConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-    install(FILES ${CMAKE_BINARY_DIR}/MvCalendarConfig.cmake ${CMAKE_BINARY_DIR}/MvCalendarConfigVersion.cmake
-        DESTINATION ${mv_package_dir})
-    file(RELATIVE_PATH mv_pc_to_prefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
-    string(REGEX REPLACE "/$" "" mv_pc_to_prefix "${mv_pc_to_prefix}")
-    set(mv_pc_libs ${mv_libraries})
-    list(REVERSE mv_pc_libs) # whoever stands on a library comes before it
-    list(TRANSFORM mv_pc_libs PREPEND -l)
-    list(JOIN mv_pc_libs " " mv_pc_libs)
-    configure_file(cmake/mvcalendar.pc.in ${CMAKE_BINARY_DIR}/mvcalendar.pc @ONLY)
-    install(FILES ${CMAKE_BINARY_DIR}/mvcalendar.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+foreach(library IN LISTS mv_libraries)
+    get_property(header_sets GLOBAL PROPERTY MV_HEADER_SETS_${library})
+    install(TARGETS ${library} EXPORT MvCalendarTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} ${header_sets})
+endforeach()
+set(mv_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/MvCalendar)
+install(EXPORT MvCalendarTargets NAMESPACE MvCalendar:: DESTINATION ${mv_package_dir})
+if(MV_BUILD_WIDGETS)
+    set(mv_package_widgets Widgets)
+endif()
+configure_package_config_file(cmake/MvCalendarConfig.cmake.in ${PROJECT_BINARY_DIR}/MvCalendarConfig.cmake
+    INSTALL_DESTINATION ${mv_package_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/MvCalendarConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/MvCalendarConfig.cmake ${PROJECT_BINARY_DIR}/MvCalendarConfigVersion.cmake
+    DESTINATION ${mv_package_dir})
+
+# one file for pkg-config per library: mv_install_pc(<file> <library> <what it requires>)
+file(RELATIVE_PATH mv_pc_to_prefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+string(REGEX REPLACE "/$" "" mv_pc_to_prefix "${mv_pc_to_prefix}")
+function(mv_install_pc mv_pc_name mv_pc_library mv_pc_requires)
+    configure_file(cmake/mvcalendar.pc.in ${PROJECT_BINARY_DIR}/${mv_pc_name}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${mv_pc_name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+endfunction()
+mv_install_pc(mvcalendar MvCalendar "Qt6Core Qt6Gui Qt6Xml")
+mv_install_pc(mvcalendar-project MvProject "mvcalendar")
+if(TARGET MvCalendarWidgets)
+    mv_install_pc(mvcalendar-widgets MvCalendarWidgets "mvcalendar Qt6Widgets")
 endif()
 
 set(mv_desktop_dir ${PROJECT_SOURCE_DIR}/resources/desktop)

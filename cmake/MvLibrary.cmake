@@ -1,38 +1,59 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
-# mv_add_library(<Module> SOURCES <Class>... HEADERS_ONLY <Class>... PUBLIC <target>... PRIVATE <target>...)
+# mv_add_library(<name> PUBLIC <target>... PRIVATE <target>...)
 #
-# A shared library libs/<Module> with the alias MvCalendar::<Module>. SOURCES names classes: each stands for
-# <Class>.h and <Class>.cpp. HEADERS_ONLY names classes without a source. The include root is libs/.
-function(mv_add_library module)
-    cmake_parse_arguments(ARG "" "" "SOURCES;HEADERS_ONLY;PUBLIC;PRIVATE" ${ARGN})
-    string(TOLOWER ${module} lower)
-
-    set(headers)
-    set(sources)
-    foreach(class IN LISTS ARG_SOURCES)
-        list(APPEND headers ${CMAKE_CURRENT_SOURCE_DIR}/${class}.h)
-        list(APPEND sources ${class}.cpp)
-    endforeach()
-    foreach(class IN LISTS ARG_HEADERS_ONLY)
-        list(APPEND headers ${CMAKE_CURRENT_SOURCE_DIR}/${class}.h)
-    endforeach()
-
-    add_library(${module} SHARED ${sources} ${headers})
-    add_library(MvCalendar::${module} ALIAS ${module})
-    include(GenerateExportHeader)
-    set(export_header ${CMAKE_BINARY_DIR}/libs/${module}/${lower}_export.h)
-    generate_export_header(${module} BASE_NAME ${lower} EXPORT_FILE_NAME ${export_header})
-
-    target_sources(${module} PUBLIC
-        FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/libs ${CMAKE_BINARY_DIR}/libs
-        FILES ${headers} ${export_header})
-    target_include_directories(${module} PUBLIC $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1>)
-    target_compile_features(${module} PUBLIC cxx_std_20)
-    target_link_libraries(${module} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
-    set_target_properties(${module} PROPERTIES
+# A shared library with the alias MvCalendar::<name>. It has no sources yet: mv_add_room() gives them.
+function(mv_add_library name)
+    cmake_parse_arguments(ARG "" "" "PUBLIC;PRIVATE" ${ARGN})
+    add_library(${name} SHARED)
+    add_library(MvCalendar::${name} ALIAS ${name})
+    target_include_directories(${name} PUBLIC
+        $<BUILD_INTERFACE:${MV_HEADER_DIR}> $<BUILD_INTERFACE:${MV_EXPORT_HEADER_DIR}>
+        $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1>)
+    target_compile_features(${name} PUBLIC cxx_std_20)
+    target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+    set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} VERIFY_INTERFACE_HEADER_SETS ON)
     if(MV_PRECOMPILE)
-        target_precompile_headers(${module} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/MvPrecompiled.h)
+        target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/MvPrecompiled.h)
     endif()
-    set_property(GLOBAL APPEND PROPERTY MV_LIBRARIES ${module})
+    set_property(GLOBAL APPEND PROPERTY MV_LIBRARIES ${name})
+endfunction()
+
+# mv_add_room(<library> <folder> INCLUDE <Module> PUBLIC <Class>... PRIVATE <Class>...)
+#
+# A folder of classes, each <Class>.h and, where it has a source, <Class>.cpp. They are included as <Module>/<Class>.h
+# wherever the folder lies: in the build tree by a link in MV_HEADER_DIR, from an installation as a file there. Headers
+# of PRIVATE classes are not installed.
+function(mv_add_room library folder)
+    cmake_parse_arguments(ARG "" "INCLUDE" "PUBLIC;PRIVATE" ${ARGN})
+    cmake_path(ABSOLUTE_PATH folder NORMALIZE OUTPUT_VARIABLE path)
+    file(MAKE_DIRECTORY ${MV_HEADER_DIR}/${ARG_INCLUDE})
+    foreach(class IN LISTS ARG_PUBLIC ARG_PRIVATE)
+        file(CREATE_LINK ${path}/${class}.h ${MV_HEADER_DIR}/${ARG_INCLUDE}/${class}.h SYMBOLIC)
+        target_sources(${library} PRIVATE ${path}/${class}.h)
+        if(EXISTS ${path}/${class}.cpp)
+            target_sources(${library} PRIVATE ${path}/${class}.cpp)
+        endif()
+    endforeach()
+
+    list(TRANSFORM ARG_PUBLIC PREPEND ${path}/ OUTPUT_VARIABLE headers)
+    list(TRANSFORM headers APPEND .h)
+    string(REGEX REPLACE "[^A-Za-z]" "_" set "${ARG_INCLUDE}_${folder}")
+    string(TOLOWER ${set} set)
+    target_sources(${library} PUBLIC FILE_SET ${set} TYPE HEADERS BASE_DIRS ${path} FILES ${headers})
+    set_property(GLOBAL APPEND PROPERTY MV_HEADER_SETS_${library}
+        FILE_SET ${set} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1/${ARG_INCLUDE})
+endfunction()
+
+# mv_add_export_headers(<library> <Module>...)
+#
+# <Module>/<module>_export.h with <MODULE>_EXPORT for what the library lets others see.
+function(mv_add_export_headers library)
+    foreach(module IN LISTS ARGN)
+        string(TOLOWER ${module} lower)
+        generate_export_header(${library} BASE_NAME ${lower}
+            EXPORT_FILE_NAME ${MV_EXPORT_HEADER_DIR}/${module}/${lower}_export.h)
+        install(FILES ${MV_EXPORT_HEADER_DIR}/${module}/${lower}_export.h
+            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1/${module})
+    endforeach()
 endfunction()

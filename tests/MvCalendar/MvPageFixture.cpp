@@ -3,8 +3,8 @@
 
 #include "MvBoxFont.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
-#include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvXML/MvXMLLoader.h"
 
 #include <QPainter>

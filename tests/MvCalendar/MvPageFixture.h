@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
-#include "MvModelBase/MvPaintRecording.h"
+#include "MvPaint/MvPaintRecording.h"
 
 #include <memory>
 

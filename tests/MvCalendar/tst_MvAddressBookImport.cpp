@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvAddressBookImport.h"
-#include "MvImageLoader/MvImageLoader.h"
+#include "MvFoto/MvImageLoader.h"
 #include "MvTest.h"
 
 #include <QBuffer>

@@ -6,9 +6,9 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCalendar/MvCalendariumRendererMonthOnly.h"
-#include "MvCalendar/MvCalendariumTextPainter.h"
-#include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvPaintRecorder.h"
+#include "MvPaint/MvTextPainter.h"
 
 #include <QPainter>
 #include <QTemporaryDir>
@@ -341,7 +341,7 @@ void tst_MvCalendariumRenderer::placesTextsAsFontMetricsDo()
     const QRectF rect(12.5, 33.25, 611.7, 77.1);
     const QString text = u"Heilige Drei Könige"_s;
     const QRectF expected = QFontMetricsF(font).boundingRect(rect, flags | Qt::TextDontClip, text);
-    const QRectF found = MvCalendariumTextPainter::boundingRect(font, rect, flags | Qt::TextDontClip, text);
+    const QRectF found = MvTextPainter::boundingRect(font, rect, flags | Qt::TextDontClip, text);
     for (const double difference : {found.x() - expected.x(), found.y() - expected.y(),
                                     found.width() - expected.width(), found.height() - expected.height()})
         QVERIFY2(qAbs(difference) < 0.1, qPrintable(QString::number(difference)));

@@ -3,7 +3,7 @@
 #include "MvTest.h"
 
 #include "MvCalendar/MvWeekdayHeads.h"
-#include "MvModelBase/MvPaintRecorder.h"
+#include "MvPaint/MvPaintRecorder.h"
 
 #include <QPainter>
 

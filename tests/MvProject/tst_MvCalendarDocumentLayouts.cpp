@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
-#include "MvModelBase/MvPaintRecorder.h"
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvCalendarDocument.h"
 
 #include <QPainter>

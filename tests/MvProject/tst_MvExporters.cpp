@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvModelBase/MvOutlinePainter.h"
 #include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvOutlinePainter.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPngExporter.h"

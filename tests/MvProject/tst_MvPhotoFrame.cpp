@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvModelBase/MvPaintRecorder.h"
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPrintedPhoto.h"
 #include "MvProjectFixture.h"

@@ -59,8 +59,7 @@ void tst_MvDesignerPlugin::widgets()
     QVERIFY(entry);
     QVERIFY(!entry->icon().isNull());
     QVERIFY(!entry->toolTip().isEmpty());
-    QVERIFY2(QFile::exists(QStringLiteral(MV_SOURCE_ROOT "/libs/") + entry->includeFile()),
-             qPrintable(entry->includeFile()));
+    QVERIFY2(QFile::exists(QStringLiteral(MV_HEADER_DIR "/") + entry->includeFile()), qPrintable(entry->includeFile()));
 
     // a form with what Designer would put there
     QUiLoader loader;

@@ -4,7 +4,7 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
-#include "MvModelBase/MvPaintRecorder.h"
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvXML/MvXMLLoader.h"
 
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFuzz.h"
 
-#include "MvImageLoader/MvGuardedImageReader.h"
+#include "MvFoto/MvGuardedImageReader.h"
 
 /// An image: pixels within bounds, or a reason why there are none.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFuzz.h"
 
-#include "MvCore/MvVCardReader.h"
+#include "MvProductBase/MvVCardReader.h"
 
 /// A file of visiting cards: who is read has a name and a date.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)

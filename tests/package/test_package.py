@@ -31,7 +31,7 @@ class Package(unittest.TestCase):
 
     def pkg_config(self, *arguments):
         path = next(self.prefix.rglob("mvcalendar.pc")).parent
-        return run("pkg-config", *arguments, "mvcalendar", PKG_CONFIG_PATH=str(path)).split()
+        return run("pkg-config", *arguments, "mvcalendar-project", PKG_CONFIG_PATH=str(path)).split()
 
     def assert_runs(self, program):
         libraries = next(self.prefix.rglob("libMvCalendar.so")).parent

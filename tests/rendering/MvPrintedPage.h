@@ -4,7 +4,7 @@
 #include "MvPageChoice.h"
 
 #include "MvCalendar/MvUnfittingText.h"
-#include "MvModelBase/MvPaintRecording.h"
+#include "MvPaint/MvPaintRecording.h"
 #include "MvProject/MvCalendarPage.h"
 
 #include <QMap>

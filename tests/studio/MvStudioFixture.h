@@ -4,7 +4,7 @@
 #include "MvWidgetTest.h"
 #include "window/MvStudioWindow.h"
 
-#include "MvModelBase/MvPaintRecording.h"
+#include "MvPaint/MvPaintRecording.h"
 
 #include <QDate>
 #include <QTemporaryDir>

@@ -9,26 +9,25 @@ from pathlib import Path
 
 TOOL = Path(__file__).resolve().parents[2] / "tools" / "check_includes"
 
-GROUPS = """mv_add_library(MvCalendar
-    SOURCES
-        # vocabulary
-        MvName
-        # appearance
-        MvLook
-    HEADERS_ONLY
-        # vocabulary
-        MvKey
-    PUBLIC MvModelBase
+ROOMS = """mv_add_room(MvCalendar vocabulary INCLUDE MvCalendar
+    PUBLIC MvName  # a word
+    PRIVATE MvKey
+)
+mv_add_room(MvCalendar appearance INCLUDE MvCalendar
+    PUBLIC MvLook
 )
 """
 GOOD = {
-    "libs/MvCalendar/CMakeLists.txt": GROUPS,
+    "libs/MvCore/CMakeLists.txt": "mv_add_room(MvCalendar . INCLUDE MvCore PUBLIC MvMath MvA MvB)",
+    "libs/MvXML/CMakeLists.txt": "mv_add_room(MvCalendar . INCLUDE MvXML PUBLIC MvLoader MvA MvB)",
+    "libs/MvCalendar/CMakeLists.txt": ROOMS,
     "libs/MvCore/MvMath.h": "#include <QString>\n#include \"MvCore/mvcore_export.h\"\n",
     "libs/MvXML/MvLoader.h": '#include "MvCore/MvMath.h"\n#include "MvXML/mvxml_export.h"\n',
-    "libs/MvCalendar/MvName.h": '#include "MvXML/MvLoader.h"\n#include "MvCalendar/MvKey.h"\n',
-    "libs/MvCalendar/MvKey.h": "",
-    "libs/MvCalendar/MvLook.h": '#include "MvCalendar/MvName.h"\n',
-    "libs/MvCalendar/MvLook.cpp": '#include "MvCalendar/MvLook.h"\n',
+    "libs/MvCalendar/vocabulary/MvName.h": '#include "MvXML/MvLoader.h"\n',
+    "libs/MvCalendar/vocabulary/MvName.cpp": '#include "MvCalendar/MvKey.h"\n',
+    "libs/MvCalendar/vocabulary/MvKey.h": "",
+    "libs/MvCalendar/appearance/MvLook.h": '#include "MvCalendar/MvName.h"\n',
+    "libs/MvCalendar/appearance/MvLook.cpp": '#include "MvCalendar/MvLook.h"\n#include "MvCalendar/MvKey.h"\n',
     "apps/cli/main.cpp": '#include "MvCalendar/MvLook.h"\n#include "MvCommand.h"\n',
     "apps/cli/MvCommand.h": "",
 }
@@ -41,15 +40,19 @@ CASES = [
     ("upwards, to a generated header", {"libs/MvCore/MvMath.cpp": '\n#include "MvXML/mvxml_export.h"\n'},
      ["libs/MvCore/MvMath.cpp:2", "must not look at MvXML"]),
     ("upwards in angle brackets", {"libs/MvCore/MvMath.cpp": "#  include <MvXML/MvLoader.h>\n"}, ["must not look at"]),
-    ("sideways", {"libs/MvImageLoader/MvImage.h": '#include "MvXML/MvLoader.h"\n'}, ["MvImageLoader must not look at"]),
+    ("sideways", {"libs/MvFoto/MvImage.h": '#include "MvProductBase/mvproductbase_export.h"\n'}, ["MvFoto must not look at"]),
     ("a library on a program", {"libs/MvXML/MvB.h": '#include "cli/MvCommand.h"\n'}, ["must not look at apps/cli"]),
     ("a program on another", {"apps/studio/main.cpp": '#include "cli/MvCommand.h"\n'},
      ["apps/studio must not look at apps/cli"]),
     ("a module nobody ordered", {"libs/MvNew/MvA.h": ""}, ["MvNew is in no order"]),
     ("a header that is not there", {"libs/MvXML/MvA.h": '#include "MvCore/MvGone.h"\n'}, ["MvGone.h does not exist"]),
-    ("a group upwards", {"libs/MvCalendar/MvKey.h": '#include "MvCalendar/MvLook.h"\n'},
-     ["libs/MvCalendar/MvKey.h:1", '"vocabulary" must not look at "appearance"']),
-    ("a class in no group", {"libs/MvCalendar/MvStray.h": ""}, ["MvStray.h:1: stands in no group"]),
+    ("a room upwards", {"libs/MvCalendar/vocabulary/MvKey.h": '#include "MvCalendar/MvLook.h"\n'},
+     ["libs/MvCalendar/vocabulary/MvKey.h:1", "the room vocabulary must not look at appearance"]),
+    ("a class in another room", {"libs/MvCalendar/vocabulary/MvLook.h": ""}, ["MvLook is not listed in the room vocabulary"]),
+    ("a class in no list", {"libs/MvCalendar/MvStray.h": ""}, ["MvStray.h:1: MvStray is not listed in the room ."]),
+    ("an installed header on one that is not",
+     {"libs/MvCalendar/appearance/MvLook.h": '#include "MvCalendar/MvKey.h"\n'},
+     ["MvLook.h is installed, MvCalendar/MvKey.h is not"]),
     ("a program's folder upwards",
      {"apps/studio/CMakeLists.txt": "add_library(A\n    pages/MvPage.cpp\n    window/MvWindow.cpp\n)\n",
       "apps/studio/pages/MvPage.cpp": '#include "window/MvWindow.h"\n', "apps/studio/window/MvWindow.h": ""},

@@ -2,7 +2,7 @@
 #include "common/MvPrintNote.h"
 
 #include "MvCore/MvApplicationLocale.h"
-#include "MvModelBase/MvPrintableText.h"
+#include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvCalendarDocument.h"
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCore/MvVCardDate.h"
+#include "MvProductBase/MvVCardDate.h"
 
 #include <QObject>
 #include <QPointer>

@@ -4,8 +4,8 @@
 #include "pages/MvScreenPhotos.h"
 
 #include "MvFoto/MvFotoStock.h"
-#include "MvModelBase/MvPaintRecorder.h"
 #include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvPaintRecorder.h"
 
 #include <QPainter>
 #include <QSet>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvModelBase/MvPaintRecording.h"
+#include "MvPaint/MvPaintRecording.h"
 #include "MvProject/MvCalendarPage.h"
 
 #include <QBasicTimer>

@@ -7,7 +7,7 @@
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoLoader.h"
-#include "MvImageLoader/MvImageLoader.h"
+#include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvProject.h"
 
 #include <QActionGroup>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvScreenPhotos.h"
 
-#include "MvImageLoader/MvImageLoader.h"
+#include "MvFoto/MvImageLoader.h"
 
 #include <QDateTime>
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 #include "window/MvLeapDayHint.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvModelBase/MvPrintableText.h"
+#include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvProject.h"
 
 #include <QStringList>

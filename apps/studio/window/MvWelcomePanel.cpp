@@ -3,7 +3,7 @@
 
 #include "MvGUIWidgets/MvFlowLayout.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
-#include "MvModelBase/MvPrintableText.h"
+#include "MvPaint/MvPrintableText.h"
 
 #include <QDir>
 #include <QFileInfo>

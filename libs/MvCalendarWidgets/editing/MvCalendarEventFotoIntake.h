@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendarWidgets/mvcalendarwidgets_export.h"
+
+#include <functional>
+
+class QObject;
+
+/// Gives an entry of the active list a photo that somebody has chosen or dropped. GUI thread.
+class MVCALENDARWIDGETS_EXPORT MvCalendarEventFotoIntake
+{
+public:
+    using Use = std::function<void(const MvCalendarEvent &before, const MvCalendarEvent &after)>;
+
+    /// Hands over the entry as it is by then and the same with the photo: before returning for a small photo, later
+    /// for one that is decoded in the background. The asker is told why when the photo cannot be taken; the entry
+    /// keeps the one it has. Nothing happens when entry or asker are gone by then.
+    static void take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use);
+};

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendarWidgets/mvcalendarwidgets_export.h"
+
+#include "MvCore/MvUndoCommand.h"
+
+/// Marks where many changes of personal entries begin and end within one undo step, so that the entries are written
+/// and signalled once for all of them: when they are done, undone and done again.
+///
+/// The first and the last command of a macro; one without the other leaves the registry waiting.
+class MVCALENDARWIDGETS_EXPORT MvUndoCommandCalendarEventGroup : public MvUndoCommand
+{
+public:
+    enum Mark { Begin, End };
+
+    explicit MvUndoCommandCalendarEventGroup(Mark mark);
+    ~MvUndoCommandCalendarEventGroup() override;
+
+    void doCoreAction() override;
+    void undoCore() override;
+
+private:
+    Mark m_mark;
+};

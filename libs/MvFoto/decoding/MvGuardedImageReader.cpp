@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFoto/MvGuardedImageReader.h"
+
+#include "MvFoto/MvImageDevice.h"
+#include "MvFoto/MvImageFormat.h"
+#include "MvFoto/MvImageStructure.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QFile>
+#include <QImageReader>
+#include <QMutex>
+#include <QPixelFormat>
+
+#include <fcntl.h>
+#include <mutex>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace {
+
+constexpr int smoothQuality = 90;              // of scaled decoding: smooth instead of fast
+constexpr qint64 quickPixels = 4'500'000;      // decoded in some 50 ms
+constexpr qint64 quickBytes = 16 << 20;        // a file to be looked through
+constexpr int quickScans = 12;                 // as in usual progressive files
+constexpr qint64 largePixels = 16'000'000;     // from here on, a file must have something to show for its size
+constexpr qint64 mostPixelsPerByte = 4096;     // a blank page as a bitmap still has more
+constexpr qint64 mostPixelsPerByteAtAll = 256; // of JPEG and BMP
+constexpr qint64 largeMemory = 128 << 20;      // bytes; one such image at a time
+constexpr qint64 otherFileLimit = 256 << 20;   // bytes of files that decoders load as a whole
+
+/// Opens without waiting: a pipe that nobody writes to must not stop the program.
+std::unique_ptr<QIODevice> openRegular(const QString &path)
+{
+    auto file = std::make_unique<QFile>(path);
+    if (path.startsWith(u':'))
+        return file->open(QIODevice::ReadOnly) ? std::move(file) : nullptr;
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return nullptr;
+    struct stat status = {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) ||
+        !file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        ::close(descriptor);
+        return nullptr;
+    }
+    return file;
+}
+
+QImage readyToPaint(QImage image)
+{
+    const QColorSpace srgb(QColorSpace::SRgb);
+    if (image.colorSpace().isValid() && image.colorSpace() != srgb)
+        image.convertToColorSpace(srgb);
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    return image;
+}
+
+qint64 pixelsOf(const QSize &size)
+{
+    return qint64(size.width()) * size.height();
+}
+
+/// One large image is decoded at a time: several threads do not take several times the memory.
+QMutex &largeImages()
+{
+    static QMutex mutex;
+    return mutex;
+}
+
+} // namespace
+
+MvGuardedImageReader::MvGuardedImageReader(const QFileInfo &file)
+    : m_source(openRegular(file.filePath()))
+{
+    open();
+}
+
+MvGuardedImageReader::MvGuardedImageReader(const QByteArray &content)
+{
+    auto buffer = std::make_unique<QBuffer>();
+    buffer->setData(content);
+    buffer->open(QIODevice::ReadOnly);
+    m_source = std::move(buffer);
+    open();
+}
+
+MvGuardedImageReader::~MvGuardedImageReader() = default;
+
+void MvGuardedImageReader::open()
+{
+    static std::once_flag once;
+    std::call_once(once, [] { QImageReader::setAllocationLimit(int(memoryLimit >> 20)); });
+    if (!m_source) {
+        m_error = tr("Die Datei lässt sich nicht öffnen.");
+        return;
+    }
+    const QByteArray format = MvImageFormat::fromContent(m_source->peek(MvImageFormat::headSize));
+    if (format.isEmpty()) {
+        m_error = tr("Gelesen werden JPEG, PNG, TIFF, WebP, BMP und GIF.");
+        return;
+    }
+    if (m_source->size() > (format == "webp" || format == "gif" ? otherFileLimit : fileLimit)) {
+        m_error = tr("Die Datei ist zu groß.");
+        return;
+    }
+    m_device = std::make_unique<MvImageDevice>(m_source.get());
+    m_device->setTimeLimit(timeLimit);
+    if (format == "png")
+        m_device->setStretches(MvImageStructure::pngWithoutTexts(m_source.get(), MvImageStructure::PngPart::Head));
+    if (format == "gif")
+        m_canvas = MvImageStructure::gifCanvas(m_source.get());
+    m_format = format;
+    m_reader = std::make_unique<QImageReader>();
+    m_reader->setDevice(m_device.get());
+    m_reader->setAutoDetectImageFormat(false); // no other decoder gets to see the file
+    m_reader->setFormat(m_format);
+    m_reader->setAutoTransform(true);
+    m_reader->setQuality(smoothQuality);
+}
+
+bool MvGuardedImageReader::isTurned() const
+{
+    return m_reader->transformation() & QImageIOHandler::TransformationRotate90;
+}
+
+QSize MvGuardedImageReader::size() const
+{
+    if (!m_reader)
+        return {};
+    const QSize size = m_reader->size();
+    return isTurned() ? size.transposed() : size;
+}
+
+/// All of the file, unlike what its head alone tells.
+void MvGuardedImageReader::lookThrough()
+{
+    if (std::exchange(m_isLookedThrough, true))
+        return;
+    if (m_format == "png")
+        m_device->setStretches(MvImageStructure::pngWithoutTexts(m_source.get(), MvImageStructure::PngPart::All));
+    m_mayBeCutOff = m_format == "bmp";
+    if (m_format == "jpeg") {
+        const MvImageStructure::Jpeg jpeg = MvImageStructure::jpeg(m_source.get(), scanLimit);
+        m_scans = jpeg.scans;
+        m_mayBeCutOff = !jpeg.hasEnd;
+    }
+}
+
+void MvGuardedImageReader::setTimeLimit(double seconds)
+{
+    if (m_device)
+        m_device->setTimeLimit(seconds);
+}
+
+bool MvGuardedImageReader::isQuick()
+{
+    if (!m_reader)
+        return true; // nothing will be read
+    if (isHollow(size()))
+        return true;
+    if (m_source->size() > quickBytes || pixelsOf(decodedSize(size())) > quickPixels)
+        return false;
+    lookThrough();
+    return m_scans <= quickScans;
+}
+
+/// A large picture needs something to show for it in the file.
+bool MvGuardedImageReader::isHollow(const QSize &full) const
+{
+    const qint64 pixels = pixelsOf(decodedSize(full));
+    return pixels > largePixels && pixels / mostPixelsPerByte > m_source->size();
+}
+
+/// What decoding takes at its worst moment, in bytes.
+qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target)
+{
+    const qint64 pixels = pixelsOf(full);
+    if (m_format == "jpeg") {
+        // a decoder makes it smaller on the way, by up to 8, but several passes are gathered in full
+        const int divisor =
+            qBound(1, qMin(full.width() / (2 * target.width()), full.height() / (2 * target.height())), 8);
+        return 4 * pixels / (divisor * divisor) + (m_scans > 1 ? 6 * pixels : 0);
+    }
+    if (m_format == "gif")
+        return 2 * 4 * pixelsOf(decodedSize(full));
+    if (m_format == "webp" && MvImageStructure::isAnimatedWebP(m_source.get()))
+        return 4 * 4 * pixels;
+    const QPixelFormat format = QImage::toPixelFormat(m_reader->imageFormat());
+    return pixels * qMax<qint64>(4, format.bitsPerPixel() / 8);
+}
+
+bool MvGuardedImageReader::isWithinLimits(const QSize &full, const QSize &target)
+{
+    const QSize decoded = decodedSize(full);
+    const QString size = tr("%1 × %2 Bildpunkte").arg(decoded.width()).arg(decoded.height());
+    // decoders fill up what is missing; so little is no picture
+    const bool isCutOff = m_mayBeCutOff && pixelsOf(full) / mostPixelsPerByteAtAll > m_source->size();
+    if (full.isEmpty() || target.isEmpty() || isCutOff)
+        m_error = tr("Die Datei ist beschädigt oder nicht vollständig.");
+    else if (isHollow(full))
+        m_error = tr("Die Datei ist viel zu klein für die %1, die sie haben will.").arg(size);
+    else if (m_scans > scanLimit)
+        m_error = tr("Das Bild ist in mehr als %1 Durchgängen gespeichert. So etwas tut kein übliches Programm.")
+                      .arg(scanLimit);
+    else if (neededMemory(full, target) > memoryLimit)
+        m_error = tr("Das Bild ist zu groß: %1. Verkleinern Sie es in einem Bildprogramm.").arg(size);
+    return m_error.isEmpty();
+}
+
+QImage MvGuardedImageReader::read(const QSize &bounds)
+{
+    if (!m_reader)
+        return {};
+    const QSize full = size();
+    const QSize target =
+        bounds.isEmpty() || full.isEmpty() ? full : full.scaled(bounds, Qt::KeepAspectRatio).expandedTo({1, 1});
+    lookThrough();
+    if (!isWithinLimits(full, target))
+        return {};
+    QMutexLocker lock(neededMemory(full, target) > largeMemory ? &largeImages() : nullptr);
+    const QImage image = decode(full, target);
+    if (image.isNull())
+        m_error = m_device->hasRunOut() ? tr("Das Bild zu lesen dauert zu lange.")
+                                        : tr("Die Datei ist beschädigt oder nicht vollständig.");
+    return image;
+}
+
+QImage MvGuardedImageReader::decode(const QSize &full, const QSize &target)
+{
+    if (full.width() > 2 * target.width() && full.height() > 2 * target.height())
+        m_reader->setScaledSize(isTurned() ? 2 * target.transposed() : 2 * target);
+    QImage image = m_reader->read();
+    if (image.isNull() || m_device->hasRunOut()) // decoders make do with half a file
+        return {};
+    if (image.size() != target)
+        image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return readyToPaint(image);
+}

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFoto/MvImageLoader.h"
+
+#include "MvFoto/MvGuardedImageReader.h"
+
+#include <QDateTime>
+
+template class MvSingleton<MvImageLoader>;
+
+namespace {
+
+constexpr qsizetype mostErrors = 1000; // kept
+
+MvImageCache::Key keyFor(const QFileInfo &file, const QSize &target)
+{
+    return {file.absoluteFilePath(), file.lastModified().toMSecsSinceEpoch(), file.size(), target};
+}
+
+} // namespace
+
+MvImageLoader::MvImageLoader()
+    : m_cache(cacheLimit)
+{}
+
+QImage MvImageLoader::read(const QFileInfo &file, const QSize &bounds)
+{
+    MvGuardedImageReader reader(file);
+    const QImage image = reader.read(bounds);
+    if (!reader.error().isEmpty()) {
+        const QMutexLocker lock(&m_mutex);
+        if (m_errors.size() >= mostErrors)
+            m_errors.clear();
+        m_errors.insert(keyFor(file, QSize()), reader.error());
+    }
+    return image;
+}
+
+QString MvImageLoader::error(const QFileInfo &file)
+{
+    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    {
+        const QMutexLocker lock(&m_mutex);
+        const QString known = m_errors.value(keyFor(present, QSize()));
+        if (!known.isEmpty())
+            return known;
+    }
+    MvGuardedImageReader reader(present);
+    if (reader.size().isEmpty())
+        reader.read({}); // tells why
+    return reader.error();
+}
+
+QImage MvImageLoader::load(const QFileInfo &file)
+{
+    const QFileInfo present(file.filePath());
+    if (!present.isFile())
+        return {};
+    return m_cache.image(keyFor(present, QSize()), [&] { return read(present, QSize()); });
+}
+
+QImage MvImageLoader::loadScaled(const QFileInfo &file, const QSize &bounds)
+{
+    const QFileInfo present(file.filePath());
+    if (bounds.isEmpty() || !present.isFile())
+        return {};
+    return m_cache.image(keyFor(present, bounds), [&] { return read(present, bounds); });
+}
+
+QImage MvImageLoader::loadUncached(const QFileInfo &file, const QSize &bounds)
+{
+    return bounds.isEmpty() ? QImage() : read(QFileInfo(file.filePath()), bounds);
+}
+
+QImage MvImageLoader::kept(const QFileInfo &file, const QSize &bounds)
+{
+    return m_cache.kept(keyFor(QFileInfo(file.filePath()), bounds));
+}
+
+QSize MvImageLoader::size(const QFileInfo &file)
+{
+    const QFileInfo present(file.filePath());
+    return present.isFile() ? MvGuardedImageReader(present).size() : QSize();
+}
+
+bool MvImageLoader::isQuick(const QFileInfo &file)
+{
+    return MvGuardedImageReader(file).isQuick();
+}
+
+QByteArray MvImageLoader::format(const QFileInfo &file)
+{
+    return MvGuardedImageReader(file).format();
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvFoto/MvImageCache.h"
+#include "MvFoto/mvfoto_export.h"
+
+#include "MvCore/MvSingleton.h"
+
+#include <QByteArray>
+#include <QFileInfo>
+#include <QHash>
+#include <QImage>
+#include <QMutex>
+#include <QSize>
+#include <QString>
+
+class MvImageLoader;
+extern template class MVFOTO_EXPORT MvSingleton<MvImageLoader>;
+
+/// Reads image files as they are to be printed: turned as the camera says, in sRGB, at the size that is needed.
+///
+/// Everything goes through MvGuardedImageReader and its bounds; what that refuses gives a null image. Decoded images
+/// are kept process-wide as long as there is room, and read again when the file has changed. Any thread.
+class MVFOTO_EXPORT MvImageLoader : public MvSingleton<MvImageLoader>
+{
+public:
+    static constexpr qint64 cacheLimit = 384 << 20; // bytes
+
+    /// The image in full size.
+    QImage load(const QFileInfo &file);
+    /// The image scaled smoothly, keeping its aspect ratio, to the largest size within the bounds; smaller images grow.
+    /// An empty bound gives a null image.
+    QImage loadScaled(const QFileInfo &file, const QSize &bounds);
+    /// The same without keeping the image, for what is looked at once.
+    QImage loadUncached(const QFileInfo &file, const QSize &bounds);
+    /// What loadScaled() gave, if it is still kept; null otherwise. Never decodes.
+    QImage kept(const QFileInfo &file, const QSize &bounds);
+
+    /// Why a file gave a null image, in one sentence for a person; empty when nothing is known against it.
+    QString error(const QFileInfo &file);
+    /// Whether decoding takes no longer than a window may stand still.
+    static bool isQuick(const QFileInfo &file);
+
+    /// Size of the turned image in pixels, from the file's head alone; invalid when the file cannot be read.
+    QSize size(const QFileInfo &file);
+    /// The format of the content, as MvImageFormat names it.
+    static QByteArray format(const QFileInfo &file);
+
+    /// Forgets the decoded images.
+    void clear() { m_cache.clear(); }
+    const MvImageCache &cache() const { return m_cache; }
+
+private:
+    friend class MvSingleton<MvImageLoader>;
+    MvImageLoader();
+    QImage read(const QFileInfo &file, const QSize &bounds);
+
+    MvImageCache m_cache;
+    QMutex m_mutex; // for the errors
+    QHash<MvImageCache::Key, QString> m_errors;
+};

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvPaint/MvGlyphCoverage.h"
+
+#include "MvPaint/MvPrintableText.h"
+
+#include <QGlyphRun>
+#include <QGuiApplication>
+#include <QHash>
+#include <QMutex>
+#include <QTextLayout>
+
+#include <algorithm>
+
+namespace {
+
+constexpr char32_t alwaysThere = 0x0100; // Latin-1: in every font that anybody prints with
+constexpr qsizetype mostKnown = 50'000;
+
+bool isSeen(char32_t c)
+{
+    switch (QChar::category(c)) {
+    case QChar::Mark_NonSpacing:
+    case QChar::Mark_SpacingCombining:
+    case QChar::Mark_Enclosing:
+    case QChar::Separator_Space:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+        return false;
+    default:
+        return true;
+    }
+}
+
+bool hasGlyph(const QFont &font, const QString &character)
+{
+    QTextLayout layout(character, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    return std::none_of(runs.cbegin(), runs.cend(),
+                        [](const QGlyphRun &run) { return run.glyphIndexes().contains(0); });
+}
+
+/// What is known of the characters of each family.
+class Known
+{
+public:
+    Known()
+    {
+        if (qGuiApp)
+            QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [this] { clear(); });
+    }
+
+    bool isShown(const QFont &font, char32_t c)
+    {
+        const auto key = qMakePair(font.family(), c);
+        const QMutexLocker lock(&m_mutex);
+        if (const auto known = m_shown.constFind(key); known != m_shown.cend())
+            return *known;
+        if (m_shown.size() >= mostKnown)
+            m_shown.clear();
+        return *m_shown.insert(key, hasGlyph(font, QString::fromUcs4(&c, 1)));
+    }
+
+private:
+    void clear()
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_shown.clear();
+    }
+
+    QMutex m_mutex;
+    QHash<std::pair<QString, char32_t>, bool> m_shown;
+};
+
+} // namespace
+
+QString MvGlyphCoverage::missingCharacters(const QFont &font, const QString &text)
+{
+    static Known known;
+    QString missing;
+    const QList<uint> characters = MvPrintableText::shapeable(text).toUcs4();
+    for (const char32_t c : characters) {
+        if (c < alwaysThere || !isSeen(c) || known.isShown(font, c))
+            continue;
+        if (const QString character = QString::fromUcs4(&c, 1); !missing.contains(character))
+            missing.append(character);
+    }
+    return missing;
+}

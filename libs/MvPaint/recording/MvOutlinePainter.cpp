@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvPaint/MvOutlinePainter.h"
+
+#include "MvPaint/MvPaintRecorder.h"
+
+#include <QPaintEngine>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+/// Rasterising works in 1/64 of a pixel; a pixel nearer than this to a shape may be touched by it.
+constexpr double rasterGuard = 1.0 / 32.0;
+
+/// Moves the painter to a baseline and back.
+class MvBaselineShift
+{
+public:
+    MvBaselineShift(QPainter &painter, const QPointF &baseline)
+        : m_painter(painter)
+        , m_world(painter.worldTransform())
+        , m_enabled(painter.worldMatrixEnabled())
+    {
+        painter.translate(baseline);
+    }
+    ~MvBaselineShift()
+    {
+        m_painter.setWorldTransform(m_world);
+        m_painter.setWorldMatrixEnabled(m_enabled);
+    }
+    MvBaselineShift(const MvBaselineShift &) = delete;
+    MvBaselineShift &operator=(const MvBaselineShift &) = delete;
+
+private:
+    QPainter &m_painter;
+    QTransform m_world;
+    bool m_enabled;
+};
+
+bool isRaster(const QPainter &painter)
+{
+    return painter.paintEngine()->type() == QPaintEngine::Raster;
+}
+
+/// Whether parts without a common pixel column add up to the pixels of the whole.
+bool canSplit(const QPainter &painter)
+{
+    const QTransform device = painter.deviceTransform();
+    return painter.testRenderHint(QPainter::Antialiasing) && device.type() <= QTransform::TxScale &&
+           device.m11() > 0.0 && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
+}
+
+void fillInParts(QPainter &painter, const MvTextOutline &outline, const QBrush &brush)
+{
+    const QTransform device = painter.deviceTransform();
+    const QList<MvTextOutline::Group> &groups = outline.groups();
+    const auto firstColumn = [&device](const MvTextOutline::Group &group) {
+        return std::floor(device.m11() * group.left + device.dx() - rasterGuard);
+    };
+    const auto lastColumn = [&device](const MvTextOutline::Group &group) {
+        return std::floor(device.m11() * group.right + device.dx() + rasterGuard);
+    };
+
+    for (qsizetype first = 0; first < groups.size();) {
+        qsizetype end = first + 1;
+        while (end < groups.size() && firstColumn(groups[end]) <= lastColumn(groups[end - 1]))
+            ++end;
+        if (end - first == groups.size()) {
+            painter.fillPath(outline.path(), brush);
+        } else if (end - first == 1) {
+            painter.fillPath(groups[first].path, brush);
+        } else {
+            QPainterPath part = groups[first].path;
+            for (qsizetype i = first + 1; i < end; ++i)
+                part.addPath(groups[i].path);
+            painter.fillPath(part, brush);
+        }
+        first = end;
+    }
+}
+
+void fillOnRaster(QPainter &painter, const MvPlacedOutline &line, const QBrush &brush)
+{
+    const MvBaselineShift shift(painter, line.baseline);
+    if (canSplit(painter))
+        fillInParts(painter, line.outline, brush);
+    else
+        painter.fillPath(line.outline.path(), brush);
+}
+
+QPainterPath joined(const QList<MvPlacedOutline> &lines)
+{
+    QPainterPath path;
+    for (const MvPlacedOutline &line : lines)
+        path.addPath(line.outline.path().translated(line.baseline));
+    path.setFillRule(Qt::WindingFill);
+    return path;
+}
+
+/// On a raster as many pixels as the device has there, which looks better than what its painter makes of many more.
+QImage fittedToDevice(const QPainter &painter, const MvTextOutline::Picture &picture)
+{
+    if (!isRaster(painter))
+        return picture.image;
+    const QSize pixels = painter.deviceTransform().mapRect(picture.rect).size().toSize().expandedTo({1, 1});
+    const bool isSmaller = pixels.width() < picture.image.width() && pixels.height() < picture.image.height();
+    return isSmaller ? picture.image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : picture.image;
+}
+
+void drawPictures(QPainter &painter, const QList<MvPlacedOutline> &lines, const QColor &color)
+{
+    const bool wasSmooth = painter.testRenderHint(QPainter::SmoothPixmapTransform);
+    const double opacity = painter.opacity();
+    for (const MvPlacedOutline &line : lines) {
+        const QList<MvTextOutline::Picture> &pictures = line.outline.pictures();
+        if (pictures.isEmpty())
+            continue;
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+        painter.setOpacity(opacity * double(color.alphaF()));
+        for (const MvTextOutline::Picture &picture : pictures)
+            painter.drawImage(picture.rect.translated(line.baseline), fittedToDevice(painter, picture));
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, wasSmooth);
+    painter.setOpacity(opacity);
+}
+
+/// Whether no pixel row is touched by two of the lines.
+bool shareNoRow(const QPainter &painter, const QList<MvPlacedOutline> &lines)
+{
+    const QTransform device = painter.deviceTransform();
+    if (device.type() > QTransform::TxScale)
+        return false;
+    QList<std::pair<double, double>> rows;
+    for (const MvPlacedOutline &line : lines) {
+        if (line.outline.isEmpty())
+            continue;
+        const QRectF box = device.mapRect(line.bounds());
+        rows.append({std::floor(box.top() - rasterGuard), std::floor(box.bottom() + rasterGuard)});
+    }
+    std::sort(rows.begin(), rows.end());
+    return std::adjacent_find(rows.cbegin(), rows.cend(),
+                              [](const auto &a, const auto &b) { return b.first <= a.second; }) == rows.cend();
+}
+} // namespace
+
+void MvOutlinePainter::fillOutline(QPainter &painter, const QPointF &baseline, const MvTextOutline &outline,
+                                   const QColor &color)
+{
+    fillOutlines(painter, {{baseline, outline}}, color);
+}
+
+void MvOutlinePainter::fillOutlines(QPainter &painter, const QList<MvPlacedOutline> &lines, const QColor &color)
+{
+    if (!painter.isActive() ||
+        std::all_of(lines.cbegin(), lines.cend(), [](const auto &line) { return line.outline.isEmpty(); }))
+        return;
+    if (auto *recorder = dynamic_cast<MvPaintRecorder *>(painter.device())) {
+        recorder->recordOutlines(painter, lines, color);
+        return;
+    }
+    if (isRaster(painter) && (lines.size() == 1 || shareNoRow(painter, lines))) {
+        const QBrush brush(color);
+        for (const MvPlacedOutline &line : lines)
+            fillOnRaster(painter, line, brush);
+    } else {
+        painter.fillPath(joined(lines), color);
+    }
+    drawPictures(painter, lines, color);
+}

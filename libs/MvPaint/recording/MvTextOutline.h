@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvPaint/mvpaint_export.h"
+
+#include <QFont>
+#include <QImage>
+#include <QList>
+#include <QPainterPath>
+#include <QSharedDataPointer>
+
+struct MvTextOutlineImpl;
+
+/// The outline of one line of text with its baseline starting at (0, 0), in the pixels of its font; glyphs that have no
+/// outline but colours are pictures beside it.
+///
+/// An immutable, shared value: a copy costs a reference count, and it can be painted by several threads at once.
+/// Fill rule is winding. Underlines and other decorations are not part of an outline.
+class MVPAINT_EXPORT MvTextOutline
+{
+public:
+    /// Sub-paths of the outline that overlap in x, usually one glyph. Two groups share no x.
+    struct Group
+    {
+        QPainterPath path;
+        double left = 0.0;
+        double right = 0.0;
+        double top = 0.0;
+        double bottom = 0.0;
+    };
+
+    /// A glyph that is no outline but a coloured picture, as emoji are.
+    struct Picture
+    {
+        QImage image; // fine enough for print; shared by all texts with the glyph
+        QRectF rect;  // from the start of the baseline
+    };
+
+    /// An outline of nothing.
+    MvTextOutline();
+
+    /// Shapes the text (some 50 microseconds; MvTextOutlineCache keeps what was shaped before). A font in points is
+    /// taken at the resolution it was resolved for, as QPainter::font() is for its device.
+    MvTextOutline(const QFont &font, const QString &text);
+
+    /// An outline that was shaped elsewhere; the advance is the width the text takes in its line.
+    MvTextOutline(const QFont &font, const QString &text, const QPainterPath &path, double advance);
+
+    MvTextOutline(const MvTextOutline &);
+    MvTextOutline &operator=(const MvTextOutline &);
+    MvTextOutline(MvTextOutline &&) noexcept;
+    MvTextOutline &operator=(MvTextOutline &&) noexcept;
+    ~MvTextOutline();
+
+    /// True when nothing would be seen: no text, or blanks only.
+    bool isEmpty() const;
+
+    QFont font() const;
+    QString text() const;
+    const QPainterPath &path() const;
+
+    const QList<Picture> &pictures() const;
+
+    /// Bounding rectangle of the path's control points and the pictures; null when empty.
+    QRectF bounds() const;
+
+    double advance() const;
+    int elementCount() const;
+
+    /// From left to right.
+    const QList<Group> &groups() const;
+
+private:
+    QSharedDataPointer<MvTextOutlineImpl> d;
+};
+
+/// A line of text with the place of its baseline's start.
+struct MvPlacedOutline
+{
+    QPointF baseline;
+    MvTextOutline outline;
+
+    QRectF bounds() const { return outline.bounds().translated(baseline); }
+};

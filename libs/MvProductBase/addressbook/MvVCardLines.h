@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCore/MvLineReader.h"
+#include "MvProductBase/MvVCardProperty.h"
+#include "MvProductBase/mvproductbase_export.h"
+
+#include <QByteArray>
+#include <QList>
+
+/// Cuts visiting cards into properties, one after the other: lines unfolded, soft breaks joined, names and parameters
+/// apart. The time grows with the number of bytes alone, whatever they are.
+class MVPRODUCTBASE_EXPORT MvVCardLines
+{
+public:
+    static constexpr qsizetype longestPicture = 16 * 1024 * 1024; // bytes of PHOTO, encoded
+    static constexpr qsizetype longestText = 64 * 1024;           // bytes of everything else
+
+    /// The device is open, is not owned and must outlive this.
+    explicit MvVCardLines(QIODevice *device, const MvLineReader::GoOn &goOn = {});
+
+    /// The next property; false at the end. Lines that are none are left out.
+    bool next(MvVCardProperty *property);
+
+    static QList<MvVCardProperty> split(const QByteArray &bytes);
+
+private:
+    QByteArray takeLine();
+    bool isFolded() const;
+    bool isMoreOfPicture() const;
+    QByteArray takeFolded();
+    void takeValue(MvVCardProperty *property, const QByteArray &start, bool isStartCut);
+
+    MvLineReader m_lines;
+    QByteArray m_ahead; // the line after the one that was taken
+    bool m_hasAhead = false;
+    bool m_isAheadCut = false;
+    bool m_isVersion2 = false;
+};

@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvCalendarPage.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvPaint/MvPaintRecorder.h"
+#include "MvProject/MvCalendariumFit.h"
+#include "MvProject/MvPhotoPainter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int monthsPerYear = 12;
+constexpr double tallestStrip = 0.4;         // of its width: a strip beside a photo lies at the page's foot
+constexpr double narrowStrip = 900.0;        // less than that and the days take several rows,
+constexpr double tallestNarrowStrip = 450.0; // which need height
+
+/// The range of a year's page: it begins with its own first month, not with that of the whole calendar.
+MvDateRange twelveMonths(const QDate &month)
+{
+    return {month, month.addMonths(monthsPerYear).addDays(-1)};
+}
+
+/// The days that both have; those of the year where there are none.
+MvDateRange partOf(const MvDateRange &calendar, const MvDateRange &year)
+{
+    const MvDateRange part(std::max(calendar.start(), year.start()), std::min(calendar.end(), year.end()));
+    return calendar.isValid() && part.isValid() ? part : year;
+}
+
+MvCalendariumContentConfig monthsAhead(const MvCalendariumContentConfig &content, int months)
+{
+    return months == 0 ? content : content.moveToDay(content.date().addMonths(months));
+}
+
+} // namespace
+
+MvCalendarPage::MvCalendarPage(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content)
+    : m_appearance(appearance)
+    , m_content(content)
+{}
+
+void MvCalendarPage::setAppearance(const MvCalendariumAppearance &appearance)
+{
+    if (!(appearance.layoutSchema() == m_appearance.layoutSchema()))
+        m_unknownLayout.clear();
+    if (!(appearance.colorSchema() == m_appearance.colorSchema()))
+        m_unknownColors.clear();
+    m_appearance = appearance;
+}
+
+int MvCalendarPage::monthCount() const
+{
+    const bool isYear = m_appearance.type() == CALENDAR_YEAR || m_appearance.type() == CALENDAR_YEAR_ONLY;
+    return isYear ? monthsPerYear : 1;
+}
+
+MvDateRange MvCalendarPage::printedMonths() const
+{
+    if (!isValid() || !m_appearance.rendererShowsDays())
+        return {};
+    const QDate first = m_content.moveToDayInMonth(1).date().addMonths(m_appearance.offsetMonth());
+    return {first, first.addMonths(monthCount()).addDays(-1)};
+}
+
+MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
+{
+    const auto areShownWhen = [this](bool asked) {
+        MvCalendariumHolidayConfig holidays = m_content.holidayConfig();
+        holidays.setFeature(FEATURE_CALENDAR_WEEKS, asked);
+        MvCalendarPage page = *this;
+        page.m_content.setHolidayConfig(holidays);
+        return page.renderer(m_appearance, {})->isConfigured(calendar_render_week_of_year);
+    };
+    if (areShownWhen(false))
+        return CalendarWeeks::Always;
+    return areShownWhen(true) ? CalendarWeeks::AsAsked : CalendarWeeks::Never;
+}
+
+QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
+{
+    QRectF rect = format.contentRect();
+    if (!m_photo.isValid() || !format.isValid())
+        return rect;
+    const QRectF photo = m_photo.rect(format);
+    const double gap = rect.left(); // the calendarium keeps the distance that it has from the page's edges
+    switch (m_photo.placement()) {
+    case MvPhotoFrame::Placement::Top:
+        rect.setTop(photo.bottom() + gap);
+        break;
+    case MvPhotoFrame::Placement::Left:
+        rect.setLeft(photo.right() + gap);
+        break;
+    case MvPhotoFrame::Placement::Right:
+        rect.setRight(photo.left() - gap);
+        break;
+    }
+    if (m_appearance.type() == CALENDAR_ONE_ROW) {
+        const double tallest = rect.width() < narrowStrip ? tallestNarrowStrip : tallestStrip * rect.width();
+        rect.setTop(std::max(rect.top(), rect.bottom() - tallest));
+    }
+    return rect.isEmpty() ? QRectF() : rect;
+}
+
+void MvCalendarPage::paint(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange) const
+{
+    paintGround(painter, format);
+    paintPhoto(painter, format);
+    paintCalendarium(painter, format, documentRange, {});
+}
+
+void MvCalendarPage::paintGround(QPainter &painter, const MvPageFormat &format) const
+{
+    const QColor color = m_appearance.cellColor(MvCalendarCellColorKey(
+        MvCalendarCellColorRoleEnum::bgcolor, CALENDAR_CELL_TYPE_EMPTY, MvParityLogicEnum::even));
+    if (m_appearance.isValid() && m_appearance.isOpaqueColor(color))
+        painter.fillRect(format.mediaRect(), color);
+}
+
+void MvCalendarPage::paintPhoto(QPainter &painter, const MvPageFormat &format) const
+{
+    if (m_photo.isValid())
+        MvPhotoPainter(painter, m_photo).paint(m_photo.rect(format));
+}
+
+MvPaintRecording MvCalendarPage::record(const MvPageFormat &format, const MvDateRange &documentRange,
+                                        const Prepare &prepare, const MvRenderingRule &rule, double pixelsPerUnit) const
+{
+    const double scale = pixelsPerUnit > 0.0 ? pixelsPerUnit : 1.0;
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
+    rule.encodeInto(painter);
+    painter.scale(scale, scale);
+    paintCalendarium(painter, format, documentRange, prepare);
+    painter.end();
+
+    MvPaintRecorder unscaled(nullptr); // takes the scale out again: shapes are shared, only transforms change
+    QPainter unscaledPainter(&unscaled);
+    unscaledPainter.scale(1.0 / scale, 1.0 / scale);
+    recorder.recording().replay(unscaledPainter);
+    unscaledPainter.end();
+    return unscaled.recording();
+}
+
+QList<MvUnfittingText> MvCalendarPage::unfittingTexts(const MvPageFormat &format,
+                                                      const MvDateRange &documentRange) const
+{
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    return paintCalendarium(painter, format, documentRange, {});
+}
+
+QList<MvUnfittingText> MvCalendarPage::paintCalendarium(QPainter &painter, const MvPageFormat &format,
+                                                        const MvDateRange &documentRange, const Prepare &prepare) const
+{
+    QRectF rect = calendariumRect(format);
+    if (!isValid() || rect.isEmpty())
+        return {};
+    const MvCalendariumFit fit(m_appearance, m_content, format.magnitude(), rect.size());
+    QList<MvUnfittingText> unfitting;
+    if (fit.lineHeight() > 0.0) {
+        const auto line = renderer(fit.lineAppearance(), documentRange);
+        fit.apply(*line);
+        line->render(painter, {rect.left(), rect.top(), rect.width(), fit.lineHeight()});
+        unfitting = line->unfittingTexts();
+        rect.setTop(rect.top() + fit.lineHeight());
+    }
+    const auto calendarium = renderer(m_appearance, documentRange);
+    fit.apply(*calendarium);
+    if (prepare)
+        prepare(*calendarium);
+    calendarium->render(painter, rect);
+    return unfitting + calendarium->unfittingTexts();
+}
+
+std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendariumAppearance &appearance,
+                                                                const MvDateRange &documentRange) const
+{
+    std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
+    const MvCalendariumContentConfig content = m_content.moveToDayInMonth(1);
+    switch (appearance.type().value()) {
+    case CALENDAR_YEAR: // moves its range itself
+        made->setCalendarInformation(content, twelveMonths(content.date()));
+        break;
+    case CALENDAR_YEAR_ONLY:
+        made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()),
+                                     partOf(documentRange, twelveMonths(content.date())));
+        break;
+    default:
+        made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()), documentRange);
+        break;
+    }
+    made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    return made;
+}

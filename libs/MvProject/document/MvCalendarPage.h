@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvCalendariumColorSchemaID.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaID.h"
+#include "MvCalendar/MvUnfittingText.h"
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvPaintRecording.h"
+#include "MvProductBase/MvCalendariumContentConfig.h"
+#include "MvProductBase/MvDateRange.h"
+#include "MvProject/MvPageFormat.h"
+#include "MvProject/MvPhotoFrame.h"
+#include "MvProject/mvproject_export.h"
+
+#include <QRectF>
+
+#include <functional>
+#include <memory>
+
+class MvCalendariumRenderer;
+class QPainter;
+
+/// One page of a calendar: a calendarium, and a photo beside it if there is one. A value.
+///
+/// Painting happens in tenths of a millimetre with the origin at the trimmed page's corner. Personal entries are those
+/// of the active list. Above a layout that does not show its month stands the line that the layout names for it.
+class MVPROJECT_EXPORT MvCalendarPage
+{
+public:
+    /// Called with the renderer of the calendarium before it renders, to connect its signals. The renderer lives for
+    /// the call it was made in.
+    using Prepare = std::function<void(MvCalendariumRenderer &)>;
+
+    MvCalendarPage() = default;
+    MvCalendarPage(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content);
+
+    const MvCalendariumAppearance &appearance() const { return m_appearance; }
+    void setAppearance(const MvCalendariumAppearance &appearance);
+
+    /// The month, of a year the first one, by any day of it, with the holiday configuration and the week options.
+    const MvCalendariumContentConfig &contentConfig() const { return m_content; }
+    void setContentConfig(const MvCalendariumContentConfig &content) { m_content = content; }
+
+    const MvPhotoFrame &photoFrame() const { return m_photo; }
+    void setPhotoFrame(const MvPhotoFrame &photo) { m_photo = photo; }
+
+    /// Ids from a file that this computer has no schemas for; others stand in for them. They are written back as long
+    /// as the stand-in is not changed.
+    const MvCalendariumLayoutSchemaID &unknownLayout() const { return m_unknownLayout; }
+    void setUnknownLayout(const MvCalendariumLayoutSchemaID &id) { m_unknownLayout = id; }
+    const MvCalendariumColorSchemaID &unknownColors() const { return m_unknownColors; }
+    void setUnknownColors(const MvCalendariumColorSchemaID &id) { m_unknownColors = id; }
+
+    /// The appearance and the month are valid.
+    bool isValid() const { return m_appearance.isValid() && m_content.isValid(); }
+    /// How many months the layout shows: 12 for a year, else 1.
+    int monthCount() const;
+    /// The months whose days are on the page, whatever the range of the whole calendar; invalid when it shows no days.
+    MvDateRange printedMonths() const;
+
+    enum class CalendarWeeks { AsAsked, Always, Never };
+    /// Whether the layout shows calendar weeks: as the content's FEATURE_CALENDAR_WEEKS asks, or whatever it asks.
+    CalendarWeeks calendarWeeks() const;
+
+    /// What the photo leaves of the format's content rectangle to the calendarium and the line with its month; of a
+    /// tall rest a strip takes the foot. Empty when nothing is left.
+    QRectF calendariumRect(const MvPageFormat &format) const;
+
+    /// Paints the page. The range is that of the whole calendar.
+    void paint(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange) const;
+    /// The parts of paint() beneath the calendarium, from any thread: the ground of margins and bleed, which continues
+    /// that of empty cells, and the photo.
+    void paintGround(QPainter &painter, const MvPageFormat &format) const;
+    void paintPhoto(QPainter &painter, const MvPageFormat &format) const;
+    /// The part above them, the line with the month and the calendarium, to be replayed in page units. It is recorded
+    /// for the rule, and its photos of entries with so many pixels per unit: who replays with s pixels per unit at most
+    /// hands on s. GUI thread; the recording may be replayed in another.
+    MvPaintRecording record(const MvPageFormat &format, const MvDateRange &documentRange, const Prepare &prepare = {},
+                            const MvRenderingRule &rule = MvRenderingRule(MvRenderingRule::InteractiveScreen),
+                            double pixelsPerUnit = 1.0) const;
+
+    /// The texts that have no room, in the order of painting. GUI thread.
+    QList<MvUnfittingText> unfittingTexts(const MvPageFormat &format, const MvDateRange &documentRange) const;
+
+    bool operator==(const MvCalendarPage &) const = default;
+
+private:
+    /// Gives what had no room.
+    QList<MvUnfittingText> paintCalendarium(QPainter &painter, const MvPageFormat &format,
+                                            const MvDateRange &documentRange, const Prepare &prepare) const;
+    std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
+                                                    const MvDateRange &documentRange) const;
+
+    MvCalendariumAppearance m_appearance;
+    MvCalendariumContentConfig m_content;
+    MvPhotoFrame m_photo;
+    MvCalendariumLayoutSchemaID m_unknownLayout;
+    MvCalendariumColorSchemaID m_unknownColors;
+};

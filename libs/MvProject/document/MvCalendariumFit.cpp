@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvCalendariumFit.h"
+
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvPaint/MvPaintRecorder.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double air = 0.86; // numbers side by side do not touch: what fits, fits into so much of the width
+constexpr double step = 0.95;
+constexpr int mostSteps = 32;           // to a fifth of the size, which is the floor of every layout
+constexpr double largestLinePart = 0.5; // of the room's height
+
+const QDate longestMonth(2026, 8, 1); // 31 days in six weeks
+
+bool isYear(const MvCalendariumAppearance &appearance)
+{
+    return appearance.type() == CALENDAR_YEAR || appearance.type() == CALENDAR_YEAR_ONLY;
+}
+
+} // namespace
+
+MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
+                                   const MvSpaceMagnitude &paper, const QSizeF &room)
+    : m_appearance(appearance)
+    , m_content(content)
+    , m_paper(paper)
+    , m_room(room)
+{
+    MvCalendariumHolidayConfig empty = content.holidayConfig();
+    empty.setFeatures(FEATURE_NONE); // long names of holidays are no reason for smaller numbers
+    empty.setFeature(FEATURE_CALENDAR_WEEKS, content.hasFeatures(FEATURE_CALENDAR_WEEKS));
+    m_content.setHolidayConfig(empty);
+    if (!makeRenderer(appearance, longestMonth, 1.0)->rendersMonthInformation()) {
+        m_lineAppearance = appearance;
+        m_lineAppearance.setLayoutSchemaByID(appearance.layoutSchema().monthLayout());
+    }
+    m_scale = largestScale();
+}
+
+/// Of the steps from 1 down; the last one where none leaves room.
+double MvCalendariumFit::largestScale() const
+{
+    int tooLarge = -1;
+    int smallEnough = mostSteps;
+    for (int tried = 0; smallEnough - tooLarge > 1; tried = (tooLarge + smallEnough) / 2) {
+        if (hasRoom(std::pow(step, tried)))
+            smallEnough = tried;
+        else
+            tooLarge = tried;
+    }
+    return std::pow(step, smallEnough);
+}
+
+bool MvCalendariumFit::hasRoom(double scale) const
+{
+    const QSizeF room(m_room.width(), m_room.height() - lineHeight(scale));
+    if (!makeRenderer(m_appearance, longestMonth, scale)->hasRoom(room))
+        return false;
+    return isYear(m_appearance) || findsNothingUnfitting(scale, room); // years say it all themselves
+}
+
+bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) const
+{
+    MvCalendariumAppearance withoutHeaders = m_appearance; // which have a size of their own
+    withoutHeaders.setColumnHeaders(QString());
+    const Renderer renderer = makeRenderer(withoutHeaders, longestMonth, scale);
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    // a strip says itself how far its numbers are apart, and takes more rows where it is narrower
+    const double width = m_appearance.type() == CALENDAR_ONE_ROW ? room.width() : air * room.width();
+    renderer->render(painter, {QPointF(), QSizeF(width, room.height())});
+    return renderer->unfittingTexts().isEmpty();
+}
+
+double MvCalendariumFit::lineHeight(double scale) const
+{
+    if (!m_lineAppearance.isValid())
+        return 0.0;
+    const double height = makeRenderer(m_lineAppearance, longestMonth, scale)->minimumSizeHint().height();
+    return std::min(height, largestLinePart * m_room.height());
+}
+
+void MvCalendariumFit::apply(MvCalendariumRenderer &renderer, double scale) const
+{
+    renderer.setProductSize(m_paper);
+    renderer.setScale(scale, scale * renderer.appearance().optimizedSize().lengthFactor(m_paper));
+}
+
+MvCalendariumFit::Renderer MvCalendariumFit::makeRenderer(const MvCalendariumAppearance &appearance, const QDate &month,
+                                                          double scale) const
+{
+    Renderer made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
+    const MvCalendariumContentConfig content = m_content.moveToDay(month);
+    made->setCalendarInformation(content, content.dayRange());
+    apply(*made, scale);
+    return made;
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPhotoPainter.h"
+
+#include "MvFoto/MvFotoAccess.h"
+#include "MvFoto/MvFotoResolution.h"
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvOutlinePainter.h"
+#include "MvPaint/MvPrintableText.h"
+#include "MvPaint/MvTextOutlineCache.h"
+#include "MvPaint/MvTextPainter.h"
+
+#include <QFileInfo>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QColor fieldColor(0xE6, 0xE6, 0xE6);
+constexpr QColor textColor(0x59, 0x59, 0x59); // contrast of more than 4.5 to the field
+
+/// The steps in which photos are decoded for a screen, so that zooming does not decode one for every factor.
+int qualityFor(int side)
+{
+    int quality = 2; // 512 pixels
+    while (quality < 7 && (128 << quality) < side)
+        ++quality;
+    return quality;
+}
+
+} // namespace
+
+void MvPhotoPainter::paint(const QRectF &rect)
+{
+    if (rect.isEmpty())
+        return;
+    const QSize full = MvFotoAccess::preferredSize(MvFoto(QFileInfo(m_frame.path())));
+    QImage image;
+    QRectF seen;
+    if (!full.isEmpty()) {
+        seen = m_frame.crop(full, rect.size());
+        const double pixelsPerUnit = std::sqrt(std::abs(m_painter.deviceTransform().determinant()));
+        image = decode(full, pixelsPerUnit * rect.width() / seen.width());
+    }
+    if (!image.isNull()) {
+        const double scale = double(image.width()) / full.width();
+        drawCropped(image, {seen.topLeft() * scale, seen.size() * scale}, rect);
+        MvFotoResolution::paintWarning(m_painter, rect, MvFotoResolution::pixelsPerInch(seen.size(), rect.size()));
+        return;
+    }
+    const MvRenderingRule rule = MvRenderingRule::decodeFrom(m_painter);
+    const bool isScreen = rule.hasFlag(MvRenderingRule::InteractiveScreen);
+    if (isScreen || rule.hasFlag(MvRenderingRule::Thumbnail))
+        paintPlaceholder(rect, isScreen);
+}
+
+QImage MvPhotoPainter::decode(const QSize &full, double devicePixelsPerPhotoPixel) const
+{
+    const MvFoto foto{QFileInfo(m_frame.path())};
+    const double scale = std::min(1.0, devicePixelsPerPhotoPixel); // what is larger than the photo is not in its file
+    const QSize needed(std::max(1, int(std::ceil(full.width() * scale))),
+                       std::max(1, int(std::ceil(full.height() * scale))));
+    if (MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::Print))
+        return MvFotoAccess::scaled(foto, needed);
+    return MvFotoAccess::midRes(foto, qualityFor(std::max(needed.width(), needed.height())), MvFotoAccess::UseMemory);
+}
+
+/// Whole pixels of the image are drawn, clipped to the rectangle: some targets would round the part that is seen, and
+/// so distort it.
+void MvPhotoPainter::drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect)
+{
+    const QRect pixels = seen.toAlignedRect() & image.rect();
+    const double unitsPerPixel = rect.width() / seen.width();
+    const QRectF target(rect.topLeft() + (QPointF(pixels.topLeft()) - seen.topLeft()) * unitsPerPixel,
+                        QSizeF(pixels.size()) * unitsPerPixel);
+    m_painter.save();
+    m_painter.setClipRect(rect, Qt::IntersectClip);
+    m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    m_painter.drawImage(target, pixels == image.rect() ? image : image.copy(pixels));
+    m_painter.restore();
+}
+
+void MvPhotoPainter::paintPlaceholder(const QRectF &rect, bool isNamed)
+{
+    m_painter.fillRect(rect, fieldColor);
+    if (!isNamed)
+        return;
+    QFont font;
+    font.setPixelSize(40); // 4 mm
+    const int width = int(0.9 * rect.width());
+    const QStringList lines = {tr("Foto fehlt"), MvPrintableText::onOneLine(QFileInfo(m_frame.path()).fileName())};
+    const double lineHeight = 60.0;
+    double baseline = rect.center().y() - 5.0;
+    for (const QString &line : lines) {
+        const MvTextOutline outline =
+            MvTextOutlineCache::instance().outline(font, MvTextPainter::elided(width, font, line));
+        MvOutlinePainter::fillOutline(m_painter, {rect.center().x() - outline.advance() / 2.0, baseline}, outline,
+                                      textColor);
+        baseline += lineHeight;
+    }
+}

@@ -1,0 +1,365 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvTest.h"
+
+#include "MvFoto/MvGuardedImageReader.h"
+#include "MvFoto/MvImageFormat.h"
+#include "MvFoto/MvImageLoader.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageWriter>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <sys/stat.h>
+
+class tst_MvImageLoader : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void formats_data();
+    void formats();
+    void refuses_data();
+    void refuses();
+    void givesUp();
+    void leavesOutTexts();
+    void turnsAsTheCameraSays_data();
+    void turnsAsTheCameraSays();
+    void convertsToScreenColours();
+    void scales_data();
+    void scales();
+    void decodesOnce();
+    void decodesOnceInManyThreads();
+    void cacheIsBounded();
+
+private:
+    QString path(const QString &name) const { return m_dir->filePath(name); }
+    void put(const QString &name, const QByteArray &content) const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+};
+
+/// Four fields: red, green, blue and white from the top left, in reading order.
+static QImage fields(const QSize &size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    QPainter painter(&image);
+    const QRect quarter(0, 0, size.width() / 2, size.height() / 2);
+    image.fill(Qt::white);
+    painter.fillRect(quarter, Qt::red);
+    painter.fillRect(quarter.translated(quarter.width(), 0), Qt::green);
+    painter.fillRect(quarter.translated(0, quarter.height()), Qt::blue);
+    return image;
+}
+
+/// The colours of the four fields by their first letters.
+static QString fieldNames(const QImage &image)
+{
+    QString names;
+    for (const QPointF &place : {QPointF(0.25, 0.25), QPointF(0.75, 0.25), QPointF(0.25, 0.75), QPointF(0.75, 0.75)}) {
+        const QColor color = image.pixelColor(int(place.x() * image.width()), int(place.y() * image.height()));
+        const bool red = color.red() > 128;
+        const bool green = color.green() > 128;
+        const bool blue = color.blue() > 128;
+        names += red && green && blue ? u'w' : red ? u'r' : green ? u'g' : blue ? u'b' : u'?';
+    }
+    return names;
+}
+
+static QByteArray written(const QImage &image, const char *format, bool isProgressive = false)
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, format);
+    writer.setProgressiveScanWrite(isProgressive);
+    return writer.write(image) ? buffer.data() : QByteArray();
+}
+
+/// A JPEG that says it is 20,000 pixels square, with a number of bytes after its end.
+static QByteArray claiming20000(int surplus)
+{
+    QByteArray jpeg = written(fields({64, 64}), "jpeg");
+    jpeg.replace(jpeg.indexOf("\xff\xc0") + 5, 4, QByteArray::fromHex("4e204e20"));
+    return jpeg + QByteArray(surplus, 0);
+}
+
+/// A progressive JPEG with its last pass again and again.
+static QByteArray manyScans(int count)
+{
+    const QByteArray jpeg = written(fields({64, 64}), "jpeg", true);
+    const qsizetype lastScan = jpeg.lastIndexOf("\xff\xda");
+    return jpeg.chopped(2) + jpeg.mid(lastScan).chopped(2).repeated(count) + jpeg.last(2);
+}
+
+void tst_MvImageLoader::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_dir->isValid());
+    MvImageLoader::instance().clear();
+}
+
+void tst_MvImageLoader::put(const QString &name, const QByteArray &content) const
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+void tst_MvImageLoader::formats_data()
+{
+    QTest::addColumn<QByteArray>("format");
+    for (const char *format : {"jpeg", "png", "bmp", "tiff", "webp"})
+        QTest::newRow(format) << QByteArray(format);
+}
+
+void tst_MvImageLoader::formats()
+{
+    QFETCH(QByteArray, format);
+    if (!QImageWriter::supportedImageFormats().contains(format))
+        QSKIP("no writer for this format here");
+    const QString file = path(u"foto.xyz"_qs); // the name says nothing
+    QVERIFY(fields({80, 60}).save(file, format.constData()));
+    QCOMPARE(MvImageLoader::format(QFileInfo(file)), format);
+    QCOMPARE(MvImageLoader::instance().size(QFileInfo(file)), QSize(80, 60));
+    QCOMPARE(fieldNames(MvImageLoader::instance().load(QFileInfo(file))), u"rgbw"_qs);
+}
+
+void tst_MvImageLoader::refuses_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason"); // in it
+    const QString notRead = u"Gelesen werden JPEG"_qs;
+    const QByteArray svg =
+        "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9' height='9'/></svg>";
+    QTest::newRow("drawing under a photo's name") << svg << notRead;
+    QTest::newRow("drawing with an XML declaration") << "<?xml version='1.0'?>" + svg << notRead;
+    QTest::newRow("empty") << QByteArray() << notRead;
+    QTest::newRow("pixel list as source code")
+        << QByteArray("/* XPM */\nstatic char *x[]={\"1 1 1 1\",\"a c red\",\"a\"};") << notRead;
+    QTest::newRow("document") << QByteArray("%PDF-1.7\n") << notRead;
+    // 60,000 pixels square would take 14 GB
+    QTest::newRow("larger than memory allows") << QByteArray::fromHex("424d36000000000000003600000028000000"
+                                                                      "60ea0000"
+                                                                      "60ea0000"
+                                                                      "0100180000000000"
+                                                                      "0000000000000000000000000000000000000000")
+                                               << u"beschädigt"_qs;
+    QTest::newRow("34 bytes for 16,383 pixels square") << QByteArray::fromHex("524946461a00000057454250"
+                                                                              "5650384c0d000000"
+                                                                              "2ffebfff0f1111111111111111"
+                                                                              "00")
+                                                       << u"viel zu klein für die 16383 × 16383"_qs;
+    QTest::newRow("one pixel on a canvas of 16,000 pixels square")
+        << QByteArray::fromHex("474946383961803e803e800000000000ffffff2c00000000010001000002024401003b")
+        << u"viel zu klein für die 16000 × 16000"_qs;
+    QTest::newRow("small file for 20,000 pixels square") << claiming20000(0) << u"zu klein für die 20000 × 20000"_qs;
+    QTest::newRow("the same, stuffed") << claiming20000(1 << 20) << u"zu groß: 20000 × 20000"_qs;
+    QTest::newRow("photo in 2,000 passes") << manyScans(2000) << u"64 Durchgängen"_qs;
+    QTest::newRow("photo cut off after 300 bytes")
+        << written(fields({400, 300}), "jpeg").first(300) << u"nicht vollständig"_qs;
+    QTest::newRow("progressive photo cut off")
+        << written(fields({2000, 1500}), "jpeg", true).first(400) << u"nicht vollständig"_qs;
+}
+
+void tst_MvImageLoader::refuses()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, reason);
+    put(u"foto.png"_qs, content);
+    const QFileInfo file(path(u"foto.png"_qs));
+    const bool isHeadCut = qstrcmp(QTest::currentDataTag(), "photo cut off after 300 bytes") == 0;
+    for (int i = 0; i < 6 && isHeadCut; ++i) // read three times below
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"JPEG"_qs));
+    QVERIFY(MvImageLoader::instance().load(file).isNull());
+    QVERIFY2(MvImageLoader::instance().error(file).contains(reason), qPrintable(MvImageLoader::instance().error(file)));
+    MvGuardedImageReader inMemory(content);
+    QVERIFY(inMemory.read({9000, 9000}).isNull());
+    QCOMPARE(inMemory.error(), MvImageLoader::instance().error(file));
+    QVERIFY(MvImageLoader::instance().loadScaled(file, {9000, 9000}).isNull());
+
+    QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_qs)).constData(), 0600), 0);
+    for (const QString &other : {path(u"pipe"_qs), path(u"missing.png"_qs), m_dir->path(), u"/dev/zero"_qs})
+        QVERIFY2(MvImageLoader::instance().load(QFileInfo(other)).isNull(), qPrintable(other));
+}
+
+void tst_MvImageLoader::givesUp()
+{
+    const QByteArray jpeg = written(fields({2000, 1500}), "jpeg", true); // an ordinary progressive one
+    MvGuardedImageReader inTime(jpeg);
+    QVERIFY(inTime.isQuick());
+    QCOMPARE(fieldNames(inTime.read({})), u"rgbw"_qs);
+    QCOMPARE(inTime.error(), QString());
+    QVERIFY(!MvGuardedImageReader(manyScans(40)).isQuick());
+
+    MvGuardedImageReader late(jpeg);
+    QCOMPARE(late.size(), QSize(2000, 1500));
+    late.setTimeLimit(0);
+    QTest::ignoreMessage(QtWarningMsg, "Corrupt JPEG data: premature end of data segment");
+    QVERIFY(late.read({}).isNull());
+    QVERIFY2(late.error().contains(u"zu lange"_qs), qPrintable(late.error()));
+}
+
+/// Which a decoder would unpack: 2 MB from 2 KB here.
+void tst_MvImageLoader::leavesOutTexts()
+{
+    QImage image = fields({80, 60});
+    image.setText(u"Description"_qs, u"A"_qs.repeated(2 << 20));
+    const QByteArray png = written(image, "png");
+    QVERIFY(png.contains("zTXt"));
+    MvGuardedImageReader reader(png);
+    const QImage read = reader.read({});
+    QCOMPARE(fieldNames(read), u"rgbw"_qs);
+    QCOMPARE(read.textKeys(), QStringList());
+}
+
+void tst_MvImageLoader::turnsAsTheCameraSays_data()
+{
+    QTest::addColumn<int>("transformation");
+    QTest::addColumn<QString>("names");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("as it is") << int(QImageIOHandler::TransformationNone) << u"rgbw"_qs << QSize(800, 600);
+    QTest::newRow("quarter turn") << int(QImageIOHandler::TransformationRotate90) << u"brwg"_qs << QSize(600, 800);
+    QTest::newRow("half turn") << int(QImageIOHandler::TransformationRotate180) << u"wbgr"_qs << QSize(800, 600);
+    QTest::newRow("quarter turn back") << int(QImageIOHandler::TransformationRotate270) << u"gwrb"_qs
+                                       << QSize(600, 800);
+}
+
+void tst_MvImageLoader::turnsAsTheCameraSays()
+{
+    QFETCH(int, transformation);
+    QFETCH(QString, names);
+    QFETCH(QSize, size);
+    const QFileInfo file(path(u"foto.jpg"_qs));
+    QImageWriter writer(file.filePath(), "jpeg");
+    writer.setTransformation(QImageIOHandler::Transformations(transformation));
+    QVERIFY(writer.write(fields({800, 600})));
+
+    MvImageLoader &loader = MvImageLoader::instance();
+    QCOMPARE(loader.size(file), size);
+    QCOMPARE(loader.load(file).size(), size);
+    QCOMPARE(fieldNames(loader.load(file)), names);
+    const QImage small = loader.loadScaled(file, {60, 60}); // decoded small, then turned
+    QCOMPARE(small.size(), size.scaled(60, 60, Qt::KeepAspectRatio));
+    QCOMPARE(fieldNames(small), names);
+}
+
+void tst_MvImageLoader::convertsToScreenColours()
+{
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(QColor(160, 120, 80));
+    image.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
+    const QString file = path(u"adobe.png"_qs);
+    QVERIFY(image.save(file));
+    const QColor seen = MvImageLoader::instance().load(QFileInfo(file)).pixelColor(8, 8);
+    // computed from the primaries of both spaces
+    QVERIFY2(std::abs(seen.red() - 174) <= 1, qPrintable(seen.name()));
+    QVERIFY2(std::abs(seen.green() - 121) <= 1, qPrintable(seen.name()));
+    QVERIFY2(std::abs(seen.blue() - 77) <= 1, qPrintable(seen.name()));
+}
+
+void tst_MvImageLoader::scales_data()
+{
+    QTest::addColumn<QSize>("bounds");
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("much smaller: decoded small") << QSize(100, 100) << QSize(100, 75);
+    QTest::newRow("a little smaller: decoded in full") << QSize(1000, 1000) << QSize(1000, 750);
+    QTest::newRow("height decides") << QSize(1000, 60) << QSize(80, 60);
+    QTest::newRow("larger") << QSize(3200, 2400) << QSize(3200, 2400);
+    QTest::newRow("same size") << QSize(1600, 1200) << QSize(1600, 1200);
+    QTest::newRow("no width") << QSize(0, 100) << QSize();
+}
+
+void tst_MvImageLoader::scales()
+{
+    QFETCH(QSize, bounds);
+    QFETCH(QSize, size);
+    const QFileInfo narrow(path(u"narrow.png"_qs)); // never less than a pixel
+    QVERIFY(fields({30000, 2}).save(narrow.filePath()));
+    if (size.isValid())
+        QCOMPARE(MvImageLoader::instance().loadScaled(narrow, bounds).size(), QSize(bounds.width(), 1));
+    const QFileInfo file(path(u"foto.jpg"_qs));
+    QImage image(1600, 1200, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x * 255 / 1600, y * 255 / 1200, 128));
+    }
+    QVERIFY(image.save(file.filePath(), "jpeg", 95));
+    const QImage scaled = MvImageLoader::instance().loadScaled(file, bounds);
+    if (!size.isValid()) {
+        QVERIFY(scaled.isNull());
+        return;
+    }
+    QCOMPARE(scaled.size(), size);
+    for (const QPointF &place : {QPointF(0.1, 0.9), QPointF(0.5, 0.5), QPointF(0.8, 0.2)}) {
+        const QColor color = scaled.pixelColor(int(place.x() * size.width()), int(place.y() * size.height()));
+        QVERIFY2(std::abs(color.red() - place.x() * 255) <= 6, qPrintable(color.name()));
+        QVERIFY2(std::abs(color.green() - place.y() * 255) <= 6, qPrintable(color.name()));
+    }
+}
+
+void tst_MvImageLoader::decodesOnce()
+{
+    const QFileInfo file(path(u"foto.png"_qs));
+    QVERIFY(fields({200, 100}).save(file.filePath()));
+    MvImageLoader &loader = MvImageLoader::instance();
+    const QImage first = loader.loadScaled(file, {50, 50});
+    QCOMPARE(loader.loadScaled(file, {50, 50}).cacheKey(), first.cacheKey()); // the same pixels
+    QVERIFY(loader.loadScaled(file, {40, 40}).cacheKey() != first.cacheKey());
+
+    QVERIFY(fields({100, 200}).save(file.filePath()));
+    QFile touched(file.filePath());
+    QVERIFY(touched.open(QIODevice::ReadWrite));
+    QVERIFY(touched.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
+    touched.close();
+    QCOMPARE(loader.loadScaled(file, {50, 50}).size(), QSize(25, 50)); // a changed file is read again
+}
+
+void tst_MvImageLoader::decodesOnceInManyThreads()
+{
+    const QFileInfo file(path(u"foto.jpg"_qs));
+    QVERIFY(fields({1200, 900}).save(file.filePath()));
+    QList<qint64> keys(8);
+    std::vector<std::unique_ptr<QThread>> threads;
+    for (qint64 &key : keys) {
+        threads.emplace_back(QThread::create([&key, &file] {
+            key = MvImageLoader::instance().loadScaled(file, {300, 300}).cacheKey();
+        }));
+        threads.back()->start();
+    }
+    for (const auto &thread : threads)
+        QVERIFY(thread->wait());
+    QCOMPARE(QSet<qint64>(keys.cbegin(), keys.cend()).size(), 1);
+}
+
+void tst_MvImageLoader::cacheIsBounded()
+{
+    const qint64 limit = 100 * 1024;
+    MvImageCache cache(limit);
+    int made = 0;
+    const auto ask = [&](int number, int side) {
+        cache.image({QString::number(number), 0, 0, {}}, [&] {
+            ++made;
+            return QImage(side, side, QImage::Format_RGB32);
+        });
+    };
+    for (int number = 0; number < 10; ++number) { // 16 KiB each: six fit
+        ask(number, 64);
+        ask(0, 64); // stays in use
+        QVERIFY(cache.byteCount() <= limit);
+    }
+    QCOMPARE(made, 10);
+    ask(0, 64);
+    ask(9, 64);
+    QCOMPARE(made, 10);
+    ask(1, 64); // went long ago
+    QCOMPARE(made, 11);
+    ask(100, 1000); // larger than everything: not kept, pushes nothing out
+    ask(9, 64);
+    QCOMPARE(made, 12);
+}
+
+MV_TEST_MAIN(tst_MvImageLoader)
+#include "tst_MvImageLoader.moc"

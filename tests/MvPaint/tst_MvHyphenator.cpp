@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvPaint/MvHyphenator.h"
+
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvTest.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+class tst_MvHyphenator : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void divides_data();
+    void divides();
+    void filesOfPatterns_data();
+    void filesOfPatterns();
+    void usersPatternsComeFirst();
+};
+
+namespace {
+
+/// The word with a bar where it may be divided, as the ends of the lines would show it.
+QString divided(const MvHyphenator &hyphenator, const QString &word)
+{
+    QString shown;
+    qsizetype from = 0;
+    const QList<MvWordBreak> breaks = hyphenator.breaks(word);
+    for (const MvWordBreak &at : breaks) {
+        shown += word.mid(from, at.end - from) + at.ending + u'|' + at.beginning;
+        from = at.next;
+    }
+    return shown + word.mid(from);
+}
+
+QString write(const QDir &folder, const QString &name, const QByteArray &content)
+{
+    QFile file(folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(name));
+    return file.fileName();
+}
+
+} // namespace
+
+void tst_MvHyphenator::divides_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QString>("shown");
+    // as dictionaries divide them, with two letters before and three after
+    QTest::newRow("German") << u"de_DE"_s << u"Pfingstmontag"_s << u"Pfingst-|mon-|tag"_s;
+    QTest::newRow("Swiss German") << u"de_CH"_s << u"Fronleichnam"_s << u"Fron-|leich-|nam"_s;
+    QTest::newRow("German where no file is for the country")
+        << u"de_IT"_s << u"Ostermontag"_s << u"Os-|ter-|mon-|tag"_s;
+    QTest::newRow("French") << u"fr_BE"_s << u"Toussaint"_s << u"Tous-|saint"_s;
+    QTest::newRow("Czech, another encoding") << u"cs_CZ"_s << u"Velikonoční"_s << u"Ve-|liko-|noční"_s;
+    QTest::newRow("Hungarian, compounds") << u"hu_HU"_s << u"Húsvéthétfő"_s << u"Hús-|vét-|hétfő"_s;
+    QTest::newRow("Greek") << u"el_GR"_s << u"Χριστούγεννα"_s << u"Χρι-|στού-|γεννα"_s;
+    QTest::newRow("Norwegian under its other code") << u"no_NO"_s << u"Langfredag"_s << u"Langfre-|dag"_s;
+    QTest::newRow("Finnish, patterns of our own")
+        << u"fi_FI"_s << u"Uudenvuodenpäivä"_s << u"Uu-|den-|vuo-|den-|päivä"_s;
+    QTest::newRow("Finnish compound") << u"fi_FI"_s << u"juhannusaatto"_s << u"ju-|han-|nus-|aatto"_s;
+    QTest::newRow("Luxembourgish, like German") << u"lb_LU"_s << u"Ouschtersonndeg"_s << u"Ousch-|ter-|sonn-|deg"_s;
+    QTest::newRow("no patterns") << u"tr_TR"_s << u"Bayramı-Bayramı"_s << u"Bayramı-|Bayramı"_s;
+    QTest::newRow("no language") << QString() << u"Pfingstmontag"_s << u"Pfingstmontag"_s;
+
+    QTest::newRow("capitals") << u"de_DE"_s << u"PFINGSTMONTAG"_s << u"PFINGST-|MON-|TAG"_s;
+    QTest::newRow("punctuation") << u"de_DE"_s << u"(„Pfingstmontag“),"_s << u"(„Pfingst-|mon-|tag“),"_s;
+    QTest::newRow("decomposed") << u"de_DE"_s << u"Gla\u0308ubigermontag"_s << u"Gla\u0308u-|bi-|ger-|mon-|tag"_s;
+    QTest::newRow("elision") << u"fr_FR"_s << u"l’Assomption"_s << u"l’As-|somp-|tion"_s;
+    QTest::newRow("hyphens of its own") << u"de_DE"_s << u"Anna-Luise"_s << u"Anna-|Luise"_s;
+    QTest::newRow("too short a part") << u"de_DE"_s << u"E-Mail 2027-28"_s << u"E-Mail 2027-28"_s;
+    QTest::newRow("soft hyphens rule") << u"de_DE"_s << u"Pfingst\u00admontag"_s << u"Pfingst-|montag"_s;
+    QTest::newRow("soft hyphens at the ends") << u"de_DE"_s << u"\u00adTag\u00ad"_s << u"\u00adTag\u00ad"_s;
+    QTest::newRow("blank") << u"de_DE"_s << QString() << QString();
+    QTest::newRow("no word at all") << u"de_DE"_s << QString(10'000, u'x') << QString(10'000, u'x');
+}
+
+void tst_MvHyphenator::divides()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, word);
+    QFETCH(QString, shown);
+    QCOMPARE(divided(MvHyphenator(MvLocale(language)), word), shown);
+}
+
+void tst_MvHyphenator::filesOfPatterns_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("a letter comes back") << QByteArray("UTF-8\nf1f/ff=f,1,2\n") << u"Schiffahrt"_s
+                                         << u"Schiff-|fahrt"_s;
+    QTest::newRow("in capitals") << QByteArray("UTF-8\nf1f/ff=f,1,2\n") << u"SCHIFFAHRT"_s << u"SCHIFF-|FAHRT"_s;
+    QTest::newRow("one byte a letter") << QByteArray("ISO8859-2\n\xf9"
+                                                     "1d\n")
+                                       << u"Neujůdek"_s << u"Neujů-|dek"_s;
+    QTest::newRow("a letter that the encoding lacks")
+        << QByteArray("ISO8859-2\nu1d\n") << u"Þeujudek"_s << u"Þeujudek"_s;
+    QTest::newRow("the file's own minimum")
+        << QByteArray("UTF-8\nLEFTHYPHENMIN 4\na1b\n") << u"xabaxabaxa"_s << u"xabaxa-|baxa"_s;
+    QTest::newRow("only where a word ends") << QByteArray("UTF-8\na1bcd.\n.ab1c\n") << u"abcabcd"_s << u"ab-|ca-|bcd"_s;
+    QTest::newRow("unknown encoding") << QByteArray("EBCDIC-17\na1b\n") << u"xabaxab"_s << u"xabaxab"_s;
+    QTest::newRow("empty") << QByteArray() << u"xabaxab"_s << u"xabaxab"_s;
+    QTest::newRow("no patterns at all") << QByteArray(5000, '\xff') << u"xabaxab"_s << u"xabaxab"_s;
+    QTest::newRow("weights alone, long lines, odd ends")
+        << "UTF-8\n1234\n" + QByteArray(300, 'a') + "\n/\n1/=,,\na1b" << u"xabax"_s << u"xa-|bax"_s;
+}
+
+void tst_MvHyphenator::filesOfPatterns()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, word);
+    QFETCH(QString, shown);
+    const QTemporaryDir folder;
+    QCOMPARE(divided(MvHyphenator::fromFile(write(folder.path(), u"hyph.dic"_s, content)), word), shown);
+}
+
+void tst_MvHyphenator::usersPatternsComeFirst()
+{
+    QVERIFY(MvHyphenator::fileFor(MvLocale(u"sv_FI"_s)).contains("/hyph_sv"_L1)); // without patterns of its own
+    const QDir folder = MvDirectoryConfig::instance().programDataSubDir(u"hyphenation"_s);
+    const QString own = write(folder, u"hyph_sv.dic"_s, "UTF-8\n");
+    QCOMPARE(QFileInfo(MvHyphenator::fileFor(MvLocale(u"sv_FI"_s))), QFileInfo(own));
+    QCOMPARE(MvHyphenator::fileFor(MvLocale(u"xx_XX"_s)), QString());
+}
+
+MV_TEST_MAIN(tst_MvHyphenator)
+#include "tst_MvHyphenator.moc"

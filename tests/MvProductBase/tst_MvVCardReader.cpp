@@ -1,0 +1,353 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProductBase/MvVCardAddressBook.h"
+#include "MvProductBase/MvVCardBirthdays.h"
+#include "MvProductBase/MvVCardReader.h"
+#include "MvTest.h"
+
+#include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
+
+/// Cards as different programs write them.
+class tst_MvVCardReader : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void dates_data();
+    void dates();
+    void shortYears();
+    void orderOfDayAndMonth_data();
+    void orderOfDayAndMonth();
+    void names_data();
+    void names();
+    void pictures();
+    void identity();
+    void anniversaries();
+    void damagedFiles();
+    void countsWhatIsLeftOut();
+    void linearTime_data();
+    void linearTime();
+    void addressBook();
+};
+
+namespace {
+
+QByteArray card(const QByteArray &lines, const QByteArray &version = "3.0")
+{
+    return "BEGIN:VCARD\r\nVERSION:" + version + "\r\n" + lines + "\r\nEND:VCARD\r\n";
+}
+
+} // namespace
+
+void tst_MvVCardReader::dates_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QDate>("date");
+    const QDate may(1990, 5, 17);
+    for (const char *text : {"1990-05-17",
+                             "19900517",
+                             "1990-05-17T23:00:00Z",
+                             "19900517T000000",
+                             "1990-05-17+02:00",
+                             "1990-5-17",
+                             "1990/05/17",
+                             "1990.05.17",
+                             "17.05.1990",
+                             "17.5.1990",
+                             "17.05.90",
+                             "17. 5. 1990",
+                             "17.05.1990, 00:00",
+                             "17/05/1990",
+                             "05/17/1990",
+                             "17-05-1990",
+                             "5/17/1990 12:00",
+                             "17 05 1990",
+                             "17 May 1990",
+                             "May 17, 1990",
+                             "17. Mai 1990",
+                             "17-May-1990",
+                             "1990 May 17",
+                             "May 17th, 1990",
+                             "17 mai 1990",
+                             "17 de mayo, 1990",
+                             "17 mei 1990",
+                             "Donnerstag, 17.Mai 90",
+                             "Thu, 17 May 1990",
+                             "\"1990-05-17\"",
+                             "１９９０-０５-１７",
+                             "١٩٩٠-٠٥-١٧",
+                             "1990年5月17日",
+                             "1990–05–17",
+                             "1990-05-17\\n"})
+        QTest::newRow(text) << QByteArray("BDAY:") + text << may;
+    QTest::newRow("typed") << QByteArray("BDAY;VALUE=date:1990-05-17") << may;
+    QTest::newRow("typed as text") << QByteArray("BDAY;VALUE=text:17 May 1990") << may;
+    QTest::newRow("quoted-printable") << QByteArray("BDAY;QUOTED-PRINTABLE:17=2E05=2E1990") << may;
+    QTest::newRow("grouped, small letters") << QByteArray("item1.bday:1990-05-17") << may;
+    QTest::newRow("an empty one follows") << QByteArray("BDAY:1990-05-17\r\nBDAY:") << may;
+    QTest::newRow("same number twice") << QByteArray("BDAY:05/05/1990") << QDate(1990, 5, 5);
+    QTest::newRow("leap day of a short year") << QByteArray("BDAY:29.02.00") << QDate(2000, 2, 29);
+    for (const char *text : {"--0214", "--02-14", "--2-14", "0000-02-14", "14.02.", "14 Feb", "February 14"})
+        QTest::newRow(text) << QByteArray("BDAY:") + text << QDate(1604, 2, 14);
+    QTest::newRow("leap day without a year") << QByteArray("BDAY:--0229") << QDate(1604, 2, 29);
+    QTest::newRow("year to be left out") << QByteArray("BDAY;X-APPLE-OMIT-YEAR=1604:1604-06-20") << QDate(1604, 6, 20);
+    QTest::newRow("another year to be left out")
+        << QByteArray("BDAY;X-APPLE-OMIT-YEAR=1904:1904-06-20") << QDate(1604, 6, 20);
+    QTest::newRow("a real birthday in that year") << QByteArray("BDAY:1904-06-20") << QDate(1904, 6, 20);
+    for (const char *text : {"1990-05",    "1990-02-30",  "--0230",       "---17",       "0000-00-00",
+                             "31.04.1990", "29.02.1990",  "12/04/1985",   "4-12-1985",   "12/85",
+                             "12-04-85",   "Mai 1990",    "17 Maig 1990", "May 17 June", "2990-05-17",
+                             "1580-05-17", "around 1800", "17.05.90.12",  "T1030",       "17"})
+        QTest::newRow(text) << QByteArray("BDAY;VALUE=text:") + text << QDate();
+}
+
+void tst_MvVCardReader::dates()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QDate, date);
+    const MvVCardReader::Content content = MvVCardReader::read(card("FN:Erika\r\n" + line));
+    QCOMPARE(content.error, QString());
+    if (date.isValid()) {
+        QCOMPARE(content.persons.size(), 1);
+        QCOMPARE(content.persons.first().birthday(), date);
+        QVERIFY(content.notUnderstood.isEmpty());
+    } else {
+        QCOMPARE(content.persons.size(), 0);
+        QCOMPARE(content.notUnderstood, QStringList{u"Erika: "_s + QString::fromUtf8(line.mid(16))});
+    }
+}
+
+/// A year of two digits lies in the hundred years before today.
+void tst_MvVCardReader::shortYears()
+{
+    const auto read = [](const QString &text) { return MvVCardDate::fromText(text, QDate(2026, 11, 21)).date(); };
+    QCOMPARE(read(u"21.11.26"_s), QDate(2026, 11, 21));
+    QCOMPARE(read(u"22.11.26"_s), QDate(1926, 11, 22));
+    QCOMPARE(read(u"2026-11-22"_s), QDate());
+}
+
+void tst_MvVCardReader::orderOfDayAndMonth_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::addColumn<QString>("example"); // that nothing settles
+    QTest::addColumn<QString>("dates");   // with the day first, where somebody has to say it
+    const auto row = [](const char *name, const QStringList &texts, const QString &example, const QString &dates) {
+        QTest::newRow(name) << texts << example << dates;
+    };
+    row("settled by a day", {u"04/12/1985"_s, u"17/05/1990"_s}, {}, u"1985-12-04 1990-05-17"_s);
+    row("settled by a day in the second place", {u"04/12/1985"_s, u"05/17/90"_s}, {}, u"1985-04-12 1990-05-17"_s);
+    row("nothing settles", {u"04/12/1985"_s, u"1990-05-17"_s}, u"04/12/1985"_s, u"1985-12-04 1990-05-17"_s);
+    row("contradiction", {u"17/05/1990"_s, u"05/17/1990"_s, u"04/12/1985"_s}, u"04/12/1985"_s,
+        u"1990-05-17 1990-05-17 1985-12-04"_s);
+    row("other forms say nothing", {u"04/12/1985"_s, u"05-17-1990"_s}, u"04/12/1985"_s, u"1985-12-04 1990-05-17"_s);
+    row("nor do other files", {u"04/12/1985"_s, u"-"_s, u"05/17/1990"_s}, u"04/12/1985"_s, u"1985-12-04 1990-05-17"_s);
+    row("nor impossible dates", {u"04/12/1985"_s, u"02/30/1990"_s}, u"04/12/1985"_s, u"1985-12-04"_s);
+}
+
+void tst_MvVCardReader::orderOfDayAndMonth()
+{
+    QFETCH(QStringList, texts);
+    QFETCH(QString, example);
+    QFETCH(QString, dates);
+    MvVCardBirthdays birthdays;
+    for (const QString &text : texts) {
+        MvVCard card;
+        card.name = text;
+        card.birthday = MvVCardDate::fromText(text);
+        if (text == u"-"_s)
+            birthdays.beginFile();
+        else
+            birthdays.add(card);
+    }
+    QCOMPARE(birthdays.openExample().text(), example);
+    QStringList found;
+    for (const auto &person : birthdays.result(MvVCardDate::Order::DayFirst).persons)
+        found.append(person.date.toString(Qt::ISODate));
+    QCOMPARE(found.join(u' '), dates);
+    const QString unsettled = example.isEmpty() ? QString() : u"%1: %1"_s.arg(example);
+    QCOMPARE(birthdays.result().notUnderstood.contains(unsettled), !example.isEmpty());
+}
+
+void tst_MvVCardReader::names_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("name");
+    const QByteArray day = "\r\nBDAY:19900517";
+    QTest::newRow("utf-8") << card("FN:Jörg Müßig" + day) << u"Jörg Müßig"_s;
+    QTest::newRow("Latin 1, unannounced") << card("FN:J\xf6rg M\xfc\xdfig" + day) << u"Jörg Müßig"_s;
+    QTest::newRow("announced") << card("FN;CHARSET=ISO-8859-1:J\xf6rg" + day, "2.1") << u"Jörg"_s;
+    QTest::newRow("quoted-printable with a soft break")
+        << card("FN;CHARSET=UTF-8;ENCODING=QUOTED-PRINTABLE:J=C3=B6rg =\r\nM=C3=BC=C3=9Fig" + day, "2.1")
+        << u"Jörg Müßig"_s;
+    QTest::newRow("bare parameter of 2.1") << card("FN;QUOTED-PRINTABLE:J=F6rg" + day, "2.1") << u"Jörg"_s;
+    QTest::newRow("folded within a word") << card("FN:Maxi\r\n milian" + day) << u"Maximilian"_s;
+    QTest::newRow("folded within a letter") << card("FN:J\xc3\r\n \xb6rg" + day, "4.0") << u"Jörg"_s;
+    QTest::newRow("folded at a blank") << card("FN:Anna\r\n Maria" + day, "2.1") << u"Anna Maria"_s;
+    QTest::newRow("escapes") << card("FN:Meier\\, Anna\\; Dr." + day) << u"Meier, Anna; Dr."_s;
+    QTest::newRow("name in parts") << card("N:Meier;Anna;Maria;Dr.;" + day) << u"Anna Maria Meier"_s;
+    QTest::newRow("an organisation") << card("FN:\r\nN:;;;;\r\nORG:Verein" + day) << u"Verein"_s;
+    QTest::newRow("colon in a quoted parameter") << card("FN;LABEL=\"a:b;c\":Anna" + day) << u"Anna"_s;
+    QTest::newRow("line feeds alone") << QByteArray(card("FN:Anna" + day)).replace("\r\n", "\n") << u"Anna"_s;
+    QTest::newRow("byte order mark") << QByteArray("\xef\xbb\xbf" + card("FN:Anna" + day)) << u"Anna"_s;
+    QTest::newRow("several carriage returns")
+        << QByteArray(card("FN:Maxi\r\n milian" + day)).replace("\r\n", "\r\r\n") << u"Maximilian"_s;
+    QTest::newRow("carriage returns alone") << QByteArray(card("FN:Anna" + day)).replace("\r\n", "\r") << u"Anna"_s;
+    QTest::newRow("a letter a line") << card("FN:A\r\n n\r\n n\r\n a" + day) << u"Anna"_s;
+    QTest::newRow("folded before the colon") << card("FN;X=1\r\n ;Y=2:Anna" + day) << u"Anna"_s;
+    QTest::newRow("open quotation mark") << card("FN;X=\"1:Anna" + day) << u"Anna"_s;
+    QTest::newRow("soft break, then a blank")
+        << card("FN;ENCODING=QUOTED-PRINTABLE:Anna=\r\n Maria" + day, "2.1") << u"Anna Maria"_s;
+    const QString text = QString::fromUtf8(card("FN:Jörg" + day));
+    const auto wide = [&](QStringConverter::Encoding encoding, QStringConverter::Flag mark) {
+        QStringEncoder encoder(encoding, mark);
+        return QByteArray(encoder(text));
+    };
+    QTest::newRow("UTF-16") << wide(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom) << u"Jörg"_s;
+    QTest::newRow("UTF-16, no mark") << wide(QStringConverter::Utf16BE, QStringConverter::Flag::Default) << u"Jörg"_s;
+    QTest::newRow("UTF-32") << wide(QStringConverter::Utf32LE, QStringConverter::Flag::WriteBom) << u"Jörg"_s;
+    QTest::newRow("2.1 after 3.0") << card("FN:Bert") + card("FN:Anna\r\n Maria" + day, "2.1") << u"Anna Maria"_s;
+    QTest::newRow("3.0 after 2.1") << card("FN:Bert", "2.1") + card("FN:An\r\n na" + day) << u"Anna"_s;
+    QTest::newRow("end missing before") << QByteArray("BEGIN:VCARD\r\nFN:Bert\r\n" + card("FN:Anna" + day))
+                                        << u"Anna"_s;
+    QTest::newRow("a card in the card") << card("FN:Anna\r\nAGENT:\r\nBEGIN:VCARD\r\nFN:Bert\r\nEND:VCARD" + day, "2.1")
+                                        << u"Anna"_s;
+}
+
+void tst_MvVCardReader::names()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, name);
+    const MvVCardReader::Content content = MvVCardReader::read(bytes);
+    QCOMPARE(content.persons.size(), 1);
+    QCOMPARE(content.persons.first().name(), name);
+}
+
+void tst_MvVCardReader::pictures()
+{
+    QImage picture(6, 4, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QByteArray png;
+    QBuffer buffer(&png);
+    QVERIFY(picture.save(&buffer, "PNG"));
+    const QByteArray code = png.toBase64();
+    const QByteArray folded = code.left(40) + "\r\n " + code.mid(40);
+    const QByteArray unindented = code.left(40) + "\r\n" + code.mid(40) + "\r\n";
+    const QByteArray rest = "\r\nFN:Anna\r\nBDAY:19900517";
+    for (const QByteArray &bytes :
+         {card("PHOTO;ENCODING=b;TYPE=PNG:" + folded + rest), card("PHOTO;PNG;BASE64:" + unindented + rest, "2.1"),
+          card("PHOTO:data:image/png;base64," + folded + rest, "4.0")}) {
+        const MvVCardReader::Content content = MvVCardReader::read(bytes);
+        QCOMPARE(content.persons.size(), 1);
+        QCOMPARE(content.persons.first().image().size(), picture.size());
+    }
+    const auto elsewhere = MvVCardReader::read(card("PHOTO;VALUE=uri:file:///etc/hostname" + rest));
+    QVERIFY(elsewhere.persons.first().image().isNull());
+}
+
+void tst_MvVCardReader::identity()
+{
+    const QByteArray anna = card("FN:Anna\r\nBDAY:19900517\r\nUID:urn:uuid:4fbe8971-0bc3-424c-9c26-36c3e1eff6b1");
+    QCOMPARE(MvVCardReader::read(anna).persons.first().uuid(), QUuid(u"4fbe8971-0bc3-424c-9c26-36c3e1eff6b1"_s));
+    const QByteArray others = card("FN:Bert\r\nBDAY:19900517") + card("FN:Carl\r\nBDAY:--0517\r\nUID:42@example.org");
+    const MvSimplePersonList once = MvVCardReader::read(others + others).persons;
+    QCOMPARE(once.size(), 2);
+    QVERIFY(!once.at(0).uuid().isNull());
+    QVERIFY(once.at(0).uuid() != once.at(1).uuid());
+    QCOMPARE(MvVCardReader::read(others).persons.at(1).uuid(), once.at(1).uuid());
+}
+
+void tst_MvVCardReader::anniversaries()
+{
+    const QByteArray grouped = "item2.X-ABDATE:2010-06-12\r\nitem2.X-ABLabel:_$!<Anniversary>!$_";
+    for (const QByteArray &line : {QByteArray("ANNIVERSARY:20100612"), grouped}) {
+        const MvSimplePersonList persons = MvVCardReader::read(card("FN:Anna\r\nBDAY:19900517\r\n" + line)).persons;
+        QCOMPARE(persons.size(), 2);
+        QCOMPARE(persons.at(1).name(), u"Anna (Jahrestag)"_s);
+        QCOMPARE(persons.at(1).birthday(), QDate(2010, 6, 12));
+        QVERIFY(persons.at(0).uuid() != persons.at(1).uuid());
+    }
+}
+
+void tst_MvVCardReader::damagedFiles()
+{
+    QVERIFY(!MvVCardReader::read(QByteArray()).error.isEmpty());
+    QVERIFY(!MvVCardReader::read(QByteArray("<html>:</html>\n\0x:y", 20)).error.isEmpty());
+    QVERIFY(MvVCardReader::read(QFileInfo(u"/nirgends/karten.vcf"_s)).error.contains(u"/nirgends/karten.vcf"_s));
+    QVERIFY(MvVCardReader::read(QFileInfo(u"/"_s)).error.contains(u"Ordner"_s));
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(u"pipe.vcf"_s);
+    QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    QVERIFY(MvVCardReader::read(QFileInfo(pipe)).error.contains(u"keine gewöhnliche Datei"_s));
+    QByteArray cut = card("FN:Anna\r\nBDAY:19900517");
+    cut.truncate(cut.indexOf("END"));
+    QCOMPARE(MvVCardReader::read(cut).persons.size(), 1);
+}
+
+void tst_MvVCardReader::countsWhatIsLeftOut()
+{
+    const QByteArray broken = "\r\nPHOTO;ENCODING=b:AAAA";
+    const auto content =
+        MvVCardReader::read(card("FN:Anna\r\nBDAY:19900517" + broken) + card("FN:Bert") + card("FN:Carl\r\nBDAY:") +
+                            card("BDAY:19900517") + card("ANNIVERSARY:20100612") +
+                            card("FN:Dora\r\nBDAY:19900230\r\nANNIVERSARY:20100612") + card("FN:Emil" + broken) +
+                            card("FN:Fritz\r\nBDAY:19900517\r\nUID:1") + card("FN:Gerda\r\nBDAY:19900517\r\nUID:1"));
+    QCOMPARE(content.cardCount, 9);
+    QCOMPARE(content.withoutDate, 3);
+    QCOMPARE(content.withoutName, 2);
+    QCOMPARE(content.notUnderstood, QStringList{u"Dora: 19900230"_s});
+    QCOMPARE(content.unreadablePictures, QStringList{u"Anna"_s});
+    QStringList names;
+    for (const MvSimplePerson &person : content.persons)
+        names.append(person.name());
+    QCOMPARE(names.join(u' '), u"Anna Dora (Jahrestag) Fritz Gerda"_s);
+}
+
+void tst_MvVCardReader::linearTime_data()
+{
+    QTest::addColumn<QByteArray>("begin");
+    QTest::addColumn<QByteArray>("again");
+    QTest::newRow("parameters") << QByteArray("BDAY") << QByteArray(";X");
+    QTest::newRow("parameters of a picture") << QByteArray("PHOTO") << QByteArray(";X=Y");
+    QTest::newRow("words of a parameter") << QByteArray("PHOTO;X") << QByteArray(",");
+    QTest::newRow("quotation marks") << QByteArray("FN") << QByteArray(";\"");
+    QTest::newRow("picture's lines, no line feed") << QByteArray("PHOTO;ENCODING=b:") << QByteArray("\rAAAA");
+    QTest::newRow("a byte a line") << QByteArray("NOTE:") << QByteArray("\r\n x");
+    QTest::newRow("head, a byte a line") << QByteArray("NOTE") << QByteArray("\r\n x");
+    QTest::newRow("soft breaks") << QByteArray("NOTE;QUOTED-PRINTABLE:") << QByteArray("=\r\n");
+    QTest::newRow("carriage returns") << QByteArray() << QByteArray("\r");
+    QTest::newRow("cards in cards") << QByteArray() << QByteArray("AGENT:\r\nBEGIN:VCARD\r\n");
+    QTest::newRow("components") << QByteArray("N:") << QByteArray(";");
+    QTest::newRow("zeros") << QByteArray() << QByteArray(1, '\0');
+}
+
+/// Ten megabytes of it, which took minutes where every byte was looked at once more for each that came before. What
+/// follows in the next card is read.
+void tst_MvVCardReader::linearTime()
+{
+    QFETCH(QByteArray, begin);
+    QFETCH(QByteArray, again);
+    const QByteArray bytes = "BEGIN:VCARD\r\n" + begin + again.repeated(10'000'000 / again.size());
+    const auto content = MvVCardReader::read(bytes + "\r\nEND:VCARD\r\n" + card("FN:Anna\r\nBDAY:19900517"));
+    const bool isInnerCard = again.startsWith("AGENT");
+    QCOMPARE(content.persons.size(), isInnerCard ? 0 : 1);
+}
+
+void tst_MvVCardReader::addressBook()
+{
+    const QTemporaryDir folder;
+    MvVCardAddressBook book;
+    QList<QFileInfo> files{QFileInfo(folder.filePath(u"fehlt.vcf"_s))};
+    for (const QString &name : {u"a.vcf"_s, u"b.vcf"_s}) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(card("FN:Anna\r\nBDAY:19900517"));
+        files.append(QFileInfo(file.fileName()));
+    }
+    book.setFiles(files);
+    QCOMPARE(book.addressBookContacts().size(), 1);
+    QVERIFY(book.lastError().contains(u"fehlt.vcf"_s));
+}
+
+MV_TEST_MAIN(tst_MvVCardReader)
+#include "tst_MvVCardReader.moc"
