@@ -567,12 +567,25 @@ void tst_MvPaintRecording::describes()
         painter.setBrush(QColor(1, 2, 3, 128));
         painter.drawEllipse(QRectF(0, 0, 10, 5));
         MvOutlinePainter::fillOutline(painter, {3, 4.5}, MvTextOutline(font, u"Mai"_qs), Qt::black);
+        painter.rotate(-90);
+        font.setLetterSpacing(QFont::AbsoluteSpacing, 2);
+        MvOutlinePainter::fillOutline(painter, {0, 1}, MvTextOutline(font, u"Juni"_qs), Qt::black);
+        painter.resetTransform();
+        QPainterPath cells;
+        cells.addRect(1, 2, 3, 4);
+        cells.addRect(5.0625 - 1e-12, 2, 3.125, 4); // in the middle between two hundredths: noise decides nothing
+        painter.fillPath(cells, Qt::green);
     });
     QCOMPARE(recording.describe(), QStringLiteral("rect 10,20 30x40 fill #ff0000\n"
                                                   "line 2.47,4 0,8 pen #0000ff 3 dashed\n"
                                                   "image 2,4 6x8 opacity 0.25 clip 10,10 20x20\n"
                                                   "ellipse 0,0 20x10 fill #80010203 pen #0000ff 3 dashed\n"
-                                                  "text \"Mai\" 6,9 fill #000000 font Lato 20 bold\n"));
+                                                  "text \"Mai\" 6,9 fill #000000 font Lato 20 bold\n"
+                                                  "text \"Juni\" 2,0 fill #000000 font Lato 20 bold spacing 2 "
+                                                  "turned -90\n"
+                                                  "path 1,2 7.19x4 fill #00ff00\n"
+                                                  "    1,2 3x4\n"
+                                                  "    5.06,2 3.13x4\n"));
 }
 
 void tst_MvPaintRecording::items()

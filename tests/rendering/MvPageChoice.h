@@ -7,6 +7,8 @@
 #include <QList>
 #include <QStringList>
 
+#include <optional>
+
 /// What a person chooses for a page.
 struct MvPageChoice
 {
@@ -21,7 +23,8 @@ struct MvPageChoice
     QString region;
     Entries entries = Short;
     QDate month;
-    bool hasWeeks = true; ///< asked for; not every layout has them
+    bool hasWeeks = true;        ///< asked for; not every layout has them
+    std::optional<bool> hasGrid; ///< as the layout has it, if not said
     QString colors = QStringLiteral("PAPER_WHITE");
     QString photo = QStringLiteral("/photo.jpg"); ///< the file; there need not be any
 

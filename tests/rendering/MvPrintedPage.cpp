@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCalendar/MvCalendariumWords.h"
+#include "MvModelBase/MvPaintRecorder.h"
 
 #include <QDir>
 #include <QPainter>
@@ -65,7 +66,7 @@ MvCalendarEventList entriesOf(MvPageChoice::Entries kind)
 void setEntries(MvPageChoice::Entries kind)
 {
     static int current = -1; // setting them stores them, too
-    if (current == kind)
+    if (current == kind || kind == MvPageChoice::None)
         return;
     current = kind;
     MvCalendarEventRegistry::instance().setEvents(entriesOf(kind));
@@ -87,6 +88,11 @@ MvCalendariumAppearance appearanceOf(const MvPageChoice &choice, const QString &
     appearance.adoptLayoutSuggestions();
     appearance.setColorSchemaById(MvCalendariumColorSchemaID(choice.colors));
     appearance.adaptGridToLayout();
+    if (choice.hasGrid.has_value()) {
+        MvBorderConfig grid = appearance.gridConfig();
+        grid.setIsEnabled(*choice.hasGrid);
+        appearance.setGridConfig(grid);
+    }
     MvCalendariumFontSettings fonts = appearance.fontSettings();
     fonts.setFont(family);
     fonts.setFontSizePercentage(choice.font - 100);
@@ -101,9 +107,12 @@ MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family, 
     , m_format(formatOf(choice.paper))
 {
     setEntries(choice.entries);
-    MvCalendariumFeatures features(1 | 2 | 4 | 8 | (choice.hasWeeks ? 64 : 0));
-    m_page = MvCalendarPage(appearanceOf(choice, family),
-                            MvCalendariumContentConfig(choice.month, {choice.language, choice.region, features}));
+    MvCalendariumHolidayConfig holidays(
+        choice.language, choice.region,
+        MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS | FEATURE_SCHOOL_VACATIONS));
+    holidays.setFeature(FEATURE_ENTRIES, choice.entries != MvPageChoice::None);
+    holidays.setFeature(FEATURE_CALENDAR_WEEKS, choice.hasWeeks);
+    m_page = MvCalendarPage(appearanceOf(choice, family), MvCalendariumContentConfig(choice.month, holidays));
     if (choice.place != u"none"_s) {
         const auto placement = MvPhotoFrame::Placement(MvPageChoice::places().indexOf(choice.place) - 1);
         MvPhotoFrame photo(choice.photo, placement);
@@ -129,6 +138,27 @@ MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family, 
 MvDateRange MvPrintedPage::range() const
 {
     return MvDateRange(m_choice.month, m_choice.month.addMonths(12).addDays(-1));
+}
+
+QString MvPrintedPage::describe() const
+{
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    MvRenderingRule(MvRenderingRule::Print).encodeInto(painter);
+    m_page.paint(painter, m_format, range());
+    painter.end();
+    QString text = recorder.recording().describe();
+    const auto place = [](const QRectF &rect) {
+        return u"%1,%2 %3x%4"_s.arg(rect.x(), 0, 'f', 1)
+            .arg(rect.y(), 0, 'f', 1)
+            .arg(rect.width(), 0, 'f', 1)
+            .arg(rect.height(), 0, 'f', 1);
+    };
+    for (const Day &day : days)
+        text += u"day %1 %2\n"_s.arg(day.date.toString(Qt::ISODate), place(day.rect));
+    for (const MvUnfittingText &report : unfitting)
+        text += u"no room \"%1\" %2 %3\n"_s.arg(report.text, report.date.toString(Qt::ISODate), place(report.rect));
+    return text;
 }
 
 QImage MvPrintedPage::picture(double pixelsPerUnit) const

@@ -43,6 +43,8 @@ public:
     double textFloor = 0.0;          ///< pixels of type that a day's texts may not fall below
     double headFloor = 0.0;          ///< the same for everything else
 
+    /// The whole page as text: all that is painted for print, the days that answer a click, and what had no room.
+    QString describe() const;
     /// The whole page with its photo, for a person to look at.
     QImage picture(double pixelsPerUnit) const;
 

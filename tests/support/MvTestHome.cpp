@@ -13,5 +13,5 @@ MvTestHome::MvTestHome()
     qunsetenv("MVCALENDAR_RESOURCES");
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    QLocale::setDefault(QLocale(qEnvironmentVariable("MV_TEST_LOCALE", QStringLiteral("de_DE"))));
 }

@@ -3,7 +3,8 @@
 
 #include <QTemporaryDir>
 
-/// The surroundings of a test program while it lives: a temporary user folder, no screen, German.
+/// The surroundings of a test program while it lives: a temporary user folder, no screen, German (or the locale that
+/// MV_TEST_LOCALE names).
 class MvTestHome
 {
 public:

@@ -5,6 +5,7 @@
 #include "MvPaint/MvPaintPlayer.h"
 
 #include <QStringList>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -111,6 +112,7 @@ private:
             item.text = line.outline.text();
             item.font = line.outline.font();
             item.baseline = m_state->transform.map(line.baseline);
+            item.angle = qRadiansToDegrees(std::atan2(m_state->transform.m12(), m_state->transform.m11()));
             m_items.append(item);
         }
     }
@@ -159,9 +161,11 @@ private:
     QList<Item> m_items;
 };
 
+/// What lies in the middle goes up, whatever noise of floating point it carries.
 QString number(double value)
 {
-    const double rounded = std::round(value * 100.0) / 100.0;
+    constexpr double noise = 1e-6;
+    const double rounded = std::floor(value * 100.0 + 0.5 + noise) / 100.0;
     return QString::number(rounded == 0.0 ? 0.0 : rounded, 'g', 12); // no "-0"
 }
 
@@ -233,19 +237,51 @@ QString place(const Item &item)
     }
 }
 
+/// The rectangles that a path consists of; none when there is anything else in it, or only one.
+QList<QRectF> rectsOf(const QPainterPath &path)
+{
+    constexpr int corners = 5; // with the first one again
+    const int count = path.elementCount();
+    QList<QRectF> rects;
+    for (int first = 0; first < count; first += corners) {
+        if (count - first < corners || !path.elementAt(first).isMoveTo())
+            return {};
+        QPolygonF outline;
+        for (int i = 0; i < corners; ++i) {
+            if (i > 0 && !path.elementAt(first + i).isLineTo())
+                return {};
+            outline << QPointF(path.elementAt(first + i));
+        }
+        const QRectF rect(outline[0], outline[2]);
+        if (outline != QPolygonF(rect))
+            return {};
+        rects.append(rect.normalized());
+    }
+    return rects.size() > 1 ? rects : QList<QRectF>();
+}
+
+QString describeFont(const QFont &font)
+{
+    QStringList words{u"font"_s, font.family()};
+    words << (font.pixelSize() > 0 ? QString::number(font.pixelSize()) : number(font.pointSizeF()) + u"pt"_s);
+    if (font.bold())
+        words << u"bold"_s;
+    if (font.italic())
+        words << u"italic"_s;
+    if (font.letterSpacing() != 0.0 && font.letterSpacing() != 100.0)
+        words << u"spacing"_s << number(font.letterSpacing());
+    return words.join(u' ');
+}
+
 QString describeItem(const Item &item)
 {
     QStringList words{kindName(item.kind), place(item)};
     if (item.fill.isValid())
         words << u"fill"_s << color(item.fill);
     if (item.kind == Item::Text) {
-        const QFont &font = item.font;
-        words << u"font"_s << font.family();
-        words << (font.pixelSize() > 0 ? QString::number(font.pixelSize()) : number(font.pointSizeF()) + u"pt"_s);
-        if (font.bold())
-            words << u"bold"_s;
-        if (font.italic())
-            words << u"italic"_s;
+        words << describeFont(item.font);
+        if (item.angle != 0.0)
+            words << u"turned"_s << number(item.angle);
     }
     if (item.stroke.isValid()) {
         words << u"pen"_s << color(item.stroke) << number(item.strokeWidth);
@@ -256,7 +292,12 @@ QString describeItem(const Item &item)
         words << u"opacity"_s << number(item.opacity);
     if (!item.clip.isNull())
         words << u"clip"_s << rect(item.clip);
-    return words.join(u' ');
+    QString text = words.join(u' ');
+    if (item.kind == Item::Path) {
+        for (const QRectF &part : rectsOf(item.shape))
+            text += u"\n    "_s + rect(part);
+    }
+    return text;
 }
 } // namespace
 

@@ -37,6 +37,7 @@ public:
         QString text;       ///< of a text
         QFont font;         ///< of a text
         QPointF baseline;   ///< of a text: where its baseline starts
+        double angle = 0.0; ///< of a text: degrees by which its baseline is turned, clockwise
         QPainterPath shape; ///< the outline of everything but images
         QRectF clip;        ///< bounding rectangle of the clip in force; null without one
         double opacity = 1.0;
@@ -76,9 +77,13 @@ public:
     /// The items of one kind.
     QList<Item> items(Item::Kind kind) const;
 
-    /// One line per item, coordinates rounded to hundredths, for example
+    /// One line per item, coordinates rounded to hundredths; after a path of several rectangles one line for each of
+    /// them. For example
     ///
     ///     rect 10,20 30x40 fill #ff0000 pen #000000 2
+    ///     path 0,0 20x10 fill #eeeeee
+    ///         0,0 5x10
+    ///         15,0 5x10
     ///     line 10,20 40,20 pen #000000 0.5 clip 0,0 100x100
     ///     text "Januar" 10,52.5 fill #202020 font Lato 40
     ///     image 10,20 30x40 opacity 0.5
