@@ -1,6 +1,6 @@
 #!/bin/sh
 # SPDX-License-Identifier: LGPL-2.1-or-later
-# Installs what the build needs and the system lacks (Debian 12): tools/setup.sh build|test
+# Installs what the build needs and the system lacks (Debian 12): tools/setup.sh build|test|nightly
 # Asks dpkg first, so that nothing is fetched and no network is needed once everything is there.
 set -eu
 
@@ -13,12 +13,14 @@ build_packages="g++ cmake ninja-build ccache pkg-config python3-minimal qt6-base
 test_packages="python3 poppler-utils qpdf libbenchmark-dev clang-format desktop-file-utils appstream mandoc
     shared-mime-info xvfb xauth dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
     fonts-noto-color-emoji"
+nightly_packages="clang clang-tidy libclang-rt-14-dev"
 
 case "${1:-}" in
 build) wanted="$build_packages" ;;
 test) wanted="$build_packages $test_packages" ;;
+nightly) wanted="$build_packages $test_packages $nightly_packages" ;;
 *)
-    echo "usage: tools/setup.sh build|test" >&2
+    echo "usage: tools/setup.sh build|test|nightly" >&2
     exit 2
     ;;
 esac

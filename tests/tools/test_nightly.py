@@ -1,0 +1,86 @@
+# SPDX-License-Identifier: LGPL-2.1-or-later
+"""What tools/nightly and tools/check_benchmarks make of steps and programs that fail, hang or answer."""
+
+import contextlib
+import importlib.machinery
+import importlib.util
+import io
+import json
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+TOOLS = Path(__file__).resolve().parents[2] / "tools"
+
+
+def tool(name):
+    loader = importlib.machinery.SourceFileLoader(name, str(TOOLS / name))
+    module = importlib.util.module_from_spec(importlib.util.spec_from_loader(name, loader))
+    loader.exec_module(module)
+    return module
+
+
+class Nightly(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+        self.nightly = tool("nightly")
+        self.nightly.LOGS = self.folder / "logs"
+
+    def run_part(self, *steps, name="part"):
+        def work(part, _):
+            for step in steps:
+                part.run("sh", "-c", step)
+        self.nightly.PARTS = {name: work, "other": lambda part, _: None}
+        with contextlib.redirect_stdout(io.StringIO()) as said:
+            sys.argv = ["nightly"]
+            code = self.nightly.main()
+        return code, said.getvalue()
+
+    def test_results(self):
+        for name, steps, code, words in (
+            ("all well", ["true", "echo error-free"], 0, ["part   passed", "other  passed"]),
+            ("a step fails", ["echo x.cpp:1: error: bad; exit 3", "touch " + str(self.folder / "after")], 1,
+             ["part   FAILED", "exit code 3", "x.cpp:1: error: bad", "other  passed"]),
+            ("a program that is not there", ["no-such-program"], 1, ["exit code 127"]),
+        ):
+            with self.subTest(name):
+                result, said = self.run_part(*steps)
+                self.assertEqual(result, code, said)
+                for word in words:
+                    self.assertIn(word, said)
+        self.assertFalse((self.folder / "after").exists())
+
+    def test_time_is_up(self):
+        self.nightly.MINUTES = 0
+        survivor = self.folder / "survivor"
+        code, said = self.run_part(f"(sleep 2; touch {survivor}) & wait")
+        self.assertEqual(code, 1)
+        self.assertIn("not done after", said)
+        time.sleep(1.5)
+        self.assertFalse(survivor.exists(), "children end with their step")
+
+    def test_benchmarks(self):
+        times = {"fast": 2.0, "slow": 8.0}
+        runs = [{"run_type": "iteration", "run_name": name, "real_time": time_ * factor, "ratio": 3.0}
+                for name, time_ in times.items() for factor in (1.0, 1.1, 50.0)]
+        runs.append({"run_type": "aggregate", "run_name": "fast", "real_time": 1000.0})
+        program = self.folder / "bin" / "bench"
+        program.parent.mkdir()
+        program.write_text(f"#!/bin/sh\ncat <<'END'\n{json.dumps({'benchmarks': runs})}\nEND\n", encoding="utf-8")
+        program.chmod(0o755)
+        bench = tool("check_benchmarks")
+        for benchmark, what, low, high, expected in (
+            ("slow", ":fast", 3.9, 4.1, 0), ("slow", ":fast", 1, 3, 1), ("slow", ":fast", 5, 9, 1),
+            ("slow", "ratio", 3, 3, 0), ("slow", "other", 0, 9, 1), ("gone", ":fast", 0, 9, 1), ("slow", ":gone", 0, 9, 1),
+        ):
+            with self.subTest(f"{benchmark} {what} {low}"), contextlib.redirect_stdout(io.StringIO()):
+                ratios = bench.stored(["# comment", f"bench {benchmark} {what} {low} {high}"])["bench"]
+                self.assertEqual(bench.compare("bench", ratios, bench.measure(program, ratios)), expected)
+
+
+if __name__ == "__main__":
+    unittest.main()
