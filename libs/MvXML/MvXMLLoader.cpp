@@ -45,7 +45,7 @@ bool openRegular(const QFileInfo &file, QFile &device, MvXMLLoader::Error &error
 
 QByteArray readLimited(const QFileInfo &file, qint64 mostBytes, MvXMLLoader::Error &error)
 {
-    constexpr qsizetype piece = 1024 * 1024;
+    constexpr qsizetype piece = 1024LL * 1024;
     QFile device(file.filePath());
     if (!openRegular(file, device, error))
         return {};
@@ -79,7 +79,7 @@ QByteArray asUtf8(const QString &wideText)
 MvXMLLoader::Error check(const QByteArray &bytes, const MvXMLLoader::Limits &limits, QString &wideText)
 {
     if (bytes.size() > limits.bytes)
-        return {MvXMLLoader::tr("Die Datei ist größer als %1 MiB.").arg(limits.bytes / (1024 * 1024))};
+        return {MvXMLLoader::tr("Die Datei ist größer als %1 MiB.").arg(limits.bytes / (1024LL * 1024))};
     if (QByteArrayView(bytes).trimmed().isEmpty())
         return {MvXMLLoader::tr("Die Datei ist leer.")};
     wideText = MvXMLGuard::wideText(bytes);

@@ -38,9 +38,9 @@ public:
         qint64 bytes;
         int elements;
 
-        static Limits ofDocuments() { return {64 * 1024 * 1024, 1'000'000}; }
+        static Limits ofDocuments() { return {64LL * 1024 * 1024, 1'000'000}; }
         /// For readers that go through the bytes as a stream: about a million entries.
-        static Limits ofStreams() { return {512 * 1024 * 1024, 16'000'000}; }
+        static Limits ofStreams() { return {512LL * 1024 * 1024, 16'000'000}; }
     };
 
     /// The document; a null one on error, which is then described in `error` when given.

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestCounted = 1024 * 1024; // bytes; nobody waits for more
+constexpr qint64 largestCounted = 1024LL * 1024; // bytes; nobody waits for more
 
 /// Number of entries; none when they are not counted or cannot be read, which the text says.
 int countEntries(const QFileInfo &backup, QString *text)

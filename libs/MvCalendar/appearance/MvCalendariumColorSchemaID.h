@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QString>
 
+#include <compare>
+
 class QDataStream;
 class QDebug;
 class QDomElement;

@@ -6,6 +6,8 @@
 #include <QHash>
 #include <QString>
 
+#include <compare>
+
 class QDomElement;
 
 /// The id of a layout schema; those of users start with "USER_".

@@ -15,7 +15,7 @@ class MVCALENDAR_EXPORT MvCalendarEventFotoSweep
 {
 public:
     /// Photos younger than this stay in any case: an entry that is to name them may be on its way.
-    static constexpr qint64 youngSeconds = 24 * 60 * 60;
+    static constexpr qint64 youngSeconds = 24LL * 60 * 60;
 
     explicit MvCalendarEventFotoSweep(const QDir &fotoFolder);
 

@@ -21,8 +21,8 @@ namespace {
 using Content = MvCalendarEventFile::Content;
 using Intake = MvCalendarEventFileIntake;
 
-constexpr qint64 largeFile = 256 * 1024; // bytes: some 1,000 entries
-constexpr int mostNamed = 10;            // of the entries that are left out
+constexpr qint64 largeFile = 256LL * 1024; // bytes: some 1,000 entries
+constexpr int mostNamed = 10;              // of the entries that are left out
 
 /// The beginning and the end of a name that is too long for a question.
 QString shortened(const QString &name)

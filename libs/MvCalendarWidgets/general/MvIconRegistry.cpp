@@ -14,7 +14,7 @@ template class MvSingleton<MvIconRegistry>;
 
 namespace {
 
-constexpr qint64 largestIcon = 256 * 1024; // bytes; a file beyond is no icon
+constexpr qint64 largestIcon = 256LL * 1024; // bytes; a file beyond is no icon
 const QString embeddedFolder = u":/mvcalendar/icons"_s;
 
 /// Whether the root element says so; asked first, for QSvgRenderer complains loudly about anything else.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvInitializer.h"
 
+#include <algorithm>
+
 template class MvSingleton<MvInitializer>;
 
 void MvInitializer::registerInitializer(MvInitializerAbstract *initializer)
@@ -27,6 +29,6 @@ void MvInitializer::teardown()
     if (!m_isSetUp)
         return;
     m_isSetUp = false;
-    for (auto it = m_initializers.crbegin(); it != m_initializers.crend(); ++it)
-        (*it)->teardown();
+    std::for_each(m_initializers.crbegin(), m_initializers.crend(),
+                  [](MvInitializerAbstract *initializer) { initializer->teardown(); });
 }

@@ -2,6 +2,7 @@
 #include "MvCore/MvRequestHandler.h"
 
 #include <QDebug>
+#include <QObject>
 
 #include <utility>
 

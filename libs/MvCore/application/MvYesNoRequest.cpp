@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvYesNoRequest.h"
 
+#include <QObject>
 #include <QPointer>
 
 template class MvSingleton<MvYesNoRequest>;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <compare>
+
 /// A length on paper, in tenths of a millimetre.
 class MvDistance
 {
@@ -16,7 +18,7 @@ public:
     constexpr double millimetres() const { return m_value / 10.0; }
 
     bool operator==(const MvDistance &) const = default;
-    auto operator<=>(const MvDistance &) const = default;
+    auto operator<=>(const MvDistance &) const = default; // NOLINT(modernize-use-nullptr): a false alarm
 
 private:
     double m_value = 0.0;

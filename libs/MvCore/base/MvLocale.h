@@ -6,6 +6,8 @@
 #include <QLocale>
 #include <QString>
 
+#include <compare>
+
 /// A language as spoken in a country: "de_DE", "fr_CH". It selects the words on the page and the holidays' country.
 ///
 /// A default-constructed one, or one made from an unknown name, is invalid.

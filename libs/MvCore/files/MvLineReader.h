@@ -22,7 +22,7 @@ public:
     /// Asked after each piece, with the number of bytes read so far; false ends the reading.
     using GoOn = std::function<bool(qint64 bytesRead)>;
 
-    static constexpr qint64 pieceSize = 64 * 1024;
+    static constexpr qint64 pieceSize = 64LL * 1024;
 
     /// The device is open, is not owned and must outlive the reader. Of a line that is longer than `longestLine`
     /// bytes, the rest is dropped.

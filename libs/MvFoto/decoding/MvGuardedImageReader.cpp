@@ -179,14 +179,14 @@ qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target
     const qint64 pixels = pixelsOf(full);
     if (m_format == "jpeg") {
         // a decoder makes it smaller on the way, by up to 8, but several passes are gathered in full
-        const int divisor =
+        const qint64 divisor =
             qBound(1, qMin(full.width() / (2 * target.width()), full.height() / (2 * target.height())), 8);
         return 4 * pixels / (divisor * divisor) + (m_scans > 1 ? 6 * pixels : 0);
     }
     if (m_format == "gif")
-        return 2 * 4 * pixelsOf(decodedSize(full));
+        return 2LL * 4 * pixelsOf(decodedSize(full));
     if (m_format == "webp" && MvImageStructure::isAnimatedWebP(m_source.get()))
-        return 4 * 4 * pixels;
+        return 4LL * 4 * pixels;
     const QPixelFormat format = QImage::toPixelFormat(m_reader->imageFormat());
     return pixels * qMax<qint64>(4, format.bitsPerPixel() / 8);
 }

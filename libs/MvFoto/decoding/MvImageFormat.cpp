@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvImageFormat.h"
 
+#include <QList>
+
 namespace {
 
 struct Signature

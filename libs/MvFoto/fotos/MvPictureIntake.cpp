@@ -14,8 +14,8 @@
 namespace {
 
 constexpr int jpegQuality = 90;
-constexpr double timeLimit = 3.0;                // seconds for one picture
-constexpr qsizetype mostBytes = 2 * 1024 * 1024; // of a file that is kept as it is: what is more is no picture
+constexpr double timeLimit = 3.0;                  // seconds for one picture
+constexpr qsizetype mostBytes = 2LL * 1024 * 1024; // of a file kept as it is; what is more is no picture
 
 QImage read(MvGuardedImageReader *reader, int longestSide)
 {

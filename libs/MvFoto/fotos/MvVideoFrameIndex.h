@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <compare>
+
 /// The frame of a video that serves as a photo; a photo has none.
 struct MvVideoFrameIndex
 {
@@ -8,5 +10,5 @@ struct MvVideoFrameIndex
 
     bool isValid() const { return frame >= 0; }
     bool operator==(const MvVideoFrameIndex &) const = default;
-    auto operator<=>(const MvVideoFrameIndex &) const = default;
+    auto operator<=>(const MvVideoFrameIndex &) const = default; // NOLINT(modernize-use-nullptr): a false alarm
 };

@@ -7,11 +7,12 @@
 #include <QPen>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 MvBorderConfig::MvBorderConfig(const QColor &color, MvDistance width, MvBorderPosition position, bool enabled)
-    : m_position(position)
+    : m_position(std::move(position))
     , m_enabled(enabled)
 {
     setColor(color);

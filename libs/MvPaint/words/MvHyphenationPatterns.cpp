@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestFile = 16LL * 1024 * 1024;
 constexpr qsizetype longestLine = 95; // the library reads lines into a hundred bytes
 constexpr qsizetype longestEncoding = 18;
 

@@ -77,7 +77,7 @@ struct Words
 struct Maker
 {
     QDate today;
-    int yearForNone;
+    int yearForNone = 0;
 
     /// Of texts; a year that is missing, "0000" or the one for none is unknown.
     QDate date(const QString &year, const QString &month, const QString &day) const

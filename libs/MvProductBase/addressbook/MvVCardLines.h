@@ -13,8 +13,8 @@
 class MVPRODUCTBASE_EXPORT MvVCardLines
 {
 public:
-    static constexpr qsizetype longestPicture = 16 * 1024 * 1024; // bytes of PHOTO, encoded
-    static constexpr qsizetype longestText = 64 * 1024;           // bytes of everything else
+    static constexpr qsizetype longestPicture = 16LL * 1024 * 1024; // bytes of PHOTO, encoded
+    static constexpr qsizetype longestText = 64LL * 1024;           // bytes of everything else
 
     /// The device is open, is not owned and must outlive this.
     explicit MvVCardLines(QIODevice *device, const MvLineReader::GoOn &goOn = {});

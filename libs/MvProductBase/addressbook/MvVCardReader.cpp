@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int longestPictureSide = 1200;        // pixels: a day's cell needs no more
-constexpr qint64 mostPixels = 32 * 1024 * 1024; // a small file may claim to be large
+constexpr int longestPictureSide = 1200;          // pixels: a day's cell needs no more
+constexpr qint64 mostPixels = 32LL * 1024 * 1024; // a small file may claim to be large
 
 QImage decoded(QByteArray bytes)
 {
