@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <QtGlobal>
+
 #include <compare>
 
 /// A length on paper, in tenths of a millimetre.

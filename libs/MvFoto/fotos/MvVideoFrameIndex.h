@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <QtGlobal>
+
 #include <compare>
 
 /// The frame of a video that serves as a photo; a photo has none.
