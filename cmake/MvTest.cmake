@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
-# mv_add_test(<name> LINK <target>...)      a Qt Test program <name>.cpp, run by ctest
+# mv_add_test(<name> LINK <target>...)      a Qt Test program <name>.cpp, run by ctest; THREADS: threads are tested,
+#                                           so that it runs with the thread sanitizer, too (tools/nightly tsan)
 # mv_add_nightly(<name> COMMAND ...)        a long run: the command with MV_NIGHTLY=1, by ctest --preset nightly alone
 # mv_add_benchmark(<name> LINK <target>...) a Google Benchmark program <name>.cpp
 
@@ -14,7 +15,7 @@ function(mv_test_environment out)
 endfunction()
 
 function(mv_add_test name)
-    cmake_parse_arguments(ARG "" "TIMEOUT" "LINK" ${ARGN})
+    cmake_parse_arguments(ARG "THREADS" "TIMEOUT" "LINK" ${ARGN})
     add_executable(${name} ${name}.cpp)
     target_link_libraries(${name} PRIVATE MvTestSupport Qt6::Test ${ARG_LINK})
     target_compile_definitions(${name} PRIVATE MV_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
@@ -24,6 +25,10 @@ function(mv_add_test name)
         set(ARG_TIMEOUT 300)
     endif()
     set_tests_properties(${name} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT ${ARG_TIMEOUT})
+    if(ARG_THREADS)
+        set_tests_properties(${name} PROPERTIES LABELS threads)
+        set_property(GLOBAL APPEND PROPERTY MV_THREADED_TESTS ${name})
+    endif()
 endfunction()
 
 function(mv_add_nightly name)

@@ -89,6 +89,5 @@ void MvCalendariumLayoutSchemaImpl::copyCellInfoIfMissing(const MvCalendarCellTy
     const auto source = cells.constFind(from);
     if (source == cells.cend() || cells.contains(to))
         return;
-    const MvCalendariumLayoutCellInfo info = *source; // insert() may move the hash
-    cells.insert(to, info);
+    cells.insert(to, MvCalendariumLayoutCellInfo(*source)); // a copy: insert() may move the hash
 }
