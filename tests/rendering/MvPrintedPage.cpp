@@ -5,7 +5,7 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCalendar/MvCalendariumWords.h"
-#include "MvModelBase/MvPaintRecorder.h"
+#include "MvPaint/MvPaintRecorder.h"
 
 #include <QDir>
 #include <QPainter>
