@@ -63,6 +63,8 @@ private Q_SLOTS:
     void years();
     void monthsAndWeeks();
     void measures();
+    void scales_data();
+    void scales();
     void breaksLines_data();
     void breaksLines();
     void placesTextsAsFontMetricsDo_data();
@@ -294,6 +296,34 @@ void tst_MvCalendariumRenderer::measures()
     QCOMPARE(renderer.minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, true), 25 * 1.27 + 1.0);
     QCOMPARE(renderer.minimumSizeFont(CALENDAR_CELL_TYPE_WEEKDAY, nullptr, QString()), QSizeF(0, 0));
     QCOMPARE(renderer.minimumSizeWeekdays(true, nullptr), QSizeF(50, 50));
+}
+
+void tst_MvCalendariumRenderer::scales_data()
+{
+    QTest::addColumn<int>("percentage");
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<int>("text");
+    QTest::newRow("as it is") << 0 << 1.0 << 50 << 25;
+    QTest::newRow("smaller") << 0 << 0.96 << 48 << 24;
+    QTest::newRow("down to 6.5 points") << 0 << 0.1 << 23 << 23;
+    QTest::newRow("larger, and back again") << 100 << 0.5 << 50 << 25;
+    QTest::newRow("larger, and some way back") << 100 << 0.75 << 75 << 25;
+}
+
+void tst_MvCalendariumRenderer::scales()
+{
+    QFETCH(int, percentage);
+    QFETCH(double, scale);
+    MvCalendariumAppearance appearance = MvPageFixture::appearance(noEmptyWeeks);
+    MvCalendariumFontSettings fonts = appearance.fontSettings();
+    fonts.setFontSizePercentage(percentage);
+    appearance.setFontSettings(fonts);
+    MvPageFixture page(appearance, QDate(2027, 1, 1));
+    page.renderer().setScale(scale, scale);
+    QTEST(page.renderer().font(CALENDAR_CELL_TYPE_WEEKDAY).pixelSize(), "number");
+    QTEST(page.renderer().fontHolidays(CALENDAR_CELL_TYPE_WEEKDAY).pixelSize(), "text");
+    QCOMPARE(page.renderer().padding(CALENDAR_CELL_TYPE_WEEKDAY).left(), 10.0 * scale);
 }
 
 void tst_MvCalendariumRenderer::breaksLines_data()

@@ -72,6 +72,9 @@ void tst_MvDayTextPlacement::places_data()
         << false << none;
     QTest::newRow("paddings give before") << QSizeF(140, 300) << top << QStringList{u"Pfingstmonta"_s} << none
                                           << QStringList{u"Pfingstmonta"_s} << false << none;
+    const QStringList meeting{u"Mitgliederversammlung des Vereins"_s};
+    QTest::newRow("no slivers beside the number")
+        << QSizeF(114, 70) << top << meeting << none << none << false << meeting;
     QTest::newRow("no room: each text is named") << QSizeF(60, 62) << top << both << none << none << false << both;
 }
 

@@ -70,6 +70,8 @@ private Q_SLOTS:
     void everyPair();
     void prints_data();
     void prints();
+    void wasFaulty_data();
+    void wasFaulty();
 };
 
 /// The plan holds what it promises.
@@ -133,6 +135,43 @@ void tst_EveryPage::prints()
     }
     std::fputs(qPrintable(message), stdout); // longer than what QtTest shows of a failure
     QVERIFY2(faults.isEmpty(), "see above");
+}
+
+void tst_EveryPage::wasFaulty_data()
+{
+    QTest::addColumn<MvPageChoice>("choice");
+    QTest::addColumn<bool>("isWhole");
+    const auto row = [](const char *name, const QString &layout, const QString &paper, const QString &place,
+                        double share, const QString &language, const QString &region, const QDate &month) {
+        MvPageChoice choice;
+        choice.layout = layout;
+        choice.paper = paper;
+        choice.place = place;
+        choice.share = share;
+        choice.font = layout == u"YEAR_PLANNER"_s ? 200 : 100;
+        choice.language = MvLocale(language);
+        choice.region = region;
+        choice.month = month;
+        QTest::newRow(name) << choice << (layout != u"YEAR_PLANNER"_s);
+    };
+    row("a week where the number of the day has no room", u"YEAR_PLANNER"_s, u"200x200"_s, u"top"_s, 0.55, u"lb_LU"_s,
+        {}, {2028, 2, 1});
+    row("a strip without its weekdays", u"ONE_ROW_STRIP_SERIF"_s, u"A5 landscape"_s, u"left"_s, 0.55, u"de_DE"_s, {},
+        {2027, 5, 1});
+    row("two long names in a row of a list", u"FAMILY_PLANNER"_s, u"A5 landscape"_s, u"none"_s, 0.55, u"fr_CH"_s,
+        u"GE"_s, {2027, 12, 1});
+    row("a date that leaves its name no room", u"HOLIDAY_BLOCK"_s, u"A6"_s, u"right"_s, 0.75, u"de_DE"_s, u"BY"_s,
+        {2027, 5, 1});
+}
+
+/// In the layouts' own fonts, found by the product of all circumstances or by eye.
+void tst_EveryPage::wasFaulty()
+{
+    QFETCH(MvPageChoice, choice);
+    const MvPrintedPage page(choice, QString());
+    const QList<MvPageAudit::Fault> found = MvPageAudit::faults(page);
+    QVERIFY2(found.isEmpty(), qPrintable(found.value(0).what));
+    QTEST(page.unfitting.isEmpty(), "isWhole");
 }
 
 MV_TEST_MAIN(tst_EveryPage)

@@ -53,14 +53,15 @@ struct Block
     QRectF ink;
 };
 
-/// By line height, or further apart where letters would meet the accents below them.
-Block stacked(const MvFittedText &text, const QRectF &widest)
+/// By line height, or further apart where letters would meet the accents below them. Tight: as near as letters allow.
+Block stacked(const MvFittedText &text, const QRectF &widest, bool isTight = false)
 {
     const MvTextFitter unchanged(text.font, text.font.pixelSize() + 1.0, MvHyphenator());
     Block block;
-    double pitch = QFontMetricsF(text.font).height();
+    const double height = QFontMetricsF(text.font).height();
+    double pitch = isTight ? 0.0 : height;
     for (const QString &words : text.lines) {
-        MvCalendariumCellLine line(unchanged, {2.0 * widest.width(), 2.0 * pitch}, words);
+        MvCalendariumCellLine line(unchanged, {2.0 * widest.width(), 2.0 * height}, words);
         line.align(widest, Qt::AlignLeft | Qt::AlignTop);
         line.setBaseline(0.0);
         if (!block.lines.isEmpty())
@@ -76,6 +77,30 @@ Block stacked(const MvFittedText &text, const QRectF &widest)
     return block;
 }
 
+/// By what is seen of the lines instead of their height: in the largest type that does, or as much as there is room
+/// for.
+std::pair<MvFittedText, Block> fitInk(const MvTextFitter &fitter, double height, const QRectF &widest,
+                                      const QStringList &texts, qsizetype mostLines, bool isTight)
+{
+    const QList<QFont> sizes = fitter.sizes();
+    std::pair<MvFittedText, Block> best{{sizes.constLast(), {}, true, texts}, {}};
+    for (const QFont &font : sizes) {
+        const double line = QFontMetricsF(font).height();
+        const MvTextFitter fixed(font, font.pixelSize() + 1.0, fitter.hyphenator());
+        for (auto count = mostLines; count > 0; --count) {
+            const MvFittedText set = fixed.fitRunning({widest.width(), line * double(count)}, texts, separator);
+            const Block block = stacked(set, widest, isTight);
+            if (block.lines.isEmpty() || block.ink.height() > height)
+                continue;
+            if (!set.isCut)
+                return {set, block};
+            best = {set, block};
+            break;
+        }
+    }
+    return best;
+}
+
 /// Texts with what is seen of them no higher than `height`: in the room less its paddings, or in the widest.
 std::pair<MvFittedText, Block> fitWide(const MvTextFitter &fitter, double height, const QRectF &inner,
                                        const QRectF &widest, const QStringList &texts)
@@ -83,27 +108,15 @@ std::pair<MvFittedText, Block> fitWide(const MvTextFitter &fitter, double height
     MvFittedText fitted = fitter.fitRunning(inner.size(), texts, separator);
     if (fitted.isCut || fitted.font != fitter.font()) // paddings give before letters become smaller
         fitted = fitter.fitRunning(widest.size(), texts, separator);
-    Block block = stacked(fitted, widest);
-    if (!block.lines.isEmpty() && block.ink.height() <= height)
+    const Block block = stacked(fitted, widest);
+    if (!block.lines.isEmpty() && !fitted.isCut && block.ink.height() <= height)
         return {fitted, block};
-    // by what is seen of the lines instead of their height
-    std::pair<MvFittedText, Block> best{{fitted.font, {}, true, texts}, {}};
-    const QList<QFont> sizes = fitter.sizes();
-    for (const QFont &font : sizes) {
-        const double line = QFontMetricsF(font).height();
-        const MvTextFitter fixed(font, font.pixelSize() + 1.0, fitter.hyphenator());
-        for (auto count = std::max<qsizetype>(1, fitted.lines.size()); count > 0; --count) {
-            const MvFittedText smaller = fixed.fitRunning({widest.width(), line * double(count)}, texts, separator);
-            block = stacked(smaller, widest);
-            if (block.lines.isEmpty() || block.ink.height() > height)
-                continue;
-            if (!smaller.isCut)
-                return {smaller, block};
-            best = {smaller, block};
-            break;
-        }
-    }
-    return best;
+    const auto most = std::max<qsizetype>(1, fitted.lines.size());
+    const auto loose = fitInk(fitter, height, widest, texts, most, false);
+    if (!loose.first.isCut)
+        return loose;
+    const auto tight = fitInk(fitter, height, widest, texts, most + 1, true);
+    return tight.first.cutTexts.size() < loose.first.cutTexts.size() ? tight : loose;
 }
 
 } // namespace
@@ -351,7 +364,8 @@ void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &i
     const double last = baseline.value_or(inner.bottom() - QFontMetricsF(fitted.font).descent());
     const QRectF ink = block.ink.translated(0.0, last);
     double shift = std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
-    if (ink.height() > widest.height() || (shift != 0.0 && block.lines.size() > 1))
+    const bool isOnBaseline = block.lines.size() == 1 || (!baseline && shift == 0.0);
+    if (ink.height() > widest.height() || !isOnBaseline)
         shift = rect.center().y() - ink.center().y(); // as near to the line above as to that below
     for (MvCalendariumCellLine line : block.lines) {
         line.setBaseline(line.baseline() + last + shift);

@@ -307,7 +307,10 @@ QFont MvCalendariumRenderer::font(const MvCalendarCellType &type) const
 QFont MvCalendariumRenderer::fontHolidays(const MvCalendarCellType &type) const
 {
     const QFont font = m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize);
-    return m_fontScale == 1.0 ? font : scaled(font, m_fontScale, smallestHolidayPixelSize(type));
+    // where larger numbers than the layout's become smaller again, texts stay as they are
+    const double enlarged = 1.0 + 0.01 * std::max(0, m_appearance.fontSettings().fontSizePercentage());
+    const double scale = std::min(1.0, m_fontScale * enlarged);
+    return scale == 1.0 ? font : scaled(font, scale, smallestHolidayPixelSize(type));
 }
 
 QFontMetrics MvCalendariumRenderer::fontMetrics(const MvCalendarCellType &type) const

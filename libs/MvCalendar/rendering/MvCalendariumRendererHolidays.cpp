@@ -135,7 +135,10 @@ void MvCalendariumRendererHolidays::renderBase(QPainter &painter, const QRectF &
     QStringList bound = items();
     bound.replaceInStrings(u": "_s, u":\u00a0"_s); // a date stays with the first word of its name
     const QSizeF room(inner.width(), inner.height() / leading);
-    const MvFittedText fitted = fitter(CALENDAR_CELL_TYPE_WEEKDAY).fitRunning(room, bound, itemSeparator);
+    const MvTextFitter fitter = this->fitter(CALENDAR_CELL_TYPE_WEEKDAY);
+    MvFittedText fitted = fitter.fitRunning(room, bound, itemSeparator);
+    if (fitted.isCut) // but sooner alone than that the name is cut
+        fitted = fitter.fitRunning(room, items(), itemSeparator);
     for (const QString &text : fitted.cutTexts)
         reportUnfitting(startDate(), QString(text).replace(u'\u00a0', u' '), rect);
     reportMissingGlyphs(startDate(), bound, fitted.font, rect);

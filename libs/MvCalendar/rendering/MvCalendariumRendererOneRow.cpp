@@ -100,7 +100,10 @@ MvCalendariumRendererOneRow::Bands MvCalendariumRendererOneRow::bands(const QRec
     bands.day =
         QSizeF(widthOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY, month), heightOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY));
 
-    const int mostColumns = std::max(1, static_cast<int>(rect.width() / MvDayNumberSize::atFloor(*this).width()));
+    double least = MvDayNumberSize::atFloor(*this).width();
+    if (isConfigured(calendar_render_days_of_week))
+        least = std::max(least, MvWeekdayHeads::leastWidth(*this, MvWeekdayHeads::Form::Letter, true, true));
+    const int mostColumns = std::max(1, static_cast<int>(rect.width() / least));
     const int rows = (mostDays + mostColumns - 1) / mostColumns;
     const double scale = rect.height() / plannedHeight(rows);
     const double day = scale * minimumHeightOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false);

@@ -9,12 +9,13 @@
 
 namespace {
 
-constexpr double hair = 1.0;       // between a text and the upper and lower edge of its cell, at least
-constexpr double air = 0.13;       // of the type's size, between a text and the sides of its cell: half a blank
-constexpr double numberGap = 3.0;  // between a text and the number
-constexpr double easyGap = 7.0;    // so that the two do not seem to touch
-constexpr double besideGap = 10.0; // between a number and the texts beside it
-constexpr double textGap = 5.0;    // between texts and what else is in the cell
+constexpr double hair = 1.0;        // between a text and the upper and lower edge of its cell, at least
+constexpr double air = 0.13;        // of the type's size, between a text and the sides of its cell: half a blank
+constexpr double numberGap = 3.0;   // between a text and the number
+constexpr double easyGap = 7.0;     // so that the two do not seem to touch
+constexpr double besideGap = 10.0;  // between a number and the texts beside it
+constexpr double leastColumn = 4.0; // of the type's size, beside a number; in less, texts are whole or not there
+constexpr double textGap = 5.0;     // between texts and what else is in the cell
 
 double lineHeight(const QFont &font)
 {
@@ -166,7 +167,8 @@ MvPlacedTexts MvDayTextPlacement::besideNumber(const QStringList &texts) const
         room.setLeft(m_cell.numberInk.right() + besideGap);
     MvPlacedTexts found{m_fitter.fit(room.size(), texts), room, {}, {}, true};
     (isAtBottom ? found.top : found.bottom) = found.text.lines;
-    if (!isClear(found, numberGap))
+    const bool isSliver = found.text.isCut && room.width() < leastColumn * found.text.font.pixelSize();
+    if (isSliver || !isClear(found, numberGap))
         found = placed({found.text.font, {}, true, texts});
     return found;
 }

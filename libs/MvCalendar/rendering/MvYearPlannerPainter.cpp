@@ -140,14 +140,16 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
         m_renderer.reportUnfitting(date, text, cell);
     m_renderer.reportMissingGlyphs(date, texts, textStyle.texts.font(), cell);
 
-    const double baseline = paintFront(parts, cell, config, date, even);
-    if (!parts.week.isNull())
-        paintWeek(parts.week, config, date, even, baseline);
-    paintTexts(planner, innerRect(planner, parts.texts, textStyle), fitted, baseline, color);
+    const std::optional<double> baseline = paintFront(parts, cell, config, date, even);
+    if (baseline && !parts.week.isNull()) // alone it would be read as the number of the day
+        paintWeek(parts.week, config, date, even, *baseline);
+    paintTexts(planner, innerRect(planner, parts.texts, textStyle), fitted,
+               baseline.value_or(parts.number.center().y()), color);
 }
 
-double MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell,
-                                        const MvCalendarCellTypeConfig &config, const QDate &date, bool even)
+std::optional<double> MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell,
+                                                       const MvCalendarCellTypeConfig &config, const QDate &date,
+                                                       bool even)
 {
     const QColor color = m_renderer.fontColor(config, even);
     const MvCalendarCellType &type = config.inscriptionConfig();
@@ -158,7 +160,7 @@ double MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const
     if (number.isEmpty()) {
         m_renderer.reportUnfitting(date, text, cell);
         reportMissingWeekdays();
-        return parts.number.center().y();
+        return {};
     }
     number.draw(m_painter, color);
     if (!parts.weekday.isNull()) {
@@ -216,7 +218,9 @@ void MvYearPlannerPainter::paintTexts(const MvYearPlanner &planner, const QRectF
         ink |= line.ink();
         lines.append(line);
     }
-    const double shift = std::max(0.0, inner.top() - ink.top()) - std::max(0.0, ink.bottom() - inner.bottom());
+    double shift = std::max(0.0, inner.top() - ink.top()) - std::max(0.0, ink.bottom() - inner.bottom());
+    if (ink.height() > inner.height())
+        shift = inner.center().y() - ink.center().y();
     for (MvCalendariumCellLine &line : lines) { // all by the same, so that they keep their distances
         line.setBaseline(line.baseline() + shift);
         line.draw(m_painter, color);

@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QFont>
 
+#include <optional>
 #include <unordered_map>
 
 class MvCalendariumRendererYear;
@@ -45,9 +46,9 @@ private:
 
     void paintMonth(const MvYearPlanner &planner, int column, const QString &name);
     void paintDay(const MvYearPlanner &planner, const QRectF &cell, const QDate &date);
-    /// Number and weekday; gives their baseline.
-    double paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell, const MvCalendarCellTypeConfig &config,
-                      const QDate &date, bool even);
+    /// Number and weekday; gives their baseline, none where the number has no room.
+    std::optional<double> paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell,
+                                     const MvCalendarCellTypeConfig &config, const QDate &date, bool even);
     void paintWeek(const QRectF &part, const MvCalendarCellTypeConfig &config, const QDate &date, bool even,
                    double baseline);
     void paintTexts(const MvYearPlanner &planner, const QRectF &inner, const Texts &texts, double baseline,
