@@ -34,6 +34,10 @@ HEADERS = [
      ["template<class T> T f(const QList<T> &a, int *b)", "inline int g()"]),
 ]
 
+EXPORTED = ("class A\n{\npublic:\n    A() = default;\n    virtual int a() const = 0;\n    int b() const { return 1; }\n"
+            "    bool operator==(const A &) const;\n    static QList<int> c(int x = 1);\n    std::function<void(int)> d;\n"
+            "private:\n    int e();\n};\nint f();")
+
 STORED = {"M.txt": ["M/A.h", "    A: int a()", "    A: int b()", "M/B.h"]}
 # name, the new listing, what is said
 CHANGES = [
@@ -52,6 +56,11 @@ class ListApi(unittest.TestCase):
         for name, text, lines in HEADERS:
             with self.subTest(name):
                 self.assertEqual(list_api.Header(text).lines, lines)
+
+    def test_what_a_library_must_export(self):
+        header = list_api.Header(EXPORTED)
+        self.assertEqual(header.functions, {"A::operator==", "A::c", "f"})
+        self.assertEqual(header.names, {"A", "f"})
 
     def test_changes(self):
         for name, new, words in CHANGES:

@@ -4,7 +4,7 @@
 template class MvSingleton<MvSVGCompilerInstructionsCache>;
 
 MvSVGCompilerInstructionsCache::MvSVGCompilerInstructionsCache()
-    : m_cache(4 * 1024 * 1024)
+    : m_cache(4LL * 1024 * 1024)
 {}
 
 MvSVGCompilerInstructions MvSVGCompilerInstructionsCache::instructions(const QString &text)

@@ -8,7 +8,7 @@
 template class MvSingleton<MvSVGImageRendererCache>;
 
 MvSVGImageRendererCache::MvSVGImageRendererCache()
-    : m_cache(16 * 1024 * 1024)
+    : m_cache(16LL * 1024 * 1024)
 {}
 
 std::shared_ptr<QSvgRenderer> MvSVGImageRendererCache::renderer(const QByteArray &svg,
