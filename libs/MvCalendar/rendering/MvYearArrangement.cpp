@@ -83,7 +83,9 @@ double MvYearArrangement::stretch() const
 QRectF MvYearArrangement::monthRect(int index) const
 {
     const QSizeF month = MvSmallMonthGrid::size(m_sizes);
-    const double x = index % m_columns * (month.width() + columnGap * m_sizes.day.width());
-    const double y = index / m_columns * (month.height() + rowGap * m_sizes.day.height());
+    const int column = index % m_columns;
+    const int row = index / m_columns;
+    const double x = column * (month.width() + columnGap * m_sizes.day.width());
+    const double y = row * (month.height() + rowGap * m_sizes.day.height());
     return {m_rect.topLeft() + QPointF(x, y), month};
 }

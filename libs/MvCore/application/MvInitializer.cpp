@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvInitializer.h"
 
-#include <algorithm>
-
 template class MvSingleton<MvInitializer>;
 
 void MvInitializer::registerInitializer(MvInitializerAbstract *initializer)
@@ -29,6 +27,6 @@ void MvInitializer::teardown()
     if (!m_isSetUp)
         return;
     m_isSetUp = false;
-    std::for_each(m_initializers.crbegin(), m_initializers.crend(),
-                  [](MvInitializerAbstract *initializer) { initializer->teardown(); });
+    for (auto it = m_initializers.crbegin(); it != m_initializers.crend(); ++it)
+        (*it)->teardown();
 }
