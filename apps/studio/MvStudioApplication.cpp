@@ -61,7 +61,7 @@ MvStudioApplication::~MvStudioApplication()
     MvStudioSettings::setFailureHandler({});
     m_window.reset();
     m_autosave.reset();
-    MvUndoController::instance().clear();
+    m_project->session().undo().clear();
     m_project.reset();
     MvInitializer::instance().teardown();
 }
@@ -101,7 +101,7 @@ void MvStudioApplication::start()
     MvStudioSettings::setFailureHandler([this](const QString &error) {
         MvStudioMessage::error(m_window.get(), tr("Die Einstellungen ließen sich nicht speichern."), error);
     });
-    QTimer::singleShot(quietTime, this, [] { MvCalendarEventRegistry::instance().sweepFotos(); });
+    QTimer::singleShot(quietTime, this, [this] { m_project->session().entries().sweepFotos(); });
     QTimer::singleShot(0, m_window.get(), [this] {
         tellUnwritableFolder();
         m_window->entriesFlow()->start();

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStep.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
 #include "MvProjectFixture.h"
@@ -23,6 +25,7 @@ private Q_SLOTS:
     void mergesSteps_data();
     void mergesSteps();
     void savesAndOpens();
+    void twoProjectsAtATime();
 };
 
 void tst_MvProject::dividesTheRange_data()
@@ -205,6 +208,51 @@ void tst_MvProject::savesAndOpens()
     QVERIFY(!other.open(QFileInfo(dir.filePath(u"fehlt.mvcalendar"_s)), &error));
     QVERIFY(error.contains(u"fehlt.mvcalendar"_s));
     QVERIFY(other.document() == changed); // what was open stays
+}
+
+/// Two projects of one program, each with a session of its own beside the default one: neither steps nor entries of one
+/// reach another, and nothing of theirs the user's file.
+void tst_MvProject::twoProjectsAtATime()
+{
+    MvSession sessions[2];
+    MvProject first(nullptr, sessions[0]);
+    MvProject second(nullptr, sessions[1]);
+    const QDate day(2027, 2, 9);
+    const auto add = [&day](MvSession &session, const QString &name) {
+        const MvCalendarEvent entry(name, day.startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
+        session.undo().push(new MvCalendarEventStep({}, entry, session));
+    };
+    const auto shown = [&day](const MvSession &session) {
+        MvCalendariumHolidayConfig config;
+        config.setFeature(MvCalendariumFeatures(FEATURE_ENTRIES), true);
+        const MvCalendarEventSource &entries = session.entries();
+        return entries.descriptions({{day, config}, entries.project()}).join(u' ');
+    };
+    first.newProject(document(u"MONTH_GRID_CLASSIC"_s, 2));
+    second.newProject(document(u"YEAR_GRID"_s, 12));
+    const MvCalendarDocument before = first.document();
+    MvCalendarDocument titled = before;
+    titled.setTitle(u"Familie"_s);
+    first.change(titled, u"title"_s);
+    add(first.session(), u"Oma"_s);
+    add(second.session(), u"Opa"_s);
+    add(second.session(), u"Tim"_s);
+    QCOMPARE(shown(first.session()), u"Oma"_s);
+    QCOMPARE(shown(second.session()), u"Opa Tim"_s);
+
+    first.session().undo().undo();
+    first.session().undo().undo();
+    QCOMPARE(first.document(), before);
+    QCOMPARE(shown(first.session()), QString());
+    QCOMPARE(shown(second.session()), u"Opa Tim"_s);
+
+    first.newProject(document(u"DAY_LIST"_s, 1)); // gives up its own steps alone
+    QVERIFY(!first.session().undo().stack()->canRedo());
+    second.session().undo().undo();
+    QCOMPARE(shown(second.session()), u"Opa"_s);
+    QVERIFY(!MvUndoController::instance().stack()->canUndo());
+    QCOMPARE(shown(MvSession::defaultSession()), QString());
+    QVERIFY(!MvCalendarEventRegistry::instance().calendarEventsDir().exists());
 }
 
 MV_TEST_MAIN(tst_MvProject)

@@ -31,8 +31,9 @@ constexpr int progressSteps = 1000;
 
 } // namespace
 
-MvBirthdayImport::MvBirthdayImport(QWidget *window)
+MvBirthdayImport::MvBirthdayImport(MvSession &session, QWidget *window)
     : QObject(window)
+    , m_session(session)
     , m_window(window)
 {
     connect(&m_progressTimer, &QTimer::timeout, this, &MvBirthdayImport::showProgress);
@@ -148,7 +149,7 @@ void MvBirthdayImport::askForOrder()
 
 void MvBirthdayImport::makeEntries(Order order)
 {
-    runInBackground([order, known = MvCalendarEventRegistry::instance().activeEventList()](
+    runInBackground([order, known = m_session.entries().activeEventList()](
                         MvAddressBookImport &import) { import.makeEntries(known, order); },
                     &MvBirthdayImport::finish);
 }
@@ -157,10 +158,10 @@ void MvBirthdayImport::finish()
 {
     hideProgress();
     const std::shared_ptr<MvAddressBookImport> import = std::exchange(m_import, nullptr);
-    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    MvCalendarEventRegistry &registry = m_session.entries();
     const MvCalendarEventList events = registry.onlyNewEvents(registry.activeEventList(), import->takeEvents());
     if (!events.isEmpty())
-        MvUndoController::instance().push(new MvUndoCommandEventList(tr("Geburtstage importieren"), events));
+        m_session.undo().push(new MvUndoCommandEventList(tr("Geburtstage importieren"), events, m_session));
     const MvImportReport report(import->report(), int(events.size()), problemOfFile());
     Q_EMIT message(report.summary());
     if (report.isError())
@@ -171,9 +172,9 @@ void MvBirthdayImport::finish()
 }
 
 /// Why the entries are not on disk yet; empty when they are.
-QString MvBirthdayImport::problemOfFile()
+QString MvBirthdayImport::problemOfFile() const
 {
-    const MvCalendarEventStore &file = MvCalendarEventRegistry::instance().userFile();
+    const MvCalendarEventStore &file = m_session.entries().userFile();
     if (!file.hasUnsavedChanges())
         return {};
     const QString text = file.problem().text;

@@ -13,6 +13,7 @@
 
 class MvAddressBookImport;
 class MvProgressDialog;
+class MvSession;
 class QWidget;
 
 /// Takes birthdays from address books over into the personal entries: as one step that can be undone, and each person
@@ -25,8 +26,8 @@ class MvBirthdayImport : public QObject
     Q_OBJECT
 
 public:
-    /// The window is the parent of all dialogs.
-    explicit MvBirthdayImport(QWidget *window);
+    /// Adds to the entries of the session. The window is the parent of all dialogs.
+    MvBirthdayImport(MvSession &session, QWidget *window);
     ~MvBirthdayImport() override;
 
     bool isRunning() const { return m_import != nullptr; }
@@ -48,10 +49,11 @@ private:
     void askForOrder();
     void makeEntries(MvVCardDate::Order order);
     void finish();
-    static QString problemOfFile();
+    QString problemOfFile() const;
     void showProgress();
     void hideProgress();
 
+    MvSession &m_session;
     QWidget *m_window;
     std::shared_ptr<MvAddressBookImport> m_import; // while it runs
     QPointer<MvProgressDialog> m_progress;

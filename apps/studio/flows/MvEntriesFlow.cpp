@@ -22,11 +22,6 @@ using Problem = MvCalendarEventStore::Problem;
 constexpr int mostNamed = 8;       // entries that were left out
 constexpr int watchInterval = 250; // ms
 
-MvCalendarEventStore &store()
-{
-    return MvCalendarEventRegistry::instance().userFile();
-}
-
 bool isOfWriting(int kind)
 {
     return kind == Problem::NotSaved || kind == Problem::Busy;
@@ -83,11 +78,17 @@ QString explanation(const Problem &problem)
 
 } // namespace
 
-MvEntriesFlow::MvEntriesFlow(QWidget *window)
+MvEntriesFlow::MvEntriesFlow(MvCalendarEventRegistry &entries, QWidget *window)
     : QObject(window)
+    , m_registry(entries)
     , m_window(window)
 {
     connect(&store(), &MvCalendarEventStore::problemChanged, this, &MvEntriesFlow::onProblemChanged);
+}
+
+MvCalendarEventStore &MvEntriesFlow::store() const
+{
+    return m_registry.userFile();
 }
 
 void MvEntriesFlow::start()
@@ -151,7 +152,7 @@ void MvEntriesFlow::show()
     } else {
         if (!problem.backups.isEmpty())
             addButton(tr("Wiederherstellen …"), "restoreButton", &MvEntriesFlow::restore);
-        addButton(tr("Ohne sie weitermachen"), "dismissButton", [] { store().dismissReadProblem(); });
+        addButton(tr("Ohne sie weitermachen"), "dismissButton", [this] { store().dismissReadProblem(); });
     }
     QPushButton *later = m_box->addButton(tr("Später entscheiden"), QMessageBox::RejectRole);
     later->setObjectName(u"laterButton"_s);
@@ -186,9 +187,8 @@ void MvEntriesFlow::saveElsewhere(const Then &then)
     const auto save = [this, then](const QString &fileName) {
         if (fileName.isEmpty())
             return;
-        const MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
-        registry.saveAs(QFileInfo(fileName));
-        const QString error = registry.lastSaveError();
+        m_registry.saveAs(QFileInfo(fileName));
+        const QString error = m_registry.lastSaveError();
         if (!error.isEmpty()) {
             MvDiskAccessRequest::instance().writeCalendarEntriesFileFailed(fileName, error, m_window);
             return;

@@ -9,6 +9,8 @@
 #include <functional>
 
 class QMessageBox;
+class MvCalendarEventRegistry;
+class MvCalendarEventStore;
 class QWidget;
 
 /// What a person must know about the file of their entries, and what they can do about it: said once when it arises, in
@@ -21,7 +23,7 @@ public:
     using Then = std::function<void()>;
 
     /// The window is the parent of all dialogs.
-    explicit MvEntriesFlow(QWidget *window);
+    MvEntriesFlow(MvCalendarEventRegistry &entries, QWidget *window);
 
     /// Tells what has troubled reading, once the window is to be seen.
     void start();
@@ -46,6 +48,9 @@ private:
     void restore();
     void saveElsewhere(const Then &then);
 
+    MvCalendarEventStore &store() const;
+
+    MvCalendarEventRegistry &m_registry;
     QWidget *m_window;
     QSet<int> m_told; // kinds of problems
     QPointer<QMessageBox> m_box;

@@ -5,8 +5,10 @@
 
 #include <QMultiHash>
 
-MvUndoCommandEventList::MvUndoCommandEventList(const QString &text, const MvCalendarEventList &added)
+MvUndoCommandEventList::MvUndoCommandEventList(const QString &text, const MvCalendarEventList &added,
+                                               MvSession &session)
     : MvUndoCommand(text)
+    , m_entries(session.entries())
     , m_added(added)
 {
     setObsolete(added.isEmpty());
@@ -14,27 +16,25 @@ MvUndoCommandEventList::MvUndoCommandEventList(const QString &text, const MvCale
 
 void MvUndoCommandEventList::doCoreAction()
 {
-    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
-    const MvCalendarEventList before = registry.activeEventList();
-    const MvCalendarEventList added = registry.onlyNewEvents(before, m_added);
-    registry.setEvents(registry.mergeLists(before, added, true));
+    const MvCalendarEventList before = m_entries.activeEventList();
+    const MvCalendarEventList added = m_entries.onlyNewEvents(before, m_added);
+    m_entries.setEvents(m_entries.mergeLists(before, added, true));
     m_added.clear();
     for (const MvCalendarEvent &event : added) {
-        const MvCalendarEvent present = registry.presentEvent(event); // its photo may have been copied
+        const MvCalendarEvent present = m_entries.presentEvent(event); // its photo may have been copied
         m_added.append(present.isValid() ? present : event);
     }
 }
 
 void MvUndoCommandEventList::undoCore()
 {
-    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
     QMultiHash<QUuid, MvCalendarEvent> added; // several may share a uuid
     for (const MvCalendarEvent &event : m_added)
         added.insert(event.uuid(), event);
     MvCalendarEventList rest;
-    for (const MvCalendarEvent &event : registry.activeEventList()) {
+    for (const MvCalendarEvent &event : m_entries.activeEventList()) {
         if (!added.contains(event.uuid(), event))
             rest.append(event);
     }
-    registry.setEvents(rest);
+    m_entries.setEvents(rest);
 }

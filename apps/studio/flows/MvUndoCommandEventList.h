@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCore/MvUndoCommand.h"
 
 /// Adds many personal entries at once: one step, one writing of the file. Undoing takes away these alone: what has come
@@ -9,11 +10,13 @@
 class MvUndoCommandEventList : public MvUndoCommand
 {
 public:
-    MvUndoCommandEventList(const QString &text, const MvCalendarEventList &added);
+    MvUndoCommandEventList(const QString &text, const MvCalendarEventList &added,
+                           MvSession &session = MvSession::defaultSession());
 
     void doCoreAction() override;
     void undoCore() override;
 
 private:
+    MvCalendarEventRegistry &m_entries;
     MvCalendarEventList m_added; // as they are in the list
 };

@@ -53,7 +53,7 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     , m_project(project)
     , m_photos(std::make_unique<MvScreenPhotos>(photoBytes))
     , m_entryPhotos(std::make_unique<MvFotoStock>())
-    , m_cells(std::make_unique<MvGraphicsItemCalendariumCellsManager>(this))
+    , m_cells(std::make_unique<MvGraphicsItemCalendariumCellsManager>(this, project->session()))
 {
     connect(project, &MvProject::pageChanged, this, [this](int page) {
         if (page == m_page)
@@ -64,7 +64,7 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
         m_photos->clear();
         refresh();
     });
-    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
+    connect(&project->session().entries(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
     connect(m_photos.get(), &MvScreenPhotos::loaded, this, &MvPageItem::discardCache);
     connect(m_entryPhotos.get(), &MvFotoStock::arrived, this, &MvPageItem::refresh);
     m_cells->setMenuForOneEntry(false);

@@ -69,7 +69,7 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
         onPagesReset();
         setCurrentPage(0);
     });
-    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this,
+    connect(&project->session().entries(), &MvCalendarEventRegistry::eventsChanged, this,
             [this] { m_images->invalidateAll(entriesDelay); });
     onPagesReset();
     setCurrentPage(0);

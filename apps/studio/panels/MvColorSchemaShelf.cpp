@@ -37,7 +37,7 @@ MvCalendariumColorSchemaID userId(const MvCalendariumColorSchemaID &id)
 
 } // namespace
 
-MvColorSchemaShelf::MvColorSchemaShelf(QWidget *parent)
+MvColorSchemaShelf::MvColorSchemaShelf(const MvUndoController &undo, QWidget *parent)
     : QWidget(parent)
     , m_picker(new MvColorSchemaPicker(this))
     , m_keep(createKeepButton())
@@ -53,7 +53,7 @@ MvColorSchemaShelf::MvColorSchemaShelf(QWidget *parent)
     column->addLayout(row);
     m_picker->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_picker, &QWidget::customContextMenuRequested, this, &MvColorSchemaShelf::openContextMenu);
-    connect(MvUndoController::instance().stack(), &QUndoStack::indexChanged, this, [this](int steps) {
+    connect(undo.stack(), &QUndoStack::indexChanged, this, [this](int steps) {
         m_own.setUndoSteps(steps);
         reload();
     });

@@ -10,6 +10,7 @@
 #include <functional>
 
 class MvColorSchemaPicker;
+class MvUndoController;
 class QMenu;
 class QPushButton;
 class QToolButton;
@@ -22,7 +23,8 @@ class MvColorSchemaShelf : public QWidget
     Q_OBJECT
 
 public:
-    explicit MvColorSchemaShelf(QWidget *parent = nullptr);
+    /// Colours that were tried are offered as long as the steps with them can be undone.
+    MvColorSchemaShelf(const MvUndoController &undo, QWidget *parent);
 
     /// Marks the current page's schema. Those of the pages that are not registered are offered as own colours.
     void showSchema(const MvCalendariumColorSchema &current, const QList<MvCalendariumColorSchema> &ofPages);

@@ -7,6 +7,7 @@
 #include "panels/MvPageEdits.h"
 
 #include "MvCalendar/MvCalendariumColorSchemaEditor.h"
+#include "MvCalendar/MvSession.h"
 
 #include <QHeaderView>
 #include <QScrollArea>
@@ -25,7 +26,7 @@ constexpr QSize pictureSize(124, 93); // logical pixels: two side by side in a d
 MvLayoutPanel::MvLayoutPanel(MvPageEdits *edits, QWidget *parent)
     : MvPagePanel(edits, parent)
     , m_layouts(new MvLayoutChooser(this, pictureSize))
-    , m_schemata(new MvColorSchemaShelf(this))
+    , m_schemata(new MvColorSchemaShelf(edits->session().undo(), this))
     , m_colors(new MvCalendariumColorSchemaEditor(this))
 {
     setObjectName(u"layoutPanel"_s);

@@ -30,6 +30,11 @@ void MvPageEdits::setScope(Scope scope)
     Q_EMIT scopeChanged();
 }
 
+MvSession &MvPageEdits::session() const
+{
+    return m_project->session();
+}
+
 const MvCalendarDocument &MvPageEdits::document() const
 {
     return m_project->document();

@@ -8,6 +8,7 @@
 #include <functional>
 
 class MvProject;
+class MvSession;
 
 /// What the panels edit: the current page, or all pages at once. Every edit is one undo step.
 class MvPageEdits : public QObject
@@ -28,6 +29,8 @@ public:
     Scope scope() const { return m_scope; }
     void setScope(Scope scope);
 
+    /// The project's.
+    MvSession &session() const;
     const MvCalendarDocument &document() const;
     /// The current page as the project has it; an invalid one when there is none.
     MvCalendarPage page() const;

@@ -8,6 +8,7 @@
 #include "panels/MvPageEdits.h"
 
 #include "MvCalendar/MvCalendarEventListWidget.h"
+#include "MvProject/MvProject.h"
 
 #include <QVBoxLayout>
 
@@ -35,11 +36,11 @@ QDate dateOfNewEntries(const MvPageEdits &edits)
     return edits.document().range().contains(today) ? today : edits.page().contentConfig().moveToDayInMonth(1).date();
 }
 
-QWidget *createEntriesPanel(MvStudioPanels *panels, QWidget *parent)
+QWidget *createEntriesPanel(MvStudioPanels *panels, MvSession &session, QWidget *parent)
 {
     auto *panel = new QWidget(parent);
     panel->setObjectName(u"entriesPanel"_s);
-    auto *list = new MvCalendarEventListWidget(panel);
+    auto *list = new MvCalendarEventListWidget(panel, session);
     list->layout()->setContentsMargins({}); // the panel has some
     (new QVBoxLayout(panel))->addWidget(list);
     const MvPageEdits *edits = panels->edits();
@@ -65,7 +66,8 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent)
         {u"fontPanel"_s, tr("Schriften"), u"ico_studio_fonts"_s, new MvFontPanel(m_edits, parent)},
         {u"columnHeadersPanel"_s, tr("Spalten"), u"ico_studio_column_headers"_s,
          new MvColumnHeadersPanel(m_edits, parent)},
-        {u"entriesPanel"_s, tr("Einträge"), u"ico_studio_entries"_s, createEntriesPanel(this, parent)},
+        {u"entriesPanel"_s, tr("Einträge"), u"ico_studio_entries"_s,
+         createEntriesPanel(this, project->session(), parent)},
     };
 }
 

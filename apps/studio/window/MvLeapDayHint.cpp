@@ -21,7 +21,7 @@ MvLeapDayHint::MvLeapDayHint(const MvProject *project, QObject *parent)
     : QObject(parent)
     , m_project(project)
 {
-    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, &MvLeapDayHint::look);
+    connect(&project->session().entries(), &MvCalendarEventRegistry::eventsChanged, this, &MvLeapDayHint::look);
     look();
 }
 
@@ -30,7 +30,7 @@ void MvLeapDayHint::look()
     const auto before = m_known;
     m_known.clear();
     QStringList names;
-    for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList()) {
+    for (const MvCalendarEvent &event : m_project->session().entries().activeEventList()) {
         const QDate date = event.dateTime().date();
         if (date.month() != 2 || date.day() != 29)
             continue;

@@ -42,33 +42,31 @@ QString withStep(const QString &what, const QString &step)
 
 } // namespace
 
-MvUndoActions::MvUndoActions(QWidget *parent)
+MvUndoActions::MvUndoActions(MvUndoController &controller, QWidget *parent)
     : QObject(parent)
+    , m_stack(controller.stack())
     , m_undo(createAction(u"undo"_s, u"ico_studio_undo"_s, {QKeySequence(Qt::CTRL | Qt::Key_Z)},
                           tr("Den letzten Schritt zurücknehmen"), parent))
     , m_redo(createAction(u"redo"_s, u"ico_studio_redo"_s,
                           {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)},
                           tr("Den zurückgenommenen Schritt wieder tun"), parent))
 {
-    MvUndoController &controller = MvUndoController::instance();
     connect(m_undo, &QAction::triggered, this, [&controller] { controller.undo(); });
     connect(m_redo, &QAction::triggered, this, [&controller] { controller.redo(); });
-    const QUndoStack *stack = controller.stack();
-    connect(stack, &QUndoStack::indexChanged, this, &MvUndoActions::update);
-    connect(stack, &QUndoStack::undoTextChanged, this, &MvUndoActions::update);
-    connect(stack, &QUndoStack::redoTextChanged, this, &MvUndoActions::update);
-    connect(stack, &QUndoStack::canUndoChanged, this, &MvUndoActions::update);
-    connect(stack, &QUndoStack::canRedoChanged, this, &MvUndoActions::update);
+    connect(m_stack, &QUndoStack::indexChanged, this, &MvUndoActions::update);
+    connect(m_stack, &QUndoStack::undoTextChanged, this, &MvUndoActions::update);
+    connect(m_stack, &QUndoStack::redoTextChanged, this, &MvUndoActions::update);
+    connect(m_stack, &QUndoStack::canUndoChanged, this, &MvUndoActions::update);
+    connect(m_stack, &QUndoStack::canRedoChanged, this, &MvUndoActions::update);
     update();
 }
 
 void MvUndoActions::update()
 {
-    const QUndoStack *stack = MvUndoController::instance().stack();
-    m_undo->setText(withStep(tr("&Rückgängig"), stack->undoText()));
-    m_redo->setText(withStep(tr("&Wiederholen"), stack->redoText()));
-    m_undo->setEnabled(stack->canUndo());
-    m_redo->setEnabled(stack->canRedo());
+    m_undo->setText(withStep(tr("&Rückgängig"), m_stack->undoText()));
+    m_redo->setText(withStep(tr("&Wiederholen"), m_stack->redoText()));
+    m_undo->setEnabled(m_stack->canUndo());
+    m_redo->setEnabled(m_stack->canRedo());
     for (QAction *action : {m_undo, m_redo})
         action->setToolTip(
             u"%1 (%2)"_s.arg(action->text().remove(u'&'), action->shortcut().toString(QKeySequence::NativeText)));

@@ -3,7 +3,9 @@
 
 #include <QObject>
 
+class MvUndoController;
 class QAction;
+class QUndoStack;
 class QWidget;
 
 /// Undo and redo, with what they take back or do again in their texts: "Rückgängig: Farbe ändern".
@@ -12,8 +14,8 @@ class MvUndoActions : public QObject
     Q_OBJECT
 
 public:
-    /// The parent owns the actions.
-    explicit MvUndoActions(QWidget *parent);
+    /// For the steps of the controller, which must outlive them. The parent owns the actions.
+    MvUndoActions(MvUndoController &controller, QWidget *parent);
 
     QAction *undoAction() const { return m_undo; }
     QAction *redoAction() const { return m_redo; }
@@ -21,6 +23,7 @@ public:
 private:
     void update();
 
+    QUndoStack *m_stack;
     QAction *m_undo;
     QAction *m_redo;
 };

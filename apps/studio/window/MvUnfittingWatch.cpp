@@ -24,7 +24,7 @@ MvUnfittingWatch::MvUnfittingWatch(MvProject *project, QObject *parent)
     connect(project, &MvProject::pageChanged, this, &MvUnfittingWatch::invalidate);
     connect(project, &MvProject::pagesReset, this, &MvUnfittingWatch::reset);
     connect(project, &MvProject::documentReplaced, this, &MvUnfittingWatch::reset);
-    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this, [this] {
+    connect(&project->session().entries(), &MvCalendarEventRegistry::eventsChanged, this, [this] {
         for (int page = 0; page < m_pages.size(); ++page)
             invalidate(page);
     });

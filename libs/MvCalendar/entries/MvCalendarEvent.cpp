@@ -1,18 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEvent.h"
 
+#include "MvCalendar/MvCalendarEventFotoCopy.h"
 #include "MvCalendar/MvCalendarEventFotoFinder.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
 #include "MvCore/MvDirectoryConfig.h"
-#include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvFoto/MvFotoAccess.h"
-#include "MvFoto/MvFotoBin.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLParser.h"
 
-#include <QBuffer>
-#include <QImageWriter>
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -38,14 +35,6 @@ QString shortDate(const QDateTime &dateTime)
     if (date.year() == MvCalendarEvent::unknownYear) // with what separates it: "dd.MM.", "dd/MM", "M/d", "MM-dd"
         format.remove(QRegularExpression(u"^y+\\W+|(?:[^\\w.]+)?y+$"_s));
     return QLocale().toString(date, format);
-}
-
-QByteArray encoded(const QImage &image, const QString &suffix)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    QImageWriter writer(&buffer, suffix.toLatin1());
-    return writer.write(image) ? bytes : QByteArray();
 }
 
 } // namespace
@@ -135,21 +124,10 @@ bool MvCalendarEvent::takeFoto(const MvFoto &foto, QString *error)
         setFoto(foto);
         return true;
     }
-    const QString name = QDir::toNativeSeparators(foto.localFilePath());
-    QString reason;
-    const QImage image = MvFotoAccess::midRes(foto, fotoQuality, fotoCaching, &reason);
-    if (image.isNull()) {
-        if (error)
-            *error = tr("Das Foto „%1“ kann nicht gelesen werden. %2").arg(name, reason).trimmed();
+    const MvFoto copy = MvCalendarEventFotoCopy::of(foto, error);
+    if (!copy.isValid())
         return false;
-    }
-    const QFileInfo file = isOwn ? foto.localFileInfo() : saveCopy(image, foto, &reason);
-    if (!reason.isEmpty()) {
-        if (error)
-            *error = tr("Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2").arg(name, reason);
-        return false;
-    }
-    m_foto = MvFoto(file);
+    m_foto = copy;
     updateChangeTime();
     return true;
 }
@@ -217,7 +195,7 @@ QDir MvCalendarEvent::imageDirectory()
 
 bool MvCalendarEvent::isInAppSafeArea(const QFileInfo &file) const
 {
-    return file.dir() == imageDirectory();
+    return MvCalendarEventFotoCopy::isInFolder(file);
 }
 
 QImage MvCalendarEvent::loadFotoAsThumbnail(const MvFoto &foto) const
@@ -231,23 +209,10 @@ QImage MvCalendarEvent::loadFotoAsThumbnail(const MvFoto &foto) const
 QFileInfo MvCalendarEvent::saveImageToNewPosition(const QImage &image, const MvFoto &foto) const
 {
     QString error;
-    const QFileInfo file = saveCopy(image, foto, &error);
+    const QFileInfo file = MvCalendarEventFotoCopy::save(image, foto, &error);
     if (!error.isEmpty())
         qWarning().noquote().nospace() << "Unable to save image to : " << file.absoluteFilePath();
     return file;
-}
-
-QFileInfo MvCalendarEvent::saveCopy(const QImage &image, const MvFoto &foto, QString *error) const
-{
-    const QString name =
-        MvMediaFormat::createFilename(foto.mediaFormat(), foto.filenameHint(), foto.fileExtensionHint());
-    const QFileInfo file = MvFotoBin(imageDirectory()).reserve(name);
-    const QByteArray bytes = encoded(image, file.suffix());
-    *error = bytes.isEmpty() ? tr("Das Bild ließ sich nicht umwandeln.")
-                             : MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
-    if (!error->isEmpty())
-        QFile::remove(file.absoluteFilePath());
-    return QFileInfo(file.absoluteFilePath());
 }
 
 MvFoto MvCalendarEvent::createFoto(const QDomElement &element) const
@@ -305,7 +270,7 @@ bool MvCalendarEvent::operator<(const MvCalendarEvent &other) const
         return m_name < other.m_name;
     if (m_dateTime != other.m_dateTime)
         return m_dateTime < other.m_dateTime;
-    return m_foto < m_foto; // of itself, hence never: entries that differ in their photos alone are equivalent
+    return false; // entries that differ in their photos alone are equivalent
 }
 
 QDebug operator<<(QDebug debug, const MvCalendarEvent &event)

@@ -143,7 +143,6 @@ public:
 private:
     void read(const MvCalendarEventTexts &texts);
     void updateChangeTime();
-    QFileInfo saveCopy(const QImage &image, const MvFoto &foto, QString *error) const;
 
     QString m_name;
     QDateTime m_dateTime;

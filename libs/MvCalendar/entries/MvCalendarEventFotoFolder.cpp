@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventFotoFolder.h"
 
+#include "MvCalendar/MvCalendarEventFotoCopy.h"
 #include "MvCalendar/MvCalendarEventFotoSweep.h"
 #include "MvFoto/MvFotoBin.h"
 
@@ -83,6 +84,7 @@ QFileInfoList userFiles()
 
 MvCalendarEventFotoFolder::MvCalendarEventFotoFolder()
     : m_use(presentFolder())
+    , m_outcomes(std::make_shared<Outcomes>())
 {}
 
 MvCalendarEventFotoFolder::Source MvCalendarEventFotoFolder::sourceOf(const MvFoto &foto)
@@ -93,18 +95,16 @@ MvCalendarEventFotoFolder::Source MvCalendarEventFotoFolder::sourceOf(const MvFo
 
 MvCalendarEventFotoFolder::Outcome MvCalendarEventFotoFolder::copied(const MvFoto &foto)
 {
-    MvCalendarEvent event;
     Outcome outcome;
-    if (event.takeFoto(foto, &outcome.error))
-        outcome.copy = event.foto();
+    outcome.copy = MvCalendarEventFotoCopy::of(foto, &outcome.error);
     return outcome;
 }
 
 /// Copies come and go with the folder; what could not be copied may well be when there is room again.
 bool MvCalendarEventFotoFolder::isKnown(const Source &source) const
 {
-    const auto known = m_outcomes.constFind(source);
-    return known != m_outcomes.cend() && known->copy.isValid() && known->copy.localFileInfo().isFile();
+    const auto known = m_outcomes->constFind(source);
+    return known != m_outcomes->cend() && known->copy.isValid() && known->copy.localFileInfo().isFile();
 }
 
 MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEventList &events)
@@ -118,10 +118,10 @@ MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEve
         if (!photos.isElsewhere(foto))
             continue;
         const Source source = sourceOf(foto);
-        const bool isTriedInVain = m_outcomes.contains(source) && hasFailed; // a full disk is full for all of them
+        const bool isTriedInVain = m_outcomes->contains(source) && hasFailed; // a full disk is full for all of them
         if (!isKnown(source) && !isTriedInVain)
-            m_outcomes.insert(source, copied(foto));
-        const Outcome outcome = m_outcomes.value(source);
+            m_outcomes->insert(source, copied(foto));
+        const Outcome outcome = m_outcomes->value(source);
         hasFailed = hasFailed || !outcome.copy.isValid();
         if (outcome.copy.isValid()) {
             own[i].setFoto(outcome.copy);
@@ -152,9 +152,9 @@ void MvCalendarEventFotoFolder::prepare(const MvCalendarEventList &events, QObje
         return;
     }
     auto *watcher = new QFutureWatcher<Outcomes>(receiver);
-    QObject::connect(watcher, &QFutureWatcherBase::finished, receiver, [this, watcher, use] {
+    QObject::connect(watcher, &QFutureWatcherBase::finished, receiver, [outcomes = m_outcomes, watcher, use] {
         watcher->deleteLater();
-        m_outcomes.insert(watcher->result());
+        outcomes->insert(watcher->result());
         use();
     });
     const auto promise = std::make_shared<QPromise<Outcomes>>();

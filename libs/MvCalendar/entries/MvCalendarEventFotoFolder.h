@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 
 class QObject;
 
@@ -67,6 +68,6 @@ private:
     bool isKnown(const Source &source) const;
 
     MvFolderUse m_use;
-    Outcomes m_outcomes;
+    std::shared_ptr<Outcomes> m_outcomes; // a copying that is under way may end later than this object
     QSet<Source> m_told;
 };

@@ -1,22 +1,22 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventRegistry.h"
 
+#include "MvCalendar/MvCalendarEventContacts.h"
+#include "MvCalendar/MvCalendarEventDay.h"
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventFotoFolder.h"
+#include "MvCalendar/MvCalendarEventLists.h"
 #include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventStore.h"
 
-#include "MvCore/MvBasisSettings.h"
 #include "MvCore/MvLogger.h"
-#include "MvCore/MvPlatformIndependent.h"
-#include "MvCore/MvProactiveHelpController.h"
-#include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoAccess.h"
+#include "MvFoto/MvFotoSource.h"
 #include "MvProductBase/MvSVGCompilerInstructionsCache.h"
 #include "MvProductBase/MvSVGImageRendererCache.h"
 
-#include <QFile>
-
+#include <algorithm>
 #include <utility>
 
 template class MvSingleton<MvCalendarEventRegistry>;
@@ -27,51 +27,39 @@ const MvProjectIdentifier DEFAULT_PROJECT_ID(u"DEFAULT_START_CALENDAR_ID"_s, fal
 
 namespace {
 
-constexpr int importAdvice = 43;
-constexpr double importAdviceDelay = 0.5;
-constexpr int importAdviceHelpType = 4;
-
+/// The list itself when all of it is valid.
 MvCalendarEventList validOnly(const MvCalendarEventList &events)
 {
+    const auto isValid = [](const MvCalendarEvent &event) { return event.isValid(); };
+    if (std::all_of(events.cbegin(), events.cend(), isValid))
+        return events;
     MvCalendarEventList valid;
-    for (const MvCalendarEvent &event : events) {
-        if (event.isValid())
-            valid.append(event);
-    }
+    std::copy_if(events.cbegin(), events.cend(), std::back_inserter(valid), isValid);
     return valid;
-}
-
-/// A photo that has gone to the bin comes back when it is to be shown.
-bool isThere(const MvFoto &foto)
-{
-    return foto.mayBeOpened() && (foto.localFileInfo().isFile() || MvCalendarEventFotoFolder::fetchBack(foto));
-}
-
-MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPath)
-{
-    MvFoto foto;
-    const QImage image = person.image();
-    if (!image.isNull() && image.save(temporaryPath, "PNG"))
-        foto = MvFoto(QFileInfo(temporaryPath));
-    MvCalendarEvent event(person.name(), MvCalendarEvent::startOf(person.birthday()), true, MvFoto(), person.uuid(),
-                          QDateTime::currentDateTime());
-    QString error;
-    if (!event.takeFoto(foto, &error)) // a birthday without its picture is better than none
-        qWarning().noquote() << error;
-    return event;
 }
 
 } // namespace
 
-MvCalendarEventRegistry::MvCalendarEventRegistry()
-    : m_activeModelId(DEFAULT_PROJECT_ID)
-    , m_userFile(new MvCalendarEventStore(this))
+MvCalendarEventRegistry::MvCalendarEventRegistry(MvUndoController &undo, bool isUserFileKept)
+    : m_undo(undo)
+    , m_lists(std::make_unique<MvCalendarEventLists>(DEFAULT_PROJECT_ID))
+    , m_fotos(std::make_unique<MvCalendarEventFotoFolder>())
+    , m_userFile(new MvCalendarEventStore(
+          isUserFileKept ? MvCalendarEventStore::Kept::InUserFile : MvCalendarEventStore::Kept::InMemory, this))
     , m_keptProject(DEFAULT_PROJECT_ID)
 {
     connect(m_userFile, &MvCalendarEventStore::eventsReplaced, this, &MvCalendarEventRegistry::replaceEvents);
-    store(DEFAULT_PROJECT_ID, {});
+}
+
+MvCalendarEventRegistry::MvCalendarEventRegistry()
+    : MvCalendarEventRegistry(MvUndoController::instance(), true)
+{
     load();
 }
+
+MvCalendarEventRegistry::MvCalendarEventRegistry(MvUndoController &undo)
+    : MvCalendarEventRegistry(undo, false)
+{}
 
 MvCalendarEventRegistry::~MvCalendarEventRegistry() = default;
 
@@ -85,22 +73,10 @@ void MvCalendarEventRegistry::setupInstance()
 
 // ---- what falls on a day
 
-const MvCalendarEventIndex *MvCalendarEventRegistry::indexFor(const MvCalendariumContentConfig &config,
-                                                              const MvProjectIdentifier &project) const
+MvCalendarEventDay MvCalendarEventRegistry::day(const MvCalendariumContentConfig &config,
+                                                const MvProjectIdentifier &project) const
 {
-    if (!config.hasFeatures(MvCalendariumFeatures(FEATURE_ENTRIES)))
-        return nullptr;
-    finishWork();
-    const auto found = m_lists.constFind(project);
-    return found == m_lists.cend() ? nullptr : &*found;
-}
-
-template <class Function>
-void MvCalendarEventRegistry::visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project,
-                                    Function function) const
-{
-    if (const MvCalendarEventIndex *index = indexFor(config, project))
-        index->visit(config.date(), function);
+    return {m_lists->index(project), config};
 }
 
 bool MvCalendarEventRegistry::hasHolidayOfType(const MvCalendariumContentKey &, const MvCalendariumHolidayType &)
@@ -110,151 +86,110 @@ bool MvCalendarEventRegistry::hasHolidayOfType(const MvCalendariumContentKey &, 
 
 QStringList MvCalendarEventRegistry::descriptions(const MvCalendariumContentKey &key)
 {
-    QStringList texts;
-    visit(key.config(), key.project(), [&texts](const MvCalendarEvent &event) {
-        texts.append(event.description());
-        return false;
-    });
-    return texts;
+    return std::as_const(*this).descriptions(key);
+}
+
+QStringList MvCalendarEventRegistry::descriptions(const MvCalendariumContentKey &key) const
+{
+    return day(key.config(), key.project()).descriptions();
 }
 
 MvImageReference MvCalendarEventRegistry::imageFile(const MvCalendariumContentKey &key) const
 {
-    MvImageReference reference;
-    visit(key.config(), key.project(), [&reference](const MvCalendarEvent &event) {
-        if (!isThere(event.foto()))
-            return false;
-        reference = {event.imagePath().absoluteFilePath(), event.imageSize()};
-        return true;
-    });
-    return reference;
+    return day(key.config(), key.project()).imageFile();
 }
 
 MvCalendarEventList MvCalendarEventRegistry::events(const MvCalendariumContentConfig &config) const
 {
-    return events(config, m_activeModelId);
+    return events(config, activeModelId());
 }
 
 MvCalendarEventList MvCalendarEventRegistry::events(const MvCalendariumContentConfig &config,
                                                     const MvProjectIdentifier &project) const
 {
-    MvCalendarEventList found;
-    visit(config, project, [&found](const MvCalendarEvent &event) {
-        found.append(event);
-        return false;
-    });
-    return found;
+    return day(config, project).events();
+}
+
+MvCalendarEventList MvCalendarEventRegistry::events(const MvCalendariumContentKey &key) const
+{
+    return day(key.config(), key.project()).events();
 }
 
 QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key) const
 {
-    QImage image;
-    visit(key.config(), key.project(), [&image](const MvCalendarEvent &event) {
-        if (isThere(event.foto()))
-            image = MvFotoAccess::fullRes(event.foto());
-        return !image.isNull();
-    });
-    return image;
+    return day(key.config(), key.project()).image(&MvFotoAccess::fullRes);
 }
 
 QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key, const QSize &bounds) const
 {
-    QImage image;
-    visit(key.config(), key.project(), [&image, &bounds](const MvCalendarEvent &event) {
-        if (isThere(event.foto()))
-            image = MvFotoAccess::scaled(event.foto(), bounds);
-        return !image.isNull();
+    return day(key.config(), key.project()).image([&bounds](const MvFoto &foto) {
+        return MvFotoAccess::scaled(foto, bounds);
     });
-    return image;
+}
+
+QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key, const QSize &bounds,
+                                           MvFotoSource &fotos) const
+{
+    return day(key.config(), key.project()).image([&](const MvFoto &foto) {
+        return fotos.scaled(foto.localFileInfo(), bounds);
+    });
 }
 
 // ---- lists
 
-void MvCalendarEventRegistry::store(const MvProjectIdentifier &project, const MvCalendarEventList &events)
-{
-    if (project == m_activeModelId) {
-        m_work.reset();
-        m_isWorkNewer = false;
-    }
-    m_lists.insert(project, MvCalendarEventIndex(events));
-}
-
 /// What the user's file brings by itself.
 void MvCalendarEventRegistry::replaceEvents(const MvCalendarEventList &events)
 {
-    if (m_openChanges > 0 && m_keptProject == m_activeModelId) {
-        store(m_keptProject, MvCalendarEventMerge::threeWay(m_beforeChanges, activeEventList(), events));
+    if (m_openChanges > 0 && m_keptProject == activeModelId()) {
+        m_lists->store(m_keptProject, MvCalendarEventMerge::threeWay(m_beforeChanges, activeEventList(), events));
         m_beforeChanges = events;
     } else {
-        store(m_keptProject, events);
+        m_lists->store(m_keptProject, events);
     }
     Q_EMIT eventsChanged();
 }
 
-MvCalendarEventWorkList &MvCalendarEventRegistry::workList() const
+MvProjectIdentifier MvCalendarEventRegistry::activeModelId() const
 {
-    if (!m_work)
-        m_work = std::make_unique<MvCalendarEventWorkList>(activeEventList());
-    return *m_work;
-}
-
-/// The work list has changed: now, or at the end of many changes, it becomes the active list.
-void MvCalendarEventRegistry::takeWork()
-{
-    m_isWorkNewer = true;
-    if (m_openChanges > 0)
-        m_hasOpenChanges = true;
-    else
-        setEvents(m_work->events());
-}
-
-void MvCalendarEventRegistry::finishWork() const
-{
-    if (std::exchange(m_isWorkNewer, false))
-        m_lists.insert(m_activeModelId, MvCalendarEventIndex(m_work->events()));
+    return m_lists->active();
 }
 
 void MvCalendarEventRegistry::setActiveModelId(const MvProjectIdentifier &id, bool silent)
 {
-    if (!m_lists.contains(id))
-        store(id, eventsOfProject(DEFAULT_PROJECT_ID));
-    finishWork();
-    m_work.reset();
-    m_activeModelId = id;
+    if (!m_lists->contains(id))
+        m_lists->store(id, eventsOfProject(DEFAULT_PROJECT_ID));
+    m_lists->setActive(id);
     if (!silent)
         Q_EMIT eventsChanged();
 }
 
 void MvCalendarEventRegistry::updateActiveModelId(const MvProjectIdentifier &from, const MvProjectIdentifier &to)
 {
-    store(to, eventsOfProject(from));
+    m_lists->store(to, eventsOfProject(from));
     Q_EMIT eventsChanged();
 }
 
 MvCalendarEventList MvCalendarEventRegistry::eventsOfProject(const MvProjectIdentifier &project) const
 {
-    finishWork();
-    const auto found = m_lists.constFind(project);
-    return found == m_lists.cend() ? MvCalendarEventList() : found->events();
+    return m_lists->events(project);
 }
 
 void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
 {
     if (m_openChanges > 0) {
-        store(m_activeModelId, validOnly(events));
+        m_lists->store(activeModelId(), validOnly(events));
         m_hasOpenChanges = true;
         return;
     }
-    const MvCalendarEventList own = m_fotos.withOwnCopies(validOnly(events));
-    m_errorElsewhere.reset();
-    m_keptProject = m_activeModelId;
-    m_userFile->keep(own, [this](const MvCalendarEventList &all) { store(m_activeModelId, all); });
+    const MvCalendarEventList own = m_fotos->withOwnCopies(validOnly(events));
+    m_keptProject = activeModelId();
+    m_userFile->keep(own, [this](const MvCalendarEventList &all) { m_lists->store(m_keptProject, all); });
     Q_EMIT eventsChanged();
 }
 
 bool MvCalendarEventRegistry::changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after)
 {
-    if (before == after || !workList().change(before, after))
+    if (before == after || !m_lists->change(before, after))
         return false;
     takeWork();
     return true;
@@ -264,19 +199,28 @@ bool MvCalendarEventRegistry::insertEvent(const MvCalendarEvent &event, const Mv
 {
     if (!event.isValid())
         return false;
-    workList().insert(event, place);
+    m_lists->insert(event, place);
     takeWork();
     return true;
 }
 
 MvCalendarEvent MvCalendarEventRegistry::presentEvent(const MvCalendarEvent &event) const
 {
-    return workList().present(event);
+    return m_lists->present(event);
 }
 
 MvCalendarEventWorkList::Place MvCalendarEventRegistry::placeOfEvent(const MvCalendarEvent &event) const
 {
-    return workList().placeOf(event);
+    return m_lists->placeOf(event);
+}
+
+/// One entry has changed: what follows from that happens now, or at the end of many changes.
+void MvCalendarEventRegistry::takeWork()
+{
+    if (m_openChanges > 0)
+        m_hasOpenChanges = true;
+    else
+        setEvents(activeEventList());
 }
 
 void MvCalendarEventRegistry::beginChanges()
@@ -288,7 +232,7 @@ void MvCalendarEventRegistry::beginChanges()
 void MvCalendarEventRegistry::endChanges()
 {
     if (m_openChanges > 0 && --m_openChanges == 0 && std::exchange(m_hasOpenChanges, false))
-        setEvents(m_isWorkNewer ? m_work->events() : activeEventList());
+        setEvents(activeEventList());
 }
 
 MvCalendarEventList MvCalendarEventRegistry::mergeLists(const MvCalendarEventList &base,
@@ -340,9 +284,9 @@ bool MvCalendarEventRegistry::loadFrom(const QFileInfo &file, bool merge)
     const MvCalendarEventList events =
         merge ? mergeLists({}, content.events, true) : mergeLists(present, content.events, true);
     if (isUserFile)
-        m_keptProject = m_activeModelId;
+        m_keptProject = activeModelId();
     if (!events.isEmpty()) {
-        store(m_activeModelId, events);
+        m_lists->store(activeModelId(), events);
         Q_EMIT eventsChanged();
     }
     return true;
@@ -357,88 +301,52 @@ void MvCalendarEventRegistry::save() const
 
 void MvCalendarEventRegistry::saveAs(const QFileInfo &file) const
 {
-    if (!m_userFile->isFile(file)) {
-        writeElsewhere(file);
-        return;
-    }
-    m_errorElsewhere.reset();
-    m_userFile->keep(m_fotos.withOwnCopies(activeEventList()), {});
-}
-
-void MvCalendarEventRegistry::writeElsewhere(const QFileInfo &file) const
-{
-    MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file.baseName()));
-    const MvSafeFileWriter::Result result =
-        MvSafeFileWriter::write(file, MvCalendarEventFile::toBytes(activeEventList()));
-    m_errorElsewhere = result.error;
-    if (!result.isOk()) {
-        qWarning().noquote() << result.error;
-        return;
-    }
-    if (!result.note.isEmpty())
-        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
-    MvPlatformIndependent::instance().fileWritten(QFileInfo(file.absoluteFilePath()));
+    if (m_userFile->isFile(file))
+        m_userFile->keep(m_fotos->withOwnCopies(activeEventList()), {});
+    else
+        m_userFile->writeElsewhere(file, activeEventList());
 }
 
 QString MvCalendarEventRegistry::lastSaveError() const
 {
-    return m_errorElsewhere.value_or(m_userFile->saveError());
-}
-
-void MvCalendarEventRegistry::prepareFotos(const MvCalendarEventList &events, QObject *receiver,
-                                           const std::function<void()> &use)
-{
-    m_fotos.prepare(events, receiver, use);
+    return m_userFile->saveError();
 }
 
 // ---- address book and photos
 
 MvCalendarEventList MvCalendarEventRegistry::loadFromSystemAddressBook()
 {
-    const MvSimplePersonList persons = MvPlatformIndependent::instance().addressBookContacts();
-    const QString folder = MvBasisSettings::instance().temporaryDirectory();
-    MvCalendarEventList events;
-    for (const MvSimplePerson &person : persons) {
-        const QString temporaryPath = u"%1/%2.png"_s.arg(folder, person.uuid().toString());
-        events.append(eventOf(person, temporaryPath));
-        QFile::remove(temporaryPath);
-    }
-    return events;
+    return MvCalendarEventContacts::entries();
 }
 
 void MvCalendarEventRegistry::playImportedCustomerEntriesProactiveAdvice(int foundInAddressBook, int imported) const
 {
-    const QString text = tr("%1 von %2 Einträgen mit Geburtstagen importiert").arg(imported).arg(foundInAddressBook);
-    MvProactiveHelpController &help = MvProactiveHelpController::instance();
-    help.resetPendingAdvicesAndClose();
-    help.updatePlaceHolderText(importAdvice, u"#ENTRIES_MESSAGE#"_s, text);
-    help.showAdvice(importAdvice, importAdviceDelay, importAdviceHelpType, MvProactiveHelpTransferContent{0, {}});
+    MvCalendarEventContacts::tellImported(foundInAddressBook, imported);
+}
+
+void MvCalendarEventRegistry::prepareFotos(const MvCalendarEventList &events, QObject *receiver,
+                                           const std::function<void()> &use)
+{
+    m_fotos->prepare(events, receiver, use);
 }
 
 void MvCalendarEventRegistry::cleanupImageDirectory() const
 {
     const MvCalendarEventList events = m_userFile->withChangesOfOthers(activeEventList());
-    if (!m_userFile->isWhole())
-        return;
-    MvCalendarEventFotoFolder::removeAllBut(events);
+    if (m_userFile->isWhole())
+        MvCalendarEventFotoFolder::removeAllBut(events);
+}
+
+/// Nothing is under way, in doubt or yet to be undone.
+bool MvCalendarEventRegistry::isQuiet() const
+{
+    return m_openChanges == 0 && m_undo.stack()->count() == 0 && m_userFile->isWhole() &&
+           !m_userFile->hasUnsavedChanges() && !m_userFile->problem().isProblem() && m_userFile->isInPlace();
 }
 
 void MvCalendarEventRegistry::sweepFotos()
 {
-    const auto isQuiet = [this] {
-        return m_openChanges == 0 && MvUndoController::instance().stack()->count() == 0 && m_userFile->isWhole() &&
-               !m_userFile->hasUnsavedChanges() && !m_userFile->problem().isProblem() &&
-               QFileInfo(m_userFile->file().filePath()).isFile();
-    };
-    const auto inUse = [this] {
-        finishWork();
-        QSet<QString> names;
-        for (const MvCalendarEventIndex &list : std::as_const(m_lists)) {
-            for (const MvCalendarEvent &event : list.events())
-                names.insert(event.imagePath().fileName());
-        }
-        return names;
-    };
     if (isQuiet())
-        m_fotos.sweep(this, inUse, isQuiet);
+        m_fotos->sweep(
+            this, [this] { return m_lists->fotoNames(); }, [this] { return isQuiet(); });
 }

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCalendar/MvCalendarEventFotoFolder.h"
-#include "MvCalendar/MvCalendarEventIndex.h"
-#include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendarEventWorkList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
@@ -14,17 +12,17 @@
 #include <QDomDocument>
 #include <QDomElement>
 #include <QFileInfo>
-#include <QHash>
-#include <QImage>
-#include <QSize>
 #include <QString>
 
 #include <functional>
 #include <memory>
-#include <optional>
 
+class MvCalendarEventDay;
+class MvCalendarEventFotoFolder;
+class MvCalendarEventLists;
 class MvCalendarEventRegistry;
 class MvCalendarEventStore;
+class MvUndoController;
 extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendarEventRegistry>;
 
 /// The list that exists before any document is opened.
@@ -33,15 +31,20 @@ MVCALENDAR_EXPORT extern const MvProjectIdentifier DEFAULT_PROJECT_ID;
 /// The user's personal entries: one list per document, one of them active. The active one is shown, edited and kept in
 /// the user's file, which is written at once after every change.
 ///
-/// What happens between the list and the file, and what a person must know about that, is the matter of userFile(). To
-/// be used from the GUI thread.
+/// This is where the parts meet, and what tells that something has changed: MvCalendarEventLists holds the lists,
+/// MvCalendarEventStore knows what happens between the active one and the file and what a person must know about that
+/// (userFile()), MvCalendarEventFotoFolder has the photos copied. To be used from the GUI thread.
 class MVCALENDAR_EXPORT MvCalendarEventRegistry : public MvAbstractHolidayCache,
-                                                  public MvSingleton<MvCalendarEventRegistry>
+                                                  public MvSingleton<MvCalendarEventRegistry>,
+                                                  public MvCalendarEventSource
 {
     Q_OBJECT
 
 public:
+    /// The entries of the user's file, changed by steps of MvUndoController::instance().
     MvCalendarEventRegistry();
+    /// Entries that begin empty and live in memory only, changed by steps of the controller; see MvSession.
+    explicit MvCalendarEventRegistry(MvUndoController &undo);
     ~MvCalendarEventRegistry() override;
 
     /// Personal entries are never holidays: always false.
@@ -50,7 +53,6 @@ public:
     // What falls on a day. Without the feature "entries" in the configuration: nothing. None of these searches the
     // list or decodes anything that was decoded before.
     QStringList descriptions(const MvCalendariumContentKey &key) override;
-    /// The file of the first entry of the day whose photo exists and may be opened.
     MvImageReference imageFile(const MvCalendariumContentKey &key) const override;
     MvCalendarEventList events(const MvCalendariumContentConfig &config) const;
     MvCalendarEventList events(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project) const;
@@ -62,14 +64,20 @@ public:
 
     void setupInstance() override;
 
-    MvProjectIdentifier activeModelId() const { return m_activeModelId; }
+    // the same for painting
+    MvProjectIdentifier project() const override { return activeModelId(); }
+    MvCalendarEventList events(const MvCalendariumContentKey &key) const override;
+    QStringList descriptions(const MvCalendariumContentKey &key) const override;
+    QImage eventImage(const MvCalendariumContentKey &key, const QSize &bounds, MvFotoSource &fotos) const override;
+
+    MvProjectIdentifier activeModelId() const;
     /// Makes a document's list the active one; a document without a list starts with a copy of the default list.
     void setActiveModelId(const MvProjectIdentifier &id, bool silent);
     /// Copies the list of one document to another, such as a document saved under a new name.
     void updateActiveModelId(const MvProjectIdentifier &from, const MvProjectIdentifier &to);
 
     MvCalendarEventList eventsOfProject(const MvProjectIdentifier &project) const;
-    MvCalendarEventList activeEventList() const { return eventsOfProject(m_activeModelId); }
+    MvCalendarEventList activeEventList() const { return eventsOfProject(activeModelId()); }
     MvCalendarEventList eventsOfCurrentProject() const { return activeEventList(); }
 
     /// Replaces the active list by the valid entries of the list and saves it. Photos that came with an imported file
@@ -132,27 +140,19 @@ Q_SIGNALS:
     void eventsChanged();
 
 private:
-    const MvCalendarEventIndex *indexFor(const MvCalendariumContentConfig &config,
-                                         const MvProjectIdentifier &project) const;
-    template <class Function>
-    void visit(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project, Function function) const;
+    MvCalendarEventRegistry(MvUndoController &undo, bool isUserFileKept);
 
-    void store(const MvProjectIdentifier &project, const MvCalendarEventList &events);
-    MvCalendarEventWorkList &workList() const;
+    MvCalendarEventDay day(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project) const;
     void takeWork();
-    void finishWork() const;
     void replaceEvents(const MvCalendarEventList &events);
-    void writeElsewhere(const QFileInfo &file) const;
+    bool isQuiet() const;
 
-    mutable QHash<MvProjectIdentifier, MvCalendarEventIndex> m_lists;
-    mutable std::unique_ptr<MvCalendarEventWorkList> m_work; // the active list, made when asked for
-    mutable bool m_isWorkNewer = false;                      // m_lists does not have it yet
-    MvProjectIdentifier m_activeModelId;
-    int m_openChanges = 0;         // beginChanges() without endChanges()
-    bool m_hasOpenChanges = false; // something has changed since
-    MvCalendarEventList m_beforeChanges;
+    MvUndoController &m_undo;
+    std::unique_ptr<MvCalendarEventLists> m_lists;
+    std::unique_ptr<MvCalendarEventFotoFolder> m_fotos;
     MvCalendarEventStore *m_userFile;
     MvProjectIdentifier m_keptProject; // whose list was last handed to the user's file
-    mutable MvCalendarEventFotoFolder m_fotos;
-    mutable std::optional<QString> m_errorElsewhere; // of the last saving, if that was to another file
+    int m_openChanges = 0;             // beginChanges() without endChanges()
+    bool m_hasOpenChanges = false;     // something has changed since
+    MvCalendarEventList m_beforeChanges;
 };

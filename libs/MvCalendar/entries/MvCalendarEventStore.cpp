@@ -33,7 +33,12 @@ bool isList(const MvCalendarEventFile::Content &content)
 } // namespace
 
 MvCalendarEventStore::MvCalendarEventStore(QObject *parent)
+    : MvCalendarEventStore(Kept::InUserFile, parent)
+{}
+
+MvCalendarEventStore::MvCalendarEventStore(Kept kept, QObject *parent)
     : QObject(parent)
+    , m_kept(kept)
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &MvCalendarEventStore::saveNow);
@@ -45,12 +50,19 @@ MvCalendarEventStore::~MvCalendarEventStore() = default;
 
 QFileInfo MvCalendarEventStore::file() const
 {
+    if (m_kept == Kept::InMemory)
+        return {};
     return MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml"_s);
 }
 
 bool MvCalendarEventStore::isFile(const QFileInfo &file) const
 {
     return file.absoluteFilePath() == this->file().absoluteFilePath();
+}
+
+bool MvCalendarEventStore::isInPlace() const
+{
+    return QFileInfo(file().filePath()).isFile();
 }
 
 // ---- problems
@@ -99,6 +111,12 @@ void MvCalendarEventStore::dismissReadProblem()
 
 MvCalendarEventFile::Content MvCalendarEventStore::read(bool becomesTheList)
 {
+    if (m_kept == Kept::InMemory) {
+        MvCalendarEventFile::Content none;
+        none.error = tr("Diese Einträge stehen in keiner Datei.");
+        none.isMissing = true;
+        return none;
+    }
     const QByteArray stamp = MvFileGuard::stamp(file()); // before reading: a later change is then noticed
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file());
     if (becomesTheList) {
@@ -136,6 +154,8 @@ void MvCalendarEventStore::noteContent(const MvCalendarEventFile::Content &conte
 
 MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEventList &events)
 {
+    if (m_kept == Kept::InMemory)
+        return events;
     const QByteArray stamp = MvFileGuard::stamp(file());
     if (stamp == m_stamp && !stamp.isEmpty())
         return events;
@@ -152,7 +172,13 @@ MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEv
 
 void MvCalendarEventStore::keep(const MvCalendarEventList &events, const Adopt &adopt)
 {
+    m_errorElsewhere.reset();
     m_present = events;
+    if (m_kept == Kept::InMemory) {
+        if (adopt)
+            adopt(events);
+        return;
+    }
     if (!m_pending && isInFile(events)) {
         MvLogger::legacyLog(savingLine());
         if (adopt)
@@ -275,6 +301,20 @@ bool MvCalendarEventStore::write(const MvCalendarEventList &events)
     return true;
 }
 
+void MvCalendarEventStore::writeElsewhere(const QFileInfo &file, const MvCalendarEventList &events)
+{
+    MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file.baseName()));
+    const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, MvCalendarEventFile::toBytes(events));
+    m_errorElsewhere = result.error;
+    if (!result.isOk()) {
+        qWarning().noquote() << result.error;
+        return;
+    }
+    if (!result.note.isEmpty())
+        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
+    MvPlatformIndependent::instance().fileWritten(QFileInfo(file.absoluteFilePath()));
+}
+
 bool MvCalendarEventStore::restoreBackup(const QFileInfo &backup, QString *error)
 {
     QString reason;
@@ -290,6 +330,11 @@ bool MvCalendarEventStore::restore(const QFileInfo &backup, QString *error)
     if (!isList(content)) {
         *error = content.refusal();
         return false;
+    }
+    if (m_kept == Kept::InMemory) {
+        m_present = content.events;
+        Q_EMIT eventsReplaced(m_present);
+        return true;
     }
     MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
     const MvFileGuard guard(file(), 0);

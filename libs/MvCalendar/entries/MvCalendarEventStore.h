@@ -23,7 +23,8 @@
 /// A change that could not be written stays pending too, until the next change or saveNow(). A file that could not be
 /// read, or not as a whole, is set aside before it is overwritten.
 ///
-/// Belongs to MvCalendarEventRegistry, which holds the entries; to be used from its thread.
+/// Belongs to MvCalendarEventRegistry, which holds the entries; to be used from its thread. For entries that live in
+/// memory only there is no such file: then nothing is read or written, and nothing is ever pending.
 class MVCALENDAR_EXPORT MvCalendarEventStore : public QObject
 {
     Q_OBJECT
@@ -51,15 +52,20 @@ public:
         bool operator==(const Problem &other) const;
     };
 
+    enum class Kept { InUserFile, InMemory };
+
     /// Takes a list over.
     using Adopt = std::function<void(const MvCalendarEventList &)>;
 
     explicit MvCalendarEventStore(QObject *parent = nullptr);
+    MvCalendarEventStore(Kept kept, QObject *parent);
     ~MvCalendarEventStore() override;
 
-    /// The file, whether it exists or not.
+    /// The file, whether it exists or not; one without a path in memory.
     QFileInfo file() const;
     bool isFile(const QFileInfo &file) const;
+    /// It exists.
+    bool isInPlace() const;
 
     // ---- what a person must know, and can do about it
 
@@ -88,10 +94,13 @@ public:
     void keep(const MvCalendarEventList &events, const Adopt &adopt);
     /// The list together with what others have written since the file was last read or written here.
     MvCalendarEventList withChangesOfOthers(const MvCalendarEventList &events);
-    /// Every entry of the file is known: it was read as a whole whenever it was read.
-    bool isWhole() const { return !m_mustBeSetAside && !m_couldNotBeRead; }
-    /// Why the last saving failed, for a person; empty when it did not.
-    QString saveError() const { return m_writeProblem.text; }
+    /// Every entry of the file is known: it was read as a whole whenever it was read. Never so in memory: what the
+    /// file holds is not known there.
+    bool isWhole() const { return m_kept == Kept::InUserFile && !m_mustBeSetAside && !m_couldNotBeRead; }
+    /// Writes the list to another file, which has no part in what is kept here.
+    void writeElsewhere(const QFileInfo &file, const MvCalendarEventList &events);
+    /// Why the last saving, here or elsewhere, failed, for a person; empty when it did not.
+    QString saveError() const { return m_errorElsewhere.value_or(m_writeProblem.text); }
 
 Q_SIGNALS:
     /// problem() is another one, or none any more.
@@ -120,6 +129,7 @@ private:
     void fail(Problem::Kind kind, const QString &text);
     void changeProblem(Problem *problem, const Problem &value);
 
+    Kept m_kept = Kept::InUserFile;
     std::optional<Pending> m_pending;
     MvCalendarEventList m_present;  // the list as last read, handed over or adopted
     MvCalendarEventList m_inFile;   // what the file held when last read or written here
@@ -130,6 +140,7 @@ private:
     bool m_couldNotBeRead = false;  // some of its entries, and so the photos in use, are unknown
     Problem m_readProblem;
     Problem m_writeProblem;
+    std::optional<QString> m_errorElsewhere; // of the last saving, if that was to another file
     QTimer m_retry;
     QElapsedTimer m_waiting; // for the lock
 };

@@ -56,7 +56,6 @@ MvGraphicsItemCalendariumCell::MvGraphicsItemCalendariumCell(const QDate &date, 
                    .arg(MvApplicationLocale::instance().locale().toString(date, QLocale::LongFormat)));
     m_clickTimer.setSingleShot(true);
     connect(&m_clickTimer, &QTimer::timeout, this, &MvGraphicsItemCalendariumCell::onDataClicked);
-    installEventFilter(this);
 }
 
 MvGraphicsItemCalendariumCell::~MvGraphicsItemCalendariumCell() = default;
@@ -118,7 +117,6 @@ void MvGraphicsItemCalendariumCell::fade(bool in)
         return; // shown already
     if (!m_fade) {
         m_fade = new QPropertyAnimation(this, "opacity", this);
-        m_fade->setEasingCurve(QEasingCurve::OutInQuad);
         m_fade->setDuration(fadeTime);
         m_fade->setStartValue(hiddenOpacity);
         m_fade->setEndValue(hoverOpacity);
@@ -139,11 +137,6 @@ void MvGraphicsItemCalendariumCell::mousePressEvent(QGraphicsSceneMouseEvent *ev
         m_clickTimer.start(clickTime);
     }
     QGraphicsObject::mousePressEvent(event); // does not keep it: the calendarium below can be selected and dragged
-}
-
-void MvGraphicsItemCalendariumCell::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
-{
-    QGraphicsObject::mouseDoubleClickEvent(event);
 }
 
 void MvGraphicsItemCalendariumCell::onDataClicked()

@@ -6,18 +6,14 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumCellAccessible.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvCalendar/MvDayMenu.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
-#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvUndoController.h"
-#include "MvGUIWidgets/MvIconRegistry.h"
-#include "MvPaint/MvPrintableText.h"
 
-#include <QFontMetrics>
 #include <QGraphicsScene>
 #include <QGraphicsView>
-#include <QMenu>
 #include <QSvgRenderer>
 
 #include <algorithm>
@@ -31,7 +27,6 @@ constexpr int menuDelay = 10; // ms: the click is over by then
 constexpr QPoint menuOffset(2, 2);
 constexpr double tolerance = 1e-12;
 constexpr qreal aboveParent = 0.1;
-constexpr int longestNameInMenu = 40; // widths of an average letter
 
 bool isSame(double a, double b)
 {
@@ -46,18 +41,12 @@ bool isSame(const QRectF &a, const QRectF &b)
            isSame(a.height(), b.height());
 }
 
-/// The name as an action's text shows it: in one line, not too long, and its "&" is a letter.
-QString forMenu(const QString &name, const QFontMetrics &metrics)
-{
-    QString text = metrics.elidedText(MvPrintableText::inShort(name), Qt::ElideRight,
-                                      longestNameInMenu * metrics.averageCharWidth());
-    return text.replace(u'&', u"&&"_s);
-}
-
 } // namespace
 
-MvGraphicsItemCalendariumCellsManager::MvGraphicsItemCalendariumCellsManager(QGraphicsObject *parent)
+MvGraphicsItemCalendariumCellsManager::MvGraphicsItemCalendariumCellsManager(QGraphicsObject *parent,
+                                                                             MvSession &session)
     : QObject(parent)
+    , m_session(session)
     , m_parent(parent)
 {
     MvCalendariumCellAccessible::install();
@@ -202,11 +191,11 @@ bool MvGraphicsItemCalendariumCellsManager::focusDate(const QDate &date)
 QString MvGraphicsItemCalendariumCellsManager::describe(const QDate &date) const
 {
     const MvCalendariumContentConfig config = configOf(date);
-    const MvCalendariumContentKey key(config, MvCalendarEventRegistry::instance().activeModelId());
+    const MvCalendariumContentKey key(config, m_session.entries().activeModelId());
     QStringList texts;
     if (config.hasFeatures(MvCalendariumFeatures(FEATURE_HOLIDAYS)))
         texts = MvCalendariumHolidayCache::instance().descriptions(key);
-    texts += MvCalendarEventRegistry::instance().descriptions(key);
+    texts += m_session.entries().descriptions(key);
     return texts.join(u", "_s);
 }
 
@@ -222,13 +211,12 @@ void MvGraphicsItemCalendariumCellsManager::showEntryForDate(const QDate &theDat
 
 void MvGraphicsItemCalendariumCellsManager::showEntryForDateInternal()
 {
-    QMenu *menu = customEntryMenuForHoveredDate(m_menuDate);
-    if (!menu)
+    if (!m_isEditable)
         return;
-    QList<QAction *> choices = menu->actions();
-    choices.removeIf([](const QAction *action) { return action->isSeparator(); });
+    MvDayMenu *menu = createMenu(m_menuDate, m_holidayConfig);
+    const QList<QAction *> choices = menu->choices();
     if (choices.size() == 1 && !m_hasMenuForOneEntry) {
-        choices.constFirst()->trigger();
+        choices.first()->trigger();
         delete menu;
         return;
     }
@@ -245,29 +233,16 @@ QMenu *MvGraphicsItemCalendariumCellsManager::customEntryMenuForHoveredDate(cons
 QMenu *MvGraphicsItemCalendariumCellsManager::createCustomEntryMenu(const QDate &date,
                                                                     const MvCalendariumHolidayConfig &config)
 {
-    auto *menu = new QMenu(tr("Eigene Einträge bearbeiten"), view());
-    const QIcon icon = MvIconRegistry::instance().icon(u"ico_calendarCustomEvents"_s);
-    const auto addAction = [this, menu, &icon](const QString &text, const MvCalendarEvent &event) {
-        const QAction *action = menu->addAction(icon, text);
-        connect(action, &QAction::triggered, this, [this, event] {
-            // as it is by now: it may have changed while the menu stood open
-            const MvCalendarEvent present = MvCalendarEventRegistry::instance().presentEvent(event);
-            if (present.isValid() || !event.isValid())
-                createAndStartCalendarDayEditorDialog(event.isValid() ? present : event);
-        });
-    };
-    const MvCalendarEventList events = MvCalendarEventRegistry::instance().events({date, config});
-    for (const MvCalendarEvent &event : events)
-        addAction(tr("„%1“ bearbeiten…").arg(forMenu(event.description(), menu->fontMetrics())), event);
-    menu->addSeparator();
-    const QString day = MvApplicationLocale::instance().locale().toString(date, u"d. MMM"_s);
-    addAction(tr("Neuen Eintrag am %1 erstellen…").arg(day), newEntryAt(date));
-    return menu;
+    return createMenu(date, config);
 }
 
-MvCalendarEvent MvGraphicsItemCalendariumCellsManager::newEntryAt(const QDate &date)
+MvDayMenu *MvGraphicsItemCalendariumCellsManager::createMenu(const QDate &date,
+                                                             const MvCalendariumHolidayConfig &config)
 {
-    return {{}, MvCalendarEvent::startOf(date), true, MvFoto(), QUuid::createUuid(), QDateTime::currentDateTime()};
+    auto *menu = new MvDayMenu(date, config, m_session, view());
+    connect(menu, &MvDayMenu::entryChosen, this,
+            &MvGraphicsItemCalendariumCellsManager::createAndStartCalendarDayEditorDialog);
+    return menu;
 }
 
 QWidget *MvGraphicsItemCalendariumCellsManager::view() const
@@ -279,7 +254,7 @@ MvCalendarDayEditorDialog *
 MvGraphicsItemCalendariumCellsManager::createAndStartCalendarDayEditorDialog(const MvCalendarEvent &event)
 {
     Q_EMIT showEvent(event);
-    auto *dialog = MvCalendarDayEditorDialog::createSelfDeleting(m_parent);
+    auto *dialog = MvCalendarDayEditorDialog::createSelfDeleting(m_parent, m_session);
     connect(dialog, &QDialog::accepted, this, &MvGraphicsItemCalendariumCellsManager::eventChanged);
     dialog->openDayEditorSingle(event);
     return dialog;
@@ -293,15 +268,15 @@ void MvGraphicsItemCalendariumCellsManager::takeFotoForDate(const QDate &date, c
     MvCalendariumHolidayConfig withEntries = m_holidayConfig; // also those that the page does not show
     withEntries.setFeature(MvCalendariumFeatures(FEATURE_ENTRIES), true);
     config.setHolidayConfig(withEntries);
-    const MvCalendarEventList events = MvCalendarEventRegistry::instance().events(config);
+    const MvCalendarEventList events = m_session.entries().events(config);
     if (events.size() == 1) {
         const auto use = [this](const MvCalendarEvent &before, const MvCalendarEvent &after) {
-            MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, m_parent));
+            m_session.undo().push(new MvUndoCommandCalendarEvent(before, after, m_parent, m_session));
             Q_EMIT eventChanged();
         };
-        MvCalendarEventFotoIntake::take(events.first(), foto, this, use);
+        MvCalendarEventFotoIntake::take(events.first(), foto, this, use, m_session);
     } else {
-        createAndStartCalendarDayEditorDialog(newEntryAt(date))->setFoto(foto);
+        createAndStartCalendarDayEditorDialog(MvDayMenu::newEntryAt(date))->setFoto(foto);
     }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include "MvFoto/MvFoto.h"
@@ -21,6 +22,7 @@
 #include <limits>
 
 class MvCalendarDayEditorDialog;
+class MvDayMenu;
 class MvGraphicsItemCalendariumCell;
 class QGraphicsObject;
 class QMenu;
@@ -39,8 +41,9 @@ class MVCALENDARWIDGETS_EXPORT MvGraphicsItemCalendariumCellsManager : public QO
     Q_OBJECT
 
 public:
-    /// The canvas item of the calendarium.
-    explicit MvGraphicsItemCalendariumCellsManager(QGraphicsObject *parent);
+    /// The canvas item of the calendarium, and the session whose entries it shows.
+    explicit MvGraphicsItemCalendariumCellsManager(QGraphicsObject *parent,
+                                                   MvSession &session = MvSession::defaultSession());
     ~MvGraphicsItemCalendariumCellsManager() override;
 
     /// Removes all cells when the date is another one.
@@ -102,12 +105,13 @@ private:
     void remove(MvGraphicsItemCalendariumCell *cell);
     void endHover(MvGraphicsItemCalendariumCell *cell);
     void removeKeys(const QDate &month);
+    MvDayMenu *createMenu(const QDate &date, const MvCalendariumHolidayConfig &config);
     void showEntryForDateInternal();
     MvCalendariumContentConfig configOf(const QDate &date) const { return {date, m_holidayConfig}; }
     QString describe(const QDate &date) const;
-    static MvCalendarEvent newEntryAt(const QDate &date);
     QWidget *view() const;
 
+    MvSession &m_session;
     QGraphicsObject *m_parent;
     QHash<QDate, QPointer<MvGraphicsItemCalendariumCell>> m_cells;
     MvCalendariumHolidayConfig m_holidayConfig;

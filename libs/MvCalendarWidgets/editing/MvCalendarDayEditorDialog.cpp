@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventDateEdit.h"
 #include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvFotoField.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
 #include "MvCore/MvApplicationLocale.h"
@@ -11,26 +12,21 @@
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvCore/MvUndoController.h"
-#include "MvFoto/MvFotoList.h"
-#include "MvFoto/MvFotoLoader.h"
-#include "MvGUIWidgets/MvDropLabel.h"
 #include "MvGUIWidgets/MvLineEdit.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QGraphicsObject>
-#include <QGraphicsOpacityEffect>
 #include <QGraphicsScene>
 #include <QGraphicsView>
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QMimeData>
-#include <QPropertyAnimation>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <QWindow>
 
 #include <algorithm>
@@ -40,13 +36,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int fadeDuration = 350; // ms; also the time after which a shown dialog and photo have settled
+constexpr int settlingTime = 350; // ms, of a dialog that is shown
 constexpr int groupMargin = 10;
-constexpr int fotoLabelIndent = 13;
-constexpr int spaceAroundRemoveButton = 5;
-constexpr int fotoQuality = 4;
-constexpr int fotoCaching = 13;
-constexpr int linesOfHint = 4;
 
 void setStyleClass(QWidget *widget, const QString &name)
 {
@@ -67,27 +58,25 @@ bool holds(const MvCalendarEventList &events, const MvCalendarEvent &event)
 
 } // namespace
 
-MvCalendarDayEditorDialog::MvCalendarDayEditorDialog(QGraphicsObject *item)
+MvCalendarDayEditorDialog::MvCalendarDayEditorDialog(QGraphicsObject *item, MvSession &session)
     : QDialog(nullptr, Qt::Tool)
+    , m_session(session)
     , m_item(item)
 {
     setWindowModality(Qt::NonModal);
     setAttribute(Qt::WA_QuitOnClose, false);
     setupGUI();
     setAcceptDrops(true);
-    resetPhoto();
-    m_fade->stop(); // there is nothing to fade out yet
-    m_removePhotoButton->graphicsEffect()->setProperty("opacity", 0.0);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &QWidget::close);
-    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this,
+    connect(&m_session.entries(), &MvCalendarEventRegistry::eventsChanged, this,
             &MvCalendarDayEditorDialog::followEntry);
 }
 
 MvCalendarDayEditorDialog::~MvCalendarDayEditorDialog() = default;
 
-MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::createSelfDeleting(QGraphicsObject *item)
+MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::createSelfDeleting(QGraphicsObject *item, MvSession &session)
 {
-    auto *dialog = new MvCalendarDayEditorDialog(item);
+    auto *dialog = new MvCalendarDayEditorDialog(item, session);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setSize(defaultWidth, defaultHeight);
     return dialog;
@@ -135,62 +124,13 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     connect(m_descriptionEdit, &QLineEdit::textChanged, this, &MvCalendarDayEditorDialog::onTextChanged);
     layout->addWidget(m_descriptionEdit);
 
-    layout->addWidget(createFotoContainer(), 1);
+    m_fotoField = new MvFotoField(group);
+    layout->addWidget(m_fotoField, 1);
     auto *clickHint = new QLabel(tr("Ein Klick auf die Fläche wählt ein Foto aus."), group);
     clickHint->setForegroundRole(QPalette::PlaceholderText);
     clickHint->setAlignment(Qt::AlignHCenter);
     layout->addWidget(clickHint);
     return group;
-}
-
-QWidget *MvCalendarDayEditorDialog::createFotoContainer()
-{
-    auto *container = new QWidget(this);
-    auto *grid = new QGridLayout(container);
-    grid->setContentsMargins({});
-    grid->setSpacing(0);
-    grid->setRowMinimumHeight(0, spaceAroundRemoveButton);
-    grid->setRowStretch(2, 1);
-    grid->setColumnStretch(0, 2);
-    grid->setColumnMinimumWidth(2, spaceAroundRemoveButton);
-
-    m_fotoLabel = new MvDropLabel(container);
-    m_fotoLabel->setObjectName(u"fotoLabel"_s);
-    m_fotoLabel->setAccessibleName(tr("Foto auswählen"));
-    m_fotoLabel->setToolTip(tr("Klicken um ein Foto auszuwählen"));
-    m_fotoLabel->setWordWrap(true);
-    m_fotoLabel->setIndent(fotoLabelIndent);
-    m_fotoLabel->setAlignment(Qt::AlignCenter);
-    m_fotoLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // a photo never widens the dialog
-    m_fotoLabel->setMinimumHeight(linesOfHint * m_fotoLabel->fontMetrics().lineSpacing());
-    setStyleClass(m_fotoLabel, u"HintTextLabelCalStyle"_s);
-    m_fotoLabel->installEventFilter(this);
-    connect(m_fotoLabel, &MvDropLabel::pressed, this, &MvCalendarDayEditorDialog::choosePhoto);
-    grid->addWidget(m_fotoLabel, 0, 0, 3, 3);
-
-    createRemovePhotoButton(container);
-    grid->addWidget(m_removePhotoButton, 1, 1);
-    m_removePhotoButton->raise();
-    return container;
-}
-
-void MvCalendarDayEditorDialog::createRemovePhotoButton(QWidget *parent)
-{
-    m_removePhotoButton = new QPushButton(tr("&Foto entfernen"), parent);
-    m_removePhotoButton->setObjectName(u"removePhotoButton"_s);
-    m_removePhotoButton->setAutoDefault(false);
-    m_removePhotoButton->setAttribute(Qt::WA_Hover);
-    setStyleClass(m_removePhotoButton, u"2ndLevelPushButton"_s);
-    m_removePhotoButton->installEventFilter(this);
-    connect(m_removePhotoButton, &QPushButton::clicked, this, &MvCalendarDayEditorDialog::removePhoto);
-
-    auto *effect = new QGraphicsOpacityEffect(m_removePhotoButton);
-    effect->setOpacity(0.0);
-    m_removePhotoButton->setGraphicsEffect(effect);
-    m_fade = new QPropertyAnimation(effect, "opacity", this);
-    m_fade->setDuration(fadeDuration);
-    m_fade->setStartValue(0.0);
-    m_fade->setEndValue(1.0);
 }
 
 QGroupBox *MvCalendarDayEditorDialog::createButtonGroup()
@@ -228,8 +168,9 @@ QPushButton *MvCalendarDayEditorDialog::createButton(const QString &text, const 
 
 void MvCalendarDayEditorDialog::setupKeyboard()
 {
-    const QList<QWidget *> order{m_dateEdit,     m_descriptionEdit, m_fotoLabel,           m_removePhotoButton,
-                                 m_deleteButton, m_cancelButton,    m_okAndContinueButton, m_okButton};
+    QList<QWidget *> order{m_dateEdit, m_descriptionEdit};
+    order += m_fotoField->focusWidgets();
+    order += {m_deleteButton, m_cancelButton, m_okAndContinueButton, m_okButton};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 }
@@ -271,8 +212,8 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
         return;
     }
     m_openedEvent = event;
-    m_project = MvCalendarEventRegistry::instance().activeModelId();
-    m_knownEvents = MvCalendarEventRegistry::instance().activeEventList();
+    m_project = m_session.entries().activeModelId();
+    m_knownEvents = m_session.entries().activeEventList();
     m_isOfList = holds(m_knownEvents, event);
     m_noticeLabel->hide();
     showName(event.description());
@@ -285,7 +226,7 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     show();
     activateWindow(); // not every window manager gives the keyboard to a tool window that opens
     setFoto(event.foto());
-    QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
+    QTimer::singleShot(settlingTime, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
 }
 
 MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalendarEvent &event) const
@@ -293,8 +234,8 @@ MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalend
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(window);
-        if (editor && editor != this && editor->isVisible() && (event.isValid() || !event.uuid().isNull()) &&
-            isSameEntry(editor->m_openedEvent, event))
+        if (editor && editor != this && &editor->m_session == &m_session && editor->isVisible() &&
+            (event.isValid() || !event.uuid().isNull()) && isSameEntry(editor->m_openedEvent, event))
             return editor;
     }
     return nullptr;
@@ -338,7 +279,7 @@ void MvCalendarDayEditorDialog::moveToSource()
 
 void MvCalendarDayEditorDialog::followEntry()
 {
-    const auto &registry = MvCalendarEventRegistry::instance();
+    const auto &registry = m_session.entries();
     if (!isVisible())
         return;
     if (!(registry.activeModelId() == m_project)) { // its entries are not to be changed by what was opened for others
@@ -363,13 +304,14 @@ void MvCalendarDayEditorDialog::takeOver(const MvCalendarEvent &present)
         showName(present.description());
     if (!m_dateEdit->isTouched() && present.dateTime() != before.dateTime())
         setDate(present.dateTime().date());
-    if (m_foto == before.foto() && !(present.foto() == before.foto()))
+    if (m_fotoField->foto() == before.foto() && !(present.foto() == before.foto()))
         setFoto(present.foto());
 }
 
 bool MvCalendarDayEditorDialog::isTouched() const
 {
-    return m_descriptionEdit->text() != m_shownName || m_dateEdit->isTouched() || !(m_foto == m_openedEvent.foto());
+    return m_descriptionEdit->text() != m_shownName || m_dateEdit->isTouched() ||
+           !(m_fotoField->foto() == m_openedEvent.foto());
 }
 
 /// Somebody has deleted the entry. What the user has entered is not thrown away.
@@ -461,7 +403,7 @@ MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
         changed.setEventName(MvStringHelper::simplifiedName(m_descriptionEdit->text()));
     changed.setRecurrent(true);
     QString error;
-    if (!changed.takeFoto(m_foto, &error))
+    if (!changed.takeFoto(m_fotoField->foto(), &error))
         MvDiskAccessRequest::instance().takeFotosFailed({error}, sourceWindow());
     change(changed, m_item);
     return changed;
@@ -470,19 +412,19 @@ MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
 void MvCalendarDayEditorDialog::change(const MvCalendarEvent &changed, QGraphicsObject *item)
 {
     m_isPushing = true;
-    push(new MvUndoCommandCalendarEvent(m_openedEvent, changed, item));
+    push(new MvUndoCommandCalendarEvent(m_openedEvent, changed, item, m_session));
     m_isPushing = false;
     if (!changed.isValid())
         return;
     m_openedEvent = changed; // from now on it is this one that is edited
-    m_knownEvents = MvCalendarEventRegistry::instance().activeEventList();
+    m_knownEvents = m_session.entries().activeEventList();
     m_isOfList = holds(m_knownEvents, changed);
     m_shownName = m_descriptionEdit->text();
 }
 
 void MvCalendarDayEditorDialog::push(MvUndoCommand *command)
 {
-    MvUndoController::instance().push(command);
+    m_session.undo().push(command);
 }
 
 void MvCalendarDayEditorDialog::onTextChanged()
@@ -496,161 +438,55 @@ void MvCalendarDayEditorDialog::onTextChanged()
 
 void MvCalendarDayEditorDialog::setFoto(const MvFoto &foto)
 {
-    m_foto = foto;
-    if (!foto.isValid()) {
-        resetPhoto();
-        return;
-    }
-    m_pixmap = {};
-    showTextForPhoto(tr("Das Foto wird geladen…"));
-    MvFotoLoader::midRes(foto, fotoQuality, fotoCaching, this,
-                         [this, foto](const QImage &image) { takeImage(foto, image); });
-}
-
-void MvCalendarDayEditorDialog::takeImage(const MvFoto &foto, const QImage &image)
-{
-    if (!(foto == m_foto))
-        return; // another one was set meanwhile
-    m_pixmap = QPixmap::fromImage(image);
-    if (m_pixmap.isNull())
-        showTextForPhoto(tr("Das Foto „%1“ kann nicht gelesen werden.").arg(foto.localFileInfo().fileName()));
-    else
-        showPhoto();
-    QTimer::singleShot(fadeDuration, this, &MvCalendarDayEditorDialog::animateInRemovePhotoButton);
-}
-
-void MvCalendarDayEditorDialog::showTextForPhoto(const QString &text)
-{
-    m_fotoLabel->clear();
-    m_fotoLabel->setText(text);
-    m_fotoLabel->setAccessibleName(tr("Anderes Foto auswählen"));
-    m_removePhotoButton->setEnabled(true);
-}
-
-void MvCalendarDayEditorDialog::showPhoto()
-{
-    const qreal ratio = m_fotoLabel->devicePixelRatioF();
-    QPixmap scaled = m_pixmap.scaled(m_fotoLabel->size() * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    scaled.setDevicePixelRatio(ratio);
-    m_fotoLabel->clear();
-    m_fotoLabel->setPixmap(scaled);
+    m_fotoField->setFoto(foto);
 }
 
 void MvCalendarDayEditorDialog::removePhoto()
 {
-    setFoto(MvFoto());
+    m_fotoField->removeFoto();
 }
 
 void MvCalendarDayEditorDialog::resetPhoto()
 {
-    m_pixmap = {};
-    m_fotoLabel->clear();
-    m_fotoLabel->setAccessibleName(tr("Foto auswählen"));
-    m_fotoLabel->setText(tr("Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden."));
-    if (m_removePhotoButton->hasFocus())
-        m_fotoLabel->setFocus();
-    m_removePhotoButton->setEnabled(false); // invisible from now on, and so out of the keyboard's way
-    animateRemovePhotoButton(false);
+    m_fotoField->showHint();
 }
 
 void MvCalendarDayEditorDialog::choosePhoto()
 {
-    const QString filter = tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s);
-    const auto take = [this](const QString &fileName) {
-        if (fileName.isEmpty())
-            return;
-        const MvFoto foto{QFileInfo(fileName)};
-        if (foto.mediaFormat().isValid())
-            setFoto(foto);
-        else
-            MvDiskAccessRequest::instance().readFotoFailed(fileName, this);
-    };
-    MvDiskAccessRequest::instance().requestOpenFile(MvDiskAccessRequest::FotoFile, tr("Foto auswählen"), filter, this,
-                                                    take);
+    m_fotoField->chooseFoto();
 }
 
 bool MvCalendarDayEditorDialog::hasPhoto() const
 {
-    return m_fotoLabel && !m_fotoLabel->pixmap(Qt::ReturnByValue).isNull();
-}
-
-bool MvCalendarDayEditorDialog::canRemovePhoto() const
-{
-    return hasPhoto() || m_foto.isValid();
+    return m_fotoField->hasImage();
 }
 
 void MvCalendarDayEditorDialog::animateRemovePhotoButton(bool in)
 {
-    const auto direction = in ? QAbstractAnimation::Forward : QAbstractAnimation::Backward;
-    if (!m_fade->targetObject() || m_fade->direction() == direction)
-        return;
-    m_fade->setDirection(direction);
-    m_fade->start();
+    m_fotoField->animateRemoveButton(in);
 }
 
 void MvCalendarDayEditorDialog::animateInRemovePhotoButton()
 {
-    if (canRemovePhoto())
-        animateRemovePhotoButton(true);
+    m_fotoField->animateInRemoveButton();
 }
 
-/// Shown while the mouse or the keyboard is at the photo.
-void MvCalendarDayEditorDialog::updateRemovePhotoButton()
-{
-    const bool isAtFoto = m_hoversFoto || m_fotoLabel->hasFocus() || m_removePhotoButton->hasFocus();
-    if (canRemovePhoto() && !m_hoversRemoveButton)
-        animateRemovePhotoButton(isAtFoto);
-    else
-        animateRemovePhotoButton(canRemovePhoto());
-}
-
-bool MvCalendarDayEditorDialog::eventFilter(QObject *watched, QEvent *event)
-{
-    bool &hovers = watched == m_removePhotoButton ? m_hoversRemoveButton : m_hoversFoto;
-    switch (event->type()) {
-    case QEvent::HoverEnter:
-    case QEvent::HoverLeave:
-        hovers = event->type() == QEvent::HoverEnter;
-        updateRemovePhotoButton();
-        break;
-    case QEvent::FocusIn:
-    case QEvent::FocusOut: // the new focus is known only after this event
-        QTimer::singleShot(0, this, &MvCalendarDayEditorDialog::updateRemovePhotoButton);
-        break;
-    case QEvent::Resize:
-        if (watched == m_fotoLabel && hasPhoto())
-            showPhoto();
-        break;
-    default:
-        break;
-    }
-    return QDialog::eventFilter(watched, event);
-}
+// the whole window takes what is dropped
 
 void MvCalendarDayEditorDialog::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!event->mimeData()->hasUrls())
-        return;
-    m_fotoLabel->setDropOffered(true);
-    event->acceptProposedAction();
+    if (m_fotoField->offerDrop(event->mimeData()))
+        event->acceptProposedAction();
 }
 
 void MvCalendarDayEditorDialog::dragLeaveEvent(QDragLeaveEvent *event)
 {
-    m_fotoLabel->setDropOffered(false);
+    m_fotoField->endDrop();
     QDialog::dragLeaveEvent(event);
 }
 
 void MvCalendarDayEditorDialog::dropEvent(QDropEvent *event)
 {
-    m_fotoLabel->setDropOffered(false);
-    const MvFotoList fotos(event->mimeData());
-    if (fotos.isEmpty()) {
-        const QString file = event->mimeData()->urls().value(0).toLocalFile();
-        if (!file.isEmpty())
-            MvDiskAccessRequest::instance().readFotoFailed(file, this);
-        return;
-    }
-    setFoto(fotos.first());
-    event->acceptProposedAction();
+    if (m_fotoField->takeDrop(event->mimeData()))
+        event->acceptProposedAction();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include "MvFoto/MvFoto.h"
@@ -9,22 +10,20 @@
 
 #include <QDate>
 #include <QDialog>
-#include <QPixmap>
 #include <QPointer>
 
 class MvCalendarEventDateEdit;
-class MvDropLabel;
+class MvFotoField;
 class MvLineEdit;
 class MvUndoCommand;
 class QBoxLayout;
 class QGraphicsObject;
 class QGroupBox;
 class QLabel;
-class QPropertyAnimation;
 class QPushButton;
 
-/// Creates, changes or deletes one personal entry: its date, its name and a photo, if wanted. In a series, one entry
-/// follows another day by day without closing the dialog.
+/// Creates, changes or deletes one personal entry of a session: its date, its name and a photo, if wanted. In a series,
+/// one entry follows another day by day without closing the dialog.
 ///
 /// A tool window without parent that blocks nothing. It shows itself over the window it is opened from, and closes
 /// when that window goes or another document's entries become the active ones. What it changes can be undone.
@@ -41,11 +40,12 @@ public:
     static constexpr int defaultHeight = 400;
 
     /// The item, if any, is repainted after a change; it is not owned and may go before the dialog.
-    explicit MvCalendarDayEditorDialog(QGraphicsObject *item);
+    explicit MvCalendarDayEditorDialog(QGraphicsObject *item, MvSession &session = MvSession::defaultSession());
     ~MvCalendarDayEditorDialog() override;
 
     /// A new dialog that deletes itself when it is closed, in its default size.
-    static MvCalendarDayEditorDialog *createSelfDeleting(QGraphicsObject *item);
+    static MvCalendarDayEditorDialog *createSelfDeleting(QGraphicsObject *item,
+                                                         MvSession &session = MvSession::defaultSession());
 
     void openDayEditorSingle(const MvCalendarEvent &event);
     void openDayEditorSeries(const MvCalendarEvent &event);
@@ -54,8 +54,7 @@ public:
     void openDayEditorDialog(const MvCalendarEvent &event, bool series);
 
     void setDate(const QDate &date);
-    /// A large photo is shown when it has been decoded; until then, and for one that cannot be read, a text stands in
-    /// its place.
+    // of the field for the photo, see MvFotoField
     void setFoto(const MvFoto &foto);
     void resetPhoto();
     bool hasPhoto() const;
@@ -69,10 +68,8 @@ public:
     /// Fixes the size; larger than given when the texts need that.
     void setSize(int width, int height);
 
-    /// Fades the button that removes the photo in or out; asking again for the same does nothing.
     void animateRemovePhotoButton(bool in);
 
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dragLeaveEvent(QDragLeaveEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -92,17 +89,10 @@ public Q_SLOTS:
 private:
     void setupGUI();
     QGroupBox *createEntryGroup();
-    QWidget *createFotoContainer();
-    void createRemovePhotoButton(QWidget *parent);
     QGroupBox *createButtonGroup();
     QPushButton *createButton(const QString &text, const QString &name, QBoxLayout *layout);
     void setupKeyboard();
 
-    void takeImage(const MvFoto &foto, const QImage &image);
-    void showPhoto();
-    void showTextForPhoto(const QString &text);
-    bool canRemovePhoto() const;
-    void updateRemovePhotoButton();
     MvCalendarDayEditorDialog *otherEditor(const MvCalendarEvent &event) const;
     QWidget *sourceWindow() const;
     void moveToSource();
@@ -113,6 +103,7 @@ private:
     void takeOver(const MvCalendarEvent &present);
     void loseEntry();
 
+    MvSession &m_session;
     QPointer<QGraphicsObject> m_item;
     QPointer<QWidget> m_source;
     QLabel *m_noticeLabel = nullptr;
@@ -120,21 +111,15 @@ private:
     MvCalendarEventDateEdit *m_dateEdit = nullptr;
     QDate m_date;
     MvLineEdit *m_descriptionEdit = nullptr;
-    MvFoto m_foto;
-    QPixmap m_pixmap; // of the photo, in medium resolution
-    MvDropLabel *m_fotoLabel = nullptr;
+    MvFotoField *m_fotoField = nullptr;
     MvCalendarEvent m_openedEvent;
     MvCalendarEventList m_knownEvents; // the list in which it was last seen
     bool m_isOfList = false;           // it was there; a new one is not
     bool m_isPushing = false;          // a change comes from here
     QString m_shownName;               // as the field was filled
-    QPushButton *m_removePhotoButton = nullptr;
     QPushButton *m_deleteButton = nullptr;
     QPushButton *m_cancelButton = nullptr;
     QPushButton *m_okButton = nullptr;
     QPushButton *m_okAndContinueButton = nullptr;
-    bool m_hoversRemoveButton = false;
-    bool m_hoversFoto = false;
-    QPropertyAnimation *m_fade = nullptr;
     MvProjectIdentifier m_project; // whose entry is edited
 };

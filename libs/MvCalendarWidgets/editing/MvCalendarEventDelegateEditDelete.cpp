@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendarEventDelegateEditDelete.h"
 
 #include "MvCalendar/MvCalendarEventDelegateEditDeleteWidget.h"
+#include "MvCalendar/MvCalendarEventModel.h"
 
 #include "MvGUIWidgets/MvTableView.h"
 
@@ -27,7 +28,8 @@ MvCalendarEventDelegateEditDelete::~MvCalendarEventDelegateEditDelete() = defaul
 QWidget *MvCalendarEventDelegateEditDelete::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                                          const QModelIndex &index) const
 {
-    return new MvCalendarEventDelegateEditDeleteWidget(index.data(Qt::UserRole).value<MvCalendarEvent>(), parent);
+    return new MvCalendarEventDelegateEditDeleteWidget(index.data(Qt::UserRole).value<MvCalendarEvent>(), parent,
+                                                       MvCalendarEventModel::sessionOf(index));
 }
 
 void MvCalendarEventDelegateEditDelete::setModelData(QWidget *, QAbstractItemModel *, const QModelIndex &) const

@@ -2,7 +2,7 @@
 #include "MvCalendar/MvCalendarEventDelegateEditDeleteWidget.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
-#include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventStep.h"
 
 #include "MvCore/MvUndoController.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
@@ -21,8 +21,9 @@ constexpr int sideMargin = 8;
 } // namespace
 
 MvCalendarEventDelegateEditDeleteWidget::MvCalendarEventDelegateEditDeleteWidget(const MvCalendarEvent &event,
-                                                                                 QWidget *parent)
+                                                                                 QWidget *parent, MvSession &session)
     : QWidget(parent)
+    , m_session(session)
     , m_event(event)
 {
     auto *layout = new QHBoxLayout(this);
@@ -59,10 +60,10 @@ QToolButton *MvCalendarEventDelegateEditDeleteWidget::createButton(const QString
 
 void MvCalendarEventDelegateEditDeleteWidget::onEditEventRequested()
 {
-    MvCalendarDayEditorDialog::createSelfDeleting(nullptr)->openDayEditorSingle(m_event);
+    MvCalendarDayEditorDialog::createSelfDeleting(nullptr, m_session)->openDayEditorSingle(m_event);
 }
 
 void MvCalendarEventDelegateEditDeleteWidget::onDeleteEventRequested()
 {
-    MvUndoController::instance().push(new MvUndoCommandCalendarEvent(m_event, MvCalendarEvent(), nullptr));
+    m_session.undo().push(new MvCalendarEventStep(m_event, MvCalendarEvent(), m_session));
 }

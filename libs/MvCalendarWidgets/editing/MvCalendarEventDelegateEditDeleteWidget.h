@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include <QWidget>
@@ -14,7 +15,8 @@ class MVCALENDARWIDGETS_EXPORT MvCalendarEventDelegateEditDeleteWidget : public 
     Q_OBJECT
 
 public:
-    MvCalendarEventDelegateEditDeleteWidget(const MvCalendarEvent &event, QWidget *parent);
+    MvCalendarEventDelegateEditDeleteWidget(const MvCalendarEvent &event, QWidget *parent,
+                                            MvSession &session = MvSession::defaultSession());
     ~MvCalendarEventDelegateEditDeleteWidget() override;
 
     MvCalendarEvent calendarEvent() const { return m_event; }
@@ -27,5 +29,6 @@ private:
     QToolButton *createButton(const QString &name, const QString &icon, const QString &text,
                               const QString &accessibleName);
 
+    MvSession &m_session;
     MvCalendarEvent m_event;
 };

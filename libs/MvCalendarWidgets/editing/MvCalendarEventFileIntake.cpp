@@ -99,11 +99,12 @@ MvRequestHandler::ChoiceRequest restQuestion(const QString &name, Intake::Purpos
 
 } // namespace
 
-void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, QObject *asker, const Take &take)
+void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, QObject *asker, const Take &take,
+                                      MvSession &session)
 {
     const QFileInfo file(fileName);
-    const auto judgeRead = [fileName, purpose, asker, take](const Content &content) {
-        judge(fileName, purpose, content, asker, take);
+    const auto judgeRead = [fileName, purpose, asker, take, &session](const Content &content) {
+        judge(fileName, purpose, content, asker, take, session);
     };
     if (file.size() > largeFile)
         readInThread(file, asker, judgeRead);
@@ -112,7 +113,7 @@ void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, 
 }
 
 void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, const Content &content, QObject *asker,
-                                      const Take &take)
+                                      const Take &take, const MvSession &session)
 {
     const QString skipped = content.skipped.isEmpty() ? QString() : skippedText(content);
     const bool hasNothing = content.events.isEmpty() && !skipped.isEmpty();
@@ -121,7 +122,7 @@ void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, 
         MvDiskAccessRequest::instance().readCalendarEntriesFileFailed(fileName, reason, asker);
         return;
     }
-    const MvCalendarEventList present = MvCalendarEventRegistry::instance().eventsOfCurrentProject();
+    const MvCalendarEventList present = session.entries().eventsOfCurrentProject();
     const int missing = purpose == Purpose::Replace ? missingIn(content.events, present) : 0;
     if (missing == 0 && skipped.isEmpty()) {
         take(content.events);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include <QCoreApplication>
@@ -11,8 +12,8 @@
 
 class QObject;
 
-/// The way from a file of entries that a person has chosen to the list: nothing is taken without a word where something
-/// would be lost.
+/// The way from a file of entries that a person has chosen to the list of a session: nothing is taken without a word
+/// where something would be lost.
 ///
 /// What is no list, or has nothing that can be read, is reported. Where entries of the file would be left out, or
 /// those of the list replaced, the person decides. Questions and reports go through MvRequestHandler. GUI thread.
@@ -26,9 +27,10 @@ public:
 
     /// Reads the file, a large one in a thread of its own, and calls `take` once the person agrees; at once when there
     /// is nothing to ask. Nothing is called when the asker is gone by then; it must not be null.
-    static void start(const QString &fileName, Purpose purpose, QObject *asker, const Take &take);
+    static void start(const QString &fileName, Purpose purpose, QObject *asker, const Take &take,
+                      MvSession &session = MvSession::defaultSession());
 
 private:
     static void judge(const QString &fileName, Purpose purpose, const MvCalendarEventFile::Content &content,
-                      QObject *asker, const Take &take);
+                      QObject *asker, const Take &take, const MvSession &session);
 };

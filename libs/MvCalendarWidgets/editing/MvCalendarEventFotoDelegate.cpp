@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventFotoDelegateEditorWidget.h"
 #include "MvCalendar/MvCalendarEventModel.h"
-#include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventStep.h"
 
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoThumbnails.h"
@@ -30,9 +30,9 @@ MvCalendarEvent eventOf(const QModelIndex &index)
     return index.data(Qt::UserRole).value<MvCalendarEvent>();
 }
 
-void change(const MvCalendarEvent &before, const MvCalendarEvent &after)
+void change(MvSession &session, const MvCalendarEvent &before, const MvCalendarEvent &after)
 {
-    MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, nullptr));
+    session.undo().push(new MvCalendarEventStep(before, after, session));
 }
 
 } // namespace
@@ -52,7 +52,8 @@ MvCalendarEventFotoDelegate::~MvCalendarEventFotoDelegate() = default;
 QWidget *MvCalendarEventFotoDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                                    const QModelIndex &index) const
 {
-    auto *editor = new MvCalendarEventFotoDelegateEditorWidget(eventOf(index), parent);
+    auto *editor =
+        new MvCalendarEventFotoDelegateEditorWidget(eventOf(index), parent, MvCalendarEventModel::sessionOf(index));
     connect(editor, &MvCalendarEventFotoDelegateEditorWidget::calendarEventChanged, this,
             [this, editor] { Q_EMIT const_cast<MvCalendarEventFotoDelegate *>(this)->commitData(editor); });
     return editor;
@@ -80,17 +81,20 @@ bool MvCalendarEventFotoDelegate::editorEvent(QEvent *event, QAbstractItemModel 
     if (event->type() != QEvent::KeyPress)
         return false;
     const MvCalendarEvent before = eventOf(index);
+    MvSession &session = MvCalendarEventModel::sessionOf(index);
     switch (static_cast<QKeyEvent *>(event)->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
     case Qt::Key_F2:
-        MvCalendarEventFotoDelegateEditorWidget::requestFoto(before, m_view, change);
+        MvCalendarEventFotoDelegateEditorWidget::requestFoto(
+            before, m_view,
+            [&session](const MvCalendarEvent &from, const MvCalendarEvent &to) { change(session, from, to); }, session);
         return true;
     case Qt::Key_Delete: {
         MvCalendarEvent after = before;
         after.setFoto(MvFoto());
-        change(before, after);
+        change(session, before, after);
         return true;
     }
     default:

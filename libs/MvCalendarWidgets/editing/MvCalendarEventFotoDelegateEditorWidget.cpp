@@ -2,7 +2,7 @@
 #include "MvCalendar/MvCalendarEventFotoDelegateEditorWidget.h"
 
 #include "MvCalendar/MvCalendarEventFotoIntake.h"
-#include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventStep.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvUndoController.h"
@@ -28,8 +28,9 @@ void setTexts(QToolButton *button, const QString &toolTip, const QString &access
 } // namespace
 
 MvCalendarEventFotoDelegateEditorWidget::MvCalendarEventFotoDelegateEditorWidget(const MvCalendarEvent &event,
-                                                                                 QWidget *parent)
+                                                                                 QWidget *parent, MvSession &session)
     : QWidget(parent)
+    , m_session(session)
     , m_changeButton(createButton(u"changeImageButton"_s, u"ico_common_photo"_s))
     , m_removeButton(createButton(u"removeImageButton"_s, u"ico_common_delete"_s))
 {
@@ -79,10 +80,10 @@ void MvCalendarEventFotoDelegateEditorWidget::applyIcon()
 }
 
 void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent &event, QWidget *asker,
-                                                          const MvCalendarEventFotoIntake::Use &use)
+                                                          const MvCalendarEventFotoIntake::Use &use, MvSession &session)
 {
     const QString filter = tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s);
-    const auto take = [event, asker, use](const QString &fileName) {
+    const auto take = [event, asker, use, &session](const QString &fileName) {
         if (fileName.isEmpty())
             return;
         const MvFoto foto{QFileInfo(fileName)};
@@ -90,7 +91,7 @@ void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent 
             MvDiskAccessRequest::instance().readFotoFailed(fileName, asker);
             return;
         }
-        MvCalendarEventFotoIntake::take(event, foto, asker, use);
+        MvCalendarEventFotoIntake::take(event, foto, asker, use, session);
     };
     MvDiskAccessRequest::instance().requestOpenFile(MvDiskAccessRequest::FotoFile, tr("Foto auswählen"), filter, asker,
                                                     take);
@@ -99,15 +100,16 @@ void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent 
 void MvCalendarEventFotoDelegateEditorWidget::onChangeImageButtonClicked()
 {
     // the buttons may be gone, with the mouse, when the user has chosen
-    const auto use = [self = QPointer(this)](const MvCalendarEvent &before, const MvCalendarEvent &after) {
+    const auto use = [self = QPointer(this), &session = m_session](const MvCalendarEvent &before,
+                                                                   const MvCalendarEvent &after) {
         if (!self) {
-            MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, nullptr));
+            session.undo().push(new MvCalendarEventStep(before, after, session));
             return;
         }
         self->setCalendarEvent(after);
         Q_EMIT self->calendarEventChanged();
     };
-    requestFoto(m_event, parentWidget() ? parentWidget() : this, use);
+    requestFoto(m_event, parentWidget() ? parentWidget() : this, use, m_session);
 }
 
 void MvCalendarEventFotoDelegateEditorWidget::onRemoveImageButtonClicked()

@@ -14,7 +14,8 @@ class MVCALENDARWIDGETS_EXPORT MvCalendarEventFotoDelegateEditorWidget : public 
     Q_OBJECT
 
 public:
-    MvCalendarEventFotoDelegateEditorWidget(const MvCalendarEvent &event, QWidget *parent);
+    MvCalendarEventFotoDelegateEditorWidget(const MvCalendarEvent &event, QWidget *parent,
+                                            MvSession &session = MvSession::defaultSession());
     ~MvCalendarEventFotoDelegateEditorWidget() override;
 
     void setCalendarEvent(const MvCalendarEvent &event);
@@ -25,7 +26,8 @@ public:
 
     /// Asks for the file of a photo and hands over the entry without and with that photo, as
     /// MvCalendarEventFotoIntake does. Nothing happens when none is chosen; a file that is no photo is reported.
-    static void requestFoto(const MvCalendarEvent &event, QWidget *asker, const MvCalendarEventFotoIntake::Use &use);
+    static void requestFoto(const MvCalendarEvent &event, QWidget *asker, const MvCalendarEventFotoIntake::Use &use,
+                            MvSession &session = MvSession::defaultSession());
 
 public Q_SLOTS:
     void onChangeImageButtonClicked();
@@ -38,6 +40,7 @@ Q_SIGNALS:
 private:
     QToolButton *createButton(const QString &name, const QString &icon);
 
+    MvSession &m_session;
     MvCalendarEvent m_event;
     QToolButton *m_changeButton;
     QToolButton *m_removeButton;

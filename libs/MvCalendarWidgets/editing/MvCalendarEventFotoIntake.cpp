@@ -9,9 +9,8 @@
 namespace {
 
 /// The entry in the active list; when it was changed meanwhile, the one that has become of it. Invalid when it is gone.
-MvCalendarEvent presentForm(const MvCalendarEvent &event)
+MvCalendarEvent presentForm(const MvCalendarEvent &event, const MvCalendarEventList &events)
 {
-    const MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
     if (events.contains(event))
         return event;
     MvCalendarEvent found;
@@ -27,11 +26,12 @@ MvCalendarEvent presentForm(const MvCalendarEvent &event)
 
 } // namespace
 
-void MvCalendarEventFotoIntake::take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use)
+void MvCalendarEventFotoIntake::take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use,
+                                     MvSession &session)
 {
     MvFotoLoader::midRes(foto, MvCalendarEvent::fotoQuality, MvCalendarEvent::fotoCaching, asker,
-                         [event, foto, asker, use](const QImage &) {
-                             const MvCalendarEvent before = presentForm(event);
+                         [event, foto, asker, use, &session](const QImage &) {
+                             const MvCalendarEvent before = presentForm(event, session.entries().activeEventList());
                              MvCalendarEvent after = before;
                              QString error;
                              if (!before.isValid())

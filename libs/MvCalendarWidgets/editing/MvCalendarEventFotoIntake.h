@@ -2,13 +2,14 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include <functional>
 
 class QObject;
 
-/// Gives an entry of the active list a photo that somebody has chosen or dropped. GUI thread.
+/// Gives an entry of a session's active list a photo that somebody has chosen or dropped. GUI thread.
 class MVCALENDARWIDGETS_EXPORT MvCalendarEventFotoIntake
 {
 public:
@@ -17,5 +18,6 @@ public:
     /// Hands over the entry as it is by then and the same with the photo: before returning for a small photo, later
     /// for one that is decoded in the background. The asker is told why when the photo cannot be taken; the entry
     /// keeps the one it has. Nothing happens when entry or asker are gone by then.
-    static void take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use);
+    static void take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use,
+                     MvSession &session = MvSession::defaultSession());
 };

@@ -7,8 +7,8 @@
 #include "MvCalendar/MvCalendarEventFotoDelegate.h"
 #include "MvCalendar/MvCalendarEventModel.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStep.h"
 #include "MvCalendar/MvCalendarEventTextDelegate.h"
-#include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 
 #include "MvCore/MvApplicationLocale.h"
@@ -40,33 +40,11 @@ MvCalendarEvent eventOf(const QModelIndex &index)
     return index.data(Qt::UserRole).value<MvCalendarEvent>();
 }
 
-/// The entry as it is by now: it may have changed while a menu with it stood open.
-void editEvent(const MvCalendarEvent &event)
-{
-    const MvCalendarEvent present = MvCalendarEventRegistry::instance().presentEvent(event);
-    if (present.isValid())
-        MvCalendarDayEditorDialog::createSelfDeleting(nullptr)->openDayEditorSingle(present);
-}
-
-/// What the list does not have. A file without uuids gets new ones with each reading: its entries are known by what
-/// they say.
-MvCalendarEventList newEvents(const MvCalendarEventList &current, const MvCalendarEventList &read)
-{
-    MvCalendarEventList added = MvCalendarEventRegistry::instance().onlyNewEvents(current, read);
-    const QSet<MvCalendarEvent> known(current.cbegin(), current.cend());
-    added.removeIf([&known](const MvCalendarEvent &event) { return known.contains(event); });
-    return added;
-}
-
-void deleteEvent(const MvCalendarEvent &event)
-{
-    MvUndoController::instance().push(new MvUndoCommandCalendarEvent(event, MvCalendarEvent(), nullptr));
-}
-
 } // namespace
 
-MvCalendarEventListWidget::MvCalendarEventListWidget(QWidget *parent)
+MvCalendarEventListWidget::MvCalendarEventListWidget(QWidget *parent, MvSession &session)
     : QWidget(parent)
+    , m_session(session)
 {
     auto *newEntryButton = createNewEntryButton(this); // first in the tab order
     m_tableView = createEventTableView(this);
@@ -88,7 +66,7 @@ MvCalendarEventListWidget::~MvCalendarEventListWidget() = default;
 
 MvCalendarEventModel *MvCalendarEventListWidget::createEventModel()
 {
-    auto *model = new MvCalendarEventModel(this);
+    auto *model = new MvCalendarEventModel(this, m_session);
     model->load();
     return model;
 }
@@ -131,9 +109,9 @@ MvTableView *MvCalendarEventListWidget::createEventTableView(QWidget *parent)
             &MvCalendarEventListWidget::onTableViewContextMenuRequested);
     connect(view, &QAbstractItemView::clicked, this,
             [this](const QModelIndex &index) { Q_EMIT eventClicked(eventOf(index)); });
-    connect(view, &MvTableView::rowActivated, this, [](const QModelIndex &index) { editEvent(eventOf(index)); });
+    connect(view, &MvTableView::rowActivated, this, [this](const QModelIndex &index) { editEvent(eventOf(index)); });
     connect(view, &MvTableView::rowRemovalRequested, this,
-            [](const QModelIndex &index) { deleteEvent(eventOf(index)); });
+            [this](const QModelIndex &index) { deleteEvent(eventOf(index)); });
     return view;
 }
 
@@ -219,14 +197,27 @@ QPushButton *MvCalendarEventListWidget::changeEventListButton(QWidget *parent)
 
 // ---- single entries
 
+/// The entry as it is by now: it may have changed while a menu with it stood open.
+void MvCalendarEventListWidget::editEvent(const MvCalendarEvent &event)
+{
+    const MvCalendarEvent present = m_session.entries().presentEvent(event);
+    if (present.isValid())
+        MvCalendarDayEditorDialog::createSelfDeleting(nullptr, m_session)->openDayEditorSingle(present);
+}
+
+void MvCalendarEventListWidget::deleteEvent(const MvCalendarEvent &event)
+{
+    m_session.undo().push(new MvCalendarEventStep(event, MvCalendarEvent(), m_session));
+}
+
 MvCalendarEventList MvCalendarEventListWidget::events() const
 {
-    return MvCalendarEventRegistry::instance().eventsOfCurrentProject();
+    return m_session.entries().eventsOfCurrentProject();
 }
 
 void MvCalendarEventListWidget::addNewCalenderEntryClicked()
 {
-    auto *dialog = MvCalendarDayEditorDialog::createSelfDeleting(nullptr);
+    auto *dialog = MvCalendarDayEditorDialog::createSelfDeleting(nullptr, m_session);
     connect(dialog, &QDialog::accepted, this, &MvCalendarEventListWidget::calendarEventAdded);
     const QDateTime now = QDateTime::currentDateTime();
     const QDateTime start = m_newDate.isValid() ? MvCalendarEvent::startOf(m_newDate) : now;
@@ -266,29 +257,40 @@ void MvCalendarEventListWidget::deleteActionTriggered()
 
 // ---- lists
 
+/// What the list does not have. A file without uuids gets new ones with each reading: its entries are known by what
+/// they say.
+MvCalendarEventList MvCalendarEventListWidget::newEvents(const MvCalendarEventList &current,
+                                                         const MvCalendarEventList &read) const
+{
+    MvCalendarEventList added = m_session.entries().onlyNewEvents(current, read);
+    const QSet<MvCalendarEvent> known(current.cbegin(), current.cend());
+    added.removeIf([&known](const MvCalendarEvent &event) { return known.contains(event); });
+    return added;
+}
+
 /// One step for all of them.
 void MvCalendarEventListWidget::changeEvents(const QString &macro, const MvCalendarEventList &removed,
                                              const MvCalendarEventList &added)
 {
     using Group = MvUndoCommandCalendarEventGroup;
-    MvUndoController &undo = MvUndoController::instance();
+    MvUndoController &undo = m_session.undo();
     if (removed.isEmpty() && added.isEmpty())
         return;
     undo.beginMacro(macro);
-    undo.push(new Group(Group::Begin));
+    undo.push(new Group(Group::Begin, m_session));
     for (const MvCalendarEvent &event : removed) {
         if (event.isValid())
-            undo.push(new MvUndoCommandCalendarEvent(event, MvCalendarEvent(), nullptr));
+            undo.push(new MvCalendarEventStep(event, MvCalendarEvent(), m_session));
     }
     for (const MvCalendarEvent &event : added)
-        undo.push(new MvUndoCommandCalendarEvent(MvCalendarEvent(), event, nullptr));
-    undo.push(new Group(Group::End));
+        undo.push(new MvCalendarEventStep(MvCalendarEvent(), event, m_session));
+    undo.push(new Group(Group::End, m_session));
     undo.endMacro();
 }
 
 void MvCalendarEventListWidget::finishAdding()
 {
-    MvCalendarEventRegistry::instance().save();
+    m_session.entries().save();
     Q_EMIT calendarEventAdded();
 }
 
@@ -297,7 +299,7 @@ void MvCalendarEventListWidget::saveEventList()
     const auto save = [this](const QString &fileName) {
         if (fileName.isEmpty())
             return;
-        const auto &registry = MvCalendarEventRegistry::instance();
+        const auto &registry = m_session.entries();
         registry.saveAs(QFileInfo(fileName));
         if (!registry.lastSaveError().isEmpty())
             MvDiskAccessRequest::instance().writeCalendarEntriesFileFailed(fileName, registry.lastSaveError(), this);
@@ -325,11 +327,12 @@ void MvCalendarEventListWidget::readEventList(const QString &fileName, bool merg
 {
     using Intake = MvCalendarEventFileIntake;
     MvLogger::legacyLog(u"CalendarEvents ACTION:loadFromFile MERGE:%1"_s.arg(merge ? u"set"_s : u"unset"_s));
-    Intake::start(fileName, merge ? Intake::Purpose::Add : Intake::Purpose::Replace, this,
-                  [this, merge](const MvCalendarEventList &read) {
-                      MvCalendarEventRegistry::instance().prepareFotos(
-                          read, this, [this, read, merge] { takeEventList(read, merge); });
-                  });
+    Intake::start(
+        fileName, merge ? Intake::Purpose::Add : Intake::Purpose::Replace, this,
+        [this, merge](const MvCalendarEventList &read) {
+            m_session.entries().prepareFotos(read, this, [this, read, merge] { takeEventList(read, merge); });
+        },
+        m_session);
 }
 
 void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, bool merge)
@@ -361,7 +364,7 @@ void MvCalendarEventListWidget::clearEventList()
 
 void MvCalendarEventListWidget::importFromContacts()
 {
-    auto &registry = MvCalendarEventRegistry::instance();
+    auto &registry = m_session.entries();
     const MvCalendarEventList contacts = registry.loadFromSystemAddressBook();
     MvCalendarEventList birthdays;
     for (const MvCalendarEvent &contact : contacts) {

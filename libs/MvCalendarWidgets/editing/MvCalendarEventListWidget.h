@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include <QDate>
@@ -21,13 +22,13 @@ class QPushButton;
 ///
 /// What is typed into the field above the table leaves only the rows whose name or date contains it.
 ///
-/// It holds no entries itself: its table follows MvCalendarEventRegistry.
+/// It holds no entries itself: its table follows those of the session.
 class MVCALENDARWIDGETS_EXPORT MvCalendarEventListWidget : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit MvCalendarEventListWidget(QWidget *parent = nullptr);
+    explicit MvCalendarEventListWidget(QWidget *parent = nullptr, MvSession &session = MvSession::defaultSession());
     ~MvCalendarEventListWidget() override;
 
     // The parts that the constructor puts together; each call makes a new one, owned by the widget or the parent.
@@ -74,11 +75,14 @@ private:
     QPushButton *createAddButton(const QString &text, const QString &name, QWidget *parent);
     void readEventList(const QString &fileName, bool merge);
     void takeEventList(const MvCalendarEventList &read, bool merge);
-    static void changeEvents(const QString &macro, const MvCalendarEventList &removed,
-                             const MvCalendarEventList &added);
+    void changeEvents(const QString &macro, const MvCalendarEventList &removed, const MvCalendarEventList &added);
+    void editEvent(const MvCalendarEvent &event);
+    void deleteEvent(const MvCalendarEvent &event);
+    MvCalendarEventList newEvents(const MvCalendarEventList &current, const MvCalendarEventList &read) const;
     void finishAdding();
     void showFoundRows();
 
+    MvSession &m_session;
     MvTableView *m_tableView;
     QLineEdit *m_searchField = nullptr;
     QDate m_newDate;

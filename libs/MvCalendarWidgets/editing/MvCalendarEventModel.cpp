@@ -2,7 +2,7 @@
 #include "MvCalendar/MvCalendarEventModel.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCalendar/MvUndoCommandCalendarEvent.h"
+#include "MvCalendar/MvCalendarEventStep.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvStringHelper.h"
@@ -81,11 +81,17 @@ MvCalendarEvent changedBy(const MvCalendarEvent &event, int column, const QVaria
 
 } // namespace
 
-MvCalendarEventModel::MvCalendarEventModel(QObject *parent)
+MvCalendarEventModel::MvCalendarEventModel(QObject *parent, MvSession &session)
     : QAbstractTableModel(parent)
+    , m_session(session)
 {
-    connect(&MvCalendarEventRegistry::instance(), &MvCalendarEventRegistry::eventsChanged, this,
-            &MvCalendarEventModel::eventsChanged);
+    connect(&session.entries(), &MvCalendarEventRegistry::eventsChanged, this, &MvCalendarEventModel::eventsChanged);
+}
+
+MvSession &MvCalendarEventModel::sessionOf(const QModelIndex &index)
+{
+    const auto *model = qobject_cast<const MvCalendarEventModel *>(index.model());
+    return model ? model->session() : MvSession::defaultSession();
 }
 
 void MvCalendarEventModel::eventsChanged()
@@ -96,7 +102,7 @@ void MvCalendarEventModel::eventsChanged()
 void MvCalendarEventModel::load()
 {
     beginResetModel();
-    m_events = MvCalendarEventRegistry::instance().eventsOfCurrentProject();
+    m_events = m_session.entries().eventsOfCurrentProject();
     sortEvents(DateColumn, Qt::DescendingOrder);
     endResetModel();
 }
@@ -104,7 +110,7 @@ void MvCalendarEventModel::load()
 void MvCalendarEventModel::save() const
 {
     const MvCalendarEventList events = m_events; // loaded anew while the registry signals
-    MvCalendarEventRegistry::instance().setEvents(events);
+    m_session.entries().setEvents(events);
 }
 
 MvCalendarEvent MvCalendarEventModel::calendarEvent(const QModelIndex &index) const
@@ -198,7 +204,7 @@ bool MvCalendarEventModel::setData(const QModelIndex &index, const QVariant &val
     if (before == after)
         return false;
     m_events[index.row()] = after;
-    MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, nullptr));
+    m_session.undo().push(new MvCalendarEventStep(before, after, m_session));
     if (hasRow(index.row())) // the last row is gone when another program has removed entries
         Q_EMIT dataChanged(index, index);
     return true;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include <QAbstractTableModel>
@@ -9,9 +10,9 @@
 
 /// The active list of personal entries as a table: photo, date, name, and the entry itself.
 ///
-/// A mirror of MvCalendarEventRegistry, empty until load() or the registry's next change. An edit becomes an undo
-/// command, which changes the registry; that makes every model load anew. Qt::UserRole gives the row's MvCalendarEvent
-/// in every column.
+/// A mirror of the entries of a session (MvCalendarEventRegistry), empty until load() or the registry's next change. An
+/// edit becomes an undo command, which changes the registry; that makes every model load anew. Qt::UserRole gives the
+/// row's MvCalendarEvent in every column.
 class MVCALENDARWIDGETS_EXPORT MvCalendarEventModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -20,7 +21,11 @@ public:
     enum Column { FotoColumn = 0, DateColumn = 1, NameColumn = 2, EventColumn = 3 };
     static constexpr int numberOfColumns = 4;
 
-    explicit MvCalendarEventModel(QObject *parent = nullptr);
+    explicit MvCalendarEventModel(QObject *parent = nullptr, MvSession &session = MvSession::defaultSession());
+
+    MvSession &session() const { return m_session; }
+    /// The session of the model that the index is of; the default one for another model.
+    static MvSession &sessionOf(const QModelIndex &index);
 
     /// Takes the registry's active list over, by month and day.
     void load();
@@ -67,5 +72,6 @@ private:
     QVariant editData(const MvCalendarEvent &event, int column) const;
     void sortEvents(int column, Qt::SortOrder order);
 
+    MvSession &m_session;
     MvCalendarEventList m_events;
 };

@@ -3,20 +3,19 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 
-MvUndoCommandCalendarEventGroup::MvUndoCommandCalendarEventGroup(Mark mark)
+MvUndoCommandCalendarEventGroup::MvUndoCommandCalendarEventGroup(Mark mark, MvSession &session)
     : m_mark(mark)
+    , m_entries(session.entries())
 {}
 
 MvUndoCommandCalendarEventGroup::~MvUndoCommandCalendarEventGroup() = default;
 
 void MvUndoCommandCalendarEventGroup::doCoreAction()
 {
-    auto &registry = MvCalendarEventRegistry::instance();
-    m_mark == Begin ? registry.beginChanges() : registry.endChanges();
+    m_mark == Begin ? m_entries.beginChanges() : m_entries.endChanges();
 }
 
 void MvUndoCommandCalendarEventGroup::undoCore()
 {
-    auto &registry = MvCalendarEventRegistry::instance();
-    m_mark == Begin ? registry.endChanges() : registry.beginChanges();
+    m_mark == Begin ? m_entries.endChanges() : m_entries.beginChanges();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include "MvCore/MvUndoCommand.h"
@@ -14,7 +15,7 @@ class MVCALENDARWIDGETS_EXPORT MvUndoCommandCalendarEventGroup : public MvUndoCo
 public:
     enum Mark { Begin, End };
 
-    explicit MvUndoCommandCalendarEventGroup(Mark mark);
+    explicit MvUndoCommandCalendarEventGroup(Mark mark, MvSession &session = MvSession::defaultSession());
     ~MvUndoCommandCalendarEventGroup() override;
 
     void doCoreAction() override;
@@ -22,4 +23,5 @@ public:
 
 private:
     Mark m_mark;
+    MvCalendarEventRegistry &m_entries;
 };

@@ -26,8 +26,9 @@ QByteArray stampUnder(const QFileInfo &original, const QFileInfo &recovered, con
 
 } // namespace
 
-MvProject::MvProject(QObject *parent)
+MvProject::MvProject(QObject *parent, MvSession &session)
     : QObject(parent)
+    , m_session(session)
     , m_saved(m_document)
 {}
 
@@ -35,14 +36,14 @@ MvProject::~MvProject() = default;
 
 void MvProject::change(const MvCalendarDocument &after, const QString &text, int mergeId)
 {
-    MvUndoController::instance().push(new MvUndoCommandDocument(this, after, text, -1, mergeId));
+    m_session.undo().push(new MvUndoCommandDocument(this, after, text, -1, mergeId));
 }
 
 void MvProject::changePage(int page, const MvCalendarPage &after, const QString &text, int mergeId)
 {
     MvCalendarDocument document = m_document;
     document.setPage(page, after);
-    MvUndoController::instance().push(new MvUndoCommandDocument(this, document, text, page, mergeId));
+    m_session.undo().push(new MvUndoCommandDocument(this, document, text, page, mergeId));
 }
 
 void MvProject::newProject(const MvCalendarDocument &document)
@@ -136,7 +137,7 @@ void MvProject::apply(const MvCalendarDocument &document)
 void MvProject::replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered,
                         const QByteArray &stamp)
 {
-    MvUndoController::instance().clear();
+    m_session.undo().clear();
     m_document = document;
     m_file = file.filePath().isEmpty() ? QFileInfo() : QFileInfo(file.absoluteFilePath());
     m_stamp = stamp;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/MvSession.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/mvproject_export.h"
 
@@ -13,17 +14,20 @@
 #include <optional>
 
 /// The open project: a document, the file it belongs to, and whether that has its present state. Every change is a step
-/// that MvUndoController can take back. GUI thread.
+/// that the undo controller of its session can take back. GUI thread.
 ///
-/// Personal entries are no part of it: they are saved as soon as they change.
+/// Personal entries are no part of it: its session has them, and they are saved as soon as they change. A program that
+/// opens several projects at a time gives each a session of its own.
 class MVPROJECT_EXPORT MvProject : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit MvProject(QObject *parent = nullptr);
+    explicit MvProject(QObject *parent = nullptr, MvSession &session = MvSession::defaultSession());
     ~MvProject() override;
 
+    /// Undo and entries.
+    MvSession &session() const { return m_session; }
     const MvCalendarDocument &document() const { return m_document; }
 
     /// Does a change as one step with the text for menus; nothing happens when nothing changes. Steps with the same
@@ -86,6 +90,7 @@ private:
                  const QByteArray &stamp);
     void updateModified();
 
+    MvSession &m_session;
     MvCalendarDocument m_document;
     std::optional<MvCalendarDocument> m_saved; // none for a recovered one: it differs from any file
     QFileInfo m_file;
