@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventStep.h"
+#include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
 #include <QPointer>
 
