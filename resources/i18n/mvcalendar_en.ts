@@ -172,40 +172,12 @@
         <translation>Description</translation>
     </message>
     <message>
-        <source>Foto auswählen</source>
-        <translation>Choose photo</translation>
-    </message>
-    <message>
-        <source>Klicken um ein Foto auszuwählen</source>
-        <translation>Click to choose a photo</translation>
-    </message>
-    <message>
         <source>Bestätigt den Termin und ermöglicht es, direkt einen Weiteren anzulegen.</source>
         <translation>Confirms the appointment and lets you create another one right away.</translation>
     </message>
     <message>
         <source>OK</source>
         <translation>OK</translation>
-    </message>
-    <message>
-        <source>Anderes Foto auswählen</source>
-        <translation>Choose another photo</translation>
-    </message>
-    <message>
-        <source>Das Foto „%1“ kann nicht gelesen werden.</source>
-        <translation>The photo “%1” cannot be read.</translation>
-    </message>
-    <message>
-        <source>Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden.</source>
-        <translation>Drag a photo onto this area to use it as the symbol of the appointment.</translation>
-    </message>
-    <message>
-        <source>Fotos (%1)</source>
-        <translation>Photos (%1)</translation>
-    </message>
-    <message>
-        <source>Das Foto wird geladen…</source>
-        <translation>Loading the photo…</translation>
     </message>
     <message>
         <source>Der Eintrag „%1“ ist inzwischen gelöscht worden. Das Fenster dafür ist deshalb geschlossen.</source>
@@ -218,10 +190,6 @@
     <message>
         <source>Ein Klick auf die Fläche wählt ein Foto aus.</source>
         <translation>A click on the area chooses a photo.</translation>
-    </message>
-    <message>
-        <source>&amp;Foto entfernen</source>
-        <translation>&amp;Remove photo</translation>
     </message>
     <message>
         <source>Eintrag &amp;löschen</source>
@@ -237,18 +205,10 @@
     </message>
 </context>
 <context>
-    <name>MvCalendarEvent</name>
+    <name>MvCalendarEventContacts</name>
     <message>
-        <source>Das Foto „%1“ kann nicht gelesen werden. %2</source>
-        <translation>The photo “%1” cannot be read. %2</translation>
-    </message>
-    <message>
-        <source>Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2</source>
-        <translation>The photo “%1” could not be copied into the photo folder. %2</translation>
-    </message>
-    <message>
-        <source>Das Bild ließ sich nicht umwandeln.</source>
-        <translation>The picture could not be converted.</translation>
+        <source>%1 von %2 Einträgen mit Geburtstagen importiert</source>
+        <translation>%1 of %2 entries with birthdays imported</translation>
     </message>
 </context>
 <context>
@@ -402,6 +362,21 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEventFotoCopy</name>
+    <message>
+        <source>Das Foto „%1“ kann nicht gelesen werden. %2</source>
+        <translation>The photo “%1” cannot be read. %2</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2</source>
+        <translation>The photo “%1” could not be copied into the photo folder. %2</translation>
+    </message>
+    <message>
+        <source>Das Bild ließ sich nicht umwandeln.</source>
+        <translation>The picture could not be converted.</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventFotoDelegateEditorWidget</name>
     <message>
         <source>Foto ändern…</source>
@@ -531,13 +506,6 @@
     </message>
 </context>
 <context>
-    <name>MvCalendarEventRegistry</name>
-    <message>
-        <source>%1 von %2 Einträgen mit Geburtstagen importiert</source>
-        <translation>%1 of %2 entries with birthdays imported</translation>
-    </message>
-</context>
-<context>
     <name>MvCalendarEventStore</name>
     <message>
         <source>%1 konnte nicht gespeichert werden: %2</source>
@@ -558,6 +526,10 @@
     <message>
         <source>%1 ist nicht vollständig lesbar und ließ sich nicht beiseitelegen. Es wurde nichts überschrieben.</source>
         <translation>%1 cannot be read completely and could not be put aside. Nothing was overwritten.</translation>
+    </message>
+    <message>
+        <source>Diese Einträge stehen in keiner Datei.</source>
+        <translation>These entries are in no file.</translation>
     </message>
 </context>
 <context>
@@ -1189,6 +1161,21 @@
     </message>
 </context>
 <context>
+    <name>MvDayMenu</name>
+    <message>
+        <source>Eigene Einträge bearbeiten</source>
+        <translation>Edit own entries</translation>
+    </message>
+    <message>
+        <source>„%1“ bearbeiten…</source>
+        <translation>Edit “%1”…</translation>
+    </message>
+    <message>
+        <source>Neuen Eintrag am %1 erstellen…</source>
+        <translation>Create new entry on %1…</translation>
+    </message>
+</context>
+<context>
     <name>MvDialogRequestHandler</name>
     <message>
         <source>Ja</source>
@@ -1646,25 +1633,45 @@
     </message>
 </context>
 <context>
+    <name>MvFotoField</name>
+    <message>
+        <source>Foto auswählen</source>
+        <translation>Choose photo</translation>
+    </message>
+    <message>
+        <source>Klicken um ein Foto auszuwählen</source>
+        <translation>Click to choose a photo</translation>
+    </message>
+    <message>
+        <source>&amp;Foto entfernen</source>
+        <translation>&amp;Remove photo</translation>
+    </message>
+    <message>
+        <source>Das Foto wird geladen…</source>
+        <translation>Loading the photo…</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ kann nicht gelesen werden.</source>
+        <translation>The photo “%1” cannot be read.</translation>
+    </message>
+    <message>
+        <source>Anderes Foto auswählen</source>
+        <translation>Choose another photo</translation>
+    </message>
+    <message>
+        <source>Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden.</source>
+        <translation>Drag a photo onto this area to use it as the symbol of the appointment.</translation>
+    </message>
+    <message>
+        <source>Fotos (%1)</source>
+        <translation>Photos (%1)</translation>
+    </message>
+</context>
+<context>
     <name>MvGraphicsItemCalendariumCell</name>
     <message>
         <source>Klicken um eigenen Eintrag am %1 zu erstellen</source>
         <translation>Click to create an entry of your own on %1</translation>
-    </message>
-</context>
-<context>
-    <name>MvGraphicsItemCalendariumCellsManager</name>
-    <message>
-        <source>Eigene Einträge bearbeiten</source>
-        <translation>Edit own entries</translation>
-    </message>
-    <message>
-        <source>„%1“ bearbeiten…</source>
-        <translation>Edit “%1”…</translation>
-    </message>
-    <message>
-        <source>Neuen Eintrag am %1 erstellen…</source>
-        <translation>Create new entry on %1…</translation>
     </message>
 </context>
 <context>

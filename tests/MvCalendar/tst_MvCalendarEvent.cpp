@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEvent.h"
@@ -13,6 +14,8 @@
 
 #include <csignal>
 #include <sys/resource.h>
+
+using MvEntries::entry;
 
 class tst_MvCalendarEvent : public MvTest
 {
@@ -49,11 +52,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_data;
     std::unique_ptr<QTemporaryDir> m_outside;
 };
-
-static MvCalendarEvent entry(const QString &name, const QDate &date, bool recurrent = true)
-{
-    return MvCalendarEvent(name, date.startOfDay(), recurrent, MvFoto(), QUuid::createUuid(), QDateTime());
-}
 
 static QDomElement parsed(QDomDocument &document, const QString &xml)
 {
@@ -100,7 +98,7 @@ void tst_MvCalendarEvent::isAtDay()
     QFETCH(QDate, date);
     QFETCH(bool, recurrent);
     QFETCH(QDate, day);
-    const MvCalendarEvent event = entry(u"x"_qs, date, recurrent);
+    const MvCalendarEvent event = entry(u"x"_qs, date, {}, recurrent);
     QTEST(event.isAtDay(day), "isAtDay");
     QVERIFY(event.isRecurrent()); // whatever is stored
     QCOMPARE(event.storedRecurrent(), recurrent);
@@ -129,7 +127,7 @@ void tst_MvCalendarEvent::sortsByDay()
     };
     QList<MvCalendarEvent> events = {entry(u"Anna"_qs, QDate(1980, 2, 1)), entry(u"Berta"_qs, QDate(1930, 12, 31)),
                                      entry(u"Cäsar"_qs, QDate(2001, 1, 31)),
-                                     entry(u"anna"_qs, QDate(2020, 1, 31), false)};
+                                     entry(u"anna"_qs, QDate(2020, 1, 31), {}, false)};
     std::stable_sort(events.begin(), events.end(), comparators.value(column).first);
     QStringList sorted;
     for (const MvCalendarEvent &event : std::as_const(events))
@@ -144,7 +142,7 @@ void tst_MvCalendarEvent::sortsByDay()
 void tst_MvCalendarEvent::baseOrder()
 {
     const QDate day(2000, 1, 1);
-    const QList<MvCalendarEvent> ascending = {entry(u"Z"_qs, day, false), entry(u"A"_qs, day),
+    const QList<MvCalendarEvent> ascending = {entry(u"Z"_qs, day, {}, false), entry(u"A"_qs, day),
                                               entry(u"A"_qs, day.addDays(1)), entry(u"B"_qs, day), MvCalendarEvent()};
     for (qsizetype i = 0; i < ascending.size(); ++i) {
         for (qsizetype k = 0; k < ascending.size(); ++k)
@@ -164,7 +162,7 @@ void tst_MvCalendarEvent::comparesWithoutUuid()
     QVERIFY(a.uuid() != b.uuid());
     QVERIFY(a == b);
     QCOMPARE(qHash(a), qHash(b));
-    QVERIFY(!(a == entry(u"A"_qs, QDate(2000, 1, 1), false)));
+    QVERIFY(!(a == entry(u"A"_qs, QDate(2000, 1, 1), {}, false)));
     QVERIFY(!(a == entry(u"a"_qs, QDate(2000, 1, 1))));
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -31,13 +32,7 @@ private:
     void put(const QByteArray &content) const;
     QString onDisk() const { return names(MvCalendarEventFile::read(QFileInfo(path())).events); }
 
-    static QString names(const MvCalendarEventList &events)
-    {
-        QStringList names;
-        for (const MvCalendarEvent &event : events)
-            names.append(event.description());
-        return names.join(u' ');
-    }
+    static QString names(const MvCalendarEventList &events) { return MvEntries::names(events).join(u' '); }
     static MvCalendarEvent entry(const QString &name, const QTime &time = QTime(0, 0))
     {
         return MvCalendarEvent(name, QDateTime(QDate(2000, 1, 1), time), true, MvFoto(), QUuid::createUuid(), {});

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
@@ -8,12 +9,9 @@
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
 
-namespace {
+using MvEntries::entry;
 
-MvCalendarEvent entry(const QString &name, const QDate &date, const MvFoto &foto = {})
-{
-    return {name, date.startOfDay(), true, foto, QUuid::createUuid(), {}};
-}
+namespace {
 
 /// Chooses a file at once and notes what is reported.
 struct Script : MvRequestHandler

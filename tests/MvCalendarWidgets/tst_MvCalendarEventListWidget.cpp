@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
@@ -15,12 +16,9 @@
 #include "MvFoto/MvFotoThumbnails.h"
 #include "MvGUIWidgets/MvTableView.h"
 
-namespace {
+using MvEntries::entry;
 
-MvCalendarEvent entry(const QString &name, const QDate &date, const MvFoto &foto = {})
-{
-    return {name, date.startOfDay(), true, foto, QUuid::createUuid(), {}};
-}
+namespace {
 
 /// Answers at once and notes what was asked and reported.
 struct Script : MvRequestHandler
@@ -100,14 +98,7 @@ private:
         registry().setEvents({entry(u"Anna"_qs, QDate(2004, 2, 29)), entry(u"Moritz"_qs, QDate(1999, 3, 1)),
                               entry(u"Xaver"_qs, QDate(1950, 12, 31))});
     }
-    static QStringList names()
-    {
-        QStringList names;
-        const MvCalendarEventList events = MvCalendarEventRegistry().activeEventList(); // as on the disk
-        for (const MvCalendarEvent &event : events)
-            names.append(event.description());
-        return names;
-    }
+    static QStringList names() { return MvEntries::names(MvCalendarEventRegistry().activeEventList()); } // on disk
     static MvTableView *table(const QWidget &list) { return list.findChild<MvTableView *>(); }
     static QPoint centre(const QWidget &list, int row, int column)
     {
@@ -207,8 +198,6 @@ void tst_MvCalendarEventListWidget::contextMenu()
     menu->actions().last()->trigger();
     QCOMPARE(names(), (QStringList{u"Anna"_qs, u"Xaver"_qs}));
     QApplication::activePopupWidget()->close();
-    MvUndoController::instance().undo();
-    QCOMPARE(names().size(), 3);
 }
 
 /// A photo that is decoded already is there at once; the editor must not let events run under the menu's feet then.
@@ -411,7 +400,8 @@ void tst_MvCalendarEventListWidget::importsContactsOnce()
     QVERIFY(m_log.contains(logged.arg(5).arg(0)));
     QCOMPARE(added.count(), 1);
     QCOMPARE(advice.count(), 2);
-    QCOMPARE(advice.last().at(1).toString(), u"0 von 2 Einträgen mit Geburtstagen importiert"_qs);
+    const QVariantList expected{43, u"0 von 2 Einträgen mit Geburtstagen importiert"_qs, 0.5, 4};
+    QCOMPARE(advice.last().mid(0, 4), expected);
     QCOMPARE(MvUndoController::instance().stack()->count(), 1);
     MvPlatformIndependent::setInstance(nullptr);
 }
@@ -446,8 +436,6 @@ void tst_MvCalendarEventListWidget::buttonsUnderTheMouse()
     QCOMPARE(openEditor()->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Moritz"_qs);
     editor->findChild<QToolButton *>(u"deleteEventButton"_qs)->click();
     QCOMPARE(names(), (QStringList{u"Anna"_qs, u"Xaver"_qs}));
-    MvUndoController::instance().undo();
-    QCOMPARE(names().size(), 3);
 }
 
 void tst_MvCalendarEventListWidget::fotoButtons()

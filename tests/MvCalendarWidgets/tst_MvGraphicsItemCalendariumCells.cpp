@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
@@ -13,6 +14,8 @@
 
 using Cell = MvGraphicsItemCalendariumCell;
 using Manager = MvGraphicsItemCalendariumCellsManager;
+
+using MvEntries::entry;
 
 namespace {
 
@@ -55,11 +58,6 @@ struct Canvas
     Manager *manager = new Manager(item);
 };
 
-MvCalendarEvent entry(const QString &name, const QDate &date)
-{
-    return {name, date.startOfDay(), true, {}, QUuid::createUuid(), {}};
-}
-
 QMenu *openMenu()
 {
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
@@ -100,7 +98,6 @@ private Q_SLOTS:
     void droppedFotos();
     void artwork_data();
     void artwork();
-    void repaintsTheItem();
 };
 
 void tst_MvGraphicsItemCalendariumCells::init()
@@ -464,31 +461,6 @@ void tst_MvGraphicsItemCalendariumCells::artwork()
     canvas.manager->detectCellBoundingBoxes(MvDateRange::monthOf(day), &renderer, mode, {10, 20, 200, 100});
     QTEST(canvas.manager->cell(day)->sceneBoundingRect(), "cell");
     QVERIFY(!canvas.manager->cell(day.addDays(1)));
-}
-
-void tst_MvGraphicsItemCalendariumCells::repaintsTheItem()
-{
-    class CountingItem : public Calendarium
-    {
-    public:
-        void paint(QPainter *, const QStyleOptionGraphicsItem *, QWidget *) override { ++paints; }
-        int paints = 0;
-    };
-    auto *item = new CountingItem;
-    QGraphicsScene scene;
-    scene.addItem(item);
-    QGraphicsView view(&scene);
-    Manager manager(item);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    QTRY_VERIFY(item->paints > 0);
-    QTest::qWait(50);
-    const int before = item->paints;
-    MvCalendarDayEditorDialog dialog(item);
-    dialog.openDayEditorSingle(entry({}, day));
-    dialog.findChild<QLineEdit *>(u"descriptionEdit"_qs)->setText(u"Neu"_qs);
-    dialog.acceptedClicked();
-    QTRY_VERIFY(item->paints > before);
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvGraphicsItemCalendariumCells)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -20,15 +21,7 @@ public:
 
 MvCalendarEvent entry(const QString &name)
 {
-    return MvCalendarEvent(name, QDate(2000, 2, 29).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
-}
-
-QStringList namesInOrder(const MvCalendarEventList &events)
-{
-    QStringList names;
-    for (const MvCalendarEvent &event : events)
-        names.append(event.description());
-    return names;
+    return MvEntries::entry(name, QDate(2000, 2, 29));
 }
 
 } // namespace
@@ -41,7 +34,6 @@ private Q_SLOTS:
     void init();
     void changes_data();
     void changes();
-    void macroIsOneStep();
     void orderComesBack_data();
     void orderComesBack();
     void meansTheVeryEntry_data();
@@ -55,7 +47,7 @@ private:
     static MvUndoController &undo() { return MvUndoController::instance(); }
     static QString namesOf(const MvCalendarEventList &events)
     {
-        QStringList names = namesInOrder(events);
+        QStringList names = MvEntries::names(events);
         names.sort();
         return names.join(u' ');
     }
@@ -98,19 +90,6 @@ void tst_MvUndoCommandCalendarEvent::changes()
     QTEST(onDisk(), "result");
 }
 
-void tst_MvUndoCommandCalendarEvent::macroIsOneStep()
-{
-    undo().beginMacro(u"clearEventList"_qs);
-    const MvCalendarEventList events = registry().eventsOfCurrentProject();
-    for (const MvCalendarEvent &event : events)
-        undo().push(new MvUndoCommandCalendarEvent(event, MvCalendarEvent(), nullptr));
-    undo().endMacro();
-    QCOMPARE(onDisk(), QString());
-    undo().undo();
-    QCOMPARE(onDisk(), u"A B"_qs);
-    QVERIFY(!undo().stack()->canUndo());
-}
-
 void tst_MvUndoCommandCalendarEvent::orderComesBack_data()
 {
     QTest::addColumn<QString>("removed");
@@ -146,11 +125,11 @@ void tst_MvUndoCommandCalendarEvent::orderComesBack()
         registry().setEvents(registry().activeEventList());
     }
     undo().undo();
-    QTEST(namesInOrder(registry().activeEventList()).join(u' '), "undone");
+    QTEST(MvEntries::names(registry().activeEventList()).join(u' '), "undone");
     undo().redo();
-    QTEST(namesInOrder(registry().activeEventList()).join(u' '), "redone");
+    QTEST(MvEntries::names(registry().activeEventList()).join(u' '), "redone");
     undo().undo();
-    QTEST(namesInOrder(registry().activeEventList()).join(u' '), "undone");
+    QTEST(MvEntries::names(registry().activeEventList()).join(u' '), "undone");
 }
 
 void tst_MvUndoCommandCalendarEvent::meansTheVeryEntry_data()

@@ -13,12 +13,6 @@ inline MvCalendarEvent entry(const QString &name, const QDate &date, const MvFot
     return {name, date.startOfDay(), isRecurrent, foto, QUuid::createUuid(), {}};
 }
 
-/// An entry of one year alone.
-inline MvCalendarEvent entryOnce(const QString &name, const QDate &date)
-{
-    return entry(name, date, {}, false);
-}
-
 /// In list order.
 inline QStringList names(const MvCalendarEventList &events)
 {

@@ -227,10 +227,10 @@ bool MvFotoField::eventFilter(QObject *watched, QEvent *event)
 
 // ---- dropping
 
-bool MvFotoField::offerDrop(const QMimeData *data)
+bool MvFotoField::offerDrop(const QMimeData *dragged)
 {
-    m_label->setDropOffered(data->hasUrls());
-    return data->hasUrls();
+    m_label->setDropOffered(dragged->hasUrls());
+    return dragged->hasUrls();
 }
 
 void MvFotoField::endDrop()
@@ -238,15 +238,15 @@ void MvFotoField::endDrop()
     m_label->setDropOffered(false);
 }
 
-bool MvFotoField::takeDrop(const QMimeData *data)
+bool MvFotoField::takeDrop(const QMimeData *dragged)
 {
     endDrop();
-    const MvFotoList fotos(data);
+    const MvFotoList fotos(dragged);
     if (!fotos.isEmpty()) {
         setFoto(fotos.first());
         return true;
     }
-    const QString file = data->urls().value(0).toLocalFile();
+    const QString file = dragged->urls().value(0).toLocalFile();
     if (!file.isEmpty())
         MvDiskAccessRequest::instance().readFotoFailed(file, window());
     return false;

@@ -38,11 +38,11 @@ public:
     void animateRemoveButton(bool in);
 
     // for a drop anywhere on the window around the field
-    /// Shows that it can be dropped here; false when the data has no file.
-    bool offerDrop(const QMimeData *data);
+    /// Shows that it can be dropped here; false when nothing of it is a file.
+    bool offerDrop(const QMimeData *dragged);
     void endDrop();
-    /// Takes the first photo of the data; a file that is none is reported, and false.
-    bool takeDrop(const QMimeData *data);
+    /// Takes the first photo; a file that is none is reported, and false.
+    bool takeDrop(const QMimeData *dragged);
 
     /// What can have the keyboard focus, in order.
     QList<QWidget *> focusWidgets() const;
