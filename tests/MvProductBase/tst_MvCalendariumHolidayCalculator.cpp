@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
+#include "MvProductBase/MvHolidayBook.h"
 
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvTest.h"

@@ -2,6 +2,7 @@
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvProductBase/MvHolidayBook.h"
 
 #include <QMutexLocker>
 

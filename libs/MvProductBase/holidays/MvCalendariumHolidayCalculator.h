@@ -2,7 +2,8 @@
 #pragma once
 
 #include "MvCore/MvSingleton.h"
-#include "MvProductBase/MvHolidayBook.h"
+#include "MvProductBase/MvCalendariumHolidayCacheKey.h"
+#include "MvProductBase/MvCalendariumHolidayList.h"
 #include "MvProductBase/mvproductbase_export.h"
 
 #include <QMutex>
@@ -10,6 +11,7 @@
 #include <memory>
 
 class MvCalendariumHolidayCalculator;
+class MvHolidayBook;
 extern template class MVPRODUCTBASE_EXPORT MvSingleton<MvCalendariumHolidayCalculator>;
 
 /// Computes the holidays and school vacations of a year, for every country and region in the data files.
