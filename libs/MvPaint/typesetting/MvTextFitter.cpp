@@ -16,8 +16,9 @@ namespace {
 
 constexpr double pageDpi = 254.0; // a pixel of the page is a tenth of a millimetre
 constexpr double stepPoints = 0.5;
-constexpr double leastGrowth = 0.9;    // of a text's width by its size: advances are rounded in each size
-constexpr double roundingSlack = 0.01; // of a line's height: rooms are often computed from it
+constexpr double leastGrowth = 0.9;     // of a text's width by its size: advances are rounded in each size
+constexpr double leastLineHeight = 0.5; // of a font's size: no metrics are made for sizes far beyond the room
+constexpr double roundingSlack = 0.01;  // of a line's height: rooms are often computed from it
 
 int lineCount(double height, const QFont &font)
 {
@@ -91,6 +92,8 @@ MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, con
         return cut(room, texts, separator, widestWord);
     const double smallestWidth = totalAdvance(smallest, *atLeast);
     for (const QFont &font : fonts) {
+        if (font.pixelSize() * leastLineHeight > room.height())
+            continue;
         const double leastWidth = leastGrowth * smallestWidth * font.pixelSize() / smallest.pixelSize();
         if (leastWidth > lineCount(room.height(), font) * double(widestWord))
             continue; // more text than the room's area
@@ -126,13 +129,20 @@ MvFittedText MvTextFitter::cut(const QSizeF &room, const QStringList &texts, con
 MvFittedText MvTextFitter::fitLine(double width, const QString &text) const
 {
     const int most = static_cast<int>(width);
+    if (!MvLineBreaker::isTooWide(most, m_font, text))
+        return {m_font, {text}, false, {}};
     const QList<QFont> fonts = sizes();
+    const QFont &smallest = fonts.constLast();
+    if (MvLineBreaker::isTooWide(most, smallest, text)) { // no size between will do
+        const QString line = MvLineBreaker::elided(most, smallest, text);
+        if (MvLineBreaker::isTooWide(most, smallest, line)) // not even an ellipsis
+            return {smallest, {}, true, {text}};
+        return {smallest, {line}, true, {text}};
+    }
+    const double growth = leastGrowth * MvLineBreaker::advance(smallest, text) / smallest.pixelSize();
     for (const QFont &font : fonts) {
-        if (!MvLineBreaker::isTooWide(most, font, text))
+        if (growth * font.pixelSize() <= most && !MvLineBreaker::isTooWide(most, font, text))
             return {font, {text}, false, {}};
     }
-    const QString line = MvLineBreaker::elided(most, fonts.constLast(), text);
-    if (MvLineBreaker::isTooWide(most, fonts.constLast(), line)) // not even an ellipsis
-        return {fonts.constLast(), {}, true, {text}};
-    return {fonts.constLast(), {line}, true, {text}};
+    return {smallest, {text}, false, {}};
 }
