@@ -53,6 +53,7 @@ private Q_SLOTS:
     void language_data();
     void language();
     void printsTheSameInEveryLanguage();
+    void printsTheSameWithOtherFonts();
 
 private:
     struct Call
@@ -694,6 +695,26 @@ void tst_mvcalendar::printsTheSameInEveryLanguage()
             QCOMPARE(pages.isEmpty() ? drawn : pages, drawn);
             pages = drawn;
         }
+    }
+}
+
+// a computer with a Lato of its own that is none, and no other font: what is shipped comes first
+void tst_mvcalendar::printsTheSameWithOtherFonts()
+{
+    write(path(u"fonts.conf"_s),
+          "<fontconfig><dir>" MV_TEST_DATA "</dir><cachedir>cache</cachedir><match target='scan'>"
+          "<edit name='family' mode='assign'><string>Lato</string></edit></match></fontconfig>");
+    for (const QString &layout : {u"MONTH_GRID_CLASSIC"_s, u"MONTH_GRID_SERIF"_s, u"MONTH_ONLY_SERIF"_s}) {
+        QByteArrayList pages;
+        for (const QMap<QString, QString> &fonts :
+             {{}, QMap<QString, QString>{{u"FONTCONFIG_FILE"_s, path(u"fonts.conf"_s)}}}) {
+            const Call call = run({u"render"_s, u"--from"_s, u"2027-03"_s, u"--months"_s, u"1"_s, u"--layout"_s, layout,
+                                   u"-o"_s, u"p.svg"_s},
+                                  fonts);
+            QCOMPARE(call.err, "");
+            pages.append(contentOf(path(u"p.svg"_s)));
+        }
+        QVERIFY2(pages.first() == pages.last(), qPrintable(layout));
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvSchemaFileCheck.h"
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvModelBase/MvShippedFonts.h"
 #include "MvXML/MvXMLLoader.h"
 
 #include <QRandomGenerator>
@@ -48,6 +49,7 @@ void giveFreshId(MvUserSchemaFile::Area &area)
 MvCalendariumLayoutSchemaRegistry::MvCalendariumLayoutSchemaRegistry()
     : m_userFile(userFileName, u"calendarlayout"_s, readArea)
 {
+    MvShippedFonts::registerAll(); // also for programs that render without having set anything up
     const QDomElement own = m_userFile.read();
     const QFileInfo shippedFile = MvDirectoryConfig::instance().resource(u"schemas/calendar_layout.xml"_s);
     const QDomElement shipped = MvXMLLoader::loadDocumentElement(shippedFile);

@@ -8,6 +8,7 @@
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvModelBase/MvShippedFonts.h"
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
 
 using namespace Qt::StringLiterals;
@@ -27,6 +28,7 @@ void MvCalendarInitializer::setup(MvInitializerOption)
     const QStringList files = MvSafeFileWriter::finishInterrupted(); // before anything reads them
     for (const QString &file : files)
         MvLogger::legacyLog(u"Files ACTION:finishInterrupted VALUE:%1"_s.arg(file));
+    MvShippedFonts::registerAll();
     initCalendarHolidays();
 }
 

@@ -4,8 +4,8 @@
 #include "MvCalendar/mvcalendar_export.h"
 #include "MvCore/MvInitializerAbstract.h"
 
-/// The module's start-up hook: makes personal entries and holidays known to the text compiler, and the cell types of
-/// the renderers to the appearance. Registers itself when the library is loaded.
+/// The module's start-up hook: makes the shipped fonts known to the program, personal entries and holidays to the text
+/// compiler, and the cell types of the renderers to the appearance. Registers itself when the library is loaded.
 class MVCALENDAR_EXPORT MvCalendarInitializer : public MvInitializerAbstract
 {
 public:
