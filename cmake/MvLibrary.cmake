@@ -42,7 +42,7 @@ function(mv_add_room library folder)
     string(TOLOWER ${set} set)
     target_sources(${library} PUBLIC FILE_SET ${set} TYPE HEADERS BASE_DIRS ${path} FILES ${headers})
     set_property(GLOBAL APPEND PROPERTY MV_HEADER_SETS_${library}
-        FILE_SET ${set} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1/${ARG_INCLUDE})
+        FILE_SET ${set} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1/${ARG_INCLUDE} COMPONENT development)
 endfunction()
 
 # mv_add_export_headers(<library> <Module>...)
@@ -53,7 +53,9 @@ function(mv_add_export_headers library)
         string(TOLOWER ${module} lower)
         generate_export_header(${library} BASE_NAME ${lower}
             EXPORT_FILE_NAME ${MV_EXPORT_HEADER_DIR}/${module}/${lower}_export.h)
-        install(FILES ${MV_EXPORT_HEADER_DIR}/${module}/${lower}_export.h
-            DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1/${module})
+        if(MV_INSTALL)
+            install(FILES ${MV_EXPORT_HEADER_DIR}/${module}/${lower}_export.h
+                DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1/${module} COMPONENT development)
+        endif()
     endforeach()
 endfunction()
