@@ -11,7 +11,7 @@ build_packages="g++ cmake ninja-build ccache pkg-config python3-minimal qt6-base
     hyphen-fr hyphen-hr hyphen-hu hyphen-it hyphen-nl hyphen-no hyphen-pl hyphen-pt-pt hyphen-ro hyphen-sk hyphen-sl
     hyphen-sv"
 test_packages="python3 poppler-utils qpdf libbenchmark-dev clang-format desktop-file-utils appstream mandoc
-    shared-mime-info xvfb xauth dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
+    shared-mime-info xvfb xauth dpkg-dev lintian dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
     fonts-noto-color-emoji"
 nightly_packages="clang clang-tidy libclang-rt-14-dev"
 
