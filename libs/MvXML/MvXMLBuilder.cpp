@@ -118,7 +118,7 @@ bool MvXMLBuilder::saveUTF8(const QDomDocument &document, const QFileInfo &file)
     if (QFileInfo::exists(file.filePath()) && MvXMLLoader::loadDocument(file, &error).isNull()) {
         const QString aside = MvSafeFileWriter::setAside(file);
         if (aside.isEmpty())
-            return false; // better an unsaved change than a lost file
+            return false; // an unsaved change is better than a lost file
         qWarning().noquote() << u"%1, set aside as %2"_s.arg(error.describe(file), aside);
     }
     const QByteArray bytes = document.toByteArray(2);

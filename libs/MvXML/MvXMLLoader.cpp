@@ -173,7 +173,7 @@ MvXMLLoader::Error MvXMLLoader::check(const QByteArray &bytes, const Limits &lim
 
 QDomElement MvXMLLoader::loadDocumentElement(const QFileInfo &file)
 {
-    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    const QFileInfo present(file.filePath()); // the given QFileInfo may have cached an older state
     if (!present.exists())
         return {};
     Error error;

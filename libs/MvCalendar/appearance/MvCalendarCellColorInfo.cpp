@@ -171,7 +171,8 @@ void MvCalendarCellColorInfo::store(const MvCalendarCellColorRole &role, const M
 void MvCalendarCellColorInfo::createMissingInfos(const MvCalendarCellDefaultColors &defaults)
 {
     const QList<MvCalendarCellType> types = MvCalendarCellType::allTypes().singleTypes();
-    for (const MvCalendarCellType &type : types) { // sources have lower bits than what is made from them
+    for (const MvCalendarCellType &type :
+         types) { // bits of source types are lower than those of the types derived from them
         if (hasColorsOf(type))
             continue;
         const MvCalendarCellType source = type.synthetizingSource();

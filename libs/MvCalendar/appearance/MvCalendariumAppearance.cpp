@@ -15,9 +15,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString headerSeparator = u"$$"_s;
-const QString headerDollar = u"$\u2060"_s; // one that is no part of a separator
+const QString headerDollar = u"$\u2060"_s; // a dollar sign that cannot be read as a separator
 
-// what calendariumOptions() answers with
+// returned by calendariumOptions()
 constexpr int holidaysOption = 1;
 constexpr int holidayColorsOption = 2;
 

@@ -63,7 +63,7 @@ void MvCalendariumAppearanceImpl::setLayoutSchema(const MvCalendariumLayoutSchem
 {
     if (schema.optimizedSize().isValid())
         optimizedSize = schema.optimizedSize();
-    else if (layoutSchema.optimizedSize().isValid()) // came with the layout that goes
+    else if (layoutSchema.optimizedSize().isValid()) // came with the layout that is being replaced
         optimizedSize = MAGNITUDE_A4;
     layoutSchema = schema;
 }

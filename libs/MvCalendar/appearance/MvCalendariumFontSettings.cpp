@@ -24,7 +24,7 @@ const QString letterSpacingKey = u"font-letter-spacing"_s;
 
 constexpr int defaultHolidayPercentage = -50;
 constexpr double minimumSizeDpi = 254.0; // one pixel of the page is a tenth of a millimetre
-constexpr double mostPoints = 10000.0;   // files may say anything
+constexpr double mostPoints = 10000.0;   // values from files may be out of range
 
 constexpr int leastPercentage = -100;
 constexpr int mostPercentage = 900;

@@ -18,7 +18,7 @@ namespace {
 constexpr int defaultBorderWidth = 2;
 const QString defaultAlignment = u"AlignCenter"_s;
 
-// files may say anything
+// values from files may be out of range
 constexpr int mostBorderWidth = 200;
 constexpr int mostFontSize = 10000;
 constexpr double mostPadding = 10000.0;

@@ -100,7 +100,7 @@ MvUserColorSchemata::Result MvUserColorSchemata::remove(const MvCalendariumColor
     registry.removeId(id);
     const Result result = save(id);
     if (result.isOk())
-        registry.unsetIgnoreSchema(id); // another one may get it some day
+        registry.unsetIgnoreSchema(id); // another schema may be given this id later
     else
         before.putBack();
     return result;

@@ -113,7 +113,7 @@ MvUserSchemaFile::Saved MvUserSchemaFile::save(const Areas &mine, const std::fun
     const Content theirs = load();
     if (!theirs.isWhole) {
         const QString aside = MvSafeFileWriter::setAside(target);
-        if (aside.isEmpty()) // better an unsaved change than a lost file
+        if (aside.isEmpty()) // an unsaved change is better than a lost file
             return failed(tr("Was darin steht, ist nicht ganz zu lesen und ließ sich nicht beiseitelegen."));
         qWarning().noquote() << u"%1, set aside as %2"_s.arg(
             theirs.error.isEmpty() ? target.filePath() + u": not all of it can be kept"_s : theirs.error, aside);

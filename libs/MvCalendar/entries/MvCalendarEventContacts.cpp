@@ -24,7 +24,7 @@ MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPa
     MvCalendarEvent event(person.name(), MvCalendarEvent::startOf(person.birthday()), true, MvFoto(), person.uuid(),
                           QDateTime::currentDateTime());
     QString error;
-    if (!event.takeFoto(foto, &error)) // a birthday without its picture is better than none
+    if (!event.takeFoto(foto, &error)) // the birthday is kept even without its picture
         qWarning().noquote() << error;
     return event;
 }

@@ -60,7 +60,7 @@ QString whyInvalid(const MvCalendarEvent &event, const MvCalendarEventTexts &tex
     return reasons.join(u", "_s);
 }
 
-/// The entries of a list; the reader stands on its root element and is left on that's end.
+/// Reads the entries of a list. The reader is at the root element before and at its end afterwards.
 void readEntries(QXmlStreamReader &reader, const QFileInfo &file, MvCalendarEventFile::Content &content)
 {
     Gathering gathering;
@@ -99,7 +99,7 @@ QString noteOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &f
     return note.arg(file.filePath(), paths.first());
 }
 
-/// A list of the entry alone; of none, when it is invalid.
+/// A list with only this entry; an empty list for an invalid one.
 QByteArray documentOf(const MvCalendarEvent &event)
 {
     QDomDocument document;
@@ -119,7 +119,7 @@ QByteArray entryIn(const QByteArray &document)
 
 constexpr qsizetype usualBytesOfEntry = 320;
 
-/// Nothing in it is written in any other way than it is.
+/// Whether the text needs no escaping.
 bool isPlain(const QString &text)
 {
     const auto isOrdinary = [](QChar c) {
@@ -152,7 +152,7 @@ bool appendPlain(QByteArray &bytes, const QList<std::pair<QString, QString>> &te
 
 MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
 {
-    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    const QFileInfo present(file.filePath()); // the given QFileInfo may have cached an older state
     Content content;
     MvXMLLoader::Error error;
     const QByteArray bytes = MvXMLLoader::loadBytes(present, &error, MvXMLLoader::Limits::ofStreams());

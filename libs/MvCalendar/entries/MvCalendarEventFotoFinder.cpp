@@ -50,7 +50,7 @@ MvFoto MvCalendarEventFotoFinder::find(const QString &text)
     return MvFoto(key);
 }
 
-/// Known to lie in the photo folder without asking the disk again.
+/// Whether the file is known to lie in the photo folder, without a look at the disk.
 bool MvCalendarEventFotoFinder::isPlainPhoto(const QString &path)
 {
     const QString folder = m_fotoFolder.absolutePath() + u'/';

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QDir presentFolder() // which need not exist
+QDir presentFolder() // it may not exist
 {
     return QDir(
         MvDirectoryConfig::instance().programDataDir().filePath(MvCalendarEvent::imageDirectoryName.toString()));

@@ -18,7 +18,7 @@ bool isSame(const MvCalendarEvent &a, const MvCalendarEvent &b)
     return Content(a, Content::everything) == Content(b, Content::everything);
 }
 
-/// The uuids that do not say who an entry is: none, and those of series.
+/// The uuids that do not identify a single entry: the null uuid, and those shared by a series.
 class SharedUuids
 {
 public:
@@ -40,7 +40,7 @@ private:
     QSet<QUuid> m_uuids;
 };
 
-/// Which entry of one list is which of another.
+/// Which entry of one list corresponds to which entry of another.
 class Pairing
 {
 public:
@@ -63,7 +63,7 @@ public:
     // positions; -1 without a partner
     qsizetype toSecond(qsizetype first) const { return first < 0 ? -1 : m_toSecond[size_t(first)]; }
     qsizetype toFirst(qsizetype second) const { return m_toFirst[size_t(second)]; }
-    /// The uuid did not say that it is this one.
+    /// The partner was not found by its uuid.
     bool isDoubtful(qsizetype first) const { return m_isDoubtful[size_t(first)]; }
 
 private:
@@ -120,7 +120,8 @@ private:
         }
     }
 
-    /// A series of which each list has one entry looks like one entry: another name on another day is a doubt.
+    /// When each list has one entry of a series, the two look like one entry; if both name and day differ, they may not
+    /// be.
     void noteStrangers()
     {
         for (qsizetype i = 0; i < m_first.size(); ++i) {
@@ -140,8 +141,8 @@ private:
     std::vector<bool> m_isDoubtful;
 };
 
-/// Both have changed the entry: each field that only one of them has changed is that one's, the others are those of the
-/// later change.
+/// Merges an entry that both sides have changed: a field that only one side changed is taken from that side, a field
+/// that both changed from the later change.
 MvCalendarEvent mergedFields(const MvCalendarEvent &base, const MvCalendarEvent &mine, const MvCalendarEvent &theirs)
 {
     const bool isMineLater = !(mine.lastChanged() < theirs.lastChanged());
@@ -254,7 +255,7 @@ private:
         }
     }
 
-    /// What both sides came to on different ways is there once, unless one of them has it more often.
+    /// Equal entries that both sides arrived at independently are kept once, or as often as the side with more of them.
     MvCalendarEventList withoutSurplus() const
     {
         const auto counted = [](const MvCalendarEventList &events) {

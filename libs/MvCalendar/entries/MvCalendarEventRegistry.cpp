@@ -137,7 +137,7 @@ QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key, c
 
 // ---- lists
 
-/// What the user's file brings by itself.
+/// What the user's file contains when it is read.
 void MvCalendarEventRegistry::replaceEvents(const MvCalendarEventList &events)
 {
     if (m_openChanges > 0 && m_keptProject == activeModelId()) {

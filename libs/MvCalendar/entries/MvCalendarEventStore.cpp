@@ -161,7 +161,7 @@ MvCalendarEventList MvCalendarEventStore::withChangesOfOthers(const MvCalendarEv
         return events;
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file()); // also when it is gone by now
     noteContent(content);
-    if (!isList(content)) // nobody has removed all entries that way
+    if (!isList(content)) // an unreadable file does not mean that all entries were removed
         return events;
     MvLogger::legacyLog(u"CalendarEvents ACTION:mergeOtherInstance VALUE:%1"_s.arg(content.events.size()));
     return MvCalendarEventMerge::threeWay(MvCalendarEventMerge::withoutRepetitions(m_inFile), // as others read it
@@ -190,7 +190,7 @@ void MvCalendarEventStore::keep(const MvCalendarEventList &events, const Adopt &
     tryPending(adopt);
 }
 
-/// The very list was written here, and nobody has touched the file since.
+/// This list was written by this program and the file has not changed since.
 bool MvCalendarEventStore::isInFile(const MvCalendarEventList &events) const
 {
     return m_isWrittenHere && m_inFile.isSharedWith(events) && !m_stamp.isEmpty() &&

@@ -33,7 +33,7 @@ MvCalendariumCellLine::MvCalendariumCellLine(const MvTextFitter &fitter, const Q
     m_isCut = fitted.isCut;
     m_text = fitted.lines.value(0);
     if (m_text.trimmed() == u"…")
-        m_text.clear(); // says nothing
+        m_text.clear(); // an ellipsis alone tells a reader nothing
     setFont(fitted.font);
     const int smallest = std::max(1, static_cast<int>(std::ceil(fitter.floor())));
     while (m_ink.height() > room.height() && m_font.pixelSize() > smallest) {
@@ -41,7 +41,7 @@ MvCalendariumCellLine::MvCalendariumCellLine(const MvTextFitter &fitter, const Q
         setFont(resized(m_font, std::clamp(size, smallest, m_font.pixelSize() - 1)));
     }
     if (m_ink.height() > room.height() || m_ink.width() > room.width() + roundingSlack) {
-        m_isCut = true; // not even an ellipsis has room
+        m_isCut = true; // there is no room even for an ellipsis
         m_text.clear();
     }
 }

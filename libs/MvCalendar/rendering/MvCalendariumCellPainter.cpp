@@ -30,7 +30,7 @@ constexpr double holidayTextsFromHeight = 60.0;
 constexpr double textGap = 5.0; // between texts and what else is in the cell
 const QString tallestDigit = u"8"_s;
 const QString widestNumber = u"22"_s;
-const QString broadestNumber = u"24"_s; // by what is seen of it
+const QString broadestNumber = u"24"_s; // widest ink
 constexpr double numberAir = 0.3;       // of the type's size, between two numbers side by side
 constexpr double leastNumberAir = 0.1;  // nearer than that, two numbers read as one
 constexpr double mostPixels = 8192.0;   // of a photo in a cell, on each side
@@ -101,12 +101,12 @@ std::pair<MvFittedText, Block> fitInk(const MvTextFitter &fitter, double height,
     return best;
 }
 
-/// Texts with what is seen of them no higher than `height`: in the room less its paddings, or in the widest.
+/// Fits texts whose ink is at most `height` high: into the room less its paddings, or else into the widest room.
 std::pair<MvFittedText, Block> fitWide(const MvTextFitter &fitter, double height, const QRectF &inner,
                                        const QRectF &widest, const QStringList &texts)
 {
     MvFittedText fitted = fitter.fitRunning(inner.size(), texts, separator);
-    if (fitted.isCut || fitted.font != fitter.font()) // paddings give before letters become smaller
+    if (fitted.isCut || fitted.font != fitter.font()) // paddings are used up before letters become smaller
         fitted = fitter.fitRunning(widest.size(), texts, separator);
     const Block block = stacked(fitted, widest);
     if (!block.lines.isEmpty() && !fitted.isCut && block.ink.height() <= height)
@@ -183,7 +183,7 @@ void MvCalendariumCellPainter::drawFittingText(const QRectF &rect, const MvCalen
     const QRectF inner = rect.marginsRemoved(m_renderer.padding(type));
     const MvTextFitter fitter = m_renderer.fitter(type);
     MvCalendariumCellLine line(fitter, {inner.intersected(rect).width(), rect.height()}, text);
-    if (line.isCut()) // paddings give before letters do
+    if (line.isCut()) // paddings are used up before the text is shortened
         line = MvCalendariumCellLine(fitter, {rect.width() - 2.0 * smallCellMargin, rect.height()}, text);
     if (line.isCut())
         m_renderer.reportUnfitting(date, text, rect);
@@ -213,7 +213,7 @@ MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, c
     const bool isTooNear =
         size == sizes.cend() && inkOf(broadestNumber).width() + leastNumberAir * font.pixelSize() > rect.width();
     if (line.isCut() || isTooNear || inkOf(tallestDigit).height() > rect.height() - hair)
-        return {fixed, QSizeF(), number}; // half a number is none, and all of a page have room or none has
+        return {fixed, QSizeF(), number}; // no number is cut: either all numbers of a page fit or none is shown
     line.align(rect.marginsRemoved(m_renderer.padding(type)), int(m_renderer.textAlignment(type)));
     const bool isTight = inkOf(tallestDigit).height() > rect.height() - 2.0 * leastMargin;
     const double upright = isTight ? hair / 2.0 : leastMargin;
@@ -235,7 +235,7 @@ void MvCalendariumCellPainter::drawNumber(const QRectF &rect, const MvCalendarCe
 
 void MvCalendariumCellPainter::reportMissingTexts(const QRectF &rect, const QDate &date)
 {
-    if (!m_renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS)) // knows days by their colours alone
+    if (!m_renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS)) // the layout marks days by colour only
         return;
     const QStringList texts = m_renderer.describeHolidays(date);
     for (const QString &text : texts)
@@ -255,7 +255,7 @@ void MvCalendariumCellPainter::drawDayNumber(const QRectF &rect, const QDate &da
     drawBackground(rect, config, even);
     if (rect.width() > holidayTextsFromWidth && rect.height() > holidayTextsFromHeight) {
         if (drawHoliday(rect, date, even))
-            return; // the photo stands for the number
+            return; // the photo takes the place of the number
     } else {
         Q_EMIT m_renderer.rectForDateFound(date, rect);
         reportMissingTexts(rect, date);

@@ -119,7 +119,7 @@ void MvCalendariumMonthRenderer::drawFittingCell(QPainter &painter, const QRectF
     const QRectF inside = rect.adjusted(lineAir, lineAir, -lineAir, -lineAir);
     const MvTextFitter fitter = this->fitter(type);
     MvCalendariumCellLine line(fitter, {inner.intersected(inside).width(), inside.height()}, text);
-    if (line.isCut()) { // paddings give before letters do
+    if (line.isCut()) { // paddings are used up before the text is shortened
         const double air = textGap * smallestPixelSize(type);
         line = MvCalendariumCellLine(fitter, {rect.width() - air, inside.height()}, text);
     }

@@ -32,6 +32,11 @@ class QPainter;
 /// Draws a calendarium: the base of all layouts. A renderer lives for one page: make it (MvCalendariumRendererFactory),
 /// configure it, connect to its signals, render as often as needed. GUI thread.
 ///
+/// A call of render() is a pass: the renderer goes through the dates of its page once, tells each date's rectangle, and
+/// paints. It divides its rectangle with numbers before, so that painting only fills in what was decided. Backgrounds
+/// are collected by colour and painted beneath everything as one path each, since neighbouring rectangles would show a
+/// hairline between them. Texts without room are listed by the pass that found no room for them.
+///
 /// Lengths are page units, tenths of a millimetre; the painter must be scaled so that its units are page units. Texts
 /// are measured at 200 dots per inch.
 class MVCALENDAR_EXPORT MvCalendariumRenderer : public QObject

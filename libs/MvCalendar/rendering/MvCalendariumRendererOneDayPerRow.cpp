@@ -248,7 +248,7 @@ void MvCalendariumRendererOneDayPerRow::renderDay(QPainter &painter, const QRect
     renderColumn(painter, rect, date, y, x, numberEmptyOfColumns());
 }
 
-/// Of everything that stands in a row: that of its number.
+/// The baseline of a row, taken from its number.
 double MvCalendariumRendererOneDayPerRow::baseline(const QRectF &row, const QDate &date) const
 {
     const MvCalendarCellType type = contentCellType(date, FEATURE_HOLIDAYS);

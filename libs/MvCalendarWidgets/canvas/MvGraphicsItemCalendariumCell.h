@@ -45,7 +45,7 @@ public:
 
     /// "Samstag, 5. Juni 2027"
     QString accessibleName() const;
-    /// What is on the day; empty unless somebody tells.
+    /// What is on the day; empty until it is set.
     QString accessibleDescription() const { return m_describe ? m_describe(m_date) : QString(); }
     void setDescriber(const std::function<QString(const QDate &)> &describe) { m_describe = describe; }
     /// On the screen, in the scene's first view; empty when no view shows it.

@@ -204,7 +204,7 @@ void MvCalendarDayEditorDialog::openDayEditorSeries(const MvCalendarEvent &event
 
 void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event, bool series)
 {
-    // two editors of one entry would make two of it
+    // a second editor of the same entry would save a second, different version of it
     if (MvCalendarDayEditorDialog *other = otherEditor(event)) {
         other->raise();
         other->activateWindow();
@@ -314,7 +314,7 @@ bool MvCalendarDayEditorDialog::isTouched() const
            !(m_fotoField->foto() == m_openedEvent.foto());
 }
 
-/// Somebody has deleted the entry. What the user has entered is not thrown away.
+/// The entry has been deleted elsewhere. What the user has typed is kept.
 void MvCalendarDayEditorDialog::loseEntry()
 {
     const QString name = MvStringHelper::simplifiedName(m_openedEvent.description());

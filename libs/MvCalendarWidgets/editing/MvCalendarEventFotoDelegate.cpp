@@ -104,7 +104,7 @@ bool MvCalendarEventFotoDelegate::editorEvent(QEvent *event, QAbstractItemModel 
 
 // ---- painting
 
-/// Asked for every row of the list; the photo itself is not.
+/// Called for every row of the list, so the photo itself is not loaded.
 QSize MvCalendarEventFotoDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &) const
 {
     const int height = std::max(smallestHeight, 3 * option.fontMetrics.height());

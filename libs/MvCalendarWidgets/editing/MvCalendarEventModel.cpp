@@ -47,7 +47,7 @@ void changeFoto(MvCalendarEvent &event, const QString &path)
         MvDiskAccessRequest::instance().takeFotosFailed({error});
 }
 
-/// What is no name, or the present one as a file wrote it, changes nothing.
+/// An empty name, or the present one in the form of the file, changes nothing.
 void changeName(MvCalendarEvent &event, const QString &text)
 {
     const QString name = MvStringHelper::simplifiedName(text);

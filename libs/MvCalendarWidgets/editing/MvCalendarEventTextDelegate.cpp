@@ -25,7 +25,7 @@ QString MvCalendarEventTextDelegate::displayText(const QVariant &value, const QL
     return MvPrintableText::inShort(QStyledItemDelegate::displayText(value, locale));
 }
 
-/// Asked for every row of the list: no text is laid out.
+/// Called for every row of the list, so no text is laid out.
 QSize MvCalendarEventTextDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const bool isDate = index.column() == MvCalendarEventModel::DateColumn;

@@ -63,7 +63,7 @@ void takeColors(MvCalendariumColorSchema &schema, const MvCalendariumColorSchema
     }
 }
 
-/// A background that is told from the given one and keeps its hue; one that shows the page gets a veil of ink.
+/// The background a little lighter or darker, in the same hue; a transparent one becomes a faint layer of ink.
 QColor tinted(const QColor &background, const QColor &ink)
 {
     if (background.alpha() == 0) {
@@ -338,7 +338,7 @@ MvCalendariumColorCellInfo MvCalendariumColorSchemaModel::cellColors(const Row &
 QString MvCalendariumColorSchemaModel::contrastWarning(int row) const
 {
     const QColor text = colorSchema().cellColor(key(index(row, TextColumn)).correctedToSourceParity());
-    const double ratio = text.alpha() == 0 ? recommendedContrast : contrast(row); // unseen on purpose
+    const double ratio = text.alpha() == 0 ? recommendedContrast : contrast(row); // invisible text is intended
     if (ratio >= recommendedContrast)
         return {};
     const QLocale locale = MvApplicationLocale::instance().locale();
@@ -377,7 +377,7 @@ MvCalendariumColorSchema MvCalendariumColorSchemaModel::withCoupling(const MvCal
     }
     before = on ? SavedSchema(colorSchema()) : std::nullopt;
     if (!m_states.parities)
-        schema.copyParities(true, false); // weeks that alternated before do not again
+        schema.copyParities(true, false); // weeks that alternated before stay equal
     if (!on && schema.haveSameColors(follower.synthetizingSource(), follower))
         tint(schema, follower, {MvParityLogicEnum::even, MvParityLogicEnum::odd});
     return schema;

@@ -372,7 +372,7 @@ void MvCalendariumContentConfigEditor::setLanguage(const MvLocale &language)
 
 void MvCalendariumContentConfigEditor::setProvince(const MvLocale &language, const QString &province)
 {
-    const QSignalBlocker blocker(m_provinceBox); // filling is not choosing: one change at most, at the end
+    const QSignalBlocker blocker(m_provinceBox); // filling the box emits at most one change, at the end
     const QString before = m_provinceBox->currentData().toString();
     const MvCalendariumHolidayCalculator &calculator = MvCalendariumHolidayCalculator::instance();
     captionProvinces(language);
@@ -418,7 +418,7 @@ bool MvCalendariumContentConfigEditor::eventFilter(QObject *watched, QEvent *eve
     return true;
 }
 
-/// Where there is nothing to choose from, or nothing to choose it for, the box only tells what holds.
+/// When there is no choice, or it would have no effect, the box is disabled and shows the present value.
 void MvCalendariumContentConfigEditor::enableProvinceBox()
 {
     constexpr int wholeCountryAndOne = 2;

@@ -29,7 +29,7 @@ void MvColorSwatch::paint(QPainter &painter, const QRect &rect, const QColor &co
     if (color.isValid())
         painter.fillRect(rect, color);
     QColor frame = palette.color(QPalette::Text);
-    frame.setAlphaF(0.35F); // told from any base and any swatch
+    frame.setAlphaF(0.35F); // visible on every background and beside every swatch
     painter.setPen(frame);
     painter.drawRect(rect.adjusted(0, 0, -1, -1));
     painter.restore();

@@ -155,7 +155,7 @@ void MvDateEdit::onTextEdited()
     setError({});
 }
 
-// The base is never to judge or to complete a text.
+// The base class must neither validate nor complete a text.
 
 QValidator::State MvDateEdit::validate(QString &, int &) const
 {

@@ -19,7 +19,7 @@ public:
     void addItem(QLayoutItem *item) override;
     int count() const override { return int(m_items.size()); }
     QLayoutItem *itemAt(int index) const override { return m_items.value(index); }
-    /// The caller owns what was taken; null for an index that there is not.
+    /// The caller owns what was taken; null for an index out of range.
     QLayoutItem *takeAt(int index) override;
 
     Qt::Orientations expandingDirections() const override { return {}; }

@@ -77,7 +77,7 @@ void MvFontFamilyBox::finishTyping()
     setEditText(itemText(currentIndex()));
 }
 
-/// A box that is taken away while somebody types in it says no editingFinished().
+/// A box that is removed while it is being typed in emits no editingFinished().
 void MvFontFamilyBox::hideEvent(QHideEvent *event)
 {
     finishTyping();

@@ -101,7 +101,7 @@ void MvStyle::drawComplexControl(ComplexControl control, const QStyleOptionCompl
     if (const auto *button = qstyleoption_cast<const QStyleOptionToolButton *>(option);
         control == CC_ToolButton && button != nullptr &&
         !button->features.testFlag(QStyleOptionToolButton::MenuButtonPopup)) {
-        QStyleOptionToolButton plain = *button; // a button that is a menu's needs no speck in its corner
+        QStyleOptionToolButton plain = *button; // no menu arrow on buttons that only open a menu
         plain.features.setFlag(QStyleOptionToolButton::HasMenu, false);
         QProxyStyle::drawComplexControl(control, &plain, painter, widget);
         return;
@@ -122,7 +122,7 @@ int MvStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget
                        QStyleHintReturn *returnData) const
 {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
-        return 0; // the style's own do not go with the program's
+        return 0; // the style's icons do not match the program's
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 

@@ -186,7 +186,7 @@ void MvTableView::currentChanged(const QModelIndex &current, const QModelIndex &
     m_cursorColumn = current.column();
 }
 
-/// To the place where it was, or the last row.
+/// Moves the cursor back to its place, or to the last row.
 void MvTableView::restoreCursor()
 {
     if (m_cursorRow >= 0 && model() && !currentIndex().isValid())
@@ -304,7 +304,7 @@ void MvTableView::focusInEvent(QFocusEvent *event)
         setCursor(row, m_editorColumns.first());
 }
 
-/// From one stop of the row to the next; then out of the table.
+/// Moves the focus from one stop of the row to the next, then out of the table.
 bool MvTableView::focusNextPrevChild(bool next)
 {
     const QModelIndex index = currentIndex();

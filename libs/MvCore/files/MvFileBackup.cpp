@@ -110,7 +110,7 @@ bool linkOver(const QString &path, const QString &backup)
     if (::link(QFile::encodeName(path).constData(), temporary.constData()) != 0)
         return copyOver(path, backup);
     const bool isDone = ::rename(temporary.constData(), QFile::encodeName(backup).constData()) == 0;
-    ::unlink(temporary.constData()); // also left over when both names were links to the same file
+    ::unlink(temporary.constData()); // it also remains when both names were links to the same file
     return isDone;
 }
 

@@ -49,7 +49,7 @@ MvFileDescriptor openForLock(const QByteArray &path, int flags)
     if (const int refusal = errno; !file.isOpen() && (refusal == EACCES || refusal == EPERM || refusal == EROFS)) {
         file = MvFileDescriptor(::open(path.constData(), O_RDONLY | (flags & ~O_CREAT) | always));
         if (!file.isOpen())
-            errno = refusal; // that it does not exist either is not the reason
+            errno = refusal; // report why it could not be opened, not that it does not exist
     }
     struct stat status = {};
     if (file.isOpen() && (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))) {

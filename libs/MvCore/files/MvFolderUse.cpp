@@ -19,7 +19,7 @@ bool MvFolderUse::begin()
     if (isUsing() && isInPlace())
         return true;
     m_lock = MvFileDescriptor(::open(m_path.constData(), O_CREAT | O_RDWR | O_CLOEXEC | O_NOFOLLOW, 0666));
-    if (!m_lock.isOpen()) // enough to say that it is in use
+    if (!m_lock.isOpen()) // reading is enough for the lock that marks the folder as used
         m_lock = MvFileDescriptor(::open(m_path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
     if (m_lock.isOpen() && !lock(F_RDLCK))
         m_lock = MvFileDescriptor();

@@ -49,7 +49,7 @@ bool reserve(const MvFileDescriptor &file, qint64 oldSize, qint64 newSize)
     if (result == 0 || errno == EOPNOTSUPP || errno == ENOSYS)
         return true;
     const int failure = errno;
-    [[maybe_unused]] const int ignored = ::ftruncate(file.get(), oldSize); // gives back what was reserved
+    [[maybe_unused]] const int ignored = ::ftruncate(file.get(), oldSize); // releases the reserved space
     errno = failure;
     return false;
 }
@@ -88,7 +88,7 @@ public:
 
     QString previousFile() const { return file(u"previous"_s); }
 
-    /// Puts everything on disk; the name of the file comes last and says that the rest is complete. The folder must
+    /// Writes everything to disk. The file's name is written last and marks the rest as complete. The folder must
     /// not exist.
     bool spread(const QString &path, const QByteArray &before, const QByteArray &after)
     {
@@ -109,7 +109,8 @@ public:
         const QStringList copies = QDir(m_folder).entryList({u"previous*"_s, u"new*"_s}, QDir::Files | QDir::Hidden);
         for (const QString &copy : copies)
             QFile::remove(m_folder + u'/' + copy);
-        ::unlink(QFile::encodeName(targetFile()).constData()); // last: as long as it is there, the folder is ours
+        ::unlink(
+            QFile::encodeName(targetFile()).constData()); // removed last: while it exists, the folder belongs to us
         ::rmdir(QFile::encodeName(m_folder).constData());
         m_lock.close();
     }
@@ -117,7 +118,7 @@ public:
     /// Goes on where a program stopped. The path, if its file was half written and is whole now; else an empty one.
     QString finish()
     {
-        if (!lock(0)) { // its program lives, or stopped before it had put anything in
+        if (!lock(0)) { // its program still runs, or stopped before it had written anything
             ::rmdir(QFile::encodeName(m_folder).constData());
             return {};
         }
@@ -153,7 +154,7 @@ private:
             ::open(QFile::encodeName(targetFile()).constData(), flags | O_RDWR | O_CLOEXEC | O_NOFOLLOW, 0600));
         struct stat status = {};
         return m_lock.isOpen() && ::flock(m_lock.get(), LOCK_EX | LOCK_NB) == 0 &&
-               ::fstat(m_lock.get(), &status) == 0 && status.st_nlink > 0; // else it was just removed
+               ::fstat(m_lock.get(), &status) == 0 && status.st_nlink > 0; // otherwise it was removed meanwhile
     }
 
     QString m_folder;

@@ -34,7 +34,7 @@ bool isClosedTo(int systemError)
     return systemError == EACCES || systemError == EPERM || systemError == EROFS;
 }
 
-/// One replacing of one file.
+/// Replaces one file.
 class Replacement
 {
 public:
@@ -66,7 +66,7 @@ public:
     {
         return !m_exists || ::faccessat(AT_FDCWD, m_encodedPath.constData(), W_OK, AT_EACCESS) == 0;
     }
-    /// Extended attributes of programs went lost.
+    /// Whether extended attributes could not be kept.
     bool hasLostNotes() const { return m_kept == MvFileAttributes::Kept::WithoutNotes; }
 
     /// Writes the new content beside the old one, complete and on disk.

@@ -24,7 +24,7 @@ constexpr int smoothQuality = 90;              // of scaled decoding: smooth ins
 constexpr qint64 quickPixels = 4'500'000;      // decoded in some 50 ms
 constexpr qint64 quickBytes = 16 << 20;        // a file to be looked through
 constexpr int quickScans = 12;                 // as in usual progressive files
-constexpr qint64 largePixels = 16'000'000;     // from here on, a file must have something to show for its size
+constexpr qint64 largePixels = 16'000'000;     // above this, the file must hold a plausible amount of data
 constexpr qint64 mostPixelsPerByte = 4096;     // a blank page as a bitmap still has more
 constexpr qint64 mostPixelsPerByteAtAll = 256; // of JPEG and BMP
 constexpr qint64 largeMemory = 128 << 20;      // bytes; one such image at a time
@@ -133,7 +133,7 @@ QSize MvGuardedImageReader::size() const
     return isTurned() ? size.transposed() : size;
 }
 
-/// All of the file, unlike what its head alone tells.
+/// Checks the whole file, not only its header.
 void MvGuardedImageReader::lookThrough()
 {
     if (std::exchange(m_isLookedThrough, true))
@@ -166,7 +166,7 @@ bool MvGuardedImageReader::isQuick()
     return m_scans <= quickScans;
 }
 
-/// A large picture needs something to show for it in the file.
+/// Whether the file holds too little data for a picture of its size.
 bool MvGuardedImageReader::isHollow(const QSize &full) const
 {
     const qint64 pixels = pixelsOf(decodedSize(full));
@@ -195,7 +195,7 @@ bool MvGuardedImageReader::isWithinLimits(const QSize &full, const QSize &target
 {
     const QSize decoded = decodedSize(full);
     const QString size = tr("%1 × %2 Bildpunkte").arg(decoded.width()).arg(decoded.height());
-    // decoders fill up what is missing; so little is no picture
+    // decoders fill in missing data; too little of it is not a picture
     const bool isCutOff = m_mayBeCutOff && pixelsOf(full) / mostPixelsPerByteAtAll > m_source->size();
     if (full.isEmpty() || target.isEmpty() || isCutOff)
         m_error = tr("Die Datei ist beschädigt oder nicht vollständig.");
@@ -232,7 +232,7 @@ QImage MvGuardedImageReader::decode(const QSize &full, const QSize &target)
     if (full.width() > 2 * target.width() && full.height() > 2 * target.height())
         m_reader->setScaledSize(isTurned() ? 2 * target.transposed() : 2 * target);
     QImage image = m_reader->read();
-    if (image.isNull() || m_device->hasRunOut()) // decoders make do with half a file
+    if (image.isNull() || m_device->hasRunOut()) // decoders accept truncated files
         return {};
     if (image.size() != target)
         image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

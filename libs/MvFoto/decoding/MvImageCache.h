@@ -35,7 +35,7 @@ public:
     /// The kept image, or the one that `make` gives. Null images are kept too, so that a broken file is read once.
     QImage image(const Key &key, const std::function<QImage()> &make);
 
-    /// The kept image; null without one. Waits for nobody.
+    /// The kept image; null without one. Never waits.
     QImage kept(const Key &key);
     void clear();
     /// Sum of the kept images in bytes; never above the limit.

@@ -6,7 +6,7 @@
 
 /// Hands an image file to a decoder, read-only: only some stretches of it if need be, and only as long as the thread
 /// has computing time left for it. Afterwards every reading fails, so that the decoder gives up. (Computing time: a
-/// slow disk is nobody's fault.)
+/// slow disk does not count against the file.)
 class MvImageDevice : public QIODevice
 {
 public:

@@ -37,7 +37,7 @@ QImage MvImageLoader::read(const QFileInfo &file, const QSize &bounds)
 
 QString MvImageLoader::error(const QFileInfo &file)
 {
-    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    const QFileInfo present(file.filePath()); // the given QFileInfo may have cached an older state
     {
         const QMutexLocker lock(&m_mutex);
         const QString known = m_errors.value(keyFor(present, QSize()));
@@ -46,7 +46,7 @@ QString MvImageLoader::error(const QFileInfo &file)
     }
     MvGuardedImageReader reader(present);
     if (reader.size().isEmpty())
-        reader.read({}); // tells why
+        reader.read({}); // sets the error
     return reader.error();
 }
 

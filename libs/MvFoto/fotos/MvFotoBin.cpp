@@ -96,7 +96,7 @@ void MvFotoBin::empty(const QDate &today, const QSet<QString> &needed) const
         QDir folder(m_folder.filePath(day));
         const QString note = folder.filePath(u".ueberfaellig"_s);
         if (!date.isValid() || date.daysTo(today) <= daysKept) {
-            QFile::remove(note); // a clock was ahead
+            QFile::remove(note); // made when the clock was ahead
             continue;
         }
         if (!isOverdueForLong(note, today))

@@ -39,7 +39,7 @@ MvFotoStock::MvFotoStock(QObject *parent)
     : QObject(parent)
     , m_givenUp(std::make_shared<std::atomic_bool>(false))
 {
-    m_pool.setMaxThreadCount(1); // the window keeps a core
+    m_pool.setMaxThreadCount(1); // leaves a core to the window
 }
 
 MvFotoStock::~MvFotoStock()
@@ -77,7 +77,7 @@ bool MvFotoStock::lacks(int page) const
 
 QImage MvFotoStock::scaled(const QFileInfo &file, const QSize &bounds)
 {
-    const QFileInfo present(file.filePath()); // the given one may remember an older state
+    const QFileInfo present(file.filePath()); // the given QFileInfo may have cached an older state
     if (bounds.isEmpty() || !present.isFile())
         return {};
     const Key key{present.absoluteFilePath(), present.lastModified().toMSecsSinceEpoch(), present.size(), bounds};

@@ -59,7 +59,8 @@ MvPictureIntake::Result MvPictureIntake::put(const QByteArray &bytes, const QDir
 {
     MvGuardedImageReader reader(bytes);
     const QSize size = reader.size();
-    const QImage image = read(&reader, longestSide); // also of one that is fit: only what opens is a picture
+    const QImage image =
+        read(&reader, longestSide); // decoded even if it is kept as it is, to make sure that it is a picture
     if (image.isNull())
         return {{}, reader.error()};
     const bool isJpeg = reader.format() == "jpeg";

@@ -98,7 +98,7 @@ QPainterPath joined(const QList<MvPlacedOutline> &lines)
     return path;
 }
 
-/// On a raster as many pixels as the device has there, which looks better than what its painter makes of many more.
+/// Scales pictures to the device's own pixels on raster targets; that looks better than letting the painter scale them.
 QImage fittedToDevice(const QPainter &painter, const MvTextOutline::Picture &picture)
 {
     if (!isRaster(painter))

@@ -147,8 +147,8 @@ void MvPaintRecorderEngine::intersectClip(const QPaintEngineState &now)
     change(&MvPaintState::clip, known(std::move(clip)));
 }
 
-/// A painter that is restored drops the clip and then repeats the clips it had before, one by one. They become the
-/// ones they were, so that a player need not leave them.
+/// QPainter::restore() drops the clip and then sets the earlier clips again, one by one. They are recognised and
+/// replaced by the recorded ones, so that replaying does not have to leave and enter them again.
 std::shared_ptr<const MvPaintClip> MvPaintRecorderEngine::known(std::shared_ptr<const MvPaintClip> clip) const
 {
     for (auto former = m_leftClip; former; former = former->parent) {

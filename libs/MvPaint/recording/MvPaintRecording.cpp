@@ -161,7 +161,7 @@ private:
     QList<Item> m_items;
 };
 
-/// What lies in the middle goes up, whatever noise of floating point it carries.
+/// Rounds halves up, also those that floating point has made slightly too small.
 QString number(double value)
 {
     constexpr double noise = 1e-6;

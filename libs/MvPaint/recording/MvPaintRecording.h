@@ -18,6 +18,11 @@ class QPainter;
 
 /// A finished sequence of paint operations, as an MvPaintRecorder took it down. A shared value: copies are cheap.
 ///
+/// Laying out a page takes far longer than drawing it, and only the GUI thread may do it, while the same page is drawn
+/// at several zooms, as a small picture and into a file. So pages are laid out once, into a recording; everything else
+/// replays it, in whatever thread. Recordings also answer what was painted, shape by shape, which is how pages are
+/// tested.
+///
 /// Images are shared too; one that was made over a foreign buffer needs that buffer for as long as the recording.
 class MVPAINT_EXPORT MvPaintRecording
 {
@@ -61,10 +66,11 @@ public:
     /// intersected with the clip the target has. Render hints and composition modes are those of the recording. The
     /// painter's state is as before afterwards.
     ///
-    /// Where a painter hands one thing on in the same words as another, the common one is assumed: a clip to one
-    /// rectangle is QPainter::setClipRect(QRectF), a rectangle without a pen is QPainter::fillRect(). So pixels at
-    /// the edges can differ for rectangular clip paths, for drawRect() without pen and antialiasing off the pixel
-    /// grid, and furthermore where the dashes of a rounded rectangle begin, and under opaque background mode.
+    /// QPainter reports some different calls to a paint device in the same form; the more common call is then replayed.
+    /// A clip to one rectangle becomes QPainter::setClipRect(QRectF), a rectangle without a pen becomes
+    /// QPainter::fillRect(). So pixels at the edges can differ for rectangular clip paths, for drawRect() without pen
+    /// and antialiasing off the pixel grid, where the dashes of a rounded rectangle begin, and in opaque background
+    /// mode.
     void replay(QPainter &painter) const;
 
     /// The same picture without clips, for targets that do not know any: what they and the rectangle, in page

@@ -86,8 +86,8 @@ QList<Group> groupsOf(const QPainterPath &path)
     return groups;
 }
 
-/// A path keeps a converted form that its first fill makes inside the shared record. Filling it here, where nobody
-/// else knows the path yet, leaves nothing to write for threads that fill it later.
+/// QPainterPath caches a converted form inside its shared data when it is first filled. Filling it here, before the
+/// path is shared, means that threads that fill it later only read.
 void prepareForThreads(const MvTextOutlineImpl &outline)
 {
     QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);

@@ -72,7 +72,7 @@ QList<qsizetype> graphemeEnds(const QString &text)
     return ends;
 }
 
-/// An ellipsis in place of what parted the text from its rest.
+/// Replaces the separator at the end of the text by an ellipsis.
 QString shortened(const QString &kept)
 {
     qsizetype end = kept.size();
@@ -165,7 +165,7 @@ QStringList MvLineBreaker::cutLines(const QStringList &texts)
     return cut;
 }
 
-/// What fits of the rest. A blank before the ellipsis says that whole texts are left out.
+/// As much of the rest as fits. A blank before the ellipsis means that whole texts are left out.
 QString MvLineBreaker::lastLine()
 {
     if (m_rest.text.isEmpty())

@@ -135,7 +135,7 @@ MvFittedText MvTextFitter::fitLine(double width, const QString &text) const
     const QFont &smallest = fonts.constLast();
     if (MvLineBreaker::isTooWide(most, smallest, text)) { // no size between will do
         const QString line = MvLineBreaker::elided(most, smallest, text);
-        if (MvLineBreaker::isTooWide(most, smallest, line)) // not even an ellipsis
+        if (MvLineBreaker::isTooWide(most, smallest, line)) // there is no room even for an ellipsis
             return {smallest, {}, true, {text}};
         return {smallest, {line}, true, {text}};
     }

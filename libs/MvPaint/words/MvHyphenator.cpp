@@ -24,7 +24,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestRun = 300; // letters; longer ones are no words
+constexpr qsizetype longestRun = 300; // letters; anything longer is not a word
 constexpr int mostWords = 5000;       // kept per language
 constexpr QChar softHyphen(0x00ad);
 const QString hyphen = u"-"_s; // every font has it
@@ -80,7 +80,7 @@ QList<Run> runsOf(const QString &word)
     return runs;
 }
 
-/// What libhyphen says of one word; it allocates all of it.
+/// The result of libhyphen for one word. The library allocates the buffers.
 struct Answer
 {
     /// Reads the patterns, a whole file of them, and applies them.
@@ -164,7 +164,7 @@ bool MvHyphenatorImpl::load()
 
 bool MvHyphenatorImpl::readEncoding(const QByteArray &name)
 {
-    isUtf8 = name == "UTF-8"; // so the library has it
+    isUtf8 = name == "UTF-8"; // in the library's spelling
     if (isUtf8)
         return true;
     QStringDecoder decoder(name.constData(), QStringDecoder::Flag::Stateless);

@@ -54,7 +54,7 @@ MvVCardBirthdays::Person MvVCardBirthdays::personOf(const Entry &entry, const QD
 MvVCardBirthdays::Result MvVCardBirthdays::result(Order order) const
 {
     Result result;
-    QHash<QUuid, QString> known; // who and when
+    QHash<QUuid, QString> known; // name and date by uuid
     for (const Entry &entry : m_entries) {
         const Order settled = settledOrder(entry);
         const QDate date = entry.date().date(settled == Order::Unknown ? order : settled);

@@ -51,7 +51,7 @@ public:
 
     const QList<MvCalendarPage> &pages() const { return m_pages; }
     /// Replaces a page, counted from 0, but for its month, which follows from its place. A single page that changes
-    /// from years to months is divided like those of setAppearance(). A number that there is not changes nothing.
+    /// from years to months is divided like those of setAppearance(). A number without a page changes nothing.
     void setPage(int page, const MvCalendarPage &content);
     /// The first day of each page's month.
     QList<QDate> pageDates() const;
@@ -67,7 +67,7 @@ public:
     bool isValid() const;
 
     /// Paints a page, counted from 0, in tenths of a millimetre with the origin at the trimmed page's corner. Personal
-    /// entries are those of the active list. A page that there is not stays empty.
+    /// entries are those of the active list. A number without a page paints nothing.
     void paint(QPainter &painter, int page) const;
 
     /// The pages that show entries have an end of February, and none of them a 29 February: entries of that day are

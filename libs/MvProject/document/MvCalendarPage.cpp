@@ -19,13 +19,13 @@ constexpr double tallestStrip = 0.4;         // of its width: a strip beside a p
 constexpr double narrowStrip = 900.0;        // less than that and the days take several rows,
 constexpr double tallestNarrowStrip = 450.0; // which need height
 
-/// The range of a year's page: it begins with its own first month, not with that of the whole calendar.
+/// The range of a page that shows a year: it starts with the page's first month, not with that of the whole calendar.
 MvDateRange twelveMonths(const QDate &month)
 {
     return {month, month.addMonths(monthsPerYear).addDays(-1)};
 }
 
-/// The days that both have; those of the year where there are none.
+/// The days that both ranges have in common; those of the year when there are none.
 MvDateRange partOf(const MvDateRange &calendar, const MvDateRange &year)
 {
     const MvDateRange part(std::max(calendar.start(), year.start()), std::min(calendar.end(), year.end()));
@@ -139,7 +139,7 @@ MvPaintRecording MvCalendarPage::record(const MvPageFormat &format, const MvDate
     paintCalendarium(painter, format, documentRange, prepare);
     painter.end();
 
-    MvPaintRecorder unscaled(nullptr); // takes the scale out again: shapes are shared, only transforms change
+    MvPaintRecorder unscaled(nullptr); // records in page units again: shapes are shared, only transforms change
     QPainter unscaledPainter(&unscaled);
     unscaledPainter.scale(1.0 / scale, 1.0 / scale);
     recorder.recording().replay(unscaledPainter);

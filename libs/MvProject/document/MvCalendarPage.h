@@ -23,6 +23,10 @@ class QPainter;
 
 /// One page of a calendar: a calendarium, and a photo beside it if there is one. A value.
 ///
+/// It is painted in layers: the ground of the whole sheet and the photo, which any thread may paint, and above them the
+/// line with the month and the calendarium, which ask for fonts and schemas and so belong to the GUI thread. record()
+/// turns the upper layer into a recording that other threads may replay.
+///
 /// Painting happens in tenths of a millimetre with the origin at the trimmed page's corner. Personal entries are those
 /// of the active list. Above a layout that does not show its month stands the line that the layout names for it.
 class MVPROJECT_EXPORT MvCalendarPage
@@ -74,8 +78,8 @@ public:
     void paintGround(QPainter &painter, const MvPageFormat &format) const;
     void paintPhoto(QPainter &painter, const MvPageFormat &format) const;
     /// The part above them, the line with the month and the calendarium, to be replayed in page units. It is recorded
-    /// for the rule, and its photos of entries with so many pixels per unit: who replays with s pixels per unit at most
-    /// hands on s. GUI thread; the recording may be replayed in another.
+    /// for the rule. Photos of entries are decoded with `pixelsPerUnit` pixels per page unit: pass the largest scale at
+    /// which the recording will be replayed. GUI thread; the recording may be replayed in another.
     MvPaintRecording record(const MvPageFormat &format, const MvDateRange &documentRange, const Prepare &prepare = {},
                             const MvRenderingRule &rule = MvRenderingRule(MvRenderingRule::InteractiveScreen),
                             double pixelsPerUnit = 1.0) const;

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double air = 0.86; // numbers side by side do not touch: what fits, fits into so much of the width
+constexpr double air = 0.86; // numbers may fill this part of a column's width, so that neighbours do not touch
 constexpr double step = 0.95;
 constexpr int mostSteps = 32;           // to a fifth of the size, which is the floor of every layout
 constexpr double largestLinePart = 0.5; // of the room's height
@@ -34,7 +34,7 @@ MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, co
     , m_room(room)
 {
     MvCalendariumHolidayConfig empty = content.holidayConfig();
-    empty.setFeatures(FEATURE_NONE); // long names of holidays are no reason for smaller numbers
+    empty.setFeatures(FEATURE_NONE); // long names of holidays must not make numbers smaller
     empty.setFeature(FEATURE_CALENDAR_WEEKS, content.hasFeatures(FEATURE_CALENDAR_WEEKS));
     m_content.setHolidayConfig(empty);
     if (!makeRenderer(appearance, longestMonth, 1.0)->rendersMonthInformation()) {
@@ -44,7 +44,7 @@ MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, co
     m_scale = largestScale();
 }
 
-/// Of the steps from 1 down; the last one where none leaves room.
+/// The first of the steps from 1 downwards that leaves room; the last step when none does.
 double MvCalendariumFit::largestScale() const
 {
     int tooLarge = -1;
@@ -63,17 +63,17 @@ bool MvCalendariumFit::hasRoom(double scale) const
     const QSizeF room(m_room.width(), m_room.height() - lineHeight(scale));
     if (!makeRenderer(m_appearance, longestMonth, scale)->hasRoom(room))
         return false;
-    return isYear(m_appearance) || findsNothingUnfitting(scale, room); // years say it all themselves
+    return isYear(m_appearance) || findsNothingUnfitting(scale, room); // hasRoom() of year layouts covers everything
 }
 
 bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) const
 {
-    MvCalendariumAppearance withoutHeaders = m_appearance; // which have a size of their own
+    MvCalendariumAppearance withoutHeaders = m_appearance; // headers are sized by themselves
     withoutHeaders.setColumnHeaders(QString());
     const Renderer renderer = makeRenderer(withoutHeaders, longestMonth, scale);
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
-    // a strip says itself how far its numbers are apart, and takes more rows where it is narrower
+    // strips keep their own distance between numbers, and use more rows where they are narrower
     const double width = m_appearance.type() == CALENDAR_ONE_ROW ? room.width() : air * room.width();
     renderer->render(painter, {QPointF(), QSizeF(width, room.height())});
     return renderer->unfittingTexts().isEmpty();

@@ -55,7 +55,7 @@ void MvExportJob::start()
     if (std::exchange(m_isStarted, true))
         return;
     MvPageSource source = m_document.pageSource();
-    if (!source.pages.isEmpty()) { // a document that is invalid has none
+    if (!source.pages.isEmpty()) { // invalid documents have no pages
         source.pages.clear();
         for (const int page : std::as_const(m_pages))
             source.pages.append(m_document.pageDates().at(page));
@@ -92,7 +92,7 @@ void MvExportJob::recordPage(int number)
         const MvPaintRecording recording = page.record(m_document.format(), m_document.range(), {},
                                                        MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit);
         if (!use.isComplete())
-            return; // again when they have arrived
+            return; // called again when they have been decoded
         m_feed->put(number, recording);
     }
     const MvFotoStock::Use none(*m_entryPhotos, number); // they are in the recording: nothing is to be kept
@@ -102,6 +102,6 @@ void MvExportJob::recordPage(int number)
 void MvExportJob::finish()
 {
     m_thread->wait();
-    m_thread.release()->deleteLater(); // it is still emitting
+    m_thread.release()->deleteLater(); // its signal is still being delivered
     Q_EMIT finished(m_result);
 }

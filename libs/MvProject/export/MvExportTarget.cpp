@@ -24,7 +24,7 @@ MvPageSource onePage(const MvPageSource &pages, int page)
     return one;
 }
 
-/// Tells of pages that each become a file as of pages of one.
+/// Reports the pages of several files as if they were the pages of one.
 class PageObserver : public MvExportObserver
 {
 public:

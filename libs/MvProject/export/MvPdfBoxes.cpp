@@ -41,7 +41,7 @@ void setBoxes(QPDFObjectHandle page, const MvPageFormat &format)
     page.replaceKey("/TrimBox", box(format.trimRect(), media));
 }
 
-/// Says that the file's colours are sRGB, for printers that ask.
+/// Declares that the file's colours are sRGB.
 void setOutputIntent(QPDF &pdf)
 {
     const QByteArray profile = QColorSpace(QColorSpace::SRgb).iccProfile();
@@ -59,7 +59,7 @@ void setOutputIntent(QPDF &pdf)
     pdf.getRoot().replaceKey("/OutputIntents", intents);
 }
 
-/// The date of builds that are to be equal bit by bit, as a PDF has it; empty when none is wanted.
+/// The date for reproducible builds (SOURCE_DATE_EPOCH) in the form of a PDF; empty when it is not set.
 QString reproducibleDate()
 {
     bool isGiven = false;
@@ -95,7 +95,8 @@ void setMetadata(QPDF &pdf, const MvPageSource &source)
 
     QPDFObjectHandle preferences = QPDFObjectHandle::newDictionary();
     preferences.replaceKey("/DisplayDocTitle", QPDFObjectHandle::newBool(true));
-    preferences.replaceKey("/PrintScaling", QPDFObjectHandle::newName("/None")); // millimetres are meant
+    preferences.replaceKey("/PrintScaling",
+                           QPDFObjectHandle::newName("/None")); // a calendar is printed in its true size
     pdf.getRoot().replaceKey("/ViewerPreferences", preferences);
     pdf.getRoot().replaceKey("/Lang", QPDFObjectHandle::newString(source.language.toStdString()));
 }

@@ -69,7 +69,7 @@ MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo 
     bool isWritten = false;
     if (error.isEmpty() && !isCancelled(observer)) {
         error = MvPdfBoxes::finish(raw.fileName(), source, [&](const QByteArray &content) {
-            if (isCancelled(observer)) // finishing takes its time
+            if (isCancelled(observer)) // finishing the file can take long
                 return QString();
             isWritten = true;
             return MvSafeFileWriter::write(target, content, MvSafeFileWriter::Backups::None).error;

@@ -29,7 +29,8 @@ QByteArray paintSvg(const MvPageSource &source, int page)
     generator.setResolution(resolution);
     generator.setSize(size.toSize()); // written in millimetres, rounded to the dot
     generator.setViewBox(QRectF(QPointF(), size));
-    generator.setTitle(MvPrintableText::onOneLine(source.title).toHtmlEscaped()); // it is written as it stands
+    generator.setTitle(
+        MvPrintableText::onOneLine(source.title).toHtmlEscaped()); // the generator writes it without escaping
     MvPaintRecorder recorder(&generator);
     QPainter recordingPainter(&recorder);
     source.paintPage(recordingPainter, page, {}, scale);

@@ -65,7 +65,7 @@ void MvProjectAutosave::write()
     const QByteArray bytes = MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(),
                                                     m_project->fileInfo().filePath(), m_project->fileStamp());
     m_thread.start([this, file = m_file, bytes] {
-        QString error = MvXMLLoader::check(bytes).message; // better an older state than one that does not open
+        QString error = MvXMLLoader::check(bytes).message; // an older state is better than one that does not open
         if (error.isEmpty())
             error = MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
         QMetaObject::invokeMethod(

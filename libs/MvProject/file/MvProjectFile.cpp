@@ -15,7 +15,7 @@ QString MvProjectFile::suffix()
 
 MvProjectFile::Content MvProjectFile::read(const QFileInfo &file)
 {
-    return MvProjectReader(QFileInfo(file.filePath())).read(); // the given one may remember an older state
+    return MvProjectReader(QFileInfo(file.filePath())).read(); // the given QFileInfo may have cached an older state
 }
 
 QString MvProjectFile::write(const MvCalendarDocument &document, const QFileInfo &file)

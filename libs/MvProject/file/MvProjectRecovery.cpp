@@ -23,7 +23,7 @@ void sweepLocks(const QDir &folder)
     for (const QFileInfo &lock : folder.entryInfoList({u'*' + lockSuffix}, QDir::Files)) {
         const QFileInfo file(lock.absoluteFilePath().chopped(lockSuffix.size()));
         if (!file.exists())
-            MvFileGuard(file, 0); // takes the lock with it, if nobody holds it
+            MvFileGuard(file, 0); // removes the lock file unless another program holds the lock
     }
 }
 
@@ -36,7 +36,7 @@ QList<MvProjectRecovery::Entry> MvProjectRecovery::found()
     QList<Entry> entries;
     for (const QFileInfo &file : folder.entryInfoList({u"*."_s + MvProjectFile::suffix()}, QDir::Files)) {
         if (!MvFileGuard(file, 0).isLocked())
-            continue; // its program lives
+            continue; // its program still runs
         const MvProjectFile::Content content = MvProjectFile::read(file);
         entries.append({file, content.originalPath, content.document.title(), file.lastModified()});
     }
