@@ -40,8 +40,9 @@ if(TARGET MvCalendarWidgets)
     mv_install_pc(mvcalendar-widgets MvCalendarWidgets "mvcalendar Qt6Widgets")
 endif()
 
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/docs/third-party.md
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/mvcalendar COMPONENT licences)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/mvcalendar COMPONENT licences)
+install(FILES ${PROJECT_SOURCE_DIR}/docs/third-party.md
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/mvcalendar COMPONENT tools)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES
     DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/mvcalendar COMPONENT licences)
 
