@@ -5,11 +5,13 @@ string(REPLACE "SPDX-License-Identifier: " "" licence ${licence})
 
 # The text of a licence as a paragraph of a copyright file; of one that every Debian system has, where it lies.
 function(mv_licence_text out id)
+    set(text "")
     string(REGEX REPLACE "-(or-later|only)$" "" common ${id})
     string(REGEX REPLACE "\\.0$" "" short ${common})
     foreach(name IN ITEMS ${common} ${short})
         if(EXISTS /usr/share/common-licenses/${name})
-            set(text "On Debian systems the text is /usr/share/common-licenses/${name}.")
+            string(CONCAT text "This is free software, distributed WITHOUT ANY WARRANTY; you can redistribute it and/or modify it under\n"
+                "the terms of this licence. On Debian systems its text is /usr/share/common-licenses/${name}.")
         endif()
     endforeach()
     if(NOT text)
