@@ -12,7 +12,7 @@ build_packages="g++ cmake ninja-build ccache pkg-config python3-minimal qt6-base
     hyphen-sv"
 test_packages="python3 poppler-utils qpdf libbenchmark-dev clang-format desktop-file-utils appstream mandoc
     shared-mime-info xvfb xauth dpkg-dev lintian dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
-    fonts-noto-color-emoji"
+    fonts-noto-color-emoji fonts-lato"
 nightly_packages="clang clang-tidy libclang-rt-14-dev"
 
 case "${1:-}" in
