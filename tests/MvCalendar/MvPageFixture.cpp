@@ -71,3 +71,11 @@ MvPaintRecording MvPageFixture::render(const QRectF &rect, unsigned renderingRul
     painter.end();
     return recorder.recording();
 }
+
+QStringList MvPageFixture::texts(const MvPaintRecording &recording)
+{
+    QStringList texts;
+    for (const MvPaintRecording::Item &text : recording.items(MvPaintRecording::Item::Text))
+        texts.append(text.text);
+    return texts;
+}

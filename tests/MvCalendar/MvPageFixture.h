@@ -26,6 +26,9 @@ public:
     /// One pass, in page units.
     MvPaintRecording render(const QRectF &rect, unsigned renderingRule = 0);
 
+    /// The words of its texts, in the order of painting.
+    static QStringList texts(const MvPaintRecording &recording);
+
     struct Day
     {
         QDate date;

@@ -4,11 +4,13 @@
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvEntries.h"
 #include "MvTest.h"
 
 #include <QDir>
 
 using namespace Qt::StringLiterals;
+using MvEntries::entry;
 
 namespace {
 
@@ -20,11 +22,6 @@ MvCalendariumHolidayConfig bavaria(int features = FEATURE_HOLIDAYS | FEATURE_ENT
 MvCalendariumContentKey keyOf(const QDate &day, const MvCalendariumHolidayConfig &config = bavaria())
 {
     return {MvCalendariumContentConfig(day, config), MvProjectIdentifier()};
-}
-
-MvCalendarEvent entry(const QString &name, const QDate &day)
-{
-    return MvCalendarEvent(name, day.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
 }
 
 } // namespace

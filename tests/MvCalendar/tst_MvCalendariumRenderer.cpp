@@ -1,41 +1,25 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvBoxFont.h"
+#include "MvEntries.h"
 #include "MvPageFixture.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
-#include "MvCalendar/MvCalendariumRendererMonthOnly.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvPaint/MvTextPainter.h"
 
 #include <QPainter>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
+using MvEntries::entry;
 
 using Item = MvPaintRecording::Item;
 
 namespace {
 
 const QString noEmptyWeeks = u"calendar_render_no_empty_weeks"_s;
-
-MvCalendarEvent entry(const QString &name, const QDate &date, const QString &photo = {})
-{
-    return MvCalendarEvent(name, date.startOfDay(), true, photo.isEmpty() ? MvFoto() : MvFoto(QFileInfo(photo)),
-                           QUuid::createUuid(), QDateTime());
-}
-
-QList<Item> textsIn(const MvPaintRecording &recording, const QRectF &cell)
-{
-    QList<Item> texts;
-    for (const Item &item : recording.items(Item::Text)) {
-        if (cell.contains(item.bounds.center()))
-            texts.append(item);
-    }
-    return texts;
-}
 
 } // namespace
 
@@ -55,8 +39,6 @@ private Q_SLOTS:
     void cellTypes();
     void weekdayTypesBeyondSunday();
     void calendarRange();
-    void factory_data();
-    void factory();
     void factoryFiltersCellTypes();
 
     void years_data();
@@ -79,21 +61,12 @@ private Q_SLOTS:
     void splitsTexts();
     void htmlFragments();
 
-    void passFillsBeneathTexts();
     void passKeepsTheClip();
     void translucentBackgrounds();
-    void bordersOfACell();
     void smallCellsShowNumbersOnly_data();
     void smallCellsShowNumbersOnly();
-    void textsLeaveTheNumberItsPlace();
-    void photoStandsForTheNumber();
-    void photoInAWideCell();
     void warnsOfTooWideWords();
     void invisibleTextsAreNotDrawn();
-    void monthOnly();
-
-private:
-    QTemporaryDir m_folder;
 };
 
 void tst_MvCalendariumRenderer::weeksOfMonth_data()
@@ -197,28 +170,6 @@ void tst_MvCalendariumRenderer::calendarRange()
     QCOMPARE(page.renderer().startDate(), QDate(2027, 3, 1));
     QCOMPARE(page.renderer().startDateOfCalendar(), QDate(2027, 3, 1));
     QCOMPARE(page.renderer().endDateOfCalendar(), QDate(2028, 2, 29));
-}
-
-void tst_MvCalendariumRenderer::factory_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QByteArray>("renderer");
-    QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << QByteArray("MvCalendariumRendererOneWeekPerRow");
-    QTest::newRow("two weeks") << u"CALENDAR_TWO_WEEKS"_s << QByteArray("MvCalendariumRendererTwoWeeksPerRow");
-    QTest::newRow("week columns") << u"CALENDAR_ONE_COLUMN_PER_WEEK"_s
-                                  << QByteArray("MvCalendariumRendererOneColumnPerWeek");
-    QTest::newRow("strip") << u"CALENDAR_ONE_ROW"_s << QByteArray("MvCalendariumRendererOneRow");
-    QTest::newRow("month only") << u"CALENDAR_MONTH_ONLY"_s << QByteArray("MvCalendariumRendererMonthOnly");
-    QTest::newRow("nothing") << QString() << QByteArray("MvCalendariumRendererMonthOnly");
-    QTest::newRow("two at once") << u"CALENDAR_MONTH_ONLY, CALENDAR_YEAR"_s
-                                 << QByteArray("MvCalendariumRendererMonthOnly");
-}
-
-void tst_MvCalendariumRenderer::factory()
-{
-    QFETCH(QString, type);
-    MvPageFixture page(MvPageFixture::appearance({}, {}, type), QDate(2027, 1, 1));
-    QTEST(QByteArray(page.renderer().metaObject()->className()), "renderer");
 }
 
 void tst_MvCalendariumRenderer::factoryFiltersCellTypes()
@@ -489,31 +440,6 @@ void tst_MvCalendariumRenderer::htmlFragments()
              u"<td rowspan=\"2\" colspan=\"3\" bgcolor=\"#ff0000\" width=\"14%\" >%5</td>"_s);
 }
 
-void tst_MvCalendariumRenderer::passFillsBeneathTexts()
-{
-    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
-    const QList<Item> items = page.render({0, 0, 2800, 1600}).items();
-    QCOMPARE(page.restarts, 1);
-    int lastFill = -1;
-    int firstOther = int(items.size());
-    QSet<QRgb> colors;
-    int fills = 0;
-    for (int i = 0; i < items.size(); ++i) {
-        const bool isFill = items.at(i).kind == Item::Path || items.at(i).kind == Item::Rect;
-        if (isFill) {
-            lastFill = i;
-            ++fills;
-            colors.insert(items.at(i).fill.rgba());
-        } else {
-            firstOther = qMin(firstOther, i);
-        }
-    }
-    QVERIFY(lastFill < firstOther);
-    QCOMPARE(fills, int(colors.size())); // one shape per colour
-    QVERIFY(colors.contains(qRgb(0xdd, 0xdd, 0xdd)));
-    QVERIFY(colors.contains(qRgb(0, 255, 0)));
-}
-
 void tst_MvCalendariumRenderer::passKeepsTheClip()
 {
     MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1), 0);
@@ -541,27 +467,6 @@ void tst_MvCalendariumRenderer::translucentBackgrounds()
     QCOMPARE(items.constFirst().bounds, QRectF(0, 0, 280, 160));
 }
 
-void tst_MvCalendariumRenderer::bordersOfACell()
-{
-    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
-    const QRectF first = QRectF(0, 0, 400, 400); // Monday the 1st of a month of four weeks
-    const QList<Item> lines = page.render({0, 0, 2800, 1600}).items(Item::Line);
-    QCOMPARE(page.days.constFirst().rect, first);
-    QList<QLineF> ofFirst;
-    for (const Item &line : lines) {
-        if (first.contains(line.line.p1()) && first.contains(line.line.p2()))
-            ofFirst.append(line.line);
-    }
-    // left and top are asked for; the left edge of the next and the top of the one below lie on this cell's edges
-    QVERIFY(ofFirst.contains(QLineF(0, 0, 0, 400)));
-    QVERIFY(ofFirst.contains(QLineF(0, 0, 400, 0)));
-    QVERIFY(!lines.isEmpty());
-    for (const Item &line : lines) {
-        QCOMPARE(line.strokeWidth, 2.0);
-        QVERIFY(line.line.p1().y() < 1600 && line.line.p1().x() < 2800); // no right or bottom edge of the page
-    }
-}
-
 void tst_MvCalendariumRenderer::smallCellsShowNumbersOnly_data()
 {
     QTest::addColumn<QSizeF>("cell");
@@ -575,10 +480,7 @@ void tst_MvCalendariumRenderer::smallCellsShowNumbersOnly()
 {
     QFETCH(QSizeF, cell);
     MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 5, 1));
-    const MvPaintRecording recording = page.render({0, 0, cell.width() * 7, cell.height() * 6});
-    QStringList texts;
-    for (const Item &text : recording.items(Item::Text))
-        texts.append(text.text);
+    const QStringList texts = MvPageFixture::texts(page.render({0, 0, cell.width() * 7, cell.height() * 6}));
     QVERIFY(texts.contains(u"1"_s));
     QTEST(texts.contains(u"Muttertag"_s), "hasText");
     // however small, every day has its rectangle once
@@ -589,77 +491,6 @@ void tst_MvCalendariumRenderer::smallCellsShowNumbersOnly()
         QVERIFY(qAbs(day.rect.width() - cell.width()) < 1e-6);
     }
     QCOMPARE(dates.size(), 31);
-}
-
-void tst_MvCalendariumRenderer::textsLeaveTheNumberItsPlace()
-{
-    MvCalendarEventRegistry::instance().setEvents({entry(u"Großtante Wilhelmine"_s, QDate(1950, 1, 6))});
-    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 1, 1));
-    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
-    const MvPaintRecording recording = page.render({0, 0, 2100, 1500});
-    const QRectF cell = page.days.at(5).rect;
-    const QList<Item> texts = textsIn(recording, cell);
-    QStringList names;
-    for (const Item &text : texts) {
-        names.append(text.text);
-        QVERIFY2(cell.contains(text.bounds), qPrintable(text.text));
-    }
-    QCOMPARE(names, (QStringList{u"Heilige Drei Könige"_s, u"Großtante Wilhelmine"_s, u"6"_s}));
-    QVERIFY(texts.at(0).bounds.bottom() < texts.at(1).bounds.top());
-    QVERIFY(texts.at(2).bounds.bottom() < texts.at(0).bounds.top()); // the number, top left, above both
-    QCOMPARE(texts.at(0).font.pixelSize(), 25);                      // half the number's size
-    QCOMPARE(texts.at(0).fill, QColor(u"#aa0000"_s));
-    // the last line rests on the inner rectangle's bottom
-    const double descent = 5.0;
-    QCOMPARE(texts.at(1).baseline.y(), std::trunc(cell.bottom() - 10 - descent));
-}
-
-void tst_MvCalendariumRenderer::photoStandsForTheNumber()
-{
-    const QString file = m_folder.filePath(u"foto.png"_s);
-    QImage photo(300, 400, QImage::Format_RGB32);
-    photo.fill(Qt::darkGreen);
-    QVERIFY(photo.save(file));
-    MvCalendarEventRegistry::instance().setEvents({entry(u"Opa"_s, QDate(1940, 2, 11), file)});
-    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
-    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
-    QCOMPARE(page.renderer().holidayPicture(QDate(2027, 2, 11)).size(), photo.size());
-    const MvPaintRecording recording = page.render({0, 0, 2100, 1600});
-    const QRectF cell = page.days.at(10).rect;
-    QCOMPARE(cell, QRectF(900, 400, 300, 400));
-    const QList<Item> texts = textsIn(recording, cell);
-    QCOMPARE(texts.size(), 1);
-    QCOMPARE(texts.constFirst().text, u"Opa"_s);
-    const QList<Item> images = recording.items(Item::Image);
-    QCOMPARE(images.size(), 1);
-    // inner height 380 less the line of 25 and a gap of 5; the photo keeps 3:4 and is centred
-    QCOMPARE(images.constFirst().bounds.height(), 350.0);
-    QCOMPARE(images.constFirst().bounds.top(), 410.0);
-    QVERIFY(qAbs(images.constFirst().bounds.width() - 262.5) <= 1.0);
-    QVERIFY(qAbs(images.constFirst().bounds.center().x() - cell.center().x()) <= 1.0);
-}
-
-void tst_MvCalendariumRenderer::photoInAWideCell()
-{
-    const QString file = m_folder.filePath(u"quadrat.png"_s);
-    QImage photo(100, 100, QImage::Format_RGB32);
-    photo.fill(Qt::darkBlue);
-    QVERIFY(photo.save(file));
-    MvCalendarEventRegistry::instance().setEvents(
-        {entry(u"Eva"_s, QDate(1990, 2, 11), file), entry(u"Adam"_s, QDate(1991, 2, 11))});
-    MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 2, 1));
-    page.renderer().setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
-    MvPaintRecorder recorder(nullptr);
-    QPainter painter(&recorder);
-    page.renderer().drawCellHolidayWide(painter, {0, 0, 1000, 124}, QDate(2027, 2, 11), false);
-    painter.end();
-    QCOMPARE(page.days.size(), 1);
-    // padding 10, margins 10 (wide) and 2 (low): the photo is 100 high
-    const MvPaintRecording recording = recorder.recording();
-    QCOMPARE(recording.items(Item::Image).constFirst().bounds, QRectF(20, 12, 100, 100));
-    const Item text = recording.items(Item::Text).constFirst();
-    QCOMPARE(text.text, u"Eva, Adam"_s);
-    QCOMPARE(text.baseline, QPointF(125, 107)); // 5 beside the photo, descent 5 above the inner bottom
 }
 
 void tst_MvCalendariumRenderer::warnsOfTooWideWords()
@@ -682,19 +513,6 @@ void tst_MvCalendariumRenderer::invisibleTextsAreNotDrawn()
     MvPageFixture page(appearance, QDate(2027, 5, 1));
     QVERIFY(page.render({0, 0, 2100, 1600}).items(Item::Text).isEmpty());
     QCOMPARE(page.days.size(), 31);
-}
-
-void tst_MvCalendariumRenderer::monthOnly()
-{
-    MvPageFixture page(MvPageFixture::appearance(u"calendar_render_year_long, calendar_render_month_long"_s,
-                                                 MvPageFixture::defaultCells(), u"CALENDAR_MONTH_ONLY"_s),
-                       QDate(2027, 3, 1));
-    const QList<Item> texts = page.render({0, 0, 800, 200}).items(Item::Text);
-    QCOMPARE(texts.size(), 1);
-    QCOMPARE(texts.constFirst().text, u"März 2027"_s);
-    QCOMPARE(page.renderer().minimumSizeHint(), QSize(144, 32)); // 9 characters of 12.5 pixels, rounded to 113
-    QVERIFY(page.renderer().rendersMonthInformation());
-    QVERIFY(page.days.isEmpty());
 }
 
 MV_TEST_MAIN(tst_MvCalendariumRenderer)

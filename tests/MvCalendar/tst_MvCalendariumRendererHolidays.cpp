@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvBoxFont.h"
+#include "MvEntries.h"
 #include "MvPageFixture.h"
 #include "MvTest.h"
 
@@ -7,36 +7,18 @@
 #include "MvCalendar/MvCalendariumRendererHolidays.h"
 
 using namespace Qt::StringLiterals;
-
-using Item = MvPaintRecording::Item;
+using MvEntries::entry;
 
 namespace {
 
 MvCalendariumAppearance block()
 {
-    const QString cell = u"<cell type='CALENDAR_CELL_TYPE_WEEKDAY' paddingleft='30' paddingtop='20' paddingright='10' "
-                         "paddingbottom='10'><font family='%1' pointsize='9'/></cell>"_s.arg(MvBoxFont::family());
-    return MvPageFixture::appearance(u"calendar_render_days"_s, cell, u"CALENDAR_HOLIDAYS"_s);
+    return MvPageFixture::appearance({}, MvPageFixture::defaultCells(), u"CALENDAR_HOLIDAYS"_s);
 }
 
 MvCalendariumRendererHolidays &blockOf(MvPageFixture &page)
 {
     return dynamic_cast<MvCalendariumRendererHolidays &>(page.renderer());
-}
-
-QRectF inkOf(const MvPaintRecording &recording)
-{
-    QRectF ink;
-    for (const Item &item : recording.items()) {
-        if (item.fill != QColor(u"#eeeeee"_s)) // the ground
-            ink |= item.bounds;
-    }
-    return ink;
-}
-
-MvCalendarEvent entry(const QString &name, const QDate &date)
-{
-    return MvCalendarEvent(name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
 }
 
 } // namespace
@@ -56,8 +38,6 @@ private Q_SLOTS:
     void joinsEntries();
     void entryOfEveryDay();
     void switchedOff();
-    void paintsTheBlock();
-    void whatItIs();
 };
 
 void tst_MvCalendariumRendererHolidays::describes_data()
@@ -155,31 +135,6 @@ void tst_MvCalendariumRendererHolidays::switchedOff()
     silent.setShowHolidays(false);
     MvPageFixture silenced(silent, QDate(2027, 5, 1), FEATURE_HOLIDAYS);
     QCOMPARE(blockOf(silenced).createHolidayDescription(), u"<p></p>"_s);
-}
-
-void tst_MvCalendariumRendererHolidays::paintsTheBlock()
-{
-    MvPageFixture page(block(), QDate(2027, 5, 1), FEATURE_HOLIDAYS | FEATURE_PUBLIC_HOLIDAYS_ONLY);
-    const QRectF rect(100, 200, 800, 400);
-    const MvPaintRecording recording = page.render(rect);
-    QVERIFY(page.days.isEmpty());
-    QVERIFY(page.renderer().unfittingTexts().isEmpty());
-    QCOMPARE(recording.items().constFirst().bounds, rect); // the ground of an even week
-    QCOMPARE(recording.items().constFirst().fill, QColor(u"#eeeeee"_s));
-    QCOMPARE(recording.items().constLast().fill, QColor(Qt::black));
-    const QRectF ink = inkOf(recording);
-    QVERIFY(rect.marginsRemoved({30, 20, 10, 10}).contains(ink));
-    QVERIFY(qAbs(ink.left() - 130.0) < 3.0); // a box begins 0.075 em within its character
-    // one pixel is one unit: the first line of 25 begins below the padding, its box 0.1 em lower
-    QVERIFY2(qAbs(ink.top() - (220.0 + 2.5)) < 1.0, qPrintable(QString::number(ink.top())));
-}
-
-void tst_MvCalendariumRendererHolidays::whatItIs()
-{
-    MvPageFixture page(block(), QDate(2027, 5, 1));
-    QCOMPARE(page.renderer().abilities().toInt(), 14);
-    QVERIFY(!page.renderer().rendersMonthInformation());
-    QCOMPARE(page.renderer().usedCellTypes(), QList<MvCalendarCellType>{CALENDAR_CELL_TYPE_WEEKDAY});
 }
 
 MV_TEST_MAIN(tst_MvCalendariumRendererHolidays)

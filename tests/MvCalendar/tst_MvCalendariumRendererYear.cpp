@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvPageFixture.h"
 #include "MvTest.h"
 
@@ -13,6 +14,7 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
+using MvEntries::entry;
 
 using Item = MvPaintRecording::Item;
 
@@ -24,13 +26,7 @@ const QString gridInfo = u"calendar_render_title, calendar_render_year_long, cal
 const QString plannerInfo = gridInfo + u", calendar_render_days_of_week_only_in_front"_s;
 const QRectF a4(100, 100, 2770, 1900);
 const QRectF a2(100, 100, 5740, 4000);
-const QRectF a2Upright(100, 100, 4000, 5740);
 constexpr double tolerance = 1e-6;
-
-MvCalendarEvent entry(const QString &name, const QDate &date)
-{
-    return MvCalendarEvent(name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
-}
 
 MvPageFixture pageOf(const QString &info, const QDate &from, int months = 12, const QDate &shown = {})
 {
@@ -64,21 +60,6 @@ QStringList textsIn(const MvPaintRecording &recording, const QRectF &cell)
     return texts;
 }
 
-QStringList texts(const MvPaintRecording &recording)
-{
-    return textsIn(recording, QRectF(-1e6, -1e6, 2e6, 2e6));
-}
-
-QColor fillAt(const MvPaintRecording &recording, const QPointF &point)
-{
-    QColor color;
-    for (const Item &item : recording.items()) {
-        if ((item.kind == Item::Path || item.kind == Item::Rect) && item.shape.contains(point))
-            color = item.fill;
-    }
-    return color;
-}
-
 MvSmallMonthGrid::Sizes someSizes()
 {
     MvSmallMonthGrid::Sizes sizes;
@@ -103,23 +84,17 @@ private Q_SLOTS:
     void arrangement();
     void arrangementFillsTheRectangle_data();
     void arrangementFillsTheRectangle();
-    void smallMonth();
     void titles_data();
     void titles();
     void monthsOfTheCalendar_data();
     void monthsOfTheCalendar();
-    void weeksAndTheirParity();
-    void colorsOfDays();
     void weekdayHeads_data();
     void weekdayHeads();
     void shortMonthsWhereNarrow();
-    void plannerFillsTheRectangle();
     void plannerCell_data();
     void plannerCell();
     void weekGivesWayToTexts();
     void weekIsReadableOnEveryGround();
-    void whatItShows_data();
-    void whatItShows();
 };
 
 void tst_MvCalendariumRendererYear::arrangement_data()
@@ -188,25 +163,6 @@ void tst_MvCalendariumRendererYear::arrangementFillsTheRectangle()
     QVERIFY(qAbs(small.sizes().day.height() - 20) < tolerance);
 }
 
-void tst_MvCalendariumRendererYear::smallMonth()
-{
-    const MvSmallMonthGrid grid({10, 20}, QDate(2027, 5, 17), someSizes()); // begins on a Saturday, six rows
-    QCOMPARE(grid.monday(0), QDate(2027, 4, 26));
-    QVERIFY(!grid.date(0, 5).isValid());
-    QCOMPARE(grid.date(0, 6), QDate(2027, 5, 1));
-    QCOMPARE(grid.date(5, 1), QDate(2027, 5, 31));
-    QVERIFY(!grid.date(5, 2).isValid());
-    QVERIFY(grid.hasDays(5));
-    QVERIFY(!MvSmallMonthGrid({}, QDate(2027, 2, 1), someSizes()).hasDays(4)); // four weeks from Monday
-    QCOMPARE(grid.dayRect(QDate(2027, 5, 1)), grid.dayRect(0, 6));
-    QCOMPARE(grid.dayRect(QDate(2027, 5, 31)), QRectF(10 + 35, 20 + 70 + 200, 45, 40));
-    // edges are shared
-    QCOMPARE(grid.weekRect(0).right(), grid.dayRect(0, 1).left());
-    QCOMPARE(grid.headRect(3).bottom(), grid.dayRect(0, 3).top());
-    QCOMPARE(grid.nameRect().bottom(), grid.weekHeadRect().top());
-    QCOMPARE(grid.nameRect().right(), grid.dayRect(2, 7).right());
-}
-
 void tst_MvCalendariumRendererYear::titles_data()
 {
     QTest::addColumn<QDate>("from");
@@ -243,7 +199,7 @@ void tst_MvCalendariumRendererYear::titles()
         MvPageFixture page(appearance, from);
         page.renderer().setCalendarInformation(MvPageFixture::content(from),
                                                MvDateRange(from, from.addMonths(12).addDays(-1)));
-        QCOMPARE(texts(page.render(a4)).contains(title), hasTitle);
+        QCOMPARE(MvPageFixture::texts(page.render(a4)).contains(title), hasTitle);
         QCOMPARE(yearOf(page).titleRect(a4).height() > 0.0, hasTitle);
     }
 }
@@ -280,41 +236,6 @@ void tst_MvCalendariumRendererYear::monthsOfTheCalendar()
     QCOMPARE(cellsByDate(page).lastKey(), yearOf(page).firstMonth().addMonths(12).addDays(-1));
 }
 
-void tst_MvCalendariumRendererYear::weeksAndTheirParity()
-{
-    MvPageFixture page = pageOf(gridInfo, QDate(2027, 1, 1));
-    const MvPaintRecording recording = page.render(a4);
-    const QMap<QDate, QRectF> cells = cellsByDate(page);
-    const auto weekBeside = [&](const QDate &monday) {
-        QRectF week = cells.value(monday);
-        week.moveRight(week.left());
-        return textsIn(recording, week);
-    };
-    QCOMPARE(weekBeside(QDate(2027, 1, 4)), QStringList(u"1"_s));
-    QCOMPARE(weekBeside(QDate(2027, 12, 27)), QStringList(u"52"_s));
-    QCOMPARE(texts(recording).count(u"53"_s), 1); // 1 January lies in the last week of 2026
-    // the colours of the weekdays in the fixture: even weeks #eeeeee, odd ones #dddddd
-    const QColor even(u"#eeeeee"_s);
-    const QColor odd(u"#dddddd"_s);
-    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 1, 11)).center()), even);  // week 2
-    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 1, 18)).center()), odd);   // week 3
-    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 11, 29)).center()), even); // both in week 48,
-    QCOMPARE(fillAt(recording, cells.value(QDate(2027, 12, 1)).center()), even);  // two months
-}
-
-void tst_MvCalendariumRendererYear::colorsOfDays()
-{
-    for (const QString &info : {gridInfo, plannerInfo}) {
-        MvPageFixture page = pageOf(info, QDate(2027, 1, 1));
-        const MvPaintRecording recording = page.render(a2);
-        const QMap<QDate, QRectF> cells = cellsByDate(page);
-        const auto ground = [&](const QDate &date) { return fillAt(recording, cells.value(date).center()); };
-        QCOMPARE(ground(QDate(2027, 5, 1)), QColor(u"#ff0000"_s));  // a Saturday and a holiday
-        QCOMPARE(ground(QDate(2027, 5, 8)), QColor(u"#00ff00"_s));  // a Saturday
-        QCOMPARE(ground(QDate(2027, 8, 10)), QColor(u"#0000ff"_s)); // vacation
-    }
-}
-
 void tst_MvCalendariumRendererYear::weekdayHeads_data()
 {
     QTest::addColumn<QString>("flags");
@@ -332,42 +253,24 @@ void tst_MvCalendariumRendererYear::weekdayHeads()
     QFETCH(double, width);
     QFETCH(QString, head);
     MvPageFixture page = pageOf(u"calendar_render_days_of_week, "_s + flags, QDate(2027, 1, 1));
-    const QStringList painted = texts(page.render({0, 0, width, width * 0.7}));
+    const QStringList painted = MvPageFixture::texts(page.render({0, 0, width, width * 0.7}));
     QCOMPARE(painted.count(head), 12);
     MvPageFixture none = pageOf(flags, QDate(2027, 1, 1));
-    QVERIFY(!texts(none.render({0, 0, width, width * 0.7})).contains(head));
+    QVERIFY(!MvPageFixture::texts(none.render({0, 0, width, width * 0.7})).contains(head));
 }
 
 void tst_MvCalendariumRendererYear::shortMonthsWhereNarrow()
 {
     MvPageFixture page = pageOf(plannerInfo, QDate(2027, 1, 1));
-    QVERIFY(texts(page.render(a2)).contains(u"September"_s));
-    const QStringList narrow = texts(page.render({0, 0, 1200, 3000})); // September needs 112.5
+    QVERIFY(MvPageFixture::texts(page.render(a2)).contains(u"September"_s));
+    const QStringList narrow = MvPageFixture::texts(page.render({0, 0, 1200, 3000})); // September needs 112.5
     QVERIFY(narrow.contains(u"Sep"_s));
     QVERIFY(narrow.contains(u"Jan"_s)); // all alike
     QVERIFY(!narrow.contains(u"Januar"_s));
     MvPageFixture untitled = pageOf(u"calendar_render_year_long, calendar_render_month_long"_s, QDate(2026, 8, 1));
-    const QStringList named = texts(untitled.render(a2));
+    const QStringList named = MvPageFixture::texts(untitled.render(a2));
     QVERIFY(named.contains(u"August 2026"_s)); // nothing else tells the year
     QVERIFY(named.contains(u"Juli 2027"_s));
-}
-
-void tst_MvCalendariumRendererYear::plannerFillsTheRectangle()
-{
-    MvPageFixture page = pageOf(plannerInfo, QDate(2027, 1, 1));
-    page.render(a2);
-    const QMap<QDate, QRectF> cells = cellsByDate(page);
-    const QRectF last = cells.value(QDate(2027, 12, 31));
-    QVERIFY(qAbs(last.right() - a2.right()) < tolerance);
-    QVERIFY(qAbs(last.bottom() - a2.bottom()) < tolerance);
-    QCOMPARE(cells.value(QDate(2027, 1, 1)).left(), a2.left());
-    for (const QDate date : {QDate(2027, 2, 14), QDate(2027, 11, 30)}) {
-        QCOMPARE(cells.value(date).left(), cells.value(QDate(2027, date.month() - 1, date.day())).right());
-        QCOMPARE(cells.value(date).top(), cells.value(date.addDays(-1)).bottom());
-    }
-    const MvYearPlanner planner(yearOf(page).monthsRect(a2), QDate(2027, 1, 1), yearOf(page).neededPlannerSizes());
-    QCOMPARE(planner.nameRect(3).bottom(), cells.value(QDate(2027, 4, 1)).top());
-    QCOMPARE(planner.dayRect(5, 9), cells.value(QDate(2027, 6, 9)));
 }
 
 void tst_MvCalendariumRendererYear::plannerCell_data()
@@ -444,41 +347,6 @@ void tst_MvCalendariumRendererYear::weekIsReadableOnEveryGround()
     };
     QCOMPARE(weekColor(QColor(u"#444444"_s)), QColor(u"#444444"_s));
     QCOMPARE(weekColor(QColor(u"#f0f0f0"_s)), QColor(u"#000000"_s)); // that of the day instead
-}
-
-void tst_MvCalendariumRendererYear::whatItShows_data()
-{
-    QTest::addColumn<QString>("info");
-    QTest::addColumn<int>("abilities");
-    QTest::addColumn<bool>("heads");
-    QTest::addColumn<bool>("weeks");
-    const int grid = ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS_COLORS | ABILITY_DISPLAY_CALENDAR_WEEKS;
-    QTest::newRow("bare grid") << u"calendar_render_title"_s << grid << false << false;
-    QTest::newRow("grid") << gridInfo << grid << true << true;
-    QTest::newRow("planner") << u"calendar_render_days_of_week_only_in_front"_s << (grid | ABILITY_DISPLAY_HOLIDAYS)
-                             << true << false;
-}
-
-void tst_MvCalendariumRendererYear::whatItShows()
-{
-    QFETCH(QString, info);
-    QFETCH(bool, heads);
-    QFETCH(bool, weeks);
-    MvCalendariumAppearance appearance =
-        MvPageFixture::appearance(info, MvPageFixture::defaultCells(), u"CALENDAR_YEAR"_s);
-    MvPageFixture page(appearance, QDate(2027, 1, 1));
-    QTEST(page.renderer().abilities().toInt(), "abilities");
-    const QList<MvCalendarCellType> used = page.renderer().usedCellTypes();
-    QVERIFY(used.contains(CALENDAR_CELL_TYPE_MONTH));
-    QVERIFY(used.contains(CALENDAR_CELL_TYPE_HOLIDAY));
-    QCOMPARE(used.contains(CALENDAR_CELL_TYPE_HEAD_WEEKDAY), heads);
-    QCOMPARE(used.contains(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), weeks);
-    QCOMPARE(texts(page.render(a2)).contains(u"44"_s), weeks);
-    // the override asks for weeks as well
-    appearance.setOverrideShowCalendarWeek(true);
-    MvPageFixture overridden(appearance, QDate(2027, 1, 1));
-    QVERIFY(overridden.renderer().usedCellTypes().contains(CALENDAR_CELL_TYPE_WEEK_OF_YEAR));
-    QVERIFY(texts(overridden.render(a2)).contains(u"44"_s));
 }
 
 MV_TEST_MAIN(tst_MvCalendariumRendererYear)

@@ -1,25 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvBoxFont.h"
 #include "MvPageFixture.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendariumRendererYearOnly.h"
 
 using namespace Qt::StringLiterals;
-
-using Item = MvPaintRecording::Item;
-
-namespace {
-
-MvCalendariumAppearance yearCell(int renderInfo)
-{
-    const QString cell = u"<cell type='CALENDAR_CELL_TYPE_YEAR' paddingleft='10' paddingtop='5' paddingright='20' "
-                         "paddingbottom='5'><font family='%1' pointsize='18'/></cell>"_s.arg(MvBoxFont::family());
-    return MvPageFixture::appearance(MvCalendarRenderingInformation(renderInfo).encodeCSV(), cell,
-                                     u"CALENDAR_YEAR_ONLY"_s);
-}
-
-} // namespace
 
 class tst_MvCalendariumRendererYearOnly : public MvTest
 {
@@ -28,8 +13,6 @@ class tst_MvCalendariumRendererYearOnly : public MvTest
 private Q_SLOTS:
     void texts_data();
     void texts();
-    void paintsOneCell();
-    void whatItIs();
 };
 
 void tst_MvCalendariumRendererYearOnly::texts_data()
@@ -72,44 +55,12 @@ void tst_MvCalendariumRendererYearOnly::texts()
     QFETCH(MvDateRange, range);
     QFETCH(QDate, date);
     QFETCH(QString, separator);
-    MvCalendariumAppearance appearance = yearCell(flags);
+    MvCalendariumAppearance appearance =
+        MvPageFixture::appearance(MvCalendarRenderingInformation(flags).encodeCSV(), {}, u"CALENDAR_YEAR_ONLY"_s);
     appearance.setColumnHeaders(separator);
     MvCalendariumRendererYearOnly renderer(appearance);
     renderer.setCalendarInformation(MvPageFixture::content(page), range);
     QTEST(renderer.calendarYear(date), "text");
-}
-
-void tst_MvCalendariumRendererYearOnly::paintsOneCell()
-{
-    MvPageFixture page(yearCell(calendar_render_year_long), QDate(2027, 5, 1));
-    const QRectF rect(50, 60, 400, 120);
-    const MvPaintRecording recording = page.render(rect);
-    QCOMPARE(recording.items().constFirst().bounds, rect);
-    const QList<Item> texts = recording.items(Item::Text);
-    QCOMPARE(texts.size(), 1);
-    QCOMPARE(texts.constFirst().text, u"2027"_s);
-    QCOMPARE(texts.constFirst().baseline, QPointF(60 + (370 - 100) / 2.0, 65 + (110 - 50) / 2.0 + 40)); // centred
-    QVERIFY(page.days.isEmpty());
-    QVERIFY(page.renderer().unfittingTexts().isEmpty());
-
-    const QRectF narrow(0, 0, 110, 60); // inner width 80, the year is 100
-    const Item smaller = page.render(narrow).items(Item::Text).constFirst();
-    QCOMPARE(smaller.text, u"2027"_s);
-    QCOMPARE_LE(smaller.font.pixelSize(), 40);
-    QVERIFY(narrow.contains(smaller.bounds));
-    QVERIFY(page.renderer().unfittingTexts().isEmpty());
-    page.render({0, 0, 40, 60}); // in the smallest type it is 46
-    QCOMPARE(page.renderer().unfittingTexts().size(), 1);
-    QVERIFY(page.render({0, 0, 0, 60}).items().isEmpty());
-}
-
-void tst_MvCalendariumRendererYearOnly::whatItIs()
-{
-    MvPageFixture page(yearCell(calendar_render_year_long), QDate(2027, 5, 1));
-    QCOMPARE(page.renderer().abilities().toInt(), 0);
-    QVERIFY(!page.renderer().rendersMonthInformation());
-    QCOMPARE(page.renderer().usedCellTypes(), QList<MvCalendarCellType>{CALENDAR_CELL_TYPE_YEAR});
-    QCOMPARE(page.renderer().minimumSizeHint(), QSize(127 + 30, 74)); // 100 and 50 pixels; 63.5 and 10
 }
 
 MV_TEST_MAIN(tst_MvCalendariumRendererYearOnly)

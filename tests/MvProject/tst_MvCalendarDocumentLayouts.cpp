@@ -48,7 +48,6 @@ class tst_MvCalendarDocumentLayouts : public MvTest
 private Q_SLOTS:
     void monthsOfOneSize_data();
     void monthsOfOneSize();
-    void rowsStandOnOneBaseline();
     void columnsOfTheFamilyPlanner();
     void titleOfPage_data();
     void titleOfPage();
@@ -98,21 +97,6 @@ void tst_MvCalendarDocumentLayouts::monthsOfOneSize()
         if (isCentred)
             QVERIFY2(qAbs(title.bounds.center().x() - room.center().x()) < 0.5, qPrintable(title.text));
     }
-}
-
-void tst_MvCalendarDocumentLayouts::rowsStandOnOneBaseline()
-{
-    MvCalendarDocument document = ::document(u"DAY_LIST"_s); // upright: rows are higher than three lines
-    document.setHolidayConfig({MvLocale(u"de_DE"_s), QString(), FEATURE_HOLIDAYS});
-    QList<double> baselines;
-    for (const Item &text : textsOf(document, 4)) {
-        if (QStringList{u"6"_s, u"Christi Himmelfahrt"_s}.contains(text.text.trimmed()))
-            baselines.append(text.baseline.y());
-        else if (text.text == u"Donnerstag"_s && baselines.size() == 1)
-            baselines.append(text.baseline.y());
-    }
-    QCOMPARE(baselines.size(), 3);
-    QVERIFY(qAbs(baselines.at(1) - baselines.at(0)) < 0.01 && qAbs(baselines.at(2) - baselines.at(0)) < 0.01);
 }
 
 void tst_MvCalendarDocumentLayouts::columnsOfTheFamilyPlanner()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPrintedPage.h"
 
+#include "MvEntries.h"
+
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
@@ -14,15 +16,11 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using MvEntries::entry;
 
 namespace {
 
 constexpr double floorOfType = 6.5 / 72.0 * 254.0; // 6.5 points on paper, in tenths of a millimetre
-
-MvCalendarEvent entry(const QString &name, const QDate &date, const MvFoto &foto = {})
-{
-    return MvCalendarEvent(name, date.startOfDay(), true, foto, QUuid::createUuid(), QDateTime());
-}
 
 MvFoto samplePhoto()
 {

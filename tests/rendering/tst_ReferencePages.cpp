@@ -40,7 +40,7 @@ QList<MvPageChoice> pagesOf(const QString &layout, const QString &photo)
     full.entries = MvPageChoice::Photos;
     full.month = QDate(2026, 8, 1); // six weeks
     full.hasGrid = true;
-    full.colors = u"NIGHT"_s;
+    full.colors = u"SLATE"_s; // tells alternate weeks apart
 
     MvPageChoice narrow = plain;
     narrow.paper = u"A5"_s;

@@ -1,0 +1,422 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvPageFixture.h"
+#include "MvTest.h"
+
+#include <QSignalSpy>
+
+using namespace Qt::StringLiterals;
+
+using Item = MvPaintRecording::Item;
+
+namespace {
+
+const QString row = u"CALENDAR_ONE_ROW"_s;
+const QString grid = u"CALENDAR_ONE_WEEK_PER_ROW"_s;
+const QString twoWeeks = u"CALENDAR_TWO_WEEKS"_s;
+const QString columns = u"CALENDAR_ONE_COLUMN_PER_WEEK"_s;
+const QString dayList = u"CALENDAR_ONE_DAY_PER_ROW"_s;
+const QString year = u"CALENDAR_YEAR"_s;
+
+const QString plain = u"calendar_render_no_empty_weeks"_s;
+const QString title = plain + u", calendar_render_title, calendar_render_month_long, calendar_render_year_long"_s;
+const QString heads = plain + u", calendar_render_days_of_week"_s;
+const QString both = title + u", calendar_render_days_of_week"_s;
+const QString shortHeads = heads + u", calendar_render_days_of_week_short"_s;
+const QString inFront = heads + u", calendar_render_days_of_week_only_in_front"_s;
+const QString weeks = u", calendar_render_week_of_year"_s;
+
+// Numbers of 50 pixels, "22": 63.5 wide and high, with 20 of padding and 1 for the border. Heads of 25: 31.75 and 1.
+constexpr double number = 84.5;
+constexpr double head = 32.75;
+constexpr double nameOfWeekday = 159.75; // "Donnerstag", the widest
+
+constexpr int days = CALENDAR_CELL_TYPE_WEEKDAY | CALENDAR_CELL_TYPE_SATURDAY | CALENDAR_CELL_TYPE_SUNDAY |
+                     CALENDAR_CELL_TYPE_HOLIDAY | CALENDAR_CELL_TYPE_SCHOOL_VACATION;
+constexpr int weekdayHeads =
+    CALENDAR_CELL_TYPE_HEAD_WEEKDAY | CALENDAR_CELL_TYPE_HEAD_SATURDAY | CALENDAR_CELL_TYPE_HEAD_SUNDAY;
+constexpr int dayHeads = weekdayHeads | CALENDAR_CELL_TYPE_HEAD_HOLIDAY | CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION;
+
+const QDate may(2027, 5, 1);      // six weeks, from Saturday to Monday
+const QDate february(2027, 2, 1); // four whole weeks
+const QDate january(2027, 1, 1);  // begins with week 53
+
+MvCalendariumAppearance appearanceOf(const QString &type, const QString &info, const QString &headers = {},
+                                     const QString &furtherCells = {})
+{
+    MvCalendariumAppearance appearance =
+        MvPageFixture::appearance(info, MvPageFixture::defaultCells() + furtherCells, type);
+    appearance.setColumnHeaders(headers);
+    return appearance;
+}
+
+QString headings(int count)
+{
+    QStringList names;
+    while (names.size() < count)
+        names.append(u"N%1"_s.arg(names.size() + 1));
+    return names.join(u"$$"_s);
+}
+
+bool areClose(const QRectF &a, const QRectF &b)
+{
+    return qAbs(a.left() - b.left()) + qAbs(a.top() - b.top()) + qAbs(a.right() - b.right()) +
+               qAbs(a.bottom() - b.bottom()) <
+           1e-6;
+}
+
+} // namespace
+
+/// What the kinds of calendarium have in common, each with its own figures: what they say of themselves, how they
+/// divide a rectangle, what they write first. The pages of the shipped layouts are those of tst_ReferencePages.
+class tst_CalendariumKinds : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void describe_data();
+    void describe();
+    void divide_data();
+    void divide();
+    void write_data();
+    void write();
+
+    void columnsOfTheDayList_data();
+    void columnsOfTheDayList();
+    void dividingLines_data();
+    void dividingLines();
+    void narrowRowKeepsItsNumbers();
+    void furtherRowsWhereNarrow();
+    void headsOfColumnsGiveWay();
+};
+
+void tst_CalendariumKinds::describe_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("info");
+    QTest::addColumn<QByteArray>("renderer");
+    QTest::addColumn<QSize>("minimumSize");
+    QTest::addColumn<int>("abilities");
+    QTest::addColumn<bool>("hasMonth");
+    QTest::addColumn<bool>("hasHeaderPerDay");
+    QTest::addColumn<int>("cellTypes");
+    const int empty = CALENDAR_CELL_TYPE_EMPTY;
+    const int titleType = CALENDAR_CELL_TYPE_TITLE;
+    const int week = CALENDAR_CELL_TYPE_WEEK_OF_YEAR;
+    const int top = CALENDAR_CELL_TYPE_TOPLINE;
+    const QByteArray rowName("MvCalendariumRendererOneRow");
+    const QByteArray gridName("MvCalendariumRendererOneWeekPerRow");
+    const QByteArray twoWeeksName("MvCalendariumRendererTwoWeeksPerRow");
+    const QByteArray columnsName("MvCalendariumRendererOneColumnPerWeek");
+    const QByteArray listName("MvCalendariumRendererOneDayPerRow");
+    const QByteArray yearName("MvCalendariumRendererYear");
+    const QByteArray monthName("MvCalendariumRendererMonthOnly");
+
+    // counts title and heads, though there are none; "Samstag" is 87.5 pixels, rounded to 88
+    QTest::newRow("row") << row << plain << rowName << QSize(int(22 * nameOfWeekday + 9 * (88 * 1.27 + 1)), 150) << 10
+                         << true << true << (days | dayHeads | titleType);
+    // six weeks, although February has four
+    QTest::newRow("grid") << grid << plain << gridName << QSize(7 * 84, 507) << 30 << false << false << (days | empty);
+    QTest::newRow("grid with all") << grid << both + weeks << gridName << QSize(int(7 * 159 + head), 571) << 30 << true
+                                   << false << (days | empty | titleType | weekdayHeads | week | top);
+    QTest::newRow("two weeks") << twoWeeks << plain << twoWeeksName << QSize(14 * 84 + 7, 286) << 14 << false << false
+                               << (days | empty | weekdayHeads);
+    QTest::newRow("two weeks with all") << twoWeeks << both << twoWeeksName << QSize(int(14 * nameOfWeekday), 318) << 14
+                                        << true << false << (days | empty | titleType | weekdayHeads);
+    QTest::newRow("columns") << columns << plain << columnsName << QSize(int(6 * number), int(head + 7 * number)) << 30
+                             << false << false << (days | weekdayHeads);
+    QTest::newRow("columns with heads") << columns << heads << columnsName
+                                        << QSize(int(6 * (number + nameOfWeekday)), 8 * 32 + 6) << 30 << false << false
+                                        << (days | weekdayHeads);
+    QTest::newRow("columns with heads in front")
+        << columns << inFront << columnsName << QSize(int(nameOfWeekday + 6 * head), 8 * 32 + 6) << 30 << false << false
+        << (days | weekdayHeads);
+    QTest::newRow("day list") << dayList << plain << listName << QSize(84 + 20, int(head + 31 * number)) << 14 << false
+                              << true << days;
+    QTest::newRow("day list with heads") << dayList << shortHeads << listName
+                                         << QSize(84 + 159 + 20, int(head + 31 * head)) << 14 << false << true
+                                         << (days | dayHeads);
+    QTest::newRow("day list with weeks") << dayList << plain + weeks << listName << QSize() << 14 << false << true
+                                         << (days | week);
+    QTest::newRow("holidays") << u"CALENDAR_HOLIDAYS"_s << plain << QByteArray("MvCalendariumRendererHolidays")
+                              << QSize() << 14 << false << false << int(CALENDAR_CELL_TYPE_WEEKDAY);
+    QTest::newRow("year only") << u"CALENDAR_YEAR_ONLY"_s << plain << QByteArray("MvCalendariumRendererYearOnly")
+                               << QSize() << 0 << false << false << int(CALENDAR_CELL_TYPE_YEAR);
+    const int ofYears = ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS_COLORS | ABILITY_DISPLAY_CALENDAR_WEEKS;
+    QTest::newRow("year") << year << plain << yearName << QSize() << ofYears << true << false
+                          << (days | empty | int(CALENDAR_CELL_TYPE_MONTH));
+    QTest::newRow("year's planner") << year << inFront + weeks << yearName << QSize()
+                                    << (ofYears | ABILITY_DISPLAY_HOLIDAYS) << true << false
+                                    << (days | empty | dayHeads | week | int(CALENDAR_CELL_TYPE_MONTH));
+    // nine characters of 12.5 pixels, rounded to 113
+    QTest::newRow("month only") << u"CALENDAR_MONTH_ONLY"_s << title << monthName << QSize(178, 32) << 0 << true
+                                << false << int(CALENDAR_CELL_TYPE_MONTH);
+    for (const QString &other : {QString(), u"CALENDAR_MONTH_ONLY, CALENDAR_YEAR"_s})
+        QTest::addRow("no kind: \"%s\"", qPrintable(other))
+            << other << title << monthName << QSize() << 0 << true << false << int(CALENDAR_CELL_TYPE_MONTH);
+}
+
+void tst_CalendariumKinds::describe()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, info);
+    QFETCH(QSize, minimumSize);
+    MvPageFixture page(appearanceOf(type, info), february);
+    const MvCalendariumRenderer &renderer = page.renderer();
+    QTEST(QByteArray(renderer.metaObject()->className()), "renderer");
+    if (minimumSize.isValid())
+        QCOMPARE(renderer.minimumSizeHint(), minimumSize);
+    QTEST(renderer.abilities().toInt(), "abilities");
+    QTEST(renderer.rendersMonthInformation(), "hasMonth");
+    QTEST(renderer.hasOneHeaderPerDay(), "hasHeaderPerDay");
+    QTEST(MvCalendarCellType(renderer.usedCellTypes()).toInt(), "cellTypes");
+}
+
+void tst_CalendariumKinds::divide_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("info");
+    QTest::addColumn<QDate>("month");
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<QRectF>("first"); // day of the month
+    QTest::addColumn<QRectF>("last");
+
+    const QRectF strip(10, 20, 3100, 300);
+    QTest::newRow("row: numbers alone") << row << plain << may << strip << QRectF(10, 20, 100, 300)
+                                        << QRectF(3010, 20, 100, 300);
+    for (const QString &info : {title, heads}) // 300 / 117.25 * 32.75 = 83.8, in whole units
+        QTest::addRow("row: %s", qPrintable(info))
+            << row << info << may << strip << QRectF(10, 103, 100, 217) << QRectF(3010, 103, 100, 217);
+    QTest::newRow("row: title and heads") << row << both << may << strip << QRectF(10, 150, 100, 170) // 65.5 each
+                                          << QRectF(3010, 150, 100, 170);
+
+    const QRectF page(0, 0, 1000, 600);
+    const double seventh = 1000.0 / 7;
+    QTest::newRow("grid: rows alone") << grid << plain << may << page << QRectF(5 * seventh, 0, seventh, 100)
+                                      << QRectF(0, 500, seventh, 100);
+    QTest::newRow("grid: four rows are half as tall again")
+        << grid << plain << february << page << QRectF(0, 0, seventh, 150) << QRectF(6 * seventh, 450, seventh, 150);
+    QTest::newRow("grid: title") << grid << plain + u", calendar_render_title"_s << may << page
+                                 << QRectF(5 * seventh, 36, seventh, 94) << QRectF(0, 506, seventh, 94);
+    const double high = number * 600 / (2 * head + 6 * number);
+    QTest::newRow("grid: title and heads")
+        << grid << both << may << page << QRectF(5 * seventh, 600 - 6 * high, seventh, high)
+        << QRectF(0, 600 - high, seventh, high);
+    const double narrow = (1000 - head) / 7;
+    QTest::newRow("grid: weeks") << grid << plain + weeks << may << page << QRectF(head + 5 * narrow, 0, narrow, 100)
+                                 << QRectF(head, 500, narrow, 100);
+
+    const QRectF wide(30, 40, 2800, 1000);
+    const auto inTwoWeeks = [&](const char *name, const QString &info, double above, double height) {
+        QTest::newRow(name) << twoWeeks << info << may << wide << QRectF(1030, 40 + above, 200, height)
+                            << QRectF(1430, 40 + above + 2 * height, 200, height);
+    };
+    inTwoWeeks("two weeks: rows alone", plain, 0, 1000.0 / 3);
+    inTwoWeeks("two weeks: title; rows are not truncated", title, 114, 886.0 / 3);
+    inTwoWeeks("two weeks: heads take the remainder", heads, 1000 - 3 * 295, 295);
+    inTwoWeeks("two weeks: title and heads", both, 1000 - 3 * 264, 264);
+
+    const QRectF tall(10, 10, 3000, 1400); // rows of 189, the first of 77 for the number of the week
+    const auto inColumns = [&](const char *name, const QString &info, double first, double pitch, double width) {
+        QTest::newRow(name) << columns << info << may << tall << QRectF(first, 87 + 5 * 189, width, 189)
+                            << QRectF(first + 5 * pitch, 87, width, 189);
+    };
+    inColumns("columns: days alone", plain, 10, 500, 500);
+    inColumns("columns: heads take whole units", heads, 10 + 327, 500, 173);
+    const double column = 3000 / (nameOfWeekday + 6 * number) * number;
+    inColumns("columns: heads in front", inFront, 10 + 3000 - 6 * column, column, column);
+
+    QTest::newRow("day list") << dayList << plain << may << QRectF(50, 30, 1500, 31 * 70)
+                              << QRectF(50 + number, 30, 1500 - number, 70)
+                              << QRectF(50 + number, 30 + 30 * 70, 1500 - number, 70);
+    QTest::newRow("day list: heads") << dayList << shortHeads << february << QRectF(50, 30, 1500, 28 * 70)
+                                     << QRectF(50 + number + head, 30, 1500 - number - head, 70)
+                                     << QRectF(50 + number + head, 30 + 27 * 70, 1500 - number - head, 70);
+}
+
+void tst_CalendariumKinds::divide()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, info);
+    QFETCH(QDate, month);
+    QFETCH(QRectF, rect);
+    QFETCH(QRectF, first);
+    QFETCH(QRectF, last);
+    MvPageFixture page(appearanceOf(type, info), month, info.contains(weeks) ? FEATURE_CALENDAR_WEEKS : 0);
+    page.render(rect);
+    QCOMPARE(page.restarts, 1);
+    QCOMPARE(page.days.size(), month.daysInMonth()); // each once, in order
+    for (int day = 0; day < page.days.size(); ++day)
+        QCOMPARE(page.days.at(day).date, month.addDays(day));
+    QVERIFY2(areClose(page.days.constFirst().rect, first), qPrintable(QDebug::toString(page.days.constFirst().rect)));
+    QVERIFY2(areClose(page.days.constLast().rect, last), qPrintable(QDebug::toString(page.days.constLast().rect)));
+}
+
+void tst_CalendariumKinds::write_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("info");
+    QTest::addColumn<QDate>("month");
+    QTest::addColumn<int>("features");
+    QTest::addColumn<QString>("beginning"); // of all texts
+    QTest::addColumn<int>("count");
+    const int holidays = FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS | FEATURE_SCHOOL_VACATIONS;
+    QTest::newRow("row: no names of holidays")
+        << row << both << may << holidays << u" Mai 2027,Sa,1,So,2,Mo,3"_s << 1 + 2 * 31;
+    QTest::newRow("row: numbers alone") << row << plain << may << holidays << u"1,2,3"_s << 31;
+    QTest::newRow("grid: week 53, three days, week 1")
+        << grid << both + weeks << january << int(FEATURE_CALENDAR_WEEKS)
+        << u" Januar 2027,KW,Montag,Dienstag,Mittwoch,Donnerstag,Freitag,Samstag,Sonntag,53,1,2,3,1,4"_s
+        << 1 + 8 + 5 + 31;
+    QTest::newRow("two weeks: short heads")
+        << twoWeeks << both << january << 0 << u" Januar 2027,Mo,Di,Mi,Do,Fr,Sa,So,Mo,Di,Mi,Do,Fr,Sa,So,1,2"_s
+        << 1 + 14 + 31;
+    QTest::newRow("columns: week, heads beside days") << columns << heads << january << int(FEATURE_CALENDAR_WEEKS)
+                                                      << u"53,Mo,Di,Mi,Do,Fr,1,Sa,2,So,3,1,Mo,4"_s << 5 + 5 * 7 + 31;
+    QTest::newRow("columns: heads in front") << columns << inFront << february << int(FEATURE_CALENDAR_WEEKS)
+                                             << u"Mo,Di,Mi,Do,Fr,Sa,So,5,01,02"_s << 7 + 4 + 28;
+    QTest::newRow("columns: numbers alone, where there is room for names")
+        << columns << inFront << may << holidays << u"Mo,Di"_s << 7 + 31;
+    QTest::newRow("columns: only who is asked shows weeks")
+        << columns << plain + weeks << february << 0 << u"1,2"_s << 28;
+    QTest::newRow("day list: numbers alone") << dayList << plain << may << 0 << u" 1 , 2 "_s << 31;
+}
+
+void tst_CalendariumKinds::write()
+{
+    QFETCH(QString, type);
+    QFETCH(QString, info);
+    QFETCH(QDate, month);
+    QFETCH(int, features);
+    QFETCH(QString, beginning);
+    MvPageFixture page(appearanceOf(type, info), month, features);
+    const QStringList texts = MvPageFixture::texts(page.render({0, 0, 3100, 1750}));
+    QCOMPARE(texts.mid(0, beginning.count(u',') + 1).join(u','), beginning);
+    QTEST(int(texts.size()), "count");
+    QVERIFY(page.renderer().unfittingTexts().isEmpty());
+}
+
+void tst_CalendariumKinds::columnsOfTheDayList_data()
+{
+    QTest::addColumn<QString>("headers");
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<bool>("hasTopLine");
+    QTest::newRow("none") << QString() << 1 << false;
+    QTest::newRow("nothing but separators") << u"$$$$"_s << 5 << false;
+    QTest::newRow("the heading 1 is none") << u"1"_s << 1 << false;
+    QTest::newRow("one") << u"Mama"_s << 1 << true;
+    QTest::newRow("ten") << headings(10) << 10 << true;
+    QTest::newRow("more than ten: the last ones are beyond") << headings(12) << 10 << true;
+}
+
+void tst_CalendariumKinds::columnsOfTheDayList()
+{
+    QFETCH(QString, headers);
+    QFETCH(int, columns);
+    QFETCH(bool, hasTopLine);
+    MvPageFixture page(appearanceOf(dayList, plain, headers), may, 0);
+    QSignalSpy titleLine(&page.renderer(), &MvCalendariumRenderer::hasTitleLineMayHaveChanged);
+    const MvPaintRecording recording = page.render({100, 30, 2000 + number, (31 + hasTopLine) * 70.0});
+    QCOMPARE(titleLine.size(), 1);
+    QCOMPARE(titleLine.constFirst().constFirst().toBool(), hasTopLine);
+    const QRectF first = page.days.constFirst().rect;
+    QVERIFY(areClose(first, {100 + number, hasTopLine ? 100.0 : 30.0, 2000.0 / columns, 70}));
+    int found = 0;
+    for (const Item &text : recording.items(Item::Text)) {
+        if (!text.text.startsWith(u'N'))
+            continue;
+        const double middle = first.left() + first.width() * (found + 0.5);
+        QVERIFY(qAbs(text.bounds.center().x() - middle) < 2.0);
+        ++found;
+    }
+    QCOMPARE(found, headers.count(u'N'));
+    QCOMPARE(page.renderer().unfittingTexts().size(), qMax(0, found - 10));
+}
+
+void tst_CalendariumKinds::dividingLines_data()
+{
+    QTest::addColumn<QString>("headers");
+    QTest::addColumn<QString>("border");
+    QTest::addColumn<QList<double>>("lines");
+    const double x = number;
+    QTest::newRow("right") << u"A$$B"_s << u"CALENDAR_BORDER_RIGHT"_s << QList<double>{x - 1, x + 499, x + 999};
+    QTest::newRow("left: double") << u"A$$B"_s << u"CALENDAR_BORDER_LEFT"_s
+                                  << QList<double>{x + 1, x, x + 501, x + 500};
+    QTest::newRow("both") << u"A"_s << u"CALENDAR_BORDER_LEFT, CALENDAR_BORDER_RIGHT"_s
+                          << QList<double>{x - 1, x + 1, x, x + 999};
+    QTest::newRow("neither") << u"A$$B"_s << u"CALENDAR_BORDER_BOTTOM"_s << QList<double>{};
+    QTest::newRow("without a top line") << QString() << u"CALENDAR_BORDER_RIGHT"_s << QList<double>{};
+}
+
+void tst_CalendariumKinds::dividingLines()
+{
+    QFETCH(QString, headers);
+    QFETCH(QString, border);
+    const QString cell = u"<cell type='CALENDAR_CELL_TYPE_HEAD_WEEKDAY' bordertype='%1'><font family='MvBox' "
+                         "pointsize='9'/></cell>"_s.arg(border);
+    MvPageFixture page(appearanceOf(dayList, plain, headers, cell), may, 0);
+    QList<double> lines;
+    for (const Item &item : page.render({0, 40, 1000 + number, 3200}).items(Item::Line)) {
+        if (item.line.length() < 3000.0)
+            continue; // the cells' own
+        QCOMPARE(item.line.p1().y(), 40.0);
+        QCOMPARE(item.line.p2().y(), 40.0 + 3200.0 - 1.0);
+        lines.append(item.line.x1());
+    }
+    QTEST(lines, "lines");
+}
+
+void tst_CalendariumKinds::narrowRowKeepsItsNumbers()
+{
+    MvPageFixture page(appearanceOf(row, both), february, 0);
+    // numbers of two digits are 50 wide, smaller where they are tight
+    QVERIFY(MvPageFixture::texts(page.render({0, 0, 28 * 49, 300})).contains(u"10"_s));
+    QVERIFY(page.renderer().unfittingTexts().isEmpty());
+    const QStringList texts = MvPageFixture::texts(page.render({0, 0, 100, 300}));
+    QCOMPARE(texts.constFirst(), u" Februa…"_s); // 8 characters of 11.5
+    QVERIFY(
+        page.renderer().unfittingTexts().contains(MvUnfittingText{february, u"Februar 2027"_s, QRectF(0, 0, 100, 65)}));
+}
+
+void tst_CalendariumKinds::furtherRowsWhereNarrow()
+{
+    // numbers need 30 in the smallest type: 22 columns, which makes two rows of 16
+    const QRectF rect(50, 20, 670, 600);
+    for (const QDate month : {february, may}) {
+        MvPageFixture page(appearanceOf(row, both), month, 0);
+        page.render(rect);
+        QCOMPARE(page.days.size(), month.daysInMonth());
+        const QRectF first = page.days.constFirst().rect;
+        QVERIFY(qAbs(first.width() - rect.width() / 16) < 1e-6);
+        QVERIFY(qAbs(page.days.at(15).rect.right() - rect.right()) < 1e-6);
+        const QRectF below = page.days.at(16).rect;
+        QCOMPARE(below.left(), first.left());
+        QVERIFY(below.top() > first.bottom()); // weekdays come between
+        QVERIFY(qAbs(page.days.constLast().rect.bottom() - rect.bottom()) < 1e-6);
+    }
+    MvPageFixture low(appearanceOf(row, heads), may, 0);
+    low.render({0, 0, 670, 40});
+    QCOMPARE(low.days.constFirst().rect.top(), low.days.constLast().rect.top());
+}
+
+/// Whatever the paddings are: columns lie side by side within the page, and weekdays are named or give their room away.
+void tst_CalendariumKinds::headsOfColumnsGiveWay()
+{
+    const QString negative = u"<cell type='CALENDAR_CELL_TYPE_HEAD_WEEKDAY, CALENDAR_CELL_TYPE_HEAD_SATURDAY, "
+                             "CALENDAR_CELL_TYPE_HEAD_SUNDAY, CALENDAR_CELL_TYPE_HEAD_HOLIDAY, "
+                             "CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION' paddingleft='14' paddingright='-300'>"
+                             "<font family='MvBox' pointsize='9'/></cell>"_s;
+    for (const QString &info : {heads, inFront, shortHeads}) {
+        MvPageFixture page(appearanceOf(columns, info, {}, negative), may, 0);
+        for (const double width : {2000.0, 500.0, 300.0, 190.0, 60.0}) {
+            const QStringList texts = MvPageFixture::texts(page.render({100, 0, width, 1400}));
+            QVERIFY(width < 300.0 || texts.contains(u"Mo"_s) || texts.contains(u"M"_s));
+            QVERIFY(page.days.constFirst().rect.left() >= 100.0 - 1e-6);
+            QVERIFY(page.days.constLast().rect.right() <= 100.0 + width + 1e-6);
+            for (qsizetype day = 7; day < page.days.size(); ++day)
+                QVERIFY(page.days.at(day).rect.left() > page.days.at(day - 7).rect.right() - 1e-6);
+        }
+    }
+}
+
+MV_TEST_MAIN(tst_CalendariumKinds)
+#include "tst_CalendariumKinds.moc"
