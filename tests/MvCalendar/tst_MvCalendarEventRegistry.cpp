@@ -436,12 +436,6 @@ void tst_MvCalendarEventRegistry::importsAddressBook()
     QCOMPARE(found.first().image().size(), QSize(40, 50));
     QVERIFY(found.first().isInAppSafeArea(found.first().imagePath()));
     QVERIFY(!found.at(1).foto().isValid());
-
-    registry.setEvents(registry.mergeLists(registry.activeEventList(), found, true));
-    QCOMPARE(names(registry.activeEventList()), u"Erika Kurt"_qs);
-    const MvCalendarEventList again =
-        registry.onlyNewEvents(registry.activeEventList(), registry.loadFromSystemAddressBook());
-    QCOMPARE(names(again), u"Ohne"_qs); // invalid, hence never stored
 }
 
 void tst_MvCalendarEventRegistry::clearsFilledTexts()

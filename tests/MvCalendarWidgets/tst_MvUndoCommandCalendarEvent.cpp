@@ -39,8 +39,8 @@ private Q_SLOTS:
     void meansTheVeryEntry_data();
     void meansTheVeryEntry();
     void repaintsWhatChanged();
-    void findsAddedEntriesWithImportedFotos();
-    void findsLoadedEntriesWithImportedFotos();
+    void findsEntriesWithImportedFotos_data();
+    void findsEntriesWithImportedFotos();
 
 private:
     static MvCalendarEventRegistry &registry() { return MvCalendarEventRegistry::instance(); }
@@ -221,33 +221,33 @@ MvCalendarEventList tst_MvUndoCommandCalendarEvent::entriesOfFileWithFoto(const 
     return MvCalendarEventFile::read(QFileInfo(file)).events;
 }
 
-void tst_MvUndoCommandCalendarEvent::findsAddedEntriesWithImportedFotos()
+void tst_MvUndoCommandCalendarEvent::findsEntriesWithImportedFotos_data()
 {
-    const QTemporaryDir folder;
-    const MvCalendarEventList imported = entriesOfFileWithFoto(folder, u"added.png"_qs);
-    QCOMPARE(imported.size(), 1);
-
-    undo().push(new MvUndoCommandCalendarEvent(MvCalendarEvent(), imported.first(), nullptr));
-    QVERIFY(!registry().activeEventList().contains(imported.first())); // the photo was taken over
-    undo().undo();
-    QCOMPARE(onDisk(), u"A B"_qs);
-    undo().redo();
-    QCOMPARE(onDisk(), u"A B Import"_qs);
-    QCOMPARE(registry().activeEventList().last().imagePath().dir(), MvCalendarEvent::imageDirectory());
+    QTest::addColumn<bool>("loads"); // a list that was loaded as it is: the first change takes its photos over
+    QTest::addColumn<QString>("undone");
+    QTest::addColumn<QString>("redone");
+    QTest::newRow("added") << false << u"A B"_qs << u"A B Import"_qs;
+    QTest::newRow("loaded") << true << u"Import"_qs << u"Neu"_qs;
 }
 
-/// A list that was loaded as it is: the photo is taken over by the first change.
-void tst_MvUndoCommandCalendarEvent::findsLoadedEntriesWithImportedFotos()
+void tst_MvUndoCommandCalendarEvent::findsEntriesWithImportedFotos()
 {
+    QFETCH(const bool, loads);
     const QTemporaryDir folder;
-    QCOMPARE(entriesOfFileWithFoto(folder, u"loaded.png"_qs).size(), 1);
-    QVERIFY(registry().loadFrom(QFileInfo(folder.filePath(u"import.xml"_qs)), true));
-    undo().push(new MvUndoCommandCalendarEvent(registry().activeEventList().first(), entry(u"Neu"_qs), nullptr));
+    const MvCalendarEventList imported = entriesOfFileWithFoto(folder, u"oma.png"_qs);
+    QCOMPARE(imported.size(), 1);
+    if (loads)
+        QVERIFY(registry().loadFrom(QFileInfo(folder.filePath(u"import.xml"_qs)), true));
+    const MvCalendarEvent before = loads ? registry().activeEventList().first() : MvCalendarEvent();
+    undo().push(new MvUndoCommandCalendarEvent(before, loads ? entry(u"Neu"_qs) : imported.first(), nullptr));
     undo().undo();
-    QCOMPARE(onDisk(), u"Import"_qs);
-    QCOMPARE(registry().activeEventList().first().imagePath().dir(), MvCalendarEvent::imageDirectory());
+    QTEST(onDisk(), "undone");
     undo().redo();
-    QCOMPARE(onDisk(), u"Neu"_qs);
+    QTEST(onDisk(), "redone");
+    if (loads)
+        undo().undo();
+    QVERIFY(!registry().activeEventList().contains(imported.first()));
+    QCOMPARE(registry().activeEventList().last().imagePath().dir(), MvCalendarEvent::imageDirectory());
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvUndoCommandCalendarEvent)
