@@ -5,6 +5,9 @@
 
 #include "MvCore/MvGeneralSettings.h"
 #include "MvCore/MvUndoController.h"
+#include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
+
+#include <QUuid>
 
 MvSession::MvSession()
     : m_ownUndo(std::make_unique<MvUndoController>())
@@ -13,6 +16,9 @@ MvSession::MvSession()
     , m_entries(*m_ownEntries)
 {
     m_ownEntries->setupInstance();
+    // texts and artwork ask all registries by document: each session's is another one
+    m_ownEntries->setActiveModelId(MvProjectIdentifier(QUuid::createUuid().toString(), true), true);
+    MvSVGCompilerInstructionsFactory::instance().addHolidayCache(m_ownEntries.get());
 }
 
 MvSession::MvSession(MvUndoController &undo, MvCalendarEventRegistry &entries)

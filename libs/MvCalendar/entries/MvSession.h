@@ -20,8 +20,8 @@ class MvUndoController;
 class MVCALENDAR_EXPORT MvSession
 {
 public:
-    /// A session with an undo stack and entries of its own. The entries begin empty and live in memory:
-    /// MvCalendarEventRegistry::loadFrom() and saveAs() bring them from a file and into one.
+    /// A session with an undo stack and entries of its own. The entries begin empty, under a document id of their own,
+    /// and live in memory: MvCalendarEventRegistry::loadFrom() and saveAs() bring them from a file and into one.
     MvSession();
     ~MvSession();
     MvSession(const MvSession &) = delete;
