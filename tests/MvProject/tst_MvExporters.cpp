@@ -17,32 +17,9 @@
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
 
-#include <csignal>
-#include <cstdlib>
-#include <sys/resource.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Files of this process cannot grow beyond a size while it lives, as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-private:
-    rlimit m_before{};
-};
 
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
@@ -94,8 +71,6 @@ private Q_SLOTS:
     void refuses();
     void failingTargets_data();
     void failingTargets();
-    void fullDisk_data();
-    void fullDisk();
 
 private:
     MvPageSource source(const QString &format, double bleed, int pages) const;
@@ -388,40 +363,6 @@ void tst_MvExporters::failingTargets()
     }
     QCOMPARE(filesInFolder(), (QStringList{u"file"_s, u"folder"_s}));
     QVERIFY(QDir(path(u"folder"_s)).isEmpty());
-}
-
-void tst_MvExporters::fullDisk_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::newRow("pdf") << u"k.pdf"_s;
-    QTest::newRow("png") << u"k.png"_s;
-    QTest::newRow("svg") << u"k.svg"_s;
-}
-
-void tst_MvExporters::fullDisk()
-{
-    QFETCH(const QString, name);
-    QFile old(path(name));
-    QVERIFY(old.open(QIODevice::WriteOnly));
-    old.write("what was there before");
-    old.close();
-
-    MvPageSource pages = source(u"A6"_s, 0, 1);
-    pages.paint = [](QPainter &painter, int) {
-        for (int i = 0; i < 2000; ++i) // more than fits, however well it compresses
-            painter.drawLine(QPointF((i * 7919) % 1050, (i * 104729) % 1480), QPointF((i * 31) % 1050, i % 1480));
-    };
-    MvExportResult result;
-    {
-        const FullDisk disk(3000);
-        result = name.endsWith(".pdf"_L1)   ? MvPdfExporter::write(pages, QFileInfo(path(name)))
-                 : name.endsWith(".png"_L1) ? MvPngExporter::write(pages, path(name), 100)
-                                            : MvSvgExporter::write(pages, path(name));
-    }
-    QVERIFY(!result.isOk());
-    QVERIFY2(result.error.startsWith(path(name)), qPrintable(result.error));
-    QCOMPARE(contentOf(path(name)), QByteArray("what was there before"));
-    QCOMPARE(filesInFolder(), QStringList{name});
 }
 
 MV_TEST_MAIN(tst_MvExporters)

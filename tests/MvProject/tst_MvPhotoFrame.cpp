@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvEntries.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPrintedPhoto.h"
@@ -299,7 +300,7 @@ void tst_MvPhotoFrame::resolutionInCells()
     const QString small = m_folder.filePath(u"klein.png"_s);
     QVERIFY(writePhoto(small, {90, 60}));
     const auto entry = [](const QDate &date, const QString &photo) {
-        return MvCalendarEvent(u"Oma"_s, date.startOfDay(), true, MvFoto(QFileInfo(photo)), QUuid::createUuid(), {});
+        return MvEntries::entry(u"Oma"_s, date, MvFoto(QFileInfo(photo)));
     };
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
     registry.setEvents({entry({1960, 1, 20}, m_photo), entry({1962, 1, 6}, small)});

@@ -7,15 +7,8 @@
 #include "MvProjectFixture.h"
 #include "MvTest.h"
 
-#include <QProcess>
-#include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QThread>
-
-#include <unistd.h>
-
-// A program that works on a project is killed at a random moment, again and again. What it had put down must be found.
 
 using namespace Qt::StringLiterals;
 using namespace MvProjectFixture;
@@ -29,34 +22,9 @@ MvCalendarDocument titled(const QString &title)
     return calendar;
 }
 
-QString stateName(const QString &round, int step)
-{
-    return u"%1/%2"_s.arg(round).arg(step);
-}
-
 QStringList recoveryFiles()
 {
     return QDir(MvProjectAutosave::folder()).entryList(QDir::Files | QDir::Hidden);
-}
-
-/// Changes the project until it is killed; for each state that is on disk a line with its number goes out.
-[[noreturn]] void workForever(const QString &folder, const QString &original, const QString &round)
-{
-    MvDirectoryConfig::instance().setProgramDataDir(folder);
-    MvProject project;
-    MvProjectAutosave autosave(&project);
-    autosave.setDelay(0);
-    if (!project.open(QFileInfo(original)))
-        ::_exit(1);
-    QSignalSpy written(&autosave, &MvProjectAutosave::written);
-    for (int step = 1;; ++step) {
-        project.change(titled(stateName(round, step)), u"Titel"_s);
-        if (!written.wait())
-            ::_exit(2);
-        const QByteArray line = QByteArray::number(step) + '\n';
-        if (::write(STDOUT_FILENO, line.constData(), size_t(line.size())) != line.size())
-            ::_exit(3);
-    }
 }
 
 } // namespace
@@ -68,7 +36,6 @@ class tst_MvProjectAutosave : public MvTest
 private Q_SLOTS:
     void initTestCase() { cleanup(); }
     void cleanup() { MvDirectoryConfig::instance().setProgramDataDir(m_folder.filePath(u"daten"_s)); }
-    void survivesKills();
     void knowsWhetherTheFileIsAnother_data();
     void knowsWhetherTheFileIsAnother();
     void goesWhenNothingIsLost();
@@ -77,49 +44,6 @@ private Q_SLOTS:
 private:
     const QTemporaryDir m_folder;
 };
-
-void tst_MvProjectAutosave::survivesKills()
-{
-    const QString original = m_folder.filePath(u"familie.mvcalendar"_s);
-    QCOMPARE(MvProjectFile::write(titled(u"gespeichert"_s), QFileInfo(original)), QString());
-    QRandomGenerator random(20270101);
-    for (int round = 0; round < 20; ++round) {
-        QProcess child;
-        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        child.start(QCoreApplication::applicationFilePath(),
-                    {u"--work-forever"_s, m_folder.filePath(u"daten"_s), original, QString::number(round)});
-        const qint64 wanted = 2 * random.bounded(1, 5);
-        while (child.bytesAvailable() < wanted)
-            QVERIFY(child.waitForReadyRead(10000));
-        QCOMPARE(MvProjectRecovery::found().size(), 0); // its program lives
-        QThread::usleep(random.bounded(5000u));
-        child.kill();
-        QVERIFY(child.waitForFinished(10000));
-        const int confirmed = child.readAllStandardOutput().trimmed().split('\n').last().toInt();
-
-        const QList<MvProjectRecovery::Entry> found = MvProjectRecovery::found();
-        QCOMPARE(found.size(), 1);
-        QCOMPARE(found.first().originalPath, original);
-        const int state = found.first().title.section(u'/', 1).toInt();
-        QVERIFY2(state == confirmed || state == confirmed + 1, qPrintable(found.first().title));
-
-        MvProject project;
-        auto autosave = std::make_unique<MvProjectAutosave>(&project);
-        QString error;
-        QVERIFY2(MvProjectRecovery::open(found.first(), project, &error), qPrintable(error));
-        QVERIFY(project.isModified());
-        QCOMPARE(project.fileInfo().filePath(), original);
-        QVERIFY(project.document() == titled(stateName(QString::number(round), state)));
-        QCOMPARE(MvProjectRecovery::found().size(), 0); // ours now
-        QVERIFY(found.first().file.exists());
-        if (round % 2 == 0)
-            QVERIFY(project.save(&error));
-        autosave.reset(); // a clean close
-    }
-    // what a killed writer has not renamed yet goes with the next writing
-    const QStringList left = recoveryFiles().filter(QRegularExpression(u"^[^.]"_s));
-    QVERIFY2(left.isEmpty(), qPrintable(left.join(u' ')));
-}
 
 void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother_data()
 {
@@ -214,12 +138,5 @@ void tst_MvProjectAutosave::tellsOfFailures()
     QVERIFY(!failed.wait(50)); // once
 }
 
-int main(int argc, char **argv)
-{
-    if (argc == 5 && QByteArray(argv[1]) == "--work-forever") {
-        const QGuiApplication application(argc, argv);
-        workForever(QString::fromLocal8Bit(argv[2]), QString::fromLocal8Bit(argv[3]), QString::fromLocal8Bit(argv[4]));
-    }
-    return mvRunTest(argc, argv, []() -> QObject * { return new tst_MvProjectAutosave; });
-}
+MV_TEST_MAIN(tst_MvProjectAutosave)
 #include "tst_MvProjectAutosave.moc"

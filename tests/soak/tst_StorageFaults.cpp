@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvStorageTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -43,8 +44,7 @@ MvCalendarEventList entries(int state)
 {
     MvCalendarEventList events;
     for (int i = 0; i <= companions; ++i)
-        events.append(MvCalendarEvent(i == 0 ? nameOf(state) : u"Gast %1/%2"_s.arg(i).arg(state),
-                                      QDate(1960 + i, 5, 17).startOfDay(), true, MvFoto(), QUuid::createUuid(), {}));
+        events.append(MvEntries::entry(i == 0 ? nameOf(state) : u"Gast %1/%2"_s.arg(i).arg(state), {1960 + i, 5, 17}));
     return events;
 }
 
@@ -119,7 +119,7 @@ int stateAfterDamage(const QDir &disk)
 QString storePhoto(const QDir &disk, int state)
 {
     const QString source = QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state);
-    MvCalendarEvent entry(nameOf(state), QDate(1960, 5, 17).startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
+    MvCalendarEvent entry = MvEntries::entry(nameOf(state), {1960, 5, 17});
     QString error;
     if (!entry.takeFoto(MvFoto(QFileInfo(source)), &error))
         return error.isEmpty() ? u"the photo was not taken, without a word"_s : error;

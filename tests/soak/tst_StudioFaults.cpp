@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvStorageTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -86,8 +87,7 @@ QString storeEntry(const QDir &, int state)
     studio();
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
     const MvCalendarEvent before = registry.activeEventList().value(0);
-    const MvCalendarEvent entry(nameOf(state), QDate(1960, 5, 17).startOfDay(), true, MvFoto(), QUuid::createUuid(),
-                                {});
+    const MvCalendarEvent entry = MvEntries::entry(nameOf(state), {1960, 5, 17});
     return toldAfter([&] { MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, entry, nullptr)); },
                      [&registry] { return !registry.userFile().hasUnsavedChanges(); });
 }

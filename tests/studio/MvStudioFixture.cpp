@@ -71,10 +71,11 @@ MvStudioFixture::~MvStudioFixture()
     m_studio.reset();
 }
 
-void MvStudioFixture::start()
+void MvStudioFixture::start(const QStringList &arguments)
 {
+    m_studio.reset();
     m_studio = std::make_unique<MvStudioApplication>(
-        MvStudioOptions::parse({u"mvcalendar-studio"_s, u"--language"_s, m_language}));
+        MvStudioOptions::parse(QStringList{u"mvcalendar-studio"_s, u"--language"_s, m_language} + arguments));
     m_studio->start();
     QVERIFY(QTest::qWaitForWindowExposed(window()));
     window()->activateWindow();

@@ -31,6 +31,8 @@ public:
                              const QString &language = QStringLiteral("de"));
     ~MvStudioFixture();
 
+    /// Starts the program, again where it runs: with what it begins by itself.
+    void start(const QStringList &arguments = {});
     /// Closes the window, ends the program and starts it anew: what it knows then, it has read from its files.
     void restart();
 
@@ -108,7 +110,6 @@ public:
     QList<MvPaintRecording::Item> items(MvPaintRecording::Item::Kind kind) const;
 
 private:
-    void start();
     QRectF rectOf(const QDate &date) const;
 
     QTemporaryDir m_folder;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvProjectFixture.h"
 #include "pages/MvPageStrip.h"
 
@@ -65,7 +66,7 @@ void tst_MvPageStrip::thumbnailsArriveAndFollow()
 
     // an entry on its day
     QTRY_VERIFY(strip.isComplete());
-    const MvCalendarEvent entry(u"Erika"_s, QDate(2027, 1, 12).startOfDay(), true, {}, QUuid::createUuid(), {});
+    const MvCalendarEvent entry = MvEntries::entry(u"Erika"_s, {2027, 1, 12});
     QVERIFY(MvCalendarEventRegistry::instance().changeEvent({}, entry));
     QTRY_VERIFY(strip.isComplete());
     QVERIFY(strip.thumbnail(0) != first);

@@ -292,18 +292,11 @@ class tst_MvStudioPanels : public MvWidgetTest
 private Q_SLOTS:
     void init();
     void showingEditsNothing();
-    void scope_data();
-    void scope();
     void everyControlTellsThePage();
-    void undoAndRedoRefreshThePanels();
     void startAndMonths();
-    void holidaysKeepWhatTheEditorDoesNotShow();
-    void gridOnAndOff();
     void recolouringLeavesTheShippedSchema();
     void ownColorsStayAtHand();
     void ownColorsAreKept();
-    void yearsForAllPages();
-    void columnHeaders();
     void picturesOfLayouts();
 };
 
@@ -330,40 +323,6 @@ void tst_MvStudioPanels::showingEditsNothing()
         OpenPanels::settle();
     }
     QCOMPARE(open.undoTexts(), QStringList());
-}
-
-void tst_MvStudioPanels::scope_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<bool>("others");
-    QTest::newRow("all pages") << u"scopeAllPages"_s << true;
-    QTest::newRow("this page") << u"scopeCurrentPage"_s << false;
-}
-
-void tst_MvStudioPanels::scope()
-{
-    QFETCH(const QString, button);
-    QFETCH(const bool, others);
-    const OpenPanels open;
-    open.find<QWidget>(u"layoutPanel"_s)->findChild<QRadioButton *>(button)->click();
-    // every panel's switch shows the same
-    for (const QRadioButton *each : open.window.findChildren<QRadioButton *>(button))
-        QVERIFY(each->isChecked());
-    open.find<QWidget>(u"layoutPanel"_s)
-        ->findChild<MvLayoutChooser *>()
-        ->setLayoutId(MvCalendariumLayoutSchemaID(u"DAY_LIST"_s));
-    QCOMPARE(layoutOf(open.look(1)), u"DAY_LIST"_s);
-    QCOMPARE(layoutOf(open.look(0)) == u"DAY_LIST"_s, others);
-    QCOMPARE(layoutOf(open.look(11)) == u"DAY_LIST"_s, others);
-
-    open.find<QSpinBox>(u"fontSizeBox"_s)->setValue(120);
-    QCOMPARE(open.look(1).fontSettings().fontSizePercentage(), 20);
-    QCOMPARE(open.look(0).fontSettings().fontSizePercentage(), others ? 20 : 0);
-    QVERIFY(open.look(1).fontSettings().fontName().isEmpty()); // the family was not touched
-    QCOMPARE(open.undoTexts(), QStringList({u"Layout ändern"_s, u"Schrift ändern"_s}));
-    MvUndoController::instance().undo();
-    MvUndoController::instance().undo();
-    QCOMPARE(layoutOf(open.look(0)), layoutOf(open.look(1)));
 }
 
 /// At the start, while everything is used once, on other pages, in other layouts, by undo and redo, and in a calendar
@@ -431,38 +390,6 @@ void tst_MvStudioPanels::everyControlTellsThePage()
     }
 }
 
-void tst_MvStudioPanels::undoAndRedoRefreshThePanels()
-{
-    const OpenPanels open;
-    auto *size = open.find<QSpinBox>(u"fontSizeBox"_s);
-    auto *country = open.find<QComboBox>(u"languageBox"_s);
-    auto *picker = open.find<MvColorSchemaPicker>(u"colorSchemaPicker"_s);
-    const int germany = country->currentIndex();
-    const int austria = country->findText(u"Österreich"_s);
-    QVERIFY(austria >= 0);
-    size->setValue(150);
-    country->setCurrentIndex(austria);
-    picker->setCurrentRow(3);
-    OpenPanels::settle();
-    QCOMPARE(open.page(5).contentConfig().holidayConfig().language().country(), u"AT"_s);
-    const QStringList steps = {u"Schrift ändern"_s, u"Feiertage und Einträge ändern"_s, u"Farbschema ändern"_s};
-    QCOMPARE(open.undoTexts(), steps);
-    for (int step = 0; step < 3; ++step)
-        MvUndoController::instance().undo();
-    OpenPanels::settle();
-    QCOMPARE(size->value(), 100);
-    QCOMPARE(country->currentIndex(), germany);
-    QCOMPARE(picker->currentRow(), 0);
-    QCOMPARE(open.page(5).contentConfig().holidayConfig().province(), u"NW"_s);
-    for (int step = 0; step < 3; ++step)
-        MvUndoController::instance().redo();
-    OpenPanels::settle();
-    QCOMPARE(size->value(), 150);
-    QCOMPARE(country->currentIndex(), austria);
-    QCOMPARE(picker->currentRow(), 3);
-    QCOMPARE(open.undoTexts(), steps); // refreshing made no step of its own
-}
-
 void tst_MvStudioPanels::startAndMonths()
 {
     const OpenPanels open;
@@ -481,41 +408,6 @@ void tst_MvStudioPanels::startAndMonths()
     MvUndoController::instance().undo();
     MvUndoController::instance().undo();
     QCOMPARE(open.find<QSpinBox>(u"monthCount"_s)->value(), 12);
-}
-
-void tst_MvStudioPanels::holidaysKeepWhatTheEditorDoesNotShow()
-{
-    const OpenPanels open;
-    open.forThisPage();
-    open.find<QCheckBox>(u"publicHolidaysOnly"_s)->click();
-    open.find<QCheckBox>(u"personalEntriesCheckBox"_s)->click();
-    OpenPanels::settle();
-    const MvCalendariumHolidayConfig config = open.page(1).contentConfig().holidayConfig();
-    QVERIFY(config.hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY));
-    QVERIFY(!config.hasFeatures(FEATURE_ENTRIES));
-    const MvCalendariumHolidayConfig other = open.page(0).contentConfig().holidayConfig();
-    QVERIFY(!other.hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY) && other.hasFeatures(FEATURE_ENTRIES));
-    for (const MvCalendariumFeaturesEnum feature : {FEATURE_HOLIDAYS, FEATURE_HOLIDAY_COLORS, FEATURE_SCHOOL_VACATIONS})
-        QCOMPARE(config.hasFeatures(feature), other.hasFeatures(feature));
-    QCOMPARE(config.province(), other.province());
-}
-
-void tst_MvStudioPanels::gridOnAndOff()
-{
-    const OpenPanels open;
-    open.find<QTabWidget>(u"layoutTabs"_s)->setCurrentIndex(1);
-    auto *grid = open.find<QCheckBox>(u"showGridBox"_s);
-    const bool before = grid->isChecked();
-    grid->click();
-    QCOMPARE(open.look(7).gridConfig().isEnabled(), !before);
-    // the grid is no colour: the schema stays marked, and choosing another one leaves the grid as it is
-    auto *picker = open.find<MvColorSchemaPicker>(u"colorSchemaPicker"_s);
-    QCOMPARE(picker->currentItem()->text(), u"Papierweiß"_s);
-    picker->setCurrentRow(2);
-    QCOMPARE(open.look(7).gridConfig().isEnabled(), !before);
-    MvUndoController::instance().undo();
-    MvUndoController::instance().undo();
-    QCOMPARE(grid->isChecked(), before);
 }
 
 void tst_MvStudioPanels::recolouringLeavesTheShippedSchema()
@@ -631,42 +523,6 @@ void tst_MvStudioPanels::ownColorsAreKept()
     open.manage(u"resetSchemata"_s);
     open.agree(u"resetSchemataQuestion"_s);
     QCOMPARE(open.tiles(), QStringList{u"Eigene Farben"_s} + shipped);
-}
-
-void tst_MvStudioPanels::yearsForAllPages()
-{
-    const OpenPanels open;
-    auto *chooser = open.find<QWidget>(u"layoutPanel"_s)->findChild<MvLayoutChooser *>();
-    chooser->setLayoutId(MvCalendariumLayoutSchemaID(u"YEAR_PLANNER"_s));
-    QCOMPARE(open.project.document().pages().size(), 1);
-    open.panels->setCurrentPage(0); // as the window does
-    QCOMPARE(chooser->layoutId().toString(), u"YEAR_PLANNER"_s);
-    MvUndoController::instance().undo();
-    QCOMPARE(open.project.document().pages().size(), 12);
-    QCOMPARE(chooser->layoutId().toString(), u"MONTH_GRID_CLASSIC"_s);
-}
-
-void tst_MvStudioPanels::columnHeaders()
-{
-    const OpenPanels open;
-    auto *empty = open.find<QLabel>(u"noColumns"_s);
-    QVERIFY(empty->isVisible());
-    open.find<QPushButton>(u"chooseColumnsLayout"_s)->click();
-    QCOMPARE(layoutOf(open.look(3)), u"FAMILY_PLANNER"_s);
-    QVERIFY(!empty->isVisible());
-    auto *columns = open.find<QSpinBox>(u"countColumnsBox"_s);
-    QCOMPARE(columns->value(), 4);
-    columns->setValue(5);
-    auto *list = open.find<QListView>(u"columnHeadersList"_s);
-    QVERIFY(list->model()->setData(list->model()->index(4, 0), u"Oma"_s));
-    QCOMPARE(open.look(3).columnHeadersList(), QStringList({u"Mama"_s, u"Papa"_s, u"Kind 1"_s, u"Kind 2"_s, u"Oma"_s}));
-    MvUndoController::instance().undo();
-    QCOMPARE(columns->value(), 4);
-    columns->setValue(6); // those without a name are columns, too
-    QCOMPARE(open.look(3).countColumns(), 6);
-    QVERIFY(list->model()->setData(list->model()->index(3, 0), u"US$"_s));
-    QCOMPARE(list->model()->index(4, 0).data().toString(), QString());
-    QCOMPARE(open.look(3).columnHeadersList().mid(3), QStringList({u"US$"_s, u" "_s, u" "_s}));
 }
 
 /// They have the page's colours, its lines too, and the page's own layout is in sight.

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvUndoController.h"
+#include "MvEntries.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
-#include "MvStudioApplication.h"
-#include "MvWidgetTest.h"
+#include "MvStudioFixture.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintPages.h"
 #include "flows/MvProjectFlow.h"
 #include "pages/MvPageCanvas.h"
-#include "window/MvStudioWindow.h"
 
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
@@ -28,21 +27,17 @@ class tst_MvStudioWindow : public MvWidgetTest
 
 private Q_SLOTS:
     void init();
-    void cleanup();
+    void cleanup() { m_studio.reset(); }
     void firstStart();
     void everyActionIsComplete();
     void newCalendar();
     void saveAndOpen();
     void recentFiles();
-    void closeQuestion_data();
-    void closeQuestion();
     void fileChangedByOthers();
     void dropOfAProject();
     void undoTexts();
     void statusBar();
     void recovery();
-    void exportPdf();
-    void exportPictures();
     void exportErrors();
     void print();
     void cancelledPreview();
@@ -54,72 +49,28 @@ private Q_SLOTS:
     void settings();
 
 private:
-    void start(const QStringList &arguments = {});
     MvStudioWindow *window() const { return m_studio->window(); }
     MvProject *project() const { return m_studio->project(); }
-    void trigger(const char *action) const { window()->findChild<QAction *>(QLatin1StringView(action))->trigger(); }
-    /// The dialog that is open under the name, or null.
+    QString path(const QString &name) const { return m_studio->path(name); }
+    void trigger(const char *action) const { QVERIFY2(m_studio->trigger(action), action); }
+    void click(QWidget *parent, const char *button) const { QVERIFY2(m_studio->click(parent, button), button); }
+    void chooseFile(const QString &path) const { QVERIFY2(m_studio->chooseFile(path), qPrintable(path)); }
     template <class Dialog = QDialog>
-    Dialog *dialog(const char *name) const
+    static Dialog *dialog(const char *name)
     {
-        const auto all = window()->findChildren<Dialog *>(QLatin1StringView(name));
-        const auto open = std::find_if(all.begin(), all.end(), [](const Dialog *one) { return one->isVisible(); });
-        return open == all.end() ? nullptr : *open;
+        return MvStudioFixture::dialog<Dialog>(name);
     }
-    void click(QWidget *dialog, const char *button) const;
-    void chooseFile(const char *dialogName, const QString &path) const;
     void rename(const QString &title) const;
     void importCards(const QByteArrayList &cards);
     QString importReport() const;
-    QString path(const QString &name) const { return m_folder->filePath(name); }
 
-    std::unique_ptr<MvStudioApplication> m_studio;
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MvStudioFixture> m_studio;
 };
 
 void tst_MvStudioWindow::init()
 {
     failOnWarnings();
-    m_folder = std::make_unique<QTemporaryDir>();
-    MvStudioSettings::clearRecentFiles();
-    MvStudioSettings::setLanguage(u"de"_s);
-    MvStudioSettings::setWelcomeShown(true);
-    MvStudioSettings::setFolder(u"export"_s, m_folder->path());
-    start();
-}
-
-void tst_MvStudioWindow::cleanup()
-{
-    MvCalendarEventRegistry::instance().setEvents({});
-    m_studio.reset();
-    m_folder.reset();
-}
-
-void tst_MvStudioWindow::start(const QStringList &arguments)
-{
-    m_studio.reset();
-    m_studio =
-        std::make_unique<MvStudioApplication>(MvStudioOptions::parse(QStringList{u"mvcalendar-studio"_s} + arguments));
-    m_studio->start();
-    QVERIFY(QTest::qWaitForWindowExposed(window()));
-    QCoreApplication::processEvents();
-}
-
-void tst_MvStudioWindow::click(QWidget *dialog, const char *button) const
-{
-    QVERIFY(dialog);
-    auto *found = dialog->findChild<QAbstractButton *>(QLatin1StringView(button));
-    QVERIFY2(found, button);
-    QVERIFY2(found->isEnabled(), button);
-    QTest::mouseClick(found, Qt::LeftButton);
-}
-
-void tst_MvStudioWindow::chooseFile(const char *dialogName, const QString &path) const
-{
-    auto *files = dialog<QFileDialog>(dialogName);
-    QVERIFY2(files, dialogName);
-    files->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(path);
-    static_cast<QDialog *>(files)->accept();
+    m_studio = std::make_unique<MvStudioFixture>();
 }
 
 void tst_MvStudioWindow::rename(const QString &title) const
@@ -131,6 +82,8 @@ void tst_MvStudioWindow::rename(const QString &title) const
 
 void tst_MvStudioWindow::firstStart()
 {
+    MvStudioSettings::setWelcomeShown(true);
+    m_studio->start();
     const MvCalendarDocument &document = project()->document();
     QCOMPARE(document.pages().size(), 12);
     QCOMPARE(document.range(), MvDateRange::createDefaultCalendarDateRange());
@@ -147,7 +100,7 @@ void tst_MvStudioWindow::firstStart()
     dialog("layoutDialog")->reject();
     click(welcome, "welcomeClose");
     QVERIFY(!welcome->isVisible());
-    start();
+    m_studio->start();
     QVERIFY(!window()->findChild<QWidget *>(u"welcomePanel"_s)->isVisible());
 }
 
@@ -227,25 +180,18 @@ void tst_MvStudioWindow::newCalendar()
 
 void tst_MvStudioWindow::saveAndOpen()
 {
-    rename(u"Familie"_s);
-    QVERIFY(window()->isWindowModified());
     trigger("saveProject");
-    chooseFile("projectFileDialog", path(u"Familie"_s));
-    const QString file = path(u"Familie.mvcalendar"_s);
-    QVERIFY(QFileInfo::exists(file));
-    QVERIFY(!window()->isWindowModified());
-    QVERIFY(window()->windowTitle().startsWith(u"Familie[*]"_s));
-
-    start({file}); // from the command line
+    chooseFile(path(u"Familie"_s));
+    const QString file = path(u"Familie.mvcalendar"_s); // the suffix comes by itself
+    m_studio->start({file});                            // from the command line
     QTRY_COMPARE(project()->fileInfo().filePath(), file);
-    QCOMPARE(project()->document().title(), u"Familie"_s);
 
     QFile broken(path(u"kaputt.mvcalendar"_s));
     QVERIFY(broken.open(QIODevice::WriteOnly));
     broken.write("<calendarproject");
     broken.close();
     trigger("openProject");
-    chooseFile("projectFileDialog", broken.fileName());
+    chooseFile(broken.fileName());
     auto *error = dialog<QMessageBox>("errorMessage");
     QVERIFY(error);
     QVERIFY2(error->informativeText().contains(u"kaputt.mvcalendar"_s), qPrintable(error->informativeText()));
@@ -267,31 +213,6 @@ void tst_MvStudioWindow::recentFiles()
     project()->newProject(MvProjectFlow::firstDocument());
     menu->actions().at(0)->trigger();
     QCOMPARE(project()->fileInfo().filePath(), file);
-}
-
-void tst_MvStudioWindow::closeQuestion_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<bool>("isClosed");
-    QTest::addColumn<bool>("isSaved");
-    QTest::newRow("save") << u"saveButton"_s << true << true;
-    QTest::newRow("discard") << u"discardButton"_s << true << false;
-    QTest::newRow("cancel") << u"cancelButton"_s << false << false;
-}
-
-void tst_MvStudioWindow::closeQuestion()
-{
-    QFETCH(QString, button);
-    QFETCH(bool, isClosed);
-    const QFileInfo file(path(u"Familie.mvcalendar"_s));
-    QVERIFY(project()->saveAs(file));
-    QVERIFY(project()->document().title() != u"Neu"_s);
-    rename(u"Neu"_s);
-    QVERIFY(!window()->close());
-    QVERIFY(window()->isVisible());
-    click(dialog("saveQuestion"), button.toLatin1());
-    QCOMPARE(window()->isVisible(), !isClosed);
-    QTEST(MvProjectFile::read(file).document.title() == u"Neu"_s, "isSaved");
 }
 
 void tst_MvStudioWindow::fileChangedByOthers()
@@ -318,18 +239,8 @@ void tst_MvStudioWindow::dropOfAProject()
     const QString file = path(u"Familie.mvcalendar"_s);
     QVERIFY(project()->saveAs(QFileInfo(file)));
     project()->newProject(MvProjectFlow::firstDocument());
-    const auto drop = [this](const QString &dropped) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(dropped)});
-        QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(window(), &enter);
-        QDropEvent event({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        if (enter.isAccepted())
-            QCoreApplication::sendEvent(window(), &event);
-    };
-    drop(path(u"bild.jpg"_s));
-    QCOMPARE(project()->fileInfo().filePath(), QString());
-    drop(file);
+    QVERIFY(!MvStudioFixture::dropFile(window(), {5, 5}, path(u"bild.jpg"_s)));
+    QVERIFY(MvStudioFixture::dropFile(window(), {5, 5}, file));
     QCOMPARE(project()->fileInfo().filePath(), file);
 }
 
@@ -375,8 +286,7 @@ void tst_MvStudioWindow::statusBar()
     auto *button = window()->findChild<QToolButton *>(u"unfittingButton"_s);
     QVERIFY(!button->isVisible());
     const QString longText = u"Donaudampfschifffahrtsgesellschaftskapitänswitwenrentenauszahlungsstelle"_s.repeated(20);
-    MvCalendarEventRegistry::instance().setEvents(
-        {MvCalendarEvent(longText, QDate(1990, 5, 17).startOfDay(), true, {}, QUuid::createUuid(), QDateTime())});
+    MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(longText, {1990, 5, 17})});
     QTRY_VERIFY(button->isVisible());
     QCOMPARE(button->text(), u"1 Text ohne Platz"_s);
     Q_EMIT button->menu()->aboutToShow();
@@ -384,8 +294,7 @@ void tst_MvStudioWindow::statusBar()
     QCOMPARE(window()->currentPage(), 4);
 
     // so are characters that no font has, and photos of few pixels
-    MvCalendarEventRegistry::instance().setEvents(
-        {MvCalendarEvent(u"Anna \u0378"_s, QDate(1990, 5, 17).startOfDay(), true, {}, QUuid::createUuid(), {})});
+    MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(u"Anna \u0378"_s, {1990, 5, 17})});
     QImage few(30, 20, QImage::Format_RGB32);
     few.fill(Qt::green);
     QVERIFY(few.save(path(u"klein.png"_s)));
@@ -409,7 +318,7 @@ void tst_MvStudioWindow::recovery()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(MvProjectFile::toBytes(lost, QDir(MvProjectAutosave::folder())));
     }
-    start();
+    m_studio->start();
     QTRY_VERIFY(dialog("recoveryDialog"));
     auto *list = dialog("recoveryDialog")->findChild<QTreeWidget *>(u"recoveryList"_s);
     QCOMPARE(list->topLevelItemCount(), 2);
@@ -421,52 +330,9 @@ void tst_MvStudioWindow::recovery()
     QVERIFY(project()->isModified());
 
     QVERIFY(project()->saveAs(QFileInfo(path(u"gerettet.mvcalendar"_s))));
-    start();
+    m_studio->start();
     QTest::qWait(50);
     QVERIFY(!dialog("recoveryDialog"));
-}
-
-void tst_MvStudioWindow::exportPdf()
-{
-    MvCalendarDocument document = project()->document();
-    MvCalendarPage page = document.pages().first();
-    page.setPhotoFrame(MvPhotoFrame(path(u"fehlt.jpg"_s)));
-    document.setPage(0, page);
-    project()->change(document, u"Foto"_s);
-
-    trigger("exportPdf");
-    QDialog *settings = dialog("exportDialog");
-    auto *target = settings->findChild<QLineEdit *>(u"exportTarget"_s);
-    QVERIFY(target->text().startsWith(m_folder->path()));
-    target->setText(path(u"Kalender"_s)); // the suffix comes by itself
-    click(settings, "exportButton");
-    auto *missing = dialog<QMessageBox>("missingPhotosQuestion");
-    QVERIFY(missing->informativeText().contains(u"fehlt.jpg"_s));
-    click(missing, "exportAnywayButton");
-    QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 30000);
-    QVERIFY(!dialog("progressDialog"));
-    QVERIFY(dialog<QMessageBox>("informationMessage")->text().contains(u"Kalender.pdf"_s));
-    QFile pdf(path(u"Kalender.pdf"_s));
-    QVERIFY(pdf.open(QIODevice::ReadOnly));
-    QVERIFY(pdf.read(5) == "%PDF-");
-}
-
-void tst_MvStudioWindow::exportPictures()
-{
-    const int year = project()->document().range().start().year();
-    trigger("exportPng");
-    QDialog *settings = dialog("exportDialog");
-    settings->findChild<QLineEdit *>(u"exportPattern"_s)->setText(u"%y-%m-%n"_s);
-    settings->findChild<QSpinBox *>(u"exportDpi"_s)->setValue(20);
-    settings->findChild<QComboBox *>(u"exportPages"_s)->setCurrentIndex(2);
-    settings->findChild<QLineEdit *>(u"exportPageText"_s)->setText(u"2, 5-6"_s);
-    click(settings, "exportButton");
-    QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 30000);
-    QStringList expected;
-    for (const QString &name : {u"%1-02-02.png"_s, u"%1-05-05.png"_s, u"%1-06-06.png"_s})
-        expected.append(name.arg(year));
-    QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files, QDir::Name), expected);
-    QCOMPARE(QImage(path(expected.first())).size(), QSize(234, 165));
 }
 
 void tst_MvStudioWindow::exportErrors()
@@ -482,7 +348,7 @@ void tst_MvStudioWindow::exportErrors()
     target->setText(path(u"gibt es nicht"_s));
     QVERIFY(!button->isEnabled());
     QVERIFY(message->text().contains(u"gibt es nicht"_s));
-    target->setText(m_folder->path());
+    target->setText(path({}));
     pattern->setText(u"immer gleich.png"_s);
     QVERIFY(!button->isEnabled());
     settings->findChild<QComboBox *>(u"exportPages"_s)->setCurrentIndex(1);
@@ -549,9 +415,7 @@ void tst_MvStudioWindow::cancelledPreview()
 void tst_MvStudioWindow::leapDayEntries()
 {
     const auto shown = [this] { return window()->statusBar()->currentMessage(); };
-    const auto entry = [](const QString &name, const QDate &date) {
-        return MvCalendarEvent(name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
-    };
+    using MvEntries::entry;
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
     MvCalendarDocument document = project()->document();
     document.setRange({QDate(2027, 1, 1), QDate(2027, 12, 31)});
@@ -583,7 +447,7 @@ void tst_MvStudioWindow::importCards(const QByteArrayList &cards)
         file.write("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + card + "\r\nEND:VCARD\r\n");
     file.close();
     trigger("importBirthdays");
-    chooseFile("contactsFileDialog", file.fileName());
+    chooseFile(file.fileName());
 }
 
 /// What the import tells at its end; an empty text when it does not come.
@@ -603,15 +467,8 @@ QString tst_MvStudioWindow::importReport() const
 void tst_MvStudioWindow::birthdays()
 {
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
-    const auto entry = [](const QString &name) {
-        return MvCalendarEvent(name, QDate(1950, 5, 1).startOfDay(), true, MvFoto(), QUuid::createUuid(), {});
-    };
-    const auto names = [&] {
-        QStringList all;
-        for (const MvCalendarEvent &event : registry.activeEventList())
-            all.append(event.description());
-        return all.join(u' ');
-    };
+    const auto entry = [](const QString &name) { return MvEntries::entry(name, {1950, 5, 1}); };
+    const auto names = [&registry] { return MvEntries::names(registry.activeEventList()).join(u' '); };
     registry.setEvents({entry(u"Zoe"_s), entry(u"Udo"_s)});
     QSignalSpy finished(window()->birthdayImport(), &MvBirthdayImport::finished);
     const QByteArrayList cards{"Anna\r\nBDAY:19900517", "Bert\r\nBDAY:19900518", "Carl\r\nBDAY:19900230", "Dora",

@@ -193,6 +193,7 @@ void tst_StudioDesignJourneys::columnHeaders()
     const int columns = studio.find<QSpinBox>("countColumnsBox")->value();
     QVERIFY(studio.press("countColumnsBox", Qt::Key_Up));
     QCOMPARE(studio.find<QSpinBox>("countColumnsBox")->value(), columns + 1);
+    QCOMPARE(studio.document().appearance().countColumns(), columns + 1); // without a name as yet
 
     auto *list = studio.find<QListView>("columnHeadersList");
     list->setFocus(Qt::TabFocusReason);
@@ -349,26 +350,38 @@ void tst_StudioDesignJourneys::onlyThisPage()
 {
     MvStudioFixture studio;
     QVERIFY(studio.raiseDock("contentPanelDock"));
-    const auto publicOnly = [&studio](int page) {
-        return studio.document().pages().at(page).contentConfig().holidayConfig().hasFeatures(
-            FEATURE_PUBLIC_HOLIDAYS_ONLY);
+    const auto config = [&studio](int page) {
+        return studio.document().pages().at(page).contentConfig().holidayConfig();
+    };
+    const auto publicOnly = [&config](int page) { return config(page).hasFeatures(FEATURE_PUBLIC_HOLIDAYS_ONLY); };
+    const auto fontSize = [&studio](int page) {
+        return studio.document().pages().at(page).appearance().fontSettings().fontSizePercentage();
     };
     const bool before = publicOnly(0);
     QVERIFY(studio.click(studio.window(), "scopeCurrentPage"));
     QVERIFY(studio.trigger("nextPage"));
     QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
-    for (int page = 0; page < 12; ++page)
-        QCOMPARE(publicOnly(page), page == 1 ? !before : before);
+    QVERIFY(studio.raiseDock("fontPanelDock"));
+    QVERIFY(studio.press("fontSizeBox", Qt::Key_Up));
+    MvCalendariumHolidayConfig expected = config(0); // what the panel does not show is as it was
+    expected.setFeature(FEATURE_PUBLIC_HOLIDAYS_ONLY, !before);
+    for (int page = 0; page < 12; ++page) {
+        QVERIFY(config(page) == (page == 1 ? expected : config(0)));
+        QCOMPARE(fontSize(page) > 0, page == 1);
+    }
+    QVERIFY(studio.raiseDock("contentPanelDock"));
     QVERIFY(studio.trigger("nextPage"));
     QCOMPARE(studio.find<QCheckBox>("publicHolidaysOnly")->isChecked(), before);
     QVERIFY(studio.click(studio.window(), "scopeAllPages"));
     QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
     for (int page = 0; page < 12; ++page)
         QCOMPARE(publicOnly(page), !before);
-    studio.undo();
-    studio.undo();
-    for (int page = 0; page < 12; ++page)
+    while (studio.steps() > 0)
+        studio.undo();
+    for (int page = 0; page < 12; ++page) {
         QCOMPARE(publicOnly(page), before);
+        QCOMPARE(fontSize(page), 0);
+    }
 }
 
 MV_WIDGET_TEST_MAIN(tst_StudioDesignJourneys)

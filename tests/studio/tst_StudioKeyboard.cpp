@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvStudioFixture.h"
 
 #include "flows/MvDocumentDialog.h"
@@ -321,8 +322,7 @@ void tst_StudioKeyboard::menus()
             QVERIFY2(action->isSeparator() || action->isCheckable() || !mnemonicOf(action->text()).isNull(),
                      qPrintable(action->text()));
     }
-    MvCalendarEventRegistry::instance().setEvents(
-        {MvCalendarEvent(u"Oma"_s, QDate(2027, 1, 14).startOfDay(), true, {}, QUuid::createUuid(), {})});
+    MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(u"Oma"_s, {2027, 1, 14})});
     QVERIFY(studio.raiseDock("fontPanelDock"));
     QVERIFY(studio.press("fontFamilyBox", Qt::Key_E, Qt::ControlModifier)); // not the end of the line there
     QVERIFY(MvStudioFixture::dialog<QDialog>("exportDialog"));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvStudioFixture.h"
 
 #include "common/MvProgressDialog.h"
@@ -107,7 +108,7 @@ QList<std::pair<QString, std::function<void()>>> tst_StudioScreens::openers(cons
         {u"about"_s, [&studio] { studio.trigger("about"); }},
         {u"day"_s,
          [&studio] {
-             const MvCalendarEvent entry({}, QDate(2027, 5, 6).startOfDay(), true, {}, QUuid::createUuid(), {});
+             const MvCalendarEvent entry = MvEntries::entry({}, {2027, 5, 6});
              MvCalendarDayEditorDialog::createSelfDeleting(studio.page())->openDayEditorSeries(entry);
          }},
         {u"message"_s, [=] { MvStudioMessage::error(window, many.first(), MvStudioMessage::shortened(many, 10)); }},

@@ -57,18 +57,13 @@ private:
 
     void click();
     void clickCanvas();
-    void doubleClick();
     void drag();
     void turnWheel();
     void pressKey();
     void typeText();
     void dropFile();
-    void undo();
-    void redo();
-    void turnPage();
     void triggerAction();
     void raiseDock();
-    void closeWindow();
 
     /// The window that a person could use now.
     QWidget *currentWindow();

@@ -4,14 +4,12 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
+#include "MvEntries.h"
 #include "MvMonkey.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
-#include "MvStudioApplication.h"
-#include "MvWidgetTest.h"
-#include "common/MvStudioSettings.h"
-#include "window/MvStudioWindow.h"
+#include "MvStudioFixture.h"
 
 #include <csignal>
 
@@ -130,7 +128,6 @@ private Q_SLOTS:
     void survives();
 
 private:
-    MvProject *project() const { return m_studio->project(); }
     MvCalendarEventList createEvents(const QString &photo) const;
     QStringList createFiles() const;
     void check();
@@ -139,24 +136,16 @@ private:
     void checkPages();
     void checkWindows();
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<MvStudioApplication> m_studio;
+    std::unique_ptr<MvStudioFixture> m_studio;
     std::unique_ptr<MvMonkey> m_monkey;
 };
 
 void tst_StudioMonkey::init()
 {
     QTest::failOnWarning(QRegularExpression(u"^(?!.*kaputt)"_s)); // told about files that are broken on purpose
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_folder->isValid());
-    QVERIFY(QDir::setCurrent(m_folder->path())); // for names without a folder
-    MvStudioSettings::setLanguage(u"de"_s);
-    MvStudioSettings::setWelcomeShown(true);
-    MvStudioSettings::setFolder(u"export"_s, m_folder->path());
     QApplication::setQuitOnLastWindowClosed(false);
-    m_studio = std::make_unique<MvStudioApplication>(MvStudioOptions::parse({u"mvcalendar-studio"_s}));
-    m_studio->start();
-    QVERIFY(QTest::qWaitForWindowExposed(m_studio->window()));
+    m_studio = std::make_unique<MvStudioFixture>();
+    QVERIFY(QDir::setCurrent(m_studio->path({}))); // for names without a folder
 }
 
 void tst_StudioMonkey::cleanup()
@@ -165,36 +154,33 @@ void tst_StudioMonkey::cleanup()
         qInfo().noquote() << MvMonkey::log();
     MvRequestHandler::install({});
     m_monkey.reset();
-    MvCalendarEventRegistry::instance().setEvents({});
-    m_studio.reset();
     QDir::setCurrent(QDir::rootPath());
-    m_folder.reset();
+    m_studio.reset();
 }
 
 MvCalendarEventList tst_StudioMonkey::createEvents(const QString &photo) const
 {
     MvCalendarEventList events;
     for (int day = 1; day < 20; ++day)
-        events.append(MvCalendarEvent(u"Person %1"_s.arg(day), QDate(1980 + day, 1 + day % 12, day).startOfDay(),
-                                      day % 3 > 0, day % 5 == 0 ? MvFoto(QFileInfo(photo)) : MvFoto(),
-                                      QUuid::createUuid(), {}));
+        events.append(MvEntries::entry(u"Person %1"_s.arg(day), {1980 + day, 1 + day % 12, day},
+                                       day % 5 == 0 ? MvFoto(QFileInfo(photo)) : MvFoto(), day % 3 > 0));
     return events;
 }
 
 QStringList tst_StudioMonkey::createFiles() const
 {
     const auto write = [this](const QString &name, const QByteArray &content) {
-        QFile file(m_folder->filePath(name));
+        QFile file(m_studio->path(name));
         if (file.open(QIODevice::WriteOnly))
             file.write(content);
         return file.fileName();
     };
-    const QString photo = m_folder->filePath(u"Foto.png"_s);
-    const QString upright = m_folder->filePath(u"Hochkant.jpg"_s);
+    const QString photo = m_studio->path(u"Foto.png"_s);
+    const QString upright = m_studio->path(u"Hochkant.jpg"_s);
     MvProjectFixture::writePhoto(photo, {300, 200});
     MvProjectFixture::writePhoto(upright, {90, 160});
     const MvCalendarEventList events = createEvents(photo);
-    const QString calendar = m_folder->filePath(u"Kalender."_s + MvProjectFile::suffix());
+    const QString calendar = m_studio->path(u"Kalender."_s + MvProjectFile::suffix());
     MvProjectFile::write(MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 3), QFileInfo(calendar));
     return {photo,
             upright,
@@ -206,7 +192,7 @@ QStringList tst_StudioMonkey::createFiles() const
             write(u"kaputt."_s + MvProjectFile::suffix(), "<calendarproject version=\"1\"><page"),
             write(u"Leute.vcf"_s, "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Anna Ärmel\r\nBDAY:1990-02-28\r\nEND:VCARD\r\n"
                                   "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:Ben\r\nBDAY:2000-02-29\r\nEND:VCARD\r\n"),
-            m_folder->filePath(u"kaputt, weil nicht da.jpg"_s)};
+            m_studio->path(u"kaputt, weil nicht da.jpg"_s)};
 }
 
 void tst_StudioMonkey::survives_data()
@@ -221,9 +207,9 @@ void tst_StudioMonkey::survives()
 {
     QFETCH(quint32, seed);
     const QStringList files = createFiles();
-    MvRequestHandler::install(std::make_unique<ScriptedAnswers>(seed, files, m_folder->path()));
+    MvRequestHandler::install(std::make_unique<ScriptedAnswers>(seed, files, m_studio->path({})));
     MvCalendarEventRegistry::instance().setEvents(createEvents(files.first()));
-    m_monkey = std::make_unique<MvMonkey>(m_studio->window(), seed, files, m_folder->path());
+    m_monkey = std::make_unique<MvMonkey>(m_studio->window(), seed, files, m_studio->path({}));
     int steps = 0; // forth and back
     connect(MvUndoController::instance().stack(), &QUndoStack::indexChanged, m_monkey.get(), [&steps] { ++steps; });
     for (int action = 1; action <= actionsPerSeed; ++action) {
@@ -242,15 +228,13 @@ void tst_StudioMonkey::check()
 {
     m_monkey->closeOthers();
     QTest::qWait(3 * longestAnswer); // no answer is under way any more
-    checkEntries();
-    if (!QTest::currentTestFailed())
-        checkUndo();
-    if (!QTest::currentTestFailed())
-        checkEntries();
-    if (!QTest::currentTestFailed())
-        checkPages();
-    if (!QTest::currentTestFailed())
-        checkWindows();
+    using Check = void (tst_StudioMonkey::*)();
+    for (const Check check :
+         {&tst_StudioMonkey::checkEntries, &tst_StudioMonkey::checkUndo, &tst_StudioMonkey::checkEntries,
+          &tst_StudioMonkey::checkPages, &tst_StudioMonkey::checkWindows}) {
+        if (!QTest::currentTestFailed())
+            (this->*check)();
+    }
 }
 
 /// File, list and table are of one mind. Of entries that are the same but for their uuid, reading keeps one.
@@ -286,7 +270,7 @@ void tst_StudioMonkey::checkUndo()
 {
     MvUndoController &undo = MvUndoController::instance();
     const int index = undo.stack()->index();
-    const MvCalendarDocument document = project()->document();
+    const MvCalendarDocument document = m_studio->document();
     const QStringList entries = textsOf(MvCalendarEventRegistry::instance().activeEventList());
     std::optional<MvCalendarDocument> firstDocument;
     QStringList firstEntries;
@@ -298,10 +282,10 @@ void tst_StudioMonkey::checkUndo()
         }
         const QStringList atStart = textsOf(MvCalendarEventRegistry::instance().activeEventList());
         if (round == 0) {
-            firstDocument = project()->document();
+            firstDocument = m_studio->document();
             firstEntries = atStart;
         }
-        QVERIFY(*firstDocument == project()->document());
+        QVERIFY(*firstDocument == m_studio->document());
         QVERIFY2(firstEntries == atStart, differenceOf(atStart, firstEntries).constData());
 
         while (undo.stack()->index() < index) {
@@ -311,14 +295,14 @@ void tst_StudioMonkey::checkUndo()
             QVERIFY2(undo.stack()->index() == before + 1, qPrintable(u"“%1” does not come back"_s.arg(text)));
         }
         const QStringList redone = textsOf(MvCalendarEventRegistry::instance().activeEventList());
-        QVERIFY(project()->document() == document);
+        QVERIFY(m_studio->document() == document);
         QVERIFY2(redone == entries, differenceOf(redone, entries).constData());
     }
 }
 
 void tst_StudioMonkey::checkPages()
 {
-    const MvCalendarDocument &document = project()->document();
+    const MvCalendarDocument &document = m_studio->document();
     for (int page = 0; page < qMin(24, int(document.pages().size())); ++page)
         QVERIFY(!document.pages().at(page).record(document.format(), document.range()).isEmpty());
 }

@@ -134,11 +134,9 @@ void MvMonkey::act()
 MvMonkey::Action MvMonkey::chooseAction()
 {
     static const QList<Choice> choices{
-        {300, &MvMonkey::click},    {150, &MvMonkey::clickCanvas}, {40, &MvMonkey::doubleClick},
-        {50, &MvMonkey::drag},      {40, &MvMonkey::turnWheel},    {160, &MvMonkey::pressKey},
-        {80, &MvMonkey::typeText},  {50, &MvMonkey::dropFile},     {20, &MvMonkey::undo},
-        {15, &MvMonkey::redo},      {20, &MvMonkey::turnPage},     {15, &MvMonkey::triggerAction},
-        {40, &MvMonkey::raiseDock}, {10, &MvMonkey::closeWindow},
+        {340, &MvMonkey::click},    {150, &MvMonkey::clickCanvas},  {50, &MvMonkey::drag},
+        {40, &MvMonkey::turnWheel}, {160, &MvMonkey::pressKey},     {80, &MvMonkey::typeText},
+        {50, &MvMonkey::dropFile},  {70, &MvMonkey::triggerAction}, {40, &MvMonkey::raiseDock},
     };
     int all = 0;
     for (const Choice &choice : choices)
@@ -214,7 +212,11 @@ void MvMonkey::click()
     const Qt::MouseButton button = below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
     static const QList<Qt::KeyboardModifiers> modifiers{{}, {}, {}, {}, Qt::ShiftModifier, Qt::ControlModifier};
     note(u"click %1 %2,%3 button %4"_s.arg(nameOf(widget)).arg(point.x()).arg(point.y()).arg(button));
+    const QPointer<QWidget> target = widget;
     press(widget, point, button, oneOf(modifiers));
+    const QPointer<QWindow> window = target ? target->window()->windowHandle() : nullptr;
+    if (window && below(9) == 0)
+        QTest::mouseDClick(window, Qt::LeftButton, {}, placeOn(window, target, point));
 }
 
 void MvMonkey::clickCanvas()
@@ -225,18 +227,6 @@ void MvMonkey::clickCanvas()
     const QPoint point(below(view->width()), below(view->height()));
     note(u"click page %1,%2"_s.arg(point.x()).arg(point.y()));
     press(view, point, below(6) == 0 ? Qt::RightButton : Qt::LeftButton);
-}
-
-void MvMonkey::doubleClick()
-{
-    QPoint point;
-    QWidget *widget = someWidget(&point);
-    const QPointer<QWindow> window = widget->window()->windowHandle();
-    if (!window)
-        return;
-    note(u"double click %1 %2,%3"_s.arg(nameOf(widget)).arg(point.x()).arg(point.y()));
-    const QPoint place = placeOn(window, widget, point);
-    QTest::mouseDClick(window, Qt::LeftButton, {}, place);
 }
 
 void MvMonkey::drag()
@@ -365,44 +355,20 @@ void MvMonkey::dropFile()
     }
 }
 
-void MvMonkey::undo()
-{
-    if (QApplication::activeModalWidget())
-        return click();
-    note(u"undo"_s);
-    for (int steps = 1 + below(2); steps > 0; --steps)
-        m_window->findChild<QAction *>(u"undo"_s)->trigger();
-}
-
-void MvMonkey::redo()
-{
-    if (QApplication::activeModalWidget())
-        return click();
-    note(u"redo"_s);
-    for (int steps = 1 + below(2); steps > 0; --steps)
-        m_window->findChild<QAction *>(u"redo"_s)->trigger();
-}
-
-void MvMonkey::turnPage()
-{
-    if (QApplication::activeModalWidget())
-        return click();
-    static const QStringList names{u"nextPage"_s, u"previousPage"_s, u"firstPage"_s, u"lastPage"_s, u"nextPage"_s};
-    const QString name = oneOf(names);
-    note(name);
-    m_window->findChild<QAction *>(name)->trigger();
-}
-
 void MvMonkey::triggerAction()
 {
     if (QApplication::activeModalWidget())
         return click();
-    QList<QAction *> actions;
-    for (QAction *action : m_window->findChildren<QAction *>()) {
-        if (action->isEnabled() && action->isVisible() && !action->isSeparator() && !action->menu() &&
-            !action->objectName().isEmpty())
-            actions.append(action);
-    }
+    static const QStringList often{u"undo"_s,         u"undo"_s,      u"redo"_s,    u"nextPage"_s,
+                                   u"previousPage"_s, u"firstPage"_s, u"lastPage"_s};
+    QList<QAction *> actions{m_window->findChild<QAction *>(oneOf(often))};
+    if (below(6) == 0) // or any
+        actions = m_window->findChildren<QAction *>();
+    actions.removeIf([](const QAction *action) {
+        return !action->isEnabled() || !action->isVisible() || action->menu() || action->objectName().isEmpty();
+    });
+    if (actions.isEmpty())
+        return;
     QAction *action = oneOf(actions);
     note(u"action "_s + action->objectName());
     action->trigger();
@@ -419,20 +385,6 @@ void MvMonkey::raiseDock()
     if (dock->isFloating())
         dock->setFloating(false);
     dock->raise();
-}
-
-void MvMonkey::closeWindow()
-{
-    QWidgetList windows;
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && widget != m_window)
-            windows.append(widget);
-    }
-    if (windows.isEmpty())
-        return;
-    QWidget *window = oneOf(windows);
-    note(u"close "_s + nameOf(window));
-    window->close();
 }
 
 void MvMonkey::closeOthers()
