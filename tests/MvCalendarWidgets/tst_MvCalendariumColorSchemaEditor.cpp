@@ -7,8 +7,6 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvGUIWidgets/MvColorDelegate.h"
-#include "MvGUIWidgets/MvColorPalettePopup.h"
-#include "MvGUIWidgets/MvColorSelectionButton.h"
 
 #include <QDomDocument>
 
@@ -73,9 +71,6 @@ private Q_SLOTS:
     void weeksAlternate();
     void contrast_data();
     void contrast();
-    void choosingInTheTable();
-    void boxesFollowTheAppearance();
-    void boxesChangeTheSchema();
     void controlsByLayout_data();
     void controlsByLayout();
     void equalAppearanceChangesNothing();
@@ -246,80 +241,6 @@ void tst_MvCalendariumColorSchemaEditor::contrast()
     QCOMPARE(cell.data(MvColorDelegate::WarningRole).toBool(), !warning.isEmpty());
     QVERIFY(cell.data(Qt::ToolTipRole).toString().endsWith(warning));
     QVERIFY(!cell.data(Qt::AccessibleTextRole).toString().isEmpty());
-}
-
-void tst_MvCalendariumColorSchemaEditor::choosingInTheTable()
-{
-    MvCalendariumColorSchemaEditor editor;
-    editor.setAppearance(createAppearance());
-    editor.show();
-    QSignalSpy changed(&editor, &MvCalendariumColorSchemaEditor::schemaChanged);
-    auto *view = editor.findChild<QTableView *>(u"tableView"_s);
-    const auto &model = *qobject_cast<Model *>(view->model());
-    view->setCurrentIndex(model.index(rowOf(model, CALENDAR_CELL_TYPE_SUNDAY), Model::TypeColumn));
-    QTest::keyClick(view, Qt::Key_Right);
-    QTest::keyClick(view, Qt::Key_Space);
-    auto *palette = qobject_cast<MvColorPalettePopup *>(QApplication::activePopupWidget());
-    QVERIFY(palette);
-    QTest::mouseClick(palette->findChild<QPushButton *>(u"transparentButton"_s), Qt::LeftButton);
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(editor.colorSchema().cellColor(key(CALENDAR_CELL_TYPE_SUNDAY)).alpha(), 0);
-    QVERIFY(editor.appearance().colorSchema() == changed[0][0].value<MvCalendariumColorSchema>());
-}
-
-void tst_MvCalendariumColorSchemaEditor::boxesFollowTheAppearance()
-{
-    MvCalendariumColorSchemaEditor editor;
-    MvCalendariumAppearance appearance = createAppearance();
-    editor.setAppearance(appearance);
-    const auto isChecked = [&editor](const QString &name) { return editor.findChild<QCheckBox *>(name)->isChecked(); };
-    auto *button = editor.findChild<MvColorSelectionButton *>(u"gridColorButton"_s);
-    for (const QString &name :
-         {u"vacationsLikeSaturdaysBox"_s, u"holidaysLikeSundaysBox"_s, u"parityBox"_s, u"showGridBox"_s})
-        QVERIFY2(!isChecked(name), qPrintable(name));
-    QVERIFY(!button->isEnabled());
-
-    appearance.copyColors(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION);
-    appearance.copyColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY);
-    appearance.setCellColor(red, key(CALENDAR_CELL_TYPE_WEEKDAY, MvParityLogicEnum::odd));
-    appearance.setGridConfig(MvBorderConfig(red, MvDistance(2.0), BORDER_POSITION_CENTRED, true));
-    editor.setAppearance(appearance);
-    for (const QString &name :
-         {u"vacationsLikeSaturdaysBox"_s, u"holidaysLikeSundaysBox"_s, u"parityBox"_s, u"showGridBox"_s})
-        QVERIFY2(isChecked(name), qPrintable(name));
-    QVERIFY(button->isEnabled());
-    QCOMPARE(button->color(), red);
-}
-
-void tst_MvCalendariumColorSchemaEditor::boxesChangeTheSchema()
-{
-    MvCalendariumColorSchemaEditor editor;
-    editor.setAppearance(createAppearance());
-    QSignalSpy changed(&editor, &MvCalendariumColorSchemaEditor::schemaChanged);
-    QSignalSpy vacations(&editor, &MvCalendariumColorSchemaEditor::vacationsLikeSaturdaysChangedByUser);
-    QSignalSpy holidays(&editor, &MvCalendariumColorSchemaEditor::holidaysLikeSundaysChangedByUser);
-    const auto press = [&editor](const QString &name) {
-        QTest::keyClick(editor.findChild<QWidget *>(name), Qt::Key_Space);
-    };
-    press(u"vacationsLikeSaturdaysBox"_s);
-    QVERIFY(editor.haveSameColors(CALENDAR_CELL_TYPE_SATURDAY, CALENDAR_CELL_TYPE_SCHOOL_VACATION));
-    QCOMPARE(vacations.size(), 1);
-    press(u"holidaysLikeSundaysBox"_s);
-    QVERIFY(editor.haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY));
-    QCOMPARE(holidays.size(), 1);
-    press(u"parityBox"_s);
-    QVERIFY(editor.colorSchema().distinguishesParities());
-    press(u"showGridBox"_s);
-    QVERIFY(editor.colorSchema().gridConfig().isEnabled());
-    QCOMPARE(changed.size(), 4);
-
-    editor.show();
-    press(u"gridColorButton"_s);
-    QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Down);
-    QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Space);
-    QCOMPARE(changed.size(), 5);
-    QVERIFY(editor.colorSchema().gridConfig().color() != QColor(Qt::black));
-    QVERIFY(editor.colorSchema().gridConfig().isEnabled());
 }
 
 void tst_MvCalendariumColorSchemaEditor::controlsByLayout_data()

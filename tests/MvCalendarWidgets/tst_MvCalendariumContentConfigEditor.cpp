@@ -34,7 +34,6 @@ private Q_SLOTS:
 
     void roundTrip_data();
     void roundTrip();
-    void regionsHaveNamesAndGiveTheirHolidays();
     void backToTheWholeCountry_data();
     void backToTheWholeCountry();
     void whatIsNotOffered();
@@ -68,23 +67,6 @@ void tst_MvCalendariumContentConfigEditor::roundTrip()
     MvCalendariumContentConfig expected = config(u"BY"_s, features);
     expected.setDate(QDate(1999, 12, 1));
     QVERIFY(editor.contentConfig() == expected);
-}
-
-void tst_MvCalendariumContentConfigEditor::regionsHaveNamesAndGiveTheirHolidays()
-{
-    const QDate corpusChristi(2027, 5, 27); // a holiday in Bavaria, not in Berlin
-    MvCalendariumContentConfigEditor editor;
-    editor.setContentConfig(config(u"BE"_s, 1));
-    QCOMPARE(editor.province(), u"Berlin"_s);
-    QVERIFY(!hasHoliday(editor.contentConfig(), corpusChristi, u"Fronleichnam"_s));
-    QSignalSpy changed(&editor, &MvCalendariumContentConfigEditor::onChanged);
-    auto *box = editor.findChild<QComboBox *>(u"provinceBox"_s);
-    QTest::keyClicks(box, u"Bay"_s);
-    QCOMPARE(editor.province(), u"Bayern"_s);
-    QVERIFY(!changed.isEmpty());
-    QVERIFY(hasHoliday(editor.contentConfig(), corpusChristi, u"Fronleichnam"_s));
-    editor.setProvince(germany, u"Sachsen"_s); // by name
-    QCOMPARE(editor.holidayConfig().province(), u"SN"_s);
 }
 
 void tst_MvCalendariumContentConfigEditor::backToTheWholeCountry_data()

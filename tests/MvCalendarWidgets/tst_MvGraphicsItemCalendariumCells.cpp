@@ -12,6 +12,8 @@
 #include <QAccessible>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 using Cell = MvGraphicsItemCalendariumCell;
 using Manager = MvGraphicsItemCalendariumCellsManager;
 
@@ -148,11 +150,11 @@ void tst_MvGraphicsItemCalendariumCells::clicks_data()
 {
     QTest::addColumn<QString>("gesture");
     QTest::addColumn<bool>("opens");
-    QTest::newRow("click") << u"c"_qs << true;
-    QTest::newRow("double click") << u"cd"_qs << false;
-    QTest::newRow("right click") << u"r"_qs << false;
-    QTest::newRow("right click, later a click") << u"rwc"_qs << true;
-    QTest::newRow("double click, later a click") << u"cdwc"_qs << true;
+    QTest::newRow("click") << u"c"_s << true;
+    QTest::newRow("double click") << u"cd"_s << false;
+    QTest::newRow("right click") << u"r"_s << false;
+    QTest::newRow("right click, later a click") << u"rwc"_s << true;
+    QTest::newRow("double click, later a click") << u"cdwc"_s << true;
 }
 
 void tst_MvGraphicsItemCalendariumCells::clicks()
@@ -182,7 +184,7 @@ void tst_MvGraphicsItemCalendariumCells::clicks()
     if (!opens)
         return;
     QCOMPARE(spy.at(0).at(1).toPoint(), viewport->mapToGlobal(canvas.centre(day)));
-    QCOMPARE(openMenu()->actions().last()->text(), u"Neuen Eintrag am 5. Juni erstellen…"_qs);
+    QCOMPARE(openMenu()->actions().last()->text(), u"Neuen Eintrag am 5. Juni erstellen…"_s);
     const QPointer<QMenu> menu = openMenu();
     QTest::keyClick(menu, Qt::Key_Escape);
     QTRY_VERIFY(!menu); // deletes itself
@@ -204,28 +206,28 @@ void tst_MvGraphicsItemCalendariumCells::dragIsNoClick()
 void tst_MvGraphicsItemCalendariumCells::menuLeadsToTheEditor()
 {
     MvCalendarEventRegistry::instance().setEvents(
-        {entry(u"Oma & Opa"_qs, QDate(1950, 6, 5)), entry(u"Zoë"_qs, day), entry(u"anderer Tag"_qs, day.addDays(1))});
+        {entry(u"Oma & Opa"_s, QDate(1950, 6, 5)), entry(u"Zoë"_s, day), entry(u"anderer Tag"_s, day.addDays(1))});
     Canvas canvas;
     const std::unique_ptr<QMenu> menu(canvas.manager->customEntryMenuForHoveredDate(day));
-    QCOMPARE(menu->title(), u"Eigene Einträge bearbeiten"_qs);
+    QCOMPARE(menu->title(), u"Eigene Einträge bearbeiten"_s);
     QStringList texts;
     for (const QAction *action : menu->actions())
         texts.append(action->text());
-    QCOMPARE(texts, (QStringList{u"„Oma && Opa“ bearbeiten…"_qs, u"„Zoë“ bearbeiten…"_qs, QString(),
-                                 u"Neuen Eintrag am 5. Juni erstellen…"_qs}));
+    QCOMPARE(texts, (QStringList{u"„Oma && Opa“ bearbeiten…"_s, u"„Zoë“ bearbeiten…"_s, QString(),
+                                 u"Neuen Eintrag am 5. Juni erstellen…"_s}));
 
     QSignalSpy spy(canvas.manager, &Manager::eventChanged);
     menu->actions().at(1)->trigger();
     QPointer<MvCalendarDayEditorDialog> dialog = openEditor();
     QVERIFY(dialog);
-    QCOMPARE(dialog->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Zoë"_qs);
+    QCOMPARE(dialog->findChild<QLineEdit *>(u"descriptionEdit"_s)->text(), u"Zoë"_s);
     QTest::keyClick(dialog, Qt::Key_Escape);
     QTRY_VERIFY(!dialog);
     QCOMPARE(spy.count(), 0);
 
     menu->actions().last()->trigger();
     dialog = openEditor();
-    QTest::keyClicks(dialog->findChild<QLineEdit *>(u"descriptionEdit"_qs), u"Neu"_qs);
+    QTest::keyClicks(dialog->findChild<QLineEdit *>(u"descriptionEdit"_s), u"Neu"_s);
     QTest::keyClick(dialog, Qt::Key_Return);
     QCOMPARE(spy.count(), 1);
     QCOMPARE(MvCalendarEventRegistry::instance().activeEventList().last().dateTime(), day.startOfDay());
@@ -344,7 +346,7 @@ void tst_MvGraphicsItemCalendariumCells::keyboard()
 
 void tst_MvGraphicsItemCalendariumCells::screenReader()
 {
-    MvCalendarEventRegistry::instance().setEvents({entry(u"Tim"_qs, day), entry(u"Åsa"_qs, day)});
+    MvCalendarEventRegistry::instance().setEvents({entry(u"Tim"_s, day), entry(u"Åsa"_s, day)});
     Canvas canvas;
     canvas.pass({2027, 6, 1}, pageRect);
     QVERIFY(QTest::qWaitForWindowActive(&canvas.view));
@@ -352,8 +354,8 @@ void tst_MvGraphicsItemCalendariumCells::screenReader()
     QAccessibleInterface *cell = view->child(view->childCount() - 26); // the fifth of thirty
     QVERIFY(cell && cell->isValid());
     QCOMPARE(cell->role(), QAccessible::Button);
-    QCOMPARE(cell->text(QAccessible::Name), u"Samstag, 5. Juni 2027"_qs);
-    QCOMPARE(cell->text(QAccessible::Description), u"Tim, Åsa"_qs);
+    QCOMPARE(cell->text(QAccessible::Name), u"Samstag, 5. Juni 2027"_s);
+    QCOMPARE(cell->text(QAccessible::Description), u"Tim, Åsa"_s);
     QCOMPARE(cell->parent(), view);
     QCOMPARE(view->indexOfChild(cell), view->childCount() - 26);
     const QPoint centre = canvas.view.viewport()->mapToGlobal(canvas.centre(day));
@@ -372,12 +374,12 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos_data()
     QTest::addColumn<QStringList>("files");
     QTest::addColumn<bool>("accepted");
     QTest::addColumn<bool>("opens the editor");
-    const QStringList fotos{u"text.txt"_qs, u"rot.png"_qs, u"blau.png"_qs};
-    QTest::newRow("no photo among the files") << 1 << QStringList{u"text.txt"_qs} << false << false;
+    const QStringList fotos{u"text.txt"_s, u"rot.png"_s, u"blau.png"_s};
+    QTest::newRow("no photo among the files") << 1 << QStringList{u"text.txt"_s} << false << false;
     QTest::newRow("a day without entries") << 0 << fotos << true << true;
     QTest::newRow("a day with one") << 1 << fotos << true << false;
     QTest::newRow("a day with two") << 2 << fotos << true << true;
-    QTest::newRow("a photo that claims to be huge") << 1 << QStringList{u"huge.webp"_qs} << true << false;
+    QTest::newRow("a photo that claims to be huge") << 1 << QStringList{u"huge.webp"_s} << true << false;
 }
 
 void tst_MvGraphicsItemCalendariumCells::droppedFotos()
@@ -385,15 +387,15 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos()
     const QTemporaryDir folder;
     QImage image(40, 30, QImage::Format_RGB32);
     image.fill(Qt::red);
-    QVERIFY(image.save(folder.filePath(u"rot.png"_qs)));
+    QVERIFY(image.save(folder.filePath(u"rot.png"_s)));
     image.fill(Qt::blue);
-    QVERIFY(image.save(folder.filePath(u"blau.png"_qs)));
-    QFile huge(folder.filePath(u"huge.webp"_qs));
+    QVERIFY(image.save(folder.filePath(u"blau.png"_s)));
+    QFile huge(folder.filePath(u"huge.webp"_s));
     QVERIFY(huge.open(QIODevice::WriteOnly) &&
             huge.write(QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100")) >
                 0);
     huge.close();
-    QFile text(folder.filePath(u"text.txt"_qs));
+    QFile text(folder.filePath(u"text.txt"_s));
     QVERIFY(text.open(QIODevice::WriteOnly) && text.write("kein Foto") > 0);
     text.close();
     QFETCH(const QStringList, files);
@@ -408,10 +410,10 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos()
     for (int i = 0; i < entries; ++i)
         events.append(entry(QString::number(i), day));
     QFETCH(const bool, accepted);
-    const bool isBroken = files.first() == u"huge.webp"_qs;
+    const bool isBroken = files.first() == u"huge.webp"_s;
     if (isBroken) {
-        events.first().setFoto(MvFoto(QFileInfo(folder.filePath(u"rot.png"_qs))));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"huge\\.webp“ kann nicht gelesen werden"_qs));
+        events.first().setFoto(MvFoto(QFileInfo(folder.filePath(u"rot.png"_s))));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"huge\\.webp“ kann nicht gelesen werden"_s));
     }
     MvCalendarEventRegistry::instance().setEvents(events);
     Canvas canvas;

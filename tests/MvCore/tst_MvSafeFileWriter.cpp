@@ -19,6 +19,8 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 class tst_MvSafeFileWriter : public MvTest
 {
     Q_OBJECT
@@ -60,7 +62,7 @@ private:
 
 void tst_MvSafeFileWriter::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
     m_dir = std::make_unique<QTemporaryDir>();
     QVERIFY(m_dir->isValid());
 }
@@ -80,96 +82,96 @@ void tst_MvSafeFileWriter::put(const QString &name, const QByteArray &content) c
 
 void tst_MvSafeFileWriter::replacesAndKeepsMode()
 {
-    put(u"a.xml"_qs, "old");
-    QVERIFY(::chmod(QFile::encodeName(path(u"a.xml"_qs)).constData(), 0640) == 0);
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new", MvSafeFileWriter::Backups::None).isOk());
-    QCOMPARE(contentOf(u"a.xml"_qs), "new");
-    QCOMPARE(names(), QStringList{u"a.xml"_qs});
+    put(u"a.xml"_s, "old");
+    QVERIFY(::chmod(QFile::encodeName(path(u"a.xml"_s)).constData(), 0640) == 0);
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new", MvSafeFileWriter::Backups::None).isOk());
+    QCOMPARE(contentOf(u"a.xml"_s), "new");
+    QCOMPARE(names(), QStringList{u"a.xml"_s});
     struct stat status = {};
-    QVERIFY(::stat(QFile::encodeName(path(u"a.xml"_qs)).constData(), &status) == 0);
+    QVERIFY(::stat(QFile::encodeName(path(u"a.xml"_s)).constData(), &status) == 0);
     QCOMPARE(status.st_mode & 07777, 0640u);
 }
 
 void tst_MvSafeFileWriter::writesThroughLinks()
 {
-    QVERIFY(QDir(m_dir->path()).mkdir(u"elsewhere"_qs));
-    put(u"elsewhere/real.xml"_qs, "old");
-    QVERIFY(QFile::link(u"elsewhere/real.xml"_qs, path(u"one.xml"_qs)));
-    QVERIFY(QFile::link(u"one.xml"_qs, path(u"two.xml"_qs)));
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"two.xml"_qs)), "new").isOk());
-    QVERIFY(QFileInfo(path(u"two.xml"_qs)).isSymLink());
-    QVERIFY(QFileInfo(path(u"one.xml"_qs)).isSymLink());
-    QCOMPARE(contentOf(u"elsewhere/real.xml"_qs), "new");
-    QCOMPARE(contentOf(u"elsewhere/real.xml~"_qs), "old"); // backups lie where the content lies
+    QVERIFY(QDir(m_dir->path()).mkdir(u"elsewhere"_s));
+    put(u"elsewhere/real.xml"_s, "old");
+    QVERIFY(QFile::link(u"elsewhere/real.xml"_s, path(u"one.xml"_s)));
+    QVERIFY(QFile::link(u"one.xml"_s, path(u"two.xml"_s)));
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"two.xml"_s)), "new").isOk());
+    QVERIFY(QFileInfo(path(u"two.xml"_s)).isSymLink());
+    QVERIFY(QFileInfo(path(u"one.xml"_s)).isSymLink());
+    QCOMPARE(contentOf(u"elsewhere/real.xml"_s), "new");
+    QCOMPARE(contentOf(u"elsewhere/real.xml~"_s), "old"); // backups lie where the content lies
 
-    QVERIFY(QFile::link(u"elsewhere/later.xml"_qs, path(u"dangling.xml"_qs)));
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"dangling.xml"_qs)), "first").isOk());
-    QCOMPARE(contentOf(u"elsewhere/later.xml"_qs), "first");
+    QVERIFY(QFile::link(u"elsewhere/later.xml"_s, path(u"dangling.xml"_s)));
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"dangling.xml"_s)), "first").isOk());
+    QCOMPARE(contentOf(u"elsewhere/later.xml"_s), "first");
 }
 
 void tst_MvSafeFileWriter::refuses_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("message");
-    QTest::newRow("folder") << u"folder"_qs << u"keine gewöhnliche Datei"_qs;
-    QTest::newRow("pipe") << u"pipe"_qs << u"keine gewöhnliche Datei"_qs;
-    QTest::newRow("device") << u"/dev/full"_qs << u"keine gewöhnliche Datei"_qs;
-    QTest::newRow("missing folder") << u"nowhere/a.xml"_qs << u"Den Ordner gibt es nicht"_qs;
-    QTest::newRow("file in place of a folder") << u"file/a.xml"_qs << u"Den Ordner gibt es nicht"_qs;
-    QTest::newRow("circle of links") << u"circle"_qs << u"im Kreis"_qs;
-    QTest::newRow("name too long") << QString(300, u'x') << u"zu lang"_qs;
+    QTest::newRow("folder") << u"folder"_s << u"keine gewöhnliche Datei"_s;
+    QTest::newRow("pipe") << u"pipe"_s << u"keine gewöhnliche Datei"_s;
+    QTest::newRow("device") << u"/dev/full"_s << u"keine gewöhnliche Datei"_s;
+    QTest::newRow("missing folder") << u"nowhere/a.xml"_s << u"Den Ordner gibt es nicht"_s;
+    QTest::newRow("file in place of a folder") << u"file/a.xml"_s << u"Den Ordner gibt es nicht"_s;
+    QTest::newRow("circle of links") << u"circle"_s << u"im Kreis"_s;
+    QTest::newRow("name too long") << QString(300, u'x') << u"zu lang"_s;
 }
 
 void tst_MvSafeFileWriter::refuses()
 {
     QFETCH(QString, name);
     QFETCH(QString, message);
-    QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_qs));
-    put(u"file"_qs, "kept");
-    QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_qs)).constData(), 0600), 0);
-    QVERIFY(QFile::link(u"circle"_qs, path(u"circle"_qs)));
+    QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_s));
+    put(u"file"_s, "kept");
+    QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
+    QVERIFY(QFile::link(u"circle"_s, path(u"circle"_s)));
     const QStringList before = names();
     const auto result = MvSafeFileWriter::write(QFileInfo(path(name)), "new");
     QVERIFY2(result.error.contains(message), qPrintable(result.error));
     QVERIFY(result.error.contains(name.right(20)));
     QCOMPARE(names(), before);
-    QCOMPARE(contentOf(u"file"_qs), "kept");
+    QCOMPARE(contentOf(u"file"_s), "kept");
 }
 
 void tst_MvSafeFileWriter::sizeLimitLeavesTheOldFile()
 {
-    put(u"a.xml"_qs, "old");
+    put(u"a.xml"_s, "old");
     struct rlimit before = {};
     QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     struct rlimit limit = before;
     limit.rlim_cur = 64 * 1024;
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), QByteArray(100 * 1024, 'x'));
+    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), QByteArray(100 * 1024, 'x'));
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
-    QVERIFY2(result.error.contains(u"größer als erlaubt"_qs), qPrintable(result.error));
-    QCOMPARE(contentOf(u"a.xml"_qs), "old");
-    QCOMPARE(names(), QStringList{u"a.xml"_qs});
+    QVERIFY2(result.error.contains(u"größer als erlaubt"_s), qPrintable(result.error));
+    QCOMPARE(contentOf(u"a.xml"_s), "old");
+    QCOMPARE(names(), QStringList{u"a.xml"_s});
 }
 
 void tst_MvSafeFileWriter::closedFolderIsWrittenInPlace()
 {
-    put(u"a.xml"_qs, "a long old content");
+    put(u"a.xml"_s, "a long old content");
     const QByteArray folder = QFile::encodeName(m_dir->path());
-    QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_qs)).constData(), 0666), 0);
+    QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_s)).constData(), 0666), 0);
     QCOMPARE(::chmod(folder.constData(), 0555), 0);
     const bool isAdministrator = ::geteuid() == 0; // for whom no folder is closed
     if (isAdministrator)
         QCOMPARE(::seteuid(65534), 0);
-    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new");
-    const auto refused = MvSafeFileWriter::write(QFileInfo(path(u"b.xml"_qs)), "new");
+    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new");
+    const auto refused = MvSafeFileWriter::write(QFileInfo(path(u"b.xml"_s)), "new");
     if (isAdministrator)
         QCOMPARE(::seteuid(0), 0);
     QCOMPARE(::chmod(folder.constData(), 0755), 0);
     QCOMPARE(result.error, QString());
-    QCOMPARE(contentOf(u"a.xml"_qs), "new");
-    QVERIFY2(refused.error.contains(u"darf nicht geschrieben werden"_qs), qPrintable(refused.error));
+    QCOMPARE(contentOf(u"a.xml"_s), "new");
+    QVERIFY2(refused.error.contains(u"darf nicht geschrieben werden"_s), qPrintable(refused.error));
 }
 
 struct Person
@@ -255,8 +257,8 @@ void tst_MvSafeFileWriter::rightsOfSharedFiles()
     QFETCH(QByteArray, listOfFolder);
     if (::geteuid() != 0)
         QSKIP("taking on another user needs the administrator");
-    put(u"a.xml"_qs, "old");
-    const QByteArray file = QFile::encodeName(path(u"a.xml"_qs));
+    put(u"a.xml"_s, "old");
+    const QByteArray file = QFile::encodeName(path(u"a.xml"_s));
     const QByteArray folder = QFile::encodeName(m_dir->path());
     QCOMPARE(::chown(folder.constData(), anna.user, sharedGroup), 0);
     QCOMPARE(::chmod(folder.constData(), 0777), 0);
@@ -268,13 +270,13 @@ void tst_MvSafeFileWriter::rightsOfSharedFiles()
     if (!set(file, "system.posix_acl_access", list) || !set(folder, "system.posix_acl_default", listOfFolder))
         QSKIP("this file system has no access lists");
     const QStringList before = rights(file);
-    const auto result = as(writer, [this] { return MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new"); });
-    QDir(u"%1/mvcalendar-%2-unfinished"_qs.arg(QDir::tempPath()).arg(writer.user)).removeRecursively();
+    const auto result = as(writer, [this] { return MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new"); });
+    QDir(u"%1/mvcalendar-%2-unfinished"_s.arg(QDir::tempPath()).arg(writer.user)).removeRecursively();
     QCOMPARE(result.error, QString());
-    QCOMPARE(contentOf(u"a.xml"_qs), "new");
+    QCOMPARE(contentOf(u"a.xml"_s), "new");
     QCOMPARE(rights(file), before);
-    QCOMPARE(QFileInfo(path(u"a.xml"_qs)).groupId(), sharedGroup);
-    QCOMPARE(contentOf(u"a.xml~"_qs), "old");
+    QCOMPARE(QFileInfo(path(u"a.xml"_s)).groupId(), sharedGroup);
+    QCOMPARE(contentOf(u"a.xml~"_s), "old");
     const QStringList ofBackup = rights(file + '~');
     for (qsizetype i = 0; i < before.size(); ++i)
         QVERIFY(before[i].contains(u'r') || !ofBackup[i].contains(u'r'));
@@ -282,38 +284,38 @@ void tst_MvSafeFileWriter::rightsOfSharedFiles()
 
 void tst_MvSafeFileWriter::furtherNamesAndAttributes()
 {
-    put(u"a.xml"_qs, "1");
-    const QByteArray file = QFile::encodeName(path(u"a.xml"_qs));
+    put(u"a.xml"_s, "1");
+    const QByteArray file = QFile::encodeName(path(u"a.xml"_s));
     if (::setxattr(file.constData(), "user.note", "mine", 4, 0) != 0)
         QSKIP("this file system has no attributes");
     const auto note = [&file] {
         std::array<char, 8> value = {};
         return QByteArray(value.data(), ::getxattr(file.constData(), "user.note", value.data(), value.size()));
     };
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "2").isOk());
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "2").isOk());
     QCOMPARE(note(), "mine");
 
     // a program killed between keeping the backup and replacing the file: these further names are the backups
-    QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "3", QDate(2026, 3, 1)));
-    QCOMPARE(::link(file.constData(), QFile::encodeName(path(u"other.xml"_qs)).constData()), 0);
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"other.xml"_qs)), "3", MvSafeFileWriter::Backups::None).isOk());
-    QCOMPARE(contentOf(u"a.xml"_qs), "3"); // one file under two names
-    QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "4", QDate(2026, 3, 2)));
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "4").isOk());
-    QCOMPARE(contentOf(u"other.xml"_qs), "4");
-    QCOMPARE(contentOf(u"a.xml~"_qs), "3");
-    QCOMPARE(contentOf(u"a.xml.2026-03-02~"_qs), "3");
+    QVERIFY(MvFileBackup::keep(path(u"a.xml"_s), "3", QDate(2026, 3, 1)));
+    QCOMPARE(::link(file.constData(), QFile::encodeName(path(u"other.xml"_s)).constData()), 0);
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"other.xml"_s)), "3", MvSafeFileWriter::Backups::None).isOk());
+    QCOMPARE(contentOf(u"a.xml"_s), "3"); // one file under two names
+    QVERIFY(MvFileBackup::keep(path(u"a.xml"_s), "4", QDate(2026, 3, 2)));
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "4").isOk());
+    QCOMPARE(contentOf(u"other.xml"_s), "4");
+    QCOMPARE(contentOf(u"a.xml~"_s), "3");
+    QCOMPARE(contentOf(u"a.xml.2026-03-02~"_s), "3");
     QCOMPARE(note(), "mine");
 }
 
 void tst_MvSafeFileWriter::longNames_data()
 {
     QTest::addColumn<QString>("name");
-    QTest::newRow("room for nothing") << QString(251, u'x') + u".xml"_qs;
-    QTest::newRow("room for the lock alone") << QString(246, u'x') + u".xml"_qs;
-    QTest::newRow("two bytes a letter") << QString(124, u'ä') + u".xml"_qs;
-    QTest::newRow("four bytes a letter") << QString::fromUcs4(U"\U0001F382").repeated(62) + u".xml"_qs;
-    QTest::newRow("no text") << u"a\nb\u0001.xml"_qs;
+    QTest::newRow("room for nothing") << QString(251, u'x') + u".xml"_s;
+    QTest::newRow("room for the lock alone") << QString(246, u'x') + u".xml"_s;
+    QTest::newRow("two bytes a letter") << QString(124, u'ä') + u".xml"_s;
+    QTest::newRow("four bytes a letter") << QString::fromUcs4(U"\U0001F382").repeated(62) + u".xml"_s;
+    QTest::newRow("no text") << u"a\nb\u0001.xml"_s;
 }
 
 void tst_MvSafeFileWriter::longNames()
@@ -327,39 +329,39 @@ void tst_MvSafeFileWriter::longNames()
     QCOMPARE(backups.size(), 2);
     QCOMPARE(contentOf(backups.first().fileName()), "2");
     QCOMPARE(contentOf(QFileInfo(MvSafeFileWriter::setAside(file)).fileName()), "3");
-    QCOMPARE(MvSafeFileWriter::backups(QFileInfo(path(name.chopped(5) + u"y.xml"_qs))).size(), 0); // another file's
+    QCOMPARE(MvSafeFileWriter::backups(QFileInfo(path(name.chopped(5) + u"y.xml"_s))).size(), 0); // another file's
 }
 
 void tst_MvSafeFileWriter::previousVersionStays()
 {
-    const QFileInfo file(path(u"a.xml"_qs));
-    const QString today = u"a.xml.%1~"_qs.arg(QDate::currentDate().toString(Qt::ISODate));
+    const QFileInfo file(path(u"a.xml"_s));
+    const QString today = u"a.xml.%1~"_s.arg(QDate::currentDate().toString(Qt::ISODate));
     for (const char *version : {"1", "2", "3", "3"})
         QVERIFY(MvSafeFileWriter::write(file, version).isOk());
-    QCOMPARE(contentOf(u"a.xml~"_qs), "2"); // writing the same again must not push the other version out
+    QCOMPARE(contentOf(u"a.xml~"_s), "2"); // writing the same again must not push the other version out
     QCOMPARE(contentOf(today), "1");
     QCOMPARE(MvSafeFileWriter::backups(file).size(), 2);
 
-    put(u"a.xml"_qs, "edited in place"); // backups must not share the file's storage
-    QCOMPARE(contentOf(u"a.xml~"_qs), "2");
-    put(u"a.xml"_qs, "");
+    put(u"a.xml"_s, "edited in place"); // backups must not share the file's storage
+    QCOMPARE(contentOf(u"a.xml~"_s), "2");
+    put(u"a.xml"_s, "");
     QVERIFY(MvSafeFileWriter::write(file, "4").isOk());
-    QCOMPARE(contentOf(u"a.xml~"_qs), "2"); // an emptied file is not worth keeping
+    QCOMPARE(contentOf(u"a.xml~"_s), "2"); // an emptied file is not worth keeping
 }
 
 void tst_MvSafeFileWriter::backupsOfSevenDays()
 {
     const QDate start(2026, 2, 26);
     for (int day = 0; day < 9; ++day) {
-        put(u"a.xml"_qs, "state of day " + QByteArray::number(day));
-        QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "changed", start.addDays(day)));
-        QFile::remove(path(u"a.xml"_qs)); // as replacing does
+        put(u"a.xml"_s, "state of day " + QByteArray::number(day));
+        QVERIFY(MvFileBackup::keep(path(u"a.xml"_s), "changed", start.addDays(day)));
+        QFile::remove(path(u"a.xml"_s)); // as replacing does
     }
-    const QList<QFileInfo> backups = MvSafeFileWriter::backups(QFileInfo(path(u"a.xml"_qs)));
+    const QList<QFileInfo> backups = MvSafeFileWriter::backups(QFileInfo(path(u"a.xml"_s)));
     QCOMPARE(backups.size(), 8);
-    QCOMPARE(backups.at(1).fileName(), u"a.xml.2026-03-06~"_qs);
-    QCOMPARE(backups.last().fileName(), u"a.xml.2026-02-28~"_qs);
-    QCOMPARE(contentOf(u"a.xml.2026-03-01~"_qs), "state of day 3");
+    QCOMPARE(backups.at(1).fileName(), u"a.xml.2026-03-06~"_s);
+    QCOMPARE(backups.last().fileName(), u"a.xml.2026-02-28~"_s);
+    QCOMPARE(contentOf(u"a.xml.2026-03-01~"_s), "state of day 3");
 }
 
 /// The days kept are the latest ones with changes, whatever the clock said in between.
@@ -368,14 +370,14 @@ void tst_MvSafeFileWriter::backupsWithAWrongClock()
     int number = 0;
     const auto changeOn = [this, &number](const QDate &first, int days) {
         for (int day = 0; day < days; ++day) {
-            put(u"a.xml"_qs, QByteArray::number(++number));
-            QVERIFY(MvFileBackup::keep(path(u"a.xml"_qs), "changed", first.addDays(day)));
-            QFile::remove(path(u"a.xml"_qs));
+            put(u"a.xml"_s, QByteArray::number(++number));
+            QVERIFY(MvFileBackup::keep(path(u"a.xml"_s), "changed", first.addDays(day)));
+            QFile::remove(path(u"a.xml"_s));
         }
     };
     const auto days = [this](const QDate &today) {
         QStringList names;
-        const QList<QFileInfo> files = MvFileBackup::existing(path(u"a.xml"_qs), today).mid(1);
+        const QList<QFileInfo> files = MvFileBackup::existing(path(u"a.xml"_s), today).mid(1);
         for (const QFileInfo &file : files)
             names.append(file.fileName().mid(6).chopped(1));
         return names;
@@ -404,17 +406,17 @@ void tst_MvSafeFileWriter::sweepsTemporaries()
     if (child == 0)
         ::_exit(0);
     QCOMPARE(::waitpid(child, nullptr, 0), child);
-    const QString orphan = parts.at(0) + u'-' + parts.at(1) + u'-' + QString::number(child) + u"-0-1"_qs;
-    const QString ofOtherHost = parts.at(0) + u"-0-"_qs + QString::number(child) + u"-0-1"_qs;
-    const QString old = ofOtherHost + u"0"_qs;
+    const QString orphan = parts.at(0) + u'-' + parts.at(1) + u'-' + QString::number(child) + u"-0-1"_s;
+    const QString ofOtherHost = parts.at(0) + u"-0-"_s + QString::number(child) + u"-0-1"_s;
+    const QString old = ofOtherHost + u"0"_s;
     for (const QString &name : {mine, orphan, ofOtherHost, old})
         put(name, "half");
     QFile oldFile(path(old));
     QVERIFY(oldFile.open(QIODevice::ReadWrite));
     QVERIFY(oldFile.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime));
 
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_qs)), "new").isOk());
-    QStringList expected = {mine, ofOtherHost, u"a.xml"_qs};
+    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new").isOk());
+    QStringList expected = {mine, ofOtherHost, u"a.xml"_s};
     expected.sort();
     QStringList present = names();
     present.sort();
@@ -424,20 +426,20 @@ void tst_MvSafeFileWriter::sweepsTemporaries()
 void tst_MvSafeFileWriter::setsAside()
 {
     const QString date = QDate::currentDate().toString(Qt::ISODate);
-    put(u"liste.xml"_qs, "broken");
-    const QFileInfo file(path(u"liste.xml"_qs));
-    QCOMPARE(QFileInfo(MvSafeFileWriter::setAside(file)).fileName(), u"liste.unlesbar-%1.xml"_qs.arg(date));
-    put(u"liste.xml"_qs, "broken again");
-    QCOMPARE(QFileInfo(MvSafeFileWriter::setAside(file)).fileName(), u"liste.unlesbar-%1-2.xml"_qs.arg(date));
-    QCOMPARE(contentOf(u"liste.unlesbar-%1.xml"_qs.arg(date)), "broken");
-    QCOMPARE(MvSafeFileWriter::setAside(QFileInfo(path(u"missing.xml"_qs))), QString());
+    put(u"liste.xml"_s, "broken");
+    const QFileInfo file(path(u"liste.xml"_s));
+    QCOMPARE(QFileInfo(MvSafeFileWriter::setAside(file)).fileName(), u"liste.unlesbar-%1.xml"_s.arg(date));
+    put(u"liste.xml"_s, "broken again");
+    QCOMPARE(QFileInfo(MvSafeFileWriter::setAside(file)).fileName(), u"liste.unlesbar-%1-2.xml"_s.arg(date));
+    QCOMPARE(contentOf(u"liste.unlesbar-%1.xml"_s.arg(date)), "broken");
+    QCOMPARE(MvSafeFileWriter::setAside(QFileInfo(path(u"missing.xml"_s))), QString());
 }
 
 void tst_MvSafeFileWriter::stampTellsOfOtherWriters()
 {
-    const QFileInfo file(path(u"a.xml"_qs));
+    const QFileInfo file(path(u"a.xml"_s));
     QCOMPARE(MvFileGuard::stamp(file), QByteArray());
-    put(u"a.xml"_qs, "one");
+    put(u"a.xml"_s, "one");
     const QByteArray stamp = MvFileGuard::stamp(file);
     QCOMPARE(MvFileGuard::stamp(file), stamp);
     QVERIFY(MvSafeFileWriter::write(file, "two").isOk()); // same size, same second
@@ -466,12 +468,12 @@ void tst_MvSafeFileWriter::locksOutOthers()
     QFETCH(bool, isPossible);
     if (::geteuid() != 0)
         QSKIP("taking on another user needs the administrator");
-    const QFileInfo file(path(u"a.xml"_qs));
+    const QFileInfo file(path(u"a.xml"_s));
     if (fileMode != 0) {
-        put(u"a.xml"_qs, "one");
-        put(u"a.xml.lock"_qs, ""); // left behind by a killed program, and nothing in it
-        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_qs)).constData(), mode_t(fileMode)), 0);
-        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml.lock"_qs)).constData(), 0600), 0);
+        put(u"a.xml"_s, "one");
+        put(u"a.xml.lock"_s, ""); // left behind by a killed program, and nothing in it
+        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_s)).constData(), mode_t(fileMode)), 0);
+        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml.lock"_s)).constData(), 0600), 0);
     }
     QCOMPARE(::chmod(QFile::encodeName(m_dir->path()).constData(), mode_t(folderMode)), 0);
     std::array<MvFileGuard::State, 3> states = {};
@@ -500,12 +502,12 @@ void tst_MvSafeFileWriter::locksOutOthers()
 void tst_MvSafeFileWriter::freeNames()
 {
     MvUniqueFilenameMaker &maker = MvUniqueFilenameMaker::instance();
-    put(u"foto.jpg"_qs, "x");
-    const QFileInfo file(path(u"foto.jpg"_qs));
-    QCOMPARE(maker.makeUniqueFileName(file, false).fileName(), u"foto_2.jpg"_qs);
-    QCOMPARE(maker.makeUniqueFileName(file, true).fileName(), u"foto_2.jpg"_qs);
-    QCOMPARE(maker.makeUniqueFileName(file, true).fileName(), u"foto_3.jpg"_qs); // given out, not yet written
-    QCOMPARE(maker.makeUniqueFileName(QFileInfo(path(u"frei"_qs)), true).fileName(), u"frei"_qs);
+    put(u"foto.jpg"_s, "x");
+    const QFileInfo file(path(u"foto.jpg"_s));
+    QCOMPARE(maker.makeUniqueFileName(file, false).fileName(), u"foto_2.jpg"_s);
+    QCOMPARE(maker.makeUniqueFileName(file, true).fileName(), u"foto_2.jpg"_s);
+    QCOMPARE(maker.makeUniqueFileName(file, true).fileName(), u"foto_3.jpg"_s); // given out, not yet written
+    QCOMPARE(maker.makeUniqueFileName(QFileInfo(path(u"frei"_s)), true).fileName(), u"frei"_s);
 }
 
 MV_TEST_MAIN(tst_MvSafeFileWriter)

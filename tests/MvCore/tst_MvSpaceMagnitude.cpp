@@ -5,6 +5,8 @@
 
 #include <QFont>
 
+using namespace Qt::StringLiterals;
+
 class tst_MvSpaceMagnitude : public MvTest
 {
     Q_OBJECT
@@ -22,12 +24,12 @@ void tst_MvSpaceMagnitude::classOfPage_data()
     QTest::addColumn<double>("width");
     QTest::addColumn<double>("height");
     QTest::addColumn<QString>("name");
-    QTest::newRow("A4 upright") << 2100.0 << 2970.0 << u"a4"_qs;
-    QTest::newRow("A4 landscape") << 2970.0 << 2100.0 << u"a4"_qs;
-    QTest::newRow("A1") << 5940.0 << 8410.0 << u"a1"_qs;
-    QTest::newRow("square of 30 cm is nearer A4 than A3") << 2950.0 << 2950.0 << u"a4"_qs;
-    QTest::newRow("larger than A0 stays A0") << 20000.0 << 20000.0 << u"a0"_qs;
-    QTest::newRow("a stamp stays A8") << 200.0 << 200.0 << u"a8"_qs;
+    QTest::newRow("A4 upright") << 2100.0 << 2970.0 << u"a4"_s;
+    QTest::newRow("A4 landscape") << 2970.0 << 2100.0 << u"a4"_s;
+    QTest::newRow("A1") << 5940.0 << 8410.0 << u"a1"_s;
+    QTest::newRow("square of 30 cm is nearer A4 than A3") << 2950.0 << 2950.0 << u"a4"_s;
+    QTest::newRow("larger than A0 stays A0") << 20000.0 << 20000.0 << u"a0"_s;
+    QTest::newRow("a stamp stays A8") << 200.0 << 200.0 << u"a8"_s;
     QTest::newRow("no area") << 0.0 << 2970.0 << QString();
 }
 
@@ -61,8 +63,8 @@ void tst_MvSpaceMagnitude::adaptsFonts()
 
 void tst_MvSpaceMagnitude::names()
 {
-    QCOMPARE(MvSpaceMagnitude(u" A3 "_qs), MvSpaceMagnitude(MAGNITUDE_A3));
-    QVERIFY(!MvSpaceMagnitude(u"letter"_qs).isValid());
+    QCOMPARE(MvSpaceMagnitude(u" A3 "_s), MvSpaceMagnitude(MAGNITUDE_A3));
+    QVERIFY(!MvSpaceMagnitude(u"letter"_s).isValid());
 }
 
 MV_TEST_MAIN(tst_MvSpaceMagnitude)

@@ -3,6 +3,8 @@
 
 #include "MvCore/MvStringHelper.h"
 
+using namespace Qt::StringLiterals;
+
 class tst_MvStringHelper : public MvTest
 {
     Q_OBJECT
@@ -16,23 +18,23 @@ void tst_MvStringHelper::names_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("name");
-    const QString pair = u"\U0001F388"_qs;
-    const QString family = u"\U0001F468\u200d\U0001F469"_qs; // one character of five units
+    const QString pair = u"\U0001F388"_s;
+    const QString family = u"\U0001F468\u200d\U0001F469"_s; // one character of five units
     const QString letters(MvStringHelper::longestName, u'x');
-    QTest::newRow("as it is") << u"Oma Erika & Co."_qs << u"Oma Erika & Co."_qs;
-    QTest::newRow("lines and runs of blanks") << u" \tOma\r\n\u2028Erika \u00a0 M. \u0085"_qs << u"Oma Erika M."_qs;
-    QTest::newRow("control characters") << u"\u0000Oma\u0007Erika\u009f"_qs << u"Oma Erika"_qs;
-    QTest::newRow("halves of a pair") << pair.right(1) + u"Oma"_qs + pair.left(1) + pair + pair.left(1)
-                                      << u"Oma"_qs + pair;
-    QTest::newRow("no characters") << u"Oma\uffff\ufdd0\U0001fffe"_qs << u"Oma"_qs;
-    QTest::newRow("nothing to be seen") << u"\u0001\u200b \ufeff\u3164\u2060\ufe0f\u2800"_qs << QString();
+    QTest::newRow("as it is") << u"Oma Erika & Co."_s << u"Oma Erika & Co."_s;
+    QTest::newRow("lines and runs of blanks") << u" \tOma\r\n\u2028Erika \u00a0 M. \u0085"_s << u"Oma Erika M."_s;
+    QTest::newRow("control characters") << u"\u0000Oma\u0007Erika\u009f"_s << u"Oma Erika"_s;
+    QTest::newRow("halves of a pair") << pair.right(1) + u"Oma"_s + pair.left(1) + pair + pair.left(1)
+                                      << u"Oma"_s + pair;
+    QTest::newRow("no characters") << u"Oma\uffff\ufdd0\U0001fffe"_s << u"Oma"_s;
+    QTest::newRow("nothing to be seen") << u"\u0001\u200b \ufeff\u3164\u2060\ufe0f\u2800"_s << QString();
     QTest::newRow("joined") << family << family;
     QTest::newRow("the longest") << letters << letters;
-    QTest::newRow("too long") << letters + u"y"_qs << letters;
+    QTest::newRow("too long") << letters + u"y"_s << letters;
     QTest::newRow("ends before what does not fit whole") << letters.chopped(1) + family << letters.chopped(1);
-    QTest::newRow("ends without a blank") << letters.chopped(1) + u" y"_qs << letters.chopped(1);
-    QTest::newRow("nothing but marks") << u"a"_qs + QString(1000, QChar(0x0301))
-                                       << u"a"_qs + QString(letters.size() - 1, QChar(0x0301));
+    QTest::newRow("ends without a blank") << letters.chopped(1) + u" y"_s << letters.chopped(1);
+    QTest::newRow("nothing but marks") << u"a"_s + QString(1000, QChar(0x0301))
+                                       << u"a"_s + QString(letters.size() - 1, QChar(0x0301));
 }
 
 void tst_MvStringHelper::names()

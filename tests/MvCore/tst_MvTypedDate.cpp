@@ -3,6 +3,8 @@
 
 #include "MvCore/MvTypedDate.h"
 
+using namespace Qt::StringLiterals;
+
 /// How fields take what is typed into them is shown with the day editor; here stands what depends on language and
 /// today.
 class tst_MvTypedDate : public MvTest
@@ -65,21 +67,21 @@ void tst_MvTypedDate::faults()
 {
     using Fault = MvTypedDate::Fault;
     const QList<std::pair<Fault, QString>> groups{
-        {Fault::Empty, u" \t"_qs},
+        {Fault::Empty, u" \t"_s},
         {Fault::Unreadable,
          u"morgen|24|19500|12.1950|Dezember 1950|24.12.5|24.12.1950.3|.24.12.1950|24.-12.1950|24:12:1950|"
-         "24. Foo 1950|Mai Juni 3|24.12.1950 x|"_qs +
+         "24. Foo 1950|Mai Juni 3|24.12.1950 x|"_s +
              QString(100000, u'1')},
-        {Fault::NoSuchDay, u"31.04.1950|29.02.1900|29.2.|00.12.1950|1.13.1950"_qs},
-        {Fault::TooEarly, u"24.11.1219|31.12.1582|24.12.950"_qs},
-        {Fault::TooLate, u"22.11.2146|24.12.19500"_qs},
-        {Fault::ReservedYear, u"1.1.1604"_qs},
+        {Fault::NoSuchDay, u"31.04.1950|29.02.1900|29.2.|00.12.1950|1.13.1950"_s},
+        {Fault::TooEarly, u"24.11.1219|31.12.1582|24.12.950"_s},
+        {Fault::TooLate, u"22.11.2146|24.12.19500"_s},
+        {Fault::ReservedYear, u"1.1.1604"_s},
     };
     for (const auto &[fault, texts] : groups) {
         for (const QString &text : texts.split(u'|')) {
             const MvTypedDate typed(text, QLocale(QLocale::German, QLocale::Germany), today, 2027);
             QVERIFY2(typed.fault() == fault && !typed.date().isValid(), qPrintable(text.left(30)));
-            QVERIFY(typed.error().contains(u"24.12.1950"_qs) && typed.error().size() < 90);
+            QVERIFY(typed.error().contains(u"24.12.1950"_s) && typed.error().size() < 90);
             QVERIFY(typed.error().contains(text.trimmed().left(8)));
         }
     }

@@ -14,6 +14,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 using Item = MvPaintRecording::Item;
 using Painting = std::function<void(QPainter &)>;
 Q_DECLARE_METATYPE(Painting)
@@ -214,9 +216,9 @@ void drawSwitchedClips(QPainter &painter)
 
 void drawOutlines(QPainter &painter)
 {
-    QFont font(u"Lato"_qs);
+    QFont font(u"Lato"_s);
     font.setPixelSize(17);
-    const MvTextOutline word(font, u"Tagfjord Äußeres"_qs);
+    const MvTextOutline word(font, u"Tagfjord Äußeres"_s);
     MvOutlinePainter::fillOutline(painter, {10.3, 30.7}, word, Qt::black);
     painter.save();
     painter.setClipRect(QRectF(15, 30, 60, 40));
@@ -383,10 +385,10 @@ void tst_MvPaintRecording::clipsShapes_data()
     QTest::newRow("outlines") << Painting(drawOutlines);
     QTest::newRow("switched clips") << Painting(drawSwitchedClips);
     QTest::newRow("a coloured glyph") << Painting([](QPainter &painter) {
-        QFont font(u"Lato"_qs);
+        QFont font(u"Lato"_s);
         font.setPixelSize(60);
         painter.setClipRect(QRectF(40, 40, 50, 50));
-        MvOutlinePainter::fillOutline(painter, {45, 100}, MvTextOutline(font, u"A\U0001F382"_qs), Qt::black);
+        MvOutlinePainter::fillOutline(painter, {45, 100}, MvTextOutline(font, u"A\U0001F382"_s), Qt::black);
     });
 }
 
@@ -429,14 +431,14 @@ void tst_MvPaintRecording::clipsShapes()
 
 void tst_MvPaintRecording::textsAreOneOperation()
 {
-    QFont font(u"Lato"_qs);
+    QFont font(u"Lato"_s);
     font.setPixelSize(20);
-    const MvTextOutline outline(font, u"Illustration"_qs);
+    const MvTextOutline outline(font, u"Illustration"_s);
     QVERIFY(outline.groups().size() > 8);
     const Painting twice = [&outline, &font](QPainter &painter) {
         MvOutlinePainter::fillOutline(painter, {10, 30}, outline, Qt::black);
         MvOutlinePainter::fillOutlines(painter, {{{10, 60}, outline}, {{10, 90}, outline}}, Qt::black);
-        MvOutlinePainter::fillOutline(painter, {10, 90}, MvTextOutline(font, u"  "_qs), Qt::black);
+        MvOutlinePainter::fillOutline(painter, {10, 90}, MvTextOutline(font, u"  "_s), Qt::black);
     };
     const MvPaintRecording recording = recorded(twice);
     QCOMPARE(recording.operationCount(), 2);
@@ -459,7 +461,7 @@ void tst_MvPaintRecording::reportsTheTarget()
     QCOMPARE(recorder.devicePixelRatioF(), 1.0);
     QCOMPARE(MvPaintRecorder(nullptr).logicalDpiX(), 96);
 
-    QFont font(u"Lato"_qs);
+    QFont font(u"Lato"_s);
     font.setPointSizeF(12);
     const MvPaintRecording recording = recorded([&font](QPainter &painter) {
         painter.setFont(font);
@@ -508,23 +510,23 @@ void tst_MvPaintRecording::keepsHints()
 
 void tst_MvPaintRecording::textBecomesOutlines()
 {
-    QFont font(u"Lato"_qs);
+    QFont font(u"Lato"_s);
     font.setPixelSize(20);
     const MvPaintRecording recording = recorded([&font](QPainter &painter) {
         painter.setFont(font);
         painter.setPen(Qt::darkRed);
-        painter.drawText(QPointF(30.5, 60.25), u"Mai"_qs);
+        painter.drawText(QPointF(30.5, 60.25), u"Mai"_s);
         painter.translate(0, 80);
         QTextDocument document;
         document.setDefaultFont(font);
-        document.setHtml(u"<p>Ein <b>fettes</b> Wort</p>"_qs);
+        document.setHtml(u"<p>Ein <b>fettes</b> Wort</p>"_s);
         document.drawContents(&painter);
     });
     const auto items = recording.items(MvPaintRecording::Item::Text);
     QStringList texts;
     for (const auto &item : items)
         texts << item.text;
-    QCOMPARE(texts, QStringList({u"Mai"_qs, u"Ein "_qs, u"fettes"_qs, u" Wort"_qs}));
+    QCOMPARE(texts, QStringList({u"Mai"_s, u"Ein "_s, u"fettes"_s, u" Wort"_s}));
     QCOMPARE(items[0].baseline, QPointF(30.5, 60.25));
     QCOMPARE(items[0].fill, QColor(Qt::darkRed));
     QVERIFY(items[0].bounds.top() > 40 && items[0].bounds.bottom() < 62);
@@ -551,7 +553,7 @@ void tst_MvPaintRecording::isAValue()
 
 void tst_MvPaintRecording::describes()
 {
-    QFont font(u"Lato"_qs);
+    QFont font(u"Lato"_s);
     font.setPixelSize(20);
     font.setBold(true);
     const MvPaintRecording recording = recorded([&font](QPainter &painter) {
@@ -566,10 +568,10 @@ void tst_MvPaintRecording::describes()
         painter.setOpacity(1);
         painter.setBrush(QColor(1, 2, 3, 128));
         painter.drawEllipse(QRectF(0, 0, 10, 5));
-        MvOutlinePainter::fillOutline(painter, {3, 4.5}, MvTextOutline(font, u"Mai"_qs), Qt::black);
+        MvOutlinePainter::fillOutline(painter, {3, 4.5}, MvTextOutline(font, u"Mai"_s), Qt::black);
         painter.rotate(-90);
         font.setLetterSpacing(QFont::AbsoluteSpacing, 2);
-        MvOutlinePainter::fillOutline(painter, {0, 1}, MvTextOutline(font, u"Juni"_qs), Qt::black);
+        MvOutlinePainter::fillOutline(painter, {0, 1}, MvTextOutline(font, u"Juni"_s), Qt::black);
         painter.resetTransform();
         QPainterPath cells;
         cells.addRect(1, 2, 3, 4);

@@ -15,10 +15,12 @@
 #include <thread>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 QFont lato(int pixels)
 {
-    QFont font(u"Lato"_qs);
+    QFont font(u"Lato"_s);
     font.setPixelSize(pixels);
     return font;
 }
@@ -69,8 +71,8 @@ void tst_MvTextOutlineCache::groups_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<int>("groups");
     QTest::newRow("nothing") << QString() << 0;
-    QTest::newRow("blanks") << u"   "_qs << 0;
-    QTest::newRow("one box each") << u"Mai 2026"_qs << 7;
+    QTest::newRow("blanks") << u"   "_s << 0;
+    QTest::newRow("one box each") << u"Mai 2026"_s << 7;
 }
 
 void tst_MvTextOutlineCache::groups()
@@ -90,7 +92,7 @@ void tst_MvTextOutlineCache::groups()
     }
 
     // holes and accents stay with their letters, and no group reaches into the next
-    const MvTextOutline letters(lato(40), u"Äoi%"_qs);
+    const MvTextOutline letters(lato(40), u"Äoi%"_s);
     QVERIFY(letters.groups().size() >= 4);
     int elements = 0;
     for (int i = 0; i < letters.groups().size(); ++i) {
@@ -106,8 +108,7 @@ void tst_MvTextOutlineCache::partsGiveThePixelsOfTheWhole_data()
     QTest::addColumn<int>("pixels");
     QTest::addColumn<QTransform>("transform");
     QTest::addColumn<QColor>("color");
-    const QString texts[] = {u"Donnerstag, Christi Himmelfahrt"_qs, u"fjÄÖÜ% AVATo '26"_qs,
-                             u"|||||iiiillll....::::"_qs};
+    const QString texts[] = {u"Donnerstag, Christi Himmelfahrt"_s, u"fjÄÖÜ% AVATo '26"_s, u"|||||iiiillll....::::"_s};
     const std::pair<const char *, QTransform> transforms[] = {
         {"plain", {}},
         {"shrunk", QTransform::fromScale(0.31, 0.47)},
@@ -162,7 +163,7 @@ void tst_MvTextOutlineCache::linesAreOneShape()
     const QColor color(0, 60, 200, 90);
     QList<MvPlacedOutline> lines;
     QPainterPath path;
-    for (const QString &text : {u"Tag der"_qs, QString(), u"Ärgernis"_qs, u"Jäger"_qs}) {
+    for (const QString &text : {u"Tag der"_s, QString(), u"Ärgernis"_s, u"Jäger"_s}) {
         const QPointF baseline(20 + 3 * double(lines.size()), 50 + spacing * double(lines.size()));
         lines.append({baseline, MvTextOutline(lato(31), text)});
         path.addPath(lines.last().outline.path().translated(baseline));
@@ -177,25 +178,25 @@ void tst_MvTextOutlineCache::linesAreOneShape()
 void tst_MvTextOutlineCache::keepsByFontAndText()
 {
     MvTextOutlineCache cache;
-    const MvTextOutline first = cache.outline(lato(20), u"Mai"_qs);
+    const MvTextOutline first = cache.outline(lato(20), u"Mai"_s);
     const QPointF firstElement = first.path().elementAt(0);
-    QCOMPARE(firstElement, QPointF(MvTextOutline(lato(20), u"Mai"_qs).path().elementAt(0)));
-    QCOMPARE(&cache.outline(lato(20), u"Mai"_qs).path(), &first.path()); // shared
+    QCOMPARE(firstElement, QPointF(MvTextOutline(lato(20), u"Mai"_s).path().elementAt(0)));
+    QCOMPARE(&cache.outline(lato(20), u"Mai"_s).path(), &first.path()); // shared
 
     QFont spaced = lato(20);
     spaced.setLetterSpacing(QFont::AbsoluteSpacing, 3);
     QFont bold = lato(20);
     bold.setBold(true);
     for (const QFont &font : {lato(21), spaced, bold, MvBoxFont::font(20)})
-        QVERIFY(cache.outline(font, u"Mai"_qs).path() != first.path());
-    QCOMPARE(cache.outline(lato(20), u"Mai "_qs).path(), first.path()); // but not the same advance
+        QVERIFY(cache.outline(font, u"Mai"_s).path() != first.path());
+    QCOMPARE(cache.outline(lato(20), u"Mai "_s).path(), first.path()); // but not the same advance
     QCOMPARE(cache.outlineCount(), 6);
 }
 
 void tst_MvTextOutlineCache::keepsResolutionsApart()
 {
     MvTextOutlineCache cache;
-    QFont font(u"MvBox"_qs);
+    QFont font(u"MvBox"_s);
     font.setPointSizeF(30); // 30, 60 and 125 pixels: their boxes come out even
     font.setHintingPreference(QFont::PreferNoHinting);
     MvBoxFont::family();
@@ -205,7 +206,7 @@ void tst_MvTextOutlineCache::keepsResolutionsApart()
         image.setDotsPerMeterY(qRound(dpi / 0.0254));
         QPainter painter(&image);
         painter.setFont(font);
-        QCOMPARE(cache.outline(painter.font(), u"12"_qs).bounds().height(), 0.7 * 30 * dpi / 72);
+        QCOMPARE(cache.outline(painter.font(), u"12"_s).bounds().height(), 0.7 * 30 * dpi / 72);
     }
 }
 
@@ -215,7 +216,7 @@ void tst_MvTextOutlineCache::advancesAreThoseOfTheOutlines()
     QFont spaced = lato(23);
     spaced.setLetterSpacing(QFont::AbsoluteSpacing, 1.5);
     for (const QFont &font : {lato(23), lato(46), spaced, MvBoxFont::font(20)}) {
-        for (const QString &text : {u"Christi Himmelfahrt"_qs, u"AVATo…"_qs, u" "_qs, QString()}) {
+        for (const QString &text : {u"Christi Himmelfahrt"_s, u"AVATo…"_s, u" "_s, QString()}) {
             QCOMPARE(cache.advance(font, text), MvTextOutline(font, text).advance());
             QCOMPARE(cache.advance(font, text), MvTextOutline(font, text).advance()); // from the cache
         }
@@ -229,11 +230,11 @@ void tst_MvTextOutlineCache::isBounded()
     const auto day = [](int number) { return QString::number(number); };
     for (int number = 1; number <= 1000; ++number) {
         cache.outline(lato(20), day(number));
-        cache.outline(lato(20), u"Januar"_qs); // asked for all the time: stays
+        cache.outline(lato(20), u"Januar"_s); // asked for all the time: stays
     }
     QVERIFY(cache.elementCount() <= 2000 && cache.elementCount() > 1000);
     const int count = cache.outlineCount();
-    cache.outline(lato(20), u"Januar"_qs);
+    cache.outline(lato(20), u"Januar"_s);
     QCOMPARE(cache.outlineCount(), count);
     for (int number = 0; number < 1000; ++number)
         cache.outline(lato(20), QString(number, u' ')); // no elements, yet not for free
@@ -241,14 +242,14 @@ void tst_MvTextOutlineCache::isBounded()
 
     cache.setMaximumElements(0);
     QCOMPARE(cache.outlineCount(), 0);
-    QVERIFY(!cache.outline(lato(20), u"Januar"_qs).isEmpty()); // not kept, but given
+    QVERIFY(!cache.outline(lato(20), u"Januar"_s).isEmpty()); // not kept, but given
     QCOMPARE(cache.outlineCount(), 0);
 }
 
 void tst_MvTextOutlineCache::forgetsWhenFontsChange()
 {
     MvTextOutlineCache &cache = MvTextOutlineCache::instance();
-    cache.outline(lato(20), u"Mai"_qs);
+    cache.outline(lato(20), u"Mai"_s);
     QVERIFY(cache.outlineCount() > 0);
     Q_EMIT qGuiApp->fontDatabaseChanged();
     QCOMPARE(cache.outlineCount(), 0);
@@ -282,14 +283,14 @@ void tst_MvTextOutlineCache::servesThreads()
 
 void tst_MvTextOutlineCache::emojiArePictures()
 {
-    if (!QFontDatabase::families().contains(u"Noto Color Emoji"_qs))
+    if (!QFontDatabase::families().contains(u"Noto Color Emoji"_s))
         QSKIP("no emoji without their font");
     for (const int pixels : {30, 50, 30}) { // one size must not spoil the measures of another
-        const MvTextOutline outline(lato(pixels), u"A\U0001F382\U0001F389"_qs);
+        const MvTextOutline outline(lato(pixels), u"A\U0001F382\U0001F389"_s);
         QCOMPARE(outline.pictures().size(), 2);
         const QRectF cake = outline.pictures().at(0).rect;
         const QRectF party = outline.pictures().at(1).rect;
-        QVERIFY(cake.left() > MvTextOutline(lato(pixels), u"A"_qs).bounds().right());
+        QVERIFY(cake.left() > MvTextOutline(lato(pixels), u"A"_s).bounds().right());
         QVERIFY(cake.right() < party.left() && cake.width() > 0.5 * pixels && party.right() <= outline.advance());
         QVERIFY(outline.bounds().contains(cake) && !outline.isEmpty());
 
@@ -307,9 +308,9 @@ void tst_MvTextOutlineCache::missingCharacters_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("missing");
-    QTest::newRow("none") << u"Jörg\u00a0– „Süß“ Žižek"_qs << QString();
-    QTest::newRow("each once") << u"x\U000F1234y\uE123\U000F1234"_qs << u"\U000F1234\uE123"_qs;
-    QTest::newRow("never seen") << u"a\u200d\ufe0f\u0301\u00ad\t"_qs << QString();
+    QTest::newRow("none") << u"Jörg\u00a0– „Süß“ Žižek"_s << QString();
+    QTest::newRow("each once") << u"x\U000F1234y\uE123\U000F1234"_s << u"\U000F1234\uE123"_s;
+    QTest::newRow("never seen") << u"a\u200d\ufe0f\u0301\u00ad\t"_s << QString();
 }
 
 void tst_MvTextOutlineCache::missingCharacters()

@@ -4,7 +4,6 @@
 #include "MvProject/MvPageSource.h"
 #include "MvTest.h"
 
-#include <QDomDocument>
 #include <QImage>
 #include <QPainter>
 
@@ -15,8 +14,6 @@ class tst_MvCalendarDocument : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void pages_data();
-    void pages();
     void lacksLeapDay_data();
     void lacksLeapDay();
     void paintsTheMargins_data();
@@ -37,42 +34,6 @@ MvCalendarDocument tst_MvCalendarDocument::document(const QString &colors)
     document.setRange(MvDateRange(QDate(2027, 2, 1), QDate(2027, 2, 28)));
     document.setFormat(MvPageFormat::fromName(u"A6"_s));
     return document;
-}
-
-void tst_MvCalendarDocument::pages_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QDate>("start");
-    QTest::addColumn<QDate>("end");
-    QTest::addColumn<QList<QDate>>("pages");
-    QTest::newRow("a page per month, over the year's end")
-        << u"CALENDAR_ONE_WEEK_PER_ROW"_s << QDate(2026, 11, 1) << QDate(2027, 1, 31)
-        << QList<QDate>{QDate(2026, 11, 1), QDate(2026, 12, 1), QDate(2027, 1, 1)};
-    QTest::newRow("a page per year") << u"CALENDAR_YEAR"_s << QDate(2026, 8, 1) << QDate(2028, 7, 31)
-                                     << QList<QDate>{QDate(2026, 8, 1), QDate(2027, 8, 1)};
-    QTest::newRow("a year that has begun") << u"CALENDAR_YEAR_ONLY"_s << QDate(2026, 1, 1) << QDate(2027, 1, 31)
-                                           << QList<QDate>{QDate(2026, 1, 1), QDate(2027, 1, 1)};
-    QTest::newRow("a range the wrong way round")
-        << u"CALENDAR_MONTH_ONLY"_s << QDate(2027, 1, 1) << QDate(2026, 1, 1) << QList<QDate>{};
-}
-
-void tst_MvCalendarDocument::pages()
-{
-    QFETCH(const QString, type);
-    QFETCH(const QDate, start);
-    QFETCH(const QDate, end);
-    QFETCH(const QList<QDate>, pages);
-    QDomDocument xml;
-    QDomElement element = xml.createElement(u"calendararea"_s);
-    element.setAttribute(u"layoutschema"_s, u"TEST"_s);
-    element.setAttribute(u"type"_s, type);
-    MvCalendarDocument calendar = document(u"NIGHT"_s);
-    MvCalendariumAppearance appearance = calendar.appearance();
-    appearance.setLayoutSchema(MvCalendariumLayoutSchema(element));
-    calendar.setAppearance(appearance);
-    calendar.setRange(MvDateRange(start, end));
-    QCOMPARE(calendar.pageDates(), pages);
-    QCOMPARE(calendar.pageSource().pages, pages);
 }
 
 void tst_MvCalendarDocument::lacksLeapDay_data()

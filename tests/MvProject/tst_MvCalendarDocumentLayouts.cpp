@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProjectFixture.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
@@ -18,15 +19,10 @@ namespace {
 
 MvCalendarDocument document(const QString &layout)
 {
-    MvCalendariumAppearance appearance;
-    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
-    appearance.adoptLayoutSuggestions();
-    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
     MvCalendarDocument document;
-    document.setAppearance(appearance);
+    document.setAppearance(MvProjectFixture::appearance(layout));
     document.setRange({QDate(2027, 1, 1), QDate(2027, 12, 31)});
-    MvPageFormat format = MvPageFormat::fromName(u"A4"_s);
-    document.setFormat(format);
+    document.setFormat(MvPageFormat::fromName(u"A4"_s));
     return document;
 }
 

@@ -35,8 +35,6 @@ private Q_SLOTS:
     void isNeverDistorted();
     void missing_data();
     void missing();
-    void fitsNarrowCalendaria_data();
-    void fitsNarrowCalendaria();
     void resolution_data();
     void resolution();
     void resolutionInCells();
@@ -209,50 +207,6 @@ void tst_MvPhotoFrame::missing()
     const QStringList onScreen = inFrame(MvRenderingRule::InteractiveScreen);
     QCOMPARE(onScreen.size(), 3);
     QCOMPARE(onScreen.last(), QFileInfo(path).fileName());
-}
-
-void tst_MvPhotoFrame::fitsNarrowCalendaria_data()
-{
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<Placement>("placement");
-    QTest::addColumn<double>("share");
-    QTest::newRow("strip") << u"ONE_ROW_STRIP"_s << Placement::Left << 0.3;
-    QTest::newRow("grid") << u"MONTH_GRID_CLASSIC"_s << Placement::Right << 0.6;
-    QTest::newRow("grid under a photo") << u"MONTH_GRID_LINES"_s << Placement::Top << 0.6;
-    QTest::newRow("two weeks") << u"TWO_WEEKS"_s << Placement::Left << 0.4;
-}
-
-void tst_MvPhotoFrame::fitsNarrowCalendaria()
-{
-    QFETCH(const QString, layout);
-    QFETCH(const Placement, placement);
-    QFETCH(const double, share);
-    MvCalendarDocument calendar = document(layout, 12);
-    calendar.setHolidayConfig({MvLocale(u"de_DE"_s), QString(), FEATURE_NONE});
-    QList<int> sizes;
-    for (int page = 0; page < 12; ++page) {
-        MvPhotoFrame frame(m_photo, placement);
-        frame.setShare(share);
-        setPhoto(calendar, page, frame);
-        QStringList unfitting;
-        for (const MvUnfittingText &text : calendar.unfittingTexts(page))
-            unfitting.append(text.text);
-        QVERIFY2(unfitting.isEmpty(), qPrintable(unfitting.join(u" / "_s)));
-        QList<Item> texts;
-        int size = 0; // of the number of day 11; a calendar week may have the same, but is smaller
-        for (const Item &item : itemsOf(calendar.pages()[page], calendar.format(), MvRenderingRule::Print)) {
-            if (item.kind != Item::Text)
-                continue;
-            if (item.text == u"11"_s)
-                size = std::max(size, item.font.pixelSize());
-            for (const Item &other : std::as_const(texts))
-                QVERIFY2(!item.bounds.intersects(other.bounds), qPrintable(item.text + u" / "_s + other.text));
-            texts.append(item);
-        }
-        sizes.append(size);
-    }
-    QVERIFY(sizes.first() > 0);
-    QCOMPARE(sizes.count(sizes.first()), 12); // all months alike
 }
 
 void tst_MvPhotoFrame::resolution_data()

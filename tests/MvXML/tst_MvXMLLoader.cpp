@@ -7,6 +7,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 class tst_MvXMLLoader : public MvTest
 {
     Q_OBJECT
@@ -34,7 +36,7 @@ void tst_MvXMLLoader::refuses_data()
     const auto row = [](const char *name, const QByteArray &bytes, const QString &message, int line = 0) {
         QTest::newRow(name) << bytes << message << line;
     };
-    const QString entities = u"Entitäten dürfen nicht"_qs;
+    const QString entities = u"Entitäten dürfen nicht"_s;
     const QByteArray big(100 * 1000, 'x');
     row("one entity repeated",
         "<!DOCTYPE a [<!ENTITY e \"" + big + "\">]><a>" + QByteArray("&e;").repeated(168000) + "</a>", entities, 1);
@@ -43,37 +45,37 @@ void tst_MvXMLLoader::refuses_data()
         "<!DOCTYPE a SYSTEM \"<!--\" [<!ENTITY e \"x\"><!-- -->]><a>&e;</a>", QString());
     row("parameter entity", "<!DOCTYPE a [<!ENTITY % e \"x\"> %e;]><a/>", entities);
     row("external entity", "<!DOCTYPE a [<!ENTITY e SYSTEM \"file:///etc/passwd\">]><a>&e;</a>", entities);
-    row("default attribute", "<!DOCTYPE a [<!ATTLIST a b CDATA \"x\">]><a/>", u"Vorgaben für Attribute"_qs);
-    row("unknown entity", "<a>&auml;</a>", u"kein wohlgeformtes XML"_qs, 1);
-    row("5,000 levels", nested(5000), u"tiefer als 256"_qs, 1);
-    row("257 levels", nested(257), u"tiefer als 256"_qs);
-    row("huge attribute", "<a>\n <b c=\"" + big + "\"/></a>", u"länger als 64 KiB"_qs, 2);
-    row("tag that never ends", "<a " + big, u"länger als 64 KiB"_qs);
+    row("default attribute", "<!DOCTYPE a [<!ATTLIST a b CDATA \"x\">]><a/>", u"Vorgaben für Attribute"_s);
+    row("unknown entity", "<a>&auml;</a>", u"kein wohlgeformtes XML"_s, 1);
+    row("5,000 levels", nested(5000), u"tiefer als 256"_s, 1);
+    row("257 levels", nested(257), u"tiefer als 256"_s);
+    row("huge attribute", "<a>\n <b c=\"" + big + "\"/></a>", u"länger als 64 KiB"_s, 2);
+    row("tag that never ends", "<a " + big, u"länger als 64 KiB"_s);
     row("quotation mark hides the end", "<a b=\"" + QByteArray(" c='>' ").repeated(20000) + "\"/>",
-        u"länger als 64 KiB"_qs);
+        u"länger als 64 KiB"_s);
     const auto attributes = [](int count) {
         QByteArray tag = "<b";
         for (int i = 0; i < count; ++i)
             tag += " a" + QByteArray::number(i) + "='\"=>'";
         return "<a>\n" + tag + "/></a>";
     };
-    row("513 attributes", attributes(513), u"mehr als 512 Attribute"_qs, 2);
-    row("thousands of attributes without a blank", attributes(5000).replace("' a", "'a"), u"mehr als 512"_qs, 2);
+    row("513 attributes", attributes(513), u"mehr als 512 Attribute"_s, 2);
+    row("thousands of attributes without a blank", attributes(5000).replace("' a", "'a"), u"mehr als 512"_s, 2);
     row("UTF-7", "<?xml version=\"1.0\" encoding=\"UTF-7\"?><a>+ADwAIQ-</a>", QString(), 1);
-    row("million elements", "<a>" + QByteArray("<b/>").repeated(1000001) + "</a>", u"zu viele Elemente"_qs);
-    row("NUL in a text", QByteArray("<a>\n\nx\0y</a>", 13), u"NUL-Zeichen"_qs, 3);
-    row("NULs alone", QByteArray(4096, '\0'), u"NUL-Zeichen"_qs);
-    row("cut within a tag", "<a><b>text</b><b", u"endet zu früh"_qs);
-    row("cut within a text", "<a>\n<b>te", u"endet zu früh"_qs, 2);
-    row("cut within a comment", "<a><!-- ", u"endet zu früh"_qs);
-    row("empty", "", u"leer"_qs);
-    row("blanks", " \n ", u"leer"_qs);
-    row("not XML", "BEGIN:VCARD\r\n", u"kein wohlgeformtes XML"_qs);
-    row("Latin-1 that says UTF-8", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>M\xe4rz</a>", u"nicht als UTF-8"_qs,
+    row("million elements", "<a>" + QByteArray("<b/>").repeated(1000001) + "</a>", u"zu viele Elemente"_s);
+    row("NUL in a text", QByteArray("<a>\n\nx\0y</a>", 13), u"NUL-Zeichen"_s, 3);
+    row("NULs alone", QByteArray(4096, '\0'), u"NUL-Zeichen"_s);
+    row("cut within a tag", "<a><b>text</b><b", u"endet zu früh"_s);
+    row("cut within a text", "<a>\n<b>te", u"endet zu früh"_s, 2);
+    row("cut within a comment", "<a><!-- ", u"endet zu früh"_s);
+    row("empty", "", u"leer"_s);
+    row("blanks", " \n ", u"leer"_s);
+    row("not XML", "BEGIN:VCARD\r\n", u"kein wohlgeformtes XML"_s);
+    row("Latin-1 that says UTF-8", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a>M\xe4rz</a>", u"nicht als UTF-8"_s,
         2);
     row("unknown encoding", "<?xml version=\"1.0\" encoding=\"KLINGON\"?><a/>", QString(), 1);
-    row("two roots", "<a/><b/>", u"kein wohlgeformtes XML"_qs);
-    row("same attribute twice", "<a b=\"1\" b=\"2\"/>", u"kein wohlgeformtes XML"_qs);
+    row("two roots", "<a/><b/>", u"kein wohlgeformtes XML"_s);
+    row("same attribute twice", "<a b=\"1\" b=\"2\"/>", u"kein wohlgeformtes XML"_s);
 }
 
 void tst_MvXMLLoader::refuses()
@@ -93,23 +95,23 @@ void tst_MvXMLLoader::reads_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("text");
-    const QString text = u"Märchen <für> \"Öl\" \U0001F382"_qs;
-    const QString xml = u"<a>Märchen &lt;für&gt; \"Öl\" \U0001F382</a>"_qs;
+    const QString text = u"Märchen <für> \"Öl\" \U0001F382"_s;
+    const QString xml = u"<a>Märchen &lt;für&gt; \"Öl\" \U0001F382</a>"_s;
     QTest::newRow("UTF-8 without a declaration") << xml.toUtf8() << text;
     QTest::newRow("UTF-8 with a mark") << "\xef\xbb\xbf" + xml.toUtf8() << text;
-    const QString declared = u"\ufeff<?xml version=\"1.0\" encoding=\"UTF-16\"?>"_qs + xml;
+    const QString declared = u"\ufeff<?xml version=\"1.0\" encoding=\"UTF-16\"?>"_s + xml;
     QTest::newRow("UTF-16") << QByteArray(reinterpret_cast<const char *>(declared.utf16()), declared.size() * 2)
                             << text;
-    QTest::newRow("UTF-16 without a mark") << QByteArray("<\0a\0>\0x\0<\0/\0a\0>\0", 16) << u"x"_qs;
+    QTest::newRow("UTF-16 without a mark") << QByteArray("<\0a\0>\0x\0<\0/\0a\0>\0", 16) << u"x"_s;
     QTest::newRow("ISO 8859-1") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>M\xe4rz</a>")
-                                << u"März"_qs;
-    QTest::newRow("256 levels") << nested(256).replace("<a></a>", "<a>deep</a>") << u"deep"_qs;
+                                << u"März"_s;
+    QTest::newRow("256 levels") << nested(256).replace("<a></a>", "<a>deep</a>") << u"deep"_s;
     QTest::newRow("comment and data of any length")
         << "<a><!-- " + QByteArray(100000, '"') + " --><![CDATA[<!ENTITY " + QByteArray(3, '<') + "]]></a>"
-        << u"<!ENTITY <<<"_qs;
+        << u"<!ENTITY <<<"_s;
     QTest::newRow("apostrophe in an instruction")
         << "<?note don't?><a>" + QByteArray(100000, 'x') + "</a>" << QString(100000, u'x');
-    QTest::newRow("document type without declarations") << QByteArray("<!DOCTYPE a><a>x</a>") << u"x"_qs;
+    QTest::newRow("document type without declarations") << QByteArray("<!DOCTYPE a><a>x</a>") << u"x"_s;
 }
 
 void tst_MvXMLLoader::reads()
@@ -124,9 +126,9 @@ void tst_MvXMLLoader::reads()
 void tst_MvXMLLoader::refusesWhatIsNoFile()
 {
     const QTemporaryDir dir;
-    const QString pipe = dir.filePath(u"pipe"_qs);
+    const QString pipe = dir.filePath(u"pipe"_s);
     QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    const QStringList paths = {dir.path(), pipe, u"/dev/zero"_qs, u":/"_qs, dir.filePath(u"missing"_qs), QString()};
+    const QStringList paths = {dir.path(), pipe, u"/dev/zero"_s, u":/"_s, dir.filePath(u"missing"_s), QString()};
     for (const QString &path : paths) {
         MvXMLLoader::Error error;
         QVERIFY(MvXMLLoader::loadDocument(QFileInfo(path), &error).isNull());
@@ -137,32 +139,32 @@ void tst_MvXMLLoader::refusesWhatIsNoFile()
 void tst_MvXMLLoader::refusesTooLargeFiles()
 {
     const QTemporaryDir dir;
-    QFile file(dir.filePath(u"large.xml"_qs));
+    QFile file(dir.filePath(u"large.xml"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("<a>");
     QVERIFY(file.resize(64 * 1024 * 1024 + 1));
     file.close();
     MvXMLLoader::Error error;
     QVERIFY(MvXMLLoader::loadDocument(QFileInfo(file.fileName()), &error).isNull());
-    QVERIFY(error.message.contains(u"größer als 64 MiB"_qs));
+    QVERIFY(error.message.contains(u"größer als 64 MiB"_s));
 }
 
 void tst_MvXMLLoader::warnsOnceOfUnreadableFiles()
 {
     const QTemporaryDir dir;
-    QVERIFY(MvXMLLoader::loadDocumentElement(QFileInfo(dir.filePath(u"missing.xml"_qs))).isNull()); // silently
+    QVERIFY(MvXMLLoader::loadDocumentElement(QFileInfo(dir.filePath(u"missing.xml"_s))).isNull()); // silently
 
-    QFile file(dir.filePath(u"cut.xml"_qs));
+    QFile file(dir.filePath(u"cut.xml"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("<a>\n<b>");
     file.close();
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"cut\\.xml:2:\\d+: Die Datei endet zu früh"_qs));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"cut\\.xml:2:\\d+: Die Datei endet zu früh"_s));
     QVERIFY(MvXMLLoader::loadDocumentElement(QFileInfo(file.fileName())).isNull());
 
     QVERIFY(file.open(QIODevice::Append));
     file.write("</b></a>");
     file.close();
-    QCOMPARE(MvXMLLoader::loadDocumentElement(QFileInfo(file.fileName())).tagName(), u"a"_qs);
+    QCOMPARE(MvXMLLoader::loadDocumentElement(QFileInfo(file.fileName())).tagName(), u"a"_s);
 }
 
 MV_TEST_MAIN(tst_MvXMLLoader)

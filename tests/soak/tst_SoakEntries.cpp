@@ -18,6 +18,8 @@
 #include <sys/types.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 // Several programs edit one file of entries at the same time; some are stopped for a while, some killed. The list that
 // remains must be one that their edits give in some order.
 
@@ -38,7 +40,7 @@ class Program
 {
 public:
     Program(int number, quint32 seed, int edits)
-        : m_editor(seed, u"%1x"_qs.arg(number))
+        : m_editor(seed, u"%1x"_s.arg(number))
         , m_number(number)
         , m_edits(edits)
     {
@@ -76,11 +78,11 @@ private:
         if (m_number % 2 == 0)
             return event;
         QDomDocument document;
-        QDomElement root = document.createElement(u"CalendarEvents"_qs);
+        QDomElement root = document.createElement(u"CalendarEvents"_s);
         document.appendChild(root);
         event.createXML(root);
         const QDomElement element = root.firstChildElement();
-        const QDomElement time = element.firstChildElement(u"LastChanged"_qs);
+        const QDomElement time = element.firstChildElement(u"LastChanged"_s);
         const QDateTime skewed = event.lastChanged().addDays(m_number % 4 == 1 ? 3 : -3);
         time.firstChild().setNodeValue(skewed.toString(Qt::ISODate));
         return MvCalendarEvent(element);
@@ -137,7 +139,7 @@ void tst_SoakEntries::programsShareAFile()
     const int edits = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 400 : 50;
     const QTemporaryDir dir;
     MvEntryHistory history;
-    QFile file(dir.filePath(u"calendarEvents.xml"_qs));
+    QFile file(dir.filePath(u"calendarEvents.xml"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(listWithoutUuids(history));
     file.close();
@@ -148,7 +150,7 @@ void tst_SoakEntries::programsShareAFile()
         auto program = std::make_unique<QProcess>();
         program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
         program->start(QCoreApplication::applicationFilePath(),
-                       {u"--program"_qs, dir.path(), QString::number(number), QString::number(random.generate()),
+                       {u"--program"_s, dir.path(), QString::number(number), QString::number(random.generate()),
                         QString::number(edits)});
         QVERIFY(program->waitForStarted());
         running.push_back(std::move(program));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvStudioFixture.h"
 
+#include "MvProjectFixture.h"
 #include "MvStudioApplication.h"
 #include "common/MvStudioSettings.h"
 #include "pages/MvPageCanvas.h"
@@ -17,13 +18,9 @@ namespace {
 
 MvCalendarDocument calendarOf2027(const QString &layout)
 {
-    MvCalendariumAppearance appearance;
-    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
-    appearance.adoptLayoutSuggestions();
-    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
     MvCalendarDocument document;
     document.setRange({QDate(2027, 1, 1), QDate(2027, 12, 31)});
-    document.setAppearance(appearance);
+    document.setAppearance(MvProjectFixture::appearance(layout));
     document.setTitle(u"Familie 2027"_s);
     return document;
 }

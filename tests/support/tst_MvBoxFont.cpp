@@ -6,6 +6,8 @@
 #include <QFontMetricsF>
 #include <QPainterPath>
 
+using namespace Qt::StringLiterals;
+
 class tst_MvBoxFont : public MvTest
 {
     Q_OBJECT
@@ -40,19 +42,19 @@ void tst_MvBoxFont::measures()
     QVERIFY2(close(metrics.descent(), 0.2 * pixels), QByteArray::number(metrics.descent()));
     QVERIFY2(close(metrics.height(), pixels), QByteArray::number(metrics.height()));
     QVERIFY2(close(metrics.lineSpacing(), pixels), QByteArray::number(metrics.lineSpacing()));
-    for (const QString &text : {u"A"_qs, u" "_qs, u"i"_qs, u"ß"_qs, u"Ž"_qs, u"ſ"_qs, u"–"_qs, u"—"_qs, u"…"_qs,
-                                u"’"_qs, u"„"_qs, u"“"_qs, u"”"_qs})
+    for (const QString &text :
+         {u"A"_s, u" "_s, u"i"_s, u"ß"_s, u"Ž"_s, u"ſ"_s, u"–"_s, u"—"_s, u"…"_s, u"’"_s, u"„"_s, u"“"_s, u"”"_s})
         QVERIFY2(close(metrics.horizontalAdvance(text), 0.5 * pixels), qPrintable(text));
-    QVERIFY(std::abs(metrics.horizontalAdvance(u"Donnerstag AVA"_qs) - 7.0 * pixels) <= 14 * sixtyFourth);
+    QVERIFY(std::abs(metrics.horizontalAdvance(u"Donnerstag AVA"_s) - 7.0 * pixels) <= 14 * sixtyFourth);
 }
 
 void tst_MvBoxFont::boxes()
 {
     QPainterPath path;
-    path.addText(0, 0, MvBoxFont::font(100), u" x"_qs);
+    path.addText(0, 0, MvBoxFont::font(100), u" x"_s);
     QCOMPARE(path.boundingRect(), QRectF(57.5, -70, 35, 70));
     path.clear();
-    path.addText(0, 0, MvBoxFont::font(100, true), u" x"_qs);
+    path.addText(0, 0, MvBoxFont::font(100, true), u" x"_s);
     QCOMPARE(path.boundingRect(), QRectF(52.5, -70, 45, 70));
 }
 
