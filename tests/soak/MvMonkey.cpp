@@ -4,10 +4,7 @@
 #include <QtTest>
 #include <QtWidgets/QtWidgets>
 
-#include <array>
-#include <csignal>
-#include <cstring>
-#include <unistd.h>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -17,21 +14,6 @@ constexpr int watchInterval = 10; // milliseconds
 constexpr int patientTicks = 4;
 constexpr int patientActions = 30; // on one dialog
 constexpr int mostWindows = 5;
-constexpr int lineLength = 160;
-constexpr int remembered = 20;
-
-/// Plain memory, readable when everything else is broken.
-struct Log
-{
-    std::array<std::array<char, lineLength>, remembered> lines{};
-    int next = 0;
-};
-
-Log &memory()
-{
-    static Log log;
-    return log;
-}
 
 QString nameOf(const QObject *object)
 {
@@ -64,7 +46,6 @@ MvMonkey::MvMonkey(QWidget *window, quint32 seed, const QStringList &files, cons
     , m_folder(folder)
 {
     qApp->installEventFilter(this);
-    memory() = {};
     note(u"seed %1"_s.arg(seed));
     QTimer::singleShot(watchInterval, this, &MvMonkey::watch);
 }
@@ -74,37 +55,10 @@ MvMonkey::~MvMonkey()
     qApp->removeEventFilter(this);
 }
 
-// ---- log
-
+/// Told at once: what was done last is there when the program has died of it.
 void MvMonkey::note(const QString &action)
 {
-    Log &log = memory();
-    auto &line = log.lines[log.next++ % remembered];
-    const QByteArray text = action.toUtf8().left(lineLength - 1);
-    std::memset(line.data(), 0, line.size());
-    std::memcpy(line.data(), text.constData(), text.size());
-    static const bool isLoud = qEnvironmentVariableIsSet("MV_MONKEY_LOG");
-    if (isLoud)
-        qInfo().noquote() << text;
-}
-
-QString MvMonkey::log()
-{
-    QStringList lines;
-    const Log &log = memory();
-    for (int i = qMax(0, log.next - remembered); i < log.next; ++i)
-        lines.append(u"%1: %2"_s.arg(i).arg(QString::fromUtf8(log.lines[i % remembered].data())));
-    return lines.join(u'\n');
-}
-
-void MvMonkey::writeLog()
-{
-    const Log &log = memory();
-    for (int i = qMax(0, log.next - remembered); i < log.next; ++i) {
-        const char *line = log.lines[i % remembered].data();
-        if (::write(STDERR_FILENO, line, std::strlen(line)) < 0 || ::write(STDERR_FILENO, "\n", 1) < 0)
-            return;
-    }
+    std::fprintf(stderr, "%s\n", qPrintable(action));
 }
 
 // ---- acting

@@ -25,15 +25,10 @@ public:
     MvMonkey(QWidget *window, quint32 seed, const QStringList &files, const QString &folder);
     ~MvMonkey() override;
 
-    /// One action; the name of it is in the log.
+    /// One action; it is told on the error output.
     void act();
     /// Closes what is open above and beside the window.
     void closeOthers();
-
-    /// The last actions, to be told when something went wrong.
-    static QString log();
-    /// The same, for a program that is about to die.
-    static void writeLog();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -53,7 +48,7 @@ private:
         return list.at(below(int(list.size())));
     }
     Action chooseAction();
-    void note(const QString &action);
+    static void note(const QString &action);
 
     void click();
     void clickCanvas();

@@ -11,11 +11,7 @@
 #include "MvProjectFixture.h"
 #include "MvStudioFixture.h"
 
-#include <csignal>
-
 using namespace Qt::StringLiterals;
-
-extern "C" void __sanitizer_set_death_callback(void (*callback)()) __attribute__((weak));
 
 namespace {
 
@@ -104,13 +100,6 @@ void dropPlatformMessages(QtMsgType type, const QMessageLogContext &context, con
         testHandler()(type, context, text);
 }
 
-void dieLoudly(int signal)
-{
-    MvMonkey::writeLog();
-    std::signal(signal, SIG_DFL);
-    std::raise(signal);
-}
-
 } // namespace
 
 /// Ten thousand things that nobody would do, one after the other, and after each some that must still hold. Other ones
@@ -150,8 +139,6 @@ void tst_StudioMonkey::init()
 
 void tst_StudioMonkey::cleanup()
 {
-    if (QTest::currentTestFailed())
-        qInfo().noquote() << MvMonkey::log();
     MvRequestHandler::install({});
     m_monkey.reset();
     QDir::setCurrent(QDir::rootPath());
@@ -229,11 +216,11 @@ void tst_StudioMonkey::check()
     m_monkey->closeOthers();
     QTest::qWait(3 * longestAnswer); // no answer is under way any more
     using Check = void (tst_StudioMonkey::*)();
-    for (const Check check :
+    for (const Check each :
          {&tst_StudioMonkey::checkEntries, &tst_StudioMonkey::checkUndo, &tst_StudioMonkey::checkEntries,
           &tst_StudioMonkey::checkPages, &tst_StudioMonkey::checkWindows}) {
         if (!QTest::currentTestFailed())
-            (this->*check)();
+            (this->*each)();
     }
 }
 
@@ -331,17 +318,8 @@ void tst_StudioMonkey::checkWindows()
 
 int main(int argc, char **argv)
 {
-    for (const int signal : {SIGSEGV, SIGABRT, SIGBUS, SIGFPE}) {
-        if (!__sanitizer_set_death_callback)
-            std::signal(signal, dieLoudly);
-    }
-    if (__sanitizer_set_death_callback)
-        __sanitizer_set_death_callback(&MvMonkey::writeLog);
     const QTemporaryDir home; // where dialogs of the library look and write on their own
     qputenv("HOME", home.path().toLocal8Bit());
-    QList<char *> arguments(argv, argv + argc);
-    char ownHandler[] = "-nocrashhandler"; // the actions are told instead
-    arguments << ownHandler << nullptr;
-    return mvRunWidgetTest(argc + 1, arguments.data(), []() -> QObject * { return new tst_StudioMonkey; });
+    return mvRunWidgetTest(argc, argv, []() -> QObject * { return new tst_StudioMonkey; });
 }
 #include "tst_StudioMonkey.moc"
