@@ -389,6 +389,7 @@ bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect
 void MvCalendariumCellPainter::drawPhoto(const QDate &date, const QRectF &rect, const QImage &picture)
 {
     m_painter.drawImage(rect, picture);
+    m_renderer.reportFoto(date, rect);
     if (!MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::ShowQualityWarnings))
         return; // the size of its file need not be known
     const QSize full = MvCalendarEventRegistry::instance().imageFile(m_renderer.contentFor(date)).size;

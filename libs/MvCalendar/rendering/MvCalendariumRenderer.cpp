@@ -3,15 +3,16 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumCellPainter.h"
-#include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvCalendar/MvCalendariumDays.h"
+#include "MvCalendar/MvCellMeasures.h"
+#include "MvCalendar/MvCellStyles.h"
 #include "MvCalendar/MvDayTextPlacement.h"
 #include "MvCalendar/MvHtmlTableSkeleton.h"
+#include "MvCalendar/MvRenderingProbe.h"
 #include "MvCore/MvMath.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvPaint/MvGlyphCoverage.h"
 #include "MvPaint/MvPaintRecorder.h"
-#include "MvPaint/MvPrintableText.h"
-#include "MvPaint/MvTextPainter.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
 #include "MvProductBase/MvCalendarWeekTextOption.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
@@ -23,37 +24,23 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString sampleDayNumber = u"22"_s; // the widest one
-
-constexpr double topLineWidth = 20.0;
-constexpr double borderAllowance = 1.0;
-
-constexpr double smallestPoints = 6.5; // of what people read on paper
-constexpr double pageDpi = 254.0;      // a pixel of the page is a tenth of a millimetre
-
-double floorOfType(const QFont &onPaper)
+struct MvCalendariumRenderer::Parts
 {
-    return std::min(MvMath::point2pixel(smallestPoints, pageDpi), double(onPaper.pixelSize()));
-}
+    Parts(const MvCalendariumRenderer &renderer, const MvCalendariumAppearance &appearance)
+        : styles(appearance)
+        , days(renderer)
+        , measures(renderer)
+    {}
 
-/// Not smaller than the floor, which is rounded up since fonts have whole pixels.
-QFont scaled(QFont font, double factor, double floor)
-{
-    const int size = std::max(static_cast<int>(font.pixelSize() * factor), static_cast<int>(std::ceil(floor)));
-    if (font.letterSpacingType() == QFont::AbsoluteSpacing)
-        font.setLetterSpacing(QFont::AbsoluteSpacing, font.letterSpacing() * size / font.pixelSize());
-    font.setPixelSize(size);
-    return font;
-}
-
-} // namespace
+    MvCellStyles styles;
+    MvCalendariumDays days;
+    MvCellMeasures measures;
+};
 
 MvCalendariumRenderer::MvCalendariumRenderer(const MvCalendariumAppearance &appearance)
     : m_content(MvDateRange::createDefaultCalendarStart(), MvCalendariumHolidayConfig())
-    , m_appearance(appearance)
     , m_dateRange(MvDateRange::createDefaultCalendarDateRange())
+    , d(std::make_unique<Parts>(*this, appearance))
 {}
 
 MvCalendariumRenderer::~MvCalendariumRenderer() = default;
@@ -87,7 +74,7 @@ QStringList MvCalendariumRenderer::maxmimumWidthCalendarWeekText() const
 
 bool MvCalendariumRenderer::shouldIPaintTheBorder(const MvCalendarCellTypeConfig &config) const
 {
-    return m_appearance.shouldIPaintTheBorder(config.colorConfig());
+    return d->styles.hasBorder(config.colorConfig());
 }
 
 bool MvCalendariumRenderer::isConfigured(const MvCalendarRenderingInformation &info) const
@@ -97,7 +84,7 @@ bool MvCalendariumRenderer::isConfigured(const MvCalendarRenderingInformation &i
 
 bool MvCalendariumRenderer::areCalendarWeeksRequested() const
 {
-    return m_content.hasFeatures(FEATURE_CALENDAR_WEEKS) || m_appearance.overriddenShowCalendarWeek();
+    return m_content.hasFeatures(FEATURE_CALENDAR_WEEKS) || appearance().overriddenShowCalendarWeek();
 }
 
 bool MvCalendariumRenderer::isConfiguredOrWeeksAskedFor(const MvCalendarRenderingInformation &info) const
@@ -129,17 +116,41 @@ void MvCalendariumRenderer::setCalendarInformation(const MvCalendariumContentCon
     m_content = content.moveToDayInMonth(1);
 }
 
+void MvCalendariumRenderer::setProductSize(const MvSpaceMagnitude &size)
+{
+    d->styles.setPaper(size);
+}
+
+void MvCalendariumRenderer::setMinimumFontSize(int size)
+{
+    d->styles.setMinimum(size);
+}
+
 void MvCalendariumRenderer::setScale(double fonts, double paddings)
 {
-    m_fontScale = fonts;
-    m_paddingScale = paddings;
+    d->styles.setScale(fonts, paddings);
+}
+
+void MvCalendariumRenderer::setSources(const MvRenderingSources &sources)
+{
+    m_sources = sources;
+    d->styles.setProbe(sources.probe);
+}
+
+const MvCalendariumAppearance &MvCalendariumRenderer::appearance() const
+{
+    return d->styles.appearance();
 }
 
 void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
 {
     Q_EMIT rectForDatesRestart(startDate(), rect);
+    if (m_sources.probe)
+        ++m_sources.probe->passes;
     m_unfittingTexts.clear();
-    m_devicePixelsPerUnit = std::sqrt(std::abs(painter.deviceTransform().determinant()));
+    m_paintedFotos.clear();
+    m_devicePixelsPerUnit =
+        m_pixelsPerUnit > 0.0 ? m_pixelsPerUnit : std::sqrt(std::abs(painter.deviceTransform().determinant()));
 
     MvPaintRecorder recorder(painter); // has the resolution of the target, so that nothing needs to be scaled
     QPainter recordingPainter(&recorder);
@@ -147,7 +158,9 @@ void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
     const QRectF clip = painter.clipBoundingRect();
     if (clip.width() > 0.0 && clip.height() > 0.0)
         recordingPainter.setClipRect(clip, Qt::ReplaceClip);
+    d->days.beginPass();
     renderBase(recordingPainter, rect);
+    d->days.endPass();
     recordingPainter.end();
 
     paintFills(painter);
@@ -179,13 +192,13 @@ QDate MvCalendariumRenderer::startDate() const
 
 QDate MvCalendariumRenderer::startDateOfCalendar() const
 {
-    const QDate moved = m_dateRange.start().addMonths(m_appearance.offsetMonth());
+    const QDate moved = m_dateRange.start().addMonths(appearance().offsetMonth());
     return QDate(moved.year(), moved.month(), 1);
 }
 
 QDate MvCalendariumRenderer::endDateOfCalendar() const
 {
-    return m_dateRange.end().addMonths(m_appearance.offsetMonth());
+    return m_dateRange.end().addMonths(appearance().offsetMonth());
 }
 
 int MvCalendariumRenderer::numberOfWeeks(const QDate &month) const
@@ -229,38 +242,25 @@ MvCalendariumContentKey MvCalendariumRenderer::contentFor(const QDate &date) con
     return MvCalendariumContentKey(m_content.moveToDay(date), m_modelInfo);
 }
 
+MvCalendariumDay MvCalendariumRenderer::day(const QDate &date) const
+{
+    return d->days.day(date);
+}
+
 QSet<MvCalendariumHolidayType> MvCalendariumRenderer::tags(const QDate &date) const
 {
-    return MvCalendariumHolidayCache::instance().tags(contentFor(date));
-}
-
-bool MvCalendariumRenderer::hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const
-{
-    return m_content.hasFeatures(features) && tags(date).contains(HOLIDAY_TYPE_PUBLIC);
-}
-
-// a vacation never recolours a weekend
-bool MvCalendariumRenderer::hasVacationColors(const QDate &date) const
-{
-    return date.dayOfWeek() <= 5 && m_content.hasFeatures(FEATURE_SCHOOL_VACATIONS) &&
-           tags(date).contains(HOLIDAY_TYPE_SCHOOL_VACATION);
+    return d->days.tags(date);
 }
 
 MvCalendarCellType MvCalendariumRenderer::headCellType(const QDate &date, const MvCalendariumFeatures &features) const
 {
-    if (hasHoliday(date, features))
-        return CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
-    return hasVacationColors(date) ? MvCalendarCellType(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION)
-                                   : headCellTypeWeekDay(date.dayOfWeek());
+    return d->days.headType(date, features);
 }
 
 MvCalendarCellType MvCalendariumRenderer::contentCellType(const QDate &date,
                                                           const MvCalendariumFeatures &features) const
 {
-    if (hasHoliday(date, features))
-        return CALENDAR_CELL_TYPE_HOLIDAY;
-    return hasVacationColors(date) ? MvCalendarCellType(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
-                                   : contentCellTypeWeekDay(date.dayOfWeek());
+    return d->days.contentType(date, features);
 }
 
 MvCalendarCellType MvCalendariumRenderer::headCellTypeWeekDay(int dayOfWeek)
@@ -283,12 +283,12 @@ MvCalendarCellType MvCalendariumRenderer::contentCellTypeWeekDay(int dayOfWeek)
 
 MvCalendarCellTypeConfig MvCalendariumRenderer::headCellTypeConfig(const QDate &date) const
 {
-    return {headCellType(date, FEATURE_HOLIDAYS), headCellType(date, FEATURE_HOLIDAY_COLORS)};
+    return d->days.headTypes(date);
 }
 
 MvCalendarCellTypeConfig MvCalendariumRenderer::contentCellTypeConfig(const QDate &date) const
 {
-    return {contentCellType(date, FEATURE_HOLIDAYS), contentCellType(date, FEATURE_HOLIDAY_COLORS)};
+    return d->days.contentTypes(date);
 }
 
 double MvCalendariumRenderer::max3(double a, double b, double c)
@@ -300,34 +300,37 @@ double MvCalendariumRenderer::max3(double a, double b, double c)
 
 QFont MvCalendariumRenderer::font(const MvCalendarCellType &type) const
 {
-    const QFont font = m_appearance.font(type, m_productSize, m_minimumFontSize);
-    return m_fontScale == 1.0 ? font : scaled(font, m_fontScale, smallestPixelSize(type));
+    return d->styles.font(type);
 }
 
 QFont MvCalendariumRenderer::fontHolidays(const MvCalendarCellType &type) const
 {
-    const QFont font = m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize);
-    // where larger numbers than the layout's become smaller again, texts stay as they are
-    const double enlarged = 1.0 + 0.01 * std::max(0, m_appearance.fontSettings().fontSizePercentage());
-    const double scale = std::min(1.0, m_fontScale * enlarged);
-    return scale == 1.0 ? font : scaled(font, scale, smallestHolidayPixelSize(type));
+    return d->styles.fontHolidays(type);
 }
 
 QFontMetrics MvCalendariumRenderer::fontMetrics(const MvCalendarCellType &type) const
 {
-    if (m_fontScale == 1.0)
-        return m_appearance.fontMetrics(type, m_productSize, m_minimumFontSize);
-    return QFontMetrics(font(type));
+    return d->styles.fontMetrics(type);
+}
+
+QMarginsF MvCalendariumRenderer::padding(const MvCalendarCellType &type) const
+{
+    return d->styles.padding(type);
+}
+
+MvCalendarBorderType MvCalendariumRenderer::borderType(const MvCalendarCellType &type) const
+{
+    return d->styles.borders(type);
 }
 
 double MvCalendariumRenderer::smallestPixelSize(const MvCalendarCellType &type) const
 {
-    return floorOfType(m_appearance.font(type, m_productSize, m_minimumFontSize));
+    return d->styles.smallestPixelSize(type);
 }
 
 double MvCalendariumRenderer::smallestHolidayPixelSize(const MvCalendarCellType &type) const
 {
-    return floorOfType(m_appearance.fontHolidays(type, m_productSize, m_minimumFontSize));
+    return d->styles.smallestHolidayPixelSize(type);
 }
 
 MvTextFitter MvCalendariumRenderer::fitter(const MvCalendarCellType &type) const
@@ -359,101 +362,47 @@ QSizeF MvCalendariumRenderer::paddingDifference(const MvCalendarCellType &type) 
 QSizeF MvCalendariumRenderer::minimumSizeFont(const MvCalendarCellType &type, QPaintDevice *device,
                                               const QString &text) const
 {
-    if (text.isEmpty())
-        return {0.0, 0.0};
-    const QFontMetricsF metrics = calculateFontMetrics(font(type), device);
-    return {metrics.horizontalAdvance(text), metrics.height()};
+    return d->measures.minimumSizeFont(type, device, text);
 }
 
 QSizeF MvCalendariumRenderer::maximumSizeOfStrings(const MvCalendarCellType &type, const QStringList &texts) const
 {
-    const QFont cellFont = font(type);
-    int width = 0;
-    for (const QString &text : texts)
-        width = std::max(width, MvTextPainter::advance(cellFont, text));
-    return {MvMath::referencePixel2tenthMillimetre(width),
-            MvMath::referencePixel2tenthMillimetre(fontMetrics(type).height())};
+    return d->measures.maximumSizeOfStrings(type, texts);
 }
 
 double MvCalendariumRenderer::minimumHeightOfCellType(const MvCalendarCellType &type, bool rotated) const
 {
-    double height = 0.0;
-    if (type == CALENDAR_CELL_TYPE_WEEK_OF_YEAR) {
-        const QSizeF size = maximumSizeOfStrings(type, maxmimumWidthCalendarWeekText());
-        height = rotated ? size.width() : size.height();
-    } else {
-        height = MvMath::referencePixel2tenthMillimetre(fontMetrics(type).height());
-    }
-    return height + paddingDifference(type).height() + borderAllowance;
+    return d->measures.minimumHeightOfCellType(type, rotated);
 }
 
 double MvCalendariumRenderer::contentWidthOfCellType(const MvCalendarCellType &type, bool shortNames) const
 {
-    const auto widthOf = [this, &type](const QStringList &texts) { return maximumSizeOfStrings(type, texts).width(); };
-    switch (type.value()) {
-    case CALENDAR_CELL_TYPE_HEAD_WEEKDAY:
-        return widthOf(weekdayNames(shortNames));
-    case CALENDAR_CELL_TYPE_HEAD_SATURDAY:
-        return widthOf({saturdayName(shortNames)});
-    case CALENDAR_CELL_TYPE_HEAD_SUNDAY:
-        return widthOf({sundayName(shortNames)});
-    case CALENDAR_CELL_TYPE_WEEK_OF_YEAR:
-        return widthOf(maxmimumWidthCalendarWeekText());
-    case CALENDAR_CELL_TYPE_WEEKDAY:
-    case CALENDAR_CELL_TYPE_SATURDAY:
-    case CALENDAR_CELL_TYPE_SUNDAY:
-    case CALENDAR_CELL_TYPE_HOLIDAY:
-    case CALENDAR_CELL_TYPE_HEAD_HOLIDAY: // the special heads are measured like day numbers, not like day names
-    case CALENDAR_CELL_TYPE_SCHOOL_VACATION:
-    case CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION:
-        return widthOf({sampleDayNumber});
-    case CALENDAR_CELL_TYPE_TOPLINE:
-        return topLineWidth;
-    default:
-        return 0.0;
-    }
+    return d->measures.contentWidthOfCellType(type, shortNames);
 }
 
 double MvCalendariumRenderer::widthOfCellType(const MvCalendarCellType &type, bool shortNames) const
 {
-    return contentWidthOfCellType(type, shortNames) + paddingDifference(type).width() + borderAllowance;
+    return d->measures.widthOfCellType(type, shortNames);
 }
 
 MvRealRange MvCalendariumRenderer::widthRangeOfCellTypes(const MvCalendarCellType &types, bool shortNames) const
 {
-    MvRealRange range;
-    const QList<MvCalendarCellType> singles = types.singleTypes();
-    for (const MvCalendarCellType &single : singles) {
-        const double width = widthOfCellType(single, shortNames);
-        if (range == MvRealRange())
-            range = {width, width};
-        range.minimum = std::min(range.minimum, width);
-        range.maximum = std::max(range.maximum, width);
-    }
-    return range;
+    return d->measures.widthRangeOfCellTypes(types, shortNames);
 }
 
 double MvCalendariumRenderer::maxHeadWidth() const
 {
-    return max3(widthOfCellType(CALENDAR_CELL_TYPE_HEAD_WEEKDAY, false),
-                widthOfCellType(CALENDAR_CELL_TYPE_HEAD_SATURDAY, false),
-                widthOfCellType(CALENDAR_CELL_TYPE_HEAD_SUNDAY, false));
+    return d->measures.maxHeadWidth();
 }
 
 double MvCalendariumRenderer::maxContentWidth() const
 {
-    return max3(widthOfCellType(CALENDAR_CELL_TYPE_WEEKDAY, false), widthOfCellType(CALENDAR_CELL_TYPE_SATURDAY, false),
-                widthOfCellType(CALENDAR_CELL_TYPE_SUNDAY, false));
+    return d->measures.maxContentWidth();
 }
 
 QSizeF MvCalendariumRenderer::minimumSizeWeekdays(bool shortNames, QPaintDevice *device) const
 {
-    QSizeF size(0.0, 0.0);
-    for (int day = 1; day <= 7; ++day) {
-        const QSizeF daySize = minimumSizeFont(contentCellTypeWeekDay(day), device, dayName(day, shortNames));
-        size = size.expandedTo(daySize);
-    }
-    return size;
+    return d->measures.minimumSizeWeekdays(shortNames, device);
 }
 
 // ---- words
@@ -516,46 +465,27 @@ QString MvCalendariumRenderer::calendarWeekText(const QDate &date) const
 
 QStringList MvCalendariumRenderer::descriptions(const QDate &date) const
 {
-    return MvCalendariumHolidayCache::instance().descriptions(contentFor(date));
+    return d->days.descriptions(date);
 }
 
 QStringList MvCalendariumRenderer::describeOfficialHolidays(const QDate &date) const
 {
-    if (!m_appearance.showHolidays())
-        return {};
-    return MvPrintableText::onOneLineEach(isWithRunningVacations(date) ? descriptionsWithRunningVacations(date)
-                                                                       : descriptions(date));
-}
-
-// a vacation that began on the page before would be a month of colour without a word
-bool MvCalendariumRenderer::isWithRunningVacations(const QDate &date) const
-{
-    return date == startDate() && m_appearance.type() != CALENDAR_YEAR &&
-           m_content.hasFeatures(FEATURE_SCHOOL_VACATIONS);
-}
-
-QStringList MvCalendariumRenderer::descriptionsWithRunningVacations(const QDate &date) const
-{
-    MvCalendariumContentConfig content = m_content.moveToDay(date);
-    MvCalendariumHolidayConfig config = content.holidayConfig();
-    config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
-    content.setHolidayConfig(config);
-    return MvCalendariumHolidayCache::instance().descriptions(MvCalendariumContentKey(content, m_modelInfo));
+    return d->days.officialTexts(date);
 }
 
 QStringList MvCalendariumRenderer::describePersonalHolidays(const QDate &date) const
 {
-    return MvPrintableText::onOneLineEach(MvCalendarEventRegistry::instance().descriptions(contentFor(date)));
+    return d->days.personalTexts(date);
 }
 
 QStringList MvCalendariumRenderer::describeHolidays(const QDate &date) const
 {
-    QStringList texts;
-    if (m_content.hasFeatures(FEATURE_HOLIDAYS))
-        texts += describeOfficialHolidays(date);
-    if (m_content.hasFeatures(FEATURE_ENTRIES))
-        texts += describePersonalHolidays(date);
-    return texts;
+    return d->days.texts(date);
+}
+
+QStringList MvCalendariumRenderer::descriptionsWithRunningVacations(const QDate &date) const
+{
+    return d->days.descriptionsWithRunningVacations(date);
 }
 
 QPair<QStringList, QStringList> MvCalendariumRenderer::splitHolidays(const QStringList &texts,
@@ -585,22 +515,22 @@ QString MvCalendariumRenderer::cellSkeleton(int rowSpan, int colSpan, const QCol
 
 QColor MvCalendariumRenderer::backgroundColor(const MvCalendarCellTypeConfig &config, bool even) const
 {
-    return m_appearance.cellColor({MvCalendarCellColorRoleEnum::bgcolor, config.colorConfig(), MvParityLogic(even)});
+    return d->styles.backgroundColor(config.colorConfig(), even);
 }
 
 QColor MvCalendariumRenderer::fontColor(const MvCalendarCellTypeConfig &config, bool even) const
 {
-    return m_appearance.cellColor({MvCalendarCellColorRoleEnum::textcolor, config.colorConfig(), MvParityLogic(even)});
+    return d->styles.fontColor(config.colorConfig(), even);
 }
 
 bool MvCalendariumRenderer::shouldIPaintTheBackground(const MvCalendarCellTypeConfig &config, bool even) const
 {
-    return m_appearance.shouldIPaintTheBackground(config.colorConfig(), even);
+    return isOpaqueColor(backgroundColor(config, even));
 }
 
 void MvCalendariumRenderer::createBorderPen(QPainter &painter) const
 {
-    painter.setPen(m_appearance.gridConfig().createPen());
+    painter.setPen(appearance().gridConfig().createPen());
 }
 
 // ---- painting a cell

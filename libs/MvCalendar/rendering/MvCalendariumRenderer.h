@@ -3,8 +3,11 @@
 
 #include "MvCalendar/MvCalendarCellTypeConfig.h"
 #include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvCalendariumDay.h"
 #include "MvCalendar/MvCalendariumDisplayAbilities.h"
 #include "MvCalendar/MvCalendariumWords.h"
+#include "MvCalendar/MvPaintedFoto.h"
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvCalendar/MvUnfittingText.h"
 #include "MvCore/MvRealRange.h"
 #include "MvCore/MvSpaceMagnitude.h"
@@ -25,6 +28,8 @@
 #include <QPair>
 #include <QRectF>
 #include <QSet>
+
+#include <memory>
 
 class MvCalendariumContentKey;
 class QPainter;
@@ -73,27 +78,34 @@ public:
     /// calendar.
     void setCalendarInformation(const MvCalendariumContentConfig &content, const MvDateRange &range);
     /// The paper class of the printed product; none (the default) leaves fonts as the layout made them.
-    void setProductSize(const MvSpaceMagnitude &size) { m_productSize = size; }
+    void setProductSize(const MvSpaceMagnitude &size);
     /// Factors to the fonts and paddings of the layout, for a page that leaves the calendarium less room than the
     /// layout was made for; 1 by default. No font becomes smaller than smallestPixelSize().
     void setScale(double fonts, double paddings);
     /// Points; 6 by default.
-    void setMinimumFontSize(int size) { m_minimumFontSize = size; }
+    void setMinimumFontSize(int size);
     /// The project whose personal entries are shown.
     void setModelInfo(const MvProjectIdentifier &project) { m_modelInfo = project; }
     const MvProjectIdentifier &modelInfo() const { return m_modelInfo; }
     /// Factor for the opacity of cell backgrounds, 0 to 1.
     void setBackgroundAlpha(double alpha) { m_backgroundAlpha = alpha; }
+    /// What the passes draw on besides appearance and content; those of the default session unless set.
+    void setSources(const MvRenderingSources &sources);
+    const MvRenderingSources &sources() const { return m_sources; }
+    /// How finely photos are drawn, in pixels of the target per page unit; 0, the default: as the painter is scaled.
+    void setPixelsPerUnit(double pixels) { m_pixelsPerUnit = pixels; }
 
     /// One paint pass: announces a restart, then every date's rectangle; paints backgrounds, then lines and texts.
     void render(QPainter &painter, const QRectF &rect);
 
     /// The texts that had no room in the last pass, in the order of painting.
     const QList<MvUnfittingText> &unfittingTexts() const { return m_unfittingTexts; }
+    /// The photos of days that the last pass drew, in the order of painting.
+    const QList<MvPaintedFoto> &paintedFotos() const { return m_paintedFotos; }
 
     // dates
-    const MvCalendariumAppearance &appearance() const { return m_appearance; }
-    const MvCalendarRenderingInformation &renderingInformation() const { return m_appearance.renderingInformation(); }
+    const MvCalendariumAppearance &appearance() const;
+    const MvCalendarRenderingInformation &renderingInformation() const { return appearance().renderingInformation(); }
     const MvCalendariumContentConfig &calendariumContent() const { return m_content; }
     /// The first day of the page's month.
     QDate startDate() const;
@@ -107,6 +119,10 @@ public:
     static bool isEvenCalendarWeek(const QDate &date);
     /// Parity relative to the page: the week of startDate() is odd, and rows alternate from there.
     virtual bool isEvenWeek(const QDate &date) const;
+
+    /// What a pass needs to know of a date. While one runs it is looked up once, whoever asks; so are the answers below
+    /// and describeHolidays().
+    MvCalendariumDay day(const QDate &date) const;
 
     // cell types of a date; features: 1 holidays change the inscription, 2 they change the colour
     MvCalendariumContentKey contentFor(const QDate &date) const;
@@ -126,10 +142,10 @@ public:
     QFontMetrics fontMetrics(const MvCalendarCellType &type) const;
     /// Without a device, metrics at the printer's resolution.
     static QFontMetricsF calculateFontMetrics(const QFont &font, QPaintDevice *device);
-    Qt::Alignment textAlignment(const MvCalendarCellType &type) const { return m_appearance.textAlignment(type); }
-    int cellBorderWidth(const MvCalendarCellType &type) const { return m_appearance.cellBorderWidth(type); }
-    QMarginsF padding(const MvCalendarCellType &type) const { return m_appearance.padding(type) * m_paddingScale; }
-    MvCalendarBorderType borderType(const MvCalendarCellType &type) const { return m_appearance.borderType(type); }
+    Qt::Alignment textAlignment(const MvCalendarCellType &type) const { return appearance().textAlignment(type); }
+    int cellBorderWidth(const MvCalendarCellType &type) const { return appearance().cellBorderWidth(type); }
+    QMarginsF padding(const MvCalendarCellType &type) const;
+    MvCalendarBorderType borderType(const MvCalendarCellType &type) const;
     /// Sum of the horizontal and of the vertical paddings.
     QSizeF paddingDifference(const MvCalendarCellType &type) const;
 
@@ -225,7 +241,7 @@ public:
     // colours of a cell
     QColor backgroundColor(const MvCalendarCellTypeConfig &config, bool even) const;
     QColor fontColor(const MvCalendarCellTypeConfig &config, bool even) const;
-    bool isOpaqueColor(const QColor &color) const { return m_appearance.isOpaqueColor(color); }
+    bool isOpaqueColor(const QColor &color) const { return appearance().isOpaqueColor(color); }
     bool shouldIPaintTheBackground(const MvCalendarCellTypeConfig &config, bool even) const;
     void createBorderPen(QPainter &painter) const;
 
@@ -274,21 +290,20 @@ private:
 
     MvCalendariumWords words() const;
     bool usesShortDayNames() const;
-    bool hasHoliday(const QDate &date, const MvCalendariumFeatures &features) const;
-    bool hasVacationColors(const QDate &date) const;
-    bool isWithRunningVacations(const QDate &date) const;
+    void reportFoto(const QDate &date, const QRectF &rect) { m_paintedFotos.append({date, rect}); }
     void paintFills(QPainter &painter);
 
+    struct Parts;
+
     MvCalendariumContentConfig m_content;
-    MvCalendariumAppearance m_appearance;
     MvDateRange m_dateRange;
     double m_backgroundAlpha = 1.0;
     QHash<unsigned int, QPainterPath> m_fills; // by colour; empty outside render()
-    MvSpaceMagnitude m_productSize;
-    double m_fontScale = 1.0;
-    double m_paddingScale = 1.0;
-    int m_minimumFontSize = 6;
     MvProjectIdentifier m_modelInfo;
+    MvRenderingSources m_sources;
     QList<MvUnfittingText> m_unfittingTexts;
+    QList<MvPaintedFoto> m_paintedFotos;
+    double m_pixelsPerUnit = 0.0;
     double m_devicePixelsPerUnit = 1.0; // of the pass that runs, for photos
+    const std::unique_ptr<Parts> d;
 };

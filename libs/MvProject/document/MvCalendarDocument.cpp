@@ -156,10 +156,11 @@ bool MvCalendarDocument::isValid() const
     return std::all_of(m_pages.cbegin(), m_pages.cend(), [](const MvCalendarPage &page) { return page.isValid(); });
 }
 
-void MvCalendarDocument::paint(QPainter &painter, int page) const
+MvPageFindings MvCalendarDocument::paint(QPainter &painter, int page, const MvRenderingSources &sources) const
 {
-    if (isValid() && page >= 0 && page < m_pages.size())
-        m_pages[page].paint(painter, m_format, m_range);
+    if (!isValid() || page < 0 || page >= m_pages.size())
+        return {};
+    return m_pages[page].paint(painter, m_format, m_range, sources);
 }
 
 bool MvCalendarDocument::lacksLeapDay() const
@@ -181,11 +182,11 @@ bool MvCalendarDocument::lacksLeapDay() const
     return hasFebruary;
 }
 
-QList<MvUnfittingText> MvCalendarDocument::unfittingTexts(int page) const
+QList<MvUnfittingText> MvCalendarDocument::unfittingTexts(int page, const MvRenderingSources &sources) const
 {
     if (!isValid() || page < 0 || page >= m_pages.size())
         return {};
-    return m_pages[page].unfittingTexts(m_format, m_range);
+    return m_pages[page].unfittingTexts(m_format, m_range, sources);
 }
 
 QStringList MvCalendarDocument::missingPhotos() const
@@ -198,12 +199,16 @@ QStringList MvCalendarDocument::missingPhotos() const
     return paths;
 }
 
-MvPageSource MvCalendarDocument::pageSource() const
+MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, const Found &found) const
 {
     MvPageSource source;
     source.format = m_format;
     source.pages = isValid() ? pageDates() : QList<QDate>();
-    source.paint = [document = *this](QPainter &painter, int page) { document.paint(painter, page); };
+    source.paint = [document = *this, sources, found](QPainter &painter, int page) {
+        const MvPageFindings findings = document.paint(painter, page, sources);
+        if (found)
+            found(page, findings);
+    };
     source.title = m_title;
     source.author = m_author;
     if (const MvLocale language = holidayConfig().language(); language.isValid())

@@ -2,16 +2,19 @@
 #pragma once
 
 #include "MvCalendar/MvCalendariumAppearance.h"
-#include "MvCalendar/MvUnfittingText.h"
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
 #include "MvProductBase/MvDateRange.h"
 #include "MvProject/MvCalendarPage.h"
+#include "MvProject/MvPageFindings.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QList>
 #include <QMap>
 #include <QStringList>
+
+#include <functional>
 
 class MvPageSource;
 class QPainter;
@@ -66,21 +69,23 @@ public:
     /// Page format, range and all pages are valid.
     bool isValid() const;
 
-    /// Paints a page, counted from 0, in tenths of a millimetre with the origin at the trimmed page's corner. Personal
-    /// entries are those of the active list. A number without a page paints nothing.
-    void paint(QPainter &painter, int page) const;
+    /// Paints a page, counted from 0, in tenths of a millimetre with the origin at the trimmed page's corner. A number
+    /// without a page paints nothing.
+    MvPageFindings paint(QPainter &painter, int page, const MvRenderingSources &sources = {}) const;
 
     /// The pages that show entries have an end of February, and none of them a 29 February: entries of that day are
     /// nowhere to be seen. False for a calendar that prints no February at all.
     bool lacksLeapDay() const;
 
-    /// The texts that have no room on a page, counted from 0, in the order of painting.
-    QList<MvUnfittingText> unfittingTexts(int page) const;
+    /// The texts that have no room on a page, counted from 0, in the order of painting. Paints it for nothing else.
+    QList<MvUnfittingText> unfittingTexts(int page, const MvRenderingSources &sources = {}) const;
     /// The paths of the photos on pages that are not there or cannot be read, each once. Looks into the files.
     QStringList missingPhotos() const;
 
-    /// The pages for the exporters. It keeps a copy of the document.
-    MvPageSource pageSource() const;
+    /// Called for each page that is painted, with its number counted from 0: again when it is painted again.
+    using Found = std::function<void(int page, const MvPageFindings &findings)>;
+    /// The pages for the exporters. It keeps a copy of the document; what the sources point to must outlive it.
+    MvPageSource pageSource(const MvRenderingSources &sources = {}, const Found &found = {}) const;
 
     bool operator==(const MvCalendarDocument &other) const;
 

@@ -39,6 +39,14 @@ MvCalendariumContentConfig monthsAhead(const MvCalendariumContentConfig &content
 
 } // namespace
 
+/// How the calendarium of a page is painted.
+struct MvCalendarPage::Pass
+{
+    const MvRenderingSources &sources;
+    Prepare prepare = {};
+    double pixelsPerUnit = 0.0; // 0: as the painter is scaled
+};
+
 MvCalendarPage::MvCalendarPage(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content)
     : m_appearance(appearance)
     , m_content(content)
@@ -69,12 +77,14 @@ MvDateRange MvCalendarPage::printedMonths() const
 
 MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
 {
-    const auto areShownWhen = [this](bool asked) {
+    const auto asking = renderer(m_appearance, {});
+    const auto areShownWhen = [this, &asking](bool asked) {
         MvCalendariumHolidayConfig holidays = m_content.holidayConfig();
         holidays.setFeature(FEATURE_CALENDAR_WEEKS, asked);
-        MvCalendarPage page = *this;
-        page.m_content.setHolidayConfig(holidays);
-        return page.renderer(m_appearance, {})->isConfigured(calendar_render_week_of_year);
+        MvCalendariumContentConfig content = m_content;
+        content.setHolidayConfig(holidays);
+        asking->setCalendarInformation(content, {});
+        return asking->isConfigured(calendar_render_week_of_year);
     };
     if (areShownWhen(false))
         return CalendarWeeks::Always;
@@ -106,11 +116,12 @@ QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
     return rect.isEmpty() ? QRectF() : rect;
 }
 
-void MvCalendarPage::paint(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange) const
+MvPageFindings MvCalendarPage::paint(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange,
+                                     const MvRenderingSources &sources) const
 {
     paintGround(painter, format);
     paintPhoto(painter, format);
-    paintCalendarium(painter, format, documentRange, {});
+    return paintCalendarium(painter, format, documentRange, {sources});
 }
 
 void MvCalendarPage::paintGround(QPainter &painter, const MvPageFormat &format) const
@@ -128,54 +139,56 @@ void MvCalendarPage::paintPhoto(QPainter &painter, const MvPageFormat &format) c
 }
 
 MvPaintRecording MvCalendarPage::record(const MvPageFormat &format, const MvDateRange &documentRange,
-                                        const Prepare &prepare, const MvRenderingRule &rule, double pixelsPerUnit) const
+                                        const Prepare &prepare, const MvRenderingRule &rule, double pixelsPerUnit,
+                                        const MvRenderingSources &sources, MvPageFindings *findings) const
 {
-    const double scale = pixelsPerUnit > 0.0 ? pixelsPerUnit : 1.0;
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     rule.encodeInto(painter);
-    painter.scale(scale, scale);
-    paintCalendarium(painter, format, documentRange, prepare);
+    const double scale = pixelsPerUnit > 0.0 ? pixelsPerUnit : 1.0;
+    const MvPageFindings found = paintCalendarium(painter, format, documentRange, {sources, prepare, scale});
     painter.end();
-
-    MvPaintRecorder unscaled(nullptr); // records in page units again: shapes are shared, only transforms change
-    QPainter unscaledPainter(&unscaled);
-    unscaledPainter.scale(1.0 / scale, 1.0 / scale);
-    recorder.recording().replay(unscaledPainter);
-    unscaledPainter.end();
-    return unscaled.recording();
+    if (findings)
+        *findings = found;
+    return recorder.recording();
 }
 
-QList<MvUnfittingText> MvCalendarPage::unfittingTexts(const MvPageFormat &format,
-                                                      const MvDateRange &documentRange) const
+QList<MvUnfittingText> MvCalendarPage::unfittingTexts(const MvPageFormat &format, const MvDateRange &documentRange,
+                                                      const MvRenderingSources &sources) const
 {
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
-    return paintCalendarium(painter, format, documentRange, {});
+    return paintCalendarium(painter, format, documentRange, {sources}).unfitting;
 }
 
-QList<MvUnfittingText> MvCalendarPage::paintCalendarium(QPainter &painter, const MvPageFormat &format,
-                                                        const MvDateRange &documentRange, const Prepare &prepare) const
+MvPageFindings MvCalendarPage::paintCalendarium(QPainter &painter, const MvPageFormat &format,
+                                                const MvDateRange &documentRange, const Pass &pass) const
 {
     QRectF rect = calendariumRect(format);
     if (!isValid() || rect.isEmpty())
         return {};
-    const MvCalendariumFit fit(m_appearance, m_content, format.magnitude(), rect.size());
-    QList<MvUnfittingText> unfitting;
+    const MvCalendariumFit fit =
+        MvCalendariumFit::shared(m_appearance, m_content, format.magnitude(), rect.size(), pass.sources);
+    MvPageFindings found;
     if (fit.lineHeight() > 0.0) {
         const auto line = renderer(fit.lineAppearance(), documentRange);
         fit.apply(*line);
+        line->setSources(pass.sources);
         line->render(painter, {rect.left(), rect.top(), rect.width(), fit.lineHeight()});
-        unfitting = line->unfittingTexts();
+        found.unfitting = line->unfittingTexts();
         rect.setTop(rect.top() + fit.lineHeight());
     }
     const auto calendarium = renderer(m_appearance, documentRange);
     fit.apply(*calendarium);
-    if (prepare)
-        prepare(*calendarium);
+    calendarium->setSources(pass.sources);
+    calendarium->setPixelsPerUnit(pass.pixelsPerUnit);
+    if (pass.prepare)
+        pass.prepare(*calendarium);
     calendarium->render(painter, rect);
-    return unfitting + calendarium->unfittingTexts();
+    found.unfitting += calendarium->unfittingTexts();
+    found.fotos = calendarium->paintedFotos();
+    return found;
 }
 
 std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendariumAppearance &appearance,

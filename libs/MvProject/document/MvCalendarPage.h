@@ -4,11 +4,12 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumColorSchemaID.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaID.h"
-#include "MvCalendar/MvUnfittingText.h"
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvPaint/MvPaintRecording.h"
 #include "MvProductBase/MvCalendariumContentConfig.h"
 #include "MvProductBase/MvDateRange.h"
+#include "MvProject/MvPageFindings.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/MvPhotoFrame.h"
 #include "MvProject/mvproject_export.h"
@@ -27,8 +28,9 @@ class QPainter;
 /// line with the month and the calendarium, which ask for fonts and schemas and so belong to the GUI thread. record()
 /// turns the upper layer into a recording that other threads may replay.
 ///
-/// Painting happens in tenths of a millimetre with the origin at the trimmed page's corner. Personal entries are those
-/// of the active list. Above a layout that does not show its month stands the line that the layout names for it.
+/// Painting happens in tenths of a millimetre with the origin at the trimmed page's corner. Personal entries and photos
+/// are those of the sources that painting is handed. Above a layout that does not show its month stands the line that
+/// the layout names for it.
 class MVPROJECT_EXPORT MvCalendarPage
 {
 public:
@@ -71,28 +73,34 @@ public:
     /// tall rest a strip takes the foot. Empty when nothing is left.
     QRectF calendariumRect(const MvPageFormat &format) const;
 
-    /// Paints the page. The range is that of the whole calendar.
-    void paint(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange) const;
+    /// Paints the page. The range is that of the whole calendar. GUI thread.
+    MvPageFindings paint(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange,
+                         const MvRenderingSources &sources = {}) const;
     /// The parts of paint() beneath the calendarium, from any thread: the ground of margins and bleed, which continues
     /// that of empty cells, and the photo.
     void paintGround(QPainter &painter, const MvPageFormat &format) const;
     void paintPhoto(QPainter &painter, const MvPageFormat &format) const;
     /// The part above them, the line with the month and the calendarium, to be replayed in page units. It is recorded
     /// for the rule. Photos of entries are decoded with `pixelsPerUnit` pixels per page unit: pass the largest scale at
-    /// which the recording will be replayed. GUI thread; the recording may be replayed in another.
+    /// which the recording will be replayed. What was found meanwhile is stored where `findings` points, unless that is
+    /// null. GUI thread; the recording may be replayed in another.
     MvPaintRecording record(const MvPageFormat &format, const MvDateRange &documentRange, const Prepare &prepare = {},
                             const MvRenderingRule &rule = MvRenderingRule(MvRenderingRule::InteractiveScreen),
-                            double pixelsPerUnit = 1.0) const;
+                            double pixelsPerUnit = 1.0, const MvRenderingSources &sources = {},
+                            MvPageFindings *findings = nullptr) const;
 
-    /// The texts that have no room, in the order of painting. GUI thread.
-    QList<MvUnfittingText> unfittingTexts(const MvPageFormat &format, const MvDateRange &documentRange) const;
+    /// The texts that have no room, in the order of painting. Paints the page for nothing else: who paints or records
+    /// it anyway is told by that. GUI thread.
+    QList<MvUnfittingText> unfittingTexts(const MvPageFormat &format, const MvDateRange &documentRange,
+                                          const MvRenderingSources &sources = {}) const;
 
     bool operator==(const MvCalendarPage &) const = default;
 
 private:
-    /// Gives what had no room.
-    QList<MvUnfittingText> paintCalendarium(QPainter &painter, const MvPageFormat &format,
-                                            const MvDateRange &documentRange, const Prepare &prepare) const;
+    struct Pass;
+
+    MvPageFindings paintCalendarium(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange,
+                                    const Pass &pass) const;
     std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
                                                     const MvDateRange &documentRange) const;
 

@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvPaint/MvPaintRecorder.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -17,7 +18,30 @@ constexpr double step = 0.95;
 constexpr int mostSteps = 32;           // to a fifth of the size, which is the floor of every layout
 constexpr double largestLinePart = 0.5; // of the room's height
 
+constexpr int mostKept = 8; // fits: more than the layouts of a calendar, and of its strip of pages
+
 const QDate longestMonth(2026, 8, 1); // 31 days in six weeks
+
+/// In the longest month, without what makes no difference to numbers: long names of holidays are no reason for smaller
+/// ones.
+MvCalendariumContentConfig withoutTexts(const MvCalendariumContentConfig &content)
+{
+    MvCalendariumHolidayConfig empty = content.holidayConfig();
+    empty.setFeatures(FEATURE_NONE);
+    empty.setFeature(FEATURE_CALENDAR_WEEKS, content.hasFeatures(FEATURE_CALENDAR_WEEKS));
+    MvCalendariumContentConfig without = content.moveToDay(longestMonth);
+    without.setHolidayConfig(empty);
+    return without;
+}
+
+QList<MvCalendariumFit> &keptFits()
+{
+    static QList<MvCalendariumFit> fits;
+    static const QMetaObject::Connection forgetting = // fonts that come or go change what fits
+        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { fits.clear(); });
+    Q_UNUSED(forgetting)
+    return fits;
+}
 
 bool isYear(const MvCalendariumAppearance &appearance)
 {
@@ -27,21 +51,39 @@ bool isYear(const MvCalendariumAppearance &appearance)
 } // namespace
 
 MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
-                                   const MvSpaceMagnitude &paper, const QSizeF &room)
+                                   const MvSpaceMagnitude &paper, const QSizeF &room, const MvRenderingSources &sources)
     : m_appearance(appearance)
-    , m_content(content)
+    , m_content(withoutTexts(content))
     , m_paper(paper)
     , m_room(room)
+    , m_sources(sources)
 {
-    MvCalendariumHolidayConfig empty = content.holidayConfig();
-    empty.setFeatures(FEATURE_NONE); // long names of holidays must not make numbers smaller
-    empty.setFeature(FEATURE_CALENDAR_WEEKS, content.hasFeatures(FEATURE_CALENDAR_WEEKS));
-    m_content.setHolidayConfig(empty);
-    if (!makeRenderer(appearance, longestMonth, 1.0)->rendersMonthInformation()) {
+    if (!makeRenderer(appearance, 1.0)->rendersMonthInformation()) {
         m_lineAppearance = appearance;
         m_lineAppearance.setLayoutSchemaByID(appearance.layoutSchema().monthLayout());
     }
     m_scale = largestScale();
+    m_sources = {nullptr, nullptr, sources.language}; // the others need not outlive this
+}
+
+MvCalendariumFit MvCalendariumFit::shared(const MvCalendariumAppearance &appearance,
+                                          const MvCalendariumContentConfig &content, const MvSpaceMagnitude &paper,
+                                          const QSizeF &room, const MvRenderingSources &sources)
+{
+    QList<MvCalendariumFit> &kept = keptFits();
+    const MvCalendariumContentConfig measured = withoutTexts(content);
+    const auto known = std::find_if(kept.begin(), kept.end(), [&](const MvCalendariumFit &fit) {
+        return fit.m_room == room && fit.m_paper == paper && fit.m_sources.language == sources.language &&
+               fit.m_content == measured && fit.m_appearance == appearance;
+    });
+    if (known != kept.end()) {
+        std::rotate(kept.begin(), known, known + 1);
+    } else {
+        kept.prepend(MvCalendariumFit(appearance, content, paper, room, sources));
+        if (kept.size() > mostKept)
+            kept.removeLast();
+    }
+    return kept.constFirst();
 }
 
 /// The first of the steps from 1 downwards that leaves room; the last step when none does.
@@ -61,7 +103,7 @@ double MvCalendariumFit::largestScale() const
 bool MvCalendariumFit::hasRoom(double scale) const
 {
     const QSizeF room(m_room.width(), m_room.height() - lineHeight(scale));
-    if (!makeRenderer(m_appearance, longestMonth, scale)->hasRoom(room))
+    if (!makeRenderer(m_appearance, scale)->hasRoom(room))
         return false;
     return isYear(m_appearance) || findsNothingUnfitting(scale, room); // hasRoom() of year layouts covers everything
 }
@@ -70,7 +112,7 @@ bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) c
 {
     MvCalendariumAppearance withoutHeaders = m_appearance; // headers are sized by themselves
     withoutHeaders.setColumnHeaders(QString());
-    const Renderer renderer = makeRenderer(withoutHeaders, longestMonth, scale);
+    const Renderer renderer = makeRenderer(withoutHeaders, scale);
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
     // strips keep their own distance between numbers, and use more rows where they are narrower
@@ -83,7 +125,7 @@ double MvCalendariumFit::lineHeight(double scale) const
 {
     if (!m_lineAppearance.isValid())
         return 0.0;
-    const double height = makeRenderer(m_lineAppearance, longestMonth, scale)->minimumSizeHint().height();
+    const double height = makeRenderer(m_lineAppearance, scale)->minimumSizeHint().height();
     return std::min(height, largestLinePart * m_room.height());
 }
 
@@ -93,12 +135,11 @@ void MvCalendariumFit::apply(MvCalendariumRenderer &renderer, double scale) cons
     renderer.setScale(scale, scale * renderer.appearance().optimizedSize().lengthFactor(m_paper));
 }
 
-MvCalendariumFit::Renderer MvCalendariumFit::makeRenderer(const MvCalendariumAppearance &appearance, const QDate &month,
-                                                          double scale) const
+MvCalendariumFit::Renderer MvCalendariumFit::makeRenderer(const MvCalendariumAppearance &appearance, double scale) const
 {
     Renderer made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
-    const MvCalendariumContentConfig content = m_content.moveToDay(month);
-    made->setCalendarInformation(content, content.dayRange());
+    made->setCalendarInformation(m_content, m_content.dayRange());
+    made->setSources(m_sources);
     apply(*made, scale);
     return made;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvCore/MvSpaceMagnitude.h"
 #include "MvProductBase/MvCalendariumContentConfig.h"
 
@@ -21,7 +22,13 @@ class MvCalendariumFit
 {
 public:
     MvCalendariumFit(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
-                     const MvSpaceMagnitude &paper, const QSizeF &room);
+                     const MvSpaceMagnitude &paper, const QSizeF &room, const MvRenderingSources &sources = {});
+
+    /// The fit of these, found once: pages of a layout ask one after the other, and a page is painted again and again.
+    /// The last few that were asked for are kept. GUI thread.
+    static MvCalendariumFit shared(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
+                                   const MvSpaceMagnitude &paper, const QSizeF &room,
+                                   const MvRenderingSources &sources = {});
 
     /// The appearance of the line with the month; an invalid one for a calendarium that shows its month itself.
     const MvCalendariumAppearance &lineAppearance() const { return m_lineAppearance; }
@@ -38,12 +45,13 @@ private:
     bool findsNothingUnfitting(double scale, const QSizeF &room) const;
     double lineHeight(double scale) const;
     void apply(MvCalendariumRenderer &renderer, double scale) const;
-    Renderer makeRenderer(const MvCalendariumAppearance &appearance, const QDate &month, double scale) const;
+    Renderer makeRenderer(const MvCalendariumAppearance &appearance, double scale) const;
 
     MvCalendariumAppearance m_appearance;
     MvCalendariumAppearance m_lineAppearance;
-    MvCalendariumContentConfig m_content;
+    MvCalendariumContentConfig m_content; // without texts, in the longest month
     MvSpaceMagnitude m_paper;
     QSizeF m_room;
+    MvRenderingSources m_sources; // while the fit is found
     double m_scale = 1.0;
 };

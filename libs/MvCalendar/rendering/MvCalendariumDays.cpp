@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCalendar/MvCalendariumDays.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumHolidayCache.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvRenderingProbe.h"
+#include "MvPaint/MvPrintableText.h"
+#include "MvProductBase/MvCalendariumContentKey.h"
+
+#include <algorithm>
+
+namespace {
+
+bool hasType(const MvCalendariumHolidayList &holidays, MvCalendariumHolidayTypeEnum type)
+{
+    return std::any_of(holidays.cbegin(), holidays.cend(),
+                       [type](const MvCalendariumHoliday &holiday) { return holiday.type() == type; });
+}
+
+QStringList namesOf(const MvCalendariumHolidayList &holidays)
+{
+    QStringList names;
+    for (const MvCalendariumHoliday &holiday : holidays) {
+        if (!holiday.description().isEmpty())
+            names.append(holiday.description());
+    }
+    return names;
+}
+
+} // namespace
+
+void MvCalendariumDays::endPass()
+{
+    m_isInPass = false;
+    m_days.clear();
+}
+
+// ---- the record of a day
+
+MvCalendariumDay MvCalendariumDays::day(const QDate &date) const
+{
+    return m_isInPass ? known(date) : look(date);
+}
+
+const MvCalendariumDay &MvCalendariumDays::known(const QDate &date) const
+{
+    const auto found = m_days.find(date.toJulianDay());
+    return found != m_days.end() ? found->second : m_days.emplace(date.toJulianDay(), look(date)).first->second;
+}
+
+MvCalendariumDay MvCalendariumDays::look(const QDate &date) const
+{
+    const MvCalendariumHolidayList holidays = lookUp(m_renderer.contentFor(date).config());
+    return {date,
+            holidays,
+            {headTypeOf(date, holidays, FEATURE_HOLIDAYS), headTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},
+            {contentTypeOf(date, holidays, FEATURE_HOLIDAYS), contentTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},
+            m_renderer.isEvenWeek(date),
+            textsOf(date, holidays)};
+}
+
+MvCalendariumHolidayList MvCalendariumDays::holidays(const QDate &date) const
+{
+    return m_isInPass ? known(date).holidays : lookUp(m_renderer.contentFor(date).config());
+}
+
+MvCalendariumHolidayList MvCalendariumDays::lookUp(const MvCalendariumContentConfig &day) const
+{
+    if (MvRenderingProbe *probe = m_renderer.sources().probe)
+        ++probe->holidayLookUps;
+    return MvCalendariumHolidayCache::instance().holidays(day);
+}
+
+// ---- types
+
+QSet<MvCalendariumHolidayType> MvCalendariumDays::tags(const QDate &date) const
+{
+    QSet<MvCalendariumHolidayType> types;
+    const MvCalendariumHolidayList found = holidays(date);
+    for (const MvCalendariumHoliday &holiday : found)
+        types.insert(holiday.type());
+    return types;
+}
+
+MvCalendarCellType MvCalendariumDays::headType(const QDate &date, const MvCalendariumFeatures &features) const
+{
+    return headTypeOf(date, holidays(date), features);
+}
+
+MvCalendarCellType MvCalendariumDays::contentType(const QDate &date, const MvCalendariumFeatures &features) const
+{
+    return contentTypeOf(date, holidays(date), features);
+}
+
+MvCalendarCellType MvCalendariumDays::headTypeOf(const QDate &date, const MvCalendariumHolidayList &holidays,
+                                                 const MvCalendariumFeatures &features) const
+{
+    if (isHoliday(holidays, features))
+        return CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
+    return hasVacationColors(date, holidays) ? MvCalendarCellType(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION)
+                                             : MvCalendariumRenderer::headCellTypeWeekDay(date.dayOfWeek());
+}
+
+MvCalendarCellType MvCalendariumDays::contentTypeOf(const QDate &date, const MvCalendariumHolidayList &holidays,
+                                                    const MvCalendariumFeatures &features) const
+{
+    if (isHoliday(holidays, features))
+        return CALENDAR_CELL_TYPE_HOLIDAY;
+    return hasVacationColors(date, holidays) ? MvCalendarCellType(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
+                                             : MvCalendariumRenderer::contentCellTypeWeekDay(date.dayOfWeek());
+}
+
+bool MvCalendariumDays::isHoliday(const MvCalendariumHolidayList &holidays, const MvCalendariumFeatures &features) const
+{
+    return m_renderer.calendariumContent().hasFeatures(features) && hasType(holidays, HOLIDAY_TYPE_PUBLIC);
+}
+
+// a vacation never recolours a weekend
+bool MvCalendariumDays::hasVacationColors(const QDate &date, const MvCalendariumHolidayList &holidays) const
+{
+    return date.dayOfWeek() <= 5 && m_renderer.calendariumContent().hasFeatures(FEATURE_SCHOOL_VACATIONS) &&
+           hasType(holidays, HOLIDAY_TYPE_SCHOOL_VACATION);
+}
+
+MvCalendarCellTypeConfig MvCalendariumDays::headTypes(const QDate &date) const
+{
+    if (m_isInPass)
+        return known(date).head;
+    const MvCalendariumHolidayList found = lookUp(m_renderer.contentFor(date).config());
+    return {headTypeOf(date, found, FEATURE_HOLIDAYS), headTypeOf(date, found, FEATURE_HOLIDAY_COLORS)};
+}
+
+MvCalendarCellTypeConfig MvCalendariumDays::contentTypes(const QDate &date) const
+{
+    if (m_isInPass)
+        return known(date).content;
+    const MvCalendariumHolidayList found = lookUp(m_renderer.contentFor(date).config());
+    return {contentTypeOf(date, found, FEATURE_HOLIDAYS), contentTypeOf(date, found, FEATURE_HOLIDAY_COLORS)};
+}
+
+// ---- texts
+
+QStringList MvCalendariumDays::descriptions(const QDate &date) const
+{
+    return namesOf(holidays(date));
+}
+
+QStringList MvCalendariumDays::officialTexts(const QDate &date) const
+{
+    return officialTextsOf(date, holidays(date));
+}
+
+QStringList MvCalendariumDays::personalTexts(const QDate &date) const
+{
+    return MvPrintableText::onOneLineEach(
+        MvCalendarEventRegistry::instance().descriptions(m_renderer.contentFor(date)));
+}
+
+QStringList MvCalendariumDays::texts(const QDate &date) const
+{
+    return m_isInPass ? known(date).texts : textsOf(date, holidays(date));
+}
+
+QStringList MvCalendariumDays::officialTextsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const
+{
+    if (!m_renderer.appearance().showHolidays())
+        return {};
+    return MvPrintableText::onOneLineEach(isWithRunningVacations(date) ? descriptionsWithRunningVacations(date)
+                                                                       : namesOf(holidays));
+}
+
+QStringList MvCalendariumDays::textsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const
+{
+    const MvCalendariumContentConfig &content = m_renderer.calendariumContent();
+    QStringList texts;
+    if (content.hasFeatures(FEATURE_HOLIDAYS))
+        texts += officialTextsOf(date, holidays);
+    if (content.hasFeatures(FEATURE_ENTRIES))
+        texts += personalTexts(date);
+    return texts;
+}
+
+// a vacation that began on the page before would be a month of colour without a word
+bool MvCalendariumDays::isWithRunningVacations(const QDate &date) const
+{
+    return date == m_renderer.startDate() && m_renderer.appearance().type() != CALENDAR_YEAR &&
+           m_renderer.calendariumContent().hasFeatures(FEATURE_SCHOOL_VACATIONS);
+}
+
+QStringList MvCalendariumDays::descriptionsWithRunningVacations(const QDate &date) const
+{
+    MvCalendariumContentConfig content = m_renderer.calendariumContent().moveToDay(date);
+    MvCalendariumHolidayConfig config = content.holidayConfig();
+    config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
+    content.setHolidayConfig(config);
+    return namesOf(lookUp(content));
+}

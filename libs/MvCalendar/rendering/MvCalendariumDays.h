@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendar/MvCalendarCellType.h"
+#include "MvCalendar/MvCalendariumDay.h"
+#include "MvProductBase/MvCalendariumFeatures.h"
+#include "MvProductBase/MvCalendariumHolidayType.h"
+
+#include <QDate>
+#include <QSet>
+#include <QStringList>
+
+#include <unordered_map>
+
+class MvCalendariumContentConfig;
+class MvCalendariumRenderer;
+
+/// What days are on a renderer's page: holiday, vacation or plain, and what their cells say.
+///
+/// While a pass runs each date is looked up once. Between passes, when holidays and entries may change, every question
+/// is answered anew.
+class MvCalendariumDays
+{
+public:
+    /// The renderer must outlive the days.
+    explicit MvCalendariumDays(const MvCalendariumRenderer &renderer)
+        : m_renderer(renderer)
+    {}
+
+    void beginPass() { m_isInPass = true; }
+    void endPass();
+
+    MvCalendariumDay day(const QDate &date) const;
+
+    MvCalendariumHolidayList holidays(const QDate &date) const;
+    QSet<MvCalendariumHolidayType> tags(const QDate &date) const;
+    MvCalendarCellType headType(const QDate &date, const MvCalendariumFeatures &features) const;
+    MvCalendarCellType contentType(const QDate &date, const MvCalendariumFeatures &features) const;
+    MvCalendarCellTypeConfig headTypes(const QDate &date) const;
+    MvCalendarCellTypeConfig contentTypes(const QDate &date) const;
+
+    /// The names of holidays as they are, without those that print nothing.
+    QStringList descriptions(const QDate &date) const;
+    QStringList officialTexts(const QDate &date) const;
+    QStringList personalTexts(const QDate &date) const;
+    /// Official, then personal ones, as far as the page shows them.
+    QStringList texts(const QDate &date) const;
+    /// descriptions() with the vacations that the day lies in, whether or not they begin on it.
+    QStringList descriptionsWithRunningVacations(const QDate &date) const;
+
+private:
+    const MvCalendariumDay &known(const QDate &date) const;
+    MvCalendariumDay look(const QDate &date) const;
+    MvCalendariumHolidayList lookUp(const MvCalendariumContentConfig &day) const;
+    MvCalendarCellType headTypeOf(const QDate &date, const MvCalendariumHolidayList &holidays,
+                                  const MvCalendariumFeatures &features) const;
+    MvCalendarCellType contentTypeOf(const QDate &date, const MvCalendariumHolidayList &holidays,
+                                     const MvCalendariumFeatures &features) const;
+    bool isHoliday(const MvCalendariumHolidayList &holidays, const MvCalendariumFeatures &features) const;
+    bool hasVacationColors(const QDate &date, const MvCalendariumHolidayList &holidays) const;
+    bool isWithRunningVacations(const QDate &date) const;
+    QStringList officialTextsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const;
+    QStringList textsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const;
+
+    const MvCalendariumRenderer &m_renderer;
+    bool m_isInPass = false;
+    mutable std::unordered_map<qint64, MvCalendariumDay> m_days; // of the pass, by Julian day
+};

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendar/MvPaintedFoto.h"
+#include "MvCalendar/MvUnfittingText.h"
+
+#include <QList>
+
+/// What came of painting a page besides the picture: what a person may want to know before it is printed.
+struct MvPageFindings
+{
+    QList<MvUnfittingText> unfitting; ///< texts that do not stand whole on the page, in the order of painting
+    QList<MvPaintedFoto> fotos;       ///< the photos of days, in the order of painting
+
+    bool operator==(const MvPageFindings &) const = default;
+};
