@@ -164,8 +164,9 @@ MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, 
                                             const MvCliArguments &arguments, int dpi, const Streams &streams)
 {
     const bool isReported = arguments.has(u"report"_s);
-    const MvPageSource pages = document.pageSource();
     MvRenderReport report(document);
+    const MvPageSource pages = document.pageSource(
+        {}, [&report](int page, const MvPageFindings &findings) { report.addPage(page, findings); });
     report.setSkippedEntries(entries.file(), entries.skipped());
     for (const QString &path : arguments.values(u"output"_s)) {
         const MvExportResult result = targetOf(path).write(pages, dpi);
@@ -273,7 +274,7 @@ MvCalendariumAppearance MvRenderCommand::appearance(MvCliValues &values)
 QStringList MvRenderCommand::columns(MvCliValues &values, const MvCalendariumAppearance &appearance)
 {
     constexpr int mostColumns = 10;
-    if (appearance.layoutSchema().isValid() && appearance.type() != CALENDAR_ONE_DAY_PER_ROW)
+    if (appearance.layoutSchema().isValid() && !appearance.type().traits().hasColumns)
         values.setError(tr("--columns: das Layout „%1“ hat keine Spalten zum Eintragen, nur Tageslisten haben welche")
                             .arg(appearance.layoutSchema().name()));
     QStringList columns = values.text(u"columns"_s).split(u',');

@@ -37,18 +37,41 @@ QString gradeName(MvFotoResolution::Grade grade)
     return u"good"_s;
 }
 
+// pages of the report count from 1
+
+QJsonObject textObject(int page, const MvUnfittingText &unfitting)
+{
+    QJsonObject text{{u"page"_s, page},
+                     {u"date"_s, dateValue(unfitting.date)},
+                     {u"text"_s, unfitting.text},
+                     {u"rect"_s, rectObject(unfitting.rect)}};
+    if (!unfitting.missingGlyphs.isEmpty())
+        text.insert(u"missingGlyphs"_s, unfitting.missingGlyphs);
+    return text;
+}
+
+QJsonObject photoObject(int page, const MvPrintedPhoto &photo)
+{
+    return {{u"page"_s, page},
+            {u"date"_s, dateValue(photo.date)},
+            {u"path"_s, photo.path},
+            {u"ppi"_s, std::round(photo.pixelsPerInch)},
+            {u"quality"_s, gradeName(photo.grade())},
+            {u"rect"_s, rectObject(photo.rect)}};
+}
+
 } // namespace
 
 MvRenderReport::MvRenderReport(const MvCalendarDocument &document)
-    : m_missingPhotos(document.missingPhotos())
+    : m_document(document)
+    , m_missingPhotos(document.missingPhotos())
+{}
+
+void MvRenderReport::addPage(int page, const MvPageFindings &findings)
 {
-    for (int page = 0; page < document.pages().size() && document.isValid(); ++page) {
-        for (const MvUnfittingText &text : document.unfittingTexts(page))
-            m_unfitting.append({page + 1, text});
-        for (const MvPrintedPhoto &photo :
-             MvPrintedPhoto::ofPage(document.pages()[page], document.format(), document.range()))
-            m_photos.append({page + 1, photo});
-    }
+    if (!m_pages.contains(page))
+        m_pages.insert(page, {findings.unfitting,
+                              MvPrintedPhoto::ofPage(m_document.pages()[page], m_document.format(), findings)});
 }
 
 void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped)
@@ -66,23 +89,13 @@ QString MvRenderReport::toJson() const
                                           {u"name"_s, skipped.name},
                                           {u"reason"_s, skipped.reason}});
     QJsonArray unfitting;
-    for (const Entry &entry : m_unfitting) {
-        QJsonObject text{{u"page"_s, entry.page},
-                         {u"date"_s, dateValue(entry.text.date)},
-                         {u"text"_s, entry.text.text},
-                         {u"rect"_s, rectObject(entry.text.rect)}};
-        if (!entry.text.missingGlyphs.isEmpty())
-            text.insert(u"missingGlyphs"_s, entry.text.missingGlyphs);
-        unfitting.append(text);
-    }
     QJsonArray photos;
-    for (const Photo &entry : m_photos)
-        photos.append(QJsonObject{{u"page"_s, entry.page},
-                                  {u"date"_s, dateValue(entry.photo.date)},
-                                  {u"path"_s, entry.photo.path},
-                                  {u"ppi"_s, std::round(entry.photo.pixelsPerInch)},
-                                  {u"quality"_s, gradeName(entry.photo.grade())},
-                                  {u"rect"_s, rectObject(entry.photo.rect)}});
+    for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page) {
+        for (const MvUnfittingText &text : page->unfitting)
+            unfitting.append(textObject(page.key() + 1, text));
+        for (const MvPrintedPhoto &photo : page->photos)
+            photos.append(photoObject(page.key() + 1, photo));
+    }
     const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)},
                              {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingPhotos)},
                              {u"photos"_s, photos},
@@ -104,13 +117,15 @@ void MvRenderReport::printTextHints(QTextStream &hints) const
     int withoutRoom = 0;
     QDate first;
     QList<uint> missing;
-    for (const Entry &entry : m_unfitting) {
-        for (const uint character : entry.text.missingGlyphs.toUcs4()) {
-            if (!missing.contains(character))
-                missing.append(character);
+    for (const Page &page : m_pages) {
+        for (const MvUnfittingText &text : page.unfitting) {
+            for (const uint character : text.missingGlyphs.toUcs4()) {
+                if (!missing.contains(character))
+                    missing.append(character);
+            }
+            if (text.missingGlyphs.isEmpty() && ++withoutRoom == 1)
+                first = text.date;
         }
-        if (entry.text.missingGlyphs.isEmpty() && ++withoutRoom == 1)
-            first = entry.text.date;
     }
     if (withoutRoom > 0)
         hints << tr("Texte ohne Platz: %1, der erste am %2; --report json nennt alle")
@@ -125,17 +140,19 @@ void MvRenderReport::printPhotoHints(QTextStream &hints) const
 {
     int poor = 0;
     int modest = 0;
-    for (const auto &[page, photo] : m_photos) {
-        const MvFotoResolution::Grade grade = photo.grade();
-        modest += grade == MvFotoResolution::Grade::Modest ? 1 : 0;
-        if (grade != MvFotoResolution::Grade::Poor || ++poor > mostPhotoHints)
-            continue;
-        hints << tr("Foto wird grob, nur %1 Pixel je Zoll (gut ab %2): Seite %3, %4")
-                     .arg(std::floor(photo.pixelsPerInch))
-                     .arg(MvFotoResolution::modestBelow)
-                     .arg(page)
-                     .arg(photo.path)
-              << '\n';
+    for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page) {
+        for (const MvPrintedPhoto &photo : page->photos) {
+            const MvFotoResolution::Grade grade = photo.grade();
+            modest += grade == MvFotoResolution::Grade::Modest ? 1 : 0;
+            if (grade != MvFotoResolution::Grade::Poor || ++poor > mostPhotoHints)
+                continue;
+            hints << tr("Foto wird grob, nur %1 Pixel je Zoll (gut ab %2): Seite %3, %4")
+                         .arg(std::floor(photo.pixelsPerInch))
+                         .arg(MvFotoResolution::modestBelow)
+                         .arg(page.key() + 1)
+                         .arg(photo.path)
+                  << '\n';
+        }
     }
     if (poor > mostPhotoHints)
         hints << tr("%n weitere Fotos werden grob; --report json nennt alle", nullptr, poor - mostPhotoHints) << '\n';

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QMap>
 #include <QStringList>
 
 class QTextStream;
@@ -20,6 +21,9 @@ class MvRenderReport
 public:
     explicit MvRenderReport(const MvCalendarDocument &document);
 
+    /// What was found when the page, counted from 0, was painted. A page may be painted for several files.
+    void addPage(int page, const MvPageFindings &findings);
+
     void addFile(const QString &path) { m_files.append(path); }
 
     /// Entries that are not printed since their file has them in a form that cannot be read.
@@ -32,22 +36,17 @@ public:
     void printHint(QTextStream &hints) const;
 
 private:
-    struct Entry
+    struct Page
     {
-        int page; // from 1
-        MvUnfittingText text;
-    };
-    struct Photo
-    {
-        int page; // from 1
-        MvPrintedPhoto photo;
+        QList<MvUnfittingText> unfitting;
+        QList<MvPrintedPhoto> photos;
     };
 
     void printTextHints(QTextStream &hints) const;
     void printPhotoHints(QTextStream &hints) const;
 
-    QList<Entry> m_unfitting;
-    QList<Photo> m_photos;
+    const MvCalendarDocument m_document;
+    QMap<int, Page> m_pages; // by number, from 0
     QStringList m_missingPhotos;
     QStringList m_files;
     QFileInfo m_entriesFile;

@@ -25,9 +25,11 @@ bool anyRegionHasVacations(const MvLocale &locale)
 
 void MvVacationHint::print(const MvCalendariumHolidayConfig &config, const QDate &neededUntil, QTextStream &hints)
 {
+    if (!config.hasFeatures(FEATURE_SCHOOL_VACATIONS)) // the tables of vacations need not be read
+        return;
     const MvLocale locale = config.language();
     const QDate until = knownUntil(locale, config.province());
-    if (!config.hasFeatures(FEATURE_SCHOOL_VACATIONS) || (config.province().isEmpty() && !until.isValid()))
+    if (config.province().isEmpty() && !until.isValid())
         return;
     const QString where = config.province().isEmpty() ? locale.country() : config.province();
     if (!until.isValid())

@@ -24,7 +24,7 @@ MvCalendariumLayoutSchema layoutWithColumns()
 {
     const MvCalendariumLayoutSchemaList schemata = MvCalendariumLayoutSchemaRegistry::instance().schemata();
     const auto found = std::find_if(schemata.begin(), schemata.end(), [](const MvCalendariumLayoutSchema &schema) {
-        return schema.calendariumType() == CALENDAR_ONE_DAY_PER_ROW && !schema.suggestedColumnHeaders().isEmpty();
+        return schema.calendariumType().traits().hasColumns && !schema.suggestedColumnHeaders().isEmpty();
     });
     return found != schemata.end() ? *found : MvCalendariumLayoutSchema();
 }
@@ -84,7 +84,7 @@ QWidget *MvColumnHeadersPanel::createEmptyState()
 void MvColumnHeadersPanel::showPage()
 {
     const MvCalendariumAppearance appearance = edits()->page().appearance();
-    const bool hasColumns = appearance.type() == CALENDAR_ONE_DAY_PER_ROW;
+    const bool hasColumns = appearance.type().traits().hasColumns;
     m_stack->setCurrentWidget(hasColumns ? m_editing : m_emptyState);
     const MvCalendariumWords words(edits()->page().contentConfig().language());
     QStringList headers = replaced(words.columnHeadings(appearance), blank, QString());

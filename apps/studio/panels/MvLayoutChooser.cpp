@@ -23,9 +23,7 @@ constexpr double frameWidth = 3.0; // of the chosen picture
 /// Layouts that are only a part of a page, such as the line with the month, are not offered.
 bool isWholePage(const MvCalendariumLayoutSchema &schema)
 {
-    MvCalendariumAppearance appearance;
-    appearance.setLayoutSchema(schema);
-    return appearance.rendererShowsDays() && schema.calendariumType() != CALENDAR_HOLIDAYS;
+    return schema.calendariumType().traits().hasDayCells;
 }
 
 } // namespace

@@ -6,7 +6,6 @@
 
 #include <QDomElement>
 #include <QImage>
-#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -14,19 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString headerSeparator = u"$$"_s;
-const QString headerDollar = u"$\u2060"_s; // a dollar sign that cannot be read as a separator
-
 // returned by calendariumOptions()
 constexpr int holidaysOption = 1;
 constexpr int holidayColorsOption = 2;
-
-/// A header in the form in which it can be joined to others.
-QString joinable(QString header)
-{
-    static const QRegularExpression atRisk(u"\\$(?=[$\u2060]|\\z)"_s);
-    return header.replace(atRisk, headerDollar);
-}
 
 std::function<QList<MvCalendarCellType>(const MvCalendariumAppearance &)> &usedCellTypes()
 {
@@ -86,7 +75,7 @@ void MvCalendariumAppearance::setLayoutSchemaByID(const MvCalendariumLayoutSchem
 
 void MvCalendariumAppearance::adoptLayoutSuggestions()
 {
-    d->columnHeaders = d.constData()->layoutSchema.suggestedColumnHeaders();
+    d->columnHeaders = MvColumnHeaders(d.constData()->layoutSchema.suggestedColumnHeaders());
     d->fontSettings.setFontSizePercentageHolidays(d.constData()->layoutSchema.suggestedHolidayFontPercentage());
 }
 
@@ -149,15 +138,8 @@ int MvCalendariumAppearance::calendariumOptions() const
 {
     if (!showHolidays())
         return 0;
-    switch (type().value()) {
-    case CALENDAR_ONE_DAY_PER_ROW:
-    case CALENDAR_ONE_WEEK_PER_ROW:
-        return holidaysOption | holidayColorsOption;
-    case CALENDAR_HOLIDAYS:
-        return holidaysOption;
-    default:
-        return 0;
-    }
+    const MvCalendariumTraits &traits = type().traits();
+    return (traits.offersHolidays ? holidaysOption : 0) | (traits.offersHolidayColors ? holidayColorsOption : 0);
 }
 
 bool MvCalendariumAppearance::rendererShowsDays() const
@@ -305,33 +287,29 @@ MvSpaceMagnitude MvCalendariumAppearance::optimizedSize() const
 
 QString MvCalendariumAppearance::columnHeaders() const
 {
-    return d->columnHeaders;
+    return d->columnHeaders.text();
 }
 
 void MvCalendariumAppearance::setColumnHeaders(const QString &headers)
 {
-    if (d.constData()->columnHeaders != headers)
-        d->columnHeaders = headers;
+    if (d.constData()->columnHeaders.text() != headers)
+        d->columnHeaders = MvColumnHeaders(headers);
 }
 
 void MvCalendariumAppearance::setColumnHeaders(const QList<QString> &headers)
 {
-    QStringList parts;
-    for (const QString &header : headers)
-        parts.append(joinable(header));
-    setColumnHeaders(parts.join(headerSeparator));
+    if (const MvColumnHeaders set(headers); !(d.constData()->columnHeaders == set))
+        d->columnHeaders = set;
 }
 
 QStringList MvCalendariumAppearance::columnHeadersList() const
 {
-    QStringList headers = d->columnHeaders.split(headerSeparator, Qt::SkipEmptyParts);
-    headers.replaceInStrings(headerDollar, u"$"_s);
-    return headers;
+    return d->columnHeaders.list();
 }
 
 int MvCalendariumAppearance::countColumns() const
 {
-    return int(columnHeadersList().size());
+    return int(d->columnHeaders.list().size());
 }
 
 int MvCalendariumAppearance::offsetMonth() const

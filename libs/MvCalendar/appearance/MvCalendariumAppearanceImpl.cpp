@@ -31,7 +31,7 @@ void MvCalendariumAppearanceImpl::read(const QDomElement &element, bool adaptGri
     const QString size = MvXMLParser::textAttribute(element, optimizedSizeKey);
     if (!size.isEmpty()) // overrides the layout's
         optimizedSize = MvSpaceMagnitude(size);
-    columnHeaders = MvXMLParser::textAttribute(element, columnHeadersKey);
+    columnHeaders = MvColumnHeaders(MvXMLParser::textAttribute(element, columnHeadersKey));
     offsetMonth = std::clamp(MvXMLParser::intAttribute(element, offsetMonthKey, 0), -mostMonthsAhead, mostMonthsAhead);
     layoutSchema.setShowHolidays(MvXMLParser::boolAttribute(element, showHolidayKey, true));
     if (adaptGrid)
@@ -43,8 +43,8 @@ void MvCalendariumAppearanceImpl::write(QDomElement &element, bool embedUserSche
     MvXMLBuilder::addAttribute(element, optimizedSizeKey, optimizedSize.encodeCSV());
     encodeColorSchema(element, embedUserSchema);
     layoutSchema.ID().write(element);
-    if (!columnHeaders.isEmpty())
-        MvXMLBuilder::addAttribute(element, columnHeadersKey, columnHeaders);
+    if (!columnHeaders.text().isEmpty())
+        MvXMLBuilder::addAttribute(element, columnHeadersKey, columnHeaders.text());
     if (offsetMonth != 0)
         MvXMLBuilder::addAttribute(element, offsetMonthKey, offsetMonth);
     MvXMLBuilder::addAttribute(element, showHolidayKey, layoutSchema.showHolidays());

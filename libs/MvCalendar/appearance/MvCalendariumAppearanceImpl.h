@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumColorSchema.h"
 #include "MvCalendar/MvCalendariumFontSettings.h"
 #include "MvCalendar/MvCalendariumLayoutSchema.h"
+#include "MvCalendar/MvColumnHeaders.h"
 #include "MvCore/MvSharedData.h"
 #include "MvCore/MvSpaceMagnitude.h"
 
@@ -17,7 +18,7 @@ struct MvCalendariumAppearanceImpl : MvSharedData
     MvCalendariumLayoutSchema layoutSchema;
     MvCalendariumColorSchema colorSchema;
     MvCalendariumFontSettings fontSettings;
-    QString columnHeaders; // joined by "$$"
+    MvColumnHeaders columnHeaders;
     int offsetMonth = 0;
     MvSpaceMagnitude optimizedSize = MAGNITUDE_A4;
     bool overrideShowCalendarWeek = false;

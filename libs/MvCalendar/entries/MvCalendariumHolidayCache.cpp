@@ -8,6 +8,7 @@
 #include <QWriteLocker>
 
 #include <algorithm>
+#include <utility>
 
 template class MvSingleton<MvCalendariumHolidayCache>;
 
@@ -27,13 +28,16 @@ bool MvCalendariumHolidayCache::isPrepared(const MvCalendariumHolidayCacheKey &k
 MvCalendariumHolidayList MvCalendariumHolidayCache::fetch(const MvCalendariumHolidayCacheKey &key) const
 {
     const QReadLocker lock(&myLock);
-    return m_years.value(key);
+    return m_years.value(key).all;
 }
 
 void MvCalendariumHolidayCache::prepareYear(const MvCalendariumHolidayCacheKey &key)
 {
     const QWriteLocker lock(&myLock);
-    m_years.insert(key, MvCalendariumHolidayCalculator::instance().holidaysOfYear(key));
+    Year year{MvCalendariumHolidayCalculator::instance().holidaysOfYear(key), {}};
+    for (const MvCalendariumHoliday &holiday : std::as_const(year.all))
+        year.days[holiday.date()].append(holiday);
+    m_years.insert(key, year);
 }
 
 MvCalendariumHolidayList MvCalendariumHolidayCache::readHolidays(const MvCalendariumHolidayCacheKey &key)
@@ -47,7 +51,12 @@ MvCalendariumHolidayList MvCalendariumHolidayCache::holidays(const MvCalendarium
 {
     if (!config.isValid())
         return {};
-    return readHolidays(MvCalendariumHolidayCacheKey(config.year(), config.holidayConfig())).filter(config.date());
+    const MvCalendariumHolidayCacheKey key(config.year(), config.holidayConfig());
+    if (!isPrepared(key))
+        prepareYear(key);
+    const QReadLocker lock(&myLock);
+    const auto year = m_years.constFind(key);
+    return year == m_years.cend() ? MvCalendariumHolidayList() : year->days.value(config.date());
 }
 
 QStringList MvCalendariumHolidayCache::descriptions(const MvCalendariumContentKey &key)

@@ -68,8 +68,14 @@ public Q_SLOTS:
     void reloadData();
 
 private:
+    struct Year
+    {
+        MvCalendariumHolidayList all;
+        QHash<QDate, MvCalendariumHolidayList> days; // those that have any
+    };
+
     static QReadWriteLock myLock; // guards m_years
 
-    QHash<MvCalendariumHolidayCacheKey, MvCalendariumHolidayList> m_years;
+    QHash<MvCalendariumHolidayCacheKey, Year> m_years;
     QHash<int, MvCalendariumHoliday> m_longestOfMonths; // by month, 1 to 12
 };

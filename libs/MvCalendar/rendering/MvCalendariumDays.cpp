@@ -184,7 +184,7 @@ QStringList MvCalendariumDays::textsOf(const QDate &date, const MvCalendariumHol
 // a vacation that began on the page before would be a month of colour without a word
 bool MvCalendariumDays::isWithRunningVacations(const QDate &date) const
 {
-    return date == m_renderer.startDate() && m_renderer.appearance().type() != CALENDAR_YEAR &&
+    return date == m_renderer.startDate() && m_renderer.appearance().type().traits().namesRunningVacations &&
            m_renderer.calendariumContent().hasFeatures(FEATURE_SCHOOL_VACATIONS);
 }
 

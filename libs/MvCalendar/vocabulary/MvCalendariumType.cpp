@@ -4,19 +4,63 @@
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLParser.h"
 
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
 template class MvEnumWrapper<MvCalendariumTypeEnum>;
+
+namespace {
+
+struct Kind
+{
+    MvCalendariumTypeEnum type;
+    QLatin1StringView name; // in files
+    MvCalendariumTraits traits;
+};
+
+/// All that there are. A new one needs a row here and a line in MvCalendariumRendererFactory.
+constexpr std::array kinds{
+    Kind{CALENDAR_ONE_WEEK_PER_ROW,
+         "CALENDAR_ONE_WEEK_PER_ROW"_L1,
+         {.canPaintBorders = true, .offersHolidays = true, .offersHolidayColors = true, .hasDayCells = true}},
+    Kind{CALENDAR_TWO_WEEKS, "CALENDAR_TWO_WEEKS"_L1, {.canPaintBorders = true, .hasDayCells = true}},
+    Kind{CALENDAR_MONTH_ONLY, "CALENDAR_MONTH_ONLY"_L1, {.mostImportantCell = CALENDAR_CELL_TYPE_MONTH}},
+    Kind{CALENDAR_ONE_DAY_PER_ROW,
+         "CALENDAR_ONE_DAY_PER_ROW"_L1,
+         {.canPaintBorders = true,
+          .offersHolidays = true,
+          .offersHolidayColors = true,
+          .hasDayCells = true,
+          .hasColumns = true}},
+    Kind{CALENDAR_ONE_COLUMN_PER_WEEK, "CALENDAR_ONE_COLUMN_PER_WEEK"_L1, {.hasDayCells = true}},
+    Kind{CALENDAR_YEAR,
+         "CALENDAR_YEAR"_L1,
+         {.canPaintBorders = true,
+          .range = MvCalendariumTraits::Range::Year,
+          .hasDayCells = true,
+          .namesRunningVacations = false}},
+    Kind{CALENDAR_YEAR_ONLY,
+         "CALENDAR_YEAR_ONLY"_L1,
+         {.mostImportantCell = CALENDAR_CELL_TYPE_YEAR, .range = MvCalendariumTraits::Range::YearWithinCalendar}},
+    Kind{CALENDAR_ONE_ROW, "CALENDAR_ONE_ROW"_L1, {.canPaintBorders = true, .hasDayCells = true, .isStrip = true}},
+    Kind{CALENDAR_HOLIDAYS, "CALENDAR_HOLIDAYS"_L1, {.offersHolidays = true}},
+};
+
+} // namespace
 
 void MvCalendariumType::fillTable(Table *table) const
 {
-    table->insert(QStringLiteral("CALENDAR_ONE_WEEK_PER_ROW"), CALENDAR_ONE_WEEK_PER_ROW);
-    table->insert(QStringLiteral("CALENDAR_TWO_WEEKS"), CALENDAR_TWO_WEEKS);
-    table->insert(QStringLiteral("CALENDAR_MONTH_ONLY"), CALENDAR_MONTH_ONLY);
-    table->insert(QStringLiteral("CALENDAR_ONE_DAY_PER_ROW"), CALENDAR_ONE_DAY_PER_ROW);
-    table->insert(QStringLiteral("CALENDAR_ONE_COLUMN_PER_WEEK"), CALENDAR_ONE_COLUMN_PER_WEEK);
-    table->insert(QStringLiteral("CALENDAR_YEAR"), CALENDAR_YEAR);
-    table->insert(QStringLiteral("CALENDAR_YEAR_ONLY"), CALENDAR_YEAR_ONLY);
-    table->insert(QStringLiteral("CALENDAR_ONE_ROW"), CALENDAR_ONE_ROW);
-    table->insert(QStringLiteral("CALENDAR_HOLIDAYS"), CALENDAR_HOLIDAYS);
+    for (const Kind &kind : kinds)
+        table->insert(kind.name, kind.type);
+}
+
+const MvCalendariumTraits &MvCalendariumType::traits() const
+{
+    static const MvCalendariumTraits none;
+    const auto kind = std::find_if(kinds.begin(), kinds.end(), [this](const Kind &kind) { return *this == kind.type; });
+    return kind == kinds.end() ? none : kind->traits;
 }
 
 void MvCalendariumType::fromXML(const QDomElement &element)
@@ -31,18 +75,12 @@ void MvCalendariumType::toXML(QDomElement &element) const
 
 MvCalendarCellType MvCalendariumType::mostImportantCalendarCell() const
 {
-    switch (value()) {
-    case CALENDAR_MONTH_ONLY:
-        return CALENDAR_CELL_TYPE_MONTH;
-    case CALENDAR_YEAR_ONLY:
-        return CALENDAR_CELL_TYPE_YEAR;
-    default:
-        return CALENDAR_CELL_TYPE_WEEKDAY;
-    }
+    return traits().mostImportantCell;
 }
 
 bool MvCalendariumType::canPaintBorders() const
 {
-    return hasAnyOf(MvCalendariumType(CALENDAR_ONE_WEEK_PER_ROW | CALENDAR_TWO_WEEKS | CALENDAR_ONE_DAY_PER_ROW |
-                                      CALENDAR_YEAR | CALENDAR_ONE_ROW));
+    return std::any_of(kinds.begin(), kinds.end(), [this](const Kind &kind) {
+        return kind.traits.canPaintBorders && hasAnyOf(MvCalendariumType(kind.type));
+    });
 }

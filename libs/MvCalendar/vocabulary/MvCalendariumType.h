@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarCellType.h"
+#include "MvCalendar/MvCalendariumTraits.h"
 #include "MvCalendar/mvcalendar_export.h"
 #include "MvCore/MvEnumWrapper.h"
 
@@ -32,6 +33,8 @@ class MVCALENDAR_EXPORT MvCalendariumType : public MvEnumWrapper<MvCalendariumTy
     /// Writes the attribute "type".
     void toXML(QDomElement &element) const;
 
+    /// What the kind is like; for a value that is none, what is the least.
+    const MvCalendariumTraits &traits() const;
     /// The cell type whose colours and font stand for the whole calendarium, for example in previews.
     MvCalendarCellType mostImportantCalendarCell() const;
     /// True for the kinds whose cells may have border lines: the grids, the day list, the one row and the year.

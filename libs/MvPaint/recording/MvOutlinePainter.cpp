@@ -98,6 +98,27 @@ QPainterPath joined(const QList<MvPlacedOutline> &lines)
     return path;
 }
 
+/// Whether the target writes coordinates as text, in units so small that fractions of them do not matter: whole ones
+/// take half the space, and half the time to pack.
+bool isWrittenInSmallUnits(const QPainter &painter)
+{
+    constexpr int smallUnits = 10000; // per inch
+    return painter.paintEngine()->type() == QPaintEngine::Pdf && painter.device()->logicalDpiX() >= smallUnits;
+}
+
+void fillInWholeUnits(QPainter &painter, const QPainterPath &path, const QColor &color)
+{
+    const QTransform world = painter.worldTransform();
+    QPainterPath rounded = painter.deviceTransform().map(path);
+    for (int i = 0; i < rounded.elementCount(); ++i) {
+        const QPainterPath::Element element = rounded.elementAt(i);
+        rounded.setElementPositionAt(i, std::round(element.x), std::round(element.y));
+    }
+    painter.setWorldTransform({});
+    painter.fillPath(rounded, color);
+    painter.setWorldTransform(world);
+}
+
 /// Scales pictures to the device's own pixels on raster targets; that looks better than letting the painter scale them.
 QImage fittedToDevice(const QPainter &painter, const MvTextOutline::Picture &picture)
 {
@@ -163,6 +184,8 @@ void MvOutlinePainter::fillOutlines(QPainter &painter, const QList<MvPlacedOutli
         const QBrush brush(color);
         for (const MvPlacedOutline &line : lines)
             fillOnRaster(painter, line, brush);
+    } else if (isWrittenInSmallUnits(painter)) {
+        fillInWholeUnits(painter, joined(lines), color);
     } else {
         painter.fillPath(joined(lines), color);
     }

@@ -63,8 +63,7 @@ void MvCalendarPage::setAppearance(const MvCalendariumAppearance &appearance)
 
 int MvCalendarPage::monthCount() const
 {
-    const bool isYear = m_appearance.type() == CALENDAR_YEAR || m_appearance.type() == CALENDAR_YEAR_ONLY;
-    return isYear ? monthsPerYear : 1;
+    return m_appearance.type().traits().monthsPerPage();
 }
 
 MvDateRange MvCalendarPage::printedMonths() const
@@ -109,7 +108,7 @@ QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
         rect.setRight(photo.left() - gap);
         break;
     }
-    if (m_appearance.type() == CALENDAR_ONE_ROW) {
+    if (m_appearance.type().traits().isStrip) {
         const double tallest = rect.width() < narrowStrip ? tallestNarrowStrip : tallestStrip * rect.width();
         rect.setTop(std::max(rect.top(), rect.bottom() - tallest));
     }
@@ -196,15 +195,15 @@ std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendar
 {
     std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
     const MvCalendariumContentConfig content = m_content.moveToDayInMonth(1);
-    switch (appearance.type().value()) {
-    case CALENDAR_YEAR: // moves its range itself
+    switch (appearance.type().traits().range) {
+    case MvCalendariumTraits::Range::Year:
         made->setCalendarInformation(content, twelveMonths(content.date()));
         break;
-    case CALENDAR_YEAR_ONLY:
+    case MvCalendariumTraits::Range::YearWithinCalendar:
         made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()),
                                      partOf(documentRange, twelveMonths(content.date())));
         break;
-    default:
+    case MvCalendariumTraits::Range::Calendar:
         made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()), documentRange);
         break;
     }

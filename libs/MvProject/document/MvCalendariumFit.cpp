@@ -43,11 +43,6 @@ QList<MvCalendariumFit> &keptFits()
     return fits;
 }
 
-bool isYear(const MvCalendariumAppearance &appearance)
-{
-    return appearance.type() == CALENDAR_YEAR || appearance.type() == CALENDAR_YEAR_ONLY;
-}
-
 } // namespace
 
 MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
@@ -105,7 +100,8 @@ bool MvCalendariumFit::hasRoom(double scale) const
     const QSizeF room(m_room.width(), m_room.height() - lineHeight(scale));
     if (!makeRenderer(m_appearance, scale)->hasRoom(room))
         return false;
-    return isYear(m_appearance) || findsNothingUnfitting(scale, room); // hasRoom() of year layouts covers everything
+    const bool isYear = m_appearance.type().traits().monthsPerPage() > 1; // hasRoom() of year layouts covers everything
+    return isYear || findsNothingUnfitting(scale, room);
 }
 
 bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) const
@@ -116,7 +112,7 @@ bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) c
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
     // strips keep their own distance between numbers, and use more rows where they are narrower
-    const double width = m_appearance.type() == CALENDAR_ONE_ROW ? room.width() : air * room.width();
+    const double width = m_appearance.type().traits().isStrip ? room.width() : air * room.width();
     renderer->render(painter, {QPointF(), QSizeF(width, room.height())});
     return renderer->unfittingTexts().isEmpty();
 }

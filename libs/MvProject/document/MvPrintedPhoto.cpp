@@ -2,13 +2,12 @@
 #include "MvProject/MvPrintedPhoto.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvFoto/MvFotoAccess.h"
+#include "MvProductBase/MvCalendariumContentKey.h"
 #include "MvProject/MvCalendarPage.h"
 
-#include <QMap>
-
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -27,59 +26,32 @@ bool anyEntryHasPhoto()
                        [](const MvCalendarEvent &event) { return event.foto().isValid(); });
 }
 
-/// The largest image in a cell is its photo; others are signs of a text that are no outlines.
-QRectF largestImage(const QList<MvPaintRecording::Item> &images, const QRectF &cell)
-{
-    QRectF largest;
-    for (const MvPaintRecording::Item &image : images) {
-        const QRectF &bounds = image.bounds;
-        if (cell.contains(bounds.center()) && bounds.width() * bounds.height() > largest.width() * largest.height())
-            largest = bounds;
-    }
-    return largest;
-}
-
-QList<MvPrintedPhoto> entryPhotos(const MvCalendarPage &page, const MvPageFormat &format,
-                                  const MvDateRange &documentRange)
-{
-    struct Cell
-    {
-        MvImageReference photo;
-        QRectF rect;
-    };
-    QMap<QDate, Cell> cells;
-    const auto listen = [&](MvCalendariumRenderer &renderer) {
-        const auto note = [&cells, &page, project = renderer.modelInfo()](const QDate &date, const QRectF &rect) {
-            const MvCalendariumContentKey key(page.contentConfig().moveToDay(date), project);
-            const MvImageReference photo = MvCalendarEventRegistry::instance().imageFile(key);
-            if (!photo.isEmpty())
-                cells.insert(date, {photo, rect});
-        };
-        QObject::connect(&renderer, &MvCalendariumRenderer::rectForDateFound, &renderer, note);
-    };
-    const QList<MvPaintRecording::Item> images =
-        page.record(format, documentRange, listen, MvRenderingRule(MvRenderingRule::Print))
-            .items(MvPaintRecording::Item::Image);
-
-    QList<MvPrintedPhoto> photos;
-    for (auto cell = cells.cbegin(); cell != cells.cend(); ++cell) {
-        const QRectF rect = largestImage(images, cell->rect);
-        const double pixelsPerInch = MvFotoResolution::pixelsPerInch(cell->photo.size, rect.size());
-        photos.append({cell->photo.path, cell.key(), rect, pixelsPerInch});
-    }
-    return photos;
-}
-
 } // namespace
 
 QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
                                              const MvDateRange &documentRange)
 {
+    MvPageFindings found;
+    if (anyEntryHasPhoto()) // else the page need not be recorded
+        page.record(format, documentRange, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, {}, &found);
+    return ofPage(page, format, found);
+}
+
+QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                             const MvPageFindings &findings)
+{
     QList<MvPrintedPhoto> photos;
     if (page.photoFrame().isValid())
         photos.append(ownPhoto(page.photoFrame(), format));
-    if (anyEntryHasPhoto()) // else the page need not be recorded
-        photos.append(entryPhotos(page, format, documentRange));
+    QList<MvPaintedFoto> painted = findings.fotos;
+    std::sort(painted.begin(), painted.end(),
+              [](const MvPaintedFoto &a, const MvPaintedFoto &b) { return a.date < b.date; });
+    const MvCalendarEventRegistry &entries = MvCalendarEventRegistry::instance();
+    for (const MvPaintedFoto &foto : std::as_const(painted)) {
+        const MvCalendariumContentKey key(page.contentConfig().moveToDay(foto.date), entries.activeModelId());
+        const MvImageReference file = entries.imageFile(key);
+        photos.append({file.path, foto.date, foto.rect, MvFotoResolution::pixelsPerInch(file.size, foto.rect.size())});
+    }
     photos.removeIf([](const MvPrintedPhoto &photo) { return photo.pixelsPerInch <= 0.0; });
     return photos;
 }

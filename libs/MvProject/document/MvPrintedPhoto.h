@@ -12,6 +12,7 @@
 class MvCalendarPage;
 class MvDateRange;
 class MvPageFormat;
+struct MvPageFindings;
 
 /// A photo that a page shows, its own or that of an entry in the cell of its day, and how finely it is printed.
 struct MVPROJECT_EXPORT MvPrintedPhoto
@@ -28,4 +29,7 @@ struct MVPROJECT_EXPORT MvPrintedPhoto
     /// The photos of a page whose files can be read: its own first, then those of days by date. GUI thread.
     static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
                                         const MvDateRange &documentRange);
+    /// The same of a page that has been painted or recorded already, by what was found then.
+    static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                        const MvPageFindings &findings);
 };

@@ -3,6 +3,7 @@
 
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
@@ -10,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QTemporaryFile>
@@ -20,9 +22,26 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Of the file's coordinates to a dot: texts are written in whole ones, less than a thousandth of a millimetre.
+constexpr int unitsPerDot = 100;
+constexpr double dotsPerUnit = MvPdfExporter::resolution / MvMath::tenthMillimetresPerInch; // of the page
+
 bool isCancelled(const MvExportObserver *observer)
 {
     return observer && observer->isCancelled();
+}
+
+/// The page in dots, as it is painted for a target with so many.
+MvPaintRecording recordPage(const MvPageSource &source, int page, const QPointF &corner)
+{
+    QImage dots(1, 1, QImage::Format_Mono);
+    dots.setDotsPerMeterX(int(std::lround(MvPdfExporter::resolution / 0.0254)));
+    dots.setDotsPerMeterY(dots.dotsPerMeterX());
+    MvPaintRecorder recorder(&dots);
+    QPainter painter(&recorder);
+    source.paintPage(painter, page, corner, dotsPerUnit);
+    painter.end();
+    return recorder.recording();
 }
 
 /// Paints all pages with the lower left corner of the media box at that of the PDF page, which is up to a point larger.
@@ -32,23 +51,23 @@ QString paintRawFile(QTemporaryFile &file, const MvPageSource &source, MvExportO
     const QSize points(int(std::ceil(media.width())), int(std::ceil(media.height())));
 
     QPdfWriter writer(&file);
-    writer.setResolution(MvPdfExporter::resolution);
+    writer.setResolution(unitsPerDot * MvPdfExporter::resolution);
     writer.setTitle(MvPrintableText::onOneLine(source.title));
     writer.setCreator(u"MvCalendar"_s);
     writer.setPageLayout(QPageLayout(QPageSize(points, u"page"_s, QPageSize::ExactMatch), QPageLayout::Portrait, {}));
 
-    constexpr double scale = MvPdfExporter::resolution / MvMath::tenthMillimetresPerInch;
     const double top = MvMath::point2pixel(points.height() - media.height(), MvPdfExporter::resolution);
-    const QPointF corner(source.format.bleed() * scale, source.format.bleed() * scale + top);
+    const QPointF corner(source.format.bleed() * dotsPerUnit, source.format.bleed() * dotsPerUnit + top);
 
     QPainter painter;
     if (!painter.begin(&writer))
         return QCoreApplication::translate("MvPdfExporter", "Die Seiten lassen sich nicht zeichnen");
+    painter.scale(unitsPerDot, unitsPerDot);
     const int total = int(source.pages.size());
     for (int page = 0; page < total && !isCancelled(observer); ++page) {
         if (page > 0 && !writer.newPage())
             return QCoreApplication::translate("MvPdfExporter", "Seite %1 lässt sich nicht anlegen").arg(page + 1);
-        source.paintPage(painter, page, corner, scale);
+        recordPage(source, page, corner).replay(painter);
         if (observer)
             observer->pagesDone(page + 1, total);
     }
