@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCalendar/MvRenderingProbe.h"
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvPageSource.h"
 #include "MvTest.h"
@@ -18,6 +20,8 @@ private Q_SLOTS:
     void lacksLeapDay();
     void paintsTheMargins_data();
     void paintsTheMargins();
+    void littleWork_data();
+    void littleWork();
     void withoutSchemasThereIsNothing();
 
 private:
@@ -97,6 +101,48 @@ void tst_MvCalendarDocument::paintsTheMargins()
         }
     }
     QVERIFY(isPaintedInside);
+}
+
+void tst_MvCalendarDocument::littleWork_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<int>("passesPerPage"); // the line with the month is one of its own
+    QTest::newRow("weeks in rows") << u"MONTH_GRID_CLASSIC"_s << 1;
+    QTest::newRow("weeks in columns") << u"WEEK_COLUMNS"_s << 2;
+    QTest::newRow("days in rows") << u"FAMILY_PLANNER"_s << 2;
+}
+
+/// Painting must not grow by questions asked twice: a look at each date, a few fonts, one fit for all pages.
+void tst_MvCalendarDocument::littleWork()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const int, passesPerPage);
+    MvCalendarDocument calendar = document(u"NIGHT"_s);
+    calendar.setFormat(MvPageFormat::fromName(u"A4"_s));
+    calendar.setRange(MvDateRange(QDate(2027, 1, 1), QDate(2027, 12, 31)));
+    calendar.setHolidayConfig({MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 8 | 64)});
+    MvCalendariumAppearance appearance = calendar.appearance();
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
+    calendar.setAppearance(appearance);
+
+    MvRenderingProbe probe;
+    MvRenderingSources sources;
+    sources.probe = &probe;
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    for (int page = 0; page < 12; ++page)
+        calendar.paint(painter, page, sources);
+    QVERIFY2(probe.passes > 12 * passesPerPage && probe.passes <= 12 * passesPerPage + 12,
+             qPrintable(QString::number(probe.passes)));
+    const int days = 365 + 12 * (layout == u"WEEK_COLUMNS"_s ? 12 : 1); // a week before and after, or one look more
+    QVERIFY2(probe.holidayLookUps >= 365 && probe.holidayLookUps <= days,
+             qPrintable(QString::number(probe.holidayLookUps)));
+    QVERIFY2(probe.fonts <= 12 * 20, qPrintable(QString::number(probe.fonts)));
+
+    probe = {};
+    for (int page = 0; page < 12; ++page)
+        calendar.paint(painter, page, sources);
+    QCOMPARE(probe.passes, 12 * passesPerPage); // what fits is known
 }
 
 void tst_MvCalendarDocument::withoutSchemasThereIsNothing()

@@ -409,7 +409,7 @@ QSizeF MvCalendariumRenderer::minimumSizeWeekdays(bool shortNames, QPaintDevice 
 
 MvCalendariumWords MvCalendariumRenderer::words() const
 {
-    return MvCalendariumWords(language());
+    return MvCalendariumWords(language(), m_sources.language);
 }
 
 MvLocale MvCalendariumRenderer::language() const

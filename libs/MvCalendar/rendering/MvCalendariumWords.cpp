@@ -75,7 +75,8 @@ QString MvCalendariumWords::fromDate(const QDate &date, const QString &format) c
         return monthShort(date.month());
     if (format == longMonthFormat)
         return monthLong(date.month());
-    return MvApplicationLocale::instance().locale().toString(date, format);
+    const QLocale program = m_program.isValid() ? m_program.toQLocale() : MvApplicationLocale::instance().locale();
+    return program.toString(date, format);
 }
 
 QString MvCalendariumWords::month(int month, const MvCalendarRenderingInformation &information) const

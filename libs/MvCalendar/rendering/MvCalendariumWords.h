@@ -14,8 +14,10 @@ class MvCalendariumAppearance;
 class MVCALENDAR_EXPORT MvCalendariumWords
 {
 public:
-    explicit MvCalendariumWords(const MvLocale &language)
+    /// `program`: the language of what the page's own does not decide; where it is invalid, that of the application.
+    explicit MvCalendariumWords(const MvLocale &language, const MvLocale &program = {})
         : m_language(language)
+        , m_program(program)
     {}
 
     /// Day 1 is Monday, 7 Sunday.
@@ -33,7 +35,7 @@ public:
     QStringList columnHeadings(const MvCalendariumAppearance &appearance) const;
 
     /// The formats "ddd", "dddd", "MMM" and "MMMM" in the language of the page; every other format, also one that
-    /// contains these, in that of the application.
+    /// contains these, in that of the program.
     QString fromDate(const QDate &date, const QString &format) const;
 
     /// The month as its number, its short or its long name, by the month flags; long when there are none.
@@ -45,4 +47,5 @@ public:
 
 private:
     MvLocale m_language;
+    MvLocale m_program;
 };
