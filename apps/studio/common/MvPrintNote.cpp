@@ -31,13 +31,21 @@ QString MvPrintNote::toString() const
 
 QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int page)
 {
+    MvPageFindings found;
+    if (page >= 0 && page < document.pages().size() && document.isValid())
+        document.pages().at(page).record(document.format(), document.range(), {},
+                                         MvRenderingRule(MvRenderingRule::Print), 1.0, {}, &found);
+    return ofPage(document, page, found);
+}
+
+QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int page, const MvPageFindings &findings)
+{
     QList<MvPrintNote> notes;
     if (page < 0 || page >= document.pages().size())
         return notes;
-    for (const MvUnfittingText &text : document.unfittingTexts(page))
+    for (const MvUnfittingText &text : findings.unfitting)
         notes.append({page, text, {}});
-    for (const MvPrintedPhoto &photo :
-         MvPrintedPhoto::ofPage(document.pages().at(page), document.format(), document.range())) {
+    for (const MvPrintedPhoto &photo : MvPrintedPhoto::ofPage(document.pages().at(page), document.format(), findings)) {
         if (photo.grade() == MvFotoResolution::Grade::Poor)
             notes.append({page, {}, photo});
     }

@@ -8,6 +8,7 @@
 #include <QList>
 
 class MvCalendarDocument;
+struct MvPageFindings;
 
 /// Something that will not print well: a text without room or with characters that no font has, or a photo of too low
 /// resolution; never both.
@@ -28,6 +29,8 @@ public:
 
     /// Those of a page, texts first. GUI thread.
     static QList<MvPrintNote> ofPage(const MvCalendarDocument &document, int page);
+    /// The same of a page that has been painted or recorded already.
+    static QList<MvPrintNote> ofPage(const MvCalendarDocument &document, int page, const MvPageFindings &findings);
 
     bool operator==(const MvPrintNote &) const = default;
 };

@@ -15,6 +15,8 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -102,8 +104,8 @@ void MvExportFlow::run(const MvExportOptions &options)
 
 void MvExportFlow::finish(const MvExportResult &result)
 {
-    m_job->deleteLater();
-    m_job = nullptr;
+    MvExportJob *job = std::exchange(m_job, nullptr);
+    job->deleteLater();
     if (result.isCancelled) {
         Q_EMIT message(result.files.isEmpty()
                            ? tr("Export abgebrochen; nichts wurde geschrieben")
@@ -114,10 +116,10 @@ void MvExportFlow::finish(const MvExportResult &result)
         MvStudioMessage::error(m_window, tr("Der Kalender wurde nicht exportiert."), result.error);
         return;
     }
-    tellDone(result);
+    tellDone(result, printNotes(*job));
 }
 
-void MvExportFlow::tellDone(const MvExportResult &result)
+void MvExportFlow::tellDone(const MvExportResult &result, const QString &notes)
 {
     const QString folder = result.files.value(0).absolutePath();
     const QString what =
@@ -125,8 +127,7 @@ void MvExportFlow::tellDone(const MvExportResult &result)
             ? QDir::toNativeSeparators(result.files.first().absoluteFilePath())
             : tr("%n Dateien in %1", nullptr, int(result.files.size())).arg(QDir::toNativeSeparators(folder));
     Q_EMIT message(tr("Exportiert: %1").arg(what));
-    QMessageBox *box =
-        MvStudioMessage::information(m_window, tr("Der Kalender ist exportiert: %1").arg(what), printNotes());
+    QMessageBox *box = MvStudioMessage::information(m_window, tr("Der Kalender ist exportiert: %1").arg(what), notes);
     QPushButton *openFolder = box->addButton(tr("&Ordner öffnen"), QMessageBox::ActionRole);
     openFolder->setObjectName(u"openFolderButton"_s);
     connect(openFolder, &QPushButton::clicked, box,
@@ -134,12 +135,12 @@ void MvExportFlow::tellDone(const MvExportResult &result)
 }
 
 /// What will not print well, for a person; empty when all does.
-QString MvExportFlow::printNotes() const
+QString MvExportFlow::printNotes(const MvExportJob &job) const
 {
     QStringList texts;
     QStringList others;
     for (const int page : m_options.pages)
-        for (const MvPrintNote &note : MvPrintNote::ofPage(m_project->document(), page))
+        for (const MvPrintNote &note : MvPrintNote::ofPage(job.document(), page, job.findings(page)))
             (note.isAboutRoom() ? texts : others).append(note.toString());
     QStringList parts;
     if (!texts.isEmpty())

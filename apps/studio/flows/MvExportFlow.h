@@ -38,8 +38,8 @@ private:
     void warnAndRun(const MvExportOptions &options);
     void run(const MvExportOptions &options);
     void finish(const MvExportResult &result);
-    void tellDone(const MvExportResult &result);
-    QString printNotes() const;
+    void tellDone(const MvExportResult &result, const QString &notes);
+    QString printNotes(const MvExportJob &job) const;
 
     MvProject *m_project;
     QWidget *m_window;

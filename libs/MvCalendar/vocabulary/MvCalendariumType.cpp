@@ -59,8 +59,8 @@ void MvCalendariumType::fillTable(Table *table) const
 const MvCalendariumTraits &MvCalendariumType::traits() const
 {
     static const MvCalendariumTraits none;
-    const auto kind = std::find_if(kinds.begin(), kinds.end(), [this](const Kind &kind) { return *this == kind.type; });
-    return kind == kinds.end() ? none : kind->traits;
+    const auto row = std::find_if(kinds.begin(), kinds.end(), [this](const Kind &kind) { return *this == kind.type; });
+    return row == kinds.end() ? none : row->traits;
 }
 
 void MvCalendariumType::fromXML(const QDomElement &element)

@@ -89,8 +89,10 @@ void MvExportJob::recordPage(int number)
     const MvCalendarPage &page = m_document.pages()[m_pages[number]];
     {
         const MvFotoStock::Use use(*m_entryPhotos, number);
-        const MvPaintRecording recording = page.record(m_document.format(), m_document.range(), {},
-                                                       MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit);
+        MvPageFindings &found = m_findings[m_pages[number]];
+        const MvPaintRecording recording =
+            page.record(m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print),
+                        pixelsPerUnit, {}, &found);
         if (!use.isComplete())
             return; // called again when they have been decoded
         m_feed->put(number, recording);

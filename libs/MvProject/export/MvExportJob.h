@@ -6,6 +6,7 @@
 #include "MvProject/MvExportTarget.h"
 #include "MvProject/mvproject_export.h"
 
+#include <QHash>
 #include <QObject>
 
 #include <functional>
@@ -46,6 +47,10 @@ public:
     void cancel();
     bool isRunning() const { return m_thread != nullptr; }
 
+    const MvCalendarDocument &document() const { return m_document; }
+    /// What was found when a page, counted from 0 in the document, was recorded; nothing before that.
+    MvPageFindings findings(int page) const { return m_findings.value(page); }
+
 Q_SIGNALS:
     /// So many pages of the total are done; first with none.
     void progress(int done, int total);
@@ -59,6 +64,7 @@ private:
     const Writer m_write;
     const int m_dpi;
     QList<int> m_pages;
+    QHash<int, MvPageFindings> m_findings;
     std::shared_ptr<MvExportFeed> m_feed;
     MvFotoStock *m_entryPhotos;
     std::unique_ptr<QThread> m_thread; // while running
