@@ -92,10 +92,13 @@ const QFont &MvCellStyles::font(const MvCalendarCellType &type) const
 
 const QFont &MvCellStyles::fontHolidays(const MvCalendarCellType &type) const
 {
-    if (m_fontScale == 1.0)
+    // where larger numbers than the layout's become smaller again, texts stay as they are
+    const double enlarged = 1.0 + 0.01 * std::max(0, m_appearance.fontSettings().fontSizePercentage());
+    const double scale = std::min(1.0, m_fontScale * enlarged);
+    if (scale == 1.0)
         return fontHolidaysOnPaper(type);
     return once(style(type).fontHolidays,
-                [&] { return scaled(fontHolidaysOnPaper(type), m_fontScale, floorOfType(fontHolidaysOnPaper(type))); });
+                [&] { return scaled(fontHolidaysOnPaper(type), scale, floorOfType(fontHolidaysOnPaper(type))); });
 }
 
 const QFontMetrics &MvCellStyles::fontMetrics(const MvCalendarCellType &type) const
