@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRenderCommand.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCliValues.h"
@@ -133,7 +132,7 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     if (!entries.error().isEmpty())
         return failed(entries.error());
     entries.printHints(streams.hints);
-    printHints(document, values.has(u"vacations"_s), hints.stream());
+    printHints(document, entries, values.has(u"vacations"_s), hints.stream());
     return write(document, entries, arguments, dpi, {streams.out, hints.stream()});
 }
 
@@ -149,7 +148,8 @@ MvCliCommand::Result MvRenderCommand::checkTargets(const QStringList &paths, con
     return {};
 }
 
-void MvRenderCommand::printHints(const MvCalendarDocument &document, bool areVacationsAsked, QTextStream &hints)
+void MvRenderCommand::printHints(const MvCalendarDocument &document, const MvRenderEntries &entries,
+                                 bool areVacationsAsked, QTextStream &hints)
 {
     hintAtMissingFonts(document.appearance(), hints);
     if (areVacationsAsked)
@@ -157,16 +157,18 @@ void MvRenderCommand::printHints(const MvCalendarDocument &document, bool areVac
     else
         MvVacationHint::print(document.holidayConfig(), document.range().end(), hints);
     if (document.lacksLeapDay())
-        hintAtLeapDayEntries(hints);
+        hintAtLeapDayEntries(entries, hints);
 }
 
 MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, const MvRenderEntries &entries,
                                             const MvCliArguments &arguments, int dpi, const Streams &streams)
 {
     const bool isReported = arguments.has(u"report"_s);
-    MvRenderReport report(document);
+    MvRenderingSources sources;
+    sources.entries = entries.source();
+    MvRenderReport report(document, sources);
     const MvPageSource pages = document.pageSource(
-        {}, [&report](int page, const MvPageFindings &findings) { report.addPage(page, findings); });
+        sources, [&report](int page, const MvPageFindings &findings) { report.addPage(page, findings); });
     report.setSkippedEntries(entries.file(), entries.skipped());
     for (const QString &path : arguments.values(u"output"_s)) {
         const MvExportResult result = targetOf(path).write(pages, dpi);
@@ -335,10 +337,10 @@ void MvRenderCommand::hintAtMissingFonts(const MvCalendariumAppearance &appearan
 }
 
 // an entry of 29 February is printed in leap years alone; nobody should miss a birthday without knowing
-void MvRenderCommand::hintAtLeapDayEntries(QTextStream &hints)
+void MvRenderCommand::hintAtLeapDayEntries(const MvRenderEntries &entries, QTextStream &hints)
 {
     QStringList names;
-    for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList()) {
+    for (const MvCalendarEvent &event : entries.list()) {
         const QDate date = event.dateTime().date();
         if (date.month() == 2 && date.day() == 29)
             names.append(event.description());

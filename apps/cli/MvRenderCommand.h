@@ -37,7 +37,8 @@ private:
     /// Loads the entries that were asked for and has the pages show them.
     static MvRenderEntries takeEntries(const MvCliValues &values, MvCalendarDocument &document);
     /// What a person should know before printing.
-    static void printHints(const MvCalendarDocument &document, bool areVacationsAsked, QTextStream &hints);
-    static void hintAtLeapDayEntries(QTextStream &hints);
+    static void printHints(const MvCalendarDocument &document, const MvRenderEntries &entries, bool areVacationsAsked,
+                           QTextStream &hints);
+    static void hintAtLeapDayEntries(const MvRenderEntries &entries, QTextStream &hints);
     static void hintAtMissingFonts(const MvCalendariumAppearance &appearance, QTextStream &hints);
 };

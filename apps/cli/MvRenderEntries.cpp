@@ -16,21 +16,21 @@ constexpr int mostHints = 20;
 
 MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
 {
-    MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
     MvRenderEntries entries;
     entries.m_file = file;
     entries.m_isFile = true;
     entries.m_error = content.refusal();
     entries.m_skipped = content.skipped;
-    // loading an empty list would leave the user's own entries in place; with the flag set, the file's entries replace
-    // the list, and nothing is saved
-    if (!entries.m_error.isEmpty() || content.events.isEmpty())
-        return entries;
-    content = {}; // the memory for reading them once more
-    entries.m_areShown = MvCalendarEventRegistry::instance().loadFrom(file, true);
-    if (!entries.m_areShown)
-        entries.m_error = tr("%1 konnte nicht gelesen werden.").arg(QDir::toNativeSeparators(file.filePath()));
+    entries.m_areShown = entries.m_error.isEmpty() && !content.events.isEmpty();
+    if (entries.m_areShown)
+        entries.m_source = std::make_shared<const MvCalendarEventListSource>(content.events);
     return entries;
+}
+
+MvCalendarEventList MvRenderEntries::list() const
+{
+    return m_source ? m_source->events() : MvCalendarEventRegistry::instance().activeEventList();
 }
 
 MvRenderEntries MvRenderEntries::own()

@@ -2,11 +2,14 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventListSource.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QString>
 #include <QTextStream>
+
+#include <memory>
 
 /// The personal entries of a calendar that is printed: where they come from, and what of their file is left out.
 class MvRenderEntries
@@ -14,7 +17,7 @@ class MvRenderEntries
     Q_DECLARE_TR_FUNCTIONS(MvRenderEntries)
 
 public:
-    /// Those of a file become the list that is printed; nothing is stored.
+    /// Those of a file; nothing is stored, and the user's own ones stay as they are.
     static MvRenderEntries ofFile(const QFileInfo &file);
     /// The user's own ones, which the program has read.
     static MvRenderEntries own();
@@ -23,6 +26,9 @@ public:
     const QString &error() const { return m_error; }
     bool areShown() const { return m_areShown; }
     const QFileInfo &file() const { return m_file; }
+    /// The entries of the file, for painting; null for the user's own ones. Owned here and by copies.
+    const MvCalendarEventSource *source() const { return m_source.get(); }
+    MvCalendarEventList list() const;
     const QList<MvCalendarEventFile::Skipped> &skipped() const { return m_skipped; }
 
     /// Lines for a person: what was left out, and that there is nothing else.
@@ -33,5 +39,6 @@ private:
     QString m_error;
     bool m_areShown = false;
     bool m_isFile = false; // named by the call
+    std::shared_ptr<const MvCalendarEventListSource> m_source;
     QList<MvCalendarEventFile::Skipped> m_skipped;
 };

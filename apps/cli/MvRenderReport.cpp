@@ -62,16 +62,17 @@ QJsonObject photoObject(int page, const MvPrintedPhoto &photo)
 
 } // namespace
 
-MvRenderReport::MvRenderReport(const MvCalendarDocument &document)
+MvRenderReport::MvRenderReport(const MvCalendarDocument &document, const MvRenderingSources &sources)
     : m_document(document)
+    , m_sources(sources)
     , m_missingPhotos(document.missingPhotos())
 {}
 
 void MvRenderReport::addPage(int page, const MvPageFindings &findings)
 {
     if (!m_pages.contains(page))
-        m_pages.insert(page, {findings.unfitting,
-                              MvPrintedPhoto::ofPage(m_document.pages()[page], m_document.format(), findings)});
+        m_pages.insert(page, {findings.unfitting, MvPrintedPhoto::ofPage(m_document.pages()[page], m_document.format(),
+                                                                         findings, m_sources)});
 }
 
 void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped)

@@ -19,7 +19,8 @@ class MvRenderReport
     Q_DECLARE_TR_FUNCTIONS(MvRenderReport)
 
 public:
-    explicit MvRenderReport(const MvCalendarDocument &document);
+    /// What the sources point to must outlive the report.
+    explicit MvRenderReport(const MvCalendarDocument &document, const MvRenderingSources &sources = {});
 
     /// What was found when the page, counted from 0, was painted. A page may be painted for several files.
     void addPage(int page, const MvPageFindings &findings);
@@ -46,6 +47,7 @@ private:
     void printPhotoHints(QTextStream &hints) const;
 
     const MvCalendarDocument m_document;
+    const MvRenderingSources m_sources;
     QMap<int, Page> m_pages; // by number, from 0
     QStringList m_missingPhotos;
     QStringList m_files;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumCellPainter.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvDayTextPlacement.h"
@@ -392,7 +392,7 @@ void MvCalendariumCellPainter::drawPhoto(const QDate &date, const QRectF &rect, 
     m_renderer.reportFoto(date, rect);
     if (!MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::ShowQualityWarnings))
         return; // the size of its file need not be known
-    const QSize full = MvCalendarEventRegistry::instance().imageFile(m_renderer.contentFor(date)).size;
+    const QSize full = m_renderer.sources().entriesOrDefault().imageFile(m_renderer.contentFor(date)).size;
     MvFotoResolution::paintWarning(m_painter, rect, MvFotoResolution::pixelsPerInch(full, rect.size()));
 }
 
@@ -402,7 +402,9 @@ QImage MvCalendariumCellPainter::pictureWithin(const QDate &date, const QSizeF &
     if (!(wanted.width() >= 1.0 && wanted.height() >= 1.0))
         return {};
     const double tooMany = std::max({1.0, wanted.width() / mostPixels, wanted.height() / mostPixels});
-    return MvCalendarEventRegistry::instance().eventImage(m_renderer.contentFor(date), (wanted / tooMany).toSize());
+    const MvRenderingSources &sources = m_renderer.sources();
+    return sources.entriesOrDefault().eventImage(m_renderer.contentFor(date), (wanted / tooMany).toSize(),
+                                                 sources.fotosOrDefault());
 }
 
 void MvCalendariumCellPainter::drawQualityWarning(const QRectF &rect)

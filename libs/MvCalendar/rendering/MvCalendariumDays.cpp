@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumDays.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvRenderingProbe.h"
@@ -154,7 +154,7 @@ QStringList MvCalendariumDays::officialTexts(const QDate &date) const
 QStringList MvCalendariumDays::personalTexts(const QDate &date) const
 {
     return MvPrintableText::onOneLineEach(
-        MvCalendarEventRegistry::instance().descriptions(m_renderer.contentFor(date)));
+        m_renderer.sources().entriesOrDefault().descriptions(m_renderer.contentFor(date)));
 }
 
 QStringList MvCalendariumDays::texts(const QDate &date) const

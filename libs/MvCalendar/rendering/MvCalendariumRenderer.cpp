@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumRenderer.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumDays.h"
 #include "MvCalendar/MvCellMeasures.h"
@@ -579,7 +579,10 @@ bool MvCalendariumRenderer::drawCellHolidayPicture(QPainter &painter, const QDat
 
 QImage MvCalendariumRenderer::holidayPicture(const QDate &date) const
 {
-    return MvCalendarEventRegistry::instance().eventImage(contentFor(date));
+    const MvCalendariumContentKey key = contentFor(date);
+    const MvCalendarEventSource &entries = m_sources.entriesOrDefault();
+    const QSize full = entries.imageFile(key).size;
+    return full.isEmpty() ? QImage() : entries.eventImage(key, full, m_sources.fotosOrDefault());
 }
 
 void MvCalendariumRenderer::reportUnfitting(const QDate &date, const QString &text, const QRectF &rect)

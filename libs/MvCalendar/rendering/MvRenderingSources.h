@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/mvcalendar_export.h"
 #include "MvCore/MvLocale.h"
 
 class MvCalendarEventSource;
@@ -11,11 +12,14 @@ struct MvRenderingProbe;
 /// nothing below asks a global, so that the same page with the same sources is always the same picture.
 ///
 /// What is not given is that of the default session. What is given must outlive the painting.
-struct MvRenderingSources
+struct MVCALENDAR_EXPORT MvRenderingSources
 {
     const MvCalendarEventSource *entries = nullptr; ///< the personal entries of a day
     MvFotoSource *fotos = nullptr;                  ///< the pixels of photos
     /// Of dates whose form the page's own language does not decide: the program's, where it is invalid.
     MvLocale language;
     MvRenderingProbe *probe = nullptr; ///< counts the work, for tests and benchmarks
+
+    const MvCalendarEventSource &entriesOrDefault() const;
+    MvFotoSource &fotosOrDefault() const;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvCalendarPage.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvPaint/MvPaintRecorder.h"
@@ -76,7 +76,7 @@ MvDateRange MvCalendarPage::printedMonths() const
 
 MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
 {
-    const auto asking = renderer(m_appearance, {});
+    const auto asking = renderer(m_appearance, {}, {});
     const auto areShownWhen = [this, &asking](bool asked) {
         MvCalendariumHolidayConfig holidays = m_content.holidayConfig();
         holidays.setFeature(FEATURE_CALENDAR_WEEKS, asked);
@@ -171,16 +171,14 @@ MvPageFindings MvCalendarPage::paintCalendarium(QPainter &painter, const MvPageF
         MvCalendariumFit::shared(m_appearance, m_content, format.magnitude(), rect.size(), pass.sources);
     MvPageFindings found;
     if (fit.lineHeight() > 0.0) {
-        const auto line = renderer(fit.lineAppearance(), documentRange);
+        const auto line = renderer(fit.lineAppearance(), documentRange, pass.sources);
         fit.apply(*line);
-        line->setSources(pass.sources);
         line->render(painter, {rect.left(), rect.top(), rect.width(), fit.lineHeight()});
         found.unfitting = line->unfittingTexts();
         rect.setTop(rect.top() + fit.lineHeight());
     }
-    const auto calendarium = renderer(m_appearance, documentRange);
+    const auto calendarium = renderer(m_appearance, documentRange, pass.sources);
     fit.apply(*calendarium);
-    calendarium->setSources(pass.sources);
     calendarium->setPixelsPerUnit(pass.pixelsPerUnit);
     if (pass.prepare)
         pass.prepare(*calendarium);
@@ -191,7 +189,8 @@ MvPageFindings MvCalendarPage::paintCalendarium(QPainter &painter, const MvPageF
 }
 
 std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendariumAppearance &appearance,
-                                                                const MvDateRange &documentRange) const
+                                                                const MvDateRange &documentRange,
+                                                                const MvRenderingSources &sources) const
 {
     std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
     const MvCalendariumContentConfig content = m_content.moveToDayInMonth(1);
@@ -207,6 +206,7 @@ std::unique_ptr<MvCalendariumRenderer> MvCalendarPage::renderer(const MvCalendar
         made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()), documentRange);
         break;
     }
-    made->setModelInfo(MvCalendarEventRegistry::instance().activeModelId());
+    made->setSources(sources);
+    made->setModelInfo(sources.entriesOrDefault().project());
     return made;
 }

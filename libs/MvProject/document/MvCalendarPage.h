@@ -102,7 +102,8 @@ private:
     MvPageFindings paintCalendarium(QPainter &painter, const MvPageFormat &format, const MvDateRange &documentRange,
                                     const Pass &pass) const;
     std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
-                                                    const MvDateRange &documentRange) const;
+                                                    const MvDateRange &documentRange,
+                                                    const MvRenderingSources &sources) const;
 
     MvCalendariumAppearance m_appearance;
     MvCalendariumContentConfig m_content;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPrintedPhoto.h"
 
-#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventSource.h"
 #include "MvFoto/MvFotoAccess.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
 #include "MvProject/MvCalendarPage.h"
@@ -19,26 +19,18 @@ MvPrintedPhoto ownPhoto(const MvPhotoFrame &frame, const MvPageFormat &format)
     return {frame.path(), {}, rect, MvFotoResolution::pixelsPerInch(seen, rect.size())};
 }
 
-bool anyEntryHasPhoto()
-{
-    const MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
-    return std::any_of(events.begin(), events.end(),
-                       [](const MvCalendarEvent &event) { return event.foto().isValid(); });
-}
-
 } // namespace
 
 QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                             const MvDateRange &documentRange)
+                                             const MvDateRange &documentRange, const MvRenderingSources &sources)
 {
     MvPageFindings found;
-    if (anyEntryHasPhoto()) // else the page need not be recorded
-        page.record(format, documentRange, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, {}, &found);
-    return ofPage(page, format, found);
+    page.record(format, documentRange, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
+    return ofPage(page, format, found, sources);
 }
 
 QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                             const MvPageFindings &findings)
+                                             const MvPageFindings &findings, const MvRenderingSources &sources)
 {
     QList<MvPrintedPhoto> photos;
     if (page.photoFrame().isValid())
@@ -46,9 +38,9 @@ QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const M
     QList<MvPaintedFoto> painted = findings.fotos;
     std::sort(painted.begin(), painted.end(),
               [](const MvPaintedFoto &a, const MvPaintedFoto &b) { return a.date < b.date; });
-    const MvCalendarEventRegistry &entries = MvCalendarEventRegistry::instance();
+    const MvCalendarEventSource &entries = sources.entriesOrDefault();
     for (const MvPaintedFoto &foto : std::as_const(painted)) {
-        const MvCalendariumContentKey key(page.contentConfig().moveToDay(foto.date), entries.activeModelId());
+        const MvCalendariumContentKey key(page.contentConfig().moveToDay(foto.date), entries.project());
         const MvImageReference file = entries.imageFile(key);
         photos.append({file.path, foto.date, foto.rect, MvFotoResolution::pixelsPerInch(file.size, foto.rect.size())});
     }

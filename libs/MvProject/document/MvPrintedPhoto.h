@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvFoto/MvFotoResolution.h"
 #include "MvProject/mvproject_export.h"
 
@@ -28,8 +29,8 @@ struct MVPROJECT_EXPORT MvPrintedPhoto
 
     /// The photos of a page whose files can be read: its own first, then those of days by date. GUI thread.
     static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                        const MvDateRange &documentRange);
+                                        const MvDateRange &documentRange, const MvRenderingSources &sources = {});
     /// The same of a page that has been painted or recorded already, by what was found then.
     static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                        const MvPageFindings &findings);
+                                        const MvPageFindings &findings, const MvRenderingSources &sources = {});
 };
