@@ -71,8 +71,9 @@ MvRenderReport::MvRenderReport(const MvCalendarDocument &document, const MvRende
 void MvRenderReport::addPage(int page, const MvPageFindings &findings)
 {
     if (!m_pages.contains(page))
-        m_pages.insert(page, {findings.unfitting, MvPrintedPhoto::ofPage(m_document.pages()[page], m_document.format(),
-                                                                         findings, m_sources)});
+        m_pages.insert(
+            page, {findings.unfitting,
+                   MvPrintedPhoto::ofPaintedPage(m_document.pages()[page], m_document.format(), findings, m_sources)});
 }
 
 void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped)

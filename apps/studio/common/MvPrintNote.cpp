@@ -45,7 +45,8 @@ QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int p
         return notes;
     for (const MvUnfittingText &text : findings.unfitting)
         notes.append({page, text, {}});
-    for (const MvPrintedPhoto &photo : MvPrintedPhoto::ofPage(document.pages().at(page), document.format(), findings)) {
+    for (const MvPrintedPhoto &photo :
+         MvPrintedPhoto::ofPaintedPage(document.pages().at(page), document.format(), findings)) {
         if (photo.grade() == MvFotoResolution::Grade::Poor)
             notes.append({page, {}, photo});
     }

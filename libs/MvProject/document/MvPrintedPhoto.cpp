@@ -26,11 +26,11 @@ QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const M
 {
     MvPageFindings found;
     page.record(format, documentRange, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
-    return ofPage(page, format, found, sources);
+    return ofPaintedPage(page, format, found, sources);
 }
 
-QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                             const MvPageFindings &findings, const MvRenderingSources &sources)
+QList<MvPrintedPhoto> MvPrintedPhoto::ofPaintedPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                                    const MvPageFindings &findings, const MvRenderingSources &sources)
 {
     QList<MvPrintedPhoto> photos;
     if (page.photoFrame().isValid())

@@ -31,6 +31,6 @@ struct MVPROJECT_EXPORT MvPrintedPhoto
     static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
                                         const MvDateRange &documentRange, const MvRenderingSources &sources = {});
     /// The same of a page that has been painted or recorded already, by what was found then.
-    static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                        const MvPageFindings &findings, const MvRenderingSources &sources = {});
+    static QList<MvPrintedPhoto> ofPaintedPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                               const MvPageFindings &findings, const MvRenderingSources &sources = {});
 };
