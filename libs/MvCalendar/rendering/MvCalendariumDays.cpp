@@ -51,7 +51,10 @@ const MvCalendariumDay &MvCalendariumDays::known(const QDate &date) const
 
 MvCalendariumDay MvCalendariumDays::look(const QDate &date) const
 {
-    const MvCalendariumHolidayList holidays = lookUp(m_renderer.contentFor(date).config());
+    const MvCalendariumContentConfig day = m_renderer.contentFor(date).config();
+    const bool hasHolidays = day.hasFeatures(FEATURE_HOLIDAYS) || day.hasFeatures(FEATURE_HOLIDAY_COLORS) ||
+                             day.hasFeatures(FEATURE_SCHOOL_VACATIONS);
+    const MvCalendariumHolidayList holidays = hasHolidays ? lookUp(day) : MvCalendariumHolidayList();
     return {date,
             holidays,
             {headTypeOf(date, holidays, FEATURE_HOLIDAYS), headTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},

@@ -17,8 +17,8 @@ class MvCalendariumRenderer;
 
 /// What days are on a renderer's page: holiday, vacation or plain, and what their cells say.
 ///
-/// While a pass runs each date is looked up once. Between passes, when holidays and entries may change, every question
-/// is answered anew.
+/// While a pass runs each date is looked up once, and not at all where the page shows nothing of holidays. Between
+/// passes, when holidays and entries may change, every question is answered anew.
 class MvCalendariumDays
 {
 public:
