@@ -282,20 +282,23 @@
         <source>Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „%1“ statt mit „%2“.</source>
         <translation>This is no list of calendar entries; the file begins with “%1” instead of “%2”.</translation>
     </message>
-    <message>
-        <source>Zeile %1: %2</source>
-        <translation>Line %1: %2</translation>
-    </message>
-    <message>
-        <source>Zeile %1, „%2“: %3</source>
-        <translation>Line %1, “%2”: %3</translation>
-    </message>
     <message numerus="yes">
         <source>… und %n weitere</source>
         <translation>
             <numerusform>… and %n more</numerusform>
             <numerusform>… and %n more</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventFile::Skipped</name>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation type="unfinished">Line %1: %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1, „%2“: %3</source>
+        <translation type="unfinished">Line %1, “%2”: %3</translation>
     </message>
 </context>
 <context>
@@ -3131,10 +3134,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>%1: keine Einträge gefunden</source>
         <translation>%1: no entries found</translation>
-    </message>
-    <message>
-        <source>%1 konnte nicht gelesen werden.</source>
-        <translation>%1 could not be read.</translation>
     </message>
 </context>
 <context>
