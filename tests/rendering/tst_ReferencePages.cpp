@@ -80,8 +80,21 @@ void write(const QString &path, const QString &text)
         qFatal("cannot write %s", qPrintable(path));
 }
 
+/// The lines, and behind each rectangle of a fill its colour.
+QStringList withFills(QStringList lines)
+{
+    QString fill;
+    for (QString &line : lines) {
+        if (line.startsWith(u"    "_s))
+            line += fill;
+        else
+            fill = line.mid(line.indexOf(u" fill "_s));
+    }
+    return lines;
+}
+
 /// The lines of one that the other lacks, with their numbers; each counts as often as it is there.
-QStringList missingIn(const QStringList &lines, QStringList other)
+QStringList missingIn(const QStringList &lines, const QStringList &other)
 {
     QStringList missing;
     QHash<QString, int> rest;
@@ -89,12 +102,12 @@ QStringList missingIn(const QStringList &lines, QStringList other)
         ++rest[line];
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (rest[lines.at(i)]-- <= 0)
-            missing.append(u"%1: %2"_s.arg(i + 1).arg(lines.at(i)));
+            missing.append(u"%1: %2"_s.arg(i + 1).arg(lines.at(i).trimmed()));
     }
     return missing;
 }
 
-/// What a person needs to see the difference: by page, its first items with their lines in the files.
+/// What a person needs to see the difference: by page, its first items with their lines in it.
 QString difference(const QStringList &expected, const QStringList &actual)
 {
     const auto page = [](const QStringList &lines, const QString &title) {
@@ -102,7 +115,7 @@ QString difference(const QStringList &expected, const QStringList &actual)
         qsizetype end = first + 1;
         while (end < lines.size() && !lines.at(end).startsWith(heading))
             ++end;
-        return first < 0 ? QStringList() : lines.mid(first, end - first);
+        return first < 0 ? QStringList() : withFills(lines.mid(first, end - first));
     };
     const auto some = [](const QString &what, const QStringList &lines) {
         QString text = lines.isEmpty() ? QString() : u"    %1 (%2):\n"_s.arg(what).arg(lines.size());
