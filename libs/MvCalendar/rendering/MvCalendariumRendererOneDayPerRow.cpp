@@ -19,6 +19,7 @@ namespace {
 constexpr int mostColumns = 10;
 constexpr int mostDays = 31;
 constexpr int minimumColumnWidth = 20;
+constexpr double leastColumns = 2.0; // that names of weekdays leave to all columns together, however narrow the page
 constexpr double widestSheet = 1e5;
 // parts of the width that weeks, numbers and names of weekdays may take
 constexpr double widestLeftHeader = 0.6;
@@ -156,7 +157,8 @@ double MvCalendariumRendererOneDayPerRow::widthOfCell(const QRectF &rect, const 
     if (type == CALENDAR_CELL_TYPE_WEEK_OF_YEAR)
         return planedWeekOfYearWidth();
     if (dayHeadCellTypes(true).contains(type))
-        return headWidth(hasShortNames(rect));
+        return std::max(0.0, std::min(headWidth(hasShortNames(rect)),
+                                      rect.width() - planedWeekOfYearWidth() - planedNormalCellWidth() - leastColumns));
     return dayCellTypes().contains(type) ? planedNormalCellWidth() : 0.0;
 }
 
