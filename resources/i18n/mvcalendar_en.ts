@@ -282,23 +282,20 @@
         <source>Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „%1“ statt mit „%2“.</source>
         <translation>This is no list of calendar entries; the file begins with “%1” instead of “%2”.</translation>
     </message>
+    <message>
+        <source>Zeile %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message>
+        <source>Zeile %1, „%2“: %3</source>
+        <translation>Line %1, “%2”: %3</translation>
+    </message>
     <message numerus="yes">
         <source>… und %n weitere</source>
         <translation>
             <numerusform>… and %n more</numerusform>
             <numerusform>… and %n more</numerusform>
         </translation>
-    </message>
-</context>
-<context>
-    <name>MvCalendarEventFile::Skipped</name>
-    <message>
-        <source>Zeile %1: %2</source>
-        <translation type="unfinished">Line %1: %2</translation>
-    </message>
-    <message>
-        <source>Zeile %1, „%2“: %3</source>
-        <translation type="unfinished">Line %1, “%2”: %3</translation>
     </message>
 </context>
 <context>
