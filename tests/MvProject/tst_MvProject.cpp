@@ -232,9 +232,24 @@ void tst_MvProject::twoProjectsAtATime()
         const QString names = entries.descriptions(key).join(u", "_s);
         return text == names ? names : u"artwork shows "_s + text;
     };
-    first.newProject(document(u"MONTH_GRID_CLASSIC"_s, 2));
-    second.newProject(document(u"YEAR_GRID"_s, 12));
+    const auto painted = [](const MvProject &project) {
+        MvRenderingSources sources;
+        sources.entries = &project.session().entries();
+        const MvCalendarDocument &calendar = project.document();
+        return calendar.pages()
+            .constLast()
+            .record(calendar.format(), calendar.range(), {}, MvRenderingRule(MvRenderingRule::Print), 1.0, sources)
+            .describe();
+    };
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
+    MvCalendariumHolidayConfig config = calendar.holidayConfig();
+    config.setFeature(MvCalendariumFeatures(FEATURE_ENTRIES), true);
+    calendar.setHolidayConfig(config);
+    first.newProject(calendar);
+    second.newProject(calendar);
     const MvCalendarDocument before = first.document();
+    const QString empty = painted(first);
+    QCOMPARE(painted(second), empty);
     MvCalendarDocument titled = before;
     titled.setTitle(u"Familie"_s);
     first.change(titled, u"title"_s);
@@ -243,11 +258,15 @@ void tst_MvProject::twoProjectsAtATime()
     add(second.session(), u"Tim"_s);
     QCOMPARE(shown(first.session()), u"Oma"_s);
     QCOMPARE(shown(second.session()), u"Opa, Tim"_s);
+    const QString two = painted(second);
+    QVERIFY(painted(first) != empty && two != empty && painted(first) != two);
 
     first.session().undo().undo();
     first.session().undo().undo();
     QCOMPARE(first.document(), before);
     QCOMPARE(shown(first.session()), QString());
+    QCOMPARE(painted(first), empty);
+    QCOMPARE(painted(second), two);
     QCOMPARE(shown(second.session()), u"Opa, Tim"_s);
 
     first.newProject(document(u"DAY_LIST"_s, 1)); // gives up its own steps alone
