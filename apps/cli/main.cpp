@@ -3,6 +3,7 @@
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvOutOfMemory.h"
 #include "MvCore/MvTranslations.h"
+#include "MvFoto/MvImageLoader.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -39,6 +40,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(QStringLiteral(MV_VERSION));
     MvTranslations::install(MvTranslations::systemLanguage());
     MvOutOfMemory::install(QCoreApplication::applicationName(), MvCliCommand::Failed);
+    MvImageLoader::raiseProcessLimit();
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
 
     QFile standardOutput;

@@ -7,6 +7,7 @@
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvTranslations.h"
 #include "MvCore/MvUndoController.h"
+#include "MvFoto/MvImageLoader.h"
 #include "MvFoto/MvPictureIntake.h"
 #include "MvGUIWidgets/MvDialogRequestHandler.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
@@ -72,6 +73,7 @@ void MvStudioApplication::setUpProcess(const QString &version)
     QCoreApplication::setApplicationVersion(version);
     QGuiApplication::setDesktopFileName(u"mvcalendar-studio"_s);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    MvImageLoader::raiseProcessLimit();
 }
 
 void MvStudioApplication::setUpLanguage(const MvStudioOptions &options)

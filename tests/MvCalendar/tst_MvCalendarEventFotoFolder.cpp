@@ -7,9 +7,9 @@
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvUndoController.h"
+#include "MvFoto/MvFotoService.h"
 
 #include <QTemporaryDir>
-#include <QThreadPool>
 
 #include <optional>
 
@@ -212,7 +212,7 @@ void tst_MvCalendarEventFotoFolder::sweepsInNoDoubt()
     registry.sweepFotos();
     if (doubt == u"changed meanwhile"_qs)
         undoable();
-    QThreadPool::globalInstance()->waitForDone();
+    MvFotoService::instance().stop();
     QCoreApplication::processEvents();
     QCOMPARE(fotos().isEmpty(), doubt == u"none"_qs);
 }

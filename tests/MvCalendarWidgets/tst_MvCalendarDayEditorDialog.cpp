@@ -8,6 +8,7 @@
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
+#include "MvFoto/MvFotoService.h"
 
 using MvEntries::entry;
 
@@ -454,7 +455,7 @@ void tst_MvCalendarDayEditorDialog::largeFotosArriveLater()
 
     setLarge();
     dialog.removePhoto(); // before it arrives
-    QThreadPool::globalInstance()->waitForDone();
+    MvFotoService::instance().stop();
     QTest::qWait(20);
     QVERIFY(!dialog.hasPhoto());
     setLarge();

@@ -13,7 +13,6 @@
 #include "MvCore/MvProactiveHelpController.h"
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
-#include "MvFoto/MvFotoThumbnails.h"
 #include "MvGUIWidgets/MvTableView.h"
 
 using MvEntries::entry;
@@ -89,7 +88,6 @@ private Q_SLOTS:
     void buttonsUnderTheMouse();
     void fotoButtons();
     void keysAlone();
-    void thumbnailsFillTheirCell();
 
 private:
     static MvCalendarEventRegistry &registry() { return MvCalendarEventRegistry::instance(); }
@@ -519,22 +517,6 @@ void tst_MvCalendarEventListWidget::keysAlone()
     QTest::keyClick(list.focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
     QVERIFY(view->hasFocus());
     QCOMPARE(cursor(), QPoint(3, 1));
-}
-
-void tst_MvCalendarEventListWidget::thumbnailsFillTheirCell()
-{
-    MvFotoThumbnails thumbnails;
-    QSignalSpy ready(&thumbnails, &MvFotoThumbnails::ready);
-    const MvFoto foto(QFileInfo(path(u"foto.png"_qs)));
-    QVERIFY(thumbnails.cropped(foto, {50, 50}, 2).isNull()); // not decoded here
-    QTRY_COMPARE(ready.count(), 1);
-    const QPixmap pixmap = thumbnails.cropped(foto, {50, 50}, 2);
-    QCOMPARE(pixmap.size(), QSize(100, 100));
-    QCOMPARE(pixmap.devicePixelRatio(), 2.0);
-    for (const QPoint &point : {QPoint(3, 3), QPoint(50, 50), QPoint(96, 96)}) // the middle of the photo
-        QCOMPARE(pixmap.toImage().pixelColor(point), QColor(Qt::red));
-    QVERIFY(thumbnails.cropped(MvFoto(QFileInfo(path(u"fehlt.png"_qs))), {50, 50}, 1).isNull());
-    QVERIFY(thumbnails.cropped(MvFoto(), {50, 50}, 1).isNull());
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvCalendarEventListWidget)

@@ -3,9 +3,7 @@
 
 #include "MvFoto/MvFoto.h"
 #include "MvFoto/MvFotoAccess.h"
-#include "MvFoto/MvFotoStock.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 
 class tst_MvFoto : public MvTest
@@ -19,7 +17,6 @@ private Q_SLOTS:
     void mediumResolution_data();
     void mediumResolution();
     void forbiddenPhotosStayClosed();
-    void stock();
 };
 
 void tst_MvFoto::namesOfCopies_data()
@@ -108,54 +105,6 @@ void tst_MvFoto::forbiddenPhotosStayClosed()
     QVERIFY(MvFotoAccess::midRes(foto, 4, 13).isNull());
     QVERIFY(MvFotoAccess::scaled(foto, {4, 4}).isNull());
     QVERIFY(!foto.mediaFormat().isValid());
-}
-
-void tst_MvFoto::stock()
-{
-    const QTemporaryDir dir;
-    QImage image(64, 32, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    QVERIFY(image.save(dir.filePath(u"a.png"_qs)) && image.save(dir.filePath(u"b.png"_qs)));
-    QFile broken(dir.filePath(u"broken.jpg"_qs));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no photo") == 8);
-    broken.close();
-    const auto scaled = [&dir](const QString &name, int width) {
-        return MvFotoAccess::scaled(MvFoto(QFileInfo(dir.filePath(name))), {width, width}).size();
-    };
-
-    MvFotoStock stock;
-    QSignalSpy arrived(&stock, &MvFotoStock::arrived);
-    {
-        const MvFotoStock::Use first(stock, 1);
-        QVERIFY(first.isComplete());
-        QCOMPARE(scaled(u"a.png"_qs, 16), QSize(0, 0));
-        QVERIFY(!first.isComplete());
-        QCOMPARE(scaled(u"b.png"_qs, 16), QSize(0, 0));
-        QCOMPARE(scaled(u"broken.jpg"_qs, 16), QSize(0, 0));
-        const MvFotoStock::Use second(stock, 2);
-        QCOMPARE(scaled(u"a.png"_qs, 16), QSize(0, 0));
-    }
-    QCOMPARE(scaled(u"a.png"_qs, 8), QSize(8, 4)); // out of use: at once
-    QTRY_COMPARE(arrived.count(), 2);
-    QSet<int> pages;
-    for (const QVariantList &page : std::as_const(arrived))
-        pages.insert(page.first().toInt());
-    QCOMPARE(pages, (QSet<int>{1, 2}));
-
-    arrived.clear();
-    {
-        const MvFotoStock::Use again(stock, 1);
-        QCOMPARE(scaled(u"a.png"_qs, 16), QSize(16, 8));
-        QCOMPARE(scaled(u"broken.jpg"_qs, 16), QSize(0, 0)); // known now: not to be waited for once more
-        QVERIFY(again.isComplete());
-        QCOMPARE(scaled(u"a.png"_qs, 32), QSize(16, 8)); // the best there is
-        QVERIFY(!again.isComplete());
-    }
-    QTRY_COMPARE(arrived.count(), 1);
-    const MvFotoStock::Use last(stock, 1);
-    QCOMPARE(scaled(u"a.png"_qs, 32), QSize(32, 16));
-    QCOMPARE(scaled(u"missing.png"_qs, 16), QSize(0, 0));
-    QVERIFY(last.isComplete());
 }
 
 MV_TEST_MAIN(tst_MvFoto)

@@ -7,6 +7,7 @@
 
 #include <QBuffer>
 #include <QColorSpace>
+#include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void formats();
     void refuses_data();
     void refuses();
+    void keepsToTheLimitOfTheProcess();
     void givesUp();
     void leavesOutTexts();
     void turnsAsTheCameraSays_data();
@@ -183,6 +185,19 @@ void tst_MvImageLoader::refuses()
     QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_qs)).constData(), 0600), 0);
     for (const QString &other : {path(u"pipe"_qs), path(u"missing.png"_qs), m_dir->path(), u"/dev/zero"_qs})
         QVERIFY2(MvImageLoader::instance().load(QFileInfo(other)).isNull(), qPrintable(other));
+}
+
+void tst_MvImageLoader::keepsToTheLimitOfTheProcess()
+{
+    const QByteArray png = written(fields({1024, 512}), "png"); // 2 MB
+    const int limit = QImageReader::allocationLimit();
+    QVERIFY(!MvGuardedImageReader(png).read({}).isNull());
+    QCOMPARE(QImageReader::allocationLimit(), limit); // is left to the program
+    QImageReader::setAllocationLimit(1);
+    MvGuardedImageReader refused(png);
+    QVERIFY(refused.read({}).isNull() && refused.error().contains(u"zu groß: 1024 × 512"_qs));
+    MvImageLoader::raiseProcessLimit();
+    QVERIFY(!MvGuardedImageReader(png).read({}).isNull());
 }
 
 void tst_MvImageLoader::givesUp()

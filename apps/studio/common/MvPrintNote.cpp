@@ -29,12 +29,12 @@ QString MvPrintNote::toString() const
                          : tr("%1: „%2“ – keine Schrift hat %3").arg(place, name, text.missingGlyphs);
 }
 
-QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int page)
+QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int page, const MvRenderingSources &sources)
 {
     MvPageFindings found;
     if (page >= 0 && page < document.pages().size() && document.isValid())
         document.pages().at(page).record(document.format(), document.range(), {},
-                                         MvRenderingRule(MvRenderingRule::Print), 1.0, {}, &found);
+                                         MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
     return ofPage(document, page, found);
 }
 

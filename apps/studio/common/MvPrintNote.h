@@ -9,6 +9,7 @@
 
 class MvCalendarDocument;
 struct MvPageFindings;
+struct MvRenderingSources;
 
 /// Something that will not print well: a text without room or with characters that no font has, or a photo of too low
 /// resolution; never both.
@@ -28,7 +29,7 @@ public:
     QString toString() const;
 
     /// Those of a page, texts first. GUI thread.
-    static QList<MvPrintNote> ofPage(const MvCalendarDocument &document, int page);
+    static QList<MvPrintNote> ofPage(const MvCalendarDocument &document, int page, const MvRenderingSources &sources);
     /// The same of a page that has been painted or recorded already.
     static QList<MvPrintNote> ofPage(const MvCalendarDocument &document, int page, const MvPageFindings &findings);
 

@@ -3,7 +3,8 @@
 
 #include "pages/MvScreenPhotos.h"
 
-#include "MvFoto/MvFotoStock.h"
+#include "MvCalendar/MvRenderingSources.h"
+#include "MvFoto/MvFotoPass.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvPaint/MvPaintRecorder.h"
 
@@ -37,11 +38,11 @@ MvPrintPages::MvPrintPages(const MvCalendarDocument &document, QObject *parent)
     : QObject(parent)
     , m_document(document)
     , m_recordings(document.pages().size())
-    , m_photos(new MvScreenPhotos(imageBytes, this))
-    , m_entryPhotos(new MvFotoStock(this))
+    , m_photos(new MvScreenPhotos(MvFotoService::Urgency::Seen, this))
+    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Seen, this))
 {
     connect(m_photos, &MvScreenPhotos::loaded, this, &MvPrintPages::takePhoto);
-    connect(m_entryPhotos, &MvFotoStock::arrived, this, &MvPrintPages::recordPage);
+    connect(m_entryPhotos, &MvFotoPages::arrived, this, &MvPrintPages::recordPage);
 }
 
 MvPrintPages::~MvPrintPages() = default;
@@ -78,10 +79,12 @@ void MvPrintPages::recordNext()
 
 void MvPrintPages::recordPage(int number)
 {
-    const MvFotoStock::Use use(*m_entryPhotos, number);
+    MvFotoPass fotos(*m_entryPhotos, number);
+    MvRenderingSources sources;
+    sources.fotos = &fotos;
     const MvPaintRecording recording = m_document.pages().at(number).record(
-        m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit);
-    if (!use.isComplete())
+        m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit, sources);
+    if (!fotos.isComplete())
         return; // again when they have arrived
     m_recordings[number] = m_recordings.size() > mostShapes ? asPixels(recording) : recording;
     ++m_recordedCount;

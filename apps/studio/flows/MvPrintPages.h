@@ -11,7 +11,7 @@
 
 #include <optional>
 
-class MvFotoStock;
+class MvFotoPages;
 class MvScreenPhotos;
 
 /// The pages of a document as a print preview shows them: recorded, and with photos in a size for the screen, made
@@ -46,7 +46,7 @@ private:
     QHash<QString, QImage> m_images; // of pages, by path; null where a file cannot be read
     QSize m_photoBounds;
     MvScreenPhotos *m_photos;
-    MvFotoStock *m_entryPhotos;
+    MvFotoPages *m_entryPhotos;
     int m_pathCount = 0;
     int m_recordedCount = 0;
     int m_next = 0;

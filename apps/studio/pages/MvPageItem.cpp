@@ -7,8 +7,9 @@
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvCalendar/MvRenderingSources.h"
+#include "MvFoto/MvFotoPass.h"
 #include "MvFoto/MvFotoResolution.h"
-#include "MvFoto/MvFotoStock.h"
 #include "MvProject/MvProject.h"
 
 #include <QFileInfo>
@@ -20,7 +21,6 @@
 
 namespace {
 
-constexpr qint64 photoBytes = qint64(192) << 20;
 constexpr int shadowWidth = 44; // tenths of a millimetre
 constexpr int shadowSteps = 16;
 const QColor shadowColor(0, 0, 0, 4);
@@ -51,8 +51,8 @@ QRect pixelsOf(const QTransform &transform, const QRectF &rect)
 MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     : QGraphicsObject(parent)
     , m_project(project)
-    , m_photos(std::make_unique<MvScreenPhotos>(photoBytes))
-    , m_entryPhotos(std::make_unique<MvFotoStock>())
+    , m_photos(std::make_unique<MvScreenPhotos>(MvFotoService::Urgency::Seen))
+    , m_entryPhotos(std::make_unique<MvFotoPages>(MvFotoService::Urgency::Seen))
     , m_cells(std::make_unique<MvGraphicsItemCalendariumCellsManager>(this, project->session()))
 {
     connect(project, &MvProject::pageChanged, this, [this](int page) {
@@ -66,7 +66,7 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     });
     connect(&project->session().entries(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
     connect(m_photos.get(), &MvScreenPhotos::loaded, this, &MvPageItem::discardCache);
-    connect(m_entryPhotos.get(), &MvFotoStock::arrived, this, &MvPageItem::refresh);
+    connect(m_entryPhotos.get(), &MvFotoPages::arrived, this, &MvPageItem::refresh);
     m_cells->setMenuForOneEntry(false);
     refreshNow();
 }
@@ -167,8 +167,10 @@ void MvPageItem::record()
                 [this](const QDate &date, const QRectF &rect) { m_dates.insert(date, rect); });
     };
     const MvCalendarDocument &document = m_project->document();
-    const MvFotoStock::Use use(*m_entryPhotos);
-    m_recording = m_shown.record(document.format(), document.range(), listen, screenRule(), m_pixelsPerUnit);
+    MvFotoPass fotos(*m_entryPhotos);
+    MvRenderingSources sources;
+    sources.fotos = &fotos;
+    m_recording = m_shown.record(document.format(), document.range(), listen, screenRule(), m_pixelsPerUnit, sources);
 }
 
 /// The manager keeps the cells of a month as long as its rectangle stays; another layout has other cells there.

@@ -14,7 +14,7 @@
 #include <memory>
 #include <optional>
 
-class MvFotoStock;
+class MvFotoPages;
 class MvGraphicsItemCalendariumCellsManager;
 class MvProject;
 class MvScreenPhotos;
@@ -91,7 +91,7 @@ private:
 
     MvProject *m_project;
     std::unique_ptr<MvScreenPhotos> m_photos;
-    std::unique_ptr<MvFotoStock> m_entryPhotos;
+    std::unique_ptr<MvFotoPages> m_entryPhotos;
     std::unique_ptr<MvGraphicsItemCalendariumCellsManager> m_cells;
     MvCalendarPage m_shown;
     std::optional<MvCalendarPage> m_trial;

@@ -9,8 +9,9 @@
 #include "pages/MvScreenPhotos.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvCore/MvDiskAccessRequest.h"
-#include "MvFoto/MvFotoStock.h"
+#include "MvFoto/MvFotoPass.h"
 #include "MvProject/MvProject.h"
 
 #include <QDragEnterEvent>
@@ -22,7 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 photoBytes = qint64(48) << 20;
 constexpr int changeDelay = 150; // milliseconds without a further change before thumbnails follow
 constexpr int entriesDelay = 300;
 constexpr int smallestWidth = 72; // of a thumbnail, logical pixels
@@ -36,8 +36,8 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     : QListView(parent)
     , m_project(project)
     , m_images(new MvIdleImages([this](int page) { return makeThumbnail(page); }, this))
-    , m_photos(new MvScreenPhotos(photoBytes, this))
-    , m_entryPhotos(new MvFotoStock(this))
+    , m_photos(new MvScreenPhotos(MvFotoService::Urgency::Background, this))
+    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
     , m_model(new MvPageStripModel(project, m_images, this))
     , m_delegate(new MvPageStripDelegate(this))
 {
@@ -57,7 +57,7 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     m_images->setPaused(true); // until somebody sees the strip
     connect(m_images, &MvIdleImages::imageReady, m_model, &MvPageStripModel::updateRow);
     connect(m_photos, &MvScreenPhotos::loaded, this, &MvPageStrip::onPhotoLoaded);
-    connect(m_entryPhotos, &MvFotoStock::arrived, this, [this](int page) { m_images->invalidate(page); });
+    connect(m_entryPhotos, &MvFotoPages::arrived, this, [this](int page) { m_images->invalidate(page); });
     connect(project, &MvProject::pageChanged, this, [this](int page) {
         m_images->invalidate(page, changeDelay);
         m_model->updateRow(page);
@@ -173,9 +173,11 @@ QImage MvPageStrip::makeThumbnail(int page)
     const MvCalendarDocument &document = m_project->document();
     if (page >= document.pages().size())
         return {};
-    const MvFotoStock::Use use(*m_entryPhotos, page);
+    MvFotoPass fotos(*m_entryPhotos, page);
+    MvRenderingSources sources;
+    sources.fotos = &fotos;
     return MvPageThumbnail::make(document.pages().at(page), document.format(), document.range(), m_thumbnailSize,
-                                 devicePixelRatioF(), m_photos);
+                                 devicePixelRatioF(), m_photos, sources);
 }
 
 void MvPageStrip::onPhotoLoaded(const QString &path)

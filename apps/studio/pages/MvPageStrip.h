@@ -3,7 +3,7 @@
 
 #include <QListView>
 
-class MvFotoStock;
+class MvFotoPages;
 class MvIdleImages;
 class MvPageStripDelegate;
 class MvPageStripModel;
@@ -60,7 +60,7 @@ private:
     MvProject *m_project;
     MvIdleImages *m_images;
     MvScreenPhotos *m_photos;
-    MvFotoStock *m_entryPhotos;
+    MvFotoPages *m_entryPhotos;
     MvPageStripModel *m_model;
     MvPageStripDelegate *m_delegate;
     QSize m_thumbnailSize; // logical pixels

@@ -29,7 +29,7 @@ void paintPhoto(QPainter &painter, const MvPhotoFrame &frame, const QRectF &rect
 } // namespace
 
 QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &format, const MvDateRange &range,
-                             const QSize &size, double ratio, MvScreenPhotos *photos)
+                             const QSize &size, double ratio, MvScreenPhotos *photos, const MvRenderingSources &sources)
 {
     if (!format.isValid() || size.isEmpty())
         return {};
@@ -44,7 +44,7 @@ QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &for
     painter.scale(scaleX, scaleY);
     page.paintGround(painter, format);
     paintPhoto(painter, page.photoFrame(), page.photoFrame().rect(format), photos);
-    const MvPaintRecording calendarium = page.record(format, range, {}, rule, scaleX);
+    const MvPaintRecording calendarium = page.record(format, range, {}, rule, scaleX, sources);
     for (int pass = 0; pass < passes; ++pass)
         calendarium.replay(painter);
     painter.end();

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvScreenPhotos.h"
 
-#include "MvFoto/MvImageLoader.h"
-
-#include <QDateTime>
-#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -29,12 +26,11 @@ bool covers(const QSize &a, const QSize &b)
 
 } // namespace
 
-MvScreenPhotos::MvScreenPhotos(qint64 byteLimit, QObject *parent)
+MvScreenPhotos::MvScreenPhotos(MvFotoService::Urgency urgency, QObject *parent)
     : QObject(parent)
-    , m_images(std::max<qint64>(byteLimit >> 10, 1))
-    , m_givenUp(std::make_shared<std::atomic_bool>(false))
+    , m_urgency(urgency)
 {
-    m_pool.setMaxThreadCount(1); // what is seen first comes first, and the window keeps a core
+    connect(&MvFotoService::instance(), &MvFotoService::arrived, this, &MvScreenPhotos::takeArrived);
     m_watch.setInterval(watchInterval);
     connect(&m_watch, &QTimer::timeout, this, &MvScreenPhotos::recheck);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
@@ -43,24 +39,26 @@ MvScreenPhotos::MvScreenPhotos(qint64 byteLimit, QObject *parent)
     });
 }
 
-MvScreenPhotos::~MvScreenPhotos()
-{
-    *m_givenUp = true;
-    m_pool.clear();
-    m_pool.waitForDone();
-}
-
 QImage MvScreenPhotos::photo(const QString &path, const QSize &bounds)
 {
     if (path.isEmpty() || bounds.isEmpty())
         return {};
+    State &state = m_states[path];
+    if (state.isUnreadable)
+        return {};
     const QSize wanted = roundedUp(bounds);
-    const State state = m_states.value(path);
-    const QImage *image = m_images.object(path);
-    const bool isGoodEnough = image != nullptr && covers(state.decoded, wanted);
-    if (!isGoodEnough && !state.unreadable && !covers(state.decoding, wanted))
-        startDecoding(path, wanted);
-    return image != nullptr ? *image : QImage();
+    if (!covers(state.size, wanted))
+        state.size = wanted;
+    MvFotoService &service = MvFotoService::instance();
+    MvFotoOrder order{path, state.size, MvFotoOrder::Fit::WithinOwnSize, state.stamp()};
+    const MvFotoRequest request = service.request(order, m_urgency);
+    if (request.isDone()) {
+        m_latest = request;
+        return request.image();
+    }
+    state.awaited = request;
+    order.stamp = state.shownStamp;
+    return service.otherSize(order);
 }
 
 QSize MvScreenPhotos::boundsFor(const QRectF &frame)
@@ -70,19 +68,25 @@ QSize MvScreenPhotos::boundsFor(const QRectF &frame)
     return {side, side};
 }
 
-void MvScreenPhotos::clear()
+void MvScreenPhotos::takeArrived(const MvFotoOrder &order)
 {
-    m_pool.clear();
-    m_images.clear();
-    m_states.clear();
-    m_watch.stop();
-    m_isRechecking = false; // if it waited for its turn, it is given up
+    const auto state = m_states.find(order.path);
+    if (state == m_states.end() || !state->awaited.isDone())
+        return;
+    m_latest = std::exchange(state->awaited, {});
+    state->full = m_latest.fullSize();
+    state->shownStamp = m_latest.stamp();
+    state->isCurrent = true;
+    state->isUnreadable = m_latest.image().isNull();
+    watchUnreadable();
+    Q_EMIT loaded(order.path);
 }
 
-MvScreenPhotos::Stamp MvScreenPhotos::stampOf(const QString &path)
+void MvScreenPhotos::clear()
 {
-    const QFileInfo file(path);
-    return file.isFile() ? Stamp{file.lastModified().toMSecsSinceEpoch(), file.size()} : Stamp();
+    m_states.clear();
+    m_latest = {};
+    m_watch.stop();
 }
 
 void MvScreenPhotos::recheck()
@@ -90,26 +94,23 @@ void MvScreenPhotos::recheck()
     if (m_isRechecking || m_states.isEmpty())
         return;
     m_isRechecking = true;
-    const auto look = [this, paths = m_states.keys(), givenUp = m_givenUp] {
-        QHash<QString, Stamp> stamps;
-        for (const QString &path : paths) {
-            if (*givenUp)
-                return;
-            stamps.insert(path, stampOf(path));
-        }
-        QMetaObject::invokeMethod(this, [this, stamps] { takeStamps(stamps); });
+    const auto look = [this, paths = m_states.keys()] { // not on this thread: the folder may be far away
+        QHash<QString, MvFotoStamp> stamps;
+        for (const QString &path : paths)
+            stamps.insert(path, MvFotoStamp::of(path));
+        return [this, stamps] { takeStamps(stamps); };
     };
-    m_pool.start(look); // not here: the folder may be far away
+    MvFotoService::instance().run(m_urgency, this, look);
 }
 
-void MvScreenPhotos::takeStamps(const QHash<QString, Stamp> &stamps)
+void MvScreenPhotos::takeStamps(const QHash<QString, MvFotoStamp> &stamps)
 {
     m_isRechecking = false;
     for (auto it = stamps.begin(); it != stamps.end(); ++it) {
-        const auto known = m_states.constFind(it.key());
-        if (known == m_states.constEnd() || !known->decoding.isEmpty() || known->stamp == it.value())
+        const auto known = m_states.find(it.key());
+        if (known == m_states.end() || !known->isCurrent || known->shownStamp == it.value())
             continue;
-        m_states.erase(known); // the image stays until there is a new one
+        known->isCurrent = known->isUnreadable = false; // the image stays until there is a new one
         Q_EMIT loaded(it.key());
     }
     watchUnreadable();
@@ -118,52 +119,7 @@ void MvScreenPhotos::takeStamps(const QHash<QString, Stamp> &stamps)
 void MvScreenPhotos::watchUnreadable()
 {
     const bool isNeeded =
-        std::any_of(m_states.cbegin(), m_states.cend(), [](const State &state) { return state.unreadable; });
+        std::any_of(m_states.cbegin(), m_states.cend(), [](const State &state) { return state.isUnreadable; });
     if (isNeeded != m_watch.isActive())
         isNeeded ? m_watch.start() : m_watch.stop();
-}
-
-void MvScreenPhotos::startDecoding(const QString &path, const QSize &bounds)
-{
-    m_states[path].decoding = bounds;
-    const auto decodeAndHandOver = [this, path, bounds, givenUp = m_givenUp] {
-        const Decoded decoded = *givenUp ? Decoded() : decode(path, bounds);
-        if (!*givenUp) // the destructor waits for this task, so that the object is still there
-            QMetaObject::invokeMethod(this, [this, path, bounds, decoded] { take(path, bounds, decoded); });
-    };
-    m_pool.start(decodeAndHandOver);
-}
-
-void MvScreenPhotos::take(const QString &path, const QSize &bounds, const Decoded &decoded)
-{
-    State &state = m_states[path];
-    if (state.decoding != bounds)
-        return; // a larger version is on its way, or the file is to be read again
-    state.decoding = {};
-    const QImage &image = decoded.image;
-    state.stamp = decoded.stamp;
-    state.full = decoded.full;
-    state.unreadable = image.isNull();
-    watchUnreadable();
-    if (image.isNull()) {
-        m_images.remove(path);
-    } else {
-        state.decoded = bounds;
-        m_images.insert(path, new QImage(image), std::max<qint64>(image.sizeInBytes() >> 10, 1));
-    }
-    Q_EMIT loaded(path);
-}
-
-MvScreenPhotos::Decoded MvScreenPhotos::decode(const QString &path, const QSize &bounds)
-{
-    const Stamp stamp = stampOf(path); // before: what changes while it is read is read again
-    MvImageLoader &loader = MvImageLoader::instance();
-    const QFileInfo file(path);
-    const QSize full = loader.size(file);
-    if (full.isEmpty())
-        return {{}, {}, stamp};
-    const QSize target = full.scaled(bounds, Qt::KeepAspectRatio).boundedTo(full);
-    // kept here, and not a second time by the loader, whose room is for photos in print size
-    const QImage image = loader.loadUncached(file, target);
-    return {image.convertToFormat(QImage::Format_ARGB32_Premultiplied), full, stamp};
 }

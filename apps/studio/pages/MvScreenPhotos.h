@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include <QCache>
+#include "MvFoto/MvFotoService.h"
+
 #include <QHash>
 #include <QImage>
 #include <QObject>
 #include <QRectF>
 #include <QSize>
 #include <QString>
-#include <QThreadPool>
 #include <QTimer>
 
-#include <atomic>
-#include <memory>
+#include <optional>
 
-/// Photos in the size of the screen, decoded off the GUI thread. To be used from the GUI thread.
+/// The photos of pages in the size of the screen, as MvFotoService decodes them, and what is known of their files. To
+/// be used from the GUI thread.
 ///
 /// Files that come, go or change are noticed: when the program is activated again, and a file that could not be read
 /// also while the program is in use.
@@ -23,13 +23,10 @@ class MvScreenPhotos : public QObject
     Q_OBJECT
 
 public:
-    /// Keeps images of up to so many bytes.
-    explicit MvScreenPhotos(qint64 byteLimit, QObject *parent = nullptr);
-    /// Waits for the photo that is being decoded; those that wait for their turn are given up.
-    ~MvScreenPhotos() override;
+    explicit MvScreenPhotos(MvFotoService::Urgency urgency, QObject *parent = nullptr);
 
     /// The photo, as large as it fits into the bounds (pixels), but never larger than its file has it. Null when it is
-    /// not there yet: loaded() follows. While a larger version is being decoded, the smaller one is given.
+    /// not there yet: loaded() follows. While another size is being decoded, one that is at hand is given.
     QImage photo(const QString &path, const QSize &bounds);
 
     /// The bounds for a photo that is to cover a frame (pixels), whatever its proportions within reason.
@@ -38,7 +35,7 @@ public:
     /// What the file has, in pixels and upright; empty until it has been read.
     QSize fullSize(const QString &path) const { return m_states.value(path).full; }
     /// True once a file has turned out not to be a photo that can be read, until it has changed.
-    bool isUnreadable(const QString &path) const { return m_states.value(path).unreadable; }
+    bool isUnreadable(const QString &path) const { return m_states.value(path).isUnreadable; }
     /// Reads all files again when they are asked for next.
     void clear();
     /// Looks, in the background, whether files are others than those that were read; these are read again.
@@ -49,41 +46,25 @@ Q_SIGNALS:
     void loaded(const QString &path);
 
 private:
-    /// Tells one state of a file from another.
-    struct Stamp
-    {
-        qint64 changed = -1; // milliseconds; -1 for a file that is not there
-        qint64 size = -1;
-
-        bool operator==(const Stamp &) const = default;
-    };
     struct State
     {
-        QSize decoding; // the bounds that are being decoded; empty when none are
-        QSize decoded;  // the bounds that the kept image is good for
-        QSize full;     // of the file
-        Stamp stamp;    // of the file when it was read
-        bool unreadable = false;
+        QSize size;             // the bounds that were asked for last; smaller ones are served by them, too
+        MvFotoRequest awaited;  // while it is on its way
+        QSize full;             // of the file
+        MvFotoStamp shownStamp; // of the file when it was read last
+        bool isCurrent = false; // nothing speaks against that state
+        bool isUnreadable = false;
+
+        std::optional<MvFotoStamp> stamp() const { return isCurrent ? std::optional(shownStamp) : std::nullopt; }
     };
 
-    struct Decoded
-    {
-        QImage image; // null for a file that cannot be read
-        QSize full;
-        Stamp stamp;
-    };
-
-    void startDecoding(const QString &path, const QSize &bounds);
-    void take(const QString &path, const QSize &bounds, const Decoded &decoded);
-    void takeStamps(const QHash<QString, Stamp> &stamps);
+    void takeArrived(const MvFotoOrder &order);
+    void takeStamps(const QHash<QString, MvFotoStamp> &stamps);
     void watchUnreadable();
-    static Stamp stampOf(const QString &path);
-    static Decoded decode(const QString &path, const QSize &bounds);
 
-    QCache<QString, QImage> m_images; // cost in kilobytes
+    MvFotoService::Urgency m_urgency;
     QHash<QString, State> m_states;
-    std::shared_ptr<std::atomic_bool> m_givenUp;
-    QTimer m_watch; // runs while a file cannot be read
+    MvFotoRequest m_latest; // stays at hand, however large; the others are left to the cache
+    QTimer m_watch;         // runs while a file cannot be read
     bool m_isRechecking = false;
-    QThreadPool m_pool;
 };

@@ -4,7 +4,8 @@
 #include "pages/MvPageThumbnail.h"
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
-#include "MvFoto/MvFotoStock.h"
+#include "MvCalendar/MvRenderingSources.h"
+#include "MvFoto/MvFotoPass.h"
 #include "common/MvIdleImages.h"
 
 #include <QLabel>
@@ -33,7 +34,7 @@ MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     , m_list(new QListWidget(this))
     , m_description(new QLabel(this))
     , m_images(new MvIdleImages([this](int number) { return makePicture(number); }, this))
-    , m_entryPhotos(new MvFotoStock(this))
+    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
     , m_pictureSize(pictureSize)
 {
     m_list->setObjectName(u"layoutList"_s);
@@ -66,7 +67,7 @@ MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     column->addWidget(m_list, 1);
     column->addWidget(m_description);
 
-    connect(m_entryPhotos, &MvFotoStock::arrived, this, [this](int number) { m_images->invalidate(number); });
+    connect(m_entryPhotos, &MvFotoPages::arrived, this, [this](int number) { m_images->invalidate(number); });
     connect(m_images, &MvIdleImages::imageReady, this, &MvLayoutChooser::showPicture);
     connect(m_list, &QListWidget::currentRowChanged, this, [this] {
         describeCurrent();
@@ -186,10 +187,12 @@ QImage MvLayoutChooser::makePicture(int number) const
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     if (!document.pages().isEmpty()) {
-        const MvFotoStock::Use use(*m_entryPhotos, number);
+        MvFotoPass fotos(*m_entryPhotos, number);
+        MvRenderingSources sources;
+        sources.fotos = &fotos;
         painter.drawImage(sheet,
                           MvPageThumbnail::make(document.pages().constFirst(), document.format(), document.range(),
-                                                sheet.size().toSize(), devicePixelRatioF(), nullptr));
+                                                sheet.size().toSize(), devicePixelRatioF(), nullptr, sources));
     }
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(palette().color(QPalette::Mid));

@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-class MvFotoStock;
+class MvFotoPages;
 class MvIdleImages;
 class QLabel;
 class QListWidget;
@@ -52,7 +52,7 @@ private:
     QListWidget *m_list;
     QLabel *m_description;
     MvIdleImages *m_images;
-    MvFotoStock *m_entryPhotos;
+    MvFotoPages *m_entryPhotos;
     MvCalendarDocument m_document;
     QSize m_pictureSize;
 };

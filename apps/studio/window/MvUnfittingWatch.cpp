@@ -2,7 +2,8 @@
 #include "window/MvUnfittingWatch.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvFoto/MvFotoStock.h"
+#include "MvCalendar/MvRenderingSources.h"
+#include "MvFoto/MvFotoPass.h"
 #include "MvProject/MvProject.h"
 
 #include <QTimerEvent>
@@ -18,9 +19,9 @@ constexpr int delay = 600; // milliseconds without changes before looking
 MvUnfittingWatch::MvUnfittingWatch(MvProject *project, QObject *parent)
     : QObject(parent)
     , m_project(project)
-    , m_entryPhotos(new MvFotoStock(this))
+    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
 {
-    connect(m_entryPhotos, &MvFotoStock::arrived, this, &MvUnfittingWatch::invalidate);
+    connect(m_entryPhotos, &MvFotoPages::arrived, this, &MvUnfittingWatch::invalidate);
     connect(project, &MvProject::pageChanged, this, &MvUnfittingWatch::invalidate);
     connect(project, &MvProject::pagesReset, this, &MvUnfittingWatch::reset);
     connect(project, &MvProject::documentReplaced, this, &MvUnfittingWatch::reset);
@@ -65,8 +66,10 @@ void MvUnfittingWatch::timerEvent(QTimerEvent *event)
     const auto due = std::find_if(m_pages.begin(), m_pages.end(), [](const Page &page) { return page.isDue; });
     if (due != m_pages.end()) {
         const int page = int(due - m_pages.begin());
-        const MvFotoStock::Use use(*m_entryPhotos, page); // what is missing gives the texts too much room: see again
-        const QList<Entry> notes = MvPrintNote::ofPage(m_project->document(), page);
+        MvRenderingSources sources;
+        MvFotoPass fotos(*m_entryPhotos, page); // what is missing gives the texts too much room: see again
+        sources.fotos = &fotos;
+        const QList<Entry> notes = MvPrintNote::ofPage(m_project->document(), page, sources);
         due->isDue = false;
         m_hasNews = m_hasNews || notes != due->notes;
         due->notes = notes;

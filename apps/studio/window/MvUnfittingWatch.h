@@ -7,7 +7,7 @@
 #include <QList>
 #include <QObject>
 
-class MvFotoStock;
+class MvFotoPages;
 class MvProject;
 
 /// Knows what will not print well on the pages of the open project: texts without room, characters that no font has,
@@ -46,7 +46,7 @@ private:
 
     MvProject *m_project;
     QList<Page> m_pages;
-    MvFotoStock *m_entryPhotos;
+    MvFotoPages *m_entryPhotos;
     QBasicTimer m_timer;
     bool m_hasNews = false;
 };

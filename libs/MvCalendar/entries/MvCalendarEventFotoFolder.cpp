@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventFotoCopy.h"
 #include "MvCalendar/MvCalendarEventFotoSweep.h"
 #include "MvFoto/MvFotoBin.h"
+#include "MvFoto/MvFotoService.h"
 
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvDiskAccessRequest.h"
@@ -13,9 +14,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QFutureWatcher>
-#include <QPromise>
-#include <QThreadPool>
 
 #include <memory>
 
@@ -151,22 +149,17 @@ void MvCalendarEventFotoFolder::prepare(const MvCalendarEventList &events, QObje
         use();
         return;
     }
-    auto *watcher = new QFutureWatcher<Outcomes>(receiver);
-    QObject::connect(watcher, &QFutureWatcherBase::finished, receiver, [outcomes = m_outcomes, watcher, use] {
-        watcher->deleteLater();
-        outcomes->insert(watcher->result());
-        use();
-    });
-    const auto promise = std::make_shared<QPromise<Outcomes>>();
-    promise->start();
-    watcher->setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, fotos] {
-        Outcomes outcomes;
-        for (auto it = fotos.begin(); it != fotos.end(); ++it)
-            outcomes.insert(it.key(), copied(it.value()));
-        promise->addResult(outcomes);
-        promise->finish();
-    });
+    const auto left = std::make_shared<qsizetype>(fotos.size());
+    for (auto it = fotos.begin(); it != fotos.end(); ++it) { // one by one: what is more urgent comes in between
+        const auto copy = [outcomes = m_outcomes, left, use, source = it.key(), foto = it.value()] {
+            return [outcomes, left, use, source, outcome = copied(foto)] {
+                outcomes->insert(source, outcome);
+                if (--*left == 0)
+                    use();
+            };
+        };
+        MvFotoService::instance().run(MvFotoService::Urgency::Background, receiver, copy);
+    }
 }
 
 bool MvCalendarEventFotoFolder::fetchBack(const MvFoto &foto)
@@ -200,29 +193,21 @@ void MvCalendarEventFotoFolder::sweep(QObject *receiver, const std::function<QSe
 {
     if (!presentFolder().exists() || !m_use.beginAlone())
         return;
-    using Plan = std::shared_ptr<MvCalendarEventFotoSweep>; // null: something could not be read
-    auto *watcher = new QFutureWatcher<Plan>(receiver);
-    QObject::connect(watcher, &QFutureWatcherBase::finished, receiver, [this, watcher, inUse, mayGoOn] {
-        watcher->deleteLater();
-        const Plan plan = watcher->result();
-        if (plan && mayGoOn()) {
-            for (const QString &name : inUse())
-                plan->keep(name);
-            const int count = plan->run(QDateTime::currentDateTime());
-            MvLogger::legacyLog(u"CalendarEvents ACTION:sweepFotos VALUE:%1"_s.arg(count));
-        }
-        m_use.endAlone();
-    });
-    const auto promise = std::make_shared<QPromise<Plan>>();
-    promise->start();
-    watcher->setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, folder = presentFolder(), lists = userFiles()] {
-        auto plan = std::make_shared<MvCalendarEventFotoSweep>(folder);
+    const auto look = [this, inUse, mayGoOn, folder = presentFolder(), lists = userFiles()] {
+        auto plan = std::make_shared<MvCalendarEventFotoSweep>(folder); // null: something could not be read
         for (const QFileInfo &list : lists) {
             if (plan && !plan->keepNamesIn(list))
                 plan.reset();
         }
-        promise->addResult(plan);
-        promise->finish();
-    });
+        return [this, inUse, mayGoOn, plan] {
+            if (plan && mayGoOn()) {
+                for (const QString &name : inUse())
+                    plan->keep(name);
+                const int count = plan->run(QDateTime::currentDateTime());
+                MvLogger::legacyLog(u"CalendarEvents ACTION:sweepFotos VALUE:%1"_s.arg(count));
+            }
+            m_use.endAlone();
+        };
+    };
+    MvFotoService::instance().run(MvFotoService::Urgency::Background, receiver, look);
 }

@@ -13,7 +13,7 @@
 #include <QPixelFormat>
 
 #include <fcntl.h>
-#include <mutex>
+#include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
@@ -62,6 +62,12 @@ qint64 pixelsOf(const QSize &size)
     return qint64(size.width()) * size.height();
 }
 
+qint64 processLimit()
+{
+    const int megabytes = QImageReader::allocationLimit();
+    return megabytes > 0 ? qint64(megabytes) << 20 : std::numeric_limits<qint64>::max();
+}
+
 /// One large image is decoded at a time: several threads do not take several times the memory.
 QMutex &largeImages()
 {
@@ -90,8 +96,6 @@ MvGuardedImageReader::~MvGuardedImageReader() = default;
 
 void MvGuardedImageReader::open()
 {
-    static std::once_flag once;
-    std::call_once(once, [] { QImageReader::setAllocationLimit(int(memoryLimit >> 20)); });
     if (!m_source) {
         m_error = tr("Die Datei lässt sich nicht öffnen.");
         return;
@@ -173,22 +177,30 @@ bool MvGuardedImageReader::isHollow(const QSize &full) const
     return pixels > largePixels && pixels / mostPixelsPerByte > m_source->size();
 }
 
-/// What decoding takes at its worst moment, in bytes.
-qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target)
+/// The image that the decoder fills, in bytes.
+qint64 MvGuardedImageReader::largestImage(const QSize &full, const QSize &target) const
 {
-    const qint64 pixels = pixelsOf(full);
-    if (m_format == "jpeg") {
-        // a decoder makes it smaller on the way, by up to 8, but several passes are gathered in full
+    const qint64 pixels = pixelsOf(decodedSize(full));
+    if (m_format == "jpeg") { // made smaller on the way, by up to 8
         const qint64 divisor =
             qBound(1, qMin(full.width() / (2 * target.width()), full.height() / (2 * target.height())), 8);
-        return 4 * pixels / (divisor * divisor) + (m_scans > 1 ? 6 * pixels : 0);
+        return 4 * pixels / (divisor * divisor);
     }
-    if (m_format == "gif")
-        return 2LL * 4 * pixelsOf(decodedSize(full));
-    if (m_format == "webp" && MvImageStructure::isAnimatedWebP(m_source.get()))
-        return 4LL * 4 * pixels;
     const QPixelFormat format = QImage::toPixelFormat(m_reader->imageFormat());
     return pixels * qMax<qint64>(4, format.bitsPerPixel() / 8);
+}
+
+/// What decoding takes at its worst moment, in bytes.
+qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target) const
+{
+    const qint64 image = largestImage(full, target);
+    if (m_format == "jpeg" && m_scans > 1)
+        return image + 6 * pixelsOf(full); // several passes are gathered in full
+    if (m_format == "gif")
+        return 2 * image;
+    if (m_format == "webp" && MvImageStructure::isAnimatedWebP(m_source.get()))
+        return 4 * image;
+    return image;
 }
 
 bool MvGuardedImageReader::isWithinLimits(const QSize &full, const QSize &target)
@@ -204,7 +216,7 @@ bool MvGuardedImageReader::isWithinLimits(const QSize &full, const QSize &target
     else if (m_scans > scanLimit)
         m_error = tr("Das Bild ist in mehr als %1 Durchgängen gespeichert. So etwas tut kein übliches Programm.")
                       .arg(scanLimit);
-    else if (neededMemory(full, target) > memoryLimit)
+    else if (neededMemory(full, target) > memoryLimit || largestImage(full, target) > processLimit())
         m_error = tr("Das Bild ist zu groß: %1. Verkleinern Sie es in einem Bildprogramm.").arg(size);
     return m_error.isEmpty();
 }

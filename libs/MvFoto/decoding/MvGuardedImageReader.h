@@ -20,7 +20,8 @@ class QImageReader;
 ///
 /// Only regular files in the formats of MvImageFormat are opened. A small file can claim a picture of gigabytes, or
 /// make a decoder go over it thousands of times; that is seen before decoding, and what takes too long is given up.
-/// Everything refused has an error() for a person. Any thread, one at a time; decoding belongs off the GUI thread
+/// Everything refused has an error() for a person. What the process lets image readers allocate is a bound, too
+/// (MvImageLoader::raiseProcessLimit()). Any thread, one at a time; decoding belongs off the GUI thread
 /// unless isQuick().
 class MVFOTO_EXPORT MvGuardedImageReader
 {
@@ -62,7 +63,8 @@ private:
     QSize decodedSize(const QSize &full) const { return full.expandedTo(m_canvas); }
     bool isHollow(const QSize &full) const;
     bool isWithinLimits(const QSize &full, const QSize &target);
-    qint64 neededMemory(const QSize &full, const QSize &target);
+    qint64 largestImage(const QSize &full, const QSize &target) const;
+    qint64 neededMemory(const QSize &full, const QSize &target) const;
     void lookThrough();
     QImage decode(const QSize &full, const QSize &target);
 

@@ -29,14 +29,27 @@ QImage MvImageCache::image(const Key &key, const std::function<QImage()> &make)
     return made;
 }
 
-QImage MvImageCache::kept(const Key &key)
+std::optional<QImage> MvImageCache::kept(const Key &key)
 {
     const QMutexLocker lock(&m_mutex);
     const auto found = m_entries.find(key);
     if (found == m_entries.end())
-        return {};
+        return std::nullopt;
     m_uses.splice(m_uses.begin(), m_uses, found->use);
     return found->image;
+}
+
+QImage MvImageCache::otherSize(const Key &key) const
+{
+    const QMutexLocker lock(&m_mutex);
+    QImage best;
+    for (auto it = m_entries.cbegin(); it != m_entries.cend(); ++it) {
+        Key same = it.key();
+        same.target = key.target;
+        if (same == key && it->image.width() > best.width())
+            best = it->image;
+    }
+    return best;
 }
 
 void MvImageCache::clear()

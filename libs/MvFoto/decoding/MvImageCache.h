@@ -13,19 +13,22 @@
 
 #include <functional>
 #include <list>
+#include <optional>
 
 /// Decoded images, bounded in bytes; what was not asked for longest goes first. Any thread; a thread that asks for an
 /// image another one is just making waits for that one.
 class MVFOTO_EXPORT MvImageCache
 {
 public:
-    /// An image of a file in a certain state, decoded for a certain size (an empty one: full size).
+    /// An image of a file in a certain state, decoded for a certain size (an empty one: full size) and brought into a
+    /// form, of which the owner of the cache may have several.
     struct Key
     {
         QString path;
         qint64 changed = 0; // milliseconds since the epoch
         qint64 bytes = 0;
         QSize target;
+        int form = 0;
 
         bool operator==(const Key &) const = default;
     };
@@ -35,8 +38,10 @@ public:
     /// The kept image, or the one that `make` gives. Null images are kept too, so that a broken file is read once.
     QImage image(const Key &key, const std::function<QImage()> &make);
 
-    /// The kept image; null without one. Never waits.
-    QImage kept(const Key &key);
+    /// The kept image, which is null for a broken file; no value when there is none. Never waits.
+    std::optional<QImage> kept(const Key &key);
+    /// The widest image that is kept of the same file in the same form, whatever its target; null without one.
+    QImage otherSize(const Key &key) const;
     void clear();
     /// Sum of the kept images in bytes; never above the limit.
     qint64 byteCount() const;
@@ -62,5 +67,5 @@ private:
 
 inline size_t qHash(const MvImageCache::Key &key, size_t seed = 0)
 {
-    return qHashMulti(seed, key.path, key.changed, key.bytes, key.target.width(), key.target.height());
+    return qHashMulti(seed, key.path, key.changed, key.bytes, key.target.width(), key.target.height(), key.form);
 }

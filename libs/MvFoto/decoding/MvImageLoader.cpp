@@ -4,6 +4,7 @@
 #include "MvFoto/MvGuardedImageReader.h"
 
 #include <QDateTime>
+#include <QImageReader>
 
 template class MvSingleton<MvImageLoader>;
 
@@ -21,6 +22,11 @@ MvImageCache::Key keyFor(const QFileInfo &file, const QSize &target)
 MvImageLoader::MvImageLoader()
     : m_cache(cacheLimit)
 {}
+
+void MvImageLoader::raiseProcessLimit()
+{
+    QImageReader::setAllocationLimit(int(MvGuardedImageReader::memoryLimit >> 20));
+}
 
 QImage MvImageLoader::read(const QFileInfo &file, const QSize &bounds)
 {
@@ -69,11 +75,6 @@ QImage MvImageLoader::loadScaled(const QFileInfo &file, const QSize &bounds)
 QImage MvImageLoader::loadUncached(const QFileInfo &file, const QSize &bounds)
 {
     return bounds.isEmpty() ? QImage() : read(QFileInfo(file.filePath()), bounds);
-}
-
-QImage MvImageLoader::kept(const QFileInfo &file, const QSize &bounds)
-{
-    return m_cache.kept(keyFor(QFileInfo(file.filePath()), bounds));
 }
 
 QSize MvImageLoader::size(const QFileInfo &file)

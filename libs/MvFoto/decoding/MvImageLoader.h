@@ -26,6 +26,11 @@ class MVFOTO_EXPORT MvImageLoader : public MvSingleton<MvImageLoader>
 public:
     static constexpr qint64 cacheLimit = 384 << 20; // bytes
 
+    /// Lets this process decode images of up to 1 GB; for a program's start. Qt has one limit for all image readers of
+    /// a process, 128 MB (33 million pixels) unless it was changed. So it is for the program to decide, not for this
+    /// library: until then, images that need more are refused with an error that says so.
+    static void raiseProcessLimit();
+
     /// The image in full size.
     QImage load(const QFileInfo &file);
     /// The image scaled smoothly, keeping its aspect ratio, to the largest size within the bounds; smaller images grow.
@@ -33,8 +38,6 @@ public:
     QImage loadScaled(const QFileInfo &file, const QSize &bounds);
     /// The same without keeping the image, for what is looked at once.
     QImage loadUncached(const QFileInfo &file, const QSize &bounds);
-    /// What loadScaled() gave, if it is still kept; null otherwise. Never decodes.
-    QImage kept(const QFileInfo &file, const QSize &bounds);
 
     /// Why a file gave a null image, in one sentence for a person; empty when nothing is known against it.
     QString error(const QFileInfo &file);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvFotoAccess.h"
 
-#include "MvFoto/MvFotoStock.h"
 #include "MvFoto/MvImageLoader.h"
 
 #include <algorithm>
@@ -35,7 +34,5 @@ QImage MvFotoAccess::scaled(const MvFoto &foto, const QSize &bounds)
 {
     if (!foto.mayBeOpened())
         return {};
-    if (MvFotoStock *stock = MvFotoStock::current())
-        return stock->scaled(foto.localFileInfo(), bounds);
     return MvImageLoader::instance().loadScaled(foto.localFileInfo(), bounds);
 }

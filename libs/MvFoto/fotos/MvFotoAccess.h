@@ -25,7 +25,6 @@ public:
     /// Medium resolution: the longer side has at most 128 * 2^quality pixels, 2048 for quality 4. Smaller photos stay
     /// as they are. When the image is null, `error` says why, for a person.
     static QImage midRes(const MvFoto &foto, int quality, int caching, QString *error = nullptr);
-    /// The photo within the bounds (pixels), keeping its aspect ratio; decoded once per size and file state. While
-    /// a MvFotoStock is in use, what it has at hand.
+    /// The photo within the bounds (pixels), keeping its aspect ratio; decoded once per size and file state.
     static QImage scaled(const MvFoto &foto, const QSize &bounds);
 };

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvExportJob.h"
 
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvCore/MvMath.h"
-#include "MvFoto/MvFotoStock.h"
+#include "MvFoto/MvFotoPass.h"
 #include "MvProject/MvExportFeed.h"
 #include "MvProject/MvPageSource.h"
 
@@ -28,9 +29,9 @@ MvExportJob::MvExportJob(const MvCalendarDocument &document, const Writer &write
         QMetaObject::invokeMethod(
             this, [this, done, total] { Q_EMIT progress(done, total); }, Qt::QueuedConnection);
     }))
-    , m_entryPhotos(new MvFotoStock(this))
+    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
 {
-    connect(m_entryPhotos, &MvFotoStock::arrived, this, &MvExportJob::recordPage);
+    connect(m_entryPhotos, &MvFotoPages::arrived, this, &MvExportJob::recordPage);
     for (int page = 0; page < m_document.pages().size(); ++page)
         m_pages.append(page);
 }
@@ -88,16 +89,18 @@ void MvExportJob::recordPage(int number)
     const double pixelsPerUnit = m_dpi / MvMath::tenthMillimetresPerInch;
     const MvCalendarPage &page = m_document.pages()[m_pages[number]];
     {
-        const MvFotoStock::Use use(*m_entryPhotos, number);
+        MvFotoPass fotos(*m_entryPhotos, number);
+        MvRenderingSources sources;
+        sources.fotos = &fotos;
         MvPageFindings &found = m_findings[m_pages[number]];
         const MvPaintRecording recording =
             page.record(m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print),
-                        pixelsPerUnit, {}, &found);
-        if (!use.isComplete())
+                        pixelsPerUnit, sources, &found);
+        if (!fotos.isComplete())
             return; // called again when they have been decoded
         m_feed->put(number, recording);
     }
-    const MvFotoStock::Use none(*m_entryPhotos, number); // they are in the recording: nothing is to be kept
+    m_entryPhotos->letGo(number); // they are in the recording
     QTimer::singleShot(0, this, [this, number] { recordPage(number + 1); });
 }
 

@@ -14,7 +14,7 @@
 
 class MvExportFeed;
 class MvExportObserver;
-class MvFotoStock;
+class MvFotoPages;
 class MvPageSource;
 class QThread;
 
@@ -66,7 +66,7 @@ private:
     QList<int> m_pages;
     QHash<int, MvPageFindings> m_findings;
     std::shared_ptr<MvExportFeed> m_feed;
-    MvFotoStock *m_entryPhotos;
+    MvFotoPages *m_entryPhotos;
     std::unique_ptr<QThread> m_thread; // while running
     MvExportResult m_result;           // written by the thread, read after its end
     bool m_isStarted = false;
