@@ -84,8 +84,8 @@ MvCliCommand::Result MvCli::dispatch(const QStringList &arguments, const MvCliCo
         return {};
     }
     MvCliArguments options;
-    if (const QString error = options.parse(rest.mid(1), command->options()); !error.isEmpty())
-        return {MvCliCommand::Misused, tr("%1 (Hilfe: mvcalendar %2 --help)").arg(error, command->name())};
+    if (const MvOutcome parsed = options.parse(rest.mid(1), command->options()); !parsed.isOk())
+        return {MvCliCommand::Misused, tr("%1 (Hilfe: mvcalendar %2 --help)").arg(parsed.error, command->name())};
     return command->run(options, streams);
 }
 

@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-QString MvCliArguments::parse(const QStringList &arguments, const QList<MvCliOption> &options)
+MvOutcome MvCliArguments::parse(const QStringList &arguments, const QList<MvCliOption> &options)
 {
     m_values.clear();
     QStringList names;
@@ -19,16 +19,16 @@ QString MvCliArguments::parse(const QStringList &arguments, const QList<MvCliOpt
         const QString name = argument.section(u'=', 0, 0);
         const qsizetype index = names.indexOf(name);
         if (index < 0 && !argument.startsWith(u'-'))
-            return tr("„%1“ gehört zu keiner Option").replace(u"%1"_s, argument);
+            return {tr("„%1“ gehört zu keiner Option").replace(u"%1"_s, argument), {}};
         if (index < 0)
-            return tr("unbekannte Option %1").replace(u"%1"_s, name) + MvNearMiss::describe(name, names);
+            return {tr("unbekannte Option %1").replace(u"%1"_s, name) + MvNearMiss::describe(name, names), {}};
 
         const MvCliOption &option = options[index];
         const bool hasInlineValue = argument.contains(u'=');
         if (option.value.isEmpty() && hasInlineValue)
-            return tr("%1 nimmt keinen Wert").replace(u"%1"_s, name);
+            return {tr("%1 nimmt keinen Wert").replace(u"%1"_s, name), {}};
         if (has(option.name) && !option.isRepeatable)
-            return tr("%1 ist zweimal angegeben").replace(u"%1"_s, name);
+            return {tr("%1 ist zweimal angegeben").replace(u"%1"_s, name), {}};
         if (option.value.isEmpty()) {
             m_values[option.name].append(QString());
         } else if (hasInlineValue) {
@@ -36,7 +36,7 @@ QString MvCliArguments::parse(const QStringList &arguments, const QList<MvCliOpt
         } else if (i + 1 < arguments.size() && !names.contains(arguments[i + 1].section(u'=', 0, 0))) {
             m_values[option.name].append(arguments[++i]);
         } else {
-            return tr("nach %1 fehlt der Wert: %2").replace(u"%1"_s, name).replace(u"%2"_s, option.value);
+            return {tr("nach %1 fehlt der Wert: %2").replace(u"%1"_s, name).replace(u"%2"_s, option.value), {}};
         }
     }
     return {};

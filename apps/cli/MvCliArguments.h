@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCliOption.h"
+#include "MvCore/MvOutcome.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -14,9 +15,8 @@ class MvCliArguments
     Q_DECLARE_TR_FUNCTIONS(MvCliArguments)
 
 public:
-    /// "--name value", "--name=value", "--switch"; "-o" stands for "--output". Gives an error for a person; empty when
-    /// all is well.
-    QString parse(const QStringList &arguments, const QList<MvCliOption> &options);
+    /// "--name value", "--name=value", "--switch"; "-o" stands for "--output".
+    MvOutcome parse(const QStringList &arguments, const QList<MvCliOption> &options);
 
     bool has(const QString &name) const { return m_values.contains(name); }
     /// The option's value; a null string when it was not given.

@@ -22,19 +22,17 @@ const QString resetTask = u"reset"_s;
 const QStringList tasks{saveTask, renameTask, removeTask, hideTask, showTask, resetTask};
 
 /// Colours that a file brings, or why it brings none.
-struct Found
+struct Found : MvOutcome
 {
     MvCalendariumColorSchema schema;
-    QString error;
-    QString hint;
 };
 
 /// Those of the first page that are not registered, else those of the first page.
 Found colorsOfProject(const QFileInfo &file)
 {
     const MvProjectFile::Content content = MvProjectFile::read(file);
-    if (!content.isRead())
-        return {{}, content.error, {}};
+    if (!content.isOk())
+        return {{content.error, {}}, {}};
     const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     QList<MvCalendariumColorSchema> own;
     for (const MvCalendarPage &page : content.document.pages()) {
@@ -42,9 +40,10 @@ Found colorsOfProject(const QFileInfo &file)
         if (!registry.idWhateverTheGrid(schema).isValid() && !own.contains(schema))
             own.append(schema);
     }
-    Found found{own.value(0, content.document.appearance().colorSchema()), {}, {}};
+    Found found{{}, own.value(0, content.document.appearance().colorSchema())};
     if (own.size() > 1)
-        found.hint = MvColorsCommand::tr("Weitere Seiten haben andere eigene Farben; behalten werden die ersten.");
+        found.notes.append(
+            MvColorsCommand::tr("Weitere Seiten haben andere eigene Farben; behalten werden die ersten."));
     return found;
 }
 
@@ -55,10 +54,10 @@ Found colorsOfSchemaFile(const QDomElement &root, const QFileInfo &file)
     for (QDomElement area = root.firstChildElement(tag); !area.isNull(); area = area.nextSiblingElement(tag))
         schemata.append(MvCalendariumColorSchema(area));
     if (schemata.size() == 1)
-        return {schemata.constFirst(), {}, {}};
-    return {{},
-            MvColorsCommand::tr("%1: das ist weder ein Projekt noch eine Datei mit genau einem Farbschema")
-                .arg(file.filePath()),
+        return {{}, schemata.constFirst()};
+    return {{MvColorsCommand::tr("%1: das ist weder ein Projekt noch eine Datei mit genau einem Farbschema")
+                 .arg(file.filePath()),
+             {}},
             {}};
 }
 
@@ -67,7 +66,7 @@ Found colorsOf(const QFileInfo &file)
     MvXMLLoader::Error error;
     const QDomDocument document = MvXMLLoader::loadDocument(file, &error);
     if (error.isError())
-        return {{}, error.describe(file), {}};
+        return {{error.describe(file), {}}, {}};
     const QDomElement root = document.documentElement();
     return root.tagName() == u"calendarproject"_s ? colorsOfProject(file) : colorsOfSchemaFile(root, file);
 }
@@ -119,8 +118,8 @@ MvCliCommand::Result MvColorsCommand::run(const MvCliArguments &arguments, const
     if (task == saveTask)
         return keep(values, streams);
     if (task == resetTask) {
-        const QString error = MvUserColorSchemata::reset().error;
-        return error.isEmpty() ? Result() : failed(error);
+        const MvOutcome done = MvUserColorSchemata::reset();
+        return done.isOk() ? Result() : failed(done.error);
     }
     if (!task.isEmpty()) {
         const MvCalendariumColorSchemaID id = schemaId(values, task);
@@ -160,16 +159,16 @@ MvCalendariumColorSchemaID MvColorsCommand::schemaId(MvCliValues &values, const 
 MvCliCommand::Result MvColorsCommand::keep(const MvCliValues &values, const Streams &streams)
 {
     const QString name = values.text(saveTask);
-    if (const QString error = MvUserColorSchemata::nameError(name); !error.isEmpty())
-        return misused(u"--%1 „%2“: %3"_s.arg(saveTask, name, error));
+    if (const MvOutcome named = MvUserColorSchemata::checkName(name); !named.isOk())
+        return misused(u"--%1 „%2“: %3"_s.arg(saveTask, name, named.error));
     const Found found = colorsOf(QFileInfo(values.text(u"from"_s)));
-    if (!found.error.isEmpty())
+    if (!found.isOk())
         return failed(found.error);
     const MvUserColorSchemata::Result result = MvUserColorSchemata::keep(found.schema, name);
     if (!result.isOk())
         return failed(result.error);
-    if (!found.hint.isEmpty())
-        streams.hints << found.hint << '\n';
+    for (const QString &note : found.notes)
+        streams.hints << note << '\n';
     print({describe(result.id)}, false, streams.out);
     return {};
 }
@@ -188,8 +187,8 @@ MvCliCommand::Result MvColorsCommand::change(const MvCliValues &values, const QS
     }
     const QString name = values.text(u"to"_s);
     if (task == renameTask) {
-        if (const QString error = MvUserColorSchemata::nameError(name, id); !error.isEmpty())
-            return misused(u"--to „%1“: %2"_s.arg(name, error));
+        if (const MvOutcome named = MvUserColorSchemata::checkName(name, id); !named.isOk())
+            return misused(u"--to „%1“: %2"_s.arg(name, named.error));
     }
     const MvUserColorSchemata::Result result =
         task == renameTask ? MvUserColorSchemata::rename(id, name) : MvUserColorSchemata::remove(id);

@@ -2,6 +2,7 @@
 #include "MvHolidaysCommand.h"
 
 #include "MvCliValues.h"
+#include "MvCore/MvApplicationLocale.h"
 #include "MvProductBase/MvCalendariumHolidayCacheKey.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 #include "MvProductBase/MvDateRange.h"
@@ -32,7 +33,7 @@ QString typeName(const MvCalendariumHolidayType &type)
     }
 }
 
-QString germanTypeName(const MvCalendariumHolidayType &type)
+QString visibleTypeName(const MvCalendariumHolidayType &type)
 {
     switch (type.toInt()) {
     case HOLIDAY_TYPE_PUBLIC:
@@ -135,14 +136,14 @@ MvCliCommand::Result MvHolidaysCommand::run(const MvCliArguments &arguments, con
 
 void MvHolidaysCommand::printText(const MvCalendariumHolidayList &holidays, QTextStream &out)
 {
-    const QLocale german(QLocale::German, QLocale::Germany);
+    const QLocale locale = MvApplicationLocale::instance().locale();
     MvTextTable table;
     for (const Span &span : spansOf(holidays)) {
-        const auto describe = [&](const QDate &date) { return german.toString(date, u"ddd dd.MM.yyyy"_s); };
+        const auto describe = [&](const QDate &date) { return locale.toString(date, tr("ddd dd.MM.yyyy")); };
         QString days = describe(span.holiday.date());
         if (span.last != span.holiday.date())
             days += u" – "_s + describe(span.last);
-        table.addRow({days, germanTypeName(span.holiday.type()), span.holiday.description()});
+        table.addRow({days, visibleTypeName(span.holiday.type()), span.holiday.description()});
     }
     table.print(out);
 }

@@ -39,17 +39,6 @@ MvExportTarget targetOf(const QString &path)
     return MvExportTarget(path, MvExportTarget::Pdf::OneOfEachPage);
 }
 
-QString titleOf(const MvDateRange &range)
-{
-    const QLocale german(QLocale::German, QLocale::Germany);
-    if (range.start().month() == 1 && range.monthCount() == 12)
-        return MvRenderCommand::tr("Kalender %1").arg(range.start().year());
-    const auto describe = [&](const QDate &date) { return german.toString(date, u"MMMM yyyy"_s); };
-    if (range.monthCount() == 1)
-        return MvRenderCommand::tr("Kalender %1").arg(describe(range.start()));
-    return MvRenderCommand::tr("Kalender %1 bis %2").arg(describe(range.start()), describe(range.end()));
-}
-
 } // namespace
 
 QString MvRenderCommand::summary() const
@@ -120,12 +109,11 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
 
     const QStringList targets = arguments.values(u"output"_s);
     MvFileHints hints(values.text(u"project"_s, targets.constFirst()), streams.hints);
-    QString error;
-    if (values.has(u"project"_s))
-        document = documentFromProject(values, &error, hints.stream());
-    if (!error.isEmpty())
-        return failed(error);
-    if (const Result checked = checkTargets(targets, document); checked.code != Done)
+    if (values.has(u"project"_s)) {
+        if (const MvOutcome read = readProject(values, document, hints.stream()); !read.isOk())
+            return failed(read.error);
+    }
+    if (const Result checked = checkTargets(targets, document, dpi); checked.code != Done)
         return checked;
 
     const MvRenderEntries entries = takeEntries(values, document);
@@ -136,15 +124,18 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     return write(document, entries, arguments, dpi, {streams.out, hints.stream()});
 }
 
-MvCliCommand::Result MvRenderCommand::checkTargets(const QStringList &paths, const MvCalendarDocument &document)
+MvCliCommand::Result MvRenderCommand::checkTargets(const QStringList &paths, const MvCalendarDocument &document,
+                                                   int dpi)
 {
     const MvPageSource pages = document.pageSource();
     for (const QString &path : paths)
-        if (const QString error = targetOf(path).nameError(pages); !error.isEmpty())
-            return misused(error);
-    for (const QString &path : paths)
-        if (const QString place = targetOf(path).placeError(); !place.isEmpty())
-            return failed(place);
+        if (const MvOutcome named = targetOf(path).files(pages); !named.isOk())
+            return misused(named.error);
+    for (const QString &path : paths) {
+        for (const MvOutcome &checked : {targetOf(path).checkPlace(), targetOf(path).checkSize(pages.format, dpi)})
+            if (!checked.isOk())
+                return failed(checked.error);
+    }
     return {};
 }
 
@@ -194,23 +185,20 @@ MvCalendarDocument MvRenderCommand::documentFromOptions(MvCliValues &values)
     document.setHolidayConfig(holidayConfig(values));
     document.setAppearance(appearance(values));
     document.setFormat(pageFormat(values));
-    document.setTitle(values.text(u"title"_s, titleOf(document.range())));
+    document.setTitle(values.text(u"title"_s));
     document.setAuthor(values.text(u"author"_s));
     return document;
 }
 
-MvCalendarDocument MvRenderCommand::documentFromProject(const MvCliValues &values, QString *error, QTextStream &hints)
+MvOutcome MvRenderCommand::readProject(const MvCliValues &values, MvCalendarDocument &document, QTextStream &hints)
 {
     const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(values.text(u"project"_s)));
-    *error = content.error;
     for (const QString &note : content.notes)
         hints << note << '\n';
-    MvCalendarDocument document = content.document;
-    if (document.title().isEmpty())
-        document.setTitle(titleOf(document.range()));
+    document = content.document;
     document.setTitle(values.text(u"title"_s, document.title()));
     document.setAuthor(values.text(u"author"_s, document.author()));
-    return document;
+    return content;
 }
 
 void MvRenderCommand::excludeDecidedByProject(MvCliValues &values)
@@ -309,15 +297,7 @@ MvRenderEntries MvRenderCommand::takeEntries(const MvCliValues &values, MvCalend
         entries = MvRenderEntries::own();
     else if (values.has(u"entries"_s))
         entries = MvRenderEntries::ofFile(QFileInfo(values.text(u"entries"_s)));
-    for (int page = 0; page < document.pages().size(); ++page) {
-        MvCalendarPage changed = document.pages()[page];
-        MvCalendariumContentConfig content = changed.contentConfig();
-        MvCalendariumHolidayConfig config = content.holidayConfig();
-        config.setFeature(FEATURE_ENTRIES, entries.areShown());
-        content.setHolidayConfig(config);
-        changed.setContentConfig(content);
-        document.setPage(page, changed);
-    }
+    document.setFeature(FEATURE_ENTRIES, entries.areShown());
     return entries;
 }
 

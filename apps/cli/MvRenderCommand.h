@@ -22,10 +22,10 @@ public:
 private:
     static MvCalendarDocument documentFromOptions(MvCliValues &values);
     /// An unreadable file gives an error, what could not be taken from it hints.
-    static MvCalendarDocument documentFromProject(const MvCliValues &values, QString *error, QTextStream &hints);
+    static MvOutcome readProject(const MvCliValues &values, MvCalendarDocument &document, QTextStream &hints);
     static void excludeDecidedByProject(MvCliValues &values);
     /// What is wrong with the names of the files, or keeps them from being written.
-    static Result checkTargets(const QStringList &paths, const MvCalendarDocument &document);
+    static Result checkTargets(const QStringList &paths, const MvCalendarDocument &document, int dpi);
     static Result write(const MvCalendarDocument &document, const MvRenderEntries &entries,
                         const MvCliArguments &arguments, int dpi, const Streams &streams);
     static MvDateRange range(MvCliValues &values);

@@ -136,9 +136,9 @@ void MvStudioApplication::offerRecovery()
     auto *dialog = new MvRecoveryDialog(entries, m_window.get());
     connect(dialog, &MvRecoveryDialog::openRequested, this, [this](const MvProjectRecovery::Entry &entry) {
         m_window->projectFlow()->leave([this, entry] {
-            QString error;
-            if (!MvProjectRecovery::open(entry, *m_project, &error))
-                MvStudioMessage::error(m_window.get(), tr("Der Kalender lässt sich nicht wiederherstellen."), error);
+            if (const MvOutcome opened = MvProjectRecovery::open(entry, *m_project); !opened.isOk())
+                MvStudioMessage::error(m_window.get(), tr("Der Kalender lässt sich nicht wiederherstellen."),
+                                       opened.error);
         });
     });
     dialog->open();

@@ -6,6 +6,7 @@
 #include "MvXML/MvXMLKeywords.h"
 #include "MvXML/MvXMLLoader.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDir>
 
@@ -119,7 +120,8 @@ bool MvXMLBuilder::saveUTF8(const QDomDocument &document, const QFileInfo &file)
         const QString aside = MvSafeFileWriter::setAside(file);
         if (aside.isEmpty())
             return false; // an unsaved change is better than a lost file
-        qWarning().noquote() << u"%1, set aside as %2"_s.arg(error.describe(file), aside);
+        qWarning().noquote() << QCoreApplication::translate("MvXMLBuilder", "%1 Der alte Stand liegt in %2.")
+                                    .arg(error.describe(file), QDir::toNativeSeparators(aside));
     }
     const QByteArray bytes = document.toByteArray(2);
     if (MvXMLLoader::check(bytes).isError())

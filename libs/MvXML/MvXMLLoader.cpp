@@ -1,63 +1,35 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvXML/MvXMLLoader.h"
 
+#include "MvCore/MvRegularFile.h"
 #include "MvXML/MvXMLGuard.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <new>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Opens a regular file without waiting: a pipe nobody writes to must not stop the program.
-bool openRegular(const QFileInfo &file, QFile &device, MvXMLLoader::Error &error)
-{
-    if (file.filePath().startsWith(u':')) {
-        if (!QFileInfo(file.filePath()).isDir() && device.open(QIODevice::ReadOnly))
-            return true;
-        error.message = MvXMLLoader::tr("Die Datei gibt es nicht.");
-        return false;
-    }
-    const int descriptor =
-        ::open(QFile::encodeName(file.absoluteFilePath()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0) {
-        error.message = errno == ENOENT || errno == ENOTDIR ? MvXMLLoader::tr("Die Datei gibt es nicht.")
-                                                            : MvXMLLoader::tr("Die Datei darf nicht gelesen werden.");
-        return false;
-    }
-    struct stat status = {};
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
-        ::close(descriptor);
-        error.message = MvXMLLoader::tr("Das ist keine gewöhnliche Datei.");
-        return false;
-    }
-    return device.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-}
-
 QByteArray readLimited(const QFileInfo &file, qint64 mostBytes, MvXMLLoader::Error &error)
 {
     constexpr qsizetype piece = 1024LL * 1024;
-    QFile device(file.filePath());
-    if (!openRegular(file, device, error))
+    const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(file.filePath()));
+    error.message = opened.error;
+    if (!opened.isOk())
         return {};
     QByteArray bytes;
-    bytes.reserve(std::min(device.size(), mostBytes) + 1);
+    bytes.reserve(std::min(opened.file->size(), mostBytes) + 1);
     while (bytes.size() <= mostBytes) { // the size that is told may be wrong
-        const QByteArray part = device.read(piece);
+        const QByteArray part = opened.file->read(piece);
         if (part.isEmpty())
             break;
         bytes += part;
     }
-    if (device.error() != QFileDevice::NoError)
+    if (opened.file->error() != QFileDevice::NoError)
         error.message = MvXMLLoader::tr("Die Datei lässt sich nicht zu Ende lesen.");
     return bytes;
 }

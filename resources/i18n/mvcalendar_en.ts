@@ -489,6 +489,18 @@
         <source>Einträge suchen</source>
         <translation>Search entries</translation>
     </message>
+    <message>
+        <source>Einträge hinzufügen</source>
+        <translation>Add entries</translation>
+    </message>
+    <message>
+        <source>Einträge laden</source>
+        <translation>Load entries</translation>
+    </message>
+    <message>
+        <source>Einträge löschen</source>
+        <translation>Delete entries</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarEventModel</name>
@@ -553,6 +565,21 @@
     <message>
         <source>Artickelvarianten</source>
         <translation>Product variants</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarTitle</name>
+    <message>
+        <source>Kalender %1</source>
+        <translation>Calendar %1</translation>
+    </message>
+    <message>
+        <source>Kalender %1 bis %2</source>
+        <translation>Calendar %1 to %2</translation>
+    </message>
+    <message>
+        <source>%1 – %2</source>
+        <translation>%1 – %2</translation>
     </message>
 </context>
 <context>
@@ -725,42 +752,6 @@
     <message>
         <source>Das Layout „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, die mit USER_ beginnt, bringt es zurück.</source>
         <translation>The layout “%1” is left out, because “%3” has its id %2, too. Another one that begins with USER_ brings it back.</translation>
-    </message>
-</context>
-<context>
-    <name>MvCalendariumRenderer</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>%1 = Monat, %2 = Jahr. Englische Version wahrscheinlich: &apos;%2 %1&apos;</comment>
-        <translation>%1 %2</translation>
-    </message>
-</context>
-<context>
-    <name>MvCalendariumRendererHolidays</name>
-    <message>
-        <source>d.M</source>
-        <comment>Format of Days: d means day, M means Month, yy means Jear</comment>
-        <translation>d.M</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1/%2: %3</source>
-        <translation>%1/%2: %3</translation>
-    </message>
-    <message>
-        <source>%1-%2: %3</source>
-        <translation>%1-%2: %3</translation>
-    </message>
-</context>
-<context>
-    <name>MvCalendariumRendererOneDayPerRow</name>
-    <message>
-        <source>%1 %2</source>
-        <comment>flip 1 and 2 to write &apos;1 KW&apos; instead of &apos;KW 1&apos; </comment>
-        <translation>%1 %2</translation>
     </message>
 </context>
 <context>
@@ -1967,6 +1958,10 @@
         <source>JAHR</source>
         <translation>YEAR</translation>
     </message>
+    <message>
+        <source>ddd dd.MM.yyyy</source>
+        <translation>ddd d MMM yyyy</translation>
+    </message>
 </context>
 <context>
     <name>MvImportReport</name>
@@ -2550,10 +2545,6 @@ The context menu replaces the photo by another one.</translation>
         <source>Seite %1: %2</source>
         <translation>Page %1: %2</translation>
     </message>
-    <message>
-        <source>%1 – %2</source>
-        <translation>%1 – %2</translation>
-    </message>
 </context>
 <context>
     <name>MvPdfBoxes</name>
@@ -2692,6 +2683,45 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
+    <name>MvPrintPreview</name>
+    <message>
+        <source>Druckvorschau</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken …</source>
+        <translation>&amp;Print …</translation>
+    </message>
+    <message>
+        <source>Als &amp;PDF exportieren …</source>
+        <translation>Export as &amp;PDF …</translation>
+    </message>
+    <message>
+        <source>Vorige Seite</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Nächste Seite</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>Größer</source>
+        <translation>Larger</translation>
+    </message>
+    <message>
+        <source>Kleiner</source>
+        <translation>Smaller</translation>
+    </message>
+    <message>
+        <source>Ganze Seite</source>
+        <translation>Whole page</translation>
+    </message>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+</context>
+<context>
     <name>MvProgressDialog</name>
     <message>
         <source>Wird abgebrochen …</source>
@@ -2736,14 +2766,6 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Kalender (*.%1)</source>
         <translation>Calendars (*.%1)</translation>
-    </message>
-    <message>
-        <source>Kalender %1</source>
-        <translation>Calendar %1</translation>
-    </message>
-    <message>
-        <source>Kalender %1 bis %2</source>
-        <translation>Calendar %1 to %2</translation>
     </message>
     <message>
         <source>Neuer Kalender</source>
@@ -2953,15 +2975,26 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvRegularFile</name>
+    <message>
+        <source>Die Datei gibt es nicht.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei darf nicht gelesen werden.</source>
+        <translation>The file may not be read.</translation>
+    </message>
+    <message>
+        <source>Das ist ein Ordner.</source>
+        <translation>This is a folder.</translation>
+    </message>
+    <message>
+        <source>Das ist keine gewöhnliche Datei.</source>
+        <translation>This is not a regular file.</translation>
+    </message>
+</context>
+<context>
     <name>MvRenderCommand</name>
-    <message>
-        <source>Kalender %1</source>
-        <translation>Calendar %1</translation>
-    </message>
-    <message>
-        <source>Kalender %1 bis %2</source>
-        <translation>Calendar %1 to %2</translation>
-    </message>
     <message>
         <source>druckt einen Kalender in Dateien</source>
         <translation>prints a calendar into files</translation>
@@ -3842,10 +3875,6 @@ Designs photo calendars and prints them.
 <context>
     <name>MvUndoActions</name>
     <message>
-        <source>Eintrag ändern</source>
-        <translation>Change entry</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -3865,13 +3894,20 @@ Designs photo calendars and prints them.
         <source>&amp;Wiederholen</source>
         <translation>&amp;Redo</translation>
     </message>
+</context>
+<context>
+    <name>MvUndoCommandCalendarEvent</name>
     <message>
-        <source>Einträge laden</source>
-        <translation>Load entries</translation>
+        <source>Eintrag anlegen</source>
+        <translation>Add entry</translation>
     </message>
     <message>
-        <source>Einträge löschen</source>
-        <translation>Delete entries</translation>
+        <source>Eintrag ändern</source>
+        <translation>Change entry</translation>
+    </message>
+    <message>
+        <source>Eintrag löschen</source>
+        <translation>Delete entry</translation>
     </message>
 </context>
 <context>
@@ -3907,6 +3943,14 @@ Designs photo calendars and prints them.
         <source>Was darin steht, ist nicht ganz zu lesen und ließ sich nicht beiseitelegen.</source>
         <translation>Not all that it holds can be read, and it could not be set aside.</translation>
     </message>
+    <message>
+        <source>%1 enthält mehr, als sich übernehmen lässt.</source>
+        <translation>%1 holds more than can be taken over.</translation>
+    </message>
+    <message>
+        <source>%1 Der alte Stand liegt in %2.</source>
+        <translation>%1 The old state is in %2.</translation>
+    </message>
 </context>
 <context>
     <name>MvVCardBirthdays</name>
@@ -3921,18 +3965,6 @@ Designs photo calendars and prints them.
 </context>
 <context>
     <name>MvVCardStream</name>
-    <message>
-        <source>es gibt keine solche Datei</source>
-        <translation>there is no such file</translation>
-    </message>
-    <message>
-        <source>das ist ein Ordner</source>
-        <translation>that is a folder</translation>
-    </message>
-    <message>
-        <source>das ist keine gewöhnliche Datei</source>
-        <translation>that is not a regular file</translation>
-    </message>
     <message>
         <source>%1 lässt sich nicht lesen: %2</source>
         <translation>%1 cannot be read: %2</translation>
@@ -4017,6 +4049,13 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
+    <name>MvXMLBuilder</name>
+    <message>
+        <source>%1 Der alte Stand liegt in %2.</source>
+        <translation>%1 The old state is in %2.</translation>
+    </message>
+</context>
+<context>
     <name>MvXMLLoader</name>
     <message>
         <source>Ein NUL-Zeichen darf nicht vorkommen.</source>
@@ -4059,18 +4098,6 @@ Designs photo calendars and prints them.
         <translation>The characters are not stored as UTF-8.</translation>
     </message>
     <message>
-        <source>Die Datei gibt es nicht.</source>
-        <translation>The file does not exist.</translation>
-    </message>
-    <message>
-        <source>Die Datei darf nicht gelesen werden.</source>
-        <translation>The file may not be read.</translation>
-    </message>
-    <message>
-        <source>Das ist keine gewöhnliche Datei.</source>
-        <translation>This is not a regular file.</translation>
-    </message>
-    <message>
         <source>Die Datei lässt sich nicht zu Ende lesen.</source>
         <translation>The file cannot be read to its end.</translation>
     </message>
@@ -4089,13 +4116,6 @@ Designs photo calendars and prints them.
     <message>
         <source>Der Arbeitsspeicher reicht für diese Datei nicht aus.</source>
         <translation>There is not enough memory for this file.</translation>
-    </message>
-</context>
-<context>
-    <name>QPrintPreviewDialog</name>
-    <message>
-        <source>Page setup</source>
-        <translation>Page setup</translation>
     </message>
 </context>
 </TS>

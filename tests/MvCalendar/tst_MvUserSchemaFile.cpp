@@ -145,7 +145,7 @@ void tst_MvUserSchemaFile::setsAside()
     QFile file(here.file().filePath());
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     file.close();
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"schemata.xml.*set aside"_s));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"schemata.xml.*Der alte Stand liegt in"_s));
     QTEST(text(here.keep(u"5=new"_s).areas), "after");
     QFile aside(here.file().dir().filePath(besides().value(0)));
     QVERIFY(aside.open(QIODevice::ReadOnly));

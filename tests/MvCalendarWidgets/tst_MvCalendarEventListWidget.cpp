@@ -261,6 +261,7 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     if (steps == 0)
         return;
     QCOMPARE(MvUndoController::instance().stack()->undoText(), u"loadEventList"_qs);
+    QCOMPARE(MvUndoController::instance().undoName(), u"Einträge hinzufügen"_qs);
     MvUndoController::instance().undo();
     QStringList undone = names();
     undone.sort();

@@ -4,6 +4,7 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumView.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvUndoController.h"
@@ -55,7 +56,7 @@ struct Canvas
     QPoint centre(const QDate &date) { return view.mapFromScene(manager->cell(date)->sceneBoundingRect().center()); }
 
     QGraphicsScene scene;
-    QGraphicsView view{&scene};
+    MvCalendariumView view{&scene};
     Calendarium *item = new Calendarium;
     Manager *manager = new Manager(item);
 };
@@ -358,6 +359,8 @@ void tst_MvGraphicsItemCalendariumCells::screenReader()
     QCOMPARE(cell->text(QAccessible::Description), u"Tim, Åsa"_s);
     QCOMPARE(cell->parent(), view);
     QCOMPARE(view->indexOfChild(cell), view->childCount() - 26);
+    QGraphicsView other(&canvas.scene); // of the program around
+    QCOMPARE(QAccessible::queryAccessibleInterface(&other)->indexOfChild(cell), -1);
     const QPoint centre = canvas.view.viewport()->mapToGlobal(canvas.centre(day));
     QVERIFY(cell->rect().contains(centre));
     QCOMPARE(view->childAt(centre.x(), centre.y()), cell);

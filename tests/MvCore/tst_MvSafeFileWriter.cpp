@@ -324,7 +324,7 @@ void tst_MvSafeFileWriter::longNames()
     const QFileInfo file(path(name));
     QVERIFY(MvFileGuard(file, 0).isLocked());
     for (const char *version : {"1", "2", "3"})
-        QCOMPARE(MvSafeFileWriter::write(file, version).note, QString());
+        QCOMPARE(MvSafeFileWriter::write(file, version).notes, QStringList());
     const QList<QFileInfo> backups = MvSafeFileWriter::backups(file);
     QCOMPARE(backups.size(), 2);
     QCOMPARE(contentOf(backups.first().fileName()), "2");

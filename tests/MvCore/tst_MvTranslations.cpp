@@ -79,6 +79,16 @@ void tst_MvTranslations::installs()
     }
     QCOMPARE(MvTranslations::nameOf(u"de"_s), u"Deutsch"_s);
     QCOMPARE(MvTranslations::nameOf(u"en"_s), u"English"_s);
+
+    // one more language is one more file
+    QVERIFY(MvDirectoryConfig::instance().programDataDir().mkpath(u"i18n"_s));
+    const QString dutch = MvDirectoryConfig::instance().programDataFile(u"i18n/mvcalendar_nl.qm"_s).filePath();
+    QVERIFY(QFile::copy(MvDirectoryConfig::instance().resource(u"i18n/mvcalendar_en.qm"_s).filePath(), dutch));
+    QCOMPARE(MvTranslations::languages(), (QStringList{u"de"_s, u"en"_s, u"nl"_s}));
+    QCOMPARE(MvTranslations::nameOf(u"nl"_s), u"Nederlands"_s);
+    QVERIFY(MvTranslations::install(u"nl"_s));
+    QCOMPARE(MvApplicationLocale::instance().locale().language(), QLocale::Dutch);
+    QVERIFY(MvTranslations::install(u"de"_s) && QFile::remove(dutch));
 }
 
 MV_TEST_MAIN(tst_MvTranslations)

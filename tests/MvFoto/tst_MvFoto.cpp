@@ -33,8 +33,8 @@ void tst_MvFoto::namesOfCopies_data()
     row("with transparent parts", MvMediaFormat::WebP, u"oma"_qs, u"webp"_qs, u"oma.png"_qs);
     row("unreadable", MvMediaFormat::Unknown, u"oma"_qs, u"svg"_qs, u"oma.jpg"_qs);
     row("no name", MvMediaFormat::Jpeg, QString(), QString(), u"foto.jpg"_qs);
-    row("way out of the folder", MvMediaFormat::Png, u"../../etc/passwd"_qs, QString(), u"etcpasswd.png"_qs);
-    row("refused characters", MvMediaFormat::Png, u" a:b*c\n"_qs, QString(), u"abc.png"_qs);
+    row("way out of the folder", MvMediaFormat::Png, u"../../etc/passwd"_qs, QString(), u"-..-etc-passwd.png"_qs);
+    row("refused characters", MvMediaFormat::Png, u" a:b*c\n"_qs, QString(), u"a-b-c.png"_qs);
     row("umlauts and emoji stay", MvMediaFormat::Png, u"Ömi \U0001F382"_qs, QString(), u"Ömi \U0001F382.png"_qs);
     row("very long", MvMediaFormat::Png, QString(79, u'x') + u"\U0001F382"_qs, QString(),
         QString(79, u'x') + u".png"_qs);

@@ -3,9 +3,11 @@
 #include "MvCalendar/MvRenderingProbe.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvPageSource.h"
 #include "MvTest.h"
 
+#include <QDomDocument>
 #include <QImage>
 #include <QPainter>
 
@@ -16,6 +18,8 @@ class tst_MvCalendarDocument : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void pages_data();
+    void pages();
     void lacksLeapDay_data();
     void lacksLeapDay();
     void paintsTheMargins_data();
@@ -38,6 +42,53 @@ MvCalendarDocument tst_MvCalendarDocument::document(const QString &colors)
     document.setRange(MvDateRange(QDate(2027, 2, 1), QDate(2027, 2, 28)));
     document.setFormat(MvPageFormat::fromName(u"A6"_s));
     return document;
+}
+
+void tst_MvCalendarDocument::pages_data()
+{
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QDate>("start");
+    QTest::addColumn<QDate>("end");
+    QTest::addColumn<QList<QDate>>("pages");
+    QTest::addColumn<QString>("title");     // of the calendar
+    QTest::addColumn<QString>("pageTitle"); // of the first page
+    QTest::newRow("a page per month, over the year's end")
+        << u"CALENDAR_ONE_WEEK_PER_ROW"_s << QDate(2026, 11, 1) << QDate(2027, 1, 31)
+        << QList<QDate>{QDate(2026, 11, 1), QDate(2026, 12, 1), QDate(2027, 1, 1)}
+        << u"Kalender November 2026 bis Januar 2027"_s << u"November 2026"_s;
+    QTest::newRow("a page per year") << u"CALENDAR_YEAR"_s << QDate(2026, 8, 1) << QDate(2028, 7, 31)
+                                     << QList<QDate>{QDate(2026, 8, 1), QDate(2027, 8, 1)}
+                                     << u"Kalender August 2026 bis Juli 2028"_s << u"Aug. 2026 – Juli 2027"_s;
+    QTest::newRow("a year that has begun")
+        << u"CALENDAR_YEAR_ONLY"_s << QDate(2026, 1, 1) << QDate(2027, 1, 31)
+        << QList<QDate>{QDate(2026, 1, 1), QDate(2027, 1, 1)} << u"Kalender Januar 2026 bis Januar 2027"_s << u"2026"_s;
+    QTest::newRow("a range the wrong way round") << u"CALENDAR_MONTH_ONLY"_s << QDate(2027, 1, 1) << QDate(2026, 1, 1)
+                                                 << QList<QDate>{} << QString() << QString();
+    QTest::newRow("a year") << u"CALENDAR_YEAR"_s << QDate(2027, 1, 1) << QDate(2027, 12, 31)
+                            << QList{QDate(2027, 1, 1)} << u"Kalender 2027"_s << u"2027"_s;
+}
+
+void tst_MvCalendarDocument::pages()
+{
+    QFETCH(const QString, type);
+    QFETCH(const QDate, start);
+    QFETCH(const QDate, end);
+    QFETCH(const QList<QDate>, pages);
+    QDomDocument xml;
+    QDomElement element = xml.createElement(u"calendararea"_s);
+    element.setAttribute(u"layoutschema"_s, u"TEST"_s);
+    element.setAttribute(u"type"_s, type);
+    MvCalendarDocument calendar = document(u"NIGHT"_s);
+    MvCalendariumAppearance appearance = calendar.appearance();
+    appearance.setLayoutSchema(MvCalendariumLayoutSchema(element));
+    calendar.setAppearance(appearance);
+    calendar.setRange(MvDateRange(start, end));
+    QCOMPARE(calendar.pageDates(), pages);
+    QCOMPARE(calendar.pageSource().pages, pages);
+    QTEST(calendar.pageSource().title, "title");
+    QTEST(MvCalendarTitle::ofPage(calendar.pages().value(0)), "pageTitle");
+    calendar.setTitle(u"Familie"_s);
+    QCOMPARE(calendar.pageSource().title, u"Familie"_s);
 }
 
 void tst_MvCalendarDocument::lacksLeapDay_data()
@@ -150,7 +201,7 @@ void tst_MvCalendarDocument::withoutSchemasThereIsNothing()
 {
     const MvCalendarDocument empty;
     QVERIFY(!empty.isValid());
-    QVERIFY(!empty.pageSource().error().isEmpty());
+    QVERIFY(!empty.pageSource().check().isOk());
     QImage image(50, 50, QImage::Format_RGB32);
     image.fill(Qt::green);
     const QImage before = image;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageFormat.h"
+#include "MvProject/MvPageSource.h"
 #include "MvTest.h"
 
 using namespace Qt::StringLiterals;
@@ -96,13 +97,15 @@ void tst_MvPageFormat::namesFiles()
     QFETCH(const QString, pattern);
     QFETCH(const int, months);
     QFETCH(const QString, last);
-    QList<QDate> pages;
+    MvPageSource source;
     for (int month = 0; month < months; ++month)
-        pages.append(QDate(2026, 8, 1).addMonths(month));
-    QString error;
-    const QStringList paths = MvFileNamePattern(pattern).paths(pages, &error);
-    QCOMPARE(paths.value(months - 1), last);
-    QCOMPARE(error.contains(pattern), last.isEmpty()); // says which name it is about
+        source.pages.append(QDate(2026, 8, 1).addMonths(month));
+    const MvFileNamePattern::Paths names = MvFileNamePattern(pattern).paths(source);
+    QCOMPARE(names.paths.value(months - 1), last);
+    QCOMPARE(names.error.contains(pattern), last.isEmpty()); // says which name it is about
+    const MvFileNamePattern::Paths ofPart = MvFileNamePattern(pattern).paths(source.part({-1, months - 1, months}));
+    QVERIFY(last.isEmpty() ||
+            ofPart.paths == QStringList{last}); // the page's number stays, whatever is left of the pages
 }
 
 MV_TEST_MAIN(tst_MvPageFormat)

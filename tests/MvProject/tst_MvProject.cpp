@@ -183,10 +183,8 @@ void tst_MvProject::savesAndOpens()
     const QFileInfo file(dir.filePath(u"Oma & Opa.mvcalendar"_s));
     MvProject project;
     project.newProject(document(u"MONTH_GRID_CLASSIC"_s));
-    QString error;
-    QVERIFY(!project.save(&error));
-    QVERIFY(!error.isEmpty());
-    QVERIFY(!project.saveAs(QFileInfo(dir.filePath(u"nirgends/a.mvcalendar"_s)), &error));
+    QVERIFY(!project.save().isOk());
+    const QString error = project.saveAs(QFileInfo(dir.filePath(u"nirgends/a.mvcalendar"_s))).error;
     QVERIFY2(error.contains(u"nirgends/a.mvcalendar"_s), qPrintable(error));
     QVERIFY(project.fileInfo().filePath().isEmpty());
 
@@ -194,20 +192,19 @@ void tst_MvProject::savesAndOpens()
     changed.setTitle(u"Neu"_s);
     project.change(changed, u"Titel"_s);
     QVERIFY(project.isModified());
-    QVERIFY2(project.saveAs(file, &error), qPrintable(error));
+    QCOMPARE(project.saveAs(file).error, QString());
     QVERIFY(!project.isModified());
     QCOMPARE(project.displayName(), u"Oma & Opa"_s);
     MvUndoController::instance().undo();
     QVERIFY(project.isModified());
 
     MvProject other;
-    QVERIFY2(other.open(file, &error), qPrintable(error));
+    QCOMPARE(other.open(file).error, QString());
     QVERIFY(other.document() == changed);
     QVERIFY(!other.isModified() && !other.isFileChangedByOthers());
     QVERIFY(project.save());
     QVERIFY(other.isFileChangedByOthers());
-    QVERIFY(!other.open(QFileInfo(dir.filePath(u"fehlt.mvcalendar"_s)), &error));
-    QVERIFY(error.contains(u"fehlt.mvcalendar"_s));
+    QVERIFY(other.open(QFileInfo(dir.filePath(u"fehlt.mvcalendar"_s))).error.contains(u"fehlt.mvcalendar"_s));
     QVERIFY(other.document() == changed); // what was open stays
 }
 

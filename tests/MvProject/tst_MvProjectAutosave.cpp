@@ -79,7 +79,7 @@ void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother()
     file.close();
 
     if (meanwhile.startsWith(u"saved"_s)) {
-        QCOMPARE(MvProjectFile::write(titled(u"gerettet"_s), original), QString());
+        QCOMPARE(MvProjectFile::write(titled(u"gerettet"_s), original).error, QString());
         QFile saved(original.filePath());
         const QDateTime time = QFileInfo(lost.filePath()).lastModified().addSecs(meanwhile == u"saved"_s ? 60 : -60);
         QVERIFY(saved.open(QIODevice::ReadWrite) && saved.setFileTime(time, QFileDevice::FileModificationTime));

@@ -93,7 +93,7 @@ void tst_MvProjectFile::roundTrip_data()
 void tst_MvProjectFile::roundTrip()
 {
     QFETCH(const MvCalendarDocument, calendar);
-    QCOMPARE(MvProjectFile::write(calendar, file()), QString());
+    QCOMPARE(MvProjectFile::write(calendar, file()).error, QString());
     const MvProjectFile::Content content = MvProjectFile::read(file());
     QCOMPARE(content.error, QString());
     QCOMPARE(content.notes, QStringList());
@@ -143,7 +143,7 @@ void tst_MvProjectFile::roundTripOfAppearances()
         page.setAppearance(looks.at(number));
         calendar.setPage(number, page);
     }
-    QCOMPARE(MvProjectFile::write(calendar, file()), QString());
+    QCOMPARE(MvProjectFile::write(calendar, file()).error, QString());
     const MvProjectFile::Content content = MvProjectFile::read(file());
     QCOMPARE(content.notes, QStringList());
     for (int number = 0; number < looks.size(); ++number) {
@@ -157,10 +157,10 @@ void tst_MvProjectFile::roundTripOfAppearances()
 void tst_MvProjectFile::writesNothingThatDoesNotOpenAgain()
 {
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
-    QCOMPARE(MvProjectFile::write(calendar, file()), QString());
+    QCOMPARE(MvProjectFile::write(calendar, file()).error, QString());
     calendar.setTitle(QString(70'000, u'x'));
-    QVERIFY(MvProjectFile::write(calendar, file()).contains(u"nicht wieder öffnen"_s));
-    QVERIFY(MvProjectFile::read(file()).isRead()); // the state of before
+    QVERIFY(MvProjectFile::write(calendar, file()).error.contains(u"nicht wieder öffnen"_s));
+    QVERIFY(MvProjectFile::read(file()).isOk()); // the state of before
 }
 
 void tst_MvProjectFile::photosMoveWithTheirFolder()
@@ -169,7 +169,7 @@ void tst_MvProjectFile::photosMoveWithTheirFolder()
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
     setPhoto(calendar, 0, MvPhotoFrame(m_folder.filePath(u"alt/fotos/oma.png"_s)));
     setPhoto(calendar, 1, MvPhotoFrame(m_folder.filePath(u"neben.png"_s)));
-    QCOMPARE(MvProjectFile::write(calendar, file(u"alt/k.mvcalendar"_s)), QString());
+    QCOMPARE(MvProjectFile::write(calendar, file(u"alt/k.mvcalendar"_s)).error, QString());
     QVERIFY(QDir(m_folder.path()).rename(u"alt"_s, u"neu"_s));
     QVERIFY(writePhoto(m_folder.filePath(u"neu/fotos/oma.png"_s), {40, 30}));
     const MvProjectFile::Content content = MvProjectFile::read(file(u"neu/k.mvcalendar"_s));
@@ -290,8 +290,8 @@ void tst_MvProjectFile::namesTheBackup()
 {
     const MvCalendarDocument calendar = document(u"DAY_LIST"_s, 1);
     const QFileInfo twice = file(u"zweimal.mvcalendar"_s);
-    QCOMPARE(MvProjectFile::write(calendar, twice), QString());
-    QCOMPARE(MvProjectFile::write(document(u"DAY_LIST"_s, 2), twice), QString());
+    QCOMPARE(MvProjectFile::write(calendar, twice).error, QString());
+    QCOMPARE(MvProjectFile::write(document(u"DAY_LIST"_s, 2), twice).error, QString());
     QFile device(twice.filePath());
     QVERIFY(device.open(QIODevice::WriteOnly) && device.write("<kaputt") > 0);
     device.close();

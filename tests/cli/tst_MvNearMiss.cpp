@@ -66,7 +66,7 @@ void tst_MvNearMiss::parses()
     QFETCH(const QStringList, output);
     QFETCH(const QString, complaint);
     MvCliArguments parsed;
-    const QString error = parsed.parse(arguments, {{u"output"_s, u"DATEI"_s, {}, true}, {u"switch"_s, {}, {}}});
+    const QString error = parsed.parse(arguments, {{u"output"_s, u"DATEI"_s, {}, true}, {u"switch"_s, {}, {}}}).error;
     QCOMPARE(error.isEmpty(), complaint.isEmpty());
     QVERIFY2(error.contains(complaint), qPrintable(error));
     if (complaint.isEmpty())

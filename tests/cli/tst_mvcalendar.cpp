@@ -87,6 +87,13 @@ QByteArray entriesFile(const QByteArray &name, const QByteArray &date)
            "    <UUID>{6f1a2a2e-7a53-4f0e-9d55-0d0f6f5b1c01}</UUID>\n  </CalendarEvent>\n</CalendarEvents>\n";
 }
 
+QByteArray outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    return process.waitForFinished() ? process.readAllStandardOutput() : QByteArray();
+}
+
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
@@ -375,13 +382,15 @@ void tst_mvcalendar::rendersPdf_data()
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<int>("pages");
     QTest::addColumn<QString>("size"); // as pdfinfo prints it
-    QTest::newRow("a year on A4") << u"--year 2027 --landscape"_s << 12 << u"841.89 x 595.276 pts"_s;
+    QTest::addColumn<QByteArray>("language");
+    QTest::newRow("a year on A4") << u"--year 2027 --landscape"_s << 12 << u"841.89 x 595.276 pts"_s << "de-DE"_ba;
     QTest::newRow("a school year, upright A3")
-        << u"--from 2026-08 --months 13 --page A3 --portrait"_s << 13 << u"841.89 x 1190.55 pts"_s;
-    QTest::newRow("own size with bleed") << u"--months 1 --page 300x200 --bleed 3"_s << 1 << u"867.402 x 583.937 pts"_s;
+        << u"--from 2026-08 --months 13 --page A3 --portrait"_s << 13 << u"841.89 x 1190.55 pts"_s << "de-DE"_ba;
+    QTest::newRow("own size with bleed") << u"--months 1 --page 300x200 --bleed 3"_s << 1 << u"867.402 x 583.937 pts"_s
+                                         << "de-DE"_ba;
     QTest::newRow("another country and layout")
-        << u"--year 2027 --country AT --region Tirol --layout MONTH_ONLY --colors NIGHT"_s << 12
-        << u"841.89 x 595.276 pts"_s;
+        << u"--year 2027 --country CH --language fr --layout MONTH_ONLY --colors NIGHT"_s << 12
+        << u"841.89 x 595.276 pts"_s << "fr-CH"_ba;
 }
 
 void tst_mvcalendar::rendersPdf()
@@ -389,18 +398,18 @@ void tst_mvcalendar::rendersPdf()
     QFETCH(const QString, arguments);
     QFETCH(const int, pages);
     QFETCH(const QString, size);
+    QFETCH(const QByteArray, language);
     const Call call = run(QStringList{u"render"_s, u"-o"_s, u"k.pdf"_s} + arguments.split(u' '));
     QCOMPARE(call.err, QByteArray());
     QCOMPARE(call.exitCode, 0);
     QCOMPARE(call.out, QByteArray("k.pdf\n"));
     QCOMPARE(files(), QStringList{u"k.pdf"_s});
 
-    QProcess pdfinfo;
-    pdfinfo.start(u"pdfinfo"_s, {path(u"k.pdf"_s)});
-    QVERIFY(pdfinfo.waitForFinished());
-    const QString info = QString::fromUtf8(pdfinfo.readAllStandardOutput());
+    const QString info = QString::fromUtf8(outputOf(u"pdfinfo"_s, {path(u"k.pdf"_s)}));
     QVERIFY2(info.contains(QRegularExpression(u"Pages: +%1\n"_s.arg(pages))), qPrintable(info));
     QVERIFY2(info.contains(QRegularExpression(u"Page size: +%1"_s.arg(size))), qPrintable(info));
+    const QByteArray plain = outputOf(u"qpdf"_s, {u"--qdf"_s, u"--object-streams=disable"_s, path(u"k.pdf"_s), u"-"_s});
+    QVERIFY(plain.contains("/Lang (" + language + ')'));
 }
 
 void tst_mvcalendar::rendersPng()
@@ -674,6 +683,13 @@ void tst_mvcalendar::language()
     QCOMPARE(help.out.contains("Options:"), isEnglish);
     QCOMPARE(help.out.contains("Optionen:"), !isEnglish);
     QCOMPARE(run({u"rendr"_s}, environment).err.contains("did you mean"), isEnglish);
+    const Call holidays = run({u"holidays"_s, u"--year"_s, u"2027"_s}, environment);
+    QVERIFY2(holidays.out.startsWith(isEnglish ? "Fri 1 Jan 2027 " : "Fr. 01.01.2027 "), holidays.out.constData());
+    run({u"render"_s, u"--from"_s, u"2026-08"_s, u"--months"_s, u"3"_s, u"-o"_s, u"k.pdf"_s}, environment);
+    const QByteArray info = outputOf(u"pdfinfo"_s, {path(u"k.pdf"_s)});
+    QVERIFY2(info.contains(isEnglish ? " Calendar August 2026 to October 2026\n"
+                                     : " Kalender August 2026 bis Oktober 2026\n"),
+             info.constData());
 }
 
 /// The language of the program is no business of the calendar's.

@@ -10,11 +10,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QFileInfo file = MvFuzz::file(MvFuzz::bytes(data, size));
     const MvProjectFile::Content content = MvProjectFile::read(file);
-    if (!content.isRead())
+    if (!content.isOk())
         return 0;
     const QByteArray written = MvProjectFile::toBytes(content.document, file.absoluteDir());
     const MvProjectFile::Content again = MvProjectFile::read(MvFuzz::file(written));
-    MvFuzz::check(again.isRead(), "a written project can be read");
+    MvFuzz::check(again.isOk(), "a written project can be read");
     MvFuzz::check(MvProjectFile::toBytes(again.document, file.absoluteDir()) == written,
                   "writing again changes nothing");
     return 0;

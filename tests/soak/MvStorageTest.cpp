@@ -176,7 +176,7 @@ int MvStorageTest::stateOfProject(const QFileInfo &file)
     if (!file.exists())
         return 0;
     const MvProjectFile::Content content = MvProjectFile::read(file);
-    return content.isRead() && content.notes.isEmpty() ? stateOf(content.document.title()) : -1;
+    return content.isOk() && content.notes.isEmpty() ? stateOf(content.document.title()) : -1;
 }
 
 int MvStorageTest::stateByTitle(const QString &path, const QByteArray &end)

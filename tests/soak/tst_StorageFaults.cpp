@@ -192,8 +192,7 @@ QString storeProject(const QDir &disk, int state)
 {
     MvProject project;
     project.newProject(document(state));
-    QString error;
-    return project.saveAs(QFileInfo(projectFile(disk)), &error) ? QString() : error;
+    return project.saveAs(QFileInfo(projectFile(disk))).error;
 }
 
 int stateOfProject(const QDir &disk)
@@ -252,8 +251,8 @@ QString recover(const QDir &, int)
         return u"nothing found"_s;
     auto *project = new MvProject; // stays: a program that ends gives up what it has not saved
     new MvProjectAutosave(project);
-    QString error;
-    return MvProjectRecovery::open(found.first(), *project, &error) && project->save(&error) ? QString() : error;
+    const MvOutcome opened = MvProjectRecovery::open(found.first(), *project);
+    return opened.isOk() ? project->save().error : opened.error;
 }
 
 /// What was found is in the project, or lies there still.

@@ -105,11 +105,8 @@ QString storeProject(const QDir &disk, int state)
 {
     MvProject *project = studio().project();
     changeTitle(state);
-    if (project->fileInfo().filePath().isEmpty()) {
-        QString error;
-        project->saveAs(QFileInfo(disk.filePath(u"Kalender.mvcalendar"_s)), &error);
-        return error;
-    }
+    if (project->fileInfo().filePath().isEmpty())
+        return project->saveAs(QFileInfo(disk.filePath(u"Kalender.mvcalendar"_s))).error;
     return toldAfter([] { studio().window()->projectFlow()->save(); }, [project] { return !project->isModified(); });
 }
 

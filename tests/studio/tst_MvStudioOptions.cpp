@@ -66,10 +66,9 @@ void tst_MvStudioOptions::pages_data()
 void tst_MvStudioOptions::pages()
 {
     QFETCH(QString, text);
-    QString error;
-    const QList<int> pages = MvPageRange::parse(text, 6, &error);
-    QTEST(pages, "pages");
-    QCOMPARE(error.isEmpty(), !pages.isEmpty());
+    const MvPageRange::Pages pages = MvPageRange::parse(text, 6);
+    QTEST(pages.numbers, "pages");
+    QCOMPARE(pages.isOk(), !pages.numbers.isEmpty());
 }
 
 MV_TEST_MAIN(tst_MvStudioOptions)

@@ -10,11 +10,10 @@
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintPages.h"
+#include "flows/MvPrintPreview.h"
 #include "flows/MvProjectFlow.h"
 #include "pages/MvPageCanvas.h"
 
-#include <QPrintPreviewDialog>
-#include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -222,7 +221,7 @@ void tst_MvStudioWindow::fileChangedByOthers()
     rename(u"Meins"_s);
     MvCalendarDocument theirs = project()->document();
     theirs.setTitle(u"Ihres"_s);
-    QCOMPARE(MvProjectFile::write(theirs, file), QString());
+    QCOMPARE(MvProjectFile::write(theirs, file).error, QString());
     trigger("saveProject");
     QCOMPARE(MvProjectFile::read(file).document.title(), u"Ihres"_s);
     click(dialog("changedByOthersQuestion"), "otherNameButton");
@@ -354,8 +353,30 @@ void tst_MvStudioWindow::exportErrors()
     settings->findChild<QComboBox *>(u"exportPages"_s)->setCurrentIndex(1);
     QVERIFY(button->isEnabled()); // a single page
     settings->findChild<QComboBox *>(u"exportPages"_s)->setCurrentIndex(2);
-    settings->findChild<QLineEdit *>(u"exportPageText"_s)->setText(u"13"_s);
+    auto *pages = settings->findChild<QLineEdit *>(u"exportPageText"_s);
+    pages->setText(u"13"_s);
     QVERIFY(message->text().contains(u"1 bis 12"_s));
+
+    // what is told to be replaced is what would be written
+    QFile existing(path(u"k-05.png"_s));
+    QVERIFY(existing.open(QIODevice::WriteOnly));
+    pattern->setText(u"k-%n"_s);
+    for (const auto &[text, isReplaced] :
+         {std::pair(u"5-6"_s, true), std::pair(u"1-5"_s, true), std::pair(u"8-12"_s, false)}) {
+        pages->setText(text);
+        QCOMPARE(message->text().contains(u"ersetzt"_s), isReplaced);
+    }
+    settings->findChild<QSpinBox *>(u"exportDpi"_s)->setValue(300);
+    QVERIFY(message->text().contains(u"3508 × 2480"_s));
+    MvCalendarDocument large = project()->document();
+    large.setFormat(MvPageFormat::fromName(u"1000x1000"_s));
+    settings->reject();
+    project()->change(large, u"Format"_s);
+    trigger("exportPng");
+    settings = dialog("exportDialog");
+    settings->findChild<QSpinBox *>(u"exportDpi"_s)->setValue(1200);
+    QVERIFY(!settings->findChild<QPushButton *>(u"exportButton"_s)->isEnabled());
+    QVERIFY(settings->findChild<QLabel *>(u"exportMessage"_s)->text().contains(u"erlaubt sind 32000"_s));
 }
 
 void tst_MvStudioWindow::print()
@@ -369,14 +390,17 @@ void tst_MvStudioWindow::print()
     auto *flow = window()->findChild<MvPrintFlow *>();
     flow->showPreview();
     QVERIFY(dialog("progressDialog"));
-    QTRY_VERIFY(dialog<QPrintPreviewDialog>("printPreview"));
-    auto *preview = dialog<QPrintPreviewDialog>("printPreview");
+    QTRY_VERIFY(dialog<MvPrintPreview>("printPreview"));
+    auto *preview = dialog<MvPrintPreview>("printPreview");
     QTRY_VERIFY(preview->isVisible());
     QVERIFY(!dialog("progressDialog"));
-    QCOMPARE(preview->findChild<QPrintPreviewWidget *>()->pageCount(), 12);
+    QCOMPARE(preview->pageCount(), 12);
+    auto *number = preview->findChild<QLabel *>(u"previewPage"_s);
+    preview->findChild<QAction *>(u"preview_page_next"_s)->trigger();
+    QCOMPARE(number->text(), u"Seite 2 von 12"_s);
     preview->printer()->setOutputFormat(QPrinter::PdfFormat);
     preview->printer()->setOutputFileName(path(u"alle.pdf"_s));
-    Q_EMIT preview->paintRequested(preview->printer()); // as its button does
+    Q_EMIT preview->printRequested(); // as after the choice of a printer
     preview->reject();
     QVERIFY(dialog("progressDialog"));
     QTRY_VERIFY(!dialog("progressDialog"));
@@ -404,12 +428,11 @@ void tst_MvStudioWindow::cancelledPreview()
     QVERIFY(pages);
     click(dialog("progressDialog"), "progressCancel");
     Q_EMIT pages->ready(); // the last page came in the same moment
-    QVERIFY(!window()->findChild<QPrintPreviewDialog *>());
+    QVERIFY(!window()->findChild<MvPrintPreview *>());
     QTRY_VERIFY(!dialog("progressDialog"));
     flow->showPreview(); // and once more
-    QTRY_VERIFY(dialog<QPrintPreviewDialog>("printPreview") &&
-                dialog<QPrintPreviewDialog>("printPreview")->isVisible());
-    dialog<QPrintPreviewDialog>("printPreview")->reject();
+    QTRY_VERIFY(dialog<MvPrintPreview>("printPreview") && dialog<MvPrintPreview>("printPreview")->isVisible());
+    dialog<MvPrintPreview>("printPreview")->reject();
 }
 
 void tst_MvStudioWindow::leapDayEntries()

@@ -261,7 +261,7 @@ void tst_StudioFileJourneys::nextCalendarIsLikeTheLast()
     document.setHolidayConfig({MvLocale(u"de_CH"_s), u"ZG"_s, document.holidayConfig().features()});
     const QFileInfo file(studio.path(u"familie.mvcalendar"_s));
     if (isOpened) {
-        QCOMPARE(MvProjectFile::write(document, file), QString());
+        QCOMPARE(MvProjectFile::write(document, file).error, QString());
         studio.window()->projectFlow()->open(file.filePath());
         QVERIFY(studio.window()->close());
     } else {

@@ -26,7 +26,6 @@ CASES = [
     ("MvA", "&lt;b&gt;x&lt;/b&gt;", "<translation>&lt;b&gt;x</translation>", "tags"),
     ("MvA", "„%1“", "<translation>„%1“</translation>", "quotation"),
     ("MvCalendariumRendererYear", "Schuljahr %1", "<translation>School year %1</translation>", "printed"),
-    ("MvCalendariumRendererYear", "Schuljahr %1", "<translation>Schuljahr %1</translation>", ""),
 ]
 NUMERUS = "<translation>{}</translation>"
 

@@ -2,11 +2,11 @@
 #include "flows/MvExportDialog.h"
 
 #include "MvGUIWidgets/MvSpinBox.h"
-#include "MvProject/MvFileNamePattern.h"
+#include "MvProject/MvExportTarget.h"
+#include "MvProject/MvPageSource.h"
 #include "MvProject/MvPngExporter.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
-#include "flows/MvPageRange.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -111,7 +112,8 @@ void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const Q
     if (isPdf())
         return;
     const bool isWithinAYear = m_document.range().monthCount() <= 12;
-    m_pattern = new QLineEdit(name + (isWithinAYear ? u"-%m.png"_s : u"-%y-%m.png"_s), this);
+    m_pattern =
+        new QLineEdit(MvFileNamePattern::escaped(name) + (isWithinAYear ? u"-%m.png"_s : u"-%y-%m.png"_s), this);
     m_pattern->setObjectName(u"exportPattern"_s);
     m_pattern->setToolTip(tr("%m Monat, %y Jahr, %n Nummer der Seite"));
     form->addRow(labelFor(tr("Datei&namen:"), m_pattern), m_pattern);
@@ -197,88 +199,88 @@ QString MvExportDialog::target() const
     return pattern.isEmpty() ? QString() : QFileInfo(QDir(path), pattern).absoluteFilePath();
 }
 
-QList<int> MvExportDialog::pages(QString *error) const
+MvPageRange::Pages MvExportDialog::pages() const
 {
-    error->clear();
     const int count = int(m_document.pages().size());
     if (m_pages->currentData() == CurrentPage)
-        return {m_currentPage};
-    if (m_pages->currentData() == SomePages && m_pageText->text().trimmed().isEmpty())
-        *error = tr("Welche Seiten? Schreiben Sie zum Beispiel 1-3, 5.");
-    if (!error->isEmpty())
-        return {};
-    return MvPageRange::parse(m_pages->currentData() == SomePages ? m_pageText->text() : QString(), count, error);
+        return {{}, {m_currentPage}};
+    if (m_pages->currentData() == AllPages)
+        return MvPageRange::parse({}, count);
+    if (m_pageText->text().trimmed().isEmpty())
+        return {{tr("Welche Seiten? Schreiben Sie zum Beispiel 1-3, 5."), {}}, {}};
+    return MvPageRange::parse(m_pageText->text(), count);
 }
 
-QStringList MvExportDialog::fileNames(QString *error) const
+MvOutcome MvExportDialog::checkTarget() const
 {
-    if (isPdf())
-        return {target()};
-    QString pageError;
-    QList<QDate> dates;
-    for (const int page : pages(&pageError))
-        dates.append(m_document.pageDates().value(page));
-    return MvFileNamePattern(target()).paths(dates, error);
-}
-
-QString MvExportDialog::error() const
-{
-    if (target().isEmpty())
-        return isPdf() ? tr("Wie soll die Datei heißen?") : tr("Wohin sollen die Bilder, und wie sollen sie heißen?");
-    const QFileInfo folder(QFileInfo(target()).absolutePath());
+    const QString path = target();
+    if (path.isEmpty())
+        return {isPdf() ? tr("Wie soll die Datei heißen?") : tr("Wohin sollen die Bilder, und wie sollen sie heißen?"),
+                {}};
+    const QFileInfo folder(QFileInfo(path).absolutePath());
     if (!folder.isDir())
-        return tr("Den Ordner %1 gibt es nicht.").arg(QDir::toNativeSeparators(folder.filePath()));
+        return {tr("Den Ordner %1 gibt es nicht.").arg(QDir::toNativeSeparators(folder.filePath())), {}};
     if (!folder.isWritable())
-        return tr("In den Ordner %1 dürfen Sie nicht schreiben; wählen Sie einen anderen.")
-            .arg(QDir::toNativeSeparators(folder.filePath()));
-    if (QFileInfo(target()).isDir())
-        return tr("%1 ist ein Ordner.").arg(QDir::toNativeSeparators(target()));
-    QString error;
-    pages(&error);
-    if (error.isEmpty())
-        fileNames(&error);
-    return error;
+        return {tr("In den Ordner %1 dürfen Sie nicht schreiben; wählen Sie einen anderen.")
+                    .arg(QDir::toNativeSeparators(folder.filePath())),
+                {}};
+    if (QFileInfo(path).isDir())
+        return {tr("%1 ist ein Ordner.").arg(QDir::toNativeSeparators(path)), {}};
+    return {};
 }
 
-QString MvExportDialog::note() const
+MvOutcome MvExportDialog::check() const
+{
+    const MvExportOptions wanted = options();
+    const MvExportTarget files(wanted.target);
+    const MvPageRange::Pages shown = pages();
+    const MvFileNamePattern::Paths names = files.files(m_document.pageSource().part(shown.numbers));
+    for (const MvOutcome &checked :
+         {checkTarget(), MvOutcome(shown), MvOutcome(names), files.checkSize(m_document.format(), wanted.dpi)}) {
+        if (!checked.isOk())
+            return checked;
+    }
+    return {{}, notes(names.paths)};
+}
+
+QStringList MvExportDialog::notes(const QStringList &files) const
 {
     QStringList lines;
     if (m_dpi) {
-        const QSizeF inches = m_document.format().trimSize() / 254.0;
-        lines.append(tr("Jedes Bild wird %1 × %2 Pixel groß.")
-                         .arg(std::lround(inches.width() * m_dpi->value()))
-                         .arg(std::lround(inches.height() * m_dpi->value())));
+        const QSize size = MvPngExporter::pixelSize(m_document.format(), m_dpi->value());
+        lines.append(tr("Jedes Bild wird %1 × %2 Pixel groß.").arg(size.width()).arg(size.height()));
     }
-    QString ignored;
-    int existing = 0;
-    for (const QString &file : fileNames(&ignored))
-        existing += QFileInfo::exists(file) ? 1 : 0;
+    const int existing =
+        int(std::count_if(files.begin(), files.end(), [](const QString &file) { return QFileInfo::exists(file); }));
     if (existing > 0)
         lines.append(isPdf() ? tr("Die Datei gibt es schon; sie wird ersetzt.")
                              : tr("Schon vorhanden und ersetzt werden: %n Dateien.", nullptr, existing));
-    return lines.join(u' ');
+    return lines;
 }
 
 void MvExportDialog::validate()
 {
     if (!m_export)
         return; // still being built
-    const QString problem = error();
-    m_message->setText(problem.isEmpty() ? note() : problem);
-    m_export->setEnabled(problem.isEmpty());
+    const MvOutcome checked = check();
+    m_message->setText(checked.isOk() ? checked.notes.join(u' ') : checked.error);
+    m_export->setEnabled(checked.isOk());
 }
 
 MvExportOptions MvExportDialog::options() const
 {
-    QString ignored;
     MvExportOptions options;
     options.kind = m_kind;
     options.target = target();
-    options.pages = pages(&ignored);
+    options.pages = pages().numbers;
     options.dpi = m_dpi ? m_dpi->value() : defaultDpi;
     options.bleed = m_bleed ? std::round(m_bleed->value() * tenths) : m_document.format().bleed();
-    if (m_dpi)
-        MvStudioSettings::setText(u"export/dpi"_s, QString::number(m_dpi->value()));
-    MvStudioSettings::setFolder(u"export"_s, QFileInfo(options.target).absolutePath());
     return options;
+}
+
+void MvExportDialog::remember(const MvExportOptions &options)
+{
+    if (options.kind == MvExportOptions::Kind::Png)
+        MvStudioSettings::setText(u"export/dpi"_s, QString::number(options.dpi));
+    MvStudioSettings::setFolder(u"export"_s, QFileInfo(options.target).absolutePath());
 }

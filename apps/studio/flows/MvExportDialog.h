@@ -3,6 +3,7 @@
 
 #include "MvProject/MvCalendarDocument.h"
 #include "flows/MvExportOptions.h"
+#include "flows/MvPageRange.h"
 
 #include <QDialog>
 
@@ -24,7 +25,10 @@ public:
     MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocument &document, int currentPage,
                    const QString &folder, const QString &name, QWidget *parent);
 
+    /// What is asked for. Only to be used when the dialog was accepted.
     MvExportOptions options() const;
+    /// Offers this resolution and this folder the next time.
+    static void remember(const MvExportOptions &options);
 
 private:
     bool isPdf() const { return m_kind == MvExportOptions::Kind::Pdf; }
@@ -34,12 +38,11 @@ private:
     void addBleed(QFormLayout *form);
     void browse();
     QString target() const;
-    QList<int> pages(QString *error) const;
-    /// What keeps it from being exported, for a person.
-    QString error() const;
-    /// What the user should know before, such as files that are replaced.
-    QString note() const;
-    QStringList fileNames(QString *error) const;
+    MvPageRange::Pages pages() const;
+    /// What keeps it from being exported, or what the user should know before, such as files that are replaced.
+    MvOutcome check() const;
+    MvOutcome checkTarget() const;
+    QStringList notes(const QStringList &files) const;
     void validate();
 
     MvExportOptions::Kind m_kind;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "flows/MvExportFlow.h"
 
+#include "MvCore/MvFileName.h"
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvProject.h"
 #include "common/MvPrintNote.h"
@@ -23,13 +24,6 @@ namespace {
 
 constexpr int mostLines = 8; // of each kind, so that the message fits small screens
 
-QString fileNameOf(QString name)
-{
-    for (const QChar c : {u'/', u'\\', u':', u'%'})
-        name.replace(c, u'-');
-    return name;
-}
-
 } // namespace
 
 MvExportFlow::MvExportFlow(MvProject *project, QWidget *window)
@@ -49,8 +43,12 @@ void MvExportFlow::start(MvExportOptions::Kind kind)
     }
     const int page = qBound(0, m_currentPage, int(document.pages().size()) - 1);
     auto *dialog = new MvExportDialog(kind, document, page, MvStudioSettings::folder(u"export"_s),
-                                      fileNameOf(m_project->displayName()), m_window);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { warnAndRun(dialog->options()); });
+                                      MvFileName::cleaned(m_project->displayName()), m_window);
+    connect(dialog, &QDialog::accepted, this, [this, dialog] {
+        const MvExportOptions options = dialog->options();
+        MvExportDialog::remember(options);
+        warnAndRun(options);
+    });
     dialog->open();
 }
 

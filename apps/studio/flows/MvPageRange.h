@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
+
 #include <QCoreApplication>
 #include <QList>
 #include <QString>
@@ -11,7 +13,11 @@ class MvPageRange
     Q_DECLARE_TR_FUNCTIONS(MvPageRange)
 
 public:
-    /// The numbers of the pages, counted from 0, in ascending order, each once. An empty text means all. When a part is
-    /// no page or range of pages, or there is no such page: an empty list and an error for a person.
-    static QList<int> parse(const QString &text, int pageCount, QString *error);
+    struct Pages : MvOutcome
+    {
+        QList<int> numbers; // counted from 0, in ascending order, each once; empty on error
+    };
+
+    /// An empty text means all. A part that is no page or range of pages, and a page out of range, are errors.
+    static Pages parse(const QString &text, int pageCount);
 };

@@ -4,6 +4,7 @@
 #include "common/MvProgressDialog.h"
 #include "common/MvStudioMessage.h"
 #include "flows/MvPrintPages.h"
+#include "flows/MvPrintPreview.h"
 
 #include "MvCore/MvMath.h"
 #include "MvProject/MvExportJob.h"
@@ -12,11 +13,7 @@
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvProject.h"
 
-#include <QAction>
-#include <QCoreApplication>
-#include <QPaintEngine>
 #include <QPainter>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
@@ -28,12 +25,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A preview takes the place of the printer's own engine.
-bool isPreview(const QPrinter &printer)
-{
-    return printer.paintEngine()->type() == QPaintEngine::Picture;
-}
 
 /// Numbers counted from 0.
 QList<int> pagesToPrint(const QPrinter &printer, int count)
@@ -58,15 +49,6 @@ void adopt(const MvPageFormat &format, QPrinter *printer)
     printer->setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer->setFullPage(true);
     printer->setPageMargins({});
-}
-
-/// The preview offers another paper, which printers into a file do not even have; but the calendar knows its own.
-void hidePageSetup(const QPrintPreviewDialog *dialog)
-{
-    const QString text = QCoreApplication::translate("QPrintPreviewDialog", "Page setup");
-    for (QAction *action : dialog->findChildren<QAction *>())
-        if (action->text() == text)
-            action->setVisible(false);
 }
 
 } // namespace
@@ -136,21 +118,14 @@ void MvPrintFlow::openPreview()
     const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(m_project->displayName());
     adopt(m_project->document().format(), printer.get());
-    auto *dialog = new QPrintPreviewDialog(printer.get(), m_window);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setObjectName(u"printPreview"_s);
-    dialog->setWindowTitle(tr("Druckvorschau"));
+    auto *dialog = new MvPrintPreview(
+        printer, [pages = m_pages.get()](QPrinter *target) { paint(target, pages->pageSource()); }, m_window);
     dialog->resize(m_window->size().expandedTo({800, 600}) - QSize(60, 60));
-    hidePageSetup(dialog);
     m_pages->setParent(dialog);
-    connect(dialog, &QPrintPreviewDialog::paintRequested, m_pages, [this, printer, pages = m_pages.get()] {
-        if (isPreview(*printer))
-            paint(printer.get(), pages->pageSource());
-        else
-            print(printer);
-    });
-    connect(dialog, &QObject::destroyed, this, [printer] {});                // it outlives the dialog
-    QMetaObject::invokeMethod(dialog, &QDialog::open, Qt::QueuedConnection); // both take their time
+    connect(dialog, &MvPrintPreview::printRequested, this, [this, printer] { print(printer); });
+    connect(dialog, &MvPrintPreview::pdfRequested, this, &MvPrintFlow::pdfRequested);
+    // the preview needs a moment to open; until then the progress dialog can close
+    QMetaObject::invokeMethod(dialog, &QDialog::open, Qt::QueuedConnection);
 }
 
 /// The preview closes now; its printer goes on.
@@ -182,14 +157,8 @@ void MvPrintFlow::tellPrinted(const MvExportResult &result)
 
 void MvPrintFlow::paint(QPrinter *printer) const
 {
-    MvPageSource source = m_project->document().pageSource();
-    const QList<int> numbers = pagesToPrint(*printer, int(source.pages.size()));
-    QList<QDate> dates;
-    for (const int number : numbers)
-        dates.append(source.pages.at(number));
-    source.pages = dates;
-    source.paint = [all = source.paint, numbers](QPainter &painter, int page) { all(painter, numbers.at(page)); };
-    paint(printer, source);
+    const MvPageSource source = m_project->document().pageSource();
+    paint(printer, source.part(pagesToPrint(*printer, int(source.pages.size()))));
 }
 
 MvExportResult MvPrintFlow::paint(QPrinter *printer, const MvPageSource &source, MvExportObserver *observer)
@@ -204,15 +173,15 @@ MvExportResult MvPrintFlow::paint(QPrinter *printer, const MvPageSource &source,
 
     QPainter painter;
     if (!painter.begin(printer))
-        return {tr("Der Drucker nimmt keine Seiten an."), {}};
+        return MvExportResult::failed(tr("Der Drucker nimmt keine Seiten an."));
     const int total = int(source.pages.size());
     for (int number = 0; number < total; ++number) {
         if (number > 0 && !printer->newPage())
-            return {tr("Der Drucker nimmt keine weiteren Seiten an."), {}};
+            return MvExportResult::failed(tr("Der Drucker nimmt keine weiteren Seiten an."));
         source.paintPage(painter, number, corner, scale);
         if (observer && observer->isCancelled()) {
             printer->abort();
-            return {{}, {}, true};
+            return MvExportResult::cancelled();
         }
         if (observer)
             observer->pagesDone(number + 1, total);

@@ -5,7 +5,9 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvFileGuard.h"
+#include "MvCore/MvFileName.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
 #include "common/MvCalendarHabits.h"
@@ -40,14 +42,6 @@ QFileDialog *createFileDialog(const QString &title, QFileDialog::AcceptMode mode
     return dialog;
 }
 
-/// A file name out of a title.
-QString fileNameOf(QString title)
-{
-    for (const QChar c : {u'/', u'\\', u':', u'*', u'?', u'"', u'<', u'>', u'|'})
-        title.replace(c, u'-');
-    return title;
-}
-
 } // namespace
 
 MvProjectFlow::MvProjectFlow(MvProject *project, QWidget *window)
@@ -71,19 +65,8 @@ MvCalendarDocument MvProjectFlow::firstDocument()
     holidays.setProvince({}); // nobody has said where yet
     document.setHolidayConfig(holidays);
     MvCalendarHabits::applyTo(document);
-    document.setTitle(titleOf(document.range()));
+    document.setTitle(MvCalendarTitle::ofRange(document.range()));
     return document;
-}
-
-QString MvProjectFlow::titleOf(const MvDateRange &range)
-{
-    if (range.start().month() == 1 && range.monthCount() == 12)
-        return tr("Kalender %1").arg(range.start().year());
-    const QLocale locale = MvApplicationLocale::instance().locale();
-    const QString from = locale.toString(range.start(), u"MMMM yyyy"_s);
-    if (range.monthCount() == 1)
-        return tr("Kalender %1").arg(from);
-    return tr("Kalender %1 bis %2").arg(from, locale.toString(range.end(), u"MMMM yyyy"_s));
 }
 
 bool MvProjectFlow::isProjectFile(const QString &path)
@@ -104,7 +87,7 @@ void MvProjectFlow::startNew()
         dialog->setAcceptText(tr("Kalender anlegen"));
         connect(dialog, &QDialog::accepted, this, [this, dialog] {
             MvCalendarDocument document = dialog->document();
-            document.setTitle(titleOf(document.range()));
+            document.setTitle(MvCalendarTitle::ofRange(document.range()));
             m_project->newProject(document);
         });
         dialog->open();
@@ -133,20 +116,20 @@ void MvProjectFlow::open(const QString &path)
 
 void MvProjectFlow::openNow(const QString &path)
 {
-    QString error;
     const QFileInfo file(path);
-    if (!m_project->open(file, &error)) {
-        tellUnreadable(file, error);
+    const MvOutcome outcome = m_project->open(file);
+    if (!outcome.isOk()) {
+        tellUnreadable(file, outcome.error);
         return;
     }
     MvStudioSettings::addRecentFile(path);
     MvStudioSettings::setFolder(projectFolder, file.absolutePath());
     Q_EMIT recentFilesChanged();
     Q_EMIT message(tr("%1 geöffnet").arg(QDir::toNativeSeparators(file.absoluteFilePath())));
-    if (!m_project->notes().isEmpty())
+    if (!outcome.notes.isEmpty())
         MvStudioMessage::information(m_window,
                                      tr("Nicht alles konnte so übernommen werden, wie es in der Datei steht."),
-                                     MvStudioMessage::shortened(m_project->notes(), 10));
+                                     MvStudioMessage::shortened(outcome.notes, 10));
     Q_EMIT opened();
 }
 
@@ -156,7 +139,7 @@ void MvProjectFlow::tellUnreadable(const QFileInfo &file, const QString &error)
     QMessageBox *box = MvStudioMessage::error(m_window, tr("Der Kalender lässt sich nicht öffnen."), error);
     for (const QFileInfo &backup : MvSafeFileWriter::backups(file)) {
         const MvProjectFile::Content content = MvProjectFile::read(backup);
-        if (!content.isRead())
+        if (!content.isOk())
             continue;
         const QString time =
             MvApplicationLocale::instance().locale().toString(backup.lastModified(), QLocale::ShortFormat);
@@ -253,7 +236,7 @@ void MvProjectFlow::saveAsThen(const Then &then)
     dialog->setLabelText(QFileDialog::Accept, MvStudioMessage::buttonText(QDialogButtonBox::Save));
     if (!m_project->fileInfo().filePath().isEmpty())
         dialog->setDirectory(m_project->fileInfo().absolutePath());
-    dialog->selectFile(fileNameOf(m_project->displayName()) + u'.' + MvProjectFile::suffix());
+    dialog->selectFile(MvFileName::cleaned(m_project->displayName()) + u'.' + MvProjectFile::suffix());
     connect(dialog, &QFileDialog::fileSelected, this, [this, then](const QString &path) {
         const bool isOwn = QFileInfo(path).absoluteFilePath() == m_project->fileInfo().absoluteFilePath();
         if (isOwn && m_project->isFileChangedByOthers())
@@ -266,13 +249,12 @@ void MvProjectFlow::saveAsThen(const Then &then)
 
 void MvProjectFlow::write(const QString &path, const Then &then)
 {
-    QString error;
     const bool isSame = m_project->fileInfo().filePath() == path;
-    const bool isWritten = isSame ? m_project->save(&error) : m_project->saveAs(QFileInfo(path), &error);
-    if (!isWritten) {
+    const MvOutcome written = isSame ? m_project->save() : m_project->saveAs(QFileInfo(path));
+    if (!written.isOk()) {
         QMessageBox *box = MvStudioMessage::error(
             m_window, tr("Der Kalender wurde nicht gespeichert."),
-            tr("%1\nSpeichern Sie ihn unter einem anderen Namen oder in einem anderen Ordner.").arg(error));
+            tr("%1\nSpeichern Sie ihn unter einem anderen Namen oder in einem anderen Ordner.").arg(written.error));
         QPushButton *other = box->addButton(tr("Speichern &unter …"), QMessageBox::AcceptRole);
         other->setObjectName(u"saveElsewhereButton"_s);
         box->setDefaultButton(other);

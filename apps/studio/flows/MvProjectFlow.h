@@ -26,8 +26,6 @@ public:
 
     /// What a user sees who has nothing yet: the coming year, A4 landscape, in German.
     static MvCalendarDocument firstDocument();
-    /// "Kalender 2027", "Kalender März 2027 bis Juni 2028".
-    static QString titleOf(const MvDateRange &range);
 
     /// Whether a file is named like a project.
     static bool isProjectFile(const QString &path);

@@ -10,6 +10,7 @@
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvModelBase/MvRenderingRule.h"
+#include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvProject.h"
 
 #include <QContextMenuEvent>
@@ -35,7 +36,7 @@ constexpr double photoStep = 0.05;     // of the frame, per key
 } // namespace
 
 MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
-    : QGraphicsView(parent)
+    : MvCalendariumView(parent)
     , m_project(project)
     , m_scene(new QGraphicsScene(this))
     , m_item(new MvPageItem(project))
@@ -54,7 +55,8 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform |
                    QPainter::RenderHints::fromInt(MvRenderingRule::InteractiveScreen));
     viewport()->grabGesture(Qt::PinchGesture);
-    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex); // some dozens of items that come and go
+    m_scene->setItemIndexMethod(
+        QGraphicsScene::NoIndex); // for some fifty items that change with every month it costs more than it saves
     m_scene->addItem(m_item);
     setScene(m_scene);
     applyPalette();
@@ -66,8 +68,6 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     connect(m_photo, &MvPagePhoto::message, this, &MvPageCanvas::message);
     connect(project, &MvProject::pagesReset, this, [this] { setCurrentPage(currentPage()); });
     connect(project, &MvProject::documentReplaced, this, &MvPageCanvas::onDocumentReplaced);
-    // some fifty items that come and go with every month: an index of them costs more than it saves
-    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex);
     onRefreshed();
 }
 
@@ -181,7 +181,7 @@ void MvPageCanvas::applyZoom(double zoom, const QPointF &fixedPoint)
 
 void MvPageCanvas::resizeEvent(QResizeEvent *event)
 {
-    QGraphicsView::resizeEvent(event);
+    MvCalendariumView::resizeEvent(event);
     if (m_isFitted)
         zoomToFit();
 }
@@ -191,7 +191,7 @@ void MvPageCanvas::wheelEvent(QWheelEvent *event)
     constexpr int anglePerStep = 120;
     if (!(event->modifiers() & Qt::ControlModifier)) {
         if (verticalScrollBar()->maximum() > verticalScrollBar()->minimum()) {
-            QGraphicsView::wheelEvent(event);
+            MvCalendariumView::wheelEvent(event);
             return;
         }
         // nothing to scroll: on to the next page
@@ -226,7 +226,7 @@ bool MvPageCanvas::viewportEvent(QEvent *event)
             return true;
         }
     }
-    return QGraphicsView::viewportEvent(event);
+    return MvCalendariumView::viewportEvent(event);
 }
 
 // ------------------------------------------------------------------------------------------------------------- pointer
@@ -236,7 +236,7 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
     const bool isHand = event->button() == Qt::LeftButton && m_isSpaceDown;
     if (event->button() != Qt::MiddleButton && !isHand) {
         setFocusDate({});
-        QGraphicsView::mousePressEvent(event);
+        MvCalendariumView::mousePressEvent(event);
         event->accept(); // days look at a press and let it pass; nothing around the canvas wants it
         return;
     }
@@ -248,7 +248,7 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
 void MvPageCanvas::mouseMoveEvent(QMouseEvent *event)
 {
     if (!m_isPanning) {
-        QGraphicsView::mouseMoveEvent(event);
+        MvCalendariumView::mouseMoveEvent(event);
         return;
     }
     const QPoint moved = event->pos() - m_panFrom;
@@ -260,7 +260,7 @@ void MvPageCanvas::mouseMoveEvent(QMouseEvent *event)
 void MvPageCanvas::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!m_isPanning) {
-        QGraphicsView::mouseReleaseEvent(event);
+        MvCalendariumView::mouseReleaseEvent(event);
         return;
     }
     m_isPanning = false;
@@ -353,7 +353,7 @@ void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
             Q_EMIT message(tr("„%1“ ist kein Foto, das gelesen werden kann.").arg(QFileInfo(file).fileName()));
         return;
     }
-    QGraphicsView::dragEnterEvent(event);
+    MvCalendariumView::dragEnterEvent(event);
     showDropTarget(event);
     event->acceptProposedAction();
     Q_EMIT message(tr("Loslassen setzt das Foto ein. Mit gedrückter Umschalttaste wird es das Foto der Seite."));
@@ -365,14 +365,14 @@ void MvPageCanvas::dragMoveEvent(QDragMoveEvent *event)
         event->ignore();
         return;
     }
-    QGraphicsView::dragMoveEvent(event);
+    MvCalendariumView::dragMoveEvent(event);
     showDropTarget(event);
     event->acceptProposedAction();
 }
 
 void MvPageCanvas::dragLeaveEvent(QDragLeaveEvent *event)
 {
-    QGraphicsView::dragLeaveEvent(event);
+    MvCalendariumView::dragLeaveEvent(event);
     m_dropTarget->hide();
     m_draggedPhoto.clear();
     Q_EMIT message({});
@@ -387,7 +387,7 @@ void MvPageCanvas::dropEvent(QDropEvent *event)
     m_dropTarget->hide();
     Q_EMIT message({});
     if (isForDay)
-        QGraphicsView::dropEvent(event); // the day's cell takes it
+        MvCalendariumView::dropEvent(event); // the day's cell takes it
     else
         m_photo->set(photo);
     event->acceptProposedAction();
@@ -417,7 +417,7 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
         if (event->modifiers() & Qt::AltModifier)
             movePhoto(event->key());
         else if (!beginAtFirstDate() && !turnPageByArrow(event->key()))
-            QGraphicsView::keyPressEvent(event); // the day's cell goes on
+            MvCalendariumView::keyPressEvent(event); // the day's cell goes on
         return;
     case Qt::Key_Escape:
         if (m_photoHandle->isDragging())
@@ -427,21 +427,21 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
         return;
     case Qt::Key_Space:
         if (focusDate().isValid()) {
-            QGraphicsView::keyPressEvent(event);
+            MvCalendariumView::keyPressEvent(event);
         } else if (!event->isAutoRepeat()) {
             m_isSpaceDown = true;
             updateHand();
         }
         return;
     default:
-        QGraphicsView::keyPressEvent(event);
+        MvCalendariumView::keyPressEvent(event);
     }
 }
 
 void MvPageCanvas::keyReleaseEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Space) {
-        QGraphicsView::keyReleaseEvent(event);
+        MvCalendariumView::keyReleaseEvent(event);
         return;
     }
     if (!event->isAutoRepeat()) {
@@ -452,7 +452,7 @@ void MvPageCanvas::keyReleaseEvent(QKeyEvent *event)
 
 void MvPageCanvas::focusInEvent(QFocusEvent *event)
 {
-    QGraphicsView::focusInEvent(event);
+    MvCalendariumView::focusInEvent(event);
     const bool isByKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
                               event->reason() == Qt::ShortcutFocusReason;
     if (isByKeyboard && !setFocusDate(m_keyboardDate))
@@ -461,7 +461,7 @@ void MvPageCanvas::focusInEvent(QFocusEvent *event)
 
 void MvPageCanvas::focusOutEvent(QFocusEvent *event)
 {
-    QGraphicsView::focusOutEvent(event);
+    MvCalendariumView::focusOutEvent(event);
     m_isSpaceDown = false;
     m_isPanning = false;
     updateHand();
@@ -523,18 +523,17 @@ void MvPageCanvas::movePhoto(int key)
 /// What a screen reader says of the page; its days tell for themselves.
 void MvPageCanvas::updateDescription()
 {
-    const QLocale locale = MvApplicationLocale::instance().locale();
     setAccessibleDescription(tr("Seite %1 von %2: %3")
                                  .arg(currentPage() + 1)
                                  .arg(m_project->document().pages().size())
-                                 .arg(locale.toString(m_item->shownPage().contentConfig().date(), u"MMMM yyyy"_s)));
+                                 .arg(MvCalendarTitle::ofPage(m_item->shownPage())));
 }
 
 // ------------------------------------------------------------------------------------------------------------ painting
 
 void MvPageCanvas::changeEvent(QEvent *event)
 {
-    QGraphicsView::changeEvent(event);
+    MvCalendariumView::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         applyPalette();
 }

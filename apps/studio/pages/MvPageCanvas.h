@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/MvCalendariumView.h"
+
 #include <QDate>
-#include <QGraphicsView>
 
 class MvPageDropTarget;
 class MvPageItem;
@@ -15,7 +16,7 @@ class QMenu;
 ///
 /// Zoom 1 shows the page as large as it is printed. Fitted, the page follows the size of the view until it is zoomed
 /// otherwise.
-class MvPageCanvas : public QGraphicsView
+class MvPageCanvas : public MvCalendariumView
 {
     Q_OBJECT
 

@@ -33,7 +33,7 @@ public:
     explicit MvPageItem(MvProject *project, QGraphicsItem *parent = nullptr);
     ~MvPageItem() override;
 
-    /// The page's number, counted from 0; a page that there is not is shown as nothing.
+    /// The page's number, counted from 0; without such a page nothing is shown.
     int page() const { return m_page; }
     void setPage(int page);
     /// What is shown: the project's page, or the one that a gesture tries out.

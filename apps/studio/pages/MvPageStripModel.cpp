@@ -3,7 +3,7 @@
 
 #include "common/MvIdleImages.h"
 
-#include "MvCore/MvApplicationLocale.h"
+#include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvProject.h"
 
 using namespace Qt::StringLiterals;
@@ -26,28 +26,15 @@ QVariant MvPageStripModel::data(const QModelIndex &index, int role) const
         return {};
     switch (role) {
     case Qt::DisplayRole:
-        return months(index.row());
+        return MvCalendarTitle::ofPage(pages.at(index.row()));
     case Qt::DecorationRole:
         return m_images->image(index.row());
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole:
-        return tr("Seite %1: %2").arg(index.row() + 1).arg(months(index.row()));
+        return tr("Seite %1: %2").arg(index.row() + 1).arg(MvCalendarTitle::ofPage(pages.at(index.row())));
     default:
         return {};
     }
-}
-
-QString MvPageStripModel::months(int page) const
-{
-    const MvCalendarPage &shown = m_project->document().pages().at(page);
-    const QLocale locale = MvApplicationLocale::instance().locale();
-    const QDate first = shown.contentConfig().date();
-    if (shown.monthCount() == 1)
-        return locale.toString(first, u"MMMM yyyy"_s);
-    const QDate last = first.addMonths(shown.monthCount() - 1);
-    if (first.year() == last.year())
-        return QString::number(first.year());
-    return tr("%1 – %2").arg(locale.toString(first, u"MMM yyyy"_s), locale.toString(last, u"MMM yyyy"_s));
 }
 
 void MvPageStripModel::reset()

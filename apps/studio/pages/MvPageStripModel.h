@@ -23,8 +23,6 @@ public:
     void updateRow(int row);
 
 private:
-    QString months(int page) const;
-
     const MvProject *m_project;
     const MvIdleImages *m_images;
 };

@@ -17,7 +17,7 @@ public:
     /// Offers the registered schemas as they are now, with own colours before them, and marks one. Emits nothing.
     void showSchemata(const MvCalendariumColorSchema &marked, const QList<MvCalendariumColorSchema> &ownColors);
 
-    /// What a row shows; in a row that there is not, invalid ones. Own colours have no id.
+    /// What a row shows; invalid ones for a row out of range. Own colours have no id.
     MvCalendariumColorSchema schema(int row) const { return m_tiles.value(row).schema; }
     MvCalendariumColorSchemaID id(int row) const { return m_tiles.value(row).id; }
 

@@ -174,7 +174,7 @@ void MvColorSchemaShelf::askToKeep(const MvCalendariumColorSchema &schema)
 {
     const QString usual = tr("Meine Farben");
     QString name = usual;
-    for (int number = 2; !MvUserColorSchemata::nameError(name).isEmpty() && number < 100; ++number)
+    for (int number = 2; !MvUserColorSchemata::checkName(name).isOk() && number < 100; ++number)
         name = u"%1 %2"_s.arg(usual).arg(number);
     auto *dialog = new MvSchemaNameDialog(tr("Eigene Farben behalten"), name, {}, this);
     connect(dialog, &QDialog::accepted, this,

@@ -9,7 +9,6 @@
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -33,12 +32,7 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
     setObjectName(u"contentPanel"_s);
     addScopeSwitch();
     constexpr int regionLetters = 22;
-    for (const QString &name : {u"languageBox"_s, u"provinceBox"_s}) { // there is room here for long names
-        auto *box = m_content->findChild<QComboBox *>(name);
-        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-        box->setMinimumContentsLength(regionLetters);
-        box->setMaximumWidth(QWIDGETSIZE_MAX);
-    }
+    m_content->setNameLength(regionLetters); // there is room here for long names
     QVBoxLayout *column = addScrollingColumn();
     column->addWidget(m_content);
     m_vacationHint->setObjectName(u"vacationHint"_s);
@@ -50,8 +44,7 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
 
     auto *calendar = new QGroupBox(tr("Ganzer Kalender"), this);
     m_setup->setStartVisible(false); // stands above
-    for (QLabel *label : m_setup->findChildren<QLabel *>())
-        label->setText(label->text().remove(u'&')); // here they would take the menus' keys
+    m_setup->removeAccessKeys();     // here they would take the menus' keys
     (new QVBoxLayout(calendar))->addWidget(m_setup);
     column->addSpacing(fontMetrics().height() / 2);
     column->addWidget(calendar);
@@ -135,8 +128,7 @@ void MvContentPanel::applyHolidays(const MvCalendariumHolidayConfig &before, con
         return;
     const bool isOn = state == Qt::Checked;
     const auto apply = [&](MvCalendarPage &page) {
-        MvCalendariumContentConfig content = page.contentConfig();
-        MvCalendariumHolidayConfig holidays = content.holidayConfig();
+        MvCalendariumHolidayConfig holidays = page.holidayConfig();
         if (after.language() != before.language())
             holidays.setLanguage(after.language());
         if (after.language() != before.language() || after.province() != before.province())
@@ -146,8 +138,7 @@ void MvContentPanel::applyHolidays(const MvCalendariumHolidayConfig &before, con
         if (isSwitched)
             holidays.setFeature(
                 MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS | FEATURE_SCHOOL_VACATIONS), isOn);
-        content.setHolidayConfig(holidays);
-        page.setContentConfig(content);
+        page.setHolidayConfig(holidays);
         if (isSwitched && isOn && !page.appearance().showHolidays()) {
             MvCalendariumAppearance appearance = page.appearance();
             appearance.setShowHolidays(true);
@@ -159,13 +150,7 @@ void MvContentPanel::applyHolidays(const MvCalendariumHolidayConfig &before, con
 
 void MvContentPanel::onFeatureClicked(int feature, bool on)
 {
-    const auto apply = [&](MvCalendarPage &page) {
-        MvCalendariumContentConfig content = page.contentConfig();
-        MvCalendariumHolidayConfig holidays = content.holidayConfig();
-        holidays.setFeature(MvCalendariumFeaturesEnum(feature), on);
-        content.setHolidayConfig(holidays);
-        page.setContentConfig(content);
-    };
+    const auto apply = [&](MvCalendarPage &page) { page.setFeature(MvCalendariumFeaturesEnum(feature), on); };
     edits()->edit(apply, feature == FEATURE_CALENDAR_WEEKS ? tr("Kalenderwochen ein- oder ausblenden")
                                                            : tr("Feiertage und Einträge ändern"));
 }

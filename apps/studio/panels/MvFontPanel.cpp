@@ -6,7 +6,6 @@
 
 #include "MvCalendar/MvCalendariumFontEditor.h"
 
-#include <QComboBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -27,8 +26,7 @@ MvFontPanel::MvFontPanel(MvPageEdits *edits, QWidget *parent)
     addScopeSwitch();
     QVBoxLayout *column = addScrollingColumn();
     column->addWidget(m_editor);
-    if (auto *families = m_editor->findChild<QComboBox *>(u"fontFamilyBox"_s))
-        families->setMinimumContentsLength(familyLetters); // there is room here for whole names
+    m_editor->setFamilyLength(familyLetters); // there is room here for whole names
     m_reset->setObjectName(u"resetFont"_s);
     m_reset->setToolTip(tr("Nimmt wieder die Schriften und Größen, für die das Layout gemacht ist"));
     column->addWidget(m_reset, 0, Qt::AlignLeft);

@@ -9,10 +9,8 @@
 #include "MvCalendar/MvCalendariumColorSchemaEditor.h"
 #include "MvCalendar/MvSession.h"
 
-#include <QHeaderView>
 #include <QScrollArea>
 #include <QTabWidget>
-#include <QTableView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -37,7 +35,7 @@ MvLayoutPanel::MvLayoutPanel(MvPageEdits *edits, QWidget *parent)
     tabs->addTab(m_layouts, tr("Layout"));
     tabs->addTab(createColorPage(), tr("Farben"));
     panelLayout()->addWidget(tabs, 1);
-    fitColorTable();
+    m_colors->showAllRows();
     connect(m_layouts, &MvLayoutChooser::layoutIdChanged, this, &MvLayoutPanel::onLayoutChosen);
     connect(m_schemata, &MvColorSchemaShelf::colorSchemaChosen, this, &MvLayoutPanel::onSchemaChosen);
     connect(m_schemata, &MvColorSchemaShelf::schemataChanged, this, &MvLayoutPanel::showSchemata);
@@ -79,26 +77,6 @@ void MvLayoutPanel::showSchemata()
             ofPages.append(schema);
     }
     m_schemata->showSchema(edits()->page().appearance().colorSchema(), ofPages);
-}
-
-/// As high as its rows: what stands around it scrolls.
-void MvLayoutPanel::fitColorTable()
-{
-    auto *table = m_colors->findChild<QTableView *>(u"tableView"_s);
-    if (table == nullptr)
-        return;
-    table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    QHeaderView *rows = table->verticalHeader();
-    const auto fit = [table, rows] {
-        const int around = table->horizontalHeader()->sizeHint().height() + 2 * table->frameWidth();
-        table->setFixedHeight(rows->length() + around);
-    };
-    for (const QHeaderView *header : {rows, table->horizontalHeader()}) { // which know their size late
-        connect(header, &QHeaderView::sectionResized, table, fit, Qt::QueuedConnection);
-        connect(header, &QHeaderView::sectionCountChanged, table, fit, Qt::QueuedConnection);
-        connect(header, &QHeaderView::geometriesChanged, table, fit, Qt::QueuedConnection);
-    }
-    fit();
 }
 
 /// The pictures are made again only when they would look different.

@@ -23,7 +23,6 @@ protected:
 
 private:
     QWidget *createColorPage();
-    void fitColorTable();
     void showLayout();
     void showSchemata();
     void onLayoutChosen();

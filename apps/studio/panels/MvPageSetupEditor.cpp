@@ -169,6 +169,12 @@ void MvPageSetupEditor::setStartVisible(bool visible)
     static_cast<QFormLayout *>(layout())->setRowVisible(0, visible);
 }
 
+void MvPageSetupEditor::removeAccessKeys()
+{
+    for (QLabel *label : findChildren<QLabel *>())
+        label->setText(label->text().remove(u'&'));
+}
+
 void MvPageSetupEditor::onChanged()
 {
     const QLocale locale = MvApplicationLocale::instance().locale();

@@ -29,6 +29,8 @@ public:
 
     /// Hides the first month where the surroundings ask for it.
     void setStartVisible(bool visible);
+    /// Labels without keys of their own (Alt and a letter), where they would collide with others.
+    void removeAccessKeys();
 
 Q_SIGNALS:
     void changed();

@@ -59,7 +59,7 @@ QString MvSchemaNameDialog::name() const
 
 void MvSchemaNameDialog::checkName()
 {
-    const QString error = MvUserColorSchemata::nameError(name(), m_id);
-    m_hint->setText(error);
-    m_accept->setEnabled(error.isEmpty());
+    const MvOutcome checked = MvUserColorSchemata::checkName(name(), m_id);
+    m_hint->setText(checked.error);
+    m_accept->setEnabled(checked.isOk());
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "window/MvStudioWindow.h"
 
-#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvProactiveHelpController.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
+#include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvProject.h"
 #include "common/MvCalendarHabits.h"
 #include "common/MvStudioSettings.h"
@@ -324,7 +324,7 @@ void MvStudioWindow::updatePage()
     m_strip->setCurrentPage(page);
     m_export->setCurrentPage(page);
     m_panels->setCurrentPage(page);
-    m_statusBar->setPage(page, count, pageTitle(page));
+    m_statusBar->setPage(page, count, MvCalendarTitle::ofPage(m_project->document().pages().value(page)));
     m_statusBar->setZoom(m_canvas->zoom(), m_canvas->isFitted());
     using A = MvStudioActions;
     for (const A::Id id : {A::FirstPage, A::PreviousPage})
@@ -334,19 +334,6 @@ void MvStudioWindow::updatePage()
     const bool hasPhoto = page >= 0 && page < count && m_project->document().pages().at(page).photoFrame().isValid();
     m_actions->action(A::RemovePhoto)->setEnabled(hasPhoto);
     m_actions->action(A::ChoosePhoto)->setEnabled(count > 0);
-}
-
-QString MvStudioWindow::pageTitle(int page) const
-{
-    const QDate first = m_project->document().pageDates().value(page);
-    if (!first.isValid())
-        return {};
-    const int months = m_project->document().pages().at(page).monthCount();
-    const QLocale locale = MvApplicationLocale::instance().locale();
-    if (months == 1)
-        return locale.toString(first, u"MMMM yyyy"_s);
-    const int lastYear = first.addMonths(months - 1).year();
-    return lastYear == first.year() ? QString::number(lastYear) : u"%1/%2"_s.arg(first.year()).arg(lastYear);
 }
 
 void MvStudioWindow::updateTitle()
@@ -408,8 +395,8 @@ void MvStudioWindow::changePageSetup()
     dialog->setAcceptText(tr("Übernehmen"));
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         MvCalendarDocument document = dialog->document();
-        if (document.title() == MvProjectFlow::titleOf(m_project->document().range()))
-            document.setTitle(MvProjectFlow::titleOf(document.range())); // one that nobody has changed
+        if (document.title() == MvCalendarTitle::ofRange(m_project->document().range()))
+            document.setTitle(MvCalendarTitle::ofRange(document.range())); // one that nobody has changed
         m_project->change(document, tr("Papier und Zeitraum ändern"));
     });
     dialog->open();

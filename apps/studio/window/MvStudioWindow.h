@@ -68,7 +68,6 @@ private:
     void showSettings();
     void onOpened();
     void setWelcomeShown(bool shown);
-    QString pageTitle(int page) const;
     void rememberWindow() const;
 
     MvProject *m_project;

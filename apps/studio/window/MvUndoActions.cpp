@@ -5,7 +5,6 @@
 #include "MvGUIWidgets/MvIconRegistry.h"
 
 #include <QAction>
-#include <QHash>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -22,29 +21,16 @@ QAction *createAction(const QString &objectName, const QString &icon, const QLis
     return action;
 }
 
-/// Steps with personal entries are named for the log, not for the menu.
-QString describe(const QString &step)
-{
-    if (step.startsWith("set calendar event"_L1))
-        return MvUndoActions::tr("Eintrag ändern");
-    static const QHash<QString, const char *> names{
-        {u"loadEventList"_s, QT_TRANSLATE_NOOP("MvUndoActions", "Einträge laden")},
-        {u"clearEventList"_s, QT_TRANSLATE_NOOP("MvUndoActions", "Einträge löschen")},
-    };
-    const char *name = names.value(step);
-    return name ? MvUndoActions::tr(name) : step;
-}
-
 QString withStep(const QString &what, const QString &step)
 {
-    return step.isEmpty() ? what : MvUndoActions::tr("%1: %2").arg(what, describe(step));
+    return step.isEmpty() ? what : MvUndoActions::tr("%1: %2").arg(what, step);
 }
 
 } // namespace
 
 MvUndoActions::MvUndoActions(MvUndoController &controller, QWidget *parent)
     : QObject(parent)
-    , m_stack(controller.stack())
+    , m_controller(controller)
     , m_undo(createAction(u"undo"_s, u"ico_studio_undo"_s, {QKeySequence(Qt::CTRL | Qt::Key_Z)},
                           tr("Den letzten Schritt zurücknehmen"), parent))
     , m_redo(createAction(u"redo"_s, u"ico_studio_redo"_s,
@@ -53,20 +39,21 @@ MvUndoActions::MvUndoActions(MvUndoController &controller, QWidget *parent)
 {
     connect(m_undo, &QAction::triggered, this, [&controller] { controller.undo(); });
     connect(m_redo, &QAction::triggered, this, [&controller] { controller.redo(); });
-    connect(m_stack, &QUndoStack::indexChanged, this, &MvUndoActions::update);
-    connect(m_stack, &QUndoStack::undoTextChanged, this, &MvUndoActions::update);
-    connect(m_stack, &QUndoStack::redoTextChanged, this, &MvUndoActions::update);
-    connect(m_stack, &QUndoStack::canUndoChanged, this, &MvUndoActions::update);
-    connect(m_stack, &QUndoStack::canRedoChanged, this, &MvUndoActions::update);
+    const QUndoStack *stack = controller.stack();
+    connect(stack, &QUndoStack::indexChanged, this, &MvUndoActions::update);
+    connect(stack, &QUndoStack::undoTextChanged, this, &MvUndoActions::update);
+    connect(stack, &QUndoStack::redoTextChanged, this, &MvUndoActions::update);
+    connect(stack, &QUndoStack::canUndoChanged, this, &MvUndoActions::update);
+    connect(stack, &QUndoStack::canRedoChanged, this, &MvUndoActions::update);
     update();
 }
 
 void MvUndoActions::update()
 {
-    m_undo->setText(withStep(tr("&Rückgängig"), m_stack->undoText()));
-    m_redo->setText(withStep(tr("&Wiederholen"), m_stack->redoText()));
-    m_undo->setEnabled(m_stack->canUndo());
-    m_redo->setEnabled(m_stack->canRedo());
+    m_undo->setText(withStep(tr("&Rückgängig"), m_controller.undoName()));
+    m_redo->setText(withStep(tr("&Wiederholen"), m_controller.redoName()));
+    m_undo->setEnabled(m_controller.stack()->canUndo());
+    m_redo->setEnabled(m_controller.stack()->canRedo());
     for (QAction *action : {m_undo, m_redo})
         action->setToolTip(
             u"%1 (%2)"_s.arg(action->text().remove(u'&'), action->shortcut().toString(QKeySequence::NativeText)));

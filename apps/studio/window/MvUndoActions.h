@@ -5,7 +5,6 @@
 
 class MvUndoController;
 class QAction;
-class QUndoStack;
 class QWidget;
 
 /// Undo and redo, with what they take back or do again in their texts: "Rückgängig: Farbe ändern".
@@ -23,7 +22,7 @@ public:
 private:
     void update();
 
-    QUndoStack *m_stack;
+    const MvUndoController &m_controller;
     QAction *m_undo;
     QAction *m_redo;
 };

@@ -43,19 +43,19 @@ QList<Kept> userSchemata()
 
 } // namespace
 
-QString MvUserColorSchemata::nameError(const QString &name, const MvCalendariumColorSchemaID &own)
+MvOutcome MvUserColorSchemata::checkName(const QString &name, const MvCalendariumColorSchemaID &own)
 {
     const QString text = name.simplified();
     if (text.isEmpty())
-        return tr("Es fehlt ein Name.");
+        return {tr("Es fehlt ein Name."), {}};
     if (text.size() > longestName)
-        return tr("Der Name ist länger als %1 Zeichen.").arg(longestName);
+        return {tr("Der Name ist länger als %1 Zeichen.").arg(longestName), {}};
     const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     for (const MvCalendariumColorSchema &schema : registry.allSchemata()) {
         for (const MvCalendariumColorSchemaID &id : registry.ids(schema)) {
             if (id != own &&
                 (registry.localizedName(id).isAnyOf(text) || id.toString().compare(text, Qt::CaseInsensitive) == 0))
-                return tr("Ein Farbschema „%1“ gibt es schon.").arg(text);
+                return {tr("Ein Farbschema „%1“ gibt es schon.").arg(text), {}};
         }
     }
     return {};
@@ -66,9 +66,9 @@ MvUserColorSchemata::Result MvUserColorSchemata::keep(const MvCalendariumColorSc
     MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     const MvCalendariumColorSchemaID known = registry.idWhateverTheGrid(schema);
     if (known.isValid())
-        return {tr("Diese Farben gibt es schon: %1 („%2“).").arg(known.toString(), registry.name(known)), known};
-    if (const QString error = nameError(name); !error.isEmpty())
-        return {error, {}};
+        return {{tr("Diese Farben gibt es schon: %1 („%2“).").arg(known.toString(), registry.name(known)), {}}, known};
+    if (const MvOutcome named = checkName(name); !named.isOk())
+        return {named, {}};
     MvCalendariumColorSchema kept = schema;
     MvBorderConfig grid = schema.gridConfig();
     grid.setIsEnabled(true);
@@ -78,13 +78,13 @@ MvUserColorSchemata::Result MvUserColorSchemata::keep(const MvCalendariumColorSc
     const Result result = save(id);
     if (!result.isOk())
         registry.removeId(id);
-    return {result.error, result.isOk() ? registry.id(kept) : MvCalendariumColorSchemaID()};
+    return {result, result.isOk() ? registry.id(kept) : MvCalendariumColorSchemaID()};
 }
 
 MvUserColorSchemata::Result MvUserColorSchemata::rename(const MvCalendariumColorSchemaID &id, const QString &name)
 {
-    if (const QString error = nameError(name, id); !error.isEmpty())
-        return {error, id};
+    if (const MvOutcome named = checkName(name, id); !named.isOk())
+        return {named, id};
     const Kept before(id);
     MvCalendariumColorSchemaRegistry::instance().setName(id, MvLocalizedText(name.simplified()));
     const Result result = save(id);
@@ -123,5 +123,5 @@ MvUserColorSchemata::Result MvUserColorSchemata::reset()
 MvUserColorSchemata::Result MvUserColorSchemata::save(const MvCalendariumColorSchemaID &id)
 {
     MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
-    return {registry.saveSystemUserSchemata() ? QString() : registry.saveError(), id};
+    return {{registry.saveSystemUserSchemata() ? QString() : registry.saveError(), {}}, id};
 }

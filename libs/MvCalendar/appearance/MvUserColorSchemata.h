@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendariumColorSchema.h"
 #include "MvCalendar/mvcalendar_export.h"
+#include "MvCore/MvOutcome.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -16,17 +17,14 @@ class MVCALENDAR_EXPORT MvUserColorSchemata
 public:
     static constexpr int longestName = 60; // letters
 
-    struct Result
+    struct Result : MvOutcome
     {
-        QString error; // for a person; empty when it is done
         MvCalendariumColorSchemaID id;
-
-        bool isOk() const { return error.isEmpty(); }
     };
 
-    /// Why a schema cannot be called so, for a person; empty when it can. Names and ids are told apart by more than
-    /// capitals; a schema's present name is its own.
-    static QString nameError(const QString &name, const MvCalendariumColorSchemaID &own = {});
+    /// Whether a schema can be called so. Names and ids are told apart by more than capitals; a schema's present name
+    /// is its own.
+    static MvOutcome checkName(const QString &name, const MvCalendariumColorSchemaID &own = {});
 
     /// Keeps colours under a fresh id, with their grid on so that its lines are kept, too. Colours that are registered
     /// are refused.

@@ -88,7 +88,7 @@ MvUserSchemaFile::Content MvUserSchemaFile::load() const
 QDomElement MvUserSchemaFile::read()
 {
     const Content content = load();
-    if (!content.error.isEmpty())
+    if (!content.isOk())
         qWarning().noquote() << content.error;
     m_inFile = content.areas;
     return content.root;
@@ -115,14 +115,16 @@ MvUserSchemaFile::Saved MvUserSchemaFile::save(const Areas &mine, const std::fun
         const QString aside = MvSafeFileWriter::setAside(target);
         if (aside.isEmpty()) // an unsaved change is better than a lost file
             return failed(tr("Was darin steht, ist nicht ganz zu lesen und ließ sich nicht beiseitelegen."));
-        qWarning().noquote() << u"%1, set aside as %2"_s.arg(
-            theirs.error.isEmpty() ? target.filePath() + u": not all of it can be kept"_s : theirs.error, aside);
+        const QString path = QDir::toNativeSeparators(target.filePath());
+        const QString reason =
+            theirs.isOk() ? tr("%1 enthält mehr, als sich übernehmen lässt.").arg(path) : theirs.error;
+        saved.notes.append(tr("%1 Der alte Stand liegt in %2.").arg(reason, QDir::toNativeSeparators(aside)));
+        qWarning().noquote() << saved.notes.constLast();
     }
     // where nothing can be read, nothing was removed there either
     saved.areas = theirs.root.isNull() ? mine : merged(mine, theirs.areas, renameArea);
-    const QString error = write(saved.areas);
-    if (!error.isEmpty())
-        return failed(error);
+    if (const MvOutcome written = write(saved.areas); !written.isOk())
+        return failed(written.error);
     m_inFile = saved.areas;
     return saved;
 }
@@ -162,7 +164,7 @@ MvUserSchemaFile::Areas MvUserSchemaFile::merged(const Areas &mine, const Areas 
     return result;
 }
 
-QString MvUserSchemaFile::write(const Areas &areas)
+MvOutcome MvUserSchemaFile::write(const Areas &areas)
 {
     QDomDocument document;
     MvXMLBuilder::buildUTF8ProcessingInstructions(document);
@@ -171,5 +173,5 @@ QString MvUserSchemaFile::write(const Areas &areas)
         root.appendChild(document.importNode(area.element, true));
     const QByteArray bytes = document.toByteArray(2);
     const MvXMLLoader::Error error = MvXMLLoader::check(bytes);
-    return error.isError() ? error.message : MvSafeFileWriter::write(file(), bytes).error;
+    return error.isError() ? MvOutcome{error.message, {}} : MvSafeFileWriter::write(file(), bytes);
 }

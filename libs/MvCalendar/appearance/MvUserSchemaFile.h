@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/mvcalendar_export.h"
+#include "MvCore/MvOutcome.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
@@ -37,12 +38,10 @@ public:
     /// Makes the area of an element of the file; nothing when this program would not write it back.
     using Decode = std::function<std::optional<Area>(const QDomElement &)>;
 
-    struct Saved
+    /// What came of a saving; the error names the file.
+    struct Saved : MvOutcome
     {
-        QString error; // for a person, with the file; empty when it is in place
-        Areas areas;   // what the file holds now
-
-        bool isOk() const { return error.isEmpty(); }
+        Areas areas; // what the file holds now
     };
 
     MvUserSchemaFile(const QString &fileName, const QString &rootName, const Decode &decode);
@@ -60,17 +59,16 @@ public:
     Saved save(const Areas &mine, const std::function<void(Area &)> &renameArea);
 
 private:
-    struct Content
+    struct Content : MvOutcome // without an error there is a root
     {
         QDomElement root;
         Areas areas;
-        QString error;        // why there is no root
         bool isWhole = false; // all of it is in the areas, or there is no file
     };
 
     Content load() const;
     Areas merged(const Areas &mine, const Areas &theirs, const std::function<void(Area &)> &renameArea) const;
-    QString write(const Areas &areas);
+    MvOutcome write(const Areas &areas);
 
     QString m_fileName;
     QString m_rootName;

@@ -104,7 +104,7 @@ void MvAddressBookImport::copyPhoto(const MvVCard &card, const QList<qsizetype> 
         return;
     const MvPictureIntake::Result photo =
         card.isPictureTooLarge
-            ? MvPictureIntake::Result{{}, tr("Das Bild ist zu groß.")}
+            ? MvPictureIntake::Result{{tr("Das Bild ist zu groß."), {}}, {}}
             : MvPictureIntake::put(card.picture(), m_photoFolder, card.name, MvPictureIntake::sideOfEntries);
     if (!photo.isOk()) {
         m_report.unreadablePictures.append(u"%1: %2"_s.arg(card.name, photo.error));

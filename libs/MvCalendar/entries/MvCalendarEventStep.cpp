@@ -37,6 +37,13 @@ MvCalendarEventStep::MvCalendarEventStep(const MvCalendarEvent &before, const Mv
 
 MvCalendarEventStep::~MvCalendarEventStep() = default;
 
+QString MvCalendarEventStep::visibleName() const
+{
+    if (!m_before.isValid())
+        return tr("Eintrag anlegen");
+    return m_after.isValid() ? tr("Eintrag ändern") : tr("Eintrag löschen");
+}
+
 void MvCalendarEventStep::doCoreAction()
 {
     apply(m_before, m_after);

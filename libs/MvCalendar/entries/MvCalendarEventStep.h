@@ -7,6 +7,8 @@
 
 #include "MvCore/MvUndoCommand.h"
 
+#include <QCoreApplication>
+
 #include <optional>
 
 /// A change of one personal entry in the active list of a session: an invalid entry before adds one, an invalid entry
@@ -19,11 +21,14 @@
 /// stack.
 class MVCALENDAR_EXPORT MvCalendarEventStep : public MvUndoCommand
 {
+    Q_DECLARE_TR_FUNCTIONS(MvCalendarEventStep)
+
 public:
     MvCalendarEventStep(const MvCalendarEvent &before, const MvCalendarEvent &after,
                         MvSession &session = MvSession::defaultSession());
     ~MvCalendarEventStep() override;
 
+    QString visibleName() const override;
     void doCoreAction() override;
     void undoCore() override;
 

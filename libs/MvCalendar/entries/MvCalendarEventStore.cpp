@@ -289,14 +289,13 @@ bool MvCalendarEventStore::write(const MvCalendarEventList &events)
     MvLogger::legacyLog(savingLine());
     // while a person may still want a backup, none is pushed out by newer ones
     const auto backups = m_readProblem.isProblem() ? MvSafeFileWriter::Backups::None : MvSafeFileWriter::Backups::Keep;
-    const MvSafeFileWriter::Result result =
-        MvSafeFileWriter::write(file(), MvCalendarEventFile::toBytes(events), backups);
+    const MvOutcome result = MvSafeFileWriter::write(file(), MvCalendarEventFile::toBytes(events), backups);
     if (!result.isOk()) {
         fail(Problem::NotSaved, result.error);
         return false;
     }
-    if (!result.note.isEmpty())
-        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
+    if (!result.notes.isEmpty())
+        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.notes.join(u' ')));
     MvPlatformIndependent::instance().fileWritten(QFileInfo(file().absoluteFilePath()));
     return true;
 }
@@ -304,14 +303,14 @@ bool MvCalendarEventStore::write(const MvCalendarEventList &events)
 void MvCalendarEventStore::writeElsewhere(const QFileInfo &file, const MvCalendarEventList &events)
 {
     MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile VALUE:%1"_s.arg(file.baseName()));
-    const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, MvCalendarEventFile::toBytes(events));
+    const MvOutcome result = MvSafeFileWriter::write(file, MvCalendarEventFile::toBytes(events));
     m_errorElsewhere = result.error;
     if (!result.isOk()) {
         qWarning().noquote() << result.error;
         return;
     }
-    if (!result.note.isEmpty())
-        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.note));
+    if (!result.notes.isEmpty())
+        MvLogger::legacyLog(u"CalendarEvents ACTION:saveToFile NOTE:%1"_s.arg(result.notes.join(u' ')));
     MvPlatformIndependent::instance().fileWritten(QFileInfo(file.absoluteFilePath()));
 }
 

@@ -15,6 +15,7 @@
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
 #include "MvProductBase/MvCalendarWeekTextOption.h"
+#include "MvProductBase/MvCalendarWordsRegistry.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
 
 #include <QPainter>
@@ -445,8 +446,9 @@ QString MvCalendariumRenderer::yearName(int year) const
 QString MvCalendariumRenderer::calendarMonth(const QDate &date) const
 {
     const QDate shown = date.isValid() ? date : startDate();
-    return tr("%1 %2", "%1 = Monat, %2 = Jahr. Englische Version wahrscheinlich: '%2 %1'")
-        .arg(monthName(shown.month()), yearName(shown.year()));
+    return MvCalendarWordsRegistry::instance()
+        .patterns(language())
+        .month.arg(monthName(shown.month()), yearName(shown.year()));
 }
 
 QString MvCalendariumRenderer::calendarWeekHeadlineText() const

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendariumRendererHolidays.h"
 
 #include "MvPaint/MvPrintableText.h"
+#include "MvProductBase/MvCalendarWordsRegistry.h"
 
 #include <QHash>
 #include <QPainter>
@@ -110,12 +111,12 @@ QStringList MvCalendariumRendererHolidays::items() const
 
 QString MvCalendariumRendererHolidays::describe(const QDate &from, const QDate &to, const QString &text) const
 {
-    const QString format = tr("d.M", "Format of Days: d means day, M means Month, yy means Jear");
-    const QString first = stringFromDate(from, format);
+    const MvCalendarWordsRegistry::Patterns patterns = MvCalendarWordsRegistry::instance().patterns(language());
+    const QString first = stringFromDate(from, patterns.day);
     if (to == from)
-        return tr("%1: %2").arg(first, text);
-    const QString last = stringFromDate(to, format);
-    return (to == from.addDays(1) ? tr("%1/%2: %3") : tr("%1-%2: %3")).arg(first, last, text);
+        return patterns.ofDay.arg(first, text);
+    const QString last = stringFromDate(to, patterns.day);
+    return (to == from.addDays(1) ? patterns.ofTwoDays : patterns.ofDays).arg(first, last, text);
 }
 
 QString MvCalendariumRendererHolidays::createHolidayDescription()

@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCore/MvAngle.h"
 #include "MvPaint/MvTextFitter.h"
+#include "MvProductBase/MvCalendarWordsRegistry.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -405,7 +406,7 @@ void MvCalendariumRendererOneDayPerRow::renderCalendarWeek(QPainter &painter, co
 QString MvCalendariumRendererOneDayPerRow::weekText(const QDate &date, double width) const
 {
     const QString number = QString::number(date.weekNumber());
-    const QString text = tr("%1 %2", "flip 1 and 2 to write '1 KW' instead of 'KW 1' ").arg(weekShort(), number);
+    const QString text = MvCalendarWordsRegistry::instance().patterns(language()).week.arg(weekShort(), number);
     const double inner = width - paddingDifference(CALENDAR_CELL_TYPE_WEEK_OF_YEAR).width();
     return isTextToWide(static_cast<int>(inner), font(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), text) ? number : text;
 }

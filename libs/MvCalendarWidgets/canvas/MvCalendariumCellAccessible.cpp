@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumCellAccessible.h"
 
+#include "MvCalendar/MvCalendariumView.h"
 #include "MvCalendar/MvCanvasAccessible.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 
@@ -18,8 +19,8 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
         if (auto *cell = qobject_cast<MvGraphicsItemCalendariumCell *>(object))
             return new MvCalendariumCellAccessible(cell);
     }
-    if (className == "QGraphicsView"_L1) {
-        if (auto *view = qobject_cast<QGraphicsView *>(object))
+    if (className == "MvCalendariumView"_L1) {
+        if (auto *view = qobject_cast<MvCalendariumView *>(object))
             return new MvCanvasAccessible(view);
     }
     return nullptr;

@@ -9,11 +9,11 @@
 class MvGraphicsItemCalendariumCell;
 
 /// A date of a calendarium as a screen reader sees it: a button named "Samstag, 5. Juni 2027" that tells what is on
-/// the day and opens its menu. Child of the view's interface (MvCanvasAccessible).
+/// the day and opens its menu. Child of the interface of its MvCalendariumView.
 class MVCALENDARWIDGETS_EXPORT MvCalendariumCellAccessible : public QAccessibleObject, public QAccessibleActionInterface
 {
 public:
-    /// Makes cells, and the graphics views that show them, known to screen readers; once per process.
+    /// Makes cells, and views of the class MvCalendariumView, known to screen readers; once per process.
     static void install();
 
     explicit MvCalendariumCellAccessible(MvGraphicsItemCalendariumCell *cell);

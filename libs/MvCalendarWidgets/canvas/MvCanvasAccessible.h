@@ -9,7 +9,7 @@
 class MvGraphicsItemCalendariumCell;
 class QGraphicsView;
 
-/// A graphics view as a screen reader sees it: besides its scroll bars, the dates of its calendaria in order. A
+/// An MvCalendariumView as a screen reader sees it: besides its scroll bars, the dates of its calendaria in order. A
 /// program's own class for its view can derive from it to list further items.
 class MVCALENDARWIDGETS_EXPORT MvCanvasAccessible : public QAccessibleWidget
 {

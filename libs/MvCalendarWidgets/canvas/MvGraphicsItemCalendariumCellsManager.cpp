@@ -264,10 +264,8 @@ void MvGraphicsItemCalendariumCellsManager::takeFotoForDate(const QDate &date, c
 {
     if (!m_isEditable)
         return;
-    MvCalendariumContentConfig config = configOf(date);
-    MvCalendariumHolidayConfig withEntries = m_holidayConfig; // also those that the page does not show
-    withEntries.setFeature(MvCalendariumFeatures(FEATURE_ENTRIES), true);
-    config.setHolidayConfig(withEntries);
+    // also those that the page does not show
+    const MvCalendariumContentConfig config = configOf(date).withFeature(FEATURE_ENTRIES, true);
     const MvCalendarEventList events = m_session.entries().events(config);
     if (events.size() == 1) {
         const auto use = [this](const MvCalendarEvent &before, const MvCalendarEvent &after) {

@@ -269,15 +269,15 @@ MvCalendarEventList MvCalendarEventListWidget::newEvents(const MvCalendarEventLi
 }
 
 /// One step for all of them.
-void MvCalendarEventListWidget::changeEvents(const QString &macro, const MvCalendarEventList &removed,
-                                             const MvCalendarEventList &added)
+void MvCalendarEventListWidget::changeEvents(const QString &macro, const QString &name,
+                                             const MvCalendarEventList &removed, const MvCalendarEventList &added)
 {
     using Group = MvUndoCommandCalendarEventGroup;
     MvUndoController &undo = m_session.undo();
     if (removed.isEmpty() && added.isEmpty())
         return;
     undo.beginMacro(macro);
-    undo.push(new Group(Group::Begin, m_session));
+    undo.push(new Group(Group::Begin, m_session, name));
     for (const MvCalendarEvent &event : removed) {
         if (event.isValid())
             undo.push(new MvCalendarEventStep(event, MvCalendarEvent(), m_session));
@@ -339,9 +339,9 @@ void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, b
 {
     const MvCalendarEventList current = events();
     if (merge)
-        changeEvents(u"loadEventList"_s, {}, newEvents(current, read));
+        changeEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, read));
     else
-        changeEvents(u"loadEventList"_s, current, read);
+        changeEvents(u"loadEventList"_s, tr("Einträge laden"), current, read);
     finishAdding();
 }
 
@@ -357,7 +357,7 @@ void MvCalendarEventListWidget::clearEventList()
     const auto clear = [this](bool yes) {
         MvLogger::legacyLog(u"CalendarEvents ACTION:deleteAll VALUE:%1"_s.arg(int(yes)));
         if (yes)
-            changeEvents(u"clearEventList"_s, events(), {});
+            changeEvents(u"clearEventList"_s, tr("Einträge löschen"), events(), {});
     };
     MvYesNoRequest::instance().request(question, this, clear);
 }
@@ -374,7 +374,7 @@ void MvCalendarEventListWidget::importFromContacts()
     const MvCalendarEventList current = events();
     const MvCalendarEventList added = registry.onlyNewEvents(current, birthdays);
     if (!added.isEmpty()) {
-        changeEvents(u"loadEventList"_s, {}, added);
+        changeEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, added);
         finishAdding();
     }
     MvLogger::legacyLog(

@@ -75,7 +75,8 @@ private:
     QPushButton *createAddButton(const QString &text, const QString &name, QWidget *parent);
     void readEventList(const QString &fileName, bool merge);
     void takeEventList(const MvCalendarEventList &read, bool merge);
-    void changeEvents(const QString &macro, const MvCalendarEventList &removed, const MvCalendarEventList &added);
+    void changeEvents(const QString &macro, const QString &name, const MvCalendarEventList &removed,
+                      const MvCalendarEventList &added);
     void editEvent(const MvCalendarEvent &event);
     void deleteEvent(const MvCalendarEvent &event);
     MvCalendarEventList newEvents(const MvCalendarEventList &current, const MvCalendarEventList &read) const;

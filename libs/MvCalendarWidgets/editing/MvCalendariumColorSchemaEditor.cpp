@@ -176,6 +176,22 @@ void MvCalendariumColorSchemaEditor::fixTableHeight()
     m_tableView->setFixedHeight(2 * m_model->rowCount() * delegate->sizeHint(option, cell).height());
 }
 
+void MvCalendariumColorSchemaEditor::showAllRows()
+{
+    m_tableView->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    QHeaderView *rows = m_tableView->verticalHeader();
+    const auto fit = [table = m_tableView, rows] {
+        const int around = table->horizontalHeader()->sizeHint().height() + 2 * table->frameWidth();
+        table->setFixedHeight(rows->length() + around);
+    };
+    for (const QHeaderView *header : {rows, m_tableView->horizontalHeader()}) { // which know their size late
+        connect(header, &QHeaderView::sectionResized, m_tableView, fit, Qt::QueuedConnection);
+        connect(header, &QHeaderView::sectionCountChanged, m_tableView, fit, Qt::QueuedConnection);
+        connect(header, &QHeaderView::geometriesChanged, m_tableView, fit, Qt::QueuedConnection);
+    }
+    fit();
+}
+
 void MvCalendariumColorSchemaEditor::updateChangedSchema()
 {
     m_appearance.setColorSchema(m_model->colorSchema());

@@ -30,6 +30,8 @@ public:
 
     /// Fixes the height of the table by its rows, for a panel that scrolls as a whole.
     void fixTableHeight();
+    /// From now on the table is just as high as its rows, without a scroll bar of its own; what is around it scrolls.
+    void showAllRows();
 
 Q_SIGNALS:
     void schemaChanged(const MvCalendariumColorSchema &schema);

@@ -355,6 +355,15 @@ void MvCalendariumContentConfigEditor::setDateConfigurationVisible(bool visible)
     m_dateBox->setVisible(visible);
 }
 
+void MvCalendariumContentConfigEditor::setNameLength(int letters)
+{
+    for (QComboBox *box : {m_languageBox, m_provinceBox}) {
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        box->setMinimumContentsLength(letters);
+        box->setMaximumWidth(QWIDGETSIZE_MAX);
+    }
+}
+
 void MvCalendariumContentConfigEditor::reset()
 {
     setCheckboxesChecked(false, false);

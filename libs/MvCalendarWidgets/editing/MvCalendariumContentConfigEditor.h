@@ -56,6 +56,8 @@ public:
     void setCheckboxesChecked(bool holidays, bool personal);
     void setCheckboxesVisible(bool holidays, bool personal);
     void setDateConfigurationVisible(bool visible);
+    /// Shows so many letters of countries and regions at least, and more where there is room.
+    void setNameLength(int letters);
     void reset();
 
     QList<MvLocale> availableLanguages() const;

@@ -80,6 +80,11 @@ MvCalendariumFontSettings MvCalendariumFontEditor::currentSettings() const
             m_settings.weight(),        m_settings.capitalization(),        m_settings.letterSpacing()};
 }
 
+void MvCalendariumFontEditor::setFamilyLength(int letters)
+{
+    m_familyBox->setMinimumContentsLength(letters);
+}
+
 void MvCalendariumFontEditor::somethingChanged()
 {
     Q_EMIT fontSettingsChanged(currentSettings());

@@ -22,6 +22,9 @@ public:
     /// What is shown; weight, capitalization and letter spacing are those of the settings last given.
     MvCalendariumFontSettings currentSettings() const;
 
+    /// Shows so many letters of the family's name at least; 10 at first.
+    void setFamilyLength(int letters);
+
 Q_SIGNALS:
     void fontSettingsChanged(const MvCalendariumFontSettings &settings);
 

@@ -3,9 +3,10 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 
-MvUndoCommandCalendarEventGroup::MvUndoCommandCalendarEventGroup(Mark mark, MvSession &session)
+MvUndoCommandCalendarEventGroup::MvUndoCommandCalendarEventGroup(Mark mark, MvSession &session, const QString &name)
     : m_mark(mark)
     , m_entries(session.entries())
+    , m_name(name)
 {}
 
 MvUndoCommandCalendarEventGroup::~MvUndoCommandCalendarEventGroup() = default;

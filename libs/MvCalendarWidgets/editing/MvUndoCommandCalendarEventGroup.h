@@ -15,13 +15,17 @@ class MVCALENDARWIDGETS_EXPORT MvUndoCommandCalendarEventGroup : public MvUndoCo
 public:
     enum Mark { Begin, End };
 
-    explicit MvUndoCommandCalendarEventGroup(Mark mark, MvSession &session = MvSession::defaultSession());
+    /// The name is what the whole step is called before a person; the first command's counts.
+    explicit MvUndoCommandCalendarEventGroup(Mark mark, MvSession &session = MvSession::defaultSession(),
+                                             const QString &name = {});
     ~MvUndoCommandCalendarEventGroup() override;
 
+    QString visibleName() const override { return m_name; }
     void doCoreAction() override;
     void undoCore() override;
 
 private:
     Mark m_mark;
     MvCalendarEventRegistry &m_entries;
+    QString m_name;
 };

@@ -39,13 +39,30 @@ QFileInfo MvDirectoryConfig::resource(const QString &relativePath) const
     const QFileInfo embedded(embeddedRoot + u'/' + relativePath);
     if (leavesItsRoot(relativePath))
         return embedded;
-    const QStringList roots = m_resourceRoots + QStringList{m_programDataDir};
-    for (const QString &root : roots) {
+    for (const QString &root : roots()) {
         const QFileInfo file(root + u'/' + relativePath);
         if (file.isFile())
             return file;
     }
     return embedded;
+}
+
+QStringList MvDirectoryConfig::resourceNames(const QString &relativeFolder, const QString &pattern) const
+{
+    QStringList names;
+    if (leavesItsRoot(relativeFolder))
+        return names;
+    for (const QString &root : roots() + QStringList{embeddedRoot})
+        names += QDir(root + u'/' + relativeFolder).entryList({pattern}, QDir::Files);
+    names.sort();
+    names.removeDuplicates();
+    return names;
+}
+
+/// Outside the program, in order of precedence.
+QStringList MvDirectoryConfig::roots() const
+{
+    return m_resourceRoots + QStringList{m_programDataDir};
 }
 
 QDir MvDirectoryConfig::programDataDir() const

@@ -23,6 +23,10 @@ public:
     /// root ("..") is not found.
     QFileInfo resource(const QString &relativePath) const;
 
+    /// The names of the files in a folder below the root that resource() would find, by a pattern with wildcards; in
+    /// alphabetical order, each once.
+    QStringList resourceNames(const QString &relativeFolder, const QString &pattern) const;
+
     /// The user's data folder (environment variable MVCALENDAR_DATA, else the platform's). It may not exist yet.
     QDir programDataDir() const;
     /// A file in it. Neither file nor folder is created.
@@ -34,6 +38,8 @@ public:
     void setProgramDataDir(const QString &path);
 
 private:
+    QStringList roots() const;
+
     QString m_programDataDir;
     QStringList m_resourceRoots; // in order of precedence
 };

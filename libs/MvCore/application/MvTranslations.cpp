@@ -53,7 +53,9 @@ QLocale localeFor(const QString &language)
     if (language == sourceLanguage)
         return QLocale(QLocale::German, QLocale::Germany);
     const QLocale system(QLocale::system().name());
-    return languageOf(system.name()) == language ? system : QLocale(QLocale::English, QLocale::UnitedKingdom);
+    if (languageOf(system.name()) == language)
+        return system;
+    return language == "en"_L1 ? QLocale(QLocale::English, QLocale::UnitedKingdom) : QLocale(language);
 }
 
 void add(std::unique_ptr<QTranslator> translator)
@@ -67,12 +69,24 @@ void add(std::unique_ptr<QTranslator> translator)
 
 QStringList MvTranslations::languages()
 {
-    return {sourceLanguage, u"en"_s};
+    static const QRegularExpression form(u"^mvcalendar_([a-z]{2,3})\\.qm$"_s);
+    QStringList languages{sourceLanguage};
+    for (const QString &name : MvDirectoryConfig::instance().resourceNames(u"i18n"_s, u"mvcalendar_*.qm"_s)) {
+        const QString language = form.match(name).captured(1);
+        if (!language.isEmpty() && language != sourceLanguage)
+            languages.append(language);
+    }
+    return languages;
 }
 
 QString MvTranslations::nameOf(const QString &language)
 {
-    return languages().contains(language) ? QLocale(language).nativeLanguageName().section(u' ', -1) : QString();
+    if (!languages().contains(language))
+        return {};
+    QString name = QLocale(language).nativeLanguageName();
+    if (language == "en"_L1)
+        name = name.section(u' ', -1); // "American English"
+    return name.isEmpty() ? language : name.left(1).toUpper() + name.mid(1);
 }
 
 QString MvTranslations::languageFor(const QStringList &preferred)

@@ -12,7 +12,8 @@
 class MVCORE_EXPORT MvTranslations
 {
 public:
-    /// ISO 639 codes of the languages there are texts in: "de", "en".
+    /// ISO 639 codes of the languages there are texts in: German first, then those of which there is a file, shipped or
+    /// among the user's resources: "de", "en".
     static QStringList languages();
     /// As its speakers call it: "English". Empty for an unknown language.
     static QString nameOf(const QString &language);

@@ -20,6 +20,10 @@ public:
     void redo() final;
     void undo() final;
 
+    /// What the step does, for a person, where the command's text is made for the log; empty where the text serves
+    /// both.
+    virtual QString visibleName() const { return {}; }
+
     virtual void doCoreAction() = 0;
     virtual void undoCore() = 0;
 };

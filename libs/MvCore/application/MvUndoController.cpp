@@ -7,6 +7,22 @@
 
 template class MvSingleton<MvUndoController>;
 
+namespace {
+
+QString nameOf(const QUndoCommand *step)
+{
+    if (!step)
+        return {};
+    for (const QUndoCommand *command : {step, step->child(0)}) {
+        const auto *own = dynamic_cast<const MvUndoCommand *>(command); // macros are commands of the stack's own
+        if (own && !own->visibleName().isEmpty())
+            return own->visibleName();
+    }
+    return step->text();
+}
+
+} // namespace
+
 MvUndoController::MvUndoController()
     : m_stack(std::make_unique<QUndoStack>())
 {}
@@ -48,6 +64,16 @@ void MvUndoController::redo()
 {
     if (m_stack->canRedo() && m_emptyMacros.isEmpty())
         m_stack->redo();
+}
+
+QString MvUndoController::undoName() const
+{
+    return nameOf(m_stack->command(m_stack->index() - 1));
+}
+
+QString MvUndoController::redoName() const
+{
+    return nameOf(m_stack->command(m_stack->index()));
 }
 
 void MvUndoController::clear()

@@ -37,6 +37,11 @@ public:
     /// Forgets all steps without undoing them, as when the document they belong to is closed.
     void clear();
 
+    /// What undo() would take back and redo() do again, for a person; empty when there is nothing. Of a macro it is the
+    /// visible name of its first command, or else the macro's text.
+    QString undoName() const;
+    QString redoName() const;
+
     /// For menus and lists of steps, and to know whether there are unsaved changes. Commands are pushed through the
     /// controller only.
     QUndoStack *stack() const { return m_stack.get(); }

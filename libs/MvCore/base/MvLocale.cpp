@@ -15,7 +15,8 @@ struct CountryName
     bool hasSeveralLanguages = false;
 };
 
-// QLocale names countries in their own language or in English; these are the countries of the holiday tables.
+// QLocale names countries in their own language or in English. These are the countries of the shipped holiday tables;
+// others, of tables that somebody has added, are called as they call themselves.
 const QHash<QString, CountryName> &countryNames()
 {
     static const QHash<QString, CountryName> names = {
@@ -67,7 +68,10 @@ QString languageName(const QString &language)
         {u"lb"_s, QT_TRANSLATE_NOOP("MvLocale", "Luxemburgisch")},
     };
     const char *name = names.value(language);
-    return name ? QCoreApplication::translate("MvLocale", name) : language;
+    if (name)
+        return QCoreApplication::translate("MvLocale", name);
+    const QString ownName = QLocale(language).nativeLanguageName();
+    return ownName.isEmpty() ? language : ownName;
 }
 
 } // namespace
@@ -104,6 +108,8 @@ QLocale MvLocale::toQLocale() const
 QString MvLocale::visibleName() const
 {
     const CountryName known = countryNames().value(m_country);
-    const QString name = known.name ? QCoreApplication::translate("MvLocale", known.name) : m_country;
+    QString name = known.name ? QCoreApplication::translate("MvLocale", known.name) : toQLocale().nativeCountryName();
+    if (name.isEmpty())
+        name = m_country;
     return known.hasSeveralLanguages ? u"%1 (%2)"_s.arg(name, languageName(m_language)) : name;
 }

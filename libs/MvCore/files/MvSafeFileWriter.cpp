@@ -128,27 +128,21 @@ private:
     bool m_hasTemporary = false; // there is a file under m_temporary
 };
 
-MvSafeFileWriter::Result failure(const QString &path, const QString &reason)
+MvOutcome failure(const QString &path, const QString &reason)
 {
     return {MvSafeFileWriter::tr("%1 konnte nicht gespeichert werden: %2").arg(QDir::toNativeSeparators(path), reason),
             {}};
 }
 
-void addNote(MvSafeFileWriter::Result &result, const QString &note)
-{
-    result.note += result.note.isEmpty() ? note : u' ' + note;
-}
-
-void keepBackup(const QString &path, const QByteArray &content, MvFileBackup::Then then,
-                MvSafeFileWriter::Result &result)
+void keepBackup(const QString &path, const QByteArray &content, MvFileBackup::Then then, MvOutcome &result)
 {
     if (!MvFileBackup::keep(path, content, QDate::currentDate(), then))
-        addNote(result, MvSafeFileWriter::tr("Von %1 ließ sich keine Sicherung anlegen.").arg(path));
+        result.notes.append(MvSafeFileWriter::tr("Von %1 ließ sich keine Sicherung anlegen.").arg(path));
 }
 
-MvSafeFileWriter::Result writeInPlace(const QString &path, const QByteArray &content, MvSafeFileWriter::Backups backups)
+MvOutcome writeInPlace(const QString &path, const QByteArray &content, MvSafeFileWriter::Backups backups,
+                       MvOutcome result)
 {
-    MvSafeFileWriter::Result result;
     const bool mustUnshare = !MvFileBackup::sharing(path).isEmpty();
     const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
     const bool isOpenFolder = ::faccessat(AT_FDCWD, folder.constData(), W_OK | X_OK, AT_EACCESS) == 0;
@@ -160,14 +154,14 @@ MvSafeFileWriter::Result writeInPlace(const QString &path, const QByteArray &con
 
 } // namespace
 
-MvSafeFileWriter::Result MvSafeFileWriter::write(const QFileInfo &file, const QByteArray &content, Backups backups)
+MvOutcome MvSafeFileWriter::write(const QFileInfo &file, const QByteArray &content, Backups backups)
 {
     const QString path = resolvedPath(file);
     if (path.isEmpty())
         return failure(file.filePath(), tr("Die Verknüpfung führt im Kreis."));
-    Result result;
+    MvOutcome result;
     if (MvInPlaceWriter::finish(path))
-        addNote(result, tr("Ein unterbrochenes Speichern von %1 wurde zu Ende geführt.").arg(path));
+        result.notes.append(tr("Ein unterbrochenes Speichern von %1 wurde zu Ende geführt.").arg(path));
     Replacement replacement(path, content);
     if (!replacement.isOrdinary())
         return failure(path, tr("Das ist keine gewöhnliche Datei."));
@@ -186,11 +180,11 @@ MvSafeFileWriter::Result MvSafeFileWriter::write(const QFileInfo &file, const QB
     if (step == Replacement::Step::Failed)
         return failure(path, MvFileDescriptor::errorText(errno));
     if (step == Replacement::Step::Impossible)
-        return writeInPlace(path, content, backups);
+        return writeInPlace(path, content, backups, result);
     if (replacement.hasLostNotes())
-        addNote(result, tr("Erweiterte Attribute von %1 gingen verloren.").arg(path));
+        result.notes.append(tr("Erweiterte Attribute von %1 gingen verloren.").arg(path));
     if (!MvFileDescriptor::syncFolder(folder))
-        addNote(result, tr("Der Ordner %1 ließ sich nicht auf den Datenträger schreiben.").arg(folder));
+        result.notes.append(tr("Der Ordner %1 ließ sich nicht auf den Datenträger schreiben.").arg(folder));
     return result;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvCore/mvcore_export.h"
 
 #include <QByteArray>
@@ -33,17 +34,10 @@ public:
         None, // for what can be made again, such as a page as PDF or PNG
     };
 
-    struct Result
-    {
-        QString error; // for a person; empty when the file is in place
-        QString note;  // for the log: the file is in place, but something beside it went wrong
-
-        bool isOk() const { return error.isEmpty(); }
-    };
-
     /// Writes the content. The folder must exist. Directories, devices and pipes are refused, and so is a file that
-    /// may not be written. Any thread.
-    static Result write(const QFileInfo &file, const QByteArray &content, Backups backups = Backups::Keep);
+    /// may not be written. The error names the file; with notes the file is in place, but something beside it went
+    /// wrong. Any thread.
+    static MvOutcome write(const QFileInfo &file, const QByteArray &content, Backups backups = Backups::Keep);
 
     /// Keeps an existing file under a name of its own beside it ("name.unlesbar-2026-03-01.xml"), so that the file may
     /// be overwritten. The copy's path; an empty one when it could not be made.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvGuardedImageReader.h"
 
+#include "MvCore/MvRegularFile.h"
 #include "MvFoto/MvImageDevice.h"
 #include "MvFoto/MvImageFormat.h"
 #include "MvFoto/MvImageStructure.h"
@@ -12,10 +13,8 @@
 #include <QMutex>
 #include <QPixelFormat>
 
-#include <fcntl.h>
 #include <limits>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <mutex>
 #include <utility>
 
 namespace {
@@ -29,24 +28,6 @@ constexpr qint64 mostPixelsPerByte = 4096;     // a blank page as a bitmap still
 constexpr qint64 mostPixelsPerByteAtAll = 256; // of JPEG and BMP
 constexpr qint64 largeMemory = 128 << 20;      // bytes; one such image at a time
 constexpr qint64 otherFileLimit = 256 << 20;   // bytes of files that decoders load as a whole
-
-/// Opens without waiting: a pipe that nobody writes to must not stop the program.
-std::unique_ptr<QIODevice> openRegular(const QString &path)
-{
-    auto file = std::make_unique<QFile>(path);
-    if (path.startsWith(u':'))
-        return file->open(QIODevice::ReadOnly) ? std::move(file) : nullptr;
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return nullptr;
-    struct stat status = {};
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) ||
-        !file->open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
-        ::close(descriptor);
-        return nullptr;
-    }
-    return file;
-}
 
 QImage readyToPaint(QImage image)
 {
@@ -78,7 +59,7 @@ QMutex &largeImages()
 } // namespace
 
 MvGuardedImageReader::MvGuardedImageReader(const QFileInfo &file)
-    : m_source(openRegular(file.filePath()))
+    : m_source(MvRegularFile::open(QFileInfo(file.filePath())).file)
 {
     open();
 }

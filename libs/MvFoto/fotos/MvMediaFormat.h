@@ -29,8 +29,8 @@ public:
     static MvMediaFormat ofFile(const QFileInfo &file);
 
     /// A name for a copy of a photo in a format that can be written: a JPEG keeps its extension, photos of unknown
-    /// format become "jpg", all others, which may have transparent parts, "png". Characters that file systems refuse
-    /// are dropped from the hint; an empty hint gives "foto".
+    /// format become "jpg", all others, which may have transparent parts, "png". The hint is cleaned by MvFileName; one
+    /// without anything gives "foto".
     static QString createFilename(const MvMediaFormat &format, const QString &filenameHint,
                                   const QString &fileExtensionHint);
 

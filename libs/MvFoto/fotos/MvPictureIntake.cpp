@@ -62,15 +62,15 @@ MvPictureIntake::Result MvPictureIntake::put(const QByteArray &bytes, const QDir
     const QImage image =
         read(&reader, longestSide); // decoded even if it is kept as it is, to make sure that it is a picture
     if (image.isNull())
-        return {{}, reader.error()};
+        return {{reader.error(), {}}, {}};
     const bool isJpeg = reader.format() == "jpeg";
     const QByteArray content = isFit(bytes, reader.format(), size, longestSide) ? bytes : encoded(image, isJpeg);
     if (content.isEmpty())
-        return {{}, tr("Das Bild ließ sich nicht umwandeln.")};
+        return {{tr("Das Bild ließ sich nicht umwandeln."), {}}, {}};
     const MvMediaFormat format = isJpeg ? MvMediaFormat::Jpeg : MvMediaFormat::Png;
     const QFileInfo file = MvFotoBin(folder).reserve(MvMediaFormat::createFilename(format, nameHint, {}));
-    const QString error = MvSafeFileWriter::write(file, content, MvSafeFileWriter::Backups::None).error;
-    if (!error.isEmpty())
+    const MvOutcome written = MvSafeFileWriter::write(file, content, MvSafeFileWriter::Backups::None);
+    if (!written.isOk())
         QFile::remove(file.absoluteFilePath());
-    return {file, error};
+    return {written, file};
 }

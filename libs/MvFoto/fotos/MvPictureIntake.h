@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvFoto/mvfoto_export.h"
 
 #include <QByteArray>
@@ -22,12 +23,10 @@ class MVFOTO_EXPORT MvPictureIntake
 public:
     static constexpr int sideOfEntries = 1200; // pixels: a day's cell needs no more
 
-    struct Result
+    /// The error does not say whose picture it is; the folder is then as it was.
+    struct Result : MvOutcome
     {
         QFileInfo file; // the new file in the folder
-        QString error;  // for a person, without whose picture it is; the folder is then as it was
-
-        bool isOk() const { return error.isEmpty(); }
     };
 
     /// The file gets a free name like the hint, which need not be fit for names. The longer side is at most that many

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvCore/MvSimplePersonList.h"
 #include "MvProductBase/MvVCardDate.h"
 #include "MvProductBase/mvproductbase_export.h"
@@ -26,7 +27,8 @@ public:
     /// Makes an image of the bytes of its file; null when it cannot or does not want to.
     using PictureDecoder = std::function<QImage(const QByteArray &bytes)>;
 
-    struct Content
+    /// What cards hold. The error has a line for each file; without one, cards were read.
+    struct Content : MvOutcome
     {
         MvSimplePersonList persons;     // each with name and date; a card with an anniversary gives one more for it
         int cardCount = 0;              // with and without dates
@@ -34,7 +36,6 @@ public:
         int withoutName = 0;            // cards that have a date
         QStringList notUnderstood;      // dates: "name: what stands there"; also those that are read in two ways
         QStringList unreadablePictures; // whose
-        QString error;                  // for a person, a line for each file; empty when cards were read
     };
 
     /// Only the pictures of those who are in `persons` are decoded, by the decoder, or as far as they are small by one

@@ -1,15 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvVCardStream.h"
 
-#include "MvCore/MvFileDescriptor.h"
+#include "MvCore/MvRegularFile.h"
 #include "MvCore/MvStringHelper.h"
 
-#include <QFile>
 #include <QHash>
-
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -138,21 +133,9 @@ void MvVCardStream::start(QIODevice *device, const GoOn &goOn)
 
 void MvVCardStream::open()
 {
-    // without waiting: a pipe nobody writes to must not stop the program
-    MvFileDescriptor descriptor(::open(QFile::encodeName(m_path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    struct stat status = {};
-    if (!descriptor.isOpen() || ::fstat(descriptor.get(), &status) != 0) {
-        m_openError = errno == ENOENT ? tr("es gibt keine solche Datei") : MvFileDescriptor::errorText(errno);
-        return;
-    }
-    if (!S_ISREG(status.st_mode)) {
-        m_openError = S_ISDIR(status.st_mode) ? tr("das ist ein Ordner") : tr("das ist keine gewöhnliche Datei");
-        return;
-    }
-    auto device = std::make_unique<QFile>();
-    if (!device->open(::dup(descriptor.get()), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        m_openError = device->errorString();
-    m_file = std::move(device);
+    MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(m_path));
+    m_openError = opened.error;
+    m_file = std::move(opened.file);
 }
 
 bool MvVCardStream::isNested(const MvVCardProperty &property) const

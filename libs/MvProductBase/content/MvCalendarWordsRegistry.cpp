@@ -42,6 +42,7 @@ MvCalendarWordsRegistry::MvCalendarWordsRegistry()
 {
     readWeekWords();
     readPhrases();
+    readPatterns();
 }
 
 MvLocale MvCalendarWordsRegistry::defaultLanguage()
@@ -75,6 +76,22 @@ void MvCalendarWordsRegistry::readPhrases()
         phrases.father = MvXMLParser::textAttribute(element, u"father"_s);
         phrases.child = MvXMLParser::textAttribute(element, u"child"_s);
         m_phrases.insert(MvXMLParser::textAttribute(element, u"language"_s), phrases);
+    }
+}
+
+void MvCalendarWordsRegistry::readPatterns()
+{
+    const QFileInfo file = MvDirectoryConfig::instance().resource(u"words/patterns.xml"_s);
+    const QDomElement root = MvXMLLoader::loadDocumentElement(file);
+    for (QDomElement element = root.firstChildElement(u"patterns"_s); !element.isNull();
+         element = element.nextSiblingElement(u"patterns"_s)) {
+        const auto pattern = [&element](const QString &name, const QString &otherwise) {
+            return MvXMLParser::textAttribute(element, name, otherwise);
+        };
+        m_patterns.insert(MvXMLParser::textAttribute(element, u"language"_s),
+                          {pattern(u"month"_s, u"%1 %2"_s), pattern(u"week"_s, u"%1 %2"_s), pattern(u"day"_s, u"d.M"_s),
+                           pattern(u"ofday"_s, u"%1: %2"_s), pattern(u"oftwodays"_s, u"%1/%2: %3"_s),
+                           pattern(u"ofdays"_s, u"%1-%2: %3"_s)});
     }
 }
 
@@ -143,6 +160,11 @@ QString MvCalendarWordsRegistry::weekText(const MvLocale &language) const
 QString MvCalendarWordsRegistry::schoolYear(const MvLocale &language, const QString &years) const
 {
     return wordsIn(m_phrases, language, {}).schoolYear.arg(years);
+}
+
+MvCalendarWordsRegistry::Patterns MvCalendarWordsRegistry::patterns(const MvLocale &language) const
+{
+    return wordsIn(m_patterns, language, m_patterns.value({}));
 }
 
 QString MvCalendarWordsRegistry::familyMember(const MvLocale &language, const QString &heading) const

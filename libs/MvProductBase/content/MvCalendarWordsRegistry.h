@@ -44,6 +44,18 @@ public:
     /// names none, or a language without words of its own, gives the heading as it is.
     QString familyMember(const MvLocale &language, const QString &heading) const;
 
+    /// How the page puts words and numbers together: with %1, %2 and so on as resources/words/patterns.xml says.
+    struct Patterns
+    {
+        QString month;
+        QString week;
+        QString day; // a format of dates
+        QString ofDay;
+        QString ofTwoDays;
+        QString ofDays;
+    };
+    Patterns patterns(const MvLocale &language) const;
+
 private:
     struct WeekWords
     {
@@ -68,11 +80,13 @@ private:
 
     void readWeekWords();
     void readPhrases();
+    void readPatterns();
     WeekWords weekWords(const MvLocale &language) const;
     std::shared_ptr<const Names> names(const MvLocale &language) const;
 
     QHash<QString, WeekWords> m_weekWords; // by "de_CH" or "de"; never changes once read
     QHash<QString, Phrases> m_phrases;     // likewise
+    QHash<QString, Patterns> m_patterns;   // likewise; "" for all others
     mutable QReadWriteLock m_lock;         // guards m_names
     mutable QHash<MvLocale, std::shared_ptr<const Names>> m_names;
 };

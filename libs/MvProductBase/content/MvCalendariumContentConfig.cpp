@@ -7,6 +7,13 @@ MvCalendariumContentConfig::MvCalendariumContentConfig(const QDate &date,
     , m_holidayConfig(holidayConfig)
 {}
 
+MvCalendariumContentConfig MvCalendariumContentConfig::withFeature(const MvCalendariumFeatures &feature, bool on) const
+{
+    MvCalendariumContentConfig changed = *this;
+    changed.m_holidayConfig.setFeature(feature, on);
+    return changed;
+}
+
 MvCalendariumContentConfig MvCalendariumContentConfig::moveToDay(const QDate &date) const
 {
     MvCalendariumContentConfig moved = *this;

@@ -31,6 +31,8 @@ public:
     MvLocale language() const { return m_holidayConfig.language(); }
     /// True when every bit of the given features is on in the holiday configuration.
     bool hasFeatures(const MvCalendariumFeatures &features) const { return m_holidayConfig.hasFeatures(features); }
+    /// A copy whose holiday configuration has every bit of the feature switched on or off.
+    MvCalendariumContentConfig withFeature(const MvCalendariumFeatures &feature, bool on) const;
 
     /// A copy at another day.
     MvCalendariumContentConfig moveToDay(const QDate &date) const;

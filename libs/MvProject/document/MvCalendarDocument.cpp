@@ -2,6 +2,7 @@
 #include "MvProject/MvCalendarDocument.h"
 
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
+#include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvPageSource.h"
 
 #include <QPainter>
@@ -60,14 +61,16 @@ void MvCalendarDocument::setAppearance(const MvCalendariumAppearance &appearance
 
 void MvCalendarDocument::setHolidayConfig(const MvCalendariumHolidayConfig &config)
 {
-    const auto apply = [&config](MvCalendarPage &page) {
-        MvCalendariumContentConfig content = page.contentConfig();
-        content.setHolidayConfig(config);
-        page.setContentConfig(content);
-    };
-    apply(m_look);
+    m_look.setHolidayConfig(config);
     for (MvCalendarPage &page : m_pages)
-        apply(page);
+        page.setHolidayConfig(config);
+}
+
+void MvCalendarDocument::setFeature(const MvCalendariumFeatures &feature, bool on)
+{
+    m_look.setFeature(feature, on);
+    for (MvCalendarPage &page : m_pages)
+        page.setFeature(feature, on);
 }
 
 void MvCalendarDocument::setRange(const MvDateRange &range)
@@ -209,7 +212,7 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
         if (found)
             found(page, findings);
     };
-    source.title = m_title;
+    source.title = m_title.isEmpty() ? MvCalendarTitle::ofRange(m_range) : m_title;
     source.author = m_author;
     if (const MvLocale language = holidayConfig().language(); language.isValid())
         source.language = language.name().replace(u'_', u'-');

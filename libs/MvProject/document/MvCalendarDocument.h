@@ -38,6 +38,8 @@ public:
     MvCalendariumHolidayConfig holidayConfig() const { return look().contentConfig().holidayConfig(); }
     /// Gives it to all pages.
     void setHolidayConfig(const MvCalendariumHolidayConfig &config);
+    /// Switches every bit of the feature on or off on all pages; what else they show stays each page's own.
+    void setFeature(const MvCalendariumFeatures &feature, bool on);
 
     /// The months, whole ones, that the calendar spans.
     const MvDateRange &range() const { return m_range; }
@@ -47,6 +49,7 @@ public:
     const MvPageFormat &format() const { return m_format; }
     void setFormat(const MvPageFormat &format) { m_format = format; }
 
+    /// What somebody has called it; files of a calendar without a title are called by MvCalendarTitle.
     QString title() const { return m_title; }
     void setTitle(const QString &title) { m_title = title; }
     QString author() const { return m_author; }

@@ -47,6 +47,11 @@ public:
     /// The month, of a year the first one, by any day of it, with the holiday configuration and the week options.
     const MvCalendariumContentConfig &contentConfig() const { return m_content; }
     void setContentConfig(const MvCalendariumContentConfig &content) { m_content = content; }
+    /// The part of it that says which holidays and entries there are.
+    MvCalendariumHolidayConfig holidayConfig() const { return m_content.holidayConfig(); }
+    void setHolidayConfig(const MvCalendariumHolidayConfig &config) { m_content.setHolidayConfig(config); }
+    /// Switches every bit of the feature on or off.
+    void setFeature(const MvCalendariumFeatures &feature, bool on) { m_content = m_content.withFeature(feature, on); }
 
     const MvPhotoFrame &photoFrame() const { return m_photo; }
     void setPhotoFrame(const MvPhotoFrame &photo) { m_photo = photo; }

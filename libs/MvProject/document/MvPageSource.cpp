@@ -6,12 +6,30 @@
 #include <QCoreApplication>
 #include <QPainter>
 
-QString MvPageSource::error() const
+MvPageSource MvPageSource::part(const QList<int> &places) const
+{
+    MvPageSource some = *this;
+    some.pages.clear();
+    some.numbers.clear();
+    QList<int> taken;
+    for (const int place : places) {
+        if (place < 0 || place >= pages.size())
+            continue;
+        taken.append(place);
+        some.pages.append(pages[place]);
+        some.numbers.append(number(place));
+    }
+    if (paint)
+        some.paint = [paint = paint, taken](QPainter &painter, int page) { paint(painter, taken[page]); };
+    return some;
+}
+
+MvOutcome MvPageSource::check() const
 {
     if (!format.isValid())
-        return QCoreApplication::translate("MvPageSource", "Die Seite hat keine Größe");
+        return {QCoreApplication::translate("MvPageSource", "Die Seite hat keine Größe"), {}};
     if (pages.isEmpty() || !paint)
-        return QCoreApplication::translate("MvPageSource", "Der Kalender hat keine Seiten");
+        return {QCoreApplication::translate("MvPageSource", "Der Kalender hat keine Seiten"), {}};
     return {};
 }
 

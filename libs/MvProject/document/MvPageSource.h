@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/mvproject_export.h"
 
@@ -29,8 +30,14 @@ public:
     QString author;
     QString language = QStringLiteral("de-DE"); // of the texts on the pages
 
-    /// What keeps the pages from being exported, for a person; empty when nothing does.
-    QString error() const;
+    /// Some of the pages, by their places in the list, counted from 0; places out of range are ignored. They keep
+    /// their numbers.
+    MvPageSource part(const QList<int> &places) const;
+    /// A page's number in its document, counted from 0.
+    int number(int place) const { return numbers.value(place, place); }
+
+    /// Whether there is something to export, on a paper with a size.
+    MvOutcome check() const;
 
     /// Has a page painted for print, clipped to the page and its bleed. The trimmed page's corner lies at `corner` of
     /// the device and a tenth of a millimetre measures `scale` of its units. The painter's state is as before after.

@@ -55,13 +55,7 @@ void MvExportJob::start()
 {
     if (std::exchange(m_isStarted, true))
         return;
-    MvPageSource source = m_document.pageSource();
-    if (!source.pages.isEmpty()) { // invalid documents have no pages
-        source.pages.clear();
-        for (const int page : std::as_const(m_pages))
-            source.pages.append(m_document.pageDates().at(page));
-        source.numbers = m_pages;
-    }
+    MvPageSource source = m_document.pageSource().part(m_pages);
     source.paint = [feed = m_feed, document = m_document, pages = m_pages](QPainter &painter, int number) {
         const MvCalendarPage &content = document.pages()[pages[number]];
         content.paintGround(painter, document.format());

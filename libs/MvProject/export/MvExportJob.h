@@ -37,8 +37,8 @@ public:
     MvExportJob(const MvCalendarDocument &document, const Writer &write, int dpi, QObject *parent = nullptr);
     ~MvExportJob() override;
 
-    /// Exports only these pages, counted from 0, instead of all; before start(). Numbers that there are not do not
-    /// count.
+    /// Exports only these pages, counted from 0, instead of all; before start(). Numbers out of range are
+    /// ignored.
     void setPages(const QList<int> &pages);
     /// Once per job; later calls do nothing.
     void start();

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
+
 #include <QFileInfo>
 #include <QList>
-#include <QString>
 
 /// What became of an export. Every file named is complete; a file that could not be written is as it was before.
-struct MvExportResult
+struct MvExportResult : MvOutcome
 {
-    QString error; // for a person; empty when nothing went wrong
     QList<QFileInfo> files;
     bool isCancelled = false; // ended by its observer: pages are missing
 
-    bool isOk() const { return error.isEmpty() && !isCancelled; }
+    static MvExportResult failed(const QString &error) { return {{error, {}}, {}, false}; }
+    static MvExportResult cancelled() { return {{}, {}, true}; }
+    /// Every page was exported.
+    bool isOk() const { return MvOutcome::isOk() && !isCancelled; }
+    explicit operator bool() const { return isOk(); }
 };

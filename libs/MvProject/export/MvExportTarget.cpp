@@ -2,7 +2,6 @@
 #include "MvProject/MvExportTarget.h"
 
 #include "MvProject/MvExportObserver.h"
-#include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPngExporter.h"
@@ -13,16 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// One page of several, to be exported on its own.
-MvPageSource onePage(const MvPageSource &pages, int page)
-{
-    MvPageSource one = pages;
-    one.pages = {pages.pages[page]};
-    one.numbers = {pages.numbers.value(page, page)};
-    one.paint = [paint = pages.paint, page](QPainter &painter, int) { paint(painter, page); };
-    return one;
-}
 
 /// Reports the pages of several files as if they were the pages of one.
 class PageObserver : public MvExportObserver
@@ -55,34 +44,41 @@ MvExportTarget::MvExportTarget(const QString &path, Pdf pdf)
     , m_pdf(pdf)
 {}
 
-QString MvExportTarget::nameError(const MvPageSource &pages) const
+MvFileNamePattern::Paths MvExportTarget::files(const MvPageSource &pages) const
 {
     if (m_suffix != u"pdf"_s && m_suffix != u"png"_s && m_suffix != u"svg"_s)
-        return tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path);
-    QString error;
+        return {{tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path), {}}, {}};
     if (m_suffix != u"pdf"_s || isPdfPerPage())
-        MvFileNamePattern(m_path).paths(pages.pages, &error, pages.numbers);
-    return error;
+        return MvFileNamePattern(m_path).paths(pages);
+    return {{}, {m_path}};
 }
 
-QString MvExportTarget::placeError() const
+MvOutcome MvExportTarget::checkSize(const MvPageFormat &format, int dpi) const
 {
+    return m_suffix == u"png"_s ? MvPngExporter::checkSize(format, dpi) : MvOutcome();
+}
+
+MvOutcome MvExportTarget::checkPlace() const
+{
+    MvOutcome outcome;
     const QFileInfo folder(QFileInfo(m_path).path());
     if (!folder.exists())
-        return tr("%1: den Ordner %2 gibt es nicht").replace(u"%1"_s, m_path).replace(u"%2"_s, folder.filePath());
-    if (!folder.isDir() || !folder.isWritable())
-        return tr("%1: in %2 lässt sich nicht schreiben").replace(u"%1"_s, m_path).replace(u"%2"_s, folder.filePath());
-    if (QFileInfo(m_path).isDir())
-        return tr("%1 ist ein Ordner").replace(u"%1"_s, m_path);
-    return {};
+        outcome.error = tr("%1: den Ordner %2 gibt es nicht");
+    else if (!folder.isDir() || !folder.isWritable())
+        outcome.error = tr("%1: in %2 lässt sich nicht schreiben");
+    else if (QFileInfo(m_path).isDir())
+        outcome.error = tr("%1 ist ein Ordner");
+    outcome.error.replace(u"%1"_s, m_path).replace(u"%2"_s, folder.filePath());
+    return outcome;
 }
 
 MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExportObserver *observer) const
 {
-    if (const QString error = nameError(pages); !error.isEmpty())
-        return {error, {}};
+    const MvFileNamePattern::Paths names = files(pages);
+    if (!names.isOk())
+        return MvExportResult::failed(names.error);
     if (isPdfPerPage())
-        return writePdfPerPage(pages, observer);
+        return writePdfPerPage(pages, names.paths, observer);
     if (m_suffix == u"pdf"_s)
         return MvPdfExporter::write(pages, QFileInfo(m_path), observer);
     if (m_suffix == u"png"_s)
@@ -97,13 +93,13 @@ bool MvExportTarget::isPdfPerPage() const
            (name.contains(u"%m"_s) || name.contains(u"%y"_s) || name.contains(u"%n"_s));
 }
 
-MvExportResult MvExportTarget::writePdfPerPage(const MvPageSource &pages, MvExportObserver *observer) const
+MvExportResult MvExportTarget::writePdfPerPage(const MvPageSource &pages, const QStringList &paths,
+                                               MvExportObserver *observer)
 {
     MvExportResult all;
-    const QStringList paths = MvFileNamePattern(m_path).paths(pages.pages, &all.error, pages.numbers);
     for (int page = 0; page < paths.size() && all.isOk(); ++page) {
         PageObserver pageObserver(observer, page, int(paths.size()));
-        const MvExportResult one = MvPdfExporter::write(onePage(pages, page), QFileInfo(paths[page]), &pageObserver);
+        const MvExportResult one = MvPdfExporter::write(pages.part({page}), QFileInfo(paths[page]), &pageObserver);
         all.files += one.files;
         all.error = one.error;
         all.isCancelled = one.isCancelled;

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "MvProject/MvExportResult.h"
+#include "MvProject/MvFileNamePattern.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QCoreApplication>
 #include <QString>
 
 class MvExportObserver;
+class MvPageFormat;
 class MvPageSource;
 
 /// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .png or
@@ -26,17 +28,20 @@ public:
     /// The dots per inch at which images are needed, when PNG files are to have so many.
     int imageResolution(int dpi) const;
 
-    /// What is wrong with the name itself, for these pages; empty when nothing is.
-    QString nameError(const MvPageSource &pages) const;
-    /// What keeps a file of that name from being written, as far as it can be told beforehand; empty when nothing does.
-    QString placeError() const;
+    /// The files that the pages become. What is wrong with the name itself, for these pages, is an error.
+    MvFileNamePattern::Paths files(const MvPageSource &pages) const;
+    /// Whether pages of this format may become pictures of that resolution; other files than PNG have no limits.
+    MvOutcome checkSize(const MvPageFormat &format, int dpi) const;
+    /// Whether a file of that name can be written, as far as it can be told beforehand.
+    MvOutcome checkPlace() const;
 
     /// Writes the pages. The observer, if any, is not owned.
     MvExportResult write(const MvPageSource &pages, int dpi, MvExportObserver *observer = nullptr) const;
 
 private:
     bool isPdfPerPage() const;
-    MvExportResult writePdfPerPage(const MvPageSource &pages, MvExportObserver *observer) const;
+    static MvExportResult writePdfPerPage(const MvPageSource &pages, const QStringList &paths,
+                                          MvExportObserver *observer);
 
     QString m_path;
     QString m_suffix; // lower case

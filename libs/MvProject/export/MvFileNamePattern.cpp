@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvFileNamePattern.h"
 
+#include "MvProject/MvPageSource.h"
+
 #include <QFileInfo>
 #include <QSet>
 
@@ -40,27 +42,27 @@ QString MvFileNamePattern::path(const QDate &month, int page) const
     return result;
 }
 
-QStringList MvFileNamePattern::paths(const QList<QDate> &pages, QString *error, const QList<int> &numbers) const
+MvFileNamePattern::Paths MvFileNamePattern::paths(const MvPageSource &pages) const
 {
+    Paths result;
     QString name = QFileInfo(m_path).fileName().remove(u"%%"_s);
     for (const QString &known : {u"%m"_s, u"%y"_s, u"%n"_s})
         name.remove(known);
     if (name.contains(u'%')) {
-        *error =
+        result.error =
             tr("%1: unbekannter Platzhalter; erlaubt sind %m (Monat), %y (Jahr), %n (Seite) und %% (Prozentzeichen)")
                 .replace(u"%1"_s, m_path);
-        return {};
+        return result;
     }
 
-    QStringList result;
-    for (int page = 0; page < pages.size(); ++page)
-        result.append(path(pages[page], numbers.value(page, page)));
-    if (QSet<QString>(result.cbegin(), result.cend()).size() != result.size()) {
-        *error = tr("%1: bei %2 Seiten braucht der Dateiname einen Platzhalter, der sie unterscheidet: %n (Seite), %m "
-                    "(Monat) oder %y-%m")
-                     .replace(u"%1"_s, m_path)
-                     .replace(u"%2"_s, QString::number(pages.size()));
-        return {};
+    for (int place = 0; place < pages.pages.size(); ++place)
+        result.paths.append(path(pages.pages[place], pages.number(place)));
+    if (QSet<QString>(result.paths.cbegin(), result.paths.cend()).size() != result.paths.size()) {
+        result.error = tr("%1: bei %2 Seiten braucht der Dateiname einen Platzhalter, der sie unterscheidet: %n "
+                          "(Seite), %m (Monat) oder %y-%m")
+                           .replace(u"%1"_s, m_path)
+                           .replace(u"%2"_s, QString::number(result.paths.size()));
+        result.paths.clear();
     }
     return result;
 }

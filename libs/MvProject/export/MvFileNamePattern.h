@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QCoreApplication>
 #include <QDate>
-#include <QList>
 #include <QString>
 #include <QStringList>
+
+class MvPageSource;
 
 /// A file name for each of several pages: "seite-%m.png".
 ///
@@ -25,9 +27,16 @@ public:
     /// The name of one page's file, counted from 0. An unknown placeholder stays as it stands.
     QString path(const QDate &month, int page) const;
 
-    /// The names of all pages, whose numbers, counted from 0, are given unless they are 0, 1, 2 and so on. When they
-    /// would not all differ, or a placeholder is unknown, an empty list and an error for a person.
-    QStringList paths(const QList<QDate> &pages, QString *error, const QList<int> &numbers = {}) const;
+    struct Paths : MvOutcome
+    {
+        QStringList paths; // empty on error
+    };
+
+    /// The names of all pages. That they would not all differ, or that a placeholder is unknown, is an error.
+    Paths paths(const MvPageSource &pages) const;
+
+    /// Text as it must stand in a pattern to mean itself.
+    static QString escaped(QString text) { return text.replace(QLatin1StringView("%"), QLatin1StringView("%%")); }
 
 private:
     QString m_path;

@@ -103,8 +103,8 @@ void setMetadata(QPDF &pdf, const MvPageSource &source)
 
 } // namespace
 
-QString MvPdfBoxes::finish(const QString &rawFile, const MvPageSource &source,
-                           const std::function<QString(const QByteArray &)> &take)
+MvOutcome MvPdfBoxes::finish(const QString &rawFile, const MvPageSource &source,
+                             const std::function<MvOutcome(const QByteArray &)> &take)
 {
     try {
         QPDF pdf;
@@ -113,7 +113,7 @@ QString MvPdfBoxes::finish(const QString &rawFile, const MvPageSource &source,
         pdf.processFile(QFile::encodeName(rawFile).constData());
         const std::vector<QPDFPageObjectHelper> pages = QPDFPageDocumentHelper(pdf).getAllPages();
         if (pages.size() != size_t(source.pages.size()) || pdf.anyWarnings())
-            return QCoreApplication::translate("MvPdfBoxes", "Die Zwischendatei ist unvollständig");
+            return {QCoreApplication::translate("MvPdfBoxes", "Die Zwischendatei ist unvollständig"), {}};
         for (const QPDFPageObjectHelper &page : pages)
             setBoxes(page.getObjectHandle(), source.format);
         setOutputIntent(pdf);
@@ -128,6 +128,6 @@ QString MvPdfBoxes::finish(const QString &rawFile, const MvPageSource &source,
         return take(
             QByteArray::fromRawData(reinterpret_cast<const char *>(buffer->getBuffer()), qsizetype(buffer->getSize())));
     } catch (const std::exception &exception) {
-        return QString::fromLocal8Bit(exception.what());
+        return {QString::fromLocal8Bit(exception.what()), {}};
     }
 }

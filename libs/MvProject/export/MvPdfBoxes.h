@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QByteArray>
@@ -19,8 +20,8 @@ public:
     static constexpr double pointsPerTenthMillimetre = 72.0 / 254.0;
 
     /// Reads the raw file, whose pages have the corner of their media box at the lower left, and hands the finished
-    /// one over. Gives an error for a person; an empty one when all went well. A raw file that is damaged, or does not
-    /// have a page per page of the source, is an error.
-    static QString finish(const QString &rawFile, const MvPageSource &source,
-                          const std::function<QString(const QByteArray &)> &take);
+    /// one over; what came of that is what is given back. A raw file that is damaged, or does not have a page per page
+    /// of the source, is an error.
+    static MvOutcome finish(const QString &rawFile, const MvPageSource &source,
+                            const std::function<MvOutcome(const QByteArray &)> &take);
 };

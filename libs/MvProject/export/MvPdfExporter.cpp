@@ -45,7 +45,7 @@ MvPaintRecording recordPage(const MvPageSource &source, int page, const QPointF 
 }
 
 /// Paints all pages with the lower left corner of the media box at that of the PDF page, which is up to a point larger.
-QString paintRawFile(QTemporaryFile &file, const MvPageSource &source, MvExportObserver *observer)
+MvOutcome paintRawFile(QTemporaryFile &file, const MvPageSource &source, MvExportObserver *observer)
 {
     const QSizeF media = source.format.mediaRect().size() * MvPdfBoxes::pointsPerTenthMillimetre;
     const QSize points(int(std::ceil(media.width())), int(std::ceil(media.height())));
@@ -61,40 +61,42 @@ QString paintRawFile(QTemporaryFile &file, const MvPageSource &source, MvExportO
 
     QPainter painter;
     if (!painter.begin(&writer))
-        return QCoreApplication::translate("MvPdfExporter", "Die Seiten lassen sich nicht zeichnen");
+        return {QCoreApplication::translate("MvPdfExporter", "Die Seiten lassen sich nicht zeichnen"), {}};
     painter.scale(unitsPerDot, unitsPerDot);
     const int total = int(source.pages.size());
     for (int page = 0; page < total && !isCancelled(observer); ++page) {
         if (page > 0 && !writer.newPage())
-            return QCoreApplication::translate("MvPdfExporter", "Seite %1 lässt sich nicht anlegen").arg(page + 1);
+            return {QCoreApplication::translate("MvPdfExporter", "Seite %1 lässt sich nicht anlegen").arg(page + 1), {}};
         recordPage(source, page, corner).replay(painter);
         if (observer)
             observer->pagesDone(page + 1, total);
     }
     painter.end();
-    return file.flush() && file.error() == QFile::NoError ? QString() : file.errorString();
+    if (!file.flush() || file.error() != QFile::NoError)
+        return {file.errorString(), {}};
+    return {};
 }
 
 } // namespace
 
 MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo &target, MvExportObserver *observer)
 {
-    QString error = source.error();
+    MvOutcome outcome = source.check();
     QTemporaryFile raw(QDir::tempPath() + u"/mvcalendar-XXXXXX.pdf"_s);
-    if (error.isEmpty() && !raw.open())
-        error = raw.errorString();
-    if (error.isEmpty())
-        error = paintRawFile(raw, source, observer);
+    if (outcome.isOk() && !raw.open())
+        outcome.error = raw.errorString();
+    if (outcome.isOk())
+        outcome = paintRawFile(raw, source, observer);
     bool isWritten = false;
-    if (error.isEmpty() && !isCancelled(observer)) {
-        error = MvPdfBoxes::finish(raw.fileName(), source, [&](const QByteArray &content) {
+    if (outcome.isOk() && !isCancelled(observer)) {
+        outcome = MvPdfBoxes::finish(raw.fileName(), source, [&](const QByteArray &content) {
             if (isCancelled(observer)) // finishing the file can take long
-                return QString();
+                return MvOutcome();
             isWritten = true;
-            return MvSafeFileWriter::write(target, content, MvSafeFileWriter::Backups::None).error;
+            return MvSafeFileWriter::write(target, content, MvSafeFileWriter::Backups::None);
         });
     }
-    if (!error.isEmpty())
-        return {u"%1: %2"_s.arg(target.filePath(), error), {}};
-    return isWritten ? MvExportResult{{}, {target}} : MvExportResult{{}, {}, true};
+    if (!outcome.isOk())
+        return MvExportResult::failed(u"%1: %2"_s.arg(target.filePath(), outcome.error));
+    return isWritten ? MvExportResult{outcome, {target}, false} : MvExportResult::cancelled();
 }

@@ -21,13 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int maximumPixels = 32000; // the raster engine counts in 16 bits
-
-QSize pixelSize(const MvPageFormat &format, int dpi)
-{
-    const QSizeF pixels = format.trimSize() * (dpi / MvMath::tenthMillimetresPerInch);
-    return {int(std::lround(pixels.width())), int(std::lround(pixels.height()))};
-}
+static_assert(MvPngExporter::maximumPixels < 32768); // the raster engine counts in 16 bits
 
 /// Pixels per tenth of a millimetre with which the page reaches the picture's edges: half pixels would shine through.
 double coveringScale(const MvPageFormat &format, const QSize &pixels)
@@ -35,30 +29,9 @@ double coveringScale(const MvPageFormat &format, const QSize &pixels)
     return std::max(pixels.width() / format.trimSize().width(), pixels.height() / format.trimSize().height());
 }
 
-QString check(const MvPageSource &source, int dpi)
-{
-    if (const QString error = source.error(); !error.isEmpty())
-        return error;
-    if (dpi < MvPngExporter::minimumDpi || dpi > MvPngExporter::maximumDpi) {
-        return QCoreApplication::translate("MvPngExporter", "%1 Punkte je Zoll gehen nicht; erlaubt sind %2 bis %3")
-            .arg(dpi)
-            .arg(MvPngExporter::minimumDpi)
-            .arg(MvPngExporter::maximumDpi);
-    }
-    const QSize size = pixelSize(source.format, dpi);
-    if (std::max(size.width(), size.height()) > maximumPixels) {
-        return QCoreApplication::translate("MvPngExporter",
-                                           "Die Seite wäre %1 × %2 Bildpunkte groß; erlaubt sind %3 je Seite")
-            .arg(size.width())
-            .arg(size.height())
-            .arg(maximumPixels);
-    }
-    return {};
-}
-
 QImage emptyPage(const MvPageFormat &format, int dpi)
 {
-    QImage image(pixelSize(format, dpi), QImage::Format_RGB32);
+    QImage image(MvPngExporter::pixelSize(format, dpi), QImage::Format_RGB32);
     image.setDotsPerMeterX(int(std::lround(dpi / 0.0254)));
     image.setDotsPerMeterY(image.dotsPerMeterX());
     image.setColorSpace(QColorSpace(QColorSpace::SRgb));
@@ -78,20 +51,47 @@ QByteArray encode(const QImage &image, const QString &title, QString *error)
 
 } // namespace
 
+QSize MvPngExporter::pixelSize(const MvPageFormat &format, int dpi)
+{
+    const QSizeF pixels = format.trimSize() * (dpi / MvMath::tenthMillimetresPerInch);
+    return {int(std::lround(pixels.width())), int(std::lround(pixels.height()))};
+}
+
+MvOutcome MvPngExporter::checkSize(const MvPageFormat &format, int dpi)
+{
+    MvOutcome outcome;
+    const QSize size = pixelSize(format, dpi);
+    if (dpi < minimumDpi || dpi > maximumDpi) {
+        outcome.error =
+            QCoreApplication::translate("MvPngExporter", "%1 Punkte je Zoll gehen nicht; erlaubt sind %2 bis %3")
+                .arg(dpi)
+                .arg(minimumDpi)
+                .arg(maximumDpi);
+    } else if (std::max(size.width(), size.height()) > maximumPixels) {
+        outcome.error = QCoreApplication::translate("MvPngExporter",
+                                                    "Die Seite wäre %1 × %2 Bildpunkte groß; erlaubt sind %3 je Seite")
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(maximumPixels);
+    }
+    return outcome;
+}
+
 MvExportResult MvPngExporter::write(const MvPageSource &source, const QString &pattern, int dpi,
                                     MvExportObserver *observer)
 {
-    MvExportResult result;
-    result.error = check(source, dpi);
-    QStringList paths;
-    if (result.isOk())
-        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error, source.numbers);
-    if (!result.isOk())
-        return result;
+    const MvFileNamePattern::Paths names = MvFileNamePattern(pattern).paths(source);
+    for (const MvOutcome &checked : {source.check(), checkSize(source.format, dpi), MvOutcome(names)}) {
+        if (!checked.isOk())
+            return MvExportResult::failed(checked.error);
+    }
     QImage image = emptyPage(source.format, dpi);
     if (image.isNull())
-        return {QCoreApplication::translate("MvPngExporter", "Der Speicher reicht nicht für eine Seite"), {}};
+        return MvExportResult::failed(
+            QCoreApplication::translate("MvPngExporter", "Der Speicher reicht nicht für eine Seite"));
 
+    const QStringList &paths = names.paths;
+    MvExportResult result;
     for (int page = 0; page < paths.size(); ++page) {
         image.fill(Qt::white);
         QPainter painter(&image);

@@ -4,7 +4,10 @@
 #include "MvProject/MvExportResult.h"
 #include "MvProject/mvproject_export.h"
 
+#include <QSize>
+
 class MvExportObserver;
+class MvPageFormat;
 class MvPageSource;
 
 /// Writes each page as a PNG of the trimmed page, sRGB, with its resolution in the file.
@@ -14,8 +17,15 @@ public:
     static constexpr int minimumDpi = 10;
     static constexpr int maximumDpi = 1200;
 
-    /// File names by MvFileNamePattern. Dots per inch outside the limits, and pages of more than 32000 pixels per side,
-    /// are errors. The first page that cannot be written ends the export.
+    static constexpr int maximumPixels = 32000; // per side
+
+    /// The size of the trimmed page.
+    static QSize pixelSize(const MvPageFormat &format, int dpi);
+    /// Whether resolution and size in pixels lie within the limits.
+    static MvOutcome checkSize(const MvPageFormat &format, int dpi);
+
+    /// File names by MvFileNamePattern. A size that checkSize() refuses is an error. The first page that cannot be
+    /// written ends the export.
     static MvExportResult write(const MvPageSource &source, const QString &pattern, int dpi,
                                 MvExportObserver *observer = nullptr);
 };

@@ -45,10 +45,13 @@ QByteArray paintSvg(const MvPageSource &source, int page)
 
 MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &pattern, MvExportObserver *observer)
 {
-    MvExportResult result{source.error(), {}};
-    QStringList paths;
-    if (result.isOk())
-        paths = MvFileNamePattern(pattern).paths(source.pages, &result.error, source.numbers);
+    const MvFileNamePattern::Paths names = MvFileNamePattern(pattern).paths(source);
+    for (const MvOutcome &checked : {source.check(), MvOutcome(names)}) {
+        if (!checked.isOk())
+            return MvExportResult::failed(checked.error);
+    }
+    const QStringList &paths = names.paths;
+    MvExportResult result;
     for (int page = 0; page < paths.size(); ++page) {
         const QByteArray bytes = paintSvg(source, page);
         result.isCancelled = observer && observer->isCancelled();

@@ -48,51 +48,41 @@ void MvProject::changePage(int page, const MvCalendarPage &after, const QString 
 
 void MvProject::newProject(const MvCalendarDocument &document)
 {
-    m_notes.clear();
     m_saved = document;
     replace(document, QFileInfo(), QFileInfo(), QByteArray());
 }
 
-bool MvProject::open(const QFileInfo &file, QString *error)
+MvOutcome MvProject::open(const QFileInfo &file)
 {
     const QByteArray stamp = MvFileGuard::stamp(file); // before reading: a later change is then noticed
     const MvProjectFile::Content content = MvProjectFile::read(file);
-    if (error)
-        *error = content.error;
-    if (!content.isRead())
-        return false;
-    m_notes = content.notes;
+    if (!content.isOk())
+        return content;
     m_saved = content.document;
     replace(content.document, file, QFileInfo(), stamp);
-    return true;
+    return content;
 }
 
 void MvProject::openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered,
                               const QByteArray &originalStamp)
 {
-    m_notes.clear();
     m_saved.reset();
     const bool hasFile = !original.filePath().isEmpty();
     replace(document, original, recovered, hasFile ? stampUnder(original, recovered, originalStamp) : QByteArray());
 }
 
-bool MvProject::save(QString *error)
+MvOutcome MvProject::save()
 {
-    if (m_file.filePath().isEmpty()) {
-        if (error)
-            *error = tr("Das Projekt hat noch keine Datei.");
-        return false;
-    }
-    return saveAs(m_file, error);
+    if (m_file.filePath().isEmpty())
+        return {tr("Das Projekt hat noch keine Datei."), {}};
+    return saveAs(m_file);
 }
 
-bool MvProject::saveAs(const QFileInfo &file, QString *error)
+MvOutcome MvProject::saveAs(const QFileInfo &file)
 {
-    const QString writeError = MvProjectFile::write(m_document, file);
-    if (error)
-        *error = writeError;
-    if (!writeError.isEmpty())
-        return false;
+    const MvOutcome written = MvProjectFile::write(m_document, file);
+    if (!written.isOk())
+        return written;
     const bool isOther = file.absoluteFilePath() != m_file.absoluteFilePath() || m_file.filePath().isEmpty();
     m_file = QFileInfo(file.absoluteFilePath());
     m_stamp = MvFileGuard::stamp(m_file);
@@ -102,7 +92,7 @@ bool MvProject::saveAs(const QFileInfo &file, QString *error)
         Q_EMIT fileInfoChanged();
     updateModified();
     Q_EMIT saved();
-    return true;
+    return written;
 }
 
 QString MvProject::displayName() const

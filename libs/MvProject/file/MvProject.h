@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvSession.h"
+#include "MvCore/MvOutcome.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/mvproject_export.h"
 
@@ -9,7 +10,6 @@
 #include <QFileInfo>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 #include <optional>
 
@@ -38,20 +38,18 @@ public:
 
     /// Begins with a document that no file belongs to. What was open before is given up, and its undo steps with it.
     void newProject(const MvCalendarDocument &document);
-    /// Opens a file. When it cannot be read, what was open stays, and the error says for a person what, where and what
-    /// to do.
-    bool open(const QFileInfo &file, QString *error = nullptr);
+    /// Opens a file; the notes say what of it could not be taken as it stands there. When it cannot be read, what was
+    /// open stays.
+    MvOutcome open(const QFileInfo &file);
     /// Goes on with a document that was not saved to its file: the project is modified. The file may be none. Its stamp
     /// is the one it had under the document; without one, the times of both files tell whether it is another by now.
     void openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered,
                        const QByteArray &originalStamp = {});
-    /// What of the file that was opened last could not be taken as it stands there, for a person.
-    const QStringList &notes() const { return m_notes; }
 
     /// Writes the file; without one, an error.
-    bool save(QString *error = nullptr);
+    MvOutcome save();
     /// Writes another file, which then belongs to the project.
-    bool saveAs(const QFileInfo &file, QString *error = nullptr);
+    MvOutcome saveAs(const QFileInfo &file);
 
     /// The file that the project belongs to; one without a path for a new project.
     QFileInfo fileInfo() const { return m_file; }
@@ -96,6 +94,5 @@ private:
     QFileInfo m_file;
     QByteArray m_stamp; // of the file, when it was read or written; what no file has, if that was another one
     QFileInfo m_recoveredFrom;
-    QStringList m_notes;
     bool m_isModified = false;
 };

@@ -18,15 +18,15 @@ MvProjectFile::Content MvProjectFile::read(const QFileInfo &file)
     return MvProjectReader(QFileInfo(file.filePath())).read(); // the given QFileInfo may have cached an older state
 }
 
-QString MvProjectFile::write(const MvCalendarDocument &document, const QFileInfo &file)
+MvOutcome MvProjectFile::write(const MvCalendarDocument &document, const QFileInfo &file)
 {
     const QByteArray bytes = toBytes(document, file.absoluteDir());
     const MvXMLLoader::Error error = MvXMLLoader::check(bytes);
     if (error.isError())
-        return tr("%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2")
-            .arg(QDir::toNativeSeparators(file.filePath()), error.message);
-    const MvSafeFileWriter::Result result = MvSafeFileWriter::write(file, bytes);
-    return result.error; // names the file
+        return {tr("%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2")
+                    .arg(QDir::toNativeSeparators(file.filePath()), error.message),
+                {}};
+    return MvSafeFileWriter::write(file, bytes);
 }
 
 QByteArray MvProjectFile::toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath,

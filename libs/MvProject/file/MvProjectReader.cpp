@@ -50,7 +50,7 @@ void MvProjectReader::readPages(const QDomElement &root)
     const MvDateRange range = readRange(root);
     QList<MvCalendarPage> pages;
     QList<QDate> months;
-    for (QDomElement element = root.firstChildElement(page); m_content.isRead() && !element.isNull();
+    for (QDomElement element = root.firstChildElement(page); m_content.isOk() && !element.isNull();
          element = element.nextSiblingElement(page)) {
         const MvCalendarPage read = readPage(element);
         const QDate month = read.contentConfig().date();
@@ -64,7 +64,7 @@ void MvProjectReader::readPages(const QDomElement &root)
             pages.append(read);
         months.append(month);
     }
-    if (!m_content.isRead())
+    if (!m_content.isOk())
         return;
     if (pages.isEmpty())
         return fail(root, tr("Das Projekt enthält keine Seiten."));
@@ -221,7 +221,7 @@ void MvProjectReader::noteChanged(const QDomElement &place, const QString &attri
 
 void MvProjectReader::fail(const QDomElement &place, const QString &message)
 {
-    if (m_content.isRead())
+    if (m_content.isOk())
         m_content.error = placed(place, message) + advice();
 }
 

@@ -44,22 +44,14 @@ QList<MvProjectRecovery::Entry> MvProjectRecovery::found()
     return entries;
 }
 
-bool MvProjectRecovery::open(const Entry &entry, MvProject &project, QString *error)
+MvOutcome MvProjectRecovery::open(const Entry &entry, MvProject &project)
 {
-    QString found;
-    MvProjectFile::Content content;
     if (!MvFileGuard(entry.file, 0).isLocked())
-        found = tr("Der Stand ist schon in einem anderen Fenster geöffnet.");
-    else
-        content = MvProjectFile::read(entry.file);
-    if (found.isEmpty())
-        found = content.error;
-    if (error)
-        *error = found;
-    if (!found.isEmpty())
-        return false;
-    project.openRecovered(content.document, QFileInfo(content.originalPath), entry.file, content.originalStamp);
-    return true;
+        return {tr("Der Stand ist schon in einem anderen Fenster geöffnet."), {}};
+    const MvProjectFile::Content content = MvProjectFile::read(entry.file);
+    if (content.isOk())
+        project.openRecovered(content.document, QFileInfo(content.originalPath), entry.file, content.originalStamp);
+    return content;
 }
 
 void MvProjectRecovery::discard(const Entry &entry)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QCoreApplication>
@@ -29,8 +30,8 @@ public:
     static QList<Entry> found();
 
     /// Opens the state. The project keeps its original path and is modified; the entry's file stays until it is saved
-    /// or given up, if an MvProjectAutosave watches the project. On error, which is told, nothing changes.
-    static bool open(const Entry &entry, MvProject &project, QString *error = nullptr);
+    /// or given up, if an MvProjectAutosave watches the project. On error nothing changes.
+    static MvOutcome open(const Entry &entry, MvProject &project);
 
     /// Removes the state for good.
     static void discard(const Entry &entry);

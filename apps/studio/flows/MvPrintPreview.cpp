@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "flows/MvPrintPreview.h"
+
+#include "common/MvStudioMessage.h"
+
+#include "MvGUIWidgets/MvIconRegistry.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPrintDialog>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPushButton>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const Paint &paint, QWidget *parent)
+    : QDialog(parent)
+    , m_printer(printer)
+    , m_preview(new QPrintPreviewWidget(printer.get(), this))
+    , m_page(new QLabel(this))
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setObjectName(u"printPreview"_s);
+    setWindowTitle(tr("Druckvorschau"));
+    m_page->setObjectName(u"previewPage"_s);
+    connect(m_preview, &QPrintPreviewWidget::paintRequested, this, paint);
+    connect(m_preview, &QPrintPreviewWidget::previewChanged, this, &MvPrintPreview::update);
+
+    const bool hasPrinter = printer->outputFormat() == QPrinter::NativeFormat;
+    QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Cancel, this);
+    QPushButton *print =
+        buttons->addButton(hasPrinter ? tr("&Drucken …") : tr("Als &PDF exportieren …"), QDialogButtonBox::AcceptRole);
+    print->setObjectName(u"previewPrint"_s);
+    print->setDefault(true);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(print, &QPushButton::clicked, this, [this, hasPrinter] {
+        if (hasPrinter) {
+            askForPrinter();
+            return;
+        }
+        accept();
+        Q_EMIT pdfRequested();
+    });
+
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(createToolBar());
+    column->addWidget(m_preview, 1);
+    column->addWidget(buttons);
+    m_preview->fitInView();
+}
+
+MvPrintPreview::~MvPrintPreview()
+{
+    delete m_preview; // before its printer
+}
+
+int MvPrintPreview::pageCount() const
+{
+    return m_preview->pageCount();
+}
+
+QAction *MvPrintPreview::addAction(QToolBar *bar, const QString &name, const QString &text,
+                                   const QList<QKeySequence> &keys)
+{
+    QAction *action = bar->addAction(MvIconRegistry::instance().icon(u"ico_studio_"_s + name), text);
+    action->setObjectName(u"preview_"_s + name);
+    action->setShortcuts(keys);
+    return action;
+}
+
+QToolBar *MvPrintPreview::createToolBar()
+{
+    auto *bar = new QToolBar(this);
+    m_previous = addAction(bar, u"page_previous"_s, tr("Vorige Seite"), {Qt::Key_PageUp});
+    m_next = addAction(bar, u"page_next"_s, tr("Nächste Seite"), {Qt::Key_PageDown});
+    connect(m_previous, &QAction::triggered, this, [this] { showPage(m_preview->currentPage() - 1); });
+    connect(m_next, &QAction::triggered, this, [this] { showPage(m_preview->currentPage() + 1); });
+    bar->addWidget(m_page);
+    bar->addSeparator();
+    connect(addAction(bar, u"zoom_in"_s, tr("Größer"), {QKeySequence::ZoomIn, Qt::CTRL | Qt::Key_Equal}),
+            &QAction::triggered, m_preview, [this] { m_preview->zoomIn(); });
+    connect(addAction(bar, u"zoom_out"_s, tr("Kleiner"), {QKeySequence::ZoomOut}), &QAction::triggered, m_preview,
+            [this] { m_preview->zoomOut(); });
+    connect(addAction(bar, u"zoom_fit"_s, tr("Ganze Seite"), {Qt::CTRL | Qt::Key_0}), &QAction::triggered, m_preview,
+            &QPrintPreviewWidget::fitInView);
+    return bar;
+}
+
+void MvPrintPreview::showPage(int page)
+{
+    m_preview->setCurrentPage(page);
+    update();
+}
+
+void MvPrintPreview::update()
+{
+    const int page = m_preview->currentPage();
+    m_page->setText(tr("Seite %1 von %2").arg(page).arg(pageCount()));
+    m_previous->setEnabled(page > 1);
+    m_next->setEnabled(page < pageCount());
+}
+
+void MvPrintPreview::askForPrinter()
+{
+    auto *dialog = new QPrintDialog(m_printer.get(), this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setMinMax(1, pageCount());
+    connect(dialog, &QDialog::accepted, this, [this] {
+        accept();
+        Q_EMIT printRequested();
+    });
+    dialog->open();
+}
