@@ -24,8 +24,7 @@ int main(int argc, char **argv)
     folders.programDataDir().mkpath(QStringLiteral("."));
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
 
-    const MvSafeFileWriter::Result written =
-        MvSafeFileWriter::write(folders.programDataFile(QStringLiteral("my-holidays.xml")), R"(
+    const MvOutcome written = MvSafeFileWriter::write(folders.programDataFile(QStringLiteral("my-holidays.xml")), R"(
 <MyHolidays>
   <country code="DE">
     <holiday name="Company anniversary" type="public" rule="03-17"/>
