@@ -518,6 +518,21 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEventStep</name>
+    <message>
+        <source>Eintrag anlegen</source>
+        <translation>Add entry</translation>
+    </message>
+    <message>
+        <source>Eintrag ändern</source>
+        <translation>Change entry</translation>
+    </message>
+    <message>
+        <source>Eintrag löschen</source>
+        <translation>Delete entry</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventStore</name>
     <message>
         <source>%1 konnte nicht gespeichert werden: %2</source>
@@ -3893,21 +3908,6 @@ Designs photo calendars and prints them.
     <message>
         <source>&amp;Wiederholen</source>
         <translation>&amp;Redo</translation>
-    </message>
-</context>
-<context>
-    <name>MvUndoCommandCalendarEvent</name>
-    <message>
-        <source>Eintrag anlegen</source>
-        <translation>Add entry</translation>
-    </message>
-    <message>
-        <source>Eintrag ändern</source>
-        <translation>Change entry</translation>
-    </message>
-    <message>
-        <source>Eintrag löschen</source>
-        <translation>Delete entry</translation>
     </message>
 </context>
 <context>
