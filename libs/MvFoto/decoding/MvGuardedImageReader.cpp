@@ -14,7 +14,6 @@
 #include <QPixelFormat>
 
 #include <limits>
-#include <mutex>
 #include <utility>
 
 namespace {
