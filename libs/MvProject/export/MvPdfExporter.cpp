@@ -66,7 +66,8 @@ MvOutcome paintRawFile(QTemporaryFile &file, const MvPageSource &source, MvExpor
     const int total = int(source.pages.size());
     for (int page = 0; page < total && !isCancelled(observer); ++page) {
         if (page > 0 && !writer.newPage())
-            return {QCoreApplication::translate("MvPdfExporter", "Seite %1 lässt sich nicht anlegen").arg(page + 1), {}};
+            return {QCoreApplication::translate("MvPdfExporter", "Seite %1 lässt sich nicht anlegen").arg(page + 1),
+                    {}};
         recordPage(source, page, corner).replay(painter);
         if (observer)
             observer->pagesDone(page + 1, total);
