@@ -11,7 +11,7 @@
 ///
 /// What is painted says how large it needs a photo; the source decides what that costs: an export decodes at once
 /// (MvDirectFotoSource), a window gives what it has at hand and paints again when the rest has been decoded
-///. Whoever starts a painting chooses the source and hands it down; nothing below asks a global.
+/// (MvFotoPass). Whoever starts a painting chooses the source and hands it down; nothing below asks a global.
 class MVFOTO_EXPORT MvFotoSource
 {
 public:
