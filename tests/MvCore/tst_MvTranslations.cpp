@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCore/MvDirectoryConfig.h"
 #include "MvTest.h"
 
 #include "MvCore/MvApplicationLocale.h"
