@@ -261,7 +261,8 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     if (steps == 0)
         return;
     QCOMPARE(MvUndoController::instance().stack()->undoText(), u"loadEventList"_qs);
-    QCOMPARE(MvUndoController::instance().undoName(), u"Einträge hinzufügen"_qs);
+    QCOMPARE(MvUndoController::instance().undoName(),
+             action == u"Laden…"_qs ? u"Einträge laden"_qs : u"Einträge hinzufügen"_qs);
     MvUndoController::instance().undo();
     QStringList undone = names();
     undone.sort();

@@ -78,11 +78,7 @@ MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
 {
     const auto asking = renderer(m_appearance, {}, {});
     const auto areShownWhen = [this, &asking](bool asked) {
-        MvCalendariumHolidayConfig holidays = m_content.holidayConfig();
-        holidays.setFeature(FEATURE_CALENDAR_WEEKS, asked);
-        MvCalendariumContentConfig content = m_content;
-        content.setHolidayConfig(holidays);
-        asking->setCalendarInformation(content, {});
+        asking->setCalendarInformation(m_content.withFeature(FEATURE_CALENDAR_WEEKS, asked), {});
         return asking->isConfigured(calendar_render_week_of_year);
     };
     if (areShownWhen(false))
