@@ -3,7 +3,6 @@
 #include "MvTest.h"
 
 #include "MvCore/MvApplicationLocale.h"
-#include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvLocale.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvTranslations.h"
