@@ -102,7 +102,7 @@ QPainterPath joined(const QList<MvPlacedOutline> &lines)
 /// take half the space, and half the time to pack.
 bool isWrittenInSmallUnits(const QPainter &painter)
 {
-    constexpr int smallUnits = 10000; // per inch
+    constexpr int smallUnits = 7200; // per inch: rounding moves a point by 0.002 mm at most
     return painter.paintEngine()->type() == QPaintEngine::Pdf && painter.device()->logicalDpiX() >= smallUnits;
 }
 

@@ -22,8 +22,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Of the file's coordinates to a dot: texts are written in whole ones, less than a thousandth of a millimetre.
-constexpr int unitsPerDot = 100;
+/// Of the file's coordinates to a dot: texts are written in whole ones, which are right to 0.002 mm and short.
+constexpr int unitsPerDot = 24;
 constexpr double dotsPerUnit = MvPdfExporter::resolution / MvMath::tenthMillimetresPerInch; // of the page
 
 bool isCancelled(const MvExportObserver *observer)
