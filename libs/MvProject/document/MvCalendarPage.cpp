@@ -115,7 +115,7 @@ MvPageFindings MvCalendarPage::paint(QPainter &painter, const MvPageFormat &form
                                      const MvRenderingSources &sources) const
 {
     paintGround(painter, format);
-    paintPhoto(painter, format);
+    paintPhoto(painter, format, sources.fotosOrDefault());
     return paintCalendarium(painter, format, documentRange, {sources});
 }
 
@@ -127,10 +127,10 @@ void MvCalendarPage::paintGround(QPainter &painter, const MvPageFormat &format) 
         painter.fillRect(format.mediaRect(), color);
 }
 
-void MvCalendarPage::paintPhoto(QPainter &painter, const MvPageFormat &format) const
+void MvCalendarPage::paintPhoto(QPainter &painter, const MvPageFormat &format, MvFotoSource &fotos) const
 {
     if (m_photo.isValid())
-        MvPhotoPainter(painter, m_photo).paint(m_photo.rect(format));
+        MvPhotoPainter(painter, m_photo, fotos).paint(m_photo.rect(format));
 }
 
 MvPaintRecording MvCalendarPage::record(const MvPageFormat &format, const MvDateRange &documentRange,

@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumColorSchemaID.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaID.h"
 #include "MvCalendar/MvRenderingSources.h"
+#include "MvFoto/MvDirectFotoSource.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvPaint/MvPaintRecording.h"
 #include "MvProductBase/MvCalendariumContentConfig.h"
@@ -84,7 +85,8 @@ public:
     /// The parts of paint() beneath the calendarium, from any thread: the ground of margins and bleed, which continues
     /// that of empty cells, and the photo.
     void paintGround(QPainter &painter, const MvPageFormat &format) const;
-    void paintPhoto(QPainter &painter, const MvPageFormat &format) const;
+    void paintPhoto(QPainter &painter, const MvPageFormat &format,
+                    MvFotoSource &fotos = MvDirectFotoSource::instance()) const;
     /// The part above them, the line with the month and the calendarium, to be replayed in page units. It is recorded
     /// for the rule. Photos of entries are decoded with `pixelsPerUnit` pixels per page unit: pass the largest scale at
     /// which the recording will be replayed. What was found meanwhile is stored where `findings` points, unless that is

@@ -3,6 +3,7 @@
 
 #include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoResolution.h"
+#include "MvFoto/MvFotoSource.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvPaint/MvPrintableText.h"
@@ -22,13 +23,13 @@ namespace {
 constexpr QColor fieldColor(0xE6, 0xE6, 0xE6);
 constexpr QColor textColor(0x59, 0x59, 0x59); // contrast of more than 4.5 to the field
 
-/// The steps in which photos are decoded for a screen, so that zooming does not decode one for every factor.
-int qualityFor(int side)
+/// The longer side of photos on a screen, in steps, so that zooming does not decode one for every factor.
+int screenSide(int needed)
 {
-    int quality = 2; // 512 pixels
-    while (quality < 7 && (128 << quality) < side)
-        ++quality;
-    return quality;
+    int side = 512; // pixels
+    while (side < 16384 && side < needed)
+        side *= 2;
+    return side;
 }
 
 } // namespace
@@ -59,13 +60,15 @@ void MvPhotoPainter::paint(const QRectF &rect)
 
 QImage MvPhotoPainter::decode(const QSize &full, double devicePixelsPerPhotoPixel) const
 {
-    const MvFoto foto{QFileInfo(m_frame.path())};
+    const QFileInfo file(m_frame.path());
     const double scale = std::min(1.0, devicePixelsPerPhotoPixel); // what is larger than the photo is not in its file
     const QSize needed(std::max(1, int(std::ceil(full.width() * scale))),
                        std::max(1, int(std::ceil(full.height() * scale))));
     if (MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::Print))
-        return MvFotoAccess::scaled(foto, needed);
-    return MvFotoAccess::midRes(foto, qualityFor(std::max(needed.width(), needed.height())), MvFotoAccess::UseMemory);
+        return m_fotos.scaled(file, needed);
+    const int side = screenSide(std::max(needed.width(), needed.height()));
+    const bool isLarger = full.width() > side || full.height() > side;
+    return m_fotos.scaled(file, isLarger ? QSize(side, side) : full);
 }
 
 /// Whole pixels of the image are drawn, clipped to the rectangle: some targets would round the part that is seen, and

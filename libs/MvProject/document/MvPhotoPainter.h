@@ -6,17 +6,21 @@
 #include <QCoreApplication>
 #include <QImage>
 
+class MvFotoSource;
 class QPainter;
 
-/// Paints the photo of a page, decoded at the size that the painter's device needs. Any thread.
+/// Paints the photo of a page, in the size that the painter's device needs. Any thread that the source of the photos
+/// allows.
 class MvPhotoPainter
 {
     Q_DECLARE_TR_FUNCTIONS(MvPhotoPainter)
 
 public:
-    MvPhotoPainter(QPainter &painter, const MvPhotoFrame &frame)
+    /// What is handed over must outlive the painter.
+    MvPhotoPainter(QPainter &painter, const MvPhotoFrame &frame, MvFotoSource &fotos)
         : m_painter(painter)
         , m_frame(frame)
+        , m_fotos(fotos)
     {}
 
     /// Fills the rectangle with the photo. Where its file is missing: nothing on print, on a screen a grey field, which
@@ -31,4 +35,5 @@ private:
 
     QPainter &m_painter;
     const MvPhotoFrame &m_frame;
+    MvFotoSource &m_fotos;
 };
