@@ -52,6 +52,16 @@ private:
     QString path(const QString &name) const { return QDir(m_dir->path()).absoluteFilePath(name); }
     QByteArray contentOf(const QString &name) const;
     void put(const QString &name, const QByteArray &content) const;
+    /// Of a file; of the folder when the name is empty.
+    QByteArray native(const QString &name = {}) const
+    {
+        return QFile::encodeName(name.isEmpty() ? m_dir->path() : path(name));
+    }
+    bool setMode(const QString &name, int mode) const { return ::chmod(native(name).constData(), mode_t(mode)) == 0; }
+    MvOutcome write(const QString &name, const QByteArray &content) const
+    {
+        return MvSafeFileWriter::write(QFileInfo(path(name)), content);
+    }
     QStringList names() const
     {
         return QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -83,13 +93,12 @@ void tst_MvSafeFileWriter::put(const QString &name, const QByteArray &content) c
 void tst_MvSafeFileWriter::replacesAndKeepsMode()
 {
     put(u"a.xml"_s, "old");
-    QVERIFY(::chmod(QFile::encodeName(path(u"a.xml"_s)).constData(), 0640) == 0);
+    QVERIFY(setMode(u"a.xml"_s, 0640));
     QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new", MvSafeFileWriter::Backups::None).isOk());
     QCOMPARE(contentOf(u"a.xml"_s), "new");
     QCOMPARE(names(), QStringList{u"a.xml"_s});
     struct stat status = {};
-    QVERIFY(::stat(QFile::encodeName(path(u"a.xml"_s)).constData(), &status) == 0);
-    QCOMPARE(status.st_mode & 07777, 0640u);
+    QVERIFY(::stat(native(u"a.xml"_s).constData(), &status) == 0 && (status.st_mode & 07777) == 0640u);
 }
 
 void tst_MvSafeFileWriter::writesThroughLinks()
@@ -98,14 +107,14 @@ void tst_MvSafeFileWriter::writesThroughLinks()
     put(u"elsewhere/real.xml"_s, "old");
     QVERIFY(QFile::link(u"elsewhere/real.xml"_s, path(u"one.xml"_s)));
     QVERIFY(QFile::link(u"one.xml"_s, path(u"two.xml"_s)));
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"two.xml"_s)), "new").isOk());
+    QVERIFY(write(u"two.xml"_s, "new").isOk());
     QVERIFY(QFileInfo(path(u"two.xml"_s)).isSymLink());
     QVERIFY(QFileInfo(path(u"one.xml"_s)).isSymLink());
     QCOMPARE(contentOf(u"elsewhere/real.xml"_s), "new");
     QCOMPARE(contentOf(u"elsewhere/real.xml~"_s), "old"); // backups lie where the content lies
 
     QVERIFY(QFile::link(u"elsewhere/later.xml"_s, path(u"dangling.xml"_s)));
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"dangling.xml"_s)), "first").isOk());
+    QVERIFY(write(u"dangling.xml"_s, "first").isOk());
     QCOMPARE(contentOf(u"elsewhere/later.xml"_s), "first");
 }
 
@@ -128,10 +137,10 @@ void tst_MvSafeFileWriter::refuses()
     QFETCH(QString, message);
     QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_s));
     put(u"file"_s, "kept");
-    QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
+    QCOMPARE(::mkfifo(native(u"pipe"_s).constData(), 0600), 0);
     QVERIFY(QFile::link(u"circle"_s, path(u"circle"_s)));
     const QStringList before = names();
-    const auto result = MvSafeFileWriter::write(QFileInfo(path(name)), "new");
+    const auto result = write(name, "new");
     QVERIFY2(result.error.contains(message), qPrintable(result.error));
     QVERIFY(result.error.contains(name.right(20)));
     QCOMPARE(names(), before);
@@ -147,7 +156,7 @@ void tst_MvSafeFileWriter::sizeLimitLeavesTheOldFile()
     struct rlimit limit = before;
     limit.rlim_cur = 64 * 1024;
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), QByteArray(100 * 1024, 'x'));
+    const auto result = write(u"a.xml"_s, QByteArray(100 * 1024, 'x'));
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
     QVERIFY2(result.error.contains(u"größer als erlaubt"_s), qPrintable(result.error));
@@ -158,17 +167,15 @@ void tst_MvSafeFileWriter::sizeLimitLeavesTheOldFile()
 void tst_MvSafeFileWriter::closedFolderIsWrittenInPlace()
 {
     put(u"a.xml"_s, "a long old content");
-    const QByteArray folder = QFile::encodeName(m_dir->path());
-    QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_s)).constData(), 0666), 0);
-    QCOMPARE(::chmod(folder.constData(), 0555), 0);
+    QVERIFY(setMode(u"a.xml"_s, 0666) && setMode({}, 0555));
     const bool isAdministrator = ::geteuid() == 0; // for whom no folder is closed
     if (isAdministrator)
         QCOMPARE(::seteuid(65534), 0);
-    const auto result = MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new");
-    const auto refused = MvSafeFileWriter::write(QFileInfo(path(u"b.xml"_s)), "new");
+    const auto result = write(u"a.xml"_s, "new");
+    const auto refused = write(u"b.xml"_s, "new");
     if (isAdministrator)
         QCOMPARE(::seteuid(0), 0);
-    QCOMPARE(::chmod(folder.constData(), 0755), 0);
+    QVERIFY(setMode({}, 0755));
     QCOMPARE(result.error, QString());
     QCOMPARE(contentOf(u"a.xml"_s), "new");
     QVERIFY2(refused.error.contains(u"darf nicht geschrieben werden"_s), qPrintable(refused.error));
@@ -258,19 +265,18 @@ void tst_MvSafeFileWriter::rightsOfSharedFiles()
     if (::geteuid() != 0)
         QSKIP("taking on another user needs the administrator");
     put(u"a.xml"_s, "old");
-    const QByteArray file = QFile::encodeName(path(u"a.xml"_s));
-    const QByteArray folder = QFile::encodeName(m_dir->path());
-    QCOMPARE(::chown(folder.constData(), anna.user, sharedGroup), 0);
-    QCOMPARE(::chmod(folder.constData(), 0777), 0);
-    QCOMPARE(::chown(file.constData(), anna.user, sharedGroup), 0);
-    QCOMPARE(::chmod(file.constData(), mode_t(mode)), 0);
+    const QByteArray file = native(u"a.xml"_s);
+    const QByteArray folder = native();
+    for (const QByteArray &owned : {folder, file})
+        QCOMPARE(::chown(owned.constData(), anna.user, sharedGroup), 0);
+    QVERIFY(setMode({}, 0777) && setMode(u"a.xml"_s, mode));
     const auto set = [](const QByteArray &target, const char *name, const QByteArray &value) {
         return value.isEmpty() || ::setxattr(target.constData(), name, value.constData(), size_t(value.size()), 0) == 0;
     };
     if (!set(file, "system.posix_acl_access", list) || !set(folder, "system.posix_acl_default", listOfFolder))
         QSKIP("this file system has no access lists");
     const QStringList before = rights(file);
-    const auto result = as(writer, [this] { return MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new"); });
+    const auto result = as(writer, [this] { return write(u"a.xml"_s, "new"); });
     QDir(u"%1/mvcalendar-%2-unfinished"_s.arg(QDir::tempPath()).arg(writer.user)).removeRecursively();
     QCOMPARE(result.error, QString());
     QCOMPARE(contentOf(u"a.xml"_s), "new");
@@ -285,23 +291,23 @@ void tst_MvSafeFileWriter::rightsOfSharedFiles()
 void tst_MvSafeFileWriter::furtherNamesAndAttributes()
 {
     put(u"a.xml"_s, "1");
-    const QByteArray file = QFile::encodeName(path(u"a.xml"_s));
+    const QByteArray file = native(u"a.xml"_s);
     if (::setxattr(file.constData(), "user.note", "mine", 4, 0) != 0)
         QSKIP("this file system has no attributes");
     const auto note = [&file] {
         std::array<char, 8> value = {};
         return QByteArray(value.data(), ::getxattr(file.constData(), "user.note", value.data(), value.size()));
     };
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "2").isOk());
+    QVERIFY(write(u"a.xml"_s, "2").isOk());
     QCOMPARE(note(), "mine");
 
     // a program killed between keeping the backup and replacing the file: these further names are the backups
     QVERIFY(MvFileBackup::keep(path(u"a.xml"_s), "3", QDate(2026, 3, 1)));
-    QCOMPARE(::link(file.constData(), QFile::encodeName(path(u"other.xml"_s)).constData()), 0);
+    QCOMPARE(::link(file.constData(), native(u"other.xml"_s).constData()), 0);
     QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"other.xml"_s)), "3", MvSafeFileWriter::Backups::None).isOk());
     QCOMPARE(contentOf(u"a.xml"_s), "3"); // one file under two names
     QVERIFY(MvFileBackup::keep(path(u"a.xml"_s), "4", QDate(2026, 3, 2)));
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "4").isOk());
+    QVERIFY(write(u"a.xml"_s, "4").isOk());
     QCOMPARE(contentOf(u"other.xml"_s), "4");
     QCOMPARE(contentOf(u"a.xml~"_s), "3");
     QCOMPARE(contentOf(u"a.xml.2026-03-02~"_s), "3");
@@ -415,7 +421,7 @@ void tst_MvSafeFileWriter::sweepsTemporaries()
     QVERIFY(oldFile.open(QIODevice::ReadWrite));
     QVERIFY(oldFile.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime));
 
-    QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new").isOk());
+    QVERIFY(write(u"a.xml"_s, "new").isOk());
     QStringList expected = {mine, ofOtherHost, u"a.xml"_s};
     expected.sort();
     QStringList present = names();
@@ -472,10 +478,9 @@ void tst_MvSafeFileWriter::locksOutOthers()
     if (fileMode != 0) {
         put(u"a.xml"_s, "one");
         put(u"a.xml.lock"_s, ""); // left behind by a killed program, and nothing in it
-        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml"_s)).constData(), mode_t(fileMode)), 0);
-        QCOMPARE(::chmod(QFile::encodeName(path(u"a.xml.lock"_s)).constData(), 0600), 0);
+        QVERIFY(setMode(u"a.xml"_s, fileMode) && setMode(u"a.xml.lock"_s, 0600));
     }
-    QCOMPARE(::chmod(QFile::encodeName(m_dir->path()).constData(), mode_t(folderMode)), 0);
+    QVERIFY(setMode({}, folderMode));
     std::array<MvFileGuard::State, 3> states = {};
     if (!isAdministratorFirst)
         QCOMPARE(::seteuid(65534), 0);

@@ -15,7 +15,9 @@ public:
     TestCommand(const QString &name, QStringList *log, QUndoCommand *parent = nullptr)
         : MvUndoCommand(name, parent)
         , m_log(log)
-    {}
+    {
+        setObsolete(name == u"none"_s);
+    }
     ~TestCommand() override { m_log->append(u"~"_s + text()); }
 
     void doCoreAction() override { m_log->append(u"+"_s + text()); }
@@ -32,134 +34,82 @@ class tst_MvUndoController : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void doesAtOnceAndTakesBack();
-    void newStepsReplaceUndoneOnes();
+    void steps_data();
+    void steps();
     void childrenGoWithTheirParent();
-    void macros_data();
-    void macros();
-    void withoutEffectThereIsNoStep();
-    void undoWaitsForTheMacro();
-    void clearsWithoutUndoing();
-
-private:
-    void push(const QString &name) { m_controller->push(new TestCommand(name, &m_log)); }
-    QString takeLog() { return std::exchange(m_log, {}).join(u' '); }
-
-    QStringList m_log; // outlives the controller, whose commands write at their end
-    std::unique_ptr<MvUndoController> m_controller;
 };
 
-void tst_MvUndoController::init()
+void tst_MvUndoController::steps_data()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_controller = std::make_unique<MvUndoController>();
-    m_log.clear();
+    // ( and ) begin and end a macro, < undoes, > redoes, ! clears, 0 pushes nothing and a step without effect, a letter
+    // is a command
+    QTest::addColumn<QString>("actions");
+    QTest::addColumn<QString>("log");
+    QTest::addColumn<int>("count"); // of the steps in the end
+    const auto row = [](const char *name, const QString &actions, const QString &log, int count) {
+        QTest::newRow(name) << actions << log << count;
+    };
+    row("there and back", u"ab<<<>>>"_s, u"+a +b -b -a +a +b"_s, 2);
+    row("new steps replace undone ones", u"a<b><"_s, u"+a -a +b ~a -b"_s, 1);
+    row("a macro is one step", u"a(bc)<"_s, u"+a +b +c -c -b"_s, 2);
+    row("in each other", u"(a(b(c))d)<"_s, u"+a +b +c +d -d -c -b -a"_s, 1);
+    row("an empty one leaves no step", u"a()<"_s, u"+a -a"_s, 1);
+    row("empty ones in each other", u"a(())<"_s, u"+a -a"_s, 1);
+    row("an empty one in a full one", u"(()a())b<"_s, u"+a +b -b"_s, 2);
+    row("one after an empty one", u"()(ab)<"_s, u"+a +b -b -a"_s, 1);
+    row("without effect there is no step", u"a<0>"_s, u"+a -a ~none +a"_s, 1);
+    row("undo waits for the macro", u"a(<b<)<"_s, u"+a +b -b"_s, 2);
+    row("clears without undoing", u"a(!b"_s, u"+a ~a +b"_s, 1);
 }
 
-void tst_MvUndoController::doesAtOnceAndTakesBack()
+void tst_MvUndoController::steps()
 {
-    push(u"a"_s);
-    push(u"b"_s);
-    QCOMPARE(takeLog(), u"+a +b"_s);
-    QCOMPARE(m_controller->stack()->undoText(), u"b"_s);
-    for (int i = 0; i < 3; ++i)
-        m_controller->undo();
-    QCOMPARE(takeLog(), u"-b -a"_s);
-    for (int i = 0; i < 3; ++i)
-        m_controller->redo();
-    QCOMPARE(takeLog(), u"+a +b"_s);
-    m_controller.reset();
-    QCOMPARE(m_log.size(), 2); // owned
-}
-
-void tst_MvUndoController::newStepsReplaceUndoneOnes()
-{
-    push(u"a"_s);
-    m_controller->undo();
-    push(u"b"_s);
-    m_controller->redo();
-    m_controller->undo();
-    QCOMPARE(takeLog(), u"+a -a +b ~a -b"_s);
+    QFETCH(const QString, actions);
+    QFETCH(const QString, log);
+    QStringList done; // outlives the controller, whose commands write at their end
+    MvUndoController controller;
+    for (const QChar action : actions) {
+        switch (action.toLatin1()) {
+        case '(':
+            controller.beginMacro(u"macro"_s);
+            break;
+        case ')':
+            controller.endMacro();
+            break;
+        case '<':
+            controller.undo();
+            break;
+        case '>':
+            controller.redo();
+            break;
+        case '!':
+            controller.clear();
+            break;
+        case '0':
+            controller.push(nullptr);
+            controller.push(new TestCommand(u"none"_s, &done));
+            break;
+        default:
+            controller.push(new TestCommand(action, &done));
+        }
+    }
+    QCOMPARE(done.join(u' '), log);
+    QTEST(controller.stack()->count(), "count");
 }
 
 void tst_MvUndoController::childrenGoWithTheirParent()
 {
-    auto *parent = new TestCommand(u"parent"_s, &m_log);
-    new TestCommand(u"1"_s, &m_log, parent);
-    new TestCommand(u"2"_s, &m_log, parent);
-    m_controller->push(parent);
-    m_controller->undo();
-    QCOMPARE(takeLog(), u"+parent +1 +2 -2 -1 -parent"_s);
-}
-
-void tst_MvUndoController::macros_data()
-{
-    // ( and ) begin and end a macro, a letter is a command
-    QTest::addColumn<QString>("actions");
-    QTest::addColumn<int>("steps");
-    QTest::addColumn<QString>("undone");
-    QTest::newRow("one step") << u"a(bc)"_s << 2 << u"-c -b"_s;
-    QTest::newRow("in each other") << u"(a(b(c))d)"_s << 1 << u"-d -c -b -a"_s;
-    QTest::newRow("an empty one leaves no step") << u"a()"_s << 1 << u"-a"_s;
-    QTest::newRow("empty ones in each other") << u"a(())"_s << 1 << u"-a"_s;
-    QTest::newRow("an empty one in a full one") << u"(()a())b"_s << 2 << u"-b"_s;
-    QTest::newRow("one after an empty one") << u"()(ab)"_s << 1 << u"-b -a"_s;
-}
-
-void tst_MvUndoController::macros()
-{
-    QFETCH(const QString, actions);
-    QFETCH(const int, steps);
-    for (const QChar action : actions) {
-        if (action == u'(')
-            m_controller->beginMacro(u"macro"_s);
-        else if (action == u')')
-            m_controller->endMacro();
-        else
-            push(action);
-    }
-    QCOMPARE(m_controller->stack()->count(), steps);
-    takeLog();
-    m_controller->undo();
-    QTEST(takeLog(), "undone");
-}
-
-void tst_MvUndoController::withoutEffectThereIsNoStep()
-{
-    push(u"a"_s);
-    m_controller->undo();
-    takeLog();
-    auto *command = new TestCommand(u"none"_s, &m_log);
-    command->setObsolete(true);
-    m_controller->push(command);
-    m_controller->push(nullptr);
-    QCOMPARE(takeLog(), u"~none"_s);
-    QVERIFY(m_controller->stack()->canRedo());
-}
-
-void tst_MvUndoController::undoWaitsForTheMacro()
-{
-    push(u"a"_s);
-    m_controller->beginMacro(u"macro"_s);
-    m_controller->undo();
-    push(u"b"_s);
-    m_controller->undo();
-    m_controller->endMacro();
-    QCOMPARE(takeLog(), u"+a +b"_s);
-    m_controller->undo();
-    QCOMPARE(takeLog(), u"-b"_s);
-}
-
-void tst_MvUndoController::clearsWithoutUndoing()
-{
-    push(u"a"_s);
-    m_controller->beginMacro(u"macro"_s);
-    m_controller->clear();
-    push(u"b"_s);
-    QCOMPARE(m_controller->stack()->count(), 1);
-    QCOMPARE(m_controller->stack()->undoText(), u"b"_s);
-    QCOMPARE(takeLog(), u"+a ~a +b"_s);
+    QStringList log;
+    auto controller = std::make_unique<MvUndoController>();
+    auto *parent = new TestCommand(u"parent"_s, &log);
+    new TestCommand(u"1"_s, &log, parent);
+    new TestCommand(u"2"_s, &log, parent);
+    controller->push(parent);
+    QCOMPARE(controller->stack()->undoText(), u"parent"_s);
+    controller->undo();
+    QCOMPARE(log.join(u' '), u"+parent +1 +2 -2 -1 -parent"_s);
+    controller.reset();
+    QCOMPARE(log.size(), 9); // owned
 }
 
 MV_TEST_MAIN(tst_MvUndoController)

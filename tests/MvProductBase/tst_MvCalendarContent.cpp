@@ -3,7 +3,7 @@
 #include "MvProductBase/MvCalendariumContentKey.h"
 #include "MvProductBase/MvCalendariumHolidayCacheKey.h"
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
-#include "MvProductBase/MvCalendariumHolidayList.h"
+#include "MvProductBase/MvCalendariumHolidayType.h"
 
 #include "MvTest.h"
 
@@ -16,19 +16,14 @@ class tst_MvCalendarContent : public MvTest
 
 private Q_SLOTS:
     void featuresAreWrittenByName();
-    void holidayTypesInSets();
-    void hasFeaturesMeansAll_data();
     void hasFeaturesMeansAll();
     void equalityAndHashes();
-    void defaultCalendar_data();
     void defaultCalendar();
     void ranges_data();
     void ranges();
     void contentMoves();
-    void holidaysOfADay();
     void words_data();
     void words();
-    void wordsOutOfRange();
     void weekOptions();
 };
 
@@ -42,42 +37,17 @@ void tst_MvCalendarContent::featuresAreWrittenByName()
     QCOMPARE(MvCalendariumHolidayType(240).encodeCSV(), u"schoolVacation, public, optional, observance"_s);
 }
 
-void tst_MvCalendarContent::holidayTypesInSets()
-{
-    const QSet<MvCalendariumHolidayType> types = {HOLIDAY_TYPE_PUBLIC, MvCalendariumHolidayType(32),
-                                                  HOLIDAY_TYPE_OPTIONAL};
-    QCOMPARE(types.size(), 2);
-    QVERIFY(types.contains(MvCalendariumHolidayType(64)));
-    QVERIFY(!types.contains(MvCalendariumHolidayType(96)));
-}
-
-void tst_MvCalendarContent::hasFeaturesMeansAll_data()
-{
-    QTest::addColumn<int>("on");
-    QTest::addColumn<int>("asked");
-    QTest::addColumn<bool>("answer");
-    QTest::newRow("one of one") << 1 << 1 << true;
-    QTest::newRow("one of several") << 7 << 2 << true;
-    QTest::newRow("two of two") << 3 << 3 << true;
-    QTest::newRow("one of the two is off") << 5 << 3 << false;
-    QTest::newRow("none is asked for") << 0 << 0 << true;
-}
-
 void tst_MvCalendarContent::hasFeaturesMeansAll()
 {
-    QFETCH(int, on);
-    QFETCH(int, asked);
-    QFETCH(bool, answer);
-    const MvCalendariumHolidayConfig config({}, {}, MvCalendariumFeatures(on));
-    const MvCalendariumFeatures features(asked);
-    QCOMPARE(config.hasFeatures(features), answer);
-    QCOMPARE(MvCalendariumContentConfig(QDate(2027, 1, 1), config).hasFeatures(features), answer);
-
-    MvCalendariumHolidayConfig changed = config;
-    changed.setFeature(features, true);
-    QVERIFY(changed.hasFeatures(features));
-    changed.setFeature(features, false);
-    QCOMPARE(changed.features().toInt(), on & ~asked);
+    for (const auto &[on, asked, answer] :
+         {std::tuple(1, 1, true), {7, 2, true}, {3, 3, true}, {5, 3, false}, {0, 0, true}}) {
+        MvCalendariumHolidayConfig config({}, {}, MvCalendariumFeatures(on));
+        QCOMPARE(config.hasFeatures(MvCalendariumFeatures(asked)), answer);
+        config.setFeature(MvCalendariumFeatures(asked), true);
+        QCOMPARE(config.features().toInt(), on | asked);
+        config.setFeature(MvCalendariumFeatures(asked), false);
+        QCOMPARE(config.features().toInt(), on & ~asked);
+    }
 }
 
 void tst_MvCalendarContent::equalityAndHashes()
@@ -96,41 +66,21 @@ void tst_MvCalendarContent::equalityAndHashes()
         keys.insert(MvCalendariumHolidayCacheKey(2027, config));
     }
     QCOMPARE(keys.size(), 8);
-    QVERIFY(keys.contains(MvCalendariumHolidayCacheKey(
-        2026, MvCalendariumHolidayConfig(MvLocale(u"de_DE"_s), u"BY"_s, FEATURE_HOLIDAYS))));
-
-    const MvCalendariumContentConfig day(QDate(2027, 5, 1), base);
-    const MvCalendariumContentKey key(day, MvProjectIdentifier(u"a"_s, false));
-    const QSet<MvCalendariumContentKey> days = {
-        key, MvCalendariumContentKey(day.moveToDay(QDate(2027, 5, 2)).moveToDayInMonth(1), key.project()),
-        MvCalendariumContentKey(day.moveToDay(QDate(2027, 5, 2)), key.project()),
-        MvCalendariumContentKey(day, MvProjectIdentifier(u"b"_s, false))};
-    QCOMPARE(days.size(), 3);
-
+    QVERIFY(keys.contains(MvCalendariumHolidayCacheKey(2026, base)));
     const MvCalendariumHolidayConfig initial = MvCalendariumHolidayConfigDefault::instance().defaultConfig();
     QCOMPARE(initial.language().name(), u"de_DE"_s);
     QVERIFY(!initial.province().isEmpty());
     QVERIFY(initial.hasFeatures(MvCalendariumFeatures(1 | 2 | 4 | 8 | 64)));
 }
 
-void tst_MvCalendarContent::defaultCalendar_data()
-{
-    QTest::addColumn<QDate>("today");
-    QTest::addColumn<int>("year");
-    QTest::newRow("New Year") << QDate(2027, 1, 1) << 2027;
-    QTest::newRow("last day of January") << QDate(2027, 1, 31) << 2027;
-    QTest::newRow("first day of February") << QDate(2027, 2, 1) << 2028;
-    QTest::newRow("last day of the year") << QDate(2027, 12, 31) << 2028;
-}
-
 void tst_MvCalendarContent::defaultCalendar()
 {
-    QFETCH(QDate, today);
-    QFETCH(int, year);
-    QCOMPARE(MvDateRange::createDefaultCalendarStart(today), QDate(year, 1, 1));
-    const MvDateRange range = MvDateRange::createDefaultCalendarDateRange(today);
-    QCOMPARE(range, MvDateRange(QDate(year, 1, 1), QDate(year, 12, 31)));
-    QCOMPARE(range.monthCount(), 12);
+    for (const auto &[today, year] : {std::pair(QDate(2027, 1, 1), 2027),
+                                      {QDate(2027, 1, 31), 2027},
+                                      {QDate(2027, 2, 1), 2028},
+                                      {QDate(2027, 12, 31), 2028}})
+        QCOMPARE(MvDateRange::createDefaultCalendarDateRange(today),
+                 MvDateRange(QDate(year, 1, 1), QDate(year, 12, 31)));
 }
 
 void tst_MvCalendarContent::ranges_data()
@@ -184,40 +134,25 @@ void tst_MvCalendarContent::contentMoves()
     QCOMPARE(nothing.language().name(), u"de_DE"_s);
 }
 
-void tst_MvCalendarContent::holidaysOfADay()
-{
-    const QDate day(2026, 5, 1);
-    const MvCalendariumHolidayList list = {{HOLIDAY_TYPE_PUBLIC, day, u"A"_s},
-                                           {HOLIDAY_TYPE_PUBLIC, day.addYears(1), u"B"_s},
-                                           {HOLIDAY_TYPE_SCHOOL_VACATION, day, QString()}};
-    const MvCalendariumHolidayList found = list.filter(day);
-    QCOMPARE(found.size(), 2);
-    QCOMPARE(found.last().type(), MvCalendariumHolidayType(HOLIDAY_TYPE_SCHOOL_VACATION));
-    QVERIFY(list.filter(QDate()).isEmpty());
-    QVERIFY(!MvCalendariumHoliday().isValid());
-}
-
 void tst_MvCalendarContent::words_data()
 {
     QTest::addColumn<MvLocale>("language");
     QTest::addColumn<QString>("shortDays");
     QTest::addColumn<QString>("shortMonths");
     QTest::addColumn<QString>("first"); // Monday, January, week, school year
-    QTest::newRow("German") << MvLocale(u"de_DE"_s) << u"Mo Di Mi Do Fr Sa So"_s
-                            << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s
-                            << u"Montag Januar KW Schuljahr 26/27"_s;
-    QTest::newRow("German in Austria") << MvLocale(u"de_AT"_s) << u"Mo Di Mi Do Fr Sa So"_s
-                                       << u"Jän Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s
-                                       << u"Montag Jänner KW Schuljahr 26/27"_s;
-    QTest::newRow("French") << MvLocale(u"fr_CH"_s) << u"lun mar mer jeu ven sam dim"_s
-                            << u"janv févr mars avr mai juin juil août sept oct nov déc"_s
-                            << u"lundi janvier Sem Année scolaire 26/27"_s;
-    QTest::newRow("Polish: months in the nominative")
-        << MvLocale(u"pl_PL"_s) << u"pon wt śr czw pt sob niedz"_s
-        << u"sty lut mar kwi maj cze lip sie wrz paź lis gru"_s << u"poniedziałek styczeń Tydz Rok szkolny 26/27"_s;
-    QTest::newRow("none: German") << MvLocale() << u"Mo Di Mi Do Fr Sa So"_s
-                                  << u"Jan Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s
-                                  << u"Montag Januar KW Schuljahr 26/27"_s;
+    const QString days = u"Mo Di Mi Do Fr Sa So"_s;
+    const QString months = u" Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s;
+    const auto row = [](const char *name, const QString &locale, const QString &shortDays, const QString &shortMonths,
+                        const QString &first) {
+        QTest::newRow(name) << MvLocale(locale) << shortDays << shortMonths << first;
+    };
+    row("German", u"de_DE"_s, days, u"Jan"_s + months, u"Montag Januar KW Schuljahr 26/27"_s);
+    row("German in Austria", u"de_AT"_s, days, u"Jän"_s + months, u"Montag Jänner KW Schuljahr 26/27"_s);
+    row("French", u"fr_CH"_s, u"lun mar mer jeu ven sam dim"_s,
+        u"janv févr mars avr mai juin juil août sept oct nov déc"_s, u"lundi janvier Sem Année scolaire 26/27"_s);
+    row("Polish: months in the nominative", u"pl_PL"_s, u"pon wt śr czw pt sob niedz"_s,
+        u"sty lut mar kwi maj cze lip sie wrz paź lis gru"_s, u"poniedziałek styczeń Tydz Rok szkolny 26/27"_s);
+    row("none: German", QString(), days, u"Jan"_s + months, u"Montag Januar KW Schuljahr 26/27"_s);
 }
 
 void tst_MvCalendarContent::words()
@@ -235,17 +170,12 @@ void tst_MvCalendarContent::words()
     QTEST(days.join(u' '), "shortDays");
     QTEST(months.join(u' '), "shortMonths");
     QTEST(first.join(u' '), "first");
-}
-
-void tst_MvCalendarContent::wordsOutOfRange()
-{
-    const MvCalendarWordsRegistry &registry = MvCalendarWordsRegistry::instance();
-    const MvLocale german(u"de_DE"_s);
     for (const int number : {-1, 0, 13}) {
-        QVERIFY(registry.dayName(german, number, true).isEmpty() && registry.dayName(german, number, false).isEmpty());
-        QVERIFY(registry.monthNameShort(german, number).isEmpty() && registry.monthNameLong(german, number).isEmpty());
+        QVERIFY(registry.dayName(language, number, true).isEmpty() &&
+                registry.monthNameShort(language, number).isEmpty());
+        QVERIFY(registry.dayName(language, number, false).isEmpty() &&
+                registry.monthNameLong(language, number).isEmpty());
     }
-    QVERIFY(registry.dayName(german, 8, true).isEmpty());
     QCOMPARE(registry.weekShort(MvLocale(u"ja_JP"_s)), u"W"_s);
     QCOMPARE(registry.schoolYear(MvLocale(u"ja_JP"_s), u"2026"_s), u"2026"_s);
 }

@@ -47,7 +47,6 @@ private Q_SLOTS:
     void everyCountryIsSound_data();
     void everyCountryIsSound();
     void countriesAndRegions();
-    void findsProvinces_data();
     void findsProvinces();
     void days_data();
     void days();
@@ -120,26 +119,16 @@ void tst_MvCalendariumHolidayCalculator::countriesAndRegions()
     QVERIFY(holidays(2026, u"ja_JP"_s, QString()).isEmpty());
 }
 
-void tst_MvCalendariumHolidayCalculator::findsProvinces_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("code");
-    QTest::newRow("code") << u"de_DE"_s << u"BY"_s << u"BY"_s;
-    QTest::newRow("code in lower case") << u"de_DE"_s << u"by-a"_s << u"BY-A"_s;
-    QTest::newRow("name") << u"de_DE"_s << u"baden-württemberg"_s << u"BW"_s;
-    QTest::newRow("a code that is a number") << u"de_AT"_s << u"9"_s << u"9"_s;
-    QTest::newRow("name of it") << u"de_AT"_s << u"Wien"_s << u"9"_s;
-    QTest::newRow("local name") << u"de_CH"_s << u"genève"_s << u"GE"_s;
-    QTest::newRow("part of a name") << u"de_DE"_s << u"Württemberg"_s << QString();
-    QTest::newRow("nothing") << u"de_DE"_s << QString() << QString();
-}
-
 void tst_MvCalendariumHolidayCalculator::findsProvinces()
 {
-    QFETCH(QString, locale);
-    QFETCH(QString, text);
-    QTEST(calculator().findProvince(MvLocale(locale), text), "code");
+    for (const auto &[locale, text, code] : {std::tuple(u"de_DE"_s, u"by-a"_s, u"BY-A"_s),
+                                             {u"de_DE"_s, u"baden-württemberg"_s, u"BW"_s},
+                                             {u"de_AT"_s, u"9"_s, u"9"_s},
+                                             {u"de_AT"_s, u"Wien"_s, u"9"_s},
+                                             {u"de_CH"_s, u"genève"_s, u"GE"_s}, // as it is called there
+                                             {u"de_DE"_s, u"Württemberg"_s, QString()},
+                                             {u"de_DE"_s, QString(), QString()}})
+        QCOMPARE(calculator().findProvince(MvLocale(locale), text), code);
 }
 
 void tst_MvCalendariumHolidayCalculator::days_data()
@@ -148,37 +137,24 @@ void tst_MvCalendariumHolidayCalculator::days_data()
     QTest::addColumn<QString>("region");
     QTest::addColumn<QDate>("day");
     QTest::addColumn<QStringList>("texts");
-    const QDate assumption(2026, 8, 15);
-    const QDate peace(2026, 8, 8);
-    QTest::newRow("BY: Assumption") << u"de_DE"_s << u"BY"_s << assumption << QStringList{u"Mariä Himmelfahrt"_s};
-    QTest::newRow("BW: none") << u"de_DE"_s << u"BW"_s << assumption << QStringList();
-    QTest::newRow("Augsburg: its own") << u"de_DE"_s << u"BY-A"_s << peace
-                                       << QStringList{u"Augsburger Hohes Friedensfest"_s};
-    QTest::newRow("Augsburg: that of Bavaria")
-        << u"de_DE"_s << u"BY-A"_s << assumption << QStringList{u"Mariä Himmelfahrt"_s};
-    QTest::newRow("BY: not that of Augsburg") << u"de_DE"_s << u"BY"_s << peace << QStringList();
-    QTest::newRow("two holidays on one day")
-        << u"de_DE"_s << u"NW"_s << QDate(2008, 5, 1) << QStringList{u"Tag der Arbeit"_s, u"Christi Himmelfahrt"_s};
-    QTest::newRow("4th Advent on Christmas Eve")
-        << u"de_DE"_s << u"NW"_s << QDate(2028, 12, 24) << QStringList{u"4. Advent"_s, u"Heiligabend"_s};
-    QTest::newRow("500 years of the Reformation, everywhere")
-        << u"de_DE"_s << u"BY"_s << QDate(2017, 10, 31) << QStringList{u"Reformationstag"_s};
-    QTest::newRow("and only then") << u"de_DE"_s << u"BY"_s << QDate(2018, 10, 31) << QStringList();
-    QTest::newRow("1990 had two days of unity: the old")
-        << u"de_DE"_s << u"NW"_s << QDate(1990, 6, 17) << QStringList{u"Tag der deutschen Einheit"_s};
-    QTest::newRow("and the new") << u"de_DE"_s << u"NW"_s << QDate(1990, 10, 3)
-                                 << QStringList{u"Tag der Deutschen Einheit"_s};
-    QTest::newRow("Easter Sunday in Brandenburg stands once")
-        << u"de_DE"_s << u"BB"_s << QDate(2026, 4, 5) << QStringList{u"Ostersonntag"_s};
-    QTest::newRow("French in the Jura") << u"fr_CH"_s << u"JU"_s << QDate(2026, 8, 1)
-                                        << QStringList{u"Fête nationale"_s};
-    QTest::newRow("French in Ontario") << u"fr_CA"_s << u"ON"_s << QDate(2027, 12, 26)
-                                       << QStringList{u"Lendemain de Noël"_s};
-    QTest::newRow("Catalan on the islands")
-        << u"ca_ES"_s << u"IB"_s << QDate(2027, 3, 1) << QStringList{u"Diada de les Illes Balears"_s};
-    QTest::newRow("a Saturday's Friday lies in the old year")
-        << u"en_US"_s << QString() << QDate(2027, 12, 31)
-        << QStringList{u"New Year's Day (observed)"_s, u"New Year's Eve"_s};
+    const auto row = [](const char *name, const QString &locale, const QString &region, const QDate &day,
+                        const QStringList &texts) { QTest::newRow(name) << locale << region << day << texts; };
+    const QString german = u"de_DE"_s;
+    row("Augsburg: its own", german, u"BY-A"_s, {2026, 8, 8}, {u"Augsburger Hohes Friedensfest"_s});
+    row("Augsburg: that of Bavaria", german, u"BY-A"_s, {2026, 8, 15}, {u"Mariä Himmelfahrt"_s});
+    row("BY: not that of Augsburg", german, u"BY"_s, {2026, 8, 8}, {});
+    row("two on one day", german, u"NW"_s, {2008, 5, 1}, {u"Tag der Arbeit"_s, u"Christi Himmelfahrt"_s});
+    row("4th Advent on Christmas Eve", german, u"NW"_s, {2028, 12, 24}, {u"4. Advent"_s, u"Heiligabend"_s});
+    row("500 years of the Reformation, everywhere", german, u"BY"_s, {2017, 10, 31}, {u"Reformationstag"_s});
+    row("and only then", german, u"BY"_s, {2018, 10, 31}, {});
+    row("1990 had two days of unity: the old", german, u"NW"_s, {1990, 6, 17}, {u"Tag der deutschen Einheit"_s});
+    row("and the new", german, u"NW"_s, {1990, 10, 3}, {u"Tag der Deutschen Einheit"_s});
+    row("Easter Sunday in Brandenburg stands once", german, u"BB"_s, {2026, 4, 5}, {u"Ostersonntag"_s});
+    row("French in the Jura", u"fr_CH"_s, u"JU"_s, {2026, 8, 1}, {u"Fête nationale"_s});
+    row("French in Ontario", u"fr_CA"_s, u"ON"_s, {2027, 12, 26}, {u"Lendemain de Noël"_s});
+    row("Catalan on the islands", u"ca_ES"_s, u"IB"_s, {2027, 3, 1}, {u"Diada de les Illes Balears"_s});
+    row("a Saturday's Friday lies in the old year", u"en_US"_s, {}, {2027, 12, 31},
+        {u"New Year's Day (observed)"_s, u"New Year's Eve"_s});
 }
 
 void tst_MvCalendariumHolidayCalculator::days()
@@ -197,22 +173,19 @@ void tst_MvCalendariumHolidayCalculator::schoolVacations_data()
     QTest::addColumn<QDate>("first");
     QTest::addColumn<QDate>("last");
     QTest::addColumn<QString>("name");
-    QTest::newRow("BY, summer") << u"de_DE"_s << u"BY"_s << QDate(2026, 8, 3) << QDate(2026, 9, 14)
-                                << u"Sommerferien"_s;
-    QTest::newRow("NW, summer") << u"de_DE"_s << u"NW"_s << QDate(2026, 7, 20) << QDate(2026, 9, 1)
-                                << u"Sommerferien"_s;
-    QTest::newRow("part of a Land") << u"de_DE"_s << u"SN-K"_s << QDate(2026, 7, 4) << QDate(2026, 8, 14)
-                                    << u"Sommerferien"_s;
-    QTest::newRow("ZG, autumn, two weeks from a Saturday") // as the canton publishes them
-        << u"de_CH"_s << u"ZG"_s << QDate(2027, 10, 2) << QDate(2027, 10, 17) << u"Herbstferien"_s;
-    QTest::newRow("ZG, spring, in Italian")
-        << u"it_CH"_s << u"ZG"_s << QDate(2029, 4, 14) << QDate(2029, 4, 29) << u"Vacanze di primavera"_s;
-    QTest::newRow("GE, autumn, in French")
-        << u"fr_CH"_s << u"GE"_s << QDate(2026, 10, 19) << QDate(2026, 10, 23) << u"Vacances d'automne"_s;
-    QTest::newRow("GE, Easter, in German")
-        << u"de_CH"_s << u"GE"_s << QDate(2027, 3, 26) << QDate(2027, 4, 9) << u"Osterferien"_s;
-    QTest::newRow("LU, carnival, in Luxembourgish")
-        << u"lb_LU"_s << QString() << QDate(2027, 2, 6) << QDate(2027, 2, 14) << u"Fuesvakanz"_s;
+    const auto row = [](const QString &locale, const QString &region, const QDate &first, const QDate &last,
+                        const QString &name) {
+        QTest::addRow("%s %s, %s", qPrintable(locale), qPrintable(region), qPrintable(name))
+            << locale << region << first << last << name;
+    };
+    row(u"de_DE"_s, u"BY"_s, {2026, 8, 3}, {2026, 9, 14}, u"Sommerferien"_s);
+    row(u"de_DE"_s, u"NW"_s, {2026, 7, 20}, {2026, 9, 1}, u"Sommerferien"_s);
+    row(u"de_DE"_s, u"SN-K"_s, {2026, 7, 4}, {2026, 8, 14}, u"Sommerferien"_s); // a part of a Land
+    row(u"de_CH"_s, u"ZG"_s, {2027, 10, 2}, {2027, 10, 17}, u"Herbstferien"_s); // two weeks from a Saturday
+    row(u"it_CH"_s, u"ZG"_s, {2029, 4, 14}, {2029, 4, 29}, u"Vacanze di primavera"_s);
+    row(u"fr_CH"_s, u"GE"_s, {2026, 10, 19}, {2026, 10, 23}, u"Vacances d'automne"_s);
+    row(u"de_CH"_s, u"GE"_s, {2027, 3, 26}, {2027, 4, 9}, u"Osterferien"_s);
+    row(u"lb_LU"_s, {}, {2027, 2, 6}, {2027, 2, 14}, u"Fuesvakanz"_s);
 }
 
 void tst_MvCalendariumHolidayCalculator::schoolVacations()

@@ -14,6 +14,14 @@ Q_DECLARE_METATYPE(MvExportResult)
 
 namespace {
 
+MvExportResult resultOf(MvExportJob &job)
+{
+    QSignalSpy finished(&job, &MvExportJob::finished);
+    job.start();
+    job.start(); // changes nothing
+    return finished.wait(30000) ? finished.first().first().value<MvExportResult>() : MvExportResult();
+}
+
 QStringList namesOf(const QList<QFileInfo> &files)
 {
     QStringList names;
@@ -78,11 +86,7 @@ void tst_MvExportJob::writesWhatTheExporterWrites()
     const MvCalendarDocument document = calendar(4);
     MvExportJob job(document, MvExportTarget(path(name), MvExportTarget::Pdf::OneOfEachPage), 72);
     QSignalSpy progress(&job, &MvExportJob::progress);
-    QSignalSpy finished(&job, &MvExportJob::finished);
-    job.start();
-    job.start(); // changes nothing
-    QVERIFY(finished.wait(30000));
-    const auto result = finished.first().first().value<MvExportResult>();
+    const MvExportResult result = resultOf(job);
     QCOMPARE(result.error, QString());
     QVERIFY(result.isOk() && !job.isRunning());
     QCOMPARE(namesOf(result.files), files());
@@ -118,10 +122,7 @@ void tst_MvExportJob::cancels()
         if (done == after)
             job.cancel();
     });
-    QSignalSpy finished(&job, &MvExportJob::finished);
-    job.start();
-    QVERIFY(finished.wait(30000));
-    const auto result = finished.first().first().value<MvExportResult>();
+    const MvExportResult result = resultOf(job);
     QCOMPARE(result.error, QString());
     QVERIFY(result.isCancelled && !result.isOk());
     QCOMPARE(namesOf(result.files), files());
@@ -144,10 +145,7 @@ void tst_MvExportJob::tellsOfErrors()
 {
     for (const QString &name : {u"k.doc"_s, u"k.png"_s, u"nirgends/k.pdf"_s}) {
         MvExportJob job(calendar(2), MvExportTarget(path(name)));
-        QSignalSpy finished(&job, &MvExportJob::finished);
-        job.start();
-        QVERIFY(finished.wait(30000));
-        const auto result = finished.first().first().value<MvExportResult>();
+        const MvExportResult result = resultOf(job);
         QVERIFY2(result.error.contains(name), qPrintable(result.error));
     }
 }

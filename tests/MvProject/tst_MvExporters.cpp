@@ -58,18 +58,14 @@ private Q_SLOTS:
     void cleanup() { m_folder = std::make_unique<QTemporaryDir>(); }
     void pdfBoxes_data();
     void pdfBoxes();
-    void pdfGeometry_data();
     void pdfGeometry();
     void pdfMetadata();
-    void png_data();
     void png();
     void svg();
     void svgIsClipped_data();
     void svgIsClipped();
     void paintsForPrint();
-    void refuses_data();
     void refuses();
-    void failingTargets_data();
     void failingTargets();
 
 private:
@@ -104,12 +100,12 @@ void tst_MvExporters::pdfBoxes_data()
     QTest::addColumn<QRectF>("media"); // points, x and y of the lower left corner
     QTest::addColumn<QRectF>("trim");
     // 1 mm is 72 / 25.4 = 2.834645669 points
-    QTest::newRow("A4") << u"A4"_s << 0.0 << QRectF(0, 0, 595.2756, 841.8898) << QRectF(0, 0, 595.2756, 841.8898);
-    QTest::newRow("A5 with 3 mm bleed") << u"A5"_s << 30.0 << QRectF(0, 0, 436.5354, 612.2835)
-                                        << QRectF(8.5039, 8.5039, 419.5276, 595.2756);
-    QTest::newRow("A0") << u"A0"_s << 0.0 << QRectF(0, 0, 2383.9370, 3370.3937) << QRectF(0, 0, 2383.9370, 3370.3937);
-    QTest::newRow("own size") << u"300,5x200"_s << 0.0 << QRectF(0, 0, 851.8110, 566.9291)
-                              << QRectF(0, 0, 851.8110, 566.9291);
+    const auto row = [](const QString &format, double bleed, const QRectF &media, const QRectF &trim) {
+        QTest::newRow(qPrintable(format)) << format << bleed << media << trim;
+    };
+    row(u"A0"_s, 0.0, {0, 0, 2383.9370, 3370.3937}, {0, 0, 2383.9370, 3370.3937});
+    row(u"A5"_s, 30.0, {0, 0, 436.5354, 612.2835}, {8.5039, 8.5039, 419.5276, 595.2756});
+    row(u"300,5x200"_s, 0.0, {0, 0, 851.8110, 566.9291}, {0, 0, 851.8110, 566.9291});
 }
 
 void tst_MvExporters::pdfBoxes()
@@ -141,18 +137,10 @@ void tst_MvExporters::pdfBoxes()
     QVERIFY(outputOf(u"qpdf"_s, {u"--check"_s, path(u"k.pdf"_s)}).contains("No syntax"));
 }
 
-void tst_MvExporters::pdfGeometry_data()
-{
-    QTest::addColumn<double>("bleed");
-    QTest::addColumn<QRect>("dark"); // tenths of a millimetre from the media box's top left corner
-    QTest::newRow("no bleed") << 0.0 << QRect(100, 200, 300, 400);
-    QTest::newRow("3 mm bleed") << 30.0 << QRect(130, 230, 300, 400);
-}
-
 void tst_MvExporters::pdfGeometry()
 {
-    QFETCH(const double, bleed);
-    QFETCH(const QRect, dark);
+    constexpr double bleed = 30.0;
+    const QRect dark(130, 230, 300, 400); // tenths of a millimetre from the media box's top left corner
     QVERIFY(MvPdfExporter::write(source(u"105,3x90,7"_s, bleed, 1), QFileInfo(path(u"k.pdf"_s))).isOk());
     const QByteArray messages = outputOf(
         u"pdftoppm"_s, {u"-r"_s, u"254"_s, u"-png"_s, u"-singlefile"_s, u"-gray"_s, path(u"k.pdf"_s), path(u"k"_s)});
@@ -198,40 +186,34 @@ void tst_MvExporters::pdfMetadata()
     QCOMPARE(QColorSpace::fromIccProfile(bytes).primaries(), QColorSpace::Primaries::SRgb);
 }
 
-void tst_MvExporters::png_data()
-{
-    QTest::addColumn<int>("dpi");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("300") << 300 << QSize(2480, 3508);
-    QTest::newRow("254: a pixel per tenth of a millimetre") << 254 << QSize(2100, 2970);
-    QTest::newRow("10") << 10 << QSize(83, 117);
-}
-
 void tst_MvExporters::png()
 {
-    QFETCH(const int, dpi);
-    QFETCH(const QSize, size);
     MvPageSource pages = source(u"A4"_s, 0, 2);
     pages.paint = [black = pages.paint](QPainter &painter, int page) {
         painter.fillRect(QRectF(2000, 2000, 100, 970), Qt::blue);
         black(painter, page);
     };
-    const MvExportResult result = MvPngExporter::write(pages, path(u"s-%m.png"_s), dpi);
-    QCOMPARE(result.error, QString());
-    QCOMPARE(result.files, (QList<QFileInfo>{QFileInfo(path(u"s-01.png"_s)), QFileInfo(path(u"s-02.png"_s))}));
-    QCOMPARE(filesInFolder(), (QStringList{u"s-01.png"_s, u"s-02.png"_s}));
+    for (const auto &[dpi, size] : {std::pair(300, QSize(2480, 3508)),
+                                    {254, QSize(2100, 2970)}, // a pixel per tenth of a millimetre
+                                    {10, QSize(83, 117)}}) {
+        const MvExportResult result = MvPngExporter::write(pages, path(u"s-%m.png"_s), dpi);
+        QCOMPARE(result.error, QString());
+        QCOMPARE(result.files, (QList<QFileInfo>{QFileInfo(path(u"s-01.png"_s)), QFileInfo(path(u"s-02.png"_s))}));
+        QCOMPARE(filesInFolder(), (QStringList{u"s-01.png"_s, u"s-02.png"_s}));
 
-    const QImage image(path(u"s-02.png"_s));
-    QCOMPARE(image.size(), size);
-    QCOMPARE(qRound(image.dotsPerMeterX() * 0.0254), dpi);
-    QCOMPARE(qRound(image.dotsPerMeterY() * 0.0254), dpi);
-    QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
-    QVERIFY(!image.hasAlphaChannel());
-    QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
-    const QColor corner = image.pixelColor(size.width() - 1, size.height() - 1);
-    QVERIFY(corner.red() <= 4 && corner.blue() == 255); // not half a pixel: 1/64 is the rounding of the paint system
-    if (dpi == 254)
-        QCOMPARE(darkRect(image.copy(0, 0, 1000, 1000)), QRect(100, 200, 300, 400));
+        const QImage image(path(u"s-02.png"_s));
+        QCOMPARE(image.size(), size);
+        QCOMPARE(qRound(image.dotsPerMeterX() * 0.0254), dpi);
+        QCOMPARE(qRound(image.dotsPerMeterY() * 0.0254), dpi);
+        QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
+        QVERIFY(!image.hasAlphaChannel());
+        QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
+        const QColor corner = image.pixelColor(size.width() - 1, size.height() - 1);
+        QVERIFY(corner.red() <= 4 &&
+                corner.blue() == 255); // not half a pixel: 1/64 is the rounding of the paint system
+        if (dpi == 254)
+            QCOMPARE(darkRect(image.copy(0, 0, 1000, 1000)), QRect(100, 200, 300, 400));
+    }
 }
 
 void tst_MvExporters::svg()
@@ -312,54 +294,35 @@ void tst_MvExporters::paintsForPrint()
     QVERIFY(!MvRenderingRule::decodeFrom(painter).hasFlag(MvRenderingRule::Print));
 }
 
-void tst_MvExporters::refuses_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<int>("dpi");
-    QTest::addColumn<QString>("pattern");
-    QTest::newRow("no size") << u"A9"_s << 1 << 100 << u"s-%m.png"_s;
-    QTest::newRow("no pages") << u"A6"_s << 0 << 100 << u"s-%m.png"_s;
-    QTest::newRow("dots below the limit") << u"A6"_s << 1 << 9 << u"s-%m.png"_s;
-    QTest::newRow("dots above the limit") << u"A6"_s << 1 << 1201 << u"s-%m.png"_s;
-    QTest::newRow("too many pixels") << u"A0"_s << 1 << 1200 << u"s-%m.png"_s;
-    QTest::newRow("names that do not differ") << u"A6"_s << 2 << 100 << u"s.png"_s;
-}
-
 void tst_MvExporters::refuses()
 {
-    QFETCH(const QString, format);
-    QFETCH(const int, pages);
-    QFETCH(const int, dpi);
-    QFETCH(const QString, pattern);
-    const MvExportResult result = MvPngExporter::write(source(format, 0, pages), path(pattern), dpi);
-    QVERIFY(!result.isOk());
-    QVERIFY(result.files.isEmpty());
+    const QString pattern = path(u"s-%m.png"_s);
+    const MvExportResult results[] = {
+        MvPngExporter::write(source(u"A9"_s, 0, 1), pattern, 100), // no size
+        MvPngExporter::write(source(u"A6"_s, 0, 0), pattern, 100), // no pages
+        MvPngExporter::write(source(u"A6"_s, 0, 1), pattern, 9),
+        MvPngExporter::write(source(u"A6"_s, 0, 1), pattern, 1201),
+        MvPngExporter::write(source(u"A0"_s, 0, 1), pattern, 1200), // too many pixels
+        MvPngExporter::write(source(u"A6"_s, 0, 2), path(u"s.png"_s), 100),
+    };
+    for (const MvExportResult &result : results)
+        QVERIFY(!result.isOk() && result.files.isEmpty());
     QCOMPARE(filesInFolder(), QStringList());
-}
-
-void tst_MvExporters::failingTargets_data()
-{
-    QTest::addColumn<QString>("target");
-    QTest::newRow("folder does not exist") << u"nowhere/k-%m"_s;
-    QTest::newRow("a file in place of the folder") << u"file/k-%m"_s;
-    QTest::newRow("a folder of that name") << u"folder"_s;
 }
 
 void tst_MvExporters::failingTargets()
 {
-    QFETCH(const QString, target);
     QVERIFY(QDir(m_folder->path()).mkdir(u"folder"_s));
     QFile file(path(u"file"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     const MvPageSource pages = source(u"A6"_s, 0, 1);
-    const MvExportResult results[] = {MvPdfExporter::write(pages, QFileInfo(path(target))),
-                                      MvPngExporter::write(pages, path(target), 50),
-                                      MvSvgExporter::write(pages, path(target))};
-    for (const MvExportResult &result : results) {
-        QVERIFY(!result.isOk());
-        QVERIFY2(result.error.startsWith(path(target.section(u'%', 0, 0))), qPrintable(result.error));
-        QVERIFY(result.files.isEmpty());
+    for (const QString &target : {u"nowhere/k-%m"_s, u"file/k-%m"_s, u"folder"_s}) {
+        for (const MvExportResult &result :
+             {MvPdfExporter::write(pages, QFileInfo(path(target))), MvPngExporter::write(pages, path(target), 50),
+              MvSvgExporter::write(pages, path(target))}) {
+            QVERIFY(!result.isOk() && result.files.isEmpty());
+            QVERIFY2(result.error.startsWith(path(target.section(u'%', 0, 0))), qPrintable(result.error));
+        }
     }
     QCOMPARE(filesInFolder(), (QStringList{u"file"_s, u"folder"_s}));
     QVERIFY(QDir(path(u"folder"_s)).isEmpty());

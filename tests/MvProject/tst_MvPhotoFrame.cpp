@@ -27,13 +27,11 @@ class tst_MvPhotoFrame : public MvTest
 private Q_SLOTS:
     void initTestCase();
     void clampsItsValues();
-    void crops_data();
     void crops();
     void sharesThePage_data();
     void sharesThePage();
     void isNeverDistorted_data();
     void isNeverDistorted();
-    void missing_data();
     void missing();
     void resolution_data();
     void resolution();
@@ -64,27 +62,18 @@ void tst_MvPhotoFrame::clampsItsValues()
     QCOMPARE(frame.focus(), QPointF(0.0, 0.5));
 }
 
-void tst_MvPhotoFrame::crops_data()
-{
-    QTest::addColumn<QSizeF>("frame");
-    QTest::addColumn<QPointF>("focus");
-    QTest::addColumn<QRectF>("seen"); // of a photo of 300 x 200
-    QTest::newRow("same proportions") << QSizeF(600, 400) << QPointF(0.1, 0.9) << QRectF(0, 0, 300, 200);
-    QTest::newRow("square, middle") << QSizeF(50, 50) << QPointF(0.5, 0.5) << QRectF(50, 0, 200, 200);
-    QTest::newRow("square, focus left of the middle") << QSizeF(50, 50) << QPointF(0.4, 0.5) << QRectF(20, 0, 200, 200);
-    QTest::newRow("square, the edge stops it") << QSizeF(50, 50) << QPointF(1.0, 0.5) << QRectF(100, 0, 200, 200);
-    QTest::newRow("panorama, focus at the top") << QSizeF(900, 300) << QPointF(0.5, 0.1) << QRectF(0, 0, 300, 100);
-    QTest::newRow("nothing") << QSizeF(0, 50) << QPointF(0.5, 0.5) << QRectF();
-}
-
 void tst_MvPhotoFrame::crops()
 {
-    QFETCH(const QSizeF, frame);
-    QFETCH(const QPointF, focus);
-    QFETCH(const QRectF, seen);
-    MvPhotoFrame photo(m_photo);
-    photo.setFocus(focus);
-    QCOMPARE(photo.crop({300, 200}, frame), seen);
+    using Case = std::tuple<QSizeF, QPointF, QRectF>; // what is seen of a photo of 300 x 200
+    for (const auto &[frame, focus, seen] : {Case({600, 400}, {0.1, 0.9}, {0, 0, 300, 200}), // same proportions
+                                             Case({50, 50}, {0.4, 0.5}, {20, 0, 200, 200}),
+                                             Case({50, 50}, {1.0, 0.5}, {100, 0, 200, 200}), // the edge stops it
+                                             Case({900, 300}, {0.5, 0.1}, {0, 0, 300, 100}), // panorama
+                                             Case({0, 50}, {0.5, 0.5}, {})}) {
+        MvPhotoFrame photo(m_photo);
+        photo.setFocus(focus);
+        QCOMPARE(photo.crop({300, 200}, frame), seen);
+    }
 }
 
 void tst_MvPhotoFrame::sharesThePage_data()
@@ -167,46 +156,39 @@ void tst_MvPhotoFrame::isNeverDistorted()
     QCOMPARE(colorAt({2120, int(share * 1480) - near}), QColor(Qt::yellow)); // up to the bleed's edge
 }
 
-void tst_MvPhotoFrame::missing_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("no file") << QByteArray();
-    QTest::newRow("not a photo") << QByteArray("Liebe Oma,");
-    QTest::newRow("a broken photo") << QByteArray("\x89PNG\r\n\x1a\n....");
-}
-
 void tst_MvPhotoFrame::missing()
 {
-    QFETCH(const QByteArray, content);
-    const QString path = m_folder.filePath(u"weg %1.jpg"_s.arg(content.size()));
-    if (!content.isEmpty()) {
+    for (const QByteArray &content : QByteArrayList{"no file", "Liebe Oma,", "\x89PNG\r\n\x1a\n...."}) {
+        const QString path = m_folder.filePath(u"weg %1.jpg"_s.arg(content.size()));
         QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 3);
-    setPhoto(calendar, 0, MvPhotoFrame(path));
-    setPhoto(calendar, 1, MvPhotoFrame(m_photo));
-    setPhoto(calendar, 2, MvPhotoFrame(path));
-    QCOMPARE(calendar.missingPhotos(), QStringList{path});
+        if (content != "no file")
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        file.close();
+        MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 3);
+        setPhoto(calendar, 0, MvPhotoFrame(path));
+        setPhoto(calendar, 1, MvPhotoFrame(m_photo));
+        setPhoto(calendar, 2, MvPhotoFrame(path));
+        QCOMPARE(calendar.missingPhotos(), QStringList{path});
 
-    const MvCalendarPage page = calendar.pages()[0];
-    const QRectF frame = page.photoFrame().rect(calendar.format());
-    const auto isInFrame = [&frame](const Item &item) {
-        return frame.contains(item.bounds) && item.bounds.height() > 0.0;
-    };
-    const auto inFrame = [&](unsigned rule) {
-        QStringList kinds;
-        for (const Item &item : itemsOf(page, calendar.format(), rule)) {
-            if (isInFrame(item))
-                kinds.append(item.kind == Item::Text ? item.text : item.fill.name());
-        }
-        return kinds;
-    };
-    QCOMPARE(inFrame(MvRenderingRule::Print), QStringList());
-    QCOMPARE(inFrame(MvRenderingRule::Thumbnail).size(), 1);
-    const QStringList onScreen = inFrame(MvRenderingRule::InteractiveScreen);
-    QCOMPARE(onScreen.size(), 3);
-    QCOMPARE(onScreen.last(), QFileInfo(path).fileName());
+        const MvCalendarPage page = calendar.pages()[0];
+        const QRectF frame = page.photoFrame().rect(calendar.format());
+        const auto isInFrame = [&frame](const Item &item) {
+            return frame.contains(item.bounds) && item.bounds.height() > 0.0;
+        };
+        const auto inFrame = [&](unsigned rule) {
+            QStringList kinds;
+            for (const Item &item : itemsOf(page, calendar.format(), rule)) {
+                if (isInFrame(item))
+                    kinds.append(item.kind == Item::Text ? item.text : item.fill.name());
+            }
+            return kinds;
+        };
+        QCOMPARE(inFrame(MvRenderingRule::Print), QStringList());
+        QCOMPARE(inFrame(MvRenderingRule::Thumbnail).size(), 1);
+        const QStringList onScreen = inFrame(MvRenderingRule::InteractiveScreen);
+        QCOMPARE(onScreen.size(), 3);
+        QCOMPARE(onScreen.last(), QFileInfo(path).fileName());
+    }
 }
 
 void tst_MvPhotoFrame::resolution_data()

@@ -42,35 +42,34 @@ void tst_MvNearMiss::finds()
 
 void tst_MvNearMiss::parses_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QStringList>("output"); // the values of the repeatable option
-    QTest::addColumn<QString>("complaint");  // a word of the error; empty: none
-    QTest::newRow("apart and joined") << QStringList{u"-o"_s, u"a"_s, u"--output=b=c"_s}
-                                      << QStringList{u"a"_s, u"b=c"_s} << QString();
-    QTest::newRow("a value may begin with a dash")
-        << QStringList{u"-o"_s, u"-x"_s} << QStringList{u"-x"_s} << QString();
-    QTest::newRow("empty value") << QStringList{u"--output="_s} << QStringList{QString()} << QString();
-    QTest::newRow("value missing at the end") << QStringList{u"--output"_s} << QStringList() << u"--output"_s;
-    QTest::newRow("value missing before an option")
-        << QStringList{u"--output"_s, u"--switch"_s} << QStringList() << u"--output"_s;
-    QTest::newRow("switch with a value") << QStringList{u"--switch=1"_s} << QStringList() << u"keinen Wert"_s;
-    QTest::newRow("twice what may stand once")
-        << QStringList{u"--switch"_s, u"--switch"_s} << QStringList() << u"zweimal"_s;
-    QTest::newRow("unknown") << QStringList{u"--swich"_s} << QStringList() << u"„--switch“"_s;
-    QTest::newRow("stray word") << QStringList{u"kalender.pdf"_s} << QStringList() << u"kalender.pdf"_s;
+    QTest::addColumn<QString>("arguments"); // blanks part them
+    QTest::addColumn<QString>("output");    // the values of the repeatable option, parted by blanks
+    QTest::addColumn<QString>("complaint"); // a word of the error; empty: none
+    const auto row = [](const char *name, const QString &arguments, const QString &output,
+                        const QString &complaint = {}) { QTest::newRow(name) << arguments << output << complaint; };
+    row("apart and joined", u"-o a --output=b=c"_s, u"a b=c"_s);
+    row("a value may begin with a dash", u"-o -x"_s, u"-x"_s);
+    row("empty value", u"--output="_s, {});
+    row("value missing at the end", u"--output"_s, {}, u"--output"_s);
+    row("value missing before an option", u"--output --switch"_s, {}, u"--output"_s);
+    row("switch with a value", u"--switch=1"_s, {}, u"keinen Wert"_s);
+    row("twice what may stand once", u"--switch --switch"_s, {}, u"zweimal"_s);
+    row("unknown", u"--swich"_s, {}, u"„--switch“"_s);
+    row("stray word", u"kalender.pdf"_s, {}, u"kalender.pdf"_s);
 }
 
 void tst_MvNearMiss::parses()
 {
-    QFETCH(const QStringList, arguments);
-    QFETCH(const QStringList, output);
+    QFETCH(const QString, arguments);
+    QFETCH(const QString, output);
     QFETCH(const QString, complaint);
     MvCliArguments parsed;
-    const QString error = parsed.parse(arguments, {{u"output"_s, u"DATEI"_s, {}, true}, {u"switch"_s, {}, {}}}).error;
+    const QString error =
+        parsed.parse(arguments.split(u' '), {{u"output"_s, u"DATEI"_s, {}, true}, {u"switch"_s, {}, {}}}).error;
     QCOMPARE(error.isEmpty(), complaint.isEmpty());
     QVERIFY2(error.contains(complaint), qPrintable(error));
     if (complaint.isEmpty())
-        QCOMPARE(parsed.values(u"output"_s), output);
+        QCOMPARE(parsed.values(u"output"_s), output.split(u' '));
 }
 
 MV_TEST_MAIN(tst_MvNearMiss)

@@ -1,20 +1,56 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvTest.h"
 
+#include "MvCore/MvAngle.h"
+#include "MvCore/MvSpaceMagnitude.h"
 #include "MvCore/MvStringHelper.h"
+
+#include <QFont>
 
 using namespace Qt::StringLiterals;
 
-class tst_MvStringHelper : public MvTest
+/// The small values: angles, classes of pages, names.
+class tst_MvValues : public MvTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void rotateRect();
+    void classOfPage();
+    void adaptsFonts();
     void names_data();
     void names();
 };
 
-void tst_MvStringHelper::names_data()
+void tst_MvValues::rotateRect()
+{
+    for (const double degrees : {90.0, 270.0, -90.0})
+        QCOMPARE(MvAngle(degrees).rotateRect({15, 25, 90, 10}), QRectF(55, -15, 10, 90));
+    for (const double degrees : {180.0, 0.0})
+        QCOMPARE(MvAngle(degrees).rotateRect({15, 25, 90, 10}), QRectF(15, 25, 90, 10));
+}
+
+void tst_MvValues::classOfPage()
+{
+    const std::pair<QSizeF, QString> pages[] = {
+        {{2970, 2100}, u"a4"_s},   {{2950, 2950}, u"a4"_s}, // nearer A4 than A3
+        {{20000, 20000}, u"a0"_s}, {{200, 200}, u"a8"_s},   {{0, 2970}, QString()},
+    };
+    for (const auto &[size, name] : pages)
+        QCOMPARE(MvSpaceMagnitude::ofPage(size.width(), size.height()).encode(), name);
+    QCOMPARE(MvSpaceMagnitude(u" A3 "_s), MvSpaceMagnitude(MAGNITUDE_A3));
+    QVERIFY(!MvSpaceMagnitude(u"letter"_s).isValid());
+}
+
+void tst_MvValues::adaptsFonts()
+{
+    QFont font;
+    font.setPixelSize(100);
+    for (const auto &[to, pixels] : {std::pair(128, 100), {256, 141}, {512, 200}, {32, 50}, {0, 100}})
+        QCOMPARE(MvSpaceMagnitude(128).adaptFont(font, MvSpaceMagnitude(to)).pixelSize(), pixels);
+}
+
+void tst_MvValues::names_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("name");
@@ -37,7 +73,7 @@ void tst_MvStringHelper::names_data()
                                        << u"a"_s + QString(letters.size() - 1, QChar(0x0301));
 }
 
-void tst_MvStringHelper::names()
+void tst_MvValues::names()
 {
     QFETCH(const QString, text);
     QTEST(MvStringHelper::simplifiedName(text), "name");
@@ -45,5 +81,5 @@ void tst_MvStringHelper::names()
              MvStringHelper::simplifiedName(text));
 }
 
-MV_TEST_MAIN(tst_MvStringHelper)
-#include "tst_MvStringHelper.moc"
+MV_TEST_MAIN(tst_MvValues)
+#include "tst_MvValues.moc"
