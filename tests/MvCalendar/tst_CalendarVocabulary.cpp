@@ -3,32 +3,12 @@
 
 #include "MvCalendar/MvCalendarBorderType.h"
 #include "MvCalendar/MvCalendarCellColorKey.h"
-#include "MvCalendar/MvCalendarCellKey.h"
 #include "MvCalendar/MvCalendarCellType.h"
 #include "MvCalendar/MvCalendarFeatureType.h"
 #include "MvCalendar/MvCalendarRenderingInformation.h"
 #include "MvCalendar/MvCalendariumType.h"
 
-#include <QDomDocument>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QDomElement elementWith(const QString &attribute, const QString &value)
-{
-    static QDomDocument document;
-    QDomElement element = document.createElement(u"e"_s);
-    element.setAttribute(attribute, value);
-    return element;
-}
-
-MvCalendarCellColorKey key(int role, int type, int parity)
-{
-    return {MvCalendarCellColorRole(role), MvCalendarCellType(type), MvParityLogic(parity)};
-}
-
-} // namespace
 
 /// The names are a file format: what is read and what is written, misspellings included.
 class tst_CalendarVocabulary : public MvTest
@@ -41,18 +21,9 @@ private Q_SLOTS:
     void encodes_data();
     void encodes();
     void bareWrapperDoesNotPublishAnEmptyTable();
-    void cellTypeOfElement();
     void everyNamedCellTypeHasADisplayName();
     void expandsToInvisibleCells_data();
     void expandsToInvisibleCells();
-    void synthesisesFromEverydayTypes();
-    void parities_data();
-    void parities();
-    void colorKeyKinds_data();
-    void colorKeyKinds();
-    void colorKeyUnfolds();
-    void ordersKeys();
-    void expandingGoesThroughTheVirtualForm();
 };
 
 void tst_CalendarVocabulary::decodes_data()
@@ -102,8 +73,6 @@ void tst_CalendarVocabulary::encodes_data()
     QTest::newRow("which is shown") << MvCalendarFeatureType(128).visibleName() << u"Artickelvarianten"_s;
     QTest::newRow("role keys") << MvCalendarCellColorRole(1).evenKey() + u' ' + MvCalendarCellColorRole(2).oddKey()
                                << u"bgcoloreven textcolorodd"_s;
-    QTest::newRow("key") << key(2, CALENDAR_CELL_TYPE_SUNDAY, 2).toString()
-                         << u"textcolor CALENDAR_CELL_TYPE_SUNDAY odd"_s;
 }
 
 void tst_CalendarVocabulary::encodes()
@@ -118,18 +87,6 @@ void tst_CalendarVocabulary::bareWrapperDoesNotPublishAnEmptyTable()
     const auto parities = MvParityLogic(MvParityLogicEnum::even) | MvParityLogic(MvParityLogicEnum::odd);
     parities.encode();
     QCOMPARE(MvParityLogic(parities).encode(), u"both"_s);
-}
-
-void tst_CalendarVocabulary::cellTypeOfElement()
-{
-    MvCalendarCellType type;
-    type.fromXML(elementWith(u"type"_s, u"CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_HOLIDAY"_s));
-    QCOMPARE(type.toInt(), 8 | 0x10000);
-    QDomElement element = elementWith(u"other"_s, QString());
-    type.toXML(element);
-    QCOMPARE(element.attribute(u"type"_s), QString()); // only single types have names
-    type.fromXML(elementWith(u"other"_s, QString()));
-    QVERIFY(!type.isValid());
 }
 
 void tst_CalendarVocabulary::everyNamedCellTypeHasADisplayName()
@@ -170,105 +127,6 @@ void tst_CalendarVocabulary::expandsToInvisibleCells()
     MvCalendarCellType type(set);
     type.expandToInvisibleCells(MvCalendarCellType(visible));
     QTEST(type.toInt(), "expanded");
-}
-
-void tst_CalendarVocabulary::synthesisesFromEverydayTypes()
-{
-    int withSource = 0;
-    for (const MvCalendarCellType &type : MvCalendarCellType::allTypes().singleTypes()) {
-        if (type.synthetizingSource().isValid())
-            ++withSource;
-    }
-    QCOMPARE(withSource, 4);
-    QCOMPARE(MvCalendarCellType(CALENDAR_CELL_TYPE_HOLIDAY).synthetizingSource(),
-             MvCalendarCellType(CALENDAR_CELL_TYPE_SUNDAY));
-    QCOMPARE(MvCalendarCellType(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION).synthetizingSource(),
-             MvCalendarCellType(CALENDAR_CELL_TYPE_HEAD_SATURDAY));
-}
-
-void tst_CalendarVocabulary::parities_data()
-{
-    QTest::addColumn<int>("parity");
-    QTest::addColumn<bool>("source");
-    QTest::addColumn<QList<bool>>("targets");
-    QTest::newRow("none") << 0 << true << QList<bool>{};
-    QTest::newRow("even") << 1 << true << QList<bool>{true};
-    QTest::newRow("odd") << 2 << false << QList<bool>{false};
-    QTest::newRow("both") << 3 << true << QList<bool>{true, false};
-}
-
-void tst_CalendarVocabulary::parities()
-{
-    QFETCH(int, parity);
-    QTEST(MvParityLogic(parity).sourceField(), "source");
-    QTEST(MvParityLogic(parity).targetParities(), "targets");
-    QCOMPARE(MvParityLogic(true).toInt(), 1);
-    QCOMPARE(MvParityLogic(false).toInt(), 2);
-}
-
-void tst_CalendarVocabulary::colorKeyKinds_data()
-{
-    QTest::addColumn<int>("role");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("parity");
-    QTest::addColumn<bool>("isOne");
-    QTest::addColumn<bool>("isSuper");
-    QTest::newRow("single") << 1 << 8 << 1 << true << false;
-    QTest::newRow("two types") << 1 << 12 << 1 << false << true;
-    QTest::newRow("both parities") << 2 << 8 << 3 << false << true;
-    QTest::newRow("both roles, no type") << 3 << 0 << 3 << false << false;
-    QTest::newRow("two types, no parity") << 1 << 12 << 0 << false << false;
-    QTest::newRow("empty") << 0 << 0 << 0 << false << false;
-}
-
-void tst_CalendarVocabulary::colorKeyKinds()
-{
-    QFETCH(int, role);
-    QFETCH(int, type);
-    QFETCH(int, parity);
-    QTEST(key(role, type, parity).isOneKey(), "isOne");
-    QTEST(key(role, type, parity).isSuperKey(), "isSuper");
-}
-
-void tst_CalendarVocabulary::colorKeyUnfolds()
-{
-    const QList<MvCalendarCellColorKey> keys = key(3, 4 | 8, 3).unfolded();
-    QCOMPARE(keys.size(), 8);
-    for (const MvCalendarCellColorKey &single : keys)
-        QVERIFY(single.isOneKey());
-    QVERIFY(keys.contains(key(2, 8, 2)));
-    QCOMPARE(key(1, 4, 0).unfolded().size(), 0);
-    QCOMPARE(key(1, 4, 2).correctedToSourceParity(), key(1, 4, 2));
-    QCOMPARE(key(1, 4, 3).correctedToSourceParity(), key(1, 4, 1));
-    QCOMPARE(key(2, 0x80000, 2).hashKey(), qint64(2 * 1024 + 0x80000 * 32 + 2));
-}
-
-void tst_CalendarVocabulary::ordersKeys()
-{
-    QVERIFY(key(2, 4, 2) < key(1, 8, 1)); // type first
-    QVERIFY(key(1, 8, 2) < key(2, 8, 1)); // then role
-    QVERIFY(key(1, 8, 1) < key(1, 8, 2)); // then parity
-    QVERIFY(MvCalendarCellKey(MvCalendarCellType(4), MvParityLogic(2)) <
-            MvCalendarCellKey(MvCalendarCellType(8), MvParityLogic(1)));
-}
-
-void tst_CalendarVocabulary::expandingGoesThroughTheVirtualForm()
-{
-    struct Counting : MvCalendarCellType
-    {
-        using MvCalendarCellType::expandTo;
-        void expandTo(MvCalendarCellTypeEnum other) override
-        {
-            ++calls;
-            MvCalendarCellType::expandTo(other);
-        }
-        int calls = 0;
-    };
-    Counting type;
-    MvEnumWrapper<MvCalendarCellTypeEnum> &wrapper = type;
-    wrapper.expandTo(MvCalendarCellType(CALENDAR_CELL_TYPE_SUNDAY));
-    QCOMPARE(type.calls, 1);
-    QCOMPARE(type.toInt(), 8);
 }
 
 MV_TEST_MAIN(tst_CalendarVocabulary)

@@ -15,7 +15,6 @@ const QString grid = u"CALENDAR_ONE_WEEK_PER_ROW"_s;
 const QString twoWeeks = u"CALENDAR_TWO_WEEKS"_s;
 const QString columns = u"CALENDAR_ONE_COLUMN_PER_WEEK"_s;
 const QString dayList = u"CALENDAR_ONE_DAY_PER_ROW"_s;
-const QString year = u"CALENDAR_YEAR"_s;
 
 const QString plain = u"calendar_render_no_empty_weeks"_s;
 const QString title = plain + u", calendar_render_title, calendar_render_month_long, calendar_render_year_long"_s;
@@ -29,12 +28,6 @@ const QString weeks = u", calendar_render_week_of_year"_s;
 constexpr double number = 84.5;
 constexpr double head = 32.75;
 constexpr double nameOfWeekday = 159.75; // "Donnerstag", the widest
-
-constexpr int days = CALENDAR_CELL_TYPE_WEEKDAY | CALENDAR_CELL_TYPE_SATURDAY | CALENDAR_CELL_TYPE_SUNDAY |
-                     CALENDAR_CELL_TYPE_HOLIDAY | CALENDAR_CELL_TYPE_SCHOOL_VACATION;
-constexpr int weekdayHeads =
-    CALENDAR_CELL_TYPE_HEAD_WEEKDAY | CALENDAR_CELL_TYPE_HEAD_SATURDAY | CALENDAR_CELL_TYPE_HEAD_SUNDAY;
-constexpr int dayHeads = weekdayHeads | CALENDAR_CELL_TYPE_HEAD_HOLIDAY | CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION;
 
 const QDate may(2027, 5, 1);      // six weeks, from Saturday to Monday
 const QDate february(2027, 2, 1); // four whole weeks
@@ -66,15 +59,13 @@ bool areClose(const QRectF &a, const QRectF &b)
 
 } // namespace
 
-/// What the kinds of calendarium have in common, each with its own figures: what they say of themselves, how they
-/// divide a rectangle, what they write first. The pages of the shipped layouts are those of tst_ReferencePages.
+/// What the kinds of calendarium have in common, each with its own figures: how they divide a rectangle, what they
+/// write first. The pages of the shipped layouts are those of tst_ReferencePages.
 class tst_CalendariumKinds : public MvTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void describe_data();
-    void describe();
     void divide_data();
     void divide();
     void write_data();
@@ -88,89 +79,6 @@ private Q_SLOTS:
     void furtherRowsWhereNarrow();
     void headsOfColumnsGiveWay();
 };
-
-void tst_CalendariumKinds::describe_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("info");
-    QTest::addColumn<QByteArray>("renderer");
-    QTest::addColumn<QSize>("minimumSize");
-    QTest::addColumn<int>("abilities");
-    QTest::addColumn<bool>("hasMonth");
-    QTest::addColumn<bool>("hasHeaderPerDay");
-    QTest::addColumn<int>("cellTypes");
-    const int empty = CALENDAR_CELL_TYPE_EMPTY;
-    const int titleType = CALENDAR_CELL_TYPE_TITLE;
-    const int inGrid = days | titleType | weekdayHeads; // whether or not they are shown
-    const int week = CALENDAR_CELL_TYPE_WEEK_OF_YEAR;
-    const int top = CALENDAR_CELL_TYPE_TOPLINE;
-    const QByteArray rowName("MvCalendariumRendererOneRow");
-    const QByteArray gridName("MvCalendariumRendererOneWeekPerRow");
-    const QByteArray twoWeeksName("MvCalendariumRendererTwoWeeksPerRow");
-    const QByteArray columnsName("MvCalendariumRendererOneColumnPerWeek");
-    const QByteArray listName("MvCalendariumRendererOneDayPerRow");
-    const QByteArray yearName("MvCalendariumRendererYear");
-    const QByteArray monthName("MvCalendariumRendererMonthOnly");
-
-    // counts title and heads, though there are none; "Samstag" is 87.5 pixels, rounded to 88
-    QTest::newRow("row") << row << plain << rowName << QSize(int(22 * nameOfWeekday + 9 * (88 * 1.27 + 1)), 150) << 10
-                         << true << true << (days | dayHeads | titleType);
-    // six weeks, although February has four
-    QTest::newRow("grid") << grid << plain << gridName << QSize(7 * 84, 507) << 30 << false << false << inGrid;
-    QTest::newRow("grid with all") << grid << both + weeks << gridName << QSize(int(7 * 159 + head), 571) << 30 << true
-                                   << false << (inGrid | week | top);
-    QTest::newRow("two weeks") << twoWeeks << plain << twoWeeksName << QSize(14 * 84 + 7, 286) << 14 << false << false
-                               << (inGrid | empty);
-    QTest::newRow("two weeks with all") << twoWeeks << both << twoWeeksName << QSize(int(14 * nameOfWeekday), 318) << 14
-                                        << true << false << (inGrid | empty);
-    QTest::newRow("columns") << columns << plain << columnsName << QSize(int(6 * number), int(head + 7 * number)) << 30
-                             << false << false << (days | weekdayHeads);
-    QTest::newRow("columns with heads") << columns << heads << columnsName
-                                        << QSize(int(6 * (number + nameOfWeekday)), 8 * 32 + 6) << 30 << false << false
-                                        << (days | weekdayHeads);
-    QTest::newRow("columns with heads in front")
-        << columns << inFront << columnsName << QSize(int(nameOfWeekday + 6 * head), 8 * 32 + 6) << 30 << false << false
-        << (days | weekdayHeads);
-    QTest::newRow("day list") << dayList << plain << listName << QSize(84 + 20, int(head + 31 * number)) << 14 << false
-                              << true << days;
-    QTest::newRow("day list with heads") << dayList << shortHeads << listName
-                                         << QSize(84 + 159 + 20, int(head + 31 * head)) << 14 << false << true
-                                         << (days | dayHeads);
-    QTest::newRow("day list with weeks") << dayList << plain + weeks << listName << QSize() << 14 << false << true
-                                         << (days | week);
-    QTest::newRow("holidays") << u"CALENDAR_HOLIDAYS"_s << plain << QByteArray("MvCalendariumRendererHolidays")
-                              << QSize() << 14 << false << false << int(CALENDAR_CELL_TYPE_WEEKDAY);
-    QTest::newRow("year only") << u"CALENDAR_YEAR_ONLY"_s << plain << QByteArray("MvCalendariumRendererYearOnly")
-                               << QSize() << 0 << false << false << int(CALENDAR_CELL_TYPE_YEAR);
-    const int ofYears = ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS_COLORS | ABILITY_DISPLAY_CALENDAR_WEEKS;
-    QTest::newRow("year") << year << plain << yearName << QSize() << ofYears << true << false
-                          << (days | titleType | empty | int(CALENDAR_CELL_TYPE_MONTH));
-    QTest::newRow("year's planner") << year << inFront + weeks << yearName << QSize()
-                                    << (ofYears | ABILITY_DISPLAY_HOLIDAYS) << true << false
-                                    << (days | titleType | empty | dayHeads | week | int(CALENDAR_CELL_TYPE_MONTH));
-    // twelve characters of 12.5 pixels
-    QTest::newRow("month only") << u"CALENDAR_MONTH_ONLY"_s << title << monthName << QSize(191, 32) << 0 << true
-                                << false << int(CALENDAR_CELL_TYPE_MONTH);
-    for (const QString &other : {QString(), u"CALENDAR_MONTH_ONLY, CALENDAR_YEAR"_s})
-        QTest::addRow("no kind: \"%s\"", qPrintable(other))
-            << other << title << monthName << QSize() << 0 << true << false << int(CALENDAR_CELL_TYPE_MONTH);
-}
-
-void tst_CalendariumKinds::describe()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, info);
-    QFETCH(QSize, minimumSize);
-    MvPageFixture page(appearanceOf(type, info), february);
-    const MvCalendariumRenderer &renderer = page.renderer();
-    QTEST(QByteArray(renderer.metaObject()->className()), "renderer");
-    if (minimumSize.isValid())
-        QCOMPARE(renderer.minimumSizeHint(), minimumSize);
-    QTEST(renderer.abilities().toInt(), "abilities");
-    QTEST(renderer.rendersMonthInformation(), "hasMonth");
-    QTEST(renderer.hasOneHeaderPerDay(), "hasHeaderPerDay");
-    QTEST(MvCalendarCellType(renderer.usedCellTypes()).toInt(), "cellTypes");
-}
 
 void tst_CalendariumKinds::divide_data()
 {
@@ -279,6 +187,8 @@ void tst_CalendariumKinds::write_data()
         << columns << inFront << may << holidays << u"Mo,Di"_s << 7 + 31;
     QTest::newRow("columns: only who is asked shows weeks")
         << columns << plain + weeks << february << 0 << u"1,2"_s << 28;
+    for (const QString &other : {QString(), u"CALENDAR_MONTH_ONLY, CALENDAR_YEAR"_s})
+        QTest::addRow("no kind: \"%s\"", qPrintable(other)) << other << title << may << 0 << u"Mai 2027"_s << 1;
     QTest::newRow("day list: numbers alone") << dayList << plain << may << 0 << u" 1 , 2 "_s << 31;
 }
 

@@ -85,15 +85,10 @@ private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
     void writesOnlyDeviations();
-    void copies();
-    void sharesUntilChanged();
-    void describesDifferences();
     void contrast();
 
     void registryAliasesDuplicates();
     void registryRenamesOldIds();
-    void registryKeepsUserSchemata();
-    void registryHidesSchemata();
     void userFiles_data();
     void userFiles();
     void idsOfEqualColoursAreKept();
@@ -223,46 +218,6 @@ void tst_ColorSchema::writesOnlyDeviations()
     QVERIFY(cell.nextSiblingElement(u"cell"_s).nextSiblingElement(u"cell"_s).isNull());
 }
 
-void tst_ColorSchema::copies()
-{
-    MvCalendariumColorSchema changed = schema(
-        u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcoloreven='#111111' bgcolorodd='#222222' textcolor='#333333'/>"_s);
-    QVERIFY(changed.distinguishesParities());
-    QVERIFY(!changed.haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_WEEKDAY));
-    changed.copyColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_WEEKDAY);
-    QVERIFY(changed.haveSameColors(CALENDAR_CELL_TYPE_SUNDAY, CALENDAR_CELL_TYPE_WEEKDAY));
-    changed.copyParities(true, false); // even over odd
-    QVERIFY(!changed.distinguishesParities());
-    QCOMPARE(hex(changed.cellColor({background, CALENDAR_CELL_TYPE_WEEKDAY, odd})), u"#ff111111"_s);
-    QVERIFY(MvCalendariumColorSchema::isOpaqueColor(QColor(0, 0, 0, 1)));
-    QVERIFY(!MvCalendariumColorSchema::isOpaqueColor(Qt::transparent));
-    QVERIFY(!MvCalendariumColorSchema::isOpaqueColor(QColor()));
-}
-
-void tst_ColorSchema::sharesUntilChanged()
-{
-    const MvCalendariumColorSchema original = schema(QString());
-    MvCalendariumColorSchema copy = original;
-    QCOMPARE(&copy.cellColors(), &original.cellColors());
-    copy.setGridConfig(original.gridConfig());
-    QCOMPARE(&copy.cellColors(), &original.cellColors()); // the present value changes nothing
-    copy.setCellColor(Qt::red, {text, CALENDAR_CELL_TYPE_SUNDAY, both});
-    QVERIFY(copy != original);
-    QVERIFY(copy.hashValue() != original.hashValue());
-    QVERIFY(!MvCalendariumColorSchema().isValid());
-}
-
-void tst_ColorSchema::describesDifferences()
-{
-    const MvCalendariumColorSchema a = schema(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' textcolor='#ff0000'/>"_s);
-    MvCalendariumColorSchema b = a;
-    b.setCellColor(QColor(u"#00ff00"_s), {text, CALENDAR_CELL_TYPE_SUNDAY, even});
-    QCOMPARE(a.describeDifference(b), u"Cells: difference colors for textcolor CALENDAR_CELL_TYPE_SUNDAY even: "
-                                      "#ff0000 vs #00ff00"_s);
-    QVERIFY(a.describeDifference(MvCalendariumColorSchema()).contains(u"second missing key:"_s));
-    QVERIFY(MvCalendariumColorSchema().describeDifference(a).contains(u"first missing key:"_s));
-}
-
 void tst_ColorSchema::contrast()
 {
     // figures from the definition of the contrast ratio in WCAG 2.1
@@ -301,37 +256,6 @@ void tst_ColorSchema::registryRenamesOldIds()
     id.read(element(u"<e colorschema='WHITE'/>"_s));
     QCOMPARE(id.toString(), u"PAPER_WHITE"_s);
     QVERIFY(MvCalendariumColorSchemaRegistry::instance().contains(id));
-}
-
-void tst_ColorSchema::registryKeepsUserSchemata()
-{
-    auto &registry = MvCalendariumColorSchemaRegistry::instance();
-    MvCalendariumColorSchema mine = schema(u"<celldefault bgcolor='#123456'/>"_s);
-    QVERIFY(!mine.isUserSchema());
-    const MvCalendariumColorSchemaID id = registry.record(mine);
-    QVERIFY2(QRegularExpression(u"^USER_\\d{1,5}$"_s).match(id.toString()).hasMatch(), qPrintable(id.toString()));
-    QCOMPARE(registry.record(mine), id); // once is enough
-    QVERIFY(mine.isUserSchema());
-    QVERIFY(registry.saveSystemUserSchemata());
-    const auto reread = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
-    reread->read(MvCalendariumColorSchemaRegistry::systemUserSchemaFile(), SCHEMA_VISIBILITY_OFFERED);
-    QCOMPARE(reread->allSchemata().size(), 1);
-    QVERIFY(reread->findSchema(id) == mine);
-    registry.remove(mine);
-    QVERIFY(!registry.contains(id));
-}
-
-void tst_ColorSchema::registryHidesSchemata()
-{
-    auto &registry = MvCalendariumColorSchemaRegistry::instance();
-    const MvCalendariumColorSchemaID id(u"NIGHT"_s);
-    const qsizetype offered = registry.visibleSchemata().size();
-    registry.setIgnoreSchema(registry.findSchema(id));
-    QVERIFY(registry.isIgnoredSchema(id));
-    QCOMPARE(registry.visibleSchemata().size(), offered - 1);
-    registry.resetToFactoryDefaults();
-    QVERIFY(!registry.isIgnoredSchema(id));
-    QCOMPARE(registry.visibleSchemata().size(), offered);
 }
 
 void tst_ColorSchema::userFiles_data()

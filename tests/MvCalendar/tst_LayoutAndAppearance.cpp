@@ -5,11 +5,8 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
-#include "MvCalendar/MvCalendariumPreviewParameters.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvTranslations.h"
-#include "MvProductBase/MvCalendariumContentConfig.h"
-#include "MvProductBase/MvDateRange.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
 
@@ -71,11 +68,7 @@ private Q_SLOTS:
     void borders_data();
     void borders();
     void gridFollowsTheLayout();
-    void options_data();
-    void options();
     void knowsWhetherDaysAreShown();
-    void copyOnWrite();
-    void previewParameters();
 };
 
 void tst_LayoutAndAppearance::cellDefaults()
@@ -470,28 +463,6 @@ void tst_LayoutAndAppearance::gridFollowsTheLayout()
     QVERIFY(gridIsOn(u"MONTH_GRID_SERIF"_s, false)); // the colour schema's own
 }
 
-void tst_LayoutAndAppearance::options_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<bool>("showHolidays");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << true << 3;
-    QTest::newRow("list") << u"CALENDAR_ONE_DAY_PER_ROW"_s << true << 3;
-    QTest::newRow("holidays") << u"CALENDAR_HOLIDAYS"_s << true << 1;
-    QTest::newRow("year") << u"CALENDAR_YEAR"_s << true << 0;
-    QTest::newRow("holidays off") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << false << 0;
-}
-
-void tst_LayoutAndAppearance::options()
-{
-    QFETCH(QString, type);
-    QFETCH(bool, showHolidays);
-    MvCalendariumAppearance appearance;
-    appearance.setLayoutSchema(layout(QString(), u"layoutschema='L' type='%1'"_s.arg(type)));
-    appearance.setShowHolidays(showHolidays);
-    QTEST(appearance.calendariumOptions(), "expected");
-}
-
 void tst_LayoutAndAppearance::knowsWhetherDaysAreShown()
 {
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
@@ -500,34 +471,6 @@ void tst_LayoutAndAppearance::knowsWhetherDaysAreShown()
     QVERIFY(appearance.rendererShowsDays());
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_ONLY"_s));
     QVERIFY(!appearance.rendererShowsDays());
-}
-
-void tst_LayoutAndAppearance::copyOnWrite()
-{
-    MvCalendariumAppearance original;
-    original.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_ONLY"_s));
-    MvCalendariumAppearance copy = original;
-    QCOMPARE(&copy.layoutSchema(), &original.layoutSchema());
-    copy.setOffsetMonth(0);
-    QCOMPARE(&copy.layoutSchema(), &original.layoutSchema()); // the present value changes nothing
-    copy.setShowHolidays(false);
-    QVERIFY(copy != original);
-    QVERIFY(original.showHolidays());
-}
-
-void tst_LayoutAndAppearance::previewParameters()
-{
-    const MvCalendariumPreviewParameters parameters = MvCalendariumPreviewParameters::createDefault();
-    QCOMPARE(parameters.calendariumContent().date(), parameters.calendarRange().start());
-    QCOMPARE(parameters.calendarRange().monthCount(), 12);
-    QVERIFY(parameters.calendariumContent().hasFeatures(FEATURE_HOLIDAYS));
-    QVERIFY(parameters != MvCalendariumPreviewParameters()); // whose holidays are all off
-    MvCalendariumPreviewParameters copy = parameters;
-    QVERIFY(copy == parameters);
-    MvCalendariumAppearance appearance;
-    appearance.setOffsetMonth(1);
-    copy.setAppearance(appearance);
-    QVERIFY(copy != parameters);
 }
 
 MV_TEST_MAIN(tst_LayoutAndAppearance)

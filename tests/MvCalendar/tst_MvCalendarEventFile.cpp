@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -72,10 +73,7 @@ void tst_MvCalendarEventFile::reads()
     file.write(bytes);
     file.close();
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
-    QStringList names;
-    for (const MvCalendarEvent &event : content.events)
-        names.append(event.description());
-    QTEST(names.join(u' '), "names");
+    QTEST(MvEntries::names(content.events).join(u' '), "names");
     QCOMPARE(MvCalendarEventFile::describe(content.skipped, 9), skipped);
     QVERIFY2(content.refusal().contains(refusal), qPrintable(content.refusal()));
     QCOMPARE(content.refusal().isEmpty(), refusal.isEmpty());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvTest.h"
-
+#include "MvEntries.h"
 #include "MvEntryHistory.h"
+#include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventMerge.h"
 
@@ -45,10 +45,7 @@ static MvCalendarEventList list(const QString &text)
 
 static QString names(const MvCalendarEventList &events)
 {
-    QStringList names;
-    for (const MvCalendarEvent &event : events)
-        names.append(event.description());
-    return names.join(u' ');
+    return MvEntries::names(events).join(u' ');
 }
 
 void tst_MvCalendarEventMerge::joins_data()

@@ -65,8 +65,6 @@ private Q_SLOTS:
     void changesOneEntry_data();
     void changesOneEntry();
     void changesTheVeryEntry();
-    void loads_data();
-    void loads();
     void loadsWithMergeFlag();
     void projects();
     void asksByDay();
@@ -212,35 +210,6 @@ void tst_MvCalendarEventRegistry::changesTheVeryEntry()
     QVERIFY(registry.changeEvent(second, MvCalendarEvent()));
     QCOMPARE(registry.activeEventList().size(), 1);
     QCOMPARE(registry.activeEventList().first().uuid(), first.uuid());
-}
-
-void tst_MvCalendarEventRegistry::loads_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<bool>("isLoaded");
-    QTest::addColumn<QString>("result");
-    const QByteArray a = "<CalendarEvent><Name>A</Name><DateTime>2000-01-01T00:00:00</DateTime></CalendarEvent>";
-    QTest::newRow("twice the same is once") << "<CalendarEvents>" + a + a + "</CalendarEvents>" << true << u"A"_qs;
-    QTest::newRow("invalid ones are skipped")
-        << "<CalendarEvents><CalendarEvent/>" + a + "<Other/></CalendarEvents>" << true << u"A"_qs;
-    QTest::newRow("another root") << "<Other>" + a + "</Other>" << true << QString();
-    QTest::newRow("no entries") << QByteArray("<CalendarEvents/>") << true << QString();
-    QTest::newRow("cut off") << "<CalendarEvents>" + a << false << QString();
-}
-
-void tst_MvCalendarEventRegistry::loads()
-{
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isLoaded);
-    MvCalendarEventRegistry registry;
-    QSignalSpy spy(&registry, &MvCalendarEventRegistry::eventsChanged);
-    QVERIFY(!registry.load()); // missing: silently
-    put(u"calendarEvents.xml"_qs, content);
-    if (!isLoaded)
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"calendarEvents\\.xml:1:\\d+: Die Datei endet"_qs));
-    QCOMPARE(registry.load(), isLoaded);
-    QTEST(names(registry.activeEventList()), "result");
-    QCOMPARE(spy.count(), registry.activeEventList().isEmpty() ? 0 : 1);
 }
 
 void tst_MvCalendarEventRegistry::loadsWithMergeFlag()

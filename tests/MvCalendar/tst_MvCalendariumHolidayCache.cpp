@@ -36,7 +36,6 @@ private Q_SLOTS:
     void yearsAreComputedOnce();
     void days_data();
     void days();
-    void invalidDayHasNothing();
     void longestHolidayName();
     void longestHolidayNameBelongsToTheFirstCall();
     void eventsOfAMonth();
@@ -121,17 +120,6 @@ void tst_MvCalendariumHolidayCache::days()
     QVERIFY(m_cache.imageFile(key).isEmpty());
 }
 
-void tst_MvCalendariumHolidayCache::invalidDayHasNothing()
-{
-    const MvCalendariumContentKey nowhen = keyOf(QDate());
-    QVERIFY(m_cache.holidays(nowhen.config()).isEmpty());
-    QVERIFY(m_cache.descriptions(nowhen).isEmpty());
-    QVERIFY(m_cache.tags(nowhen).isEmpty());
-    QVERIFY(!m_cache.hasHolidayOfType(nowhen, MvCalendariumHolidayType(255)));
-    QVERIFY(m_cache.eventDays(nowhen.config()).isEmpty());
-    QVERIFY(!m_cache.longestHolidayName(nowhen.config()).isValid());
-}
-
 void tst_MvCalendariumHolidayCache::longestHolidayName()
 {
     writeOwnHolidays(R"(<holiday name="Gleich lang, aber früher" rule="03-03"/>
@@ -165,11 +153,9 @@ void tst_MvCalendariumHolidayCache::eventsOfAMonth()
     MvCalendarEventRegistry::instance().setEvents(
         {entry(u"Letzter"_s, QDate(1990, 2, 28)), entry(u"März"_s, QDate(1990, 3, 1)),
          entry(u"Erster"_s, QDate(1990, 2, 1)), entry(u"Auch"_s, QDate(1991, 2, 28))});
-    QStringList names;
     const MvCalendarEventList events = m_cache.eventDays(MvCalendariumContentConfig(QDate(2027, 2, 14), bavaria()));
-    for (const MvCalendarEvent &event : events)
-        names.append(event.description());
-    QCOMPARE(names, (QStringList{u"Erster"_s, u"Letzter"_s, u"Auch"_s})); // by day, then in the user's order
+    QCOMPARE(MvEntries::names(events),
+             (QStringList{u"Erster"_s, u"Letzter"_s, u"Auch"_s})); // by day, then in the user's order
     QVERIFY(m_cache.eventDays(MvCalendariumContentConfig(QDate(2027, 2, 14), bavaria(FEATURE_HOLIDAYS))).isEmpty());
 }
 
@@ -181,11 +167,6 @@ void tst_MvCalendariumHolidayCache::longestEventName()
         {entry(u"Kurz"_s, QDate(1990, 2, 2)), entry(u"Lang A"_s, QDate(1990, 2, 3)),
          entry(u"Lang B"_s, QDate(1990, 2, 4)), entry(u"Sehr lang"_s, QDate(1990, 3, 4))});
     QCOMPARE(m_cache.longestEventName(february).description(), u"Lang A"_s);
-    const MvCalendarEvent shorter = entry(u"a"_s, QDate(1990, 1, 1));
-    const MvCalendarEvent longer = entry(u"bb"_s, QDate(1990, 1, 1));
-    QVERIFY(MvCalendariumHolidayCache::hasShorterDescription(shorter, longer));
-    QVERIFY(!MvCalendariumHolidayCache::hasShorterDescription(longer, shorter));
-    QVERIFY(!MvCalendariumHolidayCache::hasShorterDescription(longer, longer));
 }
 
 void tst_MvCalendariumHolidayCache::repairsConfigurations_data()

@@ -30,8 +30,6 @@ class tst_MvCalendariumRendererHolidays : public MvTest
 private Q_SLOTS:
     void cleanup() { MvCalendarEventRegistry::instance().setEvents({}); }
 
-    void describes_data();
-    void describes();
     void holidaysOfAMonth_data();
     void holidaysOfAMonth();
     void joinsEntries_data();
@@ -39,24 +37,6 @@ private Q_SLOTS:
     void entryOfEveryDay();
     void switchedOff();
 };
-
-void tst_MvCalendariumRendererHolidays::describes_data()
-{
-    QTest::addColumn<QDate>("from");
-    QTest::addColumn<QDate>("to");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("one day") << QDate(2027, 5, 1) << QDate(2027, 5, 1) << u"1.5: Fest"_s;
-    QTest::newRow("two days") << QDate(2027, 5, 31) << QDate(2027, 6, 1) << u"31.5/1.6: Fest"_s;
-    QTest::newRow("more") << QDate(2027, 12, 24) << QDate(2028, 1, 7) << u"24.12-7.1: Fest"_s;
-}
-
-void tst_MvCalendariumRendererHolidays::describes()
-{
-    QFETCH(QDate, from);
-    QFETCH(QDate, to);
-    MvPageFixture page(block(), QDate(2027, 5, 1));
-    QTEST(blockOf(page).describe(from, to, u"Fest"_s), "text");
-}
 
 void tst_MvCalendariumRendererHolidays::holidaysOfAMonth_data()
 {

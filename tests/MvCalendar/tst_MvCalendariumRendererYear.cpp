@@ -5,13 +5,9 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRendererYear.h"
-#include "MvCalendar/MvYearArrangement.h"
 
 #include <QMap>
 #include <QSet>
-
-#include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 using MvEntries::entry;
@@ -26,7 +22,6 @@ const QString gridInfo = u"calendar_render_title, calendar_render_year_long, cal
 const QString plannerInfo = gridInfo + u", calendar_render_days_of_week_only_in_front"_s;
 const QRectF a4(100, 100, 2770, 1900);
 const QRectF a2(100, 100, 5740, 4000);
-constexpr double tolerance = 1e-6;
 
 MvPageFixture pageOf(const QString &info, const QDate &from, int months = 12, const QDate &shown = {})
 {
@@ -60,16 +55,6 @@ QStringList textsIn(const MvPaintRecording &recording, const QRectF &cell)
     return texts;
 }
 
-MvSmallMonthGrid::Sizes someSizes()
-{
-    MvSmallMonthGrid::Sizes sizes;
-    sizes.nameHeight = 40;
-    sizes.headHeight = 30;
-    sizes.weekWidth = 35;
-    sizes.day = QSizeF(45, 40);
-    return sizes;
-}
-
 } // namespace
 
 /// Twelve months on a page, as small grids and as a planner.
@@ -82,14 +67,10 @@ private Q_SLOTS:
 
     void arrangement_data();
     void arrangement();
-    void arrangementFillsTheRectangle_data();
-    void arrangementFillsTheRectangle();
     void titles_data();
     void titles();
     void monthsOfTheCalendar_data();
     void monthsOfTheCalendar();
-    void weekdayHeads_data();
-    void weekdayHeads();
     void shortMonthsWhereNarrow();
     void plannerCell_data();
     void plannerCell();
@@ -122,45 +103,6 @@ void tst_MvCalendariumRendererYear::arrangement()
             lefts.insert(qRound(day.rect.left()));
     }
     QCOMPARE(lefts.size(), columns);
-    const auto stretch = [](const QSizeF &cell) { return std::abs(std::log(cell.width() / cell.height())); };
-    const MvSmallMonthGrid::Sizes needed = yearOf(page).neededGridSizes();
-    const QRectF months = yearOf(page).monthsRect({QPointF(0, 0), size});
-    for (const int other : {1, 2, 3, 4, 6, 12}) {
-        const QSizeF cell = MvYearArrangement(months, other, needed).sizes().day;
-        if (!cell.isEmpty())
-            QVERIFY(stretch(page.days.constFirst().rect.size()) <= stretch(cell) + tolerance);
-    }
-}
-
-void tst_MvCalendariumRendererYear::arrangementFillsTheRectangle_data()
-{
-    QTest::addColumn<int>("columns");
-    for (const int columns : {1, 2, 3, 4, 6, 12})
-        QTest::addRow("%d", columns) << columns;
-}
-
-void tst_MvCalendariumRendererYear::arrangementFillsTheRectangle()
-{
-    QFETCH(int, columns);
-    const MvYearArrangement arrangement(a4, columns, someSizes());
-    QCOMPARE(arrangement.columns() * arrangement.rows(), 12);
-    QCOMPARE(arrangement.monthRect(0).topLeft(), a4.topLeft());
-    const QRectF last = arrangement.monthRect(11);
-    QVERIFY(qAbs(last.right() - a4.right()) < tolerance);
-    QVERIFY(qAbs(last.bottom() - a4.bottom()) < tolerance);
-    QCOMPARE(arrangement.monthRect(columns - 1).top(), a4.top());
-    QVERIFY(arrangement.sizes().weekWidth <= arrangement.sizes().day.width());
-    for (int i = 1; i < 12; ++i)
-        QVERIFY(!arrangement.monthRect(i - 1).intersects(arrangement.monthRect(i)));
-
-    const QSizeF minimum = MvYearArrangement::minimumSize(columns, someSizes());
-    const MvYearArrangement tight({QPointF(0, 0), minimum}, columns, someSizes());
-    QVERIFY(qAbs(tight.sizes().day.width() - 45) < tolerance);
-    QVERIFY(qAbs(tight.sizes().day.height() - 40) < tolerance);
-    // where there is less, names shrink with the rest
-    const MvYearArrangement small({QPointF(0, 0), minimum / 2}, columns, someSizes());
-    QVERIFY(qAbs(small.sizes().nameHeight - 20) < tolerance);
-    QVERIFY(qAbs(small.sizes().day.height() - 20) < tolerance);
 }
 
 void tst_MvCalendariumRendererYear::titles_data()
@@ -234,29 +176,6 @@ void tst_MvCalendariumRendererYear::monthsOfTheCalendar()
     page.render(a4);
     QTEST(cellsByDate(page).firstKey(), "first");
     QCOMPARE(cellsByDate(page).lastKey(), yearOf(page).firstMonth().addMonths(12).addDays(-1));
-}
-
-void tst_MvCalendariumRendererYear::weekdayHeads_data()
-{
-    QTest::addColumn<QString>("flags");
-    QTest::addColumn<double>("width");
-    QTest::addColumn<QString>("head");
-    // the box font's characters are 12.5 wide in the heads; four months with three gaps of a day, 31 days in width
-    QTest::newRow("long") << QString() << 36.0 * 140 << u"Donnerstag"_s;
-    QTest::newRow("short, as configured") << u"calendar_render_days_of_week_short"_s << 36.0 * 140 << u"Do"_s;
-    QTest::newRow("short, for want of room") << QString() << 36.0 * 80 << u"Do"_s;
-}
-
-void tst_MvCalendariumRendererYear::weekdayHeads()
-{
-    QFETCH(QString, flags);
-    QFETCH(double, width);
-    QFETCH(QString, head);
-    MvPageFixture page = pageOf(u"calendar_render_days_of_week, "_s + flags, QDate(2027, 1, 1));
-    const QStringList painted = MvPageFixture::texts(page.render({0, 0, width, width * 0.7}));
-    QCOMPARE(painted.count(head), 12);
-    MvPageFixture none = pageOf(flags, QDate(2027, 1, 1));
-    QVERIFY(!MvPageFixture::texts(none.render({0, 0, width, width * 0.7})).contains(head));
 }
 
 void tst_MvCalendariumRendererYear::shortMonthsWhereNarrow()

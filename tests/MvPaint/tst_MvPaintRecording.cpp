@@ -248,7 +248,6 @@ private Q_SLOTS:
     void reportsTheTarget();
     void keepsHints();
     void textBecomesOutlines();
-    void isAValue();
     void describes();
     void items();
 };
@@ -532,23 +531,6 @@ void tst_MvPaintRecording::textBecomesOutlines()
     QVERIFY(items[0].bounds.top() > 40 && items[0].bounds.bottom() < 62);
     QVERIFY(items[2].font.bold() && items[2].bounds.top() > 80);
     QCOMPARE(recording.items().size(), 4);
-}
-
-void tst_MvPaintRecording::isAValue()
-{
-    QImage image = canvas();
-    MvPaintRecorder recorder(&image);
-    QPainter painter(&recorder);
-    painter.drawLine(0, 0, 1, 1);
-    const MvPaintRecording first = recorder.recording(); // painter still at work
-    painter.drawLine(0, 0, 2, 2);
-    painter.end();
-    const MvPaintRecording second = recorder.recording();
-    painter.begin(&recorder);
-    painter.end();
-    QCOMPARE(first.operationCount(), 1);
-    QCOMPARE(second.operationCount(), 2);
-    QCOMPARE(recorder.recording().operationCount(), 0);
 }
 
 void tst_MvPaintRecording::describes()
