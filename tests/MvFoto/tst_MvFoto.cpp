@@ -14,7 +14,6 @@ private Q_SLOTS:
     void namesOfCopies_data();
     void namesOfCopies();
     void comparesByPath();
-    void mediumResolution_data();
     void mediumResolution();
     void forbiddenPhotosStayClosed();
 };
@@ -64,29 +63,22 @@ void tst_MvFoto::comparesByPath()
         !(MvFoto(MvFotoKeyFileInfo(u"a.mp4"_qs, {7}, QDir())) == MvFoto(MvFotoKeyFileInfo(u"a.mp4"_qs, {8}, QDir()))));
 }
 
-void tst_MvFoto::mediumResolution_data()
-{
-    QTest::addColumn<QSize>("full");
-    QTest::addColumn<QSize>("medium");
-    QTest::newRow("landscape") << QSize(3000, 1500) << QSize(2048, 1024);
-    QTest::newRow("portrait") << QSize(1000, 4096) << QSize(500, 2048);
-    QTest::newRow("small stays") << QSize(300, 200) << QSize(300, 200);
-}
-
 void tst_MvFoto::mediumResolution()
 {
-    QFETCH(QSize, full);
-    QFETCH(QSize, medium);
-    const QTemporaryDir dir;
-    const QString path = dir.filePath(u"a.jpg"_qs);
-    QImage image(full, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    QVERIFY(image.save(path));
-    const MvFoto foto{QFileInfo(path)};
-    QCOMPARE(MvFotoAccess::preferredSize(foto), full);
-    for (int caching : {0, 13})
-        QCOMPARE(MvFotoAccess::midRes(foto, 4, caching).size(), medium);
-    QCOMPARE(MvFotoAccess::fullRes(foto).size(), full);
+    for (const auto &[full, medium] : {std::pair(QSize(3000, 1500), QSize(2048, 1024)),
+                                       {QSize(1000, 4096), QSize(500, 2048)},
+                                       {QSize(300, 200), QSize(300, 200)}}) { // small stays
+        const QTemporaryDir dir;
+        const QString path = dir.filePath(u"a.jpg"_qs);
+        QImage image(full, QImage::Format_RGB32);
+        image.fill(Qt::darkGreen);
+        QVERIFY(image.save(path));
+        const MvFoto foto{QFileInfo(path)};
+        QCOMPARE(MvFotoAccess::preferredSize(foto), full);
+        for (int caching : {0, 13})
+            QCOMPARE(MvFotoAccess::midRes(foto, 4, caching).size(), medium);
+        QCOMPARE(MvFotoAccess::fullRes(foto).size(), full);
+    }
 }
 
 void tst_MvFoto::forbiddenPhotosStayClosed()

@@ -28,7 +28,6 @@ private Q_SLOTS:
     void keepsToTheLimitOfTheProcess();
     void givesUp();
     void leavesOutTexts();
-    void turnsAsTheCameraSays_data();
     void turnsAsTheCameraSays();
     void convertsToScreenColours();
     void scales_data();
@@ -230,35 +229,28 @@ void tst_MvImageLoader::leavesOutTexts()
     QCOMPARE(read.textKeys(), QStringList());
 }
 
-void tst_MvImageLoader::turnsAsTheCameraSays_data()
-{
-    QTest::addColumn<int>("transformation");
-    QTest::addColumn<QString>("names");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("as it is") << int(QImageIOHandler::TransformationNone) << u"rgbw"_qs << QSize(800, 600);
-    QTest::newRow("quarter turn") << int(QImageIOHandler::TransformationRotate90) << u"brwg"_qs << QSize(600, 800);
-    QTest::newRow("half turn") << int(QImageIOHandler::TransformationRotate180) << u"wbgr"_qs << QSize(800, 600);
-    QTest::newRow("quarter turn back") << int(QImageIOHandler::TransformationRotate270) << u"gwrb"_qs
-                                       << QSize(600, 800);
-}
-
 void tst_MvImageLoader::turnsAsTheCameraSays()
 {
-    QFETCH(int, transformation);
-    QFETCH(QString, names);
-    QFETCH(QSize, size);
-    const QFileInfo file(path(u"foto.jpg"_qs));
-    QImageWriter writer(file.filePath(), "jpeg");
-    writer.setTransformation(QImageIOHandler::Transformations(transformation));
-    QVERIFY(writer.write(fields({800, 600})));
+    using Handler = QImageIOHandler;
+    for (const auto &[transformation, names, size] :
+         {std::tuple(Handler::TransformationNone, u"rgbw"_qs, QSize(800, 600)),
+          {Handler::TransformationRotate90, u"brwg"_qs, QSize(600, 800)},
+          {Handler::TransformationRotate180, u"wbgr"_qs, QSize(800, 600)},
+          {Handler::TransformationRotate270, u"gwrb"_qs, QSize(600, 800)}}) {
+        const QFileInfo file(path(u"foto.jpg"_qs));
+        QImageWriter writer(file.filePath(), "jpeg");
+        writer.setTransformation(transformation);
+        QVERIFY(writer.write(fields({800, 600})));
 
-    MvImageLoader &loader = MvImageLoader::instance();
-    QCOMPARE(loader.size(file), size);
-    QCOMPARE(loader.load(file).size(), size);
-    QCOMPARE(fieldNames(loader.load(file)), names);
-    const QImage small = loader.loadScaled(file, {60, 60}); // decoded small, then turned
-    QCOMPARE(small.size(), size.scaled(60, 60, Qt::KeepAspectRatio));
-    QCOMPARE(fieldNames(small), names);
+        MvImageLoader &loader = MvImageLoader::instance();
+        loader.clear();
+        QCOMPARE(loader.size(file), size);
+        QCOMPARE(loader.load(file).size(), size);
+        QCOMPARE(fieldNames(loader.load(file)), names);
+        const QImage small = loader.loadScaled(file, {60, 60}); // decoded small, then turned
+        QCOMPARE(small.size(), size.scaled(60, 60, Qt::KeepAspectRatio));
+        QCOMPARE(fieldNames(small), names);
+    }
 }
 
 void tst_MvImageLoader::convertsToScreenColours()

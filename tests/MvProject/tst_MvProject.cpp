@@ -18,7 +18,6 @@ class tst_MvProject : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void dividesTheRange_data();
     void dividesTheRange();
     void photosFollowTheirMonths();
     void monthsThatStayKeepTheirPage();
@@ -29,43 +28,35 @@ private Q_SLOTS:
     void twoProjectsAtATime();
 };
 
-void tst_MvProject::dividesTheRange_data()
-{
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<int>("months");
-    QTest::addColumn<QList<QDate>>("pages");
-    QTest::newRow("months") << u"DAY_LIST"_s << 3
-                            << QList<QDate>{QDate(2027, 1, 1), QDate(2027, 2, 1), QDate(2027, 3, 1)};
-    QTest::newRow("year") << u"YEAR_GRID"_s << 12 << QList<QDate>{QDate(2027, 1, 1)};
-    QTest::newRow("year and a half") << u"YEAR_PLANNER"_s << 18 << QList<QDate>{QDate(2027, 1, 1), QDate(2028, 1, 1)};
-}
-
 void tst_MvProject::dividesTheRange()
 {
-    QFETCH(const QString, layout);
-    QFETCH(const int, months);
-    QFETCH(const QList<QDate>, pages);
-    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, months);
-    QCOMPARE(calendar.pages().size(), months);
-    calendar.setAppearance(appearance(layout));
-    QCOMPARE(calendar.pageDates(), pages);
-    calendar.setAppearance(appearance(u"ONE_ROW_STRIP"_s));
-    QCOMPARE(calendar.pages().size(), months);
-    QVERIFY(calendar.isValid());
+    const QDate january(2027, 1, 1);
+    for (const auto &[layout, months, pages] :
+         {std::tuple(u"DAY_LIST"_s, 3, QList{january, january.addMonths(1), january.addMonths(2)}),
+          {u"YEAR_GRID"_s, 12, {january}},
+          {u"YEAR_PLANNER"_s, 18, {january, january.addYears(1)}}}) {
+        MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, months);
+        QCOMPARE(calendar.pages().size(), months);
+        calendar.setAppearance(appearance(layout));
+        QCOMPARE(calendar.pageDates(), pages);
+        calendar.setAppearance(appearance(u"ONE_ROW_STRIP"_s));
+        QCOMPARE(calendar.pages().size(), months);
+        QVERIFY(calendar.isValid());
 
-    // a year among months leaves the others alone, until it is the only page
-    MvCalendarPage year = calendar.pages()[1];
-    year.setAppearance(appearance(u"YEAR_GRID"_s));
-    calendar.setPage(1, year);
-    QCOMPARE(calendar.pages().size(), months);
-    calendar.setRange({QDate(2027, 1, 1), QDate(2027, 4, 30)});
-    QCOMPARE(calendar.pages().size(), 4);
-    calendar.setAppearance(year.appearance());
-    QCOMPARE(calendar.pages().size(), 1);
-    MvCalendarPage month = calendar.pages()[0];
-    month.setAppearance(appearance(u"DAY_LIST"_s));
-    calendar.setPage(0, month);
-    QCOMPARE(calendar.pages().size(), 4);
+        // a year among months leaves the others alone, until it is the only page
+        MvCalendarPage year = calendar.pages()[1];
+        year.setAppearance(appearance(u"YEAR_GRID"_s));
+        calendar.setPage(1, year);
+        QCOMPARE(calendar.pages().size(), months);
+        calendar.setRange({QDate(2027, 1, 1), QDate(2027, 4, 30)});
+        QCOMPARE(calendar.pages().size(), 4);
+        calendar.setAppearance(year.appearance());
+        QCOMPARE(calendar.pages().size(), 1);
+        MvCalendarPage month = calendar.pages()[0];
+        month.setAppearance(appearance(u"DAY_LIST"_s));
+        calendar.setPage(0, month);
+        QCOMPARE(calendar.pages().size(), 4);
+    }
 }
 
 void tst_MvProject::photosFollowTheirMonths()
