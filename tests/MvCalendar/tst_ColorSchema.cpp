@@ -121,6 +121,12 @@ void tst_ColorSchema::readsCells_data()
         << u"#ff00ff00"_s << u"#ff000000"_s;
     QTest::newRow("holidays do not") << u"<cell type='CALENDAR_CELL_TYPE_SATURDAY' bgcolor='#00ff00'/>"_s
                                      << int(CALENDAR_CELL_TYPE_HOLIDAY) << u"#00000000"_s << u"#ff000000"_s;
+    QTest::newRow("heads of vacations those of heads of Saturdays")
+        << u"<cell type='CALENDAR_CELL_TYPE_HEAD_SATURDAY' bgcolor='#00ff00'/>"_s
+        << int(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION) << u"#ff00ff00"_s << u"#ff000000"_s;
+    QTest::newRow("heads of holidays those of heads of Sundays")
+        << u"<cell type='CALENDAR_CELL_TYPE_HEAD_SUNDAY' bgcolor='#00ff00'/>"_s << int(CALENDAR_CELL_TYPE_HEAD_HOLIDAY)
+        << u"#ff00ff00"_s << u"#ff000000"_s;
     QTest::newRow("no colour at all") << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='rot'/>"_s << 8
                                       << u"#00000000"_s << u"#ff000000"_s;
 }
