@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
@@ -52,16 +53,7 @@ struct Contacts : MvPlatformIndependent
     MvSimplePersonList persons;
 };
 
-MvCalendarDayEditorDialog *openEditor()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget);
-        if (dialog && dialog->isVisible())
-            return dialog;
-    }
-    return nullptr;
-}
+constexpr auto openEditor = MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>;
 
 } // namespace
 
@@ -73,7 +65,6 @@ private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
-    void addsEntries();
     void contextMenu_data();
     void contextMenu();
     void contextMenuOutlivesItsClick();
@@ -82,11 +73,9 @@ private Q_SLOTS:
     void decidesAboutDoubtfulFiles_data();
     void decidesAboutDoubtfulFiles();
     void noFileChangesNothing();
-    void clears_data();
     void clears();
     void importsContactsOnce();
     void buttonsUnderTheMouse();
-    void fotoButtons();
     void keysAlone();
 
 private:
@@ -120,14 +109,8 @@ private:
 
 void tst_MvCalendarEventListWidget::initTestCase()
 {
-    QImage image(400, 100, QImage::Format_RGB32); // blue, its middle red
-    image.fill(Qt::blue);
-    QPainter(&image).fillRect(150, 0, 100, 100, Qt::red);
-    QVERIFY(image.save(path(u"foto.png"_qs)));
-    QFile huge(path(u"huge.webp"_qs)); // or so it says
-    QVERIFY(huge.open(QIODevice::WriteOnly) &&
-            huge.write(QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100")) >
-                0);
+    QVERIFY(MvWidgetDriver::writePhoto(path(u"foto.png"_qs), Qt::blue));
+    QVERIFY(MvWidgetDriver::writeHugePhoto(path(u"huge.webp"_qs)));
     MvLogger::instance().setSink([this](const QString &line) { m_log.append(line); });
 }
 
@@ -147,22 +130,6 @@ void tst_MvCalendarEventListWidget::cleanup()
     if (openEditor())
         openEditor()->close();
     MvCalendarEvent::imageDirectory().removeRecursively();
-}
-
-void tst_MvCalendarEventListWidget::addsEntries()
-{
-    MvCalendarEventListWidget list;
-    QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
-    list.findChild<QPushButton *>(u"newEntryButton"_qs)->click();
-    MvCalendarDayEditorDialog *dialog = openEditor();
-    QVERIFY(dialog);
-    QCOMPARE(dialog->size(), QSize(500, 400));
-    QVERIFY(dialog->findChild<QPushButton *>(u"okAndContinueButton"_qs)->isVisible());
-    QTest::keyClicks(dialog->findChild<QLineEdit *>(u"descriptionEdit"_qs), u"Neu"_qs);
-    QTest::keyClick(dialog, Qt::Key_Return);
-    QCOMPARE(added.count(), 1);
-    QCOMPARE(names().last(), u"Neu"_qs);
-    QCOMPARE(table(list)->model()->rowCount(), 4);
 }
 
 void tst_MvCalendarEventListWidget::contextMenu_data()
@@ -353,27 +320,18 @@ void tst_MvCalendarEventListWidget::noFileChangesNothing()
     QCOMPARE(m_script->reports.size(), 2);
 }
 
-void tst_MvCalendarEventListWidget::clears_data()
-{
-    QTest::addColumn<bool>("agrees");
-    QTest::addColumn<int>("left");
-    QTest::addColumn<QString>("log");
-    QTest::newRow("yes") << true << 0 << u"CalendarEvents ACTION:deleteAll VALUE:1"_qs;
-    QTest::newRow("no") << false << 3 << u"CalendarEvents ACTION:deleteAll VALUE:0"_qs;
-}
-
 void tst_MvCalendarEventListWidget::clears()
 {
-    QFETCH(const bool, agrees);
-    QFETCH(const QString, log);
-    m_script->agrees = agrees;
     MvCalendarEventListWidget list;
-    menuAction(list, u"Alle löschen…"_qs)->trigger();
-    QCOMPARE(m_script->requests, QStringList(u"Alle Einträge löschen?"_qs));
-    QVERIFY(m_script->details.contains(u"allen Ihren Kalendern"_qs));
-    QVERIFY(m_log.contains(log));
-    QTEST(int(names().size()), "left");
-    QCOMPARE(MvUndoController::instance().stack()->count(), int(agrees));
+    for (const bool agrees : {false, true}) {
+        m_script->agrees = agrees;
+        menuAction(list, u"Alle löschen…"_qs)->trigger();
+        QCOMPARE(m_script->requests.last(), u"Alle Einträge löschen?"_qs);
+        QVERIFY(m_script->details.contains(u"allen Ihren Kalendern"_qs));
+        QVERIFY(m_log.contains(u"CalendarEvents ACTION:deleteAll VALUE:%1"_qs.arg(int(agrees))));
+        QCOMPARE(names().size(), agrees ? 0 : 3);
+        QCOMPARE(MvUndoController::instance().stack()->count(), int(agrees));
+    }
     MvUndoController::instance().undo();
     QCOMPARE(names().size(), 3);
 }
@@ -412,38 +370,6 @@ void tst_MvCalendarEventListWidget::buttonsUnderTheMouse()
     list.resize(400, 400);
     list.show();
     QVERIFY(QTest::qWaitForWindowExposed(&list));
-    const auto shown = [&list] {
-        QStringList names;
-        const auto editors = table(list)->viewport()->findChildren<MvCalendarEventDelegateEditDeleteWidget *>();
-        for (const auto *editor : editors) {
-            if (editor->isVisible())
-                names.append(editor->calendarEvent().description());
-        }
-        return names;
-    };
-    QWidget *viewport = table(list)->viewport();
-    QVERIFY(shown().isEmpty());
-    QTest::mouseMove(viewport, centre(list, 0, 1));
-    QTRY_COMPARE(shown(), QStringList(u"Anna"_qs));
-    QTest::mouseMove(viewport, centre(list, 1, 1));
-    QTRY_COMPARE(shown(), QStringList(u"Moritz"_qs));
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // of the row before
-    auto *editor = viewport->findChild<MvCalendarEventDelegateEditDeleteWidget *>();
-    for (const auto *button : editor->findChildren<QToolButton *>())
-        QVERIFY(!button->toolTip().isEmpty() && button->accessibleName().contains(u"Moritz"_qs));
-    editor->findChild<QToolButton *>(u"editEventButton"_qs)->click();
-    QVERIFY(openEditor());
-    QCOMPARE(openEditor()->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Moritz"_qs);
-    editor->findChild<QToolButton *>(u"deleteEventButton"_qs)->click();
-    QCOMPARE(names(), (QStringList{u"Anna"_qs, u"Xaver"_qs}));
-}
-
-void tst_MvCalendarEventListWidget::fotoButtons()
-{
-    MvCalendarEventListWidget list;
-    list.resize(400, 400);
-    list.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&list));
     QWidget *viewport = table(list)->viewport();
     const auto button = [&list, viewport](const QString &name) {
         QTest::mouseMove(viewport, centre(list, 0, 2));
@@ -452,8 +378,15 @@ void tst_MvCalendarEventListWidget::fotoButtons()
         auto *editor = viewport->findChild<MvCalendarEventFotoDelegateEditorWidget *>();
         return editor ? editor->findChild<QToolButton *>(name) : nullptr;
     };
-    const auto foto = [] { return registry().activeEventList().at(1).foto(); };
     QTRY_VERIFY(button(u"changeImageButton"_qs));
+    const auto *row = viewport->findChild<MvCalendarEventDelegateEditDeleteWidget *>();
+    QCOMPARE(row->calendarEvent().description(), u"Moritz"_qs);
+    for (const auto *each : row->findChildren<QToolButton *>())
+        QVERIFY(!each->toolTip().isEmpty() && each->accessibleName().contains(u"Moritz"_qs));
+    row->findChild<QToolButton *>(u"editEventButton"_qs)->click();
+    QCOMPARE(openEditor()->findChild<QLineEdit *>(u"descriptionEdit"_qs)->text(), u"Moritz"_qs);
+    openEditor()->close();
+    const auto foto = [] { return registry().activeEventList().at(1).foto(); };
     QVERIFY(!button(u"removeImageButton"_qs)->isVisible());
     m_script->file = path(u"foto.png"_qs);
     button(u"changeImageButton"_qs)->click();
@@ -471,6 +404,11 @@ void tst_MvCalendarEventListWidget::fotoButtons()
     button(u"removeImageButton"_qs)->click();
     QVERIFY(!foto().isValid());
     QCOMPARE(MvUndoController::instance().stack()->count(), 2);
+    QTRY_VERIFY(button(u"changeImageButton"_qs));
+    viewport->findChild<MvCalendarEventDelegateEditDeleteWidget *>()
+        ->findChild<QToolButton *>(u"deleteEventButton"_qs)
+        ->click();
+    QCOMPARE(names(), (QStringList{u"Anna"_qs, u"Xaver"_qs}));
 }
 
 void tst_MvCalendarEventListWidget::keysAlone()
@@ -483,6 +421,11 @@ void tst_MvCalendarEventListWidget::keysAlone()
     const auto press = [view](Qt::Key key) { QTest::keyClick(view, key); };
     const auto cursor = [view] { return QPoint(view->currentIndex().column(), view->currentIndex().row()); };
     list.findChild<QPushButton *>(u"newEntryButton"_qs)->setFocus();
+    QTest::keyClick(list.focusWidget(), Qt::Key_Space);
+    QVERIFY(openEditor() && openEditor()->findChild<QPushButton *>(u"okAndContinueButton"_qs)->isVisible());
+    openEditor()->close();
+    list.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&list));
     QTest::keyClick(list.focusWidget(), Qt::Key_Tab);
     QCOMPARE(list.focusWidget()->objectName(), u"entrySearchField"_qs);
     QTest::keyClick(list.focusWidget(), Qt::Key_Tab);

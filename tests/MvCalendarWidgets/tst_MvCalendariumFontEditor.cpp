@@ -12,12 +12,62 @@ class tst_MvCalendariumFontEditor : public MvWidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void typing_data();
+    void typing();
+    void foreignFamilyStays();
     void settingsRoundTrip_data();
     void settingsRoundTrip();
     void everyEditIsReportedOnce();
-    void wheelChangesNothing();
     void symbolsAreNoGoodFonts();
 };
+
+void tst_MvCalendariumFontEditor::typing_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<int>("changes");
+    QTest::newRow("another family") << u"lato"_s << u"Lato"_s << 1;
+    QTest::newRow("the same") << u"Caslon"_s << u"Caslon"_s << 0;
+    QTest::newRow("no family") << u"Laxo"_s << u"Caslon"_s << 0;
+    QTest::newRow("nothing: the layout's") << QString() << QString() << 1;
+}
+
+void tst_MvCalendariumFontEditor::typing()
+{
+    QFETCH(QString, typed);
+    MvFontFamilyBox box({u"Caslon"_s, u"Garamond"_s, u"Lato"_s});
+    QCOMPARE(box.currentText(), QString());
+    box.setFontFamily(u"Caslon"_s);
+    QSignalSpy changed(&box, &QComboBox::currentIndexChanged);
+    box.lineEdit()->selectAll();
+    QTest::keyClick(box.lineEdit(), Qt::Key_Delete);
+    QTest::keyClicks(box.lineEdit(), typed);
+    QTest::keyClick(box.lineEdit(), Qt::Key_Return);
+    QTEST(box.currentText(), "family");
+    QTEST(static_cast<int>(changed.size()), "changes");
+}
+
+void tst_MvCalendariumFontEditor::foreignFamilyStays()
+{
+    MvFontFamilyBox empty({});
+    empty.setFontFamily(u"Nirgendwo"_s);
+    QCOMPARE(empty.currentText(), u"Nirgendwo"_s);
+
+    MvFontFamilyBox box({u"Caslon"_s, u"Lato"_s});
+    box.setFontFamily(u"Lato"_s);
+    QVERIFY(!box.isForeign());
+    QSignalSpy changed(&box, &QComboBox::currentIndexChanged);
+    box.setFontFamily(u"Nirgendwo"_s);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(box.currentText(), u"Nirgendwo"_s);
+    QVERIFY(box.isForeign());
+    QVERIFY(box.accessibleDescription().contains(u"„Nirgendwo“"_s));
+    box.setFontFamily(u"nirgendwo"_s); // the same once more
+    QCOMPARE(box.count(), 3);
+    box.setFontFamily(QString());
+    QCOMPARE(box.currentIndex(), -1);
+    QVERIFY(!box.isForeign());
+}
 
 void tst_MvCalendariumFontEditor::settingsRoundTrip_data()
 {
@@ -63,15 +113,6 @@ void tst_MvCalendariumFontEditor::everyEditIsReportedOnce()
     QTest::keyClick(box->lineEdit(), Qt::Key_Delete);
     QTest::keyClick(box->lineEdit(), Qt::Key_Return);
     QVERIFY(expect(QString(), 10, -60));
-}
-
-void tst_MvCalendariumFontEditor::wheelChangesNothing()
-{
-    MvCalendariumFontEditor editor;
-    auto *box = editor.findChild<QSpinBox *>(u"fontSizeBox"_s);
-    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(box, &wheel);
-    QCOMPARE(box->value(), 100);
 }
 
 void tst_MvCalendariumFontEditor::symbolsAreNoGoodFonts()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
@@ -66,16 +67,7 @@ QMenu *openMenu()
     return qobject_cast<QMenu *>(QApplication::activePopupWidget());
 }
 
-MvCalendarDayEditorDialog *openEditor()
-{
-    const QWidgetList widgets = QApplication::topLevelWidgets();
-    for (QWidget *widget : widgets) {
-        auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget);
-        if (dialog && dialog->isVisible())
-            return dialog;
-    }
-    return nullptr;
-}
+constexpr auto openEditor = MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>;
 
 } // namespace
 
@@ -388,32 +380,20 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos_data()
 void tst_MvGraphicsItemCalendariumCells::droppedFotos()
 {
     const QTemporaryDir folder;
-    QImage image(40, 30, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QVERIFY(image.save(folder.filePath(u"rot.png"_s)));
-    image.fill(Qt::blue);
-    QVERIFY(image.save(folder.filePath(u"blau.png"_s)));
-    QFile huge(folder.filePath(u"huge.webp"_s));
-    QVERIFY(huge.open(QIODevice::WriteOnly) &&
-            huge.write(QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100")) >
-                0);
-    huge.close();
-    QFile text(folder.filePath(u"text.txt"_s));
-    QVERIFY(text.open(QIODevice::WriteOnly) && text.write("kein Foto") > 0);
-    text.close();
-    QFETCH(const QStringList, files);
-    QList<QUrl> urls;
-    for (const QString &file : files)
-        urls.append(QUrl::fromLocalFile(folder.filePath(file)));
-    QMimeData mime;
-    mime.setUrls(urls);
+    QVERIFY(MvWidgetDriver::writePhoto(folder.filePath(u"rot.png"_s), Qt::red));
+    QVERIFY(MvWidgetDriver::writePhoto(folder.filePath(u"blau.png"_s), Qt::blue));
+    QVERIFY(MvWidgetDriver::writeHugePhoto(folder.filePath(u"huge.webp"_s)));
+    QVERIFY(MvWidgetDriver::write(folder.filePath(u"text.txt"_s), "kein Foto"));
+    QFETCH(QStringList, files);
+    for (QString &file : files)
+        file = folder.filePath(file);
 
     QFETCH(const int, entries);
     MvCalendarEventList events;
     for (int i = 0; i < entries; ++i)
         events.append(entry(QString::number(i), day));
     QFETCH(const bool, accepted);
-    const bool isBroken = files.first() == u"huge.webp"_s;
+    const bool isBroken = files.first().endsWith(u"huge.webp"_s);
     if (isBroken) {
         events.first().setFoto(MvFoto(QFileInfo(folder.filePath(u"rot.png"_s))));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"huge\\.webp“ kann nicht gelesen werden"_s));
@@ -425,13 +405,9 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos()
     QVERIFY(QTest::qWaitForWindowExposed(&canvas.view));
 
     const QPoint pos = canvas.centre(day);
-    QDragEnterEvent enter(pos, Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QApplication::sendEvent(canvas.view.viewport(), &enter);
-    QDragMoveEvent move(pos, Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QApplication::sendEvent(canvas.view.viewport(), &move);
-    QTEST(move.isAccepted(), "accepted");
-    QDropEvent drop(pos, Qt::CopyAction, &mime, Qt::LeftButton, {});
-    QApplication::sendEvent(canvas.view.viewport(), &drop);
+    MvWidgetDriver::Drag drag(canvas.view.viewport(), files);
+    QTEST(drag.isTaken(pos), "accepted");
+    drag.drop(pos);
 
     const QPointer<MvCalendarDayEditorDialog> editor = openEditor();
     QTEST(editor != nullptr, "opens the editor");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -32,8 +33,6 @@ class tst_MvUndoCommandCalendarEvent : public MvWidgetTest
 
 private Q_SLOTS:
     void init();
-    void changes_data();
-    void changes();
     void orderComesBack_data();
     void orderComesBack();
     void meansTheVeryEntry_data();
@@ -60,34 +59,6 @@ void tst_MvUndoCommandCalendarEvent::init()
     failOnWarnings();
     undo().clear();
     registry().setEvents({entry(u"A"_qs), entry(u"B"_qs)});
-}
-
-void tst_MvUndoCommandCalendarEvent::changes_data()
-{
-    QTest::addColumn<MvCalendarEvent>("before");
-    QTest::addColumn<MvCalendarEvent>("after");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<QString>("text");
-    const MvCalendarEvent none;
-    const QString set = u"set calendar event from %1 to %2"_qs;
-    QTest::newRow("adds") << none << entry(u"C"_qs) << u"A B C"_qs << set.arg(QString(), u"C"_qs);
-    QTest::newRow("removes") << entry(u"A"_qs) << none << u"B"_qs << set.arg(u"A"_qs, QString());
-    QTest::newRow("replaces") << entry(u"B"_qs) << entry(u"%1"_qs) << u"%1 A"_qs << set.arg(u"B"_qs, u"%1"_qs);
-    QTest::newRow("no difference") << entry(u"A"_qs) << entry(u"A"_qs) << u"A B"_qs << QString();
-    QTest::newRow("nothing") << none << none << u"A B"_qs << QString();
-}
-
-void tst_MvUndoCommandCalendarEvent::changes()
-{
-    QFETCH(const MvCalendarEvent, before);
-    QFETCH(const MvCalendarEvent, after);
-    undo().push(new MvUndoCommandCalendarEvent(before, after, nullptr));
-    QTEST(undo().stack()->undoText(), "text"); // none when there is no step
-    QTEST(onDisk(), "result");
-    undo().undo();
-    QCOMPARE(onDisk(), u"A B"_qs);
-    undo().redo();
-    QTEST(onDisk(), "result");
 }
 
 void tst_MvUndoCommandCalendarEvent::orderComesBack_data()
@@ -207,18 +178,13 @@ void tst_MvUndoCommandCalendarEvent::repaintsWhatChanged()
 MvCalendarEventList tst_MvUndoCommandCalendarEvent::entriesOfFileWithFoto(const QTemporaryDir &folder,
                                                                           const QString &foto)
 {
-    QImage image(40, 30, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    QFile file(folder.filePath(u"import.xml"_qs));
-    if (!image.save(folder.filePath(foto)) || !file.open(QIODevice::WriteOnly))
-        return {};
-    file.write("<CalendarEvents><CalendarEvent><Name>Import</Name><DateTime>1990-05-17T00:00:00</DateTime>"
-               "<Image>" +
-               foto.toUtf8() +
-               "</Image><UUID>{11111111-2222-3333-4444-555555555555}</UUID></CalendarEvent>"
-               "</CalendarEvents>");
-    file.close();
-    return MvCalendarEventFile::read(QFileInfo(file)).events;
+    const QString path = folder.filePath(u"import.xml"_qs);
+    const QByteArray entry = "<CalendarEvent><Name>Import</Name><DateTime>1990-05-17T00:00:00</DateTime><Image>" +
+                             foto.toUtf8() + "</Image><UUID>{11111111-2222-3333-4444-555555555555}</UUID>";
+    return MvWidgetDriver::writePhoto(folder.filePath(foto), Qt::green) &&
+                   MvWidgetDriver::write(path, "<CalendarEvents>" + entry + "</CalendarEvent></CalendarEvents>")
+               ? MvCalendarEventFile::read(QFileInfo(path)).events
+               : MvCalendarEventList();
 }
 
 void tst_MvUndoCommandCalendarEvent::findsEntriesWithImportedFotos_data()
