@@ -16,50 +16,10 @@ class tst_MvCalendariumColumnHeadersEditor : public MvWidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void count_data();
-    void count();
-    void settingIsSilent();
     void longAndEmptyLists();
     void typing();
     void otherHeadersWhileAnEditorIsToOpen();
 };
-
-void tst_MvCalendariumColumnHeadersEditor::count_data()
-{
-    QTest::addColumn<QString>("count");
-    QTest::addColumn<QStringList>("headers");
-    QTest::newRow("more") << u"5"_s << (three + QStringList{QString(), QString()});
-    QTest::newRow("fewer") << u"1"_s << QStringList{u"Anna"_s};
-}
-
-void tst_MvCalendariumColumnHeadersEditor::count()
-{
-    QFETCH(QString, count);
-    QFETCH(QStringList, headers);
-    MvCalendariumColumnHeadersEditor editor;
-    editor.setHeaders(three);
-    QSignalSpy changed(&editor, &MvCalendariumColumnHeadersEditor::headersChanged);
-    auto *box = editor.findChild<QSpinBox *>(u"countColumnsBox"_s);
-    box->selectAll();
-    QTest::keyClicks(box, count);
-    QTest::keyClick(box, Qt::Key_Return);
-    QCOMPARE(editor.headers(), headers);
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.first().first().value<QList<QString>>(), headers);
-}
-
-void tst_MvCalendariumColumnHeadersEditor::settingIsSilent()
-{
-    MvCalendariumColumnHeadersEditor editor;
-    QSignalSpy changed(&editor, &MvCalendariumColumnHeadersEditor::headersChanged);
-    editor.setHeaders(three);
-    QVERIFY(changed.isEmpty());
-    QVERIFY(!editor.signalsBlocked());
-    QCOMPARE(editor.findChild<QSpinBox *>(u"countColumnsBox"_s)->value(), 3);
-    editor.blockSignals(true);
-    editor.setHeaders({});
-    QVERIFY(editor.signalsBlocked());
-}
 
 void tst_MvCalendariumColumnHeadersEditor::longAndEmptyLists()
 {

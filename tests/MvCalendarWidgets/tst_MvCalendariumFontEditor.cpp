@@ -19,6 +19,7 @@ private Q_SLOTS:
     void settingsRoundTrip();
     void everyEditIsReportedOnce();
     void symbolsAreNoGoodFonts();
+    void wheelChangesNothing();
 };
 
 void tst_MvCalendariumFontEditor::typing_data()
@@ -134,6 +135,15 @@ void tst_MvCalendariumFontEditor::symbolsAreNoGoodFonts()
     }
     if (asked == 0)
         QSKIP("none of the fonts that are known is installed");
+}
+
+void tst_MvCalendariumFontEditor::wheelChangesNothing()
+{
+    MvCalendariumFontEditor editor;
+    auto *box = editor.findChild<QSpinBox *>(u"fontSizeBox"_s);
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(box, &wheel);
+    QCOMPARE(box->value(), 100);
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvCalendariumFontEditor)

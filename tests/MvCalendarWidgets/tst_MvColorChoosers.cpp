@@ -21,6 +21,23 @@ void press(MvColorPalettePopup *palette, Qt::Key key)
     QTest::keyClick(palette->focusWidget(), key);
 }
 
+/// Two rows of a name and a colour: white and another one.
+struct ColorTable
+{
+    ColorTable()
+    {
+        model.setData(white(), QColor(Qt::white), Qt::EditRole);
+        model.setData(model.index(1, 1), QColor(9, 8, 7), Qt::EditRole);
+        view.setModel(&model);
+        view.setItemDelegateForColumn(1, new MvColorDelegate(&view, true));
+        view.show();
+    }
+    QModelIndex white() const { return model.index(0, 1); }
+
+    QStandardItemModel model{2, 2};
+    QTableView view;
+};
+
 } // namespace
 
 /// The palette and the two widgets that open it.
@@ -36,7 +53,6 @@ private Q_SLOTS:
     void buttonChoosesByKeyboard();
     void buttonIsSilentWhenNothingChanges();
     void doubleClicksOpenOnce();
-    void dialogDoesNotBlock_data();
     void dialogDoesNotBlock();
     void cellOpensPalette_data();
     void cellOpensPalette();
@@ -119,31 +135,25 @@ void tst_MvColorChoosers::doubleClicksOpenOnce()
     QApplication::setDoubleClickInterval(usual);
 }
 
-void tst_MvColorChoosers::dialogDoesNotBlock_data()
-{
-    QTest::addColumn<bool>("accept");
-    QTest::newRow("accepted") << true;
-    QTest::newRow("rejected") << false;
-}
-
 void tst_MvColorChoosers::dialogDoesNotBlock()
 {
-    QFETCH(bool, accept);
     MvColorSelectionButton button(true);
     button.setColor(Qt::white);
     button.show();
     QSignalSpy changed(&button, &MvColorSelectionButton::colorChanged);
-    QTest::keyClick(&button, Qt::Key_F2);
-    QTest::mouseClick(openPalette()->findChild<QPushButton *>(u"otherColorButton"_s), Qt::LeftButton);
-    QPointer<QColorDialog> dialog = button.findChild<QColorDialog *>(); // reached only if nothing blocks
-    QVERIFY(dialog);
-    QVERIFY(dialog->testOption(QColorDialog::ShowAlphaChannel));
-    dialog->setCurrentColor(QColor(1, 2, 3, 4));
-    accept ? dialog->accept() : dialog->reject();
-    QCOMPARE(button.color(), accept ? QColor(1, 2, 3, 4) : QColor(Qt::white));
-    QCOMPARE(changed.size(), accept ? 1 : 0);
-    QTRY_VERIFY(!dialog);
-    QTRY_VERIFY(!button.findChild<MvColorPalettePopup *>());
+    for (const bool accept : {false, true}) {
+        QTest::keyClick(&button, Qt::Key_F2);
+        QTest::mouseClick(openPalette()->findChild<QPushButton *>(u"otherColorButton"_s), Qt::LeftButton);
+        QPointer<QColorDialog> dialog = button.findChild<QColorDialog *>(); // reached only if nothing blocks
+        QVERIFY(dialog);
+        QVERIFY(dialog->testOption(QColorDialog::ShowAlphaChannel));
+        dialog->setCurrentColor(QColor(1, 2, 3, 4));
+        accept ? dialog->accept() : dialog->reject();
+        QCOMPARE(button.color(), accept ? QColor(1, 2, 3, 4) : QColor(Qt::white));
+        QCOMPARE(changed.size(), accept ? 1 : 0);
+        QTRY_VERIFY(!dialog);
+        QTRY_VERIFY(!button.findChild<MvColorPalettePopup *>());
+    }
 }
 
 void tst_MvColorChoosers::cellOpensPalette_data()
@@ -157,16 +167,10 @@ void tst_MvColorChoosers::cellOpensPalette_data()
 void tst_MvColorChoosers::cellOpensPalette()
 {
     QFETCH(int, key);
-    QStandardItemModel model(2, 2);
-    model.setData(model.index(0, 0), u"name"_s);
-    model.setData(model.index(0, 1), QColor(Qt::white), Qt::EditRole);
-    model.setData(model.index(1, 1), QColor(9, 8, 7), Qt::EditRole);
-    QTableView view;
-    view.setModel(&model);
+    ColorTable table;
+    QTableView &view = table.view;
     view.setEditTriggers(QAbstractItemView::AllEditTriggers);
-    view.setItemDelegateForColumn(1, new MvColorDelegate(&view, true));
-    view.show();
-    const QModelIndex cell = model.index(0, 1);
+    const QModelIndex cell = table.white();
     view.setCurrentIndex(cell);
     QVERIFY(!openPalette()); // moving through the cells opens nothing
     if (key)
@@ -181,35 +185,26 @@ void tst_MvColorChoosers::cellOpensPalette()
 
 void tst_MvColorChoosers::cellsThatOpenNothing()
 {
-    QStandardItemModel model(1, 2);
-    model.setData(model.index(0, 1), QColor(Qt::white), Qt::EditRole);
-    model.item(0, 1)->setEditable(false);
-    QTableView view;
-    view.setModel(&model);
-    view.setItemDelegateForColumn(1, new MvColorDelegate(&view, true));
-    view.show();
+    ColorTable table;
+    table.model.item(0, 1)->setEditable(false);
     for (const int column : {0, 1}) { // another column, a fixed colour
-        view.setCurrentIndex(model.index(0, column));
-        QTest::keyClick(&view, Qt::Key_Return);
+        table.view.setCurrentIndex(table.model.index(0, column));
+        QTest::keyClick(&table.view, Qt::Key_Return);
         QVERIFY(!openPalette());
     }
 }
 
 void tst_MvColorChoosers::choiceOutlivesItsCell()
 {
-    QStandardItemModel model(1, 1);
-    model.setData(model.index(0, 0), QColor(Qt::white), Qt::EditRole);
-    QTableView view;
-    view.setModel(&model);
-    view.setItemDelegateForColumn(0, new MvColorDelegate(&view, true));
-    view.show();
-    view.setCurrentIndex(model.index(0, 0));
-    QTest::keyClick(&view, Qt::Key_F2);
-    model.clear();
-    model.setRowCount(1);
+    ColorTable table;
+    table.view.setCurrentIndex(table.white());
+    QTest::keyClick(&table.view, Qt::Key_F2);
+    table.model.clear();
+    table.model.setRowCount(1);
+    table.model.setColumnCount(2);
     press(openPalette(), Qt::Key_Down);
     press(openPalette(), Qt::Key_Return);
-    QVERIFY(!model.index(0, 0).data(Qt::EditRole).isValid());
+    QVERIFY(!table.white().data(Qt::EditRole).isValid());
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvColorChoosers)

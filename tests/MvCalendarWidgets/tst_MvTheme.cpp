@@ -15,7 +15,6 @@ class tst_MvTheme : public MvTest
 private Q_SLOTS:
     void contrast_data();
     void contrast();
-    void outlines_data();
     void outlines();
     void everyCssStyleIsDefined();
     void switchesColours();
@@ -81,43 +80,35 @@ void tst_MvTheme::contrast()
             }
 }
 
-void tst_MvTheme::outlines_data()
-{
-    QTest::addColumn<QWidget *>("widget"); // taken over
-    const auto row = [](const char *name, QWidget *widget) { QTest::newRow(name) << widget; };
-    row("check box", new QCheckBox);
-    row("radio button", new QRadioButton);
-    row("line edit", new QLineEdit);
-    row("spin box", new QSpinBox);
-    row("combo box", new QComboBox);
-    row("editable combo box", [] {
-        auto *box = new QComboBox;
-        box->setEditable(true);
-        return box;
-    }());
-    row("button", new QPushButton(u"M"_s));
-}
-
 /// The left edge of each control, in the middle of its height, is drawn in a colour that stands out from the window.
 void tst_MvTheme::outlines()
 {
-    QFETCH(QWidget *, widget);
+    QComboBox editable;
+    editable.setEditable(true);
+    QCheckBox checkBox;
+    QRadioButton radioButton;
+    QLineEdit lineEdit;
+    QSpinBox spinBox;
+    QComboBox comboBox;
+    QPushButton button(u"M"_s);
+    QWidget *const controls[] = {&checkBox, &radioButton, &lineEdit, &spinBox, &comboBox, &editable, &button};
     for (const MvTheme::Scheme scheme : {MvTheme::Scheme::Light, MvTheme::Scheme::Dark}) {
         MvTheme::apply(scheme);
-        QWidget window;
-        widget->setParent(&window);
-        widget->move(10, 10);
-        widget->resize(widget->sizeHint());
-        window.resize(widget->size() + QSize(20, 20));
-        const QImage image = window.grab().toImage();
-        const QColor ground = QApplication::palette().color(QPalette::Window);
-        double best = 1.0;
-        for (int x = 9; x < 13; ++x)
-            best = std::max(best, contrastOf(image.pixelColor(x, 10 + widget->height() / 2), ground));
-        widget->setParent(nullptr);
-        QVERIFY2(best >= 3.0, QByteArray::number(best));
+        for (QWidget *widget : controls) {
+            QWidget window;
+            widget->setParent(&window);
+            widget->move(10, 10);
+            widget->resize(widget->sizeHint());
+            window.resize(widget->size() + QSize(20, 20));
+            const QImage image = window.grab().toImage();
+            const QColor ground = QApplication::palette().color(QPalette::Window);
+            double best = 1.0;
+            for (int x = 9; x < 13; ++x)
+                best = std::max(best, contrastOf(image.pixelColor(x, 10 + widget->height() / 2), ground));
+            widget->setParent(nullptr);
+            QVERIFY2(best >= 3.0, widget->metaObject()->className());
+        }
     }
-    delete widget;
 }
 
 /// A style named in the sources but missing in the sheet would go unnoticed.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
 #include "MvProjectFixture.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageDropTarget.h"
@@ -11,6 +12,7 @@
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
+#include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
 #include <algorithm>
@@ -57,20 +59,6 @@ struct OpenCanvas
         QTRY_VERIFY(!item()->photos()->photo(path, {16, 16}).isNull());
     }
 
-    void drag(const QString &path, const QPoint &position, Qt::KeyboardModifiers modifiers = {})
-    {
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
-        QApplication::sendEvent(canvas->viewport(), &enter);
-        QDragMoveEvent move(position, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
-        QApplication::sendEvent(canvas->viewport(), &move);
-        isAccepted = enter.isAccepted() && move.isAccepted();
-    }
-    void drop(const QPoint &position, Qt::KeyboardModifiers modifiers = {})
-    {
-        QDropEvent event(position, Qt::CopyAction, &data, Qt::LeftButton, modifiers);
-        QApplication::sendEvent(canvas->viewport(), &event);
-    }
     QString dropText() const
     {
         for (QGraphicsItem *child : item()->childItems()) {
@@ -91,8 +79,6 @@ struct OpenCanvas
     }
 
     QTemporaryDir folder;
-    QMimeData data;
-    bool isAccepted = false;
     MvProject project;
     std::unique_ptr<MvPageCanvas> canvas;
 };
@@ -106,8 +92,6 @@ class tst_MvPageCanvas : public MvWidgetTest
 
 private Q_SLOTS:
     void init();
-    void clickOnADateLeadsToANewEntry();
-    void photoDropped_data();
     void photoDropped();
     void refusesWhatIsNoPhoto();
     void photoComesBack();
@@ -127,111 +111,51 @@ void tst_MvPageCanvas::init()
     MvUndoController::instance().clear();
 }
 
-void tst_MvPageCanvas::clickOnADateLeadsToANewEntry()
-{
-    OpenCanvas open;
-    const auto before = open.item()->recording().operationCount();
-    QTest::mouseClick(open.canvas->viewport(), Qt::LeftButton, {}, open.viewPoint(QDate(2027, 1, 12)));
-    QPointer<MvCalendarDayEditorDialog> editor;
-    const auto findEditor = [&editor] {
-        for (QWidget *widget : QApplication::topLevelWidgets()) {
-            if (auto *dialog = qobject_cast<MvCalendarDayEditorDialog *>(widget); dialog && dialog->isVisible())
-                editor = dialog;
-        }
-        return editor != nullptr;
-    };
-    QTRY_VERIFY(findEditor()); // there is nothing else to choose
-    QVERIFY(!QApplication::activePopupWidget());
-    QTest::keyClicks(editor->findChild<QLineEdit *>(), u"Oma Erika"_s);
-    editor->acceptedClicked();
-    QCOMPARE(MvCalendarEventRegistry::instance().activeEventList().size(), 1);
-    QTRY_VERIFY(open.item()->recording().operationCount() > before); // the page shows it
-    QTRY_VERIFY(!editor);
-
-    open.canvas->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(open.canvas.get()));
-    QVERIFY(open.item()->cells()->focusDate({2027, 1, 12}));
-    QTest::keyClick(open.canvas.get(), Qt::Key_Return);
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return); // the entry's row is marked
-    QTRY_VERIFY(findEditor());
-    QCOMPARE(editor->findChild<QLineEdit *>(u"descriptionEdit"_s)->text(), u"Oma Erika"_s);
-    editor->rejectedClicked();
-
-    MvUndoController::instance().undo();
-    QVERIFY(MvCalendarEventRegistry::instance().activeEventList().isEmpty());
-    QTRY_COMPARE(open.item()->recording().operationCount(), before);
-}
-
-void tst_MvPageCanvas::photoDropped_data()
-{
-    QTest::addColumn<bool>("onDay");
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QString>("said");
-    QTest::addColumn<int>("placement"); // -1: the page gets none
-    using Placement = MvPhotoFrame::Placement;
-    const Qt::KeyboardModifiers none;
-    const Qt::KeyboardModifiers shift = Qt::ShiftModifier;
-    QTest::newRow("beside the days") << false << none << QSize(300, 200) << u"Foto der Seite"_s << int(Placement::Top);
-    QTest::newRow("upright") << false << none << QSize(200, 300) << u"Foto der Seite"_s << int(Placement::Left);
-    QTest::newRow("on a day") << true << none << QSize(300, 200) << u"Foto für den 12. Januar"_s << -1;
-    QTest::newRow("on a day with shift") << true << shift << QSize(300, 200) << u"Foto der Seite"_s
-                                         << int(Placement::Top);
-}
-
 void tst_MvPageCanvas::photoDropped()
 {
-    QFETCH(const bool, onDay);
-    QFETCH(const Qt::KeyboardModifiers, modifiers);
-    QFETCH(const QSize, size);
-    QFETCH(const QString, said);
-    QFETCH(const int, placement);
-    OpenCanvas open;
-    const QString path = open.writePhoto(size);
-    const QPoint position = onDay ? open.viewPoint(QDate(2027, 1, 12)) : open.viewPoint(QPointF(40, 40));
-    open.drag(path, position, modifiers);
-    QVERIFY(open.isAccepted);
-    QCOMPARE(open.dropText(), said);
-    open.drop(position, modifiers);
-    QVERIFY(open.dropText().isEmpty());
-    QCOMPARE(open.photo().isValid(), placement >= 0);
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (auto *editor = qobject_cast<MvCalendarDayEditorDialog *>(widget)) {
-            QVERIFY(placement < 0); // a new entry with the photo
-            editor->rejectedClicked();
-        }
+    using Placement = MvPhotoFrame::Placement;
+    const auto drop = [](OpenCanvas &open, const QPoint &position, const QSize &size, Qt::KeyboardModifiers modifiers) {
+        MvWidgetDriver::Drag drag(open.canvas->viewport(), {open.writePhoto(size)}, modifiers);
+        const QString said = drag.isTaken(position) ? open.dropText() : QString();
+        return drag.drop(position) && open.dropText().isEmpty() ? said : QString();
+    };
+    const std::pair<QSize, Placement> photos[] = {{{300, 200}, Placement::Top}, {{200, 300}, Placement::Left}};
+    for (const auto &[size, placement] : photos) {
+        OpenCanvas open;
+        QCOMPARE(drop(open, open.viewPoint(QPointF(40, 40)), size, {}), u"Foto der Seite"_s); // beside the days
+        QCOMPARE(open.photo().path(), open.writePhoto(size));
+        QCOMPARE(open.photo().placement(), placement);
+        QCOMPARE(open.steps(), 1);
+        MvUndoController::instance().undo();
+        QVERIFY(!open.photo().isValid());
+        const QPoint day = open.viewPoint(QDate(2027, 1, 12));
+        QCOMPARE(drop(open, day, size, {}), u"Foto für den 12. Januar"_s);
+        QVERIFY(!open.photo().isValid());
+        auto *editor = MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>(); // a new entry with the photo
+        QVERIFY(editor);
+        editor->rejectedClicked();
+        QCOMPARE(drop(open, day, size, Qt::ShiftModifier), u"Foto der Seite"_s);
+        QVERIFY(open.photo().isValid());
     }
-    if (placement < 0)
-        return;
-    QCOMPARE(open.photo().path(), path);
-    QCOMPARE(int(open.photo().placement()), placement);
-    QCOMPARE(open.steps(), 1);
-    MvUndoController::instance().undo();
-    QVERIFY(!open.photo().isValid());
 }
 
 void tst_MvPageCanvas::refusesWhatIsNoPhoto()
 {
     OpenCanvas open;
-    QFile file(open.folder.filePath(u"brief.jpg"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("kein Foto") > 0);
-    file.close();
-    open.drag(file.fileName(), open.viewPoint(QPointF(40, 40)));
-    QVERIFY(!open.isAccepted);
+    const QString letter = open.folder.filePath(u"brief.jpg"_s);
+    QVERIFY(MvWidgetDriver::write(letter, "kein Foto"));
+    QVERIFY(!MvWidgetDriver::Drag(open.canvas->viewport(), {letter}).isTaken(open.viewPoint(QPointF(40, 40))));
     QSignalSpy said(open.canvas.get(), &MvPageCanvas::message);
-    open.canvas->setPhoto(file.fileName());
+    open.canvas->setPhoto(letter);
     QVERIFY(said.value(0).value(0).toString().contains(u"brief.jpg"));
     QVERIFY(!open.photo().isValid());
     QCOMPARE(open.steps(), 0);
 
     open.setPhoto();
-    QVERIFY(file.open(QIODevice::WriteOnly)); // 34 bytes that claim 16,383 pixels square
-    file.write(QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100"));
-    file.close();
-    open.canvas->setPhoto(file.fileName());
+    QVERIFY(MvWidgetDriver::writeHugePhoto(letter));
+    open.canvas->setPhoto(letter);
     QVERIFY(said.last().value(0).toString().contains(u"viel zu klein"));
-    QVERIFY(open.photo().isValid() && open.photo().path() != file.fileName());
+    QVERIFY(open.photo().isValid() && open.photo().path() != letter);
     QCOMPARE(open.steps(), 1);
 }
 
@@ -295,31 +219,18 @@ void tst_MvPageCanvas::photoMovesInItsFrame()
     QCOMPARE(open.steps(), 3); // both keys are one step
 }
 
+/// On a day it has that day's entries, too.
 void tst_MvPageCanvas::contextMenuPlacesThePhoto()
 {
     OpenCanvas open;
     open.setPhoto();
-    const auto trigger = [&open](const QString &name) {
-        open.settle();
-        const std::unique_ptr<QMenu> menu(open.canvas->createContextMenu(open.viewPoint(QPointF(40, 40))));
-        auto *action = menu->findChild<QAction *>(name);
-        QVERIFY2(action, qPrintable(name));
-        action->trigger();
-    };
-    trigger(u"photoRight"_s);
-    QCOMPARE(open.photo().placement(), MvPhotoFrame::Placement::Right);
-    trigger(u"photoSize50"_s);
-    QCOMPARE(open.photo().share(), 0.5);
-    trigger(u"removePhoto"_s);
-    QVERIFY(!open.photo().isValid());
-    QCOMPARE(open.steps(), 4);
-    // a day's menu has its entries, too
-    open.settle();
     const std::unique_ptr<QMenu> menu(open.canvas->createContextMenu(open.viewPoint(QDate(2027, 1, 12))));
+    menu->findChild<QAction *>(u"photoSize50"_s)->trigger();
+    QCOMPARE(open.photo().share(), 0.5);
+    QCOMPARE(open.steps(), 2);
     const QList<QAction *> actions = menu->actions();
     QVERIFY(std::any_of(actions.begin(), actions.end(),
                         [](const QAction *each) { return each->text().startsWith(u"Neuen Eintrag am 12. Jan"); }));
-    QVERIFY(menu->findChild<QAction *>(u"choosePhoto"_s));
 }
 
 void tst_MvPageCanvas::keyboardGoesThroughTheCalendar()
@@ -331,6 +242,14 @@ void tst_MvPageCanvas::keyboardGoesThroughTheCalendar()
     QTest::keyClick(open.canvas.get(), Qt::Key_Right);
     QTest::keyClick(open.canvas.get(), Qt::Key_Down);
     QCOMPARE(open.canvas->focusDate(), QDate(2027, 1, 9));
+    MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(u"Oma Erika"_s, {1941, 1, 9})});
+    QTest::keyClick(open.canvas.get(), Qt::Key_Return);
+    QTRY_VERIFY(QApplication::activePopupWidget());
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return); // the entry's row is marked
+    QTRY_VERIFY(MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>());
+    auto *editor = MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>();
+    QCOMPARE(editor->findChild<QLineEdit *>(u"descriptionEdit"_s)->text(), u"Oma Erika"_s);
+    editor->rejectedClicked();
     for (int week = 0; week < 4; ++week)
         QTest::keyClick(open.canvas.get(), Qt::Key_Down);
     QTRY_COMPARE(open.canvas->focusDate(), QDate(2027, 2, 6)); // on the next page

@@ -7,6 +7,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
+#include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
 using namespace Qt::StringLiterals;
@@ -111,16 +112,9 @@ void tst_MvPageStrip::photoOnAThumbnail()
     QVERIFY(show(strip));
     QTRY_VERIFY(strip.isComplete());
     const QImage before = strip.thumbnail(1);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(path)});
     const QPoint position = strip.visualRect(strip.model()->index(1, 0)).center();
-    QDragEnterEvent enter(position, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(strip.viewport(), &enter);
-    QDragMoveEvent move(position, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(strip.viewport(), &move);
-    QVERIFY(enter.isAccepted() && move.isAccepted());
-    QDropEvent drop(position, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(strip.viewport(), &drop);
+    MvWidgetDriver::Drag drag(strip.viewport(), {path});
+    QVERIFY(drag.isTaken(position) && drag.drop(position));
     QCOMPARE(project.document().pages().at(1).photoFrame().path(), path);
     // decoded in the background, then seen: red at its upper left
     QTRY_COMPARE(strip.thumbnail(1).pixelColor(6, 6), QColor(Qt::red));

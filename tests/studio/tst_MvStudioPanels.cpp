@@ -293,7 +293,6 @@ private Q_SLOTS:
     void init();
     void showingEditsNothing();
     void everyControlTellsThePage();
-    void startAndMonths();
     void recolouringLeavesTheShippedSchema();
     void ownColorsStayAtHand();
     void ownColorsAreKept();
@@ -388,26 +387,6 @@ void tst_MvStudioPanels::everyControlTellsThePage()
         QCOMPARE(lies(open), QString());
         QVERIFY(open.panels->edits()->page().appearance().showHolidays());
     }
-}
-
-void tst_MvStudioPanels::startAndMonths()
-{
-    const OpenPanels open;
-    open.find<QComboBox>(u"monthBox"_s)->setCurrentIndex(8);
-    OpenPanels::settle();
-    QCOMPARE(open.project.document().range(), MvDateRange(QDate(2027, 9, 1), QDate(2028, 8, 31)));
-    open.find<QSpinBox>(u"monthCount"_s)->setValue(14);
-    OpenPanels::settle();
-    QCOMPARE(open.project.document().range(), MvDateRange(QDate(2027, 9, 1), QDate(2028, 10, 31)));
-    auto *orientation = open.find<QComboBox>(u"orientation"_s);
-    orientation->setCurrentIndex(1 - orientation->currentIndex());
-    QCOMPARE(open.project.document().format().orientation(), MvPageFormat::Orientation::Portrait);
-    QCOMPARE(open.project.document().format().bleed(), 30.0);
-    QCOMPARE(open.undoTexts(),
-             QStringList({u"Beginn des Kalenders ändern"_s, u"Anzahl der Monate ändern"_s, u"Seitenformat ändern"_s}));
-    MvUndoController::instance().undo();
-    MvUndoController::instance().undo();
-    QCOMPARE(open.find<QSpinBox>(u"monthCount"_s)->value(), 12);
 }
 
 void tst_MvStudioPanels::recolouringLeavesTheShippedSchema()
