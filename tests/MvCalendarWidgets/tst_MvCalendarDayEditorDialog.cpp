@@ -337,10 +337,13 @@ void tst_MvCalendarDayEditorDialog::drops()
     MvCalendarDayEditorDialog dialog(nullptr);
     dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5)));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"text.png“ ist kein Foto"_qs)); // said in words
-    QVERIFY(!MvWidgetDriver::Drag(&dialog, {path(u"text.png"_qs)}).drop({9, 9}));
+    MvWidgetDriver::Drag text(&dialog, {path(u"text.png"_qs)});
+    text.isTaken({9, 9}); // the dialog begins to read when the files come in
+    QVERIFY(!text.drop({9, 9}));
     QVERIFY(!dialog.hasPhoto());
-    MvWidgetDriver::Drag drag(&dialog, {path(u"text.png"_qs), path(u"fehlt.jpg"_qs), path(u"blau.png"_qs)});
-    QVERIFY(drag.drop({9, 9}));
+    MvWidgetDriver::Drag photo(&dialog, {path(u"text.png"_qs), path(u"fehlt.jpg"_qs), path(u"blau.png"_qs)});
+    photo.isTaken({9, 9});
+    QVERIFY(photo.drop({9, 9}));
     ok(dialog)->click();
     const QFileInfo stored = events().first().imagePath();
     QCOMPARE(stored.dir(), MvCalendarEvent::imageDirectory());
