@@ -18,6 +18,8 @@
 
 #include <memory>
 
+#include <QWheelEvent>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -321,6 +323,13 @@ void tst_MvStudioPanels::showingEditsNothing()
         open.panels->setCurrentPage(page);
         OpenPanels::settle();
     }
+    for (QWidget *widget : shownControls(open)) { // scrolling the panel with the mouse over a box
+        QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        if (qobject_cast<QComboBox *>(widget) || qobject_cast<QAbstractSpinBox *>(widget))
+            QCoreApplication::sendEvent(widget, &wheel);
+    }
+    OpenPanels::settle();
     QCOMPARE(open.undoTexts(), QStringList());
 }
 

@@ -2,6 +2,7 @@
 #include "panels/MvPageSetupEditor.h"
 
 #include "MvCore/MvApplicationLocale.h"
+#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
 #include "MvGUIWidgets/MvSpinBox.h"
 
 #include <QComboBox>
@@ -11,6 +12,7 @@
 #include <QLabel>
 
 #include <cmath>
+#include <initializer_list>
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +61,10 @@ MvPageSetupEditor::MvPageSetupEditor(QWidget *parent)
         connect(box, &MvSpinBox::valueChanged, this, &MvPageSetupEditor::onChanged);
     for (QDoubleSpinBox *box : {m_width, m_height, m_bleed})
         connect(box, &QDoubleSpinBox::valueChanged, this, &MvPageSetupEditor::onChanged);
+    auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
+    for (QWidget *box : std::initializer_list<QWidget *>{m_month, m_year, m_months, m_paper, m_orientation, m_width,
+                                                         m_height, m_bleed})
+        box->installEventFilter(keepsWheelOut);
 }
 
 void MvPageSetupEditor::addMonths()
