@@ -9,10 +9,14 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <memory>
+
 using Fit = MvFotoOrder::Fit;
 using Urgency = MvFotoService::Urgency;
 
 /// Photos of 64 x 32 pixels: red, with a green square of half the width in the middle.
+constexpr int mostThreads = 3; // of a service
+
 class tst_MvFotoService : public MvTest
 {
     Q_OBJECT
@@ -166,8 +170,17 @@ void tst_MvFotoService::pagesAreTold()
     const auto scaled = [this](MvFotoPass &pass, const QString &name, int width) {
         return pass.scaled(QFileInfo(path(name)), {width, width}).size();
     };
+    const auto gate = std::make_shared<QSemaphore>();
+    const auto holdAllThreads = [this, gate] {
+        for (int thread = 0; thread < mostThreads; ++thread)
+            MvFotoService::instance().run(Urgency::Awaited, this, [gate]() -> MvFotoService::Use {
+                gate->acquire();
+                return {};
+            });
+    };
     MvFotoPages pages(Urgency::Background);
     QSignalSpy arrived(&pages, &MvFotoPages::arrived);
+    holdAllThreads();
     {
         MvFotoPass first(pages, 1);
         QVERIFY(first.isComplete());
@@ -180,8 +193,10 @@ void tst_MvFotoService::pagesAreTold()
         QCOMPARE(scaled(given, u"b.png"_qs, 16), QSize(0, 0));
     }
     pages.letGo(3);
+    gate->release(mostThreads);
     QTRY_COMPARE(arrived.count(), 2);
     QCOMPARE((QSet<int>{arrived.at(0).at(0).toInt(), arrived.at(1).at(0).toInt()}), (QSet<int>{1, 2}));
+    holdAllThreads();
     {
         MvFotoPass again(pages, 1);
         QCOMPARE(scaled(again, u"a.png"_qs, 16), QSize(16, 8));
@@ -191,6 +206,7 @@ void tst_MvFotoService::pagesAreTold()
         QCOMPARE(scaled(again, u"a.png"_qs, 32), QSize(16, 8)); // the best there is
         QVERIFY(!again.isComplete());
     }
+    gate->release(mostThreads);
     QTRY_COMPARE(arrived.count(), 3);
     MvFotoPass last(pages, 1);
     QCOMPARE(scaled(last, u"a.png"_qs, 32), QSize(32, 16));
