@@ -2,22 +2,7 @@
 #include "MvCalendar/MvRenderingSources.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvFoto/MvFotoAccess.h"
-#include "MvFoto/MvFotoSource.h"
-
-namespace {
-
-/// Decodes at once.
-class DefaultFotos : public MvFotoSource
-{
-public:
-    QImage scaled(const QFileInfo &file, const QSize &bounds) override
-    {
-        return MvFotoAccess::scaled(MvFoto(file), bounds);
-    }
-};
-
-} // namespace
+#include "MvFoto/MvDirectFotoSource.h"
 
 const MvCalendarEventSource &MvRenderingSources::entriesOrDefault() const
 {
@@ -26,6 +11,5 @@ const MvCalendarEventSource &MvRenderingSources::entriesOrDefault() const
 
 MvFotoSource &MvRenderingSources::fotosOrDefault() const
 {
-    static DefaultFotos decoding;
-    return fotos ? *fotos : decoding;
+    return fotos ? *fotos : MvDirectFotoSource::instance();
 }
