@@ -22,7 +22,7 @@ constexpr int contacts = 300;
 constexpr int birthdays = 100;
 
 /// With noise, as large as a camera's photo of that size.
-QByteArray photo()
+QByteArray foto()
 {
     QImage image(720, 720, QImage::Format_RGB32);
     QRandomGenerator random(1);
@@ -39,9 +39,9 @@ class Book
 {
 public:
     Book()
-        : m_photo(photo())
+        : m_foto(foto())
     {
-        const QByteArray code = m_photo.toBase64();
+        const QByteArray code = m_foto.toBase64();
         QFile cards(file().filePath());
         m_isWritten = cards.open(QIODevice::WriteOnly);
         for (int i = 0; i < contacts; ++i) {
@@ -74,17 +74,17 @@ public:
         QElapsedTimer clock;
         clock.start();
         for (int i = 0; i < birthdays; ++i)
-            benchmark::DoNotOptimize(MvGuardedImageReader(m_photo).read({720, 720}));
+            benchmark::DoNotOptimize(MvGuardedImageReader(m_foto).read({720, 720}));
         return double(clock.nsecsElapsed()) / 1e9;
     }
 
 private:
     QTemporaryDir m_folder;
-    QByteArray m_photo;
+    QByteArray m_foto;
     bool m_isWritten = false;
 };
 
-void import(benchmark::State &state, bool withPhotos)
+void import(benchmark::State &state, bool withFotos)
 {
     const Book book;
     if (!book.isWritten())
@@ -92,12 +92,12 @@ void import(benchmark::State &state, bool withPhotos)
     double seconds = 0.0;
     double yardstick = 0.0;
     for (auto _ : state) {
-        yardstick += withPhotos ? book.decoding() : book.reading();
+        yardstick += withFotos ? book.decoding() : book.reading();
         QElapsedTimer clock;
         clock.start();
         MvAddressBookImport import({book.file()});
         import.readCards();
-        if (withPhotos)
+        if (withFotos)
             import.makeEntries({}, MvVCardDate::Order::Unknown);
         const double taken = double(clock.nsecsElapsed()) / 1e9;
         seconds += taken;

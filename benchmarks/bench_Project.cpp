@@ -27,7 +27,7 @@ MvCalendarDocument makeDocument(const MvCalendariumLayoutSchemaID &layout, int m
     document.setHolidayConfig({MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 4 | 8)});
     for (int page = 0; page < document.pages().size(); ++page) {
         MvCalendarPage changed = document.pages()[page];
-        changed.setPhotoFrame(MvPhotoFrame(u"/fotos/%1.jpg"_s.arg(page)));
+        changed.setFotoFrame(MvFotoFrame(u"/fotos/%1.jpg"_s.arg(page)));
         document.setPage(page, changed);
     }
     return document;

@@ -36,9 +36,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize windowSize(1280, 800);
-constexpr QSize pagePhoto(4000, 3000);
-constexpr QSize entryPhoto(6000, 4000);
-constexpr int entryPhotoCount = 8;
+constexpr QSize pageFoto(4000, 3000);
+constexpr QSize entryFoto(6000, 4000);
+constexpr int entryFotoCount = 8;
 constexpr qint64 calm = 700; // milliseconds without a noticeable event: all has come in
 
 /// Notes the longest event, nested ones within theirs.
@@ -78,7 +78,7 @@ private:
 
 Application *application = nullptr;
 
-QString photo(const QTemporaryDir &folder, const QString &name, const QSize &size)
+QString foto(const QTemporaryDir &folder, const QString &name, const QSize &size)
 {
     const QString path = folder.filePath(name);
     QImage noise(size / 8, QImage::Format_RGB32); // as hard to decode as a photo is
@@ -101,7 +101,7 @@ MvCalendarDocument calendar(int months)
     return document;
 }
 
-void copyPhoto(const QString &first, const QString &path)
+void copyFoto(const QString &first, const QString &path)
 {
     QFile::remove(path);
     QFile::copy(first, path);
@@ -126,14 +126,14 @@ void report(benchmark::State &state, const QString &path, const QSize &size)
 void printPreview(benchmark::State &state)
 {
     const QTemporaryDir folder;
-    const QString first = photo(folder, u"0.jpg"_s, pagePhoto);
+    const QString first = foto(folder, u"0.jpg"_s, pageFoto);
     MvCalendarDocument document = calendar(int(state.range(0)));
     for (int number = 0; number < document.pages().size(); ++number) {
         const QString path = folder.filePath(u"%1.jpg"_s.arg(number));
         if (number > 0)
-            copyPhoto(first, path);
+            copyFoto(first, path);
         MvCalendarPage page = document.pages().at(number);
-        page.setPhotoFrame(MvPhotoFrame(path));
+        page.setFotoFrame(MvFotoFrame(path));
         document.setPage(number, page);
     }
     for (auto _ : state) {
@@ -151,18 +151,18 @@ void printPreview(benchmark::State &state)
             QApplication::processEvents();
         application->settle();
     }
-    report(state, first, pagePhoto);
+    report(state, first, pageFoto);
 }
 BENCHMARK(printPreview)->Arg(24)->Arg(60)->Unit(benchmark::kMillisecond)->Iterations(1);
 
-void entryPhotos(benchmark::State &state)
+void entryFotos(benchmark::State &state)
 {
     const QTemporaryDir folder;
-    const QString first = photo(folder, u"0.jpg"_s, entryPhoto);
+    const QString first = foto(folder, u"0.jpg"_s, entryFoto);
     QByteArray entries = "<CalendarEvents>";
-    for (int number = 0; number < entryPhotoCount; ++number) {
+    for (int number = 0; number < entryFotoCount; ++number) {
         if (number > 0)
-            copyPhoto(first, folder.filePath(u"%1.jpg"_s.arg(number)));
+            copyFoto(first, folder.filePath(u"%1.jpg"_s.arg(number)));
         entries += u"<CalendarEvent><Name>A%1</Name><DateTime>1990-01-%2T00:00:00</DateTime><Image>%1.jpg</Image>"
                    "</CalendarEvent>"_s.arg(number)
                        .arg(10 + number)
@@ -192,9 +192,9 @@ void entryPhotos(benchmark::State &state)
             QApplication::processEvents();
         application->settle();
     }
-    report(state, first, entryPhoto);
+    report(state, first, entryFoto);
 }
-BENCHMARK(entryPhotos)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(entryFotos)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 // ---- step by step
 
@@ -250,7 +250,7 @@ MvCalendarEventList entries(int count)
 void sitting(benchmark::State &state)
 {
     const QTemporaryDir folder;
-    const QString picture = photo(folder, u"0.jpg"_s, entryPhoto);
+    const QString picture = foto(folder, u"0.jpg"_s, entryFoto);
     const QFileInfo file(folder.filePath(u"kalender.mvcalendar"_s));
     for (auto _ : state) {
         Sitting studio;
@@ -286,7 +286,7 @@ void sitting(benchmark::State &state)
                 calendar.setRange({QDate(2027, 1, 1), QDate(2031, 12, 31)});
             });
         });
-        step("photo", [&studio, &picture] { studio.canvas->setPhoto(picture); });
+        step("photo", [&studio, &picture] { studio.canvas->setFoto(picture); });
         for (int times = 0; times < 8; ++times)
             step("zoom", [&studio] { studio.canvas->zoomIn(); });
         step("fit", [&studio] { studio.canvas->zoomToFit(); });

@@ -43,7 +43,7 @@ protected:
         painter.scale(scale, scale);
         painter.setClipRect(paper);
         shown().paintGround(painter, m_calendar.format());
-        shown().paintPhoto(painter, m_calendar.format());
+        shown().paintFoto(painter, m_calendar.format());
         m_recording.replay(painter);
     }
 

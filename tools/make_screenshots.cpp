@@ -77,15 +77,15 @@ private:
     void popUp(QMenu *menu);
     QPoint pointOf(const QDate &date) const;
     void edit(const std::function<void(MvCalendarDocument &)> &change);
-    void setPagePhoto(MvPhotoFrame::Placement placement);
+    void setPageFoto(MvFotoFrame::Placement placement);
     void setEntries(const QString &file);
     void reset();
 
     void welcome();
     void start() {}
-    void photo() { setPagePhoto(MvPhotoFrame::Placement::Top); }
-    void photoSelected();
-    void photoLeft() { setPagePhoto(MvPhotoFrame::Placement::Left); }
+    void foto() { setPageFoto(MvFotoFrame::Placement::Top); }
+    void fotoSelected();
+    void fotoLeft() { setPageFoto(MvFotoFrame::Placement::Left); }
     void portrait();
     void content() { raiseDock("contentPanelDock"); }
     void layouts() { raiseDock("layoutPanelDock", 0); }
@@ -108,7 +108,7 @@ private:
     void fileMenu() { popUp(window()->menuBar()->actions().first()->menu()); }
     void viewMenu() { popUp(window()->menuBar()->actions().at(2)->menu()); }
     void dayNew();
-    void dayWithPhoto();
+    void dayWithFoto();
     void newCalendar() { trigger("newProject"); }
     void layoutChooser() { trigger("chooseLayout"); }
     void pageSetup() { trigger("pageSetup"); }
@@ -154,9 +154,9 @@ QList<Screenshots::State> Screenshots::states()
     return {
         {"welcome", &S::welcome, longSettling},
         {"main", &S::start, longSettling},
-        {"photo", &S::photo, longSettling},
-        {"photo-selected", &S::photoSelected, longSettling},
-        {"photo-left", &S::photoLeft, longSettling},
+        {"photo", &S::foto, longSettling},
+        {"photo-selected", &S::fotoSelected, longSettling},
+        {"photo-left", &S::fotoLeft, longSettling},
         {"portrait", &S::portrait, longSettling},
         {"year", &S::year, longSettling},
         {"content", &S::content, settling},
@@ -179,7 +179,7 @@ QList<Screenshots::State> Screenshots::states()
         {"file-menu", &S::fileMenu, settling},
         {"view-menu", &S::viewMenu, settling},
         {"day-new", &S::dayNew, settling},
-        {"day-photo", &S::dayWithPhoto, settling},
+        {"day-photo", &S::dayWithFoto, settling},
         {"new-calendar", &S::newCalendar, longSettling},
         {"layout-chooser", &S::layoutChooser, longSettling},
         {"page-setup", &S::pageSetup, settling},
@@ -290,14 +290,14 @@ QPoint Screenshots::pointOf(const QDate &date) const
     return canvas()->viewport()->rect().center();
 }
 
-void Screenshots::setPagePhoto(MvPhotoFrame::Placement placement)
+void Screenshots::setPageFoto(MvFotoFrame::Placement placement)
 {
     edit([&](MvCalendarDocument &document) {
         MvCalendarPage page = document.pages().at(4);
-        MvPhotoFrame frame(sample(u"bergsee.jpg"_s), placement);
-        if (placement != MvPhotoFrame::Placement::Top)
+        MvFotoFrame frame(sample(u"bergsee.jpg"_s), placement);
+        if (placement != MvFotoFrame::Placement::Top)
             frame.setShare(0.4);
-        page.setPhotoFrame(frame);
+        page.setFotoFrame(frame);
         document.setPage(4, page);
     });
 }
@@ -310,11 +310,11 @@ void Screenshots::welcome()
     window()->setCurrentPage(0);
 }
 
-void Screenshots::photoSelected()
+void Screenshots::fotoSelected()
 {
-    photo();
+    foto();
     QTest::qWait(settling);
-    const QRectF frame = project()->document().pages().at(4).photoFrame().rect(project()->document().format());
+    const QRectF frame = project()->document().pages().at(4).fotoFrame().rect(project()->document().format());
     QTest::mouseClick(canvas()->viewport(), Qt::LeftButton, {}, canvas()->mapFromScene(frame.center()));
 }
 
@@ -325,7 +325,7 @@ void Screenshots::portrait()
         format.setOrientation(MvPageFormat::Orientation::Portrait);
         document.setFormat(format);
     });
-    photo();
+    foto();
 }
 
 void Screenshots::year()
@@ -347,7 +347,7 @@ void Screenshots::dayFocus()
 
 void Screenshots::pageMenu()
 {
-    photo();
+    foto();
     QTest::qWait(settling);
     const QPoint point = pointOf(project()->document().pageDates().at(4));
     canvas()->createContextMenu(point)->popup(canvas()->viewport()->mapToGlobal(point));
@@ -461,7 +461,7 @@ void Screenshots::dayNew()
                                               true, MvFoto(), QUuid::createUuid(), QDateTime::currentDateTime()));
 }
 
-void Screenshots::dayWithPhoto()
+void Screenshots::dayWithFoto()
 {
     const MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
     for (const MvCalendarEvent &event : events)
@@ -489,7 +489,7 @@ void Screenshots::recovery()
 
 void Screenshots::closeQuestion()
 {
-    photo();
+    foto();
     window()->close();
 }
 
@@ -556,7 +556,7 @@ void Screenshots::entriesLeave()
 
 void Screenshots::preview()
 {
-    photo();
+    foto();
     trigger("print");
     QTest::qWait(settling);
     if (auto *preview = find<QPushButton>("previewButton"))

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostPhotoHints = 20;
+constexpr int mostFotoHints = 20;
 
 QJsonObject rectObject(const QRectF &rect)
 {
@@ -50,14 +50,14 @@ QJsonObject textObject(int page, const MvUnfittingText &unfitting)
     return text;
 }
 
-QJsonObject photoObject(int page, const MvPrintedPhoto &photo)
+QJsonObject fotoObject(int page, const MvPrintedFoto &foto)
 {
     return {{u"page"_s, page},
-            {u"date"_s, dateValue(photo.date)},
-            {u"path"_s, photo.path},
-            {u"ppi"_s, std::round(photo.pixelsPerInch)},
-            {u"quality"_s, gradeName(photo.grade())},
-            {u"rect"_s, rectObject(photo.rect)}};
+            {u"date"_s, dateValue(foto.date)},
+            {u"path"_s, foto.path},
+            {u"ppi"_s, std::round(foto.pixelsPerInch)},
+            {u"quality"_s, gradeName(foto.grade())},
+            {u"rect"_s, rectObject(foto.rect)}};
 }
 
 } // namespace
@@ -65,7 +65,7 @@ QJsonObject photoObject(int page, const MvPrintedPhoto &photo)
 MvRenderReport::MvRenderReport(const MvCalendarDocument &document, const MvRenderingSources &sources)
     : m_document(document)
     , m_sources(sources)
-    , m_missingPhotos(document.missingPhotos())
+    , m_missingFotos(document.missingFotos())
 {}
 
 void MvRenderReport::addPage(int page, const MvPageFindings &findings)
@@ -73,7 +73,7 @@ void MvRenderReport::addPage(int page, const MvPageFindings &findings)
     if (!m_pages.contains(page))
         m_pages.insert(
             page, {findings.unfitting,
-                   MvPrintedPhoto::ofPaintedPage(m_document.pages()[page], m_document.format(), findings, m_sources)});
+                   MvPrintedFoto::ofPaintedPage(m_document.pages()[page], m_document.format(), findings, m_sources)});
 }
 
 void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped)
@@ -91,16 +91,16 @@ QString MvRenderReport::toJson() const
                                           {u"name"_s, skipped.name},
                                           {u"reason"_s, skipped.reason}});
     QJsonArray unfitting;
-    QJsonArray photos;
+    QJsonArray fotos;
     for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page) {
         for (const MvUnfittingText &text : page->unfitting)
             unfitting.append(textObject(page.key() + 1, text));
-        for (const MvPrintedPhoto &photo : page->photos)
-            photos.append(photoObject(page.key() + 1, photo));
+        for (const MvPrintedFoto &foto : page->fotos)
+            fotos.append(fotoObject(page.key() + 1, foto));
     }
     const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)},
-                             {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingPhotos)},
-                             {u"photos"_s, photos},
+                             {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingFotos)},
+                             {u"photos"_s, fotos},
                              {u"skippedEntries"_s, skippedEntries},
                              {u"unfitting"_s, unfitting}};
     return QString::fromUtf8(QJsonDocument(report).toJson());
@@ -109,9 +109,9 @@ QString MvRenderReport::toJson() const
 void MvRenderReport::printHint(QTextStream &hints) const
 {
     printTextHints(hints);
-    for (const QString &path : m_missingPhotos)
+    for (const QString &path : m_missingFotos)
         hints << tr("Foto fehlt oder ist nicht lesbar: %1").replace(u"%1"_s, path) << '\n';
-    printPhotoHints(hints);
+    printFotoHints(hints);
 }
 
 void MvRenderReport::printTextHints(QTextStream &hints) const
@@ -138,26 +138,26 @@ void MvRenderReport::printTextHints(QTextStream &hints) const
         hints << tr("Keine Schrift hat diese Zeichen: %1; --report json nennt die Texte").arg(glyphs) << '\n';
 }
 
-void MvRenderReport::printPhotoHints(QTextStream &hints) const
+void MvRenderReport::printFotoHints(QTextStream &hints) const
 {
     int poor = 0;
     int modest = 0;
     for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page) {
-        for (const MvPrintedPhoto &photo : page->photos) {
-            const MvFotoResolution::Grade grade = photo.grade();
+        for (const MvPrintedFoto &foto : page->fotos) {
+            const MvFotoResolution::Grade grade = foto.grade();
             modest += grade == MvFotoResolution::Grade::Modest ? 1 : 0;
-            if (grade != MvFotoResolution::Grade::Poor || ++poor > mostPhotoHints)
+            if (grade != MvFotoResolution::Grade::Poor || ++poor > mostFotoHints)
                 continue;
             hints << tr("Foto wird grob, nur %1 Pixel je Zoll (gut ab %2): Seite %3, %4")
-                         .arg(std::floor(photo.pixelsPerInch))
+                         .arg(std::floor(foto.pixelsPerInch))
                          .arg(MvFotoResolution::modestBelow)
                          .arg(page.key() + 1)
-                         .arg(photo.path)
+                         .arg(foto.path)
                   << '\n';
         }
     }
-    if (poor > mostPhotoHints)
-        hints << tr("%n weitere Fotos werden grob; --report json nennt alle", nullptr, poor - mostPhotoHints) << '\n';
+    if (poor > mostFotoHints)
+        hints << tr("%n weitere Fotos werden grob; --report json nennt alle", nullptr, poor - mostFotoHints) << '\n';
     if (modest > 0)
         hints << tr("%n Fotos mit weniger als %1 Pixeln je Zoll; --report json nennt sie", nullptr, modest)
                      .arg(MvFotoResolution::modestBelow)

@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvProject/MvCalendarDocument.h"
-#include "MvProject/MvPrintedPhoto.h"
+#include "MvProject/MvPrintedFoto.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -40,16 +40,16 @@ private:
     struct Page
     {
         QList<MvUnfittingText> unfitting;
-        QList<MvPrintedPhoto> photos;
+        QList<MvPrintedFoto> fotos;
     };
 
     void printTextHints(QTextStream &hints) const;
-    void printPhotoHints(QTextStream &hints) const;
+    void printFotoHints(QTextStream &hints) const;
 
     const MvCalendarDocument m_document;
     const MvRenderingSources m_sources;
     QMap<int, Page> m_pages; // by number, from 0
-    QStringList m_missingPhotos;
+    QStringList m_missingFotos;
     QStringList m_files;
     QFileInfo m_entriesFile;
     QList<MvCalendarEventFile::Skipped> m_skipped;

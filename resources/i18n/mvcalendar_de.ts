@@ -142,7 +142,7 @@
     </message>
 </context>
 <context>
-    <name>MvMissingPhotos</name>
+    <name>MvMissingFotos</name>
     <message numerus="yes">
         <source>%n Fotos sind nicht da oder lassen sich nicht lesen:</source>
         <translation>

@@ -2259,7 +2259,7 @@
     </message>
 </context>
 <context>
-    <name>MvMissingPhotos</name>
+    <name>MvMissingFotos</name>
     <message numerus="yes">
         <source>%n Fotos sind nicht da oder lassen sich nicht lesen:</source>
         <translation>
@@ -2372,7 +2372,7 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
-    <name>MvPagePhoto</name>
+    <name>MvPageFoto</name>
     <message>
         <source>Foto für die Seite wählen</source>
         <translation>Choose a photo for the page</translation>
@@ -2580,7 +2580,7 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
-    <name>MvPhotoHandle</name>
+    <name>MvFotoHandle</name>
     <message>
         <source>Größe des Fotos ändern</source>
         <translation>Change the size of the photo</translation>
@@ -2591,7 +2591,7 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
-    <name>MvPhotoPainter</name>
+    <name>MvFotoPainter</name>
     <message>
         <source>Foto fehlt</source>
         <translation>Photo missing</translation>

@@ -15,8 +15,8 @@ class tst_MvAddressBookImport : public MvTest
 
 private Q_SLOTS:
     void init();
-    void photos_data();
-    void photos();
+    void fotos_data();
+    void fotos();
     void newOnesAlone();
     void changedBetweenTheSteps();
     void nothingStaysOfWhatIsDropped();
@@ -71,7 +71,7 @@ QFileInfo tst_MvAddressBookImport::write(const QByteArray &cards) const
                                                                                 : QFileInfo();
 }
 
-void tst_MvAddressBookImport::photos_data()
+void tst_MvAddressBookImport::fotos_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QByteArray>("format"); // of the photo; empty without one
@@ -86,7 +86,7 @@ void tst_MvAddressBookImport::photos_data()
     QTest::newRow("too large") << QByteArray(20'000'000, 'x') << QByteArray() << QSize() << false;
 }
 
-void tst_MvAddressBookImport::photos()
+void tst_MvAddressBookImport::fotos()
 {
     QFETCH(QByteArray, bytes);
     QFETCH(QByteArray, format);
@@ -111,9 +111,9 @@ void tst_MvAddressBookImport::photos()
 
 void tst_MvAddressBookImport::newOnesAlone()
 {
-    const QByteArray photo = picture("png", {4, 4});
-    const QFileInfo file = write(card("Anna", photo) + card("Bert", photo) + card("Bert", photo) +
-                                 card("Carl", photo, "BDAY:12/04/1985") + card("Ohne", photo, "TEL:1"));
+    const QByteArray foto = picture("png", {4, 4});
+    const QFileInfo file = write(card("Anna", foto) + card("Bert", foto) + card("Bert", foto) +
+                                 card("Carl", foto, "BDAY:12/04/1985") + card("Ohne", foto, "TEL:1"));
     MvCalendarEventList known;
     for (const auto order : {MvVCardDate::Order::Unknown, MvVCardDate::Order::MonthFirst}) {
         MvAddressBookImport import({file});
@@ -135,10 +135,10 @@ void tst_MvAddressBookImport::newOnesAlone()
 /// Nobody gets the face of another one whose card stands there now.
 void tst_MvAddressBookImport::changedBetweenTheSteps()
 {
-    const QByteArray photo = picture("png", {4, 4});
-    MvAddressBookImport import({write(card("Anna", photo))});
+    const QByteArray foto = picture("png", {4, 4});
+    MvAddressBookImport import({write(card("Anna", foto))});
     import.readCards();
-    write(card("Bert", photo) + card("Anna", photo));
+    write(card("Bert", foto) + card("Anna", foto));
     import.makeEntries({}, MvVCardDate::Order::Unknown);
     QVERIFY(!import.takeEvents().first().foto().isValid());
 }

@@ -14,7 +14,7 @@ class tst_MvDayTextPlacement : public MvTest
 private Q_SLOTS:
     void places_data();
     void places();
-    void leavesThePhotoItsRoom();
+    void leavesTheFotoItsRoom();
 };
 
 namespace {
@@ -95,7 +95,7 @@ void tst_MvDayTextPlacement::places()
         QVERIFY(ink.isNull() || (cell.rect.contains(ink) && !ink.intersects(cell.numberInk)));
 }
 
-void tst_MvDayTextPlacement::leavesThePhotoItsRoom()
+void tst_MvDayTextPlacement::leavesTheFotoItsRoom()
 {
     MvDayCell cell = cellOf({380, 300}, Qt::AlignTop | Qt::AlignLeft);
     const MvPlacedTexts two = placed(cell, {u"Oma"_s, u"Max"_s});

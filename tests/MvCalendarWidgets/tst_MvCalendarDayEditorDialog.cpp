@@ -74,9 +74,9 @@ private:
 
 void tst_MvCalendarDayEditorDialog::initTestCase()
 {
-    QVERIFY(MvWidgetDriver::writePhoto(path(u"rot.png"_qs), Qt::red));
-    QVERIFY(MvWidgetDriver::writePhoto(path(u"blau.png"_qs), Qt::blue));
-    QVERIFY(MvWidgetDriver::writePhoto(path(u"groß.jpg"_qs), Qt::green, {4000, 3000}));
+    QVERIFY(MvWidgetDriver::writeFoto(path(u"rot.png"_qs), Qt::red));
+    QVERIFY(MvWidgetDriver::writeFoto(path(u"blau.png"_qs), Qt::blue));
+    QVERIFY(MvWidgetDriver::writeFoto(path(u"groß.jpg"_qs), Qt::green, {4000, 3000}));
     QVERIFY(MvWidgetDriver::write(path(u"text.png"_qs), "kein Foto"));
 }
 
@@ -341,9 +341,9 @@ void tst_MvCalendarDayEditorDialog::drops()
     text.isTaken({9, 9}); // the dialog begins to read when the files come in
     QVERIFY(!text.drop({9, 9}));
     QVERIFY(!dialog.hasPhoto());
-    MvWidgetDriver::Drag photo(&dialog, {path(u"text.png"_qs), path(u"fehlt.jpg"_qs), path(u"blau.png"_qs)});
-    photo.isTaken({9, 9});
-    QVERIFY(photo.drop({9, 9}));
+    MvWidgetDriver::Drag foto(&dialog, {path(u"text.png"_qs), path(u"fehlt.jpg"_qs), path(u"blau.png"_qs)});
+    foto.isTaken({9, 9});
+    QVERIFY(foto.drop({9, 9}));
     ok(dialog)->click();
     const QFileInfo stored = events().first().imagePath();
     QCOMPARE(stored.dir(), MvCalendarEvent::imageDirectory());

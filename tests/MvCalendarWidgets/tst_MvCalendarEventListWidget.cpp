@@ -109,8 +109,8 @@ private:
 
 void tst_MvCalendarEventListWidget::initTestCase()
 {
-    QVERIFY(MvWidgetDriver::writePhoto(path(u"foto.png"_qs), Qt::blue));
-    QVERIFY(MvWidgetDriver::writeHugePhoto(path(u"huge.webp"_qs)));
+    QVERIFY(MvWidgetDriver::writeFoto(path(u"foto.png"_qs), Qt::blue));
+    QVERIFY(MvWidgetDriver::writeHugeFoto(path(u"huge.webp"_qs)));
     MvLogger::instance().setSink([this](const QString &line) { m_log.append(line); });
 }
 

@@ -209,7 +209,7 @@ void tst_MvCalendarEventModel::edits()
 void tst_MvCalendarEventModel::editsFotos()
 {
     const QTemporaryDir folder;
-    QVERIFY(MvWidgetDriver::writePhoto(folder.filePath(u"rot.png"_qs), Qt::red));
+    QVERIFY(MvWidgetDriver::writeFoto(folder.filePath(u"rot.png"_qs), Qt::red));
     MvCalendarEventModel model;
     model.load();
     const QModelIndex anna = model.index(0, MvCalendarEventModel::FotoColumn);

@@ -380,9 +380,9 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos_data()
 void tst_MvGraphicsItemCalendariumCells::droppedFotos()
 {
     const QTemporaryDir folder;
-    QVERIFY(MvWidgetDriver::writePhoto(folder.filePath(u"rot.png"_s), Qt::red));
-    QVERIFY(MvWidgetDriver::writePhoto(folder.filePath(u"blau.png"_s), Qt::blue));
-    QVERIFY(MvWidgetDriver::writeHugePhoto(folder.filePath(u"huge.webp"_s)));
+    QVERIFY(MvWidgetDriver::writeFoto(folder.filePath(u"rot.png"_s), Qt::red));
+    QVERIFY(MvWidgetDriver::writeFoto(folder.filePath(u"blau.png"_s), Qt::blue));
+    QVERIFY(MvWidgetDriver::writeHugeFoto(folder.filePath(u"huge.webp"_s)));
     QVERIFY(MvWidgetDriver::write(folder.filePath(u"text.txt"_s), "kein Foto"));
     QFETCH(QStringList, files);
     for (QString &file : files)

@@ -181,7 +181,7 @@ MvCalendarEventList tst_MvUndoCommandCalendarEvent::entriesOfFileWithFoto(const 
     const QString path = folder.filePath(u"import.xml"_qs);
     const QByteArray entry = "<CalendarEvent><Name>Import</Name><DateTime>1990-05-17T00:00:00</DateTime><Image>" +
                              foto.toUtf8() + "</Image><UUID>{11111111-2222-3333-4444-555555555555}</UUID>";
-    return MvWidgetDriver::writePhoto(folder.filePath(foto), Qt::green) &&
+    return MvWidgetDriver::writeFoto(folder.filePath(foto), Qt::green) &&
                    MvWidgetDriver::write(path, "<CalendarEvents>" + entry + "</CalendarEvent></CalendarEvents>")
                ? MvCalendarEventFile::read(QFileInfo(path)).events
                : MvCalendarEventList();

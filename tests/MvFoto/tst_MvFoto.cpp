@@ -15,7 +15,7 @@ private Q_SLOTS:
     void namesOfCopies();
     void comparesByPath();
     void mediumResolution();
-    void forbiddenPhotosStayClosed();
+    void forbiddenFotosStayClosed();
 };
 
 void tst_MvFoto::namesOfCopies_data()
@@ -81,7 +81,7 @@ void tst_MvFoto::mediumResolution()
     }
 }
 
-void tst_MvFoto::forbiddenPhotosStayClosed()
+void tst_MvFoto::forbiddenFotosStayClosed()
 {
     const QTemporaryDir dir;
     const QString path = dir.filePath(u"a.png"_qs);

@@ -33,7 +33,7 @@ QImage canvas(double pixelRatio = 1.0)
     return image;
 }
 
-QImage photo()
+QImage foto()
 {
     QImage image(40, 30, QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < image.height(); ++y) {
@@ -146,7 +146,7 @@ void drawPatterns(QPainter &painter)
     painter.setBrush(QBrush(Qt::blue, Qt::DiagCrossPattern));
     painter.drawRect(QRectF(10, 15, 90, 40));
     painter.setBrushOrigin(QPointF(3.5, 2));
-    painter.setBrush(QBrush(photo()));
+    painter.setBrush(QBrush(foto()));
     painter.drawEllipse(QRectF(20, 60, 90, 80));
     painter.fillRect(QRectF(120.3, 60.2, 70.6, 70.1), QBrush(Qt::red, Qt::Dense4Pattern));
     painter.setPen(QPen(QBrush(Qt::darkGreen, Qt::Dense3Pattern), 7));
@@ -155,19 +155,19 @@ void drawPatterns(QPainter &painter)
 
 void drawImages(QPainter &painter)
 {
-    painter.drawImage(QPointF(10, 10), photo());
-    painter.drawImage(QPointF(60.3, 10.6), photo());
-    painter.drawImage(QRectF(110.25, 10.5, 70.3, 50.8), photo());
-    painter.drawImage(QRectF(10, 60, 40, 30), photo(), QRectF(5.5, 4.5, 20, 15));
-    painter.drawPixmap(QPointF(60, 60), QPixmap::fromImage(photo()));
-    painter.drawPixmap(QRectF(110, 70, 100, 60), QPixmap::fromImage(photo()), QRectF(0, 0, 40, 30));
-    painter.drawTiledPixmap(QRectF(10, 110, 90, 70), QPixmap::fromImage(photo()), QPointF(7, 3));
+    painter.drawImage(QPointF(10, 10), foto());
+    painter.drawImage(QPointF(60.3, 10.6), foto());
+    painter.drawImage(QRectF(110.25, 10.5, 70.3, 50.8), foto());
+    painter.drawImage(QRectF(10, 60, 40, 30), foto(), QRectF(5.5, 4.5, 20, 15));
+    painter.drawPixmap(QPointF(60, 60), QPixmap::fromImage(foto()));
+    painter.drawPixmap(QRectF(110, 70, 100, 60), QPixmap::fromImage(foto()), QRectF(0, 0, 40, 30));
+    painter.drawTiledPixmap(QRectF(10, 110, 90, 70), QPixmap::fromImage(foto()), QPointF(7, 3));
     QBitmap bitmap(16, 16);
     bitmap.fill(Qt::color0);
     QPainter(&bitmap).fillRect(4, 4, 8, 8, Qt::color1);
     painter.setPen(Qt::red);
     painter.drawPixmap(120, 150, bitmap);
-    QImage dense = photo();
+    QImage dense = foto();
     dense.setDevicePixelRatio(2.0);
     painter.drawImage(QPointF(160, 150), dense);
 }
@@ -545,7 +545,7 @@ void tst_MvPaintRecording::describes()
         painter.drawLine(QPointF(1.234, 2), QPointF(-0.001, 4));
         painter.setClipRect(QRectF(5, 5, 10, 10));
         painter.setOpacity(0.25);
-        painter.drawImage(QRectF(1, 2, 3, 4), photo());
+        painter.drawImage(QRectF(1, 2, 3, 4), foto());
         painter.setClipping(false);
         painter.setOpacity(1);
         painter.setBrush(QColor(1, 2, 3, 128));

@@ -177,22 +177,22 @@ void tst_MvCalendarDocument::withoutSchemasThereIsNothing()
 void tst_MvCalendarDocument::monthsOfOneSize_data()
 {
     QTest::addColumn<QString>("layout");
-    QTest::addColumn<MvPhotoFrame::Placement>("placement");
+    QTest::addColumn<MvFotoFrame::Placement>("placement");
     QTest::addColumn<int>("percentage");
     QTest::addColumn<bool>("isCentred");
-    QTest::newRow("narrow") << u"MONTH_ONLY"_s << MvPhotoFrame::Placement::Left << 0 << true;
-    QTest::newRow("large type") << u"MONTH_ONLY"_s << MvPhotoFrame::Placement::Top << 100 << true;
-    QTest::newRow("without year") << u"MONTH_ONLY_SERIF"_s << MvPhotoFrame::Placement::Top << 0 << true;
-    QTest::newRow("title") << u"MONTH_GRID_SERIF"_s << MvPhotoFrame::Placement::Right << 0 << true;
-    QTest::newRow("spaced title") << u"MONTH_GRID_COMPACT"_s << MvPhotoFrame::Placement::Top << 0 << true;
-    QTest::newRow("line above columns") << u"WEEK_COLUMNS_COMPACT"_s << MvPhotoFrame::Placement::Left << 0 << false;
+    QTest::newRow("narrow") << u"MONTH_ONLY"_s << MvFotoFrame::Placement::Left << 0 << true;
+    QTest::newRow("large type") << u"MONTH_ONLY"_s << MvFotoFrame::Placement::Top << 100 << true;
+    QTest::newRow("without year") << u"MONTH_ONLY_SERIF"_s << MvFotoFrame::Placement::Top << 0 << true;
+    QTest::newRow("title") << u"MONTH_GRID_SERIF"_s << MvFotoFrame::Placement::Right << 0 << true;
+    QTest::newRow("spaced title") << u"MONTH_GRID_COMPACT"_s << MvFotoFrame::Placement::Top << 0 << true;
+    QTest::newRow("line above columns") << u"WEEK_COLUMNS_COMPACT"_s << MvFotoFrame::Placement::Left << 0 << false;
 }
 
 /// The longest name decides; what is centred is so by what is seen of it.
 void tst_MvCalendarDocument::monthsOfOneSize()
 {
     QFETCH(QString, layout);
-    QFETCH(MvPhotoFrame::Placement, placement);
+    QFETCH(MvFotoFrame::Placement, placement);
     QFETCH(int, percentage);
     QFETCH(bool, isCentred);
     MvCalendarDocument document = documentOf(layout);
@@ -203,9 +203,9 @@ void tst_MvCalendarDocument::monthsOfOneSize()
     int size = 0;
     for (int month = 0; month < 12; ++month) {
         MvCalendarPage page = document.pages()[month];
-        MvPhotoFrame photo(u"/foto.jpg"_s, placement);
-        photo.setShare(0.7);
-        page.setPhotoFrame(photo);
+        MvFotoFrame foto(u"/foto.jpg"_s, placement);
+        foto.setShare(0.7);
+        page.setFotoFrame(foto);
         document.setPage(month, page);
         const Item title = textsOf(document, month).constFirst();
         const QRectF room = page.calendariumRect(document.format());

@@ -60,14 +60,14 @@ private:
 void tst_MvExportJob::cleanup()
 {
     m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(writePhoto(path(u"foto.png"_s), {600, 400}));
+    QVERIFY(writeFoto(path(u"foto.png"_s), {600, 400}));
 }
 
 MvCalendarDocument tst_MvExportJob::calendar(int pages) const
 {
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, pages);
     for (int page = 0; page < pages; ++page)
-        setPhoto(calendar, page, MvPhotoFrame(path(u"foto.png"_s), MvPhotoFrame::Placement(page % 3)));
+        setFoto(calendar, page, MvFotoFrame(path(u"foto.png"_s), MvFotoFrame::Placement(page % 3)));
     return calendar;
 }
 

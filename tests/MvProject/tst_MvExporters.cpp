@@ -241,9 +241,9 @@ void tst_MvExporters::svgIsClipped_data()
         painter.drawLine(QPointF(0, 400), QPointF(3000, 400));
     });
     QTest::newRow("photo") << Painting([](QPainter &painter) {
-        QImage photo(50, 80, QImage::Format_RGB32);
-        photo.fill(Qt::black);
-        painter.drawImage(QRectF(50, 50, 1000, 1000), photo);
+        QImage foto(50, 80, QImage::Format_RGB32);
+        foto.fill(Qt::black);
+        painter.drawImage(QRectF(50, 50, 1000, 1000), foto);
     });
     QTest::newRow("text") << Painting([](QPainter &painter) {
         QFont font(u"Lato"_s, -1, QFont::Black);

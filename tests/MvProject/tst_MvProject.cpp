@@ -19,7 +19,7 @@ class tst_MvProject : public MvTest
 
 private Q_SLOTS:
     void dividesTheRange();
-    void photosFollowTheirMonths();
+    void fotosFollowTheirMonths();
     void monthsThatStayKeepTheirPage();
     void tellsWhatChanged();
     void mergesSteps_data();
@@ -59,21 +59,21 @@ void tst_MvProject::dividesTheRange()
     }
 }
 
-void tst_MvProject::photosFollowTheirMonths()
+void tst_MvProject::fotosFollowTheirMonths()
 {
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s);
     for (int page = 0; page < 12; ++page)
-        setPhoto(calendar, page, MvPhotoFrame(u"/fotos/%1.jpg"_s.arg(page + 1)));
+        setFoto(calendar, page, MvFotoFrame(u"/fotos/%1.jpg"_s.arg(page + 1)));
     const MvCalendarDocument before = calendar;
     calendar.setAppearance(appearance(u"YEAR_GRID"_s));
-    QCOMPARE(calendar.pages()[0].photoFrame().path(), u"/fotos/1.jpg"_s);
+    QCOMPARE(calendar.pages()[0].fotoFrame().path(), u"/fotos/1.jpg"_s);
     calendar.setAppearance(before.appearance());
     QVERIFY(calendar == before);
 
     calendar.setRange({QDate(2027, 3, 1), QDate(2028, 2, 28)});
-    QCOMPARE(calendar.pages()[0].photoFrame().path(), u"/fotos/3.jpg"_s);
-    QVERIFY(!calendar.pages()[11].photoFrame().isValid()); // a new month has none
-    QCOMPARE(calendar.sparePhotos().keys(), (QList<QDate>{QDate(2027, 1, 1), QDate(2027, 2, 1)}));
+    QCOMPARE(calendar.pages()[0].fotoFrame().path(), u"/fotos/3.jpg"_s);
+    QVERIFY(!calendar.pages()[11].fotoFrame().isValid()); // a new month has none
+    QCOMPARE(calendar.spareFotos().keys(), (QList<QDate>{QDate(2027, 1, 1), QDate(2027, 2, 1)}));
     calendar.setRange(before.range());
     QVERIFY(calendar == before);
 }
@@ -155,7 +155,7 @@ void tst_MvProject::mergesSteps()
     int number = 0;
     for (const auto &[page, mergeId] : changes) {
         MvCalendarPage changed = project.document().pages()[page];
-        changed.setPhotoFrame(MvPhotoFrame(u"/fotos/%1.jpg"_s.arg(++number)));
+        changed.setFotoFrame(MvFotoFrame(u"/fotos/%1.jpg"_s.arg(++number)));
         project.changePage(page, changed, u"Foto"_s, mergeId);
     }
     const MvCalendarDocument after = project.document();

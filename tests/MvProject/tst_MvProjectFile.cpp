@@ -20,7 +20,7 @@ private Q_SLOTS:
     void roundTripOfAppearances_data();
     void roundTripOfAppearances();
     void writesNothingThatDoesNotOpenAgain();
-    void photosMoveWithTheirFolder();
+    void fotosMoveWithTheirFolder();
     void keepsUnknownSchemas();
     void mendsWhatItCan_data();
     void mendsWhatItCan();
@@ -70,16 +70,16 @@ void tst_MvProjectFile::roundTrip_data()
     content.setCalendarWeekHeadlineOption(MvCalendarWeekHeadlineOption(u"Woche"_s));
     content.setCalendarWeekTextOption(MvCalendarWeekTextOption(u"W%1"_s));
     page.setContentConfig(content);
-    MvPhotoFrame photo(u"/anderswo/Foto mit Ümlaut.jpg"_s, MvPhotoFrame::Placement::Right);
-    photo.setShare(0.4321);
-    photo.setFocus({0.1, 1.0 / 3.0});
-    page.setPhotoFrame(photo);
+    MvFotoFrame foto(u"/anderswo/Foto mit Ümlaut.jpg"_s, MvFotoFrame::Placement::Right);
+    foto.setShare(0.4321);
+    foto.setFocus({0.1, 1.0 / 3.0});
+    page.setFotoFrame(foto);
     colorful.setPage(1, page);
     colorful.setAuthor(u"Jürgen"_s);
     QTest::newRow("everything changed") << colorful;
 
     MvCalendarDocument years = document(u"MONTH_GRID_CLASSIC"_s, 24);
-    setPhoto(years, 5, MvPhotoFrame(u"/fotos/6.jpg"_s));
+    setFoto(years, 5, MvFotoFrame(u"/fotos/6.jpg"_s));
     years.setAppearance(appearance(u"YEAR_GRID"_s));
     QTest::newRow("years with a photo in reserve") << years;
 
@@ -163,19 +163,19 @@ void tst_MvProjectFile::writesNothingThatDoesNotOpenAgain()
     QVERIFY(MvProjectFile::read(file()).isOk()); // the state of before
 }
 
-void tst_MvProjectFile::photosMoveWithTheirFolder()
+void tst_MvProjectFile::fotosMoveWithTheirFolder()
 {
     QVERIFY(QDir(m_folder.path()).mkpath(u"alt/fotos"_s));
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
-    setPhoto(calendar, 0, MvPhotoFrame(m_folder.filePath(u"alt/fotos/oma.png"_s)));
-    setPhoto(calendar, 1, MvPhotoFrame(m_folder.filePath(u"neben.png"_s)));
+    setFoto(calendar, 0, MvFotoFrame(m_folder.filePath(u"alt/fotos/oma.png"_s)));
+    setFoto(calendar, 1, MvFotoFrame(m_folder.filePath(u"neben.png"_s)));
     QCOMPARE(MvProjectFile::write(calendar, file(u"alt/k.mvcalendar"_s)).error, QString());
     QVERIFY(QDir(m_folder.path()).rename(u"alt"_s, u"neu"_s));
-    QVERIFY(writePhoto(m_folder.filePath(u"neu/fotos/oma.png"_s), {40, 30}));
+    QVERIFY(writeFoto(m_folder.filePath(u"neu/fotos/oma.png"_s), {40, 30}));
     const MvProjectFile::Content content = MvProjectFile::read(file(u"neu/k.mvcalendar"_s));
-    QCOMPARE(content.document.pages()[0].photoFrame().path(), m_folder.filePath(u"neu/fotos/oma.png"_s));
+    QCOMPARE(content.document.pages()[0].fotoFrame().path(), m_folder.filePath(u"neu/fotos/oma.png"_s));
     // what is missing keeps its path and is told
-    QCOMPARE(content.document.missingPhotos(), QStringList{m_folder.filePath(u"neben.png"_s)});
+    QCOMPARE(content.document.missingFotos(), QStringList{m_folder.filePath(u"neben.png"_s)});
 }
 
 void tst_MvProjectFile::keepsUnknownSchemas()

@@ -39,7 +39,7 @@ private Q_SLOTS:
     void hints_data();
     void hints();
     void reportsTextsWithoutRoom();
-    void reportsCoarsePhotos();
+    void reportsCoarseFotos();
     void project();
     void brokenOutput();
     void littleMemory();
@@ -485,7 +485,7 @@ void tst_mvcalendar::hints()
     QVERIFY2(expected.match(QString::fromUtf8(call.err)).hasMatch(), call.err.constData());
 }
 
-void tst_mvcalendar::reportsCoarsePhotos()
+void tst_mvcalendar::reportsCoarseFotos()
 {
     QVERIFY(QImage(900, 700, QImage::Format_RGB32).save(path(u"grob.png"_s)));
     write(path(u"k.mvcalendar"_s),
@@ -496,11 +496,11 @@ void tst_mvcalendar::reportsCoarsePhotos()
     const QString err = QString::fromUtf8(run(arguments).err); // 148 mm are 5.83 inches: 154 pixels each
     QVERIFY2(err.startsWith(u"mvcalendar: k.mvcalendar: 1 Foto "_s) && err.count(u'\n') == 1, qPrintable(err));
     const QJsonDocument report = QJsonDocument::fromJson(run(arguments + u" --report json"_s).out);
-    const QJsonObject photo = report[u"photos"_s][0].toObject();
-    QCOMPARE(photo.value(u"ppi"_s).toInt(), 154);
-    QCOMPARE(photo.value(u"quality"_s).toString(), u"modest"_s);
-    QCOMPARE(photo.value(u"path"_s).toString(), path(u"grob.png"_s));
-    QVERIFY(photo.value(u"page"_s).toInt() == 1 && photo.value(u"date"_s).isNull());
+    const QJsonObject foto = report[u"photos"_s][0].toObject();
+    QCOMPARE(foto.value(u"ppi"_s).toInt(), 154);
+    QCOMPARE(foto.value(u"quality"_s).toString(), u"modest"_s);
+    QCOMPARE(foto.value(u"path"_s).toString(), path(u"grob.png"_s));
+    QVERIFY(foto.value(u"page"_s).toInt() == 1 && foto.value(u"date"_s).isNull());
     QVERIFY(QImage(800, 700, QImage::Format_RGB32).save(path(u"grob.png"_s)));
     const QString poor = QString::fromUtf8(run(arguments).err);
     QVERIFY2(poor.contains(u"nur 137 Pixel je Zoll"_s) && poor.contains(u"grob.png"_s), qPrintable(poor));

@@ -154,7 +154,7 @@ void MvPageAudit::checkPair(const Item &a, const Item &b)
         const Item &image = a.kind == Item::Text ? b : a;
         const QRectF covered = image.bounds.adjusted(hair, hair, -hair, -hair);
         if (text.kind == Item::Text && overlap(text.bounds, covered, 0.0) && text.shape.intersects(covered))
-            add(PhotoOnText, describe(text));
+            add(FotoOnText, describe(text));
         return;
     }
     if (overlap(a.bounds, b.bounds, hair)) {

@@ -13,7 +13,7 @@ public:
         TextsMeet,     ///< ink of two texts on each other
         TextsRunOn,    ///< two texts on a line with less than a blank between
         LineThrough,   ///< a line crosses letters
-        PhotoOnText,   ///< a photo of an entry covers letters
+        FotoOnText,    ///< a photo of an entry covers letters
         TypeTooSmall,  ///< under the floor
         NegativeSize,  ///< a cell of no or less than no size
         CellsOverlap,  ///< two days, or two grounds of one colour

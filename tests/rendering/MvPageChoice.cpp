@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
-#include "MvProject/MvPhotoFrame.h"
+#include "MvProject/MvFotoFrame.h"
 
 #include <QMap>
 
@@ -62,8 +62,8 @@ const QStringList &MvPageChoice::places()
 
 const QList<double> &MvPageChoice::shares()
 {
-    static const QList<double> shares{MvPhotoFrame::minimumShare, 0.45, MvPhotoFrame::defaultShare, 0.65,
-                                      MvPhotoFrame::maximumShare};
+    static const QList<double> shares{MvFotoFrame::minimumShare, 0.45, MvFotoFrame::defaultShare, 0.65,
+                                      MvFotoFrame::maximumShare};
     return shares;
 }
 
@@ -90,8 +90,10 @@ QStringList MvPageChoice::layouts()
 
 QList<int> MvPageChoice::factorSizes()
 {
-    return {int(papers().size()),    int(places().size()), int(shares().size()), int(fonts().size()),
-            int(languages().size()), Photos + 1,           int(months().size()), 2};
+    return {int(papers().size()),    int(places().size()),
+            int(shares().size()),    int(fonts().size()),
+            int(languages().size()), Fotos + 1,
+            int(months().size()),    2};
 }
 
 MvPageChoice MvPageChoice::of(const QString &layout, const QList<int> &values)

@@ -12,7 +12,7 @@
 /// What a person chooses for a page.
 struct MvPageChoice
 {
-    enum Entries { None, Short, Long, Many, Photos };
+    enum Entries { None, Short, Long, Many, Fotos };
 
     QString layout;
     QString paper; ///< "A5", "A4 landscape", "90x55"
@@ -26,7 +26,7 @@ struct MvPageChoice
     bool hasWeeks = true;        ///< asked for; not every layout has them
     std::optional<bool> hasGrid; ///< as the layout has it, if not said
     QString colors = QStringLiteral("PAPER_WHITE");
-    QString photo = QStringLiteral("/photo.jpg"); ///< the file; there need not be any
+    QString foto = QStringLiteral("/photo.jpg"); ///< the file; there need not be any
 
     /// One line, "MONTH_ONLY, A4 landscape, photo left 0.65, 150 %, de_DE BY, long names, 2027-05, weeks".
     QString describe() const;

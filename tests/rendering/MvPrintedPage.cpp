@@ -22,7 +22,7 @@ namespace {
 
 constexpr double floorOfType = 6.5 / 72.0 * 254.0; // 6.5 points on paper, in tenths of a millimetre
 
-MvFoto samplePhoto()
+MvFoto sampleFoto()
 {
     const QString path = QDir::temp().filePath(u"every-page-%1.png"_s.arg(QCoreApplication::applicationPid()));
     if (!QFileInfo::exists(path)) {
@@ -53,8 +53,8 @@ MvCalendarEventList entriesOf(MvPageChoice::Entries kind)
                 for (const QString &name :
                      {u"Jörg"_s, u"Oma Erika (80)"_s, u"Hochzeitstag Anna und Max"_s, u"Zahnarzt"_s})
                     list << entry(name, date);
-            } else if (kind == MvPageChoice::Photos && day == 14) {
-                list << entry(u"Hochzeitstag Anna und Max"_s, date, samplePhoto());
+            } else if (kind == MvPageChoice::Fotos && day == 14) {
+                list << entry(u"Hochzeitstag Anna und Max"_s, date, sampleFoto());
             }
         }
     }
@@ -112,10 +112,10 @@ MvPrintedPage::MvPrintedPage(const MvPageChoice &choice, const QString &family, 
     holidays.setFeature(FEATURE_CALENDAR_WEEKS, choice.hasWeeks);
     m_page = MvCalendarPage(appearanceOf(choice, family), MvCalendariumContentConfig(choice.month, holidays));
     if (choice.place != u"none"_s) {
-        const auto placement = MvPhotoFrame::Placement(MvPageChoice::places().indexOf(choice.place) - 1);
-        MvPhotoFrame photo(choice.photo, placement);
-        photo.setShare(choice.share);
-        m_page.setPhotoFrame(photo);
+        const auto placement = MvFotoFrame::Placement(MvPageChoice::places().indexOf(choice.place) - 1);
+        MvFotoFrame foto(choice.foto, placement);
+        foto.setShare(choice.share);
+        m_page.setFotoFrame(foto);
     }
     items = m_page
                 .record(

@@ -57,7 +57,7 @@ void makeSheets(const QDir &folder, const MvPageChoice &usual)
         papers.last().paper = paper;
     }
     for (const int font : MvPageChoice::fonts()) {
-        for (const MvPageChoice::Entries entries : {MvPageChoice::Many, MvPageChoice::Photos}) {
+        for (const MvPageChoice::Entries entries : {MvPageChoice::Many, MvPageChoice::Fotos}) {
             fonts << usual;
             fonts.last().font = font;
             fonts.last().entries = entries;
@@ -93,7 +93,7 @@ int main(int argc, char **argv)
     usual.language = MvLocale(u"de_DE"_s);
     usual.region = u"BY"_s;
     usual.month = QDate(2027, 5, 1);
-    usual.photo = QStringLiteral(MV_SAMPLES "/bergsee.jpg");
+    usual.foto = QStringLiteral(MV_SAMPLES "/bergsee.jpg");
     for (const QString &layout : arguments.size() > 2 ? arguments.mid(2) : MvPageChoice::layouts()) {
         usual.layout = layout;
         makeSheets(QDir(arguments.at(1)), usual);

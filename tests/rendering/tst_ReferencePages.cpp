@@ -20,7 +20,7 @@ bool isYear(const QString &layout)
 }
 
 /// The pages of a layout that stand in its file: together they have all that a page can have.
-QList<MvPageChoice> pagesOf(const QString &layout, const QString &photo)
+QList<MvPageChoice> pagesOf(const QString &layout, const QString &foto)
 {
     MvPageChoice plain;
     plain.layout = layout;
@@ -35,9 +35,9 @@ QList<MvPageChoice> pagesOf(const QString &layout, const QString &photo)
     MvPageChoice full = plain;
     full.paper = u"A4"_s;
     full.place = u"top"_s;
-    full.photo = photo;
+    full.foto = foto;
     full.share = 0.45;
-    full.entries = MvPageChoice::Photos;
+    full.entries = MvPageChoice::Fotos;
     full.month = QDate(2026, 8, 1); // six weeks
     full.hasGrid = true;
     full.colors = u"SLATE"_s; // tells alternate weeks apart
@@ -45,7 +45,7 @@ QList<MvPageChoice> pagesOf(const QString &layout, const QString &photo)
     MvPageChoice narrow = plain;
     narrow.paper = u"A5"_s;
     narrow.place = u"right"_s;
-    narrow.photo = photo;
+    narrow.foto = foto;
     narrow.share = 0.65;
     narrow.language = MvLocale(u"fr_CH"_s);
     narrow.region = u"GE"_s;
@@ -55,10 +55,10 @@ QList<MvPageChoice> pagesOf(const QString &layout, const QString &photo)
     return isYear(layout) ? QList<MvPageChoice>{plain, full} : QList<MvPageChoice>{plain, full, narrow};
 }
 
-QString describe(const QString &layout, const QString &photo)
+QString describe(const QString &layout, const QString &foto)
 {
     QString text;
-    for (const MvPageChoice &choice : pagesOf(layout, photo)) {
+    for (const MvPageChoice &choice : pagesOf(layout, foto)) {
         const QString grid = choice.hasGrid.has_value() ? (*choice.hasGrid ? u", grid"_s : u", no grid"_s) : QString();
         text += heading + choice.describe() + grid + u", "_s + choice.colors + u'\n';
         text += MvPrintedPage(choice, MvBoxFont::family()).describe();
@@ -160,15 +160,15 @@ private Q_SLOTS:
 
 private:
     QTemporaryDir m_folder;
-    QString m_photo;
+    QString m_foto;
 };
 
 void tst_ReferencePages::initTestCase()
 {
     QImage image(90, 50, QImage::Format_RGB32);
     image.fill(Qt::darkCyan);
-    m_photo = m_folder.filePath(u"photo.png"_s);
-    QVERIFY(image.save(m_photo));
+    m_foto = m_folder.filePath(u"photo.png"_s);
+    QVERIFY(image.save(m_foto));
 }
 
 void tst_ReferencePages::filesAreThoseOfTheLayouts()
@@ -197,7 +197,7 @@ void tst_ReferencePages::page()
 {
     QFETCH(QString, layout);
     const QString file = QStringLiteral(MV_REFERENCE "/") + layout + u".txt"_s;
-    const QString actual = describe(layout, m_photo);
+    const QString actual = describe(layout, m_foto);
     if (!qEnvironmentVariableIsEmpty("MV_ACCEPT_PAGES")) {
         write(file, actual);
         return;

@@ -116,7 +116,7 @@ int stateAfterDamage(const QDir &disk)
 }
 
 /// A photo that somebody has chosen: it is copied, then the entry saved.
-QString storePhoto(const QDir &disk, int state)
+QString storeFoto(const QDir &disk, int state)
 {
     const QString source = QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state);
     MvCalendarEvent entry = MvEntries::entry(nameOf(state), {1960, 5, 17});
@@ -128,14 +128,14 @@ QString storePhoto(const QDir &disk, int state)
     return toldProblem();
 }
 
-void makePhoto(const QDir &disk, int state)
+void makeFoto(const QDir &disk, int state)
 {
     QImage image(100 + state, 80, QImage::Format_RGB32);
     image.fill(Qt::red);
     image.save(QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state));
 }
 
-int stateOfPhoto(const QDir &disk)
+int stateOfFoto(const QDir &disk)
 {
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(ownList(disk)));
     if (content.isMissing)
@@ -333,7 +333,7 @@ QList<MvStorageOperation> operations()
         {"list export", Application::Core, exportList,
          [](const QDir &disk) { return stateOfEntries(disk.filePath(u"Liste.xml"_s)); }},
         {"list in place of a damaged one", Application::Core, storeEntries, stateAfterDamage, damageList},
-        {"photo of an entry", Application::Core, storePhoto, stateOfPhoto, makePhoto},
+        {"photo of an entry", Application::Core, storeFoto, stateOfFoto, makeFoto},
         {"colour schemas", Application::Gui, storeColors, stateOfColors},
         {"project", Application::Gui, storeProject, stateOfProject},
         {"autosave", Application::Gui, autosave, stateOfAutosave, discardAutosaves},

@@ -117,7 +117,7 @@ private Q_SLOTS:
     void survives();
 
 private:
-    MvCalendarEventList createEvents(const QString &photo) const;
+    MvCalendarEventList createEvents(const QString &foto) const;
     QStringList createFiles() const;
     void check();
     void checkEntries();
@@ -145,12 +145,12 @@ void tst_StudioMonkey::cleanup()
     m_studio.reset();
 }
 
-MvCalendarEventList tst_StudioMonkey::createEvents(const QString &photo) const
+MvCalendarEventList tst_StudioMonkey::createEvents(const QString &foto) const
 {
     MvCalendarEventList events;
     for (int day = 1; day < 20; ++day)
         events.append(MvEntries::entry(u"Person %1"_s.arg(day), {1980 + day, 1 + day % 12, day},
-                                       day % 5 == 0 ? MvFoto(QFileInfo(photo)) : MvFoto(), day % 3 > 0));
+                                       day % 5 == 0 ? MvFoto(QFileInfo(foto)) : MvFoto(), day % 3 > 0));
     return events;
 }
 
@@ -162,16 +162,16 @@ QStringList tst_StudioMonkey::createFiles() const
             file.write(content);
         return file.fileName();
     };
-    const QString photo = m_studio->path(u"Foto.png"_s);
+    const QString foto = m_studio->path(u"Foto.png"_s);
     const QString upright = m_studio->path(u"Hochkant.jpg"_s);
-    MvProjectFixture::writePhoto(photo, {300, 200});
-    MvProjectFixture::writePhoto(upright, {90, 160});
-    const MvCalendarEventList events = createEvents(photo);
+    MvProjectFixture::writeFoto(foto, {300, 200});
+    MvProjectFixture::writeFoto(upright, {90, 160});
+    const MvCalendarEventList events = createEvents(foto);
     const QString calendar = m_studio->path(u"Kalender."_s + MvProjectFile::suffix());
     MvProjectFile::write(MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 3), QFileInfo(calendar));
-    return {photo,
+    return {foto,
             upright,
-            photo,
+            foto,
             calendar,
             write(u"Termine.xml"_s, MvCalendarEventFile::toBytes(events)),
             write(u"kaputt.xml"_s, MvCalendarEventFile::toBytes(events).chopped(700)),

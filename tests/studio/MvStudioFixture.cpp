@@ -122,7 +122,7 @@ MvPageItem *MvStudioFixture::page() const
     return canvas()->pageItem();
 }
 
-QString MvStudioFixture::writePhoto(const QString &name, const QColor &color, const QSize &size) const
+QString MvStudioFixture::writeFoto(const QString &name, const QColor &color, const QSize &size) const
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);

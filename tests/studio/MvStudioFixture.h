@@ -44,7 +44,7 @@ public:
     MvPageItem *page() const;
     QString path(const QString &name) const { return m_folder.filePath(name); }
     /// A photo of that colour.
-    QString writePhoto(const QString &name, const QColor &color, const QSize &size = {300, 200}) const;
+    QString writeFoto(const QString &name, const QColor &color, const QSize &size = {300, 200}) const;
 
     /// The widget under a name that is to be seen; null when none is.
     template <class Widget = QWidget>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvProjectFixture.h"
+#include "pages/MvFotoHandle.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageDropTarget.h"
 #include "pages/MvPageItem.h"
-#include "pages/MvPhotoHandle.h"
-#include "pages/MvScreenPhotos.h"
+#include "pages/MvScreenFotos.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -40,23 +40,23 @@ struct OpenCanvas
     /// What changed is recorded and painted.
     void settle() { item()->refreshNow(); }
     MvPageItem *item() const { return canvas->pageItem(); }
-    MvPhotoFrame photo(int page = 0) const { return project.document().pages().at(page).photoFrame(); }
+    MvFotoFrame foto(int page = 0) const { return project.document().pages().at(page).fotoFrame(); }
     QPoint viewPoint(const QPointF &onPage) const { return canvas->mapFromScene(item()->mapToScene(onPage)); }
     QPoint viewPoint(const QDate &date) const { return viewPoint(item()->dateRect(date).center()); }
     int steps() const { return MvUndoController::instance().stack()->index(); }
 
-    QString writePhoto(const QSize &size = {300, 200}) const
+    QString writeFoto(const QSize &size = {300, 200}) const
     {
         const QString path = folder.filePath(u"foto%1x%2.png"_s.arg(size.width()).arg(size.height()));
-        return MvProjectFixture::writePhoto(path, size) ? path : QString();
+        return MvProjectFixture::writeFoto(path, size) ? path : QString();
     }
-    void setPhoto(const QSize &size = {300, 200})
+    void setFoto(const QSize &size = {300, 200})
     {
-        const QString path = writePhoto(size);
-        canvas->setPhoto(path);
+        const QString path = writeFoto(size);
+        canvas->setFoto(path);
         settle();
         canvas->grab(); // asks for the photo
-        QTRY_VERIFY(!item()->photos()->photo(path, {16, 16}).isNull());
+        QTRY_VERIFY(!item()->fotos()->foto(path, {16, 16}).isNull());
     }
 
     QString dropText() const
@@ -92,12 +92,12 @@ class tst_MvPageCanvas : public MvWidgetTest
 
 private Q_SLOTS:
     void init();
-    void photoDropped();
-    void refusesWhatIsNoPhoto();
-    void photoComesBack();
-    void edgeOfThePhotoIsPulled();
-    void photoMovesInItsFrame();
-    void contextMenuPlacesThePhoto();
+    void fotoDropped();
+    void refusesWhatIsNoFoto();
+    void fotoComesBack();
+    void edgeOfTheFotoIsPulled();
+    void fotoMovesInItsFrame();
+    void contextMenuPlacesTheFoto();
     void keyboardGoesThroughTheCalendar();
     void zooms();
     void looksWithoutRecording();
@@ -111,122 +111,122 @@ void tst_MvPageCanvas::init()
     MvUndoController::instance().clear();
 }
 
-void tst_MvPageCanvas::photoDropped()
+void tst_MvPageCanvas::fotoDropped()
 {
-    using Placement = MvPhotoFrame::Placement;
+    using Placement = MvFotoFrame::Placement;
     const auto drop = [](OpenCanvas &open, const QPoint &position, const QSize &size, Qt::KeyboardModifiers modifiers) {
-        MvWidgetDriver::Drag drag(open.canvas->viewport(), {open.writePhoto(size)}, modifiers);
+        MvWidgetDriver::Drag drag(open.canvas->viewport(), {open.writeFoto(size)}, modifiers);
         const QString said = drag.isTaken(position) ? open.dropText() : QString();
         return drag.drop(position) && open.dropText().isEmpty() ? said : QString();
     };
-    const std::pair<QSize, Placement> photos[] = {{{300, 200}, Placement::Top}, {{200, 300}, Placement::Left}};
-    for (const auto &[size, placement] : photos) {
+    const std::pair<QSize, Placement> fotos[] = {{{300, 200}, Placement::Top}, {{200, 300}, Placement::Left}};
+    for (const auto &[size, placement] : fotos) {
         OpenCanvas open;
         QCOMPARE(drop(open, open.viewPoint(QPointF(40, 40)), size, {}), u"Foto der Seite"_s); // beside the days
-        QCOMPARE(open.photo().path(), open.writePhoto(size));
-        QCOMPARE(open.photo().placement(), placement);
+        QCOMPARE(open.foto().path(), open.writeFoto(size));
+        QCOMPARE(open.foto().placement(), placement);
         QCOMPARE(open.steps(), 1);
         MvUndoController::instance().undo();
-        QVERIFY(!open.photo().isValid());
+        QVERIFY(!open.foto().isValid());
         const QPoint day = open.viewPoint(QDate(2027, 1, 12));
         QCOMPARE(drop(open, day, size, {}), u"Foto für den 12. Januar"_s);
-        QVERIFY(!open.photo().isValid());
+        QVERIFY(!open.foto().isValid());
         auto *editor = MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>(); // a new entry with the photo
         QVERIFY(editor);
         editor->rejectedClicked();
         QCOMPARE(drop(open, day, size, Qt::ShiftModifier), u"Foto der Seite"_s);
-        QVERIFY(open.photo().isValid());
+        QVERIFY(open.foto().isValid());
     }
 }
 
-void tst_MvPageCanvas::refusesWhatIsNoPhoto()
+void tst_MvPageCanvas::refusesWhatIsNoFoto()
 {
     OpenCanvas open;
     const QString letter = open.folder.filePath(u"brief.jpg"_s);
     QVERIFY(MvWidgetDriver::write(letter, "kein Foto"));
     QVERIFY(!MvWidgetDriver::Drag(open.canvas->viewport(), {letter}).isTaken(open.viewPoint(QPointF(40, 40))));
     QSignalSpy said(open.canvas.get(), &MvPageCanvas::message);
-    open.canvas->setPhoto(letter);
+    open.canvas->setFoto(letter);
     QVERIFY(said.value(0).value(0).toString().contains(u"brief.jpg"));
-    QVERIFY(!open.photo().isValid());
+    QVERIFY(!open.foto().isValid());
     QCOMPARE(open.steps(), 0);
 
-    open.setPhoto();
-    QVERIFY(MvWidgetDriver::writeHugePhoto(letter));
-    open.canvas->setPhoto(letter);
+    open.setFoto();
+    QVERIFY(MvWidgetDriver::writeHugeFoto(letter));
+    open.canvas->setFoto(letter);
     QVERIFY(said.last().value(0).toString().contains(u"viel zu klein"));
-    QVERIFY(open.photo().isValid() && open.photo().path() != letter);
+    QVERIFY(open.foto().isValid() && open.foto().path() != letter);
     QCOMPARE(open.steps(), 1);
 }
 
 /// Its file goes and comes while the page is shown.
-void tst_MvPageCanvas::photoComesBack()
+void tst_MvPageCanvas::fotoComesBack()
 {
     OpenCanvas open;
-    open.setPhoto();
-    const QString path = open.photo().path();
-    const auto photoColor = [&open] {
+    open.setFoto();
+    const QString path = open.foto().path();
+    const auto fotoColor = [&open] {
         const QImage image = open.canvas->viewport()->grab().toImage();
-        return image.pixelColor(open.viewPoint(open.item()->photoRect().topLeft() + QPointF(30, 30)));
+        return image.pixelColor(open.viewPoint(open.item()->fotoRect().topLeft() + QPointF(30, 30)));
     };
-    QCOMPARE(photoColor(), QColor(Qt::red));
+    QCOMPARE(fotoColor(), QColor(Qt::red));
     QVERIFY(QFile::rename(path, path + u"-weg"_s));
-    open.item()->photos()->recheck(); // as when the program is activated again
-    QTRY_VERIFY(open.item()->photos()->isUnreadable(path) || (photoColor(), false));
-    QVERIFY(photoColor() != QColor(Qt::red));
+    open.item()->fotos()->recheck(); // as when the program is activated again
+    QTRY_VERIFY(open.item()->fotos()->isUnreadable(path) || (fotoColor(), false));
+    QVERIFY(fotoColor() != QColor(Qt::red));
     QVERIFY(QFile::rename(path + u"-weg"_s, path));
-    QTRY_COMPARE(photoColor(), QColor(Qt::red)); // by itself
+    QTRY_COMPARE(fotoColor(), QColor(Qt::red)); // by itself
 }
 
-void tst_MvPageCanvas::edgeOfThePhotoIsPulled()
+void tst_MvPageCanvas::edgeOfTheFotoIsPulled()
 {
     OpenCanvas open;
-    open.setPhoto();
-    const QRectF before = open.item()->photoRect();
+    open.setFoto();
+    const QRectF before = open.item()->fotoRect();
     const QPointF grip(before.center().x(), before.bottom());
     open.dragMouse(open.viewPoint(grip), open.viewPoint(grip - QPointF(0, 200)), false);
-    QTRY_VERIFY(qAbs(open.item()->photoRect().bottom() - (before.bottom() - 200)) < 20); // follows while it is pulled
+    QTRY_VERIFY(qAbs(open.item()->fotoRect().bottom() - (before.bottom() - 200)) < 20); // follows while it is pulled
     QCOMPARE(open.steps(), 1);
     QTest::keyClick(open.canvas.get(), Qt::Key_Escape);
     QTest::mouseRelease(open.canvas->viewport(), Qt::LeftButton, {}, open.viewPoint(grip));
     open.settle();
-    QCOMPARE(open.item()->photoRect(), before);
+    QCOMPARE(open.item()->fotoRect(), before);
 
     open.dragMouse(open.viewPoint(grip), open.viewPoint(grip - QPointF(0, 200)));
     open.settle();
-    QVERIFY(qAbs(open.item()->photoRect().bottom() - (before.bottom() - 200)) < 20);
+    QVERIFY(qAbs(open.item()->fotoRect().bottom() - (before.bottom() - 200)) < 20);
     QCOMPARE(open.steps(), 2);
     MvUndoController::instance().undo();
     open.settle();
-    QCOMPARE(open.item()->photoRect(), before);
+    QCOMPARE(open.item()->fotoRect(), before);
 }
 
-void tst_MvPageCanvas::photoMovesInItsFrame()
+void tst_MvPageCanvas::fotoMovesInItsFrame()
 {
     OpenCanvas open;
-    open.setPhoto({200, 800}); // upright: the frame at its side shows a part of its height
+    open.setFoto({200, 800}); // upright: the frame at its side shows a part of its height
     open.canvas->grab();
-    const QPointF focus = open.photo().focus();
-    const QPointF centre = open.item()->photoRect().center();
+    const QPointF focus = open.foto().focus();
+    const QPointF centre = open.item()->fotoRect().center();
     open.dragMouse(open.viewPoint(centre), open.viewPoint(centre + QPointF(0, 300)));
-    QVERIFY(open.photo().focus().y() < focus.y()); // pulled down, more of its top is seen
+    QVERIFY(open.foto().focus().y() < focus.y()); // pulled down, more of its top is seen
     QCOMPARE(open.steps(), 2);
 
-    const double y = open.photo().focus().y();
+    const double y = open.foto().focus().y();
     QTest::keyClick(open.canvas.get(), Qt::Key_Down, Qt::AltModifier);
     QTest::keyClick(open.canvas.get(), Qt::Key_Down, Qt::AltModifier);
-    QVERIFY(open.photo().focus().y() > y);
+    QVERIFY(open.foto().focus().y() > y);
     QCOMPARE(open.steps(), 3); // both keys are one step
 }
 
 /// On a day it has that day's entries, too.
-void tst_MvPageCanvas::contextMenuPlacesThePhoto()
+void tst_MvPageCanvas::contextMenuPlacesTheFoto()
 {
     OpenCanvas open;
-    open.setPhoto();
+    open.setFoto();
     const std::unique_ptr<QMenu> menu(open.canvas->createContextMenu(open.viewPoint(QDate(2027, 1, 12))));
     menu->findChild<QAction *>(u"photoSize50"_s)->trigger();
-    QCOMPARE(open.photo().share(), 0.5);
+    QCOMPARE(open.foto().share(), 0.5);
     QCOMPARE(open.steps(), 2);
     const QList<QAction *> actions = menu->actions();
     QVERIFY(std::any_of(actions.begin(), actions.end(),

@@ -21,7 +21,7 @@ private Q_SLOTS:
     void init();
     void thumbnailsArriveAndFollow();
     void choosesPages();
-    void photoOnAThumbnail();
+    void fotoOnAThumbnail();
 
 private:
     static bool show(MvPageStrip &strip);
@@ -101,11 +101,11 @@ void tst_MvPageStrip::choosesPages()
     QCOMPARE(strip.currentIndex().data().toString(), u"April 2028"_s);
 }
 
-void tst_MvPageStrip::photoOnAThumbnail()
+void tst_MvPageStrip::fotoOnAThumbnail()
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"foto.png"_s);
-    QVERIFY(MvProjectFixture::writePhoto(path, {300, 200}));
+    QVERIFY(MvProjectFixture::writeFoto(path, {300, 200}));
     MvProject project;
     project.newProject(MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 12));
     MvPageStrip strip(&project);
@@ -115,7 +115,7 @@ void tst_MvPageStrip::photoOnAThumbnail()
     const QPoint position = strip.visualRect(strip.model()->index(1, 0)).center();
     MvWidgetDriver::Drag drag(strip.viewport(), {path});
     QVERIFY(drag.isTaken(position) && drag.drop(position));
-    QCOMPARE(project.document().pages().at(1).photoFrame().path(), path);
+    QCOMPARE(project.document().pages().at(1).fotoFrame().path(), path);
     // decoded in the background, then seen: red at its upper left
     QTRY_COMPARE(strip.thumbnail(1).pixelColor(6, 6), QColor(Qt::red));
     QVERIFY(strip.thumbnail(1) != before);

@@ -298,7 +298,7 @@ void tst_MvStudioWindow::statusBar()
     few.fill(Qt::green);
     QVERIFY(few.save(path(u"klein.png"_s)));
     MvCalendarPage page = project()->document().pages().at(4);
-    page.setPhotoFrame(MvPhotoFrame(path(u"klein.png"_s)));
+    page.setFotoFrame(MvFotoFrame(path(u"klein.png"_s)));
     project()->changePage(4, page, u"Foto"_s);
     QTRY_COMPARE(button->text(), u"2 Hinweise zum Druck"_s);
     Q_EMIT button->menu()->aboutToShow();

@@ -42,7 +42,7 @@ private Q_SLOTS:
     void layouts_data();
     void layouts();
     void paper();
-    void pagePhoto();
+    void pageFoto();
     void onlyThisPage();
 
 private:
@@ -306,21 +306,21 @@ void tst_StudioDesignJourneys::paper()
     QCOMPARE(studio.find<QComboBox>("orientation")->currentText(), u"Querformat"_s);
 }
 
-void tst_StudioDesignJourneys::pagePhoto()
+void tst_StudioDesignJourneys::pageFoto()
 {
     MvStudioFixture studio;
-    const QString photo = studio.writePhoto(u"foto.png"_s, Qt::green);
+    const QString foto = studio.writeFoto(u"foto.png"_s, Qt::green);
     const QRectF dayBefore = studio.page()->dateRect(newYear);
-    QVERIFY(studio.dropOnDate(newYear, photo, Qt::ShiftModifier)); // the page is meant, not the day
-    const auto frame = [&studio] { return studio.document().pages().at(0).photoFrame(); };
-    QCOMPARE(frame().path(), photo);
+    QVERIFY(studio.dropOnDate(newYear, foto, Qt::ShiftModifier)); // the page is meant, not the day
+    const auto frame = [&studio] { return studio.document().pages().at(0).fotoFrame(); };
+    QCOMPARE(frame().path(), foto);
     QVERIFY(studio.page()->dateRect(newYear).height() < dayBefore.height()); // makes room
 
     studio.activate();
-    const QPoint onPhoto =
+    const QPoint onFoto =
         QPoint(studio.window()->findChild<QGraphicsView *>(u"pageCanvas"_s)->viewport()->width() / 2, 60);
     auto *viewport = studio.window()->findChild<QGraphicsView *>(u"pageCanvas"_s)->viewport();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, onPhoto, viewport->mapToGlobal(onPhoto));
+    QContextMenuEvent event(QContextMenuEvent::Mouse, onFoto, viewport->mapToGlobal(onFoto));
     QApplication::sendEvent(viewport, &event);
     auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     QVERIFY(menu);
@@ -328,15 +328,15 @@ void tst_StudioDesignJourneys::pagePhoto()
     QVERIFY(right);
     right->trigger();
     menu->close();
-    QCOMPARE(frame().placement(), MvPhotoFrame::Placement::Right);
-    QVERIFY(studio.page()->photoRect().left() > studio.page()->dateRect(newYear).right());
+    QCOMPARE(frame().placement(), MvFotoFrame::Placement::Right);
+    QVERIFY(studio.page()->fotoRect().left() > studio.page()->dateRect(newYear).right());
     QVERIFY(studio.trigger("removePhoto"));
     QVERIFY(!frame().isValid());
     QCOMPARE(studio.page()->dateRect(newYear), dayBefore);
     studio.undo();
-    QCOMPARE(frame().placement(), MvPhotoFrame::Placement::Right);
+    QCOMPARE(frame().placement(), MvFotoFrame::Placement::Right);
     studio.undo();
-    QCOMPARE(frame().placement(), MvPhotoFrame::Placement::Top);
+    QCOMPARE(frame().placement(), MvFotoFrame::Placement::Top);
     studio.undo();
     QVERIFY(!frame().isValid());
 }

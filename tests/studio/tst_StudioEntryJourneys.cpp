@@ -32,10 +32,10 @@ QStringList names()
     return all;
 }
 
-QColor photoColor(const MvCalendarEvent &event)
+QColor fotoColor(const MvCalendarEvent &event)
 {
-    const QImage photo(event.imagePath().filePath());
-    return photo.isNull() ? QColor() : photo.pixelColor(photo.rect().center());
+    const QImage foto(event.imagePath().filePath());
+    return foto.isNull() ? QColor() : foto.pixelColor(foto.rect().center());
 }
 
 bool isNearly(const QColor &a, const QColor &b) // photos are stored as JPEG
@@ -58,7 +58,7 @@ private Q_SLOTS:
         if (!QByteArray(QTest::currentTestFunction()).startsWith("trouble")) // which is logged, too
             failOnWarnings();
     }
-    void birthdayWithPhotos();
+    void birthdayWithFotos();
     void editorOfALostEntryCloses();
     void listIsSearched();
     void troubleWithReadingIsToldAndMended();
@@ -79,11 +79,11 @@ bool tst_StudioEntryJourneys::addEntry(const MvStudioFixture &studio, const QDat
     return studio.click(editor, "okButton") && studio.datesWith(name).contains(date);
 }
 
-void tst_StudioEntryJourneys::birthdayWithPhotos()
+void tst_StudioEntryJourneys::birthdayWithFotos()
 {
     MvStudioFixture studio;
-    const QString red = studio.writePhoto(u"rot.png"_s, Qt::red);
-    const QString blue = studio.writePhoto(u"blau.png"_s, Qt::blue);
+    const QString red = studio.writeFoto(u"rot.png"_s, Qt::red);
+    const QString blue = studio.writeFoto(u"blau.png"_s, Qt::blue);
     QPointer<MvCalendarDayEditorDialog> editor = studio.openDay(birthday, u"Neuen Eintrag am 14. Jan"_s);
     QVERIFY(editor);
     QVERIFY(!MvStudioFixture::find<QPushButton>(editor, "okButton")->isEnabled()); // nothing to keep yet
@@ -94,14 +94,14 @@ void tst_StudioEntryJourneys::birthdayWithPhotos()
     QTRY_VERIFY(!editor);
     QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
     QVERIFY(studio.hasPhoto(birthday));
-    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::red));
+    QVERIFY(isNearly(fotoColor(entries().value(0)), Qt::red));
     QCOMPARE(studio.steps(), 1);
 
     QVERIFY(studio.dropOnDate(birthday, blue)); // the day has one entry: it is meant
     QCOMPARE(entries().size(), 1);
-    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::blue));
+    QVERIFY(isNearly(fotoColor(entries().value(0)), Qt::blue));
     studio.undo();
-    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::red));
+    QVERIFY(isNearly(fotoColor(entries().value(0)), Qt::red));
     studio.undo();
     QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>());
     QVERIFY(!studio.hasPhoto(birthday));
@@ -112,7 +112,7 @@ void tst_StudioEntryJourneys::birthdayWithPhotos()
     studio.restart();
     QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
     QVERIFY(studio.hasPhoto(birthday));
-    QVERIFY(isNearly(photoColor(entries().value(0)), Qt::blue));
+    QVERIFY(isNearly(fotoColor(entries().value(0)), Qt::blue));
 
     editor = studio.openDay(birthday, u"„Oma Erna“ bearbeiten"_s); // from the menu's key straight to its photo
     QVERIFY(editor);

@@ -20,7 +20,7 @@ private Q_SLOTS:
     void exported_data();
     void exported();
     void exportCancelled();
-    void missingPhotosAreFound();
+    void missingFotosAreFound();
     void damagedFileLeadsToItsBackup();
     void failedSavingLeadsElsewhere();
     void nextCalendarIsLikeTheLast_data();
@@ -31,7 +31,7 @@ void tst_StudioFileJourneys::savedAndFoundAgain()
 {
     MvStudioFixture studio;
     const QString path = studio.path(u"familie.mvcalendar"_s);
-    QVERIFY(studio.dropOnDate({2027, 1, 1}, studio.writePhoto(u"foto.png"_s, Qt::green), Qt::ShiftModifier));
+    QVERIFY(studio.dropOnDate({2027, 1, 1}, studio.writeFoto(u"foto.png"_s, Qt::green), Qt::ShiftModifier));
     QVERIFY(studio.trigger("saveProjectAs"));
     QVERIFY(studio.chooseFile(path));
     QVERIFY(!studio.window()->isWindowModified());
@@ -102,7 +102,7 @@ void tst_StudioFileJourneys::exported()
     QFETCH(QStringList, files);
     MvStudioFixture studio;
     MvCalendarPage page = studio.document().pages().at(1);
-    page.setPhotoFrame(MvPhotoFrame(studio.path(u"fehlt.jpg"_s)));
+    page.setFotoFrame(MvFotoFrame(studio.path(u"fehlt.jpg"_s)));
     studio.project()->changePage(1, page, u"Foto"_s);
     QVERIFY(studio.trigger(action.toLatin1()));
     auto *dialog = MvStudioFixture::dialog<QDialog>("exportDialog");
@@ -161,7 +161,7 @@ void tst_StudioFileJourneys::exportCancelled()
 }
 
 /// Moved to another folder, where another file has the same name; one is gone for good.
-void tst_StudioFileJourneys::missingPhotosAreFound()
+void tst_StudioFileJourneys::missingFotosAreFound()
 {
     MvStudioFixture studio;
     const QString path = studio.path(u"familie.mvcalendar"_s);
@@ -170,7 +170,7 @@ void tst_StudioFileJourneys::missingPhotosAreFound()
     MvCalendarDocument document = studio.document();
     for (int number = 0; number < 3; ++number) {
         MvCalendarPage page = document.pages().at(number);
-        page.setPhotoFrame(MvPhotoFrame(studio.writePhoto(u"alt/sommer/%1.png"_s.arg(number), Qt::green)));
+        page.setFotoFrame(MvFotoFrame(studio.writeFoto(u"alt/sommer/%1.png"_s.arg(number), Qt::green)));
         document.setPage(number, page);
     }
     studio.project()->change(document, u"Fotos"_s);
@@ -188,13 +188,13 @@ void tst_StudioFileJourneys::missingPhotosAreFound()
     QVERIFY(studio.chooseFile(studio.path(u"neu"_s)));
     QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>("informationMessage")); // one is not found
     MvStudioFixture::dialog<QMessageBox>("informationMessage")->close();
-    const auto photo = [&](int page) { return studio.document().pages().at(page).photoFrame().path(); };
-    QCOMPARE(photo(0), studio.path(u"neu/sommer/0.PNG"_s)); // the folder says more than the case of letters
-    QCOMPARE(photo(1), studio.path(u"neu/sommer/1.PNG"_s));
-    QCOMPARE(photo(2), studio.path(u"alt/sommer/2.png"_s));
+    const auto foto = [&](int page) { return studio.document().pages().at(page).fotoFrame().path(); };
+    QCOMPARE(foto(0), studio.path(u"neu/sommer/0.PNG"_s)); // the folder says more than the case of letters
+    QCOMPARE(foto(1), studio.path(u"neu/sommer/1.PNG"_s));
+    QCOMPARE(foto(2), studio.path(u"alt/sommer/2.png"_s));
     studio.undo(); // one step
-    QCOMPARE(photo(0), studio.path(u"alt/sommer/0.png"_s));
-    QCOMPARE(photo(1), studio.path(u"alt/sommer/1.png"_s));
+    QCOMPARE(foto(0), studio.path(u"alt/sommer/0.png"_s));
+    QCOMPARE(foto(1), studio.path(u"alt/sommer/1.png"_s));
 }
 
 void tst_StudioFileJourneys::damagedFileLeadsToItsBackup()

@@ -136,7 +136,7 @@ void tst_StudioScreens::everyDialog()
     QFETCH(QScreen *, screen);
     const MvStudioFixture studio;
     MvCalendarPage page = studio.document().pages().first();
-    page.setPhotoFrame(MvPhotoFrame(studio.path(u"nicht da.jpg"_s)));
+    page.setFotoFrame(MvFotoFrame(studio.path(u"nicht da.jpg"_s)));
     studio.project()->changePage(0, page, u"Foto"_s);
     MvStudioWindow *window = studio.window();
     window->setGeometry(screen->availableGeometry());
@@ -177,7 +177,7 @@ void tst_StudioScreens::sidePanels()
     QFETCH(QScreen *, screen);
     const MvStudioFixture studio;
     MvStudioWindow *window = studio.window();
-    MvStudioSettings::addRecentFile(studio.writePhoto(u"Unser Familienkalender fürs Jahr.png"_s, Qt::red));
+    MvStudioSettings::addRecentFile(studio.writeFoto(u"Unser Familienkalender fürs Jahr.png"_s, Qt::red));
     window->setGeometry(screen->availableGeometry());
     QVERIFY(studio.trigger("showWelcome"));
     QTest::qWait(1); // the layout comes later

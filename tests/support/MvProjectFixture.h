@@ -32,15 +32,15 @@ inline MvCalendarDocument document(const QString &layout, int months = 12)
     return document;
 }
 
-inline void setPhoto(MvCalendarDocument &document, int page, const MvPhotoFrame &photo)
+inline void setFoto(MvCalendarDocument &document, int page, const MvFotoFrame &foto)
 {
     MvCalendarPage changed = document.pages()[page];
-    changed.setPhotoFrame(photo);
+    changed.setFotoFrame(foto);
     document.setPage(page, changed);
 }
 
 /// Writes a photo of four quarters: red, green above blue, yellow.
-inline bool writePhoto(const QString &path, const QSize &size)
+inline bool writeFoto(const QString &path, const QSize &size)
 {
     QImage image(size, QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y) {

@@ -23,7 +23,7 @@ Window *openWindow()
     return nullptr;
 }
 
-inline bool writePhoto(const QString &path, const QColor &color, const QSize &size = {40, 30})
+inline bool writeFoto(const QString &path, const QColor &color, const QSize &size = {40, 30})
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
@@ -37,7 +37,7 @@ inline bool write(const QString &path, const QByteArray &content)
 }
 
 /// 34 bytes that claim 16,383 pixels square.
-inline bool writeHugePhoto(const QString &path)
+inline bool writeHugeFoto(const QString &path)
 {
     return write(path, QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100"));
 }

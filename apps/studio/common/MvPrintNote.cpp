@@ -17,13 +17,13 @@ constexpr int longestName = 60;
 
 QString MvPrintNote::toString() const
 {
-    const QDate date = isPhoto() ? photo.date : text.date;
+    const QDate date = isFoto() ? foto.date : text.date;
     const QString place = date.isValid() ? MvApplicationLocale::instance().locale().toString(date, QLocale::ShortFormat)
                                          : tr("Seite %1").arg(page + 1);
-    if (isPhoto())
+    if (isFoto())
         return tr("%1: Foto „%2“ druckt grob, mit nur %3 Bildpunkten je Zoll")
-            .arg(place, MvPrintableText::inShort(QFileInfo(photo.path).fileName(), longestName))
-            .arg(std::lround(photo.pixelsPerInch));
+            .arg(place, MvPrintableText::inShort(QFileInfo(foto.path).fileName(), longestName))
+            .arg(std::lround(foto.pixelsPerInch));
     const QString name = MvPrintableText::inShort(text.text, longestName);
     return isAboutRoom() ? tr("%1: %2").arg(place, name)
                          : tr("%1: „%2“ – keine Schrift hat %3").arg(place, name, text.missingGlyphs);
@@ -45,10 +45,10 @@ QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int p
         return notes;
     for (const MvUnfittingText &text : findings.unfitting)
         notes.append({page, text, {}});
-    for (const MvPrintedPhoto &photo :
-         MvPrintedPhoto::ofPaintedPage(document.pages().at(page), document.format(), findings)) {
-        if (photo.grade() == MvFotoResolution::Grade::Poor)
-            notes.append({page, {}, photo});
+    for (const MvPrintedFoto &foto :
+         MvPrintedFoto::ofPaintedPage(document.pages().at(page), document.format(), findings)) {
+        if (foto.grade() == MvFotoResolution::Grade::Poor)
+            notes.append({page, {}, foto});
     }
     return notes;
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvUnfittingText.h"
-#include "MvProject/MvPrintedPhoto.h"
+#include "MvProject/MvPrintedFoto.h"
 
 #include <QCoreApplication>
 #include <QList>
@@ -20,11 +20,11 @@ struct MvPrintNote
 public:
     int page = 0; // counted from 0
     MvUnfittingText text;
-    MvPrintedPhoto photo;
+    MvPrintedFoto foto;
 
-    bool isPhoto() const { return !photo.path.isEmpty(); }
+    bool isFoto() const { return !foto.path.isEmpty(); }
     /// It is room that a text lacks.
-    bool isAboutRoom() const { return !isPhoto() && text.missingGlyphs.isEmpty(); }
+    bool isAboutRoom() const { return !isFoto() && text.missingGlyphs.isEmpty(); }
     /// For a person, on one line: "14.05.27: Name".
     QString toString() const;
 

@@ -7,7 +7,7 @@ class MvStudioMerge
 {
 public:
     enum Kind : int {
-        PhotoFocus = 1,
+        FotoFocus = 1,
         MonthCount,
         PageFormat,
         StartDate,

@@ -18,7 +18,7 @@ const QString recentKey = u"recentFiles"_s;
 const QString geometryKey = u"window/geometry"_s;
 const QString stateKey = u"window/state"_s;
 
-const QString photoKind = u"photos"_s;
+const QString fotoKind = u"photos"_s;
 
 QSettings storage()
 {
@@ -61,7 +61,7 @@ QString knownFolder(const QString &kind)
 
 QString kindOfRequest(int kind)
 {
-    return kind == MvDiskAccessRequest::FotoFile ? photoKind : u"request%1"_s.arg(kind);
+    return kind == MvDiskAccessRequest::FotoFile ? fotoKind : u"request%1"_s.arg(kind);
 }
 
 } // namespace
@@ -130,9 +130,9 @@ void MvStudioSettings::setFolder(const QString &kind, const QString &path)
     setText(u"folders/"_s + kind, path);
 }
 
-QString MvStudioSettings::photoFolder()
+QString MvStudioSettings::fotoFolder()
 {
-    const QString known = knownFolder(photoKind);
+    const QString known = knownFolder(fotoKind);
     return known.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) : known;
 }
 

@@ -35,7 +35,7 @@ public:
     static QString folder(const QString &kind);
     static void setFolder(const QString &kind, const QString &path);
     /// The folder where a photo was last looked for, wherever in the program; the user's pictures at first.
-    static QString photoFolder();
+    static QString fotoFolder();
     /// The same for the kinds of MvDiskAccessRequest; empty for one that was never asked for.
     static QString folderOfRequest(int kind);
     static void setFolderOfRequest(int kind, const QString &path);

@@ -54,7 +54,7 @@ void MvExportFlow::start(MvExportOptions::Kind kind)
 
 void MvExportFlow::warnAndRun(const MvExportOptions &options)
 {
-    const QStringList missing = m_project->document().missingPhotos();
+    const QStringList missing = m_project->document().missingFotos();
     if (missing.isEmpty()) {
         run(options);
         return;

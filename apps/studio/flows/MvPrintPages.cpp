@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "flows/MvPrintPages.h"
 
-#include "pages/MvScreenPhotos.h"
+#include "pages/MvScreenFotos.h"
 
 #include "MvCalendar/MvRenderingSources.h"
 #include "MvFoto/MvFotoPass.h"
@@ -38,11 +38,11 @@ MvPrintPages::MvPrintPages(const MvCalendarDocument &document, QObject *parent)
     : QObject(parent)
     , m_document(document)
     , m_recordings(document.pages().size())
-    , m_photos(new MvScreenPhotos(MvFotoService::Urgency::Seen, this))
-    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Seen, this))
+    , m_fotos(new MvScreenFotos(MvFotoService::Urgency::Seen, this))
+    , m_entryFotos(new MvFotoPages(MvFotoService::Urgency::Seen, this))
 {
-    connect(m_photos, &MvScreenPhotos::loaded, this, &MvPrintPages::takePhoto);
-    connect(m_entryPhotos, &MvFotoPages::arrived, this, &MvPrintPages::recordPage);
+    connect(m_fotos, &MvScreenFotos::loaded, this, &MvPrintPages::takeFoto);
+    connect(m_entryFotos, &MvFotoPages::arrived, this, &MvPrintPages::recordPage);
 }
 
 MvPrintPages::~MvPrintPages() = default;
@@ -51,13 +51,13 @@ void MvPrintPages::start()
 {
     QSet<QString> paths;
     for (const MvCalendarPage &page : m_document.pages()) {
-        if (page.photoFrame().isValid())
-            paths.insert(page.photoFrame().path());
+        if (page.fotoFrame().isValid())
+            paths.insert(page.fotoFrame().path());
     }
     m_pathCount = int(paths.size());
-    m_photoBounds = boundsFor(paths.size());
+    m_fotoBounds = boundsFor(paths.size());
     for (const QString &path : std::as_const(paths))
-        m_photos->photo(path, m_photoBounds);
+        m_fotos->foto(path, m_fotoBounds);
     QTimer::singleShot(0, this, &MvPrintPages::recordNext);
 }
 
@@ -79,7 +79,7 @@ void MvPrintPages::recordNext()
 
 void MvPrintPages::recordPage(int number)
 {
-    MvFotoPass fotos(*m_entryPhotos, number);
+    MvFotoPass fotos(*m_entryFotos, number);
     MvRenderingSources sources;
     sources.fotos = &fotos;
     const MvPaintRecording recording = m_document.pages().at(number).record(
@@ -110,9 +110,9 @@ MvPaintRecording MvPrintPages::asPixels(const MvPaintRecording &recording) const
     return recorder.recording();
 }
 
-void MvPrintPages::takePhoto(const QString &path)
+void MvPrintPages::takeFoto(const QString &path)
 {
-    m_images.insert(path, m_photos->photo(path, m_photoBounds));
+    m_images.insert(path, m_fotos->foto(path, m_fotoBounds));
     tellProgress();
 }
 
@@ -129,10 +129,10 @@ void MvPrintPages::paintPage(QPainter &painter, int number) const
 {
     const MvCalendarPage &page = m_document.pages().at(number);
     page.paintGround(painter, m_document.format());
-    const QImage photo = m_images.value(page.photoFrame().path());
-    if (!photo.isNull()) {
-        const QRectF rect = page.photoFrame().rect(m_document.format());
-        painter.drawImage(rect, photo, page.photoFrame().crop(photo.size(), rect.size()));
+    const QImage foto = m_images.value(page.fotoFrame().path());
+    if (!foto.isNull()) {
+        const QRectF rect = page.fotoFrame().rect(m_document.format());
+        painter.drawImage(rect, foto, page.fotoFrame().crop(foto.size(), rect.size()));
     }
     if (m_recordings.at(number))
         m_recordings.at(number)->replay(painter);

@@ -12,7 +12,7 @@
 #include <optional>
 
 class MvFotoPages;
-class MvScreenPhotos;
+class MvScreenFotos;
 
 /// The pages of a document as a print preview shows them: recorded, and with photos in a size for the screen, made
 /// ready bit by bit while the program answers. Painting them all is a matter of moments then.
@@ -37,16 +37,16 @@ private:
     void recordNext();
     void recordPage(int number);
     MvPaintRecording asPixels(const MvPaintRecording &recording) const;
-    void takePhoto(const QString &path);
+    void takeFoto(const QString &path);
     void tellProgress();
     void paintPage(QPainter &painter, int number) const;
 
     const MvCalendarDocument m_document;
     QList<std::optional<MvPaintRecording>> m_recordings;
     QHash<QString, QImage> m_images; // of pages, by path; null where a file cannot be read
-    QSize m_photoBounds;
-    MvScreenPhotos *m_photos;
-    MvFotoPages *m_entryPhotos;
+    QSize m_fotoBounds;
+    MvScreenFotos *m_fotos;
+    MvFotoPages *m_entryFotos;
     int m_pathCount = 0;
     int m_recordedCount = 0;
     int m_next = 0;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageCanvas.h"
 
+#include "pages/MvFotoHandle.h"
 #include "pages/MvPageDropTarget.h"
+#include "pages/MvPageFoto.h"
 #include "pages/MvPageItem.h"
-#include "pages/MvPagePhoto.h"
-#include "pages/MvPhotoHandle.h"
 
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
@@ -31,7 +31,7 @@ namespace {
 constexpr double zoomStep = 1.25;
 constexpr double unitsPerInch = 254.0; // tenths of a millimetre
 constexpr int fittingMargin = 8;       // pixels
-constexpr double photoStep = 0.05;     // of the frame, per key
+constexpr double fotoStep = 0.05;      // of the frame, per key
 
 } // namespace
 
@@ -40,8 +40,8 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     , m_project(project)
     , m_scene(new QGraphicsScene(this))
     , m_item(new MvPageItem(project))
-    , m_photo(new MvPagePhoto(project, m_item, this))
-    , m_photoHandle(new MvPhotoHandle(project, m_item))
+    , m_foto(new MvPageFoto(project, m_item, this))
+    , m_fotoHandle(new MvFotoHandle(project, m_item))
     , m_dropTarget(new MvPageDropTarget(m_item))
 {
     setObjectName(u"pageCanvas"_s);
@@ -65,7 +65,7 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
             m_keyboardDate = focusDate();
     });
     connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
-    connect(m_photo, &MvPagePhoto::message, this, &MvPageCanvas::message);
+    connect(m_foto, &MvPageFoto::message, this, &MvPageCanvas::message);
     connect(project, &MvProject::pagesReset, this, [this] { setCurrentPage(currentPage()); });
     connect(project, &MvProject::documentReplaced, this, &MvPageCanvas::onDocumentReplaced);
     onRefreshed();
@@ -87,7 +87,7 @@ void MvPageCanvas::setCurrentPage(int page)
     const int clamped = std::clamp(page, 0, std::max(0, last));
     if (clamped == currentPage())
         return;
-    m_photoHandle->cancelDrag();
+    m_fotoHandle->cancelDrag();
     m_item->setPage(clamped);
     Q_EMIT currentPageChanged(clamped);
 }
@@ -293,7 +293,7 @@ QMenu *MvPageCanvas::createContextMenu(const QPoint &position)
     menu->setObjectName(u"pageMenu"_s);
     if (!menu->isEmpty())
         menu->addSeparator();
-    m_photo->addActions(menu);
+    m_foto->addActions(menu);
     return menu;
 }
 
@@ -310,19 +310,19 @@ void MvPageCanvas::contextMenuEvent(QContextMenuEvent *event)
     event->accept();
 }
 
-void MvPageCanvas::choosePhoto()
+void MvPageCanvas::chooseFoto()
 {
-    m_photo->choose();
+    m_foto->choose();
 }
 
-void MvPageCanvas::setPhoto(const QString &path)
+void MvPageCanvas::setFoto(const QString &path)
 {
-    m_photo->set(path);
+    m_foto->set(path);
 }
 
 void MvPageCanvas::removePhoto()
 {
-    m_photo->remove();
+    m_foto->remove();
 }
 
 // ------------------------------------------------------------------------------------------------------ drag and drop
@@ -336,20 +336,20 @@ QDate MvPageCanvas::showDropTarget(const QDropEvent *event)
         m_dropTarget->showAt(m_item->dateRect(date), tr("Foto für den %1").arg(locale.toString(date, u"d. MMMM"_s)));
         return date;
     }
-    MvPhotoFrame frame = m_item->shownPage().photoFrame();
+    MvFotoFrame frame = m_item->shownPage().fotoFrame();
     if (!frame.isValid())
-        frame = MvPagePhoto::frameFor(m_draggedPhoto, m_project->document().format());
+        frame = MvPageFoto::frameFor(m_draggedFoto, m_project->document().format());
     m_dropTarget->showAt(frame.rect(m_project->document().format()) & m_item->pageRect(), tr("Foto der Seite"));
     return {};
 }
 
 void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
 {
-    m_draggedPhoto = MvPagePhoto::photoIn(event->mimeData());
-    if (m_draggedPhoto.isEmpty() || m_item->pageRect().isEmpty()) {
+    m_draggedFoto = MvPageFoto::fotoIn(event->mimeData());
+    if (m_draggedFoto.isEmpty() || m_item->pageRect().isEmpty()) {
         event->ignore();
         const QString file = event->mimeData()->urls().value(0).toLocalFile();
-        if (m_draggedPhoto.isEmpty() && !file.isEmpty())
+        if (m_draggedFoto.isEmpty() && !file.isEmpty())
             Q_EMIT message(tr("„%1“ ist kein Foto, das gelesen werden kann.").arg(QFileInfo(file).fileName()));
         return;
     }
@@ -361,7 +361,7 @@ void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
 
 void MvPageCanvas::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (m_draggedPhoto.isEmpty()) {
+    if (m_draggedFoto.isEmpty()) {
         event->ignore();
         return;
     }
@@ -374,22 +374,22 @@ void MvPageCanvas::dragLeaveEvent(QDragLeaveEvent *event)
 {
     MvCalendariumView::dragLeaveEvent(event);
     m_dropTarget->hide();
-    m_draggedPhoto.clear();
+    m_draggedFoto.clear();
     Q_EMIT message({});
 }
 
 void MvPageCanvas::dropEvent(QDropEvent *event)
 {
-    if (m_draggedPhoto.isEmpty())
+    if (m_draggedFoto.isEmpty())
         return;
-    const QString photo = std::exchange(m_draggedPhoto, {});
+    const QString foto = std::exchange(m_draggedFoto, {});
     const bool isForDay = showDropTarget(event).isValid();
     m_dropTarget->hide();
     Q_EMIT message({});
     if (isForDay)
         MvCalendariumView::dropEvent(event); // the day's cell takes it
     else
-        m_photo->set(photo);
+        m_foto->set(foto);
     event->acceptProposedAction();
 }
 
@@ -415,13 +415,13 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Up:
     case Qt::Key_Down:
         if (event->modifiers() & Qt::AltModifier)
-            movePhoto(event->key());
+            moveFoto(event->key());
         else if (!beginAtFirstDate() && !turnPageByArrow(event->key()))
             MvCalendariumView::keyPressEvent(event); // the day's cell goes on
         return;
     case Qt::Key_Escape:
-        if (m_photoHandle->isDragging())
-            m_photoHandle->cancelDrag();
+        if (m_fotoHandle->isDragging())
+            m_fotoHandle->cancelDrag();
         else
             setFocusDate({});
         return;
@@ -513,11 +513,11 @@ bool MvPageCanvas::turnPageByArrow(int key)
     return true;
 }
 
-void MvPageCanvas::movePhoto(int key)
+void MvPageCanvas::moveFoto(int key)
 {
-    const double x = key == Qt::Key_Right ? photoStep : key == Qt::Key_Left ? -photoStep : 0.0;
-    const double y = key == Qt::Key_Down ? photoStep : key == Qt::Key_Up ? -photoStep : 0.0;
-    m_photoHandle->moveFocus({x, y});
+    const double x = key == Qt::Key_Right ? fotoStep : key == Qt::Key_Left ? -fotoStep : 0.0;
+    const double y = key == Qt::Key_Down ? fotoStep : key == Qt::Key_Up ? -fotoStep : 0.0;
+    m_fotoHandle->moveFocus({x, y});
 }
 
 /// What a screen reader says of the page; its days tell for themselves.

@@ -7,8 +7,8 @@
 
 class MvPageDropTarget;
 class MvPageItem;
-class MvPagePhoto;
-class MvPhotoHandle;
+class MvPageFoto;
+class MvFotoHandle;
 class MvProject;
 class QMenu;
 
@@ -54,9 +54,9 @@ public Q_SLOTS:
     void setZoom(double zoom);
 
     /// Asks for a file without blocking and makes it the page's photo.
-    void choosePhoto();
+    void chooseFoto();
     /// Makes a file the photo of the shown page; one undo step.
-    void setPhoto(const QString &path);
+    void setFoto(const QString &path);
     void removePhoto();
 
 Q_SIGNALS:
@@ -95,16 +95,16 @@ private:
     QDate showDropTarget(const QDropEvent *event);
     bool beginAtFirstDate();
     bool turnPageByArrow(int key);
-    void movePhoto(int key);
+    void moveFoto(int key);
     void updateDescription();
 
     MvProject *m_project;
     QGraphicsScene *m_scene;
     MvPageItem *m_item;
-    MvPagePhoto *m_photo;
-    MvPhotoHandle *m_photoHandle;
+    MvPageFoto *m_foto;
+    MvFotoHandle *m_fotoHandle;
     MvPageDropTarget *m_dropTarget;
-    QString m_draggedPhoto;
+    QString m_draggedFoto;
     QDate m_keyboardDate; // where the keyboard is, or will be when the page has cells again
     QPoint m_panFrom;
     bool m_isPanning = false;

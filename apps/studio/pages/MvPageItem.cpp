@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageItem.h"
 
-#include "pages/MvScreenPhotos.h"
+#include "pages/MvScreenFotos.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
@@ -51,8 +51,8 @@ QRect pixelsOf(const QTransform &transform, const QRectF &rect)
 MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     : QGraphicsObject(parent)
     , m_project(project)
-    , m_photos(std::make_unique<MvScreenPhotos>(MvFotoService::Urgency::Seen))
-    , m_entryPhotos(std::make_unique<MvFotoPages>(MvFotoService::Urgency::Seen))
+    , m_fotos(std::make_unique<MvScreenFotos>(MvFotoService::Urgency::Seen))
+    , m_entryFotos(std::make_unique<MvFotoPages>(MvFotoService::Urgency::Seen))
     , m_cells(std::make_unique<MvGraphicsItemCalendariumCellsManager>(this, project->session()))
 {
     connect(project, &MvProject::pageChanged, this, [this](int page) {
@@ -61,12 +61,12 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     });
     connect(project, &MvProject::pagesReset, this, &MvPageItem::refresh);
     connect(project, &MvProject::documentReplaced, this, [this] {
-        m_photos->clear();
+        m_fotos->clear();
         refresh();
     });
     connect(&project->session().entries(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
-    connect(m_photos.get(), &MvScreenPhotos::loaded, this, &MvPageItem::discardCache);
-    connect(m_entryPhotos.get(), &MvFotoPages::arrived, this, &MvPageItem::refresh);
+    connect(m_fotos.get(), &MvScreenFotos::loaded, this, &MvPageItem::discardCache);
+    connect(m_entryFotos.get(), &MvFotoPages::arrived, this, &MvPageItem::refresh);
     m_cells->setMenuForOneEntry(false);
     refreshNow();
 }
@@ -88,9 +88,9 @@ void MvPageItem::setTrial(const std::optional<MvCalendarPage> &page)
     refresh();
 }
 
-QRectF MvPageItem::photoRect() const
+QRectF MvPageItem::fotoRect() const
 {
-    const MvPhotoFrame &frame = m_shown.photoFrame();
+    const MvFotoFrame &frame = m_shown.fotoFrame();
     return frame.isValid() ? frame.rect(m_project->document().format()) & m_pageRect : QRectF();
 }
 
@@ -167,7 +167,7 @@ void MvPageItem::record()
                 [this](const QDate &date, const QRectF &rect) { m_dates.insert(date, rect); });
     };
     const MvCalendarDocument &document = m_project->document();
-    MvFotoPass fotos(*m_entryPhotos);
+    MvFotoPass fotos(*m_entryFotos);
     MvRenderingSources sources;
     sources.fotos = &fotos;
     m_recording = m_shown.record(document.format(), document.range(), listen, screenRule(), m_pixelsPerUnit, sources);
@@ -232,7 +232,7 @@ void MvPageItem::paintInto(QPainter &painter) const
     painter.fillRect(m_pageRect, Qt::white);
     painter.setClipRect(m_pageRect);
     m_shown.paintGround(painter, m_project->document().format());
-    paintPhoto(painter);
+    paintFoto(painter);
     m_recording.replay(painter);
 }
 
@@ -247,29 +247,29 @@ void MvPageItem::paintShadow(QPainter &painter) const
     }
 }
 
-void MvPageItem::paintPhoto(QPainter &painter) const
+void MvPageItem::paintFoto(QPainter &painter) const
 {
-    const MvPhotoFrame &frame = m_shown.photoFrame();
+    const MvFotoFrame &frame = m_shown.fotoFrame();
     if (!frame.isValid())
         return;
     const QRectF rect = frame.rect(m_project->document().format());
-    const QImage image = m_photos->photo(frame.path(), MvScreenPhotos::boundsFor(painter.transform().mapRect(rect)));
+    const QImage image = m_fotos->foto(frame.path(), MvScreenFotos::boundsFor(painter.transform().mapRect(rect)));
     if (image.isNull()) {
-        paintPhotoNotice(painter, rect);
+        paintFotoNotice(painter, rect);
         return;
     }
     painter.drawImage(rect, image, frame.crop(image.size(), rect.size()));
-    const QSizeF seen = frame.crop(m_photos->fullSize(frame.path()), rect.size()).size();
+    const QSizeF seen = frame.crop(m_fotos->fullSize(frame.path()), rect.size()).size();
     screenRule().encodeInto(painter);
     MvFotoResolution::paintWarning(painter, rect, MvFotoResolution::pixelsPerInch(seen, rect.size()));
 }
 
 /// In the photo's place while it is being decoded, or when there is none to be seen.
-void MvPageItem::paintPhotoNotice(QPainter &painter, const QRectF &rect) const
+void MvPageItem::paintFotoNotice(QPainter &painter, const QRectF &rect) const
 {
     painter.fillRect(rect, placeholderColor);
-    const QString path = m_shown.photoFrame().path();
-    const QString text = m_photos->isUnreadable(path)
+    const QString path = m_shown.fotoFrame().path();
+    const QString text = m_fotos->isUnreadable(path)
                              ? tr("„%1“ lässt sich nicht lesen.\nDas Kontextmenü ersetzt das Foto durch ein anderes.")
                                    .arg(QFileInfo(path).fileName())
                              : tr("Das Foto wird geladen …");

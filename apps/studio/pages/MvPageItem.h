@@ -17,7 +17,7 @@
 class MvFotoPages;
 class MvGraphicsItemCalendariumCellsManager;
 class MvProject;
-class MvScreenPhotos;
+class MvScreenFotos;
 
 /// A page of the open project as it will be printed, live: its paper with a shadow, ground, photo and calendarium. Its
 /// units are those of the page, tenths of a millimetre from the trimmed corner; the bleed is not shown.
@@ -43,7 +43,7 @@ public:
 
     QRectF pageRect() const { return m_pageRect; }
     /// The photo's part of the trimmed page; empty without a photo.
-    QRectF photoRect() const;
+    QRectF fotoRect() const;
     /// The day whose cell is at a point of the item; an invalid date when there is none.
     QDate dateAt(const QPointF &point) const;
     /// Empty for a date that the page does not show.
@@ -57,7 +57,7 @@ public:
     void refreshNow();
     const MvPaintRecording &recording() const { return m_recording; }
     MvGraphicsItemCalendariumCellsManager *cells() const { return m_cells.get(); }
-    MvScreenPhotos *photos() const { return m_photos.get(); }
+    MvScreenFotos *fotos() const { return m_fotos.get(); }
 
     QRectF boundingRect() const override;
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
@@ -86,12 +86,12 @@ private:
     void discardCache();
     void paintInto(QPainter &painter) const;
     void paintShadow(QPainter &painter) const;
-    void paintPhoto(QPainter &painter) const;
-    void paintPhotoNotice(QPainter &painter, const QRectF &rect) const;
+    void paintFoto(QPainter &painter) const;
+    void paintFotoNotice(QPainter &painter, const QRectF &rect) const;
 
     MvProject *m_project;
-    std::unique_ptr<MvScreenPhotos> m_photos;
-    std::unique_ptr<MvFotoPages> m_entryPhotos;
+    std::unique_ptr<MvScreenFotos> m_fotos;
+    std::unique_ptr<MvFotoPages> m_entryFotos;
     std::unique_ptr<MvGraphicsItemCalendariumCellsManager> m_cells;
     MvCalendarPage m_shown;
     std::optional<MvCalendarPage> m_trial;

@@ -2,11 +2,11 @@
 #include "pages/MvPageStrip.h"
 
 #include "common/MvIdleImages.h"
-#include "pages/MvPagePhoto.h"
+#include "pages/MvPageFoto.h"
 #include "pages/MvPageStripDelegate.h"
 #include "pages/MvPageStripModel.h"
 #include "pages/MvPageThumbnail.h"
-#include "pages/MvScreenPhotos.h"
+#include "pages/MvScreenFotos.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvRenderingSources.h"
@@ -36,8 +36,8 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     : QListView(parent)
     , m_project(project)
     , m_images(new MvIdleImages([this](int page) { return makeThumbnail(page); }, this))
-    , m_photos(new MvScreenPhotos(MvFotoService::Urgency::Background, this))
-    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
+    , m_fotos(new MvScreenFotos(MvFotoService::Urgency::Background, this))
+    , m_entryFotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
     , m_model(new MvPageStripModel(project, m_images, this))
     , m_delegate(new MvPageStripDelegate(this))
 {
@@ -56,8 +56,8 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     setAcceptDrops(true);
     m_images->setPaused(true); // until somebody sees the strip
     connect(m_images, &MvIdleImages::imageReady, m_model, &MvPageStripModel::updateRow);
-    connect(m_photos, &MvScreenPhotos::loaded, this, &MvPageStrip::onPhotoLoaded);
-    connect(m_entryPhotos, &MvFotoPages::arrived, this, [this](int page) { m_images->invalidate(page); });
+    connect(m_fotos, &MvScreenFotos::loaded, this, &MvPageStrip::onFotoLoaded);
+    connect(m_entryFotos, &MvFotoPages::arrived, this, [this](int page) { m_images->invalidate(page); });
     connect(project, &MvProject::pageChanged, this, [this](int page) {
         m_images->invalidate(page, changeDelay);
         m_model->updateRow(page);
@@ -65,7 +65,7 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     connect(project, &MvProject::pagesReset, this, &MvPageStrip::onPagesReset);
     connect(project, &MvProject::documentReplaced, this, [this] {
         m_images->forget();
-        m_photos->clear();
+        m_fotos->clear();
         onPagesReset();
         setCurrentPage(0);
     });
@@ -173,18 +173,18 @@ QImage MvPageStrip::makeThumbnail(int page)
     const MvCalendarDocument &document = m_project->document();
     if (page >= document.pages().size())
         return {};
-    MvFotoPass fotos(*m_entryPhotos, page);
+    MvFotoPass fotos(*m_entryFotos, page);
     MvRenderingSources sources;
     sources.fotos = &fotos;
     return MvPageThumbnail::make(document.pages().at(page), document.format(), document.range(), m_thumbnailSize,
-                                 devicePixelRatioF(), m_photos, sources);
+                                 devicePixelRatioF(), m_fotos, sources);
 }
 
-void MvPageStrip::onPhotoLoaded(const QString &path)
+void MvPageStrip::onFotoLoaded(const QString &path)
 {
     const QList<MvCalendarPage> &pages = m_project->document().pages();
     for (int page = 0; page < pages.size(); ++page) {
-        if (pages.at(page).photoFrame().path() == path)
+        if (pages.at(page).fotoFrame().path() == path)
             m_images->invalidate(page);
     }
 }
@@ -226,7 +226,7 @@ bool MvPageStrip::event(QEvent *event)
 
 void MvPageStrip::dragEnterEvent(QDragEnterEvent *event)
 {
-    event->setAccepted(!MvPagePhoto::photoIn(event->mimeData()).isEmpty());
+    event->setAccepted(!MvPageFoto::fotoIn(event->mimeData()).isEmpty());
 }
 
 void MvPageStrip::dragMoveEvent(QDragMoveEvent *event)
@@ -247,10 +247,10 @@ void MvPageStrip::dropEvent(QDropEvent *event)
 {
     const int page = indexAt(event->position().toPoint()).row();
     selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
-    const QString path = MvPagePhoto::photoIn(event->mimeData());
+    const QString path = MvPageFoto::fotoIn(event->mimeData());
     if (page < 0 || path.isEmpty())
         return;
-    MvPagePhoto::set(m_project, page, path, this, [this](const QString &error) {
+    MvPageFoto::set(m_project, page, path, this, [this](const QString &error) {
         if (!error.isEmpty())
             MvDiskAccessRequest::instance().takeFotosFailed({error}, this);
     });

@@ -8,7 +8,7 @@ class MvIdleImages;
 class MvPageStripDelegate;
 class MvPageStripModel;
 class MvProject;
-class MvScreenPhotos;
+class MvScreenFotos;
 
 /// The pages of the open project one below the other, as thumbnails with their months. Thumbnails arrive one by one
 /// while the program has nothing else to do, the current and the visible ones first.
@@ -51,7 +51,7 @@ protected:
 
 private:
     void onPagesReset();
-    void onPhotoLoaded(const QString &path);
+    void onFotoLoaded(const QString &path);
     void preferVisible();
     void keepNamesWhole();
     void adaptToWidth();
@@ -59,8 +59,8 @@ private:
 
     MvProject *m_project;
     MvIdleImages *m_images;
-    MvScreenPhotos *m_photos;
-    MvFotoPages *m_entryPhotos;
+    MvScreenFotos *m_fotos;
+    MvFotoPages *m_entryFotos;
     MvPageStripModel *m_model;
     MvPageStripDelegate *m_delegate;
     QSize m_thumbnailSize; // logical pixels

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageThumbnail.h"
 
-#include "pages/MvScreenPhotos.h"
+#include "pages/MvScreenFotos.h"
 
 #include "MvProject/MvCalendarPage.h"
 
@@ -14,12 +14,12 @@ const QColor placeholderColor(0xe4, 0xe6, 0xe9);
 /// So small, lines and letters cover only a part of their pixels: drawn again, they are as dark as they should be.
 constexpr int passes = 2;
 
-void paintPhoto(QPainter &painter, const MvPhotoFrame &frame, const QRectF &rect, MvScreenPhotos *photos)
+void paintFoto(QPainter &painter, const MvFotoFrame &frame, const QRectF &rect, MvScreenFotos *fotos)
 {
     if (rect.isEmpty())
         return;
-    const QSize bounds = MvScreenPhotos::boundsFor(painter.transform().mapRect(rect));
-    const QImage image = photos != nullptr ? photos->photo(frame.path(), bounds) : QImage();
+    const QSize bounds = MvScreenFotos::boundsFor(painter.transform().mapRect(rect));
+    const QImage image = fotos != nullptr ? fotos->foto(frame.path(), bounds) : QImage();
     if (image.isNull())
         painter.fillRect(rect, placeholderColor);
     else
@@ -29,7 +29,7 @@ void paintPhoto(QPainter &painter, const MvPhotoFrame &frame, const QRectF &rect
 } // namespace
 
 QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &format, const MvDateRange &range,
-                             const QSize &size, double ratio, MvScreenPhotos *photos, const MvRenderingSources &sources)
+                             const QSize &size, double ratio, MvScreenFotos *fotos, const MvRenderingSources &sources)
 {
     if (!format.isValid() || size.isEmpty())
         return {};
@@ -43,7 +43,7 @@ QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &for
     rule.encodeInto(painter);
     painter.scale(scaleX, scaleY);
     page.paintGround(painter, format);
-    paintPhoto(painter, page.photoFrame(), page.photoFrame().rect(format), photos);
+    paintFoto(painter, page.fotoFrame(), page.fotoFrame().rect(format), fotos);
     const MvPaintRecording calendarium = page.record(format, range, {}, rule, scaleX, sources);
     for (int pass = 0; pass < passes; ++pass)
         calendarium.replay(painter);

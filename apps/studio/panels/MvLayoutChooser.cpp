@@ -34,7 +34,7 @@ MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     , m_list(new QListWidget(this))
     , m_description(new QLabel(this))
     , m_images(new MvIdleImages([this](int number) { return makePicture(number); }, this))
-    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
+    , m_entryFotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
     , m_pictureSize(pictureSize)
 {
     m_list->setObjectName(u"layoutList"_s);
@@ -67,7 +67,7 @@ MvLayoutChooser::MvLayoutChooser(QWidget *parent, const QSize &pictureSize)
     column->addWidget(m_list, 1);
     column->addWidget(m_description);
 
-    connect(m_entryPhotos, &MvFotoPages::arrived, this, [this](int number) { m_images->invalidate(number); });
+    connect(m_entryFotos, &MvFotoPages::arrived, this, [this](int number) { m_images->invalidate(number); });
     connect(m_images, &MvIdleImages::imageReady, this, &MvLayoutChooser::showPicture);
     connect(m_list, &QListWidget::currentRowChanged, this, [this] {
         describeCurrent();
@@ -187,7 +187,7 @@ QImage MvLayoutChooser::makePicture(int number) const
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     if (!document.pages().isEmpty()) {
-        MvFotoPass fotos(*m_entryPhotos, number);
+        MvFotoPass fotos(*m_entryFotos, number);
         MvRenderingSources sources;
         sources.fotos = &fotos;
         painter.drawImage(sheet,

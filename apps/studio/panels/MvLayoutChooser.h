@@ -52,7 +52,7 @@ private:
     QListWidget *m_list;
     QLabel *m_description;
     MvIdleImages *m_images;
-    MvFotoPages *m_entryPhotos;
+    MvFotoPages *m_entryFotos;
     MvCalendarDocument m_document;
     QSize m_pictureSize;
 };

@@ -11,7 +11,7 @@
 #include "flows/MvDocumentDialog.h"
 #include "flows/MvEntriesFlow.h"
 #include "flows/MvExportFlow.h"
-#include "flows/MvMissingPhotos.h"
+#include "flows/MvMissingFotos.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvProjectFlow.h"
 #include "pages/MvPageCanvas.h"
@@ -69,7 +69,7 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     , m_flow(new MvProjectFlow(project, this))
     , m_export(new MvExportFlow(project, this))
     , m_print(new MvPrintFlow(project, this))
-    , m_missingPhotos(new MvMissingPhotos(project, this))
+    , m_missingFotos(new MvMissingFotos(project, this))
     , m_import(new MvBirthdayImport(project->session(), this))
     , m_entries(new MvEntriesFlow(project->session().entries(), this))
     , m_unfitting(new MvUnfittingWatch(project, this))
@@ -174,7 +174,7 @@ void MvStudioWindow::createMenus()
     file->addSeparator();
     file->addActions({action(A::Save), action(A::SaveAs)});
     file->addSeparator();
-    file->addActions({action(A::ImportBirthdays), action(A::FindPhotos)});
+    file->addActions({action(A::ImportBirthdays), action(A::FindFotos)});
     file->addSeparator();
     file->addActions({action(A::ExportPdf), action(A::ExportPng), action(A::Print)});
     file->addSeparator();
@@ -194,7 +194,7 @@ void MvStudioWindow::createMenus()
     QMenu *page = menuBar()->addMenu(tr("&Seite"));
     page->addActions({action(A::PreviousPage), action(A::NextPage), action(A::FirstPage), action(A::LastPage)});
     page->addSeparator();
-    page->addActions({action(A::ChoosePhoto), action(A::RemovePhoto)});
+    page->addActions({action(A::ChooseFoto), action(A::RemoveFoto)});
     page->addSeparator();
     page->addActions({action(A::Layout), action(A::PageSetup)});
 
@@ -217,7 +217,7 @@ void MvStudioWindow::createToolBar()
     add({A::New, A::Open, A::Save});
     bar->addActions({m_undo->undoAction(), m_undo->redoAction()});
     bar->addSeparator();
-    add({A::ChoosePhoto, A::Layout, A::ImportBirthdays});
+    add({A::ChooseFoto, A::Layout, A::ImportBirthdays});
     add({A::PreviousPage, A::NextPage});
     add({A::ZoomOut, A::ZoomIn, A::ZoomFit});
     bar->addActions({m_actions->action(A::ExportPdf), m_actions->action(A::Print)});
@@ -238,7 +238,7 @@ void MvStudioWindow::connectActions()
     on(A::ExportPng, m_export, &MvExportFlow::startPng);
     on(A::Print, m_print, &MvPrintFlow::start);
     on(A::ImportBirthdays, m_import, &MvBirthdayImport::start);
-    on(A::FindPhotos, m_missingPhotos, &MvMissingPhotos::search);
+    on(A::FindFotos, m_missingFotos, &MvMissingFotos::search);
     on(A::Quit, this, &QWidget::close);
     on(A::Settings, this, &MvStudioWindow::showSettings);
     on(A::ZoomIn, m_canvas, &MvPageCanvas::zoomIn);
@@ -251,8 +251,8 @@ void MvStudioWindow::connectActions()
     on(A::PreviousPage, m_canvas, &MvPageCanvas::previousPage);
     on(A::FirstPage, this, [this] { setCurrentPage(0); });
     on(A::LastPage, this, [this] { setCurrentPage(int(m_project->document().pages().size()) - 1); });
-    on(A::ChoosePhoto, m_canvas, &MvPageCanvas::choosePhoto);
-    on(A::RemovePhoto, m_canvas, &MvPageCanvas::removePhoto);
+    on(A::ChooseFoto, m_canvas, &MvPageCanvas::chooseFoto);
+    on(A::RemoveFoto, m_canvas, &MvPageCanvas::removePhoto);
     on(A::Layout, this, &MvStudioWindow::chooseLayout);
     on(A::PageSetup, this, &MvStudioWindow::changePageSetup);
     on(A::Shortcuts, this, [this] {
@@ -265,7 +265,7 @@ void MvStudioWindow::connectActions()
     connect(m_welcome, &MvWelcomePanel::openRequested, m_flow, &MvProjectFlow::askAndOpen);
     connect(m_welcome, &MvWelcomePanel::recentRequested, m_flow, &MvProjectFlow::open);
     connect(m_flow, &MvProjectFlow::opened, this, &MvStudioWindow::onOpened);
-    connect(m_missingPhotos, &MvMissingPhotos::message, this, &MvStudioWindow::showMessage);
+    connect(m_missingFotos, &MvMissingFotos::message, this, &MvStudioWindow::showMessage);
     connect(m_welcome, &MvWelcomePanel::closeRequested, this, [this] { setWelcomeShown(false); });
     connect(m_print, &MvPrintFlow::pdfRequested, m_export, &MvExportFlow::startPdf);
     connect(m_recentMenu, &QMenu::aboutToShow, this, &MvStudioWindow::fillRecentMenu);
@@ -331,9 +331,9 @@ void MvStudioWindow::updatePage()
         m_actions->action(id)->setEnabled(page > 0);
     for (const A::Id id : {A::LastPage, A::NextPage})
         m_actions->action(id)->setEnabled(page + 1 < count);
-    const bool hasPhoto = page >= 0 && page < count && m_project->document().pages().at(page).photoFrame().isValid();
-    m_actions->action(A::RemovePhoto)->setEnabled(hasPhoto);
-    m_actions->action(A::ChoosePhoto)->setEnabled(count > 0);
+    const bool hasPhoto = page >= 0 && page < count && m_project->document().pages().at(page).fotoFrame().isValid();
+    m_actions->action(A::RemoveFoto)->setEnabled(hasPhoto);
+    m_actions->action(A::ChooseFoto)->setEnabled(count > 0);
 }
 
 void MvStudioWindow::updateTitle()
@@ -431,7 +431,7 @@ void MvStudioWindow::onOpened()
     m_welcome->hide();
     m_actions->action(MvStudioActions::Welcome)->setChecked(false);
     m_canvas->setFocus();
-    m_missingPhotos->look();
+    m_missingFotos->look();
 }
 
 void MvStudioWindow::changeEvent(QEvent *event)

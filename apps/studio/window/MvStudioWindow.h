@@ -6,7 +6,7 @@
 class MvBirthdayImport;
 class MvEntriesFlow;
 class MvExportFlow;
-class MvMissingPhotos;
+class MvMissingFotos;
 class MvPageCanvas;
 class MvPageStrip;
 class MvPrintFlow;
@@ -76,7 +76,7 @@ private:
     MvProjectFlow *m_flow;
     MvExportFlow *m_export;
     MvPrintFlow *m_print;
-    MvMissingPhotos *m_missingPhotos;
+    MvMissingFotos *m_missingFotos;
     MvBirthdayImport *m_import;
     MvEntriesFlow *m_entries;
     MvUnfittingWatch *m_unfitting;

@@ -19,9 +19,9 @@ constexpr int delay = 600; // milliseconds without changes before looking
 MvUnfittingWatch::MvUnfittingWatch(MvProject *project, QObject *parent)
     : QObject(parent)
     , m_project(project)
-    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
+    , m_entryFotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
 {
-    connect(m_entryPhotos, &MvFotoPages::arrived, this, &MvUnfittingWatch::invalidate);
+    connect(m_entryFotos, &MvFotoPages::arrived, this, &MvUnfittingWatch::invalidate);
     connect(project, &MvProject::pageChanged, this, &MvUnfittingWatch::invalidate);
     connect(project, &MvProject::pagesReset, this, &MvUnfittingWatch::reset);
     connect(project, &MvProject::documentReplaced, this, &MvUnfittingWatch::reset);
@@ -67,7 +67,7 @@ void MvUnfittingWatch::timerEvent(QTimerEvent *event)
     if (due != m_pages.end()) {
         const int page = int(due - m_pages.begin());
         MvRenderingSources sources;
-        MvFotoPass fotos(*m_entryPhotos, page); // what is missing gives the texts too much room: see again
+        MvFotoPass fotos(*m_entryFotos, page); // what is missing gives the texts too much room: see again
         sources.fotos = &fotos;
         const QList<Entry> notes = MvPrintNote::ofPage(m_project->document(), page, sources);
         due->isDue = false;

@@ -46,7 +46,7 @@ private:
 
     MvProject *m_project;
     QList<Page> m_pages;
-    MvFotoPages *m_entryPhotos;
+    MvFotoPages *m_entryFotos;
     QBasicTimer m_timer;
     bool m_hasNews = false;
 };

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 MvAddressBookImport::MvAddressBookImport(const QList<QFileInfo> &files)
     : m_files(files)
-    , m_photoFolder(MvCalendarEvent::imageDirectory())
+    , m_fotoFolder(MvCalendarEvent::imageDirectory())
 {
     for (const QFileInfo &file : files)
         m_totalBytes += 2 * file.size(); // both steps
@@ -22,7 +22,7 @@ MvAddressBookImport::MvAddressBookImport(const QList<QFileInfo> &files)
 
 MvAddressBookImport::~MvAddressBookImport()
 {
-    removePhotos();
+    removeFotos();
 }
 
 double MvAddressBookImport::progress() const
@@ -53,9 +53,9 @@ void MvAddressBookImport::readCards()
 
 void MvAddressBookImport::makeEntries(const MvCalendarEventList &known, MvVCardDate::Order order)
 {
-    copyPhotos(makeEvents(known, order));
+    copyFotos(makeEvents(known, order));
     if (m_isCancelled)
-        removePhotos();
+        removeFotos();
 }
 
 MvAddressBookImport::EventsByCard MvAddressBookImport::makeEvents(const MvCalendarEventList &known,
@@ -82,7 +82,7 @@ MvAddressBookImport::EventsByCard MvAddressBookImport::makeEvents(const MvCalend
 }
 
 /// Reads the cards once more, as far as there are some that are wanted.
-void MvAddressBookImport::copyPhotos(EventsByCard wanted)
+void MvAddressBookImport::copyFotos(EventsByCard wanted)
 {
     int number = 0;
     for (const QFileInfo &file : m_files) {
@@ -92,37 +92,37 @@ void MvAddressBookImport::copyPhotos(EventsByCard wanted)
             // somebody may have written the file anew since: then its cards are others, and this is not their photo
             if (!events.isEmpty() && !card.name.isEmpty() &&
                 m_events.at(events.first()).description().startsWith(card.name))
-                copyPhoto(card, events);
+                copyFoto(card, events);
         }
         m_bytesBefore += file.size();
     }
 }
 
-void MvAddressBookImport::copyPhoto(const MvVCard &card, const QList<qsizetype> &events)
+void MvAddressBookImport::copyFoto(const MvVCard &card, const QList<qsizetype> &events)
 {
     if (!card.hasPicture())
         return;
-    const MvPictureIntake::Result photo =
+    const MvPictureIntake::Result foto =
         card.isPictureTooLarge
             ? MvPictureIntake::Result{{tr("Das Bild ist zu groß."), {}}, {}}
-            : MvPictureIntake::put(card.picture(), m_photoFolder, card.name, MvPictureIntake::sideOfEntries);
-    if (!photo.isOk()) {
-        m_report.unreadablePictures.append(u"%1: %2"_s.arg(card.name, photo.error));
+            : MvPictureIntake::put(card.picture(), m_fotoFolder, card.name, MvPictureIntake::sideOfEntries);
+    if (!foto.isOk()) {
+        m_report.unreadablePictures.append(u"%1: %2"_s.arg(card.name, foto.error));
         return;
     }
-    m_photos.append(photo.file.absoluteFilePath());
+    m_fotos.append(foto.file.absoluteFilePath());
     for (const qsizetype event : events)
-        m_events[event].setFoto(MvFoto(photo.file));
+        m_events[event].setFoto(MvFoto(foto.file));
 }
 
 MvCalendarEventList MvAddressBookImport::takeEvents()
 {
-    m_photos.clear();
+    m_fotos.clear();
     return std::exchange(m_events, {});
 }
 
-void MvAddressBookImport::removePhotos()
+void MvAddressBookImport::removeFotos()
 {
-    for (const QString &photo : std::exchange(m_photos, {}))
-        QFile::remove(photo);
+    for (const QString &foto : std::exchange(m_fotos, {}))
+        QFile::remove(foto);
 }

@@ -65,17 +65,17 @@ private:
     using EventsByCard = QHash<int, QList<qsizetype>>; // positions of entries by the number of the card
 
     EventsByCard makeEvents(const MvCalendarEventList &known, MvVCardDate::Order order);
-    void copyPhotos(EventsByCard wanted);
-    void copyPhoto(const MvVCard &card, const QList<qsizetype> &events);
-    void removePhotos();
+    void copyFotos(EventsByCard wanted);
+    void copyFoto(const MvVCard &card, const QList<qsizetype> &events);
+    void removeFotos();
     bool goOn(qint64 bytesRead);
 
     const QList<QFileInfo> m_files;
-    const QDir m_photoFolder;
+    const QDir m_fotoFolder;
     qint64 m_totalBytes = 0;
     MvVCardBirthdays m_birthdays;
     MvCalendarEventList m_events;
-    QStringList m_photos; // paths of copies nobody has taken over yet
+    QStringList m_fotos; // paths of copies nobody has taken over yet
     Report m_report;
     qint64 m_bytesBefore = 0; // read of other files and in the step before
     std::atomic<qint64> m_bytesRead = 0;

@@ -40,21 +40,21 @@ MvFoto MvCalendarEventFotoFinder::find(const QString &text)
         m_fotoFolder = MvCalendarEvent::imageDirectory();
         if (m_isOneOfMany) {
             const QStringList names = m_fotoFolder.entryList(QDir::Files | QDir::NoSymLinks, QDir::Unsorted);
-            m_photos = QSet<QString>(names.cbegin(), names.cend());
+            m_fotos = QSet<QString>(names.cbegin(), names.cend());
         }
     }
     const QString path = foundPath(text);
     MvFotoKeyFileInfo key(path, MvVideoFrameIndex(), m_fotoFolder);
-    if (!isPlainPhoto(path) && !liesBelow(path, m_fotoFolder) && (m_isOwn || !liesBelow(path, m_listFolder)))
+    if (!isPlainFoto(path) && !liesBelow(path, m_fotoFolder) && (m_isOwn || !liesBelow(path, m_listFolder)))
         key.forbidOpening();
     return MvFoto(key);
 }
 
 /// Whether the file is known to lie in the photo folder, without a look at the disk.
-bool MvCalendarEventFotoFinder::isPlainPhoto(const QString &path)
+bool MvCalendarEventFotoFinder::isPlainFoto(const QString &path)
 {
     const QString folder = m_fotoFolder.absolutePath() + u'/';
-    return path.startsWith(folder) && m_photos.contains(path.mid(folder.size()));
+    return path.startsWith(folder) && m_fotos.contains(path.mid(folder.size()));
 }
 
 QString MvCalendarEventFotoFinder::foundPath(const QString &text)
@@ -66,7 +66,7 @@ QString MvCalendarEventFotoFinder::foundPath(const QString &text)
             return beside;
     }
     const QString path = ownPath(text);
-    if (!m_isOwn || isRelative || isPlainPhoto(path) || QFileInfo::exists(path))
+    if (!m_isOwn || isRelative || isPlainFoto(path) || QFileInfo::exists(path))
         return path;
     if (QFileInfo(text).dir().dirName() != m_fotoFolder.dirName())
         return path;
@@ -78,7 +78,7 @@ QString MvCalendarEventFotoFinder::foundPath(const QString &text)
 QString MvCalendarEventFotoFinder::ownPath(const QString &text)
 {
     const QString path = QDir::cleanPath(m_fotoFolder.absoluteFilePath(text));
-    if (!isPlainPhoto(path) && QFileInfo(path).absolutePath() == m_fotoFolder.absolutePath())
+    if (!isPlainFoto(path) && QFileInfo(path).absolutePath() == m_fotoFolder.absolutePath())
         MvFotoBin(m_fotoFolder).fetchBack(QFileInfo(path).fileName());
     return path;
 }

@@ -34,12 +34,12 @@ public:
 private:
     QString foundPath(const QString &text);
     QString ownPath(const QString &text);
-    bool isPlainPhoto(const QString &path);
+    bool isPlainFoto(const QString &path);
 
     bool m_isOwn = true;
     QDir m_listFolder; // of a list from elsewhere
     QDir m_fotoFolder; // asked for with the first photo
     bool m_hasFolder = false;
     bool m_isOneOfMany = false;
-    QSet<QString> m_photos; // names of the plain files in the photo folder, for many entries
+    QSet<QString> m_fotos; // names of the plain files in the photo folder, for many entries
 };

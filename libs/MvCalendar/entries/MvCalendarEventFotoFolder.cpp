@@ -28,7 +28,7 @@ QDir presentFolder() // it may not exist
 }
 
 /// The photos of one list. Asks for the folder, which is made when missing, only when there is a photo, and then once.
-class Photos
+class Fotos
 {
 public:
     /// Whether the photo is to be copied.
@@ -107,13 +107,13 @@ bool MvCalendarEventFotoFolder::isKnown(const Source &source) const
 
 MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEventList &events)
 {
-    Photos photos;
+    Fotos list;
     MvCalendarEventList own = events;
     QStringList errors;
     bool hasFailed = false;
     for (qsizetype i = 0; i < events.size(); ++i) {
         const MvFoto foto = events.at(i).foto();
-        if (!photos.isElsewhere(foto))
+        if (!list.isElsewhere(foto))
             continue;
         const Source source = sourceOf(foto);
         const bool isTriedInVain = m_outcomes->contains(source) && hasFailed; // a full disk is full for all of them
@@ -136,10 +136,10 @@ MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEve
 void MvCalendarEventFotoFolder::prepare(const MvCalendarEventList &events, QObject *receiver,
                                         const std::function<void()> &use)
 {
-    Photos photos;
+    Fotos list;
     QHash<Source, MvFoto> fotos;
     for (const MvCalendarEvent &event : events) {
-        if (!photos.isElsewhere(event.foto()))
+        if (!list.isElsewhere(event.foto()))
             continue;
         const Source source = sourceOf(event.foto());
         if (!isKnown(source))

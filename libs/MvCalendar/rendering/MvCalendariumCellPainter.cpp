@@ -43,7 +43,7 @@ constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
 constexpr double overhangOfLetters = 0.1; // of their size, beyond the advance of a line
 constexpr double leastMargin = 1.0;
-constexpr double widestPhotoBesideTexts = 0.5; // of a wide cell
+constexpr double widestFotoBesideTexts = 0.5; // of a wide cell
 const QString separator = u", "_s;
 
 /// Lines one below the other, the last on the baseline 0.
@@ -331,11 +331,11 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
 
     const QColor color = m_renderer.fontColor(config, even);
     const QStringList texts = m_renderer.isOpaqueColor(color) ? m_renderer.describeHolidays(date) : QStringList();
-    const QSizeF photoRoom(inner.width() * (texts.isEmpty() ? 1.0 : widestPhotoBesideTexts), inner.height());
-    const QImage picture = pictureWithin(date, photoRoom);
+    const QSizeF fotoRoom(inner.width() * (texts.isEmpty() ? 1.0 : widestFotoBesideTexts), inner.height());
+    const QImage picture = pictureWithin(date, fotoRoom);
     if (!picture.isNull()) {
-        const QSize size = picture.size().scaled(photoRoom.toSize(), Qt::KeepAspectRatio);
-        drawPhoto(date, QRectF(inner.topLeft(), size), picture);
+        const QSize size = picture.size().scaled(fotoRoom.toSize(), Qt::KeepAspectRatio);
+        drawFoto(date, QRectF(inner.topLeft(), size), picture);
         inner.setLeft(inner.left() + size.width() + textGap);
     }
     if (texts.isEmpty())
@@ -382,11 +382,11 @@ bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect
     double x = std::round(rect.x());
     if (rect.width() > size.width())
         x = std::trunc(x + (rect.width() - size.width()) * 0.5);
-    drawPhoto(date, QRectF(QPointF(x, std::round(rect.y())), size), picture);
+    drawFoto(date, QRectF(QPointF(x, std::round(rect.y())), size), picture);
     return true;
 }
 
-void MvCalendariumCellPainter::drawPhoto(const QDate &date, const QRectF &rect, const QImage &picture)
+void MvCalendariumCellPainter::drawFoto(const QDate &date, const QRectF &rect, const QImage &picture)
 {
     m_painter.drawImage(rect, picture);
     m_renderer.reportFoto(date, rect);

@@ -62,7 +62,7 @@ private:
                        const MvCalendarCellTypeConfig &config, bool even, const QDate &date,
                        std::optional<double> baseline);
     /// With a warning, where those are shown, if it will look coarse in print.
-    void drawPhoto(const QDate &date, const QRectF &rect, const QImage &picture);
+    void drawFoto(const QDate &date, const QRectF &rect, const QImage &picture);
     void drawQualityWarning(const QRectF &rect);
     /// The photo in as many pixels as the device has there, so that print is sharp and screens decode little.
     QImage pictureWithin(const QDate &date, const QSizeF &size) const;

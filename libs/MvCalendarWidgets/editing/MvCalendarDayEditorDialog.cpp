@@ -451,7 +451,7 @@ void MvCalendarDayEditorDialog::resetPhoto()
     m_fotoField->showHint();
 }
 
-void MvCalendarDayEditorDialog::choosePhoto()
+void MvCalendarDayEditorDialog::chooseFoto()
 {
     m_fotoField->chooseFoto();
 }

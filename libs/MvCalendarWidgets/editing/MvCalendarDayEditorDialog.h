@@ -77,7 +77,7 @@ public:
 public Q_SLOTS:
     void removePhoto();
     /// Asks for a photo's file.
-    void choosePhoto();
+    void chooseFoto();
     void acceptedClicked();
     void acceptedAndContinueClicked();
     void rejectedClicked();

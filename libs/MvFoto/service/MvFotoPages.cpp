@@ -12,7 +12,7 @@ MvFotoPages::MvFotoPages(MvFotoService::Urgency urgency, QObject *parent)
 
 bool MvFotoPages::isComplete(const Requests &requests)
 {
-    return std::all_of(requests.cbegin(), requests.cend(), [](const MvFotoRequest &photo) { return photo.isDone(); });
+    return std::all_of(requests.cbegin(), requests.cend(), [](const MvFotoRequest &foto) { return foto.isDone(); });
 }
 
 void MvFotoPages::tellArrival(const MvFotoOrder &order)

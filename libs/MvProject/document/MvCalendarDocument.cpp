@@ -136,18 +136,18 @@ void MvCalendarDocument::divide(const MvDateRange &range, int monthsPerPage)
 {
     if (!m_pages.isEmpty()) {
         m_look = m_pages.constFirst();
-        m_look.setPhotoFrame({});
+        m_look.setFotoFrame({});
     }
     const QList<MvCalendarPage> before = std::exchange(m_pages, {});
     for (const MvCalendarPage &page : before) {
-        if (page.photoFrame().isValid())
-            m_sparePhotos.insert(monthOf(page), page.photoFrame());
+        if (page.fotoFrame().isValid())
+            m_spareFotos.insert(monthOf(page), page.fotoFrame());
     }
     m_range = range;
     for (int number = 0; number < range.monthCount(); number += monthsPerPage) {
         const QDate month = range.monthAt(number);
         MvCalendarPage page = movedTo(month, nearestPage(month, before));
-        page.setPhotoFrame(m_sparePhotos.take(month));
+        page.setFotoFrame(m_spareFotos.take(month));
         m_pages.append(page);
     }
 }
@@ -192,12 +192,12 @@ QList<MvUnfittingText> MvCalendarDocument::unfittingTexts(int page, const MvRend
     return m_pages[page].unfittingTexts(m_format, m_range, sources);
 }
 
-QStringList MvCalendarDocument::missingPhotos() const
+QStringList MvCalendarDocument::missingFotos() const
 {
     QStringList paths;
     for (const MvCalendarPage &page : m_pages) {
-        if (!paths.contains(page.photoFrame().path()) && page.photoFrame().isMissing())
-            paths.append(page.photoFrame().path());
+        if (!paths.contains(page.fotoFrame().path()) && page.fotoFrame().isMissing())
+            paths.append(page.fotoFrame().path());
     }
     return paths;
 }
@@ -222,6 +222,6 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
 bool MvCalendarDocument::operator==(const MvCalendarDocument &other) const
 {
     return m_range == other.m_range && m_format == other.m_format && m_title == other.m_title &&
-           m_author == other.m_author && m_pages == other.m_pages && m_sparePhotos == other.m_sparePhotos &&
+           m_author == other.m_author && m_pages == other.m_pages && m_spareFotos == other.m_spareFotos &&
            look() == other.look();
 }

@@ -66,8 +66,8 @@ public:
     /// neighbour; of pages for other months only the photos are kept. One without any range is that of the pages.
     void setPages(const MvDateRange &range, const QList<MvCalendarPage> &pages);
     /// Photos whose months have no page, by the first day of the month.
-    const QMap<QDate, MvPhotoFrame> &sparePhotos() const { return m_sparePhotos; }
-    void setSparePhotos(const QMap<QDate, MvPhotoFrame> &photos) { m_sparePhotos = photos; }
+    const QMap<QDate, MvFotoFrame> &spareFotos() const { return m_spareFotos; }
+    void setSpareFotos(const QMap<QDate, MvFotoFrame> &fotos) { m_spareFotos = fotos; }
 
     /// Page format, range and all pages are valid.
     bool isValid() const;
@@ -83,7 +83,7 @@ public:
     /// The texts that have no room on a page, counted from 0, in the order of painting. Paints it for nothing else.
     QList<MvUnfittingText> unfittingTexts(int page, const MvRenderingSources &sources = {}) const;
     /// The paths of the photos on pages that are not there or cannot be read, each once. Looks into the files.
-    QStringList missingPhotos() const;
+    QStringList missingFotos() const;
 
     /// Called for each page that is painted, with its number counted from 0: again when it is painted again.
     using Found = std::function<void(int page, const MvPageFindings &findings)>;
@@ -104,6 +104,6 @@ private:
     QString m_title;
     QString m_author;
     QList<MvCalendarPage> m_pages;
-    QMap<QDate, MvPhotoFrame> m_sparePhotos;
+    QMap<QDate, MvFotoFrame> m_spareFotos;
     MvCalendarPage m_look; // of new pages, while there are none
 };

@@ -6,7 +6,7 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvCalendariumFit.h"
-#include "MvProject/MvPhotoPainter.h"
+#include "MvProject/MvFotoPainter.h"
 
 #include <QPainter>
 
@@ -89,19 +89,19 @@ MvCalendarPage::CalendarWeeks MvCalendarPage::calendarWeeks() const
 QRectF MvCalendarPage::calendariumRect(const MvPageFormat &format) const
 {
     QRectF rect = format.contentRect();
-    if (!m_photo.isValid() || !format.isValid())
+    if (!m_foto.isValid() || !format.isValid())
         return rect;
-    const QRectF photo = m_photo.rect(format);
+    const QRectF foto = m_foto.rect(format);
     const double gap = rect.left(); // the calendarium keeps the distance that it has from the page's edges
-    switch (m_photo.placement()) {
-    case MvPhotoFrame::Placement::Top:
-        rect.setTop(photo.bottom() + gap);
+    switch (m_foto.placement()) {
+    case MvFotoFrame::Placement::Top:
+        rect.setTop(foto.bottom() + gap);
         break;
-    case MvPhotoFrame::Placement::Left:
-        rect.setLeft(photo.right() + gap);
+    case MvFotoFrame::Placement::Left:
+        rect.setLeft(foto.right() + gap);
         break;
-    case MvPhotoFrame::Placement::Right:
-        rect.setRight(photo.left() - gap);
+    case MvFotoFrame::Placement::Right:
+        rect.setRight(foto.left() - gap);
         break;
     }
     if (m_appearance.type().traits().isStrip) {
@@ -115,7 +115,7 @@ MvPageFindings MvCalendarPage::paint(QPainter &painter, const MvPageFormat &form
                                      const MvRenderingSources &sources) const
 {
     paintGround(painter, format);
-    paintPhoto(painter, format, sources.fotosOrDefault());
+    paintFoto(painter, format, sources.fotosOrDefault());
     return paintCalendarium(painter, format, documentRange, {sources});
 }
 
@@ -127,10 +127,10 @@ void MvCalendarPage::paintGround(QPainter &painter, const MvPageFormat &format) 
         painter.fillRect(format.mediaRect(), color);
 }
 
-void MvCalendarPage::paintPhoto(QPainter &painter, const MvPageFormat &format, MvFotoSource &fotos) const
+void MvCalendarPage::paintFoto(QPainter &painter, const MvPageFormat &format, MvFotoSource &fotos) const
 {
-    if (m_photo.isValid())
-        MvPhotoPainter(painter, m_photo, fotos).paint(m_photo.rect(format));
+    if (m_foto.isValid())
+        MvFotoPainter(painter, m_foto, fotos).paint(m_foto.rect(format));
 }
 
 MvPaintRecording MvCalendarPage::record(const MvPageFormat &format, const MvDateRange &documentRange,

@@ -10,9 +10,9 @@
 #include "MvPaint/MvPaintRecording.h"
 #include "MvProductBase/MvCalendariumContentConfig.h"
 #include "MvProductBase/MvDateRange.h"
+#include "MvProject/MvFotoFrame.h"
 #include "MvProject/MvPageFindings.h"
 #include "MvProject/MvPageFormat.h"
-#include "MvProject/MvPhotoFrame.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QRectF>
@@ -54,8 +54,8 @@ public:
     /// Switches every bit of the feature on or off.
     void setFeature(const MvCalendariumFeatures &feature, bool on) { m_content = m_content.withFeature(feature, on); }
 
-    const MvPhotoFrame &photoFrame() const { return m_photo; }
-    void setPhotoFrame(const MvPhotoFrame &photo) { m_photo = photo; }
+    const MvFotoFrame &fotoFrame() const { return m_foto; }
+    void setFotoFrame(const MvFotoFrame &foto) { m_foto = foto; }
 
     /// Ids from a file that this computer has no schemas for; others stand in for them. They are written back as long
     /// as the stand-in is not changed.
@@ -85,8 +85,8 @@ public:
     /// The parts of paint() beneath the calendarium, from any thread: the ground of margins and bleed, which continues
     /// that of empty cells, and the photo.
     void paintGround(QPainter &painter, const MvPageFormat &format) const;
-    void paintPhoto(QPainter &painter, const MvPageFormat &format,
-                    MvFotoSource &fotos = MvDirectFotoSource::instance()) const;
+    void paintFoto(QPainter &painter, const MvPageFormat &format,
+                   MvFotoSource &fotos = MvDirectFotoSource::instance()) const;
     /// The part above them, the line with the month and the calendarium, to be replayed in page units. It is recorded
     /// for the rule. Photos of entries are decoded with `pixelsPerUnit` pixels per page unit: pass the largest scale at
     /// which the recording will be replayed. What was found meanwhile is stored where `findings` points, unless that is
@@ -114,7 +114,7 @@ private:
 
     MvCalendariumAppearance m_appearance;
     MvCalendariumContentConfig m_content;
-    MvPhotoFrame m_photo;
+    MvFotoFrame m_foto;
     MvCalendariumLayoutSchemaID m_unknownLayout;
     MvCalendariumColorSchemaID m_unknownColors;
 };

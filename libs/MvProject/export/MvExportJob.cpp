@@ -29,9 +29,9 @@ MvExportJob::MvExportJob(const MvCalendarDocument &document, const Writer &write
         QMetaObject::invokeMethod(
             this, [this, done, total] { Q_EMIT progress(done, total); }, Qt::QueuedConnection);
     }))
-    , m_entryPhotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
+    , m_entryFotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
 {
-    connect(m_entryPhotos, &MvFotoPages::arrived, this, &MvExportJob::recordPage);
+    connect(m_entryFotos, &MvFotoPages::arrived, this, &MvExportJob::recordPage);
     for (int page = 0; page < m_document.pages().size(); ++page)
         m_pages.append(page);
 }
@@ -59,7 +59,7 @@ void MvExportJob::start()
     source.paint = [feed = m_feed, document = m_document, pages = m_pages](QPainter &painter, int number) {
         const MvCalendarPage &content = document.pages()[pages[number]];
         content.paintGround(painter, document.format());
-        content.paintPhoto(painter, document.format());
+        content.paintFoto(painter, document.format());
         feed->take(number).replay(painter);
     };
     m_thread.reset(QThread::create([this, source] { m_result = m_write(source, m_feed.get()); }));
@@ -83,7 +83,7 @@ void MvExportJob::recordPage(int number)
     const double pixelsPerUnit = m_dpi / MvMath::tenthMillimetresPerInch;
     const MvCalendarPage &page = m_document.pages()[m_pages[number]];
     {
-        MvFotoPass fotos(*m_entryPhotos, number);
+        MvFotoPass fotos(*m_entryFotos, number);
         MvRenderingSources sources;
         sources.fotos = &fotos;
         MvPageFindings &found = m_findings[m_pages[number]];
@@ -94,7 +94,7 @@ void MvExportJob::recordPage(int number)
             return; // called again when they have been decoded
         m_feed->put(number, recording);
     }
-    m_entryPhotos->letGo(number); // they are in the recording
+    m_entryFotos->letGo(number); // they are in the recording
     QTimer::singleShot(0, this, [this, number] { recordPage(number + 1); });
 }
 

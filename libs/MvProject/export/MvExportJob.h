@@ -66,7 +66,7 @@ private:
     QList<int> m_pages;
     QHash<int, MvPageFindings> m_findings;
     std::shared_ptr<MvExportFeed> m_feed;
-    MvFotoPages *m_entryPhotos;
+    MvFotoPages *m_entryFotos;
     std::unique_ptr<QThread> m_thread; // while running
     MvExportResult m_result;           // written by the thread, read after its end
     bool m_isStarted = false;

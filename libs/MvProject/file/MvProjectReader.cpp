@@ -74,7 +74,7 @@ void MvProjectReader::readPages(const QDomElement &root)
     const QDate first = pages.constFirst().contentConfig().date();
     if (MvDateRange(first, pages.constLast().contentConfig().date()).monthCount() > mostMonths)
         return fail(root, tr("Der Kalender reicht über mehr als %1 Monate.").arg(mostMonths));
-    document.setSparePhotos(readSparePhotos(root));
+    document.setSpareFotos(readSpareFotos(root));
     document.setPages(range, pages);
 }
 
@@ -112,9 +112,9 @@ MvCalendarPage MvProjectReader::readPage(const QDomElement &element)
     MvCalendarPage page;
     readContent(element, page);
     readAppearance(element.firstChildElement(calendarium), page);
-    const QDomElement photoElement = element.firstChildElement(photo);
-    if (!photoElement.isNull())
-        page.setPhotoFrame(readPhoto(photoElement));
+    const QDomElement fotoElement = element.firstChildElement(foto);
+    if (!fotoElement.isNull())
+        page.setFotoFrame(readFoto(fotoElement));
     return page;
 }
 
@@ -170,35 +170,35 @@ void MvProjectReader::readContent(const QDomElement &element, MvCalendarPage &pa
     page.setContentConfig(config);
 }
 
-MvPhotoFrame MvProjectReader::readPhoto(const QDomElement &element)
+MvFotoFrame MvProjectReader::readFoto(const QDomElement &element)
 {
-    MvPhotoFrame frame;
+    MvFotoFrame frame;
     const QString path = MvXMLParser::textAttribute(element, pathKey);
     if (!path.isEmpty())
         frame.setPath(m_file.absoluteDir().absoluteFilePath(path));
     const qsizetype placement = placements.indexOf(MvXMLParser::textAttribute(element, placementKey));
     if (placement >= 0)
-        frame.setPlacement(MvPhotoFrame::Placement(placement));
+        frame.setPlacement(MvFotoFrame::Placement(placement));
     else
         note(element, tr("Wo das Foto steht, ist nicht lesbar; es kommt nach oben."));
-    frame.setShare(MvXMLParser::doubleAttribute(element, shareKey, MvPhotoFrame::defaultShare));
+    frame.setShare(MvXMLParser::doubleAttribute(element, shareKey, MvFotoFrame::defaultShare));
     noteChanged(element, shareKey, frame.share());
     frame.setFocus(
         {MvXMLParser::doubleAttribute(element, focusXKey, 0.5), MvXMLParser::doubleAttribute(element, focusYKey, 0.5)});
     return frame;
 }
 
-QMap<QDate, MvPhotoFrame> MvProjectReader::readSparePhotos(const QDomElement &root)
+QMap<QDate, MvFotoFrame> MvProjectReader::readSpareFotos(const QDomElement &root)
 {
-    QMap<QDate, MvPhotoFrame> photos;
-    for (QDomElement element = root.firstChildElement(sparePhoto); !element.isNull();
-         element = element.nextSiblingElement(sparePhoto)) {
+    QMap<QDate, MvFotoFrame> fotos;
+    for (QDomElement element = root.firstChildElement(spareFoto); !element.isNull();
+         element = element.nextSiblingElement(spareFoto)) {
         const QDate month = this->month(element, monthKey);
-        const MvPhotoFrame frame = readPhoto(element);
+        const MvFotoFrame frame = readFoto(element);
         if (month.isValid() && frame.isValid())
-            photos.insert(month, frame);
+            fotos.insert(month, frame);
     }
-    return photos;
+    return fotos;
 }
 
 QDate MvProjectReader::month(const QDomElement &element, const QString &name)

@@ -28,8 +28,8 @@ private:
     MvCalendarPage readPage(const QDomElement &element);
     void readAppearance(const QDomElement &element, MvCalendarPage &page);
     void readContent(const QDomElement &element, MvCalendarPage &page);
-    MvPhotoFrame readPhoto(const QDomElement &element);
-    QMap<QDate, MvPhotoFrame> readSparePhotos(const QDomElement &root);
+    MvFotoFrame readFoto(const QDomElement &element);
+    QMap<QDate, MvFotoFrame> readSpareFotos(const QDomElement &root);
     QDate month(const QDomElement &element, const QString &name);
 
     void fail(const QDomElement &place, const QString &message);

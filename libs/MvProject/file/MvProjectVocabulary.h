@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvProject/MvPhotoFrame.h"
+#include "MvProject/MvFotoFrame.h"
 
 #include <QString>
 #include <QStringList>
@@ -52,15 +52,15 @@ inline const QString featuresKey = QStringLiteral("features");
 inline const QString weekHeadKey = QStringLiteral("weekhead");
 inline const QString weekTextKey = QStringLiteral("weektext");
 
-inline const QString photo = QStringLiteral("photo");
-inline const QString sparePhoto = QStringLiteral("sparephoto");
+inline const QString foto = QStringLiteral("photo");
+inline const QString spareFoto = QStringLiteral("sparephoto");
 inline const QString pathKey = QStringLiteral("path");
 inline const QString placementKey = QStringLiteral("placement");
 inline const QString shareKey = QStringLiteral("share");
 inline const QString focusXKey = QStringLiteral("focusx");
 inline const QString focusYKey = QStringLiteral("focusy");
 
-/// In the order of MvPhotoFrame::Placement.
+/// In the order of MvFotoFrame::Placement.
 inline const QStringList placements = {QStringLiteral("top"), QStringLiteral("left"), QStringLiteral("right")};
 
 } // namespace MvProjectVocabulary

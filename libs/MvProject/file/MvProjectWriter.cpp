@@ -80,10 +80,10 @@ QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QStr
     MvXMLBuilder::addAttribute(rangeElement, lastKey, monthText(document.range().end()));
     for (const MvCalendarPage &page : document.pages())
         writePage(rootElement, page);
-    for (const auto &[month, photo] : document.sparePhotos().asKeyValueRange()) {
-        QDomElement element = MvXMLBuilder::buildDomElement(rootElement, sparePhoto);
+    for (const auto &[month, foto] : document.spareFotos().asKeyValueRange()) {
+        QDomElement element = MvXMLBuilder::buildDomElement(rootElement, spareFoto);
         MvXMLBuilder::addAttribute(element, monthKey, monthText(month));
-        writePhoto(element, photo);
+        writeFoto(element, foto);
     }
 
     QByteArray bytes;
@@ -112,9 +112,9 @@ void MvProjectWriter::writePage(QDomElement &root, const MvCalendarPage &page) c
     writeCalendarium(calendariumElement, page);
     QDomElement contentElement = MvXMLBuilder::buildDomElement(element, content);
     writeContent(contentElement, page.contentConfig());
-    if (page.photoFrame().isValid()) {
-        QDomElement photoElement = MvXMLBuilder::buildDomElement(element, photo);
-        writePhoto(photoElement, page.photoFrame());
+    if (page.fotoFrame().isValid()) {
+        QDomElement fotoElement = MvXMLBuilder::buildDomElement(element, foto);
+        writeFoto(fotoElement, page.fotoFrame());
     }
 }
 
@@ -151,13 +151,13 @@ void MvProjectWriter::writeContent(QDomElement &element, const MvCalendariumCont
     addIfAny(element, weekTextKey, content.calendarWeekTextOption().pattern());
 }
 
-void MvProjectWriter::writePhoto(QDomElement &element, const MvPhotoFrame &photo) const
+void MvProjectWriter::writeFoto(QDomElement &element, const MvFotoFrame &foto) const
 {
-    const QString relative = m_folder.relativeFilePath(photo.path());
+    const QString relative = m_folder.relativeFilePath(foto.path());
     const bool isBelow = QDir::isRelativePath(relative) && !relative.startsWith(QStringLiteral("../"));
-    MvXMLBuilder::addAttribute(element, pathKey, isBelow ? relative : photo.path());
-    MvXMLBuilder::addAttribute(element, placementKey, placements.value(int(photo.placement())));
-    MvXMLBuilder::addAttribute(element, shareKey, photo.share());
-    MvXMLBuilder::addAttribute(element, focusXKey, photo.focus().x());
-    MvXMLBuilder::addAttribute(element, focusYKey, photo.focus().y());
+    MvXMLBuilder::addAttribute(element, pathKey, isBelow ? relative : foto.path());
+    MvXMLBuilder::addAttribute(element, placementKey, placements.value(int(foto.placement())));
+    MvXMLBuilder::addAttribute(element, shareKey, foto.share());
+    MvXMLBuilder::addAttribute(element, focusXKey, foto.focus().x());
+    MvXMLBuilder::addAttribute(element, focusYKey, foto.focus().y());
 }

@@ -25,7 +25,7 @@ private:
     void writePage(QDomElement &root, const MvCalendarPage &page) const;
     void writeCalendarium(QDomElement &element, const MvCalendarPage &page) const;
     void writeContent(QDomElement &element, const MvCalendariumContentConfig &content) const;
-    void writePhoto(QDomElement &element, const MvPhotoFrame &photo) const;
+    void writeFoto(QDomElement &element, const MvFotoFrame &foto) const;
 
     QDir m_folder;
 };

@@ -3,7 +3,7 @@
 #include "MvEntries.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvPageSource.h"
-#include "MvProject/MvPrintedPhoto.h"
+#include "MvProject/MvPrintedFoto.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
 
@@ -17,10 +17,10 @@ using namespace Qt::StringLiterals;
 using namespace MvProjectFixture;
 
 using Item = MvPaintRecording::Item;
-using Placement = MvPhotoFrame::Placement;
+using Placement = MvFotoFrame::Placement;
 Q_DECLARE_METATYPE(Placement)
 
-class tst_MvPhotoFrame : public MvTest
+class tst_MvFotoFrame : public MvTest
 {
     Q_OBJECT
 
@@ -41,28 +41,28 @@ private:
     static QList<Item> itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule);
 
     const QTemporaryDir m_folder;
-    QString m_photo;
+    QString m_foto;
 };
 
-void tst_MvPhotoFrame::initTestCase()
+void tst_MvFotoFrame::initTestCase()
 {
-    m_photo = m_folder.filePath(u"foto.png"_s);
-    QVERIFY(writePhoto(m_photo, {300, 200}));
+    m_foto = m_folder.filePath(u"foto.png"_s);
+    QVERIFY(writeFoto(m_foto, {300, 200}));
 }
 
-void tst_MvPhotoFrame::clampsItsValues()
+void tst_MvFotoFrame::clampsItsValues()
 {
-    MvPhotoFrame frame(u"a.jpg"_s);
+    MvFotoFrame frame(u"a.jpg"_s);
     QVERIFY(QDir::isAbsolutePath(frame.path()));
     frame.setShare(std::numeric_limits<double>::quiet_NaN());
-    QCOMPARE(frame.share(), MvPhotoFrame::defaultShare);
+    QCOMPARE(frame.share(), MvFotoFrame::defaultShare);
     frame.setShare(2.0);
     QCOMPARE(frame.share(), 0.75);
     frame.setFocus({-3.0, std::numeric_limits<double>::infinity()});
     QCOMPARE(frame.focus(), QPointF(0.0, 0.5));
 }
 
-void tst_MvPhotoFrame::crops()
+void tst_MvFotoFrame::crops()
 {
     using Case = std::tuple<QSizeF, QPointF, QRectF>; // what is seen of a photo of 300 x 200
     for (const auto &[frame, focus, seen] : {Case({600, 400}, {0.1, 0.9}, {0, 0, 300, 200}), // same proportions
@@ -70,34 +70,34 @@ void tst_MvPhotoFrame::crops()
                                              Case({50, 50}, {1.0, 0.5}, {100, 0, 200, 200}), // the edge stops it
                                              Case({900, 300}, {0.5, 0.1}, {0, 0, 300, 100}), // panorama
                                              Case({0, 50}, {0.5, 0.5}, {})}) {
-        MvPhotoFrame photo(m_photo);
-        photo.setFocus(focus);
-        QCOMPARE(photo.crop({300, 200}, frame), seen);
+        MvFotoFrame foto(m_foto);
+        foto.setFocus(focus);
+        QCOMPARE(foto.crop({300, 200}, frame), seen);
     }
 }
 
-void tst_MvPhotoFrame::sharesThePage_data()
+void tst_MvFotoFrame::sharesThePage_data()
 {
     QTest::addColumn<Placement>("placement");
-    QTest::addColumn<QRectF>("photo"); // on A5 landscape (2100 x 1480) with 3 mm bleed
+    QTest::addColumn<QRectF>("foto"); // on A5 landscape (2100 x 1480) with 3 mm bleed
     QTest::newRow("top") << Placement::Top << QRectF(-30, -30, 2160, 30 + 740);
     QTest::newRow("left") << Placement::Left << QRectF(-30, -30, 30 + 1050, 1540);
     QTest::newRow("right") << Placement::Right << QRectF(1050, -30, 1050 + 30, 1540);
 }
 
-void tst_MvPhotoFrame::sharesThePage()
+void tst_MvFotoFrame::sharesThePage()
 {
     QFETCH(const Placement, placement);
-    QFETCH(const QRectF, photo);
+    QFETCH(const QRectF, foto);
     MvCalendarDocument calendar = document(u"MONTH_GRID_COMPACT"_s, 1);
-    MvPhotoFrame frame(m_photo, placement);
+    MvFotoFrame frame(m_foto, placement);
     frame.setShare(0.5);
-    setPhoto(calendar, 0, frame);
+    setFoto(calendar, 0, frame);
     const MvPageFormat format = calendar.format();
-    QCOMPARE(frame.rect(format), photo);
+    QCOMPARE(frame.rect(format), foto);
     const MvCalendarPage page = calendar.pages()[0];
     const QRectF room = page.calendariumRect(format);
-    QVERIFY(!room.intersects(photo.adjusted(-50, -50, 50, 50)));
+    QVERIFY(!room.intersects(foto.adjusted(-50, -50, 50, 50)));
     QVERIFY(format.trimRect().adjusted(50, 50, -50, -50).contains(room));
     if (placement != Placement::Top)
         QCOMPARE(room.top(), 120.0); // the binding
@@ -108,9 +108,9 @@ void tst_MvPhotoFrame::sharesThePage()
     for (const Item &item : items) {
         if (item.kind == Item::Image) {
             ++images;
-            QVERIFY(item.bounds.adjusted(-0.01, -0.01, 0.01, 0.01).contains(photo));
-            QVERIFY(item.clip.intersected(item.bounds).adjusted(-0.01, -0.01, 0.01, 0.01).contains(photo));
-            QVERIFY(photo.adjusted(-0.01, -0.01, 0.01, 0.01).contains(item.clip));
+            QVERIFY(item.bounds.adjusted(-0.01, -0.01, 0.01, 0.01).contains(foto));
+            QVERIFY(item.clip.intersected(item.bounds).adjusted(-0.01, -0.01, 0.01, 0.01).contains(foto));
+            QVERIFY(foto.adjusted(-0.01, -0.01, 0.01, 0.01).contains(item.clip));
         } else if (item.kind == Item::Text) {
             ++texts;
             QVERIFY2(room.adjusted(-1, -1, 1, 1).contains(item.bounds), qPrintable(item.text));
@@ -120,7 +120,7 @@ void tst_MvPhotoFrame::sharesThePage()
     QVERIFY(texts > 31);
 }
 
-void tst_MvPhotoFrame::isNeverDistorted_data()
+void tst_MvFotoFrame::isNeverDistorted_data()
 {
     QTest::addColumn<double>("share");
     QTest::addColumn<QPointF>("focus");
@@ -131,16 +131,16 @@ void tst_MvPhotoFrame::isNeverDistorted_data()
     QTest::newRow("a third, bottom") << 0.3 << QPointF(0.0, 0.9) << QPoint(1050, -1000); // out of sight
 }
 
-void tst_MvPhotoFrame::isNeverDistorted()
+void tst_MvFotoFrame::isNeverDistorted()
 {
     QFETCH(const double, share);
     QFETCH(const QPointF, focus);
     QFETCH(const QPoint, corner);
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
-    MvPhotoFrame frame(m_photo);
+    MvFotoFrame frame(m_foto);
     frame.setShare(share);
     frame.setFocus(focus);
-    setPhoto(calendar, 0, frame);
+    setFoto(calendar, 0, frame);
     QImage image(2160, 1540, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -156,7 +156,7 @@ void tst_MvPhotoFrame::isNeverDistorted()
     QCOMPARE(colorAt({2120, int(share * 1480) - near}), QColor(Qt::yellow)); // up to the bleed's edge
 }
 
-void tst_MvPhotoFrame::missing()
+void tst_MvFotoFrame::missing()
 {
     for (const QByteArray &content : QByteArrayList{"no file", "Liebe Oma,", "\x89PNG\r\n\x1a\n...."}) {
         const QString path = m_folder.filePath(u"weg %1.jpg"_s.arg(content.size()));
@@ -165,13 +165,13 @@ void tst_MvPhotoFrame::missing()
             QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
         file.close();
         MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 3);
-        setPhoto(calendar, 0, MvPhotoFrame(path));
-        setPhoto(calendar, 1, MvPhotoFrame(m_photo));
-        setPhoto(calendar, 2, MvPhotoFrame(path));
-        QCOMPARE(calendar.missingPhotos(), QStringList{path});
+        setFoto(calendar, 0, MvFotoFrame(path));
+        setFoto(calendar, 1, MvFotoFrame(m_foto));
+        setFoto(calendar, 2, MvFotoFrame(path));
+        QCOMPARE(calendar.missingFotos(), QStringList{path});
 
         const MvCalendarPage page = calendar.pages()[0];
-        const QRectF frame = page.photoFrame().rect(calendar.format());
+        const QRectF frame = page.fotoFrame().rect(calendar.format());
         const auto isInFrame = [&frame](const Item &item) {
             return frame.contains(item.bounds) && item.bounds.height() > 0.0;
         };
@@ -191,7 +191,7 @@ void tst_MvPhotoFrame::missing()
     }
 }
 
-void tst_MvPhotoFrame::resolution_data()
+void tst_MvFotoFrame::resolution_data()
 {
     QTest::addColumn<QString>("paper");
     QTest::addColumn<double>("share");
@@ -203,7 +203,7 @@ void tst_MvPhotoFrame::resolution_data()
     QTest::newRow("A3, cropped above and below") << u"A3"_s << 0.75 << 1200 / 303.0 * 25.4 << true;
 }
 
-void tst_MvPhotoFrame::resolution()
+void tst_MvFotoFrame::resolution()
 {
     QFETCH(const QString, paper);
     QFETCH(const double, share);
@@ -214,15 +214,15 @@ void tst_MvPhotoFrame::resolution()
     MvPageFormat format = MvPageFormat::fromName(paper);
     format.setOrientation(MvPageFormat::Orientation::Landscape);
     format.setBleed(30.0);
-    MvPhotoFrame frame(path, Placement::Left);
+    MvFotoFrame frame(path, Placement::Left);
     frame.setShare(share);
     MvCalendarPage page = document(u"MONTH_GRID_CLASSIC"_s, 1).pages()[0];
-    page.setPhotoFrame(frame);
+    page.setFotoFrame(frame);
 
-    const QList<MvPrintedPhoto> photos = MvPrintedPhoto::ofPage(page, format, {});
-    QCOMPARE(photos.size(), 1);
-    QVERIFY2(std::abs(photos[0].pixelsPerInch - expected) < 0.5, qPrintable(QString::number(photos[0].pixelsPerInch)));
-    QCOMPARE(photos[0].grade() == MvFotoResolution::Grade::Poor, isMarked);
+    const QList<MvPrintedFoto> fotos = MvPrintedFoto::ofPage(page, format, {});
+    QCOMPARE(fotos.size(), 1);
+    QVERIFY2(std::abs(fotos[0].pixelsPerInch - expected) < 0.5, qPrintable(QString::number(fotos[0].pixelsPerInch)));
+    QCOMPARE(fotos[0].grade() == MvFotoResolution::Grade::Poor, isMarked);
     const auto images = [&](unsigned rule) {
         const QList<Item> items = itemsOf(page, format, rule);
         return std::count_if(items.begin(), items.end(), [](const Item &item) { return item.kind == Item::Image; });
@@ -231,27 +231,26 @@ void tst_MvPhotoFrame::resolution()
     QCOMPARE(images(MvRenderingRule::InteractiveScreen | MvRenderingRule::ShowQualityWarnings), isMarked ? 2 : 1);
 }
 
-void tst_MvPhotoFrame::resolutionInCells()
+void tst_MvFotoFrame::resolutionInCells()
 {
     const QString small = m_folder.filePath(u"klein.png"_s);
-    QVERIFY(writePhoto(small, {90, 60}));
-    const auto entry = [](const QDate &date, const QString &photo) {
-        return MvEntries::entry(u"Oma"_s, date, MvFoto(QFileInfo(photo)));
+    QVERIFY(writeFoto(small, {90, 60}));
+    const auto entry = [](const QDate &date, const QString &foto) {
+        return MvEntries::entry(u"Oma"_s, date, MvFoto(QFileInfo(foto)));
     };
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
-    registry.setEvents({entry({1960, 1, 20}, m_photo), entry({1962, 1, 6}, small)});
+    registry.setEvents({entry({1960, 1, 20}, m_foto), entry({1962, 1, 6}, small)});
     const auto end = qScopeGuard([&registry] { registry.setEvents({}); });
     const MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
-    const QList<MvPrintedPhoto> photos =
-        MvPrintedPhoto::ofPage(calendar.pages()[0], calendar.format(), calendar.range());
-    QCOMPARE(photos.size(), 2);
-    for (const auto &[photo, day, width] : {std::tuple(photos[0], 6, 90), std::tuple(photos[1], 20, 300)}) {
-        QCOMPARE(photo.date, QDate(2027, 1, day));
-        QVERIFY(std::abs(photo.rect.width() / photo.rect.height() - 1.5) < 0.05);
-        QVERIFY(std::abs(photo.pixelsPerInch - width / photo.rect.width() * 254.0) < 3.0);
-        QCOMPARE(photo.grade() == MvFotoResolution::Grade::Poor, day == 6);
+    const QList<MvPrintedFoto> fotos = MvPrintedFoto::ofPage(calendar.pages()[0], calendar.format(), calendar.range());
+    QCOMPARE(fotos.size(), 2);
+    for (const auto &[foto, day, width] : {std::tuple(fotos[0], 6, 90), std::tuple(fotos[1], 20, 300)}) {
+        QCOMPARE(foto.date, QDate(2027, 1, day));
+        QVERIFY(std::abs(foto.rect.width() / foto.rect.height() - 1.5) < 0.05);
+        QVERIFY(std::abs(foto.pixelsPerInch - width / foto.rect.width() * 254.0) < 3.0);
+        QCOMPARE(foto.grade() == MvFotoResolution::Grade::Poor, day == 6);
     }
-    QCOMPARE(MvPrintedPhoto::ofPage(calendar.pages()[1], calendar.format(), calendar.range()).size(), 0);
+    QCOMPARE(MvPrintedFoto::ofPage(calendar.pages()[1], calendar.format(), calendar.range()).size(), 0);
     for (const auto &[rule, images] : {std::pair(unsigned(MvRenderingRule::InteractiveScreen), 2),
                                        std::pair(unsigned(MvRenderingRule::ShowQualityWarnings), 3)})
         QCOMPARE(calendar.pages()[0]
@@ -261,7 +260,7 @@ void tst_MvPhotoFrame::resolutionInCells()
                  images);
 }
 
-QList<Item> tst_MvPhotoFrame::itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule)
+QList<Item> tst_MvFotoFrame::itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule)
 {
     MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
@@ -271,5 +270,5 @@ QList<Item> tst_MvPhotoFrame::itemsOf(const MvCalendarPage &page, const MvPageFo
     return recorder.recording().items();
 }
 
-MV_TEST_MAIN(tst_MvPhotoFrame)
-#include "tst_MvPhotoFrame.moc"
+MV_TEST_MAIN(tst_MvFotoFrame)
+#include "tst_MvFotoFrame.moc"

@@ -16,7 +16,7 @@ class MvPageFormat;
 struct MvPageFindings;
 
 /// A photo that a page shows, its own or that of an entry in the cell of its day, and how finely it is printed.
-struct MVPROJECT_EXPORT MvPrintedPhoto
+struct MVPROJECT_EXPORT MvPrintedFoto
 {
     QString path;
     QDate date;                 // of the day in whose cell it stands; invalid for the page's own photo
@@ -25,12 +25,12 @@ struct MVPROJECT_EXPORT MvPrintedPhoto
 
     MvFotoResolution::Grade grade() const { return MvFotoResolution::grade(pixelsPerInch); }
 
-    bool operator==(const MvPrintedPhoto &) const = default;
+    bool operator==(const MvPrintedFoto &) const = default;
 
     /// The photos of a page whose files can be read: its own first, then those of days by date. GUI thread.
-    static QList<MvPrintedPhoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                        const MvDateRange &documentRange, const MvRenderingSources &sources = {});
+    static QList<MvPrintedFoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                       const MvDateRange &documentRange, const MvRenderingSources &sources = {});
     /// The same of a page that has been painted or recorded already, by what was found then.
-    static QList<MvPrintedPhoto> ofPaintedPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                               const MvPageFindings &findings, const MvRenderingSources &sources = {});
+    static QList<MvPrintedFoto> ofPaintedPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                              const MvPageFindings &findings, const MvRenderingSources &sources = {});
 };

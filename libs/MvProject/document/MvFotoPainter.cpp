@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvProject/MvPhotoPainter.h"
+#include "MvProject/MvFotoPainter.h"
 
 #include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoResolution.h"
@@ -34,7 +34,7 @@ int screenSide(int needed)
 
 } // namespace
 
-void MvPhotoPainter::paint(const QRectF &rect)
+void MvFotoPainter::paint(const QRectF &rect)
 {
     if (rect.isEmpty())
         return;
@@ -58,10 +58,10 @@ void MvPhotoPainter::paint(const QRectF &rect)
         paintPlaceholder(rect, isScreen);
 }
 
-QImage MvPhotoPainter::decode(const QSize &full, double devicePixelsPerPhotoPixel) const
+QImage MvFotoPainter::decode(const QSize &full, double devicePixelsPerFotoPixel) const
 {
     const QFileInfo file(m_frame.path());
-    const double scale = std::min(1.0, devicePixelsPerPhotoPixel); // what is larger than the photo is not in its file
+    const double scale = std::min(1.0, devicePixelsPerFotoPixel); // what is larger than the photo is not in its file
     const QSize needed(std::max(1, int(std::ceil(full.width() * scale))),
                        std::max(1, int(std::ceil(full.height() * scale))));
     if (MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::Print))
@@ -73,7 +73,7 @@ QImage MvPhotoPainter::decode(const QSize &full, double devicePixelsPerPhotoPixe
 
 /// Whole pixels of the image are drawn, clipped to the rectangle: some targets would round the part that is seen, and
 /// so distort it.
-void MvPhotoPainter::drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect)
+void MvFotoPainter::drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect)
 {
     const QRect pixels = seen.toAlignedRect() & image.rect();
     const double unitsPerPixel = rect.width() / seen.width();
@@ -86,7 +86,7 @@ void MvPhotoPainter::drawCropped(const QImage &image, const QRectF &seen, const 
     m_painter.restore();
 }
 
-void MvPhotoPainter::paintPlaceholder(const QRectF &rect, bool isNamed)
+void MvFotoPainter::paintPlaceholder(const QRectF &rect, bool isNamed)
 {
     m_painter.fillRect(rect, fieldColor);
     if (!isNamed)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvProject/MvPhotoFrame.h"
+#include "MvProject/MvFotoFrame.h"
 
 #include "MvFoto/MvFotoAccess.h"
 
@@ -18,33 +18,33 @@ double clamped(double value, double minimum, double maximum, double otherwise)
 
 } // namespace
 
-MvPhotoFrame::MvPhotoFrame(const QString &path, Placement placement)
+MvFotoFrame::MvFotoFrame(const QString &path, Placement placement)
     : m_placement(placement)
 {
     setPath(path);
 }
 
-bool MvPhotoFrame::isMissing() const
+bool MvFotoFrame::isMissing() const
 {
     return isValid() && MvFotoAccess::preferredSize(MvFoto(QFileInfo(m_path))).isEmpty();
 }
 
-void MvPhotoFrame::setPath(const QString &path)
+void MvFotoFrame::setPath(const QString &path)
 {
     m_path = path.isEmpty() ? QString() : QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
 
-void MvPhotoFrame::setShare(double share)
+void MvFotoFrame::setShare(double share)
 {
     m_share = clamped(share, minimumShare, maximumShare, defaultShare);
 }
 
-void MvPhotoFrame::setFocus(const QPointF &focus)
+void MvFotoFrame::setFocus(const QPointF &focus)
 {
     m_focus = {clamped(focus.x(), 0.0, 1.0, 0.5), clamped(focus.y(), 0.0, 1.0, 0.5)};
 }
 
-QRectF MvPhotoFrame::rect(const MvPageFormat &format) const
+QRectF MvFotoFrame::rect(const MvPageFormat &format) const
 {
     if (!isValid() || !format.isValid())
         return {};
@@ -64,13 +64,13 @@ QRectF MvPhotoFrame::rect(const MvPageFormat &format) const
     return rect;
 }
 
-QRectF MvPhotoFrame::crop(const QSizeF &photo, const QSizeF &frame) const
+QRectF MvFotoFrame::crop(const QSizeF &foto, const QSizeF &frame) const
 {
-    if (photo.isEmpty() || frame.isEmpty())
+    if (foto.isEmpty() || frame.isEmpty())
         return {};
-    const QSizeF seen = frame.scaled(photo, Qt::KeepAspectRatio);
+    const QSizeF seen = frame.scaled(foto, Qt::KeepAspectRatio);
     const auto start = [](double focus, double whole, double part) {
         return std::clamp(focus * whole - part / 2.0, 0.0, std::max(0.0, whole - part));
     };
-    return {{start(m_focus.x(), photo.width(), seen.width()), start(m_focus.y(), photo.height(), seen.height())}, seen};
+    return {{start(m_focus.x(), foto.width(), seen.width()), start(m_focus.y(), foto.height(), seen.height())}, seen};
 }

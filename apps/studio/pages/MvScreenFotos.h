@@ -18,16 +18,16 @@
 ///
 /// Files that come, go or change are noticed: when the program is activated again, and a file that could not be read
 /// also while the program is in use.
-class MvScreenPhotos : public QObject
+class MvScreenFotos : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit MvScreenPhotos(MvFotoService::Urgency urgency, QObject *parent = nullptr);
+    explicit MvScreenFotos(MvFotoService::Urgency urgency, QObject *parent = nullptr);
 
     /// The photo, as large as it fits into the bounds (pixels), but never larger than its file has it. Null when it is
     /// not there yet: loaded() follows. While another size is being decoded, one that is at hand is given.
-    QImage photo(const QString &path, const QSize &bounds);
+    QImage foto(const QString &path, const QSize &bounds);
 
     /// The bounds for a photo that is to cover a frame (pixels), whatever its proportions within reason.
     static QSize boundsFor(const QRectF &frame);
@@ -42,7 +42,7 @@ public:
     void recheck();
 
 Q_SIGNALS:
-    /// What photo() or isUnreadable() gives for the file is new.
+    /// What foto() or isUnreadable() gives for the file is new.
     void loaded(const QString &path);
 
 private:

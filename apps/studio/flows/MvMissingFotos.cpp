@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "flows/MvMissingPhotos.h"
+#include "flows/MvMissingFotos.h"
 
 #include "MvProject/MvProject.h"
 #include "common/MvStudioMessage.h"
@@ -30,7 +30,7 @@ double likeness(const QString &missing, const QString &found)
 
 } // namespace
 
-MvMissingPhotos::MvMissingPhotos(MvProject *project, QWidget *window)
+MvMissingFotos::MvMissingFotos(MvProject *project, QWidget *window)
     : QObject(window)
     , m_project(project)
     , m_window(window)
@@ -39,14 +39,14 @@ MvMissingPhotos::MvMissingPhotos(MvProject *project, QWidget *window)
     m_pool.setMaxThreadCount(1);
 }
 
-MvMissingPhotos::~MvMissingPhotos()
+MvMissingFotos::~MvMissingFotos()
 {
     *m_isGivenUp = true;
     m_pool.waitForDone();
 }
 
-QHash<QString, QString> MvMissingPhotos::find(const QStringList &missing, const QString &folder,
-                                              const std::atomic_bool &isGivenUp)
+QHash<QString, QString> MvMissingFotos::find(const QStringList &missing, const QString &folder,
+                                             const std::atomic_bool &isGivenUp)
 {
     QMultiHash<QString, QString> byName;
     for (const QString &path : missing)
@@ -64,10 +64,10 @@ QHash<QString, QString> MvMissingPhotos::find(const QStringList &missing, const 
     return found;
 }
 
-void MvMissingPhotos::look()
+void MvMissingFotos::look()
 {
     QStringList paths;
-    for (const QString &path : m_project->document().missingPhotos())
+    for (const QString &path : m_project->document().missingFotos())
         paths.append(QDir::toNativeSeparators(path));
     if (paths.isEmpty())
         return;
@@ -89,30 +89,29 @@ void MvMissingPhotos::look()
     box->open();
 }
 
-void MvMissingPhotos::chooseFolder()
+void MvMissingFotos::chooseFolder()
 {
-    auto *dialog =
-        new QFileDialog(m_window, tr("In welchem Ordner liegen die Fotos?"), MvStudioSettings::photoFolder());
+    auto *dialog = new QFileDialog(m_window, tr("In welchem Ordner liegen die Fotos?"), MvStudioSettings::fotoFolder());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName(u"photoFolderDialog"_s);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    connect(dialog, &QFileDialog::fileSelected, this, &MvMissingPhotos::searchIn);
+    connect(dialog, &QFileDialog::fileSelected, this, &MvMissingFotos::searchIn);
     dialog->open();
 }
 
-void MvMissingPhotos::search()
+void MvMissingFotos::search()
 {
-    if (m_project->document().missingPhotos().isEmpty())
+    if (m_project->document().missingFotos().isEmpty())
         Q_EMIT message(tr("Kein Foto fehlt"));
     else
         look();
 }
 
-void MvMissingPhotos::searchIn(const QString &folder)
+void MvMissingFotos::searchIn(const QString &folder)
 {
     Q_EMIT message(tr("Die Fotos werden gesucht …"));
-    const QStringList missing = m_project->document().missingPhotos();
+    const QStringList missing = m_project->document().missingFotos();
     m_pool.start([this, missing, folder, isGivenUp = m_isGivenUp] {
         const QHash<QString, QString> found = find(missing, folder, *isGivenUp);
         if (!*isGivenUp) // the destructor waits for this task, so that the object is still there
@@ -121,17 +120,17 @@ void MvMissingPhotos::searchIn(const QString &folder)
 }
 
 /// All pages in one step. Pages that have got another photo meanwhile keep it.
-void MvMissingPhotos::take(const QHash<QString, QString> &found, int missing)
+void MvMissingFotos::take(const QHash<QString, QString> &found, int missing)
 {
     MvCalendarDocument document = m_project->document();
     for (int number = 0; number < document.pages().size(); ++number) {
         MvCalendarPage page = document.pages().at(number);
-        MvPhotoFrame frame = page.photoFrame();
+        MvFotoFrame frame = page.fotoFrame();
         const QString path = found.value(frame.path());
         if (path.isEmpty())
             continue;
         frame.setPath(path);
-        page.setPhotoFrame(frame);
+        page.setFotoFrame(frame);
         document.setPage(number, page);
     }
     if (!found.isEmpty())

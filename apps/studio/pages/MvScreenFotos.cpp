@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "pages/MvScreenPhotos.h"
+#include "pages/MvScreenFotos.h"
 
 #include <QGuiApplication>
 
@@ -26,20 +26,20 @@ bool covers(const QSize &a, const QSize &b)
 
 } // namespace
 
-MvScreenPhotos::MvScreenPhotos(MvFotoService::Urgency urgency, QObject *parent)
+MvScreenFotos::MvScreenFotos(MvFotoService::Urgency urgency, QObject *parent)
     : QObject(parent)
     , m_urgency(urgency)
 {
-    connect(&MvFotoService::instance(), &MvFotoService::arrived, this, &MvScreenPhotos::takeArrived);
+    connect(&MvFotoService::instance(), &MvFotoService::arrived, this, &MvScreenFotos::takeArrived);
     m_watch.setInterval(watchInterval);
-    connect(&m_watch, &QTimer::timeout, this, &MvScreenPhotos::recheck);
+    connect(&m_watch, &QTimer::timeout, this, &MvScreenFotos::recheck);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state == Qt::ApplicationActive)
             recheck();
     });
 }
 
-QImage MvScreenPhotos::photo(const QString &path, const QSize &bounds)
+QImage MvScreenFotos::foto(const QString &path, const QSize &bounds)
 {
     if (path.isEmpty() || bounds.isEmpty())
         return {};
@@ -61,14 +61,14 @@ QImage MvScreenPhotos::photo(const QString &path, const QSize &bounds)
     return service.otherSize(order);
 }
 
-QSize MvScreenPhotos::boundsFor(const QRectF &frame)
+QSize MvScreenFotos::boundsFor(const QRectF &frame)
 {
     constexpr double reserve = 1.5; // an upright photo of 2:3 in a frame that lies
     const int side = int(std::ceil(reserve * std::max(frame.width(), frame.height())));
     return {side, side};
 }
 
-void MvScreenPhotos::takeArrived(const MvFotoOrder &order)
+void MvScreenFotos::takeArrived(const MvFotoOrder &order)
 {
     const auto state = m_states.find(order.path);
     if (state == m_states.end() || !state->awaited.isDone())
@@ -82,14 +82,14 @@ void MvScreenPhotos::takeArrived(const MvFotoOrder &order)
     Q_EMIT loaded(order.path);
 }
 
-void MvScreenPhotos::clear()
+void MvScreenFotos::clear()
 {
     m_states.clear();
     m_latest = {};
     m_watch.stop();
 }
 
-void MvScreenPhotos::recheck()
+void MvScreenFotos::recheck()
 {
     if (m_isRechecking || m_states.isEmpty())
         return;
@@ -103,7 +103,7 @@ void MvScreenPhotos::recheck()
     MvFotoService::instance().run(m_urgency, this, look);
 }
 
-void MvScreenPhotos::takeStamps(const QHash<QString, MvFotoStamp> &stamps)
+void MvScreenFotos::takeStamps(const QHash<QString, MvFotoStamp> &stamps)
 {
     m_isRechecking = false;
     for (auto it = stamps.begin(); it != stamps.end(); ++it) {
@@ -116,7 +116,7 @@ void MvScreenPhotos::takeStamps(const QHash<QString, MvFotoStamp> &stamps)
     watchUnreadable();
 }
 
-void MvScreenPhotos::watchUnreadable()
+void MvScreenFotos::watchUnreadable()
 {
     const bool isNeeded =
         std::any_of(m_states.cbegin(), m_states.cend(), [](const State &state) { return state.isUnreadable; });

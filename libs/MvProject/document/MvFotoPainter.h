@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvProject/MvPhotoFrame.h"
+#include "MvProject/MvFotoFrame.h"
 
 #include <QCoreApplication>
 #include <QImage>
@@ -11,13 +11,13 @@ class QPainter;
 
 /// Paints the photo of a page, in the size that the painter's device needs. Any thread that the source of the photos
 /// allows.
-class MvPhotoPainter
+class MvFotoPainter
 {
-    Q_DECLARE_TR_FUNCTIONS(MvPhotoPainter)
+    Q_DECLARE_TR_FUNCTIONS(MvFotoPainter)
 
 public:
     /// What is handed over must outlive the painter.
-    MvPhotoPainter(QPainter &painter, const MvPhotoFrame &frame, MvFotoSource &fotos)
+    MvFotoPainter(QPainter &painter, const MvFotoFrame &frame, MvFotoSource &fotos)
         : m_painter(painter)
         , m_frame(frame)
         , m_fotos(fotos)
@@ -29,11 +29,11 @@ public:
     void paint(const QRectF &rect);
 
 private:
-    QImage decode(const QSize &full, double devicePixelsPerPhotoPixel) const;
+    QImage decode(const QSize &full, double devicePixelsPerFotoPixel) const;
     void drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect);
     void paintPlaceholder(const QRectF &rect, bool isNamed);
 
     QPainter &m_painter;
-    const MvPhotoFrame &m_frame;
+    const MvFotoFrame &m_frame;
     MvFotoSource &m_fotos;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvProject/MvPhotoFrame.h"
+#include "MvProject/MvFotoFrame.h"
 
 #include <QObject>
 
@@ -14,13 +14,13 @@ class QMimeData;
 class QWidget;
 
 /// What can be done with the photo of the shown page, each as one undo step.
-class MvPagePhoto : public QObject
+class MvPageFoto : public QObject
 {
     Q_OBJECT
 
 public:
     /// The widget is the parent of dialogs and of this object.
-    MvPagePhoto(MvProject *project, MvPageItem *item, QWidget *parent);
+    MvPageFoto(MvProject *project, MvPageItem *item, QWidget *parent);
 
     /// Asks for a file without blocking and makes it the page's photo.
     void choose();
@@ -36,9 +36,9 @@ public:
     void addActions(QMenu *menu);
 
     /// The first photo among the files that are dragged; empty when there is none.
-    static QString photoIn(const QMimeData *data);
+    static QString fotoIn(const QMimeData *data);
     /// A frame for a new photo: at the top, or beside the calendarium when a page that lies gets an upright photo.
-    static MvPhotoFrame frameFor(const QString &path, const MvPageFormat &format);
+    static MvFotoFrame frameFor(const QString &path, const MvPageFormat &format);
 
 Q_SIGNALS:
     void message(const QString &text);
@@ -46,9 +46,9 @@ Q_SIGNALS:
 private:
     void addPlacements(QMenu *menu);
     void addSizes(QMenu *menu);
-    void change(const QString &text, const std::function<void(MvPhotoFrame &)> &edit);
+    void change(const QString &text, const std::function<void(MvFotoFrame &)> &edit);
     static void change(MvProject *project, int page, const QString &text,
-                       const std::function<void(MvPhotoFrame &)> &edit);
+                       const std::function<void(MvFotoFrame &)> &edit);
 
     MvProject *m_project;
     MvPageItem *m_item;

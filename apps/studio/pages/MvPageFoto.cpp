@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "pages/MvPagePhoto.h"
+#include "pages/MvPageFoto.h"
 
 #include "common/MvStudioSettings.h"
 #include "pages/MvPageItem.h"
@@ -26,22 +26,22 @@ namespace {
 constexpr int decodedQuality = 3; // to see that a photo can be read; a page decodes it anew at its size
 
 /// Beside a photo, the columns of a month need room for the names of holidays.
-double usualShare(MvPhotoFrame::Placement placement)
+double usualShare(MvFotoFrame::Placement placement)
 {
     constexpr double besideShare = 0.4;
-    return placement == MvPhotoFrame::Placement::Top ? MvPhotoFrame::defaultShare : besideShare;
+    return placement == MvFotoFrame::Placement::Top ? MvFotoFrame::defaultShare : besideShare;
 }
 
 } // namespace
 
-MvPagePhoto::MvPagePhoto(MvProject *project, MvPageItem *item, QWidget *parent)
+MvPageFoto::MvPageFoto(MvProject *project, MvPageItem *item, QWidget *parent)
     : QObject(parent)
     , m_project(project)
     , m_item(item)
     , m_parent(parent)
 {}
 
-QString MvPagePhoto::photoIn(const QMimeData *data)
+QString MvPageFoto::fotoIn(const QMimeData *data)
 {
     for (const QUrl &url : data->urls()) {
         const QString path = url.toLocalFile();
@@ -51,18 +51,18 @@ QString MvPagePhoto::photoIn(const QMimeData *data)
     return {};
 }
 
-MvPhotoFrame MvPagePhoto::frameFor(const QString &path, const MvPageFormat &format)
+MvFotoFrame MvPageFoto::frameFor(const QString &path, const MvPageFormat &format)
 {
-    MvPhotoFrame frame(path);
-    const QSize photo = MvImageLoader::instance().size(QFileInfo(path));
-    if (format.orientation() == MvPageFormat::Orientation::Landscape && photo.height() > photo.width()) {
-        frame.setPlacement(MvPhotoFrame::Placement::Left);
+    MvFotoFrame frame(path);
+    const QSize foto = MvImageLoader::instance().size(QFileInfo(path));
+    if (format.orientation() == MvPageFormat::Orientation::Landscape && foto.height() > foto.width()) {
+        frame.setPlacement(MvFotoFrame::Placement::Left);
         frame.setShare(usualShare(frame.placement()));
     }
     return frame;
 }
 
-void MvPagePhoto::choose()
+void MvPageFoto::choose()
 {
     auto *dialog = new QFileDialog(m_parent, tr("Foto für die Seite wählen"));
     dialog->setObjectName(u"photoDialog"_s);
@@ -70,11 +70,10 @@ void MvPagePhoto::choose()
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setNameFilters(
         {tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s), tr("Alle Dateien (*)")});
-    const MvPhotoFrame &frame = m_item->shownPage().photoFrame();
+    const MvFotoFrame &frame = m_item->shownPage().fotoFrame();
     const QFileInfo present(frame.path());
-    dialog->setDirectory(frame.isValid() && QFileInfo(present.absolutePath()).isDir()
-                             ? present.absolutePath()
-                             : MvStudioSettings::photoFolder());
+    dialog->setDirectory(frame.isValid() && QFileInfo(present.absolutePath()).isDir() ? present.absolutePath()
+                                                                                      : MvStudioSettings::fotoFolder());
     connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
         MvStudioSettings::setFolderOfRequest(MvDiskAccessRequest::FotoFile, QFileInfo(path).absolutePath());
         set(path);
@@ -82,8 +81,8 @@ void MvPagePhoto::choose()
     dialog->open();
 }
 
-void MvPagePhoto::set(MvProject *project, int page, const QString &path, QObject *receiver,
-                      const std::function<void(const QString &error)> &tell)
+void MvPageFoto::set(MvProject *project, int page, const QString &path, QObject *receiver,
+                     const std::function<void(const QString &error)> &tell)
 {
     const QFileInfo file(path);
     const auto take = [project, page, path, file, tell](const QImage &image) {
@@ -92,8 +91,8 @@ void MvPagePhoto::set(MvProject *project, int page, const QString &path, QObject
                      .arg(file.fileName(), MvImageLoader::instance().error(file)));
             return;
         }
-        const MvPhotoFrame added = frameFor(path, project->document().format());
-        change(project, page, tr("Foto einfügen"), [&](MvPhotoFrame &frame) {
+        const MvFotoFrame added = frameFor(path, project->document().format());
+        change(project, page, tr("Foto einfügen"), [&](MvFotoFrame &frame) {
             if (frame.isValid()) {
                 frame.setPath(path);
                 frame.setFocus({0.5, 0.5});
@@ -106,24 +105,24 @@ void MvPagePhoto::set(MvProject *project, int page, const QString &path, QObject
     MvFotoLoader::midRes(MvFoto(file), decodedQuality, MvFotoAccess::NoCaching, receiver, take);
 }
 
-void MvPagePhoto::set(const QString &path)
+void MvPageFoto::set(const QString &path)
 {
     set(m_project, m_item->page(), path, this, [this, name = QFileInfo(path).fileName()](const QString &error) {
         Q_EMIT message(error.isEmpty() ? tr("„%1“ ist jetzt das Foto der Seite.").arg(name) : error);
     });
 }
 
-void MvPagePhoto::remove()
+void MvPageFoto::remove()
 {
-    change(tr("Foto entfernen"), [](MvPhotoFrame &frame) { frame = {}; });
+    change(tr("Foto entfernen"), [](MvFotoFrame &frame) { frame = {}; });
 }
 
-void MvPagePhoto::addActions(QMenu *menu)
+void MvPageFoto::addActions(QMenu *menu)
 {
-    const bool hasPhoto = m_item->shownPage().photoFrame().isValid();
+    const bool hasPhoto = m_item->shownPage().fotoFrame().isValid();
     QAction *choosing = menu->addAction(hasPhoto ? tr("Foto &ersetzen…") : tr("&Foto für die Seite wählen…"));
     choosing->setObjectName(u"choosePhoto"_s);
-    connect(choosing, &QAction::triggered, this, &MvPagePhoto::choose);
+    connect(choosing, &QAction::triggered, this, &MvPageFoto::choose);
     if (!hasPhoto)
         return;
     addPlacements(menu->addMenu(tr("&Platz des Fotos")));
@@ -131,18 +130,18 @@ void MvPagePhoto::addActions(QMenu *menu)
     QAction *centring = menu->addAction(tr("Ausschnitt &zur Mitte"));
     centring->setObjectName(u"centrePhoto"_s);
     connect(centring, &QAction::triggered, this, [this] {
-        change(tr("Ausschnitt des Fotos verschieben"), [](MvPhotoFrame &frame) { frame.setFocus({0.5, 0.5}); });
+        change(tr("Ausschnitt des Fotos verschieben"), [](MvFotoFrame &frame) { frame.setFocus({0.5, 0.5}); });
     });
     QAction *removing = menu->addAction(tr("Foto ent&fernen"));
     removing->setObjectName(u"removePhoto"_s);
-    connect(removing, &QAction::triggered, this, &MvPagePhoto::remove);
+    connect(removing, &QAction::triggered, this, &MvPageFoto::remove);
 }
 
-void MvPagePhoto::addPlacements(QMenu *menu)
+void MvPageFoto::addPlacements(QMenu *menu)
 {
-    using Placement = MvPhotoFrame::Placement;
+    using Placement = MvFotoFrame::Placement;
     auto *group = new QActionGroup(menu);
-    const MvPhotoFrame::Placement current = m_item->shownPage().photoFrame().placement();
+    const MvFotoFrame::Placement current = m_item->shownPage().fotoFrame().placement();
     const auto add = [&](Placement placement, const QString &text, const QString &name) {
         QAction *action = menu->addAction(text);
         action->setObjectName(name);
@@ -150,7 +149,7 @@ void MvPagePhoto::addPlacements(QMenu *menu)
         action->setChecked(placement == current);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, placement] {
-            change(tr("Platz des Fotos ändern"), [placement](MvPhotoFrame &frame) {
+            change(tr("Platz des Fotos ändern"), [placement](MvFotoFrame &frame) {
                 if (frame.share() == usualShare(frame.placement())) // one that nobody has changed
                     frame.setShare(usualShare(placement));
                 frame.setPlacement(placement);
@@ -162,10 +161,10 @@ void MvPagePhoto::addPlacements(QMenu *menu)
     add(Placement::Right, tr("&Rechts"), u"photoRight"_s);
 }
 
-void MvPagePhoto::addSizes(QMenu *menu)
+void MvPageFoto::addSizes(QMenu *menu)
 {
     auto *group = new QActionGroup(menu);
-    const int current = int(std::lround(m_item->shownPage().photoFrame().share() * 100.0));
+    const int current = int(std::lround(m_item->shownPage().fotoFrame().share() * 100.0));
     for (const int percent : {30, 40, 50, 55, 60, 70, 75}) {
         QAction *action = menu->addAction(tr("%1 % der Seite").arg(percent));
         action->setObjectName(u"photoSize%1"_s.arg(percent));
@@ -173,25 +172,25 @@ void MvPagePhoto::addSizes(QMenu *menu)
         action->setChecked(percent == current);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, percent] {
-            change(tr("Größe des Fotos ändern"), [percent](MvPhotoFrame &frame) { frame.setShare(percent / 100.0); });
+            change(tr("Größe des Fotos ändern"), [percent](MvFotoFrame &frame) { frame.setShare(percent / 100.0); });
         });
     }
 }
 
-void MvPagePhoto::change(const QString &text, const std::function<void(MvPhotoFrame &)> &edit)
+void MvPageFoto::change(const QString &text, const std::function<void(MvFotoFrame &)> &edit)
 {
     change(m_project, m_item->page(), text, edit);
 }
 
-void MvPagePhoto::change(MvProject *project, int page, const QString &text,
-                         const std::function<void(MvPhotoFrame &)> &edit)
+void MvPageFoto::change(MvProject *project, int page, const QString &text,
+                        const std::function<void(MvFotoFrame &)> &edit)
 {
     const QList<MvCalendarPage> &pages = project->document().pages();
     if (page < 0 || page >= pages.size())
         return;
     MvCalendarPage changed = pages.at(page);
-    MvPhotoFrame frame = changed.photoFrame();
+    MvFotoFrame frame = changed.fotoFrame();
     edit(frame);
-    changed.setPhotoFrame(frame);
+    changed.setFotoFrame(frame);
     project->changePage(page, changed, text);
 }

@@ -12,7 +12,7 @@
 /// The photo of a page: which file, where it stands, what of it is seen. A value.
 ///
 /// A photo bleeds: it reaches over the trimmed page's edges on three sides and leaves the rest to the calendarium.
-class MVPROJECT_EXPORT MvPhotoFrame
+class MVPROJECT_EXPORT MvFotoFrame
 {
 public:
     enum class Placement {
@@ -26,8 +26,8 @@ public:
     static constexpr double defaultShare = 0.55;
 
     /// No photo.
-    MvPhotoFrame() = default;
-    explicit MvPhotoFrame(const QString &path, Placement placement = Placement::Top);
+    MvFotoFrame() = default;
+    explicit MvFotoFrame(const QString &path, Placement placement = Placement::Top);
 
     /// True when a photo is named, whether or not its file exists.
     bool isValid() const { return !m_path.isEmpty(); }
@@ -56,9 +56,9 @@ public:
     QRectF rect(const MvPageFormat &format) const;
     /// The part of a photo of the size that is seen in a frame of the other size: as large as can be, of the frame's
     /// proportions, with the focus as near to its middle as the photo's edges allow.
-    QRectF crop(const QSizeF &photo, const QSizeF &frame) const;
+    QRectF crop(const QSizeF &foto, const QSizeF &frame) const;
 
-    bool operator==(const MvPhotoFrame &) const = default;
+    bool operator==(const MvFotoFrame &) const = default;
 
 private:
     QString m_path;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvProject/MvPrintedPhoto.h"
+#include "MvProject/MvPrintedFoto.h"
 
 #include "MvCalendar/MvCalendarEventSource.h"
 #include "MvFoto/MvFotoAccess.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-MvPrintedPhoto ownPhoto(const MvPhotoFrame &frame, const MvPageFormat &format)
+MvPrintedFoto ownFoto(const MvFotoFrame &frame, const MvPageFormat &format)
 {
     const QRectF rect = frame.rect(format);
     const QSize full = MvFotoAccess::preferredSize(MvFoto(QFileInfo(frame.path())));
@@ -21,20 +21,20 @@ MvPrintedPhoto ownPhoto(const MvPhotoFrame &frame, const MvPageFormat &format)
 
 } // namespace
 
-QList<MvPrintedPhoto> MvPrintedPhoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                             const MvDateRange &documentRange, const MvRenderingSources &sources)
+QList<MvPrintedFoto> MvPrintedFoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                           const MvDateRange &documentRange, const MvRenderingSources &sources)
 {
     MvPageFindings found;
     page.record(format, documentRange, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
     return ofPaintedPage(page, format, found, sources);
 }
 
-QList<MvPrintedPhoto> MvPrintedPhoto::ofPaintedPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                                    const MvPageFindings &findings, const MvRenderingSources &sources)
+QList<MvPrintedFoto> MvPrintedFoto::ofPaintedPage(const MvCalendarPage &page, const MvPageFormat &format,
+                                                  const MvPageFindings &findings, const MvRenderingSources &sources)
 {
-    QList<MvPrintedPhoto> photos;
-    if (page.photoFrame().isValid())
-        photos.append(ownPhoto(page.photoFrame(), format));
+    QList<MvPrintedFoto> fotos;
+    if (page.fotoFrame().isValid())
+        fotos.append(ownFoto(page.fotoFrame(), format));
     QList<MvPaintedFoto> painted = findings.fotos;
     std::sort(painted.begin(), painted.end(),
               [](const MvPaintedFoto &a, const MvPaintedFoto &b) { return a.date < b.date; });
@@ -42,8 +42,8 @@ QList<MvPrintedPhoto> MvPrintedPhoto::ofPaintedPage(const MvCalendarPage &page, 
     for (const MvPaintedFoto &foto : std::as_const(painted)) {
         const MvCalendariumContentKey key(page.contentConfig().moveToDay(foto.date), entries.project());
         const MvImageReference file = entries.imageFile(key);
-        photos.append({file.path, foto.date, foto.rect, MvFotoResolution::pixelsPerInch(file.size, foto.rect.size())});
+        fotos.append({file.path, foto.date, foto.rect, MvFotoResolution::pixelsPerInch(file.size, foto.rect.size())});
     }
-    photos.removeIf([](const MvPrintedPhoto &photo) { return photo.pixelsPerInch <= 0.0; });
-    return photos;
+    fotos.removeIf([](const MvPrintedFoto &foto) { return foto.pixelsPerInch <= 0.0; });
+    return fotos;
 }

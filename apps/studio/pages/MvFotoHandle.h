@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvProject/MvPhotoFrame.h"
+#include "MvProject/MvFotoFrame.h"
 
 #include <QGraphicsObject>
 
@@ -13,13 +13,13 @@ class MvProject;
 /// Lets the mouse move the page's photo in its frame and pull the frame's edge towards or away from the calendarium.
 ///
 /// The page shows each state while it is tried out; letting go makes it one undo step, Escape takes it back.
-class MvPhotoHandle : public QGraphicsObject
+class MvFotoHandle : public QGraphicsObject
 {
     Q_OBJECT
 
 public:
     /// The item is the handle's parent and owns it. The project is not owned.
-    MvPhotoHandle(MvProject *project, MvPageItem *item);
+    MvFotoHandle(MvProject *project, MvPageItem *item);
 
     /// Moves what is seen of the photo by parts of its size; an undo step that merges with the one before.
     void moveFocus(const QPointF &distance);
@@ -37,14 +37,14 @@ protected:
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:
-    enum class Grip { None, Photo, Edge };
+    enum class Grip { None, Foto, Edge };
 
     void adapt();
     Grip gripAt(const QPointF &point) const;
     QLineF edge() const;
     void showCursor(Grip grip);
-    MvPhotoFrame draggedFrame(const QPointF &point) const;
-    MvPhotoFrame movedFrame(const QPointF &distance) const;
+    MvFotoFrame draggedFrame(const QPointF &point) const;
+    MvFotoFrame movedFrame(const QPointF &distance) const;
 
     MvProject *m_project;
     MvPageItem *m_item;
@@ -52,5 +52,5 @@ private:
     Grip m_grip = Grip::None;
     Grip m_hovered = Grip::None;
     QPointF m_pressedAt;
-    MvPhotoFrame m_frameBefore;
+    MvFotoFrame m_frameBefore;
 };

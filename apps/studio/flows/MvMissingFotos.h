@@ -15,15 +15,15 @@ class QWidget;
 
 /// Photos of an opened project that are not where it says: tells them once, and finds them again in a folder that the
 /// person shows, all at once, by their names.
-class MvMissingPhotos : public QObject
+class MvMissingFotos : public QObject
 {
     Q_OBJECT
 
 public:
     /// The project is not owned. The window is the parent of all dialogs.
-    MvMissingPhotos(MvProject *project, QWidget *window);
+    MvMissingFotos(MvProject *project, QWidget *window);
     /// Waits until a search has noticed that nobody wants it any more.
-    ~MvMissingPhotos() override;
+    ~MvMissingFotos() override;
 
     /// The files of these names below the folder, by the path that is missing. Of files of one name the one whose
     /// folders are most like the missing one's; a name in other letters, large or small, is better than none.
