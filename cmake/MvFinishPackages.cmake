@@ -31,11 +31,21 @@ function(mv_write_copyright file)
         "\nFiles: resources/fonts/Lato-*\nCopyright: 2010-2014 tyPoland Lukasz Dziedzic, with Reserved Font Name \"Lato\"\n"
         "License: OFL-1.1\n"
         "\nFiles: resources/fonts/EBGaramond*\nCopyright: 2010-2013 Georg A. Duffner\nLicense: OFL-1.1\n"
+        "\nFiles: resources/fonts/Inter-*\nCopyright: 2016-2022 The Inter Project Authors\nLicense: OFL-1.1\n"
+        "\nFiles: resources/fonts/Quicksand-*\nCopyright: 2011 The Quicksand Project Authors, with Reserved Font Name \"Quicksand\"\n"
+        "License: OFL-1.1\n"
+        "\nFiles: resources/fonts/GFSDidot*\nCopyright: 2007 Greek Font Society, with Reserved Font Name 'GFS Didot'\n"
+        "License: OFL-1.1\n"
+        "\nFiles: resources/fonts/LeagueSpartan-*\nCopyright: 2011-2020 Micah Rich, with Reserved Font Name \"League Spartan\"\n"
+        "License: OFL-1.1\n"
+        "\nFiles: resources/fonts/Vollkorn-*\nCopyright: 2006-2014 Friedrich Althausen\nLicense: OFL-1.1\n"
+        "\nFiles: resources/fonts/texgyrepagella-*\nCopyright: 2007-2018 B. Jackowski and J.M. Nowacki\n"
+        "License: GUST-Font-License\n"
         "\nFiles: resources/holidays/vacations-*-odbl.xml\nCopyright: the contributors of the OpenHolidays API\n"
         "License: ODbL-1.0\n"
         "Comment: Contains information from the OpenHolidays API data collection, which is made available here under the\n"
         " Open Database License (ODbL) 1.0.\n")
-    foreach(id IN ITEMS ${licence} OFL-1.1 ODbL-1.0)
+    foreach(id IN ITEMS ${licence} OFL-1.1 GUST-Font-License ODbL-1.0)
         mv_licence_text(text ${id})
         string(APPEND content "\n${text}")
     endforeach()

@@ -231,7 +231,7 @@ MvPageFormat MvRenderCommand::pageFormat(MvCliValues &values)
         values.setError(tr("--page „%1“: erlaubt sind %2 oder Breite und Höhe in Millimetern wie 300x200 (20 bis 3000)")
                             .arg(name, MvPageFormat::names().join(u", "_s)) +
                         MvNearMiss::describe(name, MvPageFormat::names()));
-    const bool isPaperSize = MvPageFormat::names().contains(name.trimmed().toUpper());
+    const bool isPaperSize = MvPageFormat::isName(name);
     if (values.has(u"portrait"_s))
         format.setOrientation(MvPageFormat::Orientation::Portrait);
     else if (values.has(u"landscape"_s) || isPaperSize)

@@ -1674,6 +1674,24 @@
     </message>
 </context>
 <context>
+    <name>MvFotoHandle</name>
+    <message>
+        <source>Größe des Fotos ändern</source>
+        <translation>Change the size of the photo</translation>
+    </message>
+    <message>
+        <source>Ausschnitt des Fotos verschieben</source>
+        <translation>Move the crop of the photo</translation>
+    </message>
+</context>
+<context>
+    <name>MvFotoPainter</name>
+    <message>
+        <source>Foto fehlt</source>
+        <translation>Photo missing</translation>
+    </message>
+</context>
+<context>
     <name>MvGraphicsItemCalendariumCell</name>
     <message>
         <source>Klicken um eigenen Eintrag am %1 zu erstellen</source>
@@ -2359,16 +2377,30 @@
     </message>
 </context>
 <context>
-    <name>MvPageItem</name>
+    <name>MvPageFormat</name>
     <message>
-        <source>„%1“ lässt sich nicht lesen.
-Das Kontextmenü ersetzt das Foto durch ein anderes.</source>
-        <translation>“%1” cannot be read.
-The context menu replaces the photo by another one.</translation>
+        <source>Quadrat 21 × 21 cm</source>
+        <translation>Square 21 × 21 cm</translation>
     </message>
     <message>
-        <source>Das Foto wird geladen …</source>
-        <translation>Loading the photo …</translation>
+        <source>Quadrat 30 × 30 cm</source>
+        <translation>Square 30 × 30 cm</translation>
+    </message>
+    <message>
+        <source>13 × 18 cm</source>
+        <translation>13 × 18 cm</translation>
+    </message>
+    <message>
+        <source>20 × 30 cm</source>
+        <translation>20 × 30 cm</translation>
+    </message>
+    <message>
+        <source>30 × 45 cm</source>
+        <translation>30 × 45 cm</translation>
+    </message>
+    <message>
+        <source>Panorama 42 × 14,85 cm</source>
+        <translation>Panorama 42 × 14.85 cm</translation>
     </message>
 </context>
 <context>
@@ -2452,6 +2484,19 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Das Foto „%1“ kann nicht gelesen werden. %2</source>
         <translation>The photo “%1” cannot be read. %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageItem</name>
+    <message>
+        <source>„%1“ lässt sich nicht lesen.
+Das Kontextmenü ersetzt das Foto durch ein anderes.</source>
+        <translation>“%1” cannot be read.
+The context menu replaces the photo by another one.</translation>
+    </message>
+    <message>
+        <source>Das Foto wird geladen …</source>
+        <translation>Loading the photo …</translation>
     </message>
 </context>
 <context>
@@ -2577,24 +2622,6 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Seite %1 lässt sich nicht anlegen</source>
         <translation>Page %1 cannot be created</translation>
-    </message>
-</context>
-<context>
-    <name>MvFotoHandle</name>
-    <message>
-        <source>Größe des Fotos ändern</source>
-        <translation>Change the size of the photo</translation>
-    </message>
-    <message>
-        <source>Ausschnitt des Fotos verschieben</source>
-        <translation>Move the crop of the photo</translation>
-    </message>
-</context>
-<context>
-    <name>MvFotoPainter</name>
-    <message>
-        <source>Foto fehlt</source>
-        <translation>Photo missing</translation>
     </message>
 </context>
 <context>

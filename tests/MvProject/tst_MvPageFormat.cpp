@@ -14,6 +14,9 @@ private Q_SLOTS:
     void readsNames_data();
     void readsNames();
     void rectangles();
+    void shapes_data();
+    void shapes();
+    void binding();
     void namesFiles_data();
     void namesFiles();
 };
@@ -29,6 +32,10 @@ void tst_MvPageFormat::readsNames_data()
     QTest::newRow("millimetres stay as they are turned") << u"300x200"_s << QSizeF(3000, 2000) << u"a4"_s;
     QTest::newRow("decimal comma and point") << u"148,5X210.5"_s << QSizeF(1485, 2105) << u"a5"_s;
     QTest::newRow("multiplication sign") << u"300 × 300"_s << QSizeF(3000, 3000) << u"a3"_s;
+    QTest::newRow("centimetres") << u"13x18cm"_s << QSizeF(1300, 1800) << u"a5"_s;
+    QTest::newRow("own centimetres") << u"15,5 x 15 CM"_s << QSizeF(1550, 1500) << u"a5"_s;
+    QTest::newRow("letter") << u"LETTER"_s << QSizeF(2159, 2794) << u"a4"_s;
+    QTest::newRow("panorama") << u"Panorama"_s << QSizeF(1485, 4200) << u"a4"_s;
     QTest::newRow("unknown class") << u"A7"_s << QSizeF() << QString();
     QTest::newRow("a class of another row") << u"B4"_s << QSizeF() << QString();
     QTest::newRow("no height") << u"300x"_s << QSizeF() << QString();
@@ -72,6 +79,55 @@ void tst_MvPageFormat::rectangles()
         const MvPageFormat format = MvPageFormat::fromName(name);
         QVERIFY2(format.trimRect().adjusted(50, 50, -50, -50).contains(format.contentRect()), qPrintable(name));
         QVERIFY2(!format.contentRect().isEmpty(), qPrintable(name));
+    }
+}
+
+void tst_MvPageFormat::shapes_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("upright");
+    QTest::addColumn<QString>("turned");
+    QTest::newRow("DIN") << u"A4"_s << u"portrait"_s << u"landscape"_s;
+    QTest::newRow("square") << u"square-300"_s << u"square"_s << u"square"_s;
+    QTest::newRow("nearly square") << u"200x230"_s << u"square"_s << u"square"_s;
+    QTest::newRow("letter") << u"letter"_s << u"portrait"_s << u"landscape"_s;
+    QTest::newRow("panorama") << u"panorama"_s << u"narrow"_s << u"panorama"_s;
+    QTest::newRow("two to one") << u"100x200"_s << u"narrow"_s << u"panorama"_s;
+}
+
+void tst_MvPageFormat::shapes()
+{
+    QFETCH(const QString, name);
+    MvPageFormat format = MvPageFormat::fromName(name);
+    QTEST(MvPageFormat::shapeName(format.shape()), "upright");
+    format.setOrientation(MvPageFormat::Orientation::Landscape);
+    QTEST(MvPageFormat::shapeName(format.shape()), "turned");
+}
+
+/// Field, safe part and content rectangle leave out what the binding takes, on papers of every size.
+void tst_MvPageFormat::binding()
+{
+    using Binding = MvPageFormat::Binding;
+    MvPageFormat a4 = MvPageFormat::fromName(u"A4"_s);
+    QCOMPARE(a4.fieldRect(), QRectF(87.5, 87.5, 1925, 2795));
+    QCOMPARE(a4.fieldArea(1, 12, 1, 24), a4.fieldRect());
+    QCOMPARE(a4.fieldArea(7, 7, 1, 1).left() - a4.fieldArea(6, 6, 1, 1).right(), a4.gutter());
+    a4.setBinding(Binding::Top);
+    QCOMPARE(a4.fieldRect().topLeft(), QPointF(87.5, 197.5));
+    QCOMPARE(a4.safeRect(), QRectF(QPointF(30, 110), QPointF(2070, 2940)));
+
+    const QStringList names = MvPageFormat::names() << u"20x20"_s << u"20x3000"_s;
+    for (const QString &name : names) {
+        for (const Binding binding : {Binding::None, Binding::Top, Binding::Left, Binding::Right}) {
+            QCOMPARE(MvPageFormat::bindingFromName(MvPageFormat::bindingName(binding)), binding);
+            MvPageFormat format = MvPageFormat::fromName(name);
+            format.setBinding(binding);
+            QVERIFY2(!format.fieldRect().isEmpty() && format.safeRect().contains(format.fieldRect()), qPrintable(name));
+            QVERIFY2(!format.fieldArea(3, 3, 5, 5).isEmpty(), qPrintable(name));
+            QVERIFY2(!format.contentRect().isEmpty(), qPrintable(name));
+            QVERIFY2(!format.bindingRect().intersects(format.safeRect()), qPrintable(name));
+            QVERIFY2(!format.bindingRect().intersects(format.contentRect()), qPrintable(name));
+        }
     }
 }
 

@@ -101,7 +101,7 @@ void MvPageSetupEditor::addPaper()
 {
     m_paper->setObjectName(u"paper"_s);
     for (const QString &name : MvPageFormat::names())
-        m_paper->addItem(name, name);
+        m_paper->addItem(MvPageFormat::label(name), name);
     m_paper->addItem(tr("Eigenes Format"), QString());
     m_orientation->setObjectName(u"orientation"_s);
     m_orientation->addItem(tr("Querformat"), int(MvPageFormat::Orientation::Landscape));

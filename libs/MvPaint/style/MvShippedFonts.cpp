@@ -11,15 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// EB Garamond is drawn twice, for sizes around 8 and around 12 points; these are the drawings that suit each other
-constexpr const char *files[] = {"Lato-Light.ttf",       "Lato-Regular.ttf",         "Lato-Italic.ttf",
-                                 "Lato-Bold.ttf",        "EBGaramond08-Regular.otf", "EBGaramond12-Italic.otf",
-                                 "EBGaramond12-Bold.otf"};
-
 bool registerFiles()
 {
-    for (const char *file : files) {
-        const QFileInfo font = MvDirectoryConfig::instance().resource("fonts/"_L1 + QLatin1StringView(file));
+    // EB Garamond is drawn twice, for sizes around 8 and around 12 points; the folder has those that suit each other
+    const QStringList files = MvDirectoryConfig::instance().resourceNames(u"fonts"_s, u"*.?tf"_s);
+    for (const QString &file : files) {
+        const QFileInfo font = MvDirectoryConfig::instance().resource(u"fonts/"_s + file);
         if (QFontDatabase::addApplicationFont(font.filePath()) < 0)
             MvLogger::legacyLog(u"Fonts ACTION:registerFont ERROR:%1"_s.arg(font.filePath()));
     }

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-/// The fonts that come with the library: Lato and EB Garamond, in the faces that the layouts are made with.
+/// The fonts that come with the library: those of `resources/fonts`, in the faces that layouts and
+/// themes are made with.
 ///
 /// A page is measured and divided by its letters, so it looks alike on two computers only if both have the same fonts.
 /// Those that ship stand before fonts of the same name that a computer has; other families, and faces that do not ship
