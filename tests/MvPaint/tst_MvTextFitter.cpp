@@ -54,8 +54,8 @@ void tst_MvTextFitter::fits_data()
         {u"eins"_s, u"zwei"_s, u"drei"_s});
     row("an ellipsis at last", {60, 20}, {u"Pfingstmontag"_s}, 12, {u"Pfingstmo…"_s}, true);
     row("others left out", {60, 20}, {u"Pfingsten"_s, u"Oma"_s}, 12, {u"Pfingste…"_s}, true);
-    row("a word without a place to divide", {60, 40}, {u"xxxxxxxxxxxxxxxx am Tag"_s}, 12,
-        {u"xxxxxxxxx…"_s, u"am Tag"_s}, true);
+    row("nothing stands behind an ellipsis but other texts", {60, 40}, {u"xxxxxxxxxxxxxxxx am Tag"_s, u"Oma"_s}, 12,
+        {u"xxxxxxxxx…"_s, u"Oma"_s}, true);
     row("no room for a line", {100, 10}, {u"Tag"_s}, 12, {}, true);
     row("blank", twoLines, {u"  "_s}, 20, {});
     row("soft hyphens are not seen", twoLines, {u"Ta\u00adge"_s}, 20, {u"Tage"_s});

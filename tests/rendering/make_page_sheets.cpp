@@ -63,7 +63,8 @@ void makeSheets(const QDir &folder, const MvPageChoice &usual)
             fonts.last().entries = entries;
         }
     }
-    for (const QString &language : {u"en_GB"_s, u"fr_FR"_s, u"sv_SE"_s, u"hu_HU"_s, u"el_GR"_s, u"pt_PT"_s}) {
+    for (const QString &language :
+         {u"en_GB"_s, u"fr_CH"_s, u"it_IT"_s, u"pl_PL"_s, u"fi_FI"_s, u"hu_HU"_s, u"el_GR"_s, u"bg_BG"_s, u"pt_PT"_s}) {
         languages << usual;
         languages.last().language = MvLocale(language);
         languages.last().region.clear();

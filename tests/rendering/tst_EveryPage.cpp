@@ -142,7 +142,8 @@ void tst_EveryPage::wasFaulty_data()
     QTest::addColumn<MvPageChoice>("choice");
     QTest::addColumn<bool>("isWhole");
     const auto row = [](const char *name, const QString &layout, const QString &paper, const QString &place,
-                        double share, int font, const QString &language, const QString &region, const QDate &month) {
+                        double share, int font, const QString &language, const QString &region, const QDate &month,
+                        bool isWhole = false) {
         MvPageChoice choice;
         choice.layout = layout;
         choice.paper = paper;
@@ -153,17 +154,21 @@ void tst_EveryPage::wasFaulty_data()
         choice.region = region;
         choice.month = month;
         choice.entries = MvPageChoice::Short;
-        QTest::newRow(name) << choice << (font == 100);
+        QTest::newRow(name) << choice << isWhole;
     };
     row("a week where the number of the day has no room", u"YEAR_PLANNER"_s, u"200x200"_s, u"top"_s, 0.55, 200,
         u"lb_LU"_s, {}, {2028, 2, 1});
     row("a strip without its weekdays", u"ONE_ROW_STRIP_SERIF"_s, u"A5 landscape"_s, u"left"_s, 0.55, 100, u"de_DE"_s,
-        {}, {2027, 5, 1});
+        {}, {2027, 5, 1}, true);
     row("two long names in a row of a list", u"FAMILY_PLANNER"_s, u"A5 landscape"_s, u"none"_s, 0.55, 100, u"fr_CH"_s,
-        u"GE"_s, {2027, 12, 1});
+        u"GE"_s, {2027, 12, 1}, true);
     row("weekdays as wide as the page", u"DAY_LIST"_s, u"90x55"_s, u"right"_s, 0.75, 200, u"pl_PL"_s, {}, {2027, 5, 1});
+    row("days of one digit, where others have no room", u"MONTH_GRID_LINES"_s, u"90x55"_s, u"left"_s, 0.75, 150,
+        u"fi_FI"_s, {}, {2027, 5, 1});
+    row("a week as long as its strip", u"DAY_LIST"_s, u"A6 landscape"_s, u"top"_s, 0.65, 100, u"cs_CZ"_s, {},
+        {2028, 2, 1});
     row("a date that leaves its name no room", u"HOLIDAY_BLOCK"_s, u"A6"_s, u"right"_s, 0.75, 100, u"de_DE"_s, u"BY"_s,
-        {2027, 5, 1});
+        {2027, 5, 1}, true);
 }
 
 /// In the layouts' own fonts, found by the product of all circumstances or by eye.

@@ -51,7 +51,7 @@ MvCalendariumLayoutCellInfo::MvCalendariumLayoutCellInfo(const QDomElement &elem
     d->borderWidth =
         std::clamp(MvXMLParser::intAttribute(element, u"bordersize"_s, defaultBorderWidth), 0, mostBorderWidth);
     d->borderType = MvCalendarBorderType(MvXMLParser::textAttribute(element, u"bordertype"_s));
-    d->font = MvXMLParser::readFont(element.firstChildElement(u"font"_s), d->font);
+    d->font = MvXMLParser::readFont(element.firstChildElement(u"font"_s), d.constData()->font);
     d->maxFontSize = std::clamp(MvXMLParser::intAttribute(element, u"maxfontsize"_s, 0), 0, mostFontSize);
     d->alignment = MvXMLKeywords::alignment(MvXMLParser::textAttribute(element, u"textalign"_s, defaultAlignment));
     d->padding = QMarginsF(paddingOf(element, u"paddingleft"_s), paddingOf(element, u"paddingtop"_s),

@@ -35,6 +35,7 @@ public:
     void centre(const QRectF &rect);
     void setBaseline(double y) { m_start.setY(y); }
     double baseline() const { return m_start.y(); }
+    void moveBy(double right, double down) { m_start += QPointF(right, down); }
     /// Moves the line as far as it must so that nothing of it is seen outside the rectangle.
     void keepInside(const QRectF &rect);
 

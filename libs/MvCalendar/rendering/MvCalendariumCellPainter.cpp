@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvDayTextPlacement.h"
+#include "MvCalendar/MvDayTextRow.h"
 #include "MvFoto/MvFotoResolution.h"
 #include "MvModelBase/MvQualityTypeManager.h"
 #include "MvModelBase/MvRenderingRule.h"
@@ -33,6 +34,7 @@ const QString widestNumber = u"22"_s;
 const QString broadestNumber = u"24"_s; // widest ink
 constexpr double numberAir = 0.3;       // of the type's size, between two numbers side by side
 constexpr double leastNumberAir = 0.1;  // nearer than that, two numbers read as one
+constexpr double anyRoom = 1e5;         // more than any text takes
 constexpr double mostPixels = 8192.0;   // of a photo in a cell, on each side
 constexpr double largeCell = 300.0;
 constexpr double largeCellMargin = 10.0;
@@ -41,83 +43,8 @@ constexpr double smallCellMargin = 2.0;
 constexpr int wrappingText = Qt::TextWordWrap | Qt::TextDontClip;
 constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
-constexpr double overhangOfLetters = 0.1; // of their size, beyond the advance of a line
 constexpr double leastMargin = 1.0;
 constexpr double widestFotoBesideTexts = 0.5; // of a wide cell
-const QString separator = u", "_s;
-
-/// Lines one below the other, the last on the baseline 0.
-struct Block
-{
-    QList<MvCalendariumCellLine> lines;
-    QRectF ink;
-};
-
-/// By line height, or further apart where letters would meet the accents below them. Tight: as near as letters allow.
-Block stacked(const MvFittedText &text, const QRectF &widest, bool isTight = false)
-{
-    const MvTextFitter unchanged(text.font, text.font.pixelSize() + 1.0, MvHyphenator());
-    Block block;
-    const double height = QFontMetricsF(text.font).height();
-    double pitch = isTight ? 0.0 : height;
-    for (const QString &words : text.lines) {
-        MvCalendariumCellLine line(unchanged, {2.0 * widest.width(), 2.0 * height}, words);
-        line.align(widest, Qt::AlignLeft | Qt::AlignTop);
-        line.setBaseline(0.0);
-        if (!block.lines.isEmpty())
-            pitch = std::max(pitch, block.lines.constLast().ink().bottom() - line.ink().top() + leastMargin);
-        block.lines.append(line);
-    }
-    double y = -pitch * double(block.lines.size() - 1);
-    for (MvCalendariumCellLine &line : block.lines) {
-        line.setBaseline(y);
-        block.ink |= line.ink();
-        y += pitch;
-    }
-    return block;
-}
-
-/// By what is seen of the lines instead of their height: in the largest type that does, or as much as there is room
-/// for.
-std::pair<MvFittedText, Block> fitInk(const MvTextFitter &fitter, double height, const QRectF &widest,
-                                      const QStringList &texts, qsizetype mostLines, bool isTight)
-{
-    const QList<QFont> sizes = fitter.sizes();
-    std::pair<MvFittedText, Block> best{{sizes.constLast(), {}, true, texts}, {}};
-    for (const QFont &font : sizes) {
-        const double line = QFontMetricsF(font).height();
-        const MvTextFitter fixed(font, font.pixelSize() + 1.0, fitter.hyphenator());
-        for (auto count = mostLines; count > 0; --count) {
-            const MvFittedText set = fixed.fitRunning({widest.width(), line * double(count)}, texts, separator);
-            const Block block = stacked(set, widest, isTight);
-            if (block.lines.isEmpty() || block.ink.height() > height)
-                continue;
-            if (!set.isCut)
-                return {set, block};
-            best = {set, block};
-            break;
-        }
-    }
-    return best;
-}
-
-/// Fits texts whose ink is at most `height` high: into the room less its paddings, or else into the widest room.
-std::pair<MvFittedText, Block> fitWide(const MvTextFitter &fitter, double height, const QRectF &inner,
-                                       const QRectF &widest, const QStringList &texts)
-{
-    MvFittedText fitted = fitter.fitRunning(inner.size(), texts, separator);
-    if (fitted.isCut || fitted.font != fitter.font()) // paddings are used up before letters become smaller
-        fitted = fitter.fitRunning(widest.size(), texts, separator);
-    const Block block = stacked(fitted, widest);
-    if (!block.lines.isEmpty() && !fitted.isCut && block.ink.height() <= height)
-        return {fitted, block};
-    const auto most = std::max<qsizetype>(1, fitted.lines.size());
-    const auto loose = fitInk(fitter, height, widest, texts, most, false);
-    if (!loose.first.isCut)
-        return loose;
-    const auto tight = fitInk(fitter, height, widest, texts, most + 1, true);
-    return tight.first.cutTexts.size() < loose.first.cutTexts.size() ? tight : loose;
-}
 
 } // namespace
 
@@ -206,8 +133,8 @@ MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, c
     const QFont font = size == sizes.cend() ? sizes.constLast() : *size;
     const MvTextFitter fixed(font, fitter.floor(), MvHyphenator());
     const double hair = leastMargin / 2.0;
-    const auto inkOf = [&](const QString &digits) {
-        return MvCalendariumCellLine({font, font.pixelSize() + 1.0, MvHyphenator()}, 2.0 * rect.size(), digits).ink();
+    const auto inkOf = [&](const QString &digits) { // in any room: digits that are cut have no ink
+        return MvCalendariumCellLine({font, font.pixelSize() + 1.0, MvHyphenator()}, {anyRoom, anyRoom}, digits).ink();
     };
     MvCalendariumCellLine line(fixed, rect.size(), number);
     const bool isTooNear =
@@ -333,44 +260,23 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     const QStringList texts = m_renderer.isOpaqueColor(color) ? m_renderer.describeHolidays(date) : QStringList();
     const QSizeF fotoRoom(inner.width() * (texts.isEmpty() ? 1.0 : widestFotoBesideTexts), inner.height());
     const QImage picture = pictureWithin(date, fotoRoom);
+    double leastLeft = rect.left() + smallCellMargin;
     if (!picture.isNull()) {
         const QSize size = picture.size().scaled(fotoRoom.toSize(), Qt::KeepAspectRatio);
         drawFoto(date, QRectF(inner.topLeft(), size), picture);
         inner.setLeft(inner.left() + size.width() + textGap);
+        leastLeft = inner.left();
     }
     if (texts.isEmpty())
         return;
+    const MvTextFitter fitter = m_renderer.holidayFitter(type);
+    const MvDayTextRow row(fitter, {rect, inner, leastLeft}, texts, baseline);
+    reportCut(date, row.text(), rect);
+    m_renderer.reportMissingGlyphs(date, texts, row.text().font, rect);
     m_painter.save();
     m_painter.setClipRect(rect, Qt::IntersectClip);
-    drawWideTexts(rect, inner, texts, config, even, date, baseline);
+    row.draw(m_painter, color);
     m_painter.restore();
-}
-
-void MvCalendariumCellPainter::drawWideTexts(const QRectF &rect, const QRectF &inner, const QStringList &texts,
-                                             const MvCalendarCellTypeConfig &config, bool even, const QDate &date,
-                                             std::optional<double> baseline)
-{
-    const MvTextFitter fitter = m_renderer.holidayFitter(config.inscriptionConfig());
-    const double overhang = overhangOfLetters * fitter.font().pixelSize();
-    const QRectF widest(
-        QPointF(inner.left(), rect.top() + leastMargin),
-        QPointF(std::max(inner.left(), rect.right() - leastMargin - overhang), rect.bottom() - leastMargin));
-    const auto [fitted, block] = fitWide(fitter, rect.height() - leastMargin / 2.0, inner, widest, texts);
-    reportCut(date, fitted, rect);
-    m_renderer.reportMissingGlyphs(date, texts, fitted.font, rect);
-    if (block.lines.isEmpty())
-        return;
-
-    const double last = baseline.value_or(inner.bottom() - QFontMetricsF(fitted.font).descent());
-    const QRectF ink = block.ink.translated(0.0, last);
-    double shift = std::max(0.0, widest.top() - ink.top()) - std::max(0.0, ink.bottom() - widest.bottom());
-    const bool isOnBaseline = block.lines.size() == 1 || (!baseline && shift == 0.0);
-    if (ink.height() > widest.height() || !isOnBaseline)
-        shift = rect.center().y() - ink.center().y(); // as near to the line above as to that below
-    for (MvCalendariumCellLine line : block.lines) {
-        line.setBaseline(line.baseline() + last + shift);
-        line.draw(m_painter, m_renderer.fontColor(config, even));
-    }
 }
 
 bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect)

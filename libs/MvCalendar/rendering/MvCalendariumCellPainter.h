@@ -58,9 +58,6 @@ private:
     void preparePen(const QFont &font, const QColor &color);
     void drawPlaced(const MvPlacedTexts &texts);
     void reportCut(const QDate &date, const MvFittedText &text, const QRectF &rect);
-    void drawWideTexts(const QRectF &rect, const QRectF &inner, const QStringList &texts,
-                       const MvCalendarCellTypeConfig &config, bool even, const QDate &date,
-                       std::optional<double> baseline);
     /// With a warning, where those are shown, if it will look coarse in print.
     void drawFoto(const QDate &date, const QRectF &rect, const QImage &picture);
     void drawQualityWarning(const QRectF &rect);

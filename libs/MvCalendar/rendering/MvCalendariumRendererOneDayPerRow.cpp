@@ -29,6 +29,7 @@ constexpr double lineAir = 1.0;      // between a text and the line above or bel
 constexpr double headingHair = 0.3;  // between a heading and the line above or below it
 constexpr double headingAir = 0.4;   // between two headings, in parts of their size
 constexpr double weekTextAir = 20.0; // a strip must exceed the height of its text by this much to carry it
+constexpr double weekMargin = 2.0;   // between that text and the lines that end the strip
 
 const MvCalendarCellTypeConfig topLine(CALENDAR_CELL_TYPE_TOPLINE, CALENDAR_CELL_TYPE_TOPLINE);
 
@@ -407,6 +408,6 @@ QString MvCalendariumRendererOneDayPerRow::weekText(const QDate &date, double wi
 {
     const QString number = QString::number(date.weekNumber());
     const QString text = MvCalendarWordsRegistry::instance().patterns(language()).week.arg(weekShort(), number);
-    const double inner = width - paddingDifference(CALENDAR_CELL_TYPE_WEEK_OF_YEAR).width();
+    const double inner = width - std::max(paddingDifference(CALENDAR_CELL_TYPE_WEEK_OF_YEAR).width(), 2.0 * weekMargin);
     return isTextToWide(static_cast<int>(inner), font(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), text) ? number : text;
 }

@@ -116,8 +116,15 @@ QStringList MvLineBreaker::lines(const QStringList &texts)
             break;
         }
         m_restOfWord.clear();
-        while (!words.isAtEnd() && !isFull())
+        m_isEnded = false;
+        while (!words.isAtEnd() && !isFull() && !m_isEnded)
             addWord(words.next());
+        if (m_isEnded && m_separator.isEmpty())
+            continue;
+        if (m_isEnded) {
+            m_rest.isAll = false;
+            break;
+        }
         const bool isLast = m_index + 1 == texts.size();
         if (m_separator.isEmpty() || isLast)
             endLine();
@@ -147,7 +154,9 @@ QStringList MvLineBreaker::cutLines(const QStringList &texts)
 {
     const qsizetype most = m_mostLines;
     m_mostLines = std::max<qsizetype>(0, most - 1);
+    m_endsAtWide = true;
     QStringList cut = lines(texts);
+    m_endsAtWide = false;
     m_mostLines = most;
     const QString last = most > 0 ? lastLine() : QString();
     const qsizetype shown = last.size() - (last.endsWith(ellipsis) ? 1 : 0);
@@ -224,8 +233,10 @@ void MvLineBreaker::addWord(QString word)
         if (mayDivide && !standsAlone && divide(&word))
             continue;
         if (m_line.isEmpty()) { // stands alone, whether it has room or not
-            if (!standsAlone)
+            if (!standsAlone) {
                 noteCut(m_index);
+                m_isEnded = m_endsAtWide;
+            }
             m_line = word;
             endLine();
             return;

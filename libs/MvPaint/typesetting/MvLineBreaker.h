@@ -32,8 +32,9 @@ public:
     void setSeparator(const QString &separator) { m_separator = separator; }
 
     QStringList lines(const QStringList &texts);
-    /// As many lines as there may be, the last one filled with what fits of the rest and ended by an ellipsis; what is
-    /// wider than it may be ends in one, too. For texts that need more room than there is.
+    /// As many lines as there may be, the last one filled with what fits of the rest and ended by an ellipsis; a word
+    /// that is wider than it may be ends in one, too, and with it its text, or all texts that run on. For texts that
+    /// need more room than there is.
     QStringList cutLines(const QStringList &texts);
 
     /// Of the last texts: a word that could not be divided is wider than it may be.
@@ -84,6 +85,8 @@ private:
     QString m_line;
     double m_sumOfWords = 0.0; // of the line, in lines of many words
     QString m_restOfWord;      // that had no line
+    bool m_endsAtWide = false; // a text ends where a word is wider than it may be
+    bool m_isEnded = false;    // it did
     qsizetype m_index = 0;     // of the text that is being broken
     Rest m_rest;
     QList<qsizetype> m_cut;
