@@ -6,10 +6,13 @@
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
 #include "MvProductBase/MvDateRange.h"
 #include "MvProject/MvCalendarPage.h"
+#include "MvProject/MvFotoPool.h"
+#include "MvProject/MvPageContext.h"
 #include "MvProject/MvPageFindings.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/mvproject_export.h"
 
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QStringList>
@@ -19,22 +22,33 @@
 class MvPageSource;
 class QPainter;
 
-/// A calendar to be printed: a page per month, or per twelve months where the layout shows years. A value.
+/// A calendar to be printed: a page per month, or per twelve months where the layout shows years, and among them the
+/// pages that somebody has put in: covers before, backs after, free ones anywhere. A value.
 ///
-/// The pages follow each other without a gap. Photos are kept by month: one whose month has no page for the time being,
-/// because the range became shorter or the pages show years, comes back with it.
+/// The pages of months follow each other without a gap. What somebody has put on them is kept by month: photos and
+/// texts whose month has no page for the time being, because the range became shorter or the pages show years, come
+/// back with it.
 class MVPROJECT_EXPORT MvCalendarDocument
 {
 public:
+    /// A frame for a photo, by the numbers of its page and its element; see MvCalendarPage::elementsOn().
+    struct FrameId
+    {
+        int page = -1;
+        int element = -1;
+
+        bool operator==(const FrameId &) const = default;
+    };
+
     /// A4 landscape, the default range, and the default holiday configuration; without schemas, invalid.
     MvCalendarDocument();
 
-    /// The appearance of the first page.
+    /// The appearance of the first month's page.
     const MvCalendariumAppearance &appearance() const { return look().appearance(); }
     /// Gives all pages the appearance. When it turns months into years, or years into months, the range gets new pages.
     void setAppearance(const MvCalendariumAppearance &appearance);
 
-    /// That of the first page.
+    /// That of the first month's page.
     MvCalendariumHolidayConfig holidayConfig() const { return look().contentConfig().holidayConfig(); }
     /// Gives it to all pages.
     void setHolidayConfig(const MvCalendariumHolidayConfig &config);
@@ -47,7 +61,8 @@ public:
     void setRange(const MvDateRange &range);
 
     const MvPageFormat &format() const { return m_format; }
-    void setFormat(const MvPageFormat &format) { m_format = format; }
+    /// Elements move as their templates say, those placed by hand with the proportions of the paper.
+    void setFormat(const MvPageFormat &format);
 
     /// What somebody has called it; files of a calendar without a title are called by MvCalendarTitle.
     QString title() const { return m_title; }
@@ -55,22 +70,67 @@ public:
     QString author() const { return m_author; }
     void setAuthor(const QString &author) { m_author = author; }
 
+    /// The id of the theme that the pages were last made with; empty for none.
+    QString themeId() const { return m_themeId; }
+    void setThemeId(const QString &id) { m_themeId = id; }
+
+    const MvFotoPool &fotoPool() const { return m_fotoPool; }
+    void setFotoPool(const MvFotoPool &pool) { m_fotoPool = pool; }
+
+    /// In the order in which they hang, counted from 0.
     const QList<MvCalendarPage> &pages() const { return m_pages; }
-    /// Replaces a page, counted from 0, but for its month, which follows from its place. A single page that changes
-    /// from years to months is divided like those of setAppearance(). A number without a page changes nothing.
+    /// Replaces a page but for its kind, and of a month's page also but for its month, which follows from its place. A
+    /// single page of months that changes from years to months is divided like those of setAppearance(). A number
+    /// without a page changes nothing.
     void setPage(int page, const MvCalendarPage &content);
-    /// The first day of each page's month.
+    /// False for a number without a page.
+    bool isMonthPage(int page) const;
+    /// Puts a page before the one with the number, or at the end; covers go before and backs behind all months,
+    /// wherever they are wanted. A page of kind Month becomes a free one. Without a date of its own it takes that of
+    /// its neighbour. Gives its number.
+    int insertPage(int before, const MvCalendarPage &page);
+    /// False, and no change, for a month's page.
+    bool removePage(int page);
+    /// Moves a free page to another number, a cover or a back among its like; months stay in order. False, and no
+    /// change, where it cannot go.
+    bool movePage(int from, int to);
+    /// A free page with everything that is on this one, behind it; it keeps the month. Gives its number, -1 for a
+    /// number without a page.
+    int duplicatePage(int page);
+    /// The first day of each page's month: of a cover the calendar's first month, of a back the last.
     QList<QDate> pageDates() const;
 
+    /// Exchanges the photos of two frames with their crops and captions. False, and no change, when one is no frame.
+    bool swapFotos(const FrameId &first, const FrameId &second);
+    /// Every frame of every page.
+    QList<FrameId> frames() const;
+    /// The photo in a frame; an empty one for no frame.
+    MvFotoElement foto(const FrameId &frame) const;
+    /// False, and no change, when there is no such frame.
+    bool setFoto(const FrameId &frame, const MvFotoElement &foto);
+    /// How often the photo of each file is on a page, in a frame or as its ground.
+    QHash<QString, int> fotoUses() const;
+    /// Gives a photo another file wherever it is: on pages, kept, and in the pool. False when it is nowhere.
+    bool replaceFoto(const QString &path, const QString &by);
+
     /// Takes pages as a file has them, each with its month. Months of the range that have none look like their
-    /// neighbour; of pages for other months only the photos are kept. One without any range is that of the pages.
+    /// neighbour; of pages for other months photos and texts are kept. One without any range is that of the pages.
+    /// Pages that are no month's keep their places between them.
     void setPages(const MvDateRange &range, const QList<MvCalendarPage> &pages);
-    /// Photos whose months have no page, by the first day of the month.
-    const QMap<QDate, MvFotoFrame> &spareFotos() const { return m_spareFotos; }
-    void setSpareFotos(const QMap<QDate, MvFotoFrame> &fotos) { m_spareFotos = fotos; }
+    /// What was put on the pages of months that have none at present, by the first day of the month. Of these pages
+    /// only what somebody has put on them and their templates count.
+    const QMap<QDate, MvCalendarPage> &sparePages() const { return m_sparePages; }
+    void setSparePages(const QMap<QDate, MvCalendarPage> &pages);
+    /// Those of simple pages.
+    QMap<QDate, MvFotoFrame> spareFotos() const;
+    /// Replaces those of simple pages.
+    void setSpareFotos(const QMap<QDate, MvFotoFrame> &fotos);
 
     /// Page format, range and all pages are valid.
     bool isValid() const;
+
+    /// What its pages need to know of it when they are painted.
+    MvPageContext context() const { return {m_range, m_title, m_author}; }
 
     /// Paints a page, counted from 0, in tenths of a millimetre with the origin at the trimmed page's corner. A number
     /// without a page paints nothing.
@@ -82,7 +142,8 @@ public:
 
     /// The texts that have no room on a page, counted from 0, in the order of painting. Paints it for nothing else.
     QList<MvUnfittingText> unfittingTexts(int page, const MvRenderingSources &sources = {}) const;
-    /// The paths of the photos on pages that are not there or cannot be read, each once. Looks into the files.
+    /// The paths of the photos in frames and grounds that are not there or cannot be read, each once. Looks into the
+    /// files.
     QStringList missingFotos() const;
 
     /// Called for each page that is painted, with its number counted from 0: again when it is painted again.
@@ -93,9 +154,15 @@ public:
     bool operator==(const MvCalendarDocument &other) const;
 
 private:
-    const MvCalendarPage &look() const { return m_pages.isEmpty() ? m_look : m_pages.constFirst(); }
+    const MvCalendarPage &look() const;
+    int placeFor(MvPageKind kind, int wanted) const;
     int monthsPerPage() const;
-    const MvCalendarPage &nearestPage(const QDate &month, const QList<MvCalendarPage> &pages) const;
+    QList<MvCalendarPage> monthPages() const;
+    MvCalendarPage dated(const MvCalendarPage &page) const;
+    bool isFrame(const FrameId &frame) const;
+    /// The month's own page, else one that looks like the nearest.
+    MvCalendarPage nearestPage(const QDate &month, const QList<MvCalendarPage> &months) const;
+    void putBack(const QList<MvCalendarPage> &before);
     /// Divides the range anew. Pages of the same month are taken over, others look like the nearest one.
     void divide(const MvDateRange &range, int monthsPerPage);
 
@@ -103,7 +170,9 @@ private:
     MvPageFormat m_format;
     QString m_title;
     QString m_author;
+    QString m_themeId;
+    MvFotoPool m_fotoPool;
     QList<MvCalendarPage> m_pages;
-    QMap<QDate, MvFotoFrame> m_spareFotos;
+    QMap<QDate, MvCalendarPage> m_sparePages;
     MvCalendarPage m_look; // of new pages, while there are none
 };

@@ -18,7 +18,7 @@ constexpr double step = 0.95;
 constexpr int mostSteps = 32;           // to a fifth of the size, which is the floor of every layout
 constexpr double largestLinePart = 0.5; // of the room's height
 
-constexpr int mostKept = 8; // fits: more than the layouts of a calendar, and of its strip of pages
+constexpr int mostKept = 32; // fits: more than the calendaria of a calendar have layouts and sizes, with its strip
 
 const QDate longestMonth(2026, 8, 1); // 31 days in six weeks
 
@@ -46,14 +46,16 @@ QList<MvCalendariumFit> &keptFits()
 } // namespace
 
 MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
-                                   const MvSpaceMagnitude &paper, const QSizeF &room, const MvRenderingSources &sources)
+                                   const MvSpaceMagnitude &paper, const QSizeF &room, bool withLine,
+                                   const MvRenderingSources &sources)
     : m_appearance(appearance)
     , m_content(withoutTexts(content))
     , m_paper(paper)
     , m_room(room)
+    , m_mayHaveLine(withLine)
     , m_sources(sources)
 {
-    if (!makeRenderer(appearance, 1.0)->rendersMonthInformation()) {
+    if (withLine && !makeRenderer(appearance, 1.0)->rendersMonthInformation()) {
         m_lineAppearance = appearance;
         m_lineAppearance.setLayoutSchemaByID(appearance.layoutSchema().monthLayout());
     }
@@ -63,18 +65,19 @@ MvCalendariumFit::MvCalendariumFit(const MvCalendariumAppearance &appearance, co
 
 MvCalendariumFit MvCalendariumFit::shared(const MvCalendariumAppearance &appearance,
                                           const MvCalendariumContentConfig &content, const MvSpaceMagnitude &paper,
-                                          const QSizeF &room, const MvRenderingSources &sources)
+                                          const QSizeF &room, bool withLine, const MvRenderingSources &sources)
 {
     QList<MvCalendariumFit> &kept = keptFits();
     const MvCalendariumContentConfig measured = withoutTexts(content);
     const auto known = std::find_if(kept.begin(), kept.end(), [&](const MvCalendariumFit &fit) {
-        return fit.m_room == room && fit.m_paper == paper && fit.m_sources.language == sources.language &&
-               fit.m_content == measured && fit.m_appearance == appearance;
+        return fit.m_room == room && fit.m_mayHaveLine == withLine && fit.m_paper == paper &&
+               fit.m_sources.language == sources.language && fit.m_content == measured &&
+               fit.m_appearance == appearance;
     });
     if (known != kept.end()) {
         std::rotate(kept.begin(), known, known + 1);
     } else {
-        kept.prepend(MvCalendariumFit(appearance, content, paper, room, sources));
+        kept.prepend(MvCalendariumFit(appearance, content, paper, room, withLine, sources));
         if (kept.size() > mostKept)
             kept.removeLast();
     }

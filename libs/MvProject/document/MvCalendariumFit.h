@@ -22,15 +22,17 @@ class MvCalendariumFit
 {
 public:
     MvCalendariumFit(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
-                     const MvSpaceMagnitude &paper, const QSizeF &room, const MvRenderingSources &sources = {});
+                     const MvSpaceMagnitude &paper, const QSizeF &room, bool withLine = true,
+                     const MvRenderingSources &sources = {});
 
     /// The fit of these, found once: pages of a layout ask one after the other, and a page is painted again and again.
     /// The last few that were asked for are kept. GUI thread.
     static MvCalendariumFit shared(const MvCalendariumAppearance &appearance, const MvCalendariumContentConfig &content,
-                                   const MvSpaceMagnitude &paper, const QSizeF &room,
+                                   const MvSpaceMagnitude &paper, const QSizeF &room, bool withLine = true,
                                    const MvRenderingSources &sources = {});
 
-    /// The appearance of the line with the month; an invalid one for a calendarium that shows its month itself.
+    /// The appearance of the line with the month; an invalid one for a calendarium that shows its month itself, or is
+    /// to have none above it.
     const MvCalendariumAppearance &lineAppearance() const { return m_lineAppearance; }
     /// The height of that line; 0 without one.
     double lineHeight() const { return lineHeight(m_scale); }
@@ -52,6 +54,7 @@ private:
     MvCalendariumContentConfig m_content; // without texts, in the longest month
     MvSpaceMagnitude m_paper;
     QSizeF m_room;
+    bool m_mayHaveLine;
     MvRenderingSources m_sources; // while the fit is found
     double m_scale = 1.0;
 };

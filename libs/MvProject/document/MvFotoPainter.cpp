@@ -12,6 +12,7 @@
 
 #include <QFileInfo>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 #include <cmath>
@@ -22,6 +23,8 @@ namespace {
 
 constexpr QColor fieldColor(0xE6, 0xE6, 0xE6);
 constexpr QColor textColor(0x59, 0x59, 0x59); // contrast of more than 4.5 to the field
+
+constexpr double degreesPerQuarter = 90.0;
 
 /// The longer side of photos on a screen, in steps, so that zooming does not decode one for every factor.
 int screenSide(int needed)
@@ -34,22 +37,36 @@ int screenSide(int needed)
 
 } // namespace
 
-void MvFotoPainter::paint(const QRectF &rect)
+void MvFotoPainter::paint(const QRectF &rect, double rotation)
 {
-    if (rect.isEmpty())
+    if (rect.isEmpty() || m_foto.isEmpty())
         return;
-    const QSize full = MvFotoAccess::preferredSize(MvFoto(QFileInfo(m_frame.path())));
+    if (rotation == 0.0)
+        return paintUpright(rect);
+    m_painter.save();
+    m_painter.translate(rect.center());
+    m_painter.rotate(rotation);
+    m_painter.translate(-rect.center());
+    paintUpright(rect);
+    m_painter.restore();
+}
+
+void MvFotoPainter::paintUpright(const QRectF &rect)
+{
+    const QSize full = MvFotoAccess::preferredSize(MvFoto(QFileInfo(m_foto.path())));
     QImage image;
-    QRectF seen;
+    QSizeF seen;
+    QRectF covered;
     if (!full.isEmpty()) {
-        seen = m_frame.crop(full, rect.size());
+        covered = m_foto.covered(full, rect.size()).translated(rect.topLeft());
+        seen = m_foto.seenSize(full, rect.size());
         const double pixelsPerUnit = std::sqrt(std::abs(m_painter.deviceTransform().determinant()));
-        image = decode(full, pixelsPerUnit * rect.width() / seen.width());
+        image = decode(full, pixelsPerUnit * covered.width() / seen.width());
     }
     if (!image.isNull()) {
-        const double scale = double(image.width()) / full.width();
-        drawCropped(image, {seen.topLeft() * scale, seen.size() * scale}, rect);
-        MvFotoResolution::paintWarning(m_painter, rect, MvFotoResolution::pixelsPerInch(seen.size(), rect.size()));
+        draw(image, full, rect);
+        drawBorder(covered);
+        MvFotoResolution::paintWarning(m_painter, covered, MvFotoResolution::pixelsPerInch(seen, covered.size()));
         return;
     }
     const MvRenderingRule rule = MvRenderingRule::decodeFrom(m_painter);
@@ -60,7 +77,7 @@ void MvFotoPainter::paint(const QRectF &rect)
 
 QImage MvFotoPainter::decode(const QSize &full, double devicePixelsPerFotoPixel) const
 {
-    const QFileInfo file(m_frame.path());
+    const QFileInfo file(m_foto.path());
     const double scale = std::min(1.0, devicePixelsPerFotoPixel); // what is larger than the photo is not in its file
     const QSize needed(std::max(1, int(std::ceil(full.width() * scale))),
                        std::max(1, int(std::ceil(full.height() * scale))));
@@ -69,6 +86,50 @@ QImage MvFotoPainter::decode(const QSize &full, double devicePixelsPerFotoPixel)
     const int side = screenSide(std::max(needed.width(), needed.height()));
     const bool isLarger = full.width() > side || full.height() > side;
     return m_fotos.scaled(file, isLarger ? QSize(side, side) : full);
+}
+
+void MvFotoPainter::draw(const QImage &image, const QSize &full, const QRectF &rect)
+{
+    const QRectF covered = m_foto.covered(full, rect.size()).translated(rect.topLeft());
+    if (m_foto.straightening() != 0.0) {
+        const QImage part = straightened(image, full, rect);
+        return drawCropped(part, part.rect(), covered);
+    }
+    const QRectF seen = m_foto.crop(full, rect.size());
+    const double scale = double(image.width()) / full.width();
+    const QImage turned = m_foto.quarterTurns() == 0
+                              ? image
+                              : image.transformed(QTransform().rotate(degreesPerQuarter * m_foto.quarterTurns()));
+    drawCropped(turned, {seen.topLeft() * scale, seen.size() * scale}, covered);
+}
+
+/// The part that is seen, in about as many pixels as the image has for it: not every target can turn images.
+QImage MvFotoPainter::straightened(const QImage &image, const QSize &full, const QRectF &rect) const
+{
+    const double pixelsPerFotoPixel = double(image.width()) / full.width();
+    const QSizeF size = m_foto.seenSize(full, rect.size()) * pixelsPerFotoPixel;
+    QImage part(std::max(1, int(std::lround(size.width()))), std::max(1, int(std::lround(size.height()))),
+                QImage::Format_RGB32);
+    part.fill(Qt::white);
+    const QRectF covered = m_foto.covered(full, rect.size());
+    QPainter painter(&part);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.scale(part.width() / covered.width(), part.height() / covered.height());
+    painter.translate(-covered.topLeft());
+    painter.setTransform(m_foto.transform(full, rect.size()), true);
+    painter.drawImage(QRectF(QPointF(), QSizeF(full)), image);
+    return part;
+}
+
+void MvFotoPainter::drawBorder(const QRectF &rect)
+{
+    const double width = std::min({m_foto.border().width, rect.width() / 2.0, rect.height() / 2.0});
+    if (width <= 0.0 || !m_foto.border().color.isValid())
+        return;
+    QPainterPath ring; // odd-even: the inner rectangle is left out
+    ring.addRect(rect);
+    ring.addRect(rect.adjusted(width, width, -width, -width));
+    m_painter.fillPath(ring, m_foto.border().color);
 }
 
 /// Whole pixels of the image are drawn, clipped to the rectangle: some targets would round the part that is seen, and
@@ -94,7 +155,7 @@ void MvFotoPainter::paintPlaceholder(const QRectF &rect, bool isNamed)
     QFont font;
     font.setPixelSize(40); // 4 mm
     const int width = int(0.9 * rect.width());
-    const QStringList lines = {tr("Foto fehlt"), MvPrintableText::onOneLine(QFileInfo(m_frame.path()).fileName())};
+    const QStringList lines = {tr("Foto fehlt"), MvPrintableText::onOneLine(QFileInfo(m_foto.path()).fileName())};
     const double lineHeight = 60.0;
     double baseline = rect.center().y() - 5.0;
     for (const QString &line : lines) {

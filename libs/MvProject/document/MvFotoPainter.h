@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvProject/MvFotoFrame.h"
+#include "MvProject/MvFotoElement.h"
 
 #include <QCoreApplication>
 #include <QImage>
@@ -9,7 +9,7 @@
 class MvFotoSource;
 class QPainter;
 
-/// Paints the photo of a page, in the size that the painter's device needs. Any thread that the source of the photos
+/// Paints photos in their frames, in the size that the painter's device needs. Any thread that the source of the photos
 /// allows.
 class MvFotoPainter
 {
@@ -17,23 +17,27 @@ class MvFotoPainter
 
 public:
     /// What is handed over must outlive the painter.
-    MvFotoPainter(QPainter &painter, const MvFotoFrame &frame, MvFotoSource &fotos)
+    MvFotoPainter(QPainter &painter, const MvFotoElement &foto, MvFotoSource &fotos)
         : m_painter(painter)
-        , m_frame(frame)
+        , m_foto(foto)
         , m_fotos(fotos)
     {}
 
-    /// Fills the rectangle with the photo. Where its file is missing: nothing on print, on a screen a grey field, which
-    /// on an interactive one names the file. A photo that will look coarse in print is marked where quality warnings
-    /// are shown.
-    void paint(const QRectF &rect);
+    /// Paints the photo into the rectangle, which is turned about its middle by some degrees. An empty frame paints
+    /// nothing. Where the photo's file is missing: nothing on print, on a screen a grey field, which on an interactive
+    /// one names the file. A photo that will look coarse in print is marked where quality warnings are shown.
+    void paint(const QRectF &rect, double rotation = 0.0);
 
 private:
+    void paintUpright(const QRectF &rect);
     QImage decode(const QSize &full, double devicePixelsPerFotoPixel) const;
+    void draw(const QImage &image, const QSize &full, const QRectF &rect);
     void drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect);
+    QImage straightened(const QImage &image, const QSize &full, const QRectF &rect) const;
+    void drawBorder(const QRectF &rect);
     void paintPlaceholder(const QRectF &rect, bool isNamed);
 
     QPainter &m_painter;
-    const MvFotoFrame &m_frame;
+    const MvFotoElement &m_foto;
     MvFotoSource &m_fotos;
 };

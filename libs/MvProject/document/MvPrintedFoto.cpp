@@ -11,21 +11,20 @@
 
 namespace {
 
-MvPrintedFoto ownFoto(const MvFotoFrame &frame, const MvPageFormat &format)
+MvPrintedFoto printed(const MvFotoElement &foto, const QRectF &rect, int element)
 {
-    const QRectF rect = frame.rect(format);
-    const QSize full = MvFotoAccess::preferredSize(MvFoto(QFileInfo(frame.path())));
-    const QSizeF seen = frame.crop(full, rect.size()).size();
-    return {frame.path(), {}, rect, MvFotoResolution::pixelsPerInch(seen, rect.size())};
+    const QSize full = MvFotoAccess::preferredSize(MvFoto(QFileInfo(foto.path())));
+    const QSizeF covered = foto.covered(full, rect.size()).size();
+    return {foto.path(), {}, rect, MvFotoResolution::pixelsPerInch(foto.seenSize(full, rect.size()), covered), element};
 }
 
 } // namespace
 
 QList<MvPrintedFoto> MvPrintedFoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                           const MvDateRange &documentRange, const MvRenderingSources &sources)
+                                           const MvPageContext &context, const MvRenderingSources &sources)
 {
     MvPageFindings found;
-    page.record(format, documentRange, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
+    page.record(format, context, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
     return ofPaintedPage(page, format, found, sources);
 }
 
@@ -33,8 +32,13 @@ QList<MvPrintedFoto> MvPrintedFoto::ofPaintedPage(const MvCalendarPage &page, co
                                                   const MvPageFindings &findings, const MvRenderingSources &sources)
 {
     QList<MvPrintedFoto> fotos;
-    if (page.fotoFrame().isValid())
-        fotos.append(ownFoto(page.fotoFrame(), format));
+    if (!page.background().foto().isEmpty())
+        fotos.append(printed(page.background().foto(), format.mediaRect(), -1));
+    const QList<MvPageElement> elements = page.elementsOn(format);
+    for (int number = 0; number < elements.size(); ++number) {
+        if (const MvFotoElement *foto = elements[number].foto(); foto && !foto->isEmpty())
+            fotos.append(printed(*foto, elements[number].rect(), number));
+    }
     QList<MvPaintedFoto> painted = findings.fotos;
     std::sort(painted.begin(), painted.end(),
               [](const MvPaintedFoto &a, const MvPaintedFoto &b) { return a.date < b.date; });

@@ -11,25 +11,27 @@
 #include <QString>
 
 class MvCalendarPage;
-class MvDateRange;
 class MvPageFormat;
+struct MvPageContext;
 struct MvPageFindings;
 
-/// A photo that a page shows, its own or that of an entry in the cell of its day, and how finely it is printed.
+/// A photo that a page shows, one of its own or that of an entry in the cell of its day, and how finely it is printed.
 struct MVPROJECT_EXPORT MvPrintedFoto
 {
     QString path;
-    QDate date;                 // of the day in whose cell it stands; invalid for the page's own photo
+    QDate date;                 // of the day in whose cell it stands; invalid for the page's own photos
     QRectF rect;                // in tenths of a millimetre from the trimmed page's corner
     double pixelsPerInch = 0.0; // of the part that is seen
+    int element = -1;           // of the frame, see MvCalendarPage::elementsOn(); none: a day's photo, or the ground
 
     MvFotoResolution::Grade grade() const { return MvFotoResolution::grade(pixelsPerInch); }
 
     bool operator==(const MvPrintedFoto &) const = default;
 
-    /// The photos of a page whose files can be read: its own first, then those of days by date. GUI thread.
+    /// The photos of a page whose files can be read: its own first, the ground and
+    /// the frames in their order, then those of days by date. GUI thread.
     static QList<MvPrintedFoto> ofPage(const MvCalendarPage &page, const MvPageFormat &format,
-                                       const MvDateRange &documentRange, const MvRenderingSources &sources = {});
+                                       const MvPageContext &context, const MvRenderingSources &sources = {});
     /// The same of a page that has been painted or recorded already, by what was found then.
     static QList<MvPrintedFoto> ofPaintedPage(const MvCalendarPage &page, const MvPageFormat &format,
                                               const MvPageFindings &findings, const MvRenderingSources &sources = {});

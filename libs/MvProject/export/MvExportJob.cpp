@@ -88,7 +88,7 @@ void MvExportJob::recordPage(int number)
         sources.fotos = &fotos;
         MvPageFindings &found = m_findings[m_pages[number]];
         const MvPaintRecording recording =
-            page.record(m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print),
+            page.record(m_document.format(), m_document.context(), {}, MvRenderingRule(MvRenderingRule::Print),
                         pixelsPerUnit, sources, &found);
         if (!fotos.isComplete())
             return; // called again when they have been decoded

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvFotoVeil.h"
+
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvProject/MvFotoPainter.h"
+#include "MvProject/MvPageInks.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr double sampleSide = 20.0; // 2 mm of paper to a pixel: about what a letter covers
+constexpr int mostSamples = 96;     // pixels along a side
+constexpr double mayFail = 0.02;    // of the pixels
+constexpr int steps = 50;           // of the veil's strength
+
+/// What a channel of a colour adds to its luminance.
+const std::array<double, 256> &linear()
+{
+    static const std::array<double, 256> values = [] {
+        std::array<double, 256> made = {};
+        for (size_t i = 0; i < made.size(); ++i) {
+            const double value = double(i) / 255.0;
+            made[i] = value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        }
+        return made;
+    }();
+    return values;
+}
+
+double luminance(QRgb color)
+{
+    return 0.2126 * linear()[size_t(qRed(color))] + 0.7152 * linear()[size_t(qGreen(color))] +
+           0.0722 * linear()[size_t(qBlue(color))];
+}
+
+double contrastOf(double a, double b)
+{
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QRgb mixed(QRgb beneath, QRgb veil, double strength)
+{
+    const auto channel = [strength](int below, int above) {
+        return int(std::lround(below + (above - below) * strength));
+    };
+    return qRgb(channel(qRed(beneath), qRed(veil)), channel(qGreen(beneath), qGreen(veil)),
+                channel(qBlue(beneath), qBlue(veil)));
+}
+
+bool isLegible(const QImage &beneath, QRgb veil, double strength, const QList<double> &inks)
+{
+    const qint64 allowed = qint64(mayFail * beneath.width() * beneath.height());
+    qint64 failed = 0;
+    for (int y = 0; y < beneath.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(beneath.constScanLine(y));
+        for (int x = 0; x < beneath.width(); ++x) {
+            const double tone = luminance(mixed(line[x], veil, strength));
+            const bool fails = std::any_of(inks.begin(), inks.end(), [tone](double ink) {
+                return contrastOf(ink, tone) < MvFotoVeil::demandedContrast;
+            });
+            failed += fails ? 1 : 0;
+        }
+        if (failed > allowed)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void MvFotoVeil::paintFotos(QPainter &painter) const
+{
+    const MvPageBackground &background = m_page.background();
+    if (!background.foto().isEmpty()) {
+        MvFotoPainter(painter, background.foto(), m_fotos).paint(m_format.mediaRect());
+        QColor veil = ground();
+        veil.setAlphaF(float(background.veil()));
+        if (veil.alpha() > 0)
+            painter.fillRect(m_format.mediaRect(), veil);
+    }
+    for (const MvPageElement &element : m_elements) {
+        if (element.foto())
+            MvFotoPainter(painter, *element.foto(), m_fotos).paint(element.rect(), element.rotation());
+    }
+}
+
+void MvFotoVeil::paintVeils(QPainter &painter) const
+{
+    for (const MvPageElement &element : m_elements) {
+        if (!element.isOnFoto() || element.rect().isEmpty())
+            continue;
+        QColor veil = ground();
+        veil.setAlphaF(float(strength(beneath(element.rect()), veil, MvPageInks(m_page).of(element))));
+        if (veil.alpha() > 0)
+            painter.fillRect(element.rect(), veil);
+    }
+}
+
+double MvFotoVeil::strength(const QImage &beneath, const QColor &ground, const QList<QColor> &inks)
+{
+    QList<double> counted;
+    for (const QColor &ink : inks) {
+        if (ink.isValid() && contrast(ink, ground) >= demandedContrast)
+            counted.append(luminance(ink.rgb()));
+    }
+    if (beneath.isNull() || counted.isEmpty())
+        return 0.0;
+    const QImage pixels = beneath.convertToFormat(QImage::Format_RGB32);
+    int least = 0;
+    int most = steps;
+    while (least < most) { // more veil is never less legible: what is beneath comes nearer to the ground
+        const int middle = (least + most) / 2;
+        if (isLegible(pixels, ground.rgb(), double(middle) / steps, counted))
+            most = middle;
+        else
+            least = middle + 1;
+    }
+    return double(most) / steps;
+}
+
+double MvFotoVeil::contrast(const QColor &a, const QColor &b)
+{
+    return contrastOf(luminance(a.rgb()), luminance(b.rgb()));
+}
+
+QColor MvFotoVeil::ground() const
+{
+    QColor color = MvPageInks(m_page).ground();
+    if (!color.isValid())
+        color = Qt::white;
+    color.setAlpha(255);
+    return color;
+}
+
+QImage MvFotoVeil::beneath(const QRectF &rect) const
+{
+    const auto pixels = [](double length) { return std::clamp(int(std::lround(length / sampleSide)), 1, mostSamples); };
+    QImage image(pixels(rect.width()), pixels(rect.height()), QImage::Format_RGB32);
+    image.fill(ground());
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.scale(image.width() / rect.width(), image.height() / rect.height());
+    painter.translate(-rect.topLeft());
+    painter.setClipRect(rect);
+    paintFotos(painter);
+    return image;
+}

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPagePainter.h"
+
+#include "MvCalendar/MvCalendarEventSource.h"
+#include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvProject/MvCalendariumFit.h"
+#include "MvProject/MvFotoPainter.h"
+#include "MvProject/MvFotoVeil.h"
+#include "MvProject/MvPageInks.h"
+#include "MvProject/MvPageTextPainter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int monthsPerYear = 12;
+
+/// Of what a calendarium's cells have beneath them on a photo: the veil is to be seen through them.
+constexpr double cellsOnFoto = 0.5;
+
+/// The range of a page that shows a year: it starts with the page's first month, not with that of the whole calendar.
+MvDateRange twelveMonths(const QDate &month)
+{
+    return {month, month.addMonths(monthsPerYear).addDays(-1)};
+}
+
+/// The days that both ranges have in common; those of the year when there are none.
+MvDateRange partOf(const MvDateRange &calendar, const MvDateRange &year)
+{
+    const MvDateRange part(std::max(calendar.start(), year.start()), std::min(calendar.end(), year.end()));
+    return calendar.isValid() && part.isValid() ? part : year;
+}
+
+MvCalendariumContentConfig monthsAhead(const MvCalendariumContentConfig &content, int months)
+{
+    return months == 0 ? content : content.moveToDay(content.date().addMonths(months));
+}
+
+} // namespace
+
+void MvPagePainter::paintGround(QPainter &painter) const
+{
+    const QColor color = MvPageInks(m_page).ground();
+    if (color.isValid() && color.alpha() > 0)
+        painter.fillRect(m_format.mediaRect(), color);
+}
+
+void MvPagePainter::paintFotos(QPainter &painter, MvFotoSource &fotos) const
+{
+    const MvFotoVeil veil(m_page, m_format, m_elements, fotos);
+    veil.paintFotos(painter);
+    veil.paintVeils(painter);
+}
+
+MvPageFindings MvPagePainter::paintCalendaria(QPainter &painter, const Pass &pass) const
+{
+    MvPageFindings found;
+    if (!m_page.isValid())
+        return found;
+    for (const MvPageElement &element : m_elements) {
+        if (element.calendarium())
+            paintCalendarium(painter, element, pass, found);
+    }
+    MvPageTextPainter texts(m_page, m_format, m_elements, pass.context);
+    for (int number = 0; number < m_elements.size(); ++number) {
+        if (m_elements[number].text())
+            texts.paint(painter, number, found);
+    }
+    return found;
+}
+
+void MvPagePainter::paintCalendarium(QPainter &painter, const MvPageElement &element, const Pass &pass,
+                                     MvPageFindings &found) const
+{
+    QRectF rect = element.rect();
+    if (rect.isEmpty())
+        return;
+    const MvCalendariumElement &shown = *element.calendarium();
+    const MvCalendariumAppearance appearance = appearanceOf(shown, m_page.appearance());
+    const MvCalendariumContentConfig content =
+        monthsAhead(m_page.contentConfig().moveToDayInMonth(1), shown.monthOffset());
+    const auto make = [&](const MvCalendariumAppearance &look) {
+        auto made = renderer(look, content, pass.context.range, pass.sources);
+        if (shown.isOnFoto())
+            made->setBackgroundAlpha(cellsOnFoto);
+        return made;
+    };
+    const MvCalendariumFit fit = MvCalendariumFit::shared(appearance, m_page.contentConfig(), m_format.magnitude(),
+                                                          rect.size(), shown.hasMonthLine(), pass.sources);
+    if (fit.lineHeight() > 0.0) {
+        const auto line = make(fit.lineAppearance());
+        fit.apply(*line);
+        line->render(painter, {rect.left(), rect.top(), rect.width(), fit.lineHeight()});
+        found.unfitting += line->unfittingTexts();
+        rect.setTop(rect.top() + fit.lineHeight());
+    }
+    const auto calendarium = make(appearance);
+    fit.apply(*calendarium);
+    calendarium->setPixelsPerUnit(pass.pixelsPerUnit);
+    if (pass.prepare)
+        pass.prepare(*calendarium);
+    calendarium->render(painter, rect);
+    found.unfitting += calendarium->unfittingTexts();
+    found.fotos += calendarium->paintedFotos();
+}
+
+std::unique_ptr<MvCalendariumRenderer> MvPagePainter::renderer(const MvCalendariumAppearance &appearance,
+                                                               const MvCalendariumContentConfig &content,
+                                                               const MvDateRange &documentRange,
+                                                               const MvRenderingSources &sources)
+{
+    std::unique_ptr<MvCalendariumRenderer> made(MvCalendariumRendererFactory::instance().createRenderer(appearance));
+    switch (appearance.type().traits().range) {
+    case MvCalendariumTraits::Range::Year:
+        made->setCalendarInformation(content, twelveMonths(content.date()));
+        break;
+    case MvCalendariumTraits::Range::YearWithinCalendar:
+        made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()),
+                                     partOf(documentRange, twelveMonths(content.date())));
+        break;
+    case MvCalendariumTraits::Range::Calendar:
+        made->setCalendarInformation(monthsAhead(content, appearance.offsetMonth()), documentRange);
+        break;
+    }
+    made->setSources(sources);
+    made->setModelInfo(sources.entriesOrDefault().project());
+    return made;
+}
+
+MvCalendariumAppearance MvPagePainter::appearanceOf(const MvCalendariumElement &element,
+                                                    const MvCalendariumAppearance &page)
+{
+    if (element.layout().isEmpty() || element.layout() == page.layoutSchema().ID().toString())
+        return page;
+    MvCalendariumAppearance appearance = page;
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(element.layout()));
+    if (!appearance.layoutSchema().isValid())
+        return page;
+    appearance.adoptLayoutSuggestions();
+    return appearance;
+}
