@@ -1705,10 +1705,6 @@
         <translation>The file cannot be opened.</translation>
     </message>
     <message>
-        <source>Gelesen werden JPEG, PNG, TIFF, WebP, BMP und GIF.</source>
-        <translation>JPEG, PNG, TIFF, WebP, BMP and GIF can be read.</translation>
-    </message>
-    <message>
         <source>Die Datei ist zu groß.</source>
         <translation>The file is too large.</translation>
     </message>
@@ -1735,6 +1731,10 @@
     <message>
         <source>Das Bild zu lesen dauert zu lange.</source>
         <translation>Reading the picture takes too long.</translation>
+    </message>
+    <message>
+        <source>Gelesen werden JPEG, PNG, HEIC, TIFF, WebP, BMP und GIF.</source>
+        <translation>JPEG, PNG, HEIC, TIFF, WebP, BMP and GIF are read.</translation>
     </message>
 </context>
 <context>

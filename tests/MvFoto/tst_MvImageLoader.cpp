@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvExifFixture.h"
 #include "MvTest.h"
 
 #include "MvFoto/MvGuardedImageReader.h"
@@ -23,12 +24,15 @@ private Q_SLOTS:
     void init();
     void formats_data();
     void formats();
+    void otherPrograms_data();
+    void otherPrograms();
     void refuses_data();
     void refuses();
     void keepsToTheLimitOfTheProcess();
     void givesUp();
     void leavesOutTexts();
     void turnsAsTheCameraSays();
+    void convertsToScreenColours_data();
     void convertsToScreenColours();
     void scales_data();
     void scales();
@@ -128,6 +132,38 @@ void tst_MvImageLoader::formats()
     QCOMPARE(fieldNames(MvImageLoader::instance().load(QFileInfo(file))), u"rgbw"_qs);
 }
 
+/// Files of tests/data that nothing here could write.
+void tst_MvImageLoader::otherPrograms_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("format");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QString>("fields");
+    QTest::newRow("turned by the file; the camera's note says so, too")
+        << u"turned.heic"_qs << QByteArray("heic") << QSize(96, 128) << u"brwg"_qs;
+    QTest::newRow("inks of a print shop") << u"cmyk.jpg"_qs << QByteArray("jpeg") << QSize(32, 24) << u"rgbw"_qs;
+}
+
+void tst_MvImageLoader::otherPrograms()
+{
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    QFETCH(QString, fields);
+    const QFileInfo file(QStringLiteral(MV_TEST_DATA "/fotos/") + name);
+    QTEST(MvImageLoader::format(file), "format");
+    QCOMPARE(MvImageLoader::instance().size(file), size);
+    QCOMPARE(fieldNames(MvImageLoader::instance().load(file)), fields);
+    const QSize half = size / 2;
+    QCOMPARE(MvImageLoader::instance().loadScaled(file, half).size(), half);
+}
+
+/// A file of tests/data with the bytes replaced wherever they are.
+static QByteArray changed(const QString &name, const QByteArray &from, const QByteArray &to)
+{
+    QFile file(QStringLiteral(MV_TEST_DATA "/fotos/") + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().replace(from, to) : QByteArray();
+}
+
 void tst_MvImageLoader::refuses_data()
 {
     QTest::addColumn<QByteArray>("content");
@@ -161,6 +197,16 @@ void tst_MvImageLoader::refuses_data()
     QTest::newRow("photo in 2,000 passes") << manyScans(2000) << u"64 Durchgängen"_qs;
     QTest::newRow("photo cut off after 300 bytes")
         << written(fields({400, 300}), "jpeg").first(300) << u"nicht vollständig"_qs;
+    const QByteArray heic = changed(u"turned.heic"_qs, {}, {});
+    QVERIFY(heic.size() > 1000);
+    QTest::newRow("photo of a telephone without its picture") << heic.first(420) << u"nicht vollständig"_qs;
+    QTest::newRow("the same, cut off later") << heic.first(700) << u"nicht vollständig"_qs;
+    QTest::newRow("the same, cut off in its head") << heic.first(100) << u"nicht vollständig"_qs;
+    const QByteArray ispe("ispe\0\0\0\0", 8);
+    const QByteArray side = QByteArray::fromHex("00004e20"); // 20,000
+    QTest::newRow("the same, saying it is 20,000 pixels square")
+        << changed(u"turned.heic"_qs, ispe + QByteArray::fromHex("0000008000000060"), ispe + side + side)
+        << u"zu klein für die 20000 × 20000"_qs;
     QTest::newRow("progressive photo cut off")
         << written(fields({2000, 1500}), "jpeg", true).first(400) << u"nicht vollständig"_qs;
 }
@@ -231,40 +277,61 @@ void tst_MvImageLoader::leavesOutTexts()
 
 void tst_MvImageLoader::turnsAsTheCameraSays()
 {
-    using Handler = QImageIOHandler;
-    for (const auto &[transformation, names, size] :
-         {std::tuple(Handler::TransformationNone, u"rgbw"_qs, QSize(800, 600)),
-          {Handler::TransformationRotate90, u"brwg"_qs, QSize(600, 800)},
-          {Handler::TransformationRotate180, u"wbgr"_qs, QSize(800, 600)},
-          {Handler::TransformationRotate270, u"gwrb"_qs, QSize(600, 800)}}) {
-        const QFileInfo file(path(u"foto.jpg"_qs));
-        QImageWriter writer(file.filePath(), "jpeg");
-        writer.setTransformation(transformation);
-        QVERIFY(writer.write(fields({800, 600})));
-
-        MvImageLoader &loader = MvImageLoader::instance();
-        loader.clear();
-        QCOMPARE(loader.size(file), size);
-        QCOMPARE(loader.load(file).size(), size);
-        QCOMPARE(fieldNames(loader.load(file)), names);
-        const QImage small = loader.loadScaled(file, {60, 60}); // decoded small, then turned
-        QCOMPARE(small.size(), size.scaled(60, 60, Qt::KeepAspectRatio));
-        QCOMPARE(fieldNames(small), names);
+    const QSize size(800, 600);
+    const QStringList fieldsOf{u"rgbw"_qs, u"grwb"_qs, u"wbgr"_qs, u"bwrg"_qs,
+                               u"rbgw"_qs, u"brwg"_qs, u"wgbr"_qs, u"gwrb"_qs};
+    const QByteArray jpeg = written(fields(size), "jpeg");
+    const QByteArray png = written(fields(size), "png");
+    const QByteArray webP = written(fields(size), "webp");
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        const QByteArray block = MvExifFixture::block(orientation);
+        for (const QByteArray &content : {MvExifFixture::inJpeg(jpeg, block), MvExifFixture::inPng(png, block),
+                                          MvExifFixture::inWebP(webP, size, block)}) {
+            const QSize turned = orientation > 4 ? size.transposed() : size;
+            MvGuardedImageReader full(content);
+            QCOMPARE(full.size(), turned);
+            QCOMPARE(fieldNames(full.read({})), fieldsOf.at(orientation - 1));
+            const QImage small = MvGuardedImageReader(content).read({60, 60}); // decoded small, then turned
+            QCOMPARE(small.size(), turned.scaled(60, 60, Qt::KeepAspectRatio));
+            QCOMPARE(fieldNames(small), fieldsOf.at(orientation - 1));
+        }
     }
+}
+
+/// The colour 160, 120, 80 in other colour spaces, as bytes of a file; the colours were computed from the primaries.
+void tst_MvImageLoader::convertsToScreenColours_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QColor>("color");
+    const auto inSpace = [](QColorSpace::NamedColorSpace space, QImage::Format pixels) {
+        QImage image(16, 16, pixels);
+        image.fill(QColor(160, 120, 80));
+        image.setColorSpace(space);
+        return image;
+    };
+    const QColor adobe(174, 121, 77);
+    QTest::newRow("PNG") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "png") << adobe;
+    QTest::newRow("PNG with 16 bits") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGBX64), "png") << adobe;
+    QTest::newRow("JPEG") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "jpeg") << adobe;
+    QTest::newRow("TIFF") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "tiff") << adobe;
+    QTest::newRow("WebP") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "webp") << adobe;
+    QTest::newRow("HEIC") << changed(u"p3.heic"_qs, {}, {}) << QColor(167, 118, 73);
+    QImage gray(16, 16, QImage::Format_Grayscale16);
+    gray.fill(QColor(120, 120, 120));
+    QTest::newRow("gray with 16 bits") << written(gray, "png") << QColor(120, 120, 120);
 }
 
 void tst_MvImageLoader::convertsToScreenColours()
 {
-    QImage image(16, 16, QImage::Format_RGB32);
-    image.fill(QColor(160, 120, 80));
-    image.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
-    const QString file = path(u"adobe.png"_qs);
-    QVERIFY(image.save(file));
-    const QColor seen = MvImageLoader::instance().load(QFileInfo(file)).pixelColor(8, 8);
-    // computed from the primaries of both spaces
-    QVERIFY2(std::abs(seen.red() - 174) <= 1, qPrintable(seen.name()));
-    QVERIFY2(std::abs(seen.green() - 121) <= 1, qPrintable(seen.name()));
-    QVERIFY2(std::abs(seen.blue() - 77) <= 1, qPrintable(seen.name()));
+    QFETCH(QByteArray, content);
+    QFETCH(QColor, color);
+    MvGuardedImageReader reader(content);
+    const QImage image = reader.read({});
+    QCOMPARE(reader.error(), QString());
+    const QColor seen = image.pixelColor(8, 8);
+    const int away = std::max({std::abs(seen.red() - color.red()), std::abs(seen.green() - color.green()),
+                               std::abs(seen.blue() - color.blue())});
+    QVERIFY2(away <= 2, qPrintable(seen.name()));
 }
 
 void tst_MvImageLoader::scales_data()

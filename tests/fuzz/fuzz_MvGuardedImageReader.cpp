@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFuzz.h"
 
+#include "MvFoto/MvExif.h"
 #include "MvFoto/MvGuardedImageReader.h"
 
 /// An image: pixels within bounds, or a reason why there are none.
@@ -8,6 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     MvGuardedImageReader reader(MvFuzz::bytes(data, size));
     const QSize full = reader.size();
+    MvFuzz::check(reader.exif().captured().isNull() || reader.exif().captured().isValid(), "a time or none");
     if (qint64(full.width()) * full.height() > 4'000'000) // would take the time of the search, which is not its aim
         return 0;
     reader.setTimeLimit(5.0);

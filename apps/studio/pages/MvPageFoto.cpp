@@ -8,6 +8,7 @@
 #include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoLoader.h"
 #include "MvFoto/MvImageLoader.h"
+#include "MvFoto/MvMediaFormat.h"
 #include "MvProject/MvProject.h"
 
 #include <QActionGroup>
@@ -68,8 +69,7 @@ void MvPageFoto::choose()
     dialog->setObjectName(u"photoDialog"_s);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters(
-        {tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s), tr("Alle Dateien (*)")});
+    dialog->setNameFilters({tr("Fotos (%1)").arg(MvMediaFormat::namePatterns()), tr("Alle Dateien (*)")});
     const MvFotoFrame &frame = m_item->shownPage().fotoFrame();
     const QFileInfo present(frame.path());
     dialog->setDirectory(frame.isValid() && QFileInfo(present.absolutePath()).isDir() ? present.absolutePath()

@@ -6,6 +6,7 @@
 
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvUndoController.h"
+#include "MvFoto/MvMediaFormat.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 
 #include <QHBoxLayout>
@@ -82,7 +83,7 @@ void MvCalendarEventFotoDelegateEditorWidget::applyIcon()
 void MvCalendarEventFotoDelegateEditorWidget::requestFoto(const MvCalendarEvent &event, QWidget *asker,
                                                           const MvCalendarEventFotoIntake::Use &use, MvSession &session)
 {
-    const QString filter = tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s);
+    const QString filter = tr("Fotos (%1)").arg(MvMediaFormat::namePatterns());
     const auto take = [event, asker, use, &session](const QString &fileName) {
         if (fileName.isEmpty())
             return;

@@ -6,6 +6,7 @@
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvFoto/MvFotoList.h"
 #include "MvFoto/MvFotoLoader.h"
+#include "MvFoto/MvMediaFormat.h"
 #include "MvGUIWidgets/MvDropLabel.h"
 
 #include <QGraphicsOpacityEffect>
@@ -151,7 +152,7 @@ void MvFotoField::showHint()
 
 void MvFotoField::chooseFoto()
 {
-    const QString filter = tr("Fotos (%1)").arg(u"*.jpg *.jpeg *.png *.tif *.tiff *.webp *.bmp *.gif"_s);
+    const QString filter = tr("Fotos (%1)").arg(MvMediaFormat::namePatterns());
     const auto take = [this](const QString &fileName) {
         if (fileName.isEmpty())
             return;

@@ -2,6 +2,9 @@
 #include "MvFoto/MvGuardedImageReader.h"
 
 #include "MvCore/MvRegularFile.h"
+#include "MvFoto/MvExif.h"
+#include "MvFoto/MvExifBlock.h"
+#include "MvFoto/MvHeifImage.h"
 #include "MvFoto/MvImageDevice.h"
 #include "MvFoto/MvImageFormat.h"
 #include "MvFoto/MvImageStructure.h"
@@ -12,6 +15,7 @@
 #include <QImageReader>
 #include <QMutex>
 #include <QPixelFormat>
+#include <QTransform>
 
 #include <limits>
 #include <utility>
@@ -21,6 +25,7 @@ namespace {
 constexpr int smoothQuality = 90;              // of scaled decoding: smooth instead of fast
 constexpr qint64 quickPixels = 4'500'000;      // decoded in some 50 ms
 constexpr qint64 quickBytes = 16 << 20;        // a file to be looked through
+constexpr qint64 quickHeicPixels = 1'000'000;  // the same time for a format that takes more of it
 constexpr int quickScans = 12;                 // as in usual progressive files
 constexpr qint64 largePixels = 16'000'000;     // above this, the file must hold a plausible amount of data
 constexpr qint64 mostPixelsPerByte = 4096;     // a blank page as a bitmap still has more
@@ -28,13 +33,12 @@ constexpr qint64 mostPixelsPerByteAtAll = 256; // of JPEG and BMP
 constexpr qint64 largeMemory = 128 << 20;      // bytes; one such image at a time
 constexpr qint64 otherFileLimit = 256 << 20;   // bytes of files that decoders load as a whole
 
-QImage readyToPaint(QImage image)
+/// As QImageReader does it: mirrored first, then turned.
+QImage turned(const QImage &image, QImageIOHandler::Transformations turn)
 {
-    const QColorSpace srgb(QColorSpace::SRgb);
-    if (image.colorSpace().isValid() && image.colorSpace() != srgb)
-        image.convertToColorSpace(srgb);
-    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
-    return image;
+    const QImage mirrored =
+        image.mirrored(turn & QImageIOHandler::TransformationMirror, turn & QImageIOHandler::TransformationFlip);
+    return turn & QImageIOHandler::TransformationRotate90 ? mirrored.transformed(QTransform().rotate(90)) : mirrored;
 }
 
 qint64 pixelsOf(const QSize &size)
@@ -82,35 +86,57 @@ void MvGuardedImageReader::open()
     }
     const QByteArray format = MvImageFormat::fromContent(m_source->peek(MvImageFormat::headSize));
     if (format.isEmpty()) {
-        m_error = tr("Gelesen werden JPEG, PNG, TIFF, WebP, BMP und GIF.");
+        m_error = tr("Gelesen werden JPEG, PNG, HEIC, TIFF, WebP, BMP und GIF.");
         return;
     }
-    if (m_source->size() > (format == "webp" || format == "gif" ? otherFileLimit : fileLimit)) {
+    const bool isLoadedAsAWhole = format == "webp" || format == "gif" || format == "heic";
+    if (m_source->size() > (isLoadedAsAWhole ? otherFileLimit : fileLimit)) {
         m_error = tr("Die Datei ist zu groß.");
         return;
     }
     m_device = std::make_unique<MvImageDevice>(m_source.get());
     m_device->setTimeLimit(timeLimit);
-    if (format == "png")
-        m_device->setStretches(MvImageStructure::pngWithoutTexts(m_source.get(), MvImageStructure::PngPart::Head));
-    if (format == "gif")
-        m_canvas = MvImageStructure::gifCanvas(m_source.get());
     m_format = format;
+    if (format == "heic") {
+        m_heif = std::make_unique<MvHeifImage>(m_device.get());
+        m_heif->setTimeLimit(timeLimit);
+    } else {
+        openReader();
+    }
+}
+
+void MvGuardedImageReader::openReader()
+{
+    if (m_format == "png")
+        m_device->setStretches(MvImageStructure::pngWithoutTexts(m_source.get(), MvImageStructure::PngPart::Head));
+    if (m_format == "gif")
+        m_canvas = MvImageStructure::gifCanvas(m_source.get());
     m_reader = std::make_unique<QImageReader>();
     m_reader->setDevice(m_device.get());
     m_reader->setAutoDetectImageFormat(false); // no other decoder gets to see the file
     m_reader->setFormat(m_format);
     m_reader->setAutoTransform(true);
     m_reader->setQuality(smoothQuality);
+    if (!m_reader->supportsOption(QImageIOHandler::ImageTransformation))
+        m_turn = exif().turn();
+}
+
+MvExif MvGuardedImageReader::exif() const
+{
+    if (m_heif)
+        return MvExif(m_heif->exif());
+    return m_reader ? MvExif(MvExifBlock::find(m_source.get(), m_format)) : MvExif();
 }
 
 bool MvGuardedImageReader::isTurned() const
 {
-    return m_reader->transformation() & QImageIOHandler::TransformationRotate90;
+    return (m_reader->transformation() | m_turn) & QImageIOHandler::TransformationRotate90;
 }
 
 QSize MvGuardedImageReader::size() const
 {
+    if (m_heif)
+        return m_heif->size();
     if (!m_reader)
         return {};
     const QSize size = m_reader->size();
@@ -136,15 +162,18 @@ void MvGuardedImageReader::setTimeLimit(double seconds)
 {
     if (m_device)
         m_device->setTimeLimit(seconds);
+    if (m_heif)
+        m_heif->setTimeLimit(seconds);
 }
 
 bool MvGuardedImageReader::isQuick()
 {
-    if (!m_reader)
+    if (!m_device)
         return true; // nothing will be read
     if (isHollow(size()))
         return true;
-    if (m_source->size() > quickBytes || pixelsOf(decodedSize(size())) > quickPixels)
+    const qint64 mostPixels = m_heif ? quickHeicPixels : quickPixels;
+    if (m_source->size() > quickBytes || pixelsOf(decodedSize(size())) > mostPixels)
         return false;
     lookThrough();
     return m_scans <= quickScans;
@@ -166,6 +195,8 @@ qint64 MvGuardedImageReader::largestImage(const QSize &full, const QSize &target
             qBound(1, qMin(full.width() / (2 * target.width()), full.height() / (2 * target.height())), 8);
         return 4 * pixels / (divisor * divisor);
     }
+    if (m_heif)
+        return 4 * pixels;
     const QPixelFormat format = QImage::toPixelFormat(m_reader->imageFormat());
     return pixels * qMax<qint64>(4, format.bitsPerPixel() / 8);
 }
@@ -173,6 +204,8 @@ qint64 MvGuardedImageReader::largestImage(const QSize &full, const QSize &target
 /// What decoding takes at its worst moment, in bytes.
 qint64 MvGuardedImageReader::neededMemory(const QSize &full, const QSize &target) const
 {
+    if (m_heif)
+        return m_heif->bytesPerPixel() * pixelsOf(full);
     const qint64 image = largestImage(full, target);
     if (m_format == "jpeg" && m_scans > 1)
         return image + 6 * pixelsOf(full); // several passes are gathered in full
@@ -201,9 +234,14 @@ bool MvGuardedImageReader::isWithinLimits(const QSize &full, const QSize &target
     return m_error.isEmpty();
 }
 
+bool MvGuardedImageReader::hasRunOut() const
+{
+    return m_device->hasRunOut() || (m_heif && m_heif->hasRunOut());
+}
+
 QImage MvGuardedImageReader::read(const QSize &bounds)
 {
-    if (!m_reader)
+    if (!m_device)
         return {};
     const QSize full = size();
     const QSize target =
@@ -212,21 +250,36 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
     if (!isWithinLimits(full, target))
         return {};
     QMutexLocker lock(neededMemory(full, target) > largeMemory ? &largeImages() : nullptr);
-    const QImage image = decode(full, target);
-    if (image.isNull())
-        m_error = m_device->hasRunOut() ? tr("Das Bild zu lesen dauert zu lange.")
-                                        : tr("Die Datei ist beschädigt oder nicht vollständig.");
-    return image;
+    const QImage image = decoded(full, target);
+    if (!image.isNull() && !hasRunOut()) // decoders accept truncated files
+        return readyToPaint(image, target);
+    m_error =
+        hasRunOut() ? tr("Das Bild zu lesen dauert zu lange.") : tr("Die Datei ist beschädigt oder nicht vollständig.");
+    return {};
 }
 
-QImage MvGuardedImageReader::decode(const QSize &full, const QSize &target)
+/// The picture at least as large as the target, turned as far as its reader sees to that.
+QImage MvGuardedImageReader::decoded(const QSize &full, const QSize &target)
 {
+    if (m_heif)
+        return m_heif->decode();
     if (full.width() > 2 * target.width() && full.height() > 2 * target.height())
         m_reader->setScaledSize(isTurned() ? 2 * target.transposed() : 2 * target);
     QImage image = m_reader->read();
-    if (image.isNull() || m_device->hasRunOut()) // decoders accept truncated files
-        return {};
+    if (m_format == "jpeg" && !image.colorSpace().isValid() && exif().isAdobeRgb())
+        image.setColorSpace(QColorSpace::AdobeRgb);
+    return image;
+}
+
+QImage MvGuardedImageReader::readyToPaint(QImage image, const QSize &target) const
+{
+    if (m_turn != QImageIOHandler::TransformationNone)
+        image = turned(image, m_turn);
     if (image.size() != target)
         image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return readyToPaint(image);
+    const QColorSpace srgb(QColorSpace::SRgb);
+    if (image.colorSpace().isValid() && image.colorSpace() != srgb)
+        image.convertToColorSpace(srgb);
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    return image;
 }

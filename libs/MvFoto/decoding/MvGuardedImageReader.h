@@ -7,11 +7,14 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageIOHandler>
 #include <QSize>
 #include <QString>
 
 #include <memory>
 
+class MvExif;
+class MvHeifImage;
 class MvImageDevice;
 class QIODevice;
 class QImageReader;
@@ -44,6 +47,8 @@ public:
     QByteArray format() const { return m_format; }
     /// In pixels, after turning, from the head of the file; invalid when it cannot be read. Says nothing about limits.
     QSize size() const;
+    /// What the camera noted beside the picture.
+    MvExif exif() const;
     /// Whether read() takes no longer than a window may stand still.
     bool isQuick();
 
@@ -59,6 +64,7 @@ public:
 
 private:
     void open();
+    void openReader();
     bool isTurned() const;
     QSize decodedSize(const QSize &full) const { return full.expandedTo(m_canvas); }
     bool isHollow(const QSize &full) const;
@@ -66,13 +72,17 @@ private:
     qint64 largestImage(const QSize &full, const QSize &target) const;
     qint64 neededMemory(const QSize &full, const QSize &target) const;
     void lookThrough();
-    QImage decode(const QSize &full, const QSize &target);
+    bool hasRunOut() const;
+    QImage decoded(const QSize &full, const QSize &target);
+    QImage readyToPaint(QImage image, const QSize &target) const;
 
     std::unique_ptr<QIODevice> m_source;
     std::unique_ptr<MvImageDevice> m_device;
-    std::unique_ptr<QImageReader> m_reader;
+    std::unique_ptr<QImageReader> m_reader; // of all formats but HEIC
+    std::unique_ptr<MvHeifImage> m_heif;
     QByteArray m_format;
-    QSize m_canvas; // of a GIF
+    QImageIOHandler::Transformations m_turn; // that the reader does not see to
+    QSize m_canvas;                          // of a GIF
     bool m_isLookedThrough = false;
     int m_scans = 1;
     bool m_mayBeCutOff = false;

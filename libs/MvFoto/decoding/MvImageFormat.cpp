@@ -11,6 +11,13 @@ struct Signature
     QByteArray format;
 };
 
+/// The kinds of HEIF files that hold photos as telephones and cameras write them.
+bool isHeic(const QByteArray &head)
+{
+    static const QList<QByteArray> brands = {"heic", "heix", "heim", "heis", "mif1", "msf1", "hevc", "hevx"};
+    return head.mid(4, 4) == "ftyp" && brands.contains(head.mid(8, 4));
+}
+
 const QList<Signature> &signatures()
 {
     static const QList<Signature> list = {
@@ -31,6 +38,8 @@ QByteArray MvImageFormat::fromContent(const QByteArray &head)
     }
     if (head.startsWith("RIFF") && head.mid(8, 4) == "WEBP")
         return "webp";
+    if (isHeic(head))
+        return "heic";
     // two letters alone are too little: the sizes of the known headers follow at offset 14
     if (head.startsWith("BM") && head.size() >= 18 && head.at(15) == 0 && head.at(16) == 0 && head.at(17) == 0)
         return "bmp";

@@ -13,6 +13,6 @@ public:
     /// Number of bytes fromContent() wants to see.
     static constexpr int headSize = 32;
 
-    /// "jpeg", "png", "gif", "bmp", "tiff" or "webp"; empty for everything else.
+    /// "jpeg", "png", "gif", "bmp", "tiff", "webp" or "heic"; empty for everything else.
     static QByteArray fromContent(const QByteArray &head);
 };

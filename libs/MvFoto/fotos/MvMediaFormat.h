@@ -18,6 +18,7 @@ public:
         Bmp,
         Tiff,
         WebP,
+        Heic,
     };
 
     MvMediaFormat() = default;
@@ -28,9 +29,12 @@ public:
     /// The format of the file's content, whatever its name says; unknown when it cannot be read.
     static MvMediaFormat ofFile(const QFileInfo &file);
 
+    /// The endings of such files' names, as the filters of file dialogs want them: "*.jpg *.jpeg …".
+    static QString namePatterns();
+
     /// A name for a copy of a photo in a format that can be written: a JPEG keeps its extension, photos of unknown
-    /// format become "jpg", all others, which may have transparent parts, "png". The hint is cleaned by MvFileName; one
-    /// without anything gives "foto".
+    /// format and those of telephones (HEIC) become "jpg", all others, which may have transparent parts, "png". The
+    /// hint is cleaned by MvFileName; one without anything gives "foto".
     static QString createFilename(const MvMediaFormat &format, const QString &filenameHint,
                                   const QString &fileExtensionHint);
 

@@ -63,7 +63,7 @@ MvPictureIntake::Result MvPictureIntake::put(const QByteArray &bytes, const QDir
         read(&reader, longestSide); // decoded even if it is kept as it is, to make sure that it is a picture
     if (image.isNull())
         return {{reader.error(), {}}, {}};
-    const bool isJpeg = reader.format() == "jpeg";
+    const bool isJpeg = reader.format() == "jpeg" || reader.format() == "heic";
     const QByteArray content = isFit(bytes, reader.format(), size, longestSide) ? bytes : encoded(image, isJpeg);
     if (content.isEmpty())
         return {{tr("Das Bild ließ sich nicht umwandeln."), {}}, {}};

@@ -14,8 +14,8 @@
 /// Takes a picture that comes as the bytes of a file into a folder of photos. Any thread.
 ///
 /// A JPEG or PNG that is small enough, and stands upright, is written as it is. Everything else is decoded and scaled
-/// once: a JPEG becomes a JPEG again, pictures in other formats, which may have transparent parts, become PNG. Reading
-/// is bounded in memory and time.
+/// once: a JPEG or HEIC becomes a JPEG, pictures in other formats, which may have transparent parts, become PNG.
+/// Reading is bounded in memory and time.
 class MVFOTO_EXPORT MvPictureIntake
 {
     Q_DECLARE_TR_FUNCTIONS(MvPictureIntake)
