@@ -19,6 +19,7 @@ private Q_SLOTS:
     void roundTrip();
     void roundTripOfAppearances_data();
     void roundTripOfAppearances();
+    void versions();
     void writesNothingThatDoesNotOpenAgain();
     void fotosMoveWithTheirFolder();
     void keepsUnknownSchemas();
@@ -31,8 +32,9 @@ private Q_SLOTS:
 private:
     QFileInfo file(const QString &name = u"k.mvcalendar"_s) const { return QFileInfo(m_folder.filePath(name)); }
     QFileInfo put(const QByteArray &content) const;
+    MvCalendarDocument everythingNew();
 
-    const QTemporaryDir m_folder;
+    QTemporaryDir m_folder;
 };
 
 QFileInfo tst_MvProjectFile::put(const QByteArray &content) const
@@ -88,6 +90,76 @@ void tst_MvProjectFile::roundTrip_data()
     year.setAppearance(appearance(u"YEAR_ONLY"_s));
     mixed.setPage(0, year);
     QTest::newRow("a year in front of months") << mixed;
+    QTest::newRow("elements, pages and pool") << everythingNew();
+}
+
+/// All that the second version of files knows.
+MvCalendarDocument tst_MvProjectFile::everythingNew()
+{
+    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 3);
+    MvPageFormat format = calendar.format();
+    format.setBinding(MvPageFormat::Binding::Left);
+    format.setBindingZone(95.5);
+    format.setSafeMargin(42.0);
+    calendar.setFormat(format);
+    calendar.setThemeId(u"PAPIER"_s);
+
+    MvFotoElement foto(u"/anderswo/Oma & Opa.jpg"_s);
+    foto.setFit(MvFotoElement::Fit::Whole);
+    foto.setZoom(1.0 / 0.3);
+    foto.setFocus({0.1, 1.0 / 3.0});
+    foto.setQuarterTurns(3);
+    foto.setStraightening(-7.25);
+    foto.setBorder({12.5, QColor(1, 2, 3)});
+    foto.setCaption(u"Ostern „bei“ Oma <1960>\nund Opa"_s);
+    MvTextElement text(u"  {title} – Zeile 1\nZeile 2 "_s);
+    text.setFotoSlot(u"photo 2"_s);
+    text.setFamily(u"EB Garamond"_s);
+    text.setPoints(11.3);
+    text.setWeight(QFont::DemiBold);
+    text.setItalic(true);
+    text.setCapitals(true);
+    text.setLetterSpacing(7.5);
+    text.setColor(QColor::fromHsvF(0.3F, 0.5F, 0.7F, 0.5F));
+    text.setAccent(true);
+    text.setAlignment(Qt::AlignRight | Qt::AlignBottom);
+    text.setOnFoto(true);
+    MvCalendariumElement year(u"YEAR_ONLY"_s);
+    year.setMonthOffset(-12);
+    year.setOnFoto(true);
+    year.setMonthLine(false);
+    MvPageElement tilted({-30.0, 1.0 / 3.0, 800.0, 600.5}, foto, u"photo 1"_s);
+    tilted.setRotation(-1.5);
+
+    MvCalendarPage page = calendar.pages()[1];
+    page.setElements({tilted, {{0, 0, 100, 50}, text}, {{5, 5, 7, 7}, year, u"year"_s}});
+    page.setSpareElements({{{1, 2, 3, 4}, foto, u"photo 9"_s}});
+    page.nameTemplate(MvPageTemplate::unknown(u"FEHLT_HIER"_s));
+    MvPageBackground background{QColor(10, 20, 30, 200)};
+    background.setFoto(MvFotoElement(m_folder.filePath(u"grund.jpg"_s)));
+    background.setVeil(0.35);
+    page.setBackground(background);
+    calendar.setPage(1, page);
+    MvCalendarPage simple = calendar.pages()[2];
+    MvFotoFrame frame;
+    frame.setFoto(foto);
+    frame.setShare(0.6);
+    simple.setFotoFrame(frame);
+    simple.addElement({{10, 20, 30, 40}, text});
+    calendar.setPage(2, simple);
+    for (const MvPageKind kind : {MvPageKind::Back, MvPageKind::Cover}) {
+        MvCalendarPage other;
+        other.setKind(kind);
+        other.setElements({{{0, 0, 500, 500}, year}});
+        calendar.insertPage(0, other);
+    }
+    calendar.duplicatePage(1);
+    MvFotoPool pool;
+    pool.add({u"/anderswo/Oma & Opa.jpg"_s, {4000, 3000}, QDateTime({2026, 4, 5}, {12, 30, 59, 120}), {0.25, 0.75}});
+    pool.add({m_folder.filePath(u"neu.heic"_s), {}, {}, {0.5, 0.5}});
+    calendar.setFotoPool(pool);
+    calendar.setRange({{2027, 1, 1}, {2027, 2, 28}}); // the third page is spare
+    return calendar;
 }
 
 void tst_MvProjectFile::roundTrip()
@@ -152,6 +224,20 @@ void tst_MvProjectFile::roundTripOfAppearances()
                  u"MvCalendariumColorSchema: no difference."_s);
     }
     QVERIFY(content.document == calendar);
+}
+
+/// What needs nothing new stays readable for older programs.
+void tst_MvProjectFile::versions()
+{
+    const QDir folder(m_folder.path());
+    MvCalendarDocument calendar = document(u"DAY_LIST"_s, 2);
+    setFoto(calendar, 0, MvFotoFrame(u"/anderswo/Foto.jpg"_s));
+    calendar.setRange({{2027, 2, 1}, {2027, 2, 28}});
+    QVERIFY(MvProjectFile::toBytes(calendar, folder).contains(" version=\"1\""));
+    MvCalendarPage page = calendar.pages()[0];
+    page.addElement({{0, 0, 10, 10}, MvTextElement(u"Hallo"_s)});
+    calendar.setPage(0, page);
+    QVERIFY(MvProjectFile::toBytes(calendar, folder).contains(" version=\"2\""));
 }
 
 void tst_MvProjectFile::writesNothingThatDoesNotOpenAgain()
@@ -262,7 +348,7 @@ void tst_MvProjectFile::refuses_data()
                              << u".mvcalendar:"_s;
     QTest::newRow("not XML") << QByteArray("Das ist ein Brief.\n") << u":1:"_s;
     QTest::newRow("another file") << QByteArray("<CalendarEvents/>") << u"„CalendarEvents“"_s;
-    QTest::newRow("a newer program") << QByteArray("\n\n<calendarproject version='2'/>") << u".mvcalendar:3:"_s;
+    QTest::newRow("a newer program") << QByteArray("\n\n<calendarproject version='3'/>") << u".mvcalendar:3:"_s;
     QTest::newRow("no pages") << QByteArray("<calendarproject version='1'/>") << u"keine Seiten"_s;
     QTest::newRow("ten thousand years")
         << QByteArray(

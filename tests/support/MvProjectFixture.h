@@ -39,6 +39,35 @@ inline void setFoto(MvCalendarDocument &document, int page, const MvFotoFrame &f
     document.setPage(page, changed);
 }
 
+/// Two columns of photos, a title above and a caption below them, a calendarium; as many photos as asked for.
+inline MvPageTemplate pageTemplate(const QString &id, int fotos, double border = 0.0)
+{
+    const auto divide = [fotos, border](const MvPageFormat &format) {
+        const QRectF field = format.fieldRect();
+        const double row = field.height() / 4.0;
+        MvFotoElement foto;
+        foto.setBorder({border, Qt::white});
+        MvTextElement title(QStringLiteral("{title}"));
+        title.setPoints(24.0);
+        QList<MvTemplateSlot> found = {
+            {{{field.left(), field.top(), field.width(), row}, title, QStringLiteral("title")}}};
+        for (int i = 0; i < fotos; ++i) {
+            const double width = field.width() / fotos;
+            found.append({{{field.left() + i * width, field.top() + row, width, row},
+                           foto,
+                           QStringLiteral("photo %1").arg(i + 1)}});
+        }
+        found.append({{{field.left(), field.top() + 2 * row, field.width(), 0.4 * row},
+                       MvTextElement(QStringLiteral("{caption}")),
+                       QStringLiteral("caption")}});
+        found.append({{{field.left(), field.top() + 2.5 * row, field.width(), 1.5 * row},
+                       MvCalendariumElement(),
+                       QStringLiteral("calendarium")}});
+        return found;
+    };
+    return {id, MvPageKind::Month, id, QString(), divide};
+}
+
 /// Writes a photo of four quarters: red, green above blue, yellow.
 inline bool writeFoto(const QString &path, const QSize &size)
 {

@@ -33,7 +33,7 @@ QList<MvPrintNote> MvPrintNote::ofPage(const MvCalendarDocument &document, int p
 {
     MvPageFindings found;
     if (page >= 0 && page < document.pages().size() && document.isValid())
-        document.pages().at(page).record(document.format(), document.range(), {},
+        document.pages().at(page).record(document.format(), document.context(), {},
                                          MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
     return ofPage(document, page, found);
 }

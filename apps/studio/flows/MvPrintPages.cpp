@@ -83,7 +83,7 @@ void MvPrintPages::recordPage(int number)
     MvRenderingSources sources;
     sources.fotos = &fotos;
     const MvPaintRecording recording = m_document.pages().at(number).record(
-        m_document.format(), m_document.range(), {}, MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit, sources);
+        m_document.format(), m_document.context(), {}, MvRenderingRule(MvRenderingRule::Print), pixelsPerUnit, sources);
     if (!fotos.isComplete())
         return; // again when they have arrived
     m_recordings[number] = m_recordings.size() > mostShapes ? asPixels(recording) : recording;

@@ -170,7 +170,7 @@ void MvPageItem::record()
     MvFotoPass fotos(*m_entryFotos);
     MvRenderingSources sources;
     sources.fotos = &fotos;
-    m_recording = m_shown.record(document.format(), document.range(), listen, screenRule(), m_pixelsPerUnit, sources);
+    m_recording = m_shown.record(document.format(), document.context(), listen, screenRule(), m_pixelsPerUnit, sources);
 }
 
 /// The manager keeps the cells of a month as long as its rectangle stays; another layout has other cells there.

@@ -114,6 +114,8 @@ public:
     /// changed of the look of an element, while its slot stays. Elements placed by hand stay. An invalid template makes
     /// the page simple, one that is not known here only leaves its id.
     void setTemplate(const MvPageTemplate &pageTemplate, const MvPageFormat &format);
+    /// Only says which template the elements came from: for pages that are read from a file.
+    void nameTemplate(const MvPageTemplate &pageTemplate) { m_template = pageTemplate; }
     /// Another paper: elements move as the template says, others with the page's proportions.
     void setFormat(const MvPageFormat &before, const MvPageFormat &after);
     /// What the template has no room for, in the order in which it left.

@@ -95,7 +95,8 @@ void MvFotoElement::setStraightening(double degrees)
 
 void MvFotoElement::setBorder(const Border &border)
 {
-    m_border = {clamped(border.width, 0.0, widestBorder, 0.0), border.color};
+    m_border.width = clamped(border.width, 0.0, widestBorder, 0.0);
+    m_border.color = border.color.isValid() ? QColor::fromRgba(border.color.rgba()) : Border().color;
 }
 
 MvFotoElement MvFotoElement::withPictureOf(const MvFotoElement &other) const

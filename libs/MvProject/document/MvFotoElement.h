@@ -68,7 +68,7 @@ public:
     void setStraightening(double degrees);
 
     const Border &border() const { return m_border; }
-    /// The width is clamped to 0 to 200.
+    /// The width is clamped to 0 to 200, the colour kept with 8 bits a channel; an invalid one becomes white.
     void setBorder(const Border &border);
 
     /// What texts of the page may print of it.

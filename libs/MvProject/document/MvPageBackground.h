@@ -12,13 +12,12 @@ class MVPROJECT_EXPORT MvPageBackground
 public:
     /// The ground of the colour schema.
     MvPageBackground() = default;
-    explicit MvPageBackground(const QColor &color)
-        : m_color(color)
-    {}
+    explicit MvPageBackground(const QColor &color) { setColor(color); }
 
-    /// Invalid for the ground of the colour schema. Of a photo it is the veil.
+    /// Invalid for the ground of the colour schema. Of a photo it is the veil. Kept with
+    /// 8 bits a channel, as files hold it.
     QColor color() const { return m_color; }
-    void setColor(const QColor &color) { m_color = color; }
+    void setColor(const QColor &color) { m_color = color.isValid() ? QColor::fromRgba(color.rgba()) : QColor(); }
     /// Fills the sheet with its bleed; empty for none.
     const MvFotoElement &foto() const { return m_foto; }
     void setFoto(const MvFotoElement &foto) { m_foto = foto; }

@@ -46,6 +46,14 @@ MvCalendariumElement merge(const MvCalendariumElement &present, const MvCalendar
     return merged;
 }
 
+/// "caption" of "caption 2".
+QString stem(const QString &slot)
+{
+    const auto end = std::find_if_not(slot.crbegin(), slot.crend(),
+                                      [](QChar c) { return c.isDigit() || c.isSpace() || c == u'-' || c == u'_'; });
+    return slot.left(slot.crend() - end);
+}
+
 /// Elements that are looking for a slot.
 class Seekers
 {
@@ -134,7 +142,9 @@ QList<MvPageElement> MvTemplateFilling::fill(const QList<MvTemplateSlot> &after,
     seek([this](const MvPageElement &element, const MvPageElement &slot) {
         return element.slot() == slot.slot() && isOwn(element);
     });
-    seek([this](const MvPageElement &element, const MvPageElement &) { return element.foto() && isOwn(element); });
+    seek([this](const MvPageElement &element, const MvPageElement &slot) { // words keep their part on the page
+        return isOwn(element) && (element.foto() || stem(element.slot()) == stem(slot.slot()));
+    });
     seek([](const MvPageElement &element, const MvPageElement &slot) { return element.slot() == slot.slot(); });
 
     QList<MvPageElement> filled;

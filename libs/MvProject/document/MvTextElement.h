@@ -48,9 +48,9 @@ public:
     double letterSpacing() const { return m_letterSpacing; }
     void setLetterSpacing(double percent);
 
-    /// Invalid for the page's text colour, or for its accent.
+    /// Invalid for the page's text colour, or for its accent. Kept with 8 bits a channel, as files hold it.
     QColor color() const { return m_color; }
-    void setColor(const QColor &color) { m_color = color; }
+    void setColor(const QColor &color) { m_color = color.isValid() ? QColor::fromRgba(color.rgba()) : QColor(); }
     /// Without a colour of its own the text has that of Sundays.
     bool isAccent() const { return m_isAccent; }
     void setAccent(bool accent) { m_isAccent = accent; }

@@ -10,11 +10,29 @@
 
 #include <QDir>
 #include <QDomDocument>
+#include <QSet>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace MvProjectVocabulary;
+
+namespace {
+
+/// The months among the pages by their dates; what stands between them keeps its place.
+void putInOrder(QList<MvCalendarPage> &pages, QList<MvCalendarPage> &months)
+{
+    std::stable_sort(months.begin(), months.end(), [](const MvCalendarPage &a, const MvCalendarPage &b) {
+        return a.contentConfig().date() < b.contentConfig().date();
+    });
+    auto next = months.cbegin();
+    for (MvCalendarPage &page : pages) {
+        if (page.kind() == MvPageKind::Month)
+            page = *next++;
+    }
+}
+
+} // namespace
 
 MvProjectFile::Content MvProjectReader::read()
 {
@@ -24,6 +42,7 @@ MvProjectFile::Content MvProjectReader::read()
         m_content.error = error.describe(m_file) + advice();
     else
         readRoot(dom.documentElement());
+    m_content.notes = m_notes.all();
     return m_content;
 }
 
@@ -31,7 +50,7 @@ void MvProjectReader::readRoot(const QDomElement &root)
 {
     if (root.tagName() != MvProjectVocabulary::root)
         return fail(root, tr("Das ist kein Kalenderprojekt; die Datei beginnt mit „%1“.").arg(root.tagName()));
-    if (MvXMLParser::intAttribute(root, versionKey, version) > version) {
+    if (MvXMLParser::intAttribute(root, versionKey, firstVersion) > version) {
         return fail(root, tr("Das Projekt stammt aus einer neueren Fassung des Programms. Bitte das Programm "
                              "aktualisieren."));
     }
@@ -40,7 +59,9 @@ void MvProjectReader::readRoot(const QDomElement &root)
     MvCalendarDocument &document = m_content.document;
     document.setTitle(MvXMLParser::textAttribute(root, titleKey));
     document.setAuthor(MvXMLParser::textAttribute(root, authorKey));
+    document.setThemeId(MvXMLParser::textAttribute(root, themeKey));
     document.setFormat(readPaper(root));
+    document.setFotoPool(elementReader().readPool(root.firstChildElement(pool)));
     readPages(root);
 }
 
@@ -49,32 +70,38 @@ void MvProjectReader::readPages(const QDomElement &root)
     MvCalendarDocument &document = m_content.document;
     const MvDateRange range = readRange(root);
     QList<MvCalendarPage> pages;
-    QList<QDate> months;
+    QList<MvCalendarPage> monthPages;
+    QSet<QDate> months;
     for (QDomElement element = root.firstChildElement(page); m_content.isOk() && !element.isNull();
          element = element.nextSiblingElement(page)) {
         const MvCalendarPage read = readPage(element);
         const QDate month = read.contentConfig().date();
-        if (month.isValid() && months.contains(month))
-            note(element,
-                 tr("Den Monat %1 gibt es zweimal; die zweite Seite bleibt weg.").arg(month.toString(monthFormat)));
-        else if (month.isValid() && range.isValid() && !range.contains(month))
-            note(element, tr("Der Monat %1 liegt außerhalb des Kalenders; die Seite bleibt weg.")
-                              .arg(month.toString(monthFormat)));
-        else if (month.isValid())
+        const bool isMonth = read.kind() == MvPageKind::Month;
+        if (isMonth && months.contains(month)) {
+            m_notes.add(
+                element,
+                tr("Den Monat %1 gibt es zweimal; die zweite Seite bleibt weg.").arg(month.toString(monthFormat)));
+        } else if (isMonth && month.isValid() && range.isValid() && !range.contains(month)) {
+            m_notes.add(element, tr("Der Monat %1 liegt außerhalb des Kalenders; die Seite bleibt weg.")
+                                     .arg(month.toString(monthFormat)));
+        } else if (month.isValid()) {
             pages.append(read);
-        months.append(month);
+            if (isMonth)
+                monthPages.append(read);
+        }
+        if (isMonth && month.isValid())
+            months.insert(month);
     }
     if (!m_content.isOk())
         return;
-    if (pages.isEmpty())
+    if (pages.isEmpty() || (monthPages.isEmpty() && !range.isValid()))
         return fail(root, tr("Das Projekt enthält keine Seiten."));
-    std::sort(pages.begin(), pages.end(), [](const MvCalendarPage &a, const MvCalendarPage &b) {
-        return a.contentConfig().date() < b.contentConfig().date();
-    });
-    const QDate first = pages.constFirst().contentConfig().date();
-    if (MvDateRange(first, pages.constLast().contentConfig().date()).monthCount() > mostMonths)
+    putInOrder(pages, monthPages);
+    const QDate first = monthPages.isEmpty() ? range.start() : monthPages.constFirst().contentConfig().date();
+    const QDate last = monthPages.isEmpty() ? range.end() : monthPages.constLast().contentConfig().date();
+    if (MvDateRange(first, last).monthCount() > mostMonths)
         return fail(root, tr("Der Kalender reicht über mehr als %1 Monate.").arg(mostMonths));
-    document.setSpareFotos(readSpareFotos(root));
+    document.setSparePages(readSparePages(root));
     document.setPages(range, pages);
 }
 
@@ -85,10 +112,15 @@ MvPageFormat MvProjectReader::readPaper(const QDomElement &root)
         {MvXMLParser::doubleAttribute(element, widthKey), MvXMLParser::doubleAttribute(element, heightKey)});
     if (!format.isValid()) {
         format = m_content.document.format();
-        note(element.isNull() ? root : element, tr("Die Papiergröße fehlt oder geht nicht; es wird A4 quer."));
+        m_notes.add(element.isNull() ? root : element, tr("Die Papiergröße fehlt oder geht nicht; es wird A4 quer."));
     }
     format.setBleed(MvXMLParser::doubleAttribute(element, bleedKey));
-    noteChanged(element, bleedKey, format.bleed());
+    m_notes.addIfChanged(element, bleedKey, format.bleed());
+    format.setBinding(MvPageFormat::bindingFromName(MvXMLParser::textAttribute(element, bindingKey)));
+    format.setBindingZone(MvXMLParser::doubleAttribute(element, bindingZoneKey, format.bindingZone()));
+    m_notes.addIfChanged(element, bindingZoneKey, format.bindingZone());
+    format.setSafeMargin(MvXMLParser::doubleAttribute(element, safeMarginKey, format.safeMargin()));
+    m_notes.addIfChanged(element, safeMarginKey, format.safeMargin());
     return format;
 }
 
@@ -103,7 +135,7 @@ MvDateRange MvProjectReader::readRange(const QDomElement &root)
     if (range.monthCount() > mostMonths)
         fail(element, tr("Der Kalender reicht über mehr als %1 Monate.").arg(mostMonths));
     else if (!range.isValid())
-        note(element, tr("Der Zeitraum ist nicht lesbar; es gilt der der Seiten."));
+        m_notes.add(element, tr("Der Zeitraum ist nicht lesbar; es gilt der der Seiten."));
     return range;
 }
 
@@ -112,10 +144,27 @@ MvCalendarPage MvProjectReader::readPage(const QDomElement &element)
     MvCalendarPage page;
     readContent(element, page);
     readAppearance(element.firstChildElement(calendarium), page);
-    const QDomElement fotoElement = element.firstChildElement(foto);
-    if (!fotoElement.isNull())
-        page.setFotoFrame(readFoto(fotoElement));
+    page.setKind(MvPageKind(m_notes.addIfUnknown(element, kindKey, pageKinds)));
+    readArrangement(element, page);
     return page;
+}
+
+void MvProjectReader::readArrangement(const QDomElement &element, MvCalendarPage &page)
+{
+    MvProjectElementReader reader = elementReader();
+    const QList<MvPageElement> elements = reader.readElements(element, MvProjectVocabulary::element);
+    if (MvXMLParser::textAttribute(element, arrangementKey) == freeArrangement)
+        page.setElements(elements);
+    else
+        for (const MvPageElement &added : elements)
+            page.addElement(added);
+    page.setSpareElements(reader.readElements(element, spareElement));
+    if (const QString id = MvXMLParser::textAttribute(element, templateKey); !id.isEmpty())
+        page.nameTemplate(MvPageTemplate::unknown(id));
+    if (const QDomElement child = element.firstChildElement(foto); !child.isNull())
+        page.setFotoFrame(readFrame(child));
+    if (const QDomElement child = element.firstChildElement(background); !child.isNull())
+        page.setBackground(reader.readBackground(child));
 }
 
 void MvProjectReader::readAppearance(const QDomElement &element, MvCalendarPage &page)
@@ -125,24 +174,26 @@ void MvProjectReader::readAppearance(const QDomElement &element, MvCalendarPage 
     if (!appearance.layoutSchema().isValid()) {
         unknownLayout.read(element);
         appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().defaultSchema());
-        note(element, tr("Das Layout „%1“ gibt es hier nicht; bis es wieder da ist, steht „%2“ an seiner Stelle.")
-                          .arg(unknownLayout.toString(), appearance.layoutSchema().name()));
+        m_notes.add(element,
+                    tr("Das Layout „%1“ gibt es hier nicht; bis es wieder da ist, steht „%2“ an seiner Stelle.")
+                        .arg(unknownLayout.toString(), appearance.layoutSchema().name()));
     }
     MvCalendariumColorSchemaID unknownColors;
     if (!appearance.colorSchema().isValid()) {
         unknownColors.read(element);
         appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().defaultSchema());
-        note(element, tr("Das Farbschema „%1“ gibt es hier nicht; bis es wieder da ist, tritt ein anderes an seine "
-                         "Stelle.")
-                          .arg(unknownColors.toString()));
+        m_notes.add(element,
+                    tr("Das Farbschema „%1“ gibt es hier nicht; bis es wieder da ist, tritt ein anderes an seine "
+                       "Stelle.")
+                        .arg(unknownColors.toString()));
     }
     MvBorderConfig grid = appearance.gridConfig();
     grid.setIsEnabled(MvXMLParser::boolAttribute(element, gridKey, grid.isEnabled()));
     appearance.setGridConfig(grid);
-    noteChanged(element, offsetMonthKey, appearance.offsetMonth());
-    noteChanged(element, fontSizeKey, appearance.fontSettings().fontSizePercentage());
-    noteChanged(element, holidayFontSizeKey, appearance.fontSettings().fontSizePercentageHolidays());
-    noteChanged(element, letterSpacingKey, appearance.fontSettings().letterSpacing());
+    m_notes.addIfChanged(element, offsetMonthKey, appearance.offsetMonth());
+    m_notes.addIfChanged(element, fontSizeKey, appearance.fontSettings().fontSizePercentage());
+    m_notes.addIfChanged(element, holidayFontSizeKey, appearance.fontSettings().fontSizePercentageHolidays());
+    m_notes.addIfChanged(element, letterSpacingKey, appearance.fontSettings().letterSpacing());
     appearance.setOverrideShowCalendarWeek(MvXMLParser::boolAttribute(element, weeksKey));
     if (element.hasAttribute(renderingKey))
         appearance.setRenderingInformation(MvCalendarRenderingInformation(element.attribute(renderingKey)));
@@ -161,7 +212,7 @@ void MvProjectReader::readContent(const QDomElement &element, MvCalendarPage &pa
     if (language.isValid())
         holidays.setLanguage(language);
     else
-        note(child.isNull() ? element : child, tr("Die Sprache fehlt oder ist unbekannt; es wird Deutsch."));
+        m_notes.add(child.isNull() ? element : child, tr("Die Sprache fehlt oder ist unbekannt; es wird Deutsch."));
     holidays.setProvince(MvXMLParser::textAttribute(child, regionKey));
     holidays.setFeatures(MvCalendariumFeatures(MvXMLParser::textAttribute(child, featuresKey)));
     config.setHolidayConfig(holidays);
@@ -170,35 +221,41 @@ void MvProjectReader::readContent(const QDomElement &element, MvCalendarPage &pa
     page.setContentConfig(config);
 }
 
-MvFotoFrame MvProjectReader::readFoto(const QDomElement &element)
+MvFotoFrame MvProjectReader::readFrame(const QDomElement &element)
 {
     MvFotoFrame frame;
-    const QString path = MvXMLParser::textAttribute(element, pathKey);
-    if (!path.isEmpty())
-        frame.setPath(m_file.absoluteDir().absoluteFilePath(path));
+    frame.setFoto(elementReader().readFoto(element));
     const qsizetype placement = placements.indexOf(MvXMLParser::textAttribute(element, placementKey));
     if (placement >= 0)
         frame.setPlacement(MvFotoFrame::Placement(placement));
     else
-        note(element, tr("Wo das Foto steht, ist nicht lesbar; es kommt nach oben."));
+        m_notes.add(element, tr("Wo das Foto steht, ist nicht lesbar; es kommt nach oben."));
     frame.setShare(MvXMLParser::doubleAttribute(element, shareKey, MvFotoFrame::defaultShare));
-    noteChanged(element, shareKey, frame.share());
-    frame.setFocus(
-        {MvXMLParser::doubleAttribute(element, focusXKey, 0.5), MvXMLParser::doubleAttribute(element, focusYKey, 0.5)});
+    m_notes.addIfChanged(element, shareKey, frame.share());
     return frame;
 }
 
-QMap<QDate, MvFotoFrame> MvProjectReader::readSpareFotos(const QDomElement &root)
+QMap<QDate, MvCalendarPage> MvProjectReader::readSparePages(const QDomElement &root)
 {
-    QMap<QDate, MvFotoFrame> fotos;
-    for (QDomElement element = root.firstChildElement(spareFoto); !element.isNull();
-         element = element.nextSiblingElement(spareFoto)) {
+    QMap<QDate, MvCalendarPage> pages;
+    for (QDomElement element = root.firstChildElement(); !element.isNull(); element = element.nextSiblingElement()) {
+        if (element.tagName() != spareFoto && element.tagName() != sparePage)
+            continue;
         const QDate month = this->month(element, monthKey);
-        const MvFotoFrame frame = readFoto(element);
-        if (month.isValid() && frame.isValid())
-            fotos.insert(month, frame);
+        MvCalendarPage page;
+        if (element.tagName() == spareFoto)
+            page.setFotoFrame(readFrame(element));
+        else
+            readArrangement(element, page);
+        if (month.isValid() && page.hasOwnContent(m_content.document.format()))
+            pages.insert(month, page);
     }
-    return fotos;
+    return pages;
+}
+
+MvProjectElementReader MvProjectReader::elementReader()
+{
+    return {m_file.absoluteDir(), m_content.document.format(), m_notes};
 }
 
 QDate MvProjectReader::month(const QDomElement &element, const QString &name)
@@ -206,37 +263,14 @@ QDate MvProjectReader::month(const QDomElement &element, const QString &name)
     const QString text = MvXMLParser::textAttribute(element, name);
     const QDate month = QDate::fromString(text, monthFormat);
     if (!month.isValid())
-        note(element, tr("„%1“ ist kein Monat wie 2027-01.").arg(text));
+        m_notes.add(element, tr("„%1“ ist kein Monat wie 2027-01.").arg(text));
     return month;
-}
-
-void MvProjectReader::noteChanged(const QDomElement &place, const QString &attribute, double taken)
-{
-    const QString text = MvXMLParser::textAttribute(place, attribute);
-    bool isNumber = false;
-    const double written = text.trimmed().toDouble(&isNumber);
-    if (!text.isEmpty() && !(isNumber && written == taken))
-        note(place, tr("%1 „%2“ geht nicht; es gilt %3.").arg(attribute, text).arg(taken));
 }
 
 void MvProjectReader::fail(const QDomElement &place, const QString &message)
 {
     if (m_content.isOk())
-        m_content.error = placed(place, message) + advice();
-}
-
-void MvProjectReader::note(const QDomElement &place, const QString &message)
-{
-    m_content.notes.append(placed(place, message));
-}
-
-QString MvProjectReader::placed(const QDomElement &place, const QString &message) const
-{
-    MvXMLLoader::Error error;
-    error.message = message;
-    error.line = place.lineNumber();
-    error.column = place.columnNumber();
-    return error.describe(m_file);
+        m_content.error = m_notes.placed(place, message) + advice();
 }
 
 QString MvProjectReader::advice() const

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvProject/MvProjectElementReader.h"
 #include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectNotes.h"
 
 #include <QCoreApplication>
 #include <QDomElement>
@@ -16,6 +18,7 @@ class MvProjectReader
 public:
     explicit MvProjectReader(const QFileInfo &file)
         : m_file(file)
+        , m_notes(file)
     {}
 
     MvProjectFile::Content read();
@@ -26,20 +29,20 @@ private:
     MvPageFormat readPaper(const QDomElement &root);
     MvDateRange readRange(const QDomElement &root);
     MvCalendarPage readPage(const QDomElement &element);
+    /// Template, photo and elements of a page or a spare one.
+    void readArrangement(const QDomElement &element, MvCalendarPage &page);
     void readAppearance(const QDomElement &element, MvCalendarPage &page);
     void readContent(const QDomElement &element, MvCalendarPage &page);
-    MvFotoFrame readFoto(const QDomElement &element);
-    QMap<QDate, MvFotoFrame> readSpareFotos(const QDomElement &root);
+    MvFotoFrame readFrame(const QDomElement &element);
+    QMap<QDate, MvCalendarPage> readSparePages(const QDomElement &root);
+    MvProjectElementReader elementReader();
     QDate month(const QDomElement &element, const QString &name);
 
     void fail(const QDomElement &place, const QString &message);
-    void note(const QDomElement &place, const QString &message);
-    /// Tells of an attribute that holds another number than was taken.
-    void noteChanged(const QDomElement &place, const QString &attribute, double taken);
-    QString placed(const QDomElement &place, const QString &message) const;
     /// What to do when the file cannot be used.
     QString advice() const;
 
     QFileInfo m_file;
+    MvProjectNotes m_notes;
     MvProjectFile::Content m_content;
 };

@@ -65,26 +65,25 @@ void writeInOrder(QXmlStreamWriter &writer, const QDomElement &element)
 } // namespace
 
 QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QString &originalPath,
-                                  const QByteArray &originalStamp) const
+                                  const QByteArray &originalStamp)
 {
     QDomDocument dom;
     QDomElement rootElement = MvXMLBuilder::buildRootElement(dom, root);
-    MvXMLBuilder::addAttribute(rootElement, versionKey, version);
     addIfAny(rootElement, titleKey, document.title());
     addIfAny(rootElement, authorKey, document.author());
+    m_elements.addIfNew(rootElement, themeKey, document.themeId(), {});
     addIfAny(rootElement, originalKey, originalPath);
     addIfAny(rootElement, originalStampKey, QString::fromLatin1(originalStamp));
     writePaper(rootElement, document.format());
     QDomElement rangeElement = MvXMLBuilder::buildDomElement(rootElement, range);
     MvXMLBuilder::addAttribute(rangeElement, firstKey, monthText(document.range().start()));
     MvXMLBuilder::addAttribute(rangeElement, lastKey, monthText(document.range().end()));
+    writePool(rootElement, document.fotoPool());
     for (const MvCalendarPage &page : document.pages())
         writePage(rootElement, page);
-    for (const auto &[month, foto] : document.spareFotos().asKeyValueRange()) {
-        QDomElement element = MvXMLBuilder::buildDomElement(rootElement, spareFoto);
-        MvXMLBuilder::addAttribute(element, monthKey, monthText(month));
-        writeFoto(element, foto);
-    }
+    for (const auto &[month, page] : document.sparePages().asKeyValueRange())
+        writeSparePage(rootElement, month, page);
+    MvXMLBuilder::addAttribute(rootElement, versionKey, m_elements.needsSecondVersion() ? version : firstVersion);
 
     QByteArray bytes;
     QXmlStreamWriter writer(&bytes);
@@ -96,29 +95,89 @@ QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QStr
     return bytes;
 }
 
-void MvProjectWriter::writePaper(QDomElement &root, const MvPageFormat &format) const
+void MvProjectWriter::writePaper(QDomElement &root, const MvPageFormat &format)
 {
     QDomElement element = MvXMLBuilder::buildDomElement(root, paper);
     MvXMLBuilder::addAttribute(element, widthKey, format.trimSize().width());
     MvXMLBuilder::addAttribute(element, heightKey, format.trimSize().height());
     MvXMLBuilder::addAttribute(element, bleedKey, format.bleed());
+    m_elements.addIfNew(element, bindingKey, MvPageFormat::bindingName(format.binding()),
+                        MvPageFormat::bindingName(MvPageFormat::Binding::None));
+    m_elements.addIfNew(element, bindingZoneKey, format.bindingZone(), MvPageFormat::defaultBindingZone);
+    m_elements.addIfNew(element, safeMarginKey, format.safeMargin(), MvPageFormat::defaultSafeMargin);
 }
 
-void MvProjectWriter::writePage(QDomElement &root, const MvCalendarPage &page) const
+void MvProjectWriter::writePage(QDomElement &root, const MvCalendarPage &page)
 {
     QDomElement element = MvXMLBuilder::buildDomElement(root, MvProjectVocabulary::page);
     MvXMLBuilder::addAttribute(element, monthKey, monthText(page.contentConfig().date()));
+    m_elements.addIfNew(element, kindKey, pageKinds.value(int(page.kind())), pageKinds.constFirst());
     QDomElement calendariumElement = MvXMLBuilder::buildDomElement(element, calendarium);
     writeCalendarium(calendariumElement, page);
     QDomElement contentElement = MvXMLBuilder::buildDomElement(element, content);
     writeContent(contentElement, page.contentConfig());
-    if (page.fotoFrame().isValid()) {
-        QDomElement fotoElement = MvXMLBuilder::buildDomElement(element, foto);
-        writeFoto(fotoElement, page.fotoFrame());
+    writeArrangement(element, page);
+}
+
+/// One with nothing but the photo of a simple page is what the first version knows.
+void MvProjectWriter::writeSparePage(QDomElement &root, const QDate &month, const MvCalendarPage &page)
+{
+    MvCalendarPage simple;
+    simple.setFotoFrame(page.fotoFrame());
+    if (page == simple) {
+        QDomElement element = MvXMLBuilder::buildDomElement(root, spareFoto);
+        MvXMLBuilder::addAttribute(element, monthKey, monthText(month));
+        writeFrame(element, page.fotoFrame());
+        return;
+    }
+    QDomElement element = m_elements.addNewElement(root, sparePage);
+    MvXMLBuilder::addAttribute(element, monthKey, monthText(month));
+    writeArrangement(element, page);
+}
+
+void MvProjectWriter::writePool(QDomElement &root, const MvFotoPool &pool)
+{
+    if (pool.isEmpty())
+        return;
+    QDomElement poolElement = m_elements.addNewElement(root, MvProjectVocabulary::pool);
+    for (const MvFotoPoolItem &item : pool.items()) {
+        QDomElement element = MvXMLBuilder::buildDomElement(poolElement, foto);
+        MvXMLBuilder::addAttribute(element, pathKey, m_elements.pathText(item.path));
+        if (!item.size.isEmpty()) {
+            MvXMLBuilder::addAttribute(element, widthKey, item.size.width());
+            MvXMLBuilder::addAttribute(element, heightKey, item.size.height());
+        }
+        addIfAny(element, capturedKey, item.captured.toString(Qt::ISODateWithMs));
+        MvXMLBuilder::addAttribute(element, focusXKey, item.focus.x());
+        MvXMLBuilder::addAttribute(element, focusYKey, item.focus.y());
     }
 }
 
-void MvProjectWriter::writeCalendarium(QDomElement &element, const MvCalendarPage &page) const
+void MvProjectWriter::writeArrangement(QDomElement &element, const MvCalendarPage &page)
+{
+    m_elements.addIfNew(element, templateKey, page.templateId(), {});
+    if (!page.isSimple())
+        m_elements.addIfNew(element, arrangementKey, freeArrangement, {});
+    else if (!(page.fotoFrame() == MvFotoFrame())) {
+        QDomElement fotoElement = MvXMLBuilder::buildDomElement(element, foto);
+        writeFrame(fotoElement, page.fotoFrame());
+    }
+    if (!(page.background() == MvPageBackground()))
+        m_elements.writeBackground(element, page.background());
+    for (const MvPageElement &child : page.elements())
+        m_elements.writeElement(element, MvProjectVocabulary::element, child);
+    for (const MvPageElement &child : page.spareElements())
+        m_elements.writeElement(element, spareElement, child);
+}
+
+void MvProjectWriter::writeFrame(QDomElement &element, const MvFotoFrame &foto)
+{
+    MvXMLBuilder::addAttribute(element, placementKey, placements.value(int(foto.placement())));
+    MvXMLBuilder::addAttribute(element, shareKey, foto.share());
+    m_elements.writeFoto(element, foto.foto());
+}
+
+void MvProjectWriter::writeCalendarium(QDomElement &element, const MvCalendarPage &page)
 {
     const MvCalendariumAppearance &appearance = page.appearance();
     const MvCalendariumColorSchema colors = writable(appearance.colorSchema());
@@ -141,7 +200,7 @@ void MvProjectWriter::writeCalendarium(QDomElement &element, const MvCalendarPag
         MvXMLBuilder::addAttribute(element, renderingKey, appearance.renderingInformation().encodeCSV());
 }
 
-void MvProjectWriter::writeContent(QDomElement &element, const MvCalendariumContentConfig &content) const
+void MvProjectWriter::writeContent(QDomElement &element, const MvCalendariumContentConfig &content)
 {
     const MvCalendariumHolidayConfig config = content.holidayConfig();
     MvXMLBuilder::addAttribute(element, languageKey, config.language().name());
@@ -149,15 +208,4 @@ void MvProjectWriter::writeContent(QDomElement &element, const MvCalendariumCont
     MvXMLBuilder::addAttribute(element, featuresKey, config.features().encodeCSV());
     addIfAny(element, weekHeadKey, content.calendarWeekHeadlineOption().pattern());
     addIfAny(element, weekTextKey, content.calendarWeekTextOption().pattern());
-}
-
-void MvProjectWriter::writeFoto(QDomElement &element, const MvFotoFrame &foto) const
-{
-    const QString relative = m_folder.relativeFilePath(foto.path());
-    const bool isBelow = QDir::isRelativePath(relative) && !relative.startsWith(QStringLiteral("../"));
-    MvXMLBuilder::addAttribute(element, pathKey, isBelow ? relative : foto.path());
-    MvXMLBuilder::addAttribute(element, placementKey, placements.value(int(foto.placement())));
-    MvXMLBuilder::addAttribute(element, shareKey, foto.share());
-    MvXMLBuilder::addAttribute(element, focusXKey, foto.focus().x());
-    MvXMLBuilder::addAttribute(element, focusYKey, foto.focus().y());
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvProjectElementWriter.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -14,18 +15,21 @@ class MvProjectWriter
 public:
     /// Photos below the folder are written relative to it.
     explicit MvProjectWriter(const QDir &folder)
-        : m_folder(folder)
+        : m_elements(folder)
     {}
 
-    QByteArray write(const MvCalendarDocument &document, const QString &originalPath,
-                     const QByteArray &originalStamp) const;
+    QByteArray write(const MvCalendarDocument &document, const QString &originalPath, const QByteArray &originalStamp);
 
 private:
-    void writePaper(QDomElement &root, const MvPageFormat &format) const;
-    void writePage(QDomElement &root, const MvCalendarPage &page) const;
-    void writeCalendarium(QDomElement &element, const MvCalendarPage &page) const;
-    void writeContent(QDomElement &element, const MvCalendariumContentConfig &content) const;
-    void writeFoto(QDomElement &element, const MvFotoFrame &foto) const;
+    void writePaper(QDomElement &root, const MvPageFormat &format);
+    void writePage(QDomElement &root, const MvCalendarPage &page);
+    void writeSparePage(QDomElement &root, const QDate &month, const MvCalendarPage &page);
+    void writePool(QDomElement &root, const MvFotoPool &pool);
+    /// Template, photo and elements.
+    void writeArrangement(QDomElement &element, const MvCalendarPage &page);
+    void writeFrame(QDomElement &parent, const MvFotoFrame &foto);
+    static void writeCalendarium(QDomElement &element, const MvCalendarPage &page);
+    static void writeContent(QDomElement &element, const MvCalendariumContentConfig &content);
 
-    QDir m_folder;
+    MvProjectElementWriter m_elements;
 };
