@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QImage>
 
 #include <cstdio>
@@ -49,7 +48,7 @@ const QList<Picture> &pictures()
 
 int main(int argc, char **argv)
 {
-    const QGuiApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const QDir folder(arguments.value(1));
     if (arguments.size() < 2 || !folder.mkpath(u"."_s)) {
