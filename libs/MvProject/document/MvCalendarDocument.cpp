@@ -446,7 +446,11 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
 {
     MvPageSource source;
     source.format = m_format;
-    source.pages = isValid() ? pageDates() : QList<QDate>();
+    if (isValid()) {
+        source.pages = pageDates();
+        std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.kinds),
+                       [](const MvCalendarPage &page) { return page.kind(); });
+    }
     source.paint = [document = *this, sources, found](QPainter &painter, int page) {
         const MvPageFindings findings = document.paint(painter, page, sources);
         if (found)
@@ -462,6 +466,6 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
 bool MvCalendarDocument::operator==(const MvCalendarDocument &other) const
 {
     return m_range == other.m_range && m_format == other.m_format && m_title == other.m_title &&
-           m_author == other.m_author && m_themeId == other.m_themeId && m_pages == other.m_pages &&
+           m_author == other.m_author && m_entriesFile == other.m_entriesFile && m_themeId == other.m_themeId && m_pages == other.m_pages &&
            m_sparePages == other.m_sparePages && m_fotoPool == other.m_fotoPool && look() == other.look();
 }

@@ -70,6 +70,11 @@ public:
     QString author() const { return m_author; }
     void setAuthor(const QString &author) { m_author = author; }
 
+    /// The list of entries that belongs to the calendar and is printed wherever its pages show entries; empty for
+    /// the user's own ones.
+    QString entriesFile() const { return m_entriesFile; }
+    void setEntriesFile(const QString &path) { m_entriesFile = path; }
+
     /// The id of the theme that the pages were last made with; empty for none.
     QString themeId() const { return m_themeId; }
     void setThemeId(const QString &id) { m_themeId = id; }
@@ -170,6 +175,7 @@ private:
     MvPageFormat m_format;
     QString m_title;
     QString m_author;
+    QString m_entriesFile;
     QString m_themeId;
     MvFotoPool m_fotoPool;
     QList<MvCalendarPage> m_pages;

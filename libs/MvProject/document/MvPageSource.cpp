@@ -11,6 +11,7 @@ MvPageSource MvPageSource::part(const QList<int> &places) const
     MvPageSource some = *this;
     some.pages.clear();
     some.numbers.clear();
+    some.kinds.clear();
     QList<int> taken;
     for (const int place : places) {
         if (place < 0 || place >= pages.size())
@@ -18,6 +19,7 @@ MvPageSource MvPageSource::part(const QList<int> &places) const
         taken.append(place);
         some.pages.append(pages[place]);
         some.numbers.append(number(place));
+        some.kinds.append(kind(place));
     }
     if (paint)
         some.paint = [paint = paint, taken](QPainter &painter, int page) { paint(painter, taken[page]); };

@@ -3,6 +3,7 @@
 
 #include "MvCore/MvOutcome.h"
 #include "MvProject/MvPageFormat.h"
+#include "MvProject/MvPageKind.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QDate>
@@ -22,6 +23,8 @@ public:
     QList<QDate> pages;
     /// The pages' numbers in their document, counted from 0, for file names; empty when they are all of it.
     QList<int> numbers;
+    /// What each page is for, for file names; empty when all are months.
+    QList<MvPageKind> kinds;
     /// Paints the page with the number, counted from 0, in tenths of a millimetre with the origin at the top left
     /// corner of the trimmed page.
     std::function<void(QPainter &painter, int page)> paint;
@@ -35,6 +38,8 @@ public:
     MvPageSource part(const QList<int> &places) const;
     /// A page's number in its document, counted from 0.
     int number(int place) const { return numbers.value(place, place); }
+
+    MvPageKind kind(int place) const { return kinds.value(place, MvPageKind::Month); }
 
     /// Whether there is something to export, on a paper with a size.
     MvOutcome check() const;

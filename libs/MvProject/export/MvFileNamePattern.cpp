@@ -10,12 +10,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+QString monthText(const QDate &month, MvPageKind kind)
+{
+    const QString number = u"%1"_s.arg(month.month(), 2, 10, QChar(u'0'));
+    switch (kind) {
+    case MvPageKind::Cover:
+        return u"cover"_s;
+    case MvPageKind::Back:
+        return u"back"_s;
+    case MvPageKind::Free:
+        return number + u"-free"_s;
+    case MvPageKind::Month:
+        break;
+    }
+    return number;
+}
+
 /// The placeholder's text; a null string for an unknown one.
-QString replacement(QChar letter, const QDate &month, int page)
+QString replacement(QChar letter, const QDate &month, int page, MvPageKind kind)
 {
     switch (letter.unicode()) {
     case u'm':
-        return u"%1"_s.arg(month.month(), 2, 10, QChar(u'0'));
+        return monthText(month, kind);
     case u'y':
         return u"%1"_s.arg(month.year(), 4, 10, QChar(u'0'));
     case u'n':
@@ -29,13 +45,13 @@ QString replacement(QChar letter, const QDate &month, int page)
 
 } // namespace
 
-QString MvFileNamePattern::path(const QDate &month, int page) const
+QString MvFileNamePattern::path(const QDate &month, int page, MvPageKind kind) const
 {
     const qsizetype nameStart = m_path.lastIndexOf(u'/') + 1;
     QString result = m_path.left(nameStart);
     for (qsizetype i = nameStart; i < m_path.size(); ++i) {
         const bool isPlaceholder = m_path[i] == u'%' && i + 1 < m_path.size();
-        const QString text = isPlaceholder ? replacement(m_path[i + 1], month, page) : QString();
+        const QString text = isPlaceholder ? replacement(m_path[i + 1], month, page, kind) : QString();
         result += text.isNull() ? QString(m_path[i]) : text;
         i += text.isNull() ? 0 : 1;
     }
@@ -56,7 +72,7 @@ MvFileNamePattern::Paths MvFileNamePattern::paths(const MvPageSource &pages) con
     }
 
     for (int place = 0; place < pages.pages.size(); ++place)
-        result.paths.append(path(pages.pages[place], pages.number(place)));
+        result.paths.append(path(pages.pages[place], pages.number(place), pages.kind(place)));
     if (QSet<QString>(result.paths.cbegin(), result.paths.cend()).size() != result.paths.size()) {
         result.error = tr("%1: bei %2 Seiten braucht der Dateiname einen Platzhalter, der sie unterscheidet: %n "
                           "(Seite), %m (Monat) oder %y-%m")

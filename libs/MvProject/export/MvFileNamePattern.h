@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCore/MvOutcome.h"
+#include "MvProject/MvPageKind.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QCoreApplication>
@@ -14,7 +15,8 @@ class MvPageSource;
 /// A file name for each of several pages: "seite-%m.png".
 ///
 /// Placeholders: %m the month (01 to 12), %y the year, %n the page's number (two digits or more, from 01), %% a
-/// percent sign. They are replaced in the file's name only, never in that of its folder.
+/// percent sign. They are replaced in the file's name only, never in that of its folder. For pages that are no month's,
+/// %m is "cover", "back", or the month and "free" ("05-free").
 class MVPROJECT_EXPORT MvFileNamePattern
 {
     Q_DECLARE_TR_FUNCTIONS(MvFileNamePattern)
@@ -25,7 +27,7 @@ public:
     {}
 
     /// The name of one page's file, counted from 0. An unknown placeholder stays as it stands.
-    QString path(const QDate &month, int page) const;
+    QString path(const QDate &month, int page, MvPageKind kind = MvPageKind::Month) const;
 
     struct Paths : MvOutcome
     {
