@@ -2607,6 +2607,13 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
+    <name>MvPageTemplateRegistry</name>
+    <message>
+        <source>Die Vorlage „%1“ bleibt weg, denn ihre Kennung %2 hat schon „%3“. Eine andere bringt sie zurück.</source>
+        <translation>The template “%1” is left out, since “%3” has its id %2 already. Another one brings it back.</translation>
+    </message>
+</context>
+<context>
     <name>MvPdfBoxes</name>
     <message>
         <source>Die Zwischendatei ist unvollständig</source>
@@ -2797,6 +2804,25 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
+    <name>MvProjectElementReader</name>
+    <message>
+        <source>Ein Element der Art „%1“ ist hier unbekannt; es bleibt weg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ein Foto ohne Datei, oder eines, das es schon gibt; es bleibt weg.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wo das Element steht, ist nicht lesbar; es füllt die Seite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 „%2“ ist keine Farbe wie #RRGGBB.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MvProjectFile</name>
     <message>
         <source>%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2</source>
@@ -2897,6 +2923,17 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvProjectNotes</name>
+    <message>
+        <source>%1 „%2“ geht nicht; es gilt %3.</source>
+        <translation type="unfinished">%1 “%2” is not possible; it becomes %3.</translation>
+    </message>
+    <message>
+        <source>%1 „%2“ geht nicht; es gilt „%3“.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MvProjectReader</name>
     <message>
         <source>Das ist kein Kalenderprojekt; die Datei beginnt mit „%1“.</source>
@@ -2953,10 +2990,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Eine frühere Fassung liegt daneben: %1</source>
         <translation>An earlier version lies beside it: %1</translation>
-    </message>
-    <message>
-        <source>%1 „%2“ geht nicht; es gilt %3.</source>
-        <translation>%1 “%2” is not possible; it becomes %3.</translation>
     </message>
 </context>
 <context>
@@ -3403,6 +3436,13 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>&amp;Farben:</source>
         <translation>&amp;Colours:</translation>
+    </message>
+</context>
+<context>
+    <name>MvSingleton</name>
+    <message>
+        <source>Das Thema „%1“ bleibt weg, denn seine Kennung %2 hat schon „%3“. Eine andere bringt es zurück.</source>
+        <translation>The theme “%1” is left out, since “%3” has its id %2 already. Another one brings it back.</translation>
     </message>
 </context>
 <context>
@@ -3881,6 +3921,136 @@ Designs photo calendars and prints them.
     <message>
         <source>Übernehmen</source>
         <translation>Apply</translation>
+    </message>
+</context>
+<context>
+    <name>MvTemplateReader</name>
+    <message>
+        <source>„%1“ ist keine Vorlage (template)</source>
+        <translation>“%1” is no template</translation>
+    </message>
+    <message>
+        <source>die Kennung (id) fehlt</source>
+        <translation>the id is missing</translation>
+    </message>
+    <message>
+        <source>der Name (name) fehlt</source>
+        <translation>the name is missing</translation>
+    </message>
+    <message>
+        <source>die Art (kind) „%1“ gibt es nicht; möglich sind month, cover, free und back</source>
+        <translation>there is no kind “%1”; possible are month, cover, free and back</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Aufteilung (division)</source>
+        <translation>“%1” is no division</translation>
+    </message>
+    <message>
+        <source>zwei Plätze einer Aufteilung heißen gleich (slot)</source>
+        <translation>two slots of a division have the same name</translation>
+    </message>
+    <message>
+        <source>die Form (shapes) „%1“ gibt es nicht</source>
+        <translation>there is no shape “%1”</translation>
+    </message>
+    <message>
+        <source>der Name des Platzes (slot) fehlt</source>
+        <translation>the name of the slot is missing</translation>
+    </message>
+    <message>
+        <source>„%1“ ist kein Platz; möglich sind photo, text und calendarium</source>
+        <translation>“%1” is no slot; possible are photo, text and calendarium</translation>
+    </message>
+    <message>
+        <source>die Rolle (role) „%1“ gibt es nicht; möglich sind %2</source>
+        <translation>there is no role “%1”; possible are %2</translation>
+    </message>
+    <message>
+        <source>„%1“ (shows) gibt es nicht; möglich sind %2</source>
+        <translation>there is no “%1” (shows); possible are %2</translation>
+    </message>
+    <message>
+        <source>„%1“ (%2) ist keine Spanne von 1 bis %3</source>
+        <translation>“%1” (%2) is no span from 1 to %3</translation>
+    </message>
+    <message>
+        <source>die Seite (%1) „%2“ gibt es nicht; möglich sind left, top, right und bottom</source>
+        <translation>there is no side (%1) “%2”; possible are left, top, right and bottom</translation>
+    </message>
+    <message>
+        <source>„%1“ (%2) ist keine Zahl von %3 bis %4</source>
+        <translation>“%1” (%2) is no number from %3 to %4</translation>
+    </message>
+    <message>
+        <source>„%1“ (%2): möglich sind true und false</source>
+        <translation>“%1” (%2): possible are true and false</translation>
+    </message>
+    <message>
+        <source>für Seiten der Form %1 fehlt eine Aufteilung (division)</source>
+        <translation>there is no division for pages of the shape %1</translation>
+    </message>
+    <message>
+        <source>auf Seiten der Form %1 heißen die Plätze (slot) anders als im Querformat</source>
+        <translation>on pages of the shape %1 the slots have other names than on landscape ones</translation>
+    </message>
+    <message>
+        <source>„%1“ gibt es bei „%2“ nicht</source>
+        <translation>there is no “%1” in “%2”</translation>
+    </message>
+    <message>
+        <source>Die Vorlage „%1“ bleibt weg: %2.</source>
+        <translation>The template “%1” is left out: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MvThemeReader</name>
+    <message>
+        <source>„%1“ ist kein Thema (theme)</source>
+        <translation>“%1” is no theme</translation>
+    </message>
+    <message>
+        <source>Kennung oder Name (id, name) fehlen</source>
+        <translation>id or name are missing</translation>
+    </message>
+    <message>
+        <source>„%1“ gibt es nicht</source>
+        <translation>there is no “%1”</translation>
+    </message>
+    <message>
+        <source>ein Layout (layouts grid) oder Farben (colors schema) fehlen</source>
+        <translation>a layout (layouts grid) or colours (colors schema) are missing</translation>
+    </message>
+    <message>
+        <source>die Vorlagen der Monate (pages month) fehlen</source>
+        <translation>the templates of the months (pages month) are missing</translation>
+    </message>
+    <message>
+        <source>„%1“ gibt es nicht; möglich sind %2</source>
+        <translation>there is no “%1”; possible are %2</translation>
+    </message>
+    <message>
+        <source>„%1“ (months) ist kein Monat von 1 bis 12</source>
+        <translation>“%1” (months) is no month from 1 to 12</translation>
+    </message>
+    <message>
+        <source>die Rolle (role) „%1“ gibt es nicht; möglich sind %2</source>
+        <translation>there is no role “%1”; possible are %2</translation>
+    </message>
+    <message>
+        <source>die Vorlage „%1“ (%2) gibt es nicht</source>
+        <translation>there is no template “%1” (%2)</translation>
+    </message>
+    <message>
+        <source>das Layout „%1“ (%2) gibt es nicht</source>
+        <translation>there is no layout “%1” (%2)</translation>
+    </message>
+    <message>
+        <source>die Farben „%1“ (%2) gibt es nicht</source>
+        <translation>there are no colours “%1” (%2)</translation>
+    </message>
+    <message>
+        <source>Das Thema „%1“ bleibt weg: %2.</source>
+        <translation>The theme “%1” is left out: %2.</translation>
     </message>
 </context>
 <context>

@@ -59,6 +59,27 @@ QStringList MvDirectoryConfig::resourceNames(const QString &relativeFolder, cons
     return names;
 }
 
+QList<QFileInfo> MvDirectoryConfig::shippedAndOwn(const QString &relativeFolder, const QString &pattern) const
+{
+    QList<QFileInfo> files;
+    QStringList known;
+    if (leavesItsRoot(relativeFolder))
+        return files;
+    const auto add = [&](const QString &root, bool isOwn) {
+        const QDir folder(root + u'/' + relativeFolder);
+        const QStringList names = folder.entryList({pattern}, QDir::Files, QDir::Name);
+        for (const QString &name : names) {
+            if (isOwn || !known.contains(name))
+                files.append(QFileInfo(folder.filePath(name)));
+            known.append(name);
+        }
+    };
+    for (const QString &root : m_resourceRoots + QStringList{embeddedRoot})
+        add(root, false);
+    add(m_programDataDir, true);
+    return files;
+}
+
 /// Outside the program, in order of precedence.
 QStringList MvDirectoryConfig::roots() const
 {

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QList>
 #include <QStringList>
 
 class MvDirectoryConfig;
@@ -26,6 +27,10 @@ public:
     /// The names of the files in a folder below the root that resource() would find, by a pattern with wildcards; in
     /// alphabetical order, each once.
     QStringList resourceNames(const QString &relativeFolder, const QString &pattern) const;
+
+    /// For folders whose files all count: the shipped files of a folder by precedence as above, then those of the same
+    /// folder in the user's data folder, which stand in for none of them.
+    QList<QFileInfo> shippedAndOwn(const QString &relativeFolder, const QString &pattern) const;
 
     /// The user's data folder (environment variable MVCALENDAR_DATA, else the platform's). It may not exist yet.
     QDir programDataDir() const;

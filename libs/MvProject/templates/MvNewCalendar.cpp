@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvNewCalendar.h"
+
+#include "MvProject/MvCalendarTheme.h"
+#include "MvProject/MvThemeApplication.h"
+#include "MvProject/MvThemeRegistry.h"
+
+MvCalendarDocument MvNewCalendar::make() const
+{
+    const MvCalendarTheme wanted = MvThemeRegistry::instance().findTheme(themeId);
+    const MvCalendarTheme theme = wanted.isValid() ? wanted : MvThemeRegistry::instance().defaultTheme();
+    MvCalendarDocument document;
+    if (format.isValid())
+        document.setFormat(format);
+    if (range.isValid())
+        document.setRange(range);
+    document.setTitle(title);
+    document.setAuthor(author);
+    if (holidays)
+        document.setHolidayConfig(*holidays);
+    document.setAppearance(theme.appearance(MvPageKind::Month, document.range().start()));
+    const auto insert = [&document](MvPageKind kind) {
+        MvCalendarPage page(document.appearance(), document.pages().value(0).contentConfig());
+        page.setKind(kind);
+        document.insertPage(int(document.pages().size()), page);
+    };
+    if (hasCover)
+        insert(MvPageKind::Cover);
+    if (hasBack)
+        insert(MvPageKind::Back);
+    return MvThemeApplication::applied(document, theme);
+}

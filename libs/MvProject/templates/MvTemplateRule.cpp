@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvTemplateRule.h"
+
+#include <algorithm>
+
+namespace {
+
+using Shows = MvTemplateStyle::Shows;
+
+constexpr double fotoGutter = 2.0 / 3.0; // of the field's gutter, between photos that lie close
+
+QRectF middlePart(const QRectF &area, double aspect)
+{
+    QSizeF size = area.size();
+    if (size.width() > aspect * size.height())
+        size.setWidth(aspect * size.height());
+    else
+        size.setHeight(size.width() / aspect);
+    QRectF part(QPointF(), size);
+    part.moveCenter(area.center());
+    return part;
+}
+
+/// Room for a line of the smallest type on small papers, too: half the gutters above and below, within the field.
+QRectF withLineHeight(QRectF rect, const MvTemplateRule &rule, const MvPageFormat &format)
+{
+    if (rule.firstRow > 1)
+        rect.setTop(rect.top() - format.gutter() / 2.0);
+    if (rule.lastRow < MvPageFormat::fieldRows)
+        rect.setBottom(rect.bottom() + format.gutter() / 2.0);
+    return rect;
+}
+
+Shows thatHasRoom(Shows shows, double height)
+{
+    const bool isList = shows == Shows::List || shows == Shows::Planner || shows == Shows::Birthdays;
+    if (isList && height < MvTemplateRule::lowestList)
+        shows = Shows::Grid;
+    if ((shows == Shows::Grid || shows == Shows::Bare) && height < MvTemplateRule::lowestGrid)
+        shows = Shows::Strip;
+    return shows;
+}
+
+MvPageElement::Content dressed(const MvTemplateRule::Foto &foto, const MvTemplateStyle &style)
+{
+    MvFotoElement element;
+    element.setBorder(foto.border > 0.0 ? MvFotoElement::Border{foto.border, Qt::white} : style.border);
+    return element;
+}
+
+MvPageElement::Content dressed(const MvTemplateRule::Text &text, const MvTemplateStyle &style)
+{
+    MvTextElement element = text.element;
+    const MvTemplateStyle::TextStyle look = style.texts.value(text.role);
+    element.setPoints(element.points() * look.scale);
+    if (!look.family.isEmpty())
+        element.setFamily(look.family);
+    if (look.weight)
+        element.setWeight(*look.weight);
+    if (look.isItalic)
+        element.setItalic(*look.isItalic);
+    if (look.hasCapitals)
+        element.setCapitals(*look.hasCapitals);
+    if (look.letterSpacing)
+        element.setLetterSpacing(*look.letterSpacing);
+    if (look.isAccent)
+        element.setAccent(*look.isAccent);
+    return element;
+}
+
+MvPageElement::Content dressed(const MvTemplateRule::Calendarium &calendarium, const MvTemplateStyle &style,
+                               double height)
+{
+    MvCalendariumElement element(style.layout(thatHasRoom(calendarium.shows, height)));
+    element.setMonthOffset(calendarium.monthOffset);
+    element.setOnFoto(calendarium.isOnFoto);
+    element.setMonthLine(calendarium.hasMonthLine);
+    return element;
+}
+
+} // namespace
+
+QRectF MvTemplateRule::rect(const MvPageFormat &format) const
+{
+    QRectF rect = format.fieldArea(firstColumn, lastColumn, firstRow, lastRow);
+    const double closer = format.gutter() * (1.0 - fotoGutter) / 2.0;
+    const QRectF media = format.mediaRect();
+    const auto edge = [&](Qt::Edge side, double inside, double outside, double direction) {
+        return bleed.testFlag(side) ? outside : joins.testFlag(side) ? inside + direction * closer : inside;
+    };
+    rect.setLeft(edge(Qt::LeftEdge, rect.left(), media.left(), -1.0));
+    rect.setTop(edge(Qt::TopEdge, rect.top(), media.top(), -1.0));
+    rect.setRight(edge(Qt::RightEdge, rect.right(), media.right(), 1.0));
+    rect.setBottom(edge(Qt::BottomEdge, rect.bottom(), media.bottom(), 1.0));
+    if (const auto *foto = std::get_if<Foto>(&content); foto && foto->aspect > 0.0)
+        return middlePart(rect, foto->aspect);
+    return std::holds_alternative<Text>(content) ? withLineHeight(rect, *this, format) : rect;
+}
+
+MvTemplateSlot MvTemplateRule::slotFor(const MvPageFormat &format, const MvTemplateStyle &style) const
+{
+    const QRectF place = rect(format);
+    MvPageElement element;
+    if (const auto *foto = std::get_if<Foto>(&content)) {
+        element = MvPageElement(place, dressed(*foto, style), slot);
+        element.setRotation(foto->rotation);
+    } else if (const auto *text = std::get_if<Text>(&content)) {
+        element = MvPageElement(place, dressed(*text, style), slot);
+    } else {
+        element = MvPageElement(place, dressed(std::get<Calendarium>(content), style, place.height()), slot);
+    }
+    return {element};
+}

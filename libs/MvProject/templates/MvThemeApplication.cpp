@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvThemeApplication.h"
+
+#include "MvProject/MvPageTemplateRegistry.h"
+#include "MvProject/MvThemeRegistry.h"
+
+MvCalendarDocument MvThemeApplication::applied(const MvCalendarDocument &document, const MvCalendarTheme &theme)
+{
+    if (!theme.isValid())
+        return document;
+    MvCalendarDocument themed = document;
+    // pages of years become pages of months first
+    themed.setAppearance(theme.appearance(MvPageKind::Month, document.range().start(), document.appearance()));
+    int month = 0;
+    for (int page = 0; page < themed.pages().size(); ++page) {
+        const bool isMonth = themed.isMonthPage(page);
+        themed.setPage(page, applied(themed.pages().at(page), theme, themed.format(), isMonth ? month : 0));
+        month += isMonth ? 1 : 0;
+    }
+    themed.setThemeId(theme.id());
+    return themed;
+}
+
+MvCalendarPage MvThemeApplication::applied(const MvCalendarPage &page, const MvCalendarTheme &theme,
+                                           const MvPageFormat &format, int number)
+{
+    MvCalendarPage themed = page;
+    themed.setAppearance(theme.appearance(page.kind(), page.contentConfig().date(), page.appearance()));
+    MvPageBackground ground = page.background();
+    ground.setColor(theme.backgroundColor());
+    themed.setBackground(ground);
+    const bool keepsTemplate = page.kind() == MvPageKind::Free && !page.templateId().isEmpty();
+    const QString id = keepsTemplate ? page.templateId() : theme.templateId(page.kind(), number);
+    const MvPageTemplate found = MvPageTemplateRegistry::instance().findTemplate(id, theme.style());
+    if (found.isValid())
+        themed.setTemplate(found, format);
+    return themed;
+}
+
+MvPageTemplate MvThemeApplication::pageTemplate(const QString &themeId, const QString &templateId)
+{
+    const MvCalendarTheme theme = MvThemeRegistry::instance().findTheme(themeId);
+    return MvPageTemplateRegistry::instance().findTemplate(templateId, theme.style());
+}
+
+QList<MvPageTemplate> MvThemeApplication::pageTemplates(const QString &themeId, MvPageKind kind)
+{
+    const MvCalendarTheme theme = MvThemeRegistry::instance().findTheme(themeId);
+    return MvPageTemplateRegistry::instance().templates(kind, theme.style());
+}
