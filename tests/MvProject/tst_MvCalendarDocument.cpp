@@ -48,6 +48,7 @@ private Q_SLOTS:
     void titles();
     void lacksLeapDay();
     void paintsTheMargins();
+    void littleWork_data();
     void littleWork();
     void withoutSchemasThereIsNothing();
     void monthsOfOneSize_data();
@@ -130,33 +131,39 @@ void tst_MvCalendarDocument::paintsTheMargins()
     }
 }
 
+void tst_MvCalendarDocument::littleWork_data()
+{
+    QTest::addColumn<QString>("layout");
+    for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        const QString id = layout.ID().toString();
+        QTest::newRow(qPrintable(id)) << id;
+    }
+}
+
 /// Painting must not grow by questions asked twice: a look at each date, a few fonts, one fit for all pages.
 void tst_MvCalendarDocument::littleWork()
 {
-    // the line with the month is a pass of its own; one look more than days a page, at a vacation that goes on
-    for (const auto &[layout, passesPerPage, daysPerPage] :
-         {std::tuple(u"MONTH_GRID_CLASSIC"_s, 1, 31), {u"WEEK_COLUMNS"_s, 2, 42}, {u"FAMILY_PLANNER"_s, 2, 31}}) {
-        MvCalendarDocument calendar = documentOf(layout);
-        calendar.setHolidayConfig({MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 8 | 64)});
-
-        MvRenderingProbe probe;
-        MvRenderingSources sources;
-        sources.probe = &probe;
-        MvPaintRecorder recorder(nullptr);
-        QPainter painter(&recorder);
-        for (int page = 0; page < 12; ++page)
-            calendar.paint(painter, page, sources);
-        QVERIFY2(probe.passes > 12 * passesPerPage && probe.passes <= 12 * passesPerPage + 12,
-                 qPrintable(QString::number(probe.passes)));
-        QVERIFY2(probe.holidayLookUps >= 365 && probe.holidayLookUps <= 12 * (daysPerPage + 1),
-                 qPrintable(QString::number(probe.holidayLookUps)));
-        QVERIFY2(probe.fonts <= 12 * 20, qPrintable(QString::number(probe.fonts)));
-
+    QFETCH(QString, layout);
+    MvCalendarDocument calendar = documentOf(layout);
+    calendar.setHolidayConfig({MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 8 | 64)});
+    const int pages = int(calendar.pages().size());
+    MvRenderingProbe probe;
+    MvRenderingSources sources;
+    sources.probe = &probe;
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    const auto paint = [&] {
         probe = {};
-        for (int page = 0; page < 12; ++page)
+        for (int page = 0; page < pages; ++page)
             calendar.paint(painter, page, sources);
-        QCOMPARE(probe.passes, 12 * passesPerPage); // what fits is known
-    }
+    };
+    paint();
+    QVERIFY(probe.passes > 0 && probe.passes <= 26); // the line with the month is a pass of its own
+    QVERIFY(probe.holidayLookUps <= 26);
+    QVERIFY(probe.days <= 12 * 40); // with those of other months in the same weeks
+    QVERIFY(probe.fonts <= 12 * 20);
+    paint();
+    QVERIFY(probe.passes <= 2 * pages); // what fits is known
 }
 
 void tst_MvCalendarDocument::withoutSchemasThereIsNothing()

@@ -47,16 +47,18 @@ MvCalendariumHolidayList MvCalendariumHolidayCache::readHolidays(const MvCalenda
     return fetch(key);
 }
 
-MvCalendariumHolidayList MvCalendariumHolidayCache::holidays(const MvCalendariumContentConfig &config)
+QHash<QDate, MvCalendariumHolidayList> MvCalendariumHolidayCache::days(const MvCalendariumHolidayCacheKey &key)
 {
-    if (!config.isValid())
-        return {};
-    const MvCalendariumHolidayCacheKey key(config.year(), config.holidayConfig());
     if (!isPrepared(key))
         prepareYear(key);
     const QReadLocker lock(&myLock);
-    const auto year = m_years.constFind(key);
-    return year == m_years.cend() ? MvCalendariumHolidayList() : year->days.value(config.date());
+    return m_years.value(key).days;
+}
+
+MvCalendariumHolidayList MvCalendariumHolidayCache::holidays(const MvCalendariumContentConfig &config)
+{
+    return config.isValid() ? days({config.year(), config.holidayConfig()}).value(config.date())
+                            : MvCalendariumHolidayList();
 }
 
 QStringList MvCalendariumHolidayCache::descriptions(const MvCalendariumContentKey &key)

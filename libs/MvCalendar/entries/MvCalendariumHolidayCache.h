@@ -43,6 +43,9 @@ public:
     /// The holidays of the year, computed if need be.
     MvCalendariumHolidayList readHolidays(const MvCalendariumHolidayCacheKey &key);
 
+    /// The same by day, for those who ask about many: days without any have no place in it.
+    QHash<QDate, MvCalendariumHolidayList> days(const MvCalendariumHolidayCacheKey &key);
+
     /// The holidays of the configuration's day; none for an invalid one.
     MvCalendariumHolidayList holidays(const MvCalendariumContentConfig &config);
     /// The kinds of the day's holidays.
@@ -71,7 +74,7 @@ private:
     struct Year
     {
         MvCalendariumHolidayList all;
-        QHash<QDate, MvCalendariumHolidayList> days; // those that have any
+        QHash<QDate, MvCalendariumHolidayList> days;
     };
 
     static QReadWriteLock myLock; // guards m_years

@@ -33,6 +33,7 @@ QStringList namesOf(const MvCalendariumHolidayList &holidays)
 void MvCalendariumDays::endPass()
 {
     m_isInPass = false;
+    m_years.clear();
     m_days.clear();
 }
 
@@ -51,10 +52,12 @@ const MvCalendariumDay &MvCalendariumDays::known(const QDate &date) const
 
 MvCalendariumDay MvCalendariumDays::look(const QDate &date) const
 {
-    const MvCalendariumContentConfig day = m_renderer.contentFor(date).config();
-    const bool hasHolidays = day.hasFeatures(FEATURE_HOLIDAYS) || day.hasFeatures(FEATURE_HOLIDAY_COLORS) ||
-                             day.hasFeatures(FEATURE_SCHOOL_VACATIONS);
-    const MvCalendariumHolidayList holidays = hasHolidays ? lookUp(day) : MvCalendariumHolidayList();
+    const MvCalendariumContentConfig &content = m_renderer.calendariumContent();
+    const bool hasHolidays = content.hasFeatures(FEATURE_HOLIDAYS) || content.hasFeatures(FEATURE_HOLIDAY_COLORS) ||
+                             content.hasFeatures(FEATURE_SCHOOL_VACATIONS);
+    const MvCalendariumHolidayList holidays = hasHolidays ? lookUp(date) : MvCalendariumHolidayList();
+    if (MvRenderingProbe *probe = m_renderer.sources().probe)
+        ++probe->days;
     return {date,
             holidays,
             {headTypeOf(date, holidays, FEATURE_HOLIDAYS), headTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},
@@ -65,14 +68,30 @@ MvCalendariumDay MvCalendariumDays::look(const QDate &date) const
 
 MvCalendariumHolidayList MvCalendariumDays::holidays(const QDate &date) const
 {
-    return m_isInPass ? known(date).holidays : lookUp(m_renderer.contentFor(date).config());
+    return m_isInPass ? known(date).holidays : lookUp(date);
 }
 
-MvCalendariumHolidayList MvCalendariumDays::lookUp(const MvCalendariumContentConfig &day) const
+MvCalendariumHolidayList MvCalendariumDays::lookUp(const QDate &date, Vacations vacations) const
+{
+    if (!date.isValid())
+        return {};
+    if (!m_isInPass)
+        return lookUpYear(date.year(), vacations).value(date);
+    const QPair key(date.year(), vacations);
+    const auto known = m_years.find(key);
+    const Year &days =
+        known != m_years.end() ? known->second : m_years.emplace(key, lookUpYear(date.year(), vacations)).first->second;
+    return days.value(date);
+}
+
+MvCalendariumDays::Year MvCalendariumDays::lookUpYear(int year, Vacations vacations) const
 {
     if (MvRenderingProbe *probe = m_renderer.sources().probe)
         ++probe->holidayLookUps;
-    return MvCalendariumHolidayCache::instance().holidays(day);
+    MvCalendariumHolidayConfig config = m_renderer.calendariumContent().holidayConfig();
+    if (vacations == Daily)
+        config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
+    return MvCalendariumHolidayCache::instance().days({year, config});
 }
 
 // ---- types
@@ -130,7 +149,7 @@ MvCalendarCellTypeConfig MvCalendariumDays::headTypes(const QDate &date) const
 {
     if (m_isInPass)
         return known(date).head;
-    const MvCalendariumHolidayList found = lookUp(m_renderer.contentFor(date).config());
+    const MvCalendariumHolidayList found = lookUp(date);
     return {headTypeOf(date, found, FEATURE_HOLIDAYS), headTypeOf(date, found, FEATURE_HOLIDAY_COLORS)};
 }
 
@@ -138,7 +157,7 @@ MvCalendarCellTypeConfig MvCalendariumDays::contentTypes(const QDate &date) cons
 {
     if (m_isInPass)
         return known(date).content;
-    const MvCalendariumHolidayList found = lookUp(m_renderer.contentFor(date).config());
+    const MvCalendariumHolidayList found = lookUp(date);
     return {contentTypeOf(date, found, FEATURE_HOLIDAYS), contentTypeOf(date, found, FEATURE_HOLIDAY_COLORS)};
 }
 
@@ -193,9 +212,5 @@ bool MvCalendariumDays::isWithRunningVacations(const QDate &date) const
 
 QStringList MvCalendariumDays::descriptionsWithRunningVacations(const QDate &date) const
 {
-    MvCalendariumContentConfig content = m_renderer.calendariumContent().moveToDay(date);
-    MvCalendariumHolidayConfig config = content.holidayConfig();
-    config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
-    content.setHolidayConfig(config);
-    return namesOf(lookUp(content));
+    return namesOf(lookUp(date, Daily));
 }

@@ -7,18 +7,20 @@
 #include "MvProductBase/MvCalendariumHolidayType.h"
 
 #include <QDate>
+#include <QHash>
+#include <QPair>
 #include <QSet>
 #include <QStringList>
 
+#include <map>
 #include <unordered_map>
 
-class MvCalendariumContentConfig;
 class MvCalendariumRenderer;
 
 /// What days are on a renderer's page: holiday, vacation or plain, and what their cells say.
 ///
-/// While a pass runs each date is looked up once, and not at all where the page shows nothing of holidays. Between
-/// passes, when holidays and entries may change, every question is answered anew.
+/// While a pass runs the holidays of a year are looked up once, and not at all where the page shows nothing of them; a
+/// date is looked at once. Between passes, when holidays and entries may change, every question is answered anew.
 class MvCalendariumDays
 {
 public:
@@ -49,9 +51,13 @@ public:
     QStringList descriptionsWithRunningVacations(const QDate &date) const;
 
 private:
+    using Year = QHash<QDate, MvCalendariumHolidayList>;
+
+    enum Vacations { ByName, Daily }; ///< named on their first day, or on each
+    MvCalendariumHolidayList lookUp(const QDate &date, Vacations vacations = ByName) const;
+    Year lookUpYear(int year, Vacations vacations) const;
     const MvCalendariumDay &known(const QDate &date) const;
     MvCalendariumDay look(const QDate &date) const;
-    MvCalendariumHolidayList lookUp(const MvCalendariumContentConfig &day) const;
     MvCalendarCellType headTypeOf(const QDate &date, const MvCalendariumHolidayList &holidays,
                                   const MvCalendariumFeatures &features) const;
     MvCalendarCellType contentTypeOf(const QDate &date, const MvCalendariumHolidayList &holidays,
@@ -64,5 +70,7 @@ private:
 
     const MvCalendariumRenderer &m_renderer;
     bool m_isInPass = false;
-    mutable std::unordered_map<qint64, MvCalendariumDay> m_days; // of the pass, by Julian day
+    // of the pass
+    mutable std::map<QPair<int, Vacations>, Year> m_years;
+    mutable std::unordered_map<qint64, MvCalendariumDay> m_days; // by Julian day
 };

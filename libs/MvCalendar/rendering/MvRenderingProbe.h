@@ -5,6 +5,7 @@
 struct MvRenderingProbe
 {
     int passes = 0;         ///< calls of MvCalendariumRenderer::render(), those on trial included
-    int holidayLookUps = 0; ///< questions to the holiday cache
+    int holidayLookUps = 0; ///< questions to the holiday cache, each for a year
+    int days = 0;           ///< dates looked at: holidays, cell types, texts
     int fonts = 0;          ///< fonts resolved from layout, settings and paper
 };

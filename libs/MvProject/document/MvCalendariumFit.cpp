@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace {
 
@@ -32,6 +33,20 @@ MvCalendariumContentConfig withoutTexts(const MvCalendariumContentConfig &conten
     MvCalendariumContentConfig without = content.moveToDay(longestMonth);
     without.setHolidayConfig(empty);
     return without;
+}
+
+/// The first step from this one on that is small enough. The last one is, and what follows a small one.
+int firstStep(int from, const std::function<bool(int)> &isSmallEnough)
+{
+    int tooLarge = from - 1;
+    int smallEnough = mostSteps;
+    for (int tried = from; smallEnough - tooLarge > 1; tried = (tooLarge + smallEnough) / 2) {
+        if (isSmallEnough(tried))
+            smallEnough = tried;
+        else
+            tooLarge = tried;
+    }
+    return smallEnough;
 }
 
 QList<MvCalendariumFit> &keptFits()
@@ -84,31 +99,30 @@ MvCalendariumFit MvCalendariumFit::shared(const MvCalendariumAppearance &appeara
     return kept.constFirst();
 }
 
-/// The first of the steps from 1 downwards that leaves room; the last step when none does.
+/// The first of the steps from 1 downwards that leaves room; the last step when none does. Numbers are asked first,
+/// since a trial is a whole pass.
 double MvCalendariumFit::largestScale() const
 {
-    int tooLarge = -1;
-    int smallEnough = mostSteps;
-    for (int tried = 0; smallEnough - tooLarge > 1; tried = (tooLarge + smallEnough) / 2) {
-        if (hasRoom(std::pow(step, tried)))
-            smallEnough = tried;
-        else
-            tooLarge = tried;
-    }
-    return std::pow(step, smallEnough);
+    const auto scale = [](int tried) { return std::pow(step, tried); };
+    int found = firstStep(0, [&](int tried) { return hasRoom(scale(tried)); });
+    if (m_appearance.type().traits().monthsPerPage() == 1) // hasRoom() of year layouts covers everything
+        found = firstStep(found, [&](int tried) { return findsNothingUnfitting(scale(tried)); });
+    return scale(found);
+}
+
+QSizeF MvCalendariumFit::roomBelowLine(double scale) const
+{
+    return {m_room.width(), m_room.height() - lineHeight(scale)};
 }
 
 bool MvCalendariumFit::hasRoom(double scale) const
 {
-    const QSizeF room(m_room.width(), m_room.height() - lineHeight(scale));
-    if (!makeRenderer(m_appearance, scale)->hasRoom(room))
-        return false;
-    const bool isYear = m_appearance.type().traits().monthsPerPage() > 1; // hasRoom() of year layouts covers everything
-    return isYear || findsNothingUnfitting(scale, room);
+    return makeRenderer(m_appearance, scale)->hasRoom(roomBelowLine(scale));
 }
 
-bool MvCalendariumFit::findsNothingUnfitting(double scale, const QSizeF &room) const
+bool MvCalendariumFit::findsNothingUnfitting(double scale) const
 {
+    const QSizeF room = roomBelowLine(scale);
     MvCalendariumAppearance withoutHeaders = m_appearance; // headers are sized by themselves
     withoutHeaders.setColumnHeaders(QString());
     const Renderer renderer = makeRenderer(withoutHeaders, scale);

@@ -44,7 +44,8 @@ private:
 
     double largestScale() const;
     bool hasRoom(double scale) const;
-    bool findsNothingUnfitting(double scale, const QSizeF &room) const;
+    bool findsNothingUnfitting(double scale) const;
+    QSizeF roomBelowLine(double scale) const;
     double lineHeight(double scale) const;
     void apply(MvCalendariumRenderer &renderer, double scale) const;
     Renderer makeRenderer(const MvCalendariumAppearance &appearance, double scale) const;
