@@ -344,7 +344,7 @@ void tst_MvCalendarEvent::keepsTheFormerFoto()
         QVERIFY(text.open(QIODevice::WriteOnly) && text.write("kein Foto") > 0);
     }
     MvCalendarEvent event = entry(u"Oma"_qs, QDate(2000, 1, 1));
-    QVERIFY(event.takeFoto(MvFoto(QFileInfo(outside(u"good.png"_qs)))));
+    QVERIFY(event.takeFoto(MvFoto(QFileInfo(outside(u"good.png"_qs)))).isOk());
     const MvCalendarEvent before = event;
     const qsizetype files = MvCalendarEvent::imageDirectory().entryList(QDir::Files).size();
 
@@ -354,10 +354,8 @@ void tst_MvCalendarEvent::keepsTheFormerFoto()
     full.rlim_cur = 100; // bytes
     std::signal(SIGXFSZ, SIG_IGN);
     ::setrlimit(RLIMIT_FSIZE, isFull ? &full : &usual);
-    QString error;
-    const bool isTaken = event.takeFoto(MvFoto(QFileInfo(file)), &error);
+    const QString error = event.takeFoto(MvFoto(QFileInfo(file))).error;
     ::setrlimit(RLIMIT_FSIZE, &usual);
-    QVERIFY(!isTaken);
     QVERIFY2(error.contains(reason) && error.contains(QFileInfo(file).fileName()), qPrintable(error));
     QVERIFY(event == before && event.imagePath().isFile());
     QCOMPARE(MvCalendarEvent::imageDirectory().entryList(QDir::Files).size(), files);

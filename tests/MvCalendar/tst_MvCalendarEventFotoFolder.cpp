@@ -69,7 +69,7 @@ MvCalendarEvent tst_MvCalendarEventFotoFolder::entry(const QString &name, const 
 {
     MvCalendarEvent event(name, QDate(2000, 1, 1).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime());
     const MvFoto there{QFileInfo(foto)};
-    return event.takeFoto(there) ? event : MvCalendarEvent();
+    return event.takeFoto(there).isOk() ? event : MvCalendarEvent();
 }
 
 /// As read from a list beside the photo.

@@ -75,6 +75,8 @@ void tst_MvDayTextPlacement::places_data()
     const QStringList meeting{u"Mitgliederversammlung des Vereins"_s};
     QTest::newRow("no slivers beside the number")
         << QSizeF(114, 70) << top << meeting << none << none << false << meeting;
+    const QStringList visit{u"Geburtstagsbesuch"_s};
+    QTest::newRow("small rather than in pieces") << QSizeF(140, 90) << top << visit << none << visit << false << none;
     QTest::newRow("no room: each text is named") << QSizeF(60, 62) << top << both << none << none << false << both;
 }
 

@@ -514,7 +514,7 @@ void tst_MvCalendarDayEditorDialog::followsItsEntry()
         set(changed);
         MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, changed, nullptr));
     };
-    change([this](MvCalendarEvent &event) { QVERIFY(event.takeFoto(MvFoto(QFileInfo(path(u"rot.png"_qs))))); });
+    change([this](MvCalendarEvent &event) { QVERIFY(event.takeFoto(MvFoto(QFileInfo(path(u"rot.png"_qs)))).isOk()); });
     change([](MvCalendarEvent &event) { event.setDateTime(QDate(2027, 5, 7).startOfDay()); });
     change([](MvCalendarEvent &event) { event.setEventName(u"Anni"_qs); });
     QVERIFY(dialog.isVisible() && dialog.hasPhoto());

@@ -103,10 +103,9 @@ void tst_MvHolidayRule::dates()
 {
     QFETCH(QString, text);
     QFETCH(int, year);
-    QString error;
-    const std::optional<MvHolidayRule> rule = MvHolidayRule::parse(text, &error);
-    QVERIFY2(rule.has_value(), qPrintable(error));
-    QTEST(rule->dateByYear(year), "date");
+    const MvHolidayRule::Parsed parsed = MvHolidayRule::parse(text);
+    QVERIFY2(parsed.isOk(), qPrintable(parsed.error));
+    QTEST(parsed.rule.dateByYear(year), "date");
 }
 
 void tst_MvHolidayRule::errors_data()
@@ -145,9 +144,8 @@ void tst_MvHolidayRule::errors()
 {
     QFETCH(QString, text);
     QFETCH(QString, culprit);
-    QString error;
-    QVERIFY(!MvHolidayRule::parse(text, &error));
-    QVERIFY2(error.contains(culprit), qPrintable(error));
+    const QString error = MvHolidayRule::parse(text).error;
+    QVERIFY2(!error.isEmpty() && error.contains(culprit), qPrintable(error));
 }
 
 MV_TEST_MAIN(tst_MvHolidayRule)

@@ -120,9 +120,8 @@ QString storeFoto(const QDir &disk, int state)
 {
     const QString source = QFileInfo(disk.path()).absolutePath() + u"/photo-%1.png"_s.arg(state);
     MvCalendarEvent entry = MvEntries::entry(nameOf(state), {1960, 5, 17});
-    QString error;
-    if (!entry.takeFoto(MvFoto(QFileInfo(source)), &error))
-        return error.isEmpty() ? u"the photo was not taken, without a word"_s : error;
+    if (const MvOutcome taken = entry.takeFoto(MvFoto(QFileInfo(source))); !taken.isOk())
+        return taken.error;
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
     registry.setEvents({entry});
     return toldProblem();

@@ -173,11 +173,10 @@ void MvEntriesFlow::restore()
 {
     auto *dialog = new MvRestoreEntriesDialog(store().problem().backups, m_window);
     connect(dialog, &MvRestoreEntriesDialog::restoreRequested, this, [this](const QFileInfo &backup) {
-        QString error;
-        if (store().restoreBackup(backup, &error))
+        if (const MvOutcome restored = store().restoreBackup(backup); restored.isOk())
             Q_EMIT message(tr("Die Einträge sind wiederhergestellt"));
         else
-            MvStudioMessage::error(m_window, tr("Die Einträge ließen sich nicht wiederherstellen."), error);
+            MvStudioMessage::error(m_window, tr("Die Einträge ließen sich nicht wiederherstellen."), restored.error);
     });
     dialog->open();
 }

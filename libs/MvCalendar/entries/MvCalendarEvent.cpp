@@ -116,20 +116,20 @@ void MvCalendarEvent::setFoto(const MvFoto &foto)
     updateChangeTime();
 }
 
-bool MvCalendarEvent::takeFoto(const MvFoto &foto, QString *error)
+MvOutcome MvCalendarEvent::takeFoto(const MvFoto &foto)
 {
     const bool isOwn = foto.isValid() && isInAppSafeArea(foto.localFileInfo());
     const bool isPresent = foto == m_foto && (isOwn || !foto.mayBeOpened());
     if (isPresent || !foto.isValid()) {
         setFoto(foto);
-        return true;
+        return {};
     }
-    const MvFoto copy = MvCalendarEventFotoCopy::of(foto, error);
-    if (!copy.isValid())
-        return false;
-    m_foto = copy;
+    const MvCalendarEventFotoCopy::Copy copy = MvCalendarEventFotoCopy::of(foto);
+    if (!copy.isOk())
+        return copy;
+    m_foto = copy.foto;
     updateChangeTime();
-    return true;
+    return {};
 }
 
 void MvCalendarEvent::updateChangeTime()
@@ -208,11 +208,10 @@ QImage MvCalendarEvent::loadFotoAsThumbnail(const MvFoto &foto) const
 
 QFileInfo MvCalendarEvent::saveImageToNewPosition(const QImage &image, const MvFoto &foto) const
 {
-    QString error;
-    const QFileInfo file = MvCalendarEventFotoCopy::save(image, foto, &error);
-    if (!error.isEmpty())
-        qWarning().noquote().nospace() << "Unable to save image to : " << file.absoluteFilePath();
-    return file;
+    const MvCalendarEventFotoCopy::Saved saved = MvCalendarEventFotoCopy::save(image, foto);
+    if (!saved.isOk())
+        qWarning().noquote().nospace() << "Unable to save image to : " << saved.file.absoluteFilePath();
+    return saved.file;
 }
 
 MvFoto MvCalendarEvent::createFoto(const QDomElement &element) const

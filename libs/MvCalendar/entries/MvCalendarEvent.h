@@ -3,6 +3,7 @@
 
 #include "MvCalendar/mvcalendar_export.h"
 
+#include "MvCore/MvOutcome.h"
 #include "MvCore/MvTypedDate.h"
 #include "MvFoto/MvDrawable.h"
 #include "MvFoto/MvFoto.h"
@@ -94,9 +95,9 @@ public:
     /// not exist: what people choose goes through takeFoto().
     void setFoto(const MvFoto &foto);
     /// The same for a photo that somebody has chosen: it is decoded first, and the entry changes only when the photo is
-    /// in the photo folder. Else false, the entry stays as it is, and `error` says why, for a person. The photo that
-    /// the entry has already, and none, are always taken. Any thread.
-    bool takeFoto(const MvFoto &foto, QString *error = nullptr);
+    /// in the photo folder. Else the entry stays as it is, and the error says why. The photo that the entry has
+    /// already, and none, are always taken. Any thread.
+    MvOutcome takeFoto(const MvFoto &foto);
 
     /// The same day and month; another year only when the stored flag says that the entry recurs.
     bool isAtDay(const QDate &day) const;

@@ -23,9 +23,8 @@ MvCalendarEvent eventOf(const MvSimplePerson &person, const QString &temporaryPa
         foto = MvFoto(QFileInfo(temporaryPath));
     MvCalendarEvent event(person.name(), MvCalendarEvent::startOf(person.birthday()), true, MvFoto(), person.uuid(),
                           QDateTime::currentDateTime());
-    QString error;
-    if (!event.takeFoto(foto, &error)) // the birthday is kept even without its picture
-        qWarning().noquote() << error;
+    if (const MvOutcome taken = event.takeFoto(foto); !taken.isOk()) // the birthday is kept even without its picture
+        qWarning().noquote() << taken.error;
     return event;
 }
 

@@ -27,36 +27,31 @@ bool MvCalendarEventFotoCopy::isInFolder(const QFileInfo &file)
     return file.dir() == MvCalendarEvent::imageDirectory();
 }
 
-MvFoto MvCalendarEventFotoCopy::of(const MvFoto &foto, QString *error)
+MvCalendarEventFotoCopy::Copy MvCalendarEventFotoCopy::of(const MvFoto &foto)
 {
     const QString name = QDir::toNativeSeparators(foto.localFilePath());
-    QString reason;
-    const QImage image =
-        MvFotoAccess::midRes(foto, MvCalendarEvent::fotoQuality, MvCalendarEvent::fotoCaching, &reason);
+    const QImage image = MvFotoAccess::midRes(foto, MvCalendarEvent::fotoQuality, MvCalendarEvent::fotoCaching);
     if (image.isNull()) {
-        if (error)
-            *error = tr("Das Foto „%1“ kann nicht gelesen werden. %2").arg(name, reason).trimmed();
-        return {};
+        const QString reason = MvFotoAccess::error(foto);
+        return {{tr("Das Foto „%1“ kann nicht gelesen werden. %2").arg(name, reason).trimmed(), {}}, {}};
     }
     if (isInFolder(foto.localFileInfo()))
-        return MvFoto(foto.localFileInfo());
-    const QFileInfo file = save(image, foto, &reason);
-    if (reason.isEmpty())
-        return MvFoto(file);
-    if (error)
-        *error = tr("Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2").arg(name, reason);
-    return {};
+        return {{}, MvFoto(foto.localFileInfo())};
+    const Saved saved = save(image, foto);
+    if (!saved.isOk())
+        return {{tr("Das Foto „%1“ ließ sich nicht in den Fotoordner kopieren. %2").arg(name, saved.error), {}}, {}};
+    return {{}, MvFoto(saved.file)};
 }
 
-QFileInfo MvCalendarEventFotoCopy::save(const QImage &image, const MvFoto &foto, QString *error)
+MvCalendarEventFotoCopy::Saved MvCalendarEventFotoCopy::save(const QImage &image, const MvFoto &foto)
 {
     const QString name =
         MvMediaFormat::createFilename(foto.mediaFormat(), foto.filenameHint(), foto.fileExtensionHint());
     const QFileInfo file = MvFotoBin(MvCalendarEvent::imageDirectory()).reserve(name);
     const QByteArray bytes = encoded(image, file.suffix());
-    *error = bytes.isEmpty() ? tr("Das Bild ließ sich nicht umwandeln.")
-                             : MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
-    if (!error->isEmpty())
+    const QString error = bytes.isEmpty() ? tr("Das Bild ließ sich nicht umwandeln.")
+                                          : MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
+    if (!error.isEmpty())
         QFile::remove(file.absoluteFilePath());
-    return QFileInfo(file.absoluteFilePath());
+    return {{error, {}}, QFileInfo(file.absoluteFilePath())};
 }

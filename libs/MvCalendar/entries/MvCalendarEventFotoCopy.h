@@ -3,12 +3,12 @@
 
 #include "MvCalendar/mvcalendar_export.h"
 
+#include "MvCore/MvOutcome.h"
 #include "MvFoto/MvFoto.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
-#include <QString>
 
 /// Copies of photos in the photo folder (MvCalendarEvent::imageDirectory()), in medium resolution: entries refer to
 /// these, so that they do not depend on files elsewhere. Any thread.
@@ -19,10 +19,17 @@ class MVCALENDAR_EXPORT MvCalendarEventFotoCopy
 public:
     /// Whether the file lies directly in the photo folder.
     static bool isInFolder(const QFileInfo &file);
-    /// A copy of the photo; a photo of the folder itself, once it was read. Else an invalid one, and `error`, if given,
-    /// says why, for a person.
-    static MvFoto of(const MvFoto &foto, QString *error = nullptr);
-    /// Saves an image under a new name made from the photo's. The file does not exist when that failed, and `error`
-    /// says why.
-    static QFileInfo save(const QImage &image, const MvFoto &foto, QString *error);
+    struct Copy : MvOutcome
+    {
+        MvFoto foto;
+    };
+    /// A copy of the photo; a photo of the folder itself, once it was read.
+    static Copy of(const MvFoto &foto);
+
+    struct Saved : MvOutcome
+    {
+        QFileInfo file; // does not exist after an error
+    };
+    /// Saves an image under a new name made from the photo's.
+    static Saved save(const QImage &image, const MvFoto &foto);
 };

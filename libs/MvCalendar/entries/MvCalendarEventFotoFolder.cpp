@@ -91,18 +91,11 @@ MvCalendarEventFotoFolder::Source MvCalendarEventFotoFolder::sourceOf(const MvFo
     return {foto.localFilePath(), file.lastModified().toMSecsSinceEpoch(), file.size()};
 }
 
-MvCalendarEventFotoFolder::Outcome MvCalendarEventFotoFolder::copied(const MvFoto &foto)
-{
-    Outcome outcome;
-    outcome.copy = MvCalendarEventFotoCopy::of(foto, &outcome.error);
-    return outcome;
-}
-
 /// Copies come and go with the folder; what could not be copied may well be when there is room again.
 bool MvCalendarEventFotoFolder::isKnown(const Source &source) const
 {
     const auto known = m_outcomes->constFind(source);
-    return known != m_outcomes->cend() && known->copy.isValid() && known->copy.localFileInfo().isFile();
+    return known != m_outcomes->cend() && known->isOk() && known->foto.localFileInfo().isFile();
 }
 
 MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEventList &events)
@@ -118,11 +111,11 @@ MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEve
         const Source source = sourceOf(foto);
         const bool isTriedInVain = m_outcomes->contains(source) && hasFailed; // a full disk is full for all of them
         if (!isKnown(source) && !isTriedInVain)
-            m_outcomes->insert(source, copied(foto));
-        const Outcome outcome = m_outcomes->value(source);
-        hasFailed = hasFailed || !outcome.copy.isValid();
-        if (outcome.copy.isValid()) {
-            own[i].setFoto(outcome.copy);
+            m_outcomes->insert(source, MvCalendarEventFotoCopy::of(foto));
+        const MvCalendarEventFotoCopy::Copy outcome = m_outcomes->value(source);
+        hasFailed = hasFailed || !outcome.isOk();
+        if (outcome.isOk()) {
+            own[i].setFoto(outcome.foto);
         } else if (!m_told.contains(source)) {
             m_told.insert(source);
             errors.append(outcome.error);
@@ -152,7 +145,7 @@ void MvCalendarEventFotoFolder::prepare(const MvCalendarEventList &events, QObje
     const auto left = std::make_shared<qsizetype>(fotos.size());
     for (auto it = fotos.begin(); it != fotos.end(); ++it) { // one by one: what is more urgent comes in between
         const auto copy = [outcomes = m_outcomes, left, use, source = it.key(), foto = it.value()] {
-            return [outcomes, left, use, source, outcome = copied(foto)] {
+            return [outcomes, left, use, source, outcome = MvCalendarEventFotoCopy::of(foto)] {
                 outcomes->insert(source, outcome);
                 if (--*left == 0)
                     use();

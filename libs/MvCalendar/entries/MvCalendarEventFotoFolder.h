@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/MvCalendarEventFotoCopy.h"
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
@@ -55,16 +56,9 @@ private:
     {
         return qHashMulti(seed, source.path, source.changed, source.bytes);
     }
-    /// What became of a source: the copy, or why there is none.
-    struct Outcome
-    {
-        MvFoto copy;
-        QString error;
-    };
-    using Outcomes = QHash<Source, Outcome>;
+    using Outcomes = QHash<Source, MvCalendarEventFotoCopy::Copy>;
 
     static Source sourceOf(const MvFoto &foto);
-    static Outcome copied(const MvFoto &foto);
     bool isKnown(const Source &source) const;
 
     MvFolderUse m_use;

@@ -314,39 +314,24 @@ void MvCalendarEventStore::writeElsewhere(const QFileInfo &file, const MvCalenda
     MvPlatformIndependent::instance().fileWritten(QFileInfo(file.absoluteFilePath()));
 }
 
-bool MvCalendarEventStore::restoreBackup(const QFileInfo &backup, QString *error)
-{
-    QString reason;
-    const bool isRestored = restore(backup, &reason);
-    if (error)
-        *error = reason;
-    return isRestored;
-}
-
-bool MvCalendarEventStore::restore(const QFileInfo &backup, QString *error)
+MvOutcome MvCalendarEventStore::restoreBackup(const QFileInfo &backup)
 {
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(backup);
-    if (!isList(content)) {
-        *error = content.refusal();
-        return false;
-    }
+    if (!isList(content))
+        return {content.refusal(), {}};
     if (m_kept == Kept::InMemory) {
         m_present = content.events;
         Q_EMIT eventsReplaced(m_present);
-        return true;
+        return {};
     }
     MvDirectoryConfig::instance().programDataDir().mkpath(u"."_s);
     const MvFileGuard guard(file(), 0);
-    if (!guard.isLocked()) {
-        *error = notSaved(guard.reason());
-        return false;
-    }
+    if (!guard.isLocked())
+        return {notSaved(guard.reason()), {}};
     const MvCalendarEventList present = withChangesOfOthers(m_present);
     m_mustBeSetAside = m_mustBeSetAside || m_readProblem.setAside.filePath().isEmpty();
-    if (!setAside()) {
-        *error = m_writeProblem.text;
-        return false;
-    }
+    if (!setAside())
+        return {m_writeProblem.text, {}};
     const MvCalendarEventList before = m_readProblem.isProblem() ? m_lastRead : m_inFile;
     const MvCalendarEventList all = MvCalendarEventMerge::threeWay(before, content.events, present);
     m_present = all;
@@ -360,5 +345,5 @@ bool MvCalendarEventStore::restore(const QFileInfo &backup, QString *error)
         dismissReadProblem();
     }
     Q_EMIT eventsReplaced(all);
-    return true;
+    return {};
 }

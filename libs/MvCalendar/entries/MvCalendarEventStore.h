@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
+#include "MvCore/MvOutcome.h"
 
 #include <QByteArray>
 #include <QElapsedTimer>
@@ -76,9 +77,9 @@ public:
     /// Tries again to write what is pending. Does not wait for the lock; true when nothing is pending afterwards.
     bool saveNow();
     /// Makes the entries of a backup the list, together with what was changed here since the problem arose; the present
-    /// file is set aside, the list written and eventsReplaced() emitted. False, and nothing changed, when the backup
-    /// cannot be read or the present file neither locked nor set aside; `error` then says why, for a person.
-    bool restoreBackup(const QFileInfo &backup, QString *error = nullptr);
+    /// file is set aside, the list written and eventsReplaced() emitted. An error, and nothing changed, when the backup
+    /// cannot be read or the present file neither locked nor set aside.
+    MvOutcome restoreBackup(const QFileInfo &backup);
     /// The person wants to go on without what could not be read: that problem is over.
     void dismissReadProblem();
 
@@ -115,7 +116,6 @@ private:
         bool adopts = false; // the caller takes changes of others over
     };
 
-    bool restore(const QFileInfo &backup, QString *error);
     void tryPending(const Adopt &adopt);
     bool write(const MvCalendarEventList &events);
     bool isInFile(const MvCalendarEventList &events) const;

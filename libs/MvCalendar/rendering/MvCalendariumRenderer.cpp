@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumDays.h"
+#include "MvCalendar/MvCellGrounds.h"
 #include "MvCalendar/MvCellMeasures.h"
 #include "MvCalendar/MvCellStyles.h"
 #include "MvCalendar/MvDayTextPlacement.h"
@@ -36,6 +37,7 @@ struct MvCalendariumRenderer::Parts
     MvCellStyles styles;
     MvCalendariumDays days;
     MvCellMeasures measures;
+    MvCellGrounds grounds; // empty outside render()
 };
 
 MvCalendariumRenderer::MvCalendariumRenderer(const MvCalendariumAppearance &appearance)
@@ -164,24 +166,13 @@ void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
     d->days.endPass();
     recordingPainter.end();
 
-    paintFills(painter);
-    m_fills.clear();
+    d->grounds.paint(painter);
     recorder.recording().replay(painter);
-}
-
-void MvCalendariumRenderer::paintFills(QPainter &painter)
-{
-    QList<unsigned int> colors = m_fills.keys();
-    std::sort(colors.begin(), colors.end()); // the same page always gives the same file
-    for (const unsigned int color : std::as_const(colors))
-        painter.fillPath(m_fills.value(color), QColor::fromRgba(color));
 }
 
 void MvCalendariumRenderer::addFill(const QRectF &rect, const QColor &color)
 {
-    QPainterPath &fill = m_fills[color.rgba()];
-    fill.setFillRule(Qt::WindingFill); // cells that overlap fill what they share, too
-    fill.addRect(rect);
+    d->grounds.add(rect, color);
 }
 
 // ---- dates

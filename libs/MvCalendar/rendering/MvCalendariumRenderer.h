@@ -21,10 +21,8 @@
 
 #include <QDate>
 #include <QFontMetricsF>
-#include <QHash>
 #include <QImage>
 #include <QObject>
-#include <QPainterPath>
 #include <QPair>
 #include <QRectF>
 #include <QSet>
@@ -291,14 +289,12 @@ private:
     MvCalendariumWords words() const;
     bool usesShortDayNames() const;
     void reportFoto(const QDate &date, const QRectF &rect) { m_paintedFotos.append({date, rect}); }
-    void paintFills(QPainter &painter);
 
     struct Parts;
 
     MvCalendariumContentConfig m_content;
     MvDateRange m_dateRange;
     double m_backgroundAlpha = 1.0;
-    QHash<unsigned int, QPainterPath> m_fills; // by colour; empty outside render()
     MvProjectIdentifier m_modelInfo;
     MvRenderingSources m_sources;
     QList<MvUnfittingText> m_unfittingTexts;

@@ -30,6 +30,15 @@ qsizetype letters(const QStringList &lines)
     return count;
 }
 
+/// A word is divided more than once.
+bool isInPieces(const QStringList &lines)
+{
+    const auto isDivided = [](const QString &line) { return line.endsWith(u'-') || line.endsWith(QChar(0x2010)); };
+    return std::adjacent_find(lines.cbegin(), lines.cend(), [&](const QString &line, const QString &next) {
+               return isDivided(line) && isDivided(next);
+           }) != lines.cend();
+}
+
 /// Whether the first can be read better.
 bool isBetter(const MvFittedText &a, const MvFittedText &b)
 {
@@ -37,6 +46,8 @@ bool isBetter(const MvFittedText &a, const MvFittedText &b)
         return b.isCut;
     if (a.isCut)
         return letters(a.lines) > letters(b.lines);
+    if (isInPieces(a.lines) != isInPieces(b.lines)) // easier to read in smaller type
+        return isInPieces(b.lines);
     return a.font.pixelSize() > b.font.pixelSize();
 }
 

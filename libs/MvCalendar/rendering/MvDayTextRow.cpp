@@ -13,6 +13,7 @@ namespace {
 constexpr double overhangOfLetters = 0.1; // of their size, beyond the advance of a line
 constexpr double leastMargin = 1.0;
 const QString separator = u", "_s;
+const QString ellipsis = u"…"_s;
 
 } // namespace
 
@@ -63,18 +64,18 @@ MvDayTextRow::Set MvDayTextRow::stacked(const MvFittedText &text, const QRectF &
 
 /// By what is seen of the lines instead of their height: in the largest type that does, or as much as there is room
 /// for.
-MvDayTextRow::Set MvDayTextRow::fittedByInk(const QRectF &widest, qsizetype mostLines, bool isTight) const
+MvDayTextRow::Set MvDayTextRow::fittedByInk(const QStringList &texts, const QRectF &widest, qsizetype mostLines,
+                                            bool isTight) const
 {
-    const double height = m_row.cell.height() - leastMargin / 2.0;
     const QList<QFont> sizes = m_fitter.sizes();
-    Set best{{sizes.constLast(), {}, true, m_texts}, {}, {}};
+    Set best{{sizes.constLast(), {}, true, texts}, {}, {}};
     for (const QFont &font : sizes) {
         const double line = QFontMetricsF(font).height();
         const MvTextFitter fixed(font, font.pixelSize() + 1.0, m_fitter.hyphenator());
         for (auto count = mostLines; count > 0; --count) {
-            const MvFittedText text = fixed.fitRunning({widest.width(), line * double(count)}, m_texts, separator);
+            const MvFittedText text = fixed.fitRunning({widest.width(), line * double(count)}, texts, separator);
             const Set set = stacked(text, widest, isTight);
-            if (set.lines.isEmpty() || set.ink.height() > height)
+            if (set.lines.isEmpty() || set.ink.height() > height())
                 continue;
             if (!text.isCut)
                 return set;
@@ -92,14 +93,44 @@ MvDayTextRow::Set MvDayTextRow::fitted(const QRectF &inner, const QRectF &widest
     if (text.isCut || text.font != m_fitter.font()) // paddings are used up before letters become smaller
         text = m_fitter.fitRunning(widest.size(), m_texts, separator);
     const Set set = stacked(text, widest);
-    if (!set.lines.isEmpty() && !text.isCut && set.ink.height() <= m_row.cell.height() - leastMargin / 2.0)
+    if (!set.lines.isEmpty() && !text.isCut && set.ink.height() <= height())
         return set;
     const auto most = std::max<qsizetype>(1, text.lines.size());
-    const Set loose = fittedByInk(widest, most, false);
+    const Set loose = fittedByInk(m_texts, widest, most, false);
     if (!loose.text.isCut)
         return loose;
-    const Set tight = fittedByInk(widest, most + 1, true);
-    return tight.text.cutTexts.size() < loose.text.cutTexts.size() ? tight : loose;
+    const Set tight = fittedByInk(m_texts, widest, most + 1, true);
+    const Set &best = tight.text.cutTexts.size() < loose.text.cutTexts.size() ? tight : loose;
+    return best.lines.isEmpty() ? withoutHighTexts(widest) : best;
+}
+
+/// Those that are low enough together, with an ellipsis for the others.
+MvDayTextRow::Set MvDayTextRow::withoutHighTexts(const QRectF &widest) const
+{
+    const QFont font = m_fitter.sizes().constLast();
+    const MvTextFitter unchanged(font, font.pixelSize() + 1.0, MvHyphenator());
+    const QSizeF anyRoom(1e5, 1e5);
+    QStringList low, high;
+    QRectF ink;
+    for (const QString &text : m_texts) {
+        const QRectF with = ink | MvCalendariumCellLine(unchanged, anyRoom, text).ink();
+        const bool isLow = with.height() <= height();
+        (isLow ? low : high).append(text);
+        if (isLow)
+            ink = with;
+    }
+    if (low.isEmpty() || high.isEmpty())
+        return {{font, {}, true, m_texts}, {}, {}};
+    Set set = fittedByInk(low + QStringList(ellipsis), widest, 1, false);
+    set.text.isCut = true;
+    set.text.cutTexts.removeAll(ellipsis);
+    set.text.cutTexts += high;
+    return set;
+}
+
+double MvDayTextRow::height() const
+{
+    return m_row.cell.height() - leastMargin / 2.0;
 }
 
 void MvDayTextRow::place(const QRectF &room, std::optional<double> baseline)

@@ -23,7 +23,7 @@ struct MvDayRow
 
 /// The texts of a day in a list, one after the other, in as many lines as the row has room for by what is seen of them.
 /// What has no room as it is takes up the paddings, then becomes smaller; then the lines come as near to each other as
-/// letters allow; at last texts are cut.
+/// letters allow; at last texts are cut, and those left out whose letters are higher than the row.
 class MvDayTextRow
 {
 public:
@@ -44,7 +44,9 @@ private:
     };
 
     Set fitted(const QRectF &inner, const QRectF &widest) const;
-    Set fittedByInk(const QRectF &widest, qsizetype mostLines, bool isTight) const;
+    Set fittedByInk(const QStringList &texts, const QRectF &widest, qsizetype mostLines, bool isTight) const;
+    Set withoutHighTexts(const QRectF &widest) const;
+    double height() const;
     Set stacked(const MvFittedText &text, const QRectF &widest, bool isTight = false) const;
     void place(const QRectF &room, std::optional<double> baseline);
 

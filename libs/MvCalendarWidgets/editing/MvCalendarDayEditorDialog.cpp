@@ -402,9 +402,8 @@ MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
     if (m_descriptionEdit->text() != m_shownName) // a file's own form stays as long as nobody changes it
         changed.setEventName(MvStringHelper::simplifiedName(m_descriptionEdit->text()));
     changed.setRecurrent(true);
-    QString error;
-    if (!changed.takeFoto(m_fotoField->foto(), &error))
-        MvDiskAccessRequest::instance().takeFotosFailed({error}, sourceWindow());
+    if (const MvOutcome taken = changed.takeFoto(m_fotoField->foto()); !taken.isOk())
+        MvDiskAccessRequest::instance().takeFotosFailed({taken.error}, sourceWindow());
     change(changed, m_item);
     return changed;
 }

@@ -33,12 +33,11 @@ void MvCalendarEventFotoIntake::take(const MvCalendarEvent &event, const MvFoto 
                          [event, foto, asker, use, &session](const QImage &) {
                              const MvCalendarEvent before = presentForm(event, session.entries().activeEventList());
                              MvCalendarEvent after = before;
-                             QString error;
                              if (!before.isValid())
                                  return;
-                             if (after.takeFoto(foto, &error))
+                             if (const MvOutcome taken = after.takeFoto(foto); taken.isOk())
                                  use(before, after);
                              else
-                                 MvDiskAccessRequest::instance().takeFotosFailed({error}, asker);
+                                 MvDiskAccessRequest::instance().takeFotosFailed({taken.error}, asker);
                          });
 }

@@ -42,9 +42,8 @@ bool isEarlier(const MvCalendarEvent &a, const MvCalendarEvent &b)
 /// A photo that cannot be taken over leaves the entry as it is, and the user is told why.
 void changeFoto(MvCalendarEvent &event, const QString &path)
 {
-    QString error;
-    if (!event.takeFoto(MvFoto(QFileInfo(path)), &error))
-        MvDiskAccessRequest::instance().takeFotosFailed({error});
+    if (const MvOutcome taken = event.takeFoto(MvFoto(QFileInfo(path))); !taken.isOk())
+        MvDiskAccessRequest::instance().takeFotosFailed({taken.error});
 }
 
 /// An empty name, or the present one in the form of the file, changes nothing.

@@ -15,19 +15,21 @@ QImage MvFotoAccess::fullRes(const MvFoto &foto)
     return foto.mayBeOpened() ? MvImageLoader::instance().load(foto.localFileInfo()) : QImage();
 }
 
-QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching, QString *error)
+QImage MvFotoAccess::midRes(const MvFoto &foto, int quality, int caching)
 {
     const int side = 128 << std::clamp(quality, 0, 7);
     MvImageLoader &loader = MvImageLoader::instance();
     const QSize full = preferredSize(foto);
     const QSize target = full.width() > side || full.height() > side ? QSize(side, side) : full;
-    QImage image;
-    if (!full.isEmpty())
-        image = caching & UseMemory ? loader.loadScaled(foto.localFileInfo(), target)
-                                    : loader.loadUncached(foto.localFileInfo(), target);
-    if (image.isNull() && error)
-        *error = foto.mayBeOpened() ? loader.error(foto.localFileInfo()) : QString();
-    return image;
+    if (full.isEmpty())
+        return {};
+    return caching & UseMemory ? loader.loadScaled(foto.localFileInfo(), target)
+                               : loader.loadUncached(foto.localFileInfo(), target);
+}
+
+QString MvFotoAccess::error(const MvFoto &foto)
+{
+    return foto.mayBeOpened() ? MvImageLoader::instance().error(foto.localFileInfo()) : QString();
 }
 
 QImage MvFotoAccess::scaled(const MvFoto &foto, const QSize &bounds)

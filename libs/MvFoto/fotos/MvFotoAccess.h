@@ -23,8 +23,10 @@ public:
     static QSize preferredSize(const MvFoto &foto);
     static QImage fullRes(const MvFoto &foto);
     /// Medium resolution: the longer side has at most 128 * 2^quality pixels, 2048 for quality 4. Smaller photos stay
-    /// as they are. When the image is null, `error` says why, for a person.
-    static QImage midRes(const MvFoto &foto, int quality, int caching, QString *error = nullptr);
+    /// as they are.
+    static QImage midRes(const MvFoto &foto, int quality, int caching);
+    /// Why a photo gave a null image last, for a person; empty for one that may not be opened.
+    static QString error(const MvFoto &foto);
     /// The photo within the bounds (pixels), keeping its aspect ratio; decoded once per size and file state.
     static QImage scaled(const MvFoto &foto, const QSize &bounds);
 };

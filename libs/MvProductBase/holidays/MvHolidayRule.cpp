@@ -33,13 +33,11 @@ QDate nearest(QDate date, quint8 weekdays, int direction)
 
 } // namespace
 
-std::optional<MvHolidayRule> MvHolidayRule::parse(const QString &text, QString *error)
+MvHolidayRule::Parsed MvHolidayRule::parse(const QString &text)
 {
     MvHolidayRuleParser parser(text);
-    std::optional<MvHolidayRule> rule = parser.parse();
-    if (error)
-        *error = parser.error();
-    return rule;
+    const std::optional<MvHolidayRule> rule = parser.parse();
+    return {{parser.error(), {}}, rule.value_or(MvHolidayRule())};
 }
 
 QDate MvHolidayRule::Anchor::dateIn(int ofYear) const

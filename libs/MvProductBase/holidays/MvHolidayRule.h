@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "MvProductBase/mvproductbase_export.h"
 
 #include <QDate>
@@ -8,15 +9,14 @@
 #include <QString>
 #include <QStringView>
 
-#include <optional>
-
 /// When in a year a holiday is: an anchor ("12-25", "easter", "sun#2 in 05") and steps from there ("prev sun", "-21").
 /// docs/holidays.md describes the grammar.
 class MVPRODUCTBASE_EXPORT MvHolidayRule
 {
 public:
-    /// The rule in a form that is quick to ask; nothing, and what is wrong with which word, for a malformed text.
-    static std::optional<MvHolidayRule> parse(const QString &text, QString *error = nullptr);
+    struct Parsed;
+    /// The rule in a form that is quick to ask; for a malformed text, what is wrong with which word.
+    static Parsed parse(const QString &text);
 
     /// The date by the rule of the year, which steps may have moved across New Year; invalid when there is none.
     QDate dateByYear(int year) const;
@@ -53,4 +53,10 @@ private:
 
     Anchor m_anchor;
     QList<Step> m_steps;
+};
+
+/// What a text says, or why it says nothing.
+struct MvHolidayRule::Parsed : MvOutcome
+{
+    MvHolidayRule rule;
 };

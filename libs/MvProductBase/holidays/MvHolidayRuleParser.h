@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 #include <QStringList>
 
+#include <optional>
+
 /// Reads the text of one holiday rule, word by word.
 class MvHolidayRuleParser
 {

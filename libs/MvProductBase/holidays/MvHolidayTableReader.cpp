@@ -111,18 +111,16 @@ std::optional<MvHolidayTable::Entry> MvHolidayTableReader::readEntry(const QDomE
     entry.name = MvXMLParser::textAttribute(element, u"name"_s).simplified();
     entry.type = MvCalendariumHolidayType(MvXMLParser::textAttribute(element, u"type"_s, u"public"_s));
     entry.isPartial = MvXMLParser::boolAttribute(element, u"partial"_s);
-    QString error;
-    const std::optional<MvHolidayRule> rule =
-        MvHolidayRule::parse(MvXMLParser::textAttribute(element, u"rule"_s), &error);
+    const MvHolidayRule::Parsed rule = MvHolidayRule::parse(MvXMLParser::textAttribute(element, u"rule"_s));
     if (entry.name.isEmpty())
         complain(element, tr("Feiertag ohne Namen"));
     else if (MvHolidayTable::rank(entry.type) > MvHolidayTable::rank(HOLIDAY_TYPE_OBSERVANCE))
         complain(element, tr("Feiertag \"%1\" hat eine unbekannte Art").arg(entry.name));
-    else if (!rule)
-        complain(element, tr("Feiertag \"%1\": %2").arg(entry.name, error));
+    else if (!rule.isOk())
+        complain(element, tr("Feiertag \"%1\": %2").arg(entry.name, rule.error));
     else if (readYear(element, u"from"_s, entry.from) && readYear(element, u"until"_s, entry.until) &&
              readExceptions(element, entry) && readRegions(element, table, entry.regions)) {
-        entry.rule = *rule;
+        entry.rule = rule.rule;
         entry.names = readNames(element);
         return entry;
     }
