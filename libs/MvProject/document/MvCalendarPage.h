@@ -37,7 +37,8 @@ class QPainter;
 /// numbers name elements everywhere.
 ///
 /// It is painted in layers: the ground of the whole sheet and the photos, which any thread may paint, and above them
-/// calendaria and texts, which ask for fonts and schemas and so belong to the GUI thread. record() turns the upper
+/// calendaria and texts with the veils they need on photos, which ask for fonts and schemas and so belong to the GUI
+/// thread. record() turns the upper
 /// layer into a recording that other threads may replay. Photos lie above each other in the order of elements.
 ///
 /// Painting happens in tenths of a millimetre with the origin at the trimmed page's corner. Personal entries and photos
@@ -167,8 +168,9 @@ public:
     void paintGround(QPainter &painter, const MvPageFormat &format) const;
     void paintFoto(QPainter &painter, const MvPageFormat &format,
                    MvFotoSource &fotos = MvDirectFotoSource::instance()) const;
-    /// The part above them, calendaria with the lines of their months, and texts, to be replayed in page units. It is
-    /// recorded for the rule. Photos of entries are decoded with `pixelsPerUnit` pixels per page unit: pass the largest
+    /// The part above them, calendaria with the lines of their months, texts, and the veils of both, for which the
+    /// sources are asked for the page's photos in a small size; to be replayed in page units. It is recorded for the
+    /// rule. Photos of entries are decoded with `pixelsPerUnit` pixels per page unit: pass the largest
     /// scale at which the recording will be replayed. What was found meanwhile is stored where `findings` points,
     /// unless that is null. GUI thread; the recording may be replayed in another.
     MvPaintRecording record(const MvPageFormat &format, const MvPageContext &context, const Prepare &prepare = {},

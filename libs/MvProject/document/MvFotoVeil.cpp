@@ -89,16 +89,14 @@ void MvFotoVeil::paintFotos(QPainter &painter) const
     }
 }
 
-void MvFotoVeil::paintVeils(QPainter &painter) const
+void MvFotoVeil::paint(QPainter &painter, const QRectF &rect, const QList<QColor> &inks) const
 {
-    for (const MvPageElement &element : m_elements) {
-        if (!element.isOnFoto() || element.rect().isEmpty())
-            continue;
-        QColor veil = ground();
-        veil.setAlphaF(float(strength(beneath(element.rect()), veil, MvPageInks(m_page).of(element))));
-        if (veil.alpha() > 0)
-            painter.fillRect(element.rect(), veil);
-    }
+    if (rect.isEmpty())
+        return;
+    QColor veil = ground();
+    veil.setAlphaF(float(strength(beneath(rect), veil, inks)));
+    if (veil.alpha() > 0)
+        painter.fillRect(rect, veil);
 }
 
 double MvFotoVeil::strength(const QImage &beneath, const QColor &ground, const QList<QColor> &inks)

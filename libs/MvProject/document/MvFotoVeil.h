@@ -30,7 +30,8 @@ public:
     {}
 
     void paintFotos(QPainter &painter) const;
-    void paintVeils(QPainter &painter) const;
+    /// A veil for what is written on it, in page units.
+    void paint(QPainter &painter, const QRectF &rect, const QList<QColor> &inks) const;
 
     /// 0 to 1.
     static double strength(const QImage &beneath, const QColor &ground, const QList<QColor> &inks);

@@ -21,6 +21,17 @@ constexpr int monthsPerYear = 12;
 /// Of what a calendarium's cells have beneath them on a photo: the veil is to be seen through them.
 constexpr double cellsOnFoto = 0.5;
 
+constexpr double veilPadding = 0.05; // of its shorter side
+constexpr double leastPadding = 10.0;
+constexpr double mostPadding = 40.0;
+
+/// What a veil leaves to the calendarium on it: its type does not touch the edge.
+QRectF onVeil(const QRectF &veil)
+{
+    const double padding = std::clamp(veilPadding * std::min(veil.width(), veil.height()), leastPadding, mostPadding);
+    return veil.adjusted(padding, padding, -padding, -padding);
+}
+
 /// The range of a page that shows a year: it starts with the page's first month, not with that of the whole calendar.
 MvDateRange twelveMonths(const QDate &month)
 {
@@ -50,9 +61,7 @@ void MvPagePainter::paintGround(QPainter &painter) const
 
 void MvPagePainter::paintFotos(QPainter &painter, MvFotoSource &fotos) const
 {
-    const MvFotoVeil veil(m_page, m_format, m_elements, fotos);
-    veil.paintFotos(painter);
-    veil.paintVeils(painter);
+    MvFotoVeil(m_page, m_format, m_elements, fotos).paintFotos(painter);
 }
 
 MvPageFindings MvPagePainter::paintCalendaria(QPainter &painter, const Pass &pass) const
@@ -60,24 +69,29 @@ MvPageFindings MvPagePainter::paintCalendaria(QPainter &painter, const Pass &pas
     MvPageFindings found;
     if (!m_page.isValid())
         return found;
+    const MvFotoVeil veil(m_page, m_format, m_elements, pass.sources.fotosOrDefault());
     for (const MvPageElement &element : m_elements) {
-        if (element.calendarium())
-            paintCalendarium(painter, element, pass, found);
+        if (!element.calendarium())
+            continue;
+        QRectF rect = element.rect();
+        if (element.isOnFoto()) {
+            veil.paint(painter, rect, MvPageInks(m_page).of(element));
+            rect = onVeil(rect);
+        }
+        if (!rect.isEmpty())
+            paintCalendarium(painter, element, rect, pass, found);
     }
-    MvPageTextPainter texts(m_page, m_format, m_elements, pass.context);
+    const MvPageTextPainter texts(m_page, m_format, m_elements, pass.context);
     for (int number = 0; number < m_elements.size(); ++number) {
         if (m_elements[number].text())
-            texts.paint(painter, number, found);
+            texts.paint(painter, number, veil, found);
     }
     return found;
 }
 
-void MvPagePainter::paintCalendarium(QPainter &painter, const MvPageElement &element, const Pass &pass,
+void MvPagePainter::paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
                                      MvPageFindings &found) const
 {
-    QRectF rect = element.rect();
-    if (rect.isEmpty())
-        return;
     const MvCalendariumElement &shown = *element.calendarium();
     const MvCalendariumAppearance appearance = appearanceOf(shown, m_page.appearance());
     const MvCalendariumContentConfig content =

@@ -21,7 +21,7 @@ public:
 
     // any thread
     void paintGround(QPainter &painter) const;
-    /// The ground's photo, those in frames, and the veils over them.
+    /// The ground's photo and those in frames.
     void paintFotos(QPainter &painter, MvFotoSource &fotos) const;
 
     // GUI thread
@@ -32,7 +32,7 @@ public:
         MvCalendarPage::Prepare prepare = {};
         double pixelsPerUnit = 0.0; // 0: as the painter is scaled
     };
-    /// Calendaria, and texts above them.
+    /// Calendaria, and texts above them, each with the veil that it needs on a photo.
     MvPageFindings paintCalendaria(QPainter &painter, const Pass &pass) const;
 
     static std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
@@ -44,7 +44,7 @@ public:
                                                 const MvCalendariumAppearance &page);
 
 private:
-    void paintCalendarium(QPainter &painter, const MvPageElement &element, const Pass &pass,
+    void paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
                           MvPageFindings &found) const;
 
     const MvCalendarPage &m_page;

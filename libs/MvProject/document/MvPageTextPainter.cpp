@@ -8,6 +8,7 @@
 #include "MvPaint/MvPrintableText.h"
 #include "MvPaint/MvTextFitter.h"
 #include "MvPaint/MvTextOutlineCache.h"
+#include "MvProject/MvFotoVeil.h"
 #include "MvProject/MvPageInks.h"
 
 #include <QFontMetricsF>
@@ -22,14 +23,16 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double floorPoints = 6.5;
+constexpr double veilPadding = 0.35; // around a text on a veil, of its size,
+constexpr double mostPadding = 0.12; // but no more of its frame's height
 
 double pointsToUnits(double points)
 {
     return MvMath::point2pixel(points, MvMath::tenthMillimetresPerInch);
 }
 
-void drawLines(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, const MvFittedText &text,
-               const QColor &color)
+/// Where the lines of a text stand in a rectangle.
+QList<MvPlacedOutline> placed(const QRectF &rect, Qt::Alignment alignment, const MvFittedText &text)
 {
     const QFontMetricsF metrics(text.font);
     const double height = metrics.height() * double(text.lines.size());
@@ -38,6 +41,7 @@ void drawLines(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, c
         top += (rect.height() - height) / 2.0;
     else if (alignment.testFlag(Qt::AlignBottom))
         top = rect.bottom() - height;
+    QList<MvPlacedOutline> lines;
     for (const QString &line : text.lines) {
         const MvTextOutline outline =
             MvTextOutlineCache::instance().outline(text.font, MvPrintableText::shapeable(line));
@@ -46,25 +50,48 @@ void drawLines(QPainter &painter, const QRectF &rect, Qt::Alignment alignment, c
             left += (rect.width() - outline.advance()) / 2.0;
         else if (alignment.testFlag(Qt::AlignRight))
             left = rect.right() - outline.advance();
-        MvOutlinePainter::fillOutline(painter, {left, top + metrics.ascent()}, outline, color);
+        lines.append({{left, top + metrics.ascent()}, outline});
         top += metrics.height();
     }
+    return lines;
+}
+
+/// What the lines take of the rectangle.
+QRectF blockOf(const QList<MvPlacedOutline> &lines, const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    QRectF block;
+    for (const MvPlacedOutline &line : lines) {
+        const QPointF top(line.baseline.x(), line.baseline.y() - metrics.ascent());
+        block |= QRectF(top, QSizeF(line.outline.advance(), metrics.height()));
+    }
+    return block;
 }
 
 } // namespace
 
-void MvPageTextPainter::paint(QPainter &painter, int number, MvPageFindings &found) const
+void MvPageTextPainter::paint(QPainter &painter, int number, const MvFotoVeil &veil, MvPageFindings &found) const
 {
     const MvPageElement &element = m_elements[number];
     const MvTextElement &text = *element.text();
     const QStringList lines = this->lines(text);
-    if (lines.isEmpty())
+    if (lines.isEmpty() || element.rect().isEmpty())
         return;
     const QFont wanted = font(text);
+    const double padding =
+        text.isOnFoto() ? std::min(veilPadding * wanted.pixelSize(), mostPadding * element.rect().height()) : 0.0;
+    const QRectF room = element.rect().adjusted(padding, padding, -padding, -padding);
     const MvTextFitter fitter(wanted, std::min(double(wanted.pixelSize()), pointsToUnits(floorPoints)),
                               MvHyphenator(m_page.contentConfig().language()));
-    const MvFittedText fitted = fitter.fit(element.rect().size(), lines);
-    drawLines(painter, element.rect(), text.alignment(), fitted, MvPageInks(m_page).of(text));
+    const MvFittedText fitted = fitter.fit(room.size(), lines);
+    const QList<MvPlacedOutline> outlines = placed(room, text.alignment(), fitted);
+    const QColor color = MvPageInks(m_page).of(text);
+    if (text.isOnFoto())
+        veil.paint(painter,
+                   blockOf(outlines, fitted.font).adjusted(-padding, -padding, padding, padding) & element.rect(),
+                   {color});
+    for (const MvPlacedOutline &line : outlines)
+        MvOutlinePainter::fillOutline(painter, line.baseline, line.outline, color);
     const QString whole = lines.join(u'\n');
     if (fitted.isCut)
         found.elements.append({number, whole, element.rect()});

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QString>
 
+class MvFotoVeil;
 class QPainter;
 
 /// Paints the texts of a page that belong to no calendarium: placeholders are filled, lines wrapped, divided and made
@@ -23,8 +24,9 @@ public:
         , m_context(context)
     {}
 
-    /// Paints the element with the number, which is a text, and notes what does not stand whole.
-    void paint(QPainter &painter, int number, MvPageFindings &found) const;
+    /// Paints the element with the number, which is a text, on the veil if it stands on a photo, and notes what does not
+    /// stand whole.
+    void paint(QPainter &painter, int number, const MvFotoVeil &veil, MvPageFindings &found) const;
 
     /// What the element prints, a line for each of its lines; empty when nothing of it would be seen.
     QStringList lines(const MvTextElement &text) const;
