@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
@@ -103,6 +104,7 @@ MvCalendarDocument tst_MvProjectFile::everythingNew()
     format.setSafeMargin(42.0);
     calendar.setFormat(format);
     calendar.setThemeId(u"PAPIER"_s);
+    calendar.setEntriesFile(m_folder.filePath(u"eintraege.xml"_s));
 
     MvFotoElement foto(u"/anderswo/Oma & Opa.jpg"_s);
     foto.setFit(MvFotoElement::Fit::Whole);
@@ -134,7 +136,7 @@ MvCalendarDocument tst_MvProjectFile::everythingNew()
     MvCalendarPage page = calendar.pages()[1];
     page.setElements({tilted, {{0, 0, 100, 50}, text}, {{5, 5, 7, 7}, year, u"year"_s}});
     page.setSpareElements({{{1, 2, 3, 4}, foto, u"photo 9"_s}});
-    page.nameTemplate(MvPageTemplate::unknown(u"FEHLT_HIER"_s));
+    page.nameTemplate(MvPageTemplateRegistry::instance().templates().value(0));
     MvPageBackground background{QColor(10, 20, 30, 200)};
     background.setFoto(MvFotoElement(m_folder.filePath(u"grund.jpg"_s)));
     background.setVeil(0.35);
@@ -170,6 +172,9 @@ void tst_MvProjectFile::roundTrip()
     QCOMPARE(content.error, QString());
     QCOMPARE(content.notes, QStringList());
     QVERIFY(content.document == calendar);
+    for (int page = 0; page < calendar.pages().size(); ++page)
+        QCOMPARE(content.document.pages()[page].pageTemplate().isKnown(),
+                 calendar.pages()[page].pageTemplate().isKnown());
     const QDir folder = file().absoluteDir();
     QCOMPARE(MvProjectFile::toBytes(content.document, folder), MvProjectFile::toBytes(calendar, folder));
 }
@@ -320,6 +325,8 @@ void tst_MvProjectFile::mendsWhatItCan_data()
                                            {"font-letter-spacing='-1e9'", "-100"}})
         QTest::newRow(attribute) << paper + page("2027-01").replace("DAY_LIST'", QByteArray("DAY_LIST' ") + attribute)
                                  << QList<QDate>{january} << QString::fromUtf8(taken);
+    QTest::newRow("a template that is not there")
+        << paper + page("2027-01").replace("month=", "template='FEHLT' month=") << QList<QDate>{january} << u"FEHLT"_s;
     QTest::newRow("a share of nine pages")
         << paper + page("2027-01").replace("</page>", "<photo path='a.jpg' placement='top' share='9'/></page>")
         << QList<QDate>{january} << u"0.75"_s;

@@ -466,6 +466,7 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
 bool MvCalendarDocument::operator==(const MvCalendarDocument &other) const
 {
     return m_range == other.m_range && m_format == other.m_format && m_title == other.m_title &&
-           m_author == other.m_author && m_entriesFile == other.m_entriesFile && m_themeId == other.m_themeId && m_pages == other.m_pages &&
-           m_sparePages == other.m_sparePages && m_fotoPool == other.m_fotoPool && look() == other.look();
+           m_author == other.m_author && m_entriesFile == other.m_entriesFile && m_themeId == other.m_themeId &&
+           m_pages == other.m_pages && m_sparePages == other.m_sparePages && m_fotoPool == other.m_fotoPool &&
+           look() == other.look();
 }

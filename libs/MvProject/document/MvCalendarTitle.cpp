@@ -32,9 +32,24 @@ QString MvCalendarTitle::ofRange(const MvDateRange &range)
 
 QString MvCalendarTitle::ofPage(const MvCalendarPage &page)
 {
-    const QDate first = page.contentConfig().date();
-    if (!first.isValid())
+    if (!page.contentConfig().date().isValid())
         return {};
+    switch (page.kind()) {
+    case MvPageKind::Cover:
+        return tr("Titelblatt");
+    case MvPageKind::Back:
+        return tr("Rückseite");
+    case MvPageKind::Free:
+        return tr("%1, weitere Seite").arg(ofMonths(page));
+    case MvPageKind::Month:
+        break;
+    }
+    return ofMonths(page);
+}
+
+QString MvCalendarTitle::ofMonths(const MvCalendarPage &page)
+{
+    const QDate first = page.contentConfig().date();
     const QDate last = first.addMonths(page.monthCount() - 1);
     if (page.monthCount() == 1)
         return monthName(first, u"MMMM"_s);

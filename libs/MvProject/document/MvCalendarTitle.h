@@ -19,6 +19,10 @@ public:
     /// Of a calendar to which nobody has given a title: "Kalender 2027", "Kalender August 2026 bis Juli 2027". Empty
     /// for an invalid range.
     static QString ofRange(const MvDateRange &range);
-    /// The page's months: "August 2026", "2027", "Aug. 2026 – Juli 2027". Empty for a page without a date.
+    /// The page's months: "August 2026", "2027", "Aug. 2026 – Juli 2027", with "weitere Seite" for a free one;
+    /// "Titelblatt" and "Rückseite". Empty for a page without a date.
     static QString ofPage(const MvCalendarPage &page);
+
+private:
+    static QString ofMonths(const MvCalendarPage &page);
 };

@@ -24,8 +24,8 @@ public:
         , m_context(context)
     {}
 
-    /// Paints the element with the number, which is a text, on the veil if it stands on a photo, and notes what does not
-    /// stand whole.
+    /// Paints the element with the number, which is a text, on the veil if it stands on a photo, and notes what does
+    /// not stand whole.
     void paint(QPainter &painter, int number, const MvFotoVeil &veil, MvPageFindings &found) const;
 
     /// What the element prints, a line for each of its lines; empty when nothing of it would be seen.

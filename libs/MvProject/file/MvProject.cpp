@@ -6,6 +6,8 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvUndoCommandDocument.h"
 
+#include <algorithm>
+
 namespace {
 
 /// Device numbers may be others after a restart of the computer; the file is the same all the same.
@@ -22,6 +24,12 @@ QByteArray stampUnder(const QFileInfo &original, const QFileInfo &recovered, con
         return withoutDevice(known) == withoutDevice(present) ? present : known;
     const bool isOlder = original.exists() && original.lastModified() <= recovered.lastModified();
     return isOlder ? present : QByteArrayLiteral("unknown");
+}
+
+bool hasTexts(const MvCalendarPage &page)
+{
+    return std::any_of(page.elements().cbegin(), page.elements().cend(),
+                       [](const MvPageElement &element) { return element.text() != nullptr; });
 }
 
 } // namespace
@@ -115,8 +123,10 @@ void MvProject::apply(const MvCalendarDocument &document)
     if (isReset) {
         Q_EMIT pagesReset();
     } else {
+        const bool isRenamed = !(before.context() == document.context());
         for (int page = 0; page < document.pages().size(); ++page) {
-            if (!(before.pages()[page] == document.pages()[page]))
+            const bool printsNames = isRenamed && hasTexts(document.pages()[page]);
+            if (printsNames || !(before.pages()[page] == document.pages()[page]))
                 Q_EMIT pageChanged(page);
         }
     }

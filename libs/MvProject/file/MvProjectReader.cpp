@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvProjectVocabulary.h"
+#include "MvProject/MvThemeApplication.h"
 #include "MvXML/MvXMLLoader.h"
 #include "MvXML/MvXMLParser.h"
 
@@ -59,6 +60,8 @@ void MvProjectReader::readRoot(const QDomElement &root)
     MvCalendarDocument &document = m_content.document;
     document.setTitle(MvXMLParser::textAttribute(root, titleKey));
     document.setAuthor(MvXMLParser::textAttribute(root, authorKey));
+    if (const QString path = MvXMLParser::textAttribute(root, entriesKey); !path.isEmpty())
+        document.setEntriesFile(QDir::cleanPath(m_file.absoluteDir().absoluteFilePath(path)));
     document.setThemeId(MvXMLParser::textAttribute(root, themeKey));
     document.setFormat(readPaper(root));
     document.setFotoPool(elementReader().readPool(root.firstChildElement(pool)));
@@ -160,11 +163,21 @@ void MvProjectReader::readArrangement(const QDomElement &element, MvCalendarPage
             page.addElement(added);
     page.setSpareElements(reader.readElements(element, spareElement));
     if (const QString id = MvXMLParser::textAttribute(element, templateKey); !id.isEmpty())
-        page.nameTemplate(MvPageTemplate::unknown(id));
+        page.nameTemplate(templateOf(element, id));
     if (const QDomElement child = element.firstChildElement(foto); !child.isNull())
         page.setFotoFrame(readFrame(child));
     if (const QDomElement child = element.firstChildElement(background); !child.isNull())
         page.setBackground(reader.readBackground(child));
+}
+
+/// Elements stand where the file has them; the template decides where they go from there.
+MvPageTemplate MvProjectReader::templateOf(const QDomElement &place, const QString &id)
+{
+    const MvPageTemplate known = MvThemeApplication::pageTemplate(m_content.document.themeId(), id);
+    if (known.isValid())
+        return known;
+    m_notes.add(place, tr("Die Seitenvorlage „%1“ gibt es hier nicht; alles bleibt, wo es steht.").arg(id));
+    return MvPageTemplate::unknown(id);
 }
 
 void MvProjectReader::readAppearance(const QDomElement &element, MvCalendarPage &page)

@@ -31,6 +31,7 @@ private:
     MvCalendarPage readPage(const QDomElement &element);
     /// Template, photo and elements of a page or a spare one.
     void readArrangement(const QDomElement &element, MvCalendarPage &page);
+    MvPageTemplate templateOf(const QDomElement &place, const QString &id);
     void readAppearance(const QDomElement &element, MvCalendarPage &page);
     void readContent(const QDomElement &element, MvCalendarPage &page);
     MvFotoFrame readFrame(const QDomElement &element);

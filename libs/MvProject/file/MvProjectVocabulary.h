@@ -23,6 +23,7 @@ inline const QString authorKey = QStringLiteral("author");
 inline const QString originalKey = QStringLiteral("original");
 inline const QString originalStampKey = QStringLiteral("originalstamp");
 
+inline const QString entriesKey = QStringLiteral("entries");
 inline const QString themeKey = QStringLiteral("theme");
 
 inline const QString paper = QStringLiteral("paper");

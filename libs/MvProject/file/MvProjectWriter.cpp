@@ -72,6 +72,7 @@ QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QStr
     addIfAny(rootElement, titleKey, document.title());
     addIfAny(rootElement, authorKey, document.author());
     m_elements.addIfNew(rootElement, themeKey, document.themeId(), {});
+    m_elements.addIfNew(rootElement, entriesKey, m_elements.pathText(document.entriesFile()), {});
     addIfAny(rootElement, originalKey, originalPath);
     addIfAny(rootElement, originalStampKey, QString::fromLatin1(originalStamp));
     writePaper(rootElement, document.format());
