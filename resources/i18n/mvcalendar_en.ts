@@ -596,6 +596,18 @@
         <source>%1 – %2</source>
         <translation>%1 – %2</translation>
     </message>
+    <message>
+        <source>Titelblatt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rückseite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, weitere Seite</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MvCalendariumColorSchemaEditor</name>
@@ -2614,24 +2626,6 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
-    <name>MvPdfBoxes</name>
-    <message>
-        <source>Die Zwischendatei ist unvollständig</source>
-        <translation>The intermediate file is incomplete</translation>
-    </message>
-</context>
-<context>
-    <name>MvPdfExporter</name>
-    <message>
-        <source>Die Seiten lassen sich nicht zeichnen</source>
-        <translation>The pages cannot be drawn</translation>
-    </message>
-    <message>
-        <source>Seite %1 lässt sich nicht anlegen</source>
-        <translation>Page %1 cannot be created</translation>
-    </message>
-</context>
-<context>
     <name>MvPictureIntake</name>
     <message>
         <source>Das Bild ließ sich nicht umwandeln.</source>
@@ -2934,6 +2928,25 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvProjectPack</name>
+    <message>
+        <source>%1 lässt sich nicht schreiben: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Layout „%1“ ist ein eigenes; auf einem anderen Computer tritt ein anderes an seine Stelle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ist schon da und nicht leer; bitte einen neuen Ordner nennen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>der Ordner lässt sich nicht anlegen</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MvProjectReader</name>
     <message>
         <source>Das ist kein Kalenderprojekt; die Datei beginnt mit „%1“.</source>
@@ -2990,6 +3003,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Eine frühere Fassung liegt daneben: %1</source>
         <translation>An earlier version lies beside it: %1</translation>
+    </message>
+    <message>
+        <source>Die Seitenvorlage „%1“ gibt es hier nicht; alles bleibt, wo es steht.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -4313,6 +4330,17 @@ Designs photo calendars and prints them.
     <message>
         <source>Der Arbeitsspeicher reicht für diese Datei nicht aus.</source>
         <translation>There is not enough memory for this file.</translation>
+    </message>
+</context>
+<context>
+    <name>MvZipWriter</name>
+    <message>
+        <source>Das ist keine Datei, die sich ersetzen lässt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 lässt sich nicht schreiben: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

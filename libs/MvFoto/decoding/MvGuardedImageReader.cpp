@@ -251,8 +251,13 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
         return {};
     QMutexLocker lock(neededMemory(full, target) > largeMemory ? &largeImages() : nullptr);
     const QImage image = decoded(full, target);
-    if (!image.isNull() && !hasRunOut()) // decoders accept truncated files
+    if (!image.isNull() && !hasRunOut()) { // decoders accept truncated files
+        const bool isAsPainted = !image.colorSpace().isValid() || image.colorSpace() == QColorSpace(QColorSpace::SRgb);
+        m_isUnchangedJpeg = m_format == "jpeg" && isAsPainted && target == full && image.size() == full &&
+                            m_reader->transformation() == QImageIOHandler::TransformationNone &&
+                            m_turn == QImageIOHandler::TransformationNone;
         return readyToPaint(image, target);
+    }
     m_error =
         hasRunOut() ? tr("Das Bild zu lesen dauert zu lange.") : tr("Die Datei ist beschädigt oder nicht vollständig.");
     return {};

@@ -58,6 +58,8 @@ public:
     /// The image scaled smoothly, keeping its aspect ratio, to the largest size within the bounds, at least one pixel
     /// wide and high; smaller images grow. Empty bounds: in full size. Null when there is an error. Once only.
     QImage read(const QSize &bounds);
+    /// Whether what was read are the very pixels of a JPEG file: neither scaled nor turned nor converted.
+    bool isUnchangedJpeg() const { return m_isUnchangedJpeg; }
 
     /// Why the image cannot be read, in one sentence; empty as long as nothing speaks against it.
     QString error() const { return m_error; }
@@ -86,5 +88,6 @@ private:
     bool m_isLookedThrough = false;
     int m_scans = 1;
     bool m_mayBeCutOff = false;
+    bool m_isUnchangedJpeg = false;
     QString m_error;
 };

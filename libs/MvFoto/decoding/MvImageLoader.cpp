@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvImageLoader.h"
 
+#include "MvCore/MvRegularFile.h"
 #include "MvFoto/MvGuardedImageReader.h"
 
 #include <QDateTime>
@@ -11,6 +12,7 @@ template class MvSingleton<MvImageLoader>;
 namespace {
 
 constexpr qsizetype mostErrors = 1000; // kept
+constexpr qsizetype mostJpegs = 1000;
 
 MvImageCache::Key keyFor(const QFileInfo &file, const QSize &target)
 {
@@ -38,7 +40,26 @@ QImage MvImageLoader::read(const QFileInfo &file, const QSize &bounds)
             m_errors.clear();
         m_errors.insert(keyFor(file, QSize()), reader.error());
     }
+    if (reader.isUnchangedJpeg()) {
+        const QMutexLocker lock(&m_mutex);
+        if (m_jpegs.size() >= mostJpegs)
+            m_jpegs.clear();
+        m_jpegs.insert(image.cacheKey(), keyFor(file, QSize()));
+    }
     return image;
+}
+
+QByteArray MvImageLoader::jpegOf(const QImage &image)
+{
+    MvImageCache::Key key;
+    {
+        const QMutexLocker lock(&m_mutex);
+        key = m_jpegs.value(image.cacheKey());
+    }
+    if (key.path.isEmpty() || keyFor(QFileInfo(key.path), QSize()) != key)
+        return {};
+    const auto file = MvRegularFile::open(QFileInfo(key.path)).file;
+    return file ? file->readAll() : QByteArray();
 }
 
 QString MvImageLoader::error(const QFileInfo &file)

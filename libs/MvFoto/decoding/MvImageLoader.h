@@ -39,6 +39,10 @@ public:
     /// The same without keeping the image, for what is looked at once.
     QImage loadUncached(const QFileInfo &file, const QSize &bounds);
 
+    /// The content of the JPEG file whose very pixels the image has, so that it need not be packed anew. Empty for any
+    /// other image, also one that was scaled, turned or converted, and when the file has changed since.
+    QByteArray jpegOf(const QImage &image);
+
     /// Why a file gave a null image, in one sentence for a person; empty when nothing is known against it.
     QString error(const QFileInfo &file);
     /// Whether decoding takes no longer than a window may stand still.
@@ -59,6 +63,7 @@ private:
     QImage read(const QFileInfo &file, const QSize &bounds);
 
     MvImageCache m_cache;
-    QMutex m_mutex; // for the errors
+    QMutex m_mutex; // for what follows
     QHash<MvImageCache::Key, QString> m_errors;
+    QHash<qint64, MvImageCache::Key> m_jpegs; // by the cache keys of their images
 };

@@ -2,12 +2,13 @@
 #include "MvPaint/MvGlyphPictures.h"
 
 #include <QCache>
+#include <QFont>
 #include <QGlyphRun>
 #include <QHash>
 #include <QMutex>
 #include <QPainter>
 #include <QRawFont>
-#include <QTextLayout>
+#include <QString>
 
 #include <algorithm>
 #include <cmath>
@@ -22,11 +23,7 @@ constexpr int largeFont = 100; // pixels
 constexpr int mostGlyphs = 500; // kept
 constexpr char16_t firstSymbol = 0x20a0;
 
-struct Glyph
-{
-    QImage image; // null: nothing is seen of it
-    QRectF rect;  // in ems from the glyph's origin
-};
+using Glyph = MvGlyphPictures::Glyph;
 
 struct Key
 {
@@ -75,9 +72,11 @@ Glyph painted(const QRawFont &font, quint32 index, double pixels)
     return {image.copy(rect), {QPointF(rect.topLeft()) / pixels - origin / em, QSizeF(rect.size()) / pixels}};
 }
 
-/// Painted once per font, glyph and size.
-Glyph pictureOf(const QRawFont &font, quint32 index, double pixels)
+} // namespace
+
+Glyph MvGlyphPictures::of(const QRawFont &font, quint32 index)
 {
+    const double pixels = font.pixelSize() < largeFont ? finePixels : largePixels;
     static QMutex mutex;
     static QCache<Key, Glyph> known(mostGlyphs);
     const Key key{font.familyName() + font.styleName(), index, static_cast<int>(pixels)};
@@ -89,8 +88,7 @@ Glyph pictureOf(const QRawFont &font, quint32 index, double pixels)
     return fresh;
 }
 
-/// Whether the font has bitmaps alone.
-bool hasNoOutlines(const QRawFont &font)
+bool MvGlyphPictures::hasNoOutlines(const QRawFont &font)
 {
     static QMutex mutex;
     static QHash<QString, bool> known;
@@ -103,39 +101,8 @@ bool hasNoOutlines(const QRawFont &font)
     return *known.insert(name, isBitmap);
 }
 
-} // namespace
-
-QList<MvTextOutline::Picture> MvGlyphPictures::of(const QFont &font, const QString &text, QPainterPath *path)
+bool MvGlyphPictures::mayBeNeeded(const QFont &font, const QString &text)
 {
-    const bool isFontOfBitmaps = hasNoOutlines(QRawFont::fromFont(font));
-    if (!isFontOfBitmaps &&
-        std::none_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= firstSymbol; }))
-        return {};
-    QTextLayout layout(text, font);
-    layout.beginLayout();
-    const QTextLine line = layout.createLine();
-    layout.endLayout();
-    const QList<QGlyphRun> runs = layout.glyphRuns();
-    if (std::none_of(runs.cbegin(), runs.cend(), [](const QGlyphRun &run) { return hasNoOutlines(run.rawFont()); }))
-        return {};
-
-    QList<MvTextOutline::Picture> pictures;
-    for (const QGlyphRun &run : runs) {
-        const QRawFont raw = run.rawFont();
-        const double em = raw.pixelSize();
-        const bool isBitmap = hasNoOutlines(raw);
-        const QList<quint32> indexes = run.glyphIndexes();
-        const QList<QPointF> positions = run.positions();
-        for (qsizetype i = 0; i < indexes.size(); ++i) {
-            const QPointF origin = positions.at(i) - QPointF(0.0, line.ascent());
-            if (!isBitmap) {
-                path->addPath(raw.pathForGlyph(indexes.at(i)).translated(origin));
-                continue;
-            }
-            const Glyph glyph = pictureOf(raw, indexes.at(i), em < largeFont ? finePixels : largePixels);
-            if (!glyph.image.isNull())
-                pictures.append({glyph.image, {origin + glyph.rect.topLeft() * em, glyph.rect.size() * em}});
-        }
-    }
-    return pictures;
+    return std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() >= firstSymbol; }) ||
+           hasNoOutlines(QRawFont::fromFont(font));
 }

@@ -1,16 +1,27 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvPaint/MvTextOutline.h"
+#include <QImage>
+#include <QRectF>
 
-/// The glyphs of a text that have no outline: emoji and other bitmaps.
+class QFont;
+class QRawFont;
+class QString;
+
+/// Glyphs that have no outline: emoji and other bitmaps. Any thread.
 class MvGlyphPictures
 {
 public:
-    /// With their places in a line whose baseline starts at (0, 0); the path gets the outlines of all others. Nothing
-    /// is given, and the path is left alone, when all glyphs have outlines.
-    ///
-    /// A font of bitmaps is never asked for outlines or for other sizes than its own: that spoils its measures of all
-    /// texts that follow.
-    static QList<MvTextOutline::Picture> of(const QFont &font, const QString &text, QPainterPath *path);
+    struct Glyph
+    {
+        QImage image; // null: nothing is seen of it
+        QRectF rect;  // in ems from the glyph's origin
+    };
+
+    /// Whether a text may need pictures: false where all of its glyphs have outlines for certain.
+    static bool mayBeNeeded(const QFont &font, const QString &text);
+    /// Whether the font has bitmaps alone.
+    static bool hasNoOutlines(const QRawFont &font);
+    /// Fine enough for print; painted once per font, glyph and size.
+    static Glyph of(const QRawFont &font, quint32 index);
 };

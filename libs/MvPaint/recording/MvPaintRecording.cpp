@@ -336,6 +336,21 @@ MvPaintRecording MvPaintRecording::clipped(const QRectF &rect) const
     return MvPaintRecording(MvPaintClipper(*d, rect).clip());
 }
 
+MvPaintRecording MvPaintRecording::part(int first, int count) const
+{
+    const int begin = std::clamp(first, 0, operationCount());
+    const int end = begin + std::clamp(count, 0, operationCount() - begin);
+    auto *some = new MvPaintRecordingData;
+    some->states = d->states;
+    some->operations.assign(d->operations.begin() + begin, d->operations.begin() + end);
+    return MvPaintRecording(some);
+}
+
+const MvPaintRecordingData &MvPaintRecording::data() const
+{
+    return *d;
+}
+
 QList<MvPaintRecording::Item> MvPaintRecording::items() const
 {
     return Lister().list(*d);

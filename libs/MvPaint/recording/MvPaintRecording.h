@@ -77,6 +77,12 @@ public:
     /// coordinates, cut off is gone from the shapes.
     MvPaintRecording clipped(const QRectF &rect) const;
 
+    /// So many operations from the first one on, counted from 0, as a recording of their own.
+    MvPaintRecording part(int first, int count) const;
+
+    /// What it is made of, for whoever writes it in a form of its own. Valid as long as the recording.
+    const MvPaintRecordingData &data() const;
+
     /// The shapes in the order they were painted.
     QList<Item> items() const;
 

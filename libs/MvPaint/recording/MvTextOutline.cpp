@@ -2,7 +2,7 @@
 #include "MvPaint/MvTextOutline.h"
 
 #include "MvCore/MvSharedData.h"
-#include "MvPaint/MvGlyphPictures.h"
+#include "MvPaint/MvGlyphLine.h"
 
 #include <QFontMetricsF>
 #include <QImage>
@@ -18,6 +18,7 @@ struct MvTextOutlineImpl : MvSharedData
     QRectF bounds;
     double advance = 0.0;
     QList<MvTextOutline::Group> groups;
+    QList<MvTextOutline::Glyph> glyphs;
     QList<MvTextOutline::Picture> pictures;
 };
 
@@ -98,13 +99,6 @@ void prepareForThreads(const MvTextOutlineImpl &outline)
     for (const Group &group : outline.groups)
         painter.fillPath(group.path, Qt::black);
 }
-
-QPainterPath shaped(const QFont &font, const QString &text)
-{
-    QPainterPath path;
-    path.addText(0.0, 0.0, font, text);
-    return path;
-}
 } // namespace
 
 MvTextOutline::MvTextOutline()
@@ -114,12 +108,12 @@ MvTextOutline::MvTextOutline()
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text)
     : d(new MvTextOutlineImpl)
 {
-    QPainterPath path;
     const double advance = QFontMetricsF(font).horizontalAdvance(text);
-    const QList<Picture> pictures = MvGlyphPictures::of(font, text, &path);
-    *this = MvTextOutline(font, text, pictures.isEmpty() ? shaped(font, text) : path, advance);
-    d->pictures = pictures;
-    for (const Picture &picture : pictures)
+    const MvGlyphLine line(font, text);
+    *this = MvTextOutline(font, text, line.path(), advance);
+    d->glyphs = line.glyphs();
+    d->pictures = line.pictures();
+    for (const Picture &picture : line.pictures())
         d->bounds |= picture.rect;
 }
 
@@ -162,6 +156,11 @@ QString MvTextOutline::text() const
 const QPainterPath &MvTextOutline::path() const
 {
     return d->path;
+}
+
+const QList<MvTextOutline::Glyph> &MvTextOutline::glyphs() const
+{
+    return d->glyphs;
 }
 
 const QList<MvTextOutline::Picture> &MvTextOutline::pictures() const

@@ -36,6 +36,20 @@ public:
         QRectF rect;  // from the start of the baseline
     };
 
+    /// One glyph of the text. Glyphs with the same face and index have the same shape, whatever their sizes.
+    struct Glyph
+    {
+        int face = 0; ///< a number that stands for a font in any size while the program runs
+        quint32 index = 0;
+        int unitsPerEm = 1000; ///< the grid that the font was drawn on
+        int firstCharacter = 0;
+        int characters = 0; ///< code units of the text that it stands for; 0 when a glyph before stands for them, too
+        double em = 0.0;    ///< in pixels
+        double advance = 0.0;
+        QPointF origin;    ///< from the start of the baseline
+        QPainterPath path; ///< from the glyph's origin; shared by all texts with the glyph
+    };
+
     /// An outline of nothing.
     MvTextOutline();
 
@@ -58,6 +72,10 @@ public:
     QFont font() const;
     QString text() const;
     const QPainterPath &path() const;
+
+    /// The glyphs that make up the path, blanks too, from left to right; empty when that is not known: for an outline
+    /// that was shaped elsewhere, and under decorations.
+    const QList<Glyph> &glyphs() const;
 
     const QList<Picture> &pictures() const;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvTextOutlineCache.h"
 
+#include "MvPaint/MvGlyphLine.h"
+
 #include <QFontMetricsF>
 #include <QGuiApplication>
 
@@ -20,7 +22,10 @@ MvTextOutlineCache::MvTextOutlineCache(int maximumElements)
 void MvTextOutlineCache::setupInstance()
 {
     if (qGuiApp)
-        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [this] { clear(); });
+        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [this] {
+            MvGlyphLine::forgetOutlines();
+            clear();
+        });
 }
 
 MvTextOutlineCache::Key MvTextOutlineCache::key(const QFont &font, const QString &text)

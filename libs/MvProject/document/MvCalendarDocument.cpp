@@ -450,6 +450,7 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
         source.pages = pageDates();
         std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.kinds),
                        [](const MvCalendarPage &page) { return page.kind(); });
+        std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.names), &MvCalendarTitle::ofPage);
     }
     source.paint = [document = *this, sources, found](QPainter &painter, int page) {
         const MvPageFindings findings = document.paint(painter, page, sources);

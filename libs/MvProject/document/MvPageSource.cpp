@@ -11,6 +11,7 @@ MvPageSource MvPageSource::part(const QList<int> &places) const
     MvPageSource some = *this;
     some.pages.clear();
     some.numbers.clear();
+    some.names.clear();
     some.kinds.clear();
     QList<int> taken;
     for (const int place : places) {
@@ -19,6 +20,7 @@ MvPageSource MvPageSource::part(const QList<int> &places) const
         taken.append(place);
         some.pages.append(pages[place]);
         some.numbers.append(number(place));
+        some.names.append(names.value(place));
         some.kinds.append(kind(place));
     }
     if (paint)

@@ -9,6 +9,7 @@
 #include <QDate>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -25,6 +26,8 @@ public:
     QList<int> numbers;
     /// What each page is for, for file names; empty when all are months.
     QList<MvPageKind> kinds;
+    /// What a table of contents calls the pages; empty, or empty for a page, when it is not to name them.
+    QStringList names;
     /// Paints the page with the number, counted from 0, in tenths of a millimetre with the origin at the top left
     /// corner of the trimmed page.
     std::function<void(QPainter &painter, int page)> paint;

@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvPaint/MvGlyphLine.h"
+
+#include "MvPaint/MvGlyphPictures.h"
+
+#include <QCache>
+#include <QGlyphRun>
+#include <QHash>
+#include <QMutex>
+#include <QRawFont>
+#include <QTextLayout>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace {
+
+/// A font in any size.
+struct Face
+{
+    QString family;
+    QString style;
+    int weight = 0;
+    QFont::Style slant = QFont::StyleNormal;
+
+    bool operator==(const Face &) const = default;
+    friend size_t qHash(const Face &face, size_t seed)
+    {
+        return qHashMulti(seed, face.family, face.style, face.weight, int(face.slant));
+    }
+};
+
+struct Key
+{
+    int face;
+    double em;
+    quint32 index;
+
+    bool operator==(const Key &) const = default;
+    friend size_t qHash(const Key &key, size_t seed) { return qHashMulti(seed, key.face, key.em, key.index); }
+};
+
+/// Faces by number, and the outlines of their glyphs, bounded by the number of path elements.
+class Outlines
+{
+public:
+    static Outlines &instance()
+    {
+        static Outlines outlines;
+        return outlines;
+    }
+
+    int numberOf(const QRawFont &font)
+    {
+        const Face face{font.familyName(), font.styleName(), font.weight(), font.style()};
+        const QMutexLocker lock(&m_mutex);
+        const auto found = m_faces.constFind(face);
+        return found != m_faces.cend() ? *found : *m_faces.insert(face, ++m_lastFace);
+    }
+
+    QPainterPath outline(int face, const QRawFont &font, quint32 index)
+    {
+        const Key key{face, font.pixelSize(), index};
+        {
+            const QMutexLocker lock(&m_mutex);
+            if (const QPainterPath *known = m_outlines.object(key))
+                return *known;
+        }
+        const QPainterPath fresh = font.pathForGlyph(index);
+        const QMutexLocker lock(&m_mutex);
+        m_outlines.insert(key, new QPainterPath(fresh), entryCost + fresh.elementCount());
+        return fresh;
+    }
+
+    void forget()
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_faces.clear(); // numbers are not given twice: a name may mean another font now
+        m_outlines.clear();
+    }
+
+private:
+    static constexpr int mostElements = 100'000; // some 3 MB
+    static constexpr int entryCost = 8;
+
+    QMutex m_mutex;
+    QHash<Face, int> m_faces;
+    int m_lastFace = 0;
+    QCache<Key, QPainterPath> m_outlines{mostElements};
+};
+
+bool isDecorated(const QFont &font)
+{
+    return font.underline() || font.overline() || font.strikeOut();
+}
+
+/// The text in the letters that the font's capitalisation makes of it, one for one.
+QString asShown(QString text, QFont::Capitalization capitalization)
+{
+    const bool isUpper = capitalization == QFont::AllUppercase || capitalization == QFont::SmallCaps;
+    if (!isUpper && capitalization != QFont::AllLowercase)
+        return text;
+    for (QChar &letter : text)
+        letter = isUpper ? letter.toUpper() : letter.toLower();
+    return text;
+}
+
+/// By how many characters and glyphs to go on until both are the same again.
+struct Step
+{
+    qsizetype characters;
+    qsizetype glyphs;
+};
+
+std::optional<Step> stepToMatch(const QList<quint32> &characters, qsizetype character, const QList<quint32> &glyphs,
+                                qsizetype glyph)
+{
+    constexpr qsizetype farthest = 6; // longer ligatures are not in use
+    for (qsizetype sum = 0; sum <= 2 * farthest; ++sum) {
+        for (qsizetype step = std::min(sum, farthest); step >= std::max(qsizetype(0), sum - farthest); --step) {
+            const qsizetype c = character + step;
+            const qsizetype g = glyph + sum - step;
+            const bool isEnd = c == characters.size() && g == glyphs.size();
+            if (isEnd || (c < characters.size() && g < glyphs.size() && characters[c] == glyphs[g]))
+                return Step{step, sum - step};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
+    : m_seen(asShown(text, font.capitalization()))
+{
+    m_path.setFillRule(Qt::WindingFill);
+    const bool hasPictures = MvGlyphPictures::mayBeNeeded(font, text);
+    if (isDecorated(font) && !hasPictures) {
+        m_path.addText(0.0, 0.0, font, text);
+        return;
+    }
+    QTextLayout layout(text, font);
+    layout.setCacheEnabled(true);
+    if (!hasPictures) {
+        QTextOption option;
+        option.setUseDesignMetrics(true);
+        layout.setTextOption(option);
+    }
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    if (!line.isValid())
+        return;
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    for (const QGlyphRun &run : runs) {
+        if (hasPictures && MvGlyphPictures::hasNoOutlines(run.rawFont()))
+            addPictures(run, line.ascent());
+        else
+            add(run, line.ascent());
+    }
+}
+
+void MvGlyphLine::add(const QGlyphRun &run, double baseline)
+{
+    const QRawFont font = run.rawFont();
+    const int face = Outlines::instance().numberOf(font);
+    const QList<quint32> indexes = run.glyphIndexes();
+    const QList<QPointF> positions = run.positions();
+    const QList<QPointF> advances = font.advancesForGlyphIndexes(indexes, QRawFont::UseDesignMetrics);
+    const qsizetype first = m_glyphs.size();
+    for (qsizetype i = 0; i < indexes.size(); ++i) {
+        MvTextOutline::Glyph glyph;
+        glyph.face = face;
+        glyph.index = indexes[i];
+        glyph.em = font.pixelSize();
+        glyph.unitsPerEm = static_cast<int>(std::lround(font.unitsPerEm()));
+        glyph.advance = advances.value(i).x();
+        glyph.origin = positions.at(i) - QPointF(0.0, baseline);
+        glyph.path = Outlines::instance().outline(face, font, indexes[i]);
+        m_path.addPath(glyph.path.translated(glyph.origin));
+        m_glyphs.append(glyph);
+    }
+    assignCharacters(run, first);
+}
+
+void MvGlyphLine::addPictures(const QGlyphRun &run, double baseline)
+{
+    const QRawFont font = run.rawFont();
+    const QList<quint32> indexes = run.glyphIndexes();
+    const QList<QPointF> positions = run.positions();
+    for (qsizetype i = 0; i < indexes.size(); ++i) {
+        const MvGlyphPictures::Glyph glyph = MvGlyphPictures::of(font, indexes[i]);
+        const QPointF origin = positions.at(i) - QPointF(0.0, baseline);
+        const double em = font.pixelSize();
+        if (!glyph.image.isNull())
+            m_pictures.append({glyph.image, {origin + glyph.rect.topLeft() * em, glyph.rect.size() * em}});
+    }
+}
+
+void MvGlyphLine::assignCharacters(const QGlyphRun &run, qsizetype first)
+{
+    const QString rest = m_seen.sliced(m_nextCharacter);
+    const QList<quint32> characters = run.rawFont().glyphIndexesForString(rest); // one of each character
+    const QList<quint32> glyphs = run.glyphIndexes();
+    const auto sizeAt = [&rest](qsizetype at) { return at < rest.size() && rest[at].isHighSurrogate() ? 2 : 1; };
+    qsizetype character = 0; // of the characters
+    qsizetype unit = 0;      // of the rest
+    qsizetype glyph = 0;
+    while (glyph < glyphs.size()) {
+        const Step step = stepToMatch(characters, character, glyphs, glyph).value_or(Step{1, 1});
+        const qsizetype start = unit;
+        const bool isSame = step.characters == 0 && step.glyphs == 0;
+        for (qsizetype i = 0; i < (isSame ? 1 : step.characters) && unit < rest.size(); ++i, ++character)
+            unit += sizeAt(unit);
+        // what has no glyph of its own goes to the one before
+        MvTextOutline::Glyph &owner = m_glyphs[std::max(first, first + glyph - (step.glyphs == 0 && !isSame ? 1 : 0))];
+        if (owner.characters == 0)
+            owner.firstCharacter = int(m_nextCharacter + start);
+        owner.characters += int(unit - start);
+        glyph += isSame ? 1 : step.glyphs;
+    }
+    m_nextCharacter += unit;
+}
+
+void MvGlyphLine::forgetOutlines()
+{
+    Outlines::instance().forget();
+}

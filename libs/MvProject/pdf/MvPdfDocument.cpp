@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPdfDocument.h"
+
+#include "MvPaint/MvPaintRecording.h"
+#include "MvPaint/MvPrintableText.h"
+#include "MvProject/MvPdfPagePainter.h"
+#include "MvProject/MvPdfSyntax.h"
+
+#include <QColorSpace>
+#include <QDateTime>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Of the coordinates to a point: whole ones are right to 0.002 mm.
+constexpr double unitsPerPoint = 100.0;
+constexpr double pointsPerInch = 72.0;
+
+/// From the page's system to that of the PDF.
+QByteArray box(const QRectF &rect, const QRectF &media)
+{
+    constexpr double scale = MvPdfDocument::pointsPerTenthMillimetre;
+    QByteArray numbers;
+    MvPdfSyntax::append(numbers, QPointF(rect.left() - media.left(), media.bottom() - rect.bottom()) * scale, 4);
+    MvPdfSyntax::append(numbers, QPointF(rect.right() - media.left(), media.bottom() - rect.top()) * scale, 4);
+    return '[' + numbers + ']';
+}
+
+/// Now, or the date that builds are to be reproducible with (SOURCE_DATE_EPOCH).
+QDateTime dateOfFile()
+{
+    bool isGiven = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);
+    const QDateTime date = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return isGiven && date.isValid() ? date : QDateTime::currentDateTimeUtc();
+}
+
+QString element(const QString &pattern, const QString &text)
+{
+    return text.isEmpty() ? QString() : pattern.arg(text.toHtmlEscaped());
+}
+
+} // namespace
+
+MvPdfDocument::MvPdfDocument(const Description &description)
+    : m_description{MvPrintableText::onOneLine(description.title), MvPrintableText::onOneLine(description.author),
+                    description.language}
+    , m_pageTree(m_file.reserve())
+{}
+
+void MvPdfDocument::addPage(const Page &page, const MvPaintRecording &recording, double dotsPerInch)
+{
+    const double scale = pointsPerInch * unitsPerPoint / dotsPerInch;
+    const QSizeF dots = page.media.size() * (pointsPerTenthMillimetre * unitsPerPoint / scale);
+    const QTransform toUnits =
+        QTransform::fromScale(scale, -scale) *
+        QTransform::fromTranslate(0.0, page.media.height() * pointsPerTenthMillimetre * unitsPerPoint);
+    MvPdfPagePainter painter({m_file, m_fonts, m_images}, toUnits, QRectF(QPointF(), dots));
+    painter.paint(recording);
+
+    const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
+    const int content = m_file.addStream({}, unit + " 0 0 " + unit + " 0 0 cm\n" + painter.content().bytes());
+    const QByteArray media = box(page.media, page.media);
+    m_pages.append(m_file.add("<</Type/Page/Parent " + MvPdfSyntax::reference(m_pageTree) + "/MediaBox" + media +
+                              "/CropBox" + media + "/BleedBox" + media + "/TrimBox" + box(page.trim, page.media) +
+                              (painter.content().isTranslucent() ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") +
+                              "/Contents " + MvPdfSyntax::reference(content) + "/Resources" +
+                              painter.content().resources() + ">>"));
+    if (const QString name = MvPrintableText::onOneLine(page.name); !name.isEmpty())
+        m_bookmarks.append({name, m_pages.last()});
+}
+
+int MvPdfDocument::addBookmarks()
+{
+    const int root = m_file.reserve();
+    QList<int> items;
+    for (qsizetype i = 0; i < m_bookmarks.size(); ++i)
+        items.append(m_file.reserve());
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        QByteArray value = "<</Title" + MvPdfSyntax::text(m_bookmarks[i].name) + "/Parent " +
+                           MvPdfSyntax::reference(root) + "/Dest[" + MvPdfSyntax::reference(m_bookmarks[i].page) +
+                           "/Fit]";
+        if (i > 0)
+            value += "/Prev " + MvPdfSyntax::reference(items[i - 1]);
+        if (i + 1 < items.size())
+            value += "/Next " + MvPdfSyntax::reference(items[i + 1]);
+        m_file.set(items[i], value + ">>");
+    }
+    m_file.set(root, "<</Type/Outlines/First " + MvPdfSyntax::reference(items.first()) + "/Last " +
+                         MvPdfSyntax::reference(items.last()) + "/Count " + QByteArray::number(items.size()) + ">>");
+    return root;
+}
+
+/// Declares that the file's colours are sRGB.
+int MvPdfDocument::addOutputIntent()
+{
+    const int profile = m_file.addStream("/N 3/Alternate/DeviceRGB", QColorSpace(QColorSpace::SRgb).iccProfile());
+    return m_file.add("<</Type/OutputIntent/S/GTS_PDFA1/OutputConditionIdentifier(sRGB IEC61966-2.1)"
+                      "/DestOutputProfile " +
+                      MvPdfSyntax::reference(profile) + ">>");
+}
+
+/// For programs that sort and search files; the same is said in the older form beside it.
+int MvPdfDocument::addMetadata()
+{
+    const QDateTime date = dateOfFile();
+    const QByteArray author = m_description.author.isEmpty() ? "" : "/Author" + MvPdfSyntax::text(m_description.author);
+    m_file.setInformation("<</Title" + MvPdfSyntax::text(m_description.title) + author +
+                          "/Creator(MvCalendar)/CreationDate" +
+                          MvPdfSyntax::string(date.toString(u"'D:'yyyyMMddHHmmss'Z'"_s).toLatin1()) + ">>");
+    const QString packet =
+        u"<?xpacket begin=\"\ufeff\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
+        "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+        "<rdf:Description rdf:about=\"\" xmlns:dc=\"http://purl.org/dc/elements/1.1/\" "
+        "xmlns:xmp=\"http://ns.adobe.com/xap/1.0/\"><dc:format>application/pdf</dc:format>"
+        "<dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">"_s +
+        m_description.title.toHtmlEscaped() + u"</rdf:li></rdf:Alt></dc:title>"_s +
+        element(u"<dc:creator><rdf:Seq><rdf:li>%1</rdf:li></rdf:Seq></dc:creator>"_s, m_description.author) +
+        element(u"<dc:language><rdf:Bag><rdf:li>%1</rdf:li></rdf:Bag></dc:language>"_s, m_description.language) +
+        u"<xmp:CreatorTool>MvCalendar</xmp:CreatorTool><xmp:CreateDate>"_s + date.toString(Qt::ISODate) +
+        u"</xmp:CreateDate></rdf:Description></rdf:RDF></x:xmpmeta>\n<?xpacket end=\"w\"?>"_s;
+    return m_file.addStream("/Type/Metadata/Subtype/XML", packet.toUtf8());
+}
+
+MvOutcome MvPdfDocument::write(const QString &path)
+{
+    m_fonts.finish();
+    QByteArray kids;
+    for (const int page : std::as_const(m_pages))
+        kids += MvPdfSyntax::reference(page) + ' ';
+    m_file.set(m_pageTree, "<</Type/Pages/Kids[" + kids + "]/Count " + QByteArray::number(m_pages.size()) + ">>");
+    const QByteArray bookmarks = m_bookmarks.isEmpty() ? "" : "/Outlines " + MvPdfSyntax::reference(addBookmarks());
+    // a calendar is printed in its true size
+    m_file.setCatalog("<</Type/Catalog/Pages " + MvPdfSyntax::reference(m_pageTree) + bookmarks + "/OutputIntents[" +
+                      MvPdfSyntax::reference(addOutputIntent()) + "]/Metadata " +
+                      MvPdfSyntax::reference(addMetadata()) + "/Lang" + MvPdfSyntax::text(m_description.language) +
+                      "/ViewerPreferences<</DisplayDocTitle true/PrintScaling/None>>>>");
+    return m_file.write(path);
+}

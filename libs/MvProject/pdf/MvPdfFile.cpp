@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPdfFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QHash>
+#include <QTemporaryFile>
+
+#include <algorithm>
+
+#include <qpdf/Pipeline.hh>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFWriter.hh>
+
+namespace {
+
+constexpr qsizetype large = 1 << 15; // bytes
+constexpr qsizetype piece = 1 << 16;
+
+} // namespace
+
+struct MvPdfFile::Private
+{
+    QPDF pdf;
+    QHash<QByteArray, int> once;
+    QTemporaryFile waiting{QDir::tempPath() + QStringLiteral("/mvcalendar-XXXXXX")};
+    QString error;
+
+    QPDFObjectHandle parsed(const QByteArray &value)
+    {
+        try {
+            return QPDFObjectHandle::parse(&pdf, value.toStdString());
+        } catch (const std::exception &exception) {
+            fail(QString::fromLocal8Bit(exception.what()));
+            return QPDFObjectHandle::newNull();
+        }
+    }
+
+    void fail(const QString &reason)
+    {
+        if (error.isEmpty())
+            error = reason;
+    }
+
+    /// Hands a part of what waits on, in pieces.
+    void give(qint64 place, qint64 size, Pipeline *next)
+    {
+        if (!waiting.seek(place))
+            fail(waiting.errorString());
+        while (size > 0) {
+            const QByteArray bytes = waiting.read(std::min(size, qint64(piece)));
+            if (bytes.isEmpty()) {
+                fail(waiting.errorString());
+                break;
+            }
+            next->write(reinterpret_cast<const unsigned char *>(bytes.constData()), size_t(bytes.size()));
+            size -= bytes.size();
+        }
+        next->finish();
+    }
+
+    void setContent(QPDFObjectHandle &stream, const QByteArray &content)
+    {
+        if (content.size() < large) {
+            QPDFObjectHandle dictionary = stream.getDict();
+            stream.replaceStreamData(content.toStdString(), dictionary.getKey("/Filter"),
+                                     dictionary.getKey("/DecodeParms"));
+            return;
+        }
+        if (!waiting.isOpen() && !waiting.open())
+            fail(waiting.errorString());
+        const qint64 place = waiting.size();
+        if (!waiting.seek(place) || waiting.write(content) != content.size())
+            fail(waiting.errorString());
+        stream.replaceStreamData([this, place, size = content.size()](Pipeline *next) { give(place, size, next); },
+                                 stream.getDict().getKey("/Filter"), stream.getDict().getKey("/DecodeParms"));
+    }
+};
+
+MvPdfFile::MvPdfFile()
+    : d(new Private)
+{
+    d->pdf.setSuppressWarnings(true);
+    d->pdf.emptyPDF();
+}
+
+MvPdfFile::~MvPdfFile() = default;
+
+int MvPdfFile::reserve()
+{
+    return d->pdf.makeIndirectObject(QPDFObjectHandle::newNull()).getObjectID();
+}
+
+void MvPdfFile::set(int object, const QByteArray &value)
+{
+    d->pdf.replaceObject(object, 0, d->parsed(value));
+}
+
+int MvPdfFile::add(const QByteArray &value)
+{
+    return d->pdf.makeIndirectObject(d->parsed(value)).getObjectID();
+}
+
+int MvPdfFile::addOnce(const QByteArray &value)
+{
+    const auto known = d->once.constFind(value);
+    return known != d->once.cend() ? *known : *d->once.insert(value, add(value));
+}
+
+int MvPdfFile::addStream(const QByteArray &entries, const QByteArray &content)
+{
+    constexpr int sizeBefore = 4; // bytes of the length that the packed content begins with
+    return addPackedStream(entries + "/Filter/FlateDecode", qCompress(content, 9).sliced(sizeBefore));
+}
+
+int MvPdfFile::addPackedStream(const QByteArray &entries, const QByteArray &content)
+{
+    QPDFObjectHandle stream = QPDFObjectHandle::newStream(&d->pdf);
+    stream.replaceDict(d->parsed("<<" + entries + ">>"));
+    d->setContent(stream, content);
+    return stream.getObjectID();
+}
+
+void MvPdfFile::setCatalog(const QByteArray &value)
+{
+    set(d->pdf.getRoot().getObjectID(), value);
+}
+
+void MvPdfFile::setInformation(const QByteArray &value)
+{
+    d->pdf.getTrailer().replaceKey("/Info", d->pdf.makeIndirectObject(d->parsed(value)));
+}
+
+MvOutcome MvPdfFile::write(const QString &path)
+{
+    try {
+        QPDFWriter writer(d->pdf, QFile::encodeName(path).constData());
+        writer.setObjectStreamMode(qpdf_o_generate);
+        writer.setDeterministicID(true);
+        if (d->error.isEmpty() && (!d->waiting.isOpen() || d->waiting.flush()))
+            writer.write();
+        else
+            d->fail(d->waiting.errorString());
+    } catch (const std::exception &exception) {
+        d->fail(QString::fromLocal8Bit(exception.what()));
+    }
+    return {d->error, {}};
+}

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPdfFonts.h"
+
+#include "MvProject/MvPdfContent.h"
+#include "MvProject/MvPdfFile.h"
+#include "MvProject/MvPdfSyntax.h"
+
+#include <QTransform>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int firstCode = 32;
+constexpr int codeCount = 256 - firstCode;
+
+quint64 keyOf(const MvTextOutline::Glyph &glyph)
+{
+    return quint64(glyph.face) << 32 | glyph.index;
+}
+
+/// The name that readers know: "A", "uni00C4".
+QByteArray nameOf(QStringView characters)
+{
+    if (characters.size() == 1 && QChar::isLetter(characters[0].unicode()) && characters[0].unicode() < 0x80)
+        return QByteArray(1, characters[0].toLatin1());
+    return "uni" + (characters.isEmpty() ? QByteArray("200B") : MvPdfSyntax::utf16(characters));
+}
+
+QByteArray hex(int code)
+{
+    return '<' + QByteArray::number(code, 16).rightJustified(2, '0') + '>';
+}
+
+QList<int> sortedCodes(const auto &codes)
+{
+    QList<int> sorted = codes.keys();
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+} // namespace
+
+MvPdfFonts::Place MvPdfFonts::place(const MvTextOutline::Glyph &glyph, QStringView characters)
+{
+    QList<Known> &known = m_known[keyOf(glyph)];
+    for (const Known &one : std::as_const(known)) {
+        if (one.characters == characters)
+            return one.place;
+    }
+    Font &font = fontFor(glyph);
+    const uchar number = freeCode(font, characters);
+    Code code;
+    code.characters = characters.toString();
+    code.name = nameOf(characters);
+    if (const int again = font.names[code.name]++; again > 0)
+        code.name += '.' + QByteArray::number(again);
+    code.width = int(std::lround(glyph.advance / glyph.em * glyph.unitsPerEm));
+    int &shape = m_shapes[keyOf(glyph)];
+    if (shape == 0)
+        shape = addShape(glyph, code.width);
+    code.shape = shape;
+    font.codes.insert(number, code);
+    const double scale = glyph.unitsPerEm / glyph.em;
+    font.bounds |= QTransform::fromScale(scale, -scale).mapRect(glyph.path.controlPointRect());
+    const Place place{font.object, number, double(code.width) / glyph.unitsPerEm};
+    known.append({code.characters, place});
+    return place;
+}
+
+MvPdfFonts::Font &MvPdfFonts::fontFor(const MvTextOutline::Glyph &glyph)
+{
+    for (Font &font : m_fonts) {
+        if (font.face == glyph.face && font.codes.size() < codeCount)
+            return font;
+    }
+    Font font;
+    font.object = m_file.reserve();
+    font.face = glyph.face;
+    font.unitsPerEm = glyph.unitsPerEm;
+    m_fonts.append(font);
+    return m_fonts.last();
+}
+
+/// That of the character itself where it is free, so that also programs without interest in maps read plain letters.
+uchar MvPdfFonts::freeCode(const Font &font, QStringView characters) const
+{
+    if (characters.size() == 1) {
+        const char16_t own = characters[0].unicode();
+        if (own >= firstCode && own < 0x7f && !font.codes.contains(own))
+            return uchar(own);
+    }
+    int code = 255;
+    while (font.codes.contains(code))
+        --code;
+    return uchar(code);
+}
+
+int MvPdfFonts::addShape(const MvTextOutline::Glyph &glyph, int width)
+{
+    const double scale = glyph.unitsPerEm / glyph.em;
+    MvPdfContent content;
+    content.addPath(QTransform::fromScale(scale, -scale).map(glyph.path), MvPdfContent::Subpaths::AsTheyAre);
+    QByteArray bytes = QByteArray::number(width) + " 0 d0\n" + content.bytes();
+    if (!glyph.path.isEmpty())
+        bytes += "f";
+    return m_file.addStream({}, bytes);
+}
+
+void MvPdfFonts::finish()
+{
+    for (const Font &font : std::as_const(m_fonts))
+        write(font);
+    m_fonts.clear();
+}
+
+void MvPdfFonts::write(const Font &font)
+{
+    const QList<int> codes = sortedCodes(font.codes);
+    QByteArray shapes;
+    QByteArray names;
+    QByteArray widths;
+    int expected = -1;
+    for (const int number : codes) {
+        const Code code = font.codes.value(number);
+        shapes += '/' + code.name + ' ' + MvPdfSyntax::reference(code.shape);
+        if (number != expected)
+            names += ' ' + QByteArray::number(number);
+        names += '/' + code.name;
+        expected = number + 1;
+    }
+    for (int number = codes.first(); number <= codes.last(); ++number)
+        widths += QByteArray::number(font.codes.value(number).width) + ' ';
+    QByteArray bounds;
+    MvPdfSyntax::append(bounds, QPointF(std::floor(font.bounds.left()), std::floor(font.bounds.top())));
+    MvPdfSyntax::append(bounds, QPointF(std::ceil(font.bounds.right()), std::ceil(font.bounds.bottom())));
+    const QByteArray scale = MvPdfSyntax::number(1.0 / font.unitsPerEm, 10);
+    m_file.set(font.object, "<</Type/Font/Subtype/Type3/FontBBox[" + bounds + "]/FontMatrix[" + scale + " 0 0 " +
+                                scale + " 0 0]/CharProcs<<" + shapes + ">>/Encoding<</Type/Encoding/Differences[" +
+                                names + "]>>/FirstChar " + QByteArray::number(codes.first()) + "/LastChar " +
+                                QByteArray::number(codes.last()) + "/Widths[" + widths + "]/Resources<<>>/ToUnicode " +
+                                MvPdfSyntax::reference(addCharacterMap(font)) + ">>");
+}
+
+/// Which characters the codes stand for.
+int MvPdfFonts::addCharacterMap(const Font &font)
+{
+    constexpr qsizetype mostInBlock = 100; // readers need not take more
+    QByteArray map = "/CIDInit /ProcSet findresource begin\n12 dict begin\nbegincmap\n/CIDSystemInfo <</Registry "
+                     "(Adobe)/Ordering (UCS)/Supplement 0>> def\n/CMapName /Adobe-Identity-UCS def\n/CMapType 2 "
+                     "def\n1 begincodespacerange\n<00><ff>\nendcodespacerange\n";
+    QList<int> codes = sortedCodes(font.codes);
+    codes.removeIf([&](int code) { return font.codes.value(code).characters.isEmpty(); });
+    for (qsizetype first = 0; first < codes.size(); first += mostInBlock) {
+        const QList<int> block = codes.sliced(first, std::min(mostInBlock, codes.size() - first));
+        map += QByteArray::number(block.size()) + " beginbfchar\n";
+        for (const int code : block)
+            map += hex(code) + '<' + MvPdfSyntax::utf16(font.codes.value(code).characters) + ">\n";
+        map += "endbfchar\n";
+    }
+    map += "endcmap\nCMapName currentdict /CMap defineresource pop\nend\nend";
+    return m_file.addStream({}, map);
+}

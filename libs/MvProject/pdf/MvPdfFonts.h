@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvPaint/MvTextOutline.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QString>
+
+class MvPdfFile;
+
+/// Glyphs as fonts of the PDF itself: every glyph is drawn once per document, as its outline, and texts can be searched
+/// and copied, since each code says which characters it stands for.
+///
+/// The glyphs are procedures (fonts of type 3) that take the colour of the text, and no cached bitmaps: so they come
+/// out like the same outline drawn as a path.
+class MvPdfFonts
+{
+public:
+    /// Where a glyph is found.
+    struct Place
+    {
+        int font = 0; // its object
+        uchar code = 0;
+        double width = 0.0; // in ems
+    };
+
+    /// The file outlives it.
+    explicit MvPdfFonts(MvPdfFile &file)
+        : m_file(file)
+    {}
+
+    /// Takes the glyph in if it is new; the same glyph for other characters has a code of its own.
+    Place place(const MvTextOutline::Glyph &glyph, QStringView characters);
+
+    /// Writes the fonts. Nothing may be placed after.
+    void finish();
+
+private:
+    struct Code
+    {
+        QByteArray name;
+        QString characters;
+        int shape = 0; // object of its procedure
+        int width = 0; // in units of the em
+    };
+    struct Font
+    {
+        int object = 0;
+        int face = 0;
+        int unitsPerEm = 0;
+        QHash<int, Code> codes;
+        QHash<QByteArray, int> names; // how often a name was wanted
+        QRectF bounds;
+    };
+    struct Known
+    {
+        QString characters;
+        Place place;
+    };
+
+    Font &fontFor(const MvTextOutline::Glyph &glyph);
+    uchar freeCode(const Font &font, QStringView characters) const;
+    int addShape(const MvTextOutline::Glyph &glyph, int width);
+    void write(const Font &font);
+    int addCharacterMap(const Font &font);
+
+    MvPdfFile &m_file;
+    QList<Font> m_fonts;
+    QHash<quint64, QList<Known>> m_known; // by face and index
+    QHash<quint64, int> m_shapes;
+};

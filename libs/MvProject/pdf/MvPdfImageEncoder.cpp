@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPdfImageEncoder.h"
+
+#include "MvProject/MvPdfJpeg.h"
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageWriter>
+#include <QtEndian>
+
+#include <algorithm>
+
+namespace {
+
+QByteArray entriesOf(const QSize &size, bool isGray, const QByteArray &filter)
+{
+    return "/Type/XObject/Subtype/Image/BitsPerComponent 8/Width " + QByteArray::number(size.width()) + "/Height " +
+           QByteArray::number(size.height()) + "/ColorSpace" + (isGray ? "/DeviceGray" : "/DeviceRGB") + filter;
+}
+
+bool isGray(const QImage &image)
+{
+    return image.format() == QImage::Format_Grayscale8;
+}
+
+QByteArray written(const QImage &image, const char *format, int quality)
+{
+    QBuffer buffer;
+    QImageWriter writer(&buffer, format);
+    writer.setQuality(quality);
+    return writer.write(image) ? buffer.data() : QByteArray();
+}
+
+/// The packed pixels of a PNG file, whose form PDF knows as well.
+QByteArray pixelsOfPng(const QByteArray &png)
+{
+    constexpr qsizetype signature = 8;
+    constexpr qsizetype around = 12; // length, name and checksum
+    QByteArray pixels;
+    for (qsizetype at = signature; at + around <= png.size();) {
+        const auto size = qsizetype(qFromBigEndian<quint32>(png.constData() + at));
+        if (png.sliced(at + 4, 4) == "IDAT")
+            pixels += png.sliced(at + 8, size);
+        at += size + around;
+    }
+    return pixels;
+}
+
+QImage withoutColorSpace(QImage image)
+{
+    image.setColorSpace({});
+    return image;
+}
+
+} // namespace
+
+bool MvPdfImageEncoder::isTranslucent(const QImage &image)
+{
+    if (!image.hasAlphaChannel())
+        return false;
+    const QImage alpha = image.convertToFormat(QImage::Format_Alpha8);
+    for (int y = 0; y < alpha.height(); ++y) {
+        const uchar *line = alpha.constScanLine(y);
+        if (std::any_of(line, line + alpha.width(), [](uchar value) { return value != 255; }))
+            return true;
+    }
+    return false;
+}
+
+MvPdfImageEncoder::Stream MvPdfImageEncoder::colors(const QImage &image)
+{
+    const QImage plain =
+        withoutColorSpace(image.convertToFormat(image.allGray() ? QImage::Format_Grayscale8 : QImage::Format_RGB888));
+    return isTranslucent(image) || isFlat(plain) ? lossless(plain) : jpeg(plain);
+}
+
+MvPdfImageEncoder::Stream MvPdfImageEncoder::opacity(const QImage &image)
+{
+    const QImage alpha = image.convertToFormat(QImage::Format_Alpha8);
+    const QImage gray(alpha.constBits(), alpha.width(), alpha.height(), alpha.bytesPerLine(),
+                      QImage::Format_Grayscale8);
+    return lossless(gray);
+}
+
+MvPdfImageEncoder::Stream MvPdfImageEncoder::jpeg(const QImage &image)
+{
+    return {entriesOf(image.size(), isGray(image), "/Filter/DCTDecode"), written(image, "jpeg", quality)};
+}
+
+MvPdfImageEncoder::Stream MvPdfImageEncoder::stored(const MvPdfJpeg &jpeg)
+{
+    return {entriesOf(jpeg.size(), jpeg.isGray(), "/Filter/DCTDecode"), jpeg.content()};
+}
+
+MvPdfImageEncoder::Stream MvPdfImageEncoder::lossless(const QImage &image)
+{
+    constexpr int defaultLevel = -1;
+    const QByteArray colors = isGray(image) ? "1" : "3";
+    return {entriesOf(image.size(), isGray(image),
+                      "/Filter/FlateDecode/DecodeParms<</Predictor 15/Colors " + colors + "/Columns " +
+                          QByteArray::number(image.width()) + ">>"),
+            pixelsOfPng(written(image, "png", defaultLevel))};
+}
+
+/// Looks at some of the rows.
+bool MvPdfImageEncoder::isFlat(const QImage &image)
+{
+    constexpr int small = 64; // pixels
+    constexpr int rows = 64;
+    constexpr qsizetype flatRatio = 4; // photographs do not pack that well
+    if (image.width() <= small && image.height() <= small)
+        return true;
+    QByteArray sample;
+    for (int y = 0; y < image.height(); y += std::max(1, image.height() / rows))
+        sample.append(reinterpret_cast<const char *>(image.constScanLine(y)),
+                      qsizetype(image.width()) * image.depth() / 8);
+    return qCompress(sample, 1).size() * flatRatio < sample.size();
+}

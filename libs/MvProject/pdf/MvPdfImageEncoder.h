@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+class MvPdfJpeg;
+
+/// Packs pictures for a PDF: photographs as JPEG, what has few colours or large areas of one without any loss.
+class MvPdfImageEncoder
+{
+public:
+    static constexpr int quality = 92; // of JPEG
+
+    /// An image stream: what its dictionary says, without a mask, and its bytes.
+    struct Stream
+    {
+        QByteArray entries;
+        QByteArray content;
+    };
+
+    /// The colours; what is translucent keeps its colour and is never packed with losses.
+    static Stream colors(const QImage &image);
+    /// The opacity as shades of grey.
+    static Stream opacity(const QImage &image);
+    /// A file that is taken in as it is.
+    static Stream stored(const MvPdfJpeg &jpeg);
+    /// Whether any pixel is not opaque.
+    static bool isTranslucent(const QImage &image);
+
+private:
+    static Stream jpeg(const QImage &image);
+    static Stream lossless(const QImage &image);
+    static bool isFlat(const QImage &image);
+};

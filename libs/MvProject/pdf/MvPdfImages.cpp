@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPdfImages.h"
+
+#include "MvFoto/MvImageLoader.h"
+#include "MvProject/MvPdfFile.h"
+#include "MvProject/MvPdfImageEncoder.h"
+#include "MvProject/MvPdfJpeg.h"
+#include "MvProject/MvPdfSyntax.h"
+
+#include <QCryptographicHash>
+
+namespace {
+
+QByteArray hashOf(const QImage &image)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    const int head[] = {image.width(), image.height(), int(image.format())};
+    hash.addData(QByteArrayView(reinterpret_cast<const char *>(head), sizeof(head)));
+    const qsizetype width = (qsizetype(image.width()) * image.depth() + 7) / 8; // lines may have more behind
+    for (int y = 0; y < image.height(); ++y)
+        hash.addData(QByteArrayView(reinterpret_cast<const char *>(image.constScanLine(y)), width));
+    return hash.result();
+}
+
+/// Without colour tables and other forms that only some pictures have.
+QImage plain(const QImage &image)
+{
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
+}
+
+} // namespace
+
+int MvPdfImages::object(const QImage &image, const QRect &part, const QSize &needed)
+{
+    const Use use{image.cacheKey(), part, needed};
+    if (const auto known = m_uses.constFind(use); known != m_uses.cend())
+        return *known;
+    QImage seen = part == image.rect() ? image : image.copy(part);
+    if (constexpr double much = 1.5; seen.width() > much * needed.width() && seen.height() > much * needed.height())
+        seen = seen.scaled(needed.expandedTo({1, 1}), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    seen = plain(seen); // which leaves those as they are that come from a file
+    const QByteArray hash = hashOf(seen);
+    const auto known = m_contents.constFind(hash);
+    const int object = known != m_contents.cend() ? *known : *m_contents.insert(hash, add(seen));
+    m_uses.insert(use, object);
+    return object;
+}
+
+int MvPdfImages::add(const QImage &image)
+{
+    if (const MvPdfJpeg jpeg(MvImageLoader::instance().jpegOf(image));
+        !jpeg.content().isEmpty() && jpeg.size() == image.size()) {
+        const MvPdfImageEncoder::Stream stored = MvPdfImageEncoder::stored(jpeg);
+        return m_file.addPackedStream(stored.entries, stored.content);
+    }
+    MvPdfImageEncoder::Stream colors = MvPdfImageEncoder::colors(image);
+    if (MvPdfImageEncoder::isTranslucent(image)) {
+        const MvPdfImageEncoder::Stream opacity = MvPdfImageEncoder::opacity(image);
+        colors.entries += "/SMask " + MvPdfSyntax::reference(m_file.addPackedStream(opacity.entries, opacity.content));
+    }
+    return m_file.addPackedStream(colors.entries, colors.content);
+}
