@@ -24,6 +24,20 @@ constexpr double pixelsPerUnit = 0.8; // some 200 dots per inch for the photos o
 
 constexpr int mostShapes = 24; // pages whose shapes are painted within a moment
 
+/// Gives the photos that were loaded beforehand, whatever size is asked for.
+class LoadedFotos : public MvFotoSource
+{
+public:
+    explicit LoadedFotos(const QHash<QString, QImage> &images)
+        : m_images(images)
+    {}
+
+    QImage scaled(const QFileInfo &file, const QSize &) override { return m_images.value(file.filePath()); }
+
+private:
+    const QHash<QString, QImage> &m_images;
+};
+
 /// For so many images.
 QSize boundsFor(qsizetype count)
 {
@@ -51,8 +65,8 @@ void MvPrintPages::start()
 {
     QSet<QString> paths;
     for (const MvCalendarPage &page : m_document.pages()) {
-        if (page.fotoFrame().isValid())
-            paths.insert(page.fotoFrame().path());
+        for (const QString &path : page.fotoPaths())
+            paths.insert(path);
     }
     m_pathCount = int(paths.size());
     m_fotoBounds = boundsFor(paths.size());
@@ -129,11 +143,8 @@ void MvPrintPages::paintPage(QPainter &painter, int number) const
 {
     const MvCalendarPage &page = m_document.pages().at(number);
     page.paintGround(painter, m_document.format());
-    const QImage foto = m_images.value(page.fotoFrame().path());
-    if (!foto.isNull()) {
-        const QRectF rect = page.fotoFrame().rect(m_document.format());
-        painter.drawImage(rect, foto, page.fotoFrame().crop(foto.size(), rect.size()));
-    }
+    LoadedFotos fotos(m_images);
+    page.paintFoto(painter, m_document.format(), fotos);
     if (m_recordings.at(number))
         m_recordings.at(number)->replay(painter);
 }

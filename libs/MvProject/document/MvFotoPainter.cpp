@@ -47,6 +47,7 @@ void MvFotoPainter::paint(const QRectF &rect, double rotation)
     m_painter.translate(rect.center());
     m_painter.rotate(rotation);
     m_painter.translate(-rect.center());
+    m_isTilted = true;
     paintUpright(rect);
     m_painter.restore();
 }
@@ -88,47 +89,61 @@ QImage MvFotoPainter::decode(const QSize &full, double devicePixelsPerFotoPixel)
     return m_fotos.scaled(file, isLarger ? QSize(side, side) : full);
 }
 
+/// A photo with a border ends beneath it, so that nothing of it shines through beside the border.
 void MvFotoPainter::draw(const QImage &image, const QSize &full, const QRectF &rect)
 {
-    const QRectF covered = m_foto.covered(full, rect.size()).translated(rect.topLeft());
-    if (m_foto.straightening() != 0.0) {
-        const QImage part = straightened(image, full, rect);
-        return drawCropped(part, part.rect(), covered);
+    const QRectF covered = m_foto.covered(full, rect.size());
+    const double inset = borderWidth(covered) / 2.0;
+    const QRectF shown = covered.adjusted(inset, inset, -inset, -inset);
+    if (m_foto.straightening() != 0.0 || m_isTilted) { // not every target can turn or clip images
+        m_painter.save();
+        m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        m_painter.drawImage(shown.translated(rect.topLeft()), seenIn(shown, rect.size(), image, full));
+        m_painter.restore();
+        return;
     }
     const QRectF seen = m_foto.crop(full, rect.size());
     const double scale = double(image.width()) / full.width();
+    const double beneath = inset * seen.width() / covered.width();
     const QImage turned = m_foto.quarterTurns() == 0
                               ? image
                               : image.transformed(QTransform().rotate(degreesPerQuarter * m_foto.quarterTurns()));
-    drawCropped(turned, {seen.topLeft() * scale, seen.size() * scale}, covered);
+    const QRectF seenShown = seen.adjusted(beneath, beneath, -beneath, -beneath);
+    drawCropped(turned, {seenShown.topLeft() * scale, seenShown.size() * scale}, shown.translated(rect.topLeft()));
 }
 
-/// The part that is seen, in about as many pixels as the image has for it: not every target can turn images.
-QImage MvFotoPainter::straightened(const QImage &image, const QSize &full, const QRectF &rect) const
+QImage MvFotoPainter::seenIn(const QRectF &part, const QSizeF &frame, const QImage &image, const QSize &full) const
 {
-    const double pixelsPerFotoPixel = double(image.width()) / full.width();
-    const QSizeF size = m_foto.seenSize(full, rect.size()) * pixelsPerFotoPixel;
-    QImage part(std::max(1, int(std::lround(size.width()))), std::max(1, int(std::lround(size.height()))),
-                QImage::Format_RGB32);
-    part.fill(Qt::white);
-    const QRectF covered = m_foto.covered(full, rect.size());
-    QPainter painter(&part);
+    const double pixelsPerUnit =
+        m_foto.seenSize(full, frame).width() / m_foto.covered(full, frame).width() * image.width() / full.width();
+    const auto pixels = [pixelsPerUnit](double length) {
+        return std::max(1, int(std::lround(length * pixelsPerUnit)));
+    };
+    QImage seen(pixels(part.width()), pixels(part.height()),
+                image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    seen.fill(Qt::transparent);
+    QPainter painter(&seen);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.scale(part.width() / covered.width(), part.height() / covered.height());
-    painter.translate(-covered.topLeft());
-    painter.setTransform(m_foto.transform(full, rect.size()), true);
+    painter.scale(seen.width() / part.width(), seen.height() / part.height());
+    painter.translate(-part.topLeft());
+    painter.setTransform(m_foto.transform(full, frame), true);
     painter.drawImage(QRectF(QPointF(), QSizeF(full)), image);
-    return part;
+    return seen;
 }
 
-void MvFotoPainter::drawBorder(const QRectF &rect)
+double MvFotoPainter::borderWidth(const QRectF &covered) const
 {
-    const double width = std::min({m_foto.border().width, rect.width() / 2.0, rect.height() / 2.0});
-    if (width <= 0.0 || !m_foto.border().color.isValid())
+    return std::min({m_foto.border().width, covered.width() / 2.0, covered.height() / 2.0});
+}
+
+void MvFotoPainter::drawBorder(const QRectF &covered)
+{
+    const double width = borderWidth(covered);
+    if (width <= 0.0)
         return;
     QPainterPath ring; // odd-even: the inner rectangle is left out
-    ring.addRect(rect);
-    ring.addRect(rect.adjusted(width, width, -width, -width));
+    ring.addRect(covered);
+    ring.addRect(covered.adjusted(width, width, -width, -width));
     m_painter.fillPath(ring, m_foto.border().color);
 }
 

@@ -33,11 +33,14 @@ private:
     QImage decode(const QSize &full, double devicePixelsPerFotoPixel) const;
     void draw(const QImage &image, const QSize &full, const QRectF &rect);
     void drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect);
-    QImage straightened(const QImage &image, const QSize &full, const QRectF &rect) const;
-    void drawBorder(const QRectF &rect);
+    /// What is seen in the part of a frame of the size, in about as many pixels as the image has for it.
+    QImage seenIn(const QRectF &part, const QSizeF &frame, const QImage &image, const QSize &full) const;
+    double borderWidth(const QRectF &covered) const;
+    void drawBorder(const QRectF &covered);
     void paintPlaceholder(const QRectF &rect, bool isNamed);
 
     QPainter &m_painter;
     const MvFotoElement &m_foto;
     MvFotoSource &m_fotos;
+    bool m_isTilted = false;
 };
