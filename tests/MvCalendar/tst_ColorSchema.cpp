@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarCellColorInfo.h"
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
@@ -305,13 +306,12 @@ void tst_ColorSchema::userFiles()
         areas = document.toString();
     }
     const QTemporaryDir folder;
-    QFile file(folder.filePath(u"colors.xml"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write((u"<s>"_s + areas + u"</s>"_s).toUtf8()) > 0);
-    file.close();
+    const QString file = folder.filePath(u"colors.xml"_s);
+    QVERIFY(MvTestFiles::write(file, (u"<s>"_s + areas + u"</s>"_s).toUtf8()));
     for (const QString &warning : warnings)
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning));
     const auto registry = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
-    registry->read(QFileInfo(file.fileName()), SCHEMA_VISIBILITY_OFFERED);
+    registry->read(QFileInfo(file), SCHEMA_VISIBILITY_OFFERED);
     registry->read(shipped, SCHEMA_VISIBILITY_OFFERED);
     const auto ids = [](const QList<MvCalendariumColorSchemaID> &list) {
         QSet<QString> texts;

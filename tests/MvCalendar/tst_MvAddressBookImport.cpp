@@ -2,6 +2,7 @@
 #include "MvCalendar/MvAddressBookImport.h"
 #include "MvFoto/MvImageLoader.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -66,9 +67,8 @@ void tst_MvAddressBookImport::init()
 
 QFileInfo tst_MvAddressBookImport::write(const QByteArray &cards) const
 {
-    QFile file(m_dir->filePath(u"karten.vcf"_s));
-    return file.open(QIODevice::WriteOnly) && file.write(cards) == cards.size() ? QFileInfo(file.fileName())
-                                                                                : QFileInfo();
+    const QString path = m_dir->filePath(u"karten.vcf"_s);
+    return MvTestFiles::write(path, cards) ? QFileInfo(path) : QFileInfo();
 }
 
 void tst_MvAddressBookImport::fotos_data()

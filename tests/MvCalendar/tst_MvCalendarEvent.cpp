@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEvent.h"
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -14,6 +15,8 @@
 
 #include <csignal>
 #include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
 
 using MvEntries::entry;
 
@@ -47,7 +50,6 @@ private Q_SLOTS:
 
 private:
     QString outside(const QString &name) const { return m_outside->filePath(name); }
-    static void putImage(const QString &path, const QSize &size = {16, 12});
 
     std::unique_ptr<QTemporaryDir> m_data;
     std::unique_ptr<QTemporaryDir> m_outside;
@@ -61,19 +63,11 @@ static QDomElement parsed(QDomDocument &document, const QString &xml)
 
 void tst_MvCalendarEvent::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
     m_data = std::make_unique<QTemporaryDir>();
     m_outside = std::make_unique<QTemporaryDir>();
     QVERIFY(m_data->isValid() && m_outside->isValid());
-    MvDirectoryConfig::instance().setProgramDataDir(m_data->filePath(u"mv"_qs));
-}
-
-void tst_MvCalendarEvent::putImage(const QString &path, const QSize &size)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QVERIFY(QFileInfo(path).dir().mkpath(u"."_qs));
-    QVERIFY(image.save(path));
+    MvDirectoryConfig::instance().setProgramDataDir(m_data->filePath(u"mv"_s));
 }
 
 void tst_MvCalendarEvent::isAtDay_data()
@@ -98,7 +92,7 @@ void tst_MvCalendarEvent::isAtDay()
     QFETCH(QDate, date);
     QFETCH(bool, recurrent);
     QFETCH(QDate, day);
-    const MvCalendarEvent event = entry(u"x"_qs, date, {}, recurrent);
+    const MvCalendarEvent event = entry(u"x"_s, date, {}, recurrent);
     QTEST(event.isAtDay(day), "isAtDay");
     QVERIFY(event.isRecurrent()); // whatever is stored
     QCOMPARE(event.storedRecurrent(), recurrent);
@@ -108,11 +102,10 @@ void tst_MvCalendarEvent::sortsByDay_data()
 {
     QTest::addColumn<QString>("column");
     QTest::addColumn<QStringList>("names");
-    QTest::newRow("date") << u"date"_qs << QStringList{u"Cäsar"_qs, u"anna"_qs, u"Anna"_qs, u"Berta"_qs};
-    QTest::newRow("name, capitals first")
-        << u"name"_qs << QStringList{u"Anna"_qs, u"Berta"_qs, u"Cäsar"_qs, u"anna"_qs};
+    QTest::newRow("date") << u"date"_s << QStringList{u"Cäsar"_s, u"anna"_s, u"Anna"_s, u"Berta"_s};
+    QTest::newRow("name, capitals first") << u"name"_s << QStringList{u"Anna"_s, u"Berta"_s, u"Cäsar"_s, u"anna"_s};
     // the stored flag decides in the base order although every entry is called recurrent
-    QTest::newRow("recurrent") << u"recurrent"_qs << QStringList{u"anna"_qs, u"Anna"_qs, u"Berta"_qs, u"Cäsar"_qs};
+    QTest::newRow("recurrent") << u"recurrent"_s << QStringList{u"anna"_s, u"Anna"_s, u"Berta"_s, u"Cäsar"_s};
 }
 
 void tst_MvCalendarEvent::sortsByDay()
@@ -121,13 +114,13 @@ void tst_MvCalendarEvent::sortsByDay()
     QFETCH(QStringList, names);
     using Comparator = bool (*)(const MvCalendarEvent &, const MvCalendarEvent &);
     const QHash<QString, std::pair<Comparator, Comparator>> comparators = {
-        {u"date"_qs, {MvCalendarEvent::lessThanDate, MvCalendarEvent::greaterThanDate}},
-        {u"name"_qs, {MvCalendarEvent::lessThanName, MvCalendarEvent::greaterThanName}},
-        {u"recurrent"_qs, {MvCalendarEvent::lessThanRecurrent, MvCalendarEvent::greaterThanRecurrent}},
+        {u"date"_s, {MvCalendarEvent::lessThanDate, MvCalendarEvent::greaterThanDate}},
+        {u"name"_s, {MvCalendarEvent::lessThanName, MvCalendarEvent::greaterThanName}},
+        {u"recurrent"_s, {MvCalendarEvent::lessThanRecurrent, MvCalendarEvent::greaterThanRecurrent}},
     };
-    QList<MvCalendarEvent> events = {entry(u"Anna"_qs, QDate(1980, 2, 1)), entry(u"Berta"_qs, QDate(1930, 12, 31)),
-                                     entry(u"Cäsar"_qs, QDate(2001, 1, 31)),
-                                     entry(u"anna"_qs, QDate(2020, 1, 31), {}, false)};
+    QList<MvCalendarEvent> events = {entry(u"Anna"_s, QDate(1980, 2, 1)), entry(u"Berta"_s, QDate(1930, 12, 31)),
+                                     entry(u"Cäsar"_s, QDate(2001, 1, 31)),
+                                     entry(u"anna"_s, QDate(2020, 1, 31), {}, false)};
     std::stable_sort(events.begin(), events.end(), comparators.value(column).first);
     QStringList sorted;
     for (const MvCalendarEvent &event : std::as_const(events))
@@ -142,53 +135,53 @@ void tst_MvCalendarEvent::sortsByDay()
 void tst_MvCalendarEvent::baseOrder()
 {
     const QDate day(2000, 1, 1);
-    const QList<MvCalendarEvent> ascending = {entry(u"Z"_qs, day, {}, false), entry(u"A"_qs, day),
-                                              entry(u"A"_qs, day.addDays(1)), entry(u"B"_qs, day), MvCalendarEvent()};
+    const QList<MvCalendarEvent> ascending = {entry(u"Z"_s, day, {}, false), entry(u"A"_s, day),
+                                              entry(u"A"_s, day.addDays(1)), entry(u"B"_s, day), MvCalendarEvent()};
     for (qsizetype i = 0; i < ascending.size(); ++i) {
         for (qsizetype k = 0; k < ascending.size(); ++k)
             QCOMPARE(ascending.at(i) < ascending.at(k), i < k);
     }
-    putImage(MvCalendarEvent::imageDirectory().filePath(u"a.png"_qs));
+    QVERIFY(MvTestFiles::writeFoto(MvCalendarEvent::imageDirectory().filePath(u"a.png"_s)));
     MvCalendarEvent withFoto = ascending.at(1);
-    withFoto.setFoto(MvFoto(QFileInfo(MvCalendarEvent::imageDirectory().filePath(u"a.png"_qs))));
+    withFoto.setFoto(MvFoto(QFileInfo(MvCalendarEvent::imageDirectory().filePath(u"a.png"_s))));
     QVERIFY(!(withFoto == ascending.at(1)));
     QVERIFY(!(withFoto < ascending.at(1)) && !(ascending.at(1) < withFoto)); // the photo never decides
 }
 
 void tst_MvCalendarEvent::comparesWithoutUuid()
 {
-    const MvCalendarEvent a = entry(u"A"_qs, QDate(2000, 1, 1));
-    const MvCalendarEvent b = entry(u"A"_qs, QDate(2000, 1, 1));
+    const MvCalendarEvent a = entry(u"A"_s, QDate(2000, 1, 1));
+    const MvCalendarEvent b = entry(u"A"_s, QDate(2000, 1, 1));
     QVERIFY(a.uuid() != b.uuid());
     QVERIFY(a == b);
     QCOMPARE(qHash(a), qHash(b));
-    QVERIFY(!(a == entry(u"A"_qs, QDate(2000, 1, 1), {}, false)));
-    QVERIFY(!(a == entry(u"a"_qs, QDate(2000, 1, 1))));
+    QVERIFY(!(a == entry(u"A"_s, QDate(2000, 1, 1), {}, false)));
+    QVERIFY(!(a == entry(u"a"_s, QDate(2000, 1, 1))));
 }
 
 void tst_MvCalendarEvent::textForms()
 {
-    const QUuid uuid(u"{11111111-2222-3333-4444-555555555555}"_qs);
-    MvCalendarEvent event(u"Oma"_qs, QDate(1941, 3, 9).startOfDay(), false, MvFoto(), uuid, QDateTime());
-    QCOMPARE(event.longDescription(), u"09.03.41: \"Oma\""_qs);
-    const QString debug = u"09.03.41: \"Oma\" 1 {11111111-2222-3333-4444-555555555555}"_qs;
+    const QUuid uuid(u"{11111111-2222-3333-4444-555555555555}"_s);
+    MvCalendarEvent event(u"Oma"_s, QDate(1941, 3, 9).startOfDay(), false, MvFoto(), uuid, QDateTime());
+    QCOMPARE(event.longDescription(), u"09.03.41: \"Oma\""_s);
+    const QString debug = u"09.03.41: \"Oma\" 1 {11111111-2222-3333-4444-555555555555}"_s;
     QCOMPARE(event.debugString(), debug);
     QString written;
     QDebug(&written) << event;
     QCOMPARE(written.trimmed(), debug);
 
     event.setDateTime(QDate(MvCalendarEvent::unknownYear, 3, 9).startOfDay());
-    for (const auto &[locale, day] : {std::pair{u"de_DE"_qs, u"09.03."_qs},
-                                      {u"en_GB"_qs, u"09/03"_qs},
-                                      {u"en_US"_qs, u"3/9"_qs},
-                                      {u"hu_HU"_qs, u"03. 09."_qs},
-                                      {u"sv_SE"_qs, u"03-09"_qs},
-                                      {u"nl_NL"_qs, u"09-03"_qs}}) {
+    for (const auto &[locale, day] : {std::pair{u"de_DE"_s, u"09.03."_s},
+                                      {u"en_GB"_s, u"09/03"_s},
+                                      {u"en_US"_s, u"3/9"_s},
+                                      {u"hu_HU"_s, u"03. 09."_s},
+                                      {u"sv_SE"_s, u"03-09"_s},
+                                      {u"nl_NL"_s, u"09-03"_s}}) {
         const QLocale before;
         QLocale::setDefault(QLocale(locale));
         const QString text = event.longDescription();
         QLocale::setDefault(before);
-        QCOMPARE(text, day + u": \"Oma\""_qs);
+        QCOMPARE(text, day + u": \"Oma\""_s);
     }
 }
 
@@ -197,18 +190,18 @@ void tst_MvCalendarEvent::roundTrip_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("readName");
     const auto same = [](const char *what, const QString &name) { QTest::newRow(what) << name << name; };
-    same("umlauts", u"Jörg Weiß, Ærø"_qs);
-    same("emoji of several parts", u"Oma \U0001F469\u200d\U0001F467 \U0001F382"_qs);
-    same("markup", u"<b>&amp; \"Kurt\" 'x' ]]> -->"_qs);
-    same("line feed and tab", u"a\nb\tc"_qs);
-    same("carriage return", u"a\rb"_qs);
-    same("blanks around", u"  Anna  "_qs);
-    same("blanks alone", u"   "_qs);
-    same("right to left", u"\u05d0\u05d1\u05d2"_qs);
+    same("umlauts", u"Jörg Weiß, Ærø"_s);
+    same("emoji of several parts", u"Oma \U0001F469\u200d\U0001F467 \U0001F382"_s);
+    same("markup", u"<b>&amp; \"Kurt\" 'x' ]]> -->"_s);
+    same("line feed and tab", u"a\nb\tc"_s);
+    same("carriage return", u"a\rb"_s);
+    same("blanks around", u"  Anna  "_s);
+    same("blanks alone", u"   "_s);
+    same("right to left", u"\u05d0\u05d1\u05d2"_s);
     same("very long", QString(100000, u'ä'));
-    QTest::newRow("control characters go") << u"A\u0001\u001fB\uffff"_qs << u"AB"_qs;
-    QTest::newRow("NUL goes") << QString(u"A"_qs + QChar(0) + u'B') << u"AB"_qs;
-    QTest::newRow("half a pair goes") << QString(u"A"_qs + QChar(0xd83d) + u'B') << u"AB"_qs;
+    QTest::newRow("control characters go") << u"A\u0001\u001fB\uffff"_s << u"AB"_s;
+    QTest::newRow("NUL goes") << QString(u"A"_s + QChar(0) + u'B') << u"AB"_s;
+    QTest::newRow("half a pair goes") << QString(u"A"_s + QChar(0xd83d) + u'B') << u"AB"_s;
 }
 
 void tst_MvCalendarEvent::roundTrip()
@@ -216,11 +209,9 @@ void tst_MvCalendarEvent::roundTrip()
     QFETCH(QString, name);
     const MvCalendarEvent event(name, QDate(1944, 2, 29).startOfDay(), false, MvFoto(), QUuid::createUuid(),
                                 QDateTime());
-    QFile file(outside(u"list.xml"_qs));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(MvCalendarEventFile::toBytes({event}));
-    file.close();
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
+    const QString file = outside(u"list.xml"_s);
+    QVERIFY(MvTestFiles::write(file, MvCalendarEventFile::toBytes({event})));
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file));
     QCOMPARE(content.error, QString());
     QCOMPARE(content.events.size(), 1);
     const MvCalendarEvent &read = content.events.first();
@@ -234,7 +225,7 @@ void tst_MvCalendarEvent::roundTrip()
 void tst_MvCalendarEvent::readsDefaults()
 {
     QDomDocument document;
-    const QDomElement element = parsed(document, u"<CalendarEvent><Name>Kurt</Name></CalendarEvent>"_qs);
+    const QDomElement element = parsed(document, u"<CalendarEvent><Name>Kurt</Name></CalendarEvent>"_s);
     const MvCalendarEvent first(element);
     const MvCalendarEvent second(element);
     QVERIFY(!first.isValid());
@@ -243,13 +234,12 @@ void tst_MvCalendarEvent::readsDefaults()
     QVERIFY(first.lastChanged().isValid());
     QVERIFY(!first.foto().isValid());
 
-    const QString pattern =
-        u"<CalendarEvent><Name>Kurt</Name><DateTime>%1</DateTime><UUID>%2</UUID></CalendarEvent>"_qs;
-    QVERIFY(MvCalendarEvent(parsed(document, pattern.arg(u"1990-05-17"_qs, u"broken"_qs))).isValid());
+    const QString pattern = u"<CalendarEvent><Name>Kurt</Name><DateTime>%1</DateTime><UUID>%2</UUID></CalendarEvent>"_s;
+    QVERIFY(MvCalendarEvent(parsed(document, pattern.arg(u"1990-05-17"_s, u"broken"_s))).isValid());
     QVERIFY(MvCalendarEvent(document.documentElement()).uuid().isNull());
     const QUuid uuid = QUuid::createUuid();
-    const QString padded = u"\n  %1 "_qs.arg(uuid.toString());
-    QCOMPARE(MvCalendarEvent(parsed(document, pattern.arg(u"1990-05-17"_qs, padded))).uuid(), uuid);
+    const QString padded = u"\n  %1 "_s.arg(uuid.toString());
+    QCOMPARE(MvCalendarEvent(parsed(document, pattern.arg(u"1990-05-17"_s, padded))).uuid(), uuid);
     for (const char *date : {"1990-02-30T00:00:00", "17.05.1990", "", "1990-05-17Tmorgens"})
         QVERIFY2(!MvCalendarEvent(parsed(document, pattern.arg(QLatin1String(date), QString()))).isValid(), date);
 }
@@ -269,9 +259,9 @@ void tst_MvCalendarEvent::readsSkippedMidnights()
     const QByteArray before = qgetenv("TZ");
     qputenv("TZ", zone);
     QDomDocument document;
-    const QString form = u"<CalendarEvent><Name>Ana</Name><DateTime>%1T00:00:00</DateTime></CalendarEvent>"_qs;
+    const QString form = u"<CalendarEvent><Name>Ana</Name><DateTime>%1T00:00:00</DateTime></CalendarEvent>"_s;
     const MvCalendarEvent event(parsed(document, form.arg(date.toString(Qt::ISODate))));
-    QDomElement root = parsed(document, u"<CalendarEvents/>"_qs);
+    QDomElement root = parsed(document, u"<CalendarEvents/>"_s);
     event.createXML(root);
     const QDate dates[] = {event.dateTime().date(), MvCalendarEvent(root.firstChildElement()).dateTime().date()};
     const bool isThatDay = event.isValid() && event.isAtDay(date);
@@ -284,38 +274,38 @@ void tst_MvCalendarEvent::readsSkippedMidnights()
 void tst_MvCalendarEvent::invalidEntryIsEmptyElement()
 {
     QDomDocument document;
-    QDomElement root = parsed(document, u"<CalendarEvents/>"_qs);
+    QDomElement root = parsed(document, u"<CalendarEvents/>"_s);
     entry(QString(), QDate(2000, 1, 1)).createXML(root);
-    QCOMPARE(document.toString(-1), u"<CalendarEvents><CalendarEvent/></CalendarEvents>"_qs);
+    QCOMPARE(document.toString(-1), u"<CalendarEvents><CalendarEvent/></CalendarEvents>"_s);
 }
 
 void tst_MvCalendarEvent::setFotoCopies()
 {
-    putImage(outside(u"groß.jpg"_qs), {4000, 3000});
-    MvCalendarEvent event = entry(u"Oma"_qs, QDate(2000, 1, 1));
-    event.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_qs))));
+    QVERIFY(MvTestFiles::writeFoto(outside(u"groß.jpg"_s), {4000, 3000}));
+    MvCalendarEvent event = entry(u"Oma"_s, QDate(2000, 1, 1));
+    event.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_s))));
     QVERIFY(event.isInAppSafeArea(event.imagePath()));
-    QCOMPARE(event.imagePath().fileName(), u"groß.jpg"_qs);
+    QCOMPARE(event.imagePath().fileName(), u"groß.jpg"_s);
     QCOMPARE(event.imageSize(), QSize(2048, 1536));
     QCOMPARE(event.image().size(), QSize(2048, 1536));
 
     MvCalendarEvent other = event;
     other.setFoto(event.foto()); // lies there already
     QVERIFY(other == event);
-    QCOMPARE(MvCalendarEvent::imageDirectory().count(), 3u);   // with "." and ".."
-    other.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_qs)))); // another copy under another name
-    QCOMPARE(other.imagePath().fileName(), u"groß_2.jpg"_qs);
+    QCOMPARE(MvCalendarEvent::imageDirectory().count(), 3u);  // with "." and ".."
+    other.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_s)))); // another copy under another name
+    QCOMPARE(other.imagePath().fileName(), u"groß_2.jpg"_s);
     other.setFoto(MvFoto());
     QVERIFY(!other.foto().isValid() && !other.imageSize().isValid() && other.image().isNull());
 }
 
 void tst_MvCalendarEvent::unreadableFotoWarns()
 {
-    MvCalendarEvent event = entry(u"Oma"_qs, QDate(2000, 1, 1));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Unable to open image : MvFoto"_qs));
+    MvCalendarEvent event = entry(u"Oma"_s, QDate(2000, 1, 1));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Unable to open image : MvFoto"_s));
     QTest::ignoreMessage(QtWarningMsg,
-                         QRegularExpression(u"^Unable to save image to : .*calendarEventFotos/missing\\.jpg$"_qs));
-    event.setFoto(MvFoto(QFileInfo(outside(u"missing.jpg"_qs))));
+                         QRegularExpression(u"^Unable to save image to : .*calendarEventFotos/missing\\.jpg$"_s));
+    event.setFoto(MvFoto(QFileInfo(outside(u"missing.jpg"_s))));
     QVERIFY(event.foto().isValid());
     QVERIFY(!event.imagePath().exists());
 }
@@ -325,10 +315,10 @@ void tst_MvCalendarEvent::keepsTheFormerFoto_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<bool>("isFull");
     QTest::addColumn<QString>("reason"); // in the message
-    QTest::newRow("missing") << u"missing.jpg"_qs << false << u"lässt sich nicht öffnen"_qs;
-    QTest::newRow("no photo") << u"text.jpg"_qs << false << u"Gelesen werden"_qs;
-    QTest::newRow("no photo in the photo folder") << u"FOTOS/text.jpg"_qs << false << u"Gelesen werden"_qs;
-    QTest::newRow("no room for the copy") << u"new.png"_qs << true << u"größer als erlaubt"_qs;
+    QTest::newRow("missing") << u"missing.jpg"_s << false << u"lässt sich nicht öffnen"_s;
+    QTest::newRow("no photo") << u"text.jpg"_s << false << u"Gelesen werden"_s;
+    QTest::newRow("no photo in the photo folder") << u"FOTOS/text.jpg"_s << false << u"Gelesen werden"_s;
+    QTest::newRow("no room for the copy") << u"new.png"_s << true << u"größer als erlaubt"_s;
 }
 
 void tst_MvCalendarEvent::keepsTheFormerFoto()
@@ -336,15 +326,13 @@ void tst_MvCalendarEvent::keepsTheFormerFoto()
     QFETCH(QString, file);
     QFETCH(bool, isFull);
     QFETCH(QString, reason);
-    putImage(outside(u"good.png"_qs));
-    putImage(outside(u"new.png"_qs), {400, 300});
+    QVERIFY(MvTestFiles::writeFoto(outside(u"good.png"_s)));
+    QVERIFY(MvTestFiles::writeFoto(outside(u"new.png"_s), {400, 300}));
     file = file.startsWith(u'F') ? MvCalendarEvent::imageDirectory().filePath(file.mid(6)) : outside(file);
-    if (file.endsWith(u"text.jpg"_qs)) {
-        QFile text(file);
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("kein Foto") > 0);
-    }
-    MvCalendarEvent event = entry(u"Oma"_qs, QDate(2000, 1, 1));
-    QVERIFY(event.takeFoto(MvFoto(QFileInfo(outside(u"good.png"_qs)))).isOk());
+    if (file.endsWith(u"text.jpg"_s))
+        QVERIFY(MvTestFiles::write(file, "kein Foto"));
+    MvCalendarEvent event = entry(u"Oma"_s, QDate(2000, 1, 1));
+    QVERIFY(event.takeFoto(MvFoto(QFileInfo(outside(u"good.png"_s)))).isOk());
     const MvCalendarEvent before = event;
     const qsizetype files = MvCalendarEvent::imageDirectory().entryList(QDir::Files).size();
 
@@ -369,24 +357,24 @@ void tst_MvCalendarEvent::fotoPaths_data()
     const auto row = [](const char *what, const QString &text, const QString &path, bool mayBeOpened) {
         QTest::newRow(what) << text << path << mayBeOpened;
     };
-    row("own photo", u"FOTOS/own.png"_qs, u"FOTOS/own.png"_qs, true);
-    row("own photo by name", u"own.png"_qs, u"FOTOS/own.png"_qs, true);
-    row("the one beside before the own one", u"both.png"_qs, u"LIST/both.png"_qs, true);
-    row("own photo of somebody else", u"/home/x/calendarEventFotos/own.png"_qs,
-        u"/home/x/calendarEventFotos/own.png"_qs, false);
-    row("own photo in the bin", u"FOTOS/binned.png"_qs, u"FOTOS/binned.png"_qs, true);
-    row("somebody else's in the bin", u"/home/x/calendarEventFotos/binned.png"_qs,
-        u"/home/x/calendarEventFotos/binned.png"_qs, false);
-    row("beside the list", u"beside.png"_qs, u"LIST/beside.png"_qs, true);
-    row("below the list", u"fotos/below.png"_qs, u"LIST/fotos/below.png"_qs, true);
-    row("named in full beside the list", u"LIST/beside.png"_qs, u"LIST/beside.png"_qs, true);
-    row("out of the list's folder", u"../secret.png"_qs, u"LIST/../secret.png"_qs, false);
-    row("out and in again", u"../list/beside.png"_qs, u"LIST/beside.png"_qs, true);
-    row("link out of the folder", u"link.png"_qs, u"LIST/link.png"_qs, false);
-    row("folder link out of the folder", u"up/secret.png"_qs, u"LIST/up/secret.png"_qs, false);
-    row("elsewhere", u"/etc/hostname"_qs, u"/etc/hostname"_qs, false);
-    row("elsewhere and missing", u"/nowhere/a.png"_qs, u"/nowhere/a.png"_qs, false);
-    row("missing", u"missing.png"_qs, u"FOTOS/missing.png"_qs, true);
+    row("own photo", u"FOTOS/own.png"_s, u"FOTOS/own.png"_s, true);
+    row("own photo by name", u"own.png"_s, u"FOTOS/own.png"_s, true);
+    row("the one beside before the own one", u"both.png"_s, u"LIST/both.png"_s, true);
+    row("own photo of somebody else", u"/home/x/calendarEventFotos/own.png"_s, u"/home/x/calendarEventFotos/own.png"_s,
+        false);
+    row("own photo in the bin", u"FOTOS/binned.png"_s, u"FOTOS/binned.png"_s, true);
+    row("somebody else's in the bin", u"/home/x/calendarEventFotos/binned.png"_s,
+        u"/home/x/calendarEventFotos/binned.png"_s, false);
+    row("beside the list", u"beside.png"_s, u"LIST/beside.png"_s, true);
+    row("below the list", u"fotos/below.png"_s, u"LIST/fotos/below.png"_s, true);
+    row("named in full beside the list", u"LIST/beside.png"_s, u"LIST/beside.png"_s, true);
+    row("out of the list's folder", u"../secret.png"_s, u"LIST/../secret.png"_s, false);
+    row("out and in again", u"../list/beside.png"_s, u"LIST/beside.png"_s, true);
+    row("link out of the folder", u"link.png"_s, u"LIST/link.png"_s, false);
+    row("folder link out of the folder", u"up/secret.png"_s, u"LIST/up/secret.png"_s, false);
+    row("elsewhere", u"/etc/hostname"_s, u"/etc/hostname"_s, false);
+    row("elsewhere and missing", u"/nowhere/a.png"_s, u"/nowhere/a.png"_s, false);
+    row("missing", u"missing.png"_s, u"FOTOS/missing.png"_s, true);
     row("none", QString(), QString(), false);
 }
 
@@ -395,22 +383,20 @@ void tst_MvCalendarEvent::fotoPaths()
     QFETCH(QString, text);
     QFETCH(QString, path);
     QFETCH(bool, mayBeOpened);
-    const QString folder = outside(u"list"_qs);
+    const QString folder = outside(u"list"_s);
     const QString fotos = MvCalendarEvent::imageDirectory().absolutePath();
-    const auto inPlace = [&](QString pattern) {
-        return pattern.replace(u"LIST"_qs, folder).replace(u"FOTOS"_qs, fotos);
-    };
-    for (const QString &file : {fotos + u"/own.png"_qs, fotos + u"/both.png"_qs, folder + u"/both.png"_qs,
-                                folder + u"/beside.png"_qs, folder + u"/fotos/below.png"_qs, outside(u"secret.png"_qs)})
-        putImage(file);
-    putImage(fotos + u"/papierkorb/2026-01-01/binned.png"_qs);
-    QVERIFY(QFile::link(outside(u"secret.png"_qs), folder + u"/link.png"_qs));
-    QVERIFY(QFile::link(m_outside->path(), folder + u"/up"_qs));
+    const auto inPlace = [&](QString pattern) { return pattern.replace(u"LIST"_s, folder).replace(u"FOTOS"_s, fotos); };
+    for (const QString &file : {fotos + u"/own.png"_s, fotos + u"/both.png"_s, folder + u"/both.png"_s,
+                                folder + u"/beside.png"_s, folder + u"/fotos/below.png"_s, outside(u"secret.png"_s)})
+        QVERIFY(MvTestFiles::writeFoto(file));
+    QVERIFY(MvTestFiles::writeFoto(fotos + u"/papierkorb/2026-01-01/binned.png"_s));
+    QVERIFY(QFile::link(outside(u"secret.png"_s), folder + u"/link.png"_s));
+    QVERIFY(QFile::link(m_outside->path(), folder + u"/up"_s));
 
     QDomDocument document;
     const QDomElement element =
-        parsed(document, u"<CalendarEvent><Name>x</Name><Image>%1</Image></CalendarEvent>"_qs.arg(inPlace(text)));
-    MvCalendarEventFotoFinder fotosOfList{QFileInfo(folder + u"/list.xml"_qs)};
+        parsed(document, u"<CalendarEvent><Name>x</Name><Image>%1</Image></CalendarEvent>"_s.arg(inPlace(text)));
+    MvCalendarEventFotoFinder fotosOfList{QFileInfo(folder + u"/list.xml"_s)};
     const MvCalendarEvent event(MvCalendarEventTexts{element}, fotosOfList);
     const QString expected = path.isEmpty() ? QString() : QDir::cleanPath(inPlace(path));
     QCOMPARE(event.foto().localFilePath(), expected);
@@ -420,15 +406,15 @@ void tst_MvCalendarEvent::fotoPaths()
 
 void tst_MvCalendarEvent::movedUserFolder()
 {
-    putImage(MvCalendarEvent::imageDirectory().filePath(u"oma.png"_qs));
+    QVERIFY(MvTestFiles::writeFoto(MvCalendarEvent::imageDirectory().filePath(u"oma.png"_s)));
     QDomDocument document;
     const MvCalendarEvent event(parsed(
-        document, u"<CalendarEvent><Image>/home/früher/mv/calendarEventFotos/oma.png</Image></CalendarEvent>"_qs));
+        document, u"<CalendarEvent><Image>/home/früher/mv/calendarEventFotos/oma.png</Image></CalendarEvent>"_s));
     QVERIFY(event.isInAppSafeArea(event.imagePath()));
     QVERIFY(!event.image().isNull());
 
-    MvCalendarEventFotoFinder ofBackup{MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml~"_qs)};
-    const QString text = u"/home/früher/mv/calendarEventFotos/oma.png"_qs;
+    MvCalendarEventFotoFinder ofBackup{MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml~"_s)};
+    const QString text = u"/home/früher/mv/calendarEventFotos/oma.png"_s;
     QCOMPARE(ofBackup.find(text), event.foto());
 }
 
@@ -436,12 +422,10 @@ void tst_MvCalendarEvent::largeFilesReadAlike()
 {
     MvCalendarEventList events;
     for (int i = 0; i < 10000; ++i)
-        events.append(entry(u"Person %1"_qs.arg(i / 2), QDate(1950, 1, 1).addDays(i / 2))); // each twice
-    QFile file(outside(u"large.xml"_qs));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(MvCalendarEventFile::toBytes(events));
-    file.close();
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
+        events.append(entry(u"Person %1"_s.arg(i / 2), QDate(1950, 1, 1).addDays(i / 2))); // each twice
+    const QString file = outside(u"large.xml"_s);
+    QVERIFY(MvTestFiles::write(file, MvCalendarEventFile::toBytes(events)));
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file));
     QVERIFY(content.isRead() && content.isComplete);
     QCOMPARE(content.events.size(), 5000);
     for (qsizetype i = 0; i < content.events.size(); ++i)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvXML/MvXMLBuilder.h"
@@ -8,6 +9,8 @@
 #include <QDomDocument>
 #include <QStringEncoder>
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 class tst_MvCalendarEventFile : public MvTest
 {
@@ -35,31 +38,31 @@ void tst_MvCalendarEventFile::reads_data()
     };
     const auto encoded = [&](const char *encoding, QStringConverter::Flag mark) {
         QStringEncoder encode(*QStringConverter::encodingForName(encoding), mark);
-        const QString declaration = u"<?xml version=\"1.0\" encoding='%1'?>\n"_qs.arg(QLatin1StringView(encoding));
+        const QString declaration = u"<?xml version=\"1.0\" encoding='%1'?>\n"_s.arg(QLatin1StringView(encoding));
         return QByteArray(encode(declaration + QString::fromUtf8(list(entry("Jürgen")))));
     };
     const auto row = [](const char *name, const QByteArray &bytes, const QString &names, const QString &skipped = {},
                         const QString &refusal = {}) { QTest::newRow(name) << bytes << names << skipped << refusal; };
     using Flag = QStringConverter::Flag;
-    row("UTF-16 with a mark", encoded("UTF-16", Flag::WriteBom), u"Jürgen"_qs);
-    row("UTF-16BE without", encoded("UTF-16BE", Flag::Default), u"Jürgen"_qs);
-    row("UTF-32", encoded("UTF-32", Flag::WriteBom), u"Jürgen"_qs);
-    row("ISO 8859-1", list(entry("J\xfcrgen"), "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"), u"Jürgen"_qs);
+    row("UTF-16 with a mark", encoded("UTF-16", Flag::WriteBom), u"Jürgen"_s);
+    row("UTF-16BE without", encoded("UTF-16BE", Flag::Default), u"Jürgen"_s);
+    row("UTF-32", encoded("UTF-32", Flag::WriteBom), u"Jürgen"_s);
+    row("ISO 8859-1", list(entry("J\xfcrgen"), "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>"), u"Jürgen"_s);
     row("no entries", "<CalendarEvents/>", {});
-    row("an empty element is nothing", list("<CalendarEvent/>" + entry("A")), u"A"_qs);
-    row("date in another form", list(entry("A") + entry("Oma  Erika", "17.05.1941") + entry("B")), u"A B"_qs,
-        u"Zeile 3, „Oma Erika“: das Datum „17.05.1941“ ist nicht zu lesen"_qs);
+    row("an empty element is nothing", list("<CalendarEvent/>" + entry("A")), u"A"_s);
+    row("date in another form", list(entry("A") + entry("Oma  Erika", "17.05.1941") + entry("B")), u"A B"_s,
+        u"Zeile 3, „Oma Erika“: das Datum „17.05.1941“ ist nicht zu lesen"_s);
     row("impossible date, long text", list(entry(QByteArray(100, 'x'), "1900-02-29T00:00:00")), {},
-        u"Zeile 2, „%1…“: das Datum „1900-02-29T00:00:00“ ist nicht zu lesen"_qs.arg(QString(60, u'x')));
+        u"Zeile 2, „%1…“: das Datum „1900-02-29T00:00:00“ ist nicht zu lesen"_s.arg(QString(60, u'x')));
     row("no name, no date", list(entry("") + "<CalendarEvent><UUID/></CalendarEvent>"), {},
-        u"Zeile 2: der Name fehlt\nZeile 3: der Name fehlt, das Datum fehlt"_qs);
-    row("element that is no entry", list("<calendarevent><Name>A</Name></calendarevent>" + entry("B")), u"B"_qs,
-        u"Zeile 2, „calendarevent“: das ist kein Eintrag"_qs);
+        u"Zeile 2: der Name fehlt\nZeile 3: der Name fehlt, das Datum fehlt"_s);
+    row("element that is no entry", list("<calendarevent><Name>A</Name></calendarevent>" + entry("B")), u"B"_s,
+        u"Zeile 2, „calendarevent“: das ist kein Eintrag"_s);
     row("another document", "<?xml version=\"1.0\"?><Layouts>" + entry("A") + "</Layouts>", {}, {},
-        u"liste.xml: Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „Layouts“"_qs);
-    row("cut off", list(entry("A")).chopped(5), {}, {}, u"liste.xml:3:13: Die Datei endet zu früh."_qs);
+        u"liste.xml: Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „Layouts“"_s);
+    row("cut off", list(entry("A")).chopped(5), {}, {}, u"liste.xml:3:13: Die Datei endet zu früh."_s);
     row("declares what it is not", list(entry("A"), "<?xml version=\"1.0\" encoding=\"UTF-16\"?>"), {}, {},
-        u"liste.xml:1:"_qs);
+        u"liste.xml:1:"_s);
 }
 
 void tst_MvCalendarEventFile::reads()
@@ -68,11 +71,9 @@ void tst_MvCalendarEventFile::reads()
     QFETCH(const QString, skipped);
     QFETCH(const QString, refusal);
     const QTemporaryDir dir;
-    QFile file(dir.filePath(u"liste.xml"_qs));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-    file.close();
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
+    const QFileInfo file(dir.filePath(u"liste.xml"_s));
+    QVERIFY(MvTestFiles::write(file.filePath(), bytes));
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
     QTEST(MvEntries::names(content.events).join(u' '), "names");
     QCOMPARE(MvCalendarEventFile::describe(content.skipped, 9), skipped);
     QVERIFY2(content.refusal().contains(refusal), qPrintable(content.refusal()));
@@ -82,8 +83,8 @@ void tst_MvCalendarEventFile::reads()
 
 void tst_MvCalendarEventFile::shortensWhatWasSkipped()
 {
-    const QList<MvCalendarEventFile::Skipped> skipped(14, {7, {}, u"X"_qs});
-    QCOMPARE(MvCalendarEventFile::describe(skipped, 2), u"Zeile 7: X\nZeile 7: X\n… und 12 weitere"_qs);
+    const QList<MvCalendarEventFile::Skipped> skipped(14, {7, {}, u"X"_s});
+    QCOMPARE(MvCalendarEventFile::describe(skipped, 2), u"Zeile 7: X\nZeile 7: X\n… und 12 weitere"_s);
 }
 
 void tst_MvCalendarEventFile::writesWhatADocumentWould()
@@ -91,12 +92,21 @@ void tst_MvCalendarEventFile::writesWhatADocumentWould()
     MvCalendarEventList events;
     QDomDocument document;
     MvXMLBuilder::buildUTF8ProcessingInstructions(document);
-    QDomElement root = MvXMLBuilder::buildRootElement(document, u"CalendarEvents"_qs);
+    QDomElement root = MvXMLBuilder::buildRootElement(document, u"CalendarEvents"_s);
     QCOMPARE(MvCalendarEventFile::toBytes({}), document.toByteArray(2));
-    const QString names[] = {
-        u"Jürgen"_qs,        u"A & B"_qs, u"<x>"_qs, u" y "_qs, u"   "_qs,   u"1\t2\n3\r4"_qs,
-        u"\"'"_qs,           u"😀"_qs,     u"]]>"_qs, {},        u"\x01z"_qs, QString(QChar(0xd800)),
-        QString(QChar(0xa0))};
+    const QString names[] = {u"Jürgen"_s,
+                             u"A & B"_s,
+                             u"<x>"_s,
+                             u" y "_s,
+                             u"   "_s,
+                             u"1\t2\n3\r4"_s,
+                             u"\"'"_s,
+                             u"😀"_s,
+                             u"]]>"_s,
+                             {},
+                             u"\x01z"_s,
+                             QString(QChar(0xd800)),
+                             QString(QChar(0xa0))};
     for (const QString &name : names) {
         events.append(
             MvCalendarEvent(name, QDateTime::currentDateTime(), false, MvFoto(), QUuid::createUuid(), QDateTime()));

@@ -5,6 +5,8 @@
 
 #include "MvCalendar/MvCalendarEventMerge.h"
 
+using namespace Qt::StringLiterals;
+
 class tst_MvCalendarEventMerge : public MvTest
 {
     Q_OBJECT
@@ -54,11 +56,11 @@ void tst_MvCalendarEventMerge::joins_data()
     QTest::addColumn<QString>("other");
     QTest::addColumn<bool>("keepBase");
     QTest::addColumn<QString>("result");
-    QTest::newRow("new entries follow") << u"a b"_qs << u"b c"_qs << true << u"a b c"_qs;
-    QTest::newRow("only the new ones") << u"a b"_qs << u"b c"_qs << false << u"c"_qs;
-    QTest::newRow("another text does not make another entry") << u"a"_qs << u"a:A"_qs << true << u"a"_qs;
-    QTest::newRow("without uuid always new") << u"-x"_qs << u"-x"_qs << true << u"x x"_qs;
-    QTest::newRow("into nothing") << u""_qs << u"a a"_qs << true << u"a a"_qs;
+    QTest::newRow("new entries follow") << u"a b"_s << u"b c"_s << true << u"a b c"_s;
+    QTest::newRow("only the new ones") << u"a b"_s << u"b c"_s << false << u"c"_s;
+    QTest::newRow("another text does not make another entry") << u"a"_s << u"a:A"_s << true << u"a"_s;
+    QTest::newRow("without uuid always new") << u"-x"_s << u"-x"_s << true << u"x x"_s;
+    QTest::newRow("into nothing") << u""_s << u"a a"_s << true << u"a a"_s;
 }
 
 void tst_MvCalendarEventMerge::joins()
@@ -75,32 +77,32 @@ void tst_MvCalendarEventMerge::threeWay_data()
     QTest::addColumn<QString>("mine");
     QTest::addColumn<QString>("theirs");
     QTest::addColumn<QString>("result");
-    QTest::newRow("nothing happened") << u"a b"_qs << u"a b"_qs << u"a b"_qs << u"a b"_qs;
-    QTest::newRow("both add") << u"a"_qs << u"a b"_qs << u"a c"_qs << u"a b c"_qs;
-    QTest::newRow("I remove") << u"a b"_qs << u"a"_qs << u"a b"_qs << u"a"_qs;
-    QTest::newRow("they remove") << u"a b"_qs << u"a b"_qs << u"a"_qs << u"a"_qs;
-    QTest::newRow("I change") << u"a b"_qs << u"a b:B"_qs << u"a b"_qs << u"a B"_qs;
-    QTest::newRow("they change") << u"a b"_qs << u"a b"_qs << u"a b:B"_qs << u"a B"_qs;
-    QTest::newRow("I change what they remove") << u"a b"_qs << u"a b:B"_qs << u"a"_qs << u"a B"_qs;
-    QTest::newRow("I remove what they change") << u"a b"_qs << u"a"_qs << u"a b:B"_qs << u"a B"_qs;
-    QTest::newRow("both add the same text") << u"a"_qs << u"a b:x"_qs << u"a c:x"_qs << u"a x"_qs;
-    QTest::newRow("without uuid: I remove") << u"-x a"_qs << u"a"_qs << u"-x a c"_qs << u"a c"_qs;
-    QTest::newRow("without uuid: they add") << u"a"_qs << u"a"_qs << u"a -x"_qs << u"a x"_qs;
-    QTest::newRow("order is mine") << u"a b c"_qs << u"c b a"_qs << u"a b c d"_qs << u"c b a d"_qs;
-    const QString series = u"s:A@1 s:B@2 s:C@3"_qs;
-    QTest::newRow("series: I continue, they add") << u"s:A@1"_qs << series << u"s:A@1 y"_qs << u"A@1 B@2 C@3 y"_qs;
-    QTest::newRow("series: they rename") << series << u"s:A@1 s:B@2 s:C@3 n"_qs << u"s:A@1 s:B@2 s:X@3"_qs
-                                         << u"A@1 B@2 X@3 n"_qs;
+    QTest::newRow("nothing happened") << u"a b"_s << u"a b"_s << u"a b"_s << u"a b"_s;
+    QTest::newRow("both add") << u"a"_s << u"a b"_s << u"a c"_s << u"a b c"_s;
+    QTest::newRow("I remove") << u"a b"_s << u"a"_s << u"a b"_s << u"a"_s;
+    QTest::newRow("they remove") << u"a b"_s << u"a b"_s << u"a"_s << u"a"_s;
+    QTest::newRow("I change") << u"a b"_s << u"a b:B"_s << u"a b"_s << u"a B"_s;
+    QTest::newRow("they change") << u"a b"_s << u"a b"_s << u"a b:B"_s << u"a B"_s;
+    QTest::newRow("I change what they remove") << u"a b"_s << u"a b:B"_s << u"a"_s << u"a B"_s;
+    QTest::newRow("I remove what they change") << u"a b"_s << u"a"_s << u"a b:B"_s << u"a B"_s;
+    QTest::newRow("both add the same text") << u"a"_s << u"a b:x"_s << u"a c:x"_s << u"a x"_s;
+    QTest::newRow("without uuid: I remove") << u"-x a"_s << u"a"_s << u"-x a c"_s << u"a c"_s;
+    QTest::newRow("without uuid: they add") << u"a"_s << u"a"_s << u"a -x"_s << u"a x"_s;
+    QTest::newRow("order is mine") << u"a b c"_s << u"c b a"_s << u"a b c d"_s << u"c b a d"_s;
+    const QString series = u"s:A@1 s:B@2 s:C@3"_s;
+    QTest::newRow("series: I continue, they add") << u"s:A@1"_s << series << u"s:A@1 y"_s << u"A@1 B@2 C@3 y"_s;
+    QTest::newRow("series: they rename") << series << u"s:A@1 s:B@2 s:C@3 n"_s << u"s:A@1 s:B@2 s:X@3"_s
+                                         << u"A@1 B@2 X@3 n"_s;
     QTest::newRow("series: they rename one and I another")
-        << series << u"s:A@1 s:B@2 s:X@3"_qs << u"s:Y@1 s:B@2 s:C@3"_qs << u"Y@1 B@2 X@3"_qs;
-    QTest::newRow("series: they remove one") << series << series << u"s:B@2 s:C@3"_qs << u"B@2 C@3"_qs;
+        << series << u"s:A@1 s:B@2 s:X@3"_s << u"s:Y@1 s:B@2 s:C@3"_s << u"Y@1 B@2 X@3"_s;
+    QTest::newRow("series: they remove one") << series << series << u"s:B@2 s:C@3"_s << u"B@2 C@3"_s;
     QTest::newRow("series: both rename one, both stay")
-        << series << u"s:A@1 s:X@2 s:C@3"_qs << u"s:A@1 s:Y@2 s:C@3"_qs << u"A@1 X@2 Y@2 C@3"_qs;
+        << series << u"s:A@1 s:X@2 s:C@3"_s << u"s:A@1 s:Y@2 s:C@3"_s << u"A@1 X@2 Y@2 C@3"_s;
     QTest::newRow("each reading makes new uuids")
-        << u"?x ?y ?z"_qs << u"?x ?y ?z ?mine"_qs << u"?x ?z ?theirs"_qs << u"x z mine theirs"_qs;
-    QTest::newRow("new uuids: both edit") << u"1:x 2:y"_qs << u"1:X 2:y"_qs << u"3:x 4:Y"_qs << u"X Y"_qs;
-    QTest::newRow("two equal ones are two") << u"-x -x"_qs << u"-x -x a"_qs << u"-x -x -x"_qs << u"x x a x"_qs;
-    QTest::newRow("one of two equal ones goes") << u"-x -x"_qs << u"-x -x a"_qs << u"-x"_qs << u"x a"_qs;
+        << u"?x ?y ?z"_s << u"?x ?y ?z ?mine"_s << u"?x ?z ?theirs"_s << u"x z mine theirs"_s;
+    QTest::newRow("new uuids: both edit") << u"1:x 2:y"_s << u"1:X 2:y"_s << u"3:x 4:Y"_s << u"X Y"_s;
+    QTest::newRow("two equal ones are two") << u"-x -x"_s << u"-x -x a"_s << u"-x -x -x"_s << u"x x a x"_s;
+    QTest::newRow("one of two equal ones goes") << u"-x -x"_s << u"-x -x a"_s << u"-x"_s << u"x a"_s;
 }
 
 void tst_MvCalendarEventMerge::threeWay()
@@ -113,28 +115,28 @@ void tst_MvCalendarEventMerge::threeWay()
 
 void tst_MvCalendarEventMerge::laterChangeOfAFieldWins()
 {
-    const MvCalendarEventList base = list(u"a"_qs);
+    const MvCalendarEventList base = list(u"a"_s);
     MvCalendarEventList early = base;
-    early.first().setEventName(u"early"_qs);
+    early.first().setEventName(u"early"_s);
     QTest::qWait(5);
     MvCalendarEventList moved = base;
-    moved.first().setDateTime(dayOf(u"@7"_qs).startOfDay());
+    moved.first().setDateTime(dayOf(u"@7"_s).startOfDay());
     MvCalendarEventList renamed = base;
-    renamed.first().setEventName(u"late"_qs);
+    renamed.first().setEventName(u"late"_s);
     const auto merged = [&base](const MvCalendarEventList &mine, const MvCalendarEventList &theirs) {
         const MvCalendarEventList result = MvCalendarEventMerge::threeWay(base, mine, theirs);
         return names(result) + u' ' + QString::number(result.first().dateTime().date().day());
     };
-    QCOMPARE(merged(early, moved), u"early 8"_qs);
-    QCOMPARE(merged(moved, early), u"early 8"_qs);
-    QCOMPARE(merged(early, renamed), u"late 1"_qs);
-    QCOMPARE(merged(renamed, early), u"late 1"_qs);
+    QCOMPARE(merged(early, moved), u"early 8"_s);
+    QCOMPARE(merged(moved, early), u"early 8"_s);
+    QCOMPARE(merged(early, renamed), u"late 1"_s);
+    QCOMPARE(merged(renamed, early), u"late 1"_s);
 }
 
 void tst_MvCalendarEventMerge::partlyReadRemovesNothing()
 {
-    const auto merged = MvCalendarEventMerge::threeWay(list(u"a b c"_qs), list(u"a b"_qs), list(u"a:A d"_qs), false);
-    QCOMPARE(names(merged), u"A b d"_qs);
+    const auto merged = MvCalendarEventMerge::threeWay(list(u"a b c"_s), list(u"a b"_s), list(u"a:A d"_s), false);
+    QCOMPARE(names(merged), u"A b d"_s);
 }
 
 void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms_data()
@@ -159,7 +161,7 @@ void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms()
         MvEntryHistory history;
         std::vector<Program> running;
         for (int who = 0; who < programs; ++who)
-            running.push_back({MvEntryEditor(seed * 10 + quint32(who), u"%1x"_qs.arg(who)), file, file});
+            running.push_back({MvEntryEditor(seed * 10 + quint32(who), u"%1x"_s.arg(who)), file, file});
         const auto save = [&file](Program &program) {
             program.events = MvCalendarEventMerge::threeWay(program.base, program.events, file);
             program.base = program.events;
@@ -183,7 +185,7 @@ void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms()
         for (int round = 0; round < 2; ++round) // at last all know of each other
             std::for_each(running.begin(), running.end(), save);
         const QString mistake = history.mistakeIn(file);
-        QVERIFY2(mistake.isEmpty(), qPrintable(u"seed %1: %2"_qs.arg(seed).arg(mistake)));
+        QVERIFY2(mistake.isEmpty(), qPrintable(u"seed %1: %2"_s.arg(seed).arg(mistake)));
         for (const Program &program : running)
             QCOMPARE(QSet<MvCalendarEvent>(program.events.cbegin(), program.events.cend()),
                      QSet<MvCalendarEvent>(file.cbegin(), file.cend()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -12,6 +13,8 @@
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 using MvEntries::entry;
 
@@ -27,7 +30,7 @@ public:
 
     void fileWritten(const QFileInfo &file) override
     {
-        m_written->append(file.fileName() + (file.size() > 0 ? u" complete"_qs : u" empty"_qs));
+        m_written->append(file.fileName() + (file.size() > 0 ? u" complete"_s : u" empty"_s));
     }
 
     MvSimplePersonList addressBookContacts() override { return contacts; }
@@ -80,8 +83,6 @@ private Q_SLOTS:
 private:
     QString path(const QString &name) const { return m_data->filePath(name); }
     QByteArray contentOf(const QString &name) const;
-    void put(const QString &name, const QByteArray &content) const;
-    static void putImage(const QString &path, const QColor &color = Qt::blue);
     static QStringList fotos() { return MvCalendarEvent::imageDirectory().entryList(QDir::Files, QDir::Name); }
 
     std::unique_ptr<QTemporaryDir> m_data;
@@ -92,7 +93,7 @@ private:
 
 void tst_MvCalendarEventRegistry::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
     m_data = std::make_unique<QTemporaryDir>();
     QVERIFY(m_data->isValid());
     MvDirectoryConfig::instance().setProgramDataDir(m_data->path());
@@ -116,31 +117,16 @@ QByteArray tst_MvCalendarEventRegistry::contentOf(const QString &name) const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void tst_MvCalendarEventRegistry::put(const QString &name, const QByteArray &content) const
-{
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-void tst_MvCalendarEventRegistry::putImage(const QString &path, const QColor &color)
-{
-    QImage image(400, 300, QImage::Format_RGB32);
-    image.fill(color);
-    QVERIFY(QFileInfo(path).dir().mkpath(u"."_qs));
-    QVERIFY(image.save(path));
-}
-
 void tst_MvCalendarEventRegistry::savesAtOnce()
 {
     MvCalendarEventRegistry registry;
     QSignalSpy spy(&registry, &MvCalendarEventRegistry::eventsChanged);
-    QCOMPARE(m_log, QStringList{u"CalendarEvents ACTION:loadFromFileOnStartup MERGE:unset"_qs});
-    registry.setEvents({entry(u"B"_qs, QDate(2000, 2, 29)), MvCalendarEvent(), entry(u"A"_qs, QDate(1990, 5, 17))});
+    QCOMPARE(m_log, QStringList{u"CalendarEvents ACTION:loadFromFileOnStartup MERGE:unset"_s});
+    registry.setEvents({entry(u"B"_s, QDate(2000, 2, 29)), MvCalendarEvent(), entry(u"A"_s, QDate(1990, 5, 17))});
     QCOMPARE(spy.count(), 1);
-    QCOMPARE(m_log.last(), u"CalendarEvents ACTION:saveToFile VALUE:calendarEvents"_qs);
-    QCOMPARE(m_written, QStringList{u"calendarEvents.xml complete"_qs});
-    QCOMPARE(names(registry.activeEventList()), u"B A"_qs);
+    QCOMPARE(m_log.last(), u"CalendarEvents ACTION:saveToFile VALUE:calendarEvents"_s);
+    QCOMPARE(m_written, QStringList{u"calendarEvents.xml complete"_s});
+    QCOMPARE(names(registry.activeEventList()), u"B A"_s);
 
     MvCalendarEventRegistry second;
     QCOMPARE(second.activeEventList(), registry.activeEventList());
@@ -149,13 +135,14 @@ void tst_MvCalendarEventRegistry::savesAtOnce()
 
 void tst_MvCalendarEventRegistry::fileForm()
 {
-    put(u"calendarEvents.xml"_qs,
+    QVERIFY(MvTestFiles::write(
+        path(u"calendarEvents.xml"_s),
         "<CalendarEvents><CalendarEvent><Name>Oma &amp; Opa</Name><DateTime>1941-03-09T00:00:00</DateTime>"
         "<Recurrent>false</Recurrent><Image></Image><UUID>{11111111-2222-3333-4444-555555555555}</UUID>"
-        "<LastChanged>2026-01-02T03:04:05</LastChanged></CalendarEvent><CalendarEvent/></CalendarEvents>");
+        "<LastChanged>2026-01-02T03:04:05</LastChanged></CalendarEvent><CalendarEvent/></CalendarEvents>"));
     const MvCalendarEventRegistry registry;
     registry.save();
-    QCOMPARE(contentOf(u"calendarEvents.xml"_qs),
+    QCOMPARE(contentOf(u"calendarEvents.xml"_s),
              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<CalendarEvents>\n  <CalendarEvent>\n    <Name>Oma &amp; "
              "Opa</Name>\n"
              "    <DateTime>1941-03-09T00:00:00</DateTime>\n    <Recurrent>false</Recurrent>\n    <Image/>\n"
@@ -169,13 +156,13 @@ void tst_MvCalendarEventRegistry::changesOneEntry_data()
     QTest::addColumn<QString>("after");
     QTest::addColumn<QString>("result");
     QTest::addColumn<bool>("changes");
-    QTest::newRow("adds") << QString() << u"C"_qs << u"A B C"_qs << true;
-    QTest::newRow("removes") << u"A"_qs << QString() << u"B"_qs << true;
-    QTest::newRow("replaces in place") << u"A"_qs << u"C"_qs << u"C B"_qs << true;
-    QTest::newRow("the same") << u"A"_qs << u"A"_qs << u"A B"_qs << false;
-    QTest::newRow("nothing for nothing") << QString() << QString() << u"A B"_qs << false;
-    QTest::newRow("unknown one is added") << u"X"_qs << u"C"_qs << u"A B C"_qs << true;
-    QTest::newRow("unknown one is not removed") << u"X"_qs << QString() << u"A B"_qs << false;
+    QTest::newRow("adds") << QString() << u"C"_s << u"A B C"_s << true;
+    QTest::newRow("removes") << u"A"_s << QString() << u"B"_s << true;
+    QTest::newRow("replaces in place") << u"A"_s << u"C"_s << u"C B"_s << true;
+    QTest::newRow("the same") << u"A"_s << u"A"_s << u"A B"_s << false;
+    QTest::newRow("nothing for nothing") << QString() << QString() << u"A B"_s << false;
+    QTest::newRow("unknown one is added") << u"X"_s << u"C"_s << u"A B C"_s << true;
+    QTest::newRow("unknown one is not removed") << u"X"_s << QString() << u"A B"_s << false;
 }
 
 void tst_MvCalendarEventRegistry::changesOneEntry()
@@ -185,7 +172,7 @@ void tst_MvCalendarEventRegistry::changesOneEntry()
     QFETCH(bool, changes);
     const QDate day(2000, 1, 1);
     MvCalendarEventRegistry registry;
-    registry.setEvents({entry(u"A"_qs, day), entry(u"B"_qs, day)});
+    registry.setEvents({entry(u"A"_s, day), entry(u"B"_s, day)});
     QSignalSpy spy(&registry, &MvCalendarEventRegistry::eventsChanged);
     m_written.clear();
     const MvCalendarEvent newEntry = entry(after, day);
@@ -203,8 +190,8 @@ void tst_MvCalendarEventRegistry::changesOneEntry()
 void tst_MvCalendarEventRegistry::changesTheVeryEntry()
 {
     const QDate day(2000, 1, 1);
-    const MvCalendarEvent first = entry(u"A"_qs, day);
-    const MvCalendarEvent second = entry(u"A"_qs, day);
+    const MvCalendarEvent first = entry(u"A"_s, day);
+    const MvCalendarEvent second = entry(u"A"_s, day);
     MvCalendarEventRegistry registry;
     registry.setEvents({first, second});
     QVERIFY(registry.changeEvent(second, MvCalendarEvent()));
@@ -214,78 +201,79 @@ void tst_MvCalendarEventRegistry::changesTheVeryEntry()
 
 void tst_MvCalendarEventRegistry::loadsWithMergeFlag()
 {
-    const MvCalendarEvent known = entry(u"A"_qs, QDate(2000, 1, 1));
+    const MvCalendarEvent known = entry(u"A"_s, QDate(2000, 1, 1));
     MvCalendarEvent renamed = known;
-    renamed.setEventName(u"Z"_qs);
-    put(u"list.xml"_qs, MvCalendarEventFile::toBytes({renamed, entry(u"B"_qs, QDate(2000, 1, 1))}));
-    const QFileInfo file(path(u"list.xml"_qs));
+    renamed.setEventName(u"Z"_s);
+    QVERIFY(MvTestFiles::write(path(u"list.xml"_s),
+                               MvCalendarEventFile::toBytes({renamed, entry(u"B"_s, QDate(2000, 1, 1))})));
+    const QFileInfo file(path(u"list.xml"_s));
     MvCalendarEventRegistry registry;
     registry.setEvents({known});
     QSignalSpy spy(&registry, &MvCalendarEventRegistry::eventsChanged);
     for (int reading = 0; reading < 2; ++reading) { // known uuids leave the list alone
         QVERIFY(registry.loadFrom(file, false));
-        QCOMPARE(names(registry.activeEventList()), u"A B"_qs);
+        QCOMPARE(names(registry.activeEventList()), u"A B"_s);
     }
     QCOMPARE(spy.count(), 2);
     QVERIFY(registry.loadFrom(file, true)); // the flag means the opposite
-    QCOMPARE(names(registry.activeEventList()), u"Z B"_qs);
-    QCOMPARE(m_log.last(), u"CalendarEvents ACTION:loadFromFileOnStartup MERGE:set"_qs);
+    QCOMPARE(names(registry.activeEventList()), u"Z B"_s);
+    QCOMPARE(m_log.last(), u"CalendarEvents ACTION:loadFromFileOnStartup MERGE:set"_s);
 }
 
 void tst_MvCalendarEventRegistry::projects()
 {
-    const MvProjectIdentifier mine(u"mine"_qs, false);
-    const MvProjectIdentifier copy(u"copy"_qs, false);
+    const MvProjectIdentifier mine(u"mine"_s, false);
+    const MvProjectIdentifier copy(u"copy"_s, false);
     const QDate day(2000, 1, 1);
     MvCalendarEventRegistry registry;
-    registry.setEvents({entry(u"A"_qs, day)});
+    registry.setEvents({entry(u"A"_s, day)});
     QSignalSpy spy(&registry, &MvCalendarEventRegistry::eventsChanged);
     registry.setActiveModelId(mine, true);
     QCOMPARE(spy.count(), 0);
-    QCOMPARE(names(registry.activeEventList()), u"A"_qs);
-    registry.changeEvent(MvCalendarEvent(), entry(u"B"_qs, day));
-    QCOMPARE(names(registry.eventsOfProject(mine)), u"A B"_qs);
-    QCOMPARE(names(registry.eventsOfProject(DEFAULT_PROJECT_ID)), u"A"_qs);
+    QCOMPARE(names(registry.activeEventList()), u"A"_s);
+    registry.changeEvent(MvCalendarEvent(), entry(u"B"_s, day));
+    QCOMPARE(names(registry.eventsOfProject(mine)), u"A B"_s);
+    QCOMPARE(names(registry.eventsOfProject(DEFAULT_PROJECT_ID)), u"A"_s);
 
     registry.updateActiveModelId(mine, copy);
-    QCOMPARE(names(registry.eventsOfProject(copy)), u"A B"_qs);
+    QCOMPARE(names(registry.eventsOfProject(copy)), u"A B"_s);
     QCOMPARE(registry.activeModelId(), mine);
     registry.setActiveModelId(DEFAULT_PROJECT_ID, false);
-    QCOMPARE(names(registry.activeEventList()), u"A"_qs);
+    QCOMPARE(names(registry.activeEventList()), u"A"_s);
     QCOMPARE(spy.count(), 3);
-    QVERIFY(registry.eventsOfProject(MvProjectIdentifier(u"unknown"_qs, false)).isEmpty());
+    QVERIFY(registry.eventsOfProject(MvProjectIdentifier(u"unknown"_s, false)).isEmpty());
 }
 
 void tst_MvCalendarEventRegistry::asksByDay()
 {
     const QDate day(2026, 5, 17);
     MvCalendarEventRegistry registry;
-    registry.setEvents({entry(u"every-year"_qs, QDate(1990, 5, 17)),
-                        entry(u"once-then"_qs, QDate(1990, 5, 17), {}, false),
-                        entry(u"other-day"_qs, QDate(1990, 5, 18)), entry(u"once-now"_qs, day, {}, false)});
-    QCOMPARE(registry.descriptions(keyAt(day)), (QStringList{u"every-year"_qs, u"once-now"_qs}));
-    QCOMPARE(names(registry.events(keyAt(day).config())), u"every-year once-now"_qs);
+    registry.setEvents({entry(u"every-year"_s, QDate(1990, 5, 17)),
+                        entry(u"once-then"_s, QDate(1990, 5, 17), {}, false), entry(u"other-day"_s, QDate(1990, 5, 18)),
+                        entry(u"once-now"_s, day, {}, false)});
+    QCOMPARE(registry.descriptions(keyAt(day)), (QStringList{u"every-year"_s, u"once-now"_s}));
+    QCOMPARE(names(registry.events(keyAt(day).config())), u"every-year once-now"_s);
     QVERIFY(registry.descriptions(keyAt(day, DEFAULT_PROJECT_ID, false)).isEmpty());
     QVERIFY(registry.events(keyAt(day, DEFAULT_PROJECT_ID, false).config()).isEmpty());
-    const MvProjectIdentifier other(u"other"_qs, false);
+    const MvProjectIdentifier other(u"other"_s, false);
     QVERIFY(registry.descriptions(keyAt(day, other)).isEmpty());
     QVERIFY(registry.events(keyAt(day).config(), other).isEmpty());
     QVERIFY(!registry.hasHolidayOfType(keyAt(day), MvCalendariumHolidayType(HOLIDAY_TYPE_PUBLIC)));
     registry.changeEvent(registry.activeEventList().first(), MvCalendarEvent());
-    QCOMPARE(registry.descriptions(keyAt(day)), QStringList{u"once-now"_qs}); // the index follows
+    QCOMPARE(registry.descriptions(keyAt(day)), QStringList{u"once-now"_s}); // the index follows
 }
 
 void tst_MvCalendarEventRegistry::fotosByDay()
 {
     const QDate day(2026, 5, 17);
     const QDir folder = MvCalendarEvent::imageDirectory();
-    putImage(folder.filePath(u"red.png"_qs), Qt::red);
-    put(u"calendarEventFotos/broken.png"_qs, "no image");
-    MvCalendarEventList events = {entry(u"none"_qs, day), entry(u"missing"_qs, day), entry(u"broken"_qs, day),
-                                  entry(u"red"_qs, day)};
-    events[1].setFoto(MvFoto(QFileInfo(folder.filePath(u"missing.png"_qs))));
-    events[2].setFoto(MvFoto(QFileInfo(folder.filePath(u"broken.png"_qs))));
-    events[3].setFoto(MvFoto(QFileInfo(folder.filePath(u"red.png"_qs))));
+    QVERIFY(MvTestFiles::writeFoto(folder.filePath(u"red.png"_s), {16, 12}, Qt::red));
+    QVERIFY(MvTestFiles::write(path(u"calendarEventFotos/broken.png"_s), "no image"));
+    MvCalendarEventList events = {entry(u"none"_s, day), entry(u"missing"_s, day), entry(u"broken"_s, day),
+                                  entry(u"red"_s, day)};
+    events[1].setFoto(MvFoto(QFileInfo(folder.filePath(u"missing.png"_s))));
+    events[2].setFoto(MvFoto(QFileInfo(folder.filePath(u"broken.png"_s))));
+    events[3].setFoto(MvFoto(QFileInfo(folder.filePath(u"red.png"_s))));
     MvCalendarEventRegistry registry;
     registry.setEvents(events);
 
@@ -296,45 +284,43 @@ void tst_MvCalendarEventRegistry::fotosByDay()
     QCOMPARE(registry.eventImage(keyAt(day), {100, 100}).cacheKey(), small.cacheKey()); // not decoded again
     QVERIFY(registry.eventImage(keyAt(day.addDays(1))).isNull());
     QVERIFY(registry.eventImage(keyAt(day, DEFAULT_PROJECT_ID, false), {9, 9}).isNull());
-    QCOMPARE(registry.imageFile(keyAt(day)).path, folder.absoluteFilePath(u"broken.png"_qs)); // exists, that is all
+    QCOMPARE(registry.imageFile(keyAt(day)).path, folder.absoluteFilePath(u"broken.png"_s)); // exists, that is all
     events.removeAt(2);
     registry.setEvents(events);
-    QCOMPARE(registry.imageFile(keyAt(day)).path, folder.absoluteFilePath(u"red.png"_qs));
+    QCOMPARE(registry.imageFile(keyAt(day)).path, folder.absoluteFilePath(u"red.png"_s));
     QCOMPARE(registry.imageFile(keyAt(day)).size, QSize(400, 300));
     QVERIFY(registry.imageFile(keyAt(day.addDays(1))).isEmpty());
 }
 
 void tst_MvCalendarEventRegistry::setsUnreadableFilesAside()
 {
-    putImage(MvCalendarEvent::imageDirectory().filePath(u"in-use.png"_qs));
-    put(u"calendarEvents.xml"_qs, "<CalendarEvents><CalendarEvent>");
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"calendarEvents\\.xml:1"_qs));
+    QVERIFY(MvTestFiles::writeFoto(MvCalendarEvent::imageDirectory().filePath(u"in-use.png"_s)));
+    QVERIFY(MvTestFiles::write(path(u"calendarEvents.xml"_s), "<CalendarEvents><CalendarEvent>"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"calendarEvents\\.xml:1"_s));
     MvCalendarEventRegistry registry;
-    registry.setEvents({entry(u"A"_qs, QDate(2000, 1, 1))});
+    registry.setEvents({entry(u"A"_s, QDate(2000, 1, 1))});
     registry.cleanupImageDirectory(); // the lost list may have used it
-    QCOMPARE(fotos(), QStringList{u"in-use.png"_qs});
+    QCOMPARE(fotos(), QStringList{u"in-use.png"_s});
     registry.setEvents({});
-    QCOMPARE(QDir(m_data->path()).entryList({u"*unlesbar*"_qs}).size(), 1);
+    QCOMPARE(QDir(m_data->path()).entryList({u"*unlesbar*"_s}).size(), 1);
 }
 
 void tst_MvCalendarEventRegistry::takesImportedFotosOver()
 {
     const QTemporaryDir elsewhere;
-    putImage(elsewhere.filePath(u"fotos/oma.jpg"_qs));
+    QVERIFY(MvTestFiles::writeFoto(elsewhere.filePath(u"fotos/oma.jpg"_s)));
     const QByteArray content = "<CalendarEvents><CalendarEvent><Name>Oma</Name><DateTime>1941-03-09T00:00:00</DateTime>"
                                "<Image>fotos/oma.jpg</Image></CalendarEvent></CalendarEvents>";
-    QFile list(elsewhere.filePath(u"list.xml"_qs));
-    QVERIFY(list.open(QIODevice::WriteOnly));
-    list.write(content);
-    list.close();
+    const QString list = elsewhere.filePath(u"list.xml"_s);
+    QVERIFY(MvTestFiles::write(list, content));
 
     MvCalendarEventRegistry registry;
-    QVERIFY(registry.loadFrom(QFileInfo(list.fileName()), true));
+    QVERIFY(registry.loadFrom(QFileInfo(list), true));
     QVERIFY(!registry.eventImage(keyAt(QDate(2026, 3, 9))).isNull());
     QCOMPARE(fotos(), QStringList()); // looking at a list copies nothing
     registry.save();
     registry.setEvents(registry.activeEventList());
-    QCOMPARE(fotos(), QStringList{u"oma.jpg"_qs}); // once
+    QCOMPARE(fotos(), QStringList{u"oma.jpg"_s}); // once
     QVERIFY(registry.activeEventList().first().isInAppSafeArea(registry.activeEventList().first().imagePath()));
     const MvCalendarEventRegistry next;
     QVERIFY(!next.eventImage(keyAt(QDate(2026, 3, 9))).isNull());
@@ -343,44 +329,44 @@ void tst_MvCalendarEventRegistry::takesImportedFotosOver()
 void tst_MvCalendarEventRegistry::foreignFotosAreKeptByName()
 {
     const QTemporaryDir elsewhere;
-    putImage(elsewhere.filePath(u"secret.png"_qs));
-    const QString secret = elsewhere.filePath(u"secret.png"_qs);
-    put(u"calendarEvents.xml"_qs,
-        u"<CalendarEvents><CalendarEvent><Name>X</Name><DateTime>2000-01-01T00:00:00</DateTime>"
-        "<Image>%1</Image></CalendarEvent></CalendarEvents>"_qs.arg(secret)
-            .toUtf8());
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"außerhalb der erlaubten Ordner"_qs));
+    QVERIFY(MvTestFiles::writeFoto(elsewhere.filePath(u"secret.png"_s)));
+    const QString secret = elsewhere.filePath(u"secret.png"_s);
+    QVERIFY(MvTestFiles::write(path(u"calendarEvents.xml"_s),
+                               u"<CalendarEvents><CalendarEvent><Name>X</Name><DateTime>2000-01-01T00:00:00</DateTime>"
+                               "<Image>%1</Image></CalendarEvent></CalendarEvents>"_s.arg(secret)
+                                   .toUtf8()));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"außerhalb der erlaubten Ordner"_s));
     MvCalendarEventRegistry registry;
     const MvCalendariumContentKey key = keyAt(QDate(2026, 1, 1));
     QVERIFY(registry.eventImage(key).isNull());
     QVERIFY(registry.imageFile(key).isEmpty());
     registry.setEvents(registry.activeEventList());
-    QVERIFY(contentOf(u"calendarEvents.xml"_qs).contains(secret.toUtf8()));
+    QVERIFY(contentOf(u"calendarEvents.xml"_s).contains(secret.toUtf8()));
     QCOMPARE(fotos(), QStringList());
 }
 
 void tst_MvCalendarEventRegistry::cleansUp()
 {
     const QDir folder = MvCalendarEvent::imageDirectory();
-    for (const QString &name : {u"active.png"_qs, u"inactive.png"_qs, u"orphan.png"_qs})
-        putImage(folder.filePath(name));
-    MvCalendarEvent active = entry(u"active"_qs, QDate(2000, 1, 1));
-    active.setFoto(MvFoto(QFileInfo(folder.filePath(u"active.png"_qs))));
-    MvCalendarEvent inactive = entry(u"inactive"_qs, QDate(2000, 1, 1));
-    inactive.setFoto(MvFoto(QFileInfo(folder.filePath(u"inactive.png"_qs))));
+    for (const QString &name : {u"active.png"_s, u"inactive.png"_s, u"orphan.png"_s})
+        QVERIFY(MvTestFiles::writeFoto(folder.filePath(name)));
+    MvCalendarEvent active = entry(u"active"_s, QDate(2000, 1, 1));
+    active.setFoto(MvFoto(QFileInfo(folder.filePath(u"active.png"_s))));
+    MvCalendarEvent inactive = entry(u"inactive"_s, QDate(2000, 1, 1));
+    inactive.setFoto(MvFoto(QFileInfo(folder.filePath(u"inactive.png"_s))));
 
     MvCalendarEventRegistry registry;
     registry.setEvents({inactive});
-    registry.setActiveModelId(MvProjectIdentifier(u"mine"_qs, false), true);
+    registry.setActiveModelId(MvProjectIdentifier(u"mine"_s, false), true);
     registry.setEvents({active});
     registry.cleanupImageDirectory();
-    QCOMPARE(fotos(), QStringList{u"active.png"_qs});
+    QCOMPARE(fotos(), QStringList{u"active.png"_s});
     QVERIFY(!registry.eventImage(keyAt(QDate(2026, 1, 1), DEFAULT_PROJECT_ID)).isNull()); // back from the bin
     registry.cleanupImageDirectory();
 
-    putImage(folder.filePath(u"theirs.png"_qs)); // another program has just added it
-    MvCalendarEvent theirs = entry(u"theirs"_qs, QDate(2000, 1, 1));
-    theirs.setFoto(MvFoto(QFileInfo(folder.filePath(u"theirs.png"_qs))));
+    QVERIFY(MvTestFiles::writeFoto(folder.filePath(u"theirs.png"_s))); // another program has just added it
+    MvCalendarEvent theirs = entry(u"theirs"_s, QDate(2000, 1, 1));
+    theirs.setFoto(MvFoto(QFileInfo(folder.filePath(u"theirs.png"_s))));
     MvCalendarEventRegistry other;
     other.changeEvent(MvCalendarEvent(), theirs);
     registry.cleanupImageDirectory();
@@ -392,13 +378,13 @@ void tst_MvCalendarEventRegistry::importsAddressBook()
     QImage image(40, 50, QImage::Format_RGB32);
     image.fill(Qt::green);
     m_platform->contacts = {
-        MvSimplePerson(u"Erika"_qs, QDate(1941, 3, 9), image, QUuid::createUuid()),
-        MvSimplePerson(u"Kurt"_qs, QDate(1939, 12, 24), QImage(), QUuid::createUuid()),
-        MvSimplePerson(u"Ohne"_qs, QDate(), QImage(), QUuid::createUuid()),
+        MvSimplePerson(u"Erika"_s, QDate(1941, 3, 9), image, QUuid::createUuid()),
+        MvSimplePerson(u"Kurt"_s, QDate(1939, 12, 24), QImage(), QUuid::createUuid()),
+        MvSimplePerson(u"Ohne"_s, QDate(), QImage(), QUuid::createUuid()),
     };
     MvCalendarEventRegistry registry;
     const MvCalendarEventList found = registry.loadFromSystemAddressBook();
-    QCOMPARE(names(found), u"Erika Kurt Ohne"_qs);
+    QCOMPARE(names(found), u"Erika Kurt Ohne"_s);
     QVERIFY(registry.activeEventList().isEmpty()); // nothing is stored
     QCOMPARE(found.first().dateTime().date(), QDate(1941, 3, 9));
     QCOMPARE(found.first().uuid(), m_platform->contacts.first().uuid());
@@ -411,7 +397,7 @@ void tst_MvCalendarEventRegistry::clearsFilledTexts()
 {
     MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
     MvSVGCompilerInstructionsCache &cache = MvSVGCompilerInstructionsCache::instance();
-    cache.instructions(u"{entries}"_qs);
+    cache.instructions(u"{entries}"_s);
     QVERIFY(cache.count() > 0);
     registry.setEvents({});
     QCOMPARE(cache.count(), 0);

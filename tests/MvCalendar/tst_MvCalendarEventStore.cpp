@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -10,6 +11,8 @@
 #include "MvCore/MvSafeFileWriter.h"
 
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 using Problem = MvCalendarEventStore::Problem;
 
@@ -28,8 +31,7 @@ private Q_SLOTS:
     void removedEntriesStayAway();
 
 private:
-    QString path() const { return m_data->filePath(u"calendarEvents.xml"_qs); }
-    void put(const QByteArray &content) const;
+    QString path() const { return m_data->filePath(u"calendarEvents.xml"_s); }
     QString onDisk() const { return names(MvCalendarEventFile::read(QFileInfo(path())).events); }
 
     static QString names(const MvCalendarEventList &events) { return MvEntries::names(events).join(u' '); }
@@ -54,44 +56,37 @@ private:
 
 void tst_MvCalendarEventStore::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
     m_data = std::make_unique<QTemporaryDir>();
     MvDirectoryConfig::instance().setProgramDataDir(m_data->path());
-}
-
-void tst_MvCalendarEventStore::put(const QByteArray &content) const
-{
-    QFile file(path());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
 }
 
 /// Another program stands still while it saves, and goes on much later.
 void tst_MvCalendarEventStore::waitsForOthersWithoutWriting()
 {
-    put(fileOf("A"));
+    QVERIFY(MvTestFiles::write(path(), fileOf("A")));
     MvCalendarEventRegistry registry;
     const MvCalendarEventStore &store = registry.userFile();
     QSignalSpy changed(&registry, &MvCalendarEventRegistry::eventsChanged);
     QSignalSpy told(&store, &MvCalendarEventStore::problemChanged);
     auto other = std::make_unique<MvFileGuard>(QFileInfo(path()), 0);
     QVERIFY(other->isLocked());
-    registry.changeEvent({}, entry(u"B"_qs));
-    QCOMPARE(names(registry.activeEventList()), u"A B"_qs);
+    registry.changeEvent({}, entry(u"B"_s));
+    QCOMPARE(names(registry.activeEventList()), u"A B"_s);
     QVERIFY(store.hasUnsavedChanges());
     QVERIFY(!registry.userFile().saveNow());
-    QCOMPARE(onDisk(), u"A"_qs);
+    QCOMPARE(onDisk(), u"A"_s);
     ignore("calendarEvents\\.xml konnte noch nicht gespeichert werden");
     QTRY_COMPARE_WITH_TIMEOUT(store.problem().kind, Problem::Busy, 60000);
     QVERIFY(store.problem().text.contains(path()));
-    QCOMPARE(onDisk(), u"A"_qs);
+    QCOMPARE(onDisk(), u"A"_s);
 
-    put(fileOf("A C"));
+    QVERIFY(MvTestFiles::write(path(), fileOf("A C")));
     changed.clear();
     other.reset();
     QTRY_VERIFY_WITH_TIMEOUT(!store.hasUnsavedChanges(), 60000);
-    QCOMPARE(onDisk(), u"A B C"_qs);
-    QCOMPARE(names(registry.activeEventList()), u"A B C"_qs);
+    QCOMPARE(onDisk(), u"A B C"_s);
+    QCOMPARE(names(registry.activeEventList()), u"A B C"_s);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(store.problem().kind, Problem::None);
     QCOMPARE(told.count(), 2);
@@ -103,7 +98,7 @@ void tst_MvCalendarEventStore::failedSavingIsTriedAgain()
     MvCalendarEventStore &store = registry.userFile();
     QSignalSpy told(&store, &MvCalendarEventStore::problemChanged);
     QVERIFY(QDir().mkdir(path())); // in the way
-    for (const QString &name : {u"A"_qs, u"B"_qs}) {
+    for (const QString &name : {u"A"_s, u"B"_s}) {
         ignore("calendarEvents\\.xml");
         registry.changeEvent({}, entry(name));
         QVERIFY(store.hasUnsavedChanges());
@@ -116,7 +111,7 @@ void tst_MvCalendarEventStore::failedSavingIsTriedAgain()
     told.clear();
     QVERIFY(QDir().rmdir(path()));
     QVERIFY(store.saveNow());
-    QCOMPARE(onDisk(), u"A B"_qs);
+    QCOMPARE(onDisk(), u"A B"_s);
     QCOMPARE(store.problem().kind, Problem::None);
     QVERIFY(!told.isEmpty());
 }
@@ -127,12 +122,12 @@ void tst_MvCalendarEventStore::restoresBackups_data()
     QTest::addColumn<Problem::Kind>("kind");
     QTest::addColumn<QString>("typedSince");
     QTest::addColumn<QString>("result");
-    QTest::newRow("cut off") << fileOf("A B").left(90) << Problem::Unreadable << QString() << u"A B"_qs;
-    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << Problem::Unreadable << QString() << u"A B"_qs;
-    QTest::newRow("typed since") << fileOf("A B").left(90) << Problem::Unreadable << u"X"_qs << u"A B X"_qs;
+    QTest::newRow("cut off") << fileOf("A B").left(90) << Problem::Unreadable << QString() << u"A B"_s;
+    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << Problem::Unreadable << QString() << u"A B"_s;
+    QTest::newRow("typed since") << fileOf("A B").left(90) << Problem::Unreadable << u"X"_s << u"A B X"_s;
     QTest::newRow("a part was read") << fileOf("A B").replace("2000-01-01T00:00:00</DateTime></CalendarEvent></",
                                                               "1. Mai</DateTime></CalendarEvent></")
-                                     << Problem::PartlyReadable << u"X"_qs << u"A B X"_qs;
+                                     << Problem::PartlyReadable << u"X"_s << u"A B X"_s;
 }
 
 void tst_MvCalendarEventStore::restoresBackups()
@@ -140,10 +135,10 @@ void tst_MvCalendarEventStore::restoresBackups()
     QFETCH(QByteArray, damaged);
     QFETCH(Problem::Kind, kind);
     QFETCH(QString, typedSince);
-    put(fileOf("A"));
+    QVERIFY(MvTestFiles::write(path(), fileOf("A")));
     QVERIFY(MvSafeFileWriter::write(QFileInfo(path()), fileOf("A B")).isOk());
     QVERIFY(MvSafeFileWriter::write(QFileInfo(path()), fileOf("A B C")).isOk());
-    put(damaged);
+    QVERIFY(MvTestFiles::write(path(), damaged));
     if (damaged.startsWith("<CalendarEvents>") && kind == Problem::Unreadable)
         ignore("calendarEvents\\.xml:1:\\d+");
     MvCalendarEventRegistry registry;
@@ -154,18 +149,18 @@ void tst_MvCalendarEventStore::restoresBackups()
     for (const QString &name : typedSince.split(u' ', Qt::SkipEmptyParts)) {
         registry.changeEvent({}, entry(name));
         QCOMPARE(QFileInfo(store.problem().setAside).size(), damaged.size());
-        registry.changeEvent({}, entry(name + u"2"_qs));
+        registry.changeEvent({}, entry(name + u"2"_s));
         registry.changeEvent(registry.activeEventList().last(), {});
     }
-    QCOMPARE(names(MvCalendarEventFile::read(backup).events), u"A B"_qs); // saving has not pushed it out
-    QVERIFY(store.restoreBackup(QFileInfo(m_data->filePath(u"missing.xml"_qs))).error.contains(u"missing.xml"_qs));
+    QCOMPARE(names(MvCalendarEventFile::read(backup).events), u"A B"_s); // saving has not pushed it out
+    QVERIFY(store.restoreBackup(QFileInfo(m_data->filePath(u"missing.xml"_s))).error.contains(u"missing.xml"_s));
     QSignalSpy changed(&registry, &MvCalendarEventRegistry::eventsChanged);
     QCOMPARE(store.restoreBackup(backup).error, QString());
     QTEST(names(registry.activeEventList()), "result");
     QTEST(onDisk(), "result");
     QCOMPARE(changed.count(), 1);
     QCOMPARE(store.problem().kind, Problem::None);
-    QFile aside(QDir(m_data->path()).entryInfoList({u"*unlesbar*"_qs}).value(0).filePath());
+    QFile aside(QDir(m_data->path()).entryInfoList({u"*unlesbar*"_s}).value(0).filePath());
     QVERIFY(aside.open(QIODevice::ReadOnly));
     QCOMPARE(aside.readAll(), damaged);
 }
@@ -174,23 +169,23 @@ void tst_MvCalendarEventStore::takesInWhatOthersLeft_data()
 {
     QTest::addColumn<QByteArray>("left");
     QTest::addColumn<QString>("result");
-    QTest::newRow("a line more, without uuids") << fileOf("A B C") << u"A B X C"_qs;
-    QTest::newRow("a line less, without uuids") << fileOf("B") << u"B X"_qs;
-    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << u"A B X"_qs;
-    QTest::newRow("a cut-off file") << fileOf("B C").left(120) << u"A B X"_qs;
+    QTest::newRow("a line more, without uuids") << fileOf("A B C") << u"A B X C"_s;
+    QTest::newRow("a line less, without uuids") << fileOf("B") << u"B X"_s;
+    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << u"A B X"_s;
+    QTest::newRow("a cut-off file") << fileOf("B C").left(120) << u"A B X"_s;
     QTest::newRow("an entry that cannot be read")
         << fileOf("B C").replace("<DateTime>2000-01-01T00:00:00</DateTime></CalendarEvent></", "</CalendarEvent></")
-        << u"A B X"_qs;
+        << u"A B X"_s;
 }
 
 /// A text editor, a synchronised folder or another program changed the file: all that was not removed stays.
 void tst_MvCalendarEventStore::takesInWhatOthersLeft()
 {
     QFETCH(QByteArray, left);
-    put(fileOf("A B"));
+    QVERIFY(MvTestFiles::write(path(), fileOf("A B")));
     MvCalendarEventRegistry registry;
-    put(left);
-    registry.changeEvent({}, entry(u"X"_qs));
+    QVERIFY(MvTestFiles::write(path(), left));
+    registry.changeEvent({}, entry(u"X"_s));
     QTEST(names(registry.activeEventList()), "result");
     QTEST(onDisk(), "result");
     QCOMPARE(MvCalendarEventRegistry().activeEventList(), registry.activeEventList());
@@ -200,10 +195,10 @@ void tst_MvCalendarEventStore::takesInWhatOthersLeft()
 void tst_MvCalendarEventStore::removedEntriesStayAway()
 {
     MvCalendarEventRegistry registry;
-    registry.setEvents({entry(u"A"_qs), entry(u"B"_qs, QTime(12, 0, 0, 123))});
-    MvCalendarEventRegistry().changeEvent({}, entry(u"C"_qs));
+    registry.setEvents({entry(u"A"_s), entry(u"B"_s, QTime(12, 0, 0, 123))});
+    MvCalendarEventRegistry().changeEvent({}, entry(u"C"_s));
     registry.changeEvent(registry.activeEventList().last(), {});
-    QCOMPARE(onDisk(), u"A C"_qs);
+    QCOMPARE(onDisk(), u"A C"_s);
 }
 
 MV_TEST_MAIN(tst_MvCalendarEventStore)

@@ -6,6 +6,7 @@
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvEntries.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <QDir>
 
@@ -60,10 +61,8 @@ void tst_MvCalendariumHolidayCache::cleanup()
 
 void tst_MvCalendariumHolidayCache::writeOwnHolidays(const QByteArray &elements) const
 {
-    QVERIFY(QDir().mkpath(ownFile().absolutePath()));
-    QFile file(ownFile().filePath());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<MyHolidays><country code=\"DE\">" + elements + "</country></MyHolidays>");
+    const QByteArray file = "<MyHolidays><country code=\"DE\">" + elements + "</country></MyHolidays>";
+    QVERIFY(MvTestFiles::write(ownFile().filePath(), file));
 }
 
 void tst_MvCalendariumHolidayCache::yearsAreComputedOnce()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvUserSchemaFile.h"
 #include "MvCore/MvFileGuard.h"
@@ -142,9 +143,7 @@ void tst_MvUserSchemaFile::setsAside()
     QVERIFY(Program().keep(u"1=red"_s).isOk());
     Program here;
     here.keep(u""_s);
-    QFile file(here.file().filePath());
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    file.close();
+    QVERIFY(MvTestFiles::write(here.file().filePath(), content));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"schemata.xml.*Der alte Stand liegt in"_s));
     QTEST(text(here.keep(u"5=new"_s).areas), "after");
     QFile aside(here.file().dir().filePath(besides().value(0)));
