@@ -27,6 +27,10 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     std::fprintf(stderr, "mvcalendar: %s\n", message.simplified().toLocal8Bit().constData());
 }
 
+/// Bytes of photos that are kept: pages are painted once, and a photo of all pages is always the one used last. Two
+/// fill pages of A4, one a page of A3.
+constexpr qint64 imageMemory = 80 << 20;
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -41,6 +45,7 @@ int main(int argc, char **argv)
     MvTranslations::install(MvTranslations::systemLanguage());
     MvOutOfMemory::install(QCoreApplication::applicationName(), MvCliCommand::Failed);
     MvImageLoader::raiseProcessLimit();
+    MvImageLoader::instance().setCacheLimit(imageMemory);
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
 
     QFile standardOutput;

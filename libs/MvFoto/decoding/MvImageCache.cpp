@@ -73,6 +73,18 @@ void MvImageCache::keep(const Key &key, const QImage &image)
     m_uses.push_front(key);
     m_entries.insert(key, {image, m_uses.begin()});
     m_byteCount += cost(image);
+    dropSurplus();
+}
+
+void MvImageCache::setByteLimit(qint64 byteLimit)
+{
+    const QMutexLocker lock(&m_mutex);
+    m_byteLimit = byteLimit;
+    dropSurplus();
+}
+
+void MvImageCache::dropSurplus()
+{
     while (m_byteCount > m_byteLimit) {
         m_byteCount -= cost(m_entries.take(m_uses.back()).image);
         m_uses.pop_back();

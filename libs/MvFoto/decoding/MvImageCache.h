@@ -43,6 +43,8 @@ public:
     /// The widest image that is kept of the same file in the same form, whatever its target; null without one.
     QImage otherSize(const Key &key) const;
     void clear();
+    /// Drops what is too much.
+    void setByteLimit(qint64 byteLimit);
     /// Sum of the kept images in bytes; never above the limit.
     qint64 byteCount() const;
 
@@ -54,6 +56,7 @@ private:
     };
 
     void keep(const Key &key, const QImage &image);
+    void dropSurplus();
     static qint64 cost(const QImage &image);
 
     mutable QMutex m_mutex;

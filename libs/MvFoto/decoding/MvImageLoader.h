@@ -53,6 +53,8 @@ public:
     /// The format of the content, as MvImageFormat names it.
     static QByteArray format(const QFileInfo &file);
 
+    /// Another limit than `cacheLimit`, in bytes, for programs that paint each page once.
+    void setCacheLimit(qint64 bytes) { m_cache.setByteLimit(bytes); }
     /// Forgets the decoded images.
     void clear() { m_cache.clear(); }
     const MvImageCache &cache() const { return m_cache; }

@@ -7,6 +7,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <stdexcept>
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
@@ -16,6 +17,30 @@ namespace {
 
 constexpr qsizetype large = 1 << 15; // bytes
 constexpr qsizetype piece = 1 << 16;
+
+/// To a file, told at once when its disk is full.
+class FilePipeline : public Pipeline
+{
+public:
+    explicit FilePipeline(QFile &file)
+        : Pipeline("file", nullptr)
+        , m_file(file)
+    {}
+
+    void write(const unsigned char *data, size_t size) override
+    {
+        if (m_file.write(reinterpret_cast<const char *>(data), qint64(size)) != qint64(size))
+            throw std::runtime_error(m_file.errorString().toStdString());
+    }
+    void finish() override
+    {
+        if (!m_file.flush())
+            throw std::runtime_error(m_file.errorString().toStdString());
+    }
+
+private:
+    QFile &m_file;
+};
 
 } // namespace
 
@@ -31,7 +56,7 @@ struct MvPdfFile::Private
         try {
             return QPDFObjectHandle::parse(&pdf, value.toStdString());
         } catch (const std::exception &exception) {
-            fail(QString::fromLocal8Bit(exception.what()));
+            fail(QString::fromUtf8(exception.what()));
             return QPDFObjectHandle::newNull();
         }
     }
@@ -133,16 +158,22 @@ void MvPdfFile::setInformation(const QByteArray &value)
 
 MvOutcome MvPdfFile::write(const QString &path)
 {
+    QFile file(path);
+    if (d->waiting.isOpen() && !d->waiting.flush())
+        d->fail(d->waiting.errorString());
+    if (!file.open(QIODevice::WriteOnly))
+        d->fail(file.errorString());
+    if (!d->error.isEmpty())
+        return {d->error, {}};
     try {
-        QPDFWriter writer(d->pdf, QFile::encodeName(path).constData());
+        FilePipeline pipeline(file);
+        QPDFWriter writer(d->pdf);
+        writer.setOutputPipeline(&pipeline);
         writer.setObjectStreamMode(qpdf_o_generate);
         writer.setDeterministicID(true);
-        if (d->error.isEmpty() && (!d->waiting.isOpen() || d->waiting.flush()))
-            writer.write();
-        else
-            d->fail(d->waiting.errorString());
+        writer.write();
     } catch (const std::exception &exception) {
-        d->fail(QString::fromLocal8Bit(exception.what()));
+        d->fail(QString::fromUtf8(exception.what()));
     }
     return {d->error, {}};
 }
