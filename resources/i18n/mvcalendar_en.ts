@@ -598,15 +598,15 @@
     </message>
     <message>
         <source>Titelblatt</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover</translation>
     </message>
     <message>
         <source>Rückseite</source>
-        <translation type="unfinished"></translation>
+        <translation>Back</translation>
     </message>
     <message>
         <source>%1, weitere Seite</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, another page</translation>
     </message>
 </context>
 <context>
@@ -2801,19 +2801,19 @@ The context menu replaces the photo by another one.</translation>
     <name>MvProjectElementReader</name>
     <message>
         <source>Ein Element der Art „%1“ ist hier unbekannt; es bleibt weg.</source>
-        <translation type="unfinished"></translation>
+        <translation>An element of the kind “%1” is unknown here; it is left out.</translation>
     </message>
     <message>
         <source>Ein Foto ohne Datei, oder eines, das es schon gibt; es bleibt weg.</source>
-        <translation type="unfinished"></translation>
+        <translation>A photo without a file, or one that is there already; it is left out.</translation>
     </message>
     <message>
         <source>Wo das Element steht, ist nicht lesbar; es füllt die Seite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Where the element stands cannot be read; it fills the page.</translation>
     </message>
     <message>
         <source>%1 „%2“ ist keine Farbe wie #RRGGBB.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 “%2” is no colour like #RRGGBB.</translation>
     </message>
 </context>
 <context>
@@ -2920,11 +2920,11 @@ Save it under another name or in another folder.</translation>
     <name>MvProjectNotes</name>
     <message>
         <source>%1 „%2“ geht nicht; es gilt %3.</source>
-        <translation type="unfinished">%1 “%2” is not possible; it becomes %3.</translation>
+        <translation>%1 “%2” is not possible; it becomes %3.</translation>
     </message>
     <message>
         <source>%1 „%2“ geht nicht; es gilt „%3“.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 “%2” is not possible; it becomes “%3”.</translation>
     </message>
 </context>
 <context>
@@ -3006,7 +3006,7 @@ Save it under another name or in another folder.</translation>
     </message>
     <message>
         <source>Die Seitenvorlage „%1“ gibt es hier nicht; alles bleibt, wo es steht.</source>
-        <translation type="unfinished"></translation>
+        <translation>The page template “%1” is not there; everything stays where it stands.</translation>
     </message>
 </context>
 <context>
@@ -3453,13 +3453,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>&amp;Farben:</source>
         <translation>&amp;Colours:</translation>
-    </message>
-</context>
-<context>
-    <name>MvSingleton</name>
-    <message>
-        <source>Das Thema „%1“ bleibt weg, denn seine Kennung %2 hat schon „%3“. Eine andere bringt es zurück.</source>
-        <translation>The theme “%1” is left out, since “%3” has its id %2 already. Another one brings it back.</translation>
     </message>
 </context>
 <context>
@@ -4068,6 +4061,13 @@ Designs photo calendars and prints them.
     <message>
         <source>Das Thema „%1“ bleibt weg: %2.</source>
         <translation>The theme “%1” is left out: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>MvThemeRegistry</name>
+    <message>
+        <source>Das Thema „%1“ bleibt weg, denn seine Kennung %2 hat schon „%3“. Eine andere bringt es zurück.</source>
+        <translation type="unfinished">The theme “%1” is left out, since “%3” has its id %2 already. Another one brings it back.</translation>
     </message>
 </context>
 <context>
