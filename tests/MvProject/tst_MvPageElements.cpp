@@ -413,6 +413,7 @@ void tst_MvPageElements::veils_data()
     QTest::newRow("light on the night") << u"NIGHT"_s << 0 << 12 << false;
     QTest::newRow("light on snow") << u"NIGHT"_s << 240 << 255 << true;
     QTest::newRow("light on grey") << u"NIGHT"_s << 120 << 130 << true;
+    QTest::newRow("white words of a white page, on a sky") << u""_s << 180 << 200 << true;
 }
 
 /// Contrast by the definition of the web's rules, over again: 4.5 for all but what a letter covers itself.
@@ -429,10 +430,13 @@ void tst_MvPageElements::veils()
     const QString path = m_folder.filePath(u"%1-%2.png"_s.arg(dark).arg(light));
     QVERIFY(stripes.save(path));
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
-    calendar.setAppearance(appearance(u"MONTH_GRID_CLASSIC"_s, colors));
-    const QColor ink = calendar.appearance().cellColor(
+    const bool isWhite = colors.isEmpty();
+    calendar.setAppearance(appearance(u"MONTH_GRID_CLASSIC"_s, isWhite ? u"PAPER_WHITE"_s : colors));
+    const QColor usual = calendar.appearance().cellColor(
         {MvCalendarCellColorRoleEnum::textcolor, CALENDAR_CELL_TYPE_WEEKDAY, MvParityLogicEnum::even});
+    const QColor ink = isWhite ? QColor(Qt::white) : usual;
     MvTextElement words(u"Am See"_s);
+    words.setColor(isWhite ? ink : QColor());
     words.setOnFoto(true);
     words.setPoints(40.0);
     MvCalendarPage page = calendar.pages()[0];

@@ -93,7 +93,7 @@ void MvFotoVeil::paint(QPainter &painter, const QRectF &rect, const QList<QColor
 {
     if (rect.isEmpty())
         return;
-    QColor veil = ground();
+    QColor veil = veilFor(inks);
     veil.setAlphaF(float(strength(beneath(rect), veil, inks)));
     if (veil.alpha() > 0)
         painter.fillRect(rect, veil);
@@ -133,6 +133,18 @@ QColor MvFotoVeil::ground() const
         color = Qt::white;
     color.setAlpha(255);
     return color;
+}
+
+/// That of the ground, but beneath what could not be read on it, as white words on a white page, the opposite.
+QColor MvFotoVeil::veilFor(const QList<QColor> &inks) const
+{
+    const QColor usual = ground();
+    const bool isLegible = std::any_of(
+        inks.begin(), inks.end(), [&usual](const QColor &ink) { return contrast(ink, usual) >= demandedContrast; });
+    if (isLegible || inks.isEmpty())
+        return usual;
+    const QColor &ink = inks.constFirst();
+    return contrast(ink, Qt::black) > contrast(ink, Qt::white) ? Qt::black : Qt::white;
 }
 
 QImage MvFotoVeil::beneath(const QRectF &rect) const

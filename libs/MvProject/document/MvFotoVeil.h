@@ -40,6 +40,7 @@ public:
 
 private:
     QColor ground() const;
+    QColor veilFor(const QList<QColor> &inks) const;
     QImage beneath(const QRectF &rect) const;
 
     const MvCalendarPage &m_page;
