@@ -315,7 +315,7 @@ void tst_MvCalendarEvent::keepsTheFormerFoto_data()
     QTest::addColumn<QString>("file");
     QTest::addColumn<bool>("isFull");
     QTest::addColumn<QString>("reason"); // in the message
-    QTest::newRow("missing") << u"missing.jpg"_s << false << u"lässt sich nicht öffnen"_s;
+    QTest::newRow("missing") << u"missing.jpg"_s << false << u"gibt es nicht"_s;
     QTest::newRow("no photo") << u"text.jpg"_s << false << u"Gelesen werden"_s;
     QTest::newRow("no photo in the photo folder") << u"FOTOS/text.jpg"_s << false << u"Gelesen werden"_s;
     QTest::newRow("no room for the copy") << u"new.png"_s << true << u"größer als erlaubt"_s;

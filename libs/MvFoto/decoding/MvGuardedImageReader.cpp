@@ -17,6 +17,7 @@
 #include <QPixelFormat>
 #include <QTransform>
 
+#include <cstdlib>
 #include <limits>
 #include <utility>
 
@@ -27,6 +28,7 @@ constexpr qint64 quickPixels = 4'500'000;      // decoded in some 50 ms
 constexpr qint64 quickBytes = 16 << 20;        // a file to be looked through
 constexpr qint64 quickHeicPixels = 1'000'000;  // the same time for a format that takes more of it
 constexpr int quickScans = 12;                 // as in usual progressive files
+constexpr int missingGray = 128;               // what a JPEG decoder puts in the place of missing data
 constexpr qint64 largePixels = 16'000'000;     // above this, the file must hold a plausible amount of data
 constexpr qint64 mostPixelsPerByte = 4096;     // a blank page as a bitmap still has more
 constexpr qint64 mostPixelsPerByteAtAll = 256; // of JPEG and BMP
@@ -39,6 +41,29 @@ QImage turned(const QImage &image, QImageIOHandler::Transformations turn)
     const QImage mirrored =
         image.mirrored(turn & QImageIOHandler::TransformationMirror, turn & QImageIOHandler::TransformationFlip);
     return turn & QImageIOHandler::TransformationRotate90 ? mirrored.transformed(QTransform().rotate(90)) : mirrored;
+}
+
+/// Whether one edge of the picture is nothing but the gray that stands for missing data; after turning it may be any.
+bool hasGrayEdge(const QImage &image)
+{
+    const auto isGray = [&image](int x, int y) {
+        const QRgb color = image.pixel(x, y);
+        return std::abs(qRed(color) - missingGray) <= 1 && std::abs(qGreen(color) - missingGray) <= 1 &&
+               std::abs(qBlue(color) - missingGray) <= 1;
+    };
+    const auto isGrayRow = [&](int y) {
+        int x = 0;
+        while (x < image.width() && isGray(x, y))
+            ++x;
+        return x == image.width();
+    };
+    const auto isGrayColumn = [&](int x) {
+        int y = 0;
+        while (y < image.height() && isGray(x, y))
+            ++y;
+        return y == image.height();
+    };
+    return isGrayRow(0) || isGrayRow(image.height() - 1) || isGrayColumn(0) || isGrayColumn(image.width() - 1);
 }
 
 qint64 pixelsOf(const QSize &size)
@@ -62,8 +87,10 @@ QMutex &largeImages()
 } // namespace
 
 MvGuardedImageReader::MvGuardedImageReader(const QFileInfo &file)
-    : m_source(MvRegularFile::open(QFileInfo(file.filePath())).file)
 {
+    MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(file.filePath()));
+    m_source = std::move(opened.file);
+    m_error = opened.error;
     open();
 }
 
@@ -80,10 +107,8 @@ MvGuardedImageReader::~MvGuardedImageReader() = default;
 
 void MvGuardedImageReader::open()
 {
-    if (!m_source) {
-        m_error = tr("Die Datei lässt sich nicht öffnen.");
+    if (!m_source)
         return;
-    }
     const QByteArray format = MvImageFormat::fromContent(m_source->peek(MvImageFormat::headSize));
     if (format.isEmpty()) {
         m_error = tr("Gelesen werden JPEG, PNG, HEIC, TIFF, WebP, BMP und GIF.");
@@ -251,7 +276,8 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
         return {};
     QMutexLocker lock(neededMemory(full, target) > largeMemory ? &largeImages() : nullptr);
     const QImage image = decoded(full, target);
-    if (!image.isNull() && !hasRunOut()) { // decoders accept truncated files
+    const bool isCutOff = m_format == "jpeg" && m_mayBeCutOff && !image.isNull() && hasGrayEdge(image);
+    if (!image.isNull() && !isCutOff && !hasRunOut()) { // decoders accept truncated files
         const bool isAsPainted = !image.colorSpace().isValid() || image.colorSpace() == QColorSpace(QColorSpace::SRgb);
         m_isUnchangedJpeg = m_format == "jpeg" && isAsPainted && target == full && image.size() == full &&
                             m_reader->transformation() == QImageIOHandler::TransformationNone &&
