@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvTest.h"
+
+#include "MvExifFixture.h"
+#include "MvProject/MvFotoPoolIntake.h"
+#include "MvProject/MvFotoRelocation.h"
+#include "MvProjectFixture.h"
+
+#include <QBuffer>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+using Reason = MvFotoPoolIntake::Reason;
+
+class tst_MvFotoPoolIntake : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init()
+    {
+        if (qstrcmp(QTest::currentTestFunction(), "hostile") != 0) // of which decoders have to say something
+            QTest::failOnWarning(QRegularExpression(u".?"_qs));
+    }
+    void gathers();
+    void hostile_data();
+    void hostile();
+    void besideAWindow();
+    void findsAgain();
+
+private:
+    QString path(const QString &name) const { return m_dir.filePath(name); }
+    void put(const QString &name, const QByteArray &content) const
+    {
+        QFileInfo(path(name)).dir().mkpath(u"."_qs);
+        QFile file(path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    }
+
+    QTemporaryDir m_dir;
+};
+
+static QByteArray picture(const QSize &size, const char *format, QImage::Format pixels = QImage::Format_RGB32)
+{
+    QImage image(size, pixels);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixelColor(x, y, QColor((x * 37 + y * 11) % 256, (x * y) % 256, (x + y * 53) % 256));
+    QBuffer buffer;
+    return image.save(&buffer, format) ? buffer.data() : QByteArray();
+}
+
+static QByteArray taken(const QByteArray &time, const QSize &size = {60, 40})
+{
+    return MvExifFixture::inJpeg(picture(size, "jpeg"), MvExifFixture::block(1, time));
+}
+
+static QStringList namesOf(const QList<MvFotoPoolItem> &items)
+{
+    QStringList names;
+    for (const MvFotoPoolItem &item : items)
+        names.append(QFileInfo(item.path).fileName());
+    return names;
+}
+
+void tst_MvFotoPoolIntake::initTestCase()
+{
+    put(u"fotos/b.jpg"_qs, taken("2026:07:14 15:30:12"));
+    put(u"fotos/a.jpg"_qs, taken("2026:08:01 10:00:00"));
+    put(u"fotos/Bild 10.png"_qs, picture({60, 40}, "png"));
+    put(u"fotos/Bild 9.png"_qs, picture({60, 40}, "png"));
+    put(u"fotos/.versteckt/c.jpg"_qs, taken("2026:07:14 15:30:12"));
+    put(u"fotos/mehr/noch/d.jpg"_qs, taken("2026:07:14 15:30:11"));
+    put(u"fotos/Thumbs.db"_qs, "no photo");
+    put(u"fremd/e.jpg"_qs, taken("2026:01:01 00:00:00"));
+    QVERIFY(QFile::copy(QStringLiteral(MV_TEST_DATA "/fotos/turned.heic"), path(u"fotos/IMG_1.HEIC"_qs)));
+    QVERIFY(QFile::link(path(u"fotos/a.jpg"_qs), path(u"fotos/noch einmal.jpg"_qs)));
+    QVERIFY(QFile::link(path(u"fremd/e.jpg"_qs), path(u"fotos/hinaus.jpg"_qs)));
+    QVERIFY(QFile::link(path(u"fotos"_qs), path(u"fotos/mehr/im Kreis"_qs)));
+    QCOMPARE(::mkfifo(QFile::encodeName(path(u"fotos/pipe.jpg"_qs)).constData(), 0600), 0);
+}
+
+void tst_MvFotoPoolIntake::gathers()
+{
+    int last = 0;
+    const MvFotoPoolIntake::Result result =
+        MvFotoPoolIntake::gather({path(u"fotos"_qs), path(u"fotos/b.jpg"_qs), path(u"weg.jpg"_qs)},
+                                 {path(u"fotos/b.jpg"_qs)}, [&last](int done, int) { return last = done, true; });
+    QCOMPARE(namesOf(result.items),
+             (QStringList{u"d.jpg"_qs, u"IMG_1.HEIC"_qs, u"a.jpg"_qs, u"Bild 9.png"_qs, u"Bild 10.png"_qs}));
+    QCOMPARE(result.items[1].size, QSize(96, 128));
+    QCOMPARE(result.items[2].captured, QDateTime(QDate(2026, 8, 1), QTime(10, 0), Qt::UTC));
+    QVERIFY(!result.items[3].captured.isValid());
+    QCOMPARE(result.known, 3); // b.jpg by two ways, a.jpg by its link
+    QCOMPARE(last, 8);
+    QList<Reason> reasons;
+    for (const MvFotoPoolIntake::Skipped &skipped : result.skipped) {
+        QVERIFY(!skipped.why.isEmpty());
+        reasons.append(skipped.reason);
+    }
+    QCOMPARE(reasons,
+             (QList<Reason>{Reason::NoFoto, Reason::Outside, Reason::Outside, Reason::Closed, Reason::Closed}));
+    QCOMPARE(result.toStrings().size(), 4 + 2);
+    QVERIFY(MvFotoPoolIntake::gather({path(u"fotos"_qs)}, {}, [](int done, int) { return done < 2; }).isCancelled);
+}
+
+void tst_MvFotoPoolIntake::hostile_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QSize>("size"); // invalid: refused
+    const QByteArray jpeg = picture({640, 480}, "jpeg");
+    QTest::newRow("one pixel") << picture({1, 1}, "png") << QSize(1, 1);
+    QTest::newRow("16 bits") << picture({50, 40}, "png", QImage::Format_RGBA64) << QSize(50, 40);
+    QTest::newRow("panorama") << picture({9000, 4}, "png") << QSize(9000, 4);
+    QTest::newRow("a PNG by content") << picture({50, 40}, "png") << QSize(50, 40);
+    QTest::newRow("cut off after half") << jpeg.first(jpeg.size() / 2) << QSize();
+    QTest::newRow("cut off after its head") << jpeg.first(700) << QSize();
+    QTest::newRow("PNG cut off") << picture({300, 200}, "png").first(9000) << QSize();
+    QTest::newRow("bomb") << QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100")
+                          << QSize();
+    QTest::newRow("empty") << QByteArray() << QSize();
+}
+
+void tst_MvFotoPoolIntake::hostile()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QSize, size);
+    put(u"foto.jpg"_qs, content);
+    const MvFotoPoolIntake::Result result = MvFotoPoolIntake::gather({path(u"foto.jpg"_qs)});
+    QCOMPARE(result.items.size() + result.skipped.size(), 1);
+    QCOMPARE(result.items.value(0).size, size);
+}
+
+void tst_MvFotoPoolIntake::besideAWindow()
+{
+    QList<int> counts;
+    MvFotoPoolIntake intake;
+    connect(&intake, &MvFotoPoolIntake::finished, this, [&counts](const MvFotoPoolIntake::Result &result) {
+        counts.append(result.isCancelled ? -1 : int(result.items.size()));
+    });
+    QSignalSpy progress(&intake, &MvFotoPoolIntake::progressed);
+    intake.start({path(u"fotos"_qs)}, {});
+    QVERIFY(intake.isRunning() && counts.isEmpty());
+    QTRY_COMPARE(counts, QList<int>{6});
+    QVERIFY(!intake.isRunning() && progress.count() > 0);
+    intake.start({path(u"fotos"_qs)}, {});
+    intake.cancel();
+    intake.start({path(u"fremd"_qs)}, {});
+    QTRY_COMPARE(counts, (QList<int>{6, -1, 1}));
+    MvFotoPoolIntake leaving;
+    leaving.start({path(u"fotos"_qs)}, {}); // whose window is closed meanwhile
+}
+
+void tst_MvFotoPoolIntake::findsAgain()
+{
+    put(u"alt/IMG_1.jpg"_qs, taken("2026:05:01 10:00:00"));
+    put(u"alt/IMG_2.jpg"_qs, taken("2026:05:02 10:00:00"));
+    put(u"alt/IMG_3.jpg"_qs, taken("2026:05:03 10:00:00"));
+    MvCalendarDocument document = MvProjectFixture::document(u"DAY_STRIP"_qs, 2);
+    MvFotoPool pool;
+    pool.add(MvFotoPoolIntake::gather({path(u"alt"_qs)}).items);
+    document.setFotoPool(pool);
+    MvProjectFixture::setFoto(document, 0, MvFotoFrame(path(u"alt/IMG_2.jpg"_qs)));
+    QVERIFY(MvFotoRelocation::missing(document).isEmpty());
+
+    put(u"neu/anders/IMG_1.jpg"_qs, taken("2020:05:01 10:00:00")); // of the same name only
+    put(u"neu/2026/img_1.JPG"_qs, taken("2026:05:01 10:00:00"));
+    put(u"neu/Mai 2.jpg"_qs, taken("2026:05:02 10:00:00")); // by another name
+    put(u"neu/Mai 3.jpg"_qs, taken("2026:05:03 10:00:00"));
+    put(u"neu/Mai 3 (Kopie).jpg"_qs, taken("2026:05:03 10:00:00")); // either could be meant
+    QVERIFY(QDir(path(u"alt"_qs)).removeRecursively());
+    const QStringList missing = MvFotoRelocation::missing(document);
+    QCOMPARE(missing.size(), 3);
+    const QHash<QString, QString> found = MvFotoRelocation::find(missing, document.fotoPool(), path(u"neu"_qs));
+    QCOMPARE(found, (QHash<QString, QString>{{path(u"alt/IMG_1.jpg"_qs), path(u"neu/2026/img_1.JPG"_qs)},
+                                             {path(u"alt/IMG_2.jpg"_qs), path(u"neu/Mai 2.jpg"_qs)}}));
+    const MvCalendarDocument again = MvFotoRelocation::relocated(document, found);
+    QCOMPARE(again.pages()[0].fotoFrame().path(), path(u"neu/Mai 2.jpg"_qs));
+    QCOMPARE(MvFotoRelocation::missing(again), QStringList{path(u"alt/IMG_3.jpg"_qs)});
+}
+
+MV_TEST_MAIN(tst_MvFotoPoolIntake)
+#include "tst_MvFotoPoolIntake.moc"
