@@ -72,7 +72,7 @@ void tst_MvFotoDistribution::months_data()
 void tst_MvFotoDistribution::months()
 {
     QFETCH(QList<MvFotoPoolItem>, photos);
-    MvCalendarDocument document = MvProjectFixture::document(u"DAY_STRIP"_qs, 4);
+    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_qs, 4);
     MvFotoPool pool;
     pool.add(photos);
     document.setFotoPool(pool);
@@ -87,7 +87,7 @@ void tst_MvFotoDistribution::months()
 
 void tst_MvFotoDistribution::coverAndIndex()
 {
-    MvCalendarDocument document = MvProjectFixture::document(u"DAY_STRIP"_qs, 2);
+    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_qs, 2);
     const auto page = [&document](MvPageKind kind, int frames, const QSizeF &size) {
         MvCalendarPage made(document.appearance(), document.pages()[0].contentConfig());
         made.setKind(kind);

@@ -159,7 +159,7 @@ void tst_MvFotoPoolIntake::findsAgain()
     put(u"alt/IMG_1.jpg"_qs, taken("2026:05:01 10:00:00"));
     put(u"alt/IMG_2.jpg"_qs, taken("2026:05:02 10:00:00"));
     put(u"alt/IMG_3.jpg"_qs, taken("2026:05:03 10:00:00"));
-    MvCalendarDocument document = MvProjectFixture::document(u"DAY_STRIP"_qs, 2);
+    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_qs, 2);
     MvFotoPool pool;
     pool.add(MvFotoPoolIntake::gather({path(u"alt"_qs)}).items);
     document.setFotoPool(pool);

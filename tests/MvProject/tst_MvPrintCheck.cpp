@@ -64,7 +64,7 @@ void tst_MvPrintCheck::finds()
 {
     QFETCH(MvPageElement, element);
     QFETCH(QString, kind);
-    MvCalendarDocument document = MvProjectFixture::document(u"DAY_STRIP"_qs, 2);
+    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_qs, 2);
     MvPageFormat format = document.format();
     format.setBinding(MvPageFormat::Binding::Top);
     document.setFormat(format);

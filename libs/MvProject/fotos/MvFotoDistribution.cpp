@@ -28,6 +28,7 @@ struct Frame
     MvPageKind kind = MvPageKind::Month;
     QDate month = {}; // the page's first
     int months = 1;   // on the page
+    int place = 0;    // among the frames of its page
     bool isMain = false;
     bool isInIndex = false;
     bool isEmpty = true;
@@ -65,6 +66,7 @@ QList<Frame> framesOfPage(const MvCalendarDocument &document, int number)
         Frame frame{{number, element}, page.frameSize(element, document.format()), page.kind()};
         frame.month = document.pageDates().value(number);
         frame.months = page.kind() == MvPageKind::Month ? page.monthCount() : 1;
+        frame.place = int(frames.size());
         frame.isEmpty = foto->isEmpty();
         frames.append(frame);
     }
@@ -237,11 +239,10 @@ void Distribution::fillIndexes()
         if (frame.kind == MvPageKind::Month && frame.isMain && !path.isEmpty())
             photos.append(path);
     }
-    QHash<int, int> numbers; // of the next photo, by page
     for (Frame &frame : m_frames) {
         if (!frame.isInIndex)
             continue;
-        const QString path = photos.value(numbers[frame.id.page]++);
+        const QString path = photos.value(frame.place);
         const MvFotoPoolItem *known = m_document.fotoPool().find(path);
         if (!path.isEmpty())
             put(frame, known ? *known : MvFotoPoolItem{path, {}, {}});
