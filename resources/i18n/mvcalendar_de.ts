@@ -87,6 +87,30 @@
     </message>
 </context>
 <context>
+    <name>MvFotoPoolIntake</name>
+    <message numerus="yes">
+        <source>… und %n weitere</source>
+        <translation>
+            <numerusform>… und %n weiteres</numerusform>
+            <numerusform>… und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Dateien sind keine Fotos.</source>
+        <translation>
+            <numerusform>%n Datei ist kein Foto.</numerusform>
+            <numerusform>%n Dateien sind keine Fotos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos waren schon da.</source>
+        <translation>
+            <numerusform>%n Foto war schon da.</numerusform>
+            <numerusform>%n Fotos waren schon da.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvHolidayTableReader</name>
     <message numerus="yes">
         <source> (und %n weitere Fehler in dieser Datei)</source>

@@ -1704,6 +1704,42 @@
     </message>
 </context>
 <context>
+    <name>MvFotoPoolIntake</name>
+    <message>
+        <source>Die Verknüpfung führt aus dem Ordner hinaus.</source>
+        <translation>The link leads out of the folder.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>… und %n weitere</source>
+        <translation>
+            <numerusform>… and %n more</numerusform>
+            <numerusform>… and %n more</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Dateien sind keine Fotos.</source>
+        <translation>
+            <numerusform>%n file is not a photo.</numerusform>
+            <numerusform>%n files are not photos.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos waren schon da.</source>
+        <translation>
+            <numerusform>%n photo was there already.</numerusform>
+            <numerusform>%n photos were there already.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Mehr als %1 Dateien auf einmal werden nicht genommen. Wählen Sie kleinere Ordner.</source>
+        <translation>More than %1 files at once are not taken. Choose smaller folders.</translation>
+    </message>
+</context>
+<context>
     <name>MvGraphicsItemCalendariumCell</name>
     <message>
         <source>Klicken um eigenen Eintrag am %1 zu erstellen</source>
@@ -1712,10 +1748,6 @@
 </context>
 <context>
     <name>MvGuardedImageReader</name>
-    <message>
-        <source>Die Datei lässt sich nicht öffnen.</source>
-        <translation>The file cannot be opened.</translation>
-    </message>
     <message>
         <source>Die Datei ist zu groß.</source>
         <translation>The file is too large.</translation>
@@ -2645,6 +2677,68 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Der Speicher reicht nicht für eine Seite</source>
         <translation>There is not enough memory for a page</translation>
+    </message>
+</context>
+<context>
+    <name>MvPrintCheck</name>
+    <message>
+        <source>Ein Rahmen ist noch leer</source>
+        <translation>A frame is still empty</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ fehlt. Es lag in %2</source>
+        <translation>The photo “%1” is missing. It was in %2</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ lässt sich nicht lesen. %2</source>
+        <translation>The photo “%1” cannot be read. %2</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ wird sehr grob, mit nur %2 Bildpunkten je Zoll. Machen Sie den Rahmen kleiner</source>
+        <translation>The photo “%1” will look very coarse, with only %2 pixels per inch. Make its frame smaller</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ wird etwas grob, mit %2 Bildpunkten je Zoll</source>
+        <translation>The photo “%1” will look a little coarse, with %2 pixels per inch</translation>
+    </message>
+    <message>
+        <source>„%1“ hat nicht genug Platz</source>
+        <translation>“%1” has not enough room</translation>
+    </message>
+    <message>
+        <source>„%1“ – keine Schrift hat %2</source>
+        <translation>“%1” – no font has %2</translation>
+    </message>
+    <message>
+        <source>Ein Foto ragt in den Bereich der Bindung</source>
+        <translation>A photo reaches into the binding</translation>
+    </message>
+    <message>
+        <source>Der Text „%1“</source>
+        <translation>The text “%1”</translation>
+    </message>
+    <message>
+        <source>Das Kalendarium</source>
+        <translation>The calendar grid</translation>
+    </message>
+    <message>
+        <source>%1 ragt in den Bereich der Bindung</source>
+        <translation>%1 reaches into the binding</translation>
+    </message>
+    <message>
+        <source>%1 steht so nahe am Rand, dass es angeschnitten werden kann</source>
+        <translation>%1 is so near to the edge that it may be cut</translation>
+    </message>
+    <message>
+        <source>Seite %1</source>
+        <translation>Page %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvPrintFinding</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -216,18 +216,6 @@ QString MvPrintCheck::pageName(const MvCalendarDocument &document, int page)
 {
     if (page < 0 || page >= document.pages().size())
         return {};
-    switch (document.pages()[page].kind()) {
-    case MvPageKind::Cover:
-        return tr("Titelblatt");
-    case MvPageKind::Back:
-        return tr("Rückseite");
-    case MvPageKind::Free:
-        break;
-    case MvPageKind::Month:
-        const QString title = MvCalendarTitle::ofPage(document.pages()[page]);
-        if (!title.isEmpty())
-            return title;
-        break;
-    }
-    return tr("Seite %1").arg(page + 1);
+    const QString title = MvCalendarTitle::ofPage(document.pages()[page]);
+    return title.isEmpty() ? tr("Seite %1").arg(page + 1) : title;
 }

@@ -40,6 +40,6 @@ public:
                                                const MvPageFindings &findings, const MvRenderingSources &sources = {});
     /// None for 0, of which nothing is known, and from `coarseBelow` on.
     static std::optional<MvPrintFinding::Severity> severity(double pixelsPerInch);
-    /// What a page is called in such a list: "Titelblatt", "Mai 2027", "Seite 4".
+    /// What a page is called in such a list: "Titelblatt", "Mai 2027".
     static QString pageName(const MvCalendarDocument &document, int page);
 };
