@@ -22,7 +22,6 @@ namespace {
 
 constexpr int captionHeight = 22;
 constexpr int gap = 14;
-constexpr QSize cell(470, 400);
 const QStringList papers{u"A4 landscape"_s, u"A4"_s, u"square-210"_s, u"panorama landscape"_s, u"panorama"_s};
 
 MvPageFormat formatOf(const QString &paper)
@@ -40,6 +39,7 @@ struct Scene
 {
     QStringList fotos; // none: empty frames
     MvPageFormat::Binding binding = MvPageFormat::Binding::None;
+    QSize cell; // of a page, with its caption
 };
 
 MvCalendarDocument documentOf(const MvPageFormat &format, const QString &themeId)
@@ -72,18 +72,18 @@ void fill(MvCalendarDocument &document, const QStringList &fotos)
     }
 }
 
-void drawPage(QPainter &painter, const QPoint &corner, const MvCalendarDocument &document, int page,
+void drawPage(QPainter &painter, const QRect &place, const MvCalendarDocument &document, int page,
               const QString &caption)
 {
     const MvPageFormat format = document.format();
     const QSizeF paper = format.trimSize();
     const double scale =
-        std::min((cell.width() - gap) / paper.width(), (cell.height() - gap - captionHeight) / paper.height());
+        std::min((place.width() - gap) / paper.width(), (place.height() - gap - captionHeight) / paper.height());
     painter.save();
     painter.setPen(Qt::white);
-    painter.drawText(QRect(corner, QSize(cell.width() - gap, captionHeight)), Qt::AlignLeft | Qt::AlignVCenter,
-                     caption);
-    painter.translate(corner + QPoint(0, captionHeight));
+    painter.drawText(QRect(place.topLeft(), QSize(place.width() - gap, captionHeight)),
+                     Qt::AlignLeft | Qt::AlignVCenter, caption);
+    painter.translate(place.topLeft() + QPoint(0, captionHeight));
     painter.scale(scale, scale);
     painter.setClipRect(format.trimRect());
     painter.fillRect(format.trimRect(), Qt::white);
@@ -100,22 +100,22 @@ void drawPage(QPainter &painter, const QPoint &corner, const MvCalendarDocument 
     painter.restore();
 }
 
-QImage sheet(int columns, int rows)
+QImage sheet(const QSize &cell, int columns, int rows)
 {
     QImage image(cell.width() * columns + gap, cell.height() * rows + gap, QImage::Format_RGB32);
     image.fill(QColor(0x6A, 0x6A, 0x6A));
     return image;
 }
 
-QPoint corner(int column, int row)
+QRect place(const QSize &cell, int column, int row)
 {
-    return {gap + column * cell.width(), gap + row * cell.height()};
+    return {QPoint(gap + column * cell.width(), gap + row * cell.height()), cell};
 }
 
 /// A row per paper: cover, January, February with its 28 days, May with its six weeks, back.
 void makeThemeSheet(const QString &file, const QString &themeId, const Scene &scene)
 {
-    QImage image = sheet(5, int(papers.size()));
+    QImage image = sheet(scene.cell, 5, int(papers.size()));
     QPainter painter(&image);
     for (int row = 0; row < papers.size(); ++row) {
         MvPageFormat format = formatOf(papers.at(row));
@@ -126,7 +126,7 @@ void makeThemeSheet(const QString &file, const QString &themeId, const Scene &sc
         for (int column = 0; column < pages.size(); ++column) {
             const QString name =
                 themeId + u", "_s + papers.at(row) + u", "_s + document.pages().value(pages.at(column)).templateId();
-            drawPage(painter, corner(column, row), document, pages.at(column), name);
+            drawPage(painter, place(scene.cell, column, row), document, pages.at(column), name);
         }
     }
     image.save(file);
@@ -139,10 +139,10 @@ void makeYearSheet(const QString &file, const QString &themeId, const QString &p
     format.setBinding(scene.binding);
     MvCalendarDocument document = documentOf(format, themeId);
     fill(document, scene.fotos);
-    QImage image = sheet(5, 3);
+    QImage image = sheet(scene.cell, 5, 3);
     QPainter painter(&image);
     for (int page = 0; page < document.pages().size(); ++page)
-        drawPage(painter, corner(page % 5, page / 5), document, page, QString());
+        drawPage(painter, place(scene.cell, page % 5, page / 5), document, page, QString());
     image.save(file);
 }
 
@@ -150,7 +150,7 @@ void makeYearSheet(const QString &file, const QString &themeId, const QString &p
 void makeTemplateSheet(const QString &file, const QList<MvPageTemplate> &templates, const QString &themeId,
                        const Scene &scene)
 {
-    QImage image = sheet(int(papers.size()), int(templates.size()));
+    QImage image = sheet(scene.cell, int(papers.size()), int(templates.size()));
     QPainter painter(&image);
     for (int column = 0; column < papers.size(); ++column) {
         MvPageFormat format = formatOf(papers.at(column));
@@ -166,7 +166,8 @@ void makeTemplateSheet(const QString &file, const QList<MvPageTemplate> &templat
             page.setTemplate(shown, format);
             document.setPage(number, page);
             fill(document, scene.fotos);
-            drawPage(painter, corner(column, row), document, number, shown.id() + u", "_s + papers.at(column));
+            drawPage(painter, place(scene.cell, column, row), document, number,
+                     shown.id() + u", "_s + papers.at(column));
         }
     }
     image.save(file);
@@ -201,13 +202,16 @@ int main(int argc, char **argv)
     parser.addOption({u"templates"_s, u"these templates alone, parted by commas; \"none\" for none"_s, u"ids"_s});
     parser.addOption({u"dress"_s, u"the theme of the sheets of templates"_s, u"id"_s, u"PAPER"_s});
     parser.addOption({u"binding"_s, u"none, top, left or right"_s, u"edge"_s, u"none"_s});
+    parser.addOption({u"size"_s, u"of a page, in pixels"_s, u"pixels"_s, u"470"_s});
     parser.addOption({u"year"_s, u"all pages of a year on this paper, too"_s, u"paper"_s});
     parser.process(application);
     const QString folder = parser.positionalArguments().value(0);
     if (folder.isEmpty() || !QDir().mkpath(folder))
         return 2;
     const QDir target(folder);
-    const Scene scene{fotosIn(parser.value(u"photos"_s)), bindingOf(parser.value(u"binding"_s))};
+    const int width = qBound(100, parser.value(u"size"_s).toInt(), 4000);
+    const Scene scene{fotosIn(parser.value(u"photos"_s)), bindingOf(parser.value(u"binding"_s)),
+                      QSize(width, width * 6 / 7)};
     const QString suffix = scene.fotos.isEmpty() ? u"-empty.png"_s : u".png"_s;
     const QStringList themes = parser.isSet(u"themes"_s) ? parser.value(u"themes"_s).split(u',', Qt::SkipEmptyParts)
                                                          : MvThemeRegistry::instance().ids();

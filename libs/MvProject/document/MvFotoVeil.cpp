@@ -4,7 +4,9 @@
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvProject/MvFotoPainter.h"
 #include "MvProject/MvPageInks.h"
+#include "MvProject/MvVeilField.h"
 
+#include <QLinearGradient>
 #include <QPainter>
 
 #include <algorithm>
@@ -97,6 +99,29 @@ void MvFotoVeil::paint(QPainter &painter, const QRectF &rect, const QList<QColor
     veil.setAlphaF(float(strength(beneath(rect), veil, inks)));
     if (veil.alpha() > 0)
         painter.fillRect(rect, veil);
+}
+
+void MvFotoVeil::paint(QPainter &painter, const MvVeilField &field) const
+{
+    QColor veil = ground();
+    double most = 0.0;
+    for (const MvPageElement &element : field.elements)
+        most = std::max(most, strength(beneath(element.rect()), veil, MvPageInks(m_page).of(element)));
+    veil.setAlphaF(float(most));
+    if (veil.alpha() == 0)
+        return;
+    const QRectF whole = field.rect.adjusted(0, -field.fadeAbove, 0, field.fadeBelow);
+    if (whole == field.rect)
+        return painter.fillRect(whole, veil);
+    // in one piece, so that no line shows between the veil and the part in which it fades out
+    QColor none = veil;
+    none.setAlpha(0);
+    QLinearGradient gradient(whole.topLeft(), whole.bottomLeft());
+    gradient.setColorAt(0.0, field.fadeAbove > 0.0 ? none : veil);
+    gradient.setColorAt(field.fadeAbove / whole.height(), veil);
+    gradient.setColorAt(1.0 - field.fadeBelow / whole.height(), veil);
+    gradient.setColorAt(1.0, field.fadeBelow > 0.0 ? none : veil);
+    painter.fillRect(whole, gradient);
 }
 
 double MvFotoVeil::strength(const QImage &beneath, const QColor &ground, const QList<QColor> &inks)

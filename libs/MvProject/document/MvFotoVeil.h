@@ -9,12 +9,14 @@
 
 class MvFotoSource;
 class QPainter;
+struct MvVeilField;
 
 /// The photos of a page, and the veils under what is written on them. Any thread that the source of the photos allows.
 ///
-/// A veil has the colour of the page's ground. How strong it is follows from the photo beneath: the least with which
-/// all but a fiftieth of what lies under the element gives the inks on it a contrast of 4.5:1, so that a calm light sky
-/// needs hardly any. Inks that do not have that contrast on the ground itself do not count.
+/// A veil has the colour of the page's ground. How strong it is follows
+/// from the photo beneath: the least with which all but a fiftieth of what lies under the element gives the inks on it
+/// a contrast of 4.5:1, so that a calm light sky needs hardly any. Inks that do not have that contrast on the ground
+/// itself do not count.
 class MvFotoVeil
 {
 public:
@@ -32,6 +34,8 @@ public:
     void paintFotos(QPainter &painter) const;
     /// A veil for what is written on it, in page units.
     void paint(QPainter &painter, const QRectF &rect, const QList<QColor> &inks) const;
+    /// The veil of a field, for all that is written on it.
+    void paint(QPainter &painter, const MvVeilField &field) const;
 
     /// 0 to 1.
     static double strength(const QImage &beneath, const QColor &ground, const QList<QColor> &inks);

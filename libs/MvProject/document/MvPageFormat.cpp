@@ -22,6 +22,7 @@ constexpr double widestZone = 400.0;
 constexpr double widestSafeMargin = 200.0;
 constexpr double fieldShare = 24.0; // of the short edge is margin
 constexpr double besideSafeMargin = 20.0;
+constexpr double mostGutters = 0.75; // of a column or row with its gutter
 constexpr double squarestPage = 7.0 / 6.0;
 constexpr double widestPage = 2.0;
 
@@ -238,10 +239,17 @@ QRectF MvPageFormat::fieldRect() const
     return withoutBinding().adjusted(margin, margin, -margin, -margin);
 }
 
+double MvPageFormat::gutter() const
+{
+    const QRectF field = fieldRect();
+    return std::min(
+        {fieldMargin() / 2.0, mostGutters * field.width() / fieldColumns, mostGutters * field.height() / fieldRows});
+}
+
 QRectF MvPageFormat::fieldArea(int firstColumn, int lastColumn, int firstRow, int lastRow) const
 {
     const QRectF field = fieldRect();
-    const double between = std::min({gutter(), field.width() / (2 * fieldColumns), field.height() / (2 * fieldRows)});
+    const double between = gutter();
     const double columnStep = (field.width() + between) / fieldColumns;
     const double rowStep = (field.height() + between) / fieldRows;
     return {QPointF(field.left() + (firstColumn - 1) * columnStep, field.top() + (firstRow - 1) * rowStep),

@@ -109,8 +109,8 @@ public:
     /// From the field to the edge or the binding zone: a twenty-fourth of the short edge, at least 2 mm more than the
     /// safe margin.
     double fieldMargin() const;
-    /// Between two columns, or two rows: half the margin.
-    double gutter() const { return fieldMargin() / 2.0; }
+    /// Between two columns, or two rows: half the margin, less on fields that it would take up.
+    double gutter() const;
     /// The page without binding zone and margin.
     QRectF fieldRect() const;
     /// The columns and rows of the field from one to the other, counted from 1, without the gutters around them.

@@ -9,6 +9,7 @@
 #include "MvProject/MvFotoVeil.h"
 #include "MvProject/MvPageInks.h"
 #include "MvProject/MvPageTextPainter.h"
+#include "MvProject/MvVeilField.h"
 
 #include <QPainter>
 
@@ -70,23 +71,40 @@ MvPageFindings MvPagePainter::paintCalendaria(QPainter &painter, const Pass &pas
     if (!m_page.isValid())
         return found;
     const MvFotoVeil veil(m_page, m_format, m_elements, pass.sources.fotosOrDefault());
+    const MvPageTextPainter texts(m_page, m_format, m_elements, pass.context);
+    const QList<MvVeilField> fields = veilFields(texts);
+    for (const MvVeilField &field : fields)
+        veil.paint(painter, field);
+    const auto standsOnField = [&fields](const MvPageElement &element) {
+        return std::any_of(fields.cbegin(), fields.cend(),
+                           [&](const MvVeilField &field) { return field.elements.contains(element); });
+    };
     for (const MvPageElement &element : m_elements) {
         if (!element.calendarium())
             continue;
         QRectF rect = element.rect();
-        if (element.isOnFoto()) {
+        if (element.isOnFoto() && !standsOnField(element)) {
             veil.paint(painter, rect, MvPageInks(m_page).of(element));
             rect = onVeil(rect);
         }
         if (!rect.isEmpty())
             paintCalendarium(painter, element, rect, pass, found);
     }
-    const MvPageTextPainter texts(m_page, m_format, m_elements, pass.context);
     for (int number = 0; number < m_elements.size(); ++number) {
-        if (m_elements[number].text())
-            texts.paint(painter, number, veil, found);
+        const MvPageElement &element = m_elements[number];
+        if (element.text())
+            texts.paint(painter, number, element.isOnFoto() && !standsOnField(element) ? &veil : nullptr, found);
     }
     return found;
+}
+
+/// Those of what is written at all.
+QList<MvVeilField> MvPagePainter::veilFields(const MvPageTextPainter &texts) const
+{
+    QList<MvPageElement> written = m_elements;
+    written.removeIf(
+        [&texts](const MvPageElement &element) { return element.text() && texts.lines(*element.text()).isEmpty(); });
+    return MvVeilField::of(written, m_format, !m_page.background().foto().isEmpty());
 }
 
 void MvPagePainter::paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
@@ -154,5 +172,11 @@ MvCalendariumAppearance MvPagePainter::appearanceOf(const MvCalendariumElement &
     if (!appearance.layoutSchema().isValid())
         return page;
     appearance.adoptLayoutSuggestions();
+    // the page's grid is on for the lines of its own layout; one without lines would be given all of them
+    if (appearance.layoutSchema().allCellsHaveNoBorder() && !page.layoutSchema().allCellsHaveNoBorder()) {
+        MvBorderConfig grid = appearance.gridConfig();
+        grid.setIsEnabled(false);
+        appearance.setGridConfig(grid);
+    }
     return appearance;
 }

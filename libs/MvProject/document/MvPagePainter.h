@@ -6,7 +6,9 @@
 #include <memory>
 
 class MvFotoSource;
+class MvPageTextPainter;
 class QPainter;
+struct MvVeilField;
 
 /// Paints one page's layers for MvCalendarPage.
 class MvPagePainter
@@ -32,7 +34,7 @@ public:
         MvCalendarPage::Prepare prepare = {};
         double pixelsPerUnit = 0.0; // 0: as the painter is scaled
     };
-    /// Calendaria, and texts above them, each with the veil that it needs on a photo.
+    /// Calendaria, and texts above them, on the veils that they need on photos.
     MvPageFindings paintCalendaria(QPainter &painter, const Pass &pass) const;
 
     static std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
@@ -44,6 +46,7 @@ public:
                                                 const MvCalendariumAppearance &page);
 
 private:
+    QList<MvVeilField> veilFields(const MvPageTextPainter &texts) const;
     void paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
                           MvPageFindings &found) const;
 

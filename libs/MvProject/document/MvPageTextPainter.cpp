@@ -70,7 +70,7 @@ QRectF blockOf(const QList<MvPlacedOutline> &lines, const QFont &font)
 
 } // namespace
 
-void MvPageTextPainter::paint(QPainter &painter, int number, const MvFotoVeil &veil, MvPageFindings &found) const
+void MvPageTextPainter::paint(QPainter &painter, int number, const MvFotoVeil *veil, MvPageFindings &found) const
 {
     const MvPageElement &element = m_elements[number];
     const MvTextElement &text = *element.text();
@@ -79,17 +79,17 @@ void MvPageTextPainter::paint(QPainter &painter, int number, const MvFotoVeil &v
         return;
     const QFont wanted = font(text);
     const double padding =
-        text.isOnFoto() ? std::min(veilPadding * wanted.pixelSize(), mostPadding * element.rect().height()) : 0.0;
+        veil ? std::min(veilPadding * wanted.pixelSize(), mostPadding * element.rect().height()) : 0.0;
     const QRectF room = element.rect().adjusted(padding, padding, -padding, -padding);
     const MvTextFitter fitter(wanted, std::min(double(wanted.pixelSize()), pointsToUnits(floorPoints)),
                               MvHyphenator(m_page.contentConfig().language()));
     const MvFittedText fitted = fitter.fit(room.size(), lines);
     const QList<MvPlacedOutline> outlines = placed(room, text.alignment(), fitted);
     const QColor color = MvPageInks(m_page).of(text);
-    if (text.isOnFoto())
-        veil.paint(painter,
-                   blockOf(outlines, fitted.font).adjusted(-padding, -padding, padding, padding) & element.rect(),
-                   {color});
+    if (veil)
+        veil->paint(painter,
+                    blockOf(outlines, fitted.font).adjusted(-padding, -padding, padding, padding) & element.rect(),
+                    {color});
     for (const MvPlacedOutline &line : outlines)
         MvOutlinePainter::fillOutline(painter, line.baseline, line.outline, color);
     const QString whole = lines.join(u'\n');

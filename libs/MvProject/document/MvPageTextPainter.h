@@ -24,9 +24,9 @@ public:
         , m_context(context)
     {}
 
-    /// Paints the element with the number, which is a text, on the veil if it stands on a photo, and notes what does
-    /// not stand whole.
-    void paint(QPainter &painter, int number, const MvFotoVeil &veil, MvPageFindings &found) const;
+    /// Paints the element with the number, which is a text, and notes what does not stand whole. A veil, if it is given
+    /// one, is laid beneath its words.
+    void paint(QPainter &painter, int number, const MvFotoVeil *veil, MvPageFindings &found) const;
 
     /// What the element prints, a line for each of its lines; empty when nothing of it would be seen.
     QStringList lines(const MvTextElement &text) const;

@@ -21,14 +21,13 @@ QRectF middlePart(const QRectF &area, double aspect)
     return part;
 }
 
-/// Room for a line of the smallest type on small papers, too: half the gutters above and below, within the field.
-QRectF withLineHeight(QRectF rect, const MvTemplateRule &rule, const MvPageFormat &format)
+/// A row alone with room for a line of the smallest type on small papers, too: half the gutters above and below, at the
+/// edges of the field the whole of the other one.
+QRectF withLineHeight(const QRectF &rect, const MvTemplateRule &rule, const MvPageFormat &format)
 {
-    if (rule.firstRow > 1)
-        rect.setTop(rect.top() - format.gutter() / 2.0);
-    if (rule.lastRow < MvPageFormat::fieldRows)
-        rect.setBottom(rect.bottom() + format.gutter() / 2.0);
-    return rect;
+    const double gutter = format.gutter();
+    const double above = rule.firstRow == 1 ? 0.0 : rule.firstRow == MvPageFormat::fieldRows ? gutter : gutter / 2.0;
+    return rect.adjusted(0, -above, 0, gutter - above);
 }
 
 Shows thatHasRoom(Shows shows, double height)
@@ -84,9 +83,13 @@ QRectF MvTemplateRule::rect(const MvPageFormat &format) const
 {
     QRectF rect = format.fieldArea(firstColumn, lastColumn, firstRow, lastRow);
     const double closer = format.gutter() * (1.0 - fotoGutter) / 2.0;
+    // beside a photo that bleeds, what stands there has the margin that it has at the page's other edges
+    const double retreat = bleed & (Qt::LeftEdge | Qt::RightEdge) ? -format.gutter() : 0.0;
     const QRectF media = format.mediaRect();
-    const auto edge = [&](Qt::Edge side, double inside, double outside, double direction) {
-        return bleed.testFlag(side) ? outside : joins.testFlag(side) ? inside + direction * closer : inside;
+    const auto edge = [&](Qt::Edge side, double inside, double outside, double outwards) {
+        const bool isUpright = side == Qt::LeftEdge || side == Qt::RightEdge;
+        const double shift = joins.testFlag(side) ? closer : isUpright ? retreat : 0.0;
+        return bleed.testFlag(side) ? outside : inside + outwards * shift;
     };
     rect.setLeft(edge(Qt::LeftEdge, rect.left(), media.left(), -1.0));
     rect.setTop(edge(Qt::TopEdge, rect.top(), media.top(), -1.0));
@@ -94,7 +97,8 @@ QRectF MvTemplateRule::rect(const MvPageFormat &format) const
     rect.setBottom(edge(Qt::BottomEdge, rect.bottom(), media.bottom(), 1.0));
     if (const auto *foto = std::get_if<Foto>(&content); foto && foto->aspect > 0.0)
         return middlePart(rect, foto->aspect);
-    return std::holds_alternative<Text>(content) ? withLineHeight(rect, *this, format) : rect;
+    const bool isLine = std::holds_alternative<Text>(content) && firstRow == lastRow;
+    return isLine ? withLineHeight(rect, *this, format) : rect;
 }
 
 MvTemplateSlot MvTemplateRule::slotFor(const MvPageFormat &format, const MvTemplateStyle &style) const
