@@ -9,6 +9,7 @@
 #include "MvProject/MvThemeRegistry.h"
 
 #include <QFile>
+#include <QImage>
 #include <QFontDatabase>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -103,6 +104,8 @@ private Q_SLOTS:
     void divides_data();
     void divides();
     void turnsIntoStrips();
+    void veilsReachTheEdges_data();
+    void veilsReachTheEdges();
     void themes_data();
     void themes();
     void themesKeepPhotos();
@@ -156,6 +159,50 @@ void tst_MvPageTemplates::turnsIntoStrips()
     QCOMPARE(layoutOn(u"MONTH_ABOVE"_s, u"90x55"_s), u"ONE_ROW_STRIP"_s);
     QCOMPARE(layoutOn(u"MONTH_PANEL"_s, u"A4"_s), u"DAY_LIST"_s);
     QCOMPARE(layoutOn(u"MONTH_PANEL"_s, u"A6"_s), QString());
+}
+
+void tst_MvPageTemplates::veilsReachTheEdges_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<Qt::Edges>("edges");
+    const Qt::Edges foot = Qt::LeftEdge | Qt::RightEdge | Qt::BottomEdge;
+    QTest::newRow("a strip is a band") << u"MONTH_FULL_STRIP"_s << foot;
+    QTest::newRow("a list is a column") << u"MONTH_FULL_LIST"_s << (Qt::TopEdge | Qt::RightEdge | Qt::BottomEdge);
+    QTest::newRow("a month in a corner is its block") << u"MONTH_FULL_CORNER"_s << (Qt::RightEdge | Qt::BottomEdge);
+    QTest::newRow("a caption fades out upwards") << u"FREE_PHOTO"_s << foot;
+}
+
+/// One veil for all that stands together on a photo, without a sliver of photo between it and the trim.
+void tst_MvPageTemplates::veilsReachTheEdges()
+{
+    QFETCH(const QString, id);
+    QFETCH(const Qt::Edges, edges);
+    const QTemporaryDir folder;
+    QImage grey(300, 200, QImage::Format_RGB32);
+    grey.fill(QColor(120, 120, 120));
+    const QString path = folder.filePath(u"grey.png"_s);
+    QVERIFY(grey.save(path));
+    MvNewCalendar wanted;
+    wanted.themeId = u"PAPER"_s;
+    const MvCalendarDocument calendar = wanted.make();
+    const MvPageFormat format = calendar.format();
+    MvCalendarPage page = calendar.pages().at(1);
+    page.setTemplate(MvThemeApplication::pageTemplate(u"PAPER"_s, id), format);
+    MvFotoElement foto(path);
+    foto.setCaption(u"Am See"_s);
+    QVERIFY(page.setFoto(0, foto));
+    QList<QRectF> veils;
+    for (const auto &item : page.record(format, calendar.context()).items(MvPaintRecording::Item::Rect)) {
+        if (item.bounds.width() * item.bounds.height() > 0.02 * format.trimSize().width() * format.trimSize().height())
+            veils.append(item.bounds);
+    }
+    QVERIFY(!veils.isEmpty());
+    const QRectF media = format.mediaRect();
+    const QRectF veil = veils.constFirst();
+    QCOMPARE(std::abs(veil.left() - media.left()) < 1.0, edges.testFlag(Qt::LeftEdge));
+    QCOMPARE(std::abs(veil.top() - media.top()) < 1.0, edges.testFlag(Qt::TopEdge));
+    QCOMPARE(std::abs(veil.right() - media.right()) < 1.0, edges.testFlag(Qt::RightEdge));
+    QCOMPARE(std::abs(veil.bottom() - media.bottom()) < 1.0, edges.testFlag(Qt::BottomEdge));
 }
 
 void tst_MvPageTemplates::themes_data()

@@ -112,8 +112,12 @@ void MvPagePainter::paintCalendarium(QPainter &painter, const MvPageElement &ele
 {
     const MvCalendariumElement &shown = *element.calendarium();
     const MvCalendariumAppearance appearance = appearanceOf(shown, m_page.appearance());
+    // years on a back are counted from the calendar's beginning, as on its cover
+    const bool isYearOfBack = m_page.kind() == MvPageKind::Back && pass.context.range.isValid() &&
+                              appearance.type().traits().range == MvCalendariumTraits::Range::Year;
+    const QDate month = isYearOfBack ? pass.context.range.start() : m_page.contentConfig().date();
     const MvCalendariumContentConfig content =
-        monthsAhead(m_page.contentConfig().moveToDayInMonth(1), shown.monthOffset());
+        monthsAhead(m_page.contentConfig().moveToDay(month).moveToDayInMonth(1), shown.monthOffset());
     const auto make = [&](const MvCalendariumAppearance &look) {
         auto made = renderer(look, content, pass.context.range, pass.sources);
         if (shown.isOnFoto())
