@@ -9,8 +9,8 @@
 #include "MvProject/MvThemeRegistry.h"
 
 #include <QFile>
-#include <QImage>
 #include <QFontDatabase>
+#include <QImage>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
