@@ -267,7 +267,7 @@ void tst_MvCalendarEventRegistry::fotosByDay()
 {
     const QDate day(2026, 5, 17);
     const QDir folder = MvCalendarEvent::imageDirectory();
-    QVERIFY(MvTestFiles::writeFoto(folder.filePath(u"red.png"_s), {16, 12}, Qt::red));
+    QVERIFY(MvTestFiles::writeFoto(folder.filePath(u"red.png"_s), {400, 300}, Qt::red));
     QVERIFY(MvTestFiles::write(path(u"calendarEventFotos/broken.png"_s), "no image"));
     MvCalendarEventList events = {entry(u"none"_s, day), entry(u"missing"_s, day), entry(u"broken"_s, day),
                                   entry(u"red"_s, day)};
