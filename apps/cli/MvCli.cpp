@@ -4,10 +4,15 @@
 #include "MvColorsCommand.h"
 #include "MvHolidaysCommand.h"
 #include "MvNearMiss.h"
+#include "MvNewCommand.h"
+#include "MvPackCommand.h"
 #include "MvRegionsCommand.h"
 #include "MvRenderCommand.h"
 #include "MvSchemaListCommand.h"
+#include "MvTemplatesCommand.h"
 #include "MvTextTable.h"
+#include "MvThemesCommand.h"
+#include "MvValidateCommand.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +41,11 @@ void printLines(const QString &text, QTextStream &err)
 MvCli::MvCli()
 {
     m_commands.push_back(std::make_unique<MvRenderCommand>());
+    m_commands.push_back(std::make_unique<MvNewCommand>());
+    m_commands.push_back(std::make_unique<MvValidateCommand>());
+    m_commands.push_back(std::make_unique<MvPackCommand>());
+    m_commands.push_back(std::make_unique<MvThemesCommand>());
+    m_commands.push_back(std::make_unique<MvTemplatesCommand>());
     m_commands.push_back(std::make_unique<MvSchemaListCommand>(MvSchemaListCommand::Kind::Layouts));
     m_commands.push_back(std::make_unique<MvColorsCommand>());
     m_commands.push_back(std::make_unique<MvRegionsCommand>());
@@ -118,7 +128,8 @@ void MvCli::printHelp(QTextStream &out) const
             out << "  mvcalendar " << example << '\n';
     out << '\n'
         << tr("Optionen eines Befehls: mvcalendar BEFEHL --help. Version: mvcalendar --version.") << '\n'
-        << tr("Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch.")
+        << tr("Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch; 3 "
+              "validate: etwas würde schlecht gedruckt.")
         << '\n';
 }
 
@@ -127,8 +138,9 @@ void MvCli::printHelp(const MvCliCommand &command, QTextStream &out)
     out << "mvcalendar " << command.name() << ": " << command.summary() << "\n\n" << tr("Optionen:") << '\n';
     MvTextTable table;
     for (const MvCliOption &option : command.options())
-        table.addRow(
-            {u"  --"_s + option.name + (option.value.isEmpty() ? QString() : u' ' + option.value), option.help});
+        table.addRow({(option.isOperand ? u"  [--%1]"_s : u"  --%1"_s).arg(option.name) +
+                          (option.value.isEmpty() ? QString() : u' ' + option.value),
+                      option.help});
     table.print(out);
     out << '\n' << tr("Beispiele:") << '\n';
     for (const QString &example : command.examples())

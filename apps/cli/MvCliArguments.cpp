@@ -18,8 +18,14 @@ MvOutcome MvCliArguments::parse(const QStringList &arguments, const QList<MvCliO
         const QString argument = arguments[i] == u"-o"_s ? u"--output"_s : arguments[i];
         const QString name = argument.section(u'=', 0, 0);
         const qsizetype index = names.indexOf(name);
-        if (index < 0 && !argument.startsWith(u'-'))
-            return {tr("„%1“ gehört zu keiner Option").replace(u"%1"_s, argument), {}};
+        if (index < 0 && !argument.startsWith(u'-')) {
+            const auto isMissing = [this](const MvCliOption &option) { return option.isOperand && !has(option.name); };
+            const auto operand = std::find_if(options.cbegin(), options.cend(), isMissing);
+            if (operand == options.cend())
+                return {tr("„%1“ gehört zu keiner Option").replace(u"%1"_s, argument), {}};
+            m_values[operand->name].append(argument);
+            continue;
+        }
         if (index < 0)
             return {tr("unbekannte Option %1").replace(u"%1"_s, name) + MvNearMiss::describe(name, names), {}};
 

@@ -15,7 +15,8 @@ class MvCliArguments
     Q_DECLARE_TR_FUNCTIONS(MvCliArguments)
 
 public:
-    /// "--name value", "--name=value", "--switch"; "-o" stands for "--output".
+    /// "--name value", "--name=value", "--switch"; "-o" stands for "--output". A word without a name is the value of
+    /// the option that allows it.
     MvOutcome parse(const QStringList &arguments, const QList<MvCliOption> &options);
 
     bool has(const QString &name) const { return m_values.contains(name); }

@@ -25,3 +25,14 @@ MvCliOption MvCliCommand::formatOption(const QStringList &formats)
 {
     return {u"format"_s, formats.join(u'|'), QCoreApplication::translate("MvCliCommand", "Ausgabe (text)")};
 }
+
+MvCliOption MvCliCommand::jsonOption()
+{
+    return {u"json"_s, {}, QCoreApplication::translate("MvCliCommand", "wie --format json")};
+}
+
+MvCliOption MvCliCommand::projectOption()
+{
+    return {u"project"_s, QCoreApplication::translate("MvCliCommand", "DATEI"),
+            QCoreApplication::translate("MvCliCommand", "das Projekt; --project kann wegbleiben"), false, true};
+}

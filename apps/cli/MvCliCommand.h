@@ -17,8 +17,9 @@ public:
     /// Exit codes.
     enum ExitCode {
         Done = 0,
-        Failed = 1, // the command was understood, but something could not be read or written
-        Misused = 2 // the command was not understood
+        Failed = 1,     // the command was understood, but something could not be read or written
+        Misused = 2,    // the command was not understood
+        PrintsBadly = 3 // of "validate": the calendar can be printed, but something on it would look bad
     };
 
     /// Where a command writes: results to one stream, hints for a person to the other.
@@ -46,15 +47,19 @@ public:
 
     virtual Result run(const MvCliArguments &arguments, const Streams &streams) const = 0;
 
-protected:
-    MvCliCommand() = default;
-
-    static Result misused(const QString &error) { return {Misused, error}; }
-    static Result failed(const QString &error) { return {Failed, error}; }
-
     /// Options that several commands share.
     static MvCliOption countryOption();
     static MvCliOption languageOption();
     static MvCliOption regionOption();
     static MvCliOption formatOption(const QStringList &formats);
+    /// "--json", the short form of "--format json".
+    static MvCliOption jsonOption();
+    /// The project, with or without "--project".
+    static MvCliOption projectOption();
+
+protected:
+    MvCliCommand() = default;
+
+    static Result misused(const QString &error) { return {Misused, error}; }
+    static Result failed(const QString &error) { return {Failed, error}; }
 };

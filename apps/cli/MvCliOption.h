@@ -10,4 +10,5 @@ struct MvCliOption
     QString value; // what stands for the value in the help text; empty for a switch
     QString help;
     bool isRepeatable = false;
+    bool isOperand = false; // its value may stand without its name
 };

@@ -79,6 +79,12 @@ QString MvCliValues::choice(const QString &name, const QStringList &allowed)
     return allowed.first();
 }
 
+QString MvCliValues::format(const QStringList &allowed)
+{
+    exclude(u"format"_s, u"json"_s);
+    return has(u"json"_s) ? u"json"_s : choice(u"format"_s, allowed);
+}
+
 void MvCliValues::exclude(const QString &name, const QString &other)
 {
     if (has(name) && has(other))

@@ -34,6 +34,8 @@ public:
     QDate month(const QString &name);
     /// One of the allowed words, whatever the case; the first is the default.
     QString choice(const QString &name, const QStringList &allowed);
+    /// "--format", or "--json": one of the allowed words; the first is the default.
+    QString format(const QStringList &allowed);
     /// Of two options, at most one may be given.
     void exclude(const QString &name, const QString &other);
 

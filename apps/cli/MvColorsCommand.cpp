@@ -102,7 +102,7 @@ MvCliCommand::Result MvColorsCommand::run(const MvCliArguments &arguments, const
 {
     MvCliValues values(arguments);
     QStringList given;
-    for (const QString &name : tasks + QStringList{u"hidden"_s, u"format"_s}) {
+    for (const QString &name : tasks + QStringList{u"hidden"_s, u"format"_s, u"json"_s}) {
         if (values.has(name))
             given.append(name);
     }
@@ -127,7 +127,7 @@ MvCliCommand::Result MvColorsCommand::run(const MvCliArguments &arguments, const
     }
     if (!values.has(u"hidden"_s))
         return MvSchemaListCommand::run(arguments, streams);
-    const QString format = values.choice(u"format"_s, {u"text"_s, u"json"_s});
+    const QString format = values.format({u"text"_s, u"json"_s});
     if (!values.isOk())
         return misused(values.error());
     print(hidden(), format == u"json"_s, streams.out);

@@ -95,7 +95,8 @@ QList<MvCliOption> MvHolidaysCommand::options() const
             regionOption(),
             {u"year"_s, tr("JAHR"), tr("Jahr (das kommende)")},
             {u"to"_s, tr("JAHR"), tr("letztes Jahr, wenn es mehrere sind")},
-            formatOption({u"text"_s, u"csv"_s, u"json"_s})};
+            formatOption({u"text"_s, u"csv"_s, u"json"_s}),
+            jsonOption()};
 }
 
 QStringList MvHolidaysCommand::examples() const
@@ -111,7 +112,7 @@ MvCliCommand::Result MvHolidaysCommand::run(const MvCliArguments &arguments, con
     const QString region = values.region(locale);
     const int year = values.year(u"year"_s, MvDateRange::createDefaultCalendarStart().year());
     const int lastYear = values.year(u"to"_s, year);
-    const QString format = values.choice(u"format"_s, {u"text"_s, u"csv"_s, u"json"_s});
+    const QString format = values.format({u"text"_s, u"csv"_s, u"json"_s});
     if (lastYear < year || lastYear - year >= mostYears)
         values.setError(tr("--to „%1“: erlaubt sind %2 bis %3").arg(lastYear).arg(year).arg(year + mostYears - 1));
     if (!values.isOk())

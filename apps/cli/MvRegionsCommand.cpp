@@ -43,7 +43,7 @@ QString MvRegionsCommand::summary() const
 
 QList<MvCliOption> MvRegionsCommand::options() const
 {
-    return {countryOption(), languageOption(), formatOption({u"text"_s, u"json"_s})};
+    return {countryOption(), languageOption(), formatOption({u"text"_s, u"json"_s}), jsonOption()};
 }
 
 QStringList MvRegionsCommand::examples() const
@@ -54,7 +54,7 @@ QStringList MvRegionsCommand::examples() const
 MvCliCommand::Result MvRegionsCommand::run(const MvCliArguments &arguments, const Streams &streams) const
 {
     MvCliValues values(arguments);
-    const QString format = values.choice(u"format"_s, {u"text"_s, u"json"_s});
+    const QString format = values.format({u"text"_s, u"json"_s});
     const bool hasCountry = values.has(u"country"_s) || values.has(u"language"_s);
     const MvLocale asked = hasCountry ? values.country() : MvLocale();
     if (!values.isOk())

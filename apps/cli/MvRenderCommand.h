@@ -3,11 +3,12 @@
 
 #include "MvCliCommand.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvPageSource.h"
 #include "MvRenderEntries.h"
 
 class MvCliValues;
 
-/// "render": prints a calendar into files.
+/// "render": prints a calendar into files: that of a project, one made of photos, or one that options describe.
 class MvRenderCommand : public MvCliCommand
 {
     Q_DECLARE_TR_FUNCTIONS(MvRenderCommand)
@@ -20,20 +21,12 @@ public:
     Result run(const MvCliArguments &arguments, const Streams &streams) const override;
 
 private:
-    static MvCalendarDocument documentFromOptions(MvCliValues &values);
-    /// An unreadable file gives an error, what could not be taken from it hints.
-    static MvOutcome readProject(const MvCliValues &values, MvCalendarDocument &document, QTextStream &hints);
+    /// What of the call decides on its own, so that it must not be given beside a project.
     static void excludeDecidedByProject(MvCliValues &values);
     /// What is wrong with the names of the files, or keeps them from being written.
-    static Result checkTargets(const QStringList &paths, const MvCalendarDocument &document, int dpi);
-    static Result write(const MvCalendarDocument &document, const MvRenderEntries &entries,
+    static Result checkTargets(const QStringList &paths, const MvPageSource &pages, int dpi);
+    static Result write(const MvCalendarDocument &document, const QList<int> &pages, const MvRenderEntries &entries,
                         const MvCliArguments &arguments, int dpi, const Streams &streams);
-    static MvDateRange range(MvCliValues &values);
-    static MvPageFormat pageFormat(MvCliValues &values);
-    static MvCalendariumAppearance appearance(MvCliValues &values);
-    /// The headings of the free columns.
-    static QStringList columns(MvCliValues &values, const MvCalendariumAppearance &appearance);
-    static MvCalendariumHolidayConfig holidayConfig(MvCliValues &values);
     /// Loads the entries that were asked for and has the pages show them.
     static MvRenderEntries takeEntries(const MvCliValues &values, MvCalendarDocument &document);
     /// What a person should know before printing.

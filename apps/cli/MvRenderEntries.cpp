@@ -28,6 +28,13 @@ MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
     return entries;
 }
 
+MvRenderEntries MvRenderEntries::ofDocument(const MvCalendarDocument &document)
+{
+    if (!document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
+        return {};
+    return document.entriesFile().isEmpty() ? own() : ofFile(QFileInfo(document.entriesFile()));
+}
+
 MvCalendarEventList MvRenderEntries::list() const
 {
     return m_source ? m_source->events() : MvCalendarEventRegistry::instance().activeEventList();

@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventListSource.h"
+#include "MvProject/MvCalendarDocument.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -19,6 +20,8 @@ class MvRenderEntries
 public:
     /// Those of a file; nothing is stored, and the user's own ones stay as they are.
     static MvRenderEntries ofFile(const QFileInfo &file);
+    /// Those that a calendar shows: of its own list, or the user's; none where no page shows entries.
+    static MvRenderEntries ofDocument(const MvCalendarDocument &document);
     /// The user's own ones, which the program has read.
     static MvRenderEntries own();
 

@@ -37,7 +37,7 @@ QString gradeName(MvFotoResolution::Grade grade)
     return u"good"_s;
 }
 
-// pages of the report count from 1
+// pages and elements of the report count from 1
 
 QJsonObject textObject(int page, const MvUnfittingText &unfitting)
 {
@@ -50,9 +50,23 @@ QJsonObject textObject(int page, const MvUnfittingText &unfitting)
     return text;
 }
 
+/// A text beside the calendaria.
+QJsonObject elementObject(int page, const MvUnfittingElement &unfitting)
+{
+    QJsonObject text{{u"page"_s, page},
+                     {u"element"_s, unfitting.element + 1},
+                     {u"date"_s, QJsonValue()},
+                     {u"text"_s, unfitting.text},
+                     {u"rect"_s, rectObject(unfitting.rect)}};
+    if (!unfitting.missingGlyphs.isEmpty())
+        text.insert(u"missingGlyphs"_s, unfitting.missingGlyphs);
+    return text;
+}
+
 QJsonObject fotoObject(int page, const MvPrintedFoto &foto)
 {
     return {{u"page"_s, page},
+            {u"element"_s, foto.element < 0 ? QJsonValue() : QJsonValue(foto.element + 1)},
             {u"date"_s, dateValue(foto.date)},
             {u"path"_s, foto.path},
             {u"ppi"_s, std::round(foto.pixelsPerInch)},
@@ -72,7 +86,7 @@ void MvRenderReport::addPage(int page, const MvPageFindings &findings)
 {
     if (!m_pages.contains(page))
         m_pages.insert(
-            page, {findings.unfitting,
+            page, {findings.unfitting, findings.elements,
                    MvPrintedFoto::ofPaintedPage(m_document.pages()[page], m_document.format(), findings, m_sources)});
 }
 
@@ -95,6 +109,8 @@ QString MvRenderReport::toJson() const
     for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page) {
         for (const MvUnfittingText &text : page->unfitting)
             unfitting.append(textObject(page.key() + 1, text));
+        for (const MvUnfittingElement &text : page->elements)
+            unfitting.append(elementObject(page.key() + 1, text));
         for (const MvPrintedFoto &foto : page->fotos)
             fotos.append(fotoObject(page.key() + 1, foto));
     }
@@ -117,21 +133,25 @@ void MvRenderReport::printHint(QTextStream &hints) const
 void MvRenderReport::printTextHints(QTextStream &hints) const
 {
     int withoutRoom = 0;
-    QDate first;
+    QString first;
     QList<uint> missing;
-    for (const Page &page : m_pages) {
-        for (const MvUnfittingText &text : page.unfitting) {
-            for (const uint character : text.missingGlyphs.toUcs4()) {
-                if (!missing.contains(character))
-                    missing.append(character);
-            }
-            if (text.missingGlyphs.isEmpty() && ++withoutRoom == 1)
-                first = text.date;
+    const auto count = [&](const QString &missingGlyphs, const QString &place) {
+        for (const uint character : missingGlyphs.toUcs4()) {
+            if (!missing.contains(character))
+                missing.append(character);
         }
+        if (missingGlyphs.isEmpty() && ++withoutRoom == 1)
+            first = place;
+    };
+    for (auto page = m_pages.cbegin(); page != m_pages.cend(); ++page) {
+        for (const MvUnfittingText &text : page->unfitting)
+            count(text.missingGlyphs, text.date.toString(u"d.M.yyyy"_s));
+        for (const MvUnfittingElement &text : page->elements)
+            count(text.missingGlyphs, tr("Seite %1").arg(page.key() + 1));
     }
     if (withoutRoom > 0)
-        hints << tr("Texte ohne Platz: %1, der erste am %2; --report json nennt alle")
-                     .arg(QString::number(withoutRoom), first.toString(u"d.M.yyyy"_s))
+        hints << tr("Texte ohne Platz: %1, der erste: %2; --report json nennt alle")
+                     .arg(QString::number(withoutRoom), first)
               << '\n';
     const QString glyphs = QString::fromUcs4(reinterpret_cast<const char32_t *>(missing.constData()), missing.size());
     if (!glyphs.isEmpty())

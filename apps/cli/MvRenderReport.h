@@ -40,6 +40,7 @@ private:
     struct Page
     {
         QList<MvUnfittingText> unfitting;
+        QList<MvUnfittingElement> elements;
         QList<MvPrintedFoto> fotos;
     };
 

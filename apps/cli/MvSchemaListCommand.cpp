@@ -97,7 +97,7 @@ QString MvSchemaListCommand::summary() const
 
 QList<MvCliOption> MvSchemaListCommand::options() const
 {
-    return {formatOption({u"text"_s, u"json"_s})};
+    return {formatOption({u"text"_s, u"json"_s}), jsonOption()};
 }
 
 QStringList MvSchemaListCommand::examples() const
@@ -108,7 +108,7 @@ QStringList MvSchemaListCommand::examples() const
 MvCliCommand::Result MvSchemaListCommand::run(const MvCliArguments &arguments, const Streams &streams) const
 {
     MvCliValues values(arguments);
-    const QString format = values.choice(u"format"_s, {u"text"_s, u"json"_s});
+    const QString format = values.format({u"text"_s, u"json"_s});
     if (!values.isOk())
         return misused(values.error());
 

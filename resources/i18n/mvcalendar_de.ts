@@ -87,6 +87,16 @@
     </message>
 </context>
 <context>
+    <name>MvFotoCalendar</name>
+    <message numerus="yes">
+        <source>%n Fotos haben auf den Seiten keinen Platz gefunden</source>
+        <translation>
+            <numerusform>Ein Foto hat auf den Seiten keinen Platz gefunden</numerusform>
+            <numerusform>%n Fotos haben auf den Seiten keinen Platz gefunden</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvFotoPoolIntake</name>
     <message numerus="yes">
         <source>… und %n weitere</source>
@@ -240,6 +250,16 @@
         <translation>
             <numerusform>%n Hinweis zum Druck</numerusform>
             <numerusform>%n Hinweise zum Druck</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvTemplatesCommand</name>
+    <message numerus="yes">
+        <source>%n Fotos</source>
+        <translation>
+            <numerusform>1 Foto</numerusform>
+            <numerusform>%n Fotos</numerusform>
         </translation>
     </message>
 </context>

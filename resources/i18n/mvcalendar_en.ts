@@ -583,6 +583,105 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarOptions</name>
+    <message>
+        <source>JAHR</source>
+        <translation>YEAR</translation>
+    </message>
+    <message>
+        <source>Januar bis Dezember dieses Jahres (das kommende)</source>
+        <translation>January to December of this year (the coming one)</translation>
+    </message>
+    <message>
+        <source>JAHR-MONAT</source>
+        <translation>YEAR-MONTH</translation>
+    </message>
+    <message>
+        <source>erster Monat, statt --year</source>
+        <translation>first month, instead of --year</translation>
+    </message>
+    <message>
+        <source>ZAHL</source>
+        <translation>NUMBER</translation>
+    </message>
+    <message>
+        <source>wie viele Monate ab --from (12)</source>
+        <translation>how many months from --from (12)</translation>
+    </message>
+    <message>
+        <source>nur gesetzliche Feiertage</source>
+        <translation>public holidays only</translation>
+    </message>
+    <message>
+        <source>auch Schulferien</source>
+        <translation>school holidays too</translation>
+    </message>
+    <message>
+        <source>keine Feiertage</source>
+        <translation>no holidays</translation>
+    </message>
+    <message>
+        <source>Layout, siehe layouts</source>
+        <translation>layout, see layouts</translation>
+    </message>
+    <message>
+        <source>Farbschema, siehe colors</source>
+        <translation>colour scheme, see colors</translation>
+    </message>
+    <message>
+        <source>NAMEN</source>
+        <translation>NAMES</translation>
+    </message>
+    <message>
+        <source>Spalten einer Tagesliste, mit Kommas getrennt, statt der des Layouts</source>
+        <translation>columns of a list of days, separated by commas, instead of those of the layout</translation>
+    </message>
+    <message>
+        <source>FAMILIE</source>
+        <translation>FAMILY</translation>
+    </message>
+    <message>
+        <source>Schriftfamilie statt der des Layouts</source>
+        <translation>font family instead of that of the layout</translation>
+    </message>
+    <message>
+        <source>A0 bis A6, square-210, 30x45cm, panorama, Letter …, oder Breite und Höhe in Millimetern, 300x200 (A4)</source>
+        <translation>A0 to A6, square-210, 30x45cm, panorama, Letter …, or width and height in millimetres, 300x200 (A4)</translation>
+    </message>
+    <message>
+        <source>Querformat (so bei benannten Formaten)</source>
+        <translation>landscape (the default for named formats)</translation>
+    </message>
+    <message>
+        <source>Hochformat</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Beschnitt an jeder Kante, nur im PDF (0)</source>
+        <translation>bleed at each edge, in the PDF only (0)</translation>
+    </message>
+    <message>
+        <source>Kante, an der Spirale oder Aufhänger Platz brauchen (none)</source>
+        <translation>the edge at which spiral or hanger need room (none)</translation>
+    </message>
+    <message>
+        <source>Layouts und Farbschemata fehlen; das Programm ist unvollständig installiert</source>
+        <translation>layouts and colour schemes are missing; the program is not installed completely</translation>
+    </message>
+    <message>
+        <source>--columns: das Layout „%1“ hat keine Spalten zum Eintragen, nur Tageslisten haben welche</source>
+        <translation>--columns: the layout “%1” has no columns to write in, only lists of days have</translation>
+    </message>
+    <message>
+        <source>--columns: %1 Namen; erlaubt sind höchstens %2</source>
+        <translation>--columns: %1 names; allowed are at most %2</translation>
+    </message>
+    <message>
+        <source>--page „%1“: erlaubt sind %2 oder Breite und Höhe in Millimetern wie 300x200 (20 bis 3000)</source>
+        <translation>--page “%1”: allowed are %2, or width and height in millimetres such as 300x200 (20 to 3000)</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarTitle</name>
     <message>
         <source>Kalender %1</source>
@@ -816,12 +915,12 @@
         <translation>Options of a command: mvcalendar COMMAND --help. Version: mvcalendar --version.</translation>
     </message>
     <message>
-        <source>Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch.</source>
-        <translation>Exit codes: 0 done; 1 something could not be read or written; 2 the call was wrong.</translation>
-    </message>
-    <message>
         <source>Optionen:</source>
         <translation>Options:</translation>
+    </message>
+    <message>
+        <source>Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch; 3 validate: etwas würde schlecht gedruckt.</source>
+        <translation>Exit codes: 0 done; 1 something could not be read or written; 2 the call was wrong; 3 validate: something would print badly.</translation>
     </message>
 </context>
 <context>
@@ -872,6 +971,18 @@
     <message>
         <source>SPRACHE</source>
         <translation>LANGUAGE</translation>
+    </message>
+    <message>
+        <source>wie --format json</source>
+        <translation>the same as --format json</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>das Projekt; --project kann wegbleiben</source>
+        <translation>the project; --project may be left out</translation>
     </message>
 </context>
 <context>
@@ -1651,6 +1762,52 @@
     </message>
 </context>
 <context>
+    <name>MvFotoCalendar</name>
+    <message>
+        <source>--theme „%1“: erlaubt sind %2</source>
+        <translation>--theme “%1”: allowed are %2</translation>
+    </message>
+    <message>
+        <source>ORT</source>
+        <translation>PLACE</translation>
+    </message>
+    <message>
+        <source>Fotos oder Ordner mit Fotos; daraus wird ein Fotokalender mit Titelblatt, Monaten und Rückseite; mehrfach erlaubt</source>
+        <translation>photos, or folders with photos; they become a photo calendar with cover, months and back; may be given several times</translation>
+    </message>
+    <message>
+        <source>wie der Fotokalender aussieht, siehe themes</source>
+        <translation>how the photo calendar looks, see themes</translation>
+    </message>
+    <message>
+        <source>ohne Titelblatt</source>
+        <translation>without a cover</translation>
+    </message>
+    <message>
+        <source>ohne Rückseite</source>
+        <translation>without a back</translation>
+    </message>
+    <message>
+        <source>--%1 gilt nicht für Fotokalender: ihr Aussehen steht im Thema (--theme)</source>
+        <translation>--%1 is not for photo calendars: their look is that of the theme (--theme)</translation>
+    </message>
+    <message>
+        <source>%1: das gibt es nicht</source>
+        <translation>%1: there is no such thing</translation>
+    </message>
+    <message>
+        <source>%1: darin sind keine Fotos</source>
+        <translation>%1: there are no photos in it</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos haben auf den Seiten keinen Platz gefunden</source>
+        <translation>
+            <numerusform>One photo has found no place on the pages</numerusform>
+            <numerusform>%n photos have found no place on the pages</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvFotoField</name>
     <message>
         <source>Foto auswählen</source>
@@ -2380,10 +2537,80 @@
     </message>
 </context>
 <context>
+    <name>MvNewCommand</name>
+    <message>
+        <source>macht aus Fotos einen Kalender als Projekt</source>
+        <translation>makes a calendar of photos, as a project</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>persönliche Einträge, die der Kalender zeigt; die Datei gehört dann dazu</source>
+        <translation>personal entries that the calendar shows; the file then belongs to it</translation>
+    </message>
+    <message>
+        <source>der Kalender zeigt die eigenen persönlichen Einträge</source>
+        <translation>the calendar shows your own personal entries</translation>
+    </message>
+    <message>
+        <source>Titel, auch auf dem Titelblatt</source>
+        <translation>title, also on the cover</translation>
+    </message>
+    <message>
+        <source>Verfasser</source>
+        <translation>author</translation>
+    </message>
+    <message>
+        <source>-o: das Projekt, ein Name auf .mvcalendar</source>
+        <translation>-o: the project, a name that ends in .mvcalendar</translation>
+    </message>
+    <message>
+        <source>es fehlt -o DATEI mit einem Namen auf .%1</source>
+        <translation>-o FILE is missing, with a name that ends in .%1</translation>
+    </message>
+    <message>
+        <source>%1: den Ordner %2 gibt es nicht</source>
+        <translation>%1: there is no folder %2</translation>
+    </message>
+</context>
+<context>
     <name>MvOutOfMemory</name>
     <message>
         <source>Der Arbeitsspeicher reicht nicht aus. Das Programm wird beendet.</source>
         <translation>There is not enough memory. The program ends now.</translation>
+    </message>
+</context>
+<context>
+    <name>MvPackCommand</name>
+    <message>
+        <source>packt ein Projekt mit Fotos und Einträgen zum Mitnehmen</source>
+        <translation>packs a project with photos and entries to be taken along</translation>
+    </message>
+    <message>
+        <source>ORT</source>
+        <translation>PLACE</translation>
+    </message>
+    <message>
+        <source>-o: ein neuer Ordner, oder ein Archiv, wenn der Name auf .zip endet; darin liegt nur, was auf den Seiten ist</source>
+        <translation>-o: a new folder, or an archive if the name ends in .zip; it holds only what is on the pages</translation>
+    </message>
+    <message>
+        <source>es fehlt das Projekt: pack DATEI -o ORT</source>
+        <translation>the project is missing: pack FILE -o PLACE</translation>
+    </message>
+    <message>
+        <source>es fehlt -o ORT: ein neuer Ordner oder ein Archiv auf .zip</source>
+        <translation>-o PLACE is missing: a new folder, or an archive that ends in .zip</translation>
+    </message>
+    <message>
+        <source>%1: in %2 lässt sich nicht schreiben</source>
+        <translation>%1: %2 cannot be written to</translation>
+    </message>
+    <message>
+        <source>Foto fehlt oder ist nicht lesbar: %1</source>
+        <translation>Photo missing or unreadable: %1</translation>
     </message>
 </context>
 <context>
@@ -2556,6 +2783,13 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>keine Seite gewählt</source>
         <translation>no page chosen</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageSelection</name>
+    <message>
+        <source>--pages „%1“: erlaubt sind Seiten von 1 bis %2, Bereiche wie 2-4 und cover, months, free, back, soweit es sie gibt</source>
+        <translation>--pages “%1”: allowed are pages from 1 to %2, ranges such as 2-4, and cover, months, free, back as far as there are any</translation>
     </message>
 </context>
 <context>
@@ -2879,6 +3113,10 @@ The context menu replaces the photo by another one.</translation>
         <source>Unbenannt</source>
         <translation>Untitled</translation>
     </message>
+    <message>
+        <source>Zu diesem Kalender gehört eine Liste von Einträgen: %1. Zum Bearbeiten lässt sie sich zu den eigenen Einträgen hinzufügen.</source>
+        <translation>A list of entries belongs to this calendar: %1. To edit them, you can add it to your own entries.</translation>
+    </message>
 </context>
 <context>
     <name>MvProjectAutosave</name>
@@ -3025,19 +3263,19 @@ Save it under another name or in another folder.</translation>
     <name>MvProjectPack</name>
     <message>
         <source>%1 lässt sich nicht schreiben: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cannot be written: %2</translation>
     </message>
     <message>
         <source>Das Layout „%1“ ist ein eigenes; auf einem anderen Computer tritt ein anderes an seine Stelle.</source>
-        <translation type="unfinished"></translation>
+        <translation>The layout “%1” is your own; on another computer another one takes its place.</translation>
     </message>
     <message>
         <source>%1 ist schon da und nicht leer; bitte einen neuen Ordner nennen</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 is there already and not empty; please name a new folder</translation>
     </message>
     <message>
         <source>der Ordner lässt sich nicht anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>the folder cannot be made</translation>
     </message>
 </context>
 <context>
@@ -3186,66 +3424,6 @@ Save it under another name or in another folder.</translation>
         <translation>prints a calendar into files</translation>
     </message>
     <message>
-        <source>Januar bis Dezember dieses Jahres (das kommende)</source>
-        <translation>January to December of this year (the coming one)</translation>
-    </message>
-    <message>
-        <source>erster Monat, statt --year</source>
-        <translation>first month, instead of --year</translation>
-    </message>
-    <message>
-        <source>wie viele Monate ab --from (12)</source>
-        <translation>how many months from --from (12)</translation>
-    </message>
-    <message>
-        <source>nur gesetzliche Feiertage</source>
-        <translation>public holidays only</translation>
-    </message>
-    <message>
-        <source>auch Schulferien</source>
-        <translation>school holidays too</translation>
-    </message>
-    <message>
-        <source>keine Feiertage</source>
-        <translation>no holidays</translation>
-    </message>
-    <message>
-        <source>Layout, siehe layouts</source>
-        <translation>layout, see layouts</translation>
-    </message>
-    <message>
-        <source>Farbschema, siehe colors</source>
-        <translation>colour scheme, see colors</translation>
-    </message>
-    <message>
-        <source>Spalten einer Tagesliste, mit Kommas getrennt, statt der des Layouts</source>
-        <translation>columns of a list of days, separated by commas, instead of those of the layout</translation>
-    </message>
-    <message>
-        <source>Schriftfamilie statt der des Layouts</source>
-        <translation>font family instead of that of the layout</translation>
-    </message>
-    <message>
-        <source>A0 bis A6 oder Breite und Höhe in Millimetern, 300x200 (A4)</source>
-        <translation>A0 to A6, or width and height in millimetres, 300x200 (A4)</translation>
-    </message>
-    <message>
-        <source>Querformat (so bei A0 bis A6)</source>
-        <translation>landscape (as A0 to A6 are)</translation>
-    </message>
-    <message>
-        <source>Hochformat</source>
-        <translation>portrait</translation>
-    </message>
-    <message>
-        <source>Beschnitt an jeder Kante, nur im PDF (0)</source>
-        <translation>bleed at each edge, in the PDF only (0)</translation>
-    </message>
-    <message>
-        <source>Titel der Dateien (Kalender 2027)</source>
-        <translation>title of the files (Calendar 2027)</translation>
-    </message>
-    <message>
         <source>Verfasser im PDF</source>
         <translation>author in the PDF</translation>
     </message>
@@ -3258,22 +3436,6 @@ Save it under another name or in another folder.</translation>
         <translation>-o FILE is missing; allowed are names that end in .pdf, .png or .svg</translation>
     </message>
     <message>
-        <source>--page „%1“: erlaubt sind %2 oder Breite und Höhe in Millimetern wie 300x200 (20 bis 3000)</source>
-        <translation>--page “%1”: allowed are %2, or width and height in millimetres such as 300x200 (20 to 3000)</translation>
-    </message>
-    <message>
-        <source>Layouts und Farbschemata fehlen; das Programm ist unvollständig installiert</source>
-        <translation>layouts and colour schemes are missing; the program is not installed completely</translation>
-    </message>
-    <message>
-        <source>--columns: das Layout „%1“ hat keine Spalten zum Eintragen, nur Tageslisten haben welche</source>
-        <translation>--columns: the layout “%1” has no columns to write in, only lists of days have</translation>
-    </message>
-    <message>
-        <source>--columns: %1 Namen; erlaubt sind höchstens %2</source>
-        <translation>--columns: %1 names; allowed are at most %2</translation>
-    </message>
-    <message>
         <source>Schrift nicht installiert, eine andere tritt an ihre Stelle: %1</source>
         <translation>font not installed, another takes its place: %1</translation>
     </message>
@@ -3282,24 +3444,8 @@ Save it under another name or in another folder.</translation>
         <translation>29 February does not occur in the printed period: %1</translation>
     </message>
     <message>
-        <source>JAHR</source>
-        <translation>YEAR</translation>
-    </message>
-    <message>
-        <source>JAHR-MONAT</source>
-        <translation>YEAR-MONTH</translation>
-    </message>
-    <message>
         <source>ZAHL</source>
         <translation>NUMBER</translation>
-    </message>
-    <message>
-        <source>NAMEN</source>
-        <translation>NAMES</translation>
-    </message>
-    <message>
-        <source>FAMILIE</source>
-        <translation>FAMILY</translation>
     </message>
     <message>
         <source>DATEI</source>
@@ -3329,6 +3475,18 @@ Save it under another name or in another folder.</translation>
         <source>-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite, auch für ein .pdf je Seite; mehrfach erlaubt</source>
         <translation>-o: .pdf, or .png and .svg for each page; %m month, %y year, %n page, also for one .pdf for each page; may be given several times</translation>
     </message>
+    <message>
+        <source>Titel der Dateien (Kalender 2027), mit --photos auch auf dem Titelblatt</source>
+        <translation>title of the files (Calendar 2027), with --photos also on the cover</translation>
+    </message>
+    <message>
+        <source>LISTE</source>
+        <translation>LIST</translation>
+    </message>
+    <message>
+        <source>nur diese Seiten: 1-3,7 oder cover, months, free, back</source>
+        <translation>only these pages: 1-3,7 or cover, months, free, back</translation>
+    </message>
 </context>
 <context>
     <name>MvRenderEntries</name>
@@ -3355,10 +3513,6 @@ Save it under another name or in another folder.</translation>
 <context>
     <name>MvRenderReport</name>
     <message>
-        <source>Texte ohne Platz: %1, der erste am %2; --report json nennt alle</source>
-        <translation>texts without room: %1, the first on %2; --report json names all</translation>
-    </message>
-    <message>
         <source>Foto fehlt oder ist nicht lesbar: %1</source>
         <translation>photo missing or not readable: %1</translation>
     </message>
@@ -3383,6 +3537,14 @@ Save it under another name or in another folder.</translation>
             <numerusform>%n photo of fewer than %1 pixels per inch; --report json names it</numerusform>
             <numerusform>%n photos of fewer than %1 pixels per inch; --report json names them</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Seite %1</source>
+        <translation>page %1</translation>
+    </message>
+    <message>
+        <source>Texte ohne Platz: %1, der erste: %2; --report json nennt alle</source>
+        <translation>Texts without room: %1, the first: %2; --report json names all</translation>
     </message>
 </context>
 <context>
@@ -4107,6 +4269,24 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
+    <name>MvTemplatesCommand</name>
+    <message>
+        <source>zählt die Vorlagen für Seiten auf, mit ihren Fotos</source>
+        <translation>lists the templates for pages, with their photos</translation>
+    </message>
+    <message>
+        <source>nur die für Titelblatt, Monate, freie Seiten oder Rückseite</source>
+        <translation>only those for cover, months, free pages or back</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos</source>
+        <translation>
+            <numerusform>One photo</numerusform>
+            <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvThemeReader</name>
     <message>
         <source>„%1“ ist kein Thema (theme)</source>
@@ -4162,6 +4342,13 @@ Designs photo calendars and prints them.
     <message>
         <source>Das Thema „%1“ bleibt weg, denn seine Kennung %2 hat schon „%3“. Eine andere bringt es zurück.</source>
         <translation type="unfinished">The theme “%1” is left out, since “%3” has its id %2 already. Another one brings it back.</translation>
+    </message>
+</context>
+<context>
+    <name>MvThemesCommand</name>
+    <message>
+        <source>zählt die Themen für Fotokalender auf</source>
+        <translation>lists the themes for photo calendars</translation>
     </message>
 </context>
 <context>
@@ -4306,6 +4493,17 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
+    <name>MvValidateCommand</name>
+    <message>
+        <source>nennt, was an einem Projekt schlecht gedruckt würde</source>
+        <translation>names what of a project would print badly</translation>
+    </message>
+    <message>
+        <source>es fehlt das Projekt: validate DATEI</source>
+        <translation>the project is missing: validate FILE</translation>
+    </message>
+</context>
+<context>
     <name>MvWelcomePanel</name>
     <message>
         <source>Erste Schritte</source>
@@ -4430,11 +4628,11 @@ Designs photo calendars and prints them.
     <name>MvZipWriter</name>
     <message>
         <source>Das ist keine Datei, die sich ersetzen lässt</source>
-        <translation type="unfinished"></translation>
+        <translation>This is no file that can be replaced</translation>
     </message>
     <message>
         <source>%1 lässt sich nicht schreiben: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cannot be written: %2</translation>
     </message>
 </context>
 </TS>

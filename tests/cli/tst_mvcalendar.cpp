@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvTest.h"
+#include "MvProgramTest.h"
 
 #include <QDirIterator>
 #include <QImage>
@@ -7,20 +7,16 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
-#include <QTemporaryDir>
-
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
 /// Runs the program as a person does: what it prints, what it writes, how it ends.
-class tst_mvcalendar : public MvTest
+class tst_mvcalendar : public MvProgramTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void cleanup() { m_folder = std::make_unique<QTemporaryDir>(); }
 
     void refuses_data();
     void refuses();
@@ -49,36 +45,13 @@ private Q_SLOTS:
     void printsTheSameWithOtherFonts();
 
 private:
-    struct Call
-    {
-        int exitCode = -1;
-        QByteArray out;
-        QByteArray err;
-
-        QList<QByteArray> outLines() const { return out.trimmed().split('\n'); }
-    };
-    /// Blanks part the arguments. With at most so many MiB of memory; 0 sets no limit.
-    Call run(const QString &arguments, const QMap<QString, QString> &environment = {}, rlim_t memory = 0) const;
-    QStringList files() const { return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    void write(const QString &path, const QByteArray &content) const;
     QList<QImage> render(const QString &extraArguments = {}) const;
     void forgetUserSchemata() const;
 
     QDir m_userFolder;
-    std::unique_ptr<QTemporaryDir> m_folder; // the program's working directory
 };
 
 namespace {
-
-QByteArray entriesFile(const QByteArray &name, const QByteArray &date)
-{
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<CalendarEvents>\n"
-           "  <CalendarEvent>\n    <Name>" +
-           name + "</Name>\n    <DateTime>" + date +
-           "T00:00:00</DateTime>\n    <Recurrent>true</Recurrent>\n"
-           "    <UUID>{6f1a2a2e-7a53-4f0e-9d55-0d0f6f5b1c01}</UUID>\n  </CalendarEvent>\n</CalendarEvents>\n";
-}
 
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {
@@ -87,44 +60,12 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
     return process.waitForFinished() ? process.readAllStandardOutput() : QByteArray();
 }
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 void tst_mvcalendar::initTestCase()
 {
-    cleanup();
     m_userFolder = QDir(qEnvironmentVariable("MVCALENDAR_DATA"));
     QVERIFY(m_userFolder.mkpath(u"."_s));
-}
-
-tst_mvcalendar::Call tst_mvcalendar::run(const QString &arguments, const QMap<QString, QString> &environment,
-                                         rlim_t memory) const
-{
-    QProcess process;
-    QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-    for (auto it = environment.cbegin(); it != environment.cend(); ++it)
-        variables.insert(it.key(), it.value());
-    process.setProcessEnvironment(variables);
-    process.setWorkingDirectory(m_folder->path());
-    if (memory > 0)
-        process.setChildProcessModifier(
-            [limit = rlimit{memory << 20, memory << 20}] { ::setrlimit(RLIMIT_AS, &limit); });
-    process.start(QStringLiteral(MV_PROGRAM), arguments.split(u' ', Qt::SkipEmptyParts));
-    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, "did not end by itself"};
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-void tst_mvcalendar::write(const QString &path, const QByteArray &content) const
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
 }
 
 void tst_mvcalendar::forgetUserSchemata() const
@@ -191,6 +132,20 @@ void tst_mvcalendar::refuses_data()
     row("folder that is a file", u"render -o /proc/version/a.pdf"_s, 1, {u"/proc/version"_s});
     row("folder that takes nothing", u"render -o /proc/a.pdf"_s, 1, {u"/proc/a.pdf"_s});
     row("entries that are not there", u"render --entries gone.xml -o a.pdf"_s, 1, {u"gone.xml"_s});
+    row("theme that is none", u"new --theme PAPIR -o a.mvcalendar"_s, 2, {u"GALLERY"_s, u"meinten Sie „PAPER“"_s});
+    row("photos that are not there", u"render --photos nowhere -o a.pdf"_s, 1, {u"nowhere"_s});
+    row("theme and layout", u"render --theme PAPER --layout DAY_LIST -o a.pdf"_s, 2, {u"--layout"_s, u"--theme"_s});
+    row("project and photos", u"render --project k.mvcalendar --photos . -o a.pdf"_s, 2, {u"--photos"_s});
+    row("project under another suffix", u"new --photos . -o a.xml"_s, 2, {u"-o"_s, u".mvcalendar"_s});
+    row("new calendar in no folder", u"new -o nowhere/a.mvcalendar"_s, 1, {u"nowhere"_s});
+    row("page that there is not", u"render --year 2027 --pages 2-13 -o a.pdf"_s, 2, {u"„2-13“"_s, u"12"_s});
+    row("cover that there is not", u"render --year 2027 --pages 1,cover -o a.pdf"_s, 2, {u"„cover“"_s});
+    row("binding at no edge", u"render --binding left -o a.pdf"_s, 2, {u"none, top, side"_s});
+    row("nothing to pack", u"pack -o a.zip"_s, 2, {u"pack DATEI"_s});
+    row("nowhere to pack to", u"pack k.mvcalendar"_s, 2, {u"-o"_s});
+    row("one project too many", u"pack a.mvcalendar b.mvcalendar -o c"_s, 2, {u"„b.mvcalendar“"_s});
+    row("no project to check", u"validate fehlt.mvcalendar"_s, 1, {u"fehlt.mvcalendar"_s});
+    row("two forms of a list", u"themes --json --format text"_s, 2, {u"--json"_s, u"--format"_s});
     row("both kinds of entries", u"render --entries a.xml --my-entries -o a.pdf"_s, 2, {u"--my-entries"_s});
 }
 
@@ -265,9 +220,14 @@ void tst_mvcalendar::holidayFormatsAgree()
 
 void tst_mvcalendar::listFormatsAgree()
 {
-    for (const auto &[command, key] :
-         {std::pair(u"layouts"_s, u"id"_s), {u"colors"_s, u"id"_s}, {u"regions"_s, u"country"_s}}) {
+    for (const auto &[command, key] : {std::pair(u"layouts"_s, u"id"_s),
+                                       {u"colors"_s, u"id"_s},
+                                       {u"regions"_s, u"country"_s},
+                                       {u"themes"_s, u"id"_s},
+                                       {u"templates"_s, u"id"_s},
+                                       {u"templates --kind back"_s, u"id"_s}}) {
         const QJsonArray array = QJsonDocument::fromJson(run(command + u" --format json"_s).out).array();
+        QCOMPARE(QJsonDocument::fromJson(run(command + u" --json"_s).out).array(), array);
         const QList<QByteArray> lines = run(command).outLines();
         QVERIFY(array.size() >= 2);
         QCOMPARE(lines.size(), array.size());

@@ -20,7 +20,7 @@ QImage birchWood();        // landscape, autumn
 QImage cityByNight();      // panorama, lights on a river
 QImage northernLights();   // landscape, night
 QImage girlWithHat();      // upright portrait
-QImage grandfather();      // landscape portrait, the face at the left
+QImage grandfather();      // landscape portrait, the face at the right
 QImage catAtWindow();      // square, evening
 
 } // namespace Motifs

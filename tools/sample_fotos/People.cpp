@@ -341,7 +341,7 @@ QImage Motifs::grandfather()
 {
     QRandomGenerator generator(114);
     Canvas canvas(2700, 1800);
-    const QPointF sun(1.3, 0.12);
+    const QPointF sun(0.3, 0.12);
     paintSky(canvas, {{{0.0, Light::of(0x6ea8dc)}, {0.7, Light::of(0xd6e6ee)}, {1.0, Light::of(0xf4e6c8)}},
                       0.55,
                       sun,
@@ -368,7 +368,7 @@ QImage Motifs::grandfather()
                0.25);
     canvas.draw(
         [&](QPainter &painter) {
-            painter.translate(0.52, 0.48);
+            painter.translate(1.0, 0.48);
             painter.scale(0.24, 0.24);
             painter.rotate(2.5);
             drawGrandfather(painter, generator);

@@ -29,7 +29,7 @@ const QList<Picture> &pictures()
         {u"morgennebel"_s, u"2026-03-22T06:41:05"_s, Motifs::morningMist},
         {u"kirschbluete"_s, u"2026-04-19T11:03:44"_s, Motifs::cherryBlossom},
         {u"mohnwiese"_s, u"2026-05-30T13:15:27"_s, Motifs::poppyMeadow},
-        {u"maedchen"_s, u"2026-06-07T15:48:02"_s, Motifs::girlWithHat},
+        {u"maedchen"_s, u"2026-05-24T15:48:02"_s, Motifs::girlWithHat},
         {u"ballone"_s, u"2026-06-21T05:58:19"_s, Motifs::balloons},
         {u"lavendel"_s, u"2026-07-04T20:37:50"_s, Motifs::lavender},
         {u"segeln"_s, u"2026-07-25T12:30:08"_s, Motifs::sailing},

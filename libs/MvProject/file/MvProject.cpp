@@ -6,6 +6,8 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvUndoCommandDocument.h"
 
+#include <QDir>
+
 #include <algorithm>
 
 namespace {
@@ -68,7 +70,13 @@ MvOutcome MvProject::open(const QFileInfo &file)
         return content;
     m_saved = content.document;
     replace(content.document, file, QFileInfo(), stamp);
-    return content;
+    MvOutcome outcome = content;
+    if (const QString entries = content.document.entriesFile(); !entries.isEmpty())
+        outcome.notes.append(
+            tr("Zu diesem Kalender gehört eine Liste von Einträgen: %1. Zum Bearbeiten lässt sie sich zu "
+               "den eigenen Einträgen hinzufügen.")
+                .arg(QDir::toNativeSeparators(entries)));
+    return outcome;
 }
 
 void MvProject::openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered,

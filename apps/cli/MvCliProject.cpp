@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCliProject.h"
+
+#include "MvCliValues.h"
+#include "MvProject/MvProjectFile.h"
+
+#include <QTextStream>
+
+using namespace Qt::StringLiterals;
+
+MvCliProject MvCliProject::read(const MvCliValues &values, QTextStream &hints)
+{
+    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(values.text(u"project"_s)));
+    for (const QString &note : content.notes)
+        hints << note << '\n';
+    MvCliProject project;
+    project.error = content.error;
+    project.document = content.document;
+    return project;
+}

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCore/MvOutcome.h"
+#include "MvProject/MvCalendarDocument.h"
+
+class QTextStream;
+class MvCliValues;
+
+/// The project that a call names.
+struct MvCliProject : MvOutcome
+{
+    MvCalendarDocument document;
+
+    /// Reads the project of "--project"; without one, an error. What could not be taken as it stands gives hints.
+    static MvCliProject read(const MvCliValues &values, QTextStream &hints);
+};

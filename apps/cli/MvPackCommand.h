@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCliCommand.h"
+
+/// "pack": a project with all that it shows, for another computer.
+class MvPackCommand : public MvCliCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(MvPackCommand)
+
+public:
+    QString name() const override { return QStringLiteral("pack"); }
+    QString summary() const override;
+    QList<MvCliOption> options() const override;
+    QStringList examples() const override;
+    Result run(const MvCliArguments &arguments, const Streams &streams) const override;
+};

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCliCommand.h"
+
+/// "validate": what of a project would print badly.
+class MvValidateCommand : public MvCliCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(MvValidateCommand)
+
+public:
+    QString name() const override { return QStringLiteral("validate"); }
+    QString summary() const override;
+    QList<MvCliOption> options() const override;
+    QStringList examples() const override;
+    Result run(const MvCliArguments &arguments, const Streams &streams) const override;
+};

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProgramTest.h"
+
+#include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+/// The program makes photo calendars, checks and packs them.
+class tst_FotoCalendars : public MvProgramTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fotoCalendar();
+    void chosenPages();
+    void validate();
+    void pack();
+
+private:
+    /// Photos in a folder "fotos" with one below, beside what is none.
+    void writeFotos() const;
+    QList<QImage> renderProject(const QString &project, const QMap<QString, QString> &environment = {}) const;
+};
+
+void tst_FotoCalendars::writeFotos() const
+{
+    QVERIFY(QDir(m_folder->path()).mkpath(u"fotos/mehr"_s));
+    int hue = 20;
+    for (const QString &name : {u"fotos/a.jpg"_s, u"fotos/b.png"_s, u"fotos/mehr/a.jpg"_s, u"fotos/übrig.png"_s}) {
+        QImage image(300 + hue, 240, QImage::Format_RGB32);
+        image.fill(QColor::fromHsv(hue, 200, 200));
+        for (int y = 0; y < 120; ++y)
+            image.setPixelColor(10 + y, y, Qt::white);
+        QVERIFY(image.save(path(name)));
+        hue += 80;
+    }
+    write(path(u"fotos/liesmich.txt"_s), "no photo");
+    write(path(u"fotos/kaputt.jpg"_s), contentOf(path(u"fotos/a.jpg"_s)).left(200));
+}
+
+QList<QImage> tst_FotoCalendars::renderProject(const QString &project, const QMap<QString, QString> &environment) const
+{
+    const Call call = run(u"render --dpi 40 -o r-%n.png --project "_s + project, environment);
+    QList<QImage> pages;
+    for (const QByteArray &line : call.outLines())
+        pages.append(QImage(path(QString::fromUtf8(line))));
+    return pages;
+}
+
+/// From a folder to a project and to pages, in two steps or in one.
+void tst_FotoCalendars::fotoCalendar()
+{
+    writeFotos();
+    const QString options = u" --photos fotos --theme papier --from 2027-01 --months 2 --title Huber"_s;
+    const Call made = run(u"new -o k.mvcalendar"_s + options);
+    QCOMPARE(made.out, "k.mvcalendar\n");
+    QVERIFY2(made.exitCode == 0 && made.err.contains("kaputt.jpg"), made.err.constData());
+    const Call pages = run(u"render --project k.mvcalendar --dpi 40 -o p-%m.png --report json"_s);
+    const QJsonObject report = QJsonDocument::fromJson(pages.out).object();
+    QCOMPARE(report.value(u"files"_s).toArray(),
+             (QJsonArray{u"p-cover.png"_s, u"p-01.png"_s, u"p-02.png"_s, u"p-back.png"_s}));
+    QVERIFY(report.value(u"photos"_s).toArray().size() >= 3);
+    for (const QJsonValue &foto : report.value(u"photos"_s).toArray())
+        QVERIFY(foto[u"element"_s].toInt() > 0 && foto[u"ppi"_s].toInt() > 0);
+
+    const Call atOnce = run(u"render --dpi 40 -o d-%m.png"_s + options);
+    QCOMPARE(atOnce.outLines().size(), 4);
+    QSet<QByteArray> looks;
+    for (const QString &name : {u"cover"_s, u"01"_s, u"02"_s, u"back"_s}) {
+        const QImage page(path(u"p-%1.png"_s.arg(name)));
+        QVERIFY(!page.isNull());
+        QCOMPARE(page, QImage(path(u"d-%1.png"_s.arg(name))));
+        looks.insert(QByteArray::fromRawData(reinterpret_cast<const char *>(page.constBits()), page.sizeInBytes()));
+    }
+    QCOMPARE(looks.size(), 4);
+    QCOMPARE(run(u"render --no-cover --no-back -o m-%m.png --dpi 40"_s + options).outLines().size(), 2);
+    QVERIFY(run(u"render --photos fotos/liesmich.txt -o n.pdf"_s).err.contains("keine Fotos"));
+    QVERIFY(!files().contains(u"n.pdf"_s));
+}
+
+void tst_FotoCalendars::chosenPages()
+{
+    const QString render = u"render --theme PAPER --from 2027-03 --months 3 --dpi 40 -o s-%m-%n.png --pages "_s;
+    for (const auto &[list, names] : {std::pair(u"cover"_s, "s-cover-01.png\n"),
+                                      {u"back,2-3"_s, "s-03-02.png\ns-04-03.png\ns-back-05.png\n"},
+                                      {u"months,3"_s, "s-03-02.png\ns-04-03.png\ns-05-04.png\n"}})
+        QCOMPARE(run(render + list).out, QByteArray(names));
+}
+
+/// What is found has its page and an exit code of its own.
+void tst_FotoCalendars::validate()
+{
+    const QByteArray paper = "<calendarproject version='1'><paper width='1480' height='2100'/><page month='2027-02'>"
+                             "<calendarium layoutschema='DAY_LIST' colorschema='NIGHT'/><content language='de_DE'/>";
+    write(path(u"gut.mvcalendar"_s), paper + "</page></calendarproject>");
+    const Call good = run(u"validate gut.mvcalendar --json"_s);
+    QCOMPARE(good.exitCode, 0);
+    QCOMPARE(QJsonDocument::fromJson(good.out).array(), QJsonArray());
+
+    writeFotos();
+    write(path(u"grob.mvcalendar"_s), paper + "<photo path='fotos/a.jpg' placement='top'/></page></calendarproject>");
+    const Call coarse = run(u"validate --project grob.mvcalendar --json"_s);
+    QCOMPARE(coarse.exitCode, 3);
+    const QJsonObject finding = QJsonDocument::fromJson(coarse.out)[0].toObject();
+    QCOMPARE(finding[u"kind"_s].toString(), u"coarse-photo"_s);
+    QCOMPARE(finding[u"severity"_s].toString(), u"strong"_s);
+    QCOMPARE(finding[u"page"_s].toInt(), 1);
+    QVERIFY(finding[u"ppi"_s].toInt() > 30 && finding[u"ppi"_s].toInt() < 100); // 320 pixels on 10 to 15 cm
+    QVERIFY(QFile::remove(path(u"fotos/a.jpg"_s)));
+    const Call missing = run(u"validate grob.mvcalendar"_s);
+    QCOMPARE(missing.exitCode, 3);
+    QVERIFY2(missing.out.startsWith("! ") && missing.out.contains("a.jpg"), missing.out.constData());
+}
+
+/// What is packed is the same calendar where nothing of this computer is.
+void tst_FotoCalendars::pack()
+{
+    writeFotos();
+    write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-01-10").replace("<UUID>", "<Image>fotos/b.png</Image><UUID>"));
+    QCOMPARE(run(u"new --photos fotos --from 2027-01 --months 2 --no-cover --no-back --entries e.xml -o k.mvcalendar"_s)
+                 .exitCode,
+             0);
+    const QList<QImage> pages = renderProject(u"k.mvcalendar"_s);
+    QCOMPARE(pages.size(), 2);
+    for (const QString &target : {u"weg"_s, u"weg.zip"_s}) {
+        const Call packed = run(u"pack k.mvcalendar -o "_s + target);
+        QVERIFY2(packed.exitCode == 0 && packed.err.isEmpty(), packed.err.constData());
+    }
+    const Call again = run(u"pack k.mvcalendar -o weg"_s);
+    QVERIFY2(again.exitCode == 1 && again.err.contains("nicht leer"), again.err.constData());
+    QProcess::execute(u"python3"_s, {u"-m"_s, u"zipfile"_s, u"-e"_s, path(u"weg.zip"_s), path(u"ausgepackt"_s)});
+
+    QVERIFY(QDir(path(u"fotos"_s)).removeRecursively() && QFile::remove(path(u"e.xml"_s)));
+    const QMap<QString, QString> elsewhere{{u"HOME"_s, path(u"heim"_s)}, {u"MVCALENDAR_DATA"_s, path(u"heim/daten"_s)}};
+    for (const QString &folder : {u"weg/"_s, u"ausgepackt/k/"_s}) {
+        const QByteArray project = contentOf(path(folder + u"k.mvcalendar"_s));
+        QVERIFY(!project.isEmpty() && !project.contains(m_folder->path().toUtf8()));
+        QCOMPARE(QDir(path(folder + u"fotos"_s)).entryList(QDir::Files).size(), 2); // what the pages show
+        QCOMPARE(QDir(path(folder + u"eintraege"_s)).entryList(QDir::Files), QStringList{u"b.png"_s});
+        QCOMPARE(renderProject(folder + u"k.mvcalendar"_s, elsewhere), pages);
+    }
+}
+
+MV_TEST_MAIN(tst_FotoCalendars)
+#include "tst_FotoCalendars.moc"
