@@ -4341,7 +4341,7 @@ Designs photo calendars and prints them.
     <name>MvThemeRegistry</name>
     <message>
         <source>Das Thema „%1“ bleibt weg, denn seine Kennung %2 hat schon „%3“. Eine andere bringt es zurück.</source>
-        <translation type="unfinished">The theme “%1” is left out, since “%3” has its id %2 already. Another one brings it back.</translation>
+        <translation>The theme “%1” is left out, since its id %2 is that of “%3” already. Another one brings it back.</translation>
     </message>
 </context>
 <context>
