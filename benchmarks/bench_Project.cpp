@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What keeps the GUI thread of a program that exports and saves by itself: recording a page of each shipped layout, for
-// the first time and again, and writing projects of a year and of ten years into memory.
+// the first time and again, and writing projects of a year and of ten years into memory. And what the writer of PDF
+// gains over the paint system's own, which writes every outline out.
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvPaint/MvTextOutlineCache.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvProjectFile.h"
 
 #include <QGuiApplication>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
@@ -55,6 +61,38 @@ void writeProject(benchmark::State &state)
         benchmark::DoNotOptimize(MvProjectFile::toBytes(document, QDir(u"/"_s)));
 }
 BENCHMARK(writeProject)->Arg(12)->Arg(120)->Unit(benchmark::kMillisecond);
+
+void writePdf(benchmark::State &state)
+{
+    const MvCalendarDocument document = makeDocument(MvCalendariumLayoutSchemaID(u"MONTH_GRID_CLASSIC"_s), 12);
+    const QTemporaryDir folder;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(
+            MvPdfExporter::write(document.pageSource(), QFileInfo(folder.filePath(u"k.pdf"_s))).isOk());
+}
+BENCHMARK(writePdf)->Unit(benchmark::kMillisecond);
+
+void writePdfInFull(benchmark::State &state)
+{
+    constexpr int unitsPerInch = 7200;
+    const MvCalendarDocument document = makeDocument(MvCalendariumLayoutSchemaID(u"MONTH_GRID_CLASSIC"_s), 12);
+    const QTemporaryDir folder;
+    for (auto _ : state) {
+        QPdfWriter writer(folder.filePath(u"k.pdf"_s));
+        writer.setResolution(unitsPerInch);
+        writer.setPageSize(QPageSize(document.format().trimSize() / 10.0, QPageSize::Millimeter));
+        QPainter painter(&writer);
+        painter.scale(unitsPerInch / 254.0, unitsPerInch / 254.0);
+        for (qsizetype page = 0; page < document.pages().size(); ++page) {
+            if (page > 0)
+                writer.newPage();
+            document.pages()[page]
+                .record(document.format(), document.range(), {}, MvRenderingRule(MvRenderingRule::Print), 300.0 / 254.0)
+                .replay(painter);
+        }
+    }
+}
+BENCHMARK(writePdfInFull)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

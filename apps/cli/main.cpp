@@ -9,6 +9,9 @@
 #include <QGuiApplication>
 
 #include <cstdio>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
@@ -27,9 +30,15 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     std::fprintf(stderr, "mvcalendar: %s\n", message.simplified().toLocal8Bit().constData());
 }
 
-/// Bytes of photos that are kept: pages are painted once, and a photo of all pages is always the one used last. Two
-/// fill pages of A4, one a page of A3.
-constexpr qint64 imageMemory = 80 << 20;
+/// Pages are painted once each, so little is kept of their photos: what fills a page of A4, which may be on all pages.
+/// And large pieces of memory are given back at once, where the system would keep places for the next ones.
+void keepMemoryLow()
+{
+    MvImageLoader::instance().setCacheLimit(48 << 20);
+#ifdef __GLIBC__
+    mallopt(M_MMAP_THRESHOLD, 1 << 20);
+#endif
+}
 
 } // namespace
 
@@ -45,7 +54,7 @@ int main(int argc, char **argv)
     MvTranslations::install(MvTranslations::systemLanguage());
     MvOutOfMemory::install(QCoreApplication::applicationName(), MvCliCommand::Failed);
     MvImageLoader::raiseProcessLimit();
-    MvImageLoader::instance().setCacheLimit(imageMemory);
+    keepMemoryLow();
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
 
     QFile standardOutput;
