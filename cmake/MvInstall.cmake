@@ -54,6 +54,8 @@ install(FILES ${PROJECT_SOURCE_DIR}/docs/man/mvcalendar.1 DESTINATION ${CMAKE_IN
 if(NOT TARGET mvcalendar-studio)
     return()
 endif()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/guide
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/mvcalendar COMPONENT studio)
 install(TARGETS mvcalendar-studio RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT studio)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/man/mvcalendar-studio.1
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT studio)
