@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "flows/MvMissingFotos.h"
 
+#include "MvProject/MvFotoRelocation.h"
 #include "MvProject/MvProject.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileDialog>
 #include <QPushButton>
 #include <QWidget>
@@ -16,17 +16,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostLines = 8;
-
-/// How many folders from the file upwards have the same names; half a point less when letters differ in their case.
-double likeness(const QString &missing, const QString &found)
-{
-    const QStringList a = missing.split(u'/');
-    const QStringList b = found.split(u'/');
-    double points = a.last() == b.last() ? 0.5 : 0.0;
-    for (qsizetype i = 2; i <= a.size() && i <= b.size() && a[a.size() - i] == b[b.size() - i]; ++i)
-        points += 1.0;
-    return points;
-}
 
 } // namespace
 
@@ -43,25 +32,6 @@ MvMissingFotos::~MvMissingFotos()
 {
     *m_isGivenUp = true;
     m_pool.waitForDone();
-}
-
-QHash<QString, QString> MvMissingFotos::find(const QStringList &missing, const QString &folder,
-                                             const std::atomic_bool &isGivenUp)
-{
-    QMultiHash<QString, QString> byName;
-    for (const QString &path : missing)
-        byName.insert(QFileInfo(path).fileName().toCaseFolded(), path);
-    QHash<QString, QString> found;
-    QDirIterator files(folder, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext() && !isGivenUp) {
-        const QString file = files.next();
-        for (const QString &path : byName.values(files.fileName().toCaseFolded())) {
-            const auto known = found.constFind(path);
-            if (known == found.constEnd() || likeness(path, file) > likeness(path, *known))
-                found.insert(path, file);
-        }
-    }
-    return found;
 }
 
 void MvMissingFotos::look()
@@ -111,9 +81,10 @@ void MvMissingFotos::search()
 void MvMissingFotos::searchIn(const QString &folder)
 {
     Q_EMIT message(tr("Die Fotos werden gesucht …"));
-    const QStringList missing = m_project->document().missingFotos();
-    m_pool.start([this, missing, folder, isGivenUp = m_isGivenUp] {
-        const QHash<QString, QString> found = find(missing, folder, *isGivenUp);
+    m_pool.start([this, document = m_project->document(), folder, isGivenUp = m_isGivenUp] {
+        const QStringList missing = MvFotoRelocation::missing(document);
+        const QHash<QString, QString> found =
+            MvFotoRelocation::find(missing, document.fotoPool(), folder, [&isGivenUp] { return !*isGivenUp; });
         if (!*isGivenUp) // the destructor waits for this task, so that the object is still there
             QMetaObject::invokeMethod(this, [this, found, count = int(missing.size())] { take(found, count); });
     });
@@ -122,19 +93,8 @@ void MvMissingFotos::searchIn(const QString &folder)
 /// All pages in one step. Pages that have got another photo meanwhile keep it.
 void MvMissingFotos::take(const QHash<QString, QString> &found, int missing)
 {
-    MvCalendarDocument document = m_project->document();
-    for (int number = 0; number < document.pages().size(); ++number) {
-        MvCalendarPage page = document.pages().at(number);
-        MvFotoFrame frame = page.fotoFrame();
-        const QString path = found.value(frame.path());
-        if (path.isEmpty())
-            continue;
-        frame.setPath(path);
-        page.setFotoFrame(frame);
-        document.setPage(number, page);
-    }
     if (!found.isEmpty())
-        m_project->change(document, tr("Fotos wiederfinden"));
+        m_project->change(MvFotoRelocation::relocated(m_project->document(), found), tr("Fotos wiederfinden"));
     if (found.size() == missing)
         Q_EMIT message(tr("%n Fotos gefunden", nullptr, missing));
     else

@@ -14,7 +14,7 @@ class MvProject;
 class QWidget;
 
 /// Photos of an opened project that are not where it says: tells them once, and finds them again in a folder that the
-/// person shows, all at once, by their names.
+/// person shows, all at once (MvFotoRelocation).
 class MvMissingFotos : public QObject
 {
     Q_OBJECT
@@ -24,11 +24,6 @@ public:
     MvMissingFotos(MvProject *project, QWidget *window);
     /// Waits until a search has noticed that nobody wants it any more.
     ~MvMissingFotos() override;
-
-    /// The files of these names below the folder, by the path that is missing. Of files of one name the one whose
-    /// folders are most like the missing one's; a name in other letters, large or small, is better than none.
-    static QHash<QString, QString> find(const QStringList &missing, const QString &folder,
-                                        const std::atomic_bool &isGivenUp);
 
 public Q_SLOTS:
     /// Tells of what is missing; nothing happens when nothing is.
