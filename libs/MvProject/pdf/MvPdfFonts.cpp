@@ -20,6 +20,13 @@ quint64 keyOf(const MvTextOutline::Glyph &glyph)
     return quint64(glyph.face) << 32 | glyph.index;
 }
 
+/// Its outline in units of the em, upwards.
+QPainterPath inUnits(const MvTextOutline::Glyph &glyph)
+{
+    const double scale = glyph.unitsPerEm / glyph.em;
+    return QTransform::fromScale(scale, -scale).map(glyph.path);
+}
+
 /// The name that readers know: "A", "uni00C4".
 QByteArray nameOf(QStringView characters)
 {
@@ -44,10 +51,12 @@ QList<int> sortedCodes(const auto &codes)
 
 MvPdfFonts::Place MvPdfFonts::place(const MvTextOutline::Glyph &glyph, QStringView characters)
 {
-    QList<Known> &known = m_known[keyOf(glyph)];
-    for (const Known &one : std::as_const(known)) {
-        if (one.characters == characters)
-            return one.place;
+    Shape &shape = m_shapes[keyOf(glyph)];
+    if (glyph.em > shape.glyph.em)
+        shape.glyph = glyph;
+    for (const Use &use : std::as_const(shape.uses)) {
+        if (use.characters == characters)
+            return use.place;
     }
     Font &font = fontFor(glyph);
     const uchar number = freeCode(font, characters);
@@ -56,16 +65,11 @@ MvPdfFonts::Place MvPdfFonts::place(const MvTextOutline::Glyph &glyph, QStringVi
     code.name = nameOf(characters);
     if (const int again = font.names[code.name]++; again > 0)
         code.name += '.' + QByteArray::number(again);
+    code.glyph = keyOf(glyph);
     code.width = int(std::lround(glyph.advance / glyph.em * glyph.unitsPerEm));
-    int &shape = m_shapes[keyOf(glyph)];
-    if (shape == 0)
-        shape = addShape(glyph, code.width);
-    code.shape = shape;
     font.codes.insert(number, code);
-    const double scale = glyph.unitsPerEm / glyph.em;
-    font.bounds |= QTransform::fromScale(scale, -scale).mapRect(glyph.path.controlPointRect());
     const Place place{font.object, number, double(code.width) / glyph.unitsPerEm};
-    known.append({code.characters, place});
+    shape.uses.append({code.characters, place});
     return place;
 }
 
@@ -97,15 +101,27 @@ uchar MvPdfFonts::freeCode(const Font &font, QStringView characters) const
     return uchar(code);
 }
 
-int MvPdfFonts::addShape(const MvTextOutline::Glyph &glyph, int width)
+int MvPdfFonts::shapeOf(const Code &code)
 {
-    const double scale = glyph.unitsPerEm / glyph.em;
-    MvPdfContent content;
-    content.addPath(QTransform::fromScale(scale, -scale).map(glyph.path), MvPdfContent::Subpaths::AsTheyAre);
-    QByteArray bytes = QByteArray::number(width) + " 0 d0\n" + content.bytes();
-    if (!glyph.path.isEmpty())
-        bytes += "f";
-    return m_file.addStream({}, bytes);
+    Shape &shape = m_shapes[code.glyph];
+    if (shape.object == 0) {
+        MvPdfContent content;
+        content.addPath(inUnits(shape.glyph), MvPdfContent::Subpaths::AsTheyAre);
+        shape.object = m_file.addStream({}, QByteArray::number(code.width) + " 0 d0\n" + content.bytes() +
+                                                (shape.glyph.path.isEmpty() ? "" : "f"));
+    }
+    return shape.object;
+}
+
+QByteArray MvPdfFonts::boundsOf(const Font &font) const
+{
+    QRectF bounds;
+    for (const Code &code : font.codes)
+        bounds |= inUnits(m_shapes.value(code.glyph).glyph).controlPointRect();
+    QByteArray numbers;
+    MvPdfSyntax::append(numbers, QPointF(std::floor(bounds.left()), std::floor(bounds.top())));
+    MvPdfSyntax::append(numbers, QPointF(std::ceil(bounds.right()), std::ceil(bounds.bottom())));
+    return numbers;
 }
 
 void MvPdfFonts::finish()
@@ -124,7 +140,7 @@ void MvPdfFonts::write(const Font &font)
     int expected = -1;
     for (const int number : codes) {
         const Code code = font.codes.value(number);
-        shapes += '/' + code.name + ' ' + MvPdfSyntax::reference(code.shape);
+        shapes += '/' + code.name + ' ' + MvPdfSyntax::reference(shapeOf(code));
         if (number != expected)
             names += ' ' + QByteArray::number(number);
         names += '/' + code.name;
@@ -132,14 +148,12 @@ void MvPdfFonts::write(const Font &font)
     }
     for (int number = codes.first(); number <= codes.last(); ++number)
         widths += QByteArray::number(font.codes.value(number).width) + ' ';
-    QByteArray bounds;
-    MvPdfSyntax::append(bounds, QPointF(std::floor(font.bounds.left()), std::floor(font.bounds.top())));
-    MvPdfSyntax::append(bounds, QPointF(std::ceil(font.bounds.right()), std::ceil(font.bounds.bottom())));
     const QByteArray scale = MvPdfSyntax::number(1.0 / font.unitsPerEm, 10);
-    m_file.set(font.object, "<</Type/Font/Subtype/Type3/FontBBox[" + bounds + "]/FontMatrix[" + scale + " 0 0 " +
-                                scale + " 0 0]/CharProcs<<" + shapes + ">>/Encoding<</Type/Encoding/Differences[" +
-                                names + "]>>/FirstChar " + QByteArray::number(codes.first()) + "/LastChar " +
-                                QByteArray::number(codes.last()) + "/Widths[" + widths + "]/Resources<<>>/ToUnicode " +
+    m_file.set(font.object, "<</Type/Font/Subtype/Type3/FontBBox[" + boundsOf(font) + "]/FontMatrix[" + scale +
+                                " 0 0 " + scale + " 0 0]/CharProcs<<" + shapes +
+                                ">>/Encoding<</Type/Encoding/Differences[" + names + "]>>/FirstChar " +
+                                QByteArray::number(codes.first()) + "/LastChar " + QByteArray::number(codes.last()) +
+                                "/Widths[" + widths + "]/Resources<<>>/ToUnicode " +
                                 MvPdfSyntax::reference(addCharacterMap(font)) + ">>");
 }
 

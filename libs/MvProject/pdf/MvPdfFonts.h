@@ -42,8 +42,8 @@ private:
     {
         QByteArray name;
         QString characters;
-        int shape = 0; // object of its procedure
-        int width = 0; // in units of the em
+        quint64 glyph = 0; // by face and index
+        int width = 0;     // in units of the em
     };
     struct Font
     {
@@ -52,22 +52,27 @@ private:
         int unitsPerEm = 0;
         QHash<int, Code> codes;
         QHash<QByteArray, int> names; // how often a name was wanted
-        QRectF bounds;
     };
-    struct Known
+    struct Use
     {
         QString characters;
         Place place;
     };
+    struct Shape
+    {
+        MvTextOutline::Glyph glyph; // in its largest size, where the outline is most exact
+        QList<Use> uses;
+        int object = 0; // of its procedure, once written
+    };
 
     Font &fontFor(const MvTextOutline::Glyph &glyph);
     uchar freeCode(const Font &font, QStringView characters) const;
-    int addShape(const MvTextOutline::Glyph &glyph, int width);
+    int shapeOf(const Code &code);
     void write(const Font &font);
+    QByteArray boundsOf(const Font &font) const;
     int addCharacterMap(const Font &font);
 
     MvPdfFile &m_file;
     QList<Font> m_fonts;
-    QHash<quint64, QList<Known>> m_known; // by face and index
-    QHash<quint64, int> m_shapes;
+    QHash<quint64, Shape> m_shapes; // by face and index
 };
