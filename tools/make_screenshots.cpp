@@ -20,19 +20,21 @@
 #include "flows/MvRecoveryDialog.h"
 #include "MvStudioApplication.h"
 #include "common/MvStudioSettings.h"
+#include "MvProject/MvThemeApplication.h"
+#include "MvProject/MvThemeRegistry.h"
+#include "pages/MvPageSelection.h"
+#include "panels/MvInspector.h"
 #include "window/MvStudioWindow.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QDir>
-#include <QDockWidget>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
 #include <QToolButton>
@@ -73,7 +75,7 @@ private:
     }
     QString sample(const QString &name) const { return m_samples.absoluteFilePath(name); }
     void trigger(const char *action) { find<QAction>(action)->trigger(); }
-    void raiseDock(const char *name, int tab = -1);
+    void openPanel(const char *name) { window()->inspector()->open(QLatin1StringView(name)); }
     void popUp(QMenu *menu);
     QPoint pointOf(const QDate &date) const;
     void edit(const std::function<void(MvCalendarDocument &)> &change);
@@ -87,18 +89,28 @@ private:
     void fotoSelected();
     void fotoLeft() { setPageFoto(MvFotoFrame::Placement::Left); }
     void portrait();
-    void content() { raiseDock("contentPanelDock"); }
-    void layouts() { raiseDock("layoutPanelDock", 0); }
-    void colors() { raiseDock("layoutPanelDock", 1); }
+    void themes() { openPanel("themePanel"); }
+    void templates();
+    void emptyFrames() { useTheme(false); }
+    void album() { useTheme(true); }
+    void fotoPanel();
+    void textPanel();
+    void dayPanel() { canvas()->selection()->selectDay(project()->document().pageDates().at(4).addDays(11)); }
+    void marks();
+    void useTheme(bool hasFotos);
+    void select(MvPageElement::Kind kind);
+    void content() { openPanel("contentPanel"); }
+    void layouts() { openPanel("layoutPanel"); }
+    void colors() { openPanel("colorPanel"); }
     void colorsDown();
     void colorPalette();
     void colorWarning();
     void colorsMenu();
     void colorsName();
-    void fonts() { raiseDock("fontPanelDock"); }
+    void fonts() { openPanel("fontPanel"); }
     void columns();
-    void columnsEmpty() { raiseDock("columnHeadersPanelDock"); }
-    void entries() { raiseDock("entriesPanelDock"); }
+    void columnsEmpty() { openPanel("columnHeadersPanel"); }
+    void entries() { openPanel("entriesPanel"); }
     void entriesEmpty();
     void entriesHover();
     void entriesMenu();
@@ -159,6 +171,14 @@ QList<Screenshots::State> Screenshots::states()
         {"photo-left", &S::fotoLeft, longSettling},
         {"portrait", &S::portrait, longSettling},
         {"year", &S::year, longSettling},
+        {"empty-frames", &S::emptyFrames, longSettling},
+        {"album", &S::album, longSettling},
+        {"photo-panel", &S::fotoPanel, longSettling},
+        {"text-panel", &S::textPanel, longSettling},
+        {"day-panel", &S::dayPanel, settling},
+        {"print-marks", &S::marks, longSettling},
+        {"themes", &S::themes, longSettling},
+        {"templates", &S::templates, longSettling},
         {"content", &S::content, settling},
         {"layouts", &S::layouts, longSettling},
         {"colors", &S::colors, settling},
@@ -237,13 +257,15 @@ void Screenshots::reset()
     registry.userFile().dismissReadProblem();
     setEntries(u"eintraege.xml"_s);
     MvUserColorSchemata::reset();
+    if (find<QAction>("printMarks")->isChecked())
+        trigger("printMarks");
     MvCalendarDocument document = MvProjectFlow::firstDocument();
     MvCalendariumHolidayConfig holidays = document.holidayConfig();
     holidays.setProvince(u"BY"_s);
     document.setHolidayConfig(holidays);
     project()->newProject(document);
     window()->setCurrentPage(4);
-    raiseDock("contentPanelDock");
+    openPanel("contentPanel");
     canvas()->zoomToFit();
     canvas()->setFocus();
     window()->activateWindow();
@@ -261,15 +283,6 @@ void Screenshots::edit(const std::function<void(MvCalendarDocument &)> &change)
     MvCalendarDocument document = project()->document();
     change(document);
     project()->change(document, u"…"_s);
-}
-
-void Screenshots::raiseDock(const char *name, int tab)
-{
-    auto *dock = find<QDockWidget>(name);
-    dock->show();
-    dock->raise();
-    if (tab >= 0)
-        find<QTabWidget>("layoutTabs")->setCurrentIndex(tab);
 }
 
 void Screenshots::popUp(QMenu *menu)
@@ -308,6 +321,71 @@ void Screenshots::welcome()
 {
     trigger("showWelcome");
     window()->setCurrentPage(0);
+}
+
+void Screenshots::useTheme(bool hasFotos)
+{
+    edit([&](MvCalendarDocument &document) {
+        const MvThemeRegistry &themes = MvThemeRegistry::instance();
+        const MvCalendarTheme album = themes.findTheme(u"ALBUM"_s);
+        document = MvThemeApplication::applied(document, album.isValid() ? album : themes.defaultTheme());
+        if (!hasFotos)
+            return;
+        MvFotoPool pool;
+        const QStringList files = m_samples.entryList({u"*.jpg"_s, u"photos/*.jpg"_s}, QDir::Files);
+        int number = 0;
+        for (const MvCalendarDocument::FrameId &frame : document.frames()) {
+            const QString path = sample(files.at(number++ % files.size()));
+            pool.add({path, {}, {}, {0.5, 0.5}});
+            MvFotoElement foto(path);
+            foto.setCaption(u"Ein Sommertag am See"_s);
+            if (number % 7 != 0)
+                document.setFoto(frame, document.foto(frame).withPictureOf(foto));
+        }
+        document.setFotoPool(pool);
+    });
+    window()->setCurrentPage(4);
+}
+
+void Screenshots::select(MvPageElement::Kind kind)
+{
+    const QList<MvPageElement> elements = canvas()->pageItem()->elements();
+    for (int number = 0; number < elements.size(); ++number)
+        if (elements.at(number).kind() == kind)
+            canvas()->selection()->selectElement(number);
+}
+
+void Screenshots::fotoPanel()
+{
+    album();
+    QTest::qWait(settling);
+    select(MvPageElement::Kind::Foto);
+}
+
+void Screenshots::textPanel()
+{
+    album();
+    QTest::qWait(settling);
+    select(MvPageElement::Kind::Text);
+}
+
+void Screenshots::templates()
+{
+    album();
+    openPanel("templatePanel");
+}
+
+void Screenshots::marks()
+{
+    album();
+    edit([](MvCalendarDocument &document) {
+        MvPageFormat format = document.format();
+        format.setBleed(MvPageFormat::printShopBleed);
+        format.setBinding(MvPageFormat::Binding::Top);
+        document.setFormat(format);
+    });
+    if (!find<QAction>("printMarks")->isChecked())
+        trigger("printMarks");
 }
 
 void Screenshots::fotoSelected()
@@ -517,7 +595,7 @@ void Screenshots::entriesReplace()
 
 void Screenshots::entriesClear()
 {
-    raiseDock("entriesPanelDock");
+    openPanel("entriesPanel");
     find<MvCalendarEventListWidget>(nullptr)->clearEventList();
 }
 

@@ -97,6 +97,23 @@
     </message>
 </context>
 <context>
+    <name>MvFotoFlow</name>
+    <message numerus="yes">
+        <source>%n Fotos verteilt.</source>
+        <translation>
+            <numerusform>%n Foto verteilt.</numerusform>
+            <numerusform>%n Fotos verteilt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos hinzugefügt.</source>
+        <translation>
+            <numerusform>%n Foto hinzugefügt.</numerusform>
+            <numerusform>%n Fotos hinzugefügt.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvFotoPoolIntake</name>
     <message numerus="yes">
         <source>… und %n weitere</source>
@@ -117,6 +134,33 @@
         <translation>
             <numerusform>%n Foto war schon da.</numerusform>
             <numerusform>%n Fotos waren schon da.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvFotoTray</name>
+    <message numerus="yes">
+        <source>%1 von %n Fotos auf den Seiten</source>
+        <translation>
+            <numerusform>%1 von %n Foto auf den Seiten</numerusform>
+            <numerusform>%1 von %n Fotos auf den Seiten</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos sind auf Seiten und bleiben.</source>
+        <translation>
+            <numerusform>%n Foto ist auf einer Seite und bleibt.</numerusform>
+            <numerusform>%n Fotos sind auf Seiten und bleiben.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvFotoTrayModel</name>
+    <message numerus="yes">
+        <source>%1, %n-mal auf den Seiten</source>
+        <translation>
+            <numerusform>%1, einmal auf den Seiten</numerusform>
+            <numerusform>%1, %n-mal auf den Seiten</numerusform>
         </translation>
     </message>
 </context>
@@ -196,6 +240,16 @@
         <translation>
             <numerusform>%n Foto liegt nicht in diesem Ordner. Über Datei &gt; Fehlende Fotos suchen können Sie einen anderen zeigen.</numerusform>
             <numerusform>%n Fotos liegen nicht in diesem Ordner. Über Datei &gt; Fehlende Fotos suchen können Sie einen anderen zeigen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvPrintCheckDialog</name>
+    <message numerus="yes">
+        <source>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</source>
+        <translation>
+            <numerusform>%n Stelle; ein Dreieck steht vor denen, die jeder sieht.</numerusform>
+            <numerusform>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</numerusform>
         </translation>
     </message>
 </context>

@@ -1048,6 +1048,17 @@
     </message>
 </context>
 <context>
+    <name>MvColorPanel</name>
+    <message>
+        <source>Farbschema ändern</source>
+        <translation>Change color scheme</translation>
+    </message>
+    <message>
+        <source>Farben ändern</source>
+        <translation>Change colors</translation>
+    </message>
+</context>
+<context>
     <name>MvColorSchemaPicker</name>
     <message>
         <source>Farbschemata</source>
@@ -1245,10 +1256,6 @@
         <translation>&amp;Calendar weeks</translation>
     </message>
     <message>
-        <source>Nur &amp;gesetzliche Feiertage</source>
-        <translation>Only p&amp;ublic holidays</translation>
-    </message>
-    <message>
         <source>Fe&amp;rien an jedem Tag nennen</source>
         <translation>Name &amp;school holidays on each day</translation>
     </message>
@@ -1288,6 +1295,10 @@
         <source>Schulferien hat jede Region für sich: Sie erscheinen, sobald eine gewählt ist.</source>
         <translation>Each region has school vacations of its own: they appear as soon as one is chosen.</translation>
     </message>
+    <message>
+        <source>Nur ges&amp;etzliche Feiertage</source>
+        <translation>Only p&amp;ublic holidays</translation>
+    </message>
 </context>
 <context>
     <name>MvDayMenu</name>
@@ -1302,6 +1313,25 @@
     <message>
         <source>Neuen Eintrag am %1 erstellen…</source>
         <translation>Create new entry on %1…</translation>
+    </message>
+</context>
+<context>
+    <name>MvDayPanel</name>
+    <message>
+        <source>Ändern …</source>
+        <translation>Change …</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Einträge des Tages</source>
+        <translation>Entries of the day</translation>
+    </message>
+    <message>
+        <source>Neuer Eintrag …</source>
+        <translation>New entry …</translation>
     </message>
 </context>
 <context>
@@ -1343,6 +1373,13 @@
             <numerusform>… and %n more photo.</numerusform>
             <numerusform>… and %n more photos.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>MvDraggedFotos</name>
+    <message>
+        <source>Fotos (%1)</source>
+        <translation>Photos (%1)</translation>
     </message>
 </context>
 <context>
@@ -1577,14 +1614,6 @@
         <translation>The calendar has no pages to export.</translation>
     </message>
     <message>
-        <source>Diese Fotos sind nicht da oder lassen sich nicht lesen:</source>
-        <translation>These photos are missing or cannot be read:</translation>
-    </message>
-    <message>
-        <source>Ihre Plätze bleiben leer. Legen Sie die Dateien zurück, oder wählen Sie auf den Seiten andere Fotos.</source>
-        <translation>Their places stay empty. Put the files back, or choose other photos on the pages.</translation>
-    </message>
-    <message>
         <source>Trotzdem exportieren</source>
         <translation>Export anyway</translation>
     </message>
@@ -1637,6 +1666,14 @@
     <message>
         <source>Sehen Sie vor dem Druck nach:</source>
         <translation>Have a look before printing:</translation>
+    </message>
+    <message>
+        <source>Das würde nicht gut gedruckt:</source>
+        <translation>This would not print well:</translation>
+    </message>
+    <message>
+        <source>Plätze ohne Foto bleiben leer. Die ganze Liste steht unter Datei &gt; Vor dem Druck prüfen.</source>
+        <translation>Places without a photo stay empty. The whole list is at File &gt; Check before printing.</translation>
     </message>
 </context>
 <context>
@@ -1762,6 +1799,37 @@
     </message>
 </context>
 <context>
+    <name>MvFotoBar</name>
+    <message>
+        <source>Zoom des Fotos</source>
+        <translation>Zoom of the photo</translation>
+    </message>
+    <message>
+        <source>Wie nah man dem Foto kommt; auch mit Strg und dem Mausrad</source>
+        <translation>How close the photo comes; also with Ctrl and the mouse wheel</translation>
+    </message>
+    <message>
+        <source>Im Uhrzeigersinn drehen</source>
+        <translation>Turn clockwise</translation>
+    </message>
+    <message>
+        <source>Das ganze Foto zeigen, statt den Rahmen zu füllen</source>
+        <translation>Show the whole photo instead of filling the frame</translation>
+    </message>
+    <message>
+        <source>Foto vergrößern</source>
+        <translation>Zoom photo</translation>
+    </message>
+    <message>
+        <source>Foto drehen</source>
+        <translation>Turn photo</translation>
+    </message>
+    <message>
+        <source>Foto einpassen</source>
+        <translation>Fit photo</translation>
+    </message>
+</context>
+<context>
     <name>MvFotoCalendar</name>
     <message>
         <source>--theme „%1“: erlaubt sind %2</source>
@@ -1843,6 +1911,63 @@
     </message>
 </context>
 <context>
+    <name>MvFotoFlow</name>
+    <message>
+        <source>Ordner mit Fotos wählen</source>
+        <translation>Choose a folder of photos</translation>
+    </message>
+    <message>
+        <source>Fotos wählen</source>
+        <translation>Choose photos</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>All files (*)</translation>
+    </message>
+    <message>
+        <source>Fotos hinzufügen</source>
+        <translation>Add photos</translation>
+    </message>
+    <message>
+        <source>Fotos einfügen</source>
+        <translation>Insert photos</translation>
+    </message>
+    <message>
+        <source>Fotos verteilen</source>
+        <translation>Distribute photos</translation>
+    </message>
+    <message>
+        <source>Es ist alles verteilt: Kein Rahmen ist leer, oder kein Foto ist mehr frei.</source>
+        <translation>Everything is distributed: no frame is empty, or no photo is left.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos verteilt.</source>
+        <translation>
+            <numerusform>%n photo distributed.</numerusform>
+            <numerusform>%n photos distributed.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Es werden schon Fotos gelesen. Warten Sie einen Augenblick.</source>
+        <translation>Photos are being read already. Wait a moment.</translation>
+    </message>
+    <message>
+        <source>Diese Fotos liegen schon bereit.</source>
+        <translation>These photos are at hand already.</translation>
+    </message>
+    <message>
+        <source>Darin ist kein Foto, das sich lesen lässt.</source>
+        <translation>There is no photo in it that can be read.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos hinzugefügt.</source>
+        <translation>
+            <numerusform>%n photo added.</numerusform>
+            <numerusform>%n photos added.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvFotoHandle</name>
     <message>
         <source>Größe des Fotos ändern</source>
@@ -1852,12 +1977,174 @@
         <source>Ausschnitt des Fotos verschieben</source>
         <translation>Move the crop of the photo</translation>
     </message>
+    <message>
+        <source>Fotos tauschen</source>
+        <translation>Swap photos</translation>
+    </message>
+    <message>
+        <source>Größe des Rahmens ändern</source>
+        <translation>Resize frame</translation>
+    </message>
+    <message>
+        <source>Rahmen verschieben</source>
+        <translation>Move frame</translation>
+    </message>
+    <message>
+        <source>Foto vergrößern</source>
+        <translation>Zoom photo</translation>
+    </message>
+</context>
+<context>
+    <name>MvFotoInvitation</name>
+    <message>
+        <source>Foto hierher ziehen oder klicken</source>
+        <translation>Drag a photo here or click</translation>
+    </message>
 </context>
 <context>
     <name>MvFotoPainter</name>
     <message>
         <source>Foto fehlt</source>
         <translation>Photo missing</translation>
+    </message>
+</context>
+<context>
+    <name>MvFotoPanel</name>
+    <message>
+        <source>Foto wählen …</source>
+        <translation>Choose photo …</translation>
+    </message>
+    <message>
+        <source>Entfernen</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Foto entfernen</source>
+        <translation>Remove photo</translation>
+    </message>
+    <message>
+        <source>steht dort, wo die Vorlage Platz hat</source>
+        <translation>stands where the template has room</translation>
+    </message>
+    <message>
+        <source>Bildunterschrift ändern</source>
+        <translation>Change caption</translation>
+    </message>
+    <message>
+        <source>Unterschrift:</source>
+        <translation>Caption:</translation>
+    </message>
+    <message>
+        <source>Füllt den Rahmen</source>
+        <translation>Fills the frame</translation>
+    </message>
+    <message>
+        <source>Ganz zu sehen</source>
+        <translation>Seen whole</translation>
+    </message>
+    <message>
+        <source>Foto einpassen</source>
+        <translation>Fit photo</translation>
+    </message>
+    <message>
+        <source>Foto vergrößern</source>
+        <translation>Zoom photo</translation>
+    </message>
+    <message>
+        <source>°</source>
+        <translation>°</translation>
+    </message>
+    <message>
+        <source>Foto ausrichten</source>
+        <translation>Straighten photo</translation>
+    </message>
+    <message>
+        <source>Foto drehen</source>
+        <translation>Turn photo</translation>
+    </message>
+    <message>
+        <source>Gegen den Uhrzeigersinn drehen</source>
+        <translation>Turn counterclockwise</translation>
+    </message>
+    <message>
+        <source>Im Uhrzeigersinn drehen</source>
+        <translation>Turn clockwise</translation>
+    </message>
+    <message>
+        <source>Ausschnitt:</source>
+        <translation>Crop:</translation>
+    </message>
+    <message>
+        <source>Zoom:</source>
+        <translation>Zoom:</translation>
+    </message>
+    <message>
+        <source>Drehen:</source>
+        <translation>Turn:</translation>
+    </message>
+    <message>
+        <source>Ausrichten um Grad</source>
+        <translation>Straighten by degrees</translation>
+    </message>
+    <message>
+        <source>Zoom des Fotos</source>
+        <translation>Zoom of the photo</translation>
+    </message>
+    <message>
+        <source>Oben</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source> % der Seite</source>
+        <translation> % of the page</translation>
+    </message>
+    <message>
+        <source>Platz:</source>
+        <translation>Place:</translation>
+    </message>
+    <message>
+        <source>Größe:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Rand des Fotos ändern</source>
+        <translation>Change border of the photo</translation>
+    </message>
+    <message>
+        <source>Farbe des Randes</source>
+        <translation>Color of the border</translation>
+    </message>
+    <message>
+        <source>Rand:</source>
+        <translation>Border:</translation>
+    </message>
+    <message>
+        <source>Breite des Randes</source>
+        <translation>Width of the border</translation>
+    </message>
+    <message>
+        <source>Dieser Rahmen ist leer.</source>
+        <translation>This frame is empty.</translation>
+    </message>
+    <message>
+        <source>Ersetzen …</source>
+        <translation>Replace …</translation>
+    </message>
+    <message>
+        <source>Platz des Fotos ändern</source>
+        <translation>Change place of the photo</translation>
     </message>
 </context>
 <context>
@@ -1894,6 +2181,154 @@
     <message>
         <source>Mehr als %1 Dateien auf einmal werden nicht genommen. Wählen Sie kleinere Ordner.</source>
         <translation>More than %1 files at once are not taken. Choose smaller folders.</translation>
+    </message>
+</context>
+<context>
+    <name>MvFotoTray</name>
+    <message>
+        <source>Hier liegen die Fotos des Kalenders. Ziehen Sie Bilder oder einen Ordner hierher.</source>
+        <translation>The photos of the calendar lie here. Drag pictures or a folder here.</translation>
+    </message>
+    <message>
+        <source>Fotos des Kalenders</source>
+        <translation>Photos of the calendar</translation>
+    </message>
+    <message>
+        <source>Fotos …</source>
+        <translation>Photos …</translation>
+    </message>
+    <message>
+        <source>Fotos hinzufügen</source>
+        <translation>Add photos</translation>
+    </message>
+    <message>
+        <source>Ordner …</source>
+        <translation>Folder …</translation>
+    </message>
+    <message>
+        <source>Alle Fotos eines Ordners hinzufügen</source>
+        <translation>Add all photos of a folder</translation>
+    </message>
+    <message>
+        <source>Verteilen</source>
+        <translation>Distribute</translation>
+    </message>
+    <message>
+        <source>Die leeren Rahmen füllen: Jedes Foto kommt in seinen Monat</source>
+        <translation>Fill the empty frames: every photo goes to its month</translation>
+    </message>
+    <message>
+        <source>Sortieren</source>
+        <translation>Sort</translation>
+    </message>
+    <message>
+        <source>Die Fotos nach Zeit oder Name ordnen</source>
+        <translation>Sort the photos by time or name</translation>
+    </message>
+    <message>
+        <source>Nach der &amp;Aufnahmezeit</source>
+        <translation>By &amp;time taken</translation>
+    </message>
+    <message>
+        <source>Nach dem &amp;Namen</source>
+        <translation>By &amp;name</translation>
+    </message>
+    <message>
+        <source>Nur freie</source>
+        <translation>Unused only</translation>
+    </message>
+    <message>
+        <source>Nur Fotos zeigen, die auf keiner Seite sind</source>
+        <translation>Show only photos that are on no page</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Keine weiteren Fotos hinzufügen</source>
+        <translation>Add no more photos</translation>
+    </message>
+    <message>
+        <source>Fotos werden gelesen</source>
+        <translation>Photos are being read</translation>
+    </message>
+    <message>
+        <source>%v von %m</source>
+        <translation>%v of %m</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %n Fotos auf den Seiten</source>
+        <translation>
+            <numerusform>%1 of %n photo on the pages</numerusform>
+            <numerusform>%1 of %n photos on the pages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Fotos sortieren</source>
+        <translation>Sort photos</translation>
+    </message>
+    <message>
+        <source>Fotos aus der Ablage nehmen</source>
+        <translation>Take photos out of the tray</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos sind auf Seiten und bleiben.</source>
+        <translation>
+            <numerusform>%n photo is on pages and stays.</numerusform>
+            <numerusform>%n photos are on pages and stay.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Auf die &amp;gezeigte Seite setzen</source>
+        <translation>&amp;Put on the page shown</translation>
+    </message>
+    <message>
+        <source>Zur &amp;Seite mit diesem Foto</source>
+        <translation>&amp;Go to the page with this photo</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner öffnen</source>
+        <translation>&amp;Open folder</translation>
+    </message>
+    <message>
+        <source>Aus der Ablage &amp;nehmen</source>
+        <translation>&amp;Take out of the tray</translation>
+    </message>
+</context>
+<context>
+    <name>MvFotoTrayModel</name>
+    <message numerus="yes">
+        <source>%1, %n-mal auf den Seiten</source>
+        <translation>
+            <numerusform>%1, once on the pages</numerusform>
+            <numerusform>%1, %n times on the pages</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, noch unbenutzt</source>
+        <translation>%1, not used yet</translation>
+    </message>
+</context>
+<context>
+    <name>MvFrameNotices</name>
+    <message>
+        <source>Foto hierher ziehen oder klicken</source>
+        <translation>Drag a photo here or click</translation>
+    </message>
+    <message>
+        <source>„%1“ lässt sich nicht lesen.
+Das Kontextmenü ersetzt das Foto durch ein anderes.</source>
+        <translation>“%1” cannot be read.
+The context menu replaces it by another photo.</translation>
+    </message>
+    <message>
+        <source>Das Foto wird geladen …</source>
+        <translation>The photo is being loaded …</translation>
+    </message>
+    <message>
+        <source>%1 ppi</source>
+        <translation>%1 ppi</translation>
     </message>
 </context>
 <context>
@@ -2059,6 +2494,30 @@
     <message>
         <source>Das Ziehen am Foto abbrechen, den Tag verlassen</source>
         <translation>Stop dragging the photo, leave the day</translation>
+    </message>
+    <message>
+        <source>Zoom des Fotos</source>
+        <translation>Zoom of the photo</translation>
+    </message>
+    <message>
+        <source>Strg+Mausrad über dem Foto</source>
+        <translation>Ctrl+mouse wheel over the photo</translation>
+    </message>
+    <message>
+        <source>Dem Foto näher kommen oder sich entfernen</source>
+        <translation>Come closer to the photo or go away from it</translation>
+    </message>
+    <message>
+        <source>Rahmen</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>Alt+Ziehen</source>
+        <translation>Alt+drag</translation>
+    </message>
+    <message>
+        <source>Einen Rahmen verschieben; an seinen Ecken ändert sich die Größe</source>
+        <translation>Move a frame; its corners change its size</translation>
     </message>
 </context>
 <context>
@@ -2286,29 +2745,37 @@
     </message>
 </context>
 <context>
+    <name>MvInspector</name>
+    <message>
+        <source>Eigenschaften</source>
+        <translation>Properties</translation>
+    </message>
+    <message>
+        <source>Kalender</source>
+        <translation>Calendar</translation>
+    </message>
+    <message>
+        <source>Zurück zum ganzen Kalender</source>
+        <translation>Back to the whole calendar</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Ganzer Kalender</source>
+        <translation>Whole calendar</translation>
+    </message>
+</context>
+<context>
     <name>MvLayoutChooser</name>
     <message>
         <source>Layouts</source>
         <translation>Layouts</translation>
-    </message>
-</context>
-<context>
-    <name>MvLayoutPanel</name>
-    <message>
-        <source>Layout</source>
-        <translation>Layout</translation>
-    </message>
-    <message>
-        <source>Farben</source>
-        <translation>Colours</translation>
-    </message>
-    <message>
-        <source>Farbschema ändern</source>
-        <translation>Change colour scheme</translation>
-    </message>
-    <message>
-        <source>Farben ändern</source>
-        <translation>Change colours</translation>
     </message>
 </context>
 <context>
@@ -2620,18 +3087,6 @@
         <translation>Calendar page</translation>
     </message>
     <message>
-        <source>Foto für den %1</source>
-        <translation>Photo for %1</translation>
-    </message>
-    <message>
-        <source>Foto der Seite</source>
-        <translation>Photo of the page</translation>
-    </message>
-    <message>
-        <source>Loslassen setzt das Foto ein. Mit gedrückter Umschalttaste wird es das Foto der Seite.</source>
-        <translation>Drop to insert the photo. With the Shift key pressed it becomes the photo of the page.</translation>
-    </message>
-    <message>
         <source>Seite %1 von %2: %3</source>
         <translation>Page %1 of %2: %3</translation>
     </message>
@@ -2639,12 +3094,78 @@
         <source>„%1“ ist kein Foto, das gelesen werden kann.</source>
         <translation>“%1” is not a photo that can be read.</translation>
     </message>
+    <message>
+        <source>Loslassen setzt das Foto ein. Für einen Tag: auf ihm warten oder die Umschalttaste halten.</source>
+        <translation>Let go to put the photo in. For a day: wait on it or hold the shift key.</translation>
+    </message>
+    <message>
+        <source>Fotos tauschen</source>
+        <translation>Swap photos</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageDrop</name>
+    <message>
+        <source>Ab hier in die leeren Rahmen</source>
+        <translation>Into the empty frames from here on</translation>
+    </message>
+    <message>
+        <source>Foto der Seite</source>
+        <translation>Photo of the page</translation>
+    </message>
+    <message>
+        <source>Foto ersetzen</source>
+        <translation>Replace photo</translation>
+    </message>
+    <message>
+        <source>Foto in diesen Rahmen</source>
+        <translation>Photo into this frame</translation>
+    </message>
+    <message>
+        <source>Foto für den %1</source>
+        <translation>Photo for %1</translation>
+    </message>
 </context>
 <context>
     <name>MvPageEdits</name>
     <message>
         <source>Layout ändern</source>
         <translation>Change layout</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageFlow</name>
+    <message>
+        <source>Titelblatt einfügen</source>
+        <translation>Insert cover</translation>
+    </message>
+    <message>
+        <source>Rückseite einfügen</source>
+        <translation>Insert back</translation>
+    </message>
+    <message>
+        <source>Seite einfügen</source>
+        <translation>Insert page</translation>
+    </message>
+    <message>
+        <source>Seite verdoppeln</source>
+        <translation>Duplicate page</translation>
+    </message>
+    <message>
+        <source>Seiten von Monaten gehören zum Zeitraum; unter Gestaltung &gt; Papier und Zeitraum lässt er sich ändern.</source>
+        <translation>Pages of months belong to the period; Design &gt; Paper and period changes it.</translation>
+    </message>
+    <message>
+        <source>Seite entfernen</source>
+        <translation>Remove page</translation>
+    </message>
+    <message>
+        <source>Dorthin lässt sich diese Seite nicht schieben: Titelblätter stehen vorn, Rückseiten hinten, und Monate folgen aufeinander.</source>
+        <translation>This page cannot be moved there: covers come first, backs last, and months follow each other.</translation>
+    </message>
+    <message>
+        <source>Seite verschieben</source>
+        <translation>Move page</translation>
     </message>
 </context>
 <context>
@@ -2679,10 +3200,6 @@
     <message>
         <source>Foto für die Seite wählen</source>
         <translation>Choose a photo for the page</translation>
-    </message>
-    <message>
-        <source>Fotos (%1)</source>
-        <translation>Photos (%1)</translation>
     </message>
     <message>
         <source>Alle Dateien (*)</source>
@@ -2756,18 +3273,9 @@
         <source>Das Foto „%1“ kann nicht gelesen werden. %2</source>
         <translation>The photo “%1” cannot be read. %2</translation>
     </message>
-</context>
-<context>
-    <name>MvPageItem</name>
     <message>
-        <source>„%1“ lässt sich nicht lesen.
-Das Kontextmenü ersetzt das Foto durch ein anderes.</source>
-        <translation>“%1” cannot be read.
-The context menu replaces the photo by another one.</translation>
-    </message>
-    <message>
-        <source>Das Foto wird geladen …</source>
-        <translation>Loading the photo …</translation>
+        <source>Auf dieser Seite ist kein Platz für ein Foto; wählen Sie eine andere Vorlage.</source>
+        <translation>There is no place for a photo on this page; choose another template.</translation>
     </message>
 </context>
 <context>
@@ -2858,6 +3366,38 @@ The context menu replaces the photo by another one.</translation>
         <source>bis %1</source>
         <translation>to %1</translation>
     </message>
+    <message>
+        <source>Keine</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Oben</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Die Kante mit Spirale oder Aufhänger</source>
+        <translation>The edge with the spiral or hanger</translation>
+    </message>
+    <message>
+        <source>Breite der Bindung</source>
+        <translation>Width of the binding</translation>
+    </message>
+    <message>
+        <source>So breit bleibt die Kante frei von Texten und Kalender</source>
+        <translation>So much of the edge stays free of texts and calendar</translation>
+    </message>
+    <message>
+        <source>Bin&amp;dung:</source>
+        <translation>Bin&amp;ding:</translation>
+    </message>
 </context>
 <context>
     <name>MvPageSource</name>
@@ -2876,12 +3416,24 @@ The context menu replaces the photo by another one.</translation>
         <source>Seiten</source>
         <translation>Pages</translation>
     </message>
+    <message>
+        <source>Fotos tauschen</source>
+        <translation>Swap photos</translation>
+    </message>
 </context>
 <context>
     <name>MvPageStripModel</name>
     <message>
         <source>Seite %1: %2</source>
         <translation>Page %1: %2</translation>
+    </message>
+    <message>
+        <source>Sieht anders aus als die übrigen Seiten</source>
+        <translation>Looks different from the other pages</translation>
+    </message>
+    <message>
+        <source>Ein Foto druckt grob, mit %1 Bildpunkten je Zoll</source>
+        <translation>A photo prints coarsely, with %1 pixels per inch</translation>
     </message>
 </context>
 <context>
@@ -2969,6 +3521,32 @@ The context menu replaces the photo by another one.</translation>
     </message>
 </context>
 <context>
+    <name>MvPrintCheckDialog</name>
+    <message>
+        <source>Vor dem Druck prüfen</source>
+        <translation>Check before printing</translation>
+    </message>
+    <message>
+        <source>Was nicht gut gedruckt würde</source>
+        <translation>What would not print well</translation>
+    </message>
+    <message>
+        <source>&amp;Zeigen</source>
+        <translation>&amp;Show</translation>
+    </message>
+    <message>
+        <source>Alles wird gut gedruckt, soweit das Programm sehen kann.</source>
+        <translation>Everything will print well, as far as the program can see.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</source>
+        <translation>
+            <numerusform>%n place; a triangle marks those that everybody sees.</numerusform>
+            <numerusform>%n places; a triangle marks those that everybody sees.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvPrintFinding</name>
     <message>
         <source>%1: %2</source>
@@ -3032,25 +3610,6 @@ The context menu replaces the photo by another one.</translation>
     <message>
         <source>Der Drucker nimmt keine weiteren Seiten an.</source>
         <translation>The printer does not accept any more pages.</translation>
-    </message>
-</context>
-<context>
-    <name>MvPrintNote</name>
-    <message>
-        <source>Seite %1</source>
-        <translation>Page %1</translation>
-    </message>
-    <message>
-        <source>%1: Foto „%2“ druckt grob, mit nur %3 Bildpunkten je Zoll</source>
-        <translation>%1: photo “%2” prints coarsely, with only %3 pixels per inch</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1: „%2“ – keine Schrift hat %3</source>
-        <translation>%1: “%2” – no font has %3</translation>
     </message>
 </context>
 <context>
@@ -3346,6 +3905,13 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Der Stand ist schon in einem anderen Fenster geöffnet.</source>
         <translation>This version is open in another window already.</translation>
+    </message>
+</context>
+<context>
+    <name>MvRecentCalendars</name>
+    <message>
+        <source>Zuletzt geöffnete Kalender</source>
+        <translation>Recently opened calendars</translation>
     </message>
 </context>
 <context>
@@ -3712,6 +4278,76 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvStartDropZone</name>
+    <message>
+        <source>Fotos oder einen Ordner hierher ziehen</source>
+        <translation>Drag photos or a folder here</translation>
+    </message>
+    <message>
+        <source>O&amp;rdner wählen …</source>
+        <translation>Choose fo&amp;lder …</translation>
+    </message>
+    <message>
+        <source>Fotos &amp;wählen …</source>
+        <translation>Choose ph&amp;otos …</translation>
+    </message>
+</context>
+<context>
+    <name>MvStartPage</name>
+    <message>
+        <source>Startseite</source>
+        <translation>Start page</translation>
+    </message>
+    <message>
+        <source>Diese Seite beim Start &amp;zeigen</source>
+        <translation>&amp;Show this page at the start</translation>
+    </message>
+    <message>
+        <source>Daraus wird ein Kalender mit Titelblatt: Jedes Bild kommt in seinen Monat. Alles lässt sich danach ändern.</source>
+        <translation>They become a calendar with a cover: every picture goes to its month. Everything can be changed afterwards.</translation>
+    </message>
+    <message>
+        <source>Z&amp;uletzt geöffnet</source>
+        <translation>&amp;Recently opened</translation>
+    </message>
+    <message>
+        <source>Ges&amp;taltung</source>
+        <translation>Desi&amp;gn</translation>
+    </message>
+    <message>
+        <source>&amp;Ohne Fotos beginnen</source>
+        <translation>&amp;Begin without photos</translation>
+    </message>
+    <message>
+        <source>Einen Kalender anlegen, der noch keine Fotos hat</source>
+        <translation>Make a calendar that has no photos yet</translation>
+    </message>
+    <message>
+        <source>&amp;Kalender öffnen …</source>
+        <translation>Open &amp;calendar …</translation>
+    </message>
+    <message>
+        <source>Einen gespeicherten Kalender öffnen</source>
+        <translation>Open a saved calendar</translation>
+    </message>
+    <message>
+        <source>Geburtstage &amp;importieren …</source>
+        <translation>&amp;Import birthdays …</translation>
+    </message>
+    <message>
+        <source>Geburtstage aus einem Adressbuch (vCard) übernehmen</source>
+        <translation>Take over birthdays from an address book (vCard)</translation>
+    </message>
+    <message>
+        <source>W&amp;eiter zum Kalender</source>
+        <translation>Co&amp;ntinue to the calendar</translation>
+    </message>
+    <message>
+        <source>Zu dem Kalender gehen, der schon da ist</source>
+        <translation>Go to the calendar that is there already</translation>
+    </message>
+</context>
+<context>
     <name>MvStudioActions</name>
     <message>
         <source>&amp;Neu …</source>
@@ -3834,14 +4470,6 @@ Save it under another name or in another folder.</translation>
         <translation>Spread the window over the whole screen</translation>
     </message>
     <message>
-        <source>Erste &amp;Schritte</source>
-        <translation>Getting &amp;Started</translation>
-    </message>
-    <message>
-        <source>Die Wege zum eigenen Kalender zeigen</source>
-        <translation>Show the ways to your own calendar</translation>
-    </message>
-    <message>
         <source>&amp;Tastenkürzel</source>
         <translation>&amp;Keyboard Shortcuts</translation>
     </message>
@@ -3929,6 +4557,134 @@ Save it under another name or in another folder.</translation>
         <source>Fotos, die nicht mehr an ihrem Platz sind, in einem Ordner wiederfinden</source>
         <translation>Find photos again that have been moved to another folder</translation>
     </message>
+    <message>
+        <source>Vor dem D&amp;ruck prüfen …</source>
+        <translation>C&amp;heck before printing …</translation>
+    </message>
+    <message>
+        <source>Alles auflisten, was nicht gut gedruckt würde</source>
+        <translation>List everything that would not print well</translation>
+    </message>
+    <message>
+        <source>Schnitt, Rand und &amp;Bindung</source>
+        <translation>Trim, margin and &amp;binding</translation>
+    </message>
+    <message>
+        <source>Auf der Seite zeigen, wo geschnitten und gebunden wird und wo nichts stehen sollte</source>
+        <translation>Show on the page where it is cut and bound and where nothing should stand</translation>
+    </message>
+    <message>
+        <source>&amp;Startseite</source>
+        <translation>&amp;Start page</translation>
+    </message>
+    <message>
+        <source>Einen neuen Kalender beginnen oder einen der letzten öffnen</source>
+        <translation>Begin a new calendar or open one of the last</translation>
+    </message>
+    <message>
+        <source>Seite e&amp;infügen</source>
+        <translation>&amp;Insert page</translation>
+    </message>
+    <message>
+        <source>Hinter der gezeigten Seite eine weitere für Fotos einfügen</source>
+        <translation>Insert another page for photos behind the one shown</translation>
+    </message>
+    <message>
+        <source>Tite&amp;lblatt einfügen</source>
+        <translation>Insert &amp;cover</translation>
+    </message>
+    <message>
+        <source>Dem Kalender ein Titelblatt geben</source>
+        <translation>Give the calendar a cover</translation>
+    </message>
+    <message>
+        <source>&amp;Rückseite einfügen</source>
+        <translation>Insert &amp;back</translation>
+    </message>
+    <message>
+        <source>Dem Kalender eine Rückseite geben</source>
+        <translation>Give the calendar a back</translation>
+    </message>
+    <message>
+        <source>Seite verd&amp;oppeln</source>
+        <translation>&amp;Duplicate page</translation>
+    </message>
+    <message>
+        <source>Hinter der gezeigten Seite eine einfügen, die ihr gleicht</source>
+        <translation>Insert a page like the one shown behind it</translation>
+    </message>
+    <message>
+        <source>Nach vorn s&amp;chieben</source>
+        <translation>Move for&amp;ward</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Seite vor die vorige schieben</source>
+        <translation>Move the page shown before the previous one</translation>
+    </message>
+    <message>
+        <source>Nach &amp;hinten schieben</source>
+        <translation>Move bac&amp;kward</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Seite hinter die nächste schieben</source>
+        <translation>Move the page shown behind the next one</translation>
+    </message>
+    <message>
+        <source>Seite ent&amp;fernen</source>
+        <translation>&amp;Remove page</translation>
+    </message>
+    <message>
+        <source>Die gezeigte Seite entfernen; Seiten von Monaten bleiben</source>
+        <translation>Remove the page shown; pages of months stay</translation>
+    </message>
+    <message>
+        <source>Nächsten Rah&amp;men wählen</source>
+        <translation>Select next fra&amp;me</translation>
+    </message>
+    <message>
+        <source>Auf der Seite von Foto zu Foto und Text zu Text gehen</source>
+        <translation>Go from photo to photo and text to text on the page</translation>
+    </message>
+    <message>
+        <source>Fotos hin&amp;zufügen …</source>
+        <translation>&amp;Add photos …</translation>
+    </message>
+    <message>
+        <source>Fotos zum Kalender nehmen; sie liegen dann unter der Seite bereit</source>
+        <translation>Take photos into the calendar; they are at hand below the page then</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner hinzufügen …</source>
+        <translation>Add f&amp;older …</translation>
+    </message>
+    <message>
+        <source>Alle Fotos eines Ordners zum Kalender nehmen</source>
+        <translation>Take all photos of a folder into the calendar</translation>
+    </message>
+    <message>
+        <source>Auf die Seiten &amp;verteilen</source>
+        <translation>&amp;Distribute to the pages</translation>
+    </message>
+    <message>
+        <source>Die leeren Rahmen füllen: Jedes Foto kommt in seinen Monat</source>
+        <translation>Fill the empty frames: every photo goes to its month</translation>
+    </message>
+    <message>
+        <source>&amp;Gestaltung wählen</source>
+        <translation>Choose &amp;design</translation>
+    </message>
+    <message>
+        <source>Layout, Farben, Schriften und Vorlagen aller Seiten auf einmal wählen</source>
+        <translation>Choose layout, colors, fonts and templates of all pages at once</translation>
+    </message>
+    <message>
+        <source>&amp;Vorlage der Seite</source>
+        <translation>&amp;Template of the page</translation>
+    </message>
+    <message>
+        <source>Wählen, wie Fotos, Texte und Kalender auf der Seite stehen</source>
+        <translation>Choose how photos, texts and calendar stand on the page</translation>
+    </message>
 </context>
 <context>
     <name>MvStudioApplication</name>
@@ -3951,6 +4707,69 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>In den Ordner %1 lässt sich nicht schreiben. Was Sie eintragen, und was zwischendurch gesichert wird, ist nach dem Beenden nicht mehr da. Geben Sie dem Ordner Schreibrechte, und starten Sie das Programm neu.</source>
         <translation>The folder %1 cannot be written to. What you enter, and what is saved in between, will be gone after quitting. Give yourself the right to write there, and start the program again.</translation>
+    </message>
+</context>
+<context>
+    <name>MvStudioMenus</name>
+    <message>
+        <source>&amp;Hilfe</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Zuletzt geöffnet</source>
+        <translation>Open &amp;recent</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Seite</source>
+        <translation>&amp;Page</translation>
+    </message>
+    <message>
+        <source>&amp;Fotos</source>
+        <translation>Pho&amp;tos</translation>
+    </message>
+    <message>
+        <source>&amp;Gestaltung</source>
+        <translation>&amp;Design</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Gestaltung</source>
+        <translation>Design</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Export</translation>
+    </message>
+    <message>
+        <source>Diesen Kalender öffnen</source>
+        <translation>Open this calendar</translation>
+    </message>
+    <message>
+        <source>Liste &amp;leeren</source>
+        <translation>&amp;Clear list</translation>
+    </message>
+    <message>
+        <source>Die Liste leeren; die Dateien bleiben</source>
+        <translation>Clear the list; the files stay</translation>
     </message>
 </context>
 <context>
@@ -4049,6 +4868,30 @@ Designs photo calendars and prints them.
         <source>Einträge</source>
         <translation>Entries</translation>
     </message>
+    <message>
+        <source>Vorlage der Seite</source>
+        <translation>Template of the page</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>Farben</source>
+        <translation>Colors</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Einträge des Tages</source>
+        <translation>Entries of the day</translation>
+    </message>
 </context>
 <context>
     <name>MvStudioSettings</name>
@@ -4110,8 +4953,8 @@ Designs photo calendars and prints them.
         </translation>
     </message>
     <message>
-        <source>Texte ohne Platz, fehlende Zeichen und Fotos mit zu wenigen Bildpunkten</source>
-        <translation>Texts without room, missing characters and photos with too few pixels</translation>
+        <source>Alles, was nicht gut gedruckt würde; ein Klick führt hin</source>
+        <translation>Everything that would not print well; a click leads there</translation>
     </message>
 </context>
 <context>
@@ -4119,46 +4962,6 @@ Designs photo calendars and prints them.
     <message>
         <source>Seiten</source>
         <translation>Pages</translation>
-    </message>
-    <message>
-        <source>&amp;Datei</source>
-        <translation>&amp;File</translation>
-    </message>
-    <message>
-        <source>&amp;Zuletzt geöffnet</source>
-        <translation>&amp;Recently Opened</translation>
-    </message>
-    <message>
-        <source>&amp;Bearbeiten</source>
-        <translation>&amp;Edit</translation>
-    </message>
-    <message>
-        <source>&amp;Ansicht</source>
-        <translation>&amp;View</translation>
-    </message>
-    <message>
-        <source>&amp;Seite</source>
-        <translation>&amp;Page</translation>
-    </message>
-    <message>
-        <source>&amp;Hilfe</source>
-        <translation>&amp;Help</translation>
-    </message>
-    <message>
-        <source>Werkzeuge</source>
-        <translation>Tools</translation>
-    </message>
-    <message>
-        <source>Diesen Kalender öffnen</source>
-        <translation>Open this calendar</translation>
-    </message>
-    <message>
-        <source>Liste &amp;leeren</source>
-        <translation>&amp;Clear List</translation>
-    </message>
-    <message>
-        <source>Die Liste leeren; die Dateien bleiben</source>
-        <translation>Clear the list; the files remain</translation>
     </message>
     <message>
         <source>Layout für alle Seiten wählen</source>
@@ -4187,6 +4990,37 @@ Designs photo calendars and prints them.
     <message>
         <source>Übernehmen</source>
         <translation>Apply</translation>
+    </message>
+    <message>
+        <source>Eigenschaften</source>
+        <translation>Properties</translation>
+    </message>
+    <message>
+        <source>Fotos</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Seiten bearbeiten</source>
+        <translation>Edit pages</translation>
+    </message>
+</context>
+<context>
+    <name>MvTemplatePanel</name>
+    <message>
+        <source>Vorlagen der Seite</source>
+        <translation>Templates of the page</translation>
+    </message>
+    <message>
+        <source>Ohne Vorlage</source>
+        <translation>Without a template</translation>
+    </message>
+    <message>
+        <source>Ein Kalender und ein Foto, das sich oben oder daneben anlegt</source>
+        <translation>A calendar and a photo above or beside it</translation>
+    </message>
+    <message>
+        <source>Vorlage der Seite wählen</source>
+        <translation>Choose template of the page</translation>
     </message>
 </context>
 <context>
@@ -4284,6 +5118,155 @@ Designs photo calendars and prints them.
             <numerusform>One photo</numerusform>
             <numerusform>%n photos</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>MvTextPanel</name>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Text ändern</source>
+        <translation>Change text</translation>
+    </message>
+    <message>
+        <source>Einfügen</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>Etwas einfügen, das der Kalender selbst ausfüllt</source>
+        <translation>Insert something that the calendar fills in itself</translation>
+    </message>
+    <message>
+        <source>Titel des Kalenders</source>
+        <translation>Title of the calendar</translation>
+    </message>
+    <message>
+        <source>Monat</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>Jahr</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>Unterschrift des Fotos</source>
+        <translation>Caption of the photo</translation>
+    </message>
+    <message>
+        <source>Alle Unterschriften</source>
+        <translation>All captions</translation>
+    </message>
+    <message>
+        <source>Name des Autors</source>
+        <translation>Name of the author</translation>
+    </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Schriftgröße in Punkt auf A4</source>
+        <translation>Font size in points on A4</translation>
+    </message>
+    <message>
+        <source> pt</source>
+        <translation> pt</translation>
+    </message>
+    <message>
+        <source>Fett</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>Kursiv</source>
+        <translation>Italic</translation>
+    </message>
+    <message>
+        <source>Großbuchstaben</source>
+        <translation>Capitals</translation>
+    </message>
+    <message>
+        <source>Schrift:</source>
+        <translation>Font:</translation>
+    </message>
+    <message>
+        <source>Größe:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>Farbe des Textes</source>
+        <translation>Color of the text</translation>
+    </message>
+    <message>
+        <source>Wie die Seite</source>
+        <translation>As the page</translation>
+    </message>
+    <message>
+        <source>Wie die Sonntage</source>
+        <translation>As Sundays</translation>
+    </message>
+    <message>
+        <source>Eigene Farbe</source>
+        <translation>Own color</translation>
+    </message>
+    <message>
+        <source>Eigene Farbe des Textes</source>
+        <translation>Own color of the text</translation>
+    </message>
+    <message>
+        <source>Farbe:</source>
+        <translation>Color:</translation>
+    </message>
+    <message>
+        <source>Ausrichtung waagrecht</source>
+        <translation>Horizontal alignment</translation>
+    </message>
+    <message>
+        <source>Ausrichtung senkrecht</source>
+        <translation>Vertical alignment</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Mitte</source>
+        <translation>Middle</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Oben</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Unten</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Lage:</source>
+        <translation>Position:</translation>
+    </message>
+    <message>
+        <source>Aussehen des Textes ändern</source>
+        <translation>Change look of the text</translation>
+    </message>
+</context>
+<context>
+    <name>MvThemeChooser</name>
+    <message>
+        <source>Gestaltungen</source>
+        <translation>Designs</translation>
+    </message>
+</context>
+<context>
+    <name>MvThemePanel</name>
+    <message>
+        <source>Gestaltung wählen</source>
+        <translation>Choose design</translation>
     </message>
 </context>
 <context>
@@ -4501,57 +5484,6 @@ Designs photo calendars and prints them.
     <message>
         <source>es fehlt das Projekt: validate DATEI</source>
         <translation>the project is missing: validate FILE</translation>
-    </message>
-</context>
-<context>
-    <name>MvWelcomePanel</name>
-    <message>
-        <source>Erste Schritte</source>
-        <translation>Getting started</translation>
-    </message>
-    <message>
-        <source>Ihr Kalender für das kommende Jahr ist schon da. So wird er Ihrer:</source>
-        <translation>Your calendar for the coming year is here already. Make it yours:</translation>
-    </message>
-    <message>
-        <source>Layout aus Bildern &amp;wählen</source>
-        <translation>Choose a layout from pic&amp;tures</translation>
-    </message>
-    <message>
-        <source>Alle Layouts als kleine Seiten sehen und eines wählen</source>
-        <translation>See all layouts as small pages and choose one</translation>
-    </message>
-    <message>
-        <source>Geburtstage &amp;importieren</source>
-        <translation>Import birthda&amp;ys</translation>
-    </message>
-    <message>
-        <source>Geburtstage aus einem Adressbuch (vCard) übernehmen</source>
-        <translation>Take over birthdays from an address book (vCard)</translation>
-    </message>
-    <message>
-        <source>Datei ö&amp;ffnen</source>
-        <translation>Ope&amp;n file</translation>
-    </message>
-    <message>
-        <source>Einen gespeicherten Kalender öffnen</source>
-        <translation>Open a saved calendar</translation>
-    </message>
-    <message>
-        <source>Erste Schritte schließen</source>
-        <translation>Close getting started</translation>
-    </message>
-    <message>
-        <source>Schließen; wieder zu zeigen über Ansicht &gt; Erste Schritte</source>
-        <translation>Close; can be shown again with View &gt; Getting Started</translation>
-    </message>
-    <message>
-        <source>„%1“ öffnen</source>
-        <translation>Open “%1”</translation>
-    </message>
-    <message>
-        <source>Mit dem letzten Kalender weitermachen</source>
-        <translation>Go on with the last calendar</translation>
     </message>
 </context>
 <context>

@@ -6,9 +6,11 @@
 #include "common/MvStudioSettings.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageItem.h"
+#include "pages/MvPageSelection.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
 
@@ -50,6 +52,7 @@ MvStudioFixture::MvStudioFixture(const QString &layout, const QString &language)
 {
     MvStudioSettings::clearRecentFiles();
     MvStudioSettings::setWelcomeShown(false);
+    MvStudioSettings::setFolderOfRequest(MvDiskAccessRequest::FotoFile, m_folder.path());
     MvStudioSettings::setWindow({}, {});
     MvStudioSettings::setFolder(u"project"_s, m_folder.path());
     MvStudioSettings::setFolder(u"export"_s, m_folder.path());
@@ -140,19 +143,16 @@ void MvStudioFixture::activate() const
     }));
 }
 
-bool MvStudioFixture::raiseDock(const char *name) const
+bool MvStudioFixture::openSection(const char *name) const
 {
-    auto *dock = window()->findChild<QDockWidget *>(QLatin1StringView(name));
-    if (!dock)
+    const QByteArray header = QByteArray(name) + "Header";
+    if (!find(header.constData()) && !click(window(), "inspectorBack"))
         return false;
-    for (QTabBar *tabs : window()->findChildren<QTabBar *>()) {
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            if (tabs->parent() == window() && plain(tabs->tabText(tab)) == plain(dock->windowTitle()))
-                QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
-        }
-    }
+    if (!click(window(), header.constData()))
+        return false;
     QCoreApplication::processEvents();
-    return !dock->visibleRegion().isEmpty();
+    const auto *panel = find(name);
+    return panel && !panel->visibleRegion().isEmpty();
 }
 
 bool MvStudioFixture::trigger(const char *name) const
@@ -265,6 +265,16 @@ bool MvStudioFixture::dropOnDate(const QDate &date, const QString &path, Qt::Key
     const QPointF onPage = page()->mapToScene(rectOf(date).center());
     const QPoint inWindow = canvas()->viewport()->mapTo(window(), canvas()->mapFromScene(onPage));
     return dropFile(window(), inWindow, path, modifiers);
+}
+
+void MvStudioFixture::selectFoto(const QString &path) const
+{
+    canvas()->setFoto(path);
+    const MvPageItem *shown = page();
+    for (int element = 0; element < shown->elements().size(); ++element) {
+        if (shown->foto(element) && shown->foto(element)->path() == path)
+            canvas()->selection()->selectElement(element);
+    }
 }
 
 void MvStudioFixture::undo() const

@@ -74,7 +74,8 @@ public:
     // ---- what a person does; where it can be impossible, false says so
 
     void activate() const;
-    bool raiseDock(const char *name) const;
+    /// Opens a panel of the inspector by its name.
+    bool openSection(const char *name) const;
     bool trigger(const char *action) const;
     bool click(QWidget *parent, const char *button) const;
     /// Presses the key in the widget, which gets the focus first.
@@ -91,6 +92,8 @@ public:
     static bool dropFile(QWidget *window, const QPoint &position, const QString &path,
                          Qt::KeyboardModifiers modifiers = {});
     bool dropOnDate(const QDate &date, const QString &path, Qt::KeyboardModifiers modifiers = {}) const;
+    /// Gives the shown page the photo and chooses it.
+    void selectFoto(const QString &path) const;
     void undo() const;
     void redo() const;
     void pressInCanvas(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const;

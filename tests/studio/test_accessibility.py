@@ -2,8 +2,8 @@
 """What a screen reader hears of the studio: test_accessibility.py <mvcalendar-studio>
 
 Starts the program on a screen and a session bus of its own and walks the tree that it tells assistive technology.
-Every control that takes the keyboard has a name, in every dock (those behind others count as showing) and dialog,
-and the days of the page are there with their dates. Dialogs are opened and closed as assistive technology does it.
+Every control that takes the keyboard has a name, on the start page, beside the page, in every panel of the inspector
+and in every dialog, and the days of the page are there with their dates. Dialogs are opened and closed as assistive technology does it.
 """
 
 import os
@@ -23,9 +23,13 @@ START_SECONDS = 60
 ANSWER_SECONDS = 20
 # what opens a dialog, and what closes it
 DIALOGS = {"Neu …": "Abbrechen", "Layout wählen …": "Abbrechen", "Papier und Zeitraum …": "Abbrechen",
-           "Als PDF exportieren …": "Abbrechen", "Als Bilder exportieren …": "Abbrechen",
+           "Vor dem Druck prüfen …": "Schließen", "Als PDF exportieren …": "Abbrechen", "Als Bilder exportieren …": "Abbrechen",
            "Einstellungen …": "Abbrechen", "Tastenkürzel": "Schließen", "Über MvCalendar": "Schließen",
            "Eintrag hinzufügen...": "Abbrechen"}
+
+
+# the last one stays open
+PANELS = ("Gestaltung", "Vorlage der Seite", "Inhalt", "Layout", "Farben", "Schriften", "Spalten", "Einträge")
 
 
 def on_screen_and_bus(arguments):
@@ -102,7 +106,7 @@ def steadily(ask):
     return ask()
 
 
-def press_first(item, name, roles=("push button", "menu item", "page tab")):
+def press_first(item, name, roles=("push button", "toggle button", "check box", "menu item")):
     found = steadily(lambda: [next(descendants(item, role, name), None) for role in roles])
     return any(press(one) for one in found if one is not None)
 
@@ -170,13 +174,20 @@ def inside(program):
         application = find_application(studio.pid)
         if application is None:
             return ["the program does not show up on the accessibility bus"]
+        errors = [f"no name on the start page: {place}" for place in steadily(lambda: Walk(application)).nameless]
+        if not press_first(application, "Weiter zum Kalender"):
+            errors.append("the start page cannot be left")
         days = []
         end = time.monotonic() + START_SECONDS
         while not days and time.monotonic() < end:  # the page arrives a moment after the window
             time.sleep(0.5)
             walk = steadily(lambda: Walk(application))
             days = [n for names in walk.named.values() for n in names if DAY.search(n)]
-        errors = [f"no name: {place}" for place in walk.nameless]
+        errors += [f"no name: {place}" for place in walk.nameless]
+        for panel in PANELS:
+            if not press_first(application, panel, ("check box", "toggle button", "push button")):
+                errors.append(f"the panel “{panel}” cannot be opened")
+            errors += [f"no name in “{panel}”: {place}" for place in steadily(lambda: Walk(application)).nameless]
         if len({DAY.search(n)[0] for n in days}) < 28:
             errors.append(f"{len(days)} days of the page are told, not a month")
         if "--verbose" in sys.argv:

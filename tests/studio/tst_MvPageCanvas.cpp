@@ -127,16 +127,28 @@ void tst_MvPageCanvas::fotoDropped()
         QCOMPARE(open.foto().placement(), placement);
         QCOMPARE(open.steps(), 1);
         MvUndoController::instance().undo();
+        open.settle();
         QVERIFY(!open.foto().isValid());
         const QPoint day = open.viewPoint(QDate(2027, 1, 12));
-        QCOMPARE(drop(open, day, size, {}), u"Foto für den 12. Januar"_s);
+        QCOMPARE(drop(open, day, size, {}), u"Foto der Seite"_s); // in passing, a day is not meant
+        QVERIFY(open.foto().isValid());
+        MvUndoController::instance().undo();
+        open.settle();
+        QCOMPARE(drop(open, open.viewPoint(QDate(2027, 1, 12)), size, Qt::ShiftModifier), u"Foto für den 12. Januar"_s);
         QVERIFY(!open.foto().isValid());
         auto *editor = MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>(); // a new entry with the photo
         QVERIFY(editor);
         editor->rejectedClicked();
-        QCOMPARE(drop(open, day, size, Qt::ShiftModifier), u"Foto der Seite"_s);
-        QVERIFY(open.foto().isValid());
     }
+    OpenCanvas open;
+    const QPoint day = open.viewPoint(QDate(2027, 1, 12));
+    MvWidgetDriver::Drag drag(open.canvas->viewport(), {open.writeFoto()}, {});
+    QVERIFY(drag.isTaken(day));
+    QCOMPARE(open.dropText(), u"Foto der Seite"_s);
+    QTRY_COMPARE(open.dropText(), u"Foto für den 12. Januar"_s); // who waits there means it
+    QDragLeaveEvent leave;                                       // or the next drag would go to this canvas
+    QApplication::sendEvent(open.canvas->viewport(), &leave);
+    QCOMPARE(open.dropText(), QString());
 }
 
 void tst_MvPageCanvas::refusesWhatIsNoFoto()

@@ -51,11 +51,7 @@ private:
 
 bool tst_StudioDesignJourneys::showColors(const MvStudioFixture &studio)
 {
-    if (!studio.raiseDock("layoutPanelDock"))
-        return false;
-    const auto *tabs = studio.find<QTabWidget>("layoutTabs");
-    QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, {}, tabs->tabBar()->tabRect(1).center());
-    return studio.find("tableView") != nullptr;
+    return studio.openSection("colorPanel") && studio.find("tableView") != nullptr;
 }
 
 void tst_StudioDesignJourneys::holidaysOfACountry_data()
@@ -82,7 +78,7 @@ void tst_StudioDesignJourneys::holidaysOfACountry()
     QFETCH(bool, isHoliday);
     MvStudioFixture studio;
     studio.window()->setCurrentPage(date.month() - 1);
-    QVERIFY(studio.raiseDock("contentPanelDock"));
+    QVERIFY(studio.openSection("contentPanel"));
     if (!studio.find<QCheckBox>("publicHolidaysOnly")->isChecked())
         QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
     const MvCalendarDocument before = studio.document();
@@ -182,7 +178,7 @@ void tst_StudioDesignJourneys::grid()
 void tst_StudioDesignJourneys::columnHeaders()
 {
     MvStudioFixture studio;
-    QVERIFY(studio.raiseDock("columnHeadersPanelDock"));
+    QVERIFY(studio.openSection("columnHeadersPanel"));
     QVERIFY(studio.click(studio.window(), "chooseColumnsLayout")); // the layout of the start has none
     QVERIFY(studio.texts().contains(u"Mama"_s));
     const int columns = studio.find<QSpinBox>("countColumnsBox")->value();
@@ -213,7 +209,7 @@ void tst_StudioDesignJourneys::columnHeaders()
 void tst_StudioDesignJourneys::fonts()
 {
     MvStudioFixture studio;
-    QVERIFY(studio.raiseDock("fontPanelDock"));
+    QVERIFY(studio.openSection("fontPanel"));
     const auto fontOf = [&studio](const QDate &date, const QString &text) {
         const QRectF rect = studio.page()->dateRect(date);
         for (const MvPaintRecording::Item &item : studio.items(MvPaintRecording::Item::Text)) {
@@ -265,7 +261,7 @@ void tst_StudioDesignJourneys::layouts()
     QFETCH(int, days);
     MvStudioFixture studio;
     studio.window()->setCurrentPage(pages == 1 ? 5 : 0);
-    QVERIFY(studio.raiseDock("layoutPanelDock"));
+    QVERIFY(studio.openSection("layoutPanel"));
     auto *list = studio.find<QListWidget>("layoutList");
     QListWidgetItem *item = list->findItems(name, Qt::MatchExactly).value(0);
     QVERIFY(item);
@@ -287,7 +283,7 @@ void tst_StudioDesignJourneys::layouts()
 void tst_StudioDesignJourneys::paper()
 {
     MvStudioFixture studio;
-    QVERIFY(studio.raiseDock("contentPanelDock"));
+    QVERIFY(studio.openSection("contentPanel"));
     QCOMPARE(studio.page()->pageRect().size(), QSizeF(2970, 2100));
     QVERIFY(studio.choose("orientation", u"Hochformat"_s));
     QCOMPARE(studio.page()->pageRect().size(), QSizeF(2100, 2970));
@@ -311,7 +307,7 @@ void tst_StudioDesignJourneys::pageFoto()
     MvStudioFixture studio;
     const QString foto = studio.writeFoto(u"foto.png"_s, Qt::green);
     const QRectF dayBefore = studio.page()->dateRect(newYear);
-    QVERIFY(studio.dropOnDate(newYear, foto, Qt::ShiftModifier)); // the page is meant, not the day
+    QVERIFY(studio.dropOnDate(newYear, foto)); // the page is meant, not the day
     const auto frame = [&studio] { return studio.document().pages().at(0).fotoFrame(); };
     QCOMPARE(frame().path(), foto);
     QVERIFY(studio.page()->dateRect(newYear).height() < dayBefore.height()); // makes room
@@ -344,7 +340,7 @@ void tst_StudioDesignJourneys::pageFoto()
 void tst_StudioDesignJourneys::onlyThisPage()
 {
     MvStudioFixture studio;
-    QVERIFY(studio.raiseDock("contentPanelDock"));
+    QVERIFY(studio.openSection("contentPanel"));
     const auto config = [&studio](int page) {
         return studio.document().pages().at(page).contentConfig().holidayConfig();
     };
@@ -356,7 +352,7 @@ void tst_StudioDesignJourneys::onlyThisPage()
     QVERIFY(studio.click(studio.window(), "scopeCurrentPage"));
     QVERIFY(studio.trigger("nextPage"));
     QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
-    QVERIFY(studio.raiseDock("fontPanelDock"));
+    QVERIFY(studio.openSection("fontPanel"));
     QVERIFY(studio.press("fontSizeBox", Qt::Key_Up));
     MvCalendariumHolidayConfig expected = config(0); // what the panel does not show is as it was
     expected.setFeature(FEATURE_PUBLIC_HOLIDAYS_ONLY, !before);
@@ -364,7 +360,7 @@ void tst_StudioDesignJourneys::onlyThisPage()
         QVERIFY(config(page) == (page == 1 ? expected : config(0)));
         QCOMPARE(fontSize(page) > 0, page == 1);
     }
-    QVERIFY(studio.raiseDock("contentPanelDock"));
+    QVERIFY(studio.openSection("contentPanel"));
     QVERIFY(studio.trigger("nextPage"));
     QCOMPARE(studio.find<QCheckBox>("publicHolidaysOnly")->isChecked(), before);
     QVERIFY(studio.click(studio.window(), "scopeAllPages"));

@@ -97,7 +97,7 @@ void tst_StudioEntryJourneys::birthdayWithFotos()
     QVERIFY(isNearly(fotoColor(entries().value(0)), Qt::red));
     QCOMPARE(studio.steps(), 1);
 
-    QVERIFY(studio.dropOnDate(birthday, blue)); // the day has one entry: it is meant
+    QVERIFY(studio.dropOnDate(birthday, blue, Qt::ShiftModifier)); // the day has one entry: it is meant
     QCOMPARE(entries().size(), 1);
     QVERIFY(isNearly(fotoColor(entries().value(0)), Qt::blue));
     studio.undo();
@@ -148,7 +148,7 @@ void tst_StudioEntryJourneys::listIsSearched()
     MvStudioFixture studio;
     MvCalendarEventRegistry::instance().setEvents(
         {entry(u"Oma Erna"_s, QDate(1941, 3, 9)), entry(u"Opa"_s, QDate(1938, 5, 4))});
-    QVERIFY(studio.raiseDock("entriesPanelDock"));
+    QVERIFY(studio.openSection("entriesPanel"));
     auto *list = studio.find<QTableView>("eventTableView");
     auto *field = studio.find<QLineEdit>("entrySearchField");
     const auto shown = [list] {

@@ -4,6 +4,8 @@
 
 #include "flows/MvDocumentDialog.h"
 #include "flows/MvRecoveryDialog.h"
+#include "pages/MvPageCanvas.h"
+#include "pages/MvPageSelection.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -178,8 +180,8 @@ class tst_StudioKeyboard : public MvWidgetTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void docks_data();
-    void docks();
+    void sections_data();
+    void sections();
     void dialogs_data();
     void dialogs();
     void menus_data();
@@ -214,33 +216,32 @@ void tst_StudioKeyboard::check(QWidget *window, const QWidget *area)
     QCOMPARE(mnemonicsThatCollide(window).join(u'\n'), QString());
 }
 
-void tst_StudioKeyboard::docks_data()
+void tst_StudioKeyboard::sections_data()
 {
-    QTest::addColumn<QString>("dock");
+    QTest::addColumn<QString>("section"); // none: the start page
     QTest::addColumn<QString>("layout");
-    QTest::addColumn<int>("tab");
     const QString month = u"MONTH_GRID_CLASSIC"_s;
-    QTest::newRow("content") << u"contentPanelDock"_s << month << 0;
-    QTest::newRow("layout") << u"layoutPanelDock"_s << month << 0;
-    QTest::newRow("colours") << u"layoutPanelDock"_s << month << 1;
-    QTest::newRow("fonts") << u"fontPanelDock"_s << month << 0;
-    QTest::newRow("no columns") << u"columnHeadersPanelDock"_s << month << 0;
-    QTest::newRow("columns") << u"columnHeadersPanelDock"_s << u"FAMILY_PLANNER"_s << 0;
-    QTest::newRow("entries") << u"entriesPanelDock"_s << month << 0;
+    for (const char *section : {"", "themePanel", "templatePanel", "contentPanel", "layoutPanel", "colorPanel",
+                                "fontPanel", "columnHeadersPanel", "entriesPanel", "photoPanel", "dayPanel"})
+        QTest::newRow(section) << QString::fromLatin1(section) << month;
+    QTest::newRow("columns") << u"columnHeadersPanel"_s << u"FAMILY_PLANNER"_s;
 }
 
-/// The whole window with each of its panels.
-void tst_StudioKeyboard::docks()
+/// The whole window with each of its panels, and with its start page.
+void tst_StudioKeyboard::sections()
 {
-    QFETCH(QString, dock);
+    QFETCH(QString, section);
     QFETCH(QString, layout);
-    QFETCH(int, tab);
     MvStudioFixture studio(layout);
-    QVERIFY(studio.trigger("showWelcome"));
     studio.window()->resize(1280, 1000);
-    QVERIFY(studio.raiseDock(dock.toLatin1()));
-    if (auto *tabs = studio.find<QTabWidget>("layoutTabs"))
-        tabs->setCurrentIndex(tab);
+    if (section.isEmpty())
+        QVERIFY(studio.trigger("showWelcome"));
+    else if (section == u"dayPanel"_s)
+        studio.canvas()->selection()->selectDay({2027, 1, 12});
+    else if (section == u"photoPanel"_s)
+        studio.selectFoto(studio.writeFoto(u"foto.png"_s, Qt::green));
+    if (!section.isEmpty())
+        QVERIFY(studio.openSection(section.toLatin1()));
     QCoreApplication::processEvents();
     check(studio.window(), studio.window());
 }
@@ -303,9 +304,8 @@ void tst_StudioKeyboard::menus()
 {
     QFETCH(QString, language);
     MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
-    QVERIFY(studio.trigger("showWelcome"));
-    for (const char *dock : {"contentPanelDock", "layoutPanelDock", "fontPanelDock", "entriesPanelDock"}) {
-        QVERIFY2(studio.raiseDock(dock), dock);
+    for (const char *section : {"contentPanel", "layoutPanel", "colorPanel", "fontPanel", "entriesPanel"}) {
+        QVERIFY2(studio.openSection(section), section);
         QCOMPARE(mnemonicsThatCollide(studio.window()).join(u'\n'), QString());
     }
     const auto checkMenu = [](const QMenu *menu) {
@@ -323,7 +323,7 @@ void tst_StudioKeyboard::menus()
                      qPrintable(action->text()));
     }
     MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(u"Oma"_s, {2027, 1, 14})});
-    QVERIFY(studio.raiseDock("fontPanelDock"));
+    QVERIFY(studio.openSection("fontPanel"));
     QVERIFY(studio.press("fontFamilyBox", Qt::Key_E, Qt::ControlModifier)); // not the end of the line there
     QVERIFY(MvStudioFixture::dialog<QDialog>("exportDialog"));
     MvStudioFixture::dialog<QDialog>("exportDialog")->close();

@@ -13,6 +13,8 @@ const QString languageKey = u"calendar/language"_s;
 const QString provinceKey = u"calendar/province"_s;
 const QString paperKey = u"calendar/paper"_s; // width and height in millimetres
 const QString bleedKey = u"calendar/bleed"_s;
+const QString bindingKey = u"calendar/binding"_s;
+const QString bindingZoneKey = u"calendar/bindingZone"_s;
 
 constexpr double tenths = 10.0; // of a millimetre
 
@@ -34,6 +36,8 @@ void MvCalendarHabits::remember(const MvCalendarDocument &document)
     store(provinceKey, holidays.province());
     store(paperKey, u"%1x%2"_s.arg(size.width()).arg(size.height()));
     store(bleedKey, QString::number(document.format().bleed()));
+    store(bindingKey, MvPageFormat::bindingName(document.format().binding()));
+    store(bindingZoneKey, QString::number(document.format().bindingZone()));
 }
 
 void MvCalendarHabits::applyTo(MvCalendarDocument &document)
@@ -49,5 +53,8 @@ void MvCalendarHabits::applyTo(MvCalendarDocument &document)
     if (!format.isValid())
         return;
     format.setBleed(MvStudioSettings::text(bleedKey).toDouble());
+    format.setBinding(MvPageFormat::bindingFromName(MvStudioSettings::text(bindingKey)));
+    if (const QString zone = MvStudioSettings::text(bindingZoneKey); !zone.isEmpty())
+        format.setBindingZone(zone.toDouble());
     document.setFormat(format);
 }

@@ -14,5 +14,12 @@ public:
         Colors,
         Fonts,
         ColumnHeaders,
+        FotoZoom,
+        FotoStraightening,
+        FotoBorder,
+        FotoCaption,
+        Text,
+        TextLook,
+        ElementMove,
     };
 };

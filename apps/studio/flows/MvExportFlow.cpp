@@ -3,8 +3,8 @@
 
 #include "MvCore/MvFileName.h"
 #include "MvProject/MvExportJob.h"
+#include "MvProject/MvPrintCheck.h"
 #include "MvProject/MvProject.h"
-#include "common/MvPrintNote.h"
 #include "common/MvProgressDialog.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
@@ -54,18 +54,15 @@ void MvExportFlow::start(MvExportOptions::Kind kind)
 
 void MvExportFlow::warnAndRun(const MvExportOptions &options)
 {
-    const QStringList missing = m_project->document().missingFotos();
-    if (missing.isEmpty()) {
+    const QStringList faults = gravest(options);
+    if (faults.isEmpty()) {
         run(options);
         return;
     }
-    QStringList paths;
-    for (const QString &path : missing)
-        paths.append(QDir::toNativeSeparators(path));
     QMessageBox *box = MvStudioMessage::question(
-        m_window, u"missingPhotosQuestion"_s, tr("Diese Fotos sind nicht da oder lassen sich nicht lesen:"),
-        MvStudioMessage::shortened(paths, mostLines) + u"\n\n"_s +
-            tr("Ihre Plätze bleiben leer. Legen Sie die Dateien zurück, oder wählen Sie auf den Seiten andere Fotos."));
+        m_window, u"missingPhotosQuestion"_s, tr("Das würde nicht gut gedruckt:"),
+        MvStudioMessage::shortened(faults, mostLines) + u"\n\n"_s +
+            tr("Plätze ohne Foto bleiben leer. Die ganze Liste steht unter Datei > Vor dem Druck prüfen."));
     QPushButton *go = box->addButton(tr("Trotzdem exportieren"), QMessageBox::AcceptRole);
     QPushButton *cancel =
         box->addButton(MvStudioMessage::buttonText(QDialogButtonBox::Cancel), QMessageBox::RejectRole);
@@ -77,6 +74,21 @@ void MvExportFlow::warnAndRun(const MvExportOptions &options)
             run(options);
     });
     box->open();
+}
+
+/// What everybody would see, and texts apart: they are told with the result.
+QStringList MvExportFlow::gravest(const MvExportOptions &options) const
+{
+    using Kind = MvPrintFinding::Kind;
+    QStringList lines;
+    for (const int page : options.pages) {
+        for (const MvPrintFinding &finding : MvPrintCheck::ofPage(m_project->document(), page)) {
+            const bool isText = finding.kind == Kind::CutText || finding.kind == Kind::MissingGlyphs;
+            if (finding.kind == Kind::EmptyFrame || (finding.severity == MvPrintFinding::Severity::Strong && !isText))
+                lines.append(finding.toString());
+        }
+    }
+    return lines;
 }
 
 void MvExportFlow::run(const MvExportOptions &options)
@@ -138,8 +150,8 @@ QString MvExportFlow::printNotes(const MvExportJob &job) const
     QStringList texts;
     QStringList others;
     for (const int page : m_options.pages)
-        for (const MvPrintNote &note : MvPrintNote::ofPage(job.document(), page, job.findings(page)))
-            (note.isAboutRoom() ? texts : others).append(note.toString());
+        for (const MvPrintFinding &found : MvPrintCheck::ofPaintedPage(job.document(), page, job.findings(page)))
+            (found.kind == MvPrintFinding::Kind::CutText ? texts : others).append(found.toString());
     QStringList parts;
     if (!texts.isEmpty())
         parts.append(tr("Diese Texte hatten keinen Platz und sind gekürzt:") + u'\n' +

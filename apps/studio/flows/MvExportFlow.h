@@ -34,8 +34,9 @@ Q_SIGNALS:
 
 private:
     void start(MvExportOptions::Kind kind);
-    /// Photos that are not there would be missing on the pages.
+    /// What would spoil the print is asked about first: photos that are missing or very coarse, empty frames.
     void warnAndRun(const MvExportOptions &options);
+    QStringList gravest(const MvExportOptions &options) const;
     void run(const MvExportOptions &options);
     void finish(const MvExportResult &result);
     void tellDone(const MvExportResult &result, const QString &notes);

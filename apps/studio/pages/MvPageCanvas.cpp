@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageCanvas.h"
 
+#include "common/MvDraggedFotos.h"
+#include "pages/MvFotoBar.h"
 #include "pages/MvFotoHandle.h"
-#include "pages/MvPageDropTarget.h"
+#include "pages/MvFotoInvitation.h"
+#include "pages/MvPageDrop.h"
 #include "pages/MvPageFoto.h"
 #include "pages/MvPageItem.h"
+#include "pages/MvPageSelection.h"
+#include "pages/MvPrintMarks.h"
 
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
-#include "MvCore/MvApplicationLocale.h"
 #include "MvModelBase/MvRenderingRule.h"
-#include "MvProject/MvCalendarTitle.h"
+#include "MvProject/MvPrintCheck.h"
 #include "MvProject/MvProject.h"
 
 #include <QContextMenuEvent>
@@ -40,9 +44,13 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     , m_project(project)
     , m_scene(new QGraphicsScene(this))
     , m_item(new MvPageItem(project))
-    , m_foto(new MvPageFoto(project, m_item, this))
-    , m_fotoHandle(new MvFotoHandle(project, m_item))
-    , m_dropTarget(new MvPageDropTarget(m_item))
+    , m_selection(new MvPageSelection(project, this))
+    , m_foto(new MvPageFoto(project, m_item, m_selection, this))
+    , m_fotoHandle(new MvFotoHandle(project, m_item, m_selection))
+    , m_fotoBar(new MvFotoBar(project, m_item, m_fotoHandle, this))
+    , m_invitation(new MvFotoInvitation(m_item, this))
+    , m_drop(new MvPageDrop(project, m_item, this))
+    , m_printMarks(new MvPrintMarks(project, m_item))
 {
     setObjectName(u"pageCanvas"_s);
     setAccessibleName(tr("Kalenderseite"));
@@ -66,6 +74,9 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     });
     connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
     connect(m_foto, &MvPageFoto::message, this, &MvPageCanvas::message);
+    connect(m_invitation, &QPushButton::clicked, m_foto, &MvPageFoto::choose);
+    connect(m_fotoHandle, &MvFotoHandle::emptyFrameClicked, m_foto, &MvPageFoto::chooseFor);
+    connect(m_selection, &MvPageSelection::changed, this, &MvPageCanvas::onSelectionChanged);
     connect(project, &MvProject::pagesReset, this, [this] { setCurrentPage(currentPage()); });
     connect(project, &MvProject::documentReplaced, this, &MvPageCanvas::onDocumentReplaced);
     onRefreshed();
@@ -89,6 +100,7 @@ void MvPageCanvas::setCurrentPage(int page)
         return;
     m_fotoHandle->cancelDrag();
     m_item->setPage(clamped);
+    m_selection->setPage(clamped);
     Q_EMIT currentPageChanged(clamped);
 }
 
@@ -176,6 +188,8 @@ void MvPageCanvas::applyZoom(double zoom, const QPointF &fixedPoint)
     const QPointF moved = viewportTransform().map(onPage) - fixedPoint;
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));
+    m_fotoBar->follow();
+    m_invitation->follow();
     Q_EMIT zoomChanged(this->zoom());
 }
 
@@ -203,9 +217,12 @@ void MvPageCanvas::wheelEvent(QWheelEvent *event)
         event->accept();
         return;
     }
-    m_isFitted = false;
-    applyZoom(zoom() * std::pow(zoomStep, double(event->angleDelta().y()) / anglePerStep), event->position());
+    const double factor = std::pow(zoomStep, double(event->angleDelta().y()) / anglePerStep);
     event->accept();
+    if (m_fotoHandle->zoomAt(onPage(event->position()), factor))
+        return;
+    m_isFitted = false;
+    applyZoom(zoom() * factor, event->position());
 }
 
 bool MvPageCanvas::viewportEvent(QEvent *event)
@@ -236,6 +253,11 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
     const bool isHand = event->button() == Qt::LeftButton && m_isSpaceDown;
     if (event->button() != Qt::MiddleButton && !isHand) {
         setFocusDate({});
+        const int element = m_item->shownPage().elementAt(onPage(event->position()), m_project->document().format());
+        if (const QDate date = dateAt(event->pos()); date.isValid())
+            m_selection->selectDay(date);
+        else if (element < 0 || m_item->elements().at(element).kind() == MvPageElement::Kind::Calendarium)
+            m_selection->selectNothing();
         MvCalendariumView::mousePressEvent(event);
         event->accept(); // days look at a press and let it pass; nothing around the canvas wants it
         return;
@@ -293,7 +315,7 @@ QMenu *MvPageCanvas::createContextMenu(const QPoint &position)
     menu->setObjectName(u"pageMenu"_s);
     if (!menu->isEmpty())
         menu->addSeparator();
-    m_foto->addActions(menu);
+    m_foto->addActions(menu, m_item->shownPage().elementAt(onPage(position), m_project->document().format()));
     return menu;
 }
 
@@ -315,6 +337,11 @@ void MvPageCanvas::chooseFoto()
     m_foto->choose();
 }
 
+bool MvPageCanvas::hasFoto() const
+{
+    return m_foto->hasFoto();
+}
+
 void MvPageCanvas::setFoto(const QString &path)
 {
     m_foto->set(path);
@@ -325,72 +352,80 @@ void MvPageCanvas::removePhoto()
     m_foto->remove();
 }
 
+void MvPageCanvas::setPrintMarksShown(bool shown)
+{
+    m_printMarks->setVisible(shown);
+}
+
 // ------------------------------------------------------------------------------------------------------ drag and drop
 
-/// The day that a dragged photo would go to; an invalid date: to the page.
-QDate MvPageCanvas::showDropTarget(const QDropEvent *event)
+QPointF MvPageCanvas::onPage(const QPointF &position) const
 {
-    const QDate date = event->modifiers() & Qt::ShiftModifier ? QDate() : dateAt(event->position().toPoint());
-    const QLocale locale = MvApplicationLocale::instance().locale();
-    if (date.isValid()) {
-        m_dropTarget->showAt(m_item->dateRect(date), tr("Foto für den %1").arg(locale.toString(date, u"d. MMMM"_s)));
-        return date;
-    }
-    MvFotoFrame frame = m_item->shownPage().fotoFrame();
-    if (!frame.isValid())
-        frame = MvPageFoto::frameFor(m_draggedFoto, m_project->document().format());
-    m_dropTarget->showAt(frame.rect(m_project->document().format()) & m_item->pageRect(), tr("Foto der Seite"));
-    return {};
+    return m_item->mapFromScene(mapToScene(position.toPoint()));
 }
 
 void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
 {
-    m_draggedFoto = MvPageFoto::fotoIn(event->mimeData());
-    if (m_draggedFoto.isEmpty() || m_item->pageRect().isEmpty()) {
+    if (!m_drop->enter(event, onPage(event->position()))) {
         event->ignore();
         const QString file = event->mimeData()->urls().value(0).toLocalFile();
-        if (m_draggedFoto.isEmpty() && !file.isEmpty())
+        if (!file.isEmpty())
             Q_EMIT message(tr("„%1“ ist kein Foto, das gelesen werden kann.").arg(QFileInfo(file).fileName()));
         return;
     }
     MvCalendariumView::dragEnterEvent(event);
-    showDropTarget(event);
     event->acceptProposedAction();
-    Q_EMIT message(tr("Loslassen setzt das Foto ein. Mit gedrückter Umschalttaste wird es das Foto der Seite."));
+    Q_EMIT message(tr("Loslassen setzt das Foto ein. Für einen Tag: auf ihm warten oder die Umschalttaste halten."));
 }
 
 void MvPageCanvas::dragMoveEvent(QDragMoveEvent *event)
 {
-    if (m_draggedFoto.isEmpty()) {
+    if (!m_drop->isActive()) {
         event->ignore();
         return;
     }
     MvCalendariumView::dragMoveEvent(event);
-    showDropTarget(event);
+    m_drop->move(event, onPage(event->position()));
     event->acceptProposedAction();
 }
 
 void MvPageCanvas::dragLeaveEvent(QDragLeaveEvent *event)
 {
     MvCalendariumView::dragLeaveEvent(event);
-    m_dropTarget->hide();
-    m_draggedFoto.clear();
+    m_drop->leave();
     Q_EMIT message({});
 }
 
 void MvPageCanvas::dropEvent(QDropEvent *event)
 {
-    if (m_draggedFoto.isEmpty())
+    if (!m_drop->isActive())
         return;
-    const QString foto = std::exchange(m_draggedFoto, {});
-    const bool isForDay = showDropTarget(event).isValid();
-    m_dropTarget->hide();
+    m_drop->move(event, onPage(event->position()));
+    const MvPageDrop::Target target = m_drop->target();
+    const QStringList paths = m_drop->paths();
+    const auto frame = MvDraggedFotos::frame(event->mimeData());
+    m_drop->leave();
     Q_EMIT message({});
-    if (isForDay)
-        MvCalendariumView::dropEvent(event); // the day's cell takes it
-    else
-        m_foto->set(foto);
     event->acceptProposedAction();
+    if (target.date.isValid()) {
+        MvCalendariumView::dropEvent(event); // the day's cell takes it
+        event->acceptProposedAction();
+    } else if (frame && target.element >= 0) {
+        MvCalendarDocument document = m_project->document();
+        if (document.swapFotos({frame->first, frame->second}, {currentPage(), target.element}))
+            m_project->change(document, tr("Fotos tauschen"));
+    } else if (paths.size() == 1 && !QFileInfo(paths.constFirst()).isDir() && target.element >= 0) {
+        m_foto->set(target.element, paths.constFirst());
+    } else {
+        Q_EMIT fotosDropped(paths, currentPage(), target.element);
+    }
+}
+
+/// The keyboard stays where it was; a screen reader is told what was chosen.
+void MvPageCanvas::onSelectionChanged()
+{
+    updateDescription();
+    viewport()->update();
 }
 
 // ------------------------------------------------------------------------------------------------------------ keyboard
@@ -422,8 +457,14 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Escape:
         if (m_fotoHandle->isDragging())
             m_fotoHandle->cancelDrag();
+        else if (m_selection->kind() != MvPageSelection::Kind::Calendar)
+            m_selection->selectNothing();
         else
             setFocusDate({});
+        return;
+    case Qt::Key_Delete:
+        if (m_selection->kind() == MvPageSelection::Kind::Foto)
+            m_foto->remove();
         return;
     case Qt::Key_Space:
         if (focusDate().isValid()) {
@@ -526,7 +567,7 @@ void MvPageCanvas::updateDescription()
     setAccessibleDescription(tr("Seite %1 von %2: %3")
                                  .arg(currentPage() + 1)
                                  .arg(m_project->document().pages().size())
-                                 .arg(MvCalendarTitle::ofPage(m_item->shownPage())));
+                                 .arg(MvPrintCheck::pageName(m_project->document(), currentPage())));
 }
 
 // ------------------------------------------------------------------------------------------------------------ painting

@@ -5,10 +5,13 @@
 
 #include <QDate>
 
-class MvPageDropTarget;
-class MvPageItem;
-class MvPageFoto;
+class MvFotoBar;
 class MvFotoHandle;
+class MvFotoInvitation;
+class MvPageDrop;
+class MvPageFoto;
+class MvPageItem;
+class MvPageSelection;
 class MvProject;
 class QMenu;
 
@@ -30,6 +33,9 @@ public:
 
     int currentPage() const;
     MvPageItem *pageItem() const { return m_item; }
+    MvPageSelection *selection() const { return m_selection; }
+    /// Whether there is a photo that removePhoto() would take away.
+    bool hasFoto() const;
     double zoom() const;
     bool isFitted() const { return m_isFitted; }
 
@@ -53,15 +59,19 @@ public Q_SLOTS:
     /// Clamped to the limits.
     void setZoom(double zoom);
 
-    /// Asks for a file without blocking and makes it the page's photo.
+    /// Asks for a file without blocking and puts it into the chosen frame, else into the page's first empty one.
     void chooseFoto();
-    /// Makes a file the photo of the shown page; one undo step.
+    /// Puts a file there; one undo step.
     void setFoto(const QString &path);
     void removePhoto();
+    /// Trim, bleed, safe margin and binding zone.
+    void setPrintMarksShown(bool shown);
 
 Q_SIGNALS:
     void currentPageChanged(int page);
     void zoomChanged(double zoom);
+    /// Several photos, or folders, were dropped: into the frame and those that follow it.
+    void fotosDropped(const QStringList &paths, int page, int element);
     /// Something worth a line in the status bar.
     void message(const QString &text);
 
@@ -92,7 +102,8 @@ private:
     double pixelsPerUnit() const;
     void updateHand();
     QDate dateAt(const QPoint &position) const;
-    QDate showDropTarget(const QDropEvent *event);
+    QPointF onPage(const QPointF &position) const;
+    void onSelectionChanged();
     bool beginAtFirstDate();
     bool turnPageByArrow(int key);
     void moveFoto(int key);
@@ -101,10 +112,13 @@ private:
     MvProject *m_project;
     QGraphicsScene *m_scene;
     MvPageItem *m_item;
+    MvPageSelection *m_selection;
     MvPageFoto *m_foto;
     MvFotoHandle *m_fotoHandle;
-    MvPageDropTarget *m_dropTarget;
-    QString m_draggedFoto;
+    MvFotoBar *m_fotoBar;
+    MvFotoInvitation *m_invitation;
+    MvPageDrop *m_drop;
+    QGraphicsItem *m_printMarks;
     QDate m_keyboardDate; // where the keyboard is, or will be when the page has cells again
     QPoint m_panFrom;
     bool m_isPanning = false;

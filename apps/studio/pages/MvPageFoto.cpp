@@ -1,22 +1,21 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageFoto.h"
 
+#include "common/MvDraggedFotos.h"
 #include "common/MvStudioSettings.h"
 #include "pages/MvPageItem.h"
+#include "pages/MvPageSelection.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoLoader.h"
 #include "MvFoto/MvImageLoader.h"
-#include "MvFoto/MvMediaFormat.h"
 #include "MvProject/MvProject.h"
 
 #include <QActionGroup>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMimeData>
-#include <QUrl>
 
 #include <cmath>
 
@@ -35,21 +34,38 @@ double usualShare(MvFotoFrame::Placement placement)
 
 } // namespace
 
-MvPageFoto::MvPageFoto(MvProject *project, MvPageItem *item, QWidget *parent)
+MvPageFoto::MvPageFoto(MvProject *project, MvPageItem *item, MvPageSelection *selection, QWidget *parent)
     : QObject(parent)
     , m_project(project)
     , m_item(item)
+    , m_selection(selection)
     , m_parent(parent)
 {}
 
-QString MvPageFoto::fotoIn(const QMimeData *data)
+int MvPageFoto::frameForNew(const MvCalendarPage &page, const MvPageFormat &format)
 {
-    for (const QUrl &url : data->urls()) {
-        const QString path = url.toLocalFile();
-        if (!path.isEmpty() && !MvImageLoader::format(QFileInfo(path)).isEmpty())
-            return path;
+    int first = -1;
+    const QList<MvPageElement> elements = page.elementsOn(format);
+    for (int number = 0; number < elements.size(); ++number) {
+        const MvFotoElement *foto = elements.at(number).foto();
+        if (foto && foto->isEmpty())
+            return number;
+        if (foto && first < 0)
+            first = number;
     }
-    return {};
+    return first;
+}
+
+/// -1 when the page has no photo.
+int MvPageFoto::frameOfFoto() const
+{
+    const auto isThere = [this](int element) { return m_item->foto(element) && !m_item->foto(element)->isEmpty(); };
+    if (m_selection->kind() == MvPageSelection::Kind::Foto)
+        return isThere(m_selection->element()) ? m_selection->element() : -1;
+    for (int element = 0; element < m_item->elements().size(); ++element)
+        if (isThere(element))
+            return element;
+    return -1;
 }
 
 MvFotoFrame MvPageFoto::frameFor(const QString &path, const MvPageFormat &format)
@@ -65,41 +81,56 @@ MvFotoFrame MvPageFoto::frameFor(const QString &path, const MvPageFormat &format
 
 void MvPageFoto::choose()
 {
+    if (m_selection->kind() == MvPageSelection::Kind::Foto)
+        chooseFor(m_selection->element());
+    else
+        chooseFor(frameForNew(m_item->shownPage(), m_project->document().format()));
+}
+
+void MvPageFoto::chooseFor(int element)
+{
+    if (!m_item->foto(element)) {
+        Q_EMIT message(tr("Auf dieser Seite ist kein Platz für ein Foto; wählen Sie eine andere Vorlage."));
+        return;
+    }
     auto *dialog = new QFileDialog(m_parent, tr("Foto für die Seite wählen"));
     dialog->setObjectName(u"photoDialog"_s);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({tr("Fotos (%1)").arg(MvMediaFormat::namePatterns()), tr("Alle Dateien (*)")});
-    const MvFotoFrame &frame = m_item->shownPage().fotoFrame();
-    const QFileInfo present(frame.path());
-    dialog->setDirectory(frame.isValid() && QFileInfo(present.absolutePath()).isDir() ? present.absolutePath()
-                                                                                      : MvStudioSettings::fotoFolder());
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+    dialog->setNameFilters({MvDraggedFotos::nameFilter(), tr("Alle Dateien (*)")});
+    const QFileInfo present(m_item->foto(element)->path());
+    dialog->setDirectory(!present.filePath().isEmpty() && QFileInfo(present.absolutePath()).isDir()
+                             ? present.absolutePath()
+                             : MvStudioSettings::fotoFolder());
+    connect(dialog, &QFileDialog::fileSelected, this, [this, element](const QString &path) {
         MvStudioSettings::setFolderOfRequest(MvDiskAccessRequest::FotoFile, QFileInfo(path).absolutePath());
-        set(path);
+        set(element, path);
     });
     dialog->open();
 }
 
-void MvPageFoto::set(MvProject *project, int page, const QString &path, QObject *receiver,
+void MvPageFoto::set(MvProject *project, const FrameId &frame, const QString &path, QObject *receiver,
                      const std::function<void(const QString &error)> &tell)
 {
     const QFileInfo file(path);
-    const auto take = [project, page, path, file, tell](const QImage &image) {
+    const auto take = [project, frame, path, file, tell](const QImage &image) {
         if (image.isNull()) {
             tell(tr("Das Foto „%1“ kann nicht gelesen werden. %2")
                      .arg(file.fileName(), MvImageLoader::instance().error(file)));
             return;
         }
-        const MvFotoFrame added = frameFor(path, project->document().format());
-        change(project, page, tr("Foto einfügen"), [&](MvFotoFrame &frame) {
-            if (frame.isValid()) {
-                frame.setPath(path);
-                frame.setFocus({0.5, 0.5});
-            } else {
-                frame = added;
-            }
-        });
+        MvCalendarDocument document = project->document();
+        if (frame.page < 0 || frame.page >= document.pages().size())
+            return;
+        MvCalendarPage page = document.pages().at(frame.page);
+        if (page.isSimple() && frame.element == 0 && !page.fotoFrame().isValid())
+            page.setFotoFrame(frameFor(path, document.format())); // its place follows from its proportions
+        MvFotoElement foto = document.foto(frame);
+        MvFotoElement fresh(path);
+        if (const MvFotoPoolItem *known = document.fotoPool().find(fresh.path()))
+            fresh.setFocus(known->focus);
+        page.setFoto(frame.element, foto.withPictureOf(fresh));
+        project->changePage(frame.page, page, tr("Foto einfügen"));
         tell({});
     };
     MvFotoLoader::midRes(MvFoto(file), decodedQuality, MvFotoAccess::NoCaching, receiver, take);
@@ -107,34 +138,51 @@ void MvPageFoto::set(MvProject *project, int page, const QString &path, QObject 
 
 void MvPageFoto::set(const QString &path)
 {
-    set(m_project, m_item->page(), path, this, [this, name = QFileInfo(path).fileName()](const QString &error) {
-        Q_EMIT message(error.isEmpty() ? tr("„%1“ ist jetzt das Foto der Seite.").arg(name) : error);
-    });
+    if (m_selection->kind() == MvPageSelection::Kind::Foto)
+        set(m_selection->element(), path);
+    else
+        set(frameForNew(m_item->shownPage(), m_project->document().format()), path);
+}
+
+void MvPageFoto::set(int element, const QString &path)
+{
+    set(m_project, {m_item->page(), element}, path, this,
+        [this, name = QFileInfo(path).fileName()](const QString &error) {
+            Q_EMIT message(error.isEmpty() ? tr("„%1“ ist jetzt das Foto der Seite.").arg(name) : error);
+        });
 }
 
 void MvPageFoto::remove()
 {
-    change(tr("Foto entfernen"), [](MvFotoFrame &frame) { frame = {}; });
+    changeFoto(frameOfFoto(), tr("Foto entfernen"),
+               [](MvFotoElement &foto) { foto = foto.withPictureOf(MvFotoElement()); });
 }
 
-void MvPageFoto::addActions(QMenu *menu)
+void MvPageFoto::addActions(QMenu *menu, int element)
 {
-    const bool hasPhoto = m_item->shownPage().fotoFrame().isValid();
+    const int meant = m_item->foto(element) ? element : frameOfFoto();
+    const bool hasPhoto = m_item->foto(meant) && !m_item->foto(meant)->isEmpty();
     QAction *choosing = menu->addAction(hasPhoto ? tr("Foto &ersetzen…") : tr("&Foto für die Seite wählen…"));
     choosing->setObjectName(u"choosePhoto"_s);
-    connect(choosing, &QAction::triggered, this, &MvPageFoto::choose);
+    connect(choosing, &QAction::triggered, this, [this, meant] { meant >= 0 ? chooseFor(meant) : choose(); });
     if (!hasPhoto)
         return;
-    addPlacements(menu->addMenu(tr("&Platz des Fotos")));
-    addSizes(menu->addMenu(tr("&Größe des Fotos")));
+    if (m_item->shownPage().isSimple() && meant == 0) {
+        addPlacements(menu->addMenu(tr("&Platz des Fotos")));
+        addSizes(menu->addMenu(tr("&Größe des Fotos")));
+    }
     QAction *centring = menu->addAction(tr("Ausschnitt &zur Mitte"));
     centring->setObjectName(u"centrePhoto"_s);
-    connect(centring, &QAction::triggered, this, [this] {
-        change(tr("Ausschnitt des Fotos verschieben"), [](MvFotoFrame &frame) { frame.setFocus({0.5, 0.5}); });
+    connect(centring, &QAction::triggered, this, [this, meant] {
+        changeFoto(meant, tr("Ausschnitt des Fotos verschieben"), [](MvFotoElement &foto) {
+            foto.setFocus({0.5, 0.5});
+        });
     });
     QAction *removing = menu->addAction(tr("Foto ent&fernen"));
     removing->setObjectName(u"removePhoto"_s);
-    connect(removing, &QAction::triggered, this, &MvPageFoto::remove);
+    connect(removing, &QAction::triggered, this, [this, meant] {
+        changeFoto(meant, tr("Foto entfernen"), [](MvFotoElement &foto) { foto = foto.withPictureOf({}); });
+    });
 }
 
 void MvPageFoto::addPlacements(QMenu *menu)
@@ -149,7 +197,7 @@ void MvPageFoto::addPlacements(QMenu *menu)
         action->setChecked(placement == current);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, placement] {
-            change(tr("Platz des Fotos ändern"), [placement](MvFotoFrame &frame) {
+            changeFrame(tr("Platz des Fotos ändern"), [placement](MvFotoFrame &frame) {
                 if (frame.share() == usualShare(frame.placement())) // one that nobody has changed
                     frame.setShare(usualShare(placement));
                 frame.setPlacement(placement);
@@ -172,25 +220,29 @@ void MvPageFoto::addSizes(QMenu *menu)
         action->setChecked(percent == current);
         group->addAction(action);
         connect(action, &QAction::triggered, this, [this, percent] {
-            change(tr("Größe des Fotos ändern"), [percent](MvFotoFrame &frame) { frame.setShare(percent / 100.0); });
+            changeFrame(tr("Größe des Fotos ändern"),
+                        [percent](MvFotoFrame &frame) { frame.setShare(percent / 100.0); });
         });
     }
 }
 
-void MvPageFoto::change(const QString &text, const std::function<void(MvFotoFrame &)> &edit)
+void MvPageFoto::changeFrame(const QString &text, const std::function<void(MvFotoFrame &)> &edit)
 {
-    change(m_project, m_item->page(), text, edit);
-}
-
-void MvPageFoto::change(MvProject *project, int page, const QString &text,
-                        const std::function<void(MvFotoFrame &)> &edit)
-{
-    const QList<MvCalendarPage> &pages = project->document().pages();
-    if (page < 0 || page >= pages.size())
-        return;
-    MvCalendarPage changed = pages.at(page);
+    MvCalendarPage changed = m_item->shownPage();
     MvFotoFrame frame = changed.fotoFrame();
     edit(frame);
     changed.setFotoFrame(frame);
-    project->changePage(page, changed, text);
+    m_project->changePage(m_item->page(), changed, text);
+}
+
+void MvPageFoto::changeFoto(int element, const QString &text, const std::function<void(MvFotoElement &)> &edit)
+{
+    const MvFotoElement *foto = m_item->foto(element);
+    if (!foto)
+        return;
+    MvCalendarPage changed = m_item->shownPage();
+    MvFotoElement edited = *foto;
+    edit(edited);
+    changed.setFoto(element, edited);
+    m_project->changePage(m_item->page(), changed, text);
 }

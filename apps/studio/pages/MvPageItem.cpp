@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageItem.h"
 
+#include "pages/MvFrameNotices.h"
+#include "pages/MvScreenFotoSource.h"
 #include "pages/MvScreenFotos.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -9,10 +11,8 @@
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCalendar/MvRenderingSources.h"
 #include "MvFoto/MvFotoPass.h"
-#include "MvFoto/MvFotoResolution.h"
 #include "MvProject/MvProject.h"
 
-#include <QFileInfo>
 #include <QPainter>
 #include <QTimerEvent>
 
@@ -24,8 +24,6 @@ namespace {
 constexpr int shadowWidth = 44; // tenths of a millimetre
 constexpr int shadowSteps = 16;
 const QColor shadowColor(0, 0, 0, 4);
-const QColor placeholderColor(0xe4, 0xe6, 0xe9);
-const QColor placeholderTextColor(0x55, 0x5b, 0x63);
 
 /// Translation in whole pixels; what is left of the transform decides how the pixels look.
 QPoint takeWholePixels(QTransform *transform)
@@ -90,8 +88,15 @@ void MvPageItem::setTrial(const std::optional<MvCalendarPage> &page)
 
 QRectF MvPageItem::fotoRect() const
 {
-    const MvFotoFrame &frame = m_shown.fotoFrame();
-    return frame.isValid() ? frame.rect(m_project->document().format()) & m_pageRect : QRectF();
+    for (const MvPageElement &element : m_elements)
+        if (element.foto() && !element.foto()->isEmpty())
+            return element.rect() & m_pageRect;
+    return {};
+}
+
+const MvFotoElement *MvPageItem::foto(int element) const
+{
+    return element >= 0 && element < m_elements.size() ? m_elements.at(element).foto() : nullptr;
 }
 
 QDate MvPageItem::dateAt(const QPointF &point) const
@@ -142,6 +147,7 @@ void MvPageItem::refreshNow()
         prepareGeometryChange();
         m_pageRect = pageRect;
     }
+    m_elements = isThere ? m_shown.elementsOn(document.format()) : QList<MvPageElement>();
     record();
     discardCache();
     Q_EMIT refreshed();
@@ -232,7 +238,7 @@ void MvPageItem::paintInto(QPainter &painter) const
     painter.fillRect(m_pageRect, Qt::white);
     painter.setClipRect(m_pageRect);
     m_shown.paintGround(painter, m_project->document().format());
-    paintFoto(painter);
+    paintFotos(painter);
     m_recording.replay(painter);
 }
 
@@ -247,36 +253,15 @@ void MvPageItem::paintShadow(QPainter &painter) const
     }
 }
 
-void MvPageItem::paintFoto(QPainter &painter) const
+void MvPageItem::paintFotos(QPainter &painter) const
 {
-    const MvFotoFrame &frame = m_shown.fotoFrame();
-    if (!frame.isValid())
-        return;
-    const QRectF rect = frame.rect(m_project->document().format());
-    const QImage image = m_fotos->foto(frame.path(), MvScreenFotos::boundsFor(painter.transform().mapRect(rect)));
-    if (image.isNull()) {
-        paintFotoNotice(painter, rect);
-        return;
-    }
-    painter.drawImage(rect, image, frame.crop(image.size(), rect.size()));
-    const QSizeF seen = frame.crop(m_fotos->fullSize(frame.path()), rect.size()).size();
+    MvScreenFotoSource source(*m_fotos);
+    MvRenderingRule(0).encodeInto(painter); // places that stay empty are told about below
+    m_shown.paintFoto(painter, m_project->document().format(), source);
     screenRule().encodeInto(painter);
-    MvFotoResolution::paintWarning(painter, rect, MvFotoResolution::pixelsPerInch(seen, rect.size()));
-}
-
-/// In the photo's place while it is being decoded, or when there is none to be seen.
-void MvPageItem::paintFotoNotice(QPainter &painter, const QRectF &rect) const
-{
-    painter.fillRect(rect, placeholderColor);
-    const QString path = m_shown.fotoFrame().path();
-    const QString text = m_fotos->isUnreadable(path)
-                             ? tr("„%1“ lässt sich nicht lesen.\nDas Kontextmenü ersetzt das Foto durch ein anderes.")
-                                   .arg(QFileInfo(path).fileName())
-                             : tr("Das Foto wird geladen …");
-    painter.save();
-    const QRect pixels = painter.transform().mapRect(rect & m_pageRect).toAlignedRect();
-    painter.resetTransform();
-    painter.setPen(placeholderTextColor);
-    painter.drawText(pixels, Qt::AlignCenter | Qt::TextWordWrap, text);
-    painter.restore();
+    for (const MvPageElement &element : m_elements) // asked for, be they there or not: files come and go
+        if (element.foto())
+            m_fotos->foto(element.foto()->path(),
+                          MvScreenFotos::boundsFor(painter.transform().mapRect(element.rect())));
+    MvFrameNotices::paint(painter, m_elements, m_pageRect, m_fotos.get());
 }

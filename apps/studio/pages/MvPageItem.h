@@ -42,8 +42,12 @@ public:
     void setTrial(const std::optional<MvCalendarPage> &page);
 
     QRectF pageRect() const { return m_pageRect; }
-    /// The photo's part of the trimmed page; empty without a photo.
+    /// Everything that stands on the page as it is shown, in reading order: their places are their numbers.
+    const QList<MvPageElement> &elements() const { return m_elements; }
+    /// The first photo's part of the trimmed page; empty without a photo.
     QRectF fotoRect() const;
+    /// The element's frame if it is one for photos; null otherwise.
+    const MvFotoElement *foto(int element) const;
     /// The day whose cell is at a point of the item; an invalid date when there is none.
     QDate dateAt(const QPointF &point) const;
     /// Empty for a date that the page does not show.
@@ -86,8 +90,7 @@ private:
     void discardCache();
     void paintInto(QPainter &painter) const;
     void paintShadow(QPainter &painter) const;
-    void paintFoto(QPainter &painter) const;
-    void paintFotoNotice(QPainter &painter, const QRectF &rect) const;
+    void paintFotos(QPainter &painter) const;
 
     MvProject *m_project;
     std::unique_ptr<MvScreenFotos> m_fotos;
@@ -95,6 +98,7 @@ private:
     std::unique_ptr<MvGraphicsItemCalendariumCellsManager> m_cells;
     MvCalendarPage m_shown;
     std::optional<MvCalendarPage> m_trial;
+    QList<MvPageElement> m_elements;
     MvCalendarPage m_cellsPage; // what the cells were placed for
     QRectF m_pageRect;
     MvPaintRecording m_recording;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageStrip.h"
 
+#include "common/MvDraggedFotos.h"
 #include "common/MvIdleImages.h"
 #include "pages/MvPageFoto.h"
 #include "pages/MvPageStripDelegate.h"
@@ -15,6 +16,8 @@
 #include "MvProject/MvProject.h"
 
 #include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QMimeData>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -54,6 +57,9 @@ MvPageStrip::MvPageStrip(MvProject *project, QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn); // or its coming would change the width that made it come
     setAcceptDrops(true);
+    setDragEnabled(true);
+    setDefaultDropAction(Qt::MoveAction);
+    m_model->setFotos(m_fotos);
     m_images->setPaused(true); // until somebody sees the strip
     connect(m_images, &MvIdleImages::imageReady, m_model, &MvPageStripModel::updateRow);
     connect(m_fotos, &MvScreenFotos::loaded, this, &MvPageStrip::onFotoLoaded);
@@ -176,7 +182,7 @@ QImage MvPageStrip::makeThumbnail(int page)
     MvFotoPass fotos(*m_entryFotos, page);
     MvRenderingSources sources;
     sources.fotos = &fotos;
-    return MvPageThumbnail::make(document.pages().at(page), document.format(), document.range(), m_thumbnailSize,
+    return MvPageThumbnail::make(document.pages().at(page), document.format(), document.context(), m_thumbnailSize,
                                  devicePixelRatioF(), m_fotos, sources);
 }
 
@@ -184,8 +190,10 @@ void MvPageStrip::onFotoLoaded(const QString &path)
 {
     const QList<MvCalendarPage> &pages = m_project->document().pages();
     for (int page = 0; page < pages.size(); ++page) {
-        if (pages.at(page).fotoFrame().path() == path)
-            m_images->invalidate(page);
+        if (!pages.at(page).fotoPaths().contains(path))
+            continue;
+        m_images->invalidate(page);
+        m_model->updateRow(page);
     }
 }
 
@@ -222,15 +230,17 @@ bool MvPageStrip::event(QEvent *event)
     return QListView::event(event);
 }
 
-// A photo that is dropped on a thumbnail becomes that page's photo.
+// A photo that is dropped on a thumbnail goes to that page, a page to its place.
 
 void MvPageStrip::dragEnterEvent(QDragEnterEvent *event)
 {
-    event->setAccepted(!MvPageFoto::fotoIn(event->mimeData()).isEmpty());
+    event->setAccepted(event->mimeData()->hasFormat(MvPageStripModel::pageFormat) ||
+                       MvDraggedFotos::areIn(event->mimeData()));
 }
 
 void MvPageStrip::dragMoveEvent(QDragMoveEvent *event)
 {
+    QListView::dragMoveEvent(event); // scrolls near the ends
     const QModelIndex index = indexAt(event->position().toPoint());
     event->setAccepted(index.isValid());
     m_isMarking = true; // shows the target without turning to the page
@@ -238,21 +248,44 @@ void MvPageStrip::dragMoveEvent(QDragMoveEvent *event)
     m_isMarking = false;
 }
 
-void MvPageStrip::dragLeaveEvent(QDragLeaveEvent * /*event*/)
+void MvPageStrip::dragLeaveEvent(QDragLeaveEvent *event)
 {
+    QListView::dragLeaveEvent(event);
     selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
 }
 
 void MvPageStrip::dropEvent(QDropEvent *event)
 {
+    stopAutoScroll();
+    setState(NoState);
     const int page = indexAt(event->position().toPoint()).row();
     selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
-    const QString path = MvPageFoto::fotoIn(event->mimeData());
-    if (page < 0 || path.isEmpty())
+    if (page < 0)
         return;
-    MvPageFoto::set(m_project, page, path, this, [this](const QString &error) {
-        if (!error.isEmpty())
-            MvDiskAccessRequest::instance().takeFotosFailed({error}, this);
-    });
     event->acceptProposedAction();
+    const QByteArray moved = event->mimeData()->data(MvPageStripModel::pageFormat);
+    if (moved.isEmpty())
+        takeFotos(event, page);
+    else if (moved.toInt() != page)
+        Q_EMIT moveRequested(moved.toInt(), page);
+}
+
+void MvPageStrip::takeFotos(const QDropEvent *event, int page)
+{
+    const MvCalendarDocument &document = m_project->document();
+    const int element = MvPageFoto::frameForNew(document.pages().at(page), document.format());
+    const QStringList paths = MvDraggedFotos::paths(event->mimeData());
+    const auto frame = MvDraggedFotos::frame(event->mimeData());
+    if (frame) {
+        MvCalendarDocument changed = document;
+        if (changed.swapFotos({frame->first, frame->second}, {page, element}))
+            m_project->change(changed, tr("Fotos tauschen"));
+    } else if (paths.size() == 1 && !QFileInfo(paths.constFirst()).isDir() && element >= 0) {
+        MvPageFoto::set(m_project, {page, element}, paths.constFirst(), this, [this](const QString &error) {
+            if (!error.isEmpty())
+                MvDiskAccessRequest::instance().takeFotosFailed({error}, this);
+        });
+    } else {
+        Q_EMIT fotosDropped(paths, page, element);
+    }
 }

@@ -36,6 +36,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The user chose a page.
     void pageActivated(int page);
+    /// The user dragged a page to the place of another one.
+    void moveRequested(int from, int to);
+    /// Several photos, or folders, were dropped on a page: for its frame and those that follow it.
+    void fotosDropped(const QStringList &paths, int page, int element);
 
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
@@ -52,6 +56,7 @@ protected:
 private:
     void onPagesReset();
     void onFotoLoaded(const QString &path);
+    void takeFotos(const QDropEvent *event, int page);
     void preferVisible();
     void keepNamesWhole();
     void adaptToWidth();

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageStripDelegate.h"
 
+#include "pages/MvFrameNotices.h"
+#include "pages/MvPageStripModel.h"
+
 #include <QImage>
 #include <QPainter>
 #include <QStyle>
@@ -10,6 +13,19 @@ namespace {
 constexpr int textGap = 4;
 constexpr int frameWidth = 2;
 constexpr int corner = 4;
+
+/// A folded corner: this page is not like the others.
+void paintDeviation(QPainter &painter, const QRect &sheet, const QColor &color)
+{
+    constexpr int side = 12;
+    const QPointF tip = sheet.topRight() + QPoint(1, 0);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(color);
+    painter.drawPolygon(QPolygonF({tip, tip - QPointF(side, 0), tip + QPointF(0, side)}));
+    painter.restore();
+}
 
 } // namespace
 
@@ -49,6 +65,13 @@ void MvPageStripDelegate::paint(QPainter *painter, const QStyleOptionViewItem &o
     painter->setPen(option.palette.color(QPalette::Mid));
     painter->setBrush(Qt::NoBrush);
     painter->drawRect(sheet.adjusted(-1, -1, 0, 0));
+
+    const double resolution = index.data(MvPageStripModel::ResolutionRole).toDouble();
+    MvFrameNotices::paintBadge(*painter, QPointF(sheet.right() - 2, sheet.bottom() - option.fontMetrics.height() - 4),
+                               resolution, true);
+    if (index.data(MvPageStripModel::DeviatesRole).toBool())
+        paintDeviation(*painter, sheet, option.palette.color(QPalette::Highlight));
+    painter->setBrush(Qt::NoBrush);
 
     const QRect text(option.rect.left() + margin / 2, sheet.bottom() + 1 + textGap, option.rect.width() - margin,
                      option.fontMetrics.height());

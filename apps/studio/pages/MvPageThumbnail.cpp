@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageThumbnail.h"
 
+#include "pages/MvSampleFoto.h"
+#include "pages/MvScreenFotoSource.h"
 #include "pages/MvScreenFotos.h"
 
 #include "MvProject/MvCalendarPage.h"
@@ -14,22 +16,37 @@ const QColor placeholderColor(0xe4, 0xe6, 0xe9);
 /// So small, lines and letters cover only a part of their pixels: drawn again, they are as dark as they should be.
 constexpr int passes = 2;
 
-void paintFoto(QPainter &painter, const MvFotoFrame &frame, const QRectF &rect, MvScreenFotos *fotos)
+/// What the photos of the page leave: frames that are empty or whose photo is not there yet.
+void paintEmptyFrames(QPainter &painter, const MvCalendarPage &page, const MvPageFormat &format, MvScreenFotos *fotos,
+                      MvPageThumbnail::Empty empty)
 {
-    if (rect.isEmpty())
-        return;
-    const QSize bounds = MvScreenFotos::boundsFor(painter.transform().mapRect(rect));
-    const QImage image = fotos != nullptr ? fotos->foto(frame.path(), bounds) : QImage();
-    if (image.isNull())
-        painter.fillRect(rect, placeholderColor);
-    else
-        painter.drawImage(rect, image, frame.crop(image.size(), rect.size()));
+    int number = 0;
+    for (const MvPageElement &element : page.elementsOn(format)) {
+        const MvFotoElement *foto = element.foto();
+        if (!foto || element.rect().isEmpty())
+            continue;
+        ++number;
+        const QSize bounds = MvScreenFotos::boundsFor(painter.transform().mapRect(element.rect()));
+        if (!foto->isEmpty() && fotos && !fotos->foto(foto->path(), bounds).isNull())
+            continue;
+        const QPointF middle = element.rect().center();
+        painter.save();
+        painter.translate(middle);
+        painter.rotate(element.rotation());
+        painter.translate(-middle);
+        if (empty == MvPageThumbnail::Empty::Sample)
+            MvSampleFoto::paint(painter, element.rect(), number);
+        else
+            painter.fillRect(element.rect(), placeholderColor);
+        painter.restore();
+    }
 }
 
 } // namespace
 
-QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &format, const MvDateRange &range,
-                             const QSize &size, double ratio, MvScreenFotos *fotos, const MvRenderingSources &sources)
+QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &format, const MvPageContext &context,
+                             const QSize &size, double ratio, MvScreenFotos *fotos, const MvRenderingSources &sources,
+                             Empty empty)
 {
     if (!format.isValid() || size.isEmpty())
         return {};
@@ -43,8 +60,14 @@ QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &for
     rule.encodeInto(painter);
     painter.scale(scaleX, scaleY);
     page.paintGround(painter, format);
-    paintFoto(painter, page.fotoFrame(), page.fotoFrame().rect(format), fotos);
-    const MvPaintRecording calendarium = page.record(format, range, {}, rule, scaleX, sources);
+    paintEmptyFrames(painter, page, format, fotos, empty);
+    if (fotos) {
+        MvScreenFotoSource source(*fotos);
+        MvRenderingRule(0).encodeInto(painter); // places without a photo have been painted
+        page.paintFoto(painter, format, source);
+        rule.encodeInto(painter);
+    }
+    const MvPaintRecording calendarium = page.record(format, context, {}, rule, scaleX, sources);
     for (int pass = 0; pass < passes; ++pass)
         calendarium.replay(painter);
     painter.end();

@@ -6,16 +6,20 @@
 
 class MvCalendarPage;
 class MvPageFormat;
-class MvDateRange;
 class MvScreenFotos;
+struct MvPageContext;
 struct MvRenderingSources;
 
 /// Paints a page small, as the strip and choosers show it.
 class MvPageThumbnail
 {
 public:
-    /// The size in logical pixels, which the trimmed page fills; the image carries the ratio. The photo is there when
-    /// it has been decoded; a null pointer leaves its place grey.
-    static QImage make(const MvCalendarPage &page, const MvPageFormat &format, const MvDateRange &range,
-                       const QSize &size, double ratio, MvScreenFotos *fotos, const MvRenderingSources &sources);
+    /// What stands in frames without a photo: a grey field, or a drawn picture.
+    enum class Empty { Grey, Sample };
+
+    /// The size in logical pixels, which the trimmed page fills; the image carries the ratio. Photos are there when
+    /// they have been decoded; without any, for a null pointer, all frames are empty.
+    static QImage make(const MvCalendarPage &page, const MvPageFormat &format, const MvPageContext &context,
+                       const QSize &size, double ratio, MvScreenFotos *fotos, const MvRenderingSources &sources,
+                       Empty empty = Empty::Grey);
 };

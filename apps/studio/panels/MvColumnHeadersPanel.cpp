@@ -47,7 +47,6 @@ MvColumnHeadersPanel::MvColumnHeadersPanel(MvPageEdits *edits, QWidget *parent)
     , m_editor(new MvCalendariumColumnHeadersEditor(this))
 {
     setObjectName(u"columnHeadersPanel"_s);
-    addScopeSwitch();
     auto *column = new QVBoxLayout(m_editing);
     column->setContentsMargins({});
     column->addWidget(m_editor);

@@ -22,7 +22,7 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
     , m_content(new MvCalendariumContentConfigEditor(this, false))
     , m_calendarWeeks(createFeatureBox(u"calendarWeeks"_s, tr("&Kalenderwochen"), FEATURE_CALENDAR_WEEKS))
     , m_publicHolidaysOnly(
-          createFeatureBox(u"publicHolidaysOnly"_s, tr("Nur &gesetzliche Feiertage"), FEATURE_PUBLIC_HOLIDAYS_ONLY))
+          createFeatureBox(u"publicHolidaysOnly"_s, tr("Nur ges&etzliche Feiertage"), FEATURE_PUBLIC_HOLIDAYS_ONLY))
     , m_vacationNamesDaily(
           createFeatureBox(u"vacationNamesDaily"_s, tr("Fe&rien an jedem Tag nennen"), FEATURE_VACATION_NAMES_DAILY))
     , m_vacationHint(
@@ -30,7 +30,6 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
     , m_setup(new MvPageSetupEditor(this))
 {
     setObjectName(u"contentPanel"_s);
-    addScopeSwitch();
     constexpr int regionLetters = 22;
     m_content->setNameLength(regionLetters); // there is room here for long names
     QVBoxLayout *column = addScrollingColumn();

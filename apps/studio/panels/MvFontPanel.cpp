@@ -23,7 +23,6 @@ MvFontPanel::MvFontPanel(MvPageEdits *edits, QWidget *parent)
     , m_reset(new QPushButton(tr("Zurücksetzen"), this))
 {
     setObjectName(u"fontPanel"_s);
-    addScopeSwitch();
     QVBoxLayout *column = addScrollingColumn();
     column->addWidget(m_editor);
     m_editor->setFamilyLength(familyLetters); // there is room here for whole names

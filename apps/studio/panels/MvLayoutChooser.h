@@ -6,9 +6,8 @@
 #include <QWidget>
 
 class MvFotoPages;
-class MvIdleImages;
+class MvPictureList;
 class QLabel;
-class QListWidget;
 
 /// The layouts as small pictures of a page. The pictures arrive after the chooser is shown, one by one.
 class MvLayoutChooser : public QWidget
@@ -37,22 +36,12 @@ Q_SIGNALS:
     /// Chosen for good, by a double click or the return key.
     void activated();
 
-protected:
-    void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-
 private:
-    QImage emptyPicture() const;
-    QRectF sheetRect() const;
-    QImage makePicture(int number) const;
-    void showPicture(int number);
+    QImage makePage(int row, const QSize &sheet, double ratio) const;
     void describeCurrent();
-    void scrollToCurrentSoon();
 
-    QListWidget *m_list;
+    MvPictureList *m_list;
     QLabel *m_description;
-    MvIdleImages *m_images;
     MvFotoPages *m_entryFotos;
     MvCalendarDocument m_document;
-    QSize m_pictureSize;
 };

@@ -56,9 +56,7 @@ void MvPageEdits::setCurrentPage(int page)
 void MvPageEdits::edit(const PageEdit &edit, const QString &text, int mergeId)
 {
     if (m_scope == Scope::CurrentPage) {
-        MvCalendarPage edited = page();
-        edit(edited);
-        m_project->changePage(m_currentPage, edited, text, mergeId);
+        editCurrent(edit, text, mergeId);
         return;
     }
     const auto editAll = [&edit](MvCalendarDocument &document) {
@@ -70,6 +68,13 @@ void MvPageEdits::edit(const PageEdit &edit, const QString &text, int mergeId)
         }
     };
     editDocument(editAll, text, mergeId);
+}
+
+void MvPageEdits::editCurrent(const PageEdit &edit, const QString &text, int mergeId)
+{
+    MvCalendarPage edited = page();
+    edit(edited);
+    m_project->changePage(m_currentPage, edited, text, mergeId);
 }
 
 void MvPageEdits::setLayout(const MvCalendariumLayoutSchemaID &id)

@@ -39,6 +39,8 @@ public:
 
     /// Edits the pages in scope; see MvProject::change() for the merge id.
     void edit(const PageEdit &edit, const QString &text, int mergeId = -1);
+    /// Edits the current page alone, whatever the scope.
+    void editCurrent(const PageEdit &edit, const QString &text, int mergeId = -1);
     /// Gives the pages in scope another layout, with the column headers and the grid that go with it. A layout of years
     /// for all pages divides the calendar anew.
     void setLayout(const MvCalendariumLayoutSchemaID &id);

@@ -2,7 +2,6 @@
 #include "panels/MvPagePanel.h"
 
 #include "panels/MvPageEdits.h"
-#include "panels/MvScopeSwitch.h"
 
 #include <QScopedValueRollback>
 #include <QScrollArea>
@@ -22,11 +21,7 @@ MvPagePanel::MvPagePanel(MvPageEdits *edits, QWidget *parent)
     , m_edits(edits)
     , m_layout(new QVBoxLayout(this))
 {
-    connect(edits, &MvPageEdits::pageRefreshed, this, [this] {
-        m_isOutdated = true;
-        if (isVisible())
-            refresh();
-    });
+    connect(edits, &MvPageEdits::pageRefreshed, this, &MvPagePanel::renew);
 }
 
 MvPagePanel::~MvPagePanel() = default;
@@ -47,11 +42,6 @@ QSize MvPagePanel::minimumSizeHint() const
                            content + area->verticalScrollBar()->sizeHint().width() + margins.left() + margins.right()));
     }
     return size;
-}
-
-void MvPagePanel::addScopeSwitch()
-{
-    m_layout->addWidget(new MvScopeSwitch(m_edits, this));
 }
 
 QVBoxLayout *MvPagePanel::addScrollingColumn()
@@ -75,6 +65,13 @@ void MvPagePanel::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     refresh();
+}
+
+void MvPagePanel::renew()
+{
+    m_isOutdated = true;
+    if (isVisible())
+        refresh();
 }
 
 void MvPagePanel::refresh()

@@ -21,6 +21,10 @@ public:
     /// As wide as its contents: they scroll up and down, and are never cut at the side.
     QSize minimumSizeHint() const override;
 
+public Q_SLOTS:
+    /// Shows the page again, now or when somebody sees the panel.
+    void renew();
+
 protected:
     MvPageEdits *edits() const { return m_edits; }
     bool isShowing() const { return m_isShowing; }
@@ -29,8 +33,6 @@ protected:
 
     /// A column that scrolls when the panel is small, below what was added to the panel before.
     QVBoxLayout *addScrollingColumn();
-    /// The switch between all pages and the current one at the panel's top.
-    void addScopeSwitch();
     QVBoxLayout *panelLayout() const { return m_layout; }
 
     void showEvent(QShowEvent *event) override;

@@ -46,24 +46,27 @@ MvPageSetupEditor::MvPageSetupEditor(QWidget *parent)
     , m_width(createLength(u"paperWidth"_s, 20.0, 3000.0, this))
     , m_height(createLength(u"paperHeight"_s, 20.0, 3000.0, this))
     , m_bleed(createLength(u"bleed"_s, 0.0, 20.0, this))
+    , m_binding(new QComboBox(this))
+    , m_bindingZone(createLength(u"bindingZone"_s, 0.0, 40.0, this))
 {
     auto *form = new QFormLayout(this);
     form->setContentsMargins({});
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addMonths();
     addPaper();
+    addBinding();
     setFormat(MvCalendarDocument().format());
     setRange(MvDateRange::createDefaultCalendarDateRange());
 
-    for (QComboBox *box : {m_month, m_paper, m_orientation})
+    for (QComboBox *box : {m_month, m_paper, m_orientation, m_binding})
         connect(box, &QComboBox::currentIndexChanged, this, &MvPageSetupEditor::onChanged);
     for (MvSpinBox *box : {m_year, m_months})
         connect(box, &MvSpinBox::valueChanged, this, &MvPageSetupEditor::onChanged);
-    for (QDoubleSpinBox *box : {m_width, m_height, m_bleed})
+    for (QDoubleSpinBox *box : {m_width, m_height, m_bleed, m_bindingZone})
         connect(box, &QDoubleSpinBox::valueChanged, this, &MvPageSetupEditor::onChanged);
     auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
     for (QWidget *box : std::initializer_list<QWidget *>{m_month, m_year, m_months, m_paper, m_orientation, m_width,
-                                                         m_height, m_bleed})
+                                                         m_height, m_bleed, m_binding, m_bindingZone})
         box->installEventFilter(keepsWheelOut);
 }
 
@@ -124,6 +127,24 @@ void MvPageSetupEditor::addPaper()
     form->addRow(tr("Bes&chnitt:"), m_bleed);
 }
 
+void MvPageSetupEditor::addBinding()
+{
+    m_binding->setObjectName(u"binding"_s);
+    m_binding->addItem(tr("Keine"), int(MvPageFormat::Binding::None));
+    m_binding->addItem(tr("Oben"), int(MvPageFormat::Binding::Top));
+    m_binding->addItem(tr("Links"), int(MvPageFormat::Binding::Left));
+    m_binding->addItem(tr("Rechts"), int(MvPageFormat::Binding::Right));
+    m_binding->setToolTip(tr("Die Kante mit Spirale oder Aufhänger"));
+    m_bindingZone->setAccessibleName(tr("Breite der Bindung"));
+    m_bindingZone->setToolTip(tr("So breit bleibt die Kante frei von Texten und Kalender"));
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_binding, 1);
+    row->addWidget(m_bindingZone, 1);
+    auto *label = new QLabel(tr("Bin&dung:"), this);
+    label->setBuddy(m_binding);
+    static_cast<QFormLayout *>(layout())->addRow(label, row);
+}
+
 void MvPageSetupEditor::setFormat(const MvPageFormat &format)
 {
     const QSizeF size = format.trimSize();
@@ -139,6 +160,9 @@ void MvPageSetupEditor::setFormat(const MvPageFormat &format)
     m_width->setValue(size.width() / tenths);
     m_height->setValue(size.height() / tenths);
     m_bleed->setValue(format.bleed() / tenths);
+    m_binding->setCurrentIndex(m_binding->findData(int(format.binding())));
+    m_bindingZone->setValue(format.bindingZone() / tenths);
+    m_safeMargin = format.safeMargin();
     onChanged();
 }
 
@@ -150,6 +174,9 @@ MvPageFormat MvPageSetupEditor::format() const
     if (!isOwnPaper())
         format.setOrientation(MvPageFormat::Orientation(m_orientation->currentData().toInt()));
     format.setBleed(inTenths(m_bleed->value()));
+    format.setBinding(MvPageFormat::Binding(m_binding->currentData().toInt()));
+    format.setBindingZone(inTenths(m_bindingZone->value()));
+    format.setSafeMargin(m_safeMargin);
     return format;
 }
 
@@ -185,9 +212,15 @@ void MvPageSetupEditor::onChanged()
 {
     const QLocale locale = MvApplicationLocale::instance().locale();
     m_until->setText(tr("bis %1").arg(locale.toString(range().end(), u"MMMM yyyy"_s)));
-    m_orientation->setEnabled(!isOwnPaper());
+    const bool isSquare = format().trimSize().width() == format().trimSize().height();
+    if (isSquare && !isOwnPaper()) { // lies and stands at once
+        const QSignalBlocker noOrientation(m_orientation);
+        m_orientation->setCurrentIndex(m_orientation->findData(int(MvPageFormat::Orientation::Portrait)));
+    }
+    m_orientation->setEnabled(!isOwnPaper() && !isSquare);
     m_width->setEnabled(isOwnPaper());
     m_height->setEnabled(isOwnPaper());
+    m_bindingZone->setEnabled(m_binding->currentData().toInt() != int(MvPageFormat::Binding::None));
     if (!isOwnPaper()) {
         const QSizeF size = format().trimSize();
         const QSignalBlocker noWidth(m_width);

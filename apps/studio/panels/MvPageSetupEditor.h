@@ -10,7 +10,7 @@ class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
 
-/// Paper, orientation, bleed and months of a calendar.
+/// Paper, orientation, bleed, binding and months of a calendar.
 class MvPageSetupEditor : public QWidget
 {
     Q_OBJECT
@@ -37,6 +37,7 @@ Q_SIGNALS:
 
 private:
     void addPaper();
+    void addBinding();
     void addMonths();
     void onChanged();
     bool isOwnPaper() const;
@@ -50,4 +51,7 @@ private:
     QDoubleSpinBox *m_width;
     QDoubleSpinBox *m_height;
     QDoubleSpinBox *m_bleed;
+    QComboBox *m_binding;
+    QDoubleSpinBox *m_bindingZone;
+    double m_safeMargin = MvPageFormat::defaultSafeMargin; // is kept
 };

@@ -1,15 +1,20 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "pages/MvPageSelection.h"
+
+#include <QList>
 #include <QString>
 
 class QWidget;
 
-/// What a window needs to show a panel in a dock.
+/// What the inspector needs to show a panel.
 struct MvStudioPanel
 {
     QString objectName;
     QString title;
-    QString iconName; // for MvIconRegistry
     QWidget *widget = nullptr;
+    /// Shown while something of these kinds is chosen.
+    QList<MvPageSelection::Kind> about = {MvPageSelection::Kind::Calendar};
+    bool hasScope = true; // what it changes, it changes on all pages or on one
 };

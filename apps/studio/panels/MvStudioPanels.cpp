@@ -1,11 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "panels/MvStudioPanels.h"
 
+#include "panels/MvColorPanel.h"
 #include "panels/MvColumnHeadersPanel.h"
 #include "panels/MvContentPanel.h"
+#include "panels/MvDayPanel.h"
 #include "panels/MvFontPanel.h"
+#include "panels/MvFotoPanel.h"
 #include "panels/MvLayoutPanel.h"
 #include "panels/MvPageEdits.h"
+#include "panels/MvTemplatePanel.h"
+#include "panels/MvTextPanel.h"
+#include "panels/MvThemePanel.h"
 
 #include "MvCalendar/MvCalendarEventListWidget.h"
 #include "MvProject/MvProject.h"
@@ -56,18 +62,43 @@ QWidget *createEntriesPanel(MvStudioPanels *panels, MvSession &session, QWidget 
 
 } // namespace
 
-MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent)
+MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelection *selection)
     : QObject(parent)
     , m_edits(new MvPageEdits(project, this))
 {
     m_panels = {
-        {u"contentPanel"_s, tr("Inhalt"), u"ico_studio_content"_s, new MvContentPanel(m_edits, parent)},
-        {u"layoutPanel"_s, tr("Gestaltung"), u"ico_studio_colors"_s, new MvLayoutPanel(m_edits, parent)},
-        {u"fontPanel"_s, tr("Schriften"), u"ico_studio_fonts"_s, new MvFontPanel(m_edits, parent)},
-        {u"columnHeadersPanel"_s, tr("Spalten"), u"ico_studio_column_headers"_s,
-         new MvColumnHeadersPanel(m_edits, parent)},
-        {u"entriesPanel"_s, tr("Einträge"), u"ico_studio_entries"_s,
-         createEntriesPanel(this, project->session(), parent)},
+        {u"themePanel"_s,
+         tr("Gestaltung"),
+         new MvThemePanel(m_edits, parent),
+         {MvPageSelection::Kind::Calendar},
+         false},
+        {u"templatePanel"_s,
+         tr("Vorlage der Seite"),
+         new MvTemplatePanel(m_edits, parent),
+         {MvPageSelection::Kind::Calendar, MvPageSelection::Kind::Foto, MvPageSelection::Kind::Text}},
+        {u"contentPanel"_s, tr("Inhalt"), new MvContentPanel(m_edits, parent)},
+        {u"layoutPanel"_s, tr("Layout"), new MvLayoutPanel(m_edits, parent)},
+        {u"colorPanel"_s, tr("Farben"), new MvColorPanel(m_edits, parent)},
+        {u"fontPanel"_s, tr("Schriften"), new MvFontPanel(m_edits, parent)},
+        {u"columnHeadersPanel"_s, tr("Spalten"), new MvColumnHeadersPanel(m_edits, parent)},
+        {u"entriesPanel"_s,
+         tr("Einträge"),
+         createEntriesPanel(this, project->session(), parent),
+         {MvPageSelection::Kind::Calendar},
+         false},
+    };
+    if (!selection)
+        return;
+    auto *foto = new MvFotoPanel(m_edits, selection, parent);
+    connect(foto, &MvFotoPanel::fileRequested, this, &MvStudioPanels::fileRequested);
+    m_selectionPanels = {
+        {u"photoPanel"_s, tr("Foto"), foto, {MvPageSelection::Kind::Foto}},
+        {u"textPanel"_s, tr("Text"), new MvTextPanel(m_edits, selection, parent), {MvPageSelection::Kind::Text}, false},
+        {u"dayPanel"_s,
+         tr("Einträge des Tages"),
+         new MvDayPanel(m_edits, selection, parent),
+         {MvPageSelection::Kind::Day},
+         false},
     };
 }
 

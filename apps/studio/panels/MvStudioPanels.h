@@ -15,13 +15,16 @@ class MvStudioPanels : public QObject
     Q_OBJECT
 
 public:
-    /// The widgets are children of `parent`, which also owns this object, until a dock takes them. The project is not
-    /// owned and must outlive them.
-    explicit MvStudioPanels(MvProject *project, QWidget *parent);
+    /// The widgets are children of `parent`, which also owns this object, until the inspector takes them. The project
+    /// is not owned and must outlive them, nor is the selection; without one there are the panels of the calendar
+    /// alone.
+    MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelection *selection = nullptr);
     ~MvStudioPanels() override;
 
-    /// Content, layout and colours, fonts, column headers, entries.
+    /// Those of the calendar: theme, content, layout, colours, fonts, column headers, entries.
     QList<MvStudioPanel> panels() const { return m_panels; }
+    /// Those of what is chosen on the page.
+    QList<MvStudioPanel> selectionPanels() const { return m_selectionPanels; }
 
     /// What an edit applies to: every page, as at first, or the current one alone.
     MvPageEdits *edits() const { return m_edits; }
@@ -32,8 +35,11 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// Somebody wants to see what is on another page.
     void pageRequested(int page);
+    /// Somebody wants to choose a file for the chosen frame.
+    void fileRequested();
 
 private:
     MvPageEdits *m_edits;
     QList<MvStudioPanel> m_panels;
+    QList<MvStudioPanel> m_selectionPanels;
 };

@@ -39,17 +39,17 @@ QList<Row> fileRows()
          MvStudioActions::tr("Den Kalender als PDF für die Druckerei schreiben")},
         {A::ExportPng, "exportPng", "export_png", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
          MvStudioActions::tr("Als B&ilder exportieren …"), MvStudioActions::tr("Jede Seite als PNG-Bild schreiben")},
+        {A::PrintCheck,
+         "printCheck",
+         "warning",
+         {},
+         MvStudioActions::tr("Vor dem D&ruck prüfen …"),
+         MvStudioActions::tr("Alles auflisten, was nicht gut gedruckt würde")},
         {A::Print, "print", "print", QKeySequence::Print, MvStudioActions::tr("&Drucken …"),
          MvStudioActions::tr("Die Druckvorschau zeigen und den Kalender drucken")},
         {A::ImportBirthdays, "importBirthdays", "import_contacts", QKeySequence(Qt::CTRL | Qt::Key_I),
          MvStudioActions::tr("&Geburtstage importieren …"),
          MvStudioActions::tr("Geburtstage aus einem Adressbuch (vCard) übernehmen")},
-        {A::FindFotos,
-         "findPhotos",
-         "photo_add",
-         {},
-         MvStudioActions::tr("Feh&lende Fotos suchen …"),
-         MvStudioActions::tr("Fotos, die nicht mehr an ihrem Platz sind, in einem Ordner wiederfinden")},
         {A::Quit, "quit", "quit", QKeySequence(Qt::CTRL | Qt::Key_Q), MvStudioActions::tr("&Beenden"),
          MvStudioActions::tr("Das Programm beenden")},
         {A::Settings, "settings", "settings", QKeySequence(Qt::CTRL | Qt::Key_Comma),
@@ -71,12 +71,18 @@ QList<Row> viewRows()
          MvStudioActions::tr("Die Seite so groß zeigen, wie sie gedruckt wird")},
         {A::FullScreen, "fullScreen", "full_screen", QKeySequence(Qt::Key_F11), MvStudioActions::tr("&Vollbild"),
          MvStudioActions::tr("Das Fenster über den ganzen Bildschirm breiten")},
+        {A::PrintMarks,
+         "printMarks",
+         "page_setup",
+         {},
+         MvStudioActions::tr("Schnitt, Rand und &Bindung"),
+         MvStudioActions::tr("Auf der Seite zeigen, wo geschnitten und gebunden wird und wo nichts stehen sollte")},
         {A::Welcome,
          "showWelcome",
          "welcome",
          {},
-         MvStudioActions::tr("Erste &Schritte"),
-         MvStudioActions::tr("Die Wege zum eigenen Kalender zeigen")},
+         MvStudioActions::tr("&Startseite"),
+         MvStudioActions::tr("Einen neuen Kalender beginnen oder einen der letzten öffnen")},
         {A::Shortcuts, "shortcuts", "help", QKeySequence(Qt::Key_F1), MvStudioActions::tr("&Tastenkürzel"),
          MvStudioActions::tr("Alle Tastenkürzel auflisten")},
         {A::About,
@@ -92,19 +98,6 @@ QList<Row> pageRows()
 {
     using A = MvStudioActions;
     return {
-        {A::Layout, "chooseLayout", "layout", QKeySequence(Qt::CTRL | Qt::Key_L),
-         MvStudioActions::tr("&Layout wählen …"), MvStudioActions::tr("Ein Layout für alle Seiten aus Bildern wählen")},
-        {A::PageSetup, "pageSetup", "page_setup", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
-         MvStudioActions::tr("&Papier und Zeitraum …"),
-         MvStudioActions::tr("Papier, Ausrichtung und Monate des Kalenders ändern")},
-        {A::ChooseFoto, "choosePhoto", "photo_add", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F),
-         MvStudioActions::tr("&Foto wählen …"), MvStudioActions::tr("Der gezeigten Seite ein Foto geben")},
-        {A::RemoveFoto,
-         "removePhoto",
-         "remove",
-         {},
-         MvStudioActions::tr("Foto entfe&rnen"),
-         MvStudioActions::tr("Das Foto der gezeigten Seite entfernen")},
         {A::PreviousPage, "previousPage", "page_previous", QKeySequence(Qt::CTRL | Qt::Key_PageUp),
          MvStudioActions::tr("&Vorige Seite"), MvStudioActions::tr("Zur vorigen Seite gehen")},
         {A::NextPage, "nextPage", "page_next", QKeySequence(Qt::CTRL | Qt::Key_PageDown),
@@ -113,6 +106,98 @@ QList<Row> pageRows()
          MvStudioActions::tr("&Erste Seite"), MvStudioActions::tr("Zur ersten Seite gehen")},
         {A::LastPage, "lastPage", "page_last", QKeySequence(Qt::CTRL | Qt::Key_End),
          MvStudioActions::tr("Le&tzte Seite"), MvStudioActions::tr("Zur letzten Seite gehen")},
+        {A::AddPage,
+         "addPage",
+         "document_new",
+         {},
+         MvStudioActions::tr("Seite e&infügen"),
+         MvStudioActions::tr("Hinter der gezeigten Seite eine weitere für Fotos einfügen")},
+        {A::AddCover,
+         "addCover",
+         "page_first",
+         {},
+         MvStudioActions::tr("Tite&lblatt einfügen"),
+         MvStudioActions::tr("Dem Kalender ein Titelblatt geben")},
+        {A::AddBack,
+         "addBack",
+         "page_last",
+         {},
+         MvStudioActions::tr("&Rückseite einfügen"),
+         MvStudioActions::tr("Dem Kalender eine Rückseite geben")},
+        {A::DuplicatePage,
+         "duplicatePage",
+         "document_save_as",
+         {},
+         MvStudioActions::tr("Seite verd&oppeln"),
+         MvStudioActions::tr("Hinter der gezeigten Seite eine einfügen, die ihr gleicht")},
+        {A::MovePageUp, "movePageUp", "page_previous", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageUp),
+         MvStudioActions::tr("Nach vorn s&chieben"), MvStudioActions::tr("Die gezeigte Seite vor die vorige schieben")},
+        {A::MovePageDown, "movePageDown", "page_next", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_PageDown),
+         MvStudioActions::tr("Nach &hinten schieben"),
+         MvStudioActions::tr("Die gezeigte Seite hinter die nächste schieben")},
+        {A::RemovePage,
+         "removePage",
+         "remove",
+         {},
+         MvStudioActions::tr("Seite ent&fernen"),
+         MvStudioActions::tr("Die gezeigte Seite entfernen; Seiten von Monaten bleiben")},
+        {A::NextElement, "nextElement", "layout", QKeySequence(Qt::Key_F7),
+         MvStudioActions::tr("Nächsten Rah&men wählen"),
+         MvStudioActions::tr("Auf der Seite von Foto zu Foto und Text zu Text gehen")},
+    };
+}
+
+QList<Row> fotoRows()
+{
+    using A = MvStudioActions;
+    return {
+        {A::AddFotos, "addPhotos", "photo_add", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A),
+         MvStudioActions::tr("Fotos hin&zufügen …"),
+         MvStudioActions::tr("Fotos zum Kalender nehmen; sie liegen dann unter der Seite bereit")},
+        {A::AddFolder,
+         "addPhotoFolder",
+         "document_open",
+         {},
+         MvStudioActions::tr("&Ordner hinzufügen …"),
+         MvStudioActions::tr("Alle Fotos eines Ordners zum Kalender nehmen")},
+        {A::Distribute, "distributePhotos", "content", QKeySequence(Qt::CTRL | Qt::Key_D),
+         MvStudioActions::tr("Auf die Seiten &verteilen"),
+         MvStudioActions::tr("Die leeren Rahmen füllen: Jedes Foto kommt in seinen Monat")},
+        {A::ChooseFoto, "choosePhoto", "photo_add", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_F),
+         MvStudioActions::tr("&Foto wählen …"), MvStudioActions::tr("Der gezeigten Seite ein Foto geben")},
+        {A::RemoveFoto,
+         "removePhoto",
+         "remove",
+         {},
+         MvStudioActions::tr("Foto entfe&rnen"),
+         MvStudioActions::tr("Das Foto der gezeigten Seite entfernen")},
+        {A::FindFotos,
+         "findPhotos",
+         "photo_add",
+         {},
+         MvStudioActions::tr("Feh&lende Fotos suchen …"),
+         MvStudioActions::tr("Fotos, die nicht mehr an ihrem Platz sind, in einem Ordner wiederfinden")},
+    };
+}
+
+QList<Row> lookRows()
+{
+    using A = MvStudioActions;
+    return {
+        {A::Theme, "chooseTheme", "colors", QKeySequence(Qt::CTRL | Qt::Key_T),
+         MvStudioActions::tr("&Gestaltung wählen"),
+         MvStudioActions::tr("Layout, Farben, Schriften und Vorlagen aller Seiten auf einmal wählen")},
+        {A::Template,
+         "chooseTemplate",
+         "layout",
+         {},
+         MvStudioActions::tr("&Vorlage der Seite"),
+         MvStudioActions::tr("Wählen, wie Fotos, Texte und Kalender auf der Seite stehen")},
+        {A::Layout, "chooseLayout", "layout", QKeySequence(Qt::CTRL | Qt::Key_L),
+         MvStudioActions::tr("&Layout wählen …"), MvStudioActions::tr("Ein Layout für alle Seiten aus Bildern wählen")},
+        {A::PageSetup, "pageSetup", "page_setup", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
+         MvStudioActions::tr("&Papier und Zeitraum …"),
+         MvStudioActions::tr("Papier, Ausrichtung und Monate des Kalenders ändern")},
     };
 }
 
@@ -121,7 +206,7 @@ QList<Row> pageRows()
 MvStudioActions::MvStudioActions(QWidget *parent)
     : QObject(parent)
 {
-    for (const Row &row : fileRows() + viewRows() + pageRows()) {
+    for (const Row &row : fileRows() + viewRows() + pageRows() + fotoRows() + lookRows()) {
         auto *action = new QAction(row.text, parent);
         action->setObjectName(QLatin1StringView(row.name));
         action->setShortcut(row.shortcut);
@@ -140,6 +225,7 @@ MvStudioActions::MvStudioActions(QWidget *parent)
     m_actions.value(Settings)->setMenuRole(QAction::PreferencesRole);
     m_actions.value(FullScreen)->setCheckable(true);
     m_actions.value(Welcome)->setCheckable(true);
+    m_actions.value(PrintMarks)->setCheckable(true);
 }
 
 bool MvStudioActions::eventFilter(QObject *watched, QEvent *event)

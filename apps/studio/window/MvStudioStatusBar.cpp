@@ -92,16 +92,23 @@ void MvStudioStatusBar::setZoom(double zoom, bool isFitted)
     m_zoom->setAccessibleDescription(percent);
 }
 
+void MvStudioStatusBar::setPageShown(bool shown)
+{
+    m_page->setVisible(shown);
+    m_zoom->setVisible(shown);
+}
+
 void MvStudioStatusBar::setUnfitting(const QList<MvUnfittingWatch::Entry> &entries)
 {
     m_entries = entries;
-    const bool areTexts = std::all_of(entries.begin(), entries.end(),
-                                      [](const MvUnfittingWatch::Entry &entry) { return entry.isAboutRoom(); });
+    const bool areTexts = std::all_of(entries.begin(), entries.end(), [](const MvUnfittingWatch::Entry &entry) {
+        return entry.kind == MvUnfittingWatch::Entry::Kind::CutText;
+    });
     const int count = int(entries.size());
     m_unfitting->setText(areTexts ? tr("%n Texte ohne Platz", nullptr, count)
                                   : tr("%n Hinweise zum Druck", nullptr, count));
     m_unfitting->setToolTip(areTexts ? tr("Diese Texte mussten gekürzt werden, weil ihr Tag zu wenig Platz hat")
-                                     : tr("Texte ohne Platz, fehlende Zeichen und Fotos mit zu wenigen Bildpunkten"));
+                                     : tr("Alles, was nicht gut gedruckt würde; ein Klick führt hin"));
     m_unfitting->setAccessibleName(m_unfitting->text());
     m_unfitting->setVisible(!entries.isEmpty());
 }
@@ -131,7 +138,7 @@ void MvStudioStatusBar::fillMenu()
     menu->clear();
     for (const MvUnfittingWatch::Entry &entry : m_entries.mid(0, mostMenuEntries)) {
         QAction *action = menu->addAction(entry.toString().replace(u'&', u"&&"_s));
-        connect(action, &QAction::triggered, this, [this, page = entry.page] { Q_EMIT pageRequested(page); });
+        connect(action, &QAction::triggered, this, [this, entry] { Q_EMIT noteChosen(entry); });
     }
     if (m_entries.size() > mostMenuEntries)
         menu->addAction(tr("… und %1 weitere").arg(m_entries.size() - mostMenuEntries))->setEnabled(false);

@@ -20,6 +20,8 @@ public:
     /// Number of the page, counted from 0, and what it shows: "Seite 3 von 12 · März 2027".
     void setPage(int page, int pageCount, const QString &title);
     void setZoom(double zoom, bool isFitted);
+    /// While no page is to be seen, neither are its number and its zoom.
+    void setPageShown(bool shown);
     void setUnfitting(const QList<MvUnfittingWatch::Entry> &entries);
     /// What is wrong with the file of entries, in few words; empty when nothing is.
     void setEntriesNotice(const QString &text);
@@ -27,7 +29,8 @@ public:
 Q_SIGNALS:
     void zoomRequested(double zoom);
     void fitRequested();
-    void pageRequested(int page);
+    /// Somebody wants to see what it is about.
+    void noteChosen(const MvUnfittingWatch::Entry &note);
     void entriesNoticeClicked();
 
 private:

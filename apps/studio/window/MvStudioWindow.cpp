@@ -2,42 +2,48 @@
 #include "window/MvStudioWindow.h"
 
 #include "MvCore/MvProactiveHelpController.h"
-#include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvProject/MvCalendarTitle.h"
+#include "MvProject/MvPrintCheck.h"
 #include "MvProject/MvProject.h"
 #include "common/MvCalendarHabits.h"
+#include "common/MvDraggedFotos.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvDocumentDialog.h"
 #include "flows/MvEntriesFlow.h"
 #include "flows/MvExportFlow.h"
+#include "flows/MvFotoFlow.h"
 #include "flows/MvMissingFotos.h"
+#include "flows/MvPageFlow.h"
+#include "flows/MvPrintCheckDialog.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvProjectFlow.h"
 #include "pages/MvPageCanvas.h"
+#include "pages/MvPageSelection.h"
 #include "pages/MvPageStrip.h"
+#include "panels/MvInspector.h"
 #include "panels/MvStudioPanels.h"
-#include "window/MvDockTitles.h"
+#include "start/MvStartPage.h"
+#include "tray/MvFotoTray.h"
 #include "window/MvHelpDialogs.h"
 #include "window/MvLeapDayHint.h"
 #include "window/MvSettingsDialog.h"
 #include "window/MvStudioActions.h"
+#include "window/MvStudioMenus.h"
 #include "window/MvStudioStatusBar.h"
 #include "window/MvUndoActions.h"
 #include "window/MvUnfittingWatch.h"
-#include "window/MvWelcomePanel.h"
 
+#include <QAction>
 #include <QCloseEvent>
-#include <QDir>
 #include <QDockWidget>
-#include <QMenuBar>
+#include <QMenu>
 #include <QMimeData>
 #include <QScreen>
-#include <QTabBar>
+#include <QStackedWidget>
+#include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -45,9 +51,8 @@ namespace {
 
 constexpr QSize firstSize(1600, 1000);
 constexpr QSize frame(8, 40);     // what window managers put around it at most, as a rule
-constexpr int widestPanel = 420;  // at first; the page is what it is about
 constexpr int messageTime = 8000; // milliseconds
-constexpr int stateVersion = 1;   // of the arrangement of docks and tool bars
+constexpr int stateVersion = 2;   // of the arrangement of docks and tool bars
 
 /// The one project file that is dragged; empty when something else is.
 QString draggedProject(const QMimeData *data)
@@ -66,10 +71,13 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     , m_project(project)
     , m_actions(new MvStudioActions(this))
     , m_undo(new MvUndoActions(project->session().undo(), this))
+    , m_menus(new MvStudioMenus(m_actions, m_undo, this))
     , m_flow(new MvProjectFlow(project, this))
     , m_export(new MvExportFlow(project, this))
     , m_print(new MvPrintFlow(project, this))
     , m_missingFotos(new MvMissingFotos(project, this))
+    , m_fotos(new MvFotoFlow(project, this))
+    , m_pageFlow(new MvPageFlow(project, this))
     , m_import(new MvBirthdayImport(project->session(), this))
     , m_entries(new MvEntriesFlow(project->session().entries(), this))
     , m_unfitting(new MvUnfittingWatch(project, this))
@@ -79,149 +87,79 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     setAcceptDrops(true);
     setStatusBar(m_statusBar);
     setDockOptions(AnimatedDocks | AllowTabbedDocks | AllowNestedDocks);
-    setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     createCenter();
-    createMenus();
-    createToolBar();
     createDocks();
     connectActions();
+    connectPageActions();
+    connectStart();
+    connectMessages();
     connectPages();
-    setWelcomeShown(MvStudioSettings::isWelcomeShown());
     updateTitle();
     updatePage();
 
     resize(firstSize.boundedTo(screen()->availableSize() - frame));
     restoreGeometry(MvStudioSettings::windowGeometry());
     restoreState(MvStudioSettings::windowState(), stateVersion);
-    m_canvas->setFocus();
+    setStartShown(MvStudioSettings::isWelcomeShown());
 }
 
 MvStudioWindow::~MvStudioWindow() = default;
 
 void MvStudioWindow::createCenter()
 {
-    auto *center = new QWidget(this);
-    m_welcome = new MvWelcomePanel(center);
-    m_canvas = new MvPageCanvas(m_project, center);
-    auto *column = new QVBoxLayout(center);
-    column->setContentsMargins({});
-    column->setSpacing(0);
-    column->addWidget(m_welcome);
-    column->addWidget(m_canvas, 1);
-    setCentralWidget(center);
+    m_center = new QStackedWidget(this);
+    m_canvas = new MvPageCanvas(m_project, m_center);
+    m_start = new MvStartPage(m_center);
+    m_center->addWidget(m_canvas);
+    m_center->addWidget(m_start);
+    setCentralWidget(m_center);
 }
 
 void MvStudioWindow::createDocks()
 {
-    auto *pages = new QDockWidget(tr("Seiten"), this);
-    pages->setObjectName(u"pagesDock"_s);
-    m_strip = new MvPageStrip(m_project, pages);
-    pages->setWidget(m_strip);
-    addDockWidget(Qt::LeftDockWidgetArea, pages);
-    m_viewMenu->addAction(pages->toggleViewAction());
-    addPanels();
+    m_strip = new MvPageStrip(m_project, this);
+    m_tray = new MvFotoTray(m_project, this);
+    m_panels = new MvStudioPanels(m_project, this, m_canvas->selection());
+    m_inspector = new MvInspector(m_panels, m_canvas->selection(), this);
+    addDock("pagesDock", tr("Seiten"), createPagesPanel(), Qt::LeftDockWidgetArea);
+    addDock("inspectorDock", tr("Eigenschaften"), m_inspector, Qt::RightDockWidgetArea);
+    addDock("photosDock", tr("Fotos"), m_tray, Qt::BottomDockWidgetArea);
 }
 
-void MvStudioWindow::addPanels()
+/// The strip above a row of what can be done with pages.
+QWidget *MvStudioWindow::createPagesPanel()
 {
-    m_panels = new MvStudioPanels(m_project, this);
-    auto *titles = new MvDockTitles(this);
-    QDockWidget *first = nullptr;
-    for (const MvStudioPanel &panel : m_panels->panels()) {
-        auto *dock = new QDockWidget(panel.title, this);
-        dock->setObjectName(panel.objectName + u"Dock"_s);
-        dock->setWidget(panel.widget);
-        titles->add(dock);
-        dock->toggleViewAction()->setIcon(MvIconRegistry::instance().icon(panel.iconName));
-        dock->toggleViewAction()->setIconVisibleInMenu(false); // the tick can be seen
-        addDockWidget(Qt::RightDockWidgetArea, dock);
-        m_viewMenu->addAction(dock->toggleViewAction());
-        if (first)
-            tabifyDockWidget(first, dock);
-        else
-            first = dock;
-    }
-    if (!first)
-        return;
-    first->raise();
-    const int narrowest = widthOfTabs();
-    int widest = 0;
-    for (const MvStudioPanel &panel : m_panels->panels()) {
-        panel.widget->setMinimumWidth(qMax(panel.widget->minimumSizeHint().width(), narrowest));
-        widest = qMax(widest, qMin(panel.widget->sizeHint().width(), widestPanel));
-    }
-    resizeDocks({first}, {widest}, Qt::Horizontal);
-}
-
-/// Of the panels' tabs side by side, with their whole texts.
-int MvStudioWindow::widthOfTabs() const
-{
-    QTabBar tabs;
-    tabs.setElideMode(Qt::ElideNone);
-    for (const MvStudioPanel &panel : m_panels->panels())
-        tabs.addTab(panel.title);
-    return tabs.sizeHint().width();
-}
-
-void MvStudioWindow::createMenus()
-{
-    const auto action = [this](MvStudioActions::Id id) { return m_actions->action(id); };
     using A = MvStudioActions;
-    QMenu *file = menuBar()->addMenu(tr("&Datei"));
-    file->addActions({action(A::New), action(A::Open)});
-    m_recentMenu = file->addMenu(MvIconRegistry::instance().icon(u"ico_studio_recent"_s), tr("&Zuletzt geöffnet"));
-    m_recentMenu->setObjectName(u"recentMenu"_s);
-    file->addSeparator();
-    file->addActions({action(A::Save), action(A::SaveAs)});
-    file->addSeparator();
-    file->addActions({action(A::ImportBirthdays), action(A::FindFotos)});
-    file->addSeparator();
-    file->addActions({action(A::ExportPdf), action(A::ExportPng), action(A::Print)});
-    file->addSeparator();
-    file->addAction(action(A::Quit));
-
-    QMenu *edit = menuBar()->addMenu(tr("&Bearbeiten"));
-    edit->addActions({m_undo->undoAction(), m_undo->redoAction()});
-    edit->addSeparator();
-    edit->addAction(action(A::Settings));
-
-    m_viewMenu = menuBar()->addMenu(tr("&Ansicht"));
-    m_viewMenu->addActions({action(A::ZoomIn), action(A::ZoomOut), action(A::Zoom100), action(A::ZoomFit)});
-    m_viewMenu->addSeparator();
-    m_viewMenu->addActions({action(A::FullScreen), action(A::Welcome)});
-    m_viewMenu->addSeparator();
-
-    QMenu *page = menuBar()->addMenu(tr("&Seite"));
-    page->addActions({action(A::PreviousPage), action(A::NextPage), action(A::FirstPage), action(A::LastPage)});
-    page->addSeparator();
-    page->addActions({action(A::ChooseFoto), action(A::RemoveFoto)});
-    page->addSeparator();
-    page->addActions({action(A::Layout), action(A::PageSetup)});
-
-    QMenu *help = menuBar()->addMenu(tr("&Hilfe"));
-    help->addActions({action(A::Shortcuts), action(A::About)});
-    fillRecentMenu();
+    auto *panel = new QWidget(this);
+    auto *row = new QToolBar(tr("Seiten bearbeiten"), panel);
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    row->setIconSize({side, side});
+    row->addActions({m_actions->action(A::AddPage), m_actions->action(A::DuplicatePage),
+                     m_actions->action(A::MovePageUp), m_actions->action(A::MovePageDown),
+                     m_actions->action(A::RemovePage)});
+    auto *column = new QVBoxLayout(panel);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(m_strip, 1);
+    column->addWidget(row);
+    m_strip->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_strip->addActions({m_actions->action(A::AddPage), m_actions->action(A::AddCover), m_actions->action(A::AddBack),
+                         m_actions->action(A::DuplicatePage), m_actions->action(A::MovePageUp),
+                         m_actions->action(A::MovePageDown), m_actions->action(A::RemovePage)});
+    return panel;
 }
 
-void MvStudioWindow::createToolBar()
+void MvStudioWindow::addDock(const char *name, const QString &title, QWidget *content, Qt::DockWidgetArea area)
 {
-    QToolBar *bar = addToolBar(tr("Werkzeuge"));
-    bar->setObjectName(u"toolBar"_s);
-    bar->setMovable(false);
-    const auto add = [&](std::initializer_list<MvStudioActions::Id> ids) {
-        for (const MvStudioActions::Id id : ids)
-            bar->addAction(m_actions->action(id));
-        bar->addSeparator();
-    };
-    using A = MvStudioActions;
-    add({A::New, A::Open, A::Save});
-    bar->addActions({m_undo->undoAction(), m_undo->redoAction()});
-    bar->addSeparator();
-    add({A::ChooseFoto, A::Layout, A::ImportBirthdays});
-    add({A::PreviousPage, A::NextPage});
-    add({A::ZoomOut, A::ZoomIn, A::ZoomFit});
-    bar->addActions({m_actions->action(A::ExportPdf), m_actions->action(A::Print)});
-    m_viewMenu->addAction(bar->toggleViewAction());
+    auto *dock = new QDockWidget(title, this);
+    dock->setObjectName(QLatin1StringView(name));
+    dock->setWidget(content);
+    addDockWidget(area, dock);
+    if (area != Qt::LeftDockWidgetArea)
+        dock->setTitleBarWidget(new QWidget(dock)); // the content has a head of its own
+    m_menus->viewMenu()->addAction(dock->toggleViewAction());
 }
 
 void MvStudioWindow::connectActions()
@@ -246,36 +184,98 @@ void MvStudioWindow::connectActions()
     on(A::ZoomFit, m_canvas, &MvPageCanvas::zoomToFit);
     on(A::Zoom100, this, [this] { m_canvas->setZoom(1.0); });
     on(A::FullScreen, this, [this](bool isFull) { isFull ? showFullScreen() : showNormal(); });
-    on(A::Welcome, this, &MvStudioWindow::setWelcomeShown);
-    on(A::NextPage, m_canvas, &MvPageCanvas::nextPage);
-    on(A::PreviousPage, m_canvas, &MvPageCanvas::previousPage);
-    on(A::FirstPage, this, [this] { setCurrentPage(0); });
-    on(A::LastPage, this, [this] { setCurrentPage(int(m_project->document().pages().size()) - 1); });
-    on(A::ChooseFoto, m_canvas, &MvPageCanvas::chooseFoto);
-    on(A::RemoveFoto, m_canvas, &MvPageCanvas::removePhoto);
+    on(A::PrintMarks, m_canvas, &MvPageCanvas::setPrintMarksShown);
+    on(A::Welcome, this, &MvStudioWindow::setStartShown);
+    on(A::Theme, this, [this] { m_inspector->open(u"themePanel"_s); });
+    on(A::Template, this, [this] { m_inspector->open(u"templatePanel"_s); });
     on(A::Layout, this, &MvStudioWindow::chooseLayout);
     on(A::PageSetup, this, &MvStudioWindow::changePageSetup);
+    on(A::PrintCheck, this, &MvStudioWindow::checkPrint);
     on(A::Shortcuts, this, [this] {
         MvHelpDialogs::openShortcuts(m_actions->actions() << m_undo->undoAction() << m_undo->redoAction(), this);
     });
     on(A::About, this, [this] { MvHelpDialogs::openAbout(this); });
+}
 
-    connect(m_welcome, &MvWelcomePanel::layoutRequested, this, &MvStudioWindow::chooseLayout);
-    connect(m_welcome, &MvWelcomePanel::importRequested, m_import, &MvBirthdayImport::start);
-    connect(m_welcome, &MvWelcomePanel::openRequested, m_flow, &MvProjectFlow::askAndOpen);
-    connect(m_welcome, &MvWelcomePanel::recentRequested, m_flow, &MvProjectFlow::open);
+void MvStudioWindow::connectPageActions()
+{
+    using A = MvStudioActions;
+    const auto on = [this](A::Id id, auto *receiver, auto slot) {
+        connect(m_actions->action(id), &QAction::triggered, receiver, slot);
+    };
+    on(A::NextPage, m_canvas, &MvPageCanvas::nextPage);
+    on(A::PreviousPage, m_canvas, &MvPageCanvas::previousPage);
+    on(A::FirstPage, this, [this] { setCurrentPage(0); });
+    on(A::LastPage, this, [this] { setCurrentPage(int(m_project->document().pages().size()) - 1); });
+    on(A::NextElement, this, [this] {
+        m_canvas->setFocus();
+        m_canvas->selection()->selectNext();
+    });
+    on(A::AddFotos, m_fotos, &MvFotoFlow::askForFiles);
+    on(A::AddFolder, m_fotos, &MvFotoFlow::askForFolder);
+    on(A::Distribute, m_fotos, &MvFotoFlow::distribute);
+    on(A::ChooseFoto, m_canvas, &MvPageCanvas::chooseFoto);
+    on(A::RemoveFoto, m_canvas, &MvPageCanvas::removePhoto);
+    on(A::AddPage, this, [this] { m_pageFlow->add(MvPageKind::Free, currentPage() + 1); });
+    on(A::AddCover, this, [this] { m_pageFlow->add(MvPageKind::Cover, 0); });
+    on(A::AddBack, this, [this] { m_pageFlow->add(MvPageKind::Back, int(m_project->document().pages().size())); });
+    on(A::DuplicatePage, this, [this] { m_pageFlow->duplicate(currentPage()); });
+    on(A::RemovePage, this, [this] { m_pageFlow->remove(currentPage()); });
+    on(A::MovePageUp, this, [this] { m_pageFlow->move(currentPage(), currentPage() - 1); });
+    on(A::MovePageDown, this, [this] { m_pageFlow->move(currentPage(), currentPage() + 1); });
+    connect(m_pageFlow, &MvPageFlow::pageRequested, this, &MvStudioWindow::setCurrentPage);
+    connect(m_pageFlow, &MvPageFlow::message, this, &MvStudioWindow::showMessage);
+    connect(m_strip, &MvPageStrip::moveRequested, m_pageFlow, &MvPageFlow::move);
+
+    connect(m_tray, &MvFotoTray::filesRequested, m_fotos, &MvFotoFlow::askForFiles);
+    connect(m_tray, &MvFotoTray::folderRequested, m_fotos, &MvFotoFlow::askForFolder);
+    connect(m_tray, &MvFotoTray::distributionRequested, m_fotos, &MvFotoFlow::distribute);
+    connect(m_tray, &MvFotoTray::pathsDropped, m_fotos, &MvFotoFlow::add);
+    connect(m_tray, &MvFotoTray::cancelRequested, m_fotos, &MvFotoFlow::cancel);
+    connect(m_tray, &MvFotoTray::fotoActivated, m_canvas, &MvPageCanvas::setFoto);
+    connect(m_tray, &MvFotoTray::pageRequested, this, &MvStudioWindow::setCurrentPage);
+    connect(m_fotos, &MvFotoFlow::progress, m_tray, &MvFotoTray::setProgress);
+    connect(m_canvas, &MvPageCanvas::fotosDropped, m_fotos, &MvFotoFlow::fillFrom);
+    connect(m_strip, &MvPageStrip::fotosDropped, m_fotos, &MvFotoFlow::fillFrom);
+}
+
+void MvStudioWindow::connectStart()
+{
+    connect(m_start, &MvStartPage::fotosGiven, m_fotos, &MvFotoFlow::startCalendar);
+    connect(m_start, &MvStartPage::filesRequested, m_fotos, &MvFotoFlow::askForNewFiles);
+    connect(m_start, &MvStartPage::folderRequested, m_fotos, &MvFotoFlow::askForNewFolder);
+    connect(m_start, &MvStartPage::themeChosen, m_fotos, &MvFotoFlow::setThemeForNew);
+    connect(m_start, &MvStartPage::emptyRequested, this, [this] { m_fotos->startCalendar({}); });
+    connect(m_start, &MvStartPage::importRequested, m_import, &MvBirthdayImport::start);
+    connect(m_start, &MvStartPage::openRequested, m_flow, &MvProjectFlow::askAndOpen);
+    connect(m_start, &MvStartPage::recentRequested, m_flow, &MvProjectFlow::open);
+    connect(m_start, &MvStartPage::closeRequested, this, [this] { setStartShown(false); });
+    connect(m_fotos, &MvFotoFlow::leaveRequested, m_flow, &MvProjectFlow::leave);
     connect(m_flow, &MvProjectFlow::opened, this, &MvStudioWindow::onOpened);
-    connect(m_missingFotos, &MvMissingFotos::message, this, &MvStudioWindow::showMessage);
-    connect(m_welcome, &MvWelcomePanel::closeRequested, this, [this] { setWelcomeShown(false); });
+    connect(m_project, &MvProject::documentChanged, this, [this] {
+        if (isStartShown())
+            setStartShown(false); // somebody works on it
+    });
     connect(m_print, &MvPrintFlow::pdfRequested, m_export, &MvExportFlow::startPdf);
-    connect(m_recentMenu, &QMenu::aboutToShow, this, &MvStudioWindow::fillRecentMenu);
-    connect(m_flow, &MvProjectFlow::recentFilesChanged, this, &MvStudioWindow::fillRecentMenu);
-    connect(m_flow, &MvProjectFlow::message, this, &MvStudioWindow::showMessage);
-    connect(m_export, &MvExportFlow::message, this, &MvStudioWindow::showMessage);
-    connect(m_print, &MvPrintFlow::message, this, &MvStudioWindow::showMessage);
-    connect(new MvLeapDayHint(m_project, this), &MvLeapDayHint::message, this, &MvStudioWindow::showMessage);
-    connect(m_import, &MvBirthdayImport::message, this, &MvStudioWindow::showMessage);
-    connect(m_canvas, &MvPageCanvas::message, this, &MvStudioWindow::showMessage);
+    connect(m_menus, &MvStudioMenus::recentRequested, m_flow, &MvProjectFlow::open);
+    connect(m_flow, &MvProjectFlow::recentFilesChanged, m_menus, &MvStudioMenus::fillRecentMenu);
+}
+
+void MvStudioWindow::connectMessages()
+{
+    const auto listen = [this](auto *sender, auto signal) {
+        connect(sender, signal, this, &MvStudioWindow::showMessage);
+    };
+    listen(m_missingFotos, &MvMissingFotos::message);
+    listen(m_flow, &MvProjectFlow::message);
+    listen(m_export, &MvExportFlow::message);
+    listen(m_print, &MvPrintFlow::message);
+    listen(m_import, &MvBirthdayImport::message);
+    listen(m_canvas, &MvPageCanvas::message);
+    listen(m_entries, &MvEntriesFlow::message);
+    listen(m_fotos, &MvFotoFlow::message);
+    listen(m_tray, &MvFotoTray::message);
+    listen(new MvLeapDayHint(m_project, this), &MvLeapDayHint::message);
     connect(&MvProactiveHelpController::instance(), &MvProactiveHelpController::adviceRequested, this,
             [this](int, const QString &text) { showMessage(text.simplified()); });
 }
@@ -286,13 +286,14 @@ void MvStudioWindow::connectPages()
     connect(m_canvas, &MvPageCanvas::zoomChanged, this,
             [this](double zoom) { m_statusBar->setZoom(zoom, m_canvas->isFitted()); });
     connect(m_panels, &MvStudioPanels::pageRequested, this, &MvStudioWindow::setCurrentPage);
+    connect(m_panels, &MvStudioPanels::fileRequested, m_canvas, &MvPageCanvas::chooseFoto);
+    connect(m_canvas->selection(), &MvPageSelection::changed, this, &MvStudioWindow::updatePage);
     connect(m_strip, &MvPageStrip::pageActivated, m_canvas, &MvPageCanvas::setCurrentPage);
     connect(m_entries, &MvEntriesFlow::noticeChanged, m_statusBar, &MvStudioStatusBar::setEntriesNotice);
-    connect(m_entries, &MvEntriesFlow::message, this, &MvStudioWindow::showMessage);
     connect(m_statusBar, &MvStudioStatusBar::entriesNoticeClicked, m_entries, &MvEntriesFlow::show);
     connect(m_statusBar, &MvStudioStatusBar::zoomRequested, m_canvas, &MvPageCanvas::setZoom);
     connect(m_statusBar, &MvStudioStatusBar::fitRequested, m_canvas, &MvPageCanvas::zoomToFit);
-    connect(m_statusBar, &MvStudioStatusBar::pageRequested, this, &MvStudioWindow::setCurrentPage);
+    connect(m_statusBar, &MvStudioStatusBar::noteChosen, this, &MvStudioWindow::showFinding);
     connect(m_unfitting, &MvUnfittingWatch::changed, this,
             [this] { m_statusBar->setUnfitting(m_unfitting->entries()); });
 
@@ -324,16 +325,19 @@ void MvStudioWindow::updatePage()
     m_strip->setCurrentPage(page);
     m_export->setCurrentPage(page);
     m_panels->setCurrentPage(page);
-    m_statusBar->setPage(page, count, MvCalendarTitle::ofPage(m_project->document().pages().value(page)));
+    m_statusBar->setPage(page, count, MvPrintCheck::pageName(m_project->document(), page));
     m_statusBar->setZoom(m_canvas->zoom(), m_canvas->isFitted());
     using A = MvStudioActions;
     for (const A::Id id : {A::FirstPage, A::PreviousPage})
         m_actions->action(id)->setEnabled(page > 0);
     for (const A::Id id : {A::LastPage, A::NextPage})
         m_actions->action(id)->setEnabled(page + 1 < count);
-    const bool hasPhoto = page >= 0 && page < count && m_project->document().pages().at(page).fotoFrame().isValid();
-    m_actions->action(A::RemoveFoto)->setEnabled(hasPhoto);
+    m_actions->action(A::RemoveFoto)->setEnabled(m_canvas->hasFoto());
     m_actions->action(A::ChooseFoto)->setEnabled(count > 0);
+    m_actions->action(A::Distribute)->setEnabled(!m_project->document().fotoPool().isEmpty());
+    const bool isMonth = m_project->document().isMonthPage(page);
+    for (const A::Id id : {A::RemovePage, A::MovePageUp, A::MovePageDown})
+        m_actions->action(id)->setEnabled(count > 0 && !isMonth);
 }
 
 void MvStudioWindow::updateTitle()
@@ -346,34 +350,6 @@ void MvStudioWindow::updateTitle()
 void MvStudioWindow::showMessage(const QString &text)
 {
     m_statusBar->showMessage(text, messageTime);
-}
-
-void MvStudioWindow::fillRecentMenu()
-{
-    m_recentMenu->clear();
-    int number = 0;
-    for (const QString &path : MvStudioSettings::recentFiles()) {
-        QString shown = QDir::toNativeSeparators(path);
-        if (path.startsWith(QDir::homePath() + u'/'))
-            shown = u'~' + QDir::toNativeSeparators(path.mid(QDir::homePath().size()));
-        shown.replace(u'&', u"&&"_s);
-        ++number;
-        QAction *action = m_recentMenu->addAction(number < 10 ? u"&%1  %2"_s.arg(number).arg(shown) : shown);
-        action->setStatusTip(tr("Diesen Kalender öffnen"));
-        action->setData(path);
-        connect(action, &QAction::triggered, m_flow, [this, path] { m_flow->open(path); });
-    }
-    m_recentMenu->menuAction()->setEnabled(number > 0);
-    if (number == 0)
-        return;
-    m_recentMenu->addSeparator();
-    QAction *clear = m_recentMenu->addAction(tr("Liste &leeren"));
-    clear->setObjectName(u"clearRecent"_s);
-    clear->setStatusTip(tr("Die Liste leeren; die Dateien bleiben"));
-    connect(clear, &QAction::triggered, this, [this] {
-        MvStudioSettings::clearRecentFiles();
-        m_recentMenu->menuAction()->setEnabled(false);
-    });
 }
 
 void MvStudioWindow::chooseLayout()
@@ -402,6 +378,22 @@ void MvStudioWindow::changePageSetup()
     dialog->open();
 }
 
+void MvStudioWindow::checkPrint()
+{
+    auto *dialog = new MvPrintCheckDialog(m_project, this);
+    connect(dialog, &MvPrintCheckDialog::findingChosen, this, &MvStudioWindow::showFinding);
+    dialog->show();
+}
+
+void MvStudioWindow::showFinding(const MvPrintFinding &finding)
+{
+    setCurrentPage(finding.page);
+    if (finding.date.isValid())
+        m_canvas->selection()->selectDay(finding.date);
+    else
+        m_canvas->selection()->selectElement(finding.element);
+}
+
 void MvStudioWindow::showSettings()
 {
     auto *dialog = new MvSettingsDialog(this);
@@ -411,26 +403,39 @@ void MvStudioWindow::showSettings()
     dialog->open();
 }
 
-void MvStudioWindow::setWelcomeShown(bool shown)
+bool MvStudioWindow::isStartShown() const
 {
-    m_welcome->setVisible(shown);
-    const QStringList recent = MvStudioSettings::recentFiles();
-    const auto there =
-        std::find_if(recent.begin(), recent.end(), [](const QString &p) { return QFileInfo::exists(p); });
-    m_welcome->setRecentFile(there != recent.end() ? *there : QString());
+    return m_center->currentWidget() == m_start;
+}
+
+/// Where a calendar begins, its pages and panels would only be in the way.
+void MvStudioWindow::setStartShown(bool shown)
+{
     m_actions->action(MvStudioActions::Welcome)->setChecked(shown);
-    if (shown != MvStudioSettings::isWelcomeShown())
-        MvStudioSettings::setWelcomeShown(shown);
-    if (!shown)
+    if (shown == isStartShown()) {
         m_canvas->setFocus();
+        return;
+    }
+    if (shown) {
+        m_docks = saveState(stateVersion);
+        for (QDockWidget *dock : findChildren<QDockWidget *>())
+            dock->hide();
+        m_menus->toolBar()->hide();
+        m_start->renew();
+        m_center->setCurrentWidget(m_start);
+        m_start->setFocus();
+    } else {
+        m_center->setCurrentWidget(m_canvas);
+        restoreState(m_docks, stateVersion);
+        m_canvas->setFocus();
+    }
+    m_statusBar->setPageShown(!shown);
 }
 
 /// The first steps are behind somebody who opens a calendar; the next start shows them again.
 void MvStudioWindow::onOpened()
 {
-    m_welcome->hide();
-    m_actions->action(MvStudioActions::Welcome)->setChecked(false);
-    m_canvas->setFocus();
+    setStartShown(false);
     m_missingFotos->look();
 }
 
@@ -441,8 +446,9 @@ void MvStudioWindow::changeEvent(QEvent *event)
         m_actions->action(MvStudioActions::FullScreen)->setChecked(isFullScreen());
 }
 
-void MvStudioWindow::rememberWindow() const
+void MvStudioWindow::rememberWindow()
 {
+    setStartShown(false); // the docks as they stand beside the page
     MvCalendarHabits::remember(m_project->document());
     MvStudioSettings::setWindow(saveGeometry(), saveState(stateVersion));
 }
@@ -463,17 +469,21 @@ void MvStudioWindow::closeEvent(QCloseEvent *event)
     });
 }
 
+/// A calendar is opened wherever it is dropped; photos that no page and no tray takes come to the others.
 void MvStudioWindow::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (!draggedProject(event->mimeData()).isEmpty())
+    const bool isOwn = event->source() != nullptr;
+    if (!draggedProject(event->mimeData()).isEmpty() || (!isOwn && MvDraggedFotos::areIn(event->mimeData())))
         event->acceptProposedAction();
 }
 
 void MvStudioWindow::dropEvent(QDropEvent *event)
 {
-    const QString path = draggedProject(event->mimeData());
-    if (path.isEmpty())
-        return;
     event->acceptProposedAction();
-    m_flow->open(path);
+    if (const QString path = draggedProject(event->mimeData()); !path.isEmpty())
+        m_flow->open(path);
+    else if (isStartShown())
+        m_fotos->startCalendar(MvDraggedFotos::paths(event->mimeData()));
+    else
+        m_fotos->add(MvDraggedFotos::paths(event->mimeData()));
 }

@@ -6,21 +6,28 @@
 class MvBirthdayImport;
 class MvEntriesFlow;
 class MvExportFlow;
+class MvFotoFlow;
+class MvFotoTray;
+class MvInspector;
 class MvMissingFotos;
 class MvPageCanvas;
+class MvPageFlow;
 class MvPageStrip;
 class MvPrintFlow;
 class MvProject;
 class MvProjectFlow;
+class MvStartPage;
 class MvStudioActions;
+class MvStudioMenus;
 class MvStudioPanels;
 class MvStudioStatusBar;
 class MvUndoActions;
 class MvUnfittingWatch;
-class MvWelcomePanel;
-class QMenu;
+struct MvPrintFinding;
+class QStackedWidget;
 
-/// The window of the program: the page in the middle, the strip of pages and the panels around it.
+/// The window of the program: the page in the middle, around it the strip of pages, the photos and the inspector. At
+/// the start the page where calendars begin stands in their place.
 class MvStudioWindow : public QMainWindow
 {
     Q_OBJECT
@@ -35,6 +42,9 @@ public:
     MvEntriesFlow *entriesFlow() const { return m_entries; }
 
     int currentPage() const;
+    MvInspector *inspector() const { return m_inspector; }
+    /// In place of the calendar.
+    bool isStartShown() const;
 
 public Q_SLOTS:
     void setCurrentPage(int page);
@@ -52,40 +62,47 @@ protected:
 private:
     void createCenter();
     void createDocks();
-    void createMenus();
-    void createToolBar();
+    QWidget *createPagesPanel();
+    void addDock(const char *name, const QString &title, QWidget *content, Qt::DockWidgetArea area);
     void connectActions();
+    void connectPageActions();
+    void connectStart();
+    void connectMessages();
     void connectPages();
-    void addPanels();
-    int widthOfTabs() const;
 
-    void fillRecentMenu();
     void showMessage(const QString &text);
     void updateTitle();
     void updatePage();
     void chooseLayout();
     void changePageSetup();
+    void checkPrint();
+    void showFinding(const MvPrintFinding &finding);
     void showSettings();
     void onOpened();
-    void setWelcomeShown(bool shown);
-    void rememberWindow() const;
+    void setStartShown(bool shown);
+    void rememberWindow();
 
     MvProject *m_project;
     MvStudioActions *m_actions;
     MvUndoActions *m_undo;
+    MvStudioMenus *m_menus;
     MvProjectFlow *m_flow;
     MvExportFlow *m_export;
     MvPrintFlow *m_print;
     MvMissingFotos *m_missingFotos;
+    MvFotoFlow *m_fotos;
+    MvPageFlow *m_pageFlow;
     MvBirthdayImport *m_import;
     MvEntriesFlow *m_entries;
     MvUnfittingWatch *m_unfitting;
-    MvWelcomePanel *m_welcome = nullptr;
+    QStackedWidget *m_center = nullptr;
+    MvStartPage *m_start = nullptr;
     MvPageCanvas *m_canvas = nullptr;
     MvPageStrip *m_strip = nullptr;
+    MvFotoTray *m_tray = nullptr;
     MvStudioPanels *m_panels = nullptr;
+    MvInspector *m_inspector = nullptr;
     MvStudioStatusBar *m_statusBar;
-    QMenu *m_recentMenu = nullptr;
-    QMenu *m_viewMenu = nullptr;
+    QByteArray m_docks;      // how they stood before the start page came
     bool m_mayClose = false; // nothing would be lost
 };

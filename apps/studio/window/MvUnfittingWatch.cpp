@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvRenderingSources.h"
 #include "MvFoto/MvFotoPass.h"
+#include "MvProject/MvPrintCheck.h"
 #include "MvProject/MvProject.h"
 
 #include <QTimerEvent>
@@ -69,7 +70,8 @@ void MvUnfittingWatch::timerEvent(QTimerEvent *event)
         MvRenderingSources sources;
         MvFotoPass fotos(*m_entryFotos, page); // what is missing gives the texts too much room: see again
         sources.fotos = &fotos;
-        const QList<Entry> notes = MvPrintNote::ofPage(m_project->document(), page, sources);
+        QList<Entry> notes = MvPrintCheck::ofPage(m_project->document(), page, sources);
+        notes.removeIf([](const Entry &note) { return note.kind == Entry::Kind::EmptyFrame; });
         due->isDue = false;
         m_hasNews = m_hasNews || notes != due->notes;
         due->notes = notes;

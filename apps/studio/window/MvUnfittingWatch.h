@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "common/MvPrintNote.h"
+#include "MvProject/MvPrintFinding.h"
 
 #include <QBasicTimer>
 #include <QList>
@@ -11,14 +11,14 @@ class MvFotoPages;
 class MvProject;
 
 /// Knows what will not print well on the pages of the open project: texts without room, characters that no font has,
-/// photos of too low resolution. It looks at one page at a time, when the program has nothing else to do, a while after
-/// the last change.
+/// photos of too low resolution, what stands in the binding. Frames that are still empty are no news while somebody
+/// works. It looks at one page at a time, when the program has nothing else to do, a while after the last change.
 class MvUnfittingWatch : public QObject
 {
     Q_OBJECT
 
 public:
-    using Entry = MvPrintNote;
+    using Entry = MvPrintFinding;
 
     /// The project is not owned and must outlive the watch.
     explicit MvUnfittingWatch(MvProject *project, QObject *parent = nullptr);

@@ -25,7 +25,8 @@ MvThemeRegistry::MvThemeRegistry()
             MvSchemaPlace place;
             place.file = file;
             place.warn(
-                tr("Das Thema „%1“ bleibt weg, denn seine Kennung %2 hat schon „%3“. Eine andere bringt es zurück.")
+                MvThemeRegistry::tr(
+                    "Das Thema „%1“ bleibt weg, denn seine Kennung %2 hat schon „%3“. Eine andere bringt es zurück.")
                     .arg(theme.name(), theme.id(), known.name()));
         }
     }

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "pages/MvPageSelection.h"
+
+#include "MvProject/MvProject.h"
+
+MvPageSelection::MvPageSelection(MvProject *project, QObject *parent)
+    : QObject(parent)
+    , m_project(project)
+{
+    connect(project, &MvProject::documentReplaced, this, [this] { setPage(0); });
+    connect(project, &MvProject::documentChanged, this, &MvPageSelection::check);
+}
+
+void MvPageSelection::setPage(int page)
+{
+    if (m_page != page)
+        selectNothing();
+    m_page = page;
+}
+
+void MvPageSelection::selectNothing()
+{
+    set(Kind::Calendar, -1, {});
+}
+
+void MvPageSelection::selectElement(int element)
+{
+    const Kind kind = kindOf(element);
+    set(kind, kind == Kind::Calendar ? -1 : element, {});
+}
+
+void MvPageSelection::selectDay(const QDate &date)
+{
+    set(date.isValid() ? Kind::Day : Kind::Calendar, -1, date);
+}
+
+void MvPageSelection::selectNext(bool isForward)
+{
+    const MvCalendarDocument &document = m_project->document();
+    const int count = int(document.pages().value(m_page).elementsOn(document.format()).size());
+    const int step = isForward ? 1 : -1;
+    int element = m_element < 0 && !isForward ? count : m_element;
+    do
+        element += step;
+    while (element >= 0 && element < count && kindOf(element) == Kind::Calendar);
+    selectElement(element);
+}
+
+void MvPageSelection::set(Kind kind, int element, const QDate &date)
+{
+    if (m_kind == kind && m_element == element && m_date == date)
+        return;
+    m_kind = kind;
+    m_element = element;
+    m_date = date;
+    Q_EMIT changed();
+}
+
+MvPageSelection::Kind MvPageSelection::kindOf(int element) const
+{
+    const MvCalendarDocument &document = m_project->document();
+    if (m_page < 0 || m_page >= document.pages().size() || element < 0)
+        return Kind::Calendar;
+    const QList<MvPageElement> elements = document.pages().at(m_page).elementsOn(document.format());
+    if (element >= elements.size())
+        return Kind::Calendar;
+    switch (elements.at(element).kind()) {
+    case MvPageElement::Kind::Foto:
+        return Kind::Foto;
+    case MvPageElement::Kind::Text:
+        return Kind::Text;
+    case MvPageElement::Kind::Calendarium:
+        break;
+    }
+    return Kind::Calendar;
+}
+
+/// The page may have lost the element.
+void MvPageSelection::check()
+{
+    if (m_element >= 0 && kindOf(m_element) != m_kind)
+        selectNothing();
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include <QDate>
+#include <QObject>
+
+class MvProject;
+
+/// What of the shown page a person has chosen: an element, a day, or nothing, which means the calendar as a whole.
+///
+/// It follows the project: what is not there any more is not chosen. An element keeps its number while the page
+/// changes.
+class MvPageSelection : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Kind {
+        Calendar,
+        Foto,
+        Text,
+        Day,
+    };
+
+    /// The project is not owned.
+    explicit MvPageSelection(MvProject *project, QObject *parent = nullptr);
+
+    Kind kind() const { return m_kind; }
+    int page() const { return m_page; }
+    /// The element's number on its page, in reading order; -1 for none.
+    int element() const { return m_element; }
+    /// Invalid when no day is chosen.
+    QDate date() const { return m_date; }
+
+    /// What was chosen on the page before is not any more.
+    void setPage(int page);
+    void selectNothing();
+    /// A photo frame or a text of the page; any other number selects nothing.
+    void selectElement(int element);
+    void selectDay(const QDate &date);
+    /// Goes through the page's frames and texts, forwards or backwards, and past the last one to nothing.
+    void selectNext(bool isForward = true);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void set(Kind kind, int element, const QDate &date);
+    Kind kindOf(int element) const;
+    void check();
+
+    MvProject *m_project;
+    Kind m_kind = Kind::Calendar;
+    int m_page = 0;
+    int m_element = -1;
+    QDate m_date;
+};

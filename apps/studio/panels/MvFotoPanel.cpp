@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "panels/MvFotoPanel.h"
+
+#include "common/MvStudioMerge.h"
+#include "pages/MvPageSelection.h"
+#include "panels/MvPageEdits.h"
+
+#include "MvGUIWidgets/MvColorSelectionButton.h"
+#include "MvGUIWidgets/MvIconRegistry.h"
+#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvSpinBox.h"
+#include "MvPaint/MvPrintableText.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int zoomSteps = 300;
+constexpr double tenths = 10.0; // of a millimetre
+constexpr int longestName = 34;
+
+} // namespace
+
+MvFotoPanel::MvFotoPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget *parent)
+    : MvPagePanel(edits, parent)
+    , m_selection(selection)
+    , m_name(new QLabel(this))
+    , m_replace(new QPushButton(tr("Foto wählen …"), this))
+    , m_remove(new QPushButton(tr("Entfernen"), this))
+    , m_caption(new QLineEdit(this))
+    , m_fit(new QComboBox(this))
+    , m_zoom(new QSlider(Qt::Horizontal, this))
+    , m_straighten(new QDoubleSpinBox(this))
+    , m_turnLeft(new QPushButton(this))
+    , m_turnRight(new QPushButton(this))
+    , m_place(new QComboBox(this))
+    , m_share(new MvSpinBox(this))
+    , m_border(new QDoubleSpinBox(this))
+    , m_borderColor(new MvColorSelectionButton(false, this))
+{
+    setObjectName(u"photoPanel"_s);
+    QVBoxLayout *column = addScrollingColumn();
+    m_form = new QFormLayout;
+    m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    addFile(m_form);
+    addCrop(m_form);
+    addPlace(m_form);
+    addBorder(m_form);
+    column->addLayout(m_form);
+    column->addStretch(1);
+    auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
+    for (QWidget *box : std::initializer_list<QWidget *>{m_fit, m_zoom, m_straighten, m_place, m_share, m_border})
+        box->installEventFilter(keepsWheelOut);
+    connect(selection, &MvPageSelection::changed, this, &MvPagePanel::renew);
+}
+
+void MvFotoPanel::addFile(QFormLayout *form)
+{
+    m_name->setObjectName(u"photoName"_s);
+    m_name->setTextFormat(Qt::PlainText);
+    m_replace->setObjectName(u"photoReplace"_s);
+    m_remove->setObjectName(u"photoRemove"_s);
+    connect(m_replace, &QPushButton::clicked, this, &MvFotoPanel::fileRequested);
+    connect(m_remove, &QPushButton::clicked, this, [this] {
+        editFoto([](MvFotoElement &foto) { foto = foto.withPictureOf(MvFotoElement()); }, tr("Foto entfernen"));
+    });
+    m_caption->setObjectName(u"photoCaption"_s);
+    m_caption->setPlaceholderText(tr("steht dort, wo die Vorlage Platz hat"));
+    connect(m_caption, &QLineEdit::textEdited, this, [this](const QString &text) {
+        editFoto([&text](MvFotoElement &foto) { foto.setCaption(text); }, tr("Bildunterschrift ändern"),
+                 MvStudioMerge::FotoCaption);
+    });
+    auto *buttons = new QHBoxLayout;
+    buttons->addWidget(m_replace);
+    buttons->addWidget(m_remove);
+    buttons->addStretch(1);
+    form->addRow(m_name);
+    form->addRow(buttons);
+    form->addRow(tr("Unterschrift:"), m_caption);
+}
+
+void MvFotoPanel::addCrop(QFormLayout *form)
+{
+    m_fit->setObjectName(u"photoFit"_s);
+    m_fit->addItem(tr("Füllt den Rahmen"), int(MvFotoElement::Fit::Fill));
+    m_fit->addItem(tr("Ganz zu sehen"), int(MvFotoElement::Fit::Whole));
+    connect(m_fit, &QComboBox::activated, this, [this](int row) {
+        const auto fit = MvFotoElement::Fit(m_fit->itemData(row).toInt());
+        editFrames([fit](MvFotoElement &foto) { foto.setFit(fit); }, tr("Foto einpassen"));
+    });
+    m_zoom->setObjectName(u"photoZoomSlider"_s);
+    m_zoom->setRange(0, zoomSteps);
+    m_zoom->setPageStep(zoomSteps / 12);
+    connect(m_zoom, &QSlider::valueChanged, this, [this](int value) {
+        const double zoom = std::exp2(value * std::log2(MvFotoElement::largestZoom) / zoomSteps);
+        editFoto([zoom](MvFotoElement &foto) { foto.setZoom(zoom); }, tr("Foto vergrößern"), MvStudioMerge::FotoZoom);
+    });
+    m_straighten->setObjectName(u"photoStraighten"_s);
+    m_straighten->setRange(-MvFotoElement::largestStraightening, MvFotoElement::largestStraightening);
+    m_straighten->setSingleStep(0.5);
+    m_straighten->setDecimals(1);
+    m_straighten->setSuffix(tr("°"));
+    connect(m_straighten, &QDoubleSpinBox::valueChanged, this, [this](double degrees) {
+        editFoto([degrees](MvFotoElement &foto) { foto.setStraightening(degrees); }, tr("Foto ausrichten"),
+                 MvStudioMerge::FotoStraightening);
+    });
+    const auto turn = [this](QPushButton *button, const char *name, const QString &icon, const QString &text, int by) {
+        button->setObjectName(QLatin1StringView(name));
+        button->setIcon(MvIconRegistry::instance().icon(icon));
+        button->setToolTip(text);
+        button->setAccessibleName(text);
+        connect(button, &QPushButton::clicked, this, [this, by] {
+            editFoto([by](MvFotoElement &foto) { foto.setQuarterTurns(foto.quarterTurns() + by); }, tr("Foto drehen"));
+        });
+    };
+    turn(m_turnLeft, "photoTurnLeft", u"ico_studio_undo"_s, tr("Gegen den Uhrzeigersinn drehen"), 3);
+    turn(m_turnRight, "photoTurnRight", u"ico_studio_redo"_s, tr("Im Uhrzeigersinn drehen"), 1);
+    auto *turns = new QHBoxLayout;
+    turns->addWidget(m_straighten, 1);
+    turns->addWidget(m_turnLeft);
+    turns->addWidget(m_turnRight);
+    form->addRow(tr("Ausschnitt:"), m_fit);
+    form->addRow(tr("Zoom:"), m_zoom);
+    form->addRow(tr("Drehen:"), turns);
+    m_straighten->setAccessibleName(tr("Ausrichten um Grad"));
+    m_zoom->setAccessibleName(tr("Zoom des Fotos"));
+}
+
+/// On a page without a template.
+void MvFotoPanel::addPlace(QFormLayout *form)
+{
+    m_place->setObjectName(u"photoPlace"_s);
+    m_place->addItem(tr("Oben"), int(MvFotoFrame::Placement::Top));
+    m_place->addItem(tr("Links"), int(MvFotoFrame::Placement::Left));
+    m_place->addItem(tr("Rechts"), int(MvFotoFrame::Placement::Right));
+    connect(m_place, &QComboBox::activated, this, &MvFotoPanel::editPlace);
+    m_share->setObjectName(u"photoShare"_s);
+    m_share->setRange(int(MvFotoFrame::minimumShare * 100), int(MvFotoFrame::maximumShare * 100));
+    m_share->setSuffix(tr(" % der Seite"));
+    connect(m_share, &QSpinBox::valueChanged, this, &MvFotoPanel::editPlace);
+    form->addRow(tr("Platz:"), m_place);
+    form->addRow(tr("Größe:"), m_share);
+}
+
+void MvFotoPanel::addBorder(QFormLayout *form)
+{
+    m_border->setObjectName(u"photoBorder"_s);
+    m_border->setRange(0.0, MvFotoElement::widestBorder / tenths);
+    m_border->setSingleStep(0.5);
+    m_border->setDecimals(1);
+    m_border->setSuffix(tr(" mm"));
+    connect(m_border, &QDoubleSpinBox::valueChanged, this, [this](double width) {
+        editFrames(
+            [width](MvFotoElement &foto) {
+                MvFotoElement::Border border = foto.border();
+                border.width = std::round(width * tenths);
+                foto.setBorder(border);
+            },
+            tr("Rand des Fotos ändern"), MvStudioMerge::FotoBorder);
+    });
+    m_borderColor->setObjectName(u"photoBorderColor"_s);
+    m_borderColor->setAccessibleName(tr("Farbe des Randes"));
+    connect(m_borderColor, &MvColorSelectionButton::colorChanged, this, [this](const QColor &color) {
+        editFrames(
+            [&color](MvFotoElement &foto) {
+                MvFotoElement::Border border = foto.border();
+                border.color = color;
+                foto.setBorder(border);
+            },
+            tr("Rand des Fotos ändern"));
+    });
+    auto *row = new QHBoxLayout;
+    row->addWidget(m_border, 1);
+    row->addWidget(m_borderColor);
+    form->addRow(tr("Rand:"), row);
+    m_border->setAccessibleName(tr("Breite des Randes"));
+}
+
+MvPageElement MvFotoPanel::element() const
+{
+    return edits()->page().elementsOn(edits()->document().format()).value(m_selection->element());
+}
+
+void MvFotoPanel::showPage()
+{
+    const MvPageElement shown = element();
+    if (m_selection->kind() != MvPageSelection::Kind::Foto || !shown.foto())
+        return;
+    const MvCalendarPage page = edits()->page();
+    showFoto(*shown.foto());
+    const bool isOwnPlace = page.isSimple() && m_selection->element() == 0;
+    m_form->setRowVisible(m_place, isOwnPlace);
+    m_form->setRowVisible(m_share, isOwnPlace);
+    m_place->setCurrentIndex(m_place->findData(int(page.fotoFrame().placement())));
+    m_share->setValue(int(std::lround(page.fotoFrame().share() * 100.0)));
+}
+
+void MvFotoPanel::showFoto(const MvFotoElement &foto)
+{
+    const bool isThere = !foto.isEmpty();
+    m_name->setText(isThere ? MvPrintableText::inShort(QFileInfo(foto.path()).fileName(), longestName)
+                            : tr("Dieser Rahmen ist leer."));
+    m_name->setToolTip(QDir::toNativeSeparators(foto.path()));
+    m_replace->setText(isThere ? tr("Ersetzen …") : tr("Foto wählen …"));
+    if (m_caption->text() != foto.caption())
+        m_caption->setText(foto.caption());
+    m_fit->setCurrentIndex(m_fit->findData(int(foto.fit())));
+    if (!m_zoom->isSliderDown())
+        m_zoom->setValue(int(std::lround(std::log2(foto.zoom()) * zoomSteps / std::log2(MvFotoElement::largestZoom))));
+    m_straighten->setValue(foto.straightening());
+    m_border->setValue(foto.border().width / tenths);
+    m_borderColor->setColor(foto.border().color);
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{m_remove, m_caption, m_zoom, m_straighten, m_turnLeft, m_turnRight})
+        control->setEnabled(isThere);
+}
+
+void MvFotoPanel::editFoto(const FotoEdit &edit, const QString &text, int mergeId)
+{
+    const MvPageElement chosen = element();
+    if (isShowing() || !chosen.foto())
+        return;
+    MvFotoElement foto = *chosen.foto();
+    edit(foto);
+    edits()->editCurrent([&](MvCalendarPage &page) { page.setFoto(m_selection->element(), foto); }, text, mergeId);
+}
+
+void MvFotoPanel::editFrames(const FotoEdit &edit, const QString &text, int mergeId)
+{
+    if (edits()->scope() == MvPageEdits::Scope::CurrentPage) {
+        editFoto(edit, text, mergeId);
+        return;
+    }
+    if (isShowing())
+        return;
+    const MvPageFormat format = edits()->document().format();
+    edits()->edit(
+        [&](MvCalendarPage &page) {
+            const QList<MvPageElement> elements = page.elementsOn(format);
+            for (int number = 0; number < elements.size(); ++number) {
+                if (!elements.at(number).foto())
+                    continue;
+                MvFotoElement foto = *elements.at(number).foto();
+                edit(foto);
+                page.setFoto(number, foto);
+            }
+        },
+        text, mergeId);
+}
+
+/// Of all pages without a template that have a photo, or of this one.
+void MvFotoPanel::editPlace()
+{
+    if (isShowing())
+        return;
+    const auto placement = MvFotoFrame::Placement(m_place->currentData().toInt());
+    const double share = m_share->value() / 100.0;
+    edits()->edit(
+        [placement, share](MvCalendarPage &page) {
+            MvFotoFrame frame = page.fotoFrame();
+            if (!page.isSimple() || !frame.isValid())
+                return;
+            frame.setPlacement(placement);
+            frame.setShare(share);
+            page.setFotoFrame(frame);
+        },
+        tr("Platz des Fotos ändern"), MvStudioMerge::ElementMove);
+}
