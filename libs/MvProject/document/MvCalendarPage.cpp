@@ -20,7 +20,15 @@ constexpr double tallestNarrowStrip = 450.0; // which need height
 
 // of a simple page
 constexpr int fotoNumber = 0;
-constexpr int calendariumNumber = 1;
+
+/// What stands in the slots of a template before anybody puts in anything.
+QList<MvPageElement> prototypes(const MvPageTemplate &pageTemplate, const MvPageFormat &format)
+{
+    QList<MvPageElement> elements;
+    for (const MvTemplateSlot &slot : pageTemplate.slotsFor(format))
+        elements.append(slot.element);
+    return elements;
+}
 
 } // namespace
 
@@ -183,11 +191,8 @@ void MvCalendarPage::setFormat(const MvPageFormat &before, const MvPageFormat &a
 
 bool MvCalendarPage::hasOwnContent(const MvPageFormat &format) const
 {
-    if (m_foto.isValid() || !m_spareElements.isEmpty() || !m_background.foto().isEmpty())
-        return true;
-    const MvTemplateFilling filling(m_template.slotsFor(format));
-    return std::any_of(m_elements.begin(), m_elements.end(),
-                       [&filling](const MvPageElement &element) { return filling.isOwn(element); });
+    const bool hasFoto = m_foto.isValid() || !m_background.foto().isEmpty();
+    return hasFoto || !m_spareElements.isEmpty() || m_elements != prototypes(m_template, format);
 }
 
 MvCalendarPage MvCalendarPage::withoutOwnContent(const MvPageFormat &format) const
@@ -196,16 +201,15 @@ MvCalendarPage MvCalendarPage::withoutOwnContent(const MvPageFormat &format) con
     page.m_foto = {};
     page.m_spareElements.clear();
     page.m_background.setFoto({});
-    page.m_elements.clear();
-    const MvTemplateFilling filling(m_template.slotsFor(format));
-    for (const MvPageElement &element : m_elements) {
-        const MvPageElement before = filling.prototypeOf(element);
-        if (!filling.isOwn(element))
-            page.m_elements.append(element);
-        else if (before.kind() == element.kind())
-            page.m_elements.append(before);
-        else if (element.foto() && !element.slot().isEmpty())
+    page.m_elements = prototypes(m_template, format);
+    if (m_isSimple || m_template.isKnown())
+        return page;
+    for (const MvPageElement &element :
+         m_elements) { // frames, calendaria, and words with placeholders are for any month
+        if (element.foto())
             page.m_elements.append(MvPageElement(element.rect(), MvFotoElement(), element.slot()));
+        else if (!element.text() || element.text()->text().contains(u'{'))
+            page.m_elements.append(element);
     }
     return page;
 }

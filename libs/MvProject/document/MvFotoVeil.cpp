@@ -54,6 +54,20 @@ QRgb mixed(QRgb beneath, QRgb veil, double strength)
                 channel(qBlue(beneath), qBlue(veil)));
 }
 
+/// The darkest and the lightest of the inks that can be read on the ground: what both are read on, the others are.
+QList<double> extremes(const QList<QColor> &inks, const QColor &ground)
+{
+    QList<double> tones;
+    for (const QColor &ink : inks) {
+        if (ink.isValid() && MvFotoVeil::contrast(ink, ground) >= MvFotoVeil::demandedContrast)
+            tones.append(luminance(ink.rgb()));
+    }
+    if (tones.size() < 2)
+        return tones;
+    const auto [darkest, lightest] = std::minmax_element(tones.cbegin(), tones.cend());
+    return *darkest == *lightest ? QList<double>{*darkest} : QList<double>{*darkest, *lightest};
+}
+
 bool isLegible(const QImage &beneath, QRgb veil, double strength, const QList<double> &inks)
 {
     const qint64 allowed = qint64(mayFail * beneath.width() * beneath.height());
@@ -126,11 +140,7 @@ void MvFotoVeil::paint(QPainter &painter, const MvVeilField &field) const
 
 double MvFotoVeil::strength(const QImage &beneath, const QColor &ground, const QList<QColor> &inks)
 {
-    QList<double> counted;
-    for (const QColor &ink : inks) {
-        if (ink.isValid() && contrast(ink, ground) >= demandedContrast)
-            counted.append(luminance(ink.rgb()));
-    }
+    const QList<double> counted = extremes(inks, ground);
     if (beneath.isNull() || counted.isEmpty())
         return 0.0;
     const QImage pixels = beneath.convertToFormat(QImage::Format_RGB32);
