@@ -129,6 +129,16 @@ void tst_MvProject::tellsWhatChanged()
     QVERIFY(!project.isModified());
     QCOMPARE(modified.size(), 2);
 
+    // a new title is seen where it is printed
+    MvCalendarPage titled = project.document().pages()[7];
+    titled.addElement({{200, 200, 500, 100}, MvTextElement(u"{title}"_s)});
+    project.changePage(7, titled, u"Text"_s);
+    MvCalendarDocument renamed = project.document();
+    renamed.setTitle(u"Anders"_s);
+    project.change(renamed, u"Titel"_s);
+    QCOMPARE(pages.size(), 4);
+    QCOMPARE(pages.last().first().toInt(), 7);
+
     project.newProject(document(u"DAY_LIST"_s));
     QVERIFY(!MvUndoController::instance().stack()->canRedo());
 }

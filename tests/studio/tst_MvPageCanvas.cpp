@@ -342,6 +342,19 @@ void tst_MvPageCanvas::layoutsReplaceTheCells()
     QVERIFY(!QApplication::activePopupWidget()); // no cell of the grid is left behind
     look(u"MONTH_GRID_LINES"_s);
     QCOMPARE(open.item()->dates().size(), 31);
+
+    // a second calendarium adds its days; those of the first keep their places
+    MvCalendarPage page = open.project.document().pages().at(0);
+    MvCalendariumElement next(u"MONTH_GRID_COMPACT"_s);
+    next.setMonthOffset(1);
+    const MvCalendariumElement small(u"MONTH_GRID_COMPACT"_s);
+    const QRectF large(100, 500, 1100, 900);
+    page.setElements({{large, MvCalendariumElement()}, {{1300, 500, 400, 400}, next}, {{1300, 950, 400, 400}, small}});
+    open.project.changePage(0, page, u"Elemente"_s);
+    open.settle();
+    QCOMPARE(open.item()->dates().size(), 31 + 28);
+    QVERIFY(large.adjusted(-1, -1, 1, 1).contains(open.item()->dateRect({2027, 1, 31})));
+    QVERIFY(open.item()->cells()->cell({2027, 1, 31}) && open.item()->cells()->cell({2027, 2, 28}));
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvPageCanvas)

@@ -44,6 +44,16 @@ QRect pixelsOf(const QTransform &transform, const QRectF &rect)
     return transform.mapRect(rect).toAlignedRect();
 }
 
+QList<MvCalendariumElement> calendariaOf(const MvCalendarPage &page)
+{
+    QList<MvCalendariumElement> calendaria;
+    for (const MvPageElement &element : page.elements()) {
+        if (element.calendarium())
+            calendaria.append(*element.calendarium());
+    }
+    return calendaria;
+}
+
 } // namespace
 
 MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
@@ -161,16 +171,16 @@ void MvPageItem::record()
         return;
     removeOutdatedCells();
     m_cells->setHolidayConfig(m_shown.contentConfig().holidayConfig());
-    const auto listen = [this](MvCalendariumRenderer &renderer) {
+    const auto listen = [this, isFirst = true](MvCalendariumRenderer &renderer) mutable {
         MvGraphicsItemCalendariumCellsManager *cells = m_cells.get();
-        connect(&renderer, &MvCalendariumRenderer::rectForDatesRestart, cells,
-                &MvGraphicsItemCalendariumCellsManager::resetRectsForMonth);
-        connect(&renderer, &MvCalendariumRenderer::rectForDateFound, cells,
-                &MvGraphicsItemCalendariumCellsManager::addRectForDate);
-        connect(&renderer, &MvCalendariumRenderer::hasTitleLineMayHaveChanged, cells,
-                &MvGraphicsItemCalendariumCellsManager::resetRectsForTitleLine);
+        if (std::exchange(isFirst, false)) { // further calendaria of the page add their days
+            connect(&renderer, &MvCalendariumRenderer::rectForDatesRestart, cells,
+                    &MvGraphicsItemCalendariumCellsManager::resetRectsForMonth);
+            connect(&renderer, &MvCalendariumRenderer::hasTitleLineMayHaveChanged, cells,
+                    &MvGraphicsItemCalendariumCellsManager::resetRectsForTitleLine);
+        }
         connect(&renderer, &MvCalendariumRenderer::rectForDateFound, this,
-                [this](const QDate &date, const QRectF &rect) { m_dates.insert(date, rect); });
+                [this](const QDate &date, const QRectF &rect) { addDate(date, rect); });
     };
     const MvCalendarDocument &document = m_project->document();
     MvFotoPass fotos(*m_entryFotos);
@@ -179,11 +189,23 @@ void MvPageItem::record()
     m_recording = m_shown.record(document.format(), document.context(), listen, screenRule(), m_pixelsPerUnit, sources);
 }
 
+/// A day that several calendaria show is in the one where it is largest.
+void MvPageItem::addDate(const QDate &date, const QRectF &rect)
+{
+    const QSizeF known = m_dates.value(date).size();
+    if (known.width() * known.height() > rect.width() * rect.height())
+        return;
+    m_dates.insert(date, rect);
+    m_cells->addRectForDate(date, rect);
+}
+
 /// The manager keeps the cells of a month as long as its rectangle stays; another layout has other cells there.
 void MvPageItem::removeOutdatedCells()
 {
     const bool isSameLayout = m_shown.contentConfig().date() == m_cellsPage.contentConfig().date() &&
-                              m_shown.appearance().layoutSchema() == m_cellsPage.appearance().layoutSchema();
+                              m_shown.appearance().layoutSchema() == m_cellsPage.appearance().layoutSchema() &&
+                              m_shown.isSimple() == m_cellsPage.isSimple() &&
+                              calendariaOf(m_shown) == calendariaOf(m_cellsPage);
     if (!isSameLayout)
         m_cells->setStartDate(QDate());
     m_cellsPage = m_shown;

@@ -86,6 +86,7 @@ private:
     };
 
     void record();
+    void addDate(const QDate &date, const QRectF &rect);
     void removeOutdatedCells();
     void discardCache();
     void paintInto(QPainter &painter) const;

@@ -189,6 +189,7 @@ void MvCalendarPage::setFormat(const MvPageFormat &before, const MvPageFormat &a
     }
 }
 
+/// What was changed of that which the template brought is somebody's own as well.
 bool MvCalendarPage::hasOwnContent(const MvPageFormat &format) const
 {
     const bool hasFoto = m_foto.isValid() || !m_background.foto().isEmpty();

@@ -122,9 +122,9 @@ public:
     /// What the template has no room for, in the order in which it left.
     const QList<MvPageElement> &spareElements() const { return m_spareElements; }
     void setSpareElements(const QList<MvPageElement> &elements) { m_spareElements = elements; }
-    /// Whether somebody has put in photos or texts, on the page or kept, or has changed what the template brought.
+    /// Whether somebody has put in photos or texts, on the page or kept.
     bool hasOwnContent(const MvPageFormat &format) const;
-    /// The same page without all that: for another month.
+    /// The same page without them.
     MvCalendarPage withoutOwnContent(const MvPageFormat &format) const;
 
     /// What is on this page and its template, in the look of another: its appearance, its content, what it is for.
