@@ -128,7 +128,8 @@ QFont MvPageTextPainter::font(const MvTextElement &text) const
     if (!text.family().isEmpty())
         font.setFamilies({text.family()});
     const double factor = MvSpaceMagnitude(MAGNITUDE_A4).lengthFactor(m_format.magnitude());
-    font.setPixelSize(std::max(1, int(std::lround(pointsToUnits(text.points() * factor)))));
+    const double points = std::max(text.points() * factor, std::min(text.points(), floorPoints));
+    font.setPixelSize(std::max(1, int(std::lround(pointsToUnits(points)))));
     font.setWeight(text.weight());
     font.setItalic(text.isItalic());
     font.setCapitalization(QFont::MixedCase);

@@ -30,7 +30,8 @@ public:
 
     /// What the element prints, a line for each of its lines; empty when nothing of it would be seen.
     QStringList lines(const MvTextElement &text) const;
-    /// In page units, as large as the element wants it on this paper.
+    /// In page units, as large as the element wants it on this paper; on small papers not under 6.5 points that it has
+    /// on A4.
     QFont font(const MvTextElement &text) const;
 
 private:

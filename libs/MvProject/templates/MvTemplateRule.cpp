@@ -30,11 +30,12 @@ QRectF withLineHeight(const QRectF &rect, const MvTemplateRule &rule, const MvPa
     return rect.adjusted(0, -above, 0, gutter - above);
 }
 
-Shows thatHasRoom(Shows shows, double height)
+Shows thatHasRoom(const MvTemplateRule::Calendarium &calendarium, double height)
 {
+    Shows shows = calendarium.shows;
     const bool isList = shows == Shows::List || shows == Shows::Planner || shows == Shows::Birthdays;
-    if (isList && height < MvTemplateRule::lowestList)
-        shows = Shows::Grid;
+    if (isList && height < MvTemplateRule::lowestList) // without a line, the month stands elsewhere on the page
+        shows = calendarium.hasMonthLine ? Shows::Grid : Shows::Bare;
     if ((shows == Shows::Grid || shows == Shows::Bare) && height < MvTemplateRule::lowestGrid)
         shows = Shows::Strip;
     return shows;
@@ -70,7 +71,7 @@ MvPageElement::Content dressed(const MvTemplateRule::Text &text, const MvTemplat
 MvPageElement::Content dressed(const MvTemplateRule::Calendarium &calendarium, const MvTemplateStyle &style,
                                double height)
 {
-    MvCalendariumElement element(style.layout(thatHasRoom(calendarium.shows, height)));
+    MvCalendariumElement element(style.layout(thatHasRoom(calendarium, height)));
     element.setMonthOffset(calendarium.monthOffset);
     element.setOnFoto(calendarium.isOnFoto);
     element.setMonthLine(calendarium.hasMonthLine);
