@@ -98,5 +98,9 @@ MvCliProject MvFotoCalendar::make(QTextStream &hints) const
     if (!distributed.unused.isEmpty())
         hints << tr("%n Fotos haben auf den Seiten keinen Platz gefunden", nullptr, int(distributed.unused.size()))
               << '\n';
+    if (!m_paths.isEmpty() && distributed.emptyFrames > 0)
+        hints << tr("%n Rahmen bleiben leer; mehr Fotos oder ein Thema mit weniger Bildern je Seite füllen sie",
+                    nullptr, distributed.emptyFrames)
+              << '\n';
     return project;
 }

@@ -95,6 +95,13 @@
             <numerusform>%n Fotos haben auf den Seiten keinen Platz gefunden</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n Rahmen bleiben leer; mehr Fotos oder ein Thema mit weniger Bildern je Seite füllen sie</source>
+        <translation>
+            <numerusform>Ein Rahmen bleibt leer; mehr Fotos oder ein Thema mit weniger Bildern je Seite füllen ihn</numerusform>
+            <numerusform>%n Rahmen bleiben leer; mehr Fotos oder ein Thema mit weniger Bildern je Seite füllen sie</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MvFotoFlow</name>

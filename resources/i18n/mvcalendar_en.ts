@@ -1874,6 +1874,13 @@
             <numerusform>%n photos have found no place on the pages</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n Rahmen bleiben leer; mehr Fotos oder ein Thema mit weniger Bildern je Seite füllen sie</source>
+        <translation>
+            <numerusform>One frame stays empty; more photos, or a theme with fewer pictures on a page, fill it</numerusform>
+            <numerusform>%n frames stay empty; more photos, or a theme with fewer pictures on a page, fill them</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>MvFotoField</name>
@@ -2518,6 +2525,19 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Einen Rahmen verschieben; an seinen Ecken ändert sich die Größe</source>
         <translation>Move a frame; its corners change its size</translation>
+    </message>
+    <message>
+        <source>Anleitung</source>
+        <translation>Guide</translation>
+    </message>
+    <message>
+        <source>guide.de.html</source>
+        <extracomment>the guide&apos;s file in the language</extracomment>
+        <translation>guide.en.html</translation>
+    </message>
+    <message>
+        <source>Hilfe</source>
+        <translation>Help</translation>
     </message>
 </context>
 <context>
@@ -4470,14 +4490,6 @@ Save it under another name or in another folder.</translation>
         <translation>Spread the window over the whole screen</translation>
     </message>
     <message>
-        <source>&amp;Tastenkürzel</source>
-        <translation>&amp;Keyboard Shortcuts</translation>
-    </message>
-    <message>
-        <source>Alle Tastenkürzel auflisten</source>
-        <translation>List all keyboard shortcuts</translation>
-    </message>
-    <message>
         <source>Ü&amp;ber MvCalendar</source>
         <translation>&amp;About MvCalendar</translation>
     </message>
@@ -4684,6 +4696,14 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Wählen, wie Fotos, Texte und Kalender auf der Seite stehen</source>
         <translation>Choose how photos, texts and calendar stand on the page</translation>
+    </message>
+    <message>
+        <source>&amp;Anleitung und Tastenkürzel</source>
+        <translation>&amp;Guide and shortcuts</translation>
+    </message>
+    <message>
+        <source>Zeigen, wie aus Fotos ein Kalender wird, und alle Tastenkürzel auflisten</source>
+        <translation>Show how photos become a calendar, and list all shortcuts</translation>
     </message>
 </context>
 <context>

@@ -24,7 +24,7 @@ ANSWER_SECONDS = 20
 # what opens a dialog, and what closes it
 DIALOGS = {"Neu …": "Abbrechen", "Layout wählen …": "Abbrechen", "Papier und Zeitraum …": "Abbrechen",
            "Vor dem Druck prüfen …": "Schließen", "Als PDF exportieren …": "Abbrechen", "Als Bilder exportieren …": "Abbrechen",
-           "Einstellungen …": "Abbrechen", "Tastenkürzel": "Schließen", "Über MvCalendar": "Schließen",
+           "Einstellungen …": "Abbrechen", "Anleitung und Tastenkürzel": "Schließen", "Über MvCalendar": "Schließen",
            "Eintrag hinzufügen...": "Abbrechen"}
 
 

@@ -16,6 +16,7 @@
 
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QTextBrowser>
 
 using namespace Qt::StringLiterals;
 
@@ -130,6 +131,13 @@ void tst_MvStudioWindow::everyActionIsComplete()
     QVERIFY(shortcuts.size() > 20);
     trigger("shortcuts");
     QVERIFY(dialog("shortcutsDialog")->findChild<QTreeWidget *>()->topLevelItemCount() >= shortcuts.size());
+    auto *guide = dialog("shortcutsDialog")->findChild<QTextBrowser *>();
+    QVERIFY(guide && guide->toPlainText().contains(u"Foto"));
+    const QRegularExpression picture(u"<img src=\"([^\"]+)\""_s);
+    auto pictures = picture.globalMatch(guide->toHtml());
+    QVERIFY(pictures.hasNext());
+    while (pictures.hasNext())
+        QVERIFY(!guide->loadResource(QTextDocument::ImageResource, pictures.next().captured(1)).isNull());
     trigger("about");
     QVERIFY(dialog("aboutDialog"));
 }

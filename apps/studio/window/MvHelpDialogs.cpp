@@ -8,6 +8,8 @@
 #include <QDialog>
 #include <QHeaderView>
 #include <QLabel>
+#include <QTabWidget>
+#include <QTextBrowser>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -29,6 +31,18 @@ void addCloseButton(QDialog *dialog, QVBoxLayout *column)
     QDialogButtonBox *buttons = MvStudioMessage::createButtonBox(QDialogButtonBox::Close, dialog);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog, &QDialog::reject);
     column->addWidget(buttons);
+}
+
+/// From the first photo to the print shop, with pictures.
+QTextBrowser *createGuide(QWidget *parent)
+{
+    auto *guide = new QTextBrowser(parent);
+    guide->setObjectName(u"guideText"_s);
+    guide->setAccessibleName(MvHelpDialogs::tr("Anleitung"));
+    guide->document()->setDocumentMargin(24.0);
+    //: the guide's file in the language
+    guide->setSource(QUrl(u"qrc:/guide/"_s + MvHelpDialogs::tr("guide.de.html")));
+    return guide;
 }
 
 QString keysOf(const QAction *action)
@@ -78,8 +92,11 @@ QList<Keys> keysOfPage()
 
 QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *parent)
 {
-    QDialog *dialog = createDialog(u"shortcutsDialog"_s, tr("Tastenkürzel"), parent);
-    auto *table = new QTreeWidget(dialog);
+    QDialog *dialog = createDialog(u"shortcutsDialog"_s, tr("Hilfe"), parent);
+    auto *tabs = new QTabWidget(dialog);
+    tabs->addTab(createGuide(tabs), tr("Anleitung"));
+    auto *table = new QTreeWidget(tabs);
+    tabs->addTab(table, tr("Tastenkürzel"));
     table->setObjectName(u"shortcutTable"_s);
     table->setAccessibleName(tr("Tastenkürzel"));
     table->setRootIsDecorated(false);
@@ -100,9 +117,9 @@ QDialog *MvHelpDialogs::openShortcuts(const QList<QAction *> &actions, QWidget *
     table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     table->header()->setStretchLastSection(true);
     auto *column = new QVBoxLayout(dialog);
-    column->addWidget(table, 1);
+    column->addWidget(tabs, 1);
     addCloseButton(dialog, column);
-    dialog->resize(760, 560);
+    dialog->resize(780, 700);
     dialog->open();
     return dialog;
 }

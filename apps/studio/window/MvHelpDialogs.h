@@ -14,7 +14,8 @@ class MvHelpDialogs
     Q_DECLARE_TR_FUNCTIONS(MvHelpDialogs)
 
 public:
-    /// The actions that have shortcuts, and the keys of the page, as a table. Opened; deletes itself.
+    /// The illustrated guide, and a table of the actions that have shortcuts and of the keys of the page. Opened;
+    /// deletes itself.
     static QDialog *openShortcuts(const QList<QAction *> &actions, QWidget *parent);
     static QDialog *openAbout(QWidget *parent);
 };
