@@ -167,6 +167,8 @@ void tst_EveryPage::wasFaulty_data()
         u"fi_FI"_s, {}, {2027, 5, 1});
     row("a week as long as its strip", u"DAY_LIST"_s, u"A6 landscape"_s, u"top"_s, 0.65, 100, u"cs_CZ"_s, {},
         {2028, 2, 1});
+    row("an accent higher than the room", u"YEAR_PLANNER"_s, u"A5"_s, u"left"_s, 0.45, 150, u"hu_HU"_s, {},
+        {2028, 2, 1});
     row("a date that leaves its name no room", u"HOLIDAY_BLOCK"_s, u"A6"_s, u"right"_s, 0.75, 100, u"de_DE"_s, u"BY"_s,
         {2027, 5, 1}, true);
 }

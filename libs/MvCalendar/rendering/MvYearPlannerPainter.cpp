@@ -264,6 +264,16 @@ MvYearPlannerPainter::Texts MvYearPlannerPainter::fittingTexts(const QStringList
     return best;
 }
 
+/// Letters with accents may be higher than their line.
+bool MvYearPlannerPainter::isTooHigh(const MvFittedText &set, const QSizeF &room)
+{
+    const MvTextFitter unchanged(set.font, set.font.pixelSize(), MvHyphenator());
+    return std::any_of(set.lines.cbegin(), set.lines.cend(), [&](const QString &text) {
+        return text != ellipsis && // a line of its own is not painted
+               MvCalendariumCellLine(unchanged, {room.width() + 1.0, room.height()}, text).isEmpty();
+    });
+}
+
 MvYearPlannerPainter::Texts MvYearPlannerPainter::setTexts(const QStringList &texts, const QSizeF &room,
                                                            const Style &style) const
 {
@@ -271,7 +281,8 @@ MvYearPlannerPainter::Texts MvYearPlannerPainter::setTexts(const QStringList &te
     MvFittedText set = style.texts.fit(room, texts);
     if (set.isCut && texts.size() > 1)
         set = style.texts.fit(room, {joined});
-    if (set.isCut && room.height() < style.lineHeight) { // lower than a line, but perhaps not than what is seen of it
+    // lower than a line, but perhaps not than what is seen of it; or the other way round
+    if ((set.isCut && room.height() < style.lineHeight) || isTooHigh(set, room)) {
         const MvCalendariumCellLine line(style.texts, room, joined);
         set = {line.font(), line.isEmpty() ? QStringList() : QStringList{line.text()}, line.isCut(), {}};
     }

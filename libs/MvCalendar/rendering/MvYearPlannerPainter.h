@@ -57,6 +57,7 @@ private:
     QRectF innerRect(const MvYearPlanner &planner, const QRectF &part, const Style &style) const;
     Texts fittingTexts(const QStringList &texts, const QRectF &inner, const Style &style) const;
     /// As many lines as there is room for.
+    static bool isTooHigh(const MvFittedText &set, const QSizeF &room);
     Texts setTexts(const QStringList &texts, const QSizeF &room, const Style &style) const;
 
     MvCalendariumRendererYear &m_renderer;
