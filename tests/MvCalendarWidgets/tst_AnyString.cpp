@@ -67,12 +67,13 @@ void tst_AnyString::everyPainter_data()
         {"right to left and back", u"\u202e\u05d0\u05d1 abc \u2067\u0627\u0644\u2069\u202c"_s, true},
         {"100,000 marks on a letter", u'a' + QString(100'000, QChar(0x0301)), true},
     };
-    const QByteArray highHeading = "CALENDAR_ONE_DAY_PER_ROW, 100,000 marks on a letter"; // higher than its line
+    const QList<QByteArray> higherThanTheirLine = {"CALENDAR_ONE_DAY_PER_ROW, 100,000 marks on a letter",
+                                                   "CALENDAR_YEAR, 100,000 marks on a letter"};
     for (const char *type : {"CALENDAR_ONE_WEEK_PER_ROW", "CALENDAR_TWO_WEEKS", "CALENDAR_ONE_COLUMN_PER_WEEK",
                              "CALENDAR_ONE_ROW", "CALENDAR_ONE_DAY_PER_ROW", "CALENDAR_HOLIDAYS", "CALENDAR_YEAR"}) {
         for (const auto &[text, name, hasRoom] : texts) {
             const QByteArray row = QByteArray(type) + ", " + text;
-            QTest::newRow(row) << QString::fromLatin1(type) << name << (hasRoom && row != highHeading);
+            QTest::newRow(row) << QString::fromLatin1(type) << name << (hasRoom && !higherThanTheirLine.contains(row));
         }
     }
 }

@@ -7,7 +7,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
-#include <stdexcept>
+#include <exception>
 
 #include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
@@ -18,7 +18,8 @@ namespace {
 constexpr qsizetype large = 1 << 15; // bytes
 constexpr qsizetype piece = 1 << 16;
 
-/// To a file, told at once when its disk is full.
+/// To a file, until something goes wrong, as with a full disk. It must not throw: the library finishes its pipelines in
+/// destructors, too.
 class FilePipeline : public Pipeline
 {
 public:
@@ -27,19 +28,23 @@ public:
         , m_file(file)
     {}
 
+    /// Empty when all is written.
+    QString error() const { return m_error; }
+
     void write(const unsigned char *data, size_t size) override
     {
-        if (m_file.write(reinterpret_cast<const char *>(data), qint64(size)) != qint64(size))
-            throw std::runtime_error(m_file.errorString().toStdString());
+        if (m_error.isEmpty() && m_file.write(reinterpret_cast<const char *>(data), qint64(size)) != qint64(size))
+            m_error = m_file.errorString();
     }
     void finish() override
     {
-        if (!m_file.flush())
-            throw std::runtime_error(m_file.errorString().toStdString());
+        if (m_error.isEmpty() && !m_file.flush())
+            m_error = m_file.errorString();
     }
 
 private:
     QFile &m_file;
+    QString m_error;
 };
 
 } // namespace
@@ -165,8 +170,8 @@ MvOutcome MvPdfFile::write(const QString &path)
         d->fail(file.errorString());
     if (!d->error.isEmpty())
         return {d->error, {}};
+    FilePipeline pipeline(file);
     try {
-        FilePipeline pipeline(file);
         QPDFWriter writer(d->pdf);
         writer.setOutputPipeline(&pipeline);
         writer.setObjectStreamMode(qpdf_o_generate);
@@ -175,5 +180,7 @@ MvOutcome MvPdfFile::write(const QString &path)
     } catch (const std::exception &exception) {
         d->fail(QString::fromUtf8(exception.what()));
     }
+    if (!pipeline.error().isEmpty())
+        d->fail(pipeline.error());
     return {d->error, {}};
 }
