@@ -264,7 +264,6 @@ MvYearPlannerPainter::Texts MvYearPlannerPainter::fittingTexts(const QStringList
     return best;
 }
 
-/// Letters with accents may be higher than their line.
 bool MvYearPlannerPainter::isTooHigh(const MvFittedText &set, const QSizeF &room)
 {
     const MvTextFitter unchanged(set.font, set.font.pixelSize(), MvHyphenator());

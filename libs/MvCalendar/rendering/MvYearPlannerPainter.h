@@ -56,8 +56,9 @@ private:
     /// The room for texts in the part of a cell.
     QRectF innerRect(const MvYearPlanner &planner, const QRectF &part, const Style &style) const;
     Texts fittingTexts(const QStringList &texts, const QRectF &inner, const Style &style) const;
-    /// As many lines as there is room for.
+    /// A line of it is not painted, since what is seen of it is higher than the room: accents may be.
     static bool isTooHigh(const MvFittedText &set, const QSizeF &room);
+    /// As many lines as there is room for.
     Texts setTexts(const QStringList &texts, const QSizeF &room, const Style &style) const;
 
     MvCalendariumRendererYear &m_renderer;
