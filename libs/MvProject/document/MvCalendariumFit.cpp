@@ -35,12 +35,15 @@ MvCalendariumContentConfig withoutTexts(const MvCalendariumContentConfig &conten
     return without;
 }
 
-/// The first step from this one on that is small enough. The last one is, and what follows a small one.
+/// The first step from this one on that is small enough. The last one is, and what follows a small one. Mostly it is
+/// the first, or where nothing helps, the last; so these are tried before those between.
 int firstStep(int from, const std::function<bool(int)> &isSmallEnough)
 {
-    int tooLarge = from - 1;
+    if (from >= mostSteps || isSmallEnough(from))
+        return from;
+    int tooLarge = from;
     int smallEnough = mostSteps;
-    for (int tried = from; smallEnough - tooLarge > 1; tried = (tooLarge + smallEnough) / 2) {
+    for (int tried = mostSteps - 1; smallEnough - tooLarge > 1; tried = (tooLarge + smallEnough) / 2) {
         if (isSmallEnough(tried))
             smallEnough = tried;
         else
