@@ -30,13 +30,13 @@ class Nightly(unittest.TestCase):
         self.nightly = tool("nightly")
         self.nightly.LOGS = self.folder / "logs"
 
-    def run_part(self, *steps, name="part"):
+    def run_part(self, *steps, name="part", options=()):
         def work(part, _):
             for step in steps:
                 part.run("sh", "-c", step)
         self.nightly.PARTS = {name: work, "other": lambda part, _: None}
         with contextlib.redirect_stdout(io.StringIO()) as said:
-            sys.argv = ["nightly"]
+            sys.argv = ["nightly", *options]
             code = self.nightly.main()
         return code, said.getvalue()
 
@@ -54,9 +54,8 @@ class Nightly(unittest.TestCase):
         self.assertFalse((self.folder / "after").exists())
 
     def test_time_is_up(self):
-        self.nightly.MINUTES = 0
         survivor = self.folder / "survivor"
-        code, said = self.run_part(f"(sleep 2; touch {survivor}) & wait")
+        code, said = self.run_part(f"(sleep 2; touch {survivor}) & wait", options=["--minutes", "0"])
         self.assertEqual(code, 1)
         self.assertIn("not done after", said)
         time.sleep(1.5)
