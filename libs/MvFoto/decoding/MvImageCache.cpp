@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvImageCache.h"
 
-#include <QMutexLocker>
-
 MvImageCache::MvImageCache(qint64 byteLimit)
     : m_byteLimit(byteLimit)
 {}
 
 QImage MvImageCache::image(const Key &key, const std::function<QImage()> &make)
 {
-    QMutexLocker lock(&m_mutex);
+    std::unique_lock lock(m_mutex);
     while (true) {
         if (const auto found = m_entries.find(key); found != m_entries.end()) {
             m_uses.splice(m_uses.begin(), m_uses, found->use);
@@ -17,21 +15,21 @@ QImage MvImageCache::image(const Key &key, const std::function<QImage()> &make)
         }
         if (!m_inTheMaking.contains(key))
             break;
-        m_made.wait(&m_mutex);
+        m_made.wait(lock);
     }
     m_inTheMaking.insert(key);
     lock.unlock();
     const QImage made = make();
-    lock.relock();
+    lock.lock();
     m_inTheMaking.remove(key);
     keep(key, made);
-    m_made.wakeAll();
+    m_made.notify_all();
     return made;
 }
 
 std::optional<QImage> MvImageCache::kept(const Key &key)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     const auto found = m_entries.find(key);
     if (found == m_entries.end())
         return std::nullopt;
@@ -41,7 +39,7 @@ std::optional<QImage> MvImageCache::kept(const Key &key)
 
 QImage MvImageCache::otherSize(const Key &key) const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     QImage best;
     for (auto it = m_entries.cbegin(); it != m_entries.cend(); ++it) {
         Key same = it.key();
@@ -54,7 +52,7 @@ QImage MvImageCache::otherSize(const Key &key) const
 
 void MvImageCache::clear()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_entries.clear();
     m_uses.clear();
     m_byteCount = 0;
@@ -62,7 +60,7 @@ void MvImageCache::clear()
 
 qint64 MvImageCache::byteCount() const
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     return m_byteCount;
 }
 
@@ -78,7 +76,7 @@ void MvImageCache::keep(const Key &key, const QImage &image)
 
 void MvImageCache::setByteLimit(qint64 byteLimit)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     m_byteLimit = byteLimit;
     dropSurplus();
 }

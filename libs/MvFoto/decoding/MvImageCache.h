@@ -5,14 +5,14 @@
 
 #include <QHash>
 #include <QImage>
-#include <QMutex>
 #include <QSet>
 #include <QSize>
 #include <QString>
-#include <QWaitCondition>
 
+#include <condition_variable>
 #include <functional>
 #include <list>
+#include <mutex>
 #include <optional>
 
 /// Decoded images, bounded in bytes; what was not asked for longest goes first. Any thread; a thread that asks for an
@@ -59,8 +59,8 @@ private:
     void dropSurplus();
     static qint64 cost(const QImage &image);
 
-    mutable QMutex m_mutex;
-    QWaitCondition m_made;
+    mutable std::mutex m_mutex;
+    std::condition_variable m_made;
     QHash<Key, Entry> m_entries;
     std::list<Key> m_uses; // latest first
     QSet<Key> m_inTheMaking;
