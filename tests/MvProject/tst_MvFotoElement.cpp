@@ -28,6 +28,8 @@ private Q_SLOTS:
     void keepsToItsLimits();
     void painted_data();
     void painted();
+    void corrected_data();
+    void corrected();
 
 private:
     const QTemporaryDir m_folder;
@@ -178,6 +180,9 @@ void tst_MvFotoElement::keepsToItsLimits()
     QCOMPARE(foto.zoom(), 1.0);
     foto.setStraightening(-90.0);
     QCOMPARE(foto.straightening(), -15.0);
+    foto.setBrightness(51);
+    foto.setContrast(-1000);
+    QCOMPARE(std::pair(foto.brightness(), foto.contrast()), std::pair(50, -50));
     foto.setQuarterTurns(-5);
     QCOMPARE(foto.quarterTurns(), 3);
     foto.setFocus({nan, 7.0});
@@ -251,6 +256,53 @@ void tst_MvFotoElement::painted()
         QCOMPARE(colorAt(x * 1.03, y * 1.03), QColor(Qt::magenta));
     }
     QCOMPARE(image.pixelColor(1250, 250), QColor(Qt::magenta));
+}
+
+void tst_MvFotoElement::corrected_data()
+{
+    QTest::addColumn<int>("brightness");
+    QTest::addColumn<int>("contrast");
+    QTest::addColumn<int>("dark"); // what becomes of it: darker -1, lighter 1
+    QTest::addColumn<int>("light");
+    QTest::addColumn<bool>("keepsEnds"); // black and white
+    QTest::newRow("as it is") << 0 << 0 << 0 << 0 << true;
+    QTest::newRow("lighter") << 30 << 0 << 1 << 1 << true;
+    QTest::newRow("darker") << -50 << 0 << -1 << -1 << true;
+    QTest::newRow("harder") << 0 << 50 << -1 << 1 << true;
+    QTest::newRow("softer") << 0 << -20 << 1 << -1 << false;
+}
+
+/// On print and askew, where pictures are drawn in another way.
+void tst_MvFotoElement::corrected()
+{
+    QFETCH(const int, brightness);
+    QFETCH(const int, contrast);
+    const QList<int> tones = {0, 70, 180, 255};
+    const QString path = m_folder.filePath(u"stufen.png"_s);
+    QImage steps(400, 400, QImage::Format_RGB32);
+    QPainter stepPainter(&steps);
+    for (int i = 0; i < tones.size(); ++i)
+        stepPainter.fillRect(100 * i, 0, 100, 400, QColor(tones[i], tones[i], tones[i]));
+    QVERIFY(stepPainter.end() && steps.save(path));
+    MvFotoElement foto(path);
+    foto.setBrightness(brightness);
+    foto.setContrast(contrast);
+    for (const double rotation : {0.0, 2.0}) {
+        MvPageElement element({100, 100, 400, 400}, foto);
+        element.setRotation(rotation);
+        const MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
+        MvCalendarPage page = calendar.pages()[0];
+        page.setElements({element});
+        QImage image(600, 600, QImage::Format_RGB32);
+        QPainter painter(&image);
+        page.paintFoto(painter, calendar.format());
+        painter.end();
+        const auto change = [&](int i) { return image.pixelColor(150 + 100 * i, 300).green() - tones[i]; };
+        const auto sign = [](int number) { return int(number > 0) - int(number < 0); };
+        QTEST(sign(change(1)), "dark");
+        QTEST(sign(change(2)), "light");
+        QTEST(change(0) == 0 && change(3) == 0, "keepsEnds");
+    }
 }
 
 MV_TEST_MAIN(tst_MvFotoElement)

@@ -112,6 +112,8 @@ MvCalendarDocument tst_MvProjectFile::everythingNew()
     foto.setFocus({0.1, 1.0 / 3.0});
     foto.setQuarterTurns(3);
     foto.setStraightening(-7.25);
+    foto.setBrightness(12);
+    foto.setContrast(-50);
     foto.setBorder({12.5, QColor(1, 2, 3)});
     foto.setCaption(u"Ostern „bei“ Oma <1960>\nund Opa"_s);
     MvTextElement text(u"  {title} – Zeile 1\nZeile 2 "_s);

@@ -93,6 +93,16 @@ void MvFotoElement::setStraightening(double degrees)
     m_straightening = clamped(degrees, -largestStraightening, largestStraightening, 0.0);
 }
 
+void MvFotoElement::setBrightness(int brightness)
+{
+    m_brightness = std::clamp(brightness, -strongestCorrection, strongestCorrection);
+}
+
+void MvFotoElement::setContrast(int contrast)
+{
+    m_contrast = std::clamp(contrast, -strongestCorrection, strongestCorrection);
+}
+
 void MvFotoElement::setBorder(const Border &border)
 {
     m_border.width = clamped(border.width, 0.0, widestBorder, 0.0);

@@ -24,6 +24,7 @@ public:
     static constexpr double largestZoom = 8.0;
     static constexpr double largestStraightening = 15.0; // degrees
     static constexpr double widestBorder = 200.0;
+    static constexpr int strongestCorrection = 50; // of brightness and contrast
 
     /// A line around the photo, inside the frame.
     struct Border
@@ -67,6 +68,14 @@ public:
     double straightening() const { return m_straightening; }
     void setStraightening(double degrees);
 
+    /// -50 to 50, 0 for the photo as it is; clamped. Middle tones become lighter or darker, black and white stay.
+    int brightness() const { return m_brightness; }
+    void setBrightness(int brightness);
+    /// -50 to 50, 0 for the photo as it is; clamped. What is lighter and what is darker than the middle move apart, or
+    /// towards each other.
+    int contrast() const { return m_contrast; }
+    void setContrast(int contrast);
+
     const Border &border() const { return m_border; }
     /// The width is clamped to 0 to 200, the colour kept with 8 bits a channel; an invalid one becomes white.
     void setBorder(const Border &border);
@@ -75,7 +84,7 @@ public:
     QString caption() const { return m_caption; }
     void setCaption(const QString &caption) { m_caption = caption; }
 
-    /// This frame with the picture of the other: its file, crop, turns and caption. Fit and border stay.
+    /// This frame with the picture of the other: its file, crop, turns, corrections and caption. Fit and border stay.
     MvFotoElement withPictureOf(const MvFotoElement &other) const;
 
     /// The part of a frame of the size, its corner at (0, 0), that a photo of the other size covers; the frame itself
@@ -106,6 +115,8 @@ private:
     QPointF m_focus{0.5, 0.5};
     int m_quarterTurns = 0;
     double m_straightening = 0.0;
+    int m_brightness = 0;
+    int m_contrast = 0;
     Border m_border;
     QString m_caption;
 };

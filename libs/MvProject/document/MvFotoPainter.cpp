@@ -9,6 +9,7 @@
 #include "MvPaint/MvPrintableText.h"
 #include "MvPaint/MvTextOutlineCache.h"
 #include "MvPaint/MvTextPainter.h"
+#include "MvProject/MvFotoTone.h"
 
 #include <QFileInfo>
 #include <QPainter>
@@ -98,7 +99,7 @@ void MvFotoPainter::draw(const QImage &image, const QSize &full, const QRectF &r
     if (m_foto.straightening() != 0.0 || m_isTilted) { // not every target can turn or clip images
         m_painter.save();
         m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        m_painter.drawImage(shown.translated(rect.topLeft()), seenIn(shown, rect.size(), image, full));
+        m_painter.drawImage(shown.translated(rect.topLeft()), corrected(seenIn(shown, rect.size(), image, full)));
         m_painter.restore();
         return;
     }
@@ -131,6 +132,11 @@ QImage MvFotoPainter::seenIn(const QRectF &part, const QSizeF &frame, const QIma
     return seen;
 }
 
+QImage MvFotoPainter::corrected(const QImage &image) const
+{
+    return MvFotoTone(m_foto.brightness(), m_foto.contrast()).applied(image);
+}
+
 double MvFotoPainter::borderWidth(const QRectF &covered) const
 {
     return std::min({m_foto.border().width, covered.width() / 2.0, covered.height() / 2.0});
@@ -158,7 +164,7 @@ void MvFotoPainter::drawCropped(const QImage &image, const QRectF &seen, const Q
     m_painter.save();
     m_painter.setClipRect(rect, Qt::IntersectClip);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    m_painter.drawImage(target, pixels == image.rect() ? image : image.copy(pixels));
+    m_painter.drawImage(target, corrected(pixels == image.rect() ? image : image.copy(pixels)));
     m_painter.restore();
 }
 

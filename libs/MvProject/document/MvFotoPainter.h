@@ -35,6 +35,8 @@ private:
     void drawCropped(const QImage &image, const QRectF &seen, const QRectF &rect);
     /// What is seen in the part of a frame of the size, in about as many pixels as the image has for it.
     QImage seenIn(const QRectF &part, const QSizeF &frame, const QImage &image, const QSize &full) const;
+    /// In the brightness and contrast that the frame gives it.
+    QImage corrected(const QImage &image) const;
     double borderWidth(const QRectF &covered) const;
     void drawBorder(const QRectF &covered);
     void paintPlaceholder(const QRectF &rect, bool isNamed);

@@ -29,6 +29,10 @@ MvFotoElement MvProjectElementReader::readFoto(const QDomElement &element)
     m_notes.addIfChanged(element, turnsKey, foto.quarterTurns());
     foto.setStraightening(MvXMLParser::doubleAttribute(element, straighteningKey));
     m_notes.addIfChanged(element, straighteningKey, foto.straightening());
+    foto.setBrightness(MvXMLParser::intAttribute(element, brightnessKey));
+    m_notes.addIfChanged(element, brightnessKey, foto.brightness());
+    foto.setContrast(MvXMLParser::intAttribute(element, contrastKey));
+    m_notes.addIfChanged(element, contrastKey, foto.contrast());
     foto.setBorder({MvXMLParser::doubleAttribute(element, borderWidthKey),
                     readColor(element, borderColorKey, MvFotoElement::Border().color)});
     m_notes.addIfChanged(element, borderWidthKey, foto.border().width);

@@ -15,6 +15,8 @@ void MvProjectElementWriter::writeFoto(QDomElement &element, const MvFotoElement
     addIfNew(element, zoomKey, foto.zoom(), usual.zoom());
     addIfNew(element, turnsKey, foto.quarterTurns(), usual.quarterTurns());
     addIfNew(element, straighteningKey, foto.straightening(), usual.straightening());
+    addIfNew(element, brightnessKey, foto.brightness(), usual.brightness());
+    addIfNew(element, contrastKey, foto.contrast(), usual.contrast());
     addIfNew(element, borderWidthKey, foto.border().width, usual.border().width);
     addIfNew(element, borderColorKey, foto.border().color, usual.border().color);
     addIfNew(element, captionKey, foto.caption(), usual.caption());
