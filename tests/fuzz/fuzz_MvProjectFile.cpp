@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFuzz.h"
 
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvProjectFile.h"
 
 #include <QDir>
+#include <QPainter>
 
-/// A project: whatever is read can be written, and read again.
+/// A project: whatever is read can be written, read again, and painted.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QFileInfo file = MvFuzz::file(MvFuzz::bytes(data, size));
@@ -17,5 +19,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     MvFuzz::check(again.isOk(), "a written project can be read");
     MvFuzz::check(MvProjectFile::toBytes(again.document, file.absoluteDir()) == written,
                   "writing again changes nothing");
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    for (int page = 0; page < qMin(2, int(again.document.pages().size())); ++page) // more would take the search's time
+        again.document.paint(painter, page);
     return 0;
 }
