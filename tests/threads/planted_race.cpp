@@ -26,9 +26,12 @@ void nextStep()
     step.fetch_add(1, std::memory_order_relaxed);
 }
 
-/// Two tasks change one thing.
+/// Two tasks, later ones of their threads, change one thing.
 void inBoth(QThreadPool &pool, const std::function<void(int)> &change)
 {
+    for (int i = 0; i < 20; ++i)
+        pool.start([] { QThread::usleep(100); });
+    pool.waitForDone();
     for (int i = 0; i < 2; ++i) {
         pool.start([i, change] {
             waitForStep(i);
@@ -71,7 +74,25 @@ int late(QThreadPool &pool)
     return number;
 }
 
-/// Task, second task in the same thread, call on the main thread.
+/// A call that a task has posted changes what the task goes on changing.
+void fromCall(QThreadPool &pool)
+{
+    QObject receiver;
+    pool.start([&receiver] {
+        QMetaObject::invokeMethod(&receiver, [] {
+            number = 1;
+            nextStep();
+        });
+        waitForStep(1);
+        number = 2;
+        nextStep();
+    });
+    while (step.load(std::memory_order_relaxed) < 2)
+        QCoreApplication::processEvents();
+    pool.waitForDone();
+}
+
+/// Many tasks, each with a call on the main thread, and a thread that is waited for.
 int clean(QThreadPool &pool)
 {
     QObject receiver;
@@ -85,6 +106,9 @@ int clean(QThreadPool &pool)
     list.reset();
     while (number < 200)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    const std::unique_ptr<QThread> thread(QThread::create([] { ++number; }));
+    thread->start();
+    thread->wait();
     return number;
 }
 
@@ -105,6 +129,8 @@ int main(int argc, char **argv)
         inBoth(pool, [](int i) { std::memset(bytes, i, 8 + size_t(i)); });
     else if (race == "result")
         result = early(pool);
+    else if (race == "call")
+        fromCall(pool);
     else if (race == "destruction")
         result = late(pool);
     qInfo("%d %d", result, int(bytes[0]));
