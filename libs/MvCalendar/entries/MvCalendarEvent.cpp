@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEvent.h"
 
+#include "MvCalendar/MvCalendarEventContent.h"
+#include "MvCalendar/MvCalendarEventExtras.h"
 #include "MvCalendar/MvCalendarEventFotoCopy.h"
 #include "MvCalendar/MvCalendarEventFotoFinder.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
+#include "MvCalendar/MvRecurrenceDates.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvFoto/MvFotoAccess.h"
@@ -12,6 +15,8 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -78,6 +83,48 @@ void MvCalendarEvent::read(const MvCalendarEventTexts &texts)
     m_lastChanged = QDateTime::fromString(texts.text(u"LastChanged"_s).trimmed(), Qt::ISODate);
     if (!m_lastChanged.isValid())
         m_lastChanged = QDateTime::currentDateTime();
+    setExtras(MvCalendarEventExtras(texts));
+}
+
+const MvCalendarEventExtras &MvCalendarEvent::extras() const
+{
+    static const MvCalendarEventExtras none;
+    return m_extras ? *m_extras : none;
+}
+
+void MvCalendarEvent::setExtras(const MvCalendarEventExtras &extras)
+{
+    m_extras = extras == MvCalendarEventExtras() ? nullptr : std::make_shared<const MvCalendarEventExtras>(extras);
+}
+
+bool MvCalendarEvent::hasSameExtras(const MvCalendarEvent &other) const
+{
+    return m_extras == other.m_extras || extras() == other.extras();
+}
+
+QString MvCalendarEvent::whyUnreadable(const MvCalendarEventTexts &texts)
+{
+    return MvCalendarEventExtras::whyUnreadable(texts);
+}
+
+const MvEventRepetition &MvCalendarEvent::repetition() const
+{
+    return extras().repetition;
+}
+
+QDate MvCalendarEvent::endDate() const
+{
+    return extras().endDate;
+}
+
+QTime MvCalendarEvent::time() const
+{
+    return extras().time;
+}
+
+QStringList MvCalendarEvent::groups() const
+{
+    return extras().groups;
 }
 
 QSize MvCalendarEvent::imageSize() const
@@ -105,6 +152,62 @@ void MvCalendarEvent::setDateTime(const QDateTime &dateTime)
 void MvCalendarEvent::setRecurrent(bool recurrent)
 {
     m_recurrent = recurrent;
+    updateChangeTime();
+}
+
+void MvCalendarEvent::setRepetition(const MvEventRepetition &repetition)
+{
+    MvCalendarEventExtras changed = extras();
+    changed.repetition = repetition;
+    changed.repetition.normalize();
+    setExtras(changed);
+    updateChangeTime();
+}
+
+void MvCalendarEvent::setEndDate(const QDate &date)
+{
+    MvCalendarEventExtras changed = extras();
+    changed.endDate = date > m_dateTime.date() ? date : QDate();
+    setExtras(changed);
+    updateChangeTime();
+}
+
+void MvCalendarEvent::setTime(const QTime &time)
+{
+    MvCalendarEventExtras changed = extras();
+    changed.time = QTime(time.hour(), time.minute()); // files have no seconds
+    setExtras(changed);
+    updateChangeTime();
+}
+
+void MvCalendarEvent::setGroups(const QStringList &ids)
+{
+    MvCalendarEventExtras changed = extras();
+    changed.groups = ids;
+    changed.groups.removeAll(QString());
+    changed.groups.removeDuplicates();
+    setExtras(changed);
+    updateChangeTime();
+}
+
+void MvCalendarEvent::takeContent(const MvCalendarEvent &other, int part)
+{
+    MvCalendarEventExtras changed = extras();
+    const MvCalendarEventExtras &given = other.extras();
+    if (part & MvCalendarEventContent::Name)
+        m_name = other.m_name;
+    if (part & MvCalendarEventContent::Date) {
+        m_dateTime = other.m_dateTime;
+        changed.endDate = given.endDate;
+        changed.time = given.time;
+    }
+    if (part & MvCalendarEventContent::Repetition) {
+        m_recurrent = other.m_recurrent;
+        changed.repetition = given.repetition;
+    }
+    if (part & MvCalendarEventContent::Groups)
+        changed.groups = given.groups;
+    setExtras(changed);
     updateChangeTime();
 }
 
@@ -139,10 +242,72 @@ void MvCalendarEvent::updateChangeTime()
 
 bool MvCalendarEvent::isAtDay(const QDate &day) const
 {
+    if (!isByDayOfYear())
+        return startAt(day).isValid();
     const QDate date = m_dateTime.date();
     if (date.day() != day.day() || date.month() != day.month())
         return false;
     return date.year() == day.year() || m_recurrent;
+}
+
+// ---- occurrences
+
+int MvCalendarEvent::dayCount() const
+{
+    const QDate end = m_extras ? m_extras->endDate : QDate();
+    const qint64 days = end.isValid() ? m_dateTime.date().daysTo(end) + 1 : 1;
+    return int(std::clamp<qint64>(days, 1, longestSpan));
+}
+
+bool MvCalendarEvent::isByDayOfYear() const
+{
+    return !m_extras || (m_extras->repetition.isDefault() && dayCount() == 1);
+}
+
+QList<QDate> MvCalendarEvent::startsInYear(int year) const
+{
+    const QDate date = m_dateTime.date();
+    const MvEventRepetition &how = repetition();
+    QList<QDate> starts;
+    if (how.rule.isPlain() && how.rule.frequency == MvRecurrenceRule::Yearly && how.rule.count == 0) {
+        const bool isInStep = year >= date.year() && (year - date.year()) % how.rule.interval == 0;
+        const QDate day = isInStep ? how.yearlyDay(date, year) : QDate();
+        if (day.isValid() && (!how.rule.until.isValid() || day <= how.rule.until))
+            starts.append(day);
+    } else if (!how.rule.isNone()) {
+        starts = MvRecurrenceDates::inYear(how.rule, date, year);
+    } else if (m_recurrent || year == date.year()) {
+        if (const QDate day = how.yearlyDay(date, year); day.isValid())
+            starts.append(day);
+    }
+    starts.removeIf([&how](const QDate &day) { return how.exceptions.contains(day); });
+    for (const QDate &extra : how.extraDates) {
+        if (extra.year() == year && !how.exceptions.contains(extra) && !starts.contains(extra))
+            starts.append(extra);
+    }
+    std::sort(starts.begin(), starts.end());
+    return starts;
+}
+
+QDate MvCalendarEvent::startAt(const QDate &day) const
+{
+    if (!day.isValid() || !m_dateTime.isValid())
+        return {};
+    const QDate earliest = day.addDays(1 - dayCount());
+    for (int year = day.year(); year >= earliest.year(); --year) {
+        const QList<QDate> starts = startsInYear(year);
+        const auto after = std::upper_bound(starts.cbegin(), starts.cend(), day);
+        if (after != starts.cbegin())
+            return *std::prev(after) >= earliest ? *std::prev(after) : QDate();
+    }
+    return {};
+}
+
+int MvCalendarEvent::yearsAt(const QDate &start) const
+{
+    const MvRecurrenceRule &rule = repetition().rule;
+    const bool isYearly = rule.isNone() ? m_recurrent : rule.frequency == MvRecurrenceRule::Yearly;
+    return hasYear() && isYearly ? std::max(0, start.year() - m_dateTime.date().year()) : 0;
 }
 
 QDateTime MvCalendarEvent::startOf(const QDate &date)
@@ -171,7 +336,7 @@ QList<std::pair<QString, QString>> MvCalendarEvent::fileTexts() const
 {
     if (!isValid())
         return {};
-    return {
+    QList<std::pair<QString, QString>> texts = {
         {u"Name"_s, m_name},
         {u"DateTime"_s, m_dateTime.toString(Qt::ISODate)},
         {u"Recurrent"_s, MvStringHelper::boolToString(m_recurrent)},
@@ -179,6 +344,7 @@ QList<std::pair<QString, QString>> MvCalendarEvent::fileTexts() const
         {u"UUID"_s, m_uuid.toString()},
         {u"LastChanged"_s, m_lastChanged.toString(Qt::ISODate)},
     };
+    return m_extras ? texts + m_extras->fileTexts() : texts;
 }
 
 void MvCalendarEvent::createXML(QDomNode &parent) const
@@ -256,7 +422,7 @@ bool MvCalendarEvent::greaterThanRecurrent(const MvCalendarEvent &a, const MvCal
 bool MvCalendarEvent::operator==(const MvCalendarEvent &other) const
 {
     return m_recurrent == other.m_recurrent && m_name == other.m_name && m_dateTime == other.m_dateTime &&
-           m_foto == other.m_foto;
+           m_foto == other.m_foto && hasSameExtras(other);
 }
 
 bool MvCalendarEvent::operator<(const MvCalendarEvent &other) const
@@ -284,5 +450,7 @@ size_t qHash(const MvCalendarEvent &event, size_t seed)
     // equal times have equal local fields; those are at hand, whereas the moment itself asks for the time zone's rules
     const QDateTime &dateTime = event.dateTime();
     const QDateTime local = dateTime.timeSpec() == Qt::LocalTime ? dateTime : dateTime.toLocalTime();
-    return qHashMulti(seed, event.description(), local.date(), local.time(), event.storedRecurrent(), event.foto());
+    const size_t hash =
+        qHashMulti(seed, event.description(), local.date(), local.time(), event.storedRecurrent(), event.foto());
+    return event.endDate().isValid() ? qHashMulti(hash, event.endDate()) : hash;
 }

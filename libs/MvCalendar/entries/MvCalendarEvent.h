@@ -3,6 +3,7 @@
 
 #include "MvCalendar/mvcalendar_export.h"
 
+#include "MvCalendar/MvEventRepetition.h"
 #include "MvCore/MvOutcome.h"
 #include "MvCore/MvTypedDate.h"
 #include "MvFoto/MvDrawable.h"
@@ -17,12 +18,16 @@
 #include <QList>
 #include <QMetaType>
 #include <QString>
+#include <QStringList>
+#include <QTime>
 #include <QUuid>
 
+#include <memory>
 #include <utility>
 
 class MvCalendarEventFotoFinder;
 class MvCalendarEventTexts;
+struct MvCalendarEventExtras;
 class QDomElement;
 class QDomNode;
 
@@ -74,6 +79,14 @@ public:
     /// True for every entry. The stored flag is another matter: files, comparisons and isAtDay() go by it.
     bool isRecurrent() const { return true; }
     MvFoto foto() const { return m_foto; }
+    /// How it repeats beyond the flag; a default-constructed one for nearly all.
+    const MvEventRepetition &repetition() const;
+    /// The last day of an entry that lasts several; invalid for one of a single day.
+    QDate endDate() const;
+    /// When it begins; invalid for a whole day.
+    QTime time() const;
+    /// The ids of the groups that it belongs to, each once.
+    QStringList groups() const;
     /// Who the entry is, across edits, saves and merges.
     QUuid uuid() const { return m_uuid; }
     QDateTime lastChanged() const { return m_lastChanged; }
@@ -90,6 +103,14 @@ public:
     void setEventName(const QString &name);
     void setDateTime(const QDateTime &dateTime);
     void setRecurrent(bool recurrent);
+    /// The rule, if there is one, counts instead of the flag, which remains for programs that know no rules.
+    void setRepetition(const MvEventRepetition &repetition);
+    /// An invalid day, the day of the entry or one before it makes it an entry of a single day.
+    void setEndDate(const QDate &date);
+    void setTime(const QTime &time);
+    void setGroups(const QStringList &ids);
+    /// Takes a part of another entry (MvCalendarEventContent::Part), but neither photo nor uuid.
+    void takeContent(const MvCalendarEvent &other, int part);
     /// Stores a photo of the photo folder as it is, any other as a copy in that folder. A photo that may not be opened
     /// is only referred to. A photo that cannot be read or copied leaves the entry with the name of a file that does
     /// not exist: what people choose goes through takeFoto().
@@ -99,8 +120,23 @@ public:
     /// already, and none, are always taken. Any thread.
     MvOutcome takeFoto(const MvFoto &foto);
 
-    /// The same day and month; another year only when the stored flag says that the entry recurs.
+    /// The same day and month; another year only when the stored flag says that the entry recurs. With a repetition or
+    /// a span: whether one of its occurrences includes the day.
     bool isAtDay(const QDate &day) const;
+
+    /// Spans of more days end after so many.
+    static constexpr int longestSpan = 366;
+    /// How many days an occurrence lasts, at least 1.
+    int dayCount() const;
+    /// Found by month and day alone: it neither spans days nor repeats in another way than by the flag.
+    bool isByDayOfYear() const;
+    /// The first days of the occurrences that begin in the year, ascending.
+    QList<QDate> startsInYear(int year) const;
+    /// The first day of the latest occurrence that includes the day; invalid when none does.
+    QDate startAt(const QDate &day) const;
+    /// How many years an occurrence that begins on the day is after the entry's date: the age at a birthday. 0 where
+    /// that means nothing: without a year, in its own year or before, of entries that are not yearly.
+    int yearsAt(const QDate &start) const;
 
     /// "01.03.26: "Oma Erika"", the date in the default locale's short format; without its year where that is unknown.
     QString longDescription() const;
@@ -121,6 +157,9 @@ public:
     /// Saves the image in the photo folder under a new name made from the photo's. The file does not exist when that
     /// failed, which logs a warning.
     QFileInfo saveImageToNewPosition(const QImage &image, const MvFoto &foto) const;
+    /// What of an entry in a file cannot be read and would be lost in writing it back, for a person; else empty. Name
+    /// and date do not count here.
+    static QString whyUnreadable(const MvCalendarEventTexts &texts);
     /// The photo of the child element "Image", a relative path counting from the photo folder; no photo when the text
     /// is empty.
     MvFoto createFoto(const QDomElement &element) const;
@@ -133,15 +172,22 @@ public:
     static bool lessThanRecurrent(const MvCalendarEvent &a, const MvCalendarEvent &b);
     static bool greaterThanRecurrent(const MvCalendarEvent &a, const MvCalendarEvent &b);
 
-    /// Stored flag, name, date and photo; uuid and time of the last change do not count.
+    /// Stored flag, name, date, photo, repetition, span, time and groups; uuid and time of the last change do not
+    /// count.
     bool operator==(const MvCalendarEvent &other) const;
     /// Valid entries first, then non-recurrent ones (stored flag), then by name and date.
     bool operator<(const MvCalendarEvent &other) const;
 
     /// The stored flag that isRecurrent() does not show.
     bool storedRecurrent() const { return m_recurrent; }
+    /// The same repetition, span, time and groups.
+    bool hasSameExtras(const MvCalendarEvent &other) const;
 
 private:
+    friend struct MvCalendarEventContent;
+
+    const MvCalendarEventExtras &extras() const;
+    void setExtras(const MvCalendarEventExtras &extras);
     void read(const MvCalendarEventTexts &texts);
     void updateChangeTime();
 
@@ -151,6 +197,7 @@ private:
     MvFoto m_foto;
     QUuid m_uuid;
     QDateTime m_lastChanged;
+    std::shared_ptr<const MvCalendarEventExtras> m_extras; // null for nearly all
 };
 
 MVCALENDAR_EXPORT QDebug operator<<(QDebug debug, const MvCalendarEvent &event);

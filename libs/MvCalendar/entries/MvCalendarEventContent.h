@@ -2,38 +2,26 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/mvcalendar_export.h"
 
 #include <QDate>
 #include <QString>
 #include <QUuid>
 
+#include <memory>
+
 /// What a file holds of an entry, for comparing and hashing: without the time of its last change, its time in whole
 /// seconds, and only the parts that are asked for.
-struct MvCalendarEventContent
+struct MVCALENDAR_EXPORT MvCalendarEventContent
 {
-    enum Part { Name = 1, Date = 2, Rest = 4, Uuid = 8 };
+    /// With its date goes how long it lasts and when it begins; with its photo, nothing.
+    enum Part { Name = 1, Date = 2, Foto = 4, Uuid = 8, Repetition = 16, Groups = 32 };
     /// Who the entry is does not belong to it.
-    static constexpr int everything = Name | Date | Rest;
+    static constexpr int everything = Name | Date | Foto | Repetition | Groups;
 
-    MvCalendarEventContent(const MvCalendarEvent &event, int parts)
-    {
-        if (parts & Name)
-            name = event.description();
-        if (parts & Date) { // fields of the local time: at hand, whereas the moment asks for the time zone's rules
-            const QDateTime when = event.dateTime();
-            const QDateTime local = when.timeSpec() == Qt::LocalTime ? when : when.toLocalTime();
-            date = local.date();
-            seconds = local.time().msecsSinceStartOfDay() / 1000;
-        }
-        if (parts & Rest) {
-            foto = event.foto();
-            isRecurrent = event.storedRecurrent();
-        }
-        if (parts & Uuid)
-            uuid = event.uuid();
-    }
+    MvCalendarEventContent(const MvCalendarEvent &event, int parts);
 
-    bool operator==(const MvCalendarEventContent &) const = default;
+    bool operator==(const MvCalendarEventContent &other) const;
 
     QString name;
     QDate date;
@@ -41,6 +29,10 @@ struct MvCalendarEventContent
     MvFoto foto;
     bool isRecurrent = false;
     QUuid uuid;
+
+private:
+    int m_parts;
+    std::shared_ptr<const MvCalendarEventExtras> m_extras; // of those parts that are asked for
 };
 
 inline size_t qHash(const MvCalendarEventContent &content, size_t seed = 0)

@@ -18,6 +18,7 @@ namespace {
 
 const QString rootName = u"CalendarEvents"_s;
 const QString entryName = u"CalendarEvent"_s;
+const QString groupName = u"CalendarEventGroup"_s;
 
 /// Gathers what a file holds, each equal entry once.
 class Gathering
@@ -52,6 +53,8 @@ QString whyInvalid(const MvCalendarEvent &event, const MvCalendarEventTexts &tex
 {
     const QString date = shown(texts.text(u"DateTime"_s));
     QStringList reasons;
+    if (event.isValid())
+        return MvCalendarEvent::whyUnreadable(texts);
     if (event.description().isEmpty())
         reasons.append(MvCalendarEventFile::tr("der Name fehlt"));
     if (!event.dateTime().isValid())
@@ -60,14 +63,62 @@ QString whyInvalid(const MvCalendarEvent &event, const MvCalendarEventTexts &tex
     return reasons.join(u", "_s);
 }
 
+MvEventGroup readGroup(const MvCalendarEventTexts &texts)
+{
+    MvEventGroup group;
+    group.id = texts.text(u"Id"_s).trimmed();
+    group.name = texts.text(u"Name"_s).simplified();
+    group.color = QColor(texts.text(u"Color"_s).trimmed());
+    group.symbol = texts.text(u"Symbol"_s).trimmed();
+    group.entryText = texts.text(u"EntryText"_s).trimmed();
+    return group;
+}
+
+QString whyInvalid(const MvEventGroup &group, const MvCalendarEventTexts &texts, const MvEventGroupList &known)
+{
+    const QString color = shown(texts.text(u"Color"_s));
+    if (!group.isValid())
+        return MvCalendarEventFile::tr("der Gruppe fehlt Kennung oder Name");
+    if (known.find(group.id))
+        return MvCalendarEventFile::tr("die Gruppe „%1“ steht zweimal da").arg(shown(group.id));
+    return group.color.isValid() || color.isEmpty()
+               ? QString()
+               : MvCalendarEventFile::tr("die Farbe „%1“ ist nicht zu lesen").arg(color);
+}
+
+/// The texts of a group in a file; what is empty is not there.
+QList<std::pair<QString, QString>> textsOf(const MvEventGroup &group)
+{
+    QList<std::pair<QString, QString>> texts = {
+        {u"Id"_s, group.id},
+        {u"Name"_s, group.name},
+        {u"Color"_s, group.color.isValid() ? group.color.name(QColor::HexRgb) : QString()},
+        {u"Symbol"_s, group.symbol},
+        {u"EntryText"_s, group.entryText},
+    };
+    texts.removeIf([](const auto &text) { return text.second.isEmpty(); });
+    return texts;
+}
+
 /// Reads the entries of a list. The reader is at the root element before and at its end afterwards.
 void readEntries(QXmlStreamReader &reader, const QFileInfo &file, MvCalendarEventFile::Content &content)
 {
     Gathering gathering;
+    MvEventGroupList groups;
     MvCalendarEventFotoFinder fotos(file);
     while (reader.readNextStartElement()) {
         const int line = int(reader.lineNumber());
         const QString element = reader.qualifiedName().toString();
+        if (element == groupName) {
+            const MvCalendarEventTexts texts(reader);
+            const MvEventGroup group = readGroup(texts);
+            const QString reason = whyInvalid(group, texts, groups);
+            if (reason.isEmpty())
+                groups.append(group);
+            else
+                content.skipped.append({line, shown(group.name), reason});
+            continue;
+        }
         if (element != entryName) {
             reader.skipCurrentElement();
             content.skipped.append({line, shown(element), MvCalendarEventFile::tr("das ist kein Eintrag")});
@@ -77,11 +128,14 @@ void readEntries(QXmlStreamReader &reader, const QFileInfo &file, MvCalendarEven
         if (texts.isEmpty())
             continue;
         const MvCalendarEvent event(texts, fotos);
-        gathering.add(event);
-        if (!event.isValid())
-            content.skipped.append({line, shown(event.description()), whyInvalid(event, texts)});
+        const QString reason = whyInvalid(event, texts);
+        if (reason.isEmpty())
+            gathering.add(event);
+        else
+            content.skipped.append({line, shown(event.description()), reason});
     }
     content.events = gathering.events();
+    content.events.setGroups(groups);
 }
 
 QString noteOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &file)
@@ -99,14 +153,17 @@ QString noteOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &f
     return note.arg(file.filePath(), paths.first());
 }
 
-/// A list with only this entry; an empty list for an invalid one.
-QByteArray documentOf(const MvCalendarEvent &event)
+/// A list with only this entry or group; an empty list without texts.
+QByteArray documentOf(const QString &name, const QList<std::pair<QString, QString>> &texts)
 {
     QDomDocument document;
     MvXMLBuilder::buildUTF8ProcessingInstructions(document);
     QDomElement root = MvXMLBuilder::buildRootElement(document, rootName);
-    if (event.isValid())
-        event.createXML(root);
+    if (!texts.isEmpty()) {
+        QDomElement element = MvXMLBuilder::buildDomElement(root, name);
+        for (const auto &[child, text] : texts)
+            MvXMLBuilder::buildDomElement(element, child, text);
+    }
     return document.toByteArray(2);
 }
 
@@ -130,19 +187,19 @@ bool isPlain(const QString &text)
 
 /// The lines of an entry as a document would write them, at a fraction of the time; false, and nothing appended, when
 /// its texts are not as plain as nearly all are.
-bool appendPlain(QByteArray &bytes, const QList<std::pair<QString, QString>> &texts)
+bool appendPlain(QByteArray &bytes, const QString &element, const QList<std::pair<QString, QString>> &texts)
 {
     if (!std::all_of(texts.cbegin(), texts.cend(), [](const auto &text) { return isPlain(text.second); }))
         return false;
-    static const QByteArray entry = entryName.toLatin1();
+    const QByteArray entry = element.toLatin1();
     bytes.append("  <").append(entry).append(">\n");
     for (const auto &[name, text] : texts) {
-        const QByteArray element = name.toLatin1();
-        bytes.append("    <").append(element);
+        const QByteArray child = name.toLatin1();
+        bytes.append("    <").append(child);
         if (text.isEmpty())
             bytes.append("/>\n");
         else
-            bytes.append('>').append(text.toUtf8()).append("</").append(element).append(">\n");
+            bytes.append('>').append(text.toUtf8()).append("</").append(child).append(">\n");
     }
     bytes.append("  </").append(entry).append(">\n");
     return true;
@@ -205,22 +262,31 @@ MvCalendarEventList MvCalendarEventFile::readElement(const QDomElement &element)
     for (QDomElement child = element.firstChildElement(entryName); !child.isNull();
          child = child.nextSiblingElement(entryName))
         gathering.add(MvCalendarEvent(child));
-    return gathering.events();
+    MvCalendarEventList events = gathering.events();
+    for (QDomElement child = element.firstChildElement(groupName); !child.isNull();
+         child = child.nextSiblingElement(groupName))
+        events.groups().put(readGroup(MvCalendarEventTexts(child)));
+    return events;
 }
 
 QByteArray MvCalendarEventFile::toBytes(const MvCalendarEventList &events)
 {
-    const QByteArray frame = documentOf({});
+    const QByteArray frame = documentOf({}, {});
     const qsizetype root = frame.lastIndexOf('<'); // "<CalendarEvents/>"
-    QByteArray bytes = frame.first(root) + '<' + rootName.toLatin1() + ">\n";
+    const QByteArray begin = frame.first(root) + '<' + rootName.toLatin1() + ">\n";
+    QByteArray bytes = begin;
     bytes.reserve(bytes.size() + events.size() * usualBytesOfEntry);
-    bool isEmpty = true;
-    for (const MvCalendarEvent &event : events) {
-        if (!event.isValid())
-            continue;
-        isEmpty = false;
-        if (!appendPlain(bytes, event.fileTexts()))
-            bytes += entryIn(documentOf(event));
+    const auto append = [&bytes](const QString &name, const QList<std::pair<QString, QString>> &texts) {
+        if (!appendPlain(bytes, name, texts))
+            bytes += entryIn(documentOf(name, texts));
+    };
+    for (const MvEventGroup &group : events.groups()) {
+        if (group.isValid())
+            append(groupName, textsOf(group));
     }
-    return isEmpty ? frame : bytes + "</" + rootName.toLatin1() + ">\n";
+    for (const MvCalendarEvent &event : events) {
+        if (event.isValid())
+            append(entryName, event.fileTexts());
+    }
+    return bytes.size() == begin.size() ? frame : bytes + "</" + rootName.toLatin1() + ">\n";
 }

@@ -50,9 +50,9 @@ public:
     /// One line for each, at most so many, then how many more there are.
     static QString describe(const QList<Skipped> &skipped, int most);
 
-    /// The valid entries among the child elements "CalendarEvent", in order, each equal one once.
+    /// The valid entries among the child elements "CalendarEvent", in order, each equal one once; and the groups.
     static MvCalendarEventList readElement(const QDomElement &element);
 
-    /// The whole file: UTF-8, indented by 2, the valid entries in order.
+    /// The whole file: UTF-8, indented by 2, groups, then the valid entries in order.
     static QByteArray toBytes(const MvCalendarEventList &events);
 };

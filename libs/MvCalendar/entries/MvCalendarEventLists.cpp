@@ -37,7 +37,7 @@ void MvCalendarEventLists::store(const MvProjectIdentifier &project, const MvCal
 {
     if (project == m_active) {
         finishWork();
-        if (m_lists.value(project).events().isSharedWith(events))
+        if (m_lists.value(project).events().isSame(events))
             return; // what it is already, in both forms
         m_work.reset();
     }

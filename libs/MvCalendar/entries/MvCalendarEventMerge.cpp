@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace {
@@ -152,16 +153,15 @@ MvCalendarEvent mergedFields(const MvCalendarEvent &base, const MvCalendarEvent 
         const Content before(base, part);
         return before == Content(earlier, part) || !(before == Content(later, part));
     };
-    const bool isName = isLater(Content::Name);
-    const bool isDate = isLater(Content::Date);
-    const bool isRest = isLater(Content::Rest);
-    if (isName && isDate && isRest)
+    const int all[] = {Content::Name, Content::Date, Content::Foto, Content::Repetition, Content::Groups};
+    if (std::all_of(std::begin(all), std::end(all), isLater))
         return later;
-    MvCalendarEvent merged = isRest ? later : earlier; // setting a photo might copy it
-    if (isName != isRest)
-        merged.setEventName(isName ? later.description() : earlier.description());
-    if (isDate != isRest)
-        merged.setDateTime(isDate ? later.dateTime() : earlier.dateTime());
+    MvCalendarEvent merged = isLater(Content::Foto) ? later : earlier; // setting a photo might copy it
+    const auto source = [&](int part) -> const MvCalendarEvent & { return isLater(part) ? later : earlier; };
+    merged.takeContent(source(Content::Name), Content::Name);
+    merged.takeContent(source(Content::Date), Content::Date);
+    merged.takeContent(source(Content::Repetition), Content::Repetition);
+    merged.takeContent(source(Content::Groups), Content::Groups);
     return merged;
 }
 
@@ -181,6 +181,14 @@ public:
 
     MvCalendarEventList result()
     {
+        MvCalendarEventList merged = mergedEntries();
+        merged.setGroups(MvEventGroupList::merged(m_base.groups(), m_mine.groups(), m_theirs.groups()));
+        return merged;
+    }
+
+private:
+    MvCalendarEventList mergedEntries()
+    {
         for (qsizetype i = 0; i < m_mine.size(); ++i) {
             if (m_toMine.toFirst(i) >= 0) {
                 takeKnown(m_toMine.toFirst(i), m_mine.at(i));
@@ -193,7 +201,6 @@ public:
         return withoutSurplus();
     }
 
-private:
     SharedUuids sharedUuids() const
     {
         SharedUuids shared;
@@ -300,6 +307,11 @@ MvCalendarEventList MvCalendarEventMerge::joined(const MvCalendarEventList &base
     for (const MvCalendarEvent &event : base)
         known.insert(event.uuid());
     MvCalendarEventList result = keepBase ? base : MvCalendarEventList();
+    result.setGroups(base.groups());
+    for (const MvEventGroup &group : other.groups()) {
+        if (!base.groups().find(group.id))
+            result.groups().append(group);
+    }
     for (const MvCalendarEvent &event : other) {
         if (event.uuid().isNull() || !known.contains(event.uuid()))
             result.append(event);
@@ -334,6 +346,7 @@ MvCalendarEventList MvCalendarEventMerge::withoutRepetitions(const MvCalendarEve
     QSet<Content> known;
     known.reserve(events.size());
     MvCalendarEventList result;
+    result.setGroups(events.groups());
     for (const MvCalendarEvent &event : events) {
         const qsizetype before = known.size();
         known.insert(Content(event, Content::everything));

@@ -34,6 +34,7 @@ MvCalendarEventList validOnly(const MvCalendarEventList &events)
     if (std::all_of(events.cbegin(), events.cend(), isValid))
         return events;
     MvCalendarEventList valid;
+    valid.setGroups(events.groups());
     std::copy_if(events.cbegin(), events.cend(), std::back_inserter(valid), isValid);
     return valid;
 }

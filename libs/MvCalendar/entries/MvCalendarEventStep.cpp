@@ -14,12 +14,9 @@ MvCalendarEvent stepFrom(const MvCalendarEvent &from, const MvCalendarEvent &to,
 {
     using Content = MvCalendarEventContent;
     const auto isOurs = [&](int part) { return Content(present, part) == Content(from, part); };
-    const bool isRest = isOurs(Content::Rest);
-    MvCalendarEvent result = isRest ? to : present; // setting a photo might copy it
-    if (isOurs(Content::Name) != isRest)
-        result.setEventName(isRest ? present.description() : to.description());
-    if (isOurs(Content::Date) != isRest)
-        result.setDateTime(isRest ? present.dateTime() : to.dateTime());
+    MvCalendarEvent result = isOurs(Content::Foto) ? to : present; // setting a photo might copy it
+    for (const int part : {Content::Name, Content::Date, Content::Repetition, Content::Groups})
+        result.takeContent(isOurs(part) ? to : present, part);
     return result;
 }
 

@@ -193,8 +193,7 @@ void MvCalendarEventStore::keep(const MvCalendarEventList &events, const Adopt &
 /// This list was written by this program and the file has not changed since.
 bool MvCalendarEventStore::isInFile(const MvCalendarEventList &events) const
 {
-    return m_isWrittenHere && m_inFile.isSharedWith(events) && !m_stamp.isEmpty() &&
-           m_stamp == MvFileGuard::stamp(file());
+    return m_isWrittenHere && m_inFile.isSame(events) && !m_stamp.isEmpty() && m_stamp == MvFileGuard::stamp(file());
 }
 
 QString MvCalendarEventStore::savingLine() const
@@ -215,7 +214,9 @@ bool MvCalendarEventStore::saveNow()
         return true;
     const MvCalendarEventList before = m_pending->events;
     bool isReplaced = false;
-    tryPending([&](const MvCalendarEventList &events) { isReplaced = events != before; });
+    tryPending([&](const MvCalendarEventList &events) {
+        isReplaced = events != before || events.groups() != before.groups();
+    });
     if (isReplaced)
         Q_EMIT eventsReplaced(m_present);
     return !m_pending;
@@ -245,7 +246,9 @@ void MvCalendarEventStore::tryPending(const Adopt &adopt)
     }
     if (!setAside() || !write(all))
         return;
-    if (pending.adopts || all == pending.events) { // else the caller's list lacks some: the next change takes it in
+    if (pending.adopts ||
+        (all == pending.events &&
+         all.groups() == pending.events.groups())) { // else the caller's list lacks some: the next change takes it in
         noteWritten(all);
     }
     m_pending.reset();

@@ -8,7 +8,7 @@ namespace {
 /// Entries name copies of photos in a folder of their own, once they are stored.
 bool isCopyOfFoto(const MvCalendarEvent &copy, const MvCalendarEvent &event)
 {
-    return copy.storedRecurrent() == event.storedRecurrent() &&
+    return copy.storedRecurrent() == event.storedRecurrent() && copy.hasSameExtras(event) &&
            (copy.foto() == event.foto() ||
             (copy.foto().isValid() && event.foto().isValid() && copy.imagePath().path() != event.imagePath().path()));
 }
@@ -16,6 +16,7 @@ bool isCopyOfFoto(const MvCalendarEvent &copy, const MvCalendarEvent &event)
 } // namespace
 
 MvCalendarEventWorkList::MvCalendarEventWorkList(const MvCalendarEventList &events)
+    : m_groups(events.groups())
 {
     m_alike.reserve(size_t(events.size()));
     m_byUuid.reserve(size_t(events.size()));
@@ -31,6 +32,7 @@ MvCalendarEventList MvCalendarEventWorkList::events() const
     events.reserve(qsizetype(m_entries.size()));
     for (const Entry &entry : m_entries)
         events.append(entry.event);
+    events.setGroups(m_groups);
     return events;
 }
 

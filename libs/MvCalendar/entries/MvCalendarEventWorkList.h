@@ -65,6 +65,7 @@ private:
     void remove(Position position);
 
     Entries m_entries;
+    MvEventGroupList m_groups;
     std::unordered_map<MvCalendarEventContent, Bucket, Hash> m_alike; // by name and date
     std::unordered_map<QUuid, Bucket, Hash> m_byUuid;
 };

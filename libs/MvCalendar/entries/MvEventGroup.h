@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendar/mvcalendar_export.h"
+
+#include <QColor>
+#include <QList>
+#include <QString>
+
+/// Whom or what entries are about: family, club, a person, a class. An entry names its groups by their ids.
+struct MVCALENDAR_EXPORT MvEventGroup
+{
+    QString id;        ///< never changes, however the group is called
+    QString name;      ///< as people see it
+    QColor color;      ///< of its texts and dots; invalid: those of the page
+    QString symbol;    ///< stands before its texts, one or two characters; may be empty
+    QString entryText; ///< how an entry reads: "%name (%age)", see MvEntryText; empty: as the calendar has it
+
+    bool isValid() const { return !id.isEmpty() && !name.isEmpty(); }
+    /// A group of the name, with an id that follows from it: two programs that make it make the same one.
+    static MvEventGroup named(const QString &name);
+
+    bool operator==(const MvEventGroup &) const = default;
+};
+
+/// The groups of a list of entries, in the user's order, each id once.
+class MVCALENDAR_EXPORT MvEventGroupList : public QList<MvEventGroup>
+{
+public:
+    using QList<MvEventGroup>::QList;
+
+    /// Null when there is none. Valid until the list changes.
+    const MvEventGroup *find(const QString &id) const;
+    /// By name, whatever the case of its letters.
+    const MvEventGroup *findName(const QString &name) const;
+    /// The id of the group of that name, which is added when there is none; empty for an empty name.
+    QString idOfName(const QString &name);
+    /// Replaces the group of the same id, or adds it; an invalid one changes nothing.
+    void put(const MvEventGroup &group);
+
+    /// What both sides made of the groups they started from: a change outweighs none, mine the other's.
+    static MvEventGroupList merged(const MvEventGroupList &base, const MvEventGroupList &mine,
+                                   const MvEventGroupList &theirs);
+};
