@@ -2,10 +2,14 @@
 // What photos cost beside the least that they could: opening a calendar of twelve large ones until its first page is
 // sharp, exporting it, and gathering five hundred for the pool beside a window.
 
+#include "MvCore/MvProcessMemory.h"
+#include "MvFoto/MvFotoSource.h"
 #include "MvFoto/MvGuardedImageReader.h"
 #include "MvFoto/MvImageLoader.h"
-#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvExportJob.h"
+#include "MvProject/MvFotoDistribution.h"
 #include "MvProject/MvFotoPoolIntake.h"
+#include "MvProject/MvNewCalendar.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvProjectFile.h"
@@ -14,62 +18,71 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QPainter>
+#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize largePhoto(6000, 4000); // 24 megapixels
-constexpr int pages = 12;
+constexpr int photos = 12;
 constexpr int manyPhotos = 500;
 constexpr int screenWidth = 1600;
 constexpr int dpi = 300;
+constexpr int jpegQuality = 92; // that of the PDF
 
+/// Coloured spots with grain, as hard to pack as a photo is.
 QImage painted(const QSize &size)
 {
-    QImage image(size, QImage::Format_RGB32);
+    QRandomGenerator random(1);
+    QImage spots(size / 100, QImage::Format_RGB32);
+    for (int y = 0; y < spots.height(); ++y)
+        random.fillRange(reinterpret_cast<quint32 *>(spots.scanLine(y)), spots.width());
+    QImage image =
+        spots.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y) {
         auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
         for (int x = 0; x < size.width(); ++x) {
-            const int grain = int((quint32(x) * 2654435761u ^ quint32(y) * 40503u) >> 27);
-            line[x] = qRgb(x * 200 / size.width() + grain, y * 200 / size.height() + grain, 90 + grain);
+            const int grain = int((quint32(x) * 2654435761u ^ quint32(y) * 2246822519u) >> 28);
+            line[x] =
+                qRgb(qRed(line[x]) * 3 / 4 + grain, qGreen(line[x]) * 3 / 4 + grain, qBlue(line[x]) * 3 / 4 + grain);
         }
     }
     return image;
 }
 
-/// A calendar with a large photo on each page, in a folder of its own.
+/// A calendar of large photos on A4, in a folder of its own.
 class Calendar
 {
 public:
-    Calendar()
+    explicit Calendar(const QString &theme)
     {
-        MvCalendariumAppearance appearance;
-        appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(u"MONTH_GRID_CLASSIC"_s));
-        appearance.adoptLayoutSuggestions();
-        appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
-        document.setRange({QDate(2027, 1, 1), QDate(2027, 12, 31)});
-        document.setAppearance(appearance);
-        const QString first = path(0);
-        painted(largePhoto).save(first, "jpeg", 90);
-        for (int page = 0; page < pages; ++page) {
-            if (page > 0)
-                QFile::copy(first, path(page));
-            MvCalendarPage changed = document.pages()[page];
-            changed.setFotoFrame(MvFotoFrame(path(page)));
-            document.setPage(page, changed);
+        for (int number = 0; number < photos; ++number) {
+            const QString path = m_folder.filePath(u"%1.jpg"_s.arg(number));
+            if (number == 0)
+                painted(largePhoto).save(path, "jpeg", 90);
+            else
+                QFile::copy(m_folder.filePath(u"0.jpg"_s), path);
         }
-        MvProjectFile::write(document, QFileInfo(file()));
+        MvNewCalendar made;
+        made.range = {QDate(2027, 1, 1), QDate(2027, 12, 31)};
+        made.themeId = theme;
+        document = made.make();
+        MvFotoPool pool;
+        pool.add(MvFotoPoolIntake::gather({m_folder.path()}).items);
+        document.setFotoPool(pool);
+        document = MvFotoDistribution::distribute(document).document;
+        MvProjectFile::write(document, QFileInfo(path(u"kalender.mvcalendar"_s)));
     }
-    QString path(int page) const { return m_folder.filePath(u"%1.jpg"_s.arg(page)); }
-    QString file() const { return m_folder.filePath(u"kalender.mvcalendar"_s); }
-    QString folder() const { return m_folder.path(); }
+    QString path(const QString &name) const { return m_folder.filePath(name); }
 
     MvCalendarDocument document;
 
@@ -77,10 +90,12 @@ private:
     QTemporaryDir m_folder;
 };
 
-const Calendar &calendar()
+/// One whose photos stand beside the months, and one whose months stand on them.
+const Calendar &calendar(bool isOnPhotos = false)
 {
-    static const Calendar calendar;
-    return calendar;
+    static const Calendar beside(u"PAPER"_s);
+    static const Calendar on(u"TRAVEL"_s);
+    return isOnPhotos ? on : beside;
 }
 
 double seconds(const QElapsedTimer &timer)
@@ -88,14 +103,20 @@ double seconds(const QElapsedTimer &timer)
     return double(timer.nsecsElapsed()) * 1e-9;
 }
 
-/// In megabytes; of this process since the last call of forgetPeak().
-double peakMemory()
+/// Of all threads.
+double computingTime()
+{
+    return double(std::clock()) / CLOCKS_PER_SEC;
+}
+
+/// A value of this process in megabytes: "VmHWM" is the most that it had since the last call of forgetPeak().
+double memory(const QByteArray &name)
 {
     QFile status(u"/proc/self/status"_s);
     if (!status.open(QIODevice::ReadOnly))
         return 0.0;
     const QByteArray text = status.readAll();
-    const qsizetype start = text.indexOf("VmHWM:") + 6;
+    const qsizetype start = text.indexOf(name + ':') + name.size() + 1;
     return text.mid(start, text.indexOf("kB", start) - start).trimmed().toDouble() / 1024.0;
 }
 
@@ -108,6 +129,7 @@ void forgetPeak()
 
 void openProject(benchmark::State &state)
 {
+    const QString path = calendar().path(u"kalender.mvcalendar"_s);
     const MvPageFormat format = calendar().document.format();
     const double scale = screenWidth / format.trimSize().width();
     double opening = 0.0;
@@ -116,60 +138,104 @@ void openProject(benchmark::State &state)
         MvImageLoader::instance().clear();
         QElapsedTimer timer;
         timer.start();
-        const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(calendar().file()));
+        const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(path));
         QImage image((format.trimSize() * scale).toSize(), QImage::Format_RGB32);
         QPainter painter(&image);
         painter.scale(scale, scale);
-        content.document.paint(painter, 0);
+        content.document.paint(painter, 1);
         painter.end();
         opening += seconds(timer);
         timer.start();
-        MvImageLoader::instance().loadUncached(QFileInfo(calendar().path(0)), {screenWidth, screenWidth});
+        MvImageLoader::instance().loadUncached(QFileInfo(calendar().path(u"0.jpg"_s)), {screenWidth, screenWidth});
         decoding += seconds(timer);
     }
     state.counters["ratio"] = opening / decoding;
 }
 BENCHMARK(openProject)->Unit(benchmark::kMillisecond)->Iterations(3);
 
-/// The same pictures decoded, scaled and written as JPEG, as they would be for a print of that size.
-double straightExport()
+/// Notes the largest size in which each photo is asked for, and has none.
+class Orders : public MvFotoSource
 {
-    QElapsedTimer timer;
-    timer.start();
-    for (int page = 0; page < pages; ++page) {
-        const MvFotoFrame frame = calendar().document.pages()[page].fotoFrame();
-        const QSizeF paper = frame.rect(calendar().document.format()).size() * (dpi / 254.0);
-        const QSizeF needed = QSizeF(largePhoto).scaled(paper, Qt::KeepAspectRatioByExpanding);
-        const QImage image = MvImageLoader::instance().loadUncached(QFileInfo(calendar().path(page)), needed.toSize());
-        QBuffer buffer;
-        image.save(&buffer, "jpeg", 90);
+public:
+    QImage scaled(const QFileInfo &file, const QSize &bounds) override
+    {
+        QSize &largest = sizes[file.filePath()];
+        largest = largest.expandedTo(bounds);
+        return {};
     }
-    return seconds(timer);
+
+    QHash<QString, QSize> sizes;
+};
+
+/// The photos that the calendar asks for in print, with nothing around them: decoded, scaled and written as JPEG.
+void convertStraight(const MvCalendarDocument &document)
+{
+    Orders orders;
+    MvRenderingSources sources;
+    sources.fotos = &orders;
+    const MvPageSource source = document.pageSource(sources);
+    QImage paper(1, 1, QImage::Format_RGB32);
+    for (int page = 0; page < source.pages.size(); ++page) {
+        QPainter painter(&paper);
+        source.paintPage(painter, page, {}, dpi / 254.0);
+    }
+    for (auto order = orders.sizes.cbegin(); order != orders.sizes.cend(); ++order) {
+        const QImage image = QImageReader(order.key()).read();
+        QBuffer buffer;
+        image.scaled(order.value(), Qt::KeepAspectRatio, Qt::SmoothTransformation).save(&buffer, "jpeg", jpegQuality);
+    }
 }
 
+/// Time and computing time beside those of the straight way; what memory it takes, above what the program had before
+/// and in all, and what of it stays.
 void exportPdf(benchmark::State &state)
 {
-    const QString target = calendar().folder() + u"/kalender.pdf"_s;
-    double exporting = 0.0;
-    double straight = 0.0;
-    double peak = 0.0;
+    const Calendar &printed = calendar(state.range(0) == 1);
+    const QFileInfo target(printed.path(u"kalender.pdf"_s));
+    convertStraight(printed.document); // libraries loaded, files at hand
+    MvImageLoader::instance().clear();
+    forgetPeak();
+    const double before = memory("VmRSS");
+    QElapsedTimer timer;
     for (auto _ : state) {
-        MvImageLoader::instance().clear();
-        forgetPeak();
-        QElapsedTimer timer;
         timer.start();
-        const MvExportResult result = MvPdfExporter::write(calendar().document.pageSource(), QFileInfo(target));
-        exporting += seconds(timer);
+        double computing = computingTime();
+        const MvExportResult result = MvPdfExporter::write(printed.document.pageSource(), target);
+        const double exporting = seconds(timer);
+        const double computed = computingTime() - computing;
         if (!result.isOk())
             state.SkipWithError(qPrintable(result.error));
-        peak = std::max(peak, peakMemory());
-        MvImageLoader::instance().clear();
-        straight += straightExport();
+        state.counters["peak_mb"] = memory("VmHWM");
+        state.counters["above_mb"] = memory("VmHWM") - before;
+        state.counters["kept_mb"] = memory("VmRSS") - before;
+        timer.start();
+        computing = computingTime();
+        convertStraight(printed.document);
+        state.counters["ratio"] = exporting / seconds(timer);
+        state.counters["computing"] = computed / (computingTime() - computing);
     }
-    state.counters["ratio"] = exporting / straight;
-    state.counters["peak_mb"] = peak;
 }
-BENCHMARK(exportPdf)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(exportPdf)->ArgName("on")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+/// The same beside a window.
+void exportBesideWindow(benchmark::State &state)
+{
+    const Calendar &printed = calendar(true);
+    MvImageLoader::instance().clear();
+    forgetPeak();
+    const double before = memory("VmRSS");
+    for (auto _ : state) {
+        MvExportJob job(printed.document, MvExportTarget(printed.path(u"kalender.pdf"_s)));
+        bool isDone = false;
+        QObject::connect(&job, &MvExportJob::finished, [&isDone] { isDone = true; });
+        job.start();
+        while (!isDone)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    state.counters["above_mb"] = memory("VmHWM") - before;
+    state.counters["kept_mb"] = memory("VmRSS") - before;
+}
+BENCHMARK(exportBesideWindow)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 /// The longest turn of the event loop while photos are gathered, beside the time that one of them takes to decode.
 void gatherForPool(benchmark::State &state)
@@ -208,6 +274,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     MvImageLoader::raiseProcessLimit();
+    MvProcessMemory::giveBackAtOnce(); // as the programs do
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -3,11 +3,13 @@
 // handled between asking for something and seeing it, beside what decoding one such photo takes. Two and five years
 // with a photo of 12 megapixels on each page in the print preview, and a month with entries whose photos have 24. And
 // step by step in a large calendar, of two years with 500 entries: all layouts and countries, entries and undo, zoom,
-// a photo, another length, saved and opened again.
+// a photo, another length, saved and opened again. And scrolling through a calendar of 60 pages with 200 photos, in the
+// strip and page by page on the canvas, while thumbnails and pages are still being made.
 
 #include "flows/MvPrintFlow.h"
 #include "flows/MvUndoCommandEventList.h"
 #include "pages/MvPageCanvas.h"
+#include "pages/MvPageStrip.h"
 #include "window/MvStudioWindow.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -16,6 +18,10 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvImageLoader.h"
+#include "MvProject/MvFotoDistribution.h"
+#include "MvProject/MvFotoPoolIntake.h"
+#include "MvProject/MvNewCalendar.h"
+#include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvProject.h"
 
 #include <QApplication>
@@ -23,6 +29,7 @@
 #include <QElapsedTimer>
 #include <QPrintPreviewDialog>
 #include <QRandomGenerator>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QUndoStack>
 
@@ -195,6 +202,84 @@ void entryFotos(benchmark::State &state)
     report(state, first, entryFoto);
 }
 BENCHMARK(entryFotos)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// ---- scrolling
+
+constexpr int manyMonths = 58; // and a cover and a back
+constexpr int manyFotos = 200;
+constexpr int notch = 60; // pixels of the strip
+
+/// Four photos on nearly every page.
+MvCalendarDocument album(const QTemporaryDir &folder)
+{
+    const QString first = foto(folder, u"0.jpg"_s, pageFoto);
+    for (int number = 1; number < manyFotos; ++number)
+        copyFoto(first, folder.filePath(u"%1.jpg"_s.arg(number)));
+    MvNewCalendar made;
+    made.range = {QDate(2027, 1, 1), QDate(2027, 1, 1).addMonths(manyMonths).addDays(-1)};
+    MvCalendarDocument document = made.make();
+    for (int number = 1; number <= manyMonths; ++number) {
+        MvCalendarPage page = document.pages().at(number);
+        page.setTemplate(MvPageTemplateRegistry::instance().findTemplate(u"MONTH_FOUR"_s), document.format());
+        document.setPage(number, page);
+    }
+    MvFotoPool pool;
+    pool.add(MvFotoPoolIntake::gather({folder.path()}).items);
+    document.setFotoPool(pool);
+    return MvFotoDistribution::distribute(document).document;
+}
+
+/// The longest event in milliseconds while somebody does this again and again, as fast as a wheel is turned.
+double longestWhileRepeating(int times, const std::function<void(int)> &step)
+{
+    application->longest = 0.0;
+    for (int number = 0; number < times; ++number) {
+        QMetaObject::invokeMethod(
+            application, [&step, number] { step(number); }, Qt::QueuedConnection);
+        QElapsedTimer clock;
+        clock.start();
+        while (clock.elapsed() < 30)
+            QApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+    return application->longest;
+}
+
+void scrolling(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const MvCalendarDocument document = album(folder);
+    for (auto _ : state) {
+        MvProject project;
+        application->longest = 0.0;
+        MvStudioWindow window(&project);
+        window.resize(windowSize);
+        window.show();
+        application->settle();
+        application->longest = 0.0;
+        QMetaObject::invokeMethod(
+            &window, [&] { project.newProject(document); }, Qt::QueuedConnection);
+        application->settle();
+        state.counters["opening_ms"] = application->longest;
+        auto *strip = window.findChild<MvPageStrip *>();
+        QScrollBar *bar = strip->verticalScrollBar();
+        const int pages = int(document.pages().size());
+        state.counters["pages"] = pages;
+        state.counters["photos"] = double(document.fotoUses().size());
+        state.counters["strip_ms"] =
+            longestWhileRepeating(bar->maximum() / notch, [bar](int number) { bar->setValue(number * notch); });
+        auto *canvas = window.findChild<MvPageCanvas *>();
+        state.counters["canvas_ms"] =
+            longestWhileRepeating(pages, [canvas](int number) { canvas->setCurrentPage(number); });
+        application->longest = 0.0;
+        application->settle();
+        state.counters["rest_ms"] = application->longest;
+    }
+    application->longest = 0.0;
+    for (const char *name : {"strip_ms", "canvas_ms", "rest_ms"})
+        application->longest = std::max(application->longest, double(state.counters[name]));
+    report(state, folder.filePath(u"0.jpg"_s), pageFoto);
+}
+BENCHMARK(scrolling)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 // ---- step by step
 

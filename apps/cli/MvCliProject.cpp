@@ -2,8 +2,11 @@
 #include "MvCliProject.h"
 
 #include "MvCliValues.h"
+#include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvProjectFile.h"
 
+#include <QCoreApplication>
+#include <QFileInfo>
 #include <QTextStream>
 
 using namespace Qt::StringLiterals;
@@ -17,4 +20,11 @@ MvCliProject MvCliProject::read(const MvCliValues &values, QTextStream &hints)
     project.error = content.error;
     project.document = content.document;
     return project;
+}
+
+QString MvCliProject::missingFoto(const QString &path)
+{
+    return QCoreApplication::translate("MvCliProject", "Foto fehlt oder ist nicht lesbar: %1 (%2)")
+        .replace(u"%2"_s, MvImageLoader::instance().error(QFileInfo(path)))
+        .replace(u"%1"_s, path);
 }

@@ -14,4 +14,6 @@ struct MvCliProject : MvOutcome
 
     /// Reads the project of "--project"; without one, an error. What could not be taken as it stands gives hints.
     static MvCliProject read(const MvCliValues &values, QTextStream &hints);
+    /// A line about a photo whose place stays empty.
+    static QString missingFoto(const QString &path);
 };

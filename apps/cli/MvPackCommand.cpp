@@ -61,7 +61,7 @@ MvCliCommand::Result MvPackCommand::run(const MvCliArguments &arguments, const S
     if (!result.isOk())
         return failed(result.error);
     for (const QString &path : result.missing)
-        hints.stream() << tr("Foto fehlt oder ist nicht lesbar: %1").replace(u"%1"_s, path) << '\n';
+        hints.stream() << MvCliProject::missingFoto(path) << '\n';
     for (const QString &note : result.notes)
         hints.stream() << note << '\n';
     streams.out << (isArchive ? target : result.projectPath) << '\n';

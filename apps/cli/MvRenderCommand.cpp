@@ -152,6 +152,7 @@ MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, 
     report.setSkippedEntries(entries.file(), entries.skipped());
     for (const QString &path : arguments.values(u"output"_s)) {
         const MvExportResult result = targetOf(path).write(pages, dpi);
+        report.addMissingFotos(result.missingFotos);
         for (const QFileInfo &file : result.files) {
             report.addFile(file.filePath());
             if (!isReported)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRenderReport.h"
 
+#include "MvCliProject.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -90,6 +92,12 @@ void MvRenderReport::addPage(int page, const MvPageFindings &findings)
                    MvPrintedFoto::ofPaintedPage(m_document.pages()[page], m_document.format(), findings, m_sources)});
 }
 
+void MvRenderReport::addMissingFotos(const QStringList &paths)
+{
+    m_missingFotos += paths;
+    m_missingFotos.removeDuplicates();
+}
+
 void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped)
 {
     m_entriesFile = file;
@@ -126,7 +134,7 @@ void MvRenderReport::printHint(QTextStream &hints) const
 {
     printTextHints(hints);
     for (const QString &path : m_missingFotos)
-        hints << tr("Foto fehlt oder ist nicht lesbar: %1").replace(u"%1"_s, path) << '\n';
+        hints << MvCliProject::missingFoto(path) << '\n';
     printFotoHints(hints);
 }
 

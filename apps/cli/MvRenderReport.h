@@ -26,6 +26,8 @@ public:
     void addPage(int page, const MvPageFindings &findings);
 
     void addFile(const QString &path) { m_files.append(path); }
+    /// Photos that an export could not read.
+    void addMissingFotos(const QStringList &paths);
 
     /// Entries that are not printed since their file has them in a form that cannot be read.
     void setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped);

@@ -2,6 +2,7 @@
 #include "MvCli.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvOutOfMemory.h"
+#include "MvCore/MvProcessMemory.h"
 #include "MvCore/MvTranslations.h"
 #include "MvFoto/MvImageLoader.h"
 
@@ -9,9 +10,6 @@
 #include <QGuiApplication>
 
 #include <cstdio>
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace {
 
@@ -30,16 +28,6 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     std::fprintf(stderr, "mvcalendar: %s\n", message.simplified().toLocal8Bit().constData());
 }
 
-/// Pages are painted once each, so little is kept of their photos: what fills a page of A4, which may be on all pages.
-/// And large pieces of memory are given back at once, where the system would keep places for the next ones.
-void keepMemoryLow()
-{
-    MvImageLoader::instance().setCacheLimit(48 << 20);
-#ifdef __GLIBC__
-    mallopt(M_MMAP_THRESHOLD, 1 << 20);
-#endif
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -54,7 +42,7 @@ int main(int argc, char **argv)
     MvTranslations::install(MvTranslations::systemLanguage());
     MvOutOfMemory::install(QCoreApplication::applicationName(), MvCliCommand::Failed);
     MvImageLoader::raiseProcessLimit();
-    keepMemoryLow();
+    MvProcessMemory::giveBackAtOnce();
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
 
     QFile standardOutput;

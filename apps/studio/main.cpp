@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvOutOfMemory.h"
+#include "MvCore/MvProcessMemory.h"
 #include "MvStudioApplication.h"
 
 #include <QApplication>
@@ -27,6 +28,7 @@ int main(int argc, char **argv)
         std::fputs(early.message().toLocal8Bit().constData(), early.exitCode() == 0 ? stdout : stderr);
         return early.exitCode();
     }
+    MvProcessMemory::giveBackAtOnce();
     const QApplication application(argc, argv);
     MvOutOfMemory::install(QStringLiteral("mvcalendar-studio"), 1);
     MvStudioApplication studio(MvStudioOptions::parse(QCoreApplication::arguments()));

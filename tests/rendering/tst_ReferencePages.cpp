@@ -3,7 +3,12 @@
 #include "MvPrintedPage.h"
 #include "MvTest.h"
 
+#include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvPaintRecorder.h"
+#include "MvProject/MvProjectFile.h"
+
 #include <QDir>
+#include <QPainter>
 #include <QSaveFile>
 #include <QTemporaryDir>
 
@@ -64,6 +69,11 @@ QString describe(const QString &layout, const QString &foto)
         text += MvPrintedPage(choice, MvBoxFont::family()).describe();
     }
     return text;
+}
+
+QFileInfoList olderFiles()
+{
+    return QDir(QStringLiteral(MV_TEST_DATA "/version1")).entryInfoList({u"*.mvcalendar"_s}, QDir::Files, QDir::Name);
 }
 
 QString contentOf(const QString &path)
@@ -144,7 +154,8 @@ QString difference(const QStringList &expected, const QStringList &actual)
 
 } // namespace
 
-/// Every layout as it is printed, item by item, against the text files in tests/rendering/reference. A page that is
+/// Every layout as it is printed, and the pages of older project files, item by item, against the text files in
+/// tests/rendering/reference. A page that is
 /// meant to look otherwise is taken over by tools/accept_pages.
 ///
 ///     MV_ACCEPT_PAGES=1    writes the files instead of comparing with them
@@ -157,8 +168,12 @@ private Q_SLOTS:
     void filesAreThoseOfTheLayouts();
     void page_data();
     void page();
+    void olderFile_data();
+    void olderFile();
 
 private:
+    void compare(const QString &name, const QString &actual) const;
+
     QTemporaryDir m_folder;
     QString m_foto;
 };
@@ -184,6 +199,7 @@ void tst_ReferencePages::filesAreThoseOfTheLayouts()
         return;
     }
     QCOMPARE(QDir(QStringLiteral(MV_REFERENCE)).entryList(QDir::Files, QDir::Name), expected);
+    QCOMPARE(QDir(QStringLiteral(MV_REFERENCE "/version1")).entryList(QDir::Files).size(), olderFiles().size());
 }
 
 void tst_ReferencePages::page_data()
@@ -196,14 +212,46 @@ void tst_ReferencePages::page_data()
 void tst_ReferencePages::page()
 {
     QFETCH(QString, layout);
-    const QString file = QStringLiteral(MV_REFERENCE "/") + layout + u".txt"_s;
-    const QString actual = describe(layout, m_foto);
+    compare(layout, describe(layout, m_foto));
+}
+
+void tst_ReferencePages::olderFile_data()
+{
+    QTest::addColumn<QString>("path");
+    for (const QFileInfo &file : olderFiles())
+        QTest::newRow(qPrintable(file.baseName())) << file.filePath();
+}
+
+/// What older programs have written looks as it did, and is written back as they read it.
+void tst_ReferencePages::olderFile()
+{
+    QFETCH(QString, path);
+    QVERIFY(MvBoxFont::family() == u"MvBox"_s); // which the files name
+    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(path));
+    QCOMPARE(content.error, QString());
+    const MvCalendarDocument &document = content.document;
+    QString text;
+    for (int page = 0; page < document.pages().size(); ++page) {
+        MvPaintRecorder recorder(nullptr);
+        QPainter painter(&recorder);
+        MvRenderingRule(MvRenderingRule::Print).encodeInto(painter);
+        document.paint(painter, page);
+        painter.end();
+        text += heading + u"page %1\n"_s.arg(page + 1) + recorder.recording().describe();
+    }
+    compare(u"version1/"_s + QFileInfo(path).baseName(), text);
+    QVERIFY(MvProjectFile::toBytes(document, QFileInfo(path).dir()).contains(R"(version="1")"));
+}
+
+void tst_ReferencePages::compare(const QString &name, const QString &actual) const
+{
+    const QString file = QStringLiteral(MV_REFERENCE "/") + name + u".txt"_s;
     if (!qEnvironmentVariableIsEmpty("MV_ACCEPT_PAGES")) {
         write(file, actual);
         return;
     }
     const QString expected = contentOf(file);
-    const QString changed = QStringLiteral(MV_CHANGED_PAGES "/") + layout + u".txt"_s;
+    const QString changed = QStringLiteral(MV_CHANGED_PAGES "/") + name + u".txt"_s;
     QFile::remove(changed);
     if (actual == expected)
         return;

@@ -12,6 +12,7 @@
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectPack.h"
 #include "MvProject/MvProjectRecovery.h"
 #include "MvProjectFixture.h"
 
@@ -175,11 +176,11 @@ int stateOfColors(const QDir &)
     return found.size() == 1 ? found.first().gridConfig().color().red() : -1;
 }
 
-MvCalendarDocument document(int state)
+/// The state of a calendar whose photos, frames and templates are all of that state.
+int stateOfAlbum(const QFileInfo &file)
 {
-    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 12);
-    document.setTitle(nameOf(state));
-    return document;
+    const int state = MvStorageTest::stateOfProject(file);
+    return state <= 0 || MvProjectFile::read(file).document == MvProjectFixture::album(state) ? state : -1;
 }
 
 QString projectFile(const QDir &disk)
@@ -190,13 +191,13 @@ QString projectFile(const QDir &disk)
 QString storeProject(const QDir &disk, int state)
 {
     MvProject project;
-    project.newProject(document(state));
+    project.newProject(MvProjectFixture::album(state));
     return project.saveAs(QFileInfo(projectFile(disk))).error;
 }
 
 int stateOfProject(const QDir &disk)
 {
-    return MvStorageTest::stateOfProject(QFileInfo(projectFile(disk)));
+    return stateOfAlbum(QFileInfo(projectFile(disk)));
 }
 
 /// The program that stores goes without saving the project, as if it had been killed.
@@ -212,7 +213,7 @@ QString autosave(const QDir &, int state)
         loop.quit();
     });
     autosave->setDelay(0);
-    project.change(document(state), u"Titel ändern"_s);
+    project.change(MvProjectFixture::album(state), u"Fotos verteilen"_s);
     loop.exec();
     return error;
 }
@@ -222,7 +223,7 @@ int stateOfAutosave(const QDir &)
     const QFileInfoList files = QDir(MvProjectAutosave::folder()).entryInfoList({u"*.mvcalendar"_s}, QDir::Files);
     int state = 0;
     for (const QFileInfo &file : files) {
-        const int found = MvStorageTest::stateOfProject(file);
+        const int found = stateOfAlbum(file);
         state = state < 0 || found < 0 ? -1 : std::max(state, found);
     }
     return state;
@@ -239,7 +240,7 @@ void leaveRecovery(const QDir &disk, int state)
     discardAutosaves(disk, state);
     const QDir folder(MvProjectAutosave::folder());
     MvSafeFileWriter::write(QFileInfo(folder.filePath(u"found-%1.mvcalendar"_s.arg(state))),
-                            MvProjectFile::toBytes(document(state), folder, projectFile(disk)),
+                            MvProjectFile::toBytes(MvProjectFixture::album(state), folder, projectFile(disk)),
                             MvSafeFileWriter::Backups::None);
 }
 
@@ -324,6 +325,42 @@ int stateInPlace(const QDir &disk)
     return state == 0 || content == filling(state) ? state : -1;
 }
 
+QString packZip(const QDir &disk, int state)
+{
+    return MvProjectPack(MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, state % 12 + 1), nameOf(state))
+        .writeZip(disk.filePath(u"Kalender.zip"_s))
+        .error;
+}
+
+QString packFolder(const QDir &disk, int state)
+{
+    return MvProjectPack(MvProjectFixture::album(state), u"k"_s).writeFolder(disk.filePath(u"Kalender"_s)).error;
+}
+
+void removeFolder(const QDir &disk, int) // a pack never replaces one
+{
+    QDir(disk.filePath(u"Kalender"_s)).removeRecursively();
+}
+
+int stateOfFolder(const QDir &disk)
+{
+    if (!QFileInfo::exists(disk.filePath(u"Kalender"_s)))
+        return 0;
+    return stateOf(MvProjectFile::read(QFileInfo(disk.filePath(u"Kalender/k.mvcalendar"_s))).document.title());
+}
+
+/// The name of its folder, if its end is there.
+int stateOfZip(const QDir &disk)
+{
+    constexpr int headSize = 30; // before the first name
+    constexpr int endSize = 22;
+    const QByteArray content = contentOf(disk.filePath(u"Kalender.zip"_s));
+    if (content.isEmpty())
+        return 0;
+    const QByteArray name = content.mid(headSize, content.indexOf('/', headSize) - headSize);
+    return content.last(endSize).startsWith("PK\5\6") ? stateOf(QString::fromUtf8(name)) : -1;
+}
+
 QList<MvStorageOperation> operations()
 {
     using Application = MvStorageOperation::Application;
@@ -340,6 +377,8 @@ QList<MvStorageOperation> operations()
         {"PDF", Application::Gui, exportTo(u"Kalender.pdf"_s), stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
         {"PNG", Application::Gui, exportTo(u"Kalender.png"_s), stateOfPng},
         {"SVG", Application::Gui, exportTo(u"Kalender.svg"_s), stateByTitle(u"Kalender.svg"_s, "</svg>")},
+        {"packed folder", Application::Gui, packFolder, stateOfFolder, removeFolder},
+        {"packed archive", Application::Gui, packZip, stateOfZip},
         {"in place", Application::Core, storeInPlace, stateInPlace, makeSecondName},
     };
 }

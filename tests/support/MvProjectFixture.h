@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvPageTemplateRegistry.h"
 
 #include <QColor>
 #include <QImage>
@@ -66,6 +67,34 @@ inline MvPageTemplate pageTemplate(const QString &id, int fotos, double border =
         return found;
     };
     return {id, MvPageKind::Month, id, QString(), divide};
+}
+
+/// A calendar as it is after so many steps of somebody who gathers photos, puts them into frames, and changes templates
+/// and titles: equal for equal numbers, different for others. Its photos need not exist.
+inline MvCalendarDocument album(int step)
+{
+    MvCalendarDocument calendar = document(QStringLiteral("MONTH_GRID_CLASSIC"), 3);
+    calendar.setTitle(QStringLiteral("Stand %1").arg(step));
+    QList<MvFotoPoolItem> items;
+    for (int number = 0; number <= step % 17; ++number)
+        items.append({QStringLiteral("/fotos/%1-%2.jpg").arg(step % 5).arg(number),
+                      {6000, 4000 + step},
+                      QDateTime(QDate(2026, 1, 1).addDays(number), QTime(12, 0), Qt::UTC),
+                      {0.5, 0.25}});
+    MvFotoPool pool;
+    pool.add(items);
+    calendar.setFotoPool(pool);
+    const QList<MvPageTemplate> templates = MvPageTemplateRegistry::instance().templates(MvPageKind::Month);
+    for (int number = 0; number < calendar.pages().size() && !templates.isEmpty(); ++number) {
+        MvCalendarPage page = calendar.pages()[number];
+        page.setTemplate(templates[(step + number) % templates.size()], calendar.format());
+        for (int element = 0, foto = 0; element < page.elements().size(); ++element) {
+            if (page.elements()[element].foto())
+                page.setFoto(element, MvFotoElement(pool.items()[foto++ % pool.size()].path));
+        }
+        calendar.setPage(number, page);
+    }
+    return calendar;
 }
 
 /// Writes a photo of four quarters: red, green above blue, yellow.

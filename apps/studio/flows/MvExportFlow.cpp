@@ -2,6 +2,7 @@
 #include "flows/MvExportFlow.h"
 
 #include "MvCore/MvFileName.h"
+#include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvPrintCheck.h"
 #include "MvProject/MvProject.h"
@@ -126,7 +127,7 @@ void MvExportFlow::finish(const MvExportResult &result)
         MvStudioMessage::error(m_window, tr("Der Kalender wurde nicht exportiert."), result.error);
         return;
     }
-    tellDone(result, printNotes(*job));
+    tellDone(result, printNotes(*job, result));
 }
 
 void MvExportFlow::tellDone(const MvExportResult &result, const QString &notes)
@@ -145,13 +146,20 @@ void MvExportFlow::tellDone(const MvExportResult &result, const QString &notes)
 }
 
 /// What will not print well, for a person; empty when all does.
-QString MvExportFlow::printNotes(const MvExportJob &job) const
+QString MvExportFlow::printNotes(const MvExportJob &job, const MvExportResult &result) const
 {
     QStringList texts;
     QStringList others;
-    for (const int page : m_options.pages)
-        for (const MvPrintFinding &found : MvPrintCheck::ofPaintedPage(job.document(), page, job.findings(page)))
+    QStringList missing = result.missingFotos;
+    for (const int page : m_options.pages) {
+        for (const MvPrintFinding &found : MvPrintCheck::ofPaintedPage(job.document(), page, job.findings(page))) {
             (found.kind == MvPrintFinding::Kind::CutText ? texts : others).append(found.toString());
+            missing.removeAll(found.path);
+        }
+    }
+    for (const QString &path : std::as_const(missing)) // those of days, and what is there again by now
+        others.append(tr("Das Foto „%1“ fehlt in der Ausgabe. %2")
+                          .arg(QFileInfo(path).fileName(), MvImageLoader::instance().error(QFileInfo(path))));
     QStringList parts;
     if (!texts.isEmpty())
         parts.append(tr("Diese Texte hatten keinen Platz und sind gekürzt:") + u'\n' +

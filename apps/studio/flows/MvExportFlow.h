@@ -40,7 +40,7 @@ private:
     void run(const MvExportOptions &options);
     void finish(const MvExportResult &result);
     void tellDone(const MvExportResult &result, const QString &notes);
-    QString printNotes(const MvExportJob &job) const;
+    QString printNotes(const MvExportJob &job, const MvExportResult &result) const;
 
     MvProject *m_project;
     QWidget *m_window;

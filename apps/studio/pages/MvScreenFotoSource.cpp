@@ -9,3 +9,9 @@ QImage MvScreenFotoSource::scaled(const QFileInfo &file, const QSize &bounds)
 {
     return m_fotos.foto(file.filePath(), bounds);
 }
+
+QSize MvScreenFotoSource::fullSize(const QFileInfo &file)
+{
+    const QSize known = m_fotos.fullSize(file.filePath());
+    return known.isEmpty() ? MvFotoSource::fullSize(file) : known;
+}

@@ -16,6 +16,8 @@ public:
     {}
 
     QImage scaled(const QFileInfo &file, const QSize &bounds) override;
+    /// That of what is shown, though its file may have changed since.
+    QSize fullSize(const QFileInfo &file) override;
 
 private:
     MvScreenFotos &m_fotos;

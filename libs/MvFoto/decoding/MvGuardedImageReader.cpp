@@ -140,10 +140,11 @@ void MvGuardedImageReader::openReader()
     m_reader->setDevice(m_device.get());
     m_reader->setAutoDetectImageFormat(false); // no other decoder gets to see the file
     m_reader->setFormat(m_format);
-    m_reader->setAutoTransform(true);
     m_reader->setQuality(smoothQuality);
-    if (!m_reader->supportsOption(QImageIOHandler::ImageTransformation))
-        m_turn = exif().turn();
+    m_reader->setAutoTransform(false);
+    // turned afterwards, when it is smaller
+    m_turn =
+        m_reader->supportsOption(QImageIOHandler::ImageTransformation) ? m_reader->transformation() : exif().turn();
 }
 
 MvExif MvGuardedImageReader::exif() const
@@ -155,7 +156,7 @@ MvExif MvGuardedImageReader::exif() const
 
 bool MvGuardedImageReader::isTurned() const
 {
-    return (m_reader->transformation() | m_turn) & QImageIOHandler::TransformationRotate90;
+    return m_turn & QImageIOHandler::TransformationRotate90;
 }
 
 QSize MvGuardedImageReader::size() const
@@ -280,7 +281,6 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
     if (!image.isNull() && !isCutOff && !hasRunOut()) { // decoders accept truncated files
         const bool isAsPainted = !image.colorSpace().isValid() || image.colorSpace() == QColorSpace(QColorSpace::SRgb);
         m_isUnchangedJpeg = m_format == "jpeg" && isAsPainted && target == full && image.size() == full &&
-                            m_reader->transformation() == QImageIOHandler::TransformationNone &&
                             m_turn == QImageIOHandler::TransformationNone;
         return readyToPaint(image, target);
     }
@@ -289,7 +289,7 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
     return {};
 }
 
-/// The picture at least as large as the target, turned as far as its reader sees to that.
+/// The picture as it is stored, not turned yet, at least as large as the target.
 QImage MvGuardedImageReader::decoded(const QSize &full, const QSize &target)
 {
     if (m_heif)
@@ -304,10 +304,10 @@ QImage MvGuardedImageReader::decoded(const QSize &full, const QSize &target)
 
 QImage MvGuardedImageReader::readyToPaint(QImage image, const QSize &target) const
 {
+    if (const QSize stored = isTurned() ? target.transposed() : target; image.size() != stored)
+        image = image.scaled(stored, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (m_turn != QImageIOHandler::TransformationNone)
         image = turned(image, m_turn);
-    if (image.size() != target)
-        image = image.scaled(target, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     const QColorSpace srgb(QColorSpace::SRgb);
     if (image.colorSpace().isValid() && image.colorSpace() != srgb)
         image.convertToColorSpace(srgb);

@@ -83,7 +83,7 @@ private:
     std::unique_ptr<QImageReader> m_reader; // of all formats but HEIC
     std::unique_ptr<MvHeifImage> m_heif;
     QByteArray m_format;
-    QImageIOHandler::Transformations m_turn; // that the reader does not see to
+    QImageIOHandler::Transformations m_turn; // from how it is stored; none for HEIC, whose decoder turns
     QSize m_canvas;                          // of a GIF
     bool m_isLookedThrough = false;
     int m_scans = 1;

@@ -12,6 +12,7 @@ template class MvSingleton<MvImageLoader>;
 namespace {
 
 constexpr qsizetype mostErrors = 1000; // kept
+constexpr qsizetype mostSizes = 10'000;
 constexpr qsizetype mostJpegs = 1000;
 
 MvImageCache::Key keyFor(const QFileInfo &file, const QSize &target)
@@ -101,7 +102,22 @@ QImage MvImageLoader::loadUncached(const QFileInfo &file, const QSize &bounds)
 QSize MvImageLoader::size(const QFileInfo &file)
 {
     const QFileInfo present(file.filePath());
-    return present.isFile() ? MvGuardedImageReader(present).size() : QSize();
+    if (!present.isFile())
+        return {};
+    const MvImageCache::Key key = keyFor(present, QSize());
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (const auto known = m_sizes.constFind(key); known != m_sizes.cend())
+            return *known;
+    }
+    const QSize size = MvGuardedImageReader(present).size();
+    if (!size.isEmpty()) { // what cannot be opened now may be later
+        const QMutexLocker lock(&m_mutex);
+        if (m_sizes.size() >= mostSizes)
+            m_sizes.clear();
+        m_sizes.insert(key, size);
+    }
+    return size;
 }
 
 bool MvImageLoader::isQuick(const QFileInfo &file)

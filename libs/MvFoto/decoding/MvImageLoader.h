@@ -24,7 +24,7 @@ extern template class MVFOTO_EXPORT MvSingleton<MvImageLoader>;
 class MVFOTO_EXPORT MvImageLoader : public MvSingleton<MvImageLoader>
 {
 public:
-    static constexpr qint64 cacheLimit = 384 << 20; // bytes
+    static constexpr qint64 cacheLimit = 96 << 20; // bytes: a photo of 24 megapixels in full size
 
     /// Lets this process decode images of up to 1 GB; for a program's start. Qt has one limit for all image readers of
     /// a process, 128 MB (33 million pixels) unless it was changed. So it is for the program to decide, not for this
@@ -48,7 +48,8 @@ public:
     /// Whether decoding takes no longer than a window may stand still.
     static bool isQuick(const QFileInfo &file);
 
-    /// Size of the turned image in pixels, from the file's head alone; invalid when the file cannot be read.
+    /// Size of the turned image in pixels, from the file's head alone, which is read once for each state of the file;
+    /// invalid when the file cannot be read.
     QSize size(const QFileInfo &file);
     /// The format of the content, as MvImageFormat names it.
     static QByteArray format(const QFileInfo &file);
@@ -67,5 +68,6 @@ private:
     MvImageCache m_cache;
     QMutex m_mutex; // for what follows
     QHash<MvImageCache::Key, QString> m_errors;
+    QHash<MvImageCache::Key, QSize> m_sizes;
     QHash<qint64, MvImageCache::Key> m_jpegs; // by the cache keys of their images
 };

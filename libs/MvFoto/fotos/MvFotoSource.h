@@ -23,4 +23,8 @@ public:
     /// read, and, from a source that does not wait, for one that is not there yet. Whether the file may be opened
     /// (MvFoto::mayBeOpened()) is for the caller to ask. Threads are a matter of the source.
     virtual QImage scaled(const QFileInfo &file, const QSize &bounds) = 0;
+
+    /// The photo's own size in pixels, upright; empty when it cannot be read, or is not known yet. Unless a source
+    /// knows better, from the head of the file.
+    virtual QSize fullSize(const QFileInfo &file);
 };

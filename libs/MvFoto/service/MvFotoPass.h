@@ -5,6 +5,8 @@
 #include "MvFoto/MvFotoSource.h"
 #include "MvFoto/mvfoto_export.h"
 
+#include <QStringList>
+
 /// One painting of a page: while it lives, it is the source of the page's photos, and never waits. A photo that is not
 /// there yet is given in another size, if there is one, or not at all.
 ///
@@ -28,9 +30,12 @@ public:
 
     /// Whether every photo asked for up to now was there; those that cannot be read are.
     bool isComplete() const { return MvFotoPages::isComplete(m_requests); }
+    /// The paths of the photos asked for up to now that cannot be read, or are not there.
+    QStringList unread() const;
 
 private:
     MvFotoPages &m_pages;
     int m_page;
     MvFotoPages::Requests m_requests;
+    QStringList m_absent;
 };

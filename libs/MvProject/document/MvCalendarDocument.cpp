@@ -3,11 +3,13 @@
 
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
 #include "MvProject/MvCalendarTitle.h"
+#include "MvProject/MvExportFotos.h"
 #include "MvProject/MvPageSource.h"
 
 #include <QPainter>
 
 #include <cstdlib>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -452,11 +454,18 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
                        [](const MvCalendarPage &page) { return page.kind(); });
         std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.names), &MvCalendarTitle::ofPage);
     }
-    source.paint = [document = *this, sources, found](QPainter &painter, int page) {
-        const MvPageFindings findings = document.paint(painter, page, sources);
+    const auto own = std::make_shared<MvExportFotos>(m_pages, m_format);
+    source.paint = [document = *this, sources, found, own](QPainter &painter, int page) {
+        MvRenderingSources given = sources;
+        if (!given.fotos)
+            given.fotos = own.get();
+        own->begin(painter, page);
+        const MvPageFindings findings = document.paint(painter, page, given);
+        own->end(page);
         if (found)
             found(page, findings);
     };
+    source.missingFotos = [own] { return own->unread(); };
     source.title = m_title.isEmpty() ? MvCalendarTitle::ofRange(m_range) : m_title;
     source.author = m_author;
     if (const MvLocale language = holidayConfig().language(); language.isValid())

@@ -153,7 +153,8 @@ public:
 
     /// Called for each page that is painted, with its number counted from 0: again when it is painted again.
     using Found = std::function<void(int page, const MvPageFindings &findings)>;
-    /// The pages for the exporters. It keeps a copy of the document; what the sources point to must outlive it.
+    /// The pages for the exporters. It keeps a copy of the document; what the sources point to must outlive it. Without
+    /// a source of photos it has one of its own, which keeps no more than it must.
     MvPageSource pageSource(const MvRenderingSources &sources = {}, const Found &found = {}) const;
 
     bool operator==(const MvCalendarDocument &other) const;

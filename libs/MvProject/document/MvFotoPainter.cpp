@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvFotoPainter.h"
 
-#include "MvFoto/MvFotoAccess.h"
 #include "MvFoto/MvFotoResolution.h"
 #include "MvFoto/MvFotoSource.h"
 #include "MvModelBase/MvRenderingRule.h"
@@ -26,6 +25,8 @@ constexpr QColor fieldColor(0xE6, 0xE6, 0xE6);
 constexpr QColor textColor(0x59, 0x59, 0x59); // contrast of more than 4.5 to the field
 
 constexpr double degreesPerQuarter = 90.0;
+
+constexpr QSize unknownBounds(1024, 1024); // pixels, of a photo whose size is not known
 
 /// The longer side of photos on a screen, in steps, so that zooming does not decode one for every factor.
 int screenSide(int needed)
@@ -55,7 +56,8 @@ void MvFotoPainter::paint(const QRectF &rect, double rotation)
 
 void MvFotoPainter::paintUpright(const QRectF &rect)
 {
-    const QSize full = MvFotoAccess::preferredSize(MvFoto(QFileInfo(m_foto.path())));
+    const QFileInfo file(m_foto.path());
+    const QSize full = m_fotos.fullSize(file);
     QImage image;
     QSizeF seen;
     QRectF covered;
@@ -64,6 +66,8 @@ void MvFotoPainter::paintUpright(const QRectF &rect)
         seen = m_foto.seenSize(full, rect.size());
         const double pixelsPerUnit = std::sqrt(std::abs(m_painter.deviceTransform().determinant()));
         image = decode(full, pixelsPerUnit * covered.width() / seen.width());
+    } else {
+        m_fotos.scaled(file, unknownBounds); // so that it knows of one that is not there
     }
     if (!image.isNull()) {
         draw(image, full, rect);

@@ -31,6 +31,8 @@ public:
     /// Paints the page with the number, counted from 0, in tenths of a millimetre with the origin at the top left
     /// corner of the trimmed page.
     std::function<void(QPainter &painter, int page)> paint;
+    /// The paths of the photos that could not be painted so far; may be missing.
+    std::function<QStringList()> missingFotos;
 
     QString title;
     QString author;

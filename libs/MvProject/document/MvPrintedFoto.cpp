@@ -2,6 +2,7 @@
 #include "MvProject/MvPrintedFoto.h"
 
 #include "MvCalendar/MvCalendarEventSource.h"
+#include "MvFoto/MvBlankFotoSource.h"
 #include "MvFoto/MvFotoAccess.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
 #include "MvProject/MvCalendarPage.h"
@@ -23,8 +24,11 @@ MvPrintedFoto printed(const MvFotoElement &foto, const QRectF &rect, int element
 QList<MvPrintedFoto> MvPrintedFoto::ofPage(const MvCalendarPage &page, const MvPageFormat &format,
                                            const MvPageContext &context, const MvRenderingSources &sources)
 {
+    MvRenderingSources blank = sources;
+    if (!blank.fotos)
+        blank.fotos = &MvBlankFotoSource::instance();
     MvPageFindings found;
-    page.record(format, context, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, sources, &found);
+    page.record(format, context, {}, MvRenderingRule(MvRenderingRule::Print), 1.0, blank, &found);
     return ofPaintedPage(page, format, found, sources);
 }
 

@@ -5,6 +5,7 @@
 #include "MvCore/MvMath.h"
 #include "MvFoto/MvFotoPass.h"
 #include "MvProject/MvExportFeed.h"
+#include "MvProject/MvExportFotos.h"
 #include "MvProject/MvPageSource.h"
 
 #include <QPainter>
@@ -56,12 +57,18 @@ void MvExportJob::start()
     if (std::exchange(m_isStarted, true))
         return;
     MvPageSource source = m_document.pageSource().part(m_pages);
-    source.paint = [feed = m_feed, document = m_document, pages = m_pages](QPainter &painter, int number) {
-        const MvCalendarPage &content = document.pages()[pages[number]];
-        content.paintGround(painter, document.format());
-        content.paintFoto(painter, document.format());
+    QList<MvCalendarPage> pages;
+    for (const int page : std::as_const(m_pages))
+        pages.append(m_document.pages()[page]);
+    const auto fotos = std::make_shared<MvExportFotos>(pages, m_document.format());
+    source.paint = [feed = m_feed, format = m_document.format(), pages, fotos](QPainter &painter, int number) {
+        fotos->begin(painter, number);
+        pages[number].paintGround(painter, format);
+        pages[number].paintFoto(painter, format, *fotos);
+        fotos->end(number);
         feed->take(number).replay(painter);
     };
+    source.missingFotos = [fotos] { return fotos->unread(); };
     m_thread.reset(QThread::create([this, source] { m_result = m_write(source, m_feed.get()); }));
     connect(m_thread.get(), &QThread::finished, this, &MvExportJob::finish);
     m_thread->start();
@@ -92,6 +99,7 @@ void MvExportJob::recordPage(int number)
                         pixelsPerUnit, sources, &found);
         if (!fotos.isComplete())
             return; // called again when they have been decoded
+        m_unreadOfDays += fotos.unread();
         m_feed->put(number, recording);
     }
     m_entryFotos->letGo(number); // they are in the recording
@@ -102,5 +110,7 @@ void MvExportJob::finish()
 {
     m_thread->wait();
     m_thread.release()->deleteLater(); // its signal is still being delivered
+    m_result.missingFotos += m_unreadOfDays;
+    m_result.missingFotos.removeDuplicates();
     Q_EMIT finished(m_result);
 }

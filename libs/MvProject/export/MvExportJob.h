@@ -65,6 +65,7 @@ private:
     const int m_dpi;
     QList<int> m_pages;
     QHash<int, MvPageFindings> m_findings;
+    QStringList m_unreadOfDays; // paths of photos
     std::shared_ptr<MvExportFeed> m_feed;
     MvFotoPages *m_entryFotos;
     std::unique_ptr<QThread> m_thread; // while running

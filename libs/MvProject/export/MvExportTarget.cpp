@@ -77,13 +77,18 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
     const MvFileNamePattern::Paths names = files(pages);
     if (!names.isOk())
         return MvExportResult::failed(names.error);
+    MvExportResult result;
     if (isPdfPerPage())
-        return writePdfPerPage(pages, names.paths, observer);
-    if (m_suffix == u"pdf"_s)
-        return MvPdfExporter::write(pages, QFileInfo(m_path), observer);
-    if (m_suffix == u"png"_s)
-        return MvPngExporter::write(pages, m_path, dpi, observer);
-    return MvSvgExporter::write(pages, m_path, observer);
+        result = writePdfPerPage(pages, names.paths, observer);
+    else if (m_suffix == u"pdf"_s)
+        result = MvPdfExporter::write(pages, QFileInfo(m_path), observer);
+    else if (m_suffix == u"png"_s)
+        result = MvPngExporter::write(pages, m_path, dpi, observer);
+    else
+        result = MvSvgExporter::write(pages, m_path, observer);
+    if (pages.missingFotos)
+        result.missingFotos = pages.missingFotos();
+    return result;
 }
 
 bool MvExportTarget::isPdfPerPage() const

@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QThreadPool>
 
 #include <cmath>
 
@@ -38,17 +39,49 @@ MvPaintRecording recordPage(const MvPageSource &source, int page)
     return recorder.recording();
 }
 
+/// Puts a page into the document in a thread of its own, while the next one is painted: one packs pictures while the
+/// other decodes them. One page at a time, so that no more than two are in memory.
+class PageWriter
+{
+public:
+    explicit PageWriter(MvPdfDocument &document)
+        : m_document(document)
+    {
+        m_thread.setMaxThreadCount(1);
+        m_thread.setExpiryTimeout(-1);
+    }
+
+    void add(const MvPdfDocument::Page &page, const MvPaintRecording &recording)
+    {
+        finish();
+        m_thread.start([this, page, recording] { m_document.addPage(page, recording, MvPdfExporter::resolution); });
+    }
+    void finish() { m_thread.waitForDone(); }
+
+private:
+    MvPdfDocument &m_document;
+    QThreadPool m_thread;
+};
+
 MvOutcome paintPages(const MvPageSource &source, const QString &path, MvExportObserver *observer)
 {
     MvPdfDocument document({source.title, source.author, source.language});
+    PageWriter writer(document);
     const int total = int(source.pages.size());
+    const auto tell = [&](int done) {
+        if (observer && done > 0)
+            observer->pagesDone(done, total);
+    };
     for (int page = 0; page < total && !isCancelled(observer); ++page) {
-        document.addPage({source.names.value(page), source.format.mediaRect(), source.format.trimRect()},
-                         recordPage(source, page), MvPdfExporter::resolution);
-        if (observer)
-            observer->pagesDone(page + 1, total);
+        const MvPaintRecording recording = recordPage(source, page);
+        writer.add({source.names.value(page), source.format.mediaRect(), source.format.trimRect()}, recording);
+        tell(page); // the one before
     }
-    return isCancelled(observer) ? MvOutcome() : document.write(path);
+    writer.finish();
+    if (isCancelled(observer))
+        return {};
+    tell(total);
+    return document.write(path);
 }
 
 MvOutcome copyToTarget(const QString &path, const QFileInfo &target)
@@ -78,5 +111,5 @@ MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo 
         outcome = copyToTarget(path, target);
     if (!outcome.isOk())
         return MvExportResult::failed(u"%1: %2"_s.arg(target.filePath(), outcome.error));
-    return isDone ? MvExportResult{outcome, {target}, false} : MvExportResult::cancelled();
+    return isDone ? MvExportResult{outcome, {target}, false, {}} : MvExportResult::cancelled();
 }

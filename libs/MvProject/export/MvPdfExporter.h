@@ -15,7 +15,8 @@ public:
     static constexpr int resolution = 300;
 
     /// Pages are painted one after the other into a temporary file, so that memory does not grow with what has been
-    /// painted, and the finished file takes the target's name at the end.
+    /// painted, and the finished file takes the target's name at the end. Painting happens in the thread that calls,
+    /// what is done with the painted page in another one.
     static MvExportResult write(const MvPageSource &source, const QFileInfo &target,
                                 MvExportObserver *observer = nullptr);
 };

@@ -2,6 +2,7 @@
 #include "MvProject/MvPrintCheck.h"
 
 #include "MvCore/MvApplicationLocale.h"
+#include "MvFoto/MvBlankFotoSource.h"
 #include "MvFoto/MvImageLoader.h"
 #include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvCalendarTitle.h"
@@ -192,9 +193,12 @@ QList<MvPrintFinding> MvPrintCheck::ofPage(const MvCalendarDocument &document, i
 {
     if (page < 0 || page >= document.pages().size())
         return {};
+    MvRenderingSources blank = sources;
+    if (!blank.fotos)
+        blank.fotos = &MvBlankFotoSource::instance();
     MvPageFindings found;
     document.pages()[page].record(document.format(), document.context(), {}, MvRenderingRule(MvRenderingRule::Print),
-                                  1.0, sources, &found);
+                                  1.0, blank, &found);
     return ofPaintedPage(document, page, found, sources);
 }
 

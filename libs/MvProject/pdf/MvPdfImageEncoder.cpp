@@ -69,9 +69,14 @@ bool MvPdfImageEncoder::isTranslucent(const QImage &image)
 
 MvPdfImageEncoder::Stream MvPdfImageEncoder::colors(const QImage &image)
 {
-    const QImage plain =
-        withoutColorSpace(image.convertToFormat(image.allGray() ? QImage::Format_Grayscale8 : QImage::Format_RGB888));
-    return isTranslucent(image) || isFlat(plain) ? lossless(plain) : jpeg(plain);
+    const bool isGray = image.allGray();
+    const auto plain = [isGray](const QImage &part) {
+        return withoutColorSpace(part.convertToFormat(isGray ? QImage::Format_Grayscale8 : QImage::Format_RGB888));
+    };
+    if (isTranslucent(image) || isFlat(image, plain))
+        return lossless(plain(image));
+    const bool isWrittenAsItIs = !isGray && image.format() == QImage::Format_RGB32;
+    return jpeg(isWrittenAsItIs ? withoutColorSpace(image) : plain(image)); // a large one is not converted for nothing
 }
 
 MvPdfImageEncoder::Stream MvPdfImageEncoder::opacity(const QImage &image)
@@ -103,7 +108,7 @@ MvPdfImageEncoder::Stream MvPdfImageEncoder::lossless(const QImage &image)
 }
 
 /// Looks at some of the rows.
-bool MvPdfImageEncoder::isFlat(const QImage &image)
+bool MvPdfImageEncoder::isFlat(const QImage &image, const std::function<QImage(const QImage &)> &plain)
 {
     constexpr int small = 64; // pixels
     constexpr int rows = 64;
@@ -111,8 +116,9 @@ bool MvPdfImageEncoder::isFlat(const QImage &image)
     if (image.width() <= small && image.height() <= small)
         return true;
     QByteArray sample;
-    for (int y = 0; y < image.height(); y += std::max(1, image.height() / rows))
-        sample.append(reinterpret_cast<const char *>(image.constScanLine(y)),
-                      qsizetype(image.width()) * image.depth() / 8);
+    for (int y = 0; y < image.height(); y += std::max(1, image.height() / rows)) {
+        const QImage row = plain(image.copy(0, y, image.width(), 1));
+        sample.append(reinterpret_cast<const char *>(row.constBits()), qsizetype(row.width()) * row.depth() / 8);
+    }
     return qCompress(sample, 1).size() * flatRatio < sample.size();
 }

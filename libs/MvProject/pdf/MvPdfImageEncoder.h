@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QImage>
 
+#include <functional>
+
 class MvPdfJpeg;
 
 /// Packs pictures for a PDF: photographs as JPEG, what has few colours or large areas of one without any loss.
@@ -31,5 +33,6 @@ public:
 private:
     static Stream jpeg(const QImage &image);
     static Stream lossless(const QImage &image);
-    static bool isFlat(const QImage &image);
+    /// The function makes what would be packed.
+    static bool isFlat(const QImage &image, const std::function<QImage(const QImage &)> &plain);
 };

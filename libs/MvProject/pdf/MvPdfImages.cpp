@@ -7,19 +7,23 @@
 #include "MvProject/MvPdfJpeg.h"
 #include "MvProject/MvPdfSyntax.h"
 
-#include <QCryptographicHash>
+#include <QHashFunctions>
 
 namespace {
 
+/// Twice 64 bits that follow from all pixels: equal ones for different pictures are as likely as a faulty computer.
 QByteArray hashOf(const QImage &image)
 {
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    const int head[] = {image.width(), image.height(), int(image.format())};
-    hash.addData(QByteArrayView(reinterpret_cast<const char *>(head), sizeof(head)));
+    constexpr size_t seeds[] = {0x6d76, 0x63616c};
     const qsizetype width = (qsizetype(image.width()) * image.depth() + 7) / 8; // lines may have more behind
-    for (int y = 0; y < image.height(); ++y)
-        hash.addData(QByteArrayView(reinterpret_cast<const char *>(image.constScanLine(y)), width));
-    return hash.result();
+    QByteArray all;
+    for (const size_t seed : seeds) {
+        size_t hash = qHashMulti(seed, image.width(), image.height(), int(image.format()));
+        for (int y = 0; y < image.height(); ++y)
+            hash = qHashBits(image.constScanLine(y), size_t(width), hash);
+        all.append(reinterpret_cast<const char *>(&hash), sizeof(hash));
+    }
+    return all;
 }
 
 /// Without colour tables and other forms that only some pictures have.
