@@ -4,7 +4,8 @@
 // with a photo of 12 megapixels on each page in the print preview, and a month with entries whose photos have 24. And
 // step by step in a large calendar, of two years with 500 entries: all layouts and countries, entries and undo, zoom,
 // a photo, another length, saved and opened again. And scrolling through a calendar of 60 pages with 200 photos, in the
-// strip and page by page on the canvas, while thumbnails and pages are still being made.
+// strip and page by page on the canvas, while thumbnails and pages are still being made. And how long a calendar of
+// large photos takes to open, from its file to a sharp first page, beside decoding one photo at that size.
 
 #include "flows/MvPrintFlow.h"
 #include "flows/MvUndoCommandEventList.h"
@@ -17,12 +18,14 @@
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCore/MvUndoController.h"
+#include "MvFoto/MvFotoService.h"
 #include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvFotoDistribution.h"
 #include "MvProject/MvFotoPoolIntake.h"
 #include "MvProject/MvNewCalendar.h"
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvProject.h"
+#include "MvProject/MvProjectFile.h"
 
 #include <QApplication>
 #include <QDockWidget>
@@ -202,6 +205,56 @@ void entryFotos(benchmark::State &state)
     report(state, first, entryFoto);
 }
 BENCHMARK(entryFotos)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// ---- opening
+
+void opening(benchmark::State &state)
+{
+    const QTemporaryDir folder;
+    const QString first = foto(folder, u"0.jpg"_s, entryFoto);
+    MvCalendarDocument document = calendar(12);
+    for (int number = 0; number < document.pages().size(); ++number) {
+        const QString path = folder.filePath(u"%1.jpg"_s.arg(number));
+        if (number > 0)
+            copyFoto(first, path);
+        MvCalendarPage page = document.pages().at(number);
+        page.setFotoFrame(MvFotoFrame(path));
+        document.setPage(number, page);
+    }
+    const QFileInfo file(folder.filePath(u"kalender.mvcalendar"_s));
+    MvProjectFile::write(document, file);
+    double opened = 0.0;
+    QSize size; // in which the photo is shown
+    for (auto _ : state) {
+        MvProject project;
+        MvStudioWindow window(&project);
+        window.resize(windowSize);
+        window.show();
+        state.PauseTiming();
+        application->settle();
+        state.ResumeTiming();
+        const MvFotoService &service = MvFotoService::instance();
+        const auto watch = QObject::connect(&service, &MvFotoService::arrived, [&](const MvFotoOrder &order) {
+            const QImage shown = MvFotoService::instance().otherSize(order);
+            if (order.path == first && order.size.width() >= windowSize.width() / 2)
+                size = shown.size();
+        });
+        QElapsedTimer clock;
+        clock.start();
+        QMetaObject::invokeMethod(
+            &window, [&] { project.open(file); }, Qt::QueuedConnection);
+        while (size.isEmpty())
+            application->processEvents(QEventLoop::WaitForMoreEvents, 5);
+        window.findChild<MvPageCanvas *>()->viewport()->repaint();
+        opened = double(clock.nsecsElapsed()) / 1e6;
+        QObject::disconnect(watch);
+    }
+    const double decoding = decodingTime(first, size);
+    state.counters["opened_ms"] = opened;
+    state.counters["decoding_ms"] = decoding;
+    state.counters["ratio"] = opened / decoding;
+}
+BENCHMARK(opening)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 // ---- scrolling
 

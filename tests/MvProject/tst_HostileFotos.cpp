@@ -35,7 +35,7 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    MvCalendarDocument calendar() const;
+    MvCalendarDocument calendar(int page) const;
     void put(const QByteArray &content) const;
 
     QTemporaryDir m_folder;
@@ -57,17 +57,17 @@ void tst_HostileFotos::put(const QByteArray &content) const
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
-/// The file in a frame and as the ground of the first page, a good photo on the second.
-MvCalendarDocument tst_HostileFotos::calendar() const
+/// The file in a frame and as the ground of one of two pages, a good photo on the other.
+MvCalendarDocument tst_HostileFotos::calendar(int number) const
 {
     MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 2);
-    MvProjectFixture::setFoto(document, 0, MvFotoFrame(path(u"foto.jpg"_s)));
-    MvProjectFixture::setFoto(document, 1, MvFotoFrame(path(u"gut.png"_s)));
-    MvCalendarPage page = document.pages()[0];
+    MvProjectFixture::setFoto(document, number, MvFotoFrame(path(u"foto.jpg"_s)));
+    MvProjectFixture::setFoto(document, 1 - number, MvFotoFrame(path(u"gut.png"_s)));
+    MvCalendarPage page = document.pages()[number];
     MvPageBackground ground;
     ground.setFoto(MvFotoElement(path(u"foto.jpg"_s)));
     page.setBackground(ground);
-    document.setPage(0, page);
+    document.setPage(number, page);
     return document;
 }
 
@@ -131,7 +131,7 @@ void tst_HostileFotos::wayToPaper()
         QVERIFY(isReadable || !gathered.skipped[0].why.isEmpty());
     }
 
-    const MvCalendarDocument document = calendar();
+    const MvCalendarDocument document = calendar(0);
     for (const QString &name : {u"k-%n.png"_s, u"k-%n.svg"_s, u"k.pdf"_s}) {
         MvExportJob job(document, MvExportTarget(path(name)), 40);
         QSignalSpy finished(&job, &MvExportJob::finished);
@@ -179,12 +179,12 @@ void tst_HostileFotos::changesOnTheWay()
     QFETCH(bool, isReadable);
     const QString foto = path(u"foto.jpg"_s);
     for (const bool isWhileExporting : {false, true}) {
+        QFile::remove(foto);
         put(picture({90, 60}, "jpeg"));
-        MvCalendarDocument document = calendar();
+        MvCalendarDocument document = calendar(1);
         MvFotoPool pool;
         pool.add(MvFotoPoolIntake::gather({foto}).items);
         document.setFotoPool(pool);
-        document.movePage(0, 1);
         const auto change = [&] {
             QVERIFY(QFile::remove(foto));
             if (!content.isNull())

@@ -181,8 +181,8 @@ void tst_StudioFileJourneys::missingFotosAreFound()
     QVERIFY(QDir(studio.path(u"alt"_s)).removeRecursively());
 
     studio.window()->projectFlow()->open(path);
+    QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>("missingPhotosMessage"));
     auto *message = MvStudioFixture::dialog<QMessageBox>("missingPhotosMessage");
-    QVERIFY(message);
     QVERIFY2(message->text().startsWith(u"3 "_s), qPrintable(message->text()));
     QVERIFY(studio.click(message, "searchPhotosButton"));
     QVERIFY(studio.chooseFile(studio.path(u"neu"_s)));

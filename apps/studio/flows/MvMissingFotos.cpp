@@ -36,11 +36,31 @@ MvMissingFotos::~MvMissingFotos()
 
 void MvMissingFotos::look()
 {
+    lookThen([this](const QStringList &missing) {
+        if (!missing.isEmpty())
+            tell(missing);
+    });
+}
+
+/// Each file is opened for it, and the disk may be far away.
+void MvMissingFotos::lookThen(const std::function<void(const QStringList &missing)> &use)
+{
+    m_pool.start([this, document = m_project->document(), use, number = ++m_looks, isGivenUp = m_isGivenUp] {
+        const QStringList missing = *isGivenUp ? QStringList() : document.missingFotos();
+        const auto tellLatest = [this, missing, use, number] {
+            if (number == m_looks) // else something else was opened or asked for by now
+                use(missing);
+        };
+        if (!*isGivenUp)
+            QMetaObject::invokeMethod(this, tellLatest, Qt::QueuedConnection);
+    });
+}
+
+void MvMissingFotos::tell(const QStringList &missing)
+{
     QStringList paths;
-    for (const QString &path : m_project->document().missingFotos())
+    for (const QString &path : missing)
         paths.append(QDir::toNativeSeparators(path));
-    if (paths.isEmpty())
-        return;
     QMessageBox *box = MvStudioMessage::question(
         m_window, u"missingPhotosMessage"_s,
         tr("%n Fotos sind nicht da oder lassen sich nicht lesen:", nullptr, int(paths.size())),
@@ -72,10 +92,12 @@ void MvMissingFotos::chooseFolder()
 
 void MvMissingFotos::search()
 {
-    if (m_project->document().missingFotos().isEmpty())
-        Q_EMIT message(tr("Kein Foto fehlt"));
-    else
-        look();
+    lookThen([this](const QStringList &missing) {
+        if (missing.isEmpty())
+            Q_EMIT message(tr("Kein Foto fehlt"));
+        else
+            tell(missing);
+    });
 }
 
 void MvMissingFotos::searchIn(const QString &folder)

@@ -8,6 +8,7 @@
 #include <QThreadPool>
 
 #include <atomic>
+#include <functional>
 #include <memory>
 
 class MvProject;
@@ -26,7 +27,7 @@ public:
     ~MvMissingFotos() override;
 
 public Q_SLOTS:
-    /// Tells of what is missing; nothing happens when nothing is.
+    /// Tells of what is missing, when all files have been looked at; nothing happens when nothing is.
     void look();
     /// The same, and says so when nothing is.
     void search();
@@ -35,6 +36,8 @@ Q_SIGNALS:
     void message(const QString &text);
 
 private:
+    void lookThen(const std::function<void(const QStringList &missing)> &use);
+    void tell(const QStringList &missing);
     void chooseFolder();
     void searchIn(const QString &folder);
     void take(const QHash<QString, QString> &found, int missing);
@@ -43,4 +46,5 @@ private:
     QWidget *m_window;
     std::shared_ptr<std::atomic_bool> m_isGivenUp;
     QThreadPool m_pool;
+    int m_looks = 0;
 };

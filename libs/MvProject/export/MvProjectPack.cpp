@@ -52,7 +52,11 @@ private:
 
 bool isReadable(const QString &path)
 {
-    return MvRegularFile::open(QFileInfo(path)).isOk();
+    const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(path));
+    if (!opened.isOk())
+        return false;
+    opened.file->peek(1);
+    return opened.file->error() == QFileDevice::NoError;
 }
 
 MvOutcome failed(const QString &path, const QString &reason)
