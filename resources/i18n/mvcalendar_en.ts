@@ -205,6 +205,17 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEvent</name>
+    <message>
+        <source>„%1“ als %2 ist nicht zu lesen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>die Wiederholung ist nicht zu verstehen: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventContacts</name>
     <message>
         <source>%1 von %2 Einträgen mit Geburtstagen importiert</source>
@@ -296,6 +307,18 @@
             <numerusform>… and %n more</numerusform>
             <numerusform>… and %n more</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>der Gruppe fehlt Kennung oder Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>die Gruppe „%1“ steht zweimal da</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>die Farbe „%1“ ist nicht zu lesen</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -983,6 +1006,13 @@
     <message>
         <source>das Projekt; --project kann wegbleiben</source>
         <translation>the project; --project may be left out</translation>
+    </message>
+</context>
+<context>
+    <name>MvCliProject</name>
+    <message>
+        <source>Foto fehlt oder ist nicht lesbar: %1 (%2)</source>
+        <translation>Photo is missing or cannot be read: %1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1674,6 +1704,10 @@
     <message>
         <source>Plätze ohne Foto bleiben leer. Die ganze Liste steht unter Datei &gt; Vor dem Druck prüfen.</source>
         <translation>Places without a photo stay empty. The whole list is at File &gt; Check before printing.</translation>
+    </message>
+    <message>
+        <source>Das Foto „%1“ fehlt in der Ausgabe. %2</source>
+        <translation>The photo “%1” is missing from the output. %2</translation>
     </message>
 </context>
 <context>
@@ -3095,10 +3129,6 @@ The context menu replaces it by another photo.</translation>
         <source>%1: in %2 lässt sich nicht schreiben</source>
         <translation>%1: %2 cannot be written to</translation>
     </message>
-    <message>
-        <source>Foto fehlt oder ist nicht lesbar: %1</source>
-        <translation>Photo missing or unreadable: %1</translation>
-    </message>
 </context>
 <context>
     <name>MvPageCanvas</name>
@@ -3974,6 +4004,17 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvRecurrenceRule</name>
+    <message>
+        <source>, %1-mal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, bis %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>MvRegionsCommand</name>
     <message>
         <source>zählt Staaten und Regionen auf, deren Feiertage bekannt sind</source>
@@ -4098,10 +4139,6 @@ Save it under another name or in another folder.</translation>
 </context>
 <context>
     <name>MvRenderReport</name>
-    <message>
-        <source>Foto fehlt oder ist nicht lesbar: %1</source>
-        <translation>photo missing or not readable: %1</translation>
-    </message>
     <message>
         <source>Keine Schrift hat diese Zeichen: %1; --report json nennt die Texte</source>
         <translation>no font has these characters: %1; --report json names the texts</translation>
@@ -5585,6 +5622,53 @@ Designs photo calendars and prints them.
     <message>
         <source>%1 lässt sich nicht schreiben: %2</source>
         <translation>%1 cannot be written: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Reading</name>
+    <message>
+        <source>„%1“ ist keine Angabe einer Wiederholung oder steht zweimal da</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>„%1“ ist bei Wiederholungen nicht bekannt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>„%1=%2“ ist nicht zu lesen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sie wiederholt sich öfter als einmal am Tag</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>es steht nicht da, wie oft sie sich wiederholt (FREQ)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COUNT und UNTIL stehen zugleich da</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>den wievielten Wochentag gibt es nur in Monaten und Jahren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wochen des Jahres gibt es nur bei jährlicher Wiederholung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tage des Jahres gibt es nur bei jährlicher Wiederholung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tage des Monats gibt es nicht bei wöchentlicher Wiederholung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BYSETPOS steht allein da</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

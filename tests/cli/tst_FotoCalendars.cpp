@@ -110,6 +110,12 @@ void tst_FotoCalendars::validate()
     QCOMPARE(finding[u"severity"_s].toString(), u"strong"_s);
     QCOMPARE(finding[u"page"_s].toInt(), 1);
     QVERIFY(finding[u"ppi"_s].toInt() > 30 && finding[u"ppi"_s].toInt() < 100); // 320 pixels on 10 to 15 cm
+    const QByteArray whole = contentOf(path(u"fotos/a.jpg"_s));
+    write(path(u"fotos/a.jpg"_s), whole.left(whole.size() / 2)); // its head says nothing of that
+    const Call cut = run(u"render --project grob.mvcalendar --dpi 40 -o g.png --report json"_s);
+    QCOMPARE(QJsonDocument::fromJson(cut.out)[u"missingPhotos"_s].toArray(), QJsonArray{path(u"fotos/a.jpg"_s)});
+    const QByteArray hints = run(u"render --project grob.mvcalendar --dpi 40 -o g.png"_s).err;
+    QVERIFY2(hints.contains("a.jpg") && hints.contains("nicht vollständig"), hints.constData());
     QVERIFY(QFile::remove(path(u"fotos/a.jpg"_s)));
     const Call missing = run(u"validate grob.mvcalendar"_s);
     QCOMPARE(missing.exitCode, 3);
