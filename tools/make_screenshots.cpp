@@ -274,7 +274,7 @@ void Screenshots::reset()
 
 void Screenshots::setEntries(const QString &file)
 {
-    MvCalendarEventRegistry::instance().setEvents(
+    MvCalendarEventRegistry::instance().setOwnEvents( // a new calendar starts with them
         file.isEmpty() ? MvCalendarEventList() : MvCalendarEventFile::read(QFileInfo(sample(file))).events);
 }
 

@@ -13,12 +13,15 @@ using namespace Qt::StringLiterals;
 
 MvCliProject MvCliProject::read(const MvCliValues &values, QTextStream &hints)
 {
-    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(values.text(u"project"_s)));
+    const QFileInfo file(values.text(u"project"_s));
+    const MvProjectFile::Content content = MvProjectFile::read(file);
     for (const QString &note : content.notes)
         hints << note << '\n';
     MvCliProject project;
     project.error = content.error;
     project.document = content.document;
+    project.file = file;
+    project.entries = content.entries;
     return project;
 }
 

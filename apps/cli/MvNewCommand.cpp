@@ -5,6 +5,7 @@
 #include "MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvFotoCalendar.h"
+#include "MvProject/MvProjectEntryFotos.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvRenderEntries.h"
 
@@ -20,12 +21,16 @@ QString MvNewCommand::summary() const
 QList<MvCliOption> MvNewCommand::options() const
 {
     return MvFotoCalendar::options() + MvCalendarOptions::content() + MvCalendarOptions::paper() +
-           QList<MvCliOption>{{u"entries"_s, tr("DATEI"),
-                               tr("persönliche Einträge, die der Kalender zeigt; die Datei gehört dann dazu")},
-                              {u"my-entries"_s, {}, tr("der Kalender zeigt die eigenen persönlichen Einträge")},
-                              {u"title"_s, u"TEXT"_s, tr("Titel, auch auf dem Titelblatt")},
-                              {u"author"_s, u"TEXT"_s, tr("Verfasser")},
-                              {u"output"_s, tr("DATEI"), tr("-o: das Projekt, ein Name auf .mvcalendar")}};
+           QList<MvCliOption>{
+               {u"entries"_s, tr("DATEI"),
+                tr("persönliche Einträge, die der Kalender zeigt; die Datei gehört dann dazu")},
+               {u"my-entries"_s,
+                {},
+                tr("der Kalender zeigt die eigenen persönlichen Einträge; sie kommen, wie sie jetzt sind, "
+                   "mit ihren Fotos in das Projekt")},
+               {u"title"_s, u"TEXT"_s, tr("Titel, auch auf dem Titelblatt")},
+               {u"author"_s, u"TEXT"_s, tr("Verfasser")},
+               {u"output"_s, tr("DATEI"), tr("-o: das Projekt, ein Name auf .mvcalendar")}};
 }
 
 QStringList MvNewCommand::examples() const
@@ -59,10 +64,19 @@ MvCliCommand::Result MvNewCommand::run(const MvCliArguments &arguments, const St
         project.document.setEntriesFile(entries.file().absoluteFilePath());
     }
     project.document.setFeature(FEATURE_ENTRIES, values.has(u"entries"_s) || values.has(u"my-entries"_s));
-    const MvOutcome written = MvProjectFile::write(project.document, file);
+    MvProjectEntryFotos::Taken own;
+    if (values.has(u"my-entries"_s)) {
+        const MvRenderEntries entries = MvRenderEntries::own();
+        if (!entries.error().isEmpty())
+            return failed(entries.error());
+        entries.printHints(streams.hints);
+        own = MvProjectEntryFotos::takeAlong(entries.list(), file.absoluteDir());
+    }
+    const MvProjectFile::Entries list = values.has(u"my-entries"_s) ? own.events : MvProjectFile::Entries();
+    const MvOutcome written = MvProjectFile::write(project.document, list, file);
     if (!written.isOk())
         return failed(written.error);
-    for (const QString &note : written.notes)
+    for (const QString &note : own.notes + written.notes)
         hints.stream() << note << '\n';
     streams.out << file.filePath() << '\n';
     return {};

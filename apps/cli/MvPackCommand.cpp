@@ -44,7 +44,7 @@ MvCliCommand::Result MvPackCommand::run(const MvCliArguments &arguments, const S
     const MvCliProject project = MvCliProject::read(values, hints.stream());
     if (!project.isOk())
         return failed(project.error);
-    const MvRenderEntries entries = MvRenderEntries::ofDocument(project.document);
+    const MvRenderEntries entries = MvRenderEntries::ofProject(project);
     if (!entries.error().isEmpty())
         return failed(entries.error());
     entries.printHints(streams.hints);

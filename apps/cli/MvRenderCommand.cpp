@@ -89,9 +89,9 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
 
     const QStringList targets = arguments.values(u"output"_s);
     MvFileHints hints(values.text(u"project"_s, targets.constFirst()), streams.hints);
+    MvCliProject made;
     if (isProject || isFotoCalendar) {
-        const MvCliProject made =
-            isProject ? MvCliProject::read(values, hints.stream()) : fotoCalendar.make(hints.stream());
+        made = isProject ? MvCliProject::read(values, hints.stream()) : fotoCalendar.make(hints.stream());
         if (!made.isOk())
             return failed(made.error);
         document = made.document;
@@ -106,7 +106,7 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
         checked.code != Done)
         return checked;
 
-    const MvRenderEntries entries = takeEntries(values, document);
+    const MvRenderEntries entries = takeEntries(values, made, document);
     if (!entries.error().isEmpty())
         return failed(entries.error());
     entries.printHints(streams.hints);
@@ -179,10 +179,11 @@ void MvRenderCommand::excludeDecidedByProject(MvCliValues &values)
     }
 }
 
-MvRenderEntries MvRenderCommand::takeEntries(const MvCliValues &values, MvCalendarDocument &document)
+MvRenderEntries MvRenderCommand::takeEntries(const MvCliValues &values, const MvCliProject &project,
+                                             MvCalendarDocument &document)
 {
     if (!values.has(u"entries"_s) && !values.has(u"my-entries"_s) && values.has(u"project"_s))
-        return MvRenderEntries::ofDocument(document);
+        return MvRenderEntries::ofProject(project);
     MvRenderEntries entries;
     if (values.has(u"my-entries"_s))
         entries = MvRenderEntries::own();

@@ -28,7 +28,8 @@ private:
     static Result write(const MvCalendarDocument &document, const QList<int> &pages, const MvRenderEntries &entries,
                         const MvCliArguments &arguments, int dpi, const Streams &streams);
     /// Loads the entries that were asked for and has the pages show them.
-    static MvRenderEntries takeEntries(const MvCliValues &values, MvCalendarDocument &document);
+    static MvRenderEntries takeEntries(const MvCliValues &values, const MvCliProject &project,
+                                       MvCalendarDocument &document);
     /// What a person should know before printing.
     static void printHints(const MvCalendarDocument &document, const MvRenderEntries &entries, bool areVacationsAsked,
                            QTextStream &hints);

@@ -16,23 +16,32 @@ constexpr int mostHints = 20;
 
 MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
 {
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
     MvRenderEntries entries;
-    entries.m_file = file;
     entries.m_isFile = true;
-    entries.m_error = content.refusal();
-    entries.m_skipped = content.skipped;
-    entries.m_areShown = entries.m_error.isEmpty() && !content.events.isEmpty();
-    if (entries.m_areShown)
-        entries.m_source = std::make_shared<const MvCalendarEventListSource>(content.events);
+    entries.take(MvCalendarEventFile::read(file), file);
     return entries;
 }
 
-MvRenderEntries MvRenderEntries::ofDocument(const MvCalendarDocument &document)
+void MvRenderEntries::take(const MvCalendarEventFile::Content &content, const QFileInfo &file)
 {
-    if (!document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
+    m_file = file;
+    m_error = content.refusal();
+    m_skipped = content.skipped;
+    m_areShown = m_error.isEmpty() && !content.events.isEmpty();
+    if (m_error.isEmpty()) // an empty list is not the user's
+        m_source = std::make_shared<const MvCalendarEventListSource>(content.events);
+}
+
+MvRenderEntries MvRenderEntries::ofProject(const MvCliProject &project)
+{
+    const QString file = project.document.entriesFile();
+    if (!project.document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
         return {};
-    return document.entriesFile().isEmpty() ? own() : ofFile(QFileInfo(document.entriesFile()));
+    if (!project.entries)
+        return file.isEmpty() ? own() : ofFile(QFileInfo(file));
+    MvRenderEntries entries;
+    entries.take(*project.entries, project.file);
+    return entries;
 }
 
 MvCalendarEventList MvRenderEntries::list() const

@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventListSource.h"
-#include "MvProject/MvCalendarDocument.h"
+#include "MvCliProject.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -20,8 +20,9 @@ class MvRenderEntries
 public:
     /// Those of a file; nothing is stored, and the user's own ones stay as they are.
     static MvRenderEntries ofFile(const QFileInfo &file);
-    /// Those that a calendar shows: of its own list, or the user's; none where no page shows entries.
-    static MvRenderEntries ofDocument(const MvCalendarDocument &document);
+    /// Those that a calendar shows: of its own list, of the list in a file that it names, or the user's; none where no
+    /// page shows entries.
+    static MvRenderEntries ofProject(const MvCliProject &project);
     /// The user's own ones, which the program has read.
     static MvRenderEntries own();
 
@@ -38,6 +39,8 @@ public:
     void printHints(QTextStream &hints) const;
 
 private:
+    void take(const MvCalendarEventFile::Content &content, const QFileInfo &file);
+
     QFileInfo m_file;
     QString m_error;
     bool m_areShown = false;

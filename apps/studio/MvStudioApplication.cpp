@@ -53,6 +53,8 @@ MvStudioApplication::MvStudioApplication(const MvStudioOptions &options, QObject
     qApp->installEventFilter(new MvWindowFit(this));
     QApplication::setWindowIcon(MvIconRegistry::instance().applicationIcon());
     m_project = std::make_unique<MvProject>();
+    m_project->keepEntries();
+    m_project->setEntriesReachOwn(MvStudioSettings::doEntriesReachOwn());
     m_project->newProject(MvProjectFlow::firstDocument());
     m_autosave = std::make_unique<MvProjectAutosave>(m_project.get());
 }

@@ -28,6 +28,27 @@
         </translation>
     </message>
     <message numerus="yes">
+        <source>%n davon stehen nicht in der Datei.</source>
+        <translation>
+            <numerusform>%n davon steht nicht in der Datei.</numerusform>
+            <numerusform>%n davon stehen nicht in der Datei.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>„%1“ ist eine leere Liste. Die %n Einträge dieses Kalenders dennoch durch sie ersetzen?</source>
+        <translation>
+            <numerusform>„%1“ ist eine leere Liste. Den einen Eintrag dieses Kalenders dennoch durch sie ersetzen?</numerusform>
+            <numerusform>„%1“ ist eine leere Liste. Die %n Einträge dieses Kalenders dennoch durch sie ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die %n Einträge dieses Kalenders durch die aus „%1“ ersetzen?</source>
+        <translation>
+            <numerusform>Den einen Eintrag dieses Kalenders durch die aus „%1“ ersetzen?</numerusform>
+            <numerusform>Die %n Einträge dieses Kalenders durch die aus „%1“ ersetzen?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
         <source>„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?</source>
         <translation>
             <numerusform>„%1“ ist eine leere Liste. Ihren %n Eintrag dennoch durch sie ersetzen?</numerusform>
@@ -41,11 +62,31 @@
             <numerusform>Ihre %n Einträge durch die aus „%1“ ersetzen?</numerusform>
         </translation>
     </message>
+</context>
+<context>
+    <name>MvCalendarEventListWidget</name>
     <message numerus="yes">
-        <source>%n davon stehen nicht in der Datei.</source>
+        <source>Die %n Einträge dieses Kalenders verschwinden. Ihre eigenen Einträge und Ihre anderen Kalender bleiben, wie sie sind. Mit „Rückgängig“ bekommen Sie sie wieder.</source>
         <translation>
-            <numerusform>%n davon steht nicht in der Datei.</numerusform>
-            <numerusform>%n davon stehen nicht in der Datei.</numerusform>
+            <numerusform>Der eine Eintrag dieses Kalenders verschwindet. Ihre eigenen Einträge und Ihre anderen Kalender bleiben, wie sie sind. Mit „Rückgängig“ bekommen Sie ihn wieder.</numerusform>
+            <numerusform>Die %n Einträge dieses Kalenders verschwinden. Ihre eigenen Einträge und Ihre anderen Kalender bleiben, wie sie sind. Mit „Rückgängig“ bekommen Sie sie wieder.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventTransferDialog</name>
+    <message numerus="yes">
+        <source>%n Ihrer Einträge fehlen in diesem Kalender oder stehen dort anders. Was angekreuzt ist, kommt hinein; Ihre eigenen bleiben, wie sie sind.</source>
+        <translation>
+            <numerusform>%n Ihrer Einträge fehlt in diesem Kalender oder steht dort anders. Was angekreuzt ist, kommt hinein; Ihre eigenen bleiben, wie sie sind.</numerusform>
+            <numerusform>%n Ihrer Einträge fehlen in diesem Kalender oder stehen dort anders. Was angekreuzt ist, kommt hinein; Ihre eigenen bleiben, wie sie sind.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge dieses Kalenders fehlen in Ihren eigenen oder stehen dort anders. Was angekreuzt ist, kommt hinein; der Kalender bleibt, wie er ist.</source>
+        <translation>
+            <numerusform>%n Eintrag dieses Kalenders fehlt in Ihren eigenen oder steht dort anders. Was angekreuzt ist, kommt hinein; der Kalender bleibt, wie er ist.</numerusform>
+            <numerusform>%n Einträge dieses Kalenders fehlen in Ihren eigenen oder stehen dort anders. Was angekreuzt ist, kommt hinein; der Kalender bleibt, wie er ist.</numerusform>
         </translation>
     </message>
 </context>
@@ -257,6 +298,16 @@
         <translation>
             <numerusform>%n Stelle; ein Dreieck steht vor denen, die jeder sieht.</numerusform>
             <numerusform>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectEntries</name>
+    <message numerus="yes">
+        <source>Der Kalender hat jetzt seine eigenen Einträge: %n aus Ihren Einträgen stehen darin. Was Sie in anderen Kalendern ändern, ändert hier nichts mehr.</source>
+        <translation>
+            <numerusform>Der Kalender hat jetzt seine eigenen Einträge: %n aus Ihren Einträgen steht darin. Was Sie in anderen Kalendern ändern, ändert hier nichts mehr.</numerusform>
+            <numerusform>Der Kalender hat jetzt seine eigenen Einträge: %n aus Ihren Einträgen stehen darin. Was Sie in anderen Kalendern ändern, ändert hier nichts mehr.</numerusform>
         </translation>
     </message>
 </context>

@@ -335,29 +335,11 @@
         </translation>
     </message>
     <message numerus="yes">
-        <source>„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?</source>
-        <translation>
-            <numerusform>“%1” is an empty list. Replace your %n entry by it all the same?</numerusform>
-            <numerusform>“%1” is an empty list. Replace your %n entries by it all the same?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
-        <source>Ihre %n Einträge durch die aus „%1“ ersetzen?</source>
-        <translation>
-            <numerusform>Replace your %n entry by those of “%1”?</numerusform>
-            <numerusform>Replace your %n entries by those of “%1”?</numerusform>
-        </translation>
-    </message>
-    <message numerus="yes">
         <source>%n davon stehen nicht in der Datei.</source>
         <translation>
             <numerusform>%n of them is not in the file.</numerusform>
             <numerusform>%n of them are not in the file.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>Die Liste gilt für alle Ihre Kalender, nicht nur für diesen. Mit „Rückgängig“ bekommen Sie die bisherigen Einträge wieder.</source>
-        <translation>The list counts for all your calendars, not for this one alone. “Undo” brings your present entries back.</translation>
     </message>
     <message>
         <source>Ersetzen</source>
@@ -382,6 +364,42 @@
     <message>
         <source>Laden</source>
         <translation>Load</translation>
+    </message>
+    <message numerus="yes">
+        <source>„%1“ ist eine leere Liste. Die %n Einträge dieses Kalenders dennoch durch sie ersetzen?</source>
+        <translation>
+            <numerusform>“%1” is an empty list. Replace the %n entry of this calendar by it all the same?</numerusform>
+            <numerusform>“%1” is an empty list. Replace the %n entries of this calendar by it all the same?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Die %n Einträge dieses Kalenders durch die aus „%1“ ersetzen?</source>
+        <translation>
+            <numerusform>Replace the %n entry of this calendar by those of “%1”?</numerusform>
+            <numerusform>Replace the %n entries of this calendar by those of “%1”?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?</source>
+        <translation>
+            <numerusform>“%1” is an empty list. Replace your %n entry by it all the same?</numerusform>
+            <numerusform>“%1” is an empty list. Replace your %n entries by it all the same?</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Ihre %n Einträge durch die aus „%1“ ersetzen?</source>
+        <translation>
+            <numerusform>Replace your %n entry by those of “%1”?</numerusform>
+            <numerusform>Replace your %n entries by those of “%1”?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ihre eigenen Einträge und Ihre anderen Kalender bleiben, wie sie sind. Mit „Rückgängig“ bekommen Sie die bisherigen Einträge wieder.</source>
+        <translation>Your own entries and your other calendars stay as they are. “Undo” brings the present entries back.</translation>
+    </message>
+    <message>
+        <source>Die Liste gilt für alle Ihre Kalender, nicht nur für diesen. Mit „Rückgängig“ bekommen Sie die bisherigen Einträge wieder.</source>
+        <translation>The list counts for all your calendars, not for this one alone. “Undo” brings your present entries back.</translation>
     </message>
 </context>
 <context>
@@ -524,6 +542,57 @@
         <source>Einträge löschen</source>
         <translation>Delete entries</translation>
     </message>
+    <message>
+        <source>Aus meinen Einträgen übernehmen…</source>
+        <translation>Take over from my entries…</translation>
+    </message>
+    <message>
+        <source>In meine Einträge übernehmen…</source>
+        <translation>Take over into my entries…</translation>
+    </message>
+    <message>
+        <source>Ersetzt die Einträge dieses Kalenders durch die einer Datei</source>
+        <translation>Replaces the entries of this calendar by those of a file</translation>
+    </message>
+    <message>
+        <source>Fügt die Einträge einer Datei zu denen dieses Kalenders hinzu</source>
+        <translation>Adds the entries of a file to those of this calendar</translation>
+    </message>
+    <message>
+        <source>Löscht die Einträge dieses Kalenders; Ihre eigenen bleiben</source>
+        <translation>Deletes the entries of this calendar; your own ones stay</translation>
+    </message>
+    <message>
+        <source>Zeigt, was in Ihren eigenen Einträgen neu oder anders ist</source>
+        <translation>Shows what is new or different in your own entries</translation>
+    </message>
+    <message>
+        <source>Zeigt, was in diesem Kalender neu oder anders ist; aus Ihren eigenen Einträgen entstehen neue Kalender</source>
+        <translation>Shows what is new or different in this calendar; new calendars start from your own entries</translation>
+    </message>
+    <message numerus="yes">
+        <source>Die %n Einträge dieses Kalenders verschwinden. Ihre eigenen Einträge und Ihre anderen Kalender bleiben, wie sie sind. Mit „Rückgängig“ bekommen Sie sie wieder.</source>
+        <translation>
+            <numerusform>The %n entry of this calendar will be gone. Your own entries and your other calendars stay as they are. “Undo” brings it back.</numerusform>
+            <numerusform>The %n entries of this calendar will be gone. Your own entries and your other calendars stay as they are. “Undo” brings them back.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Alles, was in Ihren Einträgen steht, steht auch in diesem Kalender.</source>
+        <translation>Everything in your entries is in this calendar, too.</translation>
+    </message>
+    <message>
+        <source>Alles, was in diesem Kalender steht, steht auch in Ihren Einträgen.</source>
+        <translation>Everything in this calendar is in your entries, too.</translation>
+    </message>
+    <message>
+        <source>Aus meinen Einträgen übernehmen</source>
+        <translation>Take over from my entries</translation>
+    </message>
+    <message>
+        <source>In meine Einträge übernehmen</source>
+        <translation>Take over into my entries</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarEventModel</name>
@@ -580,6 +649,87 @@
     <message>
         <source>Diese Einträge stehen in keiner Datei.</source>
         <translation>These entries are in no file.</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendarEventTransferDialog</name>
+    <message>
+        <source>Aus meinen Einträgen übernehmen</source>
+        <translation>Take over from my entries</translation>
+    </message>
+    <message>
+        <source>In meine Einträge übernehmen</source>
+        <translation>Take over into my entries</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Ihrer Einträge fehlen in diesem Kalender oder stehen dort anders. Was angekreuzt ist, kommt hinein; Ihre eigenen bleiben, wie sie sind.</source>
+        <translation>
+            <numerusform>%n of your entries is missing in this calendar or is different there. What is ticked goes into it; your own ones stay as they are.</numerusform>
+            <numerusform>%n of your entries are missing in this calendar or are different there. What is ticked goes into it; your own ones stay as they are.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge dieses Kalenders fehlen in Ihren eigenen oder stehen dort anders. Was angekreuzt ist, kommt hinein; der Kalender bleibt, wie er ist.</source>
+        <translation>
+            <numerusform>%n entry of this calendar is missing in your own ones or is different there. What is ticked goes into them; the calendar stays as it is.</numerusform>
+            <numerusform>%n entries of this calendar are missing in your own ones or are different there. What is ticked goes into them; the calendar stays as it is.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Einträge</source>
+        <translation>Entries</translation>
+    </message>
+    <message>
+        <source>Eintrag</source>
+        <translation>Entry</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Unterschied</source>
+        <translation>Difference</translation>
+    </message>
+    <message>
+        <source>Alle</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>Keinen</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Take over</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>„%1“</source>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>mit anderen Angaben</source>
+        <translation>with other details</translation>
+    </message>
+    <message>
+        <source>mit anderem Foto</source>
+        <translation>with another photo</translation>
+    </message>
+    <message>
+        <source>im Kalender: %1</source>
+        <translation>in the calendar: %1</translation>
+    </message>
+    <message>
+        <source>in Ihren Einträgen: %1</source>
+        <translation>in your entries: %1</translation>
     </message>
 </context>
 <context>
@@ -1415,22 +1565,6 @@
 <context>
     <name>MvEntriesFlow</name>
     <message>
-        <source>Ihre Einträge fehlen in Ihren Kalendern.</source>
-        <translation>Your entries are missing from your calendars.</translation>
-    </message>
-    <message>
-        <source>Ein Teil Ihrer Einträge fehlt in Ihren Kalendern.</source>
-        <translation>Some of your entries are missing from your calendars.</translation>
-    </message>
-    <message>
-        <source>Ihre letzten Änderungen an den Einträgen sind nicht gespeichert.</source>
-        <translation>Your latest changes to the entries are not saved.</translation>
-    </message>
-    <message>
-        <source>Ihre letzten Änderungen an den Einträgen sind noch nicht gespeichert.</source>
-        <translation>Your latest changes to the entries are not saved yet.</translation>
-    </message>
-    <message>
         <source>Eine frühere Fassung gibt es nicht.</source>
         <translation>There is no earlier version.</translation>
     </message>
@@ -1513,6 +1647,22 @@
     <message>
         <source>Trotzdem beenden</source>
         <translation>Quit all the same</translation>
+    </message>
+    <message>
+        <source>Ihre eigenen Einträge lassen sich nicht lesen.</source>
+        <translation>Your own entries cannot be read.</translation>
+    </message>
+    <message>
+        <source>Ein Teil Ihrer eigenen Einträge lässt sich nicht lesen.</source>
+        <translation>Some of your own entries cannot be read.</translation>
+    </message>
+    <message>
+        <source>Ihre letzten Änderungen an Ihren eigenen Einträgen sind nicht gespeichert.</source>
+        <translation>Your latest changes to your own entries are not saved.</translation>
+    </message>
+    <message>
+        <source>Ihre letzten Änderungen an Ihren eigenen Einträgen sind noch nicht gespeichert.</source>
+        <translation>Your latest changes to your own entries are not saved yet.</translation>
     </message>
 </context>
 <context>
@@ -3072,10 +3222,6 @@ The context menu replaces it by another photo.</translation>
         <translation>personal entries that the calendar shows; the file then belongs to it</translation>
     </message>
     <message>
-        <source>der Kalender zeigt die eigenen persönlichen Einträge</source>
-        <translation>the calendar shows your own personal entries</translation>
-    </message>
-    <message>
         <source>Titel, auch auf dem Titelblatt</source>
         <translation>title, also on the cover</translation>
     </message>
@@ -3095,12 +3241,27 @@ The context menu replaces it by another photo.</translation>
         <source>%1: den Ordner %2 gibt es nicht</source>
         <translation>%1: there is no folder %2</translation>
     </message>
+    <message>
+        <source>der Kalender zeigt die eigenen persönlichen Einträge; sie kommen, wie sie jetzt sind, mit ihren Fotos in das Projekt</source>
+        <translation>the calendar shows the user&apos;s own entries; they go into the project as they are now, with their photos</translation>
+    </message>
 </context>
 <context>
     <name>MvOutOfMemory</name>
     <message>
         <source>Der Arbeitsspeicher reicht nicht aus. Das Programm wird beendet.</source>
         <translation>There is not enough memory. The program ends now.</translation>
+    </message>
+</context>
+<context>
+    <name>MvOwnEntriesSwitch</name>
+    <message>
+        <source>Auch in meine Einträge übernehmen</source>
+        <translation>Also in my entries</translation>
+    </message>
+    <message>
+        <source>Was Sie in diesem Kalender eintragen, ändern oder löschen, gilt auch für Ihre eigenen Einträge, aus denen neue Kalender entstehen. „Laden…“ und „Alle löschen…“ betreffen nur diesen Kalender.</source>
+        <translation>What you enter, change or delete in this calendar goes for your own entries, too, from which new calendars start. “Load…” and “Delete all…” concern this calendar alone.</translation>
     </message>
 </context>
 <context>
@@ -3569,6 +3730,10 @@ The context menu replaces it by another photo.</translation>
         <source>Seite %1</source>
         <translation>Page %1</translation>
     </message>
+    <message>
+        <source>Das Foto zu „%1“ fehlt. Es lag in %2</source>
+        <translation>The photo of “%1” is missing. It was in %2</translation>
+    </message>
 </context>
 <context>
     <name>MvPrintCheckDialog</name>
@@ -3722,10 +3887,6 @@ The context menu replaces it by another photo.</translation>
         <source>Unbenannt</source>
         <translation>Untitled</translation>
     </message>
-    <message>
-        <source>Zu diesem Kalender gehört eine Liste von Einträgen: %1. Zum Bearbeiten lässt sie sich zu den eigenen Einträgen hinzufügen.</source>
-        <translation>A list of entries belongs to this calendar: %1. To edit them, you can add it to your own entries.</translation>
-    </message>
 </context>
 <context>
     <name>MvProjectAutosave</name>
@@ -3755,6 +3916,31 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>%1 „%2“ ist keine Farbe wie #RRGGBB.</source>
         <translation>%1 “%2” is no colour like #RRGGBB.</translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectEntries</name>
+    <message>
+        <source>Die Einträge dieses Kalenders fehlen, bis ihre Datei wieder lesbar ist. %1</source>
+        <translation>The entries of this calendar are missing until their file can be read again. %1</translation>
+    </message>
+    <message>
+        <source>%1: Einträge, die sich nicht lesen lassen, bleiben weg.</source>
+        <translation>%1: entries that cannot be read are left out.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Der Kalender hat jetzt seine eigenen Einträge: %n aus Ihren Einträgen stehen darin. Was Sie in anderen Kalendern ändern, ändert hier nichts mehr.</source>
+        <translation>
+            <numerusform>The calendar has entries of its own now: %n of your entries is in it. What you change in other calendars no longer changes anything here.</numerusform>
+            <numerusform>The calendar has entries of its own now: %n of your entries are in it. What you change in other calendars no longer changes anything here.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvProjectEntryFotos</name>
+    <message>
+        <source>Das Foto zu „%1“ liegt nicht beim Kalender, auf anderen Rechnern fehlt es. %2</source>
+        <translation>The photo of “%1” does not lie beside the calendar and will be missing on other computers. %2</translation>
     </message>
 </context>
 <context>
@@ -3811,10 +3997,6 @@ The context menu replaces it by another photo.</translation>
         <translation>The file %1 has meanwhile been changed or deleted by someone else.</translation>
     </message>
     <message>
-        <source>Ersetzen Sie sie durch Ihren Stand, oder speichern Sie ihn unter einem anderen Namen.</source>
-        <translation>Replace it by your version, or save yours under another name.</translation>
-    </message>
-    <message>
         <source>Ersetzen</source>
         <translation>Replace</translation>
     </message>
@@ -3855,6 +4037,14 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Speichern &amp;unter …</source>
         <translation>Save &amp;as …</translation>
+    </message>
+    <message>
+        <source>Ersetzen Sie sie durch Ihren Stand, oder speichern Sie ihn unter einem anderen Namen. Einträge, die von anderer Hand dazugekommen sind, bleiben auch beim Ersetzen.</source>
+        <translation>Replace it by your state, or save that under another name. Entries that somebody else has added stay even when it is replaced.</translation>
+    </message>
+    <message>
+        <source>Der Kalender ist gespeichert.</source>
+        <translation>The calendar is saved.</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void chosenPages();
     void validate();
     void pack();
+    void ownEntries();
 
 private:
     /// Photos in a folder "fotos" with one below, beside what is none.
@@ -74,7 +75,7 @@ void tst_FotoCalendars::fotoCalendar()
         const QImage page(path(u"p-%1.png"_s.arg(name)));
         QVERIFY(!page.isNull());
         QCOMPARE(page, QImage(path(u"d-%1.png"_s.arg(name))));
-        looks.insert(QByteArray::fromRawData(reinterpret_cast<const char *>(page.constBits()), page.sizeInBytes()));
+        looks.insert(QByteArray(reinterpret_cast<const char *>(page.constBits()), page.sizeInBytes()));
     }
     QCOMPARE(looks.size(), 4);
     QCOMPARE(run(u"render --no-cover --no-back -o m-%m.png --dpi 40"_s + options).outLines().size(), 2);
@@ -149,6 +150,46 @@ void tst_FotoCalendars::pack()
         QCOMPARE(QDir(path(folder + u"eintraege"_s)).entryList(QDir::Files), QStringList{u"b.png"_s});
         QCOMPARE(renderProject(folder + u"k.mvcalendar"_s, elsewhere), pages);
     }
+}
+
+/// The same pages wherever the calendar goes, whoever prints it, and with what has become of the user's entries since.
+void tst_FotoCalendars::ownEntries()
+{
+    writeFotos();
+    const QByteArray gudrun = entriesFile("Gudrun", "1956-01-10");
+    QVERIFY(QDir(m_folder->path()).mkpath(u"daten/calendarEventFotos"_s) && QDir(m_folder->path()).mkpath(u"k"_s));
+    QVERIFY(QFile::copy(path(u"fotos/b.png"_s), path(u"daten/calendarEventFotos/g.png"_s)));
+    write(path(u"daten/calendarEvents.xml"_s), QByteArray(gudrun).replace("<UUID>", "<Image>g.png</Image><UUID>"));
+    const QMap<QString, QString> user{{u"MVCALENDAR_DATA"_s, path(u"daten"_s)}};
+    const Call made =
+        run(u"new --photos fotos/a.jpg --from 2027-01 --months 1 --no-cover --no-back --my-entries -o k/k.mvcalendar"_s,
+            user);
+    QVERIFY2(made.exitCode == 0 && made.err.isEmpty(), made.err.constData());
+    const QList<QImage> pages = renderProject(u"k/k.mvcalendar"_s, user);
+    QCOMPARE(pages.size(), 1);
+    QVERIFY(QDir(path(u"daten"_s)).removeRecursively());
+    QVERIFY(QDir().mkpath(path(u"daten"_s)));
+    write(path(u"daten/calendarEvents.xml"_s), entriesFile("Jemand anders", "1970-01-20"));
+    QVERIFY(QDir().rename(path(u"k"_s), path(u"weg"_s)));
+    QCOMPARE(renderProject(u"weg/k.mvcalendar"_s, user), pages);
+    const auto with = [this, &user](const QString &option) {
+        const Call call = run(u"render --dpi 40 -o w.png --project weg/k.mvcalendar "_s + option, user);
+        return call.exitCode == 0 ? QImage(path(u"w.png"_s)) : QImage();
+    };
+    write(path(u"e.xml"_s), gudrun);
+    const QImage others = with(u"--my-entries"_s);
+    const QImage fromFile = with(u"--entries e.xml"_s); // without her photo
+    QVERIFY(!others.isNull() && !fromFile.isNull() && others != fromFile);
+    QVERIFY(others != pages.first() && fromFile != pages.first());
+
+    QCOMPARE(run(u"pack weg/k.mvcalendar -o gepackt"_s, user).exitCode, 0);
+    QCOMPARE(renderProject(u"gepackt/k.mvcalendar"_s, user), pages);
+    QVERIFY(QDir(path(u"weg/eintraege"_s)).removeRecursively());
+    const Call missing = run(u"validate weg/k.mvcalendar --json"_s, user);
+    const QJsonArray found = QJsonDocument::fromJson(missing.out).array();
+    QVERIFY2(missing.exitCode == 3 && !found.isEmpty(), missing.out.constData());
+    QCOMPARE(found[0][u"kind"_s].toString(), u"missing-photo"_s);
+    QCOMPARE(found[0][u"date"_s].toString(), u"2027-01-10"_s);
 }
 
 MV_TEST_MAIN(tst_FotoCalendars)

@@ -105,9 +105,22 @@ QString storeProject(const QDir &disk, int state)
 {
     MvProject *project = studio().project();
     changeTitle(state);
+    MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(nameOf(state), {1960, 5, 17})});
     if (project->fileInfo().filePath().isEmpty())
         return project->saveAs(QFileInfo(disk.filePath(u"Kalender.mvcalendar"_s))).error;
     return toldAfter([] { studio().window()->projectFlow()->save(); }, [project] { return !project->isModified(); });
+}
+
+/// Pages and entries are of one state.
+int stateOfProject(const QDir &disk)
+{
+    const QFileInfo file(disk.filePath(u"Kalender.mvcalendar"_s));
+    const int state = MvStorageTest::stateOfProject(file);
+    if (state <= 0)
+        return state;
+    const MvProjectFile::Content content = MvProjectFile::read(file);
+    const bool isOne = content.entries && content.entries->events.size() == 1;
+    return isOne && stateOf(content.entries->events.first().description()) == state ? state : -1;
 }
 
 QString autosave(const QDir &, int state)
@@ -166,10 +179,7 @@ QList<MvStorageOperation> operations()
     using Application = MvStorageOperation::Application;
     return {
         {"entry", Application::Widgets, storeEntry, stateOfEntry},
-        {"project", Application::Widgets, storeProject,
-         [](const QDir &disk) {
-             return MvStorageTest::stateOfProject(QFileInfo(disk.filePath(u"Kalender.mvcalendar"_s)));
-         }},
+        {"project", Application::Widgets, storeProject, stateOfProject},
         {"autosave", Application::Widgets, autosave, stateOfAutosave, clearAutosaves},
         {"PDF", Application::Widgets, exportPdf,
          [](const QDir &disk) { return MvStorageTest::stateByTitle(disk.filePath(u"Kalender.pdf"_s), "%%EOF"); }},

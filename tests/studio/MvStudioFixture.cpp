@@ -52,6 +52,7 @@ MvStudioFixture::MvStudioFixture(const QString &layout, const QString &language)
 {
     MvStudioSettings::clearRecentFiles();
     MvStudioSettings::setWelcomeShown(false);
+    MvStudioSettings::setEntriesReachOwn(true);
     MvStudioSettings::setFolderOfRequest(MvDiskAccessRequest::FotoFile, m_folder.path());
     MvStudioSettings::setWindow({}, {});
     MvStudioSettings::setFolder(u"project"_s, m_folder.path());

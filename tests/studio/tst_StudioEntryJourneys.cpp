@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvStudioFixture.h"
+#include "MvTestFiles.h"
 
 #include "MvProject/MvProject.h"
 #include "common/MvStudioSettings.h"
@@ -60,6 +61,7 @@ private Q_SLOTS:
     }
     void birthdayWithFotos();
     void editorOfALostEntryCloses();
+    void secretaryOpensTheFamilysCalendar();
     void listIsSearched();
     void troubleWithReadingIsToldAndMended();
     void troubleWithSavingIsToldAndAsked();
@@ -141,6 +143,67 @@ void tst_StudioEntryJourneys::editorOfALostEntryCloses()
     QTRY_VERIFY(!MvStudioFixture::dialog<MvCalendarDayEditorDialog>());
     QTest::qWait(1);
     QVERIFY(MvStudioFixture::dialog<QMessageBox>());
+}
+
+/// One person, two calendars: what is done to the club's dates is nothing to the family.
+void tst_StudioEntryJourneys::secretaryOpensTheFamilysCalendar()
+{
+    MvStudioFixture studio;
+    const auto saveAs = [&studio](const QString &name) {
+        return studio.trigger("saveProjectAs") && studio.chooseFile(studio.path(name));
+    };
+    const auto open = [&studio](const QString &name) {
+        return studio.trigger("openProject") && studio.chooseFile(studio.path(name));
+    };
+    const auto own = [] { return MvEntries::names(MvCalendarEventRegistry::instance().ownEvents()); };
+    const auto chooseInList = [&studio](const QString &action) {
+        if (!studio.find("entriesPanel") && !studio.openSection("entriesPanel"))
+            return false;
+        auto *button = studio.find<QPushButton>("changeEventListButton");
+        return button && (button->menu()->popup({}), studio.chooseInMenu(button->menu(), action));
+    };
+    QVERIFY(addEntry(studio, birthday, u"Oma"_s));
+    QVERIFY(saveAs(u"familie.mvcalendar"_s));
+    QCOMPARE(own(), QStringList{u"Oma"_s});
+
+    studio.project()->newProject(studio.document()); // starts with a copy
+    QCOMPARE(studio.datesWith(u"Oma"_s), QList<QDate>{birthday});
+    QVERIFY(MvTestFiles::write(studio.path(u"verein.xml"_s),
+                               MvCalendarEventFile::toBytes({entry(u"Sommerfest"_s, {2026, 1, 20})})));
+    QVERIFY(chooseInList(u"Laden"_s) && studio.chooseFile(studio.path(u"verein.xml"_s)));
+    auto *question = MvStudioFixture::dialog<QMessageBox>();
+    QVERIFY(question && question->informativeText().contains(u"Ihre eigenen Einträge"_s));
+    QTest::mouseClick(question->buttons().first(), Qt::LeftButton);
+    QCOMPARE(names(), QStringList{u"Sommerfest"_s});
+    QCOMPARE(own(), QStringList{u"Oma"_s});
+    auto *reach = studio.find<QCheckBox>("ownEntriesSwitch");
+    QVERIFY(reach && reach->isChecked());
+    QTest::mouseClick(reach, Qt::LeftButton, {}, QPoint(10, reach->height() / 2));
+    QVERIFY(addEntry(studio, QDate(2027, 1, 28), u"Probe"_s));
+    QCOMPARE(own(), QStringList{u"Oma"_s});
+    QVERIFY(chooseInList(u"Aus meinen"_s));
+    auto *transfer = MvStudioFixture::dialog<QDialog>("transferEntriesDialog");
+    QVERIFY(studio.click(transfer, "transferButton"));
+    QCOMPARE(names(), (QStringList{u"Oma"_s, u"Probe"_s, u"Sommerfest"_s}));
+    studio.undo();
+    QCOMPARE(names(), (QStringList{u"Probe"_s, u"Sommerfest"_s}));
+    QVERIFY(saveAs(u"verein.mvcalendar"_s));
+
+    QVERIFY(open(u"familie.mvcalendar"_s));
+    QCOMPARE(names(), QStringList{u"Oma"_s});
+    QCOMPARE(studio.datesWith(u"Oma"_s), QList<QDate>{birthday});
+    QCOMPARE(studio.datesWith(u"Probe"_s), QList<QDate>());
+    QVERIFY(chooseInList(u"Alle löschen"_s));
+    question = MvStudioFixture::dialog<QMessageBox>();
+    QVERIFY(question && question->informativeText().contains(u"dieses Kalenders"_s));
+    QTest::mouseClick(question->buttons().first(), Qt::LeftButton);
+    QCOMPARE(names(), QStringList());
+    QCOMPARE(own(), QStringList{u"Oma"_s});
+    QVERIFY(studio.window()->isWindowModified());
+    studio.undo();
+    QVERIFY(!studio.window()->isWindowModified());
+    QVERIFY(open(u"verein.mvcalendar"_s));
+    QCOMPARE(names(), (QStringList{u"Probe"_s, u"Sommerfest"_s}));
 }
 
 void tst_StudioEntryJourneys::listIsSearched()

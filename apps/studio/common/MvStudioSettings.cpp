@@ -173,6 +173,16 @@ void MvStudioSettings::setWelcomeShown(bool shown)
     store(u"welcome"_s, shown);
 }
 
+bool MvStudioSettings::doEntriesReachOwn()
+{
+    return storage().value(u"entriesReachOwn"_s, true).toBool();
+}
+
+void MvStudioSettings::setEntriesReachOwn(bool reach)
+{
+    store(u"entriesReachOwn"_s, reach);
+}
+
 QString MvStudioSettings::text(const QString &key, const QString &defaultValue)
 {
     return storage().value(key, defaultValue).toString();

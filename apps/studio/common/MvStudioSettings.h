@@ -48,6 +48,10 @@ public:
     static bool isWelcomeShown();
     static void setWelcomeShown(bool shown);
 
+    /// Whether what is changed in a calendar's entries is changed in the user's own list, too; at first it is.
+    static bool doEntriesReachOwn();
+    static void setEntriesReachOwn(bool reach);
+
     /// Any value of a dialog that it offers again next time.
     static QString text(const QString &key, const QString &defaultValue = {});
     static void setText(const QString &key, const QString &value);

@@ -33,13 +33,13 @@ QString headline(Problem::Kind kind)
     case Problem::None:
         break;
     case Problem::Unreadable:
-        return MvEntriesFlow::tr("Ihre Einträge fehlen in Ihren Kalendern.");
+        return MvEntriesFlow::tr("Ihre eigenen Einträge lassen sich nicht lesen.");
     case Problem::PartlyReadable:
-        return MvEntriesFlow::tr("Ein Teil Ihrer Einträge fehlt in Ihren Kalendern.");
+        return MvEntriesFlow::tr("Ein Teil Ihrer eigenen Einträge lässt sich nicht lesen.");
     case Problem::NotSaved:
-        return MvEntriesFlow::tr("Ihre letzten Änderungen an den Einträgen sind nicht gespeichert.");
+        return MvEntriesFlow::tr("Ihre letzten Änderungen an Ihren eigenen Einträgen sind nicht gespeichert.");
     case Problem::Busy:
-        return MvEntriesFlow::tr("Ihre letzten Änderungen an den Einträgen sind noch nicht gespeichert.");
+        return MvEntriesFlow::tr("Ihre letzten Änderungen an Ihren eigenen Einträgen sind noch nicht gespeichert.");
     }
     return {};
 }
@@ -186,7 +186,7 @@ void MvEntriesFlow::saveElsewhere(const Then &then)
     const auto save = [this, then](const QString &fileName) {
         if (fileName.isEmpty())
             return;
-        m_registry.saveAs(QFileInfo(fileName));
+        m_registry.saveOwnAs(QFileInfo(fileName));
         const QString error = m_registry.lastSaveError();
         if (!error.isEmpty()) {
             MvDiskAccessRequest::instance().writeCalendarEntriesFileFailed(fileName, error, m_window);

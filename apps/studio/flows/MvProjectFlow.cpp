@@ -150,7 +150,7 @@ void MvProjectFlow::tellUnreadable(const QFileInfo &file, const QString &error)
         box->setDefaultButton(take);
         connect(take, &QPushButton::clicked, this, [this, content, file] {
             // saving replaces the damaged file, as long as nobody else mends it
-            m_project->openRecovered(content.document, file, QFileInfo(), MvFileGuard::stamp(file));
+            m_project->openRecovered(content, file, QFileInfo(), MvFileGuard::stamp(file));
             Q_EMIT opened();
         });
         return;
@@ -212,7 +212,8 @@ void MvProjectFlow::askAboutOthersChanges(const Then &then)
         m_window, u"changedByOthersQuestion"_s,
         tr("Die Datei %1 wurde inzwischen von anderer Hand geändert oder gelöscht.")
             .arg(QDir::toNativeSeparators(m_project->fileInfo().filePath())),
-        tr("Ersetzen Sie sie durch Ihren Stand, oder speichern Sie ihn unter einem anderen Namen."));
+        tr("Ersetzen Sie sie durch Ihren Stand, oder speichern Sie ihn unter einem anderen Namen. Einträge, die von "
+           "anderer Hand dazugekommen sind, bleiben auch beim Ersetzen."));
     QPushButton *replace = box->addButton(tr("Ersetzen"), QMessageBox::DestructiveRole);
     QPushButton *other = box->addButton(tr("Anderer Name …"), QMessageBox::AcceptRole);
     QPushButton *cancel =
@@ -265,6 +266,9 @@ void MvProjectFlow::write(const QString &path, const Then &then)
     MvStudioSettings::setFolder(projectFolder, QFileInfo(path).absolutePath());
     Q_EMIT recentFilesChanged();
     Q_EMIT message(tr("%1 gespeichert").arg(QDir::toNativeSeparators(path)));
+    if (!written.notes.isEmpty())
+        MvStudioMessage::information(m_window, tr("Der Kalender ist gespeichert."),
+                                     MvStudioMessage::shortened(written.notes, 10));
     if (then)
         then();
 }

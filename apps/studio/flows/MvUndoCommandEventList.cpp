@@ -5,36 +5,69 @@
 
 #include <QMultiHash>
 
+using List = MvCalendarEventRegistry::List;
+
+namespace {
+
+MvCalendarEventList eventsOf(const MvCalendarEventRegistry &entries, List list)
+{
+    return list == List::Own ? entries.ownEvents() : entries.activeEventList();
+}
+
+void setEvents(MvCalendarEventRegistry &entries, List list, const MvCalendarEventList &events)
+{
+    list == List::Own ? entries.setOwnEvents(events) : entries.setEvents(events);
+}
+
+/// Adds those that the list does not have; gives them as they are in the list.
+MvCalendarEventList add(MvCalendarEventRegistry &entries, List list, const MvCalendarEventList &wanted)
+{
+    const MvCalendarEventList before = eventsOf(entries, list);
+    MvCalendarEventList added = entries.onlyNewEvents(before, wanted);
+    if (added.isEmpty())
+        return {};
+    setEvents(entries, list, entries.mergeLists(before, added, true));
+    for (MvCalendarEvent &event : added) {
+        const MvCalendarEvent present = entries.presentEvent(event, list); // its photo may have been copied
+        if (present.isValid())
+            event = present;
+    }
+    return added;
+}
+
+void remove(MvCalendarEventRegistry &entries, List list, const MvCalendarEventList &events)
+{
+    if (events.isEmpty())
+        return;
+    QMultiHash<QUuid, MvCalendarEvent> removed; // several may share a uuid
+    for (const MvCalendarEvent &event : events)
+        removed.insert(event.uuid(), event);
+    MvCalendarEventList rest = eventsOf(entries, list);
+    rest.removeIf([&removed](const MvCalendarEvent &event) { return removed.contains(event.uuid(), event); });
+    setEvents(entries, list, rest);
+}
+
+} // namespace
+
 MvUndoCommandEventList::MvUndoCommandEventList(const QString &text, const MvCalendarEventList &added,
                                                MvSession &session)
     : MvUndoCommand(text)
     , m_entries(session.entries())
     , m_added(added)
 {
+    if (m_entries.doChangesReachOwn())
+        m_addedToOwn = added;
     setObsolete(added.isEmpty());
 }
 
 void MvUndoCommandEventList::doCoreAction()
 {
-    const MvCalendarEventList before = m_entries.activeEventList();
-    const MvCalendarEventList added = m_entries.onlyNewEvents(before, m_added);
-    m_entries.setEvents(m_entries.mergeLists(before, added, true));
-    m_added.clear();
-    for (const MvCalendarEvent &event : added) {
-        const MvCalendarEvent present = m_entries.presentEvent(event); // its photo may have been copied
-        m_added.append(present.isValid() ? present : event);
-    }
+    m_added = add(m_entries, List::Active, m_added);
+    m_addedToOwn = add(m_entries, List::Own, m_addedToOwn);
 }
 
 void MvUndoCommandEventList::undoCore()
 {
-    QMultiHash<QUuid, MvCalendarEvent> added; // several may share a uuid
-    for (const MvCalendarEvent &event : m_added)
-        added.insert(event.uuid(), event);
-    MvCalendarEventList rest;
-    for (const MvCalendarEvent &event : m_entries.activeEventList()) {
-        if (!added.contains(event.uuid(), event))
-            rest.append(event);
-    }
-    m_entries.setEvents(rest);
+    remove(m_entries, List::Own, m_addedToOwn);
+    remove(m_entries, List::Active, m_added);
 }

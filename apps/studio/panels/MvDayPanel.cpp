@@ -2,6 +2,7 @@
 #include "panels/MvDayPanel.h"
 
 #include "pages/MvPageSelection.h"
+#include "panels/MvOwnEntriesSwitch.h"
 #include "panels/MvPageEdits.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
@@ -19,7 +20,7 @@
 
 using namespace Qt::StringLiterals;
 
-MvDayPanel::MvDayPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget *parent)
+MvDayPanel::MvDayPanel(MvPageEdits *edits, MvPageSelection *selection, MvProject *project, QWidget *parent)
     : MvPagePanel(edits, parent)
     , m_selection(selection)
     , m_list(new QListWidget(this))
@@ -38,6 +39,7 @@ MvDayPanel::MvDayPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget *
         buttons->addWidget(button);
     panelLayout()->addWidget(m_list, 1);
     panelLayout()->addLayout(buttons);
+    panelLayout()->addWidget(new MvOwnEntriesSwitch(project, this));
     connect(add, &QPushButton::clicked, this, [this] { openEditor(MvDayMenu::newEntryAt(m_selection->date())); });
     connect(m_edit, &QPushButton::clicked, this, &MvDayPanel::editCurrent);
     connect(m_remove, &QPushButton::clicked, this, &MvDayPanel::removeCurrent);

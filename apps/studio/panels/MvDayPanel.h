@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendarEventList.h"
 
 class MvPageSelection;
+class MvProject;
 class QListWidget;
 class QPushButton;
 
@@ -15,8 +16,8 @@ class MvDayPanel : public MvPagePanel
     Q_OBJECT
 
 public:
-    /// The selection is not owned.
-    MvDayPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget *parent);
+    /// Selection and project are not owned.
+    MvDayPanel(MvPageEdits *edits, MvPageSelection *selection, MvProject *project, QWidget *parent);
 
 protected:
     void showPage() override;

@@ -8,6 +8,7 @@
 #include "panels/MvFontPanel.h"
 #include "panels/MvFotoPanel.h"
 #include "panels/MvLayoutPanel.h"
+#include "panels/MvOwnEntriesSwitch.h"
 #include "panels/MvPageEdits.h"
 #include "panels/MvTemplatePanel.h"
 #include "panels/MvTextPanel.h"
@@ -42,13 +43,15 @@ QDate dateOfNewEntries(const MvPageEdits &edits)
     return edits.document().range().contains(today) ? today : edits.page().contentConfig().moveToDayInMonth(1).date();
 }
 
-QWidget *createEntriesPanel(MvStudioPanels *panels, MvSession &session, QWidget *parent)
+QWidget *createEntriesPanel(MvStudioPanels *panels, MvProject *project, QWidget *parent)
 {
     auto *panel = new QWidget(parent);
     panel->setObjectName(u"entriesPanel"_s);
-    auto *list = new MvCalendarEventListWidget(panel, session);
+    auto *list = new MvCalendarEventListWidget(panel, project->session());
     list->layout()->setContentsMargins({}); // the panel has some
-    (new QVBoxLayout(panel))->addWidget(list);
+    auto *column = new QVBoxLayout(panel);
+    column->addWidget(new MvOwnEntriesSwitch(project, panel));
+    column->addWidget(list);
     const MvPageEdits *edits = panels->edits();
     const auto followPage = [list, edits] { list->setDateOfNewEntries(dateOfNewEntries(*edits)); };
     QObject::connect(edits, &MvPageEdits::pageRefreshed, list, followPage);
@@ -83,7 +86,7 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelect
         {u"columnHeadersPanel"_s, tr("Spalten"), new MvColumnHeadersPanel(m_edits, parent)},
         {u"entriesPanel"_s,
          tr("Einträge"),
-         createEntriesPanel(this, project->session(), parent),
+         createEntriesPanel(this, project, parent),
          {MvPageSelection::Kind::Calendar},
          false},
     };
@@ -96,7 +99,7 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelect
         {u"textPanel"_s, tr("Text"), new MvTextPanel(m_edits, selection, parent), {MvPageSelection::Kind::Text}, false},
         {u"dayPanel"_s,
          tr("Einträge des Tages"),
-         new MvDayPanel(m_edits, selection, parent),
+         new MvDayPanel(m_edits, selection, project, parent),
          {MvPageSelection::Kind::Day},
          false},
     };

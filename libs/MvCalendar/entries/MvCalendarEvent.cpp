@@ -221,9 +221,11 @@ void MvCalendarEvent::setFoto(const MvFoto &foto)
 
 MvOutcome MvCalendarEvent::takeFoto(const MvFoto &foto)
 {
-    const bool isOwn = foto.isValid() && isInAppSafeArea(foto.localFileInfo());
-    const bool isPresent = foto == m_foto && (isOwn || !foto.mayBeOpened());
-    if (isPresent || !foto.isValid()) {
+    if (foto == m_foto) { // wherever it lies
+        updateChangeTime();
+        return {};
+    }
+    if (!foto.isValid()) {
         setFoto(foto);
         return {};
     }

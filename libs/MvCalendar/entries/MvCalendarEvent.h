@@ -119,6 +119,8 @@ public:
     /// in the photo folder. Else the entry stays as it is, and the error says why. The photo that the entry has
     /// already, and none, are always taken. Any thread.
     MvOutcome takeFoto(const MvFoto &foto);
+    /// Refers to the photo where it lies: the same photo, moved or copied with its document. The entry has not changed.
+    void relocateFoto(const MvFoto &foto) { m_foto = foto; }
 
     /// The same day and month; another year only when the stored flag says that the entry recurs. With a repetition or
     /// a span: whether one of its occurrences includes the day.

@@ -11,6 +11,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +20,7 @@ namespace {
 const QString rootName = u"CalendarEvents"_s;
 const QString entryName = u"CalendarEvent"_s;
 const QString groupName = u"CalendarEventGroup"_s;
+const QString imageName = u"Image"_s;
 
 /// Gathers what a file holds, each equal entry once.
 class Gathering
@@ -101,11 +103,10 @@ QList<std::pair<QString, QString>> textsOf(const MvEventGroup &group)
 }
 
 /// Reads the entries of a list. The reader is at the root element before and at its end afterwards.
-void readEntries(QXmlStreamReader &reader, const QFileInfo &file, MvCalendarEventFile::Content &content)
+void readEntries(QXmlStreamReader &reader, MvCalendarEventFotoFinder &fotos, MvCalendarEventFile::Content &content)
 {
     Gathering gathering;
     MvEventGroupList groups;
-    MvCalendarEventFotoFinder fotos(file);
     while (reader.readNextStartElement()) {
         const int line = int(reader.lineNumber());
         const QString element = reader.qualifiedName().toString();
@@ -152,6 +153,9 @@ QString noteOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &f
                                                  nullptr, int(paths.size()));
     return note.arg(file.filePath(), paths.first());
 }
+
+/// What a file has for the path of a photo.
+using PathText = std::function<QString(const QString &path)>;
 
 /// A list with only this entry or group; an empty list without texts.
 QByteArray documentOf(const QString &name, const QList<std::pair<QString, QString>> &texts)
@@ -205,6 +209,34 @@ bool appendPlain(QByteArray &bytes, const QString &element, const QList<std::pai
     return true;
 }
 
+QByteArray bytesOf(const MvCalendarEventList &events, const PathText &pathText)
+{
+    const QByteArray frame = documentOf({}, {});
+    const qsizetype root = frame.lastIndexOf('<'); // "<CalendarEvents/>"
+    const QByteArray begin = frame.first(root) + '<' + rootName.toLatin1() + ">\n";
+    QByteArray bytes = begin;
+    bytes.reserve(bytes.size() + events.size() * usualBytesOfEntry);
+    const auto append = [&bytes](const QString &name, const QList<std::pair<QString, QString>> &texts) {
+        if (!appendPlain(bytes, name, texts))
+            bytes += entryIn(documentOf(name, texts));
+    };
+    for (const MvEventGroup &group : events.groups()) {
+        if (group.isValid())
+            append(groupName, textsOf(group));
+    }
+    for (const MvCalendarEvent &event : events) {
+        if (!event.isValid())
+            continue;
+        QList<std::pair<QString, QString>> texts = event.fileTexts();
+        for (auto &[name, text] : texts) {
+            if (pathText && name == imageName)
+                text = pathText(text);
+        }
+        append(entryName, texts);
+    }
+    return bytes.size() == begin.size() ? frame : bytes + "</" + rootName.toLatin1() + ">\n";
+}
+
 } // namespace
 
 MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
@@ -228,7 +260,8 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
                               .describe(present);
         return content;
     }
-    readEntries(reader, present, content);
+    MvCalendarEventFotoFinder fotos(present);
+    readEntries(reader, fotos, content);
     if (reader.hasError())
         content.error =
             MvXMLLoader::Error{reader.errorString(), int(reader.lineNumber()), int(reader.columnNumber()) + 1}.describe(
@@ -237,6 +270,14 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
     content.note = noteOfForeignFotos(content.events, present);
     if (!content.note.isEmpty())
         qWarning().noquote() << content.note;
+    return content;
+}
+
+MvCalendarEventFile::Content MvCalendarEventFile::readWithin(QXmlStreamReader &reader, MvCalendarEventFotoFinder fotos)
+{
+    Content content;
+    readEntries(reader, fotos, content);
+    content.isComplete = content.skipped.isEmpty();
     return content;
 }
 
@@ -271,22 +312,18 @@ MvCalendarEventList MvCalendarEventFile::readElement(const QDomElement &element)
 
 QByteArray MvCalendarEventFile::toBytes(const MvCalendarEventList &events)
 {
-    const QByteArray frame = documentOf({}, {});
-    const qsizetype root = frame.lastIndexOf('<'); // "<CalendarEvents/>"
-    const QByteArray begin = frame.first(root) + '<' + rootName.toLatin1() + ">\n";
-    QByteArray bytes = begin;
-    bytes.reserve(bytes.size() + events.size() * usualBytesOfEntry);
-    const auto append = [&bytes](const QString &name, const QList<std::pair<QString, QString>> &texts) {
-        if (!appendPlain(bytes, name, texts))
-            bytes += entryIn(documentOf(name, texts));
-    };
-    for (const MvEventGroup &group : events.groups()) {
-        if (group.isValid())
-            append(groupName, textsOf(group));
-    }
-    for (const MvCalendarEvent &event : events) {
-        if (event.isValid())
-            append(entryName, event.fileTexts());
-    }
-    return bytes.size() == begin.size() ? frame : bytes + "</" + rootName.toLatin1() + ">\n";
+    return bytesOf(events, {});
+}
+
+QByteArray MvCalendarEventFile::toBytesWithin(const MvCalendarEventList &events, const QDir &folder)
+{
+    const QString below = folder.absolutePath() + u'/';
+    const QByteArray bytes = bytesOf(
+        events, [&below](const QString &path) { return path.startsWith(below) ? path.mid(below.size()) : path; });
+    return bytes.mid(bytes.indexOf('<' + rootName.toLatin1()));
+}
+
+QString MvCalendarEventFile::elementName()
+{
+    return rootName;
 }

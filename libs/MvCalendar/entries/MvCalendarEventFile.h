@@ -6,10 +6,14 @@
 
 #include <QByteArray>
 #include <QCoreApplication>
+#include <QDir>
 #include <QDomElement>
 #include <QFileInfo>
 #include <QList>
 #include <QString>
+
+class MvCalendarEventFotoFinder;
+class QXmlStreamReader;
 
 /// Files of entries ("CalendarEvents"): reading and writing, without any state.
 class MVCALENDAR_EXPORT MvCalendarEventFile
@@ -47,6 +51,10 @@ public:
     /// Reads a file. Photos that may not be opened give one warning for the file. May be called in any thread.
     static Content read(const QFileInfo &file);
 
+    /// Reads a list within a document that somebody else reads: the reader is at its element before and at its end
+    /// afterwards. What is wrong with the document is the reader's.
+    static Content readWithin(QXmlStreamReader &reader, MvCalendarEventFotoFinder fotos);
+
     /// One line for each, at most so many, then how many more there are.
     static QString describe(const QList<Skipped> &skipped, int most);
 
@@ -55,4 +63,8 @@ public:
 
     /// The whole file: UTF-8, indented by 2, groups, then the valid entries in order.
     static QByteArray toBytes(const MvCalendarEventList &events);
+    /// The same without the file's first line, as part of a document: photos below the folder are relative to it.
+    static QByteArray toBytesWithin(const MvCalendarEventList &events, const QDir &folder);
+    /// The element of a list: "CalendarEvents".
+    static QString elementName();
 };

@@ -31,6 +31,16 @@ MvCalendarEventFotoFinder::MvCalendarEventFotoFinder(const QFileInfo &list)
         m_listFolder = folder;
 }
 
+MvCalendarEventFotoFinder MvCalendarEventFotoFinder::besideDocument(const QDir &folder)
+{
+    MvCalendarEventFotoFinder finder;
+    finder.m_isOneOfMany = true;
+    finder.m_isOwn = false;
+    finder.m_isOfDocument = true;
+    finder.m_listFolder = folder;
+    return finder;
+}
+
 MvFoto MvCalendarEventFotoFinder::find(const QString &text)
 {
     if (text.isEmpty())
@@ -62,7 +72,7 @@ QString MvCalendarEventFotoFinder::foundPath(const QString &text)
     const bool isRelative = QDir::isRelativePath(text);
     if (!m_isOwn && isRelative) {
         const QString beside = QDir::cleanPath(m_listFolder.absoluteFilePath(text));
-        if (QFileInfo::exists(beside))
+        if (m_isOfDocument || QFileInfo::exists(beside))
             return beside;
     }
     const QString path = ownPath(text);

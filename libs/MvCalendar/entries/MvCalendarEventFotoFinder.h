@@ -22,6 +22,9 @@ public:
     MvCalendarEventFotoFinder() = default;
     /// For entries of a file. It is one of the user's own, such as a backup, when it lies in the user's folder.
     explicit MvCalendarEventFotoFinder(const QFileInfo &list);
+    /// For entries that belong to a document in the folder: a relative path counts from there, whether or not the photo
+    /// is there just now.
+    static MvCalendarEventFotoFinder besideDocument(const QDir &folder);
 
     /// The photo of a text in a list; none when it is empty.
     ///
@@ -37,6 +40,7 @@ private:
     bool isPlainFoto(const QString &path);
 
     bool m_isOwn = true;
+    bool m_isOfDocument = false;
     QDir m_listFolder; // of a list from elsewhere
     QDir m_fotoFolder; // asked for with the first photo
     bool m_hasFolder = false;

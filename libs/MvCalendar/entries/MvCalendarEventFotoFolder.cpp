@@ -31,6 +31,10 @@ QDir presentFolder() // it may not exist
 class Fotos
 {
 public:
+    explicit Fotos(const MvCalendarEventFotoFolder::StaysThere &staysThere)
+        : m_staysThere(staysThere)
+    {}
+
     /// Whether the photo is to be copied.
     bool isElsewhere(const MvFoto &foto)
     {
@@ -40,7 +44,7 @@ public:
         const bool isInFolder = path.startsWith(folder()) && path.indexOf(u'/', folder().size()) < 0;
         if (isInFolder && m_inBin.contains(path.mid(folder().size())))
             MvCalendarEventFotoFolder::fetchBack(foto);
-        return !isInFolder && QFileInfo(path).isFile();
+        return !isInFolder && !(m_staysThere && m_staysThere(path)) && QFileInfo(path).isFile();
     }
 
 private:
@@ -55,12 +59,13 @@ private:
         return m_folder;
     }
 
+    const MvCalendarEventFotoFolder::StaysThere &m_staysThere;
     QString m_folder;
     QSet<QString> m_inBin;
 };
 
 /// Everything that may be a list of entries of the user's: the file itself, backups, what was set aside, copies of a
-/// writing that was not finished.
+/// writing that was not finished, calendars that were not saved.
 QFileInfoList userFiles()
 {
     const QDir folder = MvDirectoryConfig::instance().programDataDir();
@@ -68,6 +73,9 @@ QFileInfoList userFiles()
     QDirIterator unfinished(folder.filePath(u"unfinished"_s), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (unfinished.hasNext())
         files.append(unfinished.nextFileInfo());
+    const QFileInfoList unsaved =
+        QDir(folder.filePath(u"recovery"_s)).entryInfoList({u"*.mvcalendar"_s}, QDir::Files | QDir::Hidden);
+    files += unsaved;
     const QString place = folder.filePath(u"calendarEvents.xml"_s);
     const QSet<QString> places{place, QFileInfo(place).canonicalFilePath()}; // a link has its backups at its target
     for (const QString &file : places) {
@@ -98,9 +106,10 @@ bool MvCalendarEventFotoFolder::isKnown(const Source &source) const
     return known != m_outcomes->cend() && known->isOk() && known->foto.localFileInfo().isFile();
 }
 
-MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEventList &events)
+MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEventList &events,
+                                                             const StaysThere &staysThere)
 {
-    Fotos list;
+    Fotos list(staysThere);
     MvCalendarEventList own = events;
     QStringList errors;
     bool hasFailed = false;
@@ -127,9 +136,9 @@ MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEve
 }
 
 void MvCalendarEventFotoFolder::prepare(const MvCalendarEventList &events, QObject *receiver,
-                                        const std::function<void()> &use)
+                                        const std::function<void()> &use, const StaysThere &staysThere)
 {
-    Fotos list;
+    Fotos list(staysThere);
     QHash<Source, MvFoto> fotos;
     for (const MvCalendarEvent &event : events) {
         if (!list.isElsewhere(event.foto()))

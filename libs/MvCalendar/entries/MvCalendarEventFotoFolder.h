@@ -21,17 +21,22 @@ class QObject;
 class MVCALENDAR_EXPORT MvCalendarEventFotoFolder
 {
 public:
+    /// Of a photo's path.
+    using StaysThere = std::function<bool(const QString &path)>;
+
     /// This program uses the photo folder as long as the object lives.
     MvCalendarEventFotoFolder();
 
     /// The list with copies in the photo folder in place of photos that lie elsewhere, such as those that came with a
     /// list from somebody else. Each is copied once, as long as file and copy stay as they are. A photo that cannot be
     /// copied stays what it was, and the user is told once. Photos of the folder that are in its bin are fetched back.
-    MvCalendarEventList withOwnCopies(const MvCalendarEventList &events);
+    /// Photos that `staysThere` says so of are left where they are.
+    MvCalendarEventList withOwnCopies(const MvCalendarEventList &events, const StaysThere &staysThere = {});
 
     /// Calls when withOwnCopies() would not have to decode photos any more: makes the copies in the background. At
     /// once when there is nothing to copy; not at all when the receiver is gone by then.
-    void prepare(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);
+    void prepare(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use,
+                 const StaysThere &staysThere = {});
 
     /// Moves the photos that no entry of the list uses from the photo folder into its bin.
     static void removeAllBut(const MvCalendarEventList &events);

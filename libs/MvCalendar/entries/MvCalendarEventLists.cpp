@@ -3,6 +3,16 @@
 
 #include <utility>
 
+struct MvCalendarEventLists::Work
+{
+    explicit Work(const MvCalendarEventList &events)
+        : list(events)
+    {}
+
+    MvCalendarEventWorkList list;
+    bool isNewer = false; // m_lists does not have it yet
+};
+
 MvCalendarEventLists::MvCalendarEventLists(const MvProjectIdentifier &active)
     : m_active(active)
 {
@@ -13,8 +23,8 @@ MvCalendarEventLists::~MvCalendarEventLists() = default;
 
 void MvCalendarEventLists::setActive(const MvProjectIdentifier &project)
 {
-    finishWork();
-    m_work.reset();
+    finishAllWork();
+    m_works.clear();
     m_active = project;
     if (!contains(project))
         m_lists.insert(project, {});
@@ -22,7 +32,7 @@ void MvCalendarEventLists::setActive(const MvProjectIdentifier &project)
 
 const MvCalendarEventIndex *MvCalendarEventLists::index(const MvProjectIdentifier &project) const
 {
-    finishWork();
+    finishWork(project);
     const auto found = m_lists.constFind(project);
     return found == m_lists.cend() ? nullptr : &*found;
 }
@@ -35,45 +45,76 @@ MvCalendarEventList MvCalendarEventLists::events(const MvProjectIdentifier &proj
 
 void MvCalendarEventLists::store(const MvProjectIdentifier &project, const MvCalendarEventList &events)
 {
-    if (project == m_active) {
-        finishWork();
-        if (m_lists.value(project).events().isSame(events))
-            return; // what it is already, in both forms
-        m_work.reset();
-    }
+    finishWork(project);
+    const auto found = m_lists.constFind(project);
+    if (found != m_lists.cend() && found->events().isSame(events))
+        return; // what it is already, in both forms
+    m_works.remove(project);
     m_lists.insert(project, MvCalendarEventIndex(events));
 }
 
-MvCalendarEventWorkList &MvCalendarEventLists::work() const
+void MvCalendarEventLists::remove(const MvProjectIdentifier &project)
 {
-    if (!m_work)
-        m_work = std::make_unique<MvCalendarEventWorkList>(activeEvents());
-    return *m_work;
+    if (project == m_active)
+        return;
+    m_works.remove(project);
+    m_lists.remove(project);
 }
 
-void MvCalendarEventLists::finishWork() const
+MvCalendarEventLists::Work &MvCalendarEventLists::work(const MvProjectIdentifier &project) const
 {
-    if (std::exchange(m_isWorkNewer, false))
-        m_lists.insert(m_active, MvCalendarEventIndex(m_work->events()));
+    std::shared_ptr<Work> &work = m_works[project];
+    if (!work)
+        work = std::make_shared<Work>(m_lists.value(project).events());
+    return *work;
 }
 
-bool MvCalendarEventLists::change(const MvCalendarEvent &before, const MvCalendarEvent &after)
+void MvCalendarEventLists::finishWork(const MvProjectIdentifier &project) const
 {
-    if (!work().change(before, after))
+    const std::shared_ptr<Work> work = m_works.value(project);
+    if (work && std::exchange(work->isNewer, false))
+        m_lists.insert(project, MvCalendarEventIndex(work->list.events()));
+}
+
+void MvCalendarEventLists::finishAllWork() const
+{
+    const QList<MvProjectIdentifier> projects = m_works.keys();
+    for (const MvProjectIdentifier &project : projects)
+        finishWork(project);
+}
+
+bool MvCalendarEventLists::change(const MvProjectIdentifier &project, const MvCalendarEvent &before,
+                                  const MvCalendarEvent &after)
+{
+    Work &changed = work(project);
+    if (!changed.list.change(before, after))
         return false;
-    m_isWorkNewer = true;
+    changed.isNewer = true;
     return true;
 }
 
-void MvCalendarEventLists::insert(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place)
+void MvCalendarEventLists::insert(const MvProjectIdentifier &project, const MvCalendarEvent &event,
+                                  const MvCalendarEventWorkList::Place &place)
 {
-    work().insert(event, place);
-    m_isWorkNewer = true;
+    Work &changed = work(project);
+    changed.list.insert(event, place);
+    changed.isNewer = true;
+}
+
+MvCalendarEvent MvCalendarEventLists::present(const MvProjectIdentifier &project, const MvCalendarEvent &event) const
+{
+    return work(project).list.present(event);
+}
+
+MvCalendarEventWorkList::Place MvCalendarEventLists::placeOf(const MvProjectIdentifier &project,
+                                                             const MvCalendarEvent &event) const
+{
+    return work(project).list.placeOf(event);
 }
 
 QSet<QString> MvCalendarEventLists::fotoNames() const
 {
-    finishWork();
+    finishAllWork();
     QSet<QString> names;
     for (const MvCalendarEventIndex &list : std::as_const(m_lists)) {
         for (const MvCalendarEvent &event : list.events())

@@ -15,8 +15,8 @@
 
 /// The lists of entries in memory: one per document, one of them active. Knows nothing of files and tells nobody.
 ///
-/// Each list is kept by day, for pages, and the active one also by entry once something in it changes, for edits.
-/// Either form is made from the other when it is asked for.
+/// Each list is kept by day, for pages, and one that is being changed also by entry, for edits. Either form is made
+/// from the other when it is asked for.
 class MVCALENDAR_EXPORT MvCalendarEventLists
 {
 public:
@@ -35,23 +35,28 @@ public:
     MvCalendarEventList activeEvents() const { return events(m_active); }
     /// Replaces a document's list.
     void store(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    /// Removes a document's list; not the active one.
+    void remove(const MvProjectIdentifier &project);
 
-    // of the active list, as MvCalendarEventWorkList does it
-    bool change(const MvCalendarEvent &before, const MvCalendarEvent &after);
-    void insert(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place);
-    MvCalendarEvent present(const MvCalendarEvent &event) const { return work().present(event); }
-    MvCalendarEventWorkList::Place placeOf(const MvCalendarEvent &event) const { return work().placeOf(event); }
+    // of a document's list, as MvCalendarEventWorkList does it
+    bool change(const MvProjectIdentifier &project, const MvCalendarEvent &before, const MvCalendarEvent &after);
+    void insert(const MvProjectIdentifier &project, const MvCalendarEvent &event,
+                const MvCalendarEventWorkList::Place &place);
+    MvCalendarEvent present(const MvProjectIdentifier &project, const MvCalendarEvent &event) const;
+    MvCalendarEventWorkList::Place placeOf(const MvProjectIdentifier &project, const MvCalendarEvent &event) const;
 
     /// The names of the files of all photos, of all lists.
     QSet<QString> fotoNames() const;
 
 private:
-    MvCalendarEventWorkList &work() const;
-    void finishWork() const;
+    struct Work;
+
+    Work &work(const MvProjectIdentifier &project) const;
+    void finishWork(const MvProjectIdentifier &project) const;
+    void finishAllWork() const;
 
     MvProjectIdentifier m_active;
-    // two forms of the same lists; only change(), insert(), store() and setActive() change what they say
+    // two forms of the same lists; only change(), insert(), store() and remove() change what they say
     mutable QHash<MvProjectIdentifier, MvCalendarEventIndex> m_lists;
-    mutable std::unique_ptr<MvCalendarEventWorkList> m_work; // the active list
-    mutable bool m_isWorkNewer = false;                      // m_lists does not have it yet
+    mutable QHash<MvProjectIdentifier, std::shared_ptr<Work>> m_works; // of lists that are being changed
 };

@@ -3,6 +3,8 @@
 
 #include "MvCalendar/MvCalendarEventContent.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QSet>
 
@@ -17,6 +19,16 @@ using Content = MvCalendarEventContent;
 bool isSame(const MvCalendarEvent &a, const MvCalendarEvent &b)
 {
     return Content(a, Content::everything) == Content(b, Content::everything);
+}
+
+/// The same entry, if its photo may be another file with the same content.
+bool isSameButForFile(const MvCalendarEvent &a, const MvCalendarEvent &b)
+{
+    if (!MvCalendarEventMerge::isSameFoto(a.foto(), b.foto()))
+        return false;
+    MvCalendarEvent moved = a;
+    moved.relocateFoto(b.foto());
+    return isSame(moved, b);
 }
 
 /// The uuids that do not identify a single entry: the null uuid, and those shared by a series.
@@ -325,6 +337,32 @@ MvCalendarEventList MvCalendarEventMerge::threeWay(const MvCalendarEventList &ba
     return ThreeWay(base, mine, theirs, theirsIsWhole).result();
 }
 
+QList<MvCalendarEventMerge::Difference> MvCalendarEventMerge::differences(const MvCalendarEventList &here,
+                                                                          const MvCalendarEventList &there)
+{
+    SharedUuids shared;
+    shared.addFrom(here);
+    shared.addFrom(there);
+    const Pairing pairing(here, there, shared);
+    QHash<Content, int> unpaired; // of the other list, by what they say: lists without uuids get new ones
+    for (qsizetype i = 0; i < there.size(); ++i) {
+        if (pairing.toFirst(i) < 0)
+            ++unpaired[Content(there.at(i), Content::Name | Content::Date)];
+    }
+    QList<Difference> differences;
+    for (qsizetype i = 0; i < here.size(); ++i) {
+        const MvCalendarEvent &event = here.at(i);
+        const qsizetype partner = pairing.toSecond(i);
+        if (partner < 0 && unpaired.value(Content(event, Content::Name | Content::Date)) > 0)
+            --unpaired[Content(event, Content::Name | Content::Date)];
+        else if (partner < 0)
+            differences.append({event, {}});
+        else if (!isSameButForFile(event, there.at(partner)))
+            differences.append({event, there.at(partner)});
+    }
+    return differences;
+}
+
 MvCalendarEvent MvCalendarEventMerge::successor(const MvCalendarEvent &event, const MvCalendarEventList &before,
                                                 const MvCalendarEventList &after)
 {
@@ -339,6 +377,19 @@ MvCalendarEvent MvCalendarEventMerge::successor(const MvCalendarEvent &event, co
     shared.addFrom(after);
     const qsizetype there = Pairing(before, after, shared).toSecond(found - before.cbegin());
     return there < 0 ? MvCalendarEvent() : after.at(there);
+}
+
+bool MvCalendarEventMerge::isSameFoto(const MvFoto &a, const MvFoto &b)
+{
+    if (a == b)
+        return true;
+    if (!a.isValid() || !b.isValid() || !a.mayBeOpened() || !b.mayBeOpened())
+        return false;
+    QFile first(a.localFilePath());
+    QFile second(b.localFilePath());
+    const QFileInfo info(first);
+    return info.isFile() && QFileInfo(second).isFile() && info.size() == second.size() &&
+           first.open(QIODevice::ReadOnly) && second.open(QIODevice::ReadOnly) && first.readAll() == second.readAll();
 }
 
 MvCalendarEventList MvCalendarEventMerge::withoutRepetitions(const MvCalendarEventList &events)

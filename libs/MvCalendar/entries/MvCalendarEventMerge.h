@@ -4,6 +4,8 @@
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
+#include <QList>
+
 /// Putting lists of entries together.
 class MVCALENDAR_EXPORT MvCalendarEventMerge
 {
@@ -23,9 +25,22 @@ public:
     static MvCalendarEventList threeWay(const MvCalendarEventList &base, const MvCalendarEventList &mine,
                                         const MvCalendarEventList &theirs, bool theirsIsWhole = true);
 
+    /// An entry of one list, and what is in its place in the other one: invalid where there is none.
+    struct Difference
+    {
+        MvCalendarEvent here;
+        MvCalendarEvent there;
+    };
+    /// The entries of `here` that `there` lacks or has otherwise, in order, paired by the same rules. Photos in two
+    /// files with the same content are equal.
+    static QList<Difference> differences(const MvCalendarEventList &here, const MvCalendarEventList &there);
+
     /// What has become of an entry of `before` in `after`, by the same rules; invalid when it is gone.
     static MvCalendarEvent successor(const MvCalendarEvent &event, const MvCalendarEventList &before,
                                      const MvCalendarEventList &after);
+
+    /// The same photo: one file, or two with the same content.
+    static bool isSameFoto(const MvFoto &a, const MvFoto &b);
 
     /// Each of the entries that a file cannot tell apart once, as reading it gives them.
     static MvCalendarEventList withoutRepetitions(const MvCalendarEventList &events);

@@ -7,6 +7,7 @@
 #include "MvCalendar/MvCalendarEventFotoFolder.h"
 #include "MvCalendar/MvCalendarEventLists.h"
 #include "MvCalendar/MvCalendarEventMerge.h"
+#include "MvCalendar/MvCalendarEventProjectStore.h"
 #include "MvCalendar/MvCalendarEventStore.h"
 
 #include "MvCore/MvLogger.h"
@@ -141,8 +142,8 @@ QImage MvCalendarEventRegistry::eventImage(const MvCalendariumContentKey &key, c
 /// What the user's file contains when it is read.
 void MvCalendarEventRegistry::replaceEvents(const MvCalendarEventList &events)
 {
-    if (m_openChanges > 0 && m_keptProject == activeModelId()) {
-        m_lists->store(m_keptProject, MvCalendarEventMerge::threeWay(m_beforeChanges, activeEventList(), events));
+    if (m_openChanges > 0 && m_keptProject == listOf(List::Own)) {
+        m_lists->store(m_keptProject, MvCalendarEventMerge::threeWay(m_beforeChanges, ownEvents(), events));
         m_beforeChanges = events;
     } else {
         m_lists->store(m_keptProject, events);
@@ -175,65 +176,133 @@ MvCalendarEventList MvCalendarEventRegistry::eventsOfProject(const MvProjectIden
     return m_lists->events(project);
 }
 
+// ---- lists that are kept with their documents
+
+void MvCalendarEventRegistry::installProjectStore(MvCalendarEventProjectStore *store)
+{
+    m_projectStore = store;
+}
+
+bool MvCalendarEventRegistry::isKeptByStore(const MvProjectIdentifier &project) const
+{
+    return m_projectStore && m_projectStore->keeps(project);
+}
+
+bool MvCalendarEventRegistry::isKeptWithProject() const
+{
+    return isKeptByStore(activeModelId());
+}
+
+MvProjectIdentifier MvCalendarEventRegistry::listOf(List list) const
+{
+    return list == List::Own && isKeptWithProject() ? DEFAULT_PROJECT_ID : activeModelId();
+}
+
+void MvCalendarEventRegistry::takeList(const MvProjectIdentifier &project, const MvCalendarEventList &events)
+{
+    m_lists->store(project, events);
+}
+
+void MvCalendarEventRegistry::forgetList(const MvProjectIdentifier &project)
+{
+    m_lists->remove(project);
+}
+
+// ---- changing
+
 void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
 {
+    setList(activeModelId(), events);
+}
+
+void MvCalendarEventRegistry::setOwnEvents(const MvCalendarEventList &events)
+{
+    setList(listOf(List::Own), events);
+}
+
+void MvCalendarEventRegistry::setList(const MvProjectIdentifier &project, const MvCalendarEventList &events)
+{
     if (m_openChanges > 0) {
-        m_lists->store(activeModelId(), validOnly(events));
-        m_hasOpenChanges = true;
+        m_lists->store(project, validOnly(events));
+        if (!m_openlyChanged.contains(project))
+            m_openlyChanged.append(project);
         return;
     }
-    const MvCalendarEventList own = m_fotos->withOwnCopies(validOnly(events));
-    m_keptProject = activeModelId();
-    m_userFile->keep(own, [this](const MvCalendarEventList &all) { m_lists->store(m_keptProject, all); });
+    keepList(project, validOnly(events));
     Q_EMIT eventsChanged();
+}
+
+/// The list goes where it is kept, and its photos with it.
+void MvCalendarEventRegistry::keepList(const MvProjectIdentifier &project, const MvCalendarEventList &events)
+{
+    if (isKeptByStore(project)) {
+        const auto staysThere = [this](const QString &path) { return m_projectStore->holdsFoto(path); };
+        m_lists->store(project, m_fotos->withOwnCopies(events, staysThere));
+        m_projectStore->listChanged(project);
+        return;
+    }
+    m_keptProject = project;
+    m_userFile->keep(m_fotos->withOwnCopies(events),
+                     [this](const MvCalendarEventList &all) { m_lists->store(m_keptProject, all); });
 }
 
 bool MvCalendarEventRegistry::changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after)
 {
-    if (before == after || !m_lists->change(before, after))
+    return changeEvent(before, after, List::Active);
+}
+
+bool MvCalendarEventRegistry::changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after, List list)
+{
+    const MvProjectIdentifier project = listOf(list);
+    if (before == after || !m_lists->change(project, before, after))
         return false;
-    takeWork();
+    takeWork(project);
     return true;
 }
 
-bool MvCalendarEventRegistry::insertEvent(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place)
+bool MvCalendarEventRegistry::insertEvent(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place,
+                                          List list)
 {
     if (!event.isValid())
         return false;
-    m_lists->insert(event, place);
-    takeWork();
+    const MvProjectIdentifier project = listOf(list);
+    m_lists->insert(project, event, place);
+    takeWork(project);
     return true;
 }
 
-MvCalendarEvent MvCalendarEventRegistry::presentEvent(const MvCalendarEvent &event) const
+MvCalendarEvent MvCalendarEventRegistry::presentEvent(const MvCalendarEvent &event, List list) const
 {
-    return m_lists->present(event);
+    return m_lists->present(listOf(list), event);
 }
 
-MvCalendarEventWorkList::Place MvCalendarEventRegistry::placeOfEvent(const MvCalendarEvent &event) const
+MvCalendarEventWorkList::Place MvCalendarEventRegistry::placeOfEvent(const MvCalendarEvent &event, List list) const
 {
-    return m_lists->placeOf(event);
+    return m_lists->placeOf(listOf(list), event);
 }
 
 /// One entry has changed: what follows from that happens now, or at the end of many changes.
-void MvCalendarEventRegistry::takeWork()
+void MvCalendarEventRegistry::takeWork(const MvProjectIdentifier &project)
 {
-    if (m_openChanges > 0)
-        m_hasOpenChanges = true;
-    else
-        setEvents(activeEventList());
+    if (m_openChanges == 0)
+        setList(project, eventsOfProject(project));
+    else if (!m_openlyChanged.contains(project))
+        m_openlyChanged.append(project);
 }
 
 void MvCalendarEventRegistry::beginChanges()
 {
     if (m_openChanges++ == 0)
-        m_beforeChanges = activeEventList();
+        m_beforeChanges = ownEvents();
 }
 
 void MvCalendarEventRegistry::endChanges()
 {
-    if (m_openChanges > 0 && --m_openChanges == 0 && std::exchange(m_hasOpenChanges, false))
-        setEvents(activeEventList());
+    if (m_openChanges == 0 || --m_openChanges > 0 || m_openlyChanged.isEmpty())
+        return;
+    for (const MvProjectIdentifier &project : std::exchange(m_openlyChanged, {}))
+        keepList(project, validOnly(eventsOfProject(project)));
+    Q_EMIT eventsChanged();
 }
 
 MvCalendarEventList MvCalendarEventRegistry::mergeLists(const MvCalendarEventList &base,
@@ -274,7 +343,8 @@ bool MvCalendarEventRegistry::loadFrom(const QFileInfo &file, bool merge)
 {
     MvLogger::legacyLog(u"CalendarEvents ACTION:loadFromFileOnStartup MERGE:%1"_s.arg(merge ? u"set"_s : u"unset"_s));
     const bool isUserFile = m_userFile->isFile(file);
-    const MvCalendarEventList present = activeEventList();
+    const MvProjectIdentifier project = listOf(isUserFile ? List::Own : List::Active);
+    const MvCalendarEventList present = eventsOfProject(project);
     const MvCalendarEventFile::Content content =
         isUserFile ? m_userFile->read(merge || present.isEmpty()) : MvCalendarEventFile::read(file);
     if (!content.isRead()) {
@@ -285,9 +355,11 @@ bool MvCalendarEventRegistry::loadFrom(const QFileInfo &file, bool merge)
     const MvCalendarEventList events =
         merge ? mergeLists({}, content.events, true) : mergeLists(present, content.events, true);
     if (isUserFile)
-        m_keptProject = activeModelId();
+        m_keptProject = project;
     if (!events.isEmpty()) {
-        m_lists->store(activeModelId(), events);
+        m_lists->store(project, events);
+        if (isKeptByStore(project))
+            m_projectStore->listChanged(project);
         Q_EMIT eventsChanged();
     }
     return true;
@@ -297,15 +369,25 @@ bool MvCalendarEventRegistry::loadFrom(const QFileInfo &file, bool merge)
 
 void MvCalendarEventRegistry::save() const
 {
-    saveAs(calendarEventsDir());
+    m_userFile->keep(m_fotos->withOwnCopies(ownEvents()), {});
 }
 
 void MvCalendarEventRegistry::saveAs(const QFileInfo &file) const
 {
-    if (m_userFile->isFile(file))
-        m_userFile->keep(m_fotos->withOwnCopies(activeEventList()), {});
-    else
+    if (!m_userFile->isFile(file)) {
         m_userFile->writeElsewhere(file, activeEventList());
+    } else if (!isKeptWithProject()) {
+        save();
+    } else {
+        const MvCalendarEventList joined = mergeLists(ownEvents(), activeEventList(), true);
+        m_userFile->keep(m_fotos->withOwnCopies(joined),
+                         [this](const MvCalendarEventList &all) { m_lists->store(DEFAULT_PROJECT_ID, all); });
+    }
+}
+
+void MvCalendarEventRegistry::saveOwnAs(const QFileInfo &file) const
+{
+    m_userFile->writeElsewhere(file, ownEvents());
 }
 
 QString MvCalendarEventRegistry::lastSaveError() const
@@ -328,12 +410,15 @@ void MvCalendarEventRegistry::playImportedCustomerEntriesProactiveAdvice(int fou
 void MvCalendarEventRegistry::prepareFotos(const MvCalendarEventList &events, QObject *receiver,
                                            const std::function<void()> &use)
 {
-    m_fotos->prepare(events, receiver, use);
+    m_fotos->prepare(events, receiver, use,
+                     [this](const QString &path) { return isKeptWithProject() && m_projectStore->holdsFoto(path); });
 }
 
 void MvCalendarEventRegistry::cleanupImageDirectory() const
 {
-    const MvCalendarEventList events = m_userFile->withChangesOfOthers(activeEventList());
+    MvCalendarEventList events = m_userFile->withChangesOfOthers(ownEvents());
+    if (isKeptWithProject())
+        events += activeEventList();
     if (m_userFile->isWhole())
         MvCalendarEventFotoFolder::removeAllBut(events);
 }

@@ -12,6 +12,7 @@
 #include <QDomDocument>
 #include <QDomElement>
 #include <QFileInfo>
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -20,6 +21,7 @@
 class MvCalendarEventDay;
 class MvCalendarEventFotoFolder;
 class MvCalendarEventLists;
+class MvCalendarEventProjectStore;
 class MvCalendarEventRegistry;
 class MvCalendarEventStore;
 class MvUndoController;
@@ -31,6 +33,10 @@ MVCALENDAR_EXPORT extern const MvProjectIdentifier DEFAULT_PROJECT_ID;
 /// The user's personal entries: one list per document, one of them active. The active one is shown, edited and kept in
 /// the user's file, which is written at once after every change.
 ///
+/// In a program that installs a store for the lists of documents (installProjectStore()), those are kept with their
+/// documents. The user's file then holds the user's own list alone, the default one: the entries before any document
+/// is opened, from which new documents start, and which takes what somebody wants to have there, too.
+///
 /// This is where the parts meet, and what tells that something has changed: MvCalendarEventLists holds the lists,
 /// MvCalendarEventStore knows what happens between the active one and the file and what a person must know about that
 /// (userFile()), MvCalendarEventFotoFolder has the photos copied. To be used from the GUI thread.
@@ -41,6 +47,9 @@ class MVCALENDAR_EXPORT MvCalendarEventRegistry : public MvAbstractHolidayCache,
     Q_OBJECT
 
 public:
+    /// The active list, or that of the user's file; often they are one.
+    enum class List { Active, Own };
+
     /// The entries of the user's file, changed by steps of MvUndoController::instance().
     MvCalendarEventRegistry();
     /// Entries that begin empty and live in memory only, changed by steps of the controller; see MvSession.
@@ -80,6 +89,27 @@ public:
     MvCalendarEventList activeEventList() const { return eventsOfProject(activeModelId()); }
     MvCalendarEventList eventsOfCurrentProject() const { return activeEventList(); }
 
+    // ---- lists that are kept with their documents
+
+    /// From now on the store keeps the lists of its documents; null, as at first: all of them go to the user's file
+    /// when they are active. Not owned; whoever installs one removes it before it goes.
+    void installProjectStore(MvCalendarEventProjectStore *store);
+    /// The active list is kept with its document.
+    bool isKeptWithProject() const;
+    /// Gives a document its list as it was read. Nothing is saved or signalled; setActiveModelId() follows.
+    void takeList(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    /// The document is closed; nothing for the active one.
+    void forgetList(const MvProjectIdentifier &project);
+    /// The list of the user's file: the active one, unless that is kept with its document.
+    MvCalendarEventList ownEvents() const { return eventsOfProject(listOf(List::Own)); }
+    /// Replaces that list by the valid entries of the list and saves it, as setEvents() does with the active one.
+    void setOwnEvents(const MvCalendarEventList &events);
+    /// Whether steps that change a list kept with its document change the user's own list, too; off at first.
+    void setChangesReachOwn(bool reach) { m_doChangesReachOwn = reach; }
+    bool doChangesReachOwn() const { return m_doChangesReachOwn && isKeptWithProject(); }
+
+    // ---- changing
+
     /// Replaces the active list by the valid entries of the list and saves it. Photos that came with an imported file
     /// are copied into the photo folder.
     void setEvents(const MvCalendarEventList &events);
@@ -88,13 +118,15 @@ public:
     void prepareFotos(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);
     /// Replaces an entry; an invalid `before` adds one, an invalid `after` removes one. Says whether anything changed.
     bool changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after);
+    bool changeEvent(const MvCalendarEvent &before, const MvCalendarEvent &after, List list);
     /// Adds an entry where one was removed, at the end when its neighbours are gone.
-    bool insertEvent(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place);
-    /// The very entry as it stands in the active list by now, even if another program has changed it since; invalid
-    /// when it is gone. See MvCalendarEventWorkList::present().
-    MvCalendarEvent presentEvent(const MvCalendarEvent &event) const;
-    /// Where it stands in the active list.
-    MvCalendarEventWorkList::Place placeOfEvent(const MvCalendarEvent &event) const;
+    bool insertEvent(const MvCalendarEvent &event, const MvCalendarEventWorkList::Place &place,
+                     List list = List::Active);
+    /// The very entry as it stands in the list by now, even if another program has changed it since; invalid when it
+    /// is gone. See MvCalendarEventWorkList::present().
+    MvCalendarEvent presentEvent(const MvCalendarEvent &event, List list = List::Active) const;
+    /// Where it stands in the list.
+    MvCalendarEventWorkList::Place placeOfEvent(const MvCalendarEvent &event, List list = List::Active) const;
     /// Changes until the matching endChanges() are written and signalled once, there. May be nested. Many changes in
     /// between take time in proportion to their number.
     void beginChanges();
@@ -117,8 +149,13 @@ public:
     /// Reads a file into the active list. The flag works the other way round than its name says, which callers rely
     /// on: set, the file's entries replace the list; unset, those with unknown uuids are added.
     bool loadFrom(const QFileInfo &file, bool merge);
+    /// Writes the user's file. A list that is kept with its document is no part of that.
     void save() const;
+    /// Writes the active list to a file. The user's file only takes in what it lacks of a list that is kept with its
+    /// document.
     void saveAs(const QFileInfo &file) const;
+    /// Writes the list of the user's file to another file.
+    void saveOwnAs(const QFileInfo &file) const;
     /// Why the last saving failed, for a person; empty when it did not.
     QString lastSaveError() const;
 
@@ -127,9 +164,8 @@ public:
     /// Tells the user how many of the found birthdays are new.
     void playImportedCustomerEntriesProactiveAdvice(int foundInAddressBook, int imported) const;
 
-    /// Moves the photos that no entry of the active list uses out of the photo folder, into its bin
-    /// (MvFotoBin). Does nothing as long as the user's file could not be read: its entries are not known
-    /// then.
+    /// Moves the photos that no entry of the active list and of the user's file uses out of the photo folder, into its
+    /// bin (MvFotoBin). Does nothing as long as the user's file could not be read: its entries are not known then.
     void cleanupImageDirectory() const;
     /// Moves photos into the bin that nothing needs any more: no list here, no step that can be undone, no file of the
     /// user's, backups and set-aside ones among them, no other running program. Happens in the background, and only
@@ -143,7 +179,11 @@ private:
     MvCalendarEventRegistry(MvUndoController &undo, bool isUserFileKept);
 
     MvCalendarEventDay day(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project) const;
-    void takeWork();
+    MvProjectIdentifier listOf(List list) const;
+    bool isKeptByStore(const MvProjectIdentifier &project) const;
+    void setList(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    void keepList(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    void takeWork(const MvProjectIdentifier &project);
     void replaceEvents(const MvCalendarEventList &events);
     bool isQuiet() const;
 
@@ -151,8 +191,10 @@ private:
     std::unique_ptr<MvCalendarEventLists> m_lists;
     std::unique_ptr<MvCalendarEventFotoFolder> m_fotos;
     MvCalendarEventStore *m_userFile;
-    MvProjectIdentifier m_keptProject; // whose list was last handed to the user's file
-    int m_openChanges = 0;             // beginChanges() without endChanges()
-    bool m_hasOpenChanges = false;     // something has changed since
-    MvCalendarEventList m_beforeChanges;
+    MvCalendarEventProjectStore *m_projectStore = nullptr;
+    bool m_doChangesReachOwn = false;
+    MvProjectIdentifier m_keptProject;          // whose list was last handed to the user's file
+    int m_openChanges = 0;                      // beginChanges() without endChanges()
+    QList<MvProjectIdentifier> m_openlyChanged; // whose lists have changed since
+    MvCalendarEventList m_beforeChanges;        // that of the user's file
 };

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendarEventStep.h"
 
 #include "MvCalendar/MvCalendarEventContent.h"
+#include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 
 using namespace Qt::StringLiterals;
@@ -23,11 +24,11 @@ MvCalendarEvent stepFrom(const MvCalendarEvent &from, const MvCalendarEvent &to,
 } // namespace
 
 MvCalendarEventStep::MvCalendarEventStep(const MvCalendarEvent &before, const MvCalendarEvent &after,
-                                         MvSession &session)
+                                         MvSession &session, Reach reach)
     : MvUndoCommand(u"set calendar event from %1 to %2"_s.arg(before.description(), after.description()))
     , m_entries(session.entries())
-    , m_before(before)
-    , m_after(after)
+    , m_reachesOwn(reach == Reach::AsSet && m_entries.doChangesReachOwn())
+    , m_active{reach == Reach::OwnList ? List::Own : List::Active, before, after, {}}
 {
     setObsolete(before == after || (!before.isValid() && !after.isValid()));
 }
@@ -36,59 +37,26 @@ MvCalendarEventStep::~MvCalendarEventStep() = default;
 
 QString MvCalendarEventStep::visibleName() const
 {
-    if (!m_before.isValid())
+    if (!m_active.before.isValid())
         return tr("Eintrag anlegen");
-    return m_after.isValid() ? tr("Eintrag ändern") : tr("Eintrag löschen");
+    return m_active.after.isValid() ? tr("Eintrag ändern") : tr("Eintrag löschen");
 }
 
 void MvCalendarEventStep::doCoreAction()
 {
-    apply(m_before, m_after);
+    if (m_reachesOwn) // while both lists are as they were before
+        m_own = ownPart();
+    if (apply(m_active, m_active.before, m_active.after))
+        changed();
+    if (m_own)
+        apply(*m_own, m_own->before, m_own->after);
 }
 
 void MvCalendarEventStep::undoCore()
 {
-    apply(m_after, m_before);
-}
-
-/// Both become what they really were and are: an entry that another program has changed, or whose photo was copied, is
-/// found again on the way back.
-void MvCalendarEventStep::apply(MvCalendarEvent &from, MvCalendarEvent &to)
-{
-    if (!to.isValid()) {
-        remove(from);
-        return;
-    }
-    const MvCalendarEvent present = from.isValid() ? m_entries.presentEvent(from) : MvCalendarEvent();
-    if (!from.isValid()) {
-        add(to);
-    } else if (!present.isValid() || present == from) {
-        change(from, to);
-    } else {
-        to = stepFrom(from, to, present);
-        from = present;
-        change(from, to);
-    }
-    const MvCalendarEvent stored = m_entries.presentEvent(to);
-    if (stored.isValid())
-        to = stored;
-}
-
-void MvCalendarEventStep::remove(MvCalendarEvent &event)
-{
-    const MvCalendarEvent present = m_entries.presentEvent(event);
-    if (!present.isValid())
-        return;
-    event = present;
-    m_place = m_entries.placeOfEvent(event);
-    change(event, {});
-}
-
-void MvCalendarEventStep::add(const MvCalendarEvent &event)
-{
-    if (!m_place)
-        change({}, event);
-    else if (m_entries.insertEvent(event, *m_place))
+    if (m_own)
+        apply(*m_own, m_own->after, m_own->before);
+    if (apply(m_active, m_active.after, m_active.before))
         changed();
 }
 
@@ -96,4 +64,65 @@ void MvCalendarEventStep::change(const MvCalendarEvent &from, const MvCalendarEv
 {
     if (m_entries.changeEvent(from, to))
         changed();
+}
+
+/// The same step from what the user's list has of the entry; without any difference when there is nothing to do.
+MvCalendarEventStep::Part MvCalendarEventStep::ownPart() const
+{
+    const auto inOwn = [this](const MvCalendarEvent &event) {
+        return event.isValid() ? m_entries.presentEvent(event, List::Own) : MvCalendarEvent();
+    };
+    MvCalendarEvent before = m_active.before;
+    MvCalendarEvent after = m_active.after;
+    Part part{List::Own, inOwn(before), after, {}};
+    if (part.before.isValid() && after.isValid()) {
+        if (MvCalendarEventMerge::isSameFoto(before.foto(), part.before.foto())) { // another copy of it
+            if (after.foto() == before.foto())
+                after.relocateFoto(part.before.foto());
+            before.relocateFoto(part.before.foto());
+        }
+        part.after = stepFrom(before, after, part.before);
+    } else if (!part.before.isValid() && inOwn(after).isValid()) {
+        part.after = {}; // it is there
+    }
+    return part;
+}
+
+/// Both become what they really were and are: an entry that another program has changed, or whose photo was copied, is
+/// found again on the way back. Says whether the list has changed.
+bool MvCalendarEventStep::apply(Part &part, MvCalendarEvent &from, MvCalendarEvent &to)
+{
+    if (!to.isValid())
+        return remove(part, from);
+    const MvCalendarEvent present = from.isValid() ? m_entries.presentEvent(from, part.list) : MvCalendarEvent();
+    bool isChanged = false;
+    if (!from.isValid()) {
+        isChanged = add(part, to);
+    } else {
+        if (present.isValid() && !(present == from)) {
+            to = stepFrom(from, to, present);
+            from = present;
+        }
+        isChanged = m_entries.changeEvent(from, to, part.list);
+    }
+    const MvCalendarEvent stored = m_entries.presentEvent(to, part.list);
+    if (stored.isValid())
+        to = stored;
+    return isChanged;
+}
+
+bool MvCalendarEventStep::remove(Part &part, MvCalendarEvent &event)
+{
+    const MvCalendarEvent present = event.isValid() ? m_entries.presentEvent(event, part.list) : MvCalendarEvent();
+    if (!present.isValid())
+        return false;
+    event = present;
+    part.place = m_entries.placeOfEvent(event, part.list);
+    return m_entries.changeEvent(event, {}, part.list);
+}
+
+bool MvCalendarEventStep::add(const Part &part, const MvCalendarEvent &event)
+{
+    return part.place ? m_entries.insertEvent(event, *part.place, part.list)
+                      : m_entries.changeEvent({}, event, part.list);
 }

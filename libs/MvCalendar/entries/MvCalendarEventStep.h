@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventWorkList.h"
 #include "MvCalendar/MvSession.h"
 #include "MvCalendar/mvcalendar_export.h"
@@ -18,21 +19,29 @@
 /// and what comes back stands where it stood.
 ///
 /// It belongs to the list that is active when it is done; whoever makes another list the active one clears the undo
-/// stack.
+/// stack. Where changes are to reach the user's own list, too (MvCalendarEventRegistry::setChangesReachOwn()), the step
+/// does there what it does here, and takes it back there: an entry that the user's list has otherwise keeps what the
+/// step does not change, one that it lacks is added.
 class MVCALENDAR_EXPORT MvCalendarEventStep : public MvUndoCommand
 {
     Q_DECLARE_TR_FUNCTIONS(MvCalendarEventStep)
 
 public:
+    enum class Reach {
+        AsSet,      ///< the user's own list, too, when changes are to reach it at that moment
+        ActiveList, ///< nothing else
+        OwnList     ///< the user's own list alone
+    };
+
     MvCalendarEventStep(const MvCalendarEvent &before, const MvCalendarEvent &after,
-                        MvSession &session = MvSession::defaultSession());
+                        MvSession &session = MvSession::defaultSession(), Reach reach = Reach::AsSet);
     ~MvCalendarEventStep() override;
 
     QString visibleName() const override;
     void doCoreAction() override;
     void undoCore() override;
 
-    /// Changes the entry in the list; changed() follows when that made a difference.
+    /// Changes the entry in the active list; changed() follows when that made a difference.
     void change(const MvCalendarEvent &from, const MvCalendarEvent &to);
 
 protected:
@@ -40,12 +49,24 @@ protected:
     virtual void changed() {}
 
 private:
-    void apply(MvCalendarEvent &from, MvCalendarEvent &to);
-    void remove(MvCalendarEvent &event);
-    void add(const MvCalendarEvent &event);
+    using List = MvCalendarEventRegistry::List;
+
+    /// What the step does in one list.
+    struct Part
+    {
+        List list;
+        MvCalendarEvent before;
+        MvCalendarEvent after;
+        std::optional<MvCalendarEventWorkList::Place> place; // of the entry, once it was removed
+    };
+
+    bool apply(Part &part, MvCalendarEvent &from, MvCalendarEvent &to);
+    bool remove(Part &part, MvCalendarEvent &event);
+    bool add(const Part &part, const MvCalendarEvent &event);
+    Part ownPart() const;
 
     MvCalendarEventRegistry &m_entries;
-    MvCalendarEvent m_before;
-    MvCalendarEvent m_after;
-    std::optional<MvCalendarEventWorkList::Place> m_place; // of the entry, once it was removed
+    bool m_reachesOwn;
+    Part m_active;
+    std::optional<Part> m_own; // since it was done
 };

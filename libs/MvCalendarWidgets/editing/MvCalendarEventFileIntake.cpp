@@ -62,24 +62,41 @@ int missingIn(const MvCalendarEventList &read, const MvCalendarEventList &presen
                              [&known](const MvCalendarEvent &event) { return !known.contains(event); }));
 }
 
+QString replaceText(const QString &name, bool isEmpty, int present, bool isKeptWithProject)
+{
+    if (isKeptWithProject && isEmpty)
+        return MvCalendarEventFileIntake::tr(
+                   "„%1“ ist eine leere Liste. Die %n Einträge dieses Kalenders dennoch durch sie ersetzen?", nullptr,
+                   present)
+            .arg(name);
+    if (isKeptWithProject)
+        return MvCalendarEventFileIntake::tr("Die %n Einträge dieses Kalenders durch die aus „%1“ ersetzen?", nullptr,
+                                             present)
+            .arg(name);
+    if (isEmpty)
+        return MvCalendarEventFileIntake::tr("„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?",
+                                             nullptr, present)
+            .arg(name);
+    return MvCalendarEventFileIntake::tr("Ihre %n Einträge durch die aus „%1“ ersetzen?", nullptr, present).arg(name);
+}
+
 MvRequestHandler::ChoiceRequest replaceQuestion(const QString &name, const Content &content, qsizetype present,
-                                                int missing)
+                                                int missing, bool isKeptWithProject)
 {
     MvRequestHandler::ChoiceRequest question;
-    question.text =
-        content.events.isEmpty()
-            ? MvCalendarEventFileIntake::tr("„%1“ ist eine leere Liste. Ihre %n Einträge dennoch durch sie ersetzen?",
-                                            nullptr, int(present))
-                  .arg(name)
-            : MvCalendarEventFileIntake::tr("Ihre %n Einträge durch die aus „%1“ ersetzen?", nullptr, int(present))
-                  .arg(name);
+    question.text = replaceText(name, content.events.isEmpty(), int(present), isKeptWithProject);
     question.details =
         content.events.isEmpty()
             ? QString()
             : MvCalendarEventFileIntake::tr("%n davon stehen nicht in der Datei.", nullptr, missing) + u' ';
     question.details +=
-        MvCalendarEventFileIntake::tr("Die Liste gilt für alle Ihre Kalender, nicht nur für diesen. Mit „Rückgängig“ "
-                                      "bekommen Sie die bisherigen Einträge wieder.");
+        isKeptWithProject
+            ? MvCalendarEventFileIntake::tr(
+                  "Ihre eigenen Einträge und Ihre anderen Kalender bleiben, wie sie sind. Mit „Rückgängig“ "
+                  "bekommen Sie die bisherigen Einträge wieder.")
+            : MvCalendarEventFileIntake::tr(
+                  "Die Liste gilt für alle Ihre Kalender, nicht nur für diesen. Mit „Rückgängig“ bekommen Sie "
+                  "die bisherigen Einträge wieder.");
     question.buttons =
         QStringList{MvCalendarEventFileIntake::tr("Ersetzen"), MvCalendarEventFileIntake::tr("Abbrechen")};
     return question;
@@ -132,7 +149,8 @@ void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, 
     }
     const QString name = shortened(QFileInfo(fileName).fileName());
     MvRequestHandler::ChoiceRequest question =
-        missing > 0 ? replaceQuestion(name, content, present.size(), missing) : restQuestion(name, purpose);
+        missing > 0 ? replaceQuestion(name, content, present.size(), missing, session.entries().isKeptWithProject())
+                    : restQuestion(name, purpose);
     question.title = tr("Kalendereinträge");
     QStringList details{question.details};
     if (!skipped.isEmpty())

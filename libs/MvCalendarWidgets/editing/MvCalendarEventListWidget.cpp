@@ -5,10 +5,12 @@
 #include "MvCalendar/MvCalendarEventDelegateEditDelete.h"
 #include "MvCalendar/MvCalendarEventFileIntake.h"
 #include "MvCalendar/MvCalendarEventFotoDelegate.h"
+#include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventModel.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStep.h"
 #include "MvCalendar/MvCalendarEventTextDelegate.h"
+#include "MvCalendar/MvCalendarEventTransferDialog.h"
 #include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 
 #include "MvCore/MvApplicationLocale.h"
@@ -23,6 +25,7 @@
 #include <QAction>
 #include <QFrame>
 #include <QGridLayout>
+#include <QHash>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
@@ -184,15 +187,43 @@ QPushButton *MvCalendarEventListWidget::changeEventListButton(QWidget *parent)
     auto *menu = new QMenu(button);
     menu->addAction(tr("Sichern"), this, &MvCalendarEventListWidget::saveEventList);
     menu->setToolTipsVisible(true);
-    menu->addAction(tr("Laden…"), this, [this] { loadEventList(false); })
-        ->setToolTip(tr("Ersetzt Ihre Einträge, in allen Ihren Kalendern, durch die einer Datei"));
-    menu->addAction(tr("Hinzufügen…"), this, &MvCalendarEventListWidget::importEventList)
-        ->setToolTip(tr("Fügt die Einträge einer Datei zu Ihren hinzu, in allen Ihren Kalendern"));
+    const auto addAction = [menu](const QString &text, const char *name, QObject *receiver, auto slot) {
+        menu->addAction(text, receiver, slot)->setObjectName(QLatin1StringView(name));
+    };
+    addAction(tr("Laden…"), "loadListAction", this, [this] { loadEventList(false); });
+    addAction(tr("Hinzufügen…"), "addListAction", this, [this] { importEventList(); });
+    menu->addSeparator()->setObjectName(u"ownListSeparator"_s);
+    addAction(tr("Aus meinen Einträgen übernehmen…"), "takeFromOwnAction", this, [this] { takeFromOwnEvents(); });
+    addAction(tr("In meine Einträge übernehmen…"), "takeToOwnAction", this, [this] { takeToOwnEvents(); });
     menu->addSeparator();
-    menu->addAction(tr("Alle löschen…"), this, &MvCalendarEventListWidget::clearEventList)
-        ->setToolTip(tr("Löscht Ihre Einträge aus allen Ihren Kalendern"));
+    addAction(tr("Alle löschen…"), "clearListAction", this, [this] { clearEventList(); });
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] { describeActions(menu); });
+    describeActions(menu);
     button->setMenu(menu);
     return button;
+}
+
+/// Says what they hit: this calendar, or all of them.
+void MvCalendarEventListWidget::describeActions(const QMenu *menu) const
+{
+    const bool isKept = m_session.entries().isKeptWithProject();
+    const QHash<QString, QString> tips = {
+        {u"loadListAction"_s, isKept ? tr("Ersetzt die Einträge dieses Kalenders durch die einer Datei")
+                                     : tr("Ersetzt Ihre Einträge, in allen Ihren Kalendern, durch die einer Datei")},
+        {u"addListAction"_s, isKept ? tr("Fügt die Einträge einer Datei zu denen dieses Kalenders hinzu")
+                                    : tr("Fügt die Einträge einer Datei zu Ihren hinzu, in allen Ihren Kalendern")},
+        {u"clearListAction"_s, isKept ? tr("Löscht die Einträge dieses Kalenders; Ihre eigenen bleiben")
+                                      : tr("Löscht Ihre Einträge aus allen Ihren Kalendern")},
+        {u"takeFromOwnAction"_s, tr("Zeigt, was in Ihren eigenen Einträgen neu oder anders ist")},
+        {u"takeToOwnAction"_s, tr("Zeigt, was in diesem Kalender neu oder anders ist; aus Ihren eigenen Einträgen "
+                                  "entstehen neue Kalender")},
+    };
+    const QList<QAction *> actions = menu->actions();
+    for (QAction *action : actions) {
+        action->setToolTip(tips.value(action->objectName()));
+        if (action->objectName().contains("Own"_L1) || action->objectName() == "ownListSeparator"_L1)
+            action->setVisible(isKept);
+    }
 }
 
 // ---- single entries
@@ -269,23 +300,33 @@ MvCalendarEventList MvCalendarEventListWidget::newEvents(const MvCalendarEventLi
 }
 
 /// One step for all of them.
-void MvCalendarEventListWidget::changeEvents(const QString &macro, const QString &name,
-                                             const MvCalendarEventList &removed, const MvCalendarEventList &added)
+void MvCalendarEventListWidget::changeEvents(const QString &macro, const QString &name, const QList<Change> &changes,
+                                             Reach reach)
 {
     using Group = MvUndoCommandCalendarEventGroup;
     MvUndoController &undo = m_session.undo();
-    if (removed.isEmpty() && added.isEmpty())
+    if (changes.isEmpty())
         return;
     undo.beginMacro(macro);
     undo.push(new Group(Group::Begin, m_session, name));
-    for (const MvCalendarEvent &event : removed) {
-        if (event.isValid())
-            undo.push(new MvCalendarEventStep(event, MvCalendarEvent(), m_session));
-    }
-    for (const MvCalendarEvent &event : added)
-        undo.push(new MvCalendarEventStep(MvCalendarEvent(), event, m_session));
+    for (const Change &change : changes)
+        undo.push(new MvCalendarEventStep(change.before, change.after, m_session, reach));
     undo.push(new Group(Group::End, m_session));
     undo.endMacro();
+}
+
+void MvCalendarEventListWidget::replaceEvents(const QString &macro, const QString &name,
+                                              const MvCalendarEventList &removed, const MvCalendarEventList &added,
+                                              Reach reach)
+{
+    QList<Change> changes;
+    for (const MvCalendarEvent &event : removed) {
+        if (event.isValid())
+            changes.append({event, {}});
+    }
+    for (const MvCalendarEvent &event : added)
+        changes.append({{}, event});
+    changeEvents(macro, name, changes, reach);
 }
 
 void MvCalendarEventListWidget::finishAdding()
@@ -339,9 +380,9 @@ void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, b
 {
     const MvCalendarEventList current = events();
     if (merge)
-        changeEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, read));
-    else
-        changeEvents(u"loadEventList"_s, tr("Einträge laden"), current, read);
+        replaceEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, read), Reach::AsSet);
+    else // a whole list is this calendar's alone: that of a club must not replace the user's own
+        replaceEvents(u"loadEventList"_s, tr("Einträge laden"), current, read, Reach::ActiveList);
     finishAdding();
 }
 
@@ -351,15 +392,64 @@ void MvCalendarEventListWidget::clearEventList()
     question.title = tr("Alle Einträge löschen?");
     question.text = question.title;
     question.details =
-        tr("Ihre Einträge verschwinden aus allen Ihren Kalendern, nicht nur aus diesem. Mit „Rückgängig“ "
-           "bekommen Sie sie wieder.");
+        m_session.entries().isKeptWithProject()
+            ? tr("Die %n Einträge dieses Kalenders verschwinden. Ihre eigenen Einträge und Ihre anderen Kalender "
+                 "bleiben, wie sie sind. Mit „Rückgängig“ bekommen Sie sie wieder.",
+                 nullptr, int(events().size()))
+            : tr("Ihre Einträge verschwinden aus allen Ihren Kalendern, nicht nur aus diesem. Mit „Rückgängig“ "
+                 "bekommen Sie sie wieder.");
     question.buttons = QStringList{tr("Ja"), tr("Nein")};
     const auto clear = [this](bool yes) {
         MvLogger::legacyLog(u"CalendarEvents ACTION:deleteAll VALUE:%1"_s.arg(int(yes)));
         if (yes)
-            changeEvents(u"clearEventList"_s, tr("Einträge löschen"), events(), {});
+            replaceEvents(u"clearEventList"_s, tr("Einträge löschen"), events(), {}, Reach::ActiveList);
     };
     MvYesNoRequest::instance().request(question, this, clear);
+}
+
+void MvCalendarEventListWidget::takeFromOwnEvents()
+{
+    transferEvents(true);
+}
+
+void MvCalendarEventListWidget::takeToOwnEvents()
+{
+    transferEvents(false);
+}
+
+void MvCalendarEventListWidget::transferEvents(bool isFromOwn)
+{
+    using Dialog = MvCalendarEventTransferDialog;
+    const auto &registry = m_session.entries();
+    const MvCalendarEventList own = registry.ownEvents();
+    const Dialog::Differences differences =
+        isFromOwn ? MvCalendarEventMerge::differences(own, events()) : MvCalendarEventMerge::differences(events(), own);
+    if (differences.isEmpty()) {
+        const QString text = isFromOwn ? tr("Alles, was in Ihren Einträgen steht, steht auch in diesem Kalender.")
+                                       : tr("Alles, was in diesem Kalender steht, steht auch in Ihren Einträgen.");
+        MvRequestHandler::current().report(tr("Kalendereinträge"), text, this);
+        return;
+    }
+    auto *dialog = new Dialog(differences, isFromOwn ? Dialog::Direction::FromOwn : Dialog::Direction::ToOwn, this);
+    const MvProjectIdentifier project = registry.activeModelId();
+    connect(dialog, &QDialog::accepted, this, [this, dialog, isFromOwn, project] {
+        if (!(m_session.entries().activeModelId() == project)) // another calendar was opened meanwhile
+            return;
+        QList<Change> chosen;
+        for (const auto &[here, there] : dialog->chosen())
+            chosen.append({there, here});
+        takeTransfer(chosen, isFromOwn);
+    });
+    dialog->open();
+}
+
+/// What another program has changed meanwhile stays: the step means the very entry.
+void MvCalendarEventListWidget::takeTransfer(const QList<Change> &chosen, bool isFromOwn)
+{
+    changeEvents(u"transferEvents"_s,
+                 isFromOwn ? tr("Aus meinen Einträgen übernehmen") : tr("In meine Einträge übernehmen"), chosen,
+                 isFromOwn ? Reach::ActiveList : Reach::OwnList);
+    Q_EMIT calendarEventAdded();
 }
 
 void MvCalendarEventListWidget::importFromContacts()
@@ -374,7 +464,7 @@ void MvCalendarEventListWidget::importFromContacts()
     const MvCalendarEventList current = events();
     const MvCalendarEventList added = registry.onlyNewEvents(current, birthdays);
     if (!added.isEmpty()) {
-        changeEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, added);
+        replaceEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, added, Reach::AsSet);
         finishAdding();
     }
     MvLogger::legacyLog(

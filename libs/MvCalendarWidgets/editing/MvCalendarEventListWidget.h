@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvCalendarEventStep.h"
 #include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
@@ -13,6 +14,7 @@ class MvCalendarEventModel;
 class MvTableView;
 class QFrame;
 class QLineEdit;
+class QMenu;
 class QModelIndex;
 class QPushButton;
 
@@ -22,7 +24,9 @@ class QPushButton;
 ///
 /// What is typed into the field above the table leaves only the rows whose name or date contains it.
 ///
-/// It holds no entries itself: its table follows those of the session.
+/// It holds no entries itself: its table follows those of the session. Where the list is kept with its document
+/// (MvCalendarEventRegistry::isKeptWithProject()), entries can be taken over from the user's own list and into it, and
+/// what replaces or removes the whole list leaves the user's own one alone.
 class MVCALENDARWIDGETS_EXPORT MvCalendarEventListWidget : public QWidget
 {
     Q_OBJECT
@@ -63,6 +67,10 @@ public Q_SLOTS:
     void importEventList();
     /// Asks first.
     void clearEventList();
+    /// Shows what the user's own list has new or otherwise, and takes over what is ticked, as one step.
+    void takeFromOwnEvents();
+    /// The other way round.
+    void takeToOwnEvents();
     /// Adds the birthdays of the address book that are not among the entries yet, and reports how many.
     void importFromContacts();
 
@@ -75,8 +83,20 @@ private:
     QPushButton *createAddButton(const QString &text, const QString &name, QWidget *parent);
     void readEventList(const QString &fileName, bool merge);
     void takeEventList(const MvCalendarEventList &read, bool merge);
-    void changeEvents(const QString &macro, const QString &name, const MvCalendarEventList &removed,
-                      const MvCalendarEventList &added);
+    using Reach = MvCalendarEventStep::Reach;
+    /// An invalid entry before adds one, an invalid entry after removes one.
+    struct Change
+    {
+        MvCalendarEvent before;
+        MvCalendarEvent after;
+    };
+
+    void changeEvents(const QString &macro, const QString &name, const QList<Change> &changes, Reach reach);
+    void replaceEvents(const QString &macro, const QString &name, const MvCalendarEventList &removed,
+                       const MvCalendarEventList &added, Reach reach);
+    void transferEvents(bool isFromOwn);
+    void takeTransfer(const QList<Change> &chosen, bool isFromOwn);
+    void describeActions(const QMenu *menu) const;
     void editEvent(const MvCalendarEvent &event);
     void deleteEvent(const MvCalendarEvent &event);
     MvCalendarEventList newEvents(const MvCalendarEventList &current, const MvCalendarEventList &read) const;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPrintCheck.h"
 
+#include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvFoto/MvBlankFotoSource.h"
 #include "MvFoto/MvImageLoader.h"
 #include "MvPaint/MvPrintableText.h"
+#include "MvProductBase/MvCalendariumContentKey.h"
 #include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvPrintedFoto.h"
 
@@ -45,6 +47,7 @@ public:
     QList<Finding> look(const MvPageFindings &findings, const MvRenderingSources &sources)
     {
         lookAtFiles();
+        lookAtEntries(sources.entriesOrDefault());
         for (const MvPrintedFoto &foto : MvPrintedFoto::ofPaintedPage(m_page, m_document.format(), findings, sources))
             lookAtResolution(foto);
         lookAtTexts(findings);
@@ -62,6 +65,8 @@ private:
 
     void lookAtFiles();
     void lookAtFile(const MvFotoElement &foto, int element);
+    void lookAtEntries(const MvCalendarEventSource &entries);
+    void lookAtEntry(const MvCalendarEvent &event, const QDate &day);
     void lookAtResolution(const MvPrintedFoto &foto);
     void lookAtTexts(const MvPageFindings &findings);
     void addText(const QString &text, const QString &missingGlyphs, int element, const QDate &date, const QRectF &rect);
@@ -103,6 +108,38 @@ void PageCheck::lookAtFile(const MvFotoElement &foto, int element)
     if (!error.isEmpty())
         add(Kind::UnreadableFoto, Severity::Strong, element,
             tr("Das Foto „%1“ lässt sich nicht lesen. %2").arg(name, error), foto.path());
+}
+
+void PageCheck::lookAtEntries(const MvCalendarEventSource &entries)
+{
+    const MvCalendariumHolidayConfig content = m_page.contentConfig().holidayConfig();
+    const MvDateRange months = m_page.printedMonths();
+    if (!months.isValid() || !content.hasFeatures(FEATURE_ENTRIES))
+        return;
+    for (QDate day = months.start(); day <= months.end(); day = day.addDays(1)) {
+        const MvCalendariumContentKey key(MvCalendariumContentConfig(day, content), entries.project());
+        for (const MvCalendarEvent &event : entries.events(key))
+            lookAtEntry(event, day);
+    }
+}
+
+/// Whether its photo is there, and may be opened.
+void PageCheck::lookAtEntry(const MvCalendarEvent &event, const QDate &day)
+{
+    if (!event.foto().isValid())
+        return;
+    const QFileInfo file = event.imagePath();
+    const bool isThere = event.foto().mayBeOpened() && file.isFile();
+    const QString error = isThere ? MvImageLoader::instance().error(file) : QString();
+    if (isThere && error.isEmpty())
+        return;
+    const QString name = inShort(event.description());
+    const QString text =
+        isThere ? tr("Das Foto zu „%1“ lässt sich nicht lesen. %2").arg(name, error)
+                : tr("Das Foto zu „%1“ fehlt. Es lag in %2").arg(name, QDir::toNativeSeparators(file.absolutePath()));
+    m_findings.append({isThere ? Kind::UnreadableFoto : Kind::MissingFoto, Severity::Strong, m_number, -1, day,
+                       QRectF(), file.filePath(), 0.0,
+                       MvApplicationLocale::instance().locale().toString(day, QLocale::ShortFormat), text});
 }
 
 void PageCheck::lookAtResolution(const MvPrintedFoto &foto)

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvProject.h"
 
+#include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvUndoController.h"
-#include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectEntries.h"
 #include "MvProject/MvUndoCommandDocument.h"
-
-#include <QDir>
 
 #include <algorithm>
 
 namespace {
+
+constexpr int lockTime = 500; // ms, for others who are just saving
 
 /// Device numbers may be others after a restart of the computer; the file is the same all the same.
 QByteArray withoutDevice(const QByteArray &stamp)
@@ -42,7 +43,42 @@ MvProject::MvProject(QObject *parent, MvSession &session)
     , m_saved(m_document)
 {}
 
-MvProject::~MvProject() = default;
+MvProject::~MvProject()
+{
+    disconnect(&m_session.entries(), nullptr, this, nullptr);
+}
+
+void MvProject::keepEntries()
+{
+    m_entries = std::make_unique<MvProjectEntries>(m_session.entries(), [this] { onEntriesChanged(); });
+    connect(&m_session.entries(), &MvCalendarEventRegistry::eventsChanged, this, [this] { m_entries->followOwn(); });
+}
+
+MvProjectFile::Entries MvProject::entries() const
+{
+    return m_entries ? m_entries->toSave() : MvProjectFile::Entries();
+}
+
+bool MvProject::doEntriesReachOwn() const
+{
+    return m_session.entries().doChangesReachOwn();
+}
+
+void MvProject::setEntriesReachOwn(bool reach)
+{
+    if (reach == doEntriesReachOwn())
+        return;
+    m_session.entries().setChangesReachOwn(reach);
+    Q_EMIT entriesReachOwnChanged(reach);
+}
+
+void MvProject::onEntriesChanged()
+{
+    if (!m_entries) // it is just being made
+        return;
+    updateModified();
+    Q_EMIT entriesChanged();
+}
 
 void MvProject::change(const MvCalendarDocument &after, const QString &text, int mergeId)
 {
@@ -59,32 +95,31 @@ void MvProject::changePage(int page, const MvCalendarPage &after, const QString 
 void MvProject::newProject(const MvCalendarDocument &document)
 {
     m_saved = document;
-    replace(document, QFileInfo(), QFileInfo(), QByteArray());
+    MvProjectFile::Content content;
+    content.document = document;
+    replace(content, QFileInfo(), QFileInfo(), QByteArray());
 }
 
 MvOutcome MvProject::open(const QFileInfo &file)
 {
     const QByteArray stamp = MvFileGuard::stamp(file); // before reading: a later change is then noticed
-    const MvProjectFile::Content content = MvProjectFile::read(file);
+    MvProjectFile::Content content = MvProjectFile::read(file);
     if (!content.isOk())
         return content;
+    content.notes += MvProjectEntries::resolveFile(content, file);
     m_saved = content.document;
-    replace(content.document, file, QFileInfo(), stamp);
-    MvOutcome outcome = content;
-    if (const QString entries = content.document.entriesFile(); !entries.isEmpty())
-        outcome.notes.append(
-            tr("Zu diesem Kalender gehört eine Liste von Einträgen: %1. Zum Bearbeiten lässt sie sich zu "
-               "den eigenen Einträgen hinzufügen.")
-                .arg(QDir::toNativeSeparators(entries)));
-    return outcome;
+    replace(content, file, QFileInfo(), stamp);
+    return content;
 }
 
-void MvProject::openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered,
-                              const QByteArray &originalStamp)
+void MvProject::openRecovered(const MvProjectFile::Content &content, const QFileInfo &original,
+                              const QFileInfo &recovered, const QByteArray &originalStamp)
 {
     m_saved.reset();
     const bool hasFile = !original.filePath().isEmpty();
-    replace(document, original, recovered, hasFile ? stampUnder(original, recovered, originalStamp) : QByteArray());
+    MvProjectFile::Content resolved = content;
+    MvProjectEntries::resolveFile(resolved, original);
+    replace(resolved, original, recovered, hasFile ? stampUnder(original, recovered, originalStamp) : QByteArray());
 }
 
 MvOutcome MvProject::save()
@@ -96,14 +131,23 @@ MvOutcome MvProject::save()
 
 MvOutcome MvProject::saveAs(const QFileInfo &file)
 {
-    const MvOutcome written = MvProjectFile::write(m_document, file);
+    const bool isOther = file.absoluteFilePath() != m_file.absoluteFilePath() || m_file.filePath().isEmpty();
+    std::optional<MvFileGuard> guard; // from taking in what others wrote until it is written
+    MvProjectEntries::ToSave entries;
+    if (m_entries) {
+        guard.emplace(file, lockTime);
+        entries = m_entries->prepare(file, !isOther && isFileChangedByOthers());
+    }
+    MvOutcome written = MvProjectFile::write(m_document, entries.list, file);
     if (!written.isOk())
         return written;
-    const bool isOther = file.absoluteFilePath() != m_file.absoluteFilePath() || m_file.filePath().isEmpty();
+    written.notes += entries.notes;
     m_file = QFileInfo(file.absoluteFilePath());
     m_stamp = MvFileGuard::stamp(m_file);
     m_saved = m_document;
     m_recoveredFrom = QFileInfo();
+    if (m_entries)
+        m_entries->noteSaved(entries, m_file);
     if (isOther)
         Q_EMIT fileInfoChanged();
     updateModified();
@@ -142,11 +186,13 @@ void MvProject::apply(const MvCalendarDocument &document)
     Q_EMIT documentChanged();
 }
 
-void MvProject::replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered,
+void MvProject::replace(const MvProjectFile::Content &content, const QFileInfo &file, const QFileInfo &recovered,
                         const QByteArray &stamp)
 {
     m_session.undo().clear();
-    m_document = document;
+    if (m_entries)
+        m_entries->begin(content, file, m_saved.has_value());
+    m_document = content.document;
     m_file = file.filePath().isEmpty() ? QFileInfo() : QFileInfo(file.absoluteFilePath());
     m_stamp = stamp;
     m_recoveredFrom = recovered;
@@ -158,7 +204,7 @@ void MvProject::replace(const MvCalendarDocument &document, const QFileInfo &fil
 
 void MvProject::updateModified()
 {
-    const bool isModified = !m_saved || !(*m_saved == m_document);
+    const bool isModified = !m_saved || !(*m_saved == m_document) || (m_entries && m_entries->isModified());
     if (isModified == m_isModified)
         return;
     m_isModified = isModified;

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvSession.h"
 #include "MvCore/MvOutcome.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvProjectFile.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QByteArray>
@@ -11,13 +12,17 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <optional>
+
+class MvProjectEntries;
 
 /// The open project: a document, the file it belongs to, and whether that has its present state. Every change is a step
 /// that the undo controller of its session can take back. GUI thread.
 ///
-/// Personal entries are no part of it: its session has them, and they are saved as soon as they change. A program that
-/// opens several projects at a time gives each a session of its own.
+/// Personal entries are no part of it at first: its session has them, and they are saved as soon as they change. After
+/// keepEntries() each project has a list of its own, which is opened, saved and recovered with it. A program that opens
+/// several projects at a time gives each a session of its own.
 class MVPROJECT_EXPORT MvProject : public QObject
 {
     Q_OBJECT
@@ -28,6 +33,19 @@ public:
 
     /// Undo and entries.
     MvSession &session() const { return m_session; }
+
+    /// From now on the list of entries that is active in the session is the project's: a new project begins with a copy
+    /// of the user's list, one that has none yet takes that into its file when it is first saved. Until the project
+    /// goes; then the list of before is the active one again. Called once.
+    void keepEntries();
+    /// The project's list as it is saved; none without keepEntries(), and while the list of another file that it names
+    /// cannot be read.
+    MvProjectFile::Entries entries() const;
+    /// Whether what is changed in the project's list is changed in the user's list, too; see
+    /// MvCalendarEventRegistry::setChangesReachOwn().
+    bool doEntriesReachOwn() const;
+    void setEntriesReachOwn(bool reach);
+
     const MvCalendarDocument &document() const { return m_document; }
 
     /// Does a change as one step with the text for menus; nothing happens when nothing changes. Steps with the same
@@ -43,10 +61,12 @@ public:
     MvOutcome open(const QFileInfo &file);
     /// Goes on with a document that was not saved to its file: the project is modified. The file may be none. Its stamp
     /// is the one it had under the document; without one, the times of both files tell whether it is another by now.
-    void openRecovered(const MvCalendarDocument &document, const QFileInfo &original, const QFileInfo &recovered,
+    void openRecovered(const MvProjectFile::Content &content, const QFileInfo &original, const QFileInfo &recovered,
                        const QByteArray &originalStamp = {});
 
-    /// Writes the file; without one, an error.
+    /// Writes the file; without one, an error. Notes say what became of the entries: photos that could not be put
+    /// beside the file, and that they came from the user's list. When others have written the file since, its document
+    /// is replaced, but their changes of its entries are taken in.
     MvOutcome save();
     /// Writes another file, which then belongs to the project.
     MvOutcome saveAs(const QFileInfo &file);
@@ -55,7 +75,7 @@ public:
     QFileInfo fileInfo() const { return m_file; }
     /// The file's name without its suffix; for a new project its title, or "Unbenannt".
     QString displayName() const;
-    /// The document differs from what was opened or saved.
+    /// The document, or its list of entries, differs from what was opened or saved.
     bool isModified() const { return m_isModified; }
     /// Somebody else has written or removed the file since it was opened or saved, for a recovered document also
     /// before it was recovered.
@@ -74,6 +94,9 @@ Q_SIGNALS:
     void documentReplaced();
     /// The document changed in any way, after the signals above.
     void documentChanged();
+    /// The project's own list of entries has changed.
+    void entriesChanged();
+    void entriesReachOwnChanged(bool reach);
     void modifiedChanged(bool isModified);
     void fileInfoChanged();
     /// The file has the present state.
@@ -84,11 +107,13 @@ private:
 
     /// Makes it the present state, for commands.
     void apply(const MvCalendarDocument &document);
-    void replace(const MvCalendarDocument &document, const QFileInfo &file, const QFileInfo &recovered,
+    void replace(const MvProjectFile::Content &content, const QFileInfo &file, const QFileInfo &recovered,
                  const QByteArray &stamp);
+    void onEntriesChanged();
     void updateModified();
 
     MvSession &m_session;
+    std::unique_ptr<MvProjectEntries> m_entries; // null: the session's are saved by themselves
     MvCalendarDocument m_document;
     std::optional<MvCalendarDocument> m_saved; // none for a recovered one: it differs from any file
     QFileInfo m_file;

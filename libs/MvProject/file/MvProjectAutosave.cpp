@@ -6,6 +6,7 @@
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectVocabulary.h"
 #include "MvXML/MvXMLLoader.h"
 
 #include <QDir>
@@ -24,6 +25,7 @@ MvProjectAutosave::MvProjectAutosave(MvProject *project, QObject *parent)
     connect(&m_timer, &QTimer::timeout, this, &MvProjectAutosave::write);
     connect(project, &MvProject::documentReplaced, this, &MvProjectAutosave::replaceDocument);
     connect(project, &MvProject::documentChanged, this, &MvProjectAutosave::considerDocument);
+    connect(project, &MvProject::entriesChanged, this, &MvProjectAutosave::considerDocument);
     connect(project, &MvProject::saved, this, &MvProjectAutosave::considerDocument);
     considerDocument();
 }
@@ -36,7 +38,7 @@ MvProjectAutosave::~MvProjectAutosave()
 
 QString MvProjectAutosave::folder()
 {
-    return MvDirectoryConfig::instance().programDataSubDir(u"recovery"_s).absolutePath();
+    return MvDirectoryConfig::instance().programDataSubDir(MvProjectVocabulary::recoveryFolder).absolutePath();
 }
 
 void MvProjectAutosave::considerDocument()
@@ -62,8 +64,9 @@ void MvProjectAutosave::write()
         u"%1/%2.%3"_s.arg(folder(), QUuid::createUuid().toString(QUuid::WithoutBraces), MvProjectFile::suffix()));
     if (m_file.filePath().isEmpty() && !takeFile(fresh))
         return tellResult(tr("In %1 lässt sich nicht schreiben.").arg(folder()));
-    const QByteArray bytes = MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(),
-                                                    m_project->fileInfo().filePath(), m_project->fileStamp());
+    const QByteArray bytes =
+        MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(), m_project->fileInfo().filePath(),
+                               m_project->fileStamp(), m_project->entries());
     m_thread.start([this, file = m_file, bytes] {
         QString error = MvXMLLoader::check(bytes).message; // an older state is better than one that does not open
         if (error.isEmpty())

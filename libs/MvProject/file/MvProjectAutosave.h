@@ -13,9 +13,9 @@
 class MvFileGuard;
 class MvProject;
 
-/// Keeps what is not saved yet where a crash cannot reach it: at most ten seconds after a change, the document is in a
-/// file in the user's folder "recovery". The file goes when the project is saved or given up, and with this object;
-/// what a program that died left behind lists MvProjectRecovery.
+/// Keeps what is not saved yet where a crash cannot reach it: at most ten seconds after a change, the document with its
+/// entries is in a file in the user's folder "recovery". The file goes when the project is saved or given up, and with
+/// this object; what a program that died left behind lists MvProjectRecovery.
 ///
 /// A lock beside the file says that its program lives. Files are written in a thread. GUI thread.
 class MVPROJECT_EXPORT MvProjectAutosave : public QObject

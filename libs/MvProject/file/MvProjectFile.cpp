@@ -20,7 +20,12 @@ MvProjectFile::Content MvProjectFile::read(const QFileInfo &file)
 
 MvOutcome MvProjectFile::write(const MvCalendarDocument &document, const QFileInfo &file)
 {
-    const QByteArray bytes = toBytes(document, file.absoluteDir());
+    return write(document, {}, file);
+}
+
+MvOutcome MvProjectFile::write(const MvCalendarDocument &document, const Entries &entries, const QFileInfo &file)
+{
+    const QByteArray bytes = toBytes(document, file.absoluteDir(), {}, {}, entries);
     const MvXMLLoader::Error error = MvXMLLoader::check(bytes);
     if (error.isError())
         return {tr("%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2")
@@ -30,7 +35,7 @@ MvOutcome MvProjectFile::write(const MvCalendarDocument &document, const QFileIn
 }
 
 QByteArray MvProjectFile::toBytes(const MvCalendarDocument &document, const QDir &folder, const QString &originalPath,
-                                  const QByteArray &originalStamp)
+                                  const QByteArray &originalStamp, const Entries &entries)
 {
-    return MvProjectWriter(folder).write(document, originalPath, originalStamp);
+    return MvProjectWriter(folder).write(document, originalPath, originalStamp, entries);
 }

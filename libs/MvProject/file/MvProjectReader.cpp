@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvProjectReader.h"
 
+#include "MvCalendar/MvCalendarEventFotoFinder.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvProjectVocabulary.h"
 #include "MvProject/MvThemeApplication.h"
@@ -12,6 +14,7 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QSet>
+#include <QXmlStreamReader>
 
 #include <algorithm>
 
@@ -38,11 +41,14 @@ void putInOrder(QList<MvCalendarPage> &pages, QList<MvCalendarPage> &months)
 MvProjectFile::Content MvProjectReader::read()
 {
     MvXMLLoader::Error error;
-    const QDomDocument dom = MvXMLLoader::loadDocument(m_file, &error);
+    const QByteArray bytes = MvXMLLoader::loadBytes(m_file, &error);
+    const QDomDocument dom = error.isError() ? QDomDocument() : MvXMLLoader::parse(bytes, &error);
     if (error.isError())
         m_content.error = error.describe(m_file) + advice();
     else
         readRoot(dom.documentElement());
+    if (m_content.isOk() && !dom.documentElement().firstChildElement(MvCalendarEventFile::elementName()).isNull())
+        readEntries(bytes);
     m_content.notes = m_notes.all();
     return m_content;
 }
@@ -106,6 +112,32 @@ void MvProjectReader::readPages(const QDomElement &root)
         return fail(root, tr("Der Kalender reicht über mehr als %1 Monate.").arg(mostMonths));
     document.setSparePages(readSparePages(root));
     document.setPages(range, pages);
+}
+
+/// As a stream, as every list of entries is read: it keeps texts that a document in memory does not.
+void MvProjectReader::readEntries(const QByteArray &bytes)
+{
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    reader.readNextStartElement();
+    while (reader.readNextStartElement()) {
+        if (reader.qualifiedName() != MvCalendarEventFile::elementName()) {
+            reader.skipCurrentElement();
+            continue;
+        }
+        m_content.entries =
+            MvCalendarEventFile::readWithin(reader, MvCalendarEventFotoFinder::besideDocument(documentFolder()));
+        return;
+    }
+}
+
+/// Where the document lies: what was rescued of one is elsewhere, but only our own folder may say so.
+QDir MvProjectReader::documentFolder() const
+{
+    const QDir folder = m_file.absoluteDir();
+    const bool isRescued = !m_content.originalPath.isEmpty() &&
+                           folder == QDir(MvDirectoryConfig::instance().programDataDir().filePath(recoveryFolder));
+    return isRescued ? QFileInfo(m_content.originalPath).absoluteDir() : folder;
 }
 
 MvPageFormat MvProjectReader::readPaper(const QDomElement &root)

@@ -26,6 +26,7 @@ public:
 private:
     void readRoot(const QDomElement &root);
     void readPages(const QDomElement &root);
+    void readEntries(const QByteArray &bytes);
     MvPageFormat readPaper(const QDomElement &root);
     MvDateRange readRange(const QDomElement &root);
     MvCalendarPage readPage(const QDomElement &element);
@@ -37,6 +38,7 @@ private:
     MvFotoFrame readFrame(const QDomElement &element);
     QMap<QDate, MvCalendarPage> readSparePages(const QDomElement &root);
     MvProjectElementReader elementReader();
+    QDir documentFolder() const;
     QDate month(const QDomElement &element, const QString &name);
 
     void fail(const QDomElement &place, const QString &message);

@@ -50,7 +50,7 @@ MvOutcome MvProjectRecovery::open(const Entry &entry, MvProject &project)
         return {tr("Der Stand ist schon in einem anderen Fenster geöffnet."), {}};
     const MvProjectFile::Content content = MvProjectFile::read(entry.file);
     if (content.isOk())
-        project.openRecovered(content.document, QFileInfo(content.originalPath), entry.file, content.originalStamp);
+        project.openRecovered(content, QFileInfo(content.originalPath), entry.file, content.originalStamp);
     return content;
 }
 

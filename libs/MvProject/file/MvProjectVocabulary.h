@@ -10,6 +10,9 @@
 /// The words of project files, for their reader and their writer.
 namespace MvProjectVocabulary {
 
+/// Of the user's folder: where unsaved work lies.
+inline const QString recoveryFolder = QStringLiteral("recovery");
+
 /// What this program writes and reads; a document that needs nothing newer is written as the first.
 constexpr int firstVersion = 1;
 constexpr int version = 2;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvProjectWriter.h"
 
+#include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvProject/MvProjectVocabulary.h"
@@ -65,7 +66,7 @@ void writeInOrder(QXmlStreamWriter &writer, const QDomElement &element)
 } // namespace
 
 QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QString &originalPath,
-                                  const QByteArray &originalStamp)
+                                  const QByteArray &originalStamp, const MvProjectFile::Entries &entries)
 {
     QDomDocument dom;
     QDomElement rootElement = MvXMLBuilder::buildRootElement(dom, root);
@@ -84,7 +85,8 @@ QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QStr
         writePage(rootElement, page);
     for (const auto &[month, page] : document.sparePages().asKeyValueRange())
         writeSparePage(rootElement, month, page);
-    MvXMLBuilder::addAttribute(rootElement, versionKey, m_elements.needsSecondVersion() ? version : firstVersion);
+    const bool isSecondVersion = m_elements.needsSecondVersion() || entries;
+    MvXMLBuilder::addAttribute(rootElement, versionKey, isSecondVersion ? version : firstVersion);
 
     QByteArray bytes;
     QXmlStreamWriter writer(&bytes);
@@ -93,6 +95,8 @@ QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QStr
     writer.writeStartDocument();
     writeInOrder(writer, rootElement);
     writer.writeEndDocument();
+    if (entries) // in the form of any other list of entries, last of all
+        bytes.insert(bytes.lastIndexOf("</"), MvCalendarEventFile::toBytesWithin(*entries, m_folder));
     return bytes;
 }
 

@@ -3,6 +3,7 @@
 
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvProjectElementWriter.h"
+#include "MvProject/MvProjectFile.h"
 
 #include <QByteArray>
 #include <QDir>
@@ -15,10 +16,12 @@ class MvProjectWriter
 public:
     /// Photos below the folder are written relative to it.
     explicit MvProjectWriter(const QDir &folder)
-        : m_elements(folder)
+        : m_folder(folder)
+        , m_elements(folder)
     {}
 
-    QByteArray write(const MvCalendarDocument &document, const QString &originalPath, const QByteArray &originalStamp);
+    QByteArray write(const MvCalendarDocument &document, const QString &originalPath, const QByteArray &originalStamp,
+                     const MvProjectFile::Entries &entries);
 
 private:
     void writePaper(QDomElement &root, const MvPageFormat &format);
@@ -31,5 +34,6 @@ private:
     static void writeCalendarium(QDomElement &element, const MvCalendarPage &page);
     static void writeContent(QDomElement &element, const MvCalendariumContentConfig &content);
 
+    QDir m_folder;
     MvProjectElementWriter m_elements;
 };

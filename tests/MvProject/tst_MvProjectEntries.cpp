@@ -1,0 +1,481 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
+#include "MvProjectFixture.h"
+#include "MvTest.h"
+#include "MvTestFiles.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventMerge.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendarEventStep.h"
+#include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvUndoController.h"
+#include "MvProject/MvProject.h"
+#include "MvProject/MvProjectAutosave.h"
+#include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectRecovery.h"
+
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using MvEntries::entry;
+using MvEntries::names;
+using Reach = MvCalendarEventStep::Reach;
+
+/// Each calendar with its own list of entries, and the user's list beside them.
+class tst_MvProjectEntries : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void listsGoTheirOwnWays_data();
+    void listsGoTheirOwnWays();
+    void fileGivesBackWhatItTook();
+    void filesThatAreNotWhole_data();
+    void filesThatAreNotWhole();
+    void fotosGoWithTheCalendar();
+    void calendarsWithoutAListTakeTheUsers();
+    void unreadableListsAreNotReplacedByNothing();
+    void nobodysChangesAreLost_data();
+    void nobodysChangesAreLost();
+    void unsavedEntriesAreRecovered();
+
+private:
+    static MvCalendarEventRegistry &registry() { return MvCalendarEventRegistry::instance(); }
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QFileInfo file(const QString &name = u"k.mvcalendar"_s) const { return QFileInfo(path(name)); }
+    static MvCalendarDocument document() { return MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 1); }
+    static MvCalendarEvent added(const QString &name)
+    {
+        const MvCalendarEvent event = entry(name, {2000, 1, 9});
+        push({}, event);
+        return event;
+    }
+    static void push(const MvCalendarEvent &before, const MvCalendarEvent &after, Reach reach = Reach::AsSet)
+    {
+        MvUndoController::instance().push(new MvCalendarEventStep(before, after, MvSession::defaultSession(), reach));
+    }
+    static MvCalendarEventList inFile(const QFileInfo &file)
+    {
+        const MvProjectFile::Content content = MvProjectFile::read(file);
+        return content.entries ? content.entries->events : MvCalendarEventList();
+    }
+    MvCalendarEventList usersFile() const
+    {
+        return MvCalendarEventFile::read(QFileInfo(path(u"daten/calendarEvents.xml"_s))).events;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<MvProject> m_project;
+};
+
+void tst_MvProjectEntries::init()
+{
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    m_folder = std::make_unique<QTemporaryDir>();
+    MvDirectoryConfig::instance().setProgramDataDir(path(u"daten"_s));
+    registry().setEvents({});
+    m_project = std::make_unique<MvProject>();
+    m_project->keepEntries();
+    m_project->newProject(document());
+}
+
+void tst_MvProjectEntries::cleanup()
+{
+    m_project.reset();
+    QVERIFY(registry().activeModelId() == DEFAULT_PROJECT_ID);
+}
+
+namespace {
+
+/// What the lists should be: the name of each entry by its uuid.
+class Model
+{
+public:
+    using List = QMap<QUuid, QString>;
+    struct Change
+    {
+        QUuid id;
+        QString before; // empty: it was not there
+        QString after;
+    };
+    struct Step
+    {
+        QList<Change> active;
+        QList<Change> own;
+    };
+
+    static List listOf(const MvCalendarEventList &events)
+    {
+        List list;
+        for (const MvCalendarEvent &event : events)
+            list.insert(event.uuid(), event.description());
+        return list;
+    }
+
+    Step stepOf(const QUuid &id, const QString &after, bool reaches) const
+    {
+        Step step{{{id, active.value(id), after}}, {}};
+        const QString before = active.value(id);
+        const QString there = own.value(id);
+        if (reaches && before.isEmpty())
+            step.own.append({id, {}, after});
+        else if (reaches && there.isEmpty() && !after.isEmpty())
+            step.own.append({id, {}, after});
+        else if (reaches && (after.isEmpty() || there == before))
+            step.own.append({id, there, after});
+        return step;
+    }
+
+    void apply(const Step &step, bool isUndone)
+    {
+        const auto takeOver = [isUndone](List &list, const QList<Change> &changes) {
+            const List before = list;
+            for (const Change &change : changes) {
+                const QString name = isUndone ? change.before : change.after;
+                name.isEmpty() ? void(list.remove(change.id)) : void(list.insert(change.id, name));
+            }
+            return list != before;
+        };
+        takeOver(active, step.active);
+        if (takeOver(own, step.own)) // its file is written: what others wrote comes in
+            own.insert(std::exchange(othersInOwn, {}));
+    }
+
+    List active;
+    List own;
+    List othersInFile; // what others have added to the open project's file, not yet read here
+    List othersInOwn;  // the same of the user's file
+};
+
+} // namespace
+
+void tst_MvProjectEntries::listsGoTheirOwnWays_data()
+{
+    QTest::addColumn<int>("seed");
+    const int rows = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 400 : 4;
+    for (int seed = 1; seed <= rows; ++seed)
+        QTest::addRow("seed %d", seed) << seed;
+}
+
+/// Random steps of a person with three calendars, and of others, against the model.
+void tst_MvProjectEntries::listsGoTheirOwnWays()
+{
+    QFETCH(const int, seed);
+    QRandomGenerator random{quint32(seed)};
+    Model model;
+    QList<Model::Step> done;
+    QList<Model::Step> undone;
+    int open = 0;
+    for (int number = 0; number < 3; ++number)
+        QVERIFY(MvProjectFile::write(document(), MvCalendarEventList(), file(QString::number(number))).isOk());
+    QVERIFY(m_project->open(file(u"0"_s)).isOk());
+    const auto name = [&random] { return u"E%1"_s.arg(random.bounded(1000000)); };
+    const auto push = [&](const Model::Step &step) {
+        model.apply(step, false);
+        done.append(step);
+        undone.clear();
+    };
+    for (int turn = 0; turn < 80; ++turn) {
+        const MvCalendarEventList events = registry().activeEventList();
+        const MvCalendarEvent any = events.value(random.bounded(int(events.size()) + 1));
+        switch (random.bounded(12)) {
+        case 0:
+        case 1: {
+            const MvCalendarEvent event = entry(name(), {2000, 1, 1 + random.bounded(28)});
+            push(model.stepOf(event.uuid(), event.description(), m_project->doEntriesReachOwn()));
+            tst_MvProjectEntries::push({}, event);
+            break;
+        }
+        case 2:
+        case 3: {
+            MvCalendarEvent after = any;
+            after.setEventName(name());
+            const bool isRemoved = random.bounded(3) == 0;
+            if (!any.isValid())
+                break;
+            push(model.stepOf(any.uuid(), isRemoved ? QString() : after.description(), m_project->doEntriesReachOwn()));
+            tst_MvProjectEntries::push(any, isRemoved ? MvCalendarEvent() : after);
+            break;
+        }
+        case 4:
+        case 5:
+            if (done.isEmpty())
+                break;
+            model.apply(done.last(), true);
+            undone.append(done.takeLast());
+            MvUndoController::instance().undo();
+            break;
+        case 6:
+            if (undone.isEmpty())
+                break;
+            model.apply(undone.last(), false);
+            done.append(undone.takeLast());
+            MvUndoController::instance().redo();
+            break;
+        case 7:
+            m_project->setEntriesReachOwn(!m_project->doEntriesReachOwn());
+            break;
+        case 8: // the entries that others have added come in with saving
+            QCOMPARE(m_project->save().error, QString());
+            model.active.insert(std::exchange(model.othersInFile, {}));
+            break;
+        case 9: {
+            const int other = random.bounded(3);
+            MvCalendarEventList list = inFile(file(QString::number(other)));
+            list.append(entry(name(), {2000, 2, 2}));
+            QVERIFY(MvProjectFile::write(document(), list, file(QString::number(other))).isOk());
+            if (other == open)
+                model.othersInFile.insert(list.last().uuid(), list.last().description());
+            break;
+        }
+        case 10: {
+            MvCalendarEventList list = usersFile();
+            list.append(entry(name(), {2000, 3, 3}));
+            QVERIFY(MvTestFiles::write(path(u"daten/calendarEvents.xml"_s), MvCalendarEventFile::toBytes(list)));
+            model.othersInOwn.insert(list.last().uuid(), list.last().description());
+            break;
+        }
+        default: // another calendar, or a new one
+            open = random.bounded(3);
+            model.active = Model::listOf(inFile(file(QString::number(open))));
+            model.othersInFile.clear();
+            QVERIFY(m_project->open(file(QString::number(open))).isOk());
+            if (random.bounded(4) == 0) {
+                m_project->newProject(document());
+                model.active = model.own;
+                QCOMPARE(m_project->saveAs(file(QString::number(open))).error, QString());
+            }
+            done.clear();
+            undone.clear();
+        }
+        QCOMPARE(Model::listOf(registry().activeEventList()), model.active);
+        QCOMPARE(Model::listOf(registry().ownEvents()), model.own);
+    }
+    QCOMPARE(m_project->save().error, QString());
+    model.active.insert(model.othersInFile);
+    QCOMPARE(Model::listOf(inFile(file(QString::number(open)))), model.active);
+    model.own.insert(model.othersInOwn);
+    QCOMPARE(Model::listOf(usersFile()), model.own);
+}
+
+void tst_MvProjectEntries::fileGivesBackWhatItTook()
+{
+    MvCalendarEventList list{entry(u"Oma & <Opa>"_s, {1941, 1, 9}), entry(u"  "_s, {1604, 2, 29}),
+                             entry(u"zwei\nZeilen ]]>"_s, {1950, 12, 31}, {}, false)};
+    QVERIFY(MvTestFiles::writeFoto(path(u"eintraege/o & o.png"_s)));
+    list[0].relocateFoto(MvFoto(file(u"eintraege/o & o.png"_s)));
+    list[2].relocateFoto(MvFoto(file(u"eintraege/fehlt.png"_s)));
+    QVERIFY(MvProjectFile::write(document(), list, file()).isOk());
+    const QByteArray written = MvProjectFile::toBytes(document(), m_folder->path(), {}, {}, list);
+    QVERIFY(!written.contains(m_folder->path().toUtf8()) && written.contains(" version=\"2\""));
+    const MvProjectFile::Content content = MvProjectFile::read(file());
+    QVERIFY2(content.error.isEmpty() && content.notes.isEmpty(), qPrintable(content.error));
+    QVERIFY(content.entries && content.entries->isComplete);
+    QCOMPARE(content.entries->events, list);
+    QVERIFY(content.document == document());
+    QCOMPARE(MvProjectFile::toBytes(document(), m_folder->path(), {}, {}, content.entries->events), written);
+
+    QVERIFY(MvProjectFile::write(document(), MvCalendarEventList(), file()).isOk()); // none of its own is not no list
+    registry().setOwnEvents({entry(u"Meins"_s, {2000, 1, 1})});
+    QVERIFY(m_project->open(file()).isOk());
+    QVERIFY(registry().activeEventList().isEmpty());
+}
+
+void tst_MvProjectEntries::filesThatAreNotWhole_data()
+{
+    QTest::addColumn<QByteArray>("before");
+    QTest::addColumn<QByteArray>("after");
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<QString>("note");
+    QTest::addColumn<QString>("shown");
+    const QByteArray date = "<DateTime>1956-01-10T00:00:00</DateTime>";
+    QTest::newRow("cut") << QByteArray("</CalendarEvents>\n</calendarproject>\n") << QByteArray() << u"k.mvcalendar:"_s
+                         << QString() << QString();
+    QTest::newRow("an entry without a date")
+        << date << QByteArray() << QString() << u"„A“: das Datum fehlt"_s << u"B"_s;
+    QTest::newRow("something else") << QByteArray("<CalendarEvent>\n    <Name>A")
+                                    << QByteArray("<Termin/><CalendarEvent><Name>A") << QString() << u"„Termin“"_s
+                                    << u"A B"_s;
+    QTest::newRow("a photo of somebody else's")
+        << QByteArray("<Image/>") << QByteArray("<Image>/etc/passwd</Image>") << QString() << QString() << u"A B"_s;
+}
+
+void tst_MvProjectEntries::filesThatAreNotWhole()
+{
+    QFETCH(const QByteArray, before);
+    QFETCH(const QByteArray, after);
+    const MvCalendarEventList list{entry(u"A"_s, {1956, 1, 10}), entry(u"B"_s, {1957, 1, 10})};
+    QByteArray bytes = MvProjectFile::toBytes(document(), m_folder->path(), {}, {}, list);
+    const qsizetype place = bytes.indexOf(before);
+    QVERIFY(place > 0);
+    QVERIFY(MvTestFiles::write(file().filePath(), bytes.replace(place, before.size(), after)));
+    added(u"Vorher"_s);
+    const MvOutcome opened = m_project->open(file());
+    QFETCH(const QString, error);
+    QVERIFY2(error.isEmpty() == opened.isOk() && opened.error.contains(error), qPrintable(opened.error));
+    QFETCH(const QString, note);
+    QVERIFY2(opened.notes.isEmpty() == note.isEmpty() && opened.notes.join(u' ').contains(note),
+             qPrintable(opened.notes.join(u' ')));
+    QFETCH(const QString, shown);
+    QCOMPARE(names(registry().activeEventList()).join(u' '), error.isEmpty() ? shown : u"Vorher"_s);
+    for (const MvCalendarEvent &event : registry().activeEventList())
+        QVERIFY(!event.foto().isValid() || !event.foto().mayBeOpened());
+}
+
+/// Wherever its folder goes, and whatever becomes of the user's photos.
+void tst_MvProjectEntries::fotosGoWithTheCalendar()
+{
+    QVERIFY(MvTestFiles::writeFoto(path(u"rot.png"_s), {16, 12}, Qt::red));
+    MvCalendarEvent oma = entry(u"Oma"_s, {1941, 1, 9}, MvFoto(file(u"rot.png"_s)));
+    const MvCalendarEvent opa = entry(u"Opa"_s, {1938, 1, 9}, oma.foto()); // the same photo
+    push({}, oma);
+    push({}, opa);
+    QVERIFY(QDir().mkpath(path(u"a"_s)));
+    const MvOutcome saved = m_project->saveAs(file(u"a/k.mvcalendar"_s));
+    QVERIFY2(saved.isOk() && saved.notes.isEmpty(), qPrintable(saved.error + saved.notes.join(u' ')));
+    QVERIFY(!m_project->isModified());
+    QCOMPARE(QDir(path(u"a/eintraege"_s)).entryList(QDir::Files).size(), 1);
+    MvUndoController::instance().undo(); // Opa, whose photo has moved
+    QCOMPARE(names(registry().activeEventList()), QStringList{u"Oma"_s});
+    MvUndoController::instance().redo();
+
+    oma = registry().activeEventList().first();
+    MvCalendarEvent renamed = oma;
+    renamed.setEventName(u"Oma Erna"_s);
+    QCOMPARE(renamed.takeFoto(oma.foto()).error, QString()); // as the editor does: no copy of a copy
+    push(oma, renamed);
+    QVERIFY(m_project->save().isOk());
+    QCOMPARE(QDir(path(u"a/eintraege"_s)).entryList(QDir::Files).size(), 1);
+    m_project->newProject(document());
+    QVERIFY(QDir(path(u"daten/calendarEventFotos"_s)).removeRecursively());
+    QVERIFY(QDir().rename(path(u"a"_s), path(u"anderswo"_s)));
+
+    QVERIFY(m_project->open(file(u"anderswo/k.mvcalendar"_s)).isOk());
+    for (const MvCalendarEvent &event : registry().activeEventList())
+        QCOMPARE(QImage(event.imagePath().filePath()).pixelColor(3, 3).red(),
+                 QImage(path(u"rot.png"_s)).pixelColor(3, 3).red());
+    QVERIFY(QDir().mkpath(path(u"b"_s)) && MvTestFiles::write(path(u"b/eintraege"_s), "in the way"));
+    const MvOutcome without = m_project->saveAs(file(u"b/k.mvcalendar"_s));
+    QVERIFY2(without.isOk() && without.notes.join(u' ').contains(u"„Oma Erna“"_s), qPrintable(without.error));
+    QCOMPARE(registry().activeEventList().first().imagePath().isFile(), true);
+}
+
+void tst_MvProjectEntries::calendarsWithoutAListTakeTheUsers()
+{
+    registry().setOwnEvents({entry(u"Oma"_s, {1941, 1, 9})});
+    QCOMPARE(names(registry().activeEventList()), QStringList{u"Oma"_s}); // the new one starts with it
+    QVERIFY(m_project->saveAs(file(u"neu.mvcalendar"_s)).notes.isEmpty());
+    QVERIFY(MvProjectFile::write(document(), file()).isOk());
+    QVERIFY(m_project->open(file()).isOk());
+    QVERIFY(!m_project->isModified());
+    registry().setOwnEvents({registry().ownEvents().first(), entry(u"Opa"_s, {1938, 1, 9})});
+    QCOMPARE(names(registry().activeEventList()).join(u' '), u"Oma Opa"_s); // until it is saved
+    QVERIFY(!m_project->isModified());
+    const MvOutcome saved = m_project->save();
+    QVERIFY2(saved.notes.join(u' ').contains(u"2 aus Ihren Einträgen"_s), qPrintable(saved.notes.join(u' ')));
+    QVERIFY(m_project->save().notes.isEmpty()); // once
+    registry().setOwnEvents({});
+    QCOMPARE(names(registry().activeEventList()).join(u' '), u"Oma Opa"_s);
+    QCOMPARE(names(inFile(file())).join(u' '), u"Oma Opa"_s);
+    QVERIFY(m_project->open(file(u"neu.mvcalendar"_s)).isOk());
+    QCOMPARE(names(registry().activeEventList()), QStringList{u"Oma"_s});
+}
+
+void tst_MvProjectEntries::unreadableListsAreNotReplacedByNothing()
+{
+    MvCalendarDocument packed = document();
+    packed.setEntriesFile(path(u"liste.xml"_s));
+    QVERIFY(MvProjectFile::write(packed, file()).isOk());
+    QVERIFY(MvTestFiles::write(path(u"liste.xml"_s), "<CalendarEvents><CalendarEvent>"));
+    QVERIFY(m_project->open(file()).notes.join(u' ').contains(u"liste.xml"_s));
+    QVERIFY(m_project->save().isOk());
+    QVERIFY(MvTestFiles::write(path(u"liste.xml"_s), MvCalendarEventFile::toBytes({entry(u"Oma"_s, {1941, 1, 9})})));
+    QVERIFY(m_project->open(file()).notes.isEmpty());
+    QCOMPARE(names(registry().activeEventList()), QStringList{u"Oma"_s});
+    QVERIFY(m_project->save().isOk() && QFile::remove(path(u"liste.xml"_s)));
+    QCOMPARE(names(inFile(file())), QStringList{u"Oma"_s}); // it is the calendar's own by now
+
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"calendarEvents.xml"_s));
+    QVERIFY(MvTestFiles::write(path(u"daten/calendarEvents.xml"_s), "<CalendarEvents>"));
+    registry().load();
+    QVERIFY(MvProjectFile::write(document(), file()).isOk());
+    QVERIFY(m_project->open(file()).isOk() && m_project->save().isOk());
+    QVERIFY(!MvProjectFile::read(file()).entries);
+    registry().userFile().dismissReadProblem();
+}
+
+void tst_MvProjectEntries::nobodysChangesAreLost_data()
+{
+    QTest::addColumn<QString>("mine"); // A is there at first; the new name of it, "-" to remove it, or another one
+    QTest::addColumn<QString>("theirs");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("both add") << u"B"_s << u"C"_s << u"A B C"_s;
+    QTest::newRow("they remove") << u"B"_s << u"-"_s << u"B"_s;
+    QTest::newRow("a change outweighs a removal") << u"A1"_s << u"-"_s << u"A1"_s;
+    QTest::newRow("a removal does not undo their change") << u"-"_s << u"A2"_s << u"A2"_s;
+}
+
+/// Two programs have one calendar open: the pages of the later one count, the entries of both.
+void tst_MvProjectEntries::nobodysChangesAreLost()
+{
+    const MvCalendarEvent a = added(u"A"_s);
+    QVERIFY(m_project->saveAs(file()).isOk());
+    const auto changed = [&a](MvCalendarEventList list, const QString &what) {
+        MvCalendarEvent renamed = a;
+        renamed.setEventName(what);
+        if (what == u"-"_s)
+            list.removeFirst();
+        else if (what.startsWith(u'A'))
+            list.first() = renamed;
+        else
+            list.append(entry(what, {2000, 5, 5}));
+        return list;
+    };
+    QFETCH(const QString, mine);
+    QFETCH(const QString, theirs);
+    registry().setEvents(changed(registry().activeEventList(), mine));
+    QVERIFY(MvProjectFile::write(document(), changed({a}, theirs), file()).isOk());
+    QVERIFY(m_project->isFileChangedByOthers());
+    QVERIFY(m_project->save().isOk());
+    QStringList sorted = names(inFile(file()));
+    sorted.sort();
+    QTEST(sorted.join(u' '), "result");
+    QCOMPARE(registry().activeEventList(), inFile(file()));
+    QVERIFY(!m_project->isModified());
+}
+
+void tst_MvProjectEntries::unsavedEntriesAreRecovered()
+{
+    QVERIFY(MvTestFiles::writeFoto(path(u"eintraege/oma.png"_s)));
+    MvCalendarEvent oma = entry(u"Oma"_s, {1941, 1, 9});
+    oma.relocateFoto(MvFoto(file(u"eintraege/oma.png"_s)));
+    QVERIFY(MvProjectFile::write(document(), MvCalendarEventList{oma}, file()).isOk());
+    QVERIFY(m_project->open(file()).isOk());
+    const QString lost = MvProjectAutosave::folder() + u"/verloren.mvcalendar"_s;
+    {
+        MvProjectAutosave autosave(m_project.get());
+        autosave.setDelay(0);
+        added(u"Opa"_s);
+        QTRY_VERIFY(autosave.file().isFile());
+        QVERIFY(QFile::copy(autosave.file().filePath(), lost)); // a program that dies leaves it behind
+    }
+    m_project->newProject(document());
+    QCOMPARE(MvProjectRecovery::found().size(), 1);
+    QVERIFY(MvProjectRecovery::open(MvProjectRecovery::found().first(), *m_project).isOk());
+    QCOMPARE(names(registry().activeEventList()).join(u' '), u"Oma Opa"_s);
+    QVERIFY(registry().activeEventList().first().foto().mayBeOpened()); // beside the calendar, not beside this file
+    QVERIFY(m_project->isModified() && m_project->save().isOk());
+    QCOMPARE(names(inFile(file())).join(u' '), u"Oma Opa"_s);
+
+    QVERIFY(QFile::copy(lost, path(u"fremd.mvcalendar"_s))); // from anybody: no say about other folders
+    QVERIFY(QDir().mkpath(path(u"x"_s)) && QFile::rename(path(u"fremd.mvcalendar"_s), path(u"x/fremd.mvcalendar"_s)));
+    QVERIFY(!inFile(file(u"x/fremd.mvcalendar"_s)).first().foto().mayBeOpened());
+}
+
+MV_TEST_MAIN(tst_MvProjectEntries)
+#include "tst_MvProjectEntries.moc"
