@@ -114,6 +114,7 @@ private:
     void entriesEmpty();
     void entriesHover();
     void entriesMenu();
+    void entriesTake();
     void year();
     void dayFocus();
     void pageMenu();
@@ -194,6 +195,7 @@ QList<Screenshots::State> Screenshots::states()
         {"entries-empty", &S::entriesEmpty, settling},
         {"entries-hover", &S::entriesHover, settling},
         {"entries-menu", &S::entriesMenu, settling},
+        {"entries-take", &S::entriesTake, settling},
         {"day-focus", &S::dayFocus, settling},
         {"page-menu", &S::pageMenu, settling},
         {"file-menu", &S::fileMenu, settling},
@@ -506,6 +508,16 @@ void Screenshots::entriesMenu()
     QTest::qWait(settling);
     auto *button = find<QPushButton>("changeEventListButton");
     button->menu()->popup(button->mapToGlobal(button->rect().bottomLeft()));
+}
+
+void Screenshots::entriesTake()
+{
+    entries();
+    MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
+    events.removeFirst();
+    events.first().setDateTime(events.first().dateTime().addDays(3));
+    MvCalendarEventRegistry::instance().setEvents(events);
+    window()->findChild<MvCalendarEventListWidget *>()->takeFromOwnEvents();
 }
 
 void Screenshots::unfitting()

@@ -3734,6 +3734,10 @@ The context menu replaces it by another photo.</translation>
         <source>Das Foto zu „%1“ fehlt. Es lag in %2</source>
         <translation>The photo of “%1” is missing. It was in %2</translation>
     </message>
+    <message>
+        <source>Das Foto zu „%1“ lässt sich nicht lesen. %2</source>
+        <translation>The photo of “%1” cannot be read. %2</translation>
+    </message>
 </context>
 <context>
     <name>MvPrintCheckDialog</name>
