@@ -166,24 +166,15 @@ void tst_FotoCalendars::ownEntries()
             user);
     QVERIFY2(made.exitCode == 0 && made.err.isEmpty(), made.err.constData());
     const QList<QImage> pages = renderProject(u"k/k.mvcalendar"_s, user);
-    QCOMPARE(pages.size(), 1);
-    QVERIFY(QDir(path(u"daten"_s)).removeRecursively());
-    QVERIFY(QDir().mkpath(path(u"daten"_s)));
+    QVERIFY(pages.size() == 1 && QDir(path(u"daten/calendarEventFotos"_s)).removeRecursively());
     write(path(u"daten/calendarEvents.xml"_s), entriesFile("Jemand anders", "1970-01-20"));
     QVERIFY(QDir().rename(path(u"k"_s), path(u"weg"_s)));
     QCOMPARE(renderProject(u"weg/k.mvcalendar"_s, user), pages);
-    const auto with = [this, &user](const QString &option) {
-        const Call call = run(u"render --dpi 40 -o w.png --project weg/k.mvcalendar "_s + option, user);
-        return call.exitCode == 0 ? QImage(path(u"w.png"_s)) : QImage();
-    };
-    write(path(u"e.xml"_s), gudrun);
-    const QImage others = with(u"--my-entries"_s);
-    const QImage fromFile = with(u"--entries e.xml"_s); // without her photo
-    QVERIFY(!others.isNull() && !fromFile.isNull() && others != fromFile);
-    QVERIFY(others != pages.first() && fromFile != pages.first());
-
-    QCOMPARE(run(u"pack weg/k.mvcalendar -o gepackt"_s, user).exitCode, 0);
-    QCOMPARE(renderProject(u"gepackt/k.mvcalendar"_s, user), pages);
+    write(path(u"e.xml"_s), gudrun); // without her photo
+    for (const QString &option : {u"--my-entries"_s, u"--entries e.xml"_s}) {
+        QCOMPARE(run(u"render --dpi 40 -o w.png --project weg/k.mvcalendar "_s + option, user).exitCode, 0);
+        QVERIFY(QImage(path(u"w.png"_s)) != pages.first());
+    }
     QVERIFY(QDir(path(u"weg/eintraege"_s)).removeRecursively());
     const Call missing = run(u"validate weg/k.mvcalendar --json"_s, user);
     const QJsonArray found = QJsonDocument::fromJson(missing.out).array();

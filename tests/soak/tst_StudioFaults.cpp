@@ -105,7 +105,7 @@ QString storeProject(const QDir &disk, int state)
 {
     MvProject *project = studio().project();
     changeTitle(state);
-    MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(nameOf(state), {1960, 5, 17})});
+    MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(nameOf(state), {1960, 5, 17})}); // saved with it
     if (project->fileInfo().filePath().isEmpty())
         return project->saveAs(QFileInfo(disk.filePath(u"Kalender.mvcalendar"_s))).error;
     return toldAfter([] { studio().window()->projectFlow()->save(); }, [project] { return !project->isModified(); });

@@ -17,6 +17,8 @@
 #include "MvProductBase/MvSVGCompilerInstructionsCache.h"
 #include "MvProductBase/MvSVGImageRendererCache.h"
 
+#include <QSet>
+
 #include <algorithm>
 #include <utility>
 
@@ -220,6 +222,41 @@ void MvCalendarEventRegistry::setOwnEvents(const MvCalendarEventList &events)
     setList(listOf(List::Own), events);
 }
 
+void MvCalendarEventRegistry::addGroups(const MvEventGroupList &groups)
+{
+    MvCalendarEventList events = activeEventList();
+    const qsizetype before = events.groups().size();
+    for (const MvEventGroup &group : groups) {
+        if (group.isValid() && !events.groups().find(group.id))
+            events.groups().append(group);
+    }
+    if (events.groups().size() > before)
+        setEvents(events);
+}
+
+/// Entries that come from the user's list to a document, or back, bring their groups along.
+MvCalendarEventList MvCalendarEventRegistry::withGroups(const MvProjectIdentifier &project,
+                                                        const MvCalendarEventList &events) const
+{
+    const MvProjectIdentifier other = project == DEFAULT_PROJECT_ID ? activeModelId() : DEFAULT_PROJECT_ID;
+    const MvEventGroupList known = eventsOfProject(other).groups();
+    if (known.isEmpty() || other == project)
+        return events;
+    QSet<QString> unknown;
+    for (const MvCalendarEvent &event : events) {
+        const QStringList ids = event.groups();
+        unknown += QSet<QString>(ids.cbegin(), ids.cend());
+    }
+    for (const MvEventGroup &group : events.groups())
+        unknown.remove(group.id);
+    MvCalendarEventList all = events;
+    for (const MvEventGroup &group : known) {
+        if (unknown.contains(group.id))
+            all.groups().append(group);
+    }
+    return all;
+}
+
 void MvCalendarEventRegistry::setList(const MvProjectIdentifier &project, const MvCalendarEventList &events)
 {
     if (m_openChanges > 0) {
@@ -233,8 +270,9 @@ void MvCalendarEventRegistry::setList(const MvProjectIdentifier &project, const 
 }
 
 /// The list goes where it is kept, and its photos with it.
-void MvCalendarEventRegistry::keepList(const MvProjectIdentifier &project, const MvCalendarEventList &events)
+void MvCalendarEventRegistry::keepList(const MvProjectIdentifier &project, const MvCalendarEventList &list)
 {
+    const MvCalendarEventList events = withGroups(project, list);
     if (isKeptByStore(project)) {
         const auto staysThere = [this](const QString &path) { return m_projectStore->holdsFoto(path); };
         m_lists->store(project, m_fotos->withOwnCopies(events, staysThere));

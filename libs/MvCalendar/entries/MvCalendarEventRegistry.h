@@ -113,6 +113,8 @@ public:
     /// Replaces the active list by the valid entries of the list and saves it. Photos that came with an imported file
     /// are copied into the photo folder.
     void setEvents(const MvCalendarEventList &events);
+    /// Adds the groups whose ids the active list does not know: those of entries that are about to come from a file.
+    void addGroups(const MvEventGroupList &groups);
     /// Calls when setEvents() would not have to decode photos any more: copies those that lie elsewhere into the photo
     /// folder, in the background. At once when there is nothing to copy; not at all when the receiver is gone by then.
     void prepareFotos(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);
@@ -180,9 +182,10 @@ private:
 
     MvCalendarEventDay day(const MvCalendariumContentConfig &config, const MvProjectIdentifier &project) const;
     MvProjectIdentifier listOf(List list) const;
+    MvCalendarEventList withGroups(const MvProjectIdentifier &project, const MvCalendarEventList &events) const;
     bool isKeptByStore(const MvProjectIdentifier &project) const;
     void setList(const MvProjectIdentifier &project, const MvCalendarEventList &events);
-    void keepList(const MvProjectIdentifier &project, const MvCalendarEventList &events);
+    void keepList(const MvProjectIdentifier &project, const MvCalendarEventList &list);
     void takeWork(const MvProjectIdentifier &project);
     void replaceEvents(const MvCalendarEventList &events);
     bool isQuiet() const;

@@ -379,6 +379,7 @@ void MvCalendarEventListWidget::readEventList(const QString &fileName, bool merg
 void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, bool merge)
 {
     const MvCalendarEventList current = events();
+    m_session.entries().addGroups(read.groups());
     if (merge)
         replaceEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, read), Reach::AsSet);
     else // a whole list is this calendar's alone: that of a club must not replace the user's own

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvProjectPack.h"
 
+#include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCore/MvFileName.h"
 #include "MvCore/MvRegularFile.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvZipWriter.h"
-#include "MvXML/MvXMLBuilder.h"
 
 #include <QDir>
 #include <QFile>
@@ -18,6 +18,7 @@ namespace {
 
 const QString fotoFolder = u"fotos"_s;
 const QString entriesName = u"eintraege"_s;
+const QByteArray declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 
 /// Gives each source a name in a folder: its own, made safe for any file system, and unlike all others there, whatever
 /// their case.
@@ -137,28 +138,21 @@ void MvProjectPack::takeEntries(MvCalendarDocument &document, const QString &fol
     }
     Names names(entriesName);
     QSet<QString> taken;
-    QDomDocument list;
-    MvXMLBuilder::buildUTF8ProcessingInstructions(list);
-    QDomElement root = MvXMLBuilder::buildRootElement(list, u"CalendarEvents"_s);
-    for (const MvCalendarEvent &event : m_events) {
+    MvCalendarEventList list = m_events;
+    for (MvCalendarEvent &event : list) {
         const QString path = event.foto().mayBeOpened() ? event.foto().localFilePath() : QString();
         const bool hasFoto = !path.isEmpty() && isReadable(path);
         if (!path.isEmpty() && !hasFoto && !contents.missing.contains(path))
             contents.missing.append(path);
+        event.relocateFoto(hasFoto ? MvFoto(QFileInfo(folder + u'/' + names.add(path))) : MvFoto());
         if (hasFoto && !taken.contains(path)) {
             taken.insert(path);
             contents.items.append({names.add(path), path, {}});
             ++contents.fotoCount;
         }
-        QDomElement entry = MvXMLBuilder::buildDomElement(root, u"CalendarEvent"_s);
-        for (const auto &[name, text] : event.fileTexts())
-            MvXMLBuilder::buildDomElement(entry, name,
-                                          name != u"Image"_s ? text
-                                          : hasFoto          ? names.add(path)
-                                                             : QString());
     }
     const QString name = entriesName + u".xml"_s;
-    contents.items.append({name, {}, list.toByteArray(2)});
+    contents.items.append({name, {}, declaration + MvCalendarEventFile::toBytesWithin(list, QDir(folder))});
     document.setEntriesFile(folder + u'/' + name);
     document.setFeature(FEATURE_ENTRIES, true);
 }

@@ -15,6 +15,12 @@ namespace {
 
 constexpr int mostNamed = 8; // entries that were left out
 
+/// With their groups, which comparing lists leaves out.
+bool areEqual(const MvCalendarEventList &a, const MvCalendarEventList &b)
+{
+    return a.isSame(b) || (a == b && a.groups() == b.groups());
+}
+
 } // namespace
 
 MvProjectEntries::MvProjectEntries(MvCalendarEventRegistry &registry, const std::function<void()> &changed)
@@ -79,8 +85,7 @@ MvCalendarEventList MvProjectEntries::list() const
 
 bool MvProjectEntries::isModified() const
 {
-    const MvCalendarEventList present = list();
-    return !m_saved || !(m_saved->isSharedWith(present) || *m_saved == present);
+    return !m_saved || !areEqual(*m_saved, list());
 }
 
 MvProjectFile::Entries MvProjectEntries::toSave() const
@@ -130,7 +135,7 @@ void MvProjectEntries::noteSaved(const ToSave &saved, const QFileInfo &file)
     m_isCopy = false;
     m_isUnknown = false;
     m_saved = saved.list;
-    if (!list().isSharedWith(*saved.list))
+    if (!list().isSame(*saved.list))
         m_registry.setEvents(*saved.list);
     m_saved = list();
 }
@@ -138,7 +143,7 @@ void MvProjectEntries::noteSaved(const ToSave &saved, const QFileInfo &file)
 void MvProjectEntries::followOwn()
 {
     const MvCalendarEventList own = m_registry.ownEvents();
-    if (!m_isCopy || m_isFollowing || list().isSharedWith(own) || list() == own)
+    if (!m_isCopy || m_isFollowing || areEqual(list(), own))
         return;
     m_isFollowing = true;
     m_registry.setEvents(own);
