@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCalendar/MvEntryIntake.h"
 
 #include <QDir>
 
@@ -16,7 +17,7 @@ constexpr int mostHints = 20;
 
 MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
 {
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
+    const MvCalendarEventFile::Content content = MvEntryIntake::readAsList(file);
     MvRenderEntries entries;
     entries.m_file = file;
     entries.m_isFile = true;

@@ -90,6 +90,11 @@ QStringList MvCalendarEventRegistry::descriptions(const MvCalendariumContentKey 
     return std::as_const(*this).descriptions(key);
 }
 
+QList<MvEventText> MvCalendarEventRegistry::texts(const MvCalendariumContentKey &key) const
+{
+    return day(key.config(), key.project()).texts();
+}
+
 QStringList MvCalendarEventRegistry::descriptions(const MvCalendariumContentKey &key) const
 {
     return day(key.config(), key.project()).descriptions();
@@ -177,12 +182,15 @@ MvCalendarEventList MvCalendarEventRegistry::eventsOfProject(const MvProjectIden
 
 void MvCalendarEventRegistry::setEvents(const MvCalendarEventList &events)
 {
+    MvCalendarEventList all = validOnly(events);
+    if (all.groups().isEmpty()) // whoever puts a list together means its entries
+        all.setGroups(activeEventList().groups());
     if (m_openChanges > 0) {
-        m_lists->store(activeModelId(), validOnly(events));
+        m_lists->store(activeModelId(), all);
         m_hasOpenChanges = true;
         return;
     }
-    const MvCalendarEventList own = m_fotos->withOwnCopies(validOnly(events));
+    const MvCalendarEventList own = m_fotos->withOwnCopies(all);
     m_keptProject = activeModelId();
     m_userFile->keep(own, [this](const MvCalendarEventList &all) { m_lists->store(m_keptProject, all); });
     Q_EMIT eventsChanged();
