@@ -64,6 +64,46 @@ static void lookUpPage(benchmark::State &state)
 }
 BENCHMARK(lookUpPage)->Unit(benchmark::kMicrosecond);
 
+/// As many entries, a tenth of them by rules; what falls into March is the same, however many there are.
+static MvCalendarEventList entriesByRules(qsizetype count)
+{
+    MvCalendarEventList events;
+    const auto add = [&events](const QDate &date, const QString &rule) {
+        MvCalendarEvent event(QStringLiteral("Eintrag %1").arg(events.size()), date.startOfDay(), true, MvFoto(),
+                              QUuid::createUuid(), QDateTime());
+        MvEventRepetition repetition;
+        if (!rule.isEmpty())
+            repetition.rule = MvRecurrenceRule::parse(rule).rule;
+        event.setRepetition(repetition);
+        events.append(event);
+    };
+    for (int i = 0; i < 100; ++i)
+        add(QDate(2020, 3, 1).addDays(i % 31), i % 10 ? QString() : QStringLiteral("FREQ=WEEKLY"));
+    while (events.size() < count)
+        add(QDate(2020, 4, 1).addDays(events.size() % 300),
+            events.size() % 10 ? QString() : QStringLiteral("FREQ=DAILY;INTERVAL=9;BYMONTH=4,7,11"));
+    return events;
+}
+
+static void lookUpMonth(benchmark::State &state)
+{
+    const MvCalendarEventIndex index(entriesByRules(state.range(0)));
+    const auto lookUp = [&index] {
+        qsizetype letters = 0;
+        for (int day = 0; day < 31; ++day) {
+            index.visit(QDate(2027, 3, 1).addDays(day), [&letters](const MvCalendarEvent &event) {
+                letters += event.description().size();
+                return false;
+            });
+        }
+        return letters;
+    };
+    lookUp(); // evaluates the year, once
+    for (auto _ : state)
+        benchmark::DoNotOptimize(lookUp());
+}
+BENCHMARK(lookUpMonth)->Arg(100)->Arg(100000)->Unit(benchmark::kMicrosecond);
+
 /// One step that removes or adds all entries by a command each, as the list of entries does it.
 static void changeAll(const MvCalendarEventList &removed, const MvCalendarEventList &added)
 {

@@ -2,6 +2,7 @@
 #include "MvCli.h"
 
 #include "MvColorsCommand.h"
+#include "MvEntriesCommand.h"
 #include "MvHolidaysCommand.h"
 #include "MvNearMiss.h"
 #include "MvNewCommand.h"
@@ -50,6 +51,7 @@ MvCli::MvCli()
     m_commands.push_back(std::make_unique<MvColorsCommand>());
     m_commands.push_back(std::make_unique<MvRegionsCommand>());
     m_commands.push_back(std::make_unique<MvHolidaysCommand>());
+    m_commands.push_back(std::make_unique<MvEntriesCommand>());
 }
 
 int MvCli::run(const QStringList &arguments, QTextStream &out, QTextStream &err) const

@@ -43,6 +43,9 @@ QList<MvCliOption> MvRenderCommand::options() const
                {u"entries"_s, tr("DATEI"),
                 tr("persönliche Einträge aus dieser Datei; was darin nicht lesbar ist, wird genannt")},
                {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge, ebenso")},
+               {u"entry-text"_s, tr("MUSTER"), tr("wie sie zu lesen sind, mit %name, %age, %year: \"%name (%age)\"")},
+               {u"hide-group"_s, tr("NAME"), tr("Einträge dieser Gruppe weglassen"), true},
+               {u"entry-times"_s, {}, tr("mit ihren Uhrzeiten")},
                {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027), mit --photos auch auf dem Titelblatt")},
                {u"author"_s, u"TEXT"_s, tr("Verfasser im PDF")},
                {u"pages"_s, tr("LISTE"), tr("nur diese Seiten: 1-3,7 oder cover, months, free, back")},
@@ -109,6 +112,8 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     const MvRenderEntries entries = takeEntries(values, made, document);
     if (!entries.error().isEmpty())
         return failed(entries.error());
+    if (const QString error = takeEntryDisplay(arguments, entries, document); !error.isEmpty())
+        return misused(error);
     entries.printHints(streams.hints);
     printHints(document, entries, values.has(u"vacations"_s), hints.stream());
     return write(document, chosen.numbers, entries, arguments, dpi, {streams.out, hints.stream()});
@@ -124,6 +129,25 @@ MvCliCommand::Result MvRenderCommand::checkTargets(const QStringList &paths, con
             if (!checked.isOk())
                 return failed(checked.error);
     }
+    return {};
+}
+
+QString MvRenderCommand::takeEntryDisplay(const MvCliArguments &arguments, const MvRenderEntries &entries,
+                                          MvCalendarDocument &document)
+{
+    MvEntryDisplay display = document.entryDisplay();
+    if (arguments.has(u"entry-text"_s))
+        display.text = arguments.value(u"entry-text"_s);
+    display.showTimes = display.showTimes || arguments.has(u"entry-times"_s);
+    const MvEventGroupList groups = entries.list().groups();
+    for (const QString &name : arguments.values(u"hide-group"_s)) {
+        const MvEventGroup *group = groups.findName(name);
+        if (!group)
+            return tr("--hide-group „%1“: eine solche Gruppe haben die Einträge nicht").arg(name);
+        display.hiddenGroups.append(group->id);
+    }
+    if (display != document.entryDisplay())
+        document.setEntryDisplay(display);
     return {};
 }
 
@@ -214,7 +238,7 @@ void MvRenderCommand::hintAtLeapDayEntries(const MvRenderEntries &entries, QText
     QStringList names;
     for (const MvCalendarEvent &event : entries.list()) {
         const QDate date = event.dateTime().date();
-        if (date.month() == 2 && date.day() == 29)
+        if (date.month() == 2 && date.day() == 29 && event.isByDayOfYear())
             names.append(event.description());
     }
     if (!names.isEmpty())

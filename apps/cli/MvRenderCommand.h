@@ -30,6 +30,9 @@ private:
     /// Loads the entries that were asked for and has the pages show them.
     static MvRenderEntries takeEntries(const MvCliValues &values, const MvCliProject &project,
                                        MvCalendarDocument &document);
+    /// Which of them are shown and how they read; the error is a sentence.
+    static QString takeEntryDisplay(const MvCliArguments &arguments, const MvRenderEntries &entries,
+                                    MvCalendarDocument &document);
     /// What a person should know before printing.
     static void printHints(const MvCalendarDocument &document, const MvRenderEntries &entries, bool areVacationsAsked,
                            QTextStream &hints);

@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCalendar/MvEntryIntake.h"
 
 #include <QDir>
 
@@ -18,7 +19,7 @@ MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
 {
     MvRenderEntries entries;
     entries.m_isFile = true;
-    entries.take(MvCalendarEventFile::read(file), file);
+    entries.take(MvEntryIntake::readAsList(file), file);
     return entries;
 }
 

@@ -101,6 +101,16 @@
     </message>
 </context>
 <context>
+    <name>MvEntriesCommand</name>
+    <message numerus="yes">
+        <source>%1: %n weitere ausgelassen</source>
+        <translation>
+            <numerusform>%1: %n weiterer ausgelassen</numerusform>
+            <numerusform>%1: %n weitere ausgelassen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvExportDialog</name>
     <message numerus="yes">
         <source>Schon vorhanden und ersetzt werden: %n Dateien.</source>

@@ -208,11 +208,11 @@
     <name>MvCalendarEvent</name>
     <message>
         <source>„%1“ als %2 ist nicht zu lesen</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” as %2 cannot be read</translation>
     </message>
     <message>
         <source>die Wiederholung ist nicht zu verstehen: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>the repetition cannot be understood: %1</translation>
     </message>
 </context>
 <context>
@@ -310,15 +310,15 @@
     </message>
     <message>
         <source>der Gruppe fehlt Kennung oder Name</source>
-        <translation type="unfinished"></translation>
+        <translation>the group lacks its id or name</translation>
     </message>
     <message>
         <source>die Gruppe „%1“ steht zweimal da</source>
-        <translation type="unfinished"></translation>
+        <translation>the group “%1” is there twice</translation>
     </message>
     <message>
         <source>die Farbe „%1“ ist nicht zu lesen</source>
-        <translation type="unfinished"></translation>
+        <translation>the colour “%1” cannot be read</translation>
     </message>
 </context>
 <context>
@@ -1563,6 +1563,76 @@
     </message>
 </context>
 <context>
+    <name>MvEntriesCommand</name>
+    <message>
+        <source>jedes Jahr</source>
+        <translation>every year</translation>
+    </message>
+    <message>
+        <source>einmal</source>
+        <translation>once</translation>
+    </message>
+    <message>
+        <source>zeigt persönliche Einträge, übernimmt sie aus anderen Programmen, gibt sie weiter</source>
+        <translation>lists personal entries, takes them from other programs, gives them to others</translation>
+    </message>
+    <message>
+        <source>WAS</source>
+        <translation>WHAT</translation>
+    </message>
+    <message>
+        <source>list, import, export oder check</source>
+        <translation>list, import, export or check</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>Liste (XML), Kalender (iCalendar) oder Tabelle (CSV, TSV), am Inhalt erkannt; - ist die Standardeingabe. Ohne: die eigenen Einträge</source>
+        <translation>a list (XML), calendar (iCalendar) or table (CSV, TSV), known by its content; - is standard input. Without: your own entries</translation>
+    </message>
+    <message>
+        <source>import: in diese Liste (XML) statt in die eigenen Einträge</source>
+        <translation>import: into this list (XML) instead of your own entries</translation>
+    </message>
+    <message>
+        <source>export: wohin (Standardausgabe)</source>
+        <translation>export: where to (standard output)</translation>
+    </message>
+    <message>
+        <source>es fehlt, was zu tun ist: list, import, export oder check</source>
+        <translation>what to do is missing: list, import, export or check</translation>
+    </message>
+    <message>
+        <source>„%1“ gibt es nicht; möglich sind list, import, export, check</source>
+        <translation>there is no “%1”; possible are list, import, export, check</translation>
+    </message>
+    <message>
+        <source>nach %1 fehlt die Datei</source>
+        <translation>the file is missing after %1</translation>
+    </message>
+    <message>
+        <source>%1 ist nicht vollständig lesbar und bleibt, wie es ist: %2</source>
+        <translation>%1 cannot be read completely and stays as it is: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2 Einträge, %3 ausgelassen</source>
+        <translation>%1: %2 entries, %3 left out</translation>
+    </message>
+    <message>
+        <source>%1: ausgelassen: %2</source>
+        <translation>%1: left out: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n weitere ausgelassen</source>
+        <translation>
+            <numerusform>%1: %n more left out</numerusform>
+            <numerusform>%1: %n more left out</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvEntriesFlow</name>
     <message>
         <source>Eine frühere Fassung gibt es nicht.</source>
@@ -1663,6 +1733,135 @@
     <message>
         <source>Ihre letzten Änderungen an Ihren eigenen Einträgen sind noch nicht gespeichert.</source>
         <translation>Your latest changes to your own entries are not saved yet.</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryIntake</name>
+    <message>
+        <source>%1 neu, %2 geändert, %3 gleich, %4 ausgelassen</source>
+        <translation>%1 new, %2 changed, %3 the same, %4 left out</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: Die Datei ist größer als %2 MB.</source>
+        <translation>%1: The file is larger than %2 MB.</translation>
+    </message>
+    <message>
+        <source>Das ist weder eine Liste von Einträgen noch ein Kalender (iCalendar) noch eine Tabelle (CSV).</source>
+        <translation>This is neither a list of entries nor a calendar (iCalendar) nor a table (CSV).</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryTable</name>
+    <message>
+        <source>der Name fehlt</source>
+        <translation>the name is missing</translation>
+    </message>
+    <message>
+        <source>das Datum fehlt</source>
+        <translation>the date is missing</translation>
+    </message>
+    <message>
+        <source>das Datum</source>
+        <translation>the date</translation>
+    </message>
+    <message>
+        <source>%1 „%2“ ist nicht zu lesen</source>
+        <translation>%1 “%2” cannot be read</translation>
+    </message>
+    <message>
+        <source>das Ende</source>
+        <translation>the end</translation>
+    </message>
+    <message>
+        <source>er dauert länger als ein Jahr</source>
+        <translation>it lasts longer than a year</translation>
+    </message>
+    <message>
+        <source>die Uhrzeit</source>
+        <translation>the time</translation>
+    </message>
+    <message>
+        <source>die Wiederholung</source>
+        <translation>the repetition</translation>
+    </message>
+    <message>
+        <source>Die Tabelle hat keine Spalte, in der Namen stehen, und eine mit Daten wie „17.05.2027“.</source>
+        <translation>The table does not have a column of names and one of dates such as “17.05.2027”.</translation>
+    </message>
+    <message>
+        <source>die Tabelle hat mehr als %1 Zeilen</source>
+        <translation>the table has more than %1 rows</translation>
+    </message>
+</context>
+<context>
+    <name>MvEventRepetitionEdit</name>
+    <message>
+        <source>Ohne 29. Februar:</source>
+        <translation>Without 29 February:</translation>
+    </message>
+    <message>
+        <source>Wiederholung</source>
+        <translation>Repetition</translation>
+    </message>
+    <message>
+        <source>Einmal</source>
+        <translation>Once</translation>
+    </message>
+    <message>
+        <source>Jedes Jahr</source>
+        <translation>Every year</translation>
+    </message>
+    <message>
+        <source>Alle 2 Jahre</source>
+        <translation>Every 2 years</translation>
+    </message>
+    <message>
+        <source>Jede Woche</source>
+        <translation>Every week</translation>
+    </message>
+    <message>
+        <source>Alle 2 Wochen</source>
+        <translation>Every 2 weeks</translation>
+    </message>
+    <message>
+        <source>Jeden Monat am selben Tag</source>
+        <translation>Every month on the same day</translation>
+    </message>
+    <message>
+        <source>Jeden Monat am selben Wochentag</source>
+        <translation>Every month on the same weekday</translation>
+    </message>
+    <message>
+        <source>Jeden Monat am letzten dieses Wochentags</source>
+        <translation>Every month on the last such weekday</translation>
+    </message>
+    <message>
+        <source>Zuletzt am</source>
+        <translation>Last on</translation>
+    </message>
+    <message>
+        <source>Gruppe</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>Dauert bis</source>
+        <translation>Lasts until</translation>
+    </message>
+    <message>
+        <source>nur in Schaltjahren</source>
+        <translation>in leap years only</translation>
+    </message>
+    <message>
+        <source>am 28. Februar</source>
+        <translation>on 28 February</translation>
+    </message>
+    <message>
+        <source>am 1. März</source>
+        <translation>on 1 March</translation>
     </message>
 </context>
 <context>
@@ -2858,6 +3057,57 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>ddd dd.MM.yyyy</source>
         <translation>ddd d MMM yyyy</translation>
+    </message>
+</context>
+<context>
+    <name>MvICalendar</name>
+    <message>
+        <source>das Datum „%1“ ist nicht zu lesen</source>
+        <translation>the date “%1” cannot be read</translation>
+    </message>
+    <message>
+        <source>die Datei endet mittendrin</source>
+        <translation>the file ends in the middle</translation>
+    </message>
+    <message>
+        <source>Das ist kein Kalender (iCalendar).</source>
+        <translation>This is no calendar (iCalendar).</translation>
+    </message>
+    <message>
+        <source>Aufgaben und Notizen sind keine Einträge</source>
+        <translation>tasks and notes are no entries</translation>
+    </message>
+    <message>
+        <source>der Termin ist abgesagt</source>
+        <translation>the event is cancelled</translation>
+    </message>
+    <message>
+        <source>der Name fehlt</source>
+        <translation>the name is missing</translation>
+    </message>
+    <message>
+        <source>das Datum fehlt</source>
+        <translation>the date is missing</translation>
+    </message>
+    <message>
+        <source>abgesagt</source>
+        <translation>cancelled</translation>
+    </message>
+    <message>
+        <source>die Dauer „%1“ ist nicht zu lesen</source>
+        <translation>the duration “%1” cannot be read</translation>
+    </message>
+    <message>
+        <source>er dauert länger als ein Jahr</source>
+        <translation>it lasts longer than a year</translation>
+    </message>
+    <message>
+        <source>mehrere Regeln der Wiederholung sind nicht auszuwerten</source>
+        <translation>several rules of repetition cannot be evaluated</translation>
+    </message>
+    <message>
+        <source>die Wiederholung ist nicht auszuwerten: %1</source>
+        <translation>the repetition cannot be evaluated: %1</translation>
     </message>
 </context>
 <context>
@@ -4201,11 +4451,111 @@ Save it under another name or in another folder.</translation>
     <name>MvRecurrenceRule</name>
     <message>
         <source>, %1-mal</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 times</translation>
     </message>
     <message>
         <source>, bis %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, until %1</translation>
+    </message>
+    <message>
+        <source>„%1“ ist keine Angabe einer Wiederholung oder steht zweimal da</source>
+        <translation>“%1” is no part of a repetition or is there twice</translation>
+    </message>
+    <message>
+        <source>„%1“ ist bei Wiederholungen nicht bekannt</source>
+        <translation>“%1” is not known of repetitions</translation>
+    </message>
+    <message>
+        <source>„%1=%2“ ist nicht zu lesen</source>
+        <translation>“%1=%2” cannot be read</translation>
+    </message>
+    <message>
+        <source>sie wiederholt sich öfter als einmal am Tag</source>
+        <translation>it repeats more often than once a day</translation>
+    </message>
+    <message>
+        <source>es steht nicht da, wie oft sie sich wiederholt (FREQ)</source>
+        <translation>it does not say how often it repeats (FREQ)</translation>
+    </message>
+    <message>
+        <source>COUNT und UNTIL stehen zugleich da</source>
+        <translation>COUNT and UNTIL are there at once</translation>
+    </message>
+    <message>
+        <source>den wievielten Wochentag gibt es nur in Monaten und Jahren</source>
+        <translation>only months and years have an nth weekday</translation>
+    </message>
+    <message>
+        <source>Wochen des Jahres gibt es nur bei jährlicher Wiederholung</source>
+        <translation>weeks of the year go with yearly repetition only</translation>
+    </message>
+    <message>
+        <source>Tage des Jahres gibt es nur bei jährlicher Wiederholung</source>
+        <translation>days of the year go with yearly repetition only</translation>
+    </message>
+    <message>
+        <source>Tage des Monats gibt es nicht bei wöchentlicher Wiederholung</source>
+        <translation>days of the month do not go with weekly repetition</translation>
+    </message>
+    <message>
+        <source>BYSETPOS steht allein da</source>
+        <translation>BYSETPOS stands alone</translation>
+    </message>
+    <message>
+        <source>letzten</source>
+        <translation>last</translation>
+    </message>
+    <message>
+        <source>%1.-letzten</source>
+        <translation>%1th last</translation>
+    </message>
+    <message>
+        <source>jeden Tag</source>
+        <translation>every day</translation>
+    </message>
+    <message>
+        <source>alle %1 Tage</source>
+        <translation>every %1 days</translation>
+    </message>
+    <message>
+        <source>jede Woche</source>
+        <translation>every week</translation>
+    </message>
+    <message>
+        <source>alle %1 Wochen</source>
+        <translation>every %1 weeks</translation>
+    </message>
+    <message>
+        <source>jeden Monat</source>
+        <translation>every month</translation>
+    </message>
+    <message>
+        <source>alle %1 Monate</source>
+        <translation>every %1 months</translation>
+    </message>
+    <message>
+        <source>jedes Jahr</source>
+        <translation>every year</translation>
+    </message>
+    <message>
+        <source>alle %1 Jahre</source>
+        <translation>every %1 years</translation>
+    </message>
+    <message>
+        <source> am %1</source>
+        <translation> on %1</translation>
+    </message>
+    <message>
+        <source> am %1 %2</source>
+        <translation> on the %1 %2</translation>
+    </message>
+    <message>
+        <source> am letzten Tag</source>
+        <translation> on the last day</translation>
+    </message>
+    <message>
+        <source> am %1.</source>
+        <translation> on the %1.</translation>
     </message>
 </context>
 <context>
@@ -4307,6 +4657,30 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>nur diese Seiten: 1-3,7 oder cover, months, free, back</source>
         <translation>only these pages: 1-3,7 or cover, months, free, back</translation>
+    </message>
+    <message>
+        <source>MUSTER</source>
+        <translation>PATTERN</translation>
+    </message>
+    <message>
+        <source>wie sie zu lesen sind, mit %name, %age, %year: &quot;%name (%age)&quot;</source>
+        <translation>how they read, with %name, %age, %year: &quot;%name (%age)&quot;</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>Einträge dieser Gruppe weglassen</source>
+        <translation>leave out entries of this group</translation>
+    </message>
+    <message>
+        <source>mit ihren Uhrzeiten</source>
+        <translation>with their times</translation>
+    </message>
+    <message>
+        <source>--hide-group „%1“: eine solche Gruppe haben die Einträge nicht</source>
+        <translation>--hide-group “%1”: the entries have no such group</translation>
     </message>
 </context>
 <context>
@@ -5816,53 +6190,6 @@ Designs photo calendars and prints them.
     <message>
         <source>%1 lässt sich nicht schreiben: %2</source>
         <translation>%1 cannot be written: %2</translation>
-    </message>
-</context>
-<context>
-    <name>Reading</name>
-    <message>
-        <source>„%1“ ist keine Angabe einer Wiederholung oder steht zweimal da</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>„%1“ ist bei Wiederholungen nicht bekannt</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>„%1=%2“ ist nicht zu lesen</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>sie wiederholt sich öfter als einmal am Tag</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>es steht nicht da, wie oft sie sich wiederholt (FREQ)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>COUNT und UNTIL stehen zugleich da</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>den wievielten Wochentag gibt es nur in Monaten und Jahren</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Wochen des Jahres gibt es nur bei jährlicher Wiederholung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tage des Jahres gibt es nur bei jährlicher Wiederholung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tage des Monats gibt es nicht bei wöchentlicher Wiederholung</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>BYSETPOS steht allein da</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

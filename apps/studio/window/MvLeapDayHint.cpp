@@ -32,7 +32,7 @@ void MvLeapDayHint::look()
     QStringList names;
     for (const MvCalendarEvent &event : m_project->session().entries().activeEventList()) {
         const QDate date = event.dateTime().date();
-        if (date.month() != 2 || date.day() != 29)
+        if (date.month() != 2 || date.day() != 29 || !event.isByDayOfYear())
             continue;
         const auto key = qMakePair(event.uuid(), event.description());
         m_known.insert(key);

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvEventText.h"
 #include "MvCalendar/mvcalendar_export.h"
 
+#include "MvProductBase/MvEntryDisplay.h"
 #include "MvProductBase/MvImageReference.h"
 
 #include <QDate>
@@ -23,6 +25,8 @@ public:
     MvCalendarEventDay(const MvCalendarEventIndex *index, const MvCalendariumContentConfig &config);
 
     MvCalendarEventList events() const;
+    /// What a page writes of them.
+    QList<MvEventText> texts() const;
     QStringList descriptions() const;
     /// Of the first entry whose photo exists and may be opened.
     MvImageReference imageFile() const;
@@ -35,4 +39,5 @@ private:
 
     const MvCalendarEventIndex *m_index;
     QDate m_day;
+    MvEntryDisplay m_display;
 };

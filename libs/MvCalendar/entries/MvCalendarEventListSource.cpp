@@ -22,6 +22,11 @@ MvCalendarEventList MvCalendarEventListSource::events(const MvCalendariumContent
     return MvCalendarEventDay(&m_index, key.config()).events();
 }
 
+QList<MvEventText> MvCalendarEventListSource::texts(const MvCalendariumContentKey &key) const
+{
+    return MvCalendarEventDay(&m_index, key.config()).texts();
+}
+
 QStringList MvCalendarEventListSource::descriptions(const MvCalendariumContentKey &key) const
 {
     return MvCalendarEventDay(&m_index, key.config()).descriptions();

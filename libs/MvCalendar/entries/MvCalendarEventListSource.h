@@ -17,6 +17,7 @@ public:
     /// An invalid one.
     MvProjectIdentifier project() const override;
     MvCalendarEventList events(const MvCalendariumContentKey &key) const override;
+    QList<MvEventText> texts(const MvCalendariumContentKey &key) const override;
     QStringList descriptions(const MvCalendariumContentKey &key) const override;
     MvImageReference imageFile(const MvCalendariumContentKey &key) const override;
     QImage eventImage(const MvCalendariumContentKey &key, const QSize &bounds, MvFotoSource &fotos) const override;

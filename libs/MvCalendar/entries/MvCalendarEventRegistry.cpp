@@ -93,6 +93,11 @@ QStringList MvCalendarEventRegistry::descriptions(const MvCalendariumContentKey 
     return std::as_const(*this).descriptions(key);
 }
 
+QList<MvEventText> MvCalendarEventRegistry::texts(const MvCalendariumContentKey &key) const
+{
+    return day(key.config(), key.project()).texts();
+}
+
 QStringList MvCalendarEventRegistry::descriptions(const MvCalendariumContentKey &key) const
 {
     return day(key.config(), key.project()).descriptions();
@@ -259,13 +264,16 @@ MvCalendarEventList MvCalendarEventRegistry::withGroups(const MvProjectIdentifie
 
 void MvCalendarEventRegistry::setList(const MvProjectIdentifier &project, const MvCalendarEventList &events)
 {
+    MvCalendarEventList all = validOnly(events);
+    if (all.groups().isEmpty()) // whoever puts a list together means its entries
+        all.setGroups(eventsOfProject(project).groups());
     if (m_openChanges > 0) {
-        m_lists->store(project, validOnly(events));
+        m_lists->store(project, all);
         if (!m_openlyChanged.contains(project))
             m_openlyChanged.append(project);
         return;
     }
-    keepList(project, validOnly(events));
+    keepList(project, all);
     Q_EMIT eventsChanged();
 }
 

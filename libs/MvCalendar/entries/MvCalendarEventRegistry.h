@@ -76,6 +76,7 @@ public:
     // the same for painting
     MvProjectIdentifier project() const override { return activeModelId(); }
     MvCalendarEventList events(const MvCalendariumContentKey &key) const override;
+    QList<MvEventText> texts(const MvCalendariumContentKey &key) const override;
     QStringList descriptions(const MvCalendariumContentKey &key) const override;
     QImage eventImage(const MvCalendariumContentKey &key, const QSize &bounds, MvFotoSource &fotos) const override;
 

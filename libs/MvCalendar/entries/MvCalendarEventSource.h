@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvEventText.h"
 #include "MvCalendar/mvcalendar_export.h"
 
 #include "MvModelBase/MvProjectIdentifier.h"
@@ -33,7 +34,10 @@ public:
     virtual MvProjectIdentifier project() const = 0;
     /// The entries of the key's document on the key's day, in list order.
     virtual MvCalendarEventList events(const MvCalendariumContentKey &key) const = 0;
-    /// Their names.
+    /// What a page writes of those that the key's configuration shows, in list order; an entry that lasts several days
+    /// on each of them. By default the names.
+    virtual QList<MvEventText> texts(const MvCalendariumContentKey &key) const;
+    /// The same as plain texts.
     virtual QStringList descriptions(const MvCalendariumContentKey &key) const = 0;
     /// The photo's file of the first of them whose photo exists and may be opened, with its size; else empty.
     virtual MvImageReference imageFile(const MvCalendariumContentKey &key) const = 0;

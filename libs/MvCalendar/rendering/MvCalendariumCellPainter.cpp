@@ -3,6 +3,8 @@
 
 #include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumCellLine.h"
+#include "MvCalendar/MvCalendariumColorCellInfo.h"
+#include "MvCalendar/MvCalendariumDays.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvDayTextPlacement.h"
 #include "MvCalendar/MvDayTextRow.h"
@@ -45,6 +47,38 @@ constexpr int topTexts = wrappingText | Qt::AlignTop | Qt::AlignHCenter;
 constexpr int bottomTexts = wrappingText | Qt::AlignBottom | Qt::AlignHCenter;
 constexpr double leastMargin = 1.0;
 constexpr double widestFotoBesideTexts = 0.5; // of a wide cell
+constexpr double readableContrast = 4.5;
+constexpr double strengthOfBars = 0.45; // of those without a colour: between ground and text
+constexpr double mostOfCell = 0.4;      // that bars may take
+
+QColor mixed(const QColor &a, const QColor &b, double share)
+{
+    const auto mix = [share](float one, float other) { return float(one + (other - one) * share); };
+    return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
+}
+
+/// What is left of a text when it is broken into lines.
+qsizetype lengthOf(const QString &text)
+{
+    return std::count_if(text.cbegin(), text.cend(), [](QChar c) {
+        return !c.isSpace() && c != u'-' && c != QChar(0x2010) && c.category() != QChar::Other_Format;
+    });
+}
+
+/// To which text each of the lines belongs; every text begins on a new line.
+QList<qsizetype> ownersOf(const QStringList &lines, const QStringList &texts)
+{
+    QList<qsizetype> owners;
+    qsizetype text = 0;
+    qsizetype left = texts.isEmpty() ? 0 : lengthOf(texts.constFirst());
+    for (const QString &line : lines) {
+        while (left <= 0 && text + 1 < texts.size())
+            left = lengthOf(texts.at(++text));
+        owners.append(text);
+        left -= lengthOf(line);
+    }
+    return owners;
+}
 
 } // namespace
 
@@ -186,6 +220,11 @@ void MvCalendariumCellPainter::drawDayNumber(const QRectF &rect, const QDate &da
     } else {
         Q_EMIT m_renderer.rectForDateFound(date, rect);
         reportMissingTexts(rect, date);
+        if (const MvSpanBars::Bars bars = m_renderer.days().bars(date); !bars.isEmpty()) {
+            const MvCalendariumCellLine number =
+                numberLine(rect, config.inscriptionConfig(), QString::number(date.day()));
+            drawBars(rect, date, even, bars, number.isEmpty() ? QRectF() : number.ink());
+        }
     }
     drawNumber(rect, config, QString::number(date.day()), even, date);
 }
@@ -204,21 +243,33 @@ bool MvCalendariumCellPainter::drawHoliday(const QRectF &rect, const QDate &date
     Q_EMIT m_renderer.rectForDateFound(date, rect);
     const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
     const MvCalendarCellType &type = config.inscriptionConfig();
-    const QRectF inner = rect.marginsRemoved(m_renderer.padding(type));
     const QColor color = m_renderer.fontColor(config, even);
-    const QStringList texts = m_renderer.describeHolidays(date);
+    const MvCalendariumDay day = m_renderer.day(date);
+    const MvSpanBars::Bars bars = m_renderer.days().bars(date);
+    QRectF inner = rect.marginsRemoved(m_renderer.padding(type));
+    if (day.texts.isEmpty() && bars.isEmpty())
+        return drawPicture(date, inner);
+    const MvCalendariumCellLine number = numberLine(rect, type, QString::number(date.day()));
+    inner &= drawBars(rect, date, even, bars, number.isEmpty() ? QRectF() : number.ink());
+    const QStringList &texts = day.texts;
     if (!m_renderer.isOpaqueColor(color) || texts.isEmpty())
         return drawPicture(date, inner);
 
     const MvTextFitter fitter = m_renderer.holidayFitter(type);
-    const MvCalendariumCellLine number = numberLine(rect, type, QString::number(date.day()));
     const MvDayCell cell{rect, inner, m_renderer.textAlignment(type), QFontMetricsF(number.font()).height(),
                          number.isEmpty() ? QRectF() : number.ink()};
     const MvPlacedTexts placed = MvDayTextPlacement(cell, fitter).place(texts);
     m_painter.save();
     preparePen(placed.text.font, color);
     m_painter.setClipRect(rect, Qt::IntersectClip);
-    drawPlaced(placed);
+    if (day.colors.isEmpty()) {
+        drawPlaced(placed);
+    } else {
+        QList<QColor> colors;
+        for (const QColor &own : day.colors)
+            colors.append(readable(own, date, even));
+        drawPlaced(placed, texts, colors);
+    }
     m_painter.restore();
     reportCut(date, placed.text, rect);
     m_renderer.reportMissingGlyphs(date, texts, placed.text.font, rect);
@@ -240,16 +291,95 @@ void MvCalendariumCellPainter::drawPlaced(const MvPlacedTexts &texts)
     draw(m_painter, texts.room, bottomTexts, texts.bottom);
 }
 
+/// Each text in its colour: the lines of one colour together, with the places of the others left free.
+void MvCalendariumCellPainter::drawPlaced(const MvPlacedTexts &texts, const QStringList &written,
+                                          const QList<QColor> &colors)
+{
+    const QList<qsizetype> owners = ownersOf(texts.top + texts.bottom, written);
+    QList<QColor> different;
+    for (const QColor &color : colors) {
+        if (!different.contains(color))
+            different.append(color);
+    }
+    for (const QColor &color : std::as_const(different)) {
+        MvPlacedTexts part = texts;
+        for (qsizetype i = 0; i < owners.size(); ++i) {
+            if (colors.value(owners.at(i)) != color)
+                (i < texts.top.size() ? part.top[i] : part.bottom[i - texts.top.size()]).clear();
+        }
+        m_painter.setPen(color);
+        drawPlaced(part);
+    }
+}
+
+/// The colour, mixed with that of the page's texts as far as it must be to be read on the day's ground.
+QColor MvCalendariumCellPainter::readable(const QColor &color, const QDate &date, bool even) const
+{
+    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
+    const QColor text = m_renderer.fontColor(config, even);
+    if (!color.isValid())
+        return text;
+    MvCalendariumColorCellInfo cell;
+    cell.setBackgroundColor(m_renderer.backgroundColor(config, even), true);
+    constexpr int steps = 10;
+    for (int step = 0; step < steps; ++step) {
+        const QColor tried = mixed(color, text, double(step) / steps);
+        cell.setFontColor(tried, true);
+        if (cell.cellContrast(Qt::white, true) >= readableContrast)
+            return tried;
+    }
+    return text;
+}
+
+QColor MvCalendariumCellPainter::colorOf(const QList<QColor> &colors, const QDate &date, bool even) const
+{
+    const bool isOne = !colors.isEmpty() && colors.count(colors.constFirst()) == colors.size();
+    return readable(isOne ? colors.constFirst() : QColor(), date, even);
+}
+
+QRectF MvCalendariumCellPainter::drawBars(const QRectF &rect, const QDate &date, bool even,
+                                          const MvSpanBars::Bars &bars, const QRectF &numberInk)
+{
+    const Qt::Edge edge = m_renderer.spanEdge(date);
+    const QRectF rest = MvSpanBars::rest(bars, rect, edge);
+    const bool isUpright = edge == Qt::LeftEdge || edge == Qt::RightEdge;
+    if (bars.isEmpty() || !m_renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS) ||
+        MvSpanBars::thickness(bars) > mostOfCell * (isUpright ? rect.width() : rect.height()) ||
+        !(numberInk.isNull() || rest.contains(numberInk)))
+        return rect;
+    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
+    const QColor text = m_renderer.fontColor(config, even);
+    const QColor ground = m_renderer.backgroundColor(config, even);
+    const QColor usual = mixed(ground.alpha() > 0 ? ground : QColor(Qt::white), text, strengthOfBars);
+    for (const MvSpanBars::Bar &bar : bars)
+        m_painter.fillRect(MvSpanBars::rectOf(bar, rect, edge).intersected(rect.adjusted(0, 0, 1, 1)),
+                           bar.color.isValid() ? bar.color : usual);
+    return rest;
+}
+
 void MvCalendariumCellPainter::reportCut(const QDate &date, const MvFittedText &text, const QRectF &rect)
 {
     for (const QString &cut : text.cutTexts)
         m_renderer.reportUnfitting(date, cut, rect);
 }
 
+MvDayColumn MvCalendariumCellPainter::wholeDay(const QDate &date) const
+{
+    const MvCalendariumDay day = m_renderer.day(date);
+    return {day.texts, day.colors, m_renderer.days().bars(date)};
+}
+
 void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &date, bool even,
                                                std::optional<double> baseline)
 {
-    Q_EMIT m_renderer.rectForDateFound(date, rect);
+    drawColumn(rect, date, even, baseline, wholeDay(date), true);
+}
+
+void MvCalendariumCellPainter::drawColumn(const QRectF &rect, const QDate &date, bool even,
+                                          std::optional<double> baseline, const MvDayColumn &column, bool isFirst)
+{
+    if (isFirst)
+        Q_EMIT m_renderer.rectForDateFound(date, rect);
     const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
     const MvCalendarCellType &type = config.inscriptionConfig();
     const double vertical = rect.height() > largeCell ? largeCellMargin : smallCellMargin;
@@ -257,10 +387,13 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     QRectF inner = rect.marginsRemoved(m_renderer.padding(type)).adjusted(horizontal, vertical, -horizontal, -vertical);
 
     const QColor color = m_renderer.fontColor(config, even);
-    const QStringList texts = m_renderer.isOpaqueColor(color) ? m_renderer.describeHolidays(date) : QStringList();
+    const QRectF withoutBars = drawBars(rect, date, even, column.bars);
+    inner.setLeft(std::max(inner.left(), withoutBars.left()));
+    inner.setRight(std::min(inner.right(), withoutBars.right()));
+    const QStringList texts = m_renderer.isOpaqueColor(color) ? column.texts : QStringList();
     const QSizeF fotoRoom(inner.width() * (texts.isEmpty() ? 1.0 : widestFotoBesideTexts), inner.height());
-    const QImage picture = pictureWithin(date, fotoRoom);
-    double leastLeft = rect.left() + smallCellMargin;
+    const QImage picture = isFirst ? pictureWithin(date, fotoRoom) : QImage();
+    double leastLeft = withoutBars.left() + smallCellMargin;
     if (!picture.isNull()) {
         const QSize size = picture.size().scaled(fotoRoom.toSize(), Qt::KeepAspectRatio);
         drawFoto(date, QRectF(inner.topLeft(), size), picture);
@@ -270,12 +403,12 @@ void MvCalendariumCellPainter::drawHolidayWide(const QRectF &rect, const QDate &
     if (texts.isEmpty())
         return;
     const MvTextFitter fitter = m_renderer.holidayFitter(type);
-    const MvDayTextRow row(fitter, {rect, inner, leastLeft}, texts, baseline);
+    const MvDayTextRow row(fitter, {withoutBars, inner, leastLeft}, texts, baseline);
     reportCut(date, row.text(), rect);
     m_renderer.reportMissingGlyphs(date, texts, row.text().font, rect);
     m_painter.save();
     m_painter.setClipRect(rect, Qt::IntersectClip);
-    row.draw(m_painter, color);
+    row.draw(m_painter, column.colors.isEmpty() ? color : colorOf(column.colors, date, even));
     m_painter.restore();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarCellTypeConfig.h"
+#include "MvCalendar/MvSpanBars.h"
 #include "MvCalendar/mvcalendar_export.h"
 
 #include <QDate>
@@ -18,6 +19,14 @@ struct MvPlacedTexts;
 class QColor;
 class QFont;
 class QPainter;
+
+/// What a column of a list shows of a day.
+struct MvDayColumn
+{
+    QStringList texts;
+    QList<QColor> colors; ///< of the texts; empty: as the page writes
+    MvSpanBars::Bars bars;
+};
 
 /// Paints single cells for a renderer, which knows colours, fonts and the texts of the days. See the operations of
 /// MvCalendariumRenderer, which call these.
@@ -43,6 +52,17 @@ public:
     bool drawHoliday(const QRectF &rect, const QDate &date, bool even);
     /// Texts stand at the bottom, or their last line on the baseline where one is given.
     void drawHolidayWide(const QRectF &rect, const QDate &date, bool even, std::optional<double> baseline = {});
+    /// The same for a column of several: the day's photo is in the first one.
+    void drawColumn(const QRectF &rect, const QDate &date, bool even, std::optional<double> baseline,
+                    const MvDayColumn &column, bool isFirst);
+    /// All that the day has.
+    MvDayColumn wholeDay(const QDate &date) const;
+    /// The bars of entries that last several days, and what they leave of the cell; nothing where they would meet the
+    /// number.
+    QRectF drawBars(const QRectF &rect, const QDate &date, bool even, const MvSpanBars::Bars &bars,
+                    const QRectF &numberInk = {});
+    /// Of a day's texts that are drawn as one: their own, where it is the same for all and can be read there.
+    QColor colorOf(const QList<QColor> &colors, const QDate &date, bool even) const;
     bool drawPicture(const QDate &date, const QRectF &rect);
 
 private:
@@ -57,6 +77,8 @@ private:
     void drawBorder(const QRectF &rect, const MvCalendarCellType &type);
     void preparePen(const QFont &font, const QColor &color);
     void drawPlaced(const MvPlacedTexts &texts);
+    void drawPlaced(const MvPlacedTexts &texts, const QStringList &written, const QList<QColor> &colors);
+    QColor readable(const QColor &color, const QDate &date, bool even) const;
     void reportCut(const QDate &date, const MvFittedText &text, const QRectF &rect);
     /// With a warning, where those are shown, if it will look coarse in print.
     void drawFoto(const QDate &date, const QRectF &rect, const QImage &picture);

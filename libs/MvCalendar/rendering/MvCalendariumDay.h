@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarCellTypeConfig.h"
+#include "MvCalendar/MvEventText.h"
 #include "MvProductBase/MvCalendariumHolidayList.h"
 
 #include <QDate>
@@ -17,4 +18,6 @@ struct MvCalendariumDay
     MvCalendarCellTypeConfig content;  ///< the cell with its number
     bool isEven = false;               ///< parity of its week
     QStringList texts;                 ///< that its cell shows: holidays, then entries, on one line each
+    QList<MvEventText> entries;        ///< of the day, if the page shows entries; their texts on one line each
+    QList<QColor> colors;              ///< of the texts, in their order; invalid: as the page writes. Empty: all are
 };

@@ -35,6 +35,7 @@ void MvCalendariumDays::endPass()
     m_isInPass = false;
     m_years.clear();
     m_days.clear();
+    m_bars.clear();
 }
 
 // ---- the record of a day
@@ -58,12 +59,17 @@ MvCalendariumDay MvCalendariumDays::look(const QDate &date) const
     const MvCalendariumHolidayList holidays = hasHolidays ? lookUp(date) : MvCalendariumHolidayList();
     if (MvRenderingProbe *probe = m_renderer.sources().probe)
         ++probe->days;
-    return {date,
-            holidays,
-            {headTypeOf(date, holidays, FEATURE_HOLIDAYS), headTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},
-            {contentTypeOf(date, holidays, FEATURE_HOLIDAYS), contentTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},
-            m_renderer.isEvenWeek(date),
-            textsOf(date, holidays)};
+    MvCalendariumDay day{
+        date,
+        holidays,
+        {headTypeOf(date, holidays, FEATURE_HOLIDAYS), headTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},
+        {contentTypeOf(date, holidays, FEATURE_HOLIDAYS), contentTypeOf(date, holidays, FEATURE_HOLIDAY_COLORS)},
+        m_renderer.isEvenWeek(date),
+        {},
+        {},
+        {}};
+    addTexts(day);
+    return day;
 }
 
 MvCalendariumHolidayList MvCalendariumDays::holidays(const QDate &date) const
@@ -175,13 +181,39 @@ QStringList MvCalendariumDays::officialTexts(const QDate &date) const
 
 QStringList MvCalendariumDays::personalTexts(const QDate &date) const
 {
-    return MvPrintableText::onOneLineEach(
-        m_renderer.sources().entriesOrDefault().descriptions(m_renderer.contentFor(date)));
+    QStringList texts;
+    const QList<MvEventText> found = entries(date);
+    for (const MvEventText &entry : found)
+        texts.append(entry.text);
+    return texts;
+}
+
+QList<MvEventText> MvCalendariumDays::entries(const QDate &date) const
+{
+    QList<MvEventText> shown;
+    const QList<MvEventText> found = m_renderer.sources().entriesOrDefault().texts(m_renderer.contentFor(date));
+    for (const MvEventText &entry : found) {
+        const QStringList line = MvPrintableText::onOneLineEach({entry.text});
+        if (line.isEmpty())
+            continue;
+        shown.append(entry);
+        shown.last().text = line.constFirst();
+    }
+    return shown;
+}
+
+MvSpanBars::Bars MvCalendariumDays::bars(const QDate &date) const
+{
+    const QList<MvEventText> found = m_isInPass ? known(date).entries : day(date).entries;
+    if (std::none_of(found.cbegin(), found.cend(), [](const MvEventText &entry) { return entry.isSpan(); }))
+        return {};
+    return m_bars.barsOf(date, QDate(date.year(), date.month(), 1),
+                         [this](const QDate &other) { return m_isInPass ? known(other).entries : day(other).entries; });
 }
 
 QStringList MvCalendariumDays::texts(const QDate &date) const
 {
-    return m_isInPass ? known(date).texts : textsOf(date, holidays(date));
+    return m_isInPass ? known(date).texts : look(date).texts;
 }
 
 QStringList MvCalendariumDays::officialTextsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const
@@ -192,15 +224,23 @@ QStringList MvCalendariumDays::officialTextsOf(const QDate &date, const MvCalend
                                                                        : namesOf(holidays));
 }
 
-QStringList MvCalendariumDays::textsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const
+void MvCalendariumDays::addTexts(MvCalendariumDay &day) const
 {
     const MvCalendariumContentConfig &content = m_renderer.calendariumContent();
-    QStringList texts;
     if (content.hasFeatures(FEATURE_HOLIDAYS))
-        texts += officialTextsOf(date, holidays);
-    if (content.hasFeatures(FEATURE_ENTRIES))
-        texts += personalTexts(date);
-    return texts;
+        day.texts = officialTextsOf(day.date, day.holidays);
+    if (!content.hasFeatures(FEATURE_ENTRIES))
+        return;
+    day.entries = entries(day.date);
+    QList<QColor> colors(day.texts.size());
+    for (const MvEventText &entry : std::as_const(day.entries)) {
+        if (entry.start != day.date && !m_renderer.isRowStart(day.date))
+            continue;
+        day.texts.append(entry.text);
+        colors.append(entry.color);
+    }
+    if (std::any_of(colors.cbegin(), colors.cend(), [](const QColor &color) { return color.isValid(); }))
+        day.colors = colors;
 }
 
 // a vacation that began on the page before would be a month of colour without a word

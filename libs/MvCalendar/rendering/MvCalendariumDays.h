@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendarCellType.h"
 #include "MvCalendar/MvCalendariumDay.h"
+#include "MvCalendar/MvSpanBars.h"
 #include "MvProductBase/MvCalendariumFeatures.h"
 #include "MvProductBase/MvCalendariumHolidayType.h"
 
@@ -45,7 +46,13 @@ public:
     QStringList descriptions(const QDate &date) const;
     QStringList officialTexts(const QDate &date) const;
     QStringList personalTexts(const QDate &date) const;
-    /// Official, then personal ones, as far as the page shows them.
+    /// What the page writes of the day's entries, those that began before included; none of which nothing would be
+    /// seen.
+    QList<MvEventText> entries(const QDate &date) const;
+    /// The bars of the day's entries that last several days.
+    MvSpanBars::Bars bars(const QDate &date) const;
+    /// Official, then personal ones, as far as the page shows them; of an entry that lasts several days, on its first
+    /// one and where a row of the page begins.
     QStringList texts(const QDate &date) const;
     /// descriptions() with the vacations that the day lies in, whether or not they begin on it.
     QStringList descriptionsWithRunningVacations(const QDate &date) const;
@@ -66,11 +73,12 @@ private:
     bool hasVacationColors(const QDate &date, const MvCalendariumHolidayList &holidays) const;
     bool isWithRunningVacations(const QDate &date) const;
     QStringList officialTextsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const;
-    QStringList textsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const;
+    void addTexts(MvCalendariumDay &day) const;
 
     const MvCalendariumRenderer &m_renderer;
     bool m_isInPass = false;
     // of the pass
+    mutable MvSpanBars m_bars;
     mutable std::map<QPair<int, Vacations>, Year> m_years;
     mutable std::unordered_map<qint64, MvCalendariumDay> m_days; // by Julian day
 };

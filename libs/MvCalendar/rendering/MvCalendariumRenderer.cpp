@@ -456,6 +456,23 @@ QString MvCalendariumRenderer::calendarWeekText(const QDate &date) const
 
 // ---- texts of a day
 
+bool MvCalendariumRenderer::isRowStart(const QDate &date) const
+{
+    return date.day() == 1;
+}
+
+/// Away from the number.
+Qt::Edge MvCalendariumRenderer::spanEdge(const QDate &date) const
+{
+    return textAlignment(contentCellType(date, FEATURE_HOLIDAYS)).testFlag(Qt::AlignBottom) ? Qt::TopEdge
+                                                                                            : Qt::BottomEdge;
+}
+
+const MvCalendariumDays &MvCalendariumRenderer::days() const
+{
+    return d->days;
+}
+
 QStringList MvCalendariumRenderer::descriptions(const QDate &date) const
 {
     return d->days.descriptions(date);

@@ -30,6 +30,7 @@
 #include <memory>
 
 class MvCalendariumContentKey;
+class MvCalendariumDays;
 class QPainter;
 
 /// Draws a calendarium: the base of all layouts. A renderer lives for one page: make it (MvCalendariumRendererFactory),
@@ -117,6 +118,12 @@ public:
     static bool isEvenCalendarWeek(const QDate &date);
     /// Parity relative to the page: the week of startDate() is odd, and rows alternate from there.
     virtual bool isEvenWeek(const QDate &date) const;
+
+    /// Whether a row of the page begins with the day: an entry that lasts longer is named there again. By default the
+    /// first of a month.
+    virtual bool isRowStart(const QDate &date) const;
+    /// The edge of a day's cell along which the bars of such entries run from day to day.
+    virtual Qt::Edge spanEdge(const QDate &date) const;
 
     /// What a pass needs to know of a date. While one runs it is looked up once, whoever asks; so are the answers below
     /// and describeHolidays().
@@ -286,6 +293,7 @@ protected:
 private:
     friend class MvCalendariumCellPainter;
 
+    const MvCalendariumDays &days() const;
     MvCalendariumWords words() const;
     bool usesShortDayNames() const;
     void reportFoto(const QDate &date, const QRectF &rect) { m_paintedFotos.append({date, rect}); }

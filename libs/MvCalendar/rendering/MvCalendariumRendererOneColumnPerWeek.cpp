@@ -191,6 +191,17 @@ QSize MvCalendariumRendererOneColumnPerWeek::minimumSizeHint() const
     return {static_cast<int>(minimumWidth()), static_cast<int>(minimumHeight())};
 }
 
+bool MvCalendariumRendererOneColumnPerWeek::isRowStart(const QDate &date) const
+{
+    return date.day() == 1 || date.dayOfWeek() == Qt::Monday;
+}
+
+/// The days of a week stand one below the other.
+Qt::Edge MvCalendariumRendererOneColumnPerWeek::spanEdge(const QDate &) const
+{
+    return Qt::RightEdge;
+}
+
 // ---- painting
 
 void MvCalendariumRendererOneColumnPerWeek::renderBase(QPainter &painter, const QRectF &rect)

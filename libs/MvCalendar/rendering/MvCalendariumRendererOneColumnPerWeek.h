@@ -21,6 +21,8 @@ public:
     bool rendersMonthInformation() const override;
     QList<MvCalendarCellType> usedCellTypes() const override;
     void renderBase(QPainter &painter, const QRectF &rect) override;
+    bool isRowStart(const QDate &date) const override;
+    Qt::Edge spanEdge(const QDate &date) const override;
     /// Calendar weeks are configured by the content and by the appearance, not by the layout.
     bool isConfigured(const MvCalendarRenderingInformation &info) const override;
 

@@ -216,6 +216,12 @@ double MvCalendariumRendererOneDayPerRow::widthOfCalendarWeek(const QRectF &rect
     return widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
 }
 
+/// The days stand one below the other, their texts beside the bars.
+Qt::Edge MvCalendariumRendererOneDayPerRow::spanEdge(const QDate &) const
+{
+    return Qt::LeftEdge;
+}
+
 // ---- painting
 
 void MvCalendariumRendererOneDayPerRow::renderBase(QPainter &painter, const QRectF &rect)
@@ -370,12 +376,48 @@ void MvCalendariumRendererOneDayPerRow::renderColumn(QPainter &painter, const QR
     const bool even = isEvenWeek(date);
     const double width = (rect.x() + rect.width() - x) / columns;
     const double height = rowHeight(rect, date);
+    MvCalendariumCellPainter cells(*this, painter);
+    const QList<MvDayColumn> shown = columnsOf(date, columns, cells);
     for (int column = 0; column < columns; ++column) {
         const QRectF cell(x + column * width, y, width, height);
         drawCellBackground(painter, cell, content, even);
-        if (column == 0)
-            MvCalendariumCellPainter(*this, painter).drawHolidayWide(cell, date, even, textBaseline(cell, date));
+        if (column == 0 || !shown.at(column).texts.isEmpty() || !shown.at(column).bars.isEmpty())
+            cells.drawColumn(cell, date, even, textBaseline(cell, date), shown.at(column), column == 0);
     }
+}
+
+/// An entry stands in each column that is headed by one of its groups; what has none stands in the first, beside the
+/// number.
+QList<MvDayColumn> MvCalendariumRendererOneDayPerRow::columnsOf(const QDate &date, int columns,
+                                                                const MvCalendariumCellPainter &cells) const
+{
+    const MvDayColumn whole = cells.wholeDay(date);
+    QList<MvDayColumn> shown(columns);
+    const QStringList headers = headings().mid(0, columns);
+    const auto columnsFor = [&headers](const QStringList &groups) {
+        QList<qsizetype> found;
+        for (qsizetype column = 0; column < headers.size(); ++column) {
+            if (groups.contains(headers.at(column).trimmed(), Qt::CaseInsensitive))
+                found.append(column);
+        }
+        return found.isEmpty() ? QList<qsizetype>{0} : found;
+    };
+    QList<MvEventText> entries = day(date).entries;
+    entries.removeIf([&](const MvEventText &entry) { return entry.start != date && !isRowStart(date); });
+    const qsizetype official = whole.texts.size() - entries.size(); // which come first
+    for (qsizetype i = 0; i < whole.texts.size(); ++i) {
+        const QStringList groups = i < official ? QStringList() : entries.at(i - official).groupNames;
+        for (const qsizetype column : columnsFor(groups)) {
+            shown[column].texts.append(whole.texts.at(i));
+            if (!whole.colors.isEmpty())
+                shown[column].colors.append(whole.colors.at(i));
+        }
+    }
+    for (const MvSpanBars::Bar &bar : whole.bars) {
+        for (const qsizetype column : columnsFor(bar.groupNames))
+            shown[column].bars.append(bar);
+    }
+    return shown;
 }
 
 void MvCalendariumRendererOneDayPerRow::renderCalendarWeek(QPainter &painter, const QDate &date, const QRectF &rect,

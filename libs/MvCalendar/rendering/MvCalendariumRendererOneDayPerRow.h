@@ -5,6 +5,9 @@
 
 #include <optional>
 
+class MvCalendariumCellPainter;
+struct MvDayColumn;
+
 /// The month as a list: one row per day with its number, the weekday's name where that is configured, and one to ten
 /// free columns to write in; the first one takes the day's texts. A line above carries the headings of the columns,
 /// a strip on the left the calendar weeks.
@@ -27,6 +30,7 @@ public:
     QList<MvCalendarCellType> usedCellTypes() const override;
     bool hasOneHeaderPerDay() const override;
     void renderBase(QPainter &painter, const QRectF &rect) override;
+    Qt::Edge spanEdge(const QDate &date) const override;
 
     /// The width of the weekday names as the layout asks for them, long or short, 0 where there are none; the name is
     /// historical.
@@ -60,6 +64,7 @@ protected:
 
 private:
     QStringList headings() const;
+    QList<MvDayColumn> columnsOf(const QDate &date, int columns, const MvCalendariumCellPainter &cells) const;
     double headWidth(bool shortNames) const;
     bool hasShortNames(const QRectF &rect) const;
     bool areHighEnoughForLongNames(const QRectF &rect) const;

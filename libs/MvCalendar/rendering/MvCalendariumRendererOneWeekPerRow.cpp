@@ -50,6 +50,11 @@ bool MvCalendariumRendererOneWeekPerRow::isConfigured(const MvCalendarRenderingI
     return isConfiguredOrWeeksAskedFor(info);
 }
 
+bool MvCalendariumRendererOneWeekPerRow::isRowStart(const QDate &date) const
+{
+    return date.day() == 1 || date.dayOfWeek() == Qt::Monday;
+}
+
 // ---- sizes
 
 double MvCalendariumRendererOneWeekPerRow::planedWeekOfYearWidth() const

@@ -19,6 +19,7 @@ public:
     void renderBase(QPainter &painter, const QRectF &rect) override;
     QStringList maxmimumWidthCalendarWeekText() const override;
     /// Calendar weeks are configured by the content and by the appearance as well as by the layout.
+    bool isRowStart(const QDate &date) const override;
     bool isConfigured(const MvCalendarRenderingInformation &info) const override;
 
     /// The share of the rectangle's height that title, head line or a week row takes in the date's month; 0 for other

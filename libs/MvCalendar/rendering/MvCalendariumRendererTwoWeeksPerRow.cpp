@@ -69,6 +69,11 @@ double MvCalendariumRendererTwoWeeksPerRow::heightOfCell(const QRectF &rect, con
     }
 }
 
+bool MvCalendariumRendererTwoWeeksPerRow::isRowStart(const QDate &date) const
+{
+    return date.day() == 1 || mondayOfWeekWithDay(startDate()).daysTo(date) % daysPerRow == 0;
+}
+
 void MvCalendariumRendererTwoWeeksPerRow::renderBase(QPainter &painter, const QRectF &rect)
 {
     QRectF line(rect.topLeft(), QSizeF(rect.width(), 0.0));

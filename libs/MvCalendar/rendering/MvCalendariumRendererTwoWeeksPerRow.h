@@ -17,6 +17,7 @@ public:
     bool rendersMonthInformation() const override;
     QList<MvCalendarCellType> usedCellTypes() const override;
     void renderBase(QPainter &painter, const QRectF &rect) override;
+    bool isRowStart(const QDate &date) const override;
 
     /// The same for all types: a fourteenth of the width.
     double widthOfCell(const QRectF &rect, const MvCalendarCellType &type) const;

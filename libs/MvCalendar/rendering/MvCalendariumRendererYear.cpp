@@ -308,6 +308,12 @@ MvYearPlanner::Sizes MvCalendariumRendererYear::neededPlannerSizes() const
     return needed;
 }
 
+/// The days of a month stand one below the other.
+Qt::Edge MvCalendariumRendererYear::spanEdge(const QDate &) const
+{
+    return Qt::RightEdge;
+}
+
 // ---- painting
 
 void MvCalendariumRendererYear::renderBase(QPainter &painter, const QRectF &rect)

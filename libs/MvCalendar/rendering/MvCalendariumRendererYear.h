@@ -29,6 +29,7 @@ public:
     bool rendersMonthInformation() const override;
     QList<MvCalendarCellType> usedCellTypes() const override;
     void renderBase(QPainter &painter, const QRectF &rect) override;
+    Qt::Edge spanEdge(const QDate &date) const override;
     QStringList maxmimumWidthCalendarWeekText() const override;
     /// Calendar weeks are configured by the content and by the appearance as well as by the layout.
     bool isConfigured(const MvCalendarRenderingInformation &info) const override;

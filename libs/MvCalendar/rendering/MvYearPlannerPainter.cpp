@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvYearPlannerPainter.h"
 
+#include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumRendererYear.h"
 
@@ -129,11 +130,16 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     if (!m_renderer.isOpaqueColor(color))
         return;
     const Style textStyle = style(config.inscriptionConfig());
-    const QStringList texts = m_renderer.describeHolidays(date);
+    MvCalendariumCellPainter cells(m_renderer, m_painter);
+    const MvDayColumn shown = cells.wholeDay(date);
+    const QStringList &texts = shown.texts;
     MvYearPlanner::Parts parts = planner.parts(cell, date.dayOfWeek() == Qt::Monday);
+    const double right = cells.drawBars(cell, date, even, shown.bars, parts.number).right();
+    parts.texts.setRight(std::min(parts.texts.right(), right));
     Texts fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
     if (!parts.week.isNull() && !areAsWritten(fitted, texts, textStyle)) { // the week gives way
         parts = planner.parts(cell, false);
+        parts.texts.setRight(std::min(parts.texts.right(), right));
         fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
     }
     for (const QString &text : texts.mid(fitted.whole))
@@ -144,7 +150,8 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     if (baseline && !parts.week.isNull()) // alone it would be read as the number of the day
         paintWeek(parts.week, config, date, even, *baseline);
     paintTexts(planner, innerRect(planner, parts.texts, textStyle), fitted,
-               baseline.value_or(parts.number.center().y()), color);
+               baseline.value_or(parts.number.center().y()),
+               shown.colors.isEmpty() ? color : cells.colorOf(shown.colors, date, even));
 }
 
 std::optional<double> MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell,

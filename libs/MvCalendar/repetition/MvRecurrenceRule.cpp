@@ -19,11 +19,6 @@ using Rule = MvRecurrenceRule;
 const QStringList frequencies = {QString(), u"DAILY"_s, u"WEEKLY"_s, u"MONTHLY"_s, u"YEARLY"_s};
 const QStringList weekDays = {QString(), u"MO"_s, u"TU"_s, u"WE"_s, u"TH"_s, u"FR"_s, u"SA"_s, u"SU"_s};
 
-QString tr(const char *text)
-{
-    return Rule::tr(text);
-}
-
 /// Takes the parts of a rule one by one; the first thing that is wrong is kept.
 class Reading
 {
@@ -38,7 +33,8 @@ public:
             const qsizetype equals = part.indexOf(u'=');
             const QString key = part.left(equals);
             if (equals < 1 || m_parts.contains(key)) {
-                refuse(tr("„%1“ ist keine Angabe einer Wiederholung oder steht zweimal da").arg(part));
+                refuse(
+                    MvRecurrenceRule::tr("„%1“ ist keine Angabe einer Wiederholung oder steht zweimal da").arg(part));
                 return;
             }
             m_parts.insert(key, part.mid(equals + 1));
@@ -60,7 +56,7 @@ public:
         takeWeekStart();
         dropTimes();
         if (m_error.isEmpty() && !m_parts.isEmpty())
-            refuse(tr("„%1“ ist bei Wiederholungen nicht bekannt").arg(m_parts.cbegin().key()));
+            refuse(MvRecurrenceRule::tr("„%1“ ist bei Wiederholungen nicht bekannt").arg(m_parts.cbegin().key()));
         checkTogether();
         MvRecurrenceRuleReading reading;
         reading.error = m_error;
@@ -75,7 +71,10 @@ private:
         if (m_error.isEmpty())
             m_error = reason;
     }
-    void refuse(const QString &key, const QString &value) { refuse(tr("„%1=%2“ ist nicht zu lesen").arg(key, value)); }
+    void refuse(const QString &key, const QString &value)
+    {
+        refuse(MvRecurrenceRule::tr("„%1=%2“ ist nicht zu lesen").arg(key, value));
+    }
 
     void takeFrequency()
     {
@@ -84,9 +83,9 @@ private:
         if (index > 0)
             m_rule.frequency = Rule::Frequency(index);
         else if (value == u"HOURLY" || value == u"MINUTELY" || value == u"SECONDLY")
-            refuse(tr("sie wiederholt sich öfter als einmal am Tag"));
+            refuse(MvRecurrenceRule::tr("sie wiederholt sich öfter als einmal am Tag"));
         else
-            refuse(tr("es steht nicht da, wie oft sie sich wiederholt (FREQ)"));
+            refuse(MvRecurrenceRule::tr("es steht nicht da, wie oft sie sich wiederholt (FREQ)"));
     }
 
     int number(const QString &key, int least, int most, int otherwise)
@@ -164,7 +163,7 @@ private:
         for (const QString &key : {u"BYHOUR"_s, u"BYMINUTE"_s, u"BYSECOND"_s}) {
             const QString value = m_parts.take(key);
             if (value.contains(u',') && (m_rule.count > 0 || !m_rule.positions.isEmpty()))
-                refuse(tr("sie wiederholt sich öfter als einmal am Tag"));
+                refuse(MvRecurrenceRule::tr("sie wiederholt sich öfter als einmal am Tag"));
         }
         if (m_parts.value(u"RSCALE"_s) == u"GREGORIAN")
             m_parts.remove(u"RSCALE"_s);
@@ -180,17 +179,17 @@ private:
         const bool hasDays = !m_rule.months.isEmpty() || !m_rule.weeks.isEmpty() || !m_rule.yearDays.isEmpty() ||
                              !m_rule.monthDays.isEmpty() || !m_rule.weekDays.isEmpty();
         if (m_rule.count > 0 && m_rule.until.isValid())
-            refuse(tr("COUNT und UNTIL stehen zugleich da"));
+            refuse(MvRecurrenceRule::tr("COUNT und UNTIL stehen zugleich da"));
         if (hasNth && (frequency == Rule::Daily || frequency == Rule::Weekly || !m_rule.weeks.isEmpty()))
-            refuse(tr("den wievielten Wochentag gibt es nur in Monaten und Jahren"));
+            refuse(MvRecurrenceRule::tr("den wievielten Wochentag gibt es nur in Monaten und Jahren"));
         if (!m_rule.weeks.isEmpty() && frequency != Rule::Yearly)
-            refuse(tr("Wochen des Jahres gibt es nur bei jährlicher Wiederholung"));
+            refuse(MvRecurrenceRule::tr("Wochen des Jahres gibt es nur bei jährlicher Wiederholung"));
         if (!m_rule.yearDays.isEmpty() && frequency != Rule::Yearly)
-            refuse(tr("Tage des Jahres gibt es nur bei jährlicher Wiederholung"));
+            refuse(MvRecurrenceRule::tr("Tage des Jahres gibt es nur bei jährlicher Wiederholung"));
         if (!m_rule.monthDays.isEmpty() && frequency == Rule::Weekly)
-            refuse(tr("Tage des Monats gibt es nicht bei wöchentlicher Wiederholung"));
+            refuse(MvRecurrenceRule::tr("Tage des Monats gibt es nicht bei wöchentlicher Wiederholung"));
         if (!m_rule.positions.isEmpty() && !hasDays)
-            refuse(tr("BYSETPOS steht allein da"));
+            refuse(MvRecurrenceRule::tr("BYSETPOS steht allein da"));
     }
 
     QHash<QString, QString> m_parts;
@@ -222,8 +221,8 @@ QString dayNames(const QList<Rule::WeekDay> &days)
 QString ordinal(int nth)
 {
     if (nth == -1)
-        return tr("letzter");
-    return nth < 0 ? tr("%1.-letzter").arg(-nth) : u"%1."_s.arg(nth);
+        return MvRecurrenceRule::tr("letzten");
+    return nth < 0 ? MvRecurrenceRule::tr("%1.-letzten").arg(-nth) : u"%1."_s.arg(nth);
 }
 
 /// "jede Woche", "alle 2 Wochen"
@@ -232,13 +231,13 @@ QString period(const Rule &rule)
     const int n = rule.interval;
     switch (rule.frequency) {
     case Rule::Daily:
-        return n == 1 ? tr("jeden Tag") : tr("alle %1 Tage").arg(n);
+        return n == 1 ? MvRecurrenceRule::tr("jeden Tag") : MvRecurrenceRule::tr("alle %1 Tage").arg(n);
     case Rule::Weekly:
-        return n == 1 ? tr("jede Woche") : tr("alle %1 Wochen").arg(n);
+        return n == 1 ? MvRecurrenceRule::tr("jede Woche") : MvRecurrenceRule::tr("alle %1 Wochen").arg(n);
     case Rule::Monthly:
-        return n == 1 ? tr("jeden Monat") : tr("alle %1 Monate").arg(n);
+        return n == 1 ? MvRecurrenceRule::tr("jeden Monat") : MvRecurrenceRule::tr("alle %1 Monate").arg(n);
     case Rule::Yearly:
-        return n == 1 ? tr("jedes Jahr") : tr("alle %1 Jahre").arg(n);
+        return n == 1 ? MvRecurrenceRule::tr("jedes Jahr") : MvRecurrenceRule::tr("alle %1 Jahre").arg(n);
     case Rule::None:
         break;
     }
@@ -253,13 +252,15 @@ QString daysInWords(const Rule &rule)
     Rule rest = rule;
     rest.weekDays.clear();
     if (rule.frequency == Rule::Weekly && rest.isPlain())
-        return tr(" am %1").arg(dayNames(rule.weekDays));
+        return MvRecurrenceRule::tr(" am %1").arg(dayNames(rule.weekDays));
     if (rule.frequency == Rule::Monthly && rest.isPlain() && rule.weekDays.size() == 1 && rule.weekDays.first().nth)
-        return tr(" am %1 %2").arg(ordinal(rule.weekDays.first().nth), dayName(rule.weekDays.first().day));
+        return MvRecurrenceRule::tr(" am %1 %2")
+            .arg(ordinal(rule.weekDays.first().nth), dayName(rule.weekDays.first().day));
     rest = rule;
     rest.monthDays.clear();
     if (rule.frequency == Rule::Monthly && rest.isPlain() && rule.monthDays.size() == 1)
-        return rule.monthDays.first() == -1 ? tr(" am letzten Tag") : tr(" am %1.").arg(rule.monthDays.first());
+        return rule.monthDays.first() == -1 ? MvRecurrenceRule::tr(" am letzten Tag")
+                                            : MvRecurrenceRule::tr(" am %1.").arg(rule.monthDays.first());
     return {};
 }
 
@@ -315,9 +316,9 @@ QString MvRecurrenceRule::describe() const
         return text();
     QString words = period(*this) + days;
     if (count > 0)
-        words += tr(", %1-mal").arg(count);
+        words += MvRecurrenceRule::tr(", %1-mal").arg(count);
     if (until.isValid())
-        words += tr(", bis %1").arg(until.toString(u"dd.MM.yyyy"_s));
+        words += MvRecurrenceRule::tr(", bis %1").arg(until.toString(u"dd.MM.yyyy"_s));
     return words;
 }
 

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventDateEdit.h"
 #include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEventRepetitionEdit.h"
 #include "MvCalendar/MvFotoField.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 
@@ -124,6 +125,9 @@ QGroupBox *MvCalendarDayEditorDialog::createEntryGroup()
     connect(m_descriptionEdit, &QLineEdit::textChanged, this, &MvCalendarDayEditorDialog::onTextChanged);
     layout->addWidget(m_descriptionEdit);
 
+    m_repetitionEdit = new MvEventRepetitionEdit(group);
+    layout->addWidget(m_repetitionEdit);
+
     m_fotoField = new MvFotoField(group);
     layout->addWidget(m_fotoField, 1);
     auto *clickHint = new QLabel(tr("Ein Klick auf die Fläche wählt ein Foto aus."), group);
@@ -169,6 +173,7 @@ QPushButton *MvCalendarDayEditorDialog::createButton(const QString &text, const 
 void MvCalendarDayEditorDialog::setupKeyboard()
 {
     QList<QWidget *> order{m_dateEdit, m_descriptionEdit};
+    order += m_repetitionEdit->focusWidgets();
     order += m_fotoField->focusWidgets();
     order += {m_deleteButton, m_cancelButton, m_okAndContinueButton, m_okButton};
     for (qsizetype i = 1; i < order.size(); ++i)
@@ -218,6 +223,7 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     m_noticeLabel->hide();
     showName(event.description());
     setDate(event.dateTime().date());
+    m_repetitionEdit->setEvent(event, m_knownEvents.groups(), !m_isOfList);
     m_descriptionEdit->setFocus();
     m_okAndContinueButton->setVisible(series);
     m_deleteButton->setVisible(m_isOfList);
@@ -304,13 +310,15 @@ void MvCalendarDayEditorDialog::takeOver(const MvCalendarEvent &present)
         showName(present.description());
     if (!m_dateEdit->isTouched() && present.dateTime() != before.dateTime())
         setDate(present.dateTime().date());
+    if (!m_repetitionEdit->isTouched())
+        m_repetitionEdit->setEvent(present, m_session.entries().activeEventList().groups(), false);
     if (m_fotoField->foto() == before.foto() && !(present.foto() == before.foto()))
         setFoto(present.foto());
 }
 
 bool MvCalendarDayEditorDialog::isTouched() const
 {
-    return m_descriptionEdit->text() != m_shownName || m_dateEdit->isTouched() ||
+    return m_descriptionEdit->text() != m_shownName || m_dateEdit->isTouched() || m_repetitionEdit->isTouched() ||
            !(m_fotoField->foto() == m_openedEvent.foto());
 }
 
@@ -356,6 +364,7 @@ void MvCalendarDayEditorDialog::acceptedAndContinueClicked()
     MvCalendarEvent next = applyEventChange();
     next.setFoto(MvFoto());
     next.setEventName({});
+    next.setEndDate({});
     QDate tomorrow = next.dateTime().date().addDays(1);
     if (!next.hasYear())
         tomorrow.setDate(MvCalendarEvent::unknownYear, tomorrow.month(), tomorrow.day());
@@ -401,11 +410,24 @@ MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
     changed.setDateTime(MvCalendarEvent::startOf(m_dateEdit->date()));
     if (m_descriptionEdit->text() != m_shownName) // a file's own form stays as long as nobody changes it
         changed.setEventName(MvStringHelper::simplifiedName(m_descriptionEdit->text()));
-    changed.setRecurrent(true);
+    takeRepetition(changed);
     if (const MvOutcome taken = changed.takeFoto(m_fotoField->foto()); !taken.isOk())
         MvDiskAccessRequest::instance().takeFotosFailed({taken.error}, sourceWindow());
     change(changed, m_item);
     return changed;
+}
+
+/// A group that was typed in belongs to the list from now on, whatever becomes of the entry.
+void MvCalendarDayEditorDialog::takeRepetition(MvCalendarEvent &event)
+{
+    MvCalendarEventList list = m_session.entries().activeEventList();
+    const MvEventGroupList known = list.groups();
+    m_repetitionEdit->applyTo(event, list.groups());
+    if (list.groups() == known)
+        return;
+    m_isPushing = true; // the entry itself is as it was
+    m_session.entries().setEvents(list);
+    m_isPushing = false;
 }
 
 void MvCalendarDayEditorDialog::change(const MvCalendarEvent &changed, QGraphicsObject *item)

@@ -13,6 +13,7 @@
 #include <QPointer>
 
 class MvCalendarEventDateEdit;
+class MvEventRepetitionEdit;
 class MvFotoField;
 class MvLineEdit;
 class MvUndoCommand;
@@ -97,6 +98,7 @@ private:
     QWidget *sourceWindow() const;
     void moveToSource();
     void showName(const QString &name);
+    void takeRepetition(MvCalendarEvent &event);
     void change(const MvCalendarEvent &changed, QGraphicsObject *item);
     bool isTouched() const;
     void followEntry();
@@ -111,6 +113,7 @@ private:
     MvCalendarEventDateEdit *m_dateEdit = nullptr;
     QDate m_date;
     MvLineEdit *m_descriptionEdit = nullptr;
+    MvEventRepetitionEdit *m_repetitionEdit = nullptr;
     MvFotoField *m_fotoField = nullptr;
     MvCalendarEvent m_openedEvent;
     MvCalendarEventList m_knownEvents; // the list in which it was last seen

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendarEventFileIntake.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryIntake.h"
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvYesNoRequest.h"
 
@@ -42,9 +43,22 @@ void readInThread(const QFileInfo &file, QObject *asker, const std::function<voi
     promise->start();
     watcher->setFuture(promise->future());
     QThreadPool::globalInstance()->start([promise, file] {
-        promise->addResult(MvCalendarEventFile::read(file));
+        promise->addResult(MvEntryIntake::readAsList(file));
         promise->finish();
     });
+}
+
+/// The groups that entries of the file name are to be there before the entries are.
+void putGroups(const MvEventGroupList &groups, MvSession &session)
+{
+    MvCalendarEventList list = session.entries().activeEventList();
+    const MvEventGroupList known = list.groups();
+    for (const MvEventGroup &group : groups) {
+        if (!known.find(group.id))
+            list.groups().put(group);
+    }
+    if (!(list.groups() == known))
+        session.entries().setEvents(list);
 }
 
 QString skippedText(const Content &content)
@@ -120,13 +134,17 @@ void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, 
                                       MvSession &session)
 {
     const QFileInfo file(fileName);
-    const auto judgeRead = [fileName, purpose, asker, take, &session](const Content &content) {
-        judge(fileName, purpose, content, asker, take, session);
+    const auto takeAll = [take, &session](const MvCalendarEventList &read) {
+        putGroups(read.groups(), session);
+        take(read);
+    };
+    const auto judgeRead = [fileName, purpose, asker, takeAll, &session](const Content &content) {
+        judge(fileName, purpose, content, asker, takeAll, session);
     };
     if (file.size() > largeFile)
         readInThread(file, asker, judgeRead);
     else
-        judgeRead(MvCalendarEventFile::read(file));
+        judgeRead(MvEntryIntake::readAsList(file));
 }
 
 void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, const Content &content, QObject *asker,

@@ -94,6 +94,7 @@ MvVCardLines::MvVCardLines(QIODevice *device, const MvLineReader::GoOn &goOn)
 bool MvVCardLines::next(MvVCardProperty *property)
 {
     while (m_hasAhead) {
+        m_line = m_taken;
         const bool isCut = m_isAheadCut;
         QByteArray line = takeLine();
         Search search;
@@ -155,6 +156,7 @@ QByteArray MvVCardLines::takeLine()
 {
     QByteArray line = std::exchange(m_ahead, {});
     m_hasAhead = m_lines.next(&m_ahead);
+    ++m_taken;
     m_isAheadCut = m_lines.isCut();
     return line;
 }

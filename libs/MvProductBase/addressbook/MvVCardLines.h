@@ -22,6 +22,9 @@ public:
     /// The next property; false at the end. Lines that are none are left out.
     bool next(MvVCardProperty *property);
 
+    /// Where the last property begins, from 1.
+    int line() const { return m_line; }
+
     static QList<MvVCardProperty> split(const QByteArray &bytes);
 
 private:
@@ -36,4 +39,6 @@ private:
     bool m_hasAhead = false;
     bool m_isAheadCut = false;
     bool m_isVersion2 = false;
+    int m_taken = 0; // lines, the one ahead included
+    int m_line = 0;
 };

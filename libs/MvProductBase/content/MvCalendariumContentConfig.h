@@ -5,6 +5,7 @@
 #include "MvProductBase/MvCalendarWeekTextOption.h"
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
 #include "MvProductBase/MvDateRange.h"
+#include "MvProductBase/MvEntryDisplay.h"
 #include "MvProductBase/mvproductbase_export.h"
 
 #include <QDate>
@@ -44,6 +45,10 @@ public:
     MvCalendarWeekTextOption calendarWeekTextOption() const { return m_weekText; }
     void setCalendarWeekTextOption(const MvCalendarWeekTextOption &option) { m_weekText = option; }
 
+    /// Which personal entries are shown, and how they read.
+    const MvEntryDisplay &entryDisplay() const { return m_entryDisplay; }
+    void setEntryDisplay(const MvEntryDisplay &display) { m_entryDisplay = display; }
+
     bool operator==(const MvCalendariumContentConfig &) const = default;
 
 private:
@@ -51,6 +56,7 @@ private:
     MvCalendariumHolidayConfig m_holidayConfig;
     MvCalendarWeekHeadlineOption m_weekHeadline;
     MvCalendarWeekTextOption m_weekText;
+    MvEntryDisplay m_entryDisplay;
 };
 
 MVPRODUCTBASE_EXPORT size_t qHash(const MvCalendariumContentConfig &config, size_t seed = 0);

@@ -72,6 +72,18 @@ void MvCalendarDocument::setAppearance(const MvCalendariumAppearance &appearance
         divide(m_range, look().monthCount());
 }
 
+void MvCalendarDocument::setEntryDisplay(const MvEntryDisplay &display)
+{
+    const auto set = [&display](MvCalendarPage &page) {
+        MvCalendariumContentConfig content = page.contentConfig();
+        content.setEntryDisplay(display);
+        page.setContentConfig(content);
+    };
+    set(m_look);
+    for (MvCalendarPage &page : m_pages)
+        set(page);
+}
+
 void MvCalendarDocument::setHolidayConfig(const MvCalendariumHolidayConfig &config)
 {
     m_look.setHolidayConfig(config);

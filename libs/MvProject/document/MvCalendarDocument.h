@@ -52,6 +52,9 @@ public:
     MvCalendariumHolidayConfig holidayConfig() const { return look().contentConfig().holidayConfig(); }
     /// Gives it to all pages.
     void setHolidayConfig(const MvCalendariumHolidayConfig &config);
+    /// Which entries the pages show, and how these read; set for all pages.
+    MvEntryDisplay entryDisplay() const { return look().contentConfig().entryDisplay(); }
+    void setEntryDisplay(const MvEntryDisplay &display);
     /// Switches every bit of the feature on or off on all pages; what else they show stays each page's own.
     void setFeature(const MvCalendariumFeatures &feature, bool on);
 

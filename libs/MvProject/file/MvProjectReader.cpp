@@ -263,6 +263,11 @@ void MvProjectReader::readContent(const QDomElement &element, MvCalendarPage &pa
     config.setHolidayConfig(holidays);
     config.setCalendarWeekHeadlineOption(MvCalendarWeekHeadlineOption(MvXMLParser::textAttribute(child, weekHeadKey)));
     config.setCalendarWeekTextOption(MvCalendarWeekTextOption(MvXMLParser::textAttribute(child, weekTextKey)));
+    MvEntryDisplay entries;
+    entries.hiddenGroups = MvXMLParser::textAttribute(child, hiddenGroupsKey).split(u',', Qt::SkipEmptyParts);
+    entries.text = MvXMLParser::textAttribute(child, entryTextKey);
+    entries.showTimes = MvXMLParser::boolAttribute(child, entryTimesKey);
+    config.setEntryDisplay(entries);
     page.setContentConfig(config);
 }
 

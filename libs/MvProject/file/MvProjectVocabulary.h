@@ -70,6 +70,9 @@ inline const QString regionKey = QStringLiteral("region");
 inline const QString featuresKey = QStringLiteral("features");
 inline const QString weekHeadKey = QStringLiteral("weekhead");
 inline const QString weekTextKey = QStringLiteral("weektext");
+inline const QString hiddenGroupsKey = QStringLiteral("hiddengroups");
+inline const QString entryTextKey = QStringLiteral("entrytext");
+inline const QString entryTimesKey = QStringLiteral("entrytimes");
 
 inline const QString foto = QStringLiteral("photo");
 inline const QString spareFoto = QStringLiteral("sparephoto");

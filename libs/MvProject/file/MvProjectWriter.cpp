@@ -85,8 +85,9 @@ QByteArray MvProjectWriter::write(const MvCalendarDocument &document, const QStr
         writePage(rootElement, page);
     for (const auto &[month, page] : document.sparePages().asKeyValueRange())
         writeSparePage(rootElement, month, page);
-    const bool isSecondVersion = m_elements.needsSecondVersion() || entries;
-    MvXMLBuilder::addAttribute(rootElement, versionKey, isSecondVersion ? version : firstVersion);
+    const bool hasSecondVersion =
+        m_elements.needsSecondVersion() || entries || document.entryDisplay() != MvEntryDisplay();
+    MvXMLBuilder::addAttribute(rootElement, versionKey, hasSecondVersion ? version : firstVersion);
 
     QByteArray bytes;
     QXmlStreamWriter writer(&bytes);
@@ -213,4 +214,9 @@ void MvProjectWriter::writeContent(QDomElement &element, const MvCalendariumCont
     MvXMLBuilder::addAttribute(element, featuresKey, config.features().encodeCSV());
     addIfAny(element, weekHeadKey, content.calendarWeekHeadlineOption().pattern());
     addIfAny(element, weekTextKey, content.calendarWeekTextOption().pattern());
+    const MvEntryDisplay &entries = content.entryDisplay();
+    addIfAny(element, hiddenGroupsKey, entries.hiddenGroups.join(u','));
+    addIfAny(element, entryTextKey, entries.text);
+    if (entries.showTimes)
+        MvXMLBuilder::addAttribute(element, entryTimesKey, true);
 }

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvEntryIntake.h"
+#include "MvCliCommand.h"
+
+/// "entries": personal entries listed, taken in from other programs, given to them, checked.
+class MvEntriesCommand : public MvCliCommand
+{
+    Q_DECLARE_TR_FUNCTIONS(MvEntriesCommand)
+
+public:
+    QString name() const override { return QStringLiteral("entries"); }
+    QString summary() const override;
+    QList<MvCliOption> options() const override;
+    QStringList examples() const override;
+    Result run(const MvCliArguments &arguments, const Streams &streams) const override;
+
+private:
+    static Result import(const MvCliArguments &arguments, const Streams &streams);
+    static Result check(const MvEntryReading &reading, const QString &file, const Streams &streams);
+    static Result exportTo(const MvCalendarEventList &events, const MvCliArguments &arguments, const Streams &streams);
+    static MvOutcome store(const MvCalendarEventList &events, const QString &target);
+    static void printText(const MvCalendarEventList &events, QTextStream &out);
+    static void printJson(const MvCalendarEventList &events, QTextStream &out);
+    static void printSkipped(const MvEntryReading &reading, const QString &file, QTextStream &hints);
+};

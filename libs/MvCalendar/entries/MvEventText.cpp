@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCalendar/MvEventText.h"
+
+#include "MvCalendar/MvCalendarEvent.h"
+#include "MvCalendar/MvEventGroup.h"
+
+#include "MvProductBase/MvEntryDisplay.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+bool MvEventText::isShown(const MvCalendarEvent &event, const MvEntryDisplay &display)
+{
+    if (display.hiddenGroups.isEmpty())
+        return true;
+    const QStringList groups = event.groups();
+    return groups.isEmpty() || !std::all_of(groups.cbegin(), groups.cend(), [&display](const QString &id) {
+               return display.hiddenGroups.contains(id);
+           });
+}
+
+QString MvEventText::filled(const QString &pattern, const MvCalendarEvent &event, const QDate &start)
+{
+    const int years = event.yearsAt(start);
+    const bool needsYears = pattern.contains(u"%age") || pattern.contains(u"%year");
+    if (!pattern.contains(u"%name") || (needsYears && years == 0))
+        return event.description();
+    // in one pass: a name may hold anything
+    static const QRegularExpression place(u"%(name|age|year)"_s);
+    QString text;
+    qsizetype end = 0;
+    for (auto it = place.globalMatch(pattern); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        text += QStringView(pattern).mid(end, match.capturedStart() - end);
+        if (match.capturedView(1) == u"name")
+            text += event.description();
+        else
+            text += QString::number(match.capturedView(1) == u"age" ? years : event.dateTime().date().year());
+        end = match.capturedEnd();
+    }
+    return text.append(QStringView(pattern).mid(end));
+}
+
+MvEventText MvEventText::of(const MvCalendarEvent &event, const QDate &start, const MvEventGroupList &groups,
+                            const MvEntryDisplay &display)
+{
+    MvEventText result;
+    result.start = start;
+    result.end = start.addDays(event.dayCount() - 1);
+    QString pattern = display.text;
+    QString symbol;
+    bool hasPattern = false;
+    const QStringList ids = event.groups();
+    for (const QString &id : ids) {
+        const MvEventGroup *group = display.hiddenGroups.contains(id) ? nullptr : groups.find(id);
+        if (!group)
+            continue;
+        result.groupNames.append(group->name);
+        if (!result.color.isValid())
+            result.color = group->color;
+        if (symbol.isEmpty())
+            symbol = group->symbol;
+        if (!hasPattern && !group->entryText.isEmpty()) {
+            hasPattern = true;
+            pattern = group->entryText;
+        }
+    }
+    result.text = pattern.isEmpty() ? event.description() : filled(pattern, event, start);
+    if (display.showTimes && event.time().isValid())
+        result.text.prepend(event.time().toString(u"HH:mm"_s) + u' ');
+    if (!symbol.isEmpty())
+        result.text.prepend(symbol + u' ');
+    return result;
+}

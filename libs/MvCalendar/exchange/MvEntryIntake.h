@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/mvcalendar_export.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QList>
+#include <QString>
+
+/// What a file from elsewhere holds, read as entries.
+struct MvEntryReading
+{
+    QString error; ///< why nothing could be read, for a person, with file; else empty
+    MvCalendarEventList events;
+    QList<MvCalendarEventFile::Skipped> skipped; ///< what is left out, in the order of the file
+
+    bool isOk() const { return error.isEmpty(); }
+};
+
+/// Takes entries of a file from elsewhere into a list: what is new, what has changed there since, what is the same.
+/// Taking the same file in a second time changes nothing.
+class MVCALENDAR_EXPORT MvEntryIntake
+{
+    Q_DECLARE_TR_FUNCTIONS(MvEntryIntake)
+
+public:
+    static constexpr qint64 largestFile = 64LL * 1024 * 1024;
+
+    enum class Kind { Unknown, List, Calendar, Table };
+
+    struct Report
+    {
+        int added = 0;
+        int changed = 0;
+        int equal = 0;
+        QList<MvCalendarEventFile::Skipped> skipped;
+
+        /// "12 neu, 3 geändert, 40 gleich, 2 ausgelassen"
+        QString describe() const;
+    };
+
+    /// By what it begins with, whatever its name is.
+    static Kind kindOf(const QByteArray &begin);
+    /// Reads a list of entries, an iCalendar or a table. Any thread.
+    static MvEntryReading read(const QFileInfo &file);
+    /// The same of bytes; the name is for messages.
+    static MvEntryReading read(const QByteArray &bytes, const QString &name);
+
+    /// The same in the form of a list that was read: a list itself, or what other programs write of one.
+    static MvCalendarEventFile::Content readAsList(const QFileInfo &file);
+
+    /// The list with the entries in it: those with a known uuid replace what they were, the others are added unless
+    /// they are equal to one that is there. Groups are known by name. A photo that an entry has stays.
+    static MvCalendarEventList joined(const MvCalendarEventList &list, const MvEntryReading &reading, Report *report);
+};

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventIndex.h"
+#include "MvCalendar/MvCalendarEventMerge.h"
+#include "MvCalendar/MvEventText.h"
+#include "MvCalendar/MvRecurrenceDates.h"
+#include "MvProductBase/MvEntryDisplay.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using LeapDay = MvEventRepetition::LeapDay;
+
+class tst_MvEventRepetition : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsRules_data();
+    void readsRules();
+    void fallsOnTheDaysOfAnotherProgram();
+    void entryFallsOn_data();
+    void entryFallsOn();
+    void keepsItsFile();
+    void mergesFields();
+    void readsAsItsGroupSays();
+
+private:
+    static MvCalendarEvent entry(const QDate &date, const QString &rule, LeapDay leapDay = LeapDay::LeapYearsOnly)
+    {
+        MvCalendarEvent event = MvEntries::entry(u"E"_s, date);
+        MvEventRepetition repetition;
+        repetition.rule = rule.isEmpty() ? MvRecurrenceRule() : MvRecurrenceRule::parse(rule).rule;
+        repetition.leapDay = leapDay;
+        event.setRepetition(repetition);
+        return event;
+    }
+};
+
+void tst_MvEventRepetition::readsRules_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected"); // the shortest form, or a part of the reason
+    const auto row = [](const char *text, const char *expected) {
+        QTest::newRow(text) << QString::fromLatin1(text) << QString::fromUtf8(expected);
+    };
+    row("rrule:byday=th;freq=weekly;interval=2", "FREQ=WEEKLY;INTERVAL=2;BYDAY=TH");
+    row("FREQ=MONTHLY;BYDAY=-1FR;WKST=MO;BYHOUR=9", "FREQ=MONTHLY;BYDAY=-1FR");
+    row("FREQ=DAILY;UNTIL=20271231T235959Z", "FREQ=DAILY;UNTIL=20271231");
+    row("FREQ=SECONDLY", "öfter als einmal am Tag");
+    row("FREQ=DAILY;BYHOUR=9,17;COUNT=4", "öfter als einmal am Tag");
+    row("FREQ=DAILY;UNTIL=20270230", "UNTIL=20270230");
+    row("FREQ=DAILY;UNTIL=20270228T250000", "UNTIL=20270228T250000");
+    row("FREQ=DAILY;COUNT=3;UNTIL=20270228", "COUNT und UNTIL");
+    row("FREQ=WEEKLY;BYDAY=2MO", "wievielten Wochentag");
+    row("FREQ=WEEKLY;BYMONTHDAY=3", "Tage des Monats");
+    row("FREQ=YEARLY;RSCALE=HEBREW", "RSCALE");
+    row("FREQ=YEARLY;FREQ=DAILY", "zweimal");
+    row("INTERVAL=2", "FREQ");
+    row("", "FREQ");
+}
+
+void tst_MvEventRepetition::readsRules()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, expected);
+    const MvRecurrenceRuleReading reading = MvRecurrenceRule::parse(text);
+    if (!reading.isOk()) {
+        QVERIFY2(reading.error.contains(expected), qPrintable(reading.error));
+        return;
+    }
+    QCOMPARE(reading.rule.text(), expected);
+    QCOMPARE(MvRecurrenceRule::parse(expected).rule, reading.rule);
+}
+
+void tst_MvEventRepetition::fallsOnTheDaysOfAnotherProgram()
+{
+    const bool isNight = !qEnvironmentVariableIsEmpty("MV_NIGHTLY");
+    QProcess other;
+    other.start(u"python3"_s, {QFINDTESTDATA("random_rules.py"), u"7"_s, isNight ? u"5000"_s : u"150"_s});
+    if (!other.waitForFinished(-1) || other.exitCode() == 77)
+        QSKIP("python3-dateutil is missing");
+    QCOMPARE(other.exitCode(), 0);
+    const QStringList lines = QString::fromLatin1(other.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+    QVERIFY(lines.size() >= 150);
+    for (const QString &line : lines) {
+        QStringList words = line.split(u' ', Qt::SkipEmptyParts);
+        const QDate start = QDate::fromString(words.takeFirst(), u"yyyyMMdd"_s);
+        const QString text = words.takeFirst();
+        const MvRecurrenceRuleReading reading = MvRecurrenceRule::parse(text);
+        QVERIFY2(reading.isOk(), qPrintable(text + u": "_s + reading.error));
+        QStringList dates;
+        for (int year = start.year(); year < start.year() + 10; ++year) {
+            for (const QDate &date : MvRecurrenceDates::inYear(reading.rule, start, year))
+                dates.append(date.toString(u"yyyyMMdd"_s));
+        }
+        QVERIFY2(dates == words, qPrintable(start.toString() + u' ' + text + u"\nhere:  "_s + dates.join(u' ') +
+                                            u"\nthere: "_s + words.join(u' ')));
+    }
+}
+
+void tst_MvEventRepetition::entryFallsOn_data()
+{
+    QTest::addColumn<MvCalendarEvent>("event");
+    QTest::addColumn<QList<QDate>>("on");
+    QTest::addColumn<QList<QDate>>("notOn");
+    using Dates = QList<QDate>;
+
+    const QDate leap(2000, 2, 29);
+    QTest::newRow("leap years only") << entry(leap, {}) << Dates{{2028, 2, 29}} << Dates{{2027, 2, 28}, {2027, 3, 1}};
+    QTest::newRow("28 February") << entry(leap, {}, LeapDay::February28) << Dates{{2028, 2, 29}, {2027, 2, 28}}
+                                 << Dates{{2028, 2, 28}, {2027, 3, 1}};
+    QTest::newRow("1 March, every second year")
+        << entry(leap, u"FREQ=YEARLY;INTERVAL=2"_s, LeapDay::March1) << Dates{{2028, 2, 29}, {2026, 3, 1}}
+        << Dates{{2027, 3, 1}, {2028, 3, 1}, {1998, 3, 1}};
+    QTest::newRow("before its beginning") << entry({2027, 1, 4}, u"FREQ=WEEKLY"_s) << Dates{{2027, 1, 4}, {2028, 1, 3}}
+                                          << Dates{{2026, 12, 28}, {2027, 1, 5}};
+    MvCalendarEvent dates = entry({2027, 1, 4}, u"FREQ=WEEKLY"_s);
+    MvEventRepetition repetition = dates.repetition();
+    repetition.exceptions = {{2027, 1, 18}};
+    repetition.extraDates = {{2027, 1, 20}, {2027, 1, 11}, {2027, 1, 20}};
+    dates.setRepetition(repetition);
+    QTest::newRow("exceptions and dates of its own")
+        << dates << Dates{{2027, 1, 11}, {2027, 1, 20}} << Dates{{2027, 1, 18}};
+    MvCalendarEvent trip = MvEntries::entry(u"E"_s, {2026, 12, 28}, {}, false);
+    trip.setEndDate({2027, 1, 3});
+    QTest::newRow("span over new year") << trip << Dates{{2026, 12, 28}, {2027, 1, 1}, {2027, 1, 3}}
+                                        << Dates{{2026, 12, 27}, {2027, 1, 4}, {2027, 12, 28}};
+    MvCalendarEvent fair = MvEntries::entry(u"E"_s, {2020, 12, 30});
+    fair.setEndDate({2021, 1, 2});
+    QTest::newRow("yearly span") << fair << Dates{{2027, 1, 2}, {2027, 12, 31}} << Dates{{2027, 1, 3}, {2027, 12, 29}};
+}
+
+void tst_MvEventRepetition::entryFallsOn()
+{
+    QFETCH(MvCalendarEvent, event);
+    QFETCH(QList<QDate>, on);
+    QFETCH(QList<QDate>, notOn);
+    // among others, in list order
+    const MvCalendarEventIndex index(
+        {MvEntries::entry(u"first"_s, on.first()), event, MvEntries::entry(u"last"_s, on.first())});
+    const auto names = [&index](const QDate &day) {
+        QStringList names;
+        index.visit(day, [&names](const MvCalendarEvent &found) {
+            names.append(found.description());
+            return false;
+        });
+        return names;
+    };
+    QCOMPARE(names(on.first()), (QStringList{u"first"_s, u"E"_s, u"last"_s}));
+    for (const QDate &day : on)
+        QVERIFY2(event.isAtDay(day) && names(day).contains(u"E"_s), qPrintable(day.toString()));
+    for (const QDate &day : notOn)
+        QVERIFY2(!event.isAtDay(day) && !names(day).contains(u"E"_s), qPrintable(day.toString()));
+}
+
+void tst_MvEventRepetition::keepsItsFile()
+{
+    MvCalendarEventList list{MvEntries::entry(u"plain"_s, {1990, 5, 17})};
+    const QByteArray plain = MvCalendarEventFile::toBytes(list);
+    QVERIFY(!plain.contains("LeapDay") && !plain.contains("Group"));
+
+    MvCalendarEvent full = entry({2027, 1, 4}, u"FREQ=WEEKLY;BYDAY=MO,FR"_s, LeapDay::March1);
+    MvEventRepetition repetition = full.repetition();
+    repetition.exceptions = {{2027, 1, 8}};
+    repetition.extraDates = {{2027, 1, 9}};
+    full.setRepetition(repetition);
+    full.setEndDate({2027, 1, 5});
+    full.setTime({19, 30});
+    full.setGroups({list.groups().idOfName(u"Verein „Süd“ & Söhne"_s), u"fort"_s});
+    list.append(full);
+    list.groups()[0].color = Qt::darkGreen;
+    list.groups()[0].entryText = u"%name (%age)"_s;
+
+    QTemporaryDir folder;
+    QFile file(folder.filePath(u"list.xml"_s));
+    const auto readBack = [&file](const QByteArray &bytes) {
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && (file.close(), true)
+                   ? MvCalendarEventFile::read(QFileInfo(file.fileName()))
+                   : MvCalendarEventFile::Content();
+    };
+    const QByteArray bytes = MvCalendarEventFile::toBytes(list);
+    const MvCalendarEventFile::Content content = readBack(bytes);
+    QVERIFY2(content.isComplete, qPrintable(content.error));
+    QCOMPARE(content.events, list);
+    QCOMPARE(content.events.groups(), list.groups());
+    QCOMPARE(MvCalendarEventFile::toBytes(content.events), bytes);
+
+    // what cannot be read is left out and named, so that nothing is written over it
+    const std::pair<const char *, const char *> faults[] = {{"FREQ=WEEKLY", "FREQ=HOURLY"},
+                                                            {"2027-01-08", "2027-02-30"},
+                                                            {"19:30", "25:00"},
+                                                            {"march1", "may1"},
+                                                            {"#008000", "leafy"}};
+    for (const auto &[right, wrong] : faults) {
+        const MvCalendarEventFile::Content broken = readBack(QByteArray(bytes).replace(right, wrong));
+        QVERIFY2(!broken.isComplete && broken.skipped.size() == 1, wrong);
+        QVERIFY(broken.skipped.first().line > 2 && !broken.skipped.first().reason.isEmpty());
+    }
+}
+
+void tst_MvEventRepetition::mergesFields()
+{
+    MvCalendarEventList base{entry({2027, 1, 4}, u"FREQ=WEEKLY"_s)};
+    MvCalendarEventList mine = base;
+    MvCalendarEventList theirs = base;
+    const QString club = mine.groups().idOfName(u"Verein"_s);
+    mine[0].setGroups({club});
+    theirs.groups().idOfName(u"Familie"_s);
+    theirs[0].setEndDate({2027, 1, 5});
+    QVERIFY(!(mine.first() == base.first()) && !(theirs.first() == base.first()));
+    const MvCalendarEventList merged = MvCalendarEventMerge::threeWay(base, mine, theirs);
+    QCOMPARE(merged.size(), 1);
+    QCOMPARE(merged.first().groups(), QStringList{club});
+    QCOMPARE(merged.first().endDate(), QDate(2027, 1, 5));
+    QCOMPARE(merged.first().repetition(), base.first().repetition());
+    QCOMPARE(merged.groups().size(), 2);
+    mine.groups().clear(); // removed here, unchanged there
+    QCOMPARE(MvCalendarEventMerge::threeWay(merged, mine, merged).groups().size(), 0);
+}
+
+void tst_MvEventRepetition::readsAsItsGroupSays()
+{
+    MvEventGroupList groups;
+    const QString family = groups.idOfName(u"Familie"_s);
+    groups[0].entryText = u"%name wird %age"_s;
+    groups[0].symbol = u"★"_s;
+    MvCalendarEvent birthday = MvEntries::entry(u"Jörg %age"_s, {1967, 3, 1});
+    const MvEntryDisplay ages{{}, u"%name (%age, %year)"_s, false};
+    const auto text = [&](const MvEntryDisplay &display, const QDate &day) {
+        return MvEventText::of(birthday, day, groups, display).text;
+    };
+    QCOMPARE(text({}, {2027, 3, 1}), u"Jörg %age"_s);
+    QCOMPARE(text(ages, {2027, 3, 1}), u"Jörg %age (60, 1967)"_s);
+    QCOMPARE(text(ages, {1967, 3, 1}), u"Jörg %age"_s); // not yet one year
+    birthday.setGroups({u"unknown"_s, family});
+    QCOMPARE(text(ages, {2027, 3, 1}), u"★ Jörg %age wird 60"_s);
+    QVERIFY(!MvEventText::isShown(birthday, {{family, u"unknown"_s}, {}, false}));
+    QVERIFY(MvEventText::isShown(birthday, {{family}, {}, false}));
+    birthday.setDateTime(QDate(MvCalendarEvent::unknownYear, 3, 1).startOfDay());
+    QCOMPARE(text(ages, {2027, 3, 1}), u"★ Jörg %age"_s);
+    birthday.setRepetition(entry({2020, 1, 1}, u"FREQ=MONTHLY"_s).repetition());
+    birthday.setDateTime(QDate(1967, 3, 1).startOfDay());
+    QCOMPARE(text(ages, {2027, 3, 1}), u"★ Jörg %age"_s); // a date of each month has no age
+}
+
+MV_TEST_MAIN(tst_MvEventRepetition)
+#include "tst_MvEventRepetition.moc"
