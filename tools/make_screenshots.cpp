@@ -89,7 +89,7 @@ private:
     void fotoSelected();
     void fotoLeft() { setPageFoto(MvFotoFrame::Placement::Left); }
     void portrait();
-    void themes() { openPanel("themePanel"); }
+    void themes();
     void templates();
     void emptyFrames() { useTheme(false); }
     void album() { useTheme(true); }
@@ -124,6 +124,7 @@ private:
     void newCalendar() { trigger("newProject"); }
     void layoutChooser() { trigger("chooseLayout"); }
     void pageSetup() { trigger("pageSetup"); }
+    void printCheck() { trigger("printCheck"); }
     void exportPdf() { trigger("exportPdf"); }
     void exportPng() { trigger("exportPng"); }
     void progress();
@@ -177,7 +178,7 @@ QList<Screenshots::State> Screenshots::states()
         {"text-panel", &S::textPanel, longSettling},
         {"day-panel", &S::dayPanel, settling},
         {"print-marks", &S::marks, longSettling},
-        {"themes", &S::themes, longSettling},
+        {"themes", &S::themes, 3 * longSettling},
         {"templates", &S::templates, longSettling},
         {"content", &S::content, settling},
         {"layouts", &S::layouts, longSettling},
@@ -203,6 +204,7 @@ QList<Screenshots::State> Screenshots::states()
         {"new-calendar", &S::newCalendar, longSettling},
         {"layout-chooser", &S::layoutChooser, longSettling},
         {"page-setup", &S::pageSetup, settling},
+        {"print-check", &S::printCheck, longSettling},
         {"export-pdf", &S::exportPdf, settling},
         {"export-png", &S::exportPng, settling},
         {"progress", &S::progress, settling},
@@ -321,6 +323,13 @@ void Screenshots::welcome()
 {
     trigger("showWelcome");
     window()->setCurrentPage(0);
+}
+
+/// Of a calendar with photos, whose pages the pictures of the themes show.
+void Screenshots::themes()
+{
+    useTheme(true);
+    openPanel("themePanel");
 }
 
 void Screenshots::useTheme(bool hasFotos)

@@ -194,6 +194,8 @@ QStringList MvCalendariumDays::officialTextsOf(const QDate &date, const MvCalend
 
 QStringList MvCalendariumDays::textsOf(const QDate &date, const MvCalendariumHolidayList &holidays) const
 {
+    if (m_renderer.renderingInformation().hasAnyOf(calendar_render_no_texts))
+        return {};
     const MvCalendariumContentConfig &content = m_renderer.calendariumContent();
     QStringList texts;
     if (content.hasFeatures(FEATURE_HOLIDAYS))
