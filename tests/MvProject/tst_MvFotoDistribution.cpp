@@ -125,7 +125,8 @@ void tst_MvFotoDistribution::facingPages()
     MvCalendarDocument document = wanted.make();
     QCOMPARE(document.pages().size(), 7);
     MvFotoPool pool;
-    pool.add({photo(u"feb"_qs, u"2026-02-05"_qs), photo(u"mar"_qs, u"2026-03-05"_qs), photo(u"jan"_qs, u"2026-01-05"_qs)});
+    pool.add(
+        {photo(u"feb"_qs, u"2026-02-05"_qs), photo(u"mar"_qs, u"2026-03-05"_qs), photo(u"jan"_qs, u"2026-01-05"_qs)});
     document.setFotoPool(pool);
     const QStringList months{u"jan"_qs, u"feb"_qs, u"mar"_qs};
     for (const MvCalendarTheme &theme : MvThemeRegistry::instance().themes()) {

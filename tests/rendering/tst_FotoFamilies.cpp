@@ -15,8 +15,8 @@
 using namespace Qt::StringLiterals;
 using Item = MvPaintRecording::Item;
 
-/// Calendars of families with any photos, in any theme and on any paper: nothing overlaps or stands in a zone, and every
-/// word can be read on what lies beneath it.
+/// Calendars of families with any photos, in any theme and on any paper: nothing overlaps or stands in a zone, and
+/// every word can be read on what lies beneath it.
 class tst_FotoFamilies : public MvTest
 {
     Q_OBJECT
@@ -70,8 +70,8 @@ QImage made(const QSize &size, QRandomGenerator &random)
     painter.fillRect(image.rect(), sky);
     const int most = 1 + random.bounded(60);
     for (int number = random.bounded(most); number >= 0; --number)
-        painter.fillRect(QRect(random.bounded(size.width()), random.bounded(size.height()), size.width() / (1 + most / 8),
-                               size.height() / (2 + most / 8)),
+        painter.fillRect(QRect(random.bounded(size.width()), random.bounded(size.height()),
+                               size.width() / (1 + most / 8), size.height() / (2 + most / 8)),
                          color(0, 256));
     return image;
 }
@@ -153,8 +153,10 @@ void tst_FotoFamilies::printed()
     MvCalendarDocument document = wanted.make();
     MvFotoPool pool;
     for (int number = 3 + below(58); number > 0; --number)
-        pool.add({m_fotos[number - 1], m_sizes[(number - 1) % m_sizes.size()],
-                  QDateTime(QDate(2026, 1, 1).addDays(below(365)), QTime(12, 0)), {0.5, 0.4}});
+        pool.add({m_fotos[number - 1],
+                  m_sizes[(number - 1) % m_sizes.size()],
+                  QDateTime(QDate(2026, 1, 1).addDays(below(365)), QTime(12, 0)),
+                  {0.5, 0.4}});
     document.setFotoPool(pool);
     document = MvFotoDistribution::distribute(document).document;
     const QStringList captions{QString(), u"Am See"_s, u"Der Tag, an dem Oma mit uns auf den Berg gestiegen ist"_s};

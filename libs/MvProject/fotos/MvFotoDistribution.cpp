@@ -238,11 +238,10 @@ void Distribution::fillIndexesWithOthers()
 {
     for (int page = 0; page < m_document.pages().size(); ++page) {
         const auto isInIndex = [page](const Frame &frame) { return frame.isInIndex && frame.id.page == page; };
-        const auto open = std::count_if(m_frames.cbegin(), m_frames.cend(), [&](const Frame &frame) {
-            return isInIndex(frame) && frame.isEmpty;
-        });
-        const auto waiting = std::count_if(m_waiting.cbegin(), m_waiting.cend(),
-                                           [](const Waiting &photo) { return !photo.isTaken; });
+        const auto open = std::count_if(m_frames.cbegin(), m_frames.cend(),
+                                        [&](const Frame &frame) { return isInIndex(frame) && frame.isEmpty; });
+        const auto waiting =
+            std::count_if(m_waiting.cbegin(), m_waiting.cend(), [](const Waiting &photo) { return !photo.isTaken; });
         if (open > 0 && waiting >= open)
             fillWithOthers(isInIndex);
     }

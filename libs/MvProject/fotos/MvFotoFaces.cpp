@@ -7,15 +7,15 @@
 
 namespace {
 
-constexpr double smallest = 8.0;    // pixels of a face's width
-constexpr double largest = 0.7;     // of the picture's shorter side
+constexpr double smallest = 8.0; // pixels of a face's width
+constexpr double largest = 0.7;  // of the picture's shorter side
 constexpr double sizeStep = 1.15;
 constexpr double faceHeight = 1.25; // of its width
 constexpr double leastTone = 0.6;
 constexpr double leastLikeness = 0.28;
-constexpr double moreOfSmall = 0.2; // small windows often look like a face by chance
-constexpr double small = 0.15;      // of the picture's shorter side
-constexpr double alsoFaces = 0.5;   // of the best one's score
+constexpr double moreOfSmall = 0.2;   // small windows often look like a face by chance
+constexpr double small = 0.15;        // of the picture's shorter side
+constexpr double alsoFaces = 0.5;     // of the best one's score
 constexpr double skinOfPicture = 0.4; // that is beyond the picture's edge
 constexpr double highestHat = 1.1;    // of the face's height
 constexpr double hair = 0.3;          // the same, where nothing stands out
@@ -58,9 +58,10 @@ private:
 /// 0 to 1, by the share of red and of green: skin of all people lies between two curves.
 double skinTone(QRgb color)
 {
-    constexpr double darkest = 22.0;
+    constexpr double darkest = 30.0; // of a channel on average; dark hair has the tones of skin, but less light
+    constexpr double litEnough = 55.0;
     const double sum = qRed(color) + qGreen(color) + qBlue(color);
-    if (sum < 3.0 * darkest)
+    if (sum <= 3.0 * darkest)
         return 0.0;
     const double red = qRed(color) / sum;
     const double green = qGreen(color) / sum;
@@ -69,7 +70,7 @@ double skinTone(QRgb color)
     const double away = std::abs(2.0 * green - upper - lower) / (upper - lower);
     const double byGreen = std::clamp(1.7 * (1.0 - away), 0.0, 1.0);
     const double byRed = std::clamp((red - 0.355) / 0.02, 0.0, 1.0) * std::clamp((0.58 - red) / 0.05, 0.0, 1.0);
-    return byGreen * byRed;
+    return byGreen * byRed * std::min(1.0, (sum / 3.0 - darkest) / (litEnough - darkest));
 }
 
 /// A picture, ready to be looked at through windows.
@@ -167,7 +168,8 @@ double Seen::topOfHead(const QRectF &window) const
         return m_picture.pixel(std::clamp(int(x), 0, m_picture.width() - 1), y);
     };
     const auto differs = [](QRgb a, QRgb b) {
-        return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b)) > standsOut;
+        return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b)) >
+               standsOut;
     };
     const int lowest = std::clamp(int(window.top()), 0, m_picture.height() - 1);
     const int highest = std::max(0, int(window.top() - highestHat * window.height()));
@@ -183,8 +185,8 @@ double Seen::topOfHead(const QRectF &window) const
 MvFotoFace Seen::face(const QRectF &window, double score) const
 {
     const double top = std::max(0.0, topOfHead(window) - air * window.height());
-    const QRectF head(QPointF(window.left() - 0.15 * window.width(), top),
-                      QPointF(window.right() + 0.15 * window.width(), window.bottom() + 0.1 * window.height()));
+    const QRectF head(QPointF(window.left() - 0.25 * window.width(), top),
+                      QPointF(window.right() + 0.25 * window.width(), window.bottom() + 0.1 * window.height()));
     const auto share = [this](const QRectF &rect) {
         const QRectF inside = rect & QRectF(m_picture.rect());
         return QRectF(inside.left() / m_picture.width(), inside.top() / m_picture.height(),

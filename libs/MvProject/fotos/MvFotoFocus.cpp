@@ -12,17 +12,19 @@
 namespace {
 
 constexpr std::array frames{0.5, 0.7, 1.0, 1.35, 1.6, 2.0, 2.5, 3.0}; // width by height
-constexpr int steps = 100;             // of an axis
+constexpr int steps = 100;                                            // of an axis
 constexpr double headOfUpright = 0.42; // of the height, in an upright picture of which nothing is known
-constexpr double pull = 0.06;          // of all that should be seen, towards the usual place
+constexpr double pull = 0.1;           // of all that should be seen, towards the usual place
 
+constexpr double ofNarrow = 0.25; // frames that cannot show all faces do not decide for those that can
 constexpr double ofFace = 3.0;
 constexpr double ofHead = 1.5;
-constexpr double ofTop = 0.6; // of all that stands out
+constexpr double ofTop = 0.6;    // of all that stands out
 constexpr double nearTop = 0.12; // of what stands out lies above its top
 constexpr double heightOfTop = 0.15;
 constexpr double airOfTop = 0.04;
-constexpr int cells = 20; // along the longer side
+constexpr double smooth = 1.5; // difference from pixel to pixel that is no detail
+constexpr int cells = 20;      // along the longer side
 
 /// A part of the picture that should be seen.
 struct Part
@@ -71,7 +73,7 @@ QList<Part> standingOut(const QImage &image)
                               1.0 / small.height());
             const QPointF away = rect.center() - QPointF(0.5, 0.5);
             const double middle = 1.0 - 1.2 * QPointF::dotProduct(away, away);
-            const double weight = middle * (unlike + 4.0) * (detail(x, y) + 2.0);
+            const double weight = middle * (unlike + 4.0) * std::max(0.0, detail(x, y) - smooth);
             parts.append({rect, weight, false});
             mean += weight / count;
         }
@@ -109,19 +111,18 @@ QList<Part> partsOf(const QImage &image)
     if (!parts.isEmpty())
         return parts;
     parts = standingOut(image);
-    parts.append(topOf(parts));
+    const bool isAny = std::any_of(parts.cbegin(), parts.cend(), [](const Part &part) { return part.weight > 0.0; });
+    if (isAny)
+        parts.append(topOf(parts));
     return parts;
 }
 
 QPointF middleOf(const QList<Part> &parts)
 {
-    QPointF sum;
-    double weight = 0.0;
-    for (const Part &part : parts) {
-        sum += part.weight * part.rect.center();
-        weight += part.weight;
-    }
-    return sum / weight;
+    QRectF all;
+    for (const Part &part : parts)
+        all |= part.rect;
+    return all.center();
 }
 
 /// Along one axis: where a part begins and ends.
@@ -142,9 +143,17 @@ double seenOf(const Span &span, double start, double end)
 /// The place along an axis whose crops hold the most. `shown`: the part of the axis that each frame shows.
 double bestPlace(const QList<Span> &spans, const QList<double> &shown, double usual)
 {
+    if (spans.isEmpty())
+        return usual;
     double weight = 0.0;
-    for (const Span &span : spans)
+    double first = 1.0;
+    double last = 0.0;
+    for (const Span &span : spans) {
         weight += span.weight;
+        first = std::min(first, span.isWhole ? span.start : 1.0);
+        last = std::max(last, span.isWhole ? span.end : 0.0);
+    }
+    const double needed = last - first; // for all faces
     double best = usual;
     double most = -1.0;
     for (int step = 0; step <= steps; ++step) {
@@ -152,8 +161,9 @@ double bestPlace(const QList<Span> &spans, const QList<double> &shown, double us
         double value = -pull * weight * std::abs(place - usual);
         for (const double part : shown) {
             const double start = std::clamp(place - part / 2.0, 0.0, 1.0 - part);
+            const double counts = part < needed ? ofNarrow : 1.0;
             for (const Span &span : spans)
-                value += seenOf(span, start, start + part);
+                value += counts * seenOf(span, start, start + part);
         }
         if (value > most + 1e-9) {
             most = value;

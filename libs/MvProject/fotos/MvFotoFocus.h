@@ -12,7 +12,8 @@
 /// There is no model and no network. On a picture of at most `side` pixels:
 /// - **Faces** are found by tones of skin and by eyes, nose and mouth that are darker and lighter than what is beside
 ///   them (MvFotoFaces). A face counts for most, the head with hair or hat and air above it for less.
-/// - Where there are none, **what stands out** counts: colours unlike those of the whole picture, where there is detail,
+/// - Where there are none, **what stands out** counts: colours unlike those of the whole picture, where there is
+/// detail,
 ///   the middle more than the edges; and its top once more, since towers, trees and balloons without their tops look
 ///   cut off while their feet are not missed.
 /// The point is the one whose crops hold the most of it, over frames from narrow upright ones to wide strips. Where all
