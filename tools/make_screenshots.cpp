@@ -89,7 +89,7 @@ private:
     void fotoSelected();
     void fotoLeft() { setPageFoto(MvFotoFrame::Placement::Left); }
     void portrait();
-    void themes() { openPanel("themePanel"); }
+    void themes();
     void templates();
     void emptyFrames() { useTheme(false); }
     void album() { useTheme(true); }
@@ -125,6 +125,7 @@ private:
     void newCalendar() { trigger("newProject"); }
     void layoutChooser() { trigger("chooseLayout"); }
     void pageSetup() { trigger("pageSetup"); }
+    void printCheck() { trigger("printCheck"); }
     void exportPdf() { trigger("exportPdf"); }
     void exportPng() { trigger("exportPng"); }
     void progress();
@@ -178,7 +179,7 @@ QList<Screenshots::State> Screenshots::states()
         {"text-panel", &S::textPanel, longSettling},
         {"day-panel", &S::dayPanel, settling},
         {"print-marks", &S::marks, longSettling},
-        {"themes", &S::themes, longSettling},
+        {"themes", &S::themes, 3 * longSettling},
         {"templates", &S::templates, longSettling},
         {"content", &S::content, settling},
         {"layouts", &S::layouts, longSettling},
@@ -205,6 +206,7 @@ QList<Screenshots::State> Screenshots::states()
         {"new-calendar", &S::newCalendar, longSettling},
         {"layout-chooser", &S::layoutChooser, longSettling},
         {"page-setup", &S::pageSetup, settling},
+        {"print-check", &S::printCheck, longSettling},
         {"export-pdf", &S::exportPdf, settling},
         {"export-png", &S::exportPng, settling},
         {"progress", &S::progress, settling},
@@ -323,6 +325,13 @@ void Screenshots::welcome()
 {
     trigger("showWelcome");
     window()->setCurrentPage(0);
+}
+
+/// Of a calendar with photos, whose pages the pictures of the themes show.
+void Screenshots::themes()
+{
+    useTheme(true);
+    openPanel("themePanel");
 }
 
 void Screenshots::useTheme(bool hasFotos)

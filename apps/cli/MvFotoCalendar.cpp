@@ -46,7 +46,8 @@ QList<MvCliOption> MvFotoCalendar::options()
              true},
             {u"theme"_s, u"ID"_s, tr("wie der Fotokalender aussieht, siehe themes")},
             {u"no-cover"_s, {}, tr("ohne Titelblatt")},
-            {u"no-back"_s, {}, tr("ohne Rückseite")}};
+            {u"no-back"_s, {}, tr("ohne Rückseite")},
+            {u"facing"_s, {}, tr("das Foto jedes Monats auf einer eigenen Seite, die über dem Monat hängt")}};
 }
 
 bool MvFotoCalendar::isAsked(const MvCliValues &values)
@@ -71,6 +72,7 @@ MvFotoCalendar::MvFotoCalendar(MvCliValues &values, const MvCliArguments &argume
     m_calendar.author = values.text(u"author"_s);
     m_calendar.hasCover = !values.has(u"no-cover"_s);
     m_calendar.hasBack = !values.has(u"no-back"_s);
+    m_calendar.hasFacingPages = values.has(u"facing"_s);
 }
 
 MvCliProject MvFotoCalendar::make(QTextStream &hints) const

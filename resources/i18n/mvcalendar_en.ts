@@ -2239,6 +2239,10 @@
         <translation>without a back</translation>
     </message>
     <message>
+        <source>das Foto jedes Monats auf einer eigenen Seite, die über dem Monat hängt</source>
+        <translation>the photo of each month on a page of its own, which hangs above the month</translation>
+    </message>
+    <message>
         <source>--%1 gilt nicht für Fotokalender: ihr Aussehen steht im Thema (--theme)</source>
         <translation>--%1 is not for photo calendars: their look is that of the theme (--theme)</translation>
     </message>

@@ -176,6 +176,8 @@ void tst_CalendariumKinds::write_data()
         << grid << both + weeks << january << int(FEATURE_CALENDAR_WEEKS)
         << u" Januar 2027,KW,Montag,Dienstag,Mittwoch,Donnerstag,Freitag,Samstag,Sonntag,53,1,2,3,1,4"_s
         << 1 + 8 + 5 + 31;
+    QTest::newRow("grid: numbers alone, six weeks in February")
+        << grid << u"calendar_render_no_texts"_s << february << (holidays | FEATURE_ENTRIES) << u"1,2,3"_s << 28;
     QTest::newRow("two weeks: short heads")
         << twoWeeks << both << january << 0 << u" Januar 2027,Mo,Di,Mi,Do,Fr,Sa,So,Mo,Di,Mi,Do,Fr,Sa,So,1,2"_s
         << 1 + 14 + 31;

@@ -3,6 +3,7 @@
 
 #include "MvProject/MvFotoDistribution.h"
 #include "MvProject/MvNewCalendar.h"
+#include "MvProject/MvThemeApplication.h"
 #include "MvProject/MvThemeRegistry.h"
 #include "MvProjectFixture.h"
 
@@ -18,6 +19,7 @@ private Q_SLOTS:
     void months_data();
     void months();
     void coverAndIndex();
+    void facingPages();
     void families_data();
     void families();
 };
@@ -104,6 +106,37 @@ void tst_MvFotoDistribution::coverAndIndex()
     QCOMPARE(names(filled), u"upright jan feb jan"_qs);
     QCOMPARE(filled.foto({3, 1}).path(), u"/fotos/feb"_qs);
     QVERIFY(filled.foto({3, 2}).isEmpty());
+
+    for (int number = 0; number < 12; ++number) // enough for an index of its own
+        pool.add(photo(u"rest%1"_qs.arg(number), {}));
+    document.setFotoPool(pool);
+    const MvFotoDistribution::Result rich = MvFotoDistribution::distribute(document);
+    QCOMPARE(rich.emptyFrames, 0);
+    QCOMPARE(rich.document.fotoUses().size(), 15);
+}
+
+/// The photo of a month hangs above it; the cover gets another one.
+void tst_MvFotoDistribution::facingPages()
+{
+    MvNewCalendar wanted;
+    wanted.range = {QDate(2027, 1, 1), QDate(2027, 3, 31)};
+    wanted.hasFacingPages = true;
+    wanted.hasBack = false;
+    MvCalendarDocument document = wanted.make();
+    QCOMPARE(document.pages().size(), 7);
+    MvFotoPool pool;
+    pool.add(
+        {photo(u"feb"_qs, u"2026-02-05"_qs), photo(u"mar"_qs, u"2026-03-05"_qs), photo(u"jan"_qs, u"2026-01-05"_qs)});
+    document.setFotoPool(pool);
+    const QStringList months{u"jan"_qs, u"feb"_qs, u"mar"_qs};
+    for (const MvCalendarTheme &theme : MvThemeRegistry::instance().themes()) {
+        const MvCalendarDocument themed = MvThemeApplication::applied(document, theme);
+        for (const FrameId &frame : themed.frames())
+            QVERIFY(!themed.isMonthPage(frame.page));
+        const MvCalendarDocument filled = MvFotoDistribution::distribute(themed).document;
+        for (int month = 0; month < 3; ++month)
+            QCOMPARE(filled.foto({1 + 2 * month, 0}).path(), u"/fotos/"_qs + months[month]);
+    }
 }
 
 void tst_MvFotoDistribution::families_data()

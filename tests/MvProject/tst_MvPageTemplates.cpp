@@ -158,7 +158,8 @@ void tst_MvPageTemplates::turnsIntoStrips()
     QCOMPARE(layoutOn(u"MONTH_ABOVE"_s, u"A4"_s), QString()); // the page's own
     QCOMPARE(layoutOn(u"MONTH_ABOVE"_s, u"90x55"_s), u"ONE_ROW_STRIP"_s);
     QCOMPARE(layoutOn(u"MONTH_PANEL"_s, u"A4"_s), u"DAY_LIST"_s);
-    QCOMPARE(layoutOn(u"MONTH_PANEL"_s, u"A6"_s), u"MONTH_GRID_BARE"_s); // the month's name stands above it already
+    QCOMPARE(layoutOn(u"MONTH_PANEL"_s, u"A6"_s), u"DAY_LIST"_s);
+    QCOMPARE(layoutOn(u"MONTH_PANEL"_s, u"140x85"_s), u"MONTH_GRID_BARE"_s); // the month's name stands above it already
 }
 
 void tst_MvPageTemplates::veilsReachTheEdges_data()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
 
+#include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 
 #include <QPainter>
@@ -209,10 +210,13 @@ void MvCalendariumRendererOneWeekPerRow::renderDayCells(QPainter &painter, const
 void MvCalendariumRendererOneWeekPerRow::renderWeek(QPainter &painter, const QRectF &firstDay, const QDate &monday,
                                                     int month, bool even)
 {
+    const bool isPlain = isConfigured(calendar_render_no_texts);
     QRectF cell = firstDay;
     for (int day = 0; day < daysPerWeek; ++day) {
         const QDate date = monday.addDays(day);
-        if (date.month() == month)
+        if (date.month() == month && isPlain)
+            MvCalendariumCellPainter(*this, painter).drawPlainDay(cell, date, QString::number(date.day()));
+        else if (date.month() == month)
             drawDayNumberCell(painter, cell, date);
         else
             drawNeighbouringDay(painter, cell, date, even);

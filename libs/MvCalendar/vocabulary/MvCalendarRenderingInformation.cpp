@@ -33,6 +33,7 @@ void MvCalendarRenderingInformation::fillTable(Table *table) const
     table->insert(QStringLiteral("calendar_render_days_of_week_short"), calendar_render_days_of_week_short);
     table->insert(QStringLiteral("calendar_render_days_of_week_only_in_front"),
                   calendar_render_days_of_week_only_in_front);
+    table->insert(QStringLiteral("calendar_render_no_texts"), calendar_render_no_texts);
 }
 
 void MvCalendarRenderingInformation::fromXML(const QDomElement &element)

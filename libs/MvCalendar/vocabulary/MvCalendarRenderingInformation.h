@@ -30,6 +30,7 @@ enum MvCalendarRenderingInformationEnum : qint32 {
     calendar_render_no_empty_weeks = 0x100000,
     calendar_render_days_of_week_short = 0x200000,
     calendar_render_days_of_week_only_in_front = 0x400000,
+    calendar_render_no_texts = 0x800000, // days are numbers and colours alone: no names of holidays, no entries
 };
 
 extern template class MVCALENDAR_EXPORT MvEnumWrapper<MvCalendarRenderingInformationEnum>;

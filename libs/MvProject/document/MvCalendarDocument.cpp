@@ -132,6 +132,12 @@ bool MvCalendarDocument::isMonthPage(int page) const
     return page >= 0 && page < m_pages.size() && isMonth(m_pages[page]);
 }
 
+bool MvCalendarDocument::isFacingMonth(int page) const
+{
+    return page > 0 && isMonthPage(page) && m_pages[page - 1].kind() == MvPageKind::Free &&
+           monthOf(m_pages[page - 1]) == monthOf(m_pages[page]);
+}
+
 int MvCalendarDocument::insertPage(int before, const MvCalendarPage &page)
 {
     MvCalendarPage inserted = page;

@@ -93,6 +93,9 @@ public:
     void setPage(int page, const MvCalendarPage &content);
     /// False for a number without a page.
     bool isMonthPage(int page) const;
+    /// A free page of the same month stands before it, for its photo: bound between them, it hangs above the month.
+    /// False for a page that is no month.
+    bool isFacingMonth(int page) const;
     /// Puts a page before the one with the number, or at the end; covers go before and backs behind all months,
     /// wherever they are wanted. A page of kind Month becomes a free one. Without a date of its own it takes that of
     /// its neighbour. Gives its number.

@@ -107,15 +107,26 @@ QList<MvVeilField> MvPagePainter::veilFields(const MvPageTextPainter &texts) con
     return MvVeilField::of(written, m_format, !m_page.background().foto().isEmpty());
 }
 
+/// Years beside a month, and on a back, are counted from the calendar's beginning, as on its cover.
+QDate MvPagePainter::beginningOfYear(const MvDateRange &range) const
+{
+    const QDate month = m_page.contentConfig().date();
+    if (range.isValid() && m_page.kind() == MvPageKind::Back)
+        return range.start();
+    if (!range.isValid() || m_page.kind() != MvPageKind::Month || m_page.monthCount() > 1)
+        return month;
+    const QDate start = range.start();
+    const int months = monthsPerYear * (month.year() - start.year()) + month.month() - start.month();
+    return start.addMonths(months - (months % monthsPerYear + monthsPerYear) % monthsPerYear);
+}
+
 void MvPagePainter::paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
                                      MvPageFindings &found) const
 {
     const MvCalendariumElement &shown = *element.calendarium();
     const MvCalendariumAppearance appearance = appearanceOf(shown, m_page.appearance());
-    // years on a back are counted from the calendar's beginning, as on its cover
-    const bool isYearOfBack = m_page.kind() == MvPageKind::Back && pass.context.range.isValid() &&
-                              appearance.type().traits().range == MvCalendariumTraits::Range::Year;
-    const QDate month = isYearOfBack ? pass.context.range.start() : m_page.contentConfig().date();
+    const bool isYear = appearance.type().traits().range == MvCalendariumTraits::Range::Year;
+    const QDate month = isYear ? beginningOfYear(pass.context.range) : m_page.contentConfig().date();
     const MvCalendariumContentConfig content =
         monthsAhead(m_page.contentConfig().moveToDay(month).moveToDayInMonth(1), shown.monthOffset());
     const auto make = [&](const MvCalendariumAppearance &look) {

@@ -47,6 +47,7 @@ public:
 
 private:
     QList<MvVeilField> veilFields(const MvPageTextPainter &texts) const;
+    QDate beginningOfYear(const MvDateRange &range) const;
     void paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
                           MvPageFindings &found) const;
 

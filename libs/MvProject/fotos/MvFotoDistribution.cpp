@@ -56,16 +56,18 @@ double area(const QSizeF &size)
 
 QList<Frame> framesOfPage(const MvCalendarDocument &document, int number)
 {
+    const bool isFacing = document.isFacingMonth(number + 1);
     const MvCalendarPage &page = document.pages()[number];
+    const MvPageKind kind = isFacing ? MvPageKind::Month : page.kind();
     const QList<MvPageElement> elements = page.elementsOn(document.format());
     QList<Frame> frames;
     for (int element = 0; element < elements.size(); ++element) {
         const MvFotoElement *foto = elements[element].foto();
         if (!foto || page.frameSize(element, document.format()).isEmpty())
             continue;
-        Frame frame{{number, element}, page.frameSize(element, document.format()), page.kind()};
+        Frame frame{{number, element}, page.frameSize(element, document.format()), kind};
         frame.month = document.pageDates().value(number);
-        frame.months = page.kind() == MvPageKind::Month ? page.monthCount() : 1;
+        frame.months = kind == MvPageKind::Month ? page.monthCount() : 1;
         frame.place = int(frames.size());
         frame.isEmpty = foto->isEmpty();
         frames.append(frame);
@@ -136,6 +138,7 @@ private:
     void fillWithOwn(const Selection &isMeant);
     void fillWithOthers(const Selection &isMeant);
     void fillByShape(const Selection &isMeant);
+    void fillIndexesWithOthers();
     void fillIndexes();
     /// The waiting photo of the smallest cost, the first of equals; null when none has a finite one.
     Waiting *cheapest(const std::function<double(const Waiting &)> &cost);
@@ -230,6 +233,20 @@ void Distribution::fill(const Selection &isMeant)
     fillWithOthers(isMeant);
 }
 
+/// Index by index, as long as there are photos for the whole of it.
+void Distribution::fillIndexesWithOthers()
+{
+    for (int page = 0; page < m_document.pages().size(); ++page) {
+        const auto isInIndex = [page](const Frame &frame) { return frame.isInIndex && frame.id.page == page; };
+        const auto open = std::count_if(m_frames.cbegin(), m_frames.cend(),
+                                        [&](const Frame &frame) { return isInIndex(frame) && frame.isEmpty; });
+        const auto waiting =
+            std::count_if(m_waiting.cbegin(), m_waiting.cend(), [](const Waiting &photo) { return !photo.isTaken; });
+        if (open > 0 && waiting >= open)
+            fillWithOthers(isInIndex);
+    }
+}
+
 /// Frame by frame the photos of the months, as far as there are any.
 void Distribution::fillIndexes()
 {
@@ -240,7 +257,7 @@ void Distribution::fillIndexes()
             photos.append(path);
     }
     for (Frame &frame : m_frames) {
-        if (!frame.isInIndex)
+        if (!frame.isInIndex || !frame.isEmpty)
             continue;
         const QString path = photos.value(frame.place);
         const MvFotoPoolItem *known = m_document.fotoPool().find(path);
@@ -256,6 +273,7 @@ MvFotoDistribution::Result Distribution::run()
     fill([](const Frame &frame) { return frame.kind == MvPageKind::Month; });
     fill([](const Frame &frame) { return frame.kind == MvPageKind::Free; });
     fill([](const Frame &frame) { return frame.kind == MvPageKind::Back && !frame.isInIndex; });
+    fillIndexesWithOthers();
     fillIndexes();
     MvFotoDistribution::Result result{m_document, m_placed, 0, {}};
     for (const Frame &frame : std::as_const(m_all))

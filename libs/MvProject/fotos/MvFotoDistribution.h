@@ -17,8 +17,9 @@
 /// 3. Covers get what suits them best of all that are left.
 /// 4. The other frames of months, then free pages, then backs, as in 1 and 2.
 ///
-/// So with fewer photos than frames it is the months that have one; with more, the rest stays in the pool. A cover or
-/// back with many frames (`framesOfIndex`) is an index: it shows the photos of the months once more, one for each.
+/// The page with a month's photo that faces it counts as the month's. So with fewer photos than frames it is the months
+/// that have one; with more, the rest stays in the pool. A cover or back with many frames (`framesOfIndex`) is an
+/// index: when enough photos are left, it gets them; else it shows the photos of the months once more, one for each.
 class MVPROJECT_EXPORT MvFotoDistribution
 {
 public:

@@ -1,178 +1,176 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvFotoFocus.h"
 
+#include "MvProject/MvFotoFaces.h"
+
 #include <QList>
-#include <QRect>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <optional>
 
 namespace {
 
-// clusters of skin, as parts of the picture
-constexpr double smallestFace = 0.002;
-constexpr double largestFace = 0.45;
-constexpr int fewestPixels = 12;
-constexpr double compact = 0.55;       // of its rectangle that a head fills
-constexpr double leastScore = 0.03;    // of a face
-constexpr double alsoFaces = 0.35;     // of the best one's score
-constexpr double eyesFromTop = 0.4;    // of the cluster's height: it has a neck below, and hair above that is not in it
+constexpr std::array frames{0.5, 0.7, 1.0, 1.35, 1.6, 2.0, 2.5, 3.0}; // width by height
+constexpr int steps = 100;                                            // of an axis
 constexpr double headOfUpright = 0.42; // of the height, in an upright picture of which nothing is known
-constexpr double usualDetail = 1.5;    // of the mean gradient: what is more stands out
-constexpr double fullConfidence = 0.35; // of the detail that stands out lies together
+constexpr double pull = 0.1;           // of all that should be seen, towards the usual place
 
-/// Brightness and gradients of a picture, row by row.
-struct Field
+constexpr double ofNarrow = 0.25; // frames that cannot show all faces do not decide for those that can
+constexpr double ofFace = 3.0;
+constexpr double ofHead = 1.5;
+constexpr double ofTop = 0.6;    // of all that stands out
+constexpr double nearTop = 0.12; // of what stands out lies above its top
+constexpr double heightOfTop = 0.15;
+constexpr double airOfTop = 0.04;
+constexpr double smooth = 1.5; // difference from pixel to pixel that is no detail
+constexpr int cells = 20;      // along the longer side
+
+/// A part of the picture that should be seen.
+struct Part
 {
-    explicit Field(const QSize &pixels)
-        : size(pixels)
-        , values(qsizetype(pixels.width()) * pixels.height(), 0.0)
-    {}
-    double &at(int x, int y) { return values[qsizetype(y) * size.width() + x]; }
-    double at(int x, int y) const { return values[qsizetype(y) * size.width() + x]; }
-
-    QSize size;
-    QList<double> values;
+    QRectF rect;
+    double weight = 1.0;
+    bool isWhole = false; // a half of it is worth less than half
 };
 
-struct Cluster
+/// The picture's cells with what stands out in them.
+QList<Part> standingOut(const QImage &image)
 {
-    QRect rect;
-    int pixels = 0;
-};
-
-bool isSkin(QRgb color)
-{
-    const double red = qRed(color);
-    const double green = qGreen(color);
-    const double blue = qBlue(color);
-    const double y = 0.299 * red + 0.587 * green + 0.114 * blue;
-    const double cb = 128.0 + 0.564 * (blue - y);
-    const double cr = 128.0 + 0.713 * (red - y);
-    return y > 45.0 && red > green && green > 0.55 * blue && cb > 80.0 && cb < 125.0 && cr > 135.0 && cr < 172.0;
-}
-
-/// Takes a cluster out of the mask, beginning at one of its pixels.
-Cluster taken(QList<char> &mask, const QSize &size, const QPoint &start)
-{
-    Cluster cluster{QRect(start, QSize(1, 1)), 0};
-    QList<QPoint> open{start};
-    const auto visit = [&](const QPoint &pixel) {
-        if (!QRect({}, size).contains(pixel))
-            return;
-        char &isOpen = mask[qsizetype(pixel.y()) * size.width() + pixel.x()];
-        if (isOpen)
-            open.append(pixel);
-        isOpen = 0;
+    const QImage small = image.scaled(cells, cells, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    double red = 0.0;
+    double green = 0.0;
+    double blue = 0.0;
+    const double count = small.width() * small.height();
+    for (int y = 0; y < small.height(); ++y) {
+        for (int x = 0; x < small.width(); ++x) {
+            const QRgb pixel = small.pixel(x, y);
+            red += qRed(pixel) / count;
+            green += qGreen(pixel) / count;
+            blue += qBlue(pixel) / count;
+        }
+    }
+    const double scale = double(image.width()) / small.width();
+    const auto detail = [&](int cellX, int cellY) {
+        double sum = 0.0;
+        int pixels = 0;
+        for (int y = int(cellY * scale) + 1; y < std::min(int((cellY + 1) * scale), image.height() - 1); ++y) {
+            for (int x = int(cellX * scale) + 1; x < std::min(int((cellX + 1) * scale), image.width() - 1); ++x) {
+                sum += std::hypot(qGray(image.pixel(x + 1, y)) - qGray(image.pixel(x - 1, y)),
+                                  qGray(image.pixel(x, y + 1)) - qGray(image.pixel(x, y - 1)));
+                ++pixels;
+            }
+        }
+        return sum / std::max(1, pixels);
     };
-    mask[qsizetype(start.y()) * size.width() + start.x()] = 0;
-    while (!open.isEmpty()) {
-        const QPoint pixel = open.takeLast();
-        ++cluster.pixels;
-        cluster.rect |= QRect(pixel, QSize(1, 1));
-        for (const QPoint &step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)})
-            visit(pixel + step);
-    }
-    return cluster;
-}
-
-QList<Cluster> skinClusters(const QImage &image)
-{
-    QList<char> mask;
-    mask.reserve(qsizetype(image.width()) * image.height());
-    for (int y = 0; y < image.height(); ++y) {
-        const auto *line = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        std::transform(line, line + image.width(), std::back_inserter(mask), isSkin);
-    }
-    QList<Cluster> clusters;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (mask[qsizetype(y) * image.width() + x])
-                clusters.append(taken(mask, image.size(), {x, y}));
-        }
-    }
-    return clusters;
-}
-
-/// How much a cluster looks like a head: 0 for not at all.
-double faceScore(const Cluster &cluster, const QSize &picture)
-{
-    const double share = double(cluster.pixels) / (double(picture.width()) * picture.height());
-    if (cluster.pixels < fewestPixels || share < smallestFace || share > largestFace)
-        return 0.0;
-    const QRect &rect = cluster.rect;
-    const int edges = int(rect.left() == 0) + int(rect.top() == 0) + int(rect.right() == picture.width() - 1) +
-                      int(rect.bottom() == picture.height() - 1);
-    if (edges > 2)
-        return 0.0;
-    const double proportion = double(rect.height()) / rect.width(); // with its neck a head is taller than wide
-    const double shape = proportion < 0.6 || proportion > 3.5 ? 0.0 : proportion < 0.9 ? 0.5 : 1.0;
-    const double fill = cluster.pixels / (double(rect.width()) * rect.height());
-    const double height = (rect.top() + eyesFromTop * rect.height()) / picture.height();
-    const double place = height < 0.66 ? 1.0 : std::max(0.0, 1.0 - 2.5 * (height - 0.66));
-    return std::sqrt(share) * shape * std::min(1.0, fill / compact) * place * (edges == 2 ? 0.6 : 1.0);
-}
-
-std::optional<QPointF> focusOfFaces(const QImage &image)
-{
-    const QList<Cluster> clusters = skinClusters(image);
-    QList<double> scores;
-    for (const Cluster &cluster : clusters)
-        scores.append(faceScore(cluster, image.size()));
-    const double best = scores.isEmpty() ? 0.0 : *std::max_element(scores.cbegin(), scores.cend());
-    if (best < leastScore)
-        return std::nullopt;
-    QPointF sum;
-    double weight = 0.0;
-    for (qsizetype i = 0; i < clusters.size(); ++i) {
-        if (scores[i] < alsoFaces * best)
-            continue;
-        const QRectF rect(clusters[i].rect);
-        sum += scores[i] * QPointF(rect.center().x(), rect.top() + eyesFromTop * rect.height());
-        weight += scores[i];
-    }
-    return QPointF(sum.x() / weight / image.width(), sum.y() / weight / image.height());
-}
-
-Field gradients(const QImage &image)
-{
-    Field gradients(image.size());
-    const auto brightness = [&image](int x, int y) { return qGray(image.pixel(x, y)); };
-    for (int y = 1; y + 1 < image.height(); ++y) {
-        for (int x = 1; x + 1 < image.width(); ++x)
-            gradients.at(x, y) =
-                std::hypot(brightness(x + 1, y) - brightness(x - 1, y), brightness(x, y + 1) - brightness(x, y - 1));
-    }
-    return gradients;
-}
-
-/// The middle of what stands out, nearer to the usual place the less of it lies together.
-QPointF focusOfDetail(const QImage &image, const QPointF &usual)
-{
-    const Field field = gradients(image);
+    QList<Part> parts;
     double mean = 0.0;
-    for (const double value : field.values)
-        mean += value / double(field.values.size());
-    const double threshold = usualDetail * mean + 4.0; // noise counts for nothing
-    QPointF sum;
-    double weight = 0.0;
-    double squares = 0.0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const double excess = std::max(0.0, field.at(x, y) - threshold);
-            const QPointF place((x + 0.5) / image.width(), (y + 0.5) / image.height());
-            sum += excess * place;
-            squares += excess * QPointF::dotProduct(place, place);
-            weight += excess;
+    for (int y = 0; y < small.height(); ++y) {
+        for (int x = 0; x < small.width(); ++x) {
+            const QRgb pixel = small.pixel(x, y);
+            const double unlike = std::hypot(qRed(pixel) - red, qGreen(pixel) - green, qBlue(pixel) - blue);
+            const QRectF rect(double(x) / small.width(), double(y) / small.height(), 1.0 / small.width(),
+                              1.0 / small.height());
+            const QPointF away = rect.center() - QPointF(0.5, 0.5);
+            const double middle = 1.0 - 1.2 * QPointF::dotProduct(away, away);
+            const double weight = middle * (unlike + 4.0) * std::max(0.0, detail(x, y) - smooth);
+            parts.append({rect, weight, false});
+            mean += weight / count;
         }
     }
-    if (weight <= 0.0)
+    double sum = 0.0;
+    for (Part &part : parts) { // what is everywhere does not stand out
+        part.weight = std::max(0.0, part.weight - mean);
+        sum += part.weight;
+    }
+    for (Part &part : parts)
+        part.weight = sum > 0.0 ? part.weight / sum : 0.0;
+    return parts;
+}
+
+/// The upper end of it, with air above.
+Part topOf(const QList<Part> &cellsByRow)
+{
+    double above = 0.0;
+    const auto top = std::find_if(cellsByRow.cbegin(), cellsByRow.cend(), [&above](const Part &part) {
+        above += part.weight;
+        return above >= nearTop;
+    });
+    const double y = top == cellsByRow.cend() ? 0.5 : top->rect.top();
+    const double start = std::max(0.0, y - airOfTop);
+    return {QRectF(0.0, start, 1.0, heightOfTop), ofTop, true};
+}
+
+QList<Part> partsOf(const QImage &image)
+{
+    QList<Part> parts;
+    for (const MvFotoFace &face : MvFotoFaces::in(image)) {
+        parts.append({face.face, ofFace * face.score, true});
+        parts.append({face.head, ofHead * face.score, true});
+    }
+    if (!parts.isEmpty())
+        return parts;
+    parts = standingOut(image);
+    const bool isAny = std::any_of(parts.cbegin(), parts.cend(), [](const Part &part) { return part.weight > 0.0; });
+    if (isAny)
+        parts.append(topOf(parts));
+    return parts;
+}
+
+QPointF middleOf(const QList<Part> &parts)
+{
+    QRectF all;
+    for (const Part &part : parts)
+        all |= part.rect;
+    return all.center();
+}
+
+/// Along one axis: where a part begins and ends.
+struct Span
+{
+    double start = 0.0;
+    double end = 0.0;
+    double weight = 0.0;
+    bool isWhole = false;
+};
+
+double seenOf(const Span &span, double start, double end)
+{
+    const double seen = std::max(0.0, std::min(span.end, end) - std::max(span.start, start)) / (span.end - span.start);
+    return span.weight * (span.isWhole ? seen * seen * seen : seen);
+}
+
+/// The place along an axis whose crops hold the most. `shown`: the part of the axis that each frame shows.
+double bestPlace(const QList<Span> &spans, const QList<double> &shown, double usual)
+{
+    if (spans.isEmpty())
         return usual;
-    const QPointF middle = sum / weight;
-    const double spread = std::sqrt(std::max(0.0, squares / weight - QPointF::dotProduct(middle, middle)));
-    const double confidence = std::clamp(1.0 - spread / fullConfidence, 0.0, 1.0);
-    return usual + confidence * (middle - usual);
+    double weight = 0.0;
+    double first = 1.0;
+    double last = 0.0;
+    for (const Span &span : spans) {
+        weight += span.weight;
+        first = std::min(first, span.isWhole ? span.start : 1.0);
+        last = std::max(last, span.isWhole ? span.end : 0.0);
+    }
+    const double needed = last - first; // for all faces
+    double best = usual;
+    double most = -1.0;
+    for (int step = 0; step <= steps; ++step) {
+        const double place = double(step) / steps;
+        double value = -pull * weight * std::abs(place - usual);
+        for (const double part : shown) {
+            const double start = std::clamp(place - part / 2.0, 0.0, 1.0 - part);
+            const double counts = part < needed ? ofNarrow : 1.0;
+            for (const Span &span : spans)
+                value += counts * seenOf(span, start, start + part);
+        }
+        if (value > most + 1e-9) {
+            most = value;
+            best = place;
+        }
+    }
+    return best;
 }
 
 } // namespace
@@ -184,8 +182,26 @@ QPointF MvFotoFocus::of(const QImage &image)
     const bool isLarge = image.width() > side || image.height() > side;
     const QImage small = (isLarge ? image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation) : image)
                              .convertToFormat(QImage::Format_RGB32);
-    const QPointF usual(0.5, small.height() > small.width() ? headOfUpright : 0.5);
-    const std::optional<QPointF> faces = focusOfFaces(small);
-    const QPointF focus = faces ? *faces : focusOfDetail(small, usual);
-    return {std::clamp(focus.x(), 0.0, 1.0), std::clamp(focus.y(), 0.0, 1.0)};
+    QList<Span> across;
+    QList<Span> down;
+    const double shape = double(small.width()) / small.height();
+    QPointF usual(0.5, shape < 1.0 ? headOfUpright : 0.5);
+    const QList<Part> parts = partsOf(small);
+    if (parts.size() > 1 && parts.constFirst().isWhole)
+        usual = middleOf(parts);
+    for (const Part &part : parts) {
+        if (part.weight <= 0.0 || part.rect.isEmpty())
+            continue;
+        across.append({part.rect.left(), part.rect.right(), part.weight, part.isWhole});
+        down.append({part.rect.top(), part.rect.bottom(), part.weight, part.isWhole});
+    }
+    QList<double> widths;
+    QList<double> heights;
+    for (const double frame : frames) {
+        if (frame < shape)
+            widths.append(frame / shape);
+        else
+            heights.append(shape / frame);
+    }
+    return {bestPlace(across, widths, usual.x()), bestPlace(down, heights, usual.y())};
 }

@@ -6,17 +6,18 @@
 #include <QImage>
 #include <QPointF>
 
-/// Guesses which point of a photo should stay in sight when it is cropped: where faces usually are, and where detail
-/// is.
+/// Guesses which point of a photo should stay in sight when it is cropped, so that faces stay whole with some air above
+/// the head, and what stands out is seen from its top.
 ///
 /// There is no model and no network. On a picture of at most `side` pixels:
-/// - **Faces** are clusters in the colours of skin, light and dark (a region of Cb and Cr, lit well enough), that have
-///   the size, the proportions and the compactness of heads, do not lie at the very bottom and do not run along three
-///   edges, as sand and wood do. The better ones count together. The point lies in the upper part of them, so that hair
-///   and some air above stay when an upright portrait becomes a wide strip.
-/// - **Detail** is what stands out of the picture's usual gradients; its middle counts for more, the more of it lies
-///   together. It decides when there are no faces.
-/// - Otherwise the middle, in upright pictures a little above, where people's heads are.
+/// - **Faces** are found by tones of skin and by eyes, nose and mouth that are darker and lighter than what is beside
+///   them (MvFotoFaces). A face counts for most, the head with hair or hat and air above it for less.
+/// - Where there are none, **what stands out** counts: colours unlike those of the whole picture, where there is
+/// detail,
+///   the middle more than the edges; and its top once more, since towers, trees and balloons without their tops look
+///   cut off while their feet are not missed.
+/// The point is the one whose crops hold the most of it, over frames from narrow upright ones to wide strips. Where all
+/// points are alike it is the middle, in upright pictures a little above.
 ///
 /// The same picture always gives the same point.
 class MVPROJECT_EXPORT MvFotoFocus

@@ -30,6 +30,11 @@ QString MvCalendarTheme::templateId(MvPageKind kind, int number) const
     return ids.isEmpty() ? QString() : ids.at(qMax(0, number) % ids.size());
 }
 
+QString MvCalendarTheme::facingFotoTemplateId()
+{
+    return QStringLiteral("FREE_FACING");
+}
+
 QStringList MvCalendarTheme::colorSchemaIds() const
 {
     QStringList ids{m_colors};

@@ -45,6 +45,11 @@ public:
     /// The templates that pages of the kind take turns with.
     QStringList templateIds(MvPageKind kind) const { return m_templates.value(kind); }
 
+    /// The id of the template for months that face a page with their photo: one without photos.
+    QString facingTemplateId() const { return m_facing; }
+    /// The id of the template for such a page: the photo alone, with nothing at its binding edge.
+    static QString facingFotoTemplateId();
+
     /// The ids of all colour schemas that its pages may have.
     QStringList colorSchemaIds() const;
     /// The ids of all layouts that it names, that of the pages first.
@@ -67,4 +72,5 @@ private:
     bool m_hasDayTextSize = false; // else the layout suggests it
     QColor m_background;
     QMap<MvPageKind, QStringList> m_templates;
+    QString m_facing = QStringLiteral("MONTH_PLAIN");
 };

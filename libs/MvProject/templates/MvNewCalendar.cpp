@@ -5,6 +5,20 @@
 #include "MvProject/MvThemeApplication.h"
 #include "MvProject/MvThemeRegistry.h"
 
+namespace {
+
+/// From behind, so that the numbers of the months before stay.
+void insertFacingPages(MvCalendarDocument &document)
+{
+    for (int month = int(document.pages().size()) - 1; month >= 0; --month) {
+        MvCalendarPage page(document.appearance(), document.pages()[month].contentConfig());
+        page.setKind(MvPageKind::Free);
+        document.insertPage(month, page);
+    }
+}
+
+} // namespace
+
 MvCalendarDocument MvNewCalendar::make() const
 {
     const MvCalendarTheme wanted = MvThemeRegistry::instance().findTheme(themeId);
@@ -19,6 +33,8 @@ MvCalendarDocument MvNewCalendar::make() const
     if (holidays)
         document.setHolidayConfig(*holidays);
     document.setAppearance(theme.appearance(MvPageKind::Month, document.range().start()));
+    if (hasFacingPages)
+        insertFacingPages(document);
     const auto insert = [&document](MvPageKind kind) {
         MvCalendarPage page(document.appearance(), document.pages().value(0).contentConfig());
         page.setKind(kind);

@@ -22,6 +22,7 @@ struct MVPROJECT_EXPORT MvNewCalendar
     std::optional<MvCalendariumHolidayConfig> holidays; // else those of a new document
     bool hasCover = true;
     bool hasBack = true;
+    bool hasFacingPages = false; // a page for the photo before each month, which hangs above it
 
     /// The calendar. Valid whenever layouts and colours are shipped.
     MvCalendarDocument make() const;

@@ -42,7 +42,7 @@ struct MvTemplateCalendarium
 struct MvTemplateRule
 {
     static constexpr double lowestGrid = 340.0; // tenths of a millimetre
-    static constexpr double lowestList = 950.0;
+    static constexpr double lowestList = 850.0; // 31 lines of the smallest type
 
     using Foto = MvTemplateFoto;
     using Text = MvTemplateText;

@@ -28,6 +28,7 @@ constexpr std::array kinds{
     Kind{Shows::Month, "month"_L1, "MONTH_LINE"_L1},
     Kind{Shows::Year, "year"_L1, "YEAR_GRID"_L1},
     Kind{Shows::YearNumber, "yearnumber"_L1, "YEAR_ONLY"_L1},
+    Kind{Shows::Small, "small"_L1, "MONTH_SMALL"_L1},
 };
 
 constexpr std::array roles{

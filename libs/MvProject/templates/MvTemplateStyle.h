@@ -26,6 +26,7 @@ struct MVPROJECT_EXPORT MvTemplateStyle
         Month,      ///< its name alone
         Year,       ///< twelve months
         YearNumber, ///< its number alone
+        Small,      ///< a month as a small grid of numbers, without texts
     };
     /// What a text of a template is for.
     enum class Role { Title, Subtitle, Month, Caption, Text };
@@ -51,7 +52,7 @@ struct MVPROJECT_EXPORT MvTemplateStyle
     /// The id of the layout for it: the style's own or the usual one; empty for that of the page.
     QString layout(Shows shows) const;
 
-    /// Words of files: "grid", "bare", "strip", "list", "planner", "birthdays", "month", "year", "yearnumber".
+    /// Words of files: "grid", "bare", "strip", "list", "planner", "birthdays", "month", "year", "yearnumber", "small".
     static std::optional<Shows> showsFromName(const QString &name);
     static QString showsName(Shows shows);
     static QStringList showsNames();

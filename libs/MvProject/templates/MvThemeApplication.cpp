@@ -4,6 +4,20 @@
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvThemeRegistry.h"
 
+namespace {
+
+/// What a page needs that is one of a month and its photo on facing pages; empty for others, and where a person has
+/// chosen what the photo's page looks like.
+QString facingTemplate(const MvCalendarDocument &document, int page, const MvCalendarTheme &theme)
+{
+    if (document.isFacingMonth(page))
+        return theme.facingTemplateId();
+    const bool isNew = document.pages()[page].templateId().isEmpty();
+    return isNew && document.isFacingMonth(page + 1) ? MvCalendarTheme::facingFotoTemplateId() : QString();
+}
+
+} // namespace
+
 MvCalendarDocument MvThemeApplication::applied(const MvCalendarDocument &document, const MvCalendarTheme &theme)
 {
     if (!theme.isValid())
@@ -14,7 +28,10 @@ MvCalendarDocument MvThemeApplication::applied(const MvCalendarDocument &documen
     int month = 0;
     for (int page = 0; page < themed.pages().size(); ++page) {
         const bool isMonth = themed.isMonthPage(page);
-        themed.setPage(page, applied(themed.pages().at(page), theme, themed.format(), isMonth ? month : 0));
+        MvCalendarPage changed = applied(themed.pages().at(page), theme, themed.format(), isMonth ? month : 0);
+        if (const QString facing = facingTemplate(themed, page, theme); !facing.isEmpty())
+            changed.setTemplate(pageTemplate(theme.id(), facing), themed.format());
+        themed.setPage(page, changed);
         month += isMonth ? 1 : 0;
     }
     themed.setThemeId(theme.id());

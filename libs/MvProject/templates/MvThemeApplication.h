@@ -16,7 +16,8 @@ class MVPROJECT_EXPORT MvThemeApplication
 {
 public:
     /// The document in the theme: layouts, colours, fonts and templates of all pages. Free pages keep their template.
-    /// An invalid theme changes nothing.
+    /// Months that face a page with their photo (MvCalendarDocument::isFacingMonth()) get a template without one. An
+    /// invalid theme changes nothing.
     static MvCalendarDocument applied(const MvCalendarDocument &document, const MvCalendarTheme &theme);
     /// The page in the theme. `number`: of a month the how manieth it is, counted from 0.
     static MvCalendarPage applied(const MvCalendarPage &page, const MvCalendarTheme &theme, const MvPageFormat &format,

@@ -148,16 +148,23 @@ void MvThemeReader::readText(const QDomElement &element, MvCalendarTheme &theme)
 
 void MvThemeReader::readPages(const QDomElement &element, MvCalendarTheme &theme)
 {
+    const auto check = [&](const QString &id, const QString &key, MvPageKind kind) {
+        const MvPageTemplate found = MvPageTemplateRegistry::instance().findTemplate(id);
+        if (!found.isValid() || found.kind() != kind)
+            tell(element, tr("die Vorlage „%1“ (%2) gibt es nicht").arg(id, key));
+    };
     for (const MvPageKind kind : kinds()) {
         const QString key = MvPageTemplateRegistry::kindName(kind);
         const QStringList ids = element.attribute(key).split(u' ', Qt::SkipEmptyParts);
-        for (const QString &id : ids) {
-            const MvPageTemplate found = MvPageTemplateRegistry::instance().findTemplate(id);
-            if (!found.isValid() || found.kind() != kind)
-                tell(element, tr("die Vorlage „%1“ (%2) gibt es nicht").arg(id, key));
-        }
+        for (const QString &id : ids)
+            check(id, key, kind);
         theme.m_templates.insert(kind, ids);
     }
+    const QString facing = element.attribute(u"facing"_s);
+    if (facing.isEmpty())
+        return;
+    check(facing, u"facing"_s, MvPageKind::Month);
+    theme.m_facing = facing;
 }
 
 QString MvThemeReader::layoutId(const QDomElement &element, const QString &key)
