@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What keeps the GUI thread of a program that exports and saves by itself: recording a page of each shipped layout, for
 // the first time and again, and writing projects of a year and of ten years into memory. And what the writer of PDF
-// gains over the paint system's own, which writes every outline out.
+// gains over the paint system's own, which writes every outline out. And what a step costs that can be undone: its
+// time, and the memory that is kept for it.
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCore/MvUndoController.h"
 #include "MvPaint/MvTextOutlineCache.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvNewCalendar.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
+#include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
 
 #include <QGuiApplication>
@@ -16,6 +20,8 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+
+#include <malloc.h>
 
 using namespace Qt::StringLiterals;
 
@@ -93,6 +99,47 @@ void writePdfInFull(benchmark::State &state)
     }
 }
 BENCHMARK(writePdfInFull)->Unit(benchmark::kMillisecond);
+
+/// A calendar of so many months whose frames all have photos.
+MvCalendarDocument makeFotoCalendar(int months)
+{
+    MvNewCalendar wanted;
+    wanted.range = {QDate(2027, 1, 1), QDate(2027, 1, 1).addMonths(months).addDays(-1)};
+    wanted.themeId = u"ALBUM"_s;
+    MvCalendarDocument document = wanted.make();
+    MvFotoPool pool;
+    int number = 0;
+    for (const MvCalendarDocument::FrameId &frame : document.frames()) {
+        const QString path = u"/fotos/%1.jpg"_s.arg(++number);
+        pool.add({path, {}, {}, {0.5, 0.5}});
+        document.setFoto(frame, document.foto(frame).withPictureOf(MvFotoElement(path)));
+    }
+    document.setFotoPool(pool);
+    return document;
+}
+
+/// A photo is zoomed, page after page; every step is kept, and taken back at the end.
+void undoStep(benchmark::State &state)
+{
+    MvProject project;
+    project.newProject(makeFotoCalendar(int(state.range(0))));
+    const QList<MvCalendarDocument::FrameId> frames = project.document().frames();
+    const size_t before = mallinfo2().uordblks;
+    int step = 0;
+    for (auto _ : state) {
+        const MvCalendarDocument::FrameId &frame = frames.at(step++ % frames.size());
+        MvCalendarPage page = project.document().pages().at(frame.page);
+        MvFotoElement foto = project.document().foto(frame);
+        foto.setZoom(foto.zoom() > 2.0 ? 1.0 : foto.zoom() + 0.1);
+        page.setFoto(frame.element, foto);
+        project.changePage(frame.page, page, u"Zoom"_s);
+    }
+    state.counters["photos"] = double(frames.size());
+    state.counters["kb_per_step"] = double(mallinfo2().uordblks - before) / double(state.iterations()) / 1024.0;
+    while (project.session().undo().stack()->canUndo())
+        project.session().undo().undo();
+}
+BENCHMARK(undoStep)->Arg(12)->Arg(60)->Iterations(300)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

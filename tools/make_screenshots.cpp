@@ -31,6 +31,7 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
@@ -97,6 +98,10 @@ private:
     void textPanel();
     void dayPanel() { canvas()->selection()->selectDay(project()->document().pageDates().at(4).addDays(11)); }
     void marks();
+    void frames();
+    void calendarium();
+    void newPlanner();
+    void printCheck();
     void useTheme(bool hasFotos);
     void select(MvPageElement::Kind kind);
     void content() { openPanel("contentPanel"); }
@@ -125,8 +130,7 @@ private:
     void newCalendar() { trigger("newProject"); }
     void layoutChooser() { trigger("chooseLayout"); }
     void pageSetup() { trigger("pageSetup"); }
-    void printCheck() { trigger("printCheck"); }
-    void exportPdf() { trigger("exportPdf"); }
+    void exportPdf();
     void exportPng() { trigger("exportPng"); }
     void progress();
     void settings() { trigger("settings"); }
@@ -179,6 +183,8 @@ QList<Screenshots::State> Screenshots::states()
         {"text-panel", &S::textPanel, longSettling},
         {"day-panel", &S::dayPanel, settling},
         {"print-marks", &S::marks, longSettling},
+        {"frames", &S::frames, longSettling},
+        {"calendarium", &S::calendarium, longSettling},
         {"themes", &S::themes, 3 * longSettling},
         {"templates", &S::templates, longSettling},
         {"content", &S::content, settling},
@@ -204,10 +210,11 @@ QList<Screenshots::State> Screenshots::states()
         {"day-new", &S::dayNew, settling},
         {"day-photo", &S::dayWithFoto, settling},
         {"new-calendar", &S::newCalendar, longSettling},
+        {"new-planner", &S::newPlanner, longSettling},
         {"layout-chooser", &S::layoutChooser, longSettling},
         {"page-setup", &S::pageSetup, settling},
         {"print-check", &S::printCheck, longSettling},
-        {"export-pdf", &S::exportPdf, settling},
+        {"export-pdf", &S::exportPdf, longSettling},
         {"export-png", &S::exportPng, settling},
         {"progress", &S::progress, settling},
         {"settings", &S::settings, settling},
@@ -378,6 +385,49 @@ void Screenshots::textPanel()
     album();
     QTest::qWait(settling);
     select(MvPageElement::Kind::Text);
+}
+
+/// A text and a photo that somebody has put on the page, both chosen.
+void Screenshots::frames()
+{
+    album();
+    QTest::qWait(settling);
+    trigger("addTextFrame");
+    trigger("addPhotoFrame");
+    const int last = canvas()->selection()->element();
+    canvas()->selection()->selectElements({last - 1, last});
+    openPanel("framePanel");
+}
+
+void Screenshots::calendarium()
+{
+    album();
+    QTest::qWait(settling);
+    trigger("addSmallMonth");
+}
+
+void Screenshots::newPlanner()
+{
+    newCalendar();
+    window()->findChild<QListWidget *>(u"calendarKinds"_s)->setCurrentRow(1);
+}
+
+/// Of a calendar with photos, with a line chosen.
+void Screenshots::exportPdf()
+{
+    marks();
+    QTest::qWait(longSettling);
+    trigger("exportPdf");
+    QTest::qWait(longSettling);
+    if (auto *list = window()->findChild<QListWidget *>(u"printFindings"_s))
+        list->setCurrentRow(1);
+}
+
+void Screenshots::printCheck()
+{
+    album();
+    QTest::qWait(settling);
+    trigger("printCheck");
 }
 
 void Screenshots::templates()

@@ -278,6 +278,16 @@
     </message>
 </context>
 <context>
+    <name>MvInspector</name>
+    <message numerus="yes">
+        <source>%n Rahmen</source>
+        <translation>
+            <numerusform>%n Rahmen</numerusform>
+            <numerusform>%n Rahmen</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvMissingFotos</name>
     <message numerus="yes">
         <source>%n Fotos sind nicht da oder lassen sich nicht lesen:</source>
@@ -302,11 +312,21 @@
     </message>
 </context>
 <context>
-    <name>MvPrintCheckDialog</name>
+    <name>MvNewCalendarDialog</name>
+    <message numerus="yes">
+        <source>„%1“ und %n weitere</source>
+        <translation>
+            <numerusform>„%1“ und %n weiteres</numerusform>
+            <numerusform>„%1“ und %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvPrintFindingList</name>
     <message numerus="yes">
         <source>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</source>
         <translation>
-            <numerusform>%n Stelle; ein Dreieck steht vor denen, die jeder sieht.</numerusform>
+            <numerusform>Eine Stelle; ein Dreieck steht vor denen, die jeder sieht.</numerusform>
             <numerusform>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</numerusform>
         </translation>
     </message>

@@ -756,6 +756,37 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarKindChooser</name>
+    <message>
+        <source>Art des Kalenders</source>
+        <translation>Kind of calendar</translation>
+    </message>
+    <message>
+        <source>Fotokalender</source>
+        <translation>Photo calendar</translation>
+    </message>
+    <message>
+        <source>Titelblatt, für jeden Monat Fotos, Rückseite</source>
+        <translation>Cover, photos for every month, back</translation>
+    </message>
+    <message>
+        <source>Planer</source>
+        <translation>Planner</translation>
+    </message>
+    <message>
+        <source>Raster, Liste oder ganzes Jahr, mit Platz zum Eintragen</source>
+        <translation>Grid, list or the whole year, with room to write</translation>
+    </message>
+    <message>
+        <source>Geburtstagskalender</source>
+        <translation>Birthday calendar</translation>
+    </message>
+    <message>
+        <source>Neben jedem Monat die Menschen, die Geburtstag haben, mit ihren Fotos</source>
+        <translation>Beside each month the people whose birthday it is, with their photos</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarOptions</name>
     <message>
         <source>JAHR</source>
@@ -1051,6 +1082,69 @@
     <message>
         <source>Das Layout „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, die mit USER_ beginnt, bringt es zurück.</source>
         <translation>The layout “%1” is left out, because “%3” has its id %2, too. Another one that begins with USER_ brings it back.</translation>
+    </message>
+</context>
+<context>
+    <name>MvCalendariumPanel</name>
+    <message>
+        <source>Mit der Zeile des Monats darüber</source>
+        <translation>With the line of the month above</translation>
+    </message>
+    <message>
+        <source>Steht auf einem Foto</source>
+        <translation>Stands on a photo</translation>
+    </message>
+    <message>
+        <source>Monat der Seite</source>
+        <translation>Month of the page</translation>
+    </message>
+    <message>
+        <source>Voriger Monat</source>
+        <translation>Previous month</translation>
+    </message>
+    <message>
+        <source>Nächster Monat</source>
+        <translation>Next month</translation>
+    </message>
+    <message>
+        <source>Übernächster Monat</source>
+        <translation>The month after next</translation>
+    </message>
+    <message>
+        <source>Ein Jahr später</source>
+        <translation>One year later</translation>
+    </message>
+    <message>
+        <source>Layout der Seite</source>
+        <translation>Layout of the page</translation>
+    </message>
+    <message>
+        <source>Darunter liegt dann ein Schleier, damit alles zu lesen ist</source>
+        <translation>A veil lies below it then, so that everything can be read</translation>
+    </message>
+    <message>
+        <source>Monat:</source>
+        <translation>Month:</translation>
+    </message>
+    <message>
+        <source>Layout:</source>
+        <translation>Layout:</translation>
+    </message>
+    <message>
+        <source>Monat wählen</source>
+        <translation>Choose month</translation>
+    </message>
+    <message>
+        <source>Layout ändern</source>
+        <translation>Change layout</translation>
+    </message>
+    <message>
+        <source>Zeile des Monats ändern</source>
+        <translation>Change line of the month</translation>
+    </message>
+    <message>
+        <source>Schleier ändern</source>
+        <translation>Change veil</translation>
     </message>
 </context>
 <context>
@@ -1985,6 +2079,18 @@
         <source>&amp;Beschnitt:</source>
         <translation>B&amp;leed:</translation>
     </message>
+    <message>
+        <source>&amp;Zur Stelle gehen</source>
+        <translation>&amp;Go there</translation>
+    </message>
+    <message>
+        <source>Dieses Fenster schließen und zeigen, was die gewählte Zeile meint</source>
+        <translation>Close this window and show what the chosen line means</translation>
+    </message>
+    <message>
+        <source>Die Seiten werden geprüft …</source>
+        <translation>The pages are being checked …</translation>
+    </message>
 </context>
 <context>
     <name>MvExportFlow</name>
@@ -2540,6 +2646,38 @@
         <source>Platz des Fotos ändern</source>
         <translation>Change place of the photo</translation>
     </message>
+    <message>
+        <source>Helligkeit des Fotos</source>
+        <translation>Brightness of the photo</translation>
+    </message>
+    <message>
+        <source>Helligkeit des Fotos ändern</source>
+        <translation>Change brightness of the photo</translation>
+    </message>
+    <message>
+        <source>Kontrast des Fotos</source>
+        <translation>Contrast of the photo</translation>
+    </message>
+    <message>
+        <source>Kontrast des Fotos ändern</source>
+        <translation>Change contrast of the photo</translation>
+    </message>
+    <message>
+        <source>Wie aufgenommen</source>
+        <translation>As taken</translation>
+    </message>
+    <message>
+        <source>Helligkeit und Kontrast wieder so, wie das Foto sie hat</source>
+        <translation>Brightness and contrast as the photo has them</translation>
+    </message>
+    <message>
+        <source>Helligkeit:</source>
+        <translation>Brightness:</translation>
+    </message>
+    <message>
+        <source>Kontrast:</source>
+        <translation>Contrast:</translation>
+    </message>
 </context>
 <context>
     <name>MvFotoPoolIntake</name>
@@ -2705,6 +2843,117 @@
     </message>
 </context>
 <context>
+    <name>MvFrameEdits</name>
+    <message>
+        <source>Fotorahmen einfügen</source>
+        <translation>Insert photo frame</translation>
+    </message>
+    <message>
+        <source>Ihr Text</source>
+        <translation>Your text</translation>
+    </message>
+    <message>
+        <source>Textrahmen einfügen</source>
+        <translation>Insert text frame</translation>
+    </message>
+    <message>
+        <source>Kleinen Monat einfügen</source>
+        <translation>Insert small month</translation>
+    </message>
+    <message>
+        <source>Rahmen verdoppeln</source>
+        <translation>Duplicate frame</translation>
+    </message>
+    <message>
+        <source>Rahmen löschen</source>
+        <translation>Delete frame</translation>
+    </message>
+    <message>
+        <source>Rahmen nach vorn holen</source>
+        <translation>Bring frame to front</translation>
+    </message>
+    <message>
+        <source>Rahmen nach hinten stellen</source>
+        <translation>Send frame to back</translation>
+    </message>
+    <message>
+        <source>Rahmen frei anordnen</source>
+        <translation>Arrange frames freely</translation>
+    </message>
+    <message>
+        <source>Foto und Kalender lassen sich jetzt einzeln verschieben; F7 geht von einem zum anderen.</source>
+        <translation>Photo and calendar can be moved one by one now; F7 goes from one to the other.</translation>
+    </message>
+    <message>
+        <source>Rahmen ausrichten</source>
+        <translation>Align frames</translation>
+    </message>
+    <message>
+        <source>Wählen Sie erst drei Rahmen oder mehr: den nächsten jeweils mit der Umschalttaste.</source>
+        <translation>Choose three frames or more first: each further one with the Shift key.</translation>
+    </message>
+    <message>
+        <source>Rahmen gleichmäßig verteilen</source>
+        <translation>Distribute frames evenly</translation>
+    </message>
+    <message>
+        <source>Rahmen verschieben</source>
+        <translation>Move frame</translation>
+    </message>
+    <message>
+        <source>%1 mm von links, %2 mm von oben</source>
+        <translation>%1 mm from the left, %2 mm from the top</translation>
+    </message>
+    <message>
+        <source>Größe des Rahmens ändern</source>
+        <translation>Resize frame</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>&amp;Rahmen</source>
+        <translation>F&amp;rame</translation>
+    </message>
+    <message>
+        <source>Rahmen &amp;wählen</source>
+        <translation>Choose &amp;frame</translation>
+    </message>
+    <message>
+        <source>Rahmen ver&amp;doppeln</source>
+        <translation>&amp;Duplicate frame</translation>
+    </message>
+    <message>
+        <source>Ganz nach &amp;vorn</source>
+        <translation>To the &amp;front</translation>
+    </message>
+    <message>
+        <source>Ganz nach &amp;hinten</source>
+        <translation>To the &amp;back</translation>
+    </message>
+    <message>
+        <source>Rahmen &amp;löschen</source>
+        <translation>De&amp;lete frame</translation>
+    </message>
+    <message>
+        <source>&amp;Fotorahmen einfügen</source>
+        <translation>Insert &amp;photo frame</translation>
+    </message>
+    <message>
+        <source>&amp;Textrahmen einfügen</source>
+        <translation>Insert &amp;text frame</translation>
+    </message>
+    <message>
+        <source>Kleinen &amp;Monat einfügen</source>
+        <translation>Insert small &amp;month</translation>
+    </message>
+    <message>
+        <source>Rahmen frei &amp;anordnen</source>
+        <translation>&amp;Arrange frames freely</translation>
+    </message>
+</context>
+<context>
     <name>MvFrameNotices</name>
     <message>
         <source>Foto hierher ziehen oder klicken</source>
@@ -2723,6 +2972,109 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>%1 ppi</source>
         <translation>%1 ppi</translation>
+    </message>
+</context>
+<context>
+    <name>MvFramePanel</name>
+    <message>
+        <source>Foto und Kalender teilen sich diese Seite. Wer sie einzeln verschieben möchte, ordnet sie frei an.</source>
+        <translation>Photo and calendar share this page. To move them one by one, arrange them freely.</translation>
+    </message>
+    <message>
+        <source>Abstand von links</source>
+        <translation>Distance from the left</translation>
+    </message>
+    <message>
+        <source>Abstand von oben</source>
+        <translation>Distance from the top</translation>
+    </message>
+    <message>
+        <source>Breite des Rahmens</source>
+        <translation>Width of the frame</translation>
+    </message>
+    <message>
+        <source>Höhe des Rahmens</source>
+        <translation>Height of the frame</translation>
+    </message>
+    <message>
+        <source>Rahmen frei anordnen</source>
+        <translation>Arrange frames freely</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Links:</source>
+        <translation>Left:</translation>
+    </message>
+    <message>
+        <source>Oben:</source>
+        <translation>Top:</translation>
+    </message>
+    <message>
+        <source>Breite:</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>Höhe:</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>Links bündig</source>
+        <translation>Align left</translation>
+    </message>
+    <message>
+        <source>Waagerecht mittig</source>
+        <translation>Centre horizontally</translation>
+    </message>
+    <message>
+        <source>Rechts bündig</source>
+        <translation>Align right</translation>
+    </message>
+    <message>
+        <source>Oben bündig</source>
+        <translation>Align top</translation>
+    </message>
+    <message>
+        <source>Senkrecht mittig</source>
+        <translation>Centre vertically</translation>
+    </message>
+    <message>
+        <source>Unten bündig</source>
+        <translation>Align bottom</translation>
+    </message>
+    <message>
+        <source>Nebeneinander gleichmäßig verteilen</source>
+        <translation>Distribute evenly side by side</translation>
+    </message>
+    <message>
+        <source>Untereinander gleichmäßig verteilen</source>
+        <translation>Distribute evenly one below the other</translation>
+    </message>
+    <message>
+        <source>Ausrichten:</source>
+        <translation>Align:</translation>
+    </message>
+    <message>
+        <source>Ganz nach vorn</source>
+        <translation>To the front</translation>
+    </message>
+    <message>
+        <source>Ganz nach hinten</source>
+        <translation>To the back</translation>
+    </message>
+    <message>
+        <source>Rahmen verdoppeln</source>
+        <translation>Duplicate frame</translation>
+    </message>
+    <message>
+        <source>Rahmen löschen</source>
+        <translation>Delete frame</translation>
+    </message>
+    <message>
+        <source>Rahmen:</source>
+        <translation>Frame:</translation>
     </message>
 </context>
 <context>
@@ -3228,6 +3580,17 @@ The context menu replaces it by another photo.</translation>
         <source>Ganzer Kalender</source>
         <translation>Whole calendar</translation>
     </message>
+    <message numerus="yes">
+        <source>%n Rahmen</source>
+        <translation>
+            <numerusform>%n frame</numerusform>
+            <numerusform>%n frames</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kalender als Rahmen</source>
+        <translation>Calendar as a frame</translation>
+    </message>
 </context>
 <context>
     <name>MvLayoutChooser</name>
@@ -3459,6 +3822,68 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source> – meinten Sie „%1“?</source>
         <translation> – did you mean “%1”?</translation>
+    </message>
+</context>
+<context>
+    <name>MvNewCalendarDialog</name>
+    <message>
+        <source>Titelblatt</source>
+        <translation>Cover</translation>
+    </message>
+    <message>
+        <source>Rückseite</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Neuer Kalender</source>
+        <translation>New calendar</translation>
+    </message>
+    <message>
+        <source>Kalender &amp;anlegen</source>
+        <translation>&amp;Create calendar</translation>
+    </message>
+    <message>
+        <source>A&amp;rt des Kalenders:</source>
+        <translation>&amp;Kind of calendar:</translation>
+    </message>
+    <message>
+        <source>Ge&amp;staltung:</source>
+        <translation>De&amp;sign:</translation>
+    </message>
+    <message>
+        <source>T&amp;itel:</source>
+        <translation>T&amp;itle:</translation>
+    </message>
+    <message>
+        <source>Dazu:</source>
+        <translation>With:</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner wählen …</source>
+        <translation>Choose fo&amp;lder …</translation>
+    </message>
+    <message>
+        <source>&amp;Fotos wählen …</source>
+        <translation>Choose &amp;photos …</translation>
+    </message>
+    <message>
+        <source>Fotos:</source>
+        <translation>Photos:</translation>
+    </message>
+    <message>
+        <source>Noch keine; sie lassen sich auch hierher ziehen.</source>
+        <translation>None yet; you can also drag them here.</translation>
+    </message>
+    <message numerus="yes">
+        <source>„%1“ und %n weitere</source>
+        <translation>
+            <numerusform>“%1” and %n more</numerusform>
+            <numerusform>“%1” and %n more</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ordner „%1“</source>
+        <translation>Folder “%1”</translation>
     </message>
 </context>
 <context>
@@ -3744,6 +4169,25 @@ The context menu replaces it by another photo.</translation>
     </message>
 </context>
 <context>
+    <name>MvPagePreview</name>
+    <message>
+        <source>Vorschau der Seite</source>
+        <translation>Preview of the page</translation>
+    </message>
+    <message>
+        <source>Vorige Seite</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Nächste Seite</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>Keine Seiten</source>
+        <translation>No pages</translation>
+    </message>
+</context>
+<context>
     <name>MvPageRange</name>
     <message>
         <source>„%1“ sind keine Seiten; schreiben Sie zum Beispiel 1-3, 5</source>
@@ -4000,23 +4444,12 @@ The context menu replaces it by another photo.</translation>
         <translation>Check before printing</translation>
     </message>
     <message>
-        <source>Was nicht gut gedruckt würde</source>
-        <translation>What would not print well</translation>
-    </message>
-    <message>
         <source>&amp;Zeigen</source>
         <translation>&amp;Show</translation>
     </message>
     <message>
-        <source>Alles wird gut gedruckt, soweit das Programm sehen kann.</source>
-        <translation>Everything will print well, as far as the program can see.</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</source>
-        <translation>
-            <numerusform>%n place; a triangle marks those that everybody sees.</numerusform>
-            <numerusform>%n places; a triangle marks those that everybody sees.</numerusform>
-        </translation>
+        <source>Die Seiten werden geprüft …</source>
+        <translation>The pages are being checked …</translation>
     </message>
 </context>
 <context>
@@ -4024,6 +4457,32 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvPrintFindingList</name>
+    <message>
+        <source>Was nicht gut gedruckt würde</source>
+        <translation>What would not print well</translation>
+    </message>
+    <message>
+        <source>Das sieht jeder.</source>
+        <translation>Everybody sees that.</translation>
+    </message>
+    <message>
+        <source>Alles wird gut gedruckt, soweit das Programm sehen kann.</source>
+        <translation>Everything will print well, as far as the program can see.</translation>
+    </message>
+    <message>
+        <source>Die Seiten werden geprüft …</source>
+        <translation>The pages are being checked …</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Stellen; ein Dreieck steht vor denen, die jeder sieht.</source>
+        <translation>
+            <numerusform>%n place; a triangle stands before those that everybody sees.</numerusform>
+            <numerusform>%n places; a triangle stands before those that everybody sees.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4215,10 +4674,6 @@ The context menu replaces it by another photo.</translation>
         <translation>Calendars (*.%1)</translation>
     </message>
     <message>
-        <source>Neuer Kalender</source>
-        <translation>New calendar</translation>
-    </message>
-    <message>
         <source>Kalender öffnen</source>
         <translation>Open calendar</translation>
     </message>
@@ -4279,10 +4734,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>%1 gespeichert</source>
         <translation>%1 saved</translation>
-    </message>
-    <message>
-        <source>Kalender anlegen</source>
-        <translation>Create Calendar</translation>
     </message>
     <message>
         <source>Eine frühere Fassung, vom %1, liegt daneben und ist unversehrt.</source>
@@ -4940,10 +5391,6 @@ Save it under another name or in another folder.</translation>
         <translation>&amp;Recently opened</translation>
     </message>
     <message>
-        <source>Ges&amp;taltung</source>
-        <translation>Desi&amp;gn</translation>
-    </message>
-    <message>
         <source>&amp;Ohne Fotos beginnen</source>
         <translation>&amp;Begin without photos</translation>
     </message>
@@ -4974,6 +5421,14 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Zu dem Kalender gehen, der schon da ist</source>
         <translation>Go to the calendar that is there already</translation>
+    </message>
+    <message>
+        <source>Einen Kalender Schritt für Schritt an&amp;legen</source>
+        <translation>Create a calendar step b&amp;y step</translation>
+    </message>
+    <message>
+        <source>Ges&amp;taltung, in der ein Kalender aus Fotos entsteht</source>
+        <translation>Desi&amp;gn in which a calendar is made of photos</translation>
     </message>
 </context>
 <context>
@@ -5259,10 +5714,6 @@ Save it under another name or in another folder.</translation>
         <translation>Remove the page shown; pages of months stay</translation>
     </message>
     <message>
-        <source>Nächsten Rah&amp;men wählen</source>
-        <translation>Select next fra&amp;me</translation>
-    </message>
-    <message>
         <source>Auf der Seite von Foto zu Foto und Text zu Text gehen</source>
         <translation>Go from photo to photo and text to text on the page</translation>
     </message>
@@ -5313,6 +5764,82 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Zeigen, wie aus Fotos ein Kalender wird, und alle Tastenkürzel auflisten</source>
         <translation>Show how photos become a calendar, and list all shortcuts</translation>
+    </message>
+    <message>
+        <source>&amp;Nächsten Rahmen wählen</source>
+        <translation>Select &amp;next frame</translation>
+    </message>
+    <message>
+        <source>&amp;Fotorahmen einfügen</source>
+        <translation>Insert &amp;photo frame</translation>
+    </message>
+    <message>
+        <source>Einen Rahmen für ein weiteres Foto auf die Seite setzen</source>
+        <translation>Put a frame for another photo on the page</translation>
+    </message>
+    <message>
+        <source>&amp;Textrahmen einfügen</source>
+        <translation>Insert &amp;text frame</translation>
+    </message>
+    <message>
+        <source>Ein paar Worte auf die Seite setzen</source>
+        <translation>Put a few words on the page</translation>
+    </message>
+    <message>
+        <source>Kleinen &amp;Monat einfügen</source>
+        <translation>Insert small &amp;month</translation>
+    </message>
+    <message>
+        <source>Den nächsten Monat klein auf die Seite setzen</source>
+        <translation>Put the next month on the page, small</translation>
+    </message>
+    <message>
+        <source>Rahmen ver&amp;doppeln</source>
+        <translation>&amp;Duplicate frame</translation>
+    </message>
+    <message>
+        <source>Neben die gewählten Rahmen solche setzen, die ihnen gleichen</source>
+        <translation>Put frames like the chosen ones beside them</translation>
+    </message>
+    <message>
+        <source>Rahmen &amp;löschen</source>
+        <translation>De&amp;lete frame</translation>
+    </message>
+    <message>
+        <source>Die gewählten Rahmen von der Seite nehmen</source>
+        <translation>Take the chosen frames off the page</translation>
+    </message>
+    <message>
+        <source>Ganz nach &amp;vorn</source>
+        <translation>To the &amp;front</translation>
+    </message>
+    <message>
+        <source>Die gewählten Rahmen über alle anderen legen</source>
+        <translation>Put the chosen frames above all others</translation>
+    </message>
+    <message>
+        <source>Ganz nach &amp;hinten</source>
+        <translation>To the &amp;back</translation>
+    </message>
+    <message>
+        <source>Die gewählten Rahmen unter alle anderen legen</source>
+        <translation>Put the chosen frames below all others</translation>
+    </message>
+    <message>
+        <source>La&amp;ge und Größe</source>
+        <translation>Position and si&amp;ze</translation>
+    </message>
+    <message>
+        <source>Den gewählten Rahmen nach Maß setzen und mit anderen ausrichten</source>
+        <translation>Place the chosen frame by measure and align it with others</translation>
+    </message>
+    <message>
+        <source>Rahmen frei &amp;anordnen</source>
+        <translation>&amp;Arrange frames freely</translation>
+    </message>
+    <message>
+        <source>Foto und Kalender der Seite einzeln verschiebbar machen</source>
+        <translation>Make photo and calendar of the page movable one by one</translation>
     </message>
 </context>
 <context>
@@ -5399,6 +5926,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Die Liste leeren; die Dateien bleiben</source>
         <translation>Clear the list; the files stay</translation>
+    </message>
+    <message>
+        <source>Rahme&amp;n</source>
+        <translation>Fr&amp;ame</translation>
     </message>
 </context>
 <context>
@@ -5520,6 +6051,14 @@ Designs photo calendars and prints them.
     <message>
         <source>Einträge des Tages</source>
         <translation>Entries of the day</translation>
+    </message>
+    <message>
+        <source>Kalender</source>
+        <translation>Calendar</translation>
+    </message>
+    <message>
+        <source>Lage und Größe</source>
+        <translation>Position and size</translation>
     </message>
 </context>
 <context>

@@ -88,9 +88,9 @@ void MvMonkey::act()
 MvMonkey::Action MvMonkey::chooseAction()
 {
     static const QList<Choice> choices{
-        {340, &MvMonkey::click},    {150, &MvMonkey::clickCanvas},  {50, &MvMonkey::drag},
-        {40, &MvMonkey::turnWheel}, {160, &MvMonkey::pressKey},     {80, &MvMonkey::typeText},
-        {50, &MvMonkey::dropFile},  {70, &MvMonkey::triggerAction}, {40, &MvMonkey::raiseDock},
+        {340, &MvMonkey::click},    {150, &MvMonkey::clickCanvas},   {50, &MvMonkey::drag},
+        {40, &MvMonkey::turnWheel}, {160, &MvMonkey::pressKey},      {80, &MvMonkey::typeText},
+        {50, &MvMonkey::dropFile},  {100, &MvMonkey::triggerAction}, {40, &MvMonkey::raiseDock},
     };
     int all = 0;
     for (const Choice &choice : choices)
@@ -197,11 +197,13 @@ void MvMonkey::drag()
     const QPoint way(below(400) - 200, below(400) - 200);
     note(u"drag %1 %2,%3 by %4,%5"_s.arg(nameOf(widget)).arg(point.x()).arg(point.y()).arg(way.x()).arg(way.y()));
     const QPointer<QWidget> source = widget;
-    QTest::mousePress(window, Qt::LeftButton, {}, placeOn(window, widget, point));
+    static const QList<Qt::KeyboardModifiers> modifiers{{}, {}, Qt::AltModifier, Qt::ControlModifier};
+    const Qt::KeyboardModifiers held = oneOf(modifiers);
+    QTest::mousePress(window, Qt::LeftButton, held, placeOn(window, widget, point));
     for (int step = 1; step <= 5 && window && source; ++step)
         QTest::mouseMove(window, placeOn(window, source, point + way * step / 5));
     if (window)
-        QTest::mouseRelease(window, Qt::LeftButton, {}, {window->width() / 2, window->height() / 2});
+        QTest::mouseRelease(window, Qt::LeftButton, held, {window->width() / 2, window->height() / 2});
 }
 
 void MvMonkey::turnWheel()
@@ -315,7 +317,12 @@ void MvMonkey::triggerAction()
         return click();
     static const QStringList often{u"undo"_s,         u"undo"_s,      u"redo"_s,    u"nextPage"_s,
                                    u"previousPage"_s, u"firstPage"_s, u"lastPage"_s};
-    QList<QAction *> actions{m_window->findChild<QAction *>(oneOf(often))};
+    static const QStringList ofFrames{
+        u"addPhotoFrame"_s, u"addTextFrame"_s,       u"addSmallMonth"_s,     u"duplicateFrame"_s,
+        u"removeFrame"_s,   u"frameToFrontAction"_s, u"frameToBackAction"_s, u"freeFrames"_s,
+        u"placeFrame"_s,    u"distributePhotos"_s,   u"nextElement"_s,       u"nextElement"_s,
+        u"chooseTheme"_s,   u"chooseTemplate"_s,     u"showWelcome"_s,       u"printMarks"_s};
+    QList<QAction *> actions{m_window->findChild<QAction *>(oneOf(below(2) == 0 ? often : ofFrames))};
     if (below(6) == 0) // or any
         actions = m_window->findChildren<QAction *>();
     actions.removeIf([](const QAction *action) {

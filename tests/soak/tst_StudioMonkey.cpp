@@ -6,6 +6,8 @@
 #include "MvCore/MvUndoController.h"
 #include "MvEntries.h"
 #include "MvMonkey.h"
+#include "MvProject/MvFotoDistribution.h"
+#include "MvProject/MvNewCalendar.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
@@ -119,6 +121,7 @@ private Q_SLOTS:
 private:
     MvCalendarEventList createEvents(const QString &foto) const;
     QStringList createFiles() const;
+    static MvCalendarDocument createFotoCalendar(const QStringList &files);
     void check();
     void checkEntries();
     void checkUndo();
@@ -182,6 +185,20 @@ QStringList tst_StudioMonkey::createFiles() const
             m_studio->path(u"kaputt, weil nicht da.jpg"_s)};
 }
 
+/// With a theme, templates and photos in the tray.
+MvCalendarDocument tst_StudioMonkey::createFotoCalendar(const QStringList &files)
+{
+    MvNewCalendar wanted;
+    wanted.themeId = u"ALBUM"_s;
+    wanted.range = {QDate(2027, 1, 1), QDate(2027, 12, 31)};
+    MvCalendarDocument document = wanted.make();
+    MvFotoPool pool;
+    for (const QString &path : files.mid(0, 2))
+        pool.add({path, {}, {}, {0.5, 0.5}});
+    document.setFotoPool(pool);
+    return MvFotoDistribution::distribute(document).document;
+}
+
 void tst_StudioMonkey::survives_data()
 {
     QTest::addColumn<quint32>("seed");
@@ -196,6 +213,8 @@ void tst_StudioMonkey::survives()
     const QStringList files = createFiles();
     MvRequestHandler::install(std::make_unique<ScriptedAnswers>(seed, files, m_studio->path({})));
     MvCalendarEventRegistry::instance().setOwnEvents(createEvents(files.first())); // the calendar copies them
+    if (seed % 2 == 0)
+        m_studio->project()->newProject(createFotoCalendar(files));
     m_monkey = std::make_unique<MvMonkey>(m_studio->window(), seed, files, m_studio->path({}));
     int steps = 0; // forth and back
     connect(MvUndoController::instance().stack(), &QUndoStack::indexChanged, m_monkey.get(), [&steps] { ++steps; });

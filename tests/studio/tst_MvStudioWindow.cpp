@@ -6,6 +6,7 @@
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvStudioFixture.h"
+#include "MvWidgetDriver.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvPrintFlow.h"
@@ -147,14 +148,17 @@ void tst_MvStudioWindow::newCalendar()
     trigger("newProject");
     QDialog *setup = dialog("newProjectDialog");
     QVERIFY(setup);
+    auto *kinds = setup->findChild<QListWidget *>(u"calendarKinds"_s);
+    kinds->setCurrentRow(1); // a planner
     auto *layouts = setup->findChild<QListWidget *>(u"layoutList"_s);
-    QVERIFY(layouts->count() > 10);
+    QVERIFY(layouts->count() > 10 && layouts->isVisible());
     layouts->setCurrentRow(1);
     setup->findChild<QComboBox *>(u"startMonth"_s)->setCurrentIndex(8);
     setup->findChild<QSpinBox *>(u"startYear"_s)->setValue(2027);
     setup->findChild<QSpinBox *>(u"monthCount"_s)->setValue(18);
     setup->findChild<QComboBox *>(u"paper"_s)->setCurrentText(u"A5"_s);
     setup->findChild<QComboBox *>(u"orientation"_s)->setCurrentIndex(1);
+    setup->findChild<QComboBox *>(u"region"_s)->setCurrentText(u"Bayern"_s);
     QCOMPARE(setup->findChild<QLabel *>(u"lastMonth"_s)->text(), u"bis Februar 2029"_s);
     QTRY_VERIFY(!layouts->item(0)->icon().isNull());
     setup->accept();
@@ -167,6 +171,34 @@ void tst_MvStudioWindow::newCalendar()
             MvProjectFlow::firstDocument().appearance().layoutSchema().ID());
     QCOMPARE(project()->displayName(), u"Kalender September 2027 bis Februar 2029"_s);
     QVERIFY(!project()->isModified());
+    QCOMPARE(document.holidayConfig().province(), u"BY"_s);
+
+    // the next one begins with what was chosen; with pictures there are photos, cover and back
+    for (const bool isOfPeople : {false, true}) {
+        trigger("newProject");
+        if (isOfPeople) // the photo is not saved
+            click(dialog("saveQuestion"), "discardButton");
+        setup = dialog("newProjectDialog");
+        QCOMPARE(setup->findChild<QComboBox *>(u"paper"_s)->currentText(), u"A5"_s);
+        QCOMPARE(setup->findChild<QComboBox *>(u"region"_s)->currentText(), u"Bayern"_s);
+        setup->findChild<QListWidget *>(u"calendarKinds"_s)->setCurrentRow(isOfPeople ? 2 : 0);
+        auto *themes = setup->findChild<QListWidget *>(u"newThemes"_s);
+        QVERIFY(themes->isVisible());
+        themes->setCurrentRow(2);
+        setup->findChild<QComboBox *>(u"binding"_s)->setCurrentIndex(1);
+        setup->findChild<QLineEdit *>(u"newTitle"_s)->setText(u"Für Oma"_s);
+        setup->findChild<QCheckBox *>(u"newBack"_s)->setChecked(!isOfPeople);
+        const QString foto = path(u"neu.png"_s);
+        QVERIFY(MvWidgetDriver::writeFoto(foto, Qt::red));
+        QVERIFY(MvStudioFixture::dropFile(setup, {5, 5}, foto));
+        setup->accept();
+        QTRY_COMPARE(project()->document().fotoPool().paths(), QStringList{foto});
+        QCOMPARE(project()->document().pages().size(), isOfPeople ? 13 : 14);
+        QCOMPARE(project()->document().title(), u"Für Oma"_s);
+        QCOMPARE(project()->document().format().binding(), MvPageFormat::Binding::Top);
+        QCOMPARE(project()->document().pages().at(3).templateId() == u"MONTH_PEOPLE"_s, isOfPeople);
+        QVERIFY(project()->document().fotoUses().value(foto) > 0);
+    }
 
     trigger("pageSetup");
     setup = dialog("pageSetupDialog");

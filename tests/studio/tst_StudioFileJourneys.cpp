@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvStudioFixture.h"
 
+#include "flows/MvPagePreview.h"
+#include "flows/MvPrintFindingList.h"
+
 #include "flows/MvProjectFlow.h"
 
 #include "MvProject/MvProject.h"
@@ -19,6 +22,7 @@ private Q_SLOTS:
     void closeQuestion();
     void exported_data();
     void exported();
+    void exportChecked();
     void exportCancelled();
     void missingFotosAreFound();
     void damagedFileLeadsToItsBackup();
@@ -137,6 +141,44 @@ void tst_StudioFileJourneys::exported()
     reader.start(u"pdfinfo"_s, {file});
     QVERIFY(reader.waitForFinished());
     QVERIFY(reader.readAllStandardOutput().contains("858.898 x 612.28")); // 303 mm x 216 mm, in points
+}
+
+/// What would not print well stands in the dialog, is marked in its preview, and is gone to from there.
+void tst_StudioFileJourneys::exportChecked()
+{
+    MvStudioFixture studio;
+    MvCalendarPage page = studio.document().pages().at(1);
+    page.setFotoFrame(MvFotoFrame(studio.path(u"fehlt.jpg"_s)));
+    studio.project()->changePage(1, page, u"Foto"_s);
+    QVERIFY(studio.trigger("exportPdf"));
+    auto *dialog = MvStudioFixture::dialog<QDialog>("exportDialog");
+    QVERIFY(dialog);
+    auto *list = MvStudioFixture::find<MvPrintFindingList>(dialog, "printFindings");
+    auto *preview = MvStudioFixture::find<MvPagePreview>(dialog, "pagePreview");
+    QTRY_COMPARE(list->findings().size(), 1);
+    QCOMPARE(preview->page(), 0);
+    list->setCurrentRow(-1);
+    list->setCurrentRow(0);
+    QCOMPARE(preview->page(), 1);
+    auto *pages = MvStudioFixture::find<QComboBox>(dialog, "exportPages");
+    pages->setCurrentIndex(1); // the shown one alone
+    QCOMPARE(list->findings().size(), 0);
+    QVERIFY(list->item(0)->text().contains(u"gut"));
+    pages->setCurrentIndex(0);
+    list->setCurrentRow(0);
+    QVERIFY(studio.click(dialog, "exportGoTo"));
+    QTRY_COMPARE(studio.window()->currentPage(), 1);
+    QVERIFY(!MvStudioFixture::dialog<QDialog>("exportDialog"));
+
+    // what was in sight is not asked about again
+    QVERIFY(studio.trigger("exportPdf"));
+    dialog = MvStudioFixture::dialog<QDialog>("exportDialog");
+    QVERIFY(studio.click(dialog, "exportButton"));
+    QVERIFY(!MvStudioFixture::dialog<QMessageBox>("missingPhotosQuestion"));
+    QTRY_VERIFY_WITH_TIMEOUT(MvStudioFixture::dialog<QMessageBox>("informationMessage"), 60000);
+    auto *told = MvStudioFixture::dialog<QMessageBox>("informationMessage");
+    QVERIFY(told->informativeText().contains(u"fehlt.jpg"_s));
+    told->close();
 }
 
 void tst_StudioFileJourneys::exportCancelled()

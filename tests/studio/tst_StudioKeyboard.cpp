@@ -222,7 +222,8 @@ void tst_StudioKeyboard::sections_data()
     QTest::addColumn<QString>("layout");
     const QString month = u"MONTH_GRID_CLASSIC"_s;
     for (const char *section : {"", "themePanel", "templatePanel", "contentPanel", "layoutPanel", "colorPanel",
-                                "fontPanel", "columnHeadersPanel", "entriesPanel", "photoPanel", "dayPanel"})
+                                "fontPanel", "columnHeadersPanel", "entriesPanel", "photoPanel", "dayPanel",
+                                "textPanel", "framePanel", "calendariumPanel"})
         QTest::newRow(section) << QString::fromLatin1(section) << month;
     QTest::newRow("columns") << u"columnHeadersPanel"_s << u"FAMILY_PLANNER"_s;
 }
@@ -238,6 +239,10 @@ void tst_StudioKeyboard::sections()
         QVERIFY(studio.trigger("showWelcome"));
     else if (section == u"dayPanel"_s)
         studio.canvas()->selection()->selectDay({2027, 1, 12});
+    else if (section == u"textPanel"_s)
+        QVERIFY(studio.trigger("addTextFrame"));
+    else if (section == u"framePanel"_s || section == u"calendariumPanel"_s)
+        QVERIFY(studio.trigger("addSmallMonth"));
     else if (section == u"photoPanel"_s)
         studio.selectFoto(studio.writeFoto(u"foto.png"_s, Qt::green));
     if (!section.isEmpty())

@@ -11,33 +11,65 @@
 #include "tray/MvFotoTray.h"
 #include "tray/MvFotoTrayModel.h"
 
+#include "MvExifFixture.h"
 #include "MvProject/MvProject.h"
+#include "MvTestFiles.h"
 #include "MvWidgetDriver.h"
+
+#include <QBuffer>
+#include <QProcess>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int drawnFotos = 36;
-constexpr int goodFotos = drawnFotos + 2; // of a telephone
+constexpr int drawnFotos = 33;
+constexpr int telephoneFotos[] = {1, 2, 3, 6, 8}; // of these there is another one, of a telephone
+constexpr int goodFotos = drawnFotos + int(std::size(telephoneFotos));
 constexpr int brokenFotos = 2;
 
-/// A folder of photos of all shapes and sizes, taken over a year as their names say, and some files that are none.
+/// As cameras write it: taken at noon of a day, and held in one of eight ways.
+bool writeJpeg(const QString &path, const QSize &size, const QColor &color, int orientation, const QDate &day)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    QByteArray jpeg;
+    QBuffer buffer(&jpeg);
+    return image.save(&buffer, "JPG", 80) &&
+           MvTestFiles::write(
+               path,
+               MvExifFixture::inJpeg(
+                   jpeg, MvExifFixture::block(orientation, day.toString(u"yyyy:MM:dd"_s).toLatin1() + " 12:00:00")));
+}
+
+/// One of a telephone, from a JPEG; where this computer cannot encode it, one of the tests' own.
+bool writeHeic(const QString &path, const QString &jpeg, int number)
+{
+    const QString program = QStandardPaths::findExecutable(u"heif-enc"_s);
+    if (!program.isEmpty() && QProcess::execute(program, {u"-q"_s, u"40"_s, u"-o"_s, path, jpeg}) == 0 &&
+        QFileInfo(path).size() > 0)
+        return true;
+    QFile::remove(path);
+    return QFile::copy(QStringLiteral(MV_TEST_DATA "/fotos/") + (number % 2 ? u"p3.heic"_s : u"turned.heic"_s), path);
+}
+
+/// A folder of photos of all shapes, 0.3 to 24 megapixels, held in all ways, taken over a year, in a folder below, too;
+/// and some files that are none.
 bool fillFolder(const QString &folder)
 {
     const QSize sizes[] = {{640, 480}, {480, 640}, {900, 900}, {1600, 500}, {3000, 2000}, {2000, 3000}};
     bool isWritten = QDir().mkpath(folder + u"/unten"_s);
     for (int number = 0; number < drawnFotos; ++number) {
         const QSize size = number == 7 ? QSize(6000, 4000) : sizes[number % std::size(sizes)];
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(QColor::fromHsv(number * 9, 120, 200));
-        const QDate day = QDate(2027, 1, 4).addDays(number * 9);
         const QString name =
-            u"%1/IMG_%2_120000.jpg"_s.arg(number % 5 ? folder : folder + u"/unten"_s, day.toString(u"yyyyMMdd"_s));
-        isWritten = isWritten && image.save(name, "JPG", 80);
+            u"%1/IMG_%2.jpg"_s.arg(number % 5 ? folder : folder + u"/unten"_s).arg(number, 4, 10, QChar(u'0'));
+        isWritten = isWritten && writeJpeg(name, size, QColor::fromHsv(number * 9, 120, 200), number % 8 + 1,
+                                           QDate(2027, 1, 4).addDays(number * 9));
     }
-    for (const QString &name : {u"p3.heic"_s, u"turned.heic"_s})
-        isWritten = isWritten && QFile::copy(QStringLiteral(MV_TEST_DATA "/fotos/") + name, folder + u'/' + name);
+    for (const int number : telephoneFotos)
+        isWritten = isWritten && writeHeic(u"%1/IMG_%2.heic"_s.arg(folder).arg(number),
+                                           u"%1/IMG_%2.jpg"_s.arg(folder).arg(number, 4, 10, QChar(u'0')), number);
     for (int number = 0; number < brokenFotos; ++number) // what they hold is far too little for their size
         isWritten = isWritten && MvWidgetDriver::writeHugeFoto(u"%1/kaputt%2.webp"_s.arg(folder).arg(number));
     return isWritten;

@@ -10,6 +10,7 @@
 #include "flows/MvRestoreEntriesDialog.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageItem.h"
+#include "pages/MvPageSelection.h"
 #include "window/MvHelpDialogs.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
@@ -20,23 +21,33 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize sizes[] = {{960, 540}, {1024, 600}, {1280, 800}}; // logical pixels
-constexpr double scales[] = {1.0, 2.0};
+/// In logical pixels.
+struct Screen
+{
+    QSize size;
+    double scale;
+    const char *language;
+    const char *theme;
+};
+
+constexpr Screen screens[] = {
+    {{960, 540}, 2.0, "de", "light"},   {{960, 540}, 1.0, "en", "dark"},  {{1024, 600}, 1.0, "de", "dark"},
+    {{1024, 600}, 1.5, "en", "light"},  {{1280, 800}, 3.0, "de", "dark"}, {{1280, 800}, 1.5, "de", "light"},
+    {{2560, 1440}, 1.0, "en", "light"},
+};
 
 /// The screens stand side by side, far from each other.
 QByteArray screenConfiguration()
 {
-    QJsonArray screens;
-    for (const QSize &size : sizes) {
-        for (const double scale : scales)
-            screens.append(QJsonObject{{u"name"_s, u"%1x%2@%3"_s.arg(size.width()).arg(size.height()).arg(scale)},
-                                       {u"x"_s, int(screens.size()) * 4000},
-                                       {u"y"_s, 0},
-                                       {u"width"_s, size.width()},
-                                       {u"height"_s, size.height()},
-                                       {u"dpr"_s, scale}});
-    }
-    return QJsonDocument(QJsonObject{{u"screens"_s, screens}}).toJson();
+    QJsonArray all;
+    for (const Screen &screen : screens)
+        all.append(QJsonObject{{u"name"_s, QString::number(all.size())},
+                               {u"x"_s, int(all.size()) * 8000},
+                               {u"y"_s, 0},
+                               {u"width"_s, screen.size.width()},
+                               {u"height"_s, screen.size.height()},
+                               {u"dpr"_s, screen.scale}});
+    return QJsonDocument(QJsonObject{{u"screens"_s, all}}).toJson();
 }
 
 /// A control that shows less than it has to say; empty when none does.
@@ -53,7 +64,7 @@ QString cutControl(const QWidget *window)
         }
         if (!hasText || !widget->isVisible() || widget->window() != window || isBehind)
             continue;
-        const QSize needed = widget->minimumSizeHint();
+        const QSize needed = widget->minimumSizeHint() - QSize(1, 1); // fonts are rounded by the screen
         if (widget->width() < needed.width() || widget->height() < needed.height())
             return u"%1 %2: %3x%4 of %5x%6"_s
                 .arg(QLatin1StringView(widget->metaObject()->className()), widget->objectName())
@@ -89,9 +100,14 @@ private:
 void tst_StudioScreens::everyDialog_data()
 {
     QTest::addColumn<QScreen *>("screen");
-    for (QScreen *screen : QGuiApplication::screens())
-        QTest::newRow(qPrintable(screen->name())) << screen;
-    QCOMPARE(QGuiApplication::screens().size(), qsizetype(std::size(sizes) * std::size(scales)));
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("theme");
+    QCOMPARE(QGuiApplication::screens().size(), qsizetype(std::size(screens)));
+    int number = 0;
+    for (const Screen &one : screens)
+        QTest::addRow("%dx%d@%g %s %s", one.size.width(), one.size.height(), one.scale, one.language, one.theme)
+            << QGuiApplication::screens().at(number++) << QString::fromLatin1(one.language)
+            << QString::fromLatin1(one.theme);
 }
 
 QList<std::pair<QString, std::function<void()>>> tst_StudioScreens::openers(const MvStudioFixture &studio)
@@ -134,7 +150,10 @@ QList<std::pair<QString, std::function<void()>>> tst_StudioScreens::openers(cons
 void tst_StudioScreens::everyDialog()
 {
     QFETCH(QScreen *, screen);
-    const MvStudioFixture studio;
+    QFETCH(QString, language);
+    QFETCH(QString, theme);
+    MvStudioSettings::setTheme(theme);
+    const MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
     MvCalendarPage page = studio.document().pages().first();
     page.setFotoFrame(MvFotoFrame(studio.path(u"nicht da.jpg"_s)));
     studio.project()->changePage(0, page, u"Foto"_s);
@@ -175,7 +194,10 @@ void tst_StudioScreens::everyDialog()
 void tst_StudioScreens::sidePanels()
 {
     QFETCH(QScreen *, screen);
-    const MvStudioFixture studio;
+    QFETCH(QString, language);
+    QFETCH(QString, theme);
+    MvStudioSettings::setTheme(theme);
+    const MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
     MvStudioWindow *window = studio.window();
     MvStudioSettings::addRecentFile(studio.writeFoto(u"Unser Familienkalender fürs Jahr.png"_s, Qt::red));
     window->setGeometry(screen->availableGeometry());
@@ -191,9 +213,17 @@ void tst_StudioScreens::sidePanels()
             QVERIFY2(!area->isVisible() || area->horizontalScrollBar()->maximum() == 0, section);
     }
     studio.selectFoto(studio.writeFoto(u"foto.png"_s, Qt::green));
-    QCoreApplication::processEvents();
-    QVERIFY(studio.find("photoPanel"));
-    QVERIFY2(cutControl(window).isEmpty(), qPrintable(cutControl(window)));
+    const auto isWhole = [&studio, window](const char *panel) {
+        return studio.openSection(panel) && cutControl(window).isEmpty();
+    };
+    QVERIFY2(isWhole("photoPanel"), qPrintable(cutControl(window)));
+    QVERIFY2(isWhole("framePanel"), qPrintable(cutControl(window)));
+    QVERIFY(studio.trigger("addTextFrame"));
+    QVERIFY2(isWhole("textPanel"), qPrintable(cutControl(window)));
+    QVERIFY(studio.trigger("addSmallMonth"));
+    QVERIFY2(isWhole("calendariumPanel"), qPrintable(cutControl(window)));
+    studio.canvas()->selection()->selectDay({2027, 1, 12});
+    QVERIFY2(isWhole("dayPanel"), qPrintable(cutControl(window)));
     QVERIFY(studio.trigger("showWelcome"));
     QTest::qWait(1);
     QVERIFY2(cutControl(window).isEmpty(), qPrintable(cutControl(window)));

@@ -21,5 +21,7 @@ public:
         Text,
         TextLook,
         ElementMove,
+        FotoBrightness,
+        FotoContrast,
     };
 };

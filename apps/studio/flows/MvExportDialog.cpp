@@ -7,6 +7,9 @@
 #include "MvProject/MvPngExporter.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
+#include "flows/MvPagePreview.h"
+#include "flows/MvPrintFindingList.h"
+#include "flows/MvPrintWatch.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -51,11 +54,15 @@ QLabel *labelFor(const QString &text, QWidget *buddy)
 } // namespace
 
 MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocument &document, int currentPage,
-                               const QString &folder, const QString &name, QWidget *parent)
+                               const QString &folder, const QString &name, MvPrintWatch *watch, QWidget *parent)
     : QDialog(parent)
     , m_kind(kind)
     , m_document(document)
     , m_currentPage(currentPage)
+    , m_watch(watch)
+    , m_preview(new MvPagePreview(this))
+    , m_findings(new MvPrintFindingList(this))
+    , m_summary(new QLabel(this))
     , m_target(new QLineEdit(this))
     , m_pages(new QComboBox(this))
     , m_pageText(new QLineEdit(this))
@@ -85,13 +92,74 @@ MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocum
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
+    auto *left = new QVBoxLayout;
+    left->addLayout(form);
+    left->addWidget(m_message);
+    left->addStretch(1);
+    auto *row = new QHBoxLayout;
+    row->addLayout(left, 3);
+    row->addWidget(m_preview, 2);
     auto *column = new QVBoxLayout(this);
-    column->addLayout(form);
-    column->addWidget(m_message);
-    column->addStretch();
+    column->addLayout(row, 3);
+    column->addWidget(createFindings(), 2);
     column->addWidget(buttons);
-    setMinimumWidth(fontMetrics().averageCharWidth() * 90);
+    const int letters = fontMetrics().averageCharWidth();
+    resize(letters * 140, letters * 86);
+    m_preview->setPages(m_document, MvPageRange::parse({}, int(m_document.pages().size())).numbers);
+    m_preview->showPage(currentPage);
     validate();
+}
+
+QWidget *MvExportDialog::createFindings()
+{
+    auto *box = new QWidget(this);
+    m_summary->setObjectName(u"exportSummary"_s);
+    m_summary->setWordWrap(true);
+    m_summary->setBuddy(m_findings);
+    auto *go = new QPushButton(tr("&Zur Stelle gehen"), box);
+    go->setObjectName(u"exportGoTo"_s);
+    go->setAutoDefault(false);
+    go->setToolTip(tr("Dieses Fenster schließen und zeigen, was die gewählte Zeile meint"));
+    connect(go, &QPushButton::clicked, this, [this] {
+        if (m_findings->current())
+            goTo(*m_findings->current());
+    });
+    connect(m_findings, &MvPrintFindingList::placeWanted, this, &MvExportDialog::goTo);
+    connect(m_findings, &MvPrintFindingList::currentChanged, this,
+            [this](const MvPrintFinding &finding) { m_preview->mark(finding.page, finding.rect); });
+    auto *head = new QHBoxLayout;
+    head->addWidget(m_summary, 1);
+    head->addWidget(go, 0, Qt::AlignBottom);
+    auto *column = new QVBoxLayout(box);
+    column->setContentsMargins({});
+    column->addLayout(head);
+    column->addWidget(m_findings, 1);
+    connect(m_watch, &MvPrintWatch::completed, this, &MvExportDialog::showFindings);
+    m_watch->hurry();
+    return box;
+}
+
+/// Those of the pages that are to be exported.
+void MvExportDialog::showFindings()
+{
+    const bool isComplete = m_watch->isComplete();
+    m_findings->setFindings(m_watch->findings(pages().numbers), isComplete);
+    m_summary->setText(isComplete ? MvPrintFindingList::summary(m_findings->findings().size())
+                                  : tr("Die Seiten werden geprüft …"));
+    if (auto *go = findChild<QPushButton *>(u"exportGoTo"_s))
+        go->setEnabled(!m_findings->findings().isEmpty());
+}
+
+void MvExportDialog::goTo(const MvPrintFinding &finding)
+{
+    const MvPrintFinding place = finding;
+    reject();
+    Q_EMIT placeWanted(place);
+}
+
+bool MvExportDialog::hasToldEverything() const
+{
+    return m_watch->isComplete() && m_findings->findings() == m_watch->findings(pages().numbers);
 }
 
 void MvExportDialog::addTarget(QFormLayout *form, const QString &folder, const QString &name)
@@ -168,6 +236,7 @@ void MvExportDialog::addBleed(QFormLayout *form)
         tr("Was an jeder Kante über das fertige Blatt hinaus gedruckt und abgeschnitten wird; Druckereien "
            "verlangen meist 3 mm"));
     form->addRow(labelFor(tr("&Beschnitt:"), m_bleed), m_bleed);
+    connect(m_bleed, &QDoubleSpinBox::valueChanged, this, &MvExportDialog::validate);
 }
 
 void MvExportDialog::browse()
@@ -265,6 +334,11 @@ void MvExportDialog::validate()
     const MvOutcome checked = check();
     m_message->setText(checked.isOk() ? checked.notes.join(u' ') : checked.error);
     m_export->setEnabled(checked.isOk());
+    if (const MvPageRange::Pages shown = pages(); shown.isOk())
+        m_preview->setPages(m_document, shown.numbers);
+    if (m_bleed)
+        m_preview->setBleed(std::round(m_bleed->value() * tenths));
+    showFindings();
 }
 
 MvExportOptions MvExportDialog::options() const

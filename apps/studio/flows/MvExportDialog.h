@@ -7,6 +7,9 @@
 
 #include <QDialog>
 
+class MvPagePreview;
+class MvPrintFindingList;
+class MvPrintWatch;
 class MvSpinBox;
 class QComboBox;
 class QDoubleSpinBox;
@@ -14,8 +17,11 @@ class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+struct MvPrintFinding;
 
-/// Asks where a calendar is to be exported to, which pages of it, and how fine.
+/// Asks where a calendar is to be exported to, which pages of it, and how fine. Beside it stands how the pages will
+/// come out of the printer, and below what of them would not print well: each line shows its place there, and leads to
+/// it in the window.
 class MvExportDialog : public QDialog
 {
     Q_OBJECT
@@ -23,14 +29,23 @@ class MvExportDialog : public QDialog
 public:
     /// The name, without suffix, is what the file is called at first.
     MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocument &document, int currentPage,
-                   const QString &folder, const QString &name, QWidget *parent);
+                   const QString &folder, const QString &name, MvPrintWatch *watch, QWidget *parent);
 
     /// What is asked for. Only to be used when the dialog was accepted.
     MvExportOptions options() const;
     /// Offers this resolution and this folder the next time.
     static void remember(const MvExportOptions &options);
+    /// Everything that would spoil the print was in sight when the dialog was accepted.
+    bool hasToldEverything() const;
+
+Q_SIGNALS:
+    /// Somebody would rather go there first; the dialog has closed.
+    void placeWanted(const MvPrintFinding &finding);
 
 private:
+    QWidget *createFindings();
+    void showFindings();
+    void goTo(const MvPrintFinding &finding);
     bool isPdf() const { return m_kind == MvExportOptions::Kind::Pdf; }
     void addTarget(QFormLayout *form, const QString &folder, const QString &name);
     void addPages(QFormLayout *form);
@@ -48,6 +63,10 @@ private:
     MvExportOptions::Kind m_kind;
     MvCalendarDocument m_document;
     int m_currentPage;
+    MvPrintWatch *m_watch;
+    MvPagePreview *m_preview;
+    MvPrintFindingList *m_findings;
+    QLabel *m_summary;
     QLineEdit *m_target;
     QLineEdit *m_pattern = nullptr;
     QComboBox *m_pages;

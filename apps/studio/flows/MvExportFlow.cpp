@@ -27,9 +27,10 @@ constexpr int mostLines = 8; // of each kind, so that the message fits small scr
 
 } // namespace
 
-MvExportFlow::MvExportFlow(MvProject *project, QWidget *window)
+MvExportFlow::MvExportFlow(MvProject *project, MvPrintWatch *watch, QWidget *window)
     : QObject(window)
     , m_project(project)
+    , m_watch(watch)
     , m_window(window)
 {}
 
@@ -44,12 +45,16 @@ void MvExportFlow::start(MvExportOptions::Kind kind)
     }
     const int page = qBound(0, m_currentPage, int(document.pages().size()) - 1);
     auto *dialog = new MvExportDialog(kind, document, page, MvStudioSettings::folder(u"export"_s),
-                                      MvFileName::cleaned(m_project->displayName()), m_window);
+                                      MvFileName::cleaned(m_project->displayName()), m_watch, m_window);
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         const MvExportOptions options = dialog->options();
         MvExportDialog::remember(options);
-        warnAndRun(options);
+        if (dialog->hasToldEverything())
+            run(options);
+        else
+            warnAndRun(options);
     });
+    connect(dialog, &MvExportDialog::placeWanted, this, &MvExportFlow::placeWanted);
     dialog->open();
 }
 

@@ -7,8 +7,10 @@
 
 class MvExportJob;
 class MvProject;
+class MvPrintWatch;
 class MvProgressDialog;
 struct MvExportResult;
+struct MvPrintFinding;
 class QWidget;
 
 /// Exports the open project: asks where to, tells what is missing before, shows how far it has come, and tells
@@ -18,8 +20,8 @@ class MvExportFlow : public QObject
     Q_OBJECT
 
 public:
-    /// The project is not owned. The window is the parent of all dialogs.
-    MvExportFlow(MvProject *project, QWidget *window);
+    /// Project and watch are not owned. The window is the parent of all dialogs.
+    MvExportFlow(MvProject *project, MvPrintWatch *watch, QWidget *window);
 
     bool isRunning() const { return m_job != nullptr; }
 
@@ -31,10 +33,13 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void message(const QString &text);
+    /// Somebody would rather see to this before.
+    void placeWanted(const MvPrintFinding &finding);
 
 private:
     void start(MvExportOptions::Kind kind);
-    /// What would spoil the print is asked about first: photos that are missing or very coarse, empty frames.
+    /// What would spoil the print and was not in sight yet is asked about: photos that are missing or very coarse,
+    /// empty frames.
     void warnAndRun(const MvExportOptions &options);
     QStringList gravest(const MvExportOptions &options) const;
     void run(const MvExportOptions &options);
@@ -43,6 +48,7 @@ private:
     QString printNotes(const MvExportJob &job, const MvExportResult &result) const;
 
     MvProject *m_project;
+    MvPrintWatch *m_watch;
     QWidget *m_window;
     MvExportJob *m_job = nullptr;
     MvExportOptions m_options; // of the running job

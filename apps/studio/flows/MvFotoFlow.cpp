@@ -70,27 +70,27 @@ MvFotoFlow::~MvFotoFlow() = default;
 
 void MvFotoFlow::askForFiles()
 {
-    askForPaths(false, [this](const QStringList &paths) { add(paths); });
+    askForPaths(m_window, false, [this](const QStringList &paths) { add(paths); });
 }
 
 void MvFotoFlow::askForFolder()
 {
-    askForPaths(true, [this](const QStringList &paths) { add(paths); });
+    askForPaths(m_window, true, [this](const QStringList &paths) { add(paths); });
 }
 
 void MvFotoFlow::askForNewFiles()
 {
-    askForPaths(false, [this](const QStringList &paths) { startCalendar(paths); });
+    askForPaths(m_window, false, [this](const QStringList &paths) { startCalendar(paths); });
 }
 
 void MvFotoFlow::askForNewFolder()
 {
-    askForPaths(true, [this](const QStringList &paths) { startCalendar(paths); });
+    askForPaths(m_window, true, [this](const QStringList &paths) { startCalendar(paths); });
 }
 
-void MvFotoFlow::askForPaths(bool isFolder, const std::function<void(const QStringList &)> &then)
+void MvFotoFlow::askForPaths(QWidget *parent, bool isFolder, const std::function<void(const QStringList &)> &then)
 {
-    auto *dialog = new QFileDialog(m_window, isFolder ? tr("Ordner mit Fotos wählen") : tr("Fotos wählen"),
+    auto *dialog = new QFileDialog(parent, isFolder ? tr("Ordner mit Fotos wählen") : tr("Fotos wählen"),
                                    MvStudioSettings::fotoFolder());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setObjectName(isFolder ? u"photoFolderDialog"_s : u"photosDialog"_s);
@@ -99,7 +99,7 @@ void MvFotoFlow::askForPaths(bool isFolder, const std::function<void(const QStri
         dialog->setOption(QFileDialog::ShowDirsOnly);
     else
         dialog->setNameFilters({MvDraggedFotos::nameFilter(), tr("Alle Dateien (*)")});
-    connect(dialog, &QFileDialog::filesSelected, this, [isFolder, then](const QStringList &paths) {
+    connect(dialog, &QFileDialog::filesSelected, parent, [isFolder, then](const QStringList &paths) {
         if (paths.isEmpty())
             return;
         const QFileInfo first(paths.constFirst());
@@ -153,13 +153,16 @@ MvCalendarDocument MvFotoFlow::newDocument() const
 
 void MvFotoFlow::startCalendar(const QStringList &paths)
 {
-    Q_EMIT leaveRequested([this, paths] {
-        m_project->newProject(newDocument());
-        if (paths.isEmpty())
-            return;
-        read(paths, tr("Fotos verteilen"), [](const MvCalendarDocument &document, const QList<MvFotoPoolItem> &items) {
-            return MvFotoDistribution::distribute(withPool(document, items)).document;
-        });
+    Q_EMIT leaveRequested([this, paths] { begin(newDocument(), paths); });
+}
+
+void MvFotoFlow::begin(const MvCalendarDocument &document, const QStringList &paths)
+{
+    m_project->newProject(document);
+    if (paths.isEmpty())
+        return;
+    read(paths, tr("Fotos verteilen"), [](const MvCalendarDocument &empty, const QList<MvFotoPoolItem> &items) {
+        return MvFotoDistribution::distribute(withPool(empty, items)).document;
     });
 }
 

@@ -27,6 +27,9 @@ public:
 
     bool isRunning() const { return m_intake->isRunning(); }
 
+    /// Asks for photos or for a folder of them, without blocking, and remembers where they were.
+    static void askForPaths(QWidget *parent, bool isFolder, const std::function<void(const QStringList &)> &then);
+
 public Q_SLOTS:
     void askForFiles();
     void askForFolder();
@@ -39,6 +42,8 @@ public Q_SLOTS:
     /// A new calendar in the chosen theme with these photos, distributed; without any, with empty frames. What is open
     /// is left first.
     void startCalendar(const QStringList &paths);
+    /// The same with a calendar that somebody has described already; what was open is given up.
+    void begin(const MvCalendarDocument &document, const QStringList &paths);
     void setThemeForNew(const QString &themeId) { m_theme = themeId; }
     /// The photos of the pool onto the pages.
     void distribute();
@@ -57,7 +62,6 @@ private:
     using Use =
         std::function<MvCalendarDocument(const MvCalendarDocument &document, const QList<MvFotoPoolItem> &items)>;
 
-    void askForPaths(bool isFolder, const std::function<void(const QStringList &)> &then);
     void read(const QStringList &paths, const QString &step, const Use &use);
     void take(const MvFotoPoolIntake::Result &result);
     void tell(const MvFotoPoolIntake::Result &result);

@@ -4,11 +4,10 @@
 #include "MvProject/MvPrintFinding.h"
 
 #include <QDialog>
-#include <QList>
 
-class MvProject;
+class MvPrintFindingList;
+class MvPrintWatch;
 class QLabel;
-class QListWidget;
 class QPushButton;
 
 /// Everything that would not print well, page by page, to be gone through: it stays open beside the window, and each
@@ -18,19 +17,17 @@ class MvPrintCheckDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Looks at once, and again after changes. The project is not owned. Deletes itself when it is closed.
-    MvPrintCheckDialog(MvProject *project, QWidget *parent);
+    /// Follows the watch, which is not owned. Deletes itself when it is closed.
+    MvPrintCheckDialog(MvPrintWatch *watch, QWidget *parent);
 
 Q_SIGNALS:
     void findingChosen(const MvPrintFinding &finding);
 
 private:
     void look();
-    void chooseCurrent();
 
-    MvProject *m_project;
+    MvPrintWatch *m_watch;
     QLabel *m_summary;
-    QListWidget *m_list;
+    MvPrintFindingList *m_list;
     QPushButton *m_show = nullptr;
-    QList<MvPrintFinding> m_findings;
 };

@@ -53,9 +53,10 @@ void adopt(const MvPageFormat &format, QPrinter *printer)
 
 } // namespace
 
-MvPrintFlow::MvPrintFlow(MvProject *project, QWidget *window)
+MvPrintFlow::MvPrintFlow(MvProject *project, MvPrintWatch *watch, QWidget *window)
     : QObject(window)
     , m_project(project)
+    , m_watch(watch)
     , m_window(window)
 {}
 
@@ -119,11 +120,12 @@ void MvPrintFlow::openPreview()
     printer->setDocName(m_project->displayName());
     adopt(m_project->document().format(), printer.get());
     auto *dialog = new MvPrintPreview(
-        printer, [pages = m_pages.get()](QPrinter *target) { paint(target, pages->pageSource()); }, m_window);
+        printer, [pages = m_pages.get()](QPrinter *target) { paint(target, pages->pageSource()); }, m_watch, m_window);
     dialog->resize(m_window->size().expandedTo({800, 600}) - QSize(60, 60));
     m_pages->setParent(dialog);
     connect(dialog, &MvPrintPreview::printRequested, this, [this, printer] { print(printer); });
     connect(dialog, &MvPrintPreview::pdfRequested, this, &MvPrintFlow::pdfRequested);
+    connect(dialog, &MvPrintPreview::placeWanted, this, &MvPrintFlow::placeWanted);
     // the preview needs a moment to open; until then the progress dialog can close
     QMetaObject::invokeMethod(dialog, &QDialog::open, Qt::QueuedConnection);
 }

@@ -12,9 +12,11 @@ class MvExportJob;
 class MvExportObserver;
 class MvPageSource;
 class MvPrintPages;
+class MvPrintWatch;
 class MvProject;
 class QPrinter;
 class QWidget;
+struct MvPrintFinding;
 
 /// Prints the open project, after a preview.
 class MvPrintFlow : public QObject
@@ -22,8 +24,8 @@ class MvPrintFlow : public QObject
     Q_OBJECT
 
 public:
-    /// The project is not owned. The window is the parent of all dialogs.
-    MvPrintFlow(MvProject *project, QWidget *window);
+    /// Project and watch are not owned. The window is the parent of all dialogs.
+    MvPrintFlow(MvProject *project, MvPrintWatch *watch, QWidget *window);
 
     /// Paints the pages that the printer is to print, each as large as it is, or smaller where the paper is.
     void paint(QPrinter *printer) const;
@@ -40,6 +42,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// The user wants a file instead.
     void pdfRequested();
+    /// Somebody would rather see to this before.
+    void placeWanted(const MvPrintFinding &finding);
     /// For the status bar.
     void message(const QString &text);
 
@@ -50,6 +54,7 @@ private:
     void tellPrinted(const MvExportResult &result);
 
     MvProject *m_project;
+    MvPrintWatch *m_watch;
     QWidget *m_window;
     QPointer<MvPrintPages> m_pages; // of the preview that is being made ready or shown
     QPointer<MvExportJob> m_printing;

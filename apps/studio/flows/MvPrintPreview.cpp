@@ -2,6 +2,8 @@
 #include "flows/MvPrintPreview.h"
 
 #include "common/MvStudioMessage.h"
+#include "flows/MvPrintFindingList.h"
+#include "flows/MvPrintWatch.h"
 
 #include "MvGUIWidgets/MvIconRegistry.h"
 
@@ -17,10 +19,12 @@
 
 using namespace Qt::StringLiterals;
 
-MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const Paint &paint, QWidget *parent)
+MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const Paint &paint, MvPrintWatch *watch,
+                               QWidget *parent)
     : QDialog(parent)
     , m_printer(printer)
     , m_preview(new QPrintPreviewWidget(printer.get(), this))
+    , m_watch(watch)
     , m_page(new QLabel(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -49,6 +53,7 @@ MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const P
     auto *column = new QVBoxLayout(this);
     column->addWidget(createToolBar());
     column->addWidget(m_preview, 1);
+    addFindings(column);
     column->addWidget(buttons);
     m_preview->fitInView();
 }
@@ -56,6 +61,35 @@ MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const P
 MvPrintPreview::~MvPrintPreview()
 {
     delete m_preview; // before its printer
+}
+
+/// Only where there are any: the pages need the room.
+void MvPrintPreview::addFindings(QVBoxLayout *column)
+{
+    constexpr int lines = 4;
+    auto *summary = new QLabel(this);
+    summary->setObjectName(u"previewSummary"_s);
+    auto *list = new MvPrintFindingList(this);
+    list->setFixedHeight(lines * (fontMetrics().lineSpacing() + 6));
+    summary->setBuddy(list);
+    column->addWidget(summary);
+    column->addWidget(list);
+    const auto look = [this, summary, list] {
+        list->setFindings(m_watch->findings(), m_watch->isComplete());
+        summary->setText(MvPrintFindingList::summary(list->findings().size()));
+        for (QWidget *widget : std::initializer_list<QWidget *>{summary, list})
+            widget->setVisible(!list->findings().isEmpty());
+    };
+    connect(m_watch, &MvPrintWatch::completed, this, look);
+    connect(list, &MvPrintFindingList::currentChanged, this,
+            [this](const MvPrintFinding &finding) { showPage(finding.page + 1); });
+    connect(list, &MvPrintFindingList::placeWanted, this, [this](const MvPrintFinding &finding) {
+        const MvPrintFinding place = finding;
+        reject();
+        Q_EMIT placeWanted(place);
+    });
+    look();
+    m_watch->hurry();
 }
 
 int MvPrintPreview::pageCount() const

@@ -6,11 +6,14 @@
 #include <functional>
 #include <memory>
 
+class MvPrintWatch;
 class QAction;
 class QLabel;
 class QPrinter;
 class QPrintPreviewWidget;
 class QToolBar;
+class QVBoxLayout;
+struct MvPrintFinding;
 
 /// Shows pages as they will be printed, to be leafed through and looked at closely, and asks for the printer and which
 /// pages it is to print. The paper is the calendar's own and not to be chosen here.
@@ -22,7 +25,8 @@ public:
     /// Paints the pages on the printer, for the preview.
     using Paint = std::function<void(QPrinter *)>;
 
-    MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const Paint &paint, QWidget *parent);
+    /// The watch, which is not owned, knows what would not print well: it is listed below the pages.
+    MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const Paint &paint, MvPrintWatch *watch, QWidget *parent);
     ~MvPrintPreview() override;
 
     int pageCount() const;
@@ -33,8 +37,11 @@ Q_SIGNALS:
     void printRequested();
     /// There is no printer: the user wants a file instead. The dialog closes.
     void pdfRequested();
+    /// Somebody would rather see to this before. The dialog closes.
+    void placeWanted(const MvPrintFinding &finding);
 
 private:
+    void addFindings(QVBoxLayout *column);
     QAction *addAction(QToolBar *bar, const QString &name, const QString &text, const QList<QKeySequence> &keys);
     QToolBar *createToolBar();
     void showPage(int page);
@@ -43,6 +50,7 @@ private:
 
     std::shared_ptr<QPrinter> m_printer;
     QPrintPreviewWidget *m_preview;
+    MvPrintWatch *m_watch;
     QLabel *m_page;
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;

@@ -13,7 +13,6 @@
 #include "common/MvCalendarHabits.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
-#include "flows/MvDocumentDialog.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -72,26 +71,6 @@ MvCalendarDocument MvProjectFlow::firstDocument()
 bool MvProjectFlow::isProjectFile(const QString &path)
 {
     return QFileInfo(path).suffix().compare(MvProjectFile::suffix(), Qt::CaseInsensitive) == 0;
-}
-
-void MvProjectFlow::startNew()
-{
-    leave([this] {
-        MvCalendarDocument start = firstDocument();
-        start.setHolidayConfig(m_project->document().holidayConfig());
-        start.setAppearance(m_project->document().appearance());
-        start.setFormat(m_project->document().format());
-        auto *dialog = new MvDocumentDialog(MvDocumentDialog::Layout | MvDocumentDialog::Setup, start, m_window);
-        dialog->setObjectName(u"newProjectDialog"_s);
-        dialog->setWindowTitle(tr("Neuer Kalender"));
-        dialog->setAcceptText(tr("Kalender anlegen"));
-        connect(dialog, &QDialog::accepted, this, [this, dialog] {
-            MvCalendarDocument document = dialog->document();
-            document.setTitle(MvCalendarTitle::ofRange(document.range()));
-            m_project->newProject(document);
-        });
-        dialog->open();
-    });
 }
 
 void MvProjectFlow::askAndOpen()

@@ -12,7 +12,7 @@ class MvProject;
 class QFileInfo;
 class QWidget;
 
-/// New, open, save: the questions and messages around the open project. Nothing here waits for an answer; what comes
+/// Open, save, leave: the questions and messages around the open project. Nothing here waits for an answer; what comes
 /// after one is handed on as a function, which is not called when the user changes his mind or saving fails.
 class MvProjectFlow : public QObject
 {
@@ -31,7 +31,6 @@ public:
     static bool isProjectFile(const QString &path);
 
 public Q_SLOTS:
-    void startNew();
     /// Asks for a file.
     void askAndOpen();
     /// Opens a file, after the question about unsaved changes.

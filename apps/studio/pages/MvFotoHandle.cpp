@@ -3,6 +3,7 @@
 
 #include "common/MvDraggedFotos.h"
 #include "common/MvStudioMerge.h"
+#include "pages/MvFrameEdits.h"
 #include "pages/MvPageItem.h"
 #include "pages/MvPageSelection.h"
 #include "pages/MvScreenFotos.h"
@@ -21,14 +22,16 @@
 #include <QStyleHints>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
 
-constexpr double edgeReach = 24.0;    // tenths of a millimetre on either side of the edge
-constexpr double cornerReach = 9.0;   // pixels
-constexpr int dragSide = 96;          // pixels of a photo that is dragged away
-constexpr double smallestSide = 80.0; // of a frame, tenths of a millimetre
+constexpr double edgeReach = 24.0;  // tenths of a millimetre on either side of the edge
+constexpr double handleReach = 9.0; // pixels
+constexpr double snapReach = 7.0;   // pixels
+constexpr int dragSide = 96;        // pixels of a photo that is dragged away
+const QColor guideColor(0xd6, 0x1f, 0x69);
 
 } // namespace
 
@@ -62,7 +65,7 @@ void MvFotoHandle::adapt()
         QPainterPath outline;
         outline.addPolygon(element.outline());
         outline.closeSubpath();
-        if (element.kind() == MvPageElement::Kind::Calendarium)
+        if (element.kind() == MvPageElement::Kind::Calendarium && !isWhole(element))
             above.addPath(outline);
         else
             m_shape = m_shape.united(outline);
@@ -75,9 +78,17 @@ void MvFotoHandle::adapt()
                          .adjusted(-edgeReach / 2, -edgeReach / 2, edgeReach / 2, edgeReach / 2));
         m_shape = m_shape.united(grip);
     }
+    if (isFree(m_selection->element())) {
+        QPainterPath handles;
+        handles.setFillRule(Qt::WindingFill);
+        for (const QRectF &area :
+             MvFrameGrips::areas(frameRect(m_selection->element()) & m_item->pageRect(), pageUnits(handleReach)))
+            handles.addRect(area);
+        m_shape = m_shape.united(handles);
+    }
     setVisible(!m_shape.isEmpty());
     if (m_hovered >= m_item->elements().size())
-        setHovered(-1, Grip::None);
+        setHovered({});
     update();
 }
 
@@ -107,12 +118,11 @@ QLineF MvFotoHandle::edge() const
     return {foto.bottomLeft(), foto.bottomRight()};
 }
 
-/// Of a corner, in page units.
-double MvFotoHandle::gripReach() const
+double MvFotoHandle::pageUnits(double pixels) const
 {
     const QList<QGraphicsView *> views = scene() ? scene()->views() : QList<QGraphicsView *>();
     const double scale = views.isEmpty() ? 1.0 : views.constFirst()->transform().m11();
-    return cornerReach / std::max(scale, 0.01);
+    return pixels / std::max(scale, 0.01);
 }
 
 int MvFotoHandle::elementAt(const QPointF &point) const
@@ -120,55 +130,57 @@ int MvFotoHandle::elementAt(const QPointF &point) const
     return m_item->shownPage().elementAt(point, m_project->document().format());
 }
 
-/// Counted from the top left one, clockwise; -1 for none.
-int MvFotoHandle::cornerAt(const QPointF &point, int element) const
+bool MvFotoHandle::isFree(int element) const
 {
-    const QRectF rect = frameRect(element) & m_item->pageRect();
-    const QPointF corners[] = {rect.topLeft(), rect.topRight(), rect.bottomRight(), rect.bottomLeft()};
-    const double reach = gripReach();
-    for (int corner = 0; corner < 4; ++corner) {
-        const QPointF away = point - corners[corner];
-        if (std::max(qAbs(away.x()), qAbs(away.y())) <= reach)
-            return corner;
-    }
-    return -1;
+    return !frameRect(element).isEmpty() && MvFrameEdits::isFree(m_item->shownPage(), element);
 }
 
-MvFotoHandle::Grip MvFotoHandle::gripAt(const QPointF &point, int element, Qt::KeyboardModifiers modifiers) const
+/// A calendarium that somebody has put there is a frame like others; the page's own ones are made of days.
+bool MvFotoHandle::isWhole(const MvPageElement &element) const
+{
+    return element.kind() != MvPageElement::Kind::Calendarium || element.slot().isEmpty();
+}
+
+bool MvFotoHandle::isTaking(const QPointF &point) const
+{
+    const Hit hit = hitAt(point, {});
+    return hit.grip == Grip::Frame && hit.element >= 0;
+}
+
+MvFotoHandle::Hit MvFotoHandle::hitAt(const QPointF &point, Qt::KeyboardModifiers modifiers) const
 {
     if (hasEdge()) {
         const QLineF line = edge();
         const double distance = line.dx() == 0.0 ? point.x() - line.x1() : point.y() - line.y1();
         if (qAbs(distance) <= edgeReach)
-            return Grip::Edge;
+            return {Grip::Edge, elementAt(point)};
     }
-    const bool isOwnPlace = m_item->shownPage().isSimple() && element == 0;
-    if (!isOwnPlace && m_selection->element() == element && cornerAt(point, element) >= 0)
-        return Grip::Corner;
-    if (!isOwnPlace && element >= 0 && modifiers.testFlag(Qt::AltModifier))
-        return Grip::Whole;
-    return element >= 0 ? Grip::Foto : Grip::None;
+    if (const int chosen = m_selection->element(); isFree(chosen)) {
+        const QRectF seen = frameRect(chosen) & m_item->pageRect();
+        const MvFrameGrips::Grip handle = MvFrameGrips::at(seen, point, pageUnits(handleReach));
+        if (handle != MvFrameGrips::Grip::None)
+            return {Grip::Frame, chosen, handle};
+    }
+    const int element = elementAt(point);
+    if (element < 0 || !isWhole(m_item->elements().at(element)))
+        return {};
+    const bool hasFoto = m_item->foto(element) && !m_item->foto(element)->isEmpty();
+    if (isFree(element) && (!hasFoto || modifiers.testFlag(Qt::AltModifier)))
+        return {Grip::Frame, element, MvFrameGrips::Grip::Move};
+    return {Grip::Foto, element};
 }
 
 // -------------------------------------------------------------------------------------------------------------- mouse
 
-void MvFotoHandle::showCursor(Grip grip)
+void MvFotoHandle::showCursor(const Hit &hit)
 {
-    switch (grip) {
-    case Grip::Edge:
+    const MvFotoElement *foto = m_item->foto(hit.element);
+    const bool isInvitation = foto && foto->isEmpty() && m_grip == Grip::None;
+    if (hit.grip == Grip::Edge)
         setCursor(edge().dx() == 0.0 ? Qt::SplitHCursor : Qt::SplitVCursor);
-        return;
-    case Grip::Corner:
-        setCursor(m_corner % 2 == 0 ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor);
-        return;
-    case Grip::Whole:
-        setCursor(Qt::SizeAllCursor);
-        return;
-    default:
-        break;
-    }
-    const MvFotoElement *foto = m_item->foto(m_hovered);
-    if (m_swapWith >= 0)
+    else if (hit.grip == Grip::Frame && !(hit.handle == MvFrameGrips::Grip::Move && isInvitation))
+        setCursor(MvFrameGrips::cursor(hit.handle));
+    else if (m_swapWith >= 0)
         setCursor(Qt::DragMoveCursor);
     else if (!foto || foto->isEmpty())
         setCursor(Qt::PointingHandCursor);
@@ -176,13 +188,13 @@ void MvFotoHandle::showCursor(Grip grip)
         setCursor(m_grip == Grip::Foto ? Qt::ClosedHandCursor : Qt::OpenHandCursor);
 }
 
-void MvFotoHandle::setHovered(int element, Grip grip)
+void MvFotoHandle::setHovered(const Hit &hit)
 {
-    if (m_hovered == element && m_hoveredGrip == grip)
+    if (m_hovered == hit.element && m_hoveredGrip == hit.grip)
         return;
     const int before = activeFrame();
-    m_hovered = element;
-    m_hoveredGrip = grip;
+    m_hovered = hit.element;
+    m_hoveredGrip = hit.grip;
     update();
     if (activeFrame() != before)
         Q_EMIT activeFrameChanged();
@@ -198,30 +210,32 @@ int MvFotoHandle::activeFrame() const
 
 void MvFotoHandle::hoverMoveEvent(QGraphicsSceneHoverEvent *event)
 {
-    const int element = elementAt(event->pos());
-    const Grip grip = gripAt(event->pos(), element, event->modifiers());
-    m_corner = std::max(0, cornerAt(event->pos(), element));
-    setHovered(element, grip);
-    showCursor(grip);
+    const Hit hit = hitAt(event->pos(), event->modifiers());
+    setHovered(hit);
+    showCursor(hit);
 }
 
 void MvFotoHandle::hoverLeaveEvent(QGraphicsSceneHoverEvent * /*event*/)
 {
-    setHovered(-1, Grip::None);
+    setHovered({});
 }
 
 void MvFotoHandle::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    m_element = elementAt(event->pos());
-    m_grip = gripAt(event->pos(), m_element, event->modifiers());
-    m_corner = std::max(0, cornerAt(event->pos(), m_element));
+    const Hit hit = hitAt(event->pos(), event->modifiers());
+    m_element = hit.element;
+    m_grip = hit.grip;
+    m_handle = hit.handle;
     m_pressedAt = event->pos();
     m_before = m_item->shownPage();
     m_hasMoved = false;
-    if (m_grip == Grip::None)
+    if (m_grip == Grip::None) {
         event->ignore();
-    else
-        showCursor(m_grip);
+        return;
+    }
+    if (m_grip == Grip::Frame)
+        beginSnapping();
+    showCursor(hit);
 }
 
 void MvFotoHandle::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
@@ -240,8 +254,8 @@ void MvFotoHandle::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
         return;
     }
     m_swapWith = swapTargetAt(event->pos());
-    showCursor(m_grip);
-    m_item->setTrial(m_swapWith >= 0 ? m_before : dragged(event->pos()));
+    showCursor({m_grip, m_element, m_handle});
+    m_item->setTrial(m_swapWith >= 0 ? m_before : dragged(event->pos(), event->modifiers()));
     update();
 }
 
@@ -269,13 +283,14 @@ void MvFotoHandle::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         const bool isEdge = m_grip == Grip::Edge;
         cancelDrag();
         if (!isEdge)
-            choose(element);
+            choose(element, event->modifiers());
         return;
     }
     const int page = m_item->page();
     const int first = m_element;
     const int second = m_swapWith;
-    const MvCalendarPage changed = dragged(event->pos());
+    const bool isFrame = m_grip == Grip::Frame;
+    const MvCalendarPage changed = dragged(event->pos(), event->modifiers());
     const QString text = stepText();
     cancelDrag();
     if (second >= 0) {
@@ -286,10 +301,16 @@ void MvFotoHandle::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
         return;
     }
     m_project->changePage(page, changed, text);
+    if (isFrame && !m_selection->elements().contains(first))
+        m_selection->selectElement(first);
 }
 
-void MvFotoHandle::choose(int element)
+void MvFotoHandle::choose(int element, Qt::KeyboardModifiers modifiers)
 {
+    if (modifiers & (Qt::ShiftModifier | Qt::ControlModifier)) {
+        m_selection->toggleElement(element);
+        return;
+    }
     m_selection->selectElement(element);
     if (const MvFotoElement *foto = m_item->foto(element); foto && foto->isEmpty())
         Q_EMIT emptyFrameClicked(element);
@@ -300,8 +321,10 @@ void MvFotoHandle::cancelDrag()
     m_grip = Grip::None;
     m_element = -1;
     m_swapWith = -1;
+    m_handle = MvFrameGrips::Grip::None;
+    m_guides.clear();
     m_item->setTrial({});
-    showCursor(Grip::Foto);
+    showCursor({});
     update();
 }
 
@@ -319,10 +342,8 @@ QString MvFotoHandle::stepText() const
     switch (m_grip) {
     case Grip::Edge:
         return tr("Größe des Fotos ändern");
-    case Grip::Corner:
-        return tr("Größe des Rahmens ändern");
-    case Grip::Whole:
-        return tr("Rahmen verschieben");
+    case Grip::Frame:
+        return m_handle == MvFrameGrips::Grip::Move ? tr("Rahmen verschieben") : tr("Größe des Rahmens ändern");
     default:
         return tr("Ausschnitt des Fotos verschieben");
     }
@@ -330,41 +351,62 @@ QString MvFotoHandle::stepText() const
 
 // ------------------------------------------------------------------------------------------------------------ changes
 
-MvCalendarPage MvFotoHandle::dragged(const QPointF &point) const
+MvCalendarPage MvFotoHandle::dragged(const QPointF &point, Qt::KeyboardModifiers modifiers)
 {
     MvCalendarPage page = m_before;
     const QPointF distance = point - m_pressedAt;
-    const QList<MvPageElement> elements = page.elementsOn(m_project->document().format());
+    m_guides.clear();
     if (m_grip == Grip::Edge) {
         pullEdge(page, distance);
-        return page;
-    }
-    if (m_element < 0 || m_element >= elements.size())
-        return page;
-    MvPageElement element = elements.at(m_element);
-    if (m_grip == Grip::Foto) {
-        if (element.foto() && !element.foto()->isEmpty())
-            page.setFoto(m_element, movedFoto(m_element, *element.foto(), distance));
-        return page;
-    }
-    QRectF rect = element.rect();
-    if (m_grip == Grip::Whole) {
-        rect.translate(distance);
+    } else if (m_grip == Grip::Frame) {
+        dragFrames(page, distance, !modifiers.testFlag(Qt::ControlModifier));
     } else {
-        const bool isLeft = m_corner == 0 || m_corner == 3;
-        const bool isTop = m_corner < 2;
-        if (isLeft)
-            rect.setLeft(std::min(rect.left() + distance.x(), rect.right() - smallestSide));
-        else
-            rect.setRight(std::max(rect.right() + distance.x(), rect.left() + smallestSide));
-        if (isTop)
-            rect.setTop(std::min(rect.top() + distance.y(), rect.bottom() - smallestSide));
-        else
-            rect.setBottom(std::max(rect.bottom() + distance.y(), rect.top() + smallestSide));
+        const QList<MvPageElement> elements = page.elementsOn(m_project->document().format());
+        const MvPageElement element = elements.value(m_element);
+        if (m_element >= 0 && element.foto() && !element.foto()->isEmpty())
+            page.setFoto(m_element, movedFoto(m_element, *element.foto(), distance));
     }
-    element.setRect(rect);
-    page.setElement(m_element, element);
     return page;
+}
+
+/// All that are chosen are moved with the one under the mouse.
+QList<int> MvFotoHandle::draggedElements() const
+{
+    QList<int> elements = m_selection->elements();
+    if (m_handle != MvFrameGrips::Grip::Move || !elements.contains(m_element))
+        return {m_element};
+    elements.removeIf([this](int element) { return !isFree(element); });
+    return elements;
+}
+
+void MvFotoHandle::beginSnapping()
+{
+    const QList<int> moving = draggedElements();
+    QList<QRectF> others;
+    for (int element = 0; element < m_item->elements().size(); ++element)
+        if (const QRectF rect = frameRect(element); !moving.contains(element) && !rect.isEmpty())
+            others.append(rect);
+    m_snapping = MvFrameSnapping(m_project->document().format(), others);
+}
+
+/// By whole tenths of a millimetre where nothing catches.
+void MvFotoHandle::dragFrames(MvCalendarPage &page, const QPointF &distance, bool isSnapping)
+{
+    const QList<MvPageElement> elements = page.elementsOn(m_project->document().format());
+    const QRectF before = elements.value(m_element).rect();
+    const QPointF by(std::round(distance.x()), std::round(distance.y()));
+    const double reach = isSnapping ? pageUnits(snapReach) : -1.0;
+    const Qt::Edges edges = MvFrameGrips::edges(m_handle);
+    const MvFrameSnapping::Result caught =
+        edges ? m_snapping.resized(MvFrameGrips::pulled(before, edges, by), edges, reach)
+              : m_snapping.moved(before.translated(by), reach);
+    m_guides = caught.guides;
+    for (const int number : draggedElements()) {
+        MvPageElement element = elements.value(number);
+        element.setRect(number == m_element ? caught.rect
+                                            : element.rect().translated(caught.rect.topLeft() - before.topLeft()));
+        page.setElement(number, element);
+    }
 }
 
 void MvFotoHandle::pullEdge(MvCalendarPage &page, const QPointF &distance) const
@@ -431,7 +473,7 @@ bool MvFotoHandle::zoomAt(const QPointF &point, double factor)
 
 // ----------------------------------------------------------------------------------------------------------- painting
 
-/// The frame under the mouse and the chosen one have an outline, the chosen one corners to pull.
+/// The frame under the mouse and the chosen ones have an outline, the chosen one handles to pull.
 void MvFotoHandle::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*option*/, QWidget * /*widget*/)
 {
     const QColor color = QGuiApplication::palette().color(QPalette::Highlight);
@@ -442,7 +484,7 @@ void MvFotoHandle::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*o
         if (element < 0 || element >= m_item->elements().size())
             return;
         const MvPageElement &shown = m_item->elements().at(element);
-        if (shown.kind() == MvPageElement::Kind::Calendarium || shown.rect().isEmpty())
+        if (shown.rect().isEmpty())
             return;
         if (shown.rotation() == 0.0)
             painter->drawRect(shown.rect() & m_item->pageRect());
@@ -451,7 +493,8 @@ void MvFotoHandle::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*o
     };
     painter->setBrush(Qt::NoBrush);
     outline(m_hovered);
-    outline(m_selection->element());
+    for (const int element : m_selection->elements())
+        outline(element);
     if (m_swapWith >= 0) {
         QColor tint = color;
         tint.setAlpha(70);
@@ -463,12 +506,11 @@ void MvFotoHandle::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*o
         painter->setPen(pen);
         painter->drawLine(edge());
     }
-    const int chosen = m_selection->element();
-    if (chosen < 0 || (m_item->shownPage().isSimple() && chosen == 0))
-        return;
-    const QRectF rect = frameRect(chosen) & m_item->pageRect();
-    const double half = gripReach() / 2.0;
-    painter->setBrush(Qt::white);
-    for (const QPointF &corner : {rect.topLeft(), rect.topRight(), rect.bottomRight(), rect.bottomLeft()})
-        painter->drawRect(QRectF(corner - QPointF(half, half), corner + QPointF(half, half)));
+    if (const int chosen = m_selection->element(); isFree(chosen))
+        MvFrameGrips::paint(*painter, frameRect(chosen) & m_item->pageRect(), pageUnits(handleReach), color);
+    QPen guide(guideColor, 1.0);
+    guide.setCosmetic(true);
+    painter->setPen(guide);
+    for (const QLineF &line : std::as_const(m_guides))
+        painter->drawLine(line);
 }

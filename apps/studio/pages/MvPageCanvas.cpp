@@ -5,6 +5,7 @@
 #include "pages/MvFotoBar.h"
 #include "pages/MvFotoHandle.h"
 #include "pages/MvFotoInvitation.h"
+#include "pages/MvFrameEdits.h"
 #include "pages/MvPageDrop.h"
 #include "pages/MvPageFoto.h"
 #include "pages/MvPageItem.h"
@@ -37,6 +38,16 @@ constexpr double unitsPerInch = 254.0; // tenths of a millimetre
 constexpr int fittingMargin = 8;       // pixels
 constexpr double fotoStep = 0.05;      // of the frame, per key
 
+QPointF wayOf(int key)
+{
+    return {key == Qt::Key_Right  ? 1.0
+            : key == Qt::Key_Left ? -1.0
+                                  : 0.0,
+            key == Qt::Key_Down ? 1.0
+            : key == Qt::Key_Up ? -1.0
+                                : 0.0};
+}
+
 } // namespace
 
 MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
@@ -46,6 +57,7 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     , m_item(new MvPageItem(project))
     , m_selection(new MvPageSelection(project, this))
     , m_foto(new MvPageFoto(project, m_item, m_selection, this))
+    , m_frames(new MvFrameEdits(project, m_selection, this))
     , m_fotoHandle(new MvFotoHandle(project, m_item, m_selection))
     , m_fotoBar(new MvFotoBar(project, m_item, m_fotoHandle, this))
     , m_invitation(new MvFotoInvitation(m_item, this))
@@ -74,6 +86,7 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     });
     connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
     connect(m_foto, &MvPageFoto::message, this, &MvPageCanvas::message);
+    connect(m_frames, &MvFrameEdits::message, this, &MvPageCanvas::message);
     connect(m_invitation, &QPushButton::clicked, m_foto, &MvPageFoto::choose);
     connect(m_fotoHandle, &MvFotoHandle::emptyFrameClicked, m_foto, &MvPageFoto::chooseFor);
     connect(m_selection, &MvPageSelection::changed, this, &MvPageCanvas::onSelectionChanged);
@@ -188,6 +201,7 @@ void MvPageCanvas::applyZoom(double zoom, const QPointF &fixedPoint)
     const QPointF moved = viewportTransform().map(onPage) - fixedPoint;
     horizontalScrollBar()->setValue(horizontalScrollBar()->value() + qRound(moved.x()));
     verticalScrollBar()->setValue(verticalScrollBar()->value() + qRound(moved.y()));
+    m_fotoHandle->adapt();
     m_fotoBar->follow();
     m_invitation->follow();
     Q_EMIT zoomChanged(this->zoom());
@@ -253,8 +267,11 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
     const bool isHand = event->button() == Qt::LeftButton && m_isSpaceDown;
     if (event->button() != Qt::MiddleButton && !isHand) {
         setFocusDate({});
-        const int element = m_item->shownPage().elementAt(onPage(event->position()), m_project->document().format());
-        if (const QDate date = dateAt(event->pos()); date.isValid())
+        const QPointF point = onPage(event->position());
+        const int element = m_item->shownPage().elementAt(point, m_project->document().format());
+        if (m_fotoHandle->isTaking(point))
+            ; // chosen when the button is let go
+        else if (const QDate date = dateAt(event->pos()); date.isValid())
             m_selection->selectDay(date);
         else if (element < 0 || m_item->elements().at(element).kind() == MvPageElement::Kind::Calendarium)
             m_selection->selectNothing();
@@ -315,7 +332,10 @@ QMenu *MvPageCanvas::createContextMenu(const QPoint &position)
     menu->setObjectName(u"pageMenu"_s);
     if (!menu->isEmpty())
         menu->addSeparator();
-    m_foto->addActions(menu, m_item->shownPage().elementAt(onPage(position), m_project->document().format()));
+    const int element = m_item->shownPage().elementAt(onPage(position), m_project->document().format());
+    m_foto->addActions(menu, element);
+    menu->addSeparator();
+    m_frames->addActions(menu, element);
     return menu;
 }
 
@@ -451,7 +471,7 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Down:
         if (event->modifiers() & Qt::AltModifier)
             moveFoto(event->key());
-        else if (!beginAtFirstDate() && !turnPageByArrow(event->key()))
+        else if (!moveFrames(event) && !beginAtFirstDate() && !turnPageByArrow(event->key()))
             MvCalendariumView::keyPressEvent(event); // the day's cell goes on
         return;
     case Qt::Key_Escape:
@@ -463,8 +483,7 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
             setFocusDate({});
         return;
     case Qt::Key_Delete:
-        if (m_selection->kind() == MvPageSelection::Kind::Foto)
-            m_foto->remove();
+        deleteChosen();
         return;
     case Qt::Key_Space:
         if (focusDate().isValid()) {
@@ -556,9 +575,28 @@ bool MvPageCanvas::turnPageByArrow(int key)
 
 void MvPageCanvas::moveFoto(int key)
 {
-    const double x = key == Qt::Key_Right ? fotoStep : key == Qt::Key_Left ? -fotoStep : 0.0;
-    const double y = key == Qt::Key_Down ? fotoStep : key == Qt::Key_Up ? -fotoStep : 0.0;
-    m_fotoHandle->moveFocus({x, y});
+    m_fotoHandle->moveFocus(wayOf(key) * fotoStep);
+}
+
+/// Chosen frames go a millimetre with each key, a tenth with Shift; with Ctrl they grow or shrink by that.
+bool MvPageCanvas::moveFrames(const QKeyEvent *event)
+{
+    if (m_selection->element() < 0 || m_fotoHandle->isDragging())
+        return false;
+    const double step =
+        event->modifiers() & Qt::ShiftModifier ? MvFrameEdits::millimetre / 10.0 : MvFrameEdits::millimetre;
+    const QPointF way = wayOf(event->key()) * step;
+    return event->modifiers() & Qt::ControlModifier ? m_frames->growBy(way) : m_frames->moveBy(way);
+}
+
+/// A photo goes first, its frame with the next key.
+void MvPageCanvas::deleteChosen()
+{
+    const bool isOneFoto = m_selection->kind() == MvPageSelection::Kind::Foto && m_selection->elements().size() == 1;
+    if (isOneFoto && m_foto->hasFoto())
+        m_foto->remove();
+    else
+        m_frames->remove();
 }
 
 /// What a screen reader says of the page; its days tell for themselves.

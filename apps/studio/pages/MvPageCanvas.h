@@ -8,6 +8,7 @@
 class MvFotoBar;
 class MvFotoHandle;
 class MvFotoInvitation;
+class MvFrameEdits;
 class MvPageDrop;
 class MvPageFoto;
 class MvPageItem;
@@ -34,6 +35,7 @@ public:
     int currentPage() const;
     MvPageItem *pageItem() const { return m_item; }
     MvPageSelection *selection() const { return m_selection; }
+    MvFrameEdits *frames() const { return m_frames; }
     /// Whether there is a photo that removePhoto() would take away.
     bool hasFoto() const;
     double zoom() const;
@@ -107,6 +109,8 @@ private:
     bool beginAtFirstDate();
     bool turnPageByArrow(int key);
     void moveFoto(int key);
+    bool moveFrames(const QKeyEvent *event);
+    void deleteChosen();
     void updateDescription();
 
     MvProject *m_project;
@@ -114,6 +118,7 @@ private:
     MvPageItem *m_item;
     MvPageSelection *m_selection;
     MvPageFoto *m_foto;
+    MvFrameEdits *m_frames;
     MvFotoHandle *m_fotoHandle;
     MvFotoBar *m_fotoBar;
     MvFotoInvitation *m_invitation;

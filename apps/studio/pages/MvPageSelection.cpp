@@ -3,6 +3,8 @@
 
 #include "MvProject/MvProject.h"
 
+#include <algorithm>
+
 MvPageSelection::MvPageSelection(MvProject *project, QObject *parent)
     : QObject(parent)
     , m_project(project)
@@ -23,10 +25,41 @@ void MvPageSelection::selectNothing()
     set(Kind::Calendar, -1, {});
 }
 
+QList<int> MvPageSelection::elements() const
+{
+    QList<int> all = m_others;
+    if (m_element >= 0)
+        all.append(m_element);
+    std::sort(all.begin(), all.end());
+    return all;
+}
+
 void MvPageSelection::selectElement(int element)
 {
     const Kind kind = kindOf(element);
     set(kind, kind == Kind::Calendar ? -1 : element, {});
+}
+
+void MvPageSelection::toggleElement(int element)
+{
+    QList<int> all = m_others;
+    if (m_element >= 0)
+        all.append(m_element);
+    if (!all.removeOne(element))
+        all.append(element);
+    selectElements(all);
+}
+
+void MvPageSelection::selectElements(const QList<int> &elements)
+{
+    QList<int> all = elements;
+    all.removeIf([this](int element) { return kindOf(element) == Kind::Calendar; });
+    if (all.isEmpty()) {
+        selectNothing();
+        return;
+    }
+    const int main = all.takeLast();
+    set(kindOf(main), main, {}, all);
 }
 
 void MvPageSelection::selectDay(const QDate &date)
@@ -46,12 +79,13 @@ void MvPageSelection::selectNext(bool isForward)
     selectElement(element);
 }
 
-void MvPageSelection::set(Kind kind, int element, const QDate &date)
+void MvPageSelection::set(Kind kind, int element, const QDate &date, const QList<int> &others)
 {
-    if (m_kind == kind && m_element == element && m_date == date)
+    if (m_kind == kind && m_element == element && m_date == date && m_others == others)
         return;
     m_kind = kind;
     m_element = element;
+    m_others = others;
     m_date = date;
     Q_EMIT changed();
 }
@@ -70,14 +104,17 @@ MvPageSelection::Kind MvPageSelection::kindOf(int element) const
     case MvPageElement::Kind::Text:
         return Kind::Text;
     case MvPageElement::Kind::Calendarium:
-        break;
+        return Kind::Calendarium;
     }
     return Kind::Calendar;
 }
 
-/// The page may have lost the element.
+/// The page may have lost elements.
 void MvPageSelection::check()
 {
     if (m_element >= 0 && kindOf(m_element) != m_kind)
         selectNothing();
+    QList<int> others = m_others;
+    others.removeIf([this](int element) { return kindOf(element) == Kind::Calendar; });
+    set(m_kind, m_element, m_date, others);
 }

@@ -3,6 +3,7 @@
 
 #include "common/MvIdleImages.h"
 #include "pages/MvFrameNotices.h"
+#include "pages/MvPageDeviation.h"
 
 #include "MvProject/MvPrintCheck.h"
 #include "MvProject/MvProject.h"
@@ -10,8 +11,15 @@
 #include <QMimeData>
 
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int deviationDelay = 150; // milliseconds without changes
+
+} // namespace
 
 const QString MvPageStripModel::pageFormat = u"application/x-mvcalendar-page"_s;
 
@@ -19,7 +27,12 @@ MvPageStripModel::MvPageStripModel(const MvProject *project, const MvIdleImages 
     : QAbstractListModel(parent)
     , m_project(project)
     , m_images(images)
-{}
+{
+    m_later.setSingleShot(true);
+    m_later.setInterval(deviationDelay);
+    connect(project, &MvProject::documentChanged, &m_later, qOverload<>(&QTimer::start));
+    connect(&m_later, &QTimer::timeout, this, &MvPageStripModel::compareAgain);
+}
 
 int MvPageStripModel::rowCount(const QModelIndex &parent) const
 {
@@ -64,32 +77,20 @@ double MvPageStripModel::resolution(int page) const
     return m_fotos ? MvFrameNotices::coarsest(document.pages().at(page).elementsOn(document.format()), m_fotos) : 0.0;
 }
 
-/// Themes change colours by the month and templates by turns: what counts is the layout, and where a theme leaves them
-/// alone, the photo's place.
 bool MvPageStripModel::deviates(int page) const
 {
-    const MvCalendarDocument &document = m_project->document();
-    const MvCalendarPage &own = document.pages().at(page);
-    if (own.kind() != MvPageKind::Month)
-        return false;
-    const auto isAlike = [&own](const MvCalendarPage &other) {
-        const bool isSamePlace = !own.isSimple() || !other.isSimple() || !own.fotoFrame().isValid() ||
-                                 !other.fotoFrame().isValid() ||
-                                 (own.fotoFrame().placement() == other.fotoFrame().placement() &&
-                                  own.fotoFrame().share() == other.fotoFrame().share());
-        return isSamePlace && own.isSimple() == other.isSimple() &&
-               own.appearance().layoutSchema().ID() == other.appearance().layoutSchema().ID() &&
-               own.appearance().fontSettings() == other.appearance().fontSettings();
-    };
-    int months = 0;
-    int alike = 0;
-    for (const MvCalendarPage &other : document.pages()) {
-        if (other.kind() != MvPageKind::Month)
-            continue;
-        ++months;
-        alike += isAlike(other) ? 1 : 0;
-    }
-    return 2 * alike < months;
+    if (m_deviating.size() != m_project->document().pages().size())
+        m_deviating = MvPageDeviation::of(m_project->document());
+    return m_deviating.value(page);
+}
+
+/// One page decides what the others are like.
+void MvPageStripModel::compareAgain()
+{
+    const QList<bool> before = std::exchange(m_deviating, {});
+    for (int page = 0; page < rowCount(); ++page)
+        if (page < before.size() && deviates(page) != before.at(page))
+            updateRow(page);
 }
 
 /// Months stay where they are.
@@ -115,6 +116,7 @@ QMimeData *MvPageStripModel::mimeData(const QModelIndexList &indexes) const
 
 void MvPageStripModel::reset()
 {
+    m_deviating.clear();
     beginResetModel();
     endResetModel();
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QTimer>
 
 class MvIdleImages;
 class MvProject;
@@ -40,9 +41,12 @@ public:
 private:
     QString describe(int page) const;
     bool deviates(int page) const;
+    void compareAgain();
     double resolution(int page) const;
 
     const MvProject *m_project;
     const MvIdleImages *m_images;
     MvScreenFotos *m_fotos = nullptr;
+    mutable QList<bool> m_deviating; // empty: to be looked at
+    QTimer m_later;
 };

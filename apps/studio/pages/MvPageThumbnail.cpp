@@ -46,19 +46,21 @@ void paintEmptyFrames(QPainter &painter, const MvCalendarPage &page, const MvPag
 
 QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &format, const MvPageContext &context,
                              const QSize &size, double ratio, MvScreenFotos *fotos, const MvRenderingSources &sources,
-                             Empty empty)
+                             Empty empty, Edge edge)
 {
     if (!format.isValid() || size.isEmpty())
         return {};
     QImage image(size * ratio, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
-    const double scaleX = image.width() / format.trimSize().width();
-    const double scaleY = image.height() / format.trimSize().height();
+    const QRectF sheet = edge == Edge::Bleed ? format.mediaRect() : format.trimRect();
+    const double scaleX = image.width() / sheet.width();
+    const double scaleY = image.height() / sheet.height();
     const MvRenderingRule rule(MvRenderingRule::Thumbnail);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     rule.encodeInto(painter);
     painter.scale(scaleX, scaleY);
+    painter.translate(-sheet.topLeft());
     page.paintGround(painter, format);
     paintEmptyFrames(painter, page, format, fotos, empty);
     if (fotos) {

@@ -57,12 +57,20 @@ MvFotoPanel::MvFotoPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     addFile(m_form);
     addCrop(m_form);
+    addTone(m_form);
     addPlace(m_form);
     addBorder(m_form);
     column->addLayout(m_form);
     column->addStretch(1);
+    QWidget *before = m_turnRight; // as they stand, not as they were made
+    for (QWidget *next : std::initializer_list<QWidget *>{m_brightness, m_contrast, m_untouched, m_place, m_share,
+                                                          m_border, m_borderColor}) {
+        setTabOrder(before, next);
+        before = next;
+    }
     auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
-    for (QWidget *box : std::initializer_list<QWidget *>{m_fit, m_zoom, m_straighten, m_place, m_share, m_border})
+    for (QWidget *box : std::initializer_list<QWidget *>{m_fit, m_zoom, m_straighten, m_brightness, m_contrast, m_place,
+                                                         m_share, m_border})
         box->installEventFilter(keepsWheelOut);
     connect(selection, &MvPageSelection::changed, this, &MvPagePanel::renew);
 }
@@ -137,6 +145,43 @@ void MvFotoPanel::addCrop(QFormLayout *form)
     form->addRow(tr("Drehen:"), turns);
     m_straighten->setAccessibleName(tr("Ausrichten um Grad"));
     m_zoom->setAccessibleName(tr("Zoom des Fotos"));
+}
+
+QSlider *MvFotoPanel::createCorrection(const char *objectName, const QString &name, const QString &step, int mergeId,
+                                       void (MvFotoElement::*set)(int))
+{
+    auto *slider = new QSlider(Qt::Horizontal, this);
+    slider->setObjectName(QLatin1StringView(objectName));
+    slider->setAccessibleName(name);
+    slider->setRange(-MvFotoElement::strongestCorrection, MvFotoElement::strongestCorrection);
+    slider->setPageStep(MvFotoElement::strongestCorrection / 5);
+    connect(slider, &QSlider::valueChanged, this, [this, slider, step, mergeId, set](int value) {
+        slider->setToolTip(QString::number(value));
+        editFoto([value, set](MvFotoElement &foto) { (foto.*set)(value); }, step, mergeId);
+    });
+    return slider;
+}
+
+void MvFotoPanel::addTone(QFormLayout *form)
+{
+    m_brightness = createCorrection("photoBrightness", tr("Helligkeit des Fotos"), tr("Helligkeit des Fotos ändern"),
+                                    MvStudioMerge::FotoBrightness, &MvFotoElement::setBrightness);
+    m_contrast = createCorrection("photoContrast", tr("Kontrast des Fotos"), tr("Kontrast des Fotos ändern"),
+                                  MvStudioMerge::FotoContrast, &MvFotoElement::setContrast);
+    m_untouched = new QPushButton(tr("Wie aufgenommen"), this);
+    m_untouched->setObjectName(u"photoUntouched"_s);
+    m_untouched->setToolTip(tr("Helligkeit und Kontrast wieder so, wie das Foto sie hat"));
+    connect(m_untouched, &QPushButton::clicked, this, [this] {
+        editFoto(
+            [](MvFotoElement &foto) {
+                foto.setBrightness(0);
+                foto.setContrast(0);
+            },
+            tr("Helligkeit des Fotos ändern"));
+    });
+    form->addRow(tr("Helligkeit:"), m_brightness);
+    form->addRow(tr("Kontrast:"), m_contrast);
+    form->addRow(QString(), m_untouched);
 }
 
 /// On a page without a template.
@@ -221,10 +266,15 @@ void MvFotoPanel::showFoto(const MvFotoElement &foto)
     if (!m_zoom->isSliderDown())
         m_zoom->setValue(int(std::lround(std::log2(foto.zoom()) * zoomSteps / std::log2(MvFotoElement::largestZoom))));
     m_straighten->setValue(foto.straightening());
+    if (!m_brightness->isSliderDown())
+        m_brightness->setValue(foto.brightness());
+    if (!m_contrast->isSliderDown())
+        m_contrast->setValue(foto.contrast());
+    m_untouched->setEnabled(isThere && (foto.brightness() != 0 || foto.contrast() != 0));
     m_border->setValue(foto.border().width / tenths);
     m_borderColor->setColor(foto.border().color);
-    for (QWidget *control :
-         std::initializer_list<QWidget *>{m_remove, m_caption, m_zoom, m_straighten, m_turnLeft, m_turnRight})
+    for (QWidget *control : std::initializer_list<QWidget *>{m_remove, m_caption, m_zoom, m_straighten, m_turnLeft,
+                                                             m_turnRight, m_brightness, m_contrast})
         control->setEnabled(isThere);
 }
 

@@ -41,6 +41,9 @@ private:
 
     void addFile(QFormLayout *form);
     void addCrop(QFormLayout *form);
+    void addTone(QFormLayout *form);
+    QSlider *createCorrection(const char *objectName, const QString &name, const QString &step, int mergeId,
+                              void (MvFotoElement::*set)(int));
     void addPlace(QFormLayout *form);
     void addBorder(QFormLayout *form);
     MvPageElement element() const;
@@ -60,6 +63,9 @@ private:
     QDoubleSpinBox *m_straighten;
     QPushButton *m_turnLeft;
     QPushButton *m_turnRight;
+    QSlider *m_brightness = nullptr;
+    QSlider *m_contrast = nullptr;
+    QPushButton *m_untouched = nullptr;
     QComboBox *m_place;
     QSpinBox *m_share;
     QDoubleSpinBox *m_border;

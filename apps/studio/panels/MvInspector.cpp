@@ -67,7 +67,7 @@ MvInspector::MvInspector(MvStudioPanels *panels, MvPageSelection *selection, QWi
         connect(section, &MvInspectorSection::pressed, this, [this, name = panel.objectName] { show(name); });
     }
     for (const auto kind : {MvPageSelection::Kind::Calendar, MvPageSelection::Kind::Foto, MvPageSelection::Kind::Text,
-                            MvPageSelection::Kind::Day}) {
+                            MvPageSelection::Kind::Day, MvPageSelection::Kind::Calendarium}) {
         const auto first =
             std::find_if(m_rows.begin(), m_rows.end(), [kind](const Row &row) { return row.about.contains(kind); });
         if (first != m_rows.end())
@@ -142,6 +142,8 @@ void MvInspector::followSelection()
 
 QString MvInspector::title() const
 {
+    if (const qsizetype count = m_selection->elements().size(); count > 1)
+        return tr("%n Rahmen", nullptr, int(count));
     switch (m_selection->kind()) {
     case MvPageSelection::Kind::Foto:
         return tr("Foto");
@@ -149,6 +151,8 @@ QString MvInspector::title() const
         return tr("Text");
     case MvPageSelection::Kind::Day:
         return MvApplicationLocale::instance().locale().toString(m_selection->date(), u"d. MMMM yyyy"_s);
+    case MvPageSelection::Kind::Calendarium:
+        return tr("Kalender als Rahmen");
     case MvPageSelection::Kind::Calendar:
         break;
     }

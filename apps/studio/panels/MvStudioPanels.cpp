@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "panels/MvStudioPanels.h"
 
+#include "panels/MvCalendariumPanel.h"
 #include "panels/MvColorPanel.h"
 #include "panels/MvColumnHeadersPanel.h"
 #include "panels/MvContentPanel.h"
 #include "panels/MvDayPanel.h"
 #include "panels/MvFontPanel.h"
 #include "panels/MvFotoPanel.h"
+#include "panels/MvFramePanel.h"
 #include "panels/MvLayoutPanel.h"
 #include "panels/MvOwnEntriesSwitch.h"
 #include "panels/MvPageEdits.h"
@@ -65,7 +67,7 @@ QWidget *createEntriesPanel(MvStudioPanels *panels, MvProject *project, QWidget 
 
 } // namespace
 
-MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelection *selection)
+MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelection *selection, MvFrameEdits *frames)
     : QObject(parent)
     , m_edits(new MvPageEdits(project, this))
 {
@@ -78,7 +80,8 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelect
         {u"templatePanel"_s,
          tr("Vorlage der Seite"),
          new MvTemplatePanel(m_edits, parent),
-         {MvPageSelection::Kind::Calendar, MvPageSelection::Kind::Foto, MvPageSelection::Kind::Text}},
+         {MvPageSelection::Kind::Calendar, MvPageSelection::Kind::Foto, MvPageSelection::Kind::Text,
+          MvPageSelection::Kind::Calendarium}},
         {u"contentPanel"_s, tr("Inhalt"), new MvContentPanel(m_edits, parent)},
         {u"layoutPanel"_s, tr("Layout"), new MvLayoutPanel(m_edits, parent)},
         {u"colorPanel"_s, tr("Farben"), new MvColorPanel(m_edits, parent)},
@@ -90,13 +93,23 @@ MvStudioPanels::MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelect
          {MvPageSelection::Kind::Calendar},
          false},
     };
-    if (!selection)
+    if (!selection || !frames)
         return;
     auto *foto = new MvFotoPanel(m_edits, selection, parent);
     connect(foto, &MvFotoPanel::fileRequested, this, &MvStudioPanels::fileRequested);
     m_selectionPanels = {
         {u"photoPanel"_s, tr("Foto"), foto, {MvPageSelection::Kind::Foto}},
         {u"textPanel"_s, tr("Text"), new MvTextPanel(m_edits, selection, parent), {MvPageSelection::Kind::Text}, false},
+        {u"calendariumPanel"_s,
+         tr("Kalender"),
+         new MvCalendariumPanel(m_edits, selection, parent),
+         {MvPageSelection::Kind::Calendarium},
+         false},
+        {u"framePanel"_s,
+         tr("Lage und Größe"),
+         new MvFramePanel(m_edits, frames, selection, parent),
+         {MvPageSelection::Kind::Foto, MvPageSelection::Kind::Text, MvPageSelection::Kind::Calendarium},
+         false},
         {u"dayPanel"_s,
          tr("Einträge des Tages"),
          new MvDayPanel(m_edits, selection, project, parent),

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 
+class MvFrameEdits;
 class MvPageEdits;
 class MvProject;
 
@@ -16,9 +17,10 @@ class MvStudioPanels : public QObject
 
 public:
     /// The widgets are children of `parent`, which also owns this object, until the inspector takes them. The project
-    /// is not owned and must outlive them, nor is the selection; without one there are the panels of the calendar
-    /// alone.
-    MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelection *selection = nullptr);
+    /// is not owned and must outlive them, nor are selection and frames; without them there are the panels of the
+    /// calendar alone.
+    MvStudioPanels(MvProject *project, QWidget *parent, MvPageSelection *selection = nullptr,
+                   MvFrameEdits *frames = nullptr);
     ~MvStudioPanels() override;
 
     /// Those of the calendar: theme, content, layout, colours, fonts, column headers, entries.

@@ -59,6 +59,12 @@ MvTextPanel::MvTextPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget
     addLook(form);
     column->addLayout(form);
     column->addStretch(1);
+    QWidget *before = m_points; // as they stand, not as they were made
+    for (QWidget *next : std::initializer_list<QWidget *>{m_bold, m_italic, m_capitals, m_colorKind, m_color,
+                                                          m_horizontal, m_vertical}) {
+        setTabOrder(before, next);
+        before = next;
+    }
     auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
     for (QWidget *box : std::initializer_list<QWidget *>{m_family, m_points, m_colorKind, m_horizontal, m_vertical})
         box->installEventFilter(keepsWheelOut);

@@ -5,6 +5,8 @@
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvProject/MvNewCalendar.h"
 #include "common/MvStudioSettings.h"
+#include "flows/MvNewCalendarFlow.h"
+#include "panels/MvCalendarKindChooser.h"
 #include "panels/MvThemeChooser.h"
 #include "start/MvRecentCalendars.h"
 #include "start/MvStartDropZone.h"
@@ -18,8 +20,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString themeKey = u"calendar/theme"_s; // of the last new calendar
 constexpr QSize themeSize(140, 105);
+constexpr QSize kindSize(128, 90);
 constexpr int widest = 980; // logical pixels: lines that are longer are hard to follow
 
 QPushButton *createWay(const char *objectName, const QString &icon, const QString &text, const QString &tip,
@@ -45,6 +47,7 @@ MvStartPage::MvStartPage(QWidget *parent)
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus);
     QWidget *ways = createWays(); // the keyboard goes through all in the order in which they are made
+    m_kinds = new MvCalendarKindChooser(kindSize, this);
     m_recent = new MvRecentCalendars(this);
     m_themes = new MvThemeChooser(themeSize, this);
     m_atStart = new QCheckBox(tr("Diese Seite beim Start &zeigen"), this);
@@ -58,10 +61,12 @@ MvStartPage::MvStartPage(QWidget *parent)
     column->setSpacing(space / 2);
     column->addWidget(m_dropZone);
     column->addWidget(ways);
+    column->addWidget(createHeading(tr("Einen Kalender Schritt für Schritt an&legen"), m_kinds));
+    column->addWidget(m_kinds);
     m_recentHeading = createHeading(tr("Z&uletzt geöffnet"), m_recent);
     column->addWidget(m_recentHeading);
     column->addWidget(m_recent);
-    column->addWidget(createHeading(tr("Ges&taltung"), m_themes));
+    column->addWidget(createHeading(tr("Ges&taltung, in der ein Kalender aus Fotos entsteht"), m_themes));
     column->addWidget(m_themes);
     column->addWidget(m_atStart, 0, Qt::AlignLeft);
     column->addStretch(1);
@@ -79,11 +84,19 @@ MvStartPage::MvStartPage(QWidget *parent)
     connect(m_dropZone, &MvStartDropZone::filesRequested, this, &MvStartPage::filesRequested);
     connect(m_dropZone, &MvStartDropZone::folderRequested, this, &MvStartPage::folderRequested);
     m_themes->setObjectName(u"startThemes"_s);
-    m_themes->setFrameShape(QFrame::NoFrame);
-    m_themes->viewport()->setAutoFillBackground(false);
-    m_themes->setWholeHeight(true);
+    m_kinds->setObjectName(u"startKinds"_s);
+    for (MvPictureList *pictures : std::initializer_list<MvPictureList *>{m_themes, m_kinds}) {
+        pictures->setFrameShape(QFrame::NoFrame);
+        pictures->viewport()->setAutoFillBackground(false);
+        pictures->setWholeHeight(true);
+    }
+    const auto describe = [this](const QListWidgetItem *item) {
+        Q_EMIT kindRequested(MvCalendarKindChooser::kindOf(m_kinds->row(item)));
+    };
+    connect(m_kinds, &QListWidget::itemClicked, this, describe);
+    connect(m_kinds, &QListWidget::itemActivated, this, describe);
     connect(m_themes, &QListWidget::currentRowChanged, this, [this] {
-        MvStudioSettings::setText(themeKey, m_themes->currentId());
+        MvNewCalendarFlow::setLastTheme(m_themes->currentId());
         Q_EMIT themeChosen(m_themes->currentId());
     });
     connect(m_themes, &QListWidget::itemActivated, this, &MvStartPage::emptyRequested);
@@ -133,7 +146,7 @@ void MvStartPage::renew()
         MvNewCalendar sample;
         sample.hasCover = sample.hasBack = false;
         m_themes->setDocument(sample.make());
-        m_themes->setCurrentId(MvStudioSettings::text(themeKey));
+        m_themes->setCurrentId(MvNewCalendarFlow::lastTheme());
         if (m_themes->currentRow() < 0)
             m_themes->setCurrentRow(0);
     }

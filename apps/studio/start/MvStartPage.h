@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "panels/MvCalendarKind.h"
+
 #include <QScrollArea>
 
+class MvCalendarKindChooser;
 class MvRecentCalendars;
 class MvStartDropZone;
 class MvThemeChooser;
@@ -30,6 +33,8 @@ Q_SIGNALS:
     void folderRequested();
     /// A new calendar without photos.
     void emptyRequested();
+    /// A new calendar of that kind, to be described first.
+    void kindRequested(MvCalendarKind kind);
     void openRequested();
     void importRequested();
     void recentRequested(const QString &path);
@@ -44,6 +49,7 @@ private:
 
     MvStartDropZone *m_dropZone;
     MvRecentCalendars *m_recent = nullptr;
+    MvCalendarKindChooser *m_kinds = nullptr;
     MvThemeChooser *m_themes = nullptr;
     QWidget *m_recentHeading = nullptr;
     QCheckBox *m_atStart = nullptr;

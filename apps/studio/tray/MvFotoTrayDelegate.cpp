@@ -53,13 +53,15 @@ void MvFotoTrayDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
         painter->drawRect(QRectF(rect).adjusted(-1, -1, 1, 1));
     }
     if (uses > 0) {
+        const QString text = uses > 1 ? QString::number(uses) : u"✓"_s;
         const int side = option.fontMetrics.height();
-        const QRect badge(rect.right() - side - 2, rect.top() + 3, side, side);
+        const int width = qMax(side, option.fontMetrics.horizontalAdvance(text) + side / 2);
+        const QRect badge(rect.right() - width - 2, rect.top() + 3, width, side);
         painter->setPen(Qt::NoPen);
         painter->setBrush(mark);
-        painter->drawEllipse(badge);
+        painter->drawRoundedRect(badge, side / 2.0, side / 2.0);
         painter->setPen(option.palette.color(QPalette::HighlightedText));
-        painter->drawText(badge, Qt::AlignCenter, uses > 1 ? QString::number(uses) : u"✓"_s);
+        painter->drawText(badge, Qt::AlignCenter, text);
     }
     painter->restore();
 }

@@ -143,8 +143,35 @@ QList<Row> pageRows()
          MvStudioActions::tr("Seite ent&fernen"),
          MvStudioActions::tr("Die gezeigte Seite entfernen; Seiten von Monaten bleiben")},
         {A::NextElement, "nextElement", "layout", QKeySequence(Qt::Key_F7),
-         MvStudioActions::tr("Nächsten Rah&men wählen"),
+         MvStudioActions::tr("&Nächsten Rahmen wählen"),
          MvStudioActions::tr("Auf der Seite von Foto zu Foto und Text zu Text gehen")},
+    };
+}
+
+QList<Row> frameRows()
+{
+    using A = MvStudioActions;
+    const QKeySequence none;
+    return {
+        {A::AddFotoFrame, "addPhotoFrame", "photo_add", none, MvStudioActions::tr("&Fotorahmen einfügen"),
+         MvStudioActions::tr("Einen Rahmen für ein weiteres Foto auf die Seite setzen")},
+        {A::AddTextFrame, "addTextFrame", "text_frame", none, MvStudioActions::tr("&Textrahmen einfügen"),
+         MvStudioActions::tr("Ein paar Worte auf die Seite setzen")},
+        {A::AddSmallMonth, "addSmallMonth", "layout", none, MvStudioActions::tr("Kleinen &Monat einfügen"),
+         MvStudioActions::tr("Den nächsten Monat klein auf die Seite setzen")},
+        {A::DuplicateFrame, "duplicateFrame", "duplicate", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D),
+         MvStudioActions::tr("Rahmen ver&doppeln"),
+         MvStudioActions::tr("Neben die gewählten Rahmen solche setzen, die ihnen gleichen")},
+        {A::RemoveFrame, "removeFrame", "remove", QKeySequence(Qt::SHIFT | Qt::Key_Delete),
+         MvStudioActions::tr("Rahmen &löschen"), MvStudioActions::tr("Die gewählten Rahmen von der Seite nehmen")},
+        {A::FrameToFront, "frameToFrontAction", "to_front", none, MvStudioActions::tr("Ganz nach &vorn"),
+         MvStudioActions::tr("Die gewählten Rahmen über alle anderen legen")},
+        {A::FrameToBack, "frameToBackAction", "to_back", none, MvStudioActions::tr("Ganz nach &hinten"),
+         MvStudioActions::tr("Die gewählten Rahmen unter alle anderen legen")},
+        {A::PlaceFrame, "placeFrame", "page_setup", none, MvStudioActions::tr("La&ge und Größe"),
+         MvStudioActions::tr("Den gewählten Rahmen nach Maß setzen und mit anderen ausrichten")},
+        {A::FreeFrames, "freeFrames", "layout", none, MvStudioActions::tr("Rahmen frei &anordnen"),
+         MvStudioActions::tr("Foto und Kalender der Seite einzeln verschiebbar machen")},
     };
 }
 
@@ -207,7 +234,7 @@ QList<Row> lookRows()
 MvStudioActions::MvStudioActions(QWidget *parent)
     : QObject(parent)
 {
-    for (const Row &row : fileRows() + viewRows() + pageRows() + fotoRows() + lookRows()) {
+    for (const Row &row : fileRows() + viewRows() + pageRows() + frameRows() + fotoRows() + lookRows()) {
         auto *action = new QAction(row.text, parent);
         action->setObjectName(QLatin1StringView(row.name));
         action->setShortcut(row.shortcut);

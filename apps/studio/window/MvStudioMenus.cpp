@@ -25,6 +25,7 @@ MvStudioMenus::MvStudioMenus(MvStudioActions *actions, MvUndoActions *undo, QMai
     createEditMenu();
     createViewMenu();
     createPageMenu();
+    createFrameMenu();
     createFotoMenu();
     createLookMenu();
     QMenu *help = window->menuBar()->addMenu(tr("&Hilfe"));
@@ -77,8 +78,20 @@ void MvStudioMenus::createPageMenu()
     page->addSeparator();
     page->addActions({action(A::AddPage), action(A::AddCover), action(A::AddBack), action(A::DuplicatePage),
                       action(A::MovePageUp), action(A::MovePageDown), action(A::RemovePage)});
-    page->addSeparator();
-    page->addAction(action(A::NextElement));
+}
+
+void MvStudioMenus::createFrameMenu()
+{
+    const auto action = [this](A::Id id) { return m_actions->action(id); };
+    QMenu *frame = m_window->menuBar()->addMenu(tr("Rahme&n"));
+    frame->addActions({action(A::NextElement)});
+    frame->addSeparator();
+    frame->addActions({action(A::AddFotoFrame), action(A::AddTextFrame), action(A::AddSmallMonth)});
+    frame->addSeparator();
+    frame->addActions({action(A::PlaceFrame), action(A::FrameToFront), action(A::FrameToBack),
+                       action(A::DuplicateFrame), action(A::RemoveFrame)});
+    frame->addSeparator();
+    frame->addAction(action(A::FreeFrames));
 }
 
 void MvStudioMenus::createFotoMenu()

@@ -36,6 +36,7 @@ private:
     void createEditMenu();
     void createViewMenu();
     void createPageMenu();
+    void createFrameMenu();
     void createFotoMenu();
     void createLookMenu();
     void createToolBar();

@@ -98,11 +98,11 @@ void MvStudioStatusBar::setPageShown(bool shown)
     m_zoom->setVisible(shown);
 }
 
-void MvStudioStatusBar::setUnfitting(const QList<MvUnfittingWatch::Entry> &entries)
+void MvStudioStatusBar::setUnfitting(const QList<MvPrintFinding> &entries)
 {
     m_entries = entries;
-    const bool areTexts = std::all_of(entries.begin(), entries.end(), [](const MvUnfittingWatch::Entry &entry) {
-        return entry.kind == MvUnfittingWatch::Entry::Kind::CutText;
+    const bool areTexts = std::all_of(entries.begin(), entries.end(), [](const MvPrintFinding &entry) {
+        return entry.kind == MvPrintFinding::Kind::CutText;
     });
     const int count = int(entries.size());
     m_unfitting->setText(areTexts ? tr("%n Texte ohne Platz", nullptr, count)
@@ -136,7 +136,7 @@ void MvStudioStatusBar::fillMenu()
 {
     QMenu *menu = m_unfitting->menu();
     menu->clear();
-    for (const MvUnfittingWatch::Entry &entry : m_entries.mid(0, mostMenuEntries)) {
+    for (const MvPrintFinding &entry : m_entries.mid(0, mostMenuEntries)) {
         QAction *action = menu->addAction(entry.toString().replace(u'&', u"&&"_s));
         connect(action, &QAction::triggered, this, [this, entry] { Q_EMIT noteChosen(entry); });
     }

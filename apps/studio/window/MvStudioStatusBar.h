@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "window/MvUnfittingWatch.h"
+#include "flows/MvPrintWatch.h"
 
 #include <QStatusBar>
 
@@ -22,7 +22,7 @@ public:
     void setZoom(double zoom, bool isFitted);
     /// While no page is to be seen, neither are its number and its zoom.
     void setPageShown(bool shown);
-    void setUnfitting(const QList<MvUnfittingWatch::Entry> &entries);
+    void setUnfitting(const QList<MvPrintFinding> &entries);
     /// What is wrong with the file of entries, in few words; empty when nothing is.
     void setEntriesNotice(const QString &text);
 
@@ -30,14 +30,14 @@ Q_SIGNALS:
     void zoomRequested(double zoom);
     void fitRequested();
     /// Somebody wants to see what it is about.
-    void noteChosen(const MvUnfittingWatch::Entry &note);
+    void noteChosen(const MvPrintFinding &note);
     void entriesNoticeClicked();
 
 private:
     void onZoomEntered();
     void fillMenu();
 
-    QList<MvUnfittingWatch::Entry> m_entries;
+    QList<MvPrintFinding> m_entries;
     QToolButton *m_entriesNotice;
     QToolButton *m_unfitting;
     QLabel *m_page;

@@ -14,10 +14,13 @@
 #include "flows/MvExportFlow.h"
 #include "flows/MvFotoFlow.h"
 #include "flows/MvMissingFotos.h"
+#include "flows/MvNewCalendarFlow.h"
 #include "flows/MvPageFlow.h"
 #include "flows/MvPrintCheckDialog.h"
 #include "flows/MvPrintFlow.h"
+#include "flows/MvPrintWatch.h"
 #include "flows/MvProjectFlow.h"
+#include "pages/MvFrameEdits.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageSelection.h"
 #include "pages/MvPageStrip.h"
@@ -32,7 +35,6 @@
 #include "window/MvStudioMenus.h"
 #include "window/MvStudioStatusBar.h"
 #include "window/MvUndoActions.h"
-#include "window/MvUnfittingWatch.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -73,14 +75,15 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     , m_undo(new MvUndoActions(project->session().undo(), this))
     , m_menus(new MvStudioMenus(m_actions, m_undo, this))
     , m_flow(new MvProjectFlow(project, this))
-    , m_export(new MvExportFlow(project, this))
-    , m_print(new MvPrintFlow(project, this))
+    , m_new(new MvNewCalendarFlow(this))
+    , m_watch(new MvPrintWatch(project, this))
+    , m_export(new MvExportFlow(project, m_watch, this))
+    , m_print(new MvPrintFlow(project, m_watch, this))
     , m_missingFotos(new MvMissingFotos(project, this))
     , m_fotos(new MvFotoFlow(project, this))
     , m_pageFlow(new MvPageFlow(project, this))
     , m_import(new MvBirthdayImport(project->session(), this))
     , m_entries(new MvEntriesFlow(project->session().entries(), this))
-    , m_unfitting(new MvUnfittingWatch(project, this))
     , m_statusBar(new MvStudioStatusBar(this))
 {
     setObjectName(u"studioWindow"_s);
@@ -121,7 +124,7 @@ void MvStudioWindow::createDocks()
 {
     m_strip = new MvPageStrip(m_project, this);
     m_tray = new MvFotoTray(m_project, this);
-    m_panels = new MvStudioPanels(m_project, this, m_canvas->selection());
+    m_panels = new MvStudioPanels(m_project, this, m_canvas->selection(), m_canvas->frames());
     m_inspector = new MvInspector(m_panels, m_canvas->selection(), this);
     addDock("pagesDock", tr("Seiten"), createPagesPanel(), Qt::LeftDockWidgetArea);
     addDock("inspectorDock", tr("Eigenschaften"), m_inspector, Qt::RightDockWidgetArea);
@@ -168,7 +171,7 @@ void MvStudioWindow::connectActions()
     const auto on = [this](A::Id id, auto *receiver, auto slot) {
         connect(m_actions->action(id), &QAction::triggered, receiver, slot);
     };
-    on(A::New, m_flow, &MvProjectFlow::startNew);
+    on(A::New, m_new, &MvNewCalendarFlow::start);
     on(A::Open, m_flow, &MvProjectFlow::askAndOpen);
     on(A::Save, m_flow, &MvProjectFlow::save);
     on(A::SaveAs, m_flow, &MvProjectFlow::saveAs);
@@ -211,6 +214,16 @@ void MvStudioWindow::connectPageActions()
         m_canvas->setFocus();
         m_canvas->selection()->selectNext();
     });
+    MvFrameEdits *frames = m_canvas->frames();
+    on(A::AddFotoFrame, frames, &MvFrameEdits::addFoto);
+    on(A::AddTextFrame, frames, &MvFrameEdits::addText);
+    on(A::AddSmallMonth, frames, &MvFrameEdits::addSmallMonth);
+    on(A::DuplicateFrame, frames, &MvFrameEdits::duplicate);
+    on(A::RemoveFrame, frames, &MvFrameEdits::remove);
+    on(A::FrameToFront, frames, &MvFrameEdits::bringToFront);
+    on(A::FrameToBack, frames, &MvFrameEdits::sendToBack);
+    on(A::FreeFrames, frames, &MvFrameEdits::freeFrames);
+    on(A::PlaceFrame, this, [this] { m_inspector->open(u"framePanel"_s); });
     on(A::AddFotos, m_fotos, &MvFotoFlow::askForFiles);
     on(A::AddFolder, m_fotos, &MvFotoFlow::askForFolder);
     on(A::Distribute, m_fotos, &MvFotoFlow::distribute);
@@ -246,6 +259,9 @@ void MvStudioWindow::connectStart()
     connect(m_start, &MvStartPage::folderRequested, m_fotos, &MvFotoFlow::askForNewFolder);
     connect(m_start, &MvStartPage::themeChosen, m_fotos, &MvFotoFlow::setThemeForNew);
     connect(m_start, &MvStartPage::emptyRequested, this, [this] { m_fotos->startCalendar({}); });
+    connect(m_start, &MvStartPage::kindRequested, m_new, &MvNewCalendarFlow::startKind);
+    connect(m_new, &MvNewCalendarFlow::leaveRequested, m_flow, &MvProjectFlow::leave);
+    connect(m_new, &MvNewCalendarFlow::wanted, m_fotos, &MvFotoFlow::begin);
     connect(m_start, &MvStartPage::importRequested, m_import, &MvBirthdayImport::start);
     connect(m_start, &MvStartPage::openRequested, m_flow, &MvProjectFlow::askAndOpen);
     connect(m_start, &MvStartPage::recentRequested, m_flow, &MvProjectFlow::open);
@@ -294,8 +310,9 @@ void MvStudioWindow::connectPages()
     connect(m_statusBar, &MvStudioStatusBar::zoomRequested, m_canvas, &MvPageCanvas::setZoom);
     connect(m_statusBar, &MvStudioStatusBar::fitRequested, m_canvas, &MvPageCanvas::zoomToFit);
     connect(m_statusBar, &MvStudioStatusBar::noteChosen, this, &MvStudioWindow::showFinding);
-    connect(m_unfitting, &MvUnfittingWatch::changed, this,
-            [this] { m_statusBar->setUnfitting(m_unfitting->entries()); });
+    connect(m_watch, &MvPrintWatch::changed, this, [this] { m_statusBar->setUnfitting(m_watch->notes()); });
+    connect(m_export, &MvExportFlow::placeWanted, this, &MvStudioWindow::showFinding);
+    connect(m_print, &MvPrintFlow::placeWanted, this, &MvStudioWindow::showFinding);
 
     connect(m_project, &MvProject::pagesReset, this, &MvStudioWindow::updatePage);
     connect(m_project, &MvProject::pageChanged, this, &MvStudioWindow::updatePage);
@@ -335,6 +352,12 @@ void MvStudioWindow::updatePage()
     m_actions->action(A::RemoveFoto)->setEnabled(m_canvas->hasFoto());
     m_actions->action(A::ChooseFoto)->setEnabled(count > 0);
     m_actions->action(A::Distribute)->setEnabled(!m_project->document().fotoPool().isEmpty());
+    const bool hasFrames = !m_canvas->frames()->freeElements().isEmpty();
+    for (const A::Id id : {A::DuplicateFrame, A::RemoveFrame, A::FrameToFront, A::FrameToBack, A::PlaceFrame})
+        m_actions->action(id)->setEnabled(hasFrames);
+    for (const A::Id id : {A::AddFotoFrame, A::AddTextFrame, A::AddSmallMonth})
+        m_actions->action(id)->setEnabled(count > 0);
+    m_actions->action(A::FreeFrames)->setEnabled(m_canvas->frames()->canFreeFrames());
     const bool isMonth = m_project->document().isMonthPage(page);
     for (const A::Id id : {A::RemovePage, A::MovePageUp, A::MovePageDown})
         m_actions->action(id)->setEnabled(count > 0 && !isMonth);
@@ -380,7 +403,7 @@ void MvStudioWindow::changePageSetup()
 
 void MvStudioWindow::checkPrint()
 {
-    auto *dialog = new MvPrintCheckDialog(m_project, this);
+    auto *dialog = new MvPrintCheckDialog(m_watch, this);
     connect(dialog, &MvPrintCheckDialog::findingChosen, this, &MvStudioWindow::showFinding);
     dialog->show();
 }

@@ -10,6 +10,7 @@ class MvFotoFlow;
 class MvFotoTray;
 class MvInspector;
 class MvMissingFotos;
+class MvNewCalendarFlow;
 class MvPageCanvas;
 class MvPageFlow;
 class MvPageStrip;
@@ -22,7 +23,7 @@ class MvStudioMenus;
 class MvStudioPanels;
 class MvStudioStatusBar;
 class MvUndoActions;
-class MvUnfittingWatch;
+class MvPrintWatch;
 struct MvPrintFinding;
 class QStackedWidget;
 
@@ -87,6 +88,8 @@ private:
     MvUndoActions *m_undo;
     MvStudioMenus *m_menus;
     MvProjectFlow *m_flow;
+    MvNewCalendarFlow *m_new;
+    MvPrintWatch *m_watch;
     MvExportFlow *m_export;
     MvPrintFlow *m_print;
     MvMissingFotos *m_missingFotos;
@@ -94,7 +97,6 @@ private:
     MvPageFlow *m_pageFlow;
     MvBirthdayImport *m_import;
     MvEntriesFlow *m_entries;
-    MvUnfittingWatch *m_unfitting;
     QStackedWidget *m_center = nullptr;
     MvStartPage *m_start = nullptr;
     MvPageCanvas *m_canvas = nullptr;
