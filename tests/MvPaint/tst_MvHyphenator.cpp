@@ -104,6 +104,8 @@ void tst_MvHyphenator::filesOfPatterns_data()
     QTest::newRow("the file's own minimum")
         << QByteArray("UTF-8\nLEFTHYPHENMIN 4\na1b\n") << u"xabaxabaxa"_s << u"xabaxa-|baxa"_s;
     QTest::newRow("only where a word ends") << QByteArray("UTF-8\na1bcd.\n.ab1c\n") << u"abcabcd"_s << u"ab-|ca-|bcd"_s;
+    QTest::newRow("letters twice, the last counts")
+        << QByteArray("UTF-8\na1bc/q=z,1,2\na2bc\na2cb\na1cb\n") << u"xabcxacbx"_s << u"xabcxa-|cbx"_s;
     QTest::newRow("unknown encoding") << QByteArray("EBCDIC-17\na1b\n") << u"xabaxab"_s << u"xabaxab"_s;
     QTest::newRow("empty") << QByteArray() << u"xabaxab"_s << u"xabaxab"_s;
     QTest::newRow("no patterns at all") << QByteArray(5000, '\xff') << u"xabaxab"_s << u"xabaxab"_s;

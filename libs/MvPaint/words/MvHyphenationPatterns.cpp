@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <string>
+#include <tuple>
 
 namespace {
 
@@ -58,8 +59,17 @@ void MvHyphenationPatterns::read(qsizetype start)
         start = next;
     }
     for (Level &level : m_levels)
-        std::sort(level.patterns.begin(), level.patterns.end(),
-                  [](const Pattern &a, const Pattern &b) { return a.letters < b.letters; });
+        sortOnce(level.patterns);
+}
+
+/// Of patterns with the same letters the last one counts: the library takes that one, and never frees the others.
+void MvHyphenationPatterns::sortOnce(std::vector<Pattern> &patterns)
+{
+    std::sort(patterns.begin(), patterns.end(), [](const Pattern &a, const Pattern &b) {
+        return std::tie(a.letters, b.line) < std::tie(b.letters, a.line); // later lines first
+    });
+    const auto isSame = [](const Pattern &a, const Pattern &b) { return a.letters == b.letters; };
+    patterns.erase(std::unique(patterns.begin(), patterns.end(), isSame), patterns.end());
 }
 
 void MvHyphenationPatterns::addLine(Level &level, qsizetype start, std::string_view line)
@@ -93,10 +103,6 @@ void MvHyphenationPatterns::addMatches(const Level &level, std::string_view text
             return pattern.letters < wanted;
         });
     };
-    const auto addAll = [&](auto pattern, std::string_view letters) {
-        for (; pattern != end && pattern->letters == letters; ++pattern)
-            lines.append(pattern->line);
-    };
     auto first = level.patterns.cbegin();
     for (size_t length = 1; length <= text.size(); ++length) {
         const std::string_view beginning = text.substr(0, length);
@@ -104,10 +110,10 @@ void MvHyphenationPatterns::addMatches(const Level &level, std::string_view text
         if (found == end || !found->letters.starts_with(beginning))
             break;
         first = found;
-        lines.append(first->line);
-        addAll(first, beginning);
+        lines.append(first->line); // the beginning itself, if that is a pattern
         const std::string ended = std::string(beginning) + '.';
-        addAll(findFrom(first, ended), ended);
+        if (const auto last = findFrom(first, ended); last != end && last->letters == ended)
+            lines.append(last->line);
     }
 }
 

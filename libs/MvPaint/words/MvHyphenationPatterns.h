@@ -41,11 +41,12 @@ private:
     struct Level
     {
         QByteArray settings;
-        std::vector<Pattern> patterns; // by their letters
+        std::vector<Pattern> patterns; // by their letters, each once
     };
 
     void read(qsizetype start);
     void addLine(Level &level, qsizetype start, std::string_view line);
+    static void sortOnce(std::vector<Pattern> &patterns);
     static void addMatches(const Level &level, std::string_view beginning, QList<qsizetype> &lines);
 
     QByteArray m_file;

@@ -150,8 +150,9 @@ double bestPlace(const QList<Span> &spans, const QList<double> &shown, double us
     double last = 0.0;
     for (const Span &span : spans) {
         weight += span.weight;
-        first = std::min(first, span.isWhole ? span.start : 1.0);
-        last = std::max(last, span.isWhole ? span.end : 0.0);
+        const bool isPart = span.isWhole && span.end - span.start < 1.0;
+        first = std::min(first, isPart ? span.start : 1.0);
+        last = std::max(last, isPart ? span.end : 0.0);
     }
     const double needed = last - first; // for all faces
     double best = usual;
