@@ -5014,6 +5014,25 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
+    <name>MvRegionEditor</name>
+    <message>
+        <source>Ferien und regionale Feiertage stehen erst da, wenn eine Region gewählt ist.</source>
+        <translation>School holidays and regional holidays appear once a region is chosen.</translation>
+    </message>
+    <message>
+        <source>&amp;Land:</source>
+        <translation>Cou&amp;ntry:</translation>
+    </message>
+    <message>
+        <source>Re&amp;gion:</source>
+        <translation>Re&amp;gion:</translation>
+    </message>
+    <message>
+        <source>Ganzes Land</source>
+        <translation>Whole country</translation>
+    </message>
+</context>
+<context>
     <name>MvRegionsCommand</name>
     <message>
         <source>zählt Staaten und Regionen auf, deren Feiertage bekannt sind</source>
