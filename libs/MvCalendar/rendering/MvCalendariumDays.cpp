@@ -227,7 +227,7 @@ QStringList MvCalendariumDays::officialTextsOf(const QDate &date, const MvCalend
 void MvCalendariumDays::addTexts(MvCalendariumDay &day) const
 {
     if (m_renderer.renderingInformation().hasAnyOf(calendar_render_no_texts))
-        return {};
+        return;
     const MvCalendariumContentConfig &content = m_renderer.calendariumContent();
     if (content.hasFeatures(FEATURE_HOLIDAYS))
         day.texts = officialTextsOf(day.date, day.holidays);
