@@ -5,9 +5,12 @@
 #include "pages/MvScreenFotoSource.h"
 #include "pages/MvScreenFotos.h"
 
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvProject/MvCalendarPage.h"
 
 #include <QPainter>
+
+#include <optional>
 
 namespace {
 
@@ -15,6 +18,13 @@ const QColor placeholderColor(0xe4, 0xe6, 0xe9);
 
 /// So small, lines and letters cover only a part of their pixels: drawn again, they are as dark as they should be.
 constexpr int passes = 2;
+
+/// Where a picture without photos takes them from: nothing is decoded, and nobody waits.
+class NoFotos : public MvFotoSource
+{
+public:
+    QImage scaled(const QFileInfo &, const QSize &) override { return {}; }
+};
 
 /// What the photos of the page leave: frames that are empty or whose photo is not there yet.
 void paintEmptyFrames(QPainter &painter, const MvCalendarPage &page, const MvPageFormat &format, MvScreenFotos *fotos,
@@ -61,15 +71,21 @@ QImage MvPageThumbnail::make(const MvCalendarPage &page, const MvPageFormat &for
     rule.encodeInto(painter);
     painter.scale(scaleX, scaleY);
     painter.translate(-sheet.topLeft());
+    NoFotos none;
+    std::optional<MvScreenFotoSource> shown;
+    if (fotos)
+        shown.emplace(*fotos);
+    MvRenderingSources given = sources;
+    if (!given.fotos) // the default would decode here and now
+        given.fotos = shown ? static_cast<MvFotoSource *>(&*shown) : &none;
     page.paintGround(painter, format);
     paintEmptyFrames(painter, page, format, fotos, empty);
-    if (fotos) {
-        MvScreenFotoSource source(*fotos);
+    if (shown) {
         MvRenderingRule(0).encodeInto(painter); // places without a photo have been painted
-        page.paintFoto(painter, format, source);
+        page.paintFoto(painter, format, *shown);
         rule.encodeInto(painter);
     }
-    const MvPaintRecording calendarium = page.record(format, context, {}, rule, scaleX, sources);
+    const MvPaintRecording calendarium = page.record(format, context, {}, rule, scaleX, given);
     for (int pass = 0; pass < passes; ++pass)
         calendarium.replay(painter);
     painter.end();
