@@ -1832,10 +1832,6 @@
 <context>
     <name>MvEntryIntake</name>
     <message>
-        <source>%1 neu, %2 geändert, %3 gleich, %4 ausgelassen</source>
-        <translation>%1 new, %2 changed, %3 the same, %4 left out</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
     </message>
@@ -1846,6 +1842,10 @@
     <message>
         <source>Das ist weder eine Liste von Einträgen noch ein Kalender (iCalendar) noch eine Tabelle (CSV).</source>
         <translation>This is neither a list of entries nor a calendar (iCalendar) nor a table (CSV).</translation>
+    </message>
+    <message>
+        <source>%1 neu, %2 geändert, %3 gleich, %4 ausgelassen</source>
+        <translation>%1 new, %2 changed, %3 equal, %4 skipped</translation>
     </message>
 </context>
 <context>
@@ -3884,6 +3884,14 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Ordner „%1“</source>
         <translation>Folder “%1”</translation>
+    </message>
+    <message>
+        <source>Fotos auf eigenen Seiten</source>
+        <translation>Photos on pages of their own</translation>
+    </message>
+    <message>
+        <source>Vor jedem Monat eine Seite für sein Foto, die über ihm hängt</source>
+        <translation>Before each month a page for its photo, which hangs above it</translation>
     </message>
 </context>
 <context>

@@ -76,6 +76,7 @@ MvNewCalendarDialog::MvNewCalendarDialog(const MvCalendarDraft &draft, QWidget *
     , m_title(new QLineEdit(this))
     , m_cover(new QCheckBox(tr("Titelblatt"), this))
     , m_back(new QCheckBox(tr("Rückseite"), this))
+    , m_facing(new QCheckBox(tr("Fotos auf eigenen Seiten"), this))
     , m_fotos(new QLabel(this))
     , m_later(new QTimer(this))
 {
@@ -171,13 +172,19 @@ void MvNewCalendarDialog::addCalendar(QFormLayout *form)
     m_back->setObjectName(u"newBack"_s);
     m_cover->setChecked(m_draft.wanted.hasCover);
     m_back->setChecked(m_draft.wanted.hasBack);
+    m_facing->setObjectName(u"newFacing"_s);
+    m_facing->setChecked(m_draft.wanted.hasFacingPages);
+    m_facing->setToolTip(tr("Vor jedem Monat eine Seite für sein Foto, die über ihm hängt"));
     form->addRow(tr("T&itel:"), m_title);
     m_extras = new QWidget(this);
-    auto *row = new QHBoxLayout(m_extras);
-    row->setContentsMargins({});
+    auto *row = new QHBoxLayout;
     row->addWidget(m_cover);
     row->addWidget(m_back);
     row->addStretch(1);
+    auto *rows = new QVBoxLayout(m_extras);
+    rows->setContentsMargins({});
+    rows->addLayout(row);
+    rows->addWidget(m_facing);
     form->addRow(tr("Dazu:"), m_extras);
 }
 
@@ -225,13 +232,14 @@ void MvNewCalendarDialog::setKind(MvCalendarKind kind)
     m_looks->setCurrentWidget(isPlanner ? static_cast<QWidget *>(m_layouts) : m_themes);
     m_form->setRowVisible(m_fotoRow, !isPlanner);
     m_form->setRowVisible(m_extras, !isPlanner);
+    m_facing->setVisible(kind == MvCalendarKind::Fotos);
 }
 
 /// The pictures show the paper and the first month that are chosen.
 void MvNewCalendarDialog::renewPictures()
 {
     MvCalendarDraft sample = draft();
-    sample.wanted.hasCover = sample.wanted.hasBack = false;
+    sample.wanted.hasCover = sample.wanted.hasBack = sample.wanted.hasFacingPages = false;
     sample.kind = MvCalendarKind::Fotos;
     m_themes->setDocument(sample.make());
     sample.kind = MvCalendarKind::Planner;
@@ -255,6 +263,7 @@ MvCalendarDraft MvNewCalendarDialog::draft() const
     wanted.holidays = m_region->config();
     wanted.hasCover = m_cover->isChecked();
     wanted.hasBack = m_back->isChecked();
+    wanted.hasFacingPages = draft.kind == MvCalendarKind::Fotos && m_facing->isChecked();
     wanted.themeId = m_themes->currentId().isEmpty() ? m_draft.wanted.themeId : m_themes->currentId();
     const QString title = m_title->text().trimmed();
     wanted.title = title.isEmpty() ? MvCalendarTitle::ofRange(wanted.range) : title;

@@ -57,6 +57,7 @@ private:
     QLineEdit *m_title;
     QCheckBox *m_cover;
     QCheckBox *m_back;
+    QCheckBox *m_facing;
     QLabel *m_fotos;
     QWidget *m_fotoRow = nullptr;
     QWidget *m_extras = nullptr;
