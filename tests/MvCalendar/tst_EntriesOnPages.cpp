@@ -46,7 +46,7 @@ private:
     {
         MvCalendariumAppearance appearance = MvPageFixture::appearance({}, MvPageFixture::defaultCells(), type);
         if (!headers.isEmpty())
-            appearance.setColumnHeaders(headers);
+            appearance.setColumnHeaders(headers.split(u','));
         const QDate month(2027, 3, 1);
         MvPageFixture page(appearance, month, FEATURE_HOLIDAYS | FEATURE_ENTRIES);
         MvCalendariumContentConfig content = MvPageFixture::content(month, FEATURE_HOLIDAYS | FEATURE_ENTRIES);
@@ -63,7 +63,7 @@ private:
 
 void tst_EntriesOnPages::writesInTheColorOfTheGroup()
 {
-    MvCalendarEventList list{MvEntries::entry(u"Jörg"_s, {1967, 3, 26}), MvEntries::entry(u"Chor"_s, {2027, 3, 26})};
+    MvCalendarEventList list{MvEntries::entry(u"Jörg"_s, {1967, 3, 24}), MvEntries::entry(u"Chor"_s, {2027, 3, 24})};
     const QString family = list.groups().idOfName(u"Familie"_s);
     list.groups()[0].color = QColor(0x2255aa);
     list.groups()[0].entryText = u"%name (%age)"_s;
@@ -72,10 +72,10 @@ void tst_EntriesOnPages::writesInTheColorOfTheGroup()
         const QList<Item> items = paint(list, u"CALENDAR_ONE_WEEK_PER_ROW"_s).texts(text);
         return items.size() == 1 ? items.first().fill : QColor();
     };
-    QCOMPARE(colorOf(u"Chor"_s), QColor(0xaa0000)); // on Good Friday
+    QCOMPARE(colorOf(u"Chor"_s), QColor(Qt::black));
     const QColor own = colorOf(u"Jörg (60)"_s);
-    QVERIFY(own.isValid() && own != QColor(0xaa0000));
-    list.groups()[0].color = Qt::yellow; // which nobody can read on red
+    QVERIFY(own.isValid() && own != QColor(Qt::black));
+    list.groups()[0].color = Qt::yellow; // which nobody can read on grey
     const QColor readable = colorOf(u"Jörg (60)"_s);
     QVERIFY(readable.isValid() && readable != QColor(Qt::yellow));
     const Painted hidden = paint(list, u"CALENDAR_ONE_WEEK_PER_ROW"_s, {{family}, {}, false});

@@ -7,6 +7,8 @@
 
 #include <QRandomGenerator>
 
+#include <ctime>
+
 using namespace Qt::StringLiterals;
 
 class tst_MvEntryExchange : public MvTest
@@ -62,7 +64,7 @@ void tst_MvEntryExchange::reads_data()
     row("whole days, folded, escaped",
         calendar("DTSTART;VALUE=DATE:20270301\r\nDTEND;VALUE=DATE:20270306\r\nSUMMARY:Klausuren\\, Klas\r\n se 5b\r\n"
                  "CATEGORIES:Schule,Klasse 5b\r\n"),
-        u"2027-03-01-2027-03-05 Klausuren, Klasse 5b {Klasse 5b} {Schule}"_s);
+        u"2027-03-01-2027-03-05 Klausuren, Klasse 5b {Schule} {Klasse 5b}"_s);
     row("birthday", calendar("DTSTART;VALUE=DATE:19670301\r\nSUMMARY:J\xc3\xb6rg\r\nRRULE:FREQ=YEARLY\r\n"),
         u"1967-03-01 Jörg []"_s);
     row("Western European", calendar("DTSTART:20270301\r\nSUMMARY:J\xf6rg\r\n"), u"2027-03-01 Jörg"_s);
@@ -106,6 +108,7 @@ void tst_MvEntryExchange::reads()
 {
     QFETCH(QByteArray, bytes);
     qputenv("TZ", "Europe/Berlin");
+    tzset();
     const MvEntryReading reading = MvEntryIntake::read(bytes, u"file"_s);
     QVERIFY2(reading.isOk(), qPrintable(reading.error));
     QTEST(told(reading), "expected");

@@ -144,12 +144,12 @@ void tst_MvEventRepetition::entryFallsOn()
     const MvCalendarEventIndex index(
         {MvEntries::entry(u"first"_s, on.first()), event, MvEntries::entry(u"last"_s, on.first())});
     const auto names = [&index](const QDate &day) {
-        QStringList names;
-        index.visit(day, [&names](const MvCalendarEvent &found) {
-            names.append(found.description());
+        QStringList found;
+        index.visit(day, [&found](const MvCalendarEvent &visited) {
+            found.append(visited.description());
             return false;
         });
-        return names;
+        return found;
     };
     QCOMPARE(names(on.first()), (QStringList{u"first"_s, u"E"_s, u"last"_s}));
     for (const QDate &day : on)
@@ -193,7 +193,7 @@ void tst_MvEventRepetition::keepsItsFile()
     // what cannot be read is left out and named, so that nothing is written over it
     const std::pair<const char *, const char *> faults[] = {{"FREQ=WEEKLY", "FREQ=HOURLY"},
                                                             {"2027-01-08", "2027-02-30"},
-                                                            {"19:30", "25:00"},
+                                                            {">19:30<", ">25:00<"},
                                                             {"march1", "may1"},
                                                             {"#008000", "leafy"}};
     for (const auto &[right, wrong] : faults) {

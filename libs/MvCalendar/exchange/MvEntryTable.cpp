@@ -263,15 +263,13 @@ private:
     const Table::Row *m_row = nullptr;
 };
 
+/// By the first line: commas are in texts, too.
 QChar separatorOf(const QString &text)
 {
-    const QString begin = text.left(4096);
-    QChar best = u';';
-    for (const QChar candidate : {u';', u'\t', u','}) {
-        if (begin.count(candidate) > begin.count(best) && (best == u';' ? begin.count(best) == 0 : true))
-            best = candidate;
-    }
-    return best;
+    const QString line = text.section(u'\n', 0, 0);
+    if (line.contains(u'\t'))
+        return u'\t';
+    return line.contains(u';') || !line.contains(u',') ? u';' : u',';
 }
 
 QString quoted(const QString &text, QChar separator)
