@@ -48,19 +48,6 @@ void readInThread(const QFileInfo &file, QObject *asker, const std::function<voi
     });
 }
 
-/// The groups that entries of the file name are to be there before the entries are.
-void putGroups(const MvEventGroupList &groups, MvSession &session)
-{
-    MvCalendarEventList list = session.entries().activeEventList();
-    const MvEventGroupList known = list.groups();
-    for (const MvEventGroup &group : groups) {
-        if (!known.find(group.id))
-            list.groups().put(group);
-    }
-    if (!(list.groups() == known))
-        session.entries().setEvents(list);
-}
-
 QString skippedText(const Content &content)
 {
     const QString count =
@@ -134,12 +121,8 @@ void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, 
                                       MvSession &session)
 {
     const QFileInfo file(fileName);
-    const auto takeAll = [take, &session](const MvCalendarEventList &read) {
-        putGroups(read.groups(), session);
-        take(read);
-    };
-    const auto judgeRead = [fileName, purpose, asker, takeAll, &session](const Content &content) {
-        judge(fileName, purpose, content, asker, takeAll, session);
+    const auto judgeRead = [fileName, purpose, asker, take, &session](const Content &content) {
+        judge(fileName, purpose, content, asker, take, session);
     };
     if (file.size() > largeFile)
         readInThread(file, asker, judgeRead);
