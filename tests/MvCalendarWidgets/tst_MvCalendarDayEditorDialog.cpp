@@ -149,13 +149,14 @@ void tst_MvCalendarDayEditorDialog::keysAlone()
     dialog.openDayEditorSeries(entry(u"Anna"_qs, QDate(2027, 6, 5)));
     QVERIFY(QTest::qWaitForWindowActive(&dialog));
     QStringList order;
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 9; ++i) {
         order.append(dialog.focusWidget()->objectName());
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
     }
     // out of the way are the button for removing a photo, without one, and that for deleting what is only to come
-    QCOMPARE(order, (QStringList{u"descriptionEdit"_qs, u"fotoLabel"_qs, u"cancelButton"_qs, u"okAndContinueButton"_qs,
-                                 u"okButton"_qs, u"dateEdit"_qs}));
+    QCOMPARE(order,
+             (QStringList{u"descriptionEdit"_qs, u"repetitionCombo"_qs, u"groupCombo"_qs, u"endBox"_qs, u"fotoLabel"_qs,
+                          u"cancelButton"_qs, u"okAndContinueButton"_qs, u"okButton"_qs, u"dateEdit"_qs}));
     QTest::keyClick(description(dialog), Qt::Key_Return);
     QCOMPARE(dialog.result(), int(QDialog::Accepted));
     QVERIFY(!dialog.isVisible());

@@ -56,6 +56,10 @@ MvEventRepetitionEdit::MvEventRepetitionEdit(QWidget *parent)
     m_leapDayLabel->setBuddy(m_leapDay);
     layout->addWidget(m_leapDayLabel, 2, 0, Qt::AlignRight);
     layout->addWidget(m_leapDay, 2, 1, 1, 2);
+    for (QComboBox *combo : {m_repetition, m_group}) { // the dialog is no wider for the longest choice
+        combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        combo->setMinimumContentsLength(10);
+    }
     layout->setColumnStretch(0, 1);
     connect(m_repetition, &QComboBox::currentIndexChanged, this, &MvEventRepetitionEdit::showChoice);
 }
