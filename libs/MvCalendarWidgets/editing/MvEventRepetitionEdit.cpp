@@ -38,14 +38,12 @@ MvEventRepetitionEdit::MvEventRepetitionEdit(QWidget *parent)
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     m_repetition->setObjectName(u"repetitionCombo"_s);
-    m_repetition->setAccessibleName(tr("Wiederholung"));
     m_repetition->addItems({tr("Einmal"), tr("Jedes Jahr"), tr("Alle 2 Jahre"), tr("Jede Woche"), tr("Alle 2 Wochen"),
                             tr("Jeden Monat am selben Tag"), tr("Jeden Monat am selben Wochentag"),
                             tr("Jeden Monat am letzten dieses Wochentags")});
     layout->addWidget(m_repetition, 0, 0);
     addDate(layout, 0, &m_untilBox, &m_until, tr("Zuletzt am"));
     m_group->setObjectName(u"groupCombo"_s);
-    m_group->setAccessibleName(tr("Gruppe"));
     m_group->setEditable(true);
     layout->addWidget(m_group, 1, 0);
     addDate(layout, 1, &m_endBox, &m_end, tr("Dauert bis"));
@@ -60,8 +58,18 @@ MvEventRepetitionEdit::MvEventRepetitionEdit(QWidget *parent)
         combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         combo->setMinimumContentsLength(10);
     }
+    nameUnseen(m_repetition, tr("Wiederholung"));
+    nameUnseen(m_group, tr("Gruppe"));
     layout->setColumnStretch(0, 1);
     connect(m_repetition, &QComboBox::currentIndexChanged, this, &MvEventRepetitionEdit::showChoice);
+}
+
+/// For a screen reader, to which the name of a box with a list is what is chosen in it, unless it has a label.
+void MvEventRepetitionEdit::nameUnseen(QComboBox *combo, const QString &name)
+{
+    auto *label = new QLabel(name, this);
+    label->setBuddy(combo);
+    label->hide();
 }
 
 void MvEventRepetitionEdit::addDate(QGridLayout *layout, int row, QCheckBox **box, MvDateEdit **edit,

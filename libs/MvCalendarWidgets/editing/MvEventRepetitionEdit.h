@@ -47,6 +47,7 @@ private:
 
     static MvRecurrenceRule ruleOf(Choice choice, const QDate &date);
     static Choice choiceOf(const MvCalendarEvent &event);
+    void nameUnseen(QComboBox *combo, const QString &name);
     void addDate(QGridLayout *layout, int row, QCheckBox **box, MvDateEdit **edit, const QString &name);
     void showChoice();
 
