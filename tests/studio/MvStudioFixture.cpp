@@ -14,6 +14,8 @@
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
 
+#include <QPointer>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -65,9 +67,12 @@ MvStudioFixture::MvStudioFixture(const QString &layout, const QString &language)
 
 MvStudioFixture::~MvStudioFixture()
 {
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (qobject_cast<MvCalendarDayEditorDialog *>(widget))
-            delete widget;
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    const QList<QPointer<QWidget>> windows(widgets.cbegin(),
+                                           widgets.cend()); // the lists of a dialog's boxes go with it
+    for (const QPointer<QWidget> &window : windows) {
+        if (qobject_cast<MvCalendarDayEditorDialog *>(window))
+            delete window;
     }
     m_studio.reset();
 }
