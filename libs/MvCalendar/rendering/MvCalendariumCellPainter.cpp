@@ -36,6 +36,7 @@ const QString widestNumber = u"22"_s;
 const QString broadestNumber = u"24"_s; // widest ink
 constexpr double numberAir = 0.3;       // of the type's size, between two numbers side by side
 constexpr double leastNumberAir = 0.1;  // nearer than that, two numbers read as one
+constexpr double airInLetters = 1.2;    // and nearer than that, in what is between two digits of one number
 constexpr double anyRoom = 1e5;         // more than any text takes
 constexpr double mostPixels = 8192.0;   // of a photo in a cell, on each side
 constexpr double largeCell = 300.0;
@@ -171,8 +172,11 @@ MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, c
         return MvCalendariumCellLine({font, font.pixelSize() + 1.0, MvHyphenator()}, {anyRoom, anyRoom}, digits).ink();
     };
     MvCalendariumCellLine line(fixed, rect.size(), number);
-    const bool isTooNear =
-        size == sizes.cend() && inkOf(broadestNumber).width() + leastNumberAir * font.pixelSize() > rect.width();
+    const bool isTooNear = size == sizes.cend() && [&] {
+        const double ink = inkOf(broadestNumber).width();
+        const double betweenDigits = MvTextPainter::advance(font, broadestNumber) - ink;
+        return ink + std::max(leastNumberAir * font.pixelSize(), airInLetters * betweenDigits) > rect.width();
+    }();
     if (line.isCut() || isTooNear || inkOf(tallestDigit).height() > rect.height() - hair)
         return {fixed, QSizeF(), number}; // no number is cut: either all numbers of a page fit or none is shown
     line.align(rect.marginsRemoved(m_renderer.padding(type)), int(m_renderer.textAlignment(type)));

@@ -18,11 +18,12 @@ bool hasType(const MvCalendariumHolidayList &holidays, MvCalendariumHolidayTypeE
                        [type](const MvCalendariumHoliday &holiday) { return holiday.type() == type; });
 }
 
+/// Each name once: a day may be a holiday and free of school by the same name.
 QStringList namesOf(const MvCalendariumHolidayList &holidays)
 {
     QStringList names;
     for (const MvCalendariumHoliday &holiday : holidays) {
-        if (!holiday.description().isEmpty())
+        if (!holiday.description().isEmpty() && !names.contains(holiday.description()))
             names.append(holiday.description());
     }
     return names;
