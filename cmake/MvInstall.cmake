@@ -51,6 +51,13 @@ if(NOT TARGET mvcalendar)
 endif()
 install(TARGETS mvcalendar RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/man/mvcalendar.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+set(mv_completion_dir ${PROJECT_SOURCE_DIR}/apps/cli/completion)
+install(FILES ${mv_completion_dir}/mvcalendar.bash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME mvcalendar COMPONENT tools)
+install(FILES ${mv_completion_dir}/_mvcalendar
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions COMPONENT tools)
+install(FILES ${mv_completion_dir}/mvcalendar.fish
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
 if(NOT TARGET mvcalendar-studio)
     return()
 endif()

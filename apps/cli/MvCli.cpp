@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCli.h"
 
+#include "MvCliConfig.h"
 #include "MvColorsCommand.h"
+#include "MvCompletion.h"
 #include "MvEntriesCommand.h"
 #include "MvHolidaysCommand.h"
 #include "MvNearMiss.h"
@@ -58,7 +60,7 @@ int MvCli::run(const QStringList &arguments, QTextStream &out, QTextStream &err)
 {
     QString hintText;
     QTextStream hints(&hintText);
-    MvCliCommand::Result result = dispatch(arguments, {out, hints});
+    MvCliCommand::Result result = dispatch(arguments, {out, hints, &err});
     out.flush();
     if (result.code == MvCliCommand::Done && out.status() != QTextStream::Ok)
         result = {MvCliCommand::Failed, tr("die Ausgabe lässt sich nicht schreiben")};
@@ -79,6 +81,10 @@ MvCliCommand::Result MvCli::dispatch(const QStringList &arguments, const MvCliCo
         streams.out << programName() << ' ' << QCoreApplication::applicationVersion() << '\n';
         return {};
     }
+    if (arguments.first() == u"complete"_s) { // for the shells
+        MvCompletion(m_commands).print(arguments.mid(1), streams.out);
+        return {};
+    }
     const bool isHelpCommand = arguments.first() == u"help"_s;
     const QStringList rest = arguments.mid(isHelpCommand ? 1 : 0);
     if (rest.isEmpty() || rest.first() == u"--help"_s || rest.first() == u"-h"_s) {
@@ -95,10 +101,33 @@ MvCliCommand::Result MvCli::dispatch(const QStringList &arguments, const MvCliCo
         printHelp(*command, streams.out);
         return {};
     }
-    MvCliArguments options;
-    if (const MvOutcome parsed = options.parse(rest.mid(1), command->options()); !parsed.isOk())
-        return {MvCliCommand::Misused, tr("%1 (Hilfe: mvcalendar %2 --help)").arg(parsed.error, command->name())};
-    return command->run(options, streams);
+    return runCommand(*command, rest.mid(1), streams);
+}
+
+MvCliCommand::Result MvCli::runCommand(const MvCliCommand &command, const QStringList &arguments,
+                                       const MvCliCommand::Streams &streams) const
+{
+    const QList<MvCliOption> options = command.options() + MvCliCommand::commonOptions();
+    MvCliArguments call;
+    if (const MvOutcome parsed = call.parse(arguments, options); !parsed.isOk())
+        return {MvCliCommand::Misused, tr("%1 (Hilfe: mvcalendar %2 --help)").arg(parsed.error, command.name())};
+    const MvCliConfig config =
+        MvCliConfig::read(call.has(u"no-config"_s) ? QString() : MvCliConfig::path(), commandNames());
+    if (!config.isOk())
+        return {MvCliCommand::Misused, config.error()};
+    if (const MvOutcome applied = config.applyTo(call, command.name(), options); !applied.isOk())
+        return {MvCliCommand::Misused, applied.error};
+
+    const bool isQuiet = call.has(u"quiet"_s);
+    if (isQuiet && call.has(u"verbose"_s))
+        return {MvCliCommand::Misused, tr("--quiet und --verbose schließen einander aus")};
+    QString unsaid;
+    QTextStream silence(&unsaid);
+    MvCliCommand::Result result = command.run(call, {streams.out, isQuiet ? silence : streams.hints,
+                                                     call.has(u"verbose"_s) ? streams.progress : nullptr, isQuiet});
+    if (result.code == MvCliCommand::Misused)
+        result.error += config.placeOf(result.error, call);
+    return result;
 }
 
 const MvCliCommand *MvCli::find(const QString &name) const
@@ -132,6 +161,9 @@ void MvCli::printHelp(QTextStream &out) const
         << tr("Optionen eines Befehls: mvcalendar BEFEHL --help. Version: mvcalendar --version.") << '\n'
         << tr("Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch; 3 "
               "validate: etwas würde schlecht gedruckt.")
+        << '\n'
+        << tr("Was immer gelten soll, steht in ~/.config/mvcalendar/mvcalendar.conf, eine Zeile „country = AT“ je "
+              "Option.")
         << '\n';
 }
 
@@ -139,10 +171,12 @@ void MvCli::printHelp(const MvCliCommand &command, QTextStream &out)
 {
     out << "mvcalendar " << command.name() << ": " << command.summary() << "\n\n" << tr("Optionen:") << '\n';
     MvTextTable table;
-    for (const MvCliOption &option : command.options())
-        table.addRow({(option.isOperand ? u"  [--%1]"_s : u"  --%1"_s).arg(option.name) +
+    for (const MvCliOption &option : command.options() + MvCliCommand::commonOptions()) {
+        const QString name = MvCliArguments::describe(option.name);
+        table.addRow({u"  "_s + (option.isOperand ? u'[' + name + u']' : name) +
                           (option.value.isEmpty() ? QString() : u' ' + option.value),
                       option.help});
+    }
     table.print(out);
     out << '\n' << tr("Beispiele:") << '\n';
     for (const QString &example : command.examples())

@@ -19,6 +19,9 @@ public:
 
 private:
     MvCliCommand::Result dispatch(const QStringList &arguments, const MvCliCommand::Streams &streams) const;
+    /// Runs the command as the call and the user's file of settings say.
+    MvCliCommand::Result runCommand(const MvCliCommand &command, const QStringList &arguments,
+                                    const MvCliCommand::Streams &streams) const;
     const MvCliCommand *find(const QString &name) const;
     QStringList commandNames() const;
     void printHelp(QTextStream &out) const;

@@ -36,3 +36,12 @@ MvCliOption MvCliCommand::projectOption()
     return {u"project"_s, QCoreApplication::translate("MvCliCommand", "DATEI"),
             QCoreApplication::translate("MvCliCommand", "das Projekt; --project kann wegbleiben"), false, true};
 }
+
+QList<MvCliOption> MvCliCommand::commonOptions()
+{
+    return {{u"quiet"_s, {}, QCoreApplication::translate("MvCliCommand", "nur Fehler nennen, keine Hinweise")},
+            {u"verbose"_s, {}, QCoreApplication::translate("MvCliCommand", "auch nennen, was gerade geschieht")},
+            {u"no-config"_s,
+             {},
+             QCoreApplication::translate("MvCliCommand", "ohne die eigenen Einstellungen (mvcalendar.conf)")}};
+}

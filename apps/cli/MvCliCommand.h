@@ -22,11 +22,14 @@ public:
         PrintsBadly = 3 // of "validate": the calendar can be printed, but something on it would look bad
     };
 
-    /// Where a command writes: results to one stream, hints for a person to the other.
+    /// Where a command writes: results to one stream, hints for a person to the other. What is going on, to a third, if
+    /// somebody asked for it; null otherwise.
     struct Streams
     {
         QTextStream &out;
         QTextStream &hints;
+        QTextStream *progress = nullptr;
+        bool isQuiet = false; // no names of files that were written
     };
 
     struct Result
@@ -56,6 +59,8 @@ public:
     static MvCliOption jsonOption();
     /// The project, with or without "--project".
     static MvCliOption projectOption();
+    /// What every command takes: how much it says, and whether the file of MvCliConfig counts.
+    static QList<MvCliOption> commonOptions();
 
 protected:
     MvCliCommand() = default;

@@ -9,23 +9,13 @@
 #include "MvFileHints.h"
 #include "MvFotoCalendar.h"
 #include "MvPageSelection.h"
-#include "MvProject/MvExportTarget.h"
-#include "MvProject/MvPngExporter.h"
 #include "MvRenderReport.h"
+#include "MvRenderTargets.h"
 #include "MvVacationHint.h"
 
 #include <QFontDatabase>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-MvExportTarget targetOf(const QString &path)
-{
-    return MvExportTarget(path, MvExportTarget::Pdf::OneOfEachPage);
-}
-
-} // namespace
 
 QString MvRenderCommand::summary() const
 {
@@ -49,14 +39,10 @@ QList<MvCliOption> MvRenderCommand::options() const
                {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027), mit --photos auch auf dem Titelblatt")},
                {u"author"_s, u"TEXT"_s, tr("Verfasser im PDF")},
                {u"pages"_s, tr("LISTE"), tr("nur diese Seiten: 1-3,7 oder cover, months, free, back")},
-               {u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der PNG-Dateien (300)")},
                {u"report"_s, u"FORM"_s,
                 tr("json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz, Fotos mit "
-                   "ihrer Auflösung und nicht Lesbares nennt")},
-               {u"output"_s, tr("DATEI"),
-                tr("-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite, auch für ein .pdf je Seite; "
-                   "mehrfach erlaubt"),
-                true}};
+                   "ihrer Auflösung und nicht Lesbares nennt")}} +
+           MvRenderTargets::options();
 }
 
 QStringList MvRenderCommand::examples() const
@@ -81,17 +67,14 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     const MvFotoCalendar fotoCalendar = isFotoCalendar ? MvFotoCalendar(values, arguments) : MvFotoCalendar();
     MvCalendarDocument document =
         isProject || isFotoCalendar ? MvCalendarDocument() : MvCalendarOptions::document(values);
-    const int dpi = values.number(u"dpi"_s, MvPngExporter::minimumDpi, MvPngExporter::maximumDpi, 300);
     values.exclude(u"entries"_s, u"my-entries"_s);
     if (values.has(u"report"_s))
         values.choice(u"report"_s, {u"json"_s});
-    if (!values.has(u"output"_s))
-        values.setError(tr("es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png oder .svg"));
+    const MvRenderTargets targets(values, arguments);
     if (!values.isOk())
         return misused(values.error());
 
-    const QStringList targets = arguments.values(u"output"_s);
-    MvFileHints hints(values.text(u"project"_s, targets.constFirst()), streams.hints);
+    MvFileHints hints(values.text(u"project"_s, targets.name()), streams.hints);
     MvCliProject made;
     if (isProject || isFotoCalendar) {
         made = isProject ? MvCliProject::read(values, hints.stream()) : fotoCalendar.make(hints.stream());
@@ -105,8 +88,7 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
         MvPageSelection::parse(values.text(u"pages"_s, u"1-%1"_s.arg(document.pages().size())), document);
     if (!chosen.isOk())
         return misused(chosen.error);
-    if (const Result checked = checkTargets(targets, document.pageSource().part(chosen.numbers), dpi);
-        checked.code != Done)
+    if (const Result checked = targets.check(document.pageSource().part(chosen.numbers)); checked.code != Done)
         return checked;
 
     const MvRenderEntries entries = takeEntries(values, made, document);
@@ -116,20 +98,8 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
         return misused(error);
     entries.printHints(streams.hints);
     printHints(document, entries, values.has(u"vacations"_s), hints.stream());
-    return write(document, chosen.numbers, entries, arguments, dpi, {streams.out, hints.stream()});
-}
-
-MvCliCommand::Result MvRenderCommand::checkTargets(const QStringList &paths, const MvPageSource &pages, int dpi)
-{
-    for (const QString &path : paths)
-        if (const MvOutcome named = targetOf(path).files(pages); !named.isOk())
-            return misused(named.error);
-    for (const QString &path : paths) {
-        for (const MvOutcome &checked : {targetOf(path).checkPlace(), targetOf(path).checkSize(pages.format, dpi)})
-            if (!checked.isOk())
-                return failed(checked.error);
-    }
-    return {};
+    return write(document, chosen.numbers, entries, targets, values.has(u"report"_s),
+                 {streams.out, hints.stream(), streams.progress, streams.isQuiet});
 }
 
 QString MvRenderCommand::takeEntryDisplay(const MvCliArguments &arguments, const MvRenderEntries &entries,
@@ -164,27 +134,23 @@ void MvRenderCommand::printHints(const MvCalendarDocument &document, const MvRen
 }
 
 MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, const QList<int> &chosen,
-                                            const MvRenderEntries &entries, const MvCliArguments &arguments, int dpi,
-                                            const Streams &streams)
+                                            const MvRenderEntries &entries, const MvRenderTargets &targets,
+                                            bool isReported, const Streams &streams)
 {
-    const bool isReported = arguments.has(u"report"_s);
     MvRenderingSources sources;
     sources.entries = entries.source();
     MvRenderReport report(document, sources);
     const auto found = [&report](int page, const MvPageFindings &findings) { report.addPage(page, findings); };
-    const MvPageSource pages = document.pageSource(sources, found).part(chosen);
     report.setSkippedEntries(entries.file(), entries.skipped());
-    for (const QString &path : arguments.values(u"output"_s)) {
-        const MvExportResult result = targetOf(path).write(pages, dpi);
-        report.addMissingFotos(result.missingFotos);
-        for (const QFileInfo &file : result.files) {
-            report.addFile(file.filePath());
-            if (!isReported)
-                streams.out << file.filePath() << '\n';
-        }
-        if (!result.isOk())
-            return failed(result.error);
+    const MvExportResult result = targets.write(document.pageSource(sources, found).part(chosen), streams);
+    report.addMissingFotos(result.missingFotos);
+    for (const QFileInfo &file : result.files) {
+        report.addFile(file.filePath());
+        if (!isReported && !targets.isStandardOutput() && !streams.isQuiet)
+            streams.out << file.filePath() << '\n';
     }
+    if (!result.isOk())
+        return failed(result.error);
     if (isReported)
         streams.out << report.toJson();
     else

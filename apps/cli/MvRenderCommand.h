@@ -7,6 +7,7 @@
 #include "MvRenderEntries.h"
 
 class MvCliValues;
+class MvRenderTargets;
 
 /// "render": prints a calendar into files: that of a project, one made of photos, or one that options describe.
 class MvRenderCommand : public MvCliCommand
@@ -23,10 +24,8 @@ public:
 private:
     /// What of the call decides on its own, so that it must not be given beside a project.
     static void excludeDecidedByProject(MvCliValues &values);
-    /// What is wrong with the names of the files, or keeps them from being written.
-    static Result checkTargets(const QStringList &paths, const MvPageSource &pages, int dpi);
     static Result write(const MvCalendarDocument &document, const QList<int> &pages, const MvRenderEntries &entries,
-                        const MvCliArguments &arguments, int dpi, const Streams &streams);
+                        const MvRenderTargets &targets, bool isReported, const Streams &streams);
     /// Loads the entries that were asked for and has the pages show them.
     static MvRenderEntries takeEntries(const MvCliValues &values, const MvCliProject &project,
                                        MvCalendarDocument &document);

@@ -1189,6 +1189,14 @@
         <source>Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch; 3 validate: etwas würde schlecht gedruckt.</source>
         <translation>Exit codes: 0 done; 1 something could not be read or written; 2 the call was wrong; 3 validate: something would print badly.</translation>
     </message>
+    <message>
+        <source>--quiet und --verbose schließen einander aus</source>
+        <translation>--quiet and --verbose exclude each other</translation>
+    </message>
+    <message>
+        <source>Was immer gelten soll, steht in ~/.config/mvcalendar/mvcalendar.conf, eine Zeile „country = AT“ je Option.</source>
+        <translation>What is always wanted goes into ~/.config/mvcalendar/mvcalendar.conf, a line “country = AT” for each option.</translation>
+    </message>
 </context>
 <context>
     <name>MvCliArguments</name>
@@ -1250,6 +1258,53 @@
     <message>
         <source>das Projekt; --project kann wegbleiben</source>
         <translation>the project; --project may be left out</translation>
+    </message>
+    <message>
+        <source>nur Fehler nennen, keine Hinweise</source>
+        <translation>tell errors only, no hints</translation>
+    </message>
+    <message>
+        <source>auch nennen, was gerade geschieht</source>
+        <translation>also tell what is going on</translation>
+    </message>
+    <message>
+        <source>ohne die eigenen Einstellungen (mvcalendar.conf)</source>
+        <translation>without the settings of one&apos;s own (mvcalendar.conf)</translation>
+    </message>
+</context>
+<context>
+    <name>MvCliConfig</name>
+    <message>
+        <source>%1 ist keine Datei</source>
+        <translation>%1 is not a file</translation>
+    </message>
+    <message>
+        <source>%1: die Datei ist zu groß für Einstellungen</source>
+        <translation>%1: the file is too large for settings</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Abschnitt; erlaubt sind die Befehle: %2</source>
+        <translation>%1 is no section; allowed are the commands: %2</translation>
+    </message>
+    <message>
+        <source>„%1“ gibt es hier nicht; erlaubt sind %2</source>
+        <translation>“%1” does not exist here; allowed are %2</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2</source>
+        <translation>%1, line %2</translation>
+    </message>
+    <message>
+        <source>%1 kennt --%2 nicht</source>
+        <translation>%1 does not know --%2</translation>
+    </message>
+    <message>
+        <source>--%1 nimmt keinen Wert</source>
+        <translation>--%1 takes no value</translation>
+    </message>
+    <message>
+        <source>nach --%1 fehlt der Wert</source>
+        <translation>after --%1 the value is missing</translation>
     </message>
 </context>
 <context>
@@ -2168,10 +2223,6 @@
 <context>
     <name>MvExportTarget</name>
     <message>
-        <source>%1: die Endung muss .pdf, .png oder .svg sein</source>
-        <translation>%1: the name must end in .pdf, .png or .svg</translation>
-    </message>
-    <message>
         <source>%1: den Ordner %2 gibt es nicht</source>
         <translation>%1: the folder %2 does not exist</translation>
     </message>
@@ -2182,6 +2233,10 @@
     <message>
         <source>%1 ist ein Ordner</source>
         <translation>%1 is a folder</translation>
+    </message>
+    <message>
+        <source>%1: die Endung muss .pdf, .png, .jpg, .tif oder .svg sein</source>
+        <translation>%1: the name must end in .pdf, .png, .jpg, .tif or .svg</translation>
     </message>
 </context>
 <context>
@@ -2237,12 +2292,12 @@
 <context>
     <name>MvFileNamePattern</name>
     <message>
-        <source>%1: unbekannter Platzhalter; erlaubt sind %m (Monat), %y (Jahr), %n (Seite) und %% (Prozentzeichen)</source>
-        <translation>%1: unknown placeholder; allowed are %m (month), %y (year), %n (page) and %% (percent sign)</translation>
-    </message>
-    <message>
         <source>%1: bei %2 Seiten braucht der Dateiname einen Platzhalter, der sie unterscheidet: %n (Seite), %m (Monat) oder %y-%m</source>
         <translation>%1: with %2 pages the file name needs a placeholder that tells them apart: %n (page), %m (month) or %y-%m</translation>
+    </message>
+    <message>
+        <source>%1: unbekannter Platzhalter; erlaubt sind %m (Monat), %y (Jahr), %n (Seite), %r (Region) und %% (Prozentzeichen)</source>
+        <translation>%1: unknown placeholder; allowed are %m (month), %y (year), %n (page), %r (region) and %% (per cent sign)</translation>
     </message>
 </context>
 <context>
@@ -4361,14 +4416,7 @@ The context menu replaces it by another photo.</translation>
     </message>
 </context>
 <context>
-    <name>MvPictureIntake</name>
-    <message>
-        <source>Das Bild ließ sich nicht umwandeln.</source>
-        <translation>The picture could not be converted.</translation>
-    </message>
-</context>
-<context>
-    <name>MvPngExporter</name>
+    <name>MvPictureExporter</name>
     <message>
         <source>%1 Punkte je Zoll gehen nicht; erlaubt sind %2 bis %3</source>
         <translation>%1 dots per inch are not possible; allowed are %2 to %3</translation>
@@ -4380,6 +4428,13 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Der Speicher reicht nicht für eine Seite</source>
         <translation>There is not enough memory for a page</translation>
+    </message>
+</context>
+<context>
+    <name>MvPictureIntake</name>
+    <message>
+        <source>Das Bild ließ sich nicht umwandeln.</source>
+        <translation>The picture could not be converted.</translation>
     </message>
 </context>
 <context>
@@ -5081,24 +5136,12 @@ Save it under another name or in another folder.</translation>
         <translation>author in the PDF</translation>
     </message>
     <message>
-        <source>Punkte je Zoll der PNG-Dateien (300)</source>
-        <translation>dots per inch of the PNG files (300)</translation>
-    </message>
-    <message>
-        <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png oder .svg</source>
-        <translation>-o FILE is missing; allowed are names that end in .pdf, .png or .svg</translation>
-    </message>
-    <message>
         <source>Schrift nicht installiert, eine andere tritt an ihre Stelle: %1</source>
         <translation>font not installed, another takes its place: %1</translation>
     </message>
     <message>
         <source>29. Februar gibt es im gedruckten Zeitraum nicht: %1</source>
         <translation>29 February does not occur in the printed period: %1</translation>
-    </message>
-    <message>
-        <source>ZAHL</source>
-        <translation>NUMBER</translation>
     </message>
     <message>
         <source>DATEI</source>
@@ -5123,10 +5166,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>json: gibt statt der Dateinamen ein JSON-Objekt aus, das Dateien, Texte ohne Platz, Fotos mit ihrer Auflösung und nicht Lesbares nennt</source>
         <translation>json: prints a JSON object instead of the file names, which names files, texts without room, photos with their resolution and what could not be read</translation>
-    </message>
-    <message>
-        <source>-o: .pdf, oder .png und .svg je Seite; %m Monat, %y Jahr, %n Seite, auch für ein .pdf je Seite; mehrfach erlaubt</source>
-        <translation>-o: .pdf, or .png and .svg for each page; %m month, %y year, %n page, also for one .pdf for each page; may be given several times</translation>
     </message>
     <message>
         <source>Titel der Dateien (Kalender 2027), mit --photos auch auf dem Titelblatt</source>
@@ -5218,6 +5257,77 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Texte ohne Platz: %1, der erste: %2; --report json nennt alle</source>
         <translation>Texts without room: %1, the first: %2; --report json names all</translation>
+    </message>
+</context>
+<context>
+    <name>MvRenderTargets</name>
+    <message>
+        <source>%1: Seite %2 von %3</source>
+        <translation>%1: page %2 of %3</translation>
+    </message>
+    <message>
+        <source>ZAHL</source>
+        <translation>NUMBER</translation>
+    </message>
+    <message>
+        <source>Punkte je Zoll der Bilder (300)</source>
+        <translation>dots per inch of pictures (300)</translation>
+    </message>
+    <message>
+        <source>so viele Seiten zugleich (je Kern eine, höchstens vier)</source>
+        <translation>so many pages at a time (one per core, at most four)</translation>
+    </message>
+    <message>
+        <source>Dateien ersetzen, die es schon gibt (so, wenn nichts anderes eingestellt ist)</source>
+        <translation>replace files that are already there (unless set otherwise)</translation>
+    </message>
+    <message>
+        <source>nichts ersetzen: gibt es eine der Dateien schon, wird keine geschrieben</source>
+        <translation>replace nothing: if one of the files is already there, none is written</translation>
+    </message>
+    <message>
+        <source>was -o - ausgibt (pdf)</source>
+        <translation>what -o - gives (pdf)</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>.pdf, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch für ein .pdf je Seite; - ist die Standardausgabe; mehrfach erlaubt</source>
+        <translation>.pdf, or .png, .jpg, .tif and .svg for each page; %m month, %y year, %n page, %r region, also for a .pdf of each page; - is the standard output; may be repeated</translation>
+    </message>
+    <message>
+        <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png, .jpg, .tif oder .svg, und -</source>
+        <translation>-o FILE is missing; allowed are names in .pdf, .png, .jpg, .tif or .svg, and -</translation>
+    </message>
+    <message>
+        <source>-o - steht allein: die Standardausgabe kann nur eine Datei sein</source>
+        <translation>-o - stands alone: the standard output can be one file only</translation>
+    </message>
+    <message>
+        <source>Standardausgabe</source>
+        <translation>standard output</translation>
+    </message>
+    <message>
+        <source>--format sagt, was -o - ausgibt; bei einer Datei sagt es ihr Name</source>
+        <translation>--format says what -o - gives; with a file its name says so</translation>
+    </message>
+    <message>
+        <source>-o -: was herauskommt, liest kein Mensch; leiten Sie es in eine Datei</source>
+        <translation>-o -: what comes out is nothing to read; send it into a file</translation>
+    </message>
+    <message>
+        <source>-o -: %1 Seiten sind ebenso viele Bilder; wählen Sie eine mit --pages, oder --format pdf</source>
+        <translation>-o -: %1 pages are as many pictures; choose one by --pages, or --format pdf</translation>
+    </message>
+    <message>
+        <source>%1 gibt es schon; --overwrite ersetzt es</source>
+        <translation>%1 is already there; --overwrite replaces it</translation>
+    </message>
+    <message>
+        <source>die Ausgabe lässt sich nicht schreiben</source>
+        <translation>the output cannot be written</translation>
     </message>
 </context>
 <context>

@@ -3,7 +3,7 @@
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
-#include "MvProject/MvPngExporter.h"
+#include "MvProject/MvPictureExporter.h"
 #include "MvProject/MvSvgExporter.h"
 #include "MvTest.h"
 
@@ -196,7 +196,7 @@ void tst_MvExporters::png()
     for (const auto &[dpi, size] : {std::pair(300, QSize(2480, 3508)),
                                     {254, QSize(2100, 2970)}, // a pixel per tenth of a millimetre
                                     {10, QSize(83, 117)}}) {
-        const MvExportResult result = MvPngExporter::write(pages, path(u"s-%m.png"_s), dpi);
+        const MvExportResult result = MvPictureExporter::write(pages, path(u"s-%m.png"_s), dpi);
         QCOMPARE(result.error, QString());
         QCOMPARE(result.files, (QList<QFileInfo>{QFileInfo(path(u"s-01.png"_s)), QFileInfo(path(u"s-02.png"_s))}));
         QCOMPARE(filesInFolder(), (QStringList{u"s-01.png"_s, u"s-02.png"_s}));
@@ -298,12 +298,12 @@ void tst_MvExporters::refuses()
 {
     const QString pattern = path(u"s-%m.png"_s);
     const MvExportResult results[] = {
-        MvPngExporter::write(source(u"A9"_s, 0, 1), pattern, 100), // no size
-        MvPngExporter::write(source(u"A6"_s, 0, 0), pattern, 100), // no pages
-        MvPngExporter::write(source(u"A6"_s, 0, 1), pattern, 9),
-        MvPngExporter::write(source(u"A6"_s, 0, 1), pattern, 1201),
-        MvPngExporter::write(source(u"A0"_s, 0, 1), pattern, 1200), // too many pixels
-        MvPngExporter::write(source(u"A6"_s, 0, 2), path(u"s.png"_s), 100),
+        MvPictureExporter::write(source(u"A9"_s, 0, 1), pattern, 100), // no size
+        MvPictureExporter::write(source(u"A6"_s, 0, 0), pattern, 100), // no pages
+        MvPictureExporter::write(source(u"A6"_s, 0, 1), pattern, 9),
+        MvPictureExporter::write(source(u"A6"_s, 0, 1), pattern, 1201),
+        MvPictureExporter::write(source(u"A0"_s, 0, 1), pattern, 1200), // too many pixels
+        MvPictureExporter::write(source(u"A6"_s, 0, 2), path(u"s.png"_s), 100),
     };
     for (const MvExportResult &result : results)
         QVERIFY(!result.isOk() && result.files.isEmpty());
@@ -318,7 +318,7 @@ void tst_MvExporters::failingTargets()
     const MvPageSource pages = source(u"A6"_s, 0, 1);
     for (const QString &target : {u"nowhere/k-%m"_s, u"file/k-%m"_s, u"folder"_s}) {
         for (const MvExportResult &result :
-             {MvPdfExporter::write(pages, QFileInfo(path(target))), MvPngExporter::write(pages, path(target), 50),
+             {MvPdfExporter::write(pages, QFileInfo(path(target))), MvPictureExporter::write(pages, path(target), 50),
               MvSvgExporter::write(pages, path(target))}) {
             QVERIFY(!result.isOk() && result.files.isEmpty());
             QVERIFY2(result.error.startsWith(path(target.section(u'%', 0, 0))), qPrintable(result.error));

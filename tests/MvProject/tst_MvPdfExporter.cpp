@@ -2,7 +2,7 @@
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
-#include "MvProject/MvPngExporter.h"
+#include "MvProject/MvPictureExporter.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
 
@@ -150,7 +150,7 @@ QString tst_MvPdfExporter::write(const MvPageSource &pages) const
 QString tst_MvPdfExporter::difference(const MvPageSource &pages, int tolerance) const
 {
     const QString file = write(pages);
-    if (file.isEmpty() || !MvPngExporter::write(pages, path(u"%m.png"_s), dpi).isOk())
+    if (file.isEmpty() || !MvPictureExporter::write(pages, path(u"%m.png"_s), dpi).isOk())
         return u"not written"_s;
     outputOf(u"pdftoppm"_s, {u"-r"_s, QString::number(dpi), u"-png"_s, u"-singlefile"_s, file, path(u"pdf"_s)});
     const QImage fine(path(u"pdf.png"_s));

@@ -42,3 +42,10 @@ QByteArray MvProgramTest::entriesFile(const QByteArray &name, const QByteArray &
            "T00:00:00</DateTime>\n    <Recurrent>true</Recurrent>\n"
            "    <UUID>{6f1a2a2e-7a53-4f0e-9d55-0d0f6f5b1c01}</UUID>\n  </CalendarEvent>\n</CalendarEvents>\n";
 }
+
+QByteArray MvProgramTest::outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    return process.waitForFinished() ? process.readAllStandardOutput() : QByteArray();
+}

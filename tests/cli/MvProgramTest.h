@@ -34,6 +34,8 @@ protected:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     static void write(const QString &path, const QByteArray &content);
     static QByteArray contentOf(const QString &path);
+    /// What another program prints; a missing one fails the test.
+    static QByteArray outputOf(const QString &program, const QStringList &arguments);
     /// A list with one entry.
     static QByteArray entriesFile(const QByteArray &name, const QByteArray &date);
 

@@ -4,7 +4,7 @@
 #include "MvGUIWidgets/MvSpinBox.h"
 #include "MvProject/MvExportTarget.h"
 #include "MvProject/MvPageSource.h"
-#include "MvProject/MvPngExporter.h"
+#include "MvProject/MvPictureExporter.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvPagePreview.h"
@@ -217,7 +217,7 @@ void MvExportDialog::addResolution(QFormLayout *form)
     m_dpi = new MvSpinBox(this);
     m_dpi->setObjectName(u"exportDpi"_s);
     m_dpi->setKeyboardTracking(true); // the size in pixels follows while typing
-    m_dpi->setRange(MvPngExporter::minimumDpi, MvPngExporter::maximumDpi);
+    m_dpi->setRange(MvPictureExporter::minimumDpi, MvPictureExporter::maximumDpi);
     m_dpi->setSuffix(tr(" dpi"));
     m_dpi->setValue(MvStudioSettings::text(u"export/dpi"_s, QString::number(defaultDpi)).toInt());
     form->addRow(labelFor(tr("&Auflösung:"), m_dpi), m_dpi);
@@ -316,7 +316,7 @@ QStringList MvExportDialog::notes(const QStringList &files) const
 {
     QStringList lines;
     if (m_dpi) {
-        const QSize size = MvPngExporter::pixelSize(m_document.format(), m_dpi->value());
+        const QSize size = MvPictureExporter::pixelSize(m_document.format(), m_dpi->value());
         lines.append(tr("Jedes Bild wird %1 × %2 Pixel groß.").arg(size.width()).arg(size.height()));
     }
     const int existing =

@@ -486,8 +486,10 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
     source.missingFotos = [own] { return own->unread(); };
     source.title = m_title.isEmpty() ? MvCalendarTitle::ofRange(m_range) : m_title;
     source.author = m_author;
-    if (const MvLocale language = holidayConfig().language(); language.isValid())
+    if (const MvLocale language = holidayConfig().language(); language.isValid()) {
         source.language = language.name().replace(u'_', u'-');
+        source.region = holidayConfig().province().isEmpty() ? language.country() : holidayConfig().province();
+    }
     return source;
 }
 

@@ -37,6 +37,7 @@ public:
     QString title;
     QString author;
     QString language = QStringLiteral("de-DE"); // of the texts on the pages
+    QString region;                             // whose holidays they show: its code, or the country's; for file names
 
     /// Some of the pages, by their places in the list, counted from 0; places out of range are ignored. They keep
     /// their numbers.

@@ -4,7 +4,7 @@
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
-#include "MvProject/MvPngExporter.h"
+#include "MvProject/MvPictureExporter.h"
 #include "MvProject/MvSvgExporter.h"
 
 #include <QFileInfo>
@@ -46,16 +46,18 @@ MvExportTarget::MvExportTarget(const QString &path, Pdf pdf)
 
 MvFileNamePattern::Paths MvExportTarget::files(const MvPageSource &pages) const
 {
-    if (m_suffix != u"pdf"_s && m_suffix != u"png"_s && m_suffix != u"svg"_s)
-        return {{tr("%1: die Endung muss .pdf, .png oder .svg sein").replace(u"%1"_s, m_path), {}}, {}};
+    if (m_suffix != u"pdf"_s && m_suffix != u"svg"_s && !isPicture())
+        return {{tr("%1: die Endung muss .pdf, .png, .jpg, .tif oder .svg sein").replace(u"%1"_s, m_path), {}}, {}};
     if (m_suffix != u"pdf"_s || isPdfPerPage())
         return MvFileNamePattern(m_path).paths(pages);
+    if (m_pdf == Pdf::OneOfEachPage)
+        return {{}, {MvFileNamePattern(m_path).pathOfAll(pages)}};
     return {{}, {m_path}};
 }
 
 MvOutcome MvExportTarget::checkSize(const MvPageFormat &format, int dpi) const
 {
-    return m_suffix == u"png"_s ? MvPngExporter::checkSize(format, dpi) : MvOutcome();
+    return isPicture() ? MvPictureExporter::checkSize(format, dpi) : MvOutcome();
 }
 
 MvOutcome MvExportTarget::checkPlace() const
@@ -81,14 +83,19 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
     if (isPdfPerPage())
         result = writePdfPerPage(pages, names.paths, observer);
     else if (m_suffix == u"pdf"_s)
-        result = MvPdfExporter::write(pages, QFileInfo(m_path), observer);
-    else if (m_suffix == u"png"_s)
-        result = MvPngExporter::write(pages, m_path, dpi, observer);
+        result = MvPdfExporter::write(pages, QFileInfo(names.paths.constFirst()), observer, m_jobs);
+    else if (isPicture())
+        result = MvPictureExporter::write(pages, m_path, dpi, observer, m_jobs);
     else
-        result = MvSvgExporter::write(pages, m_path, observer);
+        result = MvSvgExporter::write(pages, m_path, observer, m_jobs);
     if (pages.missingFotos)
         result.missingFotos = pages.missingFotos();
     return result;
+}
+
+bool MvExportTarget::isPicture() const
+{
+    return MvPictureExporter::suffixes().contains(m_suffix);
 }
 
 bool MvExportTarget::isPdfPerPage() const
@@ -99,12 +106,13 @@ bool MvExportTarget::isPdfPerPage() const
 }
 
 MvExportResult MvExportTarget::writePdfPerPage(const MvPageSource &pages, const QStringList &paths,
-                                               MvExportObserver *observer)
+                                               MvExportObserver *observer) const
 {
     MvExportResult all;
     for (int page = 0; page < paths.size() && all.isOk(); ++page) {
         PageObserver pageObserver(observer, page, int(paths.size()));
-        const MvExportResult one = MvPdfExporter::write(pages.part({page}), QFileInfo(paths[page]), &pageObserver);
+        const MvExportResult one =
+            MvPdfExporter::write(pages.part({page}), QFileInfo(paths[page]), &pageObserver, m_jobs);
         all.files += one.files;
         all.error = one.error;
         all.isCancelled = one.isCancelled;
@@ -114,5 +122,5 @@ MvExportResult MvExportTarget::writePdfPerPage(const MvPageSource &pages, const 
 
 int MvExportTarget::imageResolution(int dpi) const
 {
-    return m_suffix == u"png"_s ? dpi : MvPdfExporter::resolution;
+    return isPicture() ? dpi : MvPdfExporter::resolution;
 }

@@ -12,8 +12,8 @@ class MvExportObserver;
 class MvPageFormat;
 class MvPageSource;
 
-/// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .png or
-/// .svg.
+/// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .svg, or
+/// a picture of MvPictureExporter.
 class MVPROJECT_EXPORT MvExportTarget
 {
     Q_DECLARE_TR_FUNCTIONS(MvExportTarget)
@@ -25,12 +25,14 @@ public:
     explicit MvExportTarget(const QString &path, Pdf pdf = Pdf::OneFile);
 
     QString path() const { return m_path; }
-    /// The dots per inch at which images are needed, when PNG files are to have so many.
+    /// How many pages are made at a time; 0, as it is at first, for what suits the computer.
+    void setJobs(int jobs) { m_jobs = jobs; }
+    /// The dots per inch at which images are needed, when pictures are to have so many.
     int imageResolution(int dpi) const;
 
     /// The files that the pages become. What is wrong with the name itself, for these pages, is an error.
     MvFileNamePattern::Paths files(const MvPageSource &pages) const;
-    /// Whether pages of this format may become pictures of that resolution; other files than PNG have no limits.
+    /// Whether pages of this format may become pictures of that resolution; other files have no limits.
     MvOutcome checkSize(const MvPageFormat &format, int dpi) const;
     /// Whether a file of that name can be written, as far as it can be told beforehand.
     MvOutcome checkPlace() const;
@@ -40,10 +42,12 @@ public:
 
 private:
     bool isPdfPerPage() const;
-    static MvExportResult writePdfPerPage(const MvPageSource &pages, const QStringList &paths,
-                                          MvExportObserver *observer);
+    bool isPicture() const;
+    MvExportResult writePdfPerPage(const MvPageSource &pages, const QStringList &paths,
+                                   MvExportObserver *observer) const;
 
     QString m_path;
     QString m_suffix; // lower case
     Pdf m_pdf;
+    int m_jobs = 0;
 };

@@ -14,9 +14,10 @@ class MvPageSource;
 
 /// A file name for each of several pages: "seite-%m.png".
 ///
-/// Placeholders: %m the month (01 to 12), %y the year, %n the page's number (two digits or more, from 01), %% a
-/// percent sign. They are replaced in the file's name only, never in that of its folder. For pages that are no month's,
-/// %m is "cover", "back", or the month and "free" ("05-free").
+/// Placeholders: %m the month (01 to 12), %y the year, %n the page's number (two digits or more, from 01), %r the
+/// calendar's region ("BY", or its country where it has none), %% a percent sign. They are replaced in the file's name
+/// only, never in that of its folder. For pages that are no month's, %m is "cover", "back", or the month and "free"
+/// ("05-free").
 class MVPROJECT_EXPORT MvFileNamePattern
 {
     Q_DECLARE_TR_FUNCTIONS(MvFileNamePattern)
@@ -27,7 +28,9 @@ public:
     {}
 
     /// The name of one page's file, counted from 0. An unknown placeholder stays as it stands.
-    QString path(const QDate &month, int page, MvPageKind kind = MvPageKind::Month) const;
+    QString path(const QDate &month, int page, MvPageKind kind = MvPageKind::Month, const QString &region = {}) const;
+    /// The name of one file with all pages, in which %r alone is replaced: all else is as it stands.
+    QString pathOfAll(const MvPageSource &pages) const;
 
     struct Paths : MvOutcome
     {

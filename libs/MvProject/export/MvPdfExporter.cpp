@@ -44,8 +44,9 @@ MvPaintRecording recordPage(const MvPageSource &source, int page)
 class PageWriter
 {
 public:
-    explicit PageWriter(MvPdfDocument &document)
+    PageWriter(MvPdfDocument &document, bool hasThread)
         : m_document(document)
+        , m_hasThread(hasThread)
     {
         m_thread.setMaxThreadCount(1);
         m_thread.setExpiryTimeout(-1);
@@ -54,19 +55,24 @@ public:
     void add(const MvPdfDocument::Page &page, const MvPaintRecording &recording)
     {
         finish();
-        m_thread.start([this, page, recording] { m_document.addPage(page, recording, MvPdfExporter::resolution); });
+        const auto put = [this, page, recording] { m_document.addPage(page, recording, MvPdfExporter::resolution); };
+        if (m_hasThread)
+            m_thread.start(put);
+        else
+            put();
     }
     void finish() { m_thread.waitForDone(); }
 
 private:
     MvPdfDocument &m_document;
+    bool m_hasThread;
     QThreadPool m_thread;
 };
 
-MvOutcome paintPages(const MvPageSource &source, const QString &path, MvExportObserver *observer)
+MvOutcome paintPages(const MvPageSource &source, const QString &path, MvExportObserver *observer, int jobs)
 {
     MvPdfDocument document({source.title, source.author, source.language});
-    PageWriter writer(document);
+    PageWriter writer(document, jobs != 1);
     const int total = int(source.pages.size());
     const auto tell = [&](int done) {
         if (observer && done > 0)
@@ -97,7 +103,8 @@ MvOutcome copyToTarget(const QString &path, const QFileInfo &target)
 
 } // namespace
 
-MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo &target, MvExportObserver *observer)
+MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo &target, MvExportObserver *observer,
+                                    int jobs)
 {
     MvOutcome outcome = source.check();
     const QTemporaryDir folder(QDir::tempPath() + u"/mvcalendar-XXXXXX"_s);
@@ -105,7 +112,7 @@ MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo 
     if (outcome.isOk() && !folder.isValid())
         outcome.error = folder.errorString();
     if (outcome.isOk())
-        outcome = paintPages(source, path, observer);
+        outcome = paintPages(source, path, observer, jobs);
     const bool isDone = outcome.isOk() && !isCancelled(observer); // finishing the file can take long
     if (isDone)
         outcome = copyToTarget(path, target);

@@ -16,7 +16,7 @@ public:
 
     /// Pages are painted one after the other into a temporary file, so that memory does not grow with what has been
     /// painted, and the finished file takes the target's name at the end. Painting happens in the thread that calls,
-    /// what is done with the painted page in another one.
+    /// what is done with the painted page in another one, unless `jobs` is 1.
     static MvExportResult write(const MvPageSource &source, const QFileInfo &target,
-                                MvExportObserver *observer = nullptr);
+                                MvExportObserver *observer = nullptr, int jobs = 0);
 };

@@ -2,11 +2,10 @@
 #include "MvProject/MvSvgExporter.h"
 
 #include "MvCore/MvMath.h"
-#include "MvCore/MvSafeFileWriter.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvPaint/MvPrintableText.h"
-#include "MvProject/MvExportObserver.h"
 #include "MvProject/MvFileNamePattern.h"
+#include "MvProject/MvPageFiles.h"
 #include "MvProject/MvPageSource.h"
 
 #include <QBuffer>
@@ -19,53 +18,47 @@ namespace {
 
 constexpr int resolution = 300;
 
-QByteArray paintSvg(const MvPageSource &source, int page)
+constexpr double scale = resolution / MvMath::tenthMillimetresPerInch;
+
+MvPaintRecording recordPage(const MvPageSource &source, int page)
 {
-    constexpr double scale = resolution / MvMath::tenthMillimetresPerInch;
-    const QSizeF size = source.format.trimSize() * scale;
+    QSvgGenerator metrics; // measures as the one that writes
+    metrics.setResolution(resolution);
+    metrics.setSize((source.format.trimSize() * scale).toSize());
+    MvPaintRecorder recorder(&metrics);
+    QPainter painter(&recorder);
+    source.paintPage(painter, page, {}, scale);
+    painter.end();
+    return recorder.recording();
+}
+
+MvPageFiles::Content encode(const MvPaintRecording &recording, const QSizeF &size, const QString &title)
+{
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
     generator.setResolution(resolution);
     generator.setSize(size.toSize()); // written in millimetres, rounded to the dot
     generator.setViewBox(QRectF(QPointF(), size));
-    generator.setTitle(
-        MvPrintableText::onOneLine(source.title).toHtmlEscaped()); // the generator writes it without escaping
-    MvPaintRecorder recorder(&generator);
-    QPainter recordingPainter(&recorder);
-    source.paintPage(recordingPainter, page, {}, scale);
-    recordingPainter.end();
+    generator.setTitle(MvPrintableText::onOneLine(title).toHtmlEscaped()); // it is written without escaping
     QPainter painter(&generator);
-    recorder.recording().clipped({QPointF(), size}).replay(painter); // the generator knows no clips
+    recording.clipped({QPointF(), size}).replay(painter); // the generator knows no clips
     painter.end();
-    return buffer.data();
+    return {buffer.data(), {}};
 }
 
 } // namespace
 
-MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &pattern, MvExportObserver *observer)
+MvExportResult MvSvgExporter::write(const MvPageSource &source, const QString &pattern, MvExportObserver *observer,
+                                    int jobs)
 {
     const MvFileNamePattern::Paths names = MvFileNamePattern(pattern).paths(source);
     for (const MvOutcome &checked : {source.check(), MvOutcome(names)}) {
         if (!checked.isOk())
             return MvExportResult::failed(checked.error);
     }
-    const QStringList &paths = names.paths;
-    MvExportResult result;
-    for (int page = 0; page < paths.size(); ++page) {
-        const QByteArray bytes = paintSvg(source, page);
-        result.isCancelled = observer && observer->isCancelled();
-        if (result.isCancelled)
-            break;
-        const QString error =
-            MvSafeFileWriter::write(QFileInfo(paths[page]), bytes, MvSafeFileWriter::Backups::None).error;
-        if (!error.isEmpty()) {
-            result.error = u"%1: %2"_s.arg(paths[page], error);
-            break;
-        }
-        result.files.append(QFileInfo(paths[page]));
-        if (observer)
-            observer->pagesDone(page + 1, int(paths.size()));
-    }
-    return result;
+    const auto record = [&](int page) { return recordPage(source, page); };
+    const auto made = [size = source.format.trimSize() * scale, title = source.title](
+                          const MvPaintRecording &recording) { return encode(recording, size, title); };
+    return MvPageFiles::write(names.paths, jobs, record, made, observer);
 }

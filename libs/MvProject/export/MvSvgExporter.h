@@ -11,7 +11,8 @@ class MvPageSource;
 class MVPROJECT_EXPORT MvSvgExporter
 {
 public:
-    /// File names by MvFileNamePattern. The first page that cannot be written ends the export.
+    /// File names by MvFileNamePattern. The first page that cannot be written ends the export. So many pages are made
+    /// at a time as `jobs` says, 0 for what suits the computer.
     static MvExportResult write(const MvPageSource &source, const QString &pattern,
-                                MvExportObserver *observer = nullptr);
+                                MvExportObserver *observer = nullptr, int jobs = 0);
 };

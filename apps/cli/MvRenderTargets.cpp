@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRenderTargets.h"
+
+#include "MvCliValues.h"
+#include "MvProject/MvExportObserver.h"
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPictureExporter.h"
+
+#include <QFile>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int usualDpi = 300;
+constexpr int mostJobs = 64;
+const QString standardOutput = u"-"_s;
+
+/// Tells a person who asked for it how far the pages are.
+class Progress : public MvExportObserver
+{
+public:
+    Progress(const QString &name, QTextStream *stream)
+        : m_name(name)
+        , m_stream(stream)
+    {}
+
+    void pagesDone(int done, int total) override
+    {
+        if (m_stream) {
+            *m_stream << MvRenderTargets::tr("%1: Seite %2 von %3").arg(m_name).arg(done).arg(total) << '\n';
+            m_stream->flush();
+        }
+    }
+    bool isCancelled() const override { return false; }
+
+private:
+    QString m_name;
+    QTextStream *m_stream;
+};
+
+} // namespace
+
+QList<MvCliOption> MvRenderTargets::options()
+{
+    return {{u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der Bilder (300)")},
+            {u"jobs"_s, tr("ZAHL"), tr("so viele Seiten zugleich (je Kern eine, höchstens vier)")},
+            {u"overwrite"_s, {}, tr("Dateien ersetzen, die es schon gibt (so, wenn nichts anderes eingestellt ist)")},
+            {u"no-overwrite"_s, {}, tr("nichts ersetzen: gibt es eine der Dateien schon, wird keine geschrieben")},
+            {u"format"_s, u"pdf|png|jpg|tif|svg"_s, tr("was -o - ausgibt (pdf)")},
+            {u"output"_s, tr("DATEI"),
+             tr(".pdf, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch für ein "
+                ".pdf je Seite; - ist die Standardausgabe; mehrfach erlaubt"),
+             true}};
+}
+
+MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &arguments)
+    : m_dpi(values.number(u"dpi"_s, MvPictureExporter::minimumDpi, MvPictureExporter::maximumDpi, usualDpi))
+    , m_replaces(!values.has(u"no-overwrite"_s))
+{
+    const int jobs = values.number(u"jobs"_s, 1, mostJobs, 0);
+    const QString format = values.choice(u"format"_s, {u"pdf"_s, u"png"_s, u"jpg"_s, u"tif"_s, u"svg"_s});
+    values.exclude(u"overwrite"_s, u"no-overwrite"_s);
+    QStringList paths = arguments.values(u"output"_s);
+    m_name = paths.value(0);
+    if (paths.isEmpty())
+        values.setError(tr("es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png, .jpg, .tif oder .svg, und -"));
+    if (paths.contains(standardOutput)) {
+        if (paths.size() > 1)
+            values.setError(tr("-o - steht allein: die Standardausgabe kann nur eine Datei sein"));
+        values.exclude(u"output"_s, u"report"_s);
+        m_name = tr("Standardausgabe");
+        m_folder = std::make_unique<QTemporaryDir>();
+        if (!m_folder->isValid())
+            values.setError(m_folder->errorString());
+        paths = {m_folder->filePath(u"kalender."_s + format)};
+    } else if (values.has(u"format"_s)) {
+        values.setError(tr("--format sagt, was -o - ausgibt; bei einer Datei sagt es ihr Name"));
+    }
+    for (const QString &path : std::as_const(paths)) {
+        m_targets.append(MvExportTarget(path, MvExportTarget::Pdf::OneOfEachPage));
+        m_targets.last().setJobs(jobs);
+    }
+}
+
+MvCliCommand::Result MvRenderTargets::check(const MvPageSource &pages) const
+{
+    if (isStandardOutput() && isatty(STDOUT_FILENO))
+        return {MvCliCommand::Misused, tr("-o -: was herauskommt, liest kein Mensch; leiten Sie es in eine Datei")};
+    if (isStandardOutput() && m_targets.constFirst().files(pages).paths.size() != 1)
+        return {MvCliCommand::Misused,
+                tr("-o -: %1 Seiten sind ebenso viele Bilder; wählen Sie eine mit --pages, oder --format pdf")
+                    .arg(pages.pages.size())};
+    for (const MvExportTarget &target : m_targets)
+        if (const MvOutcome named = target.files(pages); !named.isOk())
+            return {MvCliCommand::Misused, named.error};
+    for (const MvExportTarget &target : m_targets) {
+        for (const MvOutcome &checked : {target.checkPlace(), target.checkSize(pages.format, m_dpi)})
+            if (!checked.isOk())
+                return {MvCliCommand::Failed, checked.error};
+        const QStringList files = target.files(pages).paths;
+        for (const QString &file : files) {
+            if (!m_replaces && QFile::exists(file))
+                return {MvCliCommand::Failed, tr("%1 gibt es schon; --overwrite ersetzt es").replace(u"%1"_s, file)};
+        }
+    }
+    return {};
+}
+
+MvExportResult MvRenderTargets::write(const MvPageSource &pages, const MvCliCommand::Streams &streams) const
+{
+    MvExportResult all;
+    for (const MvExportTarget &target : m_targets) {
+        Progress progress(isStandardOutput() ? m_name : target.path(), streams.progress);
+        const MvExportResult one = target.write(pages, m_dpi, &progress);
+        all.files += one.files;
+        all.missingFotos += one.missingFotos;
+        all.error = one.error;
+        if (all.error.isEmpty() && isStandardOutput())
+            all.error = copy(one.files.value(0), streams.out).error;
+        if (!all.error.isEmpty())
+            break;
+    }
+    return all;
+}
+
+MvOutcome MvRenderTargets::copy(const QFileInfo &file, QTextStream &out)
+{
+    QFile source(file.filePath());
+    if (!source.open(QIODevice::ReadOnly))
+        return {source.errorString(), {}};
+    out.flush();
+    QIODevice *device = out.device();
+    while (device && !source.atEnd()) {
+        constexpr qint64 portion = 1 << 20;
+        const QByteArray bytes = source.read(portion);
+        if (bytes.isEmpty() || device->write(bytes) != bytes.size())
+            device = nullptr;
+    }
+    if (auto *written = qobject_cast<QFileDevice *>(device); !written || !written->flush())
+        return {tr("die Ausgabe lässt sich nicht schreiben"), {}};
+    return {};
+}

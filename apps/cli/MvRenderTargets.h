@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#pragma once
+
+#include "MvCliArguments.h"
+#include "MvCliCommand.h"
+#include "MvProject/MvExportResult.h"
+#include "MvProject/MvExportTarget.h"
+
+#include <QCoreApplication>
+#include <QList>
+#include <QTemporaryDir>
+
+#include <memory>
+
+class MvCliValues;
+
+/// Where "render" writes: the files of --output, or the standard output, and whether these may replace others.
+class MvRenderTargets
+{
+    Q_DECLARE_TR_FUNCTIONS(MvRenderTargets)
+
+public:
+    static QList<MvCliOption> options();
+
+    /// Mistakes are left with the values, which keep the first one.
+    MvRenderTargets(MvCliValues &values, const MvCliArguments &arguments);
+
+    int dpi() const { return m_dpi; }
+    /// What hints are about.
+    QString name() const { return m_name; }
+    bool isStandardOutput() const { return m_folder != nullptr; }
+
+    /// What is wrong with the names for these pages, or keeps the files from being written.
+    MvCliCommand::Result check(const MvPageSource &pages) const;
+    /// Writes one target after the other; the first that fails ends it. Every file that was written is in the result.
+    MvExportResult write(const MvPageSource &pages, const MvCliCommand::Streams &streams) const;
+
+private:
+    static MvOutcome copy(const QFileInfo &file, QTextStream &out);
+
+    QList<MvExportTarget> m_targets;
+    QString m_name;
+    int m_dpi = 0;
+    bool m_replaces = true;
+    std::unique_ptr<QTemporaryDir> m_folder; // of what goes to the standard output
+};

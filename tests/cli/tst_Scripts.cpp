@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProgramTest.h"
+
+#include <QImage>
+
+using namespace Qt::StringLiterals;
+
+/// What scripts and shells rely on: standard output, placeholders, settings that always hold, completion.
+class tst_Scripts : public MvProgramTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void standardOutput_data();
+    void standardOutput();
+    void samePicturesByAnyNumberOfJobs();
+    void keepsWhatIsThere();
+    void saysAsMuchAsWanted();
+    void settings_data();
+    void settings();
+    void completes_data();
+    void completes();
+};
+
+void tst_Scripts::standardOutput_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QByteArray>("begin"); // of the file, or of the error
+    QTest::newRow("a calendar") << u"--year 2027 -o -"_s << QByteArray("%PDF-");
+    QTest::newRow("one picture") << u"--year 2027 --pages 3 --dpi 20 -o - -f png"_s << QByteArray("\x89PNG");
+    QTest::newRow("another kind") << u"--year 2027 --pages 3 --dpi 20 -fjpg -o -"_s << QByteArray("\xff\xd8");
+    QTest::newRow("several pictures") << u"--year 2027 -f png -o -"_s << QByteArray("mvcalendar: -o -: 12 Seiten");
+    QTest::newRow("beside a file") << u"-o - -o k.pdf"_s << QByteArray("mvcalendar: -o - steht allein");
+    QTest::newRow("beside a report") << u"-o - --report json"_s << QByteArray("mvcalendar: --output und --report");
+    QTest::newRow("a kind for a file") << u"-f png -o k.pdf"_s << QByteArray("mvcalendar: --format sagt, was -o -");
+}
+
+void tst_Scripts::standardOutput()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const QByteArray, begin);
+    const Call call = run(u"render "_s + arguments);
+    const bool isError = begin.startsWith("mvcalendar");
+    QVERIFY2((isError ? call.err : call.out).startsWith(begin), call.err + call.out.left(100));
+    QCOMPARE(call.exitCode, isError ? 2 : 0);
+    QCOMPARE(isError ? call.out : call.err, QByteArray());
+    QCOMPARE(files(), QStringList());
+}
+
+void tst_Scripts::samePicturesByAnyNumberOfJobs()
+{
+    const QString calendar = u"render --country AT --region Tirol --year 2027 --dpi 40 "_s;
+    QCOMPARE(run(calendar + u"-j1 -o a-%r-%m.png -o a.svg --pages 5 -o a-%r.pdf"_s).err, QByteArray());
+    QCOMPARE(run(calendar + u"-j1 -o a-%r-%m.png"_s).exitCode, 0);
+    QCOMPARE(run(calendar + u"--jobs 7 -o b-%r-%m.png -o b-%n.svg"_s).exitCode, 0);
+    QVERIFY(files().contains(u"a-7.pdf"_s));
+    for (int month = 1; month <= 12; ++month) {
+        const QString name = u"-7-%1.png"_s.arg(month, 2, 10, QChar(u'0'));
+        QCOMPARE(contentOf(path(u'a' + name)), contentOf(path(u'b' + name)));
+        QCOMPARE(QImage(path(u'a' + name)).size(), QSize(468, 331));
+    }
+    QCOMPARE(contentOf(path(u"a.svg"_s)), contentOf(path(u"b-05.svg"_s)));
+}
+
+void tst_Scripts::keepsWhatIsThere()
+{
+    write(path(u"k-02.png"_s), "mine");
+    const Call refused = run(u"render --year 2027 --dpi 20 --no-overwrite -o k-%m.png"_s);
+    QCOMPARE(refused.exitCode, 1);
+    QCOMPARE(refused.err, QByteArray("mvcalendar: k-02.png gibt es schon; --overwrite ersetzt es\n"));
+    QCOMPARE(files(), QStringList{u"k-02.png"_s});
+    QCOMPARE(contentOf(path(u"k-02.png"_s)), QByteArray("mine"));
+    QCOMPARE(run(u"render --year 2027 --dpi 20 --overwrite -o k-%m.png"_s).exitCode, 0);
+    QVERIFY(contentOf(path(u"k-02.png"_s)) != "mine");
+}
+
+void tst_Scripts::saysAsMuchAsWanted()
+{
+    const QString calendar = u"render --country US --vacations --year 2027 --pages 1-2 -o k.pdf"_s;
+    QVERIFY(!run(calendar).err.isEmpty()); // a hint: no vacations known
+    const Call quiet = run(calendar + u" -q"_s);
+    QCOMPARE(quiet.out + quiet.err, QByteArray());
+    QCOMPARE(quiet.exitCode, 0);
+    QVERIFY(run(calendar + u" -v"_s).err.contains("k.pdf: Seite 2 von 2\n"));
+    QCOMPARE(run(calendar + u" -v -q"_s).exitCode, 2);
+}
+
+void tst_Scripts::settings_data()
+{
+    QTest::addColumn<QByteArray>("settings");
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<QByteArray>("said"); // the file, or the error
+    const auto row = [](const char *name, const QByteArray &settings, const QString &arguments,
+                        const QByteArray &said) { QTest::newRow(name) << settings << arguments << said; };
+    const QByteArray own = "# mine\ncountry = \"AT\"\nregion=Tirol\n[holidays]\nregion = Wien\n[render]\njobs = 1\n";
+    const QString file = u" -o k-%r.pdf"_s;
+    row("as the file says", own, file, "k-7.pdf\n");
+    row("the call comes first", own, u"-r Wien"_s + file, "k-9.pdf\n");
+    row("a region goes with its country", own, u"-c CH"_s + file, "k-CH.pdf\n");
+    row("for a command alone", "[holidays]\ncountry = AT\n", file, "k-DE.pdf\n");
+    row("not wanted", own, u"--no-config"_s + file, "k-DE.pdf\n");
+    row("a theme is nothing without photos", "theme = SEA\nlayout = MONTH_ONLY\n", file, "k-DE.pdf\n");
+    row("a value that makes no sense", "\npage = A99\n", file, "--page „A99“");
+    row("... and its place", "\npage = A99\n", file, "(set.conf, Zeile 2)");
+    row("no such option", "contry = AT", file, "set.conf, Zeile 1: „contry“ gibt es hier nicht");
+    row("what only a call can say", "[render]\noutput = k.pdf", file, "set.conf, Zeile 2: „output“ gibt es hier nicht");
+    row("no such command", "[rendr]\n", file, "set.conf, Zeile 1: [rendr] ist kein Abschnitt");
+    row("an option of another command", "[themes]\ncountry = AT\n", file, "k-DE.pdf\n");
+    row("no value", "country\n", file, "set.conf, Zeile 1: nach --country fehlt der Wert");
+    row("a switch with a value", "vacations = no\n", file, "set.conf, Zeile 1: --vacations nimmt keinen Wert");
+    row("no file", {}, file, "set.conf: ");
+}
+
+void tst_Scripts::settings()
+{
+    QFETCH(const QByteArray, settings);
+    QFETCH(const QString, arguments);
+    QFETCH(const QByteArray, said);
+    if (!settings.isEmpty())
+        write(path(u"set.conf"_s), settings);
+    const Call call = run(u"render --year 2027 --months 1 "_s + arguments, {{u"MVCALENDAR_CONFIG"_s, u"set.conf"_s}});
+    const bool isFile = said.startsWith("k-");
+    QVERIFY2((isFile ? call.out : call.err).contains(said), call.out + call.err);
+    QCOMPARE(call.exitCode, isFile ? 0 : 2);
+}
+
+void tst_Scripts::completes_data()
+{
+    QTest::addColumn<QString>("line"); // what was typed; its last word is being typed
+    QTest::addColumn<QStringList>("offered");
+    QTest::newRow("commands") << u"mvcalendar re"_s << QStringList{u"render"_s, u"regions"_s};
+    QTest::newRow("options") << u"mvcalendar render --year 2027 --no-ho"_s << QStringList{u"--no-holidays"_s};
+    QTest::newRow("regions of the country") << u"mvcalendar render --country AT -r 9"_s << QStringList{u"9"_s};
+    QTest::newRow("words of an option") << u"mvcalendar render --binding s"_s << QStringList{u"side"_s};
+    QTest::newRow("layouts") << u"mvcalendar render -l YEAR_P"_s << QStringList{u"YEAR_PLANNER"_s};
+    QTest::newRow("files are the shell's") << u"mvcalendar render --project fam"_s << QStringList();
+}
+
+/// As bash asks.
+void tst_Scripts::completes()
+{
+    QFETCH(const QString, line);
+    QFETCH(const QStringList, offered);
+    const QString program = QFileInfo(QStringLiteral(MV_PROGRAM)).path();
+    const QString script =
+        u"PATH=%1:$PATH; . %2/mvcalendar.bash; COMP_WORDS=(%3); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
+        "_mvcalendar; printf '%s\\n' \"${COMPREPLY[@]}\""_s.arg(program, QStringLiteral(MV_COMPLETION), line);
+    const QByteArray out = outputOf(u"bash"_s, {u"-c"_s, script});
+    QCOMPARE(QString::fromUtf8(out).split(u'\n', Qt::SkipEmptyParts), offered);
+}
+
+MV_TEST_MAIN(tst_Scripts)
+#include "tst_Scripts.moc"
