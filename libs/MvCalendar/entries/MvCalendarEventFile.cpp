@@ -283,8 +283,8 @@ MvCalendarEventFile::Content MvCalendarEventFile::readWithin(QXmlStreamReader &r
 
 QString MvCalendarEventFile::Skipped::describe() const
 {
-    return name.isEmpty() ? tr("Zeile %1: %2").arg(line).arg(reason)
-                          : tr("Zeile %1, „%2“: %3").arg(QString::number(line), name, reason);
+    return name.isEmpty() ? MvCalendarEventFile::tr("Zeile %1: %2").arg(line).arg(reason)
+                          : MvCalendarEventFile::tr("Zeile %1, „%2“: %3").arg(QString::number(line), name, reason);
 }
 
 QString MvCalendarEventFile::describe(const QList<Skipped> &skipped, int most)
@@ -293,7 +293,7 @@ QString MvCalendarEventFile::describe(const QList<Skipped> &skipped, int most)
     for (const Skipped &one : skipped.mid(0, most))
         lines.append(one.describe());
     if (skipped.size() > most)
-        lines.append(tr("… und %n weitere", nullptr, int(skipped.size()) - most));
+        lines.append(MvCalendarEventFile::tr("… und %n weitere", nullptr, int(skipped.size()) - most));
     return lines.join(u'\n');
 }
 

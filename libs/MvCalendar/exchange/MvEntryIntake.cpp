@@ -47,7 +47,11 @@ size_t keyOf(const MvCalendarEvent &event)
 
 QString MvEntryIntake::Report::describe() const
 {
-    return tr("%1 neu, %2 geändert, %3 gleich, %4 ausgelassen").arg(added).arg(changed).arg(equal).arg(skipped.size());
+    return MvEntryIntake::tr("%1 neu, %2 geändert, %3 gleich, %4 ausgelassen")
+        .arg(added)
+        .arg(changed)
+        .arg(equal)
+        .arg(skipped.size());
 }
 
 MvEntryIntake::Kind MvEntryIntake::kindOf(const QByteArray &begin)

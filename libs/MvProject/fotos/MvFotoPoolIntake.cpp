@@ -81,7 +81,7 @@ std::vector<Taken> takeAll(const QList<QFileInfo> &files, const MvFotoPoolIntake
 
 QString MvFotoPoolIntake::Skipped::toString() const
 {
-    return tr("%1: %2").arg(MvPrintableText::inShort(QFileInfo(path).fileName(), longestName), why);
+    return MvFotoPoolIntake::tr("%1: %2").arg(MvPrintableText::inShort(QFileInfo(path).fileName(), longestName), why);
 }
 
 QStringList MvFotoPoolIntake::Result::toStrings(int mostLines) const
@@ -96,9 +96,9 @@ QStringList MvFotoPoolIntake::Result::toStrings(int mostLines) const
     }
     const qsizetype unnamed = skipped.size() - others - lines.size();
     if (unnamed > 0)
-        lines.append(tr("… und %n weitere", nullptr, int(unnamed)));
+        lines.append(MvFotoPoolIntake::tr("… und %n weitere", nullptr, int(unnamed)));
     if (others > 0)
-        lines.append(tr("%n Dateien sind keine Fotos.", nullptr, others));
+        lines.append(MvFotoPoolIntake::tr("%n Dateien sind keine Fotos.", nullptr, others));
     if (known > 0)
         lines.append(tr("%n Fotos waren schon da.", nullptr, known));
     if (isCutShort)
