@@ -130,6 +130,12 @@ MvCliCommand::Result MvCli::runCommand(const MvCliCommand &command, const QStrin
     return result;
 }
 
+bool MvCli::hasPages(const QStringList &arguments) const
+{
+    const MvCliCommand *command = find(arguments.value(0));
+    return command && command->hasPages();
+}
+
 const MvCliCommand *MvCli::find(const QString &name) const
 {
     for (const auto &command : m_commands)

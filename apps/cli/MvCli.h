@@ -14,6 +14,8 @@ class MvCli
 public:
     MvCli();
 
+    /// Whether the call is of a command that lays out pages. No application needs to exist yet.
+    bool hasPages(const QStringList &arguments) const;
     /// Runs one call; the arguments do not hold the program's name. Gives the exit code.
     int run(const QStringList &arguments, QTextStream &out, QTextStream &err) const;
 

@@ -48,6 +48,8 @@ public:
     /// Calls as somebody would type them, without the program's name.
     virtual QStringList examples() const = 0;
 
+    /// Whether it lays out pages, for which the program needs fonts and all that belongs to them.
+    virtual bool hasPages() const { return false; }
     virtual Result run(const MvCliArguments &arguments, const Streams &streams) const = 0;
 
     /// Options that several commands share.

@@ -13,5 +13,6 @@ public:
     QString summary() const override;
     QList<MvCliOption> options() const override;
     QStringList examples() const override;
+    bool hasPages() const override { return true; }
     Result run(const MvCliArguments &arguments, const Streams &streams) const override;
 };

@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 
@@ -28,6 +29,14 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     std::fprintf(stderr, "mvcalendar: %s\n", message.simplified().toLocal8Bit().constData());
 }
 
+/// Fonts and pictures are there for pages alone: it takes as long to start them as to print a list.
+std::unique_ptr<QCoreApplication> createApplication(const MvCli &program, int &argc, char **argv)
+{
+    if (program.hasPages({QString::fromLocal8Bit(argc > 1 ? argv[1] : "")}))
+        return std::make_unique<QGuiApplication>(argc, argv);
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -36,7 +45,8 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen"); // no window is ever opened
     qInstallMessageHandler(printMessage);
 
-    QGuiApplication application(argc, argv);
+    const MvCli program;
+    const std::unique_ptr<QCoreApplication> application = createApplication(program, argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("mvcalendar"));
     QCoreApplication::setApplicationVersion(QStringLiteral(MV_VERSION));
     MvTranslations::install(MvTranslations::systemLanguage());
@@ -51,7 +61,7 @@ int main(int argc, char **argv)
         return MvCliCommand::Failed;
     QTextStream out(&standardOutput);
     QTextStream err(&standardError);
-    const int exitCode = MvCli().run(QCoreApplication::arguments().mid(1), out, err);
+    const int exitCode = program.run(QCoreApplication::arguments().mid(1), out, err);
     MvInitializer::instance().teardown();
     return exitCode;
 }
