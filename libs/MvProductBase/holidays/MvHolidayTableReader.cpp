@@ -5,6 +5,7 @@
 #include "MvXML/MvXMLParser.h"
 
 #include <QDebug>
+#include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +25,17 @@ QStringList words(const QDomElement &element, const QString &attribute)
     return MvXMLParser::textAttribute(element, attribute).split(u' ', Qt::SkipEmptyParts);
 }
 
+QString attribute(const QXmlStreamReader &reader, const QString &name)
+{
+    return reader.attributes().value(name).toString();
+}
+
+/// "2027-05-01"; an invalid one for all else.
+QDate dateOf(const QString &text)
+{
+    return QDate::fromString(text, Qt::ISODate);
+}
+
 } // namespace
 
 MvHolidayTableReader::MvHolidayTableReader(const QFileInfo &file)
@@ -32,7 +44,12 @@ MvHolidayTableReader::MvHolidayTableReader(const QFileInfo &file)
 
 void MvHolidayTableReader::complain(const QDomElement &element, const QString &message)
 {
-    m_problems.append(u"%1:%2: %3"_s.arg(m_file.filePath()).arg(element.lineNumber()).arg(message));
+    complain(element.lineNumber(), message);
+}
+
+void MvHolidayTableReader::complain(qint64 line, const QString &message)
+{
+    m_problems.append(u"%1:%2: %3"_s.arg(m_file.filePath()).arg(line).arg(message));
 }
 
 void MvHolidayTableReader::report() const
@@ -127,10 +144,9 @@ std::optional<MvHolidayTable::Entry> MvHolidayTableReader::readEntry(const QDomE
     return {};
 }
 
-QHash<QString, QString> MvHolidayTableReader::readNames(const QDomElement &element,
-                                                        const QHash<QString, QString> &common)
+QHash<QString, QString> MvHolidayTableReader::readNames(const QDomElement &element)
 {
-    QHash<QString, QString> names = common;
+    QHash<QString, QString> names;
     forEachChild(element, u"name"_s, [&names](const QDomElement &name) {
         const QString text = MvXMLParser::textAttribute(name, u"text"_s).simplified();
         if (!text.isEmpty())
@@ -176,41 +192,93 @@ bool MvHolidayTableReader::readRegions(const QDomElement &element, const MvHolid
     return true;
 }
 
+QString MvHolidayTableReader::problemOf(const MvSchoolVacationTable::Vacation &vacation)
+{
+    if (vacation.name.isEmpty() || !vacation.start.isValid() || !vacation.end.isValid())
+        return tr("Ferien ohne Namen, Anfang oder Ende");
+    const qint64 length = vacation.start.daysTo(vacation.end);
+    if (length < 0 || length > longestVacation)
+        return tr("\"%1\" endet vor dem Anfang oder dauert zu lange").arg(vacation.name);
+    return {};
+}
+
 std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacation(const QDomElement &element)
 {
     const MvSchoolVacationTable::Vacation vacation = {
         MvXMLParser::textAttribute(element, u"name"_s).simplified(), readNames(element),
-        QDate::fromString(MvXMLParser::textAttribute(element, u"start"_s), Qt::ISODate),
-        QDate::fromString(MvXMLParser::textAttribute(element, u"end"_s), Qt::ISODate)};
-    const qint64 length = vacation.start.daysTo(vacation.end);
-    if (vacation.name.isEmpty() || !vacation.start.isValid() || !vacation.end.isValid())
-        complain(element, tr("Ferien ohne Namen, Anfang oder Ende"));
-    else if (length < 0 || length > longestVacation)
-        complain(element, tr("\"%1\" endet vor dem Anfang oder dauert zu lange").arg(vacation.name));
-    else
+        dateOf(MvXMLParser::textAttribute(element, u"start"_s)), dateOf(MvXMLParser::textAttribute(element, u"end"_s))};
+    const QString problem = problemOf(vacation);
+    if (problem.isEmpty())
         return vacation;
+    complain(element, problem);
     return {};
 }
 
+/// As a stream: a country has thousands of them, and most calls need one year.
 void MvHolidayTableReader::readVacations(MvSchoolVacationTable &vacations)
 {
     if (!m_file.exists())
         return;
-    const QDomElement root = open(u"SchoolVacations"_s);
+    MvXMLLoader::Error error;
+    QXmlStreamReader reader(MvXMLLoader::loadBytes(m_file, &error));
     QHash<QString, QHash<QString, QString>> common; // by name: most vacations share their names with others
-    forEachChild(root, u"names"_s, [&common](const QDomElement &names) {
-        common.insert(MvXMLParser::textAttribute(names, u"of"_s).simplified(), readNames(names));
-    });
-    forEachChild(root, u"region"_s, [&](const QDomElement &region) {
-        forEachChild(region, u"vacation"_s, [&](const QDomElement &element) {
-            auto vacation = readVacation(element);
-            if (!vacation)
-                return;
-            vacation->names = readNames(element, common.value(vacation->name));
-            vacations.add(MvXMLParser::textAttribute(region, u"code"_s), *vacation);
-        });
-    });
+    QList<RegionVacation> read;
+    if (error.isError())
+        m_problems.append(error.describe(m_file));
+    else if (reader.readNextStartElement() && reader.name() != u"SchoolVacations"_s)
+        complain(reader.lineNumber(), tr("\"%1\" statt \"%2\"").arg(reader.name(), u"SchoolVacations"_s));
+    const bool isReadable = m_problems.isEmpty();
+    while (isReadable && reader.readNextStartElement()) {
+        if (reader.name() == u"names"_s) {
+            const QString name = attribute(reader, u"of"_s).simplified();
+            common.insert(name, readNames(reader));
+        } else if (reader.name() == u"region"_s) {
+            readRegionVacations(reader, read);
+        } else {
+            reader.skipCurrentElement();
+        }
+    }
+    for (auto &[region, vacation] : read) {
+        QHash<QString, QString> names = common.value(vacation.name);
+        names.insert(vacation.names);
+        vacation.names = names;
+        vacations.add(region, vacation);
+    }
     report();
+}
+
+void MvHolidayTableReader::readRegionVacations(QXmlStreamReader &reader, QList<RegionVacation> &vacations)
+{
+    const QString code = attribute(reader, u"code"_s);
+    while (reader.readNextStartElement()) {
+        if (reader.name() != u"vacation"_s) {
+            reader.skipCurrentElement();
+            continue;
+        }
+        const qint64 line = reader.lineNumber();
+        MvSchoolVacationTable::Vacation vacation{attribute(reader, u"name"_s).simplified(),
+                                                 {},
+                                                 dateOf(attribute(reader, u"start"_s)),
+                                                 dateOf(attribute(reader, u"end"_s))};
+        vacation.names = readNames(reader);
+        const QString problem = problemOf(vacation);
+        if (problem.isEmpty())
+            vacations.append({code, vacation});
+        else
+            complain(line, problem);
+    }
+}
+
+QHash<QString, QString> MvHolidayTableReader::readNames(QXmlStreamReader &reader)
+{
+    QHash<QString, QString> names;
+    while (reader.readNextStartElement()) {
+        const QString text = attribute(reader, u"text"_s).simplified();
+        if (reader.name() == u"name"_s && !text.isEmpty())
+            names.insert(attribute(reader, u"language"_s), text);
+        reader.skipCurrentElement();
+    }
+    return names;
 }
 
 QDomElement MvHolidayTableReader::ownCountry(const QString &country)

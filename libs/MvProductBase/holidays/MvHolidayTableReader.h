@@ -12,6 +12,8 @@
 #include <QString>
 #include <QStringList>
 
+class QXmlStreamReader;
+
 /// Reads one file of holidays or school vacations; docs/holidays.md describes the formats.
 ///
 /// What is malformed is left out and the rest is read. A file that is not well-formed gives nothing. Either way one
@@ -44,19 +46,32 @@ public:
     QStringList problems() const { return m_problems; }
 
 private:
+    struct RegionVacation
+    {
+        QString region;
+        MvSchoolVacationTable::Vacation vacation;
+    };
+
     QDomElement open(const QString &rootName);
     QDomElement ownCountry(const QString &country);
     MvHolidayTable::Region readRegion(const QDomElement &element);
     std::optional<MvHolidayTable::Entry> readEntry(const QDomElement &element, const MvHolidayTable &table);
-    /// The names of the element in other languages, over those that are common to its name.
-    static QHash<QString, QString> readNames(const QDomElement &element, const QHash<QString, QString> &common = {});
+    /// The names of the element in other languages.
+    static QHash<QString, QString> readNames(const QDomElement &element);
     std::optional<MvSchoolVacationTable::Vacation> readVacation(const QDomElement &element);
+    /// Of the region that the reader is in, which it leaves.
+    void readRegionVacations(QXmlStreamReader &reader, QList<RegionVacation> &vacations);
+    /// Of the element that the reader is in, which it leaves.
+    static QHash<QString, QString> readNames(QXmlStreamReader &reader);
+    /// Why a vacation is none; empty if it is one.
+    static QString problemOf(const MvSchoolVacationTable::Vacation &vacation);
     bool readYear(const QDomElement &element, const QString &attribute, std::optional<int> &year);
     bool readExceptions(const QDomElement &element, MvHolidayTable::Entry &entry);
     bool readRegions(const QDomElement &element, const MvHolidayTable &table, QStringList &regions);
     void readOwnVacations(const QDomElement &country, const MvHolidayTable &table, MvSchoolVacationTable &vacations);
 
     void complain(const QDomElement &element, const QString &message);
+    void complain(qint64 line, const QString &message);
     void report() const;
 
     QFileInfo m_file;
