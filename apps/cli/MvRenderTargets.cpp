@@ -49,9 +49,10 @@ QList<MvCliOption> MvRenderTargets::options()
             {u"jobs"_s, tr("ZAHL"), tr("so viele Seiten zugleich (je Kern eine, höchstens vier)")},
             {u"overwrite"_s, {}, tr("Dateien ersetzen, die es schon gibt (so, wenn nichts anderes eingestellt ist)")},
             {u"no-overwrite"_s, {}, tr("nichts ersetzen: gibt es eine der Dateien schon, wird keine geschrieben")},
-            {u"format"_s, u"pdf|png|jpg|tif|svg"_s, tr("was -o - ausgibt (pdf)")},
+            {u"format"_s, u"pdf|html|png|jpg|tif|svg"_s, tr("was -o - ausgibt (pdf)")},
             {u"output"_s, tr("DATEI"),
-             tr(".pdf, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch für ein "
+             tr(".pdf, .html, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch "
+                "für ein "
                 ".pdf je Seite; - ist die Standardausgabe; mehrfach erlaubt"),
              true}};
 }
@@ -61,12 +62,12 @@ MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &argu
     , m_replaces(!values.has(u"no-overwrite"_s))
 {
     const int jobs = values.number(u"jobs"_s, 1, mostJobs, 0);
-    const QString format = values.choice(u"format"_s, {u"pdf"_s, u"png"_s, u"jpg"_s, u"tif"_s, u"svg"_s});
+    const QString format = values.choice(u"format"_s, {u"pdf"_s, u"html"_s, u"png"_s, u"jpg"_s, u"tif"_s, u"svg"_s});
     values.exclude(u"overwrite"_s, u"no-overwrite"_s);
     QStringList paths = arguments.values(u"output"_s);
     m_name = paths.value(0);
     if (paths.isEmpty())
-        values.setError(tr("es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png, .jpg, .tif oder .svg, und -"));
+        values.setError(tr("es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .html, .png, .jpg, .tif oder .svg, und -"));
     if (paths.contains(standardOutput)) {
         if (paths.size() > 1)
             values.setError(tr("-o - steht allein: die Standardausgabe kann nur eine Datei sein"));

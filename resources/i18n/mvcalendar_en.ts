@@ -2235,8 +2235,8 @@
         <translation>%1 is a folder</translation>
     </message>
     <message>
-        <source>%1: die Endung muss .pdf, .png, .jpg, .tif oder .svg sein</source>
-        <translation>%1: the name must end in .pdf, .png, .jpg, .tif or .svg</translation>
+        <source>%1: die Endung muss .pdf, .html, .png, .jpg, .tif oder .svg sein</source>
+        <translation>%1: the name must end in .pdf, .html, .png, .jpg, .tif or .svg</translation>
     </message>
 </context>
 <context>
@@ -3468,6 +3468,13 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>ddd dd.MM.yyyy</source>
         <translation>ddd d MMM yyyy</translation>
+    </message>
+</context>
+<context>
+    <name>MvHtmlExporter</name>
+    <message>
+        <source>Auf diesen Seiten gibt es nichts zu lesen</source>
+        <translation>There is nothing to read on these pages</translation>
     </message>
 </context>
 <context>
@@ -5294,14 +5301,6 @@ Save it under another name or in another folder.</translation>
         <translation>FILE</translation>
     </message>
     <message>
-        <source>.pdf, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch für ein .pdf je Seite; - ist die Standardausgabe; mehrfach erlaubt</source>
-        <translation>.pdf, or .png, .jpg, .tif and .svg for each page; %m month, %y year, %n page, %r region, also for a .pdf of each page; - is the standard output; may be repeated</translation>
-    </message>
-    <message>
-        <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .png, .jpg, .tif oder .svg, und -</source>
-        <translation>-o FILE is missing; allowed are names in .pdf, .png, .jpg, .tif or .svg, and -</translation>
-    </message>
-    <message>
         <source>-o - steht allein: die Standardausgabe kann nur eine Datei sein</source>
         <translation>-o - stands alone: the standard output can be one file only</translation>
     </message>
@@ -5328,6 +5327,14 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>die Ausgabe lässt sich nicht schreiben</source>
         <translation>the output cannot be written</translation>
+    </message>
+    <message>
+        <source>.pdf, .html, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch für ein .pdf je Seite; - ist die Standardausgabe; mehrfach erlaubt</source>
+        <translation>.pdf, .html, or .png, .jpg, .tif and .svg for each page; %m month, %y year, %n page, %r region, also for a .pdf of each page; - is the standard output; may be repeated</translation>
+    </message>
+    <message>
+        <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .html, .png, .jpg, .tif oder .svg, und -</source>
+        <translation>-o FILE is missing; allowed are names in .pdf, .html, .png, .jpg, .tif or .svg, and -</translation>
     </message>
 </context>
 <context>

@@ -29,6 +29,8 @@ void tst_Scripts::standardOutput_data()
     QTest::newRow("a calendar") << u"--year 2027 -o -"_s << QByteArray("%PDF-");
     QTest::newRow("one picture") << u"--year 2027 --pages 3 --dpi 20 -o - -f png"_s << QByteArray("\x89PNG");
     QTest::newRow("another kind") << u"--year 2027 --pages 3 --dpi 20 -fjpg -o -"_s << QByteArray("\xff\xd8");
+    QTest::newRow("to be read") << u"--year 2027 -f html -o -"_s
+                                << QByteArray("<!DOCTYPE html>\n<html lang=\"de-DE\">");
     QTest::newRow("several pictures") << u"--year 2027 -f png -o -"_s << QByteArray("mvcalendar: -o -: 12 Seiten");
     QTest::newRow("beside a file") << u"-o - -o k.pdf"_s << QByteArray("mvcalendar: -o - steht allein");
     QTest::newRow("beside a report") << u"-o - --report json"_s << QByteArray("mvcalendar: --output und --report");

@@ -4,6 +4,7 @@
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
 #include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvExportFotos.h"
+#include "MvProject/MvPagePainter.h"
 #include "MvProject/MvPageSource.h"
 
 #include <QPainter>
@@ -482,6 +483,9 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
         own->end(page);
         if (found)
             found(page, findings);
+    };
+    source.content = [document = *this, sources](int page) {
+        return MvPagePainter(document.m_pages[page], document.m_format).content({document.context(), sources});
     };
     source.missingFotos = [own] { return own->unread(); };
     source.title = m_title.isEmpty() ? MvCalendarTitle::ofRange(m_range) : m_title;

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvCalendariumFit.h"
 #include "MvProject/MvFotoPainter.h"
 #include "MvProject/MvFotoVeil.h"
@@ -12,6 +13,7 @@
 #include "MvProject/MvVeilField.h"
 
 #include <QPainter>
+#include <QSet>
 
 #include <algorithm>
 
@@ -120,15 +122,53 @@ QDate MvPagePainter::beginningOfYear(const MvDateRange &range) const
     return start.addMonths(months - (months % monthsPerYear + monthsPerYear) % monthsPerYear);
 }
 
+/// The calendarium's month, and how it is shown.
+MvCalendariumContentConfig MvPagePainter::contentOf(const MvCalendariumElement &shown,
+                                                    const MvCalendariumAppearance &appearance,
+                                                    const MvDateRange &range) const
+{
+    const bool isYear = appearance.type().traits().range == MvCalendariumTraits::Range::Year;
+    const QDate month = isYear ? beginningOfYear(range) : m_page.contentConfig().date();
+    return monthsAhead(m_page.contentConfig().moveToDay(month).moveToDayInMonth(1), shown.monthOffset());
+}
+
+MvPageContent MvPagePainter::content(const Pass &pass) const
+{
+    MvPageContent content;
+    content.name = MvCalendarTitle::ofPage(m_page);
+    content.ground = MvPageInks(m_page).ground();
+    content.ink = MvPageInks(m_page).text();
+    const MvPageTextPainter texts(m_page, m_format, m_elements, pass.context);
+    QSet<QDate> known;
+    for (const MvPageElement &element : m_elements) {
+        if (element.text()) {
+            content.texts += texts.lines(*element.text());
+            continue;
+        }
+        const MvCalendariumElement *shown = element.calendarium();
+        if (!shown)
+            continue;
+        const MvCalendariumAppearance appearance = appearanceOf(*shown, m_page.appearance());
+        const auto made =
+            renderer(appearance, contentOf(*shown, appearance, pass.context.range), pass.context.range, pass.sources);
+        const bool isMonth = appearance.type().traits().range == MvCalendariumTraits::Range::Calendar;
+        const QDate first = isMonth ? made->startDate() : made->startDateOfCalendar();
+        const QDate end = isMonth ? first : made->endDateOfCalendar();
+        for (QDate month = first; month <= end && appearance.type() != CALENDAR_YEAR_ONLY; month = month.addMonths(1)) {
+            if (!known.contains(month))
+                content.months.append(MvMonthTable::of(*made, month));
+            known.insert(month);
+        }
+    }
+    return content;
+}
+
 void MvPagePainter::paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
                                      MvPageFindings &found) const
 {
     const MvCalendariumElement &shown = *element.calendarium();
     const MvCalendariumAppearance appearance = appearanceOf(shown, m_page.appearance());
-    const bool isYear = appearance.type().traits().range == MvCalendariumTraits::Range::Year;
-    const QDate month = isYear ? beginningOfYear(pass.context.range) : m_page.contentConfig().date();
-    const MvCalendariumContentConfig content =
-        monthsAhead(m_page.contentConfig().moveToDay(month).moveToDayInMonth(1), shown.monthOffset());
+    const MvCalendariumContentConfig content = contentOf(shown, appearance, pass.context.range);
     const auto make = [&](const MvCalendariumAppearance &look) {
         auto made = renderer(look, content, pass.context.range, pass.sources);
         if (shown.isOnFoto())

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvProject/MvCalendarPage.h"
+#include "MvProject/MvPageContent.h"
 
 #include <memory>
 
@@ -37,6 +38,9 @@ public:
     /// Calendaria, and texts above them, on the veils that they need on photos.
     MvPageFindings paintCalendaria(QPainter &painter, const Pass &pass) const;
 
+    /// What there is to read: the page's texts, and the months of its calendaria, each month once.
+    MvPageContent content(const Pass &pass) const;
+
     static std::unique_ptr<MvCalendariumRenderer> renderer(const MvCalendariumAppearance &appearance,
                                                            const MvCalendariumContentConfig &content,
                                                            const MvDateRange &documentRange,
@@ -48,6 +52,8 @@ public:
 private:
     QList<MvVeilField> veilFields(const MvPageTextPainter &texts) const;
     QDate beginningOfYear(const MvDateRange &range) const;
+    MvCalendariumContentConfig contentOf(const MvCalendariumElement &shown, const MvCalendariumAppearance &appearance,
+                                         const MvDateRange &range) const;
     void paintCalendarium(QPainter &painter, const MvPageElement &element, QRectF rect, const Pass &pass,
                           MvPageFindings &found) const;
 

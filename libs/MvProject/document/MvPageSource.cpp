@@ -25,6 +25,8 @@ MvPageSource MvPageSource::part(const QList<int> &places) const
     }
     if (paint)
         some.paint = [paint = paint, taken](QPainter &painter, int page) { paint(painter, taken[page]); };
+    if (content)
+        some.content = [content = content, taken](int page) { return content(taken[page]); };
     return some;
 }
 

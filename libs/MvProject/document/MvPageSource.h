@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvCore/MvOutcome.h"
+#include "MvProject/MvPageContent.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/MvPageKind.h"
 #include "MvProject/mvproject_export.h"
@@ -31,6 +32,8 @@ public:
     /// Paints the page with the number, counted from 0, in tenths of a millimetre with the origin at the top left
     /// corner of the trimmed page.
     std::function<void(QPainter &painter, int page)> paint;
+    /// What there is to read on a page, for files that are read; may be missing.
+    std::function<MvPageContent(int page)> content;
     /// The paths of the photos that could not be painted so far; may be missing.
     std::function<QStringList()> missingFotos;
 

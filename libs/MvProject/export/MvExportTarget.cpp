@@ -2,6 +2,7 @@
 #include "MvProject/MvExportTarget.h"
 
 #include "MvProject/MvExportObserver.h"
+#include "MvProject/MvHtmlExporter.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPictureExporter.h"
@@ -46,9 +47,10 @@ MvExportTarget::MvExportTarget(const QString &path, Pdf pdf)
 
 MvFileNamePattern::Paths MvExportTarget::files(const MvPageSource &pages) const
 {
-    if (m_suffix != u"pdf"_s && m_suffix != u"svg"_s && !isPicture())
-        return {{tr("%1: die Endung muss .pdf, .png, .jpg, .tif oder .svg sein").replace(u"%1"_s, m_path), {}}, {}};
-    if (m_suffix != u"pdf"_s || isPdfPerPage())
+    if (!isDocument() && m_suffix != u"svg"_s && !isPicture())
+        return {{tr("%1: die Endung muss .pdf, .html, .png, .jpg, .tif oder .svg sein").replace(u"%1"_s, m_path), {}},
+                {}};
+    if (!isDocument() || isDocumentPerPage())
         return MvFileNamePattern(m_path).paths(pages);
     if (m_pdf == Pdf::OneOfEachPage)
         return {{}, {MvFileNamePattern(m_path).pathOfAll(pages)}};
@@ -80,10 +82,10 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
     if (!names.isOk())
         return MvExportResult::failed(names.error);
     MvExportResult result;
-    if (isPdfPerPage())
-        result = writePdfPerPage(pages, names.paths, observer);
-    else if (m_suffix == u"pdf"_s)
-        result = MvPdfExporter::write(pages, QFileInfo(names.paths.constFirst()), observer, m_jobs);
+    if (isDocumentPerPage())
+        result = writeDocuments(pages, names.paths, observer);
+    else if (isDocument())
+        result = writeDocument(pages, names.paths.constFirst(), observer);
     else if (isPicture())
         result = MvPictureExporter::write(pages, m_path, dpi, observer, m_jobs);
     else
@@ -93,26 +95,38 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
     return result;
 }
 
+bool MvExportTarget::isDocument() const
+{
+    return m_suffix == u"pdf"_s || m_suffix == u"html"_s;
+}
+
+MvExportResult MvExportTarget::writeDocument(const MvPageSource &pages, const QString &path,
+                                             MvExportObserver *observer) const
+{
+    if (m_suffix == u"html"_s)
+        return MvHtmlExporter::write(pages, QFileInfo(path), observer);
+    return MvPdfExporter::write(pages, QFileInfo(path), observer, m_jobs);
+}
+
 bool MvExportTarget::isPicture() const
 {
     return MvPictureExporter::suffixes().contains(m_suffix);
 }
 
-bool MvExportTarget::isPdfPerPage() const
+bool MvExportTarget::isDocumentPerPage() const
 {
     const QString name = QFileInfo(m_path).fileName().remove(u"%%"_s);
-    return m_pdf == Pdf::OneOfEachPage && m_suffix == u"pdf"_s &&
+    return m_pdf == Pdf::OneOfEachPage && isDocument() &&
            (name.contains(u"%m"_s) || name.contains(u"%y"_s) || name.contains(u"%n"_s));
 }
 
-MvExportResult MvExportTarget::writePdfPerPage(const MvPageSource &pages, const QStringList &paths,
-                                               MvExportObserver *observer) const
+MvExportResult MvExportTarget::writeDocuments(const MvPageSource &pages, const QStringList &paths,
+                                              MvExportObserver *observer) const
 {
     MvExportResult all;
     for (int page = 0; page < paths.size() && all.isOk(); ++page) {
         PageObserver pageObserver(observer, page, int(paths.size()));
-        const MvExportResult one =
-            MvPdfExporter::write(pages.part({page}), QFileInfo(paths[page]), &pageObserver, m_jobs);
+        const MvExportResult one = writeDocument(pages.part({page}), paths[page], &pageObserver);
         all.files += one.files;
         all.error = one.error;
         all.isCancelled = one.isCancelled;

@@ -12,14 +12,15 @@ class MvExportObserver;
 class MvPageFormat;
 class MvPageSource;
 
-/// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .svg, or
-/// a picture of MvPictureExporter.
+/// A file, or a pattern for files, that a calendar is to be written to; its suffix says what it becomes: .pdf, .html,
+/// .svg, or a picture of MvPictureExporter.
 class MVPROJECT_EXPORT MvExportTarget
 {
     Q_DECLARE_TR_FUNCTIONS(MvExportTarget)
 
 public:
-    /// Whether a PDF whose name has a placeholder of MvFileNamePattern is that one file, or becomes one of each page.
+    /// Whether a PDF or HTML document whose name has a placeholder of MvFileNamePattern is that one file, or becomes
+    /// one of each page.
     enum class Pdf { OneFile, OneOfEachPage };
 
     explicit MvExportTarget(const QString &path, Pdf pdf = Pdf::OneFile);
@@ -41,10 +42,13 @@ public:
     MvExportResult write(const MvPageSource &pages, int dpi, MvExportObserver *observer = nullptr) const;
 
 private:
-    bool isPdfPerPage() const;
+    /// Holds all pages, unless its name asks for one of each page.
+    bool isDocument() const;
+    bool isDocumentPerPage() const;
     bool isPicture() const;
-    MvExportResult writePdfPerPage(const MvPageSource &pages, const QStringList &paths,
-                                   MvExportObserver *observer) const;
+    MvExportResult writeDocument(const MvPageSource &pages, const QString &path, MvExportObserver *observer) const;
+    MvExportResult writeDocuments(const MvPageSource &pages, const QStringList &paths,
+                                  MvExportObserver *observer) const;
 
     QString m_path;
     QString m_suffix; // lower case

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProductBase/MvCalendariumHolidayConfig.h"
+#include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvHtmlExporter.h"
+#include "MvProject/MvPageSource.h"
+#include "MvTest.h"
+
+#include <QDomDocument>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+/// Pages as documents to be read: what a reader and a screen reader find in them.
+class tst_MvHtmlExporter : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyDayOnce_data();
+    void everyDayOnce();
+    void saysWhatThePageSays();
+    void foreignTextsAreText();
+};
+
+namespace {
+
+MvCalendarDocument calendarOf(const QString &layout, const QString &language, const QString &region, int months)
+{
+    MvCalendarDocument document;
+    document.setRange({QDate(2027, 1, 1), QDate(2027, 1, 1).addMonths(months).addDays(-1)});
+    document.setHolidayConfig(MvCalendariumHolidayConfig(
+        MvLocale(language), region,
+        MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS | FEATURE_CALENDAR_WEEKS)));
+    MvCalendariumAppearance appearance;
+    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
+    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
+    document.setAppearance(appearance);
+    document.setFormat(MvPageFormat::fromName(u"A4"_s));
+    return document;
+}
+
+/// The document as one of XML, which it is but for its first line and the tags that HTML leaves open.
+QDomDocument parsed(const QByteArray &html)
+{
+    QDomDocument document;
+    QString error;
+    if (!document.setContent(html.mid(html.indexOf('\n')), &error))
+        qWarning() << error;
+    return document;
+}
+
+QList<QDomElement> all(const QDomNode &parent, const QString &tag)
+{
+    const QDomNodeList found =
+        parent.isDocument() ? parent.toDocument().elementsByTagName(tag) : parent.toElement().elementsByTagName(tag);
+    QList<QDomElement> elements;
+    for (int i = 0; i < found.size(); ++i)
+        elements.append(found.at(i).toElement());
+    return elements;
+}
+
+} // namespace
+
+void tst_MvHtmlExporter::everyDayOnce_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<int>("months");
+    QTest::addColumn<int>("pages");
+    QTest::newRow("grids") << u"MONTH_GRID_CLASSIC"_s << 12 << 12;
+    QTest::newRow("lists") << u"FAMILY_PLANNER"_s << 3 << 3;
+    QTest::newRow("strips") << u"ONE_ROW_STRIP"_s << 2 << 2;
+    QTest::newRow("month alone") << u"MONTH_ONLY"_s << 2 << 2;
+    QTest::newRow("a year") << u"YEAR_PLANNER"_s << 12 << 1;
+}
+
+void tst_MvHtmlExporter::everyDayOnce()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const int, months);
+    QFETCH(const int, pages);
+    const MvCalendarDocument calendar = calendarOf(layout, u"de_DE"_s, u"BY"_s, months);
+    const QByteArray html = MvHtmlExporter::document(calendar.pageSource());
+    QCOMPARE(html, MvHtmlExporter::document(calendar.pageSource()));
+    QVERIFY(html.startsWith("<!DOCTYPE html>\n"));
+    static const QRegularExpression leftOpen(u"<(?!meta)[^>]*/>"_s); // which HTML reads as an opening tag
+    QVERIFY(!QString::fromUtf8(html).contains(leftOpen));
+
+    const QDomDocument document = parsed(html);
+    QCOMPARE(all(document, u"section"_s).size(), pages);
+    QCOMPARE(all(document, u"table"_s).size(), months);
+    QDate expected(2027, 1, 1);
+    for (const QDomElement &row : all(document, u"tr"_s)) {
+        const QList<QDomElement> cells = all(row, u"td"_s);
+        for (int column = 0; column < cells.size(); ++column) {
+            const QList<QDomElement> times = all(cells[column], u"time"_s);
+            if (times.isEmpty())
+                continue;
+            QCOMPARE(times.constFirst().attribute(u"datetime"_s), expected.toString(Qt::ISODate));
+            QCOMPARE(times.constFirst().text(), QString::number(expected.day()));
+            QCOMPARE(column + 1, expected.dayOfWeek());
+            expected = expected.addDays(1);
+        }
+    }
+    QCOMPARE(expected, QDate(2027, 1, 1).addMonths(months));
+}
+
+void tst_MvHtmlExporter::saysWhatThePageSays()
+{
+    const MvCalendarDocument calendar = calendarOf(u"MONTH_GRID_CLASSIC"_s, u"fr_CH"_s, u"GE"_s, 12);
+    const QDomDocument document = parsed(MvHtmlExporter::document(calendar.pageSource().part({4})));
+    QCOMPARE(document.documentElement().attribute(u"lang"_s), u"fr-CH"_s);
+    const QDomElement table = all(document, u"table"_s).value(0);
+    QCOMPARE(all(table, u"caption"_s).value(0).text(), u"mai 2027"_s);
+    QCOMPARE(all(document, u"h2"_s).value(0).attribute(u"id"_s), u"seite-5"_s);
+    const QList<QDomElement> heads = all(table, u"th"_s);
+    QCOMPARE(heads.value(1).attribute(u"scope"_s), u"col"_s);
+    QCOMPARE(all(heads.value(1), u"abbr"_s).value(0).attribute(u"title"_s), u"lundi"_s);
+    QCOMPARE(heads.value(8).attribute(u"scope"_s), u"row"_s);
+    QCOMPARE(heads.value(8).text(), u"17"_s); // 1 May 2027
+    const QDomElement ascension = all(all(table, u"tr"_s).value(2), u"td"_s).value(3);
+    QCOMPARE(all(ascension, u"time"_s).value(0).attribute(u"datetime"_s), u"2027-05-06"_s);
+    QCOMPARE(all(ascension, u"li"_s).value(0).text(), u"Ascension"_s);
+    const QDomElement wednesday = ascension.previousSiblingElement();
+    QVERIFY(ascension.attribute(u"class"_s) != wednesday.attribute(u"class"_s)); // a holiday's colours
+    const QString style = all(document, u"style"_s).value(0).text();
+    QVERIFY(style.contains(u'.' + ascension.attribute(u"class"_s) + u" {"_s));
+}
+
+void tst_MvHtmlExporter::foreignTextsAreText()
+{
+    MvCalendarDocument calendar = calendarOf(u"MONTH_GRID_CLASSIC"_s, u"de_DE"_s, {}, 1);
+    const QString title = u"</title><script>alert(1)</script> & \"Söhne\""_s;
+    calendar.setTitle(title);
+    calendar.setAuthor(title);
+    const QByteArray html = MvHtmlExporter::document(calendar.pageSource());
+    QVERIFY(!html.contains("<script"));
+    const QDomDocument document = parsed(html);
+    QCOMPARE(all(document, u"h1"_s).value(0).text(), title);
+    QCOMPARE(all(document, u"meta"_s).constLast().attribute(u"content"_s), title);
+    QTemporaryDir folder;
+    MvPageSource nothing = calendar.pageSource();
+    nothing.content = {};
+    QVERIFY(!MvHtmlExporter::write(nothing, QFileInfo(folder.filePath(u"k.html"_s))).isOk());
+    QVERIFY(!QFileInfo::exists(folder.filePath(u"k.html"_s)));
+}
+
+MV_TEST_MAIN(tst_MvHtmlExporter)
+#include "tst_MvHtmlExporter.moc"
