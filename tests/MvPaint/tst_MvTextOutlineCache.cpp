@@ -267,12 +267,13 @@ void tst_MvTextOutlineCache::servesThreads()
             painter.setRenderHint(QPainter::Antialiasing);
             for (int day = 1; day <= 31; ++day) {
                 const MvTextOutline outline = cache.outline(lato(20), QStringLiteral("%1. Mai").arg(day));
-                MvOutlinePainter::fillOutline(painter, QPointF(day % 6 * 100, 30 + day / 6 * 40), outline, Qt::black);
+                MvOutlinePainter::fillOutline(painter, QPoint(day % 6 * 100, 30 + day / 6 * 40), outline, Qt::black);
             }
         }
     };
     {
         std::vector<std::jthread> threads;
+        threads.reserve(images.size());
         for (QImage &image : images)
             threads.emplace_back([&] { paintPages(image); });
     }

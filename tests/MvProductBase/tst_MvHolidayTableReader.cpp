@@ -304,8 +304,8 @@ void tst_MvHolidayTableReader::ownFile_data()
     const QStringList shipped = {u"0601 Erster"_s, u"0602 Zweiter"_s};
     const auto row = [](const char *name, const QByteArray &elements, const QStringList &north,
                         const QStringList &south) { QTest::newRow(name) << ::ownFile(elements) << north << south; };
-    const QString first = shipped.first();
-    const QString second = shipped.last();
+    const QString &first = shipped.first();
+    const QString &second = shipped.last();
     row("nothing", {}, shipped, shipped);
     row("another country", R"(</country><country code="AA"><remove name="Erster"/>)", shipped, shipped);
     row("added", R"(<holiday name="Dritter" rule="06-03" regions="S"/>)", shipped, {first, second, u"0603 Dritter"_s});

@@ -120,9 +120,7 @@ public:
         Step step{{{id, active.value(id), after}}, {}};
         const QString before = active.value(id);
         const QString there = own.value(id);
-        if (reaches && before.isEmpty())
-            step.own.append({id, {}, after});
-        else if (reaches && there.isEmpty() && !after.isEmpty())
+        if (reaches && (before.isEmpty() || (there.isEmpty() && !after.isEmpty())))
             step.own.append({id, {}, after});
         else if (reaches && (after.isEmpty() || there == before))
             step.own.append({id, there, after});

@@ -81,7 +81,7 @@ void tst_StudioDesignJourneys::holidaysOfACountry()
     QVERIFY(studio.openSection("contentPanel"));
     if (!studio.find<QCheckBox>("publicHolidaysOnly")->isChecked())
         QVERIFY(studio.press("publicHolidaysOnly", Qt::Key_Space));
-    const MvCalendarDocument before = studio.document();
+    const MvCalendarDocument before = studio.document(); // NOLINT(performance-unnecessary-copy-initialization)
     const QString regionBefore = studio.find<QComboBox>("provinceBox")->currentText();
     const int steps = studio.steps();
     QVERIFY(studio.choose("languageBox", country));

@@ -39,11 +39,13 @@ public:
         const double reach = std::hypot(box.width(), box.height()) / 2.0 + 0.01;
         const QPointF along(std::cos(angle), std::sin(angle));
         const QPointF across(-along.y(), along.x());
-        for (double off = -reach; off < reach; off += gap * random(m_generator, 0.6, 1.3)) {
+        double off = -reach;
+        while (off < reach) {
             const QPointF from = box.center() + across * off - along * reach;
             const QPointF to = box.center() + across * (off + random(m_generator, -0.01, 0.01)) + along * reach;
             m_painter.setPen(pen(colour.lighter(96 + int(m_generator.bounded(10))), 0.0095));
             m_painter.drawLine(trembled(from), trembled(to));
+            off += gap * random(m_generator, 0.6, 1.3);
         }
         m_painter.restore();
         m_painter.setPen(Qt::NoPen);
@@ -158,10 +160,10 @@ void drawTree(Crayons &crayons)
 struct Figure
 {
     QPointF head;
-    double size;
+    double size = 0.0;
     QColor dress;
     QColor hair;
-    bool hasSkirt;
+    bool hasSkirt = false;
 };
 
 void drawFigure(Crayons &crayons, const Figure &figure)

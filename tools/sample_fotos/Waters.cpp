@@ -13,13 +13,13 @@ namespace {
 /// The open sea under a horizon: waves that grow towards the viewer, a path of glitter under the sun.
 struct Sea
 {
-    double horizon;
+    double horizon = 0.0;
     Light far;
     Light near;
     Light crest;
-    double sunX;
+    double sunX = 0.0;
     Light glitter;
-    double glitterWidth;
+    double glitterWidth = 0.0;
 };
 
 void paintSea(Canvas &canvas, const Sea &sea)

@@ -152,7 +152,7 @@ void MvExportDialog::showFindings()
 
 void MvExportDialog::goTo(const MvPrintFinding &finding)
 {
-    const MvPrintFinding place = finding;
+    const MvPrintFinding place = finding; // NOLINT(performance-unnecessary-copy-initialization): its list goes
     reject();
     Q_EMIT placeWanted(place);
 }

@@ -44,7 +44,7 @@ private:
     /// Of the frame that catches.
     struct Place
     {
-        double at;
+        double at = 0.0;
         bool isMiddle = false;
     };
     struct Catch

@@ -29,9 +29,9 @@ constexpr double widestPage = 2.0;
 struct Paper
 {
     QLatin1StringView name;
-    double width; // upright
-    double height;
-    const char *label; // nullptr: as the name
+    double width = 0.0; // upright
+    double height = 0.0;
+    const char *label = nullptr; // nullptr: as the name
 };
 
 // DIN EN ISO 216, print shops, ANSI; in tenths of a millimetre
