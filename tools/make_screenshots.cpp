@@ -10,12 +10,15 @@
 #include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvCalendar/MvEntryTableDialog.h"
 #include "MvCalendar/MvUserColorSchemata.h"
 #include "MvGUIWidgets/MvColorPalettePopup.h"
 #include "pages/MvPageCanvas.h"
+#include "pages/MvPageEntries.h"
 #include "pages/MvPageItem.h"
 #include "common/MvProgressDialog.h"
 #include "MvProject/MvProject.h"
+#include "flows/MvEntryImportReport.h"
 #include "flows/MvProjectFlow.h"
 #include "flows/MvRecoveryDialog.h"
 #include "MvStudioApplication.h"
@@ -126,6 +129,11 @@ private:
     void fileMenu() { popUp(window()->menuBar()->actions().first()->menu()); }
     void viewMenu() { popUp(window()->menuBar()->actions().at(2)->menu()); }
     void dayNew();
+    void bubbleNew();
+    void bubbleSeveral();
+    void entryDrag();
+    void tableOpen();
+    void importReport();
     void dayWithFoto();
     void newCalendar() { trigger("newProject"); }
     void layoutChooser() { trigger("chooseLayout"); }
@@ -209,6 +217,11 @@ QList<Screenshots::State> Screenshots::states()
         {"view-menu", &S::viewMenu, settling},
         {"day-new", &S::dayNew, settling},
         {"day-photo", &S::dayWithFoto, settling},
+        {"bubble-new", &S::bubbleNew, settling},
+        {"bubble-several", &S::bubbleSeveral, settling},
+        {"entry-drag", &S::entryDrag, settling},
+        {"table-open", &S::tableOpen, settling},
+        {"import-report", &S::importReport, settling},
         {"new-calendar", &S::newCalendar, longSettling},
         {"new-planner", &S::newPlanner, longSettling},
         {"layout-chooser", &S::layoutChooser, longSettling},
@@ -616,6 +629,64 @@ void Screenshots::dayWithFoto()
     for (const MvCalendarEvent &event : events)
         if (event.description() == u"Oma Erika"_s)
             MvCalendarDayEditorDialog::createSelfDeleting(canvas()->pageItem())->openDayEditorSingle(event);
+}
+
+void Screenshots::bubbleNew()
+{
+    const QDate date = project()->document().pageDates().at(4).addDays(15);
+    canvas()->entries()->openDay(date, canvas()->viewport()->mapToGlobal(pointOf(date)));
+}
+
+/// A day with several entries, one of which repeats, at the edge of a narrow window.
+void Screenshots::bubbleSeveral()
+{
+    const QDate date = project()->document().pageDates().at(4).addDays(30);
+    MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
+    for (const QString &name : {u"Chorprobe"_s, u"Kirchweih mit der ganzen Nachbarschaft"_s}) {
+        MvCalendarEvent event(name, date.startOfDay(), false, MvFoto(), QUuid::createUuid(), {});
+        MvEventRepetition repetition;
+        repetition.rule.frequency = MvRecurrenceRule::Weekly;
+        event.setRepetition(repetition);
+        events.append(event);
+    }
+    MvCalendarEventRegistry::instance().setEvents(events);
+    QTest::qWait(settling);
+    canvas()->entries()->openDay(date, canvas()->viewport()->mapToGlobal(pointOf(date)));
+}
+
+void Screenshots::entryDrag()
+{
+    const QDate from = project()->document().pageDates().at(4).addDays(11);
+    MvCalendarEventRegistry::instance().setEvents(
+        {MvCalendarEvent(u"Chorprobe"_s, from.startOfDay(), false, MvFoto(), QUuid::createUuid(), {})});
+    QTest::qWait(settling);
+    const QRectF cell = canvas()->pageItem()->dateRect(from);
+    for (const MvPaintRecording::Item &item : canvas()->pageItem()->recording().items(MvPaintRecording::Item::Text)) {
+        if (!cell.contains(item.bounds.center()) || !u"Chorprobe"_s.contains(item.text))
+            continue;
+        const QPointF text = canvas()->pageItem()->mapToScene(item.bounds.center());
+        canvas()->entries()->press(canvas()->mapFromScene(text));
+    }
+    canvas()->entries()->move(pointOf(from.addDays(9)), {});
+}
+
+void Screenshots::tableOpen()
+{
+    const QByteArray table = "Anlass,Wann,Ort\nSommerfest,04/05/2027,Hof\n\"Ausflug, Wandern\",09/10/2027,Alm\n"
+                             "Probe,irgendwann,Saal\n";
+    (new MvEntryTableDialog(table, u"Vereinstermine.csv"_s, window()))->open();
+}
+
+void Screenshots::importReport()
+{
+    MvEntryFileImport::Result result;
+    result.report.added = 58;
+    result.report.equal = 3;
+    for (int line = 4; line < 40; line += 9) {
+        result.report.skipped.append({line, u"Probe"_s, u"das Datum „irgendwann“ ist nicht zu lesen"_s});
+        result.lines.append(u"Vereinstermine.csv: "_s + result.report.skipped.last().describe());
+    }
+    (new MvEntryImportReport(result, window()))->open();
 }
 
 void Screenshots::progress()

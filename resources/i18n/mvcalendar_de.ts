@@ -111,6 +111,40 @@
     </message>
 </context>
 <context>
+    <name>MvEntryFileImport</name>
+    <message numerus="yes">
+        <source>%n Dateien ließen sich nicht lesen.</source>
+        <translation>
+            <numerusform>%n Datei ließ sich nicht lesen.</numerusform>
+            <numerusform>%n Dateien ließen sich nicht lesen.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryTableDialog</name>
+    <message numerus="yes">
+        <source>%n Einträge am Anfang der Datei</source>
+        <translation>
+            <numerusform>%n Eintrag am Anfang der Datei</numerusform>
+            <numerusform>%n Einträge am Anfang der Datei</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge</source>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeilen werden ausgelassen:</source>
+        <translation>
+            <numerusform>%n Zeile wird ausgelassen:</numerusform>
+            <numerusform>%n Zeilen werden ausgelassen:</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvExportDialog</name>
     <message numerus="yes">
         <source>Schon vorhanden und ersetzt werden: %n Dateien.</source>

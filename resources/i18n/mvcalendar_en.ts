@@ -1885,6 +1885,184 @@
     </message>
 </context>
 <context>
+    <name>MvEntryBubble</name>
+    <message>
+        <source>Was ist an diesem Tag?</source>
+        <translation>What is on this day?</translation>
+    </message>
+    <message>
+        <source>Text des Eintrags</source>
+        <translation>Text of the entry</translation>
+    </message>
+    <message>
+        <source>Ohne Änderung verlassen (Esc)</source>
+        <translation>Leave without a change (Esc)</translation>
+    </message>
+    <message>
+        <source>Einträge des Tages</source>
+        <translation>Entries of the day</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Ein anderes Datum verschiebt den Eintrag</source>
+        <translation>Another date moves the entry</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Mehr …</source>
+        <translation>More …</translation>
+    </message>
+    <message>
+        <source>Alle Angaben, mit dem, was Sie eingetippt haben</source>
+        <translation>All details, with what you have typed</translation>
+    </message>
+    <message>
+        <source>Sichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Eintrag am %1</source>
+        <translation>Entry on %1</translation>
+    </message>
+    <message>
+        <source>Neuer Eintrag</source>
+        <translation>New entry</translation>
+    </message>
+    <message>
+        <source>Ein Eintrag braucht einen Text. Esc verlässt ihn ohne Änderung.</source>
+        <translation>An entry needs a text. Esc leaves it without a change.</translation>
+    </message>
+    <message>
+        <source>Eintrag verschieben</source>
+        <translation>Move Entry</translation>
+    </message>
+    <message>
+        <source>„%1“ ist verschoben.</source>
+        <translation>“%1” has been moved.</translation>
+    </message>
+    <message>
+        <source>Eintrag ändern</source>
+        <translation>Change Entry</translation>
+    </message>
+    <message>
+        <source>Eintrag anlegen</source>
+        <translation>Add Entry</translation>
+    </message>
+    <message>
+        <source>„%1“ ist gesichert.</source>
+        <translation>“%1” has been saved.</translation>
+    </message>
+    <message>
+        <source>%1 nimmt es zurück.</source>
+        <translation>%1 takes it back.</translation>
+    </message>
+    <message>
+        <source>Eintrag löschen</source>
+        <translation>Delete Entry</translation>
+    </message>
+    <message>
+        <source>„%1“ ist gelöscht.</source>
+        <translation>“%1” has been deleted.</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryFileImport</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Termine importieren</source>
+        <translation>Import Dates</translation>
+    </message>
+    <message>
+        <source>Nichts übernommen</source>
+        <translation>Nothing was taken over</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Dateien ließen sich nicht lesen.</source>
+        <translation>
+            <numerusform>%n file could not be read.</numerusform>
+            <numerusform>%n files could not be read.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryFiles</name>
+    <message>
+        <source>Termine und Einträge (%1)</source>
+        <translation>Dates and entries (%1)</translation>
+    </message>
+    <message>
+        <source>Listen von Einträgen (%1)</source>
+        <translation>Lists of entries (%1)</translation>
+    </message>
+    <message>
+        <source>Kalender, iCalendar (%1)</source>
+        <translation>Calendars, iCalendar (%1)</translation>
+    </message>
+    <message>
+        <source>Tabellen (%1)</source>
+        <translation>Tables (%1)</translation>
+    </message>
+    <message>
+        <source>Visitenkarten (%1)</source>
+        <translation>Visiting cards (%1)</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>All files (*)</translation>
+    </message>
+    <message>
+        <source>Tabellen mit Semikolon (%1)</source>
+        <translation>Tables with semicolons (%1)</translation>
+    </message>
+    <message>
+        <source>Tabellen mit Tabulator (%1)</source>
+        <translation>Tables with tabs (%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryImportFlow</name>
+    <message>
+        <source>Termine importieren</source>
+        <translation>Import Dates</translation>
+    </message>
+    <message>
+        <source>Die Termine werden gelesen …</source>
+        <translation>The dates are being read …</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryImportReport</name>
+    <message>
+        <source>Sie stehen jetzt auf ihren Tagen. Zurücknehmen lässt sich das mit Bearbeiten &gt; Rückgängig.</source>
+        <translation>They are on their days now. Edit &gt; Undo takes that back.</translation>
+    </message>
+    <message>
+        <source>Alles davon war schon da.</source>
+        <translation>All of it was there already.</translation>
+    </message>
+    <message>
+        <source>Termine importieren</source>
+        <translation>Import Dates</translation>
+    </message>
+    <message>
+        <source>Ausgelassen:</source>
+        <translation>Left out:</translation>
+    </message>
+    <message>
+        <source>Was ausgelassen wurde</source>
+        <translation>What was left out</translation>
+    </message>
+</context>
+<context>
     <name>MvEntryIntake</name>
     <message>
         <source>%1: %2</source>
@@ -1901,6 +2079,57 @@
     <message>
         <source>%1 neu, %2 geändert, %3 gleich, %4 ausgelassen</source>
         <translation>%1 new, %2 changed, %3 equal, %4 skipped</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryQuestion</name>
+    <message>
+        <source>Eintrag, der sich wiederholt</source>
+        <translation>Entry that repeats</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>dddd, d. MMMM</source>
+        <translation>dddd, d MMMM</translation>
+    </message>
+    <message>
+        <source>„%1“ auf %2 verschieben?</source>
+        <translation>Move “%1” to %2?</translation>
+    </message>
+    <message>
+        <source>Nur dieses Mal</source>
+        <translation>Only this time</translation>
+    </message>
+    <message>
+        <source>Der Eintrag wiederholt sich. Nur dieses Mal lässt die anderen, wo sie sind; alle gehen sonst mit.</source>
+        <translation>The entry repeats. Only this time leaves the others where they are; otherwise all of them go along.</translation>
+    </message>
+    <message>
+        <source>Alle</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>Der Eintrag wiederholt sich nach einer Regel, die an anderen Tagen nicht so gilt; „Mehr …“ beim Eintrag ändert sie.</source>
+        <translation>The entry repeats by a rule that does not hold on other days; “More …” at the entry changes it.</translation>
+    </message>
+    <message>
+        <source>„%1“ löschen?</source>
+        <translation>Delete “%1”?</translation>
+    </message>
+    <message>
+        <source>Der Eintrag wiederholt sich.</source>
+        <translation>The entry repeats.</translation>
+    </message>
+    <message>
+        <source>Nur am %1</source>
+        <translation>Only on %1</translation>
+    </message>
+    <message>
+        <source>Alle löschen</source>
+        <translation>Delete all</translation>
     </message>
 </context>
 <context>
@@ -1944,6 +2173,162 @@
     <message>
         <source>die Tabelle hat mehr als %1 Zeilen</source>
         <translation>the table has more than %1 rows</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryTableDialog</name>
+    <message>
+        <source>(auslassen)</source>
+        <translation>(leave out)</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Bis</source>
+        <translation>Until</translation>
+    </message>
+    <message>
+        <source>Uhrzeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Wiederholung</source>
+        <translation>Repetition</translation>
+    </message>
+    <message>
+        <source>Ausnahmen</source>
+        <translation>Exceptions</translation>
+    </message>
+    <message>
+        <source>Zusatztermine</source>
+        <translation>Further dates</translation>
+    </message>
+    <message>
+        <source>29. Februar</source>
+        <translation>29 February</translation>
+    </message>
+    <message>
+        <source>Gruppen</source>
+        <translation>Groups</translation>
+    </message>
+    <message>
+        <source>Kennung</source>
+        <translation>Identifier</translation>
+    </message>
+    <message>
+        <source>Tabelle übernehmen</source>
+        <translation>Take Over Table</translation>
+    </message>
+    <message>
+        <source>So wird „%1“ gelesen. Stimmt etwas nicht, wählen Sie es hier anders.</source>
+        <translation>This is how “%1” is read. If something is wrong, choose it otherwise here.</translation>
+    </message>
+    <message>
+        <source>Die ersten Zeilen der Tabelle</source>
+        <translation>The first rows of the table</translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation>Take Over</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Spalten trennt</source>
+        <translation>Columns end with</translation>
+    </message>
+    <message>
+        <source>Semikolon</source>
+        <translation>Semicolon</translation>
+    </message>
+    <message>
+        <source>Komma</source>
+        <translation>Comma</translation>
+    </message>
+    <message>
+        <source>Tabulator</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Senkrechter Strich</source>
+        <translation>Vertical bar</translation>
+    </message>
+    <message>
+        <source>Zeichen</source>
+        <translation>Characters</translation>
+    </message>
+    <message>
+        <source>Unicode (UTF-8)</source>
+        <translation>Unicode (UTF-8)</translation>
+    </message>
+    <message>
+        <source>Westeuropäisch</source>
+        <translation>Western European</translation>
+    </message>
+    <message>
+        <source>Unicode (UTF-16)</source>
+        <translation>Unicode (UTF-16)</translation>
+    </message>
+    <message>
+        <source>Ein Datum beginnt mit</source>
+        <translation>A date begins with</translation>
+    </message>
+    <message>
+        <source>dem Tag</source>
+        <translation>the day</translation>
+    </message>
+    <message>
+        <source>dem Monat</source>
+        <translation>the month</translation>
+    </message>
+    <message>
+        <source>Bitte wählen</source>
+        <translation>Please choose</translation>
+    </message>
+    <message>
+        <source>Die erste Zeile sind Überschriften</source>
+        <translation>The first row has headings</translation>
+    </message>
+    <message>
+        <source>Jedes Jahr, wo nichts anderes steht</source>
+        <translation>Every year, unless the row says otherwise</translation>
+    </message>
+    <message>
+        <source>Spalte %1</source>
+        <translation>Column %1</translation>
+    </message>
+    <message>
+        <source>„%1“ lässt sich auf zwei Arten lesen: Wählen Sie, womit ein Datum beginnt.</source>
+        <translation>“%1” can be read in two ways: choose what a date begins with.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge am Anfang der Datei</source>
+        <translation>
+            <numerusform>%n entry at the beginning of the file</numerusform>
+            <numerusform>%n entries at the beginning of the file</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge</source>
+        <translation>
+            <numerusform>%n entry</numerusform>
+            <numerusform>%n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeilen werden ausgelassen:</source>
+        <translation>
+            <numerusform>%n row is left out:</numerusform>
+            <numerusform>%n rows are left out:</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2463,6 +2848,14 @@
     <message>
         <source>Fotos (%1)</source>
         <translation>Photos (%1)</translation>
+    </message>
+    <message>
+        <source>Foto entfernen</source>
+        <translation>Remove photo</translation>
+    </message>
+    <message>
+        <source>Foto wählen oder hierher ziehen</source>
+        <translation>Choose a photo or drop it here</translation>
     </message>
 </context>
 <context>
@@ -4091,6 +4484,41 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Layout ändern</source>
         <translation>Change layout</translation>
+    </message>
+</context>
+<context>
+    <name>MvPageEntries</name>
+    <message>
+        <source>„%1“ auf einen anderen Tag ziehen; Esc bricht ab.</source>
+        <translation>Drag “%1” to another day; Esc cancels.</translation>
+    </message>
+    <message>
+        <source>„%1“ kopieren</source>
+        <translation>Copy “%1”</translation>
+    </message>
+    <message>
+        <source>Loslassen kopiert „%1“ auf %2.</source>
+        <translation>Letting go copies “%1” to %2.</translation>
+    </message>
+    <message>
+        <source>Loslassen verschiebt „%1“ auf %2; mit Strg wird es eine Kopie.</source>
+        <translation>Letting go moves “%1” to %2; with Ctrl it becomes a copy.</translation>
+    </message>
+    <message>
+        <source>Eintrag kopieren</source>
+        <translation>Copy Entry</translation>
+    </message>
+    <message>
+        <source>„%1“ ist auf %2 kopiert.</source>
+        <translation>“%1” has been copied to %2.</translation>
+    </message>
+    <message>
+        <source>Eintrag verschieben</source>
+        <translation>Move Entry</translation>
+    </message>
+    <message>
+        <source>„%1“ ist auf %2 verschoben.</source>
+        <translation>“%1” has been moved to %2.</translation>
     </message>
 </context>
 <context>
@@ -5985,6 +6413,14 @@ Save it under another name or in another folder.</translation>
         <source>Foto und Kalender der Seite einzeln verschiebbar machen</source>
         <translation>Make photo and calendar of the page movable one by one</translation>
     </message>
+    <message>
+        <source>&amp;Termine importieren …</source>
+        <translation>I&amp;mport Dates …</translation>
+    </message>
+    <message>
+        <source>Termine aus einem Kalender (iCalendar), einer Tabelle oder einer Liste übernehmen</source>
+        <translation>Take over dates from a calendar (iCalendar), a table or a list</translation>
+    </message>
 </context>
 <context>
     <name>MvStudioApplication</name>
@@ -6314,6 +6750,10 @@ Designs photo calendars and prints them.
     <message>
         <source>Seiten bearbeiten</source>
         <translation>Edit pages</translation>
+    </message>
+    <message>
+        <source>Loslassen übernimmt die Termine in den Kalender.</source>
+        <translation>Letting go takes the dates into the calendar.</translation>
     </message>
 </context>
 <context>

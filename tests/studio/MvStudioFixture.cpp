@@ -5,11 +5,13 @@
 #include "MvStudioApplication.h"
 #include "common/MvStudioSettings.h"
 #include "pages/MvPageCanvas.h"
+#include "pages/MvPageEntries.h"
 #include "pages/MvPageItem.h"
 #include "pages/MvPageSelection.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryBubble.h"
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
@@ -232,19 +234,62 @@ bool MvStudioFixture::chooseFile(const QString &path) const
     return true;
 }
 
-QMenu *MvStudioFixture::clickDate(const QDate &date) const
+QPoint MvStudioFixture::pointOf(const QDate &date) const
 {
-    const QPointF onPage = page()->mapToScene(rectOf(date).center());
-    QTest::mouseClick(canvas()->viewport(), Qt::LeftButton, {}, canvas()->mapFromScene(onPage));
-    if (!QTest::qWaitFor([] { return QApplication::activePopupWidget() || dialog<MvCalendarDayEditorDialog>(); }))
-        return nullptr;
-    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    return canvas()->mapFromScene(page()->mapToScene(rectOf(date).center()));
 }
 
-MvCalendarDayEditorDialog *MvStudioFixture::openDay(const QDate &date, const QString &begin) const
+MvEntryBubble *MvStudioFixture::clickDate(const QDate &date) const
 {
-    QMenu *menu = clickDate(date);
-    return !menu || chooseInMenu(menu, begin) ? dialog<MvCalendarDayEditorDialog>() : nullptr;
+    QTest::mouseClick(canvas()->viewport(), Qt::LeftButton, {}, pointOf(date));
+    const auto isOpen = [this, &date] {
+        const MvEntryBubble *bubble = canvas()->entries()->bubble();
+        return bubble && bubble->date() == date;
+    };
+    return QTest::qWaitFor(isOpen) ? canvas()->entries()->bubble() : nullptr;
+}
+
+MvEntryBubble *MvStudioFixture::openBubble(const QDate &date, const QString &entry) const
+{
+    MvEntryBubble *bubble = clickDate(date);
+    auto *list = bubble ? find<QListWidget>(bubble, "bubbleEntries") : nullptr;
+    if (!list) // with nothing to choose from
+        return bubble;
+    const QList<QListWidgetItem *> rows = list->findItems(entry, Qt::MatchStartsWith);
+    if (rows.isEmpty())
+        return nullptr;
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(rows.first()).center());
+    return bubble;
+}
+
+MvCalendarDayEditorDialog *MvStudioFixture::openDay(const QDate &date, const QString &entry) const
+{
+    MvEntryBubble *bubble = openBubble(date, entry);
+    return bubble && click(bubble, "bubbleMore") ? dialog<MvCalendarDayEditorDialog>() : nullptr;
+}
+
+bool MvStudioFixture::dragEntry(const QDate &from, const QString &text, const QDate &to,
+                                Qt::KeyboardModifiers modifiers) const
+{
+    const QRectF cell = rectOf(from);
+    for (const MvPaintRecording::Item &item : items(MvPaintRecording::Item::Text)) {
+        const QString written = squeezed(item.text);
+        if (written.isEmpty() || !cell.contains(item.bounds.center()) || !squeezed(text).contains(written))
+            continue;
+        QWidget *port = canvas()->viewport();
+        const QPoint start = canvas()->mapFromScene(page()->mapToScene(item.bounds.center()));
+        const auto moveTo = [port, modifiers](const QPoint &position) {
+            QMouseEvent move(QEvent::MouseMove, position, port->mapToGlobal(position), Qt::NoButton, Qt::LeftButton,
+                             modifiers);
+            QApplication::sendEvent(port, &move);
+        };
+        QTest::mousePress(port, Qt::LeftButton, {}, start);
+        moveTo(start + QPoint(QApplication::startDragDistance() + 1, 0));
+        moveTo(pointOf(to));
+        QTest::mouseRelease(port, Qt::LeftButton, modifiers, pointOf(to));
+        return true;
+    }
+    return false;
 }
 
 bool MvStudioFixture::dropFile(QWidget *window, const QPoint &position, const QString &path,
@@ -268,8 +313,7 @@ bool MvStudioFixture::dropFile(QWidget *window, const QPoint &position, const QS
 
 bool MvStudioFixture::dropOnDate(const QDate &date, const QString &path, Qt::KeyboardModifiers modifiers) const
 {
-    const QPointF onPage = page()->mapToScene(rectOf(date).center());
-    const QPoint inWindow = canvas()->viewport()->mapTo(window(), canvas()->mapFromScene(onPage));
+    const QPoint inWindow = canvas()->viewport()->mapTo(window(), pointOf(date));
     return dropFile(window(), inWindow, path, modifiers);
 }
 

@@ -13,6 +13,7 @@
 
 class MvCalendarDayEditorDialog;
 class MvCalendarDocument;
+class MvEntryBubble;
 class MvPageCanvas;
 class MvPageItem;
 class MvProject;
@@ -84,10 +85,14 @@ public:
     bool choose(const char *box, const QString &text) const;
     bool chooseInMenu(QMenu *menu, const QString &begin) const;
     bool chooseFile(const QString &path) const;
-    /// Clicks a date of the shown page; null when no menu opens, but the editor for a new entry, or nothing.
-    QMenu *clickDate(const QDate &date) const;
-    /// The day editor for a date, for the menu's row that begins with the text; for a new entry where there is none.
-    MvCalendarDayEditorDialog *openDay(const QDate &date, const QString &begin) const;
+    /// Clicks a date of the shown page; null when no bubble opens there.
+    MvEntryBubble *clickDate(const QDate &date) const;
+    /// The bubble of a date with the entry that begins with the text, if there are entries.
+    MvEntryBubble *openBubble(const QDate &date, const QString &entry) const;
+    /// The day editor, from that bubble.
+    MvCalendarDayEditorDialog *openDay(const QDate &date, const QString &entry) const;
+    /// Drags the text of an entry with the mouse; false when it is not there.
+    bool dragEntry(const QDate &from, const QString &text, const QDate &to, Qt::KeyboardModifiers modifiers = {}) const;
     /// Drops a file on what lies there; false when it is not taken.
     static bool dropFile(QWidget *window, const QPoint &position, const QString &path,
                          Qt::KeyboardModifiers modifiers = {});
@@ -114,6 +119,7 @@ public:
 
 private:
     QRectF rectOf(const QDate &date) const;
+    QPoint pointOf(const QDate &date) const; // of the viewport
 
     QTemporaryDir m_folder;
     QString m_language;

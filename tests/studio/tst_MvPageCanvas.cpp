@@ -4,11 +4,13 @@
 #include "pages/MvFotoHandle.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageDropTarget.h"
+#include "pages/MvPageEntries.h"
 #include "pages/MvPageItem.h"
 #include "pages/MvScreenFotos.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryBubble.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
@@ -256,12 +258,12 @@ void tst_MvPageCanvas::keyboardGoesThroughTheCalendar()
     QCOMPARE(open.canvas->focusDate(), QDate(2027, 1, 9));
     MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(u"Oma Erika"_s, {1941, 1, 9})});
     QTest::keyClick(open.canvas.get(), Qt::Key_Return);
-    QTRY_VERIFY(QApplication::activePopupWidget());
-    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return); // the entry's row is marked
-    QTRY_VERIFY(MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>());
-    auto *editor = MvWidgetDriver::openWindow<MvCalendarDayEditorDialog>();
-    QCOMPARE(editor->findChild<QLineEdit *>(u"descriptionEdit"_s)->text(), u"Oma Erika"_s);
-    editor->rejectedClicked();
+    QTRY_VERIFY(open.canvas->entries()->bubble());
+    auto *text = open.canvas->entries()->bubble()->findChild<QLineEdit *>(u"bubbleText"_s);
+    QCOMPARE(text->text(), u"Oma Erika"_s);
+    QTest::keyClick(text, Qt::Key_Escape);
+    QVERIFY(!open.canvas->entries()->bubble());
+    QCOMPARE(open.canvas->focusDate(), QDate(2027, 1, 9)); // as it was left
     for (int week = 0; week < 4; ++week)
         QTest::keyClick(open.canvas.get(), Qt::Key_Down);
     QTRY_COMPARE(open.canvas->focusDate(), QDate(2027, 2, 6)); // on the next page

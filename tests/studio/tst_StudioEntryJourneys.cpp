@@ -71,14 +71,15 @@ private:
     static bool addEntry(const MvStudioFixture &studio, const QDate &date, const QString &name);
 };
 
-/// By click, menu, keys and the button.
+/// By click and keys, in the bubble.
 bool tst_StudioEntryJourneys::addEntry(const MvStudioFixture &studio, const QDate &date, const QString &name)
 {
-    auto *editor = studio.openDay(date, u"Neuen Eintrag"_s);
-    if (!editor)
+    if (!studio.openBubble(date, u"Neuer Eintrag"_s))
         return false;
-    QTest::keyClicks(editor->focusWidget(), name);
-    return studio.click(editor, "okButton") && studio.datesWith(name).contains(date);
+    auto *text = studio.find<QLineEdit>("bubbleText");
+    QTest::keyClicks(text, name);
+    QTest::keyClick(text, Qt::Key_Return);
+    return studio.datesWith(name).contains(date);
 }
 
 void tst_StudioEntryJourneys::birthdayWithFotos()
@@ -86,7 +87,7 @@ void tst_StudioEntryJourneys::birthdayWithFotos()
     MvStudioFixture studio;
     const QString red = studio.writeFoto(u"rot.png"_s, Qt::red);
     const QString blue = studio.writeFoto(u"blau.png"_s, Qt::blue);
-    QPointer<MvCalendarDayEditorDialog> editor = studio.openDay(birthday, u"Neuen Eintrag am 14. Jan"_s);
+    QPointer<MvCalendarDayEditorDialog> editor = studio.openDay(birthday, u"Neuer Eintrag"_s);
     QVERIFY(editor);
     QVERIFY(!MvStudioFixture::find<QPushButton>(editor, "okButton")->isEnabled()); // nothing to keep yet
     QTest::keyClicks(editor->focusWidget(), u"Oma Erna"_s);
@@ -116,7 +117,7 @@ void tst_StudioEntryJourneys::birthdayWithFotos()
     QVERIFY(studio.hasPhoto(birthday));
     QVERIFY(isNearly(fotoColor(entries().value(0)), Qt::blue));
 
-    editor = studio.openDay(birthday, u"„Oma Erna“ bearbeiten"_s); // from the menu's key straight to its photo
+    editor = studio.openDay(birthday, u"Oma Erna"_s); // and straight to its photo
     QVERIFY(editor);
     QTRY_VERIFY(editor->hasPhoto());
     QVERIFY(studio.click(editor, "removePhotoButton"));
@@ -124,7 +125,7 @@ void tst_StudioEntryJourneys::birthdayWithFotos()
     QCOMPARE(studio.datesWith(u"Oma Erna"_s), QList<QDate>{birthday});
     QVERIFY(!studio.hasPhoto(birthday));
 
-    editor = studio.openDay(birthday, u"„Oma Erna“ bearbeiten"_s);
+    editor = studio.openDay(birthday, u"Oma Erna"_s);
     studio.undo();
     QTRY_VERIFY(studio.hasPhoto(birthday) && editor->hasPhoto()); // follows its entry
     QVERIFY(studio.click(editor, "deleteButton"));
@@ -138,7 +139,7 @@ void tst_StudioEntryJourneys::editorOfALostEntryCloses()
 {
     MvStudioFixture studio;
     QVERIFY(addEntry(studio, birthday, u"Oma"_s));
-    QVERIFY(studio.openDay(birthday, u"„Oma“ bearbeiten"_s));
+    QVERIFY(studio.openDay(birthday, u"Oma"_s));
     MvUndoController::instance().undo();
     QTRY_VERIFY(!MvStudioFixture::dialog<MvCalendarDayEditorDialog>());
     QTest::qWait(1);

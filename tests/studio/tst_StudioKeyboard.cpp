@@ -9,6 +9,7 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryBubble.h"
 #include "MvProject/MvProject.h"
 
 #include <QAccessible>
@@ -283,7 +284,7 @@ void tst_StudioKeyboard::dialogs()
     if (dialog == u"recoveryDialog"_s)
         (new MvRecoveryDialog({{}, {}}, studio.window()))->open();
     else if (dialog.isEmpty())
-        QVERIFY(studio.openDay({2027, 1, 14}, language == u"de"_s ? u"Neuen Eintrag"_s : u"Create new entry"_s));
+        QVERIFY(studio.openDay({2027, 1, 14}, language == u"de"_s ? u"Neuer Eintrag"_s : u"New entry"_s));
     else
         QVERIFY(studio.trigger(action.toLatin1()));
     const QPointer<QDialog> open = dialog.isEmpty() ? MvStudioFixture::dialog<MvCalendarDayEditorDialog>()
@@ -332,10 +333,14 @@ void tst_StudioKeyboard::menus()
     QVERIFY(studio.press("fontFamilyBox", Qt::Key_E, Qt::ControlModifier)); // not the end of the line there
     QVERIFY(MvStudioFixture::dialog<QDialog>("exportDialog"));
     MvStudioFixture::dialog<QDialog>("exportDialog")->close();
-    QMenu *day = studio.clickDate({2027, 1, 14});
+    studio.canvas()->setFocusDate({2027, 1, 14});
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, {});
+    QApplication::sendEvent(studio.canvas(), &event);
+    auto *day = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     QVERIFY(day);
     QCOMPARE(checkMenu(day).join(u'\n'), QString());
     QTest::keyClick(day, Qt::Key_Escape);
+    check(studio.window(), studio.clickDate({2027, 1, 14})); // the keyboard stays in the bubble
 }
 
 MV_WIDGET_TEST_MAIN(tst_StudioKeyboard)

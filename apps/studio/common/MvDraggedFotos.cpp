@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "common/MvDraggedFotos.h"
 
+#include "common/MvDraggedDates.h"
+
 #include "MvFoto/MvImageLoader.h"
 #include "MvFoto/MvMediaFormat.h"
 
@@ -34,7 +36,7 @@ QStringList MvDraggedFotos::paths(const QMimeData *data)
 {
     QStringList paths;
     for (const QUrl &url : data->urls()) {
-        if (const QString path = url.toLocalFile(); !path.isEmpty())
+        if (const QString path = url.toLocalFile(); !path.isEmpty() && !MvDraggedDates::isDates(path))
             paths.append(QFileInfo(path).absoluteFilePath());
     }
     return paths;

@@ -19,7 +19,8 @@ public:
     static QString nameFilter();
     /// Whether there is a folder, or a file that is a photo by its first bytes: enough to say that a drop is welcome.
     static bool areIn(const QMimeData *data);
-    /// All local files and folders, absolute; what of them is no photo is for those to tell who read them.
+    /// All local files and folders, absolute, but those of dates (MvDraggedDates); what of them is no photo is for
+    /// those to tell who read them.
     static QStringList paths(const QMimeData *data);
     /// The first photo among the files; empty when there is none.
     static QString first(const QMimeData *data);

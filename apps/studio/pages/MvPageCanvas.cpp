@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "pages/MvPageCanvas.h"
 
+#include "common/MvDraggedDates.h"
 #include "common/MvDraggedFotos.h"
 #include "pages/MvFotoBar.h"
 #include "pages/MvFotoHandle.h"
 #include "pages/MvFotoInvitation.h"
 #include "pages/MvFrameEdits.h"
 #include "pages/MvPageDrop.h"
+#include "pages/MvPageEntries.h"
 #include "pages/MvPageFoto.h"
 #include "pages/MvPageItem.h"
 #include "pages/MvPageSelection.h"
@@ -62,6 +64,7 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     , m_fotoBar(new MvFotoBar(project, m_item, m_fotoHandle, this))
     , m_invitation(new MvFotoInvitation(m_item, this))
     , m_drop(new MvPageDrop(project, m_item, this))
+    , m_entries(new MvPageEntries(project, m_item, this))
     , m_printMarks(new MvPrintMarks(project, m_item))
 {
     setObjectName(u"pageCanvas"_s);
@@ -86,6 +89,7 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     });
     connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
     connect(m_foto, &MvPageFoto::message, this, &MvPageCanvas::message);
+    connect(m_entries, &MvPageEntries::message, this, &MvPageCanvas::message);
     connect(m_frames, &MvFrameEdits::message, this, &MvPageCanvas::message);
     connect(m_invitation, &QPushButton::clicked, m_foto, &MvPageFoto::choose);
     connect(m_fotoHandle, &MvFotoHandle::emptyFrameClicked, m_foto, &MvPageFoto::chooseFor);
@@ -271,9 +275,11 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
         const int element = m_item->shownPage().elementAt(point, m_project->document().format());
         if (m_fotoHandle->isTaking(point))
             ; // chosen when the button is let go
-        else if (const QDate date = dateAt(event->pos()); date.isValid())
+        else if (const QDate date = dateAt(event->pos()); date.isValid()) {
             m_selection->selectDay(date);
-        else if (element < 0 || m_item->elements().at(element).kind() == MvPageElement::Kind::Calendarium)
+            if (event->button() == Qt::LeftButton)
+                m_entries->press(event->pos());
+        } else if (element < 0 || m_item->elements().at(element).kind() == MvPageElement::Kind::Calendarium)
             m_selection->selectNothing();
         MvCalendariumView::mousePressEvent(event);
         event->accept(); // days look at a press and let it pass; nothing around the canvas wants it
@@ -287,7 +293,8 @@ void MvPageCanvas::mousePressEvent(QMouseEvent *event)
 void MvPageCanvas::mouseMoveEvent(QMouseEvent *event)
 {
     if (!m_isPanning) {
-        MvCalendariumView::mouseMoveEvent(event);
+        if (!m_entries->move(event->pos(), event->modifiers()))
+            MvCalendariumView::mouseMoveEvent(event);
         return;
     }
     const QPoint moved = event->pos() - m_panFrom;
@@ -300,6 +307,8 @@ void MvPageCanvas::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!m_isPanning) {
         MvCalendariumView::mouseReleaseEvent(event);
+        if (event->button() == Qt::LeftButton)
+            m_entries->release(event->pos(), event->modifiers());
         return;
     }
     m_isPanning = false;
@@ -389,7 +398,7 @@ void MvPageCanvas::dragEnterEvent(QDragEnterEvent *event)
     if (!m_drop->enter(event, onPage(event->position()))) {
         event->ignore();
         const QString file = event->mimeData()->urls().value(0).toLocalFile();
-        if (!file.isEmpty())
+        if (!file.isEmpty() && !MvDraggedDates::isDates(file))
             Q_EMIT message(tr("„%1“ ist kein Foto, das gelesen werden kann.").arg(QFileInfo(file).fileName()));
         return;
     }
@@ -475,6 +484,8 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
             MvCalendariumView::keyPressEvent(event); // the day's cell goes on
         return;
     case Qt::Key_Escape:
+        if (m_entries->cancel())
+            return;
         if (m_fotoHandle->isDragging())
             m_fotoHandle->cancelDrag();
         else if (m_selection->kind() != MvPageSelection::Kind::Calendar)
@@ -493,6 +504,9 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
             updateHand();
         }
         return;
+    case Qt::Key_Control:
+        m_entries->setModifiers(Qt::ControlModifier);
+        [[fallthrough]];
     default:
         MvCalendariumView::keyPressEvent(event);
     }
@@ -500,6 +514,8 @@ void MvPageCanvas::keyPressEvent(QKeyEvent *event)
 
 void MvPageCanvas::keyReleaseEvent(QKeyEvent *event)
 {
+    if (event->key() == Qt::Key_Control)
+        m_entries->setModifiers({});
     if (event->key() != Qt::Key_Space) {
         MvCalendariumView::keyReleaseEvent(event);
         return;

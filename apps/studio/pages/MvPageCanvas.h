@@ -10,6 +10,7 @@ class MvFotoHandle;
 class MvFotoInvitation;
 class MvFrameEdits;
 class MvPageDrop;
+class MvPageEntries;
 class MvPageFoto;
 class MvPageItem;
 class MvPageSelection;
@@ -36,6 +37,7 @@ public:
     MvPageItem *pageItem() const { return m_item; }
     MvPageSelection *selection() const { return m_selection; }
     MvFrameEdits *frames() const { return m_frames; }
+    MvPageEntries *entries() const { return m_entries; }
     /// Whether there is a photo that removePhoto() would take away.
     bool hasFoto() const;
     double zoom() const;
@@ -123,6 +125,7 @@ private:
     MvFotoBar *m_fotoBar;
     MvFotoInvitation *m_invitation;
     MvPageDrop *m_drop;
+    MvPageEntries *m_entries;
     QGraphicsItem *m_printMarks;
     QDate m_keyboardDate; // where the keyboard is, or will be when the page has cells again
     QPoint m_panFrom;

@@ -4,7 +4,7 @@
 #include <QGraphicsItem>
 #include <QString>
 
-/// Shows where a photo that is dragged over the page will go: the place is tinted and named.
+/// Shows where what is dragged over the page, a photo or an entry, will go: the place is tinted and named.
 class MvPageDropTarget : public QGraphicsItem
 {
 public:

@@ -23,6 +23,7 @@ public:
         Print,
         FindFotos,
         ImportBirthdays,
+        ImportDates,
         Quit,
         Theme,
         Template,

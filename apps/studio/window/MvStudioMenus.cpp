@@ -46,6 +46,7 @@ void MvStudioMenus::createFileMenu()
     file->addActions({action(A::Save), action(A::SaveAs)});
     file->addSeparator();
     file->addAction(action(A::ImportBirthdays));
+    file->addAction(action(A::ImportDates));
     file->addSeparator();
     file->addActions({action(A::PrintCheck), action(A::ExportPdf), action(A::ExportPng), action(A::Print)});
     file->addSeparator();

@@ -6,11 +6,13 @@
 #include "MvProject/MvPrintCheck.h"
 #include "MvProject/MvProject.h"
 #include "common/MvCalendarHabits.h"
+#include "common/MvDraggedDates.h"
 #include "common/MvDraggedFotos.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvDocumentDialog.h"
 #include "flows/MvEntriesFlow.h"
+#include "flows/MvEntryImportFlow.h"
 #include "flows/MvExportFlow.h"
 #include "flows/MvFotoFlow.h"
 #include "flows/MvMissingFotos.h"
@@ -84,6 +86,7 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     , m_pageFlow(new MvPageFlow(project, this))
     , m_import(new MvBirthdayImport(project->session(), this))
     , m_entries(new MvEntriesFlow(project->session().entries(), this))
+    , m_dates(new MvEntryImportFlow(project->session(), m_import, this))
     , m_statusBar(new MvStudioStatusBar(this))
 {
     setObjectName(u"studioWindow"_s);
@@ -179,6 +182,7 @@ void MvStudioWindow::connectActions()
     on(A::ExportPng, m_export, &MvExportFlow::startPng);
     on(A::Print, m_print, &MvPrintFlow::start);
     on(A::ImportBirthdays, m_import, &MvBirthdayImport::start);
+    on(A::ImportDates, m_dates, &MvEntryImportFlow::start);
     on(A::FindFotos, m_missingFotos, &MvMissingFotos::search);
     on(A::Quit, this, &QWidget::close);
     on(A::Settings, this, &MvStudioWindow::showSettings);
@@ -265,6 +269,7 @@ void MvStudioWindow::connectStart()
     connect(m_start, &MvStartPage::importRequested, m_import, &MvBirthdayImport::start);
     connect(m_start, &MvStartPage::openRequested, m_flow, &MvProjectFlow::askAndOpen);
     connect(m_start, &MvStartPage::recentRequested, m_flow, &MvProjectFlow::open);
+    connect(new MvDraggedDates(this), &MvDraggedDates::dropped, this, &MvStudioWindow::takeDates);
     connect(m_start, &MvStartPage::closeRequested, this, [this] { setStartShown(false); });
     connect(m_fotos, &MvFotoFlow::leaveRequested, m_flow, &MvProjectFlow::leave);
     connect(m_flow, &MvProjectFlow::opened, this, &MvStudioWindow::onOpened);
@@ -289,6 +294,7 @@ void MvStudioWindow::connectMessages()
     listen(m_import, &MvBirthdayImport::message);
     listen(m_canvas, &MvPageCanvas::message);
     listen(m_entries, &MvEntriesFlow::message);
+    listen(m_dates, &MvEntryImportFlow::message);
     listen(m_fotos, &MvFotoFlow::message);
     listen(m_tray, &MvFotoTray::message);
     listen(new MvLeapDayHint(m_project, this), &MvLeapDayHint::message);
@@ -455,6 +461,19 @@ void MvStudioWindow::setStartShown(bool shown)
     m_statusBar->setPageShown(!shown);
 }
 
+/// Photos that are dropped where a calendar begins bring a new one, whose entries these are to be.
+void MvStudioWindow::takeDates(const QStringList &files, bool areWithFotos)
+{
+    if (isStartShown() && areWithFotos) {
+        connect(
+            m_project, &MvProject::documentReplaced, m_dates, [this, files] { m_dates->import(files); },
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::SingleShotConnection));
+        return;
+    }
+    setStartShown(false);
+    m_dates->import(files);
+}
+
 /// The first steps are behind somebody who opens a calendar; the next start shows them again.
 void MvStudioWindow::onOpened()
 {
@@ -496,8 +515,12 @@ void MvStudioWindow::closeEvent(QCloseEvent *event)
 void MvStudioWindow::dragEnterEvent(QDragEnterEvent *event)
 {
     const bool isOwn = event->source() != nullptr;
-    if (!draggedProject(event->mimeData()).isEmpty() || (!isOwn && MvDraggedFotos::areIn(event->mimeData())))
+    const bool hasDates = !MvDraggedDates::paths(event->mimeData()).isEmpty();
+    if (!draggedProject(event->mimeData()).isEmpty() ||
+        (!isOwn && (hasDates || MvDraggedFotos::areIn(event->mimeData()))))
         event->acceptProposedAction();
+    if (hasDates)
+        showMessage(tr("Loslassen übernimmt die Termine in den Kalender."));
 }
 
 void MvStudioWindow::dropEvent(QDropEvent *event)
@@ -505,6 +528,8 @@ void MvStudioWindow::dropEvent(QDropEvent *event)
     event->acceptProposedAction();
     if (const QString path = draggedProject(event->mimeData()); !path.isEmpty())
         m_flow->open(path);
+    else if (!MvDraggedFotos::areIn(event->mimeData()))
+        return; // files of dates have a way of their own
     else if (isStartShown())
         m_fotos->startCalendar(MvDraggedFotos::paths(event->mimeData()));
     else

@@ -5,6 +5,7 @@
 
 class MvBirthdayImport;
 class MvEntriesFlow;
+class MvEntryImportFlow;
 class MvExportFlow;
 class MvFotoFlow;
 class MvFotoTray;
@@ -79,6 +80,7 @@ private:
     void checkPrint();
     void showFinding(const MvPrintFinding &finding);
     void showSettings();
+    void takeDates(const QStringList &files, bool areWithFotos);
     void onOpened();
     void setStartShown(bool shown);
     void rememberWindow();
@@ -97,6 +99,7 @@ private:
     MvPageFlow *m_pageFlow;
     MvBirthdayImport *m_import;
     MvEntriesFlow *m_entries;
+    MvEntryImportFlow *m_dates;
     QStackedWidget *m_center = nullptr;
     MvStartPage *m_start = nullptr;
     MvPageCanvas *m_canvas = nullptr;

@@ -147,6 +147,12 @@ void MvGraphicsItemCalendariumCell::onDataClicked()
         Q_EMIT dateClicked(m_date, m_pressScreenPos);
 }
 
+void MvGraphicsItemCalendariumCell::cancelClick()
+{
+    m_clickTimer.stop();
+    m_pressCount = 0;
+}
+
 // ---- keyboard and screen reader
 
 void MvGraphicsItemCalendariumCell::press()

@@ -39,6 +39,8 @@ public:
 
     /// As when the mouse leaves.
     void endHover();
+    /// The press was none of a click: something is dragged from here.
+    void cancelClick();
     /// Opens the day's menu, as a click does, below the cell.
     void press();
     bool hasKeyboardFocus() const { return m_hasKeyboardFocus && hasFocus(); }

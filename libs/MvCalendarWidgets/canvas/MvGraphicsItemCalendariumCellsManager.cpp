@@ -213,6 +213,10 @@ void MvGraphicsItemCalendariumCellsManager::showEntryForDateInternal()
 {
     if (!m_isEditable)
         return;
+    if (m_openDay) {
+        m_openDay(m_menuDate, m_menuPos);
+        return;
+    }
     MvDayMenu *menu = createMenu(m_menuDate, m_holidayConfig);
     const QList<QAction *> choices = menu->choices();
     if (choices.size() == 1 && !m_hasMenuForOneEntry) {

@@ -19,6 +19,7 @@
 #include <QTimer>
 #include <QTransform>
 
+#include <functional>
 #include <limits>
 
 class MvCalendarDayEditorDialog;
@@ -56,6 +57,10 @@ public:
     /// With a single thing to choose, a click does it without showing the menu. The menu is shown unless told
     /// otherwise.
     void setMenuForOneEntry(bool shown) { m_hasMenuForOneEntry = shown; }
+    /// What a click on a day opens in place of the menu; called with the date and a point of the screen. The menu
+    /// itself is still to be had by customEntryMenuForHoveredDate(). None, as at first: the menu.
+    using DayOpener = std::function<void(const QDate &date, const QPoint &source)>;
+    void setDayOpener(const DayOpener &open) { m_openDay = open; }
 
     /// Of all cells so far, in the item's units, cut to a whole number.
     int smallestWidth() const { return int(m_smallestWidth); }
@@ -122,6 +127,7 @@ private:
     QTimer m_menuTimer;
     QDate m_menuDate;
     QPoint m_menuPos;
+    DayOpener m_openDay;
     QDate m_hoveredDate;
     bool m_isEditable = true;
     bool m_hasMenuForOneEntry = true;

@@ -235,6 +235,13 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     QTimer::singleShot(settlingTime, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
 }
 
+void MvCalendarDayEditorDialog::takeTyped(const MvCalendarEvent &typed)
+{
+    m_descriptionEdit->setText(typed.description());
+    m_dateEdit->showDate(typed.dateTime().date());
+    m_repetitionEdit->showTyped(typed, m_session.entries().activeEventList().groups());
+}
+
 MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalendarEvent &event) const
 {
     const QWidgetList windows = QApplication::topLevelWidgets();

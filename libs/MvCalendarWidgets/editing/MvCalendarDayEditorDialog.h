@@ -54,6 +54,9 @@ public:
     /// that one comes to the front instead and this one closes.
     void openDayEditorDialog(const MvCalendarEvent &event, bool series);
 
+    /// Puts into the fields what was typed elsewhere for the entry that was opened; its photo stays.
+    void takeTyped(const MvCalendarEvent &typed);
+
     void setDate(const QDate &date);
     // of the field for the photo, see MvFotoField
     void setFoto(const MvFoto &foto);

@@ -86,12 +86,17 @@ QDate MvCalendarEventDateEdit::date() const
     return m_edit->date() == m_shown ? m_date : m_edit->date();
 }
 
-void MvCalendarEventDateEdit::setDate(const QDate &date)
+void MvCalendarEventDateEdit::showDate(const QDate &date)
 {
-    m_year = 0;
     m_unknownBox->setChecked(date.year() == MvCalendarEvent::unknownYear);
     showSections();
     m_edit->showDate(date);
+}
+
+void MvCalendarEventDateEdit::setDate(const QDate &date)
+{
+    m_year = 0;
+    showDate(date);
     m_date = date;
     m_shown = m_edit->date();
 }

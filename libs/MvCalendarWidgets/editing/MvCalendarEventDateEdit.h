@@ -24,6 +24,8 @@ public:
 
     QDate date() const;
     void setDate(const QDate &date);
+    /// Shows a date as if the user had typed it.
+    void showDate(const QDate &date);
 
     /// Takes the typed text over. False, with the keyboard in the field, when it is no date.
     bool takeText();

@@ -3,7 +3,9 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvEntryIntake.h"
+#include "MvCalendar/MvEntryTableDialog.h"
 #include "MvCore/MvDiskAccessRequest.h"
+#include "MvCore/MvRegularFile.h"
 #include "MvCore/MvYesNoRequest.h"
 
 #include <QDir>
@@ -11,6 +13,7 @@
 #include <QPromise>
 #include <QSet>
 #include <QThreadPool>
+#include <QWidget>
 
 #include <algorithm>
 #include <memory>
@@ -46,6 +49,32 @@ void readInThread(const QFileInfo &file, QObject *asker, const std::function<voi
         promise->addResult(MvEntryIntake::readAsList(file));
         promise->finish();
     });
+}
+
+bool isTable(const QFileInfo &file)
+{
+    constexpr qint64 looked = 4096; // bytes
+    const MvRegularFile::Opened opened = MvRegularFile::open(file);
+    return opened.isOk() && opened.file->size() <= MvEntryIntake::largestFile &&
+           MvEntryIntake::kindOf(opened.file->peek(looked)) == MvEntryIntake::Kind::Table;
+}
+
+/// What the columns of a table are is a guess: it is shown first.
+void askForTable(const QFileInfo &file, QObject *asker, const std::function<void(const Content &)> &then)
+{
+    const MvRegularFile::Opened opened = MvRegularFile::open(file);
+    const auto *widget = qobject_cast<QWidget *>(asker);
+    auto *dialog = new MvEntryTableDialog(opened.isOk() ? opened.file->readAll() : QByteArray(), file.fileName(),
+                                          widget ? widget->window() : nullptr);
+    QObject::connect(dialog, &QDialog::accepted, asker, [dialog, then] {
+        const MvEntryReading reading = dialog->reading();
+        Content content;
+        content.events = reading.events;
+        content.error = reading.error;
+        content.skipped = reading.skipped;
+        then(content);
+    });
+    dialog->open();
 }
 
 QString skippedText(const Content &content)
@@ -124,7 +153,9 @@ void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, 
     const auto judgeRead = [fileName, purpose, asker, take, &session](const Content &content) {
         judge(fileName, purpose, content, asker, take, session);
     };
-    if (file.size() > largeFile)
+    if (isTable(file))
+        askForTable(file, asker, judgeRead);
+    else if (file.size() > largeFile)
         readInThread(file, asker, judgeRead);
     else
         judgeRead(MvEntryIntake::readAsList(file));

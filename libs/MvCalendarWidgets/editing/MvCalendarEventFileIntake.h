@@ -25,8 +25,9 @@ public:
     enum class Purpose { Replace, Add };
     using Take = std::function<void(const MvCalendarEventList &read)>;
 
-    /// Reads the file, a large one in a thread of its own, and calls `take` once the person agrees; at once when there
-    /// is nothing to ask. Nothing is called when the asker is gone by then; it must not be null.
+    /// Reads the file, a large one in a thread of its own, shows a table before that, and calls `take` once the person
+    /// agrees; at once when there is nothing to ask. Nothing is called when the asker is gone by then; it must not be
+    /// null.
     static void start(const QString &fileName, Purpose purpose, QObject *asker, const Take &take,
                       MvSession &session = MvSession::defaultSession());
 

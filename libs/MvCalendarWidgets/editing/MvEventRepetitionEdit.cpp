@@ -133,6 +133,21 @@ void MvEventRepetitionEdit::setEvent(const MvCalendarEvent &event, const MvEvent
 {
     m_event = event;
     m_groups = groups;
+    fill(event, groups);
+    if (isNew)
+        m_leapDay->setCurrentIndex(int(MvEventRepetition::LeapDay::February28));
+    m_shown = event;
+    MvEventGroupList same = groups;
+    applyTo(m_shown, same);
+}
+
+void MvEventRepetitionEdit::showTyped(const MvCalendarEvent &typed, const MvEventGroupList &groups)
+{
+    fill(typed, groups);
+}
+
+void MvEventRepetitionEdit::fill(const MvCalendarEvent &event, const MvEventGroupList &groups)
+{
     const QDate date = event.dateTime().date();
     const Choice choice = choiceOf(event);
     m_repetition->removeItem(AsItIs);
@@ -151,11 +166,8 @@ void MvEventRepetitionEdit::setEvent(const MvCalendarEvent &event, const MvEvent
     const MvEventGroup *own = event.groups().isEmpty() ? nullptr : groups.find(event.groups().constFirst());
     m_group->setCurrentText(own ? own->name : QString());
     m_group->lineEdit()->setPlaceholderText(tr("Gruppe"));
-    m_leapDay->setCurrentIndex(isNew ? int(MvEventRepetition::LeapDay::February28) : int(event.repetition().leapDay));
+    m_leapDay->setCurrentIndex(int(event.repetition().leapDay));
     showChoice();
-    m_shown = event;
-    MvEventGroupList same = groups;
-    applyTo(m_shown, same);
 }
 
 void MvEventRepetitionEdit::showChoice()

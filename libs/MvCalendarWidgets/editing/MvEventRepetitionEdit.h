@@ -24,6 +24,8 @@ public:
 
     /// A new entry of 29 February begins with 28 February in other years.
     void setEvent(const MvCalendarEvent &event, const MvEventGroupList &groups, bool isNew);
+    /// Shows another state of the entry as if the user had chosen it.
+    void showTyped(const MvCalendarEvent &typed, const MvEventGroupList &groups);
     /// Puts what is chosen into an entry, whose date is known by now. A group that is typed in is added to the groups.
     void applyTo(MvCalendarEvent &event, MvEventGroupList &groups) const;
     bool isTouched() const;
@@ -49,6 +51,7 @@ private:
     static Choice choiceOf(const MvCalendarEvent &event);
     void nameUnseen(QComboBox *combo, const QString &name);
     void addDate(QGridLayout *layout, int row, QCheckBox **box, MvDateEdit **edit, const QString &name);
+    void fill(const MvCalendarEvent &event, const MvEventGroupList &groups);
     void showChoice();
 
     QComboBox *m_repetition;

@@ -24,6 +24,7 @@ constexpr int fadeDuration = 350; // ms; also the time after which a shown photo
 constexpr int labelIndent = 13;
 constexpr int spaceAroundButton = 5;
 constexpr int linesOfHint = 4;
+constexpr int linesOfShortHint = 2;
 
 } // namespace
 
@@ -82,6 +83,15 @@ void MvFotoField::createRemoveButton()
     m_fade->setDuration(fadeDuration);
     m_fade->setStartValue(0.0);
     m_fade->setEndValue(1.0);
+}
+
+void MvFotoField::setCompact()
+{
+    m_isCompact = true;
+    m_removeButton->setText(tr("Foto entfernen")); // among others, whose keys it would take
+    m_label->setMinimumHeight(linesOfShortHint * m_label->fontMetrics().lineSpacing() + 2 * spaceAroundButton);
+    m_label->setIndent(spaceAroundButton);
+    showHint();
 }
 
 QList<QWidget *> MvFotoField::focusWidgets() const
@@ -143,7 +153,9 @@ void MvFotoField::showHint()
     m_pixmap = {};
     m_label->clear();
     m_label->setAccessibleName(tr("Foto auswählen"));
-    m_label->setText(tr("Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden."));
+    m_label->setText(m_isCompact
+                         ? tr("Foto wählen oder hierher ziehen")
+                         : tr("Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden."));
     if (m_removeButton->hasFocus())
         m_label->setFocus();
     m_removeButton->setEnabled(false); // invisible from now on, and so out of the keyboard's way

@@ -25,6 +25,9 @@ public:
     explicit MvFotoField(QWidget *parent = nullptr);
     ~MvFotoField() override;
 
+    /// A low field with a short hint, for where there is little room.
+    void setCompact();
+
     MvFoto foto() const { return m_foto; }
     /// A large photo is shown when it has been decoded; until then, and for one that cannot be read, a text stands in
     /// its place.
@@ -70,6 +73,7 @@ private:
     MvDropLabel *m_label = nullptr;
     QPushButton *m_removeButton = nullptr;
     QPropertyAnimation *m_fade = nullptr;
+    bool m_isCompact = false;
     bool m_hoversRemoveButton = false;
     bool m_hoversLabel = false;
 };

@@ -66,6 +66,12 @@ void MvDialogRequestHandler::askForFile(const FileRequest &request, QObject *ask
     if (saves) {
         dialog->setDefaultSuffix(suffixOf(request.filter));
         dialog->selectFile(request.suggestedName);
+        QObject::connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) {
+            const QFileInfo name(dialog->selectedFiles().value(0)); // the suggested one goes along
+            dialog->setDefaultSuffix(suffixOf(filter));
+            if (!name.suffix().isEmpty() && !suffixOf(filter).isEmpty())
+                dialog->selectFile(name.completeBaseName() + u'.' + suffixOf(filter));
+        });
     }
     QObject::connect(dialog, &QFileDialog::finished, dialog, [this, dialog, kind = request.kind, answer](int result) {
         const QString file = result == QDialog::Accepted ? dialog->selectedFiles().value(0) : QString();

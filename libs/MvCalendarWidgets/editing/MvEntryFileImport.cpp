@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCalendar/MvEntryFileImport.h"
+
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntrySteps.h"
+#include "MvCalendar/MvEntryTableDialog.h"
+
+#include "MvCore/MvRegularFile.h"
+
+#include <QFutureWatcher>
+#include <QPromise>
+#include <QThreadPool>
+
+#include <memory>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 looked = 4096; // bytes that tell what a file is
+
+} // namespace
+
+QString MvEntryFileImport::Result::summary() const
+{
+    if (isCancelled)
+        return MvEntryFileImport::tr("Nichts übernommen");
+    if (report.added + report.changed + report.equal == 0 && !errors.isEmpty())
+        return MvEntryFileImport::tr("%n Dateien ließen sich nicht lesen.", nullptr, int(errors.size()));
+    return report.describe();
+}
+
+MvEntryFileImport::MvEntryFileImport(MvSession &session, QWidget *window)
+    : QObject(window)
+    , m_session(session)
+    , m_window(window)
+{}
+
+MvEntryFileImport::~MvEntryFileImport() = default;
+
+void MvEntryFileImport::import(const QStringList &files)
+{
+    if (m_isRunning || files.isEmpty())
+        return;
+    m_isRunning = true;
+    m_files = files;
+    m_readings.clear();
+    m_result = {};
+    next();
+}
+
+void MvEntryFileImport::next()
+{
+    if (m_files.isEmpty()) {
+        finish();
+        return;
+    }
+    const QString file = m_files.takeFirst();
+    const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(file));
+    const bool isTable = opened.isOk() && opened.file->size() <= MvEntryIntake::largestFile &&
+                         MvEntryIntake::kindOf(opened.file->peek(looked)) == MvEntryIntake::Kind::Table;
+    if (isTable)
+        askForTable(file);
+    else
+        readInThread(file);
+}
+
+void MvEntryFileImport::askForTable(const QString &file)
+{
+    const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(file));
+    auto *dialog = new MvEntryTableDialog(opened.isOk() ? opened.file->readAll() : QByteArray(),
+                                          QFileInfo(file).fileName(), m_window);
+    connect(dialog, &QDialog::finished, this, [this, dialog, file](int result) {
+        if (result == QDialog::Accepted) {
+            add(file, dialog->reading());
+        } else { // all files are one step: none is taken then
+            m_readings.clear();
+            m_files.clear();
+            m_result.isCancelled = true;
+            next();
+        }
+    });
+    dialog->open();
+}
+
+void MvEntryFileImport::readInThread(const QString &file)
+{
+    auto *watcher = new QFutureWatcher<MvEntryReading>(this);
+    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, file] {
+        watcher->deleteLater();
+        add(file, watcher->result());
+    });
+    const auto promise = std::make_shared<QPromise<MvEntryReading>>();
+    promise->start();
+    watcher->setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, file] {
+        promise->addResult(MvEntryIntake::read(QFileInfo(file)));
+        promise->finish();
+    });
+}
+
+void MvEntryFileImport::add(const QString &file, const MvEntryReading &reading)
+{
+    if (reading.isOk())
+        m_readings.append({QFileInfo(file).fileName(), reading});
+    else
+        m_result.errors.append(reading.error);
+    next();
+}
+
+/// Photos of a list that lie beside it are copied first, in the background.
+void MvEntryFileImport::finish()
+{
+    MvCalendarEventList all;
+    for (const auto &[name, reading] : std::as_const(m_readings))
+        all += reading.events;
+    m_session.entries().prepareFotos(all, this, [this] { take(); });
+}
+
+void MvEntryFileImport::take()
+{
+    MvCalendarEventRegistry &registry = m_session.entries();
+    const MvCalendarEventList before = registry.activeEventList();
+    MvCalendarEventList after = before;
+    for (const auto &[name, reading] : std::as_const(m_readings)) {
+        MvEntryIntake::Report report;
+        after = MvEntryIntake::joined(after, reading, &report);
+        m_result.report.added += report.added;
+        m_result.report.changed += report.changed;
+        m_result.report.equal += report.equal;
+        m_result.report.skipped += report.skipped;
+        for (const MvCalendarEventFile::Skipped &skipped : std::as_const(report.skipped))
+            m_result.lines.append(tr("%1: %2").arg(name, skipped.describe()));
+    }
+    QList<MvEntryChange> changes;
+    for (qsizetype i = 0; i < after.size(); ++i) {
+        const MvCalendarEvent old = i < before.size() ? before.at(i) : MvCalendarEvent();
+        if (!old.isValid() || !(old == after.at(i)))
+            changes.append({old, after.at(i)});
+    }
+    registry.addGroups(after.groups());
+    MvEntrySteps::push(m_session, tr("Termine importieren"), changes);
+    m_readings.clear();
+    m_isRunning = false;
+    Q_EMIT finished(std::exchange(m_result, {}));
+}
