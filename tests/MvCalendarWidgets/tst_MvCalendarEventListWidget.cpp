@@ -9,6 +9,7 @@
 #include "MvCalendar/MvCalendarEventListWidget.h"
 #include "MvCalendar/MvCalendarEventModel.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryFiles.h"
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvProactiveHelpController.h"
@@ -217,7 +218,9 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     QSignalSpy added(&list, &MvCalendarEventListWidget::calendarEventAdded);
     QSignalSpy signalled(&registry(), &MvCalendarEventRegistry::eventsChanged);
     menuAction(list, action)->trigger();
-    QCOMPARE(m_script->requests.mid(0, 2), QStringList(2, u"5 Kalendereinträge *.xml"_qs));
+    const QString request = u"5 Kalendereinträge "_qs;
+    QCOMPARE(m_script->requests.mid(0, 2),
+             (QStringList{request + MvEntryFiles::saveFilter(), request + MvEntryFiles::openFilter()}));
     QCOMPARE(m_script->requests.size(), action == u"Laden…"_qs && changed ? 3 : 2); // only when entries get lost
     QTEST(names().join(u' '), "result");
     QCOMPARE(added.count(), 1);

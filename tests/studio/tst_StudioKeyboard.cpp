@@ -334,7 +334,7 @@ void tst_StudioKeyboard::menus()
     QVERIFY(MvStudioFixture::dialog<QDialog>("exportDialog"));
     MvStudioFixture::dialog<QDialog>("exportDialog")->close();
     studio.canvas()->setFocusDate({2027, 1, 14});
-    QContextMenuEvent event(QContextMenuEvent::Keyboard, {});
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
     QApplication::sendEvent(studio.canvas(), &event);
     auto *day = qobject_cast<QMenu *>(QApplication::activePopupWidget());
     QVERIFY(day);

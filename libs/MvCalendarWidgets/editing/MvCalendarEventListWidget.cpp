@@ -11,6 +11,8 @@
 #include "MvCalendar/MvCalendarEventStep.h"
 #include "MvCalendar/MvCalendarEventTextDelegate.h"
 #include "MvCalendar/MvCalendarEventTransferDialog.h"
+#include "MvCalendar/MvEntryFileImport.h"
+#include "MvCalendar/MvEntryFiles.h"
 #include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 
 #include "MvCore/MvApplicationLocale.h"
@@ -340,13 +342,24 @@ void MvCalendarEventListWidget::saveEventList()
     const auto save = [this](const QString &fileName) {
         if (fileName.isEmpty())
             return;
-        const auto &registry = m_session.entries();
-        registry.saveAs(QFileInfo(fileName));
-        if (!registry.lastSaveError().isEmpty())
-            MvDiskAccessRequest::instance().writeCalendarEntriesFileFailed(fileName, registry.lastSaveError(), this);
+        const QString error = writeEventList(fileName);
+        if (!error.isEmpty())
+            MvDiskAccessRequest::instance().writeCalendarEntriesFileFailed(fileName, error, this);
     };
     MvDiskAccessRequest::instance().requestSaveFile(MvDiskAccessRequest::CalendarEntriesFile, tr("Kalendereinträge"),
-                                                    u"*.xml"_s, tr("Kalendereinträge") + u".xml"_s, this, save);
+                                                    MvEntryFiles::saveFilter(), tr("Kalendereinträge") + u".xml"_s,
+                                                    this, save);
+}
+
+/// What went wrong, for a person.
+QString MvCalendarEventListWidget::writeEventList(const QString &fileName) const
+{
+    using Kind = MvEntryFiles::Kind;
+    const Kind kind = MvEntryFiles::kindOf(fileName);
+    if (kind == Kind::Calendar || kind == Kind::Table)
+        return MvEntryFiles::write(events(), QFileInfo(fileName)).error;
+    m_session.entries().saveAs(QFileInfo(fileName));
+    return m_session.entries().lastSaveError();
 }
 
 void MvCalendarEventListWidget::importEventList()
@@ -361,19 +374,41 @@ void MvCalendarEventListWidget::loadEventList(bool merge)
             readEventList(fileName, merge);
     };
     MvDiskAccessRequest::instance().requestOpenFile(MvDiskAccessRequest::CalendarEntriesFile, tr("Kalendereinträge"),
-                                                    u"*.xml"_s, this, read);
+                                                    MvEntryFiles::openFilter(), this, read);
 }
 
 void MvCalendarEventListWidget::readEventList(const QString &fileName, bool merge)
 {
     using Intake = MvCalendarEventFileIntake;
+    using Kind = MvEntryFiles::Kind;
     MvLogger::legacyLog(u"CalendarEvents ACTION:loadFromFile MERGE:%1"_s.arg(merge ? u"set"_s : u"unset"_s));
+    const Kind kind = MvEntryFiles::kindOf(fileName);
+    if (merge && kind != Kind::List && kind != Kind::None) { // what others have written may have changed since
+        importFile(fileName);
+        return;
+    }
     Intake::start(
         fileName, merge ? Intake::Purpose::Add : Intake::Purpose::Replace, this,
         [this, merge](const MvCalendarEventList &read) {
             m_session.entries().prepareFotos(read, this, [this, read, merge] { takeEventList(read, merge); });
         },
         m_session);
+}
+
+void MvCalendarEventListWidget::importFile(const QString &fileName)
+{
+    auto *import = new MvEntryFileImport(m_session, this);
+    connect(import, &MvEntryFileImport::finished, this, [this, import](const MvEntryFileImport::Result &result) {
+        constexpr int mostNamed = 10;
+        import->deleteLater();
+        if (result.isCancelled)
+            return;
+        QStringList lines{result.summary()};
+        lines += (result.errors + result.lines).mid(0, mostNamed);
+        MvRequestHandler::current().report(tr("Kalendereinträge"), lines.join(u'\n'), this);
+        finishAdding();
+    });
+    import->import({fileName});
 }
 
 void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, bool merge)

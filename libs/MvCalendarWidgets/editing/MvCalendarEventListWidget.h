@@ -53,7 +53,8 @@ public:
 
     /// Replaces the entries by those of a file that the user chooses; with `merge`, adds those whose uuid is new. A
     /// file that is no list or cannot be read is reported and changes nothing; the user is asked before entries get
-    /// lost and before only a part of the file is taken.
+    /// lost and before only a part of the file is taken. Tables are shown first; what calendars, tables and visiting
+    /// cards of others bring is reported, and with `merge` replaces what they have brought before.
     void loadEventList(bool merge);
 
 public Q_SLOTS:
@@ -81,6 +82,8 @@ Q_SIGNALS:
 
 private:
     QPushButton *createAddButton(const QString &text, const QString &name, QWidget *parent);
+    QString writeEventList(const QString &fileName) const;
+    void importFile(const QString &fileName);
     void readEventList(const QString &fileName, bool merge);
     void takeEventList(const MvCalendarEventList &read, bool merge);
     using Reach = MvCalendarEventStep::Reach;

@@ -78,7 +78,10 @@ void MvBubble::adjust()
     if (!m_scroll->widget())
         return;
     const QRect space = room();
-    QSize size = m_scroll->widget()->sizeHint();
+    const QWidget *content = m_scroll->widget();
+    QSize size = content->sizeHint();
+    if (content->hasHeightForWidth())
+        size.setHeight(qMax(size.height(), content->heightForWidth(size.width())));
     const int around = 2 * padding;
     if (size.height() + around + MvBubblePlacement::arrowLength > space.height())
         size.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
