@@ -80,11 +80,12 @@ void MvBubble::adjust()
     const QRect space = room();
     const QWidget *content = m_scroll->widget();
     QSize size = content->sizeHint();
-    if (content->hasHeightForWidth())
-        size.setHeight(qMax(size.height(), content->heightForWidth(size.width())));
+    const int scrollBar = m_scroll->verticalScrollBar()->sizeHint().width();
+    if (content->hasHeightForWidth()) // beside a scroll bar, too: one that is there would else stay
+        size.setHeight(qMax(size.height(), content->heightForWidth(size.width() - scrollBar)));
     const int around = 2 * padding;
     if (size.height() + around + MvBubblePlacement::arrowLength > space.height())
-        size.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
+        size.rwidth() += scrollBar;
     m_placement = MvBubblePlacement::beside(m_target, size + QSize(around, around), space);
     const QMargins arrow = m_placement.margins();
     layout()->setContentsMargins(QMargins(padding, padding, padding, padding) + arrow);
