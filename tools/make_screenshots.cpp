@@ -265,6 +265,7 @@ void Screenshots::take(const State &state)
 void Screenshots::reset()
 {
     QToolTip::hideText();
+    canvas()->entries()->cancel();
     while (QWidget *popup = QApplication::activePopupWidget())
         popup->close();
     for (QWidget *widget : QApplication::topLevelWidgets()) {

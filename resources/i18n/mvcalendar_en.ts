@@ -2854,8 +2854,8 @@
         <translation>Remove photo</translation>
     </message>
     <message>
-        <source>Foto wählen oder hierher ziehen</source>
-        <translation>Choose a photo or drop it here</translation>
+        <source>Foto hinzufügen</source>
+        <translation>Add a photo</translation>
     </message>
 </context>
 <context>

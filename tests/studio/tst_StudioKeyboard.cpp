@@ -47,6 +47,8 @@ bool isControl(const QWidget *widget)
         return false;
     if (qobject_cast<const QScrollBar *>(widget) || qobject_cast<const QHeaderView *>(widget))
         return false; // their views scroll and sort by keys
+    if (qobject_cast<const QLineEdit *>(widget->parentWidget()))
+        return false; // its button to clear it: there are keys for that
     if (qobject_cast<const QToolBar *>(widget->parentWidget()) ||
         qobject_cast<const QDockWidget *>(widget->parentWidget()))
         return false; // the menus have the same actions

@@ -192,8 +192,11 @@ void MvEntryBubble::fillList(const MvCalendarEventList &entries, const MvCalenda
         new QListWidgetItem(MvIconRegistry::instance().icon(u"ico_common_plus_grey"_s), tr("Neuer Eintrag")));
     const qsizetype row = chosen.isValid() ? entries.indexOf(chosen) : -1;
     m_list->setCurrentRow(row < 0 ? m_list->count() - 1 : int(row));
-    const int height = m_list->sizeHintForRow(0) * qMin(mostRows, m_list->count());
-    m_list->setFixedHeight(height + 2 * m_list->frameWidth());
+    m_list->ensurePolished();
+    int height = 2 * m_list->frameWidth();
+    for (int shown = 0; shown < qMin(mostRows, m_list->count()); ++shown)
+        height += m_list->sizeHintForRow(shown);
+    m_list->setFixedHeight(height);
     m_list->setVisible(!entries.isEmpty());
 }
 

@@ -104,6 +104,8 @@ MvEntryTableDialog::MvEntryTableDialog(const QByteArray &bytes, const QString &n
     layout->addWidget(buttons);
     fillChoices();
     showTable();
+    if (m_format.isOrderOpen)
+        m_order->setFocus(); // what is to be answered
     resize(760, 520);
 }
 

@@ -154,7 +154,7 @@ void MvFotoField::showHint()
     m_label->clear();
     m_label->setAccessibleName(tr("Foto auswählen"));
     m_label->setText(m_isCompact
-                         ? tr("Foto wählen oder hierher ziehen")
+                         ? tr("Foto hinzufügen")
                          : tr("Ziehen Sie ein Foto auf diese Fläche um es als Symbol für den Termin zu verwenden."));
     if (m_removeButton->hasFocus())
         m_label->setFocus();
