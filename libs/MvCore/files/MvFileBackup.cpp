@@ -226,13 +226,18 @@ QByteArray MvFileBackup::temporaryPath(const QString &folder)
 void MvFileBackup::sweepTemporaries(const QString &folder)
 {
     const QDateTime yesterday = QDateTime::currentDateTimeUtc().addDays(-1);
-    const QFileInfoList files = QDir(folder).entryInfoList({temporaryPrefix + u'*'}, QDir::Files | QDir::Hidden);
+    const QFileInfoList files =
+        QDir(folder).entryInfoList({temporaryPrefix + u'*'}, QDir::Files | QDir::Dirs | QDir::Hidden);
     for (const QFileInfo &file : files) {
         const QStringList parts = file.fileName().mid(temporaryPrefix.size()).split(u'-');
         bool isNumber = false;
         const qint64 processId = parts.value(1).toLongLong(&isNumber);
         const bool isOrphan = isNumber && processId > 0 && parts.value(0) == hostMark() && !isRunning(processId);
-        if (isOrphan || file.lastModified() < yesterday)
+        if (!isOrphan && file.lastModified() >= yesterday)
+            continue;
+        if (file.isDir() && !file.isSymLink())
+            QDir(file.filePath()).removeRecursively();
+        else
             QFile::remove(file.filePath());
     }
 }

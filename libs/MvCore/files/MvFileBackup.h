@@ -42,8 +42,9 @@ public:
     /// cut and gets a number that tells it from others.
     static QString stem(const QString &fileName, qsizetype addition);
 
-    /// A name for a temporary file in the folder, encoded for the file system. It tells which program made it.
+    /// A name for a temporary file, or folder, in the folder, encoded for the file system. It tells which program made
+    /// it; what others put behind the name changes nothing in that.
     static QByteArray temporaryPath(const QString &folder);
-    /// Removes the temporary files whose program is gone, and any that are older than a day.
+    /// Removes the temporary files and folders whose program is gone, and any that are older than a day.
     static void sweepTemporaries(const QString &folder);
 };

@@ -2,6 +2,7 @@
 #include "MvProject/MvProjectPack.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCore/MvFileBackup.h"
 #include "MvCore/MvFileName.h"
 #include "MvCore/MvRegularFile.h"
 #include "MvProject/MvProjectFile.h"
@@ -10,7 +11,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSet>
-#include <QUuid>
 
 using namespace Qt::StringLiterals;
 
@@ -195,7 +195,8 @@ MvProjectPack::Result MvProjectPack::writeFolder(const QString &path) const
         return contents;
     }
     // made beside it, and given its name when it is whole
-    QDir made(there.path() + u"/."_s + there.fileName() + u'-' + QUuid::createUuid().toString(QUuid::Id128));
+    MvFileBackup::sweepTemporaries(there.path());
+    QDir made(QFile::decodeName(MvFileBackup::temporaryPath(there.path())));
     MvOutcome outcome = made.mkpath(u"."_s) ? MvOutcome() : failed(path, tr("der Ordner lässt sich nicht anlegen"));
     for (const Item &item : contents.items) {
         if (!outcome.isOk())

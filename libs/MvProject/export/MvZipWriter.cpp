@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvZipWriter.h"
 
+#include "MvCore/MvFileAttributes.h"
+#include "MvCore/MvFileBackup.h"
+#include "MvCore/MvFileDescriptor.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
 #include <zip.h>
 
 MvZipWriter::MvZipWriter(const QString &path)
@@ -15,8 +23,11 @@ MvZipWriter::MvZipWriter(const QString &path)
         setError(tr("Das ist keine Datei, die sich ersetzen lässt"));
         return;
     }
+    const QFileInfo target(there.exists() ? there.canonicalFilePath() : there.absoluteFilePath());
+    m_target = QFile::encodeName(target.filePath());
+    m_temporary = MvFileBackup::temporaryPath(target.path());
     int code = 0;
-    m_archive = zip_open(QFile::encodeName(path).constData(), ZIP_CREATE | ZIP_TRUNCATE, &code);
+    m_archive = zip_open(m_temporary.constData(), ZIP_CREATE | ZIP_TRUNCATE, &code);
     if (m_archive)
         return;
     zip_error_t error;
@@ -60,12 +71,29 @@ void MvZipWriter::take(const QString &name, struct zip_source *source, bool isDe
 MvOutcome MvZipWriter::finish()
 {
     if (m_archive && m_error.isEmpty()) {
-        if (zip_close(m_archive) == 0)
-            m_archive = nullptr;
-        else
+        MvFileBackup::sweepTemporaries(QFileInfo(QFile::decodeName(m_target)).path());
+        if (zip_close(m_archive) != 0) {
             setError(QString::fromLocal8Bit(zip_strerror(m_archive)));
+        } else {
+            m_archive = nullptr;
+            if (!putInPlace()) {
+                setError(MvFileDescriptor::errorText(errno));
+                ::unlink(m_temporary.constData());
+            }
+        }
     }
     return {m_error, {}};
+}
+
+/// Complete and on disk before it takes the place of the file that is there, whose rights it gets.
+bool MvZipWriter::putInPlace()
+{
+    MvFileDescriptor file(::open(m_temporary.constData(), O_WRONLY | O_CLOEXEC));
+    if (!file.isOpen())
+        return false;
+    if (QFileInfo::exists(QFile::decodeName(m_target)))
+        MvFileAttributes::copy(m_target, file);
+    return ::fsync(file.get()) == 0 && file.close() && ::rename(m_temporary.constData(), m_target.constData()) == 0;
 }
 
 void MvZipWriter::setError(const QString &reason)
