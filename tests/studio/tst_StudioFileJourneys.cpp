@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvStudioFixture.h"
 
+#include "flows/MvMissingFotos.h"
 #include "flows/MvPagePreview.h"
 #include "flows/MvPrintFindingList.h"
 
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void exportChecked();
     void exportCancelled();
     void missingFotosAreFound();
+    void foundFotosStayWithTheirCalendar();
     void damagedFileLeadsToItsBackup();
     void failedSavingLeadsElsewhere();
     void nextCalendarIsLikeTheLast_data();
@@ -237,6 +239,35 @@ void tst_StudioFileJourneys::missingFotosAreFound()
     studio.undo(); // one step
     QCOMPARE(foto(0), studio.path(u"alt/sommer/0.png"_s));
     QCOMPARE(foto(1), studio.path(u"alt/sommer/1.png"_s));
+}
+
+/// Another calendar is opened while a folder is searched; it misses the same photo.
+void tst_StudioFileJourneys::foundFotosStayWithTheirCalendar()
+{
+    MvStudioFixture studio;
+    MvCalendarDocument document = studio.document();
+    MvCalendarPage page = document.pages().at(0);
+    page.setFotoFrame(MvFotoFrame(studio.path(u"alt/0.png"_s)));
+    document.setPage(0, page);
+    QVERIFY(QDir().mkpath(studio.path(u"neu"_s)));
+    studio.writeFoto(u"neu/0.png"_s, Qt::green);
+    studio.project()->newProject(document);
+    const auto ask = [&] {
+        return studio.trigger("findPhotos") &&
+               QTest::qWaitFor([] { return MvStudioFixture::dialog<QMessageBox>("missingPhotosMessage") != nullptr; });
+    };
+    QVERIFY(ask());
+    QVERIFY(studio.click(MvStudioFixture::dialog<QMessageBox>("missingPhotosMessage"), "searchPhotosButton"));
+    MvCalendarDocument other = document;
+    other.setTitle(u"Anderer"_s);
+    connect(
+        studio.window()->findChild<MvMissingFotos *>(), &MvMissingFotos::message, this,
+        [&] { studio.project()->newProject(other); }, Qt::SingleShotConnection);
+    QVERIFY(studio.chooseFile(studio.path(u"neu"_s)));
+    QCOMPARE(studio.document().title(), other.title());
+    QVERIFY(ask()); // is told after the search has ended
+    QVERIFY(studio.document() == other);
+    QCOMPARE(studio.steps(), 0);
 }
 
 void tst_StudioFileJourneys::damagedFileLeadsToItsBackup()

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,12 +28,22 @@ MvMissingFotos::MvMissingFotos(MvProject *project, QWidget *window)
     , m_isGivenUp(std::make_shared<std::atomic_bool>(false))
 {
     m_pool.setMaxThreadCount(1);
+    connect(project, &MvProject::documentReplaced, this, &MvMissingFotos::forget);
 }
 
 MvMissingFotos::~MvMissingFotos()
 {
     *m_isGivenUp = true;
     m_pool.waitForDone();
+}
+
+/// Another project is open: whatever was asked for the one before means nothing any more.
+void MvMissingFotos::forget()
+{
+    ++m_looks;
+    *std::exchange(m_isGivenUp, std::make_shared<std::atomic_bool>(false)) = true;
+    if (m_question)
+        m_question->reject();
 }
 
 void MvMissingFotos::look()
@@ -76,6 +88,7 @@ void MvMissingFotos::tell(const QStringList &missing)
         if (button == search)
             chooseFolder();
     });
+    m_question = box;
     box->open();
 }
 
@@ -87,6 +100,7 @@ void MvMissingFotos::chooseFolder()
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
     connect(dialog, &QFileDialog::fileSelected, this, &MvMissingFotos::searchIn);
+    m_question = dialog;
     dialog->open();
 }
 
@@ -102,14 +116,18 @@ void MvMissingFotos::search()
 
 void MvMissingFotos::searchIn(const QString &folder)
 {
-    Q_EMIT message(tr("Die Fotos werden gesucht …"));
     m_pool.start([this, document = m_project->document(), folder, isGivenUp = m_isGivenUp] {
         const QStringList missing = MvFotoRelocation::missing(document);
         const QHash<QString, QString> found =
             MvFotoRelocation::find(missing, document.fotoPool(), folder, [&isGivenUp] { return !*isGivenUp; });
+        const auto takeWanted = [this, found, count = int(missing.size()), isGivenUp] {
+            if (!*isGivenUp)
+                take(found, count);
+        };
         if (!*isGivenUp) // the destructor waits for this task, so that the object is still there
-            QMetaObject::invokeMethod(this, [this, found, count = int(missing.size())] { take(found, count); });
+            QMetaObject::invokeMethod(this, takeWanted, Qt::QueuedConnection);
     });
+    Q_EMIT message(tr("Die Fotos werden gesucht …"));
 }
 
 /// All pages in one step. Pages that have got another photo meanwhile keep it.

@@ -3,6 +3,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QStringList>
 #include <QThreadPool>
@@ -12,10 +13,12 @@
 #include <memory>
 
 class MvProject;
+class QDialog;
 class QWidget;
 
 /// Photos of an opened project that are not where it says: tells them once, and finds them again in a folder that the
-/// person shows, all at once (MvFotoRelocation).
+/// person shows, all at once (MvFotoRelocation). What was found for one project never comes into another that has been
+/// opened meanwhile.
 class MvMissingFotos : public QObject
 {
     Q_OBJECT
@@ -36,6 +39,7 @@ Q_SIGNALS:
     void message(const QString &text);
 
 private:
+    void forget();
     void lookThen(const std::function<void(const QStringList &missing)> &use);
     void tell(const QStringList &missing);
     void chooseFolder();
@@ -46,5 +50,6 @@ private:
     QWidget *m_window;
     std::shared_ptr<std::atomic_bool> m_isGivenUp;
     QThreadPool m_pool;
+    QPointer<QDialog> m_question; // about the open project
     int m_looks = 0;
 };
