@@ -6,12 +6,14 @@
 #include "pages/MvFrameEdits.h"
 #include "pages/MvPageItem.h"
 #include "pages/MvPageSelection.h"
+#include "pages/MvScreenFotoSource.h"
 #include "pages/MvScreenFotos.h"
 
 #include "MvProject/MvProject.h"
 
 #include <QCursor>
 #include <QDrag>
+#include <QFileInfo>
 #include <QGraphicsSceneHoverEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
@@ -430,13 +432,10 @@ void MvFotoHandle::pullEdge(MvCalendarPage &page, const QPointF &distance) const
 /// The photo moved under its frame by a distance in page units, as far as it reaches.
 MvFotoElement MvFotoHandle::movedFoto(int element, const MvFotoElement &foto, const QPointF &distance) const
 {
-    const QRectF rect = frameRect(element);
-    QSizeF size = m_item->fotos()->fullSize(foto.path());
-    if (size.isEmpty())
-        size = m_item->fotos()->foto(foto.path(), MvScreenFotos::boundsFor(rect)).size();
+    const QSizeF size = MvScreenFotoSource(*m_item->fotos()).fullSize(QFileInfo(foto.path()));
     MvFotoElement moved = foto;
     if (!size.isEmpty())
-        moved.setFocus(foto.movedFocus(size, rect.size(), distance));
+        moved.setFocus(foto.movedFocus(size, frameRect(element).size(), distance));
     return moved;
 }
 

@@ -11,10 +11,10 @@
 #include "pages/MvPageEntries.h"
 #include "pages/MvPageFoto.h"
 #include "pages/MvPageItem.h"
+#include "pages/MvPageKeys.h"
 #include "pages/MvPageSelection.h"
 #include "pages/MvPrintMarks.h"
 
-#include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvProject/MvPrintCheck.h"
@@ -38,17 +38,6 @@ namespace {
 constexpr double zoomStep = 1.25;
 constexpr double unitsPerInch = 254.0; // tenths of a millimetre
 constexpr int fittingMargin = 8;       // pixels
-constexpr double fotoStep = 0.05;      // of the frame, per key
-
-QPointF wayOf(int key)
-{
-    return {key == Qt::Key_Right  ? 1.0
-            : key == Qt::Key_Left ? -1.0
-                                  : 0.0,
-            key == Qt::Key_Down ? 1.0
-            : key == Qt::Key_Up ? -1.0
-                                : 0.0};
-}
 
 } // namespace
 
@@ -83,10 +72,7 @@ MvPageCanvas::MvPageCanvas(MvProject *project, QWidget *parent)
     m_scene->addItem(m_item);
     setScene(m_scene);
     applyPalette();
-    connect(m_scene, &QGraphicsScene::focusItemChanged, this, [this] {
-        if (focusDate().isValid())
-            m_keyboardDate = focusDate();
-    });
+    m_keys = new MvPageKeys(this, m_item, m_fotoHandle);
     connect(m_item, &MvPageItem::refreshed, this, &MvPageCanvas::onRefreshed);
     connect(m_foto, &MvPageFoto::message, this, &MvPageCanvas::message);
     connect(m_entries, &MvPageEntries::message, this, &MvPageCanvas::message);
@@ -136,6 +122,15 @@ void MvPageCanvas::onDocumentReplaced()
     setFocusDate({});
     setCurrentPage(0);
     zoomToFit();
+    askForFotos();
+}
+
+/// Photos are decoded while everything else is put in order; nobody waits for what is not seen.
+void MvPageCanvas::askForFotos()
+{
+    const double ratio = devicePixelRatioF();
+    if (isVisible())
+        m_item->askForFotos(viewportTransform() * QTransform::fromScale(ratio, ratio));
 }
 
 /// The page's rectangles are new: what stands on them follows.
@@ -144,9 +139,7 @@ void MvPageCanvas::onRefreshed()
     m_scene->setSceneRect(m_item->boundingRect());
     if (m_isFitted)
         zoomToFit();
-    // new cells have taken the place of the one that the keyboard was at
-    if (m_keyboardDate.isValid() && !focusDate().isValid())
-        setFocusDate(m_keyboardDate);
+    m_keys->follow();
     updateDescription();
 }
 
@@ -461,54 +454,15 @@ void MvPageCanvas::onSelectionChanged()
 
 void MvPageCanvas::keyPressEvent(QKeyEvent *event)
 {
-    switch (event->key()) {
-    case Qt::Key_PageDown:
-        nextPage();
+    if (event->key() == Qt::Key_Escape && m_entries->cancel())
         return;
-    case Qt::Key_PageUp:
-        previousPage();
-        return;
-    case Qt::Key_Home:
-        setCurrentPage(0);
-        return;
-    case Qt::Key_End:
-        setCurrentPage(int(m_project->document().pages().size()) - 1);
-        return;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        if (event->modifiers() & Qt::AltModifier)
-            moveFoto(event->key());
-        else if (!moveFrames(event) && !beginAtFirstDate() && !turnPageByArrow(event->key()))
-            MvCalendariumView::keyPressEvent(event); // the day's cell goes on
-        return;
-    case Qt::Key_Escape:
-        if (m_entries->cancel())
-            return;
-        if (m_fotoHandle->isDragging())
-            m_fotoHandle->cancelDrag();
-        else if (m_selection->kind() != MvPageSelection::Kind::Calendar)
-            m_selection->selectNothing();
-        else
-            setFocusDate({});
-        return;
-    case Qt::Key_Delete:
-        deleteChosen();
-        return;
-    case Qt::Key_Space:
-        if (focusDate().isValid()) {
-            MvCalendariumView::keyPressEvent(event);
-        } else if (!event->isAutoRepeat()) {
-            m_isSpaceDown = true;
-            updateHand();
-        }
-        return;
-    case Qt::Key_Control:
+    if (event->key() == Qt::Key_Control)
         m_entries->setModifiers(Qt::ControlModifier);
-        [[fallthrough]];
-    default:
-        MvCalendariumView::keyPressEvent(event);
+    if (event->key() == Qt::Key_Space && !focusDate().isValid()) {
+        m_isSpaceDown = true;
+        updateHand();
+    } else if (!m_keys->press(event)) {
+        MvCalendariumView::keyPressEvent(event); // the day's cell goes on
     }
 }
 
@@ -531,8 +485,8 @@ void MvPageCanvas::focusInEvent(QFocusEvent *event)
     MvCalendariumView::focusInEvent(event);
     const bool isByKeyboard = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
                               event->reason() == Qt::ShortcutFocusReason;
-    if (isByKeyboard && !setFocusDate(m_keyboardDate))
-        beginAtFirstDate();
+    if (isByKeyboard)
+        m_keys->enter();
 }
 
 void MvPageCanvas::focusOutEvent(QFocusEvent *event)
@@ -545,67 +499,14 @@ void MvPageCanvas::focusOutEvent(QFocusEvent *event)
 
 QDate MvPageCanvas::focusDate() const
 {
-    const auto *cell = qobject_cast<MvGraphicsItemCalendariumCell *>(
-        m_scene->focusItem() != nullptr ? m_scene->focusItem()->toGraphicsObject() : nullptr);
-    return cell != nullptr ? cell->date() : QDate();
+    return m_keys->focusDate();
 }
 
 bool MvPageCanvas::setFocusDate(const QDate &date)
 {
-    if (date.isValid() && m_item->cells()->focusDate(date))
-        return true;
-    m_keyboardDate = {};
-    m_scene->setFocusItem(nullptr);
-    return false;
+    return m_keys->setFocusDate(date);
 }
 
-/// Where the keyboard begins when it is at no day: the first one of the page's month.
-bool MvPageCanvas::beginAtFirstDate()
-{
-    const QDate present = focusDate();
-    if (present.isValid() && m_item->cells()->cell(present)->hasKeyboardFocus())
-        return false;
-    if (present.isValid() && setFocusDate(present)) // a click has left it there
-        return true;
-    const QDate first = m_item->shownPage().contentConfig().date();
-    return setFocusDate(first) || setFocusDate(m_item->dates().value(0));
-}
-
-/// Beyond the page's days the calendar goes on with the next or the last page.
-bool MvPageCanvas::turnPageByArrow(int key)
-{
-    constexpr int week = 7;
-    const QDate date = focusDate();
-    const int days = key == Qt::Key_Right ? 1 : key == Qt::Key_Left ? -1 : key == Qt::Key_Down ? week : -week;
-    const QDate next = date.addDays(days);
-    const int page = currentPage();
-    if (!date.isValid() || !m_item->dateRect(next).isEmpty())
-        return false;
-    setCurrentPage(page + (days > 0 ? 1 : -1));
-    if (currentPage() == page)
-        return true;       // the calendar ends here
-    m_keyboardDate = next; // taken up with the new page's cells
-    m_scene->setFocusItem(nullptr);
-    return true;
-}
-
-void MvPageCanvas::moveFoto(int key)
-{
-    m_fotoHandle->moveFocus(wayOf(key) * fotoStep);
-}
-
-/// Chosen frames go a millimetre with each key, a tenth with Shift; with Ctrl they grow or shrink by that.
-bool MvPageCanvas::moveFrames(const QKeyEvent *event)
-{
-    if (m_selection->element() < 0 || m_fotoHandle->isDragging())
-        return false;
-    const double step =
-        event->modifiers() & Qt::ShiftModifier ? MvFrameEdits::millimetre / 10.0 : MvFrameEdits::millimetre;
-    const QPointF way = wayOf(event->key()) * step;
-    return event->modifiers() & Qt::ControlModifier ? m_frames->growBy(way) : m_frames->moveBy(way);
-}
-
-/// A photo goes first, its frame with the next key.
 void MvPageCanvas::deleteChosen()
 {
     const bool isOneFoto = m_selection->kind() == MvPageSelection::Kind::Foto && m_selection->elements().size() == 1;

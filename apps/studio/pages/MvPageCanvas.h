@@ -13,6 +13,7 @@ class MvPageDrop;
 class MvPageEntries;
 class MvPageFoto;
 class MvPageItem;
+class MvPageKeys;
 class MvPageSelection;
 class MvProject;
 class QMenu;
@@ -68,8 +69,12 @@ public Q_SLOTS:
     /// Puts a file there; one undo step.
     void setFoto(const QString &path);
     void removePhoto();
+    /// The chosen photo, else the chosen frames: a photo goes first, its frame with the next key.
+    void deleteChosen();
     /// Trim, bleed, safe margin and binding zone.
     void setPrintMarksShown(bool shown);
+    /// Has the photos of the page in sight decoded before anything else.
+    void askForFotos();
 
 Q_SIGNALS:
     void currentPageChanged(int page);
@@ -108,11 +113,6 @@ private:
     QDate dateAt(const QPoint &position) const;
     QPointF onPage(const QPointF &position) const;
     void onSelectionChanged();
-    bool beginAtFirstDate();
-    bool turnPageByArrow(int key);
-    void moveFoto(int key);
-    bool moveFrames(const QKeyEvent *event);
-    void deleteChosen();
     void updateDescription();
 
     MvProject *m_project;
@@ -127,7 +127,7 @@ private:
     MvPageDrop *m_drop;
     MvPageEntries *m_entries;
     QGraphicsItem *m_printMarks;
-    QDate m_keyboardDate; // where the keyboard is, or will be when the page has cells again
+    MvPageKeys *m_keys = nullptr;
     QPoint m_panFrom;
     bool m_isPanning = false;
     bool m_isSpaceDown = false;

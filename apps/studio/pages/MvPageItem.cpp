@@ -13,6 +13,7 @@
 #include "MvFoto/MvFotoPass.h"
 #include "MvProject/MvProject.h"
 
+#include <QImage>
 #include <QPainter>
 #include <QTimerEvent>
 
@@ -70,6 +71,8 @@ MvPageItem::MvPageItem(MvProject *project, QGraphicsItem *parent)
     connect(project, &MvProject::pagesReset, this, &MvPageItem::refresh);
     connect(project, &MvProject::documentReplaced, this, [this] {
         m_fotos->clear();
+        m_trial.reset();
+        takePage(); // its size decides how large everything is shown
         refresh();
     });
     connect(&project->session().entries(), &MvCalendarEventRegistry::eventsChanged, this, &MvPageItem::refresh);
@@ -149,6 +152,14 @@ void MvPageItem::timerEvent(QTimerEvent *event)
 void MvPageItem::refreshNow()
 {
     m_timer.stop();
+    takePage();
+    record();
+    discardCache();
+    Q_EMIT refreshed();
+}
+
+void MvPageItem::takePage()
+{
     const MvCalendarDocument &document = m_project->document();
     const bool isThere = m_page >= 0 && m_page < document.pages().size();
     m_shown = m_trial ? *m_trial : isThere ? document.pages().at(m_page) : MvCalendarPage();
@@ -158,9 +169,6 @@ void MvPageItem::refreshNow()
         m_pageRect = pageRect;
     }
     m_elements = isThere ? m_shown.elementsOn(document.format()) : QList<MvPageElement>();
-    record();
-    discardCache();
-    Q_EMIT refreshed();
 }
 
 void MvPageItem::record()
@@ -264,6 +272,19 @@ void MvPageItem::paintInto(QPainter &painter) const
     m_recording.replay(painter);
 }
 
+/// Painting asks for what it has not; here nobody sees what it has.
+void MvPageItem::askForFotos(const QTransform &toPixels) const
+{
+    if (m_pageRect.isEmpty())
+        return;
+    QImage nowhere(1, 1, QImage::Format_RGB32);
+    QPainter painter(&nowhere);
+    painter.setTransform(toPixels);
+    MvScreenFotoSource source(*m_fotos);
+    MvRenderingRule(0).encodeInto(painter);
+    m_shown.paintFoto(painter, m_project->document().format(), source);
+}
+
 void MvPageItem::paintShadow(QPainter &painter) const
 {
     painter.setPen(Qt::NoPen);
@@ -281,9 +302,5 @@ void MvPageItem::paintFotos(QPainter &painter) const
     MvRenderingRule(0).encodeInto(painter); // places that stay empty are told about below
     m_shown.paintFoto(painter, m_project->document().format(), source);
     screenRule().encodeInto(painter);
-    for (const MvPageElement &element : m_elements) // asked for, be they there or not: files come and go
-        if (element.foto())
-            m_fotos->foto(element.foto()->path(),
-                          MvScreenFotos::boundsFor(painter.transform().mapRect(element.rect())));
     MvFrameNotices::paint(painter, m_elements, m_pageRect, m_fotos.get());
 }

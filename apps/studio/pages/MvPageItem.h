@@ -59,6 +59,9 @@ public:
 
     /// Records what changed now, instead of on the next turn of the event loop.
     void refreshNow();
+    /// Has the page's photos decoded for the pixels that the transform leads to, before they are painted: they are what
+    /// takes longest until a page is sharp.
+    void askForFotos(const QTransform &toPixels) const;
     const MvPaintRecording &recording() const { return m_recording; }
     MvGraphicsItemCalendariumCellsManager *cells() const { return m_cells.get(); }
     MvScreenFotos *fotos() const { return m_fotos.get(); }
@@ -85,6 +88,7 @@ private:
         QRect rect;           // of the pixels, relative to those
     };
 
+    void takePage();
     void record();
     void addDate(const QDate &date, const QRectF &rect);
     void removeOutdatedCells();

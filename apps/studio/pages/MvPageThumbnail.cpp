@@ -36,8 +36,7 @@ void paintEmptyFrames(QPainter &painter, const MvCalendarPage &page, const MvPag
         if (!foto || element.rect().isEmpty())
             continue;
         ++number;
-        const QSize bounds = MvScreenFotos::boundsFor(painter.transform().mapRect(element.rect()));
-        if (!foto->isEmpty() && fotos && !fotos->foto(foto->path(), bounds).isNull())
+        if (!foto->isEmpty() && fotos && fotos->isAtHand(foto->path()))
             continue;
         const QPointF middle = element.rect().center();
         painter.save();

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cmath>
 #include <utility>
 
 namespace {
@@ -50,22 +49,25 @@ QImage MvScreenFotos::foto(const QString &path, const QSize &bounds)
     if (!covers(state.size, wanted))
         state.size = wanted;
     MvFotoService &service = MvFotoService::instance();
-    MvFotoOrder order{path, state.size, MvFotoOrder::Fit::WithinOwnSize, state.stamp()};
+    const MvFotoOrder order{path, state.size, MvFotoOrder::Fit::WithinOwnSize, state.stamp()};
     const MvFotoRequest request = service.request(order, m_urgency);
     if (request.isDone()) {
         m_latest = request;
         return request.image();
     }
     state.awaited = request;
-    order.stamp = state.shownStamp;
-    return service.otherSize(order);
+    return otherSize(path, state);
 }
 
-QSize MvScreenFotos::boundsFor(const QRectF &frame)
+bool MvScreenFotos::isAtHand(const QString &path) const
 {
-    constexpr double reserve = 1.5; // an upright photo of 2:3 in a frame that lies
-    const int side = int(std::ceil(reserve * std::max(frame.width(), frame.height())));
-    return {side, side};
+    const auto state = m_states.constFind(path);
+    return state != m_states.cend() && !state->isUnreadable && !otherSize(path, *state).isNull();
+}
+
+QImage MvScreenFotos::otherSize(const QString &path, const State &state)
+{
+    return MvFotoService::instance().otherSize({path, state.size, MvFotoOrder::Fit::WithinOwnSize, state.shownStamp});
 }
 
 void MvScreenFotos::takeArrived(const MvFotoOrder &order)

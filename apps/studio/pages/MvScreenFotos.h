@@ -6,7 +6,6 @@
 #include <QHash>
 #include <QImage>
 #include <QObject>
-#include <QRectF>
 #include <QSize>
 #include <QString>
 #include <QTimer>
@@ -27,10 +26,12 @@ public:
 
     /// The photo, as large as it fits into the bounds (pixels), but never larger than its file has it. Null when it is
     /// not there yet: loaded() follows. While another size is being decoded, one that is at hand is given.
+    ///
+    /// Each size is decoded for itself: whoever paints a photo asks for the one in which it is painted, and nobody for
+    /// another one beside that.
     QImage foto(const QString &path, const QSize &bounds);
-
-    /// The bounds for a photo that is to cover a frame (pixels), whatever its proportions within reason.
-    static QSize boundsFor(const QRectF &frame);
+    /// Whether foto() would give an image, in whatever size; asks for none.
+    bool isAtHand(const QString &path) const;
 
     /// What the file has, in pixels and upright; empty until it has been read.
     QSize fullSize(const QString &path) const { return m_states.value(path).full; }
@@ -58,6 +59,7 @@ private:
         std::optional<MvFotoStamp> stamp() const { return isCurrent ? std::optional(shownStamp) : std::nullopt; }
     };
 
+    static QImage otherSize(const QString &path, const State &state);
     void takeArrived(const MvFotoOrder &order);
     void takeStamps(const QHash<QString, MvFotoStamp> &stamps);
     void watchUnreadable();

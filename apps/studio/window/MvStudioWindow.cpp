@@ -456,6 +456,7 @@ void MvStudioWindow::setStartShown(bool shown)
     } else {
         m_center->setCurrentWidget(m_canvas);
         restoreState(m_docks, stateVersion);
+        m_canvas->askForFotos(); // before anybody wants thumbnails
         m_canvas->setFocus();
     }
     m_statusBar->setPageShown(!shown);
