@@ -206,6 +206,16 @@
     </message>
 </context>
 <context>
+    <name>MvFotoPanel</name>
+    <message numerus="yes">
+        <source>%n Fotos</source>
+        <translation>
+            <numerusform>1 Foto</numerusform>
+            <numerusform>%n Fotos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvFotoPoolIntake</name>
     <message numerus="yes">
         <source>… und %n weitere</source>

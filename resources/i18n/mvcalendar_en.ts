@@ -1579,6 +1579,13 @@
     </message>
 </context>
 <context>
+    <name>MvCommonValue</name>
+    <message>
+        <source>verschieden</source>
+        <translation>different</translation>
+    </message>
+</context>
+<context>
     <name>MvContentPanel</name>
     <message>
         <source>&amp;Kalenderwochen</source>
@@ -3125,6 +3132,21 @@
     <message>
         <source>Kontrast:</source>
         <translation>Contrast:</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Fotos</source>
+        <translation>
+            <numerusform>One photo</numerusform>
+            <numerusform>%n photos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Diese Rahmen sind leer.</source>
+        <translation>These frames are empty.</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,9 @@
 #include "pages/MvPageDeviation.h"
 #include "pages/MvPageItem.h"
 #include "pages/MvPageSelection.h"
+#include "panels/MvCommonSlider.h"
+#include "panels/MvPageEdits.h"
+#include "panels/MvStudioPanels.h"
 
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
@@ -29,6 +32,8 @@ private Q_SLOTS:
     void keys();
     void comeAndGo();
     void deviatingPages();
+    void severalInPanels_data();
+    void severalInPanels();
 
 private:
     MvCalendarPage page() const { return m_project->document().pages().constFirst(); }
@@ -47,6 +52,7 @@ constexpr int title = 0;
 constexpr int left = 1;
 constexpr int right = 2;
 constexpr int calendarium = 4;
+constexpr int other = 5; // what somebody has added
 
 } // namespace
 
@@ -270,6 +276,109 @@ void tst_MvFrames::comeAndGo()
     QCOMPARE(page().elements().constFirst().rect(), place);
     m_canvas->selection()->selectElement(0);
     QVERIFY(frames->moveBy({10, 10}));
+}
+
+void tst_MvFrames::severalInPanels_data()
+{
+    QTest::addColumn<QList<int>>("chosen"); // the last one is what panels are about
+    QTest::addColumn<QByteArray>("control");
+    QTest::addColumn<QString>("keys"); // what somebody types; empty for a click
+    const QList<int> fotos{title, right, left};
+    const QList<int> texts{left, title, other};
+    for (const auto &[chosen, control, keys] : {
+             std::tuple(fotos, "photoCaption", u"Ostsee"_s),
+             std::tuple(fotos, "photoFit", u"D"_s),
+             std::tuple(fotos, "photoZoomSlider", u"R"_s),
+             std::tuple(fotos, "photoStraighten", u"U"_s),
+             std::tuple(fotos, "photoStraighten", u"7\n"_s),
+             std::tuple(fotos, "photoBrightness", u"R"_s),
+             std::tuple(fotos, "photoBorder", u"4\n"_s),
+             std::tuple(fotos, "frameLeft", u"20\n"_s),
+             std::tuple(fotos, "frameWidth", u"U"_s),
+             std::tuple(texts, "textEdit", u"Gute Reise"_s),
+             std::tuple(texts, "textPoints", u"12\n"_s),
+             std::tuple(texts, "textBold", QString()),
+             std::tuple(texts, "textHorizontal", u"D"_s),
+         })
+        QTest::addRow("%s %s", control, qPrintable(keys.trimmed())) << chosen << QByteArray(control) << keys;
+}
+
+/// What differs is shown so; one edit makes all alike that have it, in one step, and touches no other.
+void tst_MvFrames::severalInPanels()
+{
+    QFETCH(QList<int>, chosen);
+    QFETCH(QByteArray, control);
+    QFETCH(QString, keys);
+    MvCalendarPage prepared = page();
+    for (const int number : {left, right}) {
+        MvFotoElement foto(u"/tmp/%1.jpg"_s.arg(number));
+        foto.setCaption(u"Foto %1"_s.arg(number));
+        foto.setFit(number == left ? MvFotoElement::Fit::Fill : MvFotoElement::Fit::Whole);
+        foto.setZoom(1.0 + number);
+        foto.setStraightening(number);
+        foto.setBrightness(10 * number);
+        foto.setBorder({10.0 * number, Qt::white});
+        prepared.setFoto(number, foto);
+    }
+    MvPageElement wide = prepared.elements().at(left);
+    wide.setRect(wide.rect().adjusted(0, 0, 30, 0));
+    prepared.setElement(left, wide);
+    MvTextElement said(u"Anders"_s);
+    said.setPoints(31.0);
+    said.setWeight(prepared.elements().at(title).text()->weight() > QFont::Medium ? QFont::Normal : QFont::Bold);
+    said.setAlignment(Qt::AlignRight | Qt::AlignBottom);
+    prepared.addElement({{}, said});
+    m_project->changePage(0, prepared, u"prepared"_s);
+
+    QWidget window;
+    MvStudioPanels panels(m_project.get(), &window, m_canvas->selection(), m_canvas->frames());
+    panels.edits()->setScope(MvPageEdits::Scope::CurrentPage);
+    auto *row = new QHBoxLayout(&window);
+    for (const MvStudioPanel &panel : panels.selectionPanels())
+        row->addWidget(panel.widget);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    m_canvas->selection()->selectElements(chosen);
+    auto *widget = window.findChild<QWidget *>(QLatin1StringView(control));
+    QVERIFY(widget);
+    const auto isDifferent = [widget] {
+        if (const auto *slider = qobject_cast<MvCommonSlider *>(widget))
+            return slider->isDifferent();
+        if (const auto *box = qobject_cast<QComboBox *>(widget))
+            return box->currentIndex() < 0;
+        if (const auto *box = qobject_cast<QCheckBox *>(widget))
+            return box->checkState() == Qt::PartiallyChecked;
+        const bool isText = widget->inherits("QLineEdit") || widget->inherits("QPlainTextEdit");
+        return widget->property(isText ? "placeholderText" : "text").toString() == u"verschieden"_s;
+    };
+    QVERIFY(isDifferent());
+
+    const int steps = MvUndoController::instance().stack()->index();
+    widget->setFocus();
+    if (keys.isEmpty())
+        QTest::mouseClick(widget, Qt::LeftButton, {}, {8, widget->height() / 2});
+    else if (const QHash<QString, Qt::Key> moves{{u"U"_s, Qt::Key_Up}, {u"D"_s, Qt::Key_Down}, {u"R"_s, Qt::Key_Right}};
+             moves.contains(keys))
+        QTest::keyClick(widget, moves.value(keys));
+    else
+        QTest::keyClicks(widget, keys.trimmed());
+    if (keys.endsWith(u'\n'))
+        QTest::keyClick(widget, Qt::Key_Return);
+    QVERIFY(!isDifferent());
+    QCOMPARE(MvUndoController::instance().stack()->index(), steps + 1);
+    const MvCalendarPage edited = page();
+    const bool isText = prepared.elements().at(chosen.last()).text();
+    for (int number = 0; number < prepared.elements().size(); ++number) {
+        const bool isMeant = chosen.contains(number) && (isText ? prepared.elements().at(number).text() != nullptr
+                                                                : number == left || number == right);
+        if (!isMeant && !control.startsWith("frame"))
+            QCOMPARE(edited.elements().at(number), prepared.elements().at(number));
+    }
+    m_canvas->selection()->selectNothing();
+    m_canvas->selection()->selectElements(chosen);
+    QVERIFY(!isDifferent()); // as the page has it
+    MvUndoController::instance().undo();
+    QVERIFY(page() == prepared);
 }
 
 void tst_MvFrames::deviatingPages()

@@ -68,6 +68,15 @@ QRectF MvFrameEdits::rect() const
     return m_selection->element() < 0 ? QRectF() : elements().value(m_selection->element()).rect();
 }
 
+QList<QRectF> MvFrameEdits::rects() const
+{
+    const QList<MvPageElement> present = elements();
+    QList<QRectF> rects;
+    for (const int number : freeElements())
+        rects.append(present.at(number).rect());
+    return rects;
+}
+
 void MvFrameEdits::change(const MvCalendarPage &after, const QString &text, int mergeId)
 {
     m_project->changePage(m_selection->page(), after, text, mergeId);
@@ -297,16 +306,14 @@ bool MvFrameEdits::growBy(const QPointF &distance)
     return isChanged;
 }
 
-void MvFrameEdits::setRect(const QRectF &rect)
+void MvFrameEdits::changeRects(const std::function<QRectF(const QRectF &)> &change)
 {
-    const int number = m_selection->element();
-    MvCalendarPage changed = page();
-    if (number < 0 || !isFree(changed, number))
-        return;
-    MvPageElement element = elements().value(number);
-    element.setRect(rect);
-    changed.setElement(number, element);
-    change(changed, tr("Rahmen verschieben"), MvStudioMerge::ElementMove);
+    arrange(
+        [&change](QList<QRectF> rects) {
+            std::transform(rects.cbegin(), rects.cend(), rects.begin(), change);
+            return rects;
+        },
+        tr("Rahmen verschieben"), MvStudioMerge::ElementMove);
 }
 
 // -------------------------------------------------------------------------------------------------------------- menu

@@ -33,6 +33,8 @@ public:
     bool canFreeFrames() const;
     /// The rectangle of the element that panels show; empty when none is chosen.
     QRectF rect() const;
+    /// Those of the chosen elements that have a place of their own.
+    QList<QRectF> rects() const;
     /// A menu below the given one: for the element under the mouse, which is chosen first unless it is among those
     /// chosen already, and for new ones.
     void addActions(QMenu *parent, int element);
@@ -54,8 +56,8 @@ public Q_SLOTS:
     bool moveBy(const QPointF &distance);
     /// Moves the lower right corner of each.
     bool growBy(const QPointF &distance);
-    /// Of the one that panels show.
-    void setRect(const QRectF &rect);
+    /// Gives each of the chosen ones another rectangle; a step that merges with the one before.
+    void changeRects(const std::function<QRectF(const QRectF &)> &change);
 
 Q_SIGNALS:
     void message(const QString &text);

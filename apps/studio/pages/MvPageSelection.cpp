@@ -34,6 +34,15 @@ QList<int> MvPageSelection::elements() const
     return all;
 }
 
+QList<int> MvPageSelection::elementsOfKind() const
+{
+    QList<int> alike = m_others;
+    alike.removeIf([this](int element) { return kindOf(element) != m_kind; });
+    if (m_element >= 0)
+        alike.append(m_element);
+    return alike;
+}
+
 void MvPageSelection::selectElement(int element)
 {
     const Kind kind = kindOf(element);

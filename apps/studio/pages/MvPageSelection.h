@@ -33,6 +33,8 @@ public:
     int element() const { return m_element; }
     /// All chosen elements in their order; empty when none is.
     QList<int> elements() const;
+    /// Those of the chosen elements that are of the same kind as the one that panels show; that one last.
+    QList<int> elementsOfKind() const;
     /// Invalid when no day is chosen.
     QDate date() const { return m_date; }
 

@@ -3,15 +3,18 @@
 
 #include "pages/MvFrameEdits.h"
 #include "pages/MvPageSelection.h"
+#include "panels/MvCommonValue.h"
 #include "panels/MvPageEdits.h"
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -47,8 +50,7 @@ MvCalendariumPanel::MvCalendariumPanel(MvPageEdits *edits, MvPageSelection *sele
     QVBoxLayout *column = addScrollingColumn();
     column->addLayout(form);
     column->addStretch(1);
-    for (QComboBox *box : {m_month, m_layout})
-        box->installEventFilter(new MvMouseWheelEventFilter(box));
+    MvFormFields::keepWheelOut({m_month, m_layout});
     connect(m_month, &QComboBox::activated, this, [this] {
         const int offset = m_month->currentData().toInt();
         edit([offset](MvCalendariumElement &one) { one.setMonthOffset(offset); }, tr("Monat wählen"));
@@ -68,27 +70,44 @@ MvCalendariumPanel::MvCalendariumPanel(MvPageEdits *edits, MvPageSelection *sele
 void MvCalendariumPanel::showPage()
 {
     const MvCalendarPage page = edits()->page();
-    const MvPageElement element = page.elementsOn(edits()->document().format()).value(m_selection->element());
-    if (m_selection->kind() != MvPageSelection::Kind::Calendarium || !element.calendarium())
+    const QList<MvPageElement> elements = page.elementsOn(edits()->document().format());
+    const QList<int> numbers = m_selection->elementsOfKind();
+    if (m_selection->kind() != MvPageSelection::Kind::Calendarium || numbers.isEmpty())
         return;
-    const MvCalendariumElement &shown = *element.calendarium();
-    m_month->setCurrentIndex(m_month->findData(shown.monthOffset()));
-    m_layout->setCurrentIndex(qMax(0, m_layout->findData(shown.layout())));
-    m_line->setChecked(shown.hasMonthLine());
-    m_onFoto->setChecked(shown.isOnFoto());
-    const bool isFree = MvFrameEdits::isFree(page, m_selection->element());
+    QList<MvCalendariumElement> shown;
+    for (const int number : numbers)
+        shown.append(*elements.at(number).calendarium());
+    MvCommonValue::show(
+        m_month, MvCommonValue::of(shown, [](const MvCalendariumElement &one) { return QVariant(one.monthOffset()); }));
+    MvCommonValue::show(m_layout, MvCommonValue::of(shown, [this](const MvCalendariumElement &one) {
+                            return m_layout->itemData(qMax(0, m_layout->findData(one.layout())));
+                        }));
+    MvCommonValue::show(m_line, MvCommonValue::of(shown, &MvCalendariumElement::hasMonthLine));
+    MvCommonValue::show(m_onFoto, MvCommonValue::of(shown, &MvCalendariumElement::isOnFoto));
+    const bool areFree = std::any_of(numbers.cbegin(), numbers.cend(),
+                                     [&page](int number) { return MvFrameEdits::isFree(page, number); });
     for (QWidget *control : std::initializer_list<QWidget *>{m_month, m_layout, m_line, m_onFoto})
-        control->setEnabled(isFree);
+        control->setEnabled(areFree);
 }
 
+/// All chosen ones that have a place of their own, in one step.
 void MvCalendariumPanel::edit(const Edit &edit, const QString &text)
 {
-    const int number = m_selection->element();
-    MvPageElement element = edits()->page().elementsOn(edits()->document().format()).value(number);
-    if (isShowing() || !element.calendarium())
+    if (isShowing())
         return;
-    MvCalendariumElement changed = *element.calendarium();
-    edit(changed);
-    element.setContent(changed);
-    edits()->editCurrent([&](MvCalendarPage &page) { page.setElement(number, element); }, text);
+    const MvPageFormat format = edits()->document().format();
+    edits()->editCurrent(
+        [&](MvCalendarPage &page) {
+            const QList<MvPageElement> elements = page.elementsOn(format);
+            for (const int number : m_selection->elementsOfKind()) {
+                MvPageElement element = elements.value(number);
+                if (!element.calendarium() || !MvFrameEdits::isFree(page, number))
+                    continue;
+                MvCalendariumElement changed = *element.calendarium();
+                edit(changed);
+                element.setContent(changed);
+                page.setElement(number, element);
+            }
+        },
+        text);
 }

@@ -3,25 +3,27 @@
 
 #include "common/MvStudioMerge.h"
 #include "pages/MvPageSelection.h"
+#include "panels/MvCommonNumberBox.h"
+#include "panels/MvCommonSlider.h"
+#include "panels/MvCommonValue.h"
 #include "panels/MvPageEdits.h"
 
 #include "MvGUIWidgets/MvColorSelectionButton.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
 #include "MvGUIWidgets/MvSpinBox.h"
 #include "MvPaint/MvPrintableText.h"
 
 #include <QComboBox>
 #include <QDir>
-#include <QDoubleSpinBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSlider>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +33,21 @@ namespace {
 constexpr int zoomSteps = 300;
 constexpr double tenths = 10.0; // of a millimetre
 constexpr int longestName = 34;
+
+double zoomAt(int step)
+{
+    return std::exp2(step * std::log2(MvFotoElement::largestZoom) / zoomSteps);
+}
+
+QString nameOfZoom(int step)
+{
+    return MvFotoPanel::tr("%1 %").arg(std::lround(100.0 * zoomAt(step)));
+}
+
+int zoomStepOf(const MvFotoElement &foto)
+{
+    return int(std::lround(std::log2(foto.zoom()) * zoomSteps / std::log2(MvFotoElement::largestZoom)));
+}
 
 } // namespace
 
@@ -42,13 +59,13 @@ MvFotoPanel::MvFotoPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget
     , m_remove(new QPushButton(tr("Entfernen"), this))
     , m_caption(new QLineEdit(this))
     , m_fit(new QComboBox(this))
-    , m_zoom(new QSlider(Qt::Horizontal, this))
-    , m_straighten(new QDoubleSpinBox(this))
+    , m_zoom(new MvCommonSlider(nameOfZoom, this))
+    , m_straighten(new MvCommonNumberBox(this))
     , m_turnLeft(new QPushButton(this))
     , m_turnRight(new QPushButton(this))
     , m_place(new QComboBox(this))
     , m_share(new MvSpinBox(this))
-    , m_border(new QDoubleSpinBox(this))
+    , m_border(new MvCommonNumberBox(this))
     , m_borderColor(new MvColorSelectionButton(false, this))
 {
     setObjectName(u"photoPanel"_s);
@@ -62,16 +79,9 @@ MvFotoPanel::MvFotoPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget
     addBorder(m_form);
     column->addLayout(m_form);
     column->addStretch(1);
-    QWidget *before = m_turnRight; // as they stand, not as they were made
-    for (QWidget *next : std::initializer_list<QWidget *>{m_brightness, m_contrast, m_untouched, m_place, m_share,
-                                                          m_border, m_borderColor}) {
-        setTabOrder(before, next);
-        before = next;
-    }
-    auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
-    for (QWidget *box : std::initializer_list<QWidget *>{m_fit, m_zoom, m_straighten, m_brightness, m_contrast, m_place,
-                                                         m_share, m_border})
-        box->installEventFilter(keepsWheelOut);
+    MvFormFields::setTabOrder(
+        {m_turnRight, m_brightness, m_contrast, m_untouched, m_place, m_share, m_border, m_borderColor});
+    MvFormFields::keepWheelOut({m_fit, m_zoom, m_straighten, m_brightness, m_contrast, m_place, m_share, m_border});
     connect(selection, &MvPageSelection::changed, this, &MvPagePanel::renew);
 }
 
@@ -83,13 +93,12 @@ void MvFotoPanel::addFile(QFormLayout *form)
     m_remove->setObjectName(u"photoRemove"_s);
     connect(m_replace, &QPushButton::clicked, this, &MvFotoPanel::fileRequested);
     connect(m_remove, &QPushButton::clicked, this, [this] {
-        editFoto([](MvFotoElement &foto) { foto = foto.withPictureOf(MvFotoElement()); }, tr("Foto entfernen"));
+        editFotos([](MvFotoElement &foto) { foto = foto.withPictureOf(MvFotoElement()); }, tr("Foto entfernen"));
     });
     m_caption->setObjectName(u"photoCaption"_s);
-    m_caption->setPlaceholderText(tr("steht dort, wo die Vorlage Platz hat"));
     connect(m_caption, &QLineEdit::textEdited, this, [this](const QString &text) {
-        editFoto([&text](MvFotoElement &foto) { foto.setCaption(text); }, tr("Bildunterschrift ändern"),
-                 MvStudioMerge::FotoCaption);
+        editFotos([&text](MvFotoElement &foto) { foto.setCaption(text); }, tr("Bildunterschrift ändern"),
+                  MvStudioMerge::FotoCaption);
     });
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(m_replace);
@@ -113,17 +122,17 @@ void MvFotoPanel::addCrop(QFormLayout *form)
     m_zoom->setRange(0, zoomSteps);
     m_zoom->setPageStep(zoomSteps / 12);
     connect(m_zoom, &QSlider::valueChanged, this, [this](int value) {
-        const double zoom = std::exp2(value * std::log2(MvFotoElement::largestZoom) / zoomSteps);
-        editFoto([zoom](MvFotoElement &foto) { foto.setZoom(zoom); }, tr("Foto vergrößern"), MvStudioMerge::FotoZoom);
+        const double zoom = zoomAt(value);
+        editFotos([zoom](MvFotoElement &foto) { foto.setZoom(zoom); }, tr("Foto vergrößern"), MvStudioMerge::FotoZoom);
     });
     m_straighten->setObjectName(u"photoStraighten"_s);
-    m_straighten->setRange(-MvFotoElement::largestStraightening, MvFotoElement::largestStraightening);
+    m_straighten->setLimits(-MvFotoElement::largestStraightening, MvFotoElement::largestStraightening);
     m_straighten->setSingleStep(0.5);
     m_straighten->setDecimals(1);
     m_straighten->setSuffix(tr("°"));
-    connect(m_straighten, &QDoubleSpinBox::valueChanged, this, [this](double degrees) {
-        editFoto([degrees](MvFotoElement &foto) { foto.setStraightening(degrees); }, tr("Foto ausrichten"),
-                 MvStudioMerge::FotoStraightening);
+    connect(m_straighten, &MvCommonNumberBox::entered, this, [this](double degrees) {
+        editFotos([degrees](MvFotoElement &foto) { foto.setStraightening(degrees); }, tr("Foto ausrichten"),
+                  MvStudioMerge::FotoStraightening);
     });
     const auto turn = [this](QPushButton *button, const char *name, const QString &icon, const QString &text, int by) {
         button->setObjectName(QLatin1StringView(name));
@@ -131,7 +140,7 @@ void MvFotoPanel::addCrop(QFormLayout *form)
         button->setToolTip(text);
         button->setAccessibleName(text);
         connect(button, &QPushButton::clicked, this, [this, by] {
-            editFoto([by](MvFotoElement &foto) { foto.setQuarterTurns(foto.quarterTurns() + by); }, tr("Foto drehen"));
+            editFotos([by](MvFotoElement &foto) { foto.setQuarterTurns(foto.quarterTurns() + by); }, tr("Foto drehen"));
         });
     };
     turn(m_turnLeft, "photoTurnLeft", u"ico_studio_undo"_s, tr("Gegen den Uhrzeigersinn drehen"), 3);
@@ -147,17 +156,16 @@ void MvFotoPanel::addCrop(QFormLayout *form)
     m_zoom->setAccessibleName(tr("Zoom des Fotos"));
 }
 
-QSlider *MvFotoPanel::createCorrection(const char *objectName, const QString &name, const QString &step, int mergeId,
-                                       void (MvFotoElement::*set)(int))
+MvCommonSlider *MvFotoPanel::createCorrection(const char *objectName, const QString &name, const QString &step,
+                                              int mergeId, void (MvFotoElement::*set)(int))
 {
-    auto *slider = new QSlider(Qt::Horizontal, this);
+    auto *slider = new MvCommonSlider([](int value) { return QString::number(value); }, this);
     slider->setObjectName(QLatin1StringView(objectName));
     slider->setAccessibleName(name);
     slider->setRange(-MvFotoElement::strongestCorrection, MvFotoElement::strongestCorrection);
     slider->setPageStep(MvFotoElement::strongestCorrection / 5);
-    connect(slider, &QSlider::valueChanged, this, [this, slider, step, mergeId, set](int value) {
-        slider->setToolTip(QString::number(value));
-        editFoto([value, set](MvFotoElement &foto) { (foto.*set)(value); }, step, mergeId);
+    connect(slider, &QSlider::valueChanged, this, [this, step, mergeId, set](int value) {
+        editFotos([value, set](MvFotoElement &foto) { (foto.*set)(value); }, step, mergeId);
     });
     return slider;
 }
@@ -172,7 +180,7 @@ void MvFotoPanel::addTone(QFormLayout *form)
     m_untouched->setObjectName(u"photoUntouched"_s);
     m_untouched->setToolTip(tr("Helligkeit und Kontrast wieder so, wie das Foto sie hat"));
     connect(m_untouched, &QPushButton::clicked, this, [this] {
-        editFoto(
+        editFotos(
             [](MvFotoElement &foto) {
                 foto.setBrightness(0);
                 foto.setContrast(0);
@@ -203,11 +211,11 @@ void MvFotoPanel::addPlace(QFormLayout *form)
 void MvFotoPanel::addBorder(QFormLayout *form)
 {
     m_border->setObjectName(u"photoBorder"_s);
-    m_border->setRange(0.0, MvFotoElement::widestBorder / tenths);
+    m_border->setLimits(0.0, MvFotoElement::widestBorder / tenths);
     m_border->setSingleStep(0.5);
     m_border->setDecimals(1);
     m_border->setSuffix(tr(" mm"));
-    connect(m_border, &QDoubleSpinBox::valueChanged, this, [this](double width) {
+    connect(m_border, &MvCommonNumberBox::entered, this, [this](double width) {
         editFrames(
             [width](MvFotoElement &foto) {
                 MvFotoElement::Border border = foto.border();
@@ -234,64 +242,109 @@ void MvFotoPanel::addBorder(QFormLayout *form)
     m_border->setAccessibleName(tr("Breite des Randes"));
 }
 
-MvPageElement MvFotoPanel::element() const
+QList<MvFotoElement> MvFotoPanel::frames() const
 {
-    return edits()->page().elementsOn(edits()->document().format()).value(m_selection->element());
+    const QList<MvPageElement> elements = edits()->page().elementsOn(edits()->document().format());
+    QList<MvFotoElement> frames;
+    for (const int number : m_selection->elementsOfKind()) {
+        const MvPageElement element = elements.value(number);
+        if (element.foto())
+            frames.append(*element.foto());
+    }
+    return frames;
 }
 
 void MvFotoPanel::showPage()
 {
-    const MvPageElement shown = element();
-    if (m_selection->kind() != MvPageSelection::Kind::Foto || !shown.foto())
+    const QList<MvFotoElement> frames = this->frames();
+    if (m_selection->kind() != MvPageSelection::Kind::Foto || frames.isEmpty())
         return;
+    QList<MvFotoElement> fotos = frames;
+    fotos.removeIf([](const MvFotoElement &frame) { return frame.isEmpty(); });
+    showFile(fotos, frames.size());
+    showPicture(fotos.isEmpty() ? frames : fotos);
+    showFrame(frames);
+    for (QWidget *control : std::initializer_list<QWidget *>{m_remove, m_caption, m_zoom, m_straighten, m_turnLeft,
+                                                             m_turnRight, m_brightness, m_contrast})
+        control->setEnabled(!fotos.isEmpty());
     const MvCalendarPage page = edits()->page();
-    showFoto(*shown.foto());
-    const bool isOwnPlace = page.isSimple() && m_selection->element() == 0;
+    const bool isOwnPlace = page.isSimple() && m_selection->elements() == QList<int>{0};
     m_form->setRowVisible(m_place, isOwnPlace);
     m_form->setRowVisible(m_share, isOwnPlace);
     m_place->setCurrentIndex(m_place->findData(int(page.fotoFrame().placement())));
     m_share->setValue(int(std::lround(page.fotoFrame().share() * 100.0)));
 }
 
-void MvFotoPanel::showFoto(const MvFotoElement &foto)
+void MvFotoPanel::showFile(const QList<MvFotoElement> &fotos, qsizetype frameCount)
 {
-    const bool isThere = !foto.isEmpty();
-    m_name->setText(isThere ? MvPrintableText::inShort(QFileInfo(foto.path()).fileName(), longestName)
-                            : tr("Dieser Rahmen ist leer."));
-    m_name->setToolTip(QDir::toNativeSeparators(foto.path()));
+    QStringList paths;
+    for (const MvFotoElement &foto : fotos)
+        paths.append(QDir::toNativeSeparators(foto.path()));
+    const bool isThere = !fotos.isEmpty();
+    if (fotos.size() > 1)
+        m_name->setText(tr("%n Fotos", nullptr, int(fotos.size())));
+    else if (isThere)
+        m_name->setText(MvPrintableText::inShort(QFileInfo(fotos.constLast().path()).fileName(), longestName));
+    else
+        m_name->setText(frameCount > 1 ? tr("Diese Rahmen sind leer.") : tr("Dieser Rahmen ist leer."));
+    m_name->setToolTip(paths.join(u'\n'));
     m_replace->setText(isThere ? tr("Ersetzen …") : tr("Foto wählen …"));
-    if (m_caption->text() != foto.caption())
-        m_caption->setText(foto.caption());
-    m_fit->setCurrentIndex(m_fit->findData(int(foto.fit())));
-    if (!m_zoom->isSliderDown())
-        m_zoom->setValue(int(std::lround(std::log2(foto.zoom()) * zoomSteps / std::log2(MvFotoElement::largestZoom))));
-    m_straighten->setValue(foto.straightening());
-    if (!m_brightness->isSliderDown())
-        m_brightness->setValue(foto.brightness());
-    if (!m_contrast->isSliderDown())
-        m_contrast->setValue(foto.contrast());
-    m_untouched->setEnabled(isThere && (foto.brightness() != 0 || foto.contrast() != 0));
-    m_border->setValue(foto.border().width / tenths);
-    m_borderColor->setColor(foto.border().color);
-    for (QWidget *control : std::initializer_list<QWidget *>{m_remove, m_caption, m_zoom, m_straighten, m_turnLeft,
-                                                             m_turnRight, m_brightness, m_contrast})
-        control->setEnabled(isThere);
+    m_replace->setEnabled(frameCount == 1); // one file is for one frame
 }
 
-void MvFotoPanel::editFoto(const FotoEdit &edit, const QString &text, int mergeId)
+void MvFotoPanel::showPicture(const QList<MvFotoElement> &fotos)
 {
-    const MvPageElement chosen = element();
-    if (isShowing() || !chosen.foto())
+    const MvFotoElement &last = fotos.constLast();
+    MvCommonValue::show(m_caption, MvCommonValue::of(fotos, &MvFotoElement::caption),
+                        tr("steht dort, wo die Vorlage Platz hat"));
+    m_zoom->show(MvCommonValue::of(fotos, zoomStepOf), zoomStepOf(last));
+    m_straighten->show(MvCommonValue::of(fotos, &MvFotoElement::straightening), last.straightening());
+    m_brightness->show(MvCommonValue::of(fotos, &MvFotoElement::brightness), last.brightness());
+    m_contrast->show(MvCommonValue::of(fotos, &MvFotoElement::contrast), last.contrast());
+    m_untouched->setEnabled(std::any_of(fotos.cbegin(), fotos.cend(), [](const MvFotoElement &foto) {
+        return !foto.isEmpty() && (foto.brightness() != 0 || foto.contrast() != 0);
+    }));
+}
+
+void MvFotoPanel::showFrame(const QList<MvFotoElement> &frames)
+{
+    const auto width = [](const MvFotoElement &frame) { return frame.border().width / tenths; };
+    MvCommonValue::show(
+        m_fit, MvCommonValue::of(frames, [](const MvFotoElement &frame) { return QVariant(int(frame.fit())); }));
+    m_border->show(MvCommonValue::of(frames, width), width(frames.constLast()));
+    MvCommonValue::show(m_borderColor,
+                        MvCommonValue::of(frames, [](const MvFotoElement &frame) { return frame.border().color; }));
+}
+
+/// Each of them for itself, in one step.
+void MvFotoPanel::editChosen(const FotoEdit &edit, const QString &text, int mergeId, bool isForEmptyToo)
+{
+    if (isShowing() || frames().isEmpty())
         return;
-    MvFotoElement foto = *chosen.foto();
-    edit(foto);
-    edits()->editCurrent([&](MvCalendarPage &page) { page.setFoto(m_selection->element(), foto); }, text, mergeId);
+    const MvPageFormat format = edits()->document().format();
+    edits()->editCurrent(
+        [&](MvCalendarPage &page) {
+            const QList<MvPageElement> elements = page.elementsOn(format);
+            for (const int number : m_selection->elementsOfKind()) {
+                MvFotoElement foto = *elements.at(number).foto();
+                if (foto.isEmpty() && !isForEmptyToo)
+                    continue;
+                edit(foto);
+                page.setFoto(number, foto);
+            }
+        },
+        text, mergeId);
+}
+
+void MvFotoPanel::editFotos(const FotoEdit &edit, const QString &text, int mergeId)
+{
+    editChosen(edit, text, mergeId, false);
 }
 
 void MvFotoPanel::editFrames(const FotoEdit &edit, const QString &text, int mergeId)
 {
     if (edits()->scope() == MvPageEdits::Scope::CurrentPage) {
-        editFoto(edit, text, mergeId);
+        editChosen(edit, text, mergeId, true);
         return;
     }
     if (isShowing())

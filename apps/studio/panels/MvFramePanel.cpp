@@ -4,13 +4,14 @@
 #include "pages/MvFrameEdits.h"
 #include "pages/MvFrameGrips.h"
 #include "pages/MvPageSelection.h"
+#include "panels/MvCommonNumberBox.h"
+#include "panels/MvCommonValue.h"
 #include "panels/MvPageEdits.h"
 
 #include "MvGUIWidgets/MvFlowLayout.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
 
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -34,10 +35,6 @@ MvFramePanel::MvFramePanel(MvPageEdits *edits, MvFrameEdits *frames, MvPageSelec
                            "frei an."),
                         this))
     , m_controls(new QWidget(this))
-    , m_left(createLength("frameLeft", tr("Abstand von links")))
-    , m_top(createLength("frameTop", tr("Abstand von oben")))
-    , m_width(createLength("frameWidth", tr("Breite des Rahmens")))
-    , m_height(createLength("frameHeight", tr("Höhe des Rahmens")))
 {
     setObjectName(u"framePanel"_s);
     m_hint->setWordWrap(true);
@@ -58,17 +55,18 @@ MvFramePanel::MvFramePanel(MvPageEdits *edits, MvFrameEdits *frames, MvPageSelec
     connect(selection, &MvPageSelection::changed, this, &MvPagePanel::renew);
 }
 
-QDoubleSpinBox *MvFramePanel::createLength(const char *objectName, const QString &name)
+void MvFramePanel::createLength(const char *objectName, const QString &name, double (*get)(const QRectF &),
+                                void (*set)(QRectF &, double))
 {
-    auto *box = new QDoubleSpinBox(m_controls);
+    auto *box = new MvCommonNumberBox(m_controls);
     box->setObjectName(QLatin1StringView(objectName));
     box->setAccessibleName(name);
     box->setDecimals(1);
     box->setSuffix(tr(" mm"));
-    box->setKeyboardTracking(false);
-    box->installEventFilter(new MvMouseWheelEventFilter(box));
-    connect(box, &QDoubleSpinBox::valueChanged, this, &MvFramePanel::applyNumbers);
-    return box;
+    MvFormFields::keepWheelOut({box});
+    const Length length{box, get, set};
+    connect(box, &MvCommonNumberBox::entered, this, [this, length](double value) { apply(length, value); });
+    m_lengths.append(length);
 }
 
 QToolButton *MvFramePanel::createButton(const char *objectName, const QString &icon, const QString &text)
@@ -85,14 +83,24 @@ QToolButton *MvFramePanel::createButton(const char *objectName, const QString &i
 
 void MvFramePanel::addNumbers(QFormLayout *form)
 {
-    for (QDoubleSpinBox *box : {m_left, m_top})
-        box->setRange(-farthest, farthest);
-    for (QDoubleSpinBox *box : {m_width, m_height})
-        box->setRange(MvFrameGrips::smallestSide / MvFrameEdits::millimetre, farthest);
-    form->addRow(tr("Links:"), m_left);
-    form->addRow(tr("Oben:"), m_top);
-    form->addRow(tr("Breite:"), m_width);
-    form->addRow(tr("Höhe:"), m_height);
+    createLength(
+        "frameLeft", tr("Abstand von links"), [](const QRectF &rect) { return rect.left(); },
+        [](QRectF &rect, double left) { rect.moveLeft(left); });
+    createLength(
+        "frameTop", tr("Abstand von oben"), [](const QRectF &rect) { return rect.top(); },
+        [](QRectF &rect, double top) { rect.moveTop(top); });
+    createLength(
+        "frameWidth", tr("Breite des Rahmens"), [](const QRectF &rect) { return rect.width(); },
+        [](QRectF &rect, double width) { rect.setWidth(width); });
+    createLength(
+        "frameHeight", tr("Höhe des Rahmens"), [](const QRectF &rect) { return rect.height(); },
+        [](QRectF &rect, double height) { rect.setHeight(height); });
+    const QStringList labels{tr("Links:"), tr("Oben:"), tr("Breite:"), tr("Höhe:")};
+    constexpr double smallest = MvFrameGrips::smallestSide / MvFrameEdits::millimetre;
+    for (int number = 0; number < m_lengths.size(); ++number) {
+        m_lengths.at(number).box->setLimits(number < 2 ? -farthest : smallest, farthest);
+        form->addRow(labels.at(number), m_lengths.at(number).box);
+    }
 }
 
 void MvFramePanel::addLines(QFormLayout *form)
@@ -147,25 +155,27 @@ void MvFramePanel::showPage()
     m_hint->setVisible(!isFree);
     m_free->setVisible(!isFree);
     m_controls->setEnabled(isFree);
-    const QRectF rect = m_frames->rect();
-    m_left->setValue(rect.left() / MvFrameEdits::millimetre);
-    m_top->setValue(rect.top() / MvFrameEdits::millimetre);
-    m_width->setValue(rect.width() / MvFrameEdits::millimetre);
-    m_height->setValue(rect.height() / MvFrameEdits::millimetre);
+    const QRectF last = m_frames->rect();
+    const QList<QRectF> rects = isFree ? m_frames->rects() : QList<QRectF>{last};
+    for (const Length &length : std::as_const(m_lengths)) {
+        const auto shown = [&length](const QRectF &rect) {
+            return std::round(length.get(rect)) / MvFrameEdits::millimetre;
+        };
+        length.box->show(MvCommonValue::of(rects, shown), shown(last));
+    }
     for (QToolButton *button : std::as_const(m_distributing))
         button->setEnabled(m_frames->freeElements().size() > 2);
 }
 
-/// What the boxes round away is not taken from sides that nobody has touched.
-void MvFramePanel::applyNumbers()
+/// A number that a frame has already, but for what the box rounds away, is left as it is.
+void MvFramePanel::apply(const Length &length, double millimetres)
 {
     if (isShowing())
         return;
-    const QRectF before = m_frames->rect();
-    const auto take = [](const QDoubleSpinBox *box, double present) {
-        const double wanted = box->value() * MvFrameEdits::millimetre;
-        return qAbs(wanted - present) < 0.5 ? present : std::round(wanted);
-    };
-    m_frames->setRect({take(m_left, before.left()), take(m_top, before.top()), take(m_width, before.width()),
-                       take(m_height, before.height())});
+    const double wanted = std::round(millimetres * MvFrameEdits::millimetre);
+    m_frames->changeRects([&length, wanted](QRectF rect) {
+        if (qAbs(length.get(rect) - wanted) >= 0.5)
+            length.set(rect, wanted);
+        return rect;
+    });
 }

@@ -4,14 +4,17 @@
 #include "pages/MvFrameArrangement.h"
 #include "panels/MvPagePanel.h"
 
+#include <QRectF>
+
+class MvCommonNumberBox;
 class MvFrameEdits;
 class MvPageSelection;
-class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
 class QToolButton;
 
-/// Where the chosen frame stands and how large it is, in numbers, with what puts several in line and in order.
+/// Where the chosen frame stands and how large it is, in numbers, with what puts several in line and in order. Of
+/// several frames a number is shown where all have it; one that is entered goes to all of them.
 class MvFramePanel : public MvPagePanel
 {
     Q_OBJECT
@@ -24,21 +27,27 @@ protected:
     void showPage() override;
 
 private:
-    QDoubleSpinBox *createLength(const char *objectName, const QString &name);
+    /// A number of a rectangle, and what another one makes of it.
+    struct Length
+    {
+        MvCommonNumberBox *box;
+        double (*get)(const QRectF &rect);
+        void (*set)(QRectF &rect, double value);
+    };
+
+    void createLength(const char *objectName, const QString &name, double (*get)(const QRectF &),
+                      void (*set)(QRectF &, double));
     QToolButton *createButton(const char *objectName, const QString &icon, const QString &text);
     void addNumbers(QFormLayout *form);
     void addLines(QFormLayout *form);
     void addOrder(QFormLayout *form);
-    void applyNumbers();
+    void apply(const Length &length, double millimetres);
 
     MvFrameEdits *m_frames;
     MvPageSelection *m_selection;
     QLabel *m_hint;
     QWidget *m_controls;
-    QDoubleSpinBox *m_left;
-    QDoubleSpinBox *m_top;
-    QDoubleSpinBox *m_width;
-    QDoubleSpinBox *m_height;
+    QList<Length> m_lengths; // left, top, width, height
     QToolButton *m_free = nullptr;
     QList<QToolButton *> m_distributing;
 };

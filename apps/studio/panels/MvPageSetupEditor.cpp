@@ -2,7 +2,7 @@
 #include "panels/MvPageSetupEditor.h"
 
 #include "MvCore/MvApplicationLocale.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvGUIWidgets/MvSpinBox.h"
 
 #include <QComboBox>
@@ -12,7 +12,6 @@
 #include <QLabel>
 
 #include <cmath>
-#include <initializer_list>
 
 using namespace Qt::StringLiterals;
 
@@ -64,10 +63,8 @@ MvPageSetupEditor::MvPageSetupEditor(QWidget *parent)
         connect(box, &MvSpinBox::valueChanged, this, &MvPageSetupEditor::onChanged);
     for (QDoubleSpinBox *box : {m_width, m_height, m_bleed, m_bindingZone})
         connect(box, &QDoubleSpinBox::valueChanged, this, &MvPageSetupEditor::onChanged);
-    auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
-    for (QWidget *box : std::initializer_list<QWidget *>{m_month, m_year, m_months, m_paper, m_orientation, m_width,
-                                                         m_height, m_bleed, m_binding, m_bindingZone})
-        box->installEventFilter(keepsWheelOut);
+    MvFormFields::keepWheelOut(
+        {m_month, m_year, m_months, m_paper, m_orientation, m_width, m_height, m_bleed, m_binding, m_bindingZone});
 }
 
 void MvPageSetupEditor::addMonths()

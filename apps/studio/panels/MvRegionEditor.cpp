@@ -2,7 +2,7 @@
 #include "panels/MvRegionEditor.h"
 
 #include "MvCalendar/MvCalendariumHolidayCache.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 
 #include <QComboBox>
@@ -31,11 +31,10 @@ MvRegionEditor::MvRegionEditor(QWidget *parent)
     form->addRow(tr("&Land:"), m_country);
     form->addRow(tr("Re&gion:"), m_region);
     form->addRow(m_hint);
-    auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
+    MvFormFields::keepWheelOut({m_country, m_region});
     for (QComboBox *box : {m_country, m_region}) {
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(12);
-        box->installEventFilter(keepsWheelOut);
     }
     connect(m_country, &QComboBox::currentIndexChanged, this, [this] { fillRegions({}); });
     connect(m_region, &QComboBox::currentIndexChanged, this,

@@ -3,18 +3,20 @@
 
 #include "common/MvStudioMerge.h"
 #include "pages/MvPageSelection.h"
+#include "panels/MvCommonNumberBox.h"
+#include "panels/MvCommonValue.h"
 #include "panels/MvPageEdits.h"
 
 #include "MvGUIWidgets/MvColorSelectionButton.h"
 #include "MvGUIWidgets/MvFontFamilyBox.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvModelBase/MvFontTester.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QToolButton>
@@ -44,7 +46,7 @@ MvTextPanel::MvTextPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget
     , m_text(new QPlainTextEdit(this))
     , m_placeholders(new QToolButton(this))
     , m_family(createFamilies(this))
-    , m_points(new QDoubleSpinBox(this))
+    , m_points(new MvCommonNumberBox(this))
     , m_colorKind(new QComboBox(this))
     , m_color(new MvColorSelectionButton(false, this))
     , m_horizontal(new QComboBox(this))
@@ -57,17 +59,11 @@ MvTextPanel::MvTextPanel(MvPageEdits *edits, MvPageSelection *selection, QWidget
     addText(form);
     addFont(form);
     addLook(form);
+    addAlignment(form);
     column->addLayout(form);
     column->addStretch(1);
-    QWidget *before = m_points; // as they stand, not as they were made
-    for (QWidget *next : std::initializer_list<QWidget *>{m_bold, m_italic, m_capitals, m_colorKind, m_color,
-                                                          m_horizontal, m_vertical}) {
-        setTabOrder(before, next);
-        before = next;
-    }
-    auto *keepsWheelOut = new MvMouseWheelEventFilter(this);
-    for (QWidget *box : std::initializer_list<QWidget *>{m_family, m_points, m_colorKind, m_horizontal, m_vertical})
-        box->installEventFilter(keepsWheelOut);
+    MvFormFields::setTabOrder({m_points, m_bold, m_italic, m_capitals, m_colorKind, m_color, m_horizontal, m_vertical});
+    MvFormFields::keepWheelOut({m_family, m_points, m_colorKind, m_horizontal, m_vertical});
     connect(selection, &MvPageSelection::changed, this, &MvPagePanel::renew);
 }
 
@@ -114,16 +110,16 @@ QCheckBox *MvTextPanel::createBox(const char *objectName, const QString &text,
 void MvTextPanel::addFont(QFormLayout *form)
 {
     m_family->setObjectName(u"textFamily"_s);
+    m_noFamily = m_family->lineEdit()->placeholderText();
     m_family->setAccessibleName(tr("Schriftart"));
     connect(m_family, &QComboBox::currentIndexChanged, this,
             [this] { editLook([this](MvTextElement &text) { text.setFamily(m_family->currentText()); }); });
     m_points->setObjectName(u"textPoints"_s);
     m_points->setAccessibleName(tr("Schriftgröße in Punkt auf A4"));
-    m_points->setRange(MvTextElement::smallestPoints, MvTextElement::largestPoints);
+    m_points->setLimits(MvTextElement::smallestPoints, MvTextElement::largestPoints);
     m_points->setDecimals(1);
     m_points->setSuffix(tr(" pt"));
-    m_points->setKeyboardTracking(false);
-    connect(m_points, &QDoubleSpinBox::valueChanged, this,
+    connect(m_points, &MvCommonNumberBox::entered, this,
             [this](double points) { editLook([points](MvTextElement &text) { text.setPoints(points); }); });
     m_bold = createBox("textBold", tr("Fett"),
                        [](MvTextElement &text, bool on) { text.setWeight(on ? QFont::Bold : QFont::Normal); });
@@ -161,7 +157,10 @@ void MvTextPanel::addLook(QFormLayout *form)
     colors->addWidget(m_colorKind, 1);
     colors->addWidget(m_color);
     form->addRow(tr("Farbe:"), colors);
+}
 
+void MvTextPanel::addAlignment(QFormLayout *form)
+{
     m_horizontal->setObjectName(u"textHorizontal"_s);
     m_horizontal->setAccessibleName(tr("Ausrichtung waagrecht"));
     m_vertical->setObjectName(u"textVertical"_s);
@@ -172,12 +171,11 @@ void MvTextPanel::addLook(QFormLayout *form)
     m_vertical->addItem(tr("Oben"), int(Qt::AlignTop));
     m_vertical->addItem(tr("Mitte"), int(Qt::AlignVCenter));
     m_vertical->addItem(tr("Unten"), int(Qt::AlignBottom));
-    for (QComboBox *box : {m_horizontal, m_vertical}) {
-        connect(box, &QComboBox::activated, this, [this] {
-            editLook([this](MvTextElement &text) {
-                text.setAlignment(
-                    Qt::Alignment(m_horizontal->currentData().toInt() | m_vertical->currentData().toInt()));
-            });
+    for (const auto &[box, mask] :
+         {std::pair(m_horizontal, Qt::AlignHorizontal_Mask), std::pair(m_vertical, Qt::AlignVertical_Mask)}) {
+        connect(box, &QComboBox::activated, this, [this, box = box, mask = mask] {
+            const auto chosen = Qt::Alignment(box->currentData().toInt());
+            editLook([chosen, mask](MvTextElement &text) { text.setAlignment((text.alignment() & ~mask) | chosen); });
         });
     }
     auto *alignment = new QHBoxLayout;
@@ -186,37 +184,68 @@ void MvTextPanel::addLook(QFormLayout *form)
     form->addRow(tr("Lage:"), alignment);
 }
 
-void MvTextPanel::showPage()
+QList<MvTextElement> MvTextPanel::texts() const
 {
-    const MvPageElement element =
-        edits()->page().elementsOn(edits()->document().format()).value(m_selection->element());
-    if (m_selection->kind() != MvPageSelection::Kind::Text || !element.text())
-        return;
-    const MvTextElement &text = *element.text();
-    if (m_text->toPlainText() != text.text())
-        m_text->setPlainText(text.text());
-    m_family->setFontFamily(text.family());
-    m_points->setValue(text.points());
-    m_bold->setChecked(text.weight() > QFont::Medium);
-    m_italic->setChecked(text.isItalic());
-    m_capitals->setChecked(text.hasCapitals());
-    m_colorKind->setCurrentIndex(text.color().isValid() ? Own : text.isAccent() ? Accent : OfPage);
-    m_color->setEnabled(text.color().isValid());
-    m_color->setColor(text.color().isValid() ? text.color() : QColor(Qt::black));
-    m_horizontal->setCurrentIndex(m_horizontal->findData(int(text.alignment() & Qt::AlignHorizontal_Mask)));
-    m_vertical->setCurrentIndex(m_vertical->findData(int(text.alignment() & Qt::AlignVertical_Mask)));
+    const QList<MvPageElement> elements = edits()->page().elementsOn(edits()->document().format());
+    QList<MvTextElement> texts;
+    for (const int number : m_selection->elementsOfKind()) {
+        const MvPageElement element = elements.value(number);
+        if (element.text())
+            texts.append(*element.text());
+    }
+    return texts;
 }
 
+void MvTextPanel::showPage()
+{
+    const QList<MvTextElement> texts = this->texts();
+    if (m_selection->kind() != MvPageSelection::Kind::Text || texts.isEmpty())
+        return;
+    const auto common = [&texts](const auto &get) { return MvCommonValue::of(texts, get); };
+    const std::optional<QString> said = common(&MvTextElement::text);
+    m_text->setPlaceholderText(said ? QString() : MvCommonValue::different());
+    if (m_text->toPlainText() != said.value_or(QString()))
+        m_text->setPlainText(said.value_or(QString()));
+    const std::optional<QString> family = common(&MvTextElement::family);
+    m_family->setFontFamily(family.value_or(QString()));
+    m_family->lineEdit()->setPlaceholderText(family ? m_noFamily : MvCommonValue::different());
+    m_points->show(common(&MvTextElement::points), texts.constLast().points());
+    MvCommonValue::show(m_bold, common([](const MvTextElement &text) { return text.weight() > QFont::Medium; }));
+    MvCommonValue::show(m_italic, common(&MvTextElement::isItalic));
+    MvCommonValue::show(m_capitals, common(&MvTextElement::hasCapitals));
+    const std::optional<QVariant> colorKind = common([](const MvTextElement &text) {
+        return QVariant(int(text.color().isValid() ? Own : text.isAccent() ? Accent : OfPage));
+    });
+    MvCommonValue::show(m_colorKind, colorKind);
+    m_color->setEnabled(colorKind == QVariant(int(Own)));
+    MvCommonValue::show(m_color, common([](const MvTextElement &text) {
+                            return text.color().isValid() ? text.color() : QColor(Qt::black);
+                        }));
+    const auto aligned = [&common](Qt::Alignment mask) {
+        return common([mask](const MvTextElement &text) { return QVariant(int(text.alignment() & mask)); });
+    };
+    MvCommonValue::show(m_horizontal, aligned(Qt::AlignHorizontal_Mask));
+    MvCommonValue::show(m_vertical, aligned(Qt::AlignVertical_Mask));
+}
+
+/// All chosen texts, in one step.
 void MvTextPanel::edit(const TextEdit &edit, const QString &text, int mergeId)
 {
-    MvPageElement element = edits()->page().elementsOn(edits()->document().format()).value(m_selection->element());
-    if (isShowing() || !element.text())
+    if (isShowing() || texts().isEmpty())
         return;
-    MvTextElement changed = *element.text();
-    edit(changed);
-    element.setContent(changed);
-    edits()->editCurrent([&](MvCalendarPage &page) { page.setElement(m_selection->element(), element); }, text,
-                         mergeId);
+    const MvPageFormat format = edits()->document().format();
+    edits()->editCurrent(
+        [&](MvCalendarPage &page) {
+            const QList<MvPageElement> elements = page.elementsOn(format);
+            for (const int number : m_selection->elementsOfKind()) {
+                MvPageElement element = elements.at(number);
+                MvTextElement changed = *element.text();
+                edit(changed);
+                element.setContent(changed);
+                page.setElement(number, element);
+            }
+        },
+        text, mergeId);
 }
 
 void MvTextPanel::editLook(const TextEdit &change)

@@ -8,16 +8,17 @@
 #include <functional>
 
 class MvColorSelectionButton;
+class MvCommonNumberBox;
 class MvFontFamilyBox;
 class MvPageSelection;
 class QCheckBox;
 class QComboBox;
-class QDoubleSpinBox;
 class QFormLayout;
 class QPlainTextEdit;
 class QToolButton;
 
-/// The chosen text: what it says, with placeholders that the calendar fills, and how it is set.
+/// The chosen text: what it says, with placeholders that the calendar fills, and how it is set. Of several chosen texts
+/// it shows what they have in common, and changes all of them in one step.
 class MvTextPanel : public MvPagePanel
 {
     Q_OBJECT
@@ -37,6 +38,9 @@ private:
     void addLook(QFormLayout *form);
     QCheckBox *createBox(const char *objectName, const QString &text,
                          const std::function<void(MvTextElement &, bool)> &set);
+    void addAlignment(QFormLayout *form);
+    /// Those chosen; the last one last.
+    QList<MvTextElement> texts() const;
     void edit(const TextEdit &edit, const QString &text, int mergeId = -1);
     void editLook(const TextEdit &edit);
 
@@ -44,7 +48,8 @@ private:
     QPlainTextEdit *m_text;
     QToolButton *m_placeholders;
     MvFontFamilyBox *m_family;
-    QDoubleSpinBox *m_points;
+    QString m_noFamily; // what its empty field says
+    MvCommonNumberBox *m_points;
     QCheckBox *m_bold = nullptr;
     QCheckBox *m_italic = nullptr;
     QCheckBox *m_capitals = nullptr;
