@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvStudioFixture.h"
 
+#include "flows/MvFotoFlow.h"
 #include "flows/MvMissingFotos.h"
 #include "flows/MvPagePreview.h"
 #include "flows/MvPrintFindingList.h"
-
 #include "flows/MvProjectFlow.h"
+#include "pages/MvPageCanvas.h"
 
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
@@ -26,7 +27,7 @@ private Q_SLOTS:
     void exportChecked();
     void exportCancelled();
     void missingFotosAreFound();
-    void foundFotosStayWithTheirCalendar();
+    void fotosStayWithTheirCalendar();
     void damagedFileLeadsToItsBackup();
     void failedSavingLeadsElsewhere();
     void nextCalendarIsLikeTheLast_data();
@@ -241,8 +242,8 @@ void tst_StudioFileJourneys::missingFotosAreFound()
     QCOMPARE(foto(1), studio.path(u"alt/sommer/1.png"_s));
 }
 
-/// Another calendar is opened while a folder is searched; it misses the same photo.
-void tst_StudioFileJourneys::foundFotosStayWithTheirCalendar()
+/// Another calendar is opened while a folder is searched for photos; it misses the same one.
+void tst_StudioFileJourneys::fotosStayWithTheirCalendar()
 {
     MvStudioFixture studio;
     MvCalendarDocument document = studio.document();
@@ -268,6 +269,20 @@ void tst_StudioFileJourneys::foundFotosStayWithTheirCalendar()
     QVERIFY(ask()); // is told after the search has ended
     QVERIFY(studio.document() == other);
     QCOMPARE(studio.steps(), 0);
+    MvStudioFixture::dialog<QMessageBox>("missingPhotosMessage")->reject();
+
+    auto *reading = studio.window()->findChild<MvFotoFlow *>(); // nor those that are just being read
+    reading->add({studio.path(u"neu/0.png"_s)});
+    studio.canvas()->setFoto(studio.path(u"neu/0.png"_s));
+    page.setFotoFrame({});
+    other.setPage(0, page);
+    studio.project()->newProject(other);
+    const QString own = studio.writeFoto(u"eigenes.png"_s, Qt::blue);
+    studio.canvas()->setFoto(own); // comes after the other
+    QTRY_COMPARE(studio.document().pages().constFirst().fotoFrame().path(), own);
+    QTRY_VERIFY(!reading->isRunning());
+    QCOMPARE(studio.steps(), 1);
+    QVERIFY(studio.document().fotoPool().isEmpty());
 }
 
 void tst_StudioFileJourneys::damagedFileLeadsToItsBackup()

@@ -64,6 +64,7 @@ MvFotoFlow::MvFotoFlow(MvProject *project, QWidget *window)
 {
     connect(m_intake, &MvFotoPoolIntake::progressed, this, &MvFotoFlow::progress);
     connect(m_intake, &MvFotoPoolIntake::finished, this, &MvFotoFlow::take);
+    connect(project, &MvProject::documentReplaced, this, &MvFotoFlow::forget);
 }
 
 MvFotoFlow::~MvFotoFlow() = default;
@@ -181,12 +182,11 @@ void MvFotoFlow::read(const QStringList &paths, const QString &step, const Use &
 {
     if (paths.isEmpty())
         return;
-    if (isRunning()) {
+    if (!m_readings.isEmpty() && m_readings.constLast().use) {
         Q_EMIT message(tr("Es werden schon Fotos gelesen. Warten Sie einen Augenblick."));
         return;
     }
-    m_step = step;
-    m_use = use;
+    m_readings.append({step, use});
     Q_EMIT progress(0, 0);
     m_intake->start(paths, m_project->document().fotoPool());
 }
@@ -196,11 +196,24 @@ void MvFotoFlow::cancel()
     m_intake->cancel();
 }
 
+/// The photos were meant for the calendar that was open.
+void MvFotoFlow::forget()
+{
+    if (m_readings.isEmpty())
+        return;
+    m_readings.last().use = {};
+    m_intake->cancel();
+    Q_EMIT progress(0, -1);
+}
+
 void MvFotoFlow::take(const MvFotoPoolIntake::Result &result)
 {
+    const Reading reading = m_readings.takeFirst();
+    if (!reading.use)
+        return;
     Q_EMIT progress(0, -1);
     if (!result.isCancelled || !result.items.isEmpty())
-        m_project->change(m_use(m_project->document(), result.items), m_step);
+        m_project->change(reading.use(m_project->document(), result.items), reading.step);
     tell(result);
 }
 

@@ -13,7 +13,8 @@ class MvProject;
 class QWidget;
 
 /// Many photos at once: asks for files and folders, has them read behind the scenes, and puts them into the calendar's
-/// pool, into its frames, or into a new calendar. What could not be taken is told by name and reason.
+/// pool, into its frames, or into a new calendar. What could not be taken is told by name and reason. What is being
+/// read when another calendar is opened comes into neither.
 class MvFotoFlow : public QObject
 {
     Q_OBJECT
@@ -62,6 +63,14 @@ private:
     using Use =
         std::function<MvCalendarDocument(const MvCalendarDocument &document, const QList<MvFotoPoolItem> &items)>;
 
+    /// One that is under way; without a use nobody wants its photos any more.
+    struct Reading
+    {
+        QString step;
+        Use use;
+    };
+
+    void forget();
     void read(const QStringList &paths, const QString &step, const Use &use);
     void take(const MvFotoPoolIntake::Result &result);
     void tell(const MvFotoPoolIntake::Result &result);
@@ -70,7 +79,6 @@ private:
     MvProject *m_project;
     QWidget *m_window;
     MvFotoPoolIntake *m_intake;
-    QString m_step; // of the reading that is under way
-    Use m_use;
+    QList<Reading> m_readings; // they end in their order
     QString m_theme;
 };

@@ -38,6 +38,8 @@ public:
     /// A menu below the given one: for the element under the mouse, which is chosen first unless it is among those
     /// chosen already, and for new ones.
     void addActions(QMenu *parent, int element);
+    /// Gives each of the chosen ones another rectangle; a step that merges with the one before.
+    void changeRects(const std::function<QRectF(const QRectF &)> &change);
 
 public Q_SLOTS:
     void addFoto();
@@ -56,8 +58,6 @@ public Q_SLOTS:
     bool moveBy(const QPointF &distance);
     /// Moves the lower right corner of each.
     bool growBy(const QPointF &distance);
-    /// Gives each of the chosen ones another rectangle; a step that merges with the one before.
-    void changeRects(const std::function<QRectF(const QRectF &)> &change);
 
 Q_SIGNALS:
     void message(const QString &text);

@@ -18,6 +18,7 @@
 #include <QMenu>
 
 #include <cmath>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -113,7 +114,13 @@ void MvPageFoto::set(MvProject *project, const FrameId &frame, const QString &pa
                      const std::function<void(const QString &error)> &tell)
 {
     const QFileInfo file(path);
-    const auto take = [project, frame, path, file, tell](const QImage &image) {
+    const auto isOpen = std::make_shared<bool>(true); // the calendar that the frame is of
+    const QMetaObject::Connection watch =
+        connect(project, &MvProject::documentReplaced, receiver, [isOpen] { *isOpen = false; });
+    const auto take = [project, frame, path, file, tell, isOpen, watch](const QImage &image) {
+        disconnect(watch);
+        if (!*isOpen)
+            return;
         if (image.isNull()) {
             tell(tr("Das Foto „%1“ kann nicht gelesen werden. %2")
                      .arg(file.fileName(), MvImageLoader::instance().error(file)));

@@ -17,6 +17,7 @@
 #include <QListView>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStackedLayout>
 #include <QToolButton>
@@ -84,6 +85,14 @@ MvFotoTray::MvFotoTray(MvProject *project, QWidget *parent)
 }
 
 MvFotoTray::~MvFotoTray() = default;
+
+QSize MvFotoTray::sizeHint() const
+{
+    constexpr int lowScreen = 800;
+    const int rows = screen()->availableSize().height() < lowScreen ? 1 : 2;
+    const QSize hint = QWidget::sizeHint();
+    return {hint.width(), hint.height() - m_view->sizeHint().height() + rows * m_view->minimumHeight()};
+}
 
 QToolButton *MvFotoTray::createButton(const char *name, const QString &icon, const QString &text, const QString &tip)
 {

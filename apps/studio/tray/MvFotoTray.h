@@ -25,6 +25,8 @@ public:
 
     QListView *view() const { return m_view; }
     QStringList selectedPaths() const;
+    /// Two rows of photos, on a low screen one: the page is what it is about.
+    QSize sizeHint() const override;
     /// The menu for what is selected. The caller shows and deletes it.
     QMenu *createContextMenu();
 

@@ -53,7 +53,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize firstSize(1600, 1000);
+constexpr QSize firstSize(1600, 1000); // at least, where there is room
 constexpr QSize frame(8, 40);     // what window managers put around it at most, as a rule
 constexpr int messageTime = 8000; // milliseconds
 constexpr int stateVersion = 2;   // of the arrangement of docks and tool bars
@@ -105,7 +105,8 @@ MvStudioWindow::MvStudioWindow(MvProject *project, QWidget *parent)
     updateTitle();
     updatePage();
 
-    resize(firstSize.boundedTo(screen()->availableSize() - frame));
+    const QSize available = screen()->availableSize();
+    resize(firstSize.expandedTo(available * 4 / 5).boundedTo(available - frame));
     restoreGeometry(MvStudioSettings::windowGeometry());
     restoreState(MvStudioSettings::windowState(), stateVersion);
     setStartShown(MvStudioSettings::isWelcomeShown());

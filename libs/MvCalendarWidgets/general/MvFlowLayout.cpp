@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+#include <utility>
+
 MvFlowLayout::MvFlowLayout(QWidget *parent)
     : QLayout(parent)
 {}
@@ -62,18 +64,26 @@ int MvFlowLayout::arrange(const QRect &rect, bool isMoving) const
     const QRect room = rect.marginsRemoved(around);
     QPoint place = room.topLeft();
     int lineHeight = 0;
+    QList<std::pair<QLayoutItem *, QRect>> line;
+    const auto finishLine = [&] {
+        for (const auto &[item, at] : std::as_const(line))
+            if (isMoving) // all of a line share its middle
+                item->setGeometry(at.translated(0, (lineHeight - at.height()) / 2));
+        line.clear();
+    };
     for (QLayoutItem *item : m_items) {
         if (item->isEmpty()) // hidden
             continue;
         const QSize size = item->sizeHint();
-        if (place.x() > room.left() && place.x() + size.width() > room.left() + room.width()) {
+        if (!line.isEmpty() && place.x() + size.width() > room.left() + room.width()) {
+            finishLine();
             place = {room.left(), place.y() + lineHeight + spacing()};
             lineHeight = 0;
         }
-        if (isMoving)
-            item->setGeometry({place, size});
+        line.append({item, {place, size}});
         place.rx() += size.width() + spacing();
         lineHeight = qMax(lineHeight, size.height());
     }
+    finishLine();
     return place.y() + lineHeight - rect.top() + around.bottom();
 }
