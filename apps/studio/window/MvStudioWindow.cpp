@@ -54,9 +54,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QSize firstSize(1600, 1000); // at least, where there is room
-constexpr QSize frame(8, 40);     // what window managers put around it at most, as a rule
-constexpr int messageTime = 8000; // milliseconds
-constexpr int stateVersion = 2;   // of the arrangement of docks and tool bars
+constexpr QSize frame(8, 40);          // what window managers put around it at most, as a rule
+constexpr int messageTime = 8000;      // milliseconds
+constexpr int stateVersion = 2;        // of the arrangement of docks and tool bars
 
 /// The one project file that is dragged; empty when something else is.
 QString draggedProject(const QMimeData *data)
