@@ -2,6 +2,7 @@
 #include "MvEntries.h"
 #include "MvProjectFixture.h"
 #include "pages/MvFotoHandle.h"
+#include "pages/MvFrameNotices.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageDropTarget.h"
 #include "pages/MvPageEntries.h"
@@ -13,6 +14,7 @@
 #include "MvCalendar/MvEntryBubble.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvUndoController.h"
+#include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvProject.h"
 #include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
@@ -104,6 +106,7 @@ private Q_SLOTS:
     void zooms();
     void looksWithoutRecording();
     void layoutsReplaceTheCells();
+    void wordsOnFramesFollowTheScreen();
 };
 
 void tst_MvPageCanvas::init()
@@ -357,6 +360,29 @@ void tst_MvPageCanvas::layoutsReplaceTheCells()
     QCOMPARE(open.item()->dates().size(), 31 + 28);
     QVERIFY(large.adjusted(-1, -1, 1, 1).contains(open.item()->dateRect({2027, 1, 31})));
     QVERIFY(open.item()->cells()->cell({2027, 1, 31}) && open.item()->cells()->cell({2027, 2, 28}));
+}
+
+/// As large as all other words, however many pixels the screen has.
+void tst_MvPageCanvas::wordsOnFramesFollowTheScreen()
+{
+    MvPageElement empty({}, MvFotoElement());
+    empty.setRect({0, 0, 1200, 900});
+    const auto invitation = [&empty](double ratio) {
+        MvPaintRecorder recorder(nullptr);
+        QPainter painter(&recorder);
+        painter.scale(0.2 * ratio, 0.2 * ratio);
+        MvFrameNotices::paint(painter, {empty}, empty.rect(), nullptr, ratio);
+        painter.end();
+        QRectF bounds;
+        for (const MvPaintRecording::Item &item : recorder.recording().items(MvPaintRecording::Item::Text))
+            bounds |= item.bounds;
+        return bounds;
+    };
+    const QRectF usual = invitation(1.0);
+    const QRectF fine = invitation(3.0);
+    QVERIFY(usual.height() > 0.0 && empty.rect().contains(usual));
+    QVERIFY(qAbs(fine.height() / usual.height() - 3.0) < 0.2);
+    QVERIFY(qAbs(fine.center().x() / usual.center().x() - 3.0) < 0.1);
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvPageCanvas)

@@ -21,18 +21,19 @@ const QColor dashColor(0x9a, 0xa1, 0xaa);
 const QColor strongColor(0xb3, 0x1b, 0x1b);
 const QColor discreetColor(0x33, 0x37, 0x3d, 0xb8);
 
-/// Pixels and words of the screen, whatever the page's scale.
-QRectF toPixels(QPainter &painter, const QRectF &rect)
+/// Logical pixels and words of the screen, whatever the page's scale.
+QRectF toPixels(QPainter &painter, const QRectF &rect, double ratio)
 {
     const QRectF pixels = painter.transform().mapRect(rect);
     painter.resetTransform();
-    return pixels;
+    painter.scale(ratio, ratio);
+    return {pixels.topLeft() / ratio, pixels.size() / ratio};
 }
 
-void paintInvitation(QPainter &painter, const QRectF &rect)
+void paintInvitation(QPainter &painter, const QRectF &rect, double ratio)
 {
     constexpr double inset = 6.0;
-    const QRectF pixels = toPixels(painter, rect);
+    const QRectF pixels = toPixels(painter, rect, ratio);
     painter.fillRect(pixels, placeholderColor);
     QPen pen(dashColor, 1.5, Qt::DashLine);
     painter.setPen(pen);
@@ -47,16 +48,16 @@ void paintInvitation(QPainter &painter, const QRectF &rect)
     painter.drawText(room, Qt::AlignCenter | (fits ? Qt::TextWordWrap : 0), fits ? text : u"+"_s);
 }
 
-void paintNotice(QPainter &painter, const QRectF &rect, const QString &text)
+void paintNotice(QPainter &painter, const QRectF &rect, const QString &text, double ratio)
 {
     painter.fillRect(rect, placeholderColor);
-    const QRectF pixels = toPixels(painter, rect);
+    const QRectF pixels = toPixels(painter, rect, ratio);
     painter.setPen(placeholderTextColor);
     painter.setClipRect(pixels, Qt::IntersectClip);
     painter.drawText(pixels, Qt::AlignCenter | Qt::TextWordWrap, text);
 }
 
-void paintFrame(QPainter &painter, const MvPageElement &element, const QRectF &page, MvScreenFotos *fotos)
+void paintFrame(QPainter &painter, const MvPageElement &element, const QRectF &page, MvScreenFotos *fotos, double ratio)
 {
     const QRectF seen = element.rect() & page;
     if (seen.isEmpty())
@@ -68,17 +69,18 @@ void paintFrame(QPainter &painter, const MvPageElement &element, const QRectF &p
     painter.rotate(element.rotation());
     painter.translate(-middle);
     if (foto.isEmpty()) {
-        paintInvitation(painter, seen);
+        paintInvitation(painter, seen, ratio);
     } else if (fotos->isUnreadable(foto.path())) {
         paintNotice(
             painter, seen,
             MvFrameNotices::tr("„%1“ lässt sich nicht lesen.\nDas Kontextmenü ersetzt das Foto durch ein anderes.")
-                .arg(QFileInfo(foto.path()).fileName()));
+                .arg(QFileInfo(foto.path()).fileName()),
+            ratio);
     } else if (fotos->fullSize(foto.path()).isEmpty()) {
-        paintNotice(painter, seen, MvFrameNotices::tr("Das Foto wird geladen …"));
+        paintNotice(painter, seen, MvFrameNotices::tr("Das Foto wird geladen …"), ratio);
     } else {
         const double resolution = MvFrameNotices::resolution(element, fotos);
-        const QRectF pixels = toPixels(painter, seen);
+        const QRectF pixels = toPixels(painter, seen, ratio);
         MvFrameNotices::paintBadge(painter, pixels.topRight() + QPointF(-6, 6), resolution, false);
     }
     painter.restore();
@@ -87,13 +89,13 @@ void paintFrame(QPainter &painter, const MvPageElement &element, const QRectF &p
 } // namespace
 
 void MvFrameNotices::paint(QPainter &painter, const QList<MvPageElement> &elements, const QRectF &page,
-                           MvScreenFotos *fotos)
+                           MvScreenFotos *fotos, double pixelRatio)
 {
     painter.save();
     painter.setFont(QGuiApplication::font());
     for (const MvPageElement &element : elements)
         if (element.foto())
-            paintFrame(painter, element, page, fotos);
+            paintFrame(painter, element, page, fotos, pixelRatio);
     painter.restore();
 }
 

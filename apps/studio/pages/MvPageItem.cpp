@@ -251,7 +251,7 @@ void MvPageItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*opt
         QPainter into(&m_cache.pixels);
         into.setRenderHints(painter->renderHints());
         into.setTransform(transform * QTransform::fromTranslate(-area.x(), -area.y()));
-        paintInto(into);
+        paintInto(into, ratio);
         into.end();
         m_cache.pixels.setDevicePixelRatio(ratio);
     }
@@ -261,14 +261,14 @@ void MvPageItem::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*opt
     painter->restore();
 }
 
-void MvPageItem::paintInto(QPainter &painter) const
+void MvPageItem::paintInto(QPainter &painter, double pixelRatio) const
 {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     paintShadow(painter);
     painter.fillRect(m_pageRect, Qt::white);
     painter.setClipRect(m_pageRect);
     m_shown.paintGround(painter, m_project->document().format());
-    paintFotos(painter);
+    paintFotos(painter, pixelRatio);
     m_recording.replay(painter);
 }
 
@@ -296,11 +296,11 @@ void MvPageItem::paintShadow(QPainter &painter) const
     }
 }
 
-void MvPageItem::paintFotos(QPainter &painter) const
+void MvPageItem::paintFotos(QPainter &painter, double pixelRatio) const
 {
     MvScreenFotoSource source(*m_fotos);
     MvRenderingRule(0).encodeInto(painter); // places that stay empty are told about below
     m_shown.paintFoto(painter, m_project->document().format(), source);
     screenRule().encodeInto(painter);
-    MvFrameNotices::paint(painter, m_elements, m_pageRect, m_fotos.get());
+    MvFrameNotices::paint(painter, m_elements, m_pageRect, m_fotos.get(), pixelRatio);
 }

@@ -93,9 +93,9 @@ private:
     void addDate(const QDate &date, const QRectF &rect);
     void removeOutdatedCells();
     void discardCache();
-    void paintInto(QPainter &painter) const;
+    void paintInto(QPainter &painter, double pixelRatio) const;
     void paintShadow(QPainter &painter) const;
-    void paintFotos(QPainter &painter) const;
+    void paintFotos(QPainter &painter, double pixelRatio) const;
 
     MvProject *m_project;
     std::unique_ptr<MvScreenFotos> m_fotos;

@@ -68,7 +68,8 @@ MvFotoTray::MvFotoTray(MvProject *project, QWidget *parent)
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins(0, 2, 0, 0);
     column->setSpacing(2);
-    column->addWidget(createHead());
+    m_head = createHead();
+    column->addWidget(m_head);
     column->addLayout(stack, 1);
 
     connect(delegate, &MvFotoTrayDelegate::pictureReady, m_view->viewport(), qOverload<>(&QWidget::update));
@@ -85,6 +86,15 @@ MvFotoTray::MvFotoTray(MvProject *project, QWidget *parent)
 }
 
 MvFotoTray::~MvFotoTray() = default;
+
+/// The head may break into two lines; below it a whole row of photos stays in sight.
+void MvFotoTray::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const QMargins margins = layout()->contentsMargins();
+    setMinimumHeight(margins.top() + m_head->heightForWidth(width()) + layout()->spacing() + m_view->minimumHeight() +
+                     margins.bottom());
+}
 
 QSize MvFotoTray::sizeHint() const
 {

@@ -50,6 +50,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *createHead();
@@ -62,6 +63,7 @@ private:
     MvProject *m_project;
     MvFotoTrayModel *m_model;
     QListView *m_view;
+    QWidget *m_head = nullptr;
     QLabel *m_summary;
     QLabel *m_invitation;
     QProgressBar *m_progress;
