@@ -244,6 +244,10 @@ void tst_MvEventRepetition::readsAsItsGroupSays()
         QCOMPARE(text(round, {year, 3, 1}), u"Jörg %age (%1, 1967)"_s.replace(u"%1"_s, age));
     QCOMPARE(text(round, {1967, 3, 1}), u"Jörg %age"_s);
     QCOMPARE(text(ages, {1967, 3, 1}), u"Jörg %age"_s); // not yet one year
+    const int now = QDate::currentDate().year();
+    birthday.setDateTime(QDate(now, 3, 1).startOfDay()); // typed in at a day of this year
+    QCOMPARE(text(ages, {now + 2, 3, 1}), u"Jörg %age"_s);
+    birthday.setDateTime(QDate(1967, 3, 1).startOfDay());
     birthday.setGroups({u"unknown"_s, family});
     QCOMPARE(text(ages, {2027, 3, 1}), u"★ Jörg %age wird 60"_s);
     QVERIFY(!MvEventText::isShown(birthday, {{family, u"unknown"_s}, {}, false}));

@@ -12,12 +12,13 @@
 
 namespace {
 
-constexpr int steps = 40;            // of an axis, then between two of these
-constexpr double ofCells = 1.0;      // beside a part to be seen whole of weight 1
-constexpr double pull = 0.35;        // of all that should be seen, for the whole frame's diagonal
-constexpr double ofLargest = 0.1;    // of it, for parts of the frame that are larger than others
-constexpr double hardlyAway = 0.005; // of the photo: foci that count as the same
-constexpr double belowMiddle = 0.06; // of its height: what is seen whole has more room above than below
+constexpr int steps = 40;             // of an axis, then between two of these
+constexpr double ofCells = 1.0;       // beside a part to be seen whole of weight 1
+constexpr double pull = 0.35;         // of all that should be seen, for the whole frame's diagonal
+constexpr double ofLargest = 0.1;     // of it, for parts of the frame that are larger than others
+constexpr double hardlyAway = 0.005;  // of the photo: foci that count as the same
+constexpr double belowMiddle = 0.06;  // of its height: what is seen whole has more room above than below
+constexpr double hardlyCovered = 0.9; // of a frame's area is seen: more is cut off by the trim alone
 
 double shareOf(const QRectF &part, const QRectF &seen)
 {
@@ -73,11 +74,16 @@ public:
         foto.setFocus(focus);
         const QTransform toFrame = foto.transform(m_size, m_frame);
         double value = 0.0;
-        for (const MvFotoInterest::Part &whole : m_wholes) // a half of it is worth less than half
-            value += whole.weight * std::pow(shareOf(toFrame.mapRect(whole.rect), m_seen), 3);
+        QRectF all;
+        for (const MvFotoInterest::Part &whole : m_wholes) {
+            const QRectF stands = toFrame.mapRect(whole.rect);
+            value += whole.weight * std::pow(shareOf(stands, m_seen), 3); // a half of it is worth less than half
+            all |= stands;
+        }
         for (const MvFotoInterest::Part &cell : m_cells)
             value += ofCells * cell.weight * shareOf(toFrame.mapRect(cell.rect), m_seen);
-        const QPointF wanted = m_seen.center() + QPointF(0.0, m_down * m_seen.height());
+        const double down = std::min(m_down * m_seen.height(), std::max(0.0, m_seen.height() - all.height()) / 4.0);
+        const QPointF wanted = m_seen.center() + QPointF(0.0, down);
         const QPointF away = toFrame.map(m_middle) - wanted;
         const double most = std::hypot(m_frame.width(), m_frame.height());
         const double area = m_seen.width() * m_seen.height() / (m_frame.width() * m_frame.height());
@@ -171,8 +177,11 @@ bool isKnown(const Foci &foci, const MvFotoElement &foto)
 QPointF MvFotoAim::focus(const MvFotoPoolItem &photo, const MvFotoElement &foto, const QSizeF &frame,
                          const QList<QRectF> &uncovered)
 {
-    const bool isWhole = uncovered.size() == 1 && uncovered.constFirst().size() == frame;
-    if (photo.size.isEmpty() || frame.isEmpty() || (photo.interest.isEmpty() && isWhole))
+    if (photo.size.isEmpty() || frame.isEmpty() || uncovered.isEmpty())
+        return photo.focus;
+    const QSizeF seen = uncovered.constFirst().size();
+    const bool isWhole = seen.width() * seen.height() >= hardlyCovered * frame.width() * frame.height();
+    if (photo.interest.isEmpty() && isWhole)
         return photo.focus;
     QPointF best = photo.focus;
     double most = 0.0;
