@@ -363,9 +363,9 @@ QRectF MvCalendariumCellPainter::drawBars(const QRectF &rect, const QDate &date,
         const MvSpanBars::Bar bar = shown.takeLast();
         m_renderer.reportBarWithoutRoom(bar.text, bar.start, date, rect);
     }
-    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
-    const QColor text = m_renderer.fontColor(config, even);
-    const QColor ground = m_renderer.backgroundColor(config, even);
+    const MvCalendarCellTypeConfig weekday(CALENDAR_CELL_TYPE_WEEKDAY); // the same on all days
+    const QColor text = m_renderer.fontColor(weekday, even);
+    const QColor ground = m_renderer.backgroundColor(weekday, true);
     const QColor usual = mixed(ground.alpha() > 0 ? ground : QColor(Qt::white), text, strengthOfBars);
     for (const MvSpanBars::Bar &bar : std::as_const(shown))
         m_painter.fillRect(MvSpanBars::rectOf(bar, rect, edge).intersected(rect.adjusted(0, 0, 1, 1)),
@@ -404,8 +404,9 @@ void MvCalendariumCellPainter::drawColumn(const QRectF &rect, const QDate &date,
 
     const QColor color = m_renderer.fontColor(config, even);
     const QRectF withoutBars = drawBars(rect, date, even, column.bars);
-    inner.setLeft(std::max(inner.left(), withoutBars.left()));
-    inner.setRight(std::min(inner.right(), withoutBars.right()));
+    const double besideBars = withoutBars == rect ? 0.0 : textGap;
+    inner.setLeft(std::max(inner.left(), withoutBars.left() + besideBars));
+    inner.setRight(std::min(inner.right(), withoutBars.right() - besideBars));
     const QStringList texts = m_renderer.isOpaqueColor(color) ? column.texts : QStringList();
     const QSizeF fotoRoom(inner.width() * (texts.isEmpty() ? 1.0 : widestFotoBesideTexts), inner.height());
     const QImage picture = isFirst ? pictureWithin(date, fotoRoom) : QImage();

@@ -135,12 +135,13 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     const MvDayColumn shown = cells.wholeDay(date);
     const QStringList &texts = shown.texts;
     MvYearPlanner::Parts parts = planner.parts(cell, date.dayOfWeek() == Qt::Monday);
-    const double right = cells.drawBars(cell, date, even, shown.bars, parts.number).right();
-    parts.texts.setRight(std::min(parts.texts.right(), right));
+    const double taken = cell.right() - cells.drawBars(cell, date, even, shown.bars, parts.number).right();
+    parts.texts.setRight(parts.texts.right() - taken);
+    parts.week.translate(-taken, 0.0);
     Texts fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
     if (!parts.week.isNull() && !areAsWritten(fitted, texts, textStyle)) { // the week gives way
         parts = planner.parts(cell, false);
-        parts.texts.setRight(std::min(parts.texts.right(), right));
+        parts.texts.setRight(parts.texts.right() - taken);
         fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
     }
     for (const QString &text : texts.mid(fitted.whole))
