@@ -179,8 +179,8 @@ QPointF MvFotoAim::focus(const MvFotoPoolItem &photo, const MvFotoElement &foto,
 {
     if (photo.size.isEmpty() || frame.isEmpty() || uncovered.isEmpty())
         return photo.focus;
-    const QSizeF seen = uncovered.constFirst().size();
-    const bool isWhole = seen.width() * seen.height() >= hardlyCovered * frame.width() * frame.height();
+    const QSizeF largest = uncovered.constFirst().size();
+    const bool isWhole = largest.width() * largest.height() >= hardlyCovered * frame.width() * frame.height();
     if (photo.interest.isEmpty() && isWhole)
         return photo.focus;
     QPointF best = photo.focus;
