@@ -33,7 +33,7 @@ QList<MvCliOption> MvRenderCommand::options() const
                {u"entries"_s, tr("DATEI"),
                 tr("persönliche Einträge aus dieser Datei; was darin nicht lesbar ist, wird genannt")},
                {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge, ebenso")},
-               {u"entry-text"_s, tr("MUSTER"), tr("wie sie zu lesen sind, mit %name, %age, %year: \"%name (%age)\"")},
+               {u"entry-text"_s, tr("MUSTER"), tr("wie sie zu lesen sind, mit %name, %age, %year, %round: \"%name (%age)\"")},
                {u"hide-group"_s, tr("NAME"), tr("Einträge dieser Gruppe weglassen"), true},
                {u"entry-times"_s, {}, tr("mit ihren Uhrzeiten")},
                {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027), mit --photos auch auf dem Titelblatt")},

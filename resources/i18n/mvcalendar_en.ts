@@ -5641,10 +5641,6 @@ Save it under another name or in another folder.</translation>
         <translation>PATTERN</translation>
     </message>
     <message>
-        <source>wie sie zu lesen sind, mit %name, %age, %year: &quot;%name (%age)&quot;</source>
-        <translation>how they read, with %name, %age, %year: &quot;%name (%age)&quot;</translation>
-    </message>
-    <message>
         <source>NAME</source>
         <translation>NAME</translation>
     </message>
@@ -5659,6 +5655,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>--hide-group „%1“: eine solche Gruppe haben die Einträge nicht</source>
         <translation>--hide-group “%1”: the entries have no such group</translation>
+    </message>
+    <message>
+        <source>wie sie zu lesen sind, mit %name, %age, %year, %round: &quot;%name (%age)&quot;</source>
+        <translation>how they read, with %name, %age, %year, %round: &quot;%name (%age)&quot;</translation>
     </message>
 </context>
 <context>
@@ -6874,6 +6874,10 @@ Designs photo calendars and prints them.
     <message>
         <source>Die Vorlage „%1“ bleibt weg: %2.</source>
         <translation>The template “%1” is left out: %2.</translation>
+    </message>
+    <message>
+        <source>die Bindung (bound) „%1“ gibt es nicht; möglich ist foot</source>
+        <translation>there is no binding (bound) “%1”; foot is possible</translation>
     </message>
 </context>
 <context>

@@ -17,14 +17,18 @@ class tst_EntriesOnPages : public MvTest
 private Q_SLOTS:
     void writesInTheColorOfTheGroup();
     void columnsTakeTheirGroups();
+    void listsWriteEachEntryInItsColor();
     void barsRunThroughTheDays_data();
     void barsRunThroughTheDays();
+    void barsWithoutRoomAreTold_data();
+    void barsWithoutRoomAreTold();
 
 private:
     struct Painted
     {
         MvPaintRecording recording;
         QList<MvPageFixture::Day> days;
+        QList<MvUnfittingText> unfitting;
         QRectF cell(const QDate &date) const
         {
             for (const MvPageFixture::Day &day : days) {
@@ -42,7 +46,7 @@ private:
     };
 
     static Painted paint(const MvCalendarEventList &list, const QString &type, const MvEntryDisplay &display = {},
-                         const QString &headers = {})
+                         const QString &headers = {}, const QSizeF &size = {2800, 2000})
     {
         MvCalendariumAppearance appearance = MvPageFixture::appearance({}, MvPageFixture::defaultCells(), type);
         if (!headers.isEmpty())
@@ -56,7 +60,8 @@ private:
         MvRenderingSources sources;
         sources.entries = &source;
         page.renderer().setSources(sources);
-        Painted painted{page.render({0, 0, 2800, 2000}), page.days};
+        Painted painted{page.render(QRectF(QPointF(), size)), page.days, {}};
+        painted.unfitting = page.renderer().unfittingTexts();
         return painted;
     }
 };
@@ -110,14 +115,51 @@ void tst_EntriesOnPages::columnsTakeTheirGroups()
     QCOMPARE(columns.value(2), u"Kino"_s);
 }
 
+/// On one line, each where it would stand in one colour.
+void tst_EntriesOnPages::listsWriteEachEntryInItsColor()
+{
+    MvCalendarEventList list;
+    const QDate day(2027, 3, 24);
+    for (const QString &name : {u"Papa"_s, u"Mama"_s}) {
+        const QString id = list.groups().idOfName(name);
+        list.append(MvEntries::entry(u"Termin "_s + name, day));
+        list.last().setGroups({id});
+    }
+    list.append(MvEntries::entry(u"Müll, gelb"_s, day));
+    const auto inRow = [&] {
+        const Painted painted = paint(list, u"CALENDAR_ONE_DAY_PER_ROW"_s);
+        QList<Item> texts = painted.recording.items(Item::Text);
+        texts.removeIf([cell = painted.cell(day)](const Item &item) { return !cell.contains(item.bounds.center()); });
+        return texts;
+    };
+    const QList<Item> plain = inRow();
+    QCOMPARE(plain.size(), 1);
+    QCOMPARE(plain.first().text, u"Termin Papa, Termin Mama, Müll, gelb"_s);
+    list.groups()[0].color = QColor(0x0033aa);
+    list.groups()[1].color = QColor(0xaa1100);
+    const QList<Item> colored = inRow();
+    QCOMPARE(colored.size(), 3);
+    QString joined;
+    for (qsizetype i = 0; i < colored.size(); ++i) {
+        joined += colored.at(i).text;
+        QVERIFY(i == 0 || (colored.at(i).fill != colored.at(i - 1).fill &&
+                           colored.at(i).bounds.left() > colored.at(i - 1).bounds.right()));
+    }
+    QCOMPARE(joined, plain.first().text);
+    QVERIFY(qAbs(colored.last().bounds.right() - plain.first().bounds.right()) < 1.0);
+}
+
 void tst_EntriesOnPages::barsRunThroughTheDays_data()
 {
     QTest::addColumn<QString>("type");
     QTest::addColumn<bool>("isUpright");
     QTest::addColumn<int>("names");
-    QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << false << 3;
-    QTest::newRow("list") << u"CALENDAR_ONE_DAY_PER_ROW"_s << true << 2;
-    QTest::newRow("columns of weeks") << u"CALENDAR_ONE_COLUMN_PER_WEEK"_s << true << 3;
+    QTest::addColumn<QSizeF>("size");
+    const QSizeF usual(2800, 2000);
+    QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << false << 3 << usual;
+    QTest::newRow("list") << u"CALENDAR_ONE_DAY_PER_ROW"_s << true << 2 << usual;
+    QTest::newRow("columns of weeks") << u"CALENDAR_ONE_COLUMN_PER_WEEK"_s << true << 3 << usual;
+    QTest::newRow("a strip as long as a poster") << u"CALENDAR_ONE_ROW"_s << false << 2 << QSizeF(5600, 900);
 }
 
 void tst_EntriesOnPages::barsRunThroughTheDays()
@@ -129,7 +171,8 @@ void tst_EntriesOnPages::barsRunThroughTheDays()
                              MvEntries::entry(u"Messe"_s, {2027, 3, 3}, {}, false)};
     list[0].setEndDate({2027, 3, 4});
     list[1].setEndDate({2027, 3, 9});
-    const Painted painted = paint(list, type);
+    QFETCH(QSizeF, size);
+    const Painted painted = paint(list, type, {}, {}, size);
     QTEST(int(painted.texts(u"Reise"_s).size() + painted.texts(u"Messe"_s).size()), "names");
 
     QList<QRectF> bars; // of the first lane, then of the second
@@ -159,6 +202,43 @@ void tst_EntriesOnPages::barsRunThroughTheDays()
         QVERIFY(barIn(from).bottom() >= barIn(to).top() && barIn(from).left() == barIn(to).left());
     else
         QVERIFY(barIn(from).right() >= barIn(to).left() && qAbs(barIn(from).top() - barIn(to).top()) < 0.01);
+}
+
+void tst_EntriesOnPages::barsWithoutRoomAreTold_data()
+{
+    QTest::addColumn<QSizeF>("size");
+    QTest::addColumn<int>("drawn"); // bars in the cell of the middle day
+    QTest::newRow("two lanes too many") << QSizeF(2800, 2000) << 4;
+    QTest::newRow("low cells") << QSizeF(2800, 560) << 3;
+}
+
+/// As many lanes as there is room for; the entries of the others are named once on the page, whatever they last.
+void tst_EntriesOnPages::barsWithoutRoomAreTold()
+{
+    QFETCH(QSizeF, size);
+    QFETCH(int, drawn);
+    MvCalendarEventList list;
+    for (int number = 1; number <= 6; ++number) {
+        list.append(MvEntries::entry(QString(u'A'), {2027, 3, 1 + number}, {}, false));
+        list.last().setEventName(QString::number(number) + u" unterwegs"_s);
+        list.last().setEndDate({2027, 3, 20 + number});
+    }
+    const Painted painted = paint(list, u"CALENDAR_ONE_WEEK_PER_ROW"_s, {}, {}, size);
+    const QRectF cell = painted.cell({2027, 3, 18});
+    int bars = 0;
+    for (const Item &item : painted.recording.items()) {
+        const bool isBar = item.fill.isValid() && item.kind != Item::Text && item.bounds.height() < 10.0;
+        bars += isBar && cell.contains(item.bounds.center()) ? 1 : 0;
+    }
+    QCOMPARE(bars, drawn);
+    for (int number = 1; number <= 6; ++number) {
+        const QString name = QString::number(number) + u" unterwegs"_s;
+        const auto told = std::count_if(painted.unfitting.cbegin(), painted.unfitting.cend(),
+                                        [&name](const MvUnfittingText &text) { return text.text == name; });
+        QVERIFY2(number <= drawn || told >= 1, qPrintable(name));
+        if (size.height() > 1000.0) // where every name has room
+            QCOMPARE(told, number <= drawn ? 0 : 1);
+    }
 }
 
 MV_TEST_MAIN(tst_EntriesOnPages)

@@ -236,7 +236,18 @@ void tst_MvEventRepetition::readsAsItsGroupSays()
     };
     QCOMPARE(text({}, {2027, 3, 1}), u"Jörg %age"_s);
     QCOMPARE(text(ages, {2027, 3, 1}), u"Jörg %age (60, 1967)"_s);
+    const MvEntryDisplay round{{}, MvEventText::withRoundMarked(ages.text, true), false};
+    QVERIFY(MvEventText::marksRound(round.text) && !MvEventText::marksRound(ages.text));
+    QCOMPARE(MvEventText::withRoundMarked(round.text, false), ages.text);
+    for (const auto &[year, age] : QList<std::pair<int, QString>>{
+             {1992, u"25!"_s}, {2016, u"49"_s}, {2017, u"50!"_s}, {2027, u"60!"_s}, {2042, u"75!"_s}, {2043, u"76"_s}})
+        QCOMPARE(text(round, {year, 3, 1}), u"Jörg %age (%1, 1967)"_s.replace(u"%1"_s, age));
+    QCOMPARE(text(round, {1967, 3, 1}), u"Jörg %age"_s);
     QCOMPARE(text(ages, {1967, 3, 1}), u"Jörg %age"_s); // not yet one year
+    const int now = QDate::currentDate().year();
+    birthday.setDateTime(QDate(now, 3, 1).startOfDay()); // typed in at a day of this year
+    QCOMPARE(text(ages, {now + 2, 3, 1}), u"Jörg %age"_s);
+    birthday.setDateTime(QDate(1967, 3, 1).startOfDay());
     birthday.setGroups({u"unknown"_s, family});
     QCOMPARE(text(ages, {2027, 3, 1}), u"★ Jörg %age wird 60"_s);
     QVERIFY(!MvEventText::isShown(birthday, {{family, u"unknown"_s}, {}, false}));

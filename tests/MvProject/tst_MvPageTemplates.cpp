@@ -128,7 +128,14 @@ void tst_MvPageTemplates::divides()
     const MvPageTemplate shown = MvPageTemplateRegistry::instance().findTemplate(id);
     QStringList names;
     for (const MvPageFormat &format : formats()) {
-        const QList<MvTemplateSlot> places = shown.slotsFor(format);
+        QList<MvTemplateSlot> places = shown.slotsFor(format);
+        if (id == u"FREE_FACING" && format.binding() == MvPageFormat::Binding::Top) // bound at its foot: turned over
+            for (MvTemplateSlot &place : places) {
+                const QRectF rect = place.element.rect();
+                const double zone = format.bindingRect().height();
+                QVERIFY(place.element.foto() || rect.bottom() <= format.trimSize().height() - zone);
+                place.element.setRect(place.element.foto() ? rect : rect.translated(0.0, zone));
+            }
         const QString where = u"%1 × %2, bound %3: "_s.arg(format.trimSize().width())
                                   .arg(format.trimSize().height())
                                   .arg(MvPageFormat::bindingName(format.binding()));

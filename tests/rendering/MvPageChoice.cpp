@@ -29,8 +29,8 @@ const QList<QList<MvLocale>> &languages()
 
 QString MvPageChoice::describe() const
 {
-    static const QStringList entryNames{u"no entries"_s, u"short names"_s, u"long names"_s, u"many names"_s,
-                                        u"photos"_s};
+    static const QStringList entryNames{u"no entries"_s, u"short names"_s, u"long names"_s,
+                                        u"many names"_s, u"photos"_s,      u"own entries"_s};
     const QString where = place == u"none"_s ? u"no photo"_s : u"photo %1 %2"_s.arg(place).arg(share);
     const QStringList parts{layout,
                             paper,

@@ -12,7 +12,7 @@
 /// What a person chooses for a page.
 struct MvPageChoice
 {
-    enum Entries { None, Short, Long, Many, Fotos };
+    enum Entries { None, Short, Long, Many, Fotos, Own }; ///< own: what the registry has
 
     QString layout;
     QString paper; ///< "A5", "A4 landscape", "90x55"

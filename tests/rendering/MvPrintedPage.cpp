@@ -67,6 +67,8 @@ void setEntries(MvPageChoice::Entries kind)
     if (current == kind || kind == MvPageChoice::None)
         return;
     current = kind;
+    if (kind == MvPageChoice::Own)
+        return;
     MvCalendarEventRegistry::instance().setEvents(entriesOf(kind));
 }
 

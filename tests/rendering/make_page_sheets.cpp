@@ -2,6 +2,9 @@
 #include "MvPrintedPage.h"
 #include "MvTestHome.h"
 
+#include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+
 #include <QDir>
 #include <QGuiApplication>
 #include <QPainter>
@@ -49,8 +52,23 @@ QImage sheet(const QList<MvPageChoice> &rows)
     return image;
 }
 
+/// The entries of a family of five, with groups, repetitions, ages and days away.
+void makeFamilySheet(const QDir &folder, const MvPageChoice &usual)
+{
+    MvCalendarEventRegistry::instance().setEvents(
+        MvCalendarEventFile::read(QFileInfo(QStringLiteral(MV_SAMPLES "/familie.xml"))).events);
+    QList<MvPageChoice> family;
+    for (const QString &paper : {u"A4 landscape"_s, u"A4"_s, u"A3 landscape"_s, u"A3"_s}) {
+        family << usual;
+        family.last().paper = paper;
+        family.last().entries = MvPageChoice::Own;
+    }
+    sheet(family).save(folder.filePath(usual.layout + u"-family.png"_s));
+}
+
 void makeSheets(const QDir &folder, const MvPageChoice &usual)
 {
+    makeFamilySheet(folder, usual);
     QList<MvPageChoice> papers, fonts, languages;
     for (const QString &paper : {u"A6"_s, u"A5 landscape"_s, u"A4 landscape"_s, u"A3"_s, u"210x99"_s, u"90x55"_s}) {
         papers << usual;
@@ -78,15 +96,16 @@ void makeSheets(const QDir &folder, const MvPageChoice &usual)
 
 } // namespace
 
-/// Contact sheets of every layout for a designer's eye: papers, fonts with many texts and photos, and languages, each
-/// beside photos in all places.
+/// Contact sheets of every layout for a designer's eye: a family's dates, papers, fonts with many texts and photos, and
+/// languages, each beside photos in all places. `--family`: that sheet alone.
 ///
-///     make_page_sheets FOLDER [LAYOUT...]
+///     make_page_sheets FOLDER [--family] [LAYOUT...]
 int main(int argc, char **argv)
 {
     const MvTestHome home;
     const QGuiApplication application(argc, argv);
-    const QStringList arguments = QGuiApplication::arguments();
+    QStringList arguments = QGuiApplication::arguments();
+    const bool isFamilyAlone = arguments.removeAll(u"--family"_s) > 0;
     if (arguments.size() < 2 || !QDir().mkpath(arguments.at(1)))
         return 2;
     MvPageChoice usual;
@@ -97,7 +116,10 @@ int main(int argc, char **argv)
     usual.foto = QStringLiteral(MV_SAMPLES "/bergsee.jpg");
     for (const QString &layout : arguments.size() > 2 ? arguments.mid(2) : MvPageChoice::layouts()) {
         usual.layout = layout;
-        makeSheets(QDir(arguments.at(1)), usual);
+        if (isFamilyAlone)
+            makeFamilySheet(QDir(arguments.at(1)), usual);
+        else
+            makeSheets(QDir(arguments.at(1)), usual);
     }
     return 0;
 }

@@ -3,6 +3,8 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvProductBase/MvCalendariumFeatures.h"
+#include "MvProject/MvFotoAim.h"
+#include "MvProject/MvFotoPoolIntake.h"
 #include "MvProject/MvNewCalendar.h"
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvThemeApplication.h"
@@ -37,7 +39,7 @@ MvPageFormat formatOf(const QString &paper)
 /// What the sheets show: which pictures, and on which edge they are bound.
 struct Scene
 {
-    QStringList fotos; // none: empty frames
+    QList<MvFotoPoolItem> fotos; // none: empty frames
     MvPageFormat::Binding binding = MvPageFormat::Binding::None;
     QSize cell; // of a page, with its caption
 };
@@ -56,7 +58,7 @@ MvCalendarDocument documentOf(const MvPageFormat &format, const QString &themeId
 }
 
 /// Fills all frames with the pictures in turn, with captions long and short.
-void fill(MvCalendarDocument &document, const QStringList &fotos)
+void fill(MvCalendarDocument &document, const QList<MvFotoPoolItem> &fotos)
 {
     static const QStringList captions{u"Am Walchensee, kurz nach Sonnenaufgang"_s, u"Omas Garten"_s,
                                       u"Drei Tage Regen, und dann das: der Blick vom Herzogstand bis nach München"_s};
@@ -65,10 +67,15 @@ void fill(MvCalendarDocument &document, const QStringList &fotos)
     for (const MvCalendarDocument::FrameId &frame : frames) {
         MvFotoElement foto = document.foto(frame);
         if (!fotos.isEmpty())
-            foto.setPath(fotos.at(next % fotos.size()));
+            foto.setPath(fotos.at(next % fotos.size()).path);
         foto.setCaption(captions.at(next % captions.size()));
         document.setFoto(frame, foto);
         ++next;
+    }
+    for (qsizetype i = 0; i < frames.size() && !fotos.isEmpty(); ++i) {
+        const MvCalendarDocument::FrameId &frame = frames.at(i);
+        document.setFoto(frame, MvFotoAim::aimed(fotos.at(i % fotos.size()), document.pages().at(frame.page),
+                                                 frame.element, document.format()));
     }
 }
 
@@ -173,13 +180,9 @@ void makeTemplateSheet(const QString &file, const QList<MvPageTemplate> &templat
     image.save(file);
 }
 
-QStringList fotosIn(const QString &folder)
+QList<MvFotoPoolItem> fotosIn(const QString &folder)
 {
-    QStringList paths;
-    const QFileInfoList files = QDir(folder).entryInfoList({u"*.jpg"_s, u"*.jpeg"_s, u"*.png"_s}, QDir::Files);
-    for (const QFileInfo &file : files)
-        paths.append(file.absoluteFilePath());
-    return paths;
+    return folder.isEmpty() ? QList<MvFotoPoolItem>() : MvFotoPoolIntake::gather({folder}).items;
 }
 
 MvPageFormat::Binding bindingOf(const QString &name)

@@ -36,7 +36,7 @@ void MvPrintMarks::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*o
     const MvPageFormat &format = m_project->document().format();
     if (!format.isValid() || m_item->pageRect().isEmpty())
         return;
-    const QRectF binding = format.bindingRect();
+    const QRectF binding = m_project->document().bindingRect(m_item->page());
     if (!binding.isEmpty()) {
         QBrush hatch(bindingColor, Qt::BDiagPattern);
         hatch.setTransform(painter->worldTransform().inverted()); // as fine on every scale
@@ -50,7 +50,7 @@ void MvPrintMarks::paint(QPainter *painter, const QStyleOptionGraphicsItem * /*o
         painter->drawRect(rect);
     };
     outline(format.trimRect(), trimColor, Qt::SolidLine);
-    outline(format.safeRect(), safeColor, Qt::DashLine);
+    outline(m_project->document().safeRect(m_item->page()), safeColor, Qt::DashLine);
     if (format.bleed() > 0.0)
         outline(format.mediaRect(), trimColor, Qt::DotLine);
 }

@@ -309,7 +309,10 @@ int MvCalendarEvent::yearsAt(const QDate &start) const
 {
     const MvRecurrenceRule &rule = repetition().rule;
     const bool isYearly = rule.isNone() ? m_recurrent : rule.frequency == MvRecurrenceRule::Yearly;
-    return hasYear() && isYearly ? std::max(0, start.year() - m_dateTime.date().year()) : 0;
+    const int year = m_dateTime.date().year();
+    // an entry typed in at a day of a page has the year of the page, which says nothing of what it is about
+    const bool isTypedIn = m_lastChanged.isValid() && year >= m_lastChanged.date().year();
+    return hasYear() && isYearly && !isTypedIn ? std::max(0, start.year() - year) : 0;
 }
 
 QDateTime MvCalendarEvent::startOf(const QDate &date)

@@ -136,8 +136,8 @@ public:
     QList<QDate> startsInYear(int year) const;
     /// The first day of the latest occurrence that includes the day; invalid when none does.
     QDate startAt(const QDate &day) const;
-    /// How many years an occurrence that begins on the day is after the entry's date: the age at a birthday. 0 where
-    /// that means nothing: without a year, in its own year or before, of entries that are not yearly.
+    /// The age at a birthday: years from the entry's date to the occurrence that begins on the day. 0 without a year,
+    /// in that year, if not yearly, and if last changed by the end of that year: it may be just when it was typed in.
     int yearsAt(const QDate &start) const;
 
     /// "01.03.26: "Oma Erika"", the date in the default locale's short format; without its year where that is unknown.

@@ -14,7 +14,7 @@ struct MVCALENDAR_EXPORT MvEventGroup
     QString name;      ///< as people see it
     QColor color;      ///< of its texts and dots; invalid: those of the page
     QString symbol;    ///< stands before its texts, one or two characters; may be empty
-    QString entryText; ///< how an entry reads: "%name (%age)", see MvEntryText; empty: as the calendar has it
+    QString entryText; ///< how an entry reads: "%name (%age)", see MvEventText; empty: as the calendar has it
 
     bool isValid() const { return !id.isEmpty() && !name.isEmpty(); }
     /// A group of the name, with an id that follows from it: two programs that make it make the same one.

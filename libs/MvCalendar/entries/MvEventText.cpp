@@ -12,6 +12,14 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const QString agePlace = u"%age"_s;
+const QString roundPlace = u"%round"_s;
+const QString roundMark = u"!"_s; // as people write it: it needs no other type, and every font has it
+
+} // namespace
+
 bool MvEventText::isShown(const MvCalendarEvent &event, const MvEntryDisplay &display)
 {
     if (display.hiddenGroups.isEmpty())
@@ -25,11 +33,11 @@ bool MvEventText::isShown(const MvCalendarEvent &event, const MvEntryDisplay &di
 QString MvEventText::filled(const QString &pattern, const MvCalendarEvent &event, const QDate &start)
 {
     const int years = event.yearsAt(start);
-    const bool needsYears = pattern.contains(u"%age") || pattern.contains(u"%year");
+    const bool needsYears = pattern.contains(u"%age") || pattern.contains(u"%year") || marksRound(pattern);
     if (!pattern.contains(u"%name") || (needsYears && years == 0))
         return event.description();
     // in one pass: a name may hold anything
-    static const QRegularExpression place(u"%(name|age|year)"_s);
+    static const QRegularExpression place(u"%(name|age|year|round)"_s);
     QString text;
     qsizetype end = 0;
     for (auto it = place.globalMatch(pattern); it.hasNext();) {
@@ -37,11 +45,32 @@ QString MvEventText::filled(const QString &pattern, const MvCalendarEvent &event
         text += QStringView(pattern).mid(end, match.capturedStart() - end);
         if (match.capturedView(1) == u"name")
             text += event.description();
+        else if (match.capturedView(1) == u"round")
+            text += isRound(years) ? roundMark : QString();
         else
             text += QString::number(match.capturedView(1) == u"age" ? years : event.dateTime().date().year());
         end = match.capturedEnd();
     }
     return text.append(QStringView(pattern).mid(end));
+}
+
+bool MvEventText::isRound(int years)
+{
+    constexpr int decade = 10;
+    constexpr int quarter = 25; // of a century
+    return years > 0 && (years % decade == 0 || years % quarter == 0);
+}
+
+bool MvEventText::marksRound(const QString &pattern)
+{
+    return pattern.contains(roundPlace);
+}
+
+QString MvEventText::withRoundMarked(const QString &pattern, bool isMarked)
+{
+    QString marked = pattern;
+    marked.remove(roundPlace);
+    return isMarked ? marked.replace(agePlace, agePlace + roundPlace) : marked;
 }
 
 MvEventText MvEventText::of(const MvCalendarEvent &event, const QDate &start, const MvEventGroupList &groups,

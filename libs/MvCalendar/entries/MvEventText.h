@@ -31,6 +31,13 @@ struct MVCALENDAR_EXPORT MvEventText
                           const MvEntryDisplay &display);
     /// False when all groups of the entry are hidden; an entry without groups is always shown.
     static bool isShown(const MvCalendarEvent &event, const MvEntryDisplay &display);
-    /// A pattern filled: "Jörg (60)" for "%name (%age)".
+    /// A pattern filled: "Jörg (60)" for "%name (%age)", "Jörg (60!)" for "%name (%age%round)".
     static QString filled(const QString &pattern, const MvCalendarEvent &event, const QDate &start);
+
+    /// Ages that people celebrate more than others: full tens, 25 and 75.
+    static bool isRound(int years);
+    /// Whether a pattern marks them, with "%round".
+    static bool marksRound(const QString &pattern);
+    /// The pattern with the mark behind each age, or without any.
+    static QString withRoundMarked(const QString &pattern, bool isMarked);
 };

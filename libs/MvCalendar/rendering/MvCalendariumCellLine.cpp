@@ -70,6 +70,19 @@ void MvCalendariumCellLine::keepInside(const QRectF &rect)
     m_start.ry() += std::max(0.0, rect.top() - seen.top()) - std::max(0.0, seen.bottom() - rect.bottom());
 }
 
+void MvCalendariumCellLine::draw(QPainter &painter, const QList<Run> &runs) const
+{
+    MvCalendariumCellLine part = *this;
+    qsizetype start = 0;
+    for (const Run &run : runs) {
+        const double before = MvTextOutlineCache::instance().outline(m_font, m_text.left(start)).advance();
+        part.m_text = m_text.mid(start, run.length);
+        part.m_start.setX(m_start.x() + before);
+        part.draw(painter, run.color);
+        start += run.length;
+    }
+}
+
 void MvCalendariumCellLine::draw(QPainter &painter, const QColor &color) const
 {
     if (isEmpty())

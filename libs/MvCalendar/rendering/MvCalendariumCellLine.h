@@ -3,14 +3,15 @@
 
 #include "MvCalendar/mvcalendar_export.h"
 
+#include <QColor>
 #include <QFont>
+#include <QList>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
 
 class MvTextFitter;
-class QColor;
 class QPainter;
 
 /// One line of text that stays inside its cell: a title, a heading, a number. Made to fit first, then placed, then
@@ -18,6 +19,15 @@ class QPainter;
 class MVCALENDAR_EXPORT MvCalendariumCellLine
 {
 public:
+    /// A part of the text in a colour of its own.
+    struct Run
+    {
+        qsizetype length; // characters
+        QColor color;
+
+        bool operator==(const Run &) const = default;
+    };
+
     /// The text in the fitter's font, or in a smaller one down to the fitter's floor, so that it is no wider than the
     /// room and what is seen of it no higher. What is too wide even so ends in an ellipsis; what is too high is empty.
     MvCalendariumCellLine(const MvTextFitter &fitter, const QSizeF &room, const QString &text);
@@ -42,6 +52,8 @@ public:
     /// Where the text is seen.
     QRectF ink() const { return m_ink.translated(m_start); }
     void draw(QPainter &painter, const QColor &color) const;
+    /// Each part of the text in its colour, where it stands in the whole line.
+    void draw(QPainter &painter, const QList<Run> &runs) const;
 
 private:
     void setFont(const QFont &font);

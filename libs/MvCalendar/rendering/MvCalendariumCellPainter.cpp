@@ -58,6 +58,11 @@ QColor mixed(const QColor &a, const QColor &b, double share)
     return QColor::fromRgbF(mix(a.redF(), b.redF()), mix(a.greenF(), b.greenF()), mix(a.blueF(), b.blueF()));
 }
 
+bool hasRoomForTexts(const QRectF &cell)
+{
+    return cell.width() > holidayTextsFromWidth && cell.height() > holidayTextsFromHeight;
+}
+
 /// What is left of a text when it is broken into lines.
 qsizetype lengthOf(const QString &text)
 {
@@ -218,7 +223,7 @@ void MvCalendariumCellPainter::drawDayNumber(const QRectF &rect, const QDate &da
     const bool even = m_renderer.isEvenWeek(date);
     const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
     drawBackground(rect, config, even);
-    if (rect.width() > holidayTextsFromWidth && rect.height() > holidayTextsFromHeight) {
+    if (hasRoomForTexts(rect)) {
         if (drawHoliday(rect, date, even))
             return; // the photo takes the place of the number
     } else {
@@ -269,10 +274,7 @@ bool MvCalendariumCellPainter::drawHoliday(const QRectF &rect, const QDate &date
     if (day.colors.isEmpty()) {
         drawPlaced(placed);
     } else {
-        QList<QColor> colors;
-        for (const QColor &own : day.colors)
-            colors.append(readable(own, date, even));
-        drawPlaced(placed, texts, colors);
+        drawPlaced(placed, texts, readable(day.colors, date, even));
     }
     m_painter.restore();
     reportCut(date, placed.text, rect);
@@ -335,30 +337,40 @@ QColor MvCalendariumCellPainter::readable(const QColor &color, const QDate &date
     return text;
 }
 
-QColor MvCalendariumCellPainter::colorOf(const QList<QColor> &colors, const QDate &date, bool even) const
+QList<QColor> MvCalendariumCellPainter::readable(const QList<QColor> &colors, const QDate &date, bool even) const
 {
-    const bool isOne = !colors.isEmpty() && colors.count(colors.constFirst()) == colors.size();
-    return readable(isOne ? colors.constFirst() : QColor(), date, even);
+    QList<QColor> readableOnes;
+    for (const QColor &color : colors)
+        readableOnes.append(readable(color, date, even));
+    return readableOnes;
 }
 
 QRectF MvCalendariumCellPainter::drawBars(const QRectF &rect, const QDate &date, bool even,
                                           const MvSpanBars::Bars &bars, const QRectF &numberInk)
 {
-    const Qt::Edge edge = m_renderer.spanEdge(date);
-    const QRectF rest = MvSpanBars::rest(bars, rect, edge);
-    const bool isUpright = edge == Qt::LeftEdge || edge == Qt::RightEdge;
-    if (bars.isEmpty() || !m_renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS) ||
-        MvSpanBars::thickness(bars) > mostOfCell * (isUpright ? rect.width() : rect.height()) ||
-        !(numberInk.isNull() || rest.contains(numberInk)))
+    const bool showsTexts = m_renderer.abilities().hasAnyOf(ABILITY_DISPLAY_HOLIDAYS) || hasRoomForTexts(rect);
+    if (bars.isEmpty() || !showsTexts) // the layout marks days by colour only
         return rect;
-    const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
-    const QColor text = m_renderer.fontColor(config, even);
-    const QColor ground = m_renderer.backgroundColor(config, even);
+    const Qt::Edge edge = m_renderer.spanEdge(date);
+    const bool isUpright = edge == Qt::LeftEdge || edge == Qt::RightEdge;
+    const double most = mostOfCell * (isUpright ? rect.width() : rect.height());
+    MvSpanBars::Bars shown = bars;
+    const auto hasRoom = [&] {
+        return shown.constLast().lane < MvSpanBars::mostLanes && MvSpanBars::thickness(shown) <= most &&
+               (numberInk.isNull() || MvSpanBars::rest(shown, rect, edge).contains(numberInk));
+    };
+    while (!shown.isEmpty() && !hasRoom()) {
+        const MvSpanBars::Bar bar = shown.takeLast();
+        m_renderer.reportBarWithoutRoom(bar.text, bar.start, date, rect);
+    }
+    const MvCalendarCellTypeConfig weekday(CALENDAR_CELL_TYPE_WEEKDAY); // the same on all days
+    const QColor text = m_renderer.fontColor(weekday, even);
+    const QColor ground = m_renderer.backgroundColor(weekday, true);
     const QColor usual = mixed(ground.alpha() > 0 ? ground : QColor(Qt::white), text, strengthOfBars);
-    for (const MvSpanBars::Bar &bar : bars)
+    for (const MvSpanBars::Bar &bar : std::as_const(shown))
         m_painter.fillRect(MvSpanBars::rectOf(bar, rect, edge).intersected(rect.adjusted(0, 0, 1, 1)),
                            bar.color.isValid() ? bar.color : usual);
-    return rest;
+    return MvSpanBars::rest(shown, rect, edge);
 }
 
 void MvCalendariumCellPainter::reportCut(const QDate &date, const MvFittedText &text, const QRectF &rect)
@@ -392,8 +404,9 @@ void MvCalendariumCellPainter::drawColumn(const QRectF &rect, const QDate &date,
 
     const QColor color = m_renderer.fontColor(config, even);
     const QRectF withoutBars = drawBars(rect, date, even, column.bars);
-    inner.setLeft(std::max(inner.left(), withoutBars.left()));
-    inner.setRight(std::min(inner.right(), withoutBars.right()));
+    const double besideBars = withoutBars == rect ? 0.0 : textGap;
+    inner.setLeft(std::max(inner.left(), withoutBars.left() + besideBars));
+    inner.setRight(std::min(inner.right(), withoutBars.right() - besideBars));
     const QStringList texts = m_renderer.isOpaqueColor(color) ? column.texts : QStringList();
     const QSizeF fotoRoom(inner.width() * (texts.isEmpty() ? 1.0 : widestFotoBesideTexts), inner.height());
     const QImage picture = isFirst ? pictureWithin(date, fotoRoom) : QImage();
@@ -412,7 +425,7 @@ void MvCalendariumCellPainter::drawColumn(const QRectF &rect, const QDate &date,
     m_renderer.reportMissingGlyphs(date, texts, row.text().font, rect);
     m_painter.save();
     m_painter.setClipRect(rect, Qt::IntersectClip);
-    row.draw(m_painter, column.colors.isEmpty() ? color : colorOf(column.colors, date, even));
+    row.draw(m_painter, readable(column.colors, date, even), color);
     m_painter.restore();
 }
 

@@ -57,12 +57,12 @@ public:
                     const MvDayColumn &column, bool isFirst);
     /// All that the day has.
     MvDayColumn wholeDay(const QDate &date) const;
-    /// The bars of entries that last several days, and what they leave of the cell; nothing where they would meet the
-    /// number.
+    /// Draws the bars of entries that last several days, and gives what they leave of the cell. Those that would meet
+    /// the number or take up too much of the cell are left out and reported.
     QRectF drawBars(const QRectF &rect, const QDate &date, bool even, const MvSpanBars::Bars &bars,
                     const QRectF &numberInk = {});
-    /// Of a day's texts that are drawn as one: their own, where it is the same for all and can be read there.
-    QColor colorOf(const QList<QColor> &colors, const QDate &date, bool even) const;
+    /// The colours, as they can be read on the ground of the day; none for none.
+    QList<QColor> readable(const QList<QColor> &colors, const QDate &date, bool even) const;
     bool drawPicture(const QDate &date, const QRectF &rect);
 
 private:

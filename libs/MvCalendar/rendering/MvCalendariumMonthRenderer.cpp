@@ -132,7 +132,8 @@ void MvCalendariumMonthRenderer::drawFittingCell(QPainter &painter, const QRectF
 
 void MvCalendariumMonthRenderer::reportMissingHeads(const QRectF &line)
 {
-    reportUnfitting(startDate(), MvWeekdayHeads::names(*this, MvWeekdayHeads::Form::Short).join(u' '), line);
+    MvCalendariumRenderer::reportMissingHeads(MvWeekdayHeads::names(*this, MvWeekdayHeads::Form::Short).join(u' '),
+                                              line);
 }
 
 void MvCalendariumMonthRenderer::drawNeighbouringDay(QPainter &painter, const QRectF &rect, const QDate &date,

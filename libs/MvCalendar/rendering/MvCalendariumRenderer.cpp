@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumDays.h"
+#include "MvCalendar/MvCalendariumFindings.h"
 #include "MvCalendar/MvCellGrounds.h"
 #include "MvCalendar/MvCellMeasures.h"
 #include "MvCalendar/MvCellStyles.h"
@@ -11,8 +12,6 @@
 #include "MvCalendar/MvHtmlTableSkeleton.h"
 #include "MvCalendar/MvRenderingProbe.h"
 #include "MvCore/MvMath.h"
-#include "MvCore/MvStringHelper.h"
-#include "MvPaint/MvGlyphCoverage.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProductBase/MvCalendarWeekHeadlineOption.h"
 #include "MvProductBase/MvCalendarWeekTextOption.h"
@@ -26,6 +25,17 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Days above 7 start again.
+int inWeek(int dayOfWeek)
+{
+    constexpr int days = 7;
+    return dayOfWeek > days ? (dayOfWeek - 1) % days + 1 : dayOfWeek;
+}
+
+} // namespace
+
 struct MvCalendariumRenderer::Parts
 {
     Parts(const MvCalendariumRenderer &renderer, const MvCalendariumAppearance &appearance)
@@ -38,6 +48,7 @@ struct MvCalendariumRenderer::Parts
     MvCalendariumDays days;
     MvCellMeasures measures;
     MvCellGrounds grounds; // empty outside render()
+    MvCalendariumFindings findings;
 };
 
 MvCalendariumRenderer::MvCalendariumRenderer(const MvCalendariumAppearance &appearance)
@@ -60,16 +71,6 @@ bool MvCalendariumRenderer::hasRoom(const QSizeF &room) const
     return minimumSizeHint().height() <= room.height();
 }
 
-bool MvCalendariumRenderer::thereIsToMuchText(const QRectF &) const
-{
-    return false;
-}
-
-bool MvCalendariumRenderer::hasOneHeaderPerDay() const
-{
-    return false;
-}
-
 QStringList MvCalendariumRenderer::maxmimumWidthCalendarWeekText() const
 {
     return {calendarWeekText(QDate(2222, 12, 24))}; // week 52, the widest number
@@ -78,11 +79,6 @@ QStringList MvCalendariumRenderer::maxmimumWidthCalendarWeekText() const
 bool MvCalendariumRenderer::shouldIPaintTheBorder(const MvCalendarCellTypeConfig &config) const
 {
     return d->styles.hasBorder(config.colorConfig());
-}
-
-bool MvCalendariumRenderer::isConfigured(const MvCalendarRenderingInformation &info) const
-{
-    return renderingInformation().hasAnyOf(info);
 }
 
 bool MvCalendariumRenderer::areCalendarWeeksRequested() const
@@ -150,8 +146,7 @@ void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
     Q_EMIT rectForDatesRestart(startDate(), rect);
     if (m_sources.probe)
         ++m_sources.probe->passes;
-    m_unfittingTexts.clear();
-    m_paintedFotos.clear();
+    d->findings.clear();
     m_devicePixelsPerUnit =
         m_pixelsPerUnit > 0.0 ? m_pixelsPerUnit : std::sqrt(std::abs(painter.deviceTransform().determinant()));
 
@@ -164,6 +159,7 @@ void MvCalendariumRenderer::render(QPainter &painter, const QRectF &rect)
     d->days.beginPass();
     renderBase(recordingPainter, rect);
     d->days.endPass();
+    d->findings.finish();
     recordingPainter.end();
 
     d->grounds.paint(painter);
@@ -200,16 +196,6 @@ int MvCalendariumRenderer::numberOfWeeks(const QDate &month) const
         return most;
     const int daysBefore = QDate(month.year(), month.month(), 1).dayOfWeek() - 1; // in the first row
     return (daysBefore + month.daysInMonth() + 6) / 7;
-}
-
-QDate MvCalendariumRenderer::mondayOfWeekWithDay(const QDate &day)
-{
-    return day.addDays(1 - day.dayOfWeek());
-}
-
-bool MvCalendariumRenderer::isEvenCalendarWeek(const QDate &date)
-{
-    return date.weekNumber() % 2 == 0;
 }
 
 bool MvCalendariumRenderer::isEvenWeek(const QDate &date) const
@@ -257,20 +243,18 @@ MvCalendarCellType MvCalendariumRenderer::contentCellType(const QDate &date,
 
 MvCalendarCellType MvCalendariumRenderer::headCellTypeWeekDay(int dayOfWeek)
 {
-    while (dayOfWeek > 7)
-        dayOfWeek -= 7;
-    if (dayOfWeek == 6)
+    const int day = inWeek(dayOfWeek);
+    if (day == Qt::Saturday)
         return CALENDAR_CELL_TYPE_HEAD_SATURDAY;
-    return dayOfWeek == 7 ? CALENDAR_CELL_TYPE_HEAD_SUNDAY : CALENDAR_CELL_TYPE_HEAD_WEEKDAY;
+    return day == Qt::Sunday ? CALENDAR_CELL_TYPE_HEAD_SUNDAY : CALENDAR_CELL_TYPE_HEAD_WEEKDAY;
 }
 
 MvCalendarCellType MvCalendariumRenderer::contentCellTypeWeekDay(int dayOfWeek)
 {
-    while (dayOfWeek > 7)
-        dayOfWeek -= 7;
-    if (dayOfWeek == 6)
+    const int day = inWeek(dayOfWeek);
+    if (day == Qt::Saturday)
         return CALENDAR_CELL_TYPE_SATURDAY;
-    return dayOfWeek == 7 ? CALENDAR_CELL_TYPE_SUNDAY : CALENDAR_CELL_TYPE_WEEKDAY;
+    return day == Qt::Sunday ? CALENDAR_CELL_TYPE_SUNDAY : CALENDAR_CELL_TYPE_WEEKDAY;
 }
 
 MvCalendarCellTypeConfig MvCalendariumRenderer::headCellTypeConfig(const QDate &date) const
@@ -281,11 +265,6 @@ MvCalendarCellTypeConfig MvCalendariumRenderer::headCellTypeConfig(const QDate &
 MvCalendarCellTypeConfig MvCalendariumRenderer::contentCellTypeConfig(const QDate &date) const
 {
     return d->days.contentTypes(date);
-}
-
-double MvCalendariumRenderer::max3(double a, double b, double c)
-{
-    return std::max({a, b, c});
 }
 
 // ---- fonts and measuring
@@ -404,16 +383,6 @@ MvCalendariumWords MvCalendariumRenderer::words() const
     return MvCalendariumWords(language(), m_sources.language);
 }
 
-MvLocale MvCalendariumRenderer::language() const
-{
-    return m_content.language();
-}
-
-bool MvCalendariumRenderer::usesShortDayNames() const
-{
-    return isConfigured(calendar_render_days_of_week_short);
-}
-
 QString MvCalendariumRenderer::dayNameFromDate(const QDate &date, bool shortName) const
 {
     return stringFromDate(date, shortName ? u"ddd"_s : u"dddd"_s);
@@ -422,16 +391,6 @@ QString MvCalendariumRenderer::dayNameFromDate(const QDate &date, bool shortName
 QString MvCalendariumRenderer::calendarMonth(int month, const MvCalendarRenderingInformation &info) const
 {
     return words().month(month, info);
-}
-
-QString MvCalendariumRenderer::calendarYear(int year, const MvCalendarRenderingInformation &info)
-{
-    return MvCalendariumWords::calendarYear(year, info);
-}
-
-QString MvCalendariumRenderer::yearName(int year) const
-{
-    return MvCalendariumWords::yearName(year, renderingInformation());
 }
 
 QString MvCalendariumRenderer::calendarMonth(const QDate &date) const
@@ -533,11 +492,6 @@ QColor MvCalendariumRenderer::fontColor(const MvCalendarCellTypeConfig &config, 
     return d->styles.fontColor(config.colorConfig(), even);
 }
 
-bool MvCalendariumRenderer::shouldIPaintTheBackground(const MvCalendarCellTypeConfig &config, bool even) const
-{
-    return isOpaqueColor(backgroundColor(config, even));
-}
-
 void MvCalendariumRenderer::createBorderPen(QPainter &painter) const
 {
     painter.setPen(appearance().gridConfig().createPen());
@@ -595,17 +549,41 @@ QImage MvCalendariumRenderer::holidayPicture(const QDate &date) const
     return full.isEmpty() ? QImage() : entries.eventImage(key, full, m_sources.fotosOrDefault());
 }
 
+// ---- what a pass finds
+
+const QList<MvUnfittingText> &MvCalendariumRenderer::unfittingTexts() const
+{
+    return d->findings.unfittingTexts();
+}
+
+const QList<MvPaintedFoto> &MvCalendariumRenderer::paintedFotos() const
+{
+    return d->findings.fotos();
+}
+
 void MvCalendariumRenderer::reportUnfitting(const QDate &date, const QString &text, const QRectF &rect)
 {
-    if (MvStringHelper::isVisible(text))
-        m_unfittingTexts.append({date, text, rect});
+    d->findings.addUnfitting(date, text, rect);
+}
+
+void MvCalendariumRenderer::reportMissingHeads(const QString &names, const QRectF &line)
+{
+    d->findings.addMissingHeads(startDate(), names, line);
 }
 
 void MvCalendariumRenderer::reportMissingGlyphs(const QDate &date, const QStringList &texts, const QFont &font,
                                                 const QRectF &rect)
 {
-    for (const QString &text : texts) {
-        if (const QString missing = MvGlyphCoverage::missingCharacters(font, text); !missing.isEmpty())
-            m_unfittingTexts.append({date, text, rect, missing});
-    }
+    d->findings.addMissingGlyphs(date, texts, font, rect);
+}
+
+void MvCalendariumRenderer::reportBarWithoutRoom(const QString &text, const QDate &start, const QDate &date,
+                                                 const QRectF &rect)
+{
+    d->findings.addBarWithoutRoom({date, text, rect}, start);
+}
+
+void MvCalendariumRenderer::reportFoto(const QDate &date, const QRectF &rect)
+{
+    d->findings.addFoto({date, rect});
 }

@@ -27,6 +27,7 @@
 #include <QRectF>
 #include <QSet>
 
+#include <algorithm>
 #include <memory>
 
 class MvCalendariumContentKey;
@@ -59,16 +60,19 @@ public:
     /// month. Where it does not, the caller may try a smaller scale.
     virtual bool hasRoom(const QSizeF &room) const;
     virtual bool rendersMonthInformation() const = 0;
-    virtual bool thereIsToMuchText(const QRectF &rect) const; // the name is historical
+    virtual bool thereIsToMuchText(const QRectF &) const { return false; } // the name is historical
     virtual QList<MvCalendarCellType> usedCellTypes() const = 0;
-    virtual bool hasOneHeaderPerDay() const;
+    virtual bool hasOneHeaderPerDay() const { return false; }
     /// Paints the whole calendarium into the rectangle. Called by render(), which is what callers want.
     virtual void renderBase(QPainter &painter, const QRectF &rect) = 0;
     /// The texts that the column of calendar weeks must hold; the name is historical.
     virtual QStringList maxmimumWidthCalendarWeekText() const;
     virtual bool shouldIPaintTheBorder(const MvCalendarCellTypeConfig &config) const;
     /// Whether any of the given things is rendered.
-    virtual bool isConfigured(const MvCalendarRenderingInformation &info) const;
+    virtual bool isConfigured(const MvCalendarRenderingInformation &info) const
+    {
+        return renderingInformation().hasAnyOf(info);
+    }
     virtual QList<MvCalendarCellType> dayCellTypes() const;
     virtual QList<MvCalendarCellType> dayHeadCellTypes(bool withSpecialDays) const;
 
@@ -98,9 +102,9 @@ public:
     void render(QPainter &painter, const QRectF &rect);
 
     /// The texts that had no room in the last pass, in the order of painting.
-    const QList<MvUnfittingText> &unfittingTexts() const { return m_unfittingTexts; }
+    const QList<MvUnfittingText> &unfittingTexts() const;
     /// The photos of days that the last pass drew, in the order of painting.
-    const QList<MvPaintedFoto> &paintedFotos() const { return m_paintedFotos; }
+    const QList<MvPaintedFoto> &paintedFotos() const;
 
     // dates
     const MvCalendariumAppearance &appearance() const;
@@ -114,8 +118,8 @@ public:
     QDate endDateOfCalendar() const;
     /// Rows from Monday to Sunday: 4 to 6 where empty weeks are left out, otherwise 6; 6 for an invalid date.
     int numberOfWeeks(const QDate &month) const;
-    static QDate mondayOfWeekWithDay(const QDate &day);
-    static bool isEvenCalendarWeek(const QDate &date);
+    static QDate mondayOfWeekWithDay(const QDate &day) { return day.addDays(1 - day.dayOfWeek()); }
+    static bool isEvenCalendarWeek(const QDate &date) { return date.weekNumber() % 2 == 0; }
     /// Parity relative to the page: the week of startDate() is odd, and rows alternate from there.
     virtual bool isEvenWeek(const QDate &date) const;
 
@@ -139,7 +143,7 @@ public:
     static MvCalendarCellType contentCellTypeWeekDay(int dayOfWeek);
     MvCalendarCellTypeConfig headCellTypeConfig(const QDate &date) const;
     MvCalendarCellTypeConfig contentCellTypeConfig(const QDate &date) const;
-    static double max3(double a, double b, double c);
+    static double max3(double a, double b, double c) { return std::max({a, b, c}); }
 
     // fonts and layout values
     QFont font(const MvCalendarCellType &type) const;
@@ -204,7 +208,7 @@ public:
     }
 
     // words in the page's language, see MvCalendariumWords
-    MvLocale language() const;
+    MvLocale language() const { return m_content.language(); }
     QString dayName(int day, bool shortName) const { return words().dayName(day, shortName); }
     QString dayName(int day) const { return dayName(day, usesShortDayNames()); }
     QStringList weekdayNames(bool shortNames) const { return words().weekdayNames(shortNames); }
@@ -221,8 +225,11 @@ public:
     QString dayNameFromDate(const QDate &date) const { return dayNameFromDate(date, usesShortDayNames()); }
     QString calendarMonth(int month, const MvCalendarRenderingInformation &info) const;
     QString monthName(int month) const { return calendarMonth(month, renderingInformation()); }
-    static QString calendarYear(int year, const MvCalendarRenderingInformation &info);
-    QString yearName(int year) const;
+    static QString calendarYear(int year, const MvCalendarRenderingInformation &info)
+    {
+        return MvCalendariumWords::calendarYear(year, info);
+    }
+    QString yearName(int year) const { return MvCalendariumWords::yearName(year, renderingInformation()); }
     /// Month and year as the layout asks for them; of startDate() when the date is invalid.
     QString calendarMonth(const QDate &date) const;
     QString calendarWeekHeadlineText() const;
@@ -247,7 +254,10 @@ public:
     QColor backgroundColor(const MvCalendarCellTypeConfig &config, bool even) const;
     QColor fontColor(const MvCalendarCellTypeConfig &config, bool even) const;
     bool isOpaqueColor(const QColor &color) const { return appearance().isOpaqueColor(color); }
-    bool shouldIPaintTheBackground(const MvCalendarCellTypeConfig &config, bool even) const;
+    bool shouldIPaintTheBackground(const MvCalendarCellTypeConfig &config, bool even) const
+    {
+        return isOpaqueColor(backgroundColor(config, even));
+    }
     void createBorderPen(QPainter &painter) const;
 
     // painting a cell
@@ -287,6 +297,8 @@ protected:
     void reportMissingGlyphs(const QDate &date, const QStringList &texts, const QFont &font, const QRectF &rect);
     /// Notes a text of the day whose cell has no room for it, unless nothing of it would be seen.
     void reportUnfitting(const QDate &date, const QString &text, const QRectF &rect);
+    /// Notes that the names of weekdays have no room in their line.
+    void reportMissingHeads(const QString &names, const QRectF &line);
     /// descriptions() with the vacations that the day lies in, whether or not they begin on it.
     QStringList descriptionsWithRunningVacations(const QDate &date) const;
 
@@ -295,8 +307,10 @@ private:
 
     const MvCalendariumDays &days() const;
     MvCalendariumWords words() const;
-    bool usesShortDayNames() const;
-    void reportFoto(const QDate &date, const QRectF &rect) { m_paintedFotos.append({date, rect}); }
+    bool usesShortDayNames() const { return isConfigured(calendar_render_days_of_week_short); }
+    void reportFoto(const QDate &date, const QRectF &rect);
+    /// Of an entry that begins on the start day, in the cell of the date.
+    void reportBarWithoutRoom(const QString &text, const QDate &start, const QDate &date, const QRectF &rect);
 
     struct Parts;
 
@@ -305,8 +319,6 @@ private:
     double m_backgroundAlpha = 1.0;
     MvProjectIdentifier m_modelInfo;
     MvRenderingSources m_sources;
-    QList<MvUnfittingText> m_unfittingTexts;
-    QList<MvPaintedFoto> m_paintedFotos;
     double m_pixelsPerUnit = 0.0;
     double m_devicePixelsPerUnit = 1.0; // of the pass that runs, for photos
     const std::unique_ptr<Parts> d;

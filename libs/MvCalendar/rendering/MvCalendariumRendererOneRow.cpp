@@ -6,10 +6,6 @@
 
 #include <algorithm>
 
-namespace {
-constexpr int mostDays = 31;
-}
-
 MvCalendariumDisplayAbilities MvCalendariumRendererOneRow::abilities() const
 {
     return MvCalendariumDisplayAbilities(ABILITY_DISPLAY_VACATIONS | ABILITY_DISPLAY_HOLIDAYS_COLORS);
@@ -118,9 +114,15 @@ MvCalendariumRendererOneRow::Bands MvCalendariumRendererOneRow::bands(const QRec
     return bands;
 }
 
+bool MvCalendariumRendererOneRow::isRowStart(const QDate &date) const
+{
+    return (date.day() - 1) % m_columns == 0;
+}
+
 void MvCalendariumRendererOneRow::renderBase(QPainter &painter, const QRectF &rect)
 {
     const Bands bands = this->bands(rect);
+    m_columns = bands.columns;
     if (isConfigured(calendar_render_title))
         drawTitle(painter, {rect.left(), rect.top(), rect.width(), bands.title});
     const QSizeF headSize(bands.day.width(), bands.head);

@@ -24,6 +24,8 @@ public:
     bool rendersMonthInformation() const override;
     QList<MvCalendarCellType> usedCellTypes() const override;
     bool hasOneHeaderPerDay() const override;
+    /// Also where the days go on in another row.
+    bool isRowStart(const QDate &date) const override;
     void renderBase(QPainter &painter, const QRectF &rect) override;
     /// Never round the title.
     bool shouldIPaintTheBorder(const MvCalendarCellTypeConfig &config) const override;
@@ -35,6 +37,8 @@ public:
     double heightOfCell(const QRectF &rect, const MvCalendarCellType &type) const;
 
 private:
+    static constexpr int mostDays = 31;
+
     /// What the rows of days are made of; the title stands above them.
     struct Bands
     {
@@ -47,4 +51,6 @@ private:
     Bands bands(const QRectF &rect) const;
     double plannedHeight(int rows) const;
     void drawHead(QPainter &painter, const QRectF &cell, const QDate &date, const MvWeekdayHeads &heads);
+
+    int m_columns = mostDays; // of the last pass
 };

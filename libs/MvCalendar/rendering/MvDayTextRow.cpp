@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvDayTextRow.h"
 
+#include "MvCalendar/MvColorRuns.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -125,6 +127,7 @@ MvDayTextRow::Set MvDayTextRow::withoutHighTexts(const QRectF &widest) const
     set.text.isCut = true;
     set.text.cutTexts.removeAll(ellipsis);
     set.text.cutTexts += high;
+    set.texts = low;
     return set;
 }
 
@@ -147,8 +150,18 @@ void MvDayTextRow::place(const QRectF &room, std::optional<double> baseline)
         line.moveBy(right, last + shift);
 }
 
-void MvDayTextRow::draw(QPainter &painter, const QColor &color) const
+void MvDayTextRow::draw(QPainter &painter, const QList<QColor> &colors, const QColor &other) const
 {
-    for (const MvCalendariumCellLine &line : m_set.lines)
-        line.draw(painter, color);
+    QList<QColor> shown;
+    for (const QString &text : m_set.texts)
+        shown.append(colors.value(m_texts.indexOf(text), other));
+    const bool areAllShown = m_set.texts.isEmpty();
+    const QList<MvColorRuns::Line> runs =
+        MvColorRuns::of(m_set.text.lines, areAllShown ? m_texts : m_set.texts, areAllShown ? colors : shown);
+    for (qsizetype i = 0; i < m_set.lines.size(); ++i) {
+        if (colors.isEmpty() || runs.at(i).size() < 2)
+            m_set.lines.at(i).draw(painter, colors.isEmpty() ? other : runs.at(i).value(0).color);
+        else
+            m_set.lines.at(i).draw(painter, runs.at(i));
+    }
 }

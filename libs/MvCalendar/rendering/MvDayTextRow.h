@@ -32,7 +32,8 @@ public:
                  std::optional<double> baseline);
 
     const MvFittedText &text() const { return m_set.text; }
-    void draw(QPainter &painter, const QColor &color) const;
+    /// The colours are those of the texts; the other one is for all when there are none.
+    void draw(QPainter &painter, const QList<QColor> &colors, const QColor &other) const;
 
 private:
     /// Lines one below the other, the last on the baseline 0.
@@ -41,6 +42,7 @@ private:
         MvFittedText text;
         QList<MvCalendariumCellLine> lines;
         QRectF ink;
+        QStringList texts = {}; // that stand in the lines; empty: all
     };
 
     Set fitted(const QRectF &inner, const QRectF &widest) const;

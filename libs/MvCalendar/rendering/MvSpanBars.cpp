@@ -43,14 +43,15 @@ MvSpanBars::Lanes MvSpanBars::arranged(const QDate &first, const QDate &last,
                                            [](const MvEventText &lane) { return lane.text.isEmpty(); });
             if (free != running.end())
                 *free = span;
-            else if (running.size() < mostLanes)
+            else
                 running.append(span);
         }
         Bars bars;
         for (qsizetype lane = 0; lane < running.size(); ++lane) {
             const MvEventText &span = running.at(lane);
             if (!span.text.isEmpty())
-                bars.append({int(lane), span.color, span.groupNames, span.start == day, span.end == day});
+                bars.append({int(lane), span.color, span.groupNames, span.start == day, span.end == day, span.text,
+                             span.start});
         }
         if (!bars.isEmpty())
             lanes.insert(day.toJulianDay(), bars);

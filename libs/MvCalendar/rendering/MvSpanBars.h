@@ -26,10 +26,12 @@ public:
         QStringList groupNames;
         bool begins;
         bool ends;
+        QString text;
+        QDate start; ///< of the entry, with its text who it is
     };
     using Bars = QList<Bar>;
 
-    static constexpr int mostLanes = 4; ///< of which a cell shows
+    static constexpr int mostLanes = 4; ///< that a cell shows; bars of others have no room
 
     /// Bars of a day among those of the days from `first` on, of which the function gives the entries.
     Bars barsOf(const QDate &day, const QDate &first, const std::function<QList<MvEventText>(const QDate &)> &entries);

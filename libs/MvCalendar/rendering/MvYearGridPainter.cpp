@@ -49,6 +49,7 @@ void MvYearGridPainter::paint(const QRectF &rect)
 
 void MvYearGridPainter::prepareTexts()
 {
+    m_hasNumbers = haveNumbersRoom();
     if (m_sizes.weekWidth <= 0.0)
         return;
     const QString week = m_renderer.MvCalendariumRenderer::maxmimumWidthCalendarWeekText().constFirst();
@@ -59,6 +60,21 @@ void MvYearGridPainter::prepareTexts()
     m_weekHead = m_renderer.calendarWeekHeadlineText();
     if (!m_renderer.fits(CALENDAR_CELL_TYPE_TOPLINE, m_sizes.weekWidth, m_weekHead))
         m_weekHead.clear();
+}
+
+/// Either all numbers of the page are there or none: one digit without two says nothing.
+bool MvYearGridPainter::haveNumbersRoom() const
+{
+    for (const MvCalendarCellType &type : m_renderer.dayCellTypes()) {
+        const QFont font = m_renderer.font(type);
+        const double edge = edgeOfNumber * font.pixelSize();
+        const QRectF room(edge, 0.0, m_sizes.day.width() - 2.0 * edge, m_sizes.day.height());
+        for (const QString &number : {u"20"_s, u"24"_s, u"28"_s, u"30"_s}) {
+            if (m_renderer.line(room, type, number, font).isEmpty())
+                return false;
+        }
+    }
+    return true;
 }
 
 QString MvYearGridPainter::weekText(const QDate &monday) const
@@ -127,7 +143,9 @@ void MvYearGridPainter::paintDay(const QRectF &cell, const QDate &date)
     const MvCalendarCellTypeConfig config = m_renderer.contentCellTypeConfig(date);
     const QString number = QString::number(date.day());
     const QFont font = m_renderer.font(config.inscriptionConfig());
-    if (!paintCell(cell, config, number, font, m_renderer.isEvenWeek(date), edgeOfNumber * font.pixelSize()))
+    const bool even = m_renderer.isEvenWeek(date);
+    const double edge = edgeOfNumber * font.pixelSize();
+    if (!paintCell(cell, config, m_hasNumbers ? number : QString(), font, even, edge) || !m_hasNumbers)
         m_renderer.reportUnfitting(date, number, cell);
     Q_EMIT m_renderer.rectForDateFound(date, cell);
 }

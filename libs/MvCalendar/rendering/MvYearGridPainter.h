@@ -21,6 +21,7 @@ public:
 
 private:
     void prepareTexts();
+    bool haveNumbersRoom() const;
     /// The week as the content writes it, its number alone where the column is too narrow.
     QString weekText(const QDate &monday) const;
 
@@ -39,4 +40,5 @@ private:
     QFont m_weekFont;
     QString m_weekHead;
     bool m_hasWeekNumbersOnly = false;
+    bool m_hasNumbers = true;
 };

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumRendererYear.h"
+#include "MvCalendar/MvColorRuns.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -134,12 +135,13 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     const MvDayColumn shown = cells.wholeDay(date);
     const QStringList &texts = shown.texts;
     MvYearPlanner::Parts parts = planner.parts(cell, date.dayOfWeek() == Qt::Monday);
-    const double right = cells.drawBars(cell, date, even, shown.bars, parts.number).right();
-    parts.texts.setRight(std::min(parts.texts.right(), right));
+    const double taken = cell.right() - cells.drawBars(cell, date, even, shown.bars, parts.number).right();
+    parts.texts.setRight(parts.texts.right() - taken);
+    parts.week.translate(-taken, 0.0);
     Texts fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
     if (!parts.week.isNull() && !areAsWritten(fitted, texts, textStyle)) { // the week gives way
         parts = planner.parts(cell, false);
-        parts.texts.setRight(std::min(parts.texts.right(), right));
+        parts.texts.setRight(parts.texts.right() - taken);
         fitted = fittingTexts(texts, innerRect(planner, parts.texts, textStyle), textStyle);
     }
     for (const QString &text : texts.mid(fitted.whole))
@@ -150,8 +152,7 @@ void MvYearPlannerPainter::paintDay(const MvYearPlanner &planner, const QRectF &
     if (baseline && !parts.week.isNull()) // alone it would be read as the number of the day
         paintWeek(parts.week, config, date, even, *baseline);
     paintTexts(planner, innerRect(planner, parts.texts, textStyle), fitted,
-               baseline.value_or(parts.number.center().y()),
-               shown.colors.isEmpty() ? color : cells.colorOf(shown.colors, date, even));
+               baseline.value_or(parts.number.center().y()), texts, cells.readable(shown.colors, date, even), color);
 }
 
 std::optional<double> MvYearPlannerPainter::paintFront(const MvYearPlanner::Parts &parts, const QRectF &cell,
@@ -204,7 +205,8 @@ QRectF MvYearPlannerPainter::innerRect(const MvYearPlanner &planner, const QRect
 }
 
 void MvYearPlannerPainter::paintTexts(const MvYearPlanner &planner, const QRectF &inner, const Texts &texts,
-                                      double baseline, const QColor &color)
+                                      double baseline, const QStringList &written, const QList<QColor> &colors,
+                                      const QColor &other)
 {
     const QFontMetricsF metrics(texts.set.font);
     const double height = metrics.height();
@@ -228,9 +230,13 @@ void MvYearPlannerPainter::paintTexts(const MvYearPlanner &planner, const QRectF
     double shift = std::max(0.0, inner.top() - ink.top()) - std::max(0.0, ink.bottom() - inner.bottom());
     if (ink.height() > inner.height())
         shift = inner.center().y() - ink.center().y();
-    for (MvCalendariumCellLine &line : lines) { // all by the same, so that they keep their distances
-        line.setBaseline(line.baseline() + shift);
-        line.draw(m_painter, color);
+    const QList<MvColorRuns::Line> runs = MvColorRuns::of(texts.set.lines, written, colors);
+    for (qsizetype i = 0; i < lines.size(); ++i) { // all by the same, so that they keep their distances
+        lines[i].setBaseline(lines.at(i).baseline() + shift);
+        if (colors.isEmpty() || runs.at(i).size() < 2)
+            lines.at(i).draw(m_painter, colors.isEmpty() ? other : runs.at(i).value(0).color);
+        else
+            lines.at(i).draw(m_painter, runs.at(i));
     }
 }
 

@@ -51,8 +51,9 @@ private:
                                      const MvCalendarCellTypeConfig &config, const QDate &date, bool even);
     void paintWeek(const QRectF &part, const MvCalendarCellTypeConfig &config, const QDate &date, bool even,
                    double baseline);
+    /// The colours are those of the written texts; the other one is for all when there are none.
     void paintTexts(const MvYearPlanner &planner, const QRectF &inner, const Texts &texts, double baseline,
-                    const QColor &color);
+                    const QStringList &written, const QList<QColor> &colors, const QColor &other);
     /// The room for texts in the part of a cell.
     QRectF innerRect(const MvYearPlanner &planner, const QRectF &part, const Style &style) const;
     Texts fittingTexts(const QStringList &texts, const QRectF &inner, const Style &style) const;

@@ -8,7 +8,7 @@
 struct MvEntryDisplay
 {
     QStringList hiddenGroups; ///< ids; an entry all of whose groups are hidden is not shown
-    QString text;             ///< a pattern with %name, %age and %year; empty: the name
+    QString text;             ///< a pattern with %name, %age, %year and %round, see MvEventText; empty: the name
     bool showTimes = false;   ///< before the text: "19:30 Probe"
 
     bool operator==(const MvEntryDisplay &) const = default;

@@ -4,6 +4,7 @@
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
 #include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvExportFotos.h"
+#include "MvProject/MvFotoAim.h"
 #include "MvProject/MvPagePainter.h"
 #include "MvProject/MvPageSource.h"
 
@@ -107,12 +108,14 @@ void MvCalendarDocument::setRange(const MvDateRange &range)
 
 void MvCalendarDocument::setFormat(const MvPageFormat &format)
 {
+    const MvCalendarDocument unchanged = *this;
     const MvPageFormat before = std::exchange(m_format, format);
     for (MvCalendarPage &page : m_pages)
         page.setFormat(before, format);
     for (MvCalendarPage &page : m_sparePages)
         page.setFormat(before, format);
     m_look.setFormat(before, format);
+    *this = MvFotoAim::followed(unchanged, *this);
 }
 
 void MvCalendarDocument::setPage(int page, const MvCalendarPage &content)
@@ -137,6 +140,22 @@ bool MvCalendarDocument::isFacingMonth(int page) const
 {
     return page > 0 && isMonthPage(page) && m_pages[page - 1].kind() == MvPageKind::Free &&
            monthOf(m_pages[page - 1]) == monthOf(m_pages[page]);
+}
+
+QRectF MvCalendarDocument::bindingRect(int page) const
+{
+    return turned(m_format.bindingRect(), page);
+}
+
+QRectF MvCalendarDocument::safeRect(int page) const
+{
+    return turned(m_format.safeRect(), page);
+}
+
+QRectF MvCalendarDocument::turned(const QRectF &rect, int page) const
+{
+    const bool hangsAbove = m_format.binding() == MvPageFormat::Binding::Top && isFacingMonth(page + 1);
+    return hangsAbove ? QRectF(QPointF(rect.left(), m_format.trimSize().height() - rect.bottom()), rect.size()) : rect;
 }
 
 int MvCalendarDocument::insertPage(int before, const MvCalendarPage &page)

@@ -96,6 +96,10 @@ public:
     /// A free page of the same month stands before it, for its photo: bound between them, it hangs above the month.
     /// False for a page that is no month.
     bool isFacingMonth(int page) const;
+    /// The part of a page that the binding takes, and that in which texts may stand: as the paper has it, but of a
+    /// photo page that hangs above its month, bound at the head, they are turned upside down.
+    QRectF bindingRect(int page) const;
+    QRectF safeRect(int page) const;
     /// Puts a page before the one with the number, or at the end; covers go before and backs behind all months,
     /// wherever they are wanted. A page of kind Month becomes a free one. Without a date of its own it takes that of
     /// its neighbour. Gives its number.
@@ -166,6 +170,7 @@ public:
     bool operator==(const MvCalendarDocument &other) const;
 
 private:
+    QRectF turned(const QRectF &rect, int page) const;
     const MvCalendarPage &look() const;
     int placeFor(MvPageKind kind, int wanted) const;
     int monthsPerPage() const;

@@ -134,7 +134,9 @@ bool MvCalendariumFit::findsNothingUnfitting(double scale) const
     // strips keep their own distance between numbers, and use more rows where they are narrower
     const double width = m_appearance.type().traits().isStrip ? room.width() : air * room.width();
     renderer->render(painter, {QPointF(), QSizeF(width, room.height())});
-    return renderer->unfittingTexts().isEmpty();
+    const QList<MvUnfittingText> &unfitting = renderer->unfittingTexts();
+    return std::all_of(unfitting.cbegin(), unfitting.cend(),
+                       [](const MvUnfittingText &text) { return text.isOfHeads; });
 }
 
 double MvCalendariumFit::lineHeight(double scale) const

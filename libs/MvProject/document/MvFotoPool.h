@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvProject/MvFotoInterest.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QDateTime>
@@ -14,10 +15,11 @@
 /// A photo of the pool and what is known of it without decoding it.
 struct MvFotoPoolItem
 {
-    QString path;               // absolute
-    QSize size;                 // in pixels as it is seen, its orientation applied; empty while unknown
-    QDateTime captured;         // invalid when the file does not say
-    QPointF focus = {0.5, 0.5}; // of the photo, see MvFotoElement::focus()
+    QString path;                 // absolute
+    QSize size;                   // in pixels as it is seen, its orientation applied; empty while unknown
+    QDateTime captured;           // invalid when the file does not say
+    QPointF focus = {0.5, 0.5};   // of the photo in any frame, see MvFotoElement::focus()
+    MvFotoInterest interest = {}; // what the focus in a certain frame follows from, see MvFotoAim
 
     bool operator==(const MvFotoPoolItem &) const = default;
 };

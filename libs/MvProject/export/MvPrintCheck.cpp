@@ -189,7 +189,7 @@ void PageCheck::lookAtPlace(int number)
     const MvPageElement &element = m_elements[number];
     const MvPageFormat &format = m_document.format();
     const QRectF rect = element.rect();
-    const QRectF binding = format.bindingRect();
+    const QRectF binding = m_document.bindingRect(m_number);
     if (rect.isEmpty() || (element.text() && element.text()->text().isEmpty()))
         return;
     const QRectF inside = rect.adjusted(tolerance, tolerance, -tolerance, -tolerance);
@@ -204,7 +204,7 @@ void PageCheck::lookAtPlace(int number)
         element.text() ? tr("Der Text „%1“").arg(inShort(element.text()->text())) : tr("Das Kalendarium");
     if (!binding.isEmpty() && inside.intersects(binding))
         add(Kind::InBinding, Severity::Strong, number, tr("%1 ragt in den Bereich der Bindung").arg(what));
-    else if (!format.safeRect().contains(inside))
+    else if (!m_document.safeRect(m_number).contains(inside))
         add(Kind::OutsideSafeMargin, Severity::Hint, number,
             tr("%1 steht so nahe am Rand, dass es angeschnitten werden kann").arg(what));
 }

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvUndoController.h"
+#include "MvProject/MvFotoAim.h"
 #include "MvProject/MvProjectEntries.h"
 #include "MvProject/MvUndoCommandDocument.h"
 
@@ -82,13 +83,15 @@ void MvProject::onEntriesChanged()
 
 void MvProject::change(const MvCalendarDocument &after, const QString &text, int mergeId)
 {
-    m_session.undo().push(new MvUndoCommandDocument(this, after, text, -1, mergeId));
+    const MvCalendarDocument followed = MvFotoAim::followed(m_document, after);
+    m_session.undo().push(new MvUndoCommandDocument(this, followed, text, -1, mergeId));
 }
 
 void MvProject::changePage(int page, const MvCalendarPage &after, const QString &text, int mergeId)
 {
     MvCalendarDocument document = m_document;
     document.setPage(page, after);
+    document = MvFotoAim::followed(m_document, document);
     m_session.undo().push(new MvUndoCommandDocument(this, document, text, page, mergeId));
 }
 

@@ -48,7 +48,8 @@ public:
 
     const MvCalendarDocument &document() const { return m_document; }
 
-    /// Does a change as one step with the text for menus; nothing happens when nothing changes. Steps with the same
+    /// Does a change as one step with the text for menus; nothing happens when nothing changes. Photos that nobody has
+    /// placed follow their frames (MvFotoAim). Steps with the same
     /// merge id, not negative, that follow each other within a second become one.
     void change(const MvCalendarDocument &after, const QString &text, int mergeId = -1);
     /// The same with one page, counted from 0; steps merge on the same page only.

@@ -89,6 +89,7 @@ MvFotoPool MvProjectElementReader::readPool(const QDomElement &element)
             item.size = {};
         item.captured = QDateTime::fromString(MvXMLParser::textAttribute(child, capturedKey), Qt::ISODateWithMs);
         item.focus = readFocus(child);
+        item.interest = MvFotoInterest::fromText(MvXMLParser::textAttribute(child, interestKey));
         if (!pool.add(item))
             m_notes.add(child, tr("Ein Foto ohne Datei, oder eines, das es schon gibt; es bleibt weg."));
     }

@@ -122,6 +122,7 @@ inline const QString veilKey = QStringLiteral("veil");
 
 inline const QString pool = QStringLiteral("photopool");
 inline const QString capturedKey = QStringLiteral("captured");
+inline const QString interestKey = QStringLiteral("interest");
 
 /// In the order of MvPageKind.
 inline const QStringList pageKinds = {QStringLiteral("month"), QStringLiteral("cover"), QStringLiteral("free"),

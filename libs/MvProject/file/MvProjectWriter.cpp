@@ -156,6 +156,7 @@ void MvProjectWriter::writePool(QDomElement &root, const MvFotoPool &pool)
         addIfAny(element, capturedKey, item.captured.toString(Qt::ISODateWithMs));
         MvXMLBuilder::addAttribute(element, focusXKey, item.focus.x());
         MvXMLBuilder::addAttribute(element, focusYKey, item.focus.y());
+        addIfAny(element, interestKey, item.interest.toText());
     }
 }
 

@@ -2,6 +2,7 @@
 #include "MvProject/MvFotoDistribution.h"
 
 #include "MvFoto/MvFotoResolution.h"
+#include "MvProject/MvFotoAim.h"
 
 #include <QHash>
 #include <QList>
@@ -172,6 +173,9 @@ bool Distribution::put(Frame &frame, const MvFotoPoolItem &item)
     foto.setPath(item.path);
     foto.setFocus(item.focus);
     frame.isEmpty = !m_document.setFoto(frame.id, foto);
+    if (!frame.isEmpty)
+        m_document.setFoto(frame.id, MvFotoAim::aimed(item, m_document.pages().at(frame.id.page), frame.id.element,
+                                                      m_document.format()));
     m_placed += frame.isEmpty ? 0 : 1;
     return !frame.isEmpty;
 }

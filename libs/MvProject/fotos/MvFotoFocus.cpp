@@ -26,6 +26,11 @@ constexpr double airOfTop = 0.04;
 constexpr double smooth = 1.5; // difference from pixel to pixel that is no detail
 constexpr int cells = 20;      // along the longer side
 
+constexpr double edgeOfThing = 0.3;  // of what its strongest cell has
+constexpr double leastOfThing = 0.5; // of all that stands out
+constexpr double largestThing = 0.5; // of the picture
+constexpr double ofThing = 1.5;
+
 /// A part of the picture that should be seen.
 struct Part
 {
@@ -34,8 +39,31 @@ struct Part
     bool isWhole = false; // a half of it is worth less than half
 };
 
-/// The picture's cells with what stands out in them.
-QList<Part> standingOut(const QImage &image)
+/// The picture's cells, row by row, with what stands out in them.
+struct Cells
+{
+    QSize grid;
+    QList<Part> parts;
+
+    double weight(int x, int y) const { return parts.at(y * grid.width() + x).weight; }
+};
+
+/// How much the brightness changes from pixel to pixel in a cell.
+double detailOf(const QImage &image, double scale, int cellX, int cellY)
+{
+    double sum = 0.0;
+    int pixels = 0;
+    for (int y = int(cellY * scale) + 1; y < std::min(int((cellY + 1) * scale), image.height() - 1); ++y) {
+        for (int x = int(cellX * scale) + 1; x < std::min(int((cellX + 1) * scale), image.width() - 1); ++x) {
+            sum += std::hypot(qGray(image.pixel(x + 1, y)) - qGray(image.pixel(x - 1, y)),
+                              qGray(image.pixel(x, y + 1)) - qGray(image.pixel(x, y - 1)));
+            ++pixels;
+        }
+    }
+    return sum / std::max(1, pixels);
+}
+
+Cells standingOut(const QImage &image)
 {
     const QImage small = image.scaled(cells, cells, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     double red = 0.0;
@@ -51,19 +79,7 @@ QList<Part> standingOut(const QImage &image)
         }
     }
     const double scale = double(image.width()) / small.width();
-    const auto detail = [&](int cellX, int cellY) {
-        double sum = 0.0;
-        int pixels = 0;
-        for (int y = int(cellY * scale) + 1; y < std::min(int((cellY + 1) * scale), image.height() - 1); ++y) {
-            for (int x = int(cellX * scale) + 1; x < std::min(int((cellX + 1) * scale), image.width() - 1); ++x) {
-                sum += std::hypot(qGray(image.pixel(x + 1, y)) - qGray(image.pixel(x - 1, y)),
-                                  qGray(image.pixel(x, y + 1)) - qGray(image.pixel(x, y - 1)));
-                ++pixels;
-            }
-        }
-        return sum / std::max(1, pixels);
-    };
-    QList<Part> parts;
+    Cells found{small.size(), {}};
     double mean = 0.0;
     for (int y = 0; y < small.height(); ++y) {
         for (int x = 0; x < small.width(); ++x) {
@@ -73,19 +89,19 @@ QList<Part> standingOut(const QImage &image)
                               1.0 / small.height());
             const QPointF away = rect.center() - QPointF(0.5, 0.5);
             const double middle = 1.0 - 1.2 * QPointF::dotProduct(away, away);
-            const double weight = middle * (unlike + 4.0) * std::max(0.0, detail(x, y) - smooth);
-            parts.append({rect, weight, false});
-            mean += weight / count;
+            const double detail = std::max(0.0, detailOf(image, scale, x, y) - smooth);
+            found.parts.append({rect, middle * (unlike + 4.0) * detail, false});
+            mean += found.parts.constLast().weight / count;
         }
     }
     double sum = 0.0;
-    for (Part &part : parts) { // what is everywhere does not stand out
+    for (Part &part : found.parts) { // what is everywhere does not stand out
         part.weight = std::max(0.0, part.weight - mean);
         sum += part.weight;
     }
-    for (Part &part : parts)
+    for (Part &part : found.parts)
         part.weight = sum > 0.0 ? part.weight / sum : 0.0;
-    return parts;
+    return found;
 }
 
 /// The upper end of it, with air above.
@@ -101,20 +117,85 @@ Part topOf(const QList<Part> &cellsByRow)
     return {QRectF(0.0, start, 1.0, heightOfTop), ofTop, true};
 }
 
-QList<Part> partsOf(const QImage &image)
+/// The one thing that stands out: cells that hang together around the strongest. Empty when they are spread over the
+/// picture, or hold too little of all.
+QRectF thingIn(const Cells &found)
+{
+    const auto smoothed = [&found](int x, int y) {
+        double sum = 0.0;
+        for (int v = std::max(0, y - 1); v <= std::min(found.grid.height() - 1, y + 1); ++v) {
+            for (int u = std::max(0, x - 1); u <= std::min(found.grid.width() - 1, x + 1); ++u)
+                sum += found.weight(u, v) * (u == x && v == y ? 2.0 : 1.0);
+        }
+        return sum;
+    };
+    QList<double> weights;
+    for (int y = 0; y < found.grid.height(); ++y) {
+        for (int x = 0; x < found.grid.width(); ++x)
+            weights.append(smoothed(x, y));
+    }
+    const auto strongest = std::max_element(weights.cbegin(), weights.cend());
+    const double least = strongest == weights.cend() ? 0.0 : edgeOfThing * *strongest;
+    if (!(least > 0.0))
+        return {};
+    QList<qsizetype> waiting{strongest - weights.cbegin()};
+    QRectF rect;
+    double held = 0.0;
+    while (!waiting.isEmpty()) {
+        const qsizetype cell = waiting.takeLast();
+        if (weights.at(cell) < least)
+            continue;
+        weights[cell] = 0.0; // seen
+        held += found.parts.at(cell).weight;
+        rect |= found.parts.at(cell).rect;
+        const int x = int(cell % found.grid.width());
+        const int y = int(cell / found.grid.width());
+        for (const QPoint &next : {QPoint(x - 1, y), QPoint(x + 1, y), QPoint(x, y - 1), QPoint(x, y + 1)}) {
+            if (QRect(QPoint(), found.grid).contains(next))
+                waiting.append(next.y() * found.grid.width() + next.x());
+        }
+    }
+    const bool isOne = held >= leastOfThing && rect.width() * rect.height() <= largestThing;
+    return isOne ? rect.adjusted(-airOfTop / 2.0, -airOfTop, airOfTop / 2.0, 0.0) & QRectF(0.0, 0.0, 1.0, 1.0)
+                 : QRectF();
+}
+
+/// What is to be seen, for any frame.
+struct Sight
 {
     QList<Part> parts;
+    MvFotoInterest interest;
+};
+
+Sight sightOf(const QImage &image)
+{
+    Sight sight;
+    QList<MvFotoInterest::Part> wholes;
     for (const MvFotoFace &face : MvFotoFaces::in(image)) {
-        parts.append({face.face, ofFace * face.score, true});
-        parts.append({face.head, ofHead * face.score, true});
+        sight.parts.append({face.face, ofFace * face.score, true});
+        sight.parts.append({face.head, ofHead * face.score, true});
+        wholes.append({face.face, ofFace * face.score});
+        wholes.append({face.head, ofHead * face.score});
     }
-    if (!parts.isEmpty())
-        return parts;
-    parts = standingOut(image);
-    const bool isAny = std::any_of(parts.cbegin(), parts.cend(), [](const Part &part) { return part.weight > 0.0; });
-    if (isAny)
-        parts.append(topOf(parts));
-    return parts;
+    if (!wholes.isEmpty()) {
+        sight.interest = MvFotoInterest(wholes);
+        return sight;
+    }
+    const Cells found = standingOut(image);
+    sight.parts = found.parts;
+    QList<double> amounts;
+    for (const Part &part : found.parts)
+        amounts.append(part.weight);
+    if (std::none_of(amounts.cbegin(), amounts.cend(), [](double amount) { return amount > 0.0; }))
+        return sight;
+    const Part top = topOf(found.parts);
+    sight.parts.append(top);
+    if (const QRectF thing = thingIn(found); !thing.isEmpty()) {
+        wholes.append({thing, ofThing});
+        wholes.append({thing & top.rect, ofTop});
+    }
+    sight.interest = MvFotoInterest(wholes, found.grid, amounts);
+    return sight;
 }
 
 QPointF middleOf(const QList<Part> &parts)
@@ -176,10 +257,10 @@ double bestPlace(const QList<Span> &spans, const QList<double> &shown, double us
 
 } // namespace
 
-QPointF MvFotoFocus::of(const QImage &image)
+MvFotoFocus::Found MvFotoFocus::in(const QImage &image)
 {
     if (image.isNull())
-        return {0.5, 0.5};
+        return {};
     const bool isLarge = image.width() > side || image.height() > side;
     const QImage small = (isLarge ? image.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation) : image)
                              .convertToFormat(QImage::Format_RGB32);
@@ -187,10 +268,10 @@ QPointF MvFotoFocus::of(const QImage &image)
     QList<Span> down;
     const double shape = double(small.width()) / small.height();
     QPointF usual(0.5, shape < 1.0 ? headOfUpright : 0.5);
-    const QList<Part> parts = partsOf(small);
-    if (parts.size() > 1 && parts.constFirst().isWhole)
-        usual = middleOf(parts);
-    for (const Part &part : parts) {
+    const Sight sight = sightOf(small);
+    if (sight.parts.size() > 1 && sight.parts.constFirst().isWhole)
+        usual = middleOf(sight.parts);
+    for (const Part &part : sight.parts) {
         if (part.weight <= 0.0 || part.rect.isEmpty())
             continue;
         across.append({part.rect.left(), part.rect.right(), part.weight, part.isWhole});
@@ -204,5 +285,5 @@ QPointF MvFotoFocus::of(const QImage &image)
         else
             heights.append(shape / frame);
     }
-    return {bestPlace(across, widths, usual.x()), bestPlace(down, heights, usual.y())};
+    return {{bestPlace(across, widths, usual.x()), bestPlace(down, heights, usual.y())}, sight.interest};
 }

@@ -48,7 +48,8 @@ Taken take(const QFileInfo &file)
     const QImage image = MvImageLoader::instance().loadUncached(file, small);
     if (image.isNull())
         return {{}, {path, Reason::Broken, MvImageLoader::instance().error(file)}};
-    return {MvFotoPoolItem{path, facts.size, facts.captured, MvFotoFocus::of(image)}, {}};
+    const MvFotoFocus::Found found = MvFotoFocus::in(image);
+    return {MvFotoPoolItem{path, facts.size, facts.captured, found.point, found.interest}, {}};
 }
 
 /// Has several threads take the files, and this one wait for them. Files that were not reached have neither item nor

@@ -19,6 +19,7 @@ struct MvTemplateDesign
     QString id;
     MvPageKind kind = MvPageKind::Month;
     MvLocalizedText name;
+    bool isBoundAtFoot = false; // of pages that hang above another one, where that is bound at its head
     QMap<MvPageFormat::Shape, QList<MvTemplateRule>> divisions; // every shape has one
 
     MvPageTemplate dressed(const MvTemplateStyle &style) const;

@@ -71,6 +71,10 @@ std::optional<MvTemplateDesign> MvTemplateReader::readDesign(const QDomElement &
         design.kind = *known;
     else
         tell(element, tr("die Art (kind) „%1“ gibt es nicht; möglich sind month, cover, free und back").arg(kind));
+    const QString bound = element.attribute(u"bound"_s);
+    design.isBoundAtFoot = bound == "foot"_L1;
+    if (!bound.isEmpty() && !design.isBoundAtFoot)
+        tell(element, tr("die Bindung (bound) „%1“ gibt es nicht; möglich ist foot").arg(bound));
     for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
         readDivision(child, design);
     if (m_isWhole)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvThemeApplication.h"
 
+#include "MvProject/MvFotoAim.h"
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvThemeRegistry.h"
 
@@ -35,7 +36,7 @@ MvCalendarDocument MvThemeApplication::applied(const MvCalendarDocument &documen
         month += isMonth ? 1 : 0;
     }
     themed.setThemeId(theme.id());
-    return themed;
+    return MvFotoAim::followed(document, themed);
 }
 
 MvCalendarPage MvThemeApplication::applied(const MvCalendarPage &page, const MvCalendarTheme &theme,

@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProjectFixture.h"
+#include "MvTest.h"
+
+#include "MvProject/MvFotoAim.h"
+#include "MvProject/MvFotoDistribution.h"
+#include "MvProject/MvThemeApplication.h"
+
+#include <QRandomGenerator>
+
+using namespace Qt::StringLiterals;
+
+/// What is worth seeing of a photo stands where nothing covers it, in each frame that the photo comes into.
+class tst_MvFotoAim : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsWhatMatters_data();
+    void showsWhatMatters();
+    void followsItsFrame();
+    void interestSurvivesFiles_data();
+    void interestSurvivesFiles();
+};
+
+namespace {
+
+/// A face in parts of the photo.
+MvFotoPoolItem photoWith(const QRectF &face, const QSize &size)
+{
+    return {u"/fotos/a.jpg"_s, size, {}, face.center(), MvFotoInterest({{face, 3.0}})};
+}
+
+MvPageElement words(const QRectF &rect)
+{
+    return {rect, MvTextElement(u"Sommer"_s)};
+}
+
+/// Where a part of the photo stands on the page.
+QRectF onPage(const MvPageElement &frame, const QRectF &part, const QSize &size)
+{
+    const QRectF pixels(part.x() * size.width(), part.y() * size.height(), part.width() * size.width(),
+                        part.height() * size.height());
+    return frame.foto()->transform(size, frame.rect().size()).mapRect(pixels).translated(frame.rect().topLeft());
+}
+
+QRectF facesOf(const MvCalendarDocument &document, int page, const QRectF &face, const QSize &size)
+{
+    for (const MvPageElement &element : document.pages().at(page).elementsOn(document.format())) {
+        if (element.foto() && !element.foto()->isEmpty())
+            return onPage(element, face, size);
+    }
+    return {};
+}
+
+const QSize wide(3000, 2000);
+const QSize upright(2000, 3000);
+
+} // namespace
+
+void tst_MvFotoAim::showsWhatMatters_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QRectF>("face");
+    QTest::addColumn<QRectF>("frame"); // on A5 landscape, 2100 by 1480
+    QTest::addColumn<QList<MvPageElement>>("above");
+    QTest::addColumn<QRectF>("seen"); // where the face is to be
+    using Elements = QList<MvPageElement>;
+    const QRectF page(-30, -30, 2160, 1540);
+    QTest::newRow("a strip at the foot") << upright << QRectF(0.4, 0.55, 0.15, 0.2) << page
+                                         << Elements{words({100, 1080, 1900, 300})} << QRectF(0, 0, 2100, 1080);
+    QTest::newRow("a month at the foot") << upright << QRectF(0.4, 0.6, 0.3, 0.15) << page
+                                         << Elements{{{60, 980, 1980, 440}, MvCalendariumElement()}}
+                                         << QRectF(0, 0, 2100, 980);
+    QTest::newRow("a list at the right") << wide << QRectF(0.45, 0.3, 0.14, 0.25) << page
+                                         << Elements{words({1300, 60, 740, 1360})} << QRectF(0, 0, 1300, 1480);
+    QTest::newRow("a month in a corner") << wide << QRectF(0.2, 0.6, 0.15, 0.2) << QRectF(0, 0, 2100, 1100)
+                                         << Elements{words({1050, 600, 1000, 480})} << QRectF(0, 0, 2100, 1100);
+    QTest::newRow("a photo above it") << wide << QRectF(0.1, 0.5, 0.1, 0.2) << QRectF(0, 0, 2100, 900)
+                                      << Elements{{{0, 500, 800, 400}, MvFotoElement(u"/b.jpg"_s)}}
+                                      << QRectF(0, 0, 2100, 900);
+    QTest::newRow("nothing above, narrow")
+        << wide << QRectF(0.7, 0.2, 0.15, 0.3) << QRectF(0, 0, 500, 1400) << Elements{} << QRectF(0, 0, 500, 1400);
+    QTest::newRow("nothing above, wide") << upright << QRectF(0.3, 0.1, 0.3, 0.12) << QRectF(0, 0, 2100, 800)
+                                         << Elements{} << QRectF(0, 0, 2100, 800);
+}
+
+void tst_MvFotoAim::showsWhatMatters()
+{
+    QFETCH(QSize, size);
+    QFETCH(QRectF, face);
+    QFETCH(QRectF, frame);
+    QFETCH(QList<MvPageElement>, above);
+    QFETCH(QRectF, seen);
+    const MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 1);
+    const MvFotoPoolItem photo = photoWith(face, size);
+    for (const double zoom : {1.0, 1.5}) {
+        MvFotoElement foto(photo.path);
+        foto.setZoom(zoom);
+        MvCalendarPage page = document.pages().constFirst();
+        page.setElements(QList<MvPageElement>{{frame, foto}} + above);
+        const MvPageElement aimed(frame, MvFotoAim::aimed(photo, page, 0, document.format()));
+        const QRectF stands = onPage(aimed, face, size);
+        QVERIFY2(seen.adjusted(-1, -1, 1, 1).contains(stands), qPrintable(QDebug::toString(stands)));
+        for (const MvPageElement &element : above)
+            QVERIFY2(!element.rect().intersects(stands), qPrintable(QDebug::toString(stands)));
+    }
+}
+
+/// From template to template and from paper to paper; what a hand has placed stays.
+void tst_MvFotoAim::followsItsFrame()
+{
+    const QRectF face(0.3, 0.3, 0.1, 0.2);
+    MvCalendarDocument calendar = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 2);
+    const auto divided = [](MvCalendarDocument document, const QString &id) {
+        const MvCalendarDocument before = document;
+        for (int number = 0; number < document.pages().size(); ++number) {
+            MvCalendarPage page = document.pages().at(number);
+            page.setTemplate(MvThemeApplication::pageTemplate({}, id), document.format());
+            document.setPage(number, page);
+        }
+        return MvFotoAim::followed(before, document);
+    };
+    MvFotoPool pool;
+    pool.add(photoWith(face, wide));
+    MvFotoPoolItem other = photoWith(face, wide);
+    other.path = u"/fotos/b.jpg"_s;
+    pool.add(other);
+    calendar.setFotoPool(pool);
+    calendar = MvFotoDistribution::distribute(divided(calendar, u"MONTH_ABOVE"_s)).document;
+    MvFotoElement placed = calendar.foto({1, 0});
+    QVERIFY(!placed.isEmpty() && !calendar.foto({0, 0}).isEmpty());
+    placed.setFocus({0.2, 0.2});
+    calendar.setFoto({1, 0}, placed);
+
+    MvPageFormat square = MvPageFormat::fromName(u"square-210"_s);
+    const auto isSeen = [&face](const MvCalendarDocument &document) {
+        const QRectF stands = facesOf(document, 0, face, wide);
+        const QRectF month = document.pages().at(0).calendariumRect(document.format());
+        return document.format().trimRect().contains(stands) && !month.intersects(stands);
+    };
+    QVERIFY(isSeen(calendar));
+    for (const QString &id : {u"MONTH_FULL_STRIP"_s, u"MONTH_FULL_LIST"_s, u"MONTH_FULL_CORNER"_s, u"MONTH_LEFT"_s}) {
+        QVERIFY2(MvThemeApplication::pageTemplate({}, id).isValid(), qPrintable(id));
+        MvCalendarDocument changed = divided(calendar, id);
+        QVERIFY2(isSeen(changed), qPrintable(id));
+        QCOMPARE(changed.foto({1, 0}).focus(), placed.focus());
+        changed.setFormat(square);
+        QVERIFY2(isSeen(changed), qPrintable(id));
+        QCOMPARE(changed.foto({1, 0}).focus(), placed.focus());
+    }
+}
+
+void tst_MvFotoAim::interestSurvivesFiles_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("isKnown");
+    QTest::newRow("faces") << u"100,200,300,400,3000;500,0,500,1000,1500"_s << true;
+    QTest::newRow("cells") << u"0,0,500,500,1000;2*2:0af1"_s << true;
+    QTest::newRow("none") << QString() << false;
+    QTest::newRow("outside") << u"-500,0,400,100,1000"_s << false;
+    QTest::newRow("beyond numbers") << u"1,2,99999999999999999999,x,nan;5*5"_s << false;
+    QTest::newRow("too few cells") << u"9*9:1"_s << false;
+    QTest::newRow("too many cells") << u"40*40:"_s + QString(1600, u'1') << false;
+    QTest::newRow("no digits") << u"2*1:zz"_s << false;
+}
+
+void tst_MvFotoAim::interestSurvivesFiles()
+{
+    QFETCH(QString, text);
+    QTEST(!MvFotoInterest::fromText(text).isEmpty(), "isKnown");
+    const MvFotoInterest known = MvFotoInterest::fromText(text);
+    QCOMPARE(MvFotoInterest::fromText(known.toText()), known);
+    QRandomGenerator random(7);
+    for (int i = 0; i < 50; ++i) { // what no file should hold is taken for nothing worse than something else
+        QString broken = text;
+        for (QChar &c : broken)
+            c = random.bounded(4) == 0 ? QChar(random.bounded(32, 127)) : c;
+        const MvFotoInterest read = MvFotoInterest::fromText(broken);
+        QCOMPARE(MvFotoInterest::fromText(read.toText()), read);
+    }
+}
+
+MV_TEST_MAIN(tst_MvFotoAim)
+#include "tst_MvFotoAim.moc"
