@@ -43,6 +43,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <QToolTip>
+#include <QTreeView>
 
 #include <cstdio>
 
@@ -120,7 +121,8 @@ private:
     void columnsEmpty() { openPanel("columnHeadersPanel"); }
     void entries() { openPanel("entriesPanel"); }
     void entriesEmpty();
-    void entriesHover();
+    void entriesGrouped();
+    void groups();
     void entriesMenu();
     void entriesTake();
     void year();
@@ -208,7 +210,8 @@ QList<Screenshots::State> Screenshots::states()
         {"columns-empty", &S::columnsEmpty, settling},
         {"entries", &S::entries, settling},
         {"entries-empty", &S::entriesEmpty, settling},
-        {"entries-hover", &S::entriesHover, settling},
+        {"entries-grouped", &S::entriesGrouped, settling},
+        {"groups", &S::groups, settling},
         {"entries-menu", &S::entriesMenu, settling},
         {"entries-take", &S::entriesTake, settling},
         {"day-focus", &S::dayFocus, settling},
@@ -567,12 +570,32 @@ void Screenshots::entriesEmpty()
     entries();
 }
 
-void Screenshots::entriesHover()
+/// Several of three groups, chosen.
+void Screenshots::entriesGrouped()
 {
+    MvCalendarEventList events = MvCalendarEventRegistry::instance().activeEventList();
+    const QStringList names{u"Familie"_s, u"Verein"_s, u"Klasse 5b"_s};
+    const QList<QColor> colors{0xC0392B, 0x1F6FB2, 0x2E7D32};
+    QStringList ids;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        ids.append(events.groups().idOfName(names.at(i)));
+        events.groups().last().color = colors.at(i);
+    }
+    for (qsizetype i = 0; i < events.size(); ++i)
+        events[i].setGroups(i % 3 == 2 ? ids : QStringList{ids.at(i % 3)});
+    MvCalendarEventRegistry::instance().setEvents(events);
     entries();
     QTest::qWait(settling);
-    auto *table = find<QTableView>("eventTableView");
-    QCursor::setPos(table->viewport()->mapToGlobal(table->visualRect(table->model()->index(2, 1)).center()));
+    auto *table = find<QTreeView>("entryTable");
+    for (const int row : {1, 2, 4})
+        table->selectionModel()->select(table->model()->index(row, 0),
+                                        QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+void Screenshots::groups()
+{
+    entriesGrouped();
+    trigger("groups");
 }
 
 void Screenshots::entriesMenu()

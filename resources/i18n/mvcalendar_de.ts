@@ -121,6 +121,40 @@
     </message>
 </context>
 <context>
+    <name>MvEntryList</name>
+    <message numerus="yes">
+        <source>%n Einträge</source>
+        <translation>
+            <numerusform>%n Eintrag</numerusform>
+            <numerusform>%n Einträge</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %n Einträgen</source>
+        <translation>
+            <numerusform>%1 von %n Eintrag</numerusform>
+            <numerusform>%1 von %n Einträgen</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ausgewählt</source>
+        <translation>
+            <numerusform>%n ausgewählt</numerusform>
+            <numerusform>%n ausgewählt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryShiftDialog</name>
+    <message numerus="yes">
+        <source>%n Einträge verschieben</source>
+        <translation>
+            <numerusform>%n Eintrag verschieben</numerusform>
+            <numerusform>%n Einträge verschieben</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvEntryTableDialog</name>
     <message numerus="yes">
         <source>%n Einträge am Anfang der Datei</source>
@@ -263,6 +297,16 @@
         <translation>
             <numerusform>%1, einmal auf den Seiten</numerusform>
             <numerusform>%1, %n-mal auf den Seiten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvGroupsDialog</name>
+    <message numerus="yes">
+        <source>%n Einträge gehören zu ihr. Sie bleiben im Kalender und verlieren nur diese Gruppe.</source>
+        <translation>
+            <numerusform>%n Eintrag gehört zu ihr. Er bleibt im Kalender und verliert nur diese Gruppe.</numerusform>
+            <numerusform>%n Einträge gehören zu ihr. Sie bleiben im Kalender und verlieren nur diese Gruppe.</numerusform>
         </translation>
     </message>
 </context>

@@ -1577,6 +1577,18 @@
         <source>Spaltenüberschriften ändern</source>
         <translation>Change column headings</translation>
     </message>
+    <message>
+        <source>Spalten aus den Gruppen</source>
+        <translation>Columns from the groups</translation>
+    </message>
+    <message>
+        <source>Eine Spalte für jede Gruppe, die der Kalender zeigt; ihre Einträge stehen dann darin</source>
+        <translation>A column for each group that the calendar shows; its entries then stand in it</translation>
+    </message>
+    <message>
+        <source>Der Kalender zeigt noch keine Gruppe von Einträgen.</source>
+        <translation>The calendar does not show any group of entries yet.</translation>
+    </message>
 </context>
 <context>
     <name>MvCommonValue</name>
@@ -1634,6 +1646,14 @@
     <message>
         <source>Nur ges&amp;etzliche Feiertage</source>
         <translation>Only p&amp;ublic holidays</translation>
+    </message>
+    <message>
+        <source>Gruppen und Alter …</source>
+        <translation>Groups and ages …</translation>
+    </message>
+    <message>
+        <source>Welche Gruppen von Einträgen der Kalender zeigt, in welchen Farben und mit welchem Alter</source>
+        <translation>Which groups of entries the calendar shows, in which colours and with which ages</translation>
     </message>
 </context>
 <context>
@@ -1892,6 +1912,13 @@
     </message>
 </context>
 <context>
+    <name>MvEntriesPanel</name>
+    <message>
+        <source>„%1“ kommt in den Monaten dieses Kalenders nicht vor.</source>
+        <translation>“%1” does not occur in the months of this calendar.</translation>
+    </message>
+</context>
+<context>
     <name>MvEntryBubble</name>
     <message>
         <source>Was ist an diesem Tag?</source>
@@ -1976,6 +2003,21 @@
     <message>
         <source>„%1“ ist gelöscht.</source>
         <translation>“%1” has been deleted.</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryEdits</name>
+    <message>
+        <source>Einträge löschen</source>
+        <translation>Delete entries</translation>
+    </message>
+    <message>
+        <source>Gruppe von Einträgen ändern</source>
+        <translation>Change group of entries</translation>
+    </message>
+    <message>
+        <source>Einträge verschieben</source>
+        <translation>Shift entries</translation>
     </message>
 </context>
 <context>
@@ -2089,6 +2131,184 @@
     </message>
 </context>
 <context>
+    <name>MvEntryList</name>
+    <message>
+        <source>Suchen</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Einträge suchen</source>
+        <translation>Search entries</translation>
+    </message>
+    <message>
+        <source>Einträge welcher Gruppe</source>
+        <translation>Entries of which group</translation>
+    </message>
+    <message>
+        <source>Gruppen …</source>
+        <translation>Groups …</translation>
+    </message>
+    <message>
+        <source>Gruppen benennen, färben und ordnen, und welche der Kalender zeigt</source>
+        <translation>Name, colour and order groups, and which of them the calendar shows</translation>
+    </message>
+    <message>
+        <source>Einträge</source>
+        <translation>Entries</translation>
+    </message>
+    <message>
+        <source>Tag zeigen</source>
+        <translation>Show day</translation>
+    </message>
+    <message>
+        <source>Bearbeiten …</source>
+        <translation>Edit …</translation>
+    </message>
+    <message>
+        <source>Verschieben …</source>
+        <translation>Shift …</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Gruppe</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>Gruppe der ausgewählten Einträge</source>
+        <translation>Group of the chosen entries</translation>
+    </message>
+    <message>
+        <source>Alle</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>Ohne Gruppe</source>
+        <translation>Without group</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge</source>
+        <translation>
+            <numerusform>%n entry</numerusform>
+            <numerusform>%n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 von %n Einträgen</source>
+        <translation>
+            <numerusform>%1 of %n entry</numerusform>
+            <numerusform>%1 of %n entries</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n ausgewählt</source>
+        <translation>
+            <numerusform>%n chosen</numerusform>
+            <numerusform>%n chosen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kein Eintrag passt zu Suche und Gruppe.</source>
+        <translation>No entry fits search and group.</translation>
+    </message>
+    <message>
+        <source>Noch keine Einträge. Fügen Sie Geburtstage, Jahrestage und andere Termine hinzu, und sie erscheinen in Ihrem Kalender.</source>
+        <translation>No entries yet. Add birthdays, anniversaries and other dates, and they appear in your calendar.</translation>
+    </message>
+    <message>
+        <source>In Gruppe verschieben</source>
+        <translation>Move to group</translation>
+    </message>
+    <message>
+        <source>Neue Gruppe …</source>
+        <translation>New group …</translation>
+    </message>
+    <message>
+        <source>Zu Gruppe hinzufügen</source>
+        <translation>Add to group</translation>
+    </message>
+    <message>
+        <source>Aus Gruppe nehmen</source>
+        <translation>Take out of group</translation>
+    </message>
+    <message>
+        <source>Neue Gruppe</source>
+        <translation>New group</translation>
+    </message>
+    <message>
+        <source>Name der Gruppe:</source>
+        <translation>Name of the group:</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryListModel</name>
+    <message>
+        <source>%1 bis %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>, %1 Uhr</source>
+        <translation>, %1</translation>
+    </message>
+    <message>
+        <source>jedes Jahr</source>
+        <translation>every year</translation>
+    </message>
+    <message>
+        <source>einmal</source>
+        <translation>once</translation>
+    </message>
+    <message>
+        <source>Eintrag</source>
+        <translation>Entry</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Gruppe</source>
+        <translation>Group</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryPatternEdit</name>
+    <message>
+        <source>Jörg</source>
+        <translation>Jörg</translation>
+    </message>
+    <message>
+        <source>%1 wird %2</source>
+        <translation>%1 turns %2</translation>
+    </message>
+    <message>
+        <source>%1, %2 Jahre</source>
+        <translation>%1, %2 years</translation>
+    </message>
+    <message>
+        <source>%1 seit %2</source>
+        <translation>%1 since %2</translation>
+    </message>
+    <message>
+        <source>Nur der Name</source>
+        <translation>The name alone</translation>
+    </message>
+    <message>
+        <source>Eigene Form …</source>
+        <translation>Own form …</translation>
+    </message>
+    <message>
+        <source>Eigene Form mit %name, %age und %year</source>
+        <translation>Own form with %name, %age and %year</translation>
+    </message>
+    <message>
+        <source>%name ist der Name, %age das Alter oder die Zahl der Jahre, %year das Jahr des Eintrags. Ohne bekanntes Jahr steht der Name allein.</source>
+        <translation>%name is the name, %age the age or the number of years, %year the year of the entry. Where no year is known the name stands alone.</translation>
+    </message>
+</context>
+<context>
     <name>MvEntryQuestion</name>
     <message>
         <source>Eintrag, der sich wiederholt</source>
@@ -2137,6 +2357,40 @@
     <message>
         <source>Alle löschen</source>
         <translation>Delete all</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntryShiftDialog</name>
+    <message numerus="yes">
+        <source>%n Einträge verschieben</source>
+        <translation>
+            <numerusform>Shift %n entry</numerusform>
+            <numerusform>Shift %n entries</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Jahre:</source>
+        <translation>&amp;Years:</translation>
+    </message>
+    <message>
+        <source>&amp;Tage:</source>
+        <translation>&amp;Days:</translation>
+    </message>
+    <message>
+        <source>Vorwärts, mit einem Minus rückwärts. Was sich nach Wochentagen wiederholt, behält bei Jahren seinen Wochentag; wo kein Jahr bekannt ist, zählen nur die Tage.</source>
+        <translation>Forwards, with a minus backwards. What repeats by weekdays keeps its weekday when it is shifted by years; where no year is known only the days count.</translation>
+    </message>
+    <message>
+        <source>Verschieben</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>„%1“: %2 → %3</source>
+        <translation>“%1”: %2 → %3</translation>
     </message>
 </context>
 <context>
@@ -3552,6 +3806,219 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Klicken um eigenen Eintrag am %1 zu erstellen</source>
         <translation>Click to create an entry of your own on %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvGroupEdits</name>
+    <message>
+        <source>Neue Gruppe</source>
+        <translation>New group</translation>
+    </message>
+    <message>
+        <source>Neue Gruppe %1</source>
+        <translation>New group %1</translation>
+    </message>
+    <message>
+        <source>Gruppe anlegen</source>
+        <translation>Create group</translation>
+    </message>
+    <message>
+        <source>Gruppe umbenennen</source>
+        <translation>Rename group</translation>
+    </message>
+    <message>
+        <source>Gruppe entfernen</source>
+        <translation>Remove group</translation>
+    </message>
+    <message>
+        <source>Gruppen ordnen</source>
+        <translation>Order groups</translation>
+    </message>
+    <message>
+        <source>Gruppe einblenden</source>
+        <translation>Show group</translation>
+    </message>
+    <message>
+        <source>Gruppe ausblenden</source>
+        <translation>Hide group</translation>
+    </message>
+    <message>
+        <source>Spalten aus den Gruppen</source>
+        <translation>Columns from the groups</translation>
+    </message>
+</context>
+<context>
+    <name>MvGroupsDialog</name>
+    <message>
+        <source>Gruppen und Alter</source>
+        <translation>Groups and ages</translation>
+    </message>
+    <message>
+        <source>Gruppen, angekreuzt, wenn der Kalender sie zeigt</source>
+        <translation>Groups, ticked when the calendar shows them</translation>
+    </message>
+    <message>
+        <source>Der Kalender zeigt, was angekreuzt ist.</source>
+        <translation>The calendar shows what is ticked.</translation>
+    </message>
+    <message>
+        <source>Neu</source>
+        <translation>New</translation>
+    </message>
+    <message>
+        <source>Neue Gruppe</source>
+        <translation>New group</translation>
+    </message>
+    <message>
+        <source>Entfernen …</source>
+        <translation>Remove …</translation>
+    </message>
+    <message>
+        <source>Die Gruppe entfernen; ihre Einträge bleiben im Kalender</source>
+        <translation>Remove the group; its entries stay in the calendar</translation>
+    </message>
+    <message>
+        <source>Gruppe nach oben</source>
+        <translation>Group up</translation>
+    </message>
+    <message>
+        <source>Gruppe nach unten</source>
+        <translation>Group down</translation>
+    </message>
+    <message>
+        <source>Eigene</source>
+        <translation>Its own</translation>
+    </message>
+    <message>
+        <source>Ohne eigene Farbe haben die Einträge der Gruppe die der Seite</source>
+        <translation>Without a colour of its own the entries of the group have that of the page</translation>
+    </message>
+    <message>
+        <source>Farbe der Gruppe</source>
+        <translation>Colour of the group</translation>
+    </message>
+    <message>
+        <source>Lesbaren Ton nehmen</source>
+        <translation>Take readable tone</translation>
+    </message>
+    <message>
+        <source>keines</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>Steht vor den Einträgen der Gruppe, ein Zeichen wie ♥ oder ★</source>
+        <translation>Stands before the entries of the group, a sign such as ♥ or ★</translation>
+    </message>
+    <message>
+        <source>Wie im ganzen Kalender</source>
+        <translation>As in the whole calendar</translation>
+    </message>
+    <message>
+        <source>So lesen sich Einträge der Gruppe</source>
+        <translation>How entries of the group read</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Farbe:</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>Zeichen:</source>
+        <translation>Sign:</translation>
+    </message>
+    <message>
+        <source>Alter:</source>
+        <translation>Age:</translation>
+    </message>
+    <message>
+        <source>Ganzer Kalender</source>
+        <translation>Whole calendar</translation>
+    </message>
+    <message>
+        <source>Ohne Alter</source>
+        <translation>Without age</translation>
+    </message>
+    <message>
+        <source>So lesen sich die Einträge</source>
+        <translation>How the entries read</translation>
+    </message>
+    <message>
+        <source>Uhrzeiten vor die Einträge schreiben</source>
+        <translation>Write times before the entries</translation>
+    </message>
+    <message>
+        <source>Farbe der Gruppe ändern</source>
+        <translation>Change colour of group</translation>
+    </message>
+    <message>
+        <source>Zeichen der Gruppe ändern</source>
+        <translation>Change sign of group</translation>
+    </message>
+    <message>
+        <source>Alter in der Gruppe ändern</source>
+        <translation>Change ages in group</translation>
+    </message>
+    <message>
+        <source>Alter im Kalender ändern</source>
+        <translation>Change ages in calendar</translation>
+    </message>
+    <message>
+        <source>Uhrzeiten ein- oder ausblenden</source>
+        <translation>Show or hide times</translation>
+    </message>
+    <message>
+        <source>Auf allen Tagen gut zu lesen (Kontrast %1 : 1).</source>
+        <translation>Easy to read on all days (contrast %1 : 1).</translation>
+    </message>
+    <message>
+        <source>Schwer zu lesen (Kontrast %1 : 1, gut sind %2 : 1): %3.</source>
+        <translation>Hard to read (contrast %1 : 1, good is %2 : 1): %3.</translation>
+    </message>
+    <message>
+        <source>Gedruckt wird sie dort abgetönt.</source>
+        <translation>It is printed in another tone there.</translation>
+    </message>
+    <message>
+        <source>In keiner Helligkeit passt sie zu hellen und dunklen Tagen zugleich; gedruckt wird sie dort abgetönt.</source>
+        <translation>In no lightness does it fit light and dark days alike; it is printed in another tone there.</translation>
+    </message>
+    <message>
+        <source>So steht es da: %1</source>
+        <translation>It reads: %1</translation>
+    </message>
+    <message>
+        <source>Eine Gruppe braucht einen Namen.</source>
+        <translation>A group needs a name.</translation>
+    </message>
+    <message>
+        <source>Eine Gruppe „%1“ gibt es schon.</source>
+        <translation>There is a group “%1” already.</translation>
+    </message>
+    <message>
+        <source>Gruppe entfernen?</source>
+        <translation>Remove group?</translation>
+    </message>
+    <message>
+        <source>Die Gruppe „%1“ entfernen?</source>
+        <translation>Remove the group “%1”?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Einträge gehören zu ihr. Sie bleiben im Kalender und verlieren nur diese Gruppe.</source>
+        <translation>
+            <numerusform>%n entry belongs to it. It stays in the calendar and only loses this group.</numerusform>
+            <numerusform>%n entries belong to it. They stay in the calendar and only lose this group.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Entfernen</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -6442,6 +6909,14 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>Termine aus einem Kalender (iCalendar), einer Tabelle oder einer Liste übernehmen</source>
         <translation>Take over dates from a calendar (iCalendar), a table or a list</translation>
+    </message>
+    <message>
+        <source>&amp;Gruppen und Alter …</source>
+        <translation>&amp;Groups and Ages …</translation>
+    </message>
+    <message>
+        <source>Einträge zu Gruppen mit Farben ordnen, und wählen, welche der Kalender zeigt</source>
+        <translation>Put entries into groups with colours, and choose which of them the calendar shows</translation>
     </message>
 </context>
 <context>

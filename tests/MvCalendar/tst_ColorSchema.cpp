@@ -3,8 +3,10 @@
 #include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarCellColorInfo.h"
+#include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
+#include "MvCalendar/MvDayGrounds.h"
 #include "MvCalendar/MvUserColorSchemata.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvTranslations.h"
@@ -95,6 +97,8 @@ private Q_SLOTS:
     void idsOfEqualColoursAreKept();
     void userSchemata();
     void shippedSchemata();
+    void groundsOfDays_data();
+    void groundsOfDays();
 };
 
 void tst_ColorSchema::readsCells_data()
@@ -412,6 +416,45 @@ void tst_ColorSchema::shippedSchemata()
             }
         }
     }
+}
+
+void tst_ColorSchema::groundsOfDays_data()
+{
+    QTest::addColumn<QList<QColor>>("papers");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<QColor>("nearest"); // by hand, from the formula of the contrast
+    const QColor white = Qt::white;
+    const QColor black = Qt::black;
+    const QColor none;
+    QTest::newRow("no page") << QList<QColor>() << QColor(Qt::yellow) << QColor(Qt::yellow);
+    QTest::newRow("dark on white") << QList<QColor>{white} << QColor(0x1F6FB2) << QColor(0x1F6FB2);
+    QTest::newRow("grey on white") << QList<QColor>{white} << QColor(0x808080) << QColor(0x767676); // 4.54 : 1
+    QTest::newRow("blue on black") << QList<QColor>{black} << QColor(0x0000C0) << QColor(0x5C5CFF);
+    QTest::newRow("light and dark") << QList<QColor>{white, QColor(0x404040)} << QColor(0x777777) << none;
+}
+
+/// Of a schema that lets the paper through.
+void tst_ColorSchema::groundsOfDays()
+{
+    QFETCH(QList<QColor>, papers);
+    QFETCH(QColor, color);
+    QFETCH(QColor, nearest);
+    MvCalendariumColorSchema clear;
+    clear.setCellColor(Qt::transparent, {background, MvCalendarCellType::allTypes(), both});
+    MvCalendariumAppearance appearance;
+    appearance.setColorSchema(clear);
+    MvDayGrounds grounds;
+    for (const QColor &paper : papers)
+        grounds.add(appearance, paper);
+    const QColor found = grounds.nearestReadable(color);
+    QCOMPARE(found.isValid(), nearest.isValid());
+    if (!nearest.isValid())
+        return;
+    constexpr int step = 4; // of 255: lightness is tried by hundredths
+    QVERIFY2(std::abs(found.lightness() - nearest.lightness()) <= step, qPrintable(hex(found)));
+    QVERIFY(std::abs(found.hslHue() - color.hslHue()) <= 1);
+    QVERIFY(grounds.contrast(found) >= MvDayGrounds::readableContrast || papers.isEmpty());
+    QCOMPARE(grounds.unreadableOn(color).isEmpty(), found == color);
 }
 
 MV_TEST_MAIN(tst_ColorSchema)

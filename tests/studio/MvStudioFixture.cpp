@@ -62,6 +62,7 @@ MvStudioFixture::MvStudioFixture(const QString &layout, const QString &language)
     MvStudioSettings::setFolder(u"project"_s, m_folder.path());
     MvStudioSettings::setFolder(u"export"_s, m_folder.path());
     MvCalendarEventRegistry::instance().setEvents({});
+    MvCalendarEventRegistry::instance().setGroups({});
     start();
     project()->newProject(calendarOf2027(layout));
     QCoreApplication::processEvents();

@@ -22,7 +22,7 @@ START_SECONDS = 60
 ANSWER_SECONDS = 20
 # what opens a dialog, and what closes it
 DIALOGS = {"Neu …": "Abbrechen", "Layout wählen …": "Abbrechen", "Papier und Zeitraum …": "Abbrechen",
-           "Vor dem Druck prüfen …": "Schließen", "Als PDF exportieren …": "Abbrechen", "Als Bilder exportieren …": "Abbrechen",
+           "Gruppen und Alter …": "Schließen", "Vor dem Druck prüfen …": "Schließen", "Als PDF exportieren …": "Abbrechen", "Als Bilder exportieren …": "Abbrechen",
            "Einstellungen …": "Abbrechen", "Anleitung und Tastenkürzel": "Schließen", "Über MvCalendar": "Schließen",
            "Eintrag hinzufügen...": "Abbrechen"}
 

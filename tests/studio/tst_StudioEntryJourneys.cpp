@@ -5,11 +5,14 @@
 
 #include "MvProject/MvProject.h"
 #include "common/MvStudioSettings.h"
+#include "pages/MvDayMark.h"
+#include "pages/MvPageItem.h"
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCalendar/MvEntryIntake.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvUndoController.h"
@@ -62,7 +65,9 @@ private Q_SLOTS:
     void birthdayWithFotos();
     void editorOfALostEntryCloses();
     void secretaryOpensTheFamilysCalendar();
-    void listIsSearched();
+    void listIsSearchedAndChosenFrom();
+    void groupsAreMadeAndShown();
+    void secretaryMakesARoster();
     void troubleWithReadingIsToldAndMended();
     void troubleWithSavingIsToldAndAsked();
     void troubleWithFoldersIsTold();
@@ -207,36 +212,203 @@ void tst_StudioEntryJourneys::secretaryOpensTheFamilysCalendar()
     QCOMPARE(names(), (QStringList{u"Probe"_s, u"Sommerfest"_s}));
 }
 
-void tst_StudioEntryJourneys::listIsSearched()
+void tst_StudioEntryJourneys::listIsSearchedAndChosenFrom()
 {
     MvStudioFixture studio;
-    MvCalendarEventRegistry::instance().setEvents(
-        {entry(u"Oma Erna"_s, QDate(1941, 3, 9)), entry(u"Opa"_s, QDate(1938, 5, 4))});
+    MvCalendarEventList events{entry(u"Oma Erna"_s, {1941, 3, 9}), entry(u"Opa"_s, {1938, 5, 4}),
+                               entry(u"Probe"_s, {2027, 5, 13}), entry(u"Früher"_s, {2026, 5, 4}, {}, false)};
+    MvEventRepetition weekly;
+    weekly.rule = MvRecurrenceRule::parse(u"FREQ=WEEKLY"_s).rule;
+    events[2].setRepetition(weekly);
+    MvCalendarEventRegistry::instance().setEvents(events);
     QVERIFY(studio.openSection("entriesPanel"));
-    auto *list = studio.find<QTableView>("eventTableView");
+    auto *list = studio.find<QTreeView>("entryTable");
     auto *field = studio.find<QLineEdit>("entrySearchField");
-    const auto shown = [list] {
-        QStringList names;
-        for (int row = 0; row < list->model()->rowCount(); ++row)
-            if (!list->isRowHidden(row))
-                names.append(list->model()->index(row, 2).data().toString());
-        return names;
+    const QList<QGraphicsItem *> onPage = studio.page()->childItems();
+    const MvDayMark *mark = nullptr;
+    for (const QGraphicsItem *item : onPage)
+        mark = mark ? mark : dynamic_cast<const MvDayMark *>(item);
+    QVERIFY(mark);
+    const auto counts = [&studio] { return studio.find<QLabel>("entryCounts")->text(); };
+    const auto clickRow = [list](const QString &name, Qt::KeyboardModifiers modifiers = {}) {
+        const QModelIndexList found = list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, name);
+        QVERIFY(!found.isEmpty());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, list->visualRect(found.first()).center());
     };
-    QTest::keyClicks(field, u"erna"_s);
-    QCOMPARE(shown(), QStringList{u"Oma Erna"_s});
-    field->setText(u"mai"_s);
-    QCOMPARE(shown(), QStringList{u"Opa"_s});
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 2)).center());
+    QCOMPARE(counts(), u"4 Einträge"_s);
+    QTest::keyClicks(field, u"mai"_s);
+    QCOMPARE(counts(), u"3 von 4 Einträgen"_s);
+    clickRow(u"Opa"_s);
     QCOMPARE(studio.window()->currentPage(), 4);
-    QVERIFY(studio.press("eventTableView", Qt::Key_Home)); // passes the hidden row over
-    QCOMPARE(list->currentIndex().row(), 1);
+    QCOMPARE(mark->date(), QDate(2027, 5, 4));
     field->clear();
-    QCOMPARE(shown().size(), 2);
+    QCOMPARE(counts(), u"4 Einträge, 1 ausgewählt"_s);
+    clickRow(u"Probe"_s); // its next date from the shown month on
+    QCOMPARE(mark->date(), QDate(2027, 5, 13));
+    clickRow(u"Früher"_s); // the calendar does not have that
+    QCOMPARE(mark->date(), QDate(2027, 5, 13));
 
-    QVERIFY(studio.click(studio.window(), "newEntryButton")); // begins within the calendar
+    clickRow(u"Oma Erna"_s);
+    clickRow(u"Opa"_s, Qt::ControlModifier);
+    QVERIFY(studio.click(studio.window(), "entryShiftButton"));
+    auto *shift = MvStudioFixture::dialog<QDialog>("shiftEntriesDialog");
+    QVERIFY(shift && !MvStudioFixture::find<QPushButton>(shift, "shiftNowButton")->isEnabled());
+    QTest::keyClicks(shift->focusWidget(), u"-1"_s);
+    const QString example = shift->findChild<QLabel *>(u"shiftExample"_s)->text();
+    QVERIFY2(example.contains(u"09.03.1940"_s), qPrintable(example));
+    QVERIFY(studio.click(shift, "shiftNowButton"));
+    QCOMPARE(counts(), u"4 Einträge, 2 ausgewählt"_s); // the same, where they are now
+    QVERIFY(studio.press("entryTable", Qt::Key_Delete));
+    QCOMPARE(names(), (QStringList{u"Früher"_s, u"Probe"_s}));
+    QCOMPARE(studio.steps(), 2);
+    studio.undo();
+    studio.undo();
+    QCOMPARE(studio.datesWith(u"Opa"_s), QList<QDate>{QDate(2027, 5, 4)});
+
+    QVERIFY(studio.openSection("entriesPanel"));
+    clickRow(u"Oma Erna"_s);
+    QVERIFY(studio.press("entryTable", Qt::Key_Return));
     auto *editor = MvStudioFixture::dialog<MvCalendarDayEditorDialog>();
+    QVERIFY(editor && editor->findChild<QLineEdit *>(u"descriptionEdit"_s)->text() == u"Oma Erna"_s);
+    editor->close();
+    QVERIFY(studio.click(studio.window(), "newEntryButton")); // begins within the calendar
+    editor = MvStudioFixture::dialog<MvCalendarDayEditorDialog>();
     QVERIFY(editor);
-    QCOMPARE(editor->findChild<QDateTimeEdit *>()->date(), QDate(2027, 5, 1));
+    QCOMPARE(editor->findChild<QDateTimeEdit *>()->date(), QDate(2027, 3, 1));
+}
+
+/// By clicks in the dialog, with the page beside it.
+void tst_StudioEntryJourneys::groupsAreMadeAndShown()
+{
+    MvStudioFixture studio(u"FAMILY_PLANNER"_s);
+    MvCalendarEventRegistry::instance().setEvents(
+        {entry(u"Jörg"_s, {1967, 1, 12}), entry(u"Probe"_s, {2027, 1, 14}), entry(u"Müll"_s, {2027, 1, 13})});
+    QVERIFY(studio.openSection("entriesPanel"));
+    auto *list = studio.find<QTreeView>("entryTable");
+    const auto putInto = [&](const QString &name, const QString &group) { // a new one, by the button's menu
+        const QModelIndexList found = list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, name);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(found.value(0)).center());
+        auto *menu = studio.find<QToolButton>("entryGroupButton")->menu();
+        Q_EMIT menu->aboutToShow();
+        menu->findChild<QMenu *>(u"moveToGroupMenu"_s)->actions().last()->trigger();
+        auto *question = MvStudioFixture::dialog<QInputDialog>();
+        QVERIFY(question);
+        question->setTextValue(group);
+        question->accept();
+    };
+    putInto(u"Jörg"_s, u"Familie"_s);
+    putInto(u"Probe"_s, u"Verein"_s);
+    QVERIFY(studio.choose("entryGroupFilter", u"Familie"_s));
+    QCOMPARE(studio.find<QLabel>("entryCounts")->text().section(u',', 0, 0), u"1 von 3 Einträgen"_s);
+    const auto headings = [&studio] { return studio.document().appearance().columnHeadersList().join(u','); };
+    QVERIFY(studio.openSection("columnHeadersPanel"));
+    QVERIFY(studio.click(studio.window(), "columnsFromGroups"));
+    QCOMPARE(headings(), u" ,Familie,Verein"_s); // the first column is that of all others
+
+    QVERIFY(studio.trigger("groups"));
+    auto *dialog = MvStudioFixture::dialog<QDialog>("groupsDialog");
+    QVERIFY(dialog);
+    auto *groups = dialog->findChild<QListWidget *>(u"groupList"_s);
+    QCOMPARE(groups->item(0)->text(), u"Familie (1)"_s);
+    groups->setCurrentRow(0);
+    auto *name = dialog->findChild<QLineEdit *>(u"groupName"_s);
+    const auto type = [name](const QString &text) {
+        name->setFocus();
+        name->selectAll();
+        QTest::keyClicks(name, text);
+        QTest::keyClick(name, Qt::Key_Return);
+    };
+    const int before = studio.steps();
+    type(u"verein"_s); // another one's
+    QVERIFY(MvStudioFixture::find<QLabel>(dialog, "groupNameNotice"));
+    QCOMPARE(studio.steps(), before);
+    type(u"Sippe"_s);
+    QCOMPARE(headings(), u" ,Sippe,Verein"_s); // goes along
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(studio.steps(), before + 1);
+
+    auto *forms = dialog->findChild<QComboBox *>(u"calendarPatternForms"_s);
+    forms->setCurrentIndex(forms->findData(u"%name (%age)"_s));
+    Q_EMIT forms->activated(forms->currentIndex());
+    QVERIFY2(studio.texts().contains(u"Jörg(60)"_s), qPrintable(studio.texts()));
+    QVERIFY(dialog->findChild<QLabel *>(u"calendarPatternExample"_s)->text().endsWith(u"Jörg (60)"_s));
+    groups->item(1)->setCheckState(Qt::Unchecked);
+    QVERIFY(!studio.texts().contains(u"Probe"_s));
+    QCOMPARE(studio.steps(), before + 3);
+    QVERIFY(studio.click(dialog, "removeGroup"));
+    auto *question = MvStudioFixture::dialog<QMessageBox>();
+    QVERIFY(question && question->informativeText().startsWith(u"1 Eintrag gehört"_s));
+    QTest::mouseClick(question->buttons().first(), Qt::LeftButton);
+    QVERIFY(studio.texts().contains(u"Jörg(60)"_s));
+    QCOMPARE(groups->count(), 1);
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    for (int step = 0; step < 4; ++step)
+        QTest::keyClick(groups, Qt::Key_Z, Qt::ControlModifier); // from within the dialog
+    QCOMPARE(headings(), u" ,Familie,Verein"_s);
+    QVERIFY(studio.texts().contains(u"Probe"_s) && !studio.texts().contains(u"(60)"_s));
+    QCOMPARE(name->text(), u"Familie"_s);
+}
+
+/// A club's year: 60 dates of a table, a roster on A3 with a column for each of three groups, and the dates for other
+/// programs. Every click and every file that is named is a hand's turn.
+void tst_StudioEntryJourneys::secretaryMakesARoster()
+{
+    MvStudioFixture studio;
+    const QStringList groups{u"Vorstand"_s, u"Jugend"_s, u"Orchester"_s};
+    QByteArray table("Datum;Termin;Gruppe\r\n");
+    for (int i = 0; i < 60; ++i)
+        table += QDate(2027, 1, 4).addDays(6 * i).toString(u"dd.MM.yyyy"_s).toUtf8() + ";Termin" +
+                 QByteArray::number(i) + ';' + groups.at(i % 3).toUtf8() + "\r\n";
+    QVERIFY(MvTestFiles::write(studio.path(u"termine.csv"_s), table));
+    int hands = 0;
+    const auto hand = [&hands](bool isDone) {
+        ++hands;
+        return isDone;
+    };
+    const auto chooseInList = [&](const QString &action, const QString &file) {
+        auto *button = studio.find<QPushButton>("changeEventListButton");
+        return hand(button && (button->menu()->popup({}), true)) && hand(studio.chooseInMenu(button->menu(), action)) &&
+               hand(studio.chooseFile(studio.path(file)));
+    };
+    QVERIFY(hand(studio.openSection("entriesPanel")));
+    QVERIFY(chooseInList(u"Hinzufügen"_s, u"termine.csv"_s));
+    QTRY_VERIFY(MvStudioFixture::dialog<QDialog>("entryTableDialog"));
+    QVERIFY(hand(studio.click(MvStudioFixture::dialog<QDialog>("entryTableDialog"), "takeTableButton")));
+    QTRY_VERIFY(MvStudioFixture::dialog<QMessageBox>()); // says what came
+    QVERIFY(hand(MvStudioFixture::dialog<QMessageBox>()->close()));
+    QTRY_COMPARE(studio.find<QLabel>("entryCounts")->text(), u"60 Einträge"_s);
+    QVERIFY(hand(studio.openSection("columnHeadersPanel")));
+    QVERIFY(hand(studio.click(studio.window(), "chooseColumnsLayout")));
+    QVERIFY(hand(studio.click(studio.window(), "columnsFromGroups")));
+    QVERIFY(hand(studio.openSection("contentPanel")));
+    QVERIFY(hand(studio.choose("orientation", u"Hochformat"_s)));
+    QVERIFY(hand(studio.choose("paper", u"A3"_s)));
+    QCOMPARE(studio.page()->pageRect().size(), QSizeF(2970, 4200));
+
+    const auto centreOf = [&studio](const QString &text) {
+        for (const MvPaintRecording::Item &item : studio.items(MvPaintRecording::Item::Text)) {
+            if (item.text.compare(text, Qt::CaseInsensitive) == 0)
+                return item.bounds.center().x();
+        }
+        return -1.0;
+    };
+    for (int i = 0; i < 5; ++i) { // of January
+        const double place = centreOf(u"Termin%1"_s.arg(i));
+        QVERIFY(place > 0);
+        QStringList byDistance = groups;
+        std::sort(byDistance.begin(), byDistance.end(), [&](const QString &a, const QString &b) {
+            return std::abs(centreOf(a) - place) < std::abs(centreOf(b) - place);
+        });
+        QCOMPARE(byDistance.first(), groups.at(i % 3));
+    }
+    QVERIFY(hand(studio.openSection("entriesPanel")));
+    QVERIFY(chooseInList(u"Sichern"_s, u"termine.ics"_s));
+    const MvEntryReading read = MvEntryIntake::read(QFileInfo(studio.path(u"termine.ics"_s)));
+    QCOMPARE(read.events.size(), 60);
+    QCOMPARE(read.events.groups().size(), 3);
+    QCOMPARE(hands, 16);
+    QCOMPARE(studio.steps(), 5); // and as many to be undone
 }
 
 void tst_StudioEntryJourneys::troubleWithReadingIsToldAndMended()

@@ -267,6 +267,7 @@ void tst_StudioKeyboard::dialogs_data()
         row("newProject", "newProjectDialog");
         row("chooseLayout", "layoutDialog");
         row("pageSetup", "pageSetupDialog");
+        row("groups", "groupsDialog");
         row("settings", "settingsDialog");
         row("shortcuts", "shortcutsDialog");
         row("about", "aboutDialog");

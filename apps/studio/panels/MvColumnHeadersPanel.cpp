@@ -2,11 +2,14 @@
 #include "panels/MvColumnHeadersPanel.h"
 
 #include "common/MvStudioMerge.h"
+#include "panels/MvGroupEdits.h"
 #include "panels/MvPageEdits.h"
 
+#include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumColumnHeadersEditor.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumWords.h"
+#include "MvCalendar/MvSession.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -45,16 +48,21 @@ MvColumnHeadersPanel::MvColumnHeadersPanel(MvPageEdits *edits, QWidget *parent)
     , m_editing(new QWidget(this))
     , m_emptyState(createEmptyState())
     , m_editor(new MvCalendariumColumnHeadersEditor(this))
+    , m_fromGroups(new QPushButton(tr("Spalten aus den Gruppen"), this))
 {
     setObjectName(u"columnHeadersPanel"_s);
     auto *column = new QVBoxLayout(m_editing);
     column->setContentsMargins({});
     column->addWidget(m_editor);
+    m_fromGroups->setObjectName(u"columnsFromGroups"_s);
+    column->addWidget(m_fromGroups, 0, Qt::AlignLeft);
     column->addStretch(1);
     m_stack->addWidget(m_editing);
     m_stack->addWidget(m_emptyState);
     addScrollingColumn()->addWidget(m_stack);
     connect(m_editor, &MvCalendariumColumnHeadersEditor::headersChanged, this, &MvColumnHeadersPanel::onHeadersChanged);
+    connect(m_fromGroups, &QPushButton::clicked, this, [this] { MvGroupEdits(this->edits()).makeColumns(); });
+    connect(&edits->session().entries(), &MvCalendarEventRegistry::eventsChanged, this, &MvPagePanel::renew);
 }
 
 QWidget *MvColumnHeadersPanel::createEmptyState()
@@ -91,6 +99,11 @@ void MvColumnHeadersPanel::showPage()
         headers.append(QString()); // which the editor shows
     if (hasColumns && headers != m_editor->headers())
         m_editor->setHeaders(headers);
+    const bool hasGroups = !MvGroupEdits(edits()).shownGroups().isEmpty();
+    m_fromGroups->setEnabled(hasGroups);
+    m_fromGroups->setToolTip(hasGroups ? tr("Eine Spalte für jede Gruppe, die der Kalender zeigt; ihre Einträge stehen "
+                                            "dann darin")
+                                       : tr("Der Kalender zeigt noch keine Gruppe von Einträgen."));
 }
 
 void MvColumnHeadersPanel::onHeadersChanged(const QList<QString> &headers)

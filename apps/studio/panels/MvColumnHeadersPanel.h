@@ -8,7 +8,8 @@ class QLabel;
 class QPushButton;
 class QStackedWidget;
 
-/// The columns of a planner: how many, and what stands above them. Says so where a layout has none.
+/// The columns of a planner: how many, and what stands above them, on a click the groups of the calendar's entries.
+/// Says so where a layout has none.
 class MvColumnHeadersPanel : public MvPagePanel
 {
     Q_OBJECT
@@ -28,4 +29,5 @@ private:
     QWidget *m_editing;
     QWidget *m_emptyState;
     MvCalendariumColumnHeadersEditor *m_editor;
+    QPushButton *m_fromGroups;
 };

@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -40,6 +41,11 @@ MvContentPanel::MvContentPanel(MvPageEdits *edits, QWidget *parent)
     column->addWidget(m_vacationHint);
     for (QCheckBox *box : {m_calendarWeeks, m_publicHolidaysOnly, m_vacationNamesDaily})
         column->addWidget(box);
+    auto *groups = new QPushButton(tr("Gruppen und Alter …"), this);
+    groups->setObjectName(u"groupsButton"_s);
+    groups->setToolTip(tr("Welche Gruppen von Einträgen der Kalender zeigt, in welchen Farben und mit welchem Alter"));
+    connect(groups, &QPushButton::clicked, this, &MvContentPanel::groupsRequested);
+    column->addWidget(groups, 0, Qt::AlignLeft);
 
     auto *calendar = new QGroupBox(tr("Ganzer Kalender"), this);
     m_setup->setStartVisible(false); // stands above

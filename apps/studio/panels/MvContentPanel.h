@@ -20,6 +20,10 @@ class MvContentPanel : public MvPagePanel
 public:
     MvContentPanel(MvPageEdits *edits, QWidget *parent);
 
+Q_SIGNALS:
+    /// Somebody wants to choose which groups of entries are shown, and how they read.
+    void groupsRequested();
+
 protected:
     void showPage() override;
 

@@ -3,6 +3,7 @@
 
 #include "panels/MvStudioPanel.h"
 
+#include <QDate>
 #include <QList>
 #include <QObject>
 
@@ -35,8 +36,11 @@ public Q_SLOTS:
     void setCurrentPage(int page);
 
 Q_SIGNALS:
-    /// Somebody wants to see what is on another page.
-    void pageRequested(int page);
+    /// Somebody wants to see a day on its page.
+    void dayRequested(int page, const QDate &date);
+    /// Somebody wants to name, colour or choose the groups of entries.
+    void groupsRequested();
+    void message(const QString &text);
     /// Somebody wants to choose a file for the chosen frame.
     void fileRequested();
 

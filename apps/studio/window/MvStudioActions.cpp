@@ -214,6 +214,7 @@ QList<Row> fotoRows()
 QList<Row> lookRows()
 {
     using A = MvStudioActions;
+    const QKeySequence none;
     return {
         {A::Theme, "chooseTheme", "colors", QKeySequence(Qt::CTRL | Qt::Key_T),
          MvStudioActions::tr("&Gestaltung wählen"),
@@ -226,6 +227,8 @@ QList<Row> lookRows()
          MvStudioActions::tr("Wählen, wie Fotos, Texte und Kalender auf der Seite stehen")},
         {A::Layout, "chooseLayout", "layout", QKeySequence(Qt::CTRL | Qt::Key_L),
          MvStudioActions::tr("&Layout wählen …"), MvStudioActions::tr("Ein Layout für alle Seiten aus Bildern wählen")},
+        {A::Groups, "groups", "entries", none, MvStudioActions::tr("&Gruppen und Alter …"),
+         MvStudioActions::tr("Einträge zu Gruppen mit Farben ordnen, und wählen, welche der Kalender zeigt")},
         {A::PageSetup, "pageSetup", "page_setup", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P),
          MvStudioActions::tr("&Papier und Zeitraum …"),
          MvStudioActions::tr("Papier, Ausrichtung und Monate des Kalenders ändern")},

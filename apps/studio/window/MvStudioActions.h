@@ -29,6 +29,7 @@ public:
         Template,
         Layout,
         PageSetup,
+        Groups,
         AddFotos,
         AddFolder,
         Distribute,

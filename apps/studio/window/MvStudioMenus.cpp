@@ -58,6 +58,8 @@ void MvStudioMenus::createEditMenu()
     QMenu *edit = m_window->menuBar()->addMenu(tr("&Bearbeiten"));
     edit->addActions({m_undo->undoAction(), m_undo->redoAction()});
     edit->addSeparator();
+    edit->addAction(m_actions->action(A::Groups));
+    edit->addSeparator();
     edit->addAction(m_actions->action(A::Settings));
 }
 

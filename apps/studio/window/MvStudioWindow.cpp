@@ -22,10 +22,12 @@
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintWatch.h"
 #include "flows/MvProjectFlow.h"
+#include "pages/MvDayMark.h"
 #include "pages/MvFrameEdits.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageSelection.h"
 #include "pages/MvPageStrip.h"
+#include "panels/MvGroupsDialog.h"
 #include "panels/MvInspector.h"
 #include "panels/MvStudioPanels.h"
 #include "start/MvStartPage.h"
@@ -197,6 +199,7 @@ void MvStudioWindow::connectActions()
     on(A::Theme, this, [this] { m_inspector->open(u"themePanel"_s); });
     on(A::Template, this, [this] { m_inspector->open(u"templatePanel"_s); });
     on(A::Layout, this, &MvStudioWindow::chooseLayout);
+    on(A::Groups, m_panels, &MvStudioPanels::groupsRequested);
     on(A::PageSetup, this, &MvStudioWindow::changePageSetup);
     on(A::PrintCheck, this, &MvStudioWindow::checkPrint);
     on(A::Shortcuts, this, [this] {
@@ -296,6 +299,7 @@ void MvStudioWindow::connectMessages()
     listen(m_canvas, &MvPageCanvas::message);
     listen(m_entries, &MvEntriesFlow::message);
     listen(m_dates, &MvEntryImportFlow::message);
+    listen(m_panels, &MvStudioPanels::message);
     listen(m_fotos, &MvFotoFlow::message);
     listen(m_tray, &MvFotoTray::message);
     listen(new MvLeapDayHint(m_project, this), &MvLeapDayHint::message);
@@ -308,7 +312,13 @@ void MvStudioWindow::connectPages()
     connect(m_canvas, &MvPageCanvas::currentPageChanged, this, &MvStudioWindow::updatePage);
     connect(m_canvas, &MvPageCanvas::zoomChanged, this,
             [this](double zoom) { m_statusBar->setZoom(zoom, m_canvas->isFitted()); });
-    connect(m_panels, &MvStudioPanels::pageRequested, this, &MvStudioWindow::setCurrentPage);
+    connect(m_panels, &MvStudioPanels::dayRequested, this,
+            [this, mark = new MvDayMark(m_canvas)](int page, const QDate &date) {
+                setCurrentPage(page);
+                mark->pointAt(date);
+            });
+    connect(m_panels, &MvStudioPanels::groupsRequested, this,
+            [this] { MvGroupsDialog::open(m_panels->edits(), this); });
     connect(m_panels, &MvStudioPanels::fileRequested, m_canvas, &MvPageCanvas::chooseFoto);
     connect(m_canvas->selection(), &MvPageSelection::changed, this, &MvStudioWindow::updatePage);
     connect(m_strip, &MvPageStrip::pageActivated, m_canvas, &MvPageCanvas::setCurrentPage);

@@ -239,6 +239,17 @@ void MvCalendarEventRegistry::addGroups(const MvEventGroupList &groups)
         setEvents(events);
 }
 
+void MvCalendarEventRegistry::setGroups(const MvEventGroupList &groups, List list)
+{
+    const MvProjectIdentifier project = listOf(list);
+    MvCalendarEventList events = eventsOfProject(project);
+    if (events.groups() == groups)
+        return;
+    events.setGroups(groups);
+    m_lists->store(project, events);
+    takeWork(project);
+}
+
 /// Entries that come from the user's list to a document, or back, bring their groups along.
 MvCalendarEventList MvCalendarEventRegistry::withGroups(const MvProjectIdentifier &project,
                                                         const MvCalendarEventList &events) const

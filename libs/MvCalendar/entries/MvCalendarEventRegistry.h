@@ -116,6 +116,9 @@ public:
     void setEvents(const MvCalendarEventList &events);
     /// Adds the groups whose ids the active list does not know: those of entries that are about to come from a file.
     void addGroups(const MvEventGroupList &groups);
+    /// Makes these the groups of a list, and saves it; its entries stay as they are. setEvents() with a list without
+    /// groups leaves them alone.
+    void setGroups(const MvEventGroupList &groups, List list = List::Active);
     /// Calls when setEvents() would not have to decode photos any more: copies those that lie elsewhere into the photo
     /// folder, in the background. At once when there is nothing to copy; not at all when the receiver is gone by then.
     void prepareFotos(const MvCalendarEventList &events, QObject *receiver, const std::function<void()> &use);

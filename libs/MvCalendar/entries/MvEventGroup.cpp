@@ -1,7 +1,24 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvEventGroup.h"
 
+#include <QStringList>
+
 #include <algorithm>
+
+namespace {
+
+/// Of those groups that the other list has, too, in order.
+QStringList idsOf(const MvEventGroupList &groups, const MvEventGroupList &other)
+{
+    QStringList ids;
+    for (const MvEventGroup &group : groups) {
+        if (other.find(group.id))
+            ids.append(group.id);
+    }
+    return ids;
+}
+
+} // namespace
 
 MvEventGroup MvEventGroup::named(const QString &name)
 {
@@ -56,20 +73,23 @@ void MvEventGroupList::put(const MvEventGroup &group)
 MvEventGroupList MvEventGroupList::merged(const MvEventGroupList &base, const MvEventGroupList &mine,
                                           const MvEventGroupList &theirs)
 {
+    const auto isChanged = [&base](const MvEventGroup *group) {
+        const MvEventGroup *before = group ? base.find(group->id) : nullptr;
+        return group && (!before || !(*before == *group));
+    };
     MvEventGroupList result;
-    for (const MvEventGroup &group : mine) {
-        const MvEventGroup *before = base.find(group.id);
-        const MvEventGroup *other = theirs.find(group.id);
-        const bool isChangedHere = !before || !(*before == group);
-        if (other)
-            result.append(isChangedHere ? group : *other);
-        else if (isChangedHere)
-            result.append(group); // else it was removed there
-    }
-    for (const MvEventGroup &group : theirs) {
-        const MvEventGroup *before = base.find(group.id);
-        if (!mine.find(group.id) && (!before || !(*before == group)))
-            result.append(group);
-    }
+    const auto take = [&](const MvEventGroup &group) {
+        const MvEventGroup *here = mine.find(group.id);
+        const MvEventGroup *there = theirs.find(group.id);
+        const MvEventGroup *other = isChanged(here) ? here : there;
+        const bool isRemoved = (!here || !there) && !isChanged(other); // by one side, and the other left it alone
+        if (!isRemoved && !result.find(group.id))
+            result.append(*other);
+    };
+    const bool isOrderedHere = idsOf(mine, base) != idsOf(base, mine);
+    const MvEventGroupList &first = isOrderedHere ? mine : theirs;
+    std::for_each(first.cbegin(), first.cend(), take);
+    const MvEventGroupList &rest = isOrderedHere ? theirs : mine;
+    std::for_each(rest.cbegin(), rest.cend(), take);
     return result;
 }

@@ -38,7 +38,8 @@ public:
     /// Replaces the group of the same id, or adds it; an invalid one changes nothing.
     void put(const MvEventGroup &group);
 
-    /// What both sides made of the groups they started from: a change outweighs none, mine the other's.
+    /// What both sides made of the groups they started from: a change outweighs none, mine the other's. So does the
+    /// order.
     static MvEventGroupList merged(const MvEventGroupList &base, const MvEventGroupList &mine,
                                    const MvEventGroupList &theirs);
 };

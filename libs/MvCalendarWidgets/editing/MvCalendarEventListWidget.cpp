@@ -13,7 +13,6 @@
 #include "MvCalendar/MvCalendarEventTransferDialog.h"
 #include "MvCalendar/MvEntryFileImport.h"
 #include "MvCalendar/MvEntryFiles.h"
-#include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvDiskAccessRequest.h"
@@ -64,6 +63,11 @@ MvCalendarEventListWidget::MvCalendarEventListWidget(QWidget *parent, MvSession 
     layout->addWidget(m_tableView, 2, 0, 1, 2);
     layout->addWidget(changeEventListButton(this), 3, 0, 1, 2, Qt::AlignLeft);
 }
+
+MvCalendarEventListWidget::MvCalendarEventListWidget(MvSession &session, QWidget *parent)
+    : QWidget(parent)
+    , m_session(session)
+{}
 
 MvCalendarEventListWidget::~MvCalendarEventListWidget() = default;
 
@@ -301,22 +305,6 @@ MvCalendarEventList MvCalendarEventListWidget::newEvents(const MvCalendarEventLi
     return added;
 }
 
-/// One step for all of them.
-void MvCalendarEventListWidget::changeEvents(const QString &macro, const QString &name, const QList<Change> &changes,
-                                             Reach reach)
-{
-    using Group = MvUndoCommandCalendarEventGroup;
-    MvUndoController &undo = m_session.undo();
-    if (changes.isEmpty())
-        return;
-    undo.beginMacro(macro);
-    undo.push(new Group(Group::Begin, m_session, name));
-    for (const Change &change : changes)
-        undo.push(new MvCalendarEventStep(change.before, change.after, m_session, reach));
-    undo.push(new Group(Group::End, m_session));
-    undo.endMacro();
-}
-
 void MvCalendarEventListWidget::replaceEvents(const QString &macro, const QString &name,
                                               const MvCalendarEventList &removed, const MvCalendarEventList &added,
                                               Reach reach)
@@ -328,7 +316,7 @@ void MvCalendarEventListWidget::replaceEvents(const QString &macro, const QStrin
     }
     for (const MvCalendarEvent &event : added)
         changes.append({{}, event});
-    changeEvents(macro, name, changes, reach);
+    MvEntryEdits(m_session).change(macro, name, changes, reach);
 }
 
 void MvCalendarEventListWidget::finishAdding()
@@ -482,9 +470,9 @@ void MvCalendarEventListWidget::transferEvents(bool isFromOwn)
 /// What another program has changed meanwhile stays: the step means the very entry.
 void MvCalendarEventListWidget::takeTransfer(const QList<Change> &chosen, bool isFromOwn)
 {
-    changeEvents(u"transferEvents"_s,
-                 isFromOwn ? tr("Aus meinen Einträgen übernehmen") : tr("In meine Einträge übernehmen"), chosen,
-                 isFromOwn ? Reach::ActiveList : Reach::OwnList);
+    MvEntryEdits(m_session).change(
+        u"transferEvents"_s, isFromOwn ? tr("Aus meinen Einträgen übernehmen") : tr("In meine Einträge übernehmen"),
+        chosen, isFromOwn ? Reach::ActiveList : Reach::OwnList);
     Q_EMIT calendarEventAdded();
 }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
-#include "MvCalendar/MvCalendarEventStep.h"
+#include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvSession.h"
 #include "MvCalendarWidgets/mvcalendarwidgets_export.h"
 
@@ -80,34 +80,34 @@ Q_SIGNALS:
     /// A row was clicked.
     void eventClicked(const MvCalendarEvent &event);
 
+protected:
+    /// Without any part: for a list that looks otherwise and can do the same.
+    MvCalendarEventListWidget(MvSession &session, QWidget *parent);
+
+    MvSession &session() const { return m_session; }
+    void editEvent(const MvCalendarEvent &event);
+
 private:
     QPushButton *createAddButton(const QString &text, const QString &name, QWidget *parent);
     QString writeEventList(const QString &fileName) const;
     void importFile(const QString &fileName);
     void readEventList(const QString &fileName, bool merge);
     void takeEventList(const MvCalendarEventList &read, bool merge);
-    using Reach = MvCalendarEventStep::Reach;
-    /// An invalid entry before adds one, an invalid entry after removes one.
-    struct Change
-    {
-        MvCalendarEvent before;
-        MvCalendarEvent after;
-    };
+    using Reach = MvEntryEdits::Reach;
+    using Change = MvEntryEdits::Change;
 
-    void changeEvents(const QString &macro, const QString &name, const QList<Change> &changes, Reach reach);
     void replaceEvents(const QString &macro, const QString &name, const MvCalendarEventList &removed,
                        const MvCalendarEventList &added, Reach reach);
     void transferEvents(bool isFromOwn);
     void takeTransfer(const QList<Change> &chosen, bool isFromOwn);
     void describeActions(const QMenu *menu) const;
-    void editEvent(const MvCalendarEvent &event);
     void deleteEvent(const MvCalendarEvent &event);
     MvCalendarEventList newEvents(const MvCalendarEventList &current, const MvCalendarEventList &read) const;
     void finishAdding();
     void showFoundRows();
 
     MvSession &m_session;
-    MvTableView *m_tableView;
+    MvTableView *m_tableView = nullptr;
     QLineEdit *m_searchField = nullptr;
     QDate m_newDate;
 };

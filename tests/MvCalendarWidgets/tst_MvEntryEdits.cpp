@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvEntries.h"
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendarEventProjectStore.h"
+#include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryEdits.h"
+#include "MvCalendar/MvEntryListModel.h"
+#include "MvCore/MvUndoController.h"
+
+using namespace Qt::StringLiterals;
+using MvEntries::entry;
+using Membership = MvEntryEdits::Membership;
+
+namespace {
+
+/// Keeps the list of one document, so that the user's own is another one.
+struct OneProject : MvCalendarEventProjectStore
+{
+    bool keeps(const MvProjectIdentifier &project) const override { return project == id; }
+    bool holdsFoto(const QString &) const override { return true; }
+    void listChanged(const MvProjectIdentifier &) override { ++changes; }
+
+    MvProjectIdentifier id{u"calendar"_s, true};
+    int changes = 0;
+};
+
+} // namespace
+
+/// Several entries and their groups at once, in a calendar's list and in the user's own.
+class tst_MvEntryEdits : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup() { registry().installProjectStore(nullptr); }
+    void memberships_data();
+    void memberships();
+    void groupsGoAndComeBack();
+    void othersKeepTheirGroups();
+    void shiftsAndRemoves();
+    void finds_data();
+    void finds();
+
+private:
+    MvCalendarEventRegistry &registry() const { return m_session->entries(); }
+    MvCalendarEventList list() const { return registry().activeEventList(); }
+    /// "Anna: Familie, Verein; Bert:"
+    static QString described(const MvCalendarEventList &events)
+    {
+        QStringList all;
+        for (const MvCalendarEvent &event : events) {
+            QStringList names;
+            for (const QString &id : event.groups())
+                names.append(events.groups().find(id) ? events.groups().find(id)->name : u'?' + id);
+            all.append(event.description() + u": "_s + names.join(u", "_s));
+        }
+        return all.join(u"; "_s);
+    }
+    QString undone() const
+    {
+        m_session->undo().undo();
+        return described(list());
+    }
+
+    std::unique_ptr<MvSession> m_session;
+    OneProject m_store;
+    MvCalendarEventList m_before;
+};
+
+void tst_MvEntryEdits::init()
+{
+    m_session = std::make_unique<MvSession>();
+    MvCalendarEventList own{entry(u"Anna"_s, {1990, 3, 9}), entry(u"Bert"_s, {MvCalendarEvent::unknownYear, 12, 31}),
+                            entry(u"Chor"_s, {2027, 1, 14})};
+    MvEventRepetition weekly;
+    weekly.rule = MvRecurrenceRule::parse(u"FREQ=WEEKLY"_s).rule;
+    own[2].setRepetition(weekly);
+    const QString family = own.groups().idOfName(u"Familie"_s);
+    own.groups().idOfName(u"Verein"_s);
+    own[0].setGroups({family});
+    registry().setEvents(own);
+    registry().updateActiveModelId(registry().activeModelId(), DEFAULT_PROJECT_ID);
+    registry().installProjectStore(&m_store);
+    registry().takeList(m_store.id, own);
+    registry().setActiveModelId(m_store.id, true);
+    m_before = list();
+    m_store.changes = 0;
+}
+
+void tst_MvEntryEdits::memberships_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<int>("membership");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("only") << u"verein"_s << int(Membership::Only) << u"Anna: Verein; Bert: Verein; Chor: "_s;
+    QTest::newRow("added") << u"Verein"_s << int(Membership::Added) << u"Anna: Familie, Verein; Bert: Verein; Chor: "_s;
+    QTest::newRow("removed") << u"Familie"_s << int(Membership::Removed) << u"Anna: ; Bert: ; Chor: "_s;
+    QTest::newRow("none") << QString() << int(Membership::Only) << u"Anna: ; Bert: ; Chor: "_s;
+    QTest::newRow("new") << u"Klasse 5b"_s << int(Membership::Only) << u"Anna: Klasse 5b; Bert: Klasse 5b; Chor: "_s;
+    QTest::newRow("as it is") << u"Familie"_s << int(Membership::Added) << u"Anna: Familie; Bert: Familie; Chor: "_s;
+}
+
+void tst_MvEntryEdits::memberships()
+{
+    QFETCH(QString, group);
+    QFETCH(int, membership);
+    QSignalSpy signalled(&registry(), &MvCalendarEventRegistry::eventsChanged);
+    MvEntryEdits(*m_session).setMembership({m_before.at(0), m_before.at(1)}, group, Membership(membership));
+    QTEST(described(list()), "expected");
+    QCOMPARE(signalled.count(), 1);
+    QCOMPARE(m_session->undo().stack()->count(), 1);
+    QCOMPARE(undone(), described(m_before));
+    QCOMPARE(list().groups(), m_before.groups()); // a new one has gone as well
+    m_session->undo().redo();
+    QTEST(described(list()), "expected");
+}
+
+void tst_MvEntryEdits::groupsGoAndComeBack()
+{
+    MvEntryEdits edits(*m_session);
+    edits.setGroups({}, u"Weg"_s); // both, in one step: the last group goes, too
+    QCOMPARE(described(list()), u"Anna: ; Bert: ; Chor: "_s);
+    QVERIFY(list().groups().isEmpty());
+    QCOMPARE(m_session->undo().undoName(), u"Weg"_s);
+    QCOMPARE(described(registry().ownEvents()), described(m_before)); // nobody asked for that
+    QCOMPARE(undone(), described(m_before));
+    QCOMPARE(list().groups(), m_before.groups());
+
+    MvEventGroupList renamed = list().groups();
+    renamed[0].name = u"Sippe"_s;
+    renamed.move(0, 1);
+    edits.setGroups(renamed, u"Neu"_s);
+    QCOMPARE(described(list()), u"Anna: Sippe; Bert: ; Chor: "_s);
+    MvEventGroupList byOthers = list().groups();
+    byOthers[0].color = Qt::red;
+    byOthers.idOfName(u"Dritte"_s);
+    registry().setGroups(byOthers);
+    QCOMPARE(undone(), described(m_before)); // what somebody else has done to the groups since stays
+    QCOMPARE(list().groups().findName(u"Verein"_s)->color, QColor(Qt::red));
+    QCOMPARE(list().groups().size(), 3);
+}
+
+/// Where changes reach the user's own list, its other entries keep their group.
+void tst_MvEntryEdits::othersKeepTheirGroups()
+{
+    registry().setChangesReachOwn(true);
+    MvCalendarEventList own = registry().ownEvents();
+    own.append(entry(u"Dora"_s, {1980, 1, 1}));
+    own.last().setGroups({own.groups().findName(u"Familie"_s)->id});
+    registry().setOwnEvents(own);
+    MvEntryEdits(*m_session).setGroups({}, u"Weg"_s);
+    QCOMPARE(described(registry().ownEvents()), u"Anna: ; Bert: ; Chor: ; Dora: Familie"_s);
+    QCOMPARE(registry().ownEvents().groups().size(), 1);
+    m_session->undo().undo();
+    QCOMPARE(described(registry().ownEvents()), described(own));
+    QCOMPARE(registry().ownEvents().groups().size(), 2);
+}
+
+void tst_MvEntryEdits::shiftsAndRemoves()
+{
+    const auto dates = [this] {
+        QStringList all;
+        for (const MvCalendarEvent &event : list())
+            all.append(MvCalendarEvent::dateText(event.dateTime().date()));
+        return all.join(u' ');
+    };
+    MvEntryEdits edits(*m_session);
+    edits.shift(m_before, 1, 0); // a year that nobody knows stays unknown, a weekday stays
+    QCOMPARE(dates(), u"09.03.1991 31.12. 13.01.2028"_s);
+    edits.shift(list(), 0, 1);
+    QCOMPARE(dates(), u"10.03.1991 01.01. 14.01.2028"_s);
+    edits.shift(list(), 0, 0);
+    edits.remove({list().at(0), list().at(2)});
+    QCOMPARE(described(list()), u"Bert: "_s);
+    QCOMPARE(m_session->undo().stack()->count(), 3);
+    undone();
+    undone();
+    QCOMPARE(undone(), described(m_before));
+    QCOMPARE(list(), m_before);
+}
+
+void tst_MvEntryEdits::finds_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<QStringList>("found");
+    QTest::newRow("all, by month and day") << QString() << QString() << QStringList{u"Chor"_s, u"Anna"_s, u"Bert"_s};
+    QTest::newRow("name") << u" BER "_s << QString() << QStringList{u"Bert"_s};
+    QTest::newRow("month and year") << u"1990 märz"_s << QString() << QStringList{u"Anna"_s};
+    QTest::newRow("a year that nobody knows") << u"1604"_s << QString() << QStringList();
+    QTest::newRow("name of the group") << u"fam"_s << QString() << QStringList{u"Anna"_s};
+    QTest::newRow("group") << QString() << u"familie"_s << QStringList{u"Anna"_s};
+    QTest::newRow("without group") << QString() << MvEntryListModel::none << QStringList{u"Chor"_s, u"Bert"_s};
+    QTest::newRow("both") << u"anna"_s << MvEntryListModel::none << QStringList();
+}
+
+void tst_MvEntryEdits::finds()
+{
+    QFETCH(QString, words);
+    QFETCH(QString, group);
+    MvEntryListModel model(*m_session);
+    model.setSearch(words);
+    model.load();
+    model.setGroup(group);
+    QStringList found;
+    for (int row = 0; row < model.rowCount(); ++row)
+        found.append(model.index(row, 0).data().toString());
+    QTEST(found, "found");
+    QCOMPARE(model.total(), 3);
+    model.sort(MvEntryListModel::NameColumn, Qt::DescendingOrder);
+    found.sort();
+    std::reverse(found.begin(), found.end());
+    for (int row = 0; row < model.rowCount(); ++row)
+        QCOMPARE(model.event(row).description(), found.at(row));
+    QCOMPARE(model.rowsOf(m_before).size(), model.rowCount());
+}
+
+MV_TEST_MAIN(tst_MvEntryEdits)
+#include "tst_MvEntryEdits.moc"
