@@ -15,6 +15,7 @@ public:
     QString summary() const override;
     QList<MvCliOption> options() const override;
     QStringList examples() const override;
+    bool hasPages() const override { return true; } // calendars and photos are read
     Result run(const MvCliArguments &arguments, const Streams &streams) const override;
 
 private:
