@@ -5,7 +5,7 @@
 #include "MvCalendar/MvEntryIntake.h"
 #include "MvCliCommand.h"
 
-/// "entries": personal entries listed, taken in from other programs, given to them, checked.
+/// "entries": personal entries listed, added and removed, taken in from other programs, given to them, checked.
 class MvEntriesCommand : public MvCliCommand
 {
     Q_DECLARE_TR_FUNCTIONS(MvEntriesCommand)
@@ -15,14 +15,15 @@ public:
     QString summary() const override;
     QList<MvCliOption> options() const override;
     QStringList examples() const override;
+    bool hasPages() const override { return true; } // calendars and photos are read
     Result run(const MvCliArguments &arguments, const Streams &streams) const override;
 
 private:
+    static QStringList actions();
+    static Result misuse(const MvCliArguments &arguments);
     static Result import(const MvCliArguments &arguments, const Streams &streams);
     static Result check(const MvEntryReading &reading, const QString &file, const Streams &streams);
-    static Result exportTo(const MvCalendarEventList &events, const MvCliArguments &arguments, const Streams &streams);
-    static MvOutcome store(const MvCalendarEventList &events, const QString &target);
-    static void printText(const MvCalendarEventList &events, QTextStream &out);
-    static void printJson(const MvCalendarEventList &events, QTextStream &out);
-    static void printSkipped(const MvEntryReading &reading, const QString &file, QTextStream &hints);
+    static Result exportTo(MvCalendarEventList events, const MvCliArguments &arguments, const Streams &streams);
+    /// Those that --holidays and --vacations ask for.
+    static MvCalendarEventList holidays(const MvCliArguments &arguments, QString *error, QTextStream &hints);
 };

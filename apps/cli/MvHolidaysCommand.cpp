@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvHolidaysCommand.h"
 
+#include "MvCalendar/MvHolidayEntries.h"
+#include "MvCalendar/MvICalendar.h"
 #include "MvCliValues.h"
 #include "MvCore/MvApplicationLocale.h"
 #include "MvProductBase/MvCalendariumHolidayCacheKey.h"
@@ -54,33 +56,6 @@ QString csvField(const QString &text)
     return u'"' + QString(text).replace(u'"', u"\"\""_s) + u'"';
 }
 
-/// A holiday or a run of vacation days.
-struct Span
-{
-    MvCalendariumHoliday holiday;
-    QDate last;
-};
-
-/// Vacation days of one name that follow each other become one span; weekends inside belong to them.
-QList<Span> spansOf(const MvCalendariumHolidayList &holidays)
-{
-    QList<Span> spans;
-    for (const MvCalendariumHoliday &holiday : holidays) {
-        bool isContinued = false;
-        for (qsizetype i = spans.size() - 1; i >= 0 && !isContinued; --i) {
-            Span &span = spans[i];
-            isContinued = holiday.type() == HOLIDAY_TYPE_SCHOOL_VACATION &&
-                          span.holiday.type() == HOLIDAY_TYPE_SCHOOL_VACATION &&
-                          span.holiday.description() == holiday.description() && span.last.daysTo(holiday.date()) == 1;
-            if (isContinued)
-                span.last = holiday.date();
-        }
-        if (!isContinued)
-            spans.append({holiday, holiday.date()});
-    }
-    return spans;
-}
-
 } // namespace
 
 QString MvHolidaysCommand::summary() const
@@ -95,14 +70,24 @@ QList<MvCliOption> MvHolidaysCommand::options() const
             regionOption(),
             {u"year"_s, tr("JAHR"), tr("Jahr (das kommende)")},
             {u"to"_s, tr("JAHR"), tr("letztes Jahr, wenn es mehrere sind")},
-            formatOption({u"text"_s, u"csv"_s, u"json"_s}),
+            formatOption({u"text"_s, u"csv"_s, u"json"_s, u"ics"_s}),
             jsonOption()};
 }
 
 QStringList MvHolidaysCommand::examples() const
 {
     return {u"holidays --country DE --region BY --year 2027"_s,
-            u"holidays --region Sachsen --year 2027 --to 2030 --format csv"_s};
+            u"holidays --region Sachsen --year 2027 --to 2030 --format csv"_s,
+            u"holidays --region BY --year 2027 --format ics"_s};
+}
+
+MvHolidaysCommand::Years MvHolidaysCommand::years(MvCliValues &values)
+{
+    const int year = values.year(u"year"_s, MvDateRange::createDefaultCalendarStart().year());
+    const int lastYear = values.year(u"to"_s, year);
+    if (lastYear < year || lastYear - year >= mostYears)
+        values.setError(tr("--to „%1“: erlaubt sind %2 bis %3").arg(lastYear).arg(year).arg(year + mostYears - 1));
+    return {year, lastYear};
 }
 
 MvCliCommand::Result MvHolidaysCommand::run(const MvCliArguments &arguments, const Streams &streams) const
@@ -110,11 +95,8 @@ MvCliCommand::Result MvHolidaysCommand::run(const MvCliArguments &arguments, con
     MvCliValues values(arguments);
     const MvLocale locale = values.country();
     const QString region = values.region(locale);
-    const int year = values.year(u"year"_s, MvDateRange::createDefaultCalendarStart().year());
-    const int lastYear = values.year(u"to"_s, year);
-    const QString format = values.format({u"text"_s, u"csv"_s, u"json"_s});
-    if (lastYear < year || lastYear - year >= mostYears)
-        values.setError(tr("--to „%1“: erlaubt sind %2 bis %3").arg(lastYear).arg(year).arg(year + mostYears - 1));
+    const auto [year, lastYear] = years(values);
+    const QString format = values.format({u"text"_s, u"csv"_s, u"json"_s, u"ics"_s});
     if (!values.isOk())
         return misused(values.error());
 
@@ -125,7 +107,11 @@ MvCliCommand::Result MvHolidaysCommand::run(const MvCliArguments &arguments, con
         holidays.append(
             MvCalendariumHolidayCalculator::instance().holidaysOfYear(MvCalendariumHolidayCacheKey(each, config)));
 
-    if (format == u"csv"_s)
+    if (format == u"ics"_s)
+        streams.out << QString::fromUtf8(MvICalendar::toBytes(
+            MvHolidayEntries::of(config, year, lastYear,
+                                 MvHolidayEntries::Kinds(MvHolidayEntries::Holidays | MvHolidayEntries::Vacations))));
+    else if (format == u"csv"_s)
         printCsv(holidays, streams.out);
     else if (format == u"json"_s)
         printJson(holidays, streams.out);
@@ -139,7 +125,8 @@ void MvHolidaysCommand::printText(const MvCalendariumHolidayList &holidays, QTex
 {
     const QLocale locale = MvApplicationLocale::instance().locale();
     MvTextTable table;
-    for (const Span &span : spansOf(holidays)) {
+    const QList<MvHolidayEntries::Span> spans = MvHolidayEntries::spans(holidays);
+    for (const MvHolidayEntries::Span &span : spans) {
         const auto describe = [&](const QDate &date) { return locale.toString(date, tr("ddd dd.MM.yyyy")); };
         QString days = describe(span.holiday.date());
         if (span.last != span.holiday.date())

@@ -4,6 +4,8 @@
 #include "MvCliCommand.h"
 #include "MvProductBase/MvCalendariumHolidayList.h"
 
+class MvCliValues;
+
 /// "holidays": the holidays and school vacations of some years.
 class MvHolidaysCommand : public MvCliCommand
 {
@@ -15,6 +17,14 @@ public:
     QList<MvCliOption> options() const override;
     QStringList examples() const override;
     Result run(const MvCliArguments &arguments, const Streams &streams) const override;
+
+    struct Years
+    {
+        int first;
+        int last;
+    };
+    /// "--year" and "--to"; the coming year without them.
+    static Years years(MvCliValues &values);
 
 private:
     static void printText(const MvCalendariumHolidayList &holidays, QTextStream &out);

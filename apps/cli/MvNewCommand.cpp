@@ -23,7 +23,9 @@ QList<MvCliOption> MvNewCommand::options() const
     return MvFotoCalendar::options() + MvCalendarOptions::content() + MvCalendarOptions::paper() +
            QList<MvCliOption>{
                {u"entries"_s, tr("DATEI"),
-                tr("persönliche Einträge, die der Kalender zeigt; die Datei gehört dann dazu")},
+                tr("persönliche Einträge, die der Kalender zeigt; eine Liste (XML) gehört dann dazu, aus anderen "
+                   "Dateien "
+                   "kommen sie in das Projekt")},
                {u"my-entries"_s,
                 {},
                 tr("der Kalender zeigt die eigenen persönlichen Einträge; sie kommen, wie sie jetzt sind, "
@@ -56,23 +58,22 @@ MvCliCommand::Result MvNewCommand::run(const MvCliArguments &arguments, const St
     MvCliProject project = calendar.make(hints.stream());
     if (!project.isOk())
         return failed(project.error);
-    if (values.has(u"entries"_s)) {
-        const MvRenderEntries entries = MvRenderEntries::ofFile(QFileInfo(values.text(u"entries"_s)));
-        if (!entries.error().isEmpty())
-            return failed(entries.error());
-        entries.printHints(streams.hints);
-        project.document.setEntriesFile(entries.file().absoluteFilePath());
-    }
     project.document.setFeature(FEATURE_ENTRIES, values.has(u"entries"_s) || values.has(u"my-entries"_s));
     MvProjectEntryFotos::Taken own;
-    if (values.has(u"my-entries"_s)) {
-        const MvRenderEntries entries = MvRenderEntries::own();
+    MvProjectFile::Entries list;
+    if (values.has(u"entries"_s) || values.has(u"my-entries"_s)) {
+        const MvRenderEntries entries =
+            values.has(u"entries"_s) ? MvRenderEntries::ofFile(values.text(u"entries"_s)) : MvRenderEntries::own();
         if (!entries.error().isEmpty())
             return failed(entries.error());
         entries.printHints(streams.hints);
-        own = MvProjectEntryFotos::takeAlong(entries.list(), file.absoluteDir());
+        if (entries.isList()) {
+            project.document.setEntriesFile(entries.file().absoluteFilePath());
+        } else {
+            own = MvProjectEntryFotos::takeAlong(entries.list(), file.absoluteDir());
+            list = own.events;
+        }
     }
-    const MvProjectFile::Entries list = values.has(u"my-entries"_s) ? own.events : MvProjectFile::Entries();
     const MvOutcome written = MvProjectFile::write(project.document, list, file);
     if (!written.isOk())
         return failed(written.error);

@@ -31,7 +31,9 @@ QList<MvCliOption> MvRenderCommand::options() const
     return options +
            QList<MvCliOption>{
                {u"entries"_s, tr("DATEI"),
-                tr("persönliche Einträge aus dieser Datei; was darin nicht lesbar ist, wird genannt")},
+                tr("persönliche Einträge aus dieser Datei: Liste (XML), Kalender (iCalendar), Tabelle (CSV), "
+                   "Visitenkarten "
+                   "(vCard) oder Projekt, - ist die Standardeingabe; was darin nicht lesbar ist, wird genannt")},
                {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge, ebenso")},
                {u"entry-text"_s, tr("MUSTER"), tr("wie sie zu lesen sind, mit %name, %age, %year, %round: \"%name (%age)\"")},
                {u"hide-group"_s, tr("NAME"), tr("Einträge dieser Gruppe weglassen"), true},
@@ -178,7 +180,7 @@ MvRenderEntries MvRenderCommand::takeEntries(const MvCliValues &values, const Mv
     if (values.has(u"my-entries"_s))
         entries = MvRenderEntries::own();
     else if (values.has(u"entries"_s))
-        entries = MvRenderEntries::ofFile(QFileInfo(values.text(u"entries"_s)));
+        entries = MvRenderEntries::ofFile(values.text(u"entries"_s));
     document.setFeature(FEATURE_ENTRIES, entries.areShown());
     return entries;
 }

@@ -4,6 +4,8 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCalendar/MvEntryIntake.h"
+#include "MvCore/MvRegularFile.h"
+#include "MvEntriesInput.h"
 
 #include <QDir>
 
@@ -13,13 +15,36 @@ namespace {
 
 constexpr int mostHints = 20;
 
+/// What cannot be opened counts as one: then that is what is said of it.
+bool isListFile(const QString &path)
+{
+    if (MvEntriesInput::isStandardStream(path) || MvEntriesInput::isProject(path))
+        return false;
+    const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(path));
+    return !opened.isOk() || MvEntryIntake::kindOf(opened.file->peek(4096)) == MvEntryIntake::Kind::List;
+}
+
 } // namespace
 
-MvRenderEntries MvRenderEntries::ofFile(const QFileInfo &file)
+MvRenderEntries MvRenderEntries::ofFile(const QString &path)
 {
     MvRenderEntries entries;
     entries.m_isFile = true;
-    entries.take(MvEntryIntake::readAsList(file), file);
+    entries.m_isList = isListFile(path);
+    MvCalendarEventFile::Content content;
+    if (!entries.m_isList) {
+        const MvEntryReading reading = MvEntriesInput::read(path);
+        content.events = reading.events;
+        content.error = reading.error;
+        content.skipped = reading.skipped;
+        entries.m_notes = reading.notes;
+        entries.m_fotos = reading.fotos;
+    }
+    const bool isUnknown =
+        !content.error.isEmpty() && !MvEntriesInput::isStandardStream(path) && !MvEntriesInput::isProject(path);
+    if (entries.m_isList || isUnknown) // which says best what is wrong
+        content = MvEntryIntake::readAsList(QFileInfo(path));
+    entries.take(content, QFileInfo(path));
     return entries;
 }
 
@@ -39,7 +64,7 @@ MvRenderEntries MvRenderEntries::ofProject(const MvCliProject &project)
     if (!project.document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
         return {};
     if (!project.entries)
-        return file.isEmpty() ? own() : ofFile(QFileInfo(file));
+        return file.isEmpty() ? own() : ofFile(file);
     MvRenderEntries entries;
     entries.take(*project.entries, project.file);
     return entries;
@@ -80,6 +105,8 @@ void MvRenderEntries::printHints(QTextStream &hints) const
                     int(m_skipped.size() - mostHints))
                      .arg(file)
               << '\n';
+    for (const QString &note : m_notes)
+        hints << tr("%1: %2").arg(file, note) << '\n';
     if (m_isFile && !m_areShown)
         hints << tr("%1: keine Einträge gefunden").arg(file) << '\n';
 }

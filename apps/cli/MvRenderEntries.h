@@ -12,14 +12,17 @@
 
 #include <memory>
 
+class QTemporaryDir;
+
 /// The personal entries of a calendar that is printed: where they come from, and what of their file is left out.
 class MvRenderEntries
 {
     Q_DECLARE_TR_FUNCTIONS(MvRenderEntries)
 
 public:
-    /// Those of a file; nothing is stored, and the user's own ones stay as they are.
-    static MvRenderEntries ofFile(const QFileInfo &file);
+    /// Those of a file of any kind (MvEntriesInput), or of standard input; nothing is stored, and the user's own ones
+    /// stay as they are.
+    static MvRenderEntries ofFile(const QString &path);
     /// Those that a calendar shows: of its own list, of the list in a file that it names, or the user's; none where no
     /// page shows entries.
     static MvRenderEntries ofProject(const MvCliProject &project);
@@ -29,6 +32,8 @@ public:
     /// Why nothing is to be printed, in one line for a person; empty when the entries are known.
     const QString &error() const { return m_error; }
     bool areShown() const { return m_areShown; }
+    /// They come from a list of this program's own form.
+    bool isList() const { return m_isList; }
     const QFileInfo &file() const { return m_file; }
     /// The entries of the file, for painting; null for the user's own ones. Owned here and by copies.
     const MvCalendarEventSource *source() const { return m_source.get(); }
@@ -45,6 +50,9 @@ private:
     QString m_error;
     bool m_areShown = false;
     bool m_isFile = false; // named by the call
+    bool m_isList = false;
+    QStringList m_notes;
+    std::shared_ptr<const QTemporaryDir> m_fotos; // in which photos of the file lie
     std::shared_ptr<const MvCalendarEventListSource> m_source;
     QList<MvCalendarEventFile::Skipped> m_skipped;
 };

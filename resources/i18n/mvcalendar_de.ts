@@ -91,6 +91,16 @@
     </message>
 </context>
 <context>
+    <name>MvCardIntake</name>
+    <message numerus="yes">
+        <source>%n Visitenkarten haben kein Datum.</source>
+        <translation>
+            <numerusform>%n Visitenkarte hat kein Datum.</numerusform>
+            <numerusform>%n Visitenkarten haben kein Datum.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvDiskAccessRequest</name>
     <message numerus="yes">
         <source>… und %n weitere Fotos.</source>
@@ -101,7 +111,7 @@
     </message>
 </context>
 <context>
-    <name>MvEntriesCommand</name>
+    <name>MvEntriesInput</name>
     <message numerus="yes">
         <source>%1: %n weitere ausgelassen</source>
         <translation>
@@ -317,6 +327,16 @@
         <translation>
             <numerusform> (und %n weiterer Fehler in dieser Datei)</numerusform>
             <numerusform> (und %n weitere Fehler in dieser Datei)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvICalendar</name>
+    <message numerus="yes">
+        <source>%n Zeilen sind nicht zu lesen, dies ist die erste</source>
+        <translation>
+            <numerusform>%n Zeile ist nicht zu lesen</numerusform>
+            <numerusform>%n Zeilen sind nicht zu lesen, dies ist die erste</numerusform>
         </translation>
     </message>
 </context>

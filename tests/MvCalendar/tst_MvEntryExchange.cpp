@@ -3,9 +3,15 @@
 #include "MvTest.h"
 
 #include "MvCalendar/MvEntryTable.h"
+#include "MvCalendar/MvHolidayEntries.h"
 #include "MvCalendar/MvICalendar.h"
+#include "MvCore/MvLocale.h"
 
+#include <QDir>
+#include <QElapsedTimer>
 #include <QRandomGenerator>
+
+#include <libical/ical.h>
 
 #include <ctime>
 
@@ -18,11 +24,21 @@ class tst_MvEntryExchange : public MvTest
 private Q_SLOTS:
     void reads_data();
     void reads();
+    void fotosOfCards();
     void comesBackAsItWas();
+    void isUnderstoodByAnotherProgram();
+    void holidaysOfTheCountry();
     void takenTwiceAddsNothing();
+    void survivesBrokenFiles_data();
     void survivesBrokenFiles();
 
 private:
+    static QByteArray contentOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    static QDir corpus() { return QDir(QStringLiteral(MV_TEST_DATA "/../fuzz/seeds/fuzz_MvEntryIntake")); }
     /// "2027-03-01–2027-03-05 19:30 Name [rule] {groups}", by line.
     static QString told(const MvEntryReading &reading)
     {
@@ -46,62 +62,25 @@ private:
         }
         for (const MvCalendarEventFile::Skipped &skipped : reading.skipped)
             lines.append(u"%1: %2: %3"_s.arg(QString::number(skipped.line), skipped.name, skipped.reason));
+        for (const QString &note : reading.notes)
+            lines.append(u"note: "_s + note);
         return lines.join(u'\n');
     }
     static MvCalendarEventList everything();
 };
 
+/// Files as other programs write them, and what stands in them.
 void tst_MvEntryExchange::reads_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("expected");
-    const auto calendar = [](const QByteArray &event) {
-        return "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VEVENT\r\n" + event + "END:VEVENT\r\nEND:VCALENDAR\r\n";
-    };
-    const auto row = [](const char *name, const QByteArray &bytes, const QString &expected) {
-        QTest::newRow(name) << bytes << expected;
-    };
-    row("whole days, folded, escaped",
-        calendar("DTSTART;VALUE=DATE:20270301\r\nDTEND;VALUE=DATE:20270306\r\nSUMMARY:Klausuren\\, Klas\r\n se 5b\r\n"
-                 "CATEGORIES:Schule,Klasse 5b\r\n"),
-        u"2027-03-01-2027-03-05 Klausuren, Klasse 5b {Schule} {Klasse 5b}"_s);
-    row("birthday", calendar("DTSTART;VALUE=DATE:19670301\r\nSUMMARY:J\xc3\xb6rg\r\nRRULE:FREQ=YEARLY\r\n"),
-        u"1967-03-01 Jörg []"_s);
-    row("Western European", calendar("DTSTART:20270301\r\nSUMMARY:J\xf6rg\r\n"), u"2027-03-01 Jörg"_s);
-    row("time of the zone, exceptions, a date of its own",
-        calendar(
-            "DTSTART;TZID=Europe/Berlin:20270104T193000\r\nSUMMARY:Chor\r\nRRULE:FREQ=WEEKLY;UNTIL=20270201T183000Z"
-            "\r\nEXDATE;TZID=Europe/Berlin:20270111T193000\r\nRDATE;VALUE=PERIOD:20270112T193000/PT2H\r\n"),
-        u"2027-01-04 19:30 Chor [FREQ=WEEKLY;UNTIL=20270201] not 2027-01-11 also 2027-01-12"_s);
-    row("a date of a series that was moved",
-        "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:a\nDTSTART:20270104\nSUMMARY:Chor\nRRULE:FREQ=WEEKLY\nEND:VEVENT\n"
-        "BEGIN:VEVENT\nUID:a\nRECURRENCE-ID:20270111\nDTSTART:20270113\nSUMMARY:Chor\nEND:VEVENT\nEND:VCALENDAR\n",
-        u"2027-01-04 Chor [FREQ=WEEKLY] not 2027-01-11\n2027-01-13 Chor"_s);
-    row("night over the end of the day", calendar("DTSTART:20271231T200000\nDURATION:PT6H\nSUMMARY:Silvester\n"),
-        u"2027-12-31-2028-01-01 20:00 Silvester"_s);
-    row("what no calendar has", calendar("DTSTART:20270230\nSUMMARY:A\n"),
-        u"3: A: das Datum „20270230“ ist nicht zu lesen"_s);
-    row("what no clock has", calendar("DTSTART:20270201T250000\nSUMMARY:A\n"),
-        u"3: A: das Datum „20270201T250000“ ist nicht zu lesen"_s);
-    row("every second", calendar("DTSTART:19700101\nSUMMARY:A\nRRULE:FREQ=SECONDLY\n"),
-        u"3: A: die Wiederholung ist nicht auszuwerten: sie wiederholt sich öfter als einmal am Tag"_s);
-    row("cut", "BEGIN:VCALENDAR\nBEGIN:VEVENT\nSUMMARY:A\nDTSTART:2027", u"2: A: die Datei endet mittendrin"_s);
-    row("called off, and a task",
-        "BEGIN:VCALENDAR\nBEGIN:VTODO\nSUMMARY:T\nEND:VTODO\nBEGIN:VEVENT\nSTATUS:CANCELLED\nSUMMARY:A\n"
-        "DTSTART:20270101\nEND:VEVENT\nEND:VCALENDAR\n",
-        u"2: T: Aufgaben und Notizen sind keine Einträge\n5: A: der Termin ist abgesagt"_s);
-
-    row("table of a spreadsheet",
-        "Datum;Termin;Gruppe;Uhrzeit\r\n17.05.2027;Sommerfest;Verein, Jugend;14:30\r\n18.5.27;\"Probe; "
-        "\"\"lang\"\"\";;\r\n",
-        u"2027-05-17 14:30 Sommerfest {Verein} {Jugend}\n2027-05-18 Probe; \"lang\""_s);
-    row("of another country, with tabs", "Subject\tStart Date\tEnd Date\nFair\t5/17/2027\t5/19/2027\nTea\t6/1/2027\t\n",
-        u"2027-05-17-2027-05-19 Fair\n2027-06-01 Tea"_s);
-    row("Windows-1252, without headings", "J\xf6rg;17.05.1941\nErika;29.02.\nUwe;1.4.1950\nIda;2.4.1961\n",
-        u"1941-05-17 Jörg []\n1604-02-29 Erika []\n1950-04-01 Uwe []\n1961-04-02 Ida []"_s);
-    row("rows that are none", "Datum,Name,Uhrzeit\n30.02.2027,A,\n01.03.2027,,\n02.03.2027,C,25:00\n03.03.2027,D,\n",
-        u"2027-03-03 D\n2: A: das Datum „30.02.2027“ ist nicht zu lesen\n3: : der Name fehlt\n"
-        "4: C: die Uhrzeit „25:00“ ist nicht zu lesen"_s);
+    const QDir told(QStringLiteral(MV_TEST_DATA "/exchange"));
+    for (const QString &name : told.entryList({u"*.txt"_s}, QDir::Files))
+        QTest::newRow(qPrintable(name)) << contentOf(corpus().filePath(name.chopped(4)))
+                                        << QString::fromUtf8(contentOf(told.filePath(name))).trimmed();
+    QTest::newRow("table without headings, in Windows-1252")
+        << QByteArray("J\xf6rg;17.05.1941\nErika;29.02.\nUwe;1.4.1950\nIda;2.4.1961\n")
+        << u"1941-05-17 Jörg []\n1604-02-29 Erika []\n1950-04-01 Uwe []\n1961-04-02 Ida []"_s;
 }
 
 void tst_MvEntryExchange::reads()
@@ -112,6 +91,27 @@ void tst_MvEntryExchange::reads()
     const MvEntryReading reading = MvEntryIntake::read(bytes, u"file"_s);
     QVERIFY2(reading.isOk(), qPrintable(reading.error));
     QTEST(told(reading), "expected");
+}
+
+/// One that is too large is refused in words, and the birthday is taken nevertheless.
+void tst_MvEntryExchange::fotosOfCards()
+{
+    const auto card = [](const QByteArray &name, const QByteArray &foto) {
+        return "BEGIN:VCARD\nVERSION:3.0\nFN:" + name + "\nBDAY:1990-05-17\nPHOTO;ENCODING=b;TYPE=JPEG:" + foto +
+               "\nEND:VCARD\n";
+    };
+    const QByteArray small =
+        contentOf(QStringLiteral(MV_TEST_DATA "/../fuzz/seeds/fuzz_MvGuardedImageReader/photo.jpg"));
+    MvEntryReading reading = MvEntryIntake::read(
+        card("Erna", small.toBase64()) + card("Uwe", QByteArray(20 << 20, 'A')) + card("Ida", "AAAA"), u"file"_s);
+    QCOMPARE(MvEntries::names(reading.events), (QStringList{u"Erna"_s, u"Uwe"_s, u"Ida"_s}));
+    QCOMPARE(contentOf(reading.events.first().imagePath().filePath()), small);
+    QCOMPARE(reading.notes.size(), 2);
+    QVERIFY2(reading.notes.first().contains(u"Zeile 7, „Uwe“"_s) && reading.notes.first().contains(u"16 MB"_s),
+             qPrintable(reading.notes.first()));
+    const QString folder = reading.events.first().imagePath().path();
+    reading = {};
+    QVERIFY(!QDir(folder).exists());
 }
 
 MvCalendarEventList tst_MvEntryExchange::everything()
@@ -178,13 +178,79 @@ void tst_MvEntryExchange::takenTwiceAddsNothing()
     QVERIFY(report.changed == 1 && report.added == 0);
 }
 
+void tst_MvEntryExchange::isUnderstoodByAnotherProgram()
+{
+    MvCalendarEventList list = everything();
+    list.append(MvEntries::entry(u"Zweiter einer Reihe"_s, {2027, 1, 5}));
+    list.last() =
+        MvCalendarEvent(u"Zweiter einer Reihe"_s, QDate(2027, 1, 5).startOfDay(), true, {}, list.first().uuid(), {});
+    const QByteArray bytes = MvICalendar::toBytes(list);
+    const std::unique_ptr<icalcomponent, decltype(&icalcomponent_free)> calendar(
+        icalparser_parse_string(bytes.constData()), &icalcomponent_free);
+    QVERIFY(calendar && icalrestriction_check(calendar.get()));
+    QCOMPARE(icalcomponent_count_errors(calendar.get()), 0);
+    QSet<QByteArray> uids;
+    qsizetype number = 0;
+    for (icalcomponent *event = icalcomponent_get_first_component(calendar.get(), ICAL_VEVENT_COMPONENT); event;
+         event = icalcomponent_get_next_component(calendar.get(), ICAL_VEVENT_COMPONENT)) {
+        const MvCalendarEvent &entry = list.at(number++);
+        uids.insert(icalcomponent_get_uid(event));
+        QCOMPARE(QString::fromUtf8(icalcomponent_get_summary(event)), entry.description());
+        const icaltimetype start = icalcomponent_get_dtstart(event);
+        QCOMPARE(QDate(start.year, start.month, start.day), entry.dateTime().date());
+        const icaltimetype end = icalcomponent_get_dtend(event);
+        const QDate last = QDate(end.year, end.month, end.day).addDays(end.is_date ? -1 : 0);
+        QCOMPARE(last, entry.dateTime().date().addDays(entry.dayCount() - 1));
+    }
+    QCOMPARE(number, list.size());
+    QCOMPARE(uids.size(), list.size());
+}
+
+/// Bavaria's, as its ministry announced them.
+void tst_MvEntryExchange::holidaysOfTheCountry()
+{
+    const MvCalendariumHolidayConfig bavaria(MvLocale(u"de"_s, u"DE"_s), u"BY"_s);
+    const auto all = MvHolidayEntries::Holidays | MvHolidayEntries::Vacations;
+    const MvCalendarEventList days = MvHolidayEntries::of(bavaria, 2027, 2027, all);
+    const QString said = told(MvEntryIntake::read(MvICalendar::toBytes(days), u"file"_s));
+    for (const QString &line :
+         {u"2026-12-24-2027-01-08 Weihnachtsferien {Schulferien}"_s,
+          u"2027-08-02-2027-09-13 Sommerferien {Schulferien}"_s, u"2027-03-26 Karfreitag {Feiertage}"_s,
+          u"2027-01-06 Heilige Drei Könige {Feiertage}"_s})
+        QVERIFY2(said.contains(line), qPrintable(said));
+    MvEntryIntake::Report report;
+    MvEntryReading next;
+    next.events = MvHolidayEntries::of(bavaria, 2026, 2027, all); // the vacations over new year are the same
+    MvEntryIntake::joined(days, next, &report);
+    QCOMPARE(report.equal, int(days.size()));
+    QCOMPARE(report.changed, 0);
+    QCOMPARE(MvHolidayEntries::of(bavaria, 2027, 2027, MvHolidayEntries::Holidays).size() +
+                 MvHolidayEntries::of(bavaria, 2027, 2027, MvHolidayEntries::Vacations).size(),
+             days.size());
+}
+
+void tst_MvEntryExchange::survivesBrokenFiles_data()
+{
+    QTest::addColumn<QByteArray>("whole");
+    for (const QString &name : corpus().entryList(QDir::Files))
+        QTest::newRow(qPrintable(name)) << contentOf(corpus().filePath(name));
+    QTest::newRow("own iCalendar") << MvICalendar::toBytes(everything());
+    QTest::newRow("components within each other")
+        << "BEGIN:VCALENDAR\n" + QByteArray("BEGIN:A\n").repeated(20000) + QByteArray("END:B\n").repeated(20000);
+    QTest::newRow("one name, thousands of rules")
+        << "BEGIN:VCALENDAR\n" +
+               QByteArray("BEGIN:VEVENT\nUID:1\nDTSTART:20270101\nSUMMARY:A\nRRULE:FREQ=DAILY\nEND:VEVENT\n")
+                   .repeated(3000);
+}
+
 void tst_MvEntryExchange::survivesBrokenFiles()
 {
+    QFETCH(QByteArray, whole);
+    const bool isNight = !qEnvironmentVariableIsEmpty("MV_NIGHTLY");
     QRandomGenerator random(20270301);
-    const QByteArray whole[] = {MvICalendar::toBytes(everything()), MvEntryTable::toBytes(everything())};
-    for (int i = 0; i < 100; ++i) {
-        QByteArray broken = whole[i % 2];
-        for (int change = 0; change < 3; ++change) {
+    for (int i = 0; i < (isNight ? 300 : 8); ++i) {
+        QByteArray broken = whole;
+        for (int change = 0; change < i % 4; ++change) {
             const qsizetype at = random.bounded(broken.size());
             switch (random.bounded(3)) {
             case 0:
@@ -198,12 +264,21 @@ void tst_MvEntryExchange::survivesBrokenFiles()
                 broken.append('x');
             }
         }
+        QElapsedTimer watch;
+        watch.start();
         const MvEntryReading reading = MvEntryIntake::read(broken, u"file"_s);
+        MvEntryIntake::Report report;
+        const MvCalendarEventList joined = MvEntryIntake::joined(reading.events, reading, &report);
+        QVERIFY2(!isNight || watch.elapsed() < 2000, "it hangs");
         QVERIFY(reading.isOk() || reading.error.startsWith(u"file: "));
+        QCOMPARE(joined.size(), reading.events.size());
         for (const MvCalendarEvent &event : reading.events)
             QVERIFY(event.isValid());
         for (const MvCalendarEventFile::Skipped &skipped : reading.skipped)
             QVERIFY(skipped.line > 0 && !skipped.reason.isEmpty());
+        if (i == 0 && whole.contains("VCALENDAR"))
+            QVERIFY(reading.events.size() + reading.skipped.size() >=
+                    whole.count("BEGIN:VEVENT") - whole.count("CANCELLED")); // some are exceptions of others
     }
 }
 

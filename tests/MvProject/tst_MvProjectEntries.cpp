@@ -37,6 +37,7 @@ private Q_SLOTS:
     void filesThatAreNotWhole_data();
     void filesThatAreNotWhole();
     void fotosGoWithTheCalendar();
+    void fotosNobodyNeedsGo();
     void calendarsWithoutAListTakeTheUsers();
     void unreadableListsAreNotReplacedByNothing();
     void nobodysChangesAreLost();
@@ -90,16 +91,17 @@ void tst_MvProjectEntries::cleanup()
 
 namespace {
 
-/// What the lists should be: the name of each entry by its uuid.
+/// What the lists should be: the fields of each entry by its uuid.
 class Model
 {
 public:
-    using List = QMap<QUuid, QString>;
+    using Fields = QStringList; // name, last day, groups; empty: it is not there
+    using List = QMap<QUuid, Fields>;
     struct Change
     {
         QUuid id;
-        QString before; // empty: it was not there
-        QString after;
+        Fields before;
+        Fields after;
     };
     struct Step
     {
@@ -107,23 +109,41 @@ public:
         QList<Change> own;
     };
 
+    static Fields fieldsOf(const MvCalendarEvent &event)
+    {
+        return {event.description(), event.endDate().toString(Qt::ISODate), event.groups().join(u',')};
+    }
+
     static List listOf(const MvCalendarEventList &events)
     {
         List list;
-        for (const MvCalendarEvent &event : events)
-            list.insert(event.uuid(), event.description());
+        for (const MvCalendarEvent &event : events) {
+            list.insert(event.uuid(), fieldsOf(event));
+            for (const QString &id : event.groups())
+                if (!events.groups().find(id))
+                    list[event.uuid()].append(u"no group "_s + id);
+        }
         return list;
     }
 
-    Step stepOf(const QUuid &id, const QString &after, bool reaches) const
+    /// What is there keeps the fields that are not as they were before.
+    static Fields stepFrom(const Fields &before, const Fields &after, const Fields &there)
+    {
+        Fields fields;
+        for (qsizetype i = 0; i < there.size(); ++i)
+            fields.append(there.at(i) == before.at(i) ? after.at(i) : there.at(i));
+        return fields;
+    }
+
+    Step stepOf(const QUuid &id, const Fields &after, bool reaches) const
     {
         Step step{{{id, active.value(id), after}}, {}};
-        const QString before = active.value(id);
-        const QString there = own.value(id);
+        const Fields before = active.value(id);
+        const Fields there = own.value(id);
         if (reaches && (before.isEmpty() || (there.isEmpty() && !after.isEmpty())))
             step.own.append({id, {}, after});
-        else if (reaches && (after.isEmpty() || there == before))
-            step.own.append({id, there, after});
+        else if (reaches && !there.isEmpty())
+            step.own.append({id, there, after.isEmpty() ? after : stepFrom(before, after, there)});
         return step;
     }
 
@@ -132,8 +152,8 @@ public:
         const auto takeOver = [isUndone](List &list, const QList<Change> &changes) {
             const List before = list;
             for (const Change &change : changes) {
-                const QString name = isUndone ? change.before : change.after;
-                name.isEmpty() ? void(list.remove(change.id)) : void(list.insert(change.id, name));
+                const Fields fields = isUndone ? change.before : change.after;
+                fields.isEmpty() ? void(list.remove(change.id)) : void(list.insert(change.id, fields));
             }
             return list != before;
         };
@@ -171,6 +191,20 @@ void tst_MvProjectEntries::listsGoTheirOwnWays()
         QVERIFY(MvProjectFile::write(document(), MvCalendarEventList(), file(QString::number(number))).isOk());
     QVERIFY(m_project->open(file(u"0"_s)).isOk());
     const auto name = [&random] { return u"E%1"_s.arg(random.bounded(1000000)); };
+    const auto vary = [&](MvCalendarEvent &event) {
+        const MvEventGroup group = MvEventGroup::named(u"Gruppe %1"_s.arg(random.bounded(4)));
+        switch (random.bounded(3)) {
+        case 0:
+            event.setEventName(name());
+            break;
+        case 1:
+            event.setEndDate(event.dateTime().date().addDays(random.bounded(5)));
+            break;
+        default:
+            registry().addGroups({group});
+            event.setGroups({group.id});
+        }
+    };
     const auto push = [&](const Model::Step &step) {
         model.apply(step, false);
         done.append(step);
@@ -182,19 +216,23 @@ void tst_MvProjectEntries::listsGoTheirOwnWays()
         switch (random.bounded(12)) {
         case 0:
         case 1: {
-            const MvCalendarEvent event = entry(name(), {2000, 1, 1 + random.bounded(28)});
-            push(model.stepOf(event.uuid(), event.description(), m_project->doEntriesReachOwn()));
+            MvCalendarEvent event = entry(name(), {2000, 1, 1 + random.bounded(28)});
+            vary(event);
+            push(model.stepOf(event.uuid(), Model::fieldsOf(event), m_project->doEntriesReachOwn()));
             tst_MvProjectEntries::push({}, event);
             break;
         }
         case 2:
         case 3: {
-            MvCalendarEvent after = any;
-            after.setEventName(name());
-            const bool isRemoved = random.bounded(3) == 0;
             if (!any.isValid())
                 break;
-            push(model.stepOf(any.uuid(), isRemoved ? QString() : after.description(), m_project->doEntriesReachOwn()));
+            MvCalendarEvent after = any;
+            vary(after);
+            const bool isRemoved = random.bounded(3) == 0;
+            if (after == any && !isRemoved)
+                break;
+            push(model.stepOf(any.uuid(), isRemoved ? Model::Fields() : Model::fieldsOf(after),
+                              m_project->doEntriesReachOwn()));
             tst_MvProjectEntries::push(any, isRemoved ? MvCalendarEvent() : after);
             break;
         }
@@ -224,16 +262,17 @@ void tst_MvProjectEntries::listsGoTheirOwnWays()
             const int other = random.bounded(3);
             MvCalendarEventList list = inFile(file(QString::number(other)));
             list.append(entry(name(), {2000, 2, 2}));
+            list.last().setGroups({list.groups().idOfName(u"Gruppe anderer"_s)});
             QVERIFY(MvProjectFile::write(document(), list, file(QString::number(other))).isOk());
             if (other == open)
-                model.othersInFile.insert(list.last().uuid(), list.last().description());
+                model.othersInFile.insert(list.last().uuid(), Model::listOf(list).value(list.last().uuid()));
             break;
         }
         case 10: {
             MvCalendarEventList list = usersFile();
             list.append(entry(name(), {2000, 3, 3}));
             QVERIFY(MvTestFiles::write(path(u"daten/calendarEvents.xml"_s), MvCalendarEventFile::toBytes(list)));
-            model.othersInOwn.insert(list.last().uuid(), list.last().description());
+            model.othersInOwn.insert(list.last().uuid(), Model::fieldsOf(list.last()));
             break;
         }
         default: // another calendar, or a new one
@@ -351,6 +390,55 @@ void tst_MvProjectEntries::fotosGoWithTheCalendar()
     const MvOutcome without = m_project->saveAs(file(u"b/k.mvcalendar"_s));
     QVERIFY2(without.isOk() && without.notes.join(u' ').contains(u"„Oma Erna“"_s), qPrintable(without.error));
     QCOMPARE(registry().activeEventList().first().imagePath().isFile(), true);
+}
+
+/// But not before nothing names them any more, and never what somebody else has put there.
+void tst_MvProjectEntries::fotosNobodyNeedsGo()
+{
+    QVERIFY(MvTestFiles::writeFoto(path(u"rot.png"_s), {16, 12}, Qt::red));
+    const MvCalendarEvent oma = entry(u"Oma"_s, {1941, 1, 9}, MvFoto(file(u"rot.png"_s)));
+    push({}, oma);
+    MvCalendarDocument lines = document();
+    lines.setTitle(u"zwei\nZeilen"_s); // which a file writes as a number
+    m_project->change(lines, u"Titel"_s);
+    QVERIFY(m_project->saveAs(file()).isOk());
+    const QDir folder(path(u"eintraege"_s));
+    const QString name = folder.entryList(QDir::Files).value(0);
+    QVERIFY(MvTestFiles::writeFoto(path(u"eintraege/fremd-0123456789ab.png"_s)));
+    const auto makeOld = [&folder] {
+        for (const QString &each : folder.entryList(QDir::Files)) {
+            QFile foto(folder.filePath(each));
+            QVERIFY(foto.open(QIODevice::ReadWrite) &&
+                    foto.setFileTime(QDateTime::currentDateTime().addDays(-2), QFileDevice::FileModificationTime));
+        }
+    };
+    makeOld();
+    const auto saveAnew = [this] { // with a change, as a person would
+        QVERIFY(m_project->open(file()).isOk());
+        added(u"Neu"_s);
+        QVERIFY(m_project->save().isOk());
+    };
+    const auto forgetBackups = [this] {
+        for (const QString &backup : QDir(m_folder->path()).entryList({u"*~"_s}, QDir::Files))
+            QVERIFY(QFile::remove(path(backup)));
+    };
+    push(registry().activeEventList().first(), {});
+    QVERIFY(m_project->save().isOk()); // a step back would bring it back
+    saveAnew();                        // a backup has it
+    QCOMPARE(folder.entryList(QDir::Files).size(), 2);
+    MvCalendarEvent beside = oma;
+    beside.relocateFoto(MvFoto(QFileInfo(folder.filePath(name))));
+    QVERIFY(MvProjectFile::write(document(), MvCalendarEventList{beside}, file(u"anderer.mvcalendar"_s)).isOk());
+    forgetBackups();
+    saveAnew(); // another calendar has it
+    QCOMPARE(folder.entryList(QDir::Files).size(), 2);
+    QVERIFY(QFile::rename(path(u"anderer.mvcalendar"_s), path(u"daten/weg"_s)));
+    forgetBackups();
+    saveAnew();
+    QCOMPARE(folder.entryList(QDir::Files), QStringList{u"fremd-0123456789ab.png"_s});
+    QVERIFY(QFile::rename(path(u"daten/weg"_s), path(u"anderer.mvcalendar"_s)));
+    QVERIFY(m_project->open(file(u"anderer.mvcalendar"_s)).isOk());
+    QVERIFY(registry().activeEventList().first().imagePath().isFile()); // the bin gives it back
 }
 
 void tst_MvProjectEntries::calendarsWithoutAListTakeTheUsers()

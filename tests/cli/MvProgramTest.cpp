@@ -4,7 +4,7 @@
 #include <QProcess>
 
 MvProgramTest::Call MvProgramTest::run(const QString &arguments, const QMap<QString, QString> &environment,
-                                       rlim_t memory) const
+                                       rlim_t memory, const QByteArray &input) const
 {
     QProcess process;
     QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
@@ -16,6 +16,8 @@ MvProgramTest::Call MvProgramTest::run(const QString &arguments, const QMap<QStr
         process.setChildProcessModifier(
             [limit = rlimit{memory << 20, memory << 20}] { ::setrlimit(RLIMIT_AS, &limit); });
     process.start(QStringLiteral(MV_PROGRAM), arguments.split(u' ', Qt::SkipEmptyParts));
+    process.write(input);
+    process.closeWriteChannel();
     if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
         return {-1, {}, "did not end by itself"};
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};

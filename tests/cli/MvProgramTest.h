@@ -29,7 +29,8 @@ protected:
         QList<QByteArray> outLines() const { return out.trimmed().split('\n'); }
     };
     /// Blanks part the arguments. With at most so many MiB of memory; 0 sets no limit.
-    Call run(const QString &arguments, const QMap<QString, QString> &environment = {}, rlim_t memory = 0) const;
+    Call run(const QString &arguments, const QMap<QString, QString> &environment = {}, rlim_t memory = 0,
+             const QByteArray &input = {}) const;
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
     QString path(const QString &name) const { return m_folder->filePath(name); }
     static void write(const QString &path, const QByteArray &content);

@@ -30,6 +30,9 @@ private Q_SLOTS:
     void rendersPdf();
     void rendersPng();
     void entries();
+    void entriesOfOtherPrograms();
+    void entriesAreAddedAndRemoved_data();
+    void entriesAreAddedAndRemoved();
     void damagedEntries();
     void skippedEntries();
     void hints_data();
@@ -111,6 +114,17 @@ void tst_mvcalendar::refuses_data()
     row("upright and across", u"render --landscape --portrait -o a.pdf"_s, 2, {u"--portrait"_s});
     row("too much bleed", u"render --bleed 21 -o a.pdf"_s, 2, {u"21"_s, u"20"_s});
     row("too few dots", u"render --dpi 5 -o a.png"_s, 2, {u"10 bis 1200"_s});
+    row("entry without a date", u"entries add Oma"_s, 2, {u"Datum"_s});
+    row("day that is none", u"entries add Oma 30.02.2027"_s, 2, {u"30.02.2027"_s});
+    row("repetition that may mean two things", u"entries add Oma 1.2.2027 --repeat=dienstags-und"_s, 2,
+        {u"„dienstags-und“"_s, u"alle 2 Wochen"_s});
+    row("weekly without a year", u"entries add Oma 1.2. --repeat wöchentlich"_s, 2, {u"Jahr"_s});
+    row("until before it begins", u"entries add Oma 1.2.2027 --until 1.1.2027"_s, 2, {u"--until"_s});
+    row("once, until", u"entries add Oma 1.2.2027 --repeat einmal --until 1.3.2027"_s, 2, {u"--until"_s});
+    row("photo that is none", u"entries add Oma 1.2.2027 --photo fehlt.png"_s, 1, {u"fehlt.png"_s});
+    row("removing what is not there", u"entries remove Oma --into fehlt.xml"_s, 1, {u"„Oma“"_s});
+    row("group of a list", u"entries list --group Verein"_s, 2, {u"--group"_s});
+    row("unknown action", u"entries exprot"_s, 2, {u"meinten Sie „export“"_s});
     row("no output", u"render --year 2027"_s, 2, {u"-o"_s, u".pdf"_s});
     row("suffix", u"render -o a.docx"_s, 2, {u"a.docx"_s, u".jpg, .tif oder .svg"_s});
     row("one name for twelve pictures", u"render -o a.png"_s, 2, {u"a.png"_s, u"%m"_s});
@@ -350,6 +364,98 @@ void tst_mvcalendar::entries()
     QVERIFY2(call.err.contains("none.xml: keine Einträge") && call.err.count('\n') == 1, call.err.constData());
     QCOMPARE(QImage(path(u"p.png"_s)), blank.value(2)); // the user's own ones do not step in
     QVERIFY(QFile::remove(own));
+}
+
+/// By content, whatever the file is called, and from standard input.
+void tst_mvcalendar::entriesOfOtherPrograms()
+{
+    write(path(u"e.xml"_s), entriesFile("Klaus", "1980-02-03"));
+    const QList<QImage> expected = render(u"--entries e.xml"_s);
+    const Call exported = run(u"entries export e.xml --format ics"_s);
+    QCOMPARE(exported.exitCode, 0);
+    const std::pair<const char *, QByteArray> files[] = {
+        {"ics", exported.out},
+        {"csv", "Name;Geburtstag\nKlaus;03.02.1980\nA;\n"},
+        {"vcf", "BEGIN:VCARD\nVERSION:4.0\nFN:Klaus\nBDAY:19800203\nEND:VCARD\n"}};
+    for (const auto &[name, content] : files) {
+        write(path(u"einträge"_s), content);
+        const QString page = u"render --from 2027-02 --months 1 --dpi 60 -o p.png --entries "_s;
+        for (const QString &place : {u"einträge"_s, u"-"_s}) {
+            const Call call = run(page + place, {}, 0, place == u"-" ? content : QByteArray());
+            QVERIFY2(call.exitCode == 0, call.err.constData());
+            QCOMPARE(QImage(path(u"p.png"_s)), expected.value(1));
+            QCOMPARE(call.err.contains(": Zeile 3"), QByteArray(name) == "csv");
+        }
+        const Call listed = run(u"entries list - --json"_s, {}, 0, content);
+        const QJsonObject entry = QJsonDocument::fromJson(listed.out).array().at(0).toObject();
+        QCOMPARE(entry.value(u"date"_s).toString(), u"1980-02-03"_s);
+        QVERIFY(entry.value(u"end"_s).isNull() && entry.value(u"days"_s).toInt() == 1);
+    }
+    write(path(u"k.ics"_s), exported.out);
+    QCOMPARE(run(u"new --entries k.ics --from 2027-02 --months 1 --no-cover --no-back -o k.mvcalendar"_s).exitCode, 0);
+    QVERIFY(QFile::remove(path(u"k.ics"_s)));
+    const QByteArray uid = exported.out.mid(exported.out.indexOf("UID:"), 40);
+    const QByteArray own = run(u"entries list k.mvcalendar --format ics"_s).out;
+    QVERIFY2(own.contains(uid) && own.contains("SUMMARY:Klaus"), own.constData());
+    const QByteArray days =
+        run(u"entries export e.xml --holidays --vacations --region BY --year 2027 --format ics"_s).out;
+    QVERIFY(days.contains("SUMMARY:Klaus") && days.contains("DTEND;VALUE=DATE:20270914")); // the day after
+    QVERIFY(days.contains("CATEGORIES:Schulferien") && !days.contains("DTSTAMP:\r"));
+}
+
+void tst_mvcalendar::entriesAreAddedAndRemoved_data()
+{
+    QTest::addColumn<QString>("into");
+    QTest::newRow("the user's own") << QString();
+    QTest::newRow("a list, which is new") << u" --into liste.xml"_s;
+    QTest::newRow("a calendar") << u" --into k/k.mvcalendar"_s;
+}
+
+void tst_mvcalendar::entriesAreAddedAndRemoved()
+{
+    QFETCH(QString, into);
+    QVERIFY(QDir().mkpath(path(u"k"_s)));
+    write(path(u"leer.csv"_s), "Name;Datum\n");
+    QCOMPARE(run(u"new --entries leer.csv --from 2027-02 --months 1 --no-cover --no-back -o k/k.mvcalendar"_s).exitCode,
+             0);
+    QImage foto(40, 30, QImage::Format_RGB32);
+    foto.fill(Qt::red);
+    QVERIFY(foto.save(path(u"rot.png"_s)));
+    const auto json = [&] {
+        return QJsonDocument::fromJson(run(u"entries list --json "_s + into.section(u' ', 2)).out).array();
+    };
+    const Call noList = run(u"entries add Oma 17.05.1941 --into leer.csv"_s);
+    QVERIFY(noList.exitCode == 1 && noList.err.contains("leer.csv") &&
+            contentOf(path(u"leer.csv"_s)).startsWith("Name"));
+    const Call added = run(u"entries add Oma 17.05.1941 --group Familie --group=Nachbarn --photo rot.png"_s + into);
+    QVERIFY2(added.exitCode == 0, added.err.constData());
+    const Call again = run(u"entries add Oma 17.5.1941 --group Familie --group=Nachbarn"_s + into);
+    QCOMPARE(again.out, added.out);
+    QVERIFY(again.err.contains("„Oma“"));
+    for (const QString &more :
+         {u"Oma 18.05.1943"_s, u"Kurs 07.01.2027 --repeat FREQ=WEEKLY;INTERVAL=2 --until 1.4.2027"_s,
+          u"Reise 24.07.2027 --end 07.08.2027 --time 9:30 --repeat einmal"_s, u"Schalttag 29.2."_s})
+        QCOMPARE(run(u"entries add "_s + more + into).exitCode, 0);
+    QJsonArray entries = json();
+    QCOMPARE(entries.size(), 5);
+    const auto value = [&entries](int entry, const QString &name) { return entries.at(entry).toObject().value(name); };
+    QCOMPARE(value(0, u"groups"_s).toArray(), (QJsonArray{u"Familie"_s, u"Nachbarn"_s}));
+    QCOMPARE(QImage(value(0, u"photo"_s).toString()).pixelColor(3, 3), QColor(Qt::red));
+    QVERIFY(value(0, u"photo"_s).toString() != path(u"rot.png"_s));
+    QCOMPARE(value(2, u"rule"_s).toString(), u"FREQ=WEEKLY;INTERVAL=2;UNTIL=20270401"_s);
+    QVERIFY(value(3, u"days"_s).toInt() == 15 && !value(3, u"yearly"_s).toBool());
+    QCOMPARE(value(4, u"leapDay"_s).toString(), u"february28"_s);
+
+    const Call unclear = run(u"entries remove oma"_s + into);
+    QVERIFY(unclear.exitCode == 2 && unclear.err.contains("17.05.1941") && unclear.err.contains("--all"));
+    QVERIFY(unclear.err.contains(added.out.trimmed()));
+    QCOMPARE(json().size(), 5);
+    QCOMPARE(run(u"entries remove Oma 17.05."_s + into).exitCode, 0);
+    QCOMPARE(run(u"entries remove "_s + value(2, u"uuid"_s).toString() + into).exitCode, 0);
+    entries = json();
+    QCOMPARE(entries.size(), 3);
+    QCOMPARE(value(0, u"date"_s).toString(), u"1943-05-18"_s);
+    QFile::remove(m_userFolder.filePath(u"calendarEvents.xml"_s));
 }
 
 void tst_mvcalendar::damagedEntries()

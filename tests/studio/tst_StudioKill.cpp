@@ -36,6 +36,14 @@ QString titleOf(int step)
     return u"Stand %1"_s.arg(step);
 }
 
+QStringList titlesTo(int step)
+{
+    QStringList titles;
+    for (int each = 1; each <= step; ++each)
+        titles.append(titleOf(each));
+    return titles;
+}
+
 int stepOf(const QString &title)
 {
     return title.startsWith(u"Stand "_s) ? title.mid(6).toInt() : 0;
@@ -90,6 +98,7 @@ private:
     void save()
     {
         change();
+        addEntry();
         const QFileInfo file(savedFile());
         if ((m_step == 1 ? project()->saveAs(file) : project()->save()).isOk())
             tell("step " + QByteArray::number(m_step));
@@ -198,6 +207,8 @@ void tst_StudioKill::whileEditing()
              qPrintable(u"%1 after step %2"_s.arg(found).arg(told.value("step"))));
     QCOMPARE(next.project()->document(), MvProjectFixture::album(found)); // photos, frames and templates with it
     QVERIFY(next.project()->isModified());
+    QVERIFY(next.project()->entries());
+    QCOMPARE(MvEntries::names(*next.project()->entries()), titlesTo(found)); // the calendar's own, of the same moment
 }
 
 /// The file is that of one step as a whole, with what was told saved.
@@ -210,6 +221,8 @@ void tst_StudioKill::whileSaving()
     const int found = stepOf(content.document.title());
     QVERIFY2(found == told || found == told + 1, qPrintable(u"%1 after step %2"_s.arg(found).arg(told)));
     QCOMPARE(content.document, MvProjectFixture::album(found));
+    QVERIFY(content.entries && content.entries->isComplete);
+    QCOMPARE(MvEntries::names(content.entries->events), titlesTo(found));
     const QList<MvProjectRecovery::Entry> recovered = MvProjectRecovery::found();
     QVERIFY(recovered.size() <= 1);
     for (const MvProjectRecovery::Entry &entry : recovered) {

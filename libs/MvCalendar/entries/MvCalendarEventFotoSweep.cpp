@@ -4,6 +4,7 @@
 #include "MvFoto/MvFotoBin.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 using namespace Qt::StringLiterals;
@@ -24,9 +25,28 @@ bool isBetweenNames(QChar c)
     return c == u'/' || c == u'\\' || c == u'<' || c == u'>' || c == u'"' || c == u'\n' || c == u'\r';
 }
 
+/// Characters that are written as numbers, decoded.
+QString withoutNumbers(const QString &text)
+{
+    static const QRegularExpression number(u"&#(?:x([0-9a-fA-F]{1,6})|([0-9]{1,7}));"_s);
+    QString plain;
+    qsizetype done = 0;
+    for (auto all = number.globalMatch(text); all.hasNext();) {
+        const QRegularExpressionMatch match = all.next();
+        const bool isHex = match.capturedLength(1) > 0;
+        const char32_t code = isHex ? match.captured(1).toUInt(nullptr, 16) : match.captured(2).toUInt();
+        plain += QStringView(text).mid(done, match.capturedStart() - done);
+        plain += QString::fromUcs4(&code, 1);
+        done = match.capturedEnd();
+    }
+    return plain + text.mid(done);
+}
+
 QString unescaped(QStringView text)
 {
     QString plain = text.trimmed().toString();
+    if (plain.contains("&#"_L1))
+        plain = withoutNumbers(plain);
     if (plain.contains(u'&'))
         plain.replace("&lt;"_L1, "<"_L1)
             .replace("&gt;"_L1, ">"_L1)
@@ -61,13 +81,12 @@ bool MvCalendarEventFotoSweep::keepNamesIn(const QString &text)
     for (qsizetype end = 0; end < text.size(); ++end) {
         if (!isBetweenNames(text.at(end)))
             continue;
-        const QStringView name = QStringView(text).mid(start, end - start);
+        const QStringView part = QStringView(text).mid(start, end - start);
         start = end + 1;
-        if (name.contains("&#"_L1)) // letters written as numbers: not by us
-            return false;
-        const QString plain = unescaped(name);
-        if (m_known.contains(plain))
-            m_needed.insert(plain);
+        for (const QString &name : unescaped(part).split(u'/')) { // one that was escaped, too
+            if (m_known.contains(name))
+                m_needed.insert(name);
+        }
     }
     const QStringView rest = QStringView(text).mid(start);
     if (text.trimmed().endsWith(u'>') || text.isEmpty())
@@ -79,6 +98,18 @@ bool MvCalendarEventFotoSweep::keepNamesIn(const QString &text)
     return true;
 }
 
+QStringList MvCalendarEventFotoSweep::unneeded(const QDateTime &now) const
+{
+    QStringList names;
+    const QFileInfoList files = m_folder.entryInfoList(QDir::Files, QDir::Unsorted);
+    for (const QFileInfo &file : files) {
+        const bool isYoung = file.lastModified().secsTo(now) < youngSeconds;
+        if (m_known.contains(file.fileName()) && !isYoung && !m_needed.contains(file.fileName()))
+            names.append(file.fileName());
+    }
+    return names;
+}
+
 int MvCalendarEventFotoSweep::run(const QDateTime &now) const
 {
     const MvFotoBin bin(m_folder);
@@ -87,13 +118,8 @@ int MvCalendarEventFotoSweep::run(const QDateTime &now) const
             bin.fetchBack(name);
     }
     int count = 0;
-    const QFileInfoList files = m_folder.entryInfoList(QDir::Files, QDir::Unsorted);
-    for (const QFileInfo &file : files) {
-        const bool isYoung = file.lastModified().secsTo(now) < youngSeconds;
-        const bool isKnown = m_known.contains(file.fileName());
-        if (isKnown && !isYoung && !m_needed.contains(file.fileName()) && bin.put(file.fileName(), now.date()))
-            ++count;
-    }
+    for (const QString &name : unneeded(now))
+        count += bin.put(name, now.date()) ? 1 : 0;
     bin.empty(now.date(), m_needed);
     return count;
 }

@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 
 /// Tidies the photo folder up: photos that nothing needs go to the bin, and from there after a month. In doubt a photo
 /// stays. Any thread, one at a time.
@@ -25,6 +26,8 @@ public:
     /// run() must not follow.
     bool keepNamesIn(const QFileInfo &list);
 
+    /// Names of photos in the folder that nothing needs as far as known, and that are not young.
+    QStringList unneeded(const QDateTime &now) const;
     /// Moves the others into the bin, fetches back from there what is needed, and empties it of old ones. The number
     /// of photos that went into the bin.
     int run(const QDateTime &now) const;

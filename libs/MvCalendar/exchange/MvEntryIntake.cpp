@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvEntryIntake.h"
 
+#include "MvCalendar/MvCardIntake.h"
 #include "MvCalendar/MvEntryTable.h"
+#include "MvCalendar/MvFileText.h"
 #include "MvCalendar/MvICalendar.h"
 
 #include "MvCore/MvRegularFile.h"
@@ -9,7 +11,6 @@
 #include <QDir>
 #include <QHash>
 #include <QSet>
-#include <QStringDecoder>
 #include <QTemporaryFile>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +33,27 @@ QHash<QString, QString> groupIds(MvEventGroupList &groups, const MvEventGroupLis
     return ids;
 }
 
+MvEntryReading readingOf(const MvCalendarEventFile::Content &content)
+{
+    MvEntryReading reading;
+    reading.error = content.refusal();
+    reading.events = content.events;
+    reading.skipped = content.skipped;
+    if (!content.note.isEmpty())
+        reading.notes.append(content.note);
+    return reading;
+}
+
+/// Of those that a list has more than once.
+QSet<QUuid> sharedUuids(const MvCalendarEventList &events)
+{
+    QSet<QUuid> known;
+    QSet<QUuid> shared;
+    for (const MvCalendarEvent &event : events)
+        (known.contains(event.uuid()) ? shared : known).insert(event.uuid());
+    return shared;
+}
+
 bool isSame(const MvCalendarEvent &a, const MvCalendarEvent &b)
 {
     return a.description() == b.description() && a.dateTime().date() == b.dateTime().date() &&
@@ -40,7 +62,8 @@ bool isSame(const MvCalendarEvent &a, const MvCalendarEvent &b)
 
 size_t keyOf(const MvCalendarEvent &event)
 {
-    return qHashMulti(0, event.description(), event.dateTime().date());
+    return qHashMulti(0, event.description(), event.dateTime().date(), event.endDate(), event.time(),
+                      event.repetition());
 }
 
 } // namespace
@@ -56,13 +79,15 @@ QString MvEntryIntake::Report::describe() const
 
 MvEntryIntake::Kind MvEntryIntake::kindOf(const QByteArray &begin)
 {
-    QStringDecoder decode(QStringConverter::encodingForData(begin).value_or(QStringConverter::Latin1));
-    const QString text = QString(decode(begin.left(4096))).remove(QChar(0xFEFF)).trimmed();
+    const QByteArray some = begin.left(4096);
+    const QString text = MvFileText::decoded(some, MvFileText::encodingOf(some)).remove(QChar(0xFEFF)).trimmed();
     if (text.startsWith(u'<'))
         return Kind::List;
     if (text.startsWith(u"BEGIN:VCALENDAR", Qt::CaseInsensitive))
         return Kind::Calendar;
-    if (text.startsWith(u"BEGIN:VCARD", Qt::CaseInsensitive) || text.contains(QChar(0)))
+    if (text.startsWith(u"BEGIN:VCARD", Qt::CaseInsensitive))
+        return Kind::Cards;
+    if (text.contains(QChar(0)))
         return Kind::Unknown;
     return text.contains(u'\n') || text.contains(u';') || text.contains(u',') || text.contains(u'\t') ? Kind::Table
                                                                                                       : Kind::Unknown;
@@ -82,7 +107,7 @@ MvEntryReading MvEntryIntake::read(const QFileInfo &file)
         if (kindOf(bytes) != Kind::List)
             return read(bytes, name);
         const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file); // whose photos lie beside it
-        reading = {content.refusal(), content.events, content.skipped};
+        reading = readingOf(content);
     }
     return reading;
 }
@@ -101,13 +126,17 @@ MvEntryReading MvEntryIntake::read(const QByteArray &bytes, const QString &name)
         QTemporaryFile file;
         if (file.open() && file.write(bytes) == bytes.size() && file.flush()) {
             const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
-            reading = {content.refusal(), content.events, content.skipped};
+            reading = readingOf(content);
+            reading.error.replace(QDir::toNativeSeparators(file.fileName()), name);
         }
-        break;
+        return reading; // which says its name itself
     }
+    case Kind::Cards:
+        reading = MvCardIntake::read(bytes);
+        break;
     case Kind::Unknown:
-        reading.error = tr("Das ist weder eine Liste von Einträgen noch ein Kalender (iCalendar) noch eine Tabelle "
-                           "(CSV).");
+        reading.error = tr("Das ist weder eine Liste von Einträgen noch ein Kalender (iCalendar), eine Tabelle (CSV) "
+                           "oder eine Datei mit Visitenkarten (vCard).");
         break;
     }
     if (!reading.isOk())
@@ -138,14 +167,13 @@ MvCalendarEventList MvEntryIntake::joined(const MvCalendarEventList &list, const
     MvCalendarEventList result = list;
     *report = {};
     report->skipped = reading.skipped;
+    report->notes = reading.notes;
     const QHash<QString, QString> ids = groupIds(result.groups(), reading.events.groups());
     QMultiHash<size_t, qsizetype> byContent;
     QHash<QUuid, qsizetype> byUuid;
-    QSet<QUuid> shared; // by a series: these name no single entry
+    const QSet<QUuid> shared = sharedUuids(result) + sharedUuids(reading.events);
     for (qsizetype i = 0; i < result.size(); ++i) {
         byContent.insert(keyOf(result.at(i)), i);
-        if (byUuid.contains(result.at(i).uuid()))
-            shared.insert(result.at(i).uuid());
         byUuid.insert(result.at(i).uuid(), i);
     }
     for (MvCalendarEvent event : reading.events) {

@@ -9,6 +9,11 @@
 #include <QFileInfo>
 #include <QList>
 #include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class QTemporaryDir;
 
 /// What a file from elsewhere holds, read as entries.
 struct MvEntryReading
@@ -16,6 +21,10 @@ struct MvEntryReading
     QString error; ///< why nothing could be read, for a person, with file; else empty
     MvCalendarEventList events;
     QList<MvCalendarEventFile::Skipped> skipped; ///< what is left out, in the order of the file
+    QStringList notes; ///< for a person: what entries that were read have lost, such as a photo or an alarm
+    /// Where photos lie that came in the file itself; gone with the last copy of the reading. Whoever keeps an entry
+    /// copies its photo first, as MvCalendarEventRegistry::setEvents() does. Null without such photos.
+    std::shared_ptr<const QTemporaryDir> fotos;
 
     bool isOk() const { return error.isEmpty(); }
 };
@@ -29,7 +38,7 @@ class MVCALENDAR_EXPORT MvEntryIntake
 public:
     static constexpr qint64 largestFile = 64LL * 1024 * 1024;
 
-    enum class Kind { Unknown, List, Calendar, Table };
+    enum class Kind { Unknown, List, Calendar, Table, Cards };
 
     struct Report
     {
@@ -37,6 +46,7 @@ public:
         int changed = 0;
         int equal = 0;
         QList<MvCalendarEventFile::Skipped> skipped;
+        QStringList notes;
 
         /// "12 neu, 3 geändert, 40 gleich, 2 ausgelassen"
         QString describe() const;
@@ -44,15 +54,17 @@ public:
 
     /// By what it begins with, whatever its name is.
     static Kind kindOf(const QByteArray &begin);
-    /// Reads a list of entries, an iCalendar or a table. Any thread.
+    /// Reads a list of entries, an iCalendar, a table or visiting cards. Any thread.
     static MvEntryReading read(const QFileInfo &file);
     /// The same of bytes; the name is for messages.
     static MvEntryReading read(const QByteArray &bytes, const QString &name);
 
-    /// The same in the form of a list that was read: a list itself, or what other programs write of one.
+    /// The same in the form of a list that was read: a list itself, or what other programs write of one; no visiting
+    /// cards, whose photos belong to the reading.
     static MvCalendarEventFile::Content readAsList(const QFileInfo &file);
 
     /// The list with the entries in it: those with a known uuid replace what they were, the others are added unless
-    /// they are equal to one that is there. Groups are known by name. A photo that an entry has stays.
+    /// they are equal to one that is there. A uuid that several entries share, here or there, names none of them.
+    /// Groups are known by name. A photo that an entry has stays.
     static MvCalendarEventList joined(const MvCalendarEventList &list, const MvEntryReading &reading, Report *report);
 };

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvEntryTable.h"
 
+#include "MvCalendar/MvFileText.h"
+#include "MvCalendar/MvRepetitionWords.h"
+
+#include "MvCore/MvTypedDate.h"
+
 #include <QHash>
 #include <QRegularExpression>
 #include <QSet>
-#include <QStringDecoder>
 
 #include <algorithm>
 
@@ -16,37 +20,6 @@ using Table = MvEntryTable;
 using LeapDayRule = MvEventRepetition::LeapDay;
 
 const QUuid rowsNamespace(u"{2f1c9d54-90ab-4a3f-8a55-0d4a2b6f31c7}"_s);
-
-/// What Windows-1252 has between 0x80 and 0x9F.
-QString fromWindows1252(const QByteArray &bytes)
-{
-    static const QString specials = u"€\u0081‚ƒ„…†‡ˆ‰Š‹Œ\u008dŽ\u008f\u0090‘’“”•–—˜™š›œ\u009džŸ"_s;
-    QString text = QString::fromLatin1(bytes);
-    for (QChar &c : text) {
-        if (c.unicode() >= 0x80 && c.unicode() < 0xA0)
-            c = specials.at(c.unicode() - 0x80);
-    }
-    return text;
-}
-
-QString decoded(const QByteArray &bytes, const QString &encoding)
-{
-    if (encoding == u"Windows-1252")
-        return fromWindows1252(bytes);
-    QStringDecoder decode(encoding == u"UTF-16" ? QStringConverter::Utf16 : QStringConverter::Utf8);
-    QString text = decode(bytes);
-    return text.startsWith(QChar(0xFEFF)) ? text.mid(1) : text;
-}
-
-QString encodingOf(const QByteArray &bytes)
-{
-    const auto marked = QStringConverter::encodingForData(bytes);
-    if (marked == QStringConverter::Utf16LE || marked == QStringConverter::Utf16BE)
-        return u"UTF-16"_s;
-    QStringDecoder decode(QStringConverter::Utf8);
-    [[maybe_unused]] const QString text = decode(bytes);
-    return decode.hasError() ? u"Windows-1252"_s : u"UTF-8"_s;
-}
 
 Table::Column columnOf(const QString &heading)
 {
@@ -77,6 +50,13 @@ Table::Column columnOf(const QString &heading)
         {u"ende"_s, Table::EndDate},
         {u"endet am"_s, Table::EndDate},
         {u"end date"_s, Table::EndDate},
+        {u"endet um"_s, Table::EndTime},
+        {u"end time"_s, Table::EndTime},
+        {u"endzeit"_s, Table::EndTime},
+        {u"ganztägiges ereignis"_s, Table::WholeDay},
+        {u"ganztägig"_s, Table::WholeDay},
+        {u"all day event"_s, Table::WholeDay},
+        {u"all day"_s, Table::WholeDay},
         {u"uhrzeit"_s, Table::Time},
         {u"zeit"_s, Table::Time},
         {u"time"_s, Table::Time},
@@ -99,13 +79,22 @@ Table::Column columnOf(const QString &heading)
     return known.value(heading.simplified().toLower(), Table::Ignored);
 }
 
+/// "17. Mai 1941", "Mo, 17.5.41" and what else people write with letters.
+QDate readWrittenDate(const QString &text)
+{
+    static const QRegularExpression letter(u"\\p{L}"_s);
+    if (text.size() > 60 || !letter.match(text).hasMatch())
+        return {};
+    return MvTypedDate(text, QLocale(), QDate::currentDate(), MvCalendarEvent::unknownYear).date();
+}
+
 /// "17.05.1941", "17.5.41", "17.05.", "1941-05-17", "5/17/1941"; a time behind it does not count.
 QDate readDate(const QString &text, Table::DateOrder order)
 {
     static const QRegularExpression form(u"^(\\d{1,4})([./-])\\s?(\\d{1,2})(?:\\2\\s?(\\d{1,4})?)?(?:[T ,].*)?$"_s);
     const QRegularExpressionMatch match = form.match(text.trimmed());
     if (!match.hasMatch())
-        return {};
+        return readWrittenDate(text);
     const int first = match.captured(1).toInt();
     const int second = match.captured(3).toInt();
     const QString yearText = match.captured(4);
@@ -135,22 +124,17 @@ QTime readTime(const QString &text)
 QStringList parts(const QString &cell)
 {
     QStringList parts;
-    const QStringList pieces = cell.split(QRegularExpression(u"[,;|]"_s), Qt::SkipEmptyParts);
+    static const QRegularExpression separators(u"[,;|]"_s);
+    const QStringList pieces = cell.split(separators, Qt::SkipEmptyParts);
     for (const QString &piece : pieces)
         parts.append(piece.trimmed());
     return parts;
 }
 
-const QList<std::pair<QString, QString>> &repetitionWords()
+bool isYes(const QString &text)
 {
-    static const QList<std::pair<QString, QString>> words = {
-        {u"täglich"_s, u"FREQ=DAILY"_s},
-        {u"wöchentlich"_s, u"FREQ=WEEKLY"_s},
-        {u"monatlich"_s, u"FREQ=MONTHLY"_s},
-        {u"alle zwei wochen"_s, u"FREQ=WEEKLY;INTERVAL=2"_s},
-        {u"14-tägig"_s, u"FREQ=WEEKLY;INTERVAL=2"_s},
-    };
-    return words;
+    static const QSet<QString> words{u"true"_s, u"wahr"_s, u"ein"_s, u"on"_s, u"ja"_s, u"yes"_s, u"1"_s, u"x"_s};
+    return words.contains(text.toLower());
 }
 
 class RowReader
@@ -216,14 +200,16 @@ private:
     void takeTimes(MvCalendarEvent &event, QString *reason) const
     {
         if (const QString text = cell(Table::EndDate); !text.isEmpty()) {
-            const QDate end = readDate(text, m_format.order);
+            QDate end = readDate(text, m_format.order);
             if (!end.isValid())
                 *reason = unreadable(MvEntryTable::tr("das Ende"), text);
             else if (event.dateTime().date().daysTo(end) >= MvCalendarEvent::longestSpan)
                 *reason = MvEntryTable::tr("er dauert länger als ein Jahr");
+            if (readTime(cell(Table::EndTime)) == QTime(0, 0)) // the midnight with which the last day ends
+                end = end.addDays(-1);
             event.setEndDate(end);
         }
-        if (const QString text = cell(Table::Time); !text.isEmpty()) {
+        if (const QString text = cell(Table::Time); !text.isEmpty() && !isYes(cell(Table::WholeDay))) {
             event.setTime(readTime(text));
             if (!event.time().isValid())
                 *reason = unreadable(MvEntryTable::tr("die Uhrzeit"), text);
@@ -233,20 +219,12 @@ private:
     void takeRepetition(MvCalendarEvent &event, QString *reason) const
     {
         MvEventRepetition repetition;
-        const QString text = cell(Table::Repetition).toLower();
-        if (text == u"einmal" || text == u"einmalig" || text == u"nein" || text == u"once") {
-            event.setRecurrent(false);
-        } else if (text == u"jährlich" || text == u"ja" || text == u"yearly") {
-            event.setRecurrent(true);
-        } else if (!text.isEmpty()) {
-            const auto &words = repetitionWords();
-            const auto word =
-                std::find_if(words.cbegin(), words.cend(), [&](const auto &w) { return w.first == text; });
-            const MvRecurrenceRuleReading reading = MvRecurrenceRule::parse(word == words.cend() ? text : word->second);
-            if (!reading.isOk())
+        if (const QString text = cell(Table::Repetition); !text.isEmpty()) {
+            const MvRepetitionWords words(text);
+            if (!words.isOk())
                 *reason = unreadable(MvEntryTable::tr("die Wiederholung"), text);
-            repetition.rule = reading.rule;
-            event.setRecurrent(false);
+            repetition.rule = words.rule();
+            event.setRecurrent(words.isYearly());
         }
         repetition.exceptions = dates(Table::Exceptions, reason);
         repetition.extraDates = dates(Table::ExtraDates, reason);
@@ -263,13 +241,38 @@ private:
     const Table::Row *m_row = nullptr;
 };
 
-/// By the first line: commas are in texts, too.
+/// What a spreadsheet says of the separator in a line of its own; null when it does not.
+QChar saidSeparator(const QString &text)
+{
+    static const QRegularExpression form(u"^\"?sep=(.)\"?(?:\\n|$)"_s, QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = form.match(text.left(16));
+    return match.hasMatch() ? match.captured(1).front() : QChar();
+}
+
+/// By the first line, without what stands in quotation marks: commas are in texts, too.
 QChar separatorOf(const QString &text)
 {
-    const QString line = text.section(u'\n', 0, 0);
+    if (const QChar said = saidSeparator(text); !said.isNull())
+        return said;
+    static const QRegularExpression quotation(u"\"[^\"]*\""_s);
+    const QString line = text.section(u'\n', 0, 0).remove(quotation);
     if (line.contains(u'\t'))
         return u'\t';
     return line.contains(u';') || !line.contains(u',') ? u';' : u',';
+}
+
+/// The headings of columns that say something, but nothing for an entry.
+QString ignoredColumns(const Table::Format &format, const QList<Table::Row> &rows)
+{
+    QStringList ignored;
+    for (qsizetype i = 0; format.hasHeadings && rows.size() > 1 && i < format.columns.size(); ++i) {
+        const auto isFull = [i](const Table::Row &row) { return !row.cells.value(i).isEmpty(); };
+        const bool isSecond = format.columns.indexOf(format.columns.at(i)) < i;
+        if ((format.columns.at(i) == Table::Ignored || isSecond) && std::any_of(rows.cbegin() + 1, rows.cend(), isFull))
+            ignored.append(rows.first().cells.value(i).left(40));
+    }
+    ignored.removeAll(QString());
+    return ignored.join(u", "_s);
 }
 
 QString quoted(const QString &text, QChar separator)
@@ -290,7 +293,8 @@ QString datesText(const QList<QDate> &dates)
 
 QList<MvEntryTable::Row> MvEntryTable::rows(const QByteArray &bytes, const Format &format, qsizetype most)
 {
-    const QString text = decoded(bytes, format.encoding);
+    const QString text = MvFileText::decoded(bytes, format.encoding);
+    const bool saysSeparator = !saidSeparator(text).isNull();
     QList<Row> rows;
     Row row{1, {}};
     QString cell;
@@ -301,7 +305,7 @@ QList<MvEntryTable::Row> MvEntryTable::rows(const QByteArray &bytes, const Forma
         endCell();
         const bool isEmpty =
             std::all_of(row.cells.cbegin(), row.cells.cend(), [](const QString &c) { return c.isEmpty(); });
-        if (!isEmpty)
+        if (!isEmpty && !(saysSeparator && row.line == 1))
             rows.append(row);
         row = {line, {}};
     };
@@ -322,7 +326,7 @@ QList<MvEntryTable::Row> MvEntryTable::rows(const QByteArray &bytes, const Forma
             endCell();
         } else if (c == u'\n') {
             endRow();
-        } else if (c != u'\r') {
+        } else {
             cell += c;
         }
     }
@@ -334,15 +338,16 @@ QList<MvEntryTable::Row> MvEntryTable::rows(const QByteArray &bytes, const Forma
 MvEntryTable::Format MvEntryTable::guess(const QByteArray &bytes)
 {
     Format format;
-    format.encoding = encodingOf(bytes);
-    format.separator = separatorOf(decoded(bytes.left(8192), format.encoding));
-    const QList<Row> all = rows(bytes, format);
+    format.encoding = MvFileText::encodingOf(bytes);
+    format.separator = separatorOf(MvFileText::decoded(bytes.left(8192), format.encoding));
+    constexpr qsizetype enough = 500; // rows
+    const QList<Row> all = rows(bytes, format, enough);
     if (all.isEmpty())
         return format;
     for (const QString &heading : all.first().cells)
         format.columns.append(columnOf(heading));
     format.hasHeadings = format.columns.contains(Name) || format.columns.contains(Date);
-    QList<Row> body = all.mid(format.hasHeadings ? 1 : 0, 500);
+    const QList<Row> body = all.mid(format.hasHeadings ? 1 : 0);
     // a column that says nothing of itself: the first of dates, the first of other texts
     for (const Column wanted : {Date, Name}) {
         for (qsizetype i = 0; i < format.columns.size() && !format.columns.contains(wanted); ++i) {
@@ -372,7 +377,10 @@ MvEntryTable::Format MvEntryTable::guess(const QByteArray &bytes)
     format.order = isMonthFirst && !isDayFirst ? MonthDayYear : DayMonthYear;
     format.isOrderOpen = isOpen && isDayFirst == isMonthFirst;
     constexpr qsizetype manyYears = 4; // birthdays are of many years, dates of a club of one or two
-    format.isYearly = years.size() >= manyYears;
+    static const QSet<QString> birthdays{u"geburtstag"_s, u"geburtsdatum"_s, u"birthday"_s};
+    const bool isBirthday =
+        format.hasHeadings && birthdays.contains(all.first().cells.value(dateColumn).simplified().toLower());
+    format.isYearly = isBirthday || years.size() >= manyYears;
     return format;
 }
 
@@ -394,6 +402,8 @@ MvEntryReading MvEntryTable::read(const QByteArray &bytes, const Format &format)
         else
             reading.skipped.append({row.line, row.cells.value(format.columns.indexOf(Name)).left(60), reason});
     }
+    if (const QString ignored = ignoredColumns(format, all); !ignored.isEmpty())
+        reading.notes.append(MvEntryTable::tr("Ein Kalender druckt nicht: %1").arg(ignored));
     if (all.size() >= mostRows)
         reading.skipped.append(
             {all.last().line, {}, MvEntryTable::tr("die Tabelle hat mehr als %1 Zeilen").arg(mostRows)});

@@ -18,12 +18,26 @@ class MVCALENDAR_EXPORT MvEntryTable
     Q_DECLARE_TR_FUNCTIONS(MvEntryTable)
 
 public:
-    enum Column { Ignored, Name, Date, EndDate, Time, Repetition, Exceptions, ExtraDates, LeapDay, Groups, Uuid };
+    enum Column {
+        Ignored,
+        Name,
+        Date,
+        EndDate,
+        Time,
+        Repetition,
+        Exceptions,
+        ExtraDates,
+        LeapDay,
+        Groups,
+        Uuid,
+        EndTime,
+        WholeDay
+    };
     enum DateOrder { DayMonthYear, MonthDayYear };
 
     struct Format
     {
-        QString encoding = QStringLiteral("UTF-8"); ///< or "Windows-1252", "UTF-16"
+        QString encoding = QStringLiteral("UTF-8"); ///< or "Windows-1252", "UTF-16", "UTF-16LE", "UTF-16BE"
         QChar separator = u';';
         bool hasHeadings = false;
         QList<Column> columns;
@@ -46,6 +60,7 @@ public:
         int line;
         QStringList cells;
     };
-    /// For a preview. A quotation mark that nobody closes ends with its line.
+    /// For a preview. A quotation mark that nobody closes ends with its line. A first line that only says the
+    /// separator, as spreadsheets write it ("sep=;"), is none of the rows.
     static QList<Row> rows(const QByteArray &bytes, const Format &format, qsizetype most = mostRows);
 };

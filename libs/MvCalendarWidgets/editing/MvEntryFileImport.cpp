@@ -132,6 +132,8 @@ void MvEntryFileImport::take()
         m_result.report.skipped += report.skipped;
         for (const MvCalendarEventFile::Skipped &skipped : std::as_const(report.skipped))
             m_result.lines.append(tr("%1: %2").arg(name, skipped.describe()));
+        for (const QString &note : std::as_const(report.notes))
+            m_result.lines.append(tr("%1: %2").arg(name, note));
     }
     QList<MvEntryChange> changes;
     for (qsizetype i = 0; i < after.size(); ++i) {

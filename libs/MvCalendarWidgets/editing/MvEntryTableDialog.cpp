@@ -32,6 +32,8 @@ QList<std::pair<Table::Column, QString>> columns()
             {Table::Date, MvEntryTableDialog::tr("Datum")},
             {Table::EndDate, MvEntryTableDialog::tr("Bis")},
             {Table::Time, MvEntryTableDialog::tr("Uhrzeit")},
+            {Table::EndTime, MvEntryTableDialog::tr("Endet um")},
+            {Table::WholeDay, MvEntryTableDialog::tr("Ganztägig")},
             {Table::Repetition, MvEntryTableDialog::tr("Wiederholung")},
             {Table::Exceptions, MvEntryTableDialog::tr("Ausnahmen")},
             {Table::ExtraDates, MvEntryTableDialog::tr("Zusatztermine")},

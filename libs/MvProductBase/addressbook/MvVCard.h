@@ -17,6 +17,7 @@ struct MVPRODUCTBASE_EXPORT MvVCard
     MvVCardDate anniversary;
     QByteArray pictureCode; // the picture in the card, in base64; one that lies elsewhere is never fetched
     bool isPictureTooLarge = false;
+    int line = 0; // of its beginning in the file, from 1
 
     bool hasPicture() const { return isPictureTooLarge || !pictureCode.isEmpty(); }
     /// The bytes of the picture's file; empty without one and for one that is too large.

@@ -60,6 +60,7 @@ MvVCardBirthdays::Result MvVCardBirthdays::result(Order order) const
         const QDate date = entry.date().date(settled == Order::Unknown ? order : settled);
         if (!date.isValid()) {
             result.notUnderstood.append(tr("%1: %2").arg(entry.card.name, entry.date().text()));
+            result.cardsOfNotUnderstood.append(entry.cardNumber);
             continue;
         }
         Person person = personOf(entry, date);

@@ -33,8 +33,9 @@ public:
 
     struct Result
     {
-        QList<Person> persons;     // in the order of the cards
-        QStringList notUnderstood; // "name: what stands there"
+        QList<Person> persons;           // in the order of the cards
+        QStringList notUnderstood;       // "name: what stands there"
+        QList<int> cardsOfNotUnderstood; // the numbers of their cards
     };
 
     /// Dates of cards that follow do not say anything about those that were added before.

@@ -108,17 +108,28 @@ bool MvVCardLines::next(MvVCardProperty *property)
         }
         if (colon < 0)
             colon = line.indexOf(':'); // after a quotation mark that nobody closed
-        if (colon <= 0)
+        if (colon <= 0) {
+            if (!line.trimmed().isEmpty() && ++m_leftOutCount == 1)
+                m_firstLeftOut = m_line;
             continue;
+        }
         *property = parseHead(line.left(qMin(colon, longestText)));
         takeValue(property, line.mid(colon + 1), isCut);
         if (property->name == "BEGIN")
-            m_isVersion2 = false; // until the card says so
+            takeBegin(property->value.trimmed().toUpper());
         else if (property->name == "VERSION")
-            m_isVersion2 = property->value.trimmed().startsWith('2');
+            m_isOldForm = property->value.trimmed().startsWith(m_isCalendar ? '1' : '2');
         return true;
     }
     return false;
+}
+
+/// A card is of no old form until it says so; what is within a calendar is of the calendar's.
+void MvVCardLines::takeBegin(const QByteArray &name)
+{
+    const bool isWithin = m_isCalendar && name != "VCARD" && name != "VCALENDAR";
+    m_isOldForm = m_isOldForm && isWithin;
+    m_isCalendar = isWithin || name == "VCALENDAR";
 }
 
 void MvVCardLines::takeValue(MvVCardProperty *property, const QByteArray &start, bool isStartCut)
@@ -166,10 +177,10 @@ bool MvVCardLines::isFolded() const
     return m_ahead.startsWith(' ') || m_ahead.startsWith('\t');
 }
 
-/// Version 2.1 folds at a blank, which stays; the later ones insert it.
+/// Version 2.1 of cards and 1.0 of calendars fold at a blank, which stays; the later ones insert it.
 QByteArray MvVCardLines::takeFolded()
 {
-    return m_isVersion2 ? takeLine() : takeLine().mid(1);
+    return m_isOldForm ? takeLine() : takeLine().mid(1);
 }
 
 /// Some programs do not indent the lines of a picture.

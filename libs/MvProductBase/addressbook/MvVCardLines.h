@@ -8,8 +8,8 @@
 #include <QByteArray>
 #include <QList>
 
-/// Cuts visiting cards into properties, one after the other: lines unfolded, soft breaks joined, names and parameters
-/// apart. The time grows with the number of bytes alone, whatever they are.
+/// Cuts visiting cards, or calendars, into properties, one after the other: lines unfolded, soft breaks joined, names
+/// and parameters apart. The time grows with the number of bytes alone, whatever they are.
 class MVPRODUCTBASE_EXPORT MvVCardLines
 {
 public:
@@ -24,6 +24,9 @@ public:
 
     /// Where the last property begins, from 1.
     int line() const { return m_line; }
+    /// Lines up to the last property that are none, and the number of the first of them; 0 without any.
+    int leftOutCount() const { return m_leftOutCount; }
+    int firstLeftOut() const { return m_firstLeftOut; }
 
     static QList<MvVCardProperty> split(const QByteArray &bytes);
 
@@ -32,13 +35,17 @@ private:
     bool isFolded() const;
     bool isMoreOfPicture() const;
     QByteArray takeFolded();
+    void takeBegin(const QByteArray &name);
     void takeValue(MvVCardProperty *property, const QByteArray &start, bool isStartCut);
 
     MvLineReader m_lines;
     QByteArray m_ahead; // the line after the one that was taken
     bool m_hasAhead = false;
     bool m_isAheadCut = false;
-    bool m_isVersion2 = false;
+    bool m_isCalendar = false; // not cards
+    bool m_isOldForm = false;
     int m_taken = 0; // lines, the one ahead included
     int m_line = 0;
+    int m_leftOutCount = 0;
+    int m_firstLeftOut = 0;
 };

@@ -6,6 +6,8 @@
 
 #include <QHash>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -158,14 +160,17 @@ bool MvVCardStream::next(MvVCard *card)
             --m_nested;
         } else if (isEnd || (isBegin && m_isInCard)) { // a card whose end is missing ends where the next one begins
             const bool isComplete = m_isInCard;
+            const int line = std::exchange(m_cardLine, m_lines->line());
             m_isInCard = isBegin;
             m_nested = 0;
             if (isComplete) {
                 *card = builder.card();
+                card->line = line;
                 return m_hasCards = true;
             }
         } else if (isBegin) {
             m_isInCard = true;
+            m_cardLine = m_lines->line();
         } else if (m_isInCard && m_nested == 0) {
             builder.take(property);
         }
@@ -175,6 +180,7 @@ bool MvVCardStream::next(MvVCard *card)
         return false;
     m_isInCard = false;
     *card = builder.card();
+    card->line = m_cardLine;
     return m_hasCards = true;
 }
 

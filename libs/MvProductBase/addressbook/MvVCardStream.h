@@ -49,7 +49,8 @@ private:
     std::unique_ptr<MvVCardLines> m_lines; // null when the file could not be opened
     QByteArray m_nameBefore;               // of the property before
     bool m_isInCard = false;
-    int m_nested = 0; // a card may contain the card of another person
+    int m_cardLine = 0; // of the card that is being read
+    int m_nested = 0;   // a card may contain the card of another person
     bool m_hasCards = false;
     bool m_isStopped = false;
 };

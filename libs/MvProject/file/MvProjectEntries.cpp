@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
+#include "MvCalendar/MvEntryIntake.h"
 #include "MvProject/MvProjectEntryFotos.h"
 
 #include <QDir>
@@ -44,7 +45,7 @@ QStringList MvProjectEntries::resolveFile(MvProjectFile::Content &content, const
     const QString path = content.document.entriesFile();
     QString place = QDir::toNativeSeparators(file.filePath());
     if (!content.entries && !path.isEmpty()) {
-        content.entries = MvCalendarEventFile::read(QFileInfo(path));
+        content.entries = MvEntryIntake::readAsList(QFileInfo(path));
         place = QDir::toNativeSeparators(path);
     }
     if (!content.entries)
@@ -76,6 +77,21 @@ void MvProjectEntries::begin(const MvProjectFile::Content &content, const QFileI
     m_saved.reset();
     if (isSaved)
         m_saved = list();
+    m_usedFotos.clear();
+    m_isSwept = false;
+    noteFotos();
+    if (!file.filePath().isEmpty())
+        MvProjectEntryFotos::fetchBack(list(), file.absoluteDir());
+}
+
+/// Photos come beside the file when it is saved, so that a step back knows no others than the lists then had.
+void MvProjectEntries::noteFotos()
+{
+    const MvCalendarEventList present = list();
+    for (const MvCalendarEvent &event : present) {
+        if (event.foto().isValid())
+            m_usedFotos.insert(event.imagePath().fileName());
+    }
 }
 
 MvCalendarEventList MvProjectEntries::list() const
@@ -138,6 +154,9 @@ void MvProjectEntries::noteSaved(const ToSave &saved, const QFileInfo &file)
     if (!list().isSame(*saved.list))
         m_registry.setEvents(*saved.list);
     m_saved = list();
+    noteFotos();
+    if (!std::exchange(m_isSwept, true)) // what goes in this session may come back in it
+        MvProjectEntryFotos::sweep(file.absoluteDir(), m_usedFotos);
 }
 
 void MvProjectEntries::followOwn()

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QSet>
 #include <QStringList>
 
 #include <functional>
@@ -55,6 +56,7 @@ public:
 private:
     MvCalendarEventList list() const;
     MvCalendarEventList withChangesOfOthers() const;
+    void noteFotos();
 
     MvCalendarEventRegistry &m_registry;
     std::function<void()> m_changed;
@@ -65,5 +67,7 @@ private:
     bool m_isUnknown = false;                   // the file names a list that cannot be read
     bool m_isCopy = false;                      // of the user's list, which nobody has changed or saved
     bool m_isFollowing = false;                 // it is being copied again
+    QSet<QString> m_usedFotos;                  // names of those that steps back may bring back
+    bool m_isSwept = false;                     // photos that nothing needs are gone
     bool m_hadNone = false;                     // it comes from a file without a list
 };

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvProjectEntryFotos.h"
 
+#include "MvCalendar/MvCalendarEventFotoSweep.h"
+#include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvFileName.h"
 #include "MvCore/MvRegularFile.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvFoto/MvFotoBin.h"
 
 #include <QCryptographicHash>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -16,6 +20,35 @@ namespace {
 
 const QString folderName = u"eintraege"_s;
 constexpr qsizetype hashLength = 12; // hexadecimal digits
+constexpr qsizetype mostFiles = 500; // that are looked through before a photo may go
+
+QByteArray hashOf(const QByteArray &content)
+{
+    return QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().first(hashLength);
+}
+
+/// Named after its content.
+bool isOurs(const QFileInfo &file)
+{
+    MvRegularFile::Opened opened = MvRegularFile::open(file);
+    return opened.isOk() &&
+           file.completeBaseName().endsWith(u'-' + QString::fromLatin1(hashOf(opened.file->readAll())));
+}
+
+/// Whatever may name a photo of the folder: calendars and lists beside it, their backups, unsaved work of anybody.
+QFileInfoList filesThatMayName(const QDir &projectFolder)
+{
+    QFileInfoList files =
+        projectFolder.entryInfoList({u"*.mvcalendar*"_s, u"*.xml*"_s, u".mvtmp-*"_s}, QDir::Files | QDir::Hidden);
+    const QDir data = MvDirectoryConfig::instance().programDataDir();
+    for (const QString &name : {u"recovery"_s, u"unfinished"_s}) {
+        QDirIterator each(data.filePath(name), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (each.hasNext())
+            files.append(each.nextFileInfo());
+    }
+    files.removeIf([](const QFileInfo &file) { return file.suffix() == u"lock"; });
+    return files;
+}
 
 struct Copy : MvOutcome
 {
@@ -25,7 +58,7 @@ struct Copy : MvOutcome
 /// "oma-3f2a90c1d2e3.jpg": the same content gets the same name, however often it is copied.
 QString nameOf(const QFileInfo &source, const QByteArray &content)
 {
-    const QByteArray hash = QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().first(hashLength);
+    const QByteArray hash = hashOf(content);
     QString base = MvFileName::cleaned(source.completeBaseName());
     if (base.isEmpty())
         base = u"foto"_s;
@@ -62,6 +95,7 @@ bool MvProjectEntryFotos::isBeside(const QString &path, const QDir &projectFolde
 MvProjectEntryFotos::Taken MvProjectEntryFotos::takeAlong(const MvCalendarEventList &events, const QDir &projectFolder)
 {
     const QDir folder(projectFolder.absoluteFilePath(folderName));
+    fetchBack(events, projectFolder);
     Taken taken{events, {}};
     QHash<QString, Copy> copies;
     for (qsizetype i = 0; i < events.size(); ++i) {
@@ -79,4 +113,38 @@ MvProjectEntryFotos::Taken MvProjectEntryFotos::takeAlong(const MvCalendarEventL
             taken.events[i].relocateFoto(MvFoto(QFileInfo(copy.path)));
     }
     return taken;
+}
+
+void MvProjectEntryFotos::fetchBack(const MvCalendarEventList &events, const QDir &projectFolder)
+{
+    const MvFotoBin bin(projectFolder.absoluteFilePath(folderName));
+    for (const MvCalendarEvent &event : events) {
+        const QFileInfo file = event.imagePath();
+        if (event.foto().isValid() && isBeside(file.filePath(), projectFolder) && !file.exists())
+            bin.fetchBack(file.fileName());
+    }
+}
+
+int MvProjectEntryFotos::sweep(const QDir &projectFolder, const QSet<QString> &inUse, const QDateTime &now)
+{
+    const QFileInfo folder(projectFolder.absoluteFilePath(folderName));
+    if (!folder.isDir() || folder.isSymLink()) // a link: calendars elsewhere may use it
+        return 0;
+    MvCalendarEventFotoSweep plan(QDir(folder.filePath()));
+    for (const QString &name : inUse)
+        plan.keep(name);
+    if (plan.unneeded(now).isEmpty())
+        return 0;
+    const QFileInfoList files = filesThatMayName(projectFolder);
+    if (files.size() > mostFiles)
+        return 0;
+    for (const QFileInfo &file : files) {
+        if (!plan.keepNamesIn(file))
+            return 0;
+    }
+    for (const QString &name : plan.unneeded(now)) {
+        if (!isOurs(QFileInfo(QDir(folder.filePath()), name)))
+            plan.keep(name);
+    }
+    return plan.run(now);
 }
