@@ -1148,6 +1148,36 @@
     </message>
 </context>
 <context>
+    <name>MvCardIntake</name>
+    <message>
+        <source>der Name fehlt</source>
+        <translation>the name is missing</translation>
+    </message>
+    <message>
+        <source>in „%1“ ist nicht klar, was der Tag ist und was der Monat</source>
+        <translation>in “%1” it is not clear which is the day and which the month</translation>
+    </message>
+    <message>
+        <source>das Datum „%1“ ist nicht zu lesen</source>
+        <translation>the date “%1” cannot be read</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Visitenkarten haben kein Datum.</source>
+        <translation>
+            <numerusform>%n visiting card has no date.</numerusform>
+            <numerusform>%n visiting cards have no date.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>es ist größer als %1 MB</source>
+        <translation>it is larger than %1 MB</translation>
+    </message>
+    <message>
+        <source>Zeile %1, „%2“ ohne sein Foto: %3</source>
+        <translation>Line %1, “%2” without its photo: %3</translation>
+    </message>
+</context>
+<context>
     <name>MvCli</name>
     <message>
         <source>die Ausgabe lässt sich nicht schreiben</source>
@@ -1741,71 +1771,187 @@
 <context>
     <name>MvEntriesCommand</name>
     <message>
-        <source>jedes Jahr</source>
-        <translation>every year</translation>
-    </message>
-    <message>
-        <source>einmal</source>
-        <translation>once</translation>
-    </message>
-    <message>
-        <source>zeigt persönliche Einträge, übernimmt sie aus anderen Programmen, gibt sie weiter</source>
-        <translation>lists personal entries, takes them from other programs, gives them to others</translation>
-    </message>
-    <message>
         <source>WAS</source>
         <translation>WHAT</translation>
-    </message>
-    <message>
-        <source>list, import, export oder check</source>
-        <translation>list, import, export or check</translation>
     </message>
     <message>
         <source>DATEI</source>
         <translation>FILE</translation>
     </message>
     <message>
-        <source>Liste (XML), Kalender (iCalendar) oder Tabelle (CSV, TSV), am Inhalt erkannt; - ist die Standardeingabe. Ohne: die eigenen Einträge</source>
-        <translation>a list (XML), calendar (iCalendar) or table (CSV, TSV), known by its content; - is standard input. Without: your own entries</translation>
-    </message>
-    <message>
-        <source>import: in diese Liste (XML) statt in die eigenen Einträge</source>
-        <translation>import: into this list (XML) instead of your own entries</translation>
-    </message>
-    <message>
-        <source>export: wohin (Standardausgabe)</source>
-        <translation>export: where to (standard output)</translation>
-    </message>
-    <message>
-        <source>es fehlt, was zu tun ist: list, import, export oder check</source>
-        <translation>what to do is missing: list, import, export or check</translation>
-    </message>
-    <message>
-        <source>„%1“ gibt es nicht; möglich sind list, import, export, check</source>
-        <translation>there is no “%1”; possible are list, import, export, check</translation>
-    </message>
-    <message>
         <source>nach %1 fehlt die Datei</source>
         <translation>the file is missing after %1</translation>
-    </message>
-    <message>
-        <source>%1 ist nicht vollständig lesbar und bleibt, wie es ist: %2</source>
-        <translation>%1 cannot be read completely and stays as it is: %2</translation>
     </message>
     <message>
         <source>%1: %2 Einträge, %3 ausgelassen</source>
         <translation>%1: %2 entries, %3 left out</translation>
     </message>
     <message>
-        <source>%1: ausgelassen: %2</source>
-        <translation>%1: left out: %2</translation>
+        <source>zeigt und ändert persönliche Einträge, übernimmt sie aus anderen Programmen, gibt sie weiter</source>
+        <translation>shows and changes personal entries, takes them in from other programs, gives them to others</translation>
     </message>
-    <message numerus="yes">
-        <source>%1: %n weitere ausgelassen</source>
-        <translation>
-            <numerusform>%1: %n more left out</numerusform>
-            <numerusform>%1: %n more left out</numerusform>
-        </translation>
+    <message>
+        <source>list, import, export, check: Liste (XML), Kalender (iCalendar), Tabelle (CSV, TSV), Visitenkarten (vCard) oder ein Projekt, am Inhalt erkannt; - ist die Standardeingabe. Ohne: die eigenen Einträge</source>
+        <translation>list, import, export, check: list (XML), calendar (iCalendar), table (CSV, TSV), visiting cards (vCard) or a project, known by its content; - is standard input. Without: the user’s own entries</translation>
+    </message>
+    <message>
+        <source>add, remove, import: in dieser Liste (XML) oder diesem Projekt statt in den eigenen Einträgen</source>
+        <translation>add, remove, import: in this list (XML) or this project instead of the user’s own entries</translation>
+    </message>
+    <message>
+        <source>list, export: Feiertage dazu</source>
+        <translation>list, export: public holidays, too</translation>
+    </message>
+    <message>
+        <source>list, export: Schulferien dazu</source>
+        <translation>list, export: school holidays, too</translation>
+    </message>
+    <message>
+        <source>JAHR</source>
+        <translation>YEAR</translation>
+    </message>
+    <message>
+        <source>deren Jahr (das kommende)</source>
+        <translation>their year (the coming one)</translation>
+    </message>
+    <message>
+        <source>deren letztes Jahr, wenn es mehrere sind</source>
+        <translation>their last year, if there are several</translation>
+    </message>
+    <message>
+        <source>list, export: wohin (Standardausgabe)</source>
+        <translation>list, export: where to (standard output)</translation>
+    </message>
+    <message>
+        <source>es fehlt, was zu tun ist: %1</source>
+        <translation>what to do is missing: %1</translation>
+    </message>
+    <message>
+        <source>„%1“ gibt es nicht; möglich sind %2</source>
+        <translation>there is no “%1”; possible are %2</translation>
+    </message>
+    <message>
+        <source>--%1 gilt nicht für %2</source>
+        <translation>--%1 does not go with %2</translation>
+    </message>
+    <message>
+        <source>der Text steht zweimal da: „%1“ und „%2“</source>
+        <translation>the text is there twice: “%1” and “%2”</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntriesEdit</name>
+    <message>
+        <source>--%1 „%2“ ist kein Datum mit Jahr, wie 24.12.2027</source>
+        <translation>--%1 “%2” is no date with a year, such as 24.12.2027</translation>
+    </message>
+    <message>
+        <source>add, remove: der Text des Eintrags; --text kann wegbleiben</source>
+        <translation>add, remove: the text of the entry; --text may be left out</translation>
+    </message>
+    <message>
+        <source>DATUM</source>
+        <translation>DATE</translation>
+    </message>
+    <message>
+        <source>add, remove: sein Tag, 24.12.2027 oder 24.12.; --date kann wegbleiben</source>
+        <translation>add, remove: its day, 24.12.2027 or 24.12.; --date may be left out</translation>
+    </message>
+    <message>
+        <source>add: sein letzter Tag, wenn er mehrere dauert</source>
+        <translation>add: its last day, if it lasts several</translation>
+    </message>
+    <message>
+        <source>UHRZEIT</source>
+        <translation>TIME</translation>
+    </message>
+    <message>
+        <source>add: wann er beginnt, 19:30</source>
+        <translation>add: when it begins, 19:30</translation>
+    </message>
+    <message>
+        <source>WIE</source>
+        <translation>HOW</translation>
+    </message>
+    <message>
+        <source>add: einmal, jedes Jahr, alle 2 Wochen am Donnerstag, jeden Monat am letzten Freitag … oder eine Regel, FREQ=… (jedes Jahr)</source>
+        <translation>add: once, every year, every 2 weeks on Thursday, every last Friday of the month … or a rule, FREQ=… (every year)</translation>
+    </message>
+    <message>
+        <source>add: bis wann er sich wiederholt</source>
+        <translation>add: until when it repeats</translation>
+    </message>
+    <message>
+        <source>add: wo ein 29. Februar in anderen Jahren steht (february28)</source>
+        <translation>add: where 29 February is in other years (february28)</translation>
+    </message>
+    <message>
+        <source>NAME</source>
+        <translation>NAME</translation>
+    </message>
+    <message>
+        <source>add: eine Gruppe, zu der er gehört; mehrfach erlaubt</source>
+        <translation>add: a group that it belongs to; may be given several times</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>add: sein Foto</source>
+        <translation>add: its photo</translation>
+    </message>
+    <message>
+        <source>remove: alle, auf die es passt</source>
+        <translation>remove: all that it fits</translation>
+    </message>
+    <message>
+        <source>nach add fehlt der Text des Eintrags</source>
+        <translation>after add, the text of the entry is missing</translation>
+    </message>
+    <message>
+        <source>nach dem Text fehlt das Datum</source>
+        <translation>after the text, the date is missing</translation>
+    </message>
+    <message>
+        <source>„%1“: das Jahr fehlt; ohne Jahr geht nur, was jedes Jahr ist</source>
+        <translation>“%1”: the year is missing; without one there is only what is every year</translation>
+    </message>
+    <message>
+        <source>--end „%1“: erlaubt ist bis zu ein Jahr nach dem ersten Tag</source>
+        <translation>--end “%1”: up to a year after the first day is allowed</translation>
+    </message>
+    <message>
+        <source>--time „%1“ ist keine Uhrzeit wie 19:30</source>
+        <translation>--time “%1” is no time such as 19:30</translation>
+    </message>
+    <message>
+        <source>--until gilt nur für das, was sich wiederholt</source>
+        <translation>--until only goes with what repeats</translation>
+    </message>
+    <message>
+        <source>in --repeat steht schon, wie lange</source>
+        <translation>--repeat already says how long</translation>
+    </message>
+    <message>
+        <source>--until „%1“ liegt vor dem ersten Tag</source>
+        <translation>--until “%1” is before the first day</translation>
+    </message>
+    <message>
+        <source>„%1“ steht schon da</source>
+        <translation>“%1” is already there</translation>
+    </message>
+    <message>
+        <source>nach remove fehlt der Text des Eintrags oder seine Kennung</source>
+        <translation>after remove, the text of the entry or its uuid is missing</translation>
+    </message>
+    <message>
+        <source>einen Eintrag „%1“ gibt es dort nicht</source>
+        <translation>there is no entry “%1” there</translation>
+    </message>
+    <message>
+        <source>„%1“ passt auf %2 Einträge: Datum oder Kennung sagt, welcher gemeint ist, --all alle</source>
+        <translation>“%1” fits %2 entries: date or uuid says which is meant, --all means all</translation>
     </message>
 </context>
 <context>
@@ -1912,10 +2058,70 @@
     </message>
 </context>
 <context>
+    <name>MvEntriesInput</name>
+    <message>
+        <source>Standardeingabe</source>
+        <translation>standard input</translation>
+    </message>
+    <message>
+        <source>%1: mehr als %2 MB</source>
+        <translation>%1: more than %2 MB</translation>
+    </message>
+    <message>
+        <source>%1: ausgelassen: %2</source>
+        <translation>%1: left out: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1: %n weitere ausgelassen</source>
+        <translation>
+            <numerusform>%1: %n more left out</numerusform>
+            <numerusform>%1: %n more left out</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>MvEntriesPanel</name>
     <message>
         <source>„%1“ kommt in den Monaten dieses Kalenders nicht vor.</source>
         <translation>“%1” does not occur in the months of this calendar.</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntriesPlace</name>
+    <message>
+        <source>%1 ist nicht vollständig lesbar und bleibt, wie es ist: %2</source>
+        <translation>%1 cannot be read completely and stays as it is: %2</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 ist keine Liste von Einträgen (XML) und bleibt, wie es ist</source>
+        <translation>%1 is no list of entries (XML) and stays as it is</translation>
+    </message>
+    <message>
+        <source>%1 lässt sich nicht als Foto lesen</source>
+        <translation>%1 cannot be read as a photo</translation>
+    </message>
+    <message>
+        <source>Auf den Seiten dieses Kalenders sind persönliche Einträge ausgeschaltet.</source>
+        <translation>Personal entries are switched off on the pages of this calendar.</translation>
+    </message>
+</context>
+<context>
+    <name>MvEntriesPrinter</name>
+    <message>
+        <source>jedes Jahr</source>
+        <translation>every year</translation>
+    </message>
+    <message>
+        <source>einmal</source>
+        <translation>once</translation>
     </message>
 </context>
 <context>
@@ -2122,12 +2328,12 @@
         <translation>%1: The file is larger than %2 MB.</translation>
     </message>
     <message>
-        <source>Das ist weder eine Liste von Einträgen noch ein Kalender (iCalendar) noch eine Tabelle (CSV).</source>
-        <translation>This is neither a list of entries nor a calendar (iCalendar) nor a table (CSV).</translation>
-    </message>
-    <message>
         <source>%1 neu, %2 geändert, %3 gleich, %4 ausgelassen</source>
         <translation>%1 new, %2 changed, %3 equal, %4 skipped</translation>
+    </message>
+    <message>
+        <source>Das ist weder eine Liste von Einträgen noch ein Kalender (iCalendar), eine Tabelle (CSV) oder eine Datei mit Visitenkarten (vCard).</source>
+        <translation>This is neither a list of entries nor a calendar (iCalendar), a table (CSV) or a file of visiting cards (vCard).</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2641,10 @@
         <source>die Tabelle hat mehr als %1 Zeilen</source>
         <translation>the table has more than %1 rows</translation>
     </message>
+    <message>
+        <source>Ein Kalender druckt nicht: %1</source>
+        <translation>A calendar does not print: %1</translation>
+    </message>
 </context>
 <context>
     <name>MvEntryTableDialog</name>
@@ -2590,6 +2800,14 @@
             <numerusform>%n row is left out:</numerusform>
             <numerusform>%n rows are left out:</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Endet um</source>
+        <translation>Ends at</translation>
+    </message>
+    <message>
+        <source>Ganztägig</source>
+        <translation>All day</translation>
     </message>
 </context>
 <context>
@@ -4217,6 +4435,25 @@ The context menu replaces it by another photo.</translation>
     </message>
 </context>
 <context>
+    <name>MvHolidayEntries</name>
+    <message>
+        <source>Feiertage</source>
+        <translation>Public holidays</translation>
+    </message>
+    <message>
+        <source>Teils frei</source>
+        <translation>Optional holidays</translation>
+    </message>
+    <message>
+        <source>Gedenktage</source>
+        <translation>Observances</translation>
+    </message>
+    <message>
+        <source>Schulferien</source>
+        <translation>School holidays</translation>
+    </message>
+</context>
+<context>
     <name>MvHolidayRuleParser</name>
     <message>
         <source>leere Regel</source>
@@ -4408,6 +4645,65 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>die Wiederholung ist nicht auszuwerten: %1</source>
         <translation>the repetition cannot be evaluated: %1</translation>
+    </message>
+    <message>
+        <source>Ausnahmen nach einer Regel sind nicht auszuwerten</source>
+        <translation>exceptions by a rule cannot be evaluated</translation>
+    </message>
+    <message>
+        <source>die Wiederholung zählt die Tage einer anderen Zeitzone</source>
+        <translation>the repetition counts the days of another time zone</translation>
+    </message>
+    <message>
+        <source>Beschreibung</source>
+        <translation>description</translation>
+    </message>
+    <message>
+        <source>Ort</source>
+        <translation>place</translation>
+    </message>
+    <message>
+        <source>Anhang</source>
+        <translation>attachment</translation>
+    </message>
+    <message>
+        <source>Teilnehmer</source>
+        <translation>participant</translation>
+    </message>
+    <message>
+        <source>Erinnerung</source>
+        <translation>alarm</translation>
+    </message>
+    <message>
+        <source>die Angabe %1 ist zu lang, ihr Ende fehlt</source>
+        <translation>%1 is too long, its end is missing</translation>
+    </message>
+    <message>
+        <source>die Datei hat mehr als %1 Termine</source>
+        <translation>the file has more than %1 events</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeilen sind nicht zu lesen, dies ist die erste</source>
+        <translation>
+            <numerusform>%n line cannot be read</numerusform>
+            <numerusform>%n lines cannot be read, this is the first</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>die Datei hat eine neuere Fassung davon</source>
+        <translation>the file has a newer version of it</translation>
+    </message>
+    <message>
+        <source>die Änderung gilt auch für alle Termine danach; geändert ist nur dieser</source>
+        <translation>the change is meant for all dates after it, too; only this one is changed</translation>
+    </message>
+    <message>
+        <source>Ein Kalender druckt nicht: %1</source>
+        <translation>A calendar does not print: %1</translation>
+    </message>
+    <message>
+        <source>Die Zeitzone „%1“ ist nicht bekannt; ihre Zeiten stehen da wie in der Datei.</source>
+        <translation>The time zone “%1” is not known; its times are as in the file.</translation>
     </message>
 </context>
 <context>
@@ -4849,10 +5145,6 @@ The context menu replaces it by another photo.</translation>
         <translation>FILE</translation>
     </message>
     <message>
-        <source>persönliche Einträge, die der Kalender zeigt; die Datei gehört dann dazu</source>
-        <translation>personal entries that the calendar shows; the file then belongs to it</translation>
-    </message>
-    <message>
         <source>Titel, auch auf dem Titelblatt</source>
         <translation>title, also on the cover</translation>
     </message>
@@ -4875,6 +5167,10 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>der Kalender zeigt die eigenen persönlichen Einträge; sie kommen, wie sie jetzt sind, mit ihren Fotos in das Projekt</source>
         <translation>the calendar shows the user&apos;s own entries; they go into the project as they are now, with their photos</translation>
+    </message>
+    <message>
+        <source>persönliche Einträge, die der Kalender zeigt; eine Liste (XML) gehört dann dazu, aus anderen Dateien kommen sie in das Projekt</source>
+        <translation>personal entries that the calendar shows; a list (XML) then belongs to it, from other files they come into the project</translation>
     </message>
 </context>
 <context>
@@ -6080,10 +6376,6 @@ Save it under another name or in another folder.</translation>
         <translation>--%1 and --project exclude each other: this is in the project</translation>
     </message>
     <message>
-        <source>persönliche Einträge aus dieser Datei; was darin nicht lesbar ist, wird genannt</source>
-        <translation>personal entries of this file; what cannot be read in it is named</translation>
-    </message>
-    <message>
         <source>die eigenen persönlichen Einträge, ebenso</source>
         <translation>your own personal entries, in the same way</translation>
     </message>
@@ -6127,6 +6419,10 @@ Save it under another name or in another folder.</translation>
         <source>wie sie zu lesen sind, mit %name, %age, %year, %round: &quot;%name (%age)&quot;</source>
         <translation>how they read, with %name, %age, %year, %round: &quot;%name (%age)&quot;</translation>
     </message>
+    <message>
+        <source>persönliche Einträge aus dieser Datei: Liste (XML), Kalender (iCalendar), Tabelle (CSV), Visitenkarten (vCard) oder Projekt, - ist die Standardeingabe; was darin nicht lesbar ist, wird genannt</source>
+        <translation>personal entries of this file: list (XML), calendar (iCalendar), table (CSV), visiting cards (vCard) or project, - is standard input; what cannot be read is named</translation>
+    </message>
 </context>
 <context>
     <name>MvRenderEntries</name>
@@ -6148,6 +6444,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>%1: keine Einträge gefunden</source>
         <translation>%1: no entries found</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -6252,6 +6552,13 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .html, .png, .jpg, .tif oder .svg, und -</source>
         <translation>-o FILE is missing; allowed are names in .pdf, .html, .png, .jpg, .tif or .svg, and -</translation>
+    </message>
+</context>
+<context>
+    <name>MvRepetitionWords</name>
+    <message>
+        <source>„%1“ ist keine Wiederholung, die eindeutig ist; so geht es: einmal, jedes Jahr, alle 2 Wochen am Donnerstag, jeden Monat am letzten Freitag, bis 31.12.2027</source>
+        <translation>“%1” is no repetition that is clear; this is how: once, every year, every 2 weeks on Thursday, every month on the last Friday, until 31.12.2027</translation>
     </message>
 </context>
 <context>
