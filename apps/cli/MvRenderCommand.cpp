@@ -35,7 +35,8 @@ QList<MvCliOption> MvRenderCommand::options() const
                    "Visitenkarten "
                    "(vCard) oder Projekt, - ist die Standardeingabe; was darin nicht lesbar ist, wird genannt")},
                {u"my-entries"_s, {}, tr("die eigenen persönlichen Einträge, ebenso")},
-               {u"entry-text"_s, tr("MUSTER"), tr("wie sie zu lesen sind, mit %name, %age, %year, %round: \"%name (%age)\"")},
+               {u"entry-text"_s, tr("MUSTER"),
+                tr("wie sie zu lesen sind, mit %name, %age, %year, %round: \"%name (%age)\"")},
                {u"hide-group"_s, tr("NAME"), tr("Einträge dieser Gruppe weglassen"), true},
                {u"entry-times"_s, {}, tr("mit ihren Uhrzeiten")},
                {u"title"_s, u"TEXT"_s, tr("Titel der Dateien (Kalender 2027), mit --photos auch auf dem Titelblatt")},
