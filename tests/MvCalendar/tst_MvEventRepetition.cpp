@@ -244,7 +244,7 @@ void tst_MvEventRepetition::moves_data()
     QTest::newRow("weekly, without its day")
         << thursday << u"FREQ=WEEKLY;INTERVAL=2"_s << -1 << 0 << QDate(2026, 1, 15) << u"FREQ=WEEKLY;INTERVAL=2"_s;
     QTest::newRow("weekly, a day") << thursday << u"FREQ=WEEKLY;BYDAY=TH,SU"_s << 0 << 1 << QDate(2027, 1, 15)
-                                   << u"FREQ=WEEKLY;BYDAY=MO,FR"_s;
+                                   << u"FREQ=WEEKLY;BYDAY=FR,MO"_s;
     QTest::newRow("weekly, back") << thursday << u"FREQ=WEEKLY;BYDAY=TH"_s << 0 << -10 << QDate(2027, 1, 4)
                                   << u"FREQ=WEEKLY;BYDAY=MO"_s;
     QTest::newRow("second Thursday, a year")
@@ -292,7 +292,7 @@ void tst_MvEventRepetition::keepsItsFile()
     const QByteArray plain = MvCalendarEventFile::toBytes(list);
     QVERIFY(!plain.contains("LeapDay") && !plain.contains("Group"));
 
-    MvCalendarEvent full = entry({2027, 1, 4}, u"FREQ=WEEKLY;BYDAY=MO,FR"_s, LeapDay::March1);
+    MvCalendarEvent full = entry({2027, 1, 4}, u"FREQ=WEEKLY;BYDAY=FR,MO"_s, LeapDay::March1);
     MvEventRepetition repetition = full.repetition();
     repetition.exceptions = {{2027, 1, 8}};
     repetition.extraDates = {{2027, 1, 9}};
