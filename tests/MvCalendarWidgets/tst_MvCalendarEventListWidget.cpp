@@ -71,6 +71,7 @@ private Q_SLOTS:
     void contextMenuOutlivesItsClick();
     void savesAndLoads_data();
     void savesAndLoads();
+    void goesToOtherProgramsAndBack();
     void decidesAboutDoubtfulFiles_data();
     void decidesAboutDoubtfulFiles();
     void noFileChangesNothing();
@@ -240,6 +241,26 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     QCOMPARE(signalled.count(), 2);
     MvUndoController::instance().redo();
     QTEST(names().join(u' '), "result");
+}
+
+/// As a calendar: what comes back is reported, and is there once.
+void tst_MvCalendarEventListWidget::goesToOtherProgramsAndBack()
+{
+    MvCalendarEventListWidget list;
+    const QStringList before = names();
+    m_script->file = path(u"termine.ics"_qs);
+    menuAction(list, u"Sichern"_qs)->trigger();
+    QFile written(m_script->file);
+    QVERIFY(written.open(QIODevice::ReadOnly) && written.readAll().startsWith("BEGIN:VCALENDAR"));
+    registry().setEvents({});
+    for (const QString &told : {u"3 neu, 0 geändert, 0 gleich"_qs, u"0 neu, 0 geändert, 3 gleich"_qs}) {
+        m_script->reports.clear();
+        menuAction(list, u"Hinzufügen…"_qs)->trigger();
+        QTRY_COMPARE(m_script->reports.size(), 1); // read in a thread
+        QVERIFY2(m_script->reports.first().startsWith(told), qPrintable(m_script->reports.first()));
+        QCOMPARE(names(), before);
+        QCOMPARE(MvUndoController::instance().stack()->count(), 1);
+    }
 }
 
 void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles_data()

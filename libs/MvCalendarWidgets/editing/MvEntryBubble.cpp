@@ -342,7 +342,22 @@ bool MvEntryBubble::save()
     }
     push(m_isOfList ? tr("Eintrag ändern") : tr("Eintrag anlegen"), {{m_isOfList ? m_event : MvCalendarEvent(), event}},
          tr("„%1“ ist gesichert."));
+    updateRow(event);
     return true;
+}
+
+/// Whoever goes on to another entry of the day sees what was saved in the list.
+void MvEntryBubble::updateRow(const MvCalendarEvent &saved)
+{
+    const QSignalBlocker blocker(m_list);
+    const qsizetype row = m_isOfList ? m_entries.indexOf(m_event) : -1;
+    if (row >= 0) {
+        m_entries[row] = saved;
+        m_list->item(int(row))->setText(shortName(saved));
+    } else {
+        m_list->insertItem(int(m_entries.size()), shortName(saved));
+        m_entries.append(saved);
+    }
 }
 
 void MvEntryBubble::push(const QString &name, const QList<MvEntryChange> &changes, const QString &told)

@@ -75,6 +75,7 @@ private:
     bool isDateTouched() const;
     bool refuse(const QString &text, QWidget *field);
     bool save();
+    void updateRow(const MvCalendarEvent &saved);
     bool takeFoto(MvCalendarEvent &event);
     MvCalendarEvent typed();
     void push(const QString &name, const QList<MvEntryChange> &changes, const QString &told);

@@ -84,8 +84,10 @@ void MvBubble::adjust()
     if (content->hasHeightForWidth()) // beside a scroll bar, too: one that is there would else stay
         size.setHeight(qMax(size.height(), content->heightForWidth(size.width() - scrollBar)));
     const int around = 2 * padding;
-    if (size.height() + around + MvBubblePlacement::arrowLength > space.height())
+    const bool hasRoom = size.height() + around + MvBubblePlacement::arrowLength <= space.height();
+    if (!hasRoom)
         size.rwidth() += scrollBar;
+    m_scroll->setVerticalScrollBarPolicy(hasRoom ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
     m_placement = MvBubblePlacement::beside(m_target, size + QSize(around, around), space);
     const QMargins arrow = m_placement.margins();
     layout()->setContentsMargins(QMargins(padding, padding, padding, padding) + arrow);
