@@ -8,7 +8,6 @@
 #include "MvCore/MvLocale.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QRandomGenerator>
 
 #include <libical/ical.h>
@@ -264,12 +263,11 @@ void tst_MvEntryExchange::survivesBrokenFiles()
                 broken.append('x');
             }
         }
-        QElapsedTimer watch;
-        watch.start();
+        const std::clock_t start = std::clock(); // of this program alone: others work at night, too
         const MvEntryReading reading = MvEntryIntake::read(broken, u"file"_s);
         MvEntryIntake::Report report;
         const MvCalendarEventList joined = MvEntryIntake::joined(reading.events, reading, &report);
-        QVERIFY2(!isNight || watch.elapsed() < 2000, "it hangs");
+        QVERIFY2(!isNight || std::clock() - start < 2 * CLOCKS_PER_SEC, "it hangs");
         QVERIFY(reading.isOk() || reading.error.startsWith(u"file: "));
         QCOMPARE(joined.size(), reading.events.size());
         for (const MvCalendarEvent &event : reading.events)
