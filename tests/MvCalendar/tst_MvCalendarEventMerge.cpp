@@ -160,6 +160,7 @@ void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms()
         MvCalendarEventList file = MvEntryEditor::beginning();
         MvEntryHistory history;
         std::vector<Program> running;
+        running.reserve(programs);
         for (int who = 0; who < programs; ++who)
             running.push_back({MvEntryEditor(seed * 10 + quint32(who), u"%1x"_s.arg(who)), file, file});
         const auto save = [&file](Program &program) {

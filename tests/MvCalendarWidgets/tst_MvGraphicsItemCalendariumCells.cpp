@@ -52,7 +52,7 @@ struct Canvas
     {
         manager->resetRectsForMonth(month, rect);
         for (int i = 0; i < month.daysInMonth(); ++i)
-            manager->addRectForDate(month.addDays(i), QRectF(i % 7 * 30, i / 7 * 30, 28, 28));
+            manager->addRectForDate(month.addDays(i), QRect(i % 7 * 30, i / 7 * 30, 28, 28));
     }
     QPoint centre(const QDate &date) { return view.mapFromScene(manager->cell(date)->sceneBoundingRect().center()); }
 

@@ -154,9 +154,9 @@ void tst_MvSafeFileWriter::sizeLimitLeavesTheOldFile()
     QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
     struct rlimit limit = before;
-    limit.rlim_cur = 64 * 1024;
+    limit.rlim_cur = 65536;
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    const auto result = write(u"a.xml"_s, QByteArray(100 * 1024, 'x'));
+    const auto result = write(u"a.xml"_s, QByteArray(100'000, 'x'));
     QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handler);
     QVERIFY2(result.error.contains(u"größer als erlaubt"_s), qPrintable(result.error));

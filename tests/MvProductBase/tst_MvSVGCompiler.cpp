@@ -150,7 +150,7 @@ void tst_MvSVGCompiler::renderersAreKeptUntilCleared()
 void tst_MvSVGCompiler::instructionsAreBounded()
 {
     auto &cache = MvSVGCompilerInstructionsCache::instance();
-    const QString large(1024 * 1024, u'x');
+    const QString large(1'000'000, u'x');
     for (int i = 0; i < 10; ++i)
         cache.instructions(large + QString::number(i));
     QVERIFY(cache.count() > 0 && cache.count() < 5);

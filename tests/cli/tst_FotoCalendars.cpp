@@ -65,7 +65,7 @@ void tst_FotoCalendars::fotoCalendar()
     QCOMPARE(report.value(u"files"_s).toArray(),
              (QJsonArray{u"p-cover.png"_s, u"p-01.png"_s, u"p-02.png"_s, u"p-back.png"_s}));
     QVERIFY(report.value(u"photos"_s).toArray().size() >= 3);
-    for (const QJsonValue &foto : report.value(u"photos"_s).toArray())
+    for (const auto &foto : report.value(u"photos"_s).toArray())
         QVERIFY(foto[u"element"_s].toInt() > 0 && foto[u"ppi"_s].toInt() > 0);
 
     const Call atOnce = run(u"render --dpi 40 -o d-%m.png"_s + options);

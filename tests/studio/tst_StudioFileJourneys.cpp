@@ -290,7 +290,7 @@ void tst_StudioFileJourneys::damagedFileLeadsToItsBackup()
     MvStudioFixture studio;
     const QString path = studio.path(u"familie.mvcalendar"_s);
     QVERIFY(studio.project()->saveAs(QFileInfo(path)));
-    const MvCalendarDocument before = studio.document();
+    const MvCalendarDocument before = studio.document(); // NOLINT(performance-unnecessary-copy-initialization)
     MvCalendarDocument changed = before;
     changed.setTitle(u"Anders"_s);
     studio.project()->change(changed, u"Titel"_s);

@@ -123,8 +123,11 @@ QPainterPath Nature::firs(QRandomGenerator &generator, const Ridge &ridge, doubl
 {
     QPainterPath path;
     path.setFillRule(Qt::WindingFill);
-    for (double x = -0.05; x < width + 0.05; x += gap * random(generator, 0.4, 1.5))
+    double x = -0.05;
+    while (x < width + 0.05) {
         path.addPath(fir(generator, QPointF(x, ridge.top(x) + from * 0.15), random(generator, from, to)));
+        x += gap * random(generator, 0.4, 1.5);
+    }
     return path;
 }
 

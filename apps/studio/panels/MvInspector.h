@@ -38,9 +38,9 @@ protected:
 private:
     struct Row
     {
-        MvInspectorSection *section;
+        MvInspectorSection *section = nullptr;
         QList<MvPageSelection::Kind> about;
-        bool hasScope;
+        bool hasScope = false;
     };
 
     void followSelection();

@@ -317,14 +317,12 @@ QList<MvEntryTable::Row> MvEntryTable::rows(const QByteArray &bytes, const Forma
             isQuoted = i + 1 < text.size() && text.at(i + 1) == u'"';
             if (isQuoted)
                 cell += text.at(++i);
-        } else if (isQuoted) {
-            cell += c;
-        } else if (c == u'"' && cell.trimmed().isEmpty()) {
+        } else if (!isQuoted && c == u'"' && cell.trimmed().isEmpty()) {
             const qsizetype end = text.indexOf(u'"', i + 1);
             isQuoted = end > 0 && end - i < 10000; // else nobody closes it
-        } else if (c == format.separator) {
+        } else if (!isQuoted && c == format.separator) {
             endCell();
-        } else if (c == u'\n') {
+        } else if (!isQuoted && c == u'\n') {
             endRow();
         } else {
             cell += c;

@@ -87,7 +87,7 @@ void MvCalendariumRendererHolidays::completeAcrossMonth(QList<Event> &events) co
                 open.append(&event);
         }
         for (int day = 1; day <= mostDaysBeyond && !open.isEmpty(); ++day) {
-            const QDate date = edge.addDays(direction * day);
+            const QDate date = edge.addDays(qint64(direction) * day);
             const QStringList found = texts(date);
             const QSet<QString> present(found.cbegin(), found.cend());
             open.removeIf([&present](const Event *event) { return !present.contains(event->text); });

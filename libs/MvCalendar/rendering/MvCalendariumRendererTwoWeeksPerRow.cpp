@@ -90,7 +90,7 @@ void MvCalendariumRendererTwoWeeksPerRow::renderBase(QPainter &painter, const QR
     line.setHeight(heightOfCell(rect, CALENDAR_CELL_TYPE_WEEKDAY));
     const QDate monday = mondayOfWeekWithDay(startDate());
     for (int row = 0; row < rows; ++row) {
-        renderRow(painter, line, monday.addDays(row * daysPerRow));
+        renderRow(painter, line, monday.addDays(qint64(row) * daysPerRow));
         line.moveTop(line.bottom());
     }
 }

@@ -15,7 +15,7 @@ namespace {
 
 struct Kind
 {
-    MvCalendariumTypeEnum type;
+    MvCalendariumTypeEnum type{};
     QLatin1StringView name; // in files
     MvCalendariumTraits traits;
 };
