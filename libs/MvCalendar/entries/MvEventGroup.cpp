@@ -86,7 +86,8 @@ MvEventGroupList MvEventGroupList::merged(const MvEventGroupList &base, const Mv
         if (!isRemoved && !result.find(group.id))
             result.append(*other);
     };
-    const bool isOrderedHere = idsOf(mine, base) != idsOf(base, mine);
+    const bool isOrderedHere =
+        idsOf(mine, base) != idsOf(base, mine) || idsOf(theirs, base) == idsOf(base, theirs); // else only there
     const MvEventGroupList &first = isOrderedHere ? mine : theirs;
     std::for_each(first.cbegin(), first.cend(), take);
     const MvEventGroupList &rest = isOrderedHere ? theirs : mine;
