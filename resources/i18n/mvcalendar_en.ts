@@ -2513,6 +2513,14 @@
         <source>%name ist der Name, %age das Alter oder die Zahl der Jahre, %year das Jahr des Eintrags. Ohne bekanntes Jahr steht der Name allein.</source>
         <translation>%name is the name, %age the age or the number of years, %year the year of the entry. Where no year is known the name stands alone.</translation>
     </message>
+    <message>
+        <source>Runde Zahlen hervorheben: 60!</source>
+        <translation>Mark round numbers: 60!</translation>
+    </message>
+    <message>
+        <source>Volle Jahrzehnte, 25 und 75 bekommen ein Ausrufezeichen.</source>
+        <translation>Full tens, 25 and 75 get an exclamation mark.</translation>
+    </message>
 </context>
 <context>
     <name>MvEntryQuestion</name>

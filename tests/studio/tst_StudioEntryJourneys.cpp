@@ -332,9 +332,14 @@ void tst_StudioEntryJourneys::groupsAreMadeAndShown()
     Q_EMIT forms->activated(forms->currentIndex());
     QVERIFY2(studio.texts().contains(u"Jörg(60)"_s), qPrintable(studio.texts()));
     QVERIFY(dialog->findChild<QLabel *>(u"calendarPatternExample"_s)->text().endsWith(u"Jörg (60)"_s));
+    auto *round = dialog->findChild<QCheckBox *>(u"calendarPatternRound"_s);
+    round->click();
+    QVERIFY2(studio.texts().contains(u"Jörg(60!)"_s), qPrintable(studio.texts()));
+    round->click();
+    QCOMPARE(studio.steps(), before + 4);
     groups->item(1)->setCheckState(Qt::Unchecked);
     QVERIFY(!studio.texts().contains(u"Probe"_s));
-    QCOMPARE(studio.steps(), before + 3);
+    QCOMPARE(studio.steps(), before + 5);
     QVERIFY(studio.click(dialog, "removeGroup"));
     auto *question = MvStudioFixture::dialog<QMessageBox>();
     QVERIFY(question && question->informativeText().startsWith(u"1 Eintrag gehört"_s));
@@ -343,7 +348,7 @@ void tst_StudioEntryJourneys::groupsAreMadeAndShown()
     QCOMPARE(groups->count(), 1);
     dialog->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(dialog));
-    for (int step = 0; step < 4; ++step)
+    for (int step = 0; step < 6; ++step)
         QTest::keyClick(groups, Qt::Key_Z, Qt::ControlModifier); // from within the dialog
     QCOMPARE(headings(), u" ,Familie,Verein"_s);
     QVERIFY(studio.texts().contains(u"Probe"_s) && !studio.texts().contains(u"(60)"_s));

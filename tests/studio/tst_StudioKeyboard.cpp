@@ -101,20 +101,32 @@ QRect inWindow(const QWidget *widget)
     return {widget->mapTo(widget->window(), QPoint()), widget->size()};
 }
 
-/// Stops of one container follow each other by rows, and in a row from left to right.
+bool readsBefore(const QWidget *one, const QWidget *other)
+{
+    const QRect a = inWindow(one);
+    const QRect b = inWindow(other);
+    const bool isSameRow = qMin(a.bottom(), b.bottom()) - qMax(a.top(), b.top()) > qMin(a.height(), b.height()) / 2;
+    return isSameRow ? a.left() <= b.left() : a.top() <= b.top();
+}
+
+/// Stops of one container follow each other by rows, and in a row from left to right. They make a ring, of which the
+/// first that had the focus may be in the middle.
 QStringList outOfOrder(const QList<const QWidget *> &stops)
 {
     QStringList errors;
+    bool isThroughTheEnd = false;
     for (qsizetype i = 1; i < stops.size(); ++i) {
         const QWidget *before = stops.at(i - 1);
         const QWidget *after = stops.at(i);
-        if (before->parentWidget() != after->parentWidget())
+        if (before->parentWidget() != after->parentWidget() || readsBefore(before, after))
             continue;
-        const QRect a = inWindow(before);
-        const QRect b = inWindow(after);
-        const bool isSameRow = qMin(a.bottom(), b.bottom()) - qMax(a.top(), b.top()) > qMin(a.height(), b.height()) / 2;
-        if (isSameRow ? b.left() < a.left() : b.top() < a.top())
-            errors.append(u"%1 after %2"_s.arg(nameOf(after), nameOf(before)));
+        const bool isEndOfRing = !isThroughTheEnd && stops.first()->parentWidget() == after->parentWidget() &&
+                                 stops.last()->parentWidget() == after->parentWidget() &&
+                                 readsBefore(stops.last(), stops.first());
+        isThroughTheEnd = isThroughTheEnd || isEndOfRing;
+        if (isEndOfRing)
+            continue;
+        errors.append(u"%1 after %2"_s.arg(nameOf(after), nameOf(before)));
     }
     return errors;
 }

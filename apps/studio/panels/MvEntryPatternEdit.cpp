@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "panels/MvEntryPatternEdit.h"
 
+#include "MvCalendar/MvEventText.h"
 #include "MvGUIWidgets/MvMouseWheelEventFilter.h"
 #include "MvPaint/MvPrintableText.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,6 +34,7 @@ MvEntryPatternEdit::MvEntryPatternEdit(const QString &emptyForm, const QString &
     : QWidget(parent)
     , m_forms(new QComboBox(this))
     , m_own(new QLineEdit(this))
+    , m_round(new QCheckBox(tr("Runde Zahlen hervorheben: 60!"), this))
     , m_example(new QLabel(this))
 {
     m_forms->setObjectName(objectName + u"Forms"_s);
@@ -61,6 +64,8 @@ MvEntryPatternEdit::MvEntryPatternEdit(const QString &emptyForm, const QString &
         tr("%name ist der Name, %age das Alter oder die Zahl der Jahre, %year das Jahr des Eintrags. Ohne "
            "bekanntes Jahr steht der Name allein."));
     m_own->setPlaceholderText(u"%name (%age)"_s);
+    m_round->setObjectName(objectName + u"Round"_s);
+    m_round->setToolTip(tr("Volle Jahrzehnte, 25 und 75 bekommen ein Ausrufezeichen."));
     m_example->setObjectName(objectName + u"Example"_s);
     m_example->setTextFormat(Qt::PlainText);
     m_example->setWordWrap(true);
@@ -69,28 +74,33 @@ MvEntryPatternEdit::MvEntryPatternEdit(const QString &emptyForm, const QString &
     column->setContentsMargins({});
     column->addWidget(m_forms);
     column->addWidget(m_own);
+    column->addWidget(m_round);
     column->addWidget(m_example);
     setPattern({});
     connect(m_forms, &QComboBox::activated, this, &MvEntryPatternEdit::onFormActivated);
     connect(m_own, &QLineEdit::editingFinished, this, &MvEntryPatternEdit::onOwnEdited);
+    connect(m_round, &QCheckBox::clicked, this, &MvEntryPatternEdit::tell);
 }
 
 QString MvEntryPatternEdit::pattern() const
 {
     const QString form = m_forms->currentData().toString();
-    return form == ownForm ? m_own->text().trimmed() : form;
+    return MvEventText::withRoundMarked(form == ownForm ? m_own->text().trimmed() : form, m_round->isChecked());
 }
 
 void MvEntryPatternEdit::setPattern(const QString &pattern)
 {
     m_shown = pattern;
-    const int form = m_forms->findData(pattern);
-    const bool isBeingTyped = m_own->isVisible() && m_own->hasFocus() && m_own->text().trimmed() == pattern;
+    const QString plain = MvEventText::withRoundMarked(pattern, false);
+    const int form = m_forms->findData(plain);
+    const bool isBeingTyped = m_own->isVisible() && m_own->hasFocus() && m_own->text().trimmed() == plain;
     if (!isBeingTyped)
         m_forms->setCurrentIndex(form >= 0 ? form : m_forms->findData(ownForm));
-    if (form < 0 && m_own->text() != pattern)
-        m_own->setText(pattern);
+    if (form < 0 && m_own->text() != plain)
+        m_own->setText(plain);
     m_own->setVisible(m_forms->currentData() == ownForm);
+    m_round->setChecked(MvEventText::marksRound(pattern));
+    m_round->setVisible(plain.contains(u"%age"_s));
 }
 
 void MvEntryPatternEdit::setExample(const QString &text)
@@ -103,18 +113,24 @@ void MvEntryPatternEdit::onFormActivated()
     const bool isOwn = m_forms->currentData() == ownForm;
     m_own->setVisible(isOwn);
     if (isOwn) { // begins with what there is
-        m_own->setText(m_shown.isEmpty() ? u"%name"_s : m_shown);
+        m_own->setText(m_shown.isEmpty() ? u"%name"_s : MvEventText::withRoundMarked(m_shown, false));
         m_own->setFocus();
         m_own->selectAll();
-    } else if (pattern() != m_shown) {
-        m_shown = pattern();
-        Q_EMIT patternChanged(m_shown);
+    } else {
+        tell();
     }
 }
 
 void MvEntryPatternEdit::onOwnEdited()
 {
-    if (m_forms->currentData() != ownForm || pattern() == m_shown)
+    if (m_forms->currentData() == ownForm)
+        tell();
+}
+
+void MvEntryPatternEdit::tell()
+{
+    m_round->setVisible(pattern().contains(u"%age"_s));
+    if (pattern() == m_shown)
         return;
     m_shown = pattern();
     Q_EMIT patternChanged(m_shown);

@@ -3,12 +3,13 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
 
 /// How entries read, with their ages: one of the usual forms, or a pattern of one's own with the places %name, %age and
-/// %year; and below it an entry as it reads then.
+/// %year, whether round numbers are marked; and below it an entry as it reads then.
 class MvEntryPatternEdit : public QWidget
 {
     Q_OBJECT
@@ -31,9 +32,11 @@ Q_SIGNALS:
 private:
     void onFormActivated();
     void onOwnEdited();
+    void tell();
 
     QComboBox *m_forms;
     QLineEdit *m_own;
+    QCheckBox *m_round;
     QLabel *m_example;
     QString m_shown;
 };
