@@ -56,6 +56,10 @@ QList<MvCompletion::Candidate> MvCompletion::candidates(const QStringList &words
         if (isNamed && !option.value.isEmpty())
             return valuesOf(option, words);
     }
+    const auto isAction = [](const MvCliOption &option) { return option.isOperand && option.value.contains(u'|'); };
+    const auto action = std::find_if(options.cbegin(), options.cend(), isAction);
+    if (words.size() == 2 && !words.constLast().startsWith(u'-') && action != options.cend())
+        return valuesOf(*action, words);
     return words.constLast().startsWith(u'-') || words.constLast().isEmpty() ? optionsOf(options, words) : found;
 }
 

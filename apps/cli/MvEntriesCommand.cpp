@@ -30,7 +30,7 @@ QStringList MvEntriesCommand::actions()
 QList<MvCliOption> MvEntriesCommand::options() const
 {
     return QList<MvCliOption>{
-               {u"action"_s, tr("WAS"), actions().join(u", "_s), false, true},
+               {u"action"_s, actions().join(u'|'), tr("was mit den Einträgen geschieht"), false, true},
                {u"file"_s, tr("DATEI"),
                 tr("list, import, export, check: Liste (XML), Kalender (iCalendar), Tabelle (CSV, TSV), Visitenkarten "
                    "(vCard) oder ein Projekt, am Inhalt erkannt; - ist die Standardeingabe. Ohne: die eigenen "

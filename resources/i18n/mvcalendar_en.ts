@@ -1771,10 +1771,6 @@
 <context>
     <name>MvEntriesCommand</name>
     <message>
-        <source>WAS</source>
-        <translation>WHAT</translation>
-    </message>
-    <message>
         <source>DATEI</source>
         <translation>FILE</translation>
     </message>
@@ -1837,6 +1833,10 @@
     <message>
         <source>der Text steht zweimal da: „%1“ und „%2“</source>
         <translation>the text is there twice: “%1” and “%2”</translation>
+    </message>
+    <message>
+        <source>was mit den Einträgen geschieht</source>
+        <translation>what is done with the entries</translation>
     </message>
 </context>
 <context>

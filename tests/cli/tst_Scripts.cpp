@@ -134,6 +134,7 @@ void tst_Scripts::completes_data()
     QTest::newRow("options") << u"mvcalendar render --year 2027 --no-ho"_s << QStringList{u"--no-holidays"_s};
     QTest::newRow("regions of the country") << u"mvcalendar render --country AT -r 9"_s << QStringList{u"9"_s};
     QTest::newRow("words of an option") << u"mvcalendar render --binding s"_s << QStringList{u"side"_s};
+    QTest::newRow("what to do") << u"mvcalendar entries re"_s << QStringList{u"remove"_s};
     QTest::newRow("layouts") << u"mvcalendar render -l YEAR_P"_s << QStringList{u"YEAR_PLANNER"_s};
     QTest::newRow("files are the shell's") << u"mvcalendar render --project fam"_s << QStringList();
 }
