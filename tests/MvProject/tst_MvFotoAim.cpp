@@ -18,6 +18,7 @@ class tst_MvFotoAim : public MvTest
 private Q_SLOTS:
     void showsWhatMatters_data();
     void showsWhatMatters();
+    void leavesOutWhatMattersLess();
     void followsItsFrame();
     void interestSurvivesFiles_data();
     void interestSurvivesFiles();
@@ -105,6 +106,29 @@ void tst_MvFotoAim::showsWhatMatters()
         for (const MvPageElement &element : above)
             QVERIFY2(!element.rect().intersects(stands), qPrintable(QDebug::toString(stands)));
     }
+}
+
+/// A lamp above much rock: the detail below does not pull it out of sight. And a face too high for its frame is cut at
+/// the hat rather than at the chin.
+void tst_MvFotoAim::leavesOutWhatMattersLess()
+{
+    MvFotoPoolItem tower = photoWith({0.5, 0.25, 0.1, 0.1}, upright);
+    tower.focus = {0.6, 0.3};
+    tower.interest = MvFotoInterest({}, {2, 4}, {0, 1, 0, 2, 9, 9, 9, 9});
+    const QSizeF band(2100, 900);
+    const MvFotoElement foto(tower.path);
+    QCOMPARE(MvFotoAim::focus(tower, foto, band, {QRectF(QPointF(), band)}), tower.focus);
+    const QRectF upper(0, 0, 2100, 600);
+    MvFotoElement aimed(tower.path);
+    aimed.setFocus(MvFotoAim::focus(tower, foto, band, {upper}));
+    const QPointF lamp = aimed.transform(upright, band).map(QPointF(0.6 * upright.width(), 0.3 * upright.height()));
+    QVERIFY2(upper.contains(lamp), qPrintable(QDebug::toString(lamp)));
+
+    const QRectF face(0.3, 0.4, 0.4, 0.3);
+    MvFotoPoolItem girl = photoWith(face, upright);
+    girl.interest = MvFotoInterest({{face, 1.4}, {{0.2, 0.1, 0.6, 0.6}, 0.7}});
+    const QPointF focus = MvFotoAim::focus(girl, foto, {2100, 700}, {QRectF(0, 0, 2100, 700)});
+    QVERIFY2(focus.y() > 0.45 && focus.y() < 0.6, qPrintable(QDebug::toString(focus)));
 }
 
 /// From template to template and from paper to paper; what a hand has placed stays.

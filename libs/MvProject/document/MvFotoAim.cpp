@@ -36,25 +36,28 @@ public:
         , m_frame(frame)
         , m_seen(seen)
     {
-        const bool isPoint = photo.interest.isEmpty();
+        // where nothing stands out, the focus knows more of it than all that there is to see
+        const bool isPoint = photo.interest.wholes().isEmpty();
         const MvFotoInterest interest = isPoint ? MvFotoInterest::at(photo.focus) : photo.interest;
-        m_down = isPoint || interest.wholes().isEmpty() ? 0.0 : belowMiddle;
+        m_down = isPoint ? 0.0 : belowMiddle;
         const auto inPixels = [this](MvFotoInterest::Part part) {
             part.rect = {part.rect.x() * m_size.width(), part.rect.y() * m_size.height(),
                          part.rect.width() * m_size.width(), part.rect.height() * m_size.height()};
             return part;
         };
+        QPointF sum;
         for (const MvFotoInterest::Part &whole : interest.wholes()) {
             m_wholes.append(inPixels(whole));
             m_weight += whole.weight;
+            sum += whole.weight * whole.rect.center(); // a face counts for more than the hat on it
         }
+        m_start = m_weight > 0.0 ? sum / m_weight : photo.focus;
         const QList<MvFotoInterest::Part> cells = interest.cells();
         for (const MvFotoInterest::Part &cell : cells) {
             m_cells.append(inPixels(cell));
             m_weight += ofCells * cell.weight;
         }
-        m_middle = {interest.middle().x() * m_size.width(), interest.middle().y() * m_size.height()};
-        m_start = interest.middle();
+        m_middle = {m_start.x() * m_size.width(), m_start.y() * m_size.height()};
     }
 
     /// The better one axis after the other: most photos can be moved along one only.
@@ -181,7 +184,7 @@ QPointF MvFotoAim::focus(const MvFotoPoolItem &photo, const MvFotoElement &foto,
         return photo.focus;
     const QSizeF largest = uncovered.constFirst().size();
     const bool isWhole = largest.width() * largest.height() >= hardlyCovered * frame.width() * frame.height();
-    if (photo.interest.isEmpty() && isWhole)
+    if (isWhole && photo.interest.wholes().isEmpty())
         return photo.focus;
     QPointF best = photo.focus;
     double most = 0.0;
