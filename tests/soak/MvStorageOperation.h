@@ -20,4 +20,6 @@ struct MvStorageOperation
     std::function<int(const QDir &disk)> stored;
     /// What happens before, while the disk works.
     std::function<void(const QDir &disk, int state)> prepare = {};
+    /// The call that puts the new state in place is the last one: nobody can be killed after it.
+    bool endsWithNewState = false;
 };

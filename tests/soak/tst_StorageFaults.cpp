@@ -377,8 +377,8 @@ QList<MvStorageOperation> operations()
         {"PDF", Application::Gui, exportTo(u"Kalender.pdf"_s), stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
         {"PNG", Application::Gui, exportTo(u"Kalender.png"_s), stateOfPng},
         {"SVG", Application::Gui, exportTo(u"Kalender.svg"_s), stateByTitle(u"Kalender.svg"_s, "</svg>")},
-        {"packed folder", Application::Gui, packFolder, stateOfFolder, removeFolder},
-        {"packed archive", Application::Gui, packZip, stateOfZip},
+        {"packed folder", Application::Gui, packFolder, stateOfFolder, removeFolder, true},
+        {"packed archive", Application::Gui, packZip, stateOfZip, {}, true},
         {"in place", Application::Core, storeInPlace, stateInPlace, makeSecondName},
     };
 }

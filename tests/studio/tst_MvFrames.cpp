@@ -34,6 +34,7 @@ private Q_SLOTS:
     void deviatingPages();
     void severalInPanels_data();
     void severalInPanels();
+    void goneBeneathPanels();
 
 private:
     MvCalendarPage page() const { return m_project->document().pages().constFirst(); }
@@ -413,6 +414,29 @@ void tst_MvFrames::deviatingPages()
                  one.setFoto(left, foto);
              }),
              QList<bool>({false, false, false}));
+}
+
+/// An undone step takes away the frame that a panel shows, or makes it one of another kind.
+void tst_MvFrames::goneBeneathPanels()
+{
+    QWidget window;
+    MvStudioPanels panels(m_project.get(), &window, m_canvas->selection(), m_canvas->frames());
+    auto *row = new QHBoxLayout(&window);
+    for (const MvStudioPanel &panel : panels.selectionPanels())
+        row->addWidget(panel.widget);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    MvCalendarPage simple = page();
+    simple.setTemplate({}, m_project->document().format());
+    m_project->changePage(0, simple, u"simple"_s);
+    for (const int chosen : {title, left, calendarium}) {
+        MvUndoController::instance().undo();
+        m_canvas->selection()->selectElements({right, chosen});
+        QCOMPARE(m_canvas->selection()->elements().size(), 2);
+        MvUndoController::instance().redo(); // to a page of two elements
+        for (const int number : m_canvas->selection()->elementsOfKind())
+            QVERIFY(number < page().elementsOn(m_project->document().format()).size());
+    }
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvFrames)

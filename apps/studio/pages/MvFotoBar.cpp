@@ -78,7 +78,8 @@ MvFotoBar::MvFotoBar(MvProject *project, MvPageItem *item, MvFotoHandle *handle,
     connect(m_zoom, &QSlider::valueChanged, this, &MvFotoBar::zoom);
     connect(m_turn, &QToolButton::clicked, this, &MvFotoBar::turn);
     connect(m_whole, &QToolButton::clicked, this, &MvFotoBar::toggleFit);
-    connect(handle, &MvFotoHandle::activeFrameChanged, this, &MvFotoBar::follow);
+    // a widget that comes or goes below the mouse sends the scene a move of its own, which must not come amid another
+    connect(handle, &MvFotoHandle::activeFrameChanged, this, &MvFotoBar::follow, Qt::QueuedConnection);
     connect(item, &MvPageItem::refreshed, this, &MvFotoBar::follow);
 }
 

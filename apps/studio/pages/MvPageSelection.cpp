@@ -10,7 +10,10 @@ MvPageSelection::MvPageSelection(MvProject *project, QObject *parent)
     , m_project(project)
 {
     connect(project, &MvProject::documentReplaced, this, [this] { setPage(0); });
-    connect(project, &MvProject::documentChanged, this, &MvPageSelection::check);
+    // as early as anybody hears of a change, so that nobody asks for what is not there any more
+    for (const auto changed : {&MvProject::pagesReset, &MvProject::documentChanged})
+        connect(project, changed, this, &MvPageSelection::check);
+    connect(project, &MvProject::pageChanged, this, &MvPageSelection::check);
 }
 
 void MvPageSelection::setPage(int page)
@@ -37,9 +40,9 @@ QList<int> MvPageSelection::elements() const
 QList<int> MvPageSelection::elementsOfKind() const
 {
     QList<int> alike = m_others;
-    alike.removeIf([this](int element) { return kindOf(element) != m_kind; });
     if (m_element >= 0)
         alike.append(m_element);
+    alike.removeIf([this](int element) { return kindOf(element) != m_kind; });
     return alike;
 }
 

@@ -72,11 +72,14 @@ void MvCalendariumPanel::showPage()
     const MvCalendarPage page = edits()->page();
     const QList<MvPageElement> elements = page.elementsOn(edits()->document().format());
     const QList<int> numbers = m_selection->elementsOfKind();
-    if (m_selection->kind() != MvPageSelection::Kind::Calendarium || numbers.isEmpty())
-        return;
     QList<MvCalendariumElement> shown;
-    for (const int number : numbers)
-        shown.append(*elements.at(number).calendarium());
+    for (const int number : numbers) {
+        const MvPageElement element = elements.value(number);
+        if (element.calendarium())
+            shown.append(*element.calendarium());
+    }
+    if (m_selection->kind() != MvPageSelection::Kind::Calendarium || shown.isEmpty())
+        return;
     MvCommonValue::show(
         m_month, MvCommonValue::of(shown, [](const MvCalendariumElement &one) { return QVariant(one.monthOffset()); }));
     MvCommonValue::show(m_layout, MvCommonValue::of(shown, [this](const MvCalendariumElement &one) {
