@@ -87,6 +87,9 @@ void tst_MvCalendarEventFotoFolder::copiesAgainWhatHasChanged()
     const QString copy = folder.withOwnCopies({event}).first().foto().localFilePath();
     QCOMPARE(copy, foto(u"oma.png"_s));
     QCOMPARE(folder.withOwnCopies({event}).first().foto().localFilePath(), copy); // once
+    MvCalendarEventFotoFolder::removeAllBut({});
+    QCOMPARE(folder.withOwnCopies({event}).first().foto().localFilePath(), copy); // back from the bin
+    QCOMPARE(fotos(), QStringList{u"oma.png"_s});
 
     putFoto(source, Qt::blue);
     QFile touched(source);

@@ -99,11 +99,13 @@ MvCalendarEventFotoFolder::Source MvCalendarEventFotoFolder::sourceOf(const MvFo
     return {foto.localFilePath(), file.lastModified().toMSecsSinceEpoch(), file.size()};
 }
 
-/// Copies come and go with the folder; what could not be copied may well be when there is room again.
+/// Copies come and go with the folder: one that went into the bin with an undone step comes back with the step. What
+/// could not be copied may well be when there is room again.
 bool MvCalendarEventFotoFolder::isKnown(const Source &source) const
 {
     const auto known = m_outcomes->constFind(source);
-    return known != m_outcomes->cend() && known->isOk() && known->foto.localFileInfo().isFile();
+    return known != m_outcomes->cend() && known->isOk() &&
+           (known->foto.localFileInfo().isFile() || fetchBack(known->foto));
 }
 
 MvCalendarEventList MvCalendarEventFotoFolder::withOwnCopies(const MvCalendarEventList &events,
