@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""What tools/nightly and tools/check_benchmarks make of steps and programs that fail, hang or answer."""
+"""What tools/nightly, tools/tidy and tools/check_benchmarks make of steps and programs that fail, hang or answer."""
 
 import contextlib
 import importlib.machinery
@@ -60,6 +60,26 @@ class Nightly(unittest.TestCase):
         self.assertIn("not done after", said)
         time.sleep(1.5)
         self.assertFalse(survivor.exists(), "children end with their step")
+
+    def test_tidy(self):
+        tidy = tool("tidy")
+        texts = {"a.cpp": "namespace {\n\nint sum(int)\n{\n}\n\n} // namespace\n",
+                 "b.cpp": "static constexpr double width = 2;\nint main()\n{\n}\n",
+                 "c.cpp": "namespace {\n\nclass Row\n{\n    int sum;\n};\nconst QString sum = u\"x\"_s;\n\n} // namespace\n"}
+        sources = []
+        for name, text in texts.items():
+            (self.folder / name).write_text(text, encoding="utf-8")
+            entry = {"file": str(self.folder / name), "command": f"c++ -DA -I/i/{name} -Wall -o {name}.o -c {name}"}
+            sources.append(tidy.Source(entry))
+        groups = tidy.grouped(sources, 10)
+        self.assertEqual([[one.path.name for one in group.sources] for group in groups], [["a.cpp", "b.cpp"], ["c.cpp"]])
+        self.assertEqual(groups[0].flags(), [["-Wall"], ["-DA"], ["-I/i/a.cpp", "-I/i/b.cpp"]])
+        path = self.folder / "together.cpp"
+        groups[0].write(path)
+        line = path.read_text(encoding="utf-8").split("\n").index("int main()") + 1
+        told = groups[0].told(f"{path}:{line}:5: error: bad [x]\n/h.h:1:2: note: here\n", path)
+        self.assertEqual(told, f"{self.folder}/b.cpp:2:5: error: bad [x]\n/h.h:1:2: note: here\n")
+        self.assertEqual(tidy.findings(f"12 warnings.\n{told}{told}"), [told.strip()] * 2)
 
     def test_benchmarks(self):
         times = {"fast": 2.0, "slow": 8.0}

@@ -84,7 +84,7 @@ MvCalendariumHolidayList MvCalendariumDays::lookUp(const QDate &date, Vacations 
         return {};
     if (!m_isInPass)
         return lookUpYear(date.year(), vacations).value(date);
-    const QPair key(date.year(), vacations);
+    const std::pair key(date.year(), vacations);
     const auto known = m_years.find(key);
     const Year &days =
         known != m_years.end() ? known->second : m_years.emplace(key, lookUpYear(date.year(), vacations)).first->second;
