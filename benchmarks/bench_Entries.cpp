@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvBenchTurns.h"
+
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventIndex.h"
 #include "MvCalendar/MvCalendarEventListWidget.h"
@@ -6,11 +8,15 @@
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvCore/MvProcessTimeZone.h"
 #include "MvCore/MvUndoController.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QSaveFile>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
 
 #include <benchmark/benchmark.h>
 
@@ -47,6 +53,77 @@ static void readEntries(benchmark::State &state)
         benchmark::DoNotOptimize(MvCalendarEventFile::read(QFileInfo(file.fileName())).events.size());
 }
 BENCHMARK(readEntries)->Unit(benchmark::kMillisecond);
+
+/// Beside reading each text of such a file as a stream, and keeping none.
+static void loadList(benchmark::State &state)
+{
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("entries.xml"));
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return state.SkipWithError("no temporary file");
+    file.write(MvCalendarEventFile::toBytes(manyEntries()));
+    file.close();
+    const auto readAlone = [&path] {
+        QFile plain(path);
+        if (!plain.open(QIODevice::ReadOnly))
+            return;
+        QXmlStreamReader reader(&plain);
+        while (!reader.atEnd()) {
+            reader.readNext();
+            benchmark::DoNotOptimize(reader.text().toString());
+        }
+    };
+    const auto load = [&path] { benchmark::DoNotOptimize(MvCalendarEventFile::read(QFileInfo(path)).events.size()); };
+    for (auto _ : state) {
+        const std::vector<double> times = MvBenchTurns().measure({readAlone, load});
+        state.counters["ms"] = times.at(1);
+        state.counters["ratio"] = times.at(1) / times.at(0);
+    }
+}
+BENCHMARK(loadList)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+/// An undo step with one change among 10,000 entries, beside writing them all into a file as a stream.
+static void changeOne(benchmark::State &state)
+{
+    const QTemporaryDir dir;
+    MvDirectoryConfig::instance().setProgramDataDir(dir.path());
+    MvCalendarEventRegistry &registry = MvCalendarEventRegistry::instance();
+    registry.setEvents(manyEntries());
+    const MvCalendarEventList events = registry.activeEventList();
+    const QString path = dir.filePath(QStringLiteral("plain.xml"));
+    const auto writeAll = [&events, &path] {
+        QSaveFile file(path);
+        if (!file.open(QIODevice::WriteOnly))
+            return;
+        QXmlStreamWriter writer(&file);
+        writer.setAutoFormatting(true);
+        writer.writeStartDocument();
+        writer.writeStartElement(QStringLiteral("CalendarEvents"));
+        for (const MvCalendarEvent &event : events) {
+            writer.writeStartElement(QStringLiteral("CalendarEvent"));
+            for (const auto &[name, text] : event.fileTexts())
+                writer.writeTextElement(name, text);
+            writer.writeEndElement();
+        }
+        writer.writeEndDocument();
+        file.commit();
+    };
+    int number = 0;
+    const auto change = [&registry, &number] {
+        const MvCalendarEvent before = registry.activeEventList().at(number);
+        MvCalendarEvent after = before;
+        after.setEventName(QStringLiteral("Anders %1").arg(number++));
+        MvUndoController::instance().push(new MvUndoCommandCalendarEvent(before, after, nullptr));
+    };
+    for (auto _ : state) {
+        const std::vector<double> times = MvBenchTurns().measure({writeAll, change});
+        state.counters["ms"] = times.at(1);
+        state.counters["ratio"] = times.at(1) / times.at(0);
+    }
+    MvUndoController::instance().clear();
+}
+BENCHMARK(changeOne)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 static void lookUpPage(benchmark::State &state)
 {
@@ -165,6 +242,7 @@ BENCHMARK(changeLists)->ArgsProduct({{1000, 10000}, {0, 1}})->Unit(benchmark::kM
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    MvProcessTimeZone::askOnce();
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

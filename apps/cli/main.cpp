@@ -3,6 +3,7 @@
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvOutOfMemory.h"
 #include "MvCore/MvProcessMemory.h"
+#include "MvCore/MvProcessTimeZone.h"
 #include "MvCore/MvTranslations.h"
 #include "MvFoto/MvImageLoader.h"
 
@@ -43,6 +44,7 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // no window is ever opened
+    MvProcessTimeZone::askOnce();
     qInstallMessageHandler(printMessage);
 
     const MvCli program;

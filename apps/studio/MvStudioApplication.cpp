@@ -5,6 +5,7 @@
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvPlatformIndependent.h"
+#include "MvCore/MvProcessTimeZone.h"
 #include "MvCore/MvTranslations.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvImageLoader.h"
@@ -76,6 +77,7 @@ void MvStudioApplication::setUpProcess(const QString &version)
     QGuiApplication::setDesktopFileName(u"mvcalendar-studio"_s);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     MvImageLoader::raiseProcessLimit();
+    MvProcessTimeZone::askOnce();
 }
 
 void MvStudioApplication::setUpLanguage(const MvStudioOptions &options)

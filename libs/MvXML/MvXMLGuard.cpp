@@ -4,17 +4,34 @@
 #include <QStringDecoder>
 #include <QXmlStreamReader>
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+QString tooDeep()
+{
+    return MvXMLLoader::tr("Die Elemente sind tiefer als %1 Ebenen verschachtelt.").arg(MvXMLGuard::depthLimit);
+}
+
+QString tooManyElements()
+{
+    return MvXMLLoader::tr("Die Datei hat zu viele Elemente.");
+}
 
 /// Walks over the raw text and knows what it stands in: text, tag, comment, character data or instruction.
 class RawScan
 {
 public:
-    explicit RawScan(QByteArrayView text)
+    explicit RawScan(QByteArrayView text, int mostElements = std::numeric_limits<int>::max(),
+                     int deepest = std::numeric_limits<int>::max())
         : m_text(text)
+        , m_mostElements(mostElements)
+        , m_deepest(deepest)
     {}
+
+    bool hasDocumentType() const { return m_hasDocumentType; }
 
     MvXMLLoader::Error run()
     {
@@ -32,19 +49,11 @@ public:
                 return errorAt(position, MvXMLLoader::tr("Entitäten dürfen nicht vereinbart werden."));
             else if (startsWith(position, "<!ATTLIST")) // a default of 60 KiB would count for every element
                 return errorAt(position, MvXMLLoader::tr("Vorgaben für Attribute dürfen nicht vereinbart werden."));
-            else if (startsWith(position, "<!"))
+            else if (startsWith(position, "<!")) {
+                m_hasDocumentType = true;
                 position += 2; // declarations may hold others; only their start counts
-            else {
-                int attributes = 0;
-                const qsizetype end = endOfTag(position, attributes);
-                if (attributes > MvXMLGuard::attributeLimit)
-                    return errorAt(position, MvXMLLoader::tr("Eine Auszeichnung hat mehr als %1 Attribute.")
-                                                 .arg(MvXMLGuard::attributeLimit));
-                if (end < 0)
-                    return errorAt(
-                        position,
-                        MvXMLLoader::tr("Eine Auszeichnung ist länger als %1 KiB.").arg(MvXMLGuard::tagLimit / 1024));
-                position = end;
+            } else if (const MvXMLLoader::Error error = passTag(position); error.isError()) {
+                return error;
             }
             if (position < 0)
                 break; // not closed: the stream pass names the place
@@ -60,6 +69,31 @@ private:
     {
         const qsizetype found = position <= m_text.size() ? m_text.indexOf(word, position) : -1;
         return found < 0 ? -1 : found + word.size();
+    }
+
+    /// Goes behind the tag, and counts.
+    MvXMLLoader::Error passTag(qsizetype &position)
+    {
+        int attributes = 0;
+        const qsizetype end = endOfTag(position, attributes);
+        if (attributes > MvXMLGuard::attributeLimit)
+            return errorAt(
+                position,
+                MvXMLLoader::tr("Eine Auszeichnung hat mehr als %1 Attribute.").arg(MvXMLGuard::attributeLimit));
+        if (end < 0)
+            return errorAt(
+                position, MvXMLLoader::tr("Eine Auszeichnung ist länger als %1 KiB.").arg(MvXMLGuard::tagLimit / 1024));
+        const bool isEnd = startsWith(position, "</");
+        if (!isEnd && ++m_elements > m_mostElements)
+            return errorAt(end, tooManyElements());
+        if (isEnd)
+            --m_depth;
+        else if (end < 2 || m_text.at(end - 2) != '/')
+            ++m_depth;
+        if (m_depth > m_deepest)
+            return errorAt(end, tooDeep());
+        position = end;
+        return {};
     }
 
     /// Behind the ">" of a tag; -1 when it is too long. A ">" in quotes belongs to a value. Counts quoted values.
@@ -89,6 +123,11 @@ private:
     }
 
     QByteArrayView m_text;
+    int m_mostElements;
+    int m_deepest;
+    int m_elements = 0;
+    int m_depth = 0;
+    bool m_hasDocumentType = false;
 };
 
 QString messageOf(const QXmlStreamReader &reader)
@@ -103,11 +142,14 @@ QString messageOf(const QXmlStreamReader &reader)
     }
 }
 
+MvXMLLoader::Error errorAt(const QXmlStreamReader &reader, const QString &message)
+{
+    return {message, int(reader.lineNumber()), int(reader.columnNumber()) + 1};
+}
+
 MvXMLLoader::Error readThroughStream(QXmlStreamReader &reader, int mostElements)
 {
-    const auto error = [&reader](const QString &message) {
-        return MvXMLLoader::Error{message, int(reader.lineNumber()), int(reader.columnNumber()) + 1};
-    };
+    const auto error = [&reader](const QString &message) { return errorAt(reader, message); };
     reader.setNamespaceProcessing(false); // as the document is built
     int depth = 0;
     int elements = 0;
@@ -115,10 +157,9 @@ MvXMLLoader::Error readThroughStream(QXmlStreamReader &reader, int mostElements)
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
             if (++depth > MvXMLGuard::depthLimit)
-                return error(MvXMLLoader::tr("Die Elemente sind tiefer als %1 Ebenen verschachtelt.")
-                                 .arg(MvXMLGuard::depthLimit));
+                return error(tooDeep());
             if (++elements > mostElements)
-                return error(MvXMLLoader::tr("Die Datei hat zu viele Elemente."));
+                return error(tooManyElements());
             break;
         case QXmlStreamReader::EndElement:
             --depth;
@@ -174,6 +215,22 @@ QString MvXMLGuard::wideText(const QByteArray &bytes)
 MvXMLLoader::Error MvXMLGuard::scan(QByteArrayView utf8)
 {
     return RawScan(utf8).run();
+}
+
+MvXMLLoader::Error MvXMLGuard::scanAlone(QByteArrayView utf8, int mostElements, bool &isEnough)
+{
+    RawScan scan(utf8, mostElements, depthLimit);
+    const MvXMLLoader::Error error = scan.run();
+    isEnough = !scan.hasDocumentType();
+    return error;
+}
+
+MvXMLLoader::Error MvXMLGuard::errorOf(const QXmlStreamReader &reader, const QByteArray &bytes)
+{
+    if (!reader.hasError())
+        return {};
+    const MvXMLLoader::Error encoding = wrongEncoding(bytes);
+    return encoding.isError() ? encoding : errorAt(reader, messageOf(reader));
 }
 
 MvXMLLoader::Error MvXMLGuard::readThrough(const QByteArray &bytes, int mostElements)

@@ -6,6 +6,8 @@
 #include <QByteArray>
 #include <QString>
 
+class QXmlStreamReader;
+
 /// The checks a document from outside must pass before it is built in memory; used by MvXMLLoader.
 class MvXMLGuard
 {
@@ -20,8 +22,13 @@ public:
     /// Looks at the raw text without interpreting it: tags that are too long or have too many attributes, declared
     /// entities, NUL characters. Such texts would make an XML reader itself use up time or memory.
     static MvXMLLoader::Error scan(QByteArrayView utf8);
+    /// The same, and counts depth and elements on the way; whether it is well-formed shows when the text is read. With
+    /// a document type it cannot tell: `isEnough` is then false.
+    static MvXMLLoader::Error scanAlone(QByteArrayView utf8, int mostElements, bool &isEnough);
 
     /// Reads the text once as a stream: well-formed, not too deep, not too many elements.
     static MvXMLLoader::Error readThrough(const QByteArray &bytes, int mostElements);
     static MvXMLLoader::Error readThrough(const QString &text, int mostElements);
+    /// Why a reader of the bytes has stopped; none when it has read them to their end.
+    static MvXMLLoader::Error errorOf(const QXmlStreamReader &reader, const QByteArray &bytes);
 };

@@ -55,8 +55,11 @@ MvXMLLoader::Error check(const QByteArray &bytes, const MvXMLLoader::Limits &lim
     if (QByteArrayView(bytes).trimmed().isEmpty())
         return {MvXMLLoader::tr("Die Datei ist leer.")};
     wideText = MvXMLGuard::wideText(bytes);
-    MvXMLLoader::Error error = MvXMLGuard::scan(wideText.isEmpty() ? bytes : wideText.toUtf8());
-    if (error.isError())
+    const QByteArray utf8 = wideText.isEmpty() ? bytes : wideText.toUtf8();
+    bool isEnough = false;
+    const MvXMLLoader::Error error =
+        limits.isWellFormed ? MvXMLGuard::scan(utf8) : MvXMLGuard::scanAlone(utf8, limits.elements, isEnough);
+    if (error.isError() || isEnough)
         return error;
     return wideText.isEmpty() ? MvXMLGuard::readThrough(bytes, limits.elements)
                               : MvXMLGuard::readThrough(wideText, limits.elements);
@@ -131,6 +134,11 @@ QDomDocument MvXMLLoader::parse(const QByteArray &bytes, Error *error)
     if (error)
         *error = found;
     return found.isError() ? QDomDocument() : document;
+}
+
+MvXMLLoader::Error MvXMLLoader::errorOf(const QXmlStreamReader &reader, const QByteArray &bytes)
+{
+    return MvXMLGuard::errorOf(reader, bytes);
 }
 
 MvXMLLoader::Error MvXMLLoader::check(const QByteArray &bytes, const Limits &limits)

@@ -10,6 +10,8 @@
 #include <QFileInfo>
 #include <QString>
 
+class QXmlStreamReader;
+
 /// Loading XML files: the one guarded way to a file from outside.
 ///
 /// Before a document is built, the file must pass: a regular file, at most 64 MiB, no tag longer than 64 KiB or with
@@ -37,10 +39,14 @@ public:
     {
         qint64 bytes;
         int elements;
+        bool isWellFormed =
+            true; ///< that it is so is looked at, too; else who reads the bytes asks errorOf() in the end
 
         static Limits ofDocuments() { return {64LL * 1024 * 1024, 1'000'000}; }
         /// For readers that go through the bytes as a stream: about a million entries.
         static Limits ofStreams() { return {512LL * 1024 * 1024, 16'000'000}; }
+        /// The same for readers that go to the end of the document themselves: nobody reads it twice.
+        static Limits ofReaders() { return {ofStreams().bytes, ofStreams().elements, false}; }
     };
 
     /// The document; a null one on error, which is then described in `error` when given.
@@ -54,6 +60,8 @@ public:
     /// go through large files as a stream. UTF-16 and UTF-32 come as UTF-8, with a declaration that says so.
     static QByteArray loadBytes(const QFileInfo &file, Error *error = nullptr,
                                 const Limits &limits = Limits::ofDocuments());
+    /// Why a reader of such bytes has stopped; none when it has come to their end.
+    static Error errorOf(const QXmlStreamReader &reader, const QByteArray &bytes);
     /// The root element; a null one on error. A file that exists but cannot be read logs one warning with file and
     /// place; a missing file is nothing to tell.
     static QDomElement loadDocumentElement(const QFileInfo &file);

@@ -10,7 +10,10 @@
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvSafeFileWriter.h"
 
+#include <QRandomGenerator>
 #include <QTemporaryDir>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +32,7 @@ private Q_SLOTS:
     void takesInWhatOthersLeft_data();
     void takesInWhatOthersLeft();
     void removedEntriesStayAway();
+    void writesEachChange();
 
 private:
     QString path() const { return m_data->filePath(u"calendarEvents.xml"_s); }
@@ -199,6 +203,50 @@ void tst_MvCalendarEventStore::removedEntriesStayAway()
     MvCalendarEventRegistry().changeEvent({}, entry(u"C"_s));
     registry.changeEvent(registry.activeEventList().last(), {});
     QCOMPARE(onDisk(), u"A C"_s);
+}
+
+/// Only what has changed is put into words again: the file is the same as if all had been.
+void tst_MvCalendarEventStore::writesEachChange()
+{
+    MvCalendarEventRegistry registry;
+    MvCalendarEventList list;
+    for (int i = 0; i < 12; ++i)
+        list.append(entry(u"Person %1 & Co"_s.arg(i)));
+    list.append(MvCalendarEvent(list.at(3))); // of the same uuid
+    QRandomGenerator random(7);
+    for (int round = 0; round < 60; ++round) {
+        const qsizetype at = random.bounded(list.size());
+        MvCalendarEvent &event = list[at];
+        switch (round % 8) {
+        case 0:
+            event.setEventName(u"Anders %1"_s.arg(round));
+            break;
+        case 1:
+            event.setDateTime(QDateTime(QDate(2001, 2, 1 + int(at)), QTime(), Qt::UTC));
+            break;
+        case 2:
+            list.move(at, 0);
+            break;
+        case 3:
+            list.removeAt(at);
+            break;
+        case 4:
+            list.insert(at, entry(u"Neu %1"_s.arg(round)));
+            break;
+        case 5:
+            event.setGroups({u"g"_s});
+            break;
+        case 6:
+            list.groups().put({u"g"_s, u"Gruppe %1"_s.arg(round), Qt::red, {}, {}});
+            break;
+        default:
+            std::reverse(list.begin(), list.end());
+        }
+        registry.setEvents(list);
+        QFile file(path());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), MvCalendarEventFile::toBytes(registry.activeEventList()));
+    }
 }
 
 MV_TEST_MAIN(tst_MvCalendarEventStore)

@@ -4,6 +4,8 @@
 #include "MvXML/MvXMLLoader.h"
 
 #include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QXmlStreamReader>
 
 #include <sys/stat.h>
 
@@ -26,6 +28,22 @@ private Q_SLOTS:
 static QByteArray nested(int levels)
 {
     return QByteArray("<a>").repeated(levels) + QByteArray("</a>").repeated(levels);
+}
+
+/// What a reader of the file's bytes is told, by the checks before or by the end of its reading.
+static MvXMLLoader::Error readOnce(const QByteArray &content)
+{
+    QTemporaryFile file;
+    if (!file.open() || file.write(content) != content.size() || !file.flush())
+        return {u"not written"_s};
+    MvXMLLoader::Error error;
+    const MvXMLLoader::Limits limits{content.size(), MvXMLLoader::Limits::ofDocuments().elements, false};
+    const QByteArray bytes = MvXMLLoader::loadBytes(QFileInfo(file.fileName()), &error, limits);
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    while (!error.isError() && !reader.atEnd())
+        reader.readNext();
+    return error.isError() ? error : MvXMLLoader::errorOf(reader, bytes);
 }
 
 void tst_MvXMLLoader::refuses_data()
@@ -89,6 +107,12 @@ void tst_MvXMLLoader::refuses()
     QVERIFY2(error.message.contains(message), qPrintable(error.message));
     if (line > 0)
         QCOMPARE(error.line, line);
+
+    // and where nobody reads it twice
+    const MvXMLLoader::Error whileReading = readOnce(bytes);
+    QVERIFY2(whileReading.message.contains(message) && whileReading.isError(), qPrintable(whileReading.message));
+    if (line > 0)
+        QCOMPARE(whileReading.line, line);
 }
 
 void tst_MvXMLLoader::reads_data()
@@ -121,6 +145,7 @@ void tst_MvXMLLoader::reads()
     const QDomDocument document = MvXMLLoader::parse(bytes, &error);
     QCOMPARE(error.message, QString());
     QTEST(document.documentElement().text(), "text");
+    QCOMPARE(readOnce(bytes).message, QString());
 }
 
 void tst_MvXMLLoader::refusesWhatIsNoFile()

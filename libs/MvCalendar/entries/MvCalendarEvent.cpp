@@ -83,7 +83,8 @@ void MvCalendarEvent::read(const MvCalendarEventTexts &texts)
     m_lastChanged = QDateTime::fromString(texts.text(u"LastChanged"_s).trimmed(), Qt::ISODate);
     if (!m_lastChanged.isValid())
         m_lastChanged = QDateTime::currentDateTime();
-    setExtras(MvCalendarEventExtras(texts));
+    if (texts.hasExtras())
+        setExtras(MvCalendarEventExtras(texts));
 }
 
 const MvCalendarEventExtras &MvCalendarEvent::extras() const
@@ -104,7 +105,7 @@ bool MvCalendarEvent::hasSameExtras(const MvCalendarEvent &other) const
 
 QString MvCalendarEvent::whyUnreadable(const MvCalendarEventTexts &texts)
 {
-    return MvCalendarEventExtras::whyUnreadable(texts);
+    return texts.hasExtras() ? MvCalendarEventExtras::whyUnreadable(texts) : QString();
 }
 
 const MvEventRepetition &MvCalendarEvent::repetition() const

@@ -45,7 +45,7 @@ QString textOf(const QList<QDate> &dates)
 
 QTime timeOf(const QString &text)
 {
-    return QTime::fromString(text.trimmed(), u"HH:mm"_s);
+    return text.isEmpty() ? QTime() : QTime::fromString(text.trimmed(), u"HH:mm"_s);
 }
 
 } // namespace

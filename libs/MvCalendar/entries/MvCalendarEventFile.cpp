@@ -1,31 +1,28 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventFile.h"
 
+#include "MvCalendar/MvCalendarEventBytes.h"
 #include "MvCalendar/MvCalendarEventFotoFinder.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
-#include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLLoader.h"
 
-#include <QDomDocument>
 #include <QSet>
 #include <QXmlStreamReader>
-
-#include <algorithm>
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString rootName = u"CalendarEvents"_s;
-const QString entryName = u"CalendarEvent"_s;
-const QString groupName = u"CalendarEventGroup"_s;
-const QString imageName = u"Image"_s;
+const QString &rootName = MvCalendarEventBytes::listElement;
+const QString &entryName = MvCalendarEventBytes::entryElement;
+const QString &groupName = MvCalendarEventBytes::groupElement;
 
 /// Gathers what a file holds, each equal entry once.
 class Gathering
 {
 public:
+    explicit Gathering(qsizetype expected = 0) { m_known.reserve(expected); }
+
     void add(const MvCalendarEvent &event)
     {
         if (!event.isValid())
@@ -88,24 +85,11 @@ QString whyInvalid(const MvEventGroup &group, const MvCalendarEventTexts &texts,
                : MvCalendarEventFile::tr("die Farbe „%1“ ist nicht zu lesen").arg(color);
 }
 
-/// The texts of a group in a file; what is empty is not there.
-QList<std::pair<QString, QString>> textsOf(const MvEventGroup &group)
-{
-    QList<std::pair<QString, QString>> texts = {
-        {u"Id"_s, group.id},
-        {u"Name"_s, group.name},
-        {u"Color"_s, group.color.isValid() ? group.color.name(QColor::HexRgb) : QString()},
-        {u"Symbol"_s, group.symbol},
-        {u"EntryText"_s, group.entryText},
-    };
-    texts.removeIf([](const auto &text) { return text.second.isEmpty(); });
-    return texts;
-}
-
 /// Reads the entries of a list. The reader is at the root element before and at its end afterwards.
-void readEntries(QXmlStreamReader &reader, MvCalendarEventFotoFinder &fotos, MvCalendarEventFile::Content &content)
+void readEntries(QXmlStreamReader &reader, MvCalendarEventFotoFinder &fotos, MvCalendarEventFile::Content &content,
+                 qsizetype expected = 0)
 {
-    Gathering gathering;
+    Gathering gathering(expected);
     MvEventGroupList groups;
     while (reader.readNextStartElement()) {
         const int line = int(reader.lineNumber());
@@ -154,89 +138,6 @@ QString noteOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &f
     return note.arg(file.filePath(), paths.first());
 }
 
-/// What a file has for the path of a photo.
-using PathText = std::function<QString(const QString &path)>;
-
-/// A list with only this entry or group; an empty list without texts.
-QByteArray documentOf(const QString &name, const QList<std::pair<QString, QString>> &texts)
-{
-    QDomDocument document;
-    MvXMLBuilder::buildUTF8ProcessingInstructions(document);
-    QDomElement root = MvXMLBuilder::buildRootElement(document, rootName);
-    if (!texts.isEmpty()) {
-        QDomElement element = MvXMLBuilder::buildDomElement(root, name);
-        for (const auto &[child, text] : texts)
-            MvXMLBuilder::buildDomElement(element, child, text);
-    }
-    return document.toByteArray(2);
-}
-
-/// The lines of the entry in such a list.
-QByteArray entryIn(const QByteArray &document)
-{
-    const qsizetype begin = document.indexOf('\n', document.indexOf('\n') + 1) + 1; // after the second line
-    return document.mid(begin, document.lastIndexOf("</") - begin);
-}
-
-constexpr qsizetype usualBytesOfEntry = 320;
-
-/// Whether the text needs no escaping.
-bool isPlain(const QString &text)
-{
-    const auto isOrdinary = [](QChar c) {
-        return c >= u' ' && !c.isSurrogate() && c < u'\xfffe' && c != u'<' && c != u'>' && c != u'&' && c != u'"';
-    };
-    return std::all_of(text.cbegin(), text.cend(), isOrdinary) && (text.isEmpty() || !text.trimmed().isEmpty());
-}
-
-/// The lines of an entry as a document would write them, at a fraction of the time; false, and nothing appended, when
-/// its texts are not as plain as nearly all are.
-bool appendPlain(QByteArray &bytes, const QString &element, const QList<std::pair<QString, QString>> &texts)
-{
-    if (!std::all_of(texts.cbegin(), texts.cend(), [](const auto &text) { return isPlain(text.second); }))
-        return false;
-    const QByteArray entry = element.toLatin1();
-    bytes.append("  <").append(entry).append(">\n");
-    for (const auto &[name, text] : texts) {
-        const QByteArray child = name.toLatin1();
-        bytes.append("    <").append(child);
-        if (text.isEmpty())
-            bytes.append("/>\n");
-        else
-            bytes.append('>').append(text.toUtf8()).append("</").append(child).append(">\n");
-    }
-    bytes.append("  </").append(entry).append(">\n");
-    return true;
-}
-
-QByteArray bytesOf(const MvCalendarEventList &events, const PathText &pathText)
-{
-    const QByteArray frame = documentOf({}, {});
-    const qsizetype root = frame.lastIndexOf('<'); // "<CalendarEvents/>"
-    const QByteArray begin = frame.first(root) + '<' + rootName.toLatin1() + ">\n";
-    QByteArray bytes = begin;
-    bytes.reserve(bytes.size() + events.size() * usualBytesOfEntry);
-    const auto append = [&bytes](const QString &name, const QList<std::pair<QString, QString>> &texts) {
-        if (!appendPlain(bytes, name, texts))
-            bytes += entryIn(documentOf(name, texts));
-    };
-    for (const MvEventGroup &group : events.groups()) {
-        if (group.isValid())
-            append(groupName, textsOf(group));
-    }
-    for (const MvCalendarEvent &event : events) {
-        if (!event.isValid())
-            continue;
-        QList<std::pair<QString, QString>> texts = event.fileTexts();
-        for (auto &[name, text] : texts) {
-            if (pathText && name == imageName)
-                text = pathText(text);
-        }
-        append(entryName, texts);
-    }
-    return bytes.size() == begin.size() ? frame : bytes + "</" + rootName.toLatin1() + ">\n";
-}
-
 } // namespace
 
 MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
@@ -244,7 +145,7 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
     const QFileInfo present(file.filePath()); // the given QFileInfo may have cached an older state
     Content content;
     MvXMLLoader::Error error;
-    const QByteArray bytes = MvXMLLoader::loadBytes(present, &error, MvXMLLoader::Limits::ofStreams());
+    const QByteArray bytes = MvXMLLoader::loadBytes(present, &error, MvXMLLoader::Limits::ofReaders());
     if (error.isError()) {
         content.error = error.describe(present);
         content.isMissing = !present.exists() && !present.isSymLink();
@@ -254,6 +155,10 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
     QXmlStreamReader reader(bytes);
     reader.setNamespaceProcessing(false);
     if (reader.readNextStartElement() && reader.qualifiedName() != rootName) {
+        if (error = MvXMLLoader::check(bytes, MvXMLLoader::Limits::ofStreams()); error.isError()) {
+            content.error = error.describe(present);
+            return content;
+        }
         content.foreign = MvXMLLoader::Error{tr("Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „%1“ "
                                                 "statt mit „%2“.")
                                                  .arg(shown(reader.qualifiedName().toString()), rootName)}
@@ -261,12 +166,16 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
         return content;
     }
     MvCalendarEventFotoFinder fotos(present);
-    readEntries(reader, fotos, content);
-    if (reader.hasError())
-        content.error =
-            MvXMLLoader::Error{reader.errorString(), int(reader.lineNumber()), int(reader.columnNumber()) + 1}.describe(
-                present);
-    content.isComplete = content.isRead() && content.skipped.isEmpty();
+    constexpr qsizetype usualBytesOfEntry = 320;
+    readEntries(reader, fotos, content, bytes.size() / usualBytesOfEntry);
+    while (!reader.atEnd()) // what follows the list
+        reader.readNext();
+    if (error = MvXMLLoader::errorOf(reader, bytes); error.isError()) {
+        content = {};
+        content.error = error.describe(present);
+        return content;
+    }
+    content.isComplete = content.skipped.isEmpty();
     content.note = noteOfForeignFotos(content.events, present);
     if (!content.note.isEmpty())
         qWarning().noquote() << content.note;
@@ -312,14 +221,15 @@ MvCalendarEventList MvCalendarEventFile::readElement(const QDomElement &element)
 
 QByteArray MvCalendarEventFile::toBytes(const MvCalendarEventList &events)
 {
-    return bytesOf(events, {});
+    return MvCalendarEventBytes().of(events);
 }
 
 QByteArray MvCalendarEventFile::toBytesWithin(const MvCalendarEventList &events, const QDir &folder)
 {
     const QString below = folder.absolutePath() + u'/';
-    const QByteArray bytes = bytesOf(
-        events, [&below](const QString &path) { return path.startsWith(below) ? path.mid(below.size()) : path; });
+    const QByteArray bytes = MvCalendarEventBytes([&below](const QString &path) {
+                                 return path.startsWith(below) ? path.mid(below.size()) : path;
+                             }).of(events);
     return bytes.mid(bytes.indexOf('<' + rootName.toLatin1()));
 }
 

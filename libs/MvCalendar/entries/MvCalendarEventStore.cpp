@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventStore.h"
 
+#include "MvCalendar/MvCalendarEventBytes.h"
 #include "MvCalendar/MvCalendarEventMerge.h"
 
 #include "MvCore/MvDirectoryConfig.h"
@@ -39,6 +40,7 @@ MvCalendarEventStore::MvCalendarEventStore(QObject *parent)
 MvCalendarEventStore::MvCalendarEventStore(Kept kept, QObject *parent)
     : QObject(parent)
     , m_kept(kept)
+    , m_bytes(std::make_unique<MvCalendarEventBytes>())
 {
     m_retry.setSingleShot(true);
     connect(&m_retry, &QTimer::timeout, this, &MvCalendarEventStore::saveNow);
@@ -292,7 +294,7 @@ bool MvCalendarEventStore::write(const MvCalendarEventList &events)
     MvLogger::legacyLog(savingLine());
     // while a person may still want a backup, none is pushed out by newer ones
     const auto backups = m_readProblem.isProblem() ? MvSafeFileWriter::Backups::None : MvSafeFileWriter::Backups::Keep;
-    const MvOutcome result = MvSafeFileWriter::write(file(), MvCalendarEventFile::toBytes(events), backups);
+    const MvOutcome result = MvSafeFileWriter::write(file(), m_bytes->of(events), backups);
     if (!result.isOk()) {
         fail(Problem::NotSaved, result.error);
         return false;

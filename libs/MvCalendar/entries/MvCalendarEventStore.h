@@ -15,7 +15,10 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 #include <optional>
+
+class MvCalendarEventBytes;
 
 /// The user's file of entries on disk ("calendarEvents.xml"), which several running programs may share.
 ///
@@ -130,6 +133,7 @@ private:
     void changeProblem(Problem *problem, const Problem &value);
 
     Kept m_kept = Kept::InUserFile;
+    std::unique_ptr<MvCalendarEventBytes> m_bytes; // of the file
     std::optional<Pending> m_pending;
     MvCalendarEventList m_present;  // the list as last read, handed over or adopted
     MvCalendarEventList m_inFile;   // what the file held when last read or written here

@@ -3,8 +3,10 @@
 
 #include "MvCalendar/mvcalendar_export.h"
 
-#include <QHash>
 #include <QString>
+#include <QVarLengthArray>
+
+#include <utility>
 
 class QDomElement;
 class QXmlStreamReader;
@@ -19,10 +21,16 @@ public:
     explicit MvCalendarEventTexts(QXmlStreamReader &reader);
 
     bool isEmpty() const { return m_texts.isEmpty(); }
-    bool contains(const QString &name) const { return m_texts.contains(name); }
+    /// Others than nearly all entries have.
+    bool hasExtras() const { return m_hasExtras; }
+    bool contains(const QString &name) const { return find(name) != nullptr; }
     /// Empty when missing.
-    QString text(const QString &name) const { return m_texts.value(name); }
+    QString text(const QString &name) const;
 
 private:
-    QHash<QString, QString> m_texts;
+    void add(const QString &name, const QString &text);
+    const QString *find(const QString &name) const;
+
+    QVarLengthArray<std::pair<QString, QString>, 13> m_texts; // as many as an entry may have
+    bool m_hasExtras = false;
 };
