@@ -93,6 +93,9 @@ void tst_EntriesOnPages::columnsTakeTheirGroups()
     const QString papa = list.groups().idOfName(u"Papa"_s);
     const QString mama = list.groups().idOfName(u"Mama"_s);
     const QString other = list.groups().idOfName(u"Verein"_s);
+    list.groups()[0].color = QColor(0x0033aa);
+    list.groups()[1].color = QColor(0xaa1100);
+    list.groups()[1].symbol = u"*"_s;
     const QDate day(2027, 3, 26); // Good Friday
     for (const auto &[name, groups] : QList<std::pair<QString, QStringList>>{
              {u"Lauf"_s, {papa}}, {u"Kino"_s, {mama, papa}}, {u"Chor"_s, {other}}, {u"Arzt"_s, {}}}) {
@@ -105,14 +108,20 @@ void tst_EntriesOnPages::columnsTakeTheirGroups()
         return int((item.bounds.center().x() - first.left()) / first.width());
     };
     QMap<int, QString> columns;
+    QMap<int, QSet<QRgb>> colors;
     for (const Item &item : painted.recording.items(Item::Text)) {
         if (item.bounds.center().y() > first.top() && item.bounds.center().y() < first.bottom() &&
-            item.bounds.left() >= first.left())
+            item.bounds.left() >= first.left()) {
             columns[column(item)] += item.text;
+            colors[column(item)].insert(item.fill.rgb());
+        }
     }
     QCOMPARE(columns.value(0), u"Karfreitag, Chor, Arzt"_s);
     QCOMPARE(columns.value(1), u"Lauf, Kino"_s);
-    QCOMPARE(columns.value(2), u"Kino"_s);
+    QCOMPARE(columns.value(2), u"* Kino"_s); // as its own group writes it
+    QCOMPARE(colors.value(1).size(), 1);
+    QCOMPARE(colors.value(2).size(), 1);
+    QVERIFY(!colors.value(0).intersects(colors.value(1)) && colors.value(1) != colors.value(2));
 }
 
 /// On one line, each where it would stand in one colour.

@@ -11,7 +11,9 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvEntryBubble.h"
+#include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvCore/MvUndoController.h"
 #include "MvPaint/MvPaintRecorder.h"
@@ -106,6 +108,8 @@ private Q_SLOTS:
     void zooms();
     void looksWithoutRecording();
     void layoutsReplaceTheCells();
+    void daysAnswerInTheirRow_data();
+    void daysAnswerInTheirRow();
     void wordsOnFramesFollowTheScreen();
 };
 
@@ -360,6 +364,39 @@ void tst_MvPageCanvas::layoutsReplaceTheCells()
     QCOMPARE(open.item()->dates().size(), 31 + 28);
     QVERIFY(large.adjusted(-1, -1, 1, 1).contains(open.item()->dateRect({2027, 1, 31})));
     QVERIFY(open.item()->cells()->cell({2027, 1, 31}) && open.item()->cells()->cell({2027, 2, 28}));
+}
+
+void tst_MvPageCanvas::daysAnswerInTheirRow_data()
+{
+    QTest::addColumn<QString>("layout");
+    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        if (schema.calendariumType().traits().hasColumns)
+            QTest::newRow(qPrintable(schema.ID().toString())) << schema.ID().toString();
+    }
+}
+
+/// Number and all columns of a list are the day: for the mouse, and for what is dropped.
+void tst_MvPageCanvas::daysAnswerInTheirRow()
+{
+    QFETCH(QString, layout);
+    const OpenCanvas open(layout);
+    const QDate day(2027, 1, 20);
+    const QRectF row = open.item()->dateRect(day);
+    int found = 0;
+    double right = 0.0;
+    for (const MvPaintRecording::Item &item : open.item()->recording().items(MvPaintRecording::Item::Text)) {
+        const QPointF place = item.bounds.center();
+        right = std::max(right, place.x());
+        if (place.y() > row.top() && place.y() < row.bottom() && item.text.trimmed() == u"20"_s) {
+            QCOMPARE(open.item()->dateAt(place), day);
+            ++found;
+        }
+    }
+    QCOMPARE(found, 1);
+    QVERIFY(right > 0.0);
+    QCOMPARE(open.item()->dateAt({right, row.center().y()}), day); // below the last heading
+    const auto *cell = open.item()->cells()->cell(day);
+    QVERIFY(cell && cell->mapRectToParent(cell->boundingRect()).contains(row.adjusted(1, 1, -1, -1)));
 }
 
 /// As large as all other words, however many pixels the screen has.

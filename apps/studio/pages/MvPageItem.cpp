@@ -187,8 +187,8 @@ void MvPageItem::record()
             connect(&renderer, &MvCalendariumRenderer::hasTitleLineMayHaveChanged, cells,
                     &MvGraphicsItemCalendariumCellsManager::resetRectsForTitleLine);
         }
-        connect(&renderer, &MvCalendariumRenderer::rectForDateFound, this,
-                [this](const QDate &date, const QRectF &rect) { addDate(date, rect); });
+        for (const auto signal : {&MvCalendariumRenderer::rectForDateFound, &MvCalendariumRenderer::roomForDateFound})
+            connect(&renderer, signal, this, [this](const QDate &date, const QRectF &rect) { addDate(date, rect); });
     };
     const MvCalendarDocument &document = m_project->document();
     MvFotoPass fotos(*m_entryFotos);

@@ -48,7 +48,8 @@ public:
     QRectF fotoRect() const;
     /// The element's frame if it is one for photos; null otherwise.
     const MvFotoElement *foto(int element) const;
-    /// The day whose cell is at a point of the item; an invalid date when there is none.
+    /// The day whose room is at a point of the item: its cell, or its row in a list; an invalid date when there is
+    /// none.
     QDate dateAt(const QPointF &point) const;
     /// Empty for a date that the page does not show.
     QRectF dateRect(const QDate &date) const { return m_dates.value(date); }

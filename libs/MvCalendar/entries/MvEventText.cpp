@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -82,12 +83,13 @@ MvEventText MvEventText::of(const MvCalendarEvent &event, const QDate &start, co
     QString pattern = display.text;
     QString symbol;
     bool hasPattern = false;
+    QList<const MvEventGroup *> shown;
     const QStringList ids = event.groups();
     for (const QString &id : ids) {
         const MvEventGroup *group = display.hiddenGroups.contains(id) ? nullptr : groups.find(id);
         if (!group)
             continue;
-        result.groupNames.append(group->name);
+        shown.append(group);
         if (!result.color.isValid())
             result.color = group->color;
         if (symbol.isEmpty())
@@ -97,10 +99,17 @@ MvEventText MvEventText::of(const MvCalendarEvent &event, const QDate &start, co
             pattern = group->entryText;
         }
     }
-    result.text = pattern.isEmpty() ? event.description() : filled(pattern, event, start);
-    if (display.showTimes && event.time().isValid())
-        result.text.prepend(event.time().toString(u"HH:mm"_s) + u' ');
-    if (!symbol.isEmpty())
-        result.text.prepend(symbol + u' ');
+    const bool showsTime = display.showTimes && event.time().isValid();
+    const QString time = showsTime ? event.time().toString(u"HH:mm"_s) + u' ' : QString();
+    const auto written = [&](const QString &form, const QString &sign) {
+        const QString text = form.isEmpty() ? event.description() : filled(form, event, start);
+        return (sign.isEmpty() ? QString() : sign + u' ') + time + text;
+    };
+    result.text = written(pattern, symbol);
+    for (const MvEventGroup *group : std::as_const(shown)) {
+        const QString &form = group->entryText.isEmpty() ? pattern : group->entryText;
+        result.groups.append(
+            {group->name, group->color, shown.size() == 1 ? result.text : written(form, group->symbol)});
+    }
     return result;
 }

@@ -5,8 +5,8 @@
 
 #include <QColor>
 #include <QDate>
+#include <QList>
 #include <QString>
-#include <QStringList>
 
 class MvCalendarEvent;
 class MvEventGroupList;
@@ -15,10 +15,20 @@ struct MvEntryDisplay;
 /// What a page writes of an entry on one of its days.
 struct MVCALENDAR_EXPORT MvEventText
 {
+    /// How the entry reads in a column of this group alone.
+    struct Group
+    {
+        QString name;
+        QColor color; ///< invalid: as the page writes
+        QString text;
+
+        bool operator==(const Group &) const = default;
+    };
+
     QString text;
-    QColor color;           ///< of its first group that is shown and has one; else invalid
-    QStringList groupNames; ///< of its groups that are shown
-    QDate start;            ///< first and last day of the occurrence
+    QColor color;        ///< of its first group that is shown and has one; else invalid
+    QList<Group> groups; ///< of its groups that are shown
+    QDate start;         ///< first and last day of the occurrence
     QDate end;
 
     bool isSpan() const { return start < end; }
@@ -26,7 +36,8 @@ struct MVCALENDAR_EXPORT MvEventText
     bool operator==(const MvEventText &) const = default;
 
     /// Of the occurrence that begins on the start day. Its text is that of the first group that has a pattern, else
-    /// that of the display; a pattern with an age or a year gives the name alone where that is not known.
+    /// that of the display; a pattern with an age or a year gives the name alone where that is not known. In a column
+    /// of a group that has a pattern it is that of the group, with its symbol.
     static MvEventText of(const MvCalendarEvent &event, const QDate &start, const MvEventGroupList &groups,
                           const MvEntryDisplay &display);
     /// False when all groups of the entry are hidden; an entry without groups is always shown.

@@ -199,6 +199,8 @@ QList<MvEventText> MvCalendariumDays::entries(const QDate &date) const
             continue;
         shown.append(entry);
         shown.last().text = line.constFirst();
+        for (MvEventText::Group &group : shown.last().groups)
+            group.text = MvPrintableText::onOneLineEach({group.text}).value(0, line.constFirst());
     }
     return shown;
 }

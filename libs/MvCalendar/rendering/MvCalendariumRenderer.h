@@ -283,6 +283,9 @@ Q_SIGNALS:
     void rectForDatesRestart(const QDate &date, QRectF rect);
     /// A day's cell was painted there. Once per day cell and pass.
     void rectForDateFound(const QDate &date, QRectF rect);
+    /// All that a person takes for the day, where that is more than its cell: the row of a list, with its number and
+    /// all columns; the cell with its head. Once per day and pass, with the cell in it.
+    void roomForDateFound(const QDate &date, QRectF room);
     /// By renderers whose title line comes and goes with the content.
     void hasTitleLineMayHaveChanged(bool hasTitleLine);
 

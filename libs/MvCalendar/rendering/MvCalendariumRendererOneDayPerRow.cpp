@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -256,6 +257,7 @@ void MvCalendariumRendererOneDayPerRow::renderDay(QPainter &painter, const QRect
         x += width;
     }
     renderColumn(painter, rect, date, y, x, numberEmptyOfColumns());
+    Q_EMIT roomForDateFound(date, {number.topLeft(), QPointF(rect.right(), number.bottom())});
 }
 
 /// The baseline of a row, taken from its number.
@@ -394,28 +396,38 @@ QList<MvDayColumn> MvCalendariumRendererOneDayPerRow::columnsOf(const QDate &dat
     const MvDayColumn whole = cells.wholeDay(date);
     QList<MvDayColumn> shown(columns);
     const QStringList headers = headings().mid(0, columns);
-    const auto columnsFor = [&headers](const QStringList &groups) {
-        QList<qsizetype> found;
+    using Group = MvEventText::Group;
+    /// With the group that heads the column; null in the first one for what has no column of its own.
+    const auto columnsFor = [&headers](const QList<Group> &groups) {
+        QList<std::pair<qsizetype, const Group *>> found;
         for (qsizetype column = 0; column < headers.size(); ++column) {
-            if (groups.contains(headers.at(column).trimmed(), Qt::CaseInsensitive))
-                found.append(column);
+            const auto group = std::find_if(groups.cbegin(), groups.cend(), [&](const Group &one) {
+                return one.name.compare(headers.at(column).trimmed(), Qt::CaseInsensitive) == 0;
+            });
+            if (group != groups.cend())
+                found.append({column, &*group});
         }
-        return found.isEmpty() ? QList<qsizetype>{0} : found;
+        if (found.isEmpty())
+            found.append({0, nullptr});
+        return found;
     };
     QList<MvEventText> entries = day(date).entries;
     entries.removeIf([&](const MvEventText &entry) { return entry.start != date && !isRowStart(date); });
     const qsizetype official = whole.texts.size() - entries.size(); // which come first
     for (qsizetype i = 0; i < whole.texts.size(); ++i) {
-        const QStringList groups = i < official ? QStringList() : entries.at(i - official).groupNames;
-        for (const qsizetype column : columnsFor(groups)) {
-            shown[column].texts.append(whole.texts.at(i));
+        const QList<Group> groups = i < official ? QList<Group>() : entries.at(i - official).groups;
+        for (const auto &[column, group] : columnsFor(groups)) {
+            shown[column].texts.append(group ? group->text : whole.texts.at(i));
             if (!whole.colors.isEmpty())
-                shown[column].colors.append(whole.colors.at(i));
+                shown[column].colors.append(group ? group->color : whole.colors.at(i));
         }
     }
     for (const MvSpanBars::Bar &bar : whole.bars) {
-        for (const qsizetype column : columnsFor(bar.groupNames))
+        for (const auto &[column, group] : columnsFor(bar.groups)) {
             shown[column].bars.append(bar);
+            if (group)
+                shown[column].bars.last().color = group->color;
+        }
     }
     return shown;
 }

@@ -9,8 +9,9 @@ class MvCalendariumCellPainter;
 struct MvDayColumn;
 
 /// The month as a list: one row per day with its number, the weekday's name where that is configured, and one to ten
-/// free columns to write in; the first one takes the day's texts. A line above carries the headings of the columns,
-/// a strip on the left the calendar weeks.
+/// free columns to write in; the first one takes the day's texts, others those of the group that heads them, as it
+/// writes and colours them. A line above carries the headings of the columns, a strip on the left the calendar weeks.
+/// The whole row is the room of its day.
 class MVCALENDAR_EXPORT MvCalendariumRendererOneDayPerRow : public MvCalendariumRenderer
 {
     Q_OBJECT

@@ -136,6 +136,8 @@ void MvCalendariumRendererOneRow::renderBase(QPainter &painter, const QRectF &re
         if (hasHeads)
             drawHead(painter, {corner, headSize}, date, heads);
         drawDayNumberCell(painter, {corner + QPointF(0.0, bands.head), bands.day}, date);
+        if (hasHeads)
+            Q_EMIT roomForDateFound(date, {corner, QSizeF(bands.day.width(), bands.head + bands.day.height())});
         const bool isLastInRow = date.day() % bands.columns == 0;
         corner = isLastInRow ? QPointF(rect.left(), corner.y() + bands.head + bands.day.height())
                              : corner + QPointF(bands.day.width(), 0.0);

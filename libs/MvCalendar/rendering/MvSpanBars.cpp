@@ -50,8 +50,8 @@ MvSpanBars::Lanes MvSpanBars::arranged(const QDate &first, const QDate &last,
         for (qsizetype lane = 0; lane < running.size(); ++lane) {
             const MvEventText &span = running.at(lane);
             if (!span.text.isEmpty())
-                bars.append({int(lane), span.color, span.groupNames, span.start == day, span.end == day, span.text,
-                             span.start});
+                bars.append(
+                    {int(lane), span.color, span.groups, span.start == day, span.end == day, span.text, span.start});
         }
         if (!bars.isEmpty())
             lanes.insert(day.toJulianDay(), bars);

@@ -23,7 +23,7 @@ public:
     {
         int lane;
         QColor color; ///< invalid: as the page writes
-        QStringList groupNames;
+        QList<MvEventText::Group> groups;
         bool begins;
         bool ends;
         QString text;
