@@ -73,6 +73,10 @@
         <source>d. MMMM</source>
         <translation>d MMMM</translation>
     </message>
+    <message>
+        <source>Keine Geburtstage übernommen</source>
+        <translation>No birthdays taken over</translation>
+    </message>
 </context>
 <context>
     <name>MvCalendarCellType</name>
@@ -5179,6 +5183,13 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>persönliche Einträge, die der Kalender zeigt; eine Liste (XML) gehört dann dazu, aus anderen Dateien kommen sie in das Projekt</source>
         <translation>personal entries that the calendar shows; a list (XML) then belongs to it, from other files they come into the project</translation>
+    </message>
+</context>
+<context>
+    <name>MvOpenCalendar</name>
+    <message>
+        <source>Nichts übernommen: Der Kalender, für den die Datei gelesen wurde, ist nicht mehr offen. Öffnen Sie ihn, und lesen Sie die Datei noch einmal ein.</source>
+        <translation>Nothing taken over: the calendar for which the file was read is no longer open. Open it and import the file again.</translation>
     </message>
 </context>
 <context>

@@ -92,6 +92,33 @@ const Row rows[] = {
      {2027, 5, 4},
      {2027, 6, 1},
      "2023-06-01 FREQ=YEARLY;INTERVAL=2"},
+    {"the second Sunday of May",
+     {2026, 5, 10},
+     false,
+     "FREQ=YEARLY;BYMONTH=5;BYDAY=2SU",
+     {{2028, 5, 14}},
+     {},
+     {2027, 5, 9},
+     {2027, 6, 6},
+     "2026-06-07 FREQ=YEARLY;BYMONTH=6;BYDAY=1SU without 2028-06-04"},
+    {"the last day of the month",
+     {2027, 1, 31},
+     false,
+     "FREQ=MONTHLY;BYMONTHDAY=-1",
+     {{2027, 4, 30}},
+     {},
+     {2027, 2, 28},
+     {2027, 2, 27},
+     "2027-01-30 FREQ=MONTHLY;BYMONTHDAY=-2 without 2027-04-29"},
+    {"a day of every month, by years",
+     {2027, 1, 5},
+     false,
+     "FREQ=YEARLY;BYMONTHDAY=5",
+     {},
+     {},
+     {2027, 2, 5},
+     {2027, 2, 6},
+     ""},
     {"a rule that one day cannot stand for",
      {2026, 9, 3},
      false,
@@ -126,6 +153,8 @@ class tst_MvEntryMove : public MvTest
 private Q_SLOTS:
     void moves_data();
     void moves();
+    void shifts_data();
+    void shifts();
 };
 
 void tst_MvEntryMove::moves_data()
@@ -173,6 +202,66 @@ void tst_MvEntryMove::moves()
     QCOMPARE(described(once.last().after), given.to.toString(Qt::ISODate));
     QCOMPARE(once.last().after.description(), u"Probe"_s);
     QVERIFY(!MvEntryMove::doesRepeat(once.last().after));
+}
+
+void tst_MvEntryMove::shifts_data()
+{
+    QTest::addColumn<QDate>("date");
+    QTest::addColumn<QString>("rule");
+    QTest::addColumn<int>("years");
+    QTest::addColumn<int>("days");
+    QTest::addColumn<QString>("after"); // an entry of three days, without its second time
+    const QDate thursday(2027, 1, 14);  // the second one of the month
+    const auto add = [](const char *name, const QDate &date, const char *rule, int years, int days, const char *after) {
+        QTest::newRow(name) << date << QString::fromLatin1(rule) << years << days << QString::fromLatin1(after);
+    };
+    add("once", thursday, "", 1, 0, "2028-01-14 .. 2028-01-16");
+    add("29 February", {2028, 2, 29}, "", 1, 0, "2029-02-28 .. 2029-03-02");
+    add("weekly, a year", thursday, "FREQ=WEEKLY;BYDAY=TH", 1, 0,
+        "2028-01-13 .. 2028-01-15 FREQ=WEEKLY;BYDAY=TH without 2028-01-20");
+    add("weekly, without its day", thursday, "FREQ=WEEKLY;INTERVAL=2", -1, 0,
+        "2026-01-15 .. 2026-01-17 FREQ=WEEKLY;INTERVAL=2 without 2026-01-29");
+    add("two days a week, a day", thursday, "FREQ=WEEKLY;BYDAY=TH,SU", 0, 1,
+        "2027-01-15 .. 2027-01-17 FREQ=WEEKLY;BYDAY=MO,FR without 2027-01-18");
+    add("weekly, back", thursday, "FREQ=WEEKLY;BYDAY=TH", 0, -10,
+        "2027-01-04 .. 2027-01-06 FREQ=WEEKLY;BYDAY=MO without 2027-01-11");
+    add("second Thursday, a year", thursday, "FREQ=MONTHLY;BYDAY=2TH", 1, 0,
+        "2028-01-13 .. 2028-01-15 FREQ=MONTHLY;BYDAY=2TH without 2028-02-10");
+    add("first Friday, a year", {2027, 1, 1}, "FREQ=MONTHLY;BYDAY=1FR", 1, 0, // not the last of 2027
+        "2028-01-07 .. 2028-01-09 FREQ=MONTHLY;BYDAY=1FR without 2028-02-04");
+    add("second Thursday, a week", thursday, "FREQ=MONTHLY;BYDAY=2TH", 0, 7,
+        "2027-01-21 .. 2027-01-23 FREQ=MONTHLY;BYDAY=3TH without 2027-02-18");
+    add("last Friday, a year", {2027, 1, 29}, "FREQ=MONTHLY;BYDAY=-1FR", 1, 0,
+        "2028-01-28 .. 2028-01-30 FREQ=MONTHLY;BYDAY=-1FR without 2028-02-25");
+    add("second Sunday of May", {2027, 5, 9}, "FREQ=YEARLY;BYMONTH=5;BYDAY=2SU", 1, 0,
+        "2028-05-14 .. 2028-05-16 FREQ=YEARLY;BYMONTH=5;BYDAY=2SU without 2029-05-13");
+    add("day of the month", {2027, 1, 31}, "FREQ=MONTHLY;BYMONTHDAY=31", 0, -1,
+        "2027-01-30 .. 2027-02-01 FREQ=MONTHLY;BYMONTHDAY=30 without 2027-03-30");
+    add("last day, a year", {2027, 2, 28}, "FREQ=MONTHLY;BYMONTHDAY=-1", 1, 0,
+        "2028-02-29 .. 2028-03-02 FREQ=MONTHLY;BYMONTHDAY=-1 without 2028-03-31");
+    add("a rule that cannot say it", {2027, 1, 4}, "FREQ=MONTHLY;BYDAY=MO,TH;BYSETPOS=1", 1, 0,
+        "2028-01-03 .. 2028-01-05 FREQ=MONTHLY;BYDAY=MO,TH;BYSETPOS=1 without 2028-01-31");
+}
+
+/// The dates beside weekdays are those of the calendar on the wall.
+void tst_MvEntryMove::shifts()
+{
+    QFETCH(QDate, date);
+    QFETCH(QString, rule);
+    QFETCH(int, years);
+    QFETCH(int, days);
+    MvCalendarEvent entry = MvEntries::entry(u"Training"_s, date, {}, false);
+    MvEventRepetition repetition;
+    repetition.rule = MvRecurrenceRule::parse(rule).rule;
+    entry.setRepetition(repetition);
+    QDate second = entry.startsInYear(date.year()).value(1);
+    if (!second.isValid())
+        second = entry.startsInYear(date.year() + 1).value(0);
+    repetition.exceptions = {second};
+    repetition.normalize();
+    entry.setRepetition(repetition);
+    entry.setEndDate(date.addDays(2));
+    QTEST(described(MvEntryMove::shifted(entry, years, days)), "after");
 }
 
 MV_TEST_MAIN(tst_MvEntryMove)

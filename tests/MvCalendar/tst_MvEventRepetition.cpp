@@ -29,8 +29,6 @@ private Q_SLOTS:
     void fallsOnTheDaysOfAnotherProgram();
     void entryFallsOn_data();
     void entryFallsOn();
-    void moves_data();
-    void moves();
     void keepsItsFile();
     void mergesFields();
     void readsAsItsGroupSays();
@@ -226,64 +224,6 @@ void tst_MvEventRepetition::entryFallsOn()
         QVERIFY2(event.isAtDay(day) && names(day).contains(u"E"_s), qPrintable(day.toString()));
     for (const QDate &day : notOn)
         QVERIFY2(!event.isAtDay(day) && !names(day).contains(u"E"_s), qPrintable(day.toString()));
-}
-
-void tst_MvEventRepetition::moves_data()
-{
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<int>("years");
-    QTest::addColumn<int>("days");
-    QTest::addColumn<QDate>("moved");
-    QTest::addColumn<QString>("movedRule");
-    const QDate thursday(2027, 1, 14); // the second one of the month
-    QTest::newRow("once") << thursday << QString() << 1 << 0 << QDate(2028, 1, 14) << QString();
-    QTest::newRow("29 February") << QDate(2028, 2, 29) << QString() << 1 << 0 << QDate(2029, 2, 28) << QString();
-    QTest::newRow("weekly, a year") << thursday << u"FREQ=WEEKLY;BYDAY=TH"_s << 1 << 0 << QDate(2028, 1, 13)
-                                    << u"FREQ=WEEKLY;BYDAY=TH"_s;
-    QTest::newRow("weekly, without its day")
-        << thursday << u"FREQ=WEEKLY;INTERVAL=2"_s << -1 << 0 << QDate(2026, 1, 15) << u"FREQ=WEEKLY;INTERVAL=2"_s;
-    QTest::newRow("weekly, a day") << thursday << u"FREQ=WEEKLY;BYDAY=TH,SU"_s << 0 << 1 << QDate(2027, 1, 15)
-                                   << u"FREQ=WEEKLY;BYDAY=FR,MO"_s;
-    QTest::newRow("weekly, back") << thursday << u"FREQ=WEEKLY;BYDAY=TH"_s << 0 << -10 << QDate(2027, 1, 4)
-                                  << u"FREQ=WEEKLY;BYDAY=MO"_s;
-    QTest::newRow("second Thursday, a year")
-        << thursday << u"FREQ=MONTHLY;BYDAY=2TH"_s << 1 << 0 << QDate(2028, 1, 13) << u"FREQ=MONTHLY;BYDAY=2TH"_s;
-    QTest::newRow("first Friday, a year") << QDate(2027, 1, 1) << u"FREQ=MONTHLY;BYDAY=1FR"_s << 1 << 0
-                                          << QDate(2028, 1, 7) << u"FREQ=MONTHLY;BYDAY=1FR"_s; // not the last of 2027
-    QTest::newRow("second Thursday, a week")
-        << thursday << u"FREQ=MONTHLY;BYDAY=2TH"_s << 0 << 7 << QDate(2027, 1, 21) << u"FREQ=MONTHLY;BYDAY=3TH"_s;
-    QTest::newRow("last Friday, a year") << QDate(2027, 1, 29) << u"FREQ=MONTHLY;BYDAY=-1FR"_s << 1 << 0
-                                         << QDate(2028, 1, 28) << u"FREQ=MONTHLY;BYDAY=-1FR"_s;
-    QTest::newRow("second Sunday of May") << QDate(2027, 5, 9) << u"FREQ=YEARLY;BYMONTH=5;BYDAY=2SU"_s << 1 << 0
-                                          << QDate(2028, 5, 14) << u"FREQ=YEARLY;BYMONTH=5;BYDAY=2SU"_s;
-    QTest::newRow("day of the month") << QDate(2027, 1, 31) << u"FREQ=MONTHLY;BYMONTHDAY=31"_s << 0 << -1
-                                      << QDate(2027, 1, 30) << u"FREQ=MONTHLY;BYMONTHDAY=30"_s;
-}
-
-/// With all that hangs on its date: an entry of three days, every occurrence as far from the next as before.
-void tst_MvEventRepetition::moves()
-{
-    QFETCH(QDate, date);
-    QFETCH(QString, rule);
-    QFETCH(int, years);
-    QFETCH(int, days);
-    QFETCH(QDate, moved);
-    MvCalendarEvent event = entry(date, rule);
-    event.setEndDate(date.addDays(2));
-    MvEventRepetition repetition = event.repetition();
-    repetition.exceptions = {event.startsInYear(date.year()).value(1)};
-    event.setRepetition(repetition);
-    const QList<QDate> before = event.startsInYear(date.year());
-    const QDate day = event.repetition().yearsLater(date, years).addDays(days);
-    QCOMPARE(day, moved);
-    event.moveTo(day);
-    QCOMPARE(event.dateTime().date(), moved);
-    QCOMPARE(event.endDate(), moved.addDays(2));
-    QTEST(event.repetition().rule.text(), "movedRule");
-    QCOMPARE(event.startsInYear(moved.year()).value(0), moved);
-    if (rule.startsWith(u"FREQ=WEEKLY"_s)) // the one that is left out is left out there
-        QCOMPARE(moved.daysTo(event.startsInYear(moved.year()).value(1)), date.daysTo(before.value(1)));
 }
 
 void tst_MvEventRepetition::keepsItsFile()

@@ -39,6 +39,8 @@ private Q_SLOTS:
     void memberships();
     void groupsGoAndComeBack();
     void othersKeepTheirGroups();
+    void groupsComeAlong_data();
+    void groupsComeAlong();
     void shiftsAndRemoves();
     void finds_data();
     void finds();
@@ -156,6 +158,73 @@ void tst_MvEntryEdits::othersKeepTheirGroups()
     m_session->undo().undo();
     QCOMPARE(described(registry().ownEvents()), described(own));
     QCOMPARE(registry().ownEvents().groups().size(), 2);
+}
+
+void tst_MvEntryEdits::groupsComeAlong_data()
+{
+    using Reach = MvEntryEdits::Reach;
+    QTest::addColumn<int>("reach");
+    QTest::addColumn<bool>("reachesOwn");
+    QTest::addColumn<QString>("group");  // of the new entry
+    QTest::addColumn<QString>("active"); // groups that come
+    QTest::addColumn<QString>("own");
+    QTest::newRow("of a file") << int(Reach::AsSet) << false << u"Klasse"_s << u"Klasse Leer"_s << QString();
+    QTest::newRow("of a file, by the switch")
+        << int(Reach::AsSet) << true << u"Klasse"_s << u"Klasse Leer"_s << u"Klasse Leer"_s;
+    QTest::newRow("of this calendar, by the switch")
+        << int(Reach::AsSet) << true << u"Hier"_s << u"Klasse Leer"_s << u"Hier Klasse Leer"_s;
+    QTest::newRow("from the own") << int(Reach::ActiveList) << true << u"Dort"_s << u"Dort Klasse Leer"_s << QString();
+    QTest::newRow("to the own") << int(Reach::OwnList) << false << u"Hier"_s << QString() << u"Hier Klasse Leer"_s;
+}
+
+/// Those of the entries, and others of their file, in the same step; they stay where somebody uses them by then.
+void tst_MvEntryEdits::groupsComeAlong()
+{
+    QFETCH(int, reach);
+    QFETCH(bool, reachesOwn);
+    QFETCH(QString, group);
+    using List = MvCalendarEventRegistry::List;
+    const auto addGroup = [this](List list, const QString &name) {
+        MvEventGroupList groups = (list == List::Own ? registry().ownEvents() : this->list()).groups();
+        groups.idOfName(name);
+        registry().setGroups(groups, list);
+    };
+    addGroup(List::Active, u"Hier"_s);
+    addGroup(List::Own, u"Dort"_s);
+    const MvEventGroupList before = list().groups();
+    const MvEventGroupList ownBefore = registry().ownEvents().groups();
+    const auto come = [](const MvEventGroupList &groups, const MvEventGroupList &known) {
+        QStringList names;
+        for (const MvEventGroup &one : groups) {
+            if (!known.find(one.id))
+                names.append(one.name);
+        }
+        names.sort();
+        return names.join(u' ');
+    };
+    registry().setChangesReachOwn(reachesOwn);
+    MvEventGroupList ofFile;
+    ofFile.idOfName(u"Klasse"_s);
+    ofFile.idOfName(u"Leer"_s);
+    MvCalendarEvent dora = entry(u"Dora"_s, {1980, 1, 1});
+    dora.setGroups({MvEventGroup::named(group).id});
+    MvEntryEdits edits(*m_session);
+    edits.change(u"import"_s, u"Import"_s, {{{}, dora}}, MvEntryEdits::Reach(reach), ofFile);
+    for (int turn = 0; turn < 2; ++turn) {
+        QTEST(come(list().groups(), before), "active");
+        QTEST(come(registry().ownEvents().groups(), ownBefore), "own");
+        m_session->undo().undo();
+        QCOMPARE(list().groups(), before);
+        QCOMPARE(registry().ownEvents().groups(), ownBefore);
+        m_session->undo().redo();
+    }
+    MvCalendarEventList byOthers = list();
+    byOthers.groups().idOfName(group);
+    byOthers[2].setGroups({MvEventGroup::named(group).id});
+    registry().setEvents(byOthers);
+    m_session->undo().undo();
+    QVERIFY(list().groups().findName(group));
+    QVERIFY(!list().groups().findName(u"Leer"_s));
 }
 
 void tst_MvEntryEdits::shiftsAndRemoves()

@@ -193,6 +193,7 @@ void tst_MvProjectEntries::listsGoTheirOwnWays()
     const auto name = [&random] { return u"E%1"_s.arg(random.bounded(1000000)); };
     const auto vary = [&](MvCalendarEvent &event) {
         const MvEventGroup group = MvEventGroup::named(u"Gruppe %1"_s.arg(random.bounded(4)));
+        MvEventGroupList groups = registry().activeEventList().groups();
         switch (random.bounded(3)) {
         case 0:
             event.setEventName(name());
@@ -201,7 +202,8 @@ void tst_MvProjectEntries::listsGoTheirOwnWays()
             event.setEndDate(event.dateTime().date().addDays(random.bounded(5)));
             break;
         default:
-            registry().addGroups({group});
+            groups.idOfName(group.name);
+            registry().setGroups(groups);
             event.setGroups({group.id});
         }
     };

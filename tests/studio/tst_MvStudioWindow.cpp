@@ -469,6 +469,7 @@ void tst_MvStudioWindow::orderOfBirthdays_data()
     QTest::newRow("month first") << 1 << QList{anna, QDate(1985, 4, 12)};
     QTest::newRow("left out") << 2 << QList{anna};
     QTest::newRow("cancelled") << -1 << QList<QDate>();
+    QTest::newRow("another calendar is open by then") << 3 << QList<QDate>();
 }
 
 void tst_MvStudioWindow::orderOfBirthdays()
@@ -480,10 +481,13 @@ void tst_MvStudioWindow::orderOfBirthdays()
     QVERIFY(question()->text().contains(u"04/12/1985"_s));
     if (button < 0)
         window()->birthdayImport()->cancel();
-    question()->buttons().at(qMax(0, button))->click();
+    if (button == 3)
+        project()->newProject(m_studio->document());
+    question()->buttons().at(qMax(0, button % 3))->click();
     const QString report = button < 0 ? QString() : importReport();
     QVERIFY(!window()->birthdayImport()->isRunning());
     QCOMPARE(report.contains(u"Bert: 04/12/1985"_s), button == 2);
+    QCOMPARE(report.contains(u"nicht mehr offen"_s), button == 3);
     QList<QDate> dates;
     for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList())
         dates.append(event.dateTime().date());

@@ -59,6 +59,7 @@ MvCalendarEvent everyWeek(const QString &name, const QDate &first)
 const char *const examWeeks = "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//x//y//DE\r\n"
                               "BEGIN:VEVENT\r\nUID:k1@schule\r\nDTSTAMP:20260801T000000Z\r\n"
                               "DTSTART;VALUE=DATE:20270125\r\nDTEND;VALUE=DATE:20270206\r\nSUMMARY:Klausuren\r\n"
+                              "CATEGORIES:Schule\r\n"
                               "END:VEVENT\r\nBEGIN:VEVENT\r\nUID:k2@schule\r\nDTSTAMP:20260801T000000Z\r\n"
                               "DTSTART;VALUE=DATE:20260914\r\nSUMMARY:Konferenz\r\nEND:VEVENT\r\n"
                               "BEGIN:VEVENT\r\nUID:k3@schule\r\nDTSTAMP:20260801T000000Z\r\nSUMMARY:Ohne Tag\r\n"
@@ -75,6 +76,7 @@ private Q_SLOTS:
     void parentKeepsBirthdaysAndTraining();
     void bubbleLosesNothing();
     void entriesAreDragged();
+    void groupsAreUndoneWithTheirEntries();
     void teacherDropsExamWeeks();
     void tableIsShownFirst();
     void bubbleStaysOnTheScreen_data();
@@ -213,6 +215,44 @@ void tst_StudioDateJourneys::entriesAreDragged()
     QCOMPARE(studio.steps(), before + 4);
 }
 
+/// However they came: typed in the bubble, or taken from there to the editor.
+void tst_StudioDateJourneys::groupsAreUndoneWithTheirEntries()
+{
+    MvStudioFixture studio;
+    const auto groups = [] {
+        QStringList all;
+        const MvCalendarEventList list = registry().activeEventList();
+        for (const MvEventGroup &group : list.groups())
+            all.append(group.name);
+        return all;
+    };
+    const auto type = [&](const QString &name, const QString &group) {
+        QTest::keyClicks(studio.find("bubbleText"), name);
+        auto *box = studio.find<QComboBox>("groupCombo");
+        box->setFocus(Qt::TabFocusReason);
+        QTest::keyClicks(box, group);
+    };
+    QVERIFY(studio.clickDate(thursday));
+    type(u"Probe"_s, u"Chor"_s);
+    QVERIFY(studio.click(studio.window(), "bubbleSave"));
+    QCOMPARE(groups(), QStringList{u"Chor"_s});
+    QVERIFY(studio.clickDate({2027, 1, 20}));
+    type(u"Spiel"_s, u"Verein"_s);
+    QVERIFY(studio.click(studio.window(), "bubbleMore"));
+    QCOMPARE(groups(), QStringList{u"Chor"_s}); // nothing is saved yet
+    QVERIFY(studio.click(MvStudioFixture::dialog<MvCalendarDayEditorDialog>(), "okButton"));
+    QCOMPARE(groups(), (QStringList{u"Chor"_s, u"Verein"_s}));
+    QCOMPARE(studio.steps(), 2);
+    studio.undo();
+    QCOMPARE(groups(), QStringList{u"Chor"_s});
+    studio.undo();
+    QCOMPARE(groups(), QStringList());
+    studio.redo();
+    studio.redo();
+    QCOMPARE(groups(), (QStringList{u"Chor"_s, u"Verein"_s}));
+    QCOMPARE(names(), (QStringList{u"Probe"_s, u"Spiel"_s}));
+}
+
 /// August to July, with the weeks of exams as somebody else has written them; and a photo in the same drop.
 void tst_StudioDateJourneys::teacherDropsExamWeeks()
 {
@@ -228,7 +268,7 @@ void tst_StudioDateJourneys::teacherDropsExamWeeks()
     QTRY_VERIFY(report());
     QCOMPARE(summary(), u"2 neu, 0 geändert, 0 gleich, 1 ausgelassen"_s);
     const QString left = report()->findChild<QPlainTextEdit *>(u"importLines"_s)->toPlainText();
-    QVERIFY2(left.contains(u"klausuren.ics: Zeile 17"_s) && left.contains(u"Ohne Tag"_s), qPrintable(left));
+    QVERIFY2(left.contains(u"klausuren.ics: Zeile 18"_s) && left.contains(u"Ohne Tag"_s), qPrintable(left));
     report()->close();
     QCOMPARE(studio.steps(), 1);
     studio.window()->setCurrentPage(5); // January 2027
@@ -249,9 +289,11 @@ void tst_StudioDateJourneys::teacherDropsExamWeeks()
     report()->close();
     QCOMPARE(studio.page()->foto(0) ? studio.page()->foto(0)->path() : QString(), photo);
     QCOMPARE(studio.steps(), 2);
+    QVERIFY(registry().activeEventList().groups().findName(u"Schule"_s));
     studio.undo();
     studio.undo();
     QCOMPARE(names(), QStringList());
+    QVERIFY(registry().activeEventList().groups().isEmpty());
 }
 
 /// What a table leaves open is asked, and every choice shows at once.
@@ -298,6 +340,19 @@ void tst_StudioDateJourneys::tableIsShownFirst()
     QVERIFY(studio.click(dialog(), "cancelButton"));
     QCOMPARE(names().size(), 2);
     QCOMPARE(studio.steps(), 1);
+
+    QVERIFY(studio.dropOnDate(thursday, file));
+    QTRY_VERIFY(dialog());
+    registry().setOwnEvents({});
+    studio.project()->newProject(studio.document()); // which the table is not for
+    choose("orderCombo", 1);
+    QVERIFY(studio.click(dialog(), "takeTableButton"));
+    QTRY_VERIFY(MvStudioFixture::dialog<QDialog>("entryImportReport"));
+    auto *report = MvStudioFixture::dialog<QDialog>("entryImportReport");
+    QVERIFY(report->findChild<QLabel *>(u"importSummary"_s)->text().startsWith(u"Nichts übernommen"_s));
+    report->close();
+    QCOMPARE(names(), QStringList());
+    QCOMPARE(studio.steps(), 0);
 }
 
 void tst_StudioDateJourneys::bubbleStaysOnTheScreen_data()

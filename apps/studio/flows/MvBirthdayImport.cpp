@@ -67,6 +67,7 @@ void MvBirthdayImport::import(const QStringList &files)
     for (const QString &file : files)
         infos.append(QFileInfo(file));
     m_import = std::make_shared<MvAddressBookImport>(infos);
+    m_calendar.emplace(m_session);
     runInBackground([](MvAddressBookImport &import) { import.readCards(); }, &MvBirthdayImport::askForOrder);
 }
 
@@ -78,8 +79,9 @@ void MvBirthdayImport::runInBackground(const std::function<void(MvAddressBookImp
     auto *watcher = new QFutureWatcher<void>(this);
     connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher, then, import = m_import] {
         watcher->deleteLater();
-        if (import == m_import) // else it was cancelled
-            (this->*then)();
+        if (import != m_import) // it was cancelled
+            return;
+        m_calendar->isStillOpen() ? (this->*then)() : drop();
     });
     const auto promise = std::make_shared<QPromise<void>>();
     promise->start();
@@ -117,6 +119,15 @@ void MvBirthdayImport::cancel()
     m_import.reset(); // its photos go when the thread lets go of it
     hideProgress();
     Q_EMIT message(tr("Import abgebrochen; es wurde nichts übernommen"));
+    Q_EMIT finished(0, 0);
+}
+
+void MvBirthdayImport::drop()
+{
+    hideProgress();
+    m_import.reset();
+    Q_EMIT message(MvOpenCalendar::closedText());
+    MvStudioMessage::information(m_window, tr("Keine Geburtstage übernommen"), MvOpenCalendar::closedText());
     Q_EMIT finished(0, 0);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCalendar/MvOpenCalendar.h"
 #include "MvProductBase/MvVCardDate.h"
 
 #include <QObject>
@@ -10,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class MvAddressBookImport;
 class MvProgressDialog;
@@ -20,7 +22,8 @@ class QWidget;
 /// once, however often it is imported.
 ///
 /// Files and photos are read in the background. It can be cancelled at any time; neither that nor the end of this
-/// object waits for the reading.
+/// object waits for the reading. They are for the calendar that is open when it begins: when another is open at the
+/// end, nothing is taken, and that is told.
 class MvBirthdayImport : public QObject
 {
     Q_OBJECT
@@ -49,6 +52,7 @@ private:
     void askForOrder();
     void makeEntries(MvVCardDate::Order order);
     void finish();
+    void drop();
     QString problemOfFile() const;
     void showProgress();
     void hideProgress();
@@ -56,6 +60,7 @@ private:
     MvSession &m_session;
     QWidget *m_window;
     std::shared_ptr<MvAddressBookImport> m_import; // while it runs
+    std::optional<MvOpenCalendar> m_calendar;      // for which
     QPointer<MvProgressDialog> m_progress;
     QTimer m_progressTimer;
 };

@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 
 MvEntryImportFlow::MvEntryImportFlow(MvSession &session, MvBirthdayImport *birthdays, QWidget *window)
     : QObject(window)
+    , m_session(session)
     , m_import(new MvEntryFileImport(session, window))
     , m_birthdays(birthdays)
     , m_window(window)
@@ -37,14 +38,26 @@ void MvEntryImportFlow::import(const QStringList &files)
     if (files.isEmpty())
         return;
     MvStudioSettings::setFolder(u"entries"_s, QFileInfo(files.first()).absolutePath());
+    dropOfOther();
     m_waiting += files;
+    m_calendar.emplace(m_session);
     begin();
+}
+
+/// Says so when another calendar is open than the one for which files wait.
+bool MvEntryImportFlow::dropOfOther()
+{
+    if (m_waiting.isEmpty() || m_calendar->isStillOpen())
+        return false;
+    m_waiting.clear();
+    Q_EMIT message(MvOpenCalendar::closedText());
+    return true;
 }
 
 /// Cards after the others: both tell what they have done.
 void MvEntryImportFlow::begin()
 {
-    if (m_import->isRunning() || m_birthdays->isRunning() || m_waiting.isEmpty())
+    if (m_import->isRunning() || m_birthdays->isRunning() || m_waiting.isEmpty() || dropOfOther())
         return;
     QStringList cards;
     QStringList others;

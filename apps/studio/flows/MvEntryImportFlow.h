@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QStringList>
 
+#include <optional>
+
 class MvBirthdayImport;
 class MvSession;
 class QWidget;
@@ -23,7 +25,7 @@ public:
 public Q_SLOTS:
     /// Asks for files.
     void start();
-    /// Files that come while others are read wait for these.
+    /// Files that come while others are read wait for these; they are for the calendar that is open now.
     void import(const QStringList &files);
 
 Q_SIGNALS:
@@ -33,10 +35,13 @@ Q_SIGNALS:
 
 private:
     void begin();
+    bool dropOfOther();
     void tell(const MvEntryFileImport::Result &result);
 
+    MvSession &m_session;
     MvEntryFileImport *m_import;
     MvBirthdayImport *m_birthdays;
     QWidget *m_window;
     QStringList m_waiting;
+    std::optional<MvOpenCalendar> m_calendar; // for which they wait
 };

@@ -6,9 +6,9 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvEntryBubble.h"
+#include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvEntryMove.h"
 #include "MvCalendar/MvEntryQuestion.h"
-#include "MvCalendar/MvEntrySteps.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
 #include "MvPaint/MvPrintableText.h"
@@ -211,7 +211,7 @@ void MvPageEntries::drop(const MvEntryMove &move, bool isCopy)
         return [this, step, told](const QList<MvEntryChange> &changes) {
             if (changes.isEmpty())
                 return;
-            MvEntrySteps::push(m_project->session(), step, changes);
+            MvEntryEdits(m_project->session()).change(step, step, changes);
             Q_EMIT message(told);
         };
     };

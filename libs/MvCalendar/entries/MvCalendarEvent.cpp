@@ -150,21 +150,6 @@ void MvCalendarEvent::setDateTime(const QDateTime &dateTime)
     updateChangeTime();
 }
 
-void MvCalendarEvent::moveTo(const QDate &day)
-{
-    const QDate from = m_dateTime.date();
-    if (!day.isValid() || !from.isValid())
-        return;
-    if (m_extras) {
-        MvCalendarEventExtras changed = *m_extras;
-        changed.repetition = changed.repetition.moved(from, day);
-        if (changed.endDate.isValid())
-            changed.endDate = day.addDays(from.daysTo(changed.endDate));
-        setExtras(changed);
-    }
-    setDateTime(startOf(day));
-}
-
 void MvCalendarEvent::setRecurrent(bool recurrent)
 {
     m_recurrent = recurrent;

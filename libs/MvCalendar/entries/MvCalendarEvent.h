@@ -102,8 +102,6 @@ public:
     // Each setter makes now the time of the last change.
     void setEventName(const QString &name);
     void setDateTime(const QDateTime &dateTime);
-    /// Takes along how long it lasts and how it repeats (MvEventRepetition::moved()); an invalid day changes nothing.
-    void moveTo(const QDate &day);
     void setRecurrent(bool recurrent);
     /// The rule, if there is one, counts instead of the flag, which remains for programs that know no rules.
     void setRepetition(const MvEventRepetition &repetition);

@@ -227,18 +227,6 @@ void MvCalendarEventRegistry::setOwnEvents(const MvCalendarEventList &events)
     setList(listOf(List::Own), events);
 }
 
-void MvCalendarEventRegistry::addGroups(const MvEventGroupList &groups)
-{
-    MvCalendarEventList events = activeEventList();
-    const qsizetype before = events.groups().size();
-    for (const MvEventGroup &group : groups) {
-        if (group.isValid() && !events.groups().find(group.id))
-            events.groups().append(group);
-    }
-    if (events.groups().size() > before)
-        setEvents(events);
-}
-
 void MvCalendarEventRegistry::setGroups(const MvEventGroupList &groups, List list)
 {
     const MvProjectIdentifier project = listOf(list);

@@ -114,8 +114,6 @@ public:
     /// Replaces the active list by the valid entries of the list and saves it. Photos that came with an imported file
     /// are copied into the photo folder.
     void setEvents(const MvCalendarEventList &events);
-    /// Adds the groups whose ids the active list does not know: those of entries that are about to come from a file.
-    void addGroups(const MvEventGroupList &groups);
     /// Makes these the groups of a list, and saves it; its entries stay as they are. setEvents() with a list without
     /// groups leaves them alone.
     void setGroups(const MvEventGroupList &groups, List list = List::Active);

@@ -41,6 +41,26 @@ QDate weekdayOf(const QDate &firstOfMonth, const Rule::WeekDay &weekDay)
     return day.month() == firstOfMonth.month() ? day : QDate();
 }
 
+/// The first day so many years later: the same date, as far from the end of the month where the rule counts from
+/// there, or with a rule of weekdays the one of these next to it.
+QDate yearsLater(const QDate &date, int years, const Rule &rule)
+{
+    const QDate same = date.addYears(years);
+    if (rule.monthDays.size() == 1 && rule.monthDays.first() < 0)
+        return {same.year(), same.month(), same.daysInMonth() + 1 + rule.monthDays.first()};
+    if (rule.frequency != Rule::Weekly && rule.weekDays.isEmpty())
+        return same;
+    const int nth = rule.weekDays.size() == 1 ? rule.weekDays.constFirst().nth : 0;
+    const bool isOfMonth = rule.frequency == Rule::Monthly || !rule.months.isEmpty();
+    if (nth != 0 && isOfMonth) {
+        const QDate day = weekdayOf({same.year(), same.month(), 1}, {nth, date.dayOfWeek()});
+        if (day.isValid())
+            return day;
+    }
+    constexpr int half = daysPerWeek / 2;
+    return same.addDays((date.dayOfWeek() - same.dayOfWeek() + half + daysPerWeek) % daysPerWeek - half);
+}
+
 /// How the new day is counted in its month, as the old one was.
 Rule::WeekDay weekdayAt(const QDate &day, int oldNth)
 {
@@ -53,6 +73,11 @@ Rule::WeekDay weekdayAt(const QDate &day, int oldNth)
 bool hasRareParts(const Rule &rule)
 {
     return !rule.weeks.isEmpty() || !rule.yearDays.isEmpty() || !rule.positions.isEmpty();
+}
+
+bool hasDaysOfMonth(const Rule &rule)
+{
+    return !rule.weekDays.isEmpty() || !rule.monthDays.isEmpty();
 }
 
 void sort(QList<Rule::WeekDay> &weekDays)
@@ -73,13 +98,22 @@ MvEntryMove::MvEntryMove(const MvCalendarEvent &event, const QDate &from, const 
     m_moved = moved();
 }
 
+MvEntryMove::MvEntryMove(const MvCalendarEvent &event, const QDate &start, const QDate &newStart, Reach reach)
+    : m_event(event)
+    , m_start(start)
+    , m_newStart(newStart)
+    , m_reach(reach)
+{
+    m_moved = moved();
+}
+
 bool MvEntryMove::doesRepeat(const MvCalendarEvent &event)
 {
     const MvEventRepetition &repetition = event.repetition();
     return event.storedRecurrent() || !repetition.rule.isNone() || !repetition.extraDates.isEmpty();
 }
 
-MvEntryMove::Days MvEntryMove::daysOf(const MvCalendarEvent &event) const
+MvEntryMove::Days MvEntryMove::daysOf(const MvCalendarEvent &event)
 {
     return {event.dateTime().date(), event.repetition()};
 }
@@ -91,7 +125,8 @@ std::optional<MvEntryMove::Days> MvEntryMove::moved() const
     Days days = daysOf(m_event);
     const Rule before = days.repetition.rule;
     Rule &rule = days.repetition.rule;
-    if (m_event.repetition().extraDates.contains(m_start) || !moveRule(rule))
+    const bool isExtra = m_reach == Reach::SameWeekday && m_event.repetition().extraDates.contains(m_start);
+    if (isExtra || !moveRule(rule))
         return {};
     days.date = mapped(days.date, rule);
     if (!days.date.isValid())
@@ -118,50 +153,66 @@ bool MvEntryMove::moveRule(Rule &rule) const
     case Rule::Weekly:
         if (hasRareParts(rule) || !rule.months.isEmpty())
             return false;
-        for (Rule::WeekDay &weekDay : rule.weekDays) {
-            if (weekDay.day == m_start.dayOfWeek())
-                weekDay.day = m_newStart.dayOfWeek();
-        }
-        sort(rule.weekDays);
+        moveWeekdays(rule);
         return true;
     case Rule::Monthly:
-        if (hasRareParts(rule) || !rule.months.isEmpty() || rule.weekDays.size() + rule.monthDays.size() > 1 ||
-            (rule.weekDays.size() == 1 && rule.weekDays.first().nth == 0))
-            return false;
-        for (Rule::WeekDay &weekDay : rule.weekDays)
-            weekDay = weekdayAt(m_newStart, weekDay.nth);
-        for (int &day : rule.monthDays)
-            day = m_newStart.day();
-        return true;
+        return rule.months.isEmpty() && moveDayOfMonth(rule);
     case Rule::Yearly:
-        if (hasRareParts(rule) || !rule.weekDays.isEmpty() || rule.months.size() > 1 || rule.monthDays.size() > 1)
+        if (rule.months.size() > 1 || (rule.months.isEmpty() && hasDaysOfMonth(rule)) || !moveDayOfMonth(rule))
             return false;
         for (int &month : rule.months)
             month = m_newStart.month();
-        for (int &day : rule.monthDays)
-            day = m_newStart.day();
         return true;
     }
     return false;
+}
+
+void MvEntryMove::moveWeekdays(Rule &rule) const
+{
+    const int turned = int(m_start.daysTo(m_newStart) % daysPerWeek) + daysPerWeek;
+    for (Rule::WeekDay &weekDay : rule.weekDays) {
+        if (m_reach == Reach::AllWeekdays || weekDay.day == m_start.dayOfWeek())
+            weekDay.day = (weekDay.day - 1 + turned) % daysPerWeek + 1;
+    }
+    sort(rule.weekDays);
+}
+
+/// A day by its number or as a weekday of its month; false where there are several.
+bool MvEntryMove::moveDayOfMonth(Rule &rule) const
+{
+    if (hasRareParts(rule) || rule.weekDays.size() + rule.monthDays.size() > 1 ||
+        (rule.weekDays.size() == 1 && rule.weekDays.first().nth == 0))
+        return false;
+    for (Rule::WeekDay &weekDay : rule.weekDays)
+        weekDay = weekdayAt(m_newStart, weekDay.nth);
+    for (int &day : rule.monthDays) // counted from the end as it was
+        day = day < 0 ? m_newStart.day() - m_newStart.daysInMonth() - 1 : m_newStart.day();
+    return true;
 }
 
 /// Where a day of the series goes when it goes as the moved one does; invalid where there is no such day.
 QDate MvEntryMove::mapped(const QDate &day, const Rule &rule) const
 {
     const qint64 way = m_start.daysTo(m_newStart);
-    if (rule.frequency == Rule::Monthly) {
-        const QDate month = monthAfter(day, monthNumber(m_newStart) - monthNumber(m_start));
-        return rule.weekDays.isEmpty() ? QDate(month.year(), month.month(), m_newStart.day())
-                                       : weekdayOf(month, rule.weekDays.first());
-    }
+    if (rule.frequency == Rule::Monthly || (rule.frequency == Rule::Yearly && hasDaysOfMonth(rule)))
+        return dayOfMonth(monthAfter(day, monthNumber(m_newStart) - monthNumber(m_start)), rule);
     const bool isYearly = rule.frequency == Rule::Yearly || (rule.isNone() && m_event.storedRecurrent());
     if (isYearly) {
         const bool hasYear = day.year() != MvCalendarEvent::unknownYear;
         const int year = hasYear ? day.year() + m_newStart.year() - m_start.year() : day.year();
         return {year, m_newStart.month(), m_newStart.day()};
     }
-    const bool isAnotherWeekday = rule.weekDays.size() > 1 && day.dayOfWeek() != m_start.dayOfWeek();
-    return isAnotherWeekday ? day : day.addDays(way); // of several days a week one is moved
+    const bool isAnotherWeekday = m_reach == Reach::SameWeekday && rule.weekDays.size() > 1 &&
+                                  day.dayOfWeek() != m_start.dayOfWeek(); // of several days a week one is moved
+    return isAnotherWeekday ? day : day.addDays(way);
+}
+
+QDate MvEntryMove::dayOfMonth(const QDate &firstOfMonth, const Rule &rule) const
+{
+    if (!rule.weekDays.isEmpty())
+        return weekdayOf(firstOfMonth, rule.weekDays.first());
+    const int day = rule.monthDays.value(0, m_newStart.day());
+    return {firstOfMonth.year(), firstOfMonth.month(), day > 0 ? day : firstOfMonth.daysInMonth() + 1 + day};
 }
 
 /// The last time goes as all of them do.
@@ -183,9 +234,9 @@ QDate MvEntryMove::movedEnd(const Rule &before, const Rule &after) const
 MvCalendarEvent MvEntryMove::placed(const MvCalendarEvent &event, const Days &days) const
 {
     MvCalendarEvent result = event;
-    const int length = event.dayCount();
+    const QDate end = event.endDate();
     result.setDateTime(MvCalendarEvent::startOf(days.date));
-    result.setEndDate(length > 1 ? days.date.addDays(length - 1) : QDate());
+    result.setEndDate(end.isValid() ? days.date.addDays(event.dateTime().date().daysTo(end)) : QDate());
     result.setRepetition(days.repetition);
     return result;
 }
@@ -235,6 +286,38 @@ QList<MvEntryChange> MvEntryMove::copy() const
     result.setTime(moved.time());
     result.setGroups(moved.groups());
     return {{{}, result}};
+}
+
+/// Where the rule stays as it is.
+MvEntryMove::Days MvEntryMove::movedDates() const
+{
+    Days days = daysOf(m_event);
+    const int years = m_newStart.year() - m_start.year();
+    const bool isByYears = m_start.addYears(years) == m_newStart; // leap days have no part in that
+    const auto move = [&](QDate &date) {
+        if (date.isValid())
+            date = isByYears ? date.addYears(years) : date.addDays(m_start.daysTo(m_newStart));
+    };
+    days.date = m_newStart;
+    move(days.repetition.rule.until);
+    std::for_each(days.repetition.exceptions.begin(), days.repetition.exceptions.end(), move);
+    std::for_each(days.repetition.extraDates.begin(), days.repetition.extraDates.end(), move);
+    return days;
+}
+
+MvCalendarEvent MvEntryMove::shifted(const MvCalendarEvent &event, int years, int days)
+{
+    const QDate date = event.dateTime().date();
+    QDate day = date.addDays(days);
+    if (event.hasYear())
+        day = yearsLater(date, years, event.repetition().rule).addDays(days);
+    else
+        day = QDate(date.year(), day.month(), day.day());
+    if (!day.isValid() || day == date)
+        return event;
+    const MvEntryMove move(event, date, day, Reach::AllWeekdays);
+    const bool isRuled = event.storedRecurrent() || !event.repetition().rule.isNone();
+    return move.placed(event, isRuled ? move.m_moved.value_or(move.movedDates()) : move.movedDates());
 }
 
 QList<MvEntryChange> MvEntryMove::withoutTimeAt(const MvCalendarEvent &event, const QDate &day)

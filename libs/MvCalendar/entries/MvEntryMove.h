@@ -9,12 +9,12 @@
 
 #include <optional>
 
-/// What becomes of an entry when one of its days is moved to another: an entry that lasts several days goes as a whole,
-/// and of one that repeats it is either all times or this one.
+/// What becomes of an entry that is moved: an entry that lasts several days goes as a whole, and of one that repeats
+/// either all times go or one.
 ///
-/// All times go as the one that is moved goes: its weekday, its day of the month or its day of the year becomes the
-/// new one, and exceptions, dates of its own and the end of the repetition go along. A birthday keeps its year of
-/// birth. This one time becomes an exception and an entry of its own.
+/// When one of its days is moved to another, all times go as this one goes: its weekday, its day of the month or its
+/// day of the year becomes the new one, and exceptions, dates of its own and the end of the repetition go along. A
+/// birthday keeps its year of birth. This one time becomes an exception and an entry of its own.
 class MVCALENDAR_EXPORT MvEntryMove
 {
 public:
@@ -44,6 +44,11 @@ public:
     /// The entry without the occurrence that includes the day: one more exception.
     static QList<MvEntryChange> withoutTimeAt(const MvCalendarEvent &event, const QDate &day);
 
+    /// The whole entry by years and then by days: of a rule with several weekdays, all of them. A year that is not
+    /// known stays; by years, an entry of weekdays keeps its weekday. A rule that cannot say the new days stays as it
+    /// is, and its dates move.
+    static MvCalendarEvent shifted(const MvCalendarEvent &event, int years, int days);
+
 private:
     /// Where and how often it is, without the rest.
     struct Days
@@ -52,10 +57,19 @@ private:
         MvEventRepetition repetition;
     };
 
-    Days daysOf(const MvCalendarEvent &event) const;
+    /// Which days of a series go with the one that is moved.
+    enum class Reach { SameWeekday, AllWeekdays };
+
+    MvEntryMove(const MvCalendarEvent &event, const QDate &start, const QDate &newStart, Reach reach);
+
+    static Days daysOf(const MvCalendarEvent &event);
     std::optional<Days> moved() const;
+    Days movedDates() const;
     bool moveRule(MvRecurrenceRule &rule) const;
+    void moveWeekdays(MvRecurrenceRule &rule) const;
+    bool moveDayOfMonth(MvRecurrenceRule &rule) const;
     QDate mapped(const QDate &day, const MvRecurrenceRule &rule) const;
+    QDate dayOfMonth(const QDate &firstOfMonth, const MvRecurrenceRule &rule) const;
     QDate movedEnd(const MvRecurrenceRule &before, const MvRecurrenceRule &after) const;
     MvCalendarEvent placed(const MvCalendarEvent &event, const Days &days) const;
     MvCalendarEvent single(const MvCalendarEvent &event) const;
@@ -63,5 +77,6 @@ private:
     MvCalendarEvent m_event;
     QDate m_start;
     QDate m_newStart;
+    Reach m_reach = Reach::SameWeekday;
     std::optional<Days> m_moved;
 };

@@ -24,11 +24,6 @@ struct MVCALENDAR_EXPORT MvEventRepetition
     bool isDefault() const { return *this == MvEventRepetition(); }
     /// Brings the dates into their order; invalid ones go.
     void normalize();
-    /// The same of an entry whose first day moves from one day to another: weekdays, days of the month and months that
-    /// the rule has from the first day follow it, and so do its end, exceptions and dates of its own.
-    MvEventRepetition moved(const QDate &from, const QDate &to) const;
-    /// The first day so many years later: the same date, or with a rule of weekdays the one of these next to it.
-    QDate yearsLater(const QDate &date, int years) const;
     /// The day on which a date of every year is in this year: itself, by the leap day's rule, or none.
     QDate yearlyDay(const QDate &date, int year) const;
 

@@ -7,10 +7,9 @@
 #include "MvCalendar/MvCalendariumCellAccessible.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvDayMenu.h"
+#include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
-
-#include "MvCore/MvUndoController.h"
 
 #include <QGraphicsScene>
 #include <QGraphicsView>
@@ -273,7 +272,7 @@ void MvGraphicsItemCalendariumCellsManager::takeFotoForDate(const QDate &date, c
     const MvCalendarEventList events = m_session.entries().events(config);
     if (events.size() == 1) {
         const auto use = [this](const MvCalendarEvent &before, const MvCalendarEvent &after) {
-            m_session.undo().push(new MvUndoCommandCalendarEvent(before, after, m_parent, m_session));
+            MvEntryEdits(m_session).push(new MvUndoCommandCalendarEvent(before, after, m_parent, m_session), after);
             Q_EMIT eventChanged();
         };
         MvCalendarEventFotoIntake::take(events.first(), foto, this, use, m_session);

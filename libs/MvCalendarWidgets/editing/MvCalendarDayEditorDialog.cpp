@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventDateEdit.h"
 #include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvEventRepetitionEdit.h"
 #include "MvCalendar/MvFotoField.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
@@ -235,11 +236,11 @@ void MvCalendarDayEditorDialog::openDayEditorDialog(const MvCalendarEvent &event
     QTimer::singleShot(settlingTime, this, &MvCalendarDayEditorDialog::repolishAndUpdateWidget);
 }
 
-void MvCalendarDayEditorDialog::takeTyped(const MvCalendarEvent &typed)
+void MvCalendarDayEditorDialog::takeTyped(const MvCalendarEvent &typed, const MvEventGroupList &groups)
 {
     m_descriptionEdit->setText(typed.description());
     m_dateEdit->showDate(typed.dateTime().date());
-    m_repetitionEdit->showTyped(typed, m_session.entries().activeEventList().groups());
+    m_repetitionEdit->showTyped(typed, groups);
 }
 
 MvCalendarDayEditorDialog *MvCalendarDayEditorDialog::otherEditor(const MvCalendarEvent &event) const
@@ -417,30 +418,20 @@ MvCalendarEvent MvCalendarDayEditorDialog::applyEventChange()
     changed.setDateTime(MvCalendarEvent::startOf(m_dateEdit->date()));
     if (m_descriptionEdit->text() != m_shownName) // a file's own form stays as long as nobody changes it
         changed.setEventName(MvStringHelper::simplifiedName(m_descriptionEdit->text()));
-    takeRepetition(changed);
+    MvEventGroupList groups = m_session.entries().activeEventList().groups();
+    m_repetitionEdit->applyTo(changed, groups);
     if (const MvOutcome taken = changed.takeFoto(m_fotoField->foto()); !taken.isOk())
         MvDiskAccessRequest::instance().takeFotosFailed({taken.error}, sourceWindow());
-    change(changed, m_item);
+    change(changed, m_item, groups);
     return changed;
 }
 
-/// A group that was typed in belongs to the list from now on, whatever becomes of the entry.
-void MvCalendarDayEditorDialog::takeRepetition(MvCalendarEvent &event)
-{
-    MvCalendarEventList list = m_session.entries().activeEventList();
-    const MvEventGroupList known = list.groups();
-    m_repetitionEdit->applyTo(event, list.groups());
-    if (list.groups() == known)
-        return;
-    m_isPushing = true; // the entry itself is as it was
-    m_session.entries().setEvents(list);
-    m_isPushing = false;
-}
-
-void MvCalendarDayEditorDialog::change(const MvCalendarEvent &changed, QGraphicsObject *item)
+void MvCalendarDayEditorDialog::change(const MvCalendarEvent &changed, QGraphicsObject *item,
+                                       const MvEventGroupList &groups)
 {
     m_isPushing = true;
-    push(new MvUndoCommandCalendarEvent(m_openedEvent, changed, item, m_session));
+    MvEntryEdits(m_session).push(new MvUndoCommandCalendarEvent(m_openedEvent, changed, item, m_session), changed,
+                                 groups);
     m_isPushing = false;
     if (!changed.isValid())
         return;

@@ -54,8 +54,9 @@ public:
     /// that one comes to the front instead and this one closes.
     void openDayEditorDialog(const MvCalendarEvent &event, bool series);
 
-    /// Puts into the fields what was typed elsewhere for the entry that was opened; its photo stays.
-    void takeTyped(const MvCalendarEvent &typed);
+    /// Puts into the fields what was typed elsewhere for the entry that was opened; its photo stays. The groups are
+    /// those that it may name, new ones among them.
+    void takeTyped(const MvCalendarEvent &typed, const MvEventGroupList &groups);
 
     void setDate(const QDate &date);
     // of the field for the photo, see MvFotoField
@@ -101,8 +102,7 @@ private:
     QWidget *sourceWindow() const;
     void moveToSource();
     void showName(const QString &name);
-    void takeRepetition(MvCalendarEvent &event);
-    void change(const MvCalendarEvent &changed, QGraphicsObject *item);
+    void change(const MvCalendarEvent &changed, QGraphicsObject *item, const MvEventGroupList &groups = {});
     bool isTouched() const;
     void followEntry();
     void takeOver(const MvCalendarEvent &present);

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvEntryIntake.h"
 #include "MvCalendar/MvEntryTableDialog.h"
+#include "MvCalendar/MvOpenCalendar.h"
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvRegularFile.h"
 #include "MvCore/MvYesNoRequest.h"
@@ -150,8 +151,18 @@ void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, 
                                       MvSession &session)
 {
     const QFileInfo file(fileName);
-    const auto judgeRead = [fileName, purpose, asker, take, &session](const Content &content) {
-        judge(fileName, purpose, content, asker, take, session);
+    const MvOpenCalendar calendar(session);
+    const auto judgeRead = [fileName, purpose, asker, take, calendar, &session](const Content &content) {
+        const auto takeHere = [asker, take, calendar](const MvCalendarEventList &read) {
+            if (calendar.isStillOpen())
+                take(read);
+            else
+                MvRequestHandler::current().report(tr("Kalendereinträge"), MvOpenCalendar::closedText(), asker);
+        };
+        if (calendar.isStillOpen())
+            judge(fileName, purpose, content, asker, takeHere, session);
+        else
+            takeHere({}); // which says why not
     };
     if (isTable(file))
         askForTable(file, asker, judgeRead);

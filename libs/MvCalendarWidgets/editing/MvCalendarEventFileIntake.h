@@ -27,7 +27,7 @@ public:
 
     /// Reads the file, a large one in a thread of its own, shows a table before that, and calls `take` once the person
     /// agrees; at once when there is nothing to ask. Nothing is called when the asker is gone by then; it must not be
-    /// null.
+    /// null. Nor is it when another calendar is open by then, which is reported.
     static void start(const QString &fileName, Purpose purpose, QObject *asker, const Take &take,
                       MvSession &session = MvSession::defaultSession());
 

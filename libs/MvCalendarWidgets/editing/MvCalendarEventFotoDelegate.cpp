@@ -4,8 +4,8 @@
 #include "MvCalendar/MvCalendarEventFotoDelegateEditorWidget.h"
 #include "MvCalendar/MvCalendarEventModel.h"
 #include "MvCalendar/MvCalendarEventStep.h"
+#include "MvCalendar/MvEntryEdits.h"
 
-#include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoThumbnails.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvGUIWidgets/MvTableView.h"
@@ -32,7 +32,7 @@ MvCalendarEvent eventOf(const QModelIndex &index)
 
 void change(MvSession &session, const MvCalendarEvent &before, const MvCalendarEvent &after)
 {
-    session.undo().push(new MvCalendarEventStep(before, after, session));
+    MvEntryEdits(session).push(new MvCalendarEventStep(before, after, session), after);
 }
 
 } // namespace

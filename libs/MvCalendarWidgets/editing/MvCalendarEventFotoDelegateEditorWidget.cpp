@@ -3,9 +3,9 @@
 
 #include "MvCalendar/MvCalendarEventFotoIntake.h"
 #include "MvCalendar/MvCalendarEventStep.h"
+#include "MvCalendar/MvEntryEdits.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
-#include "MvCore/MvUndoController.h"
 #include "MvFoto/MvMediaFormat.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 
@@ -104,7 +104,7 @@ void MvCalendarEventFotoDelegateEditorWidget::onChangeImageButtonClicked()
     const auto use = [self = QPointer(this), &session = m_session](const MvCalendarEvent &before,
                                                                    const MvCalendarEvent &after) {
         if (!self) {
-            session.undo().push(new MvCalendarEventStep(before, after, session));
+            MvEntryEdits(session).push(new MvCalendarEventStep(before, after, session), after);
             return;
         }
         self->setCalendarEvent(after);

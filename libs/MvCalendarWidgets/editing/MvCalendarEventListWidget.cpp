@@ -13,6 +13,7 @@
 #include "MvCalendar/MvCalendarEventTransferDialog.h"
 #include "MvCalendar/MvEntryFileImport.h"
 #include "MvCalendar/MvEntryFiles.h"
+#include "MvCalendar/MvOpenCalendar.h"
 
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvDiskAccessRequest.h"
@@ -307,7 +308,7 @@ MvCalendarEventList MvCalendarEventListWidget::newEvents(const MvCalendarEventLi
 
 void MvCalendarEventListWidget::replaceEvents(const QString &macro, const QString &name,
                                               const MvCalendarEventList &removed, const MvCalendarEventList &added,
-                                              Reach reach)
+                                              Reach reach, const MvEventGroupList &groups)
 {
     QList<Change> changes;
     for (const MvCalendarEvent &event : removed) {
@@ -316,7 +317,7 @@ void MvCalendarEventListWidget::replaceEvents(const QString &macro, const QStrin
     }
     for (const MvCalendarEvent &event : added)
         changes.append({{}, event});
-    MvEntryEdits(m_session).change(macro, name, changes, reach);
+    MvEntryEdits(m_session).change(macro, name, changes, reach, groups);
 }
 
 void MvCalendarEventListWidget::finishAdding()
@@ -378,7 +379,13 @@ void MvCalendarEventListWidget::readEventList(const QString &fileName, bool merg
     Intake::start(
         fileName, merge ? Intake::Purpose::Add : Intake::Purpose::Replace, this,
         [this, merge](const MvCalendarEventList &read) {
-            m_session.entries().prepareFotos(read, this, [this, read, merge] { takeEventList(read, merge); });
+            const MvOpenCalendar calendar(m_session);
+            m_session.entries().prepareFotos(read, this, [this, read, merge, calendar] {
+                if (calendar.isStillOpen())
+                    takeEventList(read, merge);
+                else
+                    MvRequestHandler::current().report(tr("Kalendereinträge"), MvOpenCalendar::closedText(), this);
+            });
         },
         m_session);
 }
@@ -394,7 +401,8 @@ void MvCalendarEventListWidget::importFile(const QString &fileName)
         QStringList lines{result.summary()};
         lines += (result.errors + result.lines).mid(0, mostNamed);
         MvRequestHandler::current().report(tr("Kalendereinträge"), lines.join(u'\n'), this);
-        finishAdding();
+        if (!result.isDropped)
+            finishAdding();
     });
     import->import({fileName});
 }
@@ -402,11 +410,11 @@ void MvCalendarEventListWidget::importFile(const QString &fileName)
 void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, bool merge)
 {
     const MvCalendarEventList current = events();
-    m_session.entries().addGroups(read.groups());
     if (merge)
-        replaceEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, read), Reach::AsSet);
+        replaceEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, read), Reach::AsSet,
+                      read.groups());
     else // a whole list is this calendar's alone: that of a club must not replace the user's own
-        replaceEvents(u"loadEventList"_s, tr("Einträge laden"), current, read, Reach::ActiveList);
+        replaceEvents(u"loadEventList"_s, tr("Einträge laden"), current, read, Reach::ActiveList, read.groups());
     finishAdding();
 }
 
@@ -455,9 +463,8 @@ void MvCalendarEventListWidget::transferEvents(bool isFromOwn)
         return;
     }
     auto *dialog = new Dialog(differences, isFromOwn ? Dialog::Direction::FromOwn : Dialog::Direction::ToOwn, this);
-    const MvProjectIdentifier project = registry.activeModelId();
-    connect(dialog, &QDialog::accepted, this, [this, dialog, isFromOwn, project] {
-        if (!(m_session.entries().activeModelId() == project)) // another calendar was opened meanwhile
+    connect(dialog, &QDialog::accepted, this, [this, dialog, isFromOwn, calendar = MvOpenCalendar(m_session)] {
+        if (!calendar.isStillOpen())
             return;
         QList<Change> chosen;
         for (const auto &[here, there] : dialog->chosen())

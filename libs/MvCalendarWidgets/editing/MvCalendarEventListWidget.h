@@ -97,7 +97,7 @@ private:
     using Change = MvEntryEdits::Change;
 
     void replaceEvents(const QString &macro, const QString &name, const MvCalendarEventList &removed,
-                       const MvCalendarEventList &added, Reach reach);
+                       const MvCalendarEventList &added, Reach reach, const MvEventGroupList &groups = {});
     void transferEvents(bool isFromOwn);
     void takeTransfer(const QList<Change> &chosen, bool isFromOwn);
     void describeActions(const QMenu *menu) const;

@@ -3,10 +3,10 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStep.h"
+#include "MvCalendar/MvEntryEdits.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvStringHelper.h"
-#include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoAccess.h"
 
 #include <algorithm>
@@ -203,7 +203,7 @@ bool MvCalendarEventModel::setData(const QModelIndex &index, const QVariant &val
     if (before == after)
         return false;
     m_events[index.row()] = after;
-    m_session.undo().push(new MvCalendarEventStep(before, after, m_session));
+    MvEntryEdits(m_session).push(new MvCalendarEventStep(before, after, m_session), after);
     if (hasRow(index.row())) // the last row is gone when another program has removed entries
         Q_EMIT dataChanged(index, index);
     return true;

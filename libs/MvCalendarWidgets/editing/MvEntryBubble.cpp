@@ -3,9 +3,9 @@
 
 #include "MvCalendar/MvCalendarDayEditorDialog.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvEntryMove.h"
 #include "MvCalendar/MvEntryQuestion.h"
-#include "MvCalendar/MvEntrySteps.h"
 #include "MvCalendar/MvEventRepetitionEdit.h"
 #include "MvCalendar/MvFotoField.h"
 
@@ -286,8 +286,9 @@ bool MvEntryBubble::refuse(const QString &text, QWidget *field)
     return false;
 }
 
-/// The entry with all that was typed but its photo; of one that repeats by a rule, at its old date.
-MvCalendarEvent MvEntryBubble::typed()
+/// The entry with all that was typed but its photo; of one that repeats by a rule, at its old date. A group that was
+/// typed is added to the groups.
+MvCalendarEvent MvEntryBubble::typed(MvEventGroupList &groups) const
 {
     MvCalendarEvent event = m_event;
     if (m_name->text() != m_shownName) // a file's own form stays as long as nobody changes it
@@ -295,10 +296,7 @@ MvCalendarEvent MvEntryBubble::typed()
     const QDate before = event.dateTime().date();
     if (isDateTouched() && !hasRule(m_event))
         event.setDateTime(MvCalendarEvent::startOf(m_dateEdit->date()));
-    MvEventGroupList groups = m_session.entries().activeEventList().groups();
     m_repetition->applyTo(event, groups);
-    const QScopedValueRollback pushing(m_isPushing, true);
-    m_session.entries().addGroups(groups);
     if (hasRule(m_event) && MvEntryMove::doesRepeat(event) == false) // once: this time is meant
         event.setDateTime(MvCalendarEvent::startOf(m_dateEdit->date()));
     else if (m_event.endDate().isValid() && event.endDate() == m_event.endDate()) // as long as before
@@ -326,22 +324,23 @@ bool MvEntryBubble::save()
             return true; // settings of nothing
         return refuse(tr("Ein Eintrag braucht einen Text. Esc verlässt ihn ohne Änderung."), m_name);
     }
-    MvCalendarEvent event = typed();
+    MvEventGroupList groups = m_session.entries().activeEventList().groups();
+    MvCalendarEvent event = typed(groups);
     if (!takeFoto(event))
         m_foto->setFoto(m_event.foto()); // told by a message; the rest is kept
     const bool isMoved = hasRule(m_event) && isDateTouched() && MvEntryMove::doesRepeat(event);
     if (m_isOfList && isMoved) {
         MvEntryQuestion::askForMove(MvEntryMove(m_event, m_shownDate, m_dateEdit->date()), event, this,
-                                    [this](const QList<MvEntryChange> &changes) {
+                                    [this, groups](const QList<MvEntryChange> &changes) {
                                         if (changes.isEmpty())
                                             return;
-                                        push(tr("Eintrag verschieben"), changes, tr("„%1“ ist verschoben."));
+                                        push(tr("Eintrag verschieben"), changes, tr("„%1“ ist verschoben."), groups);
                                         closeBubble();
                                     });
         return false;
     }
     push(m_isOfList ? tr("Eintrag ändern") : tr("Eintrag anlegen"), {{m_isOfList ? m_event : MvCalendarEvent(), event}},
-         tr("„%1“ ist gesichert."));
+         tr("„%1“ ist gesichert."), groups);
     updateRow(event);
     return true;
 }
@@ -360,10 +359,11 @@ void MvEntryBubble::updateRow(const MvCalendarEvent &saved)
     }
 }
 
-void MvEntryBubble::push(const QString &name, const QList<MvEntryChange> &changes, const QString &told)
+void MvEntryBubble::push(const QString &name, const QList<MvEntryChange> &changes, const QString &told,
+                         const MvEventGroupList &groups)
 {
     const QScopedValueRollback pushing(m_isPushing, true);
-    MvEntrySteps::push(m_session, name, changes);
+    MvEntryEdits(m_session).change(name, name, changes, MvEntryEdits::Reach::AsSet, groups);
     const MvCalendarEvent &last = changes.last().after.isValid() ? changes.last().after : m_event;
     const QString undo = QKeySequence(QKeySequence::Undo).toString(QKeySequence::NativeText);
     Q_EMIT message(told.arg(shortName(last)) + u' ' + tr("%1 nimmt es zurück.").arg(undo));
@@ -398,7 +398,8 @@ void MvEntryBubble::deleteEntry()
 
 void MvEntryBubble::openEditor()
 {
-    MvCalendarEvent event = typed();
+    MvEventGroupList groups = m_session.entries().activeEventList().groups();
+    MvCalendarEvent event = typed(groups);
     if (m_dateEdit->takeText() && isDateTouched() && hasRule(m_event)) {
         const QList<MvEntryChange> moved = MvEntryMove(m_event, m_shownDate, m_dateEdit->date()).allTimes(event);
         if (!moved.isEmpty())
@@ -407,7 +408,7 @@ void MvEntryBubble::openEditor()
     auto *editor = MvCalendarDayEditorDialog::createSelfDeleting(m_item, m_session);
     editor->openDayEditorSingle(m_event);
     if (editor->isVisible()) {
-        editor->takeTyped(event);
+        editor->takeTyped(event, groups);
         if (!(m_foto->foto() == m_event.foto()))
             editor->setFoto(m_foto->foto());
     } else if (!save()) { // another window has the entry already, and follows it

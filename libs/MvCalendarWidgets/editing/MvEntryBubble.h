@@ -77,8 +77,9 @@ private:
     bool save();
     void updateRow(const MvCalendarEvent &saved);
     bool takeFoto(MvCalendarEvent &event);
-    MvCalendarEvent typed();
-    void push(const QString &name, const QList<MvEntryChange> &changes, const QString &told);
+    MvCalendarEvent typed(MvEventGroupList &groups) const;
+    void push(const QString &name, const QList<MvEntryChange> &changes, const QString &told,
+              const MvEventGroupList &groups = {});
 
     MvSession &m_session;
     QPointer<QGraphicsObject> m_item;

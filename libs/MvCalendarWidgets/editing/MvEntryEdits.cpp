@@ -2,22 +2,74 @@
 #include "MvCalendar/MvEntryEdits.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvEntryMove.h"
 #include "MvCalendar/MvEventGroupsStep.h"
 #include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 
 #include "MvCore/MvUndoController.h"
 
-#include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// With those that the list lacks, at its end.
+MvEventGroupList joined(MvEventGroupList groups, const MvEventGroupList &others)
+{
+    for (const MvEventGroup &group : others) {
+        if (!groups.find(group.id))
+            groups.put(group);
+    }
+    return groups;
+}
+
+QSet<QString> groupsOf(const QList<MvEntryChange> &changes)
+{
+    QSet<QString> ids;
+    for (const MvEntryChange &change : changes) {
+        for (const QString &id : change.after.groups())
+            ids.insert(id);
+    }
+    return ids;
+}
+
+} // namespace
 
 MvEntryEdits::MvEntryEdits(MvSession &session)
     : m_session(session)
 {}
 
-void MvEntryEdits::change(const QString &macro, const QString &name, const QList<Change> &changes, Reach reach)
+MvEventGroupList MvEntryEdits::presentGroups(Reach reach) const
 {
-    push(macro, name, changes, m_session.entries().activeEventList().groups(), reach);
+    const MvCalendarEventRegistry &entries = m_session.entries();
+    return (reach == Reach::OwnList ? entries.ownEvents() : entries.activeEventList()).groups();
+}
+
+void MvEntryEdits::change(const QString &macro, const QString &name, const QList<Change> &changes, Reach reach,
+                          const MvEventGroupList &groups)
+{
+    push(macro, name, changes, joined(presentGroups(reach), groups), reach);
+}
+
+void MvEntryEdits::push(MvCalendarEventStep *step, const MvCalendarEvent &after, const MvEventGroupList &groups)
+{
+    using Mark = MvUndoCommandCalendarEventGroup;
+    const MvEventGroupList before = presentGroups(Reach::AsSet);
+    const QString name = step->visibleName();
+    auto comingGroups = std::make_unique<MvEventGroupsStep>(before, joined(before, groups), name, m_session);
+    comingGroups->bring(groupsOf({{{}, after}}));
+    MvUndoController &undo = m_session.undo();
+    if (comingGroups->isObsolete()) {
+        undo.push(step);
+        return;
+    }
+    undo.beginMacro(name);
+    undo.push(new Mark(Mark::Begin, m_session, name));
+    undo.push(comingGroups.release());
+    undo.push(step);
+    undo.push(new Mark(Mark::End, m_session));
+    undo.endMacro();
 }
 
 /// A group comes before the first entry that names it, and goes after the last.
@@ -25,20 +77,19 @@ void MvEntryEdits::push(const QString &macro, const QString &name, const QList<C
                         const MvEventGroupList &groups, Reach reach)
 {
     using Mark = MvUndoCommandCalendarEventGroup;
-    const MvEventGroupList before = m_session.entries().activeEventList().groups();
+    const MvEventGroupList before = presentGroups(reach);
     if (changes.isEmpty() && before == groups)
         return;
-    const bool isGroupNew = std::any_of(groups.cbegin(), groups.cend(),
-                                        [&before](const MvEventGroup &group) { return !before.find(group.id); });
+    const MvEventGroupList meanwhile = joined(before, groups);
+    auto comingGroups = std::make_unique<MvEventGroupsStep>(before, meanwhile, name, m_session, reach);
+    comingGroups->bring(groupsOf(changes));
     MvUndoController &undo = m_session.undo();
     undo.beginMacro(macro);
     undo.push(new Mark(Mark::Begin, m_session, name));
-    if (isGroupNew)
-        undo.push(new MvEventGroupsStep(before, groups, name, m_session));
+    undo.push(comingGroups.release());
     for (const Change &change : changes)
         undo.push(new MvCalendarEventStep(change.before, change.after, m_session, reach));
-    if (!isGroupNew)
-        undo.push(new MvEventGroupsStep(before, groups, name, m_session));
+    undo.push(new MvEventGroupsStep(meanwhile, groups, name, m_session, reach));
     undo.push(new Mark(Mark::End, m_session));
     undo.endMacro();
 }
@@ -71,22 +122,11 @@ void MvEntryEdits::setMembership(const MvCalendarEventList &events, const QStrin
     push(u"groupEvents"_s, tr("Gruppe von Einträgen ändern"), changes, groups, Reach::AsSet);
 }
 
-QDate MvEntryEdits::shifted(const MvCalendarEvent &event, int years, int days)
-{
-    const QDate date = event.dateTime().date();
-    if (event.hasYear())
-        return event.repetition().yearsLater(date, years).addDays(days);
-    const QDate day = date.addDays(days);
-    return {date.year(), day.month(), day.day()};
-}
-
 void MvEntryEdits::shift(const MvCalendarEventList &events, int years, int days)
 {
     QList<Change> changes;
     for (const MvCalendarEvent &event : events) {
-        MvCalendarEvent after = event;
-        if (const QDate day = shifted(event, years, days); day != event.dateTime().date())
-            after.moveTo(day);
+        const MvCalendarEvent after = MvEntryMove::shifted(event, years, days);
         if (!(after == event))
             changes.append({event, after});
     }

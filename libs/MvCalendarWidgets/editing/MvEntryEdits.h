@@ -28,22 +28,25 @@ public:
 
     explicit MvEntryEdits(MvSession &session = MvSession::defaultSession());
 
-    /// The name is for a person, the macro's text for the log.
-    void change(const QString &macro, const QString &name, const QList<Change> &changes, Reach reach = Reach::AsSet);
+    /// The name is for a person, the macro's text for the log. Groups of the entries come along, and those given that
+    /// the list does not know: undoing takes them back unless other entries name them by then.
+    void change(const QString &macro, const QString &name, const QList<Change> &changes, Reach reach = Reach::AsSet,
+                const MvEventGroupList &groups = {});
+    /// The same with a step of its own kind, as one that repaints an item; takes ownership. The entry is what it leads
+    /// to.
+    void push(MvCalendarEventStep *step, const MvCalendarEvent &after, const MvEventGroupList &groups = {});
     void remove(const MvCalendarEventList &events);
     /// A group that the list does not know yet, by its name, is added to it in the same step; an empty name takes the
     /// entries out of all groups.
     void setMembership(const MvCalendarEventList &events, const QString &group, Membership membership);
-    /// Moves entries by years and then by days, as shifted() says.
+    /// Moves entries by years and then by days, as MvEntryMove::shifted() says.
     void shift(const MvCalendarEventList &events, int years, int days);
-    /// The day to which an entry moves. A year that is not known stays; by years, an entry of weekdays keeps its
-    /// weekday.
-    static QDate shifted(const MvCalendarEvent &event, int years, int days);
 
     /// Makes these the groups of the active list; entries of a group that is not among them any more lose it.
     void setGroups(const MvEventGroupList &groups, const QString &name);
 
 private:
+    MvEventGroupList presentGroups(Reach reach) const;
     void push(const QString &macro, const QString &name, const QList<Change> &changes, const MvEventGroupList &groups,
               Reach reach);
 

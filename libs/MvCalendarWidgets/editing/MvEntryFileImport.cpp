@@ -2,7 +2,7 @@
 #include "MvCalendar/MvEntryFileImport.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCalendar/MvEntrySteps.h"
+#include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvEntryTableDialog.h"
 
 #include "MvCore/MvRegularFile.h"
@@ -24,6 +24,8 @@ constexpr qint64 looked = 4096; // bytes that tell what a file is
 
 QString MvEntryFileImport::Result::summary() const
 {
+    if (isDropped)
+        return MvOpenCalendar::closedText();
     if (isCancelled)
         return MvEntryFileImport::tr("Nichts übernommen");
     if (report.added + report.changed + report.equal == 0 && !errors.isEmpty())
@@ -47,13 +49,14 @@ void MvEntryFileImport::import(const QStringList &files)
     m_files = files;
     m_readings.clear();
     m_result = {};
+    m_calendar.emplace(m_session);
     next();
 }
 
 void MvEntryFileImport::next()
 {
-    if (m_files.isEmpty()) {
-        finish();
+    if (m_files.isEmpty() || !m_calendar->isStillOpen()) {
+        copyFotos();
         return;
     }
     const QString file = m_files.takeFirst();
@@ -110,12 +113,20 @@ void MvEntryFileImport::add(const QString &file, const MvEntryReading &reading)
 }
 
 /// Photos of a list that lie beside it are copied first, in the background.
-void MvEntryFileImport::finish()
+void MvEntryFileImport::copyFotos()
 {
+    if (!m_calendar->isStillOpen()) {
+        finish();
+        return;
+    }
     MvCalendarEventList all;
     for (const auto &[name, reading] : std::as_const(m_readings))
         all += reading.events;
-    m_session.entries().prepareFotos(all, this, [this] { take(); });
+    m_session.entries().prepareFotos(all, this, [this] {
+        if (m_calendar->isStillOpen())
+            take();
+        finish();
+    });
 }
 
 void MvEntryFileImport::take()
@@ -141,8 +152,13 @@ void MvEntryFileImport::take()
         if (!old.isValid() || !(old == after.at(i)))
             changes.append({old, after.at(i)});
     }
-    registry.addGroups(after.groups());
-    MvEntrySteps::push(m_session, tr("Termine importieren"), changes);
+    const QString name = tr("Termine importieren");
+    MvEntryEdits(m_session).change(name, name, changes, MvEntryEdits::Reach::AsSet, after.groups());
+}
+
+void MvEntryFileImport::finish()
+{
+    m_result.isDropped = !m_result.isCancelled && !m_calendar->isStillOpen();
     m_readings.clear();
     m_isRunning = false;
     Q_EMIT finished(std::exchange(m_result, {}));

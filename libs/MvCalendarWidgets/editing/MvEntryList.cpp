@@ -5,6 +5,7 @@
 #include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvEntryListModel.h"
 #include "MvCalendar/MvEntryShiftDialog.h"
+#include "MvCalendar/MvOpenCalendar.h"
 
 #include "MvGUIWidgets/MvFlowLayout.h"
 #include "MvGUIWidgets/MvMouseWheelEventFilter.h"
@@ -422,22 +423,21 @@ void MvEntryList::askForNewGroup(bool isOnly)
     dialog->setObjectName(u"newGroupDialog"_s);
     dialog->setWindowTitle(tr("Neue Gruppe"));
     dialog->setLabelText(tr("Name der Gruppe:"));
-    connect(
-        dialog, &QInputDialog::textValueSelected, this,
-        [this, isOnly, events = selectedEvents(), project = session().entries().activeModelId()](const QString &name) {
-            using Membership = MvEntryEdits::Membership;
-            if (name.simplified().isEmpty() || !(session().entries().activeModelId() == project))
-                return;
-            MvEntryEdits(session()).setMembership(events, name, isOnly ? Membership::Only : Membership::Added);
-        });
+    connect(dialog, &QInputDialog::textValueSelected, this,
+            [this, isOnly, events = selectedEvents(), calendar = MvOpenCalendar(session())](const QString &name) {
+                using Membership = MvEntryEdits::Membership;
+                if (name.simplified().isEmpty() || !calendar.isStillOpen())
+                    return;
+                MvEntryEdits(session()).setMembership(events, name, isOnly ? Membership::Only : Membership::Added);
+            });
     dialog->open();
 }
 
 void MvEntryList::askForShift()
 {
     auto *dialog = new MvEntryShiftDialog(selectedEvents(), this);
-    connect(dialog, &QDialog::accepted, this, [this, dialog, project = session().entries().activeModelId()] {
-        if (session().entries().activeModelId() == project) // else another calendar was opened meanwhile
+    connect(dialog, &QDialog::accepted, this, [this, dialog, calendar = MvOpenCalendar(session())] {
+        if (calendar.isStillOpen())
             MvEntryEdits(session()).shift(dialog->events(), dialog->years(), dialog->days());
     });
     dialog->open();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvEntryShiftDialog.h"
 
-#include "MvCalendar/MvEntryEdits.h"
+#include "MvCalendar/MvEntryMove.h"
 
 #include "MvCore/MvApplicationLocale.h"
 #include "MvGUIWidgets/MvSpinBox.h"
@@ -94,15 +94,18 @@ QSpinBox *MvEntryShiftDialog::createBox(const QString &objectName, int most)
 /// Of the first one that moves at all.
 void MvEntryShiftDialog::showExample()
 {
+    const auto shifted = [this](const MvCalendarEvent &event) {
+        return MvEntryMove::shifted(event, years(), days()).dateTime().date();
+    };
     MvCalendarEvent example = m_events.value(0);
     for (const MvCalendarEvent &event : std::as_const(m_events)) {
-        if (MvEntryEdits::shifted(event, years(), days()) != event.dateTime().date()) {
+        if (shifted(event) != event.dateTime().date()) {
             example = event;
             break;
         }
     }
     const QDate from = example.dateTime().date();
-    const QDate to = MvEntryEdits::shifted(example, years(), days());
+    const QDate to = shifted(example);
     m_move->setEnabled(from != to);
     m_example->setText(tr("„%1“: %2 → %3")
                            .arg(MvPrintableText::inShort(example.description(), nameLetters), inWords(example, from),
