@@ -11,6 +11,7 @@
 #include "MvFoto/MvFotoResolution.h"
 #include "MvModelBase/MvQualityTypeManager.h"
 #include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvPaintMark.h"
 #include "MvPaint/MvTextFitter.h"
 #include "MvPaint/MvTextPainter.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
@@ -444,6 +445,8 @@ bool MvCalendariumCellPainter::drawPicture(const QDate &date, const QRectF &rect
 
 void MvCalendariumCellPainter::drawFoto(const QDate &date, const QRectF &rect, const QImage &picture)
 {
+    const MvPaintMarking mark(m_painter, MvPaintMark::Kind::Figure, 0, 0,
+                              {m_renderer.describePersonalHolidays(date).join(u", "_s)});
     m_painter.drawImage(rect, picture);
     m_renderer.reportFoto(date, rect);
     if (!MvRenderingRule::decodeFrom(m_painter).hasFlag(MvRenderingRule::ShowQualityWarnings))

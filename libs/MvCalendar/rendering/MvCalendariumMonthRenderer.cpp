@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendariumMonthRenderer.h"
 
 #include "MvCalendar/MvCalendariumCellLine.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 #include "MvPaint/MvTextFitter.h"
 #include "MvPaint/MvTextPainter.h"
@@ -56,6 +57,7 @@ void MvCalendariumMonthRenderer::drawMonth(QPainter &painter, const QRectF &rect
     if (isCentred(type))
         line.centre(inner);
     line.keepInside(rect);
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).title(text);
     line.draw(painter, color);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumRendererHolidays.h"
 
+#include "MvPaint/MvPaintMark.h"
 #include "MvPaint/MvPrintableText.h"
 #include "MvProductBase/MvCalendarWordsRegistry.h"
 
@@ -144,6 +145,7 @@ void MvCalendariumRendererHolidays::renderBase(QPainter &painter, const QRectF &
         reportUnfitting(startDate(), QString(text).replace(u'\u00a0', u' '), rect);
     reportMissingGlyphs(startDate(), bound, fitted.font, rect);
 
+    const MvPaintMarking mark(painter, MvPaintMark::Kind::Paragraph, 0, 0, {items().join(itemSeparator)});
     painter.save();
     painter.setFont(fitted.font);
     painter.setPen(color);

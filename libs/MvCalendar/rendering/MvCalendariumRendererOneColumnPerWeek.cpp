@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendariumCellPainter.h"
 #include "MvCalendar/MvDayNumberSize.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 
 #include <algorithm>
@@ -206,6 +207,7 @@ Qt::Edge MvCalendariumRendererOneColumnPerWeek::spanEdge(const QDate &) const
 
 void MvCalendariumRendererOneColumnPerWeek::renderBase(QPainter &painter, const QRectF &rect)
 {
+    const MvPaintMarking table = MvMonthMarks(*this, painter, startDate()).table();
     if (hasHeadsInFront()) {
         renderBaseWithWeekdaysInFront(painter, rect);
         return;
@@ -228,6 +230,9 @@ void MvCalendariumRendererOneColumnPerWeek::renderBase(QPainter &painter, const 
 void MvCalendariumRendererOneColumnPerWeek::renderWeekHead(QPainter &painter, const QRectF &cell, const QDate &monday)
 {
     const QString text = isConfigured(calendar_render_week_of_year) ? calendarWeekText(monday) : QString();
+    const MvMonthMarks marks(*this, painter, startDate());
+    const MvPaintMarking mark =
+        hasHeadsInFront() ? marks.week(monday) : marks.listedWeek(std::max(monday, startDate()));
     drawFittingCell(painter, cell, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), text, isEvenWeek(monday),
                     monday);
 }
@@ -241,14 +246,20 @@ void MvCalendariumRendererOneColumnPerWeek::renderWeek(QPainter &painter, const 
     const double weekHeight = heightOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
     renderWeekHead(painter, {column.left(), column.top(), column.width(), weekHeight}, monday);
 
+    const MvMonthMarks marks(*this, painter, start);
     double y = column.top() + weekHeight;
     for (int day = 0; day < daysPerWeek; ++day) {
         const QDate date = monday.addDays(day);
+        const MvPaintMarking mark = date.month() == start.month() ? marks.listedDay(date) : marks.decoration();
         const MvCalendarCellTypeConfig head = headCellTypeConfig(date);
         const double height = heightOfCell(rect, head.inscriptionConfig());
         const QRectF headCell(column.left(), y, headWidth, height);
         drawCell(painter, headCell, head, {}, isEvenWeek(date), 0);
-        heads.draw(painter, headCell, head, date.dayOfWeek(), isEvenWeek(date));
+        {
+            const bool isShown = date.month() == start.month();
+            const MvPaintMarking weekday = isShown ? marks.listedWeekday(date) : marks.decoration();
+            heads.draw(painter, headCell, head, date.dayOfWeek(), isEvenWeek(date));
+        }
         const QRectF cell(column.left() + headWidth, y, dayWidth, height);
         if (date.month() == start.month())
             drawDayNumberCell(painter, cell, date);
@@ -291,6 +302,7 @@ void MvCalendariumRendererOneColumnPerWeek::renderWeekdaysInFront(QPainter &pain
         cell.moveTop(cell.bottom());
         cell.setHeight(heightOfCell(rect, config.inscriptionConfig()));
         drawCell(painter, cell, config, {}, true, 0);
+        const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).weekdayHead(day - 1);
         heads.draw(painter, cell, config, day, true);
     }
 }
@@ -307,6 +319,7 @@ void MvCalendariumRendererOneColumnPerWeek::renderPlainWeek(QPainter &painter, c
         cell.moveTop(cell.bottom());
         cell.setHeight(heightOfCell(rect, config.inscriptionConfig()));
         if (date.month() == startDate().month()) {
+            const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).day(date);
             MvCalendariumCellPainter(*this, painter).drawPlainDay(cell, date, stringFromDate(date, u"dd"_s));
         } else {
             drawNeighbouringDay(painter, cell, date, isEvenWeek(date));

@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendariumCellLine.h"
 #include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCore/MvAngle.h"
 #include "MvPaint/MvTextFitter.h"
 #include "MvProductBase/MvCalendarWordsRegistry.h"
@@ -228,6 +229,7 @@ Qt::Edge MvCalendariumRendererOneDayPerRow::spanEdge(const QDate &) const
 void MvCalendariumRendererOneDayPerRow::renderBase(QPainter &painter, const QRectF &rect)
 {
     Q_EMIT hasTitleLineMayHaveChanged(hasTopHeader());
+    const MvPaintMarking table = MvMonthMarks(*this, painter, startDate()).table();
     const QDate start = startDate();
     double y = rect.y() + renderHeadline(painter, rect, start);
     double weekTop = y;
@@ -245,6 +247,7 @@ void MvCalendariumRendererOneDayPerRow::renderBase(QPainter &painter, const QRec
 
 void MvCalendariumRendererOneDayPerRow::renderDay(QPainter &painter, const QRectF &rect, const QDate &date, double y)
 {
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedDay(date);
     const MvCalendarCellTypeConfig content = contentCellTypeConfig(date);
     double x = rect.x() + widthOfCalendarWeek(rect);
     const QRectF number(x, y, widthOfCell(rect, content.inscriptionConfig()), rowHeight(rect, date));
@@ -329,6 +332,7 @@ void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int column
             reportUnfitting(startDate(), headers.at(column), cell);
         line.align(cell, Qt::AlignHCenter | Qt::AlignVCenter);
         line.keepInside(cell);
+        const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listHead(column);
         line.draw(painter, fontColor(topLine, true));
         cell.translate(width, 0.0);
     }
@@ -368,6 +372,7 @@ void MvCalendariumRendererOneDayPerRow::renderWeekday(QPainter &painter, const Q
     if (!shouldIPaintTheBackground(head, even)) // the row's own ground goes on beneath the name
         MvCalendariumCellPainter(*this, painter).drawGround(cell, contentCellTypeConfig(date), even);
     const QString name = dayNameFromDate(date, hasShortNames(rect));
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedWeekday(date);
     drawOnBaseline(painter, cell, head, name, Qt::AlignLeft | Qt::AlignVCenter, date);
 }
 
@@ -382,6 +387,8 @@ void MvCalendariumRendererOneDayPerRow::renderColumn(QPainter &painter, const QR
     const QList<MvDayColumn> shown = columnsOf(date, columns, cells);
     for (int column = 0; column < columns; ++column) {
         const QRectF cell(x + column * width, y, width, height);
+        const MvPaintMarking mark =
+            MvMonthMarks(*this, painter, startDate()).listedTexts(date, column, shown.at(column).texts);
         drawCellBackground(painter, cell, content, even);
         if (column == 0 || !shown.at(column).texts.isEmpty() || !shown.at(column).bars.isEmpty())
             cells.drawColumn(cell, date, even, textBaseline(cell, date), shown.at(column), column == 0);
@@ -453,6 +460,8 @@ void MvCalendariumRendererOneDayPerRow::renderCalendarWeek(QPainter &painter, co
     painter.rotate(-90.0);
     painter.translate(-cell.center());
     const MvCalendarCellTypeConfig week(CALENDAR_CELL_TYPE_WEEK_OF_YEAR, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
+    const QDate first = std::max(mondayOfWeekWithDay(date), startDate());
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedWeek(first);
     drawCellText(painter, turned, week, weekText(date, turned.width()), 0, even);
     painter.restore();
 }

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendariumRendererOneRow.h"
 
 #include "MvCalendar/MvDayNumberSize.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 
 #include <algorithm>
@@ -121,6 +122,8 @@ bool MvCalendariumRendererOneRow::isRowStart(const QDate &date) const
 
 void MvCalendariumRendererOneRow::renderBase(QPainter &painter, const QRectF &rect)
 {
+    const MvMonthMarks marks(*this, painter, startDate());
+    const MvPaintMarking table = marks.table();
     const Bands bands = this->bands(rect);
     m_columns = bands.columns;
     if (isConfigured(calendar_render_title))
@@ -133,6 +136,7 @@ void MvCalendariumRendererOneRow::renderBase(QPainter &painter, const QRectF &re
 
     QPointF corner(rect.left(), rect.top() + bands.title);
     for (QDate date = startDate(); date.month() == startDate().month(); date = date.addDays(1)) {
+        const MvPaintMarking mark = marks.listedDay(date);
         if (hasHeads)
             drawHead(painter, {corner, headSize}, date, heads);
         drawDayNumberCell(painter, {corner + QPointF(0.0, bands.head), bands.day}, date);
@@ -149,5 +153,6 @@ void MvCalendariumRendererOneRow::drawHead(QPainter &painter, const QRectF &cell
 {
     const MvCalendarCellTypeConfig config = headCellTypeConfig(date);
     drawCell(painter, cell, config, {}, isEvenWeek(date), 0);
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedWeekday(date);
     heads.draw(painter, cell, config, date.dayOfWeek(), isEvenWeek(date));
 }

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendariumRendererOneWeekPerRow.h"
 
 #include "MvCalendar/MvCalendariumCellPainter.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 
 #include <QPainter>
@@ -141,6 +142,7 @@ bool MvCalendariumRendererOneWeekPerRow::hasRoom(const QSizeF &room) const
 
 void MvCalendariumRendererOneWeekPerRow::renderBase(QPainter &painter, const QRectF &rect)
 {
+    const MvPaintMarking table = MvMonthMarks(*this, painter, startDate()).table();
     double y = rect.top();
     y = renderMonth(painter, rect, y);
     y = renderHeadline(painter, rect, y);
@@ -162,9 +164,11 @@ double MvCalendariumRendererOneWeekPerRow::renderHeadline(QPainter &painter, con
     if (!isConfigured(calendar_render_days_of_week))
         return y;
     const double height = heightOfCell(rect, CALENDAR_CELL_TYPE_HEAD_WEEKDAY, startDate());
+    const MvMonthMarks marks(*this, painter, startDate());
     double x = rect.left();
     if (isConfigured(calendar_render_week_of_year)) {
         const double width = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
+        const MvPaintMarking mark = marks.weeksHead();
         drawFittingCell(painter, {x, y, width, height}, MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_TOPLINE),
                         calendarWeekHeadlineText(), true, startDate());
         x += width;
@@ -178,6 +182,7 @@ double MvCalendariumRendererOneWeekPerRow::renderHeadline(QPainter &painter, con
     for (int day = 1; day <= daysPerWeek; ++day) {
         const MvCalendarCellTypeConfig config(headCellTypeWeekDay(day));
         drawCellBackground(painter, {x, y, width, height}, config, true);
+        const MvPaintMarking mark = marks.weekdayHead(day - 1);
         heads.draw(painter, {x, y, width, height}, config, day, true);
         x += width;
     }
@@ -196,6 +201,7 @@ void MvCalendariumRendererOneWeekPerRow::renderDayCells(QPainter &painter, const
         double x = rect.left();
         if (isConfigured(calendar_render_week_of_year)) {
             const double weekWidth = widthOfCell(rect, CALENDAR_CELL_TYPE_WEEK_OF_YEAR);
+            const MvPaintMarking mark = MvMonthMarks(*this, painter, start).week(monday);
             drawFittingCell(painter, {x, y, weekWidth, height},
                             MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_WEEK_OF_YEAR), calendarWeekText(monday), even,
                             monday);
@@ -211,9 +217,11 @@ void MvCalendariumRendererOneWeekPerRow::renderWeek(QPainter &painter, const QRe
                                                     int month, bool even)
 {
     const bool isPlain = isConfigured(calendar_render_no_texts);
+    const MvMonthMarks marks(*this, painter, startDate());
     QRectF cell = firstDay;
     for (int day = 0; day < daysPerWeek; ++day) {
         const QDate date = monday.addDays(day);
+        const MvPaintMarking mark = date.month() == month ? marks.day(date) : marks.decoration();
         if (date.month() == month && isPlain)
             MvCalendariumCellPainter(*this, painter).drawPlainDay(cell, date, QString::number(date.day()));
         else if (date.month() == month)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumRendererTwoWeeksPerRow.h"
 
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 
 namespace {
@@ -76,6 +77,7 @@ bool MvCalendariumRendererTwoWeeksPerRow::isRowStart(const QDate &date) const
 
 void MvCalendariumRendererTwoWeeksPerRow::renderBase(QPainter &painter, const QRectF &rect)
 {
+    const MvPaintMarking table = MvMonthMarks(*this, painter, startDate()).table();
     QRectF line(rect.topLeft(), QSizeF(rect.width(), 0.0));
     if (rendersMonthInformation()) {
         line.setHeight(heightOfCell(rect, CALENDAR_CELL_TYPE_TITLE));
@@ -107,6 +109,7 @@ void MvCalendariumRendererTwoWeeksPerRow::renderHeadline(QPainter &painter, cons
         const QDate date = monday.addDays(day);
         const MvCalendarCellTypeConfig config(headCellTypeWeekDay(date.dayOfWeek()));
         drawCell(painter, cell, config, {}, isEvenWeek(date), 0);
+        const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).weekdayHead(day);
         heads.draw(painter, cell, config, date.dayOfWeek(), isEvenWeek(date));
         cell.moveLeft(cell.right());
     }
@@ -116,10 +119,12 @@ void MvCalendariumRendererTwoWeeksPerRow::renderRow(QPainter &painter, const QRe
 {
     const int month = startDate().month();
     const MvCalendarCellTypeConfig empty(CALENDAR_CELL_TYPE_EMPTY);
+    const MvMonthMarks marks(*this, painter, startDate(), daysPerRow);
     QRectF cell = row;
     for (int day = 0; day < daysPerRow; ++day) {
         const QDate date = monday.addDays(day);
         cell.setWidth(widthOfCell(row, headCellTypeWeekDay(date.dayOfWeek())));
+        const MvPaintMarking mark = date.month() == month ? marks.day(date) : marks.decoration();
         if (date.month() == month)
             drawDayNumberCell(painter, cell, date);
         else

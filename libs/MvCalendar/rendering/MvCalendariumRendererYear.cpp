@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendariumRendererYear.h"
 
 #include "MvCalendar/MvDayNumberSize.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCalendar/MvYearGridPainter.h"
 #include "MvCalendar/MvYearPlannerPainter.h"
 #include "MvPaint/MvTextOutlineCache.h"
@@ -337,6 +338,7 @@ void MvCalendariumRendererYear::drawTitle(QPainter &painter, const QRectF &title
         reportMissing(yearTitle(), title);
     line.align(inner, int(textAlignment(CALENDAR_CELL_TYPE_TITLE)));
     line.keepInside(title);
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).title(yearTitle());
     if (isOpaqueColor(fontColor(config, true)))
         line.draw(painter, fontColor(config, true));
 }

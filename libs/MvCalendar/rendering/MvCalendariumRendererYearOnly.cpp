@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendariumRendererYearOnly.h"
 
 #include "MvCalendar/MvCalendariumCellLine.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCore/MvMath.h"
 
 #include <algorithm>
@@ -45,6 +46,7 @@ void MvCalendariumRendererYearOnly::renderBase(QPainter &painter, const QRectF &
         reportUnfitting(startDate(), text, rect);
     line.align(inner, int(textAlignment(CALENDAR_CELL_TYPE_YEAR)));
     line.keepInside(rect);
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).title(text);
     line.draw(painter, color);
 }
 

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvYearGridPainter.h"
 
 #include "MvCalendar/MvCalendariumRendererYear.h"
+#include "MvCalendar/MvMonthMarks.h"
 #include "MvCalendar/MvWeekdayHeads.h"
 #include "MvCalendar/MvYearArrangement.h"
 
@@ -39,9 +40,10 @@ void MvYearGridPainter::paint(const QRectF &rect)
     for (int index = 0; index < MvYearArrangement::monthCount; ++index) {
         const QDate month = m_renderer.firstMonth().addMonths(index);
         const MvSmallMonthGrid grid(arrangement.monthRect(index).topLeft(), month, m_sizes);
+        const MvPaintMarking table = MvMonthMarks(m_renderer, m_painter, month).table();
         paintMonth(grid, month, names.at(index));
         if (m_sizes.headHeight > 0.0)
-            paintHeads(grid, heads);
+            paintHeads(grid, month, heads);
     }
 }
 
@@ -87,10 +89,14 @@ QString MvYearGridPainter::weekText(const QDate &monday) const
 void MvYearGridPainter::paintMonth(const MvSmallMonthGrid &grid, const QDate &month, const QString &name)
 {
     const MvCalendarCellTypeConfig config(CALENDAR_CELL_TYPE_MONTH);
-    if (!paintCell(grid.nameRect(), config, name, m_nameFont, true))
-        m_renderer.reportUnfitting(month, name, grid.nameRect());
+    const MvMonthMarks marks(m_renderer, m_painter, month);
+    {
+        const MvPaintMarking mark = marks.title(name);
+        if (!paintCell(grid.nameRect(), config, name, m_nameFont, true))
+            m_renderer.reportUnfitting(month, name, grid.nameRect());
+    }
     for (int row = 0; row < grid.rows(); ++row)
-        paintWeek(grid, row);
+        paintWeek(grid, row, marks);
 }
 
 bool MvYearGridPainter::paintCell(const QRectF &cell, const MvCalendarCellTypeConfig &config, const QString &text,
@@ -106,30 +112,36 @@ bool MvYearGridPainter::paintCell(const QRectF &cell, const MvCalendarCellTypeCo
     return !line.isEmpty();
 }
 
-void MvYearGridPainter::paintHeads(const MvSmallMonthGrid &grid, const MvWeekdayHeads &heads)
+void MvYearGridPainter::paintHeads(const MvSmallMonthGrid &grid, const QDate &month, const MvWeekdayHeads &heads)
 {
+    const MvMonthMarks marks(m_renderer, m_painter, month);
     const MvCalendarCellTypeConfig topline(CALENDAR_CELL_TYPE_TOPLINE);
-    if (m_sizes.weekWidth > 0.0)
+    if (m_sizes.weekWidth > 0.0) {
+        const MvPaintMarking mark = marks.weeksHead();
         paintCell(grid.weekHeadRect(), topline, m_weekHead, m_renderer.font(CALENDAR_CELL_TYPE_TOPLINE), true);
+    }
     for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day) {
         const MvCalendarCellTypeConfig config(MvCalendariumRenderer::headCellTypeWeekDay(day));
         m_renderer.drawCell(m_painter, grid.headRect(day), config, {}, true, 0);
+        const MvPaintMarking mark = marks.weekdayHead(day - 1);
         heads.draw(m_painter, grid.headRect(day), config, day, true);
     }
 }
 
-void MvYearGridPainter::paintWeek(const MvSmallMonthGrid &grid, int row)
+void MvYearGridPainter::paintWeek(const MvSmallMonthGrid &grid, int row, const MvMonthMarks &marks)
 {
     const QDate monday = grid.monday(row);
     const bool even = m_renderer.isEvenWeek(monday);
     if (m_sizes.weekWidth > 0.0) {
         const bool hasDays = grid.hasDays(row);
+        const MvPaintMarking mark = marks.week(monday);
         paintCell(grid.weekRect(row),
                   MvCalendarCellTypeConfig(hasDays ? CALENDAR_CELL_TYPE_WEEK_OF_YEAR : CALENDAR_CELL_TYPE_EMPTY),
                   hasDays ? weekText(monday) : QString(), m_weekFont, even);
     }
     for (int day = 1; day <= MvSmallMonthGrid::daysPerWeek; ++day) {
         const QDate date = grid.date(row, day);
+        const MvPaintMarking mark = date.isValid() ? marks.day(date) : marks.decoration();
         if (date.isValid())
             paintDay(grid.dayRect(row, day), date);
         else

@@ -8,6 +8,7 @@
 class MvCalendarCellTypeConfig;
 class MvWeekdayHeads;
 class MvCalendariumRendererYear;
+class MvMonthMarks;
 class QPainter;
 
 /// Paints twelve small months for the renderer of years.
@@ -26,11 +27,11 @@ private:
     QString weekText(const QDate &monday) const;
 
     void paintMonth(const MvSmallMonthGrid &grid, const QDate &month, const QString &name);
-    void paintHeads(const MvSmallMonthGrid &grid, const MvWeekdayHeads &heads);
+    void paintHeads(const MvSmallMonthGrid &grid, const QDate &month, const MvWeekdayHeads &heads);
     /// False when the text has no room between blank edges of that width; it is left out then.
     bool paintCell(const QRectF &cell, const MvCalendarCellTypeConfig &config, const QString &text, const QFont &font,
                    bool even, double edge = 0.0);
-    void paintWeek(const MvSmallMonthGrid &grid, int row);
+    void paintWeek(const MvSmallMonthGrid &grid, int row, const MvMonthMarks &marks);
     void paintDay(const QRectF &cell, const QDate &date);
 
     MvCalendariumRendererYear &m_renderer;

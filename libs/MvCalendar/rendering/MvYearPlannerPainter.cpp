@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendariumColorCellInfo.h"
 #include "MvCalendar/MvCalendariumRendererYear.h"
 #include "MvCalendar/MvColorRuns.h"
+#include "MvCalendar/MvMonthMarks.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -103,6 +104,8 @@ const MvYearPlannerPainter::Style &MvYearPlannerPainter::style(const MvCalendarC
 void MvYearPlannerPainter::paintMonth(const MvYearPlanner &planner, int column, const QString &name)
 {
     const QDate month = planner.month(column);
+    const MvMonthMarks marks(m_renderer, m_painter, month);
+    const MvPaintMarking table = marks.table();
     const MvCalendarCellTypeConfig config(CALENDAR_CELL_TYPE_MONTH);
     const QRectF nameCell = planner.nameRect(column);
     m_renderer.drawCell(m_painter, nameCell, config, {}, true, 0);
@@ -111,11 +114,15 @@ void MvYearPlannerPainter::paintMonth(const MvYearPlanner &planner, int column, 
                         CALENDAR_CELL_TYPE_MONTH, name, m_nameFont);
     if (line.isEmpty())
         m_renderer.reportUnfitting(month, name, nameCell);
-    if (m_renderer.isOpaqueColor(m_renderer.fontColor(config, true)))
+    if (m_renderer.isOpaqueColor(m_renderer.fontColor(config, true))) {
+        const MvPaintMarking mark = marks.title(name);
         line.draw(m_painter, m_renderer.fontColor(config, true));
+    }
     const int days = month.daysInMonth();
-    for (int day = 1; day <= days; ++day)
+    for (int day = 1; day <= days; ++day) {
+        const MvPaintMarking mark = marks.listedDay(month.addDays(day - 1));
         paintDay(planner, planner.dayRect(column, day), month.addDays(day - 1));
+    }
     for (int day = days + 1; day <= MvYearPlanner::mostDays; ++day)
         m_renderer.drawCellBackground(m_painter, planner.dayRect(column, day),
                                       MvCalendarCellTypeConfig(CALENDAR_CELL_TYPE_EMPTY), true);
@@ -179,6 +186,8 @@ std::optional<double> MvYearPlannerPainter::paintFront(const MvYearPlanner::Part
             reportMissingWeekdays();
         weekday.setBaseline(number.baseline());
         weekday.keepInside(cell.adjusted(0.0, hair, 0.0, -hair));
+        const QDate month(date.year(), date.month(), 1);
+        const MvPaintMarking mark = MvMonthMarks(m_renderer, m_painter, month).listedWeekday(date);
         weekday.draw(m_painter, m_renderer.fontColor({head, config.colorConfig()}, even));
     }
     return number.baseline();
@@ -193,6 +202,8 @@ void MvYearPlannerPainter::paintWeek(const QRectF &part, const MvCalendarCellTyp
     MvCalendariumCellLine week = m_renderer.line(part, type, m_renderer.calendarWeekText(date), style(type).font);
     week.setBaseline(baseline);
     week.keepInside(part.adjusted(0.0, hair, 0.0, -hair));
+    const QDate month(date.year(), date.month(), 1);
+    const MvPaintMarking mark = MvMonthMarks(m_renderer, m_painter, month).listedWeek(date);
     week.draw(m_painter, isReadable(ownColor, background) ? ownColor : m_renderer.fontColor(config, even));
 }
 

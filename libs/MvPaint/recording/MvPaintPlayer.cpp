@@ -2,6 +2,7 @@
 #include "MvPaint/MvPaintPlayer.h"
 
 #include "MvPaint/MvOutlinePainter.h"
+#include "MvPaint/MvPaintRecorder.h"
 
 #include <optional>
 
@@ -37,6 +38,8 @@ bool isAncestor(const MvPaintClip *ancestor, const MvPaintClip *clip)
 
 MvPaintPlayer::MvPaintPlayer(QPainter &painter, const MvPaintRecordingData &recording)
     : m_painter(painter)
+    , m_recorder(dynamic_cast<MvPaintRecorder *>(painter.device()))
+    , m_around(m_recorder ? m_recorder->mark() : nullptr)
     , m_recording(recording)
     , m_base(painter.worldMatrixEnabled() ? painter.worldTransform() : QTransform())
     , m_baseOpacity(painter.opacity())
@@ -47,10 +50,28 @@ void MvPaintPlayer::play()
     m_painter.save();
     for (const MvPaintOperation &operation : m_recording.operations) {
         enter(m_recording.states[operation.state]);
+        if (m_recorder)
+            m_recorder->setMark(carried(operation.mark));
         std::visit([this](const auto &shape) { paint(shape); }, operation.shape);
     }
     enterClip(nullptr);
     m_painter.restore();
+    if (m_recorder)
+        m_recorder->setMark(m_around);
+}
+
+/// The mark, within that of the target.
+std::shared_ptr<const MvPaintMark> MvPaintPlayer::carried(const std::shared_ptr<const MvPaintMark> &mark)
+{
+    if (!mark || !m_around)
+        return mark ? mark : m_around;
+    std::shared_ptr<const MvPaintMark> &known = m_carried[mark.get()];
+    if (!known) {
+        MvPaintMark within = *mark;
+        within.around = carried(mark->around);
+        known = std::make_shared<const MvPaintMark>(within);
+    }
+    return known;
 }
 
 void MvPaintPlayer::enter(const MvPaintState &state)

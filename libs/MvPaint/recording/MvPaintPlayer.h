@@ -3,6 +3,10 @@
 
 #include "MvPaint/MvPaintRecordingData.h"
 
+#include <map>
+
+class MvPaintRecorder;
+
 /// Plays a recording on one painter: what MvPaintRecording::replay() does.
 class MvPaintPlayer
 {
@@ -18,6 +22,7 @@ private:
     void addClip(const MvPaintClip &clip);
     void setTransform(const QTransform &transform);
     void setHints(QPainter::RenderHints hints);
+    std::shared_ptr<const MvPaintMark> carried(const std::shared_ptr<const MvPaintMark> &mark);
 
     template <class Line>
     void paint(const MvPaintShape::Lines<Line> &shape);
@@ -36,6 +41,9 @@ private:
     void paint(const MvPaintShape::Outlines &shape);
 
     QPainter &m_painter;
+    MvPaintRecorder *const m_recorder; // the target, if it is one
+    const std::shared_ptr<const MvPaintMark> m_around;
+    std::map<const MvPaintMark *, std::shared_ptr<const MvPaintMark>> m_carried;
     const MvPaintRecordingData &m_recording;
     const QTransform m_base;
     const double m_baseOpacity;

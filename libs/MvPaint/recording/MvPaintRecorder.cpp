@@ -56,6 +56,8 @@ public:
 
     void addOutlines(const QPainter &painter, const QList<MvPlacedOutline> &lines, const QColor &color);
 
+    std::shared_ptr<const MvPaintMark> mark;
+
 private:
     void add(MvPaintOperation::Shape &&shape);
     void updateClip(const QPaintEngineState &now);
@@ -93,7 +95,7 @@ void MvPaintRecorderEngine::add(MvPaintOperation::Shape &&shape)
         m_data->states.push_back(m_state);
         m_stateKept = true;
     }
-    m_data->operations.push_back({std::move(shape), m_data->states.size() - 1});
+    m_data->operations.push_back({std::move(shape), m_data->states.size() - 1, mark});
 }
 
 void MvPaintRecorderEngine::updateState(const QPaintEngineState &now)
@@ -226,6 +228,16 @@ void MvPaintRecorder::recordOutlines(const QPainter &painter, const QList<MvPlac
 {
     if (m_engine->painter() == &painter)
         m_engine->addOutlines(painter, lines, color);
+}
+
+void MvPaintRecorder::setMark(const std::shared_ptr<const MvPaintMark> &mark)
+{
+    m_engine->mark = mark;
+}
+
+std::shared_ptr<const MvPaintMark> MvPaintRecorder::mark() const
+{
+    return m_engine->mark;
 }
 
 QPaintEngine *MvPaintRecorder::paintEngine() const

@@ -8,6 +8,7 @@
 #include <memory>
 
 class MvPaintRecorderEngine;
+struct MvPaintMark;
 struct MvPlacedOutline;
 
 /// A paint device that takes down what is painted on it, to be played once or often on a target.
@@ -32,6 +33,10 @@ public:
     /// Takes down lines of text with the painter's present transform, clip, opacity and hints. The painter must be
     /// the one that is active on this device. Use MvOutlinePainter, which works on every target.
     void recordOutlines(const QPainter &painter, const QList<MvPlacedOutline> &lines, const QColor &color);
+
+    /// What is painted from now on is part of; none at first. See MvPaintMarking.
+    void setMark(const std::shared_ptr<const MvPaintMark> &mark);
+    std::shared_ptr<const MvPaintMark> mark() const;
 
     QPaintEngine *paintEngine() const override;
 

@@ -3,6 +3,7 @@
 
 // What a recording is made of; shared by the recorder, which fills it, and the recording, which plays it.
 
+#include "MvPaint/MvPaintMark.h"
 #include "MvPaint/MvTextOutline.h"
 
 #include <QBrush>
@@ -114,6 +115,7 @@ struct MvPaintOperation
 
     Shape shape;
     size_t state = 0; // index into the recording's states
+    std::shared_ptr<const MvPaintMark> mark = {};
 };
 
 struct MvPaintRecordingData : QSharedData

@@ -75,6 +75,7 @@ void MvCalendarWordsRegistry::readPhrases()
         phrases.mother = MvXMLParser::textAttribute(element, u"mother"_s);
         phrases.father = MvXMLParser::textAttribute(element, u"father"_s);
         phrases.child = MvXMLParser::textAttribute(element, u"child"_s);
+        phrases.photo = MvXMLParser::textAttribute(element, u"photo"_s, phrases.photo);
         m_phrases.insert(MvXMLParser::textAttribute(element, u"language"_s), phrases);
     }
 }
@@ -160,6 +161,11 @@ QString MvCalendarWordsRegistry::weekText(const MvLocale &language) const
 QString MvCalendarWordsRegistry::schoolYear(const MvLocale &language, const QString &years) const
 {
     return wordsIn(m_phrases, language, {}).schoolYear.arg(years);
+}
+
+QString MvCalendarWordsRegistry::photo(const MvLocale &language) const
+{
+    return wordsIn(m_phrases, language, {}).photo;
 }
 
 MvCalendarWordsRegistry::Patterns MvCalendarWordsRegistry::patterns(const MvLocale &language) const

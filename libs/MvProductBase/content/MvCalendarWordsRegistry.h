@@ -44,6 +44,9 @@ public:
     /// names none, or a language without words of its own, gives the heading as it is.
     QString familyMember(const MvLocale &language, const QString &heading) const;
 
+    /// What a photo is called that nobody has described, "Foto".
+    QString photo(const MvLocale &language) const;
+
     /// How the page puts words and numbers together: with %1, %2 and so on as resources/words/patterns.xml says.
     struct Patterns
     {
@@ -69,6 +72,7 @@ private:
         QString mother;
         QString father;
         QString child; // %1 is its number
+        QString photo = QStringLiteral("Photo");
     };
     struct Names
     {

@@ -2,6 +2,7 @@
 #include "MvProject/MvFotoVeil.h"
 
 #include "MvModelBase/MvRenderingRule.h"
+#include "MvPaint/MvPaintMark.h"
 #include "MvProject/MvFotoPainter.h"
 #include "MvProject/MvPageInks.h"
 #include "MvProject/MvVeilField.h"
@@ -93,15 +94,19 @@ void MvFotoVeil::paintFotos(QPainter &painter) const
 {
     const MvPageBackground &background = m_page.background();
     if (!background.foto().isEmpty()) {
+        const MvPaintMarking mark(painter, MvPaintMark::Kind::Figure, -1, 0, {background.foto().caption()});
         MvFotoPainter(painter, background.foto(), m_fotos).paint(m_format.mediaRect());
         QColor veil = ground();
         veil.setAlphaF(float(background.veil()));
         if (veil.alpha() > 0)
             painter.fillRect(m_format.mediaRect(), veil);
     }
+    int number = 0;
     for (const MvPageElement &element : m_elements) {
-        if (element.foto())
-            MvFotoPainter(painter, *element.foto(), m_fotos).paint(element.rect(), element.rotation());
+        if (!element.foto())
+            continue;
+        const MvPaintMarking mark(painter, MvPaintMark::Kind::Figure, ++number, 0, {element.foto()->caption()});
+        MvFotoPainter(painter, *element.foto(), m_fotos).paint(element.rect(), element.rotation());
     }
 }
 

@@ -4,6 +4,7 @@
 #include "MvCalendar/MvCalendarEventSource.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvPaint/MvPaintMark.h"
 #include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvCalendariumFit.h"
 #include "MvProject/MvFotoPainter.h"
@@ -89,6 +90,7 @@ MvPageFindings MvPagePainter::paintCalendaria(QPainter &painter, const Pass &pas
             veil.paint(painter, rect, MvPageInks(m_page).of(element));
             rect = onVeil(rect);
         }
+        const MvPaintMarking mark(painter, MvPaintMark::Kind::Group, int(&element - m_elements.constData()));
         if (!rect.isEmpty())
             paintCalendarium(painter, element, rect, pass, found);
     }

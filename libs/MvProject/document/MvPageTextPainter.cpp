@@ -5,6 +5,7 @@
 #include "MvCore/MvMath.h"
 #include "MvPaint/MvGlyphCoverage.h"
 #include "MvPaint/MvOutlinePainter.h"
+#include "MvPaint/MvPaintMark.h"
 #include "MvPaint/MvPrintableText.h"
 #include "MvPaint/MvTextFitter.h"
 #include "MvPaint/MvTextOutlineCache.h"
@@ -90,9 +91,10 @@ void MvPageTextPainter::paint(QPainter &painter, int number, const MvFotoVeil *v
         veil->paint(painter,
                     blockOf(outlines, fitted.font).adjusted(-padding, -padding, padding, padding) & element.rect(),
                     {color});
+    const QString whole = lines.join(u'\n');
+    const MvPaintMarking mark(painter, MvPaintMark::Kind::Paragraph, number, 0, {whole});
     for (const MvPlacedOutline &line : outlines)
         MvOutlinePainter::fillOutline(painter, line.baseline, line.outline, color);
-    const QString whole = lines.join(u'\n');
     if (fitted.isCut)
         found.elements.append({number, whole, element.rect()});
     if (const QString missing = MvGlyphCoverage::missingCharacters(fitted.font, whole); !missing.isEmpty())

@@ -3,6 +3,8 @@
 
 #include "MvPaint/MvPaintRecording.h"
 #include "MvPaint/MvPrintableText.h"
+#include "MvProductBase/MvCalendarWordsRegistry.h"
+#include "MvProject/MvPdfPageElements.h"
 #include "MvProject/MvPdfPagePainter.h"
 #include "MvProject/MvPdfSyntax.h"
 
@@ -56,18 +58,27 @@ void MvPdfDocument::addPage(const Page &page, const MvPaintRecording &recording,
     const QTransform toUnits =
         QTransform::fromScale(scale, -scale) *
         QTransform::fromTranslate(0.0, page.media.height() * pointsPerTenthMillimetre * unitsPerPoint);
-    MvPdfPagePainter painter({m_file, m_fonts, m_images}, toUnits, QRectF(QPointF(), dots));
+    const QString name = MvPrintableText::onOneLine(page.name);
+    MvPdfPageParts parts(recording.data());
+    MvPdfPagePainter painter({m_file, m_fonts, m_images}, toUnits, QRectF(QPointF(), dots), parts);
     painter.paint(recording);
+    const QString photo =
+        MvCalendarWordsRegistry::instance().photo(MvLocale(QString(m_description.language).replace(u'-', u'_')));
+    const int object = m_file.reserve();
+    const int inStructure =
+        m_structure.addPage(object, MvPdfPageElements(parts, unitsPerPoint, photo).section(name), parts.contentCount());
 
     const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
     const int content = m_file.addStream({}, unit + " 0 0 " + unit + " 0 0 cm\n" + painter.content().bytes());
     const QByteArray media = box(page.media, page.media);
-    m_pages.append(m_file.add("<</Type/Page/Parent " + MvPdfSyntax::reference(m_pageTree) + "/MediaBox" + media +
-                              "/CropBox" + media + "/BleedBox" + media + "/TrimBox" + box(page.trim, page.media) +
-                              (painter.content().isTranslucent() ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") +
-                              "/Contents " + MvPdfSyntax::reference(content) + "/Resources" +
-                              painter.content().resources() + ">>"));
-    if (const QString name = MvPrintableText::onOneLine(page.name); !name.isEmpty())
+    m_pages.append(object);
+    m_file.set(object, "<</Type/Page/Parent " + MvPdfSyntax::reference(m_pageTree) + "/MediaBox" + media + "/CropBox" +
+                           media + "/BleedBox" + media + "/TrimBox" + box(page.trim, page.media) +
+                           (painter.content().isTranslucent() ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") +
+                           "/Contents " + MvPdfSyntax::reference(content) + "/Resources" +
+                           painter.content().resources() + "/Tabs/S/StructParents " + QByteArray::number(inStructure) +
+                           ">>");
+    if (!name.isEmpty())
         m_bookmarks.append({name, m_pages.last()});
 }
 
@@ -101,6 +112,12 @@ int MvPdfDocument::addOutputIntent()
                       MvPdfSyntax::reference(profile) + ">>");
 }
 
+/// Whether all can be read aloud: each letter is known, and in which language (ISO 14289-1).
+bool MvPdfDocument::isForEverybody() const
+{
+    return !m_description.title.isEmpty() && !m_description.language.isEmpty() && m_fonts.areLettersKnown();
+}
+
 /// For programs that sort and search files; the same is said in the older form beside it.
 int MvPdfDocument::addMetadata()
 {
@@ -117,6 +134,8 @@ int MvPdfDocument::addMetadata()
         "<dc:title><rdf:Alt><rdf:li xml:lang=\"x-default\">"_s +
         m_description.title.toHtmlEscaped() + u"</rdf:li></rdf:Alt></dc:title>"_s +
         element(u"<dc:creator><rdf:Seq><rdf:li>%1</rdf:li></rdf:Seq></dc:creator>"_s, m_description.author) +
+        (isForEverybody() ? u"<pdfuaid:part xmlns:pdfuaid=\"http://www.aiim.org/pdfua/ns/id/\">1</pdfuaid:part>"_s
+                          : QString()) +
         element(u"<dc:language><rdf:Bag><rdf:li>%1</rdf:li></rdf:Bag></dc:language>"_s, m_description.language) +
         u"<xmp:CreatorTool>MvCalendar</xmp:CreatorTool><xmp:CreateDate>"_s + date.toString(Qt::ISODate) +
         u"</xmp:CreateDate></rdf:Description></rdf:RDF></x:xmpmeta>\n<?xpacket end=\"w\"?>"_s;
@@ -134,7 +153,8 @@ MvOutcome MvPdfDocument::write(const QString &path)
     // a calendar is printed in its true size
     m_file.setCatalog("<</Type/Catalog/Pages " + MvPdfSyntax::reference(m_pageTree) + bookmarks + "/OutputIntents[" +
                       MvPdfSyntax::reference(addOutputIntent()) + "]/Metadata " +
-                      MvPdfSyntax::reference(addMetadata()) + "/Lang" + MvPdfSyntax::text(m_description.language) +
+                      MvPdfSyntax::reference(addMetadata()) + m_structure.finish() + "/Lang" +
+                      MvPdfSyntax::text(m_description.language) +
                       "/ViewerPreferences<</DisplayDocTitle true/PrintScaling/None>>>>");
     return m_file.write(path);
 }

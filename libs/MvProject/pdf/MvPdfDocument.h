@@ -5,6 +5,7 @@
 #include "MvProject/MvPdfFile.h"
 #include "MvProject/MvPdfFonts.h"
 #include "MvProject/MvPdfImages.h"
+#include "MvProject/MvPdfStructure.h"
 
 #include <QList>
 #include <QRectF>
@@ -13,7 +14,8 @@
 class MvPaintRecording;
 
 /// A PDF of recorded pages: vectors, glyphs and pictures once for all pages, exact boxes, bookmarks, metadata, sRGB as
-/// output intent. Pages are written as they come, so memory does not grow with their number. Any thread, one at a time.
+/// output intent, a structure to be read aloud by. Pages are written as they come, so memory does not grow with their
+/// number. Any thread, one at a time.
 class MvPdfDocument
 {
 public:
@@ -45,6 +47,7 @@ private:
     int addBookmarks();
     int addOutputIntent();
     int addMetadata();
+    bool isForEverybody() const;
 
     struct Bookmark
     {
@@ -56,6 +59,7 @@ private:
     MvPdfFile m_file;
     MvPdfFonts m_fonts{m_file};
     MvPdfImages m_images{m_file};
+    MvPdfStructure m_structure{m_file};
     int m_pageTree;
     QList<int> m_pages; // their objects
     QList<Bookmark> m_bookmarks;

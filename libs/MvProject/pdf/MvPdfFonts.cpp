@@ -62,6 +62,7 @@ MvPdfFonts::Place MvPdfFonts::place(const MvTextOutline::Glyph &glyph, QStringVi
     const uchar number = freeCode(font, characters);
     Code code;
     code.characters = characters.toString();
+    m_areLettersKnown = m_areLettersKnown && !characters.isEmpty();
     code.name = nameOf(characters);
     if (const int again = font.names[code.name]++; again > 0)
         code.name += '.' + QByteArray::number(again);
@@ -149,12 +150,14 @@ void MvPdfFonts::write(const Font &font)
     for (int number = codes.first(); number <= codes.last(); ++number)
         widths += QByteArray::number(font.codes.value(number).width) + ' ';
     const QByteArray scale = MvPdfSyntax::number(1.0 / font.unitsPerEm, 10);
-    m_file.set(font.object, "<</Type/Font/Subtype/Type3/FontBBox[" + boundsOf(font) + "]/FontMatrix[" + scale +
-                                " 0 0 " + scale + " 0 0]/CharProcs<<" + shapes +
-                                ">>/Encoding<</Type/Encoding/Differences[" + names + "]>>/FirstChar " +
-                                QByteArray::number(codes.first()) + "/LastChar " + QByteArray::number(codes.last()) +
-                                "/Widths[" + widths + "]/Resources<<>>/ToUnicode " +
-                                MvPdfSyntax::reference(addCharacterMap(font)) + ">>");
+    m_file.set(
+        font.object,
+        "<</Type/Font/Subtype/Type3/FontBBox[" + boundsOf(font) + "]/FontMatrix[" + scale + " 0 0 " + scale +
+            " 0 0]/CharProcs<<" + shapes + ">>/Encoding<</Type/Encoding/Differences[" + names + "]>>/FirstChar " +
+            QByteArray::number(codes.first()) + "/LastChar " + QByteArray::number(codes.last()) + "/Widths[" + widths +
+            "]/Resources<<>>/FontDescriptor " +
+            MvPdfSyntax::reference(m_file.addOnce("<</Type/FontDescriptor/FontName/Kalender/Flags 4/ItalicAngle 0>>")) +
+            "/ToUnicode " + MvPdfSyntax::reference(addCharacterMap(font)) + ">>");
 }
 
 /// Which characters the codes stand for.

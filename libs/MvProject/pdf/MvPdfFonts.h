@@ -34,6 +34,9 @@ public:
     /// Takes the glyph in if it is new; the same glyph for other characters has a code of its own.
     Place place(const MvTextOutline::Glyph &glyph, QStringView characters);
 
+    /// Whether the characters of every glyph are given; those of the second part of an accent, for one, are not.
+    bool areLettersKnown() const { return m_areLettersKnown; }
+
     /// Writes the fonts. Nothing may be placed after.
     void finish();
 
@@ -74,5 +77,6 @@ private:
 
     MvPdfFile &m_file;
     QList<Font> m_fonts;
+    bool m_areLettersKnown = true;
     QHash<quint64, Shape> m_shapes; // by face and index
 };

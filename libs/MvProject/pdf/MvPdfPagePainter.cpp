@@ -4,6 +4,7 @@
 #include "MvPaint/MvPaintRecording.h"
 #include "MvProject/MvPdfFile.h"
 #include "MvProject/MvPdfImages.h"
+#include "MvProject/MvPdfPageParts.h"
 #include "MvProject/MvPdfShading.h"
 #include "MvProject/MvPdfSyntax.h"
 #include "MvProject/MvPdfTextPainter.h"
@@ -171,10 +172,12 @@ bool contains(const QRectF &outer, const QRectF &inner)
 
 } // namespace
 
-MvPdfPagePainter::MvPdfPagePainter(const Shared &shared, const QTransform &toUnits, const QRectF &page)
+MvPdfPagePainter::MvPdfPagePainter(const Shared &shared, const QTransform &toUnits, const QRectF &page,
+                                   MvPdfPageParts &parts)
     : m_shared(shared)
     , m_toUnits(toUnits)
     , m_page(page)
+    , m_parts(parts)
 {}
 
 void MvPdfPagePainter::paint(const MvPaintRecording &recording)
@@ -184,7 +187,9 @@ void MvPdfPagePainter::paint(const MvPaintRecording &recording)
         return !blendName(data.states[operation.state].mode).isEmpty();
     });
     if (!isKnown) {
-        paintAsPicture(recording, m_page, Qt::white);
+        m_bounds = m_toUnits.mapRect(m_page);
+        paintAsPicture(recording, m_page, Qt::white, m_parts.addPicture({}));
+        leavePart();
         return;
     }
     for (size_t i = 0; i < data.operations.size(); ++i) {
@@ -194,14 +199,18 @@ void MvPdfPagePainter::paint(const MvPaintRecording &recording)
         m_bounds = m_toUnits.mapRect(bounds) & m_toUnits.mapRect(m_page);
         if (m_bounds.isEmpty())
             continue; // blank, or beside the page
+        m_operation = i;
         if (canWrite(state, operation.shape)) {
             enter(state);
             paintShape(operation.shape);
         } else {
-            paintAsPicture(recording.part(int(i), 1), bounds & m_page, Qt::transparent);
+            const QList<int> lines = m_parts.partsOfLines(i);
+            paintAsPicture(recording.part(int(i), 1), bounds & m_page, Qt::transparent,
+                           lines.isEmpty() ? m_parts.partOf(i) : lines.constFirst());
         }
     }
     leaveClips(0);
+    leavePart();
 }
 
 void MvPdfPagePainter::enter(const MvPaintState &state)
@@ -215,7 +224,10 @@ void MvPdfPagePainter::paintShape(const MvPaintOperation::Shape &shape)
 {
     if (const auto *outlines = std::get_if<Outlines>(&shape)) {
         paintOutlines(*outlines);
-    } else if (const auto *image = std::get_if<Image>(&shape)) {
+        return;
+    }
+    enterPart(m_parts.partOf(m_operation));
+    if (const auto *image = std::get_if<Image>(&shape)) {
         useOpacity(m_state->opacity, m_state->opacity);
         paintImage(image->image, image->target, image->source);
     } else {
@@ -311,12 +323,27 @@ void MvPdfPagePainter::stroke(const QPainterPath &path)
     m_content.restore();
 }
 
+/// Lines of one part together.
 void MvPdfPagePainter::paintOutlines(const Outlines &shape)
+{
+    const QList<int> parts = m_parts.partsOfLines(m_operation);
+    const double opacity = m_state->opacity * double(shape.color.alphaF());
+    for (qsizetype first = 0, next = 0; first < shape.lines.size(); first = next) {
+        while (next < shape.lines.size() && parts[next] == parts[first])
+            ++next;
+        enterPart(parts[first]);
+        useOpacity(opacity, opacity);
+        m_content.setFillColor(shape.color.rgb());
+        paintLines(shape.lines.sliced(first, next - first));
+    }
+}
+
+void MvPdfPagePainter::paintLines(const QList<MvPlacedOutline> &lines)
 {
     QList<MvPlacedOutline> known;
     QPainterPath others;
     others.setFillRule(Qt::WindingFill);
-    for (const MvPlacedOutline &line : shape.lines) {
+    for (const MvPlacedOutline &line : lines) {
         if (line.outline.isEmpty())
             continue;
         if (line.outline.glyphs().isEmpty())
@@ -324,16 +351,13 @@ void MvPdfPagePainter::paintOutlines(const Outlines &shape)
         else
             known.append(line);
     }
-    const double opacity = m_state->opacity * double(shape.color.alphaF());
-    useOpacity(opacity, opacity);
-    m_content.setFillColor(shape.color.rgb());
     if (!known.isEmpty())
         MvPdfTextPainter(m_content, m_shared.fonts, m_transform).paint(known);
     if (!others.isEmpty()) {
         m_content.addPath(m_transform.map(others), MvPdfContent::Subpaths::AsTheyAre);
         m_content.finishPath("f");
     }
-    for (const MvPlacedOutline &line : shape.lines) {
+    for (const MvPlacedOutline &line : lines) {
         for (const MvTextOutline::Picture &picture : line.outline.pictures())
             paintImage(picture.image, picture.rect.translated(line.baseline), picture.image.rect());
     }
@@ -381,7 +405,8 @@ void MvPdfPagePainter::placeImage(const QImage &image, const QRect &part, const 
     m_content.restore();
 }
 
-void MvPdfPagePainter::paintAsPicture(const MvPaintRecording &recording, const QRectF &bounds, const QColor &ground)
+void MvPdfPagePainter::paintAsPicture(const MvPaintRecording &recording, const QRectF &bounds, const QColor &ground,
+                                      int part)
 {
     const QRect dots = bounds.toAlignedRect();
     QImage image(dots.size(), QImage::Format_ARGB32_Premultiplied);
@@ -394,6 +419,7 @@ void MvPdfPagePainter::paintAsPicture(const MvPaintRecording &recording, const Q
     painter.end();
     m_state = nullptr;
     leaveClips(0);
+    enterPart(part);
     useOpacity(1.0, 1.0);
     placeImage(image, image.rect(), dots, m_toUnits);
 }
@@ -426,7 +452,10 @@ void MvPdfPagePainter::enterClips(const MvPaintClip *clip)
     }
     std::reverse(wanted.begin(), wanted.end());
     const auto [shared, other] = std::mismatch(m_clips.begin(), m_clips.end(), wanted.begin(), wanted.end());
-    leaveClips(size_t(shared - m_clips.begin()));
+    const auto keep = size_t(shared - m_clips.begin());
+    if (wanted.size() > keep)
+        leavePart();
+    leaveClips(keep);
     for (size_t i = m_clips.size(); i < wanted.size(); ++i) {
         const QPainterPath &path = clipOf(*wanted[i]).path;
         m_content.save();
@@ -440,6 +469,8 @@ void MvPdfPagePainter::enterClips(const MvPaintClip *clip)
 
 void MvPdfPagePainter::leaveClips(size_t keep)
 {
+    if (m_clips.size() > keep)
+        leavePart(); // what is marked lies within one clip
     for (; m_clips.size() > keep; m_clips.pop_back())
         m_content.restore();
 }
@@ -452,4 +483,24 @@ void MvPdfPagePainter::useOpacity(double fill, double stroke, const QByteArray &
         return;
     m_content.setState(m_shared.file.addOnce("<</Type/ExtGState/ca " + MvPdfSyntax::number(fill, 3) + "/CA " +
                                              MvPdfSyntax::number(stroke, 3) + "/BM/" + blendName(mode) + mask + ">>"));
+}
+
+void MvPdfPagePainter::enterPart(int part)
+{
+    m_parts.addBounds(part, m_bounds);
+    if (m_part == part)
+        return;
+    leavePart();
+    m_part = part;
+    if (part == MvPdfPageParts::decoration)
+        m_content.append("/Artifact BMC\n");
+    else
+        m_content.append("/P<</MCID " + QByteArray::number(m_parts.addContent(part)) + ">>BDC\n");
+}
+
+void MvPdfPagePainter::leavePart()
+{
+    if (m_part)
+        m_content.append("EMC\n");
+    m_part.reset();
 }

@@ -14,6 +14,7 @@ class MvPaintRecording;
 class MvPdfFile;
 class MvPdfFonts;
 class MvPdfImages;
+class MvPdfPageParts;
 
 /// Writes a recording as the content of a page: lines, areas, clips, opacity, gradients, texts and pictures as what
 /// they are.
@@ -33,7 +34,8 @@ public:
     };
 
     /// The recording's coordinates become units by the transform; the page is given in those of the recording.
-    MvPdfPagePainter(const Shared &shared, const QTransform &toUnits, const QRectF &page);
+    /// What is painted for parts of the page is marked as theirs, all else as decoration.
+    MvPdfPagePainter(const Shared &shared, const QTransform &toUnits, const QRectF &page, MvPdfPageParts &parts);
 
     void paint(const MvPaintRecording &recording);
 
@@ -56,18 +58,26 @@ private:
     QByteArray maskOf(const QByteArray &shading, const QTransform &transform);
     void stroke(const QPainterPath &path);
     void paintOutlines(const MvPaintShape::Outlines &shape);
+    void paintLines(const QList<MvPlacedOutline> &lines);
     void paintImage(const QImage &image, const QRectF &target, const QRectF &source);
     void placeImage(const QImage &image, const QRect &part, const QRectF &target, const QTransform &transform);
-    void paintAsPicture(const MvPaintRecording &recording, const QRectF &bounds, const QColor &ground);
+    void paintAsPicture(const MvPaintRecording &recording, const QRectF &bounds, const QColor &ground, int part);
 
     const Clip &clipOf(const MvPaintClip &clip);
     void enterClips(const MvPaintClip *clip);
     void leaveClips(size_t keep);
     void useOpacity(double fill, double stroke, const QByteArray &mask = {});
 
+    /// What follows belongs to the part.
+    void enterPart(int part);
+    void leavePart();
+
     Shared m_shared;
     const QTransform m_toUnits;
     const QRectF m_page;
+    MvPdfPageParts &m_parts;
+    std::optional<int> m_part; // marked at present
+    size_t m_operation = 0;
     MvPdfContent m_content;
     const MvPaintState *m_state = nullptr;
     QTransform m_transform; // from the coordinates of the shape to units
