@@ -16,6 +16,8 @@
 #include "MvTextTable.h"
 #include "MvThemesCommand.h"
 #include "MvValidateCommand.h"
+#include "batch/MvBatchCommand.h"
+#include "batch/MvBatchWorker.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,6 +46,7 @@ void printLines(const QString &text, QTextStream &err)
 MvCli::MvCli()
 {
     m_commands.push_back(std::make_unique<MvRenderCommand>());
+    m_commands.push_back(std::make_unique<MvBatchCommand>());
     m_commands.push_back(std::make_unique<MvNewCommand>());
     m_commands.push_back(std::make_unique<MvValidateCommand>());
     m_commands.push_back(std::make_unique<MvPackCommand>());
@@ -85,6 +88,8 @@ MvCliCommand::Result MvCli::dispatch(const QStringList &arguments, const MvCliCo
         MvCompletion(m_commands).print(arguments.mid(1), streams.out);
         return {};
     }
+    if (arguments.first() == MvBatchWorker::name())
+        return {MvBatchWorker().run(), {}};
     const bool isHelpCommand = arguments.first() == u"help"_s;
     const QStringList rest = arguments.mid(isHelpCommand ? 1 : 0);
     if (rest.isEmpty() || rest.first() == u"--help"_s || rest.first() == u"-h"_s) {
@@ -123,8 +128,9 @@ MvCliCommand::Result MvCli::runCommand(const MvCliCommand &command, const QStrin
         return {MvCliCommand::Misused, tr("--quiet und --verbose schließen einander aus")};
     QString unsaid;
     QTextStream silence(&unsaid);
-    MvCliCommand::Result result = command.run(call, {streams.out, isQuiet ? silence : streams.hints,
-                                                     call.has(u"verbose"_s) ? streams.progress : nullptr, isQuiet});
+    MvCliCommand::Result result =
+        command.run(call, {streams.out, isQuiet ? silence : streams.hints,
+                           call.has(u"verbose"_s) ? streams.progress : nullptr, isQuiet, streams.progress});
     if (result.code == MvCliCommand::Misused)
         result.error += config.placeOf(result.error, call);
     return result;
@@ -133,7 +139,7 @@ MvCliCommand::Result MvCli::runCommand(const MvCliCommand &command, const QStrin
 bool MvCli::hasPages(const QStringList &arguments) const
 {
     const MvCliCommand *command = find(arguments.value(0));
-    return command && command->hasPages();
+    return arguments.value(0) == MvBatchWorker::name() || (command && command->hasPages());
 }
 
 const MvCliCommand *MvCli::find(const QString &name) const
@@ -166,7 +172,7 @@ void MvCli::printHelp(QTextStream &out) const
     out << '\n'
         << tr("Optionen eines Befehls: mvcalendar BEFEHL --help. Version: mvcalendar --version.") << '\n'
         << tr("Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch; 3 "
-              "validate: etwas würde schlecht gedruckt.")
+              "validate: etwas würde schlecht gedruckt; 4 batch: unterbrochen, der nächste Lauf macht weiter.")
         << '\n'
         << tr("Was immer gelten soll, steht in ~/.config/mvcalendar/mvcalendar.conf, eine Zeile „country = AT“ je "
               "Option.")

@@ -17,9 +17,10 @@ public:
     /// Exit codes.
     enum ExitCode {
         Done = 0,
-        Failed = 1,     // the command was understood, but something could not be read or written
-        Misused = 2,    // the command was not understood
-        PrintsBadly = 3 // of "validate": the calendar can be printed, but something on it would look bad
+        Failed = 1,      // the command was understood, but something could not be read or written
+        Misused = 2,     // the command was not understood
+        PrintsBadly = 3, // of "validate": the calendar can be printed, but something on it would look bad
+        Interrupted = 4  // of "batch": a signal ended it, some calendars are left for the next run
     };
 
     /// Where a command writes: results to one stream, hints for a person to the other. What is going on, to a third, if
@@ -29,7 +30,8 @@ public:
         QTextStream &out;
         QTextStream &hints;
         QTextStream *progress = nullptr;
-        bool isQuiet = false; // no names of files that were written
+        bool isQuiet = false;       // no names of files that were written
+        QTextStream *err = nullptr; // for what cannot wait until the command is done; may be missing
     };
 
     struct Result

@@ -62,6 +62,13 @@ QStringList MvRenderCommand::examples() const
 
 MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const Streams &streams) const
 {
+    MvRenderOutcome outcome;
+    return render(arguments, streams, outcome);
+}
+
+MvCliCommand::Result MvRenderCommand::render(const MvCliArguments &arguments, const Streams &streams,
+                                             MvRenderOutcome &outcome)
+{
     MvCliValues values(arguments);
     const bool isProject = values.has(u"project"_s);
     if (isProject)
@@ -102,7 +109,7 @@ MvCliCommand::Result MvRenderCommand::run(const MvCliArguments &arguments, const
     entries.printHints(streams.hints);
     printHints(document, entries, values.has(u"vacations"_s), hints.stream());
     return write(document, chosen.numbers, entries, targets, values.has(u"report"_s),
-                 {streams.out, hints.stream(), streams.progress, streams.isQuiet});
+                 {streams.out, hints.stream(), streams.progress, streams.isQuiet}, outcome);
 }
 
 QString MvRenderCommand::takeEntryDisplay(const MvCliArguments &arguments, const MvRenderEntries &entries,
@@ -138,7 +145,7 @@ void MvRenderCommand::printHints(const MvCalendarDocument &document, const MvRen
 
 MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, const QList<int> &chosen,
                                             const MvRenderEntries &entries, const MvRenderTargets &targets,
-                                            bool isReported, const Streams &streams)
+                                            bool isReported, const Streams &streams, MvRenderOutcome &outcome)
 {
     MvRenderingSources sources;
     sources.entries = entries.source();
@@ -152,6 +159,7 @@ MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, 
         if (!isReported && !targets.isStandardOutput() && !streams.isQuiet)
             streams.out << file.filePath() << '\n';
     }
+    outcome = {document, entries, report.toObject(), int(chosen.size()), result.isCancelled};
     if (!result.isOk())
         return failed(result.error);
     if (isReported)

@@ -106,6 +106,11 @@ void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCale
 
 QString MvRenderReport::toJson() const
 {
+    return QString::fromUtf8(QJsonDocument(toObject()).toJson());
+}
+
+QJsonObject MvRenderReport::toObject() const
+{
     QJsonArray skippedEntries;
     for (const MvCalendarEventFile::Skipped &skipped : m_skipped)
         skippedEntries.append(QJsonObject{{u"file"_s, m_entriesFile.filePath()},
@@ -122,12 +127,11 @@ QString MvRenderReport::toJson() const
         for (const MvPrintedFoto &foto : page->fotos)
             fotos.append(fotoObject(page.key() + 1, foto));
     }
-    const QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)},
-                             {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingFotos)},
-                             {u"photos"_s, fotos},
-                             {u"skippedEntries"_s, skippedEntries},
-                             {u"unfitting"_s, unfitting}};
-    return QString::fromUtf8(QJsonDocument(report).toJson());
+    return {{u"files"_s, QJsonArray::fromStringList(m_files)},
+            {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingFotos)},
+            {u"photos"_s, fotos},
+            {u"skippedEntries"_s, skippedEntries},
+            {u"unfitting"_s, unfitting}};
 }
 
 void MvRenderReport::printHint(QTextStream &hints) const

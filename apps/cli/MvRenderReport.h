@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QMap>
 #include <QStringList>
 
@@ -33,6 +34,7 @@ public:
     void setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped);
 
     /// The object that the program's manual describes.
+    QJsonObject toObject() const;
     QString toJson() const;
     /// One line when texts had no room, one when characters have no glyph, one per photo that is missing or will look
     /// coarse, one for those that are not quite fine; otherwise nothing.

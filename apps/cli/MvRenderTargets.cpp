@@ -2,6 +2,7 @@
 #include "MvRenderTargets.h"
 
 #include "MvCliValues.h"
+#include "MvInterruption.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPictureExporter.h"
@@ -34,7 +35,7 @@ public:
             m_stream->flush();
         }
     }
-    bool isCancelled() const override { return false; }
+    bool isCancelled() const override { return MvInterruption::isAsked(); }
 
 private:
     QString m_name;
@@ -119,9 +120,10 @@ MvExportResult MvRenderTargets::write(const MvPageSource &pages, const MvCliComm
         all.files += one.files;
         all.missingFotos += one.missingFotos;
         all.error = one.error;
-        if (all.error.isEmpty() && isStandardOutput())
+        all.isCancelled = one.isCancelled;
+        if (all.isOk() && isStandardOutput())
             all.error = copy(one.files.value(0), streams.out).error;
-        if (!all.error.isEmpty())
+        if (!all.isOk())
             break;
     }
     return all;
