@@ -2,6 +2,33 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="de">
 <context>
+    <name>MvBatchProcess</name>
+    <message numerus="yes">
+        <source>nicht fertig nach %n Sekunden (--time-limit)</source>
+        <translation>
+            <numerusform>nicht fertig nach %n Sekunde (--time-limit)</numerusform>
+            <numerusform>nicht fertig nach %n Sekunden (--time-limit)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvBatchProgress</name>
+    <message numerus="yes">
+        <source>noch etwa %n Sekunden</source>
+        <translation>
+            <numerusform>noch etwa %n Sekunde</numerusform>
+            <numerusform>noch etwa %n Sekunden</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>noch etwa %n Minuten</source>
+        <translation>
+            <numerusform>noch etwa %n Minute</numerusform>
+            <numerusform>noch etwa %n Minuten</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventFile</name>
     <message numerus="yes">
         <source>%1: %n Fotos liegen außerhalb der erlaubten Ordner und werden nicht geladen, zuerst %2</source>

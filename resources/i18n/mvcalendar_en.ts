@@ -20,6 +20,201 @@
     </message>
 </context>
 <context>
+    <name>MvBatchCommand</name>
+    <message>
+        <source>druckt viele Kalender, je Zeile einer Auftragsliste einen</source>
+        <translation>prints many calendars, one for each line of a list of orders</translation>
+    </message>
+    <message>
+        <source>DATEI</source>
+        <translation>FILE</translation>
+    </message>
+    <message>
+        <source>die Aufträge, je Zeile ein JSON-Objekt mit Optionen von render: {&quot;id&quot;: &quot;4711&quot;, &quot;year&quot;: 2027, &quot;region&quot;: &quot;BY&quot;, &quot;output&quot;: &quot;4711.pdf&quot;}; - ist die Standardeingabe; --list kann wegbleiben</source>
+        <translation>the orders, on each line a JSON object of options of render: {&quot;id&quot;: &quot;4711&quot;, &quot;year&quot;: 2027, &quot;region&quot;: &quot;BY&quot;, &quot;output&quot;: &quot;4711.pdf&quot;}; - is the standard input; --list can be left out</translation>
+    </message>
+    <message>
+        <source>ZAHL</source>
+        <translation>NUMBER</translation>
+    </message>
+    <message>
+        <source>so viele Kalender zugleich (je Kern einen)</source>
+        <translation>so many calendars at a time (one for each core)</translation>
+    </message>
+    <message>
+        <source>Bericht, je Kalender eine Zeile JSON (Standardausgabe); ein zweiter Lauf mit derselben Datei lässt aus, was fertig und unverändert ist</source>
+        <translation>report, a line of JSON for each calendar (standard output); a second run with the same file leaves out what is done and unchanged</translation>
+    </message>
+    <message>
+        <source>SEKUNDEN</source>
+        <translation>SECONDS</translation>
+    </message>
+    <message>
+        <source>wer länger braucht, wird abgebrochen (%1)</source>
+        <translation>what takes longer is ended (%1)</translation>
+    </message>
+    <message>
+        <source>wer mehr Speicher braucht, wird abgebrochen (%1)</source>
+        <translation>what needs more memory is ended (%1)</translation>
+    </message>
+    <message>
+        <source>nur den K-ten von N Teilen der Liste, für mehrere Rechner</source>
+        <translation>only the Kth of N parts of the list, for several computers</translation>
+    </message>
+    <message>
+        <source>--shard „%1“: erlaubt sind Teile wie 1/8 bis 8/8</source>
+        <translation>--shard “%1”: allowed are parts such as 1/8 to 8/8</translation>
+    </message>
+    <message>
+        <source>es fehlt die Liste der Aufträge: mvcalendar batch auftraege.jsonl</source>
+        <translation>the list of orders is missing: mvcalendar batch orders.jsonl</translation>
+    </message>
+    <message>
+        <source>unterbrochen nach %1 von %2 Kalendern; derselbe Aufruf macht weiter</source>
+        <translation>interrupted after %1 of %2 calendars; the same call goes on</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Kalendern sind nicht gemacht</source>
+        <translation>%1 of %2 calendars are not made</translation>
+    </message>
+</context>
+<context>
+    <name>MvBatchJob</name>
+    <message>
+        <source>kein gültiges JSON ab Zeichen %1 (%2)</source>
+        <translation>no valid JSON from character %1 on (%2)</translation>
+    </message>
+    <message>
+        <source>jede Zeile muss ein JSON-Objekt sein, {&quot;year&quot;: 2027, &quot;output&quot;: &quot;kalender.pdf&quot;}</source>
+        <translation>each line must be a JSON object, {&quot;year&quot;: 2027, &quot;output&quot;: &quot;calendar.pdf&quot;}</translation>
+    </message>
+    <message>
+        <source>„%1“: erlaubt sind Text, Zahl, true, false und Listen davon</source>
+        <translation>“%1”: allowed are text, number, true, false and lists of these</translation>
+    </message>
+    <message>
+        <source>„id“: erlaubt sind Text und Zahl</source>
+        <translation>“id”: allowed are text and number</translation>
+    </message>
+    <message>
+        <source>--%1 gibt es in einem Stapel nicht</source>
+        <translation>--%1 does not exist in a batch</translation>
+    </message>
+    <message>
+        <source>es fehlt „output“, der Name der Datei</source>
+        <translation>“output”, the name of the file, is missing</translation>
+    </message>
+    <message>
+        <source>„%1“: in einem Stapel sind nur Dateien erlaubt</source>
+        <translation>“%1”: in a batch only files are allowed</translation>
+    </message>
+</context>
+<context>
+    <name>MvBatchList</name>
+    <message>
+        <source>Standardeingabe</source>
+        <translation>standard input</translation>
+    </message>
+    <message>
+        <source>die Zeile ist länger als %1 MB</source>
+        <translation>the line is longer than %1 MB</translation>
+    </message>
+    <message>
+        <source>%1 ist zweimal angegeben</source>
+        <translation>%1 is given twice</translation>
+    </message>
+    <message>
+        <source>%2 schreibt auch Zeile %1; keiner der beiden Kalender wird gemacht</source>
+        <translation>%2 is written by line %1, too; neither of the two calendars is made</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2</source>
+        <translation>%1, line %2</translation>
+    </message>
+</context>
+<context>
+    <name>MvBatchProcess</name>
+    <message numerus="yes">
+        <source>nicht fertig nach %n Sekunden (--time-limit)</source>
+        <translation>
+            <numerusform>not done after %n second (--time-limit)</numerusform>
+            <numerusform>not done after %n seconds (--time-limit)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>der Arbeitsprozess ließ sich nicht starten: %1</source>
+        <translation>the worker could not be started: %1</translation>
+    </message>
+    <message>
+        <source>der Arbeitsprozess endete durch Signal %1</source>
+        <translation>the worker was ended by signal %1</translation>
+    </message>
+    <message>
+        <source>der Arbeitsprozess endete mit Rückgabewert %1</source>
+        <translation>the worker ended with exit code %1</translation>
+    </message>
+    <message>
+        <source>erlaubt sind %1 MB Speicher (--memory-limit)</source>
+        <translation>%1 MB of memory are allowed (--memory-limit)</translation>
+    </message>
+</context>
+<context>
+    <name>MvBatchProgress</name>
+    <message>
+        <source>unverändert</source>
+        <translation>unchanged</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Kalendern, davon unverändert %3, misslungen %4</source>
+        <translation>%1 of %2 calendars, of these unchanged %3, failed %4</translation>
+    </message>
+    <message numerus="yes">
+        <source>noch etwa %n Sekunden</source>
+        <translation>
+            <numerusform>about %n second left</numerusform>
+            <numerusform>about %n seconds left</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>noch etwa %n Minuten</source>
+        <translation>
+            <numerusform>about %n minute left</numerusform>
+            <numerusform>about %n minutes left</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>MvBatchReport</name>
+    <message>
+        <source>%1 ist keine Datei</source>
+        <translation>%1 is not a file</translation>
+    </message>
+    <message>
+        <source>%1 gehört einem anderen Lauf, der noch nicht fertig ist</source>
+        <translation>%1 belongs to another run, which is not done yet</translation>
+    </message>
+    <message>
+        <source>%1, Zeile %2: das ist kein Bericht eines Stapels; er bleibt, wie er ist</source>
+        <translation>%1, line %2: this is not a report of a batch; it stays as it is</translation>
+    </message>
+    <message>
+        <source>%1 ist kein Bericht eines Stapels; die Datei bleibt, wie sie ist</source>
+        <translation>%1 is not a report of a batch; the file stays as it is</translation>
+    </message>
+    <message>
+        <source>die Standardausgabe</source>
+        <translation>the standard output</translation>
+    </message>
+    <message>
+        <source>%1: der Bericht lässt sich nicht schreiben: %2</source>
+        <translation>%1: the report cannot be written: %2</translation>
+    </message>
+</context>
+<context>
     <name>MvBirthdayImport</name>
     <message>
         <source>Geburtstage aus einem Adressbuch importieren</source>
@@ -1220,16 +1415,16 @@
         <translation>Options:</translation>
     </message>
     <message>
-        <source>Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch; 3 validate: etwas würde schlecht gedruckt.</source>
-        <translation>Exit codes: 0 done; 1 something could not be read or written; 2 the call was wrong; 3 validate: something would print badly.</translation>
-    </message>
-    <message>
         <source>--quiet und --verbose schließen einander aus</source>
         <translation>--quiet and --verbose exclude each other</translation>
     </message>
     <message>
         <source>Was immer gelten soll, steht in ~/.config/mvcalendar/mvcalendar.conf, eine Zeile „country = AT“ je Option.</source>
         <translation>What is always wanted goes into ~/.config/mvcalendar/mvcalendar.conf, a line “country = AT” for each option.</translation>
+    </message>
+    <message>
+        <source>Rückgabewerte: 0 fertig; 1 etwas ließ sich nicht lesen oder schreiben; 2 der Aufruf war falsch; 3 validate: etwas würde schlecht gedruckt; 4 batch: unterbrochen, der nächste Lauf macht weiter.</source>
+        <translation>Exit codes: 0 done; 1 something could not be read or written; 2 the call was wrong; 3 validate: something would print badly; 4 batch: interrupted, the next run goes on.</translation>
     </message>
 </context>
 <context>

@@ -172,7 +172,7 @@ MvBatchResult MvBatchWorker::render(const Task &task)
 {
     const qint64 begin = QDateTime::currentMSecsSinceEpoch();
     const MvBatchUsage usage;
-    MvBatchResult result{task.job.line, task.job.id, {}, {}, {}};
+    MvBatchResult result{task.job.line, task.job.id, MvBatchResult::State::Failed, {}, {}};
     Messages::begin();
     MvBatchJob::Call call = task.job.call();
     if (!call.arguments.has(u"jobs"_s))
