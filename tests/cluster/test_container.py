@@ -13,7 +13,7 @@ from pathlib import Path
 
 import orders
 
-BUILD = Path(sys.argv.pop())
+BUILD = Path(sys.argv.pop()).resolve()
 TOOLS = Path(__file__).resolve().parents[2] / "tools" / "container"
 CALENDAR = ("render", "--year", "2027", "--region", "BY", "--vacations")
 

@@ -15,7 +15,7 @@ from pathlib import Path
 
 import orders
 
-PROGRAM = Path(sys.argv.pop()) / "bin" / "mvcalendar"
+PROGRAM = Path(sys.argv.pop()).resolve() / "bin" / "mvcalendar"
 SHARDS, COUNT = 6, 180
 
 
