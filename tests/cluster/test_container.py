@@ -39,7 +39,8 @@ class Container(unittest.TestCase):
             root.mkdir()
             run("tar", "-xf", folder / "image.tar", "-C", root, "--exclude=./dev/*")
             self.assertEqual([str(path) for path in root.rglob("libQt6Widgets*")], [])
-            environment = {"SOURCE_DATE_EPOCH": "1800000000", "LANG": "C.UTF-8", "PATH": "/usr/bin:/bin:/usr/sbin"}
+            environment = {"SOURCE_DATE_EPOCH": "1800000000", "LANG": "C.UTF-8", "XDG_CACHE_HOME": "/tmp/cache",
+                           "PATH": "/usr/bin:/bin:/usr/sbin"}
             inside = ("chroot", "--userspec=1000:1000", root, "/usr/bin/mvcalendar")
             run(*inside, *CALENDAR, "-o", "/work/calendar.pdf", env=environment)
             run(BUILD / "bin" / "mvcalendar", *CALENDAR, "--no-config", "-o", folder / "calendar.pdf", env=environment)

@@ -98,7 +98,8 @@ private:
     bool openTemporary()
     {
         const QByteArray folder = QFile::encodeName(m_folder);
-        m_new = MvFileDescriptor(::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
+        if (::access("/proc/self/fd", X_OK) == 0) // by which it gets its name; containers may have none
+            m_new = MvFileDescriptor(::open(folder.constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
         m_temporary = MvFileBackup::temporaryPath(m_folder);
         if (!m_new.isOpen()) { // not every file system has unnamed files
             m_new = MvFileDescriptor(::open(
