@@ -17,6 +17,8 @@ class tst_MvFotoFacts : public MvTest
 private Q_SLOTS:
     void captured_data();
     void captured();
+    void description_data();
+    void description();
     void capturedByName_data();
     void capturedByName();
     void fromTelephones();
@@ -71,6 +73,24 @@ void tst_MvFotoFacts::captured()
         QCOMPARE(facts.size, QSize(30, 40));
         QCOMPARE(facts.error, QString());
     }
+}
+
+void tst_MvFotoFacts::description_data()
+{
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("Oma im Garten") << u"Oma im Garten"_qs;
+    QTest::newRow("  B\xc3\xa4rlauch,\n gepfl\xc3\xbc"
+                  "ckt ")
+        << u"Bärlauch, gepflückt"_qs;
+    QTest::newRow("B\xe4rlauch") << u"Bärlauch"_qs; // in the older way
+    for (const char *byCamera : {"OLYMPUS DIGITAL CAMERA", "SONY DSC", "Exif_JPEG_PICTURE", "          "})
+        QTest::newRow(byCamera) << QString();
+}
+
+void tst_MvFotoFacts::description()
+{
+    const QByteArray block = MvExifFixture::described(QTest::currentDataTag());
+    QTEST(factsOf(u"foto.jpg"_qs, MvExifFixture::inJpeg(written("jpeg"), block)).description, "expected");
 }
 
 void tst_MvFotoFacts::capturedByName_data()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvExifFixture.h"
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvPaint/MvPaintMark.h"
 #include "MvProject/MvPageSource.h"
@@ -176,6 +177,22 @@ private:
     std::map<std::pair<size_t, std::string>, QString> m_texts; // by element and key
 };
 
+void paintLine(QPainter &painter, double y, const QString &line)
+{
+    QFont font(u"Lato"_s);
+    font.setPixelSize(50);
+    MvOutlinePainter::fillOutline(painter, {50, y}, MvTextOutline(font, line), Qt::black);
+}
+
+MvPageSource page(const std::function<void(QPainter &)> &paint)
+{
+    MvPageSource source;
+    source.format = MvPageFormat(QSizeF(1000, 800));
+    source.pages.append(QDate(2027, 1, 1));
+    source.paint = [paint](QPainter &painter, int) { paint(painter); };
+    return source;
+}
+
 QString outputOf(const QString &program, const QStringList &arguments)
 {
     QProcess process;
@@ -199,6 +216,8 @@ private Q_SLOTS:
     void textsAreWhole_data();
     void textsAreWhole();
     void picturesAreDescribed();
+    void promisesWhatItKeeps_data();
+    void promisesWhatItKeeps();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
@@ -316,18 +335,12 @@ void tst_MvPdfStructure::textsAreWhole()
     QFETCH(const Kind, kind);
     QFETCH(const QStringList, texts);
     QFETCH(const QStringList, lines);
-    MvPageSource source;
-    source.format = MvPageFormat(QSizeF(1000, 800));
-    source.pages.append(QDate(2027, 1, 1));
-    source.paint = [&](QPainter &painter, int) {
-        QFont font(u"Lato"_s);
-        font.setPixelSize(50);
+    const Structure structure(write(page([&](QPainter &painter) {
         const MvPaintMarking table(painter, Kind::Table);
         const MvPaintMarking mark(painter, kind, 1, 1, texts);
         for (double y = 100; const QString &line : lines)
-            MvOutlinePainter::fillOutline(painter, {50, y += 60}, MvTextOutline(font, line), Qt::black);
-    };
-    const Structure structure(write(source));
+            paintLine(painter, y += 60, line);
+    })));
     QCOMPARE(structure.problems.join(u'\n'), QString());
     QTEST(structure.texts("/ActualText") + structure.texts("/E"), "wholes");
     QTEST(int(structure.types.count(u"P"_s)), "paragraphs");
@@ -338,23 +351,44 @@ void tst_MvPdfStructure::picturesAreDescribed()
     MvProjectFixture::writeFoto(path(u"foto.png"_s), {300, 200});
     MvCalendarDocument calendar = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 1);
     calendar.setHolidayConfig(MvCalendariumHolidayConfig(MvLocale(u"en_GB"_s), {}, FEATURE_NONE));
+    QFile plain(path(u"plain.jpg"_s));
+    QVERIFY(QImage(path(u"foto.png"_s)).save(plain.fileName()) && plain.open(QIODevice::ReadOnly));
+    QFile noted(path(u"noted.jpg"_s));
+    QVERIFY(noted.open(QIODevice::WriteOnly));
+    noted.write(MvExifFixture::inJpeg(plain.readAll(), MvExifFixture::described("Oma im Garten")));
+    noted.close();
     MvFotoElement foto(path(u"foto.png"_s));
     MvFotoElement named = foto;
     named.setCaption(u"Über den Dächern"_s);
     MvCalendarPage page = calendar.pages()[0];
-    page.setElements({{QRectF(100, 100, 300, 200), foto}, {QRectF(500, 400, 300, 200), named}});
+    page.setElements({{QRectF(100, 100, 300, 200), foto},
+                      {QRectF(500, 400, 300, 200), named},
+                      {QRectF(900, 700, 300, 200), MvFotoElement(noted.fileName())}});
     calendar.setPage(0, page);
-    MvPageSource source = calendar.pageSource();
-    const Structure structure(write(source));
+    const Structure structure(write(calendar.pageSource()));
     QCOMPARE(structure.problems.join(u'\n'), QString());
-    QCOMPARE(structure.texts("/Alt"), (QStringList{u"Photo"_s, u"Über den Dächern"_s}));
-    const auto isForEverybody = [this] {
-        return outputOf(u"pdfinfo"_s, {u"-meta"_s, path(u"k.pdf"_s)}).contains(u"pdfua/ns/id/\">1<"_s);
-    };
-    QVERIFY(isForEverybody());
-    source.title.clear();
-    write(source);
-    QVERIFY(!isForEverybody());
+    QCOMPARE(structure.texts("/Alt"), (QStringList{u"Photo"_s, u"Über den Dächern"_s, u"Oma im Garten"_s}));
+}
+
+void tst_MvPdfStructure::promisesWhatItKeeps_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("isForEverybody");
+    QTest::newRow("letters, ligatures") << u"Größe der Schifffahrt"_s << u"Kalender"_s << true;
+    QTest::newRow("no title") << u"Größe"_s << QString() << false;
+}
+
+/// The name of the standard stands in a file that holds it.
+void tst_MvPdfStructure::promisesWhatItKeeps()
+{
+    QFETCH(const QString, text);
+    QFETCH(const QString, title);
+    MvPageSource source = page([&text](QPainter &painter) { paintLine(painter, 200, text); });
+    source.title = title;
+    const QString metadata = outputOf(u"pdfinfo"_s, {u"-meta"_s, write(source)});
+    QVERIFY(metadata.contains(u"dc:title"_s));
+    QTEST(metadata.contains(u"pdfua/ns/id/\">1<"_s), "isForEverybody");
 }
 
 MV_TEST_MAIN(tst_MvPdfStructure)

@@ -38,6 +38,14 @@ inline QByteArray block(int orientation, const QByteArray &time = {})
            + time + QByteArray(1, 0);
 }
 
+/// What is written about the photo, in more than three bytes.
+inline QByteArray described(const QByteArray &text)
+{
+    constexpr quint32 place = 8 + 2 + 12 + 4;
+    return "II*" + QByteArray(1, 0) + little(8, 4) + little(1, 2) + note(0x010e, 2, quint32(text.size()) + 1, place) +
+           little(0, 4) + text + QByteArray(1, 0);
+}
+
 inline QByteArray inJpeg(const QByteArray &jpeg, const QByteArray &block)
 {
     const QByteArray content = QByteArray("Exif\0\0", 6) + block;

@@ -257,7 +257,7 @@ void MvCalendariumRendererOneColumnPerWeek::renderWeek(QPainter &painter, const 
         drawCell(painter, headCell, head, {}, isEvenWeek(date), 0);
         {
             const bool isShown = date.month() == start.month();
-            const MvPaintMarking weekday = isShown ? marks.listedWeekday(date) : marks.decoration();
+            const MvPaintMarking weekday = isShown ? marks.listedHead(date) : marks.decoration();
             heads.draw(painter, headCell, head, date.dayOfWeek(), isEvenWeek(date));
         }
         const QRectF cell(column.left() + headWidth, y, dayWidth, height);

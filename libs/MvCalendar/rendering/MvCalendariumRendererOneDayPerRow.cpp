@@ -247,7 +247,7 @@ void MvCalendariumRendererOneDayPerRow::renderBase(QPainter &painter, const QRec
 
 void MvCalendariumRendererOneDayPerRow::renderDay(QPainter &painter, const QRectF &rect, const QDate &date, double y)
 {
-    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedDay(date);
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedHead(date);
     const MvCalendarCellTypeConfig content = contentCellTypeConfig(date);
     double x = rect.x() + widthOfCalendarWeek(rect);
     const QRectF number(x, y, widthOfCell(rect, content.inscriptionConfig()), rowHeight(rect, date));
@@ -372,7 +372,7 @@ void MvCalendariumRendererOneDayPerRow::renderWeekday(QPainter &painter, const Q
     if (!shouldIPaintTheBackground(head, even)) // the row's own ground goes on beneath the name
         MvCalendariumCellPainter(*this, painter).drawGround(cell, contentCellTypeConfig(date), even);
     const QString name = dayNameFromDate(date, hasShortNames(rect));
-    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedWeekday(date);
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedHead(date);
     drawOnBaseline(painter, cell, head, name, Qt::AlignLeft | Qt::AlignVCenter, date);
 }
 

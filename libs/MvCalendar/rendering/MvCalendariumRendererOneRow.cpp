@@ -153,6 +153,6 @@ void MvCalendariumRendererOneRow::drawHead(QPainter &painter, const QRectF &cell
 {
     const MvCalendarCellTypeConfig config = headCellTypeConfig(date);
     drawCell(painter, cell, config, {}, isEvenWeek(date), 0);
-    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedWeekday(date);
+    const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listedHead(date);
     heads.draw(painter, cell, config, date.dayOfWeek(), isEvenWeek(date));
 }

@@ -60,7 +60,7 @@ MvPaintMarking MvMonthMarks::listedWeek(const QDate &date) const
     return {m_painter, MvPaintMark::Kind::RowHead, listRow(date) - 1, 0, {text}};
 }
 
-MvPaintMarking MvMonthMarks::listedWeekday(const QDate &date) const
+MvPaintMarking MvMonthMarks::listedHead(const QDate &date) const
 {
     return {m_painter, MvPaintMark::Kind::RowHead, listRow(date), 0};
 }

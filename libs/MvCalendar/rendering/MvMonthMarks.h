@@ -38,7 +38,8 @@ public:
     MvPaintMarking listHead(int column) const;
     /// The week that begins with the day, or goes on with it.
     MvPaintMarking listedWeek(const QDate &date) const;
-    MvPaintMarking listedWeekday(const QDate &date) const;
+    /// Weekday, number.
+    MvPaintMarking listedHead(const QDate &date) const;
     MvPaintMarking listedDay(const QDate &date) const;
     /// Some of a day's texts; the column counts from 0.
     MvPaintMarking listedTexts(const QDate &date, int column, const QStringList &texts) const;

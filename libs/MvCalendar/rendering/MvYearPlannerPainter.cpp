@@ -187,7 +187,7 @@ std::optional<double> MvYearPlannerPainter::paintFront(const MvYearPlanner::Part
         weekday.setBaseline(number.baseline());
         weekday.keepInside(cell.adjusted(0.0, hair, 0.0, -hair));
         const QDate month(date.year(), date.month(), 1);
-        const MvPaintMarking mark = MvMonthMarks(m_renderer, m_painter, month).listedWeekday(date);
+        const MvPaintMarking mark = MvMonthMarks(m_renderer, m_painter, month).listedHead(date);
         weekday.draw(m_painter, m_renderer.fontColor({head, config.colorConfig()}, even));
     }
     return number.baseline();

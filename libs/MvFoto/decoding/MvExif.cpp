@@ -2,9 +2,11 @@
 #include "MvFoto/MvExif.h"
 
 #include <QRegularExpression>
+#include <QStringDecoder>
 
 #include <libexif/exif-data.h>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -58,6 +60,23 @@ QDateTime capturedOf(const ExifData *data)
     return time;
 }
 
+/// Cameras write their names, in capitals.
+bool isByCamera(const QString &text)
+{
+    return text.startsWith(u"Exif_"_s) ||
+           std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80 && !c.isLower(); });
+}
+
+QString descriptionOf(const QByteArray &text)
+{
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    QString description = utf8(text);
+    if (utf8.hasError())
+        description = QString::fromLatin1(text);
+    description = description.simplified();
+    return isByCamera(description) ? QString() : description;
+}
+
 QImageIOHandler::Transformations turnOf(int orientation)
 {
     switch (orientation) {
@@ -94,6 +113,7 @@ MvExif::MvExif(const QByteArray &block)
     exif_data_unset_option(data.get(), EXIF_DATA_OPTION_FOLLOW_SPECIFICATION); // nothing is to be added
     exif_data_load_data(data.get(), reinterpret_cast<const unsigned char *>(marked.constData()), uint(marked.size()));
     m_captured = capturedOf(data.get());
+    m_description = descriptionOf(textOf(data->ifd[EXIF_IFD_0], EXIF_TAG_IMAGE_DESCRIPTION));
     m_turn = turnOf(numberOf(data.get(), EXIF_IFD_0, EXIF_TAG_ORIENTATION));
     constexpr int uncalibrated = 0xffff;
     m_isAdobeRgb = numberOf(data.get(), EXIF_IFD_EXIF, EXIF_TAG_COLOR_SPACE) == uncalibrated &&

@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 MvFotoFacts MvFotoFacts::of(const QFileInfo &file)
 {
     MvGuardedImageReader reader(file);
-    MvFotoFacts facts{reader.format(), reader.size(), reader.exif().captured(), reader.error()};
+    const MvExif exif = reader.exif();
+    MvFotoFacts facts{reader.format(), reader.size(), exif.captured(), reader.error(), exif.description()};
     if (facts.format.isEmpty())
         return facts;
     if (facts.size.isEmpty()) {

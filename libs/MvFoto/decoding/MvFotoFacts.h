@@ -20,6 +20,7 @@ struct MVFOTO_EXPORT MvFotoFacts
     QSize size;         // in pixels, upright; invalid when the file cannot be read
     QDateTime captured; // by the camera's clock, as UTC so that this computer's zone changes nothing; may be invalid
     QString error;      // why it cannot be a photo, in one sentence; empty when nothing is known against it
+    QString description = {}; // what somebody wrote about it, on one line; what cameras write by themselves is left out
 
     /// Whether there is a size.
     bool isValid() const { return !size.isEmpty(); }

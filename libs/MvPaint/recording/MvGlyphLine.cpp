@@ -221,6 +221,30 @@ void MvGlyphLine::assignCharacters(const QGlyphRun &run, qsizetype first)
         glyph += isSame ? 1 : step.glyphs;
     }
     m_nextCharacter += unit;
+    if (!run.isRightToLeft())
+        shareCharacters(first);
+}
+
+/// Of "fff" as a ligature and a letter one may have been given all: a glyph without characters takes one of those of
+/// the glyph beside it.
+void MvGlyphLine::shareCharacters(qsizetype first)
+{
+    for (qsizetype i = first; i < m_glyphs.size(); ++i) {
+        if (m_glyphs[i].characters > 0)
+            continue;
+        const bool isFromNext = i + 1 < m_glyphs.size() && m_glyphs[i + 1].characters > 1;
+        const qsizetype from = isFromNext ? i + 1 : i - 1;
+        if (from < first || m_glyphs[from].characters < 2)
+            continue;
+        MvTextOutline::Glyph &owner = m_glyphs[from];
+        const int taken = isFromNext ? owner.firstCharacter : owner.firstCharacter + owner.characters - 1;
+        if (m_seen[taken].isSurrogate() || m_seen[taken].isMark())
+            continue;
+        m_glyphs[i].firstCharacter = taken;
+        m_glyphs[i].characters = 1;
+        owner.firstCharacter += isFromNext ? 1 : 0;
+        --owner.characters;
+    }
 }
 
 void MvGlyphLine::forgetOutlines()

@@ -29,6 +29,7 @@ private:
     /// Finds the characters that the glyphs from `first` on stand for. The text engine does not say it: glyphs that are
     /// those of single characters are recognised, and what lies between belongs together, as a ligature does.
     void assignCharacters(const QGlyphRun &run, qsizetype first);
+    void shareCharacters(qsizetype first);
 
     const QString m_seen; // in the letters that are shown
     qsizetype m_nextCharacter = 0;

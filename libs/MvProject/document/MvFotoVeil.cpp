@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvFotoVeil.h"
 
+#include "MvFoto/MvFotoFacts.h"
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvPaint/MvPaintMark.h"
+#include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvFotoPainter.h"
 #include "MvProject/MvPageInks.h"
 #include "MvProject/MvVeilField.h"
 
+#include <QFileInfo>
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -88,13 +91,21 @@ bool isLegible(const QImage &beneath, QRgb veil, double strength, const QList<do
     return true;
 }
 
+/// What is said of a photo where it is asked for: its caption, or what its file says.
+QStringList descriptionOf(const MvFotoElement &foto, const QPainter &painter)
+{
+    if (foto.isEmpty() || !foto.caption().isEmpty() || !MvPaintMarking::isAsked(painter))
+        return {foto.caption()};
+    return {MvPrintableText::onOneLine(MvFotoFacts::of(QFileInfo(foto.path())).description)};
+}
+
 } // namespace
 
 void MvFotoVeil::paintFotos(QPainter &painter) const
 {
     const MvPageBackground &background = m_page.background();
     if (!background.foto().isEmpty()) {
-        const MvPaintMarking mark(painter, MvPaintMark::Kind::Figure, -1, 0, {background.foto().caption()});
+        const MvPaintMarking mark(painter, MvPaintMark::Kind::Figure, -1, 0, descriptionOf(background.foto(), painter));
         MvFotoPainter(painter, background.foto(), m_fotos).paint(m_format.mediaRect());
         QColor veil = ground();
         veil.setAlphaF(float(background.veil()));
@@ -105,7 +116,8 @@ void MvFotoVeil::paintFotos(QPainter &painter) const
     for (const MvPageElement &element : m_elements) {
         if (!element.foto())
             continue;
-        const MvPaintMarking mark(painter, MvPaintMark::Kind::Figure, ++number, 0, {element.foto()->caption()});
+        const MvPaintMarking mark(painter, MvPaintMark::Kind::Figure, ++number, 0,
+                                  descriptionOf(*element.foto(), painter));
         MvFotoPainter(painter, *element.foto(), m_fotos).paint(element.rect(), element.rotation());
     }
 }

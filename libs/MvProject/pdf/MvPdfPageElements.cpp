@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -14,6 +15,11 @@ constexpr int decoration = MvPdfPageParts::decoration;
 
 const QByteArray columnHead = "<</O/Table/Scope/Column>>";
 const QByteArray rowHead = "<</O/Table/Scope/Row>>";
+
+bool isReadAsPainted(const MvPdfPageParts::Part &part, const QString &whole)
+{
+    return !part.isDrawn && part.painted == QStringList(whole);
+}
 
 } // namespace
 
@@ -39,9 +45,12 @@ int MvPdfPageElements::findHeading() const
         const Part &part = m_parts.part(i);
         if (!isOfTable(part) || !m_parts.isSeen(i))
             continue;
-        isOneOfMany = heading != decoration && part.size == m_parts.part(heading).size;
-        if (isLarger(part))
+        if (isLarger(part)) {
             heading = i;
+            isOneOfMany = false;
+        } else if (part.size == m_parts.part(heading).size) {
+            isOneOfMany = true;
+        }
     }
     if (isOneOfMany)
         heading = decoration;
@@ -64,20 +73,18 @@ MvPdfElement MvPdfPageElements::section(const QString &name) const
     return section;
 }
 
-/// From top to bottom. What is a group is read in one piece: in the order of its numbers, as months follow each other.
+/// From top to bottom; within a group tables in the order of their numbers, as months follow each other.
 void MvPdfPageElements::addPartsOf(int part, std::vector<MvPdfElement> &into) const
 {
     QList<int> inner = m_parts.part(part).parts;
     inner.removeIf([this](int number) { return number == m_heading || !m_parts.isSeen(number); });
-    const bool isPage = part == MvPdfPageParts::page;
-    std::stable_sort(inner.begin(), inner.end(), [&](int a, int b) {
-        const Part &one = m_parts.part(a);
-        const Part &other = m_parts.part(b);
-        if (one.bounds.bottom() != other.bounds.bottom() && (isPage || one.kind != other.kind))
-            return one.bounds.bottom() > other.bounds.bottom(); // coordinates rise upwards
-        return one.kind == Kind::Table && other.kind == Kind::Table ? one.row < other.row
-                                                                    : one.bounds.left() < other.bounds.left();
-    });
+    const auto place = [this](int number) {
+        const Part &placed = m_parts.part(number);
+        const bool isTable = placed.kind == Kind::Table;
+        const double top = isTable ? double(placed.row) : -placed.bounds.bottom(); // coordinates rise upwards
+        return std::tuple(isTable, top, placed.bounds.left());
+    };
+    std::stable_sort(inner.begin(), inner.end(), [&place](int a, int b) { return place(a) < place(b); });
     for (const int number : std::as_const(inner)) {
         if (m_parts.part(number).kind == Kind::Group)
             addPartsOf(number, into);
@@ -109,7 +116,7 @@ MvPdfElement MvPdfPageElements::text(int part, const QByteArray &type) const
     QString whole = shown.texts.texts().value(0).simplified();
     if (whole.isEmpty())
         whole = shown.painted.join(u' ');
-    if (shown.painted == QStringList(whole))
+    if (isReadAsPainted(shown, whole))
         return element;
     const bool isShort = shown.painted.size() == 1 && whole.startsWith(painted, Qt::CaseInsensitive) &&
                          (shown.kind == Kind::ColumnHead || shown.kind == Kind::RowHead);
@@ -155,17 +162,19 @@ void MvPdfPageElements::addTexts(const Part &cell, std::vector<MvPdfElement> &in
     MvPdfElement all{"P"};
     QStringList wholes;
     QStringList painted;
+    bool isDrawn = false;
     for (const int number : std::as_const(texts)) {
         const Part &part = m_parts.part(number);
         MvPdfElement element{"P"};
         element.contents = part.contents;
         const QString whole = cell.texts.texts().value(part.text).simplified();
-        if (part.painted != QStringList(whole))
+        if (!isReadAsPainted(part, whole))
             element.whole = whole;
         if (!cell.texts.hasJoinedLines())
             into.push_back(element);
         all.contents += part.contents;
         painted += part.painted;
+        isDrawn |= part.isDrawn;
     }
     if (!cell.texts.hasJoinedLines() || texts.isEmpty())
         return;
@@ -173,7 +182,7 @@ void MvPdfPageElements::addTexts(const Part &cell, std::vector<MvPdfElement> &in
         if (cell.texts.isPainted(text))
             wholes.append(cell.texts.texts().at(text).simplified());
     }
-    if (const QString whole = wholes.join(u", "_s); painted != QStringList(whole))
+    if (const QString whole = wholes.join(u", "_s); isDrawn || painted != QStringList(whole))
         all.whole = whole;
     into.push_back(all);
 }

@@ -487,7 +487,10 @@ void MvPdfPagePainter::useOpacity(double fill, double stroke, const QByteArray &
 
 void MvPdfPagePainter::enterPart(int part)
 {
-    m_parts.addBounds(part, m_bounds);
+    QRectF seen = m_bounds;
+    for (const MvPaintClip *clip : m_clips)
+        seen &= clipOf(*clip).path.boundingRect();
+    m_parts.addBounds(part, seen);
     if (m_part == part)
         return;
     leavePart();

@@ -43,6 +43,7 @@ MvPdfPageParts::MvPdfPageParts(const MvPaintRecordingData &recording)
             if (part != decoration) {
                 Part &read = m_parts[size_t(part)];
                 read.painted.append(line.outline.text().simplified());
+                read.isDrawn |= line.outline.glyphs().isEmpty() || !line.outline.pictures().isEmpty();
                 read.size = std::max(read.size, sizeOf(line.outline, recording.states[operation.state].transform));
             }
         }

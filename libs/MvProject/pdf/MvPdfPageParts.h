@@ -33,6 +33,7 @@ public:
         int text = 0;          ///< of a text in a cell: its number
         MvPdfWholeTexts texts;
         QStringList painted = {}; ///< its lines
+        bool isDrawn = false;     ///< letters among them are shapes or pictures that say nothing by themselves
         double size = 0.0;        ///< of the largest letters
         QRectF bounds;            ///< upwards, in the units of the content
         QList<int> contents = {}; ///< the numbers of what is marked
