@@ -103,11 +103,12 @@ void MvBatchJob::completeYear()
 
 MvBatchJob::Call MvBatchJob::call() const
 {
+    static const QList<MvCliOption> known = MvRenderCommand().options(); // many lines ask
     Call call;
     QStringList all;
     for (auto option = options.constBegin(); option != options.constEnd(); ++option)
         all += words(option.key(), option.value());
-    call.error = call.arguments.parse(all, MvRenderCommand().options()).error;
+    call.error = call.arguments.parse(all, known).error;
     if (!call.isOk())
         return call;
     for (const QString &name : strangers()) {

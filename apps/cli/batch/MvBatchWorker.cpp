@@ -4,6 +4,7 @@
 #include "MvBatchInputs.h"
 #include "MvBatchUsage.h"
 #include "MvInterruption.h"
+#include "MvPaint/MvTextOutlineCache.h"
 #include "MvRenderCommand.h"
 
 #include <QDateTime>
@@ -19,6 +20,10 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// So many are made before what they have left is forgotten: shaping what all have in common anew takes as long as a
+/// page, and what each has of its own adds up.
+constexpr int calendarsOfAGeneration = 200;
 
 /// What the libraries say while a calendar is made, from any thread.
 class Messages
@@ -141,9 +146,11 @@ MvCliCommand::ExitCode MvBatchWorker::run()
         return MvCliCommand::Failed;
     Lines lines;
     QByteArray line;
-    while (lines.next(&line)) {
+    for (int done = 1; lines.next(&line); ++done) {
         if (!writeAll(answers, perform(Task::fromLine(line)).toLine()))
             return MvCliCommand::Failed;
+        if (done % calendarsOfAGeneration == 0) // what names of other people measured is of no use any more
+            MvTextOutlineCache::instance().clear();
     }
     ::close(answers);
     return MvCliCommand::Done;
