@@ -4,10 +4,13 @@
 #include "MvPairwisePlan.h"
 #include "MvTest.h"
 
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+
 #include <QDir>
 
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -72,6 +75,8 @@ private Q_SLOTS:
     void prints();
     void wasFaulty_data();
     void wasFaulty();
+    void growsWithItsPaper_data();
+    void growsWithItsPaper();
 };
 
 /// The plan holds what it promises.
@@ -181,6 +186,45 @@ void tst_EveryPage::wasFaulty()
     const QList<MvPageAudit::Fault> found = MvPageAudit::faults(page);
     QVERIFY2(found.isEmpty(), qPrintable(found.value(0).what));
     QTEST(page.unfitting.isEmpty(), "isWhole");
+}
+
+void tst_EveryPage::growsWithItsPaper_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QString>("form"); // of the paper
+    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        for (const QString &form : {u""_s, u" landscape"_s}) {
+            if (schema.calendariumType().traits().monthsPerPage() > 1)
+                QTest::newRow(qPrintable(schema.ID().toString() + form)) << schema.ID().toString() << form;
+        }
+    }
+}
+
+/// What a smaller paper has room for is on a larger one, too.
+void tst_EveryPage::growsWithItsPaper()
+{
+    QFETCH(QString, layout);
+    QFETCH(QString, form);
+    MvPageChoice choice;
+    choice.layout = layout;
+    choice.language = MvLocale(u"de_DE"_s);
+    choice.region = u"BY"_s;
+    choice.month = QDate(2027, 5, 1);
+    for (const auto &[place, share] : std::initializer_list<std::pair<QString, double>>{
+             {u"none"_s, 0.55}, {u"top"_s, 0.55}, {u"left"_s, 0.45}, {u"left"_s, 0.55}, {u"left"_s, 0.65}}) {
+        choice.place = place;
+        choice.share = share;
+        qsizetype missing = std::numeric_limits<qsizetype>::max();
+        for (const QString &size : {u"A5"_s, u"A4"_s, u"A3"_s, u"A2"_s}) {
+            choice.paper = size + form;
+            const qsizetype present = MvPrintedPage(choice, QString()).unfitting.size();
+            QVERIFY2(present <= missing,
+                     qPrintable(u"%1: %2 texts missing, %3 on the smaller paper"_s.arg(choice.describe())
+                                    .arg(present)
+                                    .arg(missing)));
+            missing = present;
+        }
+    }
 }
 
 MV_TEST_MAIN(tst_EveryPage)

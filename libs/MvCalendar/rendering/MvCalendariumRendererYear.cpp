@@ -296,7 +296,12 @@ MvYearPlanner::Sizes MvCalendariumRendererYear::neededPlannerSizes() const
     for (const MvCalendarCellType &type : dayCellTypes()) {
         needed.numberWidth = std::max(needed.numberWidth, textWidth(type, wideNumbers));
         needed.lineHeight = std::max(needed.lineHeight, lineHeight(type));
-        needed.textHeight = std::max(needed.textHeight, QFontMetricsF(fontHolidays(type)).height());
+        const QFont text = fontHolidays(type);
+        const double height = QFontMetricsF(text).height();
+        const double smallest = height * std::min(1.0, smallestHolidayPixelSize(type) / text.pixelSize());
+        const double right = std::max(hair, padding(type).right());
+        needed.textHeight = std::max(needed.textHeight, height);
+        needed.leastTextWidth = std::max(needed.leastTextWidth, MvYearPlanner::leastTextWidth * smallest + right);
     }
     needed.numberWidth += gapBesideNumber();
     const QStringList names = weekdayNames(true) << saturdayName(true) << sundayName(true);

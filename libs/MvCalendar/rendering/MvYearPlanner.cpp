@@ -10,11 +10,7 @@ MvYearPlanner::MvYearPlanner(const QRectF &rect, const QDate &firstMonth, const 
     , m_sizes(sizes)
     , m_nameHeight(sizes.nameHeight * std::min(1.0, rect.height() / minimumSize(sizes).height()))
 {
-    // the length of text that a cell holds
-    const QSizeF cell = dayRect(0, 1).size();
-    const double beside = (cell.width() - frontWidth()) * std::floor(cell.height() / sizes.textHeight);
-    const double beneath = cell.width() * std::floor((cell.height() - sizes.lineHeight) / sizes.textHeight);
-    m_hasTextsBeneath = beneath > beside;
+    m_hasTextsBeneath = lengthBeneath() > lengthBeside();
 }
 
 QSizeF MvYearPlanner::minimumSize(const Sizes &sizes)
@@ -66,9 +62,27 @@ double MvYearPlanner::rowEdge(int row) const
     return m_rect.top() + m_nameHeight + (m_rect.height() - m_nameHeight) * row / mostDays;
 }
 
-/// Of the number, and of the weekday where there is room for both.
+/// The length of text that a cell holds beside number and weekday; 0 where only ellipses would be seen.
+double MvYearPlanner::lengthBeside() const
+{
+    const QSizeF cell = dayRect(0, 1).size();
+    const double width = cell.width() - frontWidth();
+    return width >= m_sizes.leastTextWidth ? width * std::floor(cell.height() / m_sizes.textHeight) : 0.0;
+}
+
+/// The same beneath them.
+double MvYearPlanner::lengthBeneath() const
+{
+    const QSizeF cell = dayRect(0, 1).size();
+    const double height = cell.height() - m_sizes.lineHeight;
+    return cell.width() >= m_sizes.leastTextWidth ? cell.width() * std::floor(height / m_sizes.textHeight) : 0.0;
+}
+
+/// Of the number, and of the weekday where there is room for both, and for texts if the number alone leaves them some.
 double MvYearPlanner::frontWidth() const
 {
     const double both = m_sizes.numberWidth + m_sizes.weekdayWidth;
-    return both <= m_rect.width() / monthCount ? both : m_sizes.numberWidth;
+    const auto hasRoomBeside = [this](double front) { return front + m_sizes.leastTextWidth <= columnWidth(); };
+    const bool helpsTexts = lengthBeneath() <= 0.0 && !hasRoomBeside(both) && hasRoomBeside(m_sizes.numberWidth);
+    return both <= columnWidth() && !helpsTexts ? both : m_sizes.numberWidth;
 }

@@ -19,7 +19,6 @@ namespace {
 constexpr int daysPerWeek = 7;
 constexpr double readableContrast = 4.5; // WCAG 2.1, level AA
 constexpr double gapBeneathNumber = 0.2; // in heights of a line
-constexpr double leastTextWidth = 2.5;   // in heights of a line; less than that shows ellipses only
 constexpr double gapBetweenNames = 0.2;  // of months, of the size of type
 constexpr double edgeOfNumber = 0.14;    // of the size of type; numbers of two months do not touch
 constexpr double hair = 2.0;             // that ink keeps from the edge of its cell
@@ -94,6 +93,7 @@ const MvYearPlannerPainter::Style &MvYearPlannerPainter::style(const MvCalendarC
     Style style{isWeekday ? m_renderer.fittingFont(type, m_weekdaySize, m_weekdays) : m_renderer.font(type),
                 m_renderer.holidayFitter(type)};
     style.lineHeight = QFontMetricsF(style.texts.font()).height();
+    style.smallestLine = style.lineHeight * std::min(1.0, style.texts.floor() / style.texts.font().pixelSize());
     style.leftPadding = m_renderer.padding(type).left();
     style.rightPadding = m_renderer.padding(type).right();
     return m_styles.emplace(type.value(), style).first->second;
@@ -265,7 +265,7 @@ bool MvYearPlannerPainter::areAsWritten(const Texts &texts, const QStringList &w
 MvYearPlannerPainter::Texts MvYearPlannerPainter::fittingTexts(const QStringList &texts, const QRectF &inner,
                                                                const Style &style) const
 {
-    if (texts.isEmpty() || inner.width() < leastTextWidth * style.lineHeight)
+    if (texts.isEmpty() || inner.width() < MvYearPlanner::leastTextWidth * style.smallestLine)
         return {};
     Texts best = setTexts(texts, inner.size(), style);
     if (!best.set.isCut)

@@ -29,7 +29,8 @@ private:
     {
         QFont font; // of numbers and weekdays
         MvTextFitter texts;
-        double lineHeight = 0.0; // of the texts
+        double lineHeight = 0.0;   // of the texts
+        double smallestLine = 0.0; // the same in their smallest type
         double rightPadding = 0.0;
         double leftPadding = 0.0;
     };
