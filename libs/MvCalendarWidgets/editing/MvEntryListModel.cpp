@@ -153,10 +153,31 @@ MvCalendarEvent MvEntryListModel::event(int row) const
     return row >= 0 && row < m_shown.size() ? m_events.at(m_shown.at(row)) : MvCalendarEvent();
 }
 
+/// One is looked for without an index of all.
+int MvEntryListModel::rowOf(const MvCalendarEvent &event) const
+{
+    int ofUuid = -1;
+    int count = 0;
+    for (int row = 0; row < m_shown.size(); ++row) {
+        const MvCalendarEvent &shown = m_events.at(m_shown.at(row));
+        if (shown == event)
+            return row;
+        if (shown.uuid() == event.uuid()) {
+            ofUuid = row;
+            ++count;
+        }
+    }
+    return count == 1 ? ofUuid : -1;
+}
+
 QList<int> MvEntryListModel::rowsOf(const MvCalendarEventList &events) const
 {
     if (events.isEmpty())
         return {};
+    if (events.size() == 1) {
+        const int row = rowOf(events.constFirst());
+        return row >= 0 ? QList<int>{row} : QList<int>();
+    }
     QHash<MvCalendarEvent, int> equal;
     QMultiHash<QUuid, int> ofUuid;
     for (int row = 0; row < m_shown.size(); ++row) {

@@ -55,6 +55,7 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 private:
+    int rowOf(const MvCalendarEvent &event) const;
     QString display(const MvCalendarEvent &event, int column) const;
     QString inFull(const MvCalendarEvent &event, int column) const;
     QString tip(const MvCalendarEvent &event) const;
