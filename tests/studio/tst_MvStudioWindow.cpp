@@ -5,7 +5,7 @@
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
-#include "MvStudioFixture.h"
+#include "MvStudioTest.h"
 #include "MvWidgetDriver.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
@@ -17,13 +17,11 @@
 using namespace Qt::StringLiterals;
 
 /// What a person does with the window: menus, dialogs and questions, driven through the real widgets.
-class tst_MvStudioWindow : public MvWidgetTest
+class tst_MvStudioWindow : public MvStudioTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup() { m_studio.reset(); }
     void firstStart();
     void everyActionIsComplete();
     void newCalendar();
@@ -42,29 +40,11 @@ private Q_SLOTS:
     void settings();
 
 private:
-    MvStudioWindow *window() const { return m_studio->window(); }
-    MvProject *project() const { return m_studio->project(); }
-    QString path(const QString &name) const { return m_studio->path(name); }
-    void trigger(const char *action) const { QVERIFY2(m_studio->trigger(action), action); }
-    void click(QWidget *parent, const char *button) const { QVERIFY2(m_studio->click(parent, button), button); }
     void chooseFile(const QString &path) const { QVERIFY2(m_studio->chooseFile(path), qPrintable(path)); }
-    template <class Dialog = QDialog>
-    static Dialog *dialog(const char *name)
-    {
-        return MvStudioFixture::dialog<Dialog>(name);
-    }
     void rename(const QString &title) const;
     void importCards(const QByteArrayList &cards);
     QString importReport() const;
-
-    std::unique_ptr<MvStudioFixture> m_studio;
 };
-
-void tst_MvStudioWindow::init()
-{
-    failOnWarnings();
-    m_studio = std::make_unique<MvStudioFixture>();
-}
 
 void tst_MvStudioWindow::rename(const QString &title) const
 {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvProject/MvProject.h"
-#include "MvStudioFixture.h"
+#include "MvStudioTest.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintPages.h"
 #include "flows/MvPrintPreview.h"
@@ -11,37 +10,15 @@
 using namespace Qt::StringLiterals;
 
 /// What leaves the studio: the dialog for exports and what it refuses, the print preview and its printer.
-class tst_StudioOutput : public MvWidgetTest
+class tst_StudioOutput : public MvStudioTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup() { m_studio.reset(); }
     void exportErrors();
     void print();
     void cancelledPreview();
-
-private:
-    MvStudioWindow *window() const { return m_studio->window(); }
-    MvProject *project() const { return m_studio->project(); }
-    QString path(const QString &name) const { return m_studio->path(name); }
-    void trigger(const char *action) const { QVERIFY2(m_studio->trigger(action), action); }
-    void click(QWidget *parent, const char *button) const { QVERIFY2(m_studio->click(parent, button), button); }
-    template <class Dialog = QDialog>
-    static Dialog *dialog(const char *name)
-    {
-        return MvStudioFixture::dialog<Dialog>(name);
-    }
-
-    std::unique_ptr<MvStudioFixture> m_studio;
 };
-
-void tst_StudioOutput::init()
-{
-    failOnWarnings();
-    m_studio = std::make_unique<MvStudioFixture>();
-}
 
 void tst_StudioOutput::exportErrors()
 {

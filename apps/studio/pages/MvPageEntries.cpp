@@ -11,6 +11,7 @@
 #include "MvCalendar/MvEntryQuestion.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCell.h"
 #include "MvCalendar/MvGraphicsItemCalendariumCellsManager.h"
+#include "MvCalendar/MvOpenCalendar.h"
 #include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvProject.h"
 
@@ -208,8 +209,8 @@ bool MvPageEntries::release(const QPoint &position, Qt::KeyboardModifiers modifi
 void MvPageEntries::drop(const MvEntryMove &move, bool isCopy)
 {
     const auto take = [this](const QString &step, const QString &told) {
-        return [this, step, told](const QList<MvEntryChange> &changes) {
-            if (changes.isEmpty())
+        return [this, step, told, calendar = MvOpenCalendar(m_project->session())](const auto &changes) {
+            if (changes.isEmpty() || !calendar.isStillOpen())
                 return;
             MvEntryEdits(m_project->session()).change(step, step, changes);
             Q_EMIT message(told);

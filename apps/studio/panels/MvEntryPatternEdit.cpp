@@ -2,7 +2,7 @@
 #include "panels/MvEntryPatternEdit.h"
 
 #include "MvCalendar/MvEventText.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvPaint/MvPrintableText.h"
 
 #include <QCheckBox>
@@ -43,7 +43,7 @@ MvEntryPatternEdit::MvEntryPatternEdit(const QString &emptyForm, const QString &
     unseen->hide();
     m_forms->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_forms->setMinimumContentsLength(formLetters);
-    m_forms->installEventFilter(new MvMouseWheelEventFilter(m_forms));
+    MvFormFields::keepWheelOut({m_forms});
     m_forms->addItem(emptyForm, QString());
     const QString places[] = {u"%name"_s, u"%age"_s, u"%year"_s};
     const QString forms[] = {places[0],

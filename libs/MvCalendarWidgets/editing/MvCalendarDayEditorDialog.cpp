@@ -14,6 +14,7 @@
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvStringHelper.h"
 #include "MvCore/MvUndoController.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvGUIWidgets/MvLineEdit.h"
 
 #include <QAccessible>
@@ -177,8 +178,7 @@ void MvCalendarDayEditorDialog::setupKeyboard()
     order += m_repetitionEdit->focusWidgets();
     order += m_fotoField->focusWidgets();
     order += {m_deleteButton, m_cancelButton, m_okAndContinueButton, m_okButton};
-    for (qsizetype i = 1; i < order.size(); ++i)
-        setTabOrder(order.at(i - 1), order.at(i));
+    MvFormFields::setTabOrder(order);
 }
 
 void MvCalendarDayEditorDialog::setSize(int width, int height)

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendarEventFotoIntake.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCalendar/MvOpenCalendar.h"
 
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvFoto/MvFotoLoader.h"
@@ -30,7 +31,9 @@ void MvCalendarEventFotoIntake::take(const MvCalendarEvent &event, const MvFoto 
                                      MvSession &session)
 {
     MvFotoLoader::midRes(foto, MvCalendarEvent::fotoQuality, MvCalendarEvent::fotoCaching, asker,
-                         [event, foto, asker, use, &session](const QImage &) {
+                         [event, foto, asker, use, &session, calendar = MvOpenCalendar(session)](const QImage &) {
+                             if (!calendar.isStillOpen())
+                                 return;
                              const MvCalendarEvent before = presentForm(event, session.entries().activeEventList());
                              MvCalendarEvent after = before;
                              if (!before.isValid())

@@ -17,7 +17,7 @@ public:
 
     /// Hands over the entry as it is by then and the same with the photo: before returning for a small photo, later
     /// for one that is decoded in the background. The asker is told why when the photo cannot be taken; the entry
-    /// keeps the one it has. Nothing happens when entry or asker are gone by then.
+    /// keeps the one it has. Nothing happens when entry or asker are gone by then, or another calendar is open.
     static void take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use,
                      MvSession &session = MvSession::defaultSession());
 };

@@ -21,6 +21,7 @@
 #include "MvCore/MvUndoController.h"
 #include "MvCore/MvYesNoRequest.h"
 #include "MvGUIWidgets/MvActionRegistry.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvGUIWidgets/MvIconRegistry.h"
 #include "MvGUIWidgets/MvTableView.h"
 
@@ -55,8 +56,7 @@ MvCalendarEventListWidget::MvCalendarEventListWidget(QWidget *parent, MvSession 
     m_tableView = createEventTableView(this);
     auto *layout = new QGridLayout(this);
     m_searchField = createSearchField(this);
-    setTabOrder(newEntryButton, m_searchField);
-    setTabOrder(m_searchField, m_tableView);
+    MvFormFields::setTabOrder({newEntryButton, m_searchField, m_tableView});
     layout->addWidget(newEntryButton, 0, 0, Qt::AlignLeft);
     layout->addWidget(m_searchField, 0, 1);
     layout->setColumnStretch(1, 1);
@@ -431,9 +431,9 @@ void MvCalendarEventListWidget::clearEventList()
             : tr("Ihre Einträge verschwinden aus allen Ihren Kalendern, nicht nur aus diesem. Mit „Rückgängig“ "
                  "bekommen Sie sie wieder.");
     question.buttons = QStringList{tr("Ja"), tr("Nein")};
-    const auto clear = [this](bool yes) {
+    const auto clear = [this, calendar = MvOpenCalendar(m_session)](bool yes) {
         MvLogger::legacyLog(u"CalendarEvents ACTION:deleteAll VALUE:%1"_s.arg(int(yes)));
-        if (yes)
+        if (yes && calendar.isStillOpen())
             replaceEvents(u"clearEventList"_s, tr("Einträge löschen"), events(), {}, Reach::ActiveList);
     };
     MvYesNoRequest::instance().request(question, this, clear);

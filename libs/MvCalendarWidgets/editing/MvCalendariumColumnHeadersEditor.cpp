@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumColumnHeadersEditor.h"
 
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvGUIWidgets/MvSpinBox.h"
 #include "MvGUIWidgets/MvWholeTextDelegate.h"
 
@@ -40,7 +40,7 @@ QSpinBox *MvCalendariumColumnHeadersEditor::createCountColumnsBox()
     box->setRange(1, mostColumns);
     box->setSuffix(tr(" Spalten"));
     box->setFixedWidth(listWidth);
-    box->installEventFilter(new MvMouseWheelEventFilter(box));
+    MvFormFields::keepWheelOut({box});
     connect(box, &QSpinBox::valueChanged, this, &MvCalendariumColumnHeadersEditor::countColumnsChanged);
     return box;
 }

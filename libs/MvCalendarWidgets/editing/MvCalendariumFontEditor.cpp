@@ -2,7 +2,7 @@
 #include "MvCalendar/MvCalendariumFontEditor.h"
 
 #include "MvGUIWidgets/MvFontFamilyBox.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvGUIWidgets/MvSpinBox.h"
 #include "MvModelBase/MvFontTester.h"
 
@@ -48,7 +48,7 @@ MvFontFamilyBox *MvCalendariumFontEditor::createFontFamilyComboBox()
     box->setAccessibleName(tr("Schriftart"));
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(10);
-    box->installEventFilter(new MvMouseWheelEventFilter(box));
+    MvFormFields::keepWheelOut({box});
     connect(box, &QComboBox::currentIndexChanged, this, &MvCalendariumFontEditor::somethingChanged);
     return box;
 }
@@ -61,7 +61,7 @@ QSpinBox *MvCalendariumFontEditor::createFontSizeSpinBox(const QString &objectNa
     box->setSingleStep(10);
     box->setSuffix(tr(" %"));
     box->setValue(percentage + unchangedSize);
-    box->installEventFilter(new MvMouseWheelEventFilter(box));
+    MvFormFields::keepWheelOut({box});
     connect(box, &QSpinBox::valueChanged, this, &MvCalendariumFontEditor::somethingChanged);
     return box;
 }

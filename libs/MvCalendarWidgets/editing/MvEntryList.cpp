@@ -8,7 +8,7 @@
 #include "MvCalendar/MvOpenCalendar.h"
 
 #include "MvGUIWidgets/MvFlowLayout.h"
-#include "MvGUIWidgets/MvMouseWheelEventFilter.h"
+#include "MvGUIWidgets/MvFormFields.h"
 #include "MvPaint/MvPrintableText.h"
 
 #include <QAction>
@@ -115,7 +115,7 @@ QWidget *MvEntryList::createFilters()
     m_groupFilter->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_groupFilter->setMinimumContentsLength(groupLetters);
     m_groupFilter->setIconSize(MvEntryListModel::sizeOfDots(MvEntryListModel::dots({MvEventGroup()})));
-    m_groupFilter->installEventFilter(new MvMouseWheelEventFilter(m_groupFilter));
+    MvFormFields::keepWheelOut({m_groupFilter});
     auto *groups = new QToolButton(row);
     groups->setObjectName(u"editGroupsButton"_s);
     groups->setText(tr("Gruppen …"));
