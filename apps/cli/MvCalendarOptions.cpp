@@ -145,7 +145,8 @@ MvPageFormat MvCalendarOptions::pageFormat(MvCliValues &values)
     else if (values.text(u"binding"_s).compare(u"side"_s, Qt::CaseInsensitive) == 0)
         binding = MvPageFormat::Binding::Left;
     format.setBinding(binding);
-    format.setBleed(10.0 * values.millimetres(u"bleed"_s, widestBleed, 0.0));
+    const double usualBleed = values.has(u"press"_s) ? MvPageFormat::printShopBleed / 10.0 : 0.0;
+    format.setBleed(10.0 * values.millimetres(u"bleed"_s, widestBleed, usualBleed));
     return format;
 }
 

@@ -48,6 +48,9 @@ const QList<Rule> &rules()
                                    {u"author"_s, {project}, {}},
                                    {u"dpi"_s, {}, {}},
                                    {u"jobs"_s, {}, {}},
+                                   {u"press"_s, {}, {}},
+                                   {u"no-marks"_s, {}, {}},
+                                   {u"ink-limit"_s, {}, {}},
                                    {u"no-overwrite"_s, {u"overwrite"_s}, {}},
                                    {u"quiet"_s, {u"verbose"_s}, {}},
                                    {u"verbose"_s, {u"quiet"_s}, {}}};

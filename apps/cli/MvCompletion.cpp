@@ -4,6 +4,7 @@
 #include "MvCliValues.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 #include "MvProject/MvPageFormat.h"
+#include "MvProject/MvPressProfile.h"
 #include "MvProject/MvThemeRegistry.h"
 #include "MvSchemaListCommand.h"
 
@@ -85,6 +86,9 @@ QList<MvCompletion::Candidate> MvCompletion::valuesOf(const MvCliOption &option,
             found.append({theme.id(), theme.name()});
     } else if (option.name == u"page"_s) {
         for (const QString &name : MvPageFormat::names())
+            found.append({name, {}});
+    } else if (option.name == u"press"_s) {
+        for (const QString &name : MvPressProfile::names())
             found.append({name, {}});
     } else if (option.value.contains(u'|')) {
         for (const QString &word : option.value.split(u'|'))

@@ -56,6 +56,7 @@ QStringList MvRenderCommand::examples() const
             u"render --year 2027 --layout FAMILY_PLANNER --columns \"Mama,Papa,Lena,Jonas\" --portrait -o planer.pdf"_s,
             u"render --year 2027 --entries geburtstage.xml --report json -o kalender.pdf"_s,
             u"render --project familie.mvcalendar -o kalender.pdf"_s,
+            u"render --project familie.mvcalendar --press fogra39 -o druckerei.pdf"_s,
             u"render --project familie.mvcalendar --pages cover -o titelblatt.png"_s,
             u"render --year 2027 --colors NIGHT --dpi 150 -o seite-%m.png"_s};
 }
@@ -154,6 +155,7 @@ MvCliCommand::Result MvRenderCommand::write(const MvCalendarDocument &document, 
     report.setSkippedEntries(entries.file(), entries.skipped());
     const MvExportResult result = targets.write(document.pageSource(sources, found).part(chosen), streams);
     report.addMissingFotos(result.missingFotos);
+    report.setInks(result.inks, targets.inkLimit());
     for (const QFileInfo &file : result.files) {
         report.addFile(file.filePath());
         if (!isReported && !targets.isStandardOutput() && !streams.isQuiet)

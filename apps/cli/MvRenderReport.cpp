@@ -8,7 +8,9 @@
 #include <QJsonObject>
 #include <QTextStream>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -76,6 +78,15 @@ QJsonObject fotoObject(int page, const MvPrintedFoto &foto)
             {u"rect"_s, rectObject(foto.rect)}};
 }
 
+QJsonObject inkObject(const MvInkUse &ink, int limit)
+{
+    return {{u"page"_s, ink.page + 1},
+            {u"percent"_s, std::round(ink.percent)},
+            {u"limit"_s, limit},
+            {u"x"_s, std::round(ink.place.x())},
+            {u"y"_s, std::round(ink.place.y())}};
+}
+
 } // namespace
 
 MvRenderReport::MvRenderReport(const MvCalendarDocument &document, const MvRenderingSources &sources)
@@ -104,6 +115,12 @@ void MvRenderReport::setSkippedEntries(const QFileInfo &file, const QList<MvCale
     m_skipped = skipped;
 }
 
+void MvRenderReport::setInks(const QList<MvInkUse> &inks, int limit)
+{
+    m_inks = inks;
+    m_inkLimit = limit;
+}
+
 QString MvRenderReport::toJson() const
 {
     return QString::fromUtf8(QJsonDocument(toObject()).toJson());
@@ -127,11 +144,17 @@ QJsonObject MvRenderReport::toObject() const
         for (const MvPrintedFoto &foto : page->fotos)
             fotos.append(fotoObject(page.key() + 1, foto));
     }
-    return {{u"files"_s, QJsonArray::fromStringList(m_files)},
-            {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingFotos)},
-            {u"photos"_s, fotos},
-            {u"skippedEntries"_s, skippedEntries},
-            {u"unfitting"_s, unfitting}};
+    QJsonObject report{{u"files"_s, QJsonArray::fromStringList(m_files)},
+                       {u"missingPhotos"_s, QJsonArray::fromStringList(m_missingFotos)},
+                       {u"photos"_s, fotos},
+                       {u"skippedEntries"_s, skippedEntries},
+                       {u"unfitting"_s, unfitting}};
+    QJsonArray inks;
+    for (const MvInkUse &ink : m_inks)
+        inks.append(inkObject(ink, m_inkLimit));
+    if (!inks.isEmpty())
+        report.insert(u"ink"_s, inks);
+    return report;
 }
 
 void MvRenderReport::printHint(QTextStream &hints) const
@@ -140,6 +163,7 @@ void MvRenderReport::printHint(QTextStream &hints) const
     for (const QString &path : m_missingFotos)
         hints << MvCliProject::missingFoto(path) << '\n';
     printFotoHints(hints);
+    printInkHints(hints);
 }
 
 void MvRenderReport::printTextHints(QTextStream &hints) const
@@ -193,5 +217,27 @@ void MvRenderReport::printFotoHints(QTextStream &hints) const
     if (modest > 0)
         hints << tr("%n Fotos mit weniger als %1 Pixeln je Zoll; --report json nennt sie", nullptr, modest)
                      .arg(MvFotoResolution::modestBelow)
+              << '\n';
+}
+
+void MvRenderReport::printInkHints(QTextStream &hints) const
+{
+    QList<MvInkUse> told;
+    const auto isTooMuch = [this](const MvInkUse &ink) { return std::round(ink.percent) > m_inkLimit; };
+    std::copy_if(m_inks.cbegin(), m_inks.cend(), std::back_inserter(told), isTooMuch);
+    const bool isAnyTooMuch = !told.isEmpty();
+    const auto most = std::max_element(m_inks.cbegin(), m_inks.cend(),
+                                       [](const auto &a, const auto &b) { return a.percent < b.percent; });
+    if (!isAnyTooMuch && most != m_inks.cend())
+        told.append(*most);
+    const QString words =
+        isAnyTooMuch ? tr("Zu viel Farbe, %1 % (erlaubt sind %2 %): Seite %3, %4 mm von links, %5 mm von oben")
+                     : tr("Farbauftrag höchstens %1 % (erlaubt sind %2 %): Seite %3, %4 mm von links, %5 mm von oben");
+    for (const MvInkUse &ink : std::as_const(told))
+        hints << words.arg(std::round(ink.percent))
+                     .arg(m_inkLimit)
+                     .arg(ink.page + 1)
+                     .arg(std::round(ink.place.x() / 10.0))
+                     .arg(std::round(ink.place.y() / 10.0))
               << '\n';
 }

@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvInkUse.h"
 #include "MvProject/MvPrintedFoto.h"
 
 #include <QCoreApplication>
@@ -33,11 +34,15 @@ public:
     /// Entries that are not printed since their file has them in a form that cannot be read.
     void setSkippedEntries(const QFileInfo &file, const QList<MvCalendarEventFile::Skipped> &skipped);
 
+    /// Of pages for a press, and the percentage up to which paper takes it.
+    void setInks(const QList<MvInkUse> &inks, int limit);
+
     /// The object that the program's manual describes.
     QJsonObject toObject() const;
     QString toJson() const;
     /// One line when texts had no room, one when characters have no glyph, one per photo that is missing or will look
-    /// coarse, one for those that are not quite fine; otherwise nothing.
+    /// coarse, one for those that are not quite fine, and, for a press, one per page with more ink than paper takes, or
+    /// one for the page with most; otherwise nothing.
     void printHint(QTextStream &hints) const;
 
 private:
@@ -50,12 +55,15 @@ private:
 
     void printTextHints(QTextStream &hints) const;
     void printFotoHints(QTextStream &hints) const;
+    void printInkHints(QTextStream &hints) const;
 
     const MvCalendarDocument m_document;
     const MvRenderingSources m_sources;
     QMap<int, Page> m_pages; // by number, from 0
     QStringList m_missingFotos;
     QStringList m_files;
+    QList<MvInkUse> m_inks;
+    int m_inkLimit = 0;
     QFileInfo m_entriesFile;
     QList<MvCalendarEventFile::Skipped> m_skipped;
 };

@@ -3,11 +3,14 @@
 
 #include "MvCliValues.h"
 #include "MvInterruption.h"
+#include "MvPressOptions.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPictureExporter.h"
 
 #include <QFile>
+
+#include <algorithm>
 
 #include <unistd.h>
 
@@ -46,21 +49,26 @@ private:
 
 QList<MvCliOption> MvRenderTargets::options()
 {
-    return {{u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der Bilder (300)")},
-            {u"jobs"_s, tr("ZAHL"), tr("so viele Seiten zugleich (je Kern eine, höchstens vier)")},
-            {u"overwrite"_s, {}, tr("Dateien ersetzen, die es schon gibt (so, wenn nichts anderes eingestellt ist)")},
-            {u"no-overwrite"_s, {}, tr("nichts ersetzen: gibt es eine der Dateien schon, wird keine geschrieben")},
-            {u"format"_s, u"pdf|html|png|jpg|tif|svg"_s, tr("was -o - ausgibt (pdf)")},
-            {u"output"_s, tr("DATEI"),
-             tr(".pdf, .html, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch "
-                "für ein "
-                ".pdf je Seite; - ist die Standardausgabe; mehrfach erlaubt"),
-             true}};
+    return MvPressOptions::options() +
+           QList<MvCliOption>{
+               {u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der Bilder (300)")},
+               {u"jobs"_s, tr("ZAHL"), tr("so viele Seiten zugleich (je Kern eine, höchstens vier)")},
+               {u"overwrite"_s,
+                {},
+                tr("Dateien ersetzen, die es schon gibt (so, wenn nichts anderes eingestellt ist)")},
+               {u"no-overwrite"_s, {}, tr("nichts ersetzen: gibt es eine der Dateien schon, wird keine geschrieben")},
+               {u"format"_s, u"pdf|html|png|jpg|tif|svg"_s, tr("was -o - ausgibt (pdf)")},
+               {u"output"_s, tr("DATEI"),
+                tr(".pdf, .html, oder .png, .jpg, .tif und .svg je Seite; %m Monat, %y Jahr, %n Seite, %r Region, auch "
+                   "für ein "
+                   ".pdf je Seite; - ist die Standardausgabe; mehrfach erlaubt"),
+                true}};
 }
 
 MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &arguments)
     : m_dpi(values.number(u"dpi"_s, MvPictureExporter::minimumDpi, MvPictureExporter::maximumDpi, usualDpi))
     , m_replaces(!values.has(u"no-overwrite"_s))
+    , m_press(MvPressOptions::settings(values, arguments))
 {
     const int jobs = values.number(u"jobs"_s, 1, mostJobs, 0);
     const QString format = values.choice(u"format"_s, {u"pdf"_s, u"html"_s, u"png"_s, u"jpg"_s, u"tif"_s, u"svg"_s});
@@ -84,7 +92,11 @@ MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &argu
     for (const QString &path : std::as_const(paths)) {
         m_targets.append(MvExportTarget(path, MvExportTarget::Pdf::OneOfEachPage));
         m_targets.last().setJobs(jobs);
+        m_targets.last().setPress(m_press);
     }
+    const bool isAsked = m_press.isForPress() && arguments.line(u"press"_s) == 0; // not only set for all calls
+    if (isAsked && std::none_of(m_targets.cbegin(), m_targets.cend(), [](const auto &one) { return one.isPdf(); }))
+        values.setError(tr("--press macht ein PDF für die Druckerei; %1 ist keines").replace(u"%1"_s, m_name));
 }
 
 MvCliCommand::Result MvRenderTargets::check(const MvPageSource &pages) const
@@ -119,6 +131,8 @@ MvExportResult MvRenderTargets::write(const MvPageSource &pages, const MvCliComm
         const MvExportResult one = target.write(pages, m_dpi, &progress);
         all.files += one.files;
         all.missingFotos += one.missingFotos;
+        if (all.inks.isEmpty()) // those of another file are the same
+            all.inks = one.inks;
         all.error = one.error;
         all.isCancelled = one.isCancelled;
         if (all.isOk() && isStandardOutput())

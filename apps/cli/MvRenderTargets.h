@@ -5,6 +5,7 @@
 #include "MvCliCommand.h"
 #include "MvProject/MvExportResult.h"
 #include "MvProject/MvExportTarget.h"
+#include "MvProject/MvPressSettings.h"
 
 #include <QCoreApplication>
 #include <QList>
@@ -26,6 +27,8 @@ public:
     MvRenderTargets(MvCliValues &values, const MvCliArguments &arguments);
 
     int dpi() const { return m_dpi; }
+    /// In percent of one ink; of files for a press.
+    int inkLimit() const { return m_press.usedInkLimit(); }
     /// What hints are about.
     QString name() const { return m_name; }
     bool isStandardOutput() const { return m_folder != nullptr; }
@@ -42,5 +45,6 @@ private:
     QString m_name;
     int m_dpi = 0;
     bool m_replaces = true;
+    MvPressSettings m_press;
     std::unique_ptr<QTemporaryDir> m_folder; // of what goes to the standard output
 };

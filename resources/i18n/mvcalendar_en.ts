@@ -3217,6 +3217,30 @@
         <source>Die Seiten werden geprüft …</source>
         <translation>The pages are being checked …</translation>
     </message>
+    <message>
+        <source>Bildschirm und eigener Drucker</source>
+        <translation>Screen and own printer</translation>
+    </message>
+    <message>
+        <source>Druckerei, glattes Papier (FOGRA39)</source>
+        <translation>Print shop, smooth paper (FOGRA39)</translation>
+    </message>
+    <message>
+        <source>Druckerei, raues Papier (FOGRA29)</source>
+        <translation>Print shop, rough paper (FOGRA29)</translation>
+    </message>
+    <message>
+        <source>Druckerei in Amerika (GRACoL)</source>
+        <translation>Print shop in America (GRACoL)</translation>
+    </message>
+    <message>
+        <source>Für eine Druckerei entsteht ein PDF/X-4 in Druckfarben, mit Schnittmarken und Angaben neben der Seite. Fragen Sie dort, was gewünscht ist</source>
+        <translation>For a print shop it becomes a PDF/X-4 in printing inks, with crop marks and details beside the page. Ask there what is wanted</translation>
+    </message>
+    <message>
+        <source>&amp;Wofür:</source>
+        <translation>&amp;What for:</translation>
+    </message>
 </context>
 <context>
     <name>MvExportFlow</name>
@@ -3289,6 +3313,10 @@
     <message>
         <source>Das Foto „%1“ fehlt in der Ausgabe. %2</source>
         <translation>The photo “%1” is missing from the output. %2</translation>
+    </message>
+    <message>
+        <source>%1: zu viel Farbe, %2 % (erlaubt sind %3 %)</source>
+        <translation>%1: too much ink, %2 % (allowed are %3 %)</translation>
     </message>
 </context>
 <context>
@@ -5850,6 +5878,21 @@ The context menu replaces it by another photo.</translation>
     </message>
 </context>
 <context>
+    <name>MvPdfExporter</name>
+    <message>
+        <source>Seite %1 von %2</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Beschnitt %1 mm</source>
+        <translation>Bleed %1 mm</translation>
+    </message>
+</context>
+<context>
     <name>MvPictureExporter</name>
     <message>
         <source>%1 Punkte je Zoll gehen nicht; erlaubt sind %2 bis %3</source>
@@ -5869,6 +5912,64 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Das Bild ließ sich nicht umwandeln.</source>
         <translation>The picture could not be converted.</translation>
+    </message>
+</context>
+<context>
+    <name>MvPressOptions</name>
+    <message>
+        <source>PROFIL</source>
+        <translation>PROFILE</translation>
+    </message>
+    <message>
+        <source>PDF für die Druckerei (PDF/X-4): Druckfarben nach diesem Farbprofil, Marken, Beschnitt 3 mm, wo keiner ist; %1 oder eine Datei (.icc)</source>
+        <translation>PDF for a print shop (PDF/X-4): inks by this colour profile, marks, 3 mm of bleed where there is none; %1 or a file (.icc)</translation>
+    </message>
+    <message>
+        <source>mit --press: ohne Marken und Angaben neben der Seite</source>
+        <translation>with --press: no marks and nothing else beside the page</translation>
+    </message>
+    <message>
+        <source>PROZENT</source>
+        <translation>PERCENT</translation>
+    </message>
+    <message>
+        <source>mit --press: ab diesem Farbauftrag wird eine Seite genannt (nach dem Profil)</source>
+        <translation>with --press: pages with more ink than this are named (by the profile)</translation>
+    </message>
+    <message>
+        <source>--%1 gehört zu --press</source>
+        <translation>--%1 goes with --press</translation>
+    </message>
+</context>
+<context>
+    <name>MvPressProfile</name>
+    <message>
+        <source>%1: ein solches Farbprofil gibt es nicht; möglich sind %2 oder eine Datei (.icc)</source>
+        <translation>%1: there is no such colour profile; possible are %2 or a file (.icc)</translation>
+    </message>
+    <message>
+        <source>die Datei ist zu groß für ein Farbprofil</source>
+        <translation>the file is too large for a colour profile</translation>
+    </message>
+    <message>
+        <source>das ist kein Farbprofil (ICC), oder nur ein Teil davon</source>
+        <translation>this is no colour profile (ICC), or only a part of one</translation>
+    </message>
+    <message>
+        <source>das ist kein Farbprofil (ICC)</source>
+        <translation>this is no colour profile (ICC)</translation>
+    </message>
+    <message>
+        <source>das ist ein Farbprofil für %1, nicht für den Druck mit Cyan, Magenta, Gelb und Schwarz (CMYK)</source>
+        <translation>this is a colour profile for %1, not for printing with cyan, magenta, yellow and black (CMYK)</translation>
+    </message>
+    <message>
+        <source>mit diesem Farbprofil lässt sich nicht drucken; nötig ist eines für die Ausgabe, Version 2 oder 4</source>
+        <translation>this colour profile cannot be printed with; one for output is needed, version 2 or 4</translation>
+    </message>
+    <message>
+        <source>das Farbprofil ist unvollständig oder beschädigt</source>
+        <translation>the colour profile is incomplete or damaged</translation>
     </message>
 </context>
 <context>
@@ -6696,6 +6797,14 @@ Save it under another name or in another folder.</translation>
         <source>Texte ohne Platz: %1, der erste: %2; --report json nennt alle</source>
         <translation>Texts without room: %1, the first: %2; --report json names all</translation>
     </message>
+    <message>
+        <source>Zu viel Farbe, %1 % (erlaubt sind %2 %): Seite %3, %4 mm von links, %5 mm von oben</source>
+        <translation>Too much ink, %1 % (allowed are %2 %): page %3, %4 mm from the left, %5 mm from the top</translation>
+    </message>
+    <message>
+        <source>Farbauftrag höchstens %1 % (erlaubt sind %2 %): Seite %3, %4 mm von links, %5 mm von oben</source>
+        <translation>Most ink %1 % (allowed are %2 %): page %3, %4 mm from the left, %5 mm from the top</translation>
+    </message>
 </context>
 <context>
     <name>MvRenderTargets</name>
@@ -6766,6 +6875,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>es fehlt -o DATEI; erlaubt sind Namen auf .pdf, .html, .png, .jpg, .tif oder .svg, und -</source>
         <translation>-o FILE is missing; allowed are names in .pdf, .html, .png, .jpg, .tif or .svg, and -</translation>
+    </message>
+    <message>
+        <source>--press macht ein PDF für die Druckerei; %1 ist keines</source>
+        <translation>--press makes a PDF for a print shop; %1 is none</translation>
     </message>
 </context>
 <context>

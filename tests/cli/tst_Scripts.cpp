@@ -20,6 +20,8 @@ private Q_SLOTS:
     void settings();
     void completes_data();
     void completes();
+    void forThePress_data();
+    void forThePress();
 };
 
 void tst_Scripts::standardOutput_data()
@@ -135,6 +137,7 @@ void tst_Scripts::completes_data()
     QTest::newRow("regions of the country") << u"mvcalendar render --country AT -r 9"_s << QStringList{u"9"_s};
     QTest::newRow("words of an option") << u"mvcalendar render --binding s"_s << QStringList{u"side"_s};
     QTest::newRow("what to do") << u"mvcalendar entries re"_s << QStringList{u"remove"_s};
+    QTest::newRow("presses") << u"mvcalendar render --press fo"_s << QStringList{u"fogra39"_s, u"fogra29"_s};
     QTest::newRow("layouts") << u"mvcalendar render -l YEAR_P"_s << QStringList{u"YEAR_PLANNER"_s};
     QTest::newRow("files are the shell's") << u"mvcalendar render --project fam"_s << QStringList();
 }
@@ -150,6 +153,32 @@ void tst_Scripts::completes()
         "_mvcalendar; printf '%s\\n' \"${COMPREPLY[@]}\""_s.arg(program, QStringLiteral(MV_COMPLETION), line);
     const QByteArray out = outputOf(u"bash"_s, {u"-c"_s, script});
     QCOMPARE(QString::fromUtf8(out).split(u'\n', Qt::SkipEmptyParts), offered);
+}
+
+void tst_Scripts::forThePress_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QByteArray>("said");
+    const auto row = [](const char *name, const QString &arguments, int exitCode, const QByteArray &said) {
+        QTest::newRow(name) << arguments << exitCode << said;
+    };
+    row("most ink", u"--press fogra39 -o k.pdf"_s, 0, "k.pdf: Farbauftrag höchstens ");
+    row("too much ink", u"--press fogra39 --ink-limit 105 -o k.pdf"_s, 0, "k.pdf: Zu viel Farbe, ");
+    row("for programs", u"--press fogra39 --report json -o k.pdf"_s, 0, "\"limit\": 330");
+    row("mistyped", u"--press fogra93 -o k.pdf"_s, 2, "meinten Sie „fogra39“?");
+    row("no picture", u"--press fogra39 -o k-%m.png"_s, 2, "k-%m.png ist keines");
+    row("marks of what", u"--no-marks -o k.pdf"_s, 2, "--no-marks gehört zu --press");
+}
+
+void tst_Scripts::forThePress()
+{
+    QFETCH(const QString, arguments);
+    QFETCH(const int, exitCode);
+    QFETCH(const QByteArray, said);
+    const Call call = run(u"render --year 2027 --months 1 "_s + arguments);
+    QCOMPARE(call.exitCode, exitCode);
+    QVERIFY2((call.err + call.out).contains(said), call.err + call.out);
 }
 
 MV_TEST_MAIN(tst_Scripts)

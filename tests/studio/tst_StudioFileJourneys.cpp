@@ -97,15 +97,18 @@ void tst_StudioFileJourneys::closeQuestion()
 void tst_StudioFileJourneys::exported_data()
 {
     QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("press");
     QTest::addColumn<QStringList>("files");
-    QTest::newRow("pdf") << u"exportPdf"_s << QStringList{u"Kalender.pdf"_s};
-    QTest::newRow("png") << u"exportPng"_s
+    QTest::newRow("pdf") << u"exportPdf"_s << QString() << QStringList{u"Kalender.pdf"_s};
+    QTest::newRow("print shop") << u"exportPdf"_s << u"fogra39"_s << QStringList{u"Kalender.pdf"_s};
+    QTest::newRow("png") << u"exportPng"_s << QString()
                          << QStringList{u"2027-02-02.png"_s, u"2027-05-05.png"_s, u"2027-06-06.png"_s};
 }
 
 void tst_StudioFileJourneys::exported()
 {
     QFETCH(QString, action);
+    QFETCH(QString, press);
     QFETCH(QStringList, files);
     MvStudioFixture studio;
     MvCalendarPage page = studio.document().pages().at(1);
@@ -117,6 +120,9 @@ void tst_StudioFileJourneys::exported()
     auto *bleed = MvStudioFixture::find<QDoubleSpinBox>(dialog, "exportBleed");
     QCOMPARE(bleed != nullptr, action == u"exportPdf"_s);
     if (bleed) {
+        auto *inks = MvStudioFixture::find<QComboBox>(dialog, "exportPress");
+        inks->setCurrentIndex(inks->findData(press));
+        QCOMPARE(bleed->value(), press.isEmpty() ? 0.0 : 3.0); // which shops ask for
         bleed->setValue(3.0);
         auto *target = MvStudioFixture::find<QLineEdit>(dialog, "exportTarget");
         QVERIFY(target->text().startsWith(studio.path({})));
@@ -143,7 +149,10 @@ void tst_StudioFileJourneys::exported()
     QProcess reader;
     reader.start(u"pdfinfo"_s, {file});
     QVERIFY(reader.waitForFinished());
-    QVERIFY(reader.readAllStandardOutput().contains("858.898 x 612.28")); // 303 mm x 216 mm, in points
+    const QByteArray said = reader.readAllStandardOutput();
+    QCOMPARE(said.contains("PDF/X-4"), !press.isEmpty());
+    // 303 mm x 216 mm in points; 317 mm x 238 mm with marks
+    QVERIFY2(said.contains(press.isEmpty() ? "858.898 x 612.28" : "898.583 x 674.646"), said);
 }
 
 /// What would not print well stands in the dialog, is marked in its preview, and is gone to from there.

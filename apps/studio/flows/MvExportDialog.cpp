@@ -75,10 +75,12 @@ MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocum
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow); // names get the room, numbers need none
     addTarget(form, folder, name);
     addPages(form);
-    if (isPdf())
+    if (isPdf()) {
+        addPress(form);
         addBleed(form);
-    else
+    } else {
         addResolution(form);
+    }
 
     m_message->setObjectName(u"exportMessage"_s);
     m_message->setTextFormat(Qt::PlainText);
@@ -239,6 +241,25 @@ void MvExportDialog::addBleed(QFormLayout *form)
     connect(m_bleed, &QDoubleSpinBox::valueChanged, this, &MvExportDialog::validate);
 }
 
+void MvExportDialog::addPress(QFormLayout *form)
+{
+    m_press = new QComboBox(this);
+    m_press->setObjectName(u"exportPress"_s);
+    m_press->addItem(tr("Bildschirm und eigener Drucker"), QString());
+    m_press->addItem(tr("Druckerei, glattes Papier (FOGRA39)"), u"fogra39"_s);
+    m_press->addItem(tr("Druckerei, raues Papier (FOGRA29)"), u"fogra29"_s);
+    m_press->addItem(tr("Druckerei in Amerika (GRACoL)"), u"gracol"_s);
+    m_press->setToolTip(
+        tr("Für eine Druckerei entsteht ein PDF/X-4 in Druckfarben, mit Schnittmarken und Angaben neben "
+           "der Seite. Fragen Sie dort, was gewünscht ist"));
+    m_press->setCurrentIndex(std::max(0, m_press->findData(MvStudioSettings::text(u"export/press"_s, {}))));
+    form->addRow(labelFor(tr("&Wofür:"), m_press), m_press);
+    connect(m_press, &QComboBox::currentIndexChanged, this, [this] {
+        if (!m_press->currentData().toString().isEmpty() && m_bleed->value() == 0.0)
+            m_bleed->setValue(MvPageFormat::printShopBleed / tenths);
+    });
+}
+
 void MvExportDialog::browse()
 {
     auto *dialog = new QFileDialog(this, windowTitle(), m_target->text());
@@ -348,6 +369,7 @@ MvExportOptions MvExportDialog::options() const
     options.target = target();
     options.pages = pages().numbers;
     options.dpi = m_dpi ? m_dpi->value() : defaultDpi;
+    options.press = m_press ? m_press->currentData().toString() : QString();
     options.bleed = m_bleed ? std::round(m_bleed->value() * tenths) : m_document.format().bleed();
     return options;
 }
@@ -356,5 +378,7 @@ void MvExportDialog::remember(const MvExportOptions &options)
 {
     if (options.kind == MvExportOptions::Kind::Png)
         MvStudioSettings::setText(u"export/dpi"_s, QString::number(options.dpi));
+    else
+        MvStudioSettings::setText(u"export/press"_s, options.press);
     MvStudioSettings::setFolder(u"export"_s, QFileInfo(options.target).absolutePath());
 }

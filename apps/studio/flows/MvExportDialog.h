@@ -51,6 +51,7 @@ private:
     void addPages(QFormLayout *form);
     void addResolution(QFormLayout *form);
     void addBleed(QFormLayout *form);
+    void addPress(QFormLayout *form);
     void browse();
     QString target() const;
     MvPageRange::Pages pages() const;
@@ -73,6 +74,7 @@ private:
     QLineEdit *m_pageText;
     MvSpinBox *m_dpi = nullptr;
     QDoubleSpinBox *m_bleed = nullptr;
+    QComboBox *m_press = nullptr;
     QLabel *m_message;
     QPushButton *m_export = nullptr;
 };

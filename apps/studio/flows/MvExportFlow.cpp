@@ -17,6 +17,7 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <cmath>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -101,12 +102,23 @@ void MvExportFlow::run(const MvExportOptions &options)
 {
     if (isRunning())
         return;
+    MvExportTarget target(options.target);
+    m_press = {};
+    if (!options.press.isEmpty()) {
+        const MvPressProfile::Loaded loaded = MvPressProfile::load(options.press);
+        if (!loaded.isOk()) {
+            MvStudioMessage::error(m_window, tr("Der Kalender wurde nicht exportiert."), loaded.error);
+            return;
+        }
+        m_press.profile = loaded.profile;
+        target.setPress(m_press);
+    }
     m_options = options;
     MvCalendarDocument document = m_project->document();
     MvPageFormat format = document.format();
     format.setBleed(options.bleed);
     document.setFormat(format);
-    m_job = new MvExportJob(document, MvExportTarget(options.target), options.dpi, this);
+    m_job = new MvExportJob(document, target, options.dpi, this);
     m_job->setPages(options.pages);
     auto *dialog = new MvProgressDialog(
         tr("Exportieren"), tr("Die Seiten werden geschrieben: %1").arg(QFileInfo(options.target).fileName()), m_window);
@@ -165,6 +177,13 @@ QString MvExportFlow::printNotes(const MvExportJob &job, const MvExportResult &r
     for (const QString &path : std::as_const(missing)) // those of days, and what is there again by now
         others.append(tr("Das Foto „%1“ fehlt in der Ausgabe. %2")
                           .arg(QFileInfo(path).fileName(), MvImageLoader::instance().error(QFileInfo(path))));
+    for (const MvInkUse &ink : result.inks) {
+        if (std::round(ink.percent) > m_press.usedInkLimit())
+            others.append(tr("%1: zu viel Farbe, %2 % (erlaubt sind %3 %)")
+                              .arg(MvPrintCheck::pageName(job.document(), ink.page))
+                              .arg(std::round(ink.percent))
+                              .arg(m_press.usedInkLimit()));
+    }
     QStringList parts;
     if (!texts.isEmpty())
         parts.append(tr("Diese Texte hatten keinen Platz und sind gekürzt:") + u'\n' +

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvProject/MvPressSettings.h"
 #include "flows/MvExportOptions.h"
 
 #include <QObject>
@@ -52,5 +53,6 @@ private:
     QWidget *m_window;
     MvExportJob *m_job = nullptr;
     MvExportOptions m_options; // of the running job
+    MvPressSettings m_press;   // as well
     int m_currentPage = 0;
 };

@@ -17,4 +17,5 @@ struct MvExportOptions
     QList<int> pages; // counted from 0
     int dpi = 300;    // of pictures
     double bleed = 0; // tenths of a millimetre
+    QString press;    // whose inks a PDF is made for: a name of MvPressProfile; empty for a screen
 };

@@ -491,6 +491,8 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
         std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.kinds),
                        [](const MvCalendarPage &page) { return page.kind(); });
         std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.names), &MvCalendarTitle::ofPage);
+        for (int page = 0; page < m_pages.size(); ++page)
+            source.bindings.append(bindingRect(page));
     }
     const auto own = std::make_shared<MvExportFotos>(m_pages, m_format);
     source.paint = [document = *this, sources, found, own](QPainter &painter, int page) {

@@ -13,6 +13,7 @@ MvPageSource MvPageSource::part(const QList<int> &places) const
     some.numbers.clear();
     some.names.clear();
     some.kinds.clear();
+    some.bindings.clear();
     QList<int> taken;
     for (const int place : places) {
         if (place < 0 || place >= pages.size())
@@ -22,6 +23,7 @@ MvPageSource MvPageSource::part(const QList<int> &places) const
         some.numbers.append(number(place));
         some.names.append(names.value(place));
         some.kinds.append(kind(place));
+        some.bindings.append(bindings.value(place));
     }
     if (paint)
         some.paint = [paint = paint, taken](QPainter &painter, int page) { paint(painter, taken[page]); };

@@ -9,6 +9,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QRectF>
 #include <QString>
 #include <QStringList>
 
@@ -29,6 +30,8 @@ public:
     QList<MvPageKind> kinds;
     /// What a table of contents calls the pages; empty, or empty for a page, when it is not to name them.
     QStringList names;
+    /// What the binding takes of each page, in tenths of a millimetre from its corner; empty when it takes nothing.
+    QList<QRectF> bindings;
     /// Paints the page with the number, counted from 0, in tenths of a millimetre with the origin at the top left
     /// corner of the trimmed page.
     std::function<void(QPainter &painter, int page)> paint;

@@ -105,7 +105,12 @@ MvExportResult MvExportTarget::writeDocument(const MvPageSource &pages, const QS
 {
     if (m_suffix == u"html"_s)
         return MvHtmlExporter::write(pages, QFileInfo(path), observer);
-    return MvPdfExporter::write(pages, QFileInfo(path), observer, m_jobs);
+    return MvPdfExporter::write(pages, QFileInfo(path), observer, m_jobs, m_press);
+}
+
+bool MvExportTarget::isPdf() const
+{
+    return m_suffix == u"pdf"_s;
 }
 
 bool MvExportTarget::isPicture() const
@@ -128,6 +133,7 @@ MvExportResult MvExportTarget::writeDocuments(const MvPageSource &pages, const Q
         PageObserver pageObserver(observer, page, int(paths.size()));
         const MvExportResult one = writeDocument(pages.part({page}), paths[page], &pageObserver);
         all.files += one.files;
+        all.inks += one.inks;
         all.error = one.error;
         all.isCancelled = one.isCancelled;
     }

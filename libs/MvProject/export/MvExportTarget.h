@@ -3,6 +3,7 @@
 
 #include "MvProject/MvExportResult.h"
 #include "MvProject/MvFileNamePattern.h"
+#include "MvProject/MvPressSettings.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QCoreApplication>
@@ -28,6 +29,9 @@ public:
     QString path() const { return m_path; }
     /// How many pages are made at a time; 0, as it is at first, for what suits the computer.
     void setJobs(int jobs) { m_jobs = jobs; }
+    /// What a PDF is made for; other files have nothing of it.
+    void setPress(const MvPressSettings &press) { m_press = press; }
+    bool isPdf() const;
     /// The dots per inch at which images are needed, when pictures are to have so many.
     int imageResolution(int dpi) const;
 
@@ -54,4 +58,5 @@ private:
     QString m_suffix; // lower case
     Pdf m_pdf;
     int m_jobs = 0;
+    MvPressSettings m_press;
 };

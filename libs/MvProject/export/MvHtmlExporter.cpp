@@ -269,5 +269,5 @@ MvExportResult MvHtmlExporter::write(const MvPageSource &source, const QFileInfo
         outcome = MvSafeFileWriter::write(target, bytes, MvSafeFileWriter::Backups::None);
     if (!outcome.isOk())
         return MvExportResult::failed(u"%1: %2"_s.arg(target.filePath(), outcome.error));
-    return {outcome, {target}, false, {}};
+    return {outcome, {target}, false, {}, {}};
 }

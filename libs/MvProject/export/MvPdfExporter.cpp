@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfExporter.h"
 
+#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvPaint/MvPaintRecorder.h"
+#include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfDocument.h"
+#include "MvProject/MvPressSheet.h"
 
 #include <QDir>
 #include <QImage>
@@ -69,9 +72,32 @@ private:
     QThreadPool m_thread;
 };
 
-MvOutcome paintPages(const MvPageSource &source, const QString &path, MvExportObserver *observer, int jobs)
+/// A page in words, for those who handle the sheets.
+QString pageInWords(const MvPageSource &source, int page, const MvPressSettings &press)
 {
-    MvPdfDocument document({source.title, source.author, source.language});
+    const QLocale locale = MvApplicationLocale::instance().locale();
+    const auto millimetres = [&locale](double length) { return locale.toString(length / 10.0, 'g', 6); };
+    const QSizeF size = source.format.trimSize();
+    const double bleed = source.format.bleed() > 0.0 ? source.format.bleed() : press.bleed;
+    QStringList words{source.title};
+    if (const QString name = source.names.value(page); !name.isEmpty())
+        words.append(name);
+    words += {MvPdfExporter::tr("Seite %1 von %2").arg(page + 1).arg(source.pages.size()),
+              MvPdfExporter::tr("%1 × %2 mm").arg(millimetres(size.width()), millimetres(size.height())),
+              MvPdfExporter::tr("Beschnitt %1 mm").arg(millimetres(bleed)), press.profile.description(),
+              MvPdfDocument::dateOfFile().toString(u"yyyy-MM-dd HH:mm 'UTC'"_s)};
+    return MvPrintableText::onOneLine(words.join(u"  ·  "_s));
+}
+
+struct Painted : MvOutcome
+{
+    QList<MvInkUse> inks;
+};
+
+Painted paintPages(const MvPageSource &source, const QString &path, MvExportObserver *observer, int jobs,
+                   const MvPressSettings &press)
+{
+    MvPdfDocument document({source.title, source.author, source.language}, press);
     PageWriter writer(document, jobs != 1);
     const int total = int(source.pages.size());
     const auto tell = [&](int done) {
@@ -80,14 +106,22 @@ MvOutcome paintPages(const MvPageSource &source, const QString &path, MvExportOb
     };
     for (int page = 0; page < total && !isCancelled(observer); ++page) {
         const MvPaintRecording recording = recordPage(source, page);
-        writer.add({source.names.value(page), source.format.mediaRect(), source.format.trimRect()}, recording);
+        MvPdfDocument::Page described{source.names.value(page), source.format.mediaRect(), source.format.trimRect(),
+                                      source.bindings.value(page)};
+        if (press.isForPress())
+            described.slug =
+                MvPressSheet(press, described.trim, described.media).slug(pageInWords(source, page, press));
+        writer.add(described, recording);
         tell(page); // the one before
     }
     writer.finish();
     if (isCancelled(observer))
         return {};
     tell(total);
-    return document.write(path);
+    Painted painted{document.write(path), document.inks()};
+    for (MvInkUse &ink : painted.inks)
+        ink.page = source.number(ink.page);
+    return painted;
 }
 
 MvOutcome copyToTarget(const QString &path, const QFileInfo &target)
@@ -104,19 +138,22 @@ MvOutcome copyToTarget(const QString &path, const QFileInfo &target)
 } // namespace
 
 MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo &target, MvExportObserver *observer,
-                                    int jobs)
+                                    int jobs, const MvPressSettings &press)
 {
     MvOutcome outcome = source.check();
+    Painted painted;
     const QTemporaryDir folder(QDir::tempPath() + u"/mvcalendar-XXXXXX"_s);
     const QString path = folder.filePath(u"kalender.pdf"_s);
     if (outcome.isOk() && !folder.isValid())
         outcome.error = folder.errorString();
-    if (outcome.isOk())
-        outcome = paintPages(source, path, observer, jobs);
+    if (outcome.isOk()) {
+        painted = paintPages(source, path, observer, jobs, press);
+        outcome = painted;
+    }
     const bool isDone = outcome.isOk() && !isCancelled(observer); // finishing the file can take long
     if (isDone)
         outcome = copyToTarget(path, target);
     if (!outcome.isOk())
         return MvExportResult::failed(u"%1: %2"_s.arg(target.filePath(), outcome.error));
-    return isDone ? MvExportResult{outcome, {target}, false, {}} : MvExportResult::cancelled();
+    return isDone ? MvExportResult{outcome, {target}, false, {}, painted.inks} : MvExportResult::cancelled();
 }

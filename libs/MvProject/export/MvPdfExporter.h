@@ -2,14 +2,21 @@
 #pragma once
 
 #include "MvProject/MvExportResult.h"
+#include "MvProject/MvPressSettings.h"
 #include "MvProject/mvproject_export.h"
+
+#include <QCoreApplication>
 
 class MvExportObserver;
 class MvPageSource;
 
 /// Writes pages as one PDF: vectors, sRGB, exact MediaBox, BleedBox and TrimBox.
+///
+/// For a press: its inks, PDF/X-4, and sheets with marks; a page without a bleed gets one.
 class MVPROJECT_EXPORT MvPdfExporter
 {
+    Q_DECLARE_TR_FUNCTIONS(MvPdfExporter)
+
 public:
     /// Dots per inch that the painter reports; images are scaled for it.
     static constexpr int resolution = 300;
@@ -18,5 +25,5 @@ public:
     /// painted, and the finished file takes the target's name at the end. Painting happens in the thread that calls,
     /// what is done with the painted page in another one, unless `jobs` is 1.
     static MvExportResult write(const MvPageSource &source, const QFileInfo &target,
-                                MvExportObserver *observer = nullptr, int jobs = 0);
+                                MvExportObserver *observer = nullptr, int jobs = 0, const MvPressSettings &press = {});
 };

@@ -2,6 +2,7 @@
 #include "MvProject/MvPdfContent.h"
 
 #include "MvProject/MvPdfSyntax.h"
+#include "MvProject/MvPressColors.h"
 
 #include <QPen>
 
@@ -97,6 +98,13 @@ private:
 
 } // namespace
 
+MvPdfContent::MvPdfContent(const MvPressColors *press)
+    : m_press(press)
+{
+    if (press) // it begins with another black than theirs
+        m_now.fill = m_now.stroke = qRgba(0, 0, 0, 0);
+}
+
 void MvPdfContent::save()
 {
     m_outer.push_back(m_now);
@@ -131,17 +139,32 @@ void MvPdfContent::appendColor(QRgb color, const char *command)
     m_bytes += command;
 }
 
+void MvPdfContent::appendInks(QRgb color, const char *command)
+{
+    for (const double part : m_press->inks(color).parts) {
+        MvPdfSyntax::append(m_bytes, part, 3);
+        m_bytes += ' ';
+    }
+    m_bytes += command;
+}
+
+void MvPdfContent::setState(int object, bool isTranslucent)
+{
+    use(m_now.state, object, "ExtGState", " gs\n");
+    m_isTranslucent = m_isTranslucent || isTranslucent;
+}
+
 void MvPdfContent::setFillColor(QRgb color)
 {
     if (m_now.fill != (color | 0xff000000))
-        appendColor(color, "rg\n");
+        m_press ? appendInks(color, "k\n") : appendColor(color, "rg\n");
     m_now.fill = color | 0xff000000;
 }
 
 void MvPdfContent::setStrokeColor(QRgb color)
 {
     if (m_now.stroke != (color | 0xff000000))
-        appendColor(color, "RG\n");
+        m_press ? appendInks(color, "K\n") : appendColor(color, "RG\n");
     m_now.stroke = color | 0xff000000;
 }
 

@@ -4,12 +4,16 @@
 #include "MvPaint/MvPaintRecording.h"
 #include "MvPaint/MvPrintableText.h"
 #include "MvProductBase/MvCalendarWordsRegistry.h"
+#include "MvProject/MvPdfMarks.h"
+#include "MvProject/MvPdfMirroredBleed.h"
 #include "MvProject/MvPdfPageElements.h"
 #include "MvProject/MvPdfPagePainter.h"
 #include "MvProject/MvPdfSyntax.h"
+#include "MvProject/MvPdfX.h"
+#include "MvProject/MvPressColors.h"
+#include "MvProject/MvPressSheet.h"
 
 #include <QColorSpace>
-#include <QDateTime>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +22,7 @@ namespace {
 /// Of the coordinates to a point: whole ones are right to 0.002 mm.
 constexpr double unitsPerPoint = 100.0;
 constexpr double pointsPerInch = 72.0;
+constexpr double unitsPerTenthMillimetre = MvPdfDocument::pointsPerTenthMillimetre * unitsPerPoint;
 
 /// From the page's system to that of the PDF.
 QByteArray box(const QRectF &rect, const QRectF &media)
@@ -29,15 +34,6 @@ QByteArray box(const QRectF &rect, const QRectF &media)
     return '[' + numbers + ']';
 }
 
-/// Now, or the date that builds are to be reproducible with (SOURCE_DATE_EPOCH).
-QDateTime dateOfFile()
-{
-    bool isGiven = false;
-    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);
-    const QDateTime date = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-    return isGiven && date.isValid() ? date : QDateTime::currentDateTimeUtc();
-}
-
 QString element(const QString &pattern, const QString &text)
 {
     return text.isEmpty() ? QString() : pattern.arg(text.toHtmlEscaped());
@@ -45,41 +41,112 @@ QString element(const QString &pattern, const QString &text)
 
 } // namespace
 
-MvPdfDocument::MvPdfDocument(const Description &description)
+QDateTime MvPdfDocument::dateOfFile()
+{
+    bool isGiven = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);
+    const QDateTime date = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
+    return isGiven && date.isValid() ? date : QDateTime::currentDateTimeUtc();
+}
+
+MvPdfDocument::MvPdfDocument(const Description &description, const MvPressSettings &press)
     : m_description{MvPrintableText::onOneLine(description.title), MvPrintableText::onOneLine(description.author),
                     description.language}
+    , m_press(press)
+    , m_pressColors(press.isForPress() ? new MvPressColors(press.profile) : nullptr)
     , m_pageTree(m_file.reserve())
-{}
+{
+    if (press.isForPress())
+        m_file.setLeastVersion("1.6");
+}
+
+MvPdfDocument::~MvPdfDocument() = default;
 
 void MvPdfDocument::addPage(const Page &page, const MvPaintRecording &recording, double dotsPerInch)
 {
     const double scale = pointsPerInch * unitsPerPoint / dotsPerInch;
-    const QSizeF dots = page.media.size() * (pointsPerTenthMillimetre * unitsPerPoint / scale);
-    const QTransform toUnits =
-        QTransform::fromScale(scale, -scale) *
-        QTransform::fromTranslate(0.0, page.media.height() * pointsPerTenthMillimetre * unitsPerPoint);
-    const QString name = MvPrintableText::onOneLine(page.name);
+    const QSizeF dots = page.media.size() * (unitsPerTenthMillimetre / scale);
+    const MvPressSheet sheet(m_press, page.trim, page.media, page.binding);
+    const QRectF paper = m_press.isForPress() ? sheet.sheet() : page.media;
+    const double above = paper.bottom() - page.media.bottom(); // of the PDF's origin
+    const QTransform toUnits = QTransform::fromScale(scale, -scale) *
+                               QTransform::fromTranslate((page.media.left() - paper.left()) * unitsPerTenthMillimetre,
+                                                         (page.media.height() + above) * unitsPerTenthMillimetre);
     MvPdfPageParts parts(recording.data());
-    MvPdfPagePainter painter({m_file, m_fonts, m_images}, toUnits, QRectF(QPointF(), dots), parts);
+    MvPdfPagePainter painter({m_file, m_fonts, m_images, m_pressColors.get()}, toUnits, QRectF(QPointF(), dots), parts);
+    if (m_press.isForPress())
+        painter.setContent(startOfSheet(sheet, page, recording, toUnits));
     painter.paint(recording);
+    const MvPdfContent painted =
+        m_press.isForPress() ? endOfSheet(sheet, page, painter) : MvPdfContent(painter.content());
+    const QString name = MvPrintableText::onOneLine(page.name);
+    m_pages.append(addPageObject(page, painted, parts));
+    if (!name.isEmpty())
+        m_bookmarks.append({name, m_pages.last()});
+}
+
+/// With its structure.
+int MvPdfDocument::addPageObject(const Page &page, const MvPdfContent &painted, const MvPdfPageParts &parts)
+{
+    const MvPressSheet sheet(m_press, page.trim, page.media, page.binding);
+    const QRectF paper = m_press.isForPress() ? sheet.sheet() : page.media;
+    const QRectF bleed = m_press.isForPress() ? sheet.bleed() : page.media;
     const QString photo =
         MvCalendarWordsRegistry::instance().photo(MvLocale(QString(m_description.language).replace(u'-', u'_')));
+    const QString name = MvPrintableText::onOneLine(page.name);
     const int object = m_file.reserve();
     const int inStructure =
         m_structure.addPage(object, MvPdfPageElements(parts, unitsPerPoint, photo).section(name), parts.contentCount());
 
     const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
-    const int content = m_file.addStream({}, unit + " 0 0 " + unit + " 0 0 cm\n" + painter.content().bytes());
-    const QByteArray media = box(page.media, page.media);
-    m_pages.append(object);
+    const QByteArray commands = unit + " 0 0 " + unit + " 0 0 cm\n" + painted.bytes();
+    if (m_press.isForPress())
+        m_hash.addData(commands);
+    const int content = m_file.addStream({}, commands);
+    const QByteArray media = box(paper, paper);
+    const QByteArray colors = m_press.isForPress() ? "/DeviceCMYK" : "/DeviceRGB";
     m_file.set(object, "<</Type/Page/Parent " + MvPdfSyntax::reference(m_pageTree) + "/MediaBox" + media + "/CropBox" +
-                           media + "/BleedBox" + media + "/TrimBox" + box(page.trim, page.media) +
-                           (painter.content().isTranslucent() ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") +
-                           "/Contents " + MvPdfSyntax::reference(content) + "/Resources" +
-                           painter.content().resources() + "/Tabs/S/StructParents " + QByteArray::number(inStructure) +
-                           ">>");
-    if (!name.isEmpty())
-        m_bookmarks.append({name, m_pages.last()});
+                           media + "/BleedBox" + box(bleed, paper) + "/TrimBox" + box(page.trim, paper) +
+                           (painted.isTranslucent() ? "/Group<</S/Transparency/CS" + colors + ">>" : "") +
+                           "/Contents " + MvPdfSyntax::reference(content) + "/Resources" + painted.resources() +
+                           "/Tabs/S/StructParents " + QByteArray::number(inStructure) + ">>");
+    return object;
+}
+
+/// From the page's system to the units of its sheet.
+QTransform MvPdfDocument::unitsOn(const MvPressSheet &sheet)
+{
+    constexpr double scale = unitsPerTenthMillimetre;
+    return {scale, 0.0, 0.0, -scale, -sheet.sheet().left() * scale, sheet.sheet().bottom() * scale};
+}
+
+/// What lies beneath the page: the bleed that it lacks; then everything is cut to what is painted of it.
+MvPdfContent MvPdfDocument::startOfSheet(const MvPressSheet &sheet, const Page &page, const MvPaintRecording &recording,
+                                         const QTransform &dotsToUnits)
+{
+    MvPdfContent content(m_pressColors.get());
+    if (sheet.missingBleed() > 0.0) {
+        const MvPdfMirroredBleed bleed({m_file, m_fonts, m_images, m_pressColors.get()}, sheet, unitsOn(sheet));
+        bleed.paint(content, recording, dotsToUnits);
+    }
+    content.save();
+    content.addRect(unitsOn(sheet).mapRect(page.media));
+    content.finishPath("W n");
+    return content;
+}
+
+MvPdfContent MvPdfDocument::endOfSheet(const MvPressSheet &sheet, const Page &page, const MvPdfPagePainter &painter)
+{
+    const QTransform toUnits = unitsOn(sheet);
+    const MvPdfPagePainter::Ink ink = painter.mostInk();
+    m_inks.append({int(m_pages.size()), ink.percent, toUnits.inverted().map(ink.place)});
+    MvPdfContent content = painter.content();
+    content.restore();
+    content.append("/Artifact BMC\n");
+    MvPdfMarks::paint(content, sheet, toUnits, m_file);
+    MvPdfMarks::paintSlug(content, sheet, page.slug, toUnits, m_fonts);
+    content.append("EMC\n");
+    return content;
 }
 
 int MvPdfDocument::addBookmarks()
@@ -103,9 +170,11 @@ int MvPdfDocument::addBookmarks()
     return root;
 }
 
-/// Declares that the file's colours are sRGB.
+/// Declares that the file's colours are sRGB, or which press they are for.
 int MvPdfDocument::addOutputIntent()
 {
+    if (m_press.isForPress())
+        return MvPdfX::addOutputIntent(m_file, m_press.profile);
     const int profile = m_file.addStream("/N 3/Alternate/DeviceRGB", QColorSpace(QColorSpace::SRgb).iccProfile());
     return m_file.add("<</Type/OutputIntent/S/GTS_PDFA1/OutputConditionIdentifier(sRGB IEC61966-2.1)"
                       "/DestOutputProfile " +
@@ -125,7 +194,8 @@ int MvPdfDocument::addMetadata()
     const QByteArray author = m_description.author.isEmpty() ? "" : "/Author" + MvPdfSyntax::text(m_description.author);
     m_file.setInformation("<</Title" + MvPdfSyntax::text(m_description.title) + author +
                           "/Creator(MvCalendar)/CreationDate" +
-                          MvPdfSyntax::string(date.toString(u"'D:'yyyyMMddHHmmss'Z'"_s).toLatin1()) + ">>");
+                          MvPdfSyntax::string(date.toString(u"'D:'yyyyMMddHHmmss'Z'"_s).toLatin1()) +
+                          (m_press.isForPress() ? MvPdfX::information(date) : QByteArray()) + ">>");
     const QString packet =
         u"<?xpacket begin=\"\ufeff\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?>\n"
         "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\"><rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
@@ -138,7 +208,9 @@ int MvPdfDocument::addMetadata()
                           : QString()) +
         element(u"<dc:language><rdf:Bag><rdf:li>%1</rdf:li></rdf:Bag></dc:language>"_s, m_description.language) +
         u"<xmp:CreatorTool>MvCalendar</xmp:CreatorTool><xmp:CreateDate>"_s + date.toString(Qt::ISODate) +
-        u"</xmp:CreateDate></rdf:Description></rdf:RDF></x:xmpmeta>\n<?xpacket end=\"w\"?>"_s;
+        u"</xmp:CreateDate></rdf:Description>"_s +
+        (m_press.isForPress() ? MvPdfX::metadata(date, m_hash.result()) : QString()) +
+        u"</rdf:RDF></x:xmpmeta>\n<?xpacket end=\"w\"?>"_s;
     return m_file.addStream("/Type/Metadata/Subtype/XML", packet.toUtf8());
 }
 

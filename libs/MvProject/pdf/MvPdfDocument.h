@@ -2,20 +2,34 @@
 #pragma once
 
 #include "MvCore/MvOutcome.h"
+#include "MvPaint/MvTextOutline.h"
+#include "MvProject/MvInkUse.h"
 #include "MvProject/MvPdfFile.h"
 #include "MvProject/MvPdfFonts.h"
 #include "MvProject/MvPdfImages.h"
 #include "MvProject/MvPdfStructure.h"
+#include "MvProject/MvPressSettings.h"
 
+#include <QCryptographicHash>
+#include <QDateTime>
 #include <QList>
 #include <QRectF>
 #include <QString>
 
+#include <memory>
+
 class MvPaintRecording;
+class MvPdfContent;
+class MvPdfPagePainter;
+class MvPdfPageParts;
+class MvPressColors;
+class MvPressSheet;
 
 /// A PDF of recorded pages: vectors, glyphs and pictures once for all pages, exact boxes, bookmarks, metadata, sRGB as
 /// output intent, a structure to be read aloud by. Pages are written as they come, so memory does not grow with their
 /// number. Any thread, one at a time.
+///
+/// For a press it has that one's inks and output intent, and its pages lie on larger sheets with marks (PDF/X-4).
 class MvPdfDocument
 {
 public:
@@ -33,17 +47,33 @@ public:
         QString name; // of its bookmark; without one it has none
         QRectF media; // with bleed; tenths of a millimetre, downwards from any corner, as are all rectangles
         QRectF trim;
+        QRectF binding = {};     // what the binding takes of the page
+        MvTextOutline slug = {}; // the line about the page beside it; only on a sheet for the press
     };
 
-    explicit MvPdfDocument(const Description &description);
+    explicit MvPdfDocument(const Description &description, const MvPressSettings &press = {});
+    ~MvPdfDocument();
+    MvPdfDocument(const MvPdfDocument &) = delete;
+    MvPdfDocument &operator=(const MvPdfDocument &) = delete;
 
     /// The recording has the corner of the media box at (0, 0) and so many dots per inch.
     void addPage(const Page &page, const MvPaintRecording &recording, double dotsPerInch);
+
+    /// Now, or the date that files are to be reproducible with (SOURCE_DATE_EPOCH).
+    static QDateTime dateOfFile();
+
+    /// Where the pages, counted from 0, have most ink; of a file for the press.
+    QList<MvInkUse> inks() const { return m_inks; }
 
     /// Writes the file. Once.
     MvOutcome write(const QString &path);
 
 private:
+    static QTransform unitsOn(const MvPressSheet &sheet);
+    MvPdfContent startOfSheet(const MvPressSheet &sheet, const Page &page, const MvPaintRecording &recording,
+                              const QTransform &dotsToUnits);
+    int addPageObject(const Page &page, const MvPdfContent &painted, const MvPdfPageParts &parts);
+    MvPdfContent endOfSheet(const MvPressSheet &sheet, const Page &page, const MvPdfPagePainter &painter);
     int addBookmarks();
     int addOutputIntent();
     int addMetadata();
@@ -56,9 +86,13 @@ private:
     };
 
     const Description m_description;
+    const MvPressSettings m_press;
+    const std::unique_ptr<const MvPressColors> m_pressColors;
     MvPdfFile m_file;
     MvPdfFonts m_fonts{m_file};
-    MvPdfImages m_images{m_file};
+    MvPdfImages m_images{m_file, m_pressColors.get()};
+    QCryptographicHash m_hash{QCryptographicHash::Sha1}; // of the pages' contents, for the press
+    QList<MvInkUse> m_inks;
     MvPdfStructure m_structure{m_file};
     int m_pageTree;
     QList<int> m_pages; // their objects

@@ -55,6 +55,7 @@ struct MvPdfFile::Private
     QHash<QByteArray, int> once;
     QTemporaryFile waiting{QDir::tempPath() + QStringLiteral("/mvcalendar-XXXXXX")};
     QString error;
+    std::string leastVersion;
 
     QPDFObjectHandle parsed(const QByteArray &value)
     {
@@ -161,6 +162,11 @@ void MvPdfFile::setInformation(const QByteArray &value)
     d->pdf.getTrailer().replaceKey("/Info", d->pdf.makeIndirectObject(d->parsed(value)));
 }
 
+void MvPdfFile::setLeastVersion(const QByteArray &version)
+{
+    d->leastVersion = version.toStdString();
+}
+
 MvOutcome MvPdfFile::write(const QString &path)
 {
     QFile file(path);
@@ -175,6 +181,8 @@ MvOutcome MvPdfFile::write(const QString &path)
         QPDFWriter writer(d->pdf);
         writer.setOutputPipeline(&pipeline);
         writer.setObjectStreamMode(qpdf_o_generate);
+        if (!d->leastVersion.empty())
+            writer.setMinimumPDFVersion(d->leastVersion);
         writer.setDeterministicID(true);
         writer.write();
     } catch (const std::exception &exception) {

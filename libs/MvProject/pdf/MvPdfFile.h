@@ -33,6 +33,8 @@ public:
     /// Both are dictionaries.
     void setCatalog(const QByteArray &value);
     void setInformation(const QByteArray &value);
+    /// Of the format, "1.6", where more is used than the file shows by itself.
+    void setLeastVersion(const QByteArray &version);
 
     /// Writes everything to a new file.
     MvOutcome write(const QString &path);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfImageEncoder.h"
 
+#include "MvProject/MvInkJpeg.h"
 #include "MvProject/MvPdfJpeg.h"
+#include "MvProject/MvPressColors.h"
 
 #include <QBuffer>
 #include <QColorSpace>
@@ -9,13 +11,56 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 
 namespace {
 
-QByteArray entriesOf(const QSize &size, bool isGray, const QByteArray &filter)
+QByteArray entriesIn(const QByteArray &colors, const QSize &size, const QByteArray &filter)
 {
     return "/Type/XObject/Subtype/Image/BitsPerComponent 8/Width " + QByteArray::number(size.width()) + "/Height " +
-           QByteArray::number(size.height()) + "/ColorSpace" + (isGray ? "/DeviceGray" : "/DeviceRGB") + filter;
+           QByteArray::number(size.height()) + "/ColorSpace" + colors + filter;
+}
+
+QByteArray entriesOf(const QSize &size, bool isGray, const QByteArray &filter)
+{
+    return entriesIn(isGray ? "/DeviceGray" : "/DeviceRGB", size, filter);
+}
+
+/// The fields of some pixels with most ink: a single pixel wets no paper. So many bytes for each pixel, row by row.
+MvPdfImageEncoder::Ink mostInk(const QByteArray &inks, const QSize &size, int perPixel)
+{
+    constexpr int side = 16;
+    MvPdfImageEncoder::Ink most;
+    for (int top = 0; top < size.height(); top += side) {
+        const int bottom = std::min(top + side, size.height());
+        for (int left = 0; left < size.width(); left += side) {
+            const int right = std::min(left + side, size.width());
+            quint64 sum = 0;
+            for (int y = top; y < bottom; ++y) {
+                const char *from = inks.constData() + (qsizetype(y) * size.width() + left) * perPixel;
+                sum = std::accumulate(from, from + qsizetype(right - left) * perPixel, sum,
+                                      [](quint64 all, char ink) { return all + uchar(ink); });
+            }
+            const double percent = double(sum) / 2.55 / ((bottom - top) * (right - left));
+            if (percent > most.percent)
+                most = {percent, {(left + right) / 2.0 / size.width(), (top + bottom) / 2.0 / size.height()}};
+        }
+    }
+    return most;
+}
+
+/// The amount of black in each pixel of a grey picture.
+QByteArray blacksOf(const QImage &gray)
+{
+    QByteArray blacks;
+    blacks.reserve(qsizetype(gray.width()) * gray.height());
+    for (int y = 0; y < gray.height(); ++y) {
+        const uchar *line = gray.constScanLine(y);
+        std::transform(line, line + gray.width(), std::back_inserter(blacks),
+                       [](uchar value) { return char(uchar(255 - value)); });
+    }
+    return blacks;
 }
 
 bool isGray(const QImage &image)
@@ -77,6 +122,26 @@ MvPdfImageEncoder::Stream MvPdfImageEncoder::colors(const QImage &image)
         return lossless(plain(image));
     const bool isWrittenAsItIs = !isGray && image.format() == QImage::Format_RGB32;
     return jpeg(isWrittenAsItIs ? withoutColorSpace(image) : plain(image)); // a large one is not converted for nothing
+}
+
+MvPdfImageEncoder::Stream MvPdfImageEncoder::inks(const QImage &image, const MvPressColors &press)
+{
+    constexpr int inkCount = 4;
+    constexpr qsizetype sizeBefore = 4; // bytes of the length that packed bytes begin with
+    if (image.allGray()) {
+        const QImage gray = press.grays(image);
+        Stream stream = isTranslucent(image) ? lossless(gray) : colors(gray);
+        stream.ink = mostInk(blacksOf(gray), gray.size(), 1);
+        return stream;
+    }
+    const auto plain = [](const QImage &part) { return part.convertToFormat(QImage::Format_RGB888); };
+    const bool isDrawing = isTranslucent(image) || isFlat(image, plain);
+    const QByteArray inks = isDrawing ? press.drawing(image) : press.photo(image);
+    const QByteArray photo = isDrawing ? QByteArray() : MvInkJpeg::packed(inks, image.size(), quality);
+    const Ink most = mostInk(inks, image.size(), inkCount);
+    if (!photo.isEmpty())
+        return {entriesIn("/DeviceCMYK", image.size(), "/Filter/DCTDecode"), photo, most};
+    return {entriesIn("/DeviceCMYK", image.size(), "/Filter/FlateDecode"), qCompress(inks).sliced(sizeBefore), most};
 }
 
 MvPdfImageEncoder::Stream MvPdfImageEncoder::opacity(const QImage &image)

@@ -3,7 +3,6 @@
 
 #include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvPdfFile.h"
-#include "MvProject/MvPdfImageEncoder.h"
 #include "MvProject/MvPdfJpeg.h"
 #include "MvProject/MvPdfSyntax.h"
 
@@ -50,17 +49,25 @@ int MvPdfImages::object(const QImage &image, const QRect &part, const QSize &nee
     return object;
 }
 
+MvPdfImageEncoder::Stream MvPdfImages::packed(const QImage &image) const
+{
+    if (m_press)
+        return MvPdfImageEncoder::inks(image, *m_press);
+    if (const MvPdfJpeg jpeg(MvImageLoader::instance().jpegOf(image));
+        !jpeg.content().isEmpty() && jpeg.size() == image.size())
+        return MvPdfImageEncoder::stored(jpeg);
+    return MvPdfImageEncoder::colors(image);
+}
+
 int MvPdfImages::add(const QImage &image)
 {
-    if (const MvPdfJpeg jpeg(MvImageLoader::instance().jpegOf(image));
-        !jpeg.content().isEmpty() && jpeg.size() == image.size()) {
-        const MvPdfImageEncoder::Stream stored = MvPdfImageEncoder::stored(jpeg);
-        return m_file.addPackedStream(stored.entries, stored.content);
-    }
-    MvPdfImageEncoder::Stream colors = MvPdfImageEncoder::colors(image);
+    MvPdfImageEncoder::Stream colors = packed(image);
     if (MvPdfImageEncoder::isTranslucent(image)) {
         const MvPdfImageEncoder::Stream opacity = MvPdfImageEncoder::opacity(image);
         colors.entries += "/SMask " + MvPdfSyntax::reference(m_file.addPackedStream(opacity.entries, opacity.content));
     }
-    return m_file.addPackedStream(colors.entries, colors.content);
+    const int object = m_file.addPackedStream(colors.entries, colors.content);
+    if (m_press)
+        m_inks.insert(object, colors.ink);
+    return object;
 }

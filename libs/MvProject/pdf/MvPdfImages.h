@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvProject/MvPdfImageEncoder.h"
+
 #include <QByteArray>
 #include <QHash>
 #include <QImage>
@@ -8,18 +10,22 @@
 #include <QSize>
 
 class MvPdfFile;
+class MvPressColors;
 
 /// The pictures of a PDF, each of them once, however often it is painted. Their pixels are not kept.
 class MvPdfImages
 {
 public:
-    /// The file outlives it.
-    explicit MvPdfImages(MvPdfFile &file)
+    /// The file outlives it, and so does the press, if the pictures are for one.
+    explicit MvPdfImages(MvPdfFile &file, const MvPressColors *press = nullptr)
         : m_file(file)
+        , m_press(press)
     {}
 
     /// The object of a part of the picture, in at most about so many pixels. The part lies inside and is not empty.
     int object(const QImage &image, const QRect &part, const QSize &needed);
+    /// Of such an object, for the press.
+    MvPdfImageEncoder::Ink ink(int object) const { return m_inks.value(object); }
 
 private:
     struct Use
@@ -37,8 +43,11 @@ private:
     };
 
     int add(const QImage &image);
+    MvPdfImageEncoder::Stream packed(const QImage &image) const;
 
     MvPdfFile &m_file;
+    const MvPressColors *m_press;
     QHash<Use, int> m_uses;
     QHash<QByteArray, int> m_contents; // by a hash of the pixels
+    QHash<int, MvPdfImageEncoder::Ink> m_inks;
 };

@@ -8,6 +8,7 @@
 #include "MvProject/MvPdfShading.h"
 #include "MvProject/MvPdfSyntax.h"
 #include "MvProject/MvPdfTextPainter.h"
+#include "MvProject/MvPressColors.h"
 
 #include <algorithm>
 #include <cmath>
@@ -178,6 +179,7 @@ MvPdfPagePainter::MvPdfPagePainter(const Shared &shared, const QTransform &toUni
     , m_toUnits(toUnits)
     , m_page(page)
     , m_parts(parts)
+    , m_content(shared.press)
 {}
 
 void MvPdfPagePainter::paint(const MvPaintRecording &recording)
@@ -197,7 +199,7 @@ void MvPdfPagePainter::paint(const MvPaintRecording &recording)
         const MvPaintState &state = data.states[operation.state];
         const QRectF bounds = state.transform.mapRect(boundsOf(state, operation.shape));
         m_bounds = m_toUnits.mapRect(bounds) & m_toUnits.mapRect(m_page);
-        if (m_bounds.isEmpty())
+        if (m_bounds.isEmpty() || (m_isDecoration && std::holds_alternative<Outlines>(operation.shape)))
             continue; // blank, or beside the page
         m_operation = i;
         if (canWrite(state, operation.shape)) {
@@ -267,13 +269,16 @@ void MvPdfPagePainter::fill(const QPainterPath &path)
         return;
     }
     m_content.setFillColor(m_state->brush.color().rgb());
+    noteInk(m_state->brush.color().rgb());
     m_content.addPath(m_transform.map(path), MvPdfContent::Subpaths::AsTheyAre);
     m_content.finishPath(path.fillRule() == Qt::WindingFill ? "f" : "f*");
 }
 
 void MvPdfPagePainter::fillWithGradient(const QPainterPath &path)
 {
-    const MvPdfShading shading(m_state->brush, path.boundingRect());
+    const MvPdfShading shading(m_state->brush, path.boundingRect(), m_shared.press);
+    for (const QGradientStop &stop : m_state->brush.gradient()->stops())
+        noteInk(stop.second.rgb());
     const QTransform transform = shading.transform() * m_transform;
     m_content.save();
     if (shading.isTranslucent())
@@ -309,6 +314,7 @@ void MvPdfPagePainter::stroke(const QPainterPath &path)
     if (pen.widthF() == 0.0)
         pen.setWidthF(1.0);
     m_content.setStrokeColor(pen.color().rgb());
+    noteInk(pen.color().rgb());
     if (isCosmetic || keepsShapes(m_transform)) {
         m_content.setPen(pen, scaleOf(isCosmetic ? m_toUnits : m_transform));
         m_content.addPath(m_transform.map(path), MvPdfContent::Subpaths::Closed);
@@ -328,12 +334,16 @@ void MvPdfPagePainter::paintOutlines(const Outlines &shape)
 {
     const QList<int> parts = m_parts.partsOfLines(m_operation);
     const double opacity = m_state->opacity * double(shape.color.alphaF());
+    const QRgb color = m_shared.press ? MvPressColors::colorOfType(shape.color.rgb()) : shape.color.rgb();
+    // black goes over everything, so that no gap shows around it when the plates do not quite meet
+    const bool isOverprinted = (color | 0xff000000) == qRgb(0, 0, 0) && opacity == 1.0;
+    noteInk(color);
     for (qsizetype first = 0, next = 0; first < shape.lines.size(); first = next) {
         while (next < shape.lines.size() && parts[next] == parts[first])
             ++next;
         enterPart(parts[first]);
-        useOpacity(opacity, opacity);
-        m_content.setFillColor(shape.color.rgb());
+        useOpacity(opacity, opacity, {}, isOverprinted);
+        m_content.setFillColor(color);
         paintLines(shape.lines.sliced(first, next - first));
     }
 }
@@ -399,10 +409,13 @@ void MvPdfPagePainter::placeImage(const QImage &image, const QRect &part, const 
     const double dot = scaleOf(m_toUnits);
     const QSize needed(int(std::ceil(std::hypot(width.x(), width.y()) / dot)),
                        int(std::ceil(std::hypot(height.x(), height.y()) / dot)));
+    const int object = m_shared.images.object(image, part, needed);
     m_content.save();
     m_content.concat({width.x(), width.y(), height.x(), height.y(), origin.x(), origin.y()});
-    m_content.paintObject(m_shared.images.object(image, part, needed));
+    m_content.paintObject(object);
     m_content.restore();
+    const MvPdfImageEncoder::Ink ink = m_shared.images.ink(object);
+    noteInk(ink.percent, origin + width * ink.place.x() + height * (1.0 - ink.place.y()));
 }
 
 void MvPdfPagePainter::paintAsPicture(const MvPaintRecording &recording, const QRectF &bounds, const QColor &ground,
@@ -475,18 +488,36 @@ void MvPdfPagePainter::leaveClips(size_t keep)
         m_content.restore();
 }
 
-void MvPdfPagePainter::useOpacity(double fill, double stroke, const QByteArray &mask)
+void MvPdfPagePainter::noteInk(double percent, const QPointF &place)
+{
+    if (percent > m_mostInk.percent)
+        m_mostInk = {percent, place};
+}
+
+void MvPdfPagePainter::noteInk(QRgb color)
+{
+    if (m_shared.press)
+        noteInk(m_shared.press->inks(color).total(), m_bounds.center());
+}
+
+void MvPdfPagePainter::useOpacity(double fill, double stroke, const QByteArray &mask, bool isOverprinted)
 {
     const QPainter::CompositionMode mode = m_state ? m_state->mode : QPainter::CompositionMode_SourceOver;
     const bool isUsual = fill == 1.0 && stroke == 1.0 && mask.isEmpty() && mode == QPainter::CompositionMode_SourceOver;
-    if (isUsual && m_content.state() == 0)
+    const bool isForInks = m_shared.press && isOverprinted && isUsual;
+    if (isUsual && !isForInks && m_content.state() == 0)
         return;
+    const QByteArray inks = !m_shared.press ? "" : isForInks ? "/OP true/op true/OPM 1" : "/OP false/op false/OPM 0";
     m_content.setState(m_shared.file.addOnce("<</Type/ExtGState/ca " + MvPdfSyntax::number(fill, 3) + "/CA " +
-                                             MvPdfSyntax::number(stroke, 3) + "/BM/" + blendName(mode) + mask + ">>"));
+                                             MvPdfSyntax::number(stroke, 3) + "/BM/" + blendName(mode) + mask + inks +
+                                             ">>"),
+                       !isUsual || !m_shared.press);
 }
 
 void MvPdfPagePainter::enterPart(int part)
 {
+    if (m_isDecoration)
+        part = MvPdfPageParts::decoration;
     QRectF seen = m_bounds;
     for (const MvPaintClip *clip : m_clips)
         seen &= clipOf(*clip).path.boundingRect();

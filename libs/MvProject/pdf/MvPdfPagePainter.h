@@ -15,6 +15,7 @@ class MvPdfFile;
 class MvPdfFonts;
 class MvPdfImages;
 class MvPdfPageParts;
+class MvPressColors;
 
 /// Writes a recording as the content of a page: lines, areas, clips, opacity, gradients, texts and pictures as what
 /// they are.
@@ -31,15 +32,28 @@ public:
         MvPdfFile &file;
         MvPdfFonts &fonts;
         MvPdfImages &images;
+        const MvPressColors *press = nullptr; // for colours as inks
     };
 
     /// The recording's coordinates become units by the transform; the page is given in those of the recording.
     /// What is painted for parts of the page is marked as theirs, all else as decoration.
     MvPdfPagePainter(const Shared &shared, const QTransform &toUnits, const QRectF &page, MvPdfPageParts &parts);
 
+    /// To be written into instead of an empty content; before anything is painted.
+    void setContent(const MvPdfContent &content) { m_content = content; }
+    /// For what is not to be read: leaves texts out, and marks all else as decoration.
+    void setDecoration() { m_isDecoration = true; }
     void paint(const MvPaintRecording &recording);
 
     const MvPdfContent &content() const { return m_content; }
+
+    /// Where most ink was laid on at once; in units.
+    struct Ink
+    {
+        double percent = 0.0;
+        QPointF place;
+    };
+    Ink mostInk() const { return m_mostInk; }
 
 private:
     /// A clip in units.
@@ -66,7 +80,9 @@ private:
     const Clip &clipOf(const MvPaintClip &clip);
     void enterClips(const MvPaintClip *clip);
     void leaveClips(size_t keep);
-    void useOpacity(double fill, double stroke, const QByteArray &mask = {});
+    void useOpacity(double fill, double stroke, const QByteArray &mask = {}, bool isOverprinted = false);
+    void noteInk(double percent, const QPointF &place);
+    void noteInk(QRgb color);
 
     /// What follows belongs to the part.
     void enterPart(int part);
@@ -82,6 +98,8 @@ private:
     const MvPaintState *m_state = nullptr;
     QTransform m_transform; // from the coordinates of the shape to units
     QRectF m_bounds;        // of the shape with its pen, in units
+    bool m_isDecoration = false;
+    Ink m_mostInk;
     QHash<const MvPaintClip *, Clip> m_knownClips;
     std::vector<const MvPaintClip *> m_clips; // in force, each after a save()
 };

@@ -2,6 +2,7 @@
 #include "MvProject/MvPdfShading.h"
 
 #include "MvProject/MvPdfSyntax.h"
+#include "MvProject/MvPressColors.h"
 
 #include <QBrush>
 
@@ -23,24 +24,29 @@ QColor mixed(const QColor &from, const QColor &to, double share)
                             part(from.blueF(), to.blueF()), float(alpha));
 }
 
-bool needsSteps(const QColor &from, const QColor &to)
+bool needsSteps(const QColor &from, const QColor &to, bool isMixedOfInks)
 {
-    return from.alpha() != to.alpha() && (from.rgb() | 0xff000000) != (to.rgb() | 0xff000000);
-}
-
-QByteArray colorOf(const QColor &color, bool isOpacity)
-{
-    QByteArray out = "[";
-    const QList<double> parts =
-        isOpacity ? QList<double>{color.alphaF()} : QList<double>{color.redF(), color.greenF(), color.blueF()};
-    for (const double part : parts)
-        out += MvPdfSyntax::number(part, 3) + ' ';
-    return out + ']';
+    return (isMixedOfInks || from.alpha() != to.alpha()) && (from.rgb() | 0xff000000) != (to.rgb() | 0xff000000);
 }
 
 } // namespace
 
-QList<MvPdfShading::Part> MvPdfShading::partsOf(const QGradient &gradient)
+QByteArray MvPdfShading::colorOf(const QColor &color, bool isOpacity) const
+{
+    QByteArray out = "[";
+    QList<double> parts{color.alphaF()};
+    if (!isOpacity && m_press) {
+        const auto inks = m_press->inks(color.rgb()).parts;
+        parts = QList<double>(inks.cbegin(), inks.cend());
+    } else if (!isOpacity) {
+        parts = {color.redF(), color.greenF(), color.blueF()};
+    }
+    for (const double part : std::as_const(parts))
+        out += MvPdfSyntax::number(part, 3) + ' ';
+    return out + ']';
+}
+
+QList<MvPdfShading::Part> MvPdfShading::partsOf(const QGradient &gradient, bool isMixedOfInks)
 {
     constexpr int steps = 16;
     QGradientStops stops = gradient.stops();
@@ -52,7 +58,7 @@ QList<MvPdfShading::Part> MvPdfShading::partsOf(const QGradient &gradient)
         const auto [to, last] = stops[i];
         if (to <= from)
             continue;
-        const int count = needsSteps(first, last) ? steps : 1;
+        const int count = needsSteps(first, last, isMixedOfInks) ? steps : 1;
         for (int step = 0; step < count; ++step) {
             const double begin = double(step) / count;
             const double end = double(step + 1) / count;
@@ -71,9 +77,10 @@ bool MvPdfShading::canDescribe(const QBrush &brush)
            (gradient->type() == QGradient::LinearGradient || gradient->type() == QGradient::RadialGradient);
 }
 
-MvPdfShading::MvPdfShading(const QBrush &brush, const QRectF &bounds)
-    : m_gradient(*brush.gradient())
-    , m_parts(partsOf(m_gradient))
+MvPdfShading::MvPdfShading(const QBrush &brush, const QRectF &bounds, const MvPressColors *press)
+    : m_press(press)
+    , m_gradient(*brush.gradient())
+    , m_parts(partsOf(m_gradient, press != nullptr))
     , m_transform(brush.transform())
 {
     if (m_gradient.coordinateMode() == QGradient::LogicalMode)
@@ -105,8 +112,9 @@ QByteArray MvPdfShading::describe(bool isOpacity) const
         place += MvPdfSyntax::number(radial.centerRadius());
     }
     const QByteArray type = m_gradient.type() == QGradient::LinearGradient ? "2" : "3";
-    return "<</ShadingType " + type + "/ColorSpace" + (isOpacity ? "/DeviceGray" : "/DeviceRGB") + "/Coords[" + place +
-           "]/Extend[true true]/Function" + function(isOpacity) + ">>";
+    const QByteArray colors = isOpacity ? "/DeviceGray" : m_press ? "/DeviceCMYK" : "/DeviceRGB";
+    return "<</ShadingType " + type + "/ColorSpace" + colors + "/Coords[" + place + "]/Extend[true true]/Function" +
+           function(isOpacity) + ">>";
 }
 
 QByteArray MvPdfShading::function(bool isOpacity) const

@@ -8,6 +8,7 @@
 #include <QRectF>
 #include <QTransform>
 
+class MvPressColors;
 class QBrush;
 
 /// A linear or radial gradient as a PDF describes it: its colours, and its opacity apart from them as shades of grey.
@@ -18,7 +19,8 @@ public:
     static bool canDescribe(const QBrush &brush);
 
     /// The bounds are those of the shape that is filled, in the coordinates in which it was painted.
-    MvPdfShading(const QBrush &brush, const QRectF &bounds);
+    /// The press, if any, outlives it.
+    MvPdfShading(const QBrush &brush, const QRectF &bounds, const MvPressColors *press = nullptr);
 
     bool isTranslucent() const;
     /// Objects of a PDF.
@@ -37,10 +39,13 @@ private:
         QColor last;
     };
 
-    static QList<Part> partsOf(const QGradient &gradient);
+    /// Finely divided where inks are mixed, which come out in other colours between than those of a screen.
+    static QList<Part> partsOf(const QGradient &gradient, bool isMixedOfInks);
+    QByteArray colorOf(const QColor &color, bool isOpacity) const;
     QByteArray describe(bool isOpacity) const;
     QByteArray function(bool isOpacity) const;
 
+    const MvPressColors *m_press;
     const QGradient m_gradient;
     const QList<Part> m_parts; // from 0 to 1
     QTransform m_transform;
