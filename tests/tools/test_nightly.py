@@ -79,7 +79,8 @@ class Nightly(unittest.TestCase):
         line = path.read_text(encoding="utf-8").split("\n").index("int main()") + 1
         told = groups[0].told(f"{path}:{line}:5: error: bad [x]\n/h.h:1:2: note: here\n", path)
         self.assertEqual(told, f"{self.folder}/b.cpp:2:5: error: bad [x]\n/h.h:1:2: note: here\n")
-        self.assertEqual(tidy.findings(f"12 warnings.\n{told}{told}"), [told.strip()] * 2)
+        tidy.ROOT = self.folder
+        self.assertEqual(tidy.findings(f"12 warnings.\n{told}/usr/q.h:1:1: error: not ours\n{told}"), [told.strip()] * 2)
 
     def test_benchmarks(self):
         times = {"fast": 2.0, "slow": 8.0}

@@ -84,7 +84,7 @@ void MvPrintPreview::addFindings(QVBoxLayout *column)
     connect(list, &MvPrintFindingList::currentChanged, this,
             [this](const MvPrintFinding &finding) { showPage(finding.page + 1); });
     connect(list, &MvPrintFindingList::placeWanted, this, [this](const MvPrintFinding &finding) {
-        const MvPrintFinding place = finding;
+        const MvPrintFinding place = finding; // NOLINT(performance-unnecessary-copy-initialization): its list may go
         reject();
         Q_EMIT placeWanted(place);
     });

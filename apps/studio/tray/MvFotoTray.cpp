@@ -239,7 +239,7 @@ QMenu *MvFotoTray::createContextMenu()
     menu->setObjectName(u"photoTrayMenu"_s);
     if (paths.isEmpty())
         return menu;
-    const QString first = paths.constFirst();
+    const QString &first = paths.constFirst();
     const auto add = [menu](const char *name, const QString &text) {
         QAction *action = menu->addAction(text);
         action->setObjectName(QLatin1StringView(name));
