@@ -83,7 +83,7 @@ MvEventGroupList MvEventGroupList::merged(const MvEventGroupList &base, const Mv
         const MvEventGroup *there = theirs.find(group.id);
         const MvEventGroup *other = isChanged(here) ? here : there;
         const bool isRemoved = (!here || !there) && !isChanged(other); // by one side, and the other left it alone
-        if (!isRemoved && !result.find(group.id))
+        if (other && !isRemoved && !result.find(group.id))
             result.append(*other);
     };
     const bool isOrderedHere =

@@ -32,7 +32,7 @@ bool readDuration(const QString &text, qint64 *seconds)
     const QRegularExpressionMatch match = form.match(text.trimmed());
     if (!match.hasMatch())
         return false;
-    constexpr qint64 factors[] = {7 * 86400, 86400, 3600, 60, 1};
+    constexpr qint64 factors[] = {7LL * 86400, 86400, 3600, 60, 1};
     *seconds = 0;
     for (int i = 0; i < 5; ++i)
         *seconds += match.captured(i + 1).toLongLong() * factors[i];

@@ -318,6 +318,6 @@ bool MvDateEdit::focusNextPrevChild(bool next)
         }
     }
     takeText();
-    return QAbstractSpinBox::focusNextPrevChild(
-        next); // NOLINT(bugprone-parent-virtual-call): sections of the base have no say
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): sections of the base have no say
+    return QAbstractSpinBox::focusNextPrevChild(next);
 }

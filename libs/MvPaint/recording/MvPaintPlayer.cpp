@@ -113,7 +113,7 @@ void MvPaintPlayer::enterClip(const MvPaintClip *clip)
         m_state = nullptr;
     }
     const MvPaintClip *now = m_clips.empty() ? nullptr : m_clips.back();
-    if (clip == now)
+    if (!clip || clip == now)
         return;
     enterClip(clip->parent.get());
     addClip(*clip);
