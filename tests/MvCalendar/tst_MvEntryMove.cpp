@@ -10,15 +10,16 @@ namespace {
 
 struct Row
 {
-    const char *name;
+    const char *name = nullptr;
     QDate date;
-    bool isYearly;
-    const char *rule;
+    bool isYearly = true;
+    const char *rule = nullptr;
     QList<QDate> exceptions;
     QDate end;
     QDate from;
     QDate to;
-    const char *after; // what all times are then: first day, rule, exceptions, end; empty where they cannot be moved
+    const char *after =
+        nullptr; // what all times are then: first day, rule, exceptions, end; empty where they cannot be moved
 };
 
 const Row rows[] = {

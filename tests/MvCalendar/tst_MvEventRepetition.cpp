@@ -289,7 +289,7 @@ void tst_MvEventRepetition::mergesFields()
     QCOMPARE(merged.groups().size(), 2);
     mine.groups().clear(); // removed here, unchanged there
     QCOMPARE(MvCalendarEventMerge::threeWay(merged, mine, merged).groups().size(), 0);
-    const MvEventGroupList both = merged.groups();
+    const MvEventGroupList &both = merged.groups();
     const MvEventGroupList turned{both.at(1), both.at(0)};
     QCOMPARE(MvEventGroupList::merged(both, both, turned), turned); // whoever put them into another order
     QCOMPARE(MvEventGroupList::merged(both, turned, both), turned);

@@ -274,7 +274,7 @@ void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles_data()
     const QByteArray tante = "<CalendarEvent><Name>Tante" + date + "</CalendarEvent>";
     const QByteArray foto = "<CalendarEvent><Name>Tante" + date + "<Image>/etc/hostname</Image></CalendarEvent>";
     const QByteArray opa = "<CalendarEvent><Name>Opa</Name><DateTime>17.05.1941</DateTime></CalendarEvent>";
-    const QByteArray large = tante + QByteArray(300 * 1024, '\n'); // is read in a thread
+    const QByteArray large = tante + QByteArray(300LL * 1024, '\n'); // is read in a thread
     const QString all = u"Anna Moritz Xaver"_qs;
     const QString lost = u"Ihre 3 Einträge durch die aus „liste.xml“"_qs;
     QTest::newRow("load, cut") << QByteArray("<CalendarEvent>") << false << false << u"liste.xml:"_qs << all;

@@ -410,7 +410,7 @@ void tst_MvImageLoader::decodesOnceInManyThreads()
 
 void tst_MvImageLoader::cacheIsBounded()
 {
-    const qint64 limit = 100 * 1024;
+    const qint64 limit = 100LL * 1024;
     MvImageCache cache(limit);
     int made = 0;
     const auto ask = [&](int number, int side) {

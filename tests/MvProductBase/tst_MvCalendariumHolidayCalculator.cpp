@@ -278,6 +278,7 @@ void tst_MvCalendariumHolidayCalculator::answersManyThreads()
     const MvCalendariumHolidayList expected = holidays(2027, u"de_DE"_s, u"BY"_s);
     std::atomic<int> wrong = 0;
     std::vector<std::thread> threads; // not QThread: the sanitizer does not see through its waiting
+    threads.reserve(4);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([&] {
             for (int round = 0; round < 20; ++round) {

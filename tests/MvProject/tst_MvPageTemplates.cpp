@@ -281,8 +281,8 @@ void tst_MvPageTemplates::themesKeepPhotos()
     document = MvThemeApplication::applied(document, MvThemeRegistry::instance().findTheme(u"ALBUM"_s));
     for (const MvCalendarDocument::FrameId &frame : before.frames())
         QCOMPARE(document.foto(frame).caption(), before.foto(frame).caption());
-    for (int page = 0; page < document.pages().size(); ++page)
-        QVERIFY(document.pages().at(page).spareElements().isEmpty());
+    for (const MvCalendarPage &page : document.pages())
+        QVERIFY(page.spareElements().isEmpty());
 }
 
 void tst_MvPageTemplates::ownFiles_data()

@@ -123,7 +123,7 @@ private:
         return inner.isArray() ? inner.getArrayAsVector() : std::vector<Object>{inner};
     }
 
-    void walk(Object element, Object around)
+    void walk(Object element, const Object &around)
     {
         const QString name = type(element);
         const size_t number = size_t(types.size());
@@ -158,7 +158,7 @@ private:
         if (name != u"Table")
             return;
         std::set<int> widths;
-        for (Object row : inside(element)) {
+        for (const Object &row : inside(element)) {
             int width = 0;
             if (type(row) != u"TR")
                 continue;

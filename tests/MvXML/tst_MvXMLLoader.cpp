@@ -55,7 +55,7 @@ void tst_MvXMLLoader::refuses_data()
         QTest::newRow(name) << bytes << message << line;
     };
     const QString entities = u"Entitäten dürfen nicht"_s;
-    const QByteArray big(100 * 1000, 'x');
+    const QByteArray big(100LL * 1000, 'x');
     row("one entity repeated",
         "<!DOCTYPE a [<!ENTITY e \"" + big + "\">]><a>" + QByteArray("&e;").repeated(168000) + "</a>", entities, 1);
     row("nested entities", "<!DOCTYPE a [\n<!ENTITY b \"1\">\n<!ENTITY c \"&b;&b;\">]><a>&c;</a>", entities, 2);

@@ -363,7 +363,7 @@ void tst_StudioEntryJourneys::secretaryMakesARoster()
     const QStringList groups{u"Vorstand"_s, u"Jugend"_s, u"Orchester"_s};
     QByteArray table("Datum;Termin;Gruppe\r\n");
     for (int i = 0; i < 60; ++i)
-        table += QDate(2027, 1, 4).addDays(6 * i).toString(u"dd.MM.yyyy"_s).toUtf8() + ";Termin" +
+        table += QDate(2027, 1, 4).addDays(6LL * i).toString(u"dd.MM.yyyy"_s).toUtf8() + ";Termin" +
                  QByteArray::number(i) + ';' + groups.at(i % 3).toUtf8() + "\r\n";
     QVERIFY(MvTestFiles::write(studio.path(u"termine.csv"_s), table));
     int hands = 0;

@@ -65,7 +65,7 @@ bool fillFolder(const QString &folder)
         const QString name =
             u"%1/IMG_%2.jpg"_s.arg(number % 5 ? folder : folder + u"/unten"_s).arg(number, 4, 10, QChar(u'0'));
         isWritten = isWritten && writeJpeg(name, size, QColor::fromHsv(number * 9, 120, 200), number % 8 + 1,
-                                           QDate(2027, 1, 4).addDays(number * 9));
+                                           QDate(2027, 1, 4).addDays(number * 9LL));
     }
     for (const int number : telephoneFotos)
         isWritten = isWritten && writeHeic(u"%1/IMG_%2.heic"_s.arg(folder).arg(number),

@@ -25,9 +25,9 @@ namespace {
 struct Screen
 {
     QSize size;
-    double scale;
-    const char *language;
-    const char *theme;
+    double scale = 1.0;
+    const char *language = nullptr;
+    const char *theme = nullptr;
 };
 
 constexpr Screen screens[] = {

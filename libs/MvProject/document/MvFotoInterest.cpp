@@ -67,7 +67,8 @@ QList<MvFotoInterest::Part> MvFotoInterest::cells() const
     const double height = 1.0 / std::max(1, m_grid.height());
     for (qsizetype i = 0; i < m_amounts.size(); ++i) {
         if (m_amounts.at(i) > 0) {
-            const QPointF corner(double(i % m_grid.width()) * width, double(i / m_grid.width()) * height);
+            const qsizetype row = i / m_grid.width();
+            const QPointF corner(double(i % m_grid.width()) * width, double(row) * height);
             cells.append({QRectF(corner, QSizeF(width, height)), m_amounts.at(i) / sum});
         }
     }

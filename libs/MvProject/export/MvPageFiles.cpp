@@ -3,14 +3,13 @@
 
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvExportObserver.h"
+#include "MvProject/MvPageTask.h"
 
 #include <QThread>
-#include <QThreadPool>
 
 #include <algorithm>
 #include <deque>
 #include <future>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -25,30 +24,15 @@ public:
     Encoders(int jobs, const MvPageFiles::Encode &encode)
         : m_jobs(jobs)
         , m_encode(encode)
-    {
-        m_pool.setMaxThreadCount(jobs);
-        m_pool.setExpiryTimeout(-1);
-    }
-    ~Encoders()
-    {
-        m_pool.clear(); // what has not begun is not wanted any more
-        m_pool.waitForDone();
-    }
-    Encoders(const Encoders &) = delete;
-    Encoders &operator=(const Encoders &) = delete;
+    {}
 
     bool isFull() const { return int(m_waiting.size()) >= m_jobs; }
     bool isEmpty() const { return m_waiting.empty(); }
 
     void put(const MvPaintRecording &recording)
     {
-        using Task = std::packaged_task<MvPageFiles::Content()>;
-        const auto task = std::make_shared<Task>([encode = m_encode, recording] { return encode(recording); });
-        m_waiting.push_back(task->get_future());
-        if (m_jobs == 1)
-            (*task)();
-        else
-            m_pool.start([task] { (*task)(); });
+        const auto task = [encode = m_encode, recording] { return encode(recording); };
+        m_waiting.push_back(m_jobs == 1 ? std::async(std::launch::deferred, task) : MvPageTask::begin(task));
     }
     /// Waits for the first.
     MvPageFiles::Content take()
@@ -62,7 +46,6 @@ private:
     int m_jobs;
     MvPageFiles::Encode m_encode;
     std::deque<std::future<MvPageFiles::Content>> m_waiting;
-    QThreadPool m_pool;
 };
 
 /// The next file of the result, unless the observer has had enough.

@@ -12,7 +12,7 @@
 class MvExportObserver;
 
 /// Makes a file of each page, as fast as the processors allow: the calling thread records the pages one after the other
-/// and writes the files in the order of the pages; between the two, a pool of threads turns recordings into bytes. As
+/// and writes the files in the order of the pages; between the two, threads turn recordings into bytes. As
 /// many pages as there are threads are in memory, and the one that is being recorded.
 class MvPageFiles
 {

@@ -8,6 +8,7 @@
 #include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
+#include "MvProject/MvPageTask.h"
 #include "MvProject/MvPdfDocument.h"
 #include "MvProject/MvPressSheet.h"
 
@@ -15,9 +16,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
-#include <QThreadPool>
 
 #include <cmath>
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -50,26 +51,27 @@ public:
     PageWriter(MvPdfDocument &document, bool hasThread)
         : m_document(document)
         , m_hasThread(hasThread)
-    {
-        m_thread.setMaxThreadCount(1);
-        m_thread.setExpiryTimeout(-1);
-    }
+    {}
 
     void add(const MvPdfDocument::Page &page, const MvPaintRecording &recording)
     {
         finish();
         const auto put = [this, page, recording] { m_document.addPage(page, recording, MvPdfExporter::resolution); };
         if (m_hasThread)
-            m_thread.start(put);
+            m_underWay = MvPageTask::begin(put);
         else
             put();
     }
-    void finish() { m_thread.waitForDone(); }
+    void finish()
+    {
+        if (m_underWay.valid())
+            m_underWay.get();
+    }
 
 private:
     MvPdfDocument &m_document;
     bool m_hasThread;
-    QThreadPool m_thread;
+    std::future<void> m_underWay;
 };
 
 /// A page in words, for those who handle the sheets.

@@ -13,7 +13,7 @@ using Role = MvTemplateStyle::Role;
 
 struct Kind
 {
-    Shows shows;
+    Shows shows = Shows();
     QLatin1StringView name;
     QLatin1StringView usualLayout;
 };
