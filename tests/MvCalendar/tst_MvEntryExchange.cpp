@@ -30,6 +30,7 @@ private Q_SLOTS:
     void takenTwiceAddsNothing();
     void survivesBrokenFiles_data();
     void survivesBrokenFiles();
+    void eventsOfNoCalendar();
 
 private:
     static QByteArray contentOf(const QString &path)
@@ -278,6 +279,17 @@ void tst_MvEntryExchange::survivesBrokenFiles()
             QVERIFY(reading.events.size() + reading.skipped.size() >=
                     whole.count("BEGIN:VEVENT") - whole.count("CANCELLED")); // some are exceptions of others
     }
+}
+
+/// Its first line is damaged: what follows is no calendar's, and is not taken beside a message that says so.
+void tst_MvEntryExchange::eventsOfNoCalendar()
+{
+    const MvEntryReading reading = MvEntryIntake::read("BEGIN:VCALENDAR\x01\r\nVERSION:2.0\r\nBEGIN:VEVENT\r\nUID:a\r\n"
+                                                       "DTSTART;VALUE=DATE:20270301\r\nSUMMARY:Probe\r\nEND:VEVENT\r\n"
+                                                       "END:VCALENDAR\r\n",
+                                                       u"file"_s);
+    QVERIFY(reading.error.contains(u"kein Kalender"_s));
+    QVERIFY(reading.events.isEmpty());
 }
 
 MV_TEST_MAIN(tst_MvEntryExchange)

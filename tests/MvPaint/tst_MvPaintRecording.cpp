@@ -117,7 +117,7 @@ void drawShapes(QPainter &painter)
     painter.drawPolyline(QPolygonF({{10, 180}, {40.5, 130}, {70, 185.5}}));
     painter.drawPolygon(QPolygonF({{100, 180}, {140.5, 130}, {170, 185.5}, {105, 140}}), Qt::WindingFill);
     painter.drawPolygon(QPolygon({{180, 180}, {200, 130}, {230, 185}}));
-    painter.drawPoints(QPolygonF({{220.5, 20.5}, {225, 30}}));
+    painter.drawPoints(QPolygonF({QPointF(220.5, 20.5), QPointF(225, 30)}));
 }
 
 void drawFills(QPainter &painter)

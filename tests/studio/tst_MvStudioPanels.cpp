@@ -93,12 +93,12 @@ QString layoutOf(const MvCalendariumAppearance &appearance)
     return appearance.layoutSchema().ID().toString();
 }
 
-using Control = std::function<QPair<QVariant, QVariant>(const QWidget *)>; // what it shows, what holds
+using Control = std::function<std::pair<QVariant, QVariant>(const QWidget *)>; // what it shows, what holds
 
 template <class Widget>
 Control control(const std::function<QVariant(const Widget *)> &shown, const std::function<QVariant()> &holds)
 {
-    return [=](const QWidget *widget) { return QPair(shown(qobject_cast<const Widget *>(widget)), holds()); };
+    return [=](const QWidget *widget) { return std::pair(shown(qobject_cast<const Widget *>(widget)), holds()); };
 }
 QVariant checkedOf(const QAbstractButton *button)
 {
@@ -191,7 +191,7 @@ QHash<QString, Control> controlsOf(const OpenPanels &open)
         const QString layout = layoutOf(look());
         const bool isOffered = !list->model()->match(list->model()->index(0, 0), Qt::UserRole, layout).isEmpty();
         const QVariant shown = list->currentItem() ? list->currentItem()->data(Qt::UserRole) : QVariant(QString());
-        return QPair(shown, QVariant(isOffered ? layout : QString()));
+        return std::pair(shown, QVariant(isOffered ? layout : QString()));
     };
     return {
         {u"holidayCheckBox"_s, control<QAbstractButton>(checkedOf, holidayState)},
@@ -208,7 +208,7 @@ QHash<QString, Control> controlsOf(const OpenPanels &open)
         {u"paper"_s,
          [paper](const QWidget *widget) { // a format of one's own may have any size, those of the named ones, too
              const QVariant shown = qobject_cast<const QComboBox *>(widget)->currentData();
-             return QPair(shown, shown.toString().isEmpty() ? shown : QVariant(paper()));
+             return std::pair(shown, shown.toString().isEmpty() ? shown : QVariant(paper()));
          }},
         {u"orientation"_s, chosen([=] { return int(document().format().orientation()); })},
         {u"paperWidth"_s, numbered([=] { return document().format().trimSize().width() / 10.0; })},

@@ -33,7 +33,7 @@ QStringList words(const QString &name, const QJsonValue &value)
         return {option + u'=' + value.toString()};
     case QJsonValue::Array: {
         QStringList all;
-        for (const QJsonValue &one : value.toArray())
+        for (const auto &one : value.toArray())
             all += words(name, one);
         return all;
     }

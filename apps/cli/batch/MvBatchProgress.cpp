@@ -27,10 +27,11 @@ void MvBatchProgress::add(const MvBatchResult &result, const QString &place)
 {
     ++m_done;
     m_skipped += result.state == MvBatchResult::State::Skipped ? 1 : 0;
-    m_failed += result.isComplete() ? 0 : 1;
-    if (!result.isComplete())
+    const bool isInterrupted = result.state == MvBatchResult::State::Interrupted; // it has not failed
+    m_failed += result.isComplete() || isInterrupted ? 0 : 1;
+    if (!result.isComplete() && !isInterrupted)
         printLine(place + u": "_s + result.reason);
-    else if (m_detail == Detail::EveryCalendar)
+    else if (result.isComplete() && m_detail == Detail::EveryCalendar)
         printLine(place + u": "_s +
                   (result.state == MvBatchResult::State::Skipped
                        ? tr("unverändert")

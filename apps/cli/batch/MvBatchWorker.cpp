@@ -99,7 +99,7 @@ bool writeAll(int descriptor, const QByteArray &bytes)
 QJsonArray coarse(const QJsonArray &fotos)
 {
     QJsonArray found;
-    for (const QJsonValue &foto : fotos) {
+    for (const auto &foto : fotos) {
         if (foto.toObject().value(u"quality"_s).toString() != u"good"_s)
             found.append(foto);
     }
@@ -109,7 +109,7 @@ QJsonArray coarse(const QJsonArray &fotos)
 QStringList paths(const QJsonArray &files)
 {
     QStringList paths;
-    for (const QJsonValue &file : files)
+    for (const auto &file : files)
         paths.append(file.toString());
     return paths;
 }

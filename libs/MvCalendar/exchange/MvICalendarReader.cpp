@@ -161,6 +161,8 @@ void MvICalendarReader::endFile(int leftOutLines, int firstLeftOut)
                      [](const auto &a, const auto &b) { return a.line < b.line; });
     groupByCalendars();
     addNotes();
+    if (!m_result.isOk())
+        m_result.events.clear(); // events outside of any calendar are not taken, however well they read
 }
 
 void MvICalendarReader::endCalendar()
