@@ -11,10 +11,10 @@ build_packages="g++ cmake ninja-build ccache pkg-config python3-minimal qt6-base
     libhyphen-dev hyphen-bg hyphen-ca hyphen-cs hyphen-da hyphen-de hyphen-el hyphen-en-gb hyphen-en-us hyphen-es
     hyphen-fr hyphen-hr hyphen-hu hyphen-it hyphen-nl hyphen-no hyphen-pl hyphen-pt-pt hyphen-ro hyphen-sk hyphen-sl
     hyphen-sv"
-test_packages="python3 python3-dateutil poppler-utils ghostscript qpdf libheif-examples libbenchmark-dev clang-format desktop-file-utils appstream mandoc
+test_packages="python3 python3-dateutil poppler-utils ghostscript procps qpdf libheif-examples libbenchmark-dev clang-format desktop-file-utils appstream mandoc
     shared-mime-info xvfb xauth dpkg-dev lintian dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
     fonts-noto-color-emoji fonts-lato"
-nightly_packages="clang clang-tidy libclang-rt-14-dev procps slurm-wlm parallel openssh-server openssh-client mmdebstrap"
+nightly_packages="clang clang-tidy libclang-rt-14-dev slurm-wlm parallel openssh-server openssh-client mmdebstrap"
 
 case "${1:-}" in
 build) wanted="$build_packages" ;;
