@@ -347,17 +347,21 @@ void tst_Batch::killedAtAnyMoment()
     writeList(many);
     QCOMPARE(run(m_call).exitCode, 0);
     verifyAll(many);
-    for (int round = 0; round < rounds; ++round) {
+    int longest = 400; // milliseconds
+    for (int round = 0; round < rounds;) {
         for (const QString &file : files().filter(QRegularExpression(u"pdf$|^report"_s)))
             QFile::remove(path(file));
         QProcess batch;
         start(batch, m_call);
-        QTest::qWait(chance.bounded(30, 400));
-        if (batch.state() == QProcess::NotRunning) // it was quicker, and its number is nobody's
+        QTest::qWait(chance.bounded(longest));
+        if (batch.state() == QProcess::NotRunning) { // it was quicker, and its number is nobody's
+            longest = qMax(2, longest / 2);
             continue;
+        }
+        ++round;
         const QList<pid_t> workers = workersOf(batch);
         const pid_t victim =
-            round % 2 == 0 || workers.isEmpty() ? pid_t(batch.processId()) : workers[chance.bounded(workers.size())];
+            round % 2 == 1 || workers.isEmpty() ? pid_t(batch.processId()) : workers[chance.bounded(workers.size())];
         ::kill(victim, SIGKILL);
         QVERIFY(batch.waitForFinished());
         for (const pid_t worker : workers) // nobody goes on behind the next run
