@@ -11,7 +11,7 @@ function(mv_test_environment out)
         "QTEST_DISABLE_STACK_DUMP=1" # its fork waits for ever when the heap is what is broken
         "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1"
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"
-        "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp:print_suppressions=0"
+        "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/tsan.supp:print_suppressions=0:die_after_fork=0"
         "UBSAN_OPTIONS=print_stacktrace=1" PARENT_SCOPE)
 endfunction()
 
