@@ -37,6 +37,7 @@ private Q_SLOTS:
     void filesThatAreNotWhole_data();
     void filesThatAreNotWhole();
     void fotosGoWithTheCalendar();
+    void stepsKeepTheirFotos();
     void fotosNobodyNeedsGo();
     void calendarsWithoutAListTakeTheUsers();
     void unreadableListsAreNotReplacedByNothing();
@@ -392,6 +393,39 @@ void tst_MvProjectEntries::fotosGoWithTheCalendar()
     const MvOutcome without = m_project->saveAs(file(u"b/k.mvcalendar"_s));
     QVERIFY2(without.isOk() && without.notes.join(u' ').contains(u"„Oma Erna“"_s), qPrintable(without.error));
     QCOMPARE(registry().activeEventList().first().imagePath().isFile(), true);
+}
+
+/// Steps back and forth give the same files in both lists, though saving moves a calendar's photos.
+void tst_MvProjectEntries::stepsKeepTheirFotos()
+{
+    QVERIFY(MvTestFiles::writeFoto(path(u"rot.png"_s), {16, 12}, Qt::red));
+    QVERIFY(MvTestFiles::writeFoto(path(u"blau.png"_s), {16, 12}, Qt::blue));
+    const auto fotos = [] {
+        QStringList paths;
+        for (const MvCalendarEvent &event : registry().activeEventList() + registry().ownEvents())
+            paths.append(event.imagePath().filePath());
+        return paths;
+    };
+    const auto isRed = [](const QString &foto) { return QImage(foto).pixelColor(3, 3).red() > 200; };
+    MvUndoController &undo = MvUndoController::instance();
+    m_project->setEntriesReachOwn(true);
+    push({}, entry(u"Oma"_s, {1941, 1, 9}, MvFoto(file(u"rot.png"_s))));
+    MvCalendarEvent changed = registry().activeEventList().first();
+    QCOMPARE(changed.takeFoto(MvFoto(file(u"blau.png"_s))).error, QString());
+    push(registry().activeEventList().first(), changed);
+    QVERIFY(m_project->saveAs(file()).isOk());
+    const QStringList saved = fotos();
+    QVERIFY(saved.size() == 2 && saved.first() != saved.last() && !isRed(saved.first()));
+    for (int round = 0; round < 2; ++round) {
+        undo.undo();
+        QCOMPARE(fotos().size(), 2);
+        QVERIFY(isRed(fotos().first()) && isRed(fotos().last()));
+        undo.undo();
+        QCOMPARE(fotos(), QStringList());
+        undo.redo();
+        undo.redo();
+        QCOMPARE(fotos(), saved);
+    }
 }
 
 /// But not before nothing names them any more, and never what somebody else has put there.

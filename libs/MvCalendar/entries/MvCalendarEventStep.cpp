@@ -21,6 +21,17 @@ MvCalendarEvent stepFrom(const MvCalendarEvent &from, const MvCalendarEvent &to,
     return result;
 }
 
+/// The photo of an entry may have got another place since, such as beside a calendar that was saved: both states of a
+/// step mean the file at that place then. Another photo is nothing to follow.
+void followFoto(const MvFoto &present, MvCalendarEvent &from, MvCalendarEvent &to)
+{
+    if (!MvCalendarEventMerge::isSameFoto(from.foto(), present))
+        return;
+    if (to.foto() == from.foto())
+        to.relocateFoto(present);
+    from.relocateFoto(present);
+}
+
 } // namespace
 
 MvCalendarEventStep::MvCalendarEventStep(const MvCalendarEvent &before, const MvCalendarEvent &after,
@@ -66,7 +77,8 @@ void MvCalendarEventStep::change(const MvCalendarEvent &from, const MvCalendarEv
         changed();
 }
 
-/// The same step from what the user's list has of the entry; without any difference when there is nothing to do.
+/// The same step from what the user's list has of the entry; without any difference when there is nothing to do. Done
+/// again, it brings the entry back where it stood, and with the user's copy of its photo.
 MvCalendarEventStep::Part MvCalendarEventStep::ownPart() const
 {
     const auto inOwn = [this](const MvCalendarEvent &event) {
@@ -76,14 +88,15 @@ MvCalendarEventStep::Part MvCalendarEventStep::ownPart() const
     MvCalendarEvent after = m_active.after;
     Part part{List::Own, inOwn(before), after, {}};
     if (part.before.isValid() && after.isValid()) {
-        if (MvCalendarEventMerge::isSameFoto(before.foto(), part.before.foto())) { // another copy of it
-            if (after.foto() == before.foto())
-                after.relocateFoto(part.before.foto());
-            before.relocateFoto(part.before.foto());
-        }
+        followFoto(part.before.foto(), before, after);
         part.after = stepFrom(before, after, part.before);
     } else if (!part.before.isValid() && inOwn(after).isValid()) {
         part.after = {}; // it is there
+    }
+    if (m_own) {
+        part.place = m_own->place;
+        if (MvCalendarEventMerge::isSameFoto(part.after.foto(), m_own->after.foto()))
+            part.after.relocateFoto(m_own->after.foto());
     }
     return part;
 }
@@ -100,6 +113,7 @@ bool MvCalendarEventStep::apply(Part &part, MvCalendarEvent &from, MvCalendarEve
         isChanged = add(part, to);
     } else {
         if (present.isValid() && !(present == from)) {
+            followFoto(present.foto(), from, to);
             to = stepFrom(from, to, present);
             from = present;
         }
