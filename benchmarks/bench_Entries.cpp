@@ -55,15 +55,29 @@ static void readEntries(benchmark::State &state)
 }
 BENCHMARK(readEntries)->Unit(benchmark::kMillisecond);
 
+/// The same, as groups of several days that come back every other year.
+static MvCalendarEventList manySpans()
+{
+    MvCalendarEventList events = manyEntries();
+    MvEventRepetition repetition;
+    repetition.rule = MvRecurrenceRule::parse(QStringLiteral("FREQ=YEARLY;INTERVAL=2")).rule;
+    for (MvCalendarEvent &event : events) {
+        event.setEndDate(event.dateTime().date().addDays(3));
+        event.setGroups({events.groups().idOfName(QStringLiteral("Familie"))});
+        event.setRepetition(repetition);
+    }
+    return events;
+}
+
 /// Beside reading each text of such a file as a stream, and keeping none.
-static void loadList(benchmark::State &state)
+static void load(benchmark::State &state, const MvCalendarEventList &events)
 {
     const QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("entries.xml"));
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return state.SkipWithError("no temporary file");
-    file.write(MvCalendarEventFile::toBytes(manyEntries()));
+    file.write(MvCalendarEventFile::toBytes(events));
     file.close();
     const auto readAlone = [&path] {
         QFile plain(path);
@@ -75,14 +89,25 @@ static void loadList(benchmark::State &state)
             benchmark::DoNotOptimize(reader.text().toString());
         }
     };
-    const auto load = [&path] { benchmark::DoNotOptimize(MvCalendarEventFile::read(QFileInfo(path)).events.size()); };
+    const auto read = [&path] { benchmark::DoNotOptimize(MvCalendarEventFile::read(QFileInfo(path)).events.size()); };
     for (auto _ : state) {
-        const std::vector<double> times = MvBenchTurns().measure({readAlone, load});
+        const std::vector<double> times = MvBenchTurns().measure({readAlone, read});
         state.counters["ms"] = times.at(1);
         state.counters["ratio"] = times.at(1) / times.at(0);
     }
 }
+
+static void loadList(benchmark::State &state)
+{
+    load(state, manyEntries());
+}
 BENCHMARK(loadList)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+static void loadSpans(benchmark::State &state)
+{
+    load(state, manySpans());
+}
+BENCHMARK(loadSpans)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 /// An undo step with one change among 10,000 entries, beside writing them all into a file as a stream.
 static void changeOne(benchmark::State &state)

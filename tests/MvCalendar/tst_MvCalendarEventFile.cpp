@@ -4,9 +4,13 @@
 #include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
+#include "MvCalendar/MvCalendarEventLines.h"
+#include "MvCalendar/MvCalendarEventTexts.h"
+#include "MvCalendar/MvEntryIntake.h"
 #include "MvXML/MvXMLBuilder.h"
 
 #include <QDomDocument>
+#include <QRandomGenerator>
 #include <QStringEncoder>
 #include <QTemporaryDir>
 
@@ -19,6 +23,8 @@ class tst_MvCalendarEventFile : public MvTest
 private Q_SLOTS:
     void reads_data();
     void reads();
+    void linesAreReadAsXml();
+    void largeListsAreRead();
     void shortensWhatWasSkipped();
     void writesWhatADocumentWould();
 };
@@ -79,6 +85,95 @@ void tst_MvCalendarEventFile::reads()
     QVERIFY2(content.refusal().contains(refusal), qPrintable(content.refusal()));
     QCOMPARE(content.refusal().isEmpty(), refusal.isEmpty());
     QCOMPARE(content.isComplete, skipped.isEmpty() && refusal.isEmpty());
+}
+
+/// The fast way gives what an XML reader gives, which a comment at the end calls for; whatever became of the file.
+void tst_MvCalendarEventFile::linesAreReadAsXml()
+{
+    const auto isOfLines = [](const QByteArray &bytes) {
+        MvCalendarEventLines lines(bytes);
+        while (lines.next())
+            lines.texts();
+        return lines.isAtEnd();
+    };
+    const QTemporaryDir dir;
+    const auto read = [&dir](const QByteArray &bytes) {
+        const QFileInfo file(dir.filePath(u"liste.xml"_s));
+        return MvTestFiles::write(file.filePath(), bytes) ? MvCalendarEventFile::read(file)
+                                                          : MvCalendarEventFile::Content();
+    };
+    MvCalendarEventList events{MvEntries::entry(u"Jürgen & <Käthe>"_s, {1904, 2, 29}),
+                               MvEntries::entry(u" zwei\nZeilen\r]]> "_s, {1950, 12, 31}, {}, false),
+                               MvEntries::entry(u"😀"_s, {2001, 3, 1})};
+    events[1].setEndDate({1951, 1, 2});
+    events[1].setGroups({events.groups().idOfName(u"Familie"_s)});
+    QByteArray original = MvCalendarEventFile::toBytes(events);
+    original.replace("2001-03-01T", "2001-02-29T"); // is left out
+    original.replace("</CalendarEvents>", "<CalendarEvent><Name/>\n</CalendarEvent>\n</CalendarEvents>");
+    QVERIFY(isOfLines(original) && !isOfLines(original + "<!---->"));
+    QCOMPARE(read(original).skipped.size(), 2);
+    QCOMPARE(MvCalendarEventFile::toBytes(read(original).events),
+             MvCalendarEventFile::toBytes(read(original + "<!---->").events));
+
+    const QByteArrayList parts{"<",
+                               ">",
+                               "&",
+                               "&lt;",
+                               "&#13;",
+                               "/",
+                               "\n",
+                               "\r",
+                               "\t",
+                               " ",
+                               "]]>",
+                               "\xc3\x84",
+                               "\xef\xbb\xbf",
+                               "\xef\xbf\xbe",
+                               "\xc3",
+                               "\x01",
+                               "A",
+                               "</",
+                               "<Name>",
+                               "<CalendarEvent>",
+                               "-",
+                               "9",
+                               ""};
+    QRandomGenerator random(1941);
+    const int turns = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 100'000 : 500;
+    int ofLines = 0;
+    for (int turn = 0; turn < turns; ++turn) {
+        QByteArray bytes = original;
+        bytes.replace(random.bounded(int(bytes.size())), random.bounded(3),
+                      parts.at(random.bounded(int(parts.size()))));
+        if (!isOfLines(bytes))
+            continue;
+        ++ofLines;
+        const MvCalendarEventFile::Content found = read(bytes);
+        const MvCalendarEventFile::Content expected = read(bytes + "<!---->");
+        QVERIFY2(expected.isRead() && found.isRead(), bytes.constData());
+        QVERIFY2(found.events == expected.events && found.events.groups() == expected.events.groups(),
+                 bytes.constData());
+        QCOMPARE(MvCalendarEventFile::describe(found.skipped, 9), MvCalendarEventFile::describe(expected.skipped, 9));
+    }
+    QVERIFY(ofLines > turns / 10);
+}
+
+/// What can be written can be read, also by whoever takes any file.
+void tst_MvCalendarEventFile::largeListsAreRead()
+{
+    const QByteArray one = MvCalendarEventFile::toBytes({MvEntries::entry(u"Oma"_s, {1941, 1, 9})});
+    const qsizetype begin = one.indexOf("  <CalendarEvent>");
+    const QByteArray entry = one.mid(begin, one.indexOf("</CalendarEvents>") - begin);
+    const qsizetype count = 150'000; // in a million elements and more
+    QByteArray bytes = one;
+    bytes.insert(begin, entry.repeated(count) + QByteArray(MvEntryIntake::largestFile / 2, ' '));
+    QVERIFY(bytes.size() > MvEntryIntake::largestFile);
+    const QTemporaryDir dir;
+    const QFileInfo file(dir.filePath(u"liste.xml"_s));
+    QVERIFY(MvTestFiles::write(file.filePath(), bytes));
+    const MvEntryReading reading = MvEntryIntake::read(file);
+    QCOMPARE(reading.error, QString());
+    QCOMPARE(reading.events.size(), 1); // equal ones count once
 }
 
 void tst_MvCalendarEventFile::shortensWhatWasSkipped()

@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventBytes.h"
 #include "MvCalendar/MvCalendarEventFotoFinder.h"
+#include "MvCalendar/MvCalendarEventLines.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
 #include "MvXML/MvXMLLoader.h"
 
@@ -16,6 +17,13 @@ namespace {
 const QString &rootName = MvCalendarEventBytes::listElement;
 const QString &entryName = MvCalendarEventBytes::entryElement;
 const QString &groupName = MvCalendarEventBytes::groupElement;
+
+/// How many entries such a file holds, about.
+qsizetype expectedIn(const QByteArray &bytes)
+{
+    constexpr qsizetype usualBytesOfEntry = 320;
+    return bytes.size() / usualBytesOfEntry;
+}
 
 /// Gathers what a file holds, each equal entry once.
 class Gathering
@@ -85,31 +93,60 @@ QString whyInvalid(const MvEventGroup &group, const MvCalendarEventTexts &texts,
                : MvCalendarEventFile::tr("die Farbe „%1“ ist nicht zu lesen").arg(color);
 }
 
-/// Reads the entries of a list. The reader is at the root element before and at its end afterwards.
-void readEntries(QXmlStreamReader &reader, MvCalendarEventFotoFinder &fotos, MvCalendarEventFile::Content &content,
+/// The elements of a list, of any XML. The reader is at the root element before and at its end afterwards.
+class XmlElements
+{
+public:
+    explicit XmlElements(QXmlStreamReader &reader)
+        : m_reader(reader)
+    {}
+
+    bool next()
+    {
+        if (m_isOpen)
+            m_reader.skipCurrentElement();
+        m_isOpen = m_reader.readNextStartElement();
+        m_line = int(m_reader.lineNumber());
+        return m_isOpen;
+    }
+    QString element() const { return m_reader.qualifiedName().toString(); }
+    int line() const { return m_line; }
+    MvCalendarEventTexts texts()
+    {
+        m_isOpen = false;
+        return MvCalendarEventTexts(m_reader);
+    }
+
+private:
+    QXmlStreamReader &m_reader;
+    bool m_isOpen = false; // its texts have not been read
+    int m_line = 0;
+};
+
+/// Reads the entries of a list.
+template <class Elements>
+void readEntries(Elements &elements, MvCalendarEventFotoFinder &fotos, MvCalendarEventFile::Content &content,
                  qsizetype expected = 0)
 {
     Gathering gathering(expected);
     MvEventGroupList groups;
-    while (reader.readNextStartElement()) {
-        const int line = int(reader.lineNumber());
-        const QString element = reader.qualifiedName().toString();
+    while (elements.next()) {
+        const QString element = elements.element();
         if (element == groupName) {
-            const MvCalendarEventTexts texts(reader);
+            const MvCalendarEventTexts texts = elements.texts();
             const MvEventGroup group = readGroup(texts);
             const QString reason = whyInvalid(group, texts, groups);
             if (reason.isEmpty())
                 groups.append(group);
             else
-                content.skipped.append({line, shown(group.name), reason});
+                content.skipped.append({elements.line(), shown(group.name), reason});
             continue;
         }
         if (element != entryName) {
-            reader.skipCurrentElement();
-            content.skipped.append({line, shown(element), MvCalendarEventFile::tr("das ist kein Eintrag")});
+            content.skipped.append({elements.line(), shown(element), MvCalendarEventFile::tr("das ist kein Eintrag")});
             continue;
         }
-        const MvCalendarEventTexts texts(reader);
+        const MvCalendarEventTexts texts = elements.texts();
         if (texts.isEmpty())
             continue;
         const MvCalendarEvent event(texts, fotos);
@@ -117,10 +154,48 @@ void readEntries(QXmlStreamReader &reader, MvCalendarEventFotoFinder &fotos, MvC
         if (reason.isEmpty())
             gathering.add(event);
         else
-            content.skipped.append({line, shown(event.description()), reason});
+            content.skipped.append({elements.line(), shown(event.description()), reason});
     }
     content.events = gathering.events();
     content.events.setGroups(groups);
+}
+
+/// Reads a list as programs write it; false for any other file.
+bool readLines(const QByteArray &bytes, MvCalendarEventFotoFinder &fotos, MvCalendarEventFile::Content &content)
+{
+    MvCalendarEventLines lines(bytes);
+    readEntries(lines, fotos, content, expectedIn(bytes));
+    if (!lines.isAtEnd())
+        content = {};
+    return lines.isAtEnd();
+}
+
+/// Reads any file; what is wrong with it stands in the content.
+void readXml(const QByteArray &bytes, const QFileInfo &file, MvCalendarEventFotoFinder &fotos,
+             MvCalendarEventFile::Content &content)
+{
+    QXmlStreamReader reader(bytes);
+    reader.setNamespaceProcessing(false);
+    if (reader.readNextStartElement() && reader.qualifiedName() != rootName) {
+        const MvXMLLoader::Error error = MvXMLLoader::check(bytes, MvXMLLoader::Limits::ofStreams());
+        if (error.isError()) {
+            content.error = error.describe(file);
+            return;
+        }
+        const QString message = MvCalendarEventFile::tr("Das ist keine Liste von Kalendereinträgen; die Datei beginnt "
+                                                        "mit „%1“ statt mit „%2“.");
+        content.foreign =
+            MvXMLLoader::Error{message.arg(shown(reader.qualifiedName().toString()), rootName)}.describe(file);
+        return;
+    }
+    XmlElements elements(reader);
+    readEntries(elements, fotos, content, expectedIn(bytes));
+    while (!reader.atEnd()) // what follows the list
+        reader.readNext();
+    if (const MvXMLLoader::Error error = MvXMLLoader::errorOf(reader, bytes); error.isError()) {
+        content = {};
+        content.error = error.describe(file);
+    }
 }
 
 QString noteOfForeignFotos(const MvCalendarEventList &events, const QFileInfo &file)
@@ -151,30 +226,12 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
         content.isMissing = !present.exists() && !present.isSymLink();
         return content;
     }
-    // as a stream: faster than a document in memory, and names of blanks alone stay
-    QXmlStreamReader reader(bytes);
-    reader.setNamespaceProcessing(false);
-    if (reader.readNextStartElement() && reader.qualifiedName() != rootName) {
-        if (error = MvXMLLoader::check(bytes, MvXMLLoader::Limits::ofStreams()); error.isError()) {
-            content.error = error.describe(present);
-            return content;
-        }
-        content.foreign = MvXMLLoader::Error{tr("Das ist keine Liste von Kalendereinträgen; die Datei beginnt mit „%1“ "
-                                                "statt mit „%2“.")
-                                                 .arg(shown(reader.qualifiedName().toString()), rootName)}
-                              .describe(present);
-        return content;
-    }
+    // not as a document in memory: that is slower, and names of blanks alone would go
     MvCalendarEventFotoFinder fotos(present);
-    constexpr qsizetype usualBytesOfEntry = 320;
-    readEntries(reader, fotos, content, bytes.size() / usualBytesOfEntry);
-    while (!reader.atEnd()) // what follows the list
-        reader.readNext();
-    if (error = MvXMLLoader::errorOf(reader, bytes); error.isError()) {
-        content = {};
-        content.error = error.describe(present);
+    if (!readLines(bytes, fotos, content))
+        readXml(bytes, present, fotos, content);
+    if (!content.refusal().isEmpty())
         return content;
-    }
     content.isComplete = content.skipped.isEmpty();
     content.note = noteOfForeignFotos(content.events, present);
     if (!content.note.isEmpty())
@@ -185,7 +242,8 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
 MvCalendarEventFile::Content MvCalendarEventFile::readWithin(QXmlStreamReader &reader, MvCalendarEventFotoFinder fotos)
 {
     Content content;
-    readEntries(reader, fotos, content);
+    XmlElements elements(reader);
+    readEntries(elements, fotos, content);
     content.isComplete = content.skipped.isEmpty();
     return content;
 }

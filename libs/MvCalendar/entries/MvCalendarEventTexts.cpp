@@ -13,7 +13,8 @@ namespace {
 const QString usualNames[] = {u"Name"_s, u"DateTime"_s, u"Recurrent"_s, u"Image"_s, u"UUID"_s, u"LastChanged"_s};
 
 /// The name as a string; for those that every entry has, one and the same.
-QString nameOf(QStringView name)
+template <class View>
+QString nameOf(View name)
 {
     const auto *const known = std::find(std::begin(usualNames), std::end(usualNames), name);
     return known != std::end(usualNames) ? *known : name.toString();
@@ -38,6 +39,11 @@ MvCalendarEventTexts::MvCalendarEventTexts(QXmlStreamReader &reader)
         const QString name = nameOf(reader.qualifiedName());
         add(name, reader.readElementText(QXmlStreamReader::IncludeChildElements));
     }
+}
+
+void MvCalendarEventTexts::add(QLatin1StringView name, const QString &text)
+{
+    add(nameOf(name), text);
 }
 
 void MvCalendarEventTexts::add(const QString &name, const QString &text)

@@ -15,10 +15,14 @@ class QXmlStreamReader;
 class MVCALENDAR_EXPORT MvCalendarEventTexts
 {
 public:
+    MvCalendarEventTexts() = default;
     explicit MvCalendarEventTexts(const QDomElement &element);
     /// The reader stands on the entry's start element and is left on its end element. Unlike a document in memory, it
     /// keeps texts of blanks alone.
     explicit MvCalendarEventTexts(QXmlStreamReader &reader);
+
+    /// Does nothing when there is a text of that name.
+    void add(QLatin1StringView name, const QString &text);
 
     bool isEmpty() const { return m_texts.isEmpty(); }
     /// Others than nearly all entries have.

@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr qint64 looked = 4096; // bytes that tell what a file is
+
 /// Groups of the other list by those of this one.
 QHash<QString, QString> groupIds(MvEventGroupList &groups, const MvEventGroupList &others)
 {
@@ -79,7 +81,7 @@ QString MvEntryIntake::Report::describe() const
 
 MvEntryIntake::Kind MvEntryIntake::kindOf(const QByteArray &begin)
 {
-    const QByteArray some = begin.left(4096);
+    const QByteArray some = begin.left(looked);
     const QString text = MvFileText::decoded(some, MvFileText::encodingOf(some)).remove(QChar(0xFEFF)).trimmed();
     if (text.startsWith(u'<'))
         return Kind::List;
@@ -93,6 +95,12 @@ MvEntryIntake::Kind MvEntryIntake::kindOf(const QByteArray &begin)
                                                                                                       : Kind::Unknown;
 }
 
+bool MvEntryIntake::isTable(const QFileInfo &file)
+{
+    const MvRegularFile::Opened opened = MvRegularFile::open(file);
+    return opened.isOk() && opened.file->size() <= largestFile && kindOf(opened.file->peek(looked)) == Kind::Table;
+}
+
 MvEntryReading MvEntryIntake::read(const QFileInfo &file)
 {
     const MvRegularFile::Opened opened = MvRegularFile::open(file);
@@ -100,15 +108,12 @@ MvEntryReading MvEntryIntake::read(const QFileInfo &file)
     MvEntryReading reading;
     if (!opened.isOk())
         reading.error = tr("%1: %2").arg(name, opened.error);
+    else if (kindOf(opened.file->peek(looked)) == Kind::List)
+        reading = readingOf(MvCalendarEventFile::read(file)); // whose photos lie beside it, and which may be larger
     else if (opened.file->size() > largestFile)
         reading.error = tr("%1: Die Datei ist größer als %2 MB.").arg(name).arg(largestFile >> 20);
-    else {
-        const QByteArray bytes = opened.file->readAll();
-        if (kindOf(bytes) != Kind::List)
-            return read(bytes, name);
-        const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file); // whose photos lie beside it
-        reading = readingOf(content);
-    }
+    else
+        reading = read(opened.file->readAll(), name);
     return reading;
 }
 
@@ -147,18 +152,39 @@ MvEntryReading MvEntryIntake::read(const QByteArray &bytes, const QString &name)
 MvCalendarEventFile::Content MvEntryIntake::readAsList(const QFileInfo &file)
 {
     const MvRegularFile::Opened opened = MvRegularFile::open(file);
-    const Kind kind = opened.isOk() ? kindOf(opened.file->peek(4096)) : Kind::List;
+    const Kind kind = opened.isOk() ? kindOf(opened.file->peek(looked)) : Kind::List;
     if (kind == Kind::Calendar || kind == Kind::Table) {
         const MvEntryReading reading = read(file);
-        MvCalendarEventFile::Content content;
-        content.events = reading.events;
-        content.error = reading.error;
-        content.skipped = reading.skipped;
-        content.isComplete = reading.isOk() && reading.skipped.isEmpty();
         if (reading.isOk() || kind == Kind::Calendar)
-            return content;
+            return asList(reading);
     }
     return MvCalendarEventFile::read(file); // which says what is wrong with it
+}
+
+MvCalendarEventFile::Content MvEntryIntake::asList(const MvEntryReading &reading)
+{
+    MvCalendarEventFile::Content content;
+    content.events = reading.events;
+    content.error = reading.error;
+    content.skipped = reading.skipped;
+    content.isComplete = reading.isOk() && reading.skipped.isEmpty();
+    return content;
+}
+
+MvCalendarEventList MvEntryIntake::inGroups(const MvEventGroupList &groups, const MvCalendarEventList &events)
+{
+    MvCalendarEventList result = events;
+    MvEventGroupList all = groups;
+    const QHash<QString, QString> ids = groupIds(all, events.groups());
+    result.setGroups(all);
+    for (MvCalendarEvent &event : result) {
+        QStringList own;
+        for (const QString &id : event.groups())
+            own.append(ids.value(id, id));
+        if (own != event.groups())
+            event.setGroups(own);
+    }
+    return result;
 }
 
 MvCalendarEventList MvEntryIntake::joined(const MvCalendarEventList &list, const MvEntryReading &reading,
@@ -168,20 +194,16 @@ MvCalendarEventList MvEntryIntake::joined(const MvCalendarEventList &list, const
     *report = {};
     report->skipped = reading.skipped;
     report->notes = reading.notes;
-    const QHash<QString, QString> ids = groupIds(result.groups(), reading.events.groups());
+    const MvCalendarEventList read = inGroups(list.groups(), reading.events);
+    result.setGroups(read.groups());
     QMultiHash<size_t, qsizetype> byContent;
     QHash<QUuid, qsizetype> byUuid;
-    const QSet<QUuid> shared = sharedUuids(result) + sharedUuids(reading.events);
+    const QSet<QUuid> shared = sharedUuids(result) + sharedUuids(read);
     for (qsizetype i = 0; i < result.size(); ++i) {
         byContent.insert(keyOf(result.at(i)), i);
         byUuid.insert(result.at(i).uuid(), i);
     }
-    for (MvCalendarEvent event : reading.events) {
-        QStringList groups;
-        for (const QString &id : event.groups())
-            groups.append(ids.value(id, id));
-        if (groups != event.groups())
-            event.setGroups(groups);
+    for (MvCalendarEvent event : read) {
         const QList<qsizetype> alike = byContent.values(keyOf(event));
         const auto isEqual = [&](qsizetype i) { return isSame(result.at(i), event); };
         const qsizetype known = shared.contains(event.uuid()) ? -1 : byUuid.value(event.uuid(), -1);

@@ -36,7 +36,7 @@ class MVCALENDAR_EXPORT MvEntryIntake
     Q_DECLARE_TR_FUNCTIONS(MvEntryIntake)
 
 public:
-    static constexpr qint64 largestFile = 64LL * 1024 * 1024;
+    static constexpr qint64 largestFile = 64LL * 1024 * 1024; ///< of calendars, tables and cards
 
     enum class Kind { Unknown, List, Calendar, Table, Cards };
 
@@ -54,6 +54,8 @@ public:
 
     /// By what it begins with, whatever its name is.
     static Kind kindOf(const QByteArray &begin);
+    /// Whether the file is a table: what its columns are is a guess, which a person should see first.
+    static bool isTable(const QFileInfo &file);
     /// Reads a list of entries, an iCalendar, a table or visiting cards. Any thread.
     static MvEntryReading read(const QFileInfo &file);
     /// The same of bytes; the name is for messages.
@@ -62,9 +64,14 @@ public:
     /// The same in the form of a list that was read: a list itself, or what other programs write of one; no visiting
     /// cards, whose photos belong to the reading.
     static MvCalendarEventFile::Content readAsList(const QFileInfo &file);
+    static MvCalendarEventFile::Content asList(const MvEntryReading &reading);
+
+    /// Entries from elsewhere as those of a list with these groups. Groups are known by name: one of a known name is
+    /// the list's own, whatever id it has elsewhere; the others are added.
+    static MvCalendarEventList inGroups(const MvEventGroupList &groups, const MvCalendarEventList &events);
 
     /// The list with the entries in it: those with a known uuid replace what they were, the others are added unless
     /// they are equal to one that is there. A uuid that several entries share, here or there, names none of them.
-    /// Groups are known by name. A photo that an entry has stays.
+    /// Groups are known by name, as inGroups() says. A photo that an entry has stays.
     static MvCalendarEventList joined(const MvCalendarEventList &list, const MvEntryReading &reading, Report *report);
 };
