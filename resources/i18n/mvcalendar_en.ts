@@ -652,6 +652,13 @@
     </message>
 </context>
 <context>
+    <name>MvCalendarEventFotoIntake</name>
+    <message>
+        <source>Das Foto „%1“ ist nicht beim Eintrag „%2“: Dessen Kalender ist nicht mehr offen. Öffnen Sie ihn, und wählen Sie das Foto noch einmal.</source>
+        <translation>The photo “%1” is not with the entry “%2”: its calendar is no longer open. Open it and choose the photo once more.</translation>
+    </message>
+</context>
+<context>
     <name>MvCalendarEventListWidget</name>
     <message>
         <source>Eigene Einträge</source>

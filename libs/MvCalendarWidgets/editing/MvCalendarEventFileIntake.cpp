@@ -6,7 +6,6 @@
 #include "MvCalendar/MvEntryTableDialog.h"
 #include "MvCalendar/MvOpenCalendar.h"
 #include "MvCore/MvDiskAccessRequest.h"
-#include "MvCore/MvRegularFile.h"
 #include "MvCore/MvYesNoRequest.h"
 
 #include <QDir>
@@ -50,32 +49,6 @@ void readInThread(const QFileInfo &file, QObject *asker, const std::function<voi
         promise->addResult(MvEntryIntake::readAsList(file));
         promise->finish();
     });
-}
-
-bool isTable(const QFileInfo &file)
-{
-    constexpr qint64 looked = 4096; // bytes
-    const MvRegularFile::Opened opened = MvRegularFile::open(file);
-    return opened.isOk() && opened.file->size() <= MvEntryIntake::largestFile &&
-           MvEntryIntake::kindOf(opened.file->peek(looked)) == MvEntryIntake::Kind::Table;
-}
-
-/// What the columns of a table are is a guess: it is shown first.
-void askForTable(const QFileInfo &file, QObject *asker, const std::function<void(const Content &)> &then)
-{
-    const MvRegularFile::Opened opened = MvRegularFile::open(file);
-    const auto *widget = qobject_cast<QWidget *>(asker);
-    auto *dialog = new MvEntryTableDialog(opened.isOk() ? opened.file->readAll() : QByteArray(), file.fileName(),
-                                          widget ? widget->window() : nullptr);
-    QObject::connect(dialog, &QDialog::accepted, asker, [dialog, then] {
-        const MvEntryReading reading = dialog->reading();
-        Content content;
-        content.events = reading.events;
-        content.error = reading.error;
-        content.skipped = reading.skipped;
-        then(content);
-    });
-    dialog->open();
 }
 
 QString skippedText(const Content &content)
@@ -164,8 +137,13 @@ void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, 
         else
             takeHere({}); // which says why not
     };
-    if (isTable(file))
-        askForTable(file, asker, judgeRead);
+    const auto *widget = qobject_cast<QWidget *>(asker);
+    const auto judgeTable = [judgeRead](const std::optional<MvEntryReading> &reading) {
+        if (reading)
+            judgeRead(MvEntryIntake::asList(*reading));
+    };
+    if (MvEntryIntake::isTable(file))
+        MvEntryTableDialog::ask(file, widget ? widget->window() : nullptr, asker, judgeTable);
     else if (file.size() > largeFile)
         readInThread(file, asker, judgeRead);
     else
@@ -183,7 +161,8 @@ void MvCalendarEventFileIntake::judge(const QString &fileName, Purpose purpose, 
         return;
     }
     const MvCalendarEventList present = session.entries().eventsOfCurrentProject();
-    const int missing = purpose == Purpose::Replace ? missingIn(content.events, present) : 0;
+    const MvCalendarEventList read = MvEntryIntake::inGroups(present.groups(), content.events); // as it will be there
+    const int missing = purpose == Purpose::Replace ? missingIn(read, present) : 0;
     if (missing == 0 && skipped.isEmpty()) {
         take(content.events);
         if (!content.note.isEmpty())

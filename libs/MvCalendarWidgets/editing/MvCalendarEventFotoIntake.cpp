@@ -7,6 +7,8 @@
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvFoto/MvFotoLoader.h"
 
+#include <QDir>
+
 namespace {
 
 /// The entry in the active list; when it was changed meanwhile, the one that has become of it. Invalid when it is gone.
@@ -30,17 +32,22 @@ MvCalendarEvent presentForm(const MvCalendarEvent &event, const MvCalendarEventL
 void MvCalendarEventFotoIntake::take(const MvCalendarEvent &event, const MvFoto &foto, QObject *asker, const Use &use,
                                      MvSession &session)
 {
-    MvFotoLoader::midRes(foto, MvCalendarEvent::fotoQuality, MvCalendarEvent::fotoCaching, asker,
-                         [event, foto, asker, use, &session, calendar = MvOpenCalendar(session)](const QImage &) {
-                             if (!calendar.isStillOpen())
-                                 return;
-                             const MvCalendarEvent before = presentForm(event, session.entries().activeEventList());
-                             MvCalendarEvent after = before;
-                             if (!before.isValid())
-                                 return;
-                             if (const MvOutcome taken = after.takeFoto(foto); taken.isOk())
-                                 use(before, after);
-                             else
-                                 MvDiskAccessRequest::instance().takeFotosFailed({taken.error}, asker);
-                         });
+    const auto takeHere = [event, foto, asker, use, &session, calendar = MvOpenCalendar(session)](const QImage &) {
+        if (!calendar.isStillOpen()) {
+            const QString name = QDir::toNativeSeparators(foto.localFilePath());
+            const QString text = tr("Das Foto „%1“ ist nicht beim Eintrag „%2“: Dessen Kalender ist nicht mehr offen. "
+                                    "Öffnen Sie ihn, und wählen Sie das Foto noch einmal.");
+            MvDiskAccessRequest::instance().takeFotosFailed({text.arg(name, event.description())}, asker);
+            return;
+        }
+        const MvCalendarEvent before = presentForm(event, session.entries().activeEventList());
+        MvCalendarEvent after = before;
+        if (!before.isValid())
+            return;
+        if (const MvOutcome taken = after.takeFoto(foto); taken.isOk())
+            use(before, after);
+        else
+            MvDiskAccessRequest::instance().takeFotosFailed({taken.error}, asker);
+    };
+    MvFotoLoader::midRes(foto, MvCalendarEvent::fotoQuality, MvCalendarEvent::fotoCaching, asker, takeHere);
 }

@@ -13,6 +13,7 @@
 #include "MvCalendar/MvCalendarEventTransferDialog.h"
 #include "MvCalendar/MvEntryFileImport.h"
 #include "MvCalendar/MvEntryFiles.h"
+#include "MvCalendar/MvEntryIntake.h"
 #include "MvCalendar/MvOpenCalendar.h"
 
 #include "MvCore/MvApplicationLocale.h"
@@ -410,11 +411,12 @@ void MvCalendarEventListWidget::importFile(const QString &fileName)
 void MvCalendarEventListWidget::takeEventList(const MvCalendarEventList &read, bool merge)
 {
     const MvCalendarEventList current = events();
+    const MvCalendarEventList taken = MvEntryIntake::inGroups(current.groups(), read);
     if (merge)
-        replaceEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, read), Reach::AsSet,
-                      read.groups());
+        replaceEvents(u"loadEventList"_s, tr("Einträge hinzufügen"), {}, newEvents(current, taken), Reach::AsSet,
+                      taken.groups());
     else // a whole list is this calendar's alone: that of a club must not replace the user's own
-        replaceEvents(u"loadEventList"_s, tr("Einträge laden"), current, read, Reach::ActiveList, read.groups());
+        replaceEvents(u"loadEventList"_s, tr("Einträge laden"), current, taken, Reach::ActiveList, taken.groups());
     finishAdding();
 }
 

@@ -5,8 +5,6 @@
 #include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvEntryTableDialog.h"
 
-#include "MvCore/MvRegularFile.h"
-
 #include <QFutureWatcher>
 #include <QPromise>
 #include <QThreadPool>
@@ -15,12 +13,6 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr qint64 looked = 4096; // bytes that tell what a file is
-
-} // namespace
 
 QString MvEntryFileImport::Result::summary() const
 {
@@ -60,10 +52,7 @@ void MvEntryFileImport::next()
         return;
     }
     const QString file = m_files.takeFirst();
-    const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(file));
-    const bool isTable = opened.isOk() && opened.file->size() <= MvEntryIntake::largestFile &&
-                         MvEntryIntake::kindOf(opened.file->peek(looked)) == MvEntryIntake::Kind::Table;
-    if (isTable)
+    if (MvEntryIntake::isTable(QFileInfo(file)))
         askForTable(file);
     else
         readInThread(file);
@@ -71,12 +60,9 @@ void MvEntryFileImport::next()
 
 void MvEntryFileImport::askForTable(const QString &file)
 {
-    const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(file));
-    auto *dialog = new MvEntryTableDialog(opened.isOk() ? opened.file->readAll() : QByteArray(),
-                                          QFileInfo(file).fileName(), m_window);
-    connect(dialog, &QDialog::finished, this, [this, dialog, file](int result) {
-        if (result == QDialog::Accepted) {
-            add(file, dialog->reading());
+    MvEntryTableDialog::ask(QFileInfo(file), m_window, this, [this, file](const std::optional<MvEntryReading> &table) {
+        if (table) {
+            add(file, *table);
         } else { // all files are one step: none is taken then
             m_readings.clear();
             m_files.clear();
@@ -84,7 +70,6 @@ void MvEntryFileImport::askForTable(const QString &file)
             next();
         }
     });
-    dialog->open();
 }
 
 void MvEntryFileImport::readInThread(const QString &file)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvEntryTableDialog.h"
 
+#include "MvCore/MvRegularFile.h"
 #include "MvPaint/MvPrintableText.h"
 
 #include <QCheckBox>
@@ -109,6 +110,16 @@ MvEntryTableDialog::MvEntryTableDialog(const QByteArray &bytes, const QString &n
     if (m_format.isOrderOpen)
         m_order->setFocus(); // what is to be answered
     resize(760, 520);
+}
+
+void MvEntryTableDialog::ask(const QFileInfo &file, QWidget *window, QObject *asker, const Use &use)
+{
+    const MvRegularFile::Opened opened = MvRegularFile::open(file);
+    auto *dialog =
+        new MvEntryTableDialog(opened.isOk() ? opened.file->readAll() : QByteArray(), file.fileName(), window);
+    connect(dialog, &QDialog::finished, asker,
+            [dialog, use](int result) { use(result == Accepted ? std::optional(dialog->reading()) : std::nullopt); });
+    dialog->open();
 }
 
 // ---- choices

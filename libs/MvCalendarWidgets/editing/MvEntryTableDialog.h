@@ -6,7 +6,11 @@
 
 #include <QByteArray>
 #include <QDialog>
+#include <QFileInfo>
 #include <QList>
+
+#include <functional>
+#include <optional>
 
 class QCheckBox;
 class QComboBox;
@@ -26,6 +30,11 @@ class MVCALENDARWIDGETS_EXPORT MvEntryTableDialog : public QDialog
 public:
     /// The name is the file's, for the person.
     MvEntryTableDialog(const QByteArray &bytes, const QString &name, QWidget *parent);
+
+    /// Shows a table file to a person; `use` gets all of it as it was understood, and nothing where it was not
+    /// accepted. Nothing is called when the asker is gone by then.
+    using Use = std::function<void(const std::optional<MvEntryReading> &reading)>;
+    static void ask(const QFileInfo &file, QWidget *window, QObject *asker, const Use &use);
 
     MvEntryTable::Format format() const { return m_format; }
     /// All of the table in that format.
