@@ -10,6 +10,7 @@
 #include "common/MvStudioSettings.h"
 #include "flows/MvBirthdayImport.h"
 #include "flows/MvProjectFlow.h"
+#include "flows/MvUndoCommandEventList.h"
 #include "pages/MvPageCanvas.h"
 
 #include <QTextBrowser>
@@ -34,6 +35,7 @@ private Q_SLOTS:
     void recovery();
     void leapDayEntries();
     void birthdays();
+    void birthdaysWithPhotos();
     void orderOfBirthdays_data();
     void orderOfBirthdays();
     void birthdaysThatAreNotSaved();
@@ -438,6 +440,25 @@ void tst_MvStudioWindow::birthdays()
     registry.setOwnEvents(renamed);
     trigger("undo");
     QCOMPARE(names() + u", "_s + own(), u"Zoe Udo, Xaver Berti"_s);
+}
+
+/// Saving moves photos: they go and come back all the same.
+void tst_MvStudioWindow::birthdaysWithPhotos()
+{
+    QVERIFY(MvWidgetDriver::writeFoto(path(u"anna.png"_s), Qt::red));
+    const auto foto = [] {
+        return MvCalendarEventRegistry::instance().activeEventList().value(0).imagePath().filePath();
+    };
+    MvUndoController::instance().push(new MvUndoCommandEventList(
+        {}, {MvEntries::entry(u"Anna"_s, {1990, 5, 17}, MvFoto(QFileInfo(path(u"anna.png"_s))))},
+        MvSession::defaultSession()));
+    QVERIFY(project()->saveAs(QFileInfo(path(u"k."_s + MvProjectFile::suffix()))).isOk());
+    const QString saved = foto();
+    QVERIFY(saved.startsWith(path(u"eintraege/anna"_s)));
+    trigger("undo");
+    QVERIFY(MvCalendarEventRegistry::instance().activeEventList().isEmpty());
+    trigger("redo");
+    QCOMPARE(foto(), saved);
 }
 
 void tst_MvStudioWindow::orderOfBirthdays_data()

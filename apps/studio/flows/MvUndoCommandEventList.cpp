@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "flows/MvUndoCommandEventList.h"
 
+#include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 
 #include <QMultiHash>
@@ -35,13 +36,18 @@ MvCalendarEventList add(MvCalendarEventRegistry &entries, List list, const MvCal
     return added;
 }
 
-void remove(MvCalendarEventRegistry &entries, List list, const MvCalendarEventList &events)
+/// The events become what they were in the list: saving a calendar moves their photos.
+void remove(MvCalendarEventRegistry &entries, List list, MvCalendarEventList &events)
 {
     if (events.isEmpty())
         return;
     QMultiHash<QUuid, MvCalendarEvent> removed; // several may share a uuid
-    for (const MvCalendarEvent &event : events)
+    for (MvCalendarEvent &event : events) {
+        const MvFoto foto = entries.presentEvent(event, list).foto();
+        if (MvCalendarEventMerge::isSameFoto(event.foto(), foto))
+            event.relocateFoto(foto);
         removed.insert(event.uuid(), event);
+    }
     MvCalendarEventList rest = eventsOf(entries, list);
     rest.removeIf([&removed](const MvCalendarEvent &event) { return removed.contains(event.uuid(), event); });
     setEvents(entries, list, rest);

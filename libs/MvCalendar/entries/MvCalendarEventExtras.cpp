@@ -4,6 +4,8 @@
 #include "MvCalendar/MvCalendarEvent.h"
 #include "MvCalendar/MvCalendarEventTexts.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -17,6 +19,19 @@ const QString timeKey = u"Time"_s;
 const QString groupsKey = u"Groups"_s;
 
 const QStringList leapDays = {QString(), u"february28"_s, u"march1"_s};
+
+/// Entries of a list often have the same rule: the last one that could be read is kept.
+MvRecurrenceRuleReading ruleOf(const QString &text)
+{
+    thread_local std::pair<QString, MvRecurrenceRuleReading> last;
+    if (last.first.isEmpty() || last.first != text) {
+        MvRecurrenceRuleReading reading = MvRecurrenceRule::parse(text);
+        if (!reading.isOk())
+            return reading;
+        last = {text, std::move(reading)};
+    }
+    return last.second;
+}
 
 QStringList items(const MvCalendarEventTexts &texts, const QString &key)
 {
@@ -53,7 +68,7 @@ QTime timeOf(const QString &text)
 MvCalendarEventExtras::MvCalendarEventExtras(const MvCalendarEventTexts &texts)
 {
     if (texts.contains(ruleKey))
-        repetition.rule = MvRecurrenceRule::parse(texts.text(ruleKey)).rule;
+        repetition.rule = ruleOf(texts.text(ruleKey)).rule;
     repetition.exceptions = dates(texts, exceptionsKey);
     repetition.extraDates = dates(texts, extraDatesKey);
     repetition.normalize();
@@ -70,7 +85,7 @@ QString MvCalendarEventExtras::whyUnreadable(const MvCalendarEventTexts &texts)
         return MvCalendarEvent::tr("„%1“ als %2 ist nicht zu lesen").arg(texts.text(key).simplified().left(60), key);
     };
     if (texts.contains(ruleKey)) {
-        const MvRecurrenceRuleReading reading = MvRecurrenceRule::parse(texts.text(ruleKey));
+        const MvRecurrenceRuleReading reading = ruleOf(texts.text(ruleKey));
         if (!reading.isOk())
             return MvCalendarEvent::tr("die Wiederholung ist nicht zu verstehen: %1").arg(reading.error);
     }
