@@ -258,7 +258,9 @@ void tst_MvCalendarEventListWidget::goesToOtherProgramsAndBack()
     m_script->file = path(u"termine.ics"_qs);
     menuAction(list, u"Sichern"_qs)->trigger();
     QFile written(m_script->file);
-    QVERIFY(written.open(QIODevice::ReadOnly) && written.readAll().startsWith("BEGIN:VCALENDAR"));
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    QByteArray bytes = written.readAll();
+    QVERIFY(bytes.startsWith("BEGIN:VCALENDAR"));
     registry().setEvents({});
     for (const QString &told : {u"3 neu, 0 geändert, 0 gleich"_qs, u"0 neu, 0 geändert, 3 gleich"_qs}) {
         m_script->reports.clear();
@@ -268,6 +270,12 @@ void tst_MvCalendarEventListWidget::goesToOtherProgramsAndBack()
         QCOMPARE(names(), before);
         QCOMPARE(MvUndoController::instance().stack()->count(), 1);
     }
+    bytes.insert(bytes.indexOf("END:VEVENT"), "BEGIN:VALARM\r\nACTION:DISPLAY\r\nTRIGGER:-PT9H\r\nEND:VALARM\r\n");
+    QVERIFY(MvWidgetDriver::write(m_script->file, bytes));
+    m_script->reports.clear();
+    menuAction(list, u"Laden…"_qs)->trigger();
+    QCOMPARE(m_script->reports.size(), 1);
+    QVERIFY(m_script->reports.first().endsWith(u"termine.ics: Ein Kalender druckt nicht: Erinnerung (1)"_qs));
 }
 
 void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles_data()

@@ -156,17 +156,21 @@ MvCalendarEventFile::Content MvEntryIntake::readAsList(const QFileInfo &file)
     if (kind == Kind::Calendar || kind == Kind::Table) {
         const MvEntryReading reading = read(file);
         if (reading.isOk() || kind == Kind::Calendar)
-            return asList(reading);
+            return asList(reading, file);
     }
     return MvCalendarEventFile::read(file); // which says what is wrong with it
 }
 
-MvCalendarEventFile::Content MvEntryIntake::asList(const MvEntryReading &reading)
+MvCalendarEventFile::Content MvEntryIntake::asList(const MvEntryReading &reading, const QFileInfo &file)
 {
     MvCalendarEventFile::Content content;
     content.events = reading.events;
     content.error = reading.error;
     content.skipped = reading.skipped;
+    QStringList notes;
+    for (const QString &note : reading.notes)
+        notes.append(tr("%1: %2").arg(QDir::toNativeSeparators(file.filePath()), note));
+    content.note = notes.join(u'\n');
     content.isComplete = reading.isOk() && reading.skipped.isEmpty();
     return content;
 }

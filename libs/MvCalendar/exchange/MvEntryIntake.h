@@ -64,7 +64,8 @@ public:
     /// The same in the form of a list that was read: a list itself, or what other programs write of one; no visiting
     /// cards, whose photos belong to the reading.
     static MvCalendarEventFile::Content readAsList(const QFileInfo &file);
-    static MvCalendarEventFile::Content asList(const MvEntryReading &reading);
+    /// Its note says what the entries have lost.
+    static MvCalendarEventFile::Content asList(const MvEntryReading &reading, const QFileInfo &file);
 
     /// Entries from elsewhere as those of a list with these groups. Groups are known by name: one of a known name is
     /// the list's own, whatever id it has elsewhere; the others are added.

@@ -138,9 +138,9 @@ void MvCalendarEventFileIntake::start(const QString &fileName, Purpose purpose, 
             takeHere({}); // which says why not
     };
     const auto *widget = qobject_cast<QWidget *>(asker);
-    const auto judgeTable = [judgeRead](const std::optional<MvEntryReading> &reading) {
+    const auto judgeTable = [judgeRead, file](const std::optional<MvEntryReading> &reading) {
         if (reading)
-            judgeRead(MvEntryIntake::asList(*reading));
+            judgeRead(MvEntryIntake::asList(*reading, file));
     };
     if (MvEntryIntake::isTable(file))
         MvEntryTableDialog::ask(file, widget ? widget->window() : nullptr, asker, judgeTable);
