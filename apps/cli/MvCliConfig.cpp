@@ -48,9 +48,10 @@ const QList<Rule> &rules()
                                    {u"author"_s, {project}, {}},
                                    {u"dpi"_s, {}, {}},
                                    {u"jobs"_s, {}, {}},
-                                   {u"press"_s, {}, {}},
+                                   {u"press"_s, {u"tiles"_s, u"n-up"_s}, {}},
                                    {u"no-marks"_s, {}, {}},
                                    {u"ink-limit"_s, {}, {}},
+                                   {u"sheet-margin"_s, {}, {}},
                                    {u"no-overwrite"_s, {u"overwrite"_s}, {}},
                                    {u"quiet"_s, {u"verbose"_s}, {}},
                                    {u"verbose"_s, {u"quiet"_s}, {}}};

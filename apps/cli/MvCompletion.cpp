@@ -84,7 +84,7 @@ QList<MvCompletion::Candidate> MvCompletion::valuesOf(const MvCliOption &option,
     if (option.name == u"theme"_s) {
         for (const MvCalendarTheme &theme : MvThemeRegistry::instance().themes())
             found.append({theme.id(), theme.name()});
-    } else if (option.name == u"page"_s) {
+    } else if (option.name == u"page"_s || option.name == u"tiles"_s || option.name == u"sheet"_s) {
         for (const QString &name : MvPageFormat::names())
             found.append({name, {}});
     } else if (option.name == u"press"_s) {

@@ -57,6 +57,8 @@ QStringList MvRenderCommand::examples() const
             u"render --year 2027 --entries geburtstage.xml --report json -o kalender.pdf"_s,
             u"render --project familie.mvcalendar -o kalender.pdf"_s,
             u"render --project familie.mvcalendar --press fogra39 -o druckerei.pdf"_s,
+            u"render --year 2027 --layout YEAR_PLANNER --page A2 --tiles A4 -o poster.pdf"_s,
+            u"render --project familie.mvcalendar --n-up 2 --cut-stack -o zum-schneiden.pdf"_s,
             u"render --project familie.mvcalendar --pages cover -o titelblatt.png"_s,
             u"render --year 2027 --colors NIGHT --dpi 150 -o seite-%m.png"_s};
 }
@@ -109,6 +111,7 @@ MvCliCommand::Result MvRenderCommand::render(const MvCliArguments &arguments, co
         return misused(error);
     entries.printHints(streams.hints);
     printHints(document, entries, values.has(u"vacations"_s), hints.stream());
+    targets.hintAtSheets(document.pageSource().part(chosen.numbers), hints.stream());
     return write(document, chosen.numbers, entries, targets, values.has(u"report"_s),
                  {streams.out, hints.stream(), streams.progress, streams.isQuiet}, outcome);
 }

@@ -7,6 +7,8 @@
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPictureExporter.h"
+#include "MvProject/MvSheetPlan.h"
+#include "MvSheetOptions.h"
 
 #include <QFile>
 
@@ -49,7 +51,7 @@ private:
 
 QList<MvCliOption> MvRenderTargets::options()
 {
-    return MvPressOptions::options() +
+    return MvPressOptions::options() + MvSheetOptions::options() +
            QList<MvCliOption>{
                {u"dpi"_s, tr("ZAHL"), tr("Punkte je Zoll der Bilder (300)")},
                {u"jobs"_s, tr("ZAHL"), tr("so viele Seiten zugleich (je Kern eine, höchstens vier)")},
@@ -69,6 +71,7 @@ MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &argu
     : m_dpi(values.number(u"dpi"_s, MvPictureExporter::minimumDpi, MvPictureExporter::maximumDpi, usualDpi))
     , m_replaces(!values.has(u"no-overwrite"_s))
     , m_press(MvPressOptions::settings(values, arguments))
+    , m_sheets(MvSheetOptions::settings(values, arguments))
 {
     const int jobs = values.number(u"jobs"_s, 1, mostJobs, 0);
     const QString format = values.choice(u"format"_s, {u"pdf"_s, u"html"_s, u"png"_s, u"jpg"_s, u"tif"_s, u"svg"_s});
@@ -93,9 +96,16 @@ MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &argu
         m_targets.append(MvExportTarget(path, MvExportTarget::Pdf::OneOfEachPage));
         m_targets.last().setJobs(jobs);
         m_targets.last().setPress(m_press);
+        m_targets.last().setSheets(m_sheets);
     }
     const bool isAsked = m_press.isForPress() && arguments.line(u"press"_s) == 0; // not only set for all calls
-    if (isAsked && std::none_of(m_targets.cbegin(), m_targets.cend(), [](const auto &one) { return one.isPdf(); }))
+    const bool hasPdf =
+        std::any_of(m_targets.cbegin(), m_targets.cend(), [](const auto &target) { return target.isPdf(); });
+    if (m_sheets.areSheets() && !hasPdf)
+        values.setError(tr("--%1 legt die Seiten eines PDF auf Blätter; %2 ist keines")
+                            .replace(u"%2"_s, m_name)
+                            .replace(u"%1"_s, values.has(u"tiles"_s) ? u"tiles"_s : u"n-up"_s));
+    if (isAsked && !hasPdf)
         values.setError(tr("--press macht ein PDF für die Druckerei; %1 ist keines").replace(u"%1"_s, m_name));
 }
 
@@ -108,8 +118,9 @@ MvCliCommand::Result MvRenderTargets::check(const MvPageSource &pages) const
                 tr("-o -: %1 Seiten sind ebenso viele Bilder; wählen Sie eine mit --pages, oder --format pdf")
                     .arg(pages.pages.size())};
     for (const MvExportTarget &target : m_targets)
-        if (const MvOutcome named = target.files(pages); !named.isOk())
-            return {MvCliCommand::Misused, named.error};
+        for (const MvOutcome &checked : {MvOutcome(target.files(pages)), target.checkSheets(pages)})
+            if (!checked.isOk())
+                return {MvCliCommand::Misused, checked.error};
     for (const MvExportTarget &target : m_targets) {
         for (const MvOutcome &checked : {target.checkPlace(), target.checkSize(pages.format, m_dpi)})
             if (!checked.isOk())
@@ -121,6 +132,12 @@ MvCliCommand::Result MvRenderTargets::check(const MvPageSource &pages) const
         }
     }
     return {};
+}
+
+void MvRenderTargets::hintAtSheets(const MvPageSource &pages, QTextStream &hints) const
+{
+    if (m_sheets.areSheets())
+        hints << MvSheetPlan(m_sheets, pages.format.trimSize(), int(pages.pages.size())).description() << '\n';
 }
 
 MvExportResult MvRenderTargets::write(const MvPageSource &pages, const MvCliCommand::Streams &streams) const

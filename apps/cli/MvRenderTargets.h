@@ -33,6 +33,8 @@ public:
     QString name() const { return m_name; }
     bool isStandardOutput() const { return m_folder != nullptr; }
 
+    /// Says what becomes of the pages on a printer's sheets.
+    void hintAtSheets(const MvPageSource &pages, QTextStream &hints) const;
     /// What is wrong with the names for these pages, or keeps the files from being written.
     MvCliCommand::Result check(const MvPageSource &pages) const;
     /// Writes one target after the other; the first that fails ends it. Every file that was written is in the result.
@@ -46,5 +48,6 @@ private:
     int m_dpi = 0;
     bool m_replaces = true;
     MvPressSettings m_press;
+    MvSheetSettings m_sheets;
     std::unique_ptr<QTemporaryDir> m_folder; // of what goes to the standard output
 };

@@ -514,6 +514,16 @@
     </message>
 </context>
 <context>
+    <name>MvSheetPlan</name>
+    <message numerus="yes">
+        <source>%n Blätter (%1), </source>
+        <translation>
+            <numerusform>%n Blatt (%1), </numerusform>
+            <numerusform>%n Blätter (%1), </numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>MvStudioStatusBar</name>
     <message numerus="yes">
         <source>%n Texte ohne Platz</source>

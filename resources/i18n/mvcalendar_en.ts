@@ -3344,6 +3344,10 @@
         <source>%1: die Endung muss .pdf, .html, .png, .jpg, .tif oder .svg sein</source>
         <translation>%1: the name must end in .pdf, .html, .png, .jpg, .tif or .svg</translation>
     </message>
+    <message>
+        <source>%1: jede Seite wird eine Datei für sich; mehrere auf einem Blatt brauchen einen Namen ohne %m, %y und %n</source>
+        <translation>%1: each page becomes a file of its own; several on a sheet need a name without %m, %y and %n</translation>
+    </message>
 </context>
 <context>
     <name>MvFileDescriptor</name>
@@ -6887,6 +6891,10 @@ Save it under another name or in another folder.</translation>
         <source>--press macht ein PDF für die Druckerei; %1 ist keines</source>
         <translation>--press makes a PDF for a print shop; %1 is none</translation>
     </message>
+    <message>
+        <source>--%1 legt die Seiten eines PDF auf Blätter; %2 ist keines</source>
+        <translation>--%1 lays the pages of a PDF on sheets; %2 is none</translation>
+    </message>
 </context>
 <context>
     <name>MvRepetitionWords</name>
@@ -7057,6 +7065,112 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>&amp;Farben:</source>
         <translation>&amp;Colours:</translation>
+    </message>
+</context>
+<context>
+    <name>MvSheetOptions</name>
+    <message>
+        <source>PAPIER</source>
+        <translation>PAPER</translation>
+    </message>
+    <message>
+        <source>große Seiten im PDF als Kacheln auf diesem Papier (A4, Letter, 200x300), zum Zusammenkleben</source>
+        <translation>large pages of the PDF as tiles on this paper (A4, Letter, 200x300), to be glued together</translation>
+    </message>
+    <message>
+        <source>mit --tiles: so weit überlappen sie (10)</source>
+        <translation>with --tiles: how far they overlap (10)</translation>
+    </message>
+    <message>
+        <source>so viele Seiten im PDF auf ein Blatt, bis 16</source>
+        <translation>so many pages of the PDF on a sheet, up to 16</translation>
+    </message>
+    <message>
+        <source>mit --n-up: das Blatt (A4)</source>
+        <translation>with --n-up: the sheet (A4)</translation>
+    </message>
+    <message>
+        <source>mit --n-up: mit Schnittmarken, und so, dass die geschnittenen Stapel aufeinandergelegt in der richtigen Folge sind</source>
+        <translation>with --n-up: with marks for cutting, and so that the cut stacks, laid on each other, are in order</translation>
+    </message>
+    <message>
+        <source>mit --cut-stack: auf Vorder- und Rückseite</source>
+        <translation>with --cut-stack: on front and back</translation>
+    </message>
+    <message>
+        <source>mit --tiles und --n-up: was der Drucker am Rand weiß lässt (5)</source>
+        <translation>with --tiles and --n-up: what the printer leaves white at the edge (5)</translation>
+    </message>
+    <message>
+        <source>--%1 gehört zu --%2</source>
+        <translation>--%1 goes with --%2</translation>
+    </message>
+    <message>
+        <source>--sheet-margin gehört zu --tiles oder --n-up</source>
+        <translation>--sheet-margin goes with --tiles or --n-up</translation>
+    </message>
+    <message>
+        <source>--%1 „%2“: erlaubt sind %3 und Maße in Millimetern wie 200x300</source>
+        <translation>--%1 “%2”: allowed are %3 and millimetres such as 200x300</translation>
+    </message>
+</context>
+<context>
+    <name>MvSheetPlan</name>
+    <message>
+        <source>%1 × %2 mm</source>
+        <translation>%1 × %2 mm</translation>
+    </message>
+    <message>
+        <source>Kacheln: die Seite (%1) passt auf ein Blatt (%2)</source>
+        <translation>Tiles: the page (%1) fits on one sheet (%2)</translation>
+    </message>
+    <message>
+        <source>Kacheln: auf dem Blatt (%1) bleibt neben Rand und Überlappung zu wenig Platz</source>
+        <translation>Tiles: the sheet (%1) has too little room beside margin and overlap</translation>
+    </message>
+    <message>
+        <source>%1 Seiten haben auf dem Blatt (%2) keinen Platz</source>
+        <translation>%1 pages have no room on the sheet (%2)</translation>
+    </message>
+    <message>
+        <source>%1 von %2</source>
+        <comment>a tile: its column and row of the last one&apos;s</comment>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>Blatt %1 von %2</source>
+        <translation>Sheet %1 of %2</translation>
+    </message>
+    <message>
+        <source>%1, Rückseite</source>
+        <translation>%1, back</translation>
+    </message>
+    <message>
+        <source>Jede Seite wird zu %1 × %2 Blättern (%3).</source>
+        <translation>Each page becomes %1 × %2 sheets (%3).</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Blätter (%1), </source>
+        <translation>
+            <numerusform>%n sheet (%1), </numerusform>
+            <numerusform>%n sheets (%1), </numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>die Seiten in Originalgröße.</source>
+        <translation>the pages in their own size.</translation>
+    </message>
+    <message>
+        <source>die Seiten auf %1 % verkleinert.</source>
+        <translation>the pages reduced to %1 %.</translation>
+    </message>
+    <message>
+        <source>Beidseitig drucken, an der langen Kante wenden.</source>
+        <translation>Print on both sides, turned about the long edge.</translation>
+    </message>
+    <message>
+        <source>Beidseitig drucken, an der kurzen Kante wenden.</source>
+        <translation>Print on both sides, turned about the short edge.</translation>
     </message>
 </context>
 <context>

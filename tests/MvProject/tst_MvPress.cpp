@@ -107,6 +107,7 @@ QString tst_MvPress::pdf(const Painting &paint, bool hasMarks, double bleed)
     source.format.setBinding(MvPageFormat::Binding::Top);
     source.pages = {QDate(2027, 5, 1)};
     source.numbers = {4};
+    source.documentPages = 12;
     source.names = {u"Mai 2027"_s};
     source.bindings = {source.format.bindingRect()};
     source.title = u"Familie Grün"_s;
@@ -237,7 +238,7 @@ void tst_MvPress::marks()
         QCOMPARE(inked(plates[ink], slug) > 500, ink == 3);
     }
     const QString text = QString::fromUtf8(outputOf(u"pdftotext"_s, {u"-enc"_s, u"UTF-8"_s, file, u"-"_s}));
-    for (const QString &part : {u"Familie Grün"_s, u"Mai 2027"_s, u"1 von 1"_s, u"100 × 80 mm"_s, u"FOGRA39L"_s})
+    for (const QString &part : {u"Familie Grün"_s, u"Mai 2027"_s, u"5 von 12"_s, u"100 × 80 mm"_s, u"FOGRA39L"_s})
         QVERIFY2(text.contains(part), qPrintable(text));
 }
 

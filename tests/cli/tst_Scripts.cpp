@@ -20,8 +20,8 @@ private Q_SLOTS:
     void settings();
     void completes_data();
     void completes();
-    void forThePress_data();
-    void forThePress();
+    void forPressAndDesk_data();
+    void forPressAndDesk();
 };
 
 void tst_Scripts::standardOutput_data()
@@ -155,7 +155,7 @@ void tst_Scripts::completes()
     QCOMPARE(QString::fromUtf8(out).split(u'\n', Qt::SkipEmptyParts), offered);
 }
 
-void tst_Scripts::forThePress_data()
+void tst_Scripts::forPressAndDesk_data()
 {
     QTest::addColumn<QString>("arguments");
     QTest::addColumn<int>("exitCode");
@@ -168,10 +168,17 @@ void tst_Scripts::forThePress_data()
     row("for programs", u"--press fogra39 --report json -o k.pdf"_s, 0, "\"limit\": 330");
     row("mistyped", u"--press fogra93 -o k.pdf"_s, 2, "meinten Sie „fogra39“?");
     row("no picture", u"--press fogra39 -o k-%m.png"_s, 2, "k-%m.png ist keines");
+    row("no tiles of it", u"--press fogra39 --n-up 2 -o k.pdf"_s, 2, "--n-up und --press schließen einander aus");
+    row("tiles", u"--page A2 --tiles A4 --overlap 15 -o k-%m.pdf"_s, 0, "Jede Seite wird zu 4 × 2 Blättern");
+    row("tiles of what fits", u"--tiles A4 -o k.pdf"_s, 2, "passt auf ein Blatt");
+    row("tiles of a picture", u"--page A2 --tiles A4 -o k.png"_s, 2, "k.png ist keines");
+    row("mistyped paper", u"--n-up 2 --sheet Leter -o k.pdf"_s, 2, "meinten Sie „Letter“?");
+    row("two, two-sided", u"--n-up 2 --cut-stack --two-sided -o k.pdf"_s, 0, "an der langen Kante wenden");
+    row("a stack of what", u"--cut-stack -o k.pdf"_s, 2, "--cut-stack gehört zu --n-up");
     row("marks of what", u"--no-marks -o k.pdf"_s, 2, "--no-marks gehört zu --press");
 }
 
-void tst_Scripts::forThePress()
+void tst_Scripts::forPressAndDesk()
 {
     QFETCH(const QString, arguments);
     QFETCH(const int, exitCode);

@@ -9,6 +9,7 @@
 MvPageSource MvPageSource::part(const QList<int> &places) const
 {
     MvPageSource some = *this;
+    some.documentPages = documentPageCount();
     some.pages.clear();
     some.numbers.clear();
     some.names.clear();

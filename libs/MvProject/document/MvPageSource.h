@@ -26,6 +26,8 @@ public:
     QList<QDate> pages;
     /// The pages' numbers in their document, counted from 0, for file names; empty when they are all of it.
     QList<int> numbers;
+    /// How many pages their document has; 0 when they are all of it.
+    int documentPages = 0;
     /// What each page is for, for file names; empty when all are months.
     QList<MvPageKind> kinds;
     /// What a table of contents calls the pages; empty, or empty for a page, when it is not to name them.
@@ -50,6 +52,7 @@ public:
     MvPageSource part(const QList<int> &places) const;
     /// A page's number in its document, counted from 0.
     int number(int place) const { return numbers.value(place, place); }
+    int documentPageCount() const { return documentPages > 0 ? documentPages : int(pages.size()); }
 
     MvPageKind kind(int place) const { return kinds.value(place, MvPageKind::Month); }
 

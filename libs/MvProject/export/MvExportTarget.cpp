@@ -6,6 +6,7 @@
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPictureExporter.h"
+#include "MvProject/MvSheetPlan.h"
 #include "MvProject/MvSvgExporter.h"
 
 #include <QFileInfo>
@@ -62,6 +63,18 @@ MvOutcome MvExportTarget::checkSize(const MvPageFormat &format, int dpi) const
     return isPicture() ? MvPictureExporter::checkSize(format, dpi) : MvOutcome();
 }
 
+MvOutcome MvExportTarget::checkSheets(const MvPageSource &pages) const
+{
+    if (!isPdf() || !m_sheets.areSheets())
+        return {};
+    if (m_sheets.kind == MvSheetSettings::Kind::Several && isDocumentPerPage() && pages.pages.size() > 1)
+        return {tr("%1: jede Seite wird eine Datei für sich; mehrere auf einem Blatt brauchen einen Namen ohne %m, %y "
+                   "und %n")
+                    .replace(u"%1"_s, m_path),
+                {}};
+    return {MvSheetPlan(m_sheets, pages.format.trimSize(), int(pages.pages.size())).error(), {}};
+}
+
 MvOutcome MvExportTarget::checkPlace() const
 {
     MvOutcome outcome;
@@ -105,7 +118,7 @@ MvExportResult MvExportTarget::writeDocument(const MvPageSource &pages, const QS
 {
     if (m_suffix == u"html"_s)
         return MvHtmlExporter::write(pages, QFileInfo(path), observer);
-    return MvPdfExporter::write(pages, QFileInfo(path), observer, m_jobs, m_press);
+    return MvPdfExporter::write(pages, QFileInfo(path), observer, m_jobs, m_press, m_sheets);
 }
 
 bool MvExportTarget::isPdf() const

@@ -4,6 +4,7 @@
 #include "MvProject/MvExportResult.h"
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPressSettings.h"
+#include "MvProject/MvSheetSettings.h"
 #include "MvProject/mvproject_export.h"
 
 #include <QCoreApplication>
@@ -31,6 +32,8 @@ public:
     void setJobs(int jobs) { m_jobs = jobs; }
     /// What a PDF is made for; other files have nothing of it.
     void setPress(const MvPressSettings &press) { m_press = press; }
+    /// On which sheets of a printer the pages of a PDF are laid; other files have nothing of it.
+    void setSheets(const MvSheetSettings &sheets) { m_sheets = sheets; }
     bool isPdf() const;
     /// The dots per inch at which images are needed, when pictures are to have so many.
     int imageResolution(int dpi) const;
@@ -39,6 +42,8 @@ public:
     MvFileNamePattern::Paths files(const MvPageSource &pages) const;
     /// Whether pages of this format may become pictures of that resolution; other files have no limits.
     MvOutcome checkSize(const MvPageFormat &format, int dpi) const;
+    /// Whether these pages may be laid on the sheets that are set.
+    MvOutcome checkSheets(const MvPageSource &pages) const;
     /// Whether a file of that name can be written, as far as it can be told beforehand.
     MvOutcome checkPlace() const;
 
@@ -59,4 +64,5 @@ private:
     Pdf m_pdf;
     int m_jobs = 0;
     MvPressSettings m_press;
+    MvSheetSettings m_sheets;
 };

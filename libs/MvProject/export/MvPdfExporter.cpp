@@ -10,7 +10,9 @@
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPageTask.h"
 #include "MvProject/MvPdfDocument.h"
+#include "MvProject/MvPdfSheets.h"
 #include "MvProject/MvPressSheet.h"
+#include "MvProject/MvSheetPlan.h"
 
 #include <QDir>
 #include <QImage>
@@ -19,6 +21,7 @@
 
 #include <cmath>
 #include <future>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -84,7 +87,7 @@ QString pageInWords(const MvPageSource &source, int page, const MvPressSettings 
     QStringList words{source.title};
     if (const QString name = source.names.value(page); !name.isEmpty())
         words.append(name);
-    words += {MvPdfExporter::tr("Seite %1 von %2").arg(page + 1).arg(source.pages.size()),
+    words += {MvPdfExporter::tr("Seite %1 von %2").arg(source.number(page) + 1).arg(source.documentPageCount()),
               MvPdfExporter::tr("%1 × %2 mm").arg(millimetres(size.width()), millimetres(size.height())),
               MvPdfExporter::tr("Beschnitt %1 mm").arg(millimetres(bleed)), press.profile.description(),
               MvPdfDocument::dateOfFile().toString(u"yyyy-MM-dd HH:mm 'UTC'"_s)};
@@ -97,9 +100,9 @@ struct Painted : MvOutcome
 };
 
 Painted paintPages(const MvPageSource &source, const QString &path, MvExportObserver *observer, int jobs,
-                   const MvPressSettings &press)
+                   const MvPressSettings &press, bool isForSheets)
 {
-    MvPdfDocument document({source.title, source.author, source.language}, press);
+    MvPdfDocument document({source.title, source.author, source.language, isForSheets}, press);
     PageWriter writer(document, jobs != 1);
     const int total = int(source.pages.size());
     const auto tell = [&](int done) {
@@ -140,17 +143,24 @@ MvOutcome copyToTarget(const QString &path, const QFileInfo &target)
 } // namespace
 
 MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo &target, MvExportObserver *observer,
-                                    int jobs, const MvPressSettings &press)
+                                    int jobs, const MvPressSettings &press, const MvSheetSettings &sheets)
 {
     MvOutcome outcome = source.check();
+    const MvSheetPlan plan(sheets, source.format.trimSize(), int(source.pages.size()));
+    if (outcome.isOk())
+        outcome.error = plan.error();
     Painted painted;
     const QTemporaryDir folder(QDir::tempPath() + u"/mvcalendar-XXXXXX"_s);
-    const QString path = folder.filePath(u"kalender.pdf"_s);
+    QString path = folder.filePath(u"kalender.pdf"_s);
     if (outcome.isOk() && !folder.isValid())
         outcome.error = folder.errorString();
     if (outcome.isOk()) {
-        painted = paintPages(source, path, observer, jobs, press);
+        painted = paintPages(source, path, observer, jobs, press, sheets.areSheets());
         outcome = painted;
+    }
+    if (outcome.isOk() && sheets.areSheets() && !isCancelled(observer)) {
+        const QString pages = std::exchange(path, folder.filePath(u"blaetter.pdf"_s));
+        outcome = MvPdfSheets::write(pages, path, plan, source.names);
     }
     const bool isDone = outcome.isOk() && !isCancelled(observer); // finishing the file can take long
     if (isDone)

@@ -51,7 +51,7 @@ QDateTime MvPdfDocument::dateOfFile()
 
 MvPdfDocument::MvPdfDocument(const Description &description, const MvPressSettings &press)
     : m_description{MvPrintableText::onOneLine(description.title), MvPrintableText::onOneLine(description.author),
-                    description.language}
+                    description.language, description.isForSheets}
     , m_press(press)
     , m_pressColors(press.isForPress() ? new MvPressColors(press.profile) : nullptr)
     , m_pageTree(m_file.reserve())
@@ -184,7 +184,8 @@ int MvPdfDocument::addOutputIntent()
 /// Whether all can be read aloud: each letter is known, and in which language (ISO 14289-1).
 bool MvPdfDocument::isForEverybody() const
 {
-    return !m_description.title.isEmpty() && !m_description.language.isEmpty() && m_fonts.areLettersKnown();
+    return !m_description.isForSheets && !m_description.title.isEmpty() && !m_description.language.isEmpty() &&
+           m_fonts.areLettersKnown();
 }
 
 /// For programs that sort and search files; the same is said in the older form beside it.
@@ -222,10 +223,11 @@ MvOutcome MvPdfDocument::write(const QString &path)
         kids += MvPdfSyntax::reference(page) + ' ';
     m_file.set(m_pageTree, "<</Type/Pages/Kids[" + kids + "]/Count " + QByteArray::number(m_pages.size()) + ">>");
     const QByteArray bookmarks = m_bookmarks.isEmpty() ? "" : "/Outlines " + MvPdfSyntax::reference(addBookmarks());
+    const QByteArray structure = m_description.isForSheets ? QByteArray() : m_structure.finish();
     // a calendar is printed in its true size
     m_file.setCatalog("<</Type/Catalog/Pages " + MvPdfSyntax::reference(m_pageTree) + bookmarks + "/OutputIntents[" +
                       MvPdfSyntax::reference(addOutputIntent()) + "]/Metadata " +
-                      MvPdfSyntax::reference(addMetadata()) + m_structure.finish() + "/Lang" +
+                      MvPdfSyntax::reference(addMetadata()) + structure + "/Lang" +
                       MvPdfSyntax::text(m_description.language) +
                       "/ViewerPreferences<</DisplayDocTitle true/PrintScaling/None>>>>");
     return m_file.write(path);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfFile.h"
 
+#include "MvProject/MvPdfPipeline.h"
+
 #include <QDir>
 #include <QFile>
 #include <QHash>
@@ -9,7 +11,6 @@
 #include <algorithm>
 #include <exception>
 
-#include <qpdf/Pipeline.hh>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFWriter.hh>
 
@@ -17,35 +18,6 @@ namespace {
 
 constexpr qsizetype large = 1 << 15; // bytes
 constexpr qsizetype piece = 1 << 16;
-
-/// To a file, until something goes wrong, as with a full disk. It must not throw: the library finishes its pipelines in
-/// destructors, too.
-class FilePipeline : public Pipeline
-{
-public:
-    explicit FilePipeline(QFile &file)
-        : Pipeline("file", nullptr)
-        , m_file(file)
-    {}
-
-    /// Empty when all is written.
-    QString error() const { return m_error; }
-
-    void write(const unsigned char *data, size_t size) override
-    {
-        if (m_error.isEmpty() && m_file.write(reinterpret_cast<const char *>(data), qint64(size)) != qint64(size))
-            m_error = m_file.errorString();
-    }
-    void finish() override
-    {
-        if (m_error.isEmpty() && !m_file.flush())
-            m_error = m_file.errorString();
-    }
-
-private:
-    QFile &m_file;
-    QString m_error;
-};
 
 } // namespace
 
@@ -176,7 +148,7 @@ MvOutcome MvPdfFile::write(const QString &path)
         d->fail(file.errorString());
     if (!d->error.isEmpty())
         return {d->error, {}};
-    FilePipeline pipeline(file);
+    MvPdfPipeline pipeline(file);
     try {
         QPDFWriter writer(d->pdf);
         writer.setOutputPipeline(&pipeline);

@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPdfSheets.h"
+
+#include "MvPaint/MvTextOutline.h"
+#include "MvProject/MvPdfContent.h"
+#include "MvProject/MvPdfPipeline.h"
+#include "MvProject/MvPdfSyntax.h"
+#include "MvProject/MvSheetPlan.h"
+
+#include <QFile>
+#include <QPainterPath>
+#include <QPen>
+
+#include <exception>
+#include <map>
+#include <vector>
+
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFPageDocumentHelper.hh>
+#include <qpdf/QPDFPageObjectHelper.hh>
+#include <qpdf/QPDFWriter.hh>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double pointsPerTenth = 72.0 / 254.0; // of a millimetre
+constexpr double unitsPerPoint = 100.0;
+constexpr double lineWidth = 0.9; // tenths of a millimetre: a quarter of a point
+constexpr double typeSize = 25.0; // seven points
+constexpr int typePixels = 96;    // in which it is shaped
+
+QPainterPath pathOf(const QList<QLineF> &lines)
+{
+    QPainterPath path;
+    for (const QLineF &line : lines) {
+        path.moveTo(line.p1());
+        path.lineTo(line.p2());
+    }
+    return path;
+}
+
+/// A line of type in its room, below its upper edge; empty when it is too long.
+QPainterPath lettering(const QString &text, const QRectF &room)
+{
+    constexpr double scale = typeSize / typePixels;
+    QFont font(u"Lato"_s);
+    font.setPixelSize(typePixels);
+    const MvTextOutline outline(font, text);
+    if (outline.advance() * scale > room.width())
+        return {};
+    const QTransform place =
+        QTransform::fromScale(scale, scale) * QTransform::fromTranslate(room.left(), room.top() + typeSize);
+    return place.map(outline.path());
+}
+
+/// The sheets that take the place of the pages.
+class Sheets
+{
+public:
+    Sheets(QPDF &pdf, const MvSheetPlan &plan, const QStringList &names)
+        : m_pdf(pdf)
+        , m_pages(pdf)
+        , m_plan(plan)
+        , m_names(names)
+        , m_old(m_pages.getAllPages())
+        , m_forms(m_old.size())
+    {}
+
+    void lay()
+    {
+        for (int number = 0; number < m_plan.sheetCount(); ++number)
+            m_pages.addPage(sheet(number), false);
+        moveBookmarks();
+        for (const QPDFPageObjectHelper &page : m_old)
+            m_pages.removePage(page);
+        tellPrinters();
+    }
+
+private:
+    struct Form
+    {
+        QPDFObjectHandle object;
+        bool isTranslucent = false;
+    };
+
+    /// The page as something to be placed; one object for all its places.
+    const Form &form(int page)
+    {
+        Form &known = m_forms[size_t(page)];
+        if (!known.object.isInitialized()) {
+            known.object = m_pdf.makeIndirectObject(m_old[size_t(page)].getFormXObjectForPage());
+            known.isTranslucent = known.object.getDict().hasKey("/Group");
+        }
+        return known;
+    }
+
+    QPDFObjectHandle sheet(int number)
+    {
+        const QList<MvSheetPlan::Part> parts = m_plan.parts(number);
+        QByteArray commands;
+        QByteArray objects;
+        bool isTranslucent = false;
+        QStringList names;
+        for (const MvSheetPlan::Part &part : parts) {
+            const Form &placed = form(part.page);
+            const QByteArray name = "/P" + QByteArray::number(part.page);
+            objects += name + ' ' + MvPdfSyntax::reference(placed.object.getObjectID());
+            isTranslucent = isTranslucent || placed.isTranslucent;
+            commands += "q " + clip(part.place) + matrix(part) + name + " Do Q\n";
+            if (const QString title = m_names.value(part.page); !title.isEmpty())
+                names.append(title);
+        }
+        const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
+        commands += "q " + unit + " 0 0 " + unit + " 0 0 cm\n" + marks(number, names) + "Q\n";
+        const QSizeF size = m_plan.sheet() * pointsPerTenth;
+        const QByteArray box =
+            "[0 0 " + MvPdfSyntax::number(size.width()) + ' ' + MvPdfSyntax::number(size.height()) + ']';
+        QPDFObjectHandle page = QPDFObjectHandle::parse(
+            &m_pdf, ("<</Type/Page/MediaBox" + box + "/Resources<</XObject<<" + objects + ">>>>" +
+                     (isTranslucent ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") + ">>")
+                        .toStdString());
+        page.replaceKey("/Contents", QPDFObjectHandle::newStream(&m_pdf, commands.toStdString()));
+        page = m_pdf.makeIndirectObject(page);
+        for (const MvSheetPlan::Part &part : parts)
+            m_firstSheets.try_emplace(m_old[size_t(part.page)].getObjectHandle().getObjGen(), page);
+        return page;
+    }
+
+    QByteArray clip(const QRectF &place) const
+    {
+        QByteArray numbers;
+        MvPdfSyntax::append(numbers, QPointF(place.left(), m_plan.sheet().height() - place.bottom()) * pointsPerTenth,
+                            4);
+        MvPdfSyntax::append(numbers, QPointF(place.width(), place.height()) * pointsPerTenth, 4);
+        return numbers + "re W n ";
+    }
+
+    /// From the system of the page to that of the sheet.
+    QByteArray matrix(const MvSheetPlan::Part &part)
+    {
+        QPDFObjectHandle trim = m_old[size_t(part.page)].getTrimBox();
+        const QPDFObjectHandle::Rectangle box = trim.getArrayAsRectangle();
+        const double scale = part.place.width() / part.part.width();
+        const double left = part.place.left() * pointsPerTenth - scale * (box.llx + part.part.left() * pointsPerTenth);
+        const double above = (m_plan.sheet().height() - part.place.top()) * pointsPerTenth;
+        const double bottom = above - scale * (box.ury - part.part.top() * pointsPerTenth);
+        const QByteArray factor = MvPdfSyntax::number(scale, 6);
+        QByteArray numbers = factor + " 0 0 " + factor + ' ';
+        MvPdfSyntax::append(numbers, {left, bottom}, 4);
+        return numbers + "cm ";
+    }
+
+    QByteArray marks(int number, const QStringList &names) const
+    {
+        constexpr double scale = pointsPerTenth * unitsPerPoint;
+        const QTransform toUnits(scale, 0.0, 0.0, -scale, 0.0, m_plan.sheet().height() * scale);
+        MvPdfContent content;
+        const auto stroke = [&](const QList<QLineF> &lines, const QList<qreal> &dashes) {
+            if (lines.isEmpty())
+                return;
+            QPen pen(Qt::black, lineWidth, Qt::SolidLine, Qt::FlatCap);
+            if (!dashes.isEmpty())
+                pen.setDashPattern(dashes);
+            content.setPen(pen, scale);
+            content.addPath(toUnits.map(pathOf(lines)), MvPdfContent::Subpaths::Closed);
+            content.finishPath("S");
+        };
+        content.append("/Artifact BMC\n");
+        stroke(m_plan.cutMarks(number), {});
+        stroke(m_plan.joinMarks(number), {6.0, 4.0}); // in widths
+        if (const QString name = m_plan.name(number); !name.isEmpty()) {
+            QPainterPath line = lettering((QStringList(name) + names).join(u"  ·  "_s), m_plan.nameRoom());
+            if (line.isEmpty())
+                line = lettering(name, m_plan.nameRoom());
+            content.addPath(toUnits.map(line), MvPdfContent::Subpaths::AsTheyAre);
+            if (!line.isEmpty())
+                content.finishPath("f");
+        }
+        content.append("EMC\n");
+        return content.bytes();
+    }
+
+    /// Each to the sheet that shows its page first.
+    void moveBookmarks()
+    {
+        QPDFObjectHandle item = m_pdf.getRoot().getKey("/Outlines");
+        for (item = item.isDictionary() ? item.getKey("/First") : item; item.isDictionary();
+             item = item.getKey("/Next")) {
+            QPDFObjectHandle place = item.getKey("/Dest");
+            if (!place.isArray() || place.getArrayNItems() == 0)
+                continue;
+            const auto sheet = m_firstSheets.find(place.getArrayItem(0).getObjGen());
+            if (sheet != m_firstSheets.end())
+                place.setArrayItem(0, sheet->second);
+        }
+    }
+
+    /// How the sheets are to be printed: on one side unless they were made for two.
+    void tellPrinters()
+    {
+        QPDFObjectHandle preferences = m_pdf.getRoot().getKey("/ViewerPreferences");
+        if (!preferences.isDictionary())
+            return;
+        const char *turned = m_plan.isTurnedAboutLongEdge() ? "/DuplexFlipLongEdge" : "/DuplexFlipShortEdge";
+        preferences.replaceKey("/Duplex", QPDFObjectHandle::newName(m_plan.isTwoSided() ? turned : "/Simplex"));
+    }
+
+    QPDF &m_pdf;
+    QPDFPageDocumentHelper m_pages;
+    const MvSheetPlan &m_plan;
+    const QStringList m_names;
+    std::vector<QPDFPageObjectHelper> m_old;
+    std::vector<Form> m_forms;
+    std::map<QPDFObjGen, QPDFObjectHandle> m_firstSheets; // by page
+};
+
+} // namespace
+
+MvOutcome MvPdfSheets::write(const QString &from, const QString &to, const MvSheetPlan &plan, const QStringList &names)
+{
+    QFile file(to);
+    if (!file.open(QIODevice::WriteOnly))
+        return {file.errorString(), {}};
+    MvPdfPipeline pipeline(file);
+    try {
+        QPDF pdf;
+        pdf.setSuppressWarnings(true);
+        pdf.processFile(QFile::encodeName(from).constData());
+        Sheets(pdf, plan, names).lay();
+        QPDFWriter writer(pdf);
+        writer.setOutputPipeline(&pipeline);
+        writer.setObjectStreamMode(qpdf_o_generate);
+        writer.setDeterministicID(true);
+        writer.write();
+    } catch (const std::exception &exception) {
+        return {QString::fromUtf8(exception.what()), {}};
+    }
+    return {pipeline.error(), {}};
+}
