@@ -50,6 +50,8 @@ const QList<Rule> &rules()
                                    {u"jobs"_s, {}, {}},
                                    {u"press"_s, {u"tiles"_s, u"n-up"_s}, {}},
                                    {u"no-marks"_s, {}, {}},
+                                   {u"bleed-edge"_s, {}, {}},
+                                   {u"keep-photo-colors"_s, {}, {}},
                                    {u"ink-limit"_s, {}, {}},
                                    {u"sheet-margin"_s, {}, {}},
                                    {u"no-overwrite"_s, {u"overwrite"_s}, {}},

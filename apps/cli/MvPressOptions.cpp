@@ -24,6 +24,11 @@ QList<MvCliOption> MvPressOptions::options()
             "ist; %1 oder eine Datei (.icc)")
              .arg(MvPressProfile::names().join(u", "_s))},
         {u"no-marks"_s, {}, tr("mit --press: ohne Marken und Angaben neben der Seite")},
+        {u"bleed-edge"_s, u"mirror|stretch"_s,
+         tr("mit --press: der Beschnitt, wo keiner ist, spiegelt den Rand der Seite oder zieht ihn aus (mirror)")},
+        {u"keep-photo-colors"_s,
+         {},
+         tr("mit --press: Farbfotos bleiben in sRGB, mit Profil; die Druckerei rechnet sie selbst um")},
         {u"ink-limit"_s, tr("PROZENT"),
          tr("mit --press: ab diesem Farbauftrag wird eine Seite genannt (nach dem Profil)")}};
 }
@@ -31,7 +36,7 @@ QList<MvCliOption> MvPressOptions::options()
 MvPressSettings MvPressOptions::settings(MvCliValues &values, const MvCliArguments &arguments)
 {
     MvPressSettings settings;
-    for (const QString &name : {u"no-marks"_s, u"ink-limit"_s}) {
+    for (const QString &name : {u"no-marks"_s, u"bleed-edge"_s, u"keep-photo-colors"_s, u"ink-limit"_s}) {
         if (values.has(name) && arguments.line(name) == 0 && !values.has(u"press"_s))
             values.setError(tr("--%1 gehört zu --press").arg(name));
     }
@@ -45,6 +50,9 @@ MvPressSettings MvPressOptions::settings(MvCliValues &values, const MvCliArgumen
     }
     settings.profile = loaded.profile;
     settings.hasMarks = !values.has(u"no-marks"_s);
+    const bool isStretched = values.choice(u"bleed-edge"_s, {u"mirror"_s, u"stretch"_s}) == u"stretch"_s;
+    settings.bleedKind = isStretched ? MvPressSettings::Bleed::Stretched : MvPressSettings::Bleed::Mirrored;
+    settings.keepsFotoColors = values.has(u"keep-photo-colors"_s);
     settings.inkLimit = values.number(u"ink-limit"_s, leastInk, mostInk, 0);
     return settings;
 }

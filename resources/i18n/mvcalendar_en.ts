@@ -3248,6 +3248,10 @@
         <source>&amp;Wofür:</source>
         <translation>&amp;What for:</translation>
     </message>
+    <message>
+        <source>B&amp;lätter:</source>
+        <translation>S&amp;heets:</translation>
+    </message>
 </context>
 <context>
     <name>MvExportFlow</name>
@@ -5951,6 +5955,14 @@ The context menu replaces it by another photo.</translation>
         <source>--%1 gehört zu --press</source>
         <translation>--%1 goes with --press</translation>
     </message>
+    <message>
+        <source>mit --press: der Beschnitt, wo keiner ist, spiegelt den Rand der Seite oder zieht ihn aus (mirror)</source>
+        <translation>with --press: the bleed, where there is none, mirrors the page&apos;s edge or stretches it (mirror)</translation>
+    </message>
+    <message>
+        <source>mit --press: Farbfotos bleiben in sRGB, mit Profil; die Druckerei rechnet sie selbst um</source>
+        <translation>with --press: photos in colour stay in sRGB, with a profile; the shop converts them itself</translation>
+    </message>
 </context>
 <context>
     <name>MvPressProfile</name>
@@ -6152,6 +6164,10 @@ The context menu replaces it by another photo.</translation>
         <source>Der Drucker nimmt keine weiteren Seiten an.</source>
         <translation>The printer does not accept any more pages.</translation>
     </message>
+    <message>
+        <source>An den Drucker gegeben, auf %1 % verkleinert</source>
+        <translation>Handed to the printer, reduced to %1 %</translation>
+    </message>
 </context>
 <context>
     <name>MvPrintPreview</name>
@@ -6190,6 +6206,26 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Seite %1 von %2</source>
         <translation>Page %1 of %2</translation>
+    </message>
+    <message>
+        <source>Eingepasst (%1 %)</source>
+        <translation>Fitted (%1 %)</translation>
+    </message>
+    <message>
+        <source>Originalgröße</source>
+        <translation>Original size</translation>
+    </message>
+    <message>
+        <source>&amp;Größe:</source>
+        <translation>S&amp;ize:</translation>
+    </message>
+    <message>
+        <source>Verkleinert, damit Texte und Tage nicht dort stehen, wo der Drucker nichts druckt (bis %1 mm vom Rand).</source>
+        <translation>Reduced, so that texts and days do not stand where the printer prints nothing (up to %1 mm from the edge).</translation>
+    </message>
+    <message>
+        <source>Was näher als %1 mm am Rand steht, kann fehlen.</source>
+        <translation>What is nearer than %1 mm to the edge may be missing.</translation>
     </message>
 </context>
 <context>
@@ -7065,6 +7101,53 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>&amp;Farben:</source>
         <translation>&amp;Colours:</translation>
+    </message>
+</context>
+<context>
+    <name>MvSheetChoice</name>
+    <message>
+        <source>&amp;Zum Schneiden, in Stapeln</source>
+        <translation>For &amp;cutting, in stacks</translation>
+    </message>
+    <message>
+        <source>Jede Seite auf ein eigenes Blatt</source>
+        <translation>Each page on a sheet of its own</translation>
+    </message>
+    <message>
+        <source>Auf mehrere Blätter verteilen (Kacheln)</source>
+        <translation>Divided into several sheets (tiles)</translation>
+    </message>
+    <message>
+        <source>Zwei Seiten auf ein Blatt</source>
+        <translation>Two pages on a sheet</translation>
+    </message>
+    <message>
+        <source>Vier Seiten auf ein Blatt</source>
+        <translation>Four pages on a sheet</translation>
+    </message>
+    <message>
+        <source>Für den Drucker zu Hause: große Seiten aus mehreren Blättern zum Zusammenkleben, oder mehrere Seiten auf einem Blatt</source>
+        <translation>For the printer at home: large pages made of several sheets to be glued together, or several pages on one sheet</translation>
+    </message>
+    <message>
+        <source>Papier des Druckers</source>
+        <translation>Paper of the printer</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Überlappung </source>
+        <translation>Overlap </translation>
+    </message>
+    <message>
+        <source>Überlappung der Kacheln</source>
+        <translation>Overlap of the tiles</translation>
+    </message>
+    <message>
+        <source>Mit Schnittmarken; die geschnittenen Stapel ergeben aufeinandergelegt den Kalender</source>
+        <translation>With marks for cutting; the cut stacks, laid on each other, are the calendar</translation>
     </message>
 </context>
 <context>

@@ -84,7 +84,9 @@ private Q_SLOTS:
     void marks();
     void boxes_data();
     void boxes();
+    void bleedGoesOn_data();
     void bleedGoesOn();
+    void fotosKeepTheirColors();
     void mostInk();
     void sameBytes();
 
@@ -92,6 +94,7 @@ private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
     /// On a page of 10 by 8 cm; its own bleed in tenths of a millimetre.
     QString pdf(const Painting &paint, bool hasMarks, double bleed = 0.0);
+    QString pdf(const Painting &paint, const MvPressSettings &press, double bleed);
     /// Cyan, magenta, yellow, black as Ghostscript separates them: dark where ink is.
     QList<QImage> separated(const QString &file) const;
 
@@ -100,6 +103,11 @@ private:
 };
 
 QString tst_MvPress::pdf(const Painting &paint, bool hasMarks, double bleed)
+{
+    return pdf(paint, settings(hasMarks), bleed);
+}
+
+QString tst_MvPress::pdf(const Painting &paint, const MvPressSettings &press, double bleed)
 {
     MvPageSource source;
     source.format = MvPageFormat(QSizeF(page.size()));
@@ -113,7 +121,7 @@ QString tst_MvPress::pdf(const Painting &paint, bool hasMarks, double bleed)
     source.title = u"Familie Grün"_s;
     source.paint = [paint](QPainter &painter, int) { paint(painter); };
     const QString file = path(u"k.pdf"_s);
-    const MvExportResult result = MvPdfExporter::write(source, QFileInfo(file), nullptr, 0, settings(hasMarks));
+    const MvExportResult result = MvPdfExporter::write(source, QFileInfo(file), nullptr, 0, press);
     m_inks = result.inks;
     return result.isOk() && outputOf(u"qpdf"_s, {u"--check"_s, file}).contains("No syntax") ? file : QString();
 }
@@ -302,15 +310,30 @@ void tst_MvPress::boxes()
                  any.unparse().c_str());
 }
 
-/// Beyond the edge comes what lies before it, turned round; but nothing that is read.
+void tst_MvPress::bleedGoesOn_data()
+{
+    QTest::addColumn<MvPressSettings::Bleed>("kind");
+    QTest::addColumn<double>("ownBleed"); // of a page whose photo ends at the trim
+    QTest::newRow("mirrored") << MvPressSettings::Bleed::Mirrored << 0.0;
+    QTest::newRow("stretched") << MvPressSettings::Bleed::Stretched << 0.0;
+    QTest::newRow("mirrored beside a photo") << MvPressSettings::Bleed::Mirrored << 30.0;
+    QTest::newRow("stretched beside a photo") << MvPressSettings::Bleed::Stretched << 30.0;
+}
+
+/// Beyond the edge comes what lies before it, turned round or drawn out; but nothing that is read.
 void tst_MvPress::bleedGoesOn()
 {
+    QFETCH(const MvPressSettings::Bleed, kind);
+    QFETCH(const double, ownBleed);
+    MvPressSettings press = settings(false);
+    press.bleedKind = kind;
     const QString file = pdf(
         [](QPainter &painter) {
+            painter.fillRect(page.adjusted(-30, -30, 30, 30), Qt::white); // as grounds are painted
             painter.drawImage(QRectF(0, 0, 1000, 800), photo());
             write(painter, {950, 300}, u"ill"_s, Qt::white); // over the edge
         },
-        false);
+        press, ownBleed);
     outputOf(u"pdftoppm"_s, {u"-r"_s, QString::number(dpi), u"-png"_s, u"-singlefile"_s, file, path(u"seen"_s)});
     const QImage seen(path(u"seen.png"_s));
     QCOMPARE(seen.size(), QSize(1060, 860));
@@ -324,13 +347,41 @@ void tst_MvPress::bleedGoesOn()
     };
     for (const int away : {3, 15, 27}) {
         const QRect outside = trim.adjusted(-away, -away, away - 1, away - 1);
-        const QRect inside = trim.adjusted(away, away, -away - 1, -away - 1);
+        const int within = kind == MvPressSettings::Bleed::Mirrored ? away : 1;
+        const QRect inside = trim.adjusted(within, within, -within - 1, -within - 1);
         QVERIFY(areAlike(outside.topLeft(), inside.topLeft()) && areAlike(outside.bottomRight(), inside.bottomRight()));
         QVERIFY(areAlike(outside.topRight(), inside.topRight()) && areAlike(outside.bottomLeft(), inside.bottomLeft()));
         QVERIFY(areAlike({500, outside.top()}, {500, inside.top()}));
         QVERIFY(areAlike({outside.left(), 600}, {inside.left(), 600}));
     }
     QCOMPARE(outputOf(u"pdftotext"_s, {file, u"-"_s}).count("ill"), 1);
+}
+
+void tst_MvPress::fotosKeepTheirColors()
+{
+    MvPressSettings press = settings(false);
+    press.keepsFotoColors = true;
+    const QString file = pdf(
+        [](QPainter &painter) {
+            painter.fillRect(page, Qt::yellow);
+            painter.drawImage(QRectF(100, 100, 300, 200), photo());
+            painter.drawImage(QRectF(500, 100, 300, 200), photo().convertToFormat(QImage::Format_Grayscale8));
+        },
+        press, 30.0);
+    QVERIFY(m_inks.constFirst().percent > 200.0); // of the photo, once it is printed
+    QPDF pdf;
+    pdf.processFile(file.toLocal8Bit().constData());
+    QStringList spaces;
+    for (QPDFObjectHandle any : pdf.getAllObjects()) {
+        if (!any.isStream() || any.getDict().getKey("/Subtype").unparse() != "/Image")
+            continue;
+        QPDFObjectHandle space = any.getDict().getKey("/ColorSpace");
+        if (space.isArray())
+            QCOMPARE(space.getArrayItem(1).getDict().getKey("/N").getIntValue(), 3);
+        spaces.append(QString::fromStdString(space.isArray() ? space.getArrayItem(0).getName() : space.getName()));
+    }
+    spaces.sort();
+    QCOMPARE(spaces, (QStringList{u"/DeviceGray"_s, u"/ICCBased"_s}));
 }
 
 void tst_MvPress::mostInk()

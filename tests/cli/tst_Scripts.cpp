@@ -163,6 +163,9 @@ void tst_Scripts::forPressAndDesk_data()
     const auto row = [](const char *name, const QString &arguments, int exitCode, const QByteArray &said) {
         QTest::newRow(name) << arguments << exitCode << said;
     };
+    row("bleed drawn out", u"--press fogra39 --bleed-edge stretch --keep-photo-colors --bleed 0 -o k.pdf"_s, 0,
+        "k.pdf\n");
+    row("bleed of what", u"--bleed-edge stretch -o k.pdf"_s, 2, "--bleed-edge gehört zu --press");
     row("most ink", u"--press fogra39 -o k.pdf"_s, 0, "k.pdf: Farbauftrag höchstens ");
     row("too much ink", u"--press fogra39 --ink-limit 105 -o k.pdf"_s, 0, "k.pdf: Zu viel Farbe, ");
     row("for programs", u"--press fogra39 --report json -o k.pdf"_s, 0, "\"limit\": 330");

@@ -2,10 +2,12 @@
 #include "MvStudioTest.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintPages.h"
+#include "flows/MvPrintPlacement.h"
 #include "flows/MvPrintPreview.h"
 
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +18,9 @@ class tst_StudioOutput : public MvStudioTest
 
 private Q_SLOTS:
     void exportErrors();
+    void exportSheets();
+    void placements_data();
+    void placements();
     void print();
     void cancelledPreview();
 };
@@ -63,6 +68,84 @@ void tst_StudioOutput::exportErrors()
     settings->findChild<QSpinBox *>(u"exportDpi"_s)->setValue(1200);
     QVERIFY(!settings->findChild<QPushButton *>(u"exportButton"_s)->isEnabled());
     QVERIFY(settings->findChild<QLabel *>(u"exportMessage"_s)->text().contains(u"erlaubt sind 32000"_s));
+}
+
+void tst_StudioOutput::exportSheets()
+{
+    trigger("exportPdf");
+    QDialog *settings = dialog("exportDialog");
+    auto *button = settings->findChild<QPushButton *>(u"exportButton"_s);
+    auto *message = settings->findChild<QLabel *>(u"exportMessage"_s);
+    auto *sheets = settings->findChild<QComboBox *>(u"exportSheets"_s);
+    auto *press = settings->findChild<QComboBox *>(u"exportPress"_s);
+    auto *cutting = settings->findChild<QCheckBox *>(u"exportCutting"_s);
+    const QString file = path(u"blätter.pdf"_s);
+    settings->findChild<QLineEdit *>(u"exportTarget"_s)->setText(file);
+    QVERIFY(!cutting->isVisible());
+    sheets->setCurrentIndex(1);
+    QVERIFY(!button->isEnabled() && message->text().contains(u"passt auf ein Blatt"_s)); // A4 on A4
+    press->setCurrentIndex(1);
+    QVERIFY(!sheets->isEnabled() && button->isEnabled());
+    press->setCurrentIndex(0);
+    settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A5"_s);
+    QVERIFY2(message->text().contains(u"2 × 2 Blättern"_s), qPrintable(message->text()));
+    sheets->setCurrentIndex(3);
+    settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A4"_s);
+    QVERIFY(cutting->isVisible() && message->text().contains(u"3 Blätter"_s));
+    cutting->setChecked(true);
+    click(settings, "exportButton");
+    QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 60000);
+    dialog<QMessageBox>("informationMessage")->close();
+    QProcess reader;
+    reader.start(u"qpdf"_s, {u"--show-npages"_s, file});
+    QVERIFY(reader.waitForFinished());
+    QCOMPARE(reader.readAllStandardOutput().trimmed(), QByteArray("3"));
+}
+
+void tst_StudioOutput::placements_data()
+{
+    QTest::addColumn<QSizeF>("paper");    // mm
+    QTest::addColumn<double>("margin");   // that the printer leaves white at the left edge; half of it elsewhere
+    QTest::addColumn<QRectF>("read");     // of an A4 page, tenths of a millimetre
+    QTest::addColumn<bool>("isOriginal"); // asked for
+    QTest::addColumn<int>("percent");
+    const QSizeF a4(210.0, 297.0);
+    const QRectF inside(120, 120, 1860, 2730);
+    const QRectF all(0, 0, 2100, 2970);
+    QTest::newRow("no margins") << a4 << 0.0 << all << false << 100;
+    QTest::newRow("nothing in the margin") << a4 << 10.0 << inside << false << 100;
+    QTest::newRow("only photos") << a4 << 10.0 << QRectF() << false << 100;
+    QTest::newRow("days in the margin") << a4 << 10.0 << all << false << 93; // 195 of 210 mm
+    QTest::newRow("a wider one at the left") << a4 << 16.0 << inside << false << 100;
+    QTest::newRow("a wide one") << a4 << 40.0 << inside << false << 81; // 150 of 186 mm, about the middle
+    QTest::newRow("as large as it is") << a4 << 40.0 << all << true << 100;
+    QTest::newRow("small paper") << QSizeF(148.0, 210.0) << 0.0 << inside << false << 71;            // whole points
+    QTest::newRow("small paper with margins") << QSizeF(148.0, 210.0) << 10.0 << all << false << 63; // 133 of 210 mm
+}
+
+void tst_StudioOutput::placements()
+{
+    QFETCH(const QSizeF, paper);
+    QFETCH(const double, margin);
+    QFETCH(const QRectF, read);
+    QFETCH(const bool, isOriginal);
+    QFETCH(const int, percent);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    QPageLayout layout(QPageSize(paper, QPageSize::Millimeter), QPageLayout::Portrait, {}, QPageLayout::Millimeter,
+                       {margin, margin / 2.0, margin / 2.0, margin / 2.0});
+    layout.setMode(QPageLayout::FullPageMode);
+    printer.setPageLayout(layout);
+    QVERIFY(std::abs(MvPrintPlacement::whiteMargin(printer) - margin) < 0.2);
+    using Size = MvPrintPlacement::Size;
+    const MvPrintPlacement placement(printer, {{2100, 2970}, read}, isOriginal ? Size::Original : Size::Fitting);
+    QCOMPARE(placement.percent(), percent);
+    const double dots = printer.resolution() / 25.4;
+    const QRectF page(placement.corner() / dots, QSizeF(210, 297) * percent / 100.0);
+    const QRectF seen(page.topLeft() + read.topLeft() * percent / 1000.0, read.size() * percent / 1000.0);
+    const QRectF printable = QRectF(QPointF(), paper).adjusted(margin, margin / 2, -margin / 2, -margin / 2);
+    if (!isOriginal && !read.isEmpty())
+        QVERIFY2(printable.adjusted(-2, -2, 2, 2).contains(seen), qPrintable(QDebug::toString(seen)));
 }
 
 void tst_StudioOutput::print()

@@ -5,11 +5,13 @@
 #include "MvProject/MvExportTarget.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPictureExporter.h"
+#include "MvProject/MvSheetPlan.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvPagePreview.h"
 #include "flows/MvPrintFindingList.h"
 #include "flows/MvPrintWatch.h"
+#include "flows/MvSheetChoice.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -78,6 +80,7 @@ MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocum
     if (isPdf()) {
         addPress(form);
         addBleed(form);
+        addSheets(form);
     } else {
         addResolution(form);
     }
@@ -260,6 +263,21 @@ void MvExportDialog::addPress(QFormLayout *form)
     });
 }
 
+/// Not for a print shop: those lay out sheets of their own.
+void MvExportDialog::addSheets(QFormLayout *form)
+{
+    m_sheets = new MvSheetChoice(this);
+    form->addRow(labelFor(tr("B&lätter:"), m_sheets->kindBox()), m_sheets);
+    const auto follow = [this] {
+        m_sheets->setEnabled(m_press->currentData().toString().isEmpty());
+        validate();
+    };
+    connect(m_press, &QComboBox::currentIndexChanged, this, follow);
+    connect(m_sheets, &MvSheetChoice::changed, this, &MvExportDialog::validate);
+    connect(this, &QDialog::accepted, m_sheets, &MvSheetChoice::remember);
+    follow();
+}
+
 void MvExportDialog::browse()
 {
     auto *dialog = new QFileDialog(this, windowTitle(), m_target->text());
@@ -322,11 +340,13 @@ MvOutcome MvExportDialog::checkTarget() const
 MvOutcome MvExportDialog::check() const
 {
     const MvExportOptions wanted = options();
-    const MvExportTarget files(wanted.target);
+    MvExportTarget files(wanted.target);
+    files.setSheets(wanted.sheets);
     const MvPageRange::Pages shown = pages();
-    const MvFileNamePattern::Paths names = files.files(m_document.pageSource().part(shown.numbers));
-    for (const MvOutcome &checked :
-         {checkTarget(), MvOutcome(shown), MvOutcome(names), files.checkSize(m_document.format(), wanted.dpi)}) {
+    const MvPageSource source = m_document.pageSource().part(shown.numbers);
+    const MvFileNamePattern::Paths names = files.files(source);
+    for (const MvOutcome &checked : {checkTarget(), MvOutcome(shown), MvOutcome(names),
+                                     files.checkSize(m_document.format(), wanted.dpi), files.checkSheets(source)}) {
         if (!checked.isOk())
             return checked;
     }
@@ -340,6 +360,9 @@ QStringList MvExportDialog::notes(const QStringList &files) const
         const QSize size = MvPictureExporter::pixelSize(m_document.format(), m_dpi->value());
         lines.append(tr("Jedes Bild wird %1 × %2 Pixel groß.").arg(size.width()).arg(size.height()));
     }
+    if (const MvExportOptions wanted = options(); wanted.sheets.areSheets())
+        lines.append(
+            MvSheetPlan(wanted.sheets, m_document.format().trimSize(), int(wanted.pages.size())).description());
     const int existing =
         int(std::count_if(files.begin(), files.end(), [](const QString &file) { return QFileInfo::exists(file); }));
     if (existing > 0)
@@ -369,6 +392,7 @@ MvExportOptions MvExportDialog::options() const
     options.target = target();
     options.pages = pages().numbers;
     options.dpi = m_dpi ? m_dpi->value() : defaultDpi;
+    options.sheets = m_sheets ? m_sheets->settings() : MvSheetSettings();
     options.press = m_press ? m_press->currentData().toString() : QString();
     options.bleed = m_bleed ? std::round(m_bleed->value() * tenths) : m_document.format().bleed();
     return options;

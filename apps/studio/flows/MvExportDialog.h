@@ -10,6 +10,7 @@
 class MvPagePreview;
 class MvPrintFindingList;
 class MvPrintWatch;
+class MvSheetChoice;
 class MvSpinBox;
 class QComboBox;
 class QDoubleSpinBox;
@@ -52,6 +53,7 @@ private:
     void addResolution(QFormLayout *form);
     void addBleed(QFormLayout *form);
     void addPress(QFormLayout *form);
+    void addSheets(QFormLayout *form);
     void browse();
     QString target() const;
     MvPageRange::Pages pages() const;
@@ -75,6 +77,7 @@ private:
     MvSpinBox *m_dpi = nullptr;
     QDoubleSpinBox *m_bleed = nullptr;
     QComboBox *m_press = nullptr;
+    MvSheetChoice *m_sheets = nullptr;
     QLabel *m_message;
     QPushButton *m_export = nullptr;
 };

@@ -113,6 +113,7 @@ void MvExportFlow::run(const MvExportOptions &options)
         m_press.profile = loaded.profile;
         target.setPress(m_press);
     }
+    target.setSheets(options.sheets);
     m_options = options;
     MvCalendarDocument document = m_project->document();
     MvPageFormat format = document.format();

@@ -6,7 +6,6 @@
 #include "flows/MvPrintPages.h"
 #include "flows/MvPrintPreview.h"
 
-#include "MvCore/MvMath.h"
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvPageSource.h"
@@ -120,10 +119,15 @@ void MvPrintFlow::openPreview()
     printer->setDocName(m_project->displayName());
     adopt(m_project->document().format(), printer.get());
     auto *dialog = new MvPrintPreview(
-        printer, [pages = m_pages.get()](QPrinter *target) { paint(target, pages->pageSource()); }, m_watch, m_window);
+        printer, MvPrintPlacement::extentOf(m_project->document()),
+        [pages = m_pages.get()](QPrinter *target, const MvPrintPlacement &placement) {
+            paint(target, pages->pageSource(), placement);
+        },
+        m_watch, m_window);
     dialog->resize(m_window->size().expandedTo({800, 600}) - QSize(60, 60));
     m_pages->setParent(dialog);
-    connect(dialog, &MvPrintPreview::printRequested, this, [this, printer] { print(printer); });
+    connect(dialog, &MvPrintPreview::printRequested, this,
+            [this, printer, dialog] { print(printer, dialog->printSize()); });
     connect(dialog, &MvPrintPreview::pdfRequested, this, &MvPrintFlow::pdfRequested);
     connect(dialog, &MvPrintPreview::placeWanted, this, &MvPrintFlow::placeWanted);
     // the preview needs a moment to open; until then the progress dialog can close
@@ -131,10 +135,12 @@ void MvPrintFlow::openPreview()
 }
 
 /// The preview closes now; its printer goes on.
-void MvPrintFlow::print(const std::shared_ptr<QPrinter> &printer)
+void MvPrintFlow::print(const std::shared_ptr<QPrinter> &printer, MvPrintPlacement::Size size)
 {
-    const auto write = [printer](const MvPageSource &pages, MvExportObserver *observer) {
-        return paint(printer.get(), pages, observer);
+    const MvPrintPlacement placement(*printer, MvPrintPlacement::extentOf(m_project->document()), size);
+    m_percent = placement.percent();
+    const auto write = [printer, placement](const MvPageSource &pages, MvExportObserver *observer) {
+        return paint(printer.get(), pages, placement, observer);
     };
     m_printing = new MvExportJob(m_project->document(), write, MvPdfExporter::resolution, this);
     m_printing->setPages(pagesToPrint(*printer, int(m_project->document().pages().size())));
@@ -154,25 +160,21 @@ void MvPrintFlow::tellPrinted(const MvExportResult &result)
     if (!result.error.isEmpty())
         MvStudioMessage::error(m_window, tr("Der Kalender wurde nicht gedruckt."), result.error);
     else
-        Q_EMIT message(result.isCancelled ? tr("Drucken abgebrochen") : tr("An den Drucker gegeben"));
+        Q_EMIT message(result.isCancelled ? tr("Drucken abgebrochen")
+                       : m_percent < 100  ? tr("An den Drucker gegeben, auf %1 % verkleinert").arg(m_percent)
+                                          : tr("An den Drucker gegeben"));
 }
 
 void MvPrintFlow::paint(QPrinter *printer) const
 {
     const MvPageSource source = m_project->document().pageSource();
-    paint(printer, source.part(pagesToPrint(*printer, int(source.pages.size()))));
+    paint(printer, source.part(pagesToPrint(*printer, int(source.pages.size()))),
+          {*printer, MvPrintPlacement::extentOf(m_project->document()), MvPrintPlacement::Size::Fitting});
 }
 
-MvExportResult MvPrintFlow::paint(QPrinter *printer, const MvPageSource &source, MvExportObserver *observer)
+MvExportResult MvPrintFlow::paint(QPrinter *printer, const MvPageSource &source, const MvPrintPlacement &placement,
+                                  MvExportObserver *observer)
 {
-    const QRectF paper = printer->paperRect(QPrinter::DevicePixel);
-    const QSizeF page = source.format.trimSize();
-    const double natural = printer->resolution() / MvMath::tenthMillimetresPerInch;
-    constexpr double rounding = 1.005; // whole points of the paper against tenths of a millimetre
-    const double fitting = std::min(paper.width() / page.width(), paper.height() / page.height());
-    const double scale = natural > fitting * rounding ? fitting : natural;
-    const QPointF corner = paper.center() - QPointF(page.width(), page.height()) * scale / 2.0;
-
     QPainter painter;
     if (!painter.begin(printer))
         return MvExportResult::failed(tr("Der Drucker nimmt keine Seiten an."));
@@ -180,7 +182,7 @@ MvExportResult MvPrintFlow::paint(QPrinter *printer, const MvPageSource &source,
     for (int number = 0; number < total; ++number) {
         if (number > 0 && !printer->newPage())
             return MvExportResult::failed(tr("Der Drucker nimmt keine weiteren Seiten an."));
-        source.paintPage(painter, number, corner, scale);
+        source.paintPage(painter, number, placement.corner(), placement.scale());
         if (observer && observer->isCancelled()) {
             printer->abort();
             return MvExportResult::cancelled();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvProject/MvExportResult.h"
+#include "flows/MvPrintPlacement.h"
 
 #include <QObject>
 #include <QPointer>
@@ -27,11 +28,12 @@ public:
     /// Project and watch are not owned. The window is the parent of all dialogs.
     MvPrintFlow(MvProject *project, MvPrintWatch *watch, QWidget *window);
 
-    /// Paints the pages that the printer is to print, each as large as it is, or smaller where the paper is.
+    /// Paints the pages that the printer is to print, as large as fits the paper and its margins.
     void paint(QPrinter *printer) const;
-    /// Paints pages of the source in the same way. Any thread; ends early, without a page printed, when the observer,
-    /// if any, wants to.
-    static MvExportResult paint(QPrinter *printer, const MvPageSource &source, MvExportObserver *observer = nullptr);
+    /// Paints pages of the source at their place. Any thread; ends early, without a page printed, when the observer, if
+    /// any, wants to.
+    static MvExportResult paint(QPrinter *printer, const MvPageSource &source, const MvPrintPlacement &placement,
+                                MvExportObserver *observer = nullptr);
 
 public Q_SLOTS:
     /// Shows the preview; without any printer asks first what to do.
@@ -50,7 +52,7 @@ Q_SIGNALS:
 private:
     void cancelPreview();
     void openPreview();
-    void print(const std::shared_ptr<QPrinter> &printer);
+    void print(const std::shared_ptr<QPrinter> &printer, MvPrintPlacement::Size size);
     void tellPrinted(const MvExportResult &result);
 
     MvProject *m_project;
@@ -58,4 +60,5 @@ private:
     QWidget *m_window;
     QPointer<MvPrintPages> m_pages; // of the preview that is being made ready or shown
     QPointer<MvExportJob> m_printing;
+    int m_percent = 100; // of their size that the pages are printed in
 };

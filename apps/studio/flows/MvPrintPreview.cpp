@@ -8,8 +8,11 @@
 #include "MvGUIWidgets/MvIconRegistry.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
@@ -19,19 +22,24 @@
 
 using namespace Qt::StringLiterals;
 
-MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const Paint &paint, MvPrintWatch *watch,
-                               QWidget *parent)
+MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const MvPrintPlacement::Extent &extent,
+                               const Paint &paint, MvPrintWatch *watch, QWidget *parent)
     : QDialog(parent)
     , m_printer(printer)
+    , m_extent(extent)
     , m_preview(new QPrintPreviewWidget(printer.get(), this))
     , m_watch(watch)
     , m_page(new QLabel(this))
+    , m_size(new QComboBox(this))
+    , m_sizeNote(new QLabel(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"printPreview"_s);
     setWindowTitle(tr("Druckvorschau"));
     m_page->setObjectName(u"previewPage"_s);
-    connect(m_preview, &QPrintPreviewWidget::paintRequested, this, paint);
+    connect(m_preview, &QPrintPreviewWidget::paintRequested, this, [this, paint](QPrinter *target) {
+        paint(target, {*m_printer, m_extent, printSize()});
+    });
     connect(m_preview, &QPrintPreviewWidget::previewChanged, this, &MvPrintPreview::update);
 
     const bool hasPrinter = printer->outputFormat() == QPrinter::NativeFormat;
@@ -53,6 +61,7 @@ MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const P
     auto *column = new QVBoxLayout(this);
     column->addWidget(createToolBar());
     column->addWidget(m_preview, 1);
+    column->addWidget(createSizeRow());
     addFindings(column);
     column->addWidget(buttons);
     m_preview->fitInView();
@@ -90,6 +99,47 @@ void MvPrintPreview::addFindings(QVBoxLayout *column)
     });
     look();
     m_watch->hurry();
+}
+
+/// Only where the printer's margins or its paper leave a choice.
+QWidget *MvPrintPreview::createSizeRow()
+{
+    auto *row = new QWidget(this);
+    m_size->setObjectName(u"previewSize"_s);
+    m_sizeNote->setObjectName(u"previewSizeNote"_s);
+    m_sizeNote->setWordWrap(true);
+    const int percent = MvPrintPlacement(*m_printer, m_extent, MvPrintPlacement::Size::Fitting).percent();
+    m_size->addItem(tr("Eingepasst (%1 %)").arg(percent), int(MvPrintPlacement::Size::Fitting));
+    m_size->addItem(tr("Originalgröße"), int(MvPrintPlacement::Size::Original));
+    auto *label = new QLabel(tr("&Größe:"), row);
+    label->setBuddy(m_size);
+    auto *line = new QHBoxLayout(row);
+    line->setContentsMargins({});
+    line->addWidget(label);
+    line->addWidget(m_size);
+    line->addWidget(m_sizeNote, 1);
+    row->setVisible(percent < 100);
+    connect(m_size, &QComboBox::currentIndexChanged, this, [this] {
+        tellSize();
+        m_preview->updatePreview();
+    });
+    tellSize();
+    return row;
+}
+
+void MvPrintPreview::tellSize()
+{
+    const QString margin = QLocale().toString(MvPrintPlacement::whiteMargin(*m_printer), 'f', 1);
+    m_sizeNote->setText(printSize() == MvPrintPlacement::Size::Fitting
+                            ? tr("Verkleinert, damit Texte und Tage nicht dort stehen, wo der Drucker nichts druckt "
+                                 "(bis %1 mm vom Rand).")
+                                  .arg(margin)
+                            : tr("Was näher als %1 mm am Rand steht, kann fehlen.").arg(margin));
+}
+
+MvPrintPlacement::Size MvPrintPreview::printSize() const
+{
+    return MvPrintPlacement::Size(m_size->currentData().toInt());
 }
 
 int MvPrintPreview::pageCount() const

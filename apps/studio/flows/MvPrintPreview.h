@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "flows/MvPrintPlacement.h"
+
 #include <QDialog>
 
 #include <functional>
@@ -8,6 +10,7 @@
 
 class MvPrintWatch;
 class QAction;
+class QComboBox;
 class QLabel;
 class QPrinter;
 class QPrintPreviewWidget;
@@ -23,13 +26,16 @@ class MvPrintPreview : public QDialog
 
 public:
     /// Paints the pages on the printer, for the preview.
-    using Paint = std::function<void(QPrinter *)>;
+    using Paint = std::function<void(QPrinter *, const MvPrintPlacement &)>;
 
     /// The watch, which is not owned, knows what would not print well: it is listed below the pages.
-    MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const Paint &paint, MvPrintWatch *watch, QWidget *parent);
+    MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const MvPrintPlacement::Extent &extent, const Paint &paint,
+                   MvPrintWatch *watch, QWidget *parent);
     ~MvPrintPreview() override;
 
     int pageCount() const;
+    /// How large the pages are to be printed.
+    MvPrintPlacement::Size printSize() const;
     QPrinter *printer() const { return m_printer.get(); }
 
 Q_SIGNALS:
@@ -44,14 +50,19 @@ private:
     void addFindings(QVBoxLayout *column);
     QAction *addAction(QToolBar *bar, const QString &name, const QString &text, const QList<QKeySequence> &keys);
     QToolBar *createToolBar();
+    QWidget *createSizeRow();
+    void tellSize();
     void showPage(int page);
     void update();
     void askForPrinter();
 
     std::shared_ptr<QPrinter> m_printer;
+    const MvPrintPlacement::Extent m_extent;
     QPrintPreviewWidget *m_preview;
     MvPrintWatch *m_watch;
     QLabel *m_page;
+    QComboBox *m_size;
+    QLabel *m_sizeNote;
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;
 };

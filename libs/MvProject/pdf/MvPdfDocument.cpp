@@ -4,8 +4,8 @@
 #include "MvPaint/MvPaintRecording.h"
 #include "MvPaint/MvPrintableText.h"
 #include "MvProductBase/MvCalendarWordsRegistry.h"
+#include "MvProject/MvPdfMadeUpBleed.h"
 #include "MvProject/MvPdfMarks.h"
-#include "MvProject/MvPdfMirroredBleed.h"
 #include "MvProject/MvPdfPageElements.h"
 #include "MvProject/MvPdfPagePainter.h"
 #include "MvProject/MvPdfSyntax.h"
@@ -78,7 +78,7 @@ void MvPdfDocument::addPage(const Page &page, const MvPaintRecording &recording,
         painter.setContent(startOfSheet(sheet, page, recording, toUnits));
     painter.paint(recording);
     const MvPdfContent painted =
-        m_press.isForPress() ? endOfSheet(sheet, page, painter) : MvPdfContent(painter.content());
+        m_press.isForPress() ? endOfSheet(sheet, page, painter, recording, toUnits) : MvPdfContent(painter.content());
     const QString name = MvPrintableText::onOneLine(page.name);
     m_pages.append(addPageObject(page, painted, parts));
     if (!name.isEmpty())
@@ -126,8 +126,7 @@ MvPdfContent MvPdfDocument::startOfSheet(const MvPressSheet &sheet, const Page &
 {
     MvPdfContent content(m_pressColors.get());
     if (sheet.missingBleed() > 0.0) {
-        const MvPdfMirroredBleed bleed({m_file, m_fonts, m_images, m_pressColors.get()}, sheet, unitsOn(sheet));
-        bleed.paint(content, recording, dotsToUnits);
+        madeUpBleed(sheet).paint(content, recording, dotsToUnits);
     }
     content.save();
     content.addRect(unitsOn(sheet).mapRect(page.media));
@@ -135,12 +134,20 @@ MvPdfContent MvPdfDocument::startOfSheet(const MvPressSheet &sheet, const Page &
     return content;
 }
 
-MvPdfContent MvPdfDocument::endOfSheet(const MvPressSheet &sheet, const Page &page, const MvPdfPagePainter &painter)
+MvPdfMadeUpBleed MvPdfDocument::madeUpBleed(const MvPressSheet &sheet)
+{
+    return {{m_file, m_fonts, m_images, m_pressColors.get()}, sheet, m_press.bleedKind, unitsOn(sheet)};
+}
+
+MvPdfContent MvPdfDocument::endOfSheet(const MvPressSheet &sheet, const Page &page, const MvPdfPagePainter &painter,
+                                       const MvPaintRecording &recording, const QTransform &dotsToUnits)
 {
     const QTransform toUnits = unitsOn(sheet);
     const MvPdfPagePainter::Ink ink = painter.mostInk();
     m_inks.append({int(m_pages.size()), ink.percent, toUnits.inverted().map(ink.place)});
     MvPdfContent content = painter.content();
+    if (sheet.missingBleed() <= 0.0 && sheet.bleed() != sheet.trim())
+        madeUpBleed(sheet).paintBesidePictures(content, recording, dotsToUnits);
     content.restore();
     content.append("/Artifact BMC\n");
     MvPdfMarks::paint(content, sheet, toUnits, m_file);

@@ -20,6 +20,7 @@
 
 class MvPaintRecording;
 class MvPdfContent;
+class MvPdfMadeUpBleed;
 class MvPdfPagePainter;
 class MvPdfPageParts;
 class MvPressColors;
@@ -75,7 +76,9 @@ private:
     MvPdfContent startOfSheet(const MvPressSheet &sheet, const Page &page, const MvPaintRecording &recording,
                               const QTransform &dotsToUnits);
     int addPageObject(const Page &page, const MvPdfContent &painted, const MvPdfPageParts &parts);
-    MvPdfContent endOfSheet(const MvPressSheet &sheet, const Page &page, const MvPdfPagePainter &painter);
+    MvPdfContent endOfSheet(const MvPressSheet &sheet, const Page &page, const MvPdfPagePainter &painter,
+                            const MvPaintRecording &recording, const QTransform &dotsToUnits);
+    MvPdfMadeUpBleed madeUpBleed(const MvPressSheet &sheet);
     int addBookmarks();
     int addOutputIntent();
     int addMetadata();
@@ -92,7 +95,7 @@ private:
     const std::unique_ptr<const MvPressColors> m_pressColors;
     MvPdfFile m_file;
     MvPdfFonts m_fonts{m_file};
-    MvPdfImages m_images{m_file, m_pressColors.get()};
+    MvPdfImages m_images{m_file, m_pressColors.get(), m_press.keepsFotoColors};
     QCryptographicHash m_hash{QCryptographicHash::Sha1}; // of the pages' contents, for the press
     QList<MvInkUse> m_inks;
     MvPdfStructure m_structure{m_file};

@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr int inkCount = 4;
+
 QByteArray entriesIn(const QByteArray &colors, const QSize &size, const QByteArray &filter)
 {
     return "/Type/XObject/Subtype/Image/BitsPerComponent 8/Width " + QByteArray::number(size.width()) + "/Height " +
@@ -126,7 +128,6 @@ MvPdfImageEncoder::Stream MvPdfImageEncoder::colors(const QImage &image)
 
 MvPdfImageEncoder::Stream MvPdfImageEncoder::inks(const QImage &image, const MvPressColors &press)
 {
-    constexpr int inkCount = 4;
     constexpr qsizetype sizeBefore = 4; // bytes of the length that packed bytes begin with
     if (image.allGray()) {
         const QImage gray = press.grays(image);
@@ -142,6 +143,17 @@ MvPdfImageEncoder::Stream MvPdfImageEncoder::inks(const QImage &image, const MvP
     if (!photo.isEmpty())
         return {entriesIn("/DeviceCMYK", image.size(), "/Filter/DCTDecode"), photo, most};
     return {entriesIn("/DeviceCMYK", image.size(), "/Filter/FlateDecode"), qCompress(inks).sliced(sizeBefore), most};
+}
+
+MvPdfImageEncoder::Ink MvPdfImageEncoder::inkOf(const QImage &image, const MvPressColors &press)
+{
+    return mostInk(press.photo(image), image.size(), inkCount);
+}
+
+bool MvPdfImageEncoder::isColorFoto(const QImage &image)
+{
+    const auto plain = [](const QImage &part) { return part.convertToFormat(QImage::Format_RGB888); };
+    return !image.allGray() && !isTranslucent(image) && !isFlat(image, plain);
 }
 
 MvPdfImageEncoder::Stream MvPdfImageEncoder::opacity(const QImage &image)

@@ -6,6 +6,7 @@
 #include "MvProject/MvPdfJpeg.h"
 #include "MvProject/MvPdfSyntax.h"
 
+#include <QColorSpace>
 #include <QHashFunctions>
 
 namespace {
@@ -49,10 +50,27 @@ int MvPdfImages::object(const QImage &image, const QRect &part, const QSize &nee
     return object;
 }
 
-MvPdfImageEncoder::Stream MvPdfImages::packed(const QImage &image) const
+MvPdfImageEncoder::Stream MvPdfImages::packed(const QImage &image)
 {
-    if (m_press)
-        return MvPdfImageEncoder::inks(image, *m_press);
+    if (!m_press)
+        return inColors(image);
+    return m_keepsFotoColors && MvPdfImageEncoder::isColorFoto(image) ? inOwnColors(image)
+                                                                      : MvPdfImageEncoder::inks(image, *m_press);
+}
+
+/// With the profile that says what they are, and with the ink that they are likely to become.
+MvPdfImageEncoder::Stream MvPdfImages::inOwnColors(const QImage &image)
+{
+    if (m_profile == 0)
+        m_profile = m_file.addStream("/N 3", QColorSpace(QColorSpace::SRgb).iccProfile());
+    MvPdfImageEncoder::Stream stream = inColors(image);
+    stream.entries.replace("/DeviceRGB", "[/ICCBased " + MvPdfSyntax::reference(m_profile) + "]");
+    stream.ink = MvPdfImageEncoder::inkOf(image, *m_press);
+    return stream;
+}
+
+MvPdfImageEncoder::Stream MvPdfImages::inColors(const QImage &image)
+{
     if (const MvPdfJpeg jpeg(MvImageLoader::instance().jpegOf(image));
         !jpeg.content().isEmpty() && jpeg.size() == image.size())
         return MvPdfImageEncoder::stored(jpeg);

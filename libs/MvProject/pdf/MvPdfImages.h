@@ -17,9 +17,11 @@ class MvPdfImages
 {
 public:
     /// The file outlives it, and so does the press, if the pictures are for one.
-    explicit MvPdfImages(MvPdfFile &file, const MvPressColors *press = nullptr)
+    /// Photos in colour may keep theirs there.
+    explicit MvPdfImages(MvPdfFile &file, const MvPressColors *press = nullptr, bool keepsFotoColors = false)
         : m_file(file)
         , m_press(press)
+        , m_keepsFotoColors(keepsFotoColors)
     {}
 
     /// The object of a part of the picture, in at most about so many pixels. The part lies inside and is not empty.
@@ -43,10 +45,14 @@ private:
     };
 
     int add(const QImage &image);
-    MvPdfImageEncoder::Stream packed(const QImage &image) const;
+    MvPdfImageEncoder::Stream packed(const QImage &image);
+    static MvPdfImageEncoder::Stream inColors(const QImage &image);
+    MvPdfImageEncoder::Stream inOwnColors(const QImage &image);
 
     MvPdfFile &m_file;
     const MvPressColors *m_press;
+    const bool m_keepsFotoColors;
+    int m_profile = 0; // object of the one that such photos have
     QHash<Use, int> m_uses;
     QHash<QByteArray, int> m_contents; // by a hash of the pixels
     QHash<int, MvPdfImageEncoder::Ink> m_inks;
