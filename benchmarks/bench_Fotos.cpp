@@ -2,6 +2,8 @@
 // What photos cost beside the least that they could: opening a calendar of twelve large ones until its first page is
 // sharp, exporting it, and gathering five hundred for the pool beside a window.
 
+#include "MvBenchFotos.h"
+
 #include "MvCore/MvProcessMemory.h"
 #include "MvFoto/MvFotoSource.h"
 #include "MvFoto/MvGuardedImageReader.h"
@@ -20,7 +22,6 @@
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -32,32 +33,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize largePhoto(6000, 4000); // 24 megapixels
 constexpr int photos = 12;
 constexpr int manyPhotos = 500;
 constexpr int screenWidth = 1600;
 constexpr int dpi = 300;
 constexpr int jpegQuality = 92; // that of the PDF
-
-/// Coloured spots with grain, as hard to pack as a photo is.
-QImage painted(const QSize &size)
-{
-    QRandomGenerator random(1);
-    QImage spots(size / 100, QImage::Format_RGB32);
-    for (int y = 0; y < spots.height(); ++y)
-        random.fillRange(reinterpret_cast<quint32 *>(spots.scanLine(y)), spots.width());
-    QImage image =
-        spots.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < size.width(); ++x) {
-            const int grain = int((quint32(x) * 2654435761u ^ quint32(y) * 2246822519u) >> 28);
-            line[x] =
-                qRgb(qRed(line[x]) * 3 / 4 + grain, qGreen(line[x]) * 3 / 4 + grain, qBlue(line[x]) * 3 / 4 + grain);
-        }
-    }
-    return image;
-}
 
 /// A calendar of large photos on A4, in a folder of its own.
 class Calendar
@@ -68,7 +48,7 @@ public:
         for (int number = 0; number < photos; ++number) {
             const QString path = m_folder.filePath(u"%1.jpg"_s.arg(number));
             if (number == 0)
-                painted(largePhoto).save(path, "jpeg", 90);
+                MvBenchFotos::painted(MvBenchFotos::largeSize).save(path, "jpeg", 90);
             else
                 QFile::copy(m_folder.filePath(u"0.jpg"_s), path);
         }
@@ -242,7 +222,7 @@ void gatherForPool(benchmark::State &state)
 {
     const QTemporaryDir folder;
     const QString first = folder.filePath(u"0.jpg"_s);
-    painted({1500, 1000}).save(first, "jpeg", 90);
+    MvBenchFotos::painted({1500, 1000}).save(first, "jpeg", 90);
     for (int number = 1; number < manyPhotos; ++number)
         QFile::copy(first, folder.filePath(u"%1.jpg"_s.arg(number)));
     double longest = 0.0;

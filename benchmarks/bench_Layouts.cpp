@@ -1,124 +1,72 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-// What a page costs, for each shipped layout: a pass of the renderer beside the page's primitives painted straight, and
-// beside recording the pass alone. A4 at 300 dpi.
+// What a page costs, for each shipped layout, beside its ready primitives painted straight: a pass of the renderer with
+// the outlines of all texts at hand (warm), one with none of them (cold), and recording the pass alone. A4 at 300 dpi.
 
-#include "MvCalendar/MvCalendariumAppearance.h"
+#include "MvBenchPages.h"
+#include "MvBenchTurns.h"
+
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvPaint/MvPaintRecorder.h"
-#include "MvPaint/MvPaintRecording.h"
+#include "MvPaint/MvTextOutlineCache.h"
 
 #include <QGuiApplication>
 #include <QImage>
-#include <QPainter>
 
 #include <benchmark/benchmark.h>
 
 #include <memory>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-constexpr double dpi = 300.0;
-constexpr double scale = dpi / 254.0;
+constexpr double scale = 300.0 / 254.0;
 const QRectF calendarium(120, 200, 2730, 1780);
 const QDate month(2027, 5, 1); // six rows, holidays and a vacation
 
-QImage page()
+std::unique_ptr<MvCalendariumRenderer> makeRenderer(const QString &layout)
 {
-    QImage image(int(2970 * scale), int(2100 * scale), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    return image;
-}
-
-void prepare(QPainter &painter)
-{
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(scale, scale);
-}
-
-std::unique_ptr<MvCalendariumRenderer> makeRenderer(const MvCalendariumLayoutSchemaID &layout)
-{
-    MvCalendariumAppearance appearance;
-    appearance.setLayoutSchemaByID(layout);
-    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
-    appearance.adaptGridToLayout();
     std::unique_ptr<MvCalendariumRenderer> renderer(
-        MvCalendariumRendererFactory::instance().createRenderer(appearance));
-    const MvCalendariumHolidayConfig holidays(MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 4 | 8));
-    renderer->setCalendarInformation(MvCalendariumContentConfig(month, holidays),
+        MvCalendariumRendererFactory::instance().createRenderer(MvBenchPages::appearance(layout)));
+    renderer->setCalendarInformation(MvCalendariumContentConfig(month, MvBenchPages::holidays()),
                                      MvDateRange(QDate(2027, 1, 1), QDate(2027, 12, 31)));
     return renderer;
 }
 
-QList<MvPaintRecording::Item> primitives(const MvCalendariumLayoutSchemaID &layout)
+void record(MvCalendariumRenderer &renderer, MvPaintRecorder &recorder)
 {
-    const auto renderer = makeRenderer(layout);
-    MvPaintRecorder recorder(nullptr);
     QPainter painter(&recorder);
     painter.setRenderHint(QPainter::Antialiasing);
-    renderer->render(painter, calendarium);
-    painter.end();
-    return recorder.recording().items();
+    renderer.render(painter, calendarium);
 }
 
-// the page's fills, lines and text outlines, ready made, painted as a program without a recording would
-void paintStraight(QPainter &painter, const QList<MvPaintRecording::Item> &items)
-{
-    for (const MvPaintRecording::Item &item : items) {
-        if (item.kind == MvPaintRecording::Item::Line) {
-            painter.setPen(QPen(QBrush(item.stroke), item.strokeWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-            painter.drawLine(item.line);
-        } else {
-            painter.fillPath(item.shape, item.fill);
-        }
-    }
-}
-
-void primitivesStraight(benchmark::State &state, const MvCalendariumLayoutSchemaID &layout)
-{
-    const QList<MvPaintRecording::Item> items = primitives(layout);
-    QImage image = page();
-    for (auto _ : state) {
-        QPainter painter(&image);
-        prepare(painter);
-        paintStraight(painter, items);
-    }
-    state.counters["items"] = double(items.size());
-}
-
-void pass(benchmark::State &state, const MvCalendariumLayoutSchemaID &layout)
-{
-    const auto renderer = makeRenderer(layout);
-    QImage image = page();
-    for (auto _ : state) {
-        QPainter painter(&image);
-        prepare(painter);
-        renderer->render(painter, calendarium);
-    }
-}
-
-void recordingAlone(benchmark::State &state, const MvCalendariumLayoutSchemaID &layout)
+void page(benchmark::State &state, const QString &layout)
 {
     const auto renderer = makeRenderer(layout);
     MvPaintRecorder recorder(nullptr);
+    record(*renderer, recorder);
+    const QList<MvPaintRecording::Item> items = recorder.recording().items();
+    QImage image(int(2970 * scale), int(2100 * scale), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    const auto painted = [&image](const auto &paint) {
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(scale, scale);
+        paint(painter);
+    };
+    const auto straight = [&] { painted([&](QPainter &painter) { MvBenchPages::paintStraight(painter, items); }); };
+    const auto warm = [&] { painted([&](QPainter &painter) { renderer->render(painter, calendarium); }); };
+    const auto cold = [&] {
+        MvTextOutlineCache::instance().clear();
+        warm();
+    };
+    const auto recording = [&] { record(*renderer, recorder); };
     for (auto _ : state) {
-        QPainter painter(&recorder);
-        renderer->render(painter, calendarium);
-    }
-}
-
-void registerBenchmarks()
-{
-    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
-        const MvCalendariumLayoutSchemaID id = schema.ID();
-        const std::string name = id.toString().toStdString();
-        benchmark::RegisterBenchmark((name + "/straight").c_str(), primitivesStraight, id)
-            ->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark((name + "/pass").c_str(), pass, id)->Unit(benchmark::kMillisecond);
-        benchmark::RegisterBenchmark((name + "/recording").c_str(), recordingAlone, id)->Unit(benchmark::kMillisecond);
+        const std::vector<double> times = MvBenchTurns().measure({straight, cold, warm, recording});
+        state.counters["straight_ms"] = times.at(0);
+        state.counters["cold"] = times.at(1) / times.at(0);
+        state.counters["warm"] = times.at(2) / times.at(0);
+        state.counters["recording"] = times.at(3) / times.at(0);
     }
 }
 
@@ -128,8 +76,11 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
+    for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        const QString layout = schema.ID().toString();
+        benchmark::RegisterBenchmark(qPrintable(layout), page, layout)->Unit(benchmark::kMillisecond)->Iterations(1);
+    }
     benchmark::Initialize(&argc, argv);
-    registerBenchmarks();
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What a page of a year costs beside a page of a month: layout and painting on A4 at 300 dpi with 500 entries in the
-// year. Month, year grid and planner are painted in turns within one run; the ratios are those to the month page. And
-// what a name costs that nobody could print, and more entries than a block of holidays has room for.
+// year. Month, year grid and planner are painted in turns; the ratios are those to the month page. What the grounds of
+// the year's cells cost beside one rectangle for each. And what a name costs that nobody could print, and more entries
+// than a block of holidays has room for.
+
+#include "MvBenchPages.h"
+#include "MvBenchTurns.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
-#include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvPaint/MvPaintRecorder.h"
@@ -12,13 +15,10 @@
 
 #include <QGuiApplication>
 #include <QImage>
-#include <QPainter>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
 
-#include <array>
-#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -30,28 +30,28 @@ constexpr double scale = 300.0 / 254.0;
 constexpr int fewEntries = 500;
 const QRectF calendarium(100, 100, 2770, 1900);
 
+MvCalendarEvent entry(const QString &name, const QDate &date)
+{
+    return {name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime()};
+}
+
 void fillRegistry(int entryCount = fewEntries)
 {
     const QStringList names{u"Geburtstag Oma Gerda"_s, u"Max"_s, u"Zahnarzt"_s, u"Hochzeitstag"_s,
                             u"Großtante Wilhelmine"_s};
     MvCalendarEventList entries;
-    for (int i = 0; i < entryCount; ++i) {
-        const QDate date = QDate(1990, 1, 1).addDays(i * 73 % 365);
-        const QString name = u"%1 %2"_s.arg(names.at(i % names.size())).arg(i);
-        entries.append(MvCalendarEvent(name, date.startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime()));
-    }
+    for (int i = 0; i < entryCount; ++i)
+        entries.append(
+            entry(u"%1 %2"_s.arg(names.at(i % names.size())).arg(i), QDate(1990, 1, 1).addDays(i * 73 % 365)));
     MvCalendarEventRegistry::instance().setEvents(entries);
 }
 
 std::unique_ptr<MvCalendariumRenderer> makeRenderer(const QString &layout, int month = 5)
 {
-    MvCalendariumAppearance appearance;
-    appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(layout));
-    appearance.setColorSchemaById(MvCalendariumColorSchemaID(u"PAPER_WHITE"_s));
-    appearance.adaptGridToLayout();
     std::unique_ptr<MvCalendariumRenderer> renderer(
-        MvCalendariumRendererFactory::instance().createRenderer(appearance));
-    const MvCalendariumHolidayConfig holidays(MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 4 | 8 | 64));
+        MvCalendariumRendererFactory::instance().createRenderer(MvBenchPages::appearance(layout)));
+    MvCalendariumHolidayConfig holidays = MvBenchPages::holidays();
+    holidays.setFeature(FEATURE_CALENDAR_WEEKS, true);
     renderer->setCalendarInformation(MvCalendariumContentConfig(QDate(2027, month, 1), holidays),
                                      MvDateRange(QDate(2027, 1, 1), QDate(2027, 12, 31)));
     renderer->setProductSize(MAGNITUDE_A4);
@@ -59,103 +59,143 @@ std::unique_ptr<MvCalendariumRenderer> makeRenderer(const QString &layout, int m
     return renderer;
 }
 
-using Pass = std::function<void(MvCalendariumRenderer &)>;
-
-void compare(benchmark::State &state, const Pass &pass)
+MvPaintRecording recorded(MvCalendariumRenderer &renderer)
 {
-    using Clock = std::chrono::steady_clock;
-    const std::array renderers{makeRenderer(u"MONTH_GRID_CLASSIC"_s), makeRenderer(u"YEAR_GRID"_s),
-                               makeRenderer(u"YEAR_PLANNER"_s)};
-    std::array<std::chrono::duration<double, std::milli>, 3> times{};
-    for (const auto &renderer : renderers)
-        pass(*renderer); // fills the caches
-    for (auto _ : state) {
-        for (size_t i = 0; i < renderers.size(); ++i) {
-            const auto start = Clock::now();
-            pass(*renderers[i]);
-            times[i] += Clock::now() - start;
-        }
+    MvPaintRecorder recorder(nullptr);
+    QPainter painter(&recorder);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(painter, calendarium);
+    painter.end();
+    return recorder.recording();
+}
+
+/// An A4 page at 300 dpi, to be painted on again and again.
+class Sheet
+{
+public:
+    Sheet() { m_image.fill(Qt::white); }
+
+    void paint(const std::function<void(QPainter &)> &work)
+    {
+        QPainter painter(&m_image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(scale, scale);
+        work(painter);
     }
-    state.counters["month_ms"] = times[0].count() / double(state.iterations());
-    state.counters["grid_ratio"] = times[1] / times[0];
-    state.counters["planner_ratio"] = times[2] / times[0];
+
+private:
+    QImage m_image{int(2970 * scale), int(2100 * scale), QImage::Format_ARGB32_Premultiplied};
+};
+
+void compare(benchmark::State &state, const std::function<void(MvCalendariumRenderer &)> &pass)
+{
+    const auto month = makeRenderer(u"MONTH_GRID_CLASSIC"_s);
+    const auto grid = makeRenderer(u"YEAR_GRID"_s);
+    const auto planner = makeRenderer(u"YEAR_PLANNER"_s);
+    for (auto _ : state) {
+        const std::vector<double> times =
+            MvBenchTurns().measure({[&] { pass(*month); }, [&] { pass(*grid); }, [&] { pass(*planner); }});
+        state.counters["month_ms"] = times.at(0);
+        state.counters["grid_ratio"] = times.at(1) / times.at(0);
+        state.counters["planner_ratio"] = times.at(2) / times.at(0);
+    }
 }
 
 void YearPagePass(benchmark::State &state)
 {
-    QImage image(int(2970 * scale), int(2100 * scale), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    compare(state, [&image](MvCalendariumRenderer &renderer) {
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(scale, scale);
-        renderer.render(painter, calendarium);
+    Sheet sheet;
+    compare(state, [&sheet](MvCalendariumRenderer &renderer) {
+        sheet.paint([&renderer](QPainter &painter) { renderer.render(painter, calendarium); });
     });
 }
+BENCHMARK(YearPagePass)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 void YearPageLayoutAlone(benchmark::State &state)
 {
-    MvPaintRecorder recorder(nullptr);
-    compare(state, [&recorder](MvCalendariumRenderer &renderer) {
-        QPainter painter(&recorder);
-        renderer.render(painter, calendarium);
-    });
+    compare(state, [](MvCalendariumRenderer &renderer) { benchmark::DoNotOptimize(recorded(renderer)); });
 }
+BENCHMARK(YearPageLayoutAlone)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+/// The rectangles that a path consists of.
+QList<QRectF> rectsOf(const QPainterPath &path)
+{
+    constexpr int corners = 5; // with the first one again
+    QList<QRectF> rects;
+    for (int first = 0; first + corners <= path.elementCount(); first += corners)
+        rects.append(QRectF(path.elementAt(first), path.elementAt(first + 2)));
+    return rects;
+}
+
+/// The grounds of all cells, which a pass fills first, beside filling each cell's rectangle by itself.
+void YearGridFills(benchmark::State &state)
+{
+    const MvPaintRecording page = recorded(*makeRenderer(u"YEAR_GRID"_s));
+    QList<std::pair<QRectF, QColor>> cells;
+    int grounds = 0;
+    const QList<MvPaintRecording::Item> items = page.items();
+    while (grounds < items.size() && items.at(grounds).kind == MvPaintRecording::Item::Path) {
+        for (const QRectF &rect : rectsOf(items.at(grounds).shape))
+            cells.append({rect, items.at(grounds).fill});
+        ++grounds;
+    }
+    const MvPaintRecording fills = page.part(0, grounds);
+    Sheet sheet;
+    const auto each = [&] {
+        sheet.paint([&cells](QPainter &painter) {
+            for (const auto &[rect, color] : std::as_const(cells))
+                painter.fillRect(rect, color);
+        });
+    };
+    const auto together = [&] { sheet.paint([&fills](QPainter &painter) { fills.replay(painter); }); };
+    for (auto _ : state) {
+        const std::vector<double> times = MvBenchTurns().measure({each, together});
+        state.counters["cells"] = double(cells.size());
+        state.counters["colours"] = grounds;
+        state.counters["ms"] = times.at(1);
+        state.counters["ratio"] = times.at(1) / times.at(0);
+    }
+}
+BENCHMARK(YearGridFills)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 /// One day has a name of 100,000 letters without a blank: what its page costs beside the same one with a short name,
 /// both with nothing shaped before.
 void LongName(benchmark::State &state, const QString &layout)
 {
-    using Clock = std::chrono::steady_clock;
     const auto renderer = makeRenderer(layout);
-    std::array<std::chrono::duration<double, std::milli>, 2> times{};
-    MvPaintRecorder recorder(nullptr);
+    const auto render = [&renderer](const QString &name) {
+        MvCalendarEventRegistry::instance().setEvents({entry(name, QDate(1990, 5, 5))});
+        MvTextOutlineCache::instance().clear();
+        benchmark::DoNotOptimize(recorded(*renderer));
+    };
     for (auto _ : state) {
-        for (size_t i = 0; i < times.size(); ++i) {
-            const QString name = i == 0 ? u"Großtante Wilhelmine"_s : QString(100'000, u'x');
-            MvCalendarEventRegistry::instance().setEvents({MvCalendarEvent(
-                name, QDate(1990, 5, 5).startOfDay(), true, MvFoto(), QUuid::createUuid(), QDateTime())});
-            MvTextOutlineCache::instance().clear();
-            const auto start = Clock::now();
-            QPainter painter(&recorder);
-            renderer->render(painter, calendarium);
-            times[i] += Clock::now() - start;
-        }
+        const std::vector<double> times = MvBenchTurns().measure(
+            {[&] { render(u"Großtante Wilhelmine"_s); }, [&] { render(QString(100'000, u'x')); }});
+        state.counters["short_ms"] = times.at(0);
+        state.counters["long_ratio"] = times.at(1) / times.at(0);
     }
-    state.counters["short_ms"] = times[0].count() / double(state.iterations());
-    state.counters["long_ratio"] = times[1] / times[0];
     fillRegistry();
 }
+BENCHMARK_CAPTURE(LongName, month, u"MONTH_GRID_CLASSIC"_s)->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK_CAPTURE(LongName, planner, u"YEAR_PLANNER"_s)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 /// The year's twelve blocks of holidays beside its twelve month grids, with nothing shaped before.
 void HolidayBlocks(benchmark::State &state)
 {
-    using Clock = std::chrono::steady_clock;
     fillRegistry(int(state.range(0)));
-    const std::array layouts{u"MONTH_GRID_CLASSIC"_s, u"HOLIDAY_BLOCK"_s};
-    std::array<std::chrono::duration<double, std::milli>, 2> times{};
-    MvPaintRecorder recorder(nullptr);
+    const auto renderYear = [](const QString &layout) {
+        MvTextOutlineCache::instance().clear();
+        for (int month = 1; month <= 12; ++month)
+            benchmark::DoNotOptimize(recorded(*makeRenderer(layout, month)));
+    };
     for (auto _ : state) {
-        for (size_t i = 0; i < layouts.size(); ++i) {
-            MvTextOutlineCache::instance().clear();
-            const auto start = Clock::now();
-            for (int month = 1; month <= 12; ++month) {
-                QPainter painter(&recorder);
-                makeRenderer(layouts[i], month)->render(painter, calendarium);
-            }
-            times[i] += Clock::now() - start;
-        }
+        const std::vector<double> times = MvBenchTurns().measure(
+            {[&] { renderYear(u"MONTH_GRID_CLASSIC"_s); }, [&] { renderYear(u"HOLIDAY_BLOCK"_s); }});
+        state.counters["grids_ms"] = times.at(0);
+        state.counters["blocks_ratio"] = times.at(1) / times.at(0);
     }
-    state.counters["grids_ms"] = times[0].count() / double(state.iterations());
-    state.counters["blocks_ratio"] = times[1] / times[0];
     fillRegistry();
 }
-
-BENCHMARK(HolidayBlocks)->Arg(500)->Arg(2000)->Arg(8000)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(LongName, month, u"MONTH_GRID_CLASSIC"_s)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(LongName, planner, u"YEAR_PLANNER"_s)->Unit(benchmark::kMillisecond);
-BENCHMARK(YearPagePass)->Unit(benchmark::kMillisecond);
-BENCHMARK(YearPageLayoutAlone)->Unit(benchmark::kMillisecond);
+BENCHMARK(HolidayBlocks)->Arg(500)->Arg(2000)->Arg(8000)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 } // namespace
 

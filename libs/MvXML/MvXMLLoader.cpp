@@ -47,6 +47,12 @@ QByteArray asUtf8(const QString &wideText)
     return text.toUtf8();
 }
 
+/// Embedded in the program: as it was built, and in UTF-8.
+bool isEmbedded(const QFileInfo &file)
+{
+    return file.filePath().startsWith(u':');
+}
+
 /// All checks; for UTF-16 and UTF-32 also the decoded text.
 MvXMLLoader::Error check(const QByteArray &bytes, const MvXMLLoader::Limits &limits, QString &wideText)
 {
@@ -92,7 +98,7 @@ QByteArray MvXMLLoader::loadBytes(const QFileInfo &file, Error *error, const Lim
     QByteArray bytes;
     withinMemory(found, [&] {
         bytes = readLimited(file, limits.bytes, found);
-        if (found.isError())
+        if (found.isError() || isEmbedded(file))
             return;
         QString wideText;
         found = ::check(bytes, limits, wideText);
@@ -109,11 +115,14 @@ QDomDocument MvXMLLoader::loadDocument(const QFileInfo &file, Error *error)
     Error found;
     QByteArray bytes;
     withinMemory(found, [&] { bytes = readLimited(file, Limits::ofDocuments().bytes, found); });
-    if (!found.isError())
+    if (!found.isError() && !isEmbedded(file))
         return parse(bytes, error);
+    QDomDocument document;
+    if (!found.isError())
+        document.setContent(bytes, &found.message, &found.line, &found.column);
     if (error)
         *error = found;
-    return {};
+    return document;
 }
 
 QDomDocument MvXMLLoader::parse(const QByteArray &bytes, Error *error)

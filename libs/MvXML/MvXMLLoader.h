@@ -50,7 +50,8 @@ public:
     };
 
     /// The document; a null one on error, which is then described in `error` when given.
-    /// Shipped files (":/...") are read as well; directories, devices and pipes are refused.
+    /// Shipped files (":/...") are part of the program: they pass unchecked. Directories, devices and pipes are
+    /// refused.
     static QDomDocument loadDocument(const QFileInfo &file, Error *error = nullptr);
     static QDomDocument parse(const QByteArray &bytes, Error *error = nullptr);
     /// Whether bytes that are about to be written pass these checks; else why not. Without that a saved file could be

@@ -140,6 +140,26 @@ void drawFills(QPainter &painter)
     painter.fillRect(QRectF(110, 110, 90, 40), bounding);
 }
 
+/// Blocks of cells as small months have them, some cells missing, one twice and one larger, off the grid of pixels.
+void drawGrounds(QPainter &painter)
+{
+    for (const auto &[color, missing] : {std::pair(QColor(90, 30, 160, 130), 5), {QColor(250, 200, 40), 4}}) {
+        QPainterPath cells;
+        cells.setFillRule(Qt::WindingFill);
+        for (int cell = 0; cell < 6 * 35; ++cell) {
+            const int block = cell / 35;
+            const QPointF corner(10.3 + block % 3 * 64.7 + cell % 7 * 8.7,
+                                 8.4 + block / 3 * 85.13 + cell / 7 % 5 * 15.9);
+            if (cell % missing != 0)
+                cells.addRect({corner, QSizeF(8.7, 15.9)});
+            if (cell % 50 == 1)
+                cells.addRect({corner, QSizeF(9.2, 16.3)});
+        }
+        cells.addRect(QRectF(150.5, 150.2, 40, 0)); // nothing of it is seen
+        painter.fillPath(cells, color);
+    }
+}
+
 void drawPatterns(QPainter &painter)
 {
     painter.setPen(Qt::NoPen);
@@ -261,13 +281,10 @@ void tst_MvPaintRecording::replaysPixelForPixel_data()
     QTest::addColumn<bool>("clipped");
 
     const std::pair<const char *, Painting> paintings[] = {
-        {"shapes", drawShapes},
-        {"fills", drawFills},
-        {"patterns", drawPatterns},
-        {"images", drawImages},
-        {"states", drawStates},
-        {"outlines", drawOutlines},
-        {"switched clips", drawSwitchedClips},
+        {"shapes", drawShapes},     {"fills", drawFills},
+        {"grounds", drawGrounds},   {"patterns", drawPatterns},
+        {"images", drawImages},     {"states", drawStates},
+        {"outlines", drawOutlines}, {"switched clips", drawSwitchedClips},
     };
     const std::pair<const char *, QTransform> transforms[] = {
         {"plain", {}},

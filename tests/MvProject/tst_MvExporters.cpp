@@ -11,6 +11,7 @@
 #include <QDomDocument>
 #include <QPainter>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 
@@ -188,14 +189,20 @@ void tst_MvExporters::pdfMetadata()
 
 void tst_MvExporters::png()
 {
+    QImage grain(500, 300, QImage::Format_RGB32);
+    for (int y = 0; y < grain.height(); ++y)
+        QRandomGenerator(quint32(y)).fillRange(reinterpret_cast<quint32 *>(grain.scanLine(y)), grain.width());
     MvPageSource pages = source(u"A4"_s, 0, 2);
-    pages.paint = [black = pages.paint](QPainter &painter, int page) {
+    pages.paint = [black = pages.paint, grain](QPainter &painter, int page) {
         painter.fillRect(QRectF(2000, 2000, 100, 970), Qt::blue);
+        painter.drawImage(QPointF(1000, 1200), grain);
         black(painter, page);
     };
-    for (const auto &[dpi, size] : {std::pair(300, QSize(2480, 3508)),
-                                    {254, QSize(2100, 2970)}, // a pixel per tenth of a millimetre
-                                    {10, QSize(83, 117)}}) {
+    using Picture = std::tuple<int, QSize, QString>;
+    for (const auto &[dpi, size, title] : {Picture(300, {2480, 3508}, u"Kalender Müller"_s),
+                                           Picture(254, {2100, 2970}, u"Календарь"_s), // a pixel per unit of the page
+                                           Picture(10, {83, 117}, QString())}) {
+        pages.title = title;
         const MvExportResult result = MvPictureExporter::write(pages, path(u"s-%m.png"_s), dpi);
         QCOMPARE(result.error, QString());
         QCOMPARE(result.files, (QList<QFileInfo>{QFileInfo(path(u"s-01.png"_s)), QFileInfo(path(u"s-02.png"_s))}));
@@ -207,12 +214,17 @@ void tst_MvExporters::png()
         QCOMPARE(qRound(image.dotsPerMeterY() * 0.0254), dpi);
         QCOMPARE(image.colorSpace().primaries(), QColorSpace::Primaries::SRgb);
         QVERIFY(!image.hasAlphaChannel());
+        QCOMPARE(image.text(u"Title"_s), title);
         QCOMPARE(image.pixelColor(0, 0), QColor(Qt::white));
         const QColor corner = image.pixelColor(size.width() - 1, size.height() - 1);
         QVERIFY(corner.red() <= 4 &&
                 corner.blue() == 255); // not half a pixel: 1/64 is the rounding of the paint system
-        if (dpi == 254)
+        if (dpi == 254) {
             QCOMPARE(darkRect(image.copy(0, 0, 1000, 1000)), QRect(100, 200, 300, 400));
+            QImage copy = image.copy({{1000, 1200}, grain.size()});
+            copy.setColorSpace({});
+            QVERIFY(copy == grain);
+        }
     }
 }
 

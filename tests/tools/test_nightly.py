@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: LGPL-2.1-or-later
-"""What tools/nightly, tools/tidy and tools/check_benchmarks make of steps and programs that fail, hang or answer."""
+"""What tools/nightly, tools/tidy, tools/check_benchmarks and tools/bench_report make of steps and programs that fail,
+hang or answer."""
 
 import contextlib
 import importlib.machinery
@@ -82,15 +83,19 @@ class Nightly(unittest.TestCase):
         tidy.ROOT = self.folder
         self.assertEqual(tidy.findings(f"12 warnings.\n{told}/usr/q.h:1:1: error: not ours\n{told}"), [told.strip()] * 2)
 
+    def bench_program(self, name, runs):
+        program = self.folder / "bin" / name
+        program.parent.mkdir(exist_ok=True)
+        program.write_text(f"#!/bin/sh\ncat <<'END'\n{json.dumps({'benchmarks': runs})}\nEND\n", encoding="utf-8")
+        program.chmod(0o755)
+        return program
+
     def test_benchmarks(self):
         times = {"fast": 2.0, "slow": 8.0}
         runs = [{"run_type": "iteration", "run_name": name, "real_time": time_ * factor, "ratio": 3.0}
                 for name, time_ in times.items() for factor in (1.0, 1.1, 50.0)]
         runs.append({"run_type": "aggregate", "run_name": "fast", "real_time": 1000.0})
-        program = self.folder / "bin" / "bench"
-        program.parent.mkdir()
-        program.write_text(f"#!/bin/sh\ncat <<'END'\n{json.dumps({'benchmarks': runs})}\nEND\n", encoding="utf-8")
-        program.chmod(0o755)
+        program = self.bench_program("bench", runs)
         bench = tool("check_benchmarks")
         for benchmark, what, low, high, expected in (
             ("slow", ":fast", 3.9, 4.1, 0), ("slow", ":fast", 1, 3, 1), ("slow", ":fast", 5, 9, 1),
@@ -99,6 +104,31 @@ class Nightly(unittest.TestCase):
             with self.subTest(f"{benchmark} {what} {low}"), contextlib.redirect_stdout(io.StringIO()):
                 ratios = bench.stored(["# comment", f"bench {benchmark} {what} {low} {high}"])["bench"]
                 self.assertEqual(bench.compare("bench", ratios, bench.measure(program, ratios)), expected)
+
+    def report(self, *words):
+        sys.argv = ["bench_report", "--build", str(self.folder), "--rounds", "1", *words]
+        with contextlib.redirect_stdout(io.StringIO()) as said:
+            code = tool("bench_report").main()
+        return code, said.getvalue().splitlines()[2:]
+
+    def test_report(self):
+        for elided, heading, verdict, code in ((9.0, 9.5, "aim", 0), (9.0, 11.0, "yes", 0), (9.0, 12.5, "NO", 1)):
+            self.bench_program("bench_LongLines", [
+                {"run_type": "iteration", "run_name": f"{name}/iterations:1", "ratio": ratio}
+                for name, ratio in (("elided", elided), ("fitted", 5.0), ("heading", heading))])
+            with self.subTest(heading):
+                self.assertEqual(self.report("letters"), (code, [
+                    "| line of 10,000 letters / 1,000 letters: shortened; fitted; as heading | 80 | 12 | 10 "
+                    f"| {elided:g}; 5; {heading:g} | {verdict} |"]))
+        code, rows = self.report("one setEvents", "empty Qt GUI")
+        self.assertEqual(code, 0, "what is not measured is not missed")
+        self.assertIn("| not measured: process_months is not built | - |", rows[0])
+        self.assertIn("| not measured: bench_Entries is not built | - |", rows[1])
+        for name in ("process_months", "process_gui"):
+            (self.folder / "bin" / name).write_text("#!/bin/sh\necho no fonts here >&2\nexit 3\n", encoding="utf-8")
+            (self.folder / "bin" / name).chmod(0o755)
+        with self.assertRaisesRegex(SystemExit, "process_months: exit code 3\nno fonts here"):
+            self.report("empty Qt GUI")
 
 
 if __name__ == "__main__":

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCellGrounds.h"
 
+#include "MvPaint/MvRectParts.h"
+
 #include <QList>
 #include <QPainter>
 
@@ -18,7 +20,10 @@ void MvCellGrounds::paint(QPainter &painter)
 {
     QList<QRgb> colors = m_shapes.keys();
     std::sort(colors.begin(), colors.end());
-    for (const QRgb color : std::as_const(colors))
-        painter.fillPath(m_shapes.value(color), QColor::fromRgba(color));
+    for (const QRgb color : std::as_const(colors)) {
+        const QList<QPainterPath> parts = MvRectParts::of(painter, m_shapes.value(color));
+        for (const QPainterPath &part : parts)
+            painter.fillPath(part, QColor::fromRgba(color));
+    }
     m_shapes.clear();
 }

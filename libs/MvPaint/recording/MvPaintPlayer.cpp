@@ -3,6 +3,7 @@
 
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvPaint/MvPaintRecorder.h"
+#include "MvPaint/MvRectParts.h"
 
 #include <optional>
 
@@ -201,7 +202,13 @@ void MvPaintPlayer::paint(const Poly<Polygon> &shape)
 
 void MvPaintPlayer::paint(const Path &shape)
 {
-    m_painter.drawPath(shape.path);
+    if (m_state->pen.style() != Qt::NoPen || m_state->brush.style() != Qt::SolidPattern) {
+        m_painter.drawPath(shape.path);
+        return;
+    }
+    const QList<QPainterPath> parts = MvRectParts::of(m_painter, shape.path);
+    for (const QPainterPath &part : parts)
+        m_painter.drawPath(part);
 }
 
 void MvPaintPlayer::paint(const Image &shape)
