@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <vector>
 
 struct MvTextOutlineImpl : MvSharedData
 {
@@ -25,62 +26,80 @@ struct MvTextOutlineImpl : MvSharedData
 namespace {
 using Group = MvTextOutline::Group;
 
-QList<Group> subPaths(const QPainterPath &path)
+/// A closed line of a path: its elements from the first to before the end, and its room.
+struct Contour
 {
-    QList<Group> parts;
+    int first, end;
+    double left, right, top, bottom;
+};
+
+std::vector<Contour> contoursOf(const QPainterPath &path)
+{
+    std::vector<Contour> contours;
     const int count = path.elementCount();
     for (int i = 0; i < count; ++i) {
         const QPainterPath::Element element = path.elementAt(i);
-        switch (element.type) {
-        case QPainterPath::MoveToElement:
-            parts.append(Group());
-            parts.last().path.setFillRule(Qt::WindingFill);
-            parts.last().path.moveTo(element);
-            break;
-        case QPainterPath::LineToElement:
-            parts.last().path.lineTo(element);
-            break;
-        case QPainterPath::CurveToElement:
-            parts.last().path.cubicTo(element, path.elementAt(i + 1), path.elementAt(i + 2));
+        if (element.isMoveTo()) {
+            contours.push_back({i, i + 1, element.x, element.x, element.y, element.y});
+            continue;
+        }
+        Contour &contour = contours.back();
+        contour.end = i + 1;
+        contour.left = std::min(contour.left, element.x);
+        contour.right = std::max(contour.right, element.x);
+        contour.top = std::min(contour.top, element.y);
+        contour.bottom = std::max(contour.bottom, element.y);
+    }
+    return contours;
+}
+
+void append(QPainterPath &part, const QPainterPath &path, const Contour &contour)
+{
+    for (int i = contour.first; i < contour.end; ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        if (element.isMoveTo()) {
+            part.moveTo(element);
+        } else if (element.isLineTo()) {
+            part.lineTo(element);
+        } else {
+            part.cubicTo(element, path.elementAt(i + 1), path.elementAt(i + 2));
             i += 2;
-            break;
-        case QPainterPath::CurveToDataElement:
-            break;
         }
     }
-    return parts;
 }
 
-void measure(Group &group)
-{
-    const QRectF box = group.path.controlPointRect();
-    group.left = box.left();
-    group.right = box.right();
-    group.top = box.top();
-    group.bottom = box.bottom();
-}
+using Contours = std::vector<Contour>::const_iterator;
 
-void unite(Group &group, const Group &other)
+Group groupOf(const QPainterPath &path, Contours first, Contours end)
 {
-    group.path.addPath(other.path);
-    group.left = std::min(group.left, other.left);
-    group.right = std::max(group.right, other.right);
-    group.top = std::min(group.top, other.top);
-    group.bottom = std::max(group.bottom, other.bottom);
+    Group group{{}, first->left, first->right, first->top, first->bottom};
+    int elements = 0;
+    for (Contours contour = first; contour != end; ++contour) {
+        elements += contour->end - contour->first;
+        group.right = std::max(group.right, contour->right);
+        group.top = std::min(group.top, contour->top);
+        group.bottom = std::max(group.bottom, contour->bottom);
+    }
+    group.path.setFillRule(Qt::WindingFill);
+    group.path.reserve(elements);
+    for (Contours contour = first; contour != end; ++contour)
+        append(group.path, path, *contour);
+    return group;
 }
 
 QList<Group> groupsOf(const QPainterPath &path)
 {
-    QList<Group> parts = subPaths(path);
-    std::for_each(parts.begin(), parts.end(), measure);
-    std::stable_sort(parts.begin(), parts.end(), [](const Group &a, const Group &b) { return a.left < b.left; });
-
+    std::vector<Contour> contours = contoursOf(path);
+    std::stable_sort(contours.begin(), contours.end(),
+                     [](const Contour &a, const Contour &b) { return a.left < b.left; });
     QList<Group> groups;
-    for (const Group &part : std::as_const(parts)) {
-        if (!groups.isEmpty() && part.left <= groups.last().right)
-            unite(groups.last(), part);
-        else
-            groups.append(part);
+    for (Contours first = contours.cbegin(); first != contours.cend();) {
+        double right = first->right;
+        Contours end = first + 1;
+        for (; end != contours.cend() && end->left <= right; ++end)
+            right = std::max(right, end->right);
+        groups.append(groupOf(path, first, end));
+        first = end;
     }
     if (groups.size() == 1)
         groups.first().path = path; // one record instead of two
