@@ -78,7 +78,6 @@ private Q_SLOTS:
     void goesToOtherProgramsAndBack();
     void decidesAboutDoubtfulFiles_data();
     void decidesAboutDoubtfulFiles();
-    void groupsAreKnownByName_data();
     void groupsAreKnownByName();
     void lateFotosAreTold();
     void noFileChangesNothing();
@@ -340,30 +339,23 @@ void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles()
     }
 }
 
-void tst_MvCalendarEventListWidget::groupsAreKnownByName_data()
-{
-    QTest::addColumn<bool>("merge");
-    QTest::newRow("load") << false;
-    QTest::newRow("add") << true;
-}
-
 /// Whatever their ids are elsewhere.
 void tst_MvCalendarEventListWidget::groupsAreKnownByName()
 {
-    QFETCH(const bool, merge);
-    MvCalendarEventList own{entry(u"Anna"_qs, QDate(2004, 2, 29))};
-    own.groups().append({u"alt"_qs, u"Verein"_qs, {}, {}, {}});
-    registry().setEvents(own);
     MvCalendarEventList theirs{entry(u"Tante"_qs, QDate(1950, 1, 1))};
     theirs.last().setGroups({theirs.groups().idOfName(u"verein"_qs), theirs.groups().idOfName(u"Chor"_qs)});
     m_script->file = path(u"verein.xml"_qs);
     QVERIFY(MvWidgetDriver::write(m_script->file, MvCalendarEventFile::toBytes(theirs)));
-    MvCalendarEventListWidget list;
-    list.loadEventList(merge);
-    const MvCalendarEventList all = registry().activeEventList();
-    QCOMPARE(all.size(), merge ? 2 : 1);
-    QCOMPARE(all.groups().size(), 2);
-    QCOMPARE(all.last().groups(), (QStringList{u"alt"_qs, all.groups().findName(u"Chor"_qs)->id}));
+    for (const bool merge : {true, false}) {
+        MvCalendarEventList own{entry(u"Anna"_qs, QDate(2004, 2, 29))};
+        own.groups().append({u"alt"_qs, u"Verein"_qs, {}, {}, {}});
+        registry().setEvents(own);
+        MvCalendarEventListWidget().loadEventList(merge);
+        const MvCalendarEventList all = registry().activeEventList();
+        QCOMPARE(all.size(), merge ? 2 : 1);
+        QCOMPARE(all.groups().size(), 2);
+        QCOMPARE(all.last().groups(), (QStringList{u"alt"_qs, all.groups().findName(u"Chor"_qs)->id}));
+    }
 }
 
 /// Photos that are read in the background are for the calendar that was open.
@@ -372,14 +364,12 @@ void tst_MvCalendarEventListWidget::lateFotosAreTold()
     QImage large(2700, 2000, QImage::Format_RGB32);
     QRandomGenerator(1).fillRange(reinterpret_cast<quint32 *>(large.bits()), large.sizeInBytes() / 4);
     QVERIFY(large.save(path(u"gross.jpg"_qs)));
-    MvCalendarEventListWidget list;
-    int taken = 0;
-    MvCalendarEventFotoIntake::take(registry().activeEventList().first(), MvFoto(QFileInfo(path(u"gross.jpg"_qs))),
-                                    &list, [&taken](const auto &, const auto &) { ++taken; });
+    const MvFoto foto(QFileInfo(path(u"gross.jpg"_qs)));
+    const auto use = [](const auto &, const auto &) { QFAIL("taken"); };
+    MvCalendarEventFotoIntake::take(registry().activeEventList().first(), foto, this, use);
     registry().setActiveModelId(MvProjectIdentifier(u"another"_qs, true), false);
     QTRY_COMPARE(m_script->reports.size(), 1);
     QVERIFY(m_script->reports.first().contains(u"gross.jpg“ ist nicht beim Eintrag „Anna“"_qs));
-    QCOMPARE(taken, 0);
     registry().setActiveModelId(DEFAULT_PROJECT_ID, false);
 }
 
