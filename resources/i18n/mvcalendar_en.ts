@@ -5429,6 +5429,14 @@ The context menu replaces it by another photo.</translation>
         <source>Nichts übernommen: Der Kalender, für den die Datei gelesen wurde, ist nicht mehr offen. Öffnen Sie ihn, und lesen Sie die Datei noch einmal ein.</source>
         <translation>Nothing taken over: the calendar for which the file was read is no longer open. Open it and import the file again.</translation>
     </message>
+    <message>
+        <source>Kalendereinträge</source>
+        <translation>Calendar entries</translation>
+    </message>
+    <message>
+        <source>Nichts geändert: Der Kalender, für den das gedacht war, ist nicht mehr offen.</source>
+        <translation>Nothing changed: the calendar that this was meant for is no longer open.</translation>
+    </message>
 </context>
 <context>
     <name>MvOutOfMemory</name>

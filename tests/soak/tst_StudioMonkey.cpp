@@ -19,6 +19,7 @@ namespace {
 
 constexpr int actionsPerSeed = 1250;
 constexpr int actionsPerCheck = 125;
+constexpr int seedsPerRun = 8;
 constexpr int longestAnswer = 15; // milliseconds until a file or an agreement is there
 constexpr int mostAlike = 2;      // windows that one widget keeps for the next time
 
@@ -98,7 +99,8 @@ QtMessageHandler &testHandler()
 /// What the platform without a screen cannot do, and fonts cannot write, would hide the rest.
 void dropPlatformMessages(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (!text.startsWith(u"This plugin does not support"_s) && !text.startsWith(u"OpenType support missing"_s))
+    const QStringView said = QStringView(text).trimmed();
+    if (!said.startsWith(u"This plugin does not support") && !said.startsWith(u"OpenType support missing"))
         testHandler()(type, context, text);
 }
 
@@ -130,6 +132,7 @@ private:
 
     std::unique_ptr<MvStudioFixture> m_studio;
     std::unique_ptr<MvMonkey> m_monkey;
+    int m_seeds = 0;
     int m_listsSeen = 0;
 };
 
@@ -203,20 +206,21 @@ MvCalendarDocument tst_StudioMonkey::createFotoCalendar(const QStringList &files
 void tst_StudioMonkey::cleanupTestCase()
 {
     qInstallMessageHandler(testHandler());
-    QVERIFY2(m_listsSeen > 0, "the list of entries was never looked at");
+    QVERIFY2(m_listsSeen > 0 || m_seeds < seedsPerRun, "the list of entries was never looked at");
 }
 
 void tst_StudioMonkey::survives_data()
 {
     QTest::addColumn<quint32>("seed");
     const quint32 first = qMax(1, qEnvironmentVariableIntValue("MV_MONKEY_SEED"));
-    for (quint32 seed = first; seed < first + 8; ++seed)
+    for (quint32 seed = first; seed < first + seedsPerRun; ++seed)
         QTest::addRow("seed %u", seed) << seed;
 }
 
 void tst_StudioMonkey::survives()
 {
     QFETCH(quint32, seed);
+    ++m_seeds;
     const QStringList files = createFiles();
     MvRequestHandler::install(std::make_unique<ScriptedAnswers>(seed, files, m_studio->path({})));
     MvCalendarEventRegistry::instance().setOwnEvents(createEvents(files.first())); // the calendar copies them

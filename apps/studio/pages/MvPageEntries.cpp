@@ -210,7 +210,7 @@ void MvPageEntries::drop(const MvEntryMove &move, bool isCopy)
 {
     const auto take = [this](const QString &step, const QString &told) {
         return [this, step, told, calendar = MvOpenCalendar(m_project->session())](const auto &changes) {
-            if (changes.isEmpty() || !calendar.isStillOpen())
+            if (changes.isEmpty() || !calendar.isStillOpenOrTell(this))
                 return;
             MvEntryEdits(m_project->session()).change(step, step, changes);
             Q_EMIT message(told);

@@ -435,7 +435,7 @@ void MvCalendarEventListWidget::clearEventList()
     question.buttons = QStringList{tr("Ja"), tr("Nein")};
     const auto clear = [this, calendar = MvOpenCalendar(m_session)](bool yes) {
         MvLogger::legacyLog(u"CalendarEvents ACTION:deleteAll VALUE:%1"_s.arg(int(yes)));
-        if (yes && calendar.isStillOpen())
+        if (yes && calendar.isStillOpenOrTell(this))
             replaceEvents(u"clearEventList"_s, tr("Einträge löschen"), events(), {}, Reach::ActiveList);
     };
     MvYesNoRequest::instance().request(question, this, clear);
@@ -466,7 +466,7 @@ void MvCalendarEventListWidget::transferEvents(bool isFromOwn)
     }
     auto *dialog = new Dialog(differences, isFromOwn ? Dialog::Direction::FromOwn : Dialog::Direction::ToOwn, this);
     connect(dialog, &QDialog::accepted, this, [this, dialog, isFromOwn, calendar = MvOpenCalendar(m_session)] {
-        if (!calendar.isStillOpen())
+        if (!calendar.isStillOpenOrTell(this))
             return;
         QList<Change> chosen;
         for (const auto &[here, there] : dialog->chosen())

@@ -426,7 +426,7 @@ void MvEntryList::askForNewGroup(bool isOnly)
     connect(dialog, &QInputDialog::textValueSelected, this,
             [this, isOnly, events = selectedEvents(), calendar = MvOpenCalendar(session())](const QString &name) {
                 using Membership = MvEntryEdits::Membership;
-                if (name.simplified().isEmpty() || !calendar.isStillOpen())
+                if (name.simplified().isEmpty() || !calendar.isStillOpenOrTell(this))
                     return;
                 MvEntryEdits(session()).setMembership(events, name, isOnly ? Membership::Only : Membership::Added);
             });
@@ -437,7 +437,7 @@ void MvEntryList::askForShift()
 {
     auto *dialog = new MvEntryShiftDialog(selectedEvents(), this);
     connect(dialog, &QDialog::accepted, this, [this, dialog, calendar = MvOpenCalendar(session())] {
-        if (calendar.isStillOpen())
+        if (calendar.isStillOpenOrTell(this))
             MvEntryEdits(session()).shift(dialog->events(), dialog->years(), dialog->days());
     });
     dialog->open();

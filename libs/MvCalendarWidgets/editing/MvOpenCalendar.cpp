@@ -2,6 +2,7 @@
 #include "MvCalendar/MvOpenCalendar.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
+#include "MvCore/MvRequestHandler.h"
 
 MvOpenCalendar::MvOpenCalendar(const MvSession &session)
     : m_session(&session)
@@ -11,6 +12,15 @@ MvOpenCalendar::MvOpenCalendar(const MvSession &session)
 bool MvOpenCalendar::isStillOpen() const
 {
     return m_session->entries().activeModelId() == m_project;
+}
+
+bool MvOpenCalendar::isStillOpenOrTell(QObject *asker) const
+{
+    if (!isStillOpen())
+        MvRequestHandler::current().report(
+            tr("Kalendereinträge"), tr("Nichts geändert: Der Kalender, für den das gedacht war, ist nicht mehr offen."),
+            asker);
+    return isStillOpen();
 }
 
 QString MvOpenCalendar::closedText()
