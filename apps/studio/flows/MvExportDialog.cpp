@@ -382,7 +382,20 @@ void MvExportDialog::validate()
         m_preview->setPages(m_document, shown.numbers);
     if (m_bleed)
         m_preview->setBleed(std::round(m_bleed->value() * tenths));
+    showTiles();
     showFindings();
+}
+
+/// Where a page will be divided.
+void MvExportDialog::showTiles()
+{
+    QList<QRectF> tiles;
+    const MvSheetSettings sheets = options().sheets;
+    const MvSheetPlan plan(sheets, m_document.format().trimSize(), 1);
+    if (sheets.kind == MvSheetSettings::Kind::Tiles && plan.error().isEmpty())
+        for (int sheet = 0; sheet < plan.sheetCount(); ++sheet)
+            tiles.append(plan.parts(sheet).constFirst().part);
+    m_preview->setTiles(tiles);
 }
 
 MvExportOptions MvExportDialog::options() const

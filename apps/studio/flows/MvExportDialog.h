@@ -62,6 +62,7 @@ private:
     MvOutcome checkTarget() const;
     QStringList notes(const QStringList &files) const;
     void validate();
+    void showTiles();
 
     MvExportOptions::Kind m_kind;
     MvCalendarDocument m_document;

@@ -89,6 +89,12 @@ void MvPagePreview::setBleed(double bleed)
     makeSoon();
 }
 
+void MvPagePreview::setTiles(const QList<QRectF> &tiles)
+{
+    m_tiles = tiles;
+    update();
+}
+
 void MvPagePreview::showPage(int page)
 {
     if (const auto index = m_pages.indexOf(page); index >= 0)
@@ -162,6 +168,13 @@ void MvPagePreview::paintEvent(QPaintEvent * /*event*/)
     if (m_document.format().bleed() > 0.0) {
         painter.setPen(QPen(trimColor, 1.0, Qt::DashLine));
         painter.drawRect(toSheet.mapRect(m_document.format().trimRect()));
+    }
+    for (const QRectF &tile : m_tiles) { // on any photo
+        const QRectF part = toSheet.mapRect(tile);
+        painter.setPen(QPen(QColor(255, 255, 255, 160), 3.0));
+        painter.drawRect(part);
+        painter.setPen(trimColor);
+        painter.drawRect(part);
     }
     if (m_markedPage == page() && !m_mark.isEmpty()) {
         painter.setRenderHint(QPainter::Antialiasing);

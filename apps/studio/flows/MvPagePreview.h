@@ -24,6 +24,8 @@ public:
     /// The page that is shown stays, if it is one of them.
     void setPages(const MvCalendarDocument &document, const QList<int> &pages);
     void setBleed(double bleed);
+    /// The parts of each page that become sheets, in page units: their edges are shown. None for whole pages.
+    void setTiles(const QList<QRectF> &tiles);
     /// Leafs to a page, if it is there.
     void showPage(int page);
     int page() const { return m_pages.value(m_index, -1); }
@@ -48,6 +50,7 @@ private:
     int m_index = 0;
     int m_markedPage = -1;
     QRectF m_mark;
+    QList<QRectF> m_tiles;
     MvScreenFotos *m_fotos;
     QImage m_image; // with the bleed
     QTimer m_later;

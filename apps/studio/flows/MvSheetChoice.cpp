@@ -30,7 +30,7 @@ MvSheetChoice::MvSheetChoice(QWidget *parent)
     , m_kind(new QComboBox(this))
     , m_paper(new QComboBox(this))
     , m_overlap(new QDoubleSpinBox(this))
-    , m_isForCutting(new QCheckBox(tr("&Zum Schneiden, in Stapeln"), this))
+    , m_isForCutting(new QCheckBox(tr("Zum S&chneiden, in Stapeln"), this))
     , m_details(createDetails())
 {
     m_kind->setObjectName(u"exportSheets"_s);

@@ -13,6 +13,7 @@
 
 #include <exception>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include <qpdf/QPDF.hh>
@@ -40,19 +41,70 @@ QPainterPath pathOf(const QList<QLineF> &lines)
     return path;
 }
 
-/// A line of type in its room, below its upper edge; empty when it is too long.
-QPainterPath lettering(const QString &text, const QRectF &room)
+/// Lines of type, each of their glyphs once in the file.
+class Letters
 {
-    constexpr double scale = typeSize / typePixels;
-    QFont font(u"Lato"_s);
-    font.setPixelSize(typePixels);
-    const MvTextOutline outline(font, text);
-    if (outline.advance() * scale > room.width())
-        return {};
-    const QTransform place =
-        QTransform::fromScale(scale, scale) * QTransform::fromTranslate(room.left(), room.top() + typeSize);
-    return place.map(outline.path());
-}
+public:
+    explicit Letters(QPDF &pdf)
+        : m_pdf(pdf)
+    {}
+
+    /// Commands that write the text from a place, in points; empty when it is longer than that. The glyphs that they
+    /// name are added to the objects.
+    QByteArray line(const QString &text, const QPointF &place, double length, QByteArray &objects)
+    {
+        QFont font(u"Lato"_s);
+        font.setPixelSize(typePixels);
+        const MvTextOutline outline(font, text);
+        const double scale = typeSize / typePixels * pointsPerTenth; // points of a pixel
+        QByteArray commands;
+        if (outline.advance() * scale > length)
+            return commands;
+        for (const MvTextOutline::Glyph &glyph : outline.glyphs()) {
+            if (glyph.path.isEmpty())
+                continue;
+            const Known &known = form(glyph);
+            if (!objects.contains(known.name + ' '))
+                objects += known.name + ' ' + MvPdfSyntax::reference(known.object);
+            const QByteArray factor = MvPdfSyntax::number(scale / detail, 6);
+            commands += "q " + factor + " 0 0 " + factor + ' ';
+            MvPdfSyntax::append(commands, place + QPointF(glyph.origin.x(), -glyph.origin.y()) * scale, 3);
+            commands += "cm " + known.name + " Do Q\n";
+        }
+        return commands;
+    }
+
+private:
+    struct Known
+    {
+        QByteArray name;
+        int object = 0;
+    };
+
+    const Known &form(const MvTextOutline::Glyph &glyph)
+    {
+        Known &known = m_known[{glyph.face, glyph.index}];
+        if (known.object == 0) {
+            const QPainterPath path = QTransform::fromScale(detail, -detail).map(glyph.path);
+            MvPdfContent content;
+            content.addPath(path, MvPdfContent::Subpaths::AsTheyAre);
+            content.finishPath("f");
+            const QRectF bounds = path.boundingRect().adjusted(-1.0, -1.0, 1.0, 1.0);
+            QByteArray box;
+            MvPdfSyntax::append(box, bounds.topLeft());
+            MvPdfSyntax::append(box, bounds.bottomRight());
+            QPDFObjectHandle stream = QPDFObjectHandle::newStream(&m_pdf, content.bytes().toStdString());
+            stream.replaceDict(QPDFObjectHandle::parse(
+                ("<</Type/XObject/Subtype/Form/BBox[" + box + "]/Resources<<>>>>").toStdString()));
+            known = {"/G" + QByteArray::number(m_known.size()), stream.getObjectID()};
+        }
+        return known;
+    }
+
+    static constexpr double detail = 10.0; // units of a glyph's drawing to a pixel
+    QPDF &m_pdf;
+    std::map<std::pair<int, quint32>, Known> m_known; // by face and index
+};
 
 /// The sheets that take the place of the pages.
 class Sheets
@@ -112,7 +164,8 @@ private:
                 names.append(title);
         }
         const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
-        commands += "q " + unit + " 0 0 " + unit + " 0 0 cm\n" + marks(number, names) + "Q\n";
+        commands += "/Artifact BMC\nq " + unit + " 0 0 " + unit + " 0 0 cm\n" + marks(number) + "Q\n" +
+                    lettering(number, names, objects) + "EMC\n";
         const QSizeF size = m_plan.sheet() * pointsPerTenth;
         const QByteArray box =
             "[0 0 " + MvPdfSyntax::number(size.width()) + ' ' + MvPdfSyntax::number(size.height()) + ']';
@@ -151,7 +204,20 @@ private:
         return numbers + "cm ";
     }
 
-    QByteArray marks(int number, const QStringList &names) const
+    /// Which sheet it is, and of which pages where there is room for it.
+    QByteArray lettering(int number, const QStringList &names, QByteArray &objects)
+    {
+        const QString name = m_plan.name(number);
+        const QRectF room = m_plan.nameRoom();
+        if (name.isEmpty() || room.isEmpty())
+            return {};
+        const QPointF place = QPointF(room.left(), m_plan.sheet().height() - room.top() - typeSize) * pointsPerTenth;
+        const double length = room.width() * pointsPerTenth;
+        const QByteArray whole = m_letters.line((QStringList(name) + names).join(u"  ·  "_s), place, length, objects);
+        return whole.isEmpty() ? m_letters.line(name, place, length, objects) : whole;
+    }
+
+    QByteArray marks(int number) const
     {
         constexpr double scale = pointsPerTenth * unitsPerPoint;
         const QTransform toUnits(scale, 0.0, 0.0, -scale, 0.0, m_plan.sheet().height() * scale);
@@ -166,18 +232,8 @@ private:
             content.addPath(toUnits.map(pathOf(lines)), MvPdfContent::Subpaths::Closed);
             content.finishPath("S");
         };
-        content.append("/Artifact BMC\n");
         stroke(m_plan.cutMarks(number), {});
         stroke(m_plan.joinMarks(number), {6.0, 4.0}); // in widths
-        if (const QString name = m_plan.name(number); !name.isEmpty()) {
-            QPainterPath line = lettering((QStringList(name) + names).join(u"  ·  "_s), m_plan.nameRoom());
-            if (line.isEmpty())
-                line = lettering(name, m_plan.nameRoom());
-            content.addPath(toUnits.map(line), MvPdfContent::Subpaths::AsTheyAre);
-            if (!line.isEmpty())
-                content.finishPath("f");
-        }
-        content.append("EMC\n");
         return content.bytes();
     }
 
@@ -210,6 +266,7 @@ private:
     QPDFPageDocumentHelper m_pages;
     const MvSheetPlan &m_plan;
     const QStringList m_names;
+    Letters m_letters{m_pdf};
     std::vector<QPDFPageObjectHelper> m_old;
     std::vector<Form> m_forms;
     std::map<QPDFObjGen, QPDFObjectHandle> m_firstSheets; // by page
