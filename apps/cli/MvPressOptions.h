@@ -18,7 +18,7 @@ class MvPressOptions
 public:
     static QList<MvCliOption> options();
 
-    /// For no press without "--press". Mistakes are left with the values; what a file of settings says about marks and
-    /// ink means nothing then.
+    /// For no press without "--press". Mistakes are left with the values; what a file of settings says about marks,
+    /// bleed, photos and ink means nothing then.
     static MvPressSettings settings(MvCliValues &values, const MvCliArguments &arguments);
 };

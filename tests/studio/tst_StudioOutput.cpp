@@ -102,7 +102,6 @@ void tst_StudioOutput::exportSheets()
     press->setCurrentIndex(0);
     settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A5"_s);
     QVERIFY2(message->text().contains(u"2 × 2 Blättern"_s), qPrintable(message->text()));
-    QTest::qWait(3000);
     sheets->setCurrentIndex(3);
     settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A4"_s);
     QVERIFY(cutting->isVisible() && message->text().contains(u"3 Blätter"_s));

@@ -89,9 +89,7 @@ QList<QRectF> MvPdfMadeUpBleed::besidePictures(const MvPaintRecording &recording
     const QRectF bleed = m_sheet.bleed();
     const auto ends = [](double edge, double at) { return std::abs(edge - at) < tolerance; };
     QList<QRectF> parts;
-    for (const MvPaintRecording::Item &item : recording.items()) {
-        if (item.kind != MvPaintRecording::Item::Image)
-            continue;
+    for (const MvPaintRecording::Item &item : recording.items(MvPaintRecording::Item::Image)) {
         const QRectF picture = dotsToPage.mapRect(item.clip.isNull() ? item.bounds : item.bounds & item.clip);
         QRectF grown = picture;
         if (ends(picture.left(), trim.left()))
