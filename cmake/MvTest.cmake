@@ -8,6 +8,7 @@ function(mv_test_environment out)
     set(${out}
         "QT_QPA_PLATFORM=offscreen"
         "LC_ALL=C.UTF-8"
+        "MVCALENDAR_LANGUAGE=de" # as people see it whose language it is written in
         "QTEST_DISABLE_STACK_DUMP=1" # its fork waits for ever when the heap is what is broken
         "ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1"
         "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0"

@@ -1092,33 +1092,6 @@
     </message>
 </context>
 <context>
-    <name>MvCalendarTitle</name>
-    <message>
-        <source>Kalender %1</source>
-        <translation>Calendar %1</translation>
-    </message>
-    <message>
-        <source>Kalender %1 bis %2</source>
-        <translation>Calendar %1 to %2</translation>
-    </message>
-    <message>
-        <source>%1 – %2</source>
-        <translation>%1 – %2</translation>
-    </message>
-    <message>
-        <source>Titelblatt</source>
-        <translation>Cover</translation>
-    </message>
-    <message>
-        <source>Rückseite</source>
-        <translation>Back</translation>
-    </message>
-    <message>
-        <source>%1, weitere Seite</source>
-        <translation>%1, another page</translation>
-    </message>
-</context>
-<context>
     <name>MvCalendariumColorSchemaEditor</name>
     <message>
         <source>Farben der Felder</source>
@@ -5898,21 +5871,6 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Die Vorlage „%1“ bleibt weg, denn ihre Kennung %2 hat schon „%3“. Eine andere bringt sie zurück.</source>
         <translation>The template “%1” is left out, since “%3” has its id %2 already. Another one brings it back.</translation>
-    </message>
-</context>
-<context>
-    <name>MvPdfExporter</name>
-    <message>
-        <source>Seite %1 von %2</source>
-        <translation>Page %1 of %2</translation>
-    </message>
-    <message>
-        <source>%1 × %2 mm</source>
-        <translation>%1 × %2 mm</translation>
-    </message>
-    <message>
-        <source>Beschnitt %1 mm</source>
-        <translation>Bleed %1 mm</translation>
     </message>
 </context>
 <context>

@@ -45,11 +45,12 @@ void tst_MvTranslations::languageFor()
 void tst_MvTranslations::environmentDecides()
 {
     const auto cleanUp = qScopeGuard([] { qunsetenv("MVCALENDAR_LANGUAGE"); });
-    QCOMPARE(MvTranslations::systemLanguage(), u"de"_s); // tests run in the C locale
-    qputenv("MVCALENDAR_LANGUAGE", "en_US");
-    QCOMPARE(MvTranslations::systemLanguage(), u"en"_s);
-    qputenv("MVCALENDAR_LANGUAGE", "tlh");
+    qunsetenv("MVCALENDAR_LANGUAGE");
+    QCOMPARE(MvTranslations::systemLanguage(), u"en"_s); // tests run in the C locale
+    qputenv("MVCALENDAR_LANGUAGE", "de_AT");
     QCOMPARE(MvTranslations::systemLanguage(), u"de"_s);
+    qputenv("MVCALENDAR_LANGUAGE", "tlh");
+    QCOMPARE(MvTranslations::systemLanguage(), u"en"_s);
 }
 
 void tst_MvTranslations::installs()

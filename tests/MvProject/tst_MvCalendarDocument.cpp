@@ -81,6 +81,7 @@ void tst_MvCalendarDocument::titles()
     MvCalendarDocument calendar = documentOf(layout);
     calendar.setRange(MvDateRange(QDate(2026, 8, 1), end));
     QTEST(calendar.pageSource().title, "title");
+    QTEST(calendar.pageSource().names.value(0), "pageTitle");
     QTEST(MvCalendarTitle::ofPage(calendar.pages().value(0)), "pageTitle");
     calendar.setTitle(u"Familie"_s);
     QCOMPARE(calendar.pageSource().title, u"Familie"_s);

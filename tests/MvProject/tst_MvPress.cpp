@@ -246,7 +246,8 @@ void tst_MvPress::marks()
         QCOMPARE(inked(plates[ink], slug) > 500, ink == 3);
     }
     const QString text = QString::fromUtf8(outputOf(u"pdftotext"_s, {u"-enc"_s, u"UTF-8"_s, file, u"-"_s}));
-    for (const QString &part : {u"Familie Grün"_s, u"Mai 2027"_s, u"5 von 12"_s, u"100 × 80 mm"_s, u"FOGRA39L"_s})
+    for (const QString &part :
+         {u"Familie Grün"_s, u"Mai 2027"_s, u"5 / 12"_s, u"100 × 80 mm (+ 3 mm)"_s, u"FOGRA39L"_s})
         QVERIFY2(text.contains(part), qPrintable(text));
 }
 

@@ -644,36 +644,42 @@ void tst_mvcalendar::language_data()
     QTest::newRow("American") << Environment{{u"LC_ALL"_s, u"en_US.UTF-8"_s}} << true;
     QTest::newRow("messages only") << Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, u"en_GB.UTF-8"_s}} << true;
     QTest::newRow("French") << Environment{{u"LC_ALL"_s, u"fr_FR.UTF-8"_s}} << false;
-    QTest::newRow("C") << Environment{{u"LC_ALL"_s, u"C"_s}, {u"LANGUAGE"_s, u"en"_s}} << false;
-    QTest::newRow("the program's own variable") << Environment{{u"MVCALENDAR_LANGUAGE"_s, u"en"_s}} << true;
+    QTest::newRow("Austrian") << Environment{{u"LC_ALL"_s, u"de_AT.UTF-8"_s}} << false;
+    QTest::newRow("C") << Environment{{u"LC_ALL"_s, u"C.UTF-8"_s}, {u"LANGUAGE"_s, u"de"_s}} << true;
+    QTest::newRow("POSIX") << Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, {}}, {u"LANG"_s, u"POSIX"_s}} << true;
+    QTest::newRow("none") << Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, {}}, {u"LANG"_s, {}}} << true;
+    QTest::newRow("the program's own variable")
+        << Environment{{u"LC_ALL"_s, u"C"_s}, {u"MVCALENDAR_LANGUAGE"_s, u"de"_s}} << false;
 }
 
 void tst_mvcalendar::language()
 {
     using Environment = QMap<QString, QString>;
-    QFETCH(const Environment, environment);
+    QFETCH(Environment, environment);
     QFETCH(const bool, isEnglish);
+    if (const QString variable = u"MVCALENDAR_LANGUAGE"_s; !environment.contains(variable))
+        environment.insert(variable, {}); // those who call the test have it set
     const Call help = run(u"help render"_s, environment);
     QCOMPARE(help.out.contains("Options:"), isEnglish);
     QCOMPARE(help.out.contains("Optionen:"), !isEnglish);
     QCOMPARE(run(u"rendr"_s, environment).err.contains("did you mean"), isEnglish);
     const Call holidays = run(u"holidays --year 2027"_s, environment);
     QVERIFY2(holidays.out.startsWith(isEnglish ? "Fri 1 Jan 2027 " : "Fr. 01.01.2027 "), holidays.out.constData());
-    run(u"render --from 2026-08 --months 3 -o k.pdf"_s, environment);
+    QCOMPARE(run(u"render --from 2026-08 --months 3 --country GB -o k.pdf"_s, environment).exitCode, 0);
     const QByteArray info = outputOf(u"pdfinfo"_s, {path(u"k.pdf"_s)});
-    QVERIFY2(info.contains(isEnglish ? " Calendar August 2026 to October 2026\n"
-                                     : " Kalender August 2026 bis Oktober 2026\n"),
-             info.constData());
+    QVERIFY2(info.contains(" Calendar August 2026 to October 2026\n"), info.constData());
 }
 
-/// The language of the program is no business of the calendar's.
+/// The language of the program is no business of the calendar's: not on its pages, and not in what files say of it.
 void tst_mvcalendar::printsTheSameInEveryLanguage()
 {
     for (const QString &layout : {u"DAY_LIST"_s, u"HOLIDAY_BLOCK"_s, u"SCHOOL_YEAR_GRID"_s, u"WEEK_COLUMNS"_s}) {
         QByteArray pages;
         for (const QString &language : {u"de"_s, u"en"_s}) {
-            const Call call = run(u"render --year 2027 --vacations --title T -o %n.svg --layout "_s + layout,
-                                  {{u"MVCALENDAR_LANGUAGE"_s, language}});
+            const Call call = run(u"render --from 2027-02 --months 3 --vacations --dpi 20 -o %n.svg -o %n.png -o k.pdf "
+                                  "-o k.html --layout "_s +
+                                      layout,
+                                  {{u"MVCALENDAR_LANGUAGE"_s, language}, {u"SOURCE_DATE_EPOCH"_s, u"1"_s}});
             QCOMPARE(call.exitCode, 0);
             QByteArray drawn;
             for (const QByteArray &file : call.outLines())

@@ -271,6 +271,7 @@ MvPageSource pages(int state)
     source.format = MvPageFormat::fromName(u"A6"_s);
     source.pages = {QDate(2027, 1, 1)};
     source.title = nameOf(state);
+    source.content = [](int) { return MvPageContent(); };
     source.paint = [state](QPainter &painter, int) { painter.fillRect(0, 0, 100 + state, 300, Qt::red); };
     return source;
 }
@@ -287,13 +288,34 @@ std::function<int(const QDir &)> stateByTitle(const QString &name, const QByteAr
     return [name, end](const QDir &disk) { return MvStorageTest::stateByTitle(disk.filePath(name), end); };
 }
 
-int stateOfPng(const QDir &disk)
+int stateOfPicture(const QString &path)
 {
-    const QString path = disk.filePath(u"Kalender.png"_s);
     const QImage image(path);
     if (!QFileInfo::exists(path))
         return 0;
     return image.isNull() ? -1 : qRound(image.dotsPerMeterX() * 0.0254) - 30;
+}
+
+int stateOfPng(const QDir &disk)
+{
+    return stateOfPicture(disk.filePath(u"Kalender.png"_s));
+}
+
+QString exportSet(const QDir &disk, int state)
+{
+    MvPageSource source = pages(state);
+    source.pages = {QDate(2027, 1, 1), QDate(2027, 2, 1), QDate(2027, 3, 1)};
+    return MvExportTarget(disk.filePath(u"Kalender-%m.png"_s)).write(source, 30 + state).error;
+}
+
+/// That of the last of its files; those before it are of the same state, or newer from the first one on.
+int stateOfSet(const QDir &disk)
+{
+    QList<int> found;
+    for (const QString &month : {u"01"_s, u"02"_s, u"03"_s})
+        found.append(stateOfPicture(disk.filePath(u"Kalender-%1.png"_s.arg(month))));
+    const bool isInOrder = found[1] == found[0] || found[1] == found[2];
+    return found.contains(-1) || !isInOrder ? -1 : found[2];
 }
 
 // ---- a file with a second name, which is written where it lies
@@ -376,6 +398,8 @@ QList<MvStorageOperation> operations()
         {"recovery", Application::Gui, recover, stateOfRecovery, leaveRecovery},
         {"PDF", Application::Gui, exportTo(u"Kalender.pdf"_s), stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
         {"PNG", Application::Gui, exportTo(u"Kalender.png"_s), stateOfPng},
+        {"PNG of each page", Application::Gui, exportSet, stateOfSet},
+        {"HTML", Application::Gui, exportTo(u"Kalender.html"_s), stateByTitle(u"Kalender.html"_s, "</html>")},
         {"SVG", Application::Gui, exportTo(u"Kalender.svg"_s), stateByTitle(u"Kalender.svg"_s, "</svg>")},
         {"packed folder", Application::Gui, packFolder, stateOfFolder, removeFolder, true},
         {"packed archive", Application::Gui, packZip, stateOfZip, {}, true},

@@ -32,7 +32,7 @@ def on_screen_and_bus(arguments):
                sys.executable, __file__, "--inside", *arguments]
     with tempfile.TemporaryDirectory() as home:
         environment = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-                           LC_ALL="C.UTF-8", XDG_CONFIG_HOME=f"{home}/config", XDG_DATA_HOME=f"{home}/data",
+                           LC_ALL="C.UTF-8", MVCALENDAR_LANGUAGE="de", XDG_CONFIG_HOME=f"{home}/config", XDG_DATA_HOME=f"{home}/data",
                            XDG_RUNTIME_DIR=home, MVCALENDAR_DATA=f"{home}/data/mvcalendar")
         return subprocess.run(command, env=environment, timeout=240).returncode
 

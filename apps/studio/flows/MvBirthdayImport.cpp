@@ -5,6 +5,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventStore.h"
 #include "MvCore/MvApplicationLocale.h"
+#include "MvCore/MvBackground.h"
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
 #include "common/MvProgressDialog.h"
@@ -86,7 +87,7 @@ void MvBirthdayImport::runInBackground(const std::function<void(MvAddressBookImp
     const auto promise = std::make_shared<QPromise<void>>();
     promise->start();
     watcher->setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, work, import = m_import] {
+    MvBackground::start(*QThreadPool::globalInstance(), [promise, work, import = m_import] {
         work(*import);
         promise->finish();
     });

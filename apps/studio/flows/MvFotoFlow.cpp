@@ -148,7 +148,7 @@ MvCalendarDocument MvFotoFlow::newDocument() const
     wanted.format = habits.format();
     wanted.holidays = habits.holidayConfig();
     wanted.themeId = m_theme;
-    wanted.title = MvCalendarTitle::ofRange(habits.range());
+    wanted.title = MvCalendarTitle::ofRange(habits.range(), habits.holidayConfig().language());
     return wanted.make();
 }
 

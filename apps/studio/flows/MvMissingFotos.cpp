@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "flows/MvMissingFotos.h"
 
+#include "MvCore/MvBackground.h"
 #include "MvProject/MvFotoRelocation.h"
 #include "MvProject/MvProject.h"
 #include "common/MvStudioMessage.h"
@@ -57,15 +58,16 @@ void MvMissingFotos::look()
 /// Each file is opened for it, and the disk may be far away.
 void MvMissingFotos::lookThen(const std::function<void(const QStringList &missing)> &use)
 {
-    m_pool.start([this, document = m_project->document(), use, number = ++m_looks, isGivenUp = m_isGivenUp] {
-        const QStringList missing = *isGivenUp ? QStringList() : document.missingFotos();
-        const auto tellLatest = [this, missing, use, number] {
-            if (number == m_looks) // else something else was opened or asked for by now
-                use(missing);
-        };
-        if (!*isGivenUp)
-            QMetaObject::invokeMethod(this, tellLatest, Qt::QueuedConnection);
-    });
+    MvBackground::start(m_pool,
+                        [this, document = m_project->document(), use, number = ++m_looks, isGivenUp = m_isGivenUp] {
+                            const QStringList missing = *isGivenUp ? QStringList() : document.missingFotos();
+                            const auto tellLatest = [this, missing, use, number] {
+                                if (number == m_looks) // else something else was opened or asked for by now
+                                    use(missing);
+                            };
+                            if (!*isGivenUp)
+                                QMetaObject::invokeMethod(this, tellLatest, Qt::QueuedConnection);
+                        });
 }
 
 void MvMissingFotos::tell(const QStringList &missing)
@@ -116,7 +118,7 @@ void MvMissingFotos::search()
 
 void MvMissingFotos::searchIn(const QString &folder)
 {
-    m_pool.start([this, document = m_project->document(), folder, isGivenUp = m_isGivenUp] {
+    MvBackground::start(m_pool, [this, document = m_project->document(), folder, isGivenUp = m_isGivenUp] {
         const QStringList missing = MvFotoRelocation::missing(document);
         const QHash<QString, QString> found =
             MvFotoRelocation::find(missing, document.fotoPool(), folder, [&isGivenUp] { return !*isGivenUp; });

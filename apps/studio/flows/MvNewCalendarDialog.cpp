@@ -102,6 +102,7 @@ MvNewCalendarDialog::MvNewCalendarDialog(const MvCalendarDraft &draft, QWidget *
     connect(m_later, &QTimer::timeout, this, &MvNewCalendarDialog::renewPictures);
     connect(m_setup, &MvPageSetupEditor::changed, m_later, qOverload<>(&QTimer::start));
     connect(m_setup, &MvPageSetupEditor::changed, this, &MvNewCalendarDialog::updateTitle);
+    connect(m_region, &MvRegionEditor::countryChanged, this, &MvNewCalendarDialog::updateTitle);
     connect(m_kinds, &QListWidget::currentRowChanged, this,
             [this](int kind) { setKind(MvCalendarKindChooser::kindOf(qMax(0, kind))); });
     connect(m_themes, &QListWidget::itemActivated, this, &QDialog::accept);
@@ -249,7 +250,7 @@ void MvNewCalendarDialog::renewPictures()
 /// What the calendar is called unless somebody says otherwise.
 void MvNewCalendarDialog::updateTitle()
 {
-    m_title->setPlaceholderText(MvCalendarTitle::ofRange(m_setup->range()));
+    m_title->setPlaceholderText(MvCalendarTitle::ofRange(m_setup->range(), m_region->config().language()));
 }
 
 MvCalendarDraft MvNewCalendarDialog::draft() const
@@ -266,7 +267,7 @@ MvCalendarDraft MvNewCalendarDialog::draft() const
     wanted.hasFacingPages = draft.kind == MvCalendarKind::Fotos && m_facing->isChecked();
     wanted.themeId = m_themes->currentId().isEmpty() ? m_draft.wanted.themeId : m_themes->currentId();
     const QString title = m_title->text().trimmed();
-    wanted.title = title.isEmpty() ? MvCalendarTitle::ofRange(wanted.range) : title;
+    wanted.title = title.isEmpty() ? MvCalendarTitle::ofRange(wanted.range, m_region->config().language()) : title;
     return draft;
 }
 

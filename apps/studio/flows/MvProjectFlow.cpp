@@ -64,7 +64,7 @@ MvCalendarDocument MvProjectFlow::firstDocument()
     holidays.setProvince({}); // nobody has said where yet
     document.setHolidayConfig(holidays);
     MvCalendarHabits::applyTo(document);
-    document.setTitle(MvCalendarTitle::ofRange(document.range()));
+    document.setTitle(MvCalendarTitle::ofRange(document.range(), document.holidayConfig().language()));
     return document;
 }
 

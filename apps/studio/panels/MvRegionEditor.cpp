@@ -36,7 +36,10 @@ MvRegionEditor::MvRegionEditor(QWidget *parent)
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(12);
     }
-    connect(m_country, &QComboBox::currentIndexChanged, this, [this] { fillRegions({}); });
+    connect(m_country, &QComboBox::currentIndexChanged, this, [this] {
+        fillRegions({});
+        Q_EMIT countryChanged();
+    });
     connect(m_region, &QComboBox::currentIndexChanged, this,
             [this] { m_hint->setVisible(m_region->isEnabled() && m_region->currentData().toString().isEmpty()); });
     setConfig(m_given);

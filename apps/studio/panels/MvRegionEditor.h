@@ -22,6 +22,10 @@ public:
     void setConfig(const MvCalendariumHolidayConfig &config);
     MvCalendariumHolidayConfig config() const;
 
+Q_SIGNALS:
+    /// By whomever.
+    void countryChanged();
+
 private:
     void fillRegions(const QString &chosen);
 

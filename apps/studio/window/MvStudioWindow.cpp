@@ -411,8 +411,11 @@ void MvStudioWindow::changePageSetup()
     dialog->setAcceptText(tr("Übernehmen"));
     connect(dialog, &QDialog::accepted, this, [this, dialog] {
         MvCalendarDocument document = dialog->document();
-        if (document.title() == MvCalendarTitle::ofRange(m_project->document().range()))
-            document.setTitle(MvCalendarTitle::ofRange(document.range())); // one that nobody has changed
+        const MvLocale language = document.holidayConfig().language();
+        const MvDateRange before = m_project->document().range();
+        if (document.title() == MvCalendarTitle::ofRange(before, language) ||
+            document.title() == MvCalendarTitle::ofRange(before))                    // as earlier versions called it
+            document.setTitle(MvCalendarTitle::ofRange(document.range(), language)); // one that nobody has changed
         m_project->change(document, tr("Papier und Zeitraum ändern"));
     });
     dialog->open();

@@ -5,6 +5,7 @@
 #include "MvCalendar/MvEntryIntake.h"
 #include "MvCalendar/MvEntryTableDialog.h"
 #include "MvCalendar/MvOpenCalendar.h"
+#include "MvCore/MvBackground.h"
 #include "MvCore/MvDiskAccessRequest.h"
 #include "MvCore/MvYesNoRequest.h"
 
@@ -45,7 +46,7 @@ void readInThread(const QFileInfo &file, QObject *asker, const std::function<voi
     const auto promise = std::make_shared<QPromise<Content>>();
     promise->start();
     watcher->setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, file] {
+    MvBackground::start(*QThreadPool::globalInstance(), [promise, file] {
         promise->addResult(MvEntryIntake::readAsList(file));
         promise->finish();
     });

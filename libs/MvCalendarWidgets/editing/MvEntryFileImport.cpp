@@ -5,6 +5,8 @@
 #include "MvCalendar/MvEntryEdits.h"
 #include "MvCalendar/MvEntryTableDialog.h"
 
+#include "MvCore/MvBackground.h"
+
 #include <QFutureWatcher>
 #include <QPromise>
 #include <QThreadPool>
@@ -82,7 +84,7 @@ void MvEntryFileImport::readInThread(const QString &file)
     const auto promise = std::make_shared<QPromise<MvEntryReading>>();
     promise->start();
     watcher->setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, file] {
+    MvBackground::start(*QThreadPool::globalInstance(), [promise, file] {
         promise->addResult(MvEntryIntake::read(QFileInfo(file)));
         promise->finish();
     });

@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString sourceLanguage = u"de"_s;
+const QString languageOfCLocale = u"en"_s;
 
 struct Installed
 {
@@ -36,7 +37,8 @@ QString languageOf(const QString &localeName)
     return localeName.left(localeName.indexOf(QRegularExpression(u"[-_.@]"_s))).toLower();
 }
 
-/// The C locale switches texts off, so the list of preferred languages (LANGUAGE) does not count.
+/// Where scripts and containers run; the list of preferred languages (LANGUAGE) does not count there. Nothing set is
+/// the C locale, too, except where the system keeps its language elsewhere.
 bool isCLocale()
 {
     for (const char *variable : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
@@ -44,7 +46,11 @@ bool isCLocale()
         if (!language.isEmpty())
             return language == "c"_L1 || language == "posix"_L1;
     }
+#if defined(Q_OS_WIN) || defined(Q_OS_DARWIN)
     return false;
+#else
+    return true;
+#endif
 }
 
 /// Dates and numbers as the user's own country writes them, where it speaks this language.
@@ -100,7 +106,7 @@ QString MvTranslations::systemLanguage()
     const QString wanted = languageOf(qEnvironmentVariable("MVCALENDAR_LANGUAGE"));
     if (languages().contains(wanted))
         return wanted;
-    return isCLocale() ? sourceLanguage : languageFor(QLocale::system().uiLanguages());
+    return languageFor(isCLocale() ? QStringList{languageOfCLocale} : QLocale::system().uiLanguages());
 }
 
 bool MvTranslations::install(const QString &language)

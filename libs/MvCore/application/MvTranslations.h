@@ -21,7 +21,8 @@ public:
     /// The language for somebody who prefers these, best first ("en-US", "de_AT"): that of the first one, if there are
     /// texts in it, else German.
     static QString languageFor(const QStringList &preferred);
-    /// That of the environment variable MVCALENDAR_LANGUAGE, else of the user's locale. The C locale is German.
+    /// That of the environment variable MVCALENDAR_LANGUAGE, else of the user's locale. The C locale, and none
+    /// at all, are English.
     static QString systemLanguage();
 
     /// Puts the texts of the program and of Qt, MvApplicationLocale and QLocale's default into this language. Needs the

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvFoto/MvFotoService.h"
 
+#include "MvCore/MvBackground.h"
 #include "MvFoto/MvImageLoader.h"
 
 #include <QCoreApplication>
@@ -175,7 +176,7 @@ void MvFotoService::startNext()
         if (!job.start())
             continue;
         ++m_running;
-        m_pool.start([this, task = job.task] {
+        MvBackground::start(m_pool, [this, task = job.task] {
             const Use use = task();
             const auto finish = [this, use] {
                 --m_running;

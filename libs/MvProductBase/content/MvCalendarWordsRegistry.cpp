@@ -76,6 +76,12 @@ void MvCalendarWordsRegistry::readPhrases()
         phrases.father = MvXMLParser::textAttribute(element, u"father"_s);
         phrases.child = MvXMLParser::textAttribute(element, u"child"_s);
         phrases.photo = MvXMLParser::textAttribute(element, u"photo"_s, phrases.photo);
+        Titles &titles = phrases.titles;
+        titles.calendar = MvXMLParser::textAttribute(element, u"calendar"_s, titles.calendar);
+        titles.period = MvXMLParser::textAttribute(element, u"period"_s, titles.period);
+        titles.cover = MvXMLParser::textAttribute(element, u"cover"_s, titles.cover);
+        titles.back = MvXMLParser::textAttribute(element, u"back"_s, titles.back);
+        titles.further = MvXMLParser::textAttribute(element, u"further"_s, titles.further);
         m_phrases.insert(MvXMLParser::textAttribute(element, u"language"_s), phrases);
     }
 }
@@ -166,6 +172,11 @@ QString MvCalendarWordsRegistry::schoolYear(const MvLocale &language, const QStr
 QString MvCalendarWordsRegistry::photo(const MvLocale &language) const
 {
     return wordsIn(m_phrases, language, {}).photo;
+}
+
+MvCalendarWordsRegistry::Titles MvCalendarWordsRegistry::titles(const MvLocale &language) const
+{
+    return wordsIn(m_phrases, language, {}).titles;
 }
 
 MvCalendarWordsRegistry::Patterns MvCalendarWordsRegistry::patterns(const MvLocale &language) const

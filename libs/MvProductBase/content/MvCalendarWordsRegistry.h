@@ -47,6 +47,17 @@ public:
     /// What a photo is called that nobody has described, "Foto".
     QString photo(const MvLocale &language) const;
 
+    /// What calendars and pages without a title of their own are called; English in a language without such words.
+    struct Titles
+    {
+        QString calendar = QStringLiteral("Calendar %1"); // the year or the months
+        QString period = QStringLiteral("%1 – %2");       // the first month and the last one
+        QString cover = QStringLiteral("Cover");
+        QString back = QStringLiteral("Back");
+        QString further = QStringLiteral("%1, another page"); // the months of the page before
+    };
+    Titles titles(const MvLocale &language) const;
+
     /// How the page puts words and numbers together: with %1, %2 and so on as resources/words/patterns.xml says.
     struct Patterns
     {
@@ -73,6 +84,7 @@ private:
         QString father;
         QString child; // %1 is its number
         QString photo = QStringLiteral("Photo");
+        Titles titles;
     };
     struct Names
     {

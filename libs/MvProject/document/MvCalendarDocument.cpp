@@ -486,11 +486,13 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
 {
     MvPageSource source;
     source.format = m_format;
+    const MvLocale language = holidayConfig().language();
     if (isValid()) {
         source.pages = pageDates();
         std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.kinds),
                        [](const MvCalendarPage &page) { return page.kind(); });
-        std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.names), &MvCalendarTitle::ofPage);
+        std::transform(m_pages.cbegin(), m_pages.cend(), std::back_inserter(source.names),
+                       [&language](const MvCalendarPage &page) { return MvCalendarTitle::ofPage(page, language); });
         for (int page = 0; page < m_pages.size(); ++page)
             source.bindings.append(bindingRect(page));
     }
@@ -509,9 +511,9 @@ MvPageSource MvCalendarDocument::pageSource(const MvRenderingSources &sources, c
         return MvPagePainter(document.m_pages[page], document.m_format).content({document.context(), sources});
     };
     source.missingFotos = [own] { return own->unread(); };
-    source.title = m_title.isEmpty() ? MvCalendarTitle::ofRange(m_range) : m_title;
+    source.title = m_title.isEmpty() ? MvCalendarTitle::ofRange(m_range, language) : m_title;
     source.author = m_author;
-    if (const MvLocale language = holidayConfig().language(); language.isValid()) {
+    if (language.isValid()) {
         source.language = language.name().replace(u'_', u'-');
         source.region = holidayConfig().province().isEmpty() ? language.country() : holidayConfig().province();
     }

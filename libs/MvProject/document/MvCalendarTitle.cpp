@@ -2,6 +2,7 @@
 #include "MvProject/MvCalendarTitle.h"
 
 #include "MvCore/MvApplicationLocale.h"
+#include "MvProductBase/MvCalendarWordsRegistry.h"
 #include "MvProductBase/MvDateRange.h"
 #include "MvProject/MvCalendarPage.h"
 
@@ -11,49 +12,68 @@ namespace {
 
 constexpr int monthsPerYear = 12;
 
-QString monthName(const QDate &date, const QString &format)
+QString monthAndYear(const QDate &date, const MvLocale &language)
 {
-    return MvApplicationLocale::instance().locale().toString(date, format + u" yyyy"_s);
+    const MvCalendarWordsRegistry &words = MvCalendarWordsRegistry::instance();
+    return words.patterns(language).month.arg(words.monthNameLong(language, date.month()),
+                                              QString::number(date.year()));
+}
+
+QString shortMonthAndYear(const QDate &date, const MvLocale &language)
+{
+    const MvLocale known = language.isValid() ? language : MvCalendarWordsRegistry::defaultLanguage();
+    return known.toQLocale().toString(date, u"MMM yyyy"_s);
+}
+
+MvCalendarWordsRegistry::Titles titlesIn(const MvLocale &language)
+{
+    return MvCalendarWordsRegistry::instance().titles(language);
 }
 
 } // namespace
 
-QString MvCalendarTitle::ofRange(const MvDateRange &range)
+MvLocale MvCalendarTitle::programLanguage()
+{
+    return MvLocale(MvApplicationLocale::instance().locale().name());
+}
+
+QString MvCalendarTitle::ofRange(const MvDateRange &range, const MvLocale &language)
 {
     if (!range.isValid())
         return {};
+    const MvCalendarWordsRegistry::Titles titles = titlesIn(language);
     if (range.start().month() == 1 && range.monthCount() == monthsPerYear)
-        return tr("Kalender %1").arg(range.start().year());
-    const QString from = monthName(range.start(), u"MMMM"_s);
+        return titles.calendar.arg(range.start().year());
+    const QString from = monthAndYear(range.start(), language);
     if (range.monthCount() == 1)
-        return tr("Kalender %1").arg(from);
-    return tr("Kalender %1 bis %2").arg(from, monthName(range.end(), u"MMMM"_s));
+        return titles.calendar.arg(from);
+    return titles.calendar.arg(titles.period.arg(from, monthAndYear(range.end(), language)));
 }
 
-QString MvCalendarTitle::ofPage(const MvCalendarPage &page)
+QString MvCalendarTitle::ofPage(const MvCalendarPage &page, const MvLocale &language)
 {
     if (!page.contentConfig().date().isValid())
         return {};
     switch (page.kind()) {
     case MvPageKind::Cover:
-        return tr("Titelblatt");
+        return titlesIn(language).cover;
     case MvPageKind::Back:
-        return tr("Rückseite");
+        return titlesIn(language).back;
     case MvPageKind::Free:
-        return tr("%1, weitere Seite").arg(ofMonths(page));
+        return titlesIn(language).further.arg(ofMonths(page, language));
     case MvPageKind::Month:
         break;
     }
-    return ofMonths(page);
+    return ofMonths(page, language);
 }
 
-QString MvCalendarTitle::ofMonths(const MvCalendarPage &page)
+QString MvCalendarTitle::ofMonths(const MvCalendarPage &page, const MvLocale &language)
 {
     const QDate first = page.contentConfig().date();
     const QDate last = first.addMonths(page.monthCount() - 1);
     if (page.monthCount() == 1)
-        return monthName(first, u"MMMM"_s);
+        return monthAndYear(first, language);
     if (first.year() == last.year())
         return QString::number(first.year());
-    return tr("%1 – %2").arg(monthName(first, u"MMM"_s), monthName(last, u"MMM"_s));
+    return u"%1 – %2"_s.arg(shortMonthAndYear(first, language), shortMonthAndYear(last, language));
 }

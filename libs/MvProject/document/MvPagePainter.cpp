@@ -137,7 +137,7 @@ MvCalendariumContentConfig MvPagePainter::contentOf(const MvCalendariumElement &
 MvPageContent MvPagePainter::content(const Pass &pass) const
 {
     MvPageContent content;
-    content.name = MvCalendarTitle::ofPage(m_page);
+    content.name = MvCalendarTitle::ofPage(m_page, m_page.contentConfig().language());
     content.ground = MvPageInks(m_page).ground();
     content.ink = MvPageInks(m_page).text();
     const MvPageTextPainter texts(m_page, m_format, m_elements, pass.context);

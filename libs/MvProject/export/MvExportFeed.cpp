@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvExportFeed.h"
 
-void MvExportFeed::put(int page, const MvPaintRecording &recording)
+void MvExportFeed::put(int number, const Page &page)
 {
     const std::lock_guard lock(m_mutex);
-    m_recordings.insert(page, recording);
+    m_pages.insert(number, page);
     m_changed.notify_all();
 }
 
-MvPaintRecording MvExportFeed::take(int page)
+MvExportFeed::Page MvExportFeed::take(int number)
 {
     std::unique_lock lock(m_mutex);
-    m_changed.wait(lock, [&] { return m_isCancelled || m_recordings.contains(page); });
-    return m_isCancelled ? MvPaintRecording() : m_recordings.take(page);
+    m_changed.wait(lock, [&] { return m_isCancelled || m_pages.contains(number); });
+    return m_isCancelled ? Page() : m_pages.take(number);
 }
 
 void MvExportFeed::cancel()

@@ -3,6 +3,7 @@
 
 #include "MvPaint/MvPaintRecording.h"
 #include "MvProject/MvExportObserver.h"
+#include "MvProject/MvPageContent.h"
 
 #include <QHash>
 
@@ -10,19 +11,26 @@
 #include <functional>
 #include <mutex>
 
-/// Hands recorded pages from the thread that records to the one that exports, and carries progress and the wish to
+/// Hands pages from the thread that makes them to the one that exports, and carries progress and the wish to
 /// cancel between them. Any thread.
 class MvExportFeed : public MvExportObserver
 {
 public:
+    /// One of the two, as the file that is written needs it.
+    struct Page
+    {
+        MvPaintRecording recording; ///< of what is printed above ground and photos
+        MvPageContent content;      ///< what there is to read
+    };
+
     /// The function is called in the thread that exports.
     explicit MvExportFeed(const std::function<void(int done, int total)> &progress)
         : m_progress(progress)
     {}
 
-    void put(int page, const MvPaintRecording &recording);
-    /// Waits for the page and gives it away; an empty recording once cancelled.
-    MvPaintRecording take(int page);
+    void put(int number, const Page &page);
+    /// Waits for the page and gives it away; an empty one once cancelled.
+    Page take(int number);
     void cancel();
 
     void pagesDone(int done, int total) override { m_progress(done, total); }
@@ -32,6 +40,6 @@ private:
     std::function<void(int, int)> m_progress;
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
-    QHash<int, MvPaintRecording> m_recordings;
+    QHash<int, Page> m_pages;
     bool m_isCancelled = false;
 };

@@ -2,6 +2,7 @@
 #include "MvProject/MvExportJob.h"
 
 #include "MvCalendar/MvRenderingSources.h"
+#include "MvCore/MvBackground.h"
 #include "MvCore/MvMath.h"
 #include "MvFoto/MvFotoPass.h"
 #include "MvProject/MvExportFeed.h"
@@ -19,7 +20,9 @@ MvExportJob::MvExportJob(const MvCalendarDocument &document, const MvExportTarge
               return target.write(pages, dpi, observer);
           },
           target.imageResolution(dpi), parent)
-{}
+{
+    m_isForReading = target.isForReading();
+}
 
 MvExportJob::MvExportJob(const MvCalendarDocument &document, const Writer &write, int dpi, QObject *parent)
     : QObject(parent)
@@ -32,7 +35,7 @@ MvExportJob::MvExportJob(const MvCalendarDocument &document, const Writer &write
     }))
     , m_entryFotos(new MvFotoPages(MvFotoService::Urgency::Background, this))
 {
-    connect(m_entryFotos, &MvFotoPages::arrived, this, &MvExportJob::recordPage);
+    connect(m_entryFotos, &MvFotoPages::arrived, this, &MvExportJob::makePage);
     for (int page = 0; page < m_document.pages().size(); ++page)
         m_pages.append(page);
 }
@@ -56,6 +59,18 @@ void MvExportJob::start()
 {
     if (std::exchange(m_isStarted, true))
         return;
+    m_isRunning = true;
+    m_work = [this, pages = source()] { m_result = m_write(pages, m_feed.get()); };
+    startThread();
+    QTimer::singleShot(0, this, [this] {
+        Q_EMIT progress(0, int(m_pages.size()));
+        makePage(0);
+    });
+}
+
+/// The pages as the thread sees them: it paints ground and photos itself and waits for what is made of the rest.
+MvPageSource MvExportJob::source()
+{
     MvPageSource source = m_document.pageSource().part(m_pages);
     QList<MvCalendarPage> pages;
     for (const int page : std::as_const(m_pages))
@@ -66,16 +81,21 @@ void MvExportJob::start()
         pages[number].paintGround(painter, format);
         pages[number].paintFoto(painter, format, *fotos);
         fotos->end(number);
-        feed->take(number).replay(painter);
+        feed->take(number).recording.replay(painter);
     };
+    source.content = [feed = m_feed](int number) { return feed->take(number).content; };
     source.missingFotos = [fotos] { return fotos->unread(); };
-    m_thread.reset(QThread::create([this, source] { m_result = m_write(source, m_feed.get()); }));
+    return source;
+}
+
+void MvExportJob::startThread()
+{
+    m_thread.reset(QThread::create(m_work));
     connect(m_thread.get(), &QThread::finished, this, &MvExportJob::finish);
-    m_thread->start();
-    QTimer::singleShot(0, this, [this] {
-        Q_EMIT progress(0, int(m_pages.size()));
-        recordPage(0);
-    });
+    if (MvBackground::hasThread())
+        m_thread->start();
+    if (!m_thread->isRunning() && !m_thread->isFinished()) // it has not begun and never will
+        m_thread.reset();
 }
 
 void MvExportJob::cancel()
@@ -83,10 +103,22 @@ void MvExportJob::cancel()
     m_feed->cancel();
 }
 
-void MvExportJob::recordPage(int number)
+void MvExportJob::makePage(int number)
 {
-    if (!m_thread || m_feed->isCancelled() || number >= m_pages.size())
+    const bool isLast = m_feed->isCancelled() || number >= m_pages.size();
+    if (m_isRunning && isLast && !m_thread)
+        writeHere();
+    if (!m_isRunning || isLast)
         return;
+    if (m_isForReading)
+        m_feed->put(number, {{}, m_document.pageSource().content(m_pages[number])});
+    else if (!recordPage(number))
+        return; // called again when they have been decoded
+    QTimer::singleShot(0, this, [this, number] { makePage(number + 1); });
+}
+
+bool MvExportJob::recordPage(int number)
+{
     const double pixelsPerUnit = m_dpi / MvMath::tenthMillimetresPerInch;
     const MvCalendarPage &page = m_document.pages()[m_pages[number]];
     {
@@ -98,18 +130,30 @@ void MvExportJob::recordPage(int number)
             page.record(m_document.format(), m_document.context(), {}, MvRenderingRule(MvRenderingRule::Print),
                         pixelsPerUnit, sources, &found);
         if (!fotos.isComplete())
-            return; // called again when they have been decoded
+            return false;
         m_unreadOfDays += fotos.unread();
-        m_feed->put(number, recording);
+        m_feed->put(number, {recording, {}});
     }
     m_entryFotos->letGo(number); // they are in the recording
-    QTimer::singleShot(0, this, [this, number] { recordPage(number + 1); });
+    return true;
+}
+
+/// In place of the thread that is missing; all pages are made by now, unless somebody has cancelled.
+void MvExportJob::writeHere()
+{
+    if (const auto work = std::exchange(m_work, nullptr)) {
+        work();
+        QMetaObject::invokeMethod(this, &MvExportJob::finish, Qt::QueuedConnection); // after the progress that was told
+    }
 }
 
 void MvExportJob::finish()
 {
-    m_thread->wait();
-    m_thread.release()->deleteLater(); // its signal is still being delivered
+    if (m_thread) {
+        m_thread->wait();
+        m_thread.release()->deleteLater(); // its signal is still being delivered
+    }
+    m_isRunning = false;
     m_result.missingFotos += m_unreadOfDays;
     m_result.missingFotos.removeDuplicates();
     Q_EMIT finished(m_result);

@@ -110,13 +110,13 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
 
 bool MvExportTarget::isDocument() const
 {
-    return m_suffix == u"pdf"_s || m_suffix == u"html"_s;
+    return isPdf() || isForReading();
 }
 
 MvExportResult MvExportTarget::writeDocument(const MvPageSource &pages, const QString &path,
                                              MvExportObserver *observer) const
 {
-    if (m_suffix == u"html"_s)
+    if (isForReading())
         return MvHtmlExporter::write(pages, QFileInfo(path), observer);
     return MvPdfExporter::write(pages, QFileInfo(path), observer, m_jobs, m_press, m_sheets);
 }
@@ -124,6 +124,11 @@ MvExportResult MvExportTarget::writeDocument(const MvPageSource &pages, const QS
 bool MvExportTarget::isPdf() const
 {
     return m_suffix == u"pdf"_s;
+}
+
+bool MvExportTarget::isForReading() const
+{
+    return m_suffix == u"html"_s;
 }
 
 bool MvExportTarget::isPicture() const

@@ -35,6 +35,8 @@ public:
     /// On which sheets of a printer the pages of a PDF are laid; other files have nothing of it.
     void setSheets(const MvSheetSettings &sheets) { m_sheets = sheets; }
     bool isPdf() const;
+    /// Whether the file holds what there is to read on the pages (MvPageSource::content) instead of their pictures.
+    bool isForReading() const;
     /// The dots per inch at which images are needed, when pictures are to have so many.
     int imageResolution(int dpi) const;
 

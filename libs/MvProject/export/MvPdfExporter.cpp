@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfExporter.h"
 
-#include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvPaint/MvPaintRecorder.h"
@@ -17,7 +16,7 @@
 #include <QDir>
 #include <QImage>
 #include <QPainter>
-#include <QTemporaryDir>
+#include <QTemporaryFile>
 
 #include <cmath>
 #include <future>
@@ -77,20 +76,19 @@ private:
     std::future<void> m_underWay;
 };
 
-/// A page in words, for those who handle the sheets.
+/// What a page is, for those who handle the sheets: in figures, which need no translation.
 QString pageInWords(const MvPageSource &source, int page, const MvPressSettings &press)
 {
-    const QLocale locale = MvApplicationLocale::instance().locale();
+    const QLocale locale(source.language); // of the file, whoever makes it
     const auto millimetres = [&locale](double length) { return locale.toString(length / 10.0, 'g', 6); };
     const QSizeF size = source.format.trimSize();
     const double bleed = source.format.bleed() > 0.0 ? source.format.bleed() : press.bleed;
     QStringList words{source.title};
     if (const QString name = source.names.value(page); !name.isEmpty())
         words.append(name);
-    words += {MvPdfExporter::tr("Seite %1 von %2").arg(source.number(page) + 1).arg(source.documentPageCount()),
-              MvPdfExporter::tr("%1 × %2 mm").arg(millimetres(size.width()), millimetres(size.height())),
-              MvPdfExporter::tr("Beschnitt %1 mm").arg(millimetres(bleed)), press.profile.description(),
-              MvPdfDocument::dateOfFile().toString(u"yyyy-MM-dd HH:mm 'UTC'"_s)};
+    words += {u"%1 / %2"_s.arg(source.number(page) + 1).arg(source.documentPageCount()),
+              u"%1 × %2 mm (+ %3 mm)"_s.arg(millimetres(size.width()), millimetres(size.height()), millimetres(bleed)),
+              press.profile.description(), MvPdfDocument::dateOfFile().toString(u"yyyy-MM-dd HH:mm 'UTC'"_s)};
     return MvPrintableText::onOneLine(words.join(u"  ·  "_s));
 }
 
@@ -99,7 +97,7 @@ struct Painted : MvOutcome
     QList<MvInkUse> inks;
 };
 
-Painted paintPages(const MvPageSource &source, const QString &path, MvExportObserver *observer, int jobs,
+Painted paintPages(const MvPageSource &source, QFile &file, MvExportObserver *observer, int jobs,
                    const MvPressSettings &press, bool isForSheets)
 {
     MvPdfDocument document({source.title, source.author, source.language, isForSheets}, press);
@@ -123,16 +121,15 @@ Painted paintPages(const MvPageSource &source, const QString &path, MvExportObse
     if (isCancelled(observer))
         return {};
     tell(total);
-    Painted painted{document.write(path), document.inks()};
+    Painted painted{document.write(file), document.inks()};
     for (MvInkUse &ink : painted.inks)
         ink.page = source.number(ink.page);
     return painted;
 }
 
-MvOutcome copyToTarget(const QString &path, const QFileInfo &target)
+MvOutcome copyToTarget(QFile &file, const QFileInfo &target)
 {
-    QFile file(path);
-    const uchar *content = file.open(QIODevice::ReadOnly) ? file.map(0, file.size()) : nullptr;
+    const uchar *content = file.map(0, file.size());
     if (!content)
         return {file.errorString(), {}};
     return MvSafeFileWriter::write(
@@ -150,21 +147,22 @@ MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo 
     if (outcome.isOk())
         outcome.error = plan.error();
     Painted painted;
-    const QTemporaryDir folder(QDir::tempPath() + u"/mvcalendar-XXXXXX"_s);
-    QString path = folder.filePath(u"kalender.pdf"_s);
-    if (outcome.isOk() && !folder.isValid())
-        outcome.error = folder.errorString();
+    // without names: they go with the program
+    QTemporaryFile file(QDir::tempPath() + u"/mvcalendar-XXXXXX"_s);
+    QTemporaryFile onSheets(file.fileTemplate());
+    if (outcome.isOk() && !(file.open() && onSheets.open()))
+        outcome.error = file.isOpen() ? onSheets.errorString() : file.errorString();
     if (outcome.isOk()) {
-        painted = paintPages(source, path, observer, jobs, press, sheets.areSheets());
+        painted = paintPages(source, file, observer, jobs, press, sheets.areSheets());
         outcome = painted;
-    }
-    if (outcome.isOk() && sheets.areSheets() && !isCancelled(observer)) {
-        const QString pages = std::exchange(path, folder.filePath(u"blaetter.pdf"_s));
-        outcome = MvPdfSheets::write(pages, path, plan, source.names);
+        if (outcome.isOk() && sheets.areSheets() && !isCancelled(observer))
+            outcome = MvPdfSheets::write(file, onSheets, plan, source.names);
+        if (!outcome.isOk()) // the target's disk may have room enough
+            outcome.error = u"%1 (%2)"_s.arg(outcome.error, QDir::toNativeSeparators(QDir::tempPath()));
     }
     const bool isDone = outcome.isOk() && !isCancelled(observer); // finishing the file can take long
     if (isDone)
-        outcome = copyToTarget(path, target);
+        outcome = copyToTarget(sheets.areSheets() ? onSheets : file, target);
     if (!outcome.isOk())
         return MvExportResult::failed(u"%1: %2"_s.arg(target.filePath(), outcome.error));
     return isDone ? MvExportResult{outcome, {target}, false, {}, painted.inks} : MvExportResult::cancelled();

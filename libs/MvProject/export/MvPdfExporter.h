@@ -6,8 +6,6 @@
 #include "MvProject/MvSheetSettings.h"
 #include "MvProject/mvproject_export.h"
 
-#include <QCoreApplication>
-
 class MvExportObserver;
 class MvPageSource;
 
@@ -17,8 +15,6 @@ class MvPageSource;
 /// of large pages, or several pages on a sheet (MvSheetPlan); not for both.
 class MVPROJECT_EXPORT MvPdfExporter
 {
-    Q_DECLARE_TR_FUNCTIONS(MvPdfExporter)
-
 public:
     /// Dots per inch that the painter reports; images are scaled for it.
     static constexpr int resolution = 300;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvProjectAutosave.h"
 
+#include "MvCore/MvBackground.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvSafeFileWriter.h"
@@ -67,7 +68,7 @@ void MvProjectAutosave::write()
     const QByteArray bytes =
         MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(), m_project->fileInfo().filePath(),
                                m_project->fileStamp(), m_project->entries());
-    m_thread.start([this, file = m_file, bytes] {
+    MvBackground::start(m_thread, [this, file = m_file, bytes] {
         QString error = MvXMLLoader::check(bytes).message; // an older state is better than one that does not open
         if (error.isEmpty())
             error = MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
@@ -93,8 +94,8 @@ void MvProjectAutosave::discard()
     m_timer.stop();
     if (m_file.filePath().isEmpty())
         return;
-    m_thread.start(
-        [path = m_file.absoluteFilePath(), guard = std::exchange(m_guard, nullptr)] { QFile::remove(path); });
+    MvBackground::start(
+        m_thread, [path = m_file.absoluteFilePath(), guard = std::exchange(m_guard, nullptr)] { QFile::remove(path); });
     m_file = QFileInfo();
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvFotoPoolIntake.h"
 
+#include "MvCore/MvBackground.h"
 #include "MvFoto/MvFotoFacts.h"
 #include "MvFoto/MvImageLoader.h"
 #include "MvPaint/MvPrintableText.h"
@@ -73,7 +74,7 @@ std::vector<Taken> takeAll(const QList<QFileInfo> &files, const MvFotoPoolIntake
     QThreadPool threads;
     threads.setMaxThreadCount(std::clamp(QThread::idealThreadCount() - 1, 1, mostThreads));
     for (int thread = 0; thread < threads.maxThreadCount(); ++thread)
-        threads.start(work);
+        MvBackground::start(threads, work);
     threads.waitForDone();
     return taken;
 }
@@ -152,7 +153,7 @@ MvFotoPoolIntake::~MvFotoPoolIntake()
 void MvFotoPoolIntake::start(const QStringList &paths, const MvFotoPool &pool)
 {
     ++m_running;
-    m_pool.start([this, paths, known = pool.paths(), isGivenUp = m_isGivenUp] {
+    MvBackground::start(m_pool, [this, paths, known = pool.paths(), isGivenUp = m_isGivenUp] {
         const Result result = gather(paths, known, [this, isGivenUp](int done, int all) {
             if (*isGivenUp)
                 return false; // the object may be waiting for this to end

@@ -222,7 +222,7 @@ int MvPdfDocument::addMetadata()
     return m_file.addStream("/Type/Metadata/Subtype/XML", packet.toUtf8());
 }
 
-MvOutcome MvPdfDocument::write(const QString &path)
+MvOutcome MvPdfDocument::write(QFile &file)
 {
     m_fonts.finish();
     QByteArray kids;
@@ -237,5 +237,5 @@ MvOutcome MvPdfDocument::write(const QString &path)
                       MvPdfSyntax::reference(addMetadata()) + structure + "/Lang" +
                       MvPdfSyntax::text(m_description.language) +
                       "/ViewerPreferences<</DisplayDocTitle true/PrintScaling/None>>>>");
-    return m_file.write(path);
+    return m_file.write(file);
 }

@@ -25,6 +25,7 @@ class MvPdfPagePainter;
 class MvPdfPageParts;
 class MvPressColors;
 class MvPressSheet;
+class QFile;
 
 /// A PDF of recorded pages: vectors, glyphs and pictures once for all pages, exact boxes, bookmarks, metadata, sRGB as
 /// output intent, a structure to be read aloud by. Pages are written as they come, so memory does not grow with their
@@ -68,8 +69,8 @@ public:
     /// Where the pages, counted from 0, have most ink; of a file for the press.
     QList<MvInkUse> inks() const { return m_inks; }
 
-    /// Writes the file. Once.
-    MvOutcome write(const QString &path);
+    /// Writes to the file, which is open and empty. Once.
+    MvOutcome write(QFile &file);
 
 private:
     static QTransform unitsOn(const MvPressSheet &sheet);

@@ -139,13 +139,10 @@ void MvPdfFile::setLeastVersion(const QByteArray &version)
     d->leastVersion = version.toStdString();
 }
 
-MvOutcome MvPdfFile::write(const QString &path)
+MvOutcome MvPdfFile::write(QFile &file)
 {
-    QFile file(path);
     if (d->waiting.isOpen() && !d->waiting.flush())
         d->fail(d->waiting.errorString());
-    if (!file.open(QIODevice::WriteOnly))
-        d->fail(file.errorString());
     if (!d->error.isEmpty())
         return {d->error, {}};
     MvPdfPipeline pipeline(file);

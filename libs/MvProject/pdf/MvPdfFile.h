@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class QFile;
+
 /// The objects of a PDF, and the file made of them: numbering, packing, cross references and the file's identity, which
 /// follows from its content. Libqpdf does it and checks the syntax of all that is handed over.
 ///
@@ -36,8 +38,8 @@ public:
     /// Of the format, "1.6", where more is used than the file shows by itself.
     void setLeastVersion(const QByteArray &version);
 
-    /// Writes everything to a new file.
-    MvOutcome write(const QString &path);
+    /// Writes everything to the file, which is open and empty.
+    MvOutcome write(QFile &file);
 
 private:
     struct Private;

@@ -274,16 +274,16 @@ private:
 
 } // namespace
 
-MvOutcome MvPdfSheets::write(const QString &from, const QString &to, const MvSheetPlan &plan, const QStringList &names)
+MvOutcome MvPdfSheets::write(QFile &from, QFile &to, const MvSheetPlan &plan, const QStringList &names)
 {
-    QFile file(to);
-    if (!file.open(QIODevice::WriteOnly))
-        return {file.errorString(), {}};
-    MvPdfPipeline pipeline(file);
+    const uchar *content = from.map(0, from.size());
+    if (!content)
+        return {from.errorString(), {}};
+    MvPdfPipeline pipeline(to);
     try {
         QPDF pdf;
         pdf.setSuppressWarnings(true);
-        pdf.processFile(QFile::encodeName(from).constData());
+        pdf.processMemoryFile("pages", reinterpret_cast<const char *>(content), size_t(from.size()));
         Sheets(pdf, plan, names).lay();
         QPDFWriter writer(pdf);
         writer.setOutputPipeline(&pipeline);

@@ -8,10 +8,13 @@
 
 void MvPdfSyntax::append(QByteArray &out, double value, int decimals)
 {
+    constexpr double largest = 1e8; // hundredths of a point: more than 300 metres; fits with ten decimals
     static constexpr std::array<qint64, 11> powers{1,       10,       100,       1000,       10000,      100000,
                                                    1000000, 10000000, 100000000, 1000000000, 10000000000};
     std::array<char, 32> digits{};
-    qint64 scaled = std::llround(value * double(powers[size_t(decimals)]));
+    // what is painted without end or at no place at all, ends far outside of any page
+    const double known = std::isnan(value) ? 0.0 : std::clamp(value, -largest, largest);
+    qint64 scaled = std::llround(known * double(powers[size_t(decimals)]));
     if (scaled < 0) {
         out += '-';
         scaled = -scaled;
