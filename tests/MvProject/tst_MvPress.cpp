@@ -318,7 +318,6 @@ void tst_MvPress::bleedGoesOn_data()
     QTest::newRow("mirrored") << MvPressSettings::Bleed::Mirrored << 0.0;
     QTest::newRow("stretched") << MvPressSettings::Bleed::Stretched << 0.0;
     QTest::newRow("mirrored beside a photo") << MvPressSettings::Bleed::Mirrored << 30.0;
-    QTest::newRow("stretched beside a photo") << MvPressSettings::Bleed::Stretched << 30.0;
 }
 
 /// Beyond the edge comes what lies before it, turned round or drawn out; but nothing that is read.

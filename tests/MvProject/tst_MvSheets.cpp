@@ -108,12 +108,10 @@ void tst_MvSheets::plans_data()
         QTest::newRow(name) << settings << page << pages << grid << isUpright << sheets << scale;
     };
     row("A3 on A4", tiles(a4), {4200, 2970}, 12, {2, 2}, false, 48, 1.0);
-    row("a banner", tiles(a4), {9000, 1500}, 1, {4, 1}, false, 4, 1.0);
     row("two landscapes above each other", several(2, false), {2970, 2100}, 13, {1, 2}, true, 7, 2000.0 / 2970.0);
     row("four", several(4, false), a4, 12, {2, 2}, true, 3, (2000.0 - 40.0) / 2.0 / 2100.0);
     row("to be cut, beside their marks", several(2, true), a5, 12, {2, 1}, false, 6, 1900.0 / 2100.0);
     row("to the edge", several(2, true, false, 0.0), a5, 12, {2, 1}, false, 6, 1.0);
-    row("leaves", several(2, true, true), a5, 13, {2, 1}, false, 8, 1900.0 / 2100.0);
 }
 
 void tst_MvSheets::plans()

@@ -117,21 +117,19 @@ void tst_StudioOutput::exportSheets()
 
 void tst_StudioOutput::placements_data()
 {
-    QTest::addColumn<QSizeF>("paper");    // mm
-    QTest::addColumn<double>("margin");   // that the printer leaves white at the left edge; half of it elsewhere
-    QTest::addColumn<QRectF>("read");     // of an A4 page, tenths of a millimetre
-    QTest::addColumn<bool>("isOriginal"); // asked for
+    QTest::addColumn<QSizeF>("paper");  // mm
+    QTest::addColumn<double>("margin"); // that the printer leaves white at the left edge; half of it elsewhere
+    QTest::addColumn<QRectF>("read");   // of an A4 page, tenths of a millimetre
     QTest::addColumn<int>("percent");
     const QSizeF a4(210.0, 297.0);
     const QRectF inside(120, 120, 1860, 2730);
     const QRectF all(0, 0, 2100, 2970);
-    QTest::newRow("nothing in the margin") << a4 << 10.0 << inside << false << 100;
-    QTest::newRow("only photos") << a4 << 10.0 << QRectF() << false << 100;
-    QTest::newRow("days in the margin") << a4 << 10.0 << all << false << 93; // 195 of 210 mm
-    QTest::newRow("a wider one at the left") << a4 << 16.0 << inside << false << 100;
-    QTest::newRow("a wide one") << a4 << 40.0 << inside << false << 81; // 150 of 186 mm, about the middle
-    QTest::newRow("as large as it is") << a4 << 40.0 << all << true << 100;
-    QTest::newRow("small paper with margins") << QSizeF(148.0, 210.0) << 10.0 << all << false << 63; // 133 of 210 mm
+    QTest::newRow("nothing in the margin") << a4 << 10.0 << inside << 100;
+    QTest::newRow("only photos") << a4 << 10.0 << QRectF() << 100;
+    QTest::newRow("days in the margin") << a4 << 10.0 << all << 93; // 195 of 210 mm
+    QTest::newRow("a wider one at the left") << a4 << 16.0 << inside << 100;
+    QTest::newRow("a wide one") << a4 << 40.0 << inside << 81; // 150 of 186 mm, about the middle
+    QTest::newRow("small paper with margins") << QSizeF(148.0, 210.0) << 10.0 << all << 63; // 133 of 210 mm
 }
 
 void tst_StudioOutput::placements()
@@ -139,18 +137,16 @@ void tst_StudioOutput::placements()
     QFETCH(const QSizeF, paper);
     QFETCH(const double, margin);
     QFETCH(const QRectF, read);
-    QFETCH(const bool, isOriginal);
     QFETCH(const int, percent);
     const auto printer = printerWith(paper, margin);
     QVERIFY(std::abs(MvPrintPlacement::whiteMargin(*printer) - margin) < 0.2);
-    using Size = MvPrintPlacement::Size;
-    const MvPrintPlacement placement(*printer, {{2100, 2970}, read}, isOriginal ? Size::Original : Size::Fitting);
+    const MvPrintPlacement placement(*printer, {{2100, 2970}, read}, MvPrintPlacement::Size::Fitting);
     QCOMPARE(placement.percent(), percent);
     const double dots = printer->resolution() / 25.4;
     const QRectF page(placement.corner() / dots, QSizeF(210, 297) * percent / 100.0);
     const QRectF seen(page.topLeft() + read.topLeft() * percent / 1000.0, read.size() * percent / 1000.0);
     const QRectF printable = QRectF(QPointF(), paper).adjusted(margin, margin / 2, -margin / 2, -margin / 2);
-    if (!isOriginal && !read.isEmpty())
+    if (!read.isEmpty())
         QVERIFY2(printable.adjusted(-2, -2, 2, 2).contains(seen), qPrintable(QDebug::toString(seen)));
 }
 
