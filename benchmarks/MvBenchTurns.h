@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <ctime>
 #include <functional>
+#include <utility>
 #include <vector>
 
 /// Pieces of work that are done in turns, so that whatever else the computer does falls on all of them alike. What
@@ -11,7 +12,18 @@
 class MvBenchTurns
 {
 public:
-    using Work = std::function<void()>;
+    /// A piece of work, and what has to be done before it each time, which does not count.
+    struct Work
+    {
+        template <class Function>
+        Work(Function function, std::function<void()> preparation = {}) // NOLINT: a function is a piece of work
+            : run(std::move(function))
+            , prepare(std::move(preparation))
+        {}
+
+        std::function<void()> run;
+        std::function<void()> prepare;
+    };
 
     explicit MvBenchTurns(int rounds = 15)
         : m_rounds(rounds)
@@ -23,8 +35,10 @@ public:
         std::vector<std::vector<double>> times(works.size());
         for (int round = -1; round < m_rounds; ++round) {
             for (size_t i = 0; i < works.size(); ++i) {
+                if (works[i].prepare)
+                    works[i].prepare();
                 const double before = now();
-                works[i]();
+                works[i].run();
                 if (round >= 0)
                     times[i].push_back(now() - before);
             }

@@ -56,10 +56,7 @@ void page(benchmark::State &state, const QString &layout)
     };
     const auto straight = [&] { painted([&](QPainter &painter) { MvBenchPages::paintStraight(painter, items); }); };
     const auto warm = [&] { painted([&](QPainter &painter) { renderer->render(painter, calendarium); }); };
-    const auto cold = [&] {
-        MvTextOutlineCache::instance().clear();
-        warm();
-    };
+    const MvBenchTurns::Work cold(warm, [] { MvTextOutlineCache::instance().clear(); });
     const auto recording = [&] { record(*renderer, recorder); };
     for (auto _ : state) {
         const std::vector<double> times = MvBenchTurns().measure({straight, cold, warm, recording});

@@ -6,10 +6,13 @@ import os
 import re
 import statistics
 import subprocess
-import sys
 import tempfile
 import time
 from dataclasses import dataclass
+
+
+class Failed(Exception):
+    """A program that did not come to its end, with its words."""
 
 
 def run(program, benchmarks, repetitions):
@@ -18,7 +21,7 @@ def run(program, benchmarks, repetitions):
     result = subprocess.run([program, "--benchmark_format=json", f"--benchmark_repetitions={repetitions}",
                              f"--benchmark_filter=^({wanted})$"], capture_output=True, text=True)
     if result.returncode:
-        sys.exit(f"{program}: exit code {result.returncode}\n{result.stderr}")
+        raise Failed(f"{program}: exit code {result.returncode}\n{result.stderr}")
     runs = {}
     # a filter that nothing matches gives no list
     for one in json.loads(result.stdout or "{}").get("benchmarks", []):
@@ -53,7 +56,7 @@ def busy_seconds():
 
 
 def usage(command, **environment):
-    """Runs a program to its end; ends this one with the program's words if it fails."""
+    """Runs a program to its end."""
     with tempfile.TemporaryFile() as said:
         busy, start = busy_seconds(), time.monotonic()
         process = subprocess.Popen([str(word) for word in command], stdin=subprocess.DEVNULL,
@@ -63,7 +66,7 @@ def usage(command, **environment):
         process.returncode = os.waitstatus_to_exitcode(status)
         if process.returncode:
             said.seek(0)
-            sys.exit(f"{command[0]}: exit code {process.returncode}\n{said.read().decode(errors='replace')}")
+            raise Failed(f"{command[0]}: exit code {process.returncode}\n{said.read().decode(errors='replace')}")
     cpu = used.ru_utime + used.ru_stime
     return Usage(wall, cpu, used.ru_maxrss / 1024, max(0.0, busy_seconds() - busy - cpu))
 

@@ -127,8 +127,11 @@ class Nightly(unittest.TestCase):
         for name in ("process_months", "process_gui"):
             (self.folder / "bin" / name).write_text("#!/bin/sh\necho no fonts here >&2\nexit 3\n", encoding="utf-8")
             (self.folder / "bin" / name).chmod(0o755)
-        with self.assertRaisesRegex(SystemExit, "process_months: exit code 3\nno fonts here"):
-            self.report("empty Qt GUI")
+        with contextlib.redirect_stderr(io.StringIO()) as said:
+            code, rows = self.report("empty Qt GUI", "letters")
+        self.assertEqual((code, len(rows)), (1, 2), "other rows are measured all the same")
+        self.assertRegex(rows[0], r"failed: .*process_months: exit code 3 \| NO \|")
+        self.assertIn("no fonts here", said.getvalue())
 
 
 if __name__ == "__main__":

@@ -3,8 +3,8 @@
 
 #include "MvCore/MvSharedData.h"
 #include "MvPaint/MvGlyphLine.h"
+#include "MvPaint/MvTextOutlineCache.h"
 
-#include <QFontMetricsF>
 #include <QImage>
 #include <QPainter>
 
@@ -110,8 +110,7 @@ QList<Group> groupsOf(const QPainterPath &path)
 /// path is shared, means that threads that fill it later only read.
 void prepareForThreads(const MvTextOutlineImpl &outline)
 {
-    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    thread_local QImage image(1, 1, QImage::Format_ARGB32_Premultiplied); // making it takes as long as a short text
     QPainter painter(&image);
     painter.translate(2.0 - outline.bounds.left(), 2.0 - outline.bounds.top());
     painter.fillPath(outline.path, Qt::black);
@@ -127,7 +126,7 @@ MvTextOutline::MvTextOutline()
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text)
     : d(new MvTextOutlineImpl)
 {
-    const double advance = QFontMetricsF(font).horizontalAdvance(text);
+    const double advance = MvTextOutlineCache::instance().advance(font, text); // mostly asked for before
     const MvGlyphLine line(font, text);
     *this = MvTextOutline(font, text, line.path(), advance);
     d->glyphs = line.glyphs();
