@@ -60,6 +60,8 @@ void tst_MvTextFitter::fits_data()
     row("blank", twoLines, {u"  "_s}, 20, {});
     row("soft hyphens are not seen", twoLines, {u"Ta\u00adge"_s}, 20, {u"Tage"_s});
     row("but divide", {80, 40}, {u"Pfing\u00adstmontag"_s}, 20, {u"Pfing-"_s, u"stmontag"_s});
+    row("a word without end", {100, 24}, {u"Mai-"_s.repeated(2000)}, 12, {u"Mai-Mai-Mai-Mai-"_s, u"Mai-Mai-Mai-Mai…"_s},
+        true);
     row("characters stay whole", {60, 20}, {u"xxxxxxxxe\u0301\u0301xxxxxxxx"_s}, 12, {u"xxxxxxxxe\u0301\u0301…"_s},
         true);
 }

@@ -17,6 +17,7 @@ namespace {
 constexpr QChar ellipsis(u'…');
 
 constexpr qsizetype firstLook = 128;    // code units of a text that are measured before the rest is looked at
+constexpr qsizetype lookAhead = 2000;   // code units behind a place where a word is divided that may still decide there
 constexpr qsizetype longestRest = 2000; // of texts that run on: more than a line of the largest sheet has room for
 
 // A line that is so many times as wide as its type is high has many words. It is shaped as a whole only where the sum
@@ -246,12 +247,22 @@ void MvLineBreaker::addWord(QString word)
     m_restOfWord = word;
 }
 
+/// What of the word decides where it is divided in a line of that width: all of it, or a start that is far too wide.
+QString MvLineBreaker::decisive(const QString &word, int width) const
+{
+    for (qsizetype length = firstLook; length + lookAhead < word.size(); length *= 2) {
+        if (isTooWide(width, m_font, MvStringHelper::beginning(word, length)))
+            return MvStringHelper::beginning(word, length + lookAhead);
+    }
+    return word;
+}
+
 /// Ends the line with as much of the word as it has room for, leaving the rest in the word.
 bool MvLineBreaker::divide(QString *word)
 {
-    const QList<MvWordBreak> breaks = m_hyphenator.breaks(*word);
-    const auto lineWith = [&](const MvWordBreak &at) { return joined(m_line, word->first(at.end) + at.ending); };
     const int width = m_line.isEmpty() ? m_widestWord : m_maxWidth;
+    const QList<MvWordBreak> breaks = m_hyphenator.breaks(decisive(*word, width));
+    const auto lineWith = [&](const MvWordBreak &at) { return joined(m_line, word->first(at.end) + at.ending); };
     const auto tooLong = std::partition_point(
         breaks.cbegin(), breaks.cend(), [&](const MvWordBreak &at) { return !isTooWide(width, m_font, lineWith(at)); });
     if (tooLong == breaks.cbegin())

@@ -66,6 +66,7 @@ private:
     void addWord(QString word);
     bool hasRoomInLine(const QString &candidate, const QString &word);
     bool divide(QString *word);
+    QString decisive(const QString &word, int width) const;
     void endLine();
     bool isFull() const { return m_lines.size() >= m_mostLines; }
     QString withSeparator(const QStringList &texts, qsizetype index) const;
