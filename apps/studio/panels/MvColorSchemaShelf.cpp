@@ -133,6 +133,7 @@ void MvColorSchemaShelf::openContextMenu(const QPoint &position)
 /// What can be done with the schema of a row, and with all of them.
 void MvColorSchemaShelf::fillMenu(QMenu *menu, int row)
 {
+    qDeleteAll(menu->findChildren<QMenu *>(Qt::FindDirectChildrenOnly)); // which clearing would leave behind
     menu->clear();
     const MvCalendariumColorSchemaID id = m_picker->id(row);
     const MvCalendariumColorSchema schema = m_picker->schema(row);

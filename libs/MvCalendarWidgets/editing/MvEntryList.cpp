@@ -384,6 +384,7 @@ void MvEntryList::showContextMenu(const QPoint &position)
 void MvEntryList::fillGroupMenu(QMenu *menu)
 {
     using Membership = MvEntryEdits::Membership;
+    qDeleteAll(menu->findChildren<QMenu *>(Qt::FindDirectChildrenOnly)); // which clearing would leave behind
     menu->clear();
     const MvCalendarEventList events = selectedEvents();
     QSet<QString> own;
