@@ -129,6 +129,13 @@ std::optional<Step> stepToMatch(const QList<quint32> &characters, qsizetype char
     return std::nullopt;
 }
 
+/// Boxes in place of letters whose script no font can set: they have no size, and whoever asks for the name of such a
+/// font crashes.
+bool hasNoFont(const QGlyphRun &run)
+{
+    return run.rawFont().pixelSize() <= 0.0;
+}
+
 } // namespace
 
 MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
@@ -154,6 +161,8 @@ MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
         return;
     const QList<QGlyphRun> runs = layout.glyphRuns();
     for (const QGlyphRun &run : runs) {
+        if (hasNoFont(run))
+            continue;
         if (hasPictures && MvGlyphPictures::hasNoOutlines(run.rawFont()))
             addPictures(run, line.ascent());
         else
