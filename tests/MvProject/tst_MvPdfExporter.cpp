@@ -6,7 +6,6 @@
 #include "MvProjectFixture.h"
 #include "MvTest.h"
 
-#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvFoto/MvImageLoader.h"
 
 #include <QPainter>
@@ -111,8 +110,6 @@ private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void paintsWhatIsPainted_data();
     void paintsWhatIsPainted();
-    void layouts_data();
-    void layouts();
     void textIsFound();
     void glyphsAreDrawnOnce();
     void picturesAreKeptOnce();
@@ -313,23 +310,6 @@ void tst_MvPdfExporter::paintsWhatIsPainted()
 {
     QFETCH(const Painting, painting);
     QCOMPARE(difference(pages(painting), 24), QString());
-}
-
-void tst_MvPdfExporter::layouts_data()
-{
-    QTest::addColumn<QString>("layout");
-    for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata())
-        QTest::newRow(qPrintable(layout.ID().toString())) << layout.ID().toString();
-}
-
-void tst_MvPdfExporter::layouts()
-{
-    QFETCH(const QString, layout);
-    MvCalendarDocument calendar = MvProjectFixture::document(layout, 1);
-    QVERIFY(MvProjectFixture::writeFoto(path(u"foto.png"_s), {600, 400}));
-    MvProjectFixture::setFoto(calendar, 0, MvFotoFrame(path(u"foto.png"_s), MvFotoFrame::Placement::Left));
-    calendar.setFormat(MvPageFormat(QSizeF(1050, 740)));        // without bleed, which pictures do not show
-    QCOMPARE(difference(calendar.pageSource(), 60), QString()); // the reader makes small type bolder
 }
 
 void tst_MvPdfExporter::textIsFound()

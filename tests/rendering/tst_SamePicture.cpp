@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvProject/MvPageSource.h"
+#include "MvProject/MvPdfExporter.h"
+#include "MvProject/MvPictureExporter.h"
+#include "MvProjectFixture.h"
+#include "MvTest.h"
+
+#include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+/// A page's PDF, painted by other programs, is the picture that the product makes of the page: nothing elsewhere,
+/// missing, bolder or of another colour. A few layouts; all of them by night.
+///
+/// Compared are pixels of 300 dots per inch, each the mean of finer ones. At 300 itself programs differ in how they
+/// approximate: ours takes curves for polygons within a quarter of a pixel, which makes up to 60 of 255 at the edge of
+/// a letter, poppler moves rectangles to whole pixels.
+class tst_SamePicture : public MvTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { QImageReader::setAllocationLimit(0); }
+    void layouts_data();
+    void layouts();
+};
+
+namespace {
+
+constexpr int dpi = 300;
+constexpr int finerOurs = 4; // there is no more than 1200
+constexpr int finerOthers = 8;
+
+/// Pictures for the means of fields of so many pixels, row by row.
+class Means
+{
+public:
+    Means(const QSize &size, int side)
+        : m_side(side)
+        , m_image(size / side, QImage::Format_RGB32)
+        , m_sums(size_t(m_image.width()) * 3)
+    {}
+
+    void add(const uchar *row)
+    {
+        for (size_t x = 0; x < size_t(m_image.width() * m_side); ++x) {
+            for (size_t part = 0; part < 3; ++part)
+                m_sums[x / size_t(m_side) * 3 + part] += row[x * 3 + part];
+        }
+        if (++m_rows % m_side == 0)
+            finishRow(m_rows / m_side - 1);
+    }
+    QImage image() const { return m_image; }
+
+private:
+    void finishRow(int y)
+    {
+        const int count = m_side * m_side;
+        auto *line = reinterpret_cast<QRgb *>(m_image.scanLine(y));
+        for (size_t x = 0; x < size_t(m_image.width()); ++x) {
+            const auto mean = [&](size_t part) { return (m_sums[x * 3 + part] + count / 2) / count; };
+            line[x] = qRgb(mean(0), mean(1), mean(2));
+        }
+        std::fill(m_sums.begin(), m_sums.end(), 0);
+    }
+
+    int m_side;
+    QImage m_image;
+    std::vector<int> m_sums;
+    int m_rows = 0;
+};
+
+QImage ours(const QString &file)
+{
+    const QImage fine = QImage(file).convertToFormat(QImage::Format_RGB888);
+    Means means(fine.size(), finerOurs);
+    for (int y = 0; y < fine.height(); ++y)
+        means.add(fine.constScanLine(y));
+    return means.image();
+}
+
+/// Runs a program that writes a PPM.
+QImage painted(const QStringList &call, const QString &output)
+{
+    QProcess process;
+    process.setStandardOutputFile(output);
+    process.start(call.first(), call.mid(1));
+    QFile ppm(output);
+    if (!process.waitForFinished(600'000) || process.exitCode() != 0 || !ppm.open(QIODevice::ReadOnly))
+        return {};
+    QList<int> head; // width, height, most
+    ppm.readLine();
+    while (head.size() < 3 && !ppm.atEnd()) {
+        const QByteArray line = ppm.readLine();
+        for (const QByteArray &word : line.startsWith('#') ? QByteArrayList() : line.simplified().split(' '))
+            head.append(word.toInt());
+    }
+    Means means({head.value(0), head.value(1)}, finerOthers);
+    for (int y = 0; y < head.value(1); ++y) {
+        const QByteArray row = ppm.read(qint64(head[0]) * 3);
+        if (row.size() != head[0] * 3)
+            return {};
+        means.add(reinterpret_cast<const uchar *>(row.constData()));
+    }
+    return means.image();
+}
+
+struct Program
+{
+    const char *name;
+    QStringList call;
+    int tolerance; // what nearly all samples keep
+    int most;      // what all do
+};
+
+QList<Program> programs()
+{
+    const QString resolution = QString::number(dpi * finerOthers);
+    return {{"poppler", {u"pdftoppm"_s, u"-r"_s, resolution}, 8, 24},
+            // fills each pixel that a shape touches, of which smoothing takes back most: bolder by up to 1/32 pixel
+            {"Ghostscript",
+             {u"gs"_s, u"-q"_s, u"-dSAFER"_s, u"-dBATCH"_s, u"-dNOPAUSE"_s, u"-sDEVICE=ppmraw"_s, u"-r"_s + resolution,
+              u"-dTextAlphaBits=4"_s, u"-dGraphicsAlphaBits=4"_s, u"-sOutputFile=%stdout"_s, u"-c"_s,
+              u"0 0 .setfilladjust2"_s, u"-f"_s},
+             16,
+             40}};
+}
+
+/// How many samples differ by how much.
+std::array<qint64, 256> differences(const QImage &a, const QImage &b)
+{
+    std::array<qint64, 256> counts{};
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb one = a.pixel(x, y);
+            const QRgb other = b.pixel(x, y);
+            for (const int difference :
+                 {qRed(one) - qRed(other), qGreen(one) - qGreen(other), qBlue(one) - qBlue(other)})
+                ++counts[size_t(std::abs(difference))];
+        }
+    }
+    return counts;
+}
+
+/// Smooth, so that programs that scale in different ways agree; its edges are those of a photo.
+void writeFoto(const QString &path)
+{
+    QImage image(900, 600, QImage::Format_RGB32);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            image.setPixel(x, y, qRgb(x * 200 / image.width(), y * 200 / image.height(), 90));
+    QVERIFY(image.save(path));
+}
+
+} // namespace
+
+void tst_SamePicture::layouts_data()
+{
+    QTest::addColumn<QString>("layout");
+    QTest::addColumn<QString>("colors");
+    QTest::addColumn<bool>("hasFoto");
+    const bool isNightly = qEnvironmentVariableIsSet("MV_NIGHTLY");
+    int number = 0;
+    for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
+        const QString id = layout.ID().toString();
+        const bool isFew = id == u"MONTH_GRID_CLASSIC"_s || id == u"YEAR_GRID"_s;
+        if (isNightly || isFew)
+            QTest::newRow(qPrintable(id)) << id << (number % 2 ? u"NIGHT"_s : u"PAPER_WHITE"_s) << (number % 3 == 0);
+        ++number;
+    }
+}
+
+void tst_SamePicture::layouts()
+{
+    QFETCH(const QString, layout);
+    QFETCH(const QString, colors);
+    QFETCH(const bool, hasFoto);
+    const QTemporaryDir folder;
+    MvCalendarDocument calendar = MvProjectFixture::document(layout, 1);
+    calendar.setAppearance(MvProjectFixture::appearance(layout, colors));
+    calendar.setFormat(MvPageFormat(QSizeF(1524, 1016))); // whole pixels; without bleed, which pictures do not show
+    writeFoto(folder.filePath(u"foto.png"_s));
+    if (hasFoto)
+        MvProjectFixture::setFoto(calendar, 0,
+                                  MvFotoFrame(folder.filePath(u"foto.png"_s), MvFotoFrame::Placement::Left));
+    const QString pdf = folder.filePath(u"k.pdf"_s);
+    const QString png = folder.filePath(u"k.png"_s);
+    QVERIFY(MvPdfExporter::write(calendar.pageSource(), QFileInfo(pdf)).isOk());
+    QVERIFY(MvPictureExporter::write(calendar.pageSource(), png, dpi * finerOurs).isOk());
+    const QImage wanted = ours(png);
+    for (const Program &program : programs()) {
+        const QImage seen = painted(program.call + QStringList{pdf}, folder.filePath(u"seen.ppm"_s));
+        QCOMPARE(seen.size(), wanted.size());
+        const auto counts = differences(seen, wanted);
+        const double samples = 3.0 * wanted.width() * wanted.height();
+        const auto above = [&](int least) {
+            return 100.0 * double(std::accumulate(counts.begin() + least + 1, counts.end(), qint64(0))) / samples;
+        };
+        int most = 255;
+        while (most > 0 && counts[size_t(most)] == 0)
+            --most;
+        const QString figures = u"%1: %2 % above 8, %3 % above 16, at most %4"_s.arg(QLatin1String(program.name))
+                                    .arg(above(8), 0, 'f', 4)
+                                    .arg(above(16), 0, 'f', 4)
+                                    .arg(most);
+        if (qEnvironmentVariableIsSet("MV_NIGHTLY"))
+            qInfo().noquote() << figures;
+        QVERIFY2(above(program.tolerance) <= 0.1 && most <= program.most, qPrintable(figures));
+    }
+}
+
+MV_TEST_MAIN(tst_SamePicture)
+#include "tst_SamePicture.moc"
