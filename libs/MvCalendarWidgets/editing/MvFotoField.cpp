@@ -12,6 +12,7 @@
 #include <QGraphicsOpacityEffect>
 #include <QGridLayout>
 #include <QMimeData>
+#include <QPointer>
 #include <QPropertyAnimation>
 #include <QPushButton>
 #include <QTimer>
@@ -165,14 +166,14 @@ void MvFotoField::showHint()
 void MvFotoField::chooseFoto()
 {
     const QString filter = tr("Fotos (%1)").arg(MvMediaFormat::namePatterns());
-    const auto take = [this](const QString &fileName) {
-        if (fileName.isEmpty())
+    const auto take = [self = QPointer(this)](const QString &fileName) { // its window may outlive it
+        if (fileName.isEmpty() || !self)
             return;
         const MvFoto foto{QFileInfo(fileName)};
         if (foto.mediaFormat().isValid())
-            setFoto(foto);
+            self->setFoto(foto);
         else
-            MvDiskAccessRequest::instance().readFotoFailed(fileName, window());
+            MvDiskAccessRequest::instance().readFotoFailed(fileName, self->window());
     };
     MvDiskAccessRequest::instance().requestOpenFile(MvDiskAccessRequest::FotoFile, tr("Foto auswählen"), filter,
                                                     window(), take);
