@@ -192,7 +192,7 @@ private:
 
 } // namespace
 
-/// Anything that can be painted, named anyhow: the PDF is a sound one, for a press, too.
+/// Anything that can be painted, named anyhow: the PDF is a sound one.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArray bytes = MvFuzz::bytes(data, size);
