@@ -110,8 +110,9 @@ void change(QPainter &painter, Script &script)
 {
     switch (script.below(8)) {
     case 0:
-        painter.setPen(QPen(script.brush(), script.number(), Qt::PenStyle(script.below(6)),
-                            Qt::PenCapStyle(script.below(3) * 0x10), Qt::PenJoinStyle(script.below(3) * 0x40)));
+        // no dashes: along lines of any length they keep Qt busy for minutes
+        painter.setPen(QPen{script.brush(), script.number(), Qt::PenStyle(script.below(2)),
+                            Qt::PenCapStyle(script.below(3) * 0x10), Qt::PenJoinStyle(script.below(3) * 0x40)});
         break;
     case 1:
         painter.setBrush(script.brush());

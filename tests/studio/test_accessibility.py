@@ -28,13 +28,27 @@ DIALOGS = {"Neu …": "Abbrechen", "Layout wählen …": "Abbrechen", "Papier un
 
 
 def on_screen_and_bus(arguments):
-    command = ["dbus-run-session", "--", "xvfb-run", "-a", "-s", "-screen 0 1280x800x24",
-               sys.executable, __file__, "--inside", *arguments]
+    reader, writer = os.pipe()
     with tempfile.TemporaryDirectory() as home:
-        environment = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
-                           LC_ALL="C.UTF-8", MVCALENDAR_LANGUAGE="de", XDG_CONFIG_HOME=f"{home}/config", XDG_DATA_HOME=f"{home}/data",
-                           XDG_RUNTIME_DIR=home, MVCALENDAR_DATA=f"{home}/data/mvcalendar")
-        return subprocess.run(command, env=environment, timeout=240).returncode
+        # the screen says its number when it can be used, and stays as it is when a program leaves it
+        screen = subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x800x24", "-noreset",
+                                   "-nolisten", "tcp"], pass_fds=[writer], stderr=subprocess.DEVNULL)
+        os.close(writer)
+        try:
+            with os.fdopen(reader) as numbers:
+                number = numbers.readline().strip()
+            if not number:
+                print("there is no screen: Xvfb has ended")
+                return 1
+            environment = dict(os.environ, DISPLAY=f":{number}", QT_QPA_PLATFORM="xcb",
+                               QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", LC_ALL="C.UTF-8", MVCALENDAR_LANGUAGE="de",
+                               XDG_CONFIG_HOME=f"{home}/config", XDG_DATA_HOME=f"{home}/data", XDG_RUNTIME_DIR=home,
+                               MVCALENDAR_DATA=f"{home}/data/mvcalendar")
+            command = ["dbus-run-session", "--", sys.executable, __file__, "--inside", *arguments]
+            return subprocess.run(command, env=environment, timeout=240).returncode
+        finally:
+            screen.terminate()
+            screen.wait()
 
 
 class Walk:

@@ -25,7 +25,7 @@ struct Face
     Light lips;
     Light eyes;
     Light brows;
-    bool isOld;
+    bool isOld = false;
 };
 
 /// Skin with light from the upper left.

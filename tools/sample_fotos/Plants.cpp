@@ -89,9 +89,9 @@ struct Spray
 {
     QPointF from;
     QPointF to;
-    double width;
-    int blossoms;
-    double size;
+    double width = 0.0;
+    int blossoms = 0;
+    double size = 0.0;
 };
 
 void drawSpray(QPainter &painter, QRandomGenerator &generator, const Spray &spray)

@@ -64,9 +64,11 @@ void drawWindows(QPainter &painter, QRandomGenerator &generator, const House &ho
     const int columns = int((house.wall.width() - 0.008) / across);
     const double margin = (house.wall.width() - columns * across) / 2.0;
     for (int column = 0; column < columns; ++column) {
-        for (double y = house.wall.top() + 0.012; y < quay - 0.022; y += down) {
+        const double top = house.wall.top() + 0.012;
+        for (int row = 0; top + row * down < quay - 0.022; ++row) {
             if (generator.generateDouble() > lit)
                 continue;
+            const double y = top + row * down;
             const Light light = mixed(Light::of(0xffb04a), Light::of(0xffe6b0), generator.generateDouble());
             painter.setBrush((light * random(generator, 0.6, 1.05)).colour());
             painter.drawRect(
@@ -113,8 +115,12 @@ void drawBridge(QPainter &painter, double from, double to)
 QList<QPointF> lamps(double width)
 {
     QList<QPointF> points;
-    for (double x = 0.04; x < width; x += 0.085)
+    constexpr double first = 0.04;
+    constexpr double distance = 0.085;
+    for (int number = 0; first + number * distance < width; ++number) {
+        const double x = first + number * distance;
         points.append({x, x > 1.42 ? 0.607 : 0.632});
+    }
     return points;
 }
 

@@ -275,10 +275,12 @@ QString ignoredColumns(const Table::Format &format, const QList<Table::Row> &row
     return ignored.join(u", "_s);
 }
 
-QString quoted(const QString &text, QChar separator)
+/// Without characters that no file of texts has: one of them, and it would be taken for something else.
+QString quoted(QString text, QChar separator)
 {
+    text.removeIf([](QChar c) { return c.unicode() < 0x20 && c != u'\n' && c != u'\t'; });
     const bool isPlain = !text.contains(separator) && !text.contains(u'"') && !text.contains(u'\n');
-    return isPlain ? text : u'"' + QString(text).replace(u'"', u"\"\""_s) + u'"';
+    return isPlain ? text : u'"' + text.replace(u'"', u"\"\""_s) + u'"';
 }
 
 QString datesText(const QList<QDate> &dates)

@@ -111,6 +111,12 @@ void MvProjectReader::readPages(const QDomElement &root)
     if (MvDateRange(first, last).monthCount() > mostMonths)
         return fail(root, tr("Der Kalender reicht über mehr als %1 Monate.").arg(mostMonths));
     document.setSparePages(readSparePages(root));
+    if (monthPages.isEmpty()) { // nothing says how the months of the range look
+        MvCalendariumAppearance appearance;
+        appearance.setLayoutSchema(MvCalendariumLayoutSchemaRegistry::instance().defaultSchema());
+        appearance.setColorSchema(MvCalendariumColorSchemaRegistry::instance().defaultSchema());
+        document.setAppearance(appearance);
+    }
     document.setPages(range, pages);
 }
 
