@@ -148,8 +148,9 @@ void drawGrounds(QPainter &painter)
         cells.setFillRule(Qt::WindingFill);
         for (int cell = 0; cell < 6 * 35; ++cell) {
             const int block = cell / 35;
-            const QPointF corner(10.3 + block % 3 * 64.7 + cell % 7 * 8.7,
-                                 8.4 + block / 3 * 85.13 + cell / 7 % 5 * 15.9);
+            const int blockRow = block / 3;
+            const int row = cell / 7 % 5;
+            const QPointF corner(10.3 + block % 3 * 64.7 + cell % 7 * 8.7, 8.4 + blockRow * 85.13 + row * 15.9);
             if (cell % missing != 0)
                 cells.addRect({corner, QSizeF(8.7, 15.9)});
             if (cell % 50 == 1)

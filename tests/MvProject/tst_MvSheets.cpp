@@ -189,8 +189,8 @@ void tst_MvSheets::stacks()
         const QSizeF cell(plan.sheet().width() / plan.columns(), plan.sheet().height() / plan.rows());
         QList<int> read;
         for (int stack = 0; stack < perSheet; ++stack) {
-            const QPointF place((stack % plan.columns() + 0.5) * cell.width(),
-                                (double(stack / plan.columns()) + 0.5) * cell.height());
+            const int row = stack / plan.columns();
+            const QPointF place((stack % plan.columns() + 0.5) * cell.width(), (row + 0.5) * cell.height());
             const QPointF fromBehind(plan.sheet().width() - place.x(), place.y());
             for (int sheet = 0; sheet < plan.sheetCount(); ++sheet)
                 for (const MvSheetPlan::Part &part : plan.parts(sheet))

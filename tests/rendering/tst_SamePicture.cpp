@@ -53,7 +53,7 @@ public:
 
     void add(const uchar *row)
     {
-        for (size_t x = 0; x < size_t(m_image.width() * m_side); ++x) {
+        for (size_t x = 0; x < size_t(m_image.width()) * size_t(m_side); ++x) {
             for (size_t part = 0; part < 3; ++part)
                 m_sums[x / size_t(m_side) * 3 + part] += row[x * 3 + part];
         }
@@ -108,7 +108,7 @@ QImage painted(const QStringList &call, const QString &output)
     Means means({head.value(0), head.value(1)}, finerOthers);
     for (int y = 0; y < head.value(1); ++y) {
         const QByteArray row = ppm.read(qint64(head[0]) * 3);
-        if (row.size() != head[0] * 3)
+        if (row.size() != qsizetype(head[0]) * 3)
             return {};
         means.add(reinterpret_cast<const uchar *>(row.constData()));
     }

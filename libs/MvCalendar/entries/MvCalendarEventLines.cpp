@@ -39,7 +39,7 @@ bool resolve(QByteArrayView text, QByteArray &resolved)
     struct Reference
     {
         QByteArrayView name;
-        char character;
+        char character = 0;
     };
     static constexpr std::array<Reference, 6> known{
         {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}, {"&#xd;", '\r'}}};

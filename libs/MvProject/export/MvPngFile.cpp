@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr int level = 4;             // of deflate; runs are found at any
-constexpr size_t piece = 256 * 1024; // bytes of a chunk
+constexpr int level = 4;                     // of deflate; runs are found at any
+constexpr size_t piece = size_t(256) * 1024; // bytes of a chunk
 
 struct Picture
 {

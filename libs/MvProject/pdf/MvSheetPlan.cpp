@@ -149,9 +149,9 @@ QRectF MvSheetPlan::block() const
 
 QRectF MvSheetPlan::cell(int number) const
 {
-    return {block().topLeft() + QPointF(number % m_columns * (m_cell.width() + gap()),
-                                        double(number / m_columns) * (m_cell.height() + gap())),
-            m_cell};
+    const int row = number / m_columns;
+    const QPointF corner(number % m_columns * (m_cell.width() + gap()), row * (m_cell.height() + gap()));
+    return {block().topLeft() + corner, m_cell};
 }
 
 /// -1 where there is none. A stack is what lies at one place of all sheets: its pages follow each other.
@@ -174,8 +174,9 @@ QList<MvSheetPlan::Part> MvSheetPlan::parts(int sheet) const
         return {{sheet, whole, whole}};
     if (isTiled()) {
         const int tile = sheet % (m_columns * m_rows);
+        const int row = tile / m_columns;
         const QPointF corner(tile % m_columns * (m_cell.width() - m_settings.overlap),
-                             double(tile / m_columns) * (m_cell.height() - m_settings.overlap));
+                             row * (m_cell.height() - m_settings.overlap));
         return {{sheet / (m_columns * m_rows), QRectF(corner, m_cell), block()}};
     }
     QList<Part> parts;
