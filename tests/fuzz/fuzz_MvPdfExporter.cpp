@@ -106,13 +106,32 @@ private:
     qsizetype m_at = 0;
 };
 
+/// A pen that dashes draws one line of a page's measures at once: along lines of any length it keeps Qt busy for
+/// minutes.
+void setPen(QPainter &painter, Script &script, QPen pen)
+{
+    if (pen.style() == Qt::NoPen || pen.style() == Qt::SolidLine) {
+        painter.setPen(pen);
+        return;
+    }
+    constexpr int step = 4;
+    pen.setWidthF(1 + script.below(20));
+    const QLine line{QPoint{script.below(250), script.below(250)} * step,
+                     QPoint{script.below(250), script.below(250)} * step};
+    painter.save();
+    painter.resetTransform();
+    painter.setPen(pen);
+    painter.drawLine(line);
+    painter.restore();
+}
+
 void change(QPainter &painter, Script &script)
 {
     switch (script.below(8)) {
     case 0:
-        // no dashes: along lines of any length they keep Qt busy for minutes
-        painter.setPen(QPen{script.brush(), script.number(), Qt::PenStyle(script.below(2)),
-                            Qt::PenCapStyle(script.below(3) * 0x10), Qt::PenJoinStyle(script.below(3) * 0x40)});
+        setPen(painter, script,
+               QPen{script.brush(), script.number(), Qt::PenStyle(script.below(6)),
+                    Qt::PenCapStyle(script.below(3) * 0x10), Qt::PenJoinStyle(script.below(3) * 0x40)});
         break;
     case 1:
         painter.setBrush(script.brush());

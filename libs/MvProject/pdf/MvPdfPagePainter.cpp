@@ -421,7 +421,10 @@ void MvPdfPagePainter::placeImage(const QImage &image, const QRect &part, const 
 void MvPdfPagePainter::paintAsPicture(const MvPaintRecording &recording, const QRectF &bounds, const QColor &ground,
                                       int part)
 {
-    const QRect dots = bounds.toAlignedRect();
+    // what has no place that can be said, may be anywhere
+    const bool isKnown = std::isfinite(bounds.left()) && std::isfinite(bounds.top()) && std::isfinite(bounds.right()) &&
+                         std::isfinite(bounds.bottom());
+    const QRect dots = (isKnown ? bounds & m_page : m_page).toAlignedRect();
     QImage image(dots.size(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull()) // nothing of it is on the page
         return;
