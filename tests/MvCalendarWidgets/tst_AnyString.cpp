@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendarEventTextDelegate.h"
 #include "MvPaint/MvPrintableText.h"
+#include "MvPaint/MvTextOutline.h"
 #include "MvPaint/MvTextOutlineCache.h"
 #include "MvPaint/MvTextPainter.h"
 
@@ -23,6 +24,13 @@ QString allPlanes()
             text.append(QChar::fromUcs4((plane << 16) + (c & 0xffff))).append(u' ');
     }
     return text;
+}
+
+/// Whether the font that the computer has for marks sets one above the other, which then needs more than a line.
+bool stacksMarks()
+{
+    const MvTextOutline outline(MvBoxFont::font(20), u'a' + QString(20, QChar(0x0301)));
+    return outline.path().boundingRect().height() > 60;
 }
 
 /// The page with the one entry on 5 March 2027.
@@ -70,11 +78,13 @@ void tst_AnyString::everyPainter_data()
     };
     const QList<QByteArray> higherThanTheirLine = {"CALENDAR_ONE_DAY_PER_ROW, 100,000 marks on a letter",
                                                    "CALENDAR_YEAR, 100,000 marks on a letter"};
+    const bool stacks = stacksMarks();
     for (const char *type : {"CALENDAR_ONE_WEEK_PER_ROW", "CALENDAR_TWO_WEEKS", "CALENDAR_ONE_COLUMN_PER_WEEK",
                              "CALENDAR_ONE_ROW", "CALENDAR_ONE_DAY_PER_ROW", "CALENDAR_HOLIDAYS", "CALENDAR_YEAR"}) {
         for (const auto &[text, name, hasRoom] : texts) {
             const QByteArray row = QByteArray(type) + ", " + text;
-            QTest::newRow(row) << QString::fromLatin1(type) << name << (hasRoom && !higherThanTheirLine.contains(row));
+            const bool isTooHigh = higherThanTheirLine.contains(row) && stacks;
+            QTest::newRow(row) << QString::fromLatin1(type) << name << (hasRoom && !isTooHigh);
         }
     }
 }
