@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCli.h"
+#include "MvCore/MvBackground.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvOutOfMemory.h"
 #include "MvCore/MvProcessMemory.h"
@@ -63,6 +64,10 @@ int main(int argc, char **argv)
         return MvCliCommand::Failed;
     QTextStream out(&standardOutput);
     QTextStream err(&standardError);
+    if (qobject_cast<QGuiApplication *>(application.get()) && !MvBackground::keepThreads()) {
+        err << "mvcalendar: " << MvBackground::noThreads() << '\n';
+        return MvCliCommand::Failed;
+    }
     const int exitCode = program.run(QCoreApplication::arguments().mid(1), out, err);
     MvInitializer::instance().teardown();
     return exitCode;

@@ -20,6 +20,13 @@
     </message>
 </context>
 <context>
+    <name>MvBackground</name>
+    <message>
+        <source>das Betriebssystem gibt dem Programm keinen Thread, um Seiten zu malen; die Grenze für Prozesse oder Speicher ist erreicht</source>
+        <translation>the operating system gives the program no thread to paint pages with; the limit of processes or of memory is reached</translation>
+    </message>
+</context>
+<context>
     <name>MvBatchCommand</name>
     <message>
         <source>druckt viele Kalender, je Zeile einer Auftragsliste einen</source>

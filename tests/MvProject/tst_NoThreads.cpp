@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCore/MvBackground.h"
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvFotoPoolIntake.h"
+#include "MvProject/MvPageSource.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProjectFixture.h"
@@ -36,15 +38,16 @@ extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attribute
     return hasThreads ? real(thread, attributes, start, argument) : EAGAIN;
 }
 
-/// On a computer that has no thread left to give, what is done beside the window is done all the same. Photos are small
-/// here, and no page is a picture: those are painted by threads of the library.
+/// On a computer that has no thread left to give, what is done beside the window is done all the same; pages are
+/// painted with the threads that were kept.
 class tst_NoThreads : public MvTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init() { hasThreads = false; }
-    void cleanup() { hasThreads = true; }
+    void cleanup();
+    void hadNoneEver();
     void exports_data();
     void exports();
     void endsCancelled();
@@ -60,7 +63,7 @@ private:
 /// With a photo on the page, and one of a day, which other threads decode elsewhere.
 MvCalendarDocument tst_NoThreads::calendar() const
 {
-    writeFoto(path(u"foto.png"_s), {240, 160});
+    writeFoto(path(u"foto.png"_s), {2400, 1600});
     MvCalendarEvent entry = MvEntries::entry(u"Oma"_s, {1960, 1, 17});
     entry.takeFoto(MvFoto(QFileInfo(path(u"foto.png"_s))));
     MvCalendarEventRegistry::instance().setEvents({entry});
@@ -69,17 +72,31 @@ MvCalendarDocument tst_NoThreads::calendar() const
     return calendar;
 }
 
+void tst_NoThreads::cleanup()
+{
+    hasThreads = true;
+    QVERIFY(MvBackground::keepThreads());
+}
+
+/// The first function: afterwards there are some.
+void tst_NoThreads::hadNoneEver()
+{
+    const MvCalendarDocument plain = document(u"MONTH_GRID_CLASSIC"_s, 1);
+    const MvExportResult result = MvExportTarget(path(u"k.png"_s)).write(plain.pageSource(), 100);
+    QCOMPARE(result.error, path(u"k.png: "_s) + MvBackground::noThreads());
+}
+
 void tst_NoThreads::exports_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : {u"k.pdf"_s, u"k-%n.svg"_s, u"k.html"_s})
+    for (const QString &name : {u"k.pdf"_s, u"k-%n.png"_s, u"k-%n.svg"_s, u"k.html"_s})
         QTest::newRow(qPrintable(name)) << name;
 }
 
 void tst_NoThreads::exports()
 {
     QFETCH(const QString, name);
-    MvExportJob job(calendar(), MvExportTarget(path(name)), 50);
+    MvExportJob job(calendar(), MvExportTarget(path(name)), 100);
     QSignalSpy finished(&job, &MvExportJob::finished);
     QSignalSpy progress(&job, &MvExportJob::progress);
     job.start();

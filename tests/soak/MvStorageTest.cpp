@@ -287,8 +287,10 @@ void MvStorageTest::kills()
     const Attempt last = attempt(operation, disk, 1, {});
     QVERIFY2(last.fault.isEmpty() && last.isOk, qPrintable(last.describe(operation)));
     QStringList left;
-    QDirIterator files(disk.path(), {u".mvtmp-*"_s, u"previous*"_s, u"Kalender.zip?*"_s, u".Kalender*"_s},
-                       QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDirIterator::Subdirectories);
+    const QStringList names{u".mvtmp-*"_s, u"previous*"_s, u"Kalender.zip?*"_s, u".Kalender*"_s,
+                            u"mvcalendar-??????"_s};
+    QDirIterator files(disk.path(), names, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
+                       QDirIterator::Subdirectories);
     while (files.hasNext())
         left.append(files.next());
     QCOMPARE(left, QStringList());

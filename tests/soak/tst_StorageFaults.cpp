@@ -276,10 +276,32 @@ MvPageSource pages(int state)
     return source;
 }
 
-std::function<QString(const QDir &, int)> exportTo(const QString &name)
+std::function<QString(const QDir &, int)> exportTo(const QString &name, const MvSheetSettings &sheets = {})
 {
-    return [name](const QDir &disk, int state) {
-        return MvExportTarget(disk.filePath(name)).write(pages(state), 30 + state).error;
+    return [name, sheets](const QDir &disk, int state) {
+        MvExportTarget target(disk.filePath(name));
+        target.setSheets(sheets);
+        return target.write(pages(state), 30 + state).error;
+    };
+}
+
+/// With a photo in inks, and the profile, which is large.
+std::function<QString(const QDir &, int)> exportForPress()
+{
+    MvPressSettings press;
+    press.profile = MvPressProfile::load(u"fogra39"_s).profile; // checked once
+    return [press](const QDir &disk, int state) {
+        MvPageSource source = pages(state);
+        source.paint = [paint = source.paint](QPainter &painter, int page) {
+            QImage foto(60, 40, QImage::Format_RGB32);
+            foto.fill(Qt::darkGreen);
+            foto.setPixel(7, 7, 0x808020);
+            paint(painter, page);
+            painter.drawImage(QRect(100, 400, 600, 400), foto);
+        };
+        MvExportTarget target(disk.filePath(u"Kalender.pdf"_s));
+        target.setPress(press);
+        return press.isForPress() ? target.write(source, 300).error : u"no profile"_s;
     };
 }
 
@@ -386,7 +408,7 @@ int stateOfZip(const QDir &disk)
 QList<MvStorageOperation> operations()
 {
     using Application = MvStorageOperation::Application;
-    return {
+    QList<MvStorageOperation> all{
         {"entries", Application::Core, storeEntries, [](const QDir &disk) { return stateOfEntries(ownList(disk)); }},
         {"list export", Application::Core, exportList,
          [](const QDir &disk) { return stateOfEntries(disk.filePath(u"Liste.xml"_s)); }},
@@ -397,6 +419,11 @@ QList<MvStorageOperation> operations()
         {"autosave", Application::Gui, autosave, stateOfAutosave, discardAutosaves},
         {"recovery", Application::Gui, recover, stateOfRecovery, leaveRecovery},
         {"PDF", Application::Gui, exportTo(u"Kalender.pdf"_s), stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
+        {"PDF of tiles", Application::Gui,
+         exportTo(u"Kalender.pdf"_s, {MvSheetSettings::Kind::Tiles, {1000.0, 1000.0}}),
+         stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
+        {"PDF of several on a sheet", Application::Gui, exportTo(u"Kalender.pdf"_s, {MvSheetSettings::Kind::Several}),
+         stateByTitle(u"Kalender.pdf"_s, "%%EOF")},
         {"PNG", Application::Gui, exportTo(u"Kalender.png"_s), stateOfPng},
         {"PNG of each page", Application::Gui, exportSet, stateOfSet},
         {"HTML", Application::Gui, exportTo(u"Kalender.html"_s), stateByTitle(u"Kalender.html"_s, "</html>")},
@@ -405,6 +432,9 @@ QList<MvStorageOperation> operations()
         {"packed archive", Application::Gui, packZip, stateOfZip, {}, true},
         {"in place", Application::Core, storeInPlace, stateInPlace, makeSecondName},
     };
+    if (qEnvironmentVariableIsSet("MV_NIGHTLY")) // hundreds of calls, each after some work
+        all.append({"PDF for a press", Application::Gui, exportForPress(), stateByTitle(u"Kalender.pdf"_s, "%%EOF")});
+    return all;
 }
 
 } // namespace

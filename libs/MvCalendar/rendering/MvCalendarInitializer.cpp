@@ -5,11 +5,14 @@
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvCore/MvBackground.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvModelBase/MvShippedFonts.h"
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
+
+#include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +28,8 @@ MvCalendarInitializer::MvCalendarInitializer()
 
 void MvCalendarInitializer::setup(MvInitializerOption)
 {
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        MvBackground::keepThreads();                                 // while there are some
     const QStringList files = MvSafeFileWriter::finishInterrupted(); // before anything reads them
     for (const QString &file : files)
         MvLogger::legacyLog(u"Files ACTION:finishInterrupted VALUE:%1"_s.arg(file));

@@ -1,10 +1,21 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvBackground.h"
 
+#include <QMutex>
+#include <QSemaphore>
 #include <QThreadPool>
 
+#include <algorithm>
+#include <memory>
 #include <system_error>
 #include <thread>
+
+namespace {
+
+constexpr int mostKept = 4; // more make pages hardly faster
+constexpr int forEver = -1;
+
+} // namespace
 
 void MvBackground::start(QThreadPool &pool, const std::function<void()> &work)
 {
@@ -23,4 +34,30 @@ bool MvBackground::hasThread()
     } catch (const std::system_error &) {
         return false;
     }
+}
+
+bool MvBackground::keepThreads()
+{
+    static QMutex mutex; // exports may begin beside each other
+    const QMutexLocker locker(&mutex);
+    QThreadPool &pool = *QThreadPool::globalInstance();
+    if (pool.expiryTimeout() == forEver)
+        return true;
+    const int wanted = std::clamp(pool.maxThreadCount(), 1, mostKept);
+    const auto gate = std::make_shared<QSemaphore>(); // each stays in its thread until all have one
+    int begun = 0;
+    for (; begun < wanted && hasThread(); ++begun)
+        pool.start([gate] { gate->acquire(); });
+    gate->release(begun);
+    if (begun == 0)
+        return false;
+    pool.setMaxThreadCount(begun); // what comes beside them waits for one of these
+    pool.setExpiryTimeout(forEver);
+    return true;
+}
+
+QString MvBackground::noThreads()
+{
+    return tr("das Betriebssystem gibt dem Programm keinen Thread, um Seiten zu malen; die Grenze für Prozesse oder "
+              "Speicher ist erreicht");
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvExportTarget.h"
 
+#include "MvCore/MvBackground.h"
 #include "MvProject/MvExportObserver.h"
 #include "MvProject/MvHtmlExporter.h"
 #include "MvProject/MvPageSource.h"
@@ -94,6 +95,8 @@ MvExportResult MvExportTarget::write(const MvPageSource &pages, int dpi, MvExpor
     const MvFileNamePattern::Paths names = files(pages);
     if (!names.isOk())
         return MvExportResult::failed(names.error);
+    if (!isForReading() && !MvBackground::keepThreads())
+        return MvExportResult::failed(u"%1: %2"_s.arg(m_path, MvBackground::noThreads()));
     MvExportResult result;
     if (isDocumentPerPage())
         result = writeDocuments(pages, names.paths, observer);
