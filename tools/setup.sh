@@ -13,7 +13,7 @@ build_packages="g++ cmake ninja-build ccache pkg-config python3-minimal qt6-base
     hyphen-sv"
 test_packages="python3 python3-dateutil poppler-utils ghostscript procps qpdf libheif-examples libbenchmark-dev clang-format desktop-file-utils appstream mandoc
     shared-mime-info xvfb xauth dpkg-dev lintian dbus dbus-x11 at-spi2-core gir1.2-atspi-2.0 python3-pyatspi
-    fonts-noto-color-emoji fonts-lato"
+    fonts-noto-color-emoji fonts-lato zsh fish"
 nightly_packages="clang clang-tidy libclang-rt-14-dev slurm-wlm parallel openssh-server openssh-client mmdebstrap"
 
 case "${1:-}" in

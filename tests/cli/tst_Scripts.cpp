@@ -20,6 +20,8 @@ private Q_SLOTS:
     void settings();
     void completes_data();
     void completes();
+    void completesElsewhere_data();
+    void completesElsewhere();
     void forPressAndDesk_data();
     void forPressAndDesk();
 };
@@ -153,6 +155,40 @@ void tst_Scripts::completes()
         "_mvcalendar; printf '%s\\n' \"${COMPREPLY[@]}\""_s.arg(program, QStringLiteral(MV_COMPLETION), line);
     const QByteArray out = outputOf(u"bash"_s, {u"-c"_s, script});
     QCOMPARE(QString::fromUtf8(out).split(u'\n', Qt::SkipEmptyParts), offered);
+}
+
+void tst_Scripts::completesElsewhere_data()
+{
+    QTest::addColumn<QString>("shell");
+    QTest::addColumn<QString>("script"); // %1: the line
+    const QString scripts = QStringLiteral(MV_COMPLETION);
+    QTest::newRow("fish") << u"fish"_s << u"source "_s + scripts + u"/mvcalendar.fish; complete -C '%1'"_s;
+    QTest::newRow("zsh") << u"zsh"_s
+                         << u"_files() { ls }; _describe() { print -l ${(P)2} }; words=(${(z):-%1x}); "
+                            "words[-1]=${words[-1]%x}; CURRENT=$#words; complete() { . "_s +
+                                scripts + u"/_mvcalendar }; complete"_s;
+}
+
+/// With what it is beside each, and with files where one is expected alone.
+void tst_Scripts::completesElsewhere()
+{
+    QFETCH(const QString, shell);
+    QFETCH(const QString, script);
+    if (QStandardPaths::findExecutable(shell).isEmpty())
+        QSKIP("the shell is not installed");
+    write(path(u"k.pdf"_s), {});
+    const QString program = QFileInfo(QStringLiteral(MV_PROGRAM)).path();
+    for (const auto &[line, offered] : {std::pair(u"mvcalendar render --press "_s, "fogra39 fogra29 gracol"),
+                                        {u"mvcalendar render -o "_s, "k.pdf"},
+                                        {u"mvcalendar render -l YEAR_P"_s, "YEAR_PLANNER:Jahresplaner"}}) {
+        const QByteArray out = outputOf(
+            u"env"_s, {u"-C"_s, path({}), u"PATH=%1:/usr/bin:/bin"_s.arg(program), shell, u"-c"_s, script.arg(line)});
+        QStringList found = QString::fromUtf8(out).replace(u'\t', u':').split(u'\n', Qt::SkipEmptyParts);
+        QStringList expected = QString::fromLatin1(offered).split(u' ');
+        found.sort();
+        expected.sort();
+        QCOMPARE(found, expected);
+    }
 }
 
 void tst_Scripts::forPressAndDesk_data()

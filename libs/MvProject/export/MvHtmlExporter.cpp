@@ -30,8 +30,18 @@ td { height: 4.5rem; vertical-align: top; padding: .3rem .4rem; border: 1px soli
     overflow-wrap: break-word; hyphens: auto; }
 abbr { text-decoration: none; }
 td ul { list-style: none; margin: .2rem 0 0; padding: 0; font-size: .85rem; }
-@media (max-width: 40rem) { td { height: auto; font-size: .8rem; } body { padding: 0; } }
-@media print { section { break-after: page; } }
+@media (max-width: 40rem) {
+    section { padding: .5rem; }
+    section, table { margin-bottom: 1rem; }
+    th, td { padding: .2rem .15rem; font-size: .8rem; }
+    td { height: auto; }
+    td ul { font-size: .75rem; }
+    thead th:first-child:not([data-day]), tbody th { width: 1.7rem; }
+}
+@media print {
+    section { break-after: page; }
+    body, section, td { -webkit-print-color-adjust: exact; print-color-adjust: exact; }
+}
 )"_s;
 
 /// "#rrggbb", or with its opacity; empty for what is not seen.
@@ -87,7 +97,8 @@ public:
         , m_classes(classes)
     {}
 
-    void head(const MvPageSource &source);
+    /// The colours are those of all pages, if they have the same.
+    void head(const MvPageSource &source, const QColor &ground, const QColor &ink);
     void page(const MvPageContent &page, int number);
     void end();
 
@@ -118,7 +129,7 @@ void Writer::colors(const QColor &ground, const QColor &ink)
         m_xml.writeAttribute(u"class"_s, name);
 }
 
-void Writer::head(const MvPageSource &source)
+void Writer::head(const MvPageSource &source, const QColor &ground, const QColor &ink)
 {
     m_xml.writeDTD(u"<!DOCTYPE html>\n"_s);
     m_xml.writeStartElement(u"html"_s);
@@ -140,6 +151,8 @@ void Writer::head(const MvPageSource &source)
     m_xml.writeEndElement();
     m_xml.writeCharacters(u"\n"_s);
     m_xml.writeStartElement(u"body"_s);
+    colors(ground, ink);
+    m_xml.writeStartElement(u"main"_s);
     element(u"h1"_s, title);
 }
 
@@ -221,6 +234,7 @@ void Writer::end()
 {
     m_xml.writeEndElement();
     m_xml.writeEndElement();
+    m_xml.writeEndElement();
     m_xml.writeCharacters(u"\n"_s);
 }
 
@@ -250,7 +264,11 @@ QByteArray MvHtmlExporter::document(const MvPageSource &source, MvExportObserver
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     Writer writer(buffer, classes);
-    writer.head(source);
+    const bool isOneGround = std::all_of(pages.cbegin(), pages.cend(), [&](const MvPageContent &page) {
+        return page.ground == pages.constFirst().ground && page.ink == pages.constFirst().ink;
+    });
+    const MvPageContent all = isOneGround ? pages.value(0) : MvPageContent();
+    writer.head(source, all.ground, all.ink);
     for (int page = 0; page < pages.size(); ++page)
         writer.page(pages[page], source.number(page));
     writer.end();
