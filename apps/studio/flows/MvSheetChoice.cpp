@@ -57,7 +57,7 @@ QWidget *MvSheetChoice::createDetails()
     auto *details = new QWidget(this);
     m_paper->setObjectName(u"exportPaper"_s);
     m_paper->setAccessibleName(tr("Papier des Druckers"));
-    for (const QString &name : {u"A4"_s, u"A3"_s, u"A5"_s, u"Letter"_s, u"Tabloid"_s})
+    for (const QString &name : {u"A4"_s, u"A3"_s, u"A5"_s, u"Letter"_s, u"Legal"_s, u"Tabloid"_s})
         m_paper->addItem(MvPageFormat::label(name), name);
     m_paper->setCurrentIndex(std::max(0, m_paper->findData(MvStudioSettings::text(u"export/paper"_s, u"A4"_s))));
     m_overlap->setObjectName(u"exportOverlap"_s);

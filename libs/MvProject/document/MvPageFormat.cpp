@@ -50,6 +50,7 @@ constexpr std::array papers{
     Paper{"30x45cm"_L1, 3000, 4500, QT_TRANSLATE_NOOP("MvPageFormat", "30 × 45 cm")},
     Paper{"panorama"_L1, 1485, 4200, QT_TRANSLATE_NOOP("MvPageFormat", "Panorama 42 × 14,85 cm")},
     Paper{"Letter"_L1, 2159, 2794, nullptr},
+    Paper{"Legal"_L1, 2159, 3556, nullptr},
     Paper{"Tabloid"_L1, 2794, 4318, nullptr},
 };
 

@@ -58,7 +58,7 @@ public:
     /// One of names() (upright, whatever the case), or width and height in millimetres or centimetres: "300x200",
     /// "148,5x210", "15x15 cm".
     static MvPageFormat fromName(const QString &name);
-    /// The names of the paper sizes that fromName() knows: "A0" to "A6", those of print shops, "Letter", "Tabloid".
+    /// The names of the paper sizes that fromName() knows: "A0" to "A6", of print shops, "Letter", "Legal", "Tabloid".
     static QStringList names();
     /// Whether it is one of names(), whatever the case.
     static bool isName(const QString &name);
