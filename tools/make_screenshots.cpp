@@ -32,6 +32,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
@@ -141,6 +142,8 @@ private:
     void layoutChooser() { trigger("chooseLayout"); }
     void pageSetup() { trigger("pageSetup"); }
     void exportPdf();
+    void exportSheets();
+    void exportPress();
     void exportPng() { trigger("exportPng"); }
     void progress();
     void settings() { trigger("settings"); }
@@ -231,6 +234,8 @@ QList<Screenshots::State> Screenshots::states()
         {"page-setup", &S::pageSetup, settling},
         {"print-check", &S::printCheck, longSettling},
         {"export-pdf", &S::exportPdf, longSettling},
+        {"export-sheets", &S::exportSheets, settling},
+        {"export-press", &S::exportPress, settling},
         {"export-png", &S::exportPng, settling},
         {"progress", &S::progress, settling},
         {"settings", &S::settings, settling},
@@ -438,6 +443,19 @@ void Screenshots::exportPdf()
     QTest::qWait(longSettling);
     if (auto *list = window()->findChild<QListWidget *>(u"printFindings"_s))
         list->setCurrentRow(1);
+}
+
+void Screenshots::exportSheets()
+{
+    exportPdf();
+    constexpr int fourPages = 3;
+    window()->findChild<QComboBox *>(u"exportSheets"_s)->setCurrentIndex(fourPages);
+}
+
+void Screenshots::exportPress()
+{
+    exportPdf();
+    window()->findChild<QComboBox *>(u"exportPress"_s)->setCurrentIndex(1);
 }
 
 void Screenshots::printCheck()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvStudioTest.h"
+#include "flows/MvExportDialog.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintPages.h"
 #include "flows/MvPrintPlacement.h"
@@ -97,22 +98,40 @@ void tst_StudioOutput::exportSheets()
     settings->findChild<QLineEdit *>(u"exportTarget"_s)->setText(file);
     sheets->setCurrentIndex(1);
     QVERIFY(!button->isEnabled() && message->text().contains(u"passt auf ein Blatt"_s)); // A4 on A4
+    auto *edge = settings->findChild<QComboBox *>(u"exportBleedEdge"_s);
+    auto *colors = settings->findChild<QCheckBox *>(u"exportKeepColors"_s);
+    auto *shopsOnly = settings->findChild<QLabel *>(u"exportPressReason"_s);
+    QVERIFY(!edge->isEnabled() && !colors->isEnabled() && shopsOnly->isVisible());
     press->setCurrentIndex(1);
     QVERIFY(!sheets->isEnabled() && button->isEnabled());
+    QVERIFY(edge->isEnabled() && colors->isEnabled() && !shopsOnly->isVisible());
+    edge->setCurrentIndex(1);
+    colors->setChecked(true);
+    const MvPressSettings asked = static_cast<MvExportDialog *>(settings)->options().forPress;
+    QVERIFY(asked.keepsFotoColors && asked.bleedKind == MvPressSettings::Bleed::Stretched);
     press->setCurrentIndex(0);
     settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A5"_s);
     QVERIFY2(message->text().contains(u"2 × 2 Blättern"_s), qPrintable(message->text()));
     sheets->setCurrentIndex(3);
     settings->findChild<QComboBox *>(u"exportPaper"_s)->setCurrentText(u"A4"_s);
     QVERIFY(cutting->isVisible() && message->text().contains(u"3 Blätter"_s));
+    auto *twoSided = settings->findChild<QCheckBox *>(u"exportTwoSided"_s);
+    QVERIFY(!twoSided->isEnabled());
     cutting->setChecked(true);
+    twoSided->setChecked(true);
+    QVERIFY(twoSided->isEnabled() && message->text().contains(u"2 Blätter"_s)); // of four sides
     click(settings, "exportButton");
     QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 60000);
     dialog<QMessageBox>("informationMessage")->close();
     QProcess reader;
     reader.start(u"qpdf"_s, {u"--show-npages"_s, file});
     QVERIFY(reader.waitForFinished());
-    QCOMPARE(reader.readAllStandardOutput().trimmed(), QByteArray("3"));
+    QCOMPARE(reader.readAllStandardOutput().trimmed(), QByteArray("4"));
+    trigger("exportPdf"); // as it was the last time
+    settings = dialog("exportDialog");
+    const MvExportOptions again = static_cast<MvExportDialog *>(settings)->options();
+    QVERIFY(again.forPress.keepsFotoColors && settings->findChild<QCheckBox *>(u"exportTwoSided"_s)->isChecked());
+    settings->reject();
 }
 
 void tst_StudioOutput::placements_data()
@@ -164,6 +183,12 @@ void tst_StudioOutput::chosenSize()
     percents.clear();
     size->setCurrentIndex(1);
     QTRY_VERIFY(percents.contains(100) && !percents.contains(93));
+
+    size->setCurrentIndex(0);
+    preview.printer()->setPageLayout(printerWith({210, 297}, 0.0)->pageLayout());
+    preview.followPrinter();
+    QTRY_COMPARE(percents.last(), 100); // nothing is left white, and nothing to be chosen
+    QVERIFY(!size->isVisible());
 }
 
 void tst_StudioOutput::print()

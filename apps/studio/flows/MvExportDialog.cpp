@@ -9,6 +9,7 @@
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
 #include "flows/MvPagePreview.h"
+#include "flows/MvPressChoice.h"
 #include "flows/MvPrintFindingList.h"
 #include "flows/MvPrintWatch.h"
 #include "flows/MvSheetChoice.h"
@@ -246,21 +247,13 @@ void MvExportDialog::addBleed(QFormLayout *form)
 
 void MvExportDialog::addPress(QFormLayout *form)
 {
-    m_press = new QComboBox(this);
-    m_press->setObjectName(u"exportPress"_s);
-    m_press->addItem(tr("Bildschirm und eigener Drucker"), QString());
-    m_press->addItem(tr("Druckerei, glattes Papier (FOGRA39)"), u"fogra39"_s);
-    m_press->addItem(tr("Druckerei, raues Papier (FOGRA29)"), u"fogra29"_s);
-    m_press->addItem(tr("Druckerei in Amerika (GRACoL)"), u"gracol"_s);
-    m_press->setToolTip(
-        tr("Für eine Druckerei entsteht ein PDF/X-4 in Druckfarben, mit Schnittmarken und Angaben neben "
-           "der Seite. Fragen Sie dort, was gewünscht ist"));
-    m_press->setCurrentIndex(std::max(0, m_press->findData(MvStudioSettings::text(u"export/press"_s, {}))));
-    form->addRow(labelFor(tr("&Wofür:"), m_press), m_press);
-    connect(m_press, &QComboBox::currentIndexChanged, this, [this] {
-        if (!m_press->currentData().toString().isEmpty() && m_bleed->value() == 0.0)
+    m_press = new MvPressChoice(this);
+    form->addRow(labelFor(tr("&Wofür:"), m_press->profileBox()), m_press);
+    connect(m_press, &MvPressChoice::changed, this, [this] {
+        if (!m_press->profile().isEmpty() && m_bleed->value() == 0.0)
             m_bleed->setValue(MvPageFormat::printShopBleed / tenths);
     });
+    connect(this, &QDialog::accepted, m_press, &MvPressChoice::remember);
 }
 
 /// Not for a print shop: those lay out sheets of their own.
@@ -269,10 +262,11 @@ void MvExportDialog::addSheets(QFormLayout *form)
     m_sheets = new MvSheetChoice(this);
     form->addRow(labelFor(tr("B&lätter:"), m_sheets->kindBox()), m_sheets);
     const auto follow = [this] {
-        m_sheets->setEnabled(m_press->currentData().toString().isEmpty());
+        m_sheets->setAvailable(m_press->profile().isEmpty(),
+                               tr("nicht für eine Druckerei, die ihre Bögen selbst anlegt"));
         validate();
     };
-    connect(m_press, &QComboBox::currentIndexChanged, this, follow);
+    connect(m_press, &MvPressChoice::changed, this, follow);
     connect(m_sheets, &MvSheetChoice::changed, this, &MvExportDialog::validate);
     connect(this, &QDialog::accepted, m_sheets, &MvSheetChoice::remember);
     follow();
@@ -406,7 +400,10 @@ MvExportOptions MvExportDialog::options() const
     options.pages = pages().numbers;
     options.dpi = m_dpi ? m_dpi->value() : defaultDpi;
     options.sheets = m_sheets ? m_sheets->settings() : MvSheetSettings();
-    options.press = m_press ? m_press->currentData().toString() : QString();
+    if (m_press) {
+        options.press = m_press->profile();
+        options.forPress = m_press->settings();
+    }
     options.bleed = m_bleed ? std::round(m_bleed->value() * tenths) : m_document.format().bleed();
     return options;
 }
@@ -415,7 +412,5 @@ void MvExportDialog::remember(const MvExportOptions &options)
 {
     if (options.kind == MvExportOptions::Kind::Png)
         MvStudioSettings::setText(u"export/dpi"_s, QString::number(options.dpi));
-    else
-        MvStudioSettings::setText(u"export/press"_s, options.press);
     MvStudioSettings::setFolder(u"export"_s, QFileInfo(options.target).absolutePath());
 }

@@ -8,6 +8,7 @@
 #include <QDialog>
 
 class MvPagePreview;
+class MvPressChoice;
 class MvPrintFindingList;
 class MvPrintWatch;
 class MvSheetChoice;
@@ -77,7 +78,7 @@ private:
     QLineEdit *m_pageText;
     MvSpinBox *m_dpi = nullptr;
     QDoubleSpinBox *m_bleed = nullptr;
-    QComboBox *m_press = nullptr;
+    MvPressChoice *m_press = nullptr;
     MvSheetChoice *m_sheets = nullptr;
     QLabel *m_message;
     QPushButton *m_export = nullptr;

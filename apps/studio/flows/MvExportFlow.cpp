@@ -110,6 +110,7 @@ void MvExportFlow::run(const MvExportOptions &options)
             MvStudioMessage::error(m_window, tr("Der Kalender wurde nicht exportiert."), loaded.error);
             return;
         }
+        m_press = options.forPress;
         m_press.profile = loaded.profile;
         target.setPress(m_press);
     }

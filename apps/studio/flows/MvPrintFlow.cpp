@@ -37,19 +37,6 @@ QList<int> pagesToPrint(const QPrinter &printer, int count)
     return numbers;
 }
 
-void adopt(const MvPageFormat &format, QPrinter *printer)
-{
-    const QSizeF millimetres = format.trimSize() / 10.0;
-    const bool isLandscape = format.orientation() == MvPageFormat::Orientation::Landscape;
-    // a page size is upright; its orientation stands beside it
-    const QPageSize size(isLandscape ? millimetres.transposed() : millimetres, QPageSize::Millimeter, {},
-                         QPageSize::FuzzyMatch);
-    printer->setPageSize(size);
-    printer->setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
-    printer->setFullPage(true);
-    printer->setPageMargins({});
-}
-
 } // namespace
 
 MvPrintFlow::MvPrintFlow(MvProject *project, MvPrintWatch *watch, QWidget *window)
@@ -117,9 +104,10 @@ void MvPrintFlow::openPreview()
 {
     const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(m_project->displayName());
-    adopt(m_project->document().format(), printer.get());
+    const MvPrintPlacement::Extent extent = MvPrintPlacement::extentOf(m_project->document());
+    MvPrintPlacement::setPaper(printer.get(), extent.page);
     auto *dialog = new MvPrintPreview(
-        printer, MvPrintPlacement::extentOf(m_project->document()),
+        printer, extent,
         [pages = m_pages.get()](QPrinter *target, const MvPrintPlacement &placement) {
             paint(target, pages->pageSource(), placement);
         },

@@ -43,6 +43,19 @@ MvPrintPlacement::Extent MvPrintPlacement::extentOf(const MvCalendarDocument &do
     return extent;
 }
 
+void MvPrintPlacement::setPaper(QPrinter *printer, const QSizeF &page)
+{
+    const QSizeF millimetres = page / 10.0;
+    const bool isLandscape = page.width() > page.height();
+    // a page size is upright; its orientation stands beside it
+    const QPageSize size(isLandscape ? millimetres.transposed() : millimetres, QPageSize::Millimeter, {},
+                         QPageSize::FuzzyMatch);
+    printer->setPageSize(size);
+    printer->setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer->setFullPage(true);
+    printer->setPageMargins({});
+}
+
 MvPrintPlacement::MvPrintPlacement(const QPrinter &printer, const Extent &extent, Size size)
     : m_natural(printer.resolution() / MvMath::tenthMillimetresPerInch)
     , m_scale(m_natural)

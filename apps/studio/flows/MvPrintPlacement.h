@@ -26,6 +26,9 @@ public:
     };
     static Extent extentOf(const MvCalendarDocument &document);
 
+    /// Gives the printer the paper of such pages, in tenths of a millimetre, whose edges it prints as far as it can.
+    static void setPaper(QPrinter *printer, const QSizeF &page);
+
     MvPrintPlacement(const QPrinter &printer, const Extent &extent, Size size);
 
     /// Of the page, in the printer's dots.

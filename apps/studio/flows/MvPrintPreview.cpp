@@ -16,6 +16,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -31,6 +32,7 @@ MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const M
     , m_watch(watch)
     , m_page(new QLabel(this))
     , m_size(new QComboBox(this))
+    , m_sizeRow(new QWidget(this))
     , m_sizeNote(new QLabel(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -61,7 +63,10 @@ MvPrintPreview::MvPrintPreview(const std::shared_ptr<QPrinter> &printer, const M
     auto *column = new QVBoxLayout(this);
     column->addWidget(createToolBar());
     column->addWidget(m_preview, 1);
-    column->addWidget(createSizeRow());
+    auto *row = new QHBoxLayout;
+    row->addWidget(createPrinterRow());
+    row->addWidget(createSizeRow(), 1);
+    column->addLayout(row);
     addFindings(column);
     column->addWidget(buttons);
     m_preview->fitInView();
@@ -101,34 +106,64 @@ void MvPrintPreview::addFindings(QVBoxLayout *column)
     m_watch->hurry();
 }
 
+/// Only where there are several.
+QWidget *MvPrintPreview::createPrinterRow()
+{
+    auto *row = new QWidget(this);
+    auto *names = new QComboBox(row);
+    names->setObjectName(u"previewPrinter"_s);
+    if (m_printer->outputFormat() == QPrinter::NativeFormat)
+        names->addItems(QPrinterInfo::availablePrinterNames());
+    names->setCurrentText(m_printer->printerName());
+    auto *label = new QLabel(tr("D&rucker:"), row);
+    label->setBuddy(names);
+    auto *line = new QHBoxLayout(row);
+    line->setContentsMargins({});
+    line->addWidget(label);
+    line->addWidget(names);
+    row->setVisible(names->count() > 1);
+    connect(names, &QComboBox::currentTextChanged, this, [this](const QString &name) {
+        m_printer->setPrinterName(name);
+        MvPrintPlacement::setPaper(m_printer.get(), m_extent.page); // of which another printer knows nothing
+        followPrinter();
+    });
+    return row;
+}
+
 /// Only where the printer's margins or its paper leave a choice.
 QWidget *MvPrintPreview::createSizeRow()
 {
-    auto *row = new QWidget(this);
     m_size->setObjectName(u"previewSize"_s);
     m_sizeNote->setObjectName(u"previewSizeNote"_s);
     m_sizeNote->setWordWrap(true);
-    const int percent = MvPrintPlacement(*m_printer, m_extent, MvPrintPlacement::Size::Fitting).percent();
-    m_size->addItem(tr("Eingepasst (%1 %)").arg(percent), int(MvPrintPlacement::Size::Fitting));
+    m_size->addItem({}, int(MvPrintPlacement::Size::Fitting));
     m_size->addItem(tr("Originalgröße"), int(MvPrintPlacement::Size::Original));
-    auto *label = new QLabel(tr("&Größe:"), row);
+    auto *label = new QLabel(tr("&Größe:"), m_sizeRow);
     label->setBuddy(m_size);
-    auto *line = new QHBoxLayout(row);
+    auto *line = new QHBoxLayout(m_sizeRow);
     line->setContentsMargins({});
     line->addWidget(label);
     line->addWidget(m_size);
     line->addWidget(m_sizeNote, 1);
-    row->setVisible(percent < 100);
     connect(m_size, &QComboBox::currentIndexChanged, this, [this] {
         tellSize();
         m_preview->updatePreview();
     });
     tellSize();
-    return row;
+    return m_sizeRow;
+}
+
+void MvPrintPreview::followPrinter()
+{
+    tellSize();
+    m_preview->updatePreview();
 }
 
 void MvPrintPreview::tellSize()
 {
+    const int percent = MvPrintPlacement(*m_printer, m_extent, MvPrintPlacement::Size::Fitting).percent();
+    m_size->setItemText(0, tr("Eingepasst (%1 %)").arg(percent));
+    m_sizeRow->setVisible(percent < 100);
     const QString margin = QLocale().toString(MvPrintPlacement::whiteMargin(*m_printer), 'f', 1);
     m_sizeNote->setText(printSize() == MvPrintPlacement::Size::Fitting
                             ? tr("Verkleinert, damit Texte und Tage nicht dort stehen, wo der Drucker nichts druckt "

@@ -18,8 +18,8 @@ class QToolBar;
 class QVBoxLayout;
 struct MvPrintFinding;
 
-/// Shows pages as they will be printed, to be leafed through and looked at closely, and asks for the printer and which
-/// pages it is to print. The paper is the calendar's own and not to be chosen here.
+/// Shows pages as the chosen printer will print them, to be leafed through and looked at closely, and asks which of
+/// them it is to print. The paper is the calendar's own and not to be chosen here.
 class MvPrintPreview : public QDialog
 {
     Q_OBJECT
@@ -37,6 +37,8 @@ public:
     /// How large the pages are to be printed.
     MvPrintPlacement::Size printSize() const;
     QPrinter *printer() const { return m_printer.get(); }
+    /// Shows the pages as the printer places them now, after another one was chosen or it was set up otherwise.
+    void followPrinter();
 
 Q_SIGNALS:
     /// The printer has been told what to print, and the dialog closes.
@@ -50,6 +52,7 @@ private:
     void addFindings(QVBoxLayout *column);
     QAction *addAction(QToolBar *bar, const QString &name, const QString &text, const QList<QKeySequence> &keys);
     QToolBar *createToolBar();
+    QWidget *createPrinterRow();
     QWidget *createSizeRow();
     void tellSize();
     void showPage(int page);
@@ -62,6 +65,7 @@ private:
     MvPrintWatch *m_watch;
     QLabel *m_page;
     QComboBox *m_size;
+    QWidget *m_sizeRow;
     QLabel *m_sizeNote;
     QAction *m_previous = nullptr;
     QAction *m_next = nullptr;
