@@ -26,7 +26,7 @@ bool MvEntriesInput::isProject(const QString &file)
     return opened.isOk() && opened.file->peek(4096).contains("<calendarproject");
 }
 
-MvEntryReading MvEntriesInput::readStandardInput()
+MvEntryReading MvEntriesInput::readStandardInput(const MvLocale &language)
 {
     QFile input;
     const QByteArray bytes =
@@ -36,7 +36,7 @@ MvEntryReading MvEntriesInput::readStandardInput()
     if (bytes.size() > MvEntryIntake::largestFile)
         reading.error = tr("%1: mehr als %2 MB").arg(name).arg(MvEntryIntake::largestFile >> 20);
     else
-        reading = MvEntryIntake::read(bytes, name);
+        reading = MvEntryIntake::read(bytes, name, language);
     return reading;
 }
 
@@ -50,18 +50,19 @@ MvEntryReading MvEntriesInput::readProject(const QString &file)
         reading.events = content.entries->events;
         reading.skipped = content.entries->skipped;
     } else if (reading.isOk() && !content.document.entriesFile().isEmpty()) {
-        reading = MvEntryIntake::read(QFileInfo(content.document.entriesFile()));
+        reading =
+            MvEntryIntake::read(QFileInfo(content.document.entriesFile()), content.document.holidayConfig().language());
     } else if (reading.isOk()) { // it shows those of the user
         reading.events = MvCalendarEventRegistry::instance().ownEvents();
     }
     return reading;
 }
 
-MvEntryReading MvEntriesInput::read(const QString &file)
+MvEntryReading MvEntriesInput::read(const QString &file, const MvLocale &language)
 {
     if (isStandardStream(file))
-        return readStandardInput();
-    return isProject(file) ? readProject(file) : MvEntryIntake::read(QFileInfo(file));
+        return readStandardInput(language);
+    return isProject(file) ? readProject(file) : MvEntryIntake::read(QFileInfo(file), language);
 }
 
 void MvEntriesInput::printSkipped(const MvEntryReading &reading, const QString &file, QTextStream &hints)

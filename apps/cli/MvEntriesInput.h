@@ -18,12 +18,13 @@ public:
     /// A calendar of this program: its entries are part of it.
     static bool isProject(const QString &file);
 
-    /// A list, an iCalendar, a table, visiting cards, or the entries of a calendar of this program.
-    static MvEntryReading read(const QString &file);
+    /// A list, an iCalendar, a table, visiting cards, or the entries of a calendar of this program. The language is
+    /// that of the calendar that shows them (MvEntryIntake).
+    static MvEntryReading read(const QString &file, const MvLocale &language = {});
     /// Lines for a person: what was left out, and what of the others.
     static void printSkipped(const MvEntryReading &reading, const QString &file, QTextStream &hints);
 
 private:
-    static MvEntryReading readStandardInput();
+    static MvEntryReading readStandardInput(const MvLocale &language);
     static MvEntryReading readProject(const QString &file);
 };

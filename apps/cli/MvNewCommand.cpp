@@ -63,7 +63,9 @@ MvCliCommand::Result MvNewCommand::run(const MvCliArguments &arguments, const St
     MvProjectFile::Entries list;
     if (values.has(u"entries"_s) || values.has(u"my-entries"_s)) {
         const MvRenderEntries entries =
-            values.has(u"entries"_s) ? MvRenderEntries::ofFile(values.text(u"entries"_s)) : MvRenderEntries::own();
+            values.has(u"entries"_s)
+                ? MvRenderEntries::ofFile(values.text(u"entries"_s), project.document.holidayConfig().language())
+                : MvRenderEntries::own();
         if (!entries.error().isEmpty())
             return failed(entries.error());
         entries.printHints(streams.hints);

@@ -194,7 +194,7 @@ MvRenderEntries MvRenderCommand::takeEntries(const MvCliValues &values, const Mv
     if (values.has(u"my-entries"_s))
         entries = MvRenderEntries::own();
     else if (values.has(u"entries"_s))
-        entries = MvRenderEntries::ofFile(values.text(u"entries"_s));
+        entries = MvRenderEntries::ofFile(values.text(u"entries"_s), document.holidayConfig().language());
     document.setFeature(FEATURE_ENTRIES, entries.areShown());
     return entries;
 }

@@ -26,14 +26,14 @@ bool isListFile(const QString &path)
 
 } // namespace
 
-MvRenderEntries MvRenderEntries::ofFile(const QString &path)
+MvRenderEntries MvRenderEntries::ofFile(const QString &path, const MvLocale &language)
 {
     MvRenderEntries entries;
     entries.m_isFile = true;
     entries.m_isList = isListFile(path);
     MvCalendarEventFile::Content content;
     if (!entries.m_isList) {
-        const MvEntryReading reading = MvEntriesInput::read(path);
+        const MvEntryReading reading = MvEntriesInput::read(path, language);
         content.events = reading.events;
         content.error = reading.error;
         content.skipped = reading.skipped;
@@ -64,7 +64,7 @@ MvRenderEntries MvRenderEntries::ofProject(const MvCliProject &project)
     if (!project.document.holidayConfig().hasFeatures(FEATURE_ENTRIES))
         return {};
     if (!project.entries)
-        return file.isEmpty() ? own() : ofFile(file);
+        return file.isEmpty() ? own() : ofFile(file, project.document.holidayConfig().language());
     MvRenderEntries entries;
     entries.take(*project.entries, project.file);
     return entries;

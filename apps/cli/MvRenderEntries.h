@@ -20,9 +20,9 @@ class MvRenderEntries
     Q_DECLARE_TR_FUNCTIONS(MvRenderEntries)
 
 public:
-    /// Those of a file of any kind (MvEntriesInput), or of standard input; nothing is stored, and the user's own ones
-    /// stay as they are.
-    static MvRenderEntries ofFile(const QString &path);
+    /// Those of a file of any kind (MvEntriesInput), or of standard input, for a calendar in that language; nothing is
+    /// stored, and the user's own ones stay as they are.
+    static MvRenderEntries ofFile(const QString &path, const MvLocale &language);
     /// Those that a calendar shows: of its own list, of the list in a file that it names, or the user's; none where no
     /// page shows entries.
     static MvRenderEntries ofProject(const MvCliProject &project);

@@ -3205,32 +3205,16 @@
         <translation>The pages are being checked …</translation>
     </message>
     <message>
-        <source>Bildschirm und eigener Drucker</source>
-        <translation>Screen and own printer</translation>
-    </message>
-    <message>
-        <source>Druckerei, glattes Papier (FOGRA39)</source>
-        <translation>Print shop, smooth paper (FOGRA39)</translation>
-    </message>
-    <message>
-        <source>Druckerei, raues Papier (FOGRA29)</source>
-        <translation>Print shop, rough paper (FOGRA29)</translation>
-    </message>
-    <message>
-        <source>Druckerei in Amerika (GRACoL)</source>
-        <translation>Print shop in America (GRACoL)</translation>
-    </message>
-    <message>
-        <source>Für eine Druckerei entsteht ein PDF/X-4 in Druckfarben, mit Schnittmarken und Angaben neben der Seite. Fragen Sie dort, was gewünscht ist</source>
-        <translation>For a print shop it becomes a PDF/X-4 in printing inks, with crop marks and details beside the page. Ask there what is wanted</translation>
-    </message>
-    <message>
         <source>&amp;Wofür:</source>
         <translation>&amp;What for:</translation>
     </message>
     <message>
         <source>B&amp;lätter:</source>
         <translation>S&amp;heets:</translation>
+    </message>
+    <message>
+        <source>nicht für eine Druckerei, die ihre Bögen selbst anlegt</source>
+        <translation>not for a print shop, which lays out its own sheets</translation>
     </message>
 </context>
 <context>
@@ -5903,6 +5887,57 @@ The context menu replaces it by another photo.</translation>
     </message>
 </context>
 <context>
+    <name>MvPressChoice</name>
+    <message>
+        <source>&amp;Farbfotos bleiben in sRGB</source>
+        <translation>Colour photos stay in &amp;sRGB</translation>
+    </message>
+    <message>
+        <source>nur für eine Druckerei</source>
+        <translation>only for a print shop</translation>
+    </message>
+    <message>
+        <source>Bildschirm und eigener Drucker</source>
+        <translation>Screen and own printer</translation>
+    </message>
+    <message>
+        <source>Druckerei, glattes Papier (FOGRA39)</source>
+        <translation>Print shop, smooth paper (FOGRA39)</translation>
+    </message>
+    <message>
+        <source>Druckerei, raues Papier (FOGRA29)</source>
+        <translation>Print shop, rough paper (FOGRA29)</translation>
+    </message>
+    <message>
+        <source>Druckerei in Amerika (GRACoL)</source>
+        <translation>Print shop in America (GRACoL)</translation>
+    </message>
+    <message>
+        <source>Für eine Druckerei entsteht ein PDF/X-4 in Druckfarben, mit Schnittmarken und Angaben neben der Seite. Fragen Sie dort, was gewünscht ist</source>
+        <translation>For a print shop it becomes a PDF/X-4 in printing inks, with crop marks and details beside the page. Ask there what is wanted</translation>
+    </message>
+    <message>
+        <source>Beschnitt, wo die Seite keinen hat</source>
+        <translation>Bleed where the page has none</translation>
+    </message>
+    <message>
+        <source>Rand gespiegelt</source>
+        <translation>Edge mirrored</translation>
+    </message>
+    <message>
+        <source>Rand ausgezogen</source>
+        <translation>Edge stretched</translation>
+    </message>
+    <message>
+        <source>Woraus der Beschnitt wird, wo die Seite keinen eigenen hat: ihr Rand wird nach außen gespiegelt, oder seine Farben werden ausgezogen</source>
+        <translation>What the bleed is made of where the page has none of its own: its edge is mirrored outwards, or the edge's colours are drawn out</translation>
+    </message>
+    <message>
+        <source>Farbfotos behalten ihre Farben und ihr Farbprofil; die Druckerei rechnet sie selbst in Druckfarben um</source>
+        <translation>Photos in colour keep their colours and their colour profile; the print shop turns them into printing inks itself</translation>
+    </message>
+</context>
+<context>
     <name>MvPressOptions</name>
     <message>
         <source>PROFIL</source>
@@ -6199,6 +6234,10 @@ The context menu replaces it by another photo.</translation>
     <message>
         <source>Was näher als %1 mm am Rand steht, kann fehlen.</source>
         <translation>What is nearer than %1 mm to the edge may be missing.</translation>
+    </message>
+    <message>
+        <source>D&amp;rucker:</source>
+        <translation>P&amp;rinter:</translation>
     </message>
 </context>
 <context>
@@ -7122,6 +7161,18 @@ Save it under another name or in another folder.</translation>
         <source>Mit Schnittmarken; die geschnittenen Stapel ergeben aufeinandergelegt den Kalender</source>
         <translation>With marks for cutting; the cut stacks, laid on each other, are the calendar</translation>
     </message>
+    <message>
+        <source>Be&amp;idseitig</source>
+        <translation>Two-s&amp;ided</translation>
+    </message>
+    <message>
+        <source>nur zum Schneiden</source>
+        <translation>only for cutting</translation>
+    </message>
+    <message>
+        <source>Die nächste Seite auf der Rückseite: Drucken Sie beidseitig, wie es unten steht</source>
+        <translation>The next page on the back: print on both sides, as it says below</translation>
+    </message>
 </context>
 <context>
     <name>MvSheetOptions</name>
@@ -7187,19 +7238,6 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>%1 Seiten haben auf dem Blatt (%2) keinen Platz</source>
         <translation>%1 pages have no room on the sheet (%2)</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <comment>a tile: its column and row of the last one&apos;s</comment>
-        <translation>%1 of %2</translation>
-    </message>
-    <message>
-        <source>Blatt %1 von %2</source>
-        <translation>Sheet %1 of %2</translation>
-    </message>
-    <message>
-        <source>%1, Rückseite</source>
-        <translation>%1, back</translation>
     </message>
     <message>
         <source>Jede Seite wird zu %1 × %2 Blättern (%3).</source>
@@ -8496,10 +8534,6 @@ Designs photo calendars and prints them.
 </context>
 <context>
     <name>MvVCardBirthdays</name>
-    <message>
-        <source>%1 (Jahrestag)</source>
-        <translation>%1 (anniversary)</translation>
-    </message>
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>

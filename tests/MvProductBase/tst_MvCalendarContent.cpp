@@ -2,6 +2,7 @@
 #include "MvProductBase/MvCalendarWordsRegistry.h"
 #include "MvProductBase/MvCalendariumContentKey.h"
 #include "MvProductBase/MvCalendariumHolidayCacheKey.h"
+#include "MvProductBase/MvCalendariumHolidayCalculator.h"
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
 #include "MvProductBase/MvCalendariumHolidayType.h"
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void contentMoves();
     void words_data();
     void words();
+    void wordsBesidePages();
     void weekOptions();
 };
 
@@ -178,6 +180,21 @@ void tst_MvCalendarContent::words()
     }
     QCOMPARE(registry.weekShort(MvLocale(u"ja_JP"_s)), u"W"_s);
     QCOMPARE(registry.schoolYear(MvLocale(u"ja_JP"_s), u"2026"_s), u"2026"_s);
+}
+
+/// English is what a language says that has no words.
+void tst_MvCalendarContent::wordsBesidePages()
+{
+    const MvCalendarWordsRegistry &registry = MvCalendarWordsRegistry::instance();
+    const MvCalendarWordsRegistry::Sheets english;
+    QCOMPARE(registry.sheets(MvLocale(u"ja_JP"_s)).sheet, english.sheet);
+    for (const MvLocale &language : MvCalendariumHolidayCalculator::instance().availableLanguages()) {
+        const MvCalendarWordsRegistry::Sheets words = registry.sheets(language);
+        const QString all = words.sheet + words.tile + words.back + registry.anniversary(language, u"Anna"_s);
+        QCOMPARE(all.count(u"%1"_s) + all.count(u"%2"_s) + all.count(u"Anna"_s), 6);
+        QVERIFY2((words.sheet == english.sheet) == (language.language() == u"en"_s), qPrintable(language.name()));
+        QVERIFY2(all.contains(u"anniversary"_s) == (language.language() == u"en"_s), qPrintable(language.name()));
+    }
 }
 
 void tst_MvCalendarContent::weekOptions()

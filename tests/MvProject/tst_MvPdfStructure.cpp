@@ -5,6 +5,7 @@
 #include "MvPaint/MvPaintMark.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
+#include "MvProject/MvSheetSettings.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
 
@@ -50,6 +51,10 @@ public:
                 problems.append(u"numbers do not rise"_s);
         } else if (name == "EMC") {
             m_open.isEmpty() ? problems.append(u"one end too many"_s) : m_open.removeLast();
+        } else if (name == "Do" && isPage(m_last)) {
+            if (m_open.contains(true))
+                problems.append(u"a page within a part"_s);
+            pages.append(m_last.getName().c_str());
         } else if (painting.contains(name) && m_open.count(true) != 1) {
             problems.append(u"%1 is in %2 parts"_s.arg(QString::fromStdString(name)).arg(m_open.count(true)));
         }
@@ -61,9 +66,12 @@ public:
     }
 
     int parts = 0;
+    QByteArrayList pages; // of a sheet
     QStringList problems;
 
 private:
+    static bool isPage(Object name) { return name.isName() && name.getName()[1] == 'P'; }
+
     Object m_last = Object::newNull();
     QList<bool> m_open;
 };
@@ -85,14 +93,13 @@ public:
         for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(m_pdf).getAllPages()) {
             Content content;
             page.parseContents(&content);
-            problems += content.problems;
-            Object own = Object::newArray();
-            owners.findObject(page.getObjectHandle().getKey("/StructParents").getIntValue(), own);
-            if (own.getArrayNItems() != content.parts)
-                problems.append(u"owners of %1 parts for %2"_s.arg(own.getArrayNItems()).arg(content.parts));
-            for (int part = 0; part < content.parts; ++part) {
-                if (m_owners[{page.getObjectHandle().getObjectID(), part}] != own.getArrayItem(part).getObjectID())
-                    problems.append(u"part %1 has another owner"_s.arg(part));
+            checkOwners(content, page.getObjectHandle(), page.getObjectHandle().getObjectID(), owners);
+            Object forms = page.getAttribute("/Resources", false).getKey("/XObject");
+            for (const QByteArray &name : content.pages) {
+                Object form = forms.getKey(name.toStdString());
+                Content onSheet;
+                form.parseAsContents(&onSheet);
+                checkOwners(onSheet, form.getDict(), form.getObjectID(), owners);
             }
         }
     }
@@ -110,8 +117,25 @@ public:
 
     QStringList problems;
     QStringList types;
+    QStringList boxes; ///< of pictures
 
 private:
+    void checkOwners(const Content &content, Object holder, int object, QPDFNumberTreeObjectHelper &owners)
+    {
+        problems += content.problems;
+        Object own = Object::newArray();
+        if (holder.hasKey("/StructParents"))
+            owners.findObject(holder.getKey("/StructParents").getIntValue(), own);
+        if (own.getArrayNItems() != content.parts)
+            problems.append(u"owners of %1 parts for %2"_s.arg(own.getArrayNItems()).arg(content.parts));
+        if (content.parts > 0 && !m_read.insert(object).second)
+            problems.append(u"parts that are there twice"_s);
+        for (int part = 0; part < content.parts; ++part) {
+            if (m_owners[{object, part}] != own.getArrayItem(part).getObjectID())
+                problems.append(u"part %1 has another owner"_s.arg(part));
+        }
+    }
+
     static QString type(Object element)
     {
         return element.hasKey("/S") ? QString::fromStdString(element.getKey("/S").getName()).mid(1) : QString();
@@ -136,7 +160,10 @@ private:
                 m_texts[{number, key}] = QString::fromStdString(element.getKey(key).getUTF8Value());
         }
         for (Object part : inside(element)) {
-            if (part.isDictionary())
+            if (part.isDictionary() && part.hasKey("/MCID"))
+                m_owners[{part.getKey("/Stm").getObjectID(), int(part.getKey("/MCID").getIntValue())}] =
+                    element.getObjectID();
+            else if (part.isDictionary())
                 walk(part, element);
             else if (part.isInteger())
                 m_owners[{element.getKey("/Pg").getObjectID(), int(part.getIntValue())}] = element.getObjectID();
@@ -147,6 +174,8 @@ private:
     {
         if (name == u"Figure" && (!element.hasKey("/Alt") || !element.getKey("/A").hasKey("/BBox")))
             problems.append(u"a figure without description or place"_s);
+        if (name == u"Figure")
+            boxes.append(QString::fromStdString(element.getKey("/A").getKey("/BBox").unparse()));
         if (name == u"TH" && !element.getKey("/A").hasKey("/Scope"))
             problems.append(u"a head of nothing"_s);
         const QString expected =
@@ -173,7 +202,8 @@ private:
     }
 
     QPDF m_pdf;
-    std::map<std::pair<int, int>, int> m_owners;               // by page and number
+    std::set<int> m_read;
+    std::map<std::pair<int, int>, int> m_owners;               // by page or its form, and number
     std::map<std::pair<size_t, std::string>, QString> m_texts; // by element and key
 };
 
@@ -218,19 +248,21 @@ private Q_SLOTS:
     void picturesAreDescribed();
     void promisesWhatItKeeps_data();
     void promisesWhatItKeeps();
+    void sheetsAreRead_data();
+    void sheetsAreRead();
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    QString write(const MvPageSource &pages) const;
+    QString write(const MvPageSource &pages, const MvSheetSettings &sheets = {}) const;
     QString january(const QString &layout) const;
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 
-QString tst_MvPdfStructure::write(const MvPageSource &pages) const
+QString tst_MvPdfStructure::write(const MvPageSource &pages, const MvSheetSettings &sheets) const
 {
     const QString file = path(u"k.pdf"_s);
-    const bool isWritten = MvPdfExporter::write(pages, QFileInfo(file)).isOk();
+    const bool isWritten = MvPdfExporter::write(pages, QFileInfo(file), nullptr, 1, {}, sheets).isOk();
     return isWritten && outputOf(u"qpdf"_s, {u"--check"_s, file}).contains(u"No syntax"_s) ? file : QString();
 }
 
@@ -389,6 +421,42 @@ void tst_MvPdfStructure::promisesWhatItKeeps()
     const QString metadata = outputOf(u"pdfinfo"_s, {u"-meta"_s, write(source)});
     QVERIFY(metadata.contains(u"dc:title"_s));
     QTEST(metadata.contains(u"pdfua/ns/id/\">1<"_s), "isForEverybody");
+}
+
+void tst_MvPdfStructure::sheetsAreRead_data()
+{
+    using Sheets = MvSheetSettings;
+    QTest::addColumn<MvSheetSettings>("sheets");
+    QTest::addColumn<QList<int>>("months");
+    const QSizeF a4(2100, 2970);
+    QTest::newRow("tiles") << Sheets{Sheets::Kind::Tiles, {1050, 1480}} << QList<int>{1, 2, 3, 4};
+    QTest::newRow("two on a sheet") << Sheets{Sheets::Kind::Several, a4} << QList<int>{1, 2, 3, 4};
+    QTest::newRow("stacks") << Sheets{Sheets::Kind::Several, a4, 50, 0, 2, true} << QList<int>{1, 3, 2, 4};
+}
+
+/// Each page once, in the order of the sheets, as it would be read by itself.
+void tst_MvPdfStructure::sheetsAreRead()
+{
+    QFETCH(const MvSheetSettings, sheets);
+    QFETCH(const QList<int>, months);
+    MvProjectFixture::writeFoto(path(u"foto.png"_s), {300, 200});
+    MvCalendarDocument calendar = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 4);
+    calendar.setTitle(u"Kalender"_s);
+    for (int month = 0; month < 4; ++month)
+        MvProjectFixture::setFoto(calendar, month, MvFotoFrame(path(u"foto.png"_s), MvFotoFrame::Placement::Top));
+    const MvPageSource source = calendar.pageSource();
+    const Structure pages(write(source));
+    const QString file = write(source, sheets);
+    const Structure structure(file);
+    QCOMPARE(structure.problems.join(u'\n'), QString());
+    QStringList names;
+    for (const int month : months)
+        names.append(source.names[month - 1]);
+    QCOMPARE(structure.texts("/T"), names);
+    QCOMPARE(structure.types.count(u"TD"_s), pages.types.count(u"TD"_s));
+    QCOMPARE(QSet<QString>(structure.boxes.begin(), structure.boxes.end()).size(),
+             sheets.kind == MvSheetSettings::Kind::Several ? 2 : 1); // two places on a sheet
+    QVERIFY(outputOf(u"pdfinfo"_s, {u"-meta"_s, file}).contains(u"pdfua/ns/id/\">1<"_s));
 }
 
 MV_TEST_MAIN(tst_MvPdfStructure)

@@ -397,6 +397,11 @@ void tst_mvcalendar::entriesOfOtherPrograms()
     const QByteArray uid = exported.out.mid(exported.out.indexOf("UID:"), 40);
     const QByteArray own = run(u"entries list k.mvcalendar --format ics"_s).out;
     QVERIFY2(own.contains(uid) && own.contains("SUMMARY:Klaus"), own.constData());
+    const QByteArray wedding =
+        "BEGIN:VCARD\nFN:Anna\nANNIVERSARY:20100612\nEND:VCARD\n"; // named as the calendar speaks
+    const QString french = u"new --entries - --country FR --from 2027-06 --months 1 -o f.mvcalendar"_s;
+    QCOMPARE(run(french, {}, 0, wedding).exitCode, 0);
+    QVERIFY(run(u"entries list f.mvcalendar"_s).out.contains("Anna (anniversaire de mariage)"));
     const QByteArray days =
         run(u"entries export e.xml --holidays --vacations --region BY --year 2027 --format ics"_s).out;
     QVERIFY(days.contains("SUMMARY:Klaus") && days.contains("DTEND;VALUE=DATE:20270914")); // the day after

@@ -8,6 +8,7 @@
 #include "MvCore/MvBackground.h"
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
+#include "MvProject/MvProject.h"
 #include "common/MvProgressDialog.h"
 #include "common/MvStudioMessage.h"
 #include "common/MvStudioSettings.h"
@@ -32,9 +33,10 @@ constexpr int progressSteps = 1000;
 
 } // namespace
 
-MvBirthdayImport::MvBirthdayImport(MvSession &session, QWidget *window)
+MvBirthdayImport::MvBirthdayImport(MvProject *project, QWidget *window)
     : QObject(window)
-    , m_session(session)
+    , m_project(project)
+    , m_session(project->session())
     , m_window(window)
 {
     connect(&m_progressTimer, &QTimer::timeout, this, &MvBirthdayImport::showProgress);
@@ -67,7 +69,9 @@ void MvBirthdayImport::import(const QStringList &files)
     QList<QFileInfo> infos;
     for (const QString &file : files)
         infos.append(QFileInfo(file));
-    m_import = std::make_shared<MvAddressBookImport>(infos);
+    const MvCalendarDocument &calendar = m_project->document();
+    m_import = std::make_shared<MvAddressBookImport>(infos, calendar.isValid() ? calendar.holidayConfig().language()
+                                                                               : MvLocale());
     m_calendar.emplace(m_session);
     runInBackground([](MvAddressBookImport &import) { import.readCards(); }, &MvBirthdayImport::askForOrder);
 }

@@ -15,6 +15,7 @@
 
 class MvAddressBookImport;
 class MvProgressDialog;
+class MvProject;
 class MvSession;
 class QWidget;
 
@@ -29,8 +30,8 @@ class MvBirthdayImport : public QObject
     Q_OBJECT
 
 public:
-    /// Adds to the entries of the session. The window is the parent of all dialogs.
-    MvBirthdayImport(MvSession &session, QWidget *window);
+    /// Adds to the entries of the project's session, and outlives neither. The window is the parent of all dialogs.
+    MvBirthdayImport(MvProject *project, QWidget *window);
     ~MvBirthdayImport() override;
 
     bool isRunning() const { return m_import != nullptr; }
@@ -57,6 +58,7 @@ private:
     void showProgress();
     void hideProgress();
 
+    MvProject *m_project;
     MvSession &m_session;
     QWidget *m_window;
     std::shared_ptr<MvAddressBookImport> m_import; // while it runs

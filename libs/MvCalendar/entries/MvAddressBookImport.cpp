@@ -12,8 +12,9 @@
 
 using namespace Qt::StringLiterals;
 
-MvAddressBookImport::MvAddressBookImport(const QList<QFileInfo> &files)
+MvAddressBookImport::MvAddressBookImport(const QList<QFileInfo> &files, const MvLocale &language)
     : m_files(files)
+    , m_language(language)
     , m_fotoFolder(MvCalendarEvent::imageDirectory())
 {
     for (const QFileInfo &file : files)
@@ -61,7 +62,7 @@ void MvAddressBookImport::makeEntries(const MvCalendarEventList &known, MvVCardD
 MvAddressBookImport::EventsByCard MvAddressBookImport::makeEvents(const MvCalendarEventList &known,
                                                                   MvVCardDate::Order order)
 {
-    const MvVCardBirthdays::Result result = m_birthdays.result(order);
+    const MvVCardBirthdays::Result result = m_birthdays.result(order, m_language);
     m_report.notUnderstood = result.notUnderstood;
     MvCalendarEventList all;
     QHash<QUuid, int> cards;
@@ -91,7 +92,7 @@ void MvAddressBookImport::copyFotos(EventsByCard wanted)
             const QList<qsizetype> events = wanted.take(number++);
             // somebody may have written the file anew since: then its cards are others, and this is not their photo
             if (!events.isEmpty() && !card.name.isEmpty() &&
-                m_events.at(events.first()).description().startsWith(card.name))
+                m_events.at(events.first()).description().contains(card.name))
                 copyFoto(card, events);
         }
         m_bytesBefore += file.size();

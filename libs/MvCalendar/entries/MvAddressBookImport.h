@@ -38,7 +38,8 @@ public:
         QStringList errors;             // of files
     };
 
-    explicit MvAddressBookImport(const QList<QFileInfo> &files);
+    /// The language is that of the calendar, in which a wedding is named; at first the program's.
+    explicit MvAddressBookImport(const QList<QFileInfo> &files, const MvLocale &language = {});
     ~MvAddressBookImport();
     MvAddressBookImport(const MvAddressBookImport &) = delete;
     MvAddressBookImport &operator=(const MvAddressBookImport &) = delete;
@@ -71,6 +72,7 @@ private:
     bool goOn(qint64 bytesRead);
 
     const QList<QFileInfo> m_files;
+    const MvLocale m_language;
     const QDir m_fotoFolder;
     qint64 m_totalBytes = 0;
     MvVCardBirthdays m_birthdays;

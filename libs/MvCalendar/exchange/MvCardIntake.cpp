@@ -16,6 +16,10 @@ namespace {
 class Reading
 {
 public:
+    explicit Reading(const MvLocale &language)
+        : m_language(language)
+    {}
+
     MvEntryReading of(const QByteArray &bytes)
     {
         QBuffer buffer;
@@ -42,7 +46,7 @@ private:
             if (card.name.isEmpty())
                 m_result.skipped.append({card.line, {}, MvCardIntake::tr("der Name fehlt")});
         }
-        const MvVCardBirthdays::Result result = m_birthdays.result();
+        const MvVCardBirthdays::Result result = m_birthdays.result(MvVCardDate::Order::Unknown, m_language);
         for (qsizetype i = 0; i < result.notUnderstood.size(); ++i) {
             const MvVCard card = m_cards.value(result.cardsOfNotUnderstood.at(i));
             const MvVCardDate &date = card.birthday.date().isValid() ? card.anniversary : card.birthday;
@@ -93,6 +97,7 @@ private:
         return {};
     }
 
+    const MvLocale m_language;
     MvEntryReading m_result;
     MvVCardBirthdays m_birthdays;
     QHash<int, MvVCard> m_cards; // with dates, by number
@@ -101,7 +106,7 @@ private:
 
 } // namespace
 
-MvEntryReading MvCardIntake::read(const QByteArray &bytes)
+MvEntryReading MvCardIntake::read(const QByteArray &bytes, const MvLocale &language)
 {
-    return Reading().of(bytes);
+    return Reading(language).of(bytes);
 }

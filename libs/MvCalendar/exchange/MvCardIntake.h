@@ -13,6 +13,6 @@ class MvCardIntake
     Q_DECLARE_TR_FUNCTIONS(MvCardIntake)
 
 public:
-    /// Photos lie in the reading's folder.
-    static MvEntryReading read(const QByteArray &bytes);
+    /// Photos lie in the reading's folder. The language is that in which a wedding is named.
+    static MvEntryReading read(const QByteArray &bytes, const MvLocale &language);
 };

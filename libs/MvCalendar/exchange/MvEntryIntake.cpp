@@ -101,7 +101,7 @@ bool MvEntryIntake::isTable(const QFileInfo &file)
     return opened.isOk() && opened.file->size() <= largestFile && kindOf(opened.file->peek(looked)) == Kind::Table;
 }
 
-MvEntryReading MvEntryIntake::read(const QFileInfo &file)
+MvEntryReading MvEntryIntake::read(const QFileInfo &file, const MvLocale &language)
 {
     const MvRegularFile::Opened opened = MvRegularFile::open(file);
     const QString name = QDir::toNativeSeparators(file.filePath());
@@ -113,11 +113,11 @@ MvEntryReading MvEntryIntake::read(const QFileInfo &file)
     else if (opened.file->size() > largestFile)
         reading.error = tr("%1: Die Datei ist größer als %2 MB.").arg(name).arg(largestFile >> 20);
     else
-        reading = read(opened.file->readAll(), name);
+        reading = read(opened.file->readAll(), name, language);
     return reading;
 }
 
-MvEntryReading MvEntryIntake::read(const QByteArray &bytes, const QString &name)
+MvEntryReading MvEntryIntake::read(const QByteArray &bytes, const QString &name, const MvLocale &language)
 {
     MvEntryReading reading;
     switch (kindOf(bytes)) {
@@ -137,7 +137,7 @@ MvEntryReading MvEntryIntake::read(const QByteArray &bytes, const QString &name)
         return reading; // which says its name itself
     }
     case Kind::Cards:
-        reading = MvCardIntake::read(bytes);
+        reading = MvCardIntake::read(bytes, language);
         break;
     case Kind::Unknown:
         reading.error = tr("Das ist weder eine Liste von Einträgen noch ein Kalender (iCalendar), eine Tabelle (CSV) "

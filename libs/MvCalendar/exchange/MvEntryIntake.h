@@ -5,6 +5,8 @@
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/mvcalendar_export.h"
 
+#include "MvCore/MvLocale.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QList>
@@ -56,10 +58,11 @@ public:
     static Kind kindOf(const QByteArray &begin);
     /// Whether the file is a table: what its columns are is a guess, which a person should see first.
     static bool isTable(const QFileInfo &file);
-    /// Reads a list of entries, an iCalendar, a table or visiting cards. Any thread.
-    static MvEntryReading read(const QFileInfo &file);
+    /// Reads a list of entries, an iCalendar, a table or visiting cards. The language is that in which entries say what
+    /// cards do not, that a day is a wedding's; at first the program's. Any thread.
+    static MvEntryReading read(const QFileInfo &file, const MvLocale &language = {});
     /// The same of bytes; the name is for messages.
-    static MvEntryReading read(const QByteArray &bytes, const QString &name);
+    static MvEntryReading read(const QByteArray &bytes, const QString &name, const MvLocale &language = {});
 
     /// The same in the form of a list that was read: a list itself, or what other programs write of one; no visiting
     /// cards, whose photos belong to the reading.

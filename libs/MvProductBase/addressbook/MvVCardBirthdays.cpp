@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvVCardBirthdays.h"
 
+#include "MvCore/MvApplicationLocale.h"
+#include "MvProductBase/MvCalendarWordsRegistry.h"
+
 using namespace Qt::StringLiterals;
 
 using Order = MvVCardDate::Order;
@@ -42,16 +45,17 @@ MvVCardDate MvVCardBirthdays::openExample() const
     return {};
 }
 
-MvVCardBirthdays::Person MvVCardBirthdays::personOf(const Entry &entry, const QDate &date)
+MvVCardBirthdays::Person MvVCardBirthdays::personOf(const Entry &entry, const QDate &date, const MvLocale &language)
 {
     const QUuid uuid = entry.card.uuid(date);
     if (!entry.isAnniversary)
         return {entry.card.name, date, uuid, entry.cardNumber};
-    return {tr("%1 (Jahrestag)").arg(entry.card.name), date, QUuid::createUuidV5(uuid, u"anniversary"_s),
-            entry.cardNumber};
+    const QString name = MvCalendarWordsRegistry::instance().anniversary(
+        language.isValid() ? language : MvLocale(MvApplicationLocale::instance().locale().name()), entry.card.name);
+    return {name, date, QUuid::createUuidV5(uuid, u"anniversary"_s), entry.cardNumber};
 }
 
-MvVCardBirthdays::Result MvVCardBirthdays::result(Order order) const
+MvVCardBirthdays::Result MvVCardBirthdays::result(Order order, const MvLocale &language) const
 {
     Result result;
     QHash<QUuid, QString> known; // name and date by uuid
@@ -63,7 +67,7 @@ MvVCardBirthdays::Result MvVCardBirthdays::result(Order order) const
             result.cardsOfNotUnderstood.append(entry.cardNumber);
             continue;
         }
-        Person person = personOf(entry, date);
+        Person person = personOf(entry, date, language);
         const QString content = person.name + u'|' + date.toString(Qt::ISODate);
         if (known.value(person.uuid, content) != content) // some programs give one UID to several people
             person.uuid = QUuid::createUuidV5(person.uuid, content);

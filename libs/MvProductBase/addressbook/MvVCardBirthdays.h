@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvLocale.h"
 #include "MvProductBase/MvVCard.h"
 #include "MvProductBase/mvproductbase_export.h"
 
@@ -49,8 +50,9 @@ public:
 
     /// A date whose order nothing settles; empty when no order has to be said.
     MvVCardDate openExample() const;
-    /// The order is for the dates that nothing else settles.
-    Result result(MvVCardDate::Order order = MvVCardDate::Order::Unknown) const;
+    /// The order is for the dates that nothing else settles; the language is that in which a wedding is named, at
+    /// first the program's.
+    Result result(MvVCardDate::Order order = MvVCardDate::Order::Unknown, const MvLocale &language = {}) const;
 
 private:
     struct Entry
@@ -66,7 +68,7 @@ private:
 
     void take(const Entry &entry);
     MvVCardDate::Order settledOrder(const Entry &entry) const;
-    static Person personOf(const Entry &entry, const QDate &date);
+    static Person personOf(const Entry &entry, const QDate &date, const MvLocale &language);
 
     QList<Entry> m_entries;
     QHash<Form, QSet<int>> m_proven; // orders that cannot be otherwise

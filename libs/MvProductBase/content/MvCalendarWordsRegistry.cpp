@@ -82,6 +82,11 @@ void MvCalendarWordsRegistry::readPhrases()
         titles.cover = MvXMLParser::textAttribute(element, u"cover"_s, titles.cover);
         titles.back = MvXMLParser::textAttribute(element, u"back"_s, titles.back);
         titles.further = MvXMLParser::textAttribute(element, u"further"_s, titles.further);
+        Sheets &sheets = phrases.sheets;
+        sheets.sheet = MvXMLParser::textAttribute(element, u"sheet"_s, sheets.sheet);
+        sheets.tile = MvXMLParser::textAttribute(element, u"tile"_s, sheets.tile);
+        sheets.back = MvXMLParser::textAttribute(element, u"sheetback"_s, sheets.back);
+        phrases.anniversary = MvXMLParser::textAttribute(element, u"anniversary"_s, phrases.anniversary);
         m_phrases.insert(MvXMLParser::textAttribute(element, u"language"_s), phrases);
     }
 }
@@ -177,6 +182,16 @@ QString MvCalendarWordsRegistry::photo(const MvLocale &language) const
 MvCalendarWordsRegistry::Titles MvCalendarWordsRegistry::titles(const MvLocale &language) const
 {
     return wordsIn(m_phrases, language, {}).titles;
+}
+
+MvCalendarWordsRegistry::Sheets MvCalendarWordsRegistry::sheets(const MvLocale &language) const
+{
+    return wordsIn(m_phrases, language, {}).sheets;
+}
+
+QString MvCalendarWordsRegistry::anniversary(const MvLocale &language, const QString &person) const
+{
+    return wordsIn(m_phrases, language, {}).anniversary.arg(person);
 }
 
 MvCalendarWordsRegistry::Patterns MvCalendarWordsRegistry::patterns(const MvLocale &language) const

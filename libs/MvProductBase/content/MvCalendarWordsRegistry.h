@@ -58,6 +58,18 @@ public:
     };
     Titles titles(const MvLocale &language) const;
 
+    /// What stands beside pages on a printer's sheets; English in a language without such words.
+    struct Sheets
+    {
+        QString sheet = QStringLiteral("Sheet %1 of %2"); // its number and that of all
+        QString tile = QStringLiteral("%1 of %2");        // its column and row and those of the last one
+        QString back = QStringLiteral("%1, back");        // the sheet
+    };
+    Sheets sheets(const MvLocale &language) const;
+
+    /// "Anna (Jahrestag)" for a person whose entry is no birthday; English in a language without such words.
+    QString anniversary(const MvLocale &language, const QString &person) const;
+
     /// How the page puts words and numbers together: with %1, %2 and so on as resources/words/patterns.xml says.
     struct Patterns
     {
@@ -85,6 +97,8 @@ private:
         QString child; // %1 is its number
         QString photo = QStringLiteral("Photo");
         Titles titles;
+        Sheets sheets;
+        QString anniversary = QStringLiteral("%1 (anniversary)");
     };
     struct Names
     {

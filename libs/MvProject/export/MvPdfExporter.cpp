@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfExporter.h"
 
+#include "MvCore/MvLocale.h"
 #include "MvCore/MvMath.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvPaint/MvPaintRecorder.h"
@@ -98,9 +99,9 @@ struct Painted : MvOutcome
 };
 
 Painted paintPages(const MvPageSource &source, QFile &file, MvExportObserver *observer, int jobs,
-                   const MvPressSettings &press, bool isForSheets)
+                   const MvPressSettings &press)
 {
-    MvPdfDocument document({source.title, source.author, source.language, isForSheets}, press);
+    MvPdfDocument document({source.title, source.author, source.language}, press);
     PageWriter writer(document, jobs != 1);
     const int total = int(source.pages.size());
     const auto tell = [&](int done) {
@@ -153,10 +154,10 @@ MvExportResult MvPdfExporter::write(const MvPageSource &source, const QFileInfo 
     if (outcome.isOk() && !(file.open() && onSheets.open()))
         outcome.error = file.isOpen() ? onSheets.errorString() : file.errorString();
     if (outcome.isOk()) {
-        painted = paintPages(source, file, observer, jobs, press, sheets.areSheets());
+        painted = paintPages(source, file, observer, jobs, press);
         outcome = painted;
         if (outcome.isOk() && sheets.areSheets() && !isCancelled(observer))
-            outcome = MvPdfSheets::write(file, onSheets, plan, source.names);
+            outcome = MvPdfSheets::write(file, onSheets, plan, source.names, MvLocale(source.language));
         if (!outcome.isOk()) // the target's disk may have room enough
             outcome.error = u"%1 (%2)"_s.arg(outcome.error, QDir::toNativeSeparators(QDir::tempPath()));
     }

@@ -51,7 +51,7 @@ QDateTime MvPdfDocument::dateOfFile()
 
 MvPdfDocument::MvPdfDocument(const Description &description, const MvPressSettings &press)
     : m_description{MvPrintableText::onOneLine(description.title), MvPrintableText::onOneLine(description.author),
-                    description.language, description.isForSheets}
+                    description.language}
     , m_press(press)
     , m_pressColors(press.isForPress() ? new MvPressColors(press.profile) : nullptr)
     , m_pageTree(m_file.reserve())
@@ -91,8 +91,7 @@ int MvPdfDocument::addPageObject(const Page &page, const MvPdfContent &painted, 
     const MvPressSheet sheet(m_press, page.trim, page.media, page.binding);
     const QRectF paper = m_press.isForPress() ? sheet.sheet() : page.media;
     const QRectF bleed = m_press.isForPress() ? sheet.bleed() : page.media;
-    const QString photo =
-        MvCalendarWordsRegistry::instance().photo(MvLocale(QString(m_description.language).replace(u'-', u'_')));
+    const QString photo = MvCalendarWordsRegistry::instance().photo(MvLocale(m_description.language));
     const QString name = MvPrintableText::onOneLine(page.name);
     const int object = m_file.reserve();
     const int inStructure =
@@ -191,8 +190,7 @@ int MvPdfDocument::addOutputIntent()
 /// Whether all can be read aloud: each letter is known, and in which language (ISO 14289-1).
 bool MvPdfDocument::isForEverybody() const
 {
-    return !m_description.isForSheets && !m_description.title.isEmpty() && !m_description.language.isEmpty() &&
-           m_fonts.areLettersKnown();
+    return !m_description.title.isEmpty() && !m_description.language.isEmpty() && m_fonts.areLettersKnown();
 }
 
 /// For programs that sort and search files; the same is said in the older form beside it.
@@ -230,7 +228,7 @@ MvOutcome MvPdfDocument::write(QFile &file)
         kids += MvPdfSyntax::reference(page) + ' ';
     m_file.set(m_pageTree, "<</Type/Pages/Kids[" + kids + "]/Count " + QByteArray::number(m_pages.size()) + ">>");
     const QByteArray bookmarks = m_bookmarks.isEmpty() ? "" : "/Outlines " + MvPdfSyntax::reference(addBookmarks());
-    const QByteArray structure = m_description.isForSheets ? QByteArray() : m_structure.finish();
+    const QByteArray structure = m_structure.finish();
     // a calendar is printed in its true size
     m_file.setCatalog("<</Type/Catalog/Pages " + MvPdfSyntax::reference(m_pageTree) + bookmarks + "/OutputIntents[" +
                       MvPdfSyntax::reference(addOutputIntent()) + "]/Metadata " +

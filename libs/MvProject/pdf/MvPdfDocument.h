@@ -43,8 +43,6 @@ public:
         QString title;
         QString author;
         QString language; // "de-DE"
-        /// Its pages become parts of sheets, which nobody has read aloud: without the structure for it.
-        bool isForSheets = false;
     };
     struct Page
     {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfSheets.h"
 
+#include "MvCore/MvLocale.h"
 #include "MvPaint/MvTextOutline.h"
 #include "MvProject/MvPdfContent.h"
 #include "MvProject/MvPdfPipeline.h"
+#include "MvProject/MvPdfSheetTags.h"
 #include "MvProject/MvPdfSyntax.h"
 #include "MvProject/MvSheetPlan.h"
 
@@ -110,11 +112,12 @@ private:
 class Sheets
 {
 public:
-    Sheets(QPDF &pdf, const MvSheetPlan &plan, const QStringList &names)
+    Sheets(QPDF &pdf, const MvSheetPlan &plan, const QStringList &names, const MvLocale &language)
         : m_pdf(pdf)
         , m_pages(pdf)
         , m_plan(plan)
         , m_names(names)
+        , m_language(language)
         , m_old(m_pages.getAllPages())
         , m_forms(m_old.size())
     {}
@@ -123,6 +126,7 @@ public:
     {
         for (int number = 0; number < m_plan.sheetCount(); ++number)
             m_pages.addPage(sheet(number), false);
+        m_tags.finish();
         moveBookmarks();
         for (const QPDFPageObjectHelper &page : m_old)
             m_pages.removePage(page);
@@ -130,38 +134,43 @@ public:
     }
 
 private:
+    /// The page as something to be placed: where it is read, and where it is only seen.
     struct Form
     {
-        QPDFObjectHandle object;
-        bool isTranslucent = false;
+        QPDFObjectHandle read;
+        QPDFObjectHandle seen;
     };
 
-    /// The page as something to be placed; one object for all its places.
-    const Form &form(int page)
+    /// On the sheet, which is its first one unless it is on another already.
+    QPDFObjectHandle form(const MvSheetPlan::Part &part, const QPDFObjectHandle &sheet)
     {
-        Form &known = m_forms[size_t(page)];
-        if (!known.object.isInitialized()) {
-            known.object = m_pdf.makeIndirectObject(m_old[size_t(page)].getFormXObjectForPage());
-            known.isTranslucent = known.object.getDict().hasKey("/Group");
+        Form &known = m_forms[size_t(part.page)];
+        if (!known.read.isInitialized()) {
+            known.read = m_pdf.makeIndirectObject(m_old[size_t(part.page)].getFormXObjectForPage());
+            m_tags.move(part.page, known.read, sheet, toSheet(part));
+            return known.read;
         }
-        return known;
+        if (!known.seen.isInitialized())
+            known.seen = MvPdfSheetTags::withoutNumbers(m_pdf, known.read);
+        return known.seen;
     }
 
     QPDFObjectHandle sheet(int number)
     {
-        const QList<MvSheetPlan::Part> parts = m_plan.parts(number);
+        QPDFObjectHandle page = m_pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
         QByteArray commands;
         QByteArray objects;
         bool isTranslucent = false;
         QStringList names;
-        for (const MvSheetPlan::Part &part : parts) {
-            const Form &placed = form(part.page);
+        for (const MvSheetPlan::Part &part : m_plan.parts(number)) {
+            QPDFObjectHandle placed = form(part, page);
             const QByteArray name = "/P" + QByteArray::number(part.page);
-            objects += name + ' ' + MvPdfSyntax::reference(placed.object.getObjectID());
-            isTranslucent = isTranslucent || placed.isTranslucent;
+            objects += name + ' ' + MvPdfSyntax::reference(placed.getObjectID());
+            isTranslucent = isTranslucent || placed.getDict().hasKey("/Group");
             commands += "q " + clip(part.place) + matrix(part) + name + " Do Q\n";
             if (const QString title = m_names.value(part.page); !title.isEmpty())
                 names.append(title);
+            m_firstSheets.try_emplace(m_old[size_t(part.page)].getObjectHandle().getObjGen(), page);
         }
         const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
         commands += "/Artifact BMC\nq " + unit + " 0 0 " + unit + " 0 0 cm\n" + marks(number) + "Q\n" +
@@ -169,14 +178,12 @@ private:
         const QSizeF size = m_plan.sheet() * pointsPerTenth;
         const QByteArray box =
             "[0 0 " + MvPdfSyntax::number(size.width()) + ' ' + MvPdfSyntax::number(size.height()) + ']';
-        QPDFObjectHandle page = QPDFObjectHandle::parse(
-            &m_pdf, ("<</Type/Page/MediaBox" + box + "/Resources<</XObject<<" + objects + ">>>>" +
-                     (isTranslucent ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") + ">>")
-                        .toStdString());
+        m_pdf.replaceObject(page.getObjGen(),
+                            QPDFObjectHandle::parse(
+                                &m_pdf, ("<</Type/Page/MediaBox" + box + "/Resources<</XObject<<" + objects + ">>>>" +
+                                         (isTranslucent ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") + ">>")
+                                            .toStdString()));
         page.replaceKey("/Contents", QPDFObjectHandle::newStream(&m_pdf, commands.toStdString()));
-        page = m_pdf.makeIndirectObject(page);
-        for (const MvSheetPlan::Part &part : parts)
-            m_firstSheets.try_emplace(m_old[size_t(part.page)].getObjectHandle().getObjGen(), page);
         return page;
     }
 
@@ -190,24 +197,29 @@ private:
     }
 
     /// From the system of the page to that of the sheet.
-    QByteArray matrix(const MvSheetPlan::Part &part)
+    QTransform toSheet(const MvSheetPlan::Part &part)
     {
         QPDFObjectHandle trim = m_old[size_t(part.page)].getTrimBox();
         const QPDFObjectHandle::Rectangle box = trim.getArrayAsRectangle();
         const double scale = part.place.width() / part.part.width();
         const double left = part.place.left() * pointsPerTenth - scale * (box.llx + part.part.left() * pointsPerTenth);
         const double above = (m_plan.sheet().height() - part.place.top()) * pointsPerTenth;
-        const double bottom = above - scale * (box.ury - part.part.top() * pointsPerTenth);
-        const QByteArray factor = MvPdfSyntax::number(scale, 6);
+        return {scale, 0.0, 0.0, scale, left, above - scale * (box.ury - part.part.top() * pointsPerTenth)};
+    }
+
+    QByteArray matrix(const MvSheetPlan::Part &part)
+    {
+        const QTransform placed = toSheet(part);
+        const QByteArray factor = MvPdfSyntax::number(placed.m11(), 6);
         QByteArray numbers = factor + " 0 0 " + factor + ' ';
-        MvPdfSyntax::append(numbers, {left, bottom}, 4);
+        MvPdfSyntax::append(numbers, {placed.dx(), placed.dy()}, 4);
         return numbers + "cm ";
     }
 
     /// Which sheet it is, and of which pages where there is room for it.
     QByteArray lettering(int number, const QStringList &names, QByteArray &objects)
     {
-        const QString name = m_plan.name(number);
+        const QString name = m_plan.name(number, m_language);
         const QRectF room = m_plan.nameRoom();
         if (name.isEmpty() || room.isEmpty())
             return {};
@@ -266,6 +278,8 @@ private:
     QPDFPageDocumentHelper m_pages;
     const MvSheetPlan &m_plan;
     const QStringList m_names;
+    const MvLocale m_language;
+    MvPdfSheetTags m_tags{m_pdf};
     Letters m_letters{m_pdf};
     std::vector<QPDFPageObjectHelper> m_old;
     std::vector<Form> m_forms;
@@ -274,7 +288,8 @@ private:
 
 } // namespace
 
-MvOutcome MvPdfSheets::write(QFile &from, QFile &to, const MvSheetPlan &plan, const QStringList &names)
+MvOutcome MvPdfSheets::write(QFile &from, QFile &to, const MvSheetPlan &plan, const QStringList &names,
+                             const MvLocale &language)
 {
     const uchar *content = from.map(0, from.size());
     if (!content)
@@ -284,7 +299,7 @@ MvOutcome MvPdfSheets::write(QFile &from, QFile &to, const MvSheetPlan &plan, co
         QPDF pdf;
         pdf.setSuppressWarnings(true);
         pdf.processMemoryFile("pages", reinterpret_cast<const char *>(content), size_t(from.size()));
-        Sheets(pdf, plan, names).lay();
+        Sheets(pdf, plan, names, language).lay();
         QPDFWriter writer(pdf);
         writer.setOutputPipeline(&pipeline);
         writer.setObjectStreamMode(qpdf_o_generate);

@@ -2,6 +2,7 @@
 #include "MvProject/MvSheetPlan.h"
 
 #include "MvCore/MvApplicationLocale.h"
+#include "MvProductBase/MvCalendarWordsRegistry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -235,19 +236,19 @@ QList<QLineF> MvSheetPlan::joinMarks(int sheet) const
                  tile / m_columns < m_rows - 1 ? QList<double>{end.y()} : QList<double>());
 }
 
-QString MvSheetPlan::name(int sheet) const
+QString MvSheetPlan::name(int sheet, const MvLocale &language) const
 {
+    const MvCalendarWordsRegistry::Sheets words = MvCalendarWordsRegistry::instance().sheets(language);
     if (isTiled()) {
         const int tile = sheet % (m_columns * m_rows);
-        return tr("%1 von %2", "a tile: its column and row of the last one's")
-            .arg(columnName(tile % m_columns) + QString::number(tile / m_columns + 1),
-                 columnName(m_columns - 1) + QString::number(m_rows));
+        return words.tile.arg(columnName(tile % m_columns) + QString::number(tile / m_columns + 1),
+                              columnName(m_columns - 1) + QString::number(m_rows));
     }
     if (!isStack())
         return {};
     const int sides = m_settings.isTwoSided ? 2 : 1;
-    const QString name = tr("Blatt %1 von %2").arg(sheet / sides + 1).arg(m_sheetCount / sides);
-    return isBack(sheet) ? tr("%1, Rückseite").arg(name) : name;
+    const QString name = words.sheet.arg(sheet / sides + 1).arg(m_sheetCount / sides);
+    return isBack(sheet) ? words.back.arg(name) : name;
 }
 
 QRectF MvSheetPlan::nameRoom() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvLocale.h"
 #include "MvProject/MvSheetSettings.h"
 #include "MvProject/mvproject_export.h"
 
@@ -47,8 +48,9 @@ public:
     /// Lines beside the pages along which to cut, and where the neighbouring tiles will end.
     QList<QLineF> cutMarks(int sheet) const;
     QList<QLineF> joinMarks(int sheet) const;
-    /// Column and row of a tile, "B2 von C4", or which sheet of a stack it is; empty for others.
-    QString name(int sheet) const;
+    /// Column and row of a tile, "B2 von C4", or which sheet of a stack it is, in the calendar's language; empty for
+    /// others.
+    QString name(int sheet, const MvLocale &language) const;
     /// Where that may stand, between marks; empty when there is no room for it.
     QRectF nameRoom() const;
 
