@@ -35,7 +35,7 @@ void tst_MvPageFormat::readsNames_data()
     QTest::newRow("centimetres") << u"13x18cm"_s << QSizeF(1300, 1800) << u"a5"_s;
     QTest::newRow("own centimetres") << u"15,5 x 15 CM"_s << QSizeF(1550, 1500) << u"a5"_s;
     QTest::newRow("letter") << u"LETTER"_s << QSizeF(2159, 2794) << u"a4"_s;
-    QTest::newRow("legal") << u"Legal"_s << QSizeF(2159, 3556) << u"a3"_s;
+    QTest::newRow("legal") << u"Legal"_s << QSizeF(2159, 3556) << u"a4"_s;
     QTest::newRow("panorama") << u"Panorama"_s << QSizeF(1485, 4200) << u"a4"_s;
     QTest::newRow("unknown class") << u"A7"_s << QSizeF() << QString();
     QTest::newRow("a class of another row") << u"B4"_s << QSizeF() << QString();
