@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int mostKept = 4; // more make pages hardly faster
 constexpr int forEver = -1;
 
 } // namespace
@@ -43,7 +42,7 @@ bool MvBackground::keepThreads()
     QThreadPool &pool = *QThreadPool::globalInstance();
     if (pool.expiryTimeout() == forEver)
         return true;
-    const int wanted = std::clamp(pool.maxThreadCount(), 1, mostKept);
+    const int wanted = std::max(pool.maxThreadCount(), 1);
     const auto gate = std::make_shared<QSemaphore>(); // each stays in its thread until all have one
     int begun = 0;
     for (; begun < wanted && hasThread(); ++begun)
@@ -51,7 +50,8 @@ bool MvBackground::keepThreads()
     gate->release(begun);
     if (begun == 0)
         return false;
-    pool.setMaxThreadCount(begun); // what comes beside them waits for one of these
+    if (begun < wanted)
+        pool.setMaxThreadCount(begun); // what comes beside them waits for one of these
     pool.setExpiryTimeout(forEver);
     return true;
 }
