@@ -66,99 +66,15 @@ class tst_CalendariumKinds : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void divide_data();
-    void divide();
     void write_data();
     void write();
 
     void columnsOfTheDayList_data();
     void columnsOfTheDayList();
-    void dividingLines_data();
-    void dividingLines();
     void narrowRowKeepsItsNumbers();
     void furtherRowsWhereNarrow();
     void headsOfColumnsGiveWay();
 };
-
-void tst_CalendariumKinds::divide_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("info");
-    QTest::addColumn<QDate>("month");
-    QTest::addColumn<QRectF>("rect");
-    QTest::addColumn<QRectF>("first"); // day of the month
-    QTest::addColumn<QRectF>("last");
-
-    const QRectF strip(10, 20, 3100, 300);
-    QTest::newRow("row: numbers alone") << row << plain << may << strip << QRectF(10, 20, 100, 300)
-                                        << QRectF(3010, 20, 100, 300);
-    for (const QString &info : {title, heads}) // 300 / 117.25 * 32.75 = 83.8, in whole units
-        QTest::addRow("row: %s", qPrintable(info))
-            << row << info << may << strip << QRectF(10, 103, 100, 217) << QRectF(3010, 103, 100, 217);
-    QTest::newRow("row: title and heads") << row << both << may << strip << QRectF(10, 150, 100, 170) // 65.5 each
-                                          << QRectF(3010, 150, 100, 170);
-
-    const QRectF page(0, 0, 1000, 600);
-    const double seventh = 1000.0 / 7;
-    QTest::newRow("grid: rows alone") << grid << plain << may << page << QRectF(5 * seventh, 0, seventh, 100)
-                                      << QRectF(0, 500, seventh, 100);
-    QTest::newRow("grid: four rows are half as tall again")
-        << grid << plain << february << page << QRectF(0, 0, seventh, 150) << QRectF(6 * seventh, 450, seventh, 150);
-    QTest::newRow("grid: title") << grid << plain + u", calendar_render_title"_s << may << page
-                                 << QRectF(5 * seventh, 36, seventh, 94) << QRectF(0, 506, seventh, 94);
-    const double high = number * 600 / (2 * head + 6 * number);
-    QTest::newRow("grid: title and heads")
-        << grid << both << may << page << QRectF(5 * seventh, 600 - 6 * high, seventh, high)
-        << QRectF(0, 600 - high, seventh, high);
-    const double narrow = (1000 - head) / 7;
-    QTest::newRow("grid: weeks") << grid << plain + weeks << may << page << QRectF(head + 5 * narrow, 0, narrow, 100)
-                                 << QRectF(head, 500, narrow, 100);
-
-    const QRectF wide(30, 40, 2800, 1000);
-    const auto inTwoWeeks = [&](const char *name, const QString &info, double above, double height) {
-        QTest::newRow(name) << twoWeeks << info << may << wide << QRectF(1030, 40 + above, 200, height)
-                            << QRectF(1430, 40 + above + 2 * height, 200, height);
-    };
-    inTwoWeeks("two weeks: rows alone", plain, 0, 1000.0 / 3);
-    inTwoWeeks("two weeks: title; rows are not truncated", title, 114, 886.0 / 3);
-    inTwoWeeks("two weeks: heads take the remainder", heads, 1000 - 3 * 295, 295);
-    inTwoWeeks("two weeks: title and heads", both, 1000 - 3 * 264, 264);
-
-    const QRectF tall(10, 10, 3000, 1400); // rows of 189, the first of 77 for the number of the week
-    const auto inColumns = [&](const char *name, const QString &info, double first, double pitch, double width) {
-        QTest::newRow(name) << columns << info << may << tall << QRectF(first, 87 + 5 * 189, width, 189)
-                            << QRectF(first + 5 * pitch, 87, width, 189);
-    };
-    inColumns("columns: days alone", plain, 10, 500, 500);
-    inColumns("columns: heads take whole units", heads, 10 + 327, 500, 173);
-    const double column = 3000 / (nameOfWeekday + 6 * number) * number;
-    inColumns("columns: heads in front", inFront, 10 + 3000 - 6 * column, column, column);
-
-    QTest::newRow("day list") << dayList << plain << may << QRectF(50, 30, 1500, 31 * 70)
-                              << QRectF(50 + number, 30, 1500 - number, 70)
-                              << QRectF(50 + number, 30 + 30 * 70, 1500 - number, 70);
-    QTest::newRow("day list: heads") << dayList << shortHeads << february << QRectF(50, 30, 1500, 28 * 70)
-                                     << QRectF(50 + number + head, 30, 1500 - number - head, 70)
-                                     << QRectF(50 + number + head, 30 + 27 * 70, 1500 - number - head, 70);
-}
-
-void tst_CalendariumKinds::divide()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, info);
-    QFETCH(QDate, month);
-    QFETCH(QRectF, rect);
-    QFETCH(QRectF, first);
-    QFETCH(QRectF, last);
-    MvPageFixture page(appearanceOf(type, info), month, info.contains(weeks) ? FEATURE_CALENDAR_WEEKS : 0);
-    page.render(rect);
-    QCOMPARE(page.restarts, 1);
-    QCOMPARE(page.days.size(), month.daysInMonth()); // each once, in order
-    for (int day = 0; day < page.days.size(); ++day)
-        QCOMPARE(page.days.at(day).date, month.addDays(day));
-    QVERIFY2(areClose(page.days.constFirst().rect, first), qPrintable(QDebug::toString(page.days.constFirst().rect)));
-    QVERIFY2(areClose(page.days.constLast().rect, last), qPrintable(QDebug::toString(page.days.constLast().rect)));
-}
 
 void tst_CalendariumKinds::write_data()
 {
@@ -243,39 +159,6 @@ void tst_CalendariumKinds::columnsOfTheDayList()
     }
     QCOMPARE(found, headers.count(u'N'));
     QCOMPARE(page.renderer().unfittingTexts().size(), qMax(0, found - 10));
-}
-
-void tst_CalendariumKinds::dividingLines_data()
-{
-    QTest::addColumn<QString>("headers");
-    QTest::addColumn<QString>("border");
-    QTest::addColumn<QList<double>>("lines");
-    const double x = number;
-    QTest::newRow("right") << u"A$$B"_s << u"CALENDAR_BORDER_RIGHT"_s << QList<double>{x - 1, x + 499, x + 999};
-    QTest::newRow("left: double") << u"A$$B"_s << u"CALENDAR_BORDER_LEFT"_s
-                                  << QList<double>{x + 1, x, x + 501, x + 500};
-    QTest::newRow("both") << u"A"_s << u"CALENDAR_BORDER_LEFT, CALENDAR_BORDER_RIGHT"_s
-                          << QList<double>{x - 1, x + 1, x, x + 999};
-    QTest::newRow("neither") << u"A$$B"_s << u"CALENDAR_BORDER_BOTTOM"_s << QList<double>{};
-    QTest::newRow("without a top line") << QString() << u"CALENDAR_BORDER_RIGHT"_s << QList<double>{};
-}
-
-void tst_CalendariumKinds::dividingLines()
-{
-    QFETCH(QString, headers);
-    QFETCH(QString, border);
-    const QString cell = u"<cell type='CALENDAR_CELL_TYPE_HEAD_WEEKDAY' bordertype='%1'><font family='MvBox' "
-                         "pointsize='9'/></cell>"_s.arg(border);
-    MvPageFixture page(appearanceOf(dayList, plain, headers, cell), may, 0);
-    QList<double> lines;
-    for (const Item &item : page.render({0, 40, 1000 + number, 3200}).items(Item::Line)) {
-        if (item.line.length() < 3000.0)
-            continue; // the cells' own
-        QCOMPARE(item.line.p1().y(), 40.0);
-        QCOMPARE(item.line.p2().y(), 40.0 + 3200.0 - 1.0);
-        lines.append(item.line.x1());
-    }
-    QTEST(lines, "lines");
 }
 
 void tst_CalendariumKinds::narrowRowKeepsItsNumbers()

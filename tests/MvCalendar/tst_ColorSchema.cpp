@@ -88,7 +88,6 @@ private Q_SLOTS:
     void roundTrip_data();
     void roundTrip();
     void writesOnlyDeviations();
-    void contrast();
 
     void registryAliasesDuplicates();
     void registryRenamesOldIds();
@@ -227,18 +226,6 @@ void tst_ColorSchema::writesOnlyDeviations()
     // the holiday kept the default colours although Sunday, from which it would be made, has not
     QCOMPARE(cell.nextSiblingElement(u"cell"_s).attribute(u"type"_s), u"CALENDAR_CELL_TYPE_HOLIDAY"_s);
     QVERIFY(cell.nextSiblingElement(u"cell"_s).nextSiblingElement(u"cell"_s).isNull());
-}
-
-void tst_ColorSchema::contrast()
-{
-    // figures from the definition of the contrast ratio in WCAG 2.1
-    QCOMPARE(MvCalendariumColorCellInfo::colorContrast(Qt::white, Qt::black), 21.0);
-    QCOMPARE(MvCalendariumColorCellInfo::colorContrast(Qt::red, Qt::red), 1.0);
-    QVERIFY(qAbs(MvCalendariumColorCellInfo::colorContrast(QColor(u"#767676"_s), Qt::white) - 4.54) < 0.01);
-    MvCalendariumColorCellInfo cell;
-    cell.setFontColor(Qt::white, false);
-    QVERIFY(qAbs(cell.minimumCellContrast(Qt::white) - 1.0) < 1e-9); // white on paper in odd weeks
-    QCOMPARE(cell.usedColors(), (QList<QColor>{Qt::black, Qt::white}));
 }
 
 void tst_ColorSchema::registryAliasesDuplicates()

@@ -28,8 +28,6 @@ private Q_SLOTS:
     void init();
     void isAtDay_data();
     void isAtDay();
-    void sortsByDay_data();
-    void sortsByDay();
     void baseOrder();
     void comparesWithoutUuid();
     void textForms();
@@ -96,40 +94,6 @@ void tst_MvCalendarEvent::isAtDay()
     QTEST(event.isAtDay(day), "isAtDay");
     QVERIFY(event.isRecurrent()); // whatever is stored
     QCOMPARE(event.storedRecurrent(), recurrent);
-}
-
-void tst_MvCalendarEvent::sortsByDay_data()
-{
-    QTest::addColumn<QString>("column");
-    QTest::addColumn<QStringList>("names");
-    QTest::newRow("date") << u"date"_s << QStringList{u"Cäsar"_s, u"anna"_s, u"Anna"_s, u"Berta"_s};
-    QTest::newRow("name, capitals first") << u"name"_s << QStringList{u"Anna"_s, u"Berta"_s, u"Cäsar"_s, u"anna"_s};
-    // the stored flag decides in the base order although every entry is called recurrent
-    QTest::newRow("recurrent") << u"recurrent"_s << QStringList{u"anna"_s, u"Anna"_s, u"Berta"_s, u"Cäsar"_s};
-}
-
-void tst_MvCalendarEvent::sortsByDay()
-{
-    QFETCH(QString, column);
-    QFETCH(QStringList, names);
-    using Comparator = bool (*)(const MvCalendarEvent &, const MvCalendarEvent &);
-    const QHash<QString, std::pair<Comparator, Comparator>> comparators = {
-        {u"date"_s, {MvCalendarEvent::lessThanDate, MvCalendarEvent::greaterThanDate}},
-        {u"name"_s, {MvCalendarEvent::lessThanName, MvCalendarEvent::greaterThanName}},
-        {u"recurrent"_s, {MvCalendarEvent::lessThanRecurrent, MvCalendarEvent::greaterThanRecurrent}},
-    };
-    QList<MvCalendarEvent> events = {entry(u"Anna"_s, QDate(1980, 2, 1)), entry(u"Berta"_s, QDate(1930, 12, 31)),
-                                     entry(u"Cäsar"_s, QDate(2001, 1, 31)),
-                                     entry(u"anna"_s, QDate(2020, 1, 31), {}, false)};
-    std::stable_sort(events.begin(), events.end(), comparators.value(column).first);
-    QStringList sorted;
-    for (const MvCalendarEvent &event : std::as_const(events))
-        sorted.append(event.description());
-    QCOMPARE(sorted, names);
-    for (qsizetype i = 1; i < events.size(); ++i) {
-        QVERIFY(!comparators.value(column).first(events.at(i), events.at(i - 1)));
-        QVERIFY(!comparators.value(column).second(events.at(i - 1), events.at(i)));
-    }
 }
 
 void tst_MvCalendarEvent::baseOrder()

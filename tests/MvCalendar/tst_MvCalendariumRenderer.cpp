@@ -37,7 +37,6 @@ private Q_SLOTS:
     void weekParity();
     void cellTypes_data();
     void cellTypes();
-    void weekdayTypesBeyondSunday();
     void factoryFiltersCellTypes();
 
     void monthsAndWeeks();
@@ -138,13 +137,6 @@ void tst_MvCalendariumRenderer::cellTypes()
     const bool headIsHoliday =
         page.renderer().headCellTypeConfig(date).colorConfig() == CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
     QCOMPARE(headIsHoliday, content.colorConfig() == CALENDAR_CELL_TYPE_HOLIDAY);
-}
-
-void tst_MvCalendariumRenderer::weekdayTypesBeyondSunday()
-{
-    QCOMPARE(MvCalendariumRenderer::headCellTypeWeekDay(13).toInt(), int(CALENDAR_CELL_TYPE_HEAD_SATURDAY));
-    QCOMPARE(MvCalendariumRenderer::contentCellTypeWeekDay(21).toInt(), int(CALENDAR_CELL_TYPE_SUNDAY));
-    QCOMPARE(MvCalendariumRenderer::contentCellTypeWeekDay(8).toInt(), int(CALENDAR_CELL_TYPE_WEEKDAY));
 }
 
 void tst_MvCalendariumRenderer::factoryFiltersCellTypes()

@@ -72,8 +72,6 @@ private Q_SLOTS:
     void monthsOfTheCalendar_data();
     void monthsOfTheCalendar();
     void shortMonthsWhereNarrow();
-    void plannerCell_data();
-    void plannerCell();
     void weekGivesWayToTexts();
     void weekIsReadableOnEveryGround();
 };
@@ -190,43 +188,6 @@ void tst_MvCalendariumRendererYear::shortMonthsWhereNarrow()
     const QStringList named = MvPageFixture::texts(untitled.render(a2));
     QVERIFY(named.contains(u"August 2026"_s)); // nothing else tells the year
     QVERIFY(named.contains(u"Juli 2027"_s));
-}
-
-void tst_MvCalendariumRendererYear::plannerCell_data()
-{
-    QTest::addColumn<QRectF>("cell");
-    QTest::addColumn<bool>("isBeneath");
-    QTest::addColumn<QRectF>("weekday");
-    QTest::addColumn<QRectF>("week");
-    QTest::addColumn<QRectF>("texts");
-    const QRectF none;
-    QTest::newRow("wide") << QRectF(0, 0, 400, 60) << false << QRectF(50, 0, 40, 60) << QRectF(370, 0, 30, 60)
-                          << QRectF(90, 0, 280, 60);
-    QTest::newRow("tall") << QRectF(0, 0, 150, 160) << true << QRectF(50, 0, 40, 50) << QRectF(120, 0, 30, 50)
-                          << QRectF(0, 50, 150, 110);
-    QTest::newRow("no room for the week")
-        << QRectF(0, 0, 100, 50) << false << QRectF(50, 0, 40, 50) << none << QRectF(90, 0, 10, 50);
-    QTest::newRow("number only") << QRectF(0, 0, 50, 50) << false << none << none << none;
-}
-
-void tst_MvCalendariumRendererYear::plannerCell()
-{
-    QFETCH(QRectF, cell);
-    MvYearPlanner::Sizes sizes;
-    sizes.numberWidth = 50;
-    sizes.weekdayWidth = 40;
-    sizes.weekWidth = 30;
-    sizes.lineHeight = 50;
-    sizes.textHeight = 25;
-    const MvYearPlanner planner({0, 0, cell.width() * 12, cell.height() * 31}, QDate(2027, 1, 1), sizes);
-    QTEST(planner.hasTextsBeneath(), "isBeneath");
-    const MvYearPlanner::Parts parts = planner.parts(planner.dayRect(0, 1), true);
-    QCOMPARE(parts.number.topLeft(), QPointF(0, 0));
-    QCOMPARE(parts.number.width(), 50.0);
-    QTEST(parts.weekday, "weekday");
-    QTEST(parts.week, "week");
-    QTEST(parts.texts, "texts");
-    QVERIFY(planner.parts(planner.dayRect(0, 1), false).week.isNull());
 }
 
 void tst_MvCalendariumRendererYear::weekGivesWayToTexts()

@@ -8,129 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Row
-{
-    const char *name = nullptr;
-    QDate date;
-    bool isYearly = true;
-    const char *rule = nullptr;
-    QList<QDate> exceptions;
-    QDate end;
-    QDate from;
-    QDate to;
-    const char *after =
-        nullptr; // what all times are then: first day, rule, exceptions, end; empty where they cannot be moved
-};
-
-const Row rows[] = {
-    {"once", {2027, 1, 14}, false, "", {}, {}, {2027, 1, 14}, {2027, 1, 16}, "2027-01-16"},
-    {"a span, taken in its middle",
-     {2027, 7, 30},
-     false,
-     "",
-     {},
-     {2027, 8, 3},
-     {2027, 8, 1},
-     {2027, 8, 3},
-     "2027-08-01 .. 2027-08-05"},
-    {"a birthday keeps its year", {1941, 3, 9}, true, "", {}, {}, {2027, 3, 9}, {2027, 3, 11}, "1941-03-11"},
-    {"and goes over the end of the year", {1941, 12, 31}, true, "", {}, {}, {2027, 12, 31}, {2028, 1, 1}, "1942-01-01"},
-    {"an unknown year stays so", {1604, 12, 31}, true, "", {}, {}, {2027, 12, 31}, {2028, 1, 1}, "1604-01-01"},
-    {"1941 has no such day", {1941, 2, 28}, true, "", {}, {}, {2028, 2, 28}, {2028, 2, 29}, ""},
-    {"weekly",
-     {2026, 9, 3},
-     false,
-     "FREQ=WEEKLY;UNTIL=20270225",
-     {{2026, 12, 24}},
-     {},
-     {2027, 1, 14},
-     {2027, 1, 16},
-     "2026-09-05 FREQ=WEEKLY;UNTIL=20270227 without 2026-12-26"},
-    {"one of two days a week",
-     {2026, 9, 7},
-     false,
-     "FREQ=WEEKLY;BYDAY=MO,TH",
-     {{2026, 12, 24}, {2026, 12, 28}},
-     {},
-     {2027, 1, 14},
-     {2027, 1, 15},
-     "2026-09-07 FREQ=WEEKLY;BYDAY=MO,FR without 2026-12-25, 2026-12-28"},
-    {"the day of the month",
-     {2026, 9, 14},
-     false,
-     "FREQ=MONTHLY",
-     {{2026, 10, 14}},
-     {},
-     {2027, 1, 14},
-     {2027, 1, 16},
-     "2026-09-16 FREQ=MONTHLY without 2026-10-16"},
-    // the second Thursdays are 8 October and 14 January, the third Saturdays 17 October and 16 January
-    {"the second Thursday",
-     {2026, 9, 10},
-     false,
-     "FREQ=MONTHLY;BYDAY=2TH",
-     {{2026, 10, 8}},
-     {},
-     {2027, 1, 14},
-     {2027, 1, 16},
-     "2026-09-19 FREQ=MONTHLY;BYDAY=3SA without 2026-10-17"},
-    // 25 September, 29 January and 26 February 2027 are last Fridays, 28 January and 25 February last Thursdays
-    {"the last Friday stays the last one",
-     {2026, 9, 25},
-     false,
-     "FREQ=MONTHLY;BYDAY=-1FR;UNTIL=20270226",
-     {},
-     {},
-     {2027, 1, 29},
-     {2027, 1, 28},
-     "2026-09-24 FREQ=MONTHLY;UNTIL=20270225;BYDAY=-1TH"},
-    {"every second year",
-     {2023, 5, 4},
-     false,
-     "FREQ=YEARLY;INTERVAL=2",
-     {},
-     {},
-     {2027, 5, 4},
-     {2027, 6, 1},
-     "2023-06-01 FREQ=YEARLY;INTERVAL=2"},
-    {"the second Sunday of May",
-     {2026, 5, 10},
-     false,
-     "FREQ=YEARLY;BYMONTH=5;BYDAY=2SU",
-     {{2028, 5, 14}},
-     {},
-     {2027, 5, 9},
-     {2027, 6, 6},
-     "2026-06-07 FREQ=YEARLY;BYMONTH=6;BYDAY=1SU without 2028-06-04"},
-    {"the last day of the month",
-     {2027, 1, 31},
-     false,
-     "FREQ=MONTHLY;BYMONTHDAY=-1",
-     {{2027, 4, 30}},
-     {},
-     {2027, 2, 28},
-     {2027, 2, 27},
-     "2027-01-30 FREQ=MONTHLY;BYMONTHDAY=-2 without 2027-04-29"},
-    {"a day of every month, by years",
-     {2027, 1, 5},
-     false,
-     "FREQ=YEARLY;BYMONTHDAY=5",
-     {},
-     {},
-     {2027, 2, 5},
-     {2027, 2, 6},
-     ""},
-    {"a rule that one day cannot stand for",
-     {2026, 9, 3},
-     false,
-     "FREQ=MONTHLY;BYDAY=MO,TH;BYSETPOS=1",
-     {},
-     {},
-     {2027, 1, 4},
-     {2027, 1, 5},
-     ""},
-};
-
+/// First day, end, rule, exceptions.
 QString described(const MvCalendarEvent &event)
 {
     QString text = event.dateTime().date().toString(Qt::ISODate);
@@ -142,6 +20,23 @@ QString described(const MvCalendarEvent &event)
     for (const QDate &date : event.repetition().exceptions)
         exceptions.append(date.toString(Qt::ISODate));
     return exceptions.isEmpty() ? text : text + u" without "_s + exceptions.join(u", "_s);
+}
+
+MvCalendarEvent entryOf(const QString &text)
+{
+    const QStringList words = text.section(u" without "_s, 0, 0).split(u' ');
+    const auto dateAt = [&words](qsizetype place) { return QDate::fromString(words.value(place), Qt::ISODate); };
+    const bool isYearly = words.constFirst() == u"yearly"_s;
+    MvCalendarEvent entry = MvEntries::entry(u"Training"_s, dateAt(isYearly ? 1 : 0), {}, isYearly);
+    if (const qsizetype span = words.indexOf(u".."_s); span >= 0)
+        entry.setEndDate(dateAt(span + 1));
+    MvEventRepetition repetition;
+    if (words.constLast().startsWith(u"FREQ"_s))
+        repetition.rule = MvRecurrenceRule::parse(words.constLast()).rule;
+    for (const QString &date : text.section(u" without "_s, 1).split(u", "_s, Qt::SkipEmptyParts))
+        repetition.exceptions.append(QDate::fromString(date, Qt::ISODate));
+    entry.setRepetition(repetition);
+    return entry;
 }
 
 } // namespace
@@ -160,28 +55,57 @@ private Q_SLOTS:
 
 void tst_MvEntryMove::moves_data()
 {
-    QTest::addColumn<int>("row");
-    for (size_t i = 0; i < std::size(rows); ++i)
-        QTest::newRow(rows[i].name) << int(i);
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<QDate>("from");
+    QTest::addColumn<QDate>("to");
+    QTest::addColumn<QString>("after"); // what all times are then; empty where they cannot be moved
+    const auto row = [](const char *name, const char *given, const char *from, const char *to, const char *after) {
+        QTest::newRow(name) << QString::fromLatin1(given) << QDate::fromString(QString::fromLatin1(from), Qt::ISODate)
+                            << QDate::fromString(QString::fromLatin1(to), Qt::ISODate) << QString::fromLatin1(after);
+    };
+    row("once", "2027-01-14", "2027-01-14", "2027-01-16", "2027-01-16");
+    row("a span, taken in its middle", "2027-07-30 .. 2027-08-03", "2027-08-01", "2027-08-03",
+        "2027-08-01 .. 2027-08-05");
+    row("a birthday keeps its year", "yearly 1941-03-09", "2027-03-09", "2027-03-11", "1941-03-11");
+    row("and goes over the end of the year", "yearly 1941-12-31", "2027-12-31", "2028-01-01", "1942-01-01");
+    row("an unknown year stays so", "yearly 1604-12-31", "2027-12-31", "2028-01-01", "1604-01-01");
+    row("1941 has no such day", "yearly 1941-02-28", "2028-02-28", "2028-02-29", "");
+    row("weekly", "2026-09-03 FREQ=WEEKLY;UNTIL=20270225 without 2026-12-24", "2027-01-14", "2027-01-16",
+        "2026-09-05 FREQ=WEEKLY;UNTIL=20270227 without 2026-12-26");
+    row("one of two days a week", "2026-09-07 FREQ=WEEKLY;BYDAY=MO,TH without 2026-12-24, 2026-12-28", "2027-01-14",
+        "2027-01-15", "2026-09-07 FREQ=WEEKLY;BYDAY=MO,FR without 2026-12-25, 2026-12-28");
+    row("the day of the month", "2026-09-14 FREQ=MONTHLY without 2026-10-14", "2027-01-14", "2027-01-16",
+        "2026-09-16 FREQ=MONTHLY without 2026-10-16");
+    // the second Thursdays are 8 October and 14 January, the third Saturdays 17 October and 16 January
+    row("the second Thursday", "2026-09-10 FREQ=MONTHLY;BYDAY=2TH without 2026-10-08", "2027-01-14", "2027-01-16",
+        "2026-09-19 FREQ=MONTHLY;BYDAY=3SA without 2026-10-17");
+    // 25 September, 29 January and 26 February 2027 are last Fridays, 28 January and 25 February last Thursdays
+    row("the last Friday stays the last one", "2026-09-25 FREQ=MONTHLY;BYDAY=-1FR;UNTIL=20270226", "2027-01-29",
+        "2027-01-28", "2026-09-24 FREQ=MONTHLY;UNTIL=20270225;BYDAY=-1TH");
+    row("every second year", "2023-05-04 FREQ=YEARLY;INTERVAL=2", "2027-05-04", "2027-06-01",
+        "2023-06-01 FREQ=YEARLY;INTERVAL=2");
+    row("the second Sunday of May", "2026-05-10 FREQ=YEARLY;BYMONTH=5;BYDAY=2SU without 2028-05-14", "2027-05-09",
+        "2027-06-06", "2026-06-07 FREQ=YEARLY;BYMONTH=6;BYDAY=1SU without 2028-06-04");
+    row("the last day of the month", "2027-01-31 FREQ=MONTHLY;BYMONTHDAY=-1 without 2027-04-30", "2027-02-28",
+        "2027-02-27", "2027-01-30 FREQ=MONTHLY;BYMONTHDAY=-2 without 2027-04-29");
+    row("a day of every month, by years", "2027-01-05 FREQ=YEARLY;BYMONTHDAY=5", "2027-02-05", "2027-02-06", "");
+    row("a rule that one day cannot stand for", "2026-09-03 FREQ=MONTHLY;BYDAY=MO,TH;BYSETPOS=1", "2027-01-04",
+        "2027-01-05", "");
 }
 
 /// All times, this one, and a copy.
 void tst_MvEntryMove::moves()
 {
-    QFETCH(int, row);
-    const Row &given = rows[row];
-    MvCalendarEvent entry = MvEntries::entry(u"Training"_s, given.date, {}, given.isYearly);
-    MvEventRepetition repetition;
-    repetition.rule = MvRecurrenceRule::parse(QString::fromLatin1(given.rule)).rule;
-    repetition.exceptions = given.exceptions;
-    entry.setRepetition(repetition);
-    entry.setEndDate(given.end);
-    const MvEntryMove move(entry, given.from, given.to);
+    QFETCH(const QString, given);
+    QFETCH(const QDate, from);
+    QFETCH(const QDate, to);
+    QFETCH(const QString, after);
+    const MvCalendarEvent entry = entryOf(given);
+    const MvEntryMove move(entry, from, to);
     QVERIFY(!move.isNone());
     MvCalendarEvent renamed = entry;
     renamed.setEventName(u"Probe"_s);
 
-    const QString after = QString::fromLatin1(given.after);
     QCOMPARE(move.canMoveAll(), !after.isEmpty());
     const QList<MvEntryChange> all = move.allTimes(renamed);
     QCOMPARE(all.size(), after.isEmpty() ? 0 : 1);
@@ -189,7 +113,7 @@ void tst_MvEntryMove::moves()
         QCOMPARE(described(all.first().after), after);
         QCOMPARE(all.first().after.description(), u"Probe"_s);
         QCOMPARE(all.first().after.uuid(), entry.uuid());
-        QVERIFY(all.first().after.isAtDay(given.to));
+        QVERIFY(all.first().after.isAtDay(to));
         const MvCalendarEvent copy = move.copy().first().after;
         QCOMPARE(described(copy), after);
         QVERIFY(copy.uuid() != entry.uuid() && !move.copy().first().before.isValid());
@@ -198,9 +122,9 @@ void tst_MvEntryMove::moves()
         return;
     const QList<MvEntryChange> once = move.thisTime(renamed);
     QCOMPARE(once.size(), 2);
-    QVERIFY(!once.first().after.isAtDay(given.from));
+    QVERIFY(!once.first().after.isAtDay(from));
     QCOMPARE(once.first().after.description(), u"Training"_s);
-    QCOMPARE(described(once.last().after), given.to.toString(Qt::ISODate));
+    QCOMPARE(described(once.last().after), to.toString(Qt::ISODate));
     QCOMPARE(once.last().after.description(), u"Probe"_s);
     QVERIFY(!MvEntryMove::doesRepeat(once.last().after));
 }

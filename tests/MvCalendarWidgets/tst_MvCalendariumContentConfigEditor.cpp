@@ -39,7 +39,6 @@ private Q_SLOTS:
     void provinceBoxIsEnabled();
     void monthsThatDoNotExist();
     void changesOfTheUser();
-    void wheelChangesNothing();
 };
 
 void tst_MvCalendariumContentConfigEditor::roundTrip_data()
@@ -170,18 +169,6 @@ void tst_MvCalendariumContentConfigEditor::changesOfTheUser()
     QVERIFY(expect({line.arg(u"language"_s, u"de_DE"_s, u"de_AT"_s), line.arg(u"province"_s, u"BY"_s, QString())}));
     QTest::keyClick(editor.findChild<QCheckBox *>(u"holidayCheckBox"_s), Qt::Key_Space);
     QVERIFY(expect({line.arg(u"entries"_s, u"holidays,holidayColors,entries,schoolVacations"_s, u"entries"_s)}));
-}
-
-void tst_MvCalendariumContentConfigEditor::wheelChangesNothing()
-{
-    MvCalendariumContentConfigEditor editor;
-    editor.setContentConfig(config(u"BY"_s, 1));
-    const MvCalendariumContentConfig before = editor.contentConfig();
-    for (const QString &name : {u"yearBox"_s, u"monthBox"_s, u"languageBox"_s, u"provinceBox"_s}) {
-        QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(editor.findChild<QWidget *>(name), &wheel);
-    }
-    QVERIFY(editor.contentConfig() == before);
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvCalendariumContentConfigEditor)

@@ -15,11 +15,8 @@ private Q_SLOTS:
     void typing_data();
     void typing();
     void foreignFamilyStays();
-    void settingsRoundTrip_data();
-    void settingsRoundTrip();
     void everyEditIsReportedOnce();
     void symbolsAreNoGoodFonts();
-    void wheelChangesNothing();
 };
 
 void tst_MvCalendariumFontEditor::typing_data()
@@ -70,30 +67,6 @@ void tst_MvCalendariumFontEditor::foreignFamilyStays()
     QVERIFY(!box.isForeign());
 }
 
-void tst_MvCalendariumFontEditor::settingsRoundTrip_data()
-{
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<int>("size");
-    QTest::addColumn<int>("holidaySize");
-    QTest::newRow("the layout's own") << QString() << 0 << -50;
-    QTest::newRow("largest and smallest") << u"Lato"_s << 200 << -70;
-    QTest::newRow("a font of another computer") << u"Nirgendwo Antiqua"_s << 20 << 0;
-}
-
-void tst_MvCalendariumFontEditor::settingsRoundTrip()
-{
-    QFETCH(QString, family);
-    QFETCH(int, size);
-    QFETCH(int, holidaySize);
-    MvCalendariumFontEditor editor;
-    QVERIFY(editor.currentSettings() == MvCalendariumFontSettings());
-    const MvCalendariumFontSettings settings(family, size, holidaySize, QFont::DemiBold, QFont::SmallCaps, 1.5);
-    editor.setFontSettings(settings);
-    QVERIFY(editor.currentSettings() == settings);
-    QCOMPARE(editor.findChild<QSpinBox *>(u"fontSizeBox"_s)->value(), size + 100);
-    QCOMPARE(editor.findChild<QSpinBox *>(u"holidayFontSizeBox"_s)->value(), holidaySize + 100);
-}
-
 void tst_MvCalendariumFontEditor::everyEditIsReportedOnce()
 {
     MvCalendariumFontEditor editor;
@@ -135,15 +108,6 @@ void tst_MvCalendariumFontEditor::symbolsAreNoGoodFonts()
     }
     if (asked == 0)
         QSKIP("none of the fonts that are known is installed");
-}
-
-void tst_MvCalendariumFontEditor::wheelChangesNothing()
-{
-    MvCalendariumFontEditor editor;
-    auto *box = editor.findChild<QSpinBox *>(u"fontSizeBox"_s);
-    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(box, &wheel);
-    QCOMPARE(box->value(), 100);
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvCalendariumFontEditor)

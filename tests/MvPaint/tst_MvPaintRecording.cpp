@@ -269,7 +269,6 @@ private Q_SLOTS:
     void reportsTheTarget();
     void keepsHints();
     void textBecomesOutlines();
-    void describes();
     void items();
 };
 
@@ -549,45 +548,6 @@ void tst_MvPaintRecording::textBecomesOutlines()
     QVERIFY(items[0].bounds.top() > 40 && items[0].bounds.bottom() < 62);
     QVERIFY(items[2].font.bold() && items[2].bounds.top() > 80);
     QCOMPARE(recording.items().size(), 4);
-}
-
-void tst_MvPaintRecording::describes()
-{
-    QFont font(u"Lato"_s);
-    font.setPixelSize(20);
-    font.setBold(true);
-    const MvPaintRecording recording = recorded([&font](QPainter &painter) {
-        painter.fillRect(QRectF(10, 20, 30, 40), Qt::red);
-        painter.scale(2, 2);
-        painter.setPen(QPen(QColor(0, 0, 255), 1.5, Qt::DashLine));
-        painter.drawLine(QPointF(1.234, 2), QPointF(-0.001, 4));
-        painter.setClipRect(QRectF(5, 5, 10, 10));
-        painter.setOpacity(0.25);
-        painter.drawImage(QRectF(1, 2, 3, 4), foto());
-        painter.setClipping(false);
-        painter.setOpacity(1);
-        painter.setBrush(QColor(1, 2, 3, 128));
-        painter.drawEllipse(QRectF(0, 0, 10, 5));
-        MvOutlinePainter::fillOutline(painter, {3, 4.5}, MvTextOutline(font, u"Mai"_s), Qt::black);
-        painter.rotate(-90);
-        font.setLetterSpacing(QFont::AbsoluteSpacing, 2);
-        MvOutlinePainter::fillOutline(painter, {0, 1}, MvTextOutline(font, u"Juni"_s), Qt::black);
-        painter.resetTransform();
-        QPainterPath cells;
-        cells.addRect(1, 2, 3, 4);
-        cells.addRect(5.0625 - 1e-12, 2, 3.125, 4); // in the middle between two hundredths: noise decides nothing
-        painter.fillPath(cells, Qt::green);
-    });
-    QCOMPARE(recording.describe(), QStringLiteral("rect 10,20 30x40 fill #ff0000\n"
-                                                  "line 2.47,4 0,8 pen #0000ff 3 dashed\n"
-                                                  "image 2,4 6x8 opacity 0.25 clip 10,10 20x20\n"
-                                                  "ellipse 0,0 20x10 fill #80010203 pen #0000ff 3 dashed\n"
-                                                  "text \"Mai\" 6,9 fill #000000 font Lato 20 bold\n"
-                                                  "text \"Juni\" 2,0 fill #000000 font Lato 20 bold spacing 2 "
-                                                  "turned -90\n"
-                                                  "path 1,2 7.19x4 fill #00ff00\n"
-                                                  "    1,2 3x4\n"
-                                                  "    5.06,2 3.13x4\n"));
 }
 
 void tst_MvPaintRecording::items()

@@ -35,14 +35,11 @@ private Q_SLOTS:
     void holidaysOfACountry_data();
     void holidaysOfACountry();
     void coloursByKeyboard();
-    void alternateWeeks();
-    void grid();
     void columnHeaders();
     void fonts();
     void layouts_data();
     void layouts();
     void paper();
-    void pageFoto();
     void onlyThisPage();
 
 private:
@@ -131,48 +128,6 @@ void tst_StudioDesignJourneys::coloursByKeyboard()
     QCOMPARE(table->model()->index(rowOf(table, u"Sonntag"_s), 1).data(Qt::EditRole).value<QColor>() == after, false);
     studio.redo();
     QCOMPARE(studio.cellColor(sunday), after);
-}
-
-void tst_StudioDesignJourneys::alternateWeeks()
-{
-    MvStudioFixture studio;
-    QVERIFY(showColors(studio));
-    QCOMPARE(studio.cellColor(tuesday), studio.cellColor(weekLater));
-    const int rows = studio.find<QTableView>("tableView")->model()->rowCount();
-    QVERIFY(studio.press("parityBox", Qt::Key_Space));
-    QVERIFY(studio.cellColor(tuesday) != studio.cellColor(weekLater));
-    QVERIFY(studio.find<QTableView>("tableView")->model()->rowCount() > rows);
-    studio.undo();
-    QCOMPARE(studio.cellColor(tuesday), studio.cellColor(weekLater));
-    QVERIFY(!studio.find<QCheckBox>("parityBox")->isChecked());
-    QCOMPARE(studio.find<QTableView>("tableView")->model()->rowCount(), rows);
-}
-
-void tst_StudioDesignJourneys::grid()
-{
-    MvStudioFixture studio;
-    QVERIFY(showColors(studio));
-    auto *box = studio.find<QCheckBox>("showGridBox");
-    QVERIFY(box->isChecked());
-    const QSet<QRgb> lines = studio.lineColors();
-    QVERIFY(!lines.isEmpty());
-    QVERIFY(studio.press("showGridBox", Qt::Key_Space));
-    QCOMPARE(studio.lineColors(), QSet<QRgb>());
-    QVERIFY(!studio.find("gridColorButton")->isEnabled());
-    studio.undo();
-    QCOMPARE(studio.lineColors(), lines);
-    QVERIFY(box->isChecked());
-
-    QVERIFY(studio.press("gridColorButton", Qt::Key_Return));
-    auto *palette = qobject_cast<MvColorPalettePopup *>(QApplication::activePopupWidget());
-    QVERIFY(palette);
-    for (int step = 0; step < 3; ++step)
-        QTest::keyClick(palette->focusWidget(), Qt::Key_Down);
-    QTest::keyClick(palette->focusWidget(), Qt::Key_Return);
-    QVERIFY(studio.lineColors() != lines);
-    QVERIFY(!studio.lineColors().isEmpty());
-    studio.undo();
-    QCOMPARE(studio.lineColors(), lines);
 }
 
 void tst_StudioDesignJourneys::columnHeaders()
@@ -300,41 +255,6 @@ void tst_StudioDesignJourneys::paper()
         studio.undo();
     QCOMPARE(studio.page()->pageRect().size(), QSizeF(2970, 2100));
     QCOMPARE(studio.find<QComboBox>("orientation")->currentText(), u"Querformat"_s);
-}
-
-void tst_StudioDesignJourneys::pageFoto()
-{
-    MvStudioFixture studio;
-    const QString foto = studio.writeFoto(u"foto.png"_s, Qt::green);
-    const QRectF dayBefore = studio.page()->dateRect(newYear);
-    QVERIFY(studio.dropOnDate(newYear, foto)); // the page is meant, not the day
-    const auto frame = [&studio] { return studio.document().pages().at(0).fotoFrame(); };
-    QCOMPARE(frame().path(), foto);
-    QVERIFY(studio.page()->dateRect(newYear).height() < dayBefore.height()); // makes room
-
-    studio.activate();
-    const QPoint onFoto =
-        QPoint(studio.window()->findChild<QGraphicsView *>(u"pageCanvas"_s)->viewport()->width() / 2, 60);
-    auto *viewport = studio.window()->findChild<QGraphicsView *>(u"pageCanvas"_s)->viewport();
-    QContextMenuEvent event(QContextMenuEvent::Mouse, onFoto, viewport->mapToGlobal(onFoto));
-    QApplication::sendEvent(viewport, &event);
-    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    QVERIFY(menu);
-    QAction *right = menu->findChild<QAction *>(u"photoRight"_s);
-    QVERIFY(right);
-    right->trigger();
-    menu->close();
-    QCOMPARE(frame().placement(), MvFotoFrame::Placement::Right);
-    QVERIFY(studio.page()->fotoRect().left() > studio.page()->dateRect(newYear).right());
-    QVERIFY(studio.trigger("removePhoto"));
-    QVERIFY(!frame().isValid());
-    QCOMPARE(studio.page()->dateRect(newYear), dayBefore);
-    studio.undo();
-    QCOMPARE(frame().placement(), MvFotoFrame::Placement::Right);
-    studio.undo();
-    QCOMPARE(frame().placement(), MvFotoFrame::Placement::Top);
-    studio.undo();
-    QVERIFY(!frame().isValid());
 }
 
 void tst_StudioDesignJourneys::onlyThisPage()

@@ -49,12 +49,6 @@ int stepOf(const QString &title)
     return title.startsWith(u"Stand "_s) ? title.mid(6).toInt() : 0;
 }
 
-/// In the data folder of the studio that is killed.
-QString savedFile()
-{
-    return MvDirectoryConfig::instance().programDataDir().filePath(u"Familie.mvcalendar"_s);
-}
-
 /// The studio in the process that will be killed.
 class Victim
 {
@@ -65,9 +59,7 @@ public:
         m_studio.start();
         m_studio.autosave()->setDelay(20);
         m_studio.project()->newProject(MvProjectFixture::album(0));
-        QTimer::singleShot(0, &m_studio, [this, work] {
-            work == u"edit"_s ? edit() : work == u"hurry"_s ? hurry() : save();
-        });
+        QTimer::singleShot(0, &m_studio, [this, work] { work == u"edit"_s ? edit() : hurry(); });
     }
 
 private:
@@ -94,17 +86,6 @@ private:
         QObject::connect(m_studio.autosave(), &MvProjectAutosave::written, &m_studio, goOn, Qt::SingleShotConnection);
     }
 
-    /// Each change into the calendar's file.
-    void save()
-    {
-        change();
-        addEntry();
-        const QFileInfo file(savedFile());
-        if ((m_step == 1 ? project()->saveAs(file) : project()->save()).isOk())
-            tell("step " + QByteArray::number(m_step));
-        QTimer::singleShot(0, &m_studio, [this] { save(); });
-    }
-
     /// Changes that do not wait for anything.
     void hurry()
     {
@@ -128,8 +109,6 @@ private Q_SLOTS:
     void init();
     void whileEditing_data();
     void whileEditing();
-    void whileSaving_data() { whileEditing_data(); }
-    void whileSaving();
     void whileChangesDoNotEnd();
 
 private:
@@ -209,27 +188,6 @@ void tst_StudioKill::whileEditing()
     QVERIFY(next.project()->isModified());
     QVERIFY(next.project()->entries());
     QCOMPARE(MvEntries::names(*next.project()->entries()), titlesTo(found)); // the calendar's own, of the same moment
-}
-
-/// The file is that of one step as a whole, with what was told saved.
-void tst_StudioKill::whileSaving()
-{
-    QFETCH(int, lines);
-    const int told = kill(u"save"_s, lines).value("step");
-    const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(savedFile()));
-    QVERIFY2(content.isOk() && content.notes.isEmpty(), qPrintable(content.error));
-    const int found = stepOf(content.document.title());
-    QVERIFY2(found == told || found == told + 1, qPrintable(u"%1 after step %2"_s.arg(found).arg(told)));
-    QCOMPARE(content.document, MvProjectFixture::album(found));
-    QVERIFY(content.entries && content.entries->isComplete);
-    QCOMPARE(MvEntries::names(content.entries->events), titlesTo(found));
-    const QList<MvProjectRecovery::Entry> recovered = MvProjectRecovery::found();
-    QVERIFY(recovered.size() <= 1);
-    for (const MvProjectRecovery::Entry &entry : recovered) {
-        MvProject project;
-        QVERIFY(MvProjectRecovery::open(entry, project).isOk());
-        QCOMPARE(project.document(), MvProjectFixture::album(stepOf(project.document().title())));
-    }
 }
 
 /// Somebody who never pauses is not without a net for that.
