@@ -8,7 +8,6 @@
 #include "MvCore/MvLocale.h"
 
 #include <QDir>
-#include <QRandomGenerator>
 
 #include <libical/ical.h>
 
@@ -28,8 +27,6 @@ private Q_SLOTS:
     void isUnderstoodByAnotherProgram();
     void holidaysOfTheCountry();
     void takenTwiceAddsNothing();
-    void survivesBrokenFiles_data();
-    void survivesBrokenFiles();
     void eventsOfNoCalendar();
 
 private:
@@ -227,58 +224,6 @@ void tst_MvEntryExchange::holidaysOfTheCountry()
     QCOMPARE(MvHolidayEntries::of(bavaria, 2027, 2027, MvHolidayEntries::Holidays).size() +
                  MvHolidayEntries::of(bavaria, 2027, 2027, MvHolidayEntries::Vacations).size(),
              days.size());
-}
-
-void tst_MvEntryExchange::survivesBrokenFiles_data()
-{
-    QTest::addColumn<QByteArray>("whole");
-    for (const QString &name : corpus().entryList(QDir::Files))
-        QTest::newRow(qPrintable(name)) << contentOf(corpus().filePath(name));
-    QTest::newRow("own iCalendar") << MvICalendar::toBytes(everything());
-    QTest::newRow("components within each other")
-        << "BEGIN:VCALENDAR\n" + QByteArray("BEGIN:A\n").repeated(20000) + QByteArray("END:B\n").repeated(20000);
-    QTest::newRow("one name, thousands of rules")
-        << "BEGIN:VCALENDAR\n" +
-               QByteArray("BEGIN:VEVENT\nUID:1\nDTSTART:20270101\nSUMMARY:A\nRRULE:FREQ=DAILY\nEND:VEVENT\n")
-                   .repeated(3000);
-}
-
-void tst_MvEntryExchange::survivesBrokenFiles()
-{
-    QFETCH(QByteArray, whole);
-    const bool isNight = !qEnvironmentVariableIsEmpty("MV_NIGHTLY");
-    QRandomGenerator random(20270301);
-    for (int i = 0; i < (isNight ? 300 : 8); ++i) {
-        QByteArray broken = whole;
-        for (int change = 0; change < i % 4; ++change) {
-            const qsizetype at = random.bounded(broken.size());
-            switch (random.bounded(3)) {
-            case 0:
-                broken.truncate(at + 1);
-                break;
-            case 1:
-                broken[at] = char(random.bounded(256));
-                break;
-            default:
-                broken.remove(at, random.bounded(40));
-                broken.append('x');
-            }
-        }
-        const std::clock_t start = std::clock(); // of this program alone: others work at night, too
-        const MvEntryReading reading = MvEntryIntake::read(broken, u"file"_s);
-        MvEntryIntake::Report report;
-        const MvCalendarEventList joined = MvEntryIntake::joined(reading.events, reading, &report);
-        QVERIFY2(!isNight || std::clock() - start < 2 * CLOCKS_PER_SEC, "it hangs");
-        QVERIFY(reading.isOk() || reading.error.startsWith(u"file: "));
-        QCOMPARE(joined.size(), reading.events.size());
-        for (const MvCalendarEvent &event : reading.events)
-            QVERIFY(event.isValid());
-        for (const MvCalendarEventFile::Skipped &skipped : reading.skipped)
-            QVERIFY(skipped.line > 0 && !skipped.reason.isEmpty());
-        if (i == 0 && whole.contains("VCALENDAR"))
-            QVERIFY(reading.events.size() + reading.skipped.size() >=
-                    whole.count("BEGIN:VEVENT") - whole.count("CANCELLED")); // some are exceptions of others
-    }
 }
 
 /// Its first line is damaged: what follows is no calendar's, and is not taken beside a message that says so.

@@ -30,8 +30,6 @@ private Q_SLOTS:
     void crops();
     void sharesThePage_data();
     void sharesThePage();
-    void isNeverDistorted_data();
-    void isNeverDistorted();
     void missing();
     void resolution_data();
     void resolution();
@@ -118,42 +116,6 @@ void tst_MvFotoFrame::sharesThePage()
     }
     QCOMPARE(images, 1);
     QVERIFY(texts > 31);
-}
-
-void tst_MvFotoFrame::isNeverDistorted_data()
-{
-    QTest::addColumn<double>("share");
-    QTest::addColumn<QPointF>("focus");
-    QTest::addColumn<QPoint>("corner"); // where the four colours meet, in tenths of a millimetre; of frames at the top
-    // the frame is 2160 wide, the photo 300 x 200 of it 7.2 units a pixel: 1440 high
-    QTest::newRow("half, middle") << 0.5 << QPointF(0.5, 0.5) << QPoint(1050, -30 + 385);
-    QTest::newRow("three quarters, top") << 0.75 << QPointF(0.5, 0.0) << QPoint(1050, -30 + 720);
-    QTest::newRow("a third, bottom") << 0.3 << QPointF(0.0, 0.9) << QPoint(1050, -1000); // out of sight
-}
-
-void tst_MvFotoFrame::isNeverDistorted()
-{
-    QFETCH(const double, share);
-    QFETCH(const QPointF, focus);
-    QFETCH(const QPoint, corner);
-    MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
-    MvFotoFrame frame(m_foto);
-    frame.setShare(share);
-    frame.setFocus(focus);
-    setFoto(calendar, 0, frame);
-    QImage image(2160, 1540, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    calendar.pageSource().paintPage(painter, 0, {30, 30}, 1.0);
-    painter.end();
-    const auto colorAt = [&image](const QPoint &place) { return image.pixelColor(place + QPoint(30, 30)); };
-    constexpr int near = 12; // pixels of the photo are smoothed over their neighbours
-    if (corner.y() > -30) {
-        QCOMPARE(colorAt(corner + QPoint(-near, -near)), QColor(Qt::red));
-        QCOMPARE(colorAt(corner + QPoint(near, -near)), QColor(Qt::green));
-        QCOMPARE(colorAt(corner + QPoint(-near, near)), QColor(Qt::blue));
-    }
-    QCOMPARE(colorAt({2120, int(share * 1480) - near}), QColor(Qt::yellow)); // up to the bleed's edge
 }
 
 void tst_MvFotoFrame::missing()
