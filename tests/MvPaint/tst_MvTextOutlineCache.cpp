@@ -2,6 +2,7 @@
 #include "MvBoxFont.h"
 #include "MvTest.h"
 
+#include "MvCore/MvInitializer.h"
 #include "MvPaint/MvGlyphCoverage.h"
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvPaint/MvTextOutlineCache.h"
@@ -51,6 +52,8 @@ class tst_MvTextOutlineCache : public MvTest
 private Q_SLOTS:
     void groups_data();
     void groups();
+    void lettersAreThoseOfTheTextEngine_data();
+    void lettersAreThoseOfTheTextEngine();
     void partsGiveThePixelsOfTheWhole_data();
     void partsGiveThePixelsOfTheWhole();
     void linesAreOneShape_data();
@@ -100,6 +103,38 @@ void tst_MvTextOutlineCache::groups()
         QVERIFY(i == 0 || letters.groups()[i - 1].right < letters.groups()[i].left);
     }
     QCOMPARE(elements, letters.elementCount());
+}
+
+void tst_MvTextOutlineCache::lettersAreThoseOfTheTextEngine_data()
+{
+    MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets); // which brings the fonts
+    QTest::addColumn<QString>("family");
+    QTest::addColumn<bool>("isBold");
+    QTest::addColumn<bool>("isItalic");
+    for (const char *family : {"Lato", "Quicksand", "GFS Didot", "Inter", "Vollkorn"}) { // not all have all faces
+        for (const int style : {0, 1, 2, 3})
+            QTest::addRow("%s %d", family, style) << QString::fromLatin1(family) << (style % 2 == 1) << (style >= 2);
+    }
+}
+
+void tst_MvTextOutlineCache::lettersAreThoseOfTheTextEngine()
+{
+    QFETCH(QString, family);
+    QFETCH(bool, isBold);
+    QFETCH(bool, isItalic);
+    QFont font(family);
+    font.setPixelSize(43);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setBold(isBold);
+    font.setItalic(isItalic);
+    for (const QString &text : {u"."_s, u"Ü"_s, u"%"_s, u"Mittwoch"_s}) { // a dot decides for all that follow
+        QPainterPath expected;
+        expected.addText(0.0, 0.0, font, text);
+        const QRectF wanted = expected.controlPointRect();
+        const QRectF is = MvTextOutline(font, text).bounds();
+        const QPointF off[] = {is.topLeft() - wanted.topLeft(), is.bottomRight() - wanted.bottomRight()};
+        QVERIFY2(off[0].manhattanLength() < 0.1 && off[1].manhattanLength() < 0.1, qPrintable(text));
+    }
 }
 
 void tst_MvTextOutlineCache::partsGiveThePixelsOfTheWhole_data()

@@ -26,8 +26,8 @@ namespace {
 
 using Painting = std::function<void(QPainter &)>;
 
-constexpr int dpi = 600;   // of what is painted: programs move thin lines onto whole pixels
-constexpr int coarser = 4; // what is compared
+constexpr int dpi = 1200;  // of what is painted: programs move thin lines onto whole pixels
+constexpr int coarser = 8; // what is compared
 
 QByteArray outputOf(const QString &program, const QStringList &arguments)
 {

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvGlyphLine.h"
 
+#include "MvPaint/MvGlyphOutlines.h"
 #include "MvPaint/MvGlyphPictures.h"
 
-#include <QCache>
 #include <QGlyphRun>
-#include <QHash>
-#include <QMutex>
 #include <QRawFont>
 #include <QTextLayout>
 
@@ -15,80 +13,6 @@
 #include <optional>
 
 namespace {
-
-/// A font in any size.
-struct Face
-{
-    QString family;
-    QString style;
-    int weight = 0;
-    QFont::Style slant = QFont::StyleNormal;
-
-    bool operator==(const Face &) const = default;
-    friend size_t qHash(const Face &face, size_t seed)
-    {
-        return qHashMulti(seed, face.family, face.style, face.weight, int(face.slant));
-    }
-};
-
-struct Key
-{
-    int face;
-    double em;
-    quint32 index;
-
-    bool operator==(const Key &) const = default;
-    friend size_t qHash(const Key &key, size_t seed) { return qHashMulti(seed, key.face, key.em, key.index); }
-};
-
-/// Faces by number, and the outlines of their glyphs, bounded by the number of path elements.
-class Outlines
-{
-public:
-    static Outlines &instance()
-    {
-        static Outlines outlines;
-        return outlines;
-    }
-
-    int numberOf(const QRawFont &font)
-    {
-        const Face face{font.familyName(), font.styleName(), font.weight(), font.style()};
-        const QMutexLocker lock(&m_mutex);
-        const auto found = m_faces.constFind(face);
-        return found != m_faces.cend() ? *found : *m_faces.insert(face, ++m_lastFace);
-    }
-
-    QPainterPath outline(int face, const QRawFont &font, quint32 index)
-    {
-        const Key key{face, font.pixelSize(), index};
-        {
-            const QMutexLocker lock(&m_mutex);
-            if (const QPainterPath *known = m_outlines.object(key))
-                return *known;
-        }
-        const QPainterPath fresh = font.pathForGlyph(index);
-        const QMutexLocker lock(&m_mutex);
-        m_outlines.insert(key, new QPainterPath(fresh), entryCost + fresh.elementCount());
-        return fresh;
-    }
-
-    void forget()
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_faces.clear(); // numbers are not given twice: a name may mean another font now
-        m_outlines.clear();
-    }
-
-private:
-    static constexpr int mostElements = 100'000; // some 3 MB
-    static constexpr int entryCost = 8;
-
-    QMutex m_mutex;
-    QHash<Face, int> m_faces;
-    int m_lastFace = 0;
-    QCache<Key, QPainterPath> m_outlines{mostElements};
-};
 
 bool isDecorated(const QFont &font)
 {
@@ -129,11 +53,30 @@ std::optional<Step> stepToMatch(const QList<quint32> &characters, qsizetype char
     return std::nullopt;
 }
 
+/// The glyph where it stands, as a path of its own: filling a path changes it, and the glyph's is that of many texts.
+QPainterPath placed(const MvTextOutline::Glyph &glyph)
+{
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    path.addPath(glyph.path);
+    path.translate(glyph.origin);
+    return path;
+}
+
 /// Boxes in place of letters whose script no font can set: they have no size, and whoever asks for the name of such a
 /// font crashes.
 bool hasNoFont(const QGlyphRun &run)
 {
     return run.rawFont().pixelSize() <= 0.0;
+}
+
+/// The text engine gives the runs of several fonts in any order.
+QList<QGlyphRun> fromLeftToRight(QList<QGlyphRun> runs)
+{
+    const auto start = [](const QGlyphRun &run) { return run.positions().value(0).x(); };
+    std::sort(runs.begin(), runs.end(),
+              [&start](const QGlyphRun &a, const QGlyphRun &b) { return start(a) < start(b); });
+    return runs;
 }
 
 } // namespace
@@ -159,7 +102,7 @@ MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
     layout.endLayout();
     if (!line.isValid())
         return;
-    const QList<QGlyphRun> runs = layout.glyphRuns();
+    const QList<QGlyphRun> runs = fromLeftToRight(layout.glyphRuns());
     for (const QGlyphRun &run : runs) {
         if (hasNoFont(run))
             continue;
@@ -173,7 +116,8 @@ MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
 void MvGlyphLine::add(const QGlyphRun &run, double baseline)
 {
     const QRawFont font = run.rawFont();
-    const int face = Outlines::instance().numberOf(font);
+    MvGlyphOutlines &outlines = MvGlyphOutlines::instance();
+    const int face = outlines.faceOf(font);
     const QList<quint32> indexes = run.glyphIndexes();
     const QList<QPointF> positions = run.positions();
     const QList<QPointF> advances = font.advancesForGlyphIndexes(indexes, QRawFont::UseDesignMetrics);
@@ -186,11 +130,20 @@ void MvGlyphLine::add(const QGlyphRun &run, double baseline)
         glyph.unitsPerEm = static_cast<int>(std::lround(font.unitsPerEm()));
         glyph.advance = advances.value(i).x();
         glyph.origin = positions.at(i) - QPointF(0.0, baseline);
-        glyph.path = Outlines::instance().outline(face, font, indexes[i]);
-        m_path.addPath(glyph.path.translated(glyph.origin));
+        glyph.path = outlines.outline(face, font, indexes[i]);
         m_glyphs.append(glyph);
+        addPart(placed(glyph));
     }
     assignCharacters(run, first);
+}
+
+void MvGlyphLine::addPart(const QPainterPath &path)
+{
+    if (path.isEmpty())
+        return;
+    m_path.addPath(path);
+    const QRectF bounds = path.controlPointRect();
+    m_parts.append({path, bounds.left(), bounds.right(), bounds.top(), bounds.bottom()});
 }
 
 void MvGlyphLine::addPictures(const QGlyphRun &run, double baseline)
@@ -254,9 +207,4 @@ void MvGlyphLine::shareCharacters(qsizetype first)
         owner.firstCharacter += isFromNext ? 1 : 0;
         --owner.characters;
     }
-}
-
-void MvGlyphLine::forgetOutlines()
-{
-    Outlines::instance().forget();
 }

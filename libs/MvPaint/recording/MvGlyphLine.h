@@ -8,8 +8,8 @@ class QGlyphRun;
 /// The glyphs of one line of text, chosen and placed by the text engine: as outlines, or as pictures where a font has
 /// no outlines. The line starts at (0, 0) on its baseline.
 ///
-/// Outlines are taken from the font once per glyph and size, and put together for every text. A font of bitmaps is
-/// never asked for outlines or for other sizes than its own: that spoils its measures of all texts that follow.
+/// A font of bitmaps is never asked for outlines or for other sizes than its own: that spoils its measures of all texts
+/// that follow.
 class MvGlyphLine
 {
 public:
@@ -19,12 +19,12 @@ public:
     const QList<MvTextOutline::Glyph> &glyphs() const { return m_glyphs; }
     const QList<MvTextOutline::Picture> &pictures() const { return m_pictures; }
     const QPainterPath &path() const { return m_path; }
-
-    /// Forgets the outlines kept, for when fonts have changed.
-    static void forgetOutlines();
+    /// The path by glyphs, those that are seen; empty when the path is of none.
+    const QList<MvTextOutline::Group> &parts() const { return m_parts; }
 
 private:
     void add(const QGlyphRun &run, double baseline);
+    void addPart(const QPainterPath &path);
     void addPictures(const QGlyphRun &run, double baseline);
     /// Finds the characters that the glyphs from `first` on stand for. The text engine does not say it: glyphs that are
     /// those of single characters are recognised, and what lies between belongs together, as a ligature does.
@@ -36,4 +36,5 @@ private:
     QList<MvTextOutline::Glyph> m_glyphs;
     QList<MvTextOutline::Picture> m_pictures;
     QPainterPath m_path;
+    QList<MvTextOutline::Group> m_parts;
 };

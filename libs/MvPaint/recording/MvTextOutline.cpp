@@ -68,41 +68,34 @@ void append(QPainterPath &part, const QPainterPath &path, const Contour &contour
     }
 }
 
-using Contours = std::vector<Contour>::const_iterator;
-
-Group groupOf(const QPainterPath &path, Contours first, Contours end)
+QList<Group> contoursAsParts(const QPainterPath &path)
 {
-    Group group{{}, first->left, first->right, first->top, first->bottom};
-    int elements = 0;
-    for (Contours contour = first; contour != end; ++contour) {
-        elements += contour->end - contour->first;
-        group.right = std::max(group.right, contour->right);
-        group.top = std::min(group.top, contour->top);
-        group.bottom = std::max(group.bottom, contour->bottom);
+    QList<Group> parts;
+    for (const Contour &contour : contoursOf(path)) {
+        Group part{{}, contour.left, contour.right, contour.top, contour.bottom};
+        part.path.setFillRule(Qt::WindingFill);
+        append(part.path, path, contour);
+        parts.append(part);
     }
-    group.path.setFillRule(Qt::WindingFill);
-    group.path.reserve(elements);
-    for (Contours contour = first; contour != end; ++contour)
-        append(group.path, path, *contour);
-    return group;
+    return parts;
 }
 
-QList<Group> groupsOf(const QPainterPath &path)
+/// Joins the parts that share an x.
+QList<Group> groupsOf(QList<Group> parts)
 {
-    std::vector<Contour> contours = contoursOf(path);
-    std::stable_sort(contours.begin(), contours.end(),
-                     [](const Contour &a, const Contour &b) { return a.left < b.left; });
+    std::stable_sort(parts.begin(), parts.end(), [](const Group &a, const Group &b) { return a.left < b.left; });
     QList<Group> groups;
-    for (Contours first = contours.cbegin(); first != contours.cend();) {
-        double right = first->right;
-        Contours end = first + 1;
-        for (; end != contours.cend() && end->left <= right; ++end)
-            right = std::max(right, end->right);
-        groups.append(groupOf(path, first, end));
-        first = end;
+    for (const Group &part : std::as_const(parts)) {
+        if (groups.isEmpty() || groups.constLast().right < part.left) {
+            groups.append(part);
+            continue;
+        }
+        Group &group = groups.last();
+        group.path.addPath(part.path);
+        group.right = std::max(group.right, part.right);
+        group.top = std::min(group.top, part.top);
+        group.bottom = std::max(group.bottom, part.bottom);
     }
-    if (groups.size() == 1)
-        groups.first().path = path; // one record instead of two
     return groups;
 }
 
@@ -117,6 +110,20 @@ void prepareForThreads(const MvTextOutlineImpl &outline)
     for (const Group &group : outline.groups)
         painter.fillPath(group.path, Qt::black);
 }
+
+/// The parts of the path, if they are known.
+void setPath(MvTextOutlineImpl &outline, const QPainterPath &path, const QList<Group> &parts)
+{
+    outline.path = path;
+    outline.path.setFillRule(Qt::WindingFill);
+    outline.bounds = path.controlPointRect();
+    if (path.isEmpty())
+        return;
+    outline.groups = groupsOf(parts.isEmpty() ? contoursAsParts(outline.path) : parts);
+    if (outline.groups.size() == 1)
+        outline.groups.first().path = outline.path; // one record instead of two
+    prepareForThreads(outline);
+}
 } // namespace
 
 MvTextOutline::MvTextOutline()
@@ -126,9 +133,11 @@ MvTextOutline::MvTextOutline()
 MvTextOutline::MvTextOutline(const QFont &font, const QString &text)
     : d(new MvTextOutlineImpl)
 {
-    const double advance = MvTextOutlineCache::instance().advance(font, text); // mostly asked for before
+    d->font = font;
+    d->text = text;
+    d->advance = MvTextOutlineCache::instance().advance(font, text); // mostly asked for before
     const MvGlyphLine line(font, text);
-    *this = MvTextOutline(font, text, line.path(), advance);
+    setPath(*d, line.path(), line.parts());
     d->glyphs = line.glyphs();
     d->pictures = line.pictures();
     for (const Picture &picture : line.pictures())
@@ -140,14 +149,8 @@ MvTextOutline::MvTextOutline(const QFont &font, const QString &text, const QPain
 {
     d->font = font;
     d->text = text;
-    d->path = path;
-    d->path.setFillRule(Qt::WindingFill);
-    d->bounds = path.controlPointRect();
     d->advance = advance;
-    if (path.isEmpty())
-        return;
-    d->groups = groupsOf(d->path);
-    prepareForThreads(*d.constData());
+    setPath(*d, path, {});
 }
 
 MvTextOutline::MvTextOutline(const MvTextOutline &) = default;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvTextOutlineCache.h"
 
-#include "MvPaint/MvGlyphLine.h"
+#include "MvPaint/MvGlyphOutlines.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
@@ -23,7 +23,7 @@ void MvTextOutlineCache::setupInstance()
 {
     if (qGuiApp)
         QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [this] {
-            MvGlyphLine::forgetOutlines();
+            MvGlyphOutlines::instance().forget();
             clear();
         });
 }
