@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvEntryTable.h"
 #include "MvCalendar/MvHolidayEntries.h"
@@ -14,6 +15,7 @@
 #include <ctime>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::contentOf;
 
 class tst_MvEntryExchange : public MvTest
 {
@@ -30,11 +32,6 @@ private Q_SLOTS:
     void eventsOfNoCalendar();
 
 private:
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     static QDir corpus() { return QDir(QStringLiteral(MV_TEST_DATA "/../fuzz/seeds/fuzz_MvEntryIntake")); }
     /// "2027-03-01–2027-03-05 19:30 Name [rule] {groups}", by line.
     static QString told(const MvEntryReading &reading)

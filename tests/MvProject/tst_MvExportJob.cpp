@@ -3,11 +3,13 @@
 #include "MvProject/MvPageSource.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::contentOf;
 using namespace MvProjectFixture;
 
 Q_DECLARE_METATYPE(MvExportResult)
@@ -20,12 +22,6 @@ MvExportResult resultOf(MvExportJob &job)
     job.start();
     job.start(); // changes nothing
     return finished.wait(30000) ? finished.first().first().value<MvExportResult>() : MvExportResult();
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QStringList namesOf(const QList<QFileInfo> &files)

@@ -6,11 +6,11 @@
 #include "MvProject/MvPictureExporter.h"
 #include "MvProject/MvSvgExporter.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <QColorSpace>
 #include <QDomDocument>
 #include <QPainter>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
@@ -19,17 +19,10 @@
 #include <qpdf/QPDFPageDocumentHelper.hh>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::contentOf;
+using MvTestFiles::outputOf;
 
 namespace {
-
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0)
-        return "failed: " + process.readAllStandardError() + process.readAllStandardOutput();
-    return process.readAllStandardOutput();
-}
 
 /// Where pixels are dark, in tenths of a millimetre when the picture has 254 dots per inch.
 QRect darkRect(const QImage &image)
@@ -40,12 +33,6 @@ QRect darkRect(const QImage &image)
             if (qGray(image.pixel(x, y)) < 128)
                 rect |= QRect(x, y, 1, 1);
     return rect;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace

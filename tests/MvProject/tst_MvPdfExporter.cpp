@@ -5,12 +5,12 @@
 #include "MvProject/MvPictureExporter.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvFoto/MvImageLoader.h"
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <qpdf/Buffer.hh>
@@ -21,6 +21,7 @@
 #include <set>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::outputOf;
 
 namespace {
 
@@ -28,13 +29,6 @@ using Painting = std::function<void(QPainter &)>;
 
 constexpr int dpi = 1200;  // of what is painted: programs move thin lines onto whole pixels
 constexpr int coarser = 8; // what is compared
-
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished() && process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
-}
 
 bool areAlike(QRgb a, QRgb b, int tolerance)
 {

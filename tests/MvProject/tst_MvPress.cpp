@@ -3,10 +3,10 @@
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <QColorSpace>
 #include <QPainter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -18,6 +18,7 @@
 #include <array>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::outputOf;
 
 namespace {
 
@@ -25,13 +26,6 @@ using Painting = std::function<void(QPainter &)>;
 
 constexpr int dpi = 254; // a dot for each tenth of a millimetre
 const QRect page(0, 0, 1000, 800);
-
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished() && process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
-}
 
 void write(QPainter &painter, const QPointF &place, const QString &text, const QColor &color)
 {

@@ -6,6 +6,7 @@
 #include "MvProject/MvProjectRecovery.h"
 #include "MvProjectFixture.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -72,11 +73,9 @@ void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother()
     if (meanwhile == u"device"_s)
         stamp = "4711" + stamp.mid(stamp.indexOf(':'));
     const QFileInfo lost(MvProjectAutosave::folder() + u"/lost.mvcalendar"_s);
-    QFile file(lost.filePath());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(MvProjectFile::toBytes(titled(u"verloren"_s), lost.absoluteDir(), original.filePath(),
-                                      hasStamp ? stamp : QByteArray()));
-    file.close();
+    QVERIFY(MvTestFiles::write(lost.filePath(),
+                               MvProjectFile::toBytes(titled(u"verloren"_s), lost.absoluteDir(), original.filePath(),
+                                                      hasStamp ? stamp : QByteArray())));
 
     if (meanwhile.startsWith(u"saved"_s)) {
         QCOMPARE(MvProjectFile::write(titled(u"gerettet"_s), original).error, QString());

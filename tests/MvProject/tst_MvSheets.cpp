@@ -3,9 +3,9 @@
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvSheetPlan.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <QPainter>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <qpdf/QPDF.hh>
@@ -16,18 +16,12 @@
 #include <tuple>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::outputOf;
 
 namespace {
 
 constexpr int dpi = 254; // a dot for each tenth of a millimetre
 const QSizeF a4(2100.0, 2970.0);
-
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished() && process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
-}
 
 MvSheetSettings tiles(const QSizeF &paper)
 {

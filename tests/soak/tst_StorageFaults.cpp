@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvStorageTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -25,17 +26,12 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::contentOf;
 
 namespace {
 
 const auto nameOf = MvStorageTest::nameOf;
 const auto stateOf = MvStorageTest::stateOf;
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 // ---- entries
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvStudioFixture.h"
+#include "MvTestFiles.h"
 
 #include "MvProjectFixture.h"
 #include "MvStudioApplication.h"
@@ -19,6 +20,7 @@
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::contentOf;
 
 namespace {
 
@@ -29,12 +31,6 @@ MvCalendarDocument calendarOf2027(const QString &layout)
     document.setAppearance(MvProjectFixture::appearance(layout));
     document.setTitle(u"Familie 2027"_s);
     return document;
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString plain(QString text)

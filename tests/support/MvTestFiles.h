@@ -6,8 +6,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QProcess>
 
-/// Files that tests put somewhere, in folders that are made for them; false when that failed.
+/// Files that tests put somewhere, in folders that are made for them (false when that failed), and what others say of
+/// them.
 namespace MvTestFiles {
 
 inline bool write(const QString &path, const QByteArray &content)
@@ -23,6 +25,21 @@ inline bool writeFoto(const QString &path, const QSize &size = {16, 12}, const Q
     QImage image(size, QImage::Format_RGB32);
     image.fill(color);
     return QFileInfo(path).dir().mkpath(QStringLiteral(".")) && image.save(path);
+}
+
+/// Empty when it cannot be read.
+inline QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// What another program prints; empty when it fails.
+inline QByteArray outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    return process.waitForFinished() && process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
 }
 
 } // namespace MvTestFiles

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvTestFiles.h"
+
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QImage>
 #include <QMimeData>
-#include <QSaveFile>
 #include <QWidget>
 
 /// What tests of widgets do with windows, photos and the mouse.
@@ -30,11 +31,7 @@ inline bool writeFoto(const QString &path, const QColor &color, const QSize &siz
     return image.save(path);
 }
 
-inline bool write(const QString &path, const QByteArray &content)
-{
-    QSaveFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
-}
+using MvTestFiles::write;
 
 /// 34 bytes that claim 16,383 pixels square.
 inline bool writeHugeFoto(const QString &path)
