@@ -239,6 +239,18 @@ MvCalendarEventFile::Content MvCalendarEventFile::read(const QFileInfo &file)
     return content;
 }
 
+MvCalendarEventFile::Content MvCalendarEventFile::readPart(const QByteArray &list, int line,
+                                                           MvCalendarEventFotoFinder fotos)
+{
+    Content content;
+    if (!readLines(list, fotos, content))
+        readXml(list, QFileInfo(), fotos, content);
+    for (Skipped &skipped : content.skipped)
+        skipped.line += line - 1;
+    content.isComplete = content.refusal().isEmpty() && content.skipped.isEmpty();
+    return content;
+}
+
 MvCalendarEventFile::Content MvCalendarEventFile::readWithin(QXmlStreamReader &reader, MvCalendarEventFotoFinder fotos)
 {
     Content content;

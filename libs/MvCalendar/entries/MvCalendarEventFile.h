@@ -51,6 +51,10 @@ public:
     /// Reads a file. Photos that may not be opened give one warning for the file. May be called in any thread.
     static Content read(const QFileInfo &file);
 
+    /// Reads a list that is part of a file, from its first tag to its last one, as UTF-8; the line is that of its start
+    /// in the file. The error, if it is no such list, knows nothing of the file.
+    static Content readPart(const QByteArray &list, int line, MvCalendarEventFotoFinder fotos);
+
     /// Reads a list within a document that somebody else reads: the reader is at its element before and at its end
     /// afterwards. What is wrong with the document is the reader's.
     static Content readWithin(QXmlStreamReader &reader, MvCalendarEventFotoFinder fotos);

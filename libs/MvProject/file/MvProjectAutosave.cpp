@@ -7,8 +7,8 @@
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
+#include "MvProject/MvProjectParts.h"
 #include "MvProject/MvProjectVocabulary.h"
-#include "MvXML/MvXMLLoader.h"
 
 #include <QDir>
 #include <QFile>
@@ -69,7 +69,7 @@ void MvProjectAutosave::write()
         MvProjectFile::toBytes(m_project->document(), m_file.absoluteDir(), m_project->fileInfo().filePath(),
                                m_project->fileStamp(), m_project->entries());
     MvBackground::start(m_thread, [this, file = m_file, bytes] {
-        QString error = MvXMLLoader::check(bytes).message; // an older state is better than one that does not open
+        QString error = MvProjectParts(bytes).check().message; // an older state is better than one that does not open
         if (error.isEmpty())
             error = MvSafeFileWriter::write(file, bytes, MvSafeFileWriter::Backups::None).error;
         QMetaObject::invokeMethod(

@@ -2,9 +2,9 @@
 #include "MvProject/MvProjectFile.h"
 
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvProjectParts.h"
 #include "MvProject/MvProjectReader.h"
 #include "MvProject/MvProjectWriter.h"
-#include "MvXML/MvXMLLoader.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +26,7 @@ MvOutcome MvProjectFile::write(const MvCalendarDocument &document, const QFileIn
 MvOutcome MvProjectFile::write(const MvCalendarDocument &document, const Entries &entries, const QFileInfo &file)
 {
     const QByteArray bytes = toBytes(document, file.absoluteDir(), {}, {}, entries);
-    const MvXMLLoader::Error error = MvXMLLoader::check(bytes);
+    const MvXMLLoader::Error error = MvProjectParts(bytes).check();
     if (error.isError())
         return {tr("%1: So gespeichert ließe sich das Projekt nicht wieder öffnen. %2")
                     .arg(QDir::toNativeSeparators(file.filePath()), error.message),

@@ -6,6 +6,7 @@
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvSafeFileWriter.h"
+#include "MvProject/MvProjectParts.h"
 #include "MvProject/MvProjectVocabulary.h"
 #include "MvProject/MvThemeApplication.h"
 #include "MvXML/MvXMLLoader.h"
@@ -41,13 +42,18 @@ void putInOrder(QList<MvCalendarPage> &pages, QList<MvCalendarPage> &months)
 MvProjectFile::Content MvProjectReader::read()
 {
     MvXMLLoader::Error error;
-    const QByteArray bytes = MvXMLLoader::loadBytes(m_file, &error);
-    const QDomDocument dom = error.isError() ? QDomDocument() : MvXMLLoader::parse(bytes, &error);
+    const QByteArray bytes = MvXMLLoader::loadBytes(m_file, &error, MvXMLLoader::Limits::ofReaders());
+    const MvProjectParts parts(bytes);
+    const QDomDocument dom = error.isError() ? QDomDocument() : MvXMLLoader::parse(parts.document(), &error);
+    if (parts.hasList() && error.line >= parts.listLine())
+        error.line += int(parts.list().count('\n'));
+    if (!error.isError())
+        readRoot(dom.documentElement());
+    if (!error.isError() && m_content.isOk() && parts.hasList())
+        error = readList(parts);
     if (error.isError())
         m_content.error = error.describe(m_file) + advice();
-    else
-        readRoot(dom.documentElement());
-    if (m_content.isOk() && !dom.documentElement().firstChildElement(MvCalendarEventFile::elementName()).isNull())
+    else if (m_content.isOk() && !dom.documentElement().firstChildElement(MvCalendarEventFile::elementName()).isNull())
         readEntries(bytes);
     m_content.notes = m_notes.all();
     return m_content;
@@ -118,6 +124,18 @@ void MvProjectReader::readPages(const QDomElement &root)
         document.setAppearance(appearance);
     }
     document.setPages(range, pages);
+}
+
+MvXMLLoader::Error MvProjectReader::readList(const MvProjectParts &parts)
+{
+    m_content.entries = MvCalendarEventFile::readPart(parts.list(), parts.listLine(),
+                                                      MvCalendarEventFotoFinder::besideDocument(documentFolder()));
+    MvXMLLoader::Error error;
+    if (!m_content.entries->refusal().isEmpty()) {
+        error = MvXMLLoader::check(parts.list(), MvXMLLoader::Limits::ofStreams());
+        error.line += parts.listLine() - 1;
+    }
+    return error;
 }
 
 /// As a stream, as every list of entries is read: it keeps texts that a document in memory does not.

@@ -4,11 +4,14 @@
 #include "MvProject/MvProjectElementReader.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvProjectNotes.h"
+#include "MvXML/MvXMLLoader.h"
 
 #include <QCoreApplication>
 #include <QDomElement>
 #include <QFileInfo>
 #include <QList>
+
+class MvProjectParts;
 
 /// Reads one project file; used by MvProjectFile.
 class MvProjectReader
@@ -26,6 +29,7 @@ public:
 private:
     void readRoot(const QDomElement &root);
     void readPages(const QDomElement &root);
+    MvXMLLoader::Error readList(const MvProjectParts &parts);
     void readEntries(const QByteArray &bytes);
     MvPageFormat readPaper(const QDomElement &root);
     MvDateRange readRange(const QDomElement &root);
