@@ -2,9 +2,11 @@
 #include "MvEntries.h"
 #include "MvTest.h"
 
+#include "MvCalendar/MvCalendarEventMerge.h"
 #include "MvCalendar/MvCalendarEventProjectStore.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvEntryEdits.h"
+#include "MvCalendar/MvEntryIntake.h"
 #include "MvCalendar/MvEntryListModel.h"
 #include "MvCore/MvUndoController.h"
 
@@ -41,6 +43,7 @@ private Q_SLOTS:
     void othersKeepTheirGroups();
     void groupsComeAlong_data();
     void groupsComeAlong();
+    void groupsAreOneByName();
     void shiftsAndRemoves();
     void finds_data();
     void finds();
@@ -225,6 +228,33 @@ void tst_MvEntryEdits::groupsComeAlong()
     m_session->undo().undo();
     QVERIFY(list().groups().findName(group));
     QVERIFY(!list().groups().findName(u"Leer"_s));
+}
+
+/// What people see as one group is one, in the calendar's list and in the user's own.
+void tst_MvEntryEdits::groupsAreOneByName()
+{
+    const MvEventGroup other{u"f-2"_s, u"familie"_s, Qt::blue, {}, {}};
+    const MvEventGroup renamed{MvEventGroup::named(u"Verein"_s).id, u"Chor"_s, {}, {}, {}};
+    MvCalendarEventList active = list();
+    active.setGroups({other, renamed});
+    active[0].setGroups({other.id});
+    registry().setEvents(active);
+    const MvCalendarEventList own = registry().ownEvents();
+    const auto inOwn = MvEntryIntake::inGroups(own.groups(), active, MvEntryIntake::Origin::OtherList);
+    QCOMPARE(inOwn.groups(), own.groups());
+    QVERIFY(MvCalendarEventMerge::differences(inOwn, own).isEmpty());
+
+    registry().setChangesReachOwn(true);
+    MvCalendarEvent dora = entry(u"Dora"_s, {1980, 1, 1});
+    dora.setGroups({other.id});
+    MvEntryEdits(*m_session).change(u"new"_s, u"Neu"_s, {{{}, dora}});
+    MvEntryEdits(*m_session).setMembership({active.at(1)}, u"Familie"_s, MvEntryEdits::Membership::Added);
+    QCOMPARE(described(registry().ownEvents()), u"Anna: Familie; Bert: Familie; Chor: ; Dora: Familie"_s);
+    QCOMPARE(registry().ownEvents().groups().size(), own.groups().size());
+    QCOMPARE(list().groups(), active.groups());
+    m_session->undo().undo();
+    m_session->undo().undo();
+    QCOMPARE(described(registry().ownEvents()), described(own));
 }
 
 void tst_MvEntryEdits::shiftsAndRemoves()

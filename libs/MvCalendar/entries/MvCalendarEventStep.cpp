@@ -84,8 +84,8 @@ MvCalendarEventStep::Part MvCalendarEventStep::ownPart() const
     const auto inOwn = [this](const MvCalendarEvent &event) {
         return event.isValid() ? m_entries.presentEvent(event, List::Own) : MvCalendarEvent();
     };
-    MvCalendarEvent before = m_active.before;
-    MvCalendarEvent after = m_active.after;
+    MvCalendarEvent before = asOwn(m_active.before);
+    MvCalendarEvent after = asOwn(m_active.after);
     Part part{List::Own, inOwn(before), after, {}};
     if (part.before.isValid() && after.isValid()) {
         followFoto(part.before.foto(), before, after);
@@ -99,6 +99,18 @@ MvCalendarEventStep::Part MvCalendarEventStep::ownPart() const
             part.after.relocateFoto(m_own->after.foto());
     }
     return part;
+}
+
+/// The entry in the groups that the user's list has for those of the calendar's.
+MvCalendarEvent MvCalendarEventStep::asOwn(MvCalendarEvent event) const
+{
+    const QStringList ids = event.groups();
+    if (ids.isEmpty())
+        return event;
+    const QStringList own = m_entries.activeEventList().groups().idsIn(m_entries.ownEvents().groups(), ids);
+    if (own != ids)
+        event.setGroups(own);
+    return event;
 }
 
 /// Both become what they really were and are: an entry that another program has changed, or whose photo was copied, is

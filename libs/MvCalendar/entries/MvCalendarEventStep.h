@@ -64,6 +64,7 @@ private:
     bool remove(Part &part, MvCalendarEvent &event);
     bool add(const Part &part, const MvCalendarEvent &event);
     Part ownPart() const;
+    MvCalendarEvent asOwn(MvCalendarEvent event) const;
 
     MvCalendarEventRegistry &m_entries;
     bool m_reachesOwn;

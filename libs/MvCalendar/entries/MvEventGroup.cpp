@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvEventGroup.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 namespace {
@@ -56,6 +54,18 @@ QString MvEventGroupList::idOfName(const QString &name)
         group.id = QStringLiteral("%1-%2").arg(wanted).arg(n);
     append(group);
     return group.id;
+}
+
+QStringList MvEventGroupList::idsIn(const MvEventGroupList &other, const QStringList &ids) const
+{
+    QStringList theirs;
+    for (const QString &id : ids) {
+        const MvEventGroup *group = find(id);
+        const MvEventGroup *known = group ? other.findName(group->name) : nullptr;
+        theirs.append(known ? known->id : id);
+    }
+    theirs.removeDuplicates();
+    return theirs;
 }
 
 void MvEventGroupList::put(const MvEventGroup &group)

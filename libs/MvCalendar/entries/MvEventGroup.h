@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 /// Whom or what entries are about: family, club, a person, a class. An entry names its groups by their ids.
 struct MVCALENDAR_EXPORT MvEventGroup
@@ -35,6 +36,10 @@ public:
     const MvEventGroup *findName(const QString &name) const;
     /// The id of the group of that name, which is added when there is none; empty for an empty name.
     QString idOfName(const QString &name);
+    /// The ids by which the other list knows groups of this one, as the user's list and a calendar's know each other's:
+    /// by name first, for that is what people see, else by id, for a group may have been renamed in one of them. What
+    /// it does not know keeps its id.
+    QStringList idsIn(const MvEventGroupList &other, const QStringList &ids) const;
     /// Replaces the group of the same id, or adds it; an invalid one changes nothing.
     void put(const MvEventGroup &group);
 

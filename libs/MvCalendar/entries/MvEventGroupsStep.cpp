@@ -81,6 +81,9 @@ MvEventGroupsStep::Part MvEventGroupsStep::present(List list) const
         if (!part.after.find(group.id))
             part.after.append(group);
     }
+    part.after.removeIf([&groups](const MvEventGroup &group) { // one that the list has by another id
+        return !groups.find(group.id) && groups.findName(group.name);
+    });
     return part;
 }
 

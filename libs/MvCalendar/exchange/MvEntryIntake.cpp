@@ -20,11 +20,17 @@ namespace {
 constexpr qint64 looked = 4096; // bytes that tell what a file is
 
 /// Groups of the other list by those of this one.
-QHash<QString, QString> groupIds(MvEventGroupList &groups, const MvEventGroupList &others)
+QHash<QString, QString> groupIds(MvEventGroupList &groups, const MvEventGroupList &others, MvEntryIntake::Origin origin)
 {
     QHash<QString, QString> ids;
     for (const MvEventGroup &group : others) {
         const bool isKnown = groups.findName(group.name);
+        if (!isKnown && origin == MvEntryIntake::Origin::OtherList) {
+            ids.insert(group.id, group.id);
+            if (!groups.find(group.id))
+                groups.put(group);
+            continue;
+        }
         ids.insert(group.id, groups.idOfName(group.name));
         if (!isKnown) { // with its colour and the rest
             MvEventGroup own = group;
@@ -175,11 +181,12 @@ MvCalendarEventFile::Content MvEntryIntake::asList(const MvEntryReading &reading
     return content;
 }
 
-MvCalendarEventList MvEntryIntake::inGroups(const MvEventGroupList &groups, const MvCalendarEventList &events)
+MvCalendarEventList MvEntryIntake::inGroups(const MvEventGroupList &groups, const MvCalendarEventList &events,
+                                            Origin origin)
 {
     MvCalendarEventList result = events;
     MvEventGroupList all = groups;
-    const QHash<QString, QString> ids = groupIds(all, events.groups());
+    const QHash<QString, QString> ids = groupIds(all, events.groups(), origin);
     result.setGroups(all);
     for (MvCalendarEvent &event : result) {
         QStringList own;

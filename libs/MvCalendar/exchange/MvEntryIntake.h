@@ -70,9 +70,15 @@ public:
     /// Its note says what the entries have lost.
     static MvCalendarEventFile::Content asList(const MvEntryReading &reading, const QFileInfo &file);
 
+    /// Where entries come from that get other groups.
+    enum class Origin {
+        Elsewhere, ///< what ids mean there is nothing to us
+        OtherList, ///< the user's own list, or that of a calendar: an id that both have is one group
+    };
     /// Entries from elsewhere as those of a list with these groups. Groups are known by name: one of a known name is
     /// the list's own, whatever id it has elsewhere; the others are added.
-    static MvCalendarEventList inGroups(const MvEventGroupList &groups, const MvCalendarEventList &events);
+    static MvCalendarEventList inGroups(const MvEventGroupList &groups, const MvCalendarEventList &events,
+                                        Origin origin = Origin::Elsewhere);
 
     /// The list with the entries in it: those with a known uuid replace what they were, the others are added unless
     /// they are equal to one that is there. A uuid that several entries share, here or there, names none of them.

@@ -455,9 +455,11 @@ void MvCalendarEventListWidget::transferEvents(bool isFromOwn)
 {
     using Dialog = MvCalendarEventTransferDialog;
     const auto &registry = m_session.entries();
-    const MvCalendarEventList own = registry.ownEvents();
-    const Dialog::Differences differences =
-        isFromOwn ? MvCalendarEventMerge::differences(own, events()) : MvCalendarEventMerge::differences(events(), own);
+    const MvCalendarEventList here = isFromOwn ? registry.ownEvents() : events();
+    const MvCalendarEventList there = isFromOwn ? events() : registry.ownEvents();
+    const MvCalendarEventList coming =
+        MvEntryIntake::inGroups(there.groups(), here, MvEntryIntake::Origin::OtherList); // as it will be there
+    const Dialog::Differences differences = MvCalendarEventMerge::differences(coming, there);
     if (differences.isEmpty()) {
         const QString text = isFromOwn ? tr("Alles, was in Ihren Einträgen steht, steht auch in diesem Kalender.")
                                        : tr("Alles, was in diesem Kalender steht, steht auch in Ihren Einträgen.");
@@ -465,23 +467,31 @@ void MvCalendarEventListWidget::transferEvents(bool isFromOwn)
         return;
     }
     auto *dialog = new Dialog(differences, isFromOwn ? Dialog::Direction::FromOwn : Dialog::Direction::ToOwn, this);
-    connect(dialog, &QDialog::accepted, this, [this, dialog, isFromOwn, calendar = MvOpenCalendar(m_session)] {
+    const auto take = [this, dialog, isFromOwn, groups = coming.groups(), calendar = MvOpenCalendar(m_session)] {
         if (!calendar.isStillOpenOrTell(this))
             return;
         QList<Change> chosen;
-        for (const auto &[here, there] : dialog->chosen())
-            chosen.append({there, here});
-        takeTransfer(chosen, isFromOwn);
-    });
+        MvEventGroupList named;
+        for (const auto &[wanted, present] : dialog->chosen()) {
+            chosen.append({present, wanted});
+            for (const QString &id : wanted.groups()) {
+                if (const MvEventGroup *group = groups.find(id))
+                    named.put(*group);
+            }
+        }
+        takeTransfer(chosen, named, isFromOwn);
+    };
+    connect(dialog, &QDialog::accepted, this, take);
     dialog->open();
 }
 
 /// What another program has changed meanwhile stays: the step means the very entry.
-void MvCalendarEventListWidget::takeTransfer(const QList<Change> &chosen, bool isFromOwn)
+void MvCalendarEventListWidget::takeTransfer(const QList<Change> &chosen, const MvEventGroupList &groups,
+                                             bool isFromOwn)
 {
     MvEntryEdits(m_session).change(
         u"transferEvents"_s, isFromOwn ? tr("Aus meinen Einträgen übernehmen") : tr("In meine Einträge übernehmen"),
-        chosen, isFromOwn ? Reach::ActiveList : Reach::OwnList);
+        chosen, isFromOwn ? Reach::ActiveList : Reach::OwnList, groups);
     Q_EMIT calendarEventAdded();
 }
 

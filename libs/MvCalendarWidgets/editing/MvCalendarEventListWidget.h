@@ -99,7 +99,7 @@ private:
     void replaceEvents(const QString &macro, const QString &name, const MvCalendarEventList &removed,
                        const MvCalendarEventList &added, Reach reach, const MvEventGroupList &groups = {});
     void transferEvents(bool isFromOwn);
-    void takeTransfer(const QList<Change> &chosen, bool isFromOwn);
+    void takeTransfer(const QList<Change> &chosen, const MvEventGroupList &groups, bool isFromOwn);
     void describeActions(const QMenu *menu) const;
     void deleteEvent(const MvCalendarEvent &event);
     MvCalendarEventList newEvents(const MvCalendarEventList &current, const MvCalendarEventList &read) const;
