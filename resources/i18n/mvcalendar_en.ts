@@ -3607,6 +3607,10 @@
             <numerusform>%n photos added.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Keine Fotos übernommen: Der Kalender, für den sie gelesen wurden, ist nicht mehr offen.</source>
+        <translation>No photos were taken: the calendar that they were read for is no longer open.</translation>
+    </message>
 </context>
 <context>
     <name>MvFotoHandle</name>
@@ -5679,6 +5683,10 @@ The context menu replaces it by another photo.</translation>
         <source>Auf dieser Seite ist kein Platz für ein Foto; wählen Sie eine andere Vorlage.</source>
         <translation>There is no place for a photo on this page; choose another template.</translation>
     </message>
+    <message>
+        <source>Das Foto „%1“ ist nicht eingefügt: Die Seite, für die es gelesen wurde, ist nicht mehr offen.</source>
+        <translation>The photo “%1” is not inserted: the page that it was read for is no longer open.</translation>
+    </message>
 </context>
 <context>
     <name>MvPagePreview</name>
@@ -5930,7 +5938,7 @@ The context menu replaces it by another photo.</translation>
     </message>
     <message>
         <source>Woraus der Beschnitt wird, wo die Seite keinen eigenen hat: ihr Rand wird nach außen gespiegelt, oder seine Farben werden ausgezogen</source>
-        <translation>What the bleed is made of where the page has none of its own: its edge is mirrored outwards, or the edge's colours are drawn out</translation>
+        <translation>What the bleed is made of where the page has none of its own: its edge is mirrored outwards, or the edge&apos;s colours are drawn out</translation>
     </message>
     <message>
         <source>Farbfotos behalten ihre Farben und ihr Farbprofil; die Druckerei rechnet sie selbst in Druckfarben um</source>

@@ -260,7 +260,7 @@ void tst_StudioFileJourneys::fotosStayWithTheirCalendar()
     page.setFotoFrame(MvFotoFrame(studio.path(u"alt/0.png"_s)));
     document.setPage(0, page);
     QVERIFY(QDir().mkpath(studio.path(u"neu"_s)));
-    studio.writeFoto(u"neu/0.png"_s, Qt::green);
+    studio.writeFoto(u"neu/0.png"_s, Qt::green, {3000, 2500}); // not decoded at once
     studio.project()->newProject(document);
     const auto ask = [&] {
         return studio.trigger("findPhotos") &&
@@ -281,6 +281,9 @@ void tst_StudioFileJourneys::fotosStayWithTheirCalendar()
     MvStudioFixture::dialog<QMessageBox>("missingPhotosMessage")->reject();
 
     auto *reading = studio.window()->findChild<MvFotoFlow *>(); // nor those that are just being read
+    QStringList told;
+    connect(reading, &MvFotoFlow::message, this, [&](const QString &text) { told.append(text); });
+    connect(studio.canvas(), &MvPageCanvas::message, this, [&](const QString &text) { told.append(text); });
     reading->add({studio.path(u"neu/0.png"_s)});
     studio.canvas()->setFoto(studio.path(u"neu/0.png"_s));
     page.setFotoFrame({});
@@ -290,6 +293,8 @@ void tst_StudioFileJourneys::fotosStayWithTheirCalendar()
     studio.canvas()->setFoto(own); // comes after the other
     QTRY_COMPARE(studio.document().pages().constFirst().fotoFrame().path(), own);
     QTRY_VERIFY(!reading->isRunning());
+    QTRY_COMPARE(told.count(), 3); // neither goes without a word
+    QCOMPARE(told.filter(u"nicht mehr offen"_s).count(), 2);
     QCOMPARE(studio.steps(), 1);
     QVERIFY(studio.document().fotoPool().isEmpty());
 }

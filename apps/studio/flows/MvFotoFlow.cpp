@@ -16,6 +16,8 @@
 #include <QFileInfo>
 #include <QWidget>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -201,9 +203,11 @@ void MvFotoFlow::forget()
 {
     if (m_readings.isEmpty())
         return;
-    m_readings.last().use = {};
+    const bool isNews = bool(std::exchange(m_readings.last().use, {}));
     m_intake->cancel();
     Q_EMIT progress(0, -1);
+    if (isNews)
+        Q_EMIT message(tr("Keine Fotos übernommen: Der Kalender, für den sie gelesen wurden, ist nicht mehr offen."));
 }
 
 void MvFotoFlow::take(const MvFotoPoolIntake::Result &result)

@@ -119,16 +119,17 @@ void MvPageFoto::set(MvProject *project, const FrameId &frame, const QString &pa
         connect(project, &MvProject::documentReplaced, receiver, [isOpen] { *isOpen = false; });
     const auto take = [project, frame, path, file, tell, isOpen, watch](const QImage &image) {
         disconnect(watch);
-        if (!*isOpen)
+        if (!*isOpen || frame.page < 0 || frame.page >= project->document().pages().size()) {
+            tell(tr("Das Foto „%1“ ist nicht eingefügt: Die Seite, für die es gelesen wurde, ist nicht mehr offen.")
+                     .arg(file.fileName()));
             return;
+        }
         if (image.isNull()) {
             tell(tr("Das Foto „%1“ kann nicht gelesen werden. %2")
                      .arg(file.fileName(), MvImageLoader::instance().error(file)));
             return;
         }
         MvCalendarDocument document = project->document();
-        if (frame.page < 0 || frame.page >= document.pages().size())
-            return;
         MvCalendarPage page = document.pages().at(frame.page);
         if (page.isSimple() && frame.element == 0 && !page.fotoFrame().isValid())
             page.setFotoFrame(frameFor(path, document.format())); // its place follows from its proportions
