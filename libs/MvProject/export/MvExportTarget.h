@@ -49,7 +49,8 @@ public:
     /// Whether a file of that name can be written, as far as it can be told beforehand.
     MvOutcome checkPlace() const;
 
-    /// Writes the pages. The observer, if any, is not owned.
+    /// Writes the pages. The observer, if any, is not owned. Threads of QThreadPool::globalInstance(), in which Qt
+    /// paints, are begun and kept from then on; where there is none for pages, that is an error.
     MvExportResult write(const MvPageSource &pages, int dpi, MvExportObserver *observer = nullptr) const;
 
 private:
