@@ -4,12 +4,11 @@
 // and with reading it.
 
 #include "MvBenchFotos.h"
+#include "MvBenchMain.h"
 #include "MvBenchPages.h"
 #include "MvBenchTurns.h"
 
-#include "MvCore/MvProcessMemory.h"
 #include "MvFoto/MvDirectFotoSource.h"
-#include "MvFoto/MvImageLoader.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvPageSource.h"
@@ -17,7 +16,6 @@
 #include "MvProject/MvPictureExporter.h"
 
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
@@ -141,11 +139,5 @@ BENCHMARK(pageAsPng)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    MvImageLoader::raiseProcessLimit();
-    MvProcessMemory::giveBackAtOnce(); // as the programs do
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return MvBenchMain::run(argc, argv);
 }

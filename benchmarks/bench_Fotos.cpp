@@ -3,8 +3,8 @@
 // sharp, exporting it, and gathering five hundred for the pool beside a window.
 
 #include "MvBenchFotos.h"
+#include "MvBenchMain.h"
 
-#include "MvCore/MvProcessMemory.h"
 #include "MvFoto/MvFotoSource.h"
 #include "MvFoto/MvGuardedImageReader.h"
 #include "MvFoto/MvImageLoader.h"
@@ -19,7 +19,6 @@
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -251,11 +250,5 @@ BENCHMARK(gatherForPool)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
-    MvImageLoader::raiseProcessLimit();
-    MvProcessMemory::giveBackAtOnce(); // as the programs do
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return MvBenchMain::run(argc, argv);
 }

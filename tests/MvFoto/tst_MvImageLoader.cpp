@@ -339,6 +339,8 @@ void tst_MvImageLoader::scales_data()
     QTest::addColumn<QSize>("bounds");
     QTest::addColumn<QSize>("size");
     QTest::newRow("much smaller: decoded small") << QSize(100, 100) << QSize(100, 75);
+    QTest::newRow("halved once") << QSize(500, 500) << QSize(500, 375);
+    QTest::newRow("halved twice") << QSize(260, 260) << QSize(260, 195);
     QTest::newRow("a little smaller: decoded in full") << QSize(1000, 1000) << QSize(1000, 750);
     QTest::newRow("height decides") << QSize(1000, 60) << QSize(80, 60);
     QTest::newRow("larger") << QSize(3200, 2400) << QSize(3200, 2400);

@@ -289,13 +289,31 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
     return {};
 }
 
+/// What the decoder is asked for, upright. That of JPEG halves on the way: it saves time, and nothing is seen of it
+/// where half as many pixels again are left as are wanted. What it does not come to by halving, it scales to; then
+/// there is no need of scaling twice.
+QSize MvGuardedImageReader::givenSize(const QSize &full, const QSize &target) const
+{
+    constexpr double spare = 1.5;
+    if (m_format == "jpeg") {
+        for (const int divisor : {8, 4, 2}) {
+            const bool isLarge =
+                full.width() >= spare * divisor * target.width() && full.height() >= spare * divisor * target.height();
+            if (isLarge && full.width() % divisor == 0 && full.height() % divisor == 0)
+                return full / divisor;
+        }
+    }
+    const double much = m_format == "jpeg" ? 2 * spare : 2.0;
+    return full.width() > much * target.width() && full.height() > much * target.height() ? 2 * target : full;
+}
+
 /// The picture as it is stored, not turned yet, at least as large as the target.
 QImage MvGuardedImageReader::decoded(const QSize &full, const QSize &target)
 {
     if (m_heif)
         return m_heif->decode();
-    if (full.width() > 2 * target.width() && full.height() > 2 * target.height())
-        m_reader->setScaledSize(isTurned() ? 2 * target.transposed() : 2 * target);
+    if (const QSize given = givenSize(full, target); given != full)
+        m_reader->setScaledSize(isTurned() ? given.transposed() : given);
     QImage image = m_reader->read();
     if (m_format == "jpeg" && !image.colorSpace().isValid() && exif().isAdobeRgb())
         image.setColorSpace(QColorSpace::AdobeRgb);

@@ -73,6 +73,7 @@ private:
     bool isWithinLimits(const QSize &full, const QSize &target);
     qint64 largestImage(const QSize &full, const QSize &target) const;
     qint64 neededMemory(const QSize &full, const QSize &target) const;
+    QSize givenSize(const QSize &full, const QSize &target) const;
     void lookThrough();
     bool hasRunOut() const;
     QImage decoded(const QSize &full, const QSize &target);
