@@ -13,13 +13,14 @@ namespace {
 
 using Tables = QHash<hb_tag_t, QByteArray>;
 
-/// What outlines are made of, in both kinds of fonts.
-constexpr const char *neededTables[] = {"head", "maxp", "loca", "glyf", "CFF "};
+constexpr hb_tag_t glyf = HB_TAG('g', 'l', 'y', 'f');
+constexpr hb_tag_t cff = HB_TAG('C', 'F', 'F', ' ');
 
+/// What outlines are made of, in both kinds of fonts.
 Tables tablesOf(const QRawFont &font)
 {
     Tables tables;
-    for (const char *name : neededTables)
+    for (const char *name : {"head", "maxp", "loca", "glyf", "CFF "})
         tables.insert(hb_tag_from_string(name, -1), font.fontTable(name));
     return tables;
 }
@@ -90,11 +91,12 @@ hb_draw_funcs_t *penFunctions()
 
 MvFontDrawing::MvFontDrawing(const QRawFont &font)
 {
-    const bool hasOutlines = !font.fontTable("glyf").isEmpty() || !font.fontTable("CFF ").isEmpty();
+    auto tables = std::make_unique<Tables>(tablesOf(font)); // copies: half a megabyte each
+    const bool hasOutlines = !tables->value(glyf).isEmpty() || !tables->value(cff).isEmpty();
     if (!hasOutlines || !font.fontTable("fvar").isEmpty())
         return;
-    hb_face_t *face = hb_face_create_for_tables(referTo, new Tables(tablesOf(font)),
-                                                [](void *tables) { delete static_cast<Tables *>(tables); });
+    hb_face_t *face =
+        hb_face_create_for_tables(referTo, tables.release(), [](void *owned) { delete static_cast<Tables *>(owned); });
     m_unitsPerEm = static_cast<int>(hb_face_get_upem(face));
     m_font.reset(hb_font_create(face));
     hb_face_destroy(face); // the font holds it

@@ -96,8 +96,9 @@ bool MvGlyphPictures::hasNoOutlines(const QRawFont &font)
     const QString name = font.familyName() + font.styleName();
     if (const auto found = known.constFind(name); found != known.cend())
         return *found;
+    // "loca" says where the outlines of "glyf" are, and is far smaller to copy
     const bool isBitmap =
-        font.fontTable("glyf").isEmpty() && font.fontTable("CFF ").isEmpty() && font.fontTable("CFF2").isEmpty();
+        font.fontTable("loca").isEmpty() && font.fontTable("CFF ").isEmpty() && font.fontTable("CFF2").isEmpty();
     return *known.insert(name, isBitmap);
 }
 
