@@ -14,7 +14,11 @@ function(mv_add_library name)
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} VERIFY_INTERFACE_HEADER_SETS ON)
     if(MV_PRECOMPILE)
-        target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/MvPrecompiled.h)
+        set(precompiled MvPrecompiled.h)
+        if(name STREQUAL MvCalendarBase)
+            set(precompiled MvPrecompiledBase.h)
+        endif()
+        target_precompile_headers(${name} PRIVATE ${PROJECT_SOURCE_DIR}/cmake/${precompiled})
     endif()
     set_property(GLOBAL APPEND PROPERTY MV_LIBRARIES ${name})
 endfunction()
@@ -35,6 +39,9 @@ function(mv_add_room library folder)
             target_sources(${library} PRIVATE ${path}/${class}.cpp)
         endif()
     endforeach()
+    if(NOT ARG_PUBLIC)
+        return()
+    endif()
 
     list(TRANSFORM ARG_PUBLIC PREPEND ${path}/ OUTPUT_VARIABLE headers)
     list(TRANSFORM headers APPEND .h)
@@ -62,4 +69,24 @@ function(mv_add_export_headers library)
                 DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1/${module} COMPONENT development)
         endif()
     endforeach()
+endfunction()
+
+set(MV_MODULE_FOLDER mvcalendar-${PROJECT_VERSION_MAJOR})
+
+# mv_add_module(<name> LINK <target>...)
+#
+# A shared object that MvLoadedModule loads: it lies in MV_MODULE_FOLDER beside the libraries. It has no sources yet.
+function(mv_add_module name)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    add_library(${name} MODULE)
+    target_link_libraries(${name} PRIVATE ${ARG_LINK})
+    set_target_properties(${name} PROPERTIES PREFIX "" INSTALL_RPATH "$ORIGIN/.."
+        LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${MV_MODULE_FOLDER})
+endfunction()
+
+# mv_loads_modules(<target>)
+#
+# For what links the libraries and is run while building or testing: builds the modules that these load, too.
+function(mv_loads_modules target)
+    add_dependencies(${target} MvHeif MvPdf MvZip)
 endfunction()

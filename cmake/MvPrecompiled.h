@@ -2,15 +2,10 @@
 // Qt headers that nearly every source of the project includes; precompiled once per target.
 #pragma once
 
+#include "MvPrecompiledBase.h"
+
 #include <QColor>
-#include <QDate>
-#include <QFile>
 #include <QFont>
-#include <QHash>
 #include <QImage>
-#include <QList>
-#include <QObject>
 #include <QPainter>
 #include <QPainterPath>
-#include <QString>
-#include <QStringList>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendarOptions.h"
 
-#include "MvCliCommand.h"
-#include "MvCliValues.h"
-#include "MvNearMiss.h"
-#include "MvSchemaListCommand.h"
+#include "plain/MvCliCommand.h"
+#include "plain/MvCliValues.h"
+#include "plain/MvNearMiss.h"
+#include "MvSchemaNames.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,13 +14,13 @@ constexpr int mostMonths = 120;
 constexpr double widestBleed = 20.0; // millimetres
 
 /// The id of the layout or colour schema that an option names, the usual one when it was not given.
-QString schemaId(MvCliValues &values, const QString &option, MvSchemaListCommand::Kind kind)
+QString schemaId(MvCliValues &values, const QString &option, MvSchemaNames::Kind kind)
 {
     if (!values.has(option))
-        return MvSchemaListCommand::defaultId(kind);
-    const QString id = MvSchemaListCommand::find(kind, values.text(option));
+        return MvSchemaNames::defaultId(kind);
+    const QString id = MvSchemaNames::find(kind, values.text(option));
     if (id.isEmpty())
-        values.setError(MvSchemaListCommand::unknownError(kind, option, values.text(option)));
+        values.setError(MvSchemaNames::unknownError(kind, option, values.text(option)));
     return id;
 }
 
@@ -89,7 +89,7 @@ MvCalendariumHolidayConfig MvCalendarOptions::holidayConfig(MvCliValues &values)
 
 MvCalendariumAppearance MvCalendarOptions::appearance(MvCliValues &values)
 {
-    using Kind = MvSchemaListCommand::Kind;
+    using Kind = MvSchemaNames::Kind;
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(schemaId(values, u"layout"_s, Kind::Layouts)));
     appearance.adoptLayoutSuggestions();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCliOption.h"
+#include "plain/MvCliOption.h"
 #include "MvProject/MvCalendarDocument.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCliProject.h"
 
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvProjectFile.h"
 

@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvUserColorSchemata.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvXML/MvXMLLoader.h"
 
@@ -80,8 +80,9 @@ QString MvColorsCommand::summary() const
 
 QList<MvCliOption> MvColorsCommand::options() const
 {
-    return MvSchemaListCommand::options() +
-           QList<MvCliOption>{{u"hidden"_s, {}, tr("zählt die ausgeblendeten auf")},
+    return {formatOption({u"text"_s, u"json"_s}),
+            jsonOption(),
+            {u"hidden"_s, {}, tr("zählt die ausgeblendeten auf")},
                               {saveTask, u"NAME"_s, tr("behält die Farben der Datei --from als eigenes Farbschema")},
                               {u"from"_s, tr("DATEI"), tr("ein Projekt, oder eine Datei mit einem Farbschema")},
                               {renameTask, u"ID"_s, tr("nennt ein eigenes Farbschema um in --to")},
@@ -125,21 +126,21 @@ MvCliCommand::Result MvColorsCommand::run(const MvCliArguments &arguments, const
         const MvCalendariumColorSchemaID id = schemaId(values, task);
         return values.isOk() ? change(values, task, id) : misused(values.error());
     }
-    if (!values.has(u"hidden"_s))
-        return MvSchemaListCommand::run(arguments, streams);
     const QString format = values.format({u"text"_s, u"json"_s});
     if (!values.isOk())
         return misused(values.error());
-    print(hidden(), format == u"json"_s, streams.out);
+    const QList<MvSchemaNames::Schema> listed =
+        values.has(u"hidden"_s) ? hidden() : MvSchemaNames::schemata(Kind::Colors);
+    MvLayoutsCommand::print(MvSchemaNames::rows(listed), format == u"json"_s, streams.out);
     return {};
 }
 
-QList<MvSchemaListCommand::Schema> MvColorsCommand::hidden()
+QList<MvSchemaNames::Schema> MvColorsCommand::hidden()
 {
-    QList<Schema> schemata;
+    QList<MvSchemaNames::Schema> schemata;
     const MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     for (const MvCalendariumColorSchema &schema : registry.hiddenSchemata())
-        schemata.append(describe(registry.id(schema)));
+        schemata.append(MvSchemaNames::describe(registry.id(schema)));
     return schemata;
 }
 
@@ -147,9 +148,9 @@ QList<MvSchemaListCommand::Schema> MvColorsCommand::hidden()
 MvCalendariumColorSchemaID MvColorsCommand::schemaId(MvCliValues &values, const QString &option)
 {
     const QString text = values.text(option);
-    const MvCalendariumColorSchemaID id(find(Kind::Colors, text));
+    const MvCalendariumColorSchemaID id(MvSchemaNames::find(Kind::Colors, text));
     if (!id.isValid())
-        values.setError(unknownError(Kind::Colors, option, text));
+        values.setError(MvSchemaNames::unknownError(Kind::Colors, option, text));
     else if ((option == renameTask || option == removeTask) && !id.isUserSchema())
         values.setError(
             tr("--%1 „%2“: das ist kein eigenes Farbschema; ausblenden lässt es sich mit --hide").arg(option, text));
@@ -169,7 +170,7 @@ MvCliCommand::Result MvColorsCommand::keep(const MvCliValues &values, const Stre
         return failed(result.error);
     for (const QString &note : found.notes)
         streams.hints << note << '\n';
-    print({describe(result.id)}, false, streams.out);
+    MvLayoutsCommand::print(MvSchemaNames::rows({MvSchemaNames::describe(result.id)}), false, streams.out);
     return {};
 }
 

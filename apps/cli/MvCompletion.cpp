@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCompletion.h"
 
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/MvPressProfile.h"
 #include "MvProject/MvThemeRegistry.h"
-#include "MvSchemaListCommand.h"
+#include "MvSchemaNames.h"
 
 #include <algorithm>
 
@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QList<MvCompletion::Candidate> schemata(MvSchemaListCommand::Kind kind)
+QList<MvCompletion::Candidate> schemata(MvSchemaNames::Kind kind)
 {
     QList<MvCompletion::Candidate> found;
-    for (const MvSchemaListCommand::Schema &schema : MvSchemaListCommand::schemata(kind))
+    for (const MvSchemaNames::Schema &schema : MvSchemaNames::schemata(kind))
         found.append({schema.id, schema.name});
     return found;
 }
@@ -78,9 +78,9 @@ QList<MvCompletion::Candidate> MvCompletion::valuesOf(const MvCliOption &option,
 {
     QList<Candidate> found;
     if (option.name == u"layout"_s)
-        return schemata(MvSchemaListCommand::Kind::Layouts);
+        return schemata(MvSchemaNames::Kind::Layouts);
     if (option.name == u"colors"_s)
-        return schemata(MvSchemaListCommand::Kind::Colors);
+        return schemata(MvSchemaNames::Kind::Colors);
     if (option.name == u"theme"_s) {
         for (const MvCalendarTheme &theme : MvThemeRegistry::instance().themes())
             found.append({theme.id(), theme.name()});

@@ -3,15 +3,15 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvHolidayEntries.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvEntriesEdit.h"
 #include "MvEntriesInput.h"
 #include "MvEntriesPlace.h"
 #include "MvEntriesPrinter.h"
-#include "MvHolidaysCommand.h"
-#include "MvNearMiss.h"
-#include "MvVacationHint.h"
+#include "plain/MvHolidaysCommand.h"
+#include "plain/MvNearMiss.h"
+#include "plain/MvVacationHint.h"
 
 #include <QDir>
 

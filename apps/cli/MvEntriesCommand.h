@@ -3,7 +3,7 @@
 
 #include "MvCalendar/MvCalendarEventList.h"
 #include "MvCalendar/MvEntryIntake.h"
-#include "MvCliCommand.h"
+#include "plain/MvCliCommand.h"
 
 /// "entries": personal entries listed, added and removed, taken in from other programs, given to them, checked.
 class MvEntriesCommand : public MvCliCommand

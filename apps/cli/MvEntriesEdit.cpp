@@ -2,12 +2,12 @@
 #include "MvEntriesEdit.h"
 
 #include "MvCalendar/MvRepetitionWords.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvCore/MvTypedDate.h"
 #include "MvEntriesInput.h"
 #include "MvEntriesPlace.h"
 #include "MvEntriesPrinter.h"
-#include "MvNearMiss.h"
+#include "plain/MvNearMiss.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "MvCalendar/MvCalendarEventList.h"
-#include "MvCliCommand.h"
+#include "plain/MvCliCommand.h"
 
 #include <QCoreApplication>
 #include <QList>

@@ -4,7 +4,7 @@
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvEntryTable.h"
 #include "MvCalendar/MvICalendar.h"
-#include "MvTextTable.h"
+#include "plain/MvTextTable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

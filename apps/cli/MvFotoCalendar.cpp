@@ -2,8 +2,8 @@
 #include "MvFotoCalendar.h"
 
 #include "MvCalendarOptions.h"
-#include "MvCliValues.h"
-#include "MvNearMiss.h"
+#include "plain/MvCliValues.h"
+#include "plain/MvNearMiss.h"
 #include "MvProject/MvFotoDistribution.h"
 #include "MvProject/MvFotoPoolIntake.h"
 #include "MvProject/MvThemeRegistry.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCliArguments.h"
-#include "MvCliOption.h"
+#include "plain/MvCliArguments.h"
+#include "plain/MvCliOption.h"
 #include "MvCliProject.h"
 #include "MvProject/MvNewCalendar.h"
 

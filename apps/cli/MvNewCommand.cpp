@@ -2,7 +2,7 @@
 #include "MvNewCommand.h"
 
 #include "MvCalendarOptions.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvFotoCalendar.h"
 #include "MvProject/MvProjectEntryFotos.h"

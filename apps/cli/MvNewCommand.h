@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCliCommand.h"
+#include "plain/MvCliCommand.h"
 
 /// "new": a photo calendar as a project, to be gone on with in the studio.
 class MvNewCommand : public MvCliCommand

@@ -2,7 +2,7 @@
 #include "MvPackCommand.h"
 
 #include "MvCliProject.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvProject/MvProjectPack.h"
 #include "MvRenderEntries.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPressOptions.h"
 
-#include "MvCliArguments.h"
-#include "MvCliValues.h"
-#include "MvNearMiss.h"
+#include "plain/MvCliArguments.h"
+#include "plain/MvCliValues.h"
+#include "plain/MvNearMiss.h"
 
 #include <QFileInfo>
 

@@ -5,13 +5,13 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCalendarOptions.h"
 #include "MvCliProject.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvFotoCalendar.h"
 #include "MvPageSelection.h"
 #include "MvRenderReport.h"
 #include "MvRenderTargets.h"
-#include "MvVacationHint.h"
+#include "plain/MvVacationHint.h"
 
 #include <QFontDatabase>
 

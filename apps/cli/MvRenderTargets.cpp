@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRenderTargets.h"
 
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvInterruption.h"
 #include "MvPressOptions.h"
 #include "MvProject/MvExportObserver.h"

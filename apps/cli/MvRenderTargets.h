@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCliArguments.h"
-#include "MvCliCommand.h"
+#include "plain/MvCliArguments.h"
+#include "plain/MvCliCommand.h"
 #include "MvProject/MvExportResult.h"
 #include "MvProject/MvExportTarget.h"
 #include "MvProject/MvPressSettings.h"

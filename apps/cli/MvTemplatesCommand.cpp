@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvTemplatesCommand.h"
 
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvProject/MvPageTemplateRegistry.h"
-#include "MvTextTable.h"
+#include "plain/MvTextTable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

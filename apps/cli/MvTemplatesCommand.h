@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCliCommand.h"
+#include "plain/MvCliCommand.h"
 
 /// "templates": how pages of photo calendars can be divided.
 class MvTemplatesCommand : public MvCliCommand

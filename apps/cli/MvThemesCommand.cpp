@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvThemesCommand.h"
 
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvThemeRegistry.h"
-#include "MvTextTable.h"
+#include "plain/MvTextTable.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

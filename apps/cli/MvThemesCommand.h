@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCliCommand.h"
+#include "plain/MvCliCommand.h"
 
 /// "themes": what photo calendars can look like.
 class MvThemesCommand : public MvCliCommand

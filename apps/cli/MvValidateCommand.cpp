@@ -2,7 +2,7 @@
 #include "MvValidateCommand.h"
 
 #include "MvCliProject.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvProject/MvPrintCheck.h"
 #include "MvRenderEntries.h"

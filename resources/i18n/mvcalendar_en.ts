@@ -5058,10 +5058,28 @@ The context menu replaces it by another photo.</translation>
     </message>
 </context>
 <context>
+    <name>MvLayoutsCommand</name>
+    <message>
+        <source>zählt die Layouts auf</source>
+        <translation>lists the layouts</translation>
+    </message>
+</context>
+<context>
     <name>MvLeapDayHint</name>
     <message>
         <source>Nur in Schaltjahren gedruckt, dieser Kalender hat keinen 29. Februar: %1</source>
         <translation>Printed in leap years only, this calendar has no 29 February: %1</translation>
+    </message>
+</context>
+<context>
+    <name>MvLoadedModule</name>
+    <message>
+        <source>%1 lässt sich nicht laden: %2</source>
+        <translation>%1 cannot be loaded: %2</translation>
+    </message>
+    <message>
+        <source>%1 gehört zu einer anderen Version.</source>
+        <translation>%1 belongs to another version.</translation>
     </message>
 </context>
 <context>
@@ -7052,25 +7070,17 @@ Save it under another name or in another folder.</translation>
     </message>
 </context>
 <context>
-    <name>MvSchemaListCommand</name>
-    <message>
-        <source>zählt die Layouts auf</source>
-        <translation>lists the layouts</translation>
-    </message>
-    <message>
-        <source>zählt die Farbschemata auf</source>
-        <translation>lists the colour schemes</translation>
-    </message>
-    <message>
-        <source>--%1 „%2“: erlaubt sind %3</source>
-        <translation>--%1 “%2”: allowed are %3</translation>
-    </message>
-</context>
-<context>
     <name>MvSchemaNameDialog</name>
     <message>
         <source>&amp;Name des Farbschemas:</source>
         <translation>&amp;Name of the colour scheme:</translation>
+    </message>
+</context>
+<context>
+    <name>MvSchemaNames</name>
+    <message>
+        <source>--%1 „%2“: erlaubt sind %3</source>
+        <translation>--%1 “%2”: allowed are %3</translation>
     </message>
 </context>
 <context>
@@ -8600,7 +8610,7 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
-    <name>MvXMLLoader</name>
+    <name>MvXMLFile</name>
     <message>
         <source>Ein NUL-Zeichen darf nicht vorkommen.</source>
         <translation>A NUL character is not allowed.</translation>
@@ -8663,7 +8673,7 @@ Designs photo calendars and prints them.
     </message>
 </context>
 <context>
-    <name>MvZipWriter</name>
+    <name>MvZipFile</name>
     <message>
         <source>Das ist keine Datei, die sich ersetzen lässt</source>
         <translation>This is no file that can be replaced</translation>

@@ -6,6 +6,7 @@
 #include "MvTest.h"
 
 #include <QDir>
+#include <QTemporaryDir>
 
 #include <algorithm>
 #include <atomic>
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void schoolVacations();
     void vacationsSpeakTheLanguageOfThePage();
     void worksWithoutShareAlikeData();
+    void regionsAreReadAlone();
     void ownFileCountsAfterReload();
     void answersManyThreads();
 };
@@ -247,6 +249,28 @@ void tst_MvCalendariumHolidayCalculator::worksWithoutShareAlikeData()
     QVERIFY(!book.vacationsKnownUntil(MvLocale(u"de_CH"_s), u"ZH"_s).isValid());
     const MvCalendariumHolidayConfig zurich(MvLocale(u"de_CH"_s), u"ZH"_s, FEATURE_SCHOOL_VACATIONS);
     QVERIFY(!book.holidaysOfYear(MvCalendariumHolidayCacheKey(2027, zurich)).isEmpty());
+}
+
+/// Of shipped files only the regions that are asked for are read, of others all.
+void tst_MvCalendariumHolidayCalculator::regionsAreReadAlone()
+{
+    const QTemporaryDir folder;
+    const QDir shippedFiles(u":/mvcalendar/holidays"_s);
+    for (const QString &name : shippedFiles.entryList())
+        QVERIFY(QFile::copy(shippedFiles.filePath(name), folder.filePath(name)));
+    const MvHolidayBook shipped([&](const QString &name) { return QFileInfo(u":/mvcalendar/"_s + name); }, {});
+    const MvHolidayBook whole([&](const QString &name) { return QFileInfo(folder.filePath(name.mid(9))); }, {});
+    int vacations = 0;
+    for (const MvLocale &locale : whole.locales()) {
+        for (const QString &region : whole.table(locale)->regionCodes() + QStringList{QString()}) {
+            const QDate until = whole.vacationsKnownUntil(locale, region);
+            const MvCalendariumHolidayCacheKey key(2027, {locale, region, FEATURE_SCHOOL_VACATIONS});
+            vacations += until.isValid() ? 1 : 0;
+            QCOMPARE(shipped.vacationsKnownUntil(locale, region), until);
+            QCOMPARE(shipped.holidaysOfYear(key), whole.holidaysOfYear(key));
+        }
+    }
+    QVERIFY(vacations > 50);
 }
 
 void tst_MvCalendariumHolidayCalculator::ownFileCountsAfterReload()

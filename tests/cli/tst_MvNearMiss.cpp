@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvCliArguments.h"
-#include "MvNearMiss.h"
+#include "plain/MvCliArguments.h"
+#include "plain/MvNearMiss.h"
 #include "MvTest.h"
 
 using namespace Qt::StringLiterals;

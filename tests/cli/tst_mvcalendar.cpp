@@ -24,6 +24,7 @@ private Q_SLOTS:
     void holidays();
     void holidayFormatsAgree();
     void listFormatsAgree();
+    void plainCallsSayTheSame();
     void colors();
     void usersSchemataAreNoDefaults();
     void rendersPdf_data();
@@ -241,6 +242,29 @@ void tst_mvcalendar::listFormatsAgree()
             QVERIFY2(line.contains(u"  "_s + array[i][u"name"_s].toString()), qPrintable(line));
         }
     }
+}
+
+/// Calls that are done without the engine say what those with it say.
+void tst_mvcalendar::plainCallsSayTheSame()
+{
+    const auto tidy = qScopeGuard([this] { forgetUserSchemata(); });
+    for (const QString &language : {u"de"_s, u"en"_s}) {
+        const QMap<QString, QString> environment{{u"MVCALENDAR_LANGUAGE"_s, language}};
+        QList<QByteArray> said;
+        for (bool isPlain : {true, false}) {
+            if (!isPlain)
+                write(m_userFolder.filePath(u"000-user-calendar-layout.xml"_s), "<calendarlayout/>");
+            for (const QString &call : {u"layouts"_s, u"layouts --json"_s})
+                said.append(run(call, environment).out);
+        }
+        QCOMPARE(said.mid(0, 2), said.mid(2));
+        forgetUserSchemata();
+    }
+    write(path(u"wrong.conf"_s), "[nothing]\n");
+    const QMap<QString, QString> wrong{{u"MVCALENDAR_CONFIG"_s, u"wrong.conf"_s}};
+    const Call plain = run(u"regions"_s, wrong);
+    QVERIFY(plain.exitCode == 2 && plain.err.contains("render, batch"));
+    QCOMPARE(plain.err, run(u"colors"_s, wrong).err);
 }
 
 /// Colours of a project become a schema of the user's, which is offered, hidden, shown, renamed and removed.

@@ -67,7 +67,7 @@ class Package(unittest.TestCase):
     def test_no_build_path_remains(self):
         for path in [*self.prefix.rglob("*.cmake"), *self.prefix.rglob("*.pc")]:
             self.assertNotIn(str(options.build), path.read_text(encoding="utf-8"), path)
-        for path in self.prefix.rglob("*.so.*.*.*"):
+        for path in [*self.prefix.rglob("*.so.*.*.*"), *self.prefix.rglob("mvcalendar-*/*.so")]:
             self.assertNotIn(str(options.build), run("readelf", "-d", path), path)
 
     def test_licences_come_along(self):
@@ -114,6 +114,7 @@ class DebianPackages(unittest.TestCase):
         for package in ("libmvcalendar1", "mvcalendar"):
             self.assertNotRegex(self.field(package, "Depends"), "widgets", package)
             self.assertRegex(self.field(package, "Depends"), "libqt6gui6", package)
+        self.assertRegex(self.field("libmvcalendar1", "Depends"), "(?=.*libqpdf)(?=.*libzip)(?=.*libheif)")
 
     def test_papers(self):
         for package in self.packages:
@@ -127,6 +128,7 @@ class DebianPackages(unittest.TestCase):
         for program in ("mvcalendar", "mvcalendar-studio"):
             self.assertNotIn("RUNPATH", run("readelf", "-d", prefix / "bin" / program))
             self.assertIn(program, run(prefix / "bin" / program, "--version", LD_LIBRARY_PATH=str(libraries)))
+        self.assertIn("OFFICE_RED", run(prefix / "bin/mvcalendar", "colors", LD_LIBRARY_PATH=str(libraries)))
         build = self.work / "client"
         run(options.cmake, "-G", "Ninja", "-S", CLIENT, "-B", build, f"-DCMAKE_PREFIX_PATH={prefix}",
             f"-DCMAKE_CXX_COMPILER={options.compiler}", f"-DCMAKE_CXX_FLAGS={options.flags}")

@@ -19,7 +19,9 @@ mv_add_room(MvCalendar appearance INCLUDE MvCalendar
 """
 GOOD = {
     "libs/MvCore/CMakeLists.txt": "mv_add_room(MvCalendar . INCLUDE MvCore PUBLIC MvMath MvA MvB)",
-    "libs/MvXML/CMakeLists.txt": "mv_add_room(MvCalendar . INCLUDE MvXML PUBLIC MvLoader MvA MvB)",
+    "libs/MvXML/CMakeLists.txt": "mv_add_room(MvCalendarBase files INCLUDE MvXML PUBLIC MvBytes)\n"
+                               "mv_add_room(MvCalendar . INCLUDE MvXML PUBLIC MvLoader MvA MvB)",
+    "libs/MvXML/files/MvBytes.h": "",
     "libs/MvCalendar/CMakeLists.txt": ROOMS,
     "libs/MvCore/MvMath.h": "#include <QString>\n#include \"MvCore/mvcore_export.h\"\n",
     "libs/MvXML/MvLoader.h": '#include "MvCore/MvMath.h"\n#include "MvXML/mvxml_export.h"\n',
@@ -48,6 +50,8 @@ CASES = [
     ("a header that is not there", {"libs/MvXML/MvA.h": '#include "MvCore/MvGone.h"\n'}, ["MvGone.h does not exist"]),
     ("a room upwards", {"libs/MvCalendar/vocabulary/MvKey.h": '#include "MvCalendar/MvLook.h"\n'},
      ["libs/MvCalendar/vocabulary/MvKey.h:1", "the room vocabulary must not look at appearance"]),
+    ("a library upwards", {"libs/MvXML/files/MvBytes.h": '#include "MvCore/MvMath.h"\n'},
+     ["libs/MvXML/files/MvBytes.h:1", "MvCalendarBase must not look at MvCalendar (MvCore/MvMath.h)"]),
     ("a class in another room", {"libs/MvCalendar/vocabulary/MvLook.h": ""}, ["MvLook is not listed in the room vocabulary"]),
     ("a class in no list", {"libs/MvCalendar/MvStray.h": ""}, ["MvStray.h:1: MvStray is not listed in the room ."]),
     ("an installed header on one that is not",

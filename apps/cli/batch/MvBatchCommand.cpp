@@ -5,7 +5,7 @@
 #include "MvBatchPool.h"
 #include "MvBatchProgress.h"
 #include "MvBatchReport.h"
-#include "MvCliValues.h"
+#include "plain/MvCliValues.h"
 
 #include <QSet>
 #include <QThread>

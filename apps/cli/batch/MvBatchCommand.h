@@ -3,7 +3,7 @@
 
 #include "MvBatchList.h"
 #include "MvBatchWorker.h"
-#include "MvCliCommand.h"
+#include "plain/MvCliCommand.h"
 
 class MvBatchReport;
 class MvBatchProgress;

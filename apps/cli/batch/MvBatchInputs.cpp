@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvBatchInputs.h"
 
-#include "MvCliArguments.h"
+#include "plain/MvCliArguments.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvRegularFile.h"
 #include "MvRenderCommand.h"

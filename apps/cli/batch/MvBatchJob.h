@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCliArguments.h"
+#include "plain/MvCliArguments.h"
 #include "MvCore/MvOutcome.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 
 #include "MvBatchJob.h"
 #include "MvBatchResult.h"
-#include "MvCliCommand.h"
+#include "plain/MvCliCommand.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 
+#include "MvCalendar/MvLayoutCatalogue.h"
 #include "MvCalendar/MvSchemaFileCheck.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvModelBase/MvShippedFonts.h"
@@ -18,7 +19,6 @@ namespace {
 
 const QString areaTag = u"calendararea"_s;
 const QString defaultId = u"MONTH_GRID_CLASSIC"_s;
-const QString userFileName = u"000-user-calendar-layout.xml"_s;
 
 MvUserSchemaFile::Area areaOf(const MvCalendariumLayoutSchema &schema)
 {
@@ -47,7 +47,7 @@ void giveFreshId(MvUserSchemaFile::Area &area)
 } // namespace
 
 MvCalendariumLayoutSchemaRegistry::MvCalendariumLayoutSchemaRegistry()
-    : m_userFile(userFileName, u"calendarlayout"_s, readArea)
+    : m_userFile(MvLayoutCatalogue::userFileName(), u"calendarlayout"_s, readArea)
 {
     MvShippedFonts::registerAll(); // also for programs that render without having set anything up
     const QDomElement own = m_userFile.read();
@@ -118,7 +118,7 @@ bool MvCalendariumLayoutSchemaRegistry::recordUserSchema(const MvCalendariumLayo
 
 QString MvCalendariumLayoutSchemaRegistry::userSchemaFile()
 {
-    return MvDirectoryConfig::instance().programDataFile(userFileName).filePath();
+    return MvDirectoryConfig::instance().programDataFile(MvLayoutCatalogue::userFileName()).filePath();
 }
 
 bool MvCalendariumLayoutSchemaRegistry::saveUserSchemaFile()

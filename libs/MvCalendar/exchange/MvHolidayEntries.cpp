@@ -28,24 +28,6 @@ QString groupName(const MvCalendariumHolidayType &type)
 
 } // namespace
 
-QList<MvHolidayEntries::Span> MvHolidayEntries::spans(const MvCalendariumHolidayList &holidays)
-{
-    QList<Span> spans;
-    QHash<QString, qsizetype> running; // vacations by name
-    for (const MvCalendariumHoliday &holiday : holidays) {
-        const bool isVacation = holiday.type() == HOLIDAY_TYPE_SCHOOL_VACATION;
-        const qsizetype known = isVacation ? running.value(holiday.description(), -1) : -1;
-        if (known >= 0 && spans.at(known).last.daysTo(holiday.date()) == 1) {
-            spans[known].last = holiday.date();
-            continue;
-        }
-        if (isVacation)
-            running.insert(holiday.description(), spans.size());
-        spans.append({holiday, holiday.date()});
-    }
-    return spans;
-}
-
 MvCalendarEventList MvHolidayEntries::of(const MvCalendariumHolidayConfig &config, int firstYear, int lastYear,
                                          Kinds kinds)
 {

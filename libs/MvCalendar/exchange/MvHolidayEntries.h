@@ -5,7 +5,7 @@
 #include "MvCalendar/mvcalendar_export.h"
 
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
-#include "MvProductBase/MvCalendariumHolidayList.h"
+#include "MvProductBase/MvHolidaySpan.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -24,14 +24,8 @@ public:
     enum Kind { Holidays = 1, Vacations = 2 };
     Q_DECLARE_FLAGS(Kinds, Kind)
 
-    /// A holiday, or a run of vacation days.
-    struct Span
-    {
-        MvCalendariumHoliday holiday;
-        QDate last;
-    };
-    /// Vacation days of one name that follow each other become one span; weekends inside belong to them. In order.
-    static QList<Span> spans(const MvCalendariumHolidayList &holidays);
+    using Span = MvHolidaySpan;
+    static QList<Span> spans(const MvCalendariumHolidayList &holidays) { return Span::of(holidays); }
 
     /// Those of the years, both included; vacations over new year whole. Which features the configuration has does not
     /// matter. Entries that are once, ascending.

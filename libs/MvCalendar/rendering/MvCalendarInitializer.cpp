@@ -7,14 +7,11 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCore/MvBackground.h"
 #include "MvCore/MvInitializer.h"
-#include "MvCore/MvLogger.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvModelBase/MvShippedFonts.h"
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
 
 #include <QGuiApplication>
-
-using namespace Qt::StringLiterals;
 
 MvCalendarInitializer MvCalendarInitializer::me;
 
@@ -29,10 +26,8 @@ MvCalendarInitializer::MvCalendarInitializer()
 void MvCalendarInitializer::setup(MvInitializerOption)
 {
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
-        MvBackground::keepThreads();                                 // while there are some
-    const QStringList files = MvSafeFileWriter::finishInterrupted(); // before anything reads them
-    for (const QString &file : files)
-        MvLogger::legacyLog(u"Files ACTION:finishInterrupted VALUE:%1"_s.arg(file));
+        MvBackground::keepThreads();       // while there are some
+    MvSafeFileWriter::finishInterrupted(); // before anything reads the files
     MvShippedFonts::registerAll();
     initCalendarHolidays();
 }

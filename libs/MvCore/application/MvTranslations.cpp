@@ -8,9 +8,9 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
-#include <QRegularExpression>
 #include <QTranslator>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -34,7 +34,9 @@ Installed &installed()
 
 QString languageOf(const QString &localeName)
 {
-    return localeName.left(localeName.indexOf(QRegularExpression(u"[-_.@]"_s))).toLower();
+    const auto end = std::find_if(localeName.cbegin(), localeName.cend(),
+                                  [](QChar c) { return c == u'-' || c == u'_' || c == u'.' || c == u'@'; });
+    return localeName.left(end - localeName.cbegin()).toLower();
 }
 
 /// Where scripts and containers run; the list of preferred languages (LANGUAGE) does not count there. Nothing set is
@@ -64,6 +66,24 @@ QLocale localeFor(const QString &language)
     return language == "en"_L1 ? QLocale(QLocale::English, QLocale::UnitedKingdom) : QLocale(language);
 }
 
+/// As files of translations are named after them.
+bool isCode(const QString &language)
+{
+    return (language.size() == 2 || language.size() == 3) &&
+           std::all_of(language.cbegin(), language.cend(), [](QChar c) { return c >= u'a' && c <= u'z'; });
+}
+
+QFileInfo fileOf(const QString &language)
+{
+    return MvDirectoryConfig::instance().resource(u"i18n/mvcalendar_%1.qm"_s.arg(language));
+}
+
+/// Without a look at all the others.
+bool hasTexts(const QString &language)
+{
+    return language == sourceLanguage || (isCode(language) && fileOf(language).isFile());
+}
+
 void add(std::unique_ptr<QTranslator> translator)
 {
     translator->setParent(QCoreApplication::instance());
@@ -75,11 +95,10 @@ void add(std::unique_ptr<QTranslator> translator)
 
 QStringList MvTranslations::languages()
 {
-    static const QRegularExpression form(u"^mvcalendar_([a-z]{2,3})\\.qm$"_s);
     QStringList languages{sourceLanguage};
     for (const QString &name : MvDirectoryConfig::instance().resourceNames(u"i18n"_s, u"mvcalendar_*.qm"_s)) {
-        const QString language = form.match(name).captured(1);
-        if (!language.isEmpty() && language != sourceLanguage)
+        const QString language = name.section(u'_', 1).chopped(3); // ".qm"
+        if (isCode(language) && language != sourceLanguage)
             languages.append(language);
     }
     return languages;
@@ -87,7 +106,7 @@ QStringList MvTranslations::languages()
 
 QString MvTranslations::nameOf(const QString &language)
 {
-    if (!languages().contains(language))
+    if (!hasTexts(language))
         return {};
     QString name = QLocale(language).nativeLanguageName();
     if (language == "en"_L1)
@@ -98,24 +117,23 @@ QString MvTranslations::nameOf(const QString &language)
 QString MvTranslations::languageFor(const QStringList &preferred)
 {
     const QString language = languageOf(preferred.value(0));
-    return languages().contains(language) ? language : sourceLanguage;
+    return hasTexts(language) ? language : sourceLanguage;
 }
 
 QString MvTranslations::systemLanguage()
 {
     const QString wanted = languageOf(qEnvironmentVariable("MVCALENDAR_LANGUAGE"));
-    if (languages().contains(wanted))
+    if (hasTexts(wanted))
         return wanted;
     return languageFor(isCLocale() ? QStringList{languageOfCLocale} : QLocale::system().uiLanguages());
 }
 
 bool MvTranslations::install(const QString &language)
 {
-    if (!languages().contains(language))
+    if (!hasTexts(language))
         return false;
     auto own = std::make_unique<QTranslator>();
-    const QString file = u"i18n/mvcalendar_%1.qm"_s.arg(language);
-    if (!own->load(MvDirectoryConfig::instance().resource(file).filePath()))
+    if (!own->load(fileOf(language).filePath()))
         return false;
 
     for (const QPointer<QTranslator> &translator : std::as_const(installed().translators))
@@ -135,4 +153,10 @@ bool MvTranslations::install(const QString &language)
 QString MvTranslations::language()
 {
     return installed().language;
+}
+
+QString MvTranslations::choose(const QMap<QString, QString> &texts)
+{
+    const QString any = texts.isEmpty() ? QString() : texts.first();
+    return texts.value(language(), texts.value(sourceLanguage, any));
 }

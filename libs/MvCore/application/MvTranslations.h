@@ -3,6 +3,7 @@
 
 #include "MvCore/mvcore_export.h"
 
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -31,4 +32,6 @@ public:
     static bool install(const QString &language);
     /// The language installed last, German at first.
     static QString language();
+    /// Of a text in several languages, by code: the one in the language installed, else the one in German, else any.
+    static QString choose(const QMap<QString, QString> &texts);
 };

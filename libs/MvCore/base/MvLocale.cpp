@@ -3,7 +3,8 @@
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -78,11 +79,13 @@ QString languageName(const QString &language)
 
 MvLocale::MvLocale(const QString &language, const QString &country)
 {
-    static const QRegularExpression languageCode(u"^[a-z]{2,3}$"_s);
-    static const QRegularExpression countryCode(u"^[A-Z]{2}$"_s);
     const QString lower = language.toLower();
     const QString upper = country.toUpper();
-    if (languageCode.match(lower).hasMatch() && countryCode.match(upper).hasMatch()) {
+    const bool isLanguage = (lower.size() == 2 || lower.size() == 3) &&
+                            std::all_of(lower.cbegin(), lower.cend(), [](QChar c) { return c >= u'a' && c <= u'z'; });
+    const bool isCountry = upper.size() == 2 && std::all_of(upper.cbegin(), upper.cend(),
+                                                            [](QChar c) { return c >= u'A' && c <= u'Z'; });
+    if (isLanguage && isCountry) {
         m_language = lower;
         m_country = upper;
     }

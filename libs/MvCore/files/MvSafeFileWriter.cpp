@@ -5,6 +5,7 @@
 #include "MvCore/MvFileBackup.h"
 #include "MvCore/MvFileDescriptor.h"
 #include "MvCore/MvInPlaceWriter.h"
+#include "MvCore/MvLogger.h"
 
 #include <QDate>
 #include <QDir>
@@ -191,7 +192,10 @@ MvOutcome MvSafeFileWriter::write(const QFileInfo &file, const QByteArray &conte
 
 QStringList MvSafeFileWriter::finishInterrupted()
 {
-    return MvInPlaceWriter::finishAll();
+    const QStringList files = MvInPlaceWriter::finishAll();
+    for (const QString &file : files)
+        MvLogger::legacyLog(u"Files ACTION:finishInterrupted VALUE:%1"_s.arg(file));
+    return files;
 }
 
 QString MvSafeFileWriter::setAside(const QFileInfo &file)

@@ -123,8 +123,11 @@ void MvGuardedImageReader::open()
     m_device->setTimeLimit(timeLimit);
     m_format = format;
     if (format == "heic") {
-        m_heif = std::make_unique<MvHeifImage>(m_device.get());
-        m_heif->setTimeLimit(timeLimit);
+        m_heif = MvHeifImage::open(m_device.get(), &m_error);
+        if (m_heif)
+            m_heif->setTimeLimit(timeLimit);
+        else
+            m_device.reset(); // nothing will be read
     } else {
         openReader();
     }

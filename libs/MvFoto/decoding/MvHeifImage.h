@@ -1,63 +1,46 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvFoto/mvfoto_export.h"
+
 #include <QByteArray>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QSize>
+#include <QString>
 
 #include <memory>
 
 class QIODevice;
-struct heif_context;
-struct heif_image_handle;
 
-/// The main photo of a HEIF file (HEIC, as telephones write it), decoded by libheif.
+/// The main photo of a HEIF file (HEIC, as telephones write it). What decodes it is loaded with the first of them.
 ///
 /// Only the head is read at first, the picture when it is decoded. Decoding is bounded in time, as far as it happens
 /// between two readings, and in what is read: a file may name the same data again and again. Sizes are for the caller
 /// to judge before.
-class MvHeifImage
+class MVFOTO_EXPORT MvHeifImage
 {
 public:
-    /// Reads the head. The device must outlive this; its position is moved.
-    explicit MvHeifImage(QIODevice *device);
-    ~MvHeifImage();
+    /// Reads the head. The device must outlive this; its position is moved. Null when no such file can be decoded on
+    /// this computer; the error says why.
+    static std::unique_ptr<MvHeifImage> open(QIODevice *device, QString *error);
+    virtual ~MvHeifImage();
     MvHeifImage(const MvHeifImage &) = delete;
     MvHeifImage &operator=(const MvHeifImage &) = delete;
 
     /// In pixels, turned, mirrored and cropped as the file says; invalid for a file without a photo.
-    QSize size() const;
+    virtual QSize size() const = 0;
     /// What decode() takes at its worst moment, for each pixel.
-    int bytesPerPixel() const;
+    virtual int bytesPerPixel() const = 0;
     /// What the camera noted (MvExif); empty when it did not.
-    QByteArray exif() const;
+    virtual QByteArray exif() const = 0;
 
     /// Seconds that decoding may take from now on.
-    void setTimeLimit(double seconds);
+    virtual void setTimeLimit(double seconds) = 0;
     /// The photo in full size with its colour space, 8 bits for each channel; null when it is damaged.
-    QImage decode();
+    virtual QImage decode() = 0;
     /// Whether reading was given up.
-    bool hasRunOut() const { return m_hasRunOut; }
+    virtual bool hasRunOut() const = 0;
 
-private:
-    struct Callbacks;
-    bool mayGoOn(qint64 bytes);
-
-    struct FreeContext
-    {
-        void operator()(heif_context *context) const;
-    };
-    struct ReleaseHandle
-    {
-        void operator()(heif_image_handle *handle) const;
-    };
-
-    QIODevice *m_device;
-    qint64 m_bytesLeft; // that may be read
-    QElapsedTimer m_sinceReading;
-    double m_secondsLeft; // between readings
-    bool m_hasRunOut = false;
-    std::unique_ptr<heif_context, FreeContext> m_context;
-    std::unique_ptr<heif_image_handle, ReleaseHandle> m_handle;
+protected:
+    MvHeifImage() = default;
 };

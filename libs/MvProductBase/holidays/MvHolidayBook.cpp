@@ -6,6 +6,8 @@
 #include <QMutexLocker>
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -39,14 +41,17 @@ MvHolidayBook::MvHolidayBook(FileFinder finder, const QFileInfo &ownFile)
 
 void MvHolidayBook::readCountries()
 {
-    using Listed = MvHolidayTableReader::Country;
-    QList<Listed> countries = MvHolidayTableReader(m_finder(u"holidays/countries.xml"_s)).readCountries();
-    std::stable_sort(countries.begin(), countries.end(), [](const Listed &a, const Listed &b) {
-        const qsizetype rankA = neighbourhood(a.code);
-        const qsizetype rankB = neighbourhood(b.code);
-        return rankA != rankB ? rankA < rankB : sortKey(a) < sortKey(b);
-    });
-    for (const Listed &country : std::as_const(countries)) {
+    struct Listed
+    {
+        MvHolidayTableReader::Country country;
+        std::pair<qsizetype, QString> place;
+    };
+    QList<Listed> countries;
+    for (const auto &country : MvHolidayTableReader(m_finder(u"holidays/countries.xml"_s)).readCountries())
+        countries.append({country, {neighbourhood(country.code), sortKey(country)}});
+    std::stable_sort(countries.begin(), countries.end(),
+                     [](const Listed &a, const Listed &b) { return a.place < b.place; });
+    for (const auto &[country, place] : std::as_const(countries)) {
         m_codes.insert(country.code);
         for (const QString &language : country.languages)
             m_locales.append(MvLocale(language, country.code));
@@ -68,7 +73,7 @@ MvHolidayBook::Country &MvHolidayBook::country(const QString &code) const
     const auto known = m_countries.find(code);
     if (known != m_countries.end())
         return *known;
-    const Country unknown = {std::make_shared<const MvHolidayTable>(), {}, {}};
+    const Country unknown = {std::make_shared<const MvHolidayTable>(), {}, {}, {}};
     return *m_countries.insert(code, m_codes.contains(code) ? read(code) : unknown);
 }
 
@@ -78,25 +83,57 @@ std::shared_ptr<const MvHolidayTable> MvHolidayBook::table(const MvLocale &local
     return country(locale.country()).holidays;
 }
 
-std::shared_ptr<const MvSchoolVacationTable> MvHolidayBook::vacations(const MvLocale &locale) const
+std::shared_ptr<const MvSchoolVacationTable>
+MvHolidayBook::vacations(const MvLocale &locale, const QStringList &regions, int sinceYear) const
 {
     const QString code = locale.country();
     const QMutexLocker lock(&m_mutex);
     Country &where = country(code);
-    if (!where.vacations) {
-        MvSchoolVacationTable all = where.ownVacations;
-        if (m_codes.contains(code)) {
-            for (const QString &name : {u"holidays/vacations-%1.xml"_s, u"holidays/vacations-%1-odbl.xml"_s})
-                MvHolidayTableReader(m_finder(name.arg(code))).readVacations(all);
-        }
-        where.vacations = std::make_shared<const MvSchoolVacationTable>(std::move(all));
+    if (!where.vacations)
+        where.sinceYear = std::min(sinceYear, QDate::currentDate().year());
+    QStringList missing;
+    for (const QString &region : regions + QStringList{QString()}) { // what holds everywhere comes along
+        if (!where.regions.contains(region))
+            missing.append(region);
     }
+    if (sinceYear < where.sinceYear) { // somebody goes back: all of it, once
+        where.sinceYear = 0;
+        where.vacations.reset();
+        missing += std::exchange(where.regions, {});
+    }
+    if (!where.vacations || !missing.isEmpty())
+        readVacations(code, where, missing);
     return where.vacations;
+}
+
+/// Files from outside are read as a whole, and once, so that each is complained about once.
+void MvHolidayBook::readVacations(const QString &code, Country &country, QStringList regions) const
+{
+    QList<QFileInfo> files;
+    for (const QString &name : {u"holidays/vacations-%1.xml"_s, u"holidays/vacations-%1-odbl.xml"_s})
+        files.append(m_finder(name.arg(code)));
+    const bool areShipped = std::all_of(files.cbegin(), files.cend(), MvXMLFile::isEmbedded);
+    const bool isFirst = !country.vacations;
+    country.regions += regions;
+    if (!areShipped && !isFirst)
+        return; // they had all of it
+    MvSchoolVacationTable all = isFirst ? country.ownVacations : *country.vacations;
+    for (const QFileInfo &file : std::as_const(files)) {
+        if (areShipped)
+            MvHolidayTableReader(file).readShippedVacations(all, regions, country.sinceYear);
+        else if (m_codes.contains(code))
+            MvHolidayTableReader(file).readVacations(all);
+    }
+    country.sinceYear = areShipped ? country.sinceYear : 0;
+    country.vacations = std::make_shared<const MvSchoolVacationTable>(std::move(all));
 }
 
 QDate MvHolidayBook::vacationsKnownUntil(const MvLocale &locale, const QString &region) const
 {
-    return vacations(locale)->knownUntil(table(locale)->regionWithParents(region));
+    const QStringList regions = table(locale)->regionWithParents(region);
+    constexpr int any = std::numeric_limits<int>::max(); // the last ones are always there, unless they are long over
+    const QDate until = vacations(locale, regions, any)->knownUntil(regions);
+    return until.isValid() ? until : vacations(locale, regions, 0)->knownUntil(regions);
 }
 
 MvCalendariumHolidayList MvHolidayBook::holidaysOfYear(const MvCalendariumHolidayCacheKey &key) const
@@ -109,8 +146,9 @@ MvCalendariumHolidayList MvHolidayBook::holidaysOfYear(const MvCalendariumHolida
         found.removeIf([](const MvCalendariumHoliday &holiday) { return holiday.type() != HOLIDAY_TYPE_PUBLIC; });
     if (!config.hasFeatures(FEATURE_SCHOOL_VACATIONS))
         return found;
-    found.append(vacations(locale)->days(key.year(), holidays->regionWithParents(config.province()), locale.language(),
-                                         config.hasFeatures(FEATURE_VACATION_NAMES_DAILY)));
+    const QStringList regions = holidays->regionWithParents(config.province());
+    found.append(vacations(locale, regions, key.year() - 1) // of which may reach into it
+                     ->days(key.year(), regions, locale.language(), config.hasFeatures(FEATURE_VACATION_NAMES_DAILY)));
     std::stable_sort(found.begin(), found.end(), [](const MvCalendariumHoliday &a, const MvCalendariumHoliday &b) {
         return a.date() < b.date(); // vacations come last on their days: they were appended
     });

@@ -17,7 +17,7 @@
 #include <memory>
 
 /// Everything that the data files say about holidays. The files of a country are read when they are first asked for,
-/// those of its vacations later than those of its holidays; from then on it stays as it is.
+/// those of its vacations later than those of its holidays, and the shipped ones by region and year; from then on it stays as it is.
 ///
 /// May be asked by any thread.
 class MVPRODUCTBASE_EXPORT MvHolidayBook
@@ -43,13 +43,18 @@ private:
     {
         std::shared_ptr<const MvHolidayTable> holidays;
         MvSchoolVacationTable ownVacations;                     // the user's
-        std::shared_ptr<const MvSchoolVacationTable> vacations; // with the shipped ones; null until asked for
+        std::shared_ptr<const MvSchoolVacationTable> vacations; // with the shipped ones
+        QStringList regions;                                    // of which the shipped ones have been read,
+        int sinceYear = 0;                                      // as far as they end in that year or later
     };
 
     void readCountries();
     Country &country(const QString &code) const;
     Country read(const QString &code) const;
-    std::shared_ptr<const MvSchoolVacationTable> vacations(const MvLocale &locale) const;
+    /// With the vacations of at least these regions that end in the year or later.
+    std::shared_ptr<const MvSchoolVacationTable> vacations(const MvLocale &locale, const QStringList &regions,
+                                                           int sinceYear) const;
+    void readVacations(const QString &code, Country &country, QStringList regions) const;
 
     FileFinder m_finder;
     QFileInfo m_ownFile;

@@ -1,13 +1,32 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvHolidayRuleParser.h"
 
-#include <QRegularExpression>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int longestShift = 366; // a rule is asked for its year and both neighbours, so no date is moved out of reach
+
+/// The number that so many digits make; none for all else.
+std::optional<int> numberOf(QStringView digits, qsizetype fewest, qsizetype most)
+{
+    const bool areDigits =
+        std::all_of(digits.cbegin(), digits.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    if (!areDigits || digits.size() < fewest || digits.size() > most)
+        return {};
+    return digits.toInt();
+}
+
+/// "+3", "-10": one to three digits with a sign.
+std::optional<int> shiftOf(QStringView word)
+{
+    if (!word.startsWith(u'+') && !word.startsWith(u'-'))
+        return {};
+    const std::optional<int> days = numberOf(word.sliced(1), 1, 3);
+    return days && word.startsWith(u'-') ? -*days : days;
+}
 
 } // namespace
 
@@ -54,28 +73,34 @@ bool MvHolidayRuleParser::readAnchor(MvHolidayRule::Anchor &anchor)
 
 bool MvHolidayRuleParser::readDate(const QString &word, MvHolidayRule::Anchor &anchor)
 {
-    static const QRegularExpression pattern(u"^(?:(\\d{4})-)?(\\d{2})-(\\d{2})$"_s);
-    const QRegularExpressionMatch match = pattern.match(word);
-    if (!match.hasMatch())
+    const QList<QStringView> parts = QStringView(word).split(u'-'); // the year may be missing
+    const bool isSingle = parts.size() == 3;
+    if (!isSingle && parts.size() != 2)
         return false;
-    const bool isSingle = match.hasCaptured(1) && !match.captured(1).isEmpty();
+    const std::optional<int> year = isSingle ? numberOf(parts.first(), 4, 4) : 0;
+    const std::optional<int> month = numberOf(parts.at(parts.size() - 2), 2, 2);
+    const std::optional<int> day = numberOf(parts.last(), 2, 2);
+    if (!year || !month || !day)
+        return false;
     anchor.kind = isSingle ? MvHolidayRule::AnchorKind::SingleDate : MvHolidayRule::AnchorKind::Fixed;
-    anchor.year = match.captured(1).toInt();
-    anchor.month = match.captured(2).toInt();
-    anchor.day = match.captured(3).toInt();
+    anchor.year = *year;
+    anchor.month = *month;
+    anchor.day = *day;
     constexpr int leapYear = 2000;
     return QDate::isValid(isSingle ? anchor.year : leapYear, anchor.month, anchor.day);
 }
 
 bool MvHolidayRuleParser::readEaster(const QString &word, MvHolidayRule::Anchor &anchor)
 {
-    static const QRegularExpression pattern(u"^(easter|orthodox)([+-]\\d{1,3})?$"_s);
-    const QRegularExpressionMatch match = pattern.match(word);
-    if (!match.hasMatch())
+    const bool isOrthodox = word.startsWith("orthodox"_L1);
+    if (!isOrthodox && !word.startsWith("easter"_L1))
         return false;
-    anchor.kind =
-        match.captured(1) == "easter"_L1 ? MvHolidayRule::AnchorKind::Easter : MvHolidayRule::AnchorKind::Orthodox;
-    anchor.number = match.captured(2).toInt();
+    const QStringView rest = QStringView(word).sliced(isOrthodox ? "orthodox"_L1.size() : "easter"_L1.size());
+    const std::optional<int> days = rest.isEmpty() ? 0 : shiftOf(rest);
+    if (!days)
+        return false;
+    anchor.kind = isOrthodox ? MvHolidayRule::AnchorKind::Orthodox : MvHolidayRule::AnchorKind::Easter;
+    anchor.number = *days;
     return std::abs(anchor.number) <= longestShift;
 }
 
@@ -127,11 +152,10 @@ bool MvHolidayRuleParser::readCondition(MvHolidayRule::Step &step)
 
 bool MvHolidayRuleParser::readAction(MvHolidayRule::Step &step)
 {
-    static const QRegularExpression shift(u"^[+-]\\d{1,3}$"_s);
     const QString word = nextWord();
-    if (shift.match(word).hasMatch()) {
+    if (const std::optional<int> shift = shiftOf(word)) {
         step.kind = MvHolidayRule::StepKind::Shift;
-        step.days = word.toInt();
+        step.days = *shift;
         return std::abs(step.days) <= longestShift || fail(tr("\"%1\" ist zu weit").arg(word));
     }
     static const QHash<QString, MvHolidayRule::StepKind> kinds = {

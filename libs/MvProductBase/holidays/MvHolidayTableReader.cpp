@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvHolidayTableReader.h"
 
-#include "MvXML/MvXMLLoader.h"
-#include "MvXML/MvXMLParser.h"
+#include "MvCore/MvStringHelper.h"
 
 #include <QDebug>
 #include <QXmlStreamReader>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -14,20 +15,64 @@ namespace {
 constexpr int longestVacation = 400; // days; more than any, and a limit to what a wrong year costs
 
 template <class Function>
-void forEachChild(const QDomElement &parent, const QString &name, Function function)
+void forEachChild(const MvXMLElement &parent, const QString &name, Function function)
 {
-    for (QDomElement child = parent.firstChildElement(name); !child.isNull(); child = child.nextSiblingElement(name))
-        function(child);
+    for (const MvXMLElement &child : parent.children) {
+        if (child.name == name)
+            function(child);
+    }
 }
 
-QStringList words(const QDomElement &element, const QString &attribute)
+QStringList words(const MvXMLElement &element, const QString &attribute)
 {
-    return MvXMLParser::textAttribute(element, attribute).split(u' ', Qt::SkipEmptyParts);
+    return element.attribute(attribute).split(u' ', Qt::SkipEmptyParts);
 }
 
 QString attribute(const QXmlStreamReader &reader, const QString &name)
 {
     return reader.attributes().value(name).toString();
+}
+
+/// The parts of a text, of which all but the first begin with a word.
+QList<QByteArrayView> partsAt(QByteArrayView text, QByteArrayView word)
+{
+    QList<QByteArrayView> parts;
+    qsizetype from = 0;
+    for (qsizetype at = text.indexOf(word); at >= 0; at = text.indexOf(word, from + 1)) {
+        parts.append(text.sliced(from, at - from));
+        from = at;
+    }
+    parts.append(text.sliced(from));
+    return parts;
+}
+
+/// Between a word and the next quotation mark; empty when there is no such word.
+QByteArrayView valueAfter(QByteArrayView word, QByteArrayView text)
+{
+    const qsizetype at = text.indexOf(word);
+    const QByteArrayView rest = at < 0 ? QByteArrayView() : text.sliced(at + word.size());
+    return rest.first(std::max<qsizetype>(0, rest.indexOf('"')));
+}
+
+/// A shipped file of vacations without the regions that nobody asks for, and without what ended before the year.
+QByteArray excerptOf(const QByteArray &shipped, const QStringList &regions, int sinceYear)
+{
+    const QByteArrayView end = "</region>";
+    QByteArray kept;
+    for (const QByteArrayView part : partsAt(shipped, "<region ")) {
+        const qsizetype size = part.startsWith("<region ") ? part.indexOf(end) + end.size() : 0;
+        const QByteArrayView region = part.first(size);
+        if (size > 0 && regions.contains(QString::fromUtf8(valueAfter("code=\"", region)))) {
+            for (const QByteArrayView vacation : partsAt(region.chopped(end.size()), "<vacation ")) {
+                const QByteArrayView last = valueAfter(" end=\"", vacation);
+                if (last.isEmpty() || last.first(4).toInt() >= sinceYear)
+                    kept.append(vacation);
+            }
+            kept.append(end);
+        }
+        kept.append(part.sliced(size));
+    }
+    return kept;
 }
 
 /// "2027-05-01"; an invalid one for all else.
@@ -42,9 +87,9 @@ MvHolidayTableReader::MvHolidayTableReader(const QFileInfo &file)
     : m_file(file)
 {}
 
-void MvHolidayTableReader::complain(const QDomElement &element, const QString &message)
+void MvHolidayTableReader::complain(const MvXMLElement &element, const QString &message)
 {
-    complain(element.lineNumber(), message);
+    complain(element.line, message);
 }
 
 void MvHolidayTableReader::complain(qint64 line, const QString &message)
@@ -62,14 +107,14 @@ void MvHolidayTableReader::report() const
     qWarning().noquote() << message;
 }
 
-QDomElement MvHolidayTableReader::open(const QString &rootName)
+MvXMLElement MvHolidayTableReader::open(const QString &rootName)
 {
-    MvXMLLoader::Error error;
-    const QDomElement root = MvXMLLoader::loadDocument(m_file, &error).documentElement();
+    MvXMLFile::Error error;
+    const MvXMLElement root = MvXMLElement::load(m_file, &error);
     if (error.isError())
         m_problems.append(error.describe(m_file));
-    else if (root.tagName() != rootName)
-        complain(root, tr("\"%1\" statt \"%2\"").arg(root.tagName(), rootName));
+    else if (root.name != rootName)
+        complain(root, tr("\"%1\" statt \"%2\"").arg(root.name, rootName));
     else
         return root;
     return {};
@@ -78,9 +123,9 @@ QDomElement MvHolidayTableReader::open(const QString &rootName)
 QList<MvHolidayTableReader::Country> MvHolidayTableReader::readCountries()
 {
     QList<Country> countries;
-    forEachChild(open(u"HolidayCountries"_s), u"country"_s, [&](const QDomElement &element) {
-        const Country country = {MvXMLParser::textAttribute(element, u"code"_s),
-                                 MvXMLParser::textAttribute(element, u"name"_s), words(element, u"languages"_s)};
+    forEachChild(open(u"HolidayCountries"_s), u"country"_s, [&](const MvXMLElement &element) {
+        const Country country = {element.attribute(u"code"_s),
+                                 element.attribute(u"name"_s), words(element, u"languages"_s)};
         if (country.code.size() != 2 || country.languages.isEmpty())
             complain(element, tr("Land ohne Kennung oder Sprache"));
         else
@@ -93,16 +138,16 @@ QList<MvHolidayTableReader::Country> MvHolidayTableReader::readCountries()
 MvHolidayTable MvHolidayTableReader::readTable()
 {
     MvHolidayTable table;
-    const QDomElement root = open(u"HolidayTable"_s);
-    table.setLanguage(MvXMLParser::textAttribute(root, u"language"_s));
-    forEachChild(root, u"region"_s, [&](const QDomElement &element) {
+    const MvXMLElement root = open(u"HolidayTable"_s);
+    table.setLanguage(root.attribute(u"language"_s));
+    forEachChild(root, u"region"_s, [&](const MvXMLElement &element) {
         const MvHolidayTable::Region region = readRegion(element);
         if (region.code.isEmpty() || table.hasRegion(region.code))
             complain(element, tr("Region ohne eigene Kennung"));
         else
             table.addRegion(region);
     });
-    forEachChild(root, u"holiday"_s, [&](const QDomElement &element) {
+    forEachChild(root, u"holiday"_s, [&](const MvXMLElement &element) {
         if (const auto entry = readEntry(element, table))
             table.addEntry(*entry);
     });
@@ -110,25 +155,25 @@ MvHolidayTable MvHolidayTableReader::readTable()
     return table;
 }
 
-MvHolidayTable::Region MvHolidayTableReader::readRegion(const QDomElement &element)
+MvHolidayTable::Region MvHolidayTableReader::readRegion(const MvXMLElement &element)
 {
     MvHolidayTable::Region region;
-    region.code = MvXMLParser::textAttribute(element, u"code"_s);
-    region.name = MvXMLParser::textAttribute(element, u"name"_s, region.code);
-    region.parent = MvXMLParser::textAttribute(element, u"parent"_s);
-    region.language = MvXMLParser::textAttribute(element, u"language"_s);
-    region.localName = MvXMLParser::textAttribute(element, u"localName"_s);
+    region.code = element.attribute(u"code"_s);
+    region.name = element.attribute(u"name"_s, region.code);
+    region.parent = element.attribute(u"parent"_s);
+    region.language = element.attribute(u"language"_s);
+    region.localName = element.attribute(u"localName"_s);
     return region;
 }
 
-std::optional<MvHolidayTable::Entry> MvHolidayTableReader::readEntry(const QDomElement &element,
+std::optional<MvHolidayTable::Entry> MvHolidayTableReader::readEntry(const MvXMLElement &element,
                                                                      const MvHolidayTable &table)
 {
     MvHolidayTable::Entry entry;
-    entry.name = MvXMLParser::textAttribute(element, u"name"_s).simplified();
-    entry.type = MvCalendariumHolidayType(MvXMLParser::textAttribute(element, u"type"_s, u"public"_s));
-    entry.isPartial = MvXMLParser::boolAttribute(element, u"partial"_s);
-    const MvHolidayRule::Parsed rule = MvHolidayRule::parse(MvXMLParser::textAttribute(element, u"rule"_s));
+    entry.name = element.attribute(u"name"_s).simplified();
+    entry.type = MvCalendariumHolidayType(element.attribute(u"type"_s, u"public"_s));
+    entry.isPartial = MvStringHelper::stringToBool(element.attribute(u"partial"_s), false);
+    const MvHolidayRule::Parsed rule = MvHolidayRule::parse(element.attribute(u"rule"_s));
     if (entry.name.isEmpty())
         complain(element, tr("Feiertag ohne Namen"));
     else if (MvHolidayTable::rank(entry.type) > MvHolidayTable::rank(HOLIDAY_TYPE_OBSERVANCE))
@@ -144,18 +189,18 @@ std::optional<MvHolidayTable::Entry> MvHolidayTableReader::readEntry(const QDomE
     return {};
 }
 
-QHash<QString, QString> MvHolidayTableReader::readNames(const QDomElement &element)
+QHash<QString, QString> MvHolidayTableReader::readNames(const MvXMLElement &element)
 {
     QHash<QString, QString> names;
-    forEachChild(element, u"name"_s, [&names](const QDomElement &name) {
-        const QString text = MvXMLParser::textAttribute(name, u"text"_s).simplified();
+    forEachChild(element, u"name"_s, [&names](const MvXMLElement &name) {
+        const QString text = name.attribute(u"text"_s).simplified();
         if (!text.isEmpty())
-            names.insert(MvXMLParser::textAttribute(name, u"language"_s), text);
+            names.insert(name.attribute(u"language"_s), text);
     });
     return names;
 }
 
-bool MvHolidayTableReader::readYear(const QDomElement &element, const QString &attribute, std::optional<int> &year)
+bool MvHolidayTableReader::readYear(const MvXMLElement &element, const QString &attribute, std::optional<int> &year)
 {
     if (!element.hasAttribute(attribute))
         return true;
@@ -166,7 +211,7 @@ bool MvHolidayTableReader::readYear(const QDomElement &element, const QString &a
     return ok;
 }
 
-bool MvHolidayTableReader::readExceptions(const QDomElement &element, MvHolidayTable::Entry &entry)
+bool MvHolidayTableReader::readExceptions(const MvXMLElement &element, MvHolidayTable::Entry &entry)
 {
     const QStringList years = words(element, u"except"_s);
     for (const QString &text : years) {
@@ -180,7 +225,7 @@ bool MvHolidayTableReader::readExceptions(const QDomElement &element, MvHolidayT
     return true;
 }
 
-bool MvHolidayTableReader::readRegions(const QDomElement &element, const MvHolidayTable &table, QStringList &regions)
+bool MvHolidayTableReader::readRegions(const MvXMLElement &element, const MvHolidayTable &table, QStringList &regions)
 {
     regions = words(element, u"regions"_s);
     for (const QString &code : std::as_const(regions)) {
@@ -202,11 +247,11 @@ QString MvHolidayTableReader::problemOf(const MvSchoolVacationTable::Vacation &v
     return {};
 }
 
-std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacation(const QDomElement &element)
+std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacation(const MvXMLElement &element)
 {
     const MvSchoolVacationTable::Vacation vacation = {
-        MvXMLParser::textAttribute(element, u"name"_s).simplified(), readNames(element),
-        dateOf(MvXMLParser::textAttribute(element, u"start"_s)), dateOf(MvXMLParser::textAttribute(element, u"end"_s))};
+        element.attribute(u"name"_s).simplified(), readNames(element),
+        dateOf(element.attribute(u"start"_s)), dateOf(element.attribute(u"end"_s))};
     const QString problem = problemOf(vacation);
     if (problem.isEmpty())
         return vacation;
@@ -214,18 +259,33 @@ std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacatio
     return {};
 }
 
-/// As a stream: a country has thousands of them, and most calls need one year.
 void MvHolidayTableReader::readVacations(MvSchoolVacationTable &vacations)
 {
     if (!m_file.exists())
         return;
-    MvXMLLoader::Error error;
-    QXmlStreamReader reader(MvXMLLoader::loadBytes(m_file, &error));
-    QHash<QString, QHash<QString, QString>> common; // by name: most vacations share their names with others
-    QList<RegionVacation> read;
+    MvXMLFile::Error error;
+    const QByteArray bytes = MvXMLFile::loadBytes(m_file, &error);
     if (error.isError())
         m_problems.append(error.describe(m_file));
-    else if (reader.readNextStartElement() && reader.name() != u"SchoolVacations"_s)
+    else
+        readVacations(bytes, vacations);
+    report();
+}
+
+void MvHolidayTableReader::readShippedVacations(MvSchoolVacationTable &vacations, const QStringList &regions,
+                                                int sinceYear)
+{
+    if (m_file.exists())
+        readVacations(excerptOf(MvXMLFile::loadBytes(m_file), regions, sinceYear), vacations);
+}
+
+/// As a stream: a country has thousands of them.
+void MvHolidayTableReader::readVacations(const QByteArray &bytes, MvSchoolVacationTable &vacations)
+{
+    QXmlStreamReader reader(bytes);
+    QHash<QString, QHash<QString, QString>> common; // by name: most vacations share their names with others
+    QList<RegionVacation> read;
+    if (reader.readNextStartElement() && reader.name() != u"SchoolVacations"_s)
         complain(reader.lineNumber(), tr("\"%1\" statt \"%2\"").arg(reader.name(), u"SchoolVacations"_s));
     const bool isReadable = m_problems.isEmpty();
     while (isReadable && reader.readNextStartElement()) {
@@ -244,7 +304,6 @@ void MvHolidayTableReader::readVacations(MvSchoolVacationTable &vacations)
         vacation.names = names;
         vacations.add(region, vacation);
     }
-    report();
 }
 
 void MvHolidayTableReader::readRegionVacations(QXmlStreamReader &reader, QList<RegionVacation> &vacations)
@@ -281,11 +340,11 @@ QHash<QString, QString> MvHolidayTableReader::readNames(QXmlStreamReader &reader
     return names;
 }
 
-QDomElement MvHolidayTableReader::ownCountry(const QString &country)
+MvXMLElement MvHolidayTableReader::ownCountry(const QString &country)
 {
-    QDomElement found;
-    forEachChild(open(u"MyHolidays"_s), u"country"_s, [&](const QDomElement &element) {
-        if (found.isNull() && MvXMLParser::textAttribute(element, u"code"_s).toUpper() == country)
+    MvXMLElement found;
+    forEachChild(open(u"MyHolidays"_s), u"country"_s, [&](const MvXMLElement &element) {
+        if (found.isNull() && element.attribute(u"code"_s).toUpper() == country)
             found = element;
     });
     return found;
@@ -295,14 +354,14 @@ void MvHolidayTableReader::readOwn(const QString &country, MvHolidayTable &table
 {
     if (!m_file.exists())
         return;
-    const QDomElement root = ownCountry(country);
-    forEachChild(root, u"remove"_s, [&](const QDomElement &element) {
+    const MvXMLElement root = ownCountry(country);
+    forEachChild(root, u"remove"_s, [&](const MvXMLElement &element) {
         QStringList regions;
         if (readRegions(element, table, regions))
-            table.removeEntries(MvXMLParser::textAttribute(element, u"name"_s).simplified(), regions);
+            table.removeEntries(element.attribute(u"name"_s).simplified(), regions);
     });
     QList<MvHolidayTable::Entry> entries;
-    forEachChild(root, u"holiday"_s, [&](const QDomElement &element) {
+    forEachChild(root, u"holiday"_s, [&](const MvXMLElement &element) {
         if (const auto entry = readEntry(element, table))
             entries.append(*entry);
     });
@@ -314,10 +373,10 @@ void MvHolidayTableReader::readOwn(const QString &country, MvHolidayTable &table
     report();
 }
 
-void MvHolidayTableReader::readOwnVacations(const QDomElement &country, const MvHolidayTable &table,
+void MvHolidayTableReader::readOwnVacations(const MvXMLElement &country, const MvHolidayTable &table,
                                             MvSchoolVacationTable &vacations)
 {
-    forEachChild(country, u"vacation"_s, [&](const QDomElement &element) {
+    forEachChild(country, u"vacation"_s, [&](const MvXMLElement &element) {
         QStringList regions;
         const auto vacation = readVacation(element);
         if (!vacation || !readRegions(element, table, regions))

@@ -4,9 +4,9 @@
 #include "MvProductBase/MvHolidayTable.h"
 #include "MvProductBase/MvSchoolVacationTable.h"
 #include "MvProductBase/mvproductbase_export.h"
+#include "MvXML/MvXMLElement.h"
 
 #include <QCoreApplication>
-#include <QDomElement>
 #include <QFileInfo>
 #include <QList>
 #include <QString>
@@ -38,6 +38,9 @@ public:
     MvHolidayTable readTable();
     /// Adds school vacations of a country; a file that does not exist adds nothing.
     void readVacations(MvSchoolVacationTable &vacations);
+    /// Adds those of some regions that end in a year or later, of a shipped file, which is known to be in order. The
+    /// region "" stands for the whole country.
+    void readShippedVacations(MvSchoolVacationTable &vacations, const QStringList &regions, int sinceYear);
     /// Applies the user's own file to the tables of a country: removals first, then what it adds. An added holiday
     /// takes the place of those of its name in its regions. A file that does not exist changes nothing.
     void readOwn(const QString &country, MvHolidayTable &table, MvSchoolVacationTable &vacations);
@@ -52,25 +55,26 @@ private:
         MvSchoolVacationTable::Vacation vacation;
     };
 
-    QDomElement open(const QString &rootName);
-    QDomElement ownCountry(const QString &country);
-    MvHolidayTable::Region readRegion(const QDomElement &element);
-    std::optional<MvHolidayTable::Entry> readEntry(const QDomElement &element, const MvHolidayTable &table);
+    MvXMLElement open(const QString &rootName);
+    MvXMLElement ownCountry(const QString &country);
+    MvHolidayTable::Region readRegion(const MvXMLElement &element);
+    std::optional<MvHolidayTable::Entry> readEntry(const MvXMLElement &element, const MvHolidayTable &table);
     /// The names of the element in other languages.
-    static QHash<QString, QString> readNames(const QDomElement &element);
-    std::optional<MvSchoolVacationTable::Vacation> readVacation(const QDomElement &element);
+    static QHash<QString, QString> readNames(const MvXMLElement &element);
+    void readVacations(const QByteArray &bytes, MvSchoolVacationTable &vacations);
+    std::optional<MvSchoolVacationTable::Vacation> readVacation(const MvXMLElement &element);
     /// Of the region that the reader is in, which it leaves.
     void readRegionVacations(QXmlStreamReader &reader, QList<RegionVacation> &vacations);
     /// Of the element that the reader is in, which it leaves.
     static QHash<QString, QString> readNames(QXmlStreamReader &reader);
     /// Why a vacation is none; empty if it is one.
     static QString problemOf(const MvSchoolVacationTable::Vacation &vacation);
-    bool readYear(const QDomElement &element, const QString &attribute, std::optional<int> &year);
-    bool readExceptions(const QDomElement &element, MvHolidayTable::Entry &entry);
-    bool readRegions(const QDomElement &element, const MvHolidayTable &table, QStringList &regions);
-    void readOwnVacations(const QDomElement &country, const MvHolidayTable &table, MvSchoolVacationTable &vacations);
+    bool readYear(const MvXMLElement &element, const QString &attribute, std::optional<int> &year);
+    bool readExceptions(const MvXMLElement &element, MvHolidayTable::Entry &entry);
+    bool readRegions(const MvXMLElement &element, const MvHolidayTable &table, QStringList &regions);
+    void readOwnVacations(const MvXMLElement &country, const MvHolidayTable &table, MvSchoolVacationTable &vacations);
 
-    void complain(const QDomElement &element, const QString &message);
+    void complain(const MvXMLElement &element, const QString &message);
     void complain(qint64 line, const QString &message);
     void report() const;
 

@@ -219,15 +219,17 @@ MvProjectPack::Result MvProjectPack::writeFolder(const QString &path) const
 MvProjectPack::Result MvProjectPack::writeZip(const QString &path) const
 {
     Contents contents = this->contents(u"/"_s + m_name);
-    MvZipWriter writer(path);
+    const std::unique_ptr<MvZipWriter> writer = MvZipWriter::open(path, &contents.error);
+    if (!writer)
+        return contents;
     for (const Item &item : contents.items) {
         const QString name = m_name + u'/' + item.name;
         if (item.source.isEmpty())
-            writer.add(name, item.content);
+            writer->add(name, item.content);
         else
-            writer.addFile(name, item.source);
+            writer->addFile(name, item.source);
     }
-    contents.error = writer.finish().error;
+    contents.error = writer->finish().error;
     contents.projectPath = m_name + u'/' + contents.projectPath;
     return contents;
 }

@@ -2,47 +2,34 @@
 #pragma once
 
 #include "MvCore/MvOutcome.h"
+#include "MvProject/mvproject_export.h"
 
 #include <QByteArray>
-#include <QCoreApplication>
-#include <QList>
 #include <QString>
 
 #include <memory>
-
-struct zip;
 
 /// Writes a ZIP archive that every program opens: names in UTF-8, photos as they are, texts deflated.
 ///
 /// Nothing is written before finish(); an archive that is not finished leaves no trace, and one that cannot be finished
 /// leaves the file that was there before. It grows under a temporary name beside its own; what a killed program has
-/// left of such is removed by the next one that writes into the folder.
-class MvZipWriter
+/// left of such is removed by the next one that writes into the folder. What writes is loaded with the first of them.
+class MVPROJECT_EXPORT MvZipWriter
 {
-    Q_DECLARE_TR_FUNCTIONS(MvZipWriter)
-
 public:
-    explicit MvZipWriter(const QString &path);
-    ~MvZipWriter();
+    /// Null when archives cannot be written on this computer; the error says why.
+    static std::unique_ptr<MvZipWriter> open(const QString &path, QString *error);
+    virtual ~MvZipWriter();
     MvZipWriter(const MvZipWriter &) = delete;
     MvZipWriter &operator=(const MvZipWriter &) = delete;
 
     /// A file with a content, under a name with slashes.
-    void add(const QString &name, const QByteArray &content);
+    virtual void add(const QString &name, const QByteArray &content) = 0;
     /// A copy of a file, which is read by finish().
-    void addFile(const QString &name, const QString &path);
+    virtual void addFile(const QString &name, const QString &path) = 0;
     /// Writes it. The error names the file; it may stem from what was added.
-    MvOutcome finish();
+    virtual MvOutcome finish() = 0;
 
-private:
-    void take(const QString &name, struct zip_source *source, bool isDeflated);
-    bool putInPlace();
-    void setError(const QString &reason);
-
-    QString m_path;
-    QByteArray m_target;    // the file itself, where the path is a link; encoded for the file system
-    QByteArray m_temporary; // likewise
-    QString m_error;
-    struct zip *m_archive = nullptr;
-    QList<std::shared_ptr<QByteArray>> m_contents; // alive until the archive is written
+protected:
+    MvZipWriter() = default;
 };

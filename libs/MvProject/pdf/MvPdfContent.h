@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvProject/mvproject_export.h"
+
 #include <QByteArray>
 #include <QPainterPath>
 #include <QRgb>
@@ -16,7 +18,7 @@ class QPen;
 /// The drawing commands of a page, a picture or a glyph. Coordinates are whole numbers of a unit that is small enough
 /// for it, upwards; what is in force already is not said again. Colours are those of a screen, or become inks of a
 /// press.
-class MvPdfContent
+class MVPROJECT_EXPORT MvPdfContent
 {
 public:
     /// Whether a path's parts are closed where they end at their start: lines are joined there, fills need it not.

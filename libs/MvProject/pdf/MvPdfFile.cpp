@@ -1,113 +1,37 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfFile.h"
 
-#include "MvProject/MvPdfPipeline.h"
-
-#include <QDir>
-#include <QFile>
-#include <QHash>
-#include <QTemporaryFile>
-
-#include <algorithm>
-#include <exception>
-
-#include <qpdf/QPDF.hh>
-#include <qpdf/QPDFWriter.hh>
-
-namespace {
-
-constexpr qsizetype large = 1 << 15; // bytes
-constexpr qsizetype piece = 1 << 16;
-
-} // namespace
-
-struct MvPdfFile::Private
-{
-    QPDF pdf;
-    QHash<QByteArray, int> once;
-    QTemporaryFile waiting{QDir::tempPath() + QStringLiteral("/mvcalendar-XXXXXX")};
-    QString error;
-    std::string leastVersion;
-
-    QPDFObjectHandle parsed(const QByteArray &value)
-    {
-        try {
-            return QPDFObjectHandle::parse(&pdf, value.toStdString());
-        } catch (const std::exception &exception) {
-            fail(QString::fromUtf8(exception.what()));
-            return QPDFObjectHandle::newNull();
-        }
-    }
-
-    void fail(const QString &reason)
-    {
-        if (error.isEmpty())
-            error = reason;
-    }
-
-    /// Hands a part of what waits on, in pieces.
-    void give(qint64 place, qint64 size, Pipeline *next)
-    {
-        if (!waiting.seek(place))
-            fail(waiting.errorString());
-        while (size > 0) {
-            const QByteArray bytes = waiting.read(std::min(size, qint64(piece)));
-            if (bytes.isEmpty()) {
-                fail(waiting.errorString());
-                break;
-            }
-            next->write(reinterpret_cast<const unsigned char *>(bytes.constData()), size_t(bytes.size()));
-            size -= bytes.size();
-        }
-        next->finish();
-    }
-
-    void setContent(QPDFObjectHandle &stream, const QByteArray &content)
-    {
-        if (content.size() < large) {
-            QPDFObjectHandle dictionary = stream.getDict();
-            stream.replaceStreamData(content.toStdString(), dictionary.getKey("/Filter"),
-                                     dictionary.getKey("/DecodeParms"));
-            return;
-        }
-        if (!waiting.isOpen() && !waiting.open())
-            fail(waiting.errorString());
-        const qint64 place = waiting.size();
-        if (!waiting.seek(place) || waiting.write(content) != content.size())
-            fail(waiting.errorString());
-        stream.replaceStreamData([this, place, size = content.size()](Pipeline *next) { give(place, size, next); },
-                                 stream.getDict().getKey("/Filter"), stream.getDict().getKey("/DecodeParms"));
-    }
-};
+#include "MvCore/MvLoadedModule.h"
 
 MvPdfFile::MvPdfFile()
-    : d(new Private)
 {
-    d->pdf.setSuppressWarnings(true);
-    d->pdf.emptyPDF();
+    static MvLoadedModule module("MvPdf");
+    if (auto *make = module.function<MvPdfObjects *()>("mvMakePdfObjects", &m_error))
+        m_objects.reset(make());
 }
 
 MvPdfFile::~MvPdfFile() = default;
 
 int MvPdfFile::reserve()
 {
-    return d->pdf.makeIndirectObject(QPDFObjectHandle::newNull()).getObjectID();
+    return m_objects ? m_objects->reserve() : 0;
 }
 
 void MvPdfFile::set(int object, const QByteArray &value)
 {
-    d->pdf.replaceObject(object, 0, d->parsed(value));
+    if (m_objects)
+        m_objects->set(object, value);
 }
 
 int MvPdfFile::add(const QByteArray &value)
 {
-    return d->pdf.makeIndirectObject(d->parsed(value)).getObjectID();
+    return m_objects ? m_objects->add(value) : 0;
 }
 
 int MvPdfFile::addOnce(const QByteArray &value)
 {
-    const auto known = d->once.constFind(value);
-    return known != d->once.cend() ? *known : *d->once.insert(value, add(value));
+    const auto known = m_once.constFind(value);
+    return known != m_once.cend() ? *known : *m_once.insert(value, add(value));
 }
 
 int MvPdfFile::addStream(const QByteArray &entries, const QByteArray &content)
@@ -118,46 +42,28 @@ int MvPdfFile::addStream(const QByteArray &entries, const QByteArray &content)
 
 int MvPdfFile::addPackedStream(const QByteArray &entries, const QByteArray &content)
 {
-    QPDFObjectHandle stream = QPDFObjectHandle::newStream(&d->pdf);
-    stream.replaceDict(d->parsed("<<" + entries + ">>"));
-    d->setContent(stream, content);
-    return stream.getObjectID();
+    return m_objects ? m_objects->addPackedStream(entries, content) : 0;
 }
 
 void MvPdfFile::setCatalog(const QByteArray &value)
 {
-    set(d->pdf.getRoot().getObjectID(), value);
+    if (m_objects)
+        m_objects->setCatalog(value);
 }
 
 void MvPdfFile::setInformation(const QByteArray &value)
 {
-    d->pdf.getTrailer().replaceKey("/Info", d->pdf.makeIndirectObject(d->parsed(value)));
+    if (m_objects)
+        m_objects->setInformation(value);
 }
 
 void MvPdfFile::setLeastVersion(const QByteArray &version)
 {
-    d->leastVersion = version.toStdString();
+    if (m_objects)
+        m_objects->setLeastVersion(version);
 }
 
 MvOutcome MvPdfFile::write(QFile &file)
 {
-    if (d->waiting.isOpen() && !d->waiting.flush())
-        d->fail(d->waiting.errorString());
-    if (!d->error.isEmpty())
-        return {d->error, {}};
-    MvPdfPipeline pipeline(file);
-    try {
-        QPDFWriter writer(d->pdf);
-        writer.setOutputPipeline(&pipeline);
-        writer.setObjectStreamMode(qpdf_o_generate);
-        if (!d->leastVersion.empty())
-            writer.setMinimumPDFVersion(d->leastVersion);
-        writer.setDeterministicID(true);
-        writer.write();
-    } catch (const std::exception &exception) {
-        d->fail(QString::fromUtf8(exception.what()));
-    }
-    if (!pipeline.error().isEmpty())
-        d->fail(pipeline.error());
-    return {d->error, {}};
+    return m_objects ? m_objects->write(file) : MvOutcome{m_error, {}};
 }

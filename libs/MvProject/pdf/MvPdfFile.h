@@ -1,18 +1,19 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "MvCore/MvOutcome.h"
+#include "MvProject/MvPdfObjects.h"
 
 #include <QByteArray>
+#include <QHash>
+#include <QString>
 
 #include <memory>
 
 class QFile;
 
 /// The objects of a PDF, and the file made of them: numbering, packing, cross references and the file's identity, which
-/// follows from its content. Libqpdf does it and checks the syntax of all that is handed over.
-///
-/// What is large waits in a temporary file. A mistake, or a disk that is full, is told once, by write().
+/// follows from its content. What does it is loaded with the first file; without it, as after a mistake or with a full
+/// disk, write() says so.
 class MvPdfFile
 {
 public:
@@ -42,6 +43,7 @@ public:
     MvOutcome write(QFile &file);
 
 private:
-    struct Private;
-    std::unique_ptr<Private> d;
+    QString m_error;
+    std::unique_ptr<MvPdfObjects> m_objects; // null where there is an error
+    QHash<QByteArray, int> m_once;
 };

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvProject/mvproject_export.h"
+
 #include <QByteArray>
 #include <QPointF>
 #include <QString>
 
 /// How numbers, texts and references are written in a PDF.
-class MvPdfSyntax
+class MVPROJECT_EXPORT MvPdfSyntax
 {
 public:
     /// With at most so many decimals and no zeros at the end.
