@@ -11,6 +11,9 @@ function(mv_add_library name)
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/MvCalendar-1>)
     target_compile_features(${name} PUBLIC cxx_std_20)
     target_link_libraries(${name} PUBLIC ${ARG_PUBLIC} PRIVATE ${ARG_PRIVATE})
+    if(NOT MV_SANITIZE)
+        target_link_options(${name} PRIVATE -Wl,-Bsymbolic-functions) # its own functions need not be looked for
+    endif()
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR} VERIFY_INTERFACE_HEADER_SETS ON)
     if(MV_PRECOMPILE)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendarOptions.h"
 
+#include "MvSchemaNames.h"
 #include "plain/MvCliCommand.h"
 #include "plain/MvCliValues.h"
 #include "plain/MvNearMiss.h"
-#include "MvSchemaNames.h"
 
 using namespace Qt::StringLiterals;
 

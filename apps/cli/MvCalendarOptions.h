@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "plain/MvCliOption.h"
 #include "MvProject/MvCalendarDocument.h"
+#include "plain/MvCliOption.h"
 
 #include <QCoreApplication>
 #include <QList>

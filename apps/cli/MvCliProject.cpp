@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCliProject.h"
 
-#include "plain/MvCliValues.h"
 #include "MvFoto/MvImageLoader.h"
 #include "MvProject/MvProjectFile.h"
+#include "plain/MvCliValues.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -3,9 +3,9 @@
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvUserColorSchemata.h"
-#include "plain/MvCliValues.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvXML/MvXMLLoader.h"
+#include "plain/MvCliValues.h"
 
 #include <algorithm>
 
@@ -83,14 +83,14 @@ QList<MvCliOption> MvColorsCommand::options() const
     return {formatOption({u"text"_s, u"json"_s}),
             jsonOption(),
             {u"hidden"_s, {}, tr("zählt die ausgeblendeten auf")},
-                              {saveTask, u"NAME"_s, tr("behält die Farben der Datei --from als eigenes Farbschema")},
-                              {u"from"_s, tr("DATEI"), tr("ein Projekt, oder eine Datei mit einem Farbschema")},
-                              {renameTask, u"ID"_s, tr("nennt ein eigenes Farbschema um in --to")},
-                              {u"to"_s, u"NAME"_s, tr("der neue Name")},
-                              {removeTask, u"ID"_s, tr("löscht ein eigenes Farbschema; Projekte behalten ihre Farben")},
-                              {hideTask, u"ID"_s, tr("bietet ein Farbschema nicht mehr an")},
-                              {showTask, u"ID"_s, tr("bietet es wieder an")},
-                              {resetTask, {}, tr("löscht alle eigenen und bietet alle ausgeblendeten wieder an")}};
+            {saveTask, u"NAME"_s, tr("behält die Farben der Datei --from als eigenes Farbschema")},
+            {u"from"_s, tr("DATEI"), tr("ein Projekt, oder eine Datei mit einem Farbschema")},
+            {renameTask, u"ID"_s, tr("nennt ein eigenes Farbschema um in --to")},
+            {u"to"_s, u"NAME"_s, tr("der neue Name")},
+            {removeTask, u"ID"_s, tr("löscht ein eigenes Farbschema; Projekte behalten ihre Farben")},
+            {hideTask, u"ID"_s, tr("bietet ein Farbschema nicht mehr an")},
+            {showTask, u"ID"_s, tr("bietet es wieder an")},
+            {resetTask, {}, tr("löscht alle eigenen und bietet alle ausgeblendeten wieder an")}};
 }
 
 QStringList MvColorsCommand::examples() const

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCompletion.h"
 
-#include "plain/MvCliValues.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/MvPressProfile.h"
 #include "MvProject/MvThemeRegistry.h"
 #include "MvSchemaNames.h"
+#include "plain/MvCliValues.h"
 
 #include <algorithm>
 

@@ -3,12 +3,12 @@
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvHolidayEntries.h"
-#include "plain/MvCliValues.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvEntriesEdit.h"
 #include "MvEntriesInput.h"
 #include "MvEntriesPlace.h"
 #include "MvEntriesPrinter.h"
+#include "plain/MvCliValues.h"
 #include "plain/MvHolidaysCommand.h"
 #include "plain/MvNearMiss.h"
 #include "plain/MvVacationHint.h"

@@ -2,11 +2,11 @@
 #include "MvEntriesEdit.h"
 
 #include "MvCalendar/MvRepetitionWords.h"
-#include "plain/MvCliValues.h"
 #include "MvCore/MvTypedDate.h"
 #include "MvEntriesInput.h"
 #include "MvEntriesPlace.h"
 #include "MvEntriesPrinter.h"
+#include "plain/MvCliValues.h"
 #include "plain/MvNearMiss.h"
 
 #include <algorithm>

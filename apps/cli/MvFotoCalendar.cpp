@@ -2,11 +2,11 @@
 #include "MvFotoCalendar.h"
 
 #include "MvCalendarOptions.h"
-#include "plain/MvCliValues.h"
-#include "plain/MvNearMiss.h"
 #include "MvProject/MvFotoDistribution.h"
 #include "MvProject/MvFotoPoolIntake.h"
 #include "MvProject/MvThemeRegistry.h"
+#include "plain/MvCliValues.h"
+#include "plain/MvNearMiss.h"
 
 #include <QFileInfo>
 #include <QTextStream>

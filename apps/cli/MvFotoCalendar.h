@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "plain/MvCliArguments.h"
-#include "plain/MvCliOption.h"
 #include "MvCliProject.h"
 #include "MvProject/MvNewCalendar.h"
+#include "plain/MvCliArguments.h"
+#include "plain/MvCliOption.h"
 
 #include <QCoreApplication>
 #include <QList>

@@ -2,12 +2,12 @@
 #include "MvNewCommand.h"
 
 #include "MvCalendarOptions.h"
-#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvFotoCalendar.h"
 #include "MvProject/MvProjectEntryFotos.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvRenderEntries.h"
+#include "plain/MvCliValues.h"
 
 #include <QFileInfo>
 

@@ -2,10 +2,10 @@
 #include "MvPackCommand.h"
 
 #include "MvCliProject.h"
-#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvProject/MvProjectPack.h"
 #include "MvRenderEntries.h"
+#include "plain/MvCliValues.h"
 
 #include <QFileInfo>
 

@@ -5,12 +5,12 @@
 #include "MvCalendar/MvCalendariumRendererFactory.h"
 #include "MvCalendarOptions.h"
 #include "MvCliProject.h"
-#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvFotoCalendar.h"
 #include "MvPageSelection.h"
 #include "MvRenderReport.h"
 #include "MvRenderTargets.h"
+#include "plain/MvCliValues.h"
 #include "plain/MvVacationHint.h"
 
 #include <QFontDatabase>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "plain/MvCliCommand.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvPageSource.h"
 #include "MvRenderEntries.h"
+#include "plain/MvCliCommand.h"
 
 #include <QJsonObject>
 

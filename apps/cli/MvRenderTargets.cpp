@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRenderTargets.h"
 
-#include "plain/MvCliValues.h"
 #include "MvInterruption.h"
 #include "MvPressOptions.h"
 #include "MvProject/MvExportObserver.h"
@@ -9,6 +8,7 @@
 #include "MvProject/MvPictureExporter.h"
 #include "MvProject/MvSheetPlan.h"
 #include "MvSheetOptions.h"
+#include "plain/MvCliValues.h"
 
 #include <QFile>
 

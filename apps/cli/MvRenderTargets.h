@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "plain/MvCliArguments.h"
-#include "plain/MvCliCommand.h"
 #include "MvProject/MvExportResult.h"
 #include "MvProject/MvExportTarget.h"
 #include "MvProject/MvPressSettings.h"
+#include "plain/MvCliArguments.h"
+#include "plain/MvCliCommand.h"
 
 #include <QCoreApplication>
 #include <QList>

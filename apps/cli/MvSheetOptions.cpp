@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvSheetOptions.h"
 
+#include "MvProject/MvPageFormat.h"
 #include "plain/MvCliArguments.h"
 #include "plain/MvCliValues.h"
 #include "plain/MvNearMiss.h"
-#include "MvProject/MvPageFormat.h"
 
 using namespace Qt::StringLiterals;
 

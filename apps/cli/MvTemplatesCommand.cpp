@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvTemplatesCommand.h"
 
-#include "plain/MvCliValues.h"
 #include "MvProject/MvPageTemplateRegistry.h"
+#include "plain/MvCliValues.h"
 #include "plain/MvTextTable.h"
 
 #include <QJsonArray>

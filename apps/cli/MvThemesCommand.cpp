@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvThemesCommand.h"
 
-#include "plain/MvCliValues.h"
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvThemeRegistry.h"
+#include "plain/MvCliValues.h"
 #include "plain/MvTextTable.h"
 
 #include <QJsonArray>

@@ -2,10 +2,10 @@
 #include "MvValidateCommand.h"
 
 #include "MvCliProject.h"
-#include "plain/MvCliValues.h"
 #include "MvFileHints.h"
 #include "MvProject/MvPrintCheck.h"
 #include "MvRenderEntries.h"
+#include "plain/MvCliValues.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

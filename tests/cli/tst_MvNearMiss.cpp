@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvTest.h"
 #include "plain/MvCliArguments.h"
 #include "plain/MvNearMiss.h"
-#include "MvTest.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvBatchInputs.h"
 
-#include "plain/MvCliArguments.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvRegularFile.h"
 #include "MvRenderCommand.h"
+#include "plain/MvCliArguments.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

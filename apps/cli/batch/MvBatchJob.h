@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "plain/MvCliArguments.h"
 #include "MvCore/MvOutcome.h"
+#include "plain/MvCliArguments.h"
 
 #include <QCoreApplication>
 #include <QJsonObject>

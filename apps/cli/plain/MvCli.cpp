@@ -26,8 +26,9 @@ bool asksForHelp(const QStringList &arguments)
 /// Of all commands, as they are offered.
 const QStringList &commandNames()
 {
-    static const QStringList names{u"render"_s, u"batch"_s, u"new"_s, u"validate"_s, u"pack"_s, u"themes"_s,
-                                   u"templates"_s, u"layouts"_s, u"colors"_s, u"regions"_s, u"holidays"_s, u"entries"_s};
+    static const QStringList names{u"render"_s, u"batch"_s,   u"new"_s,       u"validate"_s,
+                                   u"pack"_s,   u"themes"_s,  u"templates"_s, u"layouts"_s,
+                                   u"colors"_s, u"regions"_s, u"holidays"_s,  u"entries"_s};
     return names;
 }
 

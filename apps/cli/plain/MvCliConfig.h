@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include "MvCore/MvOutcome.h"
 #include "plain/MvCliArguments.h"
 #include "plain/MvCliOption.h"
-#include "MvCore/MvOutcome.h"
 
 #include <QCoreApplication>
 #include <QList>

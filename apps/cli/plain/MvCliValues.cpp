@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "plain/MvCliValues.h"
 
-#include "plain/MvNearMiss.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
+
+#include "plain/MvNearMiss.h"
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -96,17 +98,16 @@ MvLocale MvCliValues::country()
     const QString wanted = text(u"country"_s, u"DE"_s).trimmed();
     const QString language = text(u"language"_s).trimmed();
     QStringList codes;
-    QStringList names;
     QStringList languages;
     MvLocale found;
     const QList<MvLocale> locales = MvCalendariumHolidayCalculator::instance().availableLanguages();
+    const bool isCode = std::any_of(locales.cbegin(), locales.cend(), [&wanted](const MvLocale &locale) {
+        return locale.country().compare(wanted, Qt::CaseInsensitive) == 0;
+    });
     for (const MvLocale &locale : locales) {
-        if (!codes.contains(locale.country())) {
+        if (!codes.contains(locale.country()))
             codes.append(locale.country());
-            names.append(countryName(locale));
-        }
-        if (locale.country().compare(wanted, Qt::CaseInsensitive) != 0 &&
-            countryName(locale).compare(wanted, Qt::CaseInsensitive) != 0)
+        if ((isCode ? locale.country() : countryName(locale)).compare(wanted, Qt::CaseInsensitive) != 0)
             continue;
         languages.append(locale.language());
         const bool isWanted = language.isEmpty() || locale.language().compare(language, Qt::CaseInsensitive) == 0;
@@ -114,6 +115,11 @@ MvLocale MvCliValues::country()
             found = locale;
     }
     if (languages.isEmpty()) {
+        QStringList names;
+        for (const MvLocale &locale : locales) {
+            if (const QString name = countryName(locale); !names.contains(name))
+                names.append(name);
+        }
         setError(tr("--country „%1“: erlaubt sind %2").arg(wanted, codes.join(u", "_s)) +
                  MvNearMiss::describe(wanted, names + codes));
     } else if (!found.isValid()) {

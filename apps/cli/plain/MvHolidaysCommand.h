@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
-#include "plain/MvCliCommand.h"
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
 #include "MvProductBase/MvCalendariumHolidayList.h"
+#include "plain/MvCliCommand.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "plain/MvRegionsCommand.h"
 
-#include "plain/MvCliValues.h"
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
+#include "plain/MvCliValues.h"
 #include "plain/MvTextTable.h"
 
 #include <QJsonArray>

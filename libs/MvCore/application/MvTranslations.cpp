@@ -130,10 +130,8 @@ QString MvTranslations::systemLanguage()
 
 bool MvTranslations::install(const QString &language)
 {
-    if (!hasTexts(language))
-        return false;
     auto own = std::make_unique<QTranslator>();
-    if (!own->load(fileOf(language).filePath()))
+    if (!isCode(language) || !own->load(fileOf(language).filePath()))
         return false;
 
     for (const QPointer<QTranslator> &translator : std::as_const(installed().translators))

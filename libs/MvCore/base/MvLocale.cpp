@@ -83,8 +83,8 @@ MvLocale::MvLocale(const QString &language, const QString &country)
     const QString upper = country.toUpper();
     const bool isLanguage = (lower.size() == 2 || lower.size() == 3) &&
                             std::all_of(lower.cbegin(), lower.cend(), [](QChar c) { return c >= u'a' && c <= u'z'; });
-    const bool isCountry = upper.size() == 2 && std::all_of(upper.cbegin(), upper.cend(),
-                                                            [](QChar c) { return c >= u'A' && c <= u'Z'; });
+    const bool isCountry =
+        upper.size() == 2 && std::all_of(upper.cbegin(), upper.cend(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
     if (isLanguage && isCountry) {
         m_language = lower;
         m_country = upper;

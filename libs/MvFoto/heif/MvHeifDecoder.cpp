@@ -89,7 +89,7 @@ struct MvHeifDecoder::Callbacks
     static heif_reader_grow_status reaches(int64_t size, void *self)
     {
         return size <= static_cast<MvHeifDecoder *>(self)->m_device->size() ? heif_reader_grow_status_size_reached
-                                                                          : heif_reader_grow_status_size_beyond_eof;
+                                                                            : heif_reader_grow_status_size_beyond_eof;
     }
 
     static constexpr heif_reader table = {1, position, read, seek, reaches};

@@ -6,7 +6,6 @@
 #include <QMutexLocker>
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +27,12 @@ qsizetype neighbourhood(const QString &code)
     static const QStringList first = {u"DE"_s, u"AT"_s, u"CH"_s};
     const qsizetype index = first.indexOf(code);
     return index < 0 ? first.size() : index;
+}
+
+/// What ended before is seldom asked for.
+int recentYear()
+{
+    return QDate::currentDate().year() - 1;
 }
 
 } // namespace
@@ -83,21 +88,19 @@ std::shared_ptr<const MvHolidayTable> MvHolidayBook::table(const MvLocale &local
     return country(locale.country()).holidays;
 }
 
-std::shared_ptr<const MvSchoolVacationTable>
-MvHolidayBook::vacations(const MvLocale &locale, const QStringList &regions, int sinceYear) const
+std::shared_ptr<const MvSchoolVacationTable> MvHolidayBook::vacations(const MvLocale &locale,
+                                                                      const QStringList &regions, int sinceYear) const
 {
     const QString code = locale.country();
     const QMutexLocker lock(&m_mutex);
     Country &where = country(code);
-    if (!where.vacations)
-        where.sinceYear = std::min(sinceYear, QDate::currentDate().year());
     QStringList missing;
     for (const QString &region : regions + QStringList{QString()}) { // what holds everywhere comes along
         if (!where.regions.contains(region))
             missing.append(region);
     }
-    if (sinceYear < where.sinceYear) { // somebody goes back: all of it, once
-        where.sinceYear = 0;
+    if (sinceYear < recentYear() && !where.hasPast) { // all anew
+        where.hasPast = true;
         where.vacations.reset();
         missing += std::exchange(where.regions, {});
     }
@@ -120,19 +123,18 @@ void MvHolidayBook::readVacations(const QString &code, Country &country, QString
     MvSchoolVacationTable all = isFirst ? country.ownVacations : *country.vacations;
     for (const QFileInfo &file : std::as_const(files)) {
         if (areShipped)
-            MvHolidayTableReader(file).readShippedVacations(all, regions, country.sinceYear);
+            MvHolidayTableReader(file).readShippedVacations(all, regions, country.hasPast ? 0 : recentYear());
         else if (m_codes.contains(code))
             MvHolidayTableReader(file).readVacations(all);
     }
-    country.sinceYear = areShipped ? country.sinceYear : 0;
+    country.hasPast = country.hasPast || !areShipped;
     country.vacations = std::make_shared<const MvSchoolVacationTable>(std::move(all));
 }
 
 QDate MvHolidayBook::vacationsKnownUntil(const MvLocale &locale, const QString &region) const
 {
     const QStringList regions = table(locale)->regionWithParents(region);
-    constexpr int any = std::numeric_limits<int>::max(); // the last ones are always there, unless they are long over
-    const QDate until = vacations(locale, regions, any)->knownUntil(regions);
+    const QDate until = vacations(locale, regions, recentYear())->knownUntil(regions);
     return until.isValid() ? until : vacations(locale, regions, 0)->knownUntil(regions);
 }
 

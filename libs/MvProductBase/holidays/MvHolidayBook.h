@@ -17,7 +17,8 @@
 #include <memory>
 
 /// Everything that the data files say about holidays. The files of a country are read when they are first asked for,
-/// those of its vacations later than those of its holidays, and the shipped ones by region and year; from then on it stays as it is.
+/// those of its vacations later than those of its holidays, and the shipped ones by region, the past ones last; from
+/// then on it stays as it is.
 ///
 /// May be asked by any thread.
 class MVPRODUCTBASE_EXPORT MvHolidayBook
@@ -45,7 +46,7 @@ private:
         MvSchoolVacationTable ownVacations;                     // the user's
         std::shared_ptr<const MvSchoolVacationTable> vacations; // with the shipped ones
         QStringList regions;                                    // of which the shipped ones have been read,
-        int sinceYear = 0;                                      // as far as they end in that year or later
+        bool hasPast = false;                                   // also those that are over
     };
 
     void readCountries();

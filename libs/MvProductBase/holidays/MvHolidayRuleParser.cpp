@@ -12,8 +12,7 @@ constexpr int longestShift = 366; // a rule is asked for its year and both neigh
 /// The number that so many digits make; none for all else.
 std::optional<int> numberOf(QStringView digits, qsizetype fewest, qsizetype most)
 {
-    const bool areDigits =
-        std::all_of(digits.cbegin(), digits.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    const bool areDigits = std::all_of(digits.cbegin(), digits.cend(), [](QChar c) { return c >= u'0' && c <= u'9'; });
     if (!areDigits || digits.size() < fewest || digits.size() > most)
         return {};
     return digits.toInt();

@@ -2,11 +2,14 @@
 #include "MvProductBase/MvHolidayTableReader.h"
 
 #include "MvCore/MvStringHelper.h"
+#include "MvXML/MvShippedXML.h"
 
 #include <QDebug>
-#include <QXmlStreamReader>
 
 #include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -25,60 +28,72 @@ void forEachChild(const MvXMLElement &parent, const QString &name, Function func
 
 QStringList words(const MvXMLElement &element, const QString &attribute)
 {
-    return element.attribute(attribute).split(u' ', Qt::SkipEmptyParts);
-}
-
-QString attribute(const QXmlStreamReader &reader, const QString &name)
-{
-    return reader.attributes().value(name).toString();
-}
-
-/// The parts of a text, of which all but the first begin with a word.
-QList<QByteArrayView> partsAt(QByteArrayView text, QByteArrayView word)
-{
-    QList<QByteArrayView> parts;
-    qsizetype from = 0;
-    for (qsizetype at = text.indexOf(word); at >= 0; at = text.indexOf(word, from + 1)) {
-        parts.append(text.sliced(from, at - from));
-        from = at;
-    }
-    parts.append(text.sliced(from));
-    return parts;
+    const QString text = element.attribute(attribute);
+    return text.isEmpty() ? QStringList() : text.split(u' ', Qt::SkipEmptyParts);
 }
 
 /// Between a word and the next quotation mark; empty when there is no such word.
-QByteArrayView valueAfter(QByteArrayView word, QByteArrayView text)
+std::string_view valueAfter(std::string_view word, std::string_view text)
 {
-    const qsizetype at = text.indexOf(word);
-    const QByteArrayView rest = at < 0 ? QByteArrayView() : text.sliced(at + word.size());
-    return rest.first(std::max<qsizetype>(0, rest.indexOf('"')));
+    const size_t at = text.find(word);
+    const std::string_view rest = at == text.npos ? std::string_view() : text.substr(at + word.size());
+    return rest.substr(0, rest.find('"'));
 }
 
-/// A shipped file of vacations without the regions that nobody asks for, and without what ended before the year.
+/// Of the vacations of a region those that end in the year or later.
+void keepSince(int year, std::string_view region, QByteArray &kept)
+{
+    constexpr std::string_view begin = "<vacation ";
+    while (!region.empty()) { // the region's own tag, then one vacation after the other
+        const std::string_view vacation = region.substr(0, region.find(begin, 1));
+        const std::string_view last = valueAfter(" end=\"", vacation);
+        if (last.empty() || QByteArrayView(last).first(4).toInt() >= year)
+            kept.append(vacation);
+        region.remove_prefix(vacation.size());
+    }
+}
+
+/// A shipped file of vacations without the regions that nobody asks for, and without what ended before the year. The
+/// whole country stands before its regions, so what comes after the last that is asked for need not be looked at.
 QByteArray excerptOf(const QByteArray &shipped, const QStringList &regions, int sinceYear)
 {
-    const QByteArrayView end = "</region>";
-    QByteArray kept;
-    for (const QByteArrayView part : partsAt(shipped, "<region ")) {
-        const qsizetype size = part.startsWith("<region ") ? part.indexOf(end) + end.size() : 0;
-        const QByteArrayView region = part.first(size);
-        if (size > 0 && regions.contains(QString::fromUtf8(valueAfter("code=\"", region)))) {
-            for (const QByteArrayView vacation : partsAt(region.chopped(end.size()), "<vacation ")) {
-                const QByteArrayView last = valueAfter(" end=\"", vacation);
-                if (last.isEmpty() || last.first(4).toInt() >= sinceYear)
-                    kept.append(vacation);
-            }
+    constexpr std::string_view begin = "<region code=\"";
+    constexpr std::string_view end = "</region>";
+    std::string_view rest(shipped.constData(), size_t(shipped.size()));
+    qsizetype missing = regions.size() - regions.count(QString());
+    QByteArray kept(rest.data(), qsizetype(std::min(rest.find(begin), rest.size())));
+    rest.remove_prefix(size_t(kept.size()));
+    bool mayBeCountry = true; // the first one
+    while (!rest.empty() && (missing > 0 || std::exchange(mayBeCountry, false))) {
+        const std::string_view region = rest.substr(0, rest.find(end));
+        const QString code = QString::fromUtf8(valueAfter(begin, region));
+        if (regions.contains(code)) {
+            keepSince(sinceYear, region, kept);
             kept.append(end);
+            missing -= code.isEmpty() ? 0 : 1;
         }
-        kept.append(part.sliced(size));
+        rest.remove_prefix(region.size());
+        rest.remove_prefix(std::min(rest.find(begin), rest.size()));
     }
-    return kept;
+    return kept.append("</SchoolVacations>");
 }
 
 /// "2027-05-01"; an invalid one for all else.
 QDate dateOf(const QString &text)
 {
-    return QDate::fromString(text, Qt::ISODate);
+    if (text.size() != 10 || text.at(4) != u'-' || text.at(7) != u'-')
+        return QDate::fromString(text, Qt::ISODate);
+    std::array<int, 3> parts{}; // by hand, since there are thousands
+    size_t part = 0;
+    for (const QChar c : text) {
+        if (c == u'-' && part < 2)
+            ++part;
+        else if (c < u'0' || c > u'9')
+            return {};
+        else
+            parts[part] = 10 * parts[part] + c.unicode() - u'0';
+    }
+    return {parts[0], parts[1], parts[2]};
 }
 
 } // namespace
@@ -89,12 +104,7 @@ MvHolidayTableReader::MvHolidayTableReader(const QFileInfo &file)
 
 void MvHolidayTableReader::complain(const MvXMLElement &element, const QString &message)
 {
-    complain(element.line, message);
-}
-
-void MvHolidayTableReader::complain(qint64 line, const QString &message)
-{
-    m_problems.append(u"%1:%2: %3"_s.arg(m_file.filePath()).arg(line).arg(message));
+    m_problems.append(u"%1:%2: %3"_s.arg(m_file.filePath()).arg(element.line).arg(message));
 }
 
 void MvHolidayTableReader::report() const
@@ -124,8 +134,8 @@ QList<MvHolidayTableReader::Country> MvHolidayTableReader::readCountries()
 {
     QList<Country> countries;
     forEachChild(open(u"HolidayCountries"_s), u"country"_s, [&](const MvXMLElement &element) {
-        const Country country = {element.attribute(u"code"_s),
-                                 element.attribute(u"name"_s), words(element, u"languages"_s)};
+        const Country country = {element.attribute(u"code"_s), element.attribute(u"name"_s),
+                                 words(element, u"languages"_s)};
         if (country.code.size() != 2 || country.languages.isEmpty())
             complain(element, tr("Land ohne Kennung oder Sprache"));
         else
@@ -249,9 +259,9 @@ QString MvHolidayTableReader::problemOf(const MvSchoolVacationTable::Vacation &v
 
 std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacation(const MvXMLElement &element)
 {
-    const MvSchoolVacationTable::Vacation vacation = {
-        element.attribute(u"name"_s).simplified(), readNames(element),
-        dateOf(element.attribute(u"start"_s)), dateOf(element.attribute(u"end"_s))};
+    const MvSchoolVacationTable::Vacation vacation = {element.attribute(u"name"_s).simplified(), readNames(element),
+                                                      dateOf(element.attribute(u"start"_s)),
+                                                      dateOf(element.attribute(u"end"_s))};
     const QString problem = problemOf(vacation);
     if (problem.isEmpty())
         return vacation;
@@ -261,83 +271,38 @@ std::optional<MvSchoolVacationTable::Vacation> MvHolidayTableReader::readVacatio
 
 void MvHolidayTableReader::readVacations(MvSchoolVacationTable &vacations)
 {
-    if (!m_file.exists())
-        return;
-    MvXMLFile::Error error;
-    const QByteArray bytes = MvXMLFile::loadBytes(m_file, &error);
-    if (error.isError())
-        m_problems.append(error.describe(m_file));
-    else
-        readVacations(bytes, vacations);
+    if (m_file.exists())
+        readVacations(open(u"SchoolVacations"_s), vacations);
     report();
 }
 
 void MvHolidayTableReader::readShippedVacations(MvSchoolVacationTable &vacations, const QStringList &regions,
                                                 int sinceYear)
 {
-    if (m_file.exists())
-        readVacations(excerptOf(MvXMLFile::loadBytes(m_file), regions, sinceYear), vacations);
+    if (!m_file.exists())
+        return;
+    const QByteArray asked = excerptOf(MvXMLFile::loadBytes(m_file), regions, sinceYear);
+    readVacations(MvShippedXML(asked).next(), vacations);
 }
 
-/// As a stream: a country has thousands of them.
-void MvHolidayTableReader::readVacations(const QByteArray &bytes, MvSchoolVacationTable &vacations)
+void MvHolidayTableReader::readVacations(const MvXMLElement &root, MvSchoolVacationTable &vacations)
 {
-    QXmlStreamReader reader(bytes);
     QHash<QString, QHash<QString, QString>> common; // by name: most vacations share their names with others
-    QList<RegionVacation> read;
-    if (reader.readNextStartElement() && reader.name() != u"SchoolVacations"_s)
-        complain(reader.lineNumber(), tr("\"%1\" statt \"%2\"").arg(reader.name(), u"SchoolVacations"_s));
-    const bool isReadable = m_problems.isEmpty();
-    while (isReadable && reader.readNextStartElement()) {
-        if (reader.name() == u"names"_s) {
-            const QString name = attribute(reader, u"of"_s).simplified();
-            common.insert(name, readNames(reader));
-        } else if (reader.name() == u"region"_s) {
-            readRegionVacations(reader, read);
-        } else {
-            reader.skipCurrentElement();
-        }
-    }
-    for (auto &[region, vacation] : read) {
-        QHash<QString, QString> names = common.value(vacation.name);
-        names.insert(vacation.names);
-        vacation.names = names;
-        vacations.add(region, vacation);
-    }
-}
-
-void MvHolidayTableReader::readRegionVacations(QXmlStreamReader &reader, QList<RegionVacation> &vacations)
-{
-    const QString code = attribute(reader, u"code"_s);
-    while (reader.readNextStartElement()) {
-        if (reader.name() != u"vacation"_s) {
-            reader.skipCurrentElement();
-            continue;
-        }
-        const qint64 line = reader.lineNumber();
-        MvSchoolVacationTable::Vacation vacation{attribute(reader, u"name"_s).simplified(),
-                                                 {},
-                                                 dateOf(attribute(reader, u"start"_s)),
-                                                 dateOf(attribute(reader, u"end"_s))};
-        vacation.names = readNames(reader);
-        const QString problem = problemOf(vacation);
-        if (problem.isEmpty())
-            vacations.append({code, vacation});
-        else
-            complain(line, problem);
-    }
-}
-
-QHash<QString, QString> MvHolidayTableReader::readNames(QXmlStreamReader &reader)
-{
-    QHash<QString, QString> names;
-    while (reader.readNextStartElement()) {
-        const QString text = attribute(reader, u"text"_s).simplified();
-        if (reader.name() == u"name"_s && !text.isEmpty())
-            names.insert(attribute(reader, u"language"_s), text);
-        reader.skipCurrentElement();
-    }
-    return names;
+    forEachChild(root, u"names"_s, [&](const MvXMLElement &element) {
+        common.insert(element.attribute(u"of"_s).simplified(), readNames(element));
+    });
+    forEachChild(root, u"region"_s, [&](const MvXMLElement &region) {
+        const QString code = region.attribute(u"code"_s);
+        forEachChild(region, u"vacation"_s, [&](const MvXMLElement &element) {
+            std::optional<MvSchoolVacationTable::Vacation> vacation = readVacation(element);
+            if (!vacation)
+                return;
+            QHash<QString, QString> names = common.value(vacation->name);
+            names.insert(vacation->names);
+            vacation->names = names;
+            vacations.add(code, *vacation);
+        });
+    });
 }
 
 MvXMLElement MvHolidayTableReader::ownCountry(const QString &country)

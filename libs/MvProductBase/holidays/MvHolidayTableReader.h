@@ -12,8 +12,6 @@
 #include <QString>
 #include <QStringList>
 
-class QXmlStreamReader;
-
 /// Reads one file of holidays or school vacations; docs/holidays.md describes the formats.
 ///
 /// What is malformed is left out and the rest is read. A file that is not well-formed gives nothing. Either way one
@@ -49,24 +47,14 @@ public:
     QStringList problems() const { return m_problems; }
 
 private:
-    struct RegionVacation
-    {
-        QString region;
-        MvSchoolVacationTable::Vacation vacation;
-    };
-
     MvXMLElement open(const QString &rootName);
     MvXMLElement ownCountry(const QString &country);
     MvHolidayTable::Region readRegion(const MvXMLElement &element);
     std::optional<MvHolidayTable::Entry> readEntry(const MvXMLElement &element, const MvHolidayTable &table);
     /// The names of the element in other languages.
     static QHash<QString, QString> readNames(const MvXMLElement &element);
-    void readVacations(const QByteArray &bytes, MvSchoolVacationTable &vacations);
+    void readVacations(const MvXMLElement &root, MvSchoolVacationTable &vacations);
     std::optional<MvSchoolVacationTable::Vacation> readVacation(const MvXMLElement &element);
-    /// Of the region that the reader is in, which it leaves.
-    void readRegionVacations(QXmlStreamReader &reader, QList<RegionVacation> &vacations);
-    /// Of the element that the reader is in, which it leaves.
-    static QHash<QString, QString> readNames(QXmlStreamReader &reader);
     /// Why a vacation is none; empty if it is one.
     static QString problemOf(const MvSchoolVacationTable::Vacation &vacation);
     bool readYear(const MvXMLElement &element, const QString &attribute, std::optional<int> &year);
@@ -75,7 +63,6 @@ private:
     void readOwnVacations(const MvXMLElement &country, const MvHolidayTable &table, MvSchoolVacationTable &vacations);
 
     void complain(const MvXMLElement &element, const QString &message);
-    void complain(qint64 line, const QString &message);
     void report() const;
 
     QFileInfo m_file;

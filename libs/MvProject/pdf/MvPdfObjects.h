@@ -8,8 +8,8 @@
 
 class QFile;
 
-/// What MvPdfFile hands over: the objects of a PDF and the file made of them. A mistake, or a disk that is full, is told
-/// once, by write().
+/// What MvPdfFile hands over: the objects of a PDF and the file made of them. A mistake, or a disk that is full, is
+/// told once, by write().
 class MVPROJECT_EXPORT MvPdfObjects
 {
 public:

@@ -289,7 +289,7 @@ private:
 } // namespace
 
 MvOutcome MvQpdfSheets::write(QFile &from, QFile &to, const MvSheetPlan &plan, const QStringList &names,
-                             const MvLocale &language)
+                              const MvLocale &language)
 {
     const uchar *content = from.map(0, from.size());
     if (!content)
@@ -311,8 +311,8 @@ MvOutcome MvQpdfSheets::write(QFile &from, QFile &to, const MvSheetPlan &plan, c
     return {pipeline.error(), {}};
 }
 
-extern "C" Q_DECL_EXPORT void mvLayPdfOnSheets(QFile &from, QFile &to, const MvSheetPlan &plan, const QStringList &names,
-                                               const MvLocale &language, MvOutcome &outcome)
+extern "C" Q_DECL_EXPORT void mvLayPdfOnSheets(QFile &from, QFile &to, const MvSheetPlan &plan,
+                                               const QStringList &names, const MvLocale &language, MvOutcome &outcome)
 {
     outcome = MvQpdfSheets::write(from, to, plan, names, language);
 }

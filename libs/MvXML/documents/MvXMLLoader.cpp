@@ -31,10 +31,10 @@ QDomDocument MvXMLLoader::parse(const QByteArray &bytes, Error *error)
     try {
         QString wideText;
         found = checkDecoding(bytes, Limits::ofDocuments(), wideText);
-        const bool isBuilt = !found.isError() &&
-                             (wideText.isEmpty()
-                                  ? document.setContent(bytes, &found.message, &found.line, &found.column)
-                                  : document.setContent(wideText, &found.message, &found.line, &found.column));
+        const bool isBuilt =
+            !found.isError() &&
+            (wideText.isEmpty() ? document.setContent(bytes, &found.message, &found.line, &found.column)
+                                : document.setContent(wideText, &found.message, &found.line, &found.column));
         if (isBuilt)
             found = {};
     } catch (const std::bad_alloc &) {

@@ -1,11 +1,22 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvXML/MvXMLElement.h"
 
+#include "MvXML/MvShippedXML.h"
+
 #include <QXmlStreamReader>
+
+#include <algorithm>
+
+QList<std::pair<QString, QString>>::const_iterator MvXMLElement::find(const QString &attribute) const
+{
+    return std::find_if(attributes.cbegin(), attributes.cend(),
+                        [&attribute](const auto &known) { return known.first == attribute; });
+}
 
 QString MvXMLElement::attribute(const QString &attribute, const QString &defaultValue) const
 {
-    return hasAttribute(attribute) ? attributes.value(attribute).toString() : defaultValue;
+    const auto found = find(attribute);
+    return found == attributes.cend() ? defaultValue : found->second;
 }
 
 MvXMLElement MvXMLElement::load(const QFileInfo &file, MvXMLFile::Error *error)
@@ -13,7 +24,9 @@ MvXMLElement MvXMLElement::load(const QFileInfo &file, MvXMLFile::Error *error)
     MvXMLFile::Error found;
     const QByteArray bytes = MvXMLFile::loadBytes(file, &found);
     MvXMLElement root;
-    if (!found.isError()) {
+    if (!found.isError() && MvXMLFile::isEmbedded(file)) {
+        root = MvShippedXML(bytes).next();
+    } else if (!found.isError()) {
         QXmlStreamReader reader(bytes);
         reader.setNamespaceProcessing(false);
         if (reader.readNextStartElement())
@@ -25,9 +38,12 @@ MvXMLElement MvXMLElement::load(const QFileInfo &file, MvXMLFile::Error *error)
     return found.isError() ? MvXMLElement() : root;
 }
 
-MvXMLElement MvXMLElement::read(QXmlStreamReader &reader) // no deeper than files may be
+/// The element whose first tag has just been read; no deeper than files may be.
+MvXMLElement MvXMLElement::read(QXmlStreamReader &reader)
 {
-    MvXMLElement element{reader.qualifiedName().toString(), reader.attributes(), reader.lineNumber(), {}};
+    MvXMLElement element{reader.qualifiedName().toString(), {}, reader.lineNumber(), {}};
+    for (const QXmlStreamAttribute &attribute : reader.attributes())
+        element.attributes.append({attribute.qualifiedName().toString(), attribute.value().toString()});
     while (reader.readNextStartElement())
         element.children.append(read(reader));
     return element;

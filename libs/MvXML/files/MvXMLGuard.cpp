@@ -81,8 +81,8 @@ private:
                 position,
                 MvXMLFile::tr("Eine Auszeichnung hat mehr als %1 Attribute.").arg(MvXMLGuard::attributeLimit));
         if (end < 0)
-            return errorAt(
-                position, MvXMLFile::tr("Eine Auszeichnung ist länger als %1 KiB.").arg(MvXMLGuard::tagLimit / 1024));
+            return errorAt(position,
+                           MvXMLFile::tr("Eine Auszeichnung ist länger als %1 KiB.").arg(MvXMLGuard::tagLimit / 1024));
         const bool isEnd = startsWith(position, "</");
         if (!isEnd && ++m_elements > m_mostElements)
             return errorAt(end, tooManyElements());

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvXML/MvShippedXML.h"
+
+#include <algorithm>
+#include <cctype>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int usualAttributes = 4;
+}
+
+MvXMLElement MvShippedXML::next()
+{
+    for (m_at = m_text.indexOf('<', m_at); m_at >= 0; m_at = m_text.indexOf('<', m_at)) {
+        const QByteArrayView rest = m_text.sliced(m_at);
+        if (rest.startsWith("<!--"))
+            skip("-->");
+        else if (rest.startsWith("<?"))
+            skip("?>");
+        else
+            return rest.startsWith("</") ? MvXMLElement() : element();
+    }
+    return {};
+}
+
+MvXMLElement MvShippedXML::element()
+{
+    MvXMLElement element;
+    ++m_at; // "<"
+    element.name = name();
+    element.attributes.reserve(usualAttributes);
+    for (;;) {
+        const char c = m_text.at(m_at);
+        if (c == '>' || c == '/') {
+            skip(">");
+            if (c == '/')
+                return element;
+            break;
+        }
+        if (std::isspace(static_cast<unsigned char>(c))) {
+            ++m_at;
+            continue;
+        }
+        const QString attribute = name();
+        element.attributes.append({attribute, value()});
+    }
+    for (MvXMLElement child = next(); !child.isNull(); child = next())
+        element.children.append(std::move(child));
+    skip(">");
+    return element;
+}
+
+QString MvShippedXML::name()
+{
+    const qsizetype from = m_at;
+    for (char c = m_text.at(m_at); c > ' ' && c != '=' && c != '>' && c != '/'; c = m_text.at(m_at))
+        ++m_at;
+    const QByteArrayView bytes = m_text.sliced(from, m_at - from);
+    const auto known =
+        std::find_if(m_names.cbegin(), m_names.cend(), [bytes](const auto &name) { return name.first == bytes; });
+    return known != m_names.cend() ? known->second : m_names.emplace_back(bytes, QString::fromUtf8(bytes)).second;
+}
+
+QString MvShippedXML::value()
+{
+    const char quote = m_text.at(m_at + 1); // after "="
+    const qsizetype from = m_at + 2;
+    m_at = from;
+    skip(QByteArrayView(&quote, 1));
+    QString value = QString::fromUtf8(m_text.sliced(from, m_at - 1 - from));
+    if (value.contains(u'&')) {
+        value.replace("&lt;"_L1, "<"_L1).replace("&gt;"_L1, ">"_L1).replace("&quot;"_L1, "\""_L1);
+        value.replace("&apos;"_L1, "'"_L1).replace("&amp;"_L1, "&"_L1);
+    }
+    return value;
+}
