@@ -47,7 +47,7 @@ void keepSince(int year, std::string_view region, QByteArray &kept)
     while (!region.empty()) { // the region's own tag, then one vacation after the other
         const std::string_view vacation = region.substr(0, region.find(begin, 1));
         const std::string_view last = valueAfter(" end=\"", vacation);
-        if (last.empty() || QByteArrayView(last).first(4).toInt() >= year)
+        if (last.empty() || QByteArrayView(last.substr(0, 4)).toInt() >= year)
             kept.append(vacation);
         region.remove_prefix(vacation.size());
     }

@@ -12,8 +12,9 @@ constexpr int usualAttributes = 4;
 
 MvXMLElement MvShippedXML::next()
 {
-    for (m_at = m_text.indexOf('<', m_at); m_at >= 0; m_at = m_text.indexOf('<', m_at)) {
-        const QByteArrayView rest = m_text.sliced(m_at);
+    for (qsizetype at = m_text.indexOf('<', m_at); at >= 0; at = m_text.indexOf('<', m_at)) {
+        m_at = at;
+        const QByteArrayView rest = m_text.sliced(at);
         if (rest.startsWith("<!--"))
             skip("-->");
         else if (rest.startsWith("<?"))
@@ -31,10 +32,10 @@ MvXMLElement MvShippedXML::element()
     element.name = name();
     element.attributes.reserve(usualAttributes);
     for (;;) {
-        const char c = m_text.at(m_at);
-        if (c == '>' || c == '/') {
+        const char c = here();
+        if (c == '>' || c == '/' || c == '\0') {
             skip(">");
-            if (c == '/')
+            if (c != '>')
                 return element;
             break;
         }
@@ -54,7 +55,7 @@ MvXMLElement MvShippedXML::element()
 QString MvShippedXML::name()
 {
     const qsizetype from = m_at;
-    for (char c = m_text.at(m_at); c > ' ' && c != '=' && c != '>' && c != '/'; c = m_text.at(m_at))
+    for (char c = here(); static_cast<unsigned char>(c) > ' ' && c != '=' && c != '>' && c != '/'; c = here())
         ++m_at;
     const QByteArrayView bytes = m_text.sliced(from, m_at - from);
     const auto known =
@@ -64,11 +65,12 @@ QString MvShippedXML::name()
 
 QString MvShippedXML::value()
 {
-    const char quote = m_text.at(m_at + 1); // after "="
-    const qsizetype from = m_at + 2;
+    skip("=");
+    const char quote = here();
+    const qsizetype from = std::min(m_at + 1, m_text.size());
     m_at = from;
     skip(QByteArrayView(&quote, 1));
-    QString value = QString::fromUtf8(m_text.sliced(from, m_at - 1 - from));
+    QString value = QString::fromUtf8(m_text.sliced(from, std::max<qsizetype>(0, m_at - 1 - from)));
     if (value.contains(u'&')) {
         value.replace("&lt;"_L1, "<"_L1).replace("&gt;"_L1, ">"_L1).replace("&quot;"_L1, "\""_L1);
         value.replace("&apos;"_L1, "'"_L1).replace("&amp;"_L1, "&"_L1);

@@ -24,7 +24,13 @@ private:
     MvXMLElement element();
     QString name();
     QString value();
-    void skip(QByteArrayView end) { m_at = m_text.indexOf(end, m_at) + end.size(); }
+    /// Nothing at the end: what is not in order after all is read as far as it goes.
+    char here() const { return m_at < m_text.size() ? m_text.at(m_at) : '\0'; }
+    void skip(QByteArrayView end)
+    {
+        const qsizetype found = m_text.indexOf(end, m_at);
+        m_at = found < 0 ? m_text.size() : found + end.size();
+    }
 
     QByteArrayView m_text;
     qsizetype m_at = 0;
