@@ -293,11 +293,10 @@ QImage MvGuardedImageReader::read(const QSize &bounds)
 }
 
 /// What the decoder is asked for, upright. That of JPEG halves on the way: it saves time, and nothing is seen of it
-/// where half as many pixels again are left as are wanted. What it does not come to by halving, it scales to; then
-/// there is no need of scaling twice.
+/// where enough pixels are left to spare. What it does not come to by halving, it scales to, which is once too often.
 QSize MvGuardedImageReader::givenSize(const QSize &full, const QSize &target) const
 {
-    constexpr double spare = 1.5;
+    constexpr double spare = 1.4; // times as many each way
     if (m_format == "jpeg") {
         for (const int divisor : {8, 4, 2}) {
             const bool isLarge =
