@@ -59,7 +59,7 @@ endfunction()
 
 function(mv_finish_package folder name)
     # programs and libraries of a system are found where the system looks
-    file(GLOB_RECURSE binaries ${folder}/usr/bin/* ${folder}/usr/lib/*.so.* ${folder}/usr/lib/*/mvcalendar-*/*.so)
+    file(GLOB_RECURSE binaries ${folder}/usr/bin/* ${folder}/usr/lib/*.so.* ${folder}/usr/lib/*.so)
     foreach(binary IN LISTS binaries)
         if(NOT IS_SYMLINK ${binary})
             file(RPATH_REMOVE FILE ${binary})

@@ -82,7 +82,8 @@ set(MV_MODULE_FOLDER mvcalendar-${PROJECT_VERSION_MAJOR})
 function(mv_add_module name)
     cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
     add_library(${name} MODULE)
-    target_link_libraries(${name} PRIVATE ${ARG_LINK})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK}
+        -Wl,--push-state,--no-as-needed,-lc,--pop-state) # which Debian wants to see in each
     set_target_properties(${name} PROPERTIES PREFIX "" INSTALL_RPATH "$ORIGIN/.."
         LIBRARY_OUTPUT_DIRECTORY ${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/${MV_MODULE_FOLDER})
 endfunction()
