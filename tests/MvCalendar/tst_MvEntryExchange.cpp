@@ -29,6 +29,8 @@ private Q_SLOTS:
     void isUnderstoodByAnotherProgram();
     void holidaysOfTheCountry();
     void takenTwiceAddsNothing();
+    void partsWithoutEnd_data();
+    void partsWithoutEnd();
     void eventsOfNoCalendar();
 
 private:
@@ -221,6 +223,25 @@ void tst_MvEntryExchange::holidaysOfTheCountry()
     QCOMPARE(MvHolidayEntries::of(bavaria, 2027, 2027, MvHolidayEntries::Holidays).size() +
                  MvHolidayEntries::of(bavaria, 2027, 2027, MvHolidayEntries::Vacations).size(),
              days.size());
+}
+
+void tst_MvEntryExchange::partsWithoutEnd_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("components within each other")
+        << QByteArray("BEGIN:A\n").repeated(20000) + QByteArray("END:B\n").repeated(20000);
+    QTest::newRow("one name, thousands of rules")
+        << QByteArray("BEGIN:VEVENT\nUID:1\nDTSTART:20270101\nSUMMARY:A\nRRULE:FREQ=DAILY\nEND:VEVENT\n")
+               .repeated(3000);
+}
+
+void tst_MvEntryExchange::partsWithoutEnd()
+{
+    QFETCH(QByteArray, content);
+    const MvEntryReading reading = MvEntryIntake::read("BEGIN:VCALENDAR\n" + content, u"file"_s);
+    QVERIFY(reading.isOk() || reading.error.startsWith(u"file: "));
+    QVERIFY(reading.events.size() + reading.skipped.size() >= content.count("BEGIN:VEVENT"));
+    QCOMPARE(MvEntryIntake::joined({}, reading, nullptr).size(), reading.events.size());
 }
 
 /// Its first line is damaged: what follows is no calendar's, and is not taken beside a message that says so.
