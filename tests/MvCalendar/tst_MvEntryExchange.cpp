@@ -241,7 +241,8 @@ void tst_MvEntryExchange::partsWithoutEnd()
     const MvEntryReading reading = MvEntryIntake::read("BEGIN:VCALENDAR\n" + content, u"file"_s);
     QVERIFY(reading.isOk() || reading.error.startsWith(u"file: "));
     QVERIFY(reading.events.size() + reading.skipped.size() >= content.count("BEGIN:VEVENT"));
-    QCOMPARE(MvEntryIntake::joined({}, reading, nullptr).size(), reading.events.size());
+    MvEntryIntake::Report report;
+    QCOMPARE(MvEntryIntake::joined(reading.events, reading, &report).size(), reading.events.size());
 }
 
 /// Its first line is damaged: what follows is no calendar's, and is not taken beside a message that says so.
