@@ -35,6 +35,11 @@ using Object = QPDFObjectHandle;
 class Content : public QPDFObjectHandle::ParserCallbacks
 {
 public:
+    /// Without owners nothing of it is read, whatever its numbers.
+    explicit Content(bool hasOwners)
+        : m_hasOwners(hasOwners)
+    {}
+
     void handleObject(Object object, size_t, size_t) override
     {
         if (!object.isOperator()) {
@@ -44,18 +49,14 @@ public:
         static const std::set<std::string> painting{"f", "f*", "S", "sh", "Do", "Tj", "TJ", "B", "B*"};
         const std::string name = object.getOperatorValue();
         if (name == "BDC" || name == "BMC") {
-            const bool isPart = m_last.isDictionary() && m_last.hasKey("/MCID");
+            const bool isPart = m_hasOwners && m_last.isDictionary() && m_last.hasKey("/MCID");
             const bool isDecoration = m_last.isName() && m_last.getName() == "/Artifact";
             m_open.append(isPart || isDecoration);
             if (isPart && m_last.getKey("/MCID").getIntValue() != parts++)
                 problems.append(u"numbers do not rise"_s);
         } else if (name == "EMC") {
             m_open.isEmpty() ? problems.append(u"one end too many"_s) : m_open.removeLast();
-        } else if (name == "Do" && isPage(m_last)) {
-            if (m_open.contains(true))
-                problems.append(u"a page within a part"_s);
-            pages.append(m_last.getName().c_str());
-        } else if (painting.contains(name) && m_open.count(true) != 1) {
+        } else if (painting.contains(name) && (m_hasOwners ? m_open.count(true) != 1 : !m_open.contains(true))) {
             problems.append(u"%1 is in %2 parts"_s.arg(QString::fromStdString(name)).arg(m_open.count(true)));
         }
     }
@@ -66,12 +67,10 @@ public:
     }
 
     int parts = 0;
-    QByteArrayList pages; // of a sheet
     QStringList problems;
 
 private:
-    static bool isPage(Object name) { return name.isName() && name.getName()[1] == 'P'; }
-
+    const bool m_hasOwners;
     Object m_last = Object::newNull();
     QList<bool> m_open;
 };
@@ -91,16 +90,9 @@ public:
         walk(root.getKey("/K"), root);
         QPDFNumberTreeObjectHelper owners(root.getKey("/ParentTree"), m_pdf);
         for (QPDFPageObjectHelper &page : QPDFPageDocumentHelper(m_pdf).getAllPages()) {
-            Content content;
+            Content content(page.getObjectHandle().hasKey("/StructParents"));
             page.parseContents(&content);
-            checkOwners(content, page.getObjectHandle(), page.getObjectHandle().getObjectID(), owners);
-            Object forms = page.getAttribute("/Resources", false).getKey("/XObject");
-            for (const QByteArray &name : content.pages) {
-                Object form = forms.getKey(name.toStdString());
-                Content onSheet;
-                form.parseAsContents(&onSheet);
-                checkOwners(onSheet, form.getDict(), form.getObjectID(), owners);
-            }
+            checkOwners(content, page.getObjectHandle(), owners);
         }
     }
 
@@ -120,18 +112,16 @@ public:
     QStringList boxes; ///< of pictures
 
 private:
-    void checkOwners(const Content &content, Object holder, int object, QPDFNumberTreeObjectHelper &owners)
+    void checkOwners(const Content &content, Object page, QPDFNumberTreeObjectHelper &owners)
     {
         problems += content.problems;
         Object own = Object::newArray();
-        if (holder.hasKey("/StructParents"))
-            owners.findObject(holder.getKey("/StructParents").getIntValue(), own);
+        if (page.hasKey("/StructParents"))
+            owners.findObject(page.getKey("/StructParents").getIntValue(), own);
         if (own.getArrayNItems() != content.parts)
             problems.append(u"owners of %1 parts for %2"_s.arg(own.getArrayNItems()).arg(content.parts));
-        if (content.parts > 0 && !m_read.insert(object).second)
-            problems.append(u"parts that are there twice"_s);
         for (int part = 0; part < content.parts; ++part) {
-            if (m_owners[{object, part}] != own.getArrayItem(part).getObjectID())
+            if (m_owners[{page.getObjectID(), part}] != own.getArrayItem(part).getObjectID())
                 problems.append(u"part %1 has another owner"_s.arg(part));
         }
     }
@@ -160,10 +150,7 @@ private:
                 m_texts[{number, key}] = QString::fromStdString(element.getKey(key).getUTF8Value());
         }
         for (Object part : inside(element)) {
-            if (part.isDictionary() && part.hasKey("/MCID"))
-                m_owners[{part.getKey("/Stm").getObjectID(), int(part.getKey("/MCID").getIntValue())}] =
-                    element.getObjectID();
-            else if (part.isDictionary())
+            if (part.isDictionary())
                 walk(part, element);
             else if (part.isInteger())
                 m_owners[{element.getKey("/Pg").getObjectID(), int(part.getIntValue())}] = element.getObjectID();
@@ -202,8 +189,7 @@ private:
     }
 
     QPDF m_pdf;
-    std::set<int> m_read;
-    std::map<std::pair<int, int>, int> m_owners;               // by page or its form, and number
+    std::map<std::pair<int, int>, int> m_owners;               // by page and number
     std::map<std::pair<size_t, std::string>, QString> m_texts; // by element and key
 };
 

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <set>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -217,6 +218,12 @@ void tst_MvSheets::tilesLaidTogether()
         QVERIFY(tile.copy(name) != tile.copy(name.translated(0, 40)));
     }
     painter.end();
+    QPDF pdf;
+    pdf.processFile(file.toLocal8Bit().constData());
+    std::set<QPDFObjGen> contents; // of the page, between what places it and what stands beside it
+    for (QPDFPageObjectHelper &tile : QPDFPageDocumentHelper(pdf).getAllPages())
+        contents.insert(tile.getPageContents().at(1).getObjGen());
+    QCOMPARE(int(contents.size()), 1);
     int different = 0; // in the middle of the fields: their edges lie between dots
     for (int y = 20; y < laid.height(); y += 50)
         for (int x = 20; x < laid.width(); x += 50)

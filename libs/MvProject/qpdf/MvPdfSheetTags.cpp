@@ -7,6 +7,7 @@
 
 #include <qpdf/Pl_Buffer.hh>
 #include <qpdf/QPDF.hh>
+#include <qpdf/QPDFNumberTreeObjectHelper.hh>
 #include <qpdf/QPDFTokenizer.hh>
 
 namespace {
@@ -33,61 +34,68 @@ void moveBox(Object element, const QTransform &toSheet)
     element.replaceKey("/A", attributes);
 }
 
-/// Makes decoration of marked content that has a number.
-class Unnumbered : public Object::TokenFilter
+/// Raises the numbers of marked content.
+class Raised : public Object::TokenFilter
 {
 public:
+    explicit Raised(int by)
+        : m_by(by)
+    {}
+
     void handleToken(const QPDFTokenizer::Token &token) override
     {
         using Type = QPDFTokenizer::token_type_e;
-        const bool isWord = token.getType() == Type::tt_word;
-        m_operands += token.getRawValue();
-        m_hasNumber = m_hasNumber || (token.getType() == Type::tt_name && token.getValue() == "/MCID");
-        if (!isWord)
-            return;
-        if (m_hasNumber && token.getValue() == "BDC")
-            write("/Artifact BMC");
+        if (m_isNumber && token.getType() == Type::tt_integer)
+            write(std::to_string(std::stoi(token.getValue()) + m_by));
         else
-            write(m_operands);
-        m_operands.clear();
-        m_hasNumber = false;
+            writeToken(token);
+        if (token.getType() != Type::tt_space)
+            m_isNumber = token.getType() == Type::tt_name && token.getValue() == "/MCID";
     }
-    void handleEOF() override { write(m_operands); }
 
 private:
-    std::string m_operands; // of the operator to come
-    bool m_hasNumber = false;
+    const int m_by;
+    bool m_isNumber = false;
 };
 
 } // namespace
 
 MvPdfSheetTags::MvPdfSheetTags(QPDF &pdf)
-    : m_document(Object::newNull())
+    : m_pdf(pdf)
+    , m_root(pdf.getRoot().getKey("/StructTreeRoot"))
 {
-    Object root = pdf.getRoot().getKey("/StructTreeRoot");
-    if (root.isDictionary()) {
-        m_document = root.getKey("/K");
-        m_sections = inside(m_document);
-    }
+    if (!m_root.isDictionary())
+        return;
+    m_sections = inside(m_root.getKey("/K"));
+    for (const auto &[page, owners] : QPDFNumberTreeObjectHelper(m_root.getKey("/ParentTree"), pdf).getAsMap())
+        m_pageOwners.push_back(owners);
 }
 
-void MvPdfSheetTags::move(int page, Object form, const Object &sheet, const QTransform &toSheet)
+int MvPdfSheetTags::move(int page, Object sheet, const QTransform &toSheet)
 {
     if (size_t(page) >= m_sections.size())
-        return;
-    form.getDict().replaceKey("/StructParents", Object::newInteger(page));
-    place(m_sections[size_t(page)], form, sheet, toSheet);
+        return 0;
+    if (!sheet.hasKey("/StructParents")) {
+        sheet.replaceKey("/StructParents", Object::newInteger(int(m_owners.size())));
+        m_owners.push_back(Object::newArray());
+    }
+    Object &owners = m_owners.back();
+    const int raise = owners.getArrayNItems();
+    for (const Object &owner : m_pageOwners[size_t(page)].getArrayAsVector())
+        owners.appendItem(owner);
+    place(m_sections[size_t(page)], sheet, raise, toSheet);
     m_order.push_back(m_sections[size_t(page)]);
+    return raise;
 }
 
-void MvPdfSheetTags::place(Object element, const Object &form, const Object &sheet, const QTransform &toSheet)
+void MvPdfSheetTags::place(Object element, const Object &sheet, int raise, const QTransform &toSheet)
 {
     std::vector<Object> parts = inside(element);
     for (Object &part : parts) {
         if (part.isInteger())
-            part = Object::newDictionary({{"/Type", Object::newName("/MCR")}, {"/Stm", form}, {"/MCID", part}});
+            part = Object::newInteger(part.getIntValue() + raise);
         else if (part.isDictionary())
-            place(part, form, sheet, toSheet);
+            place(part, sheet, raise, toSheet);
     }
     if (element.hasKey("/K"))
         element.replaceKey("/K", parts.size() == 1 ? parts.front() : Object::newArray(parts));
@@ -98,18 +106,23 @@ void MvPdfSheetTags::place(Object element, const Object &form, const Object &she
 
 void MvPdfSheetTags::finish()
 {
-    if (!m_order.empty())
-        m_document.replaceKey("/K", Object::newArray(m_order));
+    if (m_order.empty())
+        return;
+    m_root.getKey("/K").replaceKey("/K", Object::newArray(m_order));
+    Object numbers = Object::newArray();
+    for (size_t sheet = 0; sheet < m_owners.size(); ++sheet) {
+        numbers.appendItem(Object::newInteger(int(sheet)));
+        numbers.appendItem(m_owners[sheet]);
+    }
+    m_root.replaceKey("/ParentTree", m_pdf.makeIndirectObject(Object::newDictionary({{"/Nums", numbers}})));
+    m_root.replaceKey("/ParentTreeNextKey", Object::newInteger(int(m_owners.size())));
 }
 
-Object MvPdfSheetTags::withoutNumbers(QPDF &pdf, Object form)
+Object MvPdfSheetTags::raised(QPDF &pdf, Object content, int by)
 {
-    Unnumbered filter;
-    Pl_Buffer content("content");
-    form.filterAsContents(&filter, &content);
-    content.finish();
-    Object copy = Object::newStream(&pdf, content.getBufferSharedPointer());
-    copy.replaceDict(form.getDict().shallowCopy());
-    copy.getDict().removeKey("/StructParents");
-    return copy;
+    Raised filter(by);
+    Pl_Buffer commands("content");
+    content.filterAsContents(&filter, &commands);
+    commands.finish();
+    return Object::newStream(&pdf, commands.getBufferSharedPointer());
 }

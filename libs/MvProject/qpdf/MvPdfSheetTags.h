@@ -17,21 +17,24 @@ public:
     /// The PDF outlives it; a file without a structure stays without one.
     explicit MvPdfSheetTags(QPDF &pdf);
 
-    /// The page, counted from 0, is read where the form shows it on the sheet; the transformation is that of points of
-    /// the page. Once for a page: what else shows it must carry no numbers of marked content (withoutNumbers()).
-    void move(int page, QPDFObjectHandle form, const QPDFObjectHandle &sheet, const QTransform &toSheet);
+    /// The page, counted from 0, is read from the sheet whose content it becomes; the transformation is that of points
+    /// of the page. Gives by how much the numbers of its marked content must be raised there. Once for a page, and all
+    /// of a sheet one after the other; a sheet that is none of these has no numbers that mean anything.
+    int move(int page, QPDFObjectHandle sheet, const QTransform &toSheet);
 
     /// The order in which pages were moved becomes the one in which they are read.
     void finish();
 
-    /// A form that looks the same and is decoration.
-    static QPDFObjectHandle withoutNumbers(QPDF &pdf, QPDFObjectHandle form);
+    /// The same content with higher numbers.
+    static QPDFObjectHandle raised(QPDF &pdf, QPDFObjectHandle content, int by);
 
 private:
-    void place(QPDFObjectHandle element, const QPDFObjectHandle &form, const QPDFObjectHandle &sheet,
-               const QTransform &toSheet);
+    static void place(QPDFObjectHandle element, const QPDFObjectHandle &sheet, int raise, const QTransform &toSheet);
 
-    QPDFObjectHandle m_document;
+    QPDF &m_pdf;
+    QPDFObjectHandle m_root;
     std::vector<QPDFObjectHandle> m_sections; // by page
+    std::vector<QPDFObjectHandle> m_pageOwners;
     std::vector<QPDFObjectHandle> m_order;
+    std::vector<QPDFObjectHandle> m_owners; // by sheet that is read
 };

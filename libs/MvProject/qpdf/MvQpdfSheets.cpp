@@ -119,7 +119,6 @@ public:
         , m_names(names)
         , m_language(language)
         , m_old(m_pages.getAllPages())
-        , m_forms(m_old.size())
     {}
 
     void lay()
@@ -134,57 +133,61 @@ public:
     }
 
 private:
-    /// The page as something to be placed: where it is read, and where it is only seen.
-    struct Form
-    {
-        QPDFObjectHandle read;
-        QPDFObjectHandle seen;
-    };
-
-    /// On the sheet, which is its first one unless it is on another already.
-    QPDFObjectHandle form(const MvSheetPlan::Part &part, const QPDFObjectHandle &sheet)
-    {
-        Form &known = m_forms[size_t(part.page)];
-        if (!known.read.isInitialized()) {
-            known.read = m_pdf.makeIndirectObject(m_old[size_t(part.page)].getFormXObjectForPage());
-            m_tags.move(part.page, known.read, sheet, toSheet(part));
-            return known.read;
-        }
-        if (!known.seen.isInitialized())
-            known.seen = MvPdfSheetTags::withoutNumbers(m_pdf, known.read);
-        return known.seen;
-    }
-
     QPDFObjectHandle sheet(int number)
     {
-        QPDFObjectHandle page = m_pdf.makeIndirectObject(QPDFObjectHandle::newDictionary());
-        QByteArray commands;
-        QByteArray objects;
-        bool isTranslucent = false;
-        QStringList names;
-        for (const MvSheetPlan::Part &part : m_plan.parts(number)) {
-            QPDFObjectHandle placed = form(part, page);
-            const QByteArray name = "/P" + QByteArray::number(part.page);
-            objects += name + ' ' + MvPdfSyntax::reference(placed.getObjectID());
-            isTranslucent = isTranslucent || placed.getDict().hasKey("/Group");
-            commands += "q " + clip(part.place) + matrix(part) + name + " Do Q\n";
-            if (const QString title = m_names.value(part.page); !title.isEmpty())
-                names.append(title);
-            m_firstSheets.try_emplace(m_old[size_t(part.page)].getObjectHandle().getObjGen(), page);
-        }
-        const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
-        commands += "/Artifact BMC\nq " + unit + " 0 0 " + unit + " 0 0 cm\n" + marks(number) + "Q\n" +
-                    lettering(number, names, objects) + "EMC\n";
         const QSizeF size = m_plan.sheet() * pointsPerTenth;
-        const QByteArray box =
-            "[0 0 " + MvPdfSyntax::number(size.width()) + ' ' + MvPdfSyntax::number(size.height()) + ']';
-        m_pdf.replaceObject(page.getObjGen(),
-                            QPDFObjectHandle::parse(
-                                &m_pdf, ("<</Type/Page/MediaBox" + box + "/Resources<</XObject<<" + objects + ">>>>" +
-                                         (isTranslucent ? "/Group<</S/Transparency/CS/DeviceRGB>>" : "") + ">>")
-                                            .toStdString()));
-        page.replaceKey("/Contents", QPDFObjectHandle::newStream(&m_pdf, commands.toStdString()));
-        return page;
+        QPDFObjectHandle sheet =
+            m_pdf.makeIndirectObject(parsed("<</Type/Page/MediaBox[0 0 " + MvPdfSyntax::number(size.width()) + ' ' +
+                                            MvPdfSyntax::number(size.height()) + "]>>"));
+        QStringList names;
+        QByteArray commands; // since the last page
+        QPDFObjectHandle contents = QPDFObjectHandle::newArray();
+        QPDFObjectHandle resources = QPDFObjectHandle::newDictionary();
+        for (const MvSheetPlan::Part &part : m_plan.parts(number)) {
+            if (const QString name = m_names.value(part.page); !name.isEmpty())
+                names.append(name);
+            lay(part, sheet, commands, contents);
+            resources.mergeResources(m_old[size_t(part.page)].getObjectHandle().getKey("/Resources"));
+        }
+        QByteArray letters;
+        commands += besidePages(number, names, letters);
+        contents.appendItem(stream(commands));
+        resources.mergeResources(parsed("<</XObject<<" + letters + ">>>>"));
+        sheet.replaceKey("/Contents", contents);
+        sheet.replaceKey("/Resources", resources);
+        return sheet;
+    }
+
+    /// The page's content is that of all sheets that show a part of it: read on the first of them, decoration on the
+    /// others.
+    void lay(const MvSheetPlan::Part &part, QPDFObjectHandle sheet, QByteArray &commands, QPDFObjectHandle contents)
+    {
+        QPDFObjectHandle page = m_old[size_t(part.page)].getObjectHandle();
+        QPDFObjectHandle content = page.getKey("/Contents");
+        const bool isRead = m_firstSheets.try_emplace(page.getObjGen(), sheet).second;
+        if (const int raise = isRead ? m_tags.move(part.page, sheet, toSheet(part)) : 0; raise > 0)
+            content = MvPdfSheetTags::raised(m_pdf, content, raise);
+        commands += (isRead ? "q " : "/Artifact BMC\nq ") + clip(part.place) + matrix(part);
+        contents.appendItem(stream(commands));
+        contents.appendItem(content);
+        commands = isRead ? "Q\n" : "Q\nEMC\n";
+        if (page.hasKey("/Group"))
+            sheet.replaceKey("/Group", page.getKey("/Group"));
+    }
+
+    QPDFObjectHandle stream(const QByteArray &commands)
+    {
+        return QPDFObjectHandle::newStream(&m_pdf, commands.toStdString());
+    }
+
+    QPDFObjectHandle parsed(const QByteArray &value) { return QPDFObjectHandle::parse(&m_pdf, value.toStdString()); }
+
+    /// Marks and lettering.
+    QByteArray besidePages(int number, const QStringList &names, QByteArray &objects)
+    {
+        const QByteArray unit = MvPdfSyntax::number(1.0 / unitsPerPoint);
+        return "/Artifact BMC\nq " + unit + " 0 0 " + unit + " 0 0 cm\n" + marks(number) + "Q\n" +
+               lettering(number, names, objects) + "EMC\n";
     }
 
     QByteArray clip(const QRectF &place) const
@@ -282,7 +285,6 @@ private:
     MvPdfSheetTags m_tags{m_pdf};
     Letters m_letters{m_pdf};
     std::vector<QPDFPageObjectHelper> m_old;
-    std::vector<Form> m_forms;
     std::map<QPDFObjGen, QPDFObjectHandle> m_firstSheets; // by page
 };
 
