@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarBorderType.h"
@@ -28,57 +29,50 @@ private Q_SLOTS:
 
 void tst_CalendarVocabulary::decodes_data()
 {
-    QTest::addColumn<int>("decoded");
-    QTest::addColumn<int>("value");
-    QTest::newRow("blanks, case and empty parts")
-        << MvCalendarRenderingInformation(u"calendar_render_title,  CALENDAR_render_DAYS ,,"_s).toInt() << (256 | 512);
-    QTest::newRow("union of the comment bits")
-        << MvCalendarRenderingInformation(u"calendar_render_comments"_s).toInt() << 0xF0000;
-    QTest::newRow("misspelt border") << MvCalendarBorderType(u"CALENDER_BORDER_ALL"_s).toInt() << 15;
-    QTest::newRow("both spellings together")
-        << MvCalendarBorderType(u"CALENDAR_BORDER_LEFT,CALENDER_BORDER_TOP"_s).toInt() << 5;
-    QTest::newRow("second name of a cell type")
-        << MvCalendarCellType(u"CALENDAR_CELL_TYPE_HEAD_EMPTY"_s).toInt() << 2048;
-    QTest::newRow("unknown cell type") << MvCalendarCellType(u"CALENDAR_CELL_TYPE_MOON"_s).toInt() << 0;
-    QTest::newRow("unknown parity is both") << MvParityLogic(u"gerade"_s).toInt() << 3;
-    QTest::newRow("no parity") << MvParityLogic(QString()).toInt() << 0;
-    QTest::newRow("unknown role") << MvCalendarCellColorRole(u"shadow"_s).toInt() << 0;
-    QTest::newRow("feature without a name") << MvCalendarFeatureType(u"articleVariants"_s).toInt() << 0;
-    QTest::newRow("calendarium type") << MvCalendariumType(u"calendar_one_week_per_row"_s).toInt() << 1;
+    const MvRows<int, int> row; // decoded, value
+    row("blanks, case and empty parts",
+        MvCalendarRenderingInformation(u"calendar_render_title,  CALENDAR_render_DAYS ,,"_s).toInt(), (256 | 512));
+    row("union of the comment bits", MvCalendarRenderingInformation(u"calendar_render_comments"_s).toInt(), 0xF0000);
+    row("misspelt border", MvCalendarBorderType(u"CALENDER_BORDER_ALL"_s).toInt(), 15);
+    row("both spellings together", MvCalendarBorderType(u"CALENDAR_BORDER_LEFT,CALENDER_BORDER_TOP"_s).toInt(), 5);
+    row("second name of a cell type", MvCalendarCellType(u"CALENDAR_CELL_TYPE_HEAD_EMPTY"_s).toInt(), 2048);
+    row("unknown cell type", MvCalendarCellType(u"CALENDAR_CELL_TYPE_MOON"_s).toInt(), 0);
+    row("unknown parity is both", MvParityLogic(u"gerade"_s).toInt(), 3);
+    row("no parity", MvParityLogic(QString()).toInt(), 0);
+    row("unknown role", MvCalendarCellColorRole(u"shadow"_s).toInt(), 0);
+    row("feature without a name", MvCalendarFeatureType(u"articleVariants"_s).toInt(), 0);
+    row("calendarium type", MvCalendariumType(u"calendar_one_week_per_row"_s).toInt(), 1);
 }
 
 void tst_CalendarVocabulary::decodes()
 {
-    QFETCH(int, decoded);
-    QTEST(decoded, "value");
+    const auto [decoded, value] = MvRows<int, int>::current();
+    QCOMPARE(decoded, value);
 }
 
 void tst_CalendarVocabulary::encodes_data()
 {
-    QTest::addColumn<QString>("encoded");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("all sides singly")
-        << MvCalendarBorderType(CALENDAR_BORDER_ALL).encodeCSV()
-        << u"CALENDAR_BORDER_LEFT, CALENDAR_BORDER_RIGHT, CALENDAR_BORDER_TOP, CALENDAR_BORDER_BOTTOM"_s;
-    QTest::newRow("all sides as a whole") << MvCalendarBorderType(15).encode() << u"CALENDAR_BORDER_ALL"_s;
-    QTest::newRow("first name wins") << MvCalendarCellType(CALENDAR_CELL_TYPE_HEAD_EMPTY).encode()
-                                     << u"CALENDAR_CELL_TYPE_TOPLINE"_s;
-    QTest::newRow("nothing as a set") << MvCalendarRenderingInformation(0).encodeCSV() << QString();
-    QTest::newRow("nothing by name") << MvCalendarRenderingInformation(0).encode() << u"calendar_render_nothing"_s;
-    QTest::newRow("bit without a name") << MvCalendarRenderingInformation(2 | 4 | 16).encodeCSV()
-                                        << u"calendar_render_year_short, , calendar_render_month_number"_s;
-    QTest::newRow("set of types has no name") << MvCalendarCellType(3).encode() << QString();
-    QTest::newRow("parity as a whole") << MvParityLogic(3).encode() << u"both"_s;
-    QTest::newRow("feature without a name") << MvCalendarFeatureType(128).encodeCSV() << QString();
-    QTest::newRow("which is shown") << MvCalendarFeatureType(128).visibleName() << u"Artickelvarianten"_s;
-    QTest::newRow("role keys") << MvCalendarCellColorRole(1).evenKey() + u' ' + MvCalendarCellColorRole(2).oddKey()
-                               << u"bgcoloreven textcolorodd"_s;
+    const MvRows<QString, QString> row; // encoded, text
+    row("all sides singly", MvCalendarBorderType(CALENDAR_BORDER_ALL).encodeCSV(),
+        u"CALENDAR_BORDER_LEFT, CALENDAR_BORDER_RIGHT, CALENDAR_BORDER_TOP, CALENDAR_BORDER_BOTTOM"_s);
+    row("all sides as a whole", MvCalendarBorderType(15).encode(), u"CALENDAR_BORDER_ALL"_s);
+    row("first name wins", MvCalendarCellType(CALENDAR_CELL_TYPE_HEAD_EMPTY).encode(), u"CALENDAR_CELL_TYPE_TOPLINE"_s);
+    row("nothing as a set", MvCalendarRenderingInformation(0).encodeCSV(), QString());
+    row("nothing by name", MvCalendarRenderingInformation(0).encode(), u"calendar_render_nothing"_s);
+    row("bit without a name", MvCalendarRenderingInformation(2 | 4 | 16).encodeCSV(),
+        u"calendar_render_year_short, , calendar_render_month_number"_s);
+    row("set of types has no name", MvCalendarCellType(3).encode(), QString());
+    row("parity as a whole", MvParityLogic(3).encode(), u"both"_s);
+    row("feature without a name", MvCalendarFeatureType(128).encodeCSV(), QString());
+    row("which is shown", MvCalendarFeatureType(128).visibleName(), u"Artickelvarianten"_s);
+    row("role keys", MvCalendarCellColorRole(1).evenKey() + u' ' + MvCalendarCellColorRole(2).oddKey(),
+        u"bgcoloreven textcolorodd"_s);
 }
 
 void tst_CalendarVocabulary::encodes()
 {
-    QFETCH(QString, encoded);
-    QTEST(encoded, "text");
+    const auto [encoded, text] = MvRows<QString, QString>::current();
+    QCOMPARE(encoded, text);
 }
 
 void tst_CalendarVocabulary::bareWrapperDoesNotPublishAnEmptyTable()
@@ -104,29 +98,25 @@ void tst_CalendarVocabulary::everyNamedCellTypeHasADisplayName()
 
 void tst_CalendarVocabulary::expandsToInvisibleCells_data()
 {
-    QTest::addColumn<int>("set");
-    QTest::addColumn<int>("visible");
-    QTest::addColumn<int>("expanded");
+    const MvRows<int, int, int> row; // set, visible, expanded
     const int all = MvCalendarCellType::allTypes().toInt();
     const int onTheirOwn = CALENDAR_CELL_TYPE_SPECIAL_DAY | CALENDAR_CELL_TYPE_COMMENT | CALENDAR_CELL_TYPE_EMPTY |
                            CALENDAR_CELL_TYPE_EXTRA_INFORMATION;
-    QTest::newRow("a weekday brings nearly all") << int(CALENDAR_CELL_TYPE_WEEKDAY) << 0 << (all & ~onTheirOwn);
-    QTest::newRow("Sunday alone") << int(CALENDAR_CELL_TYPE_SUNDAY) << 0
-                                  << (CALENDAR_CELL_TYPE_SUNDAY | CALENDAR_CELL_TYPE_HEAD_SUNDAY |
-                                      CALENDAR_CELL_TYPE_HOLIDAY | CALENDAR_CELL_TYPE_HEAD_HOLIDAY);
-    QTest::newRow("visible types stay out and trigger nothing")
-        << int(CALENDAR_CELL_TYPE_SUNDAY) << int(CALENDAR_CELL_TYPE_HEAD_SUNDAY)
-        << (CALENDAR_CELL_TYPE_SUNDAY | CALENDAR_CELL_TYPE_HOLIDAY);
-    QTest::newRow("no trigger") << int(CALENDAR_CELL_TYPE_COMMENT) << 0 << int(CALENDAR_CELL_TYPE_COMMENT);
+    row("a weekday brings nearly all", int(CALENDAR_CELL_TYPE_WEEKDAY), 0, (all & ~onTheirOwn));
+    row("Sunday alone", int(CALENDAR_CELL_TYPE_SUNDAY), 0,
+        (CALENDAR_CELL_TYPE_SUNDAY | CALENDAR_CELL_TYPE_HEAD_SUNDAY | CALENDAR_CELL_TYPE_HOLIDAY |
+         CALENDAR_CELL_TYPE_HEAD_HOLIDAY));
+    row("visible types stay out and trigger nothing", int(CALENDAR_CELL_TYPE_SUNDAY),
+        int(CALENDAR_CELL_TYPE_HEAD_SUNDAY), (CALENDAR_CELL_TYPE_SUNDAY | CALENDAR_CELL_TYPE_HOLIDAY));
+    row("no trigger", int(CALENDAR_CELL_TYPE_COMMENT), 0, int(CALENDAR_CELL_TYPE_COMMENT));
 }
 
 void tst_CalendarVocabulary::expandsToInvisibleCells()
 {
-    QFETCH(int, set);
-    QFETCH(int, visible);
+    const auto [set, visible, expanded] = MvRows<int, int, int>::current();
     MvCalendarCellType type(set);
     type.expandToInvisibleCells(MvCalendarCellType(visible));
-    QTEST(type.toInt(), "expanded");
+    QCOMPARE(type.toInt(), expanded);
 }
 
 MV_TEST_MAIN(tst_CalendarVocabulary)

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPageFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
-
-#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
@@ -78,70 +77,55 @@ private Q_SLOTS:
 
 void tst_CalendariumKinds::write_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("info");
-    QTest::addColumn<QDate>("month");
-    QTest::addColumn<int>("features");
-    QTest::addColumn<QString>("beginning"); // of all texts
-    QTest::addColumn<int>("count");
+    // beginning: of all texts
+    const MvRows<QString, QString, QDate, int, QString, int> newRow;
     const int holidays = FEATURE_HOLIDAYS | FEATURE_HOLIDAY_COLORS | FEATURE_SCHOOL_VACATIONS;
-    QTest::newRow("row: no names of holidays")
-        << row << both << may << holidays << u" Mai 2027,Sa,1,So,2,Mo,3"_s << 1 + 2 * 31;
-    QTest::newRow("row: numbers alone") << row << plain << may << holidays << u"1,2,3"_s << 31;
-    QTest::newRow("grid: week 53, three days, week 1")
-        << grid << both + weeks << january << int(FEATURE_CALENDAR_WEEKS)
-        << u" Januar 2027,KW,Montag,Dienstag,Mittwoch,Donnerstag,Freitag,Samstag,Sonntag,53,1,2,3,1,4"_s
-        << 1 + 8 + 5 + 31;
-    QTest::newRow("grid: numbers alone, six weeks in February")
-        << grid << u"calendar_render_no_texts"_s << february << (holidays | FEATURE_ENTRIES) << u"1,2,3"_s << 28;
-    QTest::newRow("two weeks: short heads")
-        << twoWeeks << both << january << 0 << u" Januar 2027,Mo,Di,Mi,Do,Fr,Sa,So,Mo,Di,Mi,Do,Fr,Sa,So,1,2"_s
-        << 1 + 14 + 31;
-    QTest::newRow("columns: week, heads beside days") << columns << heads << january << int(FEATURE_CALENDAR_WEEKS)
-                                                      << u"53,Mo,Di,Mi,Do,Fr,1,Sa,2,So,3,1,Mo,4"_s << 5 + 5 * 7 + 31;
-    QTest::newRow("columns: heads in front") << columns << inFront << february << int(FEATURE_CALENDAR_WEEKS)
-                                             << u"Mo,Di,Mi,Do,Fr,Sa,So,5,01,02"_s << 7 + 4 + 28;
-    QTest::newRow("columns: numbers alone, where there is room for names")
-        << columns << inFront << may << holidays << u"Mo,Di"_s << 7 + 31;
-    QTest::newRow("columns: only who is asked shows weeks")
-        << columns << plain + weeks << february << 0 << u"1,2"_s << 28;
+    newRow("row: no names of holidays", row, both, may, holidays, u" Mai 2027,Sa,1,So,2,Mo,3"_s, 1 + 2 * 31);
+    newRow("row: numbers alone", row, plain, may, holidays, u"1,2,3"_s, 31);
+    newRow("grid: week 53, three days, week 1", grid, both + weeks, january, int(FEATURE_CALENDAR_WEEKS),
+           u" Januar 2027,KW,Montag,Dienstag,Mittwoch,Donnerstag,Freitag,Samstag,Sonntag,53,1,2,3,1,4"_s,
+           1 + 8 + 5 + 31);
+    newRow("grid: numbers alone, six weeks in February", grid, u"calendar_render_no_texts"_s, february,
+           (holidays | FEATURE_ENTRIES), u"1,2,3"_s, 28);
+    newRow("two weeks: short heads", twoWeeks, both, january, 0,
+           u" Januar 2027,Mo,Di,Mi,Do,Fr,Sa,So,Mo,Di,Mi,Do,Fr,Sa,So,1,2"_s, 1 + 14 + 31);
+    newRow("columns: week, heads beside days", columns, heads, january, int(FEATURE_CALENDAR_WEEKS),
+           u"53,Mo,Di,Mi,Do,Fr,1,Sa,2,So,3,1,Mo,4"_s, 5 + 5 * 7 + 31);
+    newRow("columns: heads in front", columns, inFront, february, int(FEATURE_CALENDAR_WEEKS),
+           u"Mo,Di,Mi,Do,Fr,Sa,So,5,01,02"_s, 7 + 4 + 28);
+    newRow("columns: numbers alone, where there is room for names", columns, inFront, may, holidays, u"Mo,Di"_s,
+           7 + 31);
+    newRow("columns: only who is asked shows weeks", columns, plain + weeks, february, 0, u"1,2"_s, 28);
     for (const QString &other : {QString(), u"CALENDAR_MONTH_ONLY, CALENDAR_YEAR"_s})
-        QTest::addRow("no kind: \"%s\"", qPrintable(other)) << other << title << may << 0 << u"Mai 2027"_s << 1;
-    QTest::newRow("day list: numbers alone") << dayList << plain << may << 0 << u" 1 , 2 "_s << 31;
+        newRow(QString::asprintf("no kind: \"%s\"", qPrintable(other)), other, title, may, 0, u"Mai 2027"_s, 1);
+    newRow("day list: numbers alone", dayList, plain, may, 0, u" 1 , 2 "_s, 31);
 }
 
 void tst_CalendariumKinds::write()
 {
-    QFETCH(QString, type);
-    QFETCH(QString, info);
-    QFETCH(QDate, month);
-    QFETCH(int, features);
-    QFETCH(QString, beginning);
+    const auto [type, info, month, features, beginning, count] =
+        MvRows<QString, QString, QDate, int, QString, int>::current();
     MvPageFixture page(appearanceOf(type, info), month, features);
     const QStringList texts = MvPageFixture::texts(page.render({0, 0, 3100, 1750}));
     QCOMPARE(texts.mid(0, beginning.count(u',') + 1).join(u','), beginning);
-    QTEST(int(texts.size()), "count");
+    QCOMPARE(int(texts.size()), count);
     QVERIFY(page.renderer().unfittingTexts().isEmpty());
 }
 
 void tst_CalendariumKinds::columnsOfTheDayList_data()
 {
-    QTest::addColumn<QString>("headers");
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<bool>("hasTopLine");
-    QTest::newRow("none") << QString() << 1 << false;
-    QTest::newRow("nothing but separators") << u"$$$$"_s << 1 << false;
-    QTest::newRow("the heading 1 is none") << u"1"_s << 1 << false;
-    QTest::newRow("one") << u"Mama"_s << 1 << true;
-    QTest::newRow("ten") << headings(10) << 10 << true;
-    QTest::newRow("more than ten: the last ones are beyond") << headings(12) << 10 << true;
+    const MvRows<QString, int, bool> row; // headers, columns, hasTopLine
+    row("none", QString(), 1, false);
+    row("nothing but separators", u"$$$$"_s, 1, false);
+    row("the heading 1 is none", u"1"_s, 1, false);
+    row("one", u"Mama"_s, 1, true);
+    row("ten", headings(10), 10, true);
+    row("more than ten: the last ones are beyond", headings(12), 10, true);
 }
 
 void tst_CalendariumKinds::columnsOfTheDayList()
 {
-    QFETCH(QString, headers);
-    QFETCH(int, columns);
-    QFETCH(bool, hasTopLine);
+    const auto [headers, columns, hasTopLine] = MvRows<QString, int, bool>::current();
     MvPageFixture page(appearanceOf(dayList, plain, headers), may, 0);
     QSignalSpy titleLine(&page.renderer(), &MvCalendariumRenderer::hasTitleLineMayHaveChanged);
     const MvPaintRecording recording = page.render({100, 30, 2000 + number, (31 + hasTopLine) * 70.0});

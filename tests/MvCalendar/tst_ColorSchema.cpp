@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -102,102 +103,86 @@ private Q_SLOTS:
 
 void tst_ColorSchema::readsCells_data()
 {
-    QTest::addColumn<QString>("cells");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("evenBackground");
-    QTest::addColumn<QString>("oddText");
+    const MvRows<QString, int, QString, QString> row; // cells, type, evenBackground, oddText
     const QString defaults = u"<celldefault bgcolor='#102030' textcolor='#405060'/>"_s;
-    QTest::newRow("one attribute for both parities")
-        << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/>"_s << 8 << u"#ffff0000"_s << u"#ff000000"_s;
-    QTest::newRow("two attributes")
-        << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcoloreven='#80ff0000' textcolorodd='blue'/>"_s << 8
-        << u"#80ff0000"_s << u"#ff0000ff"_s;
-    QTest::newRow("defaults of the schema")
-        << defaults << int(CALENDAR_CELL_TYPE_MONTH) << u"#ff102030"_s << u"#ff405060"_s;
-    QTest::newRow("missing role takes the schema's default")
-        << defaults + u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/>"_s << 8 << u"#ffff0000"_s
-        << u"#ff405060"_s;
-    QTest::newRow("several types in one element")
-        << u"<cell type='CALENDAR_CELL_TYPE_TITLE, CALENDAR_CELL_TYPE_YEAR' bgcolor='#00ff00'/>"_s
-        << int(CALENDAR_CELL_TYPE_YEAR) << u"#ff00ff00"_s << u"#ff000000"_s;
-    QTest::newRow("vacations take the colours of Saturdays")
-        << u"<cell type='CALENDAR_CELL_TYPE_SATURDAY' bgcolor='#00ff00'/>"_s << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
-        << u"#ff00ff00"_s << u"#ff000000"_s;
-    QTest::newRow("holidays do not") << u"<cell type='CALENDAR_CELL_TYPE_SATURDAY' bgcolor='#00ff00'/>"_s
-                                     << int(CALENDAR_CELL_TYPE_HOLIDAY) << u"#00000000"_s << u"#ff000000"_s;
-    QTest::newRow("heads of vacations those of heads of Saturdays")
-        << u"<cell type='CALENDAR_CELL_TYPE_HEAD_SATURDAY' bgcolor='#00ff00'/>"_s
-        << int(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION) << u"#ff00ff00"_s << u"#ff000000"_s;
-    QTest::newRow("heads of holidays those of heads of Sundays")
-        << u"<cell type='CALENDAR_CELL_TYPE_HEAD_SUNDAY' bgcolor='#00ff00'/>"_s << int(CALENDAR_CELL_TYPE_HEAD_HOLIDAY)
-        << u"#ff00ff00"_s << u"#ff000000"_s;
-    QTest::newRow("no colour at all") << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='rot'/>"_s << 8
-                                      << u"#00000000"_s << u"#ff000000"_s;
+    row("one attribute for both parities", u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/>"_s, 8,
+        u"#ffff0000"_s, u"#ff000000"_s);
+    row("two attributes", u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcoloreven='#80ff0000' textcolorodd='blue'/>"_s, 8,
+        u"#80ff0000"_s, u"#ff0000ff"_s);
+    row("defaults of the schema", defaults, int(CALENDAR_CELL_TYPE_MONTH), u"#ff102030"_s, u"#ff405060"_s);
+    row("missing role takes the schema's default",
+        defaults + u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/>"_s, 8, u"#ffff0000"_s, u"#ff405060"_s);
+    row("several types in one element",
+        u"<cell type='CALENDAR_CELL_TYPE_TITLE, CALENDAR_CELL_TYPE_YEAR' bgcolor='#00ff00'/>"_s,
+        int(CALENDAR_CELL_TYPE_YEAR), u"#ff00ff00"_s, u"#ff000000"_s);
+    row("vacations take the colours of Saturdays", u"<cell type='CALENDAR_CELL_TYPE_SATURDAY' bgcolor='#00ff00'/>"_s,
+        int(CALENDAR_CELL_TYPE_SCHOOL_VACATION), u"#ff00ff00"_s, u"#ff000000"_s);
+    row("holidays do not", u"<cell type='CALENDAR_CELL_TYPE_SATURDAY' bgcolor='#00ff00'/>"_s,
+        int(CALENDAR_CELL_TYPE_HOLIDAY), u"#00000000"_s, u"#ff000000"_s);
+    row("heads of vacations those of heads of Saturdays",
+        u"<cell type='CALENDAR_CELL_TYPE_HEAD_SATURDAY' bgcolor='#00ff00'/>"_s,
+        int(CALENDAR_CELL_TYPE_HEAD_SCHOOL_VACATION), u"#ff00ff00"_s, u"#ff000000"_s);
+    row("heads of holidays those of heads of Sundays",
+        u"<cell type='CALENDAR_CELL_TYPE_HEAD_SUNDAY' bgcolor='#00ff00'/>"_s, int(CALENDAR_CELL_TYPE_HEAD_HOLIDAY),
+        u"#ff00ff00"_s, u"#ff000000"_s);
+    row("no colour at all", u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='rot'/>"_s, 8, u"#00000000"_s,
+        u"#ff000000"_s);
 }
 
 void tst_ColorSchema::readsCells()
 {
-    QFETCH(QString, cells);
-    QFETCH(int, type);
+    const auto [cells, type, evenBackground, oddText] = MvRows<QString, int, QString, QString>::current();
     const MvCalendariumColorSchema read = schema(cells);
     QVERIFY(read.isValid());
-    QTEST(hex(read.cellColor({background, MvCalendarCellType(type), even})), "evenBackground");
-    QTEST(hex(read.cellColor({text, MvCalendarCellType(type), odd})), "oddText");
+    QCOMPARE(hex(read.cellColor({background, MvCalendarCellType(type), even})), evenBackground);
+    QCOMPARE(hex(read.cellColor({text, MvCalendarCellType(type), odd})), oddText);
     QCOMPARE(read.cellColors().usedCellTypes(), MvCalendarCellType::allTypes());
     QCOMPARE(read.cellColor({background, MvCalendarCellType(type), both}), QColor(Qt::transparent)); // not a single key
 }
 
 void tst_ColorSchema::grid_data()
 {
-    QTest::addColumn<QString>("attributes");
-    QTest::addColumn<QString>("children");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QString>("color");
+    const MvRows<QString, QString, bool, QString> row; // attributes, children, enabled, color
     const QString border = u"<border enabled='%1' color='#112233' width='3'/>"_s;
     const QString cell = u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' %1/>"_s;
-    QTest::newRow("border") << QString() << border.arg(u"true"_s) << true << u"#ff112233"_s;
-    QTest::newRow("a disabled border is the default one")
-        << QString() << border.arg(u"false"_s) << false << u"#ff000000"_s;
-    QTest::newRow("nothing") << QString() << QString() << false << u"#ff000000"_s;
-    QTest::newRow("old colour") << u"gridcolor='#aabbcc'"_s << QString() << true << u"#ffaabbcc"_s;
-    QTest::newRow("old transparent colour") << u"gridcolor='transparent'"_s << QString() << false << u"#00000000"_s;
-    QTest::newRow("switched off by the user")
-        << u"gridcolor='#aabbcc' userGridVisible='false'"_s << QString() << false << u"#ffaabbcc"_s;
-    QTest::newRow("recoloured by the user")
-        << u"gridcolor='#aabbcc' userGridColor='#010203'"_s << QString() << true << u"#ff010203"_s;
-    QTest::newRow("guessed from the cells")
-        << QString() << cell.arg(u"bordercolor='#445566'"_s) << true << u"#ff445566"_s;
-    QTest::newRow("chromatic backgrounds never had a grid")
-        << u"gridcolor='#aabbcc'"_s << cell.arg(u"bgcolor='#ff0000'"_s) << false << u"#ff000000"_s;
+    row("border", QString(), border.arg(u"true"_s), true, u"#ff112233"_s);
+    row("a disabled border is the default one", QString(), border.arg(u"false"_s), false, u"#ff000000"_s);
+    row("nothing", QString(), QString(), false, u"#ff000000"_s);
+    row("old colour", u"gridcolor='#aabbcc'"_s, QString(), true, u"#ffaabbcc"_s);
+    row("old transparent colour", u"gridcolor='transparent'"_s, QString(), false, u"#00000000"_s);
+    row("switched off by the user", u"gridcolor='#aabbcc' userGridVisible='false'"_s, QString(), false, u"#ffaabbcc"_s);
+    row("recoloured by the user", u"gridcolor='#aabbcc' userGridColor='#010203'"_s, QString(), true, u"#ff010203"_s);
+    row("guessed from the cells", QString(), cell.arg(u"bordercolor='#445566'"_s), true, u"#ff445566"_s);
+    row("chromatic backgrounds never had a grid", u"gridcolor='#aabbcc'"_s, cell.arg(u"bgcolor='#ff0000'"_s), false,
+        u"#ff000000"_s);
 }
 
 void tst_ColorSchema::grid()
 {
-    QFETCH(QString, attributes);
-    QFETCH(QString, children);
+    const auto [attributes, children, enabled, color] = MvRows<QString, QString, bool, QString>::current();
     const MvBorderConfig read =
         MvCalendariumColorSchema(element(u"<calendararea %1>%2</calendararea>"_s.arg(attributes, children)))
             .gridConfig();
-    QTEST(read.isEnabled(), "enabled");
-    QTEST(hex(read.color()), "color");
+    QCOMPARE(read.isEnabled(), enabled);
+    QCOMPARE(hex(read.color()), color);
 }
 
 void tst_ColorSchema::roundTrip_data()
 {
-    QTest::addColumn<QString>("cells");
-    QTest::newRow("empty") << QString();
-    QTest::newRow("alternating weeks")
-        << u"<cell type='CALENDAR_CELL_TYPE_WEEKDAY' bgcoloreven='#eeeeee' bgcolorodd='#00ffffff'/>"_s;
+    const MvRows<QString> row; // cells
+    row("empty", QString());
+    row("alternating weeks",
+        u"<cell type='CALENDAR_CELL_TYPE_WEEKDAY' bgcoloreven='#eeeeee' bgcolorodd='#00ffffff'/>"_s);
     // without a cell of its own, the holiday would come back with Sunday's colours
-    QTest::newRow("holiday in default colours, Sunday not")
-        << u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/><cell type='CALENDAR_CELL_TYPE_HOLIDAY'/>"_s;
-    QTest::newRow("translucent with a border")
-        << u"<border color='#80112233' width='1.5' position='inside'/><celldefault bgcolor='#40ffffff'/>"_s;
+    row("holiday in default colours, Sunday not",
+        u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' bgcolor='#ff0000'/><cell type='CALENDAR_CELL_TYPE_HOLIDAY'/>"_s);
+    row("translucent with a border",
+        u"<border color='#80112233' width='1.5' position='inside'/><celldefault bgcolor='#40ffffff'/>"_s);
 }
 
 void tst_ColorSchema::roundTrip()
 {
-    QFETCH(QString, cells);
+    const auto [cells] = MvRows<QString>::current();
     MvCalendariumColorSchema original = schema(cells);
     if (original.gridConfig().isEnabled()) { // as a chooser of colours may give them
         MvBorderConfig grid = original.gridConfig();
@@ -258,35 +243,28 @@ void tst_ColorSchema::registryRenamesOldIds()
 
 void tst_ColorSchema::userFiles_data()
 {
-    QTest::addColumn<QString>("areas");
-    QTest::addColumn<QStringList>("warnings");
-    QTest::addColumn<QStringList>("offered"); // beside the shipped ones
-    QTest::addColumn<QString>("hidden");      // an id, and the one that is not offered then
+    // offered: beside the shipped ones; hidden: an id, and the one that is not offered then
+    const MvRows<QString, QStringList, QStringList, QString> row;
     const QString red = u"<calendararea colorschema='%1' name='%2'><celldefault bgcolor='#ff0000'/></calendararea>"_s;
     const QString blue = u"<calendararea colorschema='%1' name='%2'><celldefault bgcolor='#0000ff'/></calendararea>"_s;
     const QString file = u"colors.xml:%1:\\d+: .*"_s;
-    QTest::newRow("a shipped id") << red.arg(u"PAPER_WHITE"_s, u"Mein Weiß"_s)
-                                  << QStringList{file.arg(1) + u"„Mein Weiß“.*PAPER_WHITE.*„Papierweiß“"_s}
-                                  << QStringList() << u"PAPER_WHITE PAPER_WHITE"_s;
-    QTest::newRow("an id twice") << red.arg(u"USER_1"_s, u"Rot"_s) + u'\n' + blue.arg(u"USER_1"_s, u"Blau"_s)
-                                 << QStringList{file.arg(1) + u"„Rot“.*USER_1.*„Blau“"_s} << QStringList{u"USER_1"_s}
-                                 << u"USER_1 USER_1"_s;
-    QTest::newRow("a shipped schema under an id of one's own")
-        << u"NIGHT"_s << QStringList{u"Duplicate schema found, aliassed USER_77 by NIGHT"_s} << QStringList()
-        << u"USER_77 NIGHT"_s;
-    QTest::newRow("typing errors") << u"\n<calendararea colorschema='USER_3'><cell type='CALENDAR_CELL_TYPE_SUNDY'/>\n"
-                                      "<cell type='CALENDAR_CELL_TYPE_SUNDAY' textcolorodd='rott'/></calendararea>"_s
-                                   << QStringList{file.arg(2) + u"USER_3.*CALENDAR_CELL_TYPE_SUNDY"_s,
-                                                  file.arg(3) + u"USER_3.*rott"_s}
-                                   << QStringList{u"USER_3"_s} << u"USER_3 USER_3"_s;
+    row("a shipped id", red.arg(u"PAPER_WHITE"_s, u"Mein Weiß"_s),
+        QStringList{file.arg(1) + u"„Mein Weiß“.*PAPER_WHITE.*„Papierweiß“"_s}, QStringList(),
+        u"PAPER_WHITE PAPER_WHITE"_s);
+    row("an id twice", red.arg(u"USER_1"_s, u"Rot"_s) + u'\n' + blue.arg(u"USER_1"_s, u"Blau"_s),
+        QStringList{file.arg(1) + u"„Rot“.*USER_1.*„Blau“"_s}, QStringList{u"USER_1"_s}, u"USER_1 USER_1"_s);
+    row("a shipped schema under an id of one's own", u"NIGHT"_s,
+        QStringList{u"Duplicate schema found, aliassed USER_77 by NIGHT"_s}, QStringList(), u"USER_77 NIGHT"_s);
+    row("typing errors",
+        u"\n<calendararea colorschema='USER_3'><cell type='CALENDAR_CELL_TYPE_SUNDY'/>\n"
+        "<cell type='CALENDAR_CELL_TYPE_SUNDAY' textcolorodd='rott'/></calendararea>"_s,
+        QStringList{file.arg(2) + u"USER_3.*CALENDAR_CELL_TYPE_SUNDY"_s, file.arg(3) + u"USER_3.*rott"_s},
+        QStringList{u"USER_3"_s}, u"USER_3 USER_3"_s);
 }
 
 void tst_ColorSchema::userFiles()
 {
-    QFETCH(QString, areas);
-    QFETCH(const QStringList, warnings);
-    QFETCH(const QStringList, offered);
-    QFETCH(const QString, hidden);
+    auto [areas, warnings, offered, hidden] = MvRows<QString, QStringList, QStringList, QString>::current();
     const QFileInfo shipped(u":/mvcalendar/schemas/calendar_schema.xml"_s);
     const auto plain = MvCalendariumColorSchemaRegistry::createTemporaryRegistry();
     plain->read(shipped, SCHEMA_VISIBILITY_OFFERED);
@@ -407,25 +385,22 @@ void tst_ColorSchema::shippedSchemata()
 
 void tst_ColorSchema::groundsOfDays_data()
 {
-    QTest::addColumn<QList<QColor>>("papers");
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QColor>("nearest"); // by hand, from the formula of the contrast
+    // nearest: by hand, from the formula of the contrast
+    const MvRows<QList<QColor>, QColor, QColor> row;
     const QColor white = Qt::white;
     const QColor black = Qt::black;
     const QColor none;
-    QTest::newRow("no page") << QList<QColor>() << QColor(Qt::yellow) << QColor(Qt::yellow);
-    QTest::newRow("dark on white") << QList<QColor>{white} << QColor(0x1F6FB2) << QColor(0x1F6FB2);
-    QTest::newRow("grey on white") << QList<QColor>{white} << QColor(0x808080) << QColor(0x767676); // 4.54 : 1
-    QTest::newRow("blue on black") << QList<QColor>{black} << QColor(0x0000C0) << QColor(0x5C5CFF);
-    QTest::newRow("light and dark") << QList<QColor>{white, QColor(0x404040)} << QColor(0x777777) << none;
+    row("no page", QList<QColor>(), QColor(Qt::yellow), QColor(Qt::yellow));
+    row("dark on white", QList<QColor>{white}, QColor(0x1F6FB2), QColor(0x1F6FB2));
+    row("grey on white", QList<QColor>{white}, QColor(0x808080), QColor(0x767676)); // 4.54 : 1
+    row("blue on black", QList<QColor>{black}, QColor(0x0000C0), QColor(0x5C5CFF));
+    row("light and dark", QList<QColor>{white, QColor(0x404040)}, QColor(0x777777), none);
 }
 
 /// Of a schema that lets the paper through.
 void tst_ColorSchema::groundsOfDays()
 {
-    QFETCH(QList<QColor>, papers);
-    QFETCH(QColor, color);
-    QFETCH(QColor, nearest);
+    const auto [papers, color, nearest] = MvRows<QList<QColor>, QColor, QColor>::current();
     MvCalendariumColorSchema clear;
     clear.setCellColor(Qt::transparent, {background, MvCalendarCellType::allTypes(), both});
     MvCalendariumAppearance appearance;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvPageFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventListSource.h"
@@ -160,29 +161,24 @@ void tst_EntriesOnPages::listsWriteEachEntryInItsColor()
 
 void tst_EntriesOnPages::barsRunThroughTheDays_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<bool>("isUpright");
-    QTest::addColumn<int>("names");
-    QTest::addColumn<QSizeF>("size");
+    const MvRows<QString, bool, int, QSizeF> row; // type, isUpright, names, size
     const QSizeF usual(2800, 2000);
-    QTest::newRow("grid") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << false << 3 << usual;
-    QTest::newRow("list") << u"CALENDAR_ONE_DAY_PER_ROW"_s << true << 2 << usual;
-    QTest::newRow("columns of weeks") << u"CALENDAR_ONE_COLUMN_PER_WEEK"_s << true << 3 << usual;
-    QTest::newRow("a strip as long as a poster") << u"CALENDAR_ONE_ROW"_s << false << 2 << QSizeF(5600, 900);
+    row("grid", u"CALENDAR_ONE_WEEK_PER_ROW"_s, false, 3, usual);
+    row("list", u"CALENDAR_ONE_DAY_PER_ROW"_s, true, 2, usual);
+    row("columns of weeks", u"CALENDAR_ONE_COLUMN_PER_WEEK"_s, true, 3, usual);
+    row("a strip as long as a poster", u"CALENDAR_ONE_ROW"_s, false, 2, QSizeF(5600, 900));
 }
 
 void tst_EntriesOnPages::barsRunThroughTheDays()
 {
-    QFETCH(QString, type);
-    QFETCH(bool, isUpright);
+    const auto [type, isUpright, names, size] = MvRows<QString, bool, int, QSizeF>::current();
     // one goes on from February, one begins before it ends
     MvCalendarEventList list{MvEntries::entry(u"Reise"_s, {2027, 2, 26}, {}, false),
                              MvEntries::entry(u"Messe"_s, {2027, 3, 3}, {}, false)};
     list[0].setEndDate({2027, 3, 4});
     list[1].setEndDate({2027, 3, 9});
-    QFETCH(QSizeF, size);
     const Painted painted = paint(list, type, {}, {}, size);
-    QTEST(int(painted.texts(u"Reise"_s).size() + painted.texts(u"Messe"_s).size()), "names");
+    QCOMPARE(int(painted.texts(u"Reise"_s).size() + painted.texts(u"Messe"_s).size()), names);
 
     QList<QRectF> bars; // of the first lane, then of the second
     for (const Item &item : painted.recording.items()) {
@@ -215,17 +211,15 @@ void tst_EntriesOnPages::barsRunThroughTheDays()
 
 void tst_EntriesOnPages::barsWithoutRoomAreTold_data()
 {
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<int>("drawn"); // bars in the cell of the middle day
-    QTest::newRow("two lanes too many") << QSizeF(2800, 2000) << 4;
-    QTest::newRow("low cells") << QSizeF(2800, 560) << 3;
+    const MvRows<QSizeF, int> row; // size; drawn: bars in the cell of the middle day
+    row("two lanes too many", QSizeF(2800, 2000), 4);
+    row("low cells", QSizeF(2800, 560), 3);
 }
 
 /// As many lanes as there is room for; the entries of the others are named once on the page, whatever they last.
 void tst_EntriesOnPages::barsWithoutRoomAreTold()
 {
-    QFETCH(QSizeF, size);
-    QFETCH(int, drawn);
+    const auto [size, drawn] = MvRows<QSizeF, int>::current();
     MvCalendarEventList list;
     for (int number = 1; number <= 6; ++number) {
         list.append(MvEntries::entry(QString(u'A'), {2027, 3, 1 + number}, {}, false));

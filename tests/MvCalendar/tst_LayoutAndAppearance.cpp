@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvBoxFont.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendariumAppearance.h"
@@ -233,51 +234,42 @@ void tst_LayoutAndAppearance::mistakesInUserLayouts()
 
 void tst_LayoutAndAppearance::fontSettings_data()
 {
-    QTest::addColumn<QString>("attributes");
-    QTest::addColumn<int>("percentage");
-    QTest::addColumn<int>("holidays");
-    QTest::newRow("nothing") << QString() << 0 << -50;
-    QTest::newRow("old size in steps of ten") << u"fontsize='2'"_s << 20 << -50;
-    QTest::newRow("the new size wins") << u"fontsize='2' fontsize_percentage='-10'"_s << -10 << -50;
-    QTest::newRow("beyond measure") << u"fontsize='2147483647' fontsize_percentage_holiddays='-9999'"_s << 900 << -100;
-    QTest::newRow("holidays") << u"fontsize_percentage_holiddays='-30'"_s << 0 << -30;
+    const MvRows<QString, int, int> row; // attributes, percentage, holidays
+    row("nothing", QString(), 0, -50);
+    row("old size in steps of ten", u"fontsize='2'"_s, 20, -50);
+    row("the new size wins", u"fontsize='2' fontsize_percentage='-10'"_s, -10, -50);
+    row("beyond measure", u"fontsize='2147483647' fontsize_percentage_holiddays='-9999'"_s, 900, -100);
+    row("holidays", u"fontsize_percentage_holiddays='-30'"_s, 0, -30);
 }
 
 void tst_LayoutAndAppearance::fontSettings()
 {
-    QFETCH(QString, attributes);
+    const auto [attributes, percentage, holidays] = MvRows<QString, int, int>::current();
     const MvCalendariumFontSettings settings(element(u"<e %1/>"_s.arg(attributes)));
-    QTEST(settings.fontSizePercentage(), "percentage");
-    QTEST(settings.fontSizePercentageHolidays(), "holidays");
+    QCOMPARE(settings.fontSizePercentage(), percentage);
+    QCOMPARE(settings.fontSizePercentageHolidays(), holidays);
     QCOMPARE(settings.fontName(), u"Lato"_s); // the default family where a page names none
 }
 
 void tst_LayoutAndAppearance::fontSize_data()
 {
-    QTest::addColumn<int>("percentage");
-    QTest::addColumn<int>("target");
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("largest");
-    QTest::addColumn<int>("pixels");
+    const MvRows<int, int, int, int, int> row; // percentage, target, minimum, largest, pixels
     // 20 points are 20 * 200 / 72 = 55.56 pixels at 200 dpi
-    QTest::newRow("layout size") << 0 << 0 << 6 << 0 << 56;
-    QTest::newRow("larger") << 20 << 0 << 6 << 0 << 67;              // 24 points
-    QTest::newRow("points are truncated") << 4 << 0 << 6 << 0 << 56; // 20.8 points count as 20
-    QTest::newRow("half") << -50 << 0 << 6 << 0 << 28;               // 10 points
-    QTest::newRow("two paper classes up") << 0 << 512 << 6 << 0 << 112;
-    QTest::newRow("smallest size") << -95 << 0 << 6 << 0 << 21; // 6 points are 21.2 pixels at 254 dpi
-    QTest::newRow("never nothing") << -100 << 0 << 0 << 0 << 1;
-    QTest::newRow("largest size of the layout") << 50 << 0 << 6 << 24 << 67;
-    QTest::newRow("that of larger paper") << 50 << 512 << 6 << 24 << 133;
-    QTest::newRow("below it") << -50 << 0 << 6 << 24 << 28;
+    row("layout size", 0, 0, 6, 0, 56);
+    row("larger", 20, 0, 6, 0, 67);              // 24 points
+    row("points are truncated", 4, 0, 6, 0, 56); // 20.8 points count as 20
+    row("half", -50, 0, 6, 0, 28);               // 10 points
+    row("two paper classes up", 0, 512, 6, 0, 112);
+    row("smallest size", -95, 0, 6, 0, 21); // 6 points are 21.2 pixels at 254 dpi
+    row("never nothing", -100, 0, 0, 0, 1);
+    row("largest size of the layout", 50, 0, 6, 24, 67);
+    row("that of larger paper", 50, 512, 6, 24, 133);
+    row("below it", -50, 0, 6, 24, 28);
 }
 
 void tst_LayoutAndAppearance::fontSize()
 {
-    QFETCH(int, percentage);
-    QFETCH(int, target);
-    QFETCH(int, minimum);
-    QFETCH(int, largest);
+    const auto [percentage, target, minimum, largest, pixels] = MvRows<int, int, int, int, int>::current();
     MvCalendariumFontSettings settings;
     settings.setFontSizePercentage(percentage);
     settings.setFontSizePercentageHolidays(percentage);
@@ -286,7 +278,7 @@ void tst_LayoutAndAppearance::fontSize()
                                       "<font family='Lato' pointsize='20'/></cell>"_s.arg(largest)));
     appearance.setFontSettings(settings);
     const QFont font = appearance.font(CALENDAR_CELL_TYPE_WEEKDAY, MvSpaceMagnitude(target), minimum);
-    QTEST(font.pixelSize(), "pixels");
+    QCOMPARE(font.pixelSize(), pixels);
     QCOMPARE(font.family(), u"Lato"_s);
     QCOMPARE(appearance.fontHolidays(CALENDAR_CELL_TYPE_WEEKDAY, MvSpaceMagnitude(target), minimum), font);
 }
@@ -424,32 +416,26 @@ void tst_LayoutAndAppearance::columnHeaders()
 
 void tst_LayoutAndAppearance::borders_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("cell");
-    QTest::addColumn<bool>("grid");
-    QTest::addColumn<int>("sides");
-    QTest::addColumn<bool>("painted");
+    const MvRows<QString, QString, bool, int, bool> row; // type, cell, grid, sides, painted
     const QString left = u"bordertype='CALENDAR_BORDER_LEFT'"_s;
-    QTest::newRow("grid off") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << left << false << 0 << false;
-    QTest::newRow("the layout's sides") << u"CALENDAR_ONE_WEEK_PER_ROW"_s << left << true << 1 << true;
-    QTest::newRow("no borders in the layout: all") << u"CALENDAR_YEAR"_s << QString() << true << 15 << true;
-    QTest::newRow("a kind without borders") << u"CALENDAR_MONTH_ONLY"_s << left << true << 1 << false;
-    QTest::newRow("week columns have none either") << u"CALENDAR_ONE_COLUMN_PER_WEEK"_s << left << true << 1 << false;
+    row("grid off", u"CALENDAR_ONE_WEEK_PER_ROW"_s, left, false, 0, false);
+    row("the layout's sides", u"CALENDAR_ONE_WEEK_PER_ROW"_s, left, true, 1, true);
+    row("no borders in the layout: all", u"CALENDAR_YEAR"_s, QString(), true, 15, true);
+    row("a kind without borders", u"CALENDAR_MONTH_ONLY"_s, left, true, 1, false);
+    row("week columns have none either", u"CALENDAR_ONE_COLUMN_PER_WEEK"_s, left, true, 1, false);
 }
 
 void tst_LayoutAndAppearance::borders()
 {
-    QFETCH(QString, type);
-    QFETCH(QString, cell);
-    QFETCH(bool, grid);
+    auto [type, cell, grid, sides, painted] = MvRows<QString, QString, bool, int, bool>::current();
     MvCalendariumAppearance appearance;
     appearance.setLayoutSchema(
         layout(u"<cell type='CALENDAR_CELL_TYPE_SUNDAY' %1/>"_s.arg(cell), u"layoutschema='L' type='%1'"_s.arg(type)));
     MvBorderConfig config;
     config.setIsEnabled(grid);
     appearance.setGridConfig(config);
-    QTEST(appearance.borderType(CALENDAR_CELL_TYPE_SUNDAY).toInt(), "sides");
-    QTEST(appearance.shouldIPaintTheBorder(CALENDAR_CELL_TYPE_SUNDAY), "painted");
+    QCOMPARE(appearance.borderType(CALENDAR_CELL_TYPE_SUNDAY).toInt(), sides);
+    QCOMPARE(appearance.shouldIPaintTheBorder(CALENDAR_CELL_TYPE_SUNDAY), painted);
 }
 
 void tst_LayoutAndAppearance::gridFollowsTheLayout()

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvAddressBookImport.h"
 #include "MvFoto/MvImageLoader.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
-
-#include <QBuffer>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -73,23 +71,20 @@ QFileInfo tst_MvAddressBookImport::write(const QByteArray &cards) const
 
 void tst_MvAddressBookImport::fotos_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("format"); // of the photo; empty without one
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<bool>("isKept"); // byte by byte
-    QTest::newRow("JPEG") << picture("jpeg", {720, 600}) << QByteArray("jpeg") << QSize(720, 600) << true;
-    QTest::newRow("PNG") << picture("png", {60, 1200}) << QByteArray("png") << QSize(60, 1200) << true;
-    QTest::newRow("turned") << turned(picture("jpeg", {400, 300})) << QByteArray("jpeg") << QSize(300, 400) << false;
-    QTest::newRow("large") << picture("jpeg", {2400, 1200}) << QByteArray("jpeg") << QSize(1200, 600) << false;
-    QTest::newRow("another format") << picture("bmp", {40, 30}) << QByteArray("png") << QSize(40, 30) << false;
-    QTest::newRow("no picture") << QByteArray("GIF89a, or so it says") << QByteArray() << QSize() << false;
-    QTest::newRow("too large") << QByteArray(20'000'000, 'x') << QByteArray() << QSize() << false;
+    // format: of the photo; empty without one; isKept: byte by byte
+    const MvRows<QByteArray, QByteArray, QSize, bool> row;
+    row("JPEG", picture("jpeg", {720, 600}), QByteArray("jpeg"), QSize(720, 600), true);
+    row("PNG", picture("png", {60, 1200}), QByteArray("png"), QSize(60, 1200), true);
+    row("turned", turned(picture("jpeg", {400, 300})), QByteArray("jpeg"), QSize(300, 400), false);
+    row("large", picture("jpeg", {2400, 1200}), QByteArray("jpeg"), QSize(1200, 600), false);
+    row("another format", picture("bmp", {40, 30}), QByteArray("png"), QSize(40, 30), false);
+    row("no picture", QByteArray("GIF89a, or so it says"), QByteArray(), QSize(), false);
+    row("too large", QByteArray(20'000'000, 'x'), QByteArray(), QSize(), false);
 }
 
 void tst_MvAddressBookImport::fotos()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QByteArray, format);
+    const auto [bytes, format, size, isKept] = MvRows<QByteArray, QByteArray, QSize, bool>::current();
     MvAddressBookImport import({write(card("Anna: Meier/..", bytes, "BDAY:19900517\r\nANNIVERSARY:20100612"))});
     import.readCards();
     import.makeEntries({}, MvVCardDate::Order::Unknown);
@@ -104,9 +99,9 @@ void tst_MvAddressBookImport::fotos()
     QFile file(events.last().imagePath().filePath());
     QCOMPARE(folder().absoluteFilePath(files.first()), file.fileName());
     QCOMPARE(MvImageLoader::format(QFileInfo(file)), format);
-    QTEST(MvImageLoader::instance().size(QFileInfo(file)), "size");
+    QCOMPARE(MvImageLoader::instance().size(QFileInfo(file)), size);
     QVERIFY(file.open(QIODevice::ReadOnly));
-    QTEST(file.readAll() == bytes, "isKept");
+    QCOMPARE(file.readAll() == bytes, isKept);
 }
 
 void tst_MvAddressBookImport::newOnesAlone()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -11,7 +12,6 @@
 #include "MvFoto/MvFotoAccess.h"
 
 #include <QDomDocument>
-#include <QTemporaryDir>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -70,28 +70,23 @@ void tst_MvCalendarEvent::init()
 
 void tst_MvCalendarEvent::isAtDay_data()
 {
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<bool>("recurrent");
-    QTest::addColumn<QDate>("day");
-    QTest::addColumn<bool>("isAtDay");
+    const MvRows<QDate, bool, QDate, bool> row; // date, recurrent, day, isAtDay
     const QDate birthday(1990, 5, 17);
-    QTest::newRow("every year") << birthday << true << QDate(2025, 5, 17) << true;
-    QTest::newRow("once, another year") << birthday << false << QDate(2025, 5, 17) << false;
-    QTest::newRow("once, that day") << birthday << false << birthday << true;
-    QTest::newRow("another month") << birthday << true << QDate(2025, 6, 17) << false;
-    QTest::newRow("another day") << birthday << true << QDate(2025, 5, 16) << false;
-    QTest::newRow("before it began") << birthday << true << QDate(1980, 5, 17) << true;
-    QTest::newRow("leap day in a common year") << QDate(1992, 2, 29) << true << QDate(2026, 2, 28) << false;
-    QTest::newRow("leap day") << QDate(1992, 2, 29) << true << QDate(2028, 2, 29) << true;
+    row("every year", birthday, true, QDate(2025, 5, 17), true);
+    row("once, another year", birthday, false, QDate(2025, 5, 17), false);
+    row("once, that day", birthday, false, birthday, true);
+    row("another month", birthday, true, QDate(2025, 6, 17), false);
+    row("another day", birthday, true, QDate(2025, 5, 16), false);
+    row("before it began", birthday, true, QDate(1980, 5, 17), true);
+    row("leap day in a common year", QDate(1992, 2, 29), true, QDate(2026, 2, 28), false);
+    row("leap day", QDate(1992, 2, 29), true, QDate(2028, 2, 29), true);
 }
 
 void tst_MvCalendarEvent::isAtDay()
 {
-    QFETCH(QDate, date);
-    QFETCH(bool, recurrent);
-    QFETCH(QDate, day);
+    const auto [date, recurrent, day, isAtDay] = MvRows<QDate, bool, QDate, bool>::current();
     const MvCalendarEvent event = entry(u"x"_s, date, {}, recurrent);
-    QTEST(event.isAtDay(day), "isAtDay");
+    QCOMPARE(event.isAtDay(day), isAtDay);
     QVERIFY(event.isRecurrent()); // whatever is stored
     QCOMPARE(event.storedRecurrent(), recurrent);
 }
@@ -145,9 +140,8 @@ void tst_MvCalendarEvent::textForms()
 
 void tst_MvCalendarEvent::roundTrip_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("readName");
-    const auto same = [](const char *what, const QString &name) { QTest::newRow(what) << name << name; };
+    const MvRows<QString, QString> row; // name, readName
+    const auto same = [&](const char *what, const QString &name) { row(what, name, name); };
     same("umlauts", u"Jörg Weiß, Ærø"_s);
     same("emoji of several parts", u"Oma \U0001F469\u200d\U0001F467 \U0001F382"_s);
     same("markup", u"<b>&amp; \"Kurt\" 'x' ]]> -->"_s);
@@ -157,14 +151,14 @@ void tst_MvCalendarEvent::roundTrip_data()
     same("blanks alone", u"   "_s);
     same("right to left", u"\u05d0\u05d1\u05d2"_s);
     same("very long", QString(100000, u'ä'));
-    QTest::newRow("control characters go") << u"A\u0001\u001fB\uffff"_s << u"AB"_s;
-    QTest::newRow("NUL goes") << QString(u"A"_s + QChar(0) + u'B') << u"AB"_s;
-    QTest::newRow("half a pair goes") << QString(u"A"_s + QChar(0xd83d) + u'B') << u"AB"_s;
+    row("control characters go", u"A\u0001\u001fB\uffff"_s, u"AB"_s);
+    row("NUL goes", QString(u"A"_s + QChar(0) + u'B'), u"AB"_s);
+    row("half a pair goes", QString(u"A"_s + QChar(0xd83d) + u'B'), u"AB"_s);
 }
 
 void tst_MvCalendarEvent::roundTrip()
 {
-    QFETCH(QString, name);
+    const auto [name, readName] = MvRows<QString, QString>::current();
     const MvCalendarEvent event(name, QDate(1944, 2, 29).startOfDay(), false, MvFoto(), QUuid::createUuid(),
                                 QDateTime());
     const QString file = outside(u"list.xml"_s);
@@ -173,7 +167,7 @@ void tst_MvCalendarEvent::roundTrip()
     QCOMPARE(content.error, QString());
     QCOMPARE(content.events.size(), 1);
     const MvCalendarEvent &read = content.events.first();
-    QTEST(read.description(), "readName");
+    QCOMPARE(read.description(), readName);
     QCOMPARE(read.dateTime(), event.dateTime());
     QCOMPARE(read.storedRecurrent(), false);
     QCOMPARE(read.uuid(), event.uuid());
@@ -204,16 +198,14 @@ void tst_MvCalendarEvent::readsDefaults()
 
 void tst_MvCalendarEvent::readsSkippedMidnights_data()
 {
-    QTest::addColumn<QByteArray>("zone");
-    QTest::addColumn<QDate>("date");
-    QTest::newRow("from midnight to one o'clock") << QByteArray("America/Sao_Paulo") << QDate(2017, 10, 15);
-    QTest::newRow("a whole day left out") << QByteArray("Pacific/Kiritimati") << QDate(1994, 12, 31);
+    const MvRows<QByteArray, QDate> row; // zone, date
+    row("from midnight to one o'clock", QByteArray("America/Sao_Paulo"), QDate(2017, 10, 15));
+    row("a whole day left out", QByteArray("Pacific/Kiritimati"), QDate(1994, 12, 31));
 }
 
 void tst_MvCalendarEvent::readsSkippedMidnights()
 {
-    QFETCH(QByteArray, zone);
-    QFETCH(QDate, date);
+    const auto [zone, date] = MvRows<QByteArray, QDate>::current();
     const QByteArray before = qgetenv("TZ");
     qputenv("TZ", zone);
     QDomDocument document;
@@ -270,20 +262,16 @@ void tst_MvCalendarEvent::unreadableFotoWarns()
 
 void tst_MvCalendarEvent::keepsTheFormerFoto_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<bool>("isFull");
-    QTest::addColumn<QString>("reason"); // in the message
-    QTest::newRow("missing") << u"missing.jpg"_s << false << u"gibt es nicht"_s;
-    QTest::newRow("no photo") << u"text.jpg"_s << false << u"Gelesen werden"_s;
-    QTest::newRow("no photo in the photo folder") << u"FOTOS/text.jpg"_s << false << u"Gelesen werden"_s;
-    QTest::newRow("no room for the copy") << u"new.png"_s << true << u"größer als erlaubt"_s;
+    const MvRows<QString, bool, QString> row; // file; isFull; reason: in the message
+    row("missing", u"missing.jpg"_s, false, u"gibt es nicht"_s);
+    row("no photo", u"text.jpg"_s, false, u"Gelesen werden"_s);
+    row("no photo in the photo folder", u"FOTOS/text.jpg"_s, false, u"Gelesen werden"_s);
+    row("no room for the copy", u"new.png"_s, true, u"größer als erlaubt"_s);
 }
 
 void tst_MvCalendarEvent::keepsTheFormerFoto()
 {
-    QFETCH(QString, file);
-    QFETCH(bool, isFull);
-    QFETCH(QString, reason);
+    auto [file, isFull, reason] = MvRows<QString, bool, QString>::current();
     QVERIFY(MvTestFiles::writeFoto(outside(u"good.png"_s)));
     QVERIFY(MvTestFiles::writeFoto(outside(u"new.png"_s), {400, 300}));
     file = file.startsWith(u'F') ? MvCalendarEvent::imageDirectory().filePath(file.mid(6)) : outside(file);
@@ -309,12 +297,8 @@ void tst_MvCalendarEvent::keepsTheFormerFoto()
 
 void tst_MvCalendarEvent::fotoPaths_data()
 {
-    QTest::addColumn<QString>("text"); // LIST: the list's folder, FOTOS: the photo folder
-    QTest::addColumn<QString>("path"); // empty: no photo
-    QTest::addColumn<bool>("mayBeOpened");
-    const auto row = [](const char *what, const QString &text, const QString &path, bool mayBeOpened) {
-        QTest::newRow(what) << text << path << mayBeOpened;
-    };
+    // text: LIST: the list's folder, FOTOS: the photo folder; path: empty: no photo
+    const MvRows<QString, QString, bool> row;
     row("own photo", u"FOTOS/own.png"_s, u"FOTOS/own.png"_s, true);
     row("own photo by name", u"own.png"_s, u"FOTOS/own.png"_s, true);
     row("the one beside before the own one", u"both.png"_s, u"LIST/both.png"_s, true);
@@ -338,9 +322,7 @@ void tst_MvCalendarEvent::fotoPaths_data()
 
 void tst_MvCalendarEvent::fotoPaths()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, path);
-    QFETCH(bool, mayBeOpened);
+    const auto [text, path, mayBeOpened] = MvRows<QString, QString, bool>::current();
     const QString folder = outside(u"list"_s);
     const QString fotos = MvCalendarEvent::imageDirectory().absolutePath();
     const auto inPlace = [&](QString pattern) { return pattern.replace(u"LIST"_s, folder).replace(u"FOTOS"_s, fotos); };

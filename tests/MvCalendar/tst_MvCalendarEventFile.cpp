@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -10,9 +11,6 @@
 #include "MvXML/MvXMLBuilder.h"
 
 #include <QDomDocument>
-#include <QRandomGenerator>
-#include <QStringEncoder>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -31,10 +29,8 @@ private Q_SLOTS:
 
 void tst_MvCalendarEventFile::reads_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("names");
-    QTest::addColumn<QString>("skipped"); // all of them, one a line
-    QTest::addColumn<QString>("refusal"); // part of it
+    // skipped: all of them, one a line; refusal: part of it
+    const MvRows<QByteArray, QString, QString, QString> newRow;
 
     const auto list = [](const QByteArray &entries, const QByteArray &declaration = {}) {
         return declaration + "<CalendarEvents>\n" + entries + "</CalendarEvents>";
@@ -47,8 +43,8 @@ void tst_MvCalendarEventFile::reads_data()
         const QString declaration = u"<?xml version=\"1.0\" encoding='%1'?>\n"_s.arg(QLatin1StringView(encoding));
         return QByteArray(encode(declaration + QString::fromUtf8(list(entry("Jürgen")))));
     };
-    const auto row = [](const char *name, const QByteArray &bytes, const QString &names, const QString &skipped = {},
-                        const QString &refusal = {}) { QTest::newRow(name) << bytes << names << skipped << refusal; };
+    const auto row = [&](const char *name, const QByteArray &bytes, const QString &names, const QString &skipped = {},
+                         const QString &refusal = {}) { newRow(name, bytes, names, skipped, refusal); };
     using Flag = QStringConverter::Flag;
     row("UTF-16 with a mark", encoded("UTF-16", Flag::WriteBom), u"Jürgen"_s);
     row("UTF-16BE without", encoded("UTF-16BE", Flag::Default), u"Jürgen"_s);
@@ -73,14 +69,12 @@ void tst_MvCalendarEventFile::reads_data()
 
 void tst_MvCalendarEventFile::reads()
 {
-    QFETCH(const QByteArray, bytes);
-    QFETCH(const QString, skipped);
-    QFETCH(const QString, refusal);
+    const auto [bytes, names, skipped, refusal] = MvRows<QByteArray, QString, QString, QString>::current();
     const QTemporaryDir dir;
     const QFileInfo file(dir.filePath(u"liste.xml"_s));
     QVERIFY(MvTestFiles::write(file.filePath(), bytes));
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(file);
-    QTEST(MvEntries::names(content.events).join(u' '), "names");
+    QCOMPARE(MvEntries::names(content.events).join(u' '), names);
     QCOMPARE(MvCalendarEventFile::describe(content.skipped, 9), skipped);
     QVERIFY2(content.refusal().contains(refusal), qPrintable(content.refusal()));
     QCOMPARE(content.refusal().isEmpty(), refusal.isEmpty());

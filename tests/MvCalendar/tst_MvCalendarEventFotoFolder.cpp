@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -9,8 +10,6 @@
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoService.h"
-
-#include <QTemporaryDir>
 
 #include <optional>
 
@@ -174,15 +173,15 @@ void tst_MvCalendarEventFotoFolder::sweeps()
 
 void tst_MvCalendarEventFotoFolder::sweepsInNoDoubt_data()
 {
-    QTest::addColumn<QString>("doubt");
+    const MvRows<QString> row; // doubt
     for (const char *doubt : {"none", "undo", "other program", "missing", "unreadable", "partly readable",
                               "strange list", "changed meanwhile"})
-        QTest::newRow(doubt) << QString::fromLatin1(doubt);
+        row(doubt, QString::fromLatin1(doubt));
 }
 
 void tst_MvCalendarEventFotoFolder::sweepsInNoDoubt()
 {
-    QFETCH(QString, doubt);
+    const auto [doubt] = MvRows<QString>::current();
     putFoto(foto(u"orphan.png"_s));
     if (doubt == u"unreadable"_s)
         QVERIFY(MvTestFiles::write(path(u"calendarEvents.xml"_s), "<CalendarEvents><CalendarEvent>"));

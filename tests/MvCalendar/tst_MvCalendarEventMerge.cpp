@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvEntryHistory.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventMerge.h"
@@ -52,65 +53,53 @@ static QString names(const MvCalendarEventList &events)
 
 void tst_MvCalendarEventMerge::joins_data()
 {
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QString>("other");
-    QTest::addColumn<bool>("keepBase");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("new entries follow") << u"a b"_s << u"b c"_s << true << u"a b c"_s;
-    QTest::newRow("only the new ones") << u"a b"_s << u"b c"_s << false << u"c"_s;
-    QTest::newRow("another text does not make another entry") << u"a"_s << u"a:A"_s << true << u"a"_s;
-    QTest::newRow("without uuid always new") << u"-x"_s << u"-x"_s << true << u"x x"_s;
-    QTest::newRow("into nothing") << u""_s << u"a a"_s << true << u"a a"_s;
+    const MvRows<QString, QString, bool, QString> row; // base, other, keepBase, result
+    row("new entries follow", u"a b"_s, u"b c"_s, true, u"a b c"_s);
+    row("only the new ones", u"a b"_s, u"b c"_s, false, u"c"_s);
+    row("another text does not make another entry", u"a"_s, u"a:A"_s, true, u"a"_s);
+    row("without uuid always new", u"-x"_s, u"-x"_s, true, u"x x"_s);
+    row("into nothing", u""_s, u"a a"_s, true, u"a a"_s);
 }
 
 void tst_MvCalendarEventMerge::joins()
 {
-    QFETCH(QString, base);
-    QFETCH(QString, other);
-    QFETCH(bool, keepBase);
-    QTEST(names(MvCalendarEventMerge::joined(list(base), list(other), keepBase)), "result");
+    const auto [base, other, keepBase, result] = MvRows<QString, QString, bool, QString>::current();
+    QCOMPARE(names(MvCalendarEventMerge::joined(list(base), list(other), keepBase)), result);
 }
 
 void tst_MvCalendarEventMerge::threeWay_data()
 {
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QString>("mine");
-    QTest::addColumn<QString>("theirs");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("nothing happened") << u"a b"_s << u"a b"_s << u"a b"_s << u"a b"_s;
-    QTest::newRow("both add") << u"a"_s << u"a b"_s << u"a c"_s << u"a b c"_s;
-    QTest::newRow("I remove") << u"a b"_s << u"a"_s << u"a b"_s << u"a"_s;
-    QTest::newRow("they remove") << u"a b"_s << u"a b"_s << u"a"_s << u"a"_s;
-    QTest::newRow("I change") << u"a b"_s << u"a b:B"_s << u"a b"_s << u"a B"_s;
-    QTest::newRow("they change") << u"a b"_s << u"a b"_s << u"a b:B"_s << u"a B"_s;
-    QTest::newRow("I change what they remove") << u"a b"_s << u"a b:B"_s << u"a"_s << u"a B"_s;
-    QTest::newRow("I remove what they change") << u"a b"_s << u"a"_s << u"a b:B"_s << u"a B"_s;
-    QTest::newRow("both add the same text") << u"a"_s << u"a b:x"_s << u"a c:x"_s << u"a x"_s;
-    QTest::newRow("without uuid: I remove") << u"-x a"_s << u"a"_s << u"-x a c"_s << u"a c"_s;
-    QTest::newRow("without uuid: they add") << u"a"_s << u"a"_s << u"a -x"_s << u"a x"_s;
-    QTest::newRow("order is mine") << u"a b c"_s << u"c b a"_s << u"a b c d"_s << u"c b a d"_s;
+    const MvRows<QString, QString, QString, QString> row; // base, mine, theirs, result
+    row("nothing happened", u"a b"_s, u"a b"_s, u"a b"_s, u"a b"_s);
+    row("both add", u"a"_s, u"a b"_s, u"a c"_s, u"a b c"_s);
+    row("I remove", u"a b"_s, u"a"_s, u"a b"_s, u"a"_s);
+    row("they remove", u"a b"_s, u"a b"_s, u"a"_s, u"a"_s);
+    row("I change", u"a b"_s, u"a b:B"_s, u"a b"_s, u"a B"_s);
+    row("they change", u"a b"_s, u"a b"_s, u"a b:B"_s, u"a B"_s);
+    row("I change what they remove", u"a b"_s, u"a b:B"_s, u"a"_s, u"a B"_s);
+    row("I remove what they change", u"a b"_s, u"a"_s, u"a b:B"_s, u"a B"_s);
+    row("both add the same text", u"a"_s, u"a b:x"_s, u"a c:x"_s, u"a x"_s);
+    row("without uuid: I remove", u"-x a"_s, u"a"_s, u"-x a c"_s, u"a c"_s);
+    row("without uuid: they add", u"a"_s, u"a"_s, u"a -x"_s, u"a x"_s);
+    row("order is mine", u"a b c"_s, u"c b a"_s, u"a b c d"_s, u"c b a d"_s);
     const QString series = u"s:A@1 s:B@2 s:C@3"_s;
-    QTest::newRow("series: I continue, they add") << u"s:A@1"_s << series << u"s:A@1 y"_s << u"A@1 B@2 C@3 y"_s;
-    QTest::newRow("series: they rename") << series << u"s:A@1 s:B@2 s:C@3 n"_s << u"s:A@1 s:B@2 s:X@3"_s
-                                         << u"A@1 B@2 X@3 n"_s;
-    QTest::newRow("series: they rename one and I another")
-        << series << u"s:A@1 s:B@2 s:X@3"_s << u"s:Y@1 s:B@2 s:C@3"_s << u"Y@1 B@2 X@3"_s;
-    QTest::newRow("series: they remove one") << series << series << u"s:B@2 s:C@3"_s << u"B@2 C@3"_s;
-    QTest::newRow("series: both rename one, both stay")
-        << series << u"s:A@1 s:X@2 s:C@3"_s << u"s:A@1 s:Y@2 s:C@3"_s << u"A@1 X@2 Y@2 C@3"_s;
-    QTest::newRow("each reading makes new uuids")
-        << u"?x ?y ?z"_s << u"?x ?y ?z ?mine"_s << u"?x ?z ?theirs"_s << u"x z mine theirs"_s;
-    QTest::newRow("new uuids: both edit") << u"1:x 2:y"_s << u"1:X 2:y"_s << u"3:x 4:Y"_s << u"X Y"_s;
-    QTest::newRow("two equal ones are two") << u"-x -x"_s << u"-x -x a"_s << u"-x -x -x"_s << u"x x a x"_s;
-    QTest::newRow("one of two equal ones goes") << u"-x -x"_s << u"-x -x a"_s << u"-x"_s << u"x a"_s;
+    row("series: I continue, they add", u"s:A@1"_s, series, u"s:A@1 y"_s, u"A@1 B@2 C@3 y"_s);
+    row("series: they rename", series, u"s:A@1 s:B@2 s:C@3 n"_s, u"s:A@1 s:B@2 s:X@3"_s, u"A@1 B@2 X@3 n"_s);
+    row("series: they rename one and I another", series, u"s:A@1 s:B@2 s:X@3"_s, u"s:Y@1 s:B@2 s:C@3"_s,
+        u"Y@1 B@2 X@3"_s);
+    row("series: they remove one", series, series, u"s:B@2 s:C@3"_s, u"B@2 C@3"_s);
+    row("series: both rename one, both stay", series, u"s:A@1 s:X@2 s:C@3"_s, u"s:A@1 s:Y@2 s:C@3"_s,
+        u"A@1 X@2 Y@2 C@3"_s);
+    row("each reading makes new uuids", u"?x ?y ?z"_s, u"?x ?y ?z ?mine"_s, u"?x ?z ?theirs"_s, u"x z mine theirs"_s);
+    row("new uuids: both edit", u"1:x 2:y"_s, u"1:X 2:y"_s, u"3:x 4:Y"_s, u"X Y"_s);
+    row("two equal ones are two", u"-x -x"_s, u"-x -x a"_s, u"-x -x -x"_s, u"x x a x"_s);
+    row("one of two equal ones goes", u"-x -x"_s, u"-x -x a"_s, u"-x"_s, u"x a"_s);
 }
 
 void tst_MvCalendarEventMerge::threeWay()
 {
-    QFETCH(QString, base);
-    QFETCH(QString, mine);
-    QFETCH(QString, theirs);
-    QTEST(names(MvCalendarEventMerge::threeWay(list(base), list(mine), list(theirs))), "result");
+    const auto [base, mine, theirs, result] = MvRows<QString, QString, QString, QString>::current();
+    QCOMPARE(names(MvCalendarEventMerge::threeWay(list(base), list(mine), list(theirs))), result);
 }
 
 void tst_MvCalendarEventMerge::laterChangeOfAFieldWins()
@@ -141,15 +130,15 @@ void tst_MvCalendarEventMerge::partlyReadRemovesNothing()
 
 void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms_data()
 {
-    QTest::addColumn<int>("programs");
-    QTest::newRow("two") << 2;
-    QTest::newRow("three") << 3;
+    const MvRows<int> row; // programs
+    row("two", 2);
+    row("three", 3);
 }
 
 /// What nobody removed stays, what somebody removed goes, and nothing is there twice.
 void tst_MvCalendarEventMerge::anyEditsOfSeveralPrograms()
 {
-    QFETCH(int, programs);
+    const auto [programs] = MvRows<int>::current();
     struct Program
     {
         MvEntryEditor editor;

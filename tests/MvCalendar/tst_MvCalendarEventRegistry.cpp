@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -10,9 +11,6 @@
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvProductBase/MvSVGCompilerInstructionsCache.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -152,24 +150,19 @@ void tst_MvCalendarEventRegistry::fileForm()
 
 void tst_MvCalendarEventRegistry::changesOneEntry_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<bool>("changes");
-    QTest::newRow("adds") << QString() << u"C"_s << u"A B C"_s << true;
-    QTest::newRow("removes") << u"A"_s << QString() << u"B"_s << true;
-    QTest::newRow("replaces in place") << u"A"_s << u"C"_s << u"C B"_s << true;
-    QTest::newRow("the same") << u"A"_s << u"A"_s << u"A B"_s << false;
-    QTest::newRow("nothing for nothing") << QString() << QString() << u"A B"_s << false;
-    QTest::newRow("unknown one is added") << u"X"_s << u"C"_s << u"A B C"_s << true;
-    QTest::newRow("unknown one is not removed") << u"X"_s << QString() << u"A B"_s << false;
+    const MvRows<QString, QString, QString, bool> row; // before, after, result, changes
+    row("adds", QString(), u"C"_s, u"A B C"_s, true);
+    row("removes", u"A"_s, QString(), u"B"_s, true);
+    row("replaces in place", u"A"_s, u"C"_s, u"C B"_s, true);
+    row("the same", u"A"_s, u"A"_s, u"A B"_s, false);
+    row("nothing for nothing", QString(), QString(), u"A B"_s, false);
+    row("unknown one is added", u"X"_s, u"C"_s, u"A B C"_s, true);
+    row("unknown one is not removed", u"X"_s, QString(), u"A B"_s, false);
 }
 
 void tst_MvCalendarEventRegistry::changesOneEntry()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QFETCH(bool, changes);
+    const auto [before, after, result, changes] = MvRows<QString, QString, QString, bool>::current();
     const QDate day(2000, 1, 1);
     MvCalendarEventRegistry registry;
     registry.setEvents({entry(u"A"_s, day), entry(u"B"_s, day)});
@@ -177,7 +170,7 @@ void tst_MvCalendarEventRegistry::changesOneEntry()
     m_written.clear();
     const MvCalendarEvent newEntry = entry(after, day);
     QCOMPARE(registry.changeEvent(entry(before, day), newEntry), changes);
-    QTEST(names(registry.activeEventList()), "result");
+    QCOMPARE(names(registry.activeEventList()), result);
     QCOMPARE(spy.count(), changes ? 1 : 0);
     QCOMPARE(m_written.size(), changes ? 1 : 0);
     for (const MvCalendarEvent &event : registry.activeEventList()) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -9,9 +10,6 @@
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvSafeFileWriter.h"
-
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -122,23 +120,19 @@ void tst_MvCalendarEventStore::failedSavingIsTriedAgain()
 
 void tst_MvCalendarEventStore::restoresBackups_data()
 {
-    QTest::addColumn<QByteArray>("damaged");
-    QTest::addColumn<Problem::Kind>("kind");
-    QTest::addColumn<QString>("typedSince");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("cut off") << fileOf("A B").left(90) << Problem::Unreadable << QString() << u"A B"_s;
-    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << Problem::Unreadable << QString() << u"A B"_s;
-    QTest::newRow("typed since") << fileOf("A B").left(90) << Problem::Unreadable << u"X"_s << u"A B X"_s;
-    QTest::newRow("a part was read") << fileOf("A B").replace("2000-01-01T00:00:00</DateTime></CalendarEvent></",
-                                                              "1. Mai</DateTime></CalendarEvent></")
-                                     << Problem::PartlyReadable << u"X"_s << u"A B X"_s;
+    const MvRows<QByteArray, Problem::Kind, QString, QString> row; // damaged, kind, typedSince, result
+    row("cut off", fileOf("A B").left(90), Problem::Unreadable, QString(), u"A B"_s);
+    row("another kind of file", QByteArray("<Layouts/>"), Problem::Unreadable, QString(), u"A B"_s);
+    row("typed since", fileOf("A B").left(90), Problem::Unreadable, u"X"_s, u"A B X"_s);
+    row("a part was read",
+        fileOf("A B").replace("2000-01-01T00:00:00</DateTime></CalendarEvent></",
+                              "1. Mai</DateTime></CalendarEvent></"),
+        Problem::PartlyReadable, u"X"_s, u"A B X"_s);
 }
 
 void tst_MvCalendarEventStore::restoresBackups()
 {
-    QFETCH(QByteArray, damaged);
-    QFETCH(Problem::Kind, kind);
-    QFETCH(QString, typedSince);
+    const auto [damaged, kind, typedSince, result] = MvRows<QByteArray, Problem::Kind, QString, QString>::current();
     QVERIFY(MvTestFiles::write(path(), fileOf("A")));
     QVERIFY(MvSafeFileWriter::write(QFileInfo(path()), fileOf("A B")).isOk());
     QVERIFY(MvSafeFileWriter::write(QFileInfo(path()), fileOf("A B C")).isOk());
@@ -160,38 +154,36 @@ void tst_MvCalendarEventStore::restoresBackups()
     QVERIFY(store.restoreBackup(QFileInfo(m_data->filePath(u"missing.xml"_s))).error.contains(u"missing.xml"_s));
     QSignalSpy changed(&registry, &MvCalendarEventRegistry::eventsChanged);
     QCOMPARE(store.restoreBackup(backup).error, QString());
-    QTEST(names(registry.activeEventList()), "result");
-    QTEST(onDisk(), "result");
+    QCOMPARE(names(registry.activeEventList()), result);
+    QCOMPARE(onDisk(), result);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(store.problem().kind, Problem::None);
-    QFile aside(QDir(m_data->path()).entryInfoList({u"*unlesbar*"_s}).value(0).filePath());
-    QVERIFY(aside.open(QIODevice::ReadOnly));
-    QCOMPARE(aside.readAll(), damaged);
+    QCOMPARE(MvTestFiles::contentOf(QDir(m_data->path()).entryInfoList({u"*unlesbar*"_s}).value(0).filePath()),
+             damaged);
 }
 
 void tst_MvCalendarEventStore::takesInWhatOthersLeft_data()
 {
-    QTest::addColumn<QByteArray>("left");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("a line more, without uuids") << fileOf("A B C") << u"A B X C"_s;
-    QTest::newRow("a line less, without uuids") << fileOf("B") << u"B X"_s;
-    QTest::newRow("another kind of file") << QByteArray("<Layouts/>") << u"A B X"_s;
-    QTest::newRow("a cut-off file") << fileOf("B C").left(120) << u"A B X"_s;
-    QTest::newRow("an entry that cannot be read")
-        << fileOf("B C").replace("<DateTime>2000-01-01T00:00:00</DateTime></CalendarEvent></", "</CalendarEvent></")
-        << u"A B X"_s;
+    const MvRows<QByteArray, QString> row; // left, result
+    row("a line more, without uuids", fileOf("A B C"), u"A B X C"_s);
+    row("a line less, without uuids", fileOf("B"), u"B X"_s);
+    row("another kind of file", QByteArray("<Layouts/>"), u"A B X"_s);
+    row("a cut-off file", fileOf("B C").left(120), u"A B X"_s);
+    row("an entry that cannot be read",
+        fileOf("B C").replace("<DateTime>2000-01-01T00:00:00</DateTime></CalendarEvent></", "</CalendarEvent></"),
+        u"A B X"_s);
 }
 
 /// A text editor, a synchronised folder or another program changed the file: all that was not removed stays.
 void tst_MvCalendarEventStore::takesInWhatOthersLeft()
 {
-    QFETCH(QByteArray, left);
+    const auto [left, result] = MvRows<QByteArray, QString>::current();
     QVERIFY(MvTestFiles::write(path(), fileOf("A B")));
     MvCalendarEventRegistry registry;
     QVERIFY(MvTestFiles::write(path(), left));
     registry.changeEvent({}, entry(u"X"_s));
-    QTEST(names(registry.activeEventList()), "result");
-    QTEST(onDisk(), "result");
+    QCOMPARE(names(registry.activeEventList()), result);
+    QCOMPARE(onDisk(), result);
     QCOMPARE(MvCalendarEventRegistry().activeEventList(), registry.activeEventList());
 }
 
@@ -243,9 +235,7 @@ void tst_MvCalendarEventStore::writesEachChange()
             std::reverse(list.begin(), list.end());
         }
         registry.setEvents(list);
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), MvCalendarEventFile::toBytes(registry.activeEventList()));
+        QCOMPARE(MvTestFiles::contentOf(path()), MvCalendarEventFile::toBytes(registry.activeEventList()));
     }
 }
 

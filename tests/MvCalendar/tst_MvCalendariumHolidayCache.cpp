@@ -5,10 +5,9 @@
 
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
-
-#include <QDir>
 
 using namespace Qt::StringLiterals;
 using MvEntries::entry;
@@ -84,31 +83,25 @@ void tst_MvCalendariumHolidayCache::yearsAreComputedOnce()
 
 void tst_MvCalendariumHolidayCache::days_data()
 {
-    QTest::addColumn<QDate>("day");
-    QTest::addColumn<int>("features");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<int>("types"); // of all holidays of the day
+    const MvRows<QDate, int, QStringList, int> row; // day; features; texts; types: of all holidays of the day
     const int all = FEATURE_SCHOOL_VACATIONS;
     const int vacation = HOLIDAY_TYPE_SCHOOL_VACATION;
-    QTest::newRow("public holiday") << QDate(2026, 10, 3) << all << QStringList{u"Tag der Deutschen Einheit"_s}
-                                    << int(HOLIDAY_TYPE_PUBLIC);
-    QTest::newRow("nothing") << QDate(2026, 10, 5) << all << QStringList() << 0;
-    QTest::newRow("observed day") << QDate(2026, 5, 10) << all << QStringList{u"Muttertag"_s}
-                                  << int(HOLIDAY_TYPE_OBSERVANCE);
-    QTest::newRow("inside a vacation: its type, no text") << QDate(2026, 8, 20) << all << QStringList() << vacation;
-    QTest::newRow("vacation switched off") << QDate(2026, 8, 20) << 0 << QStringList() << 0;
-    QTest::newRow("a holiday and a nameless vacation day give one text")
-        << QDate(2026, 8, 15) << all << QStringList{u"Mariä Himmelfahrt"_s} << (HOLIDAY_TYPE_PUBLIC | vacation);
-    QTest::newRow("first day of a vacation") << QDate(2026, 8, 3) << all << QStringList{u"Sommerferien"_s} << vacation;
+    row("public holiday", QDate(2026, 10, 3), all, QStringList{u"Tag der Deutschen Einheit"_s},
+        int(HOLIDAY_TYPE_PUBLIC));
+    row("nothing", QDate(2026, 10, 5), all, QStringList(), 0);
+    row("observed day", QDate(2026, 5, 10), all, QStringList{u"Muttertag"_s}, int(HOLIDAY_TYPE_OBSERVANCE));
+    row("inside a vacation: its type, no text", QDate(2026, 8, 20), all, QStringList(), vacation);
+    row("vacation switched off", QDate(2026, 8, 20), 0, QStringList(), 0);
+    row("a holiday and a nameless vacation day give one text", QDate(2026, 8, 15), all,
+        QStringList{u"Mariä Himmelfahrt"_s}, (HOLIDAY_TYPE_PUBLIC | vacation));
+    row("first day of a vacation", QDate(2026, 8, 3), all, QStringList{u"Sommerferien"_s}, vacation);
 }
 
 void tst_MvCalendariumHolidayCache::days()
 {
-    QFETCH(QDate, day);
-    QFETCH(int, features);
-    QFETCH(int, types);
+    const auto [day, features, texts, types] = MvRows<QDate, int, QStringList, int>::current();
     const MvCalendariumContentKey key = keyOf(day, bavaria(features));
-    QTEST(m_cache.descriptions(key), "texts");
+    QCOMPARE(m_cache.descriptions(key), texts);
     int tagged = 0;
     const QSet<MvCalendariumHolidayType> tags = m_cache.tags(key);
     for (const MvCalendariumHolidayType &tag : tags)
@@ -170,27 +163,24 @@ void tst_MvCalendariumHolidayCache::longestEventName()
 
 void tst_MvCalendariumHolidayCache::repairsConfigurations_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("province");
-    QTest::addColumn<QString>("repairedLocale");
-    QTest::addColumn<QString>("repairedProvince");
-    QTest::newRow("fine") << u"de_AT"_s << u"9"_s << u"de_AT"_s << u"9"_s;
-    QTest::newRow("unknown province") << u"de_AT"_s << u"BY"_s << u"de_AT"_s << u"1"_s;
-    QTest::newRow("province in another case") << u"de_DE"_s << u"by"_s << u"de_DE"_s << u"BW"_s;
-    QTest::newRow("unknown language") << u"ja_JP"_s << u"BY"_s << u"de_DE"_s << u"BY"_s;
-    QTest::newRow("neither is known") << u"en_DE"_s << u"9"_s << u"de_DE"_s << u"BW"_s;
-    QTest::newRow("a country without provinces keeps what is there") << u"de_LI"_s << u"BY"_s << u"de_LI"_s << u"BY"_s;
+    const MvRows<QString, QString, QString, QString> row; // locale, province, repairedLocale, repairedProvince
+    row("fine", u"de_AT"_s, u"9"_s, u"de_AT"_s, u"9"_s);
+    row("unknown province", u"de_AT"_s, u"BY"_s, u"de_AT"_s, u"1"_s);
+    row("province in another case", u"de_DE"_s, u"by"_s, u"de_DE"_s, u"BW"_s);
+    row("unknown language", u"ja_JP"_s, u"BY"_s, u"de_DE"_s, u"BY"_s);
+    row("neither is known", u"en_DE"_s, u"9"_s, u"de_DE"_s, u"BW"_s);
+    row("a country without provinces keeps what is there", u"de_LI"_s, u"BY"_s, u"de_LI"_s, u"BY"_s);
 }
 
 void tst_MvCalendariumHolidayCache::repairsConfigurations()
 {
-    QFETCH(QString, locale);
-    QFETCH(QString, province);
+    const auto [locale, province, repairedLocale, repairedProvince] =
+        MvRows<QString, QString, QString, QString>::current();
     const MvCalendariumFeatures features(7);
     const MvCalendariumHolidayConfig valid =
         m_cache.makeValid(MvCalendariumHolidayConfig(MvLocale(locale), province, features));
-    QTEST(valid.language().name(), "repairedLocale");
-    QTEST(valid.province(), "repairedProvince");
+    QCOMPARE(valid.language().name(), repairedLocale);
+    QCOMPARE(valid.province(), repairedProvince);
     QCOMPARE(valid.features(), features);
 }
 

@@ -2,6 +2,7 @@
 #include "MvBoxFont.h"
 #include "MvEntries.h"
 #include "MvPageFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
@@ -59,80 +60,72 @@ private Q_SLOTS:
 
 void tst_MvCalendariumRenderer::weeksOfMonth_data()
 {
-    QTest::addColumn<QDate>("month");
-    QTest::addColumn<int>("weeks");
-    QTest::newRow("28 days from Monday") << QDate(2027, 2, 1) << 4;
-    QTest::newRow("28 days from Thursday") << QDate(2029, 2, 1) << 5;
-    QTest::newRow("30 days from Sunday") << QDate(2031, 6, 1) << 6;
-    QTest::newRow("31 days from Friday") << QDate(2027, 10, 1) << 5;
-    QTest::newRow("31 days from Sunday") << QDate(2027, 8, 1) << 6;
-    QTest::newRow("any day of the month counts") << QDate(2027, 2, 28) << 4;
-    QTest::newRow("no month") << QDate() << 6;
+    const MvRows<QDate, int> row; // month, weeks
+    row("28 days from Monday", QDate(2027, 2, 1), 4);
+    row("28 days from Thursday", QDate(2029, 2, 1), 5);
+    row("30 days from Sunday", QDate(2031, 6, 1), 6);
+    row("31 days from Friday", QDate(2027, 10, 1), 5);
+    row("31 days from Sunday", QDate(2027, 8, 1), 6);
+    row("any day of the month counts", QDate(2027, 2, 28), 4);
+    row("no month", QDate(), 6);
 }
 
 void tst_MvCalendariumRenderer::weeksOfMonth()
 {
-    QFETCH(QDate, month);
+    const auto [month, weeks] = MvRows<QDate, int>::current();
     MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 1, 1));
-    QTEST(page.renderer().numberOfWeeks(month), "weeks");
+    QCOMPARE(page.renderer().numberOfWeeks(month), weeks);
     MvPageFixture withEmptyWeeks(MvPageFixture::appearance(u"calendar_render_title"_s), QDate(2027, 1, 1));
     QCOMPARE(withEmptyWeeks.renderer().numberOfWeeks(month), 6);
 }
 
 void tst_MvCalendariumRenderer::weekParity_data()
 {
-    QTest::addColumn<QDate>("page");
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<bool>("even");
-    QTest::newRow("first week is odd") << QDate(2027, 10, 1) << QDate(2027, 10, 3) << false;
-    QTest::newRow("second week is even") << QDate(2027, 10, 1) << QDate(2027, 10, 4) << true;
-    QTest::newRow("third week is odd") << QDate(2027, 10, 1) << QDate(2027, 10, 17) << false;
-    QTest::newRow("days before the month") << QDate(2027, 10, 1) << QDate(2027, 9, 28) << false;
-    QTest::newRow("days after the month follow its last day") << QDate(2027, 9, 1) << QDate(2027, 10, 3) << false;
-    QTest::newRow("December before January") << QDate(2027, 1, 1) << QDate(2026, 12, 30) << false;
+    const MvRows<QDate, QDate, bool> row; // page, date, even
+    row("first week is odd", QDate(2027, 10, 1), QDate(2027, 10, 3), false);
+    row("second week is even", QDate(2027, 10, 1), QDate(2027, 10, 4), true);
+    row("third week is odd", QDate(2027, 10, 1), QDate(2027, 10, 17), false);
+    row("days before the month", QDate(2027, 10, 1), QDate(2027, 9, 28), false);
+    row("days after the month follow its last day", QDate(2027, 9, 1), QDate(2027, 10, 3), false);
+    row("December before January", QDate(2027, 1, 1), QDate(2026, 12, 30), false);
     // 1 January 2027 lies in week 53, 4 January in week 1: both odd, so that the rows do not alternate here
-    QTest::newRow("after week 53") << QDate(2027, 1, 1) << QDate(2027, 1, 4) << false;
-    QTest::newRow("January after December") << QDate(2026, 12, 1) << QDate(2027, 1, 2) << false;
+    row("after week 53", QDate(2027, 1, 1), QDate(2027, 1, 4), false);
+    row("January after December", QDate(2026, 12, 1), QDate(2027, 1, 2), false);
 }
 
 void tst_MvCalendariumRenderer::weekParity()
 {
-    QFETCH(QDate, page);
-    QFETCH(QDate, date);
+    const auto [page, date, even] = MvRows<QDate, QDate, bool>::current();
     MvPageFixture fixture(MvPageFixture::appearance(noEmptyWeeks), page);
-    QTEST(fixture.renderer().isEvenWeek(date), "even");
+    QCOMPARE(fixture.renderer().isEvenWeek(date), even);
 }
 
 void tst_MvCalendariumRenderer::cellTypes_data()
 {
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<int>("features");
-    QTest::addColumn<int>("inscription");
-    QTest::addColumn<int>("color");
+    const MvRows<QDate, int, int, int> row; // date, features, inscription, color
     const int holiday = CALENDAR_CELL_TYPE_HOLIDAY;
     const int weekday = CALENDAR_CELL_TYPE_WEEKDAY;
-    QTest::newRow("Epiphany") << QDate(2027, 1, 6) << 3 << holiday << holiday;
-    QTest::newRow("its text alone") << QDate(2027, 1, 6) << 1 << holiday << weekday;
-    QTest::newRow("its colour alone") << QDate(2027, 1, 6) << 2 << weekday << holiday;
-    QTest::newRow("switched off") << QDate(2027, 1, 6) << 0 << weekday << weekday;
-    QTest::newRow("Labour Day on a Saturday") << QDate(2027, 5, 1) << 3 << holiday << holiday;
-    QTest::newRow("the same switched off")
-        << QDate(2027, 5, 1) << 0 << int(CALENDAR_CELL_TYPE_SATURDAY) << int(CALENDAR_CELL_TYPE_SATURDAY);
-    QTest::newRow("vacation") << QDate(2027, 8, 10) << 8 << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION)
-                              << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION);
-    QTest::newRow("Saturday in the vacation")
-        << QDate(2027, 8, 14) << 11 << int(CALENDAR_CELL_TYPE_SATURDAY) << int(CALENDAR_CELL_TYPE_SATURDAY);
-    QTest::newRow("a named day is no holiday") << QDate(2027, 12, 24) << 3 << weekday << weekday;
+    row("Epiphany", QDate(2027, 1, 6), 3, holiday, holiday);
+    row("its text alone", QDate(2027, 1, 6), 1, holiday, weekday);
+    row("its colour alone", QDate(2027, 1, 6), 2, weekday, holiday);
+    row("switched off", QDate(2027, 1, 6), 0, weekday, weekday);
+    row("Labour Day on a Saturday", QDate(2027, 5, 1), 3, holiday, holiday);
+    row("the same switched off", QDate(2027, 5, 1), 0, int(CALENDAR_CELL_TYPE_SATURDAY),
+        int(CALENDAR_CELL_TYPE_SATURDAY));
+    row("vacation", QDate(2027, 8, 10), 8, int(CALENDAR_CELL_TYPE_SCHOOL_VACATION),
+        int(CALENDAR_CELL_TYPE_SCHOOL_VACATION));
+    row("Saturday in the vacation", QDate(2027, 8, 14), 11, int(CALENDAR_CELL_TYPE_SATURDAY),
+        int(CALENDAR_CELL_TYPE_SATURDAY));
+    row("a named day is no holiday", QDate(2027, 12, 24), 3, weekday, weekday);
 }
 
 void tst_MvCalendariumRenderer::cellTypes()
 {
-    QFETCH(QDate, date);
-    QFETCH(int, features);
+    const auto [date, features, inscription, color] = MvRows<QDate, int, int, int>::current();
     MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), date, features);
     const MvCalendarCellTypeConfig content = page.renderer().contentCellTypeConfig(date);
-    QTEST(content.inscriptionConfig().toInt(), "inscription");
-    QTEST(content.colorConfig().toInt(), "color");
+    QCOMPARE(content.inscriptionConfig().toInt(), inscription);
+    QCOMPARE(content.colorConfig().toInt(), color);
     // heads decide alike
     const bool headIsHoliday =
         page.renderer().headCellTypeConfig(date).colorConfig() == CALENDAR_CELL_TYPE_HEAD_HOLIDAY;
@@ -171,50 +164,44 @@ void tst_MvCalendariumRenderer::monthsAndWeeks()
 
 void tst_MvCalendariumRenderer::scales_data()
 {
-    QTest::addColumn<int>("percentage");
-    QTest::addColumn<double>("scale");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<int>("text");
-    QTest::newRow("as it is") << 0 << 1.0 << 50 << 25;
-    QTest::newRow("smaller") << 0 << 0.96 << 48 << 24;
-    QTest::newRow("down to 6.5 points") << 0 << 0.1 << 23 << 23;
-    QTest::newRow("larger, and back again") << 100 << 0.5 << 50 << 25;
-    QTest::newRow("larger, and some way back") << 100 << 0.75 << 75 << 25;
+    const MvRows<int, double, int, int> row; // percentage, scale, number, text
+    row("as it is", 0, 1.0, 50, 25);
+    row("smaller", 0, 0.96, 48, 24);
+    row("down to 6.5 points", 0, 0.1, 23, 23);
+    row("larger, and back again", 100, 0.5, 50, 25);
+    row("larger, and some way back", 100, 0.75, 75, 25);
 }
 
 void tst_MvCalendariumRenderer::scales()
 {
-    QFETCH(int, percentage);
-    QFETCH(double, scale);
+    const auto [percentage, scale, number, text] = MvRows<int, double, int, int>::current();
     MvCalendariumAppearance appearance = MvPageFixture::appearance(noEmptyWeeks);
     MvCalendariumFontSettings fonts = appearance.fontSettings();
     fonts.setFontSizePercentage(percentage);
     appearance.setFontSettings(fonts);
     MvPageFixture page(appearance, QDate(2027, 1, 1));
     page.renderer().setScale(scale, scale);
-    QTEST(page.renderer().font(CALENDAR_CELL_TYPE_WEEKDAY).pixelSize(), "number");
-    QTEST(page.renderer().fontHolidays(CALENDAR_CELL_TYPE_WEEKDAY).pixelSize(), "text");
+    QCOMPARE(page.renderer().font(CALENDAR_CELL_TYPE_WEEKDAY).pixelSize(), number);
+    QCOMPARE(page.renderer().fontHolidays(CALENDAR_CELL_TYPE_WEEKDAY).pixelSize(), text);
     QCOMPARE(page.renderer().padding(CALENDAR_CELL_TYPE_WEEKDAY).left(), 10.0 * scale);
 }
 
 void tst_MvCalendariumRenderer::placesTextsAsFontMetricsDo_data()
 {
-    QTest::addColumn<QFont>("font");
-    QTest::addColumn<int>("flags");
+    const MvRows<QFont, int> row; // font, flags
     for (const int flags : {int(Qt::AlignLeft | Qt::AlignTop), int(Qt::AlignCenter),
                             int(Qt::AlignRight | Qt::AlignBottom), int(Qt::AlignHCenter | Qt::AlignBottom), 0}) {
-        QTest::addRow("boxes %x", flags) << MvBoxFont::font(37) << flags;
+        row(QString::asprintf("boxes %x", flags), MvBoxFont::font(37), flags);
         QFont lato(u"Lato"_s);
         lato.setPixelSize(31);
         lato.setHintingPreference(QFont::PreferNoHinting);
-        QTest::addRow("Lato %x", flags) << lato << flags;
+        row(QString::asprintf("Lato %x", flags), lato, flags);
     }
 }
 
 void tst_MvCalendariumRenderer::placesTextsAsFontMetricsDo()
 {
-    QFETCH(QFont, font);
-    QFETCH(int, flags);
+    const auto [font, flags] = MvRows<QFont, int>::current();
     const QRectF rect(12.5, 33.25, 611.7, 77.1);
     const QString text = u"Heilige Drei Könige"_s;
     const QRectF expected = QFontMetricsF(font).boundingRect(rect, flags | Qt::TextDontClip, text);
@@ -246,31 +233,25 @@ void tst_MvCalendariumRenderer::textsOfADay()
 
 void tst_MvCalendariumRenderer::runningVacations_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QDate>("day");
-    QTest::addColumn<int>("features");
-    QTest::addColumn<QStringList>("expected");
+    const MvRows<QString, QDate, int, QStringList> row; // type, day, features, expected
     const int all = FEATURE_HOLIDAYS | FEATURE_SCHOOL_VACATIONS;
     const QString grid = u"CALENDAR_ONE_WEEK_PER_ROW"_s;
     const QStringList summer{u"Sommerferien"_s}; // of Bayern: 3 August to 14 September 2026
-    QTest::newRow("its own first day") << grid << QDate(2026, 8, 3) << all << summer;
-    QTest::newRow("first day of the next page") << grid << QDate(2026, 9, 1) << all << summer;
-    QTest::newRow("of a list, too") << u"CALENDAR_ONE_DAY_PER_ROW"_s << QDate(2026, 9, 1) << all << summer;
-    QTest::newRow("with a holiday") << grid << QDate(2027, 1, 1) << all
-                                    << QStringList{u"Neujahr"_s, u"Weihnachtsferien"_s};
-    QTest::newRow("no other day") << grid << QDate(2026, 9, 2) << all << QStringList();
-    QTest::newRow("not over a year's page") << u"CALENDAR_YEAR"_s << QDate(2026, 9, 1) << all << QStringList();
-    QTest::newRow("no vacations") << grid << QDate(2026, 9, 1) << int(FEATURE_HOLIDAYS) << QStringList();
+    row("its own first day", grid, QDate(2026, 8, 3), all, summer);
+    row("first day of the next page", grid, QDate(2026, 9, 1), all, summer);
+    row("of a list, too", u"CALENDAR_ONE_DAY_PER_ROW"_s, QDate(2026, 9, 1), all, summer);
+    row("with a holiday", grid, QDate(2027, 1, 1), all, QStringList{u"Neujahr"_s, u"Weihnachtsferien"_s});
+    row("no other day", grid, QDate(2026, 9, 2), all, QStringList());
+    row("not over a year's page", u"CALENDAR_YEAR"_s, QDate(2026, 9, 1), all, QStringList());
+    row("no vacations", grid, QDate(2026, 9, 1), int(FEATURE_HOLIDAYS), QStringList());
 }
 
 void tst_MvCalendariumRenderer::runningVacations()
 {
-    QFETCH(const QString, type);
-    QFETCH(const QDate, day);
-    QFETCH(const int, features);
+    const auto [type, day, features, expected] = MvRows<QString, QDate, int, QStringList>::current();
     MvPageFixture page(MvPageFixture::appearance({}, MvPageFixture::defaultCells(), type),
                        QDate(day.year(), day.month(), 1), features);
-    QTEST(page.renderer().describeHolidays(day), "expected");
+    QCOMPARE(page.renderer().describeHolidays(day), expected);
 }
 
 void tst_MvCalendariumRenderer::passKeepsTheClip()
@@ -302,20 +283,19 @@ void tst_MvCalendariumRenderer::translucentBackgrounds()
 
 void tst_MvCalendariumRenderer::smallCellsShowNumbersOnly_data()
 {
-    QTest::addColumn<QSizeF>("cell");
-    QTest::addColumn<bool>("hasText");
-    QTest::newRow("too narrow") << QSizeF(155.0, 100.0) << false;
-    QTest::newRow("too low") << QSizeF(400.0, 60.0) << false;
-    QTest::newRow("just large enough") << QSizeF(155.1, 60.1) << true;
+    const MvRows<QSizeF, bool> row; // cell, hasText
+    row("too narrow", QSizeF(155.0, 100.0), false);
+    row("too low", QSizeF(400.0, 60.0), false);
+    row("just large enough", QSizeF(155.1, 60.1), true);
 }
 
 void tst_MvCalendariumRenderer::smallCellsShowNumbersOnly()
 {
-    QFETCH(QSizeF, cell);
+    const auto [cell, hasText] = MvRows<QSizeF, bool>::current();
     MvPageFixture page(MvPageFixture::appearance(noEmptyWeeks), QDate(2027, 5, 1));
     const QStringList texts = MvPageFixture::texts(page.render({0, 0, cell.width() * 7, cell.height() * 6}));
     QVERIFY(texts.contains(u"1"_s));
-    QTEST(texts.contains(u"Muttertag"_s), "hasText");
+    QCOMPARE(texts.contains(u"Muttertag"_s), hasText);
 }
 
 void tst_MvCalendariumRenderer::warnsOfTooWideWords()

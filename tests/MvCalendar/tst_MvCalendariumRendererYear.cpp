@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvPageFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvCalendariumRendererYear.h"
-
-#include <QMap>
-#include <QSet>
 
 using namespace Qt::StringLiterals;
 using MvEntries::entry;
@@ -78,20 +76,18 @@ private Q_SLOTS:
 
 void tst_MvCalendariumRendererYear::arrangement_data()
 {
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<int>("columns");
-    QTest::newRow("A4 landscape") << QSizeF(2770, 1900) << 4;
-    QTest::newRow("A4 upright") << QSizeF(1900, 2770) << 3;
-    QTest::newRow("strip") << QSizeF(6000, 500) << 12;
-    QTest::newRow("low strip below a photo") << QSizeF(3000, 800) << 6;
-    QTest::newRow("narrow column") << QSizeF(900, 2770) << 2;
-    QTest::newRow("bookmark") << QSizeF(500, 6000) << 1;
+    const MvRows<QSizeF, int> row; // size, columns
+    row("A4 landscape", QSizeF(2770, 1900), 4);
+    row("A4 upright", QSizeF(1900, 2770), 3);
+    row("strip", QSizeF(6000, 500), 12);
+    row("low strip below a photo", QSizeF(3000, 800), 6);
+    row("narrow column", QSizeF(900, 2770), 2);
+    row("bookmark", QSizeF(500, 6000), 1);
 }
 
 void tst_MvCalendariumRendererYear::arrangement()
 {
-    QFETCH(QSizeF, size);
-    QFETCH(int, columns);
+    const auto [size, columns] = MvRows<QSizeF, int>::current();
     MvPageFixture page = pageOf(gridInfo, QDate(2027, 1, 1));
     page.render({QPointF(0, 0), size});
     // as painted: the lefts of the months' first Mondays
@@ -105,32 +101,26 @@ void tst_MvCalendariumRendererYear::arrangement()
 
 void tst_MvCalendariumRendererYear::titles_data()
 {
-    QTest::addColumn<QDate>("from");
-    QTest::addColumn<QString>("info");
-    QTest::addColumn<QString>("headers");
-    QTest::addColumn<QString>("title");
+    const MvRows<QDate, QString, QString, QString> row; // from, info, headers, title
     const QDate january(2027, 1, 1);
     const QDate august(2026, 8, 1);
     const QString longYear = u"calendar_render_year_long"_s;
     const QString shortYear = u"calendar_render_year_short"_s;
     const QString school = u", calendar_render_year_school"_s;
     const QString all = u", calendar_render_all_years"_s;
-    QTest::newRow("year") << january << longYear << QString() << u"2027"_s;
-    QTest::newRow("short") << january << shortYear << QString() << u"'27"_s;
-    QTest::newRow("not said how") << january << u"calendar_render_month_long"_s << QString() << u"2027"_s;
-    QTest::newRow("two years") << august << longYear << QString() << u"2026/27"_s;
-    QTest::newRow("over the century") << QDate(2099, 9, 1) << longYear << QString() << u"2099/00"_s;
-    QTest::newRow("school year") << august << longYear + school << QString() << u"Schuljahr 2026/27"_s;
-    QTest::newRow("both in full") << august << longYear + school + all << QString() << u"Schuljahr 2026/2027"_s;
-    QTest::newRow("own separator") << august << longYear + all << u" bis "_s << u"2026 bis 2027"_s;
+    row("year", january, longYear, QString(), u"2027"_s);
+    row("short", january, shortYear, QString(), u"'27"_s);
+    row("not said how", january, u"calendar_render_month_long"_s, QString(), u"2027"_s);
+    row("two years", august, longYear, QString(), u"2026/27"_s);
+    row("over the century", QDate(2099, 9, 1), longYear, QString(), u"2099/00"_s);
+    row("school year", august, longYear + school, QString(), u"Schuljahr 2026/27"_s);
+    row("both in full", august, longYear + school + all, QString(), u"Schuljahr 2026/2027"_s);
+    row("own separator", august, longYear + all, u" bis "_s, u"2026 bis 2027"_s);
 }
 
 void tst_MvCalendariumRendererYear::titles()
 {
-    QFETCH(QDate, from);
-    QFETCH(QString, info);
-    QFETCH(QString, headers);
-    QFETCH(QString, title);
+    const auto [from, info, headers, title] = MvRows<QDate, QString, QString, QString>::current();
     for (const bool hasTitle : {true, false}) {
         const QString flags = hasTitle ? info + u", calendar_render_title"_s : info;
         MvCalendariumAppearance appearance =
@@ -146,24 +136,19 @@ void tst_MvCalendariumRendererYear::titles()
 
 void tst_MvCalendariumRendererYear::monthsOfTheCalendar_data()
 {
-    QTest::addColumn<int>("months");
-    QTest::addColumn<QDate>("shown");
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<QDate>("first");
-    QTest::newRow("page of May shows the calendar's year") << 12 << QDate(2026, 12, 1) << 0 << QDate(2026, 8, 1);
-    QTest::newRow("half a year shows a whole one") << 6 << QDate(2026, 8, 1) << 0 << QDate(2026, 8, 1);
-    QTest::newRow("second year") << 24 << QDate(2027, 8, 1) << 0 << QDate(2027, 8, 1);
-    QTest::newRow("within the second year") << 24 << QDate(2028, 7, 1) << 0 << QDate(2027, 8, 1);
-    QTest::newRow("ahead of the page") << 12 << QDate(2026, 8, 1) << 3 << QDate(2026, 11, 1);
-    QTest::newRow("before the calendar") << 12 << QDate(2020, 1, 1) << 0 << QDate(2026, 8, 1);
-    QTest::newRow("after it") << 24 << QDate(2040, 1, 1) << 0 << QDate(2027, 8, 1);
+    const MvRows<int, QDate, int, QDate> row; // months, shown, offset, first
+    row("page of May shows the calendar's year", 12, QDate(2026, 12, 1), 0, QDate(2026, 8, 1));
+    row("half a year shows a whole one", 6, QDate(2026, 8, 1), 0, QDate(2026, 8, 1));
+    row("second year", 24, QDate(2027, 8, 1), 0, QDate(2027, 8, 1));
+    row("within the second year", 24, QDate(2028, 7, 1), 0, QDate(2027, 8, 1));
+    row("ahead of the page", 12, QDate(2026, 8, 1), 3, QDate(2026, 11, 1));
+    row("before the calendar", 12, QDate(2020, 1, 1), 0, QDate(2026, 8, 1));
+    row("after it", 24, QDate(2040, 1, 1), 0, QDate(2027, 8, 1));
 }
 
 void tst_MvCalendariumRendererYear::monthsOfTheCalendar()
 {
-    QFETCH(int, months);
-    QFETCH(QDate, shown);
-    QFETCH(int, offset);
+    const auto [months, shown, offset, first] = MvRows<int, QDate, int, QDate>::current();
     MvCalendariumAppearance appearance =
         MvPageFixture::appearance(gridInfo, MvPageFixture::defaultCells(), u"CALENDAR_YEAR"_s);
     appearance.setOffsetMonth(offset);
@@ -172,7 +157,7 @@ void tst_MvCalendariumRendererYear::monthsOfTheCalendar()
     page.renderer().setCalendarInformation(MvPageFixture::content(shown),
                                            MvDateRange(from, from.addMonths(months).addDays(-1)));
     page.render(a4);
-    QTEST(cellsByDate(page).firstKey(), "first");
+    QCOMPARE(cellsByDate(page).firstKey(), first);
     QCOMPARE(cellsByDate(page).lastKey(), yearOf(page).firstMonth().addMonths(12).addDays(-1));
 }
 

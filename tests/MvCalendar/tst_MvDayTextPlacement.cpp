@@ -2,6 +2,7 @@
 #include "MvCalendar/MvDayTextPlacement.h"
 
 #include "MvBoxFont.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 using namespace Qt::StringLiterals;
@@ -39,13 +40,7 @@ MvPlacedTexts placed(const MvDayCell &cell, const QStringList &texts)
 
 void tst_MvDayTextPlacement::places_data()
 {
-    QTest::addColumn<QSizeF>("size");
-    QTest::addColumn<int>("number");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<QStringList>("top");
-    QTest::addColumn<QStringList>("bottom");
-    QTest::addColumn<bool>("isBeside");
-    QTest::addColumn<QStringList>("cut");
+    const MvRows<QSizeF, int, QStringList, QStringList, QStringList, bool, QStringList> row;
     const int top = Qt::AlignTop | Qt::AlignLeft;
     const int bottom = Qt::AlignBottom | Qt::AlignLeft;
     const int middle = Qt::AlignVCenter | Qt::AlignLeft;
@@ -53,45 +48,38 @@ void tst_MvDayTextPlacement::places_data()
     const QString max = u"Max"_s;
     const QStringList both{oma, max};
     const QStringList none;
-    QTest::newRow("under the number") << QSizeF(380, 300) << top << both << none << both << false << none;
-    QTest::newRow("over it") << QSizeF(380, 300) << bottom << QStringList{max} << QStringList{max} << none << false
-                             << none;
-    QTest::newRow("around it") << QSizeF(380, 300) << middle << both << QStringList{oma} << QStringList{max} << false
-                               << none;
-    QTest::newRow("low, one line") << QSizeF(380, 96) << top << QStringList{oma} << none << QStringList{oma} << false
-                                   << none;
-    QTest::newRow("low, two beside") << QSizeF(380, 96) << top << both << none << both << true << none;
-    QTest::newRow("low, beside over the foot") << QSizeF(380, 96) << bottom << both << both << none << true << none;
-    QTest::newRow("low, the line meets the number") << QSizeF(200, 70) << top << QStringList{u"Pfingstmontag"_s} << none
-                                                    << QStringList{u"Pfingstmontag"_s} << true << none;
+    row("under the number", QSizeF(380, 300), top, both, none, both, false, none);
+    row("over it", QSizeF(380, 300), bottom, QStringList{max}, QStringList{max}, none, false, none);
+    row("around it", QSizeF(380, 300), middle, both, QStringList{oma}, QStringList{max}, false, none);
+    row("low, one line", QSizeF(380, 96), top, QStringList{oma}, none, QStringList{oma}, false, none);
+    row("low, two beside", QSizeF(380, 96), top, both, none, both, true, none);
+    row("low, beside over the foot", QSizeF(380, 96), bottom, both, both, none, true, none);
+    row("low, the line meets the number", QSizeF(200, 70), top, QStringList{u"Pfingstmontag"_s}, none,
+        QStringList{u"Pfingstmontag"_s}, true, none);
     const QStringList aunt{u"Großtante Wilhelmine aus Berlin"_s};
-    QTest::newRow("low, the line comes near the number")
-        << QSizeF(380, 89) << top << aunt << none << aunt << true << none;
-    QTest::newRow("narrow: divided under the number")
-        << QSizeF(120, 300) << top << QStringList{u"Pfingstmontag"_s} << none << QStringList{u"Pfingstmon-"_s, u"tag"_s}
-        << false << none;
-    QTest::newRow("paddings give before") << QSizeF(140, 300) << top << QStringList{u"Pfingstmonta"_s} << none
-                                          << QStringList{u"Pfingstmonta"_s} << false << none;
+    row("low, the line comes near the number", QSizeF(380, 89), top, aunt, none, aunt, true, none);
+    row("narrow: divided under the number", QSizeF(120, 300), top, QStringList{u"Pfingstmontag"_s}, none,
+        QStringList{u"Pfingstmon-"_s, u"tag"_s}, false, none);
+    row("paddings give before", QSizeF(140, 300), top, QStringList{u"Pfingstmonta"_s}, none,
+        QStringList{u"Pfingstmonta"_s}, false, none);
     const QStringList meeting{u"Mitgliederversammlung des Vereins"_s};
-    QTest::newRow("no slivers beside the number")
-        << QSizeF(114, 70) << top << meeting << none << none << false << meeting;
+    row("no slivers beside the number", QSizeF(114, 70), top, meeting, none, none, false, meeting);
     const QStringList visit{u"Geburtstagsbesuch"_s};
-    QTest::newRow("small rather than in pieces") << QSizeF(140, 90) << top << visit << none << visit << false << none;
-    QTest::newRow("no room: each text is named") << QSizeF(60, 62) << top << both << none << none << false << both;
+    row("small rather than in pieces", QSizeF(140, 90), top, visit, none, visit, false, none);
+    row("no room: each text is named", QSizeF(60, 62), top, both, none, none, false, both);
 }
 
 void tst_MvDayTextPlacement::places()
 {
-    QFETCH(QSizeF, size);
-    QFETCH(int, number);
-    QFETCH(QStringList, texts);
+    const auto [size, number, texts, top, bottom, isBeside, cut] =
+        MvRows<QSizeF, int, QStringList, QStringList, QStringList, bool, QStringList>::current();
     const MvDayCell cell = cellOf(size, Qt::Alignment(number));
     const MvPlacedTexts found = placed(cell, texts);
-    QTEST(found.top, "top");
-    QTEST(found.bottom, "bottom");
-    QTEST(found.text.cutTexts, "cut");
+    QCOMPARE(found.top, top);
+    QCOMPARE(found.bottom, bottom);
+    QCOMPARE(found.text.cutTexts, cut);
     if (!found.text.lines.isEmpty())
-        QTEST(found.isBeside, "isBeside");
+        QCOMPARE(found.isBeside, isBeside);
     const QList<QRectF> inks = found.ink();
     for (const QRectF &ink : inks)
         QVERIFY(ink.isNull() || (cell.rect.contains(ink) && !ink.intersects(cell.numberInk)));

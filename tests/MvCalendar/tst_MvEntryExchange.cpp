@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -7,8 +8,6 @@
 #include "MvCalendar/MvHolidayEntries.h"
 #include "MvCalendar/MvICalendar.h"
 #include "MvCore/MvLocale.h"
-
-#include <QDir>
 
 #include <libical/ical.h>
 
@@ -68,25 +67,24 @@ private:
 /// Files as other programs write them, and what stands in them.
 void tst_MvEntryExchange::reads_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("expected");
+    const MvRows<QByteArray, QString> row; // bytes, expected
     const QDir told(QStringLiteral(MV_TEST_DATA "/exchange"));
     for (const QString &name : told.entryList({u"*.txt"_s}, QDir::Files))
-        QTest::newRow(qPrintable(name)) << contentOf(corpus().filePath(name.chopped(4)))
-                                        << QString::fromUtf8(contentOf(told.filePath(name))).trimmed();
-    QTest::newRow("table without headings, in Windows-1252")
-        << QByteArray("J\xf6rg;17.05.1941\nErika;29.02.\nUwe;1.4.1950\nIda;2.4.1961\n")
-        << u"1941-05-17 Jörg []\n1604-02-29 Erika []\n1950-04-01 Uwe []\n1961-04-02 Ida []"_s;
+        row(name, contentOf(corpus().filePath(name.chopped(4))),
+            QString::fromUtf8(contentOf(told.filePath(name))).trimmed());
+    row("table without headings, in Windows-1252",
+        QByteArray("J\xf6rg;17.05.1941\nErika;29.02.\nUwe;1.4.1950\nIda;2.4.1961\n"),
+        u"1941-05-17 Jörg []\n1604-02-29 Erika []\n1950-04-01 Uwe []\n1961-04-02 Ida []"_s);
 }
 
 void tst_MvEntryExchange::reads()
 {
-    QFETCH(QByteArray, bytes);
+    const auto [bytes, expected] = MvRows<QByteArray, QString>::current();
     qputenv("TZ", "Europe/Berlin");
     tzset();
     const MvEntryReading reading = MvEntryIntake::read(bytes, u"file"_s);
     QVERIFY2(reading.isOk(), qPrintable(reading.error));
-    QTEST(told(reading), "expected");
+    QCOMPARE(told(reading), expected);
 }
 
 /// One that is too large is refused in words, and the birthday is taken nevertheless.
@@ -227,17 +225,16 @@ void tst_MvEntryExchange::holidaysOfTheCountry()
 
 void tst_MvEntryExchange::partsWithoutEnd_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("components within each other")
-        << QByteArray("BEGIN:A\n").repeated(20000) + QByteArray("END:B\n").repeated(20000);
-    QTest::newRow("one name, thousands of rules")
-        << QByteArray("BEGIN:VEVENT\nUID:1\nDTSTART:20270101\nSUMMARY:A\nRRULE:FREQ=DAILY\nEND:VEVENT\n")
-               .repeated(3000);
+    const MvRows<QByteArray> row; // content
+    row("components within each other",
+        QByteArray("BEGIN:A\n").repeated(20000) + QByteArray("END:B\n").repeated(20000));
+    row("one name, thousands of rules",
+        QByteArray("BEGIN:VEVENT\nUID:1\nDTSTART:20270101\nSUMMARY:A\nRRULE:FREQ=DAILY\nEND:VEVENT\n").repeated(3000));
 }
 
 void tst_MvEntryExchange::partsWithoutEnd()
 {
-    QFETCH(QByteArray, content);
+    const auto [content] = MvRows<QByteArray>::current();
     const MvEntryReading reading = MvEntryIntake::read("BEGIN:VCALENDAR\n" + content, u"file"_s);
     QVERIFY(reading.isOk() || reading.error.startsWith(u"file: "));
     QVERIFY(reading.events.size() + reading.skipped.size() >= content.count("BEGIN:VEVENT"));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvEntryMove.h"
@@ -55,13 +56,11 @@ private Q_SLOTS:
 
 void tst_MvEntryMove::moves_data()
 {
-    QTest::addColumn<QString>("given");
-    QTest::addColumn<QDate>("from");
-    QTest::addColumn<QDate>("to");
-    QTest::addColumn<QString>("after"); // what all times are then; empty where they cannot be moved
-    const auto row = [](const char *name, const char *given, const char *from, const char *to, const char *after) {
-        QTest::newRow(name) << QString::fromLatin1(given) << QDate::fromString(QString::fromLatin1(from), Qt::ISODate)
-                            << QDate::fromString(QString::fromLatin1(to), Qt::ISODate) << QString::fromLatin1(after);
+    // after: what all times are then; empty where they cannot be moved
+    const MvRows<QString, QDate, QDate, QString> add;
+    const auto row = [&](const char *name, const char *given, const char *from, const char *to, const char *after) {
+        add(name, QString::fromLatin1(given), QDate::fromString(QString::fromLatin1(from), Qt::ISODate),
+            QDate::fromString(QString::fromLatin1(to), Qt::ISODate), QString::fromLatin1(after));
     };
     row("once", "2027-01-14", "2027-01-14", "2027-01-16", "2027-01-16");
     row("a span, taken in its middle", "2027-07-30 .. 2027-08-03", "2027-08-01", "2027-08-03",
@@ -96,10 +95,7 @@ void tst_MvEntryMove::moves_data()
 /// All times, this one, and a copy.
 void tst_MvEntryMove::moves()
 {
-    QFETCH(const QString, given);
-    QFETCH(const QDate, from);
-    QFETCH(const QDate, to);
-    QFETCH(const QString, after);
+    const auto [given, from, to, after] = MvRows<QString, QDate, QDate, QString>::current();
     const MvCalendarEvent entry = entryOf(given);
     const MvEntryMove move(entry, from, to);
     QVERIFY(!move.isNone());
@@ -131,14 +127,12 @@ void tst_MvEntryMove::moves()
 
 void tst_MvEntryMove::shifts_data()
 {
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QString>("rule");
-    QTest::addColumn<int>("years");
-    QTest::addColumn<int>("days");
-    QTest::addColumn<QString>("after"); // an entry of three days, without its second time
-    const QDate thursday(2027, 1, 14);  // the second one of the month
-    const auto add = [](const char *name, const QDate &date, const char *rule, int years, int days, const char *after) {
-        QTest::newRow(name) << date << QString::fromLatin1(rule) << years << days << QString::fromLatin1(after);
+    // after: an entry of three days, without its second time
+    const MvRows<QDate, QString, int, int, QString> row;
+    const QDate thursday(2027, 1, 14); // the second one of the month
+    const auto add = [&](const char *name, const QDate &date, const char *rule, int years, int days,
+                         const char *after) {
+        row(name, date, QString::fromLatin1(rule), years, days, QString::fromLatin1(after));
     };
     add("once", thursday, "", 1, 0, "2028-01-14 .. 2028-01-16");
     add("29 February", {2028, 2, 29}, "", 1, 0, "2029-02-28 .. 2029-03-02");
@@ -171,10 +165,7 @@ void tst_MvEntryMove::shifts_data()
 /// The dates beside weekdays are those of the calendar on the wall.
 void tst_MvEntryMove::shifts()
 {
-    QFETCH(QDate, date);
-    QFETCH(QString, rule);
-    QFETCH(int, years);
-    QFETCH(int, days);
+    auto [date, rule, years, days, after] = MvRows<QDate, QString, int, int, QString>::current();
     MvCalendarEvent entry = MvEntries::entry(u"Training"_s, date, {}, false);
     MvEventRepetition repetition;
     repetition.rule = MvRecurrenceRule::parse(rule).rule;
@@ -186,7 +177,7 @@ void tst_MvEntryMove::shifts()
     repetition.normalize();
     entry.setRepetition(repetition);
     entry.setEndDate(date.addDays(2));
-    QTEST(described(MvEntryMove::shifted(entry, years, days)), "after");
+    QCOMPARE(described(MvEntryMove::shifted(entry, years, days)), after);
 }
 
 MV_TEST_MAIN(tst_MvEntryMove)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -9,9 +10,6 @@
 #include "MvCalendar/MvRecurrenceDates.h"
 #include "MvCalendar/MvRepetitionWords.h"
 #include "MvProductBase/MvEntryDisplay.h"
-
-#include <QProcess>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using LeapDay = MvEventRepetition::LeapDay;
@@ -47,10 +45,9 @@ private:
 
 void tst_MvEventRepetition::readsRules_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("expected"); // the shortest form, or a part of the reason
-    const auto row = [](const char *text, const char *expected) {
-        QTest::newRow(text) << QString::fromLatin1(text) << QString::fromUtf8(expected);
+    const MvRows<QString, QString> add; // text; expected: the shortest form, or a part of the reason
+    const auto row = [&](const char *text, const char *expected) {
+        add(text, QString::fromLatin1(text), QString::fromUtf8(expected));
     };
     row("rrule:byday=th;freq=weekly;interval=2", "FREQ=WEEKLY;INTERVAL=2;BYDAY=TH");
     row("FREQ=MONTHLY;BYDAY=-1FR;WKST=MO;BYHOUR=9", "FREQ=MONTHLY;BYDAY=-1FR");
@@ -70,8 +67,7 @@ void tst_MvEventRepetition::readsRules_data()
 
 void tst_MvEventRepetition::readsRules()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, expected);
+    const auto [text, expected] = MvRows<QString, QString>::current();
     const MvRecurrenceRuleReading reading = MvRecurrenceRule::parse(text);
     if (!reading.isOk()) {
         QVERIFY2(reading.error.contains(expected), qPrintable(reading.error));
@@ -83,10 +79,9 @@ void tst_MvEventRepetition::readsRules()
 
 void tst_MvEventRepetition::understandsWords_data()
 {
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<QString>("expected"); // a rule, or "once", "yearly", "?"
-    const auto row = [](const char *words, const char *expected) {
-        QTest::newRow(words) << QString::fromUtf8(words) << QString::fromLatin1(expected);
+    const MvRows<QString, QString> add; // words; expected: a rule, or "once", "yearly", "?"
+    const auto row = [&](const char *words, const char *expected) {
+        add(words, QString::fromUtf8(words), QString::fromLatin1(expected));
     };
     row("Einmal", "once");
     row("jedes Jahr", "yearly");
@@ -121,30 +116,29 @@ void tst_MvEventRepetition::understandsWords_data()
     for (const char *rule : {"FREQ=DAILY;INTERVAL=3;COUNT=4", "FREQ=WEEKLY;INTERVAL=2;UNTIL=20271231;BYDAY=MO,SU",
                              "FREQ=MONTHLY;INTERVAL=3;BYDAY=-2SA", "FREQ=MONTHLY;BYDAY=4WE",
                              "FREQ=MONTHLY;BYMONTHDAY=-1", "FREQ=YEARLY;INTERVAL=5;UNTIL=20401231"})
-        QTest::newRow(rule) << MvRecurrenceRule::parse(QString::fromLatin1(rule)).rule.describe()
-                            << QString::fromLatin1(rule);
+        add(rule, MvRecurrenceRule::parse(QString::fromLatin1(rule)).rule.describe(), QString::fromLatin1(rule));
 }
 
 void tst_MvEventRepetition::understandsWords()
 {
-    QFETCH(QString, words);
+    const auto [words, expected] = MvRows<QString, QString>::current();
     const MvRepetitionWords read(words);
     const QString rule = read.rule().isNone() ? (read.isYearly() ? u"yearly"_s : u"once"_s) : read.rule().text();
     QVERIFY(read.isOk() || read.error().contains(u'„' + words + u'“'));
-    QTEST(read.isOk() ? rule : u"?"_s, "expected");
+    QCOMPARE(read.isOk() ? rule : u"?"_s, expected);
 }
 
 void tst_MvEventRepetition::fallsOnTheDaysOfAnotherProgram_data()
 {
-    QTest::addColumn<int>("seed");
+    const MvRows<int> row;                                               // seed
     const int rows = qEnvironmentVariableIsEmpty("MV_NIGHTLY") ? 1 : 34; // more than 5,000 rules
     for (int seed = 1; seed <= rows; ++seed)
-        QTest::addRow("seed %d", seed) << seed;
+        row(QString::asprintf("seed %d", seed), seed);
 }
 
 void tst_MvEventRepetition::fallsOnTheDaysOfAnotherProgram()
 {
-    QFETCH(int, seed);
+    const auto [seed] = MvRows<int>::current();
     QProcess other;
     other.start(u"python3"_s, {QFINDTESTDATA("random_rules.py"), QString::number(seed), u"150"_s});
     if (!other.waitForFinished(-1) || other.exitCode() == 77)
@@ -170,44 +164,37 @@ void tst_MvEventRepetition::fallsOnTheDaysOfAnotherProgram()
 
 void tst_MvEventRepetition::entryFallsOn_data()
 {
-    QTest::addColumn<MvCalendarEvent>("event");
-    QTest::addColumn<QList<QDate>>("on");
-    QTest::addColumn<QList<QDate>>("notOn");
+    const MvRows<MvCalendarEvent, QList<QDate>, QList<QDate>> row; // event, on, notOn
     using Dates = QList<QDate>;
 
     const QDate leap(2000, 2, 29);
-    QTest::newRow("leap years only") << entry(leap, {}) << Dates{{2028, 2, 29}} << Dates{{2027, 2, 28}, {2027, 3, 1}};
-    QTest::newRow("28 February") << entry(leap, {}, LeapDay::February28) << Dates{{2028, 2, 29}, {2027, 2, 28}}
-                                 << Dates{{2028, 2, 28}, {2027, 3, 1}};
-    QTest::newRow("1 March, every second year")
-        << entry(leap, u"FREQ=YEARLY;INTERVAL=2"_s, LeapDay::March1) << Dates{{2028, 2, 29}, {2026, 3, 1}}
-        << Dates{{2027, 3, 1}, {2028, 3, 1}, {1998, 3, 1}};
-    QTest::newRow("before its beginning") << entry({2027, 1, 4}, u"FREQ=WEEKLY"_s) << Dates{{2027, 1, 4}, {2028, 1, 3}}
-                                          << Dates{{2026, 12, 28}, {2027, 1, 5}};
-    QTest::newRow("last week of the year before")
-        << entry({2021, 12, 25}, u"FREQ=YEARLY;BYWEEKNO=52;BYDAY=SA"_s) << Dates{{2022, 1, 1}, {2022, 12, 31}}
-        << Dates{{2027, 1, 2}, {2023, 1, 7}};
+    row("leap years only", entry(leap, {}), Dates{{2028, 2, 29}}, Dates{{2027, 2, 28}, {2027, 3, 1}});
+    row("28 February", entry(leap, {}, LeapDay::February28), Dates{{2028, 2, 29}, {2027, 2, 28}},
+        Dates{{2028, 2, 28}, {2027, 3, 1}});
+    row("1 March, every second year", entry(leap, u"FREQ=YEARLY;INTERVAL=2"_s, LeapDay::March1),
+        Dates{{2028, 2, 29}, {2026, 3, 1}}, Dates{{2027, 3, 1}, {2028, 3, 1}, {1998, 3, 1}});
+    row("before its beginning", entry({2027, 1, 4}, u"FREQ=WEEKLY"_s), Dates{{2027, 1, 4}, {2028, 1, 3}},
+        Dates{{2026, 12, 28}, {2027, 1, 5}});
+    row("last week of the year before", entry({2021, 12, 25}, u"FREQ=YEARLY;BYWEEKNO=52;BYDAY=SA"_s),
+        Dates{{2022, 1, 1}, {2022, 12, 31}}, Dates{{2027, 1, 2}, {2023, 1, 7}});
     MvCalendarEvent dates = entry({2027, 1, 4}, u"FREQ=WEEKLY"_s);
     MvEventRepetition repetition = dates.repetition();
     repetition.exceptions = {{2027, 1, 18}};
     repetition.extraDates = {{2027, 1, 20}, {2027, 1, 11}, {2027, 1, 20}};
     dates.setRepetition(repetition);
-    QTest::newRow("exceptions and dates of its own")
-        << dates << Dates{{2027, 1, 11}, {2027, 1, 20}} << Dates{{2027, 1, 18}};
+    row("exceptions and dates of its own", dates, Dates{{2027, 1, 11}, {2027, 1, 20}}, Dates{{2027, 1, 18}});
     MvCalendarEvent trip = MvEntries::entry(u"E"_s, {2026, 12, 28}, {}, false);
     trip.setEndDate({2027, 1, 3});
-    QTest::newRow("span over new year") << trip << Dates{{2026, 12, 28}, {2027, 1, 1}, {2027, 1, 3}}
-                                        << Dates{{2026, 12, 27}, {2027, 1, 4}, {2027, 12, 28}};
+    row("span over new year", trip, Dates{{2026, 12, 28}, {2027, 1, 1}, {2027, 1, 3}},
+        Dates{{2026, 12, 27}, {2027, 1, 4}, {2027, 12, 28}});
     MvCalendarEvent fair = MvEntries::entry(u"E"_s, {2020, 12, 30});
     fair.setEndDate({2021, 1, 2});
-    QTest::newRow("yearly span") << fair << Dates{{2027, 1, 2}, {2027, 12, 31}} << Dates{{2027, 1, 3}, {2027, 12, 29}};
+    row("yearly span", fair, Dates{{2027, 1, 2}, {2027, 12, 31}}, Dates{{2027, 1, 3}, {2027, 12, 29}});
 }
 
 void tst_MvEventRepetition::entryFallsOn()
 {
-    QFETCH(MvCalendarEvent, event);
-    QFETCH(QList<QDate>, on);
-    QFETCH(QList<QDate>, notOn);
+    const auto [event, on, notOn] = MvRows<MvCalendarEvent, QList<QDate>, QList<QDate>>::current();
     // among others, in list order
     const MvCalendarEventIndex index(
         {MvEntries::entry(u"first"_s, on.first()), event, MvEntries::entry(u"last"_s, on.first())});

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -86,12 +87,7 @@ void tst_MvUserSchemaFile::cleanup()
 
 void tst_MvUserSchemaFile::twoPrograms_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("theirs");
-    QTest::addColumn<QString>("mine");
-    QTest::addColumn<QString>("after");
-    const auto row = [](const char *name, const QString &before, const QString &theirs, const QString &mine,
-                        const QString &after) { QTest::newRow(name) << before << theirs << mine << after; };
+    const MvRows<QString, QString, QString, QString> row; // before, theirs, mine, after
     row("each adds one", u"1=red"_s, u"1=red 2=blue"_s, u"1=red 3=green"_s, u"1=red 3=green 2=blue"_s);
     row("each adds the same", u"1=red"_s, u"1=red 2=blue"_s, u"1=red 2=blue"_s, u"1=red 2=blue"_s);
     row("each adds one under the same id", u""_s, u"1=red"_s, u"1=blue"_s, u"1=red 90=blue"_s);
@@ -107,10 +103,7 @@ void tst_MvUserSchemaFile::twoPrograms_data()
 
 void tst_MvUserSchemaFile::twoPrograms()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, theirs);
-    QFETCH(QString, mine);
-    QFETCH(QString, after);
+    const auto [before, theirs, mine, after] = MvRows<QString, QString, QString, QString>::current();
     QVERIFY(Program().keep(before).isOk());
     Program other;
     Program here;
@@ -125,30 +118,29 @@ void tst_MvUserSchemaFile::twoPrograms()
 
 void tst_MvUserSchemaFile::setsAside_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("after");
-    QTest::newRow("cut") << QByteArray("<schemata><calendararea id='1'") << u"5=new"_s;
-    QTest::newRow("foreign") << QByteArray("<layouts/>") << u"5=new"_s;
-    QTest::newRow("an id is damaged") << QByteArray("<schemata><calendararea id='1' color='red'/><calendararea "
-                                                    "color='blue'/></schemata>")
-                                      << u"5=new 1=red"_s;
-    QTest::newRow("an id twice") << QByteArray("<schemata><calendararea id='1' color='red'/><calendararea id='1' "
-                                               "color='blue'/></schemata>")
-                                 << u"5=new 1=red"_s;
+    const MvRows<QByteArray, QString> row; // content, after
+    row("cut", QByteArray("<schemata><calendararea id='1'"), u"5=new"_s);
+    row("foreign", QByteArray("<layouts/>"), u"5=new"_s);
+    row("an id is damaged",
+        QByteArray("<schemata><calendararea id='1' color='red'/><calendararea "
+                   "color='blue'/></schemata>"),
+        u"5=new 1=red"_s);
+    row("an id twice",
+        QByteArray("<schemata><calendararea id='1' color='red'/><calendararea id='1' "
+                   "color='blue'/></schemata>"),
+        u"5=new 1=red"_s);
 }
 
 void tst_MvUserSchemaFile::setsAside()
 {
-    QFETCH(QByteArray, content);
+    const auto [content, after] = MvRows<QByteArray, QString>::current();
     QVERIFY(Program().keep(u"1=red"_s).isOk());
     Program here;
     here.keep(u""_s);
     QVERIFY(MvTestFiles::write(here.file().filePath(), content));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"schemata.xml.*Der alte Stand liegt in"_s));
-    QTEST(text(here.keep(u"5=new"_s).areas), "after");
-    QFile aside(here.file().dir().filePath(besides().value(0)));
-    QVERIFY(aside.open(QIODevice::ReadOnly));
-    QCOMPARE(aside.readAll(), content);
+    QCOMPARE(text(here.keep(u"5=new"_s).areas), after);
+    QCOMPARE(MvTestFiles::contentOf(here.file().dir().filePath(besides().value(0))), content);
     here.keep(u"5=new"_s);
     QCOMPARE(besides().size(), 1); // once is enough
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPageFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvWeekdayHeads.h"
@@ -36,39 +37,28 @@ private Q_SLOTS:
 
 void tst_MvWeekdayHeads::allAlike_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<Form>("longest");
-    QTest::addColumn<QSizeF>("cell");
-    QTest::addColumn<QString>("heads");
-    QTest::addColumn<int>("pixelSize");
+    const MvRows<QString, Form, QSizeF, QString, int> row; // language, longest, cell, heads, pixelSize
     // the box font is 12.5 wide and 17.5 high at 25; 0.3 of 25 and a unit at each edge are kept free
     const QString german = u"de_DE"_s;
     const QString shortNames = u"Mo Di Mi Do Fr Sa So"_s;
-    QTest::newRow("long") << german << Form::Long << QSizeF(135, 40)
-                          << u"Montag Dienstag Mittwoch Donnerstag Freitag Samstag Sonntag"_s << 25;
-    QTest::newRow("one does not fit") << german << Form::Long << QSizeF(134, 40) << shortNames << 25;
-    QTest::newRow("wide, but short ones are wanted") << german << Form::Short << QSizeF(400, 40) << shortNames << 25;
-    QTest::newRow("a little smaller") << german << Form::Short << QSizeF(33, 40) << shortNames << 23;
-    QTest::newRow("letters") << german << Form::Short << QSizeF(30, 40) << u"M D M D F S S"_s << 25;
-    QTest::newRow("only some short names fit")
-        << u"hu_HU"_s << Form::Short << QSizeF(40, 40) << u"H K S C P S V"_s << 25;
-    QTest::newRow("what they have in common is no letter")
-        << u"ca_ES"_s << Form::Short << QSizeF(30, 40) << u"l t c j v s g"_s << 25;
-    QTest::newRow("letters at the floor of type")
-        << german << Form::Short << QSizeF(17, 40) << u"M D M D F S S"_s << 23;
-    QTest::newRow("low cells") << german << Form::Short << QSizeF(100, 17.5) << shortNames << 23;
-    QTest::newRow("too narrow") << german << Form::Short << QSizeF(14, 40) << QString() << 0;
-    QTest::newRow("too low") << german << Form::Short << QSizeF(100, 15) << QString() << 0;
-    QTest::newRow("no room at all") << german << Form::Long << QSizeF(-5, 0) << QString() << 0;
+    row("long", german, Form::Long, QSizeF(135, 40), u"Montag Dienstag Mittwoch Donnerstag Freitag Samstag Sonntag"_s,
+        25);
+    row("one does not fit", german, Form::Long, QSizeF(134, 40), shortNames, 25);
+    row("wide, but short ones are wanted", german, Form::Short, QSizeF(400, 40), shortNames, 25);
+    row("a little smaller", german, Form::Short, QSizeF(33, 40), shortNames, 23);
+    row("letters", german, Form::Short, QSizeF(30, 40), u"M D M D F S S"_s, 25);
+    row("only some short names fit", u"hu_HU"_s, Form::Short, QSizeF(40, 40), u"H K S C P S V"_s, 25);
+    row("what they have in common is no letter", u"ca_ES"_s, Form::Short, QSizeF(30, 40), u"l t c j v s g"_s, 25);
+    row("letters at the floor of type", german, Form::Short, QSizeF(17, 40), u"M D M D F S S"_s, 23);
+    row("low cells", german, Form::Short, QSizeF(100, 17.5), shortNames, 23);
+    row("too narrow", german, Form::Short, QSizeF(14, 40), QString(), 0);
+    row("too low", german, Form::Short, QSizeF(100, 15), QString(), 0);
+    row("no room at all", german, Form::Long, QSizeF(-5, 0), QString(), 0);
 }
 
 void tst_MvWeekdayHeads::allAlike()
 {
-    QFETCH(QString, language);
-    QFETCH(Form, longest);
-    QFETCH(QSizeF, cell);
-    QFETCH(QString, heads);
-    QFETCH(int, pixelSize);
+    const auto [language, longest, cell, heads, pixelSize] = MvRows<QString, Form, QSizeF, QString, int>::current();
     MvPageFixture page = pageIn(language);
     const MvWeekdayHeads made(page.renderer(), longest, cell, true);
     QStringList drawn;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPageFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvBoxFont.h"
@@ -60,9 +61,7 @@ private Q_SLOTS:
 
 void tst_AnyString::everyPainter_data()
 {
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("hasRoom"); // or nothing to see that could lack it
+    const MvRows<QString, QString, bool> newRow; // type; name; hasRoom: or nothing to see that could lack it
     const std::tuple<const char *, QString, bool> texts[] = {
         {"50 blanks", QString(50, u' '), true},
         {"breaks, tabs and controls", u"\n\r\t\x01\x7f\u0085\u2028\u2029\0"_s, true},
@@ -84,16 +83,14 @@ void tst_AnyString::everyPainter_data()
         for (const auto &[text, name, hasRoom] : texts) {
             const QByteArray row = QByteArray(type) + ", " + text;
             const bool isTooHigh = higherThanTheirLine.contains(row) && stacks;
-            QTest::newRow(row) << QString::fromLatin1(type) << name << (hasRoom && !isTooHigh);
+            newRow(row, QString::fromLatin1(type), name, (hasRoom && !isTooHigh));
         }
     }
 }
 
 void tst_AnyString::everyPainter()
 {
-    QFETCH(QString, type);
-    QFETCH(QString, name);
-    QFETCH(bool, hasRoom);
+    const auto [type, name, hasRoom] = MvRows<QString, QString, bool>::current();
     QString info = u"calendar_render_days,calendar_render_days_of_week,calendar_render_title,"
                    "calendar_render_year_long,calendar_render_month_long"_s;
     if (type == "CALENDAR_YEAR"_L1)
@@ -131,24 +128,22 @@ void tst_AnyString::lists()
 
 void tst_AnyString::shortens_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("shown");
+    const MvRows<QString, QString> row; // text, shown
     // ten letters of half an em of 20 pixels
-    QTest::newRow("fits") << u"abcdefghij"_s << u"abcdefghij"_s;
-    QTest::newRow("one too many") << u"abcdefghijk"_s << u"abcdefghi…"_s;
-    QTest::newRow("no blank before the ellipsis") << u"abcdefgh  ijkl"_s << u"abcdefgh…"_s;
-    QTest::newRow("100,000") << QString(100'000, u'a') << u"aaaaaaaaa…"_s;
-    QTest::newRow("accent stays with its letter") << u"abcdefghe\u0301\u0301ijkl"_s << u"abcdefghe\u0301\u0301…"_s;
+    row("fits", u"abcdefghij"_s, u"abcdefghij"_s);
+    row("one too many", u"abcdefghijk"_s, u"abcdefghi…"_s);
+    row("no blank before the ellipsis", u"abcdefgh  ijkl"_s, u"abcdefgh…"_s);
+    row("100,000", QString(100'000, u'a'), u"aaaaaaaaa…"_s);
+    row("accent stays with its letter", u"abcdefghe\u0301\u0301ijkl"_s, u"abcdefghe\u0301\u0301…"_s);
     // of a plane without fonts: an emoji would be as wide as its font has it
-    QTest::newRow("pair stays whole") << u"abcdefgh\U000F0000ijkl"_s << u"abcdefgh\U000F0000…"_s;
-    QTest::newRow("family stays together") << u"abcdef\U0001F468\u200d\U0001F469\u200d\U0001F467ijkl"_s
-                                           << u"abcdef\U0001F468\u200d\U0001F469\u200d\U0001F467…"_s;
+    row("pair stays whole", u"abcdefgh\U000F0000ijkl"_s, u"abcdefgh\U000F0000…"_s);
+    row("family stays together", u"abcdef\U0001F468\u200d\U0001F469\u200d\U0001F467ijkl"_s,
+        u"abcdef\U0001F468\u200d\U0001F469\u200d\U0001F467…"_s);
 }
 
 void tst_AnyString::shortens()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, shown);
+    const auto [text, shown] = MvRows<QString, QString>::current();
     const QFont font = MvBoxFont::font(20);
     MvTextOutlineCache::instance().clear();
     QCOMPARE(MvTextPainter::elided(100, font, text), shown);

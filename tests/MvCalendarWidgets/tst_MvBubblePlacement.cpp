@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvGUIWidgets/MvBubblePlacement.h"
@@ -17,32 +18,28 @@ private Q_SLOTS:
 
 void tst_MvBubblePlacement::stands_data()
 {
-    QTest::addColumn<QRect>("target");
-    QTest::addColumn<QRect>("room");
-    QTest::addColumn<int>("side");
-    QTest::addColumn<bool>("isCovering");
+    const MvRows<QRect, QRect, int, bool> row; // target, room, side, isCovering
     const QRect window(0, 0, 1024, 600);
-    QTest::newRow("at the left edge") << QRect(0, 250, 80, 60) << window << int(Side::Right) << false;
-    QTest::newRow("at the right edge") << QRect(944, 250, 80, 60) << window << int(Side::Left) << false;
-    QTest::newRow("in the upper left corner") << QRect(0, 0, 80, 60) << window << int(Side::Right) << false;
-    QTest::newRow("in the lower right corner") << QRect(944, 540, 80, 60) << window << int(Side::Left) << false;
-    QTest::newRow("as wide as the window, above") << QRect(0, 20, 1024, 60) << window << int(Side::Below) << false;
-    QTest::newRow("as wide as the window, below") << QRect(0, 520, 1024, 60) << window << int(Side::Above) << false;
-    QTest::newRow("a small window") << QRect(150, 90, 60, 40) << QRect(0, 0, 341, 200) << int(Side::Above) << true;
-    QTest::newRow("half scrolled away") << QRect(-60, 580, 80, 60) << window << int(Side::Right) << false;
-    QTest::newRow("scrolled away") << QRect(1100, 700, 80, 60) << window << int(Side::Left) << false;
-    QTest::newRow("as large as the window") << window << window << int(Side::Below) << true;
+    row("at the left edge", QRect(0, 250, 80, 60), window, int(Side::Right), false);
+    row("at the right edge", QRect(944, 250, 80, 60), window, int(Side::Left), false);
+    row("in the upper left corner", QRect(0, 0, 80, 60), window, int(Side::Right), false);
+    row("in the lower right corner", QRect(944, 540, 80, 60), window, int(Side::Left), false);
+    row("as wide as the window, above", QRect(0, 20, 1024, 60), window, int(Side::Below), false);
+    row("as wide as the window, below", QRect(0, 520, 1024, 60), window, int(Side::Above), false);
+    row("a small window", QRect(150, 90, 60, 40), QRect(0, 0, 341, 200), int(Side::Above), true);
+    row("half scrolled away", QRect(-60, 580, 80, 60), window, int(Side::Right), false);
+    row("scrolled away", QRect(1100, 700, 80, 60), window, int(Side::Left), false);
+    row("as large as the window", window, window, int(Side::Below), true);
 }
 
 void tst_MvBubblePlacement::stands()
 {
-    QFETCH(QRect, target);
-    QFETCH(QRect, room);
+    const auto [target, room, side, isCovering] = MvRows<QRect, QRect, int, bool>::current();
     const QSize size(380, 300);
     const MvBubblePlacement placed = MvBubblePlacement::beside(target, size, room);
     QVERIFY(room.contains(placed.rect));
-    QTEST(int(placed.side), "side");
-    QTEST(placed.rect.intersects(target & room), "isCovering");
+    QCOMPARE(int(placed.side), side);
+    QCOMPARE(placed.rect.intersects(target & room), isCovering);
     QVERIFY(placed.rect.contains(placed.tip));
     const QRect bounds = placed.outline().boundingRect().toAlignedRect();
     QVERIFY(QRect(QPoint(), placed.rect.size()).contains(bounds));

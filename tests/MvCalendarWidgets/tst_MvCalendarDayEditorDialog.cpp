@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
@@ -89,24 +90,23 @@ void tst_MvCalendarDayEditorDialog::init()
 
 void tst_MvCalendarDayEditorDialog::namesThatCount_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("none") << QString() << false;
-    QTest::newRow("blanks") << u" \t "_qs << false;
-    QTest::newRow("nothing to be seen") << u"\u0007\u200b"_qs << false;
-    QTest::newRow("a name") << u" Zoë "_qs << true;
+    const MvRows<QString, bool> row; // name, enabled
+    row("none", QString(), false);
+    row("blanks", u" \t "_qs, false);
+    row("nothing to be seen", u"\u0007\u200b"_qs, false);
+    row("a name", u" Zoë "_qs, true);
 }
 
 void tst_MvCalendarDayEditorDialog::namesThatCount()
 {
-    QFETCH(const QString, name);
+    const auto [name, enabled] = MvRows<QString, bool>::current();
     MvCalendarDayEditorDialog dialog(nullptr);
     dialog.openDayEditorSeries(entry(u"vorher"_qs, QDate(2027, 6, 5)));
     description(dialog)->setText(name);
-    QTEST(ok(dialog)->isEnabled(), "enabled");
-    QTEST(part<QPushButton>(dialog, u"okAndContinueButton"_qs)->isEnabled(), "enabled");
+    QCOMPARE(ok(dialog)->isEnabled(), enabled);
+    QCOMPARE(part<QPushButton>(dialog, u"okAndContinueButton"_qs)->isEnabled(), enabled);
     dialog.openDayEditorSingle(entry(name, QDate(2027, 6, 5))); // with the name from the start
-    QTEST(ok(dialog)->isEnabled(), "enabled");
+    QCOMPARE(ok(dialog)->isEnabled(), enabled);
 }
 
 void tst_MvCalendarDayEditorDialog::stepsAreChanges()
@@ -164,24 +164,18 @@ void tst_MvCalendarDayEditorDialog::keysAlone()
 
 void tst_MvCalendarDayEditorDialog::typedDates_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("de_DE") << u"de_DE"_qs << QDate(1950, 12, 24)
-                           << u"24.12.1950|24.12.50|24. 12. 1950|24,12,1950|1950-12-24|1950.12.24|24/12/1950|24-12-50|"
-                              "24 12 50|24121950|241250|24. Dezember 1950|24.Dez.1950|December 24, 1950|"
-                              "Sonntag, 24. Dezember 1950|So 24.12.1950|  24.12.1950 "_qs.split(u'|');
-    QTest::newRow("de_DE, short") << u"de_DE"_qs << QDate(2026, 3, 5)
-                                  << u"5.3.|05.03|5/3|5. März|5 Mrz|0503|5.3.26"_qs.split(u'|');
-    QTest::newRow("en_US") << u"en_US"_qs << QDate(1962, 5, 3)
-                           << u"05/03/1962|5/3/62|3.5.1962|May 3, 1962|05031962"_qs.split(u'|');
+    const MvRows<QString, QDate, QStringList> row; // locale, date, texts
+    row("de_DE", u"de_DE"_qs, QDate(1950, 12, 24),
+        u"24.12.1950|24.12.50|24. 12. 1950|24,12,1950|1950-12-24|1950.12.24|24/12/1950|24-12-50|"
+        "24 12 50|24121950|241250|24. Dezember 1950|24.Dez.1950|December 24, 1950|"
+        "Sonntag, 24. Dezember 1950|So 24.12.1950|  24.12.1950 "_qs.split(u'|'));
+    row("de_DE, short", u"de_DE"_qs, QDate(2026, 3, 5), u"5.3.|05.03|5/3|5. März|5 Mrz|0503|5.3.26"_qs.split(u'|'));
+    row("en_US", u"en_US"_qs, QDate(1962, 5, 3), u"05/03/1962|5/3/62|3.5.1962|May 3, 1962|05031962"_qs.split(u'|'));
 }
 
 void tst_MvCalendarDayEditorDialog::typedDates()
 {
-    QFETCH(const QString, locale);
-    QFETCH(const QDate, date);
-    QFETCH(const QStringList, texts);
+    const auto [locale, date, texts] = MvRows<QString, QDate, QStringList>::current();
     MvApplicationLocale::instance().setLocale(QLocale(locale));
     const auto restored = qScopeGuard([] { MvApplicationLocale::instance().setLocale(QLocale(u"de_DE"_qs)); });
     MvCalendarDayEditorDialog dialog(nullptr);
@@ -489,19 +483,15 @@ void tst_MvCalendarDayEditorDialog::oneEditorPerEntry()
 
 void tst_MvCalendarDayEditorDialog::followsItsEntry_data()
 {
-    QTest::addColumn<QString>("name"); // typed in the editor; empty: none
-    QTest::addColumn<bool>("deletes");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("untouched") << QString() << false << u"Anni 2027-05-07 rot"_qs;
-    QTest::newRow("a typed name stays") << u"Anne"_qs << false << u"Anne 2027-05-07 rot"_qs;
-    QTest::newRow("deleted") << QString() << true << QString();
+    const MvRows<QString, bool, QString> row; // name: typed in the editor; empty: none; deletes; result
+    row("untouched", QString(), false, u"Anni 2027-05-07 rot"_qs);
+    row("a typed name stays", u"Anne"_qs, false, u"Anne 2027-05-07 rot"_qs);
+    row("deleted", QString(), true, QString());
 }
 
 void tst_MvCalendarDayEditorDialog::followsItsEntry()
 {
-    QFETCH(const QString, name);
-    QFETCH(const bool, deletes);
-    QFETCH(const QString, result);
+    const auto [name, deletes, result] = MvRows<QString, bool, QString>::current();
     const MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 5, 6));
     const MvCalendarEvent sister = {u"Berta"_qs, QDate(2027, 5, 8).startOfDay(), true, {}, anna.uuid(), {}};
     MvCalendarEventRegistry::instance().setEvents({anna, sister});

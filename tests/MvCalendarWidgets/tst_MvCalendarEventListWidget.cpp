@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
@@ -18,8 +19,6 @@
 #include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
 #include "MvGUIWidgets/MvTableView.h"
-
-#include <QRandomGenerator>
 
 using MvEntries::entry;
 
@@ -142,26 +141,23 @@ void tst_MvCalendarEventListWidget::cleanup()
 
 void tst_MvCalendarEventListWidget::contextMenu_data()
 {
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("photo") << 1 << 0 << true;
-    QTest::newRow("name") << 1 << 2 << true;
-    QTest::newRow("buttons") << 1 << 3 << false;
-    QTest::newRow("below the rows") << 9 << 2 << false;
+    const MvRows<int, int, bool> row; // row, column, opens
+    row("photo", 1, 0, true);
+    row("name", 1, 2, true);
+    row("buttons", 1, 3, false);
+    row("below the rows", 9, 2, false);
 }
 
 void tst_MvCalendarEventListWidget::contextMenu()
 {
-    QFETCH(const int, row);
-    QFETCH(const int, column);
+    const auto [row, column, opens] = MvRows<int, int, bool>::current();
     MvCalendarEventListWidget list;
     list.resize(400, 500);
     list.show();
     const QPoint pos = row < 3 ? centre(list, row, column) : QPoint(200, table(list)->viewport()->height() - 2);
     list.onTableViewContextMenuRequested(pos);
     const auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-    QTEST(menu != nullptr, "opens");
+    QCOMPARE(menu != nullptr, opens);
     if (!menu)
         return;
     QCOMPARE(menu->actions().size(), 2);
@@ -199,25 +195,20 @@ void tst_MvCalendarEventListWidget::contextMenuOutlivesItsClick()
 
 void tst_MvCalendarEventListWidget::savesAndLoads_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<bool>("changed");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<int>("steps");
-    QTest::newRow("load, as saved") << u"Laden…"_qs << false << u"Anna Moritz Xaver"_qs << 1;
-    QTest::newRow("load, after changes") << u"Laden…"_qs << true << u"Anna Moritz Xaver"_qs << 1;
-    QTest::newRow("add, as saved") << u"Hinzufügen…"_qs << false << u"Anna Moritz Xaver"_qs << 0;
-    QTest::newRow("add, after changes") << u"Hinzufügen…"_qs << true << u"Neu Anna Moritz Xaver"_qs << 1;
+    const MvRows<QString, bool, QString, int> row; // action, changed, result, steps
+    row("load, as saved", u"Laden…"_qs, false, u"Anna Moritz Xaver"_qs, 1);
+    row("load, after changes", u"Laden…"_qs, true, u"Anna Moritz Xaver"_qs, 1);
+    row("add, as saved", u"Hinzufügen…"_qs, false, u"Anna Moritz Xaver"_qs, 0);
+    row("add, after changes", u"Hinzufügen…"_qs, true, u"Neu Anna Moritz Xaver"_qs, 1);
 }
 
 void tst_MvCalendarEventListWidget::savesAndLoads()
 {
-    QFETCH(const QString, action);
-    QFETCH(const int, steps);
+    const auto [action, changed, result, steps] = MvRows<QString, bool, QString, int>::current();
     MvCalendarEventListWidget list;
     m_script->file = path(u"einträge.xml"_qs);
     menuAction(list, u"Sichern"_qs)->trigger();
     QVERIFY(QFile::exists(m_script->file));
-    QFETCH(const bool, changed);
     if (changed)
         registry().setEvents({entry(u"Neu"_qs, QDate(2027, 1, 1))});
     const QStringList before = names();
@@ -229,7 +220,7 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     QCOMPARE(m_script->requests.mid(0, 2),
              (QStringList{request + MvEntryFiles::saveFilter(), request + MvEntryFiles::openFilter()}));
     QCOMPARE(m_script->requests.size(), action == u"Laden…"_qs && changed ? 3 : 2); // only when entries get lost
-    QTEST(names().join(u' '), "result");
+    QCOMPARE(names().join(u' '), result);
     QCOMPARE(added.count(), 1);
     QCOMPARE(signalled.count(), steps); // not one by one
     QVERIFY(m_log.contains(
@@ -246,7 +237,7 @@ void tst_MvCalendarEventListWidget::savesAndLoads()
     QCOMPARE(undone, before); // both by name
     QCOMPARE(signalled.count(), 2);
     MvUndoController::instance().redo();
-    QTEST(names().join(u' '), "result");
+    QCOMPARE(names().join(u' '), result);
 }
 
 /// As a calendar: what comes back is reported, and is there once.
@@ -256,9 +247,7 @@ void tst_MvCalendarEventListWidget::goesToOtherProgramsAndBack()
     const QStringList before = names();
     m_script->file = path(u"termine.ics"_qs);
     menuAction(list, u"Sichern"_qs)->trigger();
-    QFile written(m_script->file);
-    QVERIFY(written.open(QIODevice::ReadOnly));
-    QByteArray bytes = written.readAll();
+    QByteArray bytes = MvTestFiles::contentOf(m_script->file);
     QVERIFY(bytes.startsWith("BEGIN:VCALENDAR"));
     registry().setEvents({});
     for (const QString &told : {u"3 neu, 0 geändert, 0 gleich"_qs, u"0 neu, 0 geändert, 3 gleich"_qs}) {
@@ -279,11 +268,8 @@ void tst_MvCalendarEventListWidget::goesToOtherProgramsAndBack()
 
 void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles_data()
 {
-    QTest::addColumn<QByteArray>("entries");
-    QTest::addColumn<bool>("merge");
-    QTest::addColumn<bool>("asks");
-    QTest::addColumn<QString>("told"); // part of the report, or of the question and its details
-    QTest::addColumn<QString>("result");
+    // told: part of the report, or of the question and its details
+    const MvRows<QByteArray, bool, bool, QString, QString> row;
     const QByteArray date = "</Name><DateTime>1950-01-01T00:00:00</DateTime>";
     const QByteArray tante = "<CalendarEvent><Name>Tante" + date + "</CalendarEvent>";
     const QByteArray foto = "<CalendarEvent><Name>Tante" + date + "<Image>/etc/hostname</Image></CalendarEvent>";
@@ -291,27 +277,23 @@ void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles_data()
     const QByteArray large = tante + QByteArray(300LL * 1024, '\n'); // is read in a thread
     const QString all = u"Anna Moritz Xaver"_qs;
     const QString lost = u"Ihre 3 Einträge durch die aus „liste.xml“"_qs;
-    QTest::newRow("load, cut") << QByteArray("<CalendarEvent>") << false << false << u"liste.xml:"_qs << all;
-    QTest::newRow("load, other document") << QByteArray("<Layouts/>") << false << false << u"„Layouts“"_qs << all;
-    QTest::newRow("load, nothing readable") << opa << false << false << u"„Opa“"_qs << all;
-    QTest::newRow("add, nothing readable") << opa << true << false << u"„Opa“"_qs << all;
-    QTest::newRow("load, some") << tante + opa << false << true << u"Zeile 1, „Opa“: das Datum"_qs << u"Tante"_qs;
-    QTest::newRow("add, some") << tante + opa << true << true << u"Zeile 1, „Opa“: das Datum"_qs << all + u" Tante"_qs;
-    QTest::newRow("load, empty") << QByteArray() << false << true << u"ist eine leere Liste"_qs << QString();
-    QTest::newRow("add, empty") << QByteArray() << true << false << QString() << all;
-    QTest::newRow("load, large") << large << false << true << lost << u"Tante"_qs;
-    QTest::newRow("add, large") << large << true << false << QString() << all + u" Tante"_qs;
-    QTest::newRow("load, photo elsewhere") << foto << false << true << u"/etc/hostname"_qs << u"Tante"_qs;
-    QTest::newRow("add, photo elsewhere") << foto << true << false << u"/etc/hostname"_qs << all + u" Tante"_qs;
+    row("load, cut", QByteArray("<CalendarEvent>"), false, false, u"liste.xml:"_qs, all);
+    row("load, other document", QByteArray("<Layouts/>"), false, false, u"„Layouts“"_qs, all);
+    row("load, nothing readable", opa, false, false, u"„Opa“"_qs, all);
+    row("add, nothing readable", opa, true, false, u"„Opa“"_qs, all);
+    row("load, some", tante + opa, false, true, u"Zeile 1, „Opa“: das Datum"_qs, u"Tante"_qs);
+    row("add, some", tante + opa, true, true, u"Zeile 1, „Opa“: das Datum"_qs, all + u" Tante"_qs);
+    row("load, empty", QByteArray(), false, true, u"ist eine leere Liste"_qs, QString());
+    row("add, empty", QByteArray(), true, false, QString(), all);
+    row("load, large", large, false, true, lost, u"Tante"_qs);
+    row("add, large", large, true, false, QString(), all + u" Tante"_qs);
+    row("load, photo elsewhere", foto, false, true, u"/etc/hostname"_qs, u"Tante"_qs);
+    row("add, photo elsewhere", foto, true, false, u"/etc/hostname"_qs, all + u" Tante"_qs);
 }
 
 void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles()
 {
-    QFETCH(const QByteArray, entries);
-    QFETCH(const bool, merge);
-    QFETCH(const bool, asks);
-    QFETCH(const QString, told);
-    QFETCH(const QString, result);
+    const auto [entries, merge, asks, told, result] = MvRows<QByteArray, bool, bool, QString, QString>::current();
     MvCalendarEventListWidget list;
     m_script->file = path(u"liste.xml"_qs);
     QFile file(m_script->file);

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvWidgetDriver.h"
 
 #include "MvCalendar/MvCalendarEventModel.h"
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCore/MvUndoController.h"
-
-#include <QAbstractItemModelTester>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 using MvEntries::entry;
 
@@ -126,33 +123,28 @@ void tst_MvCalendarEventModel::mirrorsTheRegistry()
 
 void tst_MvCalendarEventModel::cells_data()
 {
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QVariant>("value");
+    const MvRows<int, int, int, QVariant> row; // row, column, role, value
     const QVariant anna = QVariant::fromValue(threeEntries().at(1));
     const QVariant none = QVariant::fromValue(MvCalendarEvent());
-    QTest::newRow("no photo") << 0 << 0 << int(Qt::DisplayRole) << QVariant(QImage());
-    QTest::newRow("path of no photo") << 0 << 0 << int(Qt::EditRole) << QVariant(QString());
-    QTest::newRow("date") << 0 << 1 << int(Qt::DisplayRole) << QVariant(QDate(2004, 2, 29));
-    QTest::newRow("read out") << 0 << 1 << int(Qt::AccessibleTextRole) << QVariant(u"29.02.2004"_qs);
-    QTest::newRow("entry") << 0 << 3 << int(Qt::DisplayRole) << anna;
-    QTest::newRow("tool tip of the name") << 0 << 2 << int(Qt::ToolTipRole) << QVariant(u"Anna"_qs);
-    QTest::newRow("photo beyond the rows") << 3 << 0 << int(Qt::DisplayRole) << QVariant();
-    QTest::newRow("name beyond the rows") << 3 << 2 << int(Qt::DisplayRole) << QVariant(QString());
-    QTest::newRow("entry beyond the rows") << 3 << 3 << int(Qt::UserRole) << none;
-    QTest::newRow("entry before the rows") << -2 << 3 << int(Qt::UserRole) << none;
+    row("no photo", 0, 0, int(Qt::DisplayRole), QVariant(QImage()));
+    row("path of no photo", 0, 0, int(Qt::EditRole), QVariant(QString()));
+    row("date", 0, 1, int(Qt::DisplayRole), QVariant(QDate(2004, 2, 29)));
+    row("read out", 0, 1, int(Qt::AccessibleTextRole), QVariant(u"29.02.2004"_qs));
+    row("entry", 0, 3, int(Qt::DisplayRole), anna);
+    row("tool tip of the name", 0, 2, int(Qt::ToolTipRole), QVariant(u"Anna"_qs));
+    row("photo beyond the rows", 3, 0, int(Qt::DisplayRole), QVariant());
+    row("name beyond the rows", 3, 2, int(Qt::DisplayRole), QVariant(QString()));
+    row("entry beyond the rows", 3, 3, int(Qt::UserRole), none);
+    row("entry before the rows", -2, 3, int(Qt::UserRole), none);
 }
 
 void tst_MvCalendarEventModel::cells()
 {
-    QFETCH(const int, row);
-    QFETCH(const int, column);
-    QFETCH(const int, role);
+    const auto [row, column, role, value] = MvRows<int, int, int, QVariant>::current();
     TestModel model;
     model.load();
     const QVariant found = model.data(model.anyIndex(row, column), role);
-    QTEST(found, "value");
+    QCOMPARE(found, value);
     if (found.metaType() == QMetaType::fromType<MvCalendarEvent>())
         QCOMPARE(found.value<MvCalendarEvent>().uuid(), model.calendarEvent(model.anyIndex(row, 0)).uuid());
 }
@@ -160,35 +152,28 @@ void tst_MvCalendarEventModel::cells()
 void tst_MvCalendarEventModel::edits_data()
 {
     // of the row of Moritz; an empty result stands for no change
-    QTest::addColumn<int>("row");
-    QTest::addColumn<int>("column");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QStringList>("result");
+    const MvRows<int, int, QVariant, QStringList> row; // row, column, value, result
     const QString anna = u"2004-02-29 Anna"_qs;
     const QString xaver = u"1950-12-31 Xaver"_qs;
-    QTest::newRow("name") << 1 << 2 << QVariant(u"Max"_qs) << QStringList{xaver, u"1999-03-01 Max once"_qs, anna};
-    QTest::newRow("the same name") << 1 << 2 << QVariant(u"Moritz"_qs) << QStringList();
-    QTest::newRow("a name over several lines") << 1 << 2 << QVariant(u"\tMax\nund  Moritz "_qs)
-                                               << QStringList{xaver, u"1999-03-01 Max und Moritz once"_qs, anna};
-    QTest::newRow("no name") << 1 << 2 << QVariant(QString()) << QStringList();
-    QTest::newRow("nothing to be seen") << 1 << 2 << QVariant(u"\u0007 \u200b"_qs) << QStringList();
-    QTest::newRow("date") << 1 << 1 << QVariant(QDate(1999, 1, 2))
-                          << QStringList{xaver, u"1999-01-02 Moritz once"_qs, anna};
-    QTest::newRow("no date") << 1 << 1 << QVariant(u"morgen"_qs) << QStringList();
-    QTest::newRow("an entry makes it recurrent")
-        << 1 << 3 << QVariant::fromValue(threeEntries().at(2)) << QStringList{xaver, u"1999-03-01 Moritz"_qs, anna};
-    QTest::newRow("recurrent already") << 0 << 3 << QVariant::fromValue(threeEntries().at(2)) << QStringList();
-    QTest::newRow("no photo as before") << 1 << 0 << QVariant(QString()) << QStringList();
-    QTest::newRow("beyond the rows") << 3 << 2 << QVariant(u"Max"_qs) << QStringList();
-    QTest::newRow("before the rows") << -1 << 2 << QVariant(u"Max"_qs) << QStringList();
+    row("name", 1, 2, QVariant(u"Max"_qs), QStringList{xaver, u"1999-03-01 Max once"_qs, anna});
+    row("the same name", 1, 2, QVariant(u"Moritz"_qs), QStringList());
+    row("a name over several lines", 1, 2, QVariant(u"\tMax\nund  Moritz "_qs),
+        QStringList{xaver, u"1999-03-01 Max und Moritz once"_qs, anna});
+    row("no name", 1, 2, QVariant(QString()), QStringList());
+    row("nothing to be seen", 1, 2, QVariant(u"\u0007 \u200b"_qs), QStringList());
+    row("date", 1, 1, QVariant(QDate(1999, 1, 2)), QStringList{xaver, u"1999-01-02 Moritz once"_qs, anna});
+    row("no date", 1, 1, QVariant(u"morgen"_qs), QStringList());
+    row("an entry makes it recurrent", 1, 3, QVariant::fromValue(threeEntries().at(2)),
+        QStringList{xaver, u"1999-03-01 Moritz"_qs, anna});
+    row("recurrent already", 0, 3, QVariant::fromValue(threeEntries().at(2)), QStringList());
+    row("no photo as before", 1, 0, QVariant(QString()), QStringList());
+    row("beyond the rows", 3, 2, QVariant(u"Max"_qs), QStringList());
+    row("before the rows", -1, 2, QVariant(u"Max"_qs), QStringList());
 }
 
 void tst_MvCalendarEventModel::edits()
 {
-    QFETCH(const int, row);
-    QFETCH(const int, column);
-    QFETCH(const QVariant, value);
-    QFETCH(const QStringList, result);
+    const auto [row, column, value, result] = MvRows<int, int, QVariant, QStringList>::current();
     const bool isChange = !result.isEmpty();
     TestModel model;
     model.load();
@@ -296,27 +281,25 @@ void tst_MvCalendarEventModel::sortsSharedDays()
 
 void tst_MvCalendarEventModel::removesRows_data()
 {
-    QTest::addColumn<QList<int>>("rows");
-    QTest::addColumn<bool>("isRemoved");
-    QTest::addColumn<QString>("remaining");
-    QTest::newRow("each once") << QList<int>{3, 1, 3} << true << u"A C E"_qs;
-    QTest::newRow("first and last") << QList<int>{0, 4} << true << u"B C D"_qs;
-    QTest::newRow("all") << QList<int>{4, 3, 2, 1, 0} << true << QString();
-    QTest::newRow("none") << QList<int>() << true << u"A B C D E"_qs;
-    QTest::newRow("some do not exist") << QList<int>{-1, 2, 5} << false << u"A B D E"_qs;
+    const MvRows<QList<int>, bool, QString> row; // rows, isRemoved, remaining
+    row("each once", QList<int>{3, 1, 3}, true, u"A C E"_qs);
+    row("first and last", QList<int>{0, 4}, true, u"B C D"_qs);
+    row("all", QList<int>{4, 3, 2, 1, 0}, true, QString());
+    row("none", QList<int>(), true, u"A B C D E"_qs);
+    row("some do not exist", QList<int>{-1, 2, 5}, false, u"A B D E"_qs);
 }
 
 void tst_MvCalendarEventModel::removesRows()
 {
-    QFETCH(const QList<int>, rows);
+    const auto [rows, isRemoved, remaining] = MvRows<QList<int>, bool, QString>::current();
     MvCalendarEventList events;
     for (int i = 0; i < 5; ++i)
         events.append(entry(QChar(u'A' + i), QDate(2026, 1, 1 + i)));
     registry().setEvents(events);
     MvCalendarEventModel model;
     model.load();
-    QTEST(model.removeRows(rows), "isRemoved");
-    QTEST(names(model), "remaining");
+    QCOMPARE(model.removeRows(rows), isRemoved);
+    QCOMPARE(names(model), remaining);
 }
 
 void tst_MvCalendarEventModel::removalWaitsForSave()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendariumColorSchemaEditor.h"
@@ -111,24 +112,20 @@ void tst_MvCalendariumColorSchemaEditor::settingAColor()
 
 void tst_MvCalendariumColorSchemaEditor::couplingHolds_data()
 {
-    QTest::addColumn<int>("source");
-    QTest::addColumn<int>("follower");
-    QTest::addColumn<bool>("vacations");
-    QTest::newRow("vacations") << int(CALENDAR_CELL_TYPE_SATURDAY) << int(CALENDAR_CELL_TYPE_SCHOOL_VACATION) << true;
-    QTest::newRow("holidays") << int(CALENDAR_CELL_TYPE_SUNDAY) << int(CALENDAR_CELL_TYPE_HOLIDAY) << false;
+    const MvRows<int, int, bool> row; // source, follower, vacations
+    row("vacations", int(CALENDAR_CELL_TYPE_SATURDAY), int(CALENDAR_CELL_TYPE_SCHOOL_VACATION), true);
+    row("holidays", int(CALENDAR_CELL_TYPE_SUNDAY), int(CALENDAR_CELL_TYPE_HOLIDAY), false);
 }
 
 void tst_MvCalendariumColorSchemaEditor::couplingHolds()
 {
-    QFETCH(int, source);
-    QFETCH(int, follower);
-    QFETCH(bool, vacations);
+    const auto [source, follower, vacations] = MvRows<int, int, bool>::current();
     const auto sourceType = static_cast<MvCalendarCellTypeEnum>(source);
     const auto followerType = static_cast<MvCalendarCellTypeEnum>(follower);
     Model model;
     model.setAppearance(createAppearance());
     const QColor own = model.colorSchema().cellColor(key(followerType));
-    const auto treatAlike = [&](bool on) {
+    const auto treatAlike = [&, vacations = vacations](bool on) {
         vacations ? model.setTreatVacationsLikeSaturdays(on) : model.setTreatHolidaysLikeSundays(on);
     };
     QSignalSpy state(&model, vacations ? &Model::vacationsLikeSaturdaysChanged : &Model::holidaysLikeSundaysChanged);
@@ -193,23 +190,18 @@ void tst_MvCalendariumColorSchemaEditor::weeksAlternate()
 
 void tst_MvCalendariumColorSchemaEditor::contrast_data()
 {
-    QTest::addColumn<QColor>("text");
-    QTest::addColumn<QColor>("background");
-    QTest::addColumn<QString>("warning");
+    const MvRows<QColor, QColor, QString> row; // text, background, warning
     const QString low = u"Kontrast %1 : 1, empfohlen mindestens 4,5 : 1"_s;
-    QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << QString();
-    QTest::newRow("just below, by WCAG's own example")
-        << QColor(0x77, 0x77, 0x77) << QColor(Qt::white) << low.arg(u"4,4"_s);
-    QTest::newRow("just enough") << QColor(0x76, 0x76, 0x76) << QColor(Qt::white) << QString();
-    QTest::newRow("white on white paper") << QColor(Qt::white) << QColor(Qt::transparent) << low.arg(u"1,0"_s);
-    QTest::newRow("not to be seen") << QColor(Qt::transparent) << QColor(Qt::white) << QString();
+    row("black on white", QColor(Qt::black), QColor(Qt::white), QString());
+    row("just below, by WCAG's own example", QColor(0x77, 0x77, 0x77), QColor(Qt::white), low.arg(u"4,4"_s));
+    row("just enough", QColor(0x76, 0x76, 0x76), QColor(Qt::white), QString());
+    row("white on white paper", QColor(Qt::white), QColor(Qt::transparent), low.arg(u"1,0"_s));
+    row("not to be seen", QColor(Qt::transparent), QColor(Qt::white), QString());
 }
 
 void tst_MvCalendariumColorSchemaEditor::contrast()
 {
-    QFETCH(QColor, text);
-    QFETCH(QColor, background);
-    QFETCH(QString, warning);
+    const auto [text, background, warning] = MvRows<QColor, QColor, QString>::current();
     MvCalendariumAppearance appearance = createAppearance();
     appearance.setCellColor(Qt::transparent, key(CALENDAR_CELL_TYPE_EMPTY, MvParityLogicEnum::both));
     appearance.setCellColor(

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendariumContentConfigEditor.h"
@@ -43,19 +44,17 @@ private Q_SLOTS:
 
 void tst_MvCalendariumContentConfigEditor::roundTrip_data()
 {
-    QTest::addColumn<int>("given");
-    QTest::addColumn<int>("features");
-    QTest::newRow("none") << 0 << 0;
-    QTest::newRow("holidays bring colours and vacations") << 1 << (1 | 2 | 8);
-    QTest::newRow("vacations without holidays") << 8 << 0;
-    QTest::newRow("entries") << 4 << 4;
-    QTest::newRow("what has no box is kept") << (4 | 32 | 64) << (4 | 32 | 64);
+    const MvRows<int, int> row; // given, features
+    row("none", 0, 0);
+    row("holidays bring colours and vacations", 1, (1 | 2 | 8));
+    row("vacations without holidays", 8, 0);
+    row("entries", 4, 4);
+    row("what has no box is kept", (4 | 32 | 64), (4 | 32 | 64));
 }
 
 void tst_MvCalendariumContentConfigEditor::roundTrip()
 {
-    QFETCH(int, given);
-    QFETCH(int, features);
+    const auto [given, features] = MvRows<int, int>::current();
     MvCalendariumContentConfigEditor editor;
     MvCalendariumContentConfig before = config(u"BY"_s, given);
     before.setDate(QDate(1999, 12, 24));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvWidgetTest.h"
 
 #include "MvCalendar/MvCalendariumFontEditor.h"
@@ -21,18 +22,16 @@ private Q_SLOTS:
 
 void tst_MvCalendariumFontEditor::typing_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<int>("changes");
-    QTest::newRow("another family") << u"lato"_s << u"Lato"_s << 1;
-    QTest::newRow("the same") << u"Caslon"_s << u"Caslon"_s << 0;
-    QTest::newRow("no family") << u"Laxo"_s << u"Caslon"_s << 0;
-    QTest::newRow("nothing: the layout's") << QString() << QString() << 1;
+    const MvRows<QString, QString, int> row; // typed, family, changes
+    row("another family", u"lato"_s, u"Lato"_s, 1);
+    row("the same", u"Caslon"_s, u"Caslon"_s, 0);
+    row("no family", u"Laxo"_s, u"Caslon"_s, 0);
+    row("nothing: the layout's", QString(), QString(), 1);
 }
 
 void tst_MvCalendariumFontEditor::typing()
 {
-    QFETCH(QString, typed);
+    const auto [typed, family, changes] = MvRows<QString, QString, int>::current();
     MvFontFamilyBox box({u"Caslon"_s, u"Garamond"_s, u"Lato"_s});
     QCOMPARE(box.currentText(), QString());
     box.setFontFamily(u"Caslon"_s);
@@ -41,8 +40,8 @@ void tst_MvCalendariumFontEditor::typing()
     QTest::keyClick(box.lineEdit(), Qt::Key_Delete);
     QTest::keyClicks(box.lineEdit(), typed);
     QTest::keyClick(box.lineEdit(), Qt::Key_Return);
-    QTEST(box.currentText(), "family");
-    QTEST(static_cast<int>(changed.size()), "changes");
+    QCOMPARE(box.currentText(), family);
+    QCOMPARE(static_cast<int>(changed.size()), changes);
 }
 
 void tst_MvCalendariumFontEditor::foreignFamilyStays()

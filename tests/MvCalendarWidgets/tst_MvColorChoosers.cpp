@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvWidgetTest.h"
 
 #include "MvGUIWidgets/MvColorDelegate.h"
@@ -62,19 +63,18 @@ private Q_SLOTS:
 
 void tst_MvColorChoosers::names_data()
 {
-    QTest::addColumn<QColor>("color");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("white") << QColor(Qt::white) << u"Weiß"_s;
-    QTest::newRow("opaque") << QColor(0xf6, 0xf2, 0xef) << u"#F6F2EF"_s;
-    QTest::newRow("translucent") << QColor(0, 0, 0, 102) << u"Schwarz, 40 % deckend"_s;
-    QTest::newRow("transparent") << QColor(255, 0, 0, 0) << u"Durchsichtig"_s;
-    QTest::newRow("invalid") << QColor() << u"Durchsichtig"_s;
+    const MvRows<QColor, QString> row; // color, name
+    row("white", QColor(Qt::white), u"Weiß"_s);
+    row("opaque", QColor(0xf6, 0xf2, 0xef), u"#F6F2EF"_s);
+    row("translucent", QColor(0, 0, 0, 102), u"Schwarz, 40 % deckend"_s);
+    row("transparent", QColor(255, 0, 0, 0), u"Durchsichtig"_s);
+    row("invalid", QColor(), u"Durchsichtig"_s);
 }
 
 void tst_MvColorChoosers::names()
 {
-    QFETCH(QColor, color);
-    QTEST(MvColorSwatch::name(color), "name");
+    const auto [color, name] = MvRows<QColor, QString>::current();
+    QCOMPARE(MvColorSwatch::name(color), name);
 }
 
 void tst_MvColorChoosers::buttonChoosesByKeyboard()
@@ -158,15 +158,15 @@ void tst_MvColorChoosers::dialogDoesNotBlock()
 
 void tst_MvColorChoosers::cellOpensPalette_data()
 {
-    QTest::addColumn<int>("key");
+    const MvRows<int> row; // key
     for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_F2})
-        QTest::addRow("%s", qPrintable(QKeySequence(key).toString())) << key;
-    QTest::newRow("click") << 0;
+        row(QKeySequence(key).toString(), key);
+    row("click", 0);
 }
 
 void tst_MvColorChoosers::cellOpensPalette()
 {
-    QFETCH(int, key);
+    const auto [key] = MvRows<int>::current();
     ColorTable table;
     QTableView &view = table.view;
     view.setEditTriggers(QAbstractItemView::AllEditTriggers);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventMerge.h"
@@ -96,30 +97,27 @@ void tst_MvEntryEdits::init()
 
 void tst_MvEntryEdits::memberships_data()
 {
-    QTest::addColumn<QString>("group");
-    QTest::addColumn<int>("membership");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("only") << u"verein"_s << int(Membership::Only) << u"Anna: Verein; Bert: Verein; Chor: "_s;
-    QTest::newRow("added") << u"Verein"_s << int(Membership::Added) << u"Anna: Familie, Verein; Bert: Verein; Chor: "_s;
-    QTest::newRow("removed") << u"Familie"_s << int(Membership::Removed) << u"Anna: ; Bert: ; Chor: "_s;
-    QTest::newRow("none") << QString() << int(Membership::Only) << u"Anna: ; Bert: ; Chor: "_s;
-    QTest::newRow("new") << u"Klasse 5b"_s << int(Membership::Only) << u"Anna: Klasse 5b; Bert: Klasse 5b; Chor: "_s;
-    QTest::newRow("as it is") << u"Familie"_s << int(Membership::Added) << u"Anna: Familie; Bert: Familie; Chor: "_s;
+    const MvRows<QString, int, QString> row; // group, membership, expected
+    row("only", u"verein"_s, int(Membership::Only), u"Anna: Verein; Bert: Verein; Chor: "_s);
+    row("added", u"Verein"_s, int(Membership::Added), u"Anna: Familie, Verein; Bert: Verein; Chor: "_s);
+    row("removed", u"Familie"_s, int(Membership::Removed), u"Anna: ; Bert: ; Chor: "_s);
+    row("none", QString(), int(Membership::Only), u"Anna: ; Bert: ; Chor: "_s);
+    row("new", u"Klasse 5b"_s, int(Membership::Only), u"Anna: Klasse 5b; Bert: Klasse 5b; Chor: "_s);
+    row("as it is", u"Familie"_s, int(Membership::Added), u"Anna: Familie; Bert: Familie; Chor: "_s);
 }
 
 void tst_MvEntryEdits::memberships()
 {
-    QFETCH(QString, group);
-    QFETCH(int, membership);
+    const auto [group, membership, expected] = MvRows<QString, int, QString>::current();
     QSignalSpy signalled(&registry(), &MvCalendarEventRegistry::eventsChanged);
     MvEntryEdits(*m_session).setMembership({m_before.at(0), m_before.at(1)}, group, Membership(membership));
-    QTEST(described(list()), "expected");
+    QCOMPARE(described(list()), expected);
     QCOMPARE(signalled.count(), 1);
     QCOMPARE(m_session->undo().stack()->count(), 1);
     QCOMPARE(undone(), described(m_before));
     QCOMPARE(list().groups(), m_before.groups()); // a new one has gone as well
     m_session->undo().redo();
-    QTEST(described(list()), "expected");
+    QCOMPARE(described(list()), expected);
 }
 
 void tst_MvEntryEdits::groupsGoAndComeBack()
@@ -166,26 +164,19 @@ void tst_MvEntryEdits::othersKeepTheirGroups()
 void tst_MvEntryEdits::groupsComeAlong_data()
 {
     using Reach = MvEntryEdits::Reach;
-    QTest::addColumn<int>("reach");
-    QTest::addColumn<bool>("reachesOwn");
-    QTest::addColumn<QString>("group");  // of the new entry
-    QTest::addColumn<QString>("active"); // groups that come
-    QTest::addColumn<QString>("own");
-    QTest::newRow("of a file") << int(Reach::AsSet) << false << u"Klasse"_s << u"Klasse Leer"_s << QString();
-    QTest::newRow("of a file, by the switch")
-        << int(Reach::AsSet) << true << u"Klasse"_s << u"Klasse Leer"_s << u"Klasse Leer"_s;
-    QTest::newRow("of this calendar, by the switch")
-        << int(Reach::AsSet) << true << u"Hier"_s << u"Klasse Leer"_s << u"Hier Klasse Leer"_s;
-    QTest::newRow("from the own") << int(Reach::ActiveList) << true << u"Dort"_s << u"Dort Klasse Leer"_s << QString();
-    QTest::newRow("to the own") << int(Reach::OwnList) << false << u"Hier"_s << QString() << u"Hier Klasse Leer"_s;
+    // group: of the new entry; active: groups that come
+    const MvRows<int, bool, QString, QString, QString> row;
+    row("of a file", int(Reach::AsSet), false, u"Klasse"_s, u"Klasse Leer"_s, QString());
+    row("of a file, by the switch", int(Reach::AsSet), true, u"Klasse"_s, u"Klasse Leer"_s, u"Klasse Leer"_s);
+    row("of this calendar, by the switch", int(Reach::AsSet), true, u"Hier"_s, u"Klasse Leer"_s, u"Hier Klasse Leer"_s);
+    row("from the own", int(Reach::ActiveList), true, u"Dort"_s, u"Dort Klasse Leer"_s, QString());
+    row("to the own", int(Reach::OwnList), false, u"Hier"_s, QString(), u"Hier Klasse Leer"_s);
 }
 
 /// Those of the entries, and others of their file, in the same step; they stay where somebody uses them by then.
 void tst_MvEntryEdits::groupsComeAlong()
 {
-    QFETCH(int, reach);
-    QFETCH(bool, reachesOwn);
-    QFETCH(QString, group);
+    const auto [reach, reachesOwn, group, active, own] = MvRows<int, bool, QString, QString, QString>::current();
     using List = MvCalendarEventRegistry::List;
     const auto addGroup = [this](List list, const QString &name) {
         MvEventGroupList groups = (list == List::Own ? registry().ownEvents() : this->list()).groups();
@@ -214,8 +205,8 @@ void tst_MvEntryEdits::groupsComeAlong()
     MvEntryEdits edits(*m_session);
     edits.change(u"import"_s, u"Import"_s, {{{}, dora}}, MvEntryEdits::Reach(reach), ofFile);
     for (int turn = 0; turn < 2; ++turn) {
-        QTEST(come(list().groups(), before), "active");
-        QTEST(come(registry().ownEvents().groups(), ownBefore), "own");
+        QCOMPARE(come(list().groups(), before), active);
+        QCOMPARE(come(registry().ownEvents().groups(), ownBefore), own);
         m_session->undo().undo();
         QCOMPARE(list().groups(), before);
         QCOMPARE(registry().ownEvents().groups(), ownBefore);
@@ -282,23 +273,20 @@ void tst_MvEntryEdits::shiftsAndRemoves()
 
 void tst_MvEntryEdits::finds_data()
 {
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<QString>("group");
-    QTest::addColumn<QStringList>("found");
-    QTest::newRow("all, by month and day") << QString() << QString() << QStringList{u"Chor"_s, u"Anna"_s, u"Bert"_s};
-    QTest::newRow("name") << u" BER "_s << QString() << QStringList{u"Bert"_s};
-    QTest::newRow("month and year") << u"1990 märz"_s << QString() << QStringList{u"Anna"_s};
-    QTest::newRow("a year that nobody knows") << u"1604"_s << QString() << QStringList();
-    QTest::newRow("name of the group") << u"fam"_s << QString() << QStringList{u"Anna"_s};
-    QTest::newRow("group") << QString() << u"familie"_s << QStringList{u"Anna"_s};
-    QTest::newRow("without group") << QString() << MvEntryListModel::none << QStringList{u"Chor"_s, u"Bert"_s};
-    QTest::newRow("both") << u"anna"_s << MvEntryListModel::none << QStringList();
+    const MvRows<QString, QString, QStringList> row; // words, group, found
+    row("all, by month and day", QString(), QString(), QStringList{u"Chor"_s, u"Anna"_s, u"Bert"_s});
+    row("name", u" BER "_s, QString(), QStringList{u"Bert"_s});
+    row("month and year", u"1990 märz"_s, QString(), QStringList{u"Anna"_s});
+    row("a year that nobody knows", u"1604"_s, QString(), QStringList());
+    row("name of the group", u"fam"_s, QString(), QStringList{u"Anna"_s});
+    row("group", QString(), u"familie"_s, QStringList{u"Anna"_s});
+    row("without group", QString(), MvEntryListModel::none, QStringList{u"Chor"_s, u"Bert"_s});
+    row("both", u"anna"_s, MvEntryListModel::none, QStringList());
 }
 
 void tst_MvEntryEdits::finds()
 {
-    QFETCH(QString, words);
-    QFETCH(QString, group);
+    const auto [words, group, expected] = MvRows<QString, QString, QStringList>::current();
     MvEntryListModel model(*m_session);
     model.setSearch(words);
     model.load();
@@ -306,7 +294,7 @@ void tst_MvEntryEdits::finds()
     QStringList found;
     for (int row = 0; row < model.rowCount(); ++row)
         found.append(model.index(row, 0).data().toString());
-    QTEST(found, "found");
+    QCOMPARE(found, expected);
     QCOMPARE(model.total(), 3);
     model.sort(MvEntryListModel::NameColumn, Qt::DescendingOrder);
     found.sort();

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
@@ -141,13 +142,12 @@ void tst_MvGraphicsItemCalendariumCells::passes()
 
 void tst_MvGraphicsItemCalendariumCells::clicks_data()
 {
-    QTest::addColumn<QString>("gesture");
-    QTest::addColumn<bool>("opens");
-    QTest::newRow("click") << u"c"_s << true;
-    QTest::newRow("double click") << u"cd"_s << false;
-    QTest::newRow("right click") << u"r"_s << false;
-    QTest::newRow("right click, later a click") << u"rwc"_s << true;
-    QTest::newRow("double click, later a click") << u"cdwc"_s << true;
+    const MvRows<QString, bool> row; // gesture, opens
+    row("click", u"c"_s, true);
+    row("double click", u"cd"_s, false);
+    row("right click", u"r"_s, false);
+    row("right click, later a click", u"rwc"_s, true);
+    row("double click, later a click", u"cdwc"_s, true);
 }
 
 void tst_MvGraphicsItemCalendariumCells::clicks()
@@ -157,7 +157,7 @@ void tst_MvGraphicsItemCalendariumCells::clicks()
     QVERIFY(QTest::qWaitForWindowExposed(&canvas.view));
     QWidget *viewport = canvas.view.viewport();
     QSignalSpy spy(canvas.manager->cell(day), &Cell::dateClicked);
-    QFETCH(const QString, gesture);
+    const auto [gesture, opens] = MvRows<QString, bool>::current();
     for (const QChar step : gesture) {
         if (step == u'c')
             QTest::mouseClick(viewport, Qt::LeftButton, {}, canvas.centre(day));
@@ -171,7 +171,6 @@ void tst_MvGraphicsItemCalendariumCells::clicks()
     }
     QVERIFY(spy.isEmpty()); // not before it is clear that no second click follows
     QTest::qWait(350);
-    QFETCH(const bool, opens);
     QCOMPARE(spy.count(), int(opens));
     QCOMPARE(openMenu() != nullptr, opens);
     if (!opens)
@@ -272,21 +271,18 @@ void tst_MvGraphicsItemCalendariumCells::hovers()
 
 void tst_MvGraphicsItemCalendariumCells::paintsForPeopleOnly_data()
 {
-    QTest::addColumn<unsigned>("flags");
-    QTest::addColumn<double>("opacity");
-    QTest::addColumn<bool>("paints");
-    QTest::newRow("on the screen") << 0x800U << 0.5 << true;
-    QTest::newRow("on the screen, with warnings") << 0x800800U << 0.5 << true;
-    QTest::newRow("hidden") << 0x800U << 0.02 << false;
-    QTest::newRow("no rule") << 0U << 0.5 << false;
-    QTest::newRow("print") << 0x8800U << 0.5 << false;
-    QTest::newRow("thumbnail") << 0x200800U << 0.5 << false;
+    const MvRows<unsigned, double, bool> row; // flags, opacity, paints
+    row("on the screen", 0x800U, 0.5, true);
+    row("on the screen, with warnings", 0x800800U, 0.5, true);
+    row("hidden", 0x800U, 0.02, false);
+    row("no rule", 0U, 0.5, false);
+    row("print", 0x8800U, 0.5, false);
+    row("thumbnail", 0x200800U, 0.5, false);
 }
 
 void tst_MvGraphicsItemCalendariumCells::paintsForPeopleOnly()
 {
-    QFETCH(const unsigned, flags);
-    QFETCH(const double, opacity);
+    const auto [flags, opacity, paints] = MvRows<unsigned, double, bool>::current();
     Cell cell(day, nullptr);
     cell.setBoundingRect({0, 0, 20, 20});
     cell.setOpacity(opacity);
@@ -296,8 +292,8 @@ void tst_MvGraphicsItemCalendariumCells::paintsForPeopleOnly()
     MvRenderingRule(flags).encodeInto(painter);
     cell.paint(&painter, nullptr, nullptr);
     painter.end();
-    QTEST(image.pixelColor(10, 10).alpha() == 155, "paints");
-    QTEST(image.pixelColor(10, 10).alpha() != 0, "paints");
+    QCOMPARE(image.pixelColor(10, 10).alpha() == 155, paints);
+    QCOMPARE(image.pixelColor(10, 10).alpha() != 0, paints);
 }
 
 void tst_MvGraphicsItemCalendariumCells::keyboard()
@@ -424,12 +420,11 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos()
 
 void tst_MvGraphicsItemCalendariumCells::artwork_data()
 {
-    QTest::addColumn<Qt::AspectRatioMode>("mode");
-    QTest::addColumn<QRectF>("cell");
+    const MvRows<Qt::AspectRatioMode, QRectF> row; // mode, cell
     // view box 100 x 100 shown in 200 x 100 at (10, 20); the day is at (10, 20), 30 x 40, moved by its group
-    QTest::newRow("stretched") << Qt::IgnoreAspectRatio << QRectF(10 + 40, 20 + 20, 60, 40);
-    QTest::newRow("fitted") << Qt::KeepAspectRatio << QRectF(60 + 20, 20 + 20, 30, 40);
-    QTest::newRow("filling") << Qt::KeepAspectRatioByExpanding << QRectF(10 + 40, -30 + 40, 60, 80);
+    row("stretched", Qt::IgnoreAspectRatio, QRectF(10 + 40, 20 + 20, 60, 40));
+    row("fitted", Qt::KeepAspectRatio, QRectF(60 + 20, 20 + 20, 30, 40));
+    row("filling", Qt::KeepAspectRatioByExpanding, QRectF(10 + 40, -30 + 40, 60, 80));
 }
 
 void tst_MvGraphicsItemCalendariumCells::artwork()
@@ -437,10 +432,10 @@ void tst_MvGraphicsItemCalendariumCells::artwork()
     const QByteArray svg = R"svg(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 100 100">
         <g transform="translate(10,0)"><rect id="child_Day_2027-06-05" x="10" y="20" width="30" height="40"/></g></svg>)svg";
     QSvgRenderer renderer(svg);
-    QFETCH(const Qt::AspectRatioMode, mode);
+    const auto [mode, cell] = MvRows<Qt::AspectRatioMode, QRectF>::current();
     Canvas canvas;
     canvas.manager->detectCellBoundingBoxes(MvDateRange::monthOf(day), &renderer, mode, {10, 20, 200, 100});
-    QTEST(canvas.manager->cell(day)->sceneBoundingRect(), "cell");
+    QCOMPARE(canvas.manager->cell(day)->sceneBoundingRect(), cell);
     QVERIFY(!canvas.manager->cell(day.addDays(1)));
 }
 

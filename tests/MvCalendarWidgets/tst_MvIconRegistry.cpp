@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvWidgetTest.h"
 
 #include "MvCore/MvDirectoryConfig.h"
@@ -15,7 +16,6 @@ private Q_SLOTS:
     void everyIconDraws_data();
     void everyIconDraws();
     void colourFollowsPalette();
-    void fillsDevicePixels();
     void overrideFolder_data();
     void overrideFolder();
     void unknownNames();
@@ -38,16 +38,16 @@ QSet<QRgb> tst_MvIconRegistry::inks(const QPixmap &pixmap)
 
 void tst_MvIconRegistry::everyIconDraws_data()
 {
-    QTest::addColumn<QString>("name");
+    const MvRows<QString> row; // name
     const QStringList names = MvIconRegistry::instance().names();
     QVERIFY(names.size() >= 30);
     for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << name;
+        row(name, name);
 }
 
 void tst_MvIconRegistry::everyIconDraws()
 {
-    QFETCH(const QString, name);
+    const auto [name] = MvRows<QString>::current();
     const QImage image = MvIconRegistry::instance().icon(name).pixmap(QSize(24, 24), 4.0).toImage();
     QRect ink;
     for (int y = 0; y < image.height(); ++y)
@@ -78,32 +78,21 @@ void tst_MvIconRegistry::colourFollowsPalette()
     QApplication::setPalette(before);
 }
 
-void tst_MvIconRegistry::fillsDevicePixels()
-{
-    const QIcon icon = MvIconRegistry::instance().icon(u"ico_studio_undo"_s);
-    for (const qreal ratio : {1.0, 1.5, 2.0, 3.0}) {
-        const QPixmap pixmap = icon.pixmap(QSize(20, 20), ratio);
-        QCOMPARE(pixmap.size(), QSize(20, 20) * ratio);
-        QCOMPARE(pixmap.devicePixelRatio(), ratio);
-    }
-}
-
 void tst_MvIconRegistry::overrideFolder_data()
 {
-    QTest::addColumn<QByteArray>("svg");
-    QTest::addColumn<bool>("isTaken");
-    QTest::newRow("square") << QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24">)"
-                                          R"(<rect x="2" y="2" width="20" height="20" fill="currentColor"/></svg>)")
-                            << true;
-    QTest::newRow("cut off") << QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg"><rect x="2")") << false;
-    QTest::newRow("another file") << QByteArray("<html><body/></html>") << false;
-    QTest::newRow("empty") << QByteArray() << false;
+    const MvRows<QByteArray, bool> row; // svg, isTaken
+    row("square",
+        QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24">)"
+                   R"(<rect x="2" y="2" width="20" height="20" fill="currentColor"/></svg>)"),
+        true);
+    row("cut off", QByteArray(R"(<svg xmlns="http://www.w3.org/2000/svg"><rect x="2")"), false);
+    row("another file", QByteArray("<html><body/></html>"), false);
+    row("empty", QByteArray(), false);
 }
 
 void tst_MvIconRegistry::overrideFolder()
 {
-    QFETCH(const QByteArray, svg);
-    QFETCH(const bool, isTaken);
+    const auto [svg, isTaken] = MvRows<QByteArray, bool>::current();
     const QString name = u"ico_studio_remove"_s; // a bar: its corners are empty
     const QDir folder = MvDirectoryConfig::instance().programDataSubDir(u"icons"_s);
     QFile file(folder.filePath(name + u".svg"_s));

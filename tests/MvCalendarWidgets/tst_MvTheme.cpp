@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
+#include "MvTestFiles.h"
 #include "MvWidgetTest.h"
 
 #include "MvGUIWidgets/MvTheme.h"
@@ -18,7 +20,6 @@ private Q_SLOTS:
     void outlines();
     void everyCssStyleIsDefined();
     void switchesColours();
-    void schemeNames();
 
 private:
     static double contrastOf(const QColor &one, const QColor &other);
@@ -37,23 +38,19 @@ double tst_MvTheme::contrastOf(const QColor &one, const QColor &other)
 
 void tst_MvTheme::contrast_data()
 {
-    QTest::addColumn<QPalette>("palette");
-    QTest::addColumn<int>("group");
-    QTest::addColumn<double>("minimum");
+    const MvRows<QPalette, int, double> row; // palette, group, minimum
     for (const bool dark : {false, true}) {
         const QPalette palette = dark ? MvTheme::darkPalette() : MvTheme::lightPalette();
         const QByteArray name = dark ? "dark" : "light";
-        QTest::newRow(name + " active") << palette << int(QPalette::Active) << 4.5;
-        QTest::newRow(name + " inactive") << palette << int(QPalette::Inactive) << 4.5;
-        QTest::newRow(name + " disabled") << palette << int(QPalette::Disabled) << 2.4;
+        row(name + " active", palette, int(QPalette::Active), 4.5);
+        row(name + " inactive", palette, int(QPalette::Inactive), 4.5);
+        row(name + " disabled", palette, int(QPalette::Disabled), 2.4);
     }
 }
 
 void tst_MvTheme::contrast()
 {
-    QFETCH(const QPalette, palette);
-    QFETCH(const int, group);
-    QFETCH(const double, minimum);
+    const auto [palette, group, minimum] = MvRows<QPalette, int, double>::current();
     using Role = QPalette::ColorRole;
     const std::pair<Role, QList<Role>> pairs[] = {
         {QPalette::WindowText, {QPalette::Window, QPalette::AlternateBase, QPalette::Midlight}},
@@ -114,9 +111,7 @@ void tst_MvTheme::outlines()
 /// A style named in the sources but missing in the sheet would go unnoticed.
 void tst_MvTheme::everyCssStyleIsDefined()
 {
-    QFile sheet(u":/mvcalendar/styles/studio.qss"_s);
-    QVERIFY(sheet.open(QIODevice::ReadOnly));
-    const QString styles = QString::fromUtf8(sheet.readAll());
+    const QString styles = QString::fromUtf8(MvTestFiles::contentOf(u":/mvcalendar/styles/studio.qss"_s));
     const QRegularExpression use(uR"re("cssstyle"\s*,\s*(?:QVariant\()?(?:QStringLiteral\()?u?"([^"]+)")re"_s);
     for (const QString &folder : {u"libs"_s, u"apps"_s}) {
         QDirIterator files(QStringLiteral(MV_SOURCE_ROOT "/") + folder, {u"*.cpp"_s}, QDir::Files,
@@ -154,14 +149,6 @@ void tst_MvTheme::switchesColours()
     }
     MvTheme::apply(MvTheme::Scheme::System); // the test's desktop is light, whatever was set since
     QVERIFY(!MvTheme::isDark(QApplication::palette()));
-}
-
-void tst_MvTheme::schemeNames()
-{
-    for (const QString &name : MvTheme::schemeNames())
-        QCOMPARE(MvTheme::nameOf(MvTheme::schemeFromName(name).value()), name);
-    QVERIFY(!MvTheme::schemeFromName(u"pink"_s));
-    QVERIFY(!MvTheme::schemeFromName(QString()));
 }
 
 MV_WIDGET_TEST_MAIN(tst_MvTheme)

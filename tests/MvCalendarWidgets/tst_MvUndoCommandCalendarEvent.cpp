@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
 
@@ -8,8 +9,6 @@
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCalendar/MvUndoCommandCalendarEventGroup.h"
 #include "MvCore/MvUndoController.h"
-
-#include <QTemporaryDir>
 
 namespace {
 
@@ -63,25 +62,20 @@ void tst_MvUndoCommandCalendarEvent::init()
 
 void tst_MvUndoCommandCalendarEvent::orderComesBack_data()
 {
-    QTest::addColumn<QString>("removed");
-    QTest::addColumn<QString>("added");
-    QTest::addColumn<QString>("addedByOthers");
-    QTest::addColumn<QString>("undone");
-    QTest::addColumn<QString>("redone");
+    const MvRows<QString, QString, QString, QString, QString> row; // removed, added, addedByOthers, undone, redone
     const QString none;
-    QTest::newRow("all") << u"A B C D"_qs << none << none << u"A B C D"_qs << none;
-    QTest::newRow("from the end") << u"D C B A"_qs << none << none << u"A B C D"_qs << none;
-    QTest::newRow("two") << u"B C"_qs << none << none << u"A B C D"_qs << u"A D"_qs;
-    QTest::newRow("a list for another") << u"A B C D"_qs << u"X Y"_qs << none << u"A B C D"_qs << u"X Y"_qs;
-    QTest::newRow("others add") << u"B C"_qs << u"X"_qs << u"O"_qs << u"A B C D O"_qs << u"A D X O"_qs;
+    row("all", u"A B C D"_qs, none, none, u"A B C D"_qs, none);
+    row("from the end", u"D C B A"_qs, none, none, u"A B C D"_qs, none);
+    row("two", u"B C"_qs, none, none, u"A B C D"_qs, u"A D"_qs);
+    row("a list for another", u"A B C D"_qs, u"X Y"_qs, none, u"A B C D"_qs, u"X Y"_qs);
+    row("others add", u"B C"_qs, u"X"_qs, u"O"_qs, u"A B C D O"_qs, u"A D X O"_qs);
 }
 
 /// Entries of one day are printed in the list's order.
 void tst_MvUndoCommandCalendarEvent::orderComesBack()
 {
-    QFETCH(QString, removed);
-    QFETCH(QString, added);
-    QFETCH(QString, addedByOthers);
+    const auto [removed, added, addedByOthers, undone, redone] =
+        MvRows<QString, QString, QString, QString, QString>::current();
     registry().setEvents({entry(u"A"_qs), entry(u"B"_qs), entry(u"C"_qs), entry(u"D"_qs)});
     undo().beginMacro({});
     undo().push(new MvUndoCommandCalendarEventGroup(MvUndoCommandCalendarEventGroup::Begin));
@@ -96,33 +90,29 @@ void tst_MvUndoCommandCalendarEvent::orderComesBack()
         registry().setEvents(registry().activeEventList());
     }
     undo().undo();
-    QTEST(MvEntries::names(registry().activeEventList()).join(u' '), "undone");
+    QCOMPARE(MvEntries::names(registry().activeEventList()).join(u' '), undone);
     undo().redo();
-    QTEST(MvEntries::names(registry().activeEventList()).join(u' '), "redone");
+    QCOMPARE(MvEntries::names(registry().activeEventList()).join(u' '), redone);
     undo().undo();
-    QTEST(MvEntries::names(registry().activeEventList()).join(u' '), "undone");
+    QCOMPARE(MvEntries::names(registry().activeEventList()).join(u' '), undone);
 }
 
 void tst_MvUndoCommandCalendarEvent::meansTheVeryEntry_data()
 {
-    QTest::addColumn<QString>("before"); // name and day of the month
-    QTest::addColumn<QString>("after");
-    QTest::addColumn<QString>("byOthers");
-    QTest::addColumn<QString>("undone");
-    QTest::addColumn<QString>("redone");
+    // before: name and day of the month
+    const MvRows<QString, QString, QString, QString, QString> row;
     const QString none;
-    QTest::newRow("another field") << u"A 1"_qs << u"X 1"_qs << u"X 5"_qs << u"A 5"_qs << u"X 5"_qs;
-    QTest::newRow("the same field") << u"A 1"_qs << u"X 1"_qs << u"O 1"_qs << u"O 1"_qs << u"O 1"_qs;
-    QTest::newRow("one of two fields") << u"A 1"_qs << u"X 2"_qs << u"O 2"_qs << u"O 1"_qs << u"O 2"_qs;
-    QTest::newRow("an added one") << none << u"X 1"_qs << u"O 5"_qs << none << u"O 5"_qs;
+    row("another field", u"A 1"_qs, u"X 1"_qs, u"X 5"_qs, u"A 5"_qs, u"X 5"_qs);
+    row("the same field", u"A 1"_qs, u"X 1"_qs, u"O 1"_qs, u"O 1"_qs, u"O 1"_qs);
+    row("one of two fields", u"A 1"_qs, u"X 2"_qs, u"O 2"_qs, u"O 1"_qs, u"O 2"_qs);
+    row("an added one", none, u"X 1"_qs, u"O 5"_qs, none, u"O 5"_qs);
 }
 
 /// Another program changes the entry in between: there is one entry all the same.
 void tst_MvUndoCommandCalendarEvent::meansTheVeryEntry()
 {
-    QFETCH(QString, before);
-    QFETCH(QString, after);
-    QFETCH(QString, byOthers);
+    const auto [before, after, byOthers, undone, redone] =
+        MvRows<QString, QString, QString, QString, QString>::current();
     const QUuid uuid = QUuid::createUuid();
     const auto read = [&uuid](const QString &text) {
         return text.isEmpty() ? MvCalendarEvent()
@@ -142,9 +132,9 @@ void tst_MvUndoCommandCalendarEvent::meansTheVeryEntry()
     registry().setEvents(registry().activeEventList());
     QCOMPARE(shown(registry().activeEventList()), byOthers);
     undo().undo();
-    QTEST(shown(registry().activeEventList()), "undone");
+    QCOMPARE(shown(registry().activeEventList()), undone);
     undo().redo();
-    QTEST(shown(registry().activeEventList()), "redone");
+    QCOMPARE(shown(registry().activeEventList()), redone);
 }
 
 void tst_MvUndoCommandCalendarEvent::repaintsWhatChanged()
@@ -189,16 +179,15 @@ MvCalendarEventList tst_MvUndoCommandCalendarEvent::entriesOfFileWithFoto(const 
 
 void tst_MvUndoCommandCalendarEvent::findsEntriesWithImportedFotos_data()
 {
-    QTest::addColumn<bool>("loads"); // a list that was loaded as it is: the first change takes its photos over
-    QTest::addColumn<QString>("undone");
-    QTest::addColumn<QString>("redone");
-    QTest::newRow("added") << false << u"A B"_qs << u"A B Import"_qs;
-    QTest::newRow("loaded") << true << u"Import"_qs << u"Neu"_qs;
+    // loads: a list that was loaded as it is: the first change takes its photos over
+    const MvRows<bool, QString, QString> row;
+    row("added", false, u"A B"_qs, u"A B Import"_qs);
+    row("loaded", true, u"Import"_qs, u"Neu"_qs);
 }
 
 void tst_MvUndoCommandCalendarEvent::findsEntriesWithImportedFotos()
 {
-    QFETCH(const bool, loads);
+    const auto [loads, undone, redone] = MvRows<bool, QString, QString>::current();
     const QTemporaryDir folder;
     const MvCalendarEventList imported = entriesOfFileWithFoto(folder, u"oma.png"_qs);
     QCOMPARE(imported.size(), 1);
@@ -207,9 +196,9 @@ void tst_MvUndoCommandCalendarEvent::findsEntriesWithImportedFotos()
     const MvCalendarEvent before = loads ? registry().activeEventList().first() : MvCalendarEvent();
     undo().push(new MvUndoCommandCalendarEvent(before, loads ? entry(u"Neu"_qs) : imported.first(), nullptr));
     undo().undo();
-    QTEST(onDisk(), "undone");
+    QCOMPARE(onDisk(), undone);
     undo().redo();
-    QTEST(onDisk(), "redone");
+    QCOMPARE(onDisk(), redone);
     if (loads)
         undo().undo();
     QVERIFY(!registry().activeEventList().contains(imported.first()));

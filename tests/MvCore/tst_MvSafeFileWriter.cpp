@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCore/MvFileBackup.h"
@@ -6,8 +7,6 @@
 #include "MvCore/MvFileGuard.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvUniqueFilenameMaker.h"
-
-#include <QTemporaryDir>
 
 #include <array>
 #include <csignal>
@@ -120,21 +119,19 @@ void tst_MvSafeFileWriter::writesThroughLinks()
 
 void tst_MvSafeFileWriter::refuses_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("folder") << u"folder"_s << u"keine gewöhnliche Datei"_s;
-    QTest::newRow("pipe") << u"pipe"_s << u"keine gewöhnliche Datei"_s;
-    QTest::newRow("device") << u"/dev/full"_s << u"keine gewöhnliche Datei"_s;
-    QTest::newRow("missing folder") << u"nowhere/a.xml"_s << u"Den Ordner gibt es nicht"_s;
-    QTest::newRow("file in place of a folder") << u"file/a.xml"_s << u"Den Ordner gibt es nicht"_s;
-    QTest::newRow("circle of links") << u"circle"_s << u"im Kreis"_s;
-    QTest::newRow("name too long") << QString(300, u'x') << u"zu lang"_s;
+    const MvRows<QString, QString> row; // name, message
+    row("folder", u"folder"_s, u"keine gewöhnliche Datei"_s);
+    row("pipe", u"pipe"_s, u"keine gewöhnliche Datei"_s);
+    row("device", u"/dev/full"_s, u"keine gewöhnliche Datei"_s);
+    row("missing folder", u"nowhere/a.xml"_s, u"Den Ordner gibt es nicht"_s);
+    row("file in place of a folder", u"file/a.xml"_s, u"Den Ordner gibt es nicht"_s);
+    row("circle of links", u"circle"_s, u"im Kreis"_s);
+    row("name too long", QString(300, u'x'), u"zu lang"_s);
 }
 
 void tst_MvSafeFileWriter::refuses()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, message);
+    const auto [name, message] = MvRows<QString, QString>::current();
     QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_s));
     put(u"file"_s, "kept");
     QCOMPARE(::mkfifo(native(u"pipe"_s).constData(), 0600), 0);
@@ -242,26 +239,20 @@ QByteArray accessList(const Person &person, quint16 given)
 
 void tst_MvSafeFileWriter::rightsOfSharedFiles_data()
 {
-    QTest::addColumn<Person>("writer");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QByteArray>("list");
-    QTest::addColumn<QByteArray>("listOfFolder"); // which new files in it get
-    QTest::newRow("the group's, written by one of it") << bernd << 0660 << QByteArray() << QByteArray();
-    QTest::newRow("the group's, written by its owner") << anna << 0660 << QByteArray() << QByteArray();
-    QTest::newRow("the group's, written by the administrator")
-        << Person{0, false} << 0660 << QByteArray() << QByteArray();
-    QTest::newRow("with a list, written by its owner") << anna << 0600 << accessList(clara, 6) << QByteArray();
-    QTest::newRow("with a list, written by one on it") << bernd << 0600 << accessList(bernd, 6) << QByteArray();
-    QTest::newRow("private, in a folder with a list") << anna << 0600 << QByteArray() << accessList(clara, 6);
+    // listOfFolder: which new files in it get
+    const MvRows<Person, int, QByteArray, QByteArray> row;
+    row("the group's, written by one of it", bernd, 0660, QByteArray(), QByteArray());
+    row("the group's, written by its owner", anna, 0660, QByteArray(), QByteArray());
+    row("the group's, written by the administrator", Person{0, false}, 0660, QByteArray(), QByteArray());
+    row("with a list, written by its owner", anna, 0600, accessList(clara, 6), QByteArray());
+    row("with a list, written by one on it", bernd, 0600, accessList(bernd, 6), QByteArray());
+    row("private, in a folder with a list", anna, 0600, QByteArray(), accessList(clara, 6));
 }
 
 /// Whoever might read or write the file may do so after it was saved, and nobody else.
 void tst_MvSafeFileWriter::rightsOfSharedFiles()
 {
-    QFETCH(Person, writer);
-    QFETCH(int, mode);
-    QFETCH(QByteArray, list);
-    QFETCH(QByteArray, listOfFolder);
+    const auto [writer, mode, list, listOfFolder] = MvRows<Person, int, QByteArray, QByteArray>::current();
     if (::geteuid() != 0)
         QSKIP("taking on another user needs the administrator");
     put(u"a.xml"_s, "old");
@@ -316,17 +307,17 @@ void tst_MvSafeFileWriter::furtherNamesAndAttributes()
 
 void tst_MvSafeFileWriter::longNames_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::newRow("room for nothing") << QString(251, u'x') + u".xml"_s;
-    QTest::newRow("room for the lock alone") << QString(246, u'x') + u".xml"_s;
-    QTest::newRow("two bytes a letter") << QString(124, u'ä') + u".xml"_s;
-    QTest::newRow("four bytes a letter") << QString::fromUcs4(U"\U0001F382").repeated(62) + u".xml"_s;
-    QTest::newRow("no text") << u"a\nb\u0001.xml"_s;
+    const MvRows<QString> row; // name
+    row("room for nothing", QString(251, u'x') + u".xml"_s);
+    row("room for the lock alone", QString(246, u'x') + u".xml"_s);
+    row("two bytes a letter", QString(124, u'ä') + u".xml"_s);
+    row("four bytes a letter", QString::fromUcs4(U"\U0001F382").repeated(62) + u".xml"_s);
+    row("no text", u"a\nb\u0001.xml"_s);
 }
 
 void tst_MvSafeFileWriter::longNames()
 {
-    QFETCH(QString, name);
+    const auto [name] = MvRows<QString>::current();
     const QFileInfo file(path(name));
     QVERIFY(MvFileGuard(file, 0).isLocked());
     for (const char *version : {"1", "2", "3"})
@@ -454,24 +445,18 @@ void tst_MvSafeFileWriter::stampTellsOfOtherWriters()
 
 void tst_MvSafeFileWriter::locksOutOthers_data()
 {
-    QTest::addColumn<int>("folderMode");
-    QTest::addColumn<int>("fileMode"); // 0: no file
-    QTest::addColumn<bool>("isAdministratorFirst");
-    QTest::addColumn<bool>("isPossible");
-    QTest::newRow("open folder") << 0777 << 0666 << false << true;
-    QTest::newRow("no file yet") << 0777 << 0 << false << true;
-    QTest::newRow("closed folder") << 0555 << 0666 << false << true;
-    QTest::newRow("closed folder, read-only file") << 0555 << 0444 << false << true;
-    QTest::newRow("closed to the second alone") << 0555 << 0666 << true << true;
-    QTest::newRow("closed folder without a file") << 0555 << 0 << false << false;
+    const MvRows<int, int, bool, bool> row; // folderMode; fileMode: 0: no file; isAdministratorFirst; isPossible
+    row("open folder", 0777, 0666, false, true);
+    row("no file yet", 0777, 0, false, true);
+    row("closed folder", 0555, 0666, false, true);
+    row("closed folder, read-only file", 0555, 0444, false, true);
+    row("closed to the second alone", 0555, 0666, true, true);
+    row("closed folder without a file", 0555, 0, false, false);
 }
 
 void tst_MvSafeFileWriter::locksOutOthers()
 {
-    QFETCH(int, folderMode);
-    QFETCH(int, fileMode);
-    QFETCH(bool, isAdministratorFirst);
-    QFETCH(bool, isPossible);
+    const auto [folderMode, fileMode, isAdministratorFirst, isPossible] = MvRows<int, int, bool, bool>::current();
     if (::geteuid() != 0)
         QSKIP("taking on another user needs the administrator");
     const QFileInfo file(path(u"a.xml"_s));

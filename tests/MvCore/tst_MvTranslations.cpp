@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCore/MvApplicationLocale.h"
 #include "MvCore/MvLocale.h"
 #include "MvCore/MvSafeFileWriter.h"
 #include "MvCore/MvTranslations.h"
-
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -24,22 +23,21 @@ private Q_SLOTS:
 
 void tst_MvTranslations::languageFor_data()
 {
-    QTest::addColumn<QStringList>("preferred");
-    QTest::addColumn<QString>("language");
-    QTest::newRow("American") << QStringList{u"en-US"_s} << u"en"_s;
-    QTest::newRow("with encoding") << QStringList{u"en_GB.UTF-8"_s} << u"en"_s;
-    QTest::newRow("bare, capitals") << QStringList{u"EN"_s} << u"en"_s;
-    QTest::newRow("Austrian") << QStringList{u"de-AT"_s, u"en-US"_s} << u"de"_s;
-    QTest::newRow("the first one counts") << QStringList{u"fr-FR"_s, u"en-US"_s} << u"de"_s;
-    QTest::newRow("begins like English") << QStringList{u"enm"_s} << u"de"_s;
-    QTest::newRow("C") << QStringList{u"C"_s} << u"de"_s;
-    QTest::newRow("nothing") << QStringList() << u"de"_s;
+    const MvRows<QStringList, QString> row; // preferred, language
+    row("American", QStringList{u"en-US"_s}, u"en"_s);
+    row("with encoding", QStringList{u"en_GB.UTF-8"_s}, u"en"_s);
+    row("bare, capitals", QStringList{u"EN"_s}, u"en"_s);
+    row("Austrian", QStringList{u"de-AT"_s, u"en-US"_s}, u"de"_s);
+    row("the first one counts", QStringList{u"fr-FR"_s, u"en-US"_s}, u"de"_s);
+    row("begins like English", QStringList{u"enm"_s}, u"de"_s);
+    row("C", QStringList{u"C"_s}, u"de"_s);
+    row("nothing", QStringList(), u"de"_s);
 }
 
 void tst_MvTranslations::languageFor()
 {
-    QFETCH(const QStringList, preferred);
-    QTEST(MvTranslations::languageFor(preferred), "language");
+    const auto [preferred, language] = MvRows<QStringList, QString>::current();
+    QCOMPARE(MvTranslations::languageFor(preferred), language);
 }
 
 void tst_MvTranslations::environmentDecides()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCore/MvUndoCommand.h"
@@ -43,12 +44,7 @@ void tst_MvUndoController::steps_data()
 {
     // ( and ) begin and end a macro, < undoes, > redoes, ! clears, 0 pushes nothing and a step without effect, a letter
     // is a command
-    QTest::addColumn<QString>("actions");
-    QTest::addColumn<QString>("log");
-    QTest::addColumn<int>("count"); // of the steps in the end
-    const auto row = [](const char *name, const QString &actions, const QString &log, int count) {
-        QTest::newRow(name) << actions << log << count;
-    };
+    const MvRows<QString, QString, int> row; // actions; log; count: of the steps in the end
     row("there and back", u"ab<<<>>>"_s, u"+a +b -b -a +a +b"_s, 2);
     row("new steps replace undone ones", u"a<b><"_s, u"+a -a +b ~a -b"_s, 1);
     row("a macro is one step", u"a(bc)<"_s, u"+a +b +c -c -b"_s, 2);
@@ -64,8 +60,7 @@ void tst_MvUndoController::steps_data()
 
 void tst_MvUndoController::steps()
 {
-    QFETCH(const QString, actions);
-    QFETCH(const QString, log);
+    const auto [actions, log, count] = MvRows<QString, QString, int>::current();
     QStringList done; // outlives the controller, whose commands write at their end
     MvUndoController controller;
     for (const QChar action : actions) {
@@ -94,7 +89,7 @@ void tst_MvUndoController::steps()
         }
     }
     QCOMPARE(done.join(u' '), log);
-    QTEST(controller.stack()->count(), "count");
+    QCOMPARE(controller.stack()->count(), count);
 }
 
 void tst_MvUndoController::childrenGoWithTheirParent()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCore/MvAngle.h"
@@ -52,31 +53,29 @@ void tst_MvValues::adaptsFonts()
 
 void tst_MvValues::names_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("name");
+    const MvRows<QString, QString> row; // text, name
     const QString pair = u"\U0001F388"_s;
     const QString family = u"\U0001F468\u200d\U0001F469"_s; // one character of five units
     const QString letters(MvStringHelper::longestName, u'x');
-    QTest::newRow("as it is") << u"Oma Erika & Co."_s << u"Oma Erika & Co."_s;
-    QTest::newRow("lines and runs of blanks") << u" \tOma\r\n\u2028Erika \u00a0 M. \u0085"_s << u"Oma Erika M."_s;
-    QTest::newRow("control characters") << u"\u0000Oma\u0007Erika\u009f"_s << u"Oma Erika"_s;
-    QTest::newRow("halves of a pair") << pair.right(1) + u"Oma"_s + pair.left(1) + pair + pair.left(1)
-                                      << u"Oma"_s + pair;
-    QTest::newRow("no characters") << u"Oma\uffff\ufdd0\U0001fffe"_s << u"Oma"_s;
-    QTest::newRow("nothing to be seen") << u"\u0001\u200b \ufeff\u3164\u2060\ufe0f\u2800"_s << QString();
-    QTest::newRow("joined") << family << family;
-    QTest::newRow("the longest") << letters << letters;
-    QTest::newRow("too long") << letters + u"y"_s << letters;
-    QTest::newRow("ends before what does not fit whole") << letters.chopped(1) + family << letters.chopped(1);
-    QTest::newRow("ends without a blank") << letters.chopped(1) + u" y"_s << letters.chopped(1);
-    QTest::newRow("nothing but marks") << u"a"_s + QString(1000, QChar(0x0301))
-                                       << u"a"_s + QString(letters.size() - 1, QChar(0x0301));
+    row("as it is", u"Oma Erika & Co."_s, u"Oma Erika & Co."_s);
+    row("lines and runs of blanks", u" \tOma\r\n\u2028Erika \u00a0 M. \u0085"_s, u"Oma Erika M."_s);
+    row("control characters", u"\u0000Oma\u0007Erika\u009f"_s, u"Oma Erika"_s);
+    row("halves of a pair", pair.right(1) + u"Oma"_s + pair.left(1) + pair + pair.left(1), u"Oma"_s + pair);
+    row("no characters", u"Oma\uffff\ufdd0\U0001fffe"_s, u"Oma"_s);
+    row("nothing to be seen", u"\u0001\u200b \ufeff\u3164\u2060\ufe0f\u2800"_s, QString());
+    row("joined", family, family);
+    row("the longest", letters, letters);
+    row("too long", letters + u"y"_s, letters);
+    row("ends before what does not fit whole", letters.chopped(1) + family, letters.chopped(1));
+    row("ends without a blank", letters.chopped(1) + u" y"_s, letters.chopped(1));
+    row("nothing but marks", u"a"_s + QString(1000, QChar(0x0301)),
+        u"a"_s + QString(letters.size() - 1, QChar(0x0301)));
 }
 
 void tst_MvValues::names()
 {
-    QFETCH(const QString, text);
-    QTEST(MvStringHelper::simplifiedName(text), "name");
+    const auto [text, name] = MvRows<QString, QString>::current();
+    QCOMPARE(MvStringHelper::simplifiedName(text), name);
     QCOMPARE(MvStringHelper::simplifiedName(MvStringHelper::simplifiedName(text)),
              MvStringHelper::simplifiedName(text));
 }

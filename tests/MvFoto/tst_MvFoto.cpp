@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvFoto/MvFoto.h"
 #include "MvFoto/MvFotoAccess.h"
-
-#include <QTemporaryDir>
 
 class tst_MvFoto : public MvTest
 {
@@ -20,12 +19,9 @@ private Q_SLOTS:
 
 void tst_MvFoto::namesOfCopies_data()
 {
-    QTest::addColumn<int>("format");
-    QTest::addColumn<QString>("hint");
-    QTest::addColumn<QString>("extension");
-    QTest::addColumn<QString>("name");
-    const auto row = [](const char *what, MvMediaFormat::Format format, const QString &hint, const QString &extension,
-                        const QString &name) { QTest::newRow(what) << int(format) << hint << extension << name; };
+    const MvRows<int, QString, QString, QString> add; // format, hint, extension, name
+    const auto row = [&](const char *what, MvMediaFormat::Format format, const QString &hint, const QString &extension,
+                         const QString &name) { add(what, int(format), hint, extension, name); };
     row("photo", MvMediaFormat::Jpeg, u"Oma Erika"_qs, u"JPG"_qs, u"Oma Erika.jpg"_qs);
     row("long extension stays", MvMediaFormat::Jpeg, u"oma"_qs, u"jpeg"_qs, u"oma.jpeg"_qs);
     row("content decides", MvMediaFormat::Jpeg, u"oma"_qs, u"png"_qs, u"oma.jpg"_qs);
@@ -41,10 +37,8 @@ void tst_MvFoto::namesOfCopies_data()
 
 void tst_MvFoto::namesOfCopies()
 {
-    QFETCH(int, format);
-    QFETCH(QString, hint);
-    QFETCH(QString, extension);
-    QTEST(MvMediaFormat::createFilename(MvMediaFormat::Format(format), hint, extension), "name");
+    const auto [format, hint, extension, name] = MvRows<int, QString, QString, QString>::current();
+    QCOMPARE(MvMediaFormat::createFilename(MvMediaFormat::Format(format), hint, extension), name);
 }
 
 void tst_MvFoto::comparesByPath()

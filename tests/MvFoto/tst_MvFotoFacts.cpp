@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvExifFixture.h"
 #include "MvFoto/MvFotoFacts.h"
 #include "MvFoto/MvGuardedImageReader.h"
-
-#include <QBuffer>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -47,22 +45,19 @@ static QByteArray written(const char *format)
 
 void tst_MvFotoFacts::captured_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("time"); // empty: invalid
-    QTest::newRow("usual") << QByteArray("2026:07:14 15:30:12") << u"2026-07-14T15:30:12.000Z"_qs;
-    QTest::newRow("in the hour that summer time skips")
-        << QByteArray("2026:03:29 02:30:00") << u"2026-03-29T02:30:00.000Z"_qs;
-    QTest::newRow("dashes") << QByteArray("2026-07-14T15:30:12") << u"2026-07-14T15:30:12.000Z"_qs;
-    QTest::newRow("no time") << QByteArray("2026:07:14   :  :  ") << u"2026-07-14T00:00:00.000Z"_qs;
-    QTest::newRow("time cannot be") << QByteArray("2026:07:14 25:61:00") << u"2026-07-14T00:00:00.000Z"_qs;
+    const MvRows<QByteArray, QString> row; // text; time: empty: invalid
+    row("usual", QByteArray("2026:07:14 15:30:12"), u"2026-07-14T15:30:12.000Z"_qs);
+    row("in the hour that summer time skips", QByteArray("2026:03:29 02:30:00"), u"2026-03-29T02:30:00.000Z"_qs);
+    row("dashes", QByteArray("2026-07-14T15:30:12"), u"2026-07-14T15:30:12.000Z"_qs);
+    row("no time", QByteArray("2026:07:14   :  :  "), u"2026-07-14T00:00:00.000Z"_qs);
+    row("time cannot be", QByteArray("2026:07:14 25:61:00"), u"2026-07-14T00:00:00.000Z"_qs);
     for (const char *text : {"0000:00:00 00:00:00", "2026:02:30 10:00:00", "    :  :     :  :  ", "gestern", ""})
-        QTest::newRow(text) << QByteArray(text) << QString();
+        row(text, QByteArray(text), QString());
 }
 
 void tst_MvFotoFacts::captured()
 {
-    QFETCH(QByteArray, text);
-    QFETCH(QString, time);
+    const auto [text, time] = MvRows<QByteArray, QString>::current();
     const QByteArray block = MvExifFixture::block(6, text);
     const QByteArray webP = written("webp");
     for (const QByteArray &file :
@@ -77,26 +72,26 @@ void tst_MvFotoFacts::captured()
 
 void tst_MvFotoFacts::description_data()
 {
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("Oma im Garten") << u"Oma im Garten"_qs;
-    QTest::newRow("  B\xc3\xa4rlauch,\n gepfl\xc3\xbc"
-                  "ckt ")
-        << u"Bärlauch, gepflückt"_qs;
-    QTest::newRow("B\xe4rlauch") << u"Bärlauch"_qs; // in the older way
+    const MvRows<QString> row; // expected
+    row("Oma im Garten", u"Oma im Garten"_qs);
+    row("  B\xc3\xa4rlauch,\n gepfl\xc3\xbc"
+        "ckt ",
+        u"Bärlauch, gepflückt"_qs);
+    row("B\xe4rlauch", u"Bärlauch"_qs); // in the older way
     for (const char *byCamera : {"OLYMPUS DIGITAL CAMERA", "SONY DSC", "Exif_JPEG_PICTURE", "          "})
-        QTest::newRow(byCamera) << QString();
+        row(byCamera, QString());
 }
 
 void tst_MvFotoFacts::description()
 {
+    const auto [expected] = MvRows<QString>::current();
     const QByteArray block = MvExifFixture::described(QTest::currentDataTag());
-    QTEST(factsOf(u"foto.jpg"_qs, MvExifFixture::inJpeg(written("jpeg"), block)).description, "expected");
+    QCOMPARE(factsOf(u"foto.jpg"_qs, MvExifFixture::inJpeg(written("jpeg"), block)).description, expected);
 }
 
 void tst_MvFotoFacts::capturedByName_data()
 {
-    QTest::addColumn<QString>("time");
-    const auto row = [](const char *name, const QString &time) { QTest::newRow(name) << time; };
+    const MvRows<QString> row; // time
     row("IMG_20260714_153012.jpg", u"2026-07-14T15:30:12Z"_qs);
     row("PXL_20260714_153012345.MP.jpg", u"2026-07-14T15:30:12Z"_qs);
     row("2026-07-14 15.30.12.jpg", u"2026-07-14T15:30:12Z"_qs);
@@ -112,8 +107,9 @@ void tst_MvFotoFacts::capturedByName_data()
 
 void tst_MvFotoFacts::capturedByName()
 {
+    const auto [time] = MvRows<QString>::current();
     const QString name = QString::fromLatin1(QTest::currentDataTag());
-    QTEST(MvFotoFacts::capturedByName(name).toString(Qt::ISODate), "time");
+    QCOMPARE(MvFotoFacts::capturedByName(name).toString(Qt::ISODate), time);
     if (!name.isEmpty()) // the file's own note counts for more
         QCOMPARE(factsOf(name, MvExifFixture::inJpeg(written("jpeg"), MvExifFixture::block(1, "2025:12:24 18:00:00")))
                      .captured.date(),

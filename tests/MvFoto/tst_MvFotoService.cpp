@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvFoto/MvFotoPass.h"
 #include "MvFoto/MvFotoService.h"
 #include "MvFoto/MvFotoThumbnails.h"
-
-#include <QSemaphore>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -92,12 +89,9 @@ void tst_MvFotoService::mostUrgentFirst()
 
 void tst_MvFotoService::fits_data()
 {
-    QTest::addColumn<int>("fit");
-    QTest::addColumn<QSize>("asked");
-    QTest::addColumn<QSize>("given");
-    QTest::addColumn<QColor>("corner");
-    const auto row = [](const char *name, Fit fit, const QSize &asked, const QSize &given, Qt::GlobalColor corner) {
-        QTest::newRow(name) << int(fit) << asked << given << QColor(corner);
+    const MvRows<int, QSize, QSize, QColor> add; // fit, asked, given, corner
+    const auto row = [&](const char *name, Fit fit, const QSize &asked, const QSize &given, Qt::GlobalColor corner) {
+        add(name, int(fit), asked, given, QColor(corner));
     };
     row("within, smaller", Fit::Within, {16, 16}, {16, 8}, Qt::red);
     row("within, larger", Fit::Within, {128, 128}, {128, 64}, Qt::red);
@@ -108,13 +102,12 @@ void tst_MvFotoService::fits_data()
 
 void tst_MvFotoService::fits()
 {
-    QFETCH(int, fit);
-    QFETCH(QSize, asked);
+    const auto [fit, asked, given, corner] = MvRows<int, QSize, QSize, QColor>::current();
     MvFotoService service;
     const MvFotoRequest request = service.request(order(u"a.png"_qs, asked, Fit(fit)), Urgency::Seen);
     QTRY_VERIFY(request.isDone());
-    QTEST(request.image().size(), "given");
-    QTEST(request.image().pixelColor(2, request.image().height() / 2), "corner");
+    QCOMPARE(request.image().size(), given);
+    QCOMPARE(request.image().pixelColor(2, request.image().height() / 2), corner);
 }
 
 void tst_MvFotoService::keepsWhatIsReadUntilTheFileChanges()

@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvExifFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvFoto/MvGuardedImageReader.h"
 #include "MvFoto/MvImageFormat.h"
 #include "MvFoto/MvImageLoader.h"
 
-#include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
-#include <QTemporaryDir>
-#include <QThread>
 
 #include <sys/stat.h>
 
@@ -115,14 +113,14 @@ void tst_MvImageLoader::put(const QString &name, const QByteArray &content) cons
 
 void tst_MvImageLoader::formats_data()
 {
-    QTest::addColumn<QByteArray>("format");
+    const MvRows<QByteArray> row; // format
     for (const char *format : {"jpeg", "png", "bmp", "tiff", "webp"})
-        QTest::newRow(format) << QByteArray(format);
+        row(format, QByteArray(format));
 }
 
 void tst_MvImageLoader::formats()
 {
-    QFETCH(QByteArray, format);
+    const auto [format] = MvRows<QByteArray>::current();
     if (!QImageWriter::supportedImageFormats().contains(format))
         QSKIP("no writer for this format here");
     const QString file = path(u"foto.xyz"_qs); // the name says nothing
@@ -135,22 +133,17 @@ void tst_MvImageLoader::formats()
 /// Files of tests/data that nothing here could write.
 void tst_MvImageLoader::otherPrograms_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("format");
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QString>("fields");
-    QTest::newRow("turned by the file; the camera's note says so, too")
-        << u"turned.heic"_qs << QByteArray("heic") << QSize(96, 128) << u"brwg"_qs;
-    QTest::newRow("inks of a print shop") << u"cmyk.jpg"_qs << QByteArray("jpeg") << QSize(32, 24) << u"rgbw"_qs;
+    const MvRows<QString, QByteArray, QSize, QString> row; // name, format, size, fields
+    row("turned by the file; the camera's note says so, too", u"turned.heic"_qs, QByteArray("heic"), QSize(96, 128),
+        u"brwg"_qs);
+    row("inks of a print shop", u"cmyk.jpg"_qs, QByteArray("jpeg"), QSize(32, 24), u"rgbw"_qs);
 }
 
 void tst_MvImageLoader::otherPrograms()
 {
-    QFETCH(QString, name);
-    QFETCH(QSize, size);
-    QFETCH(QString, fields);
+    const auto [name, format, size, fields] = MvRows<QString, QByteArray, QSize, QString>::current();
     const QFileInfo file(QStringLiteral(MV_TEST_DATA "/fotos/") + name);
-    QTEST(MvImageLoader::format(file), "format");
+    QCOMPARE(MvImageLoader::format(file), format);
     QCOMPARE(MvImageLoader::instance().size(file), size);
     QCOMPARE(fieldNames(MvImageLoader::instance().load(file)), fields);
     const QSize half = size / 2;
@@ -166,55 +159,53 @@ static QByteArray changed(const QString &name, const QByteArray &from, const QBy
 
 void tst_MvImageLoader::refuses_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("reason"); // in it
+    const MvRows<QByteArray, QString> row; // content; reason: in it
     const QString notRead = u"Gelesen werden JPEG"_qs;
     const QByteArray svg =
         "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9' height='9'/></svg>";
-    QTest::newRow("drawing under a photo's name") << svg << notRead;
-    QTest::newRow("drawing with an XML declaration") << "<?xml version='1.0'?>" + svg << notRead;
-    QTest::newRow("empty") << QByteArray() << notRead;
-    QTest::newRow("pixel list as source code")
-        << QByteArray("/* XPM */\nstatic char *x[]={\"1 1 1 1\",\"a c red\",\"a\"};") << notRead;
-    QTest::newRow("document") << QByteArray("%PDF-1.7\n") << notRead;
+    row("drawing under a photo's name", svg, notRead);
+    row("drawing with an XML declaration", "<?xml version='1.0'?>" + svg, notRead);
+    row("empty", QByteArray(), notRead);
+    row("pixel list as source code", QByteArray("/* XPM */\nstatic char *x[]={\"1 1 1 1\",\"a c red\",\"a\"};"),
+        notRead);
+    row("document", QByteArray("%PDF-1.7\n"), notRead);
     // 60,000 pixels square would take 14 GB
-    QTest::newRow("larger than memory allows") << QByteArray::fromHex("424d36000000000000003600000028000000"
-                                                                      "60ea0000"
-                                                                      "60ea0000"
-                                                                      "0100180000000000"
-                                                                      "0000000000000000000000000000000000000000")
-                                               << u"beschädigt"_qs;
-    QTest::newRow("34 bytes for 16,383 pixels square") << QByteArray::fromHex("524946461a00000057454250"
-                                                                              "5650384c0d000000"
-                                                                              "2ffebfff0f1111111111111111"
-                                                                              "00")
-                                                       << u"viel zu klein für die 16383 × 16383"_qs;
-    QTest::newRow("one pixel on a canvas of 16,000 pixels square")
-        << QByteArray::fromHex("474946383961803e803e800000000000ffffff2c00000000010001000002024401003b")
-        << u"viel zu klein für die 16000 × 16000"_qs;
-    QTest::newRow("small file for 20,000 pixels square") << claiming20000(0) << u"zu klein für die 20000 × 20000"_qs;
-    QTest::newRow("the same, stuffed") << claiming20000(1 << 20) << u"zu groß: 20000 × 20000"_qs;
-    QTest::newRow("photo in 2,000 passes") << manyScans(2000) << u"64 Durchgängen"_qs;
-    QTest::newRow("photo cut off after 300 bytes")
-        << written(fields({400, 300}), "jpeg").first(300) << u"nicht vollständig"_qs;
+    row("larger than memory allows",
+        QByteArray::fromHex("424d36000000000000003600000028000000"
+                            "60ea0000"
+                            "60ea0000"
+                            "0100180000000000"
+                            "0000000000000000000000000000000000000000"),
+        u"beschädigt"_qs);
+    row("34 bytes for 16,383 pixels square",
+        QByteArray::fromHex("524946461a00000057454250"
+                            "5650384c0d000000"
+                            "2ffebfff0f1111111111111111"
+                            "00"),
+        u"viel zu klein für die 16383 × 16383"_qs);
+    row("one pixel on a canvas of 16,000 pixels square",
+        QByteArray::fromHex("474946383961803e803e800000000000ffffff2c00000000010001000002024401003b"),
+        u"viel zu klein für die 16000 × 16000"_qs);
+    row("small file for 20,000 pixels square", claiming20000(0), u"zu klein für die 20000 × 20000"_qs);
+    row("the same, stuffed", claiming20000(1 << 20), u"zu groß: 20000 × 20000"_qs);
+    row("photo in 2,000 passes", manyScans(2000), u"64 Durchgängen"_qs);
+    row("photo cut off after 300 bytes", written(fields({400, 300}), "jpeg").first(300), u"nicht vollständig"_qs);
     const QByteArray heic = changed(u"turned.heic"_qs, {}, {});
     QVERIFY(heic.size() > 1000);
-    QTest::newRow("photo of a telephone without its picture") << heic.first(420) << u"nicht vollständig"_qs;
-    QTest::newRow("the same, cut off later") << heic.first(700) << u"nicht vollständig"_qs;
-    QTest::newRow("the same, cut off in its head") << heic.first(100) << u"nicht vollständig"_qs;
+    row("photo of a telephone without its picture", heic.first(420), u"nicht vollständig"_qs);
+    row("the same, cut off later", heic.first(700), u"nicht vollständig"_qs);
+    row("the same, cut off in its head", heic.first(100), u"nicht vollständig"_qs);
     const QByteArray ispe("ispe\0\0\0\0", 8);
     const QByteArray side = QByteArray::fromHex("00004e20"); // 20,000
-    QTest::newRow("the same, saying it is 20,000 pixels square")
-        << changed(u"turned.heic"_qs, ispe + QByteArray::fromHex("0000008000000060"), ispe + side + side)
-        << u"zu klein für die 20000 × 20000"_qs;
-    QTest::newRow("progressive photo cut off")
-        << written(fields({2000, 1500}), "jpeg", true).first(400) << u"nicht vollständig"_qs;
+    row("the same, saying it is 20,000 pixels square",
+        changed(u"turned.heic"_qs, ispe + QByteArray::fromHex("0000008000000060"), ispe + side + side),
+        u"zu klein für die 20000 × 20000"_qs);
+    row("progressive photo cut off", written(fields({2000, 1500}), "jpeg", true).first(400), u"nicht vollständig"_qs);
 }
 
 void tst_MvImageLoader::refuses()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, reason);
+    const auto [content, reason] = MvRows<QByteArray, QString>::current();
     put(u"foto.png"_qs, content);
     const QFileInfo file(path(u"foto.png"_qs));
     const bool isHeadCut = qstrcmp(QTest::currentDataTag(), "photo cut off after 300 bytes") == 0;
@@ -301,8 +292,7 @@ void tst_MvImageLoader::turnsAsTheCameraSays()
 /// The colour 160, 120, 80 in other colour spaces, as bytes of a file; the colours were computed from the primaries.
 void tst_MvImageLoader::convertsToScreenColours_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QColor>("color");
+    const MvRows<QByteArray, QColor> row; // content, color
     const auto inSpace = [](QColorSpace::NamedColorSpace space, QImage::Format pixels) {
         QImage image(16, 16, pixels);
         image.fill(QColor(160, 120, 80));
@@ -310,21 +300,20 @@ void tst_MvImageLoader::convertsToScreenColours_data()
         return image;
     };
     const QColor adobe(174, 121, 77);
-    QTest::newRow("PNG") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "png") << adobe;
-    QTest::newRow("PNG with 16 bits") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGBX64), "png") << adobe;
-    QTest::newRow("JPEG") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "jpeg") << adobe;
-    QTest::newRow("TIFF") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "tiff") << adobe;
-    QTest::newRow("WebP") << written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "webp") << adobe;
-    QTest::newRow("HEIC") << changed(u"p3.heic"_qs, {}, {}) << QColor(167, 118, 73);
+    row("PNG", written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "png"), adobe);
+    row("PNG with 16 bits", written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGBX64), "png"), adobe);
+    row("JPEG", written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "jpeg"), adobe);
+    row("TIFF", written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "tiff"), adobe);
+    row("WebP", written(inSpace(QColorSpace::AdobeRgb, QImage::Format_RGB32), "webp"), adobe);
+    row("HEIC", changed(u"p3.heic"_qs, {}, {}), QColor(167, 118, 73));
     QImage gray(16, 16, QImage::Format_Grayscale16);
     gray.fill(QColor(120, 120, 120));
-    QTest::newRow("gray with 16 bits") << written(gray, "png") << QColor(120, 120, 120);
+    row("gray with 16 bits", written(gray, "png"), QColor(120, 120, 120));
 }
 
 void tst_MvImageLoader::convertsToScreenColours()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QColor, color);
+    const auto [content, color] = MvRows<QByteArray, QColor>::current();
     MvGuardedImageReader reader(content);
     const QImage image = reader.read({});
     QCOMPARE(reader.error(), QString());
@@ -336,22 +325,20 @@ void tst_MvImageLoader::convertsToScreenColours()
 
 void tst_MvImageLoader::scales_data()
 {
-    QTest::addColumn<QSize>("bounds");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("much smaller: decoded small") << QSize(100, 100) << QSize(100, 75);
-    QTest::newRow("halved once") << QSize(500, 500) << QSize(500, 375);
-    QTest::newRow("halved twice") << QSize(260, 260) << QSize(260, 195);
-    QTest::newRow("a little smaller: decoded in full") << QSize(1000, 1000) << QSize(1000, 750);
-    QTest::newRow("height decides") << QSize(1000, 60) << QSize(80, 60);
-    QTest::newRow("larger") << QSize(3200, 2400) << QSize(3200, 2400);
-    QTest::newRow("same size") << QSize(1600, 1200) << QSize(1600, 1200);
-    QTest::newRow("no width") << QSize(0, 100) << QSize();
+    const MvRows<QSize, QSize> row; // bounds, size
+    row("much smaller: decoded small", QSize(100, 100), QSize(100, 75));
+    row("halved once", QSize(500, 500), QSize(500, 375));
+    row("halved twice", QSize(260, 260), QSize(260, 195));
+    row("a little smaller: decoded in full", QSize(1000, 1000), QSize(1000, 750));
+    row("height decides", QSize(1000, 60), QSize(80, 60));
+    row("larger", QSize(3200, 2400), QSize(3200, 2400));
+    row("same size", QSize(1600, 1200), QSize(1600, 1200));
+    row("no width", QSize(0, 100), QSize());
 }
 
 void tst_MvImageLoader::scales()
 {
-    QFETCH(QSize, bounds);
-    QFETCH(QSize, size);
+    const auto [bounds, size] = MvRows<QSize, QSize>::current();
     const QFileInfo narrow(path(u"narrow.png"_qs)); // never less than a pixel
     QVERIFY(fields({30000, 2}).save(narrow.filePath()));
     if (size.isValid())

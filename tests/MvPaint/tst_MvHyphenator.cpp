@@ -2,10 +2,8 @@
 #include "MvPaint/MvHyphenator.h"
 
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvRows.h"
 #include "MvTest.h"
-
-#include <QDir>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -48,76 +46,64 @@ QString write(const QDir &folder, const QString &name, const QByteArray &content
 
 void tst_MvHyphenator::divides_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QString>("shown");
+    const MvRows<QString, QString, QString> row; // language, word, shown
     // as dictionaries divide them, with two letters before and three after
-    QTest::newRow("German") << u"de_DE"_s << u"Pfingstmontag"_s << u"Pfingst-|mon-|tag"_s;
-    QTest::newRow("Swiss German") << u"de_CH"_s << u"Fronleichnam"_s << u"Fron-|leich-|nam"_s;
-    QTest::newRow("German where no file is for the country")
-        << u"de_IT"_s << u"Ostermontag"_s << u"Os-|ter-|mon-|tag"_s;
-    QTest::newRow("French") << u"fr_BE"_s << u"Toussaint"_s << u"Tous-|saint"_s;
-    QTest::newRow("Czech, another encoding") << u"cs_CZ"_s << u"Velikonoční"_s << u"Ve-|liko-|noční"_s;
-    QTest::newRow("Hungarian, compounds") << u"hu_HU"_s << u"Húsvéthétfő"_s << u"Hús-|vét-|hétfő"_s;
-    QTest::newRow("Greek") << u"el_GR"_s << u"Χριστούγεννα"_s << u"Χρι-|στού-|γεννα"_s;
-    QTest::newRow("Norwegian under its other code") << u"no_NO"_s << u"Langfredag"_s << u"Langfre-|dag"_s;
-    QTest::newRow("Finnish, patterns of our own")
-        << u"fi_FI"_s << u"Uudenvuodenpäivä"_s << u"Uu-|den-|vuo-|den-|päivä"_s;
-    QTest::newRow("Finnish compound") << u"fi_FI"_s << u"juhannusaatto"_s << u"ju-|han-|nus-|aatto"_s;
-    QTest::newRow("Luxembourgish, like German") << u"lb_LU"_s << u"Ouschtersonndeg"_s << u"Ousch-|ter-|sonn-|deg"_s;
-    QTest::newRow("no patterns") << u"tr_TR"_s << u"Bayramı-Bayramı"_s << u"Bayramı-|Bayramı"_s;
-    QTest::newRow("no language") << QString() << u"Pfingstmontag"_s << u"Pfingstmontag"_s;
+    row("German", u"de_DE"_s, u"Pfingstmontag"_s, u"Pfingst-|mon-|tag"_s);
+    row("Swiss German", u"de_CH"_s, u"Fronleichnam"_s, u"Fron-|leich-|nam"_s);
+    row("German where no file is for the country", u"de_IT"_s, u"Ostermontag"_s, u"Os-|ter-|mon-|tag"_s);
+    row("French", u"fr_BE"_s, u"Toussaint"_s, u"Tous-|saint"_s);
+    row("Czech, another encoding", u"cs_CZ"_s, u"Velikonoční"_s, u"Ve-|liko-|noční"_s);
+    row("Hungarian, compounds", u"hu_HU"_s, u"Húsvéthétfő"_s, u"Hús-|vét-|hétfő"_s);
+    row("Greek", u"el_GR"_s, u"Χριστούγεννα"_s, u"Χρι-|στού-|γεννα"_s);
+    row("Norwegian under its other code", u"no_NO"_s, u"Langfredag"_s, u"Langfre-|dag"_s);
+    row("Finnish, patterns of our own", u"fi_FI"_s, u"Uudenvuodenpäivä"_s, u"Uu-|den-|vuo-|den-|päivä"_s);
+    row("Finnish compound", u"fi_FI"_s, u"juhannusaatto"_s, u"ju-|han-|nus-|aatto"_s);
+    row("Luxembourgish, like German", u"lb_LU"_s, u"Ouschtersonndeg"_s, u"Ousch-|ter-|sonn-|deg"_s);
+    row("no patterns", u"tr_TR"_s, u"Bayramı-Bayramı"_s, u"Bayramı-|Bayramı"_s);
+    row("no language", QString(), u"Pfingstmontag"_s, u"Pfingstmontag"_s);
 
-    QTest::newRow("capitals") << u"de_DE"_s << u"PFINGSTMONTAG"_s << u"PFINGST-|MON-|TAG"_s;
-    QTest::newRow("punctuation") << u"de_DE"_s << u"(„Pfingstmontag“),"_s << u"(„Pfingst-|mon-|tag“),"_s;
-    QTest::newRow("decomposed") << u"de_DE"_s << u"Gla\u0308ubigermontag"_s << u"Gla\u0308u-|bi-|ger-|mon-|tag"_s;
-    QTest::newRow("elision") << u"fr_FR"_s << u"l’Assomption"_s << u"l’As-|somp-|tion"_s;
-    QTest::newRow("hyphens of its own") << u"de_DE"_s << u"Anna-Luise"_s << u"Anna-|Luise"_s;
-    QTest::newRow("too short a part") << u"de_DE"_s << u"E-Mail 2027-28"_s << u"E-Mail 2027-28"_s;
-    QTest::newRow("soft hyphens rule") << u"de_DE"_s << u"Pfingst\u00admontag"_s << u"Pfingst-|montag"_s;
-    QTest::newRow("soft hyphens at the ends") << u"de_DE"_s << u"\u00adTag\u00ad"_s << u"\u00adTag\u00ad"_s;
-    QTest::newRow("blank") << u"de_DE"_s << QString() << QString();
-    QTest::newRow("no word at all") << u"de_DE"_s << QString(10'000, u'x') << QString(10'000, u'x');
+    row("capitals", u"de_DE"_s, u"PFINGSTMONTAG"_s, u"PFINGST-|MON-|TAG"_s);
+    row("punctuation", u"de_DE"_s, u"(„Pfingstmontag“),"_s, u"(„Pfingst-|mon-|tag“),"_s);
+    row("decomposed", u"de_DE"_s, u"Gla\u0308ubigermontag"_s, u"Gla\u0308u-|bi-|ger-|mon-|tag"_s);
+    row("elision", u"fr_FR"_s, u"l’Assomption"_s, u"l’As-|somp-|tion"_s);
+    row("hyphens of its own", u"de_DE"_s, u"Anna-Luise"_s, u"Anna-|Luise"_s);
+    row("too short a part", u"de_DE"_s, u"E-Mail 2027-28"_s, u"E-Mail 2027-28"_s);
+    row("soft hyphens rule", u"de_DE"_s, u"Pfingst\u00admontag"_s, u"Pfingst-|montag"_s);
+    row("soft hyphens at the ends", u"de_DE"_s, u"\u00adTag\u00ad"_s, u"\u00adTag\u00ad"_s);
+    row("blank", u"de_DE"_s, QString(), QString());
+    row("no word at all", u"de_DE"_s, QString(10'000, u'x'), QString(10'000, u'x'));
 }
 
 void tst_MvHyphenator::divides()
 {
-    QFETCH(QString, language);
-    QFETCH(QString, word);
-    QFETCH(QString, shown);
+    const auto [language, word, shown] = MvRows<QString, QString, QString>::current();
     QCOMPARE(divided(MvHyphenator(MvLocale(language)), word), shown);
 }
 
 void tst_MvHyphenator::filesOfPatterns_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("a letter comes back") << QByteArray("UTF-8\nf1f/ff=f,1,2\n") << u"Schiffahrt"_s
-                                         << u"Schiff-|fahrt"_s;
-    QTest::newRow("in capitals") << QByteArray("UTF-8\nf1f/ff=f,1,2\n") << u"SCHIFFAHRT"_s << u"SCHIFF-|FAHRT"_s;
-    QTest::newRow("one byte a letter") << QByteArray("ISO8859-2\n\xf9"
-                                                     "1d\n")
-                                       << u"Neujůdek"_s << u"Neujů-|dek"_s;
-    QTest::newRow("a letter that the encoding lacks")
-        << QByteArray("ISO8859-2\nu1d\n") << u"Þeujudek"_s << u"Þeujudek"_s;
-    QTest::newRow("the file's own minimum")
-        << QByteArray("UTF-8\nLEFTHYPHENMIN 4\na1b\n") << u"xabaxabaxa"_s << u"xabaxa-|baxa"_s;
-    QTest::newRow("only where a word ends") << QByteArray("UTF-8\na1bcd.\n.ab1c\n") << u"abcabcd"_s << u"ab-|ca-|bcd"_s;
-    QTest::newRow("letters twice, the last counts")
-        << QByteArray("UTF-8\na1bc/q=z,1,2\na2bc\na2cb\na1cb\n") << u"xabcxacbx"_s << u"xabcxa-|cbx"_s;
-    QTest::newRow("unknown encoding") << QByteArray("EBCDIC-17\na1b\n") << u"xabaxab"_s << u"xabaxab"_s;
-    QTest::newRow("empty") << QByteArray() << u"xabaxab"_s << u"xabaxab"_s;
-    QTest::newRow("no patterns at all") << QByteArray(5000, '\xff') << u"xabaxab"_s << u"xabaxab"_s;
-    QTest::newRow("weights alone, long lines, odd ends")
-        << "UTF-8\n1234\n" + QByteArray(300, 'a') + "\n/\n1/=,,\na1b" << u"xabax"_s << u"xa-|bax"_s;
+    const MvRows<QByteArray, QString, QString> row; // content, word, shown
+    row("a letter comes back", QByteArray("UTF-8\nf1f/ff=f,1,2\n"), u"Schiffahrt"_s, u"Schiff-|fahrt"_s);
+    row("in capitals", QByteArray("UTF-8\nf1f/ff=f,1,2\n"), u"SCHIFFAHRT"_s, u"SCHIFF-|FAHRT"_s);
+    row("one byte a letter",
+        QByteArray("ISO8859-2\n\xf9"
+                   "1d\n"),
+        u"Neujůdek"_s, u"Neujů-|dek"_s);
+    row("a letter that the encoding lacks", QByteArray("ISO8859-2\nu1d\n"), u"Þeujudek"_s, u"Þeujudek"_s);
+    row("the file's own minimum", QByteArray("UTF-8\nLEFTHYPHENMIN 4\na1b\n"), u"xabaxabaxa"_s, u"xabaxa-|baxa"_s);
+    row("only where a word ends", QByteArray("UTF-8\na1bcd.\n.ab1c\n"), u"abcabcd"_s, u"ab-|ca-|bcd"_s);
+    row("letters twice, the last counts", QByteArray("UTF-8\na1bc/q=z,1,2\na2bc\na2cb\na1cb\n"), u"xabcxacbx"_s,
+        u"xabcxa-|cbx"_s);
+    row("unknown encoding", QByteArray("EBCDIC-17\na1b\n"), u"xabaxab"_s, u"xabaxab"_s);
+    row("empty", QByteArray(), u"xabaxab"_s, u"xabaxab"_s);
+    row("no patterns at all", QByteArray(5000, '\xff'), u"xabaxab"_s, u"xabaxab"_s);
+    row("weights alone, long lines, odd ends", "UTF-8\n1234\n" + QByteArray(300, 'a') + "\n/\n1/=,,\na1b", u"xabax"_s,
+        u"xa-|bax"_s);
 }
 
 void tst_MvHyphenator::filesOfPatterns()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, word);
-    QFETCH(QString, shown);
+    const auto [content, word, shown] = MvRows<QByteArray, QString, QString>::current();
     const QTemporaryDir folder;
     QCOMPARE(divided(MvHyphenator::fromFile(write(folder.path(), u"hyph.dic"_s, content)), word), shown);
 }

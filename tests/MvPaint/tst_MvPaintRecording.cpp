@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvPaint/MvPaintRecorder.h"
 
 #include <QBitmap>
-#include <QBuffer>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QSvgGenerator>
@@ -364,15 +364,15 @@ void tst_MvPaintRecording::keepsToTheTarget()
 
 void tst_MvPaintRecording::replaysOnVectorTargets_data()
 {
-    QTest::addColumn<Painting>("painting");
-    QTest::newRow("shapes") << Painting(drawShapes);
-    QTest::newRow("fills") << Painting(drawFills);
-    QTest::newRow("outlines") << Painting(drawOutlines);
+    const MvRows<Painting> row; // painting
+    row("shapes", Painting(drawShapes));
+    row("fills", Painting(drawFills));
+    row("outlines", Painting(drawOutlines));
 }
 
 void tst_MvPaintRecording::replaysOnVectorTargets()
 {
-    QFETCH(Painting, painting);
+    const auto [painting] = MvRows<Painting>::current();
     const MvPaintRecording recording = recorded(painting);
     const auto rendered = [](const QByteArray &drawing) {
         QImage image = canvas();
@@ -392,26 +392,26 @@ void tst_MvPaintRecording::replaysOnVectorTargets()
 
 void tst_MvPaintRecording::clipsShapes_data()
 {
-    QTest::addColumn<Painting>("painting");
-    QTest::newRow("shapes") << Painting(drawShapes);
-    QTest::newRow("fills") << Painting(drawFills);
-    QTest::newRow("patterns") << Painting(drawPatterns);
-    QTest::newRow("images") << Painting(drawImages);
-    QTest::newRow("states") << Painting(drawStates);
-    QTest::newRow("outlines") << Painting(drawOutlines);
-    QTest::newRow("switched clips") << Painting(drawSwitchedClips);
-    QTest::newRow("a coloured glyph") << Painting([](QPainter &painter) {
-        QFont font(u"Lato"_s);
-        font.setPixelSize(60);
-        painter.setClipRect(QRectF(40, 40, 50, 50));
-        MvOutlinePainter::fillOutline(painter, {45, 100}, MvTextOutline(font, u"A\U0001F382"_s), Qt::black);
-    });
+    const MvRows<Painting> row; // painting
+    row("shapes", Painting(drawShapes));
+    row("fills", Painting(drawFills));
+    row("patterns", Painting(drawPatterns));
+    row("images", Painting(drawImages));
+    row("states", Painting(drawStates));
+    row("outlines", Painting(drawOutlines));
+    row("switched clips", Painting(drawSwitchedClips));
+    row("a coloured glyph", Painting([](QPainter &painter) {
+            QFont font(u"Lato"_s);
+            font.setPixelSize(60);
+            painter.setClipRect(QRectF(40, 40, 50, 50));
+            MvOutlinePainter::fillOutline(painter, {45, 100}, MvTextOutline(font, u"A\U0001F382"_s), Qt::black);
+        }));
 }
 
 // what a target without clips shows of it is what others show
 void tst_MvPaintRecording::clipsShapes()
 {
-    QFETCH(Painting, painting);
+    const auto [painting] = MvRows<Painting>::current();
     const QRectF window(31.5, 17.25, 150.25, 140.5);
     const MvPaintRecording recording = recorded(painting);
     const MvPaintRecording clipped = recording.clipped(window);

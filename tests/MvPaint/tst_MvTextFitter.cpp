@@ -2,6 +2,7 @@
 #include "MvPaint/MvTextFitter.h"
 
 #include "MvBoxFont.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 using namespace Qt::StringLiterals;
@@ -29,17 +30,11 @@ MvTextFitter fitter(double floor)
 
 void tst_MvTextFitter::fits_data()
 {
-    QTest::addColumn<QSizeF>("room");
-    QTest::addColumn<double>("widestWord");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<int>("pixelSize");
-    QTest::addColumn<QStringList>("lines");
-    QTest::addColumn<bool>("isCut");
+    const MvRows<QSizeF, double, QStringList, int, QStringList, bool> add;
     const QSizeF twoLines(130, 40);
-    const auto row = [](const char *name, const QSizeF &room, const QStringList &texts, int pixelSize,
-                        const QStringList &lines, bool isCut = false, double widestWord = 0.0) {
-        QTest::newRow(name) << room << widestWord << texts << pixelSize << lines << isCut;
-    };
+    const auto row = [&](const char *name, const QSizeF &room, const QStringList &texts, int pixelSize,
+                         const QStringList &lines, bool isCut = false,
+                         double widestWord = 0.0) { add(name, room, widestWord, texts, pixelSize, lines, isCut); };
     row("stays as it is", twoLines, {u"Pfingstmontag"_s, u"Oma"_s}, 20, {u"Pfingstmontag"_s, u"Oma"_s});
     row("wraps", twoLines, {u"am Pfingstmontag"_s}, 20, {u"am"_s, u"Pfingstmontag"_s});
     const QString twelve = u"Oma "_s.repeated(12).trimmed();
@@ -68,62 +63,51 @@ void tst_MvTextFitter::fits_data()
 
 void tst_MvTextFitter::fits()
 {
-    QFETCH(QSizeF, room);
-    QFETCH(double, widestWord);
-    QFETCH(QStringList, texts);
-    QFETCH(int, pixelSize);
+    const auto [room, widestWord, texts, pixelSize, lines, isCut] =
+        MvRows<QSizeF, double, QStringList, int, QStringList, bool>::current();
     const MvFittedText fitted = fitter(12.0).fit(room, texts, widestWord);
-    QTEST(fitted.lines, "lines");
-    QTEST(fitted.isCut, "isCut");
+    QCOMPARE(fitted.lines, lines);
+    QCOMPARE(fitted.isCut, isCut);
     QCOMPARE(fitted.font.pixelSize(), pixelSize);
 }
 
 void tst_MvTextFitter::running_data()
 {
-    QTest::addColumn<QSizeF>("room");
-    QTest::addColumn<QStringList>("lines");
-    QTest::addColumn<QStringList>("cutTexts");
+    const MvRows<QSizeF, QStringList, QStringList> row; // room, lines, cutTexts
     const QString oma = u"Oma"_s;
     const QString eva = u"Eva Maria"_s;
     const QString max = u"Max"_s;
     // "Oma, Eva Maria, Max" has 19 letters of 6 in the smallest type
-    QTest::newRow("one line") << QSizeF(190, 20) << QStringList{u"Oma, Eva Maria, Max"_s} << QStringList{};
-    QTest::newRow("parted anywhere") << QSizeF(100, 40) << QStringList{u"Oma, Eva"_s, u"Maria, Max"_s} << QStringList{};
-    QTest::newRow("the last one cut") << QSizeF(110, 12) << QStringList{u"Oma, Eva Maria, M…"_s} << QStringList{max};
-    QTest::newRow("two whole, one gone") << QSizeF(96, 12) << QStringList{u"Oma, Eva Maria …"_s} << QStringList{max};
-    QTest::newRow("one whole") << QSizeF(80, 12) << QStringList{u"Oma, Eva Mar…"_s} << QStringList{eva, max};
-    QTest::newRow("none") << QSizeF(80, 11) << QStringList{} << QStringList{oma, eva, max};
-    QTest::newRow("not even an ellipsis") << QSizeF(5, 12) << QStringList{} << QStringList{oma, eva, max};
+    row("one line", QSizeF(190, 20), QStringList{u"Oma, Eva Maria, Max"_s}, QStringList{});
+    row("parted anywhere", QSizeF(100, 40), QStringList{u"Oma, Eva"_s, u"Maria, Max"_s}, QStringList{});
+    row("the last one cut", QSizeF(110, 12), QStringList{u"Oma, Eva Maria, M…"_s}, QStringList{max});
+    row("two whole, one gone", QSizeF(96, 12), QStringList{u"Oma, Eva Maria …"_s}, QStringList{max});
+    row("one whole", QSizeF(80, 12), QStringList{u"Oma, Eva Mar…"_s}, QStringList{eva, max});
+    row("none", QSizeF(80, 11), QStringList{}, QStringList{oma, eva, max});
+    row("not even an ellipsis", QSizeF(5, 12), QStringList{}, QStringList{oma, eva, max});
 }
 
 void tst_MvTextFitter::running()
 {
-    QFETCH(QSizeF, room);
-    QFETCH(QStringList, cutTexts);
+    const auto [room, lines, cutTexts] = MvRows<QSizeF, QStringList, QStringList>::current();
     const MvFittedText fitted = fitter(12.0).fitRunning(room, {u"Oma"_s, u"Eva Maria"_s, u"Max"_s}, u", "_s);
-    QTEST(fitted.lines, "lines");
+    QCOMPARE(fitted.lines, lines);
     QCOMPARE(fitted.cutTexts, cutTexts);
     QCOMPARE(fitted.isCut, !cutTexts.isEmpty());
 }
 
 void tst_MvTextFitter::oneLine_data()
 {
-    QTest::addColumn<double>("width");
-    QTest::addColumn<double>("floor");
-    QTest::addColumn<int>("pixelSize");
-    QTest::addColumn<QString>("line");
-    QTest::newRow("as it is") << 130.0 << 12.0 << 20 << u"Pfingstmontag"_s;
-    QTest::newRow("smaller") << 110.0 << 12.0 << 16 << u"Pfingstmontag"_s;
-    QTest::newRow("floor between two sizes") << 80.0 << 12.4 << 13 << u"Pfingstmont…"_s;
-    QTest::newRow("floor above the font") << 100.0 << 30.0 << 20 << u"Pfingstmo…"_s;
+    const MvRows<double, double, int, QString> row; // width, floor, pixelSize, line
+    row("as it is", 130.0, 12.0, 20, u"Pfingstmontag"_s);
+    row("smaller", 110.0, 12.0, 16, u"Pfingstmontag"_s);
+    row("floor between two sizes", 80.0, 12.4, 13, u"Pfingstmont…"_s);
+    row("floor above the font", 100.0, 30.0, 20, u"Pfingstmo…"_s);
 }
 
 void tst_MvTextFitter::oneLine()
 {
-    QFETCH(double, width);
-    QFETCH(double, floor);
-    QFETCH(int, pixelSize);
-    QFETCH(QString, line);
+    const auto [width, floor, pixelSize, line] = MvRows<double, double, int, QString>::current();
     const MvFittedText fitted = fitter(floor).fitLine(width, u"Pfingstmontag"_s);
     QCOMPARE(fitted.lines, QStringList{line});
     QCOMPARE(fitted.font.pixelSize(), pixelSize);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvBoxFont.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCore/MvInitializer.h"
@@ -71,19 +72,18 @@ private Q_SLOTS:
 
 void tst_MvTextOutlineCache::groups_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("groups");
-    QTest::newRow("nothing") << QString() << 0;
-    QTest::newRow("blanks") << u"   "_s << 0;
-    QTest::newRow("one box each") << u"Mai 2026"_s << 7;
+    const MvRows<QString, int> row; // text, groups
+    row("nothing", QString(), 0);
+    row("blanks", u"   "_s, 0);
+    row("one box each", u"Mai 2026"_s, 7);
 }
 
 void tst_MvTextOutlineCache::groups()
 {
-    QFETCH(QString, text);
+    const auto [text, groups] = MvRows<QString, int>::current();
     const MvTextOutline outline(MvBoxFont::font(100), text);
     QCOMPARE(outline.isEmpty(), outline.groups().isEmpty());
-    QTEST(int(outline.groups().size()), "groups");
+    QCOMPARE(int(outline.groups().size()), groups);
     QCOMPARE(outline.advance(), 50.0 * double(text.size()));
     for (int i = 0; i < outline.groups().size(); ++i) {
         const auto &group = outline.groups()[i];
@@ -107,21 +107,17 @@ void tst_MvTextOutlineCache::groups()
 
 void tst_MvTextOutlineCache::lettersAreThoseOfTheTextEngine_data()
 {
-    MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets); // which brings the fonts
-    QTest::addColumn<QString>("family");
-    QTest::addColumn<bool>("isBold");
-    QTest::addColumn<bool>("isItalic");
+    MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);                // which brings the fonts
+    const MvRows<QString, bool, bool> row;                                               // family, isBold, isItalic
     for (const char *family : {"Lato", "Quicksand", "GFS Didot", "Inter", "Vollkorn"}) { // not all have all faces
         for (const int style : {0, 1, 2, 3})
-            QTest::addRow("%s %d", family, style) << QString::fromLatin1(family) << (style % 2 == 1) << (style >= 2);
+            row(QString::asprintf("%s %d", family, style), QString::fromLatin1(family), (style % 2 == 1), (style >= 2));
     }
 }
 
 void tst_MvTextOutlineCache::lettersAreThoseOfTheTextEngine()
 {
-    QFETCH(QString, family);
-    QFETCH(bool, isBold);
-    QFETCH(bool, isItalic);
+    const auto [family, isBold, isItalic] = MvRows<QString, bool, bool>::current();
     QFont font(family);
     font.setPixelSize(43);
     font.setHintingPreference(QFont::PreferNoHinting);
@@ -139,10 +135,7 @@ void tst_MvTextOutlineCache::lettersAreThoseOfTheTextEngine()
 
 void tst_MvTextOutlineCache::partsGiveThePixelsOfTheWhole_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("pixels");
-    QTest::addColumn<QTransform>("transform");
-    QTest::addColumn<QColor>("color");
+    const MvRows<QString, int, QTransform, QColor> row; // text, pixels, transform, color
     const QString texts[] = {u"Donnerstag, Christi Himmelfahrt"_s, u"fjÄÖÜ% AVATo '26"_s, u"|||||iiiillll....::::"_s};
     const std::pair<const char *, QTransform> transforms[] = {
         {"plain", {}},
@@ -157,8 +150,8 @@ void tst_MvTextOutlineCache::partsGiveThePixelsOfTheWhole_data()
         for (const int pixels : {7, 12, 31}) {
             for (const auto &[name, transform] : transforms) {
                 for (const QColor &color : {QColor(Qt::black), QColor(200, 30, 60, 120)})
-                    QTest::addRow("%s %d %s %d", qPrintable(text.left(6)), pixels, name, color.alpha())
-                        << text << pixels << transform << color;
+                    row(QString::asprintf("%s %d %s %d", qPrintable(text.left(6)), pixels, name, color.alpha()), text,
+                        pixels, transform, color);
             }
         }
     }
@@ -166,16 +159,14 @@ void tst_MvTextOutlineCache::partsGiveThePixelsOfTheWhole_data()
 
 void tst_MvTextOutlineCache::partsGiveThePixelsOfTheWhole()
 {
-    QFETCH(QString, text);
-    QFETCH(int, pixels);
-    QFETCH(QTransform, transform);
-    QFETCH(QColor, color);
+    const auto [text, pixels, transform, color] = MvRows<QString, int, QTransform, QColor>::current();
     const MvTextOutline outline(lato(pixels), text);
     for (const double shift : {0.0, 0.125, 0.37, 0.66}) {
         const QPointF baseline(20 + shift, 100.25 + shift);
-        const QImage parts = filled(
-            transform, [&](QPainter &painter) { MvOutlinePainter::fillOutline(painter, baseline, outline, color); });
-        const QImage whole = filled(transform, [&](QPainter &painter) {
+        const QImage parts = filled(transform, [&, color = color](QPainter &painter) {
+            MvOutlinePainter::fillOutline(painter, baseline, outline, color);
+        });
+        const QImage whole = filled(transform, [&, color = color](QPainter &painter) {
             painter.translate(baseline);
             painter.fillPath(outline.path(), color);
         });
@@ -186,15 +177,15 @@ void tst_MvTextOutlineCache::partsGiveThePixelsOfTheWhole()
 
 void tst_MvTextOutlineCache::linesAreOneShape_data()
 {
-    QTest::addColumn<double>("spacing");
-    QTest::newRow("apart") << 40.0;
-    QTest::newRow("in one pixel row") << 31.2;
-    QTest::newRow("overlapping") << 11.7;
+    const MvRows<double> row; // spacing
+    row("apart", 40.0);
+    row("in one pixel row", 31.2);
+    row("overlapping", 11.7);
 }
 
 void tst_MvTextOutlineCache::linesAreOneShape()
 {
-    QFETCH(double, spacing);
+    const auto [spacing] = MvRows<double>::current();
     const QColor color(0, 60, 200, 90);
     QList<MvPlacedOutline> lines;
     QPainterPath path;
@@ -342,17 +333,16 @@ void tst_MvTextOutlineCache::emojiArePictures()
 
 void tst_MvTextOutlineCache::missingCharacters_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("missing");
-    QTest::newRow("none") << u"Jörg\u00a0– „Süß“ Žižek"_s << QString();
-    QTest::newRow("each once") << u"x\U000F1234y\U00101234\U000F1234"_s << u"\U000F1234\U00101234"_s;
-    QTest::newRow("never seen") << u"a\u200d\ufe0f\u0301\u00ad\t"_s << QString();
+    const MvRows<QString, QString> row; // text, missing
+    row("none", u"Jörg\u00a0– „Süß“ Žižek"_s, QString());
+    row("each once", u"x\U000F1234y\U00101234\U000F1234"_s, u"\U000F1234\U00101234"_s);
+    row("never seen", u"a\u200d\ufe0f\u0301\u00ad\t"_s, QString());
 }
 
 void tst_MvTextOutlineCache::missingCharacters()
 {
-    QFETCH(QString, text);
-    QTEST(MvGlyphCoverage::missingCharacters(lato(20), text), "missing");
+    const auto [text, missing] = MvRows<QString, QString>::current();
+    QCOMPARE(MvGlyphCoverage::missingCharacters(lato(20), text), missing);
 }
 
 MV_TEST_MAIN(tst_MvTextOutlineCache)

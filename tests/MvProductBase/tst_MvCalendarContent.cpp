@@ -6,6 +6,7 @@
 #include "MvProductBase/MvCalendariumHolidayConfigDefault.h"
 #include "MvProductBase/MvCalendariumHolidayType.h"
 
+#include "MvRows.h"
 #include "MvTest.h"
 
 using namespace Qt::StringLiterals;
@@ -17,7 +18,6 @@ class tst_MvCalendarContent : public MvTest
 
 private Q_SLOTS:
     void featuresAreWrittenByName();
-    void hasFeaturesMeansAll();
     void equalityAndHashes();
     void defaultCalendar();
     void ranges_data();
@@ -37,19 +37,6 @@ void tst_MvCalendarContent::featuresAreWrittenByName()
     QCOMPARE(MvCalendariumFeatures(names).toInt(), 127);
     QCOMPARE(MvCalendariumFeatures(u"Entries,unknown, calendarweeks"_s).toInt(), 68);
     QCOMPARE(MvCalendariumHolidayType(240).encodeCSV(), u"schoolVacation, public, optional, observance"_s);
-}
-
-void tst_MvCalendarContent::hasFeaturesMeansAll()
-{
-    for (const auto &[on, asked, answer] :
-         {std::tuple(1, 1, true), {7, 2, true}, {3, 3, true}, {5, 3, false}, {0, 0, true}}) {
-        MvCalendariumHolidayConfig config({}, {}, MvCalendariumFeatures(on));
-        QCOMPARE(config.hasFeatures(MvCalendariumFeatures(asked)), answer);
-        config.setFeature(MvCalendariumFeatures(asked), true);
-        QCOMPARE(config.features().toInt(), on | asked);
-        config.setFeature(MvCalendariumFeatures(asked), false);
-        QCOMPARE(config.features().toInt(), on & ~asked);
-    }
 }
 
 void tst_MvCalendarContent::equalityAndHashes()
@@ -87,23 +74,19 @@ void tst_MvCalendarContent::defaultCalendar()
 
 void tst_MvCalendarContent::ranges_data()
 {
-    QTest::addColumn<MvDateRange>("range");
-    QTest::addColumn<int>("days");
-    QTest::addColumn<int>("months");
-    QTest::newRow("February of a leap year") << MvDateRange::monthOf(QDate(2028, 2, 29)) << 29 << 1;
-    QTest::newRow("one day") << MvDateRange(QDate(2027, 3, 31), QDate(2027, 3, 31)) << 1 << 1;
-    QTest::newRow("two days of two years") << MvDateRange(QDate(2026, 12, 31), QDate(2027, 1, 1)) << 2 << 2;
-    QTest::newRow("from the end of a month on") << MvDateRange(QDate(2027, 1, 31), QDate(2027, 3, 1)) << 30 << 3;
-    QTest::newRow("end before start") << MvDateRange(QDate(2027, 1, 2), QDate(2027, 1, 1)) << 0 << 0;
-    QTest::newRow("no start") << MvDateRange(QDate(), QDate(2027, 1, 1)) << 0 << 0;
-    QTest::newRow("month of no day") << MvDateRange::monthOf(QDate()) << 0 << 0;
+    const MvRows<MvDateRange, int, int> row; // range, days, months
+    row("February of a leap year", MvDateRange::monthOf(QDate(2028, 2, 29)), 29, 1);
+    row("one day", MvDateRange(QDate(2027, 3, 31), QDate(2027, 3, 31)), 1, 1);
+    row("two days of two years", MvDateRange(QDate(2026, 12, 31), QDate(2027, 1, 1)), 2, 2);
+    row("from the end of a month on", MvDateRange(QDate(2027, 1, 31), QDate(2027, 3, 1)), 30, 3);
+    row("end before start", MvDateRange(QDate(2027, 1, 2), QDate(2027, 1, 1)), 0, 0);
+    row("no start", MvDateRange(QDate(), QDate(2027, 1, 1)), 0, 0);
+    row("month of no day", MvDateRange::monthOf(QDate()), 0, 0);
 }
 
 void tst_MvCalendarContent::ranges()
 {
-    QFETCH(MvDateRange, range);
-    QFETCH(int, days);
-    QFETCH(int, months);
+    const auto [range, days, months] = MvRows<MvDateRange, int, int>::current();
     QCOMPARE(range.isValid(), days > 0);
     QCOMPARE(range.dayCount(), days);
     QCOMPARE(range.lastIndexEvenIfUnvalid(), range.firstIndex() + days - 1);
@@ -138,16 +121,12 @@ void tst_MvCalendarContent::contentMoves()
 
 void tst_MvCalendarContent::words_data()
 {
-    QTest::addColumn<MvLocale>("language");
-    QTest::addColumn<QString>("shortDays");
-    QTest::addColumn<QString>("shortMonths");
-    QTest::addColumn<QString>("first"); // Monday, January, week, school year
+    // first: Monday, January, week, school year
+    const MvRows<MvLocale, QString, QString, QString> add;
     const QString days = u"Mo Di Mi Do Fr Sa So"_s;
     const QString months = u" Feb Mär Apr Mai Jun Jul Aug Sep Okt Nov Dez"_s;
-    const auto row = [](const char *name, const QString &locale, const QString &shortDays, const QString &shortMonths,
-                        const QString &first) {
-        QTest::newRow(name) << MvLocale(locale) << shortDays << shortMonths << first;
-    };
+    const auto row = [&](const char *name, const QString &locale, const QString &shortDays, const QString &shortMonths,
+                         const QString &first) { add(name, MvLocale(locale), shortDays, shortMonths, first); };
     row("German", u"de_DE"_s, days, u"Jan"_s + months, u"Montag Januar KW Schuljahr 26/27"_s);
     row("German in Austria", u"de_AT"_s, days, u"Jän"_s + months, u"Montag Jänner KW Schuljahr 26/27"_s);
     row("French", u"fr_CH"_s, u"lun mar mer jeu ven sam dim"_s,
@@ -159,7 +138,7 @@ void tst_MvCalendarContent::words_data()
 
 void tst_MvCalendarContent::words()
 {
-    QFETCH(MvLocale, language);
+    const auto [language, shortDays, shortMonths, firstWords] = MvRows<MvLocale, QString, QString, QString>::current();
     const MvCalendarWordsRegistry &registry = MvCalendarWordsRegistry::instance();
     QStringList days;
     for (int day = 1; day <= 7; ++day)
@@ -169,9 +148,9 @@ void tst_MvCalendarContent::words()
         months.append(registry.monthNameShort(language, month));
     const QStringList first = {registry.dayName(language, 1, false), registry.monthNameLong(language, 1),
                                registry.weekShort(language), registry.schoolYear(language, u"26/27"_s)};
-    QTEST(days.join(u' '), "shortDays");
-    QTEST(months.join(u' '), "shortMonths");
-    QTEST(first.join(u' '), "first");
+    QCOMPARE(days.join(u' '), shortDays);
+    QCOMPARE(months.join(u' '), shortMonths);
+    QCOMPARE(first.join(u' '), firstWords);
     for (const int number : {-1, 0, 13}) {
         QVERIFY(registry.dayName(language, number, true).isEmpty() &&
                 registry.monthNameShort(language, number).isEmpty());

@@ -3,10 +3,8 @@
 #include "MvProductBase/MvHolidayBook.h"
 
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvRows.h"
 #include "MvTest.h"
-
-#include <QDir>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <atomic>
@@ -62,16 +60,16 @@ private Q_SLOTS:
 
 void tst_MvCalendariumHolidayCalculator::everyCountryIsSound_data()
 {
-    QTest::addColumn<QString>("locale");
+    const MvRows<QString> row; // locale
     const QList<MvLocale> locales = calculator().availableLanguages();
     for (const MvLocale &locale : locales)
-        QTest::addRow("%s", qPrintable(locale.name())) << locale.name();
+        row(locale.name(), locale.name());
 }
 
 // a data file with an error warns, and a warning fails the test
 void tst_MvCalendariumHolidayCalculator::everyCountryIsSound()
 {
-    QFETCH(QString, locale);
+    const auto [locale] = MvRows<QString>::current();
     const QStringList regions = calculator().availableProvinces(MvLocale(locale)) + QStringList{QString()};
     for (const QString &region : regions) {
         for (const int year : {1800, 1945, 1995, 2026, 2027, 2605}) {
@@ -135,12 +133,7 @@ void tst_MvCalendariumHolidayCalculator::findsProvinces()
 
 void tst_MvCalendariumHolidayCalculator::days_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("region");
-    QTest::addColumn<QDate>("day");
-    QTest::addColumn<QStringList>("texts");
-    const auto row = [](const char *name, const QString &locale, const QString &region, const QDate &day,
-                        const QStringList &texts) { QTest::newRow(name) << locale << region << day << texts; };
+    const MvRows<QString, QString, QDate, QStringList> row; // locale, region, day, texts
     const QString german = u"de_DE"_s;
     row("Augsburg: its own", german, u"BY-A"_s, {2026, 8, 8}, {u"Augsburger Hohes Friedensfest"_s});
     row("Augsburg: that of Bavaria", german, u"BY-A"_s, {2026, 8, 15}, {u"Mariä Himmelfahrt"_s});
@@ -161,10 +154,8 @@ void tst_MvCalendariumHolidayCalculator::days_data()
 
 void tst_MvCalendariumHolidayCalculator::days()
 {
-    QFETCH(QString, locale);
-    QFETCH(QString, region);
-    QFETCH(QDate, day);
-    QTEST(textsOn(holidays(day.year(), locale, region), day), "texts");
+    const auto [locale, region, day, texts] = MvRows<QString, QString, QDate, QStringList>::current();
+    QCOMPARE(textsOn(holidays(day.year(), locale, region), day), texts);
 }
 
 // as published by the ministries of the Länder

@@ -2,10 +2,8 @@
 #include "MvProductBase/MvHolidayBook.h"
 #include "MvProductBase/MvHolidayTableReader.h"
 
+#include "MvRows.h"
 #include "MvTest.h"
-
-#include <QDir>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -102,20 +100,15 @@ QStringList tst_MvHolidayTableReader::days(const QString &region, const MvCalend
 
 void tst_MvHolidayTableReader::entries_data()
 {
-    QTest::addColumn<QByteArray>("holiday");
-    QTest::addColumn<QString>("region");
-    QTest::addColumn<int>("year");
-    QTest::addColumn<QStringList>("expected");
+    const MvRows<QByteArray, QString, int, QStringList> add; // holiday, region, year, expected
 
     const QByteArray national = R"(<holiday name="Tag" type="public" rule="06-01"/>)";
     const QByteArray southern = R"(<holiday name="Tag" type="public" rule="06-01" regions="S"/>)";
     const QByteArray limited = R"(<holiday name="Tag" rule="06-01" from="2000" until="2010" except="2005 2006"/>)";
     const QByteArray crossing = R"(<holiday name="Tag" rule="01-01 -1" from="2027" until="2027"/>)";
     const QStringList day = {u"0601 Tag"_s};
-    const auto row = [](const char *name, const QByteArray &holiday, const QString &region, int year,
-                        const QStringList &expected = {}) {
-        QTest::newRow(name) << holiday << region << year << expected;
-    };
+    const auto row = [&](const char *name, const QByteArray &holiday, const QString &region, int year,
+                         const QStringList &expected = {}) { add(name, holiday, region, year, expected); };
     row("the whole country, in a region", national, u"N"_s, 2026, day);
     row("the whole country, without a region", national, {}, 2026, day);
     row("the whole country, in an unknown region", national, u"Mond"_s, 2026, day);
@@ -136,11 +129,9 @@ void tst_MvHolidayTableReader::entries_data()
 
 void tst_MvHolidayTableReader::entries()
 {
-    QFETCH(QByteArray, holiday);
-    QFETCH(QString, region);
-    QFETCH(int, year);
+    const auto [holiday, region, year, expected] = MvRows<QByteArray, QString, int, QStringList>::current();
     write(u"ZZ.xml"_s, tableFile(holiday));
-    QTEST(days(region, {}, year), "expected");
+    QCOMPARE(days(region, {}, year), expected);
 }
 
 void tst_MvHolidayTableReader::sameDay()
@@ -162,14 +153,12 @@ void tst_MvHolidayTableReader::sameDay()
 
 void tst_MvHolidayTableReader::names_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("region");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const QString &language, const QString &region, const QString &expected) {
-        QTest::newRow(name) << language << region
-                            << u"0101 %1, 0102 Nur so, 0104 %2, 0106 %3, 0108 %4"_s.arg(
-                                   expected.section(u',', 0, 0), expected.section(u',', 1, 1),
-                                   expected.section(u',', 2, 2), expected.section(u',', 3, 3));
+    const MvRows<QString, QString, QString> add; // language, region, expected
+    const auto row = [&](const char *name, const QString &language, const QString &region, const QString &expected) {
+        add(name, language, region,
+            u"0101 %1, 0102 Nur so, 0104 %2, 0106 %3, 0108 %4"_s.arg(
+                expected.section(u',', 0, 0), expected.section(u',', 1, 1), expected.section(u',', 2, 2),
+                expected.section(u',', 3, 3)));
     };
     row("the country's language", u"de"_s, u"N"_s, u"Neujahr,Woche,Woche,Brücke"_s);
     row("another one", u"fr"_s, u"S"_s, u"Nouvel An,Semaine,Semaine blanche,Pont"_s);
@@ -188,22 +177,16 @@ void tst_MvHolidayTableReader::names()
         <names of="Woche"><name language="fr" text="Semaine"/><name language="en" text=""/></names>)"));
     write(u"my-holidays.xml"_s, ::ownFile(R"(<vacation name="Brücke" start="2026-01-08" end="2026-01-08">
         <name language="fr" text="Pont"/></vacation>)"));
-    QFETCH(QString, language);
-    QFETCH(QString, region);
-    QTEST(days(region, FEATURE_SCHOOL_VACATIONS, 2026, language).join(u", "_s), "expected");
+    auto [language, region, expected] = MvRows<QString, QString, QString>::current();
+    QCOMPARE(days(region, FEATURE_SCHOOL_VACATIONS, 2026, language).join(u", "_s), expected);
 }
 
 void tst_MvHolidayTableReader::vacations_data()
 {
-    QTest::addColumn<QString>("region");
-    QTest::addColumn<int>("year");
-    QTest::addColumn<int>("features");
-    QTest::addColumn<QStringList>("expected");
+    const MvRows<QString, int, int, QStringList> add; // region, year, features, expected
     const int shown = FEATURE_SCHOOL_VACATIONS;
-    const auto row = [](const char *name, const QString &region, int year, int features,
-                        const QStringList &expected = {}) {
-        QTest::newRow(name) << region << year << features << expected;
-    };
+    const auto row = [&](const char *name, const QString &region, int year, int features,
+                         const QStringList &expected = {}) { add(name, region, year, features, expected); };
     row("not asked for", u"S"_s, 2026, FEATURE_HOLIDAYS);
     row("another region", u"N"_s, 2026, shown);
     row("without a region", {}, 2026, shown);
@@ -227,10 +210,8 @@ void tst_MvHolidayTableReader::vacations()
     write(u"vacations-ZZ-odbl.xml"_s, vacationFile(R"(<region code="S">
         <vacation name="Sommer" start="2028-07-02" end="2028-07-03"/>
         <vacation name="Sommer" start="2028-07-04" end="2028-07-04"/></region>)"));
-    QFETCH(QString, region);
-    QFETCH(int, year);
-    QFETCH(int, features);
-    QTEST(days(region, MvCalendariumFeatures(features), year), "expected");
+    const auto [region, year, features, expected] = MvRows<QString, int, int, QStringList>::current();
+    QCOMPARE(days(region, MvCalendariumFeatures(features), year), expected);
 }
 
 void tst_MvHolidayTableReader::vacationsKnownUntil()
@@ -248,15 +229,12 @@ void tst_MvHolidayTableReader::vacationsKnownUntil()
 
 void tst_MvHolidayTableReader::brokenFiles_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("warning"); // a pattern
-    QTest::addColumn<QStringList>("rest");
+    const MvRows<QString, QByteArray, QString, QStringList> row; // file; content; warning: a pattern; rest
 
     const QByteArray good = "\n<holiday name=\"Gut\" rule=\"06-01\"/>";
     const QStringList rest = {u"0601 Gut"_s};
     const auto table = [&](const char *name, const QByteArray &bad, const QString &warning) {
-        QTest::newRow(name) << u"ZZ.xml"_s << tableFile("\n" + bad + good) << u"ZZ\\.xml:5: .*"_s + warning << rest;
+        row(name, u"ZZ.xml"_s, tableFile("\n" + bad + good), u"ZZ\\.xml:5: .*"_s + warning, rest);
     };
     table("bad rule", R"(<holiday name="Schlecht" rule="06-31"/>)", u"Schlecht.*06-31"_s);
     table("no name", R"(<holiday rule="06-02"/>)", u"Namen"_s);
@@ -268,42 +246,35 @@ void tst_MvHolidayTableReader::brokenFiles_data()
     table("region twice", R"(<region code="S" name="Noch einmal"/>)", u"Kennung"_s);
     table("several errors, one warning", R"(<holiday/><holiday/><holiday/>)", u"2 weitere"_s);
 
-    QTest::newRow("cut file") << u"ZZ.xml"_s << tableFile(good).chopped(9) << u"ZZ\\.xml:\\d+:\\d+: "_s
-                              << QStringList();
-    QTest::newRow("empty file") << u"ZZ.xml"_s << QByteArray() << u"ZZ\\.xml:"_s << QStringList();
-    QTest::newRow("something else") << u"ZZ.xml"_s << QByteArray("<svg/>") << u"ZZ\\.xml:1: .*svg"_s << QStringList();
-    QTest::newRow("cut vacations leave the holidays alone")
-        << u"vacations-ZZ.xml"_s << QByteArray("<SchoolVacations><region>") << u"vacations-ZZ\\.xml:"_s << rest;
+    row("cut file", u"ZZ.xml"_s, tableFile(good).chopped(9), u"ZZ\\.xml:\\d+:\\d+: "_s, QStringList());
+    row("empty file", u"ZZ.xml"_s, QByteArray(), u"ZZ\\.xml:"_s, QStringList());
+    row("something else", u"ZZ.xml"_s, QByteArray("<svg/>"), u"ZZ\\.xml:1: .*svg"_s, QStringList());
+    row("cut vacations leave the holidays alone", u"vacations-ZZ.xml"_s, QByteArray("<SchoolVacations><region>"),
+        u"vacations-ZZ\\.xml:"_s, rest);
     for (const char *bad : {R"(start="2026-02-30" end="2026-03-01")", R"(start="2026-03-02" end="2026-03-01")",
                             R"(start="2026-01-01" end="2206-01-01")", R"(start="2026-03-01")"}) {
-        QTest::addRow("vacation: %s", bad)
-            << u"vacations-ZZ.xml"_s
-            << vacationFile("<region code=\"S\"><vacation name=\"F\" " + QByteArray(bad) + "/></region>")
-            << u"vacations-ZZ\\.xml:1: "_s << rest;
+        row(QString::asprintf("vacation: %s", bad), u"vacations-ZZ.xml"_s,
+            vacationFile("<region code=\"S\"><vacation name=\"F\" " + QByteArray(bad) + "/></region>"),
+            u"vacations-ZZ\\.xml:1: "_s, rest);
     }
-    QTest::newRow("cut own file") << u"my-holidays.xml"_s << QByteArray("<MyHolidays>") << u"my-holidays\\.xml:"_s
-                                  << rest;
+    row("cut own file", u"my-holidays.xml"_s, QByteArray("<MyHolidays>"), u"my-holidays\\.xml:"_s, rest);
 }
 
 void tst_MvHolidayTableReader::brokenFiles()
 {
-    QFETCH(QString, file);
-    QFETCH(QByteArray, content);
-    QFETCH(QString, warning);
+    const auto [file, content, warning, rest] = MvRows<QString, QByteArray, QString, QStringList>::current();
     write(u"ZZ.xml"_s, tableFile("<holiday name=\"Gut\" rule=\"06-01\"/>"));
     write(file, content);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning)); // once: a second warning fails the test
-    QTEST(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), "rest");
+    QCOMPARE(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), rest);
 }
 
 void tst_MvHolidayTableReader::ownFile_data()
 {
-    QTest::addColumn<QByteArray>("own");
-    QTest::addColumn<QStringList>("north");
-    QTest::addColumn<QStringList>("south");
+    const MvRows<QByteArray, QStringList, QStringList> add; // own, north, south
     const QStringList shipped = {u"0601 Erster"_s, u"0602 Zweiter"_s};
-    const auto row = [](const char *name, const QByteArray &elements, const QStringList &north,
-                        const QStringList &south) { QTest::newRow(name) << ::ownFile(elements) << north << south; };
+    const auto row = [&](const char *name, const QByteArray &elements, const QStringList &north,
+                         const QStringList &south) { add(name, ::ownFile(elements), north, south); };
     const QString &first = shipped.first();
     const QString &second = shipped.last();
     row("nothing", {}, shipped, shipped);
@@ -323,11 +294,11 @@ void tst_MvHolidayTableReader::ownFile_data()
 
 void tst_MvHolidayTableReader::ownFile()
 {
-    QFETCH(QByteArray, own);
+    const auto [own, north, south] = MvRows<QByteArray, QStringList, QStringList>::current();
     write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Erster" rule="06-01"/><holiday name="Zweiter" rule="06-02"/>)"));
     write(u"my-holidays.xml"_s, own);
-    QTEST(days(u"N"_s, FEATURE_SCHOOL_VACATIONS), "north");
-    QTEST(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), "south");
+    QCOMPARE(days(u"N"_s, FEATURE_SCHOOL_VACATIONS), north);
+    QCOMPARE(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), south);
 }
 
 void tst_MvHolidayTableReader::ownFileWithErrors()

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
 
+#include "MvRows.h"
 #include "MvTest.h"
-
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -127,20 +126,18 @@ private Q_SLOTS:
 
 void tst_MvPublicHolidays::agreeWithIndependentSource_data()
 {
-    QTest::addColumn<QString>("place");
-    QTest::addColumn<NamesByDate>("facts");
+    const MvRows<QString, NamesByDate> row; // place, facts
     const QMap<QString, NamesByDate> facts = readFacts();
     for (const char *land :
          {"BW", "BY", "BE", "BB", "HB", "HH", "HE", "MV", "NI", "NW", "RP", "SL", "SN", "ST", "SH", "TH"})
         QVERIFY2(facts.contains(u"DE-"_s + QLatin1StringView(land)), land);
     for (auto place = facts.cbegin(); place != facts.cend(); ++place)
-        QTest::addRow("%s", qPrintable(place.key())) << place.key() << place.value();
+        row(place.key(), place.key(), place.value());
 }
 
 void tst_MvPublicHolidays::agreeWithIndependentSource()
 {
-    QFETCH(QString, place);
-    QFETCH(NamesByDate, facts);
+    const auto [place, facts] = MvRows<QString, NamesByDate>::current();
     const NamesByDate here = computed(place);
     QStringList onlyHere = datesOnlyIn(here, facts);
     QStringList onlyThere = datesOnlyIn(facts, here);

@@ -3,6 +3,7 @@
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
 #include "MvProductBase/MvSVGImageRendererCache.h"
 
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include <QSvgRenderer>
@@ -84,32 +85,28 @@ void tst_MvSVGCompiler::init()
 
 void tst_MvSVGCompiler::fills_data()
 {
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<MvCalendariumContentKey>("key");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("nothing to fill") << u"Guten Tag"_s << keyOf(newYear) << u"Guten Tag"_s;
-    QTest::newRow("empty") << QString() << keyOf(newYear) << QString();
-    QTest::newRow("date") << u"{date}"_s << keyOf(newYear) << u"1. Januar 2027"_s;
-    QTest::newRow("date in British English") << u"{date}"_s << keyOf(newYear, u"en_GB"_s) << u"1 January 2027"_s;
-    QTest::newRow("date in Hungarian, weekday at its end")
-        << u"{date}"_s << keyOf(newYear, u"hu_HU"_s) << u"2027. január 1."_s;
-    QTest::newRow("month and year") << u"{month} {year}!"_s << keyOf(newYear, u"fr_FR"_s) << u"janvier 2027!"_s;
-    QTest::newRow("1 January in week 53") << u"KW {week}"_s << keyOf(newYear) << u"KW 53"_s;
-    QTest::newRow("holidays") << u"{holidays}"_s << keyOf(newYear) << u"Neujahr"_s;
-    QTest::newRow("entries") << u"{entries}"_s << keyOf(newYear) << u"Oma & Opa, Tim <3"_s;
-    QTest::newRow("a day without any") << u"[{holidays}{entries}]"_s << keyOf(newYear.addDays(1)) << u"[]"_s;
-    QTest::newRow("the same twice") << u"{year}{year}"_s << keyOf(newYear) << u"20272027"_s;
-    QTest::newRow("unknown words stay") << u"{name} {Year}"_s << keyOf(newYear) << u"{name} {Year}"_s;
-    QTest::newRow("braces of a style sheet") << u".a{fill:{year}} {"_s << keyOf(newYear) << u".a{fill:2027} {"_s;
-    QTest::newRow("open to its end") << u"{year"_s << keyOf(newYear) << u"{year"_s;
-    QTest::newRow("no day") << u"a{year}{holidays}b"_s << keyOf(QDate()) << u"ab"_s;
+    const MvRows<QString, MvCalendariumContentKey, QString> row; // pattern, key, text
+    row("nothing to fill", u"Guten Tag"_s, keyOf(newYear), u"Guten Tag"_s);
+    row("empty", QString(), keyOf(newYear), QString());
+    row("date", u"{date}"_s, keyOf(newYear), u"1. Januar 2027"_s);
+    row("date in British English", u"{date}"_s, keyOf(newYear, u"en_GB"_s), u"1 January 2027"_s);
+    row("date in Hungarian, weekday at its end", u"{date}"_s, keyOf(newYear, u"hu_HU"_s), u"2027. január 1."_s);
+    row("month and year", u"{month} {year}!"_s, keyOf(newYear, u"fr_FR"_s), u"janvier 2027!"_s);
+    row("1 January in week 53", u"KW {week}"_s, keyOf(newYear), u"KW 53"_s);
+    row("holidays", u"{holidays}"_s, keyOf(newYear), u"Neujahr"_s);
+    row("entries", u"{entries}"_s, keyOf(newYear), u"Oma & Opa, Tim <3"_s);
+    row("a day without any", u"[{holidays}{entries}]"_s, keyOf(newYear.addDays(1)), u"[]"_s);
+    row("the same twice", u"{year}{year}"_s, keyOf(newYear), u"20272027"_s);
+    row("unknown words stay", u"{name} {Year}"_s, keyOf(newYear), u"{name} {Year}"_s);
+    row("braces of a style sheet", u".a{fill:{year}} {"_s, keyOf(newYear), u".a{fill:2027} {"_s);
+    row("open to its end", u"{year"_s, keyOf(newYear), u"{year"_s);
+    row("no day", u"a{year}{holidays}b"_s, keyOf(QDate()), u"ab"_s);
 }
 
 void tst_MvSVGCompiler::fills()
 {
-    QFETCH(QString, pattern);
-    QFETCH(MvCalendariumContentKey, key);
-    QTEST(MvSVGCompilerInstructionsFactory::instance().text(pattern, key), "text");
+    const auto [pattern, key, text] = MvRows<QString, MvCalendariumContentKey, QString>::current();
+    QCOMPARE(MvSVGCompilerInstructionsFactory::instance().text(pattern, key), text);
 }
 
 void tst_MvSVGCompiler::sourcesComeAndGo()

@@ -2,6 +2,7 @@
 #include "MvProductBase/MvVCardAddressBook.h"
 #include "MvProductBase/MvVCardBirthdays.h"
 #include "MvProductBase/MvVCardReader.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include <sys/stat.h>
@@ -42,8 +43,7 @@ QByteArray card(const QByteArray &lines, const QByteArray &version = "3.0")
 
 void tst_MvVCardReader::dates_data()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QDate>("date");
+    const MvRows<QByteArray, QDate> row; // line, date
     const QDate may(1990, 5, 17);
     const QByteArray written =
         "1990-05-17|19900517|1990-05-17T23:00:00Z|19900517T000000|1990-05-17+02:00|1990-5-17|"
@@ -53,33 +53,31 @@ void tst_MvVCardReader::dates_data()
         "17 mei 1990|Donnerstag, 17.Mai 90|Thu, 17 May 1990|\"1990-05-17\"|１９９０-０５-１７|١٩٩٠-٠٥-١٧|"
         "1990年5月17日|1990–05–17|1990-05-17\\n";
     for (const QByteArray &text : written.split('|'))
-        QTest::newRow(text.constData()) << "BDAY:" + text << may;
-    QTest::newRow("typed") << QByteArray("BDAY;VALUE=date:1990-05-17") << may;
-    QTest::newRow("typed as text") << QByteArray("BDAY;VALUE=text:17 May 1990") << may;
-    QTest::newRow("quoted-printable") << QByteArray("BDAY;QUOTED-PRINTABLE:17=2E05=2E1990") << may;
-    QTest::newRow("grouped, small letters") << QByteArray("item1.bday:1990-05-17") << may;
-    QTest::newRow("an empty one follows") << QByteArray("BDAY:1990-05-17\r\nBDAY:") << may;
-    QTest::newRow("same number twice") << QByteArray("BDAY:05/05/1990") << QDate(1990, 5, 5);
-    QTest::newRow("leap day of a short year") << QByteArray("BDAY:29.02.00") << QDate(2000, 2, 29);
+        row(text.constData(), "BDAY:" + text, may);
+    row("typed", QByteArray("BDAY;VALUE=date:1990-05-17"), may);
+    row("typed as text", QByteArray("BDAY;VALUE=text:17 May 1990"), may);
+    row("quoted-printable", QByteArray("BDAY;QUOTED-PRINTABLE:17=2E05=2E1990"), may);
+    row("grouped, small letters", QByteArray("item1.bday:1990-05-17"), may);
+    row("an empty one follows", QByteArray("BDAY:1990-05-17\r\nBDAY:"), may);
+    row("same number twice", QByteArray("BDAY:05/05/1990"), QDate(1990, 5, 5));
+    row("leap day of a short year", QByteArray("BDAY:29.02.00"), QDate(2000, 2, 29));
     for (const char *text : {"--0214", "--02-14", "--2-14", "0000-02-14", "14.02.", "14 Feb", "February 14"})
-        QTest::newRow(text) << QByteArray("BDAY:") + text << QDate(1604, 2, 14);
-    QTest::newRow("leap day without a year") << QByteArray("BDAY:--0229") << QDate(1604, 2, 29);
-    QTest::newRow("year to be left out") << QByteArray("BDAY;X-APPLE-OMIT-YEAR=1604:1604-06-20") << QDate(1604, 6, 20);
-    QTest::newRow("another year to be left out")
-        << QByteArray("BDAY;X-APPLE-OMIT-YEAR=1904:1904-06-20") << QDate(1604, 6, 20);
-    QTest::newRow("a real birthday in that year") << QByteArray("BDAY:1904-06-20") << QDate(1904, 6, 20);
+        row(text, QByteArray("BDAY:") + text, QDate(1604, 2, 14));
+    row("leap day without a year", QByteArray("BDAY:--0229"), QDate(1604, 2, 29));
+    row("year to be left out", QByteArray("BDAY;X-APPLE-OMIT-YEAR=1604:1604-06-20"), QDate(1604, 6, 20));
+    row("another year to be left out", QByteArray("BDAY;X-APPLE-OMIT-YEAR=1904:1904-06-20"), QDate(1604, 6, 20));
+    row("a real birthday in that year", QByteArray("BDAY:1904-06-20"), QDate(1904, 6, 20));
     const QByteArray notUnderstood =
         "1990-05|1990-02-30|--0230|---17|0000-00-00|31.04.1990|29.02.1990|12/04/1985|4-12-1985|"
         "12/85|12-04-85|Mai 1990|17 Maig 1990|May 17 June|2990-05-17|1580-05-17|around 1800|"
         "17.05.90.12|T1030|17";
     for (const QByteArray &text : notUnderstood.split('|'))
-        QTest::newRow(text.constData()) << "BDAY;VALUE=text:" + text << QDate();
+        row(text.constData(), "BDAY;VALUE=text:" + text, QDate());
 }
 
 void tst_MvVCardReader::dates()
 {
-    QFETCH(QByteArray, line);
-    QFETCH(QDate, date);
+    const auto [line, date] = MvRows<QByteArray, QDate>::current();
     const MvVCardReader::Content content = MvVCardReader::read(card("FN:Erika\r\n" + line));
     QCOMPARE(content.error, QString());
     if (date.isValid()) {
@@ -103,12 +101,8 @@ void tst_MvVCardReader::shortYears()
 
 void tst_MvVCardReader::orderOfDayAndMonth_data()
 {
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<QString>("example"); // that nothing settles
-    QTest::addColumn<QString>("dates");   // with the day first, where somebody has to say it
-    const auto row = [](const char *name, const QStringList &texts, const QString &example, const QString &dates) {
-        QTest::newRow(name) << texts << example << dates;
-    };
+    // example: that nothing settles; dates: with the day first, where somebody has to say it
+    const MvRows<QStringList, QString, QString> row;
     row("settled by a day", {u"04/12/1985"_s, u"17/05/1990"_s}, {}, u"1985-12-04 1990-05-17"_s);
     row("settled by a day in the second place", {u"04/12/1985"_s, u"05/17/90"_s}, {}, u"1985-04-12 1990-05-17"_s);
     row("nothing settles", {u"04/12/1985"_s, u"1990-05-17"_s}, u"04/12/1985"_s, u"1985-12-04 1990-05-17"_s);
@@ -121,9 +115,7 @@ void tst_MvVCardReader::orderOfDayAndMonth_data()
 
 void tst_MvVCardReader::orderOfDayAndMonth()
 {
-    QFETCH(QStringList, texts);
-    QFETCH(QString, example);
-    QFETCH(QString, dates);
+    const auto [texts, example, dates] = MvRows<QStringList, QString, QString>::current();
     MvVCardBirthdays birthdays;
     for (const QString &text : texts) {
         MvVCard card;
@@ -145,12 +137,8 @@ void tst_MvVCardReader::orderOfDayAndMonth()
 
 void tst_MvVCardReader::names_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("name");
+    const MvRows<QByteArray, QString> row; // bytes, name
     const QByteArray day = "\r\nBDAY:19900517";
-    const auto row = [](const char *name, const QByteArray &bytes, const QString &expected) {
-        QTest::newRow(name) << bytes << expected;
-    };
     row("utf-8", card("FN:Jörg Müßig" + day), u"Jörg Müßig"_s);
     row("Latin 1, unannounced", card("FN:J\xf6rg M\xfc\xdfig" + day), u"Jörg Müßig"_s);
     row("announced", card("FN;CHARSET=ISO-8859-1:J\xf6rg" + day, "2.1"), u"Jörg"_s);
@@ -190,8 +178,7 @@ void tst_MvVCardReader::names_data()
 
 void tst_MvVCardReader::names()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, name);
+    const auto [bytes, name] = MvRows<QByteArray, QString>::current();
     const MvVCardReader::Content content = MvVCardReader::read(bytes);
     QCOMPARE(content.persons.size(), 1);
     QCOMPARE(content.persons.first().name(), name);
@@ -279,28 +266,26 @@ void tst_MvVCardReader::countsWhatIsLeftOut()
 
 void tst_MvVCardReader::linearTime_data()
 {
-    QTest::addColumn<QByteArray>("begin");
-    QTest::addColumn<QByteArray>("again");
-    QTest::newRow("parameters") << QByteArray("BDAY") << QByteArray(";X");
-    QTest::newRow("parameters of a picture") << QByteArray("PHOTO") << QByteArray(";X=Y");
-    QTest::newRow("words of a parameter") << QByteArray("PHOTO;X") << QByteArray(",");
-    QTest::newRow("quotation marks") << QByteArray("FN") << QByteArray(";\"");
-    QTest::newRow("picture's lines, no line feed") << QByteArray("PHOTO;ENCODING=b:") << QByteArray("\rAAAA");
-    QTest::newRow("a byte a line") << QByteArray("NOTE:") << QByteArray("\r\n x");
-    QTest::newRow("head, a byte a line") << QByteArray("NOTE") << QByteArray("\r\n x");
-    QTest::newRow("soft breaks") << QByteArray("NOTE;QUOTED-PRINTABLE:") << QByteArray("=\r\n");
-    QTest::newRow("carriage returns") << QByteArray() << QByteArray("\r");
-    QTest::newRow("cards in cards") << QByteArray() << QByteArray("AGENT:\r\nBEGIN:VCARD\r\n");
-    QTest::newRow("components") << QByteArray("N:") << QByteArray(";");
-    QTest::newRow("zeros") << QByteArray() << QByteArray(1, '\0');
+    const MvRows<QByteArray, QByteArray> row; // begin, again
+    row("parameters", QByteArray("BDAY"), QByteArray(";X"));
+    row("parameters of a picture", QByteArray("PHOTO"), QByteArray(";X=Y"));
+    row("words of a parameter", QByteArray("PHOTO;X"), QByteArray(","));
+    row("quotation marks", QByteArray("FN"), QByteArray(";\""));
+    row("picture's lines, no line feed", QByteArray("PHOTO;ENCODING=b:"), QByteArray("\rAAAA"));
+    row("a byte a line", QByteArray("NOTE:"), QByteArray("\r\n x"));
+    row("head, a byte a line", QByteArray("NOTE"), QByteArray("\r\n x"));
+    row("soft breaks", QByteArray("NOTE;QUOTED-PRINTABLE:"), QByteArray("=\r\n"));
+    row("carriage returns", QByteArray(), QByteArray("\r"));
+    row("cards in cards", QByteArray(), QByteArray("AGENT:\r\nBEGIN:VCARD\r\n"));
+    row("components", QByteArray("N:"), QByteArray(";"));
+    row("zeros", QByteArray(), QByteArray(1, '\0'));
 }
 
 /// Ten megabytes of it, which took minutes where every byte was looked at once more for each that came before. What
 /// follows in the next card is read.
 void tst_MvVCardReader::linearTime()
 {
-    QFETCH(QByteArray, begin);
-    QFETCH(QByteArray, again);
+    const auto [begin, again] = MvRows<QByteArray, QByteArray>::current();
     const QByteArray bytes = "BEGIN:VCARD\r\n" + begin + again.repeated(10'000'000 / again.size());
     const auto content = MvVCardReader::read(bytes + "\r\nEND:VCARD\r\n" + card("FN:Anna\r\nBDAY:19900517"));
     const bool isInnerCard = again.startsWith("AGENT");

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvFotoPoolIntake.h"
@@ -8,10 +10,6 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvProjectPack.h"
 #include "MvProjectFixture.h"
-
-#include <QBuffer>
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
@@ -73,15 +71,13 @@ MvCalendarDocument tst_HostileFotos::calendar(int number) const
 
 void tst_HostileFotos::wayToPaper_data()
 {
-    QTest::addColumn<QByteArray>("content"); // of a file; where there is none:
-    QTest::addColumn<QString>("place");      // what the name is a link to, or "folder", "pipe", "nothing"
-    QTest::addColumn<QSize>("size");         // invalid: cannot be read
-    const auto file = [](const char *name, const QByteArray &content, const QSize &size = {}) {
-        QTest::newRow(name) << content << QString() << size;
+    // content: of a file; where there is none:; place: what the name is a link to, or "folder", "pipe", "nothing";
+    // size: invalid: cannot be read
+    const MvRows<QByteArray, QString, QSize> row;
+    const auto file = [&](const char *name, const QByteArray &content, const QSize &size = {}) {
+        row(name, content, QString(), size);
     };
-    const auto special = [](const char *name, const QString &place) {
-        QTest::newRow(name) << QByteArray() << place << QSize();
-    };
+    const auto special = [&](const char *name, const QString &place) { row(name, QByteArray(), place, QSize()); };
     file("one pixel", picture({1, 1}, "png"), {1, 1});
     file("16 bits", picture({50, 40}, "png", QImage::Format_RGBA64), {50, 40});
     file("panorama", picture({30000, 4}, "png"), {30000, 4});
@@ -109,9 +105,7 @@ void tst_HostileFotos::wayToPaper_data()
 
 void tst_HostileFotos::wayToPaper()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, place);
-    QFETCH(QSize, size);
+    const auto [content, place, size] = MvRows<QByteArray, QString, QSize>::current();
     const QString foto = path(u"foto.jpg"_s);
     QFile::remove(foto);
     if (place == u"folder"_s)
@@ -143,9 +137,7 @@ void tst_HostileFotos::wayToPaper()
         QCOMPARE(result.files.size(), name.endsWith(u"pdf"_s) ? 1 : 2);
     }
     QCOMPARE(QImage(path(u"k-02.png"_s)).pixelColor(10, 10), QColor(Qt::red));
-    QFile drawing(path(u"k-01.svg"_s));
-    QVERIFY(drawing.open(QIODevice::ReadOnly));
-    QCOMPARE(drawing.readAll().contains("<image"), isReadable);
+    QCOMPARE(MvTestFiles::contentOf(path(u"k-01.svg"_s)).contains("<image"), isReadable);
 
     QStringList named;
     for (const MvPrintFinding &found : MvPrintCheck::ofDocument(document, {}, MvPrintCheck::Depth::Photos)) {
@@ -165,18 +157,16 @@ void tst_HostileFotos::wayToPaper()
 
 void tst_HostileFotos::changesOnTheWay_data()
 {
-    QTest::addColumn<QByteArray>("content"); // null: the file vanishes
-    QTest::addColumn<bool>("isReadable");
-    QTest::newRow("vanishes") << QByteArray() << false;
-    QTest::newRow("is being written") << picture({640, 480}, "jpeg").first(2000) << false;
-    QTest::newRow("another photo, upright and of another format") << picture({40, 90}, "png") << true;
+    const MvRows<QByteArray, bool> row; // content: null: the file vanishes; isReadable
+    row("vanishes", QByteArray(), false);
+    row("is being written", picture({640, 480}, "jpeg").first(2000), false);
+    row("another photo, upright and of another format", picture({40, 90}, "png"), true);
 }
 
 /// Between pool and export, and while the page before is exported.
 void tst_HostileFotos::changesOnTheWay()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(bool, isReadable);
+    const auto [content, isReadable] = MvRows<QByteArray, bool>::current();
     const QString foto = path(u"foto.jpg"_s);
     for (const bool isWhileExporting : {false, true}) {
         QFile::remove(foto);
@@ -185,7 +175,7 @@ void tst_HostileFotos::changesOnTheWay()
         MvFotoPool pool;
         pool.add(MvFotoPoolIntake::gather({foto}).items);
         document.setFotoPool(pool);
-        const auto change = [&] {
+        const auto change = [&, content = content] {
             QVERIFY(QFile::remove(foto));
             if (!content.isNull())
                 put(content);

@@ -5,6 +5,7 @@
 #include "MvProject/MvCalendarTitle.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include <QImage>
@@ -62,12 +63,8 @@ private Q_SLOTS:
 
 void tst_MvCalendarDocument::titles_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QDate>("end"); // of a calendar from August 2026 on
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("pageTitle"); // of the first page
-    const auto row = [](const char *name, const QString &layout, const QDate &end, const QString &title,
-                        const QString &page) { QTest::newRow(name) << layout << end << title << page; };
+    // end: of a calendar from August 2026 on; pageTitle: of the first page
+    const MvRows<QString, QDate, QString, QString> row;
     row("months", u"DAY_LIST"_s, {2026, 10, 31}, u"Kalender August 2026 bis Oktober 2026"_s, u"August 2026"_s);
     row("a month", u"DAY_LIST"_s, {2026, 8, 31}, u"Kalender August 2026"_s, u"August 2026"_s);
     row("a page of twelve months", u"YEAR_GRID"_s, {2027, 7, 31}, u"Kalender August 2026 bis Juli 2027"_s,
@@ -76,13 +73,12 @@ void tst_MvCalendarDocument::titles_data()
 
 void tst_MvCalendarDocument::titles()
 {
-    QFETCH(const QString, layout);
-    QFETCH(const QDate, end);
+    const auto [layout, end, title, pageTitle] = MvRows<QString, QDate, QString, QString>::current();
     MvCalendarDocument calendar = documentOf(layout);
     calendar.setRange(MvDateRange(QDate(2026, 8, 1), end));
-    QTEST(calendar.pageSource().title, "title");
-    QTEST(calendar.pageSource().names.value(0), "pageTitle");
-    QTEST(MvCalendarTitle::ofPage(calendar.pages().value(0)), "pageTitle");
+    QCOMPARE(calendar.pageSource().title, title);
+    QCOMPARE(calendar.pageSource().names.value(0), pageTitle);
+    QCOMPARE(MvCalendarTitle::ofPage(calendar.pages().value(0)), pageTitle);
     calendar.setTitle(u"Familie"_s);
     QCOMPARE(calendar.pageSource().title, u"Familie"_s);
 }
@@ -134,20 +130,18 @@ void tst_MvCalendarDocument::paintsTheMargins()
 
 void tst_MvCalendarDocument::littleWork_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<bool>("isNarrow");
+    const MvRows<QString, bool> row; // layout, isNarrow
     for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
         const QString id = layout.ID().toString();
-        QTest::newRow(qPrintable(id)) << id << false;
-        QTest::newRow(qPrintable(id + u" beside a photo"_s)) << id << true;
+        row(id, id, false);
+        row(id + u" beside a photo"_s, id, true);
     }
 }
 
 /// Painting must not grow by questions asked twice: a look at each date, a few fonts, one fit for all pages.
 void tst_MvCalendarDocument::littleWork()
 {
-    QFETCH(QString, layout);
-    QFETCH(bool, isNarrow);
+    const auto [layout, isNarrow] = MvRows<QString, bool>::current();
     MvCalendarDocument calendar = documentOf(layout);
     calendar.setHolidayConfig({MvLocale(u"de_DE"_s), u"BY"_s, MvCalendariumFeatures(1 | 2 | 8 | 64)});
     const int pages = int(calendar.pages().size());
@@ -194,25 +188,20 @@ void tst_MvCalendarDocument::withoutSchemasThereIsNothing()
 
 void tst_MvCalendarDocument::monthsOfOneSize_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<MvFotoFrame::Placement>("placement");
-    QTest::addColumn<int>("percentage");
-    QTest::addColumn<bool>("isCentred");
-    QTest::newRow("narrow") << u"MONTH_ONLY"_s << MvFotoFrame::Placement::Left << 0 << true;
-    QTest::newRow("large type") << u"MONTH_ONLY"_s << MvFotoFrame::Placement::Top << 100 << true;
-    QTest::newRow("without year") << u"MONTH_ONLY_SERIF"_s << MvFotoFrame::Placement::Top << 0 << true;
-    QTest::newRow("title") << u"MONTH_GRID_SERIF"_s << MvFotoFrame::Placement::Right << 0 << true;
-    QTest::newRow("spaced title") << u"MONTH_GRID_COMPACT"_s << MvFotoFrame::Placement::Top << 0 << true;
-    QTest::newRow("line above columns") << u"WEEK_COLUMNS_COMPACT"_s << MvFotoFrame::Placement::Left << 0 << false;
+    const MvRows<QString, MvFotoFrame::Placement, int, bool> row; // layout, placement, percentage, isCentred
+    row("narrow", u"MONTH_ONLY"_s, MvFotoFrame::Placement::Left, 0, true);
+    row("large type", u"MONTH_ONLY"_s, MvFotoFrame::Placement::Top, 100, true);
+    row("without year", u"MONTH_ONLY_SERIF"_s, MvFotoFrame::Placement::Top, 0, true);
+    row("title", u"MONTH_GRID_SERIF"_s, MvFotoFrame::Placement::Right, 0, true);
+    row("spaced title", u"MONTH_GRID_COMPACT"_s, MvFotoFrame::Placement::Top, 0, true);
+    row("line above columns", u"WEEK_COLUMNS_COMPACT"_s, MvFotoFrame::Placement::Left, 0, false);
 }
 
 /// The longest name decides; what is centred is so by what is seen of it.
 void tst_MvCalendarDocument::monthsOfOneSize()
 {
-    QFETCH(QString, layout);
-    QFETCH(MvFotoFrame::Placement, placement);
-    QFETCH(int, percentage);
-    QFETCH(bool, isCentred);
+    const auto [layout, placement, percentage, isCentred] =
+        MvRows<QString, MvFotoFrame::Placement, int, bool>::current();
     MvCalendarDocument document = documentOf(layout);
     MvCalendariumAppearance appearance = document.appearance();
     appearance.setFontSettings({QString(), percentage, -50, QFont::Normal, QFont::MixedCase, 0.0});
@@ -274,19 +263,11 @@ void tst_MvCalendarDocument::columnsOfTheFamilyPlanner()
 
 void tst_MvCalendarDocument::titleOfPage_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QDate>("from");
-    QTest::addColumn<int>("months");
-    QTest::addColumn<int>("monthsAhead");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QStringList>("titles"); // the first text of each page, the months' blank in front taken off
+    // titles: the first text of each page, the months' blank in front taken off
+    const MvRows<QString, QDate, int, int, QString, QStringList> row;
     const QDate january(2027, 1, 1);
     const QDate august(2026, 8, 1);
     const QString german = u"de_DE"_s;
-    const auto row = [](const char *name, const QString &layout, const QDate &from, int months, int monthsAhead,
-                        const QString &language, const QStringList &titles) {
-        QTest::newRow(name) << layout << from << months << monthsAhead << language << titles;
-    };
     row("a year", u"YEAR_ONLY"_s, january, 12, 0, german, {u"2027"_s});
     row("each school year its own", u"SCHOOL_YEAR"_s, august, 24, 0, german,
         {u"Schuljahr 2026/2027"_s, u"Schuljahr 2027/2028"_s});
@@ -305,12 +286,8 @@ void tst_MvCalendarDocument::titleOfPage_data()
 
 void tst_MvCalendarDocument::titleOfPage()
 {
-    QFETCH(QString, layout);
-    QFETCH(QDate, from);
-    QFETCH(int, months);
-    QFETCH(int, monthsAhead);
-    QFETCH(QString, language);
-    QFETCH(QStringList, titles);
+    const auto [layout, from, months, monthsAhead, language, titles] =
+        MvRows<QString, QDate, int, int, QString, QStringList>::current();
     MvCalendarDocument document = documentOf(layout);
     MvCalendariumAppearance appearance = document.appearance();
     appearance.setOffsetMonth(monthsAhead);
@@ -325,14 +302,13 @@ void tst_MvCalendarDocument::titleOfPage()
 
 void tst_MvCalendarDocument::calendarWeeks_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QString>("expected"); // where it is known
+    const MvRows<QString, QString> row; // layout; expected: where it is known
     const QHash<QString, QString> known{{u"MONTH_GRID_CLASSIC"_s, u"always"_s}, {u"DAY_LIST"_s, u"always"_s},
                                         {u"MONTH_GRID_COMPACT"_s, u"asked"_s},  {u"WEEK_COLUMNS"_s, u"asked"_s},
                                         {u"FAMILY_PLANNER"_s, u"never"_s},      {u"HOLIDAY_BLOCK"_s, u"never"_s}};
     for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
         const QString id = schema.ID().toString();
-        QTest::newRow(qPrintable(id)) << id << known.value(id);
+        row(id, id, known.value(id));
     }
 }
 
@@ -340,8 +316,7 @@ void tst_MvCalendarDocument::calendarWeeks_data()
 void tst_MvCalendarDocument::calendarWeeks()
 {
     using CalendarWeeks = MvCalendarPage::CalendarWeeks;
-    QFETCH(QString, layout);
-    QFETCH(QString, expected);
+    const auto [layout, expected] = MvRows<QString, QString>::current();
     MvCalendarDocument document = documentOf(layout);
     const auto textsWhen = [&document](bool asked) {
         MvCalendariumHolidayConfig holidays = document.holidayConfig();

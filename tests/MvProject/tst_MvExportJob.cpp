@@ -2,11 +2,9 @@
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using MvTestFiles::contentOf;
@@ -75,17 +73,17 @@ MvCalendarDocument tst_MvExportJob::calendar(int pages) const
 
 void tst_MvExportJob::writesWhatTheExporterWrites_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::newRow("PNG") << u"k-%n.png"_s;
-    QTest::newRow("SVG") << u"k-%n.svg"_s;
-    QTest::newRow("PDF") << u"k.pdf"_s;
-    QTest::newRow("PDF of each page") << u"k-%n.pdf"_s;
-    QTest::newRow("HTML") << u"k-%n.html"_s;
+    const MvRows<QString> row; // name
+    row("PNG", u"k-%n.png"_s);
+    row("SVG", u"k-%n.svg"_s);
+    row("PDF", u"k.pdf"_s);
+    row("PDF of each page", u"k-%n.pdf"_s);
+    row("HTML", u"k-%n.html"_s);
 }
 
 void tst_MvExportJob::writesWhatTheExporterWrites()
 {
-    QFETCH(const QString, name);
+    const auto [name] = MvRows<QString>::current();
     const MvCalendarDocument document = calendar(4);
     MvExportJob job(document, MvExportTarget(path(name), MvExportTarget::Pdf::OneOfEachPage), 72);
     QSignalSpy progress(&job, &MvExportJob::progress);
@@ -109,19 +107,17 @@ void tst_MvExportJob::writesWhatTheExporterWrites()
 
 void tst_MvExportJob::cancels_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("after"); // so many pages
-    QTest::newRow("pictures, at once") << u"k-%n.png"_s << 0;
-    QTest::newRow("pictures, later") << u"k-%n.png"_s << 3;
-    QTest::newRow("one file") << u"k.pdf"_s << 3;
+    const MvRows<QString, int> row; // name; after: so many pages
+    row("pictures, at once", u"k-%n.png"_s, 0);
+    row("pictures, later", u"k-%n.png"_s, 3);
+    row("one file", u"k.pdf"_s, 3);
 }
 
 void tst_MvExportJob::cancels()
 {
-    QFETCH(const QString, name);
-    QFETCH(const int, after);
+    const auto [name, after] = MvRows<QString, int>::current();
     MvExportJob job(calendar(40), MvExportTarget(path(name)), 150);
-    connect(&job, &MvExportJob::progress, &job, [&](int done) {
+    connect(&job, &MvExportJob::progress, &job, [&, after = after](int done) {
         if (done == after)
             job.cancel();
     });

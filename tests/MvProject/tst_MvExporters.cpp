@@ -5,15 +5,14 @@
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPictureExporter.h"
 #include "MvProject/MvSvgExporter.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include <QColorSpace>
 #include <QDomDocument>
 #include <QPainter>
-#include <QRandomGenerator>
 #include <QSvgRenderer>
-#include <QTemporaryDir>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
@@ -83,13 +82,11 @@ MvPageSource tst_MvExporters::source(const QString &format, double bleed, int pa
 
 void tst_MvExporters::pdfBoxes_data()
 {
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<double>("bleed");
-    QTest::addColumn<QRectF>("media"); // points, x and y of the lower left corner
-    QTest::addColumn<QRectF>("trim");
+    // media: points, x and y of the lower left corner
+    const MvRows<QString, double, QRectF, QRectF> add;
     // 1 mm is 72 / 25.4 = 2.834645669 points
-    const auto row = [](const QString &format, double bleed, const QRectF &media, const QRectF &trim) {
-        QTest::newRow(qPrintable(format)) << format << bleed << media << trim;
+    const auto row = [&](const QString &format, double bleed, const QRectF &media, const QRectF &trim) {
+        add(format, format, bleed, media, trim);
     };
     row(u"A0"_s, 0.0, {0, 0, 2383.9370, 3370.3937}, {0, 0, 2383.9370, 3370.3937});
     row(u"A5"_s, 30.0, {0, 0, 436.5354, 612.2835}, {8.5039, 8.5039, 419.5276, 595.2756});
@@ -98,10 +95,7 @@ void tst_MvExporters::pdfBoxes_data()
 
 void tst_MvExporters::pdfBoxes()
 {
-    QFETCH(const QString, format);
-    QFETCH(const double, bleed);
-    QFETCH(const QRectF, media);
-    QFETCH(const QRectF, trim);
+    const auto [format, bleed, media, trim] = MvRows<QString, double, QRectF, QRectF>::current();
     const MvExportResult result = MvPdfExporter::write(source(format, bleed, 12), QFileInfo(path(u"k.pdf"_s)));
     QCOMPARE(result.error, QString());
     QCOMPARE(filesInFolder(), QStringList{u"k.pdf"_s});
@@ -232,19 +226,18 @@ void tst_MvExporters::svg()
 
 void tst_MvExporters::svgIsClipped_data()
 {
-    using Painting = std::function<void(QPainter &)>;
-    QTest::addColumn<Painting>("painting");
-    QTest::newRow("area") << Painting([](QPainter &painter) { painter.fillRect(-500, -500, 5000, 5000, Qt::black); });
-    QTest::newRow("line") << Painting([](QPainter &painter) {
+    const MvRows<std::function<void(QPainter &)>> row; // painting
+    row("area", [](QPainter &painter) { painter.fillRect(-500, -500, 5000, 5000, Qt::black); });
+    row("line", [](QPainter &painter) {
         painter.setPen(QPen(Qt::black, 700));
         painter.drawLine(QPointF(0, 400), QPointF(3000, 400));
     });
-    QTest::newRow("photo") << Painting([](QPainter &painter) {
+    row("photo", [](QPainter &painter) {
         QImage foto(50, 80, QImage::Format_RGB32);
         foto.fill(Qt::black);
         painter.drawImage(QRectF(50, 50, 1000, 1000), foto);
     });
-    QTest::newRow("text") << Painting([](QPainter &painter) {
+    row("text", [](QPainter &painter) {
         QFont font(u"Lato"_s, -1, QFont::Black);
         font.setPixelSize(3000);
         MvOutlinePainter::fillOutline(painter, {-300, 1400}, MvTextOutline(font, u"I"_s), Qt::black);
@@ -253,9 +246,9 @@ void tst_MvExporters::svgIsClipped_data()
 
 void tst_MvExporters::svgIsClipped()
 {
-    QFETCH(const std::function<void(QPainter &)>, painting);
+    const auto [painting] = MvRows<std::function<void(QPainter &)>>::current();
     MvPageSource pages = source(u"A4"_s, 30, 1);
-    pages.paint = [&painting](QPainter &painter, int) {
+    pages.paint = [painting = painting](QPainter &painter, int) {
         painter.setClipRect(QRectF(100, 200, 300, 400));
         painting(painter);
         painter.setClipping(false);

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvProject/MvFotoAim.h"
 #include "MvProject/MvFotoDistribution.h"
 #include "MvProject/MvThemeApplication.h"
-
-#include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
 
@@ -61,38 +60,30 @@ const QSize upright(2000, 3000);
 
 void tst_MvFotoAim::showsWhatMatters_data()
 {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QRectF>("face");
-    QTest::addColumn<QRectF>("frame"); // on A5 landscape, 2100 by 1480
-    QTest::addColumn<QList<MvPageElement>>("above");
-    QTest::addColumn<QRectF>("seen"); // where the face is to be
+    // frame: on A5 landscape, 2100 by 1480; seen: where the face is to be
+    const MvRows<QSize, QRectF, QRectF, QList<MvPageElement>, QRectF> row;
     using Elements = QList<MvPageElement>;
     const QRectF page(-30, -30, 2160, 1540);
-    QTest::newRow("a strip at the foot") << upright << QRectF(0.4, 0.55, 0.15, 0.2) << page
-                                         << Elements{words({100, 1080, 1900, 300})} << QRectF(0, 0, 2100, 1080);
-    QTest::newRow("a month at the foot") << upright << QRectF(0.4, 0.6, 0.3, 0.15) << page
-                                         << Elements{{{60, 980, 1980, 440}, MvCalendariumElement()}}
-                                         << QRectF(0, 0, 2100, 980);
-    QTest::newRow("a list at the right") << wide << QRectF(0.45, 0.3, 0.14, 0.25) << page
-                                         << Elements{words({1300, 60, 740, 1360})} << QRectF(0, 0, 1300, 1480);
-    QTest::newRow("a month in a corner") << wide << QRectF(0.2, 0.6, 0.15, 0.2) << QRectF(0, 0, 2100, 1100)
-                                         << Elements{words({1050, 600, 1000, 480})} << QRectF(0, 0, 2100, 1100);
-    QTest::newRow("a photo above it") << wide << QRectF(0.1, 0.5, 0.1, 0.2) << QRectF(0, 0, 2100, 900)
-                                      << Elements{{{0, 500, 800, 400}, MvFotoElement(u"/b.jpg"_s)}}
-                                      << QRectF(0, 0, 2100, 900);
-    QTest::newRow("nothing above, narrow")
-        << wide << QRectF(0.7, 0.2, 0.15, 0.3) << QRectF(0, 0, 500, 1400) << Elements{} << QRectF(0, 0, 500, 1400);
-    QTest::newRow("nothing above, wide") << upright << QRectF(0.3, 0.1, 0.3, 0.12) << QRectF(0, 0, 2100, 800)
-                                         << Elements{} << QRectF(0, 0, 2100, 800);
+    row("a strip at the foot", upright, QRectF(0.4, 0.55, 0.15, 0.2), page, Elements{words({100, 1080, 1900, 300})},
+        QRectF(0, 0, 2100, 1080));
+    row("a month at the foot", upright, QRectF(0.4, 0.6, 0.3, 0.15), page,
+        Elements{{{60, 980, 1980, 440}, MvCalendariumElement()}}, QRectF(0, 0, 2100, 980));
+    row("a list at the right", wide, QRectF(0.45, 0.3, 0.14, 0.25), page, Elements{words({1300, 60, 740, 1360})},
+        QRectF(0, 0, 1300, 1480));
+    row("a month in a corner", wide, QRectF(0.2, 0.6, 0.15, 0.2), QRectF(0, 0, 2100, 1100),
+        Elements{words({1050, 600, 1000, 480})}, QRectF(0, 0, 2100, 1100));
+    row("a photo above it", wide, QRectF(0.1, 0.5, 0.1, 0.2), QRectF(0, 0, 2100, 900),
+        Elements{{{0, 500, 800, 400}, MvFotoElement(u"/b.jpg"_s)}}, QRectF(0, 0, 2100, 900));
+    row("nothing above, narrow", wide, QRectF(0.7, 0.2, 0.15, 0.3), QRectF(0, 0, 500, 1400), Elements{},
+        QRectF(0, 0, 500, 1400));
+    row("nothing above, wide", upright, QRectF(0.3, 0.1, 0.3, 0.12), QRectF(0, 0, 2100, 800), Elements{},
+        QRectF(0, 0, 2100, 800));
 }
 
 void tst_MvFotoAim::showsWhatMatters()
 {
-    QFETCH(QSize, size);
-    QFETCH(QRectF, face);
-    QFETCH(QRectF, frame);
-    QFETCH(QList<MvPageElement>, above);
-    QFETCH(QRectF, seen);
+    const auto [size, face, frame, above, seen] =
+        MvRows<QSize, QRectF, QRectF, QList<MvPageElement>, QRectF>::current();
     const MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 1);
     const MvFotoPoolItem photo = photoWith(face, size);
     for (const double zoom : {1.0, 1.5}) {
@@ -177,22 +168,21 @@ void tst_MvFotoAim::followsItsFrame()
 
 void tst_MvFotoAim::interestSurvivesFiles_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("isKnown");
-    QTest::newRow("faces") << u"100,200,300,400,3000;500,0,500,1000,1500"_s << true;
-    QTest::newRow("cells") << u"0,0,500,500,1000;2*2:0af1"_s << true;
-    QTest::newRow("none") << QString() << false;
-    QTest::newRow("outside") << u"-500,0,400,100,1000"_s << false;
-    QTest::newRow("beyond numbers") << u"1,2,99999999999999999999,x,nan;5*5"_s << false;
-    QTest::newRow("too few cells") << u"9*9:1"_s << false;
-    QTest::newRow("too many cells") << u"40*40:"_s + QString(1600, u'1') << false;
-    QTest::newRow("no digits") << u"2*1:zz"_s << false;
+    const MvRows<QString, bool> row; // text, isKnown
+    row("faces", u"100,200,300,400,3000;500,0,500,1000,1500"_s, true);
+    row("cells", u"0,0,500,500,1000;2*2:0af1"_s, true);
+    row("none", QString(), false);
+    row("outside", u"-500,0,400,100,1000"_s, false);
+    row("beyond numbers", u"1,2,99999999999999999999,x,nan;5*5"_s, false);
+    row("too few cells", u"9*9:1"_s, false);
+    row("too many cells", u"40*40:"_s + QString(1600, u'1'), false);
+    row("no digits", u"2*1:zz"_s, false);
 }
 
 void tst_MvFotoAim::interestSurvivesFiles()
 {
-    QFETCH(QString, text);
-    QTEST(!MvFotoInterest::fromText(text).isEmpty(), "isKnown");
+    const auto [text, isKnown] = MvRows<QString, bool>::current();
+    QCOMPARE(!MvFotoInterest::fromText(text).isEmpty(), isKnown);
     const MvFotoInterest known = MvFotoInterest::fromText(text);
     QCOMPARE(MvFotoInterest::fromText(known.toText()), known);
     QRandomGenerator random(7);

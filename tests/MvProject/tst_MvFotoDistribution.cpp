@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvProject/MvFotoDistribution.h"
@@ -6,8 +7,6 @@
 #include "MvProject/MvThemeApplication.h"
 #include "MvProject/MvThemeRegistry.h"
 #include "MvProjectFixture.h"
-
-#include <QRandomGenerator>
 
 using FrameId = MvCalendarDocument::FrameId;
 
@@ -46,11 +45,7 @@ static QString names(const MvCalendarDocument &document)
 
 void tst_MvFotoDistribution::months_data()
 {
-    QTest::addColumn<QList<MvFotoPoolItem>>("photos");
-    QTest::addColumn<QString>("placed"); // January to April 2027
-    const auto row = [](const char *name, const QList<MvFotoPoolItem> &photos, const QString &placed) {
-        QTest::newRow(name) << photos << placed;
-    };
+    const MvRows<QList<MvFotoPoolItem>, QString> row; // photos; placed: January to April 2027
     row("months get their own", {photo(u"mar"_qs, u"2026-03-05"_qs), photo(u"jan"_qs, u"2024-01-31"_qs)},
         u"jan - mar -"_qs);
     row("the shown year before another",
@@ -73,13 +68,13 @@ void tst_MvFotoDistribution::months_data()
 
 void tst_MvFotoDistribution::months()
 {
-    QFETCH(QList<MvFotoPoolItem>, photos);
+    const auto [photos, placed] = MvRows<QList<MvFotoPoolItem>, QString>::current();
     MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_qs, 4);
     MvFotoPool pool;
     pool.add(photos);
     document.setFotoPool(pool);
     const MvFotoDistribution::Result result = MvFotoDistribution::distribute(document);
-    QTEST(names(result.document), "placed");
+    QCOMPARE(names(result.document), placed);
     QCOMPARE(result.placed + result.unused.size(), photos.size());
     QCOMPARE(result.placed + result.emptyFrames, 4);
     for (const FrameId &frame : result.document.frames())
@@ -141,15 +136,15 @@ void tst_MvFotoDistribution::facingPages()
 
 void tst_MvFotoDistribution::families_data()
 {
-    QTest::addColumn<int>("seed");
+    const MvRows<int> row; // seed
     for (int seed = 1; seed <= 36; ++seed)
-        QTest::newRow(qPrintable(QString::number(seed))) << seed;
+        row(QString::number(seed), seed);
 }
 
 /// Any photos in any theme: each at most once, nothing placed moves, months first, and a second time changes nothing.
 void tst_MvFotoDistribution::families()
 {
-    QFETCH(int, seed);
+    const auto [seed] = MvRows<int>::current();
     QRandomGenerator random{quint32(seed)};
     const auto below = [&random](qsizetype bound) { return int(random.bounded(int(bound))); };
     const QStringList papers = MvPageFormat::names();

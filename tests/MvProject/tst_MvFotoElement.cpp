@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvFotoElement.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include <QPainter>
-#include <QTemporaryDir>
 
 #include <cmath>
 #include <limits>
@@ -37,49 +37,36 @@ private:
 
 void tst_MvFotoElement::seenPart_data()
 {
-    QTest::addColumn<QSizeF>("frame");
-    QTest::addColumn<Fit>("fit");
-    QTest::addColumn<double>("zoom");
-    QTest::addColumn<QPointF>("focus");
-    QTest::addColumn<int>("turns");
-    QTest::addColumn<QPolygonF>("seen"); // of 300 x 200 pixels, from the frame's top left corner clockwise
-    QTest::addColumn<QRectF>("covered");
+    // seen: of 300 x 200 pixels, from the frame's top left corner clockwise
+    const MvRows<QSizeF, Fit, double, QPointF, int, QPolygonF, QRectF> row;
     const auto upright = [](double x, double y, double width, double height) {
         return QPolygonF({{x, y}, {x + width, y}, {x + width, y + height}, {x, y + height}});
     };
     const QSizeF square(100, 100);
     const QRectF all({}, square);
     const QPointF middle(0.5, 0.5);
-    QTest::newRow("fills") << square << Fit::Fill << 1.0 << middle << 0 << upright(50, 0, 200, 200) << all;
-    QTest::newRow("zoomed") << square << Fit::Fill << 2.0 << middle << 0 << upright(100, 50, 100, 100) << all;
-    QTest::newRow("focus in a corner") << square << Fit::Fill << 2.0 << QPointF(0, 1) << 0 << upright(0, 100, 100, 100)
-                                       << all;
-    QTest::newRow("turned clockwise: its left is up")
-        << QSizeF(100, 200) << Fit::Fill << 1.0 << middle << 1 << QPolygonF({{0, 175}, {0, 25}, {300, 25}, {300, 175}})
-        << QRectF(0, 0, 100, 200);
-    QTest::newRow("turned, its focus turned with it") << square << Fit::Fill << 1.0 << QPointF(0, 0.5) << 1
-                                                      << QPolygonF({{0, 200}, {0, 0}, {200, 0}, {200, 200}}) << all;
-    QTest::newRow("upside down") << square << Fit::Fill << 2.0 << QPointF(0, 0) << 2
-                                 << QPolygonF({{100, 100}, {0, 100}, {0, 0}, {100, 0}}) << all;
-    QTest::newRow("counterclockwise") << QSizeF(200, 300) << Fit::Fill << 1.0 << middle << -1
-                                      << QPolygonF({{300, 0}, {300, 200}, {0, 200}, {0, 0}}) << QRectF(0, 0, 200, 300);
-    QTest::newRow("whole") << square << Fit::Whole << 1.0 << QPointF(0, 0) << 0 << upright(0, 0, 300, 200)
-                           << QRectF(0, 100.0 / 6.0, 100, 400.0 / 6.0);
-    QTest::newRow("whole, zoomed over the sides")
-        << square << Fit::Whole << 1.2 << middle << 0 << upright(25, 0, 250, 200) << QRectF(0, 10, 100, 80);
-    QTest::newRow("whole, zoomed beyond the frame")
-        << square << Fit::Whole << 3.0 << middle << 0 << upright(100, 50, 100, 100) << all;
+    row("fills", square, Fit::Fill, 1.0, middle, 0, upright(50, 0, 200, 200), all);
+    row("zoomed", square, Fit::Fill, 2.0, middle, 0, upright(100, 50, 100, 100), all);
+    row("focus in a corner", square, Fit::Fill, 2.0, QPointF(0, 1), 0, upright(0, 100, 100, 100), all);
+    row("turned clockwise: its left is up", QSizeF(100, 200), Fit::Fill, 1.0, middle, 1,
+        QPolygonF({{0, 175}, {0, 25}, {300, 25}, {300, 175}}), QRectF(0, 0, 100, 200));
+    row("turned, its focus turned with it", square, Fit::Fill, 1.0, QPointF(0, 0.5), 1,
+        QPolygonF({{0, 200}, {0, 0}, {200, 0}, {200, 200}}), all);
+    row("upside down", square, Fit::Fill, 2.0, QPointF(0, 0), 2, QPolygonF({{100, 100}, {0, 100}, {0, 0}, {100, 0}}),
+        all);
+    row("counterclockwise", QSizeF(200, 300), Fit::Fill, 1.0, middle, -1,
+        QPolygonF({{300, 0}, {300, 200}, {0, 200}, {0, 0}}), QRectF(0, 0, 200, 300));
+    row("whole", square, Fit::Whole, 1.0, QPointF(0, 0), 0, upright(0, 0, 300, 200),
+        QRectF(0, 100.0 / 6.0, 100, 400.0 / 6.0));
+    row("whole, zoomed over the sides", square, Fit::Whole, 1.2, middle, 0, upright(25, 0, 250, 200),
+        QRectF(0, 10, 100, 80));
+    row("whole, zoomed beyond the frame", square, Fit::Whole, 3.0, middle, 0, upright(100, 50, 100, 100), all);
 }
 
 void tst_MvFotoElement::seenPart()
 {
-    QFETCH(const QSizeF, frame);
-    QFETCH(const Fit, fit);
-    QFETCH(const double, zoom);
-    QFETCH(const QPointF, focus);
-    QFETCH(const int, turns);
-    QFETCH(const QPolygonF, seen);
-    QFETCH(const QRectF, covered);
+    const auto [frame, fit, zoom, focus, turns, seen, covered] =
+        MvRows<QSizeF, Fit, double, QPointF, int, QPolygonF, QRectF>::current();
     MvFotoElement foto(u"/foto.jpg"_s);
     foto.setFit(fit);
     foto.setZoom(zoom);
@@ -95,33 +82,22 @@ void tst_MvFotoElement::seenPart()
 
 void tst_MvFotoElement::straightened_data()
 {
-    QTest::addColumn<QSizeF>("foto");
-    QTest::addColumn<QSizeF>("frame");
-    QTest::addColumn<Fit>("fit");
-    QTest::addColumn<double>("zoom");
-    QTest::addColumn<QPointF>("focus");
-    QTest::addColumn<double>("width"); // that is seen, in pixels; 0: not computed by hand
+    // width: that is seen, in pixels; 0: not computed by hand
+    const MvRows<QSizeF, QSizeF, Fit, double, QPointF, double> row;
     const QSizeF wide(300, 200);
     const QPointF middle(0.5, 0.5);
-    QTest::newRow("square") << QSizeF(200, 200) << QSizeF(50, 50) << Fit::Fill << 1.0 << middle
-                            << 200.0 / std::sqrt(1.5); // by the sum of sine and cosine
-    QTest::newRow("square, zoomed") << QSizeF(200, 200) << QSizeF(50, 50) << Fit::Fill << 2.0 << middle
-                                    << 100.0 / std::sqrt(1.5);
-    QTest::newRow("corner") << wide << QSizeF(100, 100) << Fit::Fill << 1.5 << QPointF(1, 1) << 0.0;
-    QTest::newRow("upright in wide") << QSizeF(200, 300) << QSizeF(400, 100) << Fit::Fill << 1.0 << QPointF(0.2, 0)
-                                     << 0.0;
-    QTest::newRow("whole") << wide << QSizeF(100, 100) << Fit::Whole << 1.0 << middle << 0.0;
+    row("square", QSizeF(200, 200), QSizeF(50, 50), Fit::Fill, 1.0, middle,
+        200.0 / std::sqrt(1.5)); // by the sum of sine and cosine
+    row("square, zoomed", QSizeF(200, 200), QSizeF(50, 50), Fit::Fill, 2.0, middle, 100.0 / std::sqrt(1.5));
+    row("corner", wide, QSizeF(100, 100), Fit::Fill, 1.5, QPointF(1, 1), 0.0);
+    row("upright in wide", QSizeF(200, 300), QSizeF(400, 100), Fit::Fill, 1.0, QPointF(0.2, 0), 0.0);
+    row("whole", wide, QSizeF(100, 100), Fit::Whole, 1.0, middle, 0.0);
 }
 
 /// No corner beside the photo is ever seen, whatever the angle, and nothing is distorted.
 void tst_MvFotoElement::straightened()
 {
-    QFETCH(const QSizeF, foto);
-    QFETCH(const QSizeF, frame);
-    QFETCH(const Fit, fit);
-    QFETCH(const double, zoom);
-    QFETCH(const QPointF, focus);
-    QFETCH(const double, width);
+    const auto [foto, frame, fit, zoom, focus, width] = MvRows<QSizeF, QSizeF, Fit, double, QPointF, double>::current();
     for (const double degrees : {-15.0, -3.5, 0.1, 15.0}) {
         for (int turns = 0; turns < 4; ++turns) {
             MvFotoElement element(u"/foto.jpg"_s);
@@ -149,19 +125,16 @@ void tst_MvFotoElement::straightened()
 
 void tst_MvFotoElement::dragging_data()
 {
-    QTest::addColumn<int>("turns");
-    QTest::addColumn<QPointF>("distance");
-    QTest::addColumn<QPointF>("focus"); // of 300 x 200 pixels, of which 100 x 100 are seen as many units
-    QTest::newRow("to the right shows what was left") << 0 << QPointF(10, 0) << QPointF(140 / 300.0, 0.5);
-    QTest::newRow("to the edge") << 0 << QPointF(-500, 500) << QPointF(250 / 300.0, 0.25);
-    QTest::newRow("turned clockwise") << 1 << QPointF(10, 0) << QPointF(0.5, 110 / 200.0);
+    // focus: of 300 x 200 pixels, of which 100 x 100 are seen as many units
+    const MvRows<int, QPointF, QPointF> row;
+    row("to the right shows what was left", 0, QPointF(10, 0), QPointF(140 / 300.0, 0.5));
+    row("to the edge", 0, QPointF(-500, 500), QPointF(250 / 300.0, 0.25));
+    row("turned clockwise", 1, QPointF(10, 0), QPointF(0.5, 110 / 200.0));
 }
 
 void tst_MvFotoElement::dragging()
 {
-    QFETCH(const int, turns);
-    QFETCH(const QPointF, distance);
-    QFETCH(const QPointF, focus);
+    const auto [turns, distance, focus] = MvRows<int, QPointF, QPointF>::current();
     MvFotoElement foto(u"/foto.jpg"_s);
     foto.setZoom(2.0);
     foto.setQuarterTurns(turns);
@@ -194,32 +167,24 @@ void tst_MvFotoElement::keepsToItsLimits()
 
 void tst_MvFotoElement::painted_data()
 {
-    QTest::addColumn<int>("turns");
-    QTest::addColumn<double>("straightening");
-    QTest::addColumn<double>("rotation");
-    QTest::addColumn<Fit>("fit");
-    QTest::addColumn<double>("border");
-    QTest::addColumn<QStringList>("colors"); // of the quarters, by reading order
+    // colors: of the quarters, by reading order
+    const MvRows<int, double, double, Fit, double, QStringList> row;
     const QString red = u"#ff0000"_s;
     const QString green = u"#00ff00"_s;
     const QString blue = u"#0000ff"_s;
     const QString yellow = u"#ffff00"_s;
     const QStringList usual = {red, green, blue, yellow};
-    QTest::newRow("as it is") << 0 << 0.0 << 0.0 << Fit::Fill << 0.0 << usual;
-    QTest::newRow("turned") << 1 << 0.0 << 0.0 << Fit::Fill << 0.0 << QStringList{blue, red, yellow, green};
-    QTest::newRow("whole, with a border") << 0 << 0.0 << 0.0 << Fit::Whole << 30.0 << usual;
-    QTest::newRow("straightened") << 0 << 12.0 << 0.0 << Fit::Fill << 0.0 << usual;
-    QTest::newRow("hung askew") << 2 << 0.0 << -5.0 << Fit::Fill << 20.0 << QStringList{yellow, blue, green, red};
+    row("as it is", 0, 0.0, 0.0, Fit::Fill, 0.0, usual);
+    row("turned", 1, 0.0, 0.0, Fit::Fill, 0.0, QStringList{blue, red, yellow, green});
+    row("whole, with a border", 0, 0.0, 0.0, Fit::Whole, 30.0, usual);
+    row("straightened", 0, 12.0, 0.0, Fit::Fill, 0.0, usual);
+    row("hung askew", 2, 0.0, -5.0, Fit::Fill, 20.0, QStringList{yellow, blue, green, red});
 }
 
 void tst_MvFotoElement::painted()
 {
-    QFETCH(const int, turns);
-    QFETCH(const double, straightening);
-    QFETCH(const double, rotation);
-    QFETCH(const Fit, fit);
-    QFETCH(const double, border);
-    QFETCH(const QStringList, colors);
+    const auto [turns, straightening, rotation, fit, border, colors] =
+        MvRows<int, double, double, Fit, double, QStringList>::current();
     const QString path = m_folder.filePath(u"vier.png"_s);
     QVERIFY(QFileInfo::exists(path) || writeFoto(path, {600, 400}));
     MvFotoElement foto(path);
@@ -260,23 +225,19 @@ void tst_MvFotoElement::painted()
 
 void tst_MvFotoElement::corrected_data()
 {
-    QTest::addColumn<int>("brightness");
-    QTest::addColumn<int>("contrast");
-    QTest::addColumn<int>("dark"); // what becomes of it: darker -1, lighter 1
-    QTest::addColumn<int>("light");
-    QTest::addColumn<bool>("keepsEnds"); // black and white
-    QTest::newRow("as it is") << 0 << 0 << 0 << 0 << true;
-    QTest::newRow("lighter") << 30 << 0 << 1 << 1 << true;
-    QTest::newRow("darker") << -50 << 0 << -1 << -1 << true;
-    QTest::newRow("harder") << 0 << 50 << -1 << 1 << true;
-    QTest::newRow("softer") << 0 << -20 << 1 << -1 << false;
+    // dark: what becomes of it: darker -1, lighter 1; keepsEnds: black and white
+    const MvRows<int, int, int, int, bool> row;
+    row("as it is", 0, 0, 0, 0, true);
+    row("lighter", 30, 0, 1, 1, true);
+    row("darker", -50, 0, -1, -1, true);
+    row("harder", 0, 50, -1, 1, true);
+    row("softer", 0, -20, 1, -1, false);
 }
 
 /// On print and askew, where pictures are drawn in another way.
 void tst_MvFotoElement::corrected()
 {
-    QFETCH(const int, brightness);
-    QFETCH(const int, contrast);
+    const auto [brightness, contrast, dark, light, keepsEnds] = MvRows<int, int, int, int, bool>::current();
     const QList<int> tones = {0, 70, 180, 255};
     const QString path = m_folder.filePath(u"stufen.png"_s);
     QImage steps(400, 400, QImage::Format_RGB32);
@@ -299,9 +260,9 @@ void tst_MvFotoElement::corrected()
         painter.end();
         const auto change = [&](int i) { return image.pixelColor(150 + 100 * i, 300).green() - tones[i]; };
         const auto sign = [](int number) { return int(number > 0) - int(number < 0); };
-        QTEST(sign(change(1)), "dark");
-        QTEST(sign(change(2)), "light");
-        QTEST(change(0) == 0 && change(3) == 0, "keepsEnds");
+        QCOMPARE(sign(change(1)), dark);
+        QCOMPARE(sign(change(2)), light);
+        QCOMPARE(change(0) == 0 && change(3) == 0, keepsEnds);
     }
 }
 

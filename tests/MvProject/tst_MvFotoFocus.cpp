@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvProject/MvFotoElement.h"
@@ -122,41 +123,39 @@ const QSize upright(800, 1200);
 
 void tst_MvFotoFocus::finds_data()
 {
-    QTest::addColumn<QImage>("image");
-    QTest::addColumn<QRectF>("area"); // in which the focus lies
+    const MvRows<QImage, QRectF> row; // image; area: in which the focus lies
     const QColor sand(214, 184, 144);
     const QColor wood(139, 96, 60);
-    QTest::newRow("nothing at all") << QImage() << QRectF(0.5, 0.5, 0.0, 0.0);
-    QTest::newRow("nothing to see") << scene(wide, {}) << QRectF(0.45, 0.4, 0.1, 0.2);
-    QTest::newRow("detail left") << scene(wide, {}, {0.05, 0.3, 0.2, 0.3}) << QRectF(0.05, 0.25, 0.3, 0.35);
-    QTest::newRow("detail below right") << scene(wide, {}, {0.7, 0.6, 0.2, 0.3}) << QRectF(0.6, 0.55, 0.35, 0.35);
-    QTest::newRow("a beach is no face") << scene(wide, {{{0.0, 0.6, 1.0, 0.4}, sand}}, {0.1, 0.2, 0.15, 0.2})
-                                        << QRectF(0.05, 0.15, 0.35, 0.4);
-    QTest::newRow("planks are no faces") << scene(wide, {{{0.6, 0.1, 0.1, 0.9}, wood}, {{0.8, 0.1, 0.1, 0.9}, wood}},
-                                                  {0.1, 0.3, 0.2, 0.25})
-                                         << QRectF(0.05, 0.2, 0.4, 0.4);
-    QTest::newRow("a tower keeps its top") << scene(upright, {{{0.45, 0.2, 0.1, 0.6}, QColor(230, 230, 230)},
-                                                              {{0.44, 0.2, 0.12, 0.06}, QColor(190, 30, 30)}})
-                                           << QRectF(0.3, 0.15, 0.4, 0.25);
+    row("nothing at all", QImage(), QRectF(0.5, 0.5, 0.0, 0.0));
+    row("nothing to see", scene(wide, {}), QRectF(0.45, 0.4, 0.1, 0.2));
+    row("detail left", scene(wide, {}, {0.05, 0.3, 0.2, 0.3}), QRectF(0.05, 0.25, 0.3, 0.35));
+    row("detail below right", scene(wide, {}, {0.7, 0.6, 0.2, 0.3}), QRectF(0.6, 0.55, 0.35, 0.35));
+    row("a beach is no face", scene(wide, {{{0.0, 0.6, 1.0, 0.4}, sand}}, {0.1, 0.2, 0.15, 0.2}),
+        QRectF(0.05, 0.15, 0.35, 0.4));
+    row("planks are no faces",
+        scene(wide, {{{0.6, 0.1, 0.1, 0.9}, wood}, {{0.8, 0.1, 0.1, 0.9}, wood}}, {0.1, 0.3, 0.2, 0.25}),
+        QRectF(0.05, 0.2, 0.4, 0.4));
+    row("a tower keeps its top",
+        scene(upright,
+              {{{0.45, 0.2, 0.1, 0.6}, QColor(230, 230, 230)}, {{0.44, 0.2, 0.12, 0.06}, QColor(190, 30, 30)}}),
+        QRectF(0.3, 0.15, 0.4, 0.25));
 }
 
 void tst_MvFotoFocus::finds()
 {
-    QFETCH(const QImage, image);
-    QFETCH(const QRectF, area);
+    const auto [image, area] = MvRows<QImage, QRectF>::current();
     const QPointF focus = MvFotoFocus::of(image);
     QVERIFY2(area.adjusted(-1e-6, -1e-6, 1e-6, 1e-6).contains(focus), qPrintable(QDebug::toString(focus)));
 }
 
 void tst_MvFotoFocus::keepsFaces_data()
 {
-    QTest::addColumn<QImage>("image");
-    QTest::addColumn<QList<QRectF>>("faces");
-    const auto row = [](const char *name, const QImage &ground, const QList<Person> &people) {
+    const MvRows<QImage, QList<QRectF>> add; // image, faces
+    const auto row = [&](const char *name, const QImage &ground, const QList<Person> &people) {
         QList<QRectF> faces;
         for (const Person &person : people)
             faces.append(person.face);
-        QTest::newRow(name) << portrait(ground, people) << faces;
+        add(name, portrait(ground, people), faces);
     };
     const QImage sky = ground(wide, QColor(110, 160, 215), QColor(170, 190, 150));
     const QImage tall = ground(upright, QColor(150, 170, 120), QColor(90, 120, 70));
@@ -185,8 +184,7 @@ void tst_MvFotoFocus::keepsFaces_data()
 /// In frames of seven shapes the faces are whole, with a tenth of their height above the hair; where they have room.
 void tst_MvFotoFocus::keepsFaces()
 {
-    QFETCH(const QImage, image);
-    QFETCH(const QList<QRectF>, faces);
+    const auto [image, faces] = MvRows<QImage, QList<QRectF>>::current();
     MvFotoElement foto(u"/foto.jpg"_qs);
     foto.setFocus(MvFotoFocus::of(image));
     QRectF all;

@@ -5,10 +5,10 @@
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPrintedFoto.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include <QPainter>
-#include <QTemporaryDir>
 
 #include <cmath>
 #include <limits>
@@ -27,7 +27,6 @@ class tst_MvFotoFrame : public MvTest
 private Q_SLOTS:
     void initTestCase();
     void clampsItsValues();
-    void crops();
     void sharesThePage_data();
     void sharesThePage();
     void missing();
@@ -56,37 +55,19 @@ void tst_MvFotoFrame::clampsItsValues()
     QCOMPARE(frame.share(), MvFotoFrame::defaultShare);
     frame.setShare(2.0);
     QCOMPARE(frame.share(), 0.75);
-    frame.setFocus({-3.0, std::numeric_limits<double>::infinity()});
-    QCOMPARE(frame.focus(), QPointF(0.0, 0.5));
-}
-
-void tst_MvFotoFrame::crops()
-{
-    using Case = std::tuple<QSizeF, QPointF, QRectF>; // what is seen of a photo of 300 x 200
-    for (const auto &[frame, focus, seen] : {Case({600, 400}, {0.1, 0.9}, {0, 0, 300, 200}), // same proportions
-                                             Case({50, 50}, {0.4, 0.5}, {20, 0, 200, 200}),
-                                             Case({50, 50}, {1.0, 0.5}, {100, 0, 200, 200}), // the edge stops it
-                                             Case({900, 300}, {0.5, 0.1}, {0, 0, 300, 100}), // panorama
-                                             Case({0, 50}, {0.5, 0.5}, {})}) {
-        MvFotoFrame foto(m_foto);
-        foto.setFocus(focus);
-        QCOMPARE(foto.crop({300, 200}, frame), seen);
-    }
 }
 
 void tst_MvFotoFrame::sharesThePage_data()
 {
-    QTest::addColumn<Placement>("placement");
-    QTest::addColumn<QRectF>("foto"); // on A5 landscape (2100 x 1480) with 3 mm bleed
-    QTest::newRow("top") << Placement::Top << QRectF(-30, -30, 2160, 30 + 740);
-    QTest::newRow("left") << Placement::Left << QRectF(-30, -30, 30 + 1050, 1540);
-    QTest::newRow("right") << Placement::Right << QRectF(1050, -30, 1050 + 30, 1540);
+    const MvRows<Placement, QRectF> row; // placement; foto: on A5 landscape (2100 x 1480) with 3 mm bleed
+    row("top", Placement::Top, QRectF(-30, -30, 2160, 30 + 740));
+    row("left", Placement::Left, QRectF(-30, -30, 30 + 1050, 1540));
+    row("right", Placement::Right, QRectF(1050, -30, 1050 + 30, 1540));
 }
 
 void tst_MvFotoFrame::sharesThePage()
 {
-    QFETCH(const Placement, placement);
-    QFETCH(const QRectF, foto);
+    const auto [placement, foto] = MvRows<Placement, QRectF>::current();
     MvCalendarDocument calendar = document(u"MONTH_GRID_COMPACT"_s, 1);
     MvFotoFrame frame(m_foto, placement);
     frame.setShare(0.5);
@@ -155,22 +136,17 @@ void tst_MvFotoFrame::missing()
 
 void tst_MvFotoFrame::resolution_data()
 {
-    QTest::addColumn<QString>("paper");
-    QTest::addColumn<double>("share");
-    QTest::addColumn<double>("expected"); // pixels per inch of a photo of 1600 x 1200 at the left
-    QTest::addColumn<bool>("isMarked");
+    // expected: pixels per inch of a photo of 1600 x 1200 at the left
+    const MvRows<QString, double, double, bool> row;
     // the frame with its bleed of 3 mm: heights 154, 216 and 303 mm; only a wide frame shows the photo's whole width
-    QTest::newRow("A5") << u"A5"_s << 0.5 << 1200 / 154.0 * 25.4 << false;
-    QTest::newRow("A4") << u"A4"_s << 0.5 << 1200 / 216.0 * 25.4 << true;
-    QTest::newRow("A3, cropped above and below") << u"A3"_s << 0.75 << 1200 / 303.0 * 25.4 << true;
+    row("A5", u"A5"_s, 0.5, 1200 / 154.0 * 25.4, false);
+    row("A4", u"A4"_s, 0.5, 1200 / 216.0 * 25.4, true);
+    row("A3, cropped above and below", u"A3"_s, 0.75, 1200 / 303.0 * 25.4, true);
 }
 
 void tst_MvFotoFrame::resolution()
 {
-    QFETCH(const QString, paper);
-    QFETCH(const double, share);
-    QFETCH(const double, expected);
-    QFETCH(const bool, isMarked);
+    const auto [paper, share, expected, isMarked] = MvRows<QString, double, double, bool>::current();
     const QString path = m_folder.filePath(u"gross.png"_s);
     QVERIFY(QFileInfo::exists(path) || QImage(1600, 1200, QImage::Format_RGB32).save(path));
     MvPageFormat format = MvPageFormat::fromName(paper);

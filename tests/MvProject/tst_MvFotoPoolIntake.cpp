@@ -6,10 +6,6 @@
 #include "MvProject/MvFotoRelocation.h"
 #include "MvProjectFixture.h"
 
-#include <QBuffer>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-
 #include <sys/stat.h>
 
 using Reason = MvFotoPoolIntake::Reason;

@@ -3,11 +3,10 @@
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvHtmlExporter.h"
 #include "MvProject/MvPageSource.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include <QDomDocument>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -64,21 +63,17 @@ QList<QDomElement> all(const QDomNode &parent, const QString &tag)
 
 void tst_MvHtmlExporter::everyDayOnce_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<int>("months");
-    QTest::addColumn<int>("pages");
-    QTest::newRow("grids") << u"MONTH_GRID_CLASSIC"_s << 12 << 12;
-    QTest::newRow("lists") << u"FAMILY_PLANNER"_s << 3 << 3;
-    QTest::newRow("strips") << u"ONE_ROW_STRIP"_s << 2 << 2;
-    QTest::newRow("month alone") << u"MONTH_ONLY"_s << 2 << 2;
-    QTest::newRow("a year") << u"YEAR_PLANNER"_s << 12 << 1;
+    const MvRows<QString, int, int> row; // layout, months, pages
+    row("grids", u"MONTH_GRID_CLASSIC"_s, 12, 12);
+    row("lists", u"FAMILY_PLANNER"_s, 3, 3);
+    row("strips", u"ONE_ROW_STRIP"_s, 2, 2);
+    row("month alone", u"MONTH_ONLY"_s, 2, 2);
+    row("a year", u"YEAR_PLANNER"_s, 12, 1);
 }
 
 void tst_MvHtmlExporter::everyDayOnce()
 {
-    QFETCH(const QString, layout);
-    QFETCH(const int, months);
-    QFETCH(const int, pages);
+    const auto [layout, months, pages] = MvRows<QString, int, int>::current();
     const MvCalendarDocument calendar = calendarOf(layout, u"de_DE"_s, u"BY"_s, months);
     const QByteArray html = MvHtmlExporter::document(calendar.pageSource());
     QCOMPARE(html, MvHtmlExporter::document(calendar.pageSource()));

@@ -3,10 +3,10 @@
 #include "MvPaint/MvPaintRecording.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include <QPainter>
-#include <QTemporaryDir>
 
 #include <cmath>
 
@@ -290,23 +290,19 @@ void tst_MvPageElements::swaps()
 
 void tst_MvPageElements::texts_data()
 {
-    QTest::addColumn<QString>("words");
-    QTest::addColumn<MvPageKind>("kind");
-    QTest::addColumn<QStringList>("printed");
+    const MvRows<QString, MvPageKind, QStringList> row; // words, kind, printed
     const auto free = MvPageKind::Free;
-    QTest::newRow("month and year") << u"{month} {year}"_s << free << QStringList{u"März 2027"_s};
-    QTest::newRow("years of a cover") << u"{year}"_s << MvPageKind::Cover << QStringList{u"2026/27"_s};
-    QTest::newRow("names") << u"{title} · {author}"_s << free << QStringList{u"Familie 2027 · Jürgen"_s};
-    QTest::newRow("captions") << u"{caption}\n{photos}"_s << free << QStringList{u"Oma"_s, u"Oma · Am See"_s};
-    QTest::newRow("what is no placeholder") << u"{Titel} {month"_s << free << QStringList{u"{Titel} {month"_s};
-    QTest::newRow("nothing to say") << u" \n "_s << free << QStringList();
+    row("month and year", u"{month} {year}"_s, free, QStringList{u"März 2027"_s});
+    row("years of a cover", u"{year}"_s, MvPageKind::Cover, QStringList{u"2026/27"_s});
+    row("names", u"{title} · {author}"_s, free, QStringList{u"Familie 2027 · Jürgen"_s});
+    row("captions", u"{caption}\n{photos}"_s, free, QStringList{u"Oma"_s, u"Oma · Am See"_s});
+    row("what is no placeholder", u"{Titel} {month"_s, free, QStringList{u"{Titel} {month"_s});
+    row("nothing to say", u" \n "_s, free, QStringList());
 }
 
 void tst_MvPageElements::texts()
 {
-    QFETCH(const QString, words);
-    QFETCH(const MvPageKind, kind);
-    QFETCH(const QStringList, printed);
+    const auto [words, kind, printed] = MvRows<QString, MvPageKind, QStringList>::current();
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
     calendar.setRange({{2026, 8, 1}, {2027, 7, 31}});
     calendar.setAuthor(u"Jürgen"_s);
@@ -403,26 +399,20 @@ void tst_MvPageElements::severalCalendaria()
 
 void tst_MvPageElements::veils_data()
 {
-    QTest::addColumn<QString>("colors");
-    QTest::addColumn<int>("dark"); // the photo's tones, in stripes
-    QTest::addColumn<int>("light");
-    QTest::addColumn<bool>("isSeen");
-    QTest::newRow("dark on a light sky") << u"PAPER_WHITE"_s << 235 << 255 << false;
-    QTest::newRow("dark on a wood") << u"PAPER_WHITE"_s << 10 << 60 << true;
-    QTest::newRow("dark on stripes") << u"PAPER_WHITE"_s << 0 << 255 << true;
-    QTest::newRow("light on the night") << u"NIGHT"_s << 0 << 12 << false;
-    QTest::newRow("light on snow") << u"NIGHT"_s << 240 << 255 << true;
-    QTest::newRow("light on grey") << u"NIGHT"_s << 120 << 130 << true;
-    QTest::newRow("white words of a white page, on a sky") << u""_s << 180 << 200 << true;
+    const MvRows<QString, int, int, bool> row; // colors; dark: the photo's tones, in stripes; light; isSeen
+    row("dark on a light sky", u"PAPER_WHITE"_s, 235, 255, false);
+    row("dark on a wood", u"PAPER_WHITE"_s, 10, 60, true);
+    row("dark on stripes", u"PAPER_WHITE"_s, 0, 255, true);
+    row("light on the night", u"NIGHT"_s, 0, 12, false);
+    row("light on snow", u"NIGHT"_s, 240, 255, true);
+    row("light on grey", u"NIGHT"_s, 120, 130, true);
+    row("white words of a white page, on a sky", u""_s, 180, 200, true);
 }
 
 /// Contrast by the definition of the web's rules, over again: 4.5 for all but what a letter covers itself.
 void tst_MvPageElements::veils()
 {
-    QFETCH(const QString, colors);
-    QFETCH(const int, dark);
-    QFETCH(const int, light);
-    QFETCH(const bool, isSeen);
+    const auto [colors, dark, light, isSeen] = MvRows<QString, int, int, bool>::current();
     QImage stripes(400, 400, QImage::Format_RGB32);
     for (int y = 0; y < 400; ++y)
         for (int x = 0; x < 400; ++x)

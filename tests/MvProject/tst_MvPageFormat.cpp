@@ -2,6 +2,7 @@
 #include "MvProject/MvFileNamePattern.h"
 #include "MvProject/MvPageFormat.h"
 #include "MvProject/MvPageSource.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 using namespace Qt::StringLiterals;
@@ -23,34 +24,30 @@ private Q_SLOTS:
 
 void tst_MvPageFormat::readsNames_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QSizeF>("size"); // invalid: the name is not understood
-    QTest::addColumn<QString>("magnitude");
-    QTest::newRow("A4") << u"A4"_s << QSizeF(2100, 2970) << u"a4"_s;
-    QTest::newRow("case and blanks do not matter") << u" a0 "_s << QSizeF(8410, 11890) << u"a0"_s;
-    QTest::newRow("smallest") << u"A6"_s << QSizeF(1050, 1480) << u"a6"_s;
-    QTest::newRow("millimetres stay as they are turned") << u"300x200"_s << QSizeF(3000, 2000) << u"a4"_s;
-    QTest::newRow("decimal comma and point") << u"148,5X210.5"_s << QSizeF(1485, 2105) << u"a5"_s;
-    QTest::newRow("multiplication sign") << u"300 × 300"_s << QSizeF(3000, 3000) << u"a3"_s;
-    QTest::newRow("centimetres") << u"13x18cm"_s << QSizeF(1300, 1800) << u"a5"_s;
-    QTest::newRow("own centimetres") << u"15,5 x 15 CM"_s << QSizeF(1550, 1500) << u"a5"_s;
-    QTest::newRow("letter") << u"LETTER"_s << QSizeF(2159, 2794) << u"a4"_s;
-    QTest::newRow("legal") << u"Legal"_s << QSizeF(2159, 3556) << u"a4"_s;
-    QTest::newRow("panorama") << u"Panorama"_s << QSizeF(1485, 4200) << u"a4"_s;
-    QTest::newRow("unknown class") << u"A7"_s << QSizeF() << QString();
-    QTest::newRow("a class of another row") << u"B4"_s << QSizeF() << QString();
-    QTest::newRow("no height") << u"300x"_s << QSizeF() << QString();
-    QTest::newRow("three sides") << u"300x200x100"_s << QSizeF() << QString();
-    QTest::newRow("nothing") << QString() << QSizeF() << QString();
-    QTest::newRow("too small") << u"10x200"_s << QSizeF() << QString();
-    QTest::newRow("too large") << u"300x3001"_s << QSizeF() << QString();
+    const MvRows<QString, QSizeF, QString> row; // name; size: invalid: the name is not understood; magnitude
+    row("A4", u"A4"_s, QSizeF(2100, 2970), u"a4"_s);
+    row("case and blanks do not matter", u" a0 "_s, QSizeF(8410, 11890), u"a0"_s);
+    row("smallest", u"A6"_s, QSizeF(1050, 1480), u"a6"_s);
+    row("millimetres stay as they are turned", u"300x200"_s, QSizeF(3000, 2000), u"a4"_s);
+    row("decimal comma and point", u"148,5X210.5"_s, QSizeF(1485, 2105), u"a5"_s);
+    row("multiplication sign", u"300 × 300"_s, QSizeF(3000, 3000), u"a3"_s);
+    row("centimetres", u"13x18cm"_s, QSizeF(1300, 1800), u"a5"_s);
+    row("own centimetres", u"15,5 x 15 CM"_s, QSizeF(1550, 1500), u"a5"_s);
+    row("letter", u"LETTER"_s, QSizeF(2159, 2794), u"a4"_s);
+    row("legal", u"Legal"_s, QSizeF(2159, 3556), u"a4"_s);
+    row("panorama", u"Panorama"_s, QSizeF(1485, 4200), u"a4"_s);
+    row("unknown class", u"A7"_s, QSizeF(), QString());
+    row("a class of another row", u"B4"_s, QSizeF(), QString());
+    row("no height", u"300x"_s, QSizeF(), QString());
+    row("three sides", u"300x200x100"_s, QSizeF(), QString());
+    row("nothing", QString(), QSizeF(), QString());
+    row("too small", u"10x200"_s, QSizeF(), QString());
+    row("too large", u"300x3001"_s, QSizeF(), QString());
 }
 
 void tst_MvPageFormat::readsNames()
 {
-    QFETCH(const QString, name);
-    QFETCH(const QSizeF, size);
-    QFETCH(const QString, magnitude);
+    const auto [name, size, magnitude] = MvRows<QString, QSizeF, QString>::current();
     const MvPageFormat format = MvPageFormat::fromName(name);
     QCOMPARE(format.isValid(), size.isValid());
     QCOMPARE(format.trimRect().isEmpty(), !size.isValid());
@@ -85,24 +82,22 @@ void tst_MvPageFormat::rectangles()
 
 void tst_MvPageFormat::shapes_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("upright");
-    QTest::addColumn<QString>("turned");
-    QTest::newRow("DIN") << u"A4"_s << u"portrait"_s << u"landscape"_s;
-    QTest::newRow("square") << u"square-300"_s << u"square"_s << u"square"_s;
-    QTest::newRow("nearly square") << u"200x230"_s << u"square"_s << u"square"_s;
-    QTest::newRow("letter") << u"letter"_s << u"portrait"_s << u"landscape"_s;
-    QTest::newRow("panorama") << u"panorama"_s << u"narrow"_s << u"panorama"_s;
-    QTest::newRow("two to one") << u"100x200"_s << u"narrow"_s << u"panorama"_s;
+    const MvRows<QString, QString, QString> row; // name, upright, turned
+    row("DIN", u"A4"_s, u"portrait"_s, u"landscape"_s);
+    row("square", u"square-300"_s, u"square"_s, u"square"_s);
+    row("nearly square", u"200x230"_s, u"square"_s, u"square"_s);
+    row("letter", u"letter"_s, u"portrait"_s, u"landscape"_s);
+    row("panorama", u"panorama"_s, u"narrow"_s, u"panorama"_s);
+    row("two to one", u"100x200"_s, u"narrow"_s, u"panorama"_s);
 }
 
 void tst_MvPageFormat::shapes()
 {
-    QFETCH(const QString, name);
+    const auto [name, upright, turned] = MvRows<QString, QString, QString>::current();
     MvPageFormat format = MvPageFormat::fromName(name);
-    QTEST(MvPageFormat::shapeName(format.shape()), "upright");
+    QCOMPARE(MvPageFormat::shapeName(format.shape()), upright);
     format.setOrientation(MvPageFormat::Orientation::Landscape);
-    QTEST(MvPageFormat::shapeName(format.shape()), "turned");
+    QCOMPARE(MvPageFormat::shapeName(format.shape()), turned);
 }
 
 /// Field, safe part and content rectangle leave out what the binding takes, on papers of every size.
@@ -134,26 +129,22 @@ void tst_MvPageFormat::binding()
 
 void tst_MvPageFormat::namesFiles_data()
 {
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<int>("months");
-    QTest::addColumn<QString>("last"); // empty: refused
-    QTest::newRow("month") << u"out/seite-%m.png"_s << 12 << u"out/seite-07.png"_s;
-    QTest::newRow("year and month") << u"%y-%m.png"_s << 13 << u"2027-08.png"_s;
-    QTest::newRow("page number") << u"%n.png"_s << 120 << u"120.png"_s;
-    QTest::newRow("one page needs none") << u"blatt.png"_s << 1 << u"blatt.png"_s;
-    QTest::newRow("percent sign") << u"100%%-%n.png"_s << 2 << u"100%-02.png"_s;
-    QTest::newRow("the folder's name is left alone") << u"50%m/%n.png"_s << 2 << u"50%m/02.png"_s;
-    QTest::newRow("none for several pages") << u"seite.png"_s << 12 << QString();
-    QTest::newRow("months come back") << u"seite-%m.png"_s << 13 << QString();
-    QTest::newRow("unknown placeholder") << u"%n-%d.png"_s << 2 << QString();
-    QTest::newRow("lone percent sign") << u"%n.%"_s << 2 << QString();
+    const MvRows<QString, int, QString> row; // pattern; months; last: empty: refused
+    row("month", u"out/seite-%m.png"_s, 12, u"out/seite-07.png"_s);
+    row("year and month", u"%y-%m.png"_s, 13, u"2027-08.png"_s);
+    row("page number", u"%n.png"_s, 120, u"120.png"_s);
+    row("one page needs none", u"blatt.png"_s, 1, u"blatt.png"_s);
+    row("percent sign", u"100%%-%n.png"_s, 2, u"100%-02.png"_s);
+    row("the folder's name is left alone", u"50%m/%n.png"_s, 2, u"50%m/02.png"_s);
+    row("none for several pages", u"seite.png"_s, 12, QString());
+    row("months come back", u"seite-%m.png"_s, 13, QString());
+    row("unknown placeholder", u"%n-%d.png"_s, 2, QString());
+    row("lone percent sign", u"%n.%"_s, 2, QString());
 }
 
 void tst_MvPageFormat::namesFiles()
 {
-    QFETCH(const QString, pattern);
-    QFETCH(const int, months);
-    QFETCH(const QString, last);
+    const auto [pattern, months, last] = MvRows<QString, int, QString>::current();
     MvPageSource source;
     for (int month = 0; month < months; ++month)
         source.pages.append(QDate(2026, 8, 1).addMonths(month));

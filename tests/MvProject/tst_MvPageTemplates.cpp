@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarCellColorKey.h"
@@ -8,11 +9,8 @@
 #include "MvProject/MvThemeApplication.h"
 #include "MvProject/MvThemeRegistry.h"
 
-#include <QFile>
 #include <QFontDatabase>
 #include <QImage>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
@@ -115,16 +113,16 @@ private Q_SLOTS:
 
 void tst_MvPageTemplates::divides_data()
 {
-    QTest::addColumn<QString>("id");
+    const MvRows<QString> row; // id
     const QList<MvPageTemplate> all = MvPageTemplateRegistry::instance().templates();
     QVERIFY(all.size() >= 24);
     for (const MvPageTemplate &one : all)
-        QTest::newRow(qPrintable(one.id())) << one.id();
+        row(one.id(), one.id());
 }
 
 void tst_MvPageTemplates::divides()
 {
-    QFETCH(const QString, id);
+    const auto [id] = MvRows<QString>::current();
     const MvPageTemplate shown = MvPageTemplateRegistry::instance().findTemplate(id);
     QStringList names;
     for (const MvPageFormat &format : formats()) {
@@ -171,20 +169,18 @@ void tst_MvPageTemplates::turnsIntoStrips()
 
 void tst_MvPageTemplates::veilsReachTheEdges_data()
 {
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<Qt::Edges>("edges");
+    const MvRows<QString, Qt::Edges> row; // id, edges
     const Qt::Edges foot = Qt::LeftEdge | Qt::RightEdge | Qt::BottomEdge;
-    QTest::newRow("a strip is a band") << u"MONTH_FULL_STRIP"_s << foot;
-    QTest::newRow("a list is a column") << u"MONTH_FULL_LIST"_s << (Qt::TopEdge | Qt::RightEdge | Qt::BottomEdge);
-    QTest::newRow("a month in a corner is its block") << u"MONTH_FULL_CORNER"_s << (Qt::RightEdge | Qt::BottomEdge);
-    QTest::newRow("a caption fades out upwards") << u"FREE_PHOTO"_s << foot;
+    row("a strip is a band", u"MONTH_FULL_STRIP"_s, foot);
+    row("a list is a column", u"MONTH_FULL_LIST"_s, (Qt::TopEdge | Qt::RightEdge | Qt::BottomEdge));
+    row("a month in a corner is its block", u"MONTH_FULL_CORNER"_s, (Qt::RightEdge | Qt::BottomEdge));
+    row("a caption fades out upwards", u"FREE_PHOTO"_s, foot);
 }
 
 /// One veil for all that stands together on a photo, without a sliver of photo between it and the trim.
 void tst_MvPageTemplates::veilsReachTheEdges()
 {
-    QFETCH(const QString, id);
-    QFETCH(const Qt::Edges, edges);
+    const auto [id, edges] = MvRows<QString, Qt::Edges>::current();
     const QTemporaryDir folder;
     QImage grey(300, 200, QImage::Format_RGB32);
     grey.fill(QColor(120, 120, 120));
@@ -215,16 +211,16 @@ void tst_MvPageTemplates::veilsReachTheEdges()
 
 void tst_MvPageTemplates::themes_data()
 {
-    QTest::addColumn<QString>("id");
+    const MvRows<QString> row; // id
     QVERIFY(MvThemeRegistry::instance().themes().size() >= 12);
     for (const QString &id : MvThemeRegistry::instance().ids())
-        QTest::newRow(qPrintable(id)) << id;
+        row(id, id);
 }
 
 /// What a theme names is there, every text can be read on what it stands on, captions are smaller than weekdays.
 void tst_MvPageTemplates::themes()
 {
-    QFETCH(const QString, id);
+    const auto [id] = MvRows<QString>::current();
     const MvCalendarTheme theme = MvThemeRegistry::instance().findTheme(id);
     for (const QString &family : theme.fontFamilies())
         QVERIFY2(QFontDatabase::families().contains(family), qPrintable(family));
@@ -287,45 +283,36 @@ void tst_MvPageTemplates::themesKeepPhotos()
 
 void tst_MvPageTemplates::ownFiles_data()
 {
-    QTest::addColumn<QString>("folder");
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("message"); // empty: it is taken
+    const MvRows<QString, QByteArray, QString> row; // folder; content; message: empty: it is taken
     const auto page = [](const char *inside) {
         return QByteArray("<t>\n<template id=\"MINE\" kind=\"month\" name=\"Meine\">\n") + inside + "</template></t>";
     };
     const QString templates = u"templates"_s;
-    QTest::newRow("right") << templates << page("<division><photo slot='a' rows='1-9'/></division>") << QString();
-    QTest::newRow("beyond the rows") << templates << page("<division><photo slot='a' rows='1-25'/></division>")
-                                     << u"own.xml:3.*MINE.*1-25"_s;
-    QTest::newRow("two of a name") << templates << page("<division><photo slot='a'/><text slot='a'/></division>")
-                                   << u"MINE.*slot"_s;
-    QTest::newRow("a shape is missing")
-        << templates << page("<division shapes='landscape square panorama narrow'><photo slot='a'/></division>")
-        << u"MINE.*portrait"_s;
-    QTest::newRow("other slots in another shape")
-        << templates
-        << page("<division shapes='square'><photo slot='b'/></division><division><photo slot='a'/></division>")
-        << u"MINE.*square"_s;
-    QTest::newRow("a word that nothing knows")
-        << templates << page("<division><photo slot='a' bleeds='top'/></division>") << u"MINE.*bleeds"_s;
-    QTest::newRow("an id that is shipped")
-        << templates
-        << QByteArray("<t><template id='MONTH_ABOVE' kind='month' name='X'><division><photo slot='a'/></division>"
-                      "</template></t>")
-        << u"MONTH_ABOVE"_s;
-    QTest::newRow("a theme without its layout")
-        << u"themes"_s
-        << QByteArray("<t><theme id='MINE' name='X'><layouts grid='NOWHERE'/><colors schema='NIGHT'/>"
-                      "<pages month='MONTH_ABOVE'/></theme></t>")
-        << u"MINE.*NOWHERE"_s;
+    row("right", templates, page("<division><photo slot='a' rows='1-9'/></division>"), QString());
+    row("beyond the rows", templates, page("<division><photo slot='a' rows='1-25'/></division>"),
+        u"own.xml:3.*MINE.*1-25"_s);
+    row("two of a name", templates, page("<division><photo slot='a'/><text slot='a'/></division>"), u"MINE.*slot"_s);
+    row("a shape is missing", templates,
+        page("<division shapes='landscape square panorama narrow'><photo slot='a'/></division>"), u"MINE.*portrait"_s);
+    row("other slots in another shape", templates,
+        page("<division shapes='square'><photo slot='b'/></division><division><photo slot='a'/></division>"),
+        u"MINE.*square"_s);
+    row("a word that nothing knows", templates, page("<division><photo slot='a' bleeds='top'/></division>"),
+        u"MINE.*bleeds"_s);
+    row("an id that is shipped", templates,
+        QByteArray("<t><template id='MONTH_ABOVE' kind='month' name='X'><division><photo slot='a'/></division>"
+                   "</template></t>"),
+        u"MONTH_ABOVE"_s);
+    row("a theme without its layout", u"themes"_s,
+        QByteArray("<t><theme id='MINE' name='X'><layouts grid='NOWHERE'/><colors schema='NIGHT'/>"
+                   "<pages month='MONTH_ABOVE'/></theme></t>"),
+        u"MINE.*NOWHERE"_s);
 }
 
 /// Mistakes are told with file and id, and never take a shipped template away.
 void tst_MvPageTemplates::ownFiles()
 {
-    QFETCH(const QString, folder);
-    QFETCH(const QByteArray, content);
-    QFETCH(const QString, message);
+    const auto [folder, content, message] = MvRows<QString, QByteArray, QString>::current();
     const QDir own = MvDirectoryConfig::instance().programDataSubDir(folder);
     QFile file(own.filePath(u"own.xml"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));

@@ -4,6 +4,7 @@
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPictureExporter.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -11,7 +12,6 @@
 
 #include <QPainter>
 #include <QPainterPath>
-#include <QTemporaryDir>
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
@@ -161,8 +161,7 @@ QString tst_MvPdfExporter::difference(const MvPageSource &pages, int tolerance) 
 
 void tst_MvPdfExporter::paintsWhatIsPainted_data()
 {
-    QTest::addColumn<Painting>("painting");
-    const auto row = [](const char *name, const Painting &painting) { QTest::newRow(name) << painting; };
+    const MvRows<Painting> row; // painting
     row("pens", [](QPainter &painter) {
         int y = 80;
         for (const Qt::PenCapStyle cap : {Qt::FlatCap, Qt::SquareCap, Qt::RoundCap}) {
@@ -302,7 +301,7 @@ void tst_MvPdfExporter::paintsWhatIsPainted_data()
 
 void tst_MvPdfExporter::paintsWhatIsPainted()
 {
-    QFETCH(const Painting, painting);
+    const auto [painting] = MvRows<Painting>::current();
     QCOMPARE(difference(pages(painting), 24), QString());
 }
 
@@ -386,9 +385,7 @@ void tst_MvPdfExporter::photosPassThrough()
 {
     QImage picture = photo({300, 200});
     QVERIFY(picture.save(path(u"plain.jpg"_s), "jpg", 80));
-    QFile plain(path(u"plain.jpg"_s));
-    QVERIFY(plain.open(QIODevice::ReadOnly));
-    const QByteArray stored = plain.readAll();
+    const QByteArray stored = MvTestFiles::contentOf(path(u"plain.jpg"_s));
     const QByteArray notes("\xff\xe1\x00\x16"
                            "Exif\0\0"
                            "home 48.1 11.5",

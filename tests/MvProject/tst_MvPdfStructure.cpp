@@ -7,15 +7,13 @@
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvSheetSettings.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventListSource.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 
 #include <QPainter>
-#include <QProcess>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFNumberTreeObjectHelper.hh>
@@ -274,15 +272,15 @@ QString tst_MvPdfStructure::january(const QString &layout) const
 
 void tst_MvPdfStructure::everythingIsRead_data()
 {
-    QTest::addColumn<QString>("layout");
+    const MvRows<QString> row; // layout
     for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata())
-        QTest::newRow(qPrintable(layout.ID().toString())) << layout.ID().toString();
+        row(layout.ID().toString(), layout.ID().toString());
 }
 
 /// Whatever the layout: all that is painted is read or is decoration, in tables whose rows are alike, beneath headings.
 void tst_MvPdfStructure::everythingIsRead()
 {
-    QFETCH(const QString, layout);
+    const auto [layout] = MvRows<QString>::current();
     const Structure structure(january(layout));
     QCOMPARE(structure.problems.join(u'\n'), QString());
     QCOMPARE(structure.types.first(2), (QStringList{u"Document"_s, u"Sect"_s}));
@@ -291,27 +289,24 @@ void tst_MvPdfStructure::everythingIsRead()
 
 void tst_MvPdfStructure::daysAreReadInOrder_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QString>("pattern");
+    const MvRows<QString, QString> row; // layout, pattern
     const QString heading = u"Sect Januar 2027 H1 Januar 2027 .*"_s;
-    QTest::newRow("grid") << u"MONTH_GRID_CLASSIC"_s
-                          << heading + u"Table .*TR TH 53( TD){5} 1 P Neujahr.* TD 2 TD 3 TR TH 1 TD 4 .* TD 31$"_s;
-    QTest::newRow("list") << u"DAY_LIST"_s
-                          << u"TR TH 1 Fr\\w* TD P Neujahr.* TR TH 2 .* TR TH 7 Do\\w* TD P Do TR TH 8 .*TH 31 So"_s;
-    QTest::newRow("strip") << u"ONE_ROW_STRIP"_s
-                           << heading + u"Table .*TR TH Fr 1 TD .*TR TH Sa 2 TD .*TR TH Do 7 TD .*TR TH So 31 TD"_s;
-    QTest::newRow("columns of weeks") << u"WEEK_COLUMNS_COMPACT"_s
-                                      << u"TR TD( TH \\w+){7} TR TH 53( TD){5} 01 TD 02 TD 03 TR TH 1 TD 04"_s;
-    QTest::newRow("a year")
-        << u"YEAR_GRID"_s << u"H1 2027 .*Caption Januar TR .* TD 31 .*Caption Februar TR .*Caption Dezember .* TD 31"_s;
-    QTest::newRow("no days") << u"MONTH_LINE"_s << u"H1 Januar 2027 Figure$"_s;
+    row("grid", u"MONTH_GRID_CLASSIC"_s,
+        heading + u"Table .*TR TH 53( TD){5} 1 P Neujahr.* TD 2 TD 3 TR TH 1 TD 4 .* TD 31$"_s);
+    row("list", u"DAY_LIST"_s, u"TR TH 1 Fr\\w* TD P Neujahr.* TR TH 2 .* TR TH 7 Do\\w* TD P Do TR TH 8 .*TH 31 So"_s);
+    row("strip", u"ONE_ROW_STRIP"_s,
+        heading + u"Table .*TR TH Fr 1 TD .*TR TH Sa 2 TD .*TR TH Do 7 TD .*TR TH So 31 TD"_s);
+    row("columns of weeks", u"WEEK_COLUMNS_COMPACT"_s,
+        u"TR TD( TH \\w+){7} TR TH 53( TD){5} 01 TD 02 TD 03 TR TH 1 TD 04"_s);
+    row("a year", u"YEAR_GRID"_s,
+        u"H1 2027 .*Caption Januar TR .* TD 31 .*Caption Februar TR .*Caption Dezember .* TD 31"_s);
+    row("no days", u"MONTH_LINE"_s, u"H1 Januar 2027 Figure$"_s);
 }
 
 /// As a reader of tags tells them, without attributes and quotation marks.
 void tst_MvPdfStructure::daysAreReadInOrder()
 {
-    QFETCH(const QString, layout);
-    QFETCH(const QString, pattern);
+    const auto [layout, pattern] = MvRows<QString, QString>::current();
     QStringList words;
     for (QString line : outputOf(u"pdfinfo"_s, {u"-struct-text"_s, january(layout)}).split(u'\n')) {
         line = line.remove(u" (block)"_s).remove(u'"').simplified();
@@ -390,41 +385,36 @@ void tst_MvPdfStructure::picturesAreDescribed()
 
 void tst_MvPdfStructure::promisesWhatItKeeps_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<bool>("isForEverybody");
-    QTest::newRow("letters, ligatures") << u"Größe der Schifffahrt"_s << u"Kalender"_s << true;
-    QTest::newRow("no title") << u"Größe"_s << QString() << false;
+    const MvRows<QString, QString, bool> row; // text, title, isForEverybody
+    row("letters, ligatures", u"Größe der Schifffahrt"_s, u"Kalender"_s, true);
+    row("no title", u"Größe"_s, QString(), false);
 }
 
 /// The name of the standard stands in a file that holds it.
 void tst_MvPdfStructure::promisesWhatItKeeps()
 {
-    QFETCH(const QString, text);
-    QFETCH(const QString, title);
-    MvPageSource source = page([&text](QPainter &painter) { paintLine(painter, 200, text); });
+    const auto [text, title, isForEverybody] = MvRows<QString, QString, bool>::current();
+    MvPageSource source = page([text = text](QPainter &painter) { paintLine(painter, 200, text); });
     source.title = title;
     const QString metadata = outputOf(u"pdfinfo"_s, {u"-meta"_s, write(source)});
     QVERIFY(metadata.contains(u"dc:title"_s));
-    QTEST(metadata.contains(u"pdfua/ns/id/\">1<"_s), "isForEverybody");
+    QCOMPARE(metadata.contains(u"pdfua/ns/id/\">1<"_s), isForEverybody);
 }
 
 void tst_MvPdfStructure::sheetsAreRead_data()
 {
     using Sheets = MvSheetSettings;
-    QTest::addColumn<MvSheetSettings>("sheets");
-    QTest::addColumn<QList<int>>("months");
+    const MvRows<MvSheetSettings, QList<int>> row; // sheets, months
     const QSizeF a4(2100, 2970);
-    QTest::newRow("tiles") << Sheets{Sheets::Kind::Tiles, {1050, 1480}} << QList<int>{1, 2, 3, 4};
-    QTest::newRow("two on a sheet") << Sheets{Sheets::Kind::Several, a4} << QList<int>{1, 2, 3, 4};
-    QTest::newRow("stacks") << Sheets{Sheets::Kind::Several, a4, 50, 0, 2, true} << QList<int>{1, 3, 2, 4};
+    row("tiles", Sheets{Sheets::Kind::Tiles, {1050, 1480}}, QList<int>{1, 2, 3, 4});
+    row("two on a sheet", Sheets{Sheets::Kind::Several, a4}, QList<int>{1, 2, 3, 4});
+    row("stacks", Sheets{Sheets::Kind::Several, a4, 50, 0, 2, true}, QList<int>{1, 3, 2, 4});
 }
 
 /// Each page once, in the order of the sheets, as it would be read by itself.
 void tst_MvPdfStructure::sheetsAreRead()
 {
-    QFETCH(const MvSheetSettings, sheets);
-    QFETCH(const QList<int>, months);
+    const auto [sheets, months] = MvRows<MvSheetSettings, QList<int>>::current();
     MvProjectFixture::writeFoto(path(u"foto.png"_s), {300, 200});
     MvCalendarDocument calendar = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 4);
     calendar.setTitle(u"Kalender"_s);

@@ -2,13 +2,12 @@
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include <QColorSpace>
 #include <QPainter>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 #include <qpdf/Buffer.hh>
 #include <qpdf/QPDF.hh>
@@ -132,21 +131,20 @@ QList<QImage> tst_MvPress::separated(const QString &file) const
 
 void tst_MvPress::profiles_data()
 {
-    QTest::addColumn<QString>("file"); // a name, or one of the files below
-    QTest::addColumn<QString>("said"); // its printing condition, or a part of what is wrong
-    QTest::newRow("by name") << u"FOGRA39"_s << u"FOGRA39"_s;
-    QTest::newRow("uncoated") << u"fogra29"_s << u"FOGRA29"_s;
-    QTest::newRow("American") << u"gracol"_s << u"CGATS TR 006"_s;
-    QTest::newRow("of a screen") << u"screen.icc"_s << u"RGB"_s;
-    QTest::newRow("cut off") << u"cut.icc"_s << u"cut.icc"_s;
-    QTest::newRow("no profile") << u"text.icc"_s << u"text.icc"_s;
-    QTest::newRow("unknown") << u"fogra93"_s << u"fogra93"_s;
+    // file: a name, or one of the files below; said: its printing condition, or a part of what is wrong
+    const MvRows<QString, QString> row;
+    row("by name", u"FOGRA39"_s, u"FOGRA39"_s);
+    row("uncoated", u"fogra29"_s, u"FOGRA29"_s);
+    row("American", u"gracol"_s, u"CGATS TR 006"_s);
+    row("of a screen", u"screen.icc"_s, u"RGB"_s);
+    row("cut off", u"cut.icc"_s, u"cut.icc"_s);
+    row("no profile", u"text.icc"_s, u"text.icc"_s);
+    row("unknown", u"fogra93"_s, u"fogra93"_s);
 }
 
 void tst_MvPress::profiles()
 {
-    QFETCH(const QString, file);
-    QFETCH(const QString, said);
+    const auto [file, said] = MvRows<QString, QString>::current();
     const QByteArray press = settings(false).profile.content();
     const std::array contents{std::pair{u"screen.icc"_s, QColorSpace(QColorSpace::SRgb).iccProfile()},
                               std::pair{u"cut.icc"_s, press.first(press.size() / 2)},
@@ -167,24 +165,24 @@ void tst_MvPress::profiles()
 
 void tst_MvPress::knownInks_data()
 {
-    QTest::addColumn<QColor>("color"); // what was measured of prints on coated paper (FOGRA39), as if paper was white
-    QTest::addColumn<QList<int>>("inks");
-    QTest::newRow("cyan") << QColor(0xa3, 0xda, 0xf8) << QList<int>{40, 0, 0, 0};
-    QTest::newRow("magenta") << QColor(0xf5, 0xb6, 0xd3) << QList<int>{0, 40, 0, 0};
-    QTest::newRow("green") << QColor(0xa9, 0xd4, 0xb0) << QList<int>{40, 0, 40, 0};
-    QTest::newRow("violet") << QColor(0xd1, 0xaa, 0xd0) << QList<int>{20, 40, 0, 0};
-    QTest::newRow("orange") << QColor(0xf6, 0xb0, 0x97) << QList<int>{0, 40, 40, 0};
-    QTest::newRow("gray") << QColor(0xb4, 0xb3, 0xb3) << QList<int>{0, 0, 0, 40};
-    QTest::newRow("black") << QColor(Qt::black) << QList<int>{0, 0, 0, 100};
-    QTest::newRow("white") << QColor(Qt::white) << QList<int>{0, 0, 0, 0};
+    // color: what was measured of prints on coated paper (FOGRA39), as if paper was white
+    const MvRows<QColor, QList<int>> row;
+    row("cyan", QColor(0xa3, 0xda, 0xf8), QList<int>{40, 0, 0, 0});
+    row("magenta", QColor(0xf5, 0xb6, 0xd3), QList<int>{0, 40, 0, 0});
+    row("green", QColor(0xa9, 0xd4, 0xb0), QList<int>{40, 0, 40, 0});
+    row("violet", QColor(0xd1, 0xaa, 0xd0), QList<int>{20, 40, 0, 0});
+    row("orange", QColor(0xf6, 0xb0, 0x97), QList<int>{0, 40, 40, 0});
+    row("gray", QColor(0xb4, 0xb3, 0xb3), QList<int>{0, 0, 0, 40});
+    row("black", QColor(Qt::black), QList<int>{0, 0, 0, 100});
+    row("white", QColor(Qt::white), QList<int>{0, 0, 0, 0});
 }
 
 void tst_MvPress::knownInks()
 {
-    QFETCH(const QColor, color);
-    QFETCH(const QList<int>, inks);
+    const auto [color, inks] = MvRows<QColor, QList<int>>::current();
     constexpr int tolerance = 8; // percent
-    const QList<QImage> plates = separated(pdf([&](QPainter &painter) { painter.fillRect(page, color); }, false));
+    const QList<QImage> plates =
+        separated(pdf([&, color = color](QPainter &painter) { painter.fillRect(page, color); }, false));
     for (int ink = 0; ink < 4; ++ink) {
         QVERIFY(!plates[ink].isNull());
         const double found = 100.0 - qGray(plates[ink].pixel(500, 400)) / 2.55;
@@ -247,21 +245,16 @@ void tst_MvPress::marks()
 
 void tst_MvPress::boxes_data()
 {
-    QTest::addColumn<double>("ownBleed"); // tenths of a millimetre
-    QTest::addColumn<bool>("hasMarks");
-    QTest::addColumn<double>("bleed"); // mm from the sheet's corner
-    QTest::addColumn<double>("trim");
-    QTest::newRow("no bleed of its own") << 0.0 << false << 0.0 << 3.0;
-    QTest::newRow("a wide bleed") << 50.0 << false << 0.0 << 5.0;
-    QTest::newRow("marks") << 30.0 << true << 7.0 << 10.0;
+    // ownBleed: tenths of a millimetre; bleed: mm from the sheet's corner
+    const MvRows<double, bool, double, double> row;
+    row("no bleed of its own", 0.0, false, 0.0, 3.0);
+    row("a wide bleed", 50.0, false, 0.0, 5.0);
+    row("marks", 30.0, true, 7.0, 10.0);
 }
 
 void tst_MvPress::boxes()
 {
-    QFETCH(const double, ownBleed);
-    QFETCH(const bool, hasMarks);
-    QFETCH(const double, bleed);
-    QFETCH(const double, trim);
+    const auto [ownBleed, hasMarks, bleed, trim] = MvRows<double, bool, double, double>::current();
     const QString file = pdf(
         [](QPainter &painter) {
             painter.setOpacity(0.5);
@@ -307,18 +300,16 @@ void tst_MvPress::boxes()
 
 void tst_MvPress::bleedGoesOn_data()
 {
-    QTest::addColumn<MvPressSettings::Bleed>("kind");
-    QTest::addColumn<double>("ownBleed"); // of a page whose photo ends at the trim
-    QTest::newRow("mirrored") << MvPressSettings::Bleed::Mirrored << 0.0;
-    QTest::newRow("stretched") << MvPressSettings::Bleed::Stretched << 0.0;
-    QTest::newRow("mirrored beside a photo") << MvPressSettings::Bleed::Mirrored << 30.0;
+    const MvRows<MvPressSettings::Bleed, double> row; // kind; ownBleed: of a page whose photo ends at the trim
+    row("mirrored", MvPressSettings::Bleed::Mirrored, 0.0);
+    row("stretched", MvPressSettings::Bleed::Stretched, 0.0);
+    row("mirrored beside a photo", MvPressSettings::Bleed::Mirrored, 30.0);
 }
 
 /// Beyond the edge comes what lies before it, turned round or drawn out; but nothing that is read.
 void tst_MvPress::bleedGoesOn()
 {
-    QFETCH(const MvPressSettings::Bleed, kind);
-    QFETCH(const double, ownBleed);
+    const auto [kind, ownBleed] = MvRows<MvPressSettings::Bleed, double>::current();
     MvPressSettings press = settings(false);
     press.bleedKind = kind;
     const QString file = pdf(
@@ -391,12 +382,10 @@ void tst_MvPress::sameBytes()
     qputenv("SOURCE_DATE_EPOCH", "1700000000");
     QList<QByteArray> files;
     for (int time = 0; time < 2; ++time) {
-        QFile file(pdf([](QPainter &painter) { painter.drawImage(page, photo()); }, true));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        files.append(file.readAll());
+        files.append(MvTestFiles::contentOf(pdf([](QPainter &painter) { painter.drawImage(page, photo()); }, true)));
     }
     qunsetenv("SOURCE_DATE_EPOCH");
-    QVERIFY(files[0] == files[1]);
+    QVERIFY(!files[0].isEmpty() && files[0] == files[1]);
 }
 
 MV_TEST_MAIN(tst_MvPress)

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvProject/MvPrintCheck.h"
 #include "MvProjectFixture.h"
-
-#include <QTemporaryDir>
 
 using Kind = MvPrintFinding::Kind;
 using Severity = MvPrintFinding::Severity;
@@ -24,13 +23,9 @@ private:
 
 void tst_MvPrintCheck::finds_data()
 {
-    QTest::addColumn<MvPageElement>("element");
-    QTest::addColumn<QString>("kind"); // empty: prints well
-    QTest::addColumn<int>("severity");
-    const auto row = [](const char *name, const MvPageElement &element, const QString &kind,
-                        Severity severity = Severity::Hint) {
-        QTest::newRow(name) << element << kind << int(severity);
-    };
+    const MvRows<MvPageElement, QString, int> add; // element; kind: empty: prints well; severity
+    const auto row = [&](const char *name, const MvPageElement &element, const QString &kind,
+                         Severity severity = Severity::Hint) { add(name, element, kind, int(severity)); };
     const QString path = m_dir.filePath(u"600x400.png"_qs);
     QVERIFY(MvProjectFixture::writeFoto(path, {600, 400}));
     QFile broken(m_dir.filePath(u"broken.jpg"_qs));
@@ -62,8 +57,7 @@ void tst_MvPrintCheck::finds_data()
 
 void tst_MvPrintCheck::finds()
 {
-    QFETCH(MvPageElement, element);
-    QFETCH(QString, kind);
+    const auto [element, kind, severity] = MvRows<MvPageElement, QString, int>::current();
     MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_qs, 2);
     MvPageFormat format = document.format();
     format.setBinding(MvPageFormat::Binding::Top);
@@ -78,7 +72,7 @@ void tst_MvPrintCheck::finds()
     }
     QCOMPARE(found.size(), 1);
     QCOMPARE(found[0].kindName(), kind);
-    QTEST(int(found[0].severity), "severity");
+    QCOMPARE(int(found[0].severity), severity);
     QCOMPARE(found[0].page, 1);
     QCOMPARE(found[0].element, 1);
     QVERIFY2(found[0].toString().startsWith(u"Februar 2027: "_qs), qPrintable(found[0].toString()));

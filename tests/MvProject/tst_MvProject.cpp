@@ -5,10 +5,8 @@
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
 #include "MvProject/MvProject.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace MvProjectFixture;
@@ -145,20 +143,16 @@ void tst_MvProject::tellsWhatChanged()
 
 void tst_MvProject::mergesSteps_data()
 {
-    QTest::addColumn<QList<std::pair<int, int>>>("changes"); // page and merge id
-    QTest::addColumn<int>("steps");
-    using Changes = QList<std::pair<int, int>>;
-    QTest::newRow("typing") << Changes{{0, 7}, {0, 7}, {0, 7}} << 1;
-    QTest::newRow("without an id") << Changes{{0, -1}, {0, -1}} << 2;
-    QTest::newRow("another field") << Changes{{0, 7}, {0, 8}, {0, 7}} << 3;
-    QTest::newRow("another page") << Changes{{0, 7}, {1, 7}} << 2;
+    const MvRows<QList<std::pair<int, int>>, int> row; // changes: page and merge id; steps
+    row("typing", {{0, 7}, {0, 7}, {0, 7}}, 1);
+    row("without an id", {{0, -1}, {0, -1}}, 2);
+    row("another field", {{0, 7}, {0, 8}, {0, 7}}, 3);
+    row("another page", {{0, 7}, {1, 7}}, 2);
 }
 
 void tst_MvProject::mergesSteps()
 {
-    using Changes = QList<std::pair<int, int>>;
-    QFETCH(const Changes, changes);
-    QFETCH(const int, steps);
+    const auto [changes, steps] = MvRows<QList<std::pair<int, int>>, int>::current();
     MvProject project;
     project.newProject(document(u"MONTH_GRID_CLASSIC"_s));
     const MvCalendarDocument before = project.document();

@@ -5,11 +5,9 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvProjectRecovery.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace MvProjectFixture;
@@ -48,23 +46,20 @@ private:
 
 void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother_data()
 {
-    QTest::addColumn<bool>("hasStamp");
-    QTest::addColumn<QString>("meanwhile");
-    QTest::addColumn<bool>("isAnother");
-    QTest::newRow("as it was") << true << QString() << false;
-    QTest::newRow("saved meanwhile") << true << u"saved"_s << true;
-    QTest::newRow("saved meanwhile, clock set back") << true << u"saved before"_s << true;
-    QTest::newRow("removed") << true << u"removed"_s << true;
-    QTest::newRow("after a restart of the computer") << true << u"device"_s << false;
-    QTest::newRow("as it was, no stamp") << false << QString() << false;
-    QTest::newRow("saved meanwhile, no stamp") << false << u"saved"_s << true;
-    QTest::newRow("removed, no stamp") << false << u"removed"_s << true;
+    const MvRows<bool, QString, bool> row; // hasStamp, meanwhile, isAnother
+    row("as it was", true, QString(), false);
+    row("saved meanwhile", true, u"saved"_s, true);
+    row("saved meanwhile, clock set back", true, u"saved before"_s, true);
+    row("removed", true, u"removed"_s, true);
+    row("after a restart of the computer", true, u"device"_s, false);
+    row("as it was, no stamp", false, QString(), false);
+    row("saved meanwhile, no stamp", false, u"saved"_s, true);
+    row("removed, no stamp", false, u"removed"_s, true);
 }
 
 void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother()
 {
-    QFETCH(const bool, hasStamp);
-    QFETCH(const QString, meanwhile);
+    const auto [hasStamp, meanwhile, isAnother] = MvRows<bool, QString, bool>::current();
     const QFileInfo original(m_folder.filePath(u"original.mvcalendar"_s));
     MvProject before;
     before.newProject(titled(u"vorher"_s));
@@ -87,7 +82,7 @@ void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother()
     }
     MvProject project;
     QVERIFY(MvProjectRecovery::open({lost, original.filePath(), {}, {}}, project));
-    QTEST(project.isFileChangedByOthers(), "isAnother");
+    QCOMPARE(project.isFileChangedByOthers(), isAnother);
     MvProjectRecovery::discard({lost, {}, {}, {}});
 }
 

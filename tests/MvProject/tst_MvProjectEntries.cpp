@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
@@ -14,9 +15,6 @@
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvProjectRecovery.h"
-
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using MvEntries::entry;
@@ -173,16 +171,16 @@ public:
 
 void tst_MvProjectEntries::listsGoTheirOwnWays_data()
 {
-    QTest::addColumn<int>("seed");
+    const MvRows<int> row; // seed
     const int rows = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 400 : 4;
     for (int seed = 1; seed <= rows; ++seed)
-        QTest::addRow("seed %d", seed) << seed;
+        row(QString::asprintf("seed %d", seed), seed);
 }
 
 /// Random steps of a person with three calendars, and of others, against the model.
 void tst_MvProjectEntries::listsGoTheirOwnWays()
 {
-    QFETCH(const int, seed);
+    const auto [seed] = MvRows<int>::current();
     QRandomGenerator random{quint32(seed)};
     Model model;
     QList<Model::Step> done;
@@ -334,12 +332,7 @@ void tst_MvProjectEntries::fileGivesBackWhatItTook()
 
 void tst_MvProjectEntries::filesThatAreNotWhole_data()
 {
-    QTest::addColumn<QByteArray>("before");
-    QTest::addColumn<QByteArray>("after");
-    QTest::addColumn<QString>("told");
-    QTest::addColumn<QString>("shown");
-    const auto row = [](const char *name, const QByteArray &before, const QByteArray &after, const QString &told,
-                        const QString &shown) { QTest::newRow(name) << before << after << told << shown; };
+    const MvRows<QByteArray, QByteArray, QString, QString> row; // before, after, told, shown
     row("cut", "</CalendarEvents>\n</calendarproject>\n", {}, u"k.mvcalendar:"_s, u"Vorher"_s);
     row("no date", "<DateTime>1956-01-10T00:00:00</DateTime>", {}, u"Zeile %1, „A“: das Datum fehlt"_s, u"B"_s);
     row("not well-formed", "<Name>A", "<Name><A", u"k.mvcalendar:%2:"_s, u"Vorher"_s);
@@ -351,8 +344,7 @@ void tst_MvProjectEntries::filesThatAreNotWhole_data()
 
 void tst_MvProjectEntries::filesThatAreNotWhole()
 {
-    QFETCH(const QByteArray, before);
-    QFETCH(const QByteArray, after);
+    auto [before, after, told, shown] = MvRows<QByteArray, QByteArray, QString, QString>::current();
     const MvCalendarEventList list{entry(u"A"_s, {1956, 1, 10}), entry(u"B"_s, {1957, 1, 10})};
     QByteArray bytes = MvProjectFile::toBytes(document(), m_folder->path(), {}, {}, list);
     const qsizetype place = bytes.indexOf(before);
@@ -361,11 +353,10 @@ void tst_MvProjectEntries::filesThatAreNotWhole()
     added(u"Vorher"_s);
     const MvOutcome opened = m_project->open(file());
     const QString said = opened.error + opened.notes.join(u' ');
-    QFETCH(QString, told);
     const int line = int(bytes.first(bytes.indexOf("<CalendarEvent>")).count('\n')) + 1;
     told.replace(u"%1"_s, QString::number(line)).replace(u"%2"_s, QString::number(line + 1));
     QVERIFY2(said.contains(told) && said.isEmpty() == told.isEmpty(), qPrintable(said));
-    QTEST(names(registry().activeEventList()).join(u' '), "shown");
+    QCOMPARE(names(registry().activeEventList()).join(u' '), shown);
     for (const MvCalendarEvent &event : registry().activeEventList())
         QVERIFY(!event.foto().isValid() || !event.foto().mayBeOpened());
 }

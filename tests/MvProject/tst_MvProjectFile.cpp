@@ -4,9 +4,8 @@
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
-
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace MvProjectFixture;
@@ -48,9 +47,9 @@ QFileInfo tst_MvProjectFile::put(const QByteArray &content) const
 
 void tst_MvProjectFile::roundTrip_data()
 {
-    QTest::addColumn<MvCalendarDocument>("calendar");
+    const MvRows<MvCalendarDocument> row; // calendar
     MvCalendarDocument plain = document(u"MONTH_GRID_CLASSIC"_s);
-    QTest::newRow("plain") << plain;
+    row("plain", plain);
 
     MvCalendarDocument colorful = document(u"FAMILY_PLANNER"_s, 2);
     MvCalendariumAppearance own = colorful.appearance();
@@ -79,19 +78,19 @@ void tst_MvProjectFile::roundTrip_data()
     page.setFotoFrame(foto);
     colorful.setPage(1, page);
     colorful.setAuthor(u"Jürgen"_s);
-    QTest::newRow("everything changed") << colorful;
+    row("everything changed", colorful);
 
     MvCalendarDocument years = document(u"MONTH_GRID_CLASSIC"_s, 24);
     setFoto(years, 5, MvFotoFrame(u"/fotos/6.jpg"_s));
     years.setAppearance(appearance(u"YEAR_GRID"_s));
-    QTest::newRow("years with a photo in reserve") << years;
+    row("years with a photo in reserve", years);
 
     MvCalendarDocument mixed = document(u"MONTH_GRID_CLASSIC"_s, 3);
     MvCalendarPage year = mixed.pages()[0];
     year.setAppearance(appearance(u"YEAR_ONLY"_s));
     mixed.setPage(0, year);
-    QTest::newRow("a year in front of months") << mixed;
-    QTest::newRow("elements, pages and pool") << everythingNew();
+    row("a year in front of months", mixed);
+    row("elements, pages and pool", everythingNew());
 }
 
 /// All that the second version of files knows.
@@ -168,7 +167,7 @@ MvCalendarDocument tst_MvProjectFile::everythingNew()
 
 void tst_MvProjectFile::roundTrip()
 {
-    QFETCH(const MvCalendarDocument, calendar);
+    const auto [calendar] = MvRows<MvCalendarDocument>::current();
     QCOMPARE(MvProjectFile::write(calendar, file()).error, QString());
     const MvProjectFile::Content content = MvProjectFile::read(file());
     QCOMPARE(content.error, QString());
@@ -183,16 +182,16 @@ void tst_MvProjectFile::roundTrip()
 
 void tst_MvProjectFile::roundTripOfAppearances_data()
 {
-    QTest::addColumn<QString>("layout");
+    const MvRows<QString> row; // layout
     for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata())
-        QTest::newRow(qPrintable(layout.ID().toString())) << layout.ID().toString();
+        row(layout.ID().toString(), layout.ID().toString());
 }
 
 /// A page for each schema, shipped, kept by the user or the page's own, with each state of the grid and of the
 /// switches.
 void tst_MvProjectFile::roundTripOfAppearances()
 {
-    QFETCH(const QString, layout);
+    const auto [layout] = MvRows<QString>::current();
     MvCalendariumColorSchemaRegistry &registry = MvCalendariumColorSchemaRegistry::instance();
     MvCalendariumColorSchema own = registry.defaultSchema();
     own.setGridConfig(
@@ -295,50 +294,41 @@ void tst_MvProjectFile::keepsUnknownSchemas()
 
 void tst_MvProjectFile::mendsWhatItCan_data()
 {
-    QTest::addColumn<QByteArray>("inside");
-    QTest::addColumn<QList<QDate>>("pages");
-    QTest::addColumn<QString>("note");
+    const MvRows<QByteArray, QList<QDate>, QString> row; // inside, pages, note
     const QByteArray paper = "<paper width='2100' height='2970'/>";
     const auto page = [](const QByteArray &month) {
         return "<page month='" + month +
                "'><calendarium layoutschema='DAY_LIST' colorschema='NIGHT'/><content language='de_DE'/></page>";
     };
     const QDate january(2027, 1, 1);
-    QTest::newRow("no paper") << page("2027-01") << QList<QDate>{january} << u"A4"_s;
-    QTest::newRow("paper without end") << "<paper width='1e300' height='nan'/>" + page("2027-01")
-                                       << QList<QDate>{january} << u"A4"_s;
-    QTest::newRow("a page without a month")
-        << paper + page("gestern") + page("2027-01") << QList<QDate>{january} << u"„gestern“"_s;
-    QTest::newRow("a month twice") << paper + page("2027-01") + page("2027-01") << QList<QDate>{january}
-                                   << u"2027-01"_s;
-    QTest::newRow("a month in between is missing, order lost")
-        << paper + page("2027-03") + page("2027-01")
-        << QList<QDate>{january, january.addMonths(1), january.addMonths(2)} << QString();
-    QTest::newRow("a page outside") << paper + "<range first='2027-01' last='2027-01'/>" + page("2027-01") +
-                                           page("2030-01")
-                                    << QList<QDate>{january} << u"2030-01"_s;
-    QTest::newRow("a range the wrong way round") << paper + "<range first='2028-01' last='2027-01'/>" + page("2027-01")
-                                                 << QList<QDate>{january} << u"Zeitraum"_s;
-    QTest::newRow("a photo nowhere") << paper + page("2027-01").replace("</page>", "<photo path='a.jpg'/></page>")
-                                     << QList<QDate>{january} << u"Foto"_s;
+    row("no paper", page("2027-01"), QList<QDate>{january}, u"A4"_s);
+    row("paper without end", "<paper width='1e300' height='nan'/>" + page("2027-01"), QList<QDate>{january}, u"A4"_s);
+    row("a page without a month", paper + page("gestern") + page("2027-01"), QList<QDate>{january}, u"„gestern“"_s);
+    row("a month twice", paper + page("2027-01") + page("2027-01"), QList<QDate>{january}, u"2027-01"_s);
+    row("a month in between is missing, order lost", paper + page("2027-03") + page("2027-01"),
+        QList<QDate>{january, january.addMonths(1), january.addMonths(2)}, QString());
+    row("a page outside", paper + "<range first='2027-01' last='2027-01'/>" + page("2027-01") + page("2030-01"),
+        QList<QDate>{january}, u"2030-01"_s);
+    row("a range the wrong way round", paper + "<range first='2028-01' last='2027-01'/>" + page("2027-01"),
+        QList<QDate>{january}, u"Zeitraum"_s);
+    row("a photo nowhere", paper + page("2027-01").replace("</page>", "<photo path='a.jpg'/></page>"),
+        QList<QDate>{january}, u"Foto"_s);
     for (const auto &[attribute, taken] : {std::pair("offsetmonth='2147483647'", "1200"),
                                            {"fontsize_percentage='99999'", "900"},
                                            {"fontsize_percentage_holiddays='viel'", "-50"},
                                            {"font-letter-spacing='-1e9'", "-100"}})
-        QTest::newRow(attribute) << paper + page("2027-01").replace("DAY_LIST'", QByteArray("DAY_LIST' ") + attribute)
-                                 << QList<QDate>{january} << QString::fromUtf8(taken);
-    QTest::newRow("a template that is not there")
-        << paper + page("2027-01").replace("month=", "template='FEHLT' month=") << QList<QDate>{january} << u"FEHLT"_s;
-    QTest::newRow("a share of nine pages")
-        << paper + page("2027-01").replace("</page>", "<photo path='a.jpg' placement='top' share='9'/></page>")
-        << QList<QDate>{january} << u"0.75"_s;
+        row(attribute, paper + page("2027-01").replace("DAY_LIST'", QByteArray("DAY_LIST' ") + attribute),
+            QList<QDate>{january}, QString::fromUtf8(taken));
+    row("a template that is not there", paper + page("2027-01").replace("month=", "template='FEHLT' month="),
+        QList<QDate>{january}, u"FEHLT"_s);
+    row("a share of nine pages",
+        paper + page("2027-01").replace("</page>", "<photo path='a.jpg' placement='top' share='9'/></page>"),
+        QList<QDate>{january}, u"0.75"_s);
 }
 
 void tst_MvProjectFile::mendsWhatItCan()
 {
-    QFETCH(const QByteArray, inside);
-    QFETCH(const QList<QDate>, pages);
-    QFETCH(const QString, note);
+    const auto [inside, pages, note] = MvRows<QByteArray, QList<QDate>, QString>::current();
     const MvProjectFile::Content content =
         MvProjectFile::read(put("<calendarproject version='1'>" + inside + "</calendarproject>"));
     QCOMPARE(content.error, QString());
@@ -350,32 +340,28 @@ void tst_MvProjectFile::mendsWhatItCan()
 
 void tst_MvProjectFile::refuses_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("says");
-    QTest::newRow("empty") << QByteArray() << u"k.mvcalendar: "_s;
-    QTest::newRow("cut off") << QByteArray("<calendarproject version='1'>\n<page month='2027-01'>\n")
-                             << u".mvcalendar:"_s;
-    QTest::newRow("not XML") << QByteArray("Das ist ein Brief.\n") << u":1:"_s;
-    QTest::newRow("another file") << QByteArray("<CalendarEvents/>") << u"„CalendarEvents“"_s;
-    QTest::newRow("a newer program") << QByteArray("\n\n<calendarproject version='3'/>") << u".mvcalendar:3:"_s;
-    QTest::newRow("no pages") << QByteArray("<calendarproject version='1'/>") << u"keine Seiten"_s;
-    QTest::newRow("ten thousand years")
-        << QByteArray(
-               "<calendarproject><range first='0001-01' last='9999-12'/><page month='2027-01'/></calendarproject>")
-        << u"1200"_s;
-    QTest::newRow("pages ten thousand years apart")
-        << QByteArray("<calendarproject><page month='0001-01'><content language='de_DE'/></page><page month='9999-12'>"
-                      "<content language='de_DE'/></page></calendarproject>")
-        << u"1200"_s;
-    QTest::newRow("an entity that grows")
-        << QByteArray("<!DOCTYPE x [<!ENTITY a 'aaaa'>]><calendarproject title='&a;'/>") << u".mvcalendar:"_s;
-    QTest::newRow("a tower of elements") << QByteArray("<calendarproject>").repeated(5000) << u".mvcalendar:"_s;
+    const MvRows<QByteArray, QString> row; // content, says
+    row("empty", QByteArray(), u"k.mvcalendar: "_s);
+    row("cut off", QByteArray("<calendarproject version='1'>\n<page month='2027-01'>\n"), u".mvcalendar:"_s);
+    row("not XML", QByteArray("Das ist ein Brief.\n"), u":1:"_s);
+    row("another file", QByteArray("<CalendarEvents/>"), u"„CalendarEvents“"_s);
+    row("a newer program", QByteArray("\n\n<calendarproject version='3'/>"), u".mvcalendar:3:"_s);
+    row("no pages", QByteArray("<calendarproject version='1'/>"), u"keine Seiten"_s);
+    row("ten thousand years",
+        QByteArray("<calendarproject><range first='0001-01' last='9999-12'/><page month='2027-01'/></calendarproject>"),
+        u"1200"_s);
+    row("pages ten thousand years apart",
+        QByteArray("<calendarproject><page month='0001-01'><content language='de_DE'/></page><page month='9999-12'>"
+                   "<content language='de_DE'/></page></calendarproject>"),
+        u"1200"_s);
+    row("an entity that grows", QByteArray("<!DOCTYPE x [<!ENTITY a 'aaaa'>]><calendarproject title='&a;'/>"),
+        u".mvcalendar:"_s);
+    row("a tower of elements", QByteArray("<calendarproject>").repeated(5000), u".mvcalendar:"_s);
 }
 
 void tst_MvProjectFile::refuses()
 {
-    QFETCH(const QByteArray, content);
-    QFETCH(const QString, says);
+    const auto [content, says] = MvRows<QByteArray, QString>::current();
     const MvProjectFile::Content read = MvProjectFile::read(put(content));
     QVERIFY2(read.error.contains(says), qPrintable(read.error));
     QVERIFY(read.error.contains(u"k.mvcalendar"_s));

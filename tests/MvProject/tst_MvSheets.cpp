@@ -2,11 +2,11 @@
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvSheetPlan.h"
+#include "MvRows.h"
 #include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include <QPainter>
-#include <QTemporaryDir>
 
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFPageDocumentHelper.hh>
@@ -90,18 +90,8 @@ QImage tst_MvSheets::picture(const QString &file, int page) const
 
 void tst_MvSheets::plans_data()
 {
-    QTest::addColumn<MvSheetSettings>("settings");
-    QTest::addColumn<QSizeF>("page");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QSize>("grid");
-    QTest::addColumn<bool>("isUpright");
-    QTest::addColumn<int>("sheets");
-    QTest::addColumn<double>("scale");
+    const MvRows<MvSheetSettings, QSizeF, int, QSize, bool, int, double> row;
     const QSizeF a5(1480.0, 2100.0);
-    const auto row = [](const char *name, const MvSheetSettings &settings, const QSizeF &page, int pages,
-                        const QSize &grid, bool isUpright, int sheets, double scale) {
-        QTest::newRow(name) << settings << page << pages << grid << isUpright << sheets << scale;
-    };
     row("A3 on A4", tiles(a4), {4200, 2970}, 12, {2, 2}, false, 48, 1.0);
     row("two landscapes above each other", several(2, false), {2970, 2100}, 13, {1, 2}, true, 7, 2000.0 / 2970.0);
     row("four", several(4, false), a4, 12, {2, 2}, true, 3, (2000.0 - 40.0) / 2.0 / 2100.0);
@@ -111,13 +101,8 @@ void tst_MvSheets::plans_data()
 
 void tst_MvSheets::plans()
 {
-    QFETCH(const MvSheetSettings, settings);
-    QFETCH(const QSizeF, page);
-    QFETCH(const int, pages);
-    QFETCH(const QSize, grid);
-    QFETCH(const bool, isUpright);
-    QFETCH(const int, sheets);
-    QFETCH(const double, scale);
+    const auto [settings, page, pages, grid, isUpright, sheets, scale] =
+        MvRows<MvSheetSettings, QSizeF, int, QSize, bool, int, double>::current();
     const MvSheetPlan plan(settings, page, pages);
     QCOMPARE(plan.error(), QString());
     QCOMPARE(QSize(plan.columns(), plan.rows()), grid);
@@ -238,12 +223,10 @@ void tst_MvSheets::severalInAFile()
     const QSizeF page(2970, 2100);
     QList<QByteArray> files;
     for (int time = 0; time < 2; ++time) {
-        QFile file(pdf(page, 7, settings));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        files.append(file.readAll());
+        files.append(MvTestFiles::contentOf(pdf(page, 7, settings)));
     }
     qunsetenv("SOURCE_DATE_EPOCH");
-    QVERIFY(files[0] == files[1]);
+    QVERIFY(!files[0].isEmpty() && files[0] == files[1]);
     const QString file = path(u"sheets.pdf"_s);
     const MvSheetPlan plan(settings, page, 7);
     const QImage sheet = picture(file, 0);

@@ -6,13 +6,11 @@
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvEntries.h"
-
-#include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <atomic>
 #include <cerrno>
@@ -88,14 +86,14 @@ void tst_NoThreads::hadNoneEver()
 
 void tst_NoThreads::exports_data()
 {
-    QTest::addColumn<QString>("name");
+    const MvRows<QString> row; // name
     for (const QString &name : {u"k.pdf"_s, u"k-%n.png"_s, u"k-%n.svg"_s, u"k.html"_s})
-        QTest::newRow(qPrintable(name)) << name;
+        row(name, name);
 }
 
 void tst_NoThreads::exports()
 {
-    QFETCH(const QString, name);
+    const auto [name] = MvRows<QString>::current();
     MvExportJob job(calendar(), MvExportTarget(path(name)), 100);
     QSignalSpy finished(&job, &MvExportJob::finished);
     QSignalSpy progress(&job, &MvExportJob::progress);

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvXML/MvXMLLoader.h"
-
-#include <QTemporaryDir>
-#include <QTemporaryFile>
-#include <QXmlStreamReader>
 
 #include <sys/stat.h>
 
@@ -48,11 +45,9 @@ static MvXMLLoader::Error readOnce(const QByteArray &content)
 
 void tst_MvXMLLoader::refuses_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<int>("line"); // 0: not asked
-    const auto row = [](const char *name, const QByteArray &bytes, const QString &message, int line = 0) {
-        QTest::newRow(name) << bytes << message << line;
+    const MvRows<QByteArray, QString, int> add; // bytes; message; line: 0: not asked
+    const auto row = [&](const char *name, const QByteArray &bytes, const QString &message, int line = 0) {
+        add(name, bytes, message, line);
     };
     const QString entities = u"Entitäten dürfen nicht"_s;
     const QByteArray big(100LL * 1000, 'x');
@@ -98,9 +93,7 @@ void tst_MvXMLLoader::refuses_data()
 
 void tst_MvXMLLoader::refuses()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, message);
-    QFETCH(int, line);
+    const auto [bytes, message, line] = MvRows<QByteArray, QString, int>::current();
     MvXMLLoader::Error error;
     QVERIFY(MvXMLLoader::parse(bytes, &error).isNull());
     QVERIFY(error.isError());
@@ -117,34 +110,30 @@ void tst_MvXMLLoader::refuses()
 
 void tst_MvXMLLoader::reads_data()
 {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
+    const MvRows<QByteArray, QString> row; // bytes, text
     const QString text = u"Märchen <für> \"Öl\" \U0001F382"_s;
     const QString xml = u"<a>Märchen &lt;für&gt; \"Öl\" \U0001F382</a>"_s;
-    QTest::newRow("UTF-8 without a declaration") << xml.toUtf8() << text;
-    QTest::newRow("UTF-8 with a mark") << "\xef\xbb\xbf" + xml.toUtf8() << text;
+    row("UTF-8 without a declaration", xml.toUtf8(), text);
+    row("UTF-8 with a mark", "\xef\xbb\xbf" + xml.toUtf8(), text);
     const QString declared = u"\ufeff<?xml version=\"1.0\" encoding=\"UTF-16\"?>"_s + xml;
-    QTest::newRow("UTF-16") << QByteArray(reinterpret_cast<const char *>(declared.utf16()), declared.size() * 2)
-                            << text;
-    QTest::newRow("UTF-16 without a mark") << QByteArray("<\0a\0>\0x\0<\0/\0a\0>\0", 16) << u"x"_s;
-    QTest::newRow("ISO 8859-1") << QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>M\xe4rz</a>")
-                                << u"März"_s;
-    QTest::newRow("256 levels") << nested(256).replace("<a></a>", "<a>deep</a>") << u"deep"_s;
-    QTest::newRow("comment and data of any length")
-        << "<a><!-- " + QByteArray(100000, '"') + " --><![CDATA[<!ENTITY " + QByteArray(3, '<') + "]]></a>"
-        << u"<!ENTITY <<<"_s;
-    QTest::newRow("apostrophe in an instruction")
-        << "<?note don't?><a>" + QByteArray(100000, 'x') + "</a>" << QString(100000, u'x');
-    QTest::newRow("document type without declarations") << QByteArray("<!DOCTYPE a><a>x</a>") << u"x"_s;
+    row("UTF-16", QByteArray(reinterpret_cast<const char *>(declared.utf16()), declared.size() * 2), text);
+    row("UTF-16 without a mark", QByteArray("<\0a\0>\0x\0<\0/\0a\0>\0", 16), u"x"_s);
+    row("ISO 8859-1", QByteArray("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>M\xe4rz</a>"), u"März"_s);
+    row("256 levels", nested(256).replace("<a></a>", "<a>deep</a>"), u"deep"_s);
+    row("comment and data of any length",
+        "<a><!-- " + QByteArray(100000, '"') + " --><![CDATA[<!ENTITY " + QByteArray(3, '<') + "]]></a>",
+        u"<!ENTITY <<<"_s);
+    row("apostrophe in an instruction", "<?note don't?><a>" + QByteArray(100000, 'x') + "</a>", QString(100000, u'x'));
+    row("document type without declarations", QByteArray("<!DOCTYPE a><a>x</a>"), u"x"_s);
 }
 
 void tst_MvXMLLoader::reads()
 {
-    QFETCH(QByteArray, bytes);
+    const auto [bytes, text] = MvRows<QByteArray, QString>::current();
     MvXMLLoader::Error error;
     const QDomDocument document = MvXMLLoader::parse(bytes, &error);
     QCOMPARE(error.message, QString());
-    QTEST(document.documentElement().text(), "text");
+    QCOMPARE(document.documentElement().text(), text);
     QCOMPARE(readOnce(bytes).message, QString());
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProgramTest.h"
 
-#include <QProcess>
-
 MvProgramTest::Call MvProgramTest::run(const QString &arguments, const QMap<QString, QString> &environment,
                                        rlim_t memory, const QByteArray &input) const
 {

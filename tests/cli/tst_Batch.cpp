@@ -1,13 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProgramTest.h"
+#include "MvRows.h"
 
 #include "batch/MvBatchOutputs.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QRandomGenerator>
 
 #include <csignal>
 
@@ -123,23 +118,21 @@ void tst_Batch::waitForLines(int count) const
 
 void tst_Batch::outputsThatMeet_data()
 {
-    QTest::addColumn<QStringList>("patterns");
-    QTest::addColumn<int>("clashes");
-    QTest::newRow("other names") << QStringList{u"a.pdf"_s, u"b.pdf"_s, u"a.png"_s, u"x/a.pdf"_s} << 0;
-    QTest::newRow("the same by another way") << QStringList{u"a.pdf"_s, u"./x/../a.pdf"_s, u"b.pdf"_s} << 2;
-    QTest::newRow("a page of the other") << QStringList{u"a-%m.png"_s, u"a-07.png"_s, u"a-13x.png"_s} << 2;
-    QTest::newRow("a cover of the other") << QStringList{u"a-cover.png"_s, u"a-%m.png"_s} << 2;
-    QTest::newRow("two ways to number") << QStringList{u"a-%n.svg"_s, u"a-%m.svg"_s} << 2;
-    QTest::newRow("a longer beginning") << QStringList{u"a%n.svg"_s, u"a1%n.svg"_s} << 2;
-    QTest::newRow("a number that is longer") << QStringList{u"1-%m.png"_s, u"11-%m.png"_s, u"1-b-%m.png"_s} << 0;
-    QTest::newRow("percent signs") << QStringList{u"a%%m.png"_s, u"a%m.png"_s} << 0;
-    QTest::newRow("three") << QStringList{u"a.pdf"_s, u"a.pdf"_s, u"a.pdf"_s} << 3;
+    const MvRows<QStringList, int> row; // patterns, clashes
+    row("other names", QStringList{u"a.pdf"_s, u"b.pdf"_s, u"a.png"_s, u"x/a.pdf"_s}, 0);
+    row("the same by another way", QStringList{u"a.pdf"_s, u"./x/../a.pdf"_s, u"b.pdf"_s}, 2);
+    row("a page of the other", QStringList{u"a-%m.png"_s, u"a-07.png"_s, u"a-13x.png"_s}, 2);
+    row("a cover of the other", QStringList{u"a-cover.png"_s, u"a-%m.png"_s}, 2);
+    row("two ways to number", QStringList{u"a-%n.svg"_s, u"a-%m.svg"_s}, 2);
+    row("a longer beginning", QStringList{u"a%n.svg"_s, u"a1%n.svg"_s}, 2);
+    row("a number that is longer", QStringList{u"1-%m.png"_s, u"11-%m.png"_s, u"1-b-%m.png"_s}, 0);
+    row("percent signs", QStringList{u"a%%m.png"_s, u"a%m.png"_s}, 0);
+    row("three", QStringList{u"a.pdf"_s, u"a.pdf"_s, u"a.pdf"_s}, 3);
 }
 
 void tst_Batch::outputsThatMeet()
 {
-    QFETCH(const QStringList, patterns);
-    QFETCH(const int, clashes);
+    const auto [patterns, clashes] = MvRows<QStringList, int>::current();
     for (const bool isReversed : {false, true}) {
         MvBatchOutputs outputs;
         for (int i = 0; i < patterns.size(); ++i)
@@ -150,11 +143,7 @@ void tst_Batch::outputsThatMeet()
 
 void tst_Batch::badLines_data()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QByteArray>("said"); // after file and line
-    const auto row = [](const char *name, const QByteArray &line, const QByteArray &said) {
-        QTest::newRow(name) << line << said;
-    };
+    const MvRows<QByteArray, QByteArray> row; // line; said: after file and line
     row("no JSON", "year: 2027", "kein gültiges JSON ab Zeichen");
     row("no object", "[1]", "jede Zeile muss ein JSON-Objekt sein");
     row("no file", R"({"year":2027})", "es fehlt „output“");
@@ -173,8 +162,7 @@ void tst_Batch::badLines_data()
 
 void tst_Batch::badLines()
 {
-    QFETCH(const QByteArray, line);
-    QFETCH(const QByteArray, said);
+    const auto [line, said] = MvRows<QByteArray, QByteArray>::current();
     write(path(u"list.jsonl"_s), "\n" + line + "\n{\"year\":2027,\"months\":1,\"output\":\"a.pdf\"}\n");
     const Call call = run(m_call + u" -q"_s);
     QCOMPARE(call.exitCode, 1);
@@ -187,22 +175,18 @@ void tst_Batch::badLines()
 
 void tst_Batch::refusesCalls_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QByteArray>("said");
-    QTest::newRow("no list") << u""_s << 2 << QByteArray("es fehlt die Liste");
-    QTest::newRow("a list that is missing") << u"none.jsonl"_s << 1 << QByteArray("none.jsonl: ");
-    QTest::newRow("no such shard") << u"list.jsonl --shard 3/2"_s << 2 << QByteArray("--shard „3/2“");
-    QTest::newRow("no time") << u"list.jsonl --time-limit 0"_s << 2 << QByteArray("--time-limit „0“");
-    QTest::newRow("a report that is none")
-        << u"list.jsonl --report list.jsonl"_s << 1 << QByteArray("list.jsonl, Zeile 1: das ist kein Bericht");
+    const MvRows<QString, int, QByteArray> row; // arguments, exitCode, said
+    row("no list", u""_s, 2, QByteArray("es fehlt die Liste"));
+    row("a list that is missing", u"none.jsonl"_s, 1, QByteArray("none.jsonl: "));
+    row("no such shard", u"list.jsonl --shard 3/2"_s, 2, QByteArray("--shard „3/2“"));
+    row("no time", u"list.jsonl --time-limit 0"_s, 2, QByteArray("--time-limit „0“"));
+    row("a report that is none", u"list.jsonl --report list.jsonl"_s, 1,
+        QByteArray("list.jsonl, Zeile 1: das ist kein Bericht"));
 }
 
 void tst_Batch::refusesCalls()
 {
-    QFETCH(const QString, arguments);
-    QFETCH(const int, exitCode);
-    QFETCH(const QByteArray, said);
+    const auto [arguments, exitCode, said] = MvRows<QString, int, QByteArray>::current();
     writeList(1);
     const QByteArray list = contentOf(path(u"list.jsonl"_s));
     const Call call = run(u"batch "_s + arguments);
@@ -234,22 +218,19 @@ void tst_Batch::writesWhatRenderWrites()
 
 void tst_Batch::makesAnewWhatChanged_data()
 {
-    QTest::addColumn<QString>("file"); // written with the content between the runs; the report is cut if it is that
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("states");
+    // file: written with the content between the runs; the report is cut if it is that
+    const MvRows<QString, QByteArray, QString> row;
     const QByteArray entries = entriesFile("Eva 2", "1990-01-14");
-    QTest::newRow("nothing") << u"none"_s << QByteArray() << u"skipped 3"_s;
-    QTest::newRow("an input") << u"e-2.xml"_s << entriesFile("Adam", "1990-01-14") << u"done 1, skipped 2"_s;
-    QTest::newRow("an input to the same") << u"e-2.xml"_s << entries << u"skipped 3"_s;
-    QTest::newRow("an output") << u"c-2.pdf"_s << QByteArray("%PDF-") << u"done 1, skipped 2"_s;
-    QTest::newRow("a cut report") << u"report.jsonl"_s << QByteArray() << u"done 1, skipped 2"_s;
+    row("nothing", u"none"_s, QByteArray(), u"skipped 3"_s);
+    row("an input", u"e-2.xml"_s, entriesFile("Adam", "1990-01-14"), u"done 1, skipped 2"_s);
+    row("an input to the same", u"e-2.xml"_s, entries, u"skipped 3"_s);
+    row("an output", u"c-2.pdf"_s, QByteArray("%PDF-"), u"done 1, skipped 2"_s);
+    row("a cut report", u"report.jsonl"_s, QByteArray(), u"done 1, skipped 2"_s);
 }
 
 void tst_Batch::makesAnewWhatChanged()
 {
-    QFETCH(const QString, file);
-    QFETCH(const QByteArray, content);
-    QFETCH(const QString, states);
+    const auto [file, content, states] = MvRows<QString, QByteArray, QString>::current();
     writeList(3);
     QCOMPARE(run(m_call).exitCode, 0);
     QCOMPARE(this->states(), u"done 3"_s);

@@ -2,10 +2,6 @@
 #include "MvProgramTest.h"
 
 #include <QImage>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 #include "plain/MvCliArguments.h"
 #include "plain/MvNearMiss.h"
@@ -18,23 +19,21 @@ private Q_SLOTS:
 
 void tst_MvNearMiss::finds_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("found");
-    QTest::newRow("a letter too few") << u"Bayrn"_s << u"Bayern"_s;
-    QTest::newRow("a wrong letter, other case") << u"SACHSEM"_s << u"Sachsen"_s;
-    QTest::newRow("letters swapped") << u"Sacshen"_s << u"Sachsen"_s;
-    QTest::newRow("the nearest of two") << u"Sachsen-Anhlt"_s << u"Sachsen-Anhalt"_s;
-    QTest::newRow("how it begins") << u"meck"_s << u"Mecklenburg-Vorpommern"_s;
-    QTest::newRow("two letters are no beginning") << u"me"_s << QString();
-    QTest::newRow("nothing like it") << u"Atlantis"_s << QString();
-    QTest::newRow("nothing") << QString() << QString();
-    QTest::newRow("much too long") << QString(100000, u'B') << QString();
+    const MvRows<QString, QString> row; // typed, found
+    row("a letter too few", u"Bayrn"_s, u"Bayern"_s);
+    row("a wrong letter, other case", u"SACHSEM"_s, u"Sachsen"_s);
+    row("letters swapped", u"Sacshen"_s, u"Sachsen"_s);
+    row("the nearest of two", u"Sachsen-Anhlt"_s, u"Sachsen-Anhalt"_s);
+    row("how it begins", u"meck"_s, u"Mecklenburg-Vorpommern"_s);
+    row("two letters are no beginning", u"me"_s, QString());
+    row("nothing like it", u"Atlantis"_s, QString());
+    row("nothing", QString(), QString());
+    row("much too long", QString(100000, u'B'), QString());
 }
 
 void tst_MvNearMiss::finds()
 {
-    QFETCH(const QString, typed);
-    QFETCH(const QString, found);
+    const auto [typed, found] = MvRows<QString, QString>::current();
     const QStringList known{u"Bayern"_s, u"Sachsen"_s, u"Sachsen-Anhalt"_s, u"Mecklenburg-Vorpommern"_s};
     QCOMPARE(MvNearMiss::find(typed, known), found);
     QCOMPARE(MvNearMiss::describe(typed, known).contains(u"meinten Sie"_s), !found.isEmpty());
@@ -42,11 +41,11 @@ void tst_MvNearMiss::finds()
 
 void tst_MvNearMiss::parses_data()
 {
-    QTest::addColumn<QString>("arguments"); // blanks part them
-    QTest::addColumn<QString>("output");    // the values of the repeatable option, parted by blanks
-    QTest::addColumn<QString>("complaint"); // a word of the error; empty: none
-    const auto row = [](const char *name, const QString &arguments, const QString &output,
-                        const QString &complaint = {}) { QTest::newRow(name) << arguments << output << complaint; };
+    // arguments: blanks part them; output: the values of the repeatable option, parted by blanks; complaint: a word of
+    // the error; empty: none
+    const MvRows<QString, QString, QString> add;
+    const auto row = [&](const char *name, const QString &arguments, const QString &output,
+                         const QString &complaint = {}) { add(name, arguments, output, complaint); };
     row("apart and joined", u"-o a --output=b=c"_s, u"a b=c"_s);
     row("a value may begin with a dash", u"-o -x"_s, u"-x"_s);
     row("empty value", u"--output="_s, {});
@@ -60,9 +59,7 @@ void tst_MvNearMiss::parses_data()
 
 void tst_MvNearMiss::parses()
 {
-    QFETCH(const QString, arguments);
-    QFETCH(const QString, output);
-    QFETCH(const QString, complaint);
+    const auto [arguments, output, complaint] = MvRows<QString, QString, QString>::current();
     MvCliArguments parsed;
     const QString error =
         parsed.parse(arguments.split(u' '), {{u"output"_s, u"DATEI"_s, {}, true}, {u"switch"_s, {}, {}}}).error;

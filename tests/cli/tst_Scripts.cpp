@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProgramTest.h"
+#include "MvRows.h"
 
 #include <QImage>
 
@@ -28,23 +29,20 @@ private Q_SLOTS:
 
 void tst_Scripts::standardOutput_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QByteArray>("begin"); // of the file, or of the error
-    QTest::newRow("a calendar") << u"--year 2027 -o -"_s << QByteArray("%PDF-");
-    QTest::newRow("one picture") << u"--year 2027 --pages 3 --dpi 20 -o - -f png"_s << QByteArray("\x89PNG");
-    QTest::newRow("another kind") << u"--year 2027 --pages 3 --dpi 20 -fjpg -o -"_s << QByteArray("\xff\xd8");
-    QTest::newRow("to be read") << u"--year 2027 -f html -o -"_s
-                                << QByteArray("<!DOCTYPE html>\n<html lang=\"de-DE\">");
-    QTest::newRow("several pictures") << u"--year 2027 -f png -o -"_s << QByteArray("mvcalendar: -o -: 12 Seiten");
-    QTest::newRow("beside a file") << u"-o - -o k.pdf"_s << QByteArray("mvcalendar: -o - steht allein");
-    QTest::newRow("beside a report") << u"-o - --report json"_s << QByteArray("mvcalendar: --output und --report");
-    QTest::newRow("a kind for a file") << u"-f png -o k.pdf"_s << QByteArray("mvcalendar: --format sagt, was -o -");
+    const MvRows<QString, QByteArray> row; // arguments; begin: of the file, or of the error
+    row("a calendar", u"--year 2027 -o -"_s, QByteArray("%PDF-"));
+    row("one picture", u"--year 2027 --pages 3 --dpi 20 -o - -f png"_s, QByteArray("\x89PNG"));
+    row("another kind", u"--year 2027 --pages 3 --dpi 20 -fjpg -o -"_s, QByteArray("\xff\xd8"));
+    row("to be read", u"--year 2027 -f html -o -"_s, QByteArray("<!DOCTYPE html>\n<html lang=\"de-DE\">"));
+    row("several pictures", u"--year 2027 -f png -o -"_s, QByteArray("mvcalendar: -o -: 12 Seiten"));
+    row("beside a file", u"-o - -o k.pdf"_s, QByteArray("mvcalendar: -o - steht allein"));
+    row("beside a report", u"-o - --report json"_s, QByteArray("mvcalendar: --output und --report"));
+    row("a kind for a file", u"-f png -o k.pdf"_s, QByteArray("mvcalendar: --format sagt, was -o -"));
 }
 
 void tst_Scripts::standardOutput()
 {
-    QFETCH(const QString, arguments);
-    QFETCH(const QByteArray, begin);
+    const auto [arguments, begin] = MvRows<QString, QByteArray>::current();
     const Call call = run(u"render "_s + arguments);
     const bool isError = begin.startsWith("mvcalendar");
     QVERIFY2((isError ? call.err : call.out).startsWith(begin), call.err + call.out.left(100));
@@ -93,11 +91,7 @@ void tst_Scripts::saysAsMuchAsWanted()
 
 void tst_Scripts::settings_data()
 {
-    QTest::addColumn<QByteArray>("settings");
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QByteArray>("said"); // the file, or the error
-    const auto row = [](const char *name, const QByteArray &settings, const QString &arguments,
-                        const QByteArray &said) { QTest::newRow(name) << settings << arguments << said; };
+    const MvRows<QByteArray, QString, QByteArray> row; // settings; arguments; said: the file, or the error
     const QByteArray own = "# mine\ncountry = \"AT\"\nregion=Tirol\n[holidays]\nregion = Wien\n[render]\njobs = 1\n";
     const QString file = u" -o k-%r.pdf"_s;
     row("as the file says", own, file, "k-7.pdf\n");
@@ -119,9 +113,7 @@ void tst_Scripts::settings_data()
 
 void tst_Scripts::settings()
 {
-    QFETCH(const QByteArray, settings);
-    QFETCH(const QString, arguments);
-    QFETCH(const QByteArray, said);
+    const auto [settings, arguments, said] = MvRows<QByteArray, QString, QByteArray>::current();
     if (!settings.isEmpty())
         write(path(u"set.conf"_s), settings);
     const Call call = run(u"render --year 2027 --months 1 "_s + arguments, {{u"MVCALENDAR_CONFIG"_s, u"set.conf"_s}});
@@ -132,23 +124,21 @@ void tst_Scripts::settings()
 
 void tst_Scripts::completes_data()
 {
-    QTest::addColumn<QString>("line"); // what was typed; its last word is being typed
-    QTest::addColumn<QStringList>("offered");
-    QTest::newRow("commands") << u"mvcalendar re"_s << QStringList{u"render"_s, u"regions"_s};
-    QTest::newRow("options") << u"mvcalendar render --year 2027 --no-ho"_s << QStringList{u"--no-holidays"_s};
-    QTest::newRow("regions of the country") << u"mvcalendar render --country AT -r 9"_s << QStringList{u"9"_s};
-    QTest::newRow("words of an option") << u"mvcalendar render --binding s"_s << QStringList{u"side"_s};
-    QTest::newRow("what to do") << u"mvcalendar entries re"_s << QStringList{u"remove"_s};
-    QTest::newRow("presses") << u"mvcalendar render --press fo"_s << QStringList{u"fogra39"_s, u"fogra29"_s};
-    QTest::newRow("layouts") << u"mvcalendar render -l YEAR_P"_s << QStringList{u"YEAR_PLANNER"_s};
-    QTest::newRow("files are the shell's") << u"mvcalendar render --project fam"_s << QStringList();
+    const MvRows<QString, QStringList> row; // line: what was typed; its last word is being typed; offered
+    row("commands", u"mvcalendar re"_s, QStringList{u"render"_s, u"regions"_s});
+    row("options", u"mvcalendar render --year 2027 --no-ho"_s, QStringList{u"--no-holidays"_s});
+    row("regions of the country", u"mvcalendar render --country AT -r 9"_s, QStringList{u"9"_s});
+    row("words of an option", u"mvcalendar render --binding s"_s, QStringList{u"side"_s});
+    row("what to do", u"mvcalendar entries re"_s, QStringList{u"remove"_s});
+    row("presses", u"mvcalendar render --press fo"_s, QStringList{u"fogra39"_s, u"fogra29"_s});
+    row("layouts", u"mvcalendar render -l YEAR_P"_s, QStringList{u"YEAR_PLANNER"_s});
+    row("files are the shell's", u"mvcalendar render --project fam"_s, QStringList());
 }
 
 /// As bash asks.
 void tst_Scripts::completes()
 {
-    QFETCH(const QString, line);
-    QFETCH(const QStringList, offered);
+    const auto [line, offered] = MvRows<QString, QStringList>::current();
     const QString program = QFileInfo(QStringLiteral(MV_PROGRAM)).path();
     const QString script =
         u"PATH=%1:$PATH; . %2/mvcalendar.bash; COMP_WORDS=(%3); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); "
@@ -159,21 +149,19 @@ void tst_Scripts::completes()
 
 void tst_Scripts::completesElsewhere_data()
 {
-    QTest::addColumn<QString>("shell");
-    QTest::addColumn<QString>("script"); // %1: the line
+    const MvRows<QString, QString> row; // shell; script: %1: the line
     const QString scripts = QStringLiteral(MV_COMPLETION);
-    QTest::newRow("fish") << u"fish"_s << u"source "_s + scripts + u"/mvcalendar.fish; complete -C '%1'"_s;
-    QTest::newRow("zsh") << u"zsh"_s
-                         << u"_files() { ls }; _describe() { print -l ${(P)2} }; words=(${(z):-%1x}); "
-                            "words[-1]=${words[-1]%x}; CURRENT=$#words; complete() { . "_s +
-                                scripts + u"/_mvcalendar }; complete"_s;
+    row("fish", u"fish"_s, u"source "_s + scripts + u"/mvcalendar.fish; complete -C '%1'"_s);
+    row("zsh", u"zsh"_s,
+        u"_files() { ls }; _describe() { print -l ${(P)2} }; words=(${(z):-%1x}); "
+        "words[-1]=${words[-1]%x}; CURRENT=$#words; complete() { . "_s +
+            scripts + u"/_mvcalendar }; complete"_s);
 }
 
 /// With what it is beside each, and with files where one is expected alone.
 void tst_Scripts::completesElsewhere()
 {
-    QFETCH(const QString, shell);
-    QFETCH(const QString, script);
+    const auto [shell, script] = MvRows<QString, QString>::current();
     if (QStandardPaths::findExecutable(shell).isEmpty())
         QSKIP("the shell is not installed");
     write(path(u"k.pdf"_s), {});
@@ -193,12 +181,7 @@ void tst_Scripts::completesElsewhere()
 
 void tst_Scripts::forPressAndDesk_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QByteArray>("said");
-    const auto row = [](const char *name, const QString &arguments, int exitCode, const QByteArray &said) {
-        QTest::newRow(name) << arguments << exitCode << said;
-    };
+    const MvRows<QString, int, QByteArray> row; // arguments, exitCode, said
     row("bleed drawn out", u"--press fogra39 --bleed-edge stretch --keep-photo-colors --bleed 0 -o k.pdf"_s, 0,
         "k.pdf\n");
     row("bleed of what", u"--bleed-edge stretch -o k.pdf"_s, 2, "--bleed-edge gehört zu --press");
@@ -219,9 +202,7 @@ void tst_Scripts::forPressAndDesk_data()
 
 void tst_Scripts::forPressAndDesk()
 {
-    QFETCH(const QString, arguments);
-    QFETCH(const int, exitCode);
-    QFETCH(const QByteArray, said);
+    const auto [arguments, exitCode, said] = MvRows<QString, int, QByteArray>::current();
     const Call call = run(u"render --year 2027 --months 1 "_s + arguments);
     QCOMPARE(call.exitCode, exitCode);
     QVERIFY2((call.err + call.out).contains(said), call.err + call.out);

@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProgramTest.h"
+#include "MvRows.h"
 
-#include <QDirIterator>
 #include <QImage>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -79,12 +75,8 @@ QList<QImage> tst_mvcalendar::render(const QString &extraArguments) const
 
 void tst_mvcalendar::refuses_data()
 {
-    QTest::addColumn<QString>("arguments"); // blanks part them
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QStringList>("words"); // of the one line on stderr
-    const auto row = [](const char *name, const QString &arguments, int exitCode, const QStringList &words) {
-        QTest::newRow(name) << arguments << exitCode << words;
-    };
+    // arguments: blanks part them; words: of the one line on stderr
+    const MvRows<QString, int, QStringList> row;
     row("no command", QString(), 2, {u"render"_s, u"holidays"_s, u"regions"_s});
     row("unknown command", u"holiday"_s, 2, {u"„holiday“"_s, u"meinten Sie „holidays“"_s});
     row("unknown option", u"render --regoin BY -o a.pdf"_s, 2, {u"--regoin"_s, u"meinten Sie „--region“"_s});
@@ -155,9 +147,7 @@ void tst_mvcalendar::refuses_data()
 
 void tst_mvcalendar::refuses()
 {
-    QFETCH(const QString, arguments);
-    QFETCH(const int, exitCode);
-    QFETCH(const QStringList, words);
+    const auto [arguments, exitCode, words] = MvRows<QString, int, QStringList>::current();
     const Call call = run(arguments);
     QCOMPARE(call.exitCode, exitCode);
     QCOMPARE(call.out, QByteArray());
@@ -317,13 +307,10 @@ void tst_mvcalendar::usersSchemataAreNoDefaults()
 
 void tst_mvcalendar::rendersPdf_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<QString>("size"); // as pdfinfo prints it
-    QTest::addColumn<QByteArray>("language");
-    const auto row = [](const char *name, const QString &arguments, int pages, const QString &size,
-                        const QByteArray &language = "de-DE") {
-        QTest::newRow(name) << arguments << pages << size + u" pts"_s << language;
+    const MvRows<QString, int, QString, QByteArray> add; // arguments; pages; size: as pdfinfo prints it; language
+    const auto row = [&](const char *name, const QString &arguments, int pages, const QString &size,
+                         const QByteArray &language = "de-DE") {
+        add(name, arguments, pages, size + u" pts"_s, language);
     };
     row("a year on A4", u"--year 2027 --landscape"_s, 12, u"841.89 x 595.276"_s);
     row("thirteen months, upright A3", u"--from 2026-08 --months 13 --page A3 --portrait"_s, 13, u"841.89 x 1190.55"_s);
@@ -334,10 +321,7 @@ void tst_mvcalendar::rendersPdf_data()
 
 void tst_mvcalendar::rendersPdf()
 {
-    QFETCH(const QString, arguments);
-    QFETCH(const int, pages);
-    QFETCH(const QString, size);
-    QFETCH(const QByteArray, language);
+    const auto [arguments, pages, size, language] = MvRows<QString, int, QString, QByteArray>::current();
     const Call call = run(u"render -o k.pdf "_s + arguments);
     QCOMPARE(call.err, QByteArray());
     QCOMPARE(call.exitCode, 0);
@@ -434,15 +418,15 @@ void tst_mvcalendar::entriesOfOtherPrograms()
 
 void tst_mvcalendar::entriesAreAddedAndRemoved_data()
 {
-    QTest::addColumn<QString>("into");
-    QTest::newRow("the user's own") << QString();
-    QTest::newRow("a list, which is new") << u" --into liste.xml"_s;
-    QTest::newRow("a calendar") << u" --into k/k.mvcalendar"_s;
+    const MvRows<QString> row; // into
+    row("the user's own", QString());
+    row("a list, which is new", u" --into liste.xml"_s);
+    row("a calendar", u" --into k/k.mvcalendar"_s);
 }
 
 void tst_mvcalendar::entriesAreAddedAndRemoved()
 {
-    QFETCH(QString, into);
+    const auto [into] = MvRows<QString>::current();
     QVERIFY(QDir().mkpath(path(u"k"_s)));
     write(path(u"leer.csv"_s), "Name;Datum\n");
     QCOMPARE(run(u"new --entries leer.csv --from 2027-02 --months 1 --no-cover --no-back -o k/k.mvcalendar"_s).exitCode,
@@ -450,7 +434,7 @@ void tst_mvcalendar::entriesAreAddedAndRemoved()
     QImage foto(40, 30, QImage::Format_RGB32);
     foto.fill(Qt::red);
     QVERIFY(foto.save(path(u"rot.png"_s)));
-    const auto json = [&] {
+    const auto json = [&, into = into] {
         return QJsonDocument::fromJson(run(u"entries list --json "_s + into.section(u' ', 2)).out).array();
     };
     const Call noList = run(u"entries add Oma 17.05.1941 --into leer.csv"_s);
@@ -539,10 +523,9 @@ void tst_mvcalendar::skippedEntries()
 
 void tst_mvcalendar::hints_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("hint"); // after the file's name; none when empty
-    const auto row = [](const char *name, const QString &arguments, const QString &hint = {}) {
-        QTest::newRow(name) << arguments << hint;
+    const MvRows<QString, QString> add; // arguments; hint: after the file's name; none when empty
+    const auto row = [&](const char *name, const QString &arguments, const QString &hint = {}) {
+        add(name, arguments, hint);
     };
     row("vacations without a region", u"--vacations"_s, u"ohne --region keine Schulferien: .*--country DE“.*"_s);
     row("vacations of a country without any", u"--vacations --country FR"_s, u"Ferien FR: keine bekannt"_s);
@@ -557,8 +540,7 @@ void tst_mvcalendar::hints_data()
 
 void tst_mvcalendar::hints()
 {
-    QFETCH(const QString, arguments);
-    QFETCH(const QString, hint);
+    const auto [arguments, hint] = MvRows<QString, QString>::current();
     write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-02-29"));
     QString range = arguments.contains(u"--from"_s) ? u"--months 1"_s : u"--months 1 --from 2027-03"_s;
     if (arguments.contains(u"--year"_s))
@@ -667,25 +649,21 @@ void tst_mvcalendar::littleMemory()
 
 void tst_mvcalendar::language_data()
 {
-    QTest::addColumn<QMap<QString, QString>>("environment");
-    QTest::addColumn<bool>("isEnglish");
+    const MvRows<QMap<QString, QString>, bool> row; // environment, isEnglish
     using Environment = QMap<QString, QString>;
-    QTest::newRow("American") << Environment{{u"LC_ALL"_s, u"en_US.UTF-8"_s}} << true;
-    QTest::newRow("messages only") << Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, u"en_GB.UTF-8"_s}} << true;
-    QTest::newRow("French") << Environment{{u"LC_ALL"_s, u"fr_FR.UTF-8"_s}} << false;
-    QTest::newRow("Austrian") << Environment{{u"LC_ALL"_s, u"de_AT.UTF-8"_s}} << false;
-    QTest::newRow("C") << Environment{{u"LC_ALL"_s, u"C.UTF-8"_s}, {u"LANGUAGE"_s, u"de"_s}} << true;
-    QTest::newRow("POSIX") << Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, {}}, {u"LANG"_s, u"POSIX"_s}} << true;
-    QTest::newRow("none") << Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, {}}, {u"LANG"_s, {}}} << true;
-    QTest::newRow("the program's own variable")
-        << Environment{{u"LC_ALL"_s, u"C"_s}, {u"MVCALENDAR_LANGUAGE"_s, u"de"_s}} << false;
+    row("American", Environment{{u"LC_ALL"_s, u"en_US.UTF-8"_s}}, true);
+    row("messages only", Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, u"en_GB.UTF-8"_s}}, true);
+    row("French", Environment{{u"LC_ALL"_s, u"fr_FR.UTF-8"_s}}, false);
+    row("Austrian", Environment{{u"LC_ALL"_s, u"de_AT.UTF-8"_s}}, false);
+    row("C", Environment{{u"LC_ALL"_s, u"C.UTF-8"_s}, {u"LANGUAGE"_s, u"de"_s}}, true);
+    row("POSIX", Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, {}}, {u"LANG"_s, u"POSIX"_s}}, true);
+    row("none", Environment{{u"LC_ALL"_s, {}}, {u"LC_MESSAGES"_s, {}}, {u"LANG"_s, {}}}, true);
+    row("the program's own variable", Environment{{u"LC_ALL"_s, u"C"_s}, {u"MVCALENDAR_LANGUAGE"_s, u"de"_s}}, false);
 }
 
 void tst_mvcalendar::language()
 {
-    using Environment = QMap<QString, QString>;
-    QFETCH(Environment, environment);
-    QFETCH(const bool, isEnglish);
+    auto [environment, isEnglish] = MvRows<QMap<QString, QString>, bool>::current();
     if (const QString variable = u"MVCALENDAR_LANGUAGE"_s; !environment.contains(variable))
         environment.insert(variable, {}); // those who call the test have it set
     const Call help = run(u"help render"_s, environment);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvWidgetTest.h"
 
 #include "MvCore/MvDirectoryConfig.h"
@@ -44,17 +45,17 @@ QDesignerCustomWidgetInterface *tst_MvDesignerPlugin::find(const QString &name) 
 
 void tst_MvDesignerPlugin::widgets_data()
 {
-    QTest::addColumn<QString>("name");
+    const MvRows<QString> row; // name
     for (const QString &name :
          {u"MvCalendariumContentConfigEditor"_s, u"MvCalendariumColorSchemaEditor"_s, u"MvCalendariumFontEditor"_s,
           u"MvCalendariumColumnHeadersEditor"_s, u"MvCalendarEventListWidget"_s, u"MvLineEdit"_s, u"MvSpinBox"_s,
           u"MvTableView"_s, u"MvColorSelectionButton"_s, u"MvFontFamilyBox"_s})
-        QTest::newRow(qPrintable(name)) << name;
+        row(name, name);
 }
 
 void tst_MvDesignerPlugin::widgets()
 {
-    QFETCH(const QString, name);
+    const auto [name] = MvRows<QString>::current();
     QDesignerCustomWidgetInterface *entry = find(name);
     QVERIFY(entry);
     QVERIFY(!entry->icon().isNull());

@@ -2,11 +2,10 @@
 #include "MvBoxFont.h"
 #include "MvPageAudit.h"
 #include "MvPairwisePlan.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
-
-#include <QDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -98,14 +97,14 @@ void tst_EveryPage::everyPair()
 
 void tst_EveryPage::prints_data()
 {
-    QTest::addColumn<QString>("layout");
+    const MvRows<QString> row; // layout
     for (const QString &layout : MvPageChoice::layouts())
-        QTest::newRow(qPrintable(layout)) << layout;
+        row(layout, layout);
 }
 
 void tst_EveryPage::prints()
 {
-    QFETCH(QString, layout);
+    const auto [layout] = MvRows<QString>::current();
     const bool showsAll = !qEnvironmentVariableIsEmpty("MV_PAGE_ALL");
     const QString only = qEnvironmentVariable("MV_PAGE_ONLY");
     const QString pictures = qEnvironmentVariable("MV_PAGE_PNG");
@@ -144,11 +143,10 @@ void tst_EveryPage::prints()
 
 void tst_EveryPage::wasFaulty_data()
 {
-    QTest::addColumn<MvPageChoice>("choice");
-    QTest::addColumn<bool>("isWhole");
-    const auto row = [](const char *name, const QString &layout, const QString &paper, const QString &place,
-                        double share, int font, const QString &language, const QString &region, const QDate &month,
-                        bool isWhole = false) {
+    const MvRows<MvPageChoice, bool> add; // choice, isWhole
+    const auto row = [&](const char *name, const QString &layout, const QString &paper, const QString &place,
+                         double share, int font, const QString &language, const QString &region, const QDate &month,
+                         bool isWhole = false) {
         MvPageChoice choice;
         choice.layout = layout;
         choice.paper = paper;
@@ -159,7 +157,7 @@ void tst_EveryPage::wasFaulty_data()
         choice.region = region;
         choice.month = month;
         choice.entries = MvPageChoice::Short;
-        QTest::newRow(name) << choice << isWhole;
+        add(name, choice, isWhole);
     };
     row("a week where the number of the day has no room", u"YEAR_PLANNER"_s, u"200x200"_s, u"top"_s, 0.55, 200,
         u"lb_LU"_s, {}, {2028, 2, 1});
@@ -181,21 +179,20 @@ void tst_EveryPage::wasFaulty_data()
 /// In the layouts' own fonts, found by the product of all circumstances or by eye.
 void tst_EveryPage::wasFaulty()
 {
-    QFETCH(MvPageChoice, choice);
+    const auto [choice, isWhole] = MvRows<MvPageChoice, bool>::current();
     const MvPrintedPage page(choice, QString());
     const QList<MvPageAudit::Fault> found = MvPageAudit::faults(page);
     QVERIFY2(found.isEmpty(), qPrintable(found.value(0).what));
-    QTEST(page.unfitting.isEmpty(), "isWhole");
+    QCOMPARE(page.unfitting.isEmpty(), isWhole);
 }
 
 void tst_EveryPage::growsWithItsPaper_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QString>("form"); // of the paper
+    const MvRows<QString, QString> row; // layout; form: of the paper
     for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
         for (const QString &form : {u""_s, u" landscape"_s}) {
             if (schema.calendariumType().traits().monthsPerPage() > 1)
-                QTest::newRow(qPrintable(schema.ID().toString() + form)) << schema.ID().toString() << form;
+                row(schema.ID().toString() + form, schema.ID().toString(), form);
         }
     }
 }
@@ -203,8 +200,7 @@ void tst_EveryPage::growsWithItsPaper_data()
 /// What a smaller paper has room for is on a larger one, too.
 void tst_EveryPage::growsWithItsPaper()
 {
-    QFETCH(QString, layout);
-    QFETCH(QString, form);
+    auto [layout, form] = MvRows<QString, QString>::current();
     MvPageChoice choice;
     choice.layout = layout;
     choice.language = MvLocale(u"de_DE"_s);

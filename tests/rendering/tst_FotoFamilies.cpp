@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvProject/MvFotoDistribution.h"
@@ -7,8 +8,6 @@
 #include "MvProject/MvThemeRegistry.h"
 
 #include <QPainter>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
 
 #include <cmath>
 
@@ -127,15 +126,15 @@ void tst_FotoFamilies::initTestCase()
 
 void tst_FotoFamilies::printed_data()
 {
-    QTest::addColumn<int>("seed");
+    const MvRows<int> row; // seed
     const int families = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 36 : 3;
     for (int seed = 1; seed <= families; ++seed)
-        QTest::newRow(qPrintable(QString::number(seed))) << seed;
+        row(QString::number(seed), seed);
 }
 
 void tst_FotoFamilies::printed()
 {
-    QFETCH(const int, seed);
+    const auto [seed] = MvRows<int>::current();
     QRandomGenerator random{quint32(seed)};
     const auto below = [&random](qsizetype bound) { return int(random.bounded(int(bound))); };
     const QStringList papers{u"A4"_s, u"A3"_s, u"A5"_s, u"square-300"_s, u"panorama"_s, u"20x30"_s};

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPrintedPage.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvProductBase/MvCalendariumHolidayCalculator.h"
-
-#include <QMap>
 
 #include <algorithm>
 #include <cstdio>
@@ -61,14 +60,14 @@ private Q_SLOTS:
 
 void tst_HolidayNames::areWhole_data()
 {
-    QTest::addColumn<QString>("layout");
+    const MvRows<QString> row; // layout
     for (const QString &layout : MvPageChoice::layouts())
-        QTest::newRow(qPrintable(layout)) << layout;
+        row(layout, layout);
 }
 
 void tst_HolidayNames::areWhole()
 {
-    QFETCH(QString, layout);
+    auto [layout] = MvRows<QString>::current();
     const bool isNight = !qEnvironmentVariableIsEmpty("MV_NIGHTLY");
     int turn = 0;
     int names = 0;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPageAudit.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 
 #include <QPainter>
-#include <QRandomGenerator>
 
 #include <algorithm>
 #include <cmath>
@@ -110,15 +110,15 @@ private Q_SLOTS:
 
 void tst_PagePixels::agreeWithReports_data()
 {
-    QTest::addColumn<int>("number");
+    const MvRows<int> row; // number
     const int pages = qEnvironmentVariableIsEmpty("MV_NIGHTLY") ? 30 : 500;
     for (int number = 0; number < pages; ++number)
-        QTest::addRow("%d", number) << number;
+        row(QString::asprintf("%d", number), number);
 }
 
 void tst_PagePixels::agreeWithReports()
 {
-    QFETCH(int, number);
+    const auto [number] = MvRows<int>::current();
     QRandomGenerator random(seed + quint32(number));
     std::unique_ptr<MvPrintedPage> page; // until there is one with texts
     QList<MvPrintedPage::Day> days;

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvBoxFont.h"
 #include "MvPrintedPage.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvModelBase/MvRenderingRule.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvProjectFile.h"
 
-#include <QDir>
 #include <QPainter>
-#include <QSaveFile>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -204,28 +202,28 @@ void tst_ReferencePages::filesAreThoseOfTheLayouts()
 
 void tst_ReferencePages::page_data()
 {
-    QTest::addColumn<QString>("layout");
+    const MvRows<QString> row; // layout
     for (const QString &layout : MvPageChoice::layouts())
-        QTest::newRow(qPrintable(layout)) << layout;
+        row(layout, layout);
 }
 
 void tst_ReferencePages::page()
 {
-    QFETCH(QString, layout);
+    const auto [layout] = MvRows<QString>::current();
     compare(layout, describe(layout, m_foto));
 }
 
 void tst_ReferencePages::olderFile_data()
 {
-    QTest::addColumn<QString>("path");
+    const MvRows<QString> row; // path
     for (const QFileInfo &file : olderFiles())
-        QTest::newRow(qPrintable(file.baseName())) << file.filePath();
+        row(file.baseName(), file.filePath());
 }
 
 /// What older programs have written looks as it did, and is written back as they read it.
 void tst_ReferencePages::olderFile()
 {
-    QFETCH(QString, path);
+    const auto [path] = MvRows<QString>::current();
     QVERIFY(MvBoxFont::family() == u"MvBox"_s); // which the files name
     const MvProjectFile::Content content = MvProjectFile::read(QFileInfo(path));
     QCOMPARE(content.error, QString());

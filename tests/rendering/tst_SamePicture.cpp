@@ -3,14 +3,12 @@
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvPictureExporter.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
 
-#include <QFile>
 #include <QImageReader>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <array>
@@ -183,25 +181,21 @@ void writeFoto(const QString &path)
 
 void tst_SamePicture::layouts_data()
 {
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QString>("colors");
-    QTest::addColumn<bool>("hasFoto");
+    const MvRows<QString, QString, bool> row; // layout, colors, hasFoto
     const bool isNightly = qEnvironmentVariableIsSet("MV_NIGHTLY");
     int number = 0;
     for (const MvCalendariumLayoutSchema &layout : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
         const QString id = layout.ID().toString();
         const bool isFew = id == u"MONTH_GRID_CLASSIC"_s || id == u"YEAR_GRID"_s;
         if (isNightly || isFew)
-            QTest::newRow(qPrintable(id)) << id << (number % 2 ? u"NIGHT"_s : u"PAPER_WHITE"_s) << (number % 3 == 0);
+            row(id, id, (number % 2 ? u"NIGHT"_s : u"PAPER_WHITE"_s), (number % 3 == 0));
         ++number;
     }
 }
 
 void tst_SamePicture::layouts()
 {
-    QFETCH(const QString, layout);
-    QFETCH(const QString, colors);
-    QFETCH(const bool, hasFoto);
+    const auto [layout, colors, hasFoto] = MvRows<QString, QString, bool>::current();
     const QTemporaryDir folder;
     MvCalendarDocument calendar = MvProjectFixture::document(layout, 1);
     calendar.setAppearance(MvProjectFixture::appearance(layout, colors));

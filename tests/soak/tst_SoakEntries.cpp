@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvTest.h"
 
 #include "MvEntryHistory.h"
@@ -10,9 +11,6 @@
 
 #include <QDomDocument>
 #include <QGuiApplication>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTimer>
 
 #include <csignal>
 #include <sys/types.h>
@@ -123,19 +121,17 @@ void noteJournal(MvEntryHistory &history, int who, const QByteArray &journal)
 
 void tst_SoakEntries::programsShareAFile_data()
 {
-    QTest::addColumn<int>("programs");
-    QTest::addColumn<bool>("areKilled");
+    const MvRows<int, bool> row; // programs, areKilled
     const bool isNightly = qEnvironmentVariableIsSet("MV_NIGHTLY");
     for (int programs = isNightly ? 2 : 3; programs <= (isNightly ? 4 : 3); ++programs) {
         for (const bool areKilled : {false, true})
-            QTest::addRow("%d programs%s", programs, areKilled ? ", some killed" : "") << programs << areKilled;
+            row(QString::asprintf("%d programs%s", programs, areKilled ? ", some killed" : ""), programs, areKilled);
     }
 }
 
 void tst_SoakEntries::programsShareAFile()
 {
-    QFETCH(int, programs);
-    QFETCH(bool, areKilled);
+    const auto [programs, areKilled] = MvRows<int, bool>::current();
     const int edits = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 400 : 50;
     const QTemporaryDir dir;
     MvEntryHistory history;

@@ -11,6 +11,7 @@
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvStudioFixture.h"
 
 using namespace Qt::StringLiterals;
@@ -212,15 +213,15 @@ void tst_StudioMonkey::cleanupTestCase()
 
 void tst_StudioMonkey::survives_data()
 {
-    QTest::addColumn<quint32>("seed");
+    const MvRows<quint32> row; // seed
     const quint32 first = qMax(1, qEnvironmentVariableIntValue("MV_MONKEY_SEED"));
     for (quint32 seed = first; seed < first + seedsPerRun; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
+        row(QString::asprintf("seed %u", seed), seed);
 }
 
 void tst_StudioMonkey::survives()
 {
-    QFETCH(quint32, seed);
+    const auto [seed] = MvRows<quint32>::current();
     ++m_seeds;
     const QStringList files = createFiles();
     MvRequestHandler::install(std::make_unique<ScriptedAnswers>(seed, files, m_studio->path({})));

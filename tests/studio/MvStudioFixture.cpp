@@ -17,8 +17,6 @@
 #include "MvCore/MvUndoController.h"
 #include "MvProject/MvProject.h"
 
-#include <QPointer>
-
 using namespace Qt::StringLiterals;
 using MvTestFiles::contentOf;
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "pages/MvFrameEdits.h"
 #include "pages/MvFrameSnapping.h"
 #include "pages/MvPageCanvas.h"
@@ -96,33 +97,24 @@ void tst_MvFrames::drag(const QPointF &from, const QPointF &to, Qt::KeyboardModi
 
 void tst_MvFrames::catches_data()
 {
-    QTest::addColumn<QRectF>("frame");
-    QTest::addColumn<Qt::Edges>("edges"); // none: it is moved
-    QTest::addColumn<QRectF>("caught");
-    QTest::addColumn<int>("guides");
+    const MvRows<QRectF, Qt::Edges, QRectF, int> row; // frame; edges: none: it is moved; caught; guides
     // A4 lying: margin 87.5, gutters 43.75, columns every 236.6, rows every 82.1; numbers away from what is not meant
     const QRectF other(1050, 803, 500, 200);
     const Qt::Edges none;
-    QTest::newRow("edge of the page") << QRectF(6, 394, 177, 82) << none << QRectF(0, 394, 177, 82) << 1;
-    QTest::newRow("middle of the page") << QRectF(1340, 394, 300, 82) << none << QRectF(1335, 394, 300, 82) << 1;
-    QTest::newRow("margin of the field") << QRectF(92, 394, 100, 82) << none << QRectF(87.5, 394, 100, 82) << 1;
-    QTest::newRow("line of another") << other.translated(8, 329) << none << other.translated(0, 329) << 3;
-    QTest::newRow("below another") << QRectF(1721, 1008, 237, 124) << none << QRectF(1721, 1003, 237, 124) << 1;
-    QTest::newRow("too far") << QRectF(20, 394, 163, 82) << none << QRectF(20, 394, 163, 82) << 0;
-    QTest::newRow("pulled right") << QRectF(700, 394, 358, 82) << Qt::Edges(Qt::RightEdge) << QRectF(700, 394, 350, 82)
-                                  << 1;
-    QTest::newRow("pulled corner") << QRectF(1300, 700, 245, 98) << (Qt::RightEdge | Qt::BottomEdge)
-                                   << QRectF(1300, 700, 250, 103) << 2;
-    QTest::newRow("only the pulled edge")
-        << QRectF(4, 394, 179, 82) << Qt::Edges(Qt::BottomEdge) << QRectF(4, 394, 179, 82) << 0;
+    row("edge of the page", QRectF(6, 394, 177, 82), none, QRectF(0, 394, 177, 82), 1);
+    row("middle of the page", QRectF(1340, 394, 300, 82), none, QRectF(1335, 394, 300, 82), 1);
+    row("margin of the field", QRectF(92, 394, 100, 82), none, QRectF(87.5, 394, 100, 82), 1);
+    row("line of another", other.translated(8, 329), none, other.translated(0, 329), 3);
+    row("below another", QRectF(1721, 1008, 237, 124), none, QRectF(1721, 1003, 237, 124), 1);
+    row("too far", QRectF(20, 394, 163, 82), none, QRectF(20, 394, 163, 82), 0);
+    row("pulled right", QRectF(700, 394, 358, 82), Qt::Edges(Qt::RightEdge), QRectF(700, 394, 350, 82), 1);
+    row("pulled corner", QRectF(1300, 700, 245, 98), (Qt::RightEdge | Qt::BottomEdge), QRectF(1300, 700, 250, 103), 2);
+    row("only the pulled edge", QRectF(4, 394, 179, 82), Qt::Edges(Qt::BottomEdge), QRectF(4, 394, 179, 82), 0);
 }
 
 void tst_MvFrames::catches()
 {
-    QFETCH(QRectF, frame);
-    QFETCH(Qt::Edges, edges);
-    QFETCH(QRectF, caught);
-    QFETCH(int, guides);
+    const auto [frame, edges, caught, guides] = MvRows<QRectF, Qt::Edges, QRectF, int>::current();
     MvPageFormat format = MvPageFormat::fromName(u"A4"_s);
     format.setOrientation(MvPageFormat::Orientation::Landscape);
     const MvFrameSnapping snapping(format, {{1050, 803, 500, 200}});
@@ -139,11 +131,7 @@ void tst_MvFrames::catches()
 void tst_MvFrames::arranges_data()
 {
     using Line = MvFrameArrangement::Line;
-    QTest::addColumn<int>("line"); // beyond those that there are: distributed across, down
-    QTest::addColumn<QList<QPointF>>("corners");
-    const auto row = [](const char *name, int line, const QList<QPointF> &corners) {
-        QTest::newRow(name) << line << corners;
-    };
+    const MvRows<int, QList<QPointF>> row; // line: beyond those that there are: distributed across, down; corners
     row("left", int(Line::Left), {{0, 0}, {0, 50}, {0, 300}});
     row("centre", int(Line::Centre), {{250, 0}, {200, 50}, {275, 300}});
     row("right", int(Line::Right), {{500, 0}, {400, 50}, {550, 300}});
@@ -155,8 +143,7 @@ void tst_MvFrames::arranges_data()
 
 void tst_MvFrames::arranges()
 {
-    QFETCH(int, line);
-    QFETCH(QList<QPointF>, corners);
+    const auto [line, corners] = MvRows<int, QList<QPointF>>::current();
     const QList<QRectF> frames{{0, 0, 100, 100}, {150, 50, 200, 50}, {550, 300, 50, 100}};
     const QList<QRectF> arranged =
         line >= 0
@@ -168,23 +155,17 @@ void tst_MvFrames::arranges()
 
 void tst_MvFrames::mouse_data()
 {
-    QTest::addColumn<QList<int>>("chosen");
-    QTest::addColumn<int>("at"); // 0 the middle of the last chosen, 1 its lower right corner
-    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
-    QTest::addColumn<QList<int>>("moved");
-    QTest::newRow("an empty frame") << QList<int>{left} << 0 << Qt::KeyboardModifiers() << QList<int>{left};
-    QTest::newRow("two together") << QList<int>{right, left} << 0 << Qt::KeyboardModifiers() << QList<int>{left, right};
-    QTest::newRow("nothing catches with Ctrl")
-        << QList<int>{left} << 0 << Qt::KeyboardModifiers(Qt::ControlModifier) << QList<int>{left};
-    QTest::newRow("a corner") << QList<int>{left} << 1 << Qt::KeyboardModifiers() << QList<int>{};
+    // at: 0 the middle of the last chosen, 1 its lower right corner
+    const MvRows<QList<int>, int, Qt::KeyboardModifiers, QList<int>> row;
+    row("an empty frame", QList<int>{left}, 0, Qt::KeyboardModifiers(), QList<int>{left});
+    row("two together", QList<int>{right, left}, 0, Qt::KeyboardModifiers(), QList<int>{left, right});
+    row("nothing catches with Ctrl", QList<int>{left}, 0, Qt::KeyboardModifiers(Qt::ControlModifier), QList<int>{left});
+    row("a corner", QList<int>{left}, 1, Qt::KeyboardModifiers(), QList<int>{});
 }
 
 void tst_MvFrames::mouse()
 {
-    QFETCH(QList<int>, chosen);
-    QFETCH(int, at);
-    QFETCH(Qt::KeyboardModifiers, modifiers);
-    QFETCH(QList<int>, moved);
+    const auto [chosen, at, modifiers, moved] = MvRows<QList<int>, int, Qt::KeyboardModifiers, QList<int>>::current();
     const MvCalendarPage before = page();
     const double edge = m_project->document().format().fieldRect().left();
     m_canvas->selection()->selectElements(chosen);
@@ -281,9 +262,8 @@ void tst_MvFrames::comeAndGo()
 
 void tst_MvFrames::severalInPanels_data()
 {
-    QTest::addColumn<QList<int>>("chosen"); // the last one is what panels are about
-    QTest::addColumn<QByteArray>("control");
-    QTest::addColumn<QString>("keys"); // what somebody types; empty for a click
+    // chosen: the last one is what panels are about; keys: what somebody types; empty for a click
+    const MvRows<QList<int>, QByteArray, QString> row;
     const QList<int> fotos{title, right, left};
     const QList<int> texts{left, title, other};
     for (const auto &[chosen, control, keys] : {
@@ -301,15 +281,13 @@ void tst_MvFrames::severalInPanels_data()
              std::tuple(texts, "textBold", QString()),
              std::tuple(texts, "textHorizontal", u"D"_s),
          })
-        QTest::addRow("%s %s", control, qPrintable(keys.trimmed())) << chosen << QByteArray(control) << keys;
+        row(QString::asprintf("%s %s", control, qPrintable(keys.trimmed())), chosen, QByteArray(control), keys);
 }
 
 /// What differs is shown so; one edit makes all alike that have it, in one step, and touches no other.
 void tst_MvFrames::severalInPanels()
 {
-    QFETCH(QList<int>, chosen);
-    QFETCH(QByteArray, control);
-    QFETCH(QString, keys);
+    const auto [chosen, control, keys] = MvRows<QList<int>, QByteArray, QString>::current();
     MvCalendarPage prepared = page();
     for (const int number : {left, right}) {
         MvFotoElement foto(u"/tmp/%1.jpg"_s.arg(number));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "pages/MvFotoHandle.h"
 #include "pages/MvFrameNotices.h"
 #include "pages/MvPageCanvas.h"
@@ -368,17 +369,17 @@ void tst_MvPageCanvas::layoutsReplaceTheCells()
 
 void tst_MvPageCanvas::daysAnswerInTheirRow_data()
 {
-    QTest::addColumn<QString>("layout");
+    const MvRows<QString> row; // layout
     for (const MvCalendariumLayoutSchema &schema : MvCalendariumLayoutSchemaRegistry::instance().schemata()) {
         if (schema.calendariumType().traits().hasColumns)
-            QTest::newRow(qPrintable(schema.ID().toString())) << schema.ID().toString();
+            row(schema.ID().toString(), schema.ID().toString());
     }
 }
 
 /// Number and all columns of a list are the day: for the mouse, and for what is dropped.
 void tst_MvPageCanvas::daysAnswerInTheirRow()
 {
-    QFETCH(QString, layout);
+    const auto [layout] = MvRows<QString>::current();
     const OpenCanvas open(layout);
     const QDate day(2027, 1, 20);
     const QRectF row = open.item()->dateRect(day);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvStudioOptions.h"
 #include "MvTest.h"
 #include "flows/MvPageRange.h"
@@ -19,26 +20,22 @@ private Q_SLOTS:
 
 void tst_MvStudioOptions::commandLine_data()
 {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("message"); // a part of it
-    QTest::newRow("nothing") << QStringList() << 0 << QString();
-    QTest::newRow("all") << QStringList{u"--language"_s, u"en"_s, u"--theme=dark"_s, u"a.mvcalendar"_s} << 0
-                         << QString();
-    QTest::newRow("help") << QStringList{u"--help"_s} << 0 << u"--language de|en"_s;
-    QTest::newRow("version") << QStringList{u"-v"_s} << 0 << u"mvcalendar-studio "_s;
-    QTest::newRow("unknown option") << QStringList{u"--foo"_s} << 2 << u"„foo“"_s;
-    QTest::newRow("unknown language") << QStringList{u"--language"_s, u"fr"_s} << 2 << u"de, en"_s;
-    QTest::newRow("value missing") << QStringList{u"--theme"_s} << 2 << u"ohne ihren Wert"_s;
-    QTest::newRow("two files") << QStringList{u"a"_s, u"b"_s} << 2 << u"mehr als eine Datei"_s;
+    const MvRows<QStringList, int, QString> row; // arguments; exitCode; message: a part of it
+    row("nothing", QStringList(), 0, QString());
+    row("all", QStringList{u"--language"_s, u"en"_s, u"--theme=dark"_s, u"a.mvcalendar"_s}, 0, QString());
+    row("help", QStringList{u"--help"_s}, 0, u"--language de|en"_s);
+    row("version", QStringList{u"-v"_s}, 0, u"mvcalendar-studio "_s);
+    row("unknown option", QStringList{u"--foo"_s}, 2, u"„foo“"_s);
+    row("unknown language", QStringList{u"--language"_s, u"fr"_s}, 2, u"de, en"_s);
+    row("value missing", QStringList{u"--theme"_s}, 2, u"ohne ihren Wert"_s);
+    row("two files", QStringList{u"a"_s, u"b"_s}, 2, u"mehr als eine Datei"_s);
 }
 
 void tst_MvStudioOptions::commandLine()
 {
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, message);
+    const auto [arguments, exitCode, message] = MvRows<QStringList, int, QString>::current();
     const MvStudioOptions options = MvStudioOptions::parse(QStringList{u"mvcalendar-studio"_s} + arguments);
-    QTEST(options.exitCode(), "exitCode");
+    QCOMPARE(options.exitCode(), exitCode);
     QCOMPARE(options.message().isEmpty(), message.isEmpty());
     QVERIFY2(options.message().contains(message), qPrintable(options.message()));
     if (arguments.size() == 4) {
@@ -50,24 +47,23 @@ void tst_MvStudioOptions::commandLine()
 
 void tst_MvStudioOptions::pages_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QList<int>>("pages"); // of six; none: an error
-    QTest::newRow("all") << QString() << QList<int>{0, 1, 2, 3, 4, 5};
-    QTest::newRow("mixed, unordered, twice") << u" 5, 1 - 3,2"_s << QList<int>{0, 1, 2, 4};
-    QTest::newRow("long dash") << u"2–3"_s << QList<int>{1, 2};
-    QTest::newRow("last") << u"6"_s << QList<int>{5};
-    QTest::newRow("too high") << u"7"_s << QList<int>();
-    QTest::newRow("zero") << u"0-2"_s << QList<int>();
-    QTest::newRow("backwards") << u"3-1"_s << QList<int>();
-    QTest::newRow("words") << u"Mai"_s << QList<int>();
-    QTest::newRow("commas alone") << u",,"_s << QList<int>();
+    const MvRows<QString, QList<int>> row; // text; pages: of six; none: an error
+    row("all", QString(), QList<int>{0, 1, 2, 3, 4, 5});
+    row("mixed, unordered, twice", u" 5, 1 - 3,2"_s, QList<int>{0, 1, 2, 4});
+    row("long dash", u"2–3"_s, QList<int>{1, 2});
+    row("last", u"6"_s, QList<int>{5});
+    row("too high", u"7"_s, QList<int>());
+    row("zero", u"0-2"_s, QList<int>());
+    row("backwards", u"3-1"_s, QList<int>());
+    row("words", u"Mai"_s, QList<int>());
+    row("commas alone", u",,"_s, QList<int>());
 }
 
 void tst_MvStudioOptions::pages()
 {
-    QFETCH(QString, text);
+    const auto [text, numbers] = MvRows<QString, QList<int>>::current();
     const MvPageRange::Pages pages = MvPageRange::parse(text, 6);
-    QTEST(pages.numbers, "pages");
+    QCOMPARE(pages.numbers, numbers);
     QCOMPARE(pages.isOk(), !pages.numbers.isEmpty());
 }
 

@@ -5,6 +5,7 @@
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
+#include "MvRows.h"
 #include "MvStudioTest.h"
 #include "MvWidgetDriver.h"
 #include "common/MvStudioSettings.h"
@@ -30,7 +31,6 @@ private Q_SLOTS:
     void recentFiles();
     void fileChangedByOthers();
     void dropOfAProject();
-    void undoTexts();
     void statusBar();
     void recovery();
     void leapDayEntries();
@@ -258,22 +258,6 @@ void tst_MvStudioWindow::dropOfAProject()
     QCOMPARE(project()->fileInfo().filePath(), file);
 }
 
-void tst_MvStudioWindow::undoTexts()
-{
-    auto *undo = window()->findChild<QAction *>(u"undo"_s);
-    auto *redo = window()->findChild<QAction *>(u"redo"_s);
-    QCOMPARE(undo->text().remove(u'&'), u"Rückgängig"_s);
-    QVERIFY(!undo->isEnabled());
-    rename(u"Neu"_s);
-    QCOMPARE(undo->text().remove(u'&'), u"Rückgängig: Titel ändern"_s);
-    QTest::keyClick(window(), Qt::Key_Z, Qt::ControlModifier);
-    QVERIFY(project()->document().title() != u"Neu"_s);
-    QVERIFY(!project()->isModified());
-    QCOMPARE(redo->text().remove(u'&'), u"Wiederholen: Titel ändern"_s);
-    QTest::keyClick(window(), Qt::Key_Y, Qt::ControlModifier);
-    QCOMPARE(project()->document().title(), u"Neu"_s);
-}
-
 void tst_MvStudioWindow::statusBar()
 {
     const int year = project()->document().range().start().year();
@@ -332,9 +316,8 @@ void tst_MvStudioWindow::recovery()
     MvCalendarDocument lost = MvProjectFlow::firstDocument();
     lost.setTitle(u"Verloren"_s);
     for (const QString &name : {u"a"_s, u"b"_s}) {
-        QFile file(u"%1/%2.%3"_s.arg(MvProjectAutosave::folder(), name, MvProjectFile::suffix()));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(MvProjectFile::toBytes(lost, QDir(MvProjectAutosave::folder())));
+        QVERIFY(MvTestFiles::write(u"%1/%2.%3"_s.arg(MvProjectAutosave::folder(), name, MvProjectFile::suffix()),
+                                   MvProjectFile::toBytes(lost, QDir(MvProjectAutosave::folder()))));
     }
     m_studio->start();
     QTRY_VERIFY(dialog("recoveryDialog"));
@@ -458,19 +441,18 @@ void tst_MvStudioWindow::birthdaysWithPhotos()
 
 void tst_MvStudioWindow::orderOfBirthdays_data()
 {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QList<QDate>>("dates");
+    const MvRows<int, QList<QDate>> row; // button, dates
     const QDate anna(1990, 5, 17);
-    QTest::newRow("day first") << 0 << QList{anna, QDate(1985, 12, 4)};
-    QTest::newRow("month first") << 1 << QList{anna, QDate(1985, 4, 12)};
-    QTest::newRow("left out") << 2 << QList{anna};
-    QTest::newRow("cancelled") << -1 << QList<QDate>();
-    QTest::newRow("another calendar is open by then") << 3 << QList<QDate>();
+    row("day first", 0, QList{anna, QDate(1985, 12, 4)});
+    row("month first", 1, QList{anna, QDate(1985, 4, 12)});
+    row("left out", 2, QList{anna});
+    row("cancelled", -1, QList<QDate>());
+    row("another calendar is open by then", 3, QList<QDate>());
 }
 
 void tst_MvStudioWindow::orderOfBirthdays()
 {
-    QFETCH(int, button);
+    const auto [button, dates] = MvRows<int, QList<QDate>>::current();
     const auto question = [this] { return window()->findChild<QMessageBox *>(); };
     importCards({"Anna\r\nBDAY:19900517", "Bert\r\nBDAY:04/12/1985"});
     QTRY_VERIFY(question());
@@ -484,10 +466,10 @@ void tst_MvStudioWindow::orderOfBirthdays()
     QVERIFY(!window()->birthdayImport()->isRunning());
     QCOMPARE(report.contains(u"Bert: 04/12/1985"_s), button == 2);
     QCOMPARE(report.contains(u"nicht mehr offen"_s), button == 3);
-    QList<QDate> dates;
+    QList<QDate> found;
     for (const MvCalendarEvent &event : MvCalendarEventRegistry::instance().activeEventList())
-        dates.append(event.dateTime().date());
-    QTEST(dates, "dates");
+        found.append(event.dateTime().date());
+    QCOMPARE(found, dates);
 }
 
 void tst_MvStudioWindow::birthdaysThatAreNotSaved()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvStudioFixture.h"
 #include "MvTestFiles.h"
 #include "MvWidgetDriver.h"
@@ -357,15 +358,15 @@ void tst_StudioDateJourneys::tableIsShownFirst()
 
 void tst_StudioDateJourneys::bubbleStaysOnTheScreen_data()
 {
-    QTest::addColumn<QString>("theme");
-    QTest::newRow("light") << u"light"_s;
-    QTest::newRow("dark") << u"dark"_s;
+    const MvRows<QString> row; // theme
+    row("light", u"light"_s);
+    row("dark", u"dark"_s);
 }
 
 /// At days in all corners of a small window.
 void tst_StudioDateJourneys::bubbleStaysOnTheScreen()
 {
-    QFETCH(QString, theme);
+    const auto [theme] = MvRows<QString>::current();
     MvStudioSettings::setTheme(theme);
     MvStudioFixture studio;
     registry().setEvents({entry(u"Oma"_s, {2027, 1, 1}), entry(u"Opa"_s, {2027, 1, 1})});

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvStudioFixture.h"
 
 #include "pages/MvPageItem.h"
@@ -53,26 +54,17 @@ bool tst_StudioDesignJourneys::showColors(const MvStudioFixture &studio)
 
 void tst_StudioDesignJourneys::holidaysOfACountry_data()
 {
-    QTest::addColumn<QString>("country");
-    QTest::addColumn<QString>("region");
-    QTest::addColumn<QDate>("date");
-    QTest::addColumn<QString>("holiday");
-    QTest::addColumn<bool>("isHoliday");
+    const MvRows<QString, QString, QDate, QString, bool> row; // country, region, date, holiday, isHoliday
     const QDate epiphany(2027, 1, 6);
     const QString kings = u"Heilige Drei Könige"_s;
-    QTest::newRow("Bavaria has Epiphany") << u"Deutschland"_s << u"Bayern"_s << epiphany << kings << true;
-    QTest::newRow("Rhineland has not") << u"Deutschland"_s << u"Nordrhein"_s << epiphany << kings << false;
-    QTest::newRow("its national day") << u"Österreich"_s << u"Tirol"_s << QDate(2027, 10, 26) << u"Nationalfeiertag"_s
-                                      << true;
+    row("Bavaria has Epiphany", u"Deutschland"_s, u"Bayern"_s, epiphany, kings, true);
+    row("Rhineland has not", u"Deutschland"_s, u"Nordrhein"_s, epiphany, kings, false);
+    row("its national day", u"Österreich"_s, u"Tirol"_s, QDate(2027, 10, 26), u"Nationalfeiertag"_s, true);
 }
 
 void tst_StudioDesignJourneys::holidaysOfACountry()
 {
-    QFETCH(QString, country);
-    QFETCH(QString, region);
-    QFETCH(QDate, date);
-    QFETCH(QString, holiday);
-    QFETCH(bool, isHoliday);
+    const auto [country, region, date, holiday, isHoliday] = MvRows<QString, QString, QDate, QString, bool>::current();
     MvStudioFixture studio;
     studio.window()->setCurrentPage(date.month() - 1);
     QVERIFY(studio.openSection("contentPanel"));
@@ -189,22 +181,18 @@ void tst_StudioDesignJourneys::fonts()
 
 void tst_StudioDesignJourneys::layouts_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<int>("days");
-    QTest::newRow("strip") << u"Streifenkalender"_s << 12 << 31;
-    QTest::newRow("two weeks") << u"Zwei Wochen je Zeile"_s << 12 << 31;
-    QTest::newRow("list") << u"Tagesliste"_s << 12 << 31;
-    QTest::newRow("year overview") << u"Jahresübersicht"_s << 1 << 365;
-    QTest::newRow("year planner") << u"Jahresplaner"_s << 1 << 365;
+    const MvRows<QString, int, int> row; // name, pages, days
+    row("strip", u"Streifenkalender"_s, 12, 31);
+    row("two weeks", u"Zwei Wochen je Zeile"_s, 12, 31);
+    row("list", u"Tagesliste"_s, 12, 31);
+    row("year overview", u"Jahresübersicht"_s, 1, 365);
+    row("year planner", u"Jahresplaner"_s, 1, 365);
 }
 
 /// The day's text stays where the day goes.
 void tst_StudioDesignJourneys::layouts()
 {
-    QFETCH(QString, name);
-    QFETCH(int, pages);
-    QFETCH(int, days);
+    const auto [name, pages, days] = MvRows<QString, int, int>::current();
     MvStudioFixture studio;
     studio.window()->setCurrentPage(pages == 1 ? 5 : 0);
     QVERIFY(studio.openSection("layoutPanel"));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvStudioFixture.h"
 
 #include "flows/MvFotoFlow.h"
@@ -58,20 +59,16 @@ void tst_StudioFileJourneys::savedAndFoundAgain()
 
 void tst_StudioFileJourneys::closeQuestion_data()
 {
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<bool>("isClosed");
-    QTest::addColumn<bool>("isWritten");
-    QTest::newRow("save") << u"saveButton"_s << true << true;
-    QTest::newRow("discard") << u"discardButton"_s << true << false;
-    QTest::newRow("cancel") << u"cancelButton"_s << false << false;
-    QTest::newRow("escape") << QString() << false << false;
+    const MvRows<QString, bool, bool> row; // button, isClosed, isWritten
+    row("save", u"saveButton"_s, true, true);
+    row("discard", u"discardButton"_s, true, false);
+    row("cancel", u"cancelButton"_s, false, false);
+    row("escape", QString(), false, false);
 }
 
 void tst_StudioFileJourneys::closeQuestion()
 {
-    QFETCH(QString, button);
-    QFETCH(bool, isClosed);
-    QFETCH(bool, isWritten);
+    const auto [button, isClosed, isWritten] = MvRows<QString, bool, bool>::current();
     MvStudioFixture studio;
     const QString path = studio.path(u"familie.mvcalendar"_s);
     QVERIFY(studio.trigger("saveProjectAs"));
@@ -96,20 +93,15 @@ void tst_StudioFileJourneys::closeQuestion()
 
 void tst_StudioFileJourneys::exported_data()
 {
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("press");
-    QTest::addColumn<QStringList>("files");
-    QTest::newRow("pdf") << u"exportPdf"_s << QString() << QStringList{u"Kalender.pdf"_s};
-    QTest::newRow("print shop") << u"exportPdf"_s << u"fogra39"_s << QStringList{u"Kalender.pdf"_s};
-    QTest::newRow("png") << u"exportPng"_s << QString()
-                         << QStringList{u"2027-02-02.png"_s, u"2027-05-05.png"_s, u"2027-06-06.png"_s};
+    const MvRows<QString, QString, QStringList> row; // action, press, files
+    row("pdf", u"exportPdf"_s, QString(), QStringList{u"Kalender.pdf"_s});
+    row("print shop", u"exportPdf"_s, u"fogra39"_s, QStringList{u"Kalender.pdf"_s});
+    row("png", u"exportPng"_s, QString(), QStringList{u"2027-02-02.png"_s, u"2027-05-05.png"_s, u"2027-06-06.png"_s});
 }
 
 void tst_StudioFileJourneys::exported()
 {
-    QFETCH(QString, action);
-    QFETCH(QString, press);
-    QFETCH(QStringList, files);
+    const auto [action, press, files] = MvRows<QString, QString, QStringList>::current();
     MvStudioFixture studio;
     MvCalendarPage page = studio.document().pages().at(1);
     page.setFotoFrame(MvFotoFrame(studio.path(u"fehlt.jpg"_s)));
@@ -347,14 +339,14 @@ void tst_StudioFileJourneys::failedSavingLeadsElsewhere()
 
 void tst_StudioFileJourneys::nextCalendarIsLikeTheLast_data()
 {
-    QTest::addColumn<bool>("isOpened");
-    QTest::newRow("saved") << false;
-    QTest::newRow("opened and closed") << true;
+    const MvRows<bool> row; // isOpened
+    row("saved", false);
+    row("opened and closed", true);
 }
 
 void tst_StudioFileJourneys::nextCalendarIsLikeTheLast()
 {
-    QFETCH(const bool, isOpened);
+    const auto [isOpened] = MvRows<bool>::current();
     MvStudioFixture studio;
     MvCalendarDocument document = studio.document();
     MvPageFormat format = MvPageFormat::fromName(u"A3"_s);

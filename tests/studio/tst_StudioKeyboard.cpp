@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvStudioFixture.h"
 
 #include "flows/MvDocumentDialog.h"
@@ -233,21 +234,19 @@ void tst_StudioKeyboard::check(QWidget *window, const QWidget *area)
 
 void tst_StudioKeyboard::sections_data()
 {
-    QTest::addColumn<QString>("section"); // none: the start page
-    QTest::addColumn<QString>("layout");
+    const MvRows<QString, QString> row; // section: none: the start page; layout
     const QString month = u"MONTH_GRID_CLASSIC"_s;
     for (const char *section : {"", "themePanel", "templatePanel", "contentPanel", "layoutPanel", "colorPanel",
                                 "fontPanel", "columnHeadersPanel", "entriesPanel", "photoPanel", "dayPanel",
                                 "textPanel", "framePanel", "calendariumPanel"})
-        QTest::newRow(section) << QString::fromLatin1(section) << month;
-    QTest::newRow("columns") << u"columnHeadersPanel"_s << u"FAMILY_PLANNER"_s;
+        row(section, QString::fromLatin1(section), month);
+    row("columns", u"columnHeadersPanel"_s, u"FAMILY_PLANNER"_s);
 }
 
 /// The whole window with each of its panels, and with its start page.
 void tst_StudioKeyboard::sections()
 {
-    QFETCH(QString, section);
-    QFETCH(QString, layout);
+    const auto [section, layout] = MvRows<QString, QString>::current();
     MvStudioFixture studio(layout);
     studio.window()->resize(1280, 1000);
     if (section.isEmpty())
@@ -268,13 +267,11 @@ void tst_StudioKeyboard::sections()
 
 void tst_StudioKeyboard::dialogs_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QString>("dialog");
+    const MvRows<QString, QString, QString> newRow; // language, action, dialog
     for (const char *language : {"de", "en"}) {
-        const auto row = [language](const char *action, const char *dialog) {
-            QTest::addRow("%s %s%s", language, action, dialog)
-                << QString::fromLatin1(language) << QString::fromLatin1(action) << QString::fromLatin1(dialog);
+        const auto row = [&](const char *action, const char *dialog) {
+            newRow(QString::asprintf("%s %s%s", language, action, dialog), QString::fromLatin1(language),
+                   QString::fromLatin1(action), QString::fromLatin1(dialog));
         };
         row("newProject", "newProjectDialog");
         row("chooseLayout", "layoutDialog");
@@ -292,9 +289,7 @@ void tst_StudioKeyboard::dialogs_data()
 
 void tst_StudioKeyboard::dialogs()
 {
-    QFETCH(QString, language);
-    QFETCH(QString, action);
-    QFETCH(QString, dialog);
+    const auto [language, action, dialog] = MvRows<QString, QString, QString>::current();
     MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
     if (dialog == u"recoveryDialog"_s)
         (new MvRecoveryDialog({{}, {}}, studio.window()))->open();
@@ -316,14 +311,14 @@ void tst_StudioKeyboard::dialogs()
 
 void tst_StudioKeyboard::menus_data()
 {
-    QTest::addColumn<QString>("language");
-    QTest::newRow("German") << u"de"_s;
-    QTest::newRow("English") << u"en"_s;
+    const MvRows<QString> row; // language
+    row("German", u"de"_s);
+    row("English", u"en"_s);
 }
 
 void tst_StudioKeyboard::menus()
 {
-    QFETCH(QString, language);
+    const auto [language] = MvRows<QString>::current();
     MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
     for (const char *section : {"contentPanel", "layoutPanel", "colorPanel", "fontPanel", "entriesPanel"}) {
         QVERIFY2(studio.openSection(section), section);

@@ -9,6 +9,7 @@
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvProjectRecovery.h"
 #include "MvProjectFixture.h"
+#include "MvRows.h"
 #include "MvStudioApplication.h"
 #include "MvWidgetTest.h"
 #include "window/MvStudioWindow.h"
@@ -156,15 +157,15 @@ QHash<QByteArray, int> tst_StudioKill::kill(const QString &work, int lines)
 
 void tst_StudioKill::whileEditing_data()
 {
-    QTest::addColumn<int>("lines");
+    const MvRows<int> row; // lines
     const int rounds = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 100 : 5;
     for (int round = 1; round <= rounds; ++round)
-        QTest::addRow("round %d", round) << 2 + 5 * (round % 8);
+        row(QString::asprintf("round %d", round), 2 + 5 * (round % 8));
 }
 
 void tst_StudioKill::whileEditing()
 {
-    QFETCH(int, lines);
+    const auto [lines] = MvRows<int>::current();
     const QHash<QByteArray, int> told = kill(u"edit"_s, lines);
     QVERIFY(told.value("step") > 0);
 

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvRows.h"
 #include "MvStudioTest.h"
+#include "MvTestFiles.h"
 #include "flows/MvExportDialog.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintPages.h"
@@ -9,7 +11,6 @@
 
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProcess>
 
 using namespace Qt::StringLiterals;
 
@@ -136,27 +137,23 @@ void tst_StudioOutput::exportSheets()
 
 void tst_StudioOutput::placements_data()
 {
-    QTest::addColumn<QSizeF>("paper");  // mm
-    QTest::addColumn<double>("margin"); // that the printer leaves white at the left edge; half of it elsewhere
-    QTest::addColumn<QRectF>("read");   // of an A4 page, tenths of a millimetre
-    QTest::addColumn<int>("percent");
+    // paper: mm; margin: that the printer leaves white at the left edge; half of it elsewhere; read: of an A4 page,
+    // tenths of a millimetre
+    const MvRows<QSizeF, double, QRectF, int> row;
     const QSizeF a4(210.0, 297.0);
     const QRectF inside(120, 120, 1860, 2730);
     const QRectF all(0, 0, 2100, 2970);
-    QTest::newRow("nothing in the margin") << a4 << 10.0 << inside << 100;
-    QTest::newRow("only photos") << a4 << 10.0 << QRectF() << 100;
-    QTest::newRow("days in the margin") << a4 << 10.0 << all << 93; // 195 of 210 mm
-    QTest::newRow("a wider one at the left") << a4 << 16.0 << inside << 100;
-    QTest::newRow("a wide one") << a4 << 40.0 << inside << 81; // 150 of 186 mm, about the middle
-    QTest::newRow("small paper with margins") << QSizeF(148.0, 210.0) << 10.0 << all << 63; // 133 of 210 mm
+    row("nothing in the margin", a4, 10.0, inside, 100);
+    row("only photos", a4, 10.0, QRectF(), 100);
+    row("days in the margin", a4, 10.0, all, 93); // 195 of 210 mm
+    row("a wider one at the left", a4, 16.0, inside, 100);
+    row("a wide one", a4, 40.0, inside, 81);                              // 150 of 186 mm, about the middle
+    row("small paper with margins", QSizeF(148.0, 210.0), 10.0, all, 63); // 133 of 210 mm
 }
 
 void tst_StudioOutput::placements()
 {
-    QFETCH(const QSizeF, paper);
-    QFETCH(const double, margin);
-    QFETCH(const QRectF, read);
-    QFETCH(const int, percent);
+    const auto [paper, margin, read, percent] = MvRows<QSizeF, double, QRectF, int>::current();
     const auto printer = printerWith(paper, margin);
     QVERIFY(std::abs(MvPrintPlacement::whiteMargin(*printer) - margin) < 0.2);
     const MvPrintPlacement placement(*printer, {{2100, 2970}, read}, MvPrintPlacement::Size::Fitting);
@@ -216,9 +213,7 @@ void tst_StudioOutput::print()
     preview->reject();
     QVERIFY(dialog("progressDialog"));
     QTRY_VERIFY(!dialog("progressDialog"));
-    QFile all(path(u"alle.pdf"_s));
-    QVERIFY(all.open(QIODevice::ReadOnly));
-    QCOMPARE(all.readAll().count("/Type /Page\n"), 12);
+    QCOMPARE(MvTestFiles::contentOf(path(u"alle.pdf"_s)).count("/Type /Page\n"), 12);
 
     QPrinter printer;
     printer.setOutputFormat(QPrinter::PdfFormat);
@@ -227,9 +222,7 @@ void tst_StudioOutput::print()
     printer.setPrintRange(QPrinter::PageRange);
     printer.setFromTo(2, 4);
     flow->paint(&printer);
-    QFile file(path(u"druck.pdf"_s));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().count("/Type /Page\n"), 3);
+    QCOMPARE(MvTestFiles::contentOf(path(u"druck.pdf"_s)).count("/Type /Page\n"), 3);
 }
 
 void tst_StudioOutput::cancelledPreview()

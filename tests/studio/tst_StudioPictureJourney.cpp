@@ -16,10 +16,6 @@
 #include "MvTestFiles.h"
 #include "MvWidgetDriver.h"
 
-#include <QBuffer>
-#include <QProcess>
-#include <QStandardPaths>
-
 using namespace Qt::StringLiterals;
 
 namespace {

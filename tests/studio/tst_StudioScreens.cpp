@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRows.h"
 #include "MvStudioFixture.h"
 
 #include "common/MvProgressDialog.h"
@@ -99,15 +100,13 @@ private:
 
 void tst_StudioScreens::everyDialog_data()
 {
-    QTest::addColumn<QScreen *>("screen");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("theme");
+    const MvRows<QScreen *, QString, QString> row; // screen, language, theme
     QCOMPARE(QGuiApplication::screens().size(), qsizetype(std::size(screens)));
     int number = 0;
     for (const Screen &one : screens)
-        QTest::addRow("%dx%d@%g %s %s", one.size.width(), one.size.height(), one.scale, one.language, one.theme)
-            << QGuiApplication::screens().at(number++) << QString::fromLatin1(one.language)
-            << QString::fromLatin1(one.theme);
+        row(QString::asprintf("%dx%d@%g %s %s", one.size.width(), one.size.height(), one.scale, one.language,
+                              one.theme),
+            QGuiApplication::screens().at(number++), QString::fromLatin1(one.language), QString::fromLatin1(one.theme));
 }
 
 QList<std::pair<QString, std::function<void()>>> tst_StudioScreens::openers(const MvStudioFixture &studio)
@@ -149,9 +148,7 @@ QList<std::pair<QString, std::function<void()>>> tst_StudioScreens::openers(cons
 
 void tst_StudioScreens::everyDialog()
 {
-    QFETCH(QScreen *, screen);
-    QFETCH(QString, language);
-    QFETCH(QString, theme);
+    const auto [screen, language, theme] = MvRows<QScreen *, QString, QString>::current();
     MvStudioSettings::setTheme(theme);
     const MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
     MvCalendarPage page = studio.document().pages().first();
@@ -193,9 +190,7 @@ void tst_StudioScreens::everyDialog()
 /// The inspector keeps the width of what is in it; the start page breaks its rows.
 void tst_StudioScreens::sidePanels()
 {
-    QFETCH(QScreen *, screen);
-    QFETCH(QString, language);
-    QFETCH(QString, theme);
+    const auto [screen, language, theme] = MvRows<QScreen *, QString, QString>::current();
     MvStudioSettings::setTheme(theme);
     const MvStudioFixture studio(u"MONTH_GRID_CLASSIC"_s, language);
     MvStudioWindow *window = studio.window();

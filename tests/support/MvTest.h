@@ -3,7 +3,7 @@
 
 #include <QtTest>
 
-/// Base of every test class: a warning that no test announced fails the test.
+/// Base of every test class: a warning that no test announced fails the test. Brings all of Qt Core and Qt Test along.
 class MvTest : public QObject
 {
     Q_OBJECT
