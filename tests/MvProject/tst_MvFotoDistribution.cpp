@@ -18,6 +18,7 @@ private Q_SLOTS:
     void months_data();
     void months();
     void coverAndIndex();
+    void facesHaveRoom();
     void facingPages();
     void families_data();
     void families();
@@ -108,6 +109,23 @@ void tst_MvFotoDistribution::coverAndIndex()
     const MvFotoDistribution::Result rich = MvFotoDistribution::distribute(document);
     QCOMPARE(rich.emptyFrames, 0);
     QCOMPARE(rich.document.fotoUses().size(), 15);
+}
+
+/// A photo whose shape suits the frame a little less goes before one that would lose a part of its face there.
+void tst_MvFotoDistribution::facesHaveRoom()
+{
+    MvCalendarDocument document = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_qs, 1);
+    MvCalendarPage page = document.pages()[0];
+    page.setElements({MvPageElement({100, 100, 600, 300}, MvFotoElement())});
+    document.setPage(0, page);
+    for (const bool isKnown : {false, true}) {
+        MvFotoPoolItem face = photo(u"face"_qs, u"2027-01-05"_qs);
+        face.interest = isKnown ? MvFotoInterest({{{0.3, 0.0, 0.4, 1.0}, 1.0}}) : MvFotoInterest();
+        MvFotoPool pool;
+        pool.add({face, photo(u"view"_qs, u"2027-01-06"_qs, {2600, 2000})});
+        document.setFotoPool(pool);
+        QCOMPARE(names(MvFotoDistribution::distribute(document).document), isKnown ? u"view"_qs : u"face"_qs);
+    }
 }
 
 /// The photo of a month hangs above it; the cover gets another one.

@@ -2,8 +2,10 @@
 #include "MvRows.h"
 #include "MvTest.h"
 
+#include "MvProject/MvFotoAim.h"
 #include "MvProject/MvFotoElement.h"
 #include "MvProject/MvFotoFocus.h"
+#include "MvProject/MvFotoPool.h"
 
 #include <QPainter>
 #include <QRadialGradient>
@@ -18,6 +20,7 @@ private Q_SLOTS:
     void finds();
     void keepsFaces_data();
     void keepsFaces();
+    void keepsTheHeadOfAThing();
 };
 
 namespace {
@@ -205,6 +208,25 @@ void tst_MvFotoFocus::keepsFaces()
                  qPrintable(u"%1: %2 of %3"_qs.arg(shape).arg(QDebug::toString(part), QDebug::toString(all))));
     }
     QVERIFY(shown >= 3);
+}
+
+/// Before a window through which there is much to be seen above it, in a frame that it is too tall for.
+void tst_MvFotoFocus::keepsTheHeadOfAThing()
+{
+    QImage image = scene({800, 800}, {}, {0.3, 0.32, 0.25, 0.6});
+    QPainter painter(&image);
+    painter.scale(image.width(), image.height());
+    paintDetail(painter, {0.3, 0.02, 0.12, 0.1});
+    painter.end();
+    const MvFotoFocus::Found found = MvFotoFocus::in(image);
+    MvFotoElement foto(u"/foto.jpg"_qs);
+    for (const double shape : {1.8, 2.1, 2.4}) {
+        const QSizeF frame(shape * 1000, 1000);
+        foto.setFocus(MvFotoAim::focus({foto.path(), image.size(), {}, found.point, found.interest}, foto, frame,
+                                       {QRectF(QPointF(), frame)}));
+        const QRectF seen = foto.crop(image.size(), frame);
+        QVERIFY2(seen.top() < 0.32 * image.height(), qPrintable(QDebug::toString(seen)));
+    }
 }
 
 MV_TEST_MAIN(tst_MvFotoFocus)

@@ -21,6 +21,7 @@ constexpr int monthsPerYear = 12;
 constexpr double weightOfSeason = 0.5; // of half a year, beside a photo of which nothing is seen
 constexpr double weightOfOrder = 0.3;  // of the whole pool, for photos without a time
 constexpr double weightOfCoarseness = 0.6;
+constexpr double weightOfLost = 0.5; // of what should be seen whole and has no room
 
 struct Frame
 {
@@ -83,6 +84,20 @@ QList<Frame> framesOfPage(const MvCalendarDocument &document, int number)
     return frames;
 }
 
+/// How much of the faces, or of the one thing, can't be seen in a frame of the shape, however the photo is moved in it.
+double lostOf(const MvFotoInterest &interest, double photoShape, double frameShape)
+{
+    const QSizeF seen(std::min(1.0, frameShape / photoShape), std::min(1.0, photoShape / frameShape));
+    double lost = 0.0;
+    double all = 0.0;
+    for (const MvFotoInterest::Part &whole : interest.wholes()) {
+        all += whole.weight;
+        lost += whole.weight * (1.0 - std::min(1.0, seen.width() / whole.rect.width()) *
+                                          std::min(1.0, seen.height() / whole.rect.height()));
+    }
+    return all > 0.0 ? lost / all : 0.0;
+}
+
 /// How badly a photo suits a frame: 0 for a photo of its shape and enough pixels.
 double misfit(const MvFotoPoolItem &foto, const Frame &frame)
 {
@@ -92,7 +107,7 @@ double misfit(const MvFotoPoolItem &foto, const Frame &frame)
     const QSizeF pixels = frame.size.scaled(QSizeF(foto.size), Qt::KeepAspectRatio);
     const double ppi = MvFotoResolution::pixelsPerInch(pixels, frame.size);
     const double coarseness = std::max(0.0, 1.0 - ppi / MvFotoResolution::poorBelow);
-    return 1.0 - seen + weightOfCoarseness * coarseness;
+    return 1.0 - seen + weightOfCoarseness * coarseness + weightOfLost * lostOf(foto.interest, photoShape, frameShape);
 }
 
 /// From 0 for the page's own months to 1 for half a year away; in between for a photo without a time.

@@ -11,7 +11,7 @@
 /// Only photos that are on no page yet are taken, each once, and only empty frames get one: what a person has placed
 /// stays where it is, and distributing again changes nothing. In this order:
 /// 1. The largest frame of each month's page gets a photo of that month, of the shown year rather than another, and
-///    of several the one whose shape and size suit the frame best.
+///    of several the one whose shape and size suit the frame best, with its faces whole.
 /// 2. Months of which there is no photo get one of the others, by season, then shape; photos without a time keep their
 ///    order in the pool.
 /// 3. Covers get what suits them best of all that are left.

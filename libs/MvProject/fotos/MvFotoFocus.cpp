@@ -30,6 +30,8 @@ constexpr double edgeOfThing = 0.3;  // of what its strongest cell has
 constexpr double leastOfThing = 0.5; // of all that stands out
 constexpr double largestThing = 0.5; // of the picture
 constexpr double ofThing = 1.5;
+constexpr double widestFigure = 0.5; // of the picture's width
+constexpr double aboveFigure = 0.12; // of its height: masts and ears are too thin for cells
 
 /// A part of the picture that should be seen.
 struct Part
@@ -160,6 +162,15 @@ QRectF thingIn(const Cells &found)
                  : QRectF();
 }
 
+/// What stays in sight of a thing that is too tall for its frame.
+QRectF headOf(const QRectF &thing)
+{
+    const double above = thing.width() <= widestFigure ? aboveFigure * thing.height() : 0.0;
+    const double top = std::max(0.0, thing.top() - above);
+    const double bottom = thing.top() + std::min(heightOfTop, thing.height());
+    return {QPointF(thing.left(), top), QPointF(thing.right(), bottom)};
+}
+
 /// What is to be seen, for any frame.
 struct Sight
 {
@@ -188,11 +199,13 @@ Sight sightOf(const QImage &image)
         amounts.append(part.weight);
     if (std::none_of(amounts.cbegin(), amounts.cend(), [](double amount) { return amount > 0.0; }))
         return sight;
-    const Part top = topOf(found.parts);
-    sight.parts.append(top);
-    if (const QRectF thing = thingIn(found); !thing.isEmpty()) {
+    const QRectF thing = thingIn(found);
+    if (thing.isEmpty()) {
+        sight.parts.append(topOf(found.parts));
+    } else { // whatever stands out above it
+        sight.parts.append({headOf(thing), ofTop, true});
         wholes.append({thing, ofThing});
-        wholes.append({thing & top.rect, ofTop});
+        wholes.append({headOf(thing), ofTop});
     }
     sight.interest = MvFotoInterest(wholes, found.grid, amounts);
     return sight;
