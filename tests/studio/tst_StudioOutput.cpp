@@ -3,6 +3,7 @@
 #include "MvStudioTest.h"
 #include "MvTestFiles.h"
 #include "flows/MvExportDialog.h"
+#include "flows/MvPagePreview.h"
 #include "flows/MvPrintFlow.h"
 #include "flows/MvPrintPages.h"
 #include "flows/MvPrintPlacement.h"
@@ -22,6 +23,8 @@ class tst_StudioOutput : public MvStudioTest
 private Q_SLOTS:
     void exportErrors();
     void exportSheets();
+    void previewIsWhatComesOut_data();
+    void previewIsWhatComesOut();
     void placements_data();
     void placements();
     void chosenSize();
@@ -133,6 +136,63 @@ void tst_StudioOutput::exportSheets()
     const MvExportOptions again = static_cast<MvExportDialog *>(settings)->options();
     QVERIFY(again.forPress.keepsFotoColors && settings->findChild<QCheckBox *>(u"exportTwoSided"_s)->isChecked());
     settings->reject();
+}
+
+void tst_StudioOutput::previewIsWhatComesOut_data()
+{
+    const MvRows<int, bool, QString, int, int> row; // choice, isCut, press, page, sheet
+    row("four pages on a sheet", 3, false, QString(), 5, 1);
+    row("the back of what is cut", 3, true, QString(), 1, 1);
+    row("a made-up bleed", 0, false, u"fogra39"_s, 0, 0);
+}
+
+/// Its picture of the sheet with a photo, beside the same one of the file.
+void tst_StudioOutput::previewIsWhatComesOut()
+{
+    const auto [choice, isCut, press, page, sheet] = MvRows<int, bool, QString, int, int>::current();
+    const QString foto = m_studio->writeFoto(u"foto.png"_s, Qt::darkGreen);
+    MvCalendarPage changed = project()->document().pages().at(page);
+    changed.setFotoFrame(MvFotoFrame(foto));
+    project()->changePage(page, changed, u"Foto"_s);
+    trigger("exportPdf");
+    QDialog *settings = dialog("exportDialog");
+    settings->findChild<QLineEdit *>(u"exportTarget"_s)->setText(path(u"k.pdf"_s));
+    auto *inks = settings->findChild<QComboBox *>(u"exportPress"_s);
+    inks->setCurrentIndex(inks->findData(press));
+    settings->findChild<QDoubleSpinBox *>(u"exportBleed"_s)->setValue(0.0);
+    settings->findChild<QComboBox *>(u"exportSheets"_s)->setCurrentIndex(choice);
+    settings->findChild<QCheckBox *>(u"exportCutting"_s)->setChecked(isCut);
+    settings->findChild<QCheckBox *>(u"exportTwoSided"_s)->setChecked(isCut);
+    auto *preview = settings->findChild<MvPagePreview *>();
+    preview->showPage(page);
+    const auto greens = [preview] {
+        const QImage picture = preview->picture();
+        int count = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                count += picture.pixelColor(x, y) == QColor(Qt::darkGreen) ? 1 : 0;
+        return count;
+    };
+    QTRY_VERIFY(greens() > 500);
+    const QImage shown = preview->picture().convertToFormat(QImage::Format_Grayscale8);
+    click(settings, "exportButton");
+    if (auto *question = dialog<QMessageBox>("missingPhotosQuestion"))
+        click(question, "exportAnywayButton");
+    QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 60000);
+    dialog<QMessageBox>("informationMessage")->close();
+
+    const QString number = QString::number(sheet + 1);
+    MvTestFiles::outputOf(u"pdftoppm"_s, {u"-r"_s, u"254"_s, u"-gray"_s, u"-png"_s, u"-f"_s, number, u"-l"_s, number,
+                                          u"-singlefile"_s, path(u"k.pdf"_s), path(u"k"_s)});
+    QImage printed(path(u"k.png"_s)); // a pixel of a tenth of a millimetre
+    if (!press.isEmpty())             // the marks are cut off
+        printed = printed.copy(printed.rect().adjusted(70, 110, -70, -110));
+    printed = printed.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    int strange = 0;
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x)
+            strange += std::abs(qGray(shown.pixel(x, y)) - qGray(printed.pixel(x, y))) > 64 ? 1 : 0;
+    QVERIFY2(strange * 100 < shown.width() * shown.height(), qPrintable(QString::number(strange)));
 }
 
 void tst_StudioOutput::placements_data()

@@ -111,9 +111,8 @@ MvExportDialog::MvExportDialog(MvExportOptions::Kind kind, const MvCalendarDocum
     column->addWidget(buttons);
     const int letters = fontMetrics().averageCharWidth();
     resize(letters * 140, letters * 86);
-    m_preview->setPages(m_document, MvPageRange::parse({}, int(m_document.pages().size())).numbers);
-    m_preview->showPage(currentPage);
     validate();
+    m_preview->showPage(currentPage);
 }
 
 QWidget *MvExportDialog::createFindings()
@@ -372,24 +371,9 @@ void MvExportDialog::validate()
     const MvOutcome checked = check();
     m_message->setText(checked.isOk() ? checked.notes.join(u' ') : checked.error);
     m_export->setEnabled(checked.isOk());
-    if (const MvPageRange::Pages shown = pages(); shown.isOk())
-        m_preview->setPages(m_document, shown.numbers);
-    if (m_bleed)
-        m_preview->setBleed(std::round(m_bleed->value() * tenths));
-    showTiles();
+    if (pages().isOk())
+        m_preview->setExport(m_document, options());
     showFindings();
-}
-
-/// Where a page will be divided.
-void MvExportDialog::showTiles()
-{
-    QList<QRectF> tiles;
-    const MvSheetSettings sheets = options().sheets;
-    const MvSheetPlan plan(sheets, m_document.format().trimSize(), 1);
-    if (sheets.kind == MvSheetSettings::Kind::Tiles && plan.error().isEmpty())
-        for (int sheet = 0; sheet < plan.sheetCount(); ++sheet)
-            tiles.append(plan.parts(sheet).constFirst().part);
-    m_preview->setTiles(tiles);
 }
 
 MvExportOptions MvExportDialog::options() const

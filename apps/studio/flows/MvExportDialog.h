@@ -21,7 +21,7 @@ class QLineEdit;
 class QPushButton;
 struct MvPrintFinding;
 
-/// Asks where a calendar is to be exported to, which pages of it, and how fine. Beside it stands how the pages will
+/// Asks where a calendar is to be exported to, which pages of it, and how fine. Beside it stands what will
 /// come out of the printer, and below what of them would not print well: each line shows its place there, and leads to
 /// it in the window.
 class MvExportDialog : public QDialog
@@ -63,7 +63,6 @@ private:
     MvOutcome checkTarget() const;
     QStringList notes(const QStringList &files) const;
     void validate();
-    void showTiles();
 
     MvExportOptions::Kind m_kind;
     MvCalendarDocument m_document;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "flows/MvPagePreview.h"
 
+#include "flows/MvBleedPreview.h"
 #include "pages/MvPageThumbnail.h"
 #include "pages/MvScreenFotos.h"
 
 #include "MvGUIWidgets/MvIconRegistry.h"
-#include "MvProject/MvPrintCheck.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -72,33 +72,22 @@ QSize MvPagePreview::minimumSizeHint() const
     return {letters * 26, letters * 18 + m_bar->sizeHint().height()};
 }
 
-void MvPagePreview::setPages(const MvCalendarDocument &document, const QList<int> &pages)
+void MvPagePreview::setExport(const MvCalendarDocument &document, const MvExportOptions &options)
 {
     const int before = page();
     m_document = document;
-    m_pages = pages;
-    m_index = qMax(0, int(pages.indexOf(before)));
-    makeSoon();
-}
-
-void MvPagePreview::setBleed(double bleed)
-{
     MvPageFormat format = m_document.format();
-    format.setBleed(bleed);
+    format.setBleed(options.bleed);
     m_document.setFormat(format);
+    m_sheets = MvPreviewSheets(m_document, options);
+    m_index = qMax(0, m_sheets.indexOf(before));
     makeSoon();
-}
-
-void MvPagePreview::setTiles(const QList<QRectF> &tiles)
-{
-    m_tiles = tiles;
-    update();
 }
 
 void MvPagePreview::showPage(int page)
 {
-    if (const auto index = m_pages.indexOf(page); index >= 0)
-        m_index = int(index);
+    if (const int index = m_sheets.indexOf(page); index >= 0)
+        m_index = index;
     makeSoon();
 }
 
@@ -111,16 +100,16 @@ void MvPagePreview::mark(int page, const QRectF &rect)
 
 void MvPagePreview::leaf(int by)
 {
-    m_index = qBound(0, m_index + by, qMax(0, int(m_pages.size()) - 1));
+    m_index = qBound(0, m_index + by, qMax(0, m_sheets.count() - 1));
     makeSoon();
 }
 
 void MvPagePreview::makeSoon()
 {
-    const int count = int(m_pages.size());
+    const int count = m_sheets.count();
     m_previous->setEnabled(m_index > 0);
     m_next->setEnabled(m_index + 1 < count);
-    m_name->setText(count == 0 ? tr("Keine Seiten") : MvPrintCheck::pageName(m_document, page()));
+    m_name->setText(count == 0 ? tr("Keine Seiten") : m_sheets.at(m_index).name);
     m_later.start(0);
 }
 
@@ -129,16 +118,58 @@ QRect MvPagePreview::sheetRoom() const
     return rect().adjusted(air, air, -air, -air - m_bar->sizeHint().height());
 }
 
+/// The picture of a page, or of its part, on the sheet.
+QImage MvPagePreview::pageImage(const MvSheetPlan::Part &part, double scale)
+{
+    const auto edge =
+        part.part == m_document.format().trimRect() ? MvPageThumbnail::Edge::Trim : MvPageThumbnail::Edge::Bleed;
+    return MvPageThumbnail::make(m_document.pages().value(part.page), m_document.format(), m_document.context(),
+                                 (part.place.size() * scale).toSize(), devicePixelRatioF(), m_fotos, {},
+                                 MvPageThumbnail::Empty::Grey, edge);
+}
+
+/// What a print shop gets beyond the page, or beside photos on it.
+void MvPagePreview::paintBleed(QPainter &painter, const MvSheetPlan::Part &part, const QImage &page) const
+{
+    const QRectF trim = m_document.format().trimRect();
+    if (const double bleed = m_sheets.madeUpBleed(); bleed > 0.0)
+        MvBleedPreview(page, trim, bleed, m_sheets.bleedKind()).paint(painter);
+    if (!m_sheets.fillsBleedOfPictures())
+        return;
+    const QRectF media = m_document.format().mediaRect();
+    QTransform toPixels = QTransform::fromTranslate(-media.x(), -media.y());
+    toPixels *= QTransform::fromScale(page.width() / media.width(), page.height() / media.height());
+    const QImage trimmed = page.copy(toPixels.mapRect(trim).toRect());
+    for (const QRectF &beside : MvBleedPreview::besideFotos(m_document.pages().value(part.page), m_document.format())) {
+        painter.save();
+        painter.setClipRect(beside);
+        MvBleedPreview(trimmed, trim, m_document.format().bleed(), m_sheets.bleedKind()).paint(painter);
+        painter.restore();
+    }
+}
+
 void MvPagePreview::make()
 {
-    const QRectF media = m_document.format().mediaRect();
-    const MvCalendarPage shown = m_document.pages().value(page());
+    const MvPreviewSheets::Sheet sheet = m_sheets.at(m_index);
     m_image = {};
-    if (shown.isValid() && !media.isEmpty())
-        m_image = MvPageThumbnail::make(shown, m_document.format(), m_document.context(),
-                                        media.size().scaled(sheetRoom().size(), Qt::KeepAspectRatio).toSize(),
-                                        devicePixelRatioF(), m_fotos, {}, MvPageThumbnail::Empty::Grey,
-                                        MvPageThumbnail::Edge::Bleed);
+    if (!sheet.paper.isEmpty()) {
+        const QSize size = sheet.paper.size().scaled(sheetRoom().size(), Qt::KeepAspectRatio).toSize();
+        const double scale = size.width() / sheet.paper.width();
+        m_image = QImage(size * devicePixelRatioF(), QImage::Format_ARGB32_Premultiplied);
+        m_image.fill(Qt::white);
+        m_image.setDevicePixelRatio(devicePixelRatioF());
+        QPainter painter(&m_image);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        painter.scale(scale, size.height() / sheet.paper.height());
+        painter.translate(-sheet.paper.topLeft());
+        for (const MvSheetPlan::Part &part : sheet.parts) {
+            const QImage page = pageImage(part, scale);
+            painter.drawImage(part.place, page);
+            paintBleed(painter, part, page);
+        }
+        painter.setPen(QPen(Qt::black, 1.0 / scale));
+        painter.drawLines(sheet.cutMarks);
+    }
     update();
 }
 
@@ -160,26 +191,37 @@ void MvPagePreview::paintEvent(QPaintEvent * /*event*/)
     painter.drawImage(sheet, m_image);
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(sheet.adjusted(-0.5, -0.5, 0.5, 0.5));
-    const QRectF media = m_document.format().mediaRect();
+    const MvPreviewSheets::Sheet shown = m_sheets.at(m_index);
     QTransform toSheet;
     toSheet.translate(sheet.x(), sheet.y());
-    toSheet.scale(sheet.width() / media.width(), sheet.height() / media.height());
-    toSheet.translate(-media.x(), -media.y());
-    if (m_document.format().bleed() > 0.0) {
+    toSheet.scale(sheet.width() / shown.paper.width(), sheet.height() / shown.paper.height());
+    toSheet.translate(-shown.paper.x(), -shown.paper.y());
+    if (const QRectF trim = m_document.format().trimRect(); !m_sheets.hasSeveral() && shown.paper != trim) {
         painter.setPen(QPen(trimColor, 1.0, Qt::DashLine));
-        painter.drawRect(toSheet.mapRect(m_document.format().trimRect()));
+        painter.drawRect(toSheet.mapRect(trim));
     }
-    for (const QRectF &tile : m_tiles) { // on any photo
+    for (const QRectF &tile : m_sheets.tiles()) { // on any photo
         const QRectF part = toSheet.mapRect(tile);
         painter.setPen(QPen(QColor(255, 255, 255, 160), 3.0));
         painter.drawRect(part);
         painter.setPen(trimColor);
         painter.drawRect(part);
     }
-    if (m_markedPage == page() && !m_mark.isEmpty()) {
+    paintMark(painter, toSheet);
+}
+
+void MvPagePreview::paintMark(QPainter &painter, const QTransform &toSheet) const
+{
+    for (const MvSheetPlan::Part &part : m_sheets.at(m_index).parts) {
+        if (part.page != m_markedPage || m_mark.isEmpty())
+            continue;
+        QTransform onSheet = QTransform::fromTranslate(-part.part.x(), -part.part.y());
+        onSheet *=
+            QTransform::fromScale(part.place.width() / part.part.width(), part.place.height() / part.part.height());
+        onSheet *= QTransform::fromTranslate(part.place.x(), part.place.y());
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(markColor, 2.5));
-        const QRectF place = toSheet.mapRect(m_mark).adjusted(-markAway, -markAway, markAway, markAway);
-        painter.drawRoundedRect(place & sheet.adjusted(-2, -2, 2, 2), markAway, markAway);
+        const QRectF place = (onSheet * toSheet).mapRect(m_mark).adjusted(-markAway, -markAway, markAway, markAway);
+        painter.drawRoundedRect(place & toSheet.mapRect(part.place).adjusted(-2, -2, 2, 2), markAway, markAway);
     }
 }

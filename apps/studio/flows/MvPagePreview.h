@@ -2,6 +2,7 @@
 #pragma once
 
 #include "MvProject/MvCalendarDocument.h"
+#include "flows/MvPreviewSheets.h"
 
 #include <QImage>
 #include <QTimer>
@@ -9,10 +10,11 @@
 
 class MvScreenFotos;
 class QLabel;
+class QPainter;
 class QToolButton;
 
-/// The pages that go to print, small, one at a time: with their bleed, the line along which it is cut, and a mark
-/// around the place that a list speaks of.
+/// The sheets that come out of an export, small, one at a time: a page with its bleed and the line along which it is
+/// cut, or several pages with their marks; and a mark around the place that a list speaks of.
 class MvPagePreview : public QWidget
 {
     Q_OBJECT
@@ -22,13 +24,13 @@ public:
     ~MvPagePreview() override;
 
     /// The page that is shown stays, if it is one of them.
-    void setPages(const MvCalendarDocument &document, const QList<int> &pages);
-    void setBleed(double bleed);
-    /// The parts of each page that become sheets, in page units: their edges are shown. None for whole pages.
-    void setTiles(const QList<QRectF> &tiles);
-    /// Leafs to a page, if it is there.
+    void setExport(const MvCalendarDocument &document, const MvExportOptions &options);
+    /// Leafs to the sheet with a page, if it is there.
     void showPage(int page);
-    int page() const { return m_pages.value(m_index, -1); }
+    /// The first one on the sheet that is shown; -1 for none.
+    int page() const { return m_sheets.at(m_index).page(); }
+    /// The sheet that is shown, without what is drawn over it; null before it is painted.
+    QImage picture() const { return m_image; }
     /// A rectangle of the page with the number, in page units.
     void mark(int page, const QRectF &rect);
 
@@ -43,16 +45,18 @@ private:
     void leaf(int by);
     void makeSoon();
     void make();
+    QImage pageImage(const MvSheetPlan::Part &part, double scale);
+    void paintBleed(QPainter &painter, const MvSheetPlan::Part &part, const QImage &page) const;
+    void paintMark(QPainter &painter, const QTransform &toSheet) const;
     QRect sheetRoom() const;
 
     MvCalendarDocument m_document;
-    QList<int> m_pages;
+    MvPreviewSheets m_sheets;
     int m_index = 0;
     int m_markedPage = -1;
     QRectF m_mark;
-    QList<QRectF> m_tiles;
     MvScreenFotos *m_fotos;
-    QImage m_image; // with the bleed
+    QImage m_image; // of the sheet
     QTimer m_later;
     QWidget *m_bar;
     QToolButton *m_previous;
