@@ -6030,6 +6030,21 @@ The context menu replaces it by another photo.</translation>
     </message>
 </context>
 <context>
+    <name>MvPreviewSheets</name>
+    <message>
+        <source>Blatt %1 von %2</source>
+        <translation>Sheet %1 of %2</translation>
+    </message>
+    <message>
+        <source>Blatt %1 von %2, Vorderseite</source>
+        <translation>Sheet %1 of %2, front</translation>
+    </message>
+    <message>
+        <source>Blatt %1 von %2, Rückseite</source>
+        <translation>Sheet %1 of %2, back</translation>
+    </message>
+</context>
+<context>
     <name>MvPrintCheck</name>
     <message>
         <source>Ein Rahmen ist noch leer</source>
