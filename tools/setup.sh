@@ -5,7 +5,7 @@
 set -eu
 
 build_packages="g++ cmake ninja-build ccache pkg-config python3-minimal qt6-base-dev qt6-svg-dev
-    qt6-image-formats-plugins libgl-dev libopengl-dev libegl-dev libvulkan-dev libqpdf-dev libheif-dev libexif-dev libharfbuzz-dev
+    qt6-image-formats-plugins libgl-dev libopengl-dev libegl-dev libvulkan-dev libqpdf-dev libheif-dev libexif-dev libfontconfig-dev libharfbuzz-dev
     libzip-dev libical-dev liblcms2-dev libjpeg62-turbo-dev libpng-dev zlib1g-dev
     libqt6opengl6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-translations-l10n
     libhyphen-dev hyphen-bg hyphen-ca hyphen-cs hyphen-da hyphen-de hyphen-el hyphen-en-gb hyphen-en-us hyphen-es

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 // What the program loads for calls that are not plain.
 #include "MvFoto/MvImageLoader.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPagesCli.h"
 #include "plain/MvProgram.h"
 
@@ -13,8 +14,10 @@ namespace {
 /// Fonts and pictures are there for pages alone: it takes as long to start them as to print a list.
 std::unique_ptr<QCoreApplication> createApplication(const MvPagesCli &cli, int &argc, char **argv)
 {
-    if (cli.hasPages(MvProgram::arguments(argc, argv)))
+    if (cli.hasPages(MvProgram::arguments(argc, argv))) {
+        MvFontSupply::makeOnDemand();
         return std::make_unique<QGuiApplication>(argc, argv);
+    }
     return std::make_unique<QCoreApplication>(argc, argv);
 }
 

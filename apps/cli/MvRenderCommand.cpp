@@ -7,13 +7,12 @@
 #include "MvCliProject.h"
 #include "MvFileHints.h"
 #include "MvFotoCalendar.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPageSelection.h"
 #include "MvRenderReport.h"
 #include "MvRenderTargets.h"
 #include "plain/MvCliValues.h"
 #include "plain/MvVacationHint.h"
-
-#include <QFontDatabase>
 
 using namespace Qt::StringLiterals;
 
@@ -208,7 +207,7 @@ void MvRenderCommand::hintAtMissingFonts(const MvCalendariumAppearance &appearan
             families.append(appearance.layoutSchema().font(type).family());
     }
     families.removeDuplicates();
-    families.removeIf([](const QString &family) { return QFontDatabase::hasFamily(family); });
+    families.removeIf([](const QString &family) { return MvFontSupply::hasFamily(family); });
     if (!families.isEmpty())
         hints << tr("Schrift nicht installiert, eine andere tritt an ihre Stelle: %1").arg(families.join(u", "_s))
               << '\n';

@@ -4,6 +4,7 @@
 
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvProcessTimeZone.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvPageSource.h"
 
@@ -70,6 +71,7 @@ private:
 int main(int argc, char **argv)
 {
     MvProcessTimeZone::askOnce();
+    MvFontSupply::makeOnDemand();
     const QGuiApplication application(argc, argv);
     MvInitializer::instance().setup(MvInitializerOption::WithoutWidgets);
     MvCalendarDocument document;

@@ -2,6 +2,7 @@
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 
 #include "MvCalendar/MvSchemaFileCheck.h"
+#include "MvCalendar/MvShippedSchemata.h"
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvGeneralSettings.h"
 #include "MvXML/MvXMLBuilder.h"
@@ -18,6 +19,11 @@ using namespace Qt::StringLiterals;
 namespace {
 const QString areaTag = u"calendararea"_s;
 const QString defaultId = u"PAPER_WHITE"_s;
+
+MvShippedSchemata shippedSchemata()
+{
+    return {u"schemas/calendar_schema.xml"_s, u"colorschema"_s};
+}
 
 MvUserSchemaFile::Area areaOf(const MvCalendariumColorSchema &schema, const MvCalendariumColorSchemaID &id,
                               const MvLocalizedText &name)
@@ -55,13 +61,29 @@ std::unique_ptr<MvCalendariumColorSchemaRegistry> MvCalendariumColorSchemaRegist
 void MvCalendariumColorSchemaRegistry::setupInstance()
 {
     MvCalendariumColorSchema::setIdLookup([this](const MvCalendariumColorSchema &schema) { return id(schema); });
-    readFrom(m_userFile.read(), SCHEMA_VISIBILITY_OFFERED, m_userFile.file());
-    readShippedSchemata();
+    const QDomElement own = m_userFile.read();
+    readFrom(own, SCHEMA_VISIBILITY_OFFERED, m_userFile.file());
+    if (own.firstChildElement(areaTag).isNull())
+        m_isComplete = false;
+    else
+        readShippedSchemata();
 }
 
 void MvCalendariumColorSchemaRegistry::readShippedSchemata()
 {
-    read(MvDirectoryConfig::instance().resource(u"schemas/calendar_schema.xml"_s), SCHEMA_VISIBILITY_OFFERED);
+    const MvShippedSchemata shipped = shippedSchemata();
+    readFrom(shipped.all(), SCHEMA_VISIBILITY_OFFERED, shipped.file());
+}
+
+MvCalendariumColorSchemaRegistry &MvCalendariumColorSchemaRegistry::complete()
+{
+    const QMutexLocker lock(&m_mutex);
+    if (!m_isComplete) {
+        m_isComplete = true;
+        m_single.clear();
+        readShippedSchemata();
+    }
+    return *this;
 }
 
 void MvCalendariumColorSchemaRegistry::read(const QFileInfo &file, const MvCalendariumColorSchemaVisibility &visibility)
@@ -94,46 +116,46 @@ void MvCalendariumColorSchemaRegistry::recordRead(const QDomElement &area,
         return;
     MvSchemaFileCheck(file).checkColors(area);
     const MvCalendariumColorSchema schema(area);
-    if (m_schemata.contains(schema)) {
+    if (known().schemata.contains(schema)) {
         qWarning().noquote() << u"Duplicate schema found, aliassed %1 by %2"_s.arg(idTexts(schema).join(u", "_s),
                                                                                    id.toString());
     }
     MvLocalizedText name;
     name.read(area, u"name"_s);
     enter(schema, id, name, MvSchemaPlace(file, area));
-    setVisibility(schema, m_visibilities.value(schema) | visibility);
+    setVisibility(schema, known().visibilities.value(schema) | visibility);
 }
 
 void MvCalendariumColorSchemaRegistry::enter(const MvCalendariumColorSchema &schema,
                                              const MvCalendariumColorSchemaID &id, const MvLocalizedText &name,
                                              const MvSchemaPlace &place)
 {
-    m_schemata.insertSchema(schema);
-    const bool isNew = !m_byId.contains(id);
-    if (isNew || !(m_byId.value(id) == schema)) {
+    known().schemata.insertSchema(schema);
+    const bool isNew = !known().byId.contains(id);
+    if (isNew || !(known().byId.value(id) == schema)) {
         if (!isNew)
             takeFromOther(id, name);
-        m_byId.insert(id, schema);
-        m_ids.insert(schema, id);
+        known().byId.insert(id, schema);
+        known().ids.insert(schema, id);
     }
     if (!name.isEmpty())
-        m_names.insert(id, name);
-    m_places.insert(id, place);
+        known().names.insert(id, name);
+    known().places.insert(id, place);
 }
 
 /// The id goes to a schema with the given name. The one that had it is forgotten when it has no other.
 void MvCalendariumColorSchemaRegistry::takeFromOther(const MvCalendariumColorSchemaID &id,
                                                      const MvLocalizedText &winner)
 {
-    const MvCalendariumColorSchema loser = m_byId.value(id);
+    const MvCalendariumColorSchema loser = known().byId.value(id);
     const QString loserName = name(id);
-    m_ids.remove(loser, id);
-    m_names.remove(id);
-    const MvSchemaPlace place = m_places.take(id);
-    if (m_ids.contains(loser))
+    known().ids.remove(loser, id);
+    known().names.remove(id);
+    const MvSchemaPlace place = known().places.take(id);
+    if (known().ids.contains(loser))
         return;
-    m_visibilities.remove(loser);
-    m_schemata.deleteSchema(loser);
+    known().visibilities.remove(loser);
+    known().schemata.deleteSchema(loser);
     place.warn(tr("Das Farbschema „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, die mit USER_ "
                   "beginnt, bringt es zurück.")
                    .arg(loserName, id.toString(), winner.isEmpty() ? id.toString() : winner.text()));
@@ -141,12 +163,21 @@ void MvCalendariumColorSchemaRegistry::takeFromOther(const MvCalendariumColorSch
 
 MvCalendariumColorSchema MvCalendariumColorSchemaRegistry::findSchema(const MvCalendariumColorSchemaID &id) const
 {
-    return m_byId.value(id);
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (!m_isComplete && !m_single.contains(id)) {
+            if (const QDomElement area = shippedSchemata().one(id.toString()); !area.isNull())
+                m_single.insert(id, MvCalendariumColorSchema(area));
+        }
+        if (m_single.contains(id))
+            return m_single.value(id);
+    }
+    return known().byId.value(id);
 }
 
 bool MvCalendariumColorSchemaRegistry::contains(const MvCalendariumColorSchemaID &id) const
 {
-    return m_byId.contains(id);
+    return known().byId.contains(id);
 }
 
 MvCalendariumColorSchemaID MvCalendariumColorSchemaRegistry::id(const MvCalendariumColorSchema &schema) const
@@ -159,7 +190,7 @@ MvCalendariumColorSchemaID MvCalendariumColorSchemaRegistry::id(const MvCalendar
 
 QList<MvCalendariumColorSchemaID> MvCalendariumColorSchemaRegistry::ids(const MvCalendariumColorSchema &schema) const
 {
-    const QList<MvCalendariumColorSchemaID> latestFirst = m_ids.values(schema);
+    const QList<MvCalendariumColorSchemaID> latestFirst = known().ids.values(schema);
     return {latestFirst.crbegin(), latestFirst.crend()};
 }
 
@@ -189,28 +220,28 @@ MvCalendariumColorSchema MvCalendariumColorSchemaRegistry::defaultSchema() const
     const MvCalendariumColorSchemaID usual(defaultId);
     if (contains(usual))
         return findSchema(usual);
-    const auto shipped = std::find_if(m_schemata.cbegin(), m_schemata.cend(),
+    const auto shipped = std::find_if(known().schemata.cbegin(), known().schemata.cend(),
                                       [this](const auto &schema) { return !isUserSchema(schema); });
-    return shipped != m_schemata.cend() ? *shipped : m_schemata.value(0);
+    return shipped != known().schemata.cend() ? *shipped : known().schemata.value(0);
 }
 
 QList<MvCalendariumColorSchemaID> MvCalendariumColorSchemaRegistry::schemaIds() const
 {
     QList<MvCalendariumColorSchemaID> ids;
-    for (const MvCalendariumColorSchema &schema : m_schemata)
+    for (const MvCalendariumColorSchema &schema : known().schemata)
         ids.append(id(schema));
     return ids;
 }
 
 QString MvCalendariumColorSchemaRegistry::name(const MvCalendariumColorSchemaID &id) const
 {
-    const QString text = m_names.value(id).text();
+    const QString text = known().names.value(id).text();
     return text.isEmpty() ? id.toString() : text;
 }
 
 void MvCalendariumColorSchemaRegistry::setName(const MvCalendariumColorSchemaID &id, const MvLocalizedText &name)
 {
-    m_names.insert(id, name);
+    known().names.insert(id, name);
 }
 
 MvCalendariumColorSchemaList MvCalendariumColorSchemaRegistry::visibleSchemata() const
@@ -227,7 +258,7 @@ MvCalendariumColorSchemaList MvCalendariumColorSchemaRegistry::offeredSchemata(b
 {
     MvCalendariumColorSchemaList offered;
     const QStringList ignored = MvGeneralSettings::instance().idsToIgnore();
-    for (const MvCalendariumColorSchema &schema : filter(m_schemata, SCHEMA_VISIBILITY_OFFERED)) {
+    for (const MvCalendariumColorSchema &schema : filter(known().schemata, SCHEMA_VISIBILITY_OFFERED)) {
         const QStringList texts = idTexts(schema);
         const bool isHidden = std::any_of(texts.cbegin(), texts.cend(),
                                           [&ignored](const QString &text) { return ignored.contains(text); });
@@ -252,18 +283,18 @@ MvCalendariumColorSchemaRegistry::filter(const MvCalendariumColorSchemaList &lis
 MvCalendariumColorSchemaVisibility
 MvCalendariumColorSchemaRegistry::visibility(const MvCalendariumColorSchema &schema) const
 {
-    return m_visibilities.value(schema, SCHEMA_VISIBILITY_UNKNOWN);
+    return known().visibilities.value(schema, SCHEMA_VISIBILITY_UNKNOWN);
 }
 
 void MvCalendariumColorSchemaRegistry::setVisibility(const MvCalendariumColorSchema &schema,
                                                      const MvCalendariumColorSchemaVisibility &visibility)
 {
-    m_visibilities.insert(schema, visibility);
+    known().visibilities.insert(schema, visibility);
 }
 
 bool MvCalendariumColorSchemaRegistry::isRegistered(const MvCalendariumColorSchema &schema) const
 {
-    return m_ids.contains(schema);
+    return known().ids.contains(schema);
 }
 
 bool MvCalendariumColorSchemaRegistry::isUserSchema(const MvCalendariumColorSchema &schema) const
@@ -287,7 +318,8 @@ MvCalendariumColorSchemaRegistry::recordSchemaUniquely(const MvCalendariumColorS
 {
     const MvCalendariumColorSchemaID id = generateUniqueId();
     recordSchemaId(schema, id);
-    setVisibility(schema, m_visibilities.value(schema) | MvCalendariumColorSchemaVisibility(SCHEMA_VISIBILITY_OFFERED));
+    setVisibility(schema,
+                  known().visibilities.value(schema) | MvCalendariumColorSchemaVisibility(SCHEMA_VISIBILITY_OFFERED));
     return id;
 }
 
@@ -306,32 +338,32 @@ bool MvCalendariumColorSchemaRegistry::checkUserSchemaAndRegister(const MvCalend
 
 void MvCalendariumColorSchemaRegistry::remove(const MvCalendariumColorSchema &schema)
 {
-    for (const MvCalendariumColorSchemaID &id : m_ids.values(schema)) {
-        m_byId.remove(id);
-        m_names.remove(id);
-        m_places.remove(id);
+    for (const MvCalendariumColorSchemaID &id : known().ids.values(schema)) {
+        known().byId.remove(id);
+        known().names.remove(id);
+        known().places.remove(id);
     }
-    m_ids.remove(schema);
-    m_visibilities.remove(schema);
-    m_schemata.deleteSchema(schema);
+    known().ids.remove(schema);
+    known().visibilities.remove(schema);
+    known().schemata.deleteSchema(schema);
 }
 
 void MvCalendariumColorSchemaRegistry::removeId(const MvCalendariumColorSchemaID &id)
 {
-    const MvCalendariumColorSchema schema = m_byId.value(id);
-    if (m_ids.count(schema) <= 1) {
+    const MvCalendariumColorSchema schema = known().byId.value(id);
+    if (known().ids.count(schema) <= 1) {
         remove(schema);
         return;
     }
-    m_ids.remove(schema, id);
-    m_byId.remove(id);
-    m_names.remove(id);
-    m_places.remove(id);
+    known().ids.remove(schema, id);
+    known().byId.remove(id);
+    known().names.remove(id);
+    known().places.remove(id);
 }
 
 bool MvCalendariumColorSchemaRegistry::isIgnoredSchema(const MvCalendariumColorSchemaID &id) const
 {
-    const QStringList texts = idTexts(m_byId.value(id)) + QStringList{id.toString()};
+    const QStringList texts = idTexts(known().byId.value(id)) + QStringList{id.toString()};
     const QStringList ignored = MvGeneralSettings::instance().idsToIgnore();
     return std::any_of(texts.cbegin(), texts.cend(),
                        [&ignored](const QString &text) { return ignored.contains(text); });
@@ -353,7 +385,7 @@ void MvCalendariumColorSchemaRegistry::setIgnoreSchema(const MvCalendariumColorS
 
 void MvCalendariumColorSchemaRegistry::unsetIgnoreSchema(const MvCalendariumColorSchemaID &id)
 {
-    const QStringList texts = idTexts(m_byId.value(id)) + QStringList{id.toString()};
+    const QStringList texts = idTexts(known().byId.value(id)) + QStringList{id.toString()};
     QStringList ignored = MvGeneralSettings::instance().idsToIgnore();
     if (ignored.removeIf([&texts](const QString &text) { return texts.contains(text); }) > 0)
         MvGeneralSettings::instance().setIDsToIgnore(ignored);
@@ -365,17 +397,17 @@ void MvCalendariumColorSchemaRegistry::write(QDomElement &element, const MvCalen
         const MvCalendariumColorSchemaID schemaId = id(schema);
         QDomElement area = MvXMLBuilder::buildDomElement(element, areaTag);
         schema.write(area, schemaId);
-        m_names.value(schemaId).write(area, u"name"_s);
+        known().names.value(schemaId).write(area, u"name"_s);
     }
 }
 
 MvUserSchemaFile::Areas MvCalendariumColorSchemaRegistry::userAreas() const
 {
     MvUserSchemaFile::Areas areas;
-    for (const MvCalendariumColorSchema &schema : m_schemata) {
-        for (const MvCalendariumColorSchemaID &known : ids(schema)) {
-            if (known.isUserSchema())
-                areas.append(areaOf(schema, known, m_names.value(known)));
+    for (const MvCalendariumColorSchema &schema : known().schemata) {
+        for (const MvCalendariumColorSchemaID &each : ids(schema)) {
+            if (each.isUserSchema())
+                areas.append(areaOf(schema, each, known().names.value(each)));
         }
     }
     return areas;
@@ -430,10 +462,5 @@ void MvCalendariumColorSchemaRegistry::resetToFactoryDefaults()
 
 void MvCalendariumColorSchemaRegistry::clear()
 {
-    m_schemata.clear();
-    m_ids.clear();
-    m_byId.clear();
-    m_names.clear();
-    m_places.clear();
-    m_visibilities.clear();
+    known() = {};
 }

@@ -23,7 +23,8 @@ extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendariumColorSchemaRegi
 /// under several ids. Reading is serialised; everything else belongs to the GUI thread.
 ///
 /// A user's schema never stands before a shipped one: where both have equal colours, the shipped id is the main one;
-/// where both have one id, the shipped schema keeps it.
+/// where both have one id, the shipped schema keeps it. Where the user has none, a shipped one is read when it is asked
+/// for, the others when somebody asks for more than one.
 class MVCALENDAR_EXPORT MvCalendariumColorSchemaRegistry : public MvSingleton<MvCalendariumColorSchemaRegistry>
 {
     Q_DECLARE_TR_FUNCTIONS(MvCalendariumColorSchemaRegistry)
@@ -61,9 +62,9 @@ public:
     /// The name shown to users, in the program's language; the id where a file gives none. Attributes "name",
     /// "name_en".
     QString name(const MvCalendariumColorSchemaID &id) const;
-    MvLocalizedText localizedName(const MvCalendariumColorSchemaID &id) const { return m_names.value(id); }
+    MvLocalizedText localizedName(const MvCalendariumColorSchemaID &id) const { return known().names.value(id); }
     void setName(const MvCalendariumColorSchemaID &id, const MvLocalizedText &name);
-    MvCalendariumColorSchemaList allSchemata() const { return m_schemata; }
+    MvCalendariumColorSchemaList allSchemata() const { return known().schemata; }
     /// What choosers offer: neither deprecated nor hidden by the user.
     MvCalendariumColorSchemaList visibleSchemata() const;
     /// What they would offer, had the user not hidden it.
@@ -129,13 +130,25 @@ private:
     MvUserSchemaFile::Areas userAreas() const;
     void adopt(const MvUserSchemaFile::Areas &mine, const MvUserSchemaFile::Areas &saved);
 
-    MvCalendariumColorSchemaList m_schemata;
-    QMultiHash<MvCalendariumColorSchema, MvCalendariumColorSchemaID> m_ids; // values(): latest first
-    QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> m_byId;
-    QHash<MvCalendariumColorSchemaID, MvLocalizedText> m_names;
-    QHash<MvCalendariumColorSchemaID, MvSchemaPlace> m_places;
-    QHash<MvCalendariumColorSchema, MvCalendariumColorSchemaVisibility> m_visibilities;
+    struct Known
+    {
+        MvCalendariumColorSchemaList schemata;
+        QMultiHash<MvCalendariumColorSchema, MvCalendariumColorSchemaID> ids; // values(): latest first
+        QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> byId;
+        QHash<MvCalendariumColorSchemaID, MvLocalizedText> names;
+        QHash<MvCalendariumColorSchemaID, MvSchemaPlace> places;
+        QHash<MvCalendariumColorSchema, MvCalendariumColorSchemaVisibility> visibilities;
+    };
+
+    /// All of them.
+    Known &known() { return complete().m_known; }
+    const Known &known() const { return const_cast<MvCalendariumColorSchemaRegistry *>(this)->complete().m_known; }
+    MvCalendariumColorSchemaRegistry &complete();
+
+    Known m_known;
+    bool m_isComplete = true;                                                     // what ships is read
+    mutable QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> m_single; // shipped ones, until it is
     MvUserSchemaFile m_userFile;
     QString m_saveError;
-    mutable QRecursiveMutex m_mutex; // guards reading
+    mutable QRecursiveMutex m_mutex;
 };

@@ -3,6 +3,7 @@
 
 #include "MvCore/MvMath.h"
 #include "MvModelBase/MvFontCreator.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvXML/MvXMLBuilder.h"
 #include "MvXML/MvXMLKeywords.h"
 #include "MvXML/MvXMLParser.h"
@@ -132,6 +133,7 @@ QFont MvCalendariumFontSettings::scaledFont(const QFont &baseFont, int percentag
     if (m_weight != QFont::Normal)
         font.setWeight(m_weight);
     font.setHintingPreference(QFont::PreferNoHinting); // paper has no pixel grid: widths are those of the outlines
+    MvFontSupply::provide(font);
     return font;
 }
 

@@ -3,9 +3,9 @@
 
 #include "MvCalendar/MvLayoutCatalogue.h"
 #include "MvCalendar/MvSchemaFileCheck.h"
+#include "MvCalendar/MvShippedSchemata.h"
 #include "MvCore/MvDirectoryConfig.h"
-#include "MvModelBase/MvShippedFonts.h"
-#include "MvXML/MvXMLLoader.h"
+#include "MvModelBase/MvFontSupply.h"
 
 #include <QRandomGenerator>
 
@@ -19,6 +19,11 @@ namespace {
 
 const QString areaTag = u"calendararea"_s;
 const QString defaultId = u"MONTH_GRID_CLASSIC"_s;
+
+MvShippedSchemata shippedSchemata()
+{
+    return {u"schemas/calendar_layout.xml"_s, u"layoutschema"_s};
+}
 
 MvUserSchemaFile::Area areaOf(const MvCalendariumLayoutSchema &schema)
 {
@@ -49,15 +54,31 @@ void giveFreshId(MvUserSchemaFile::Area &area)
 MvCalendariumLayoutSchemaRegistry::MvCalendariumLayoutSchemaRegistry()
     : m_userFile(MvLayoutCatalogue::userFileName(), u"calendarlayout"_s, readArea)
 {
-    MvShippedFonts::registerAll(); // also for programs that render without having set anything up
+    MvFontSupply::start(); // also for programs that render without having set anything up
     const QDomElement own = m_userFile.read();
-    const QFileInfo shippedFile = MvDirectoryConfig::instance().resource(u"schemas/calendar_layout.xml"_s);
-    const QDomElement shipped = MvXMLLoader::loadDocumentElement(shippedFile);
-    read(own, m_userFile.file());
-    read(shipped, shippedFile);
+    if (own.firstChildElement(areaTag).isNull())
+        return;
+    read(m_known, own, m_userFile.file());
+    readShipped();
 }
 
-void MvCalendariumLayoutSchemaRegistry::read(const QDomElement &element, const QFileInfo &file)
+MvCalendariumLayoutSchemaRegistry::Known &MvCalendariumLayoutSchemaRegistry::known() const
+{
+    const QMutexLocker lock(&m_mutex);
+    if (!m_known.isComplete)
+        readShipped();
+    return m_known;
+}
+
+void MvCalendariumLayoutSchemaRegistry::readShipped() const
+{
+    const MvShippedSchemata shipped = shippedSchemata();
+    read(m_known, shipped.all(), shipped.file());
+    m_known.isComplete = true;
+    m_single.clear();
+}
+
+void MvCalendariumLayoutSchemaRegistry::read(Known &known, const QDomElement &element, const QFileInfo &file)
 {
     const MvSchemaFileCheck check(file);
     for (QDomElement area = element.firstChildElement(areaTag); !area.isNull();
@@ -66,42 +87,54 @@ void MvCalendariumLayoutSchemaRegistry::read(const QDomElement &element, const Q
         if (!schema.isValid() || !check.checkLayout(area))
             continue;
         const QString id = schema.ID().toString();
-        if (m_byId.contains(id)) {
-            m_schemata.removeIf([&id](const MvCalendariumLayoutSchema &known) { return known.ID().toString() == id; });
-            m_places.value(id).warn(tr("Das Layout „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, "
-                                       "die mit USER_ beginnt, bringt es zurück.")
-                                        .arg(m_byId.value(id).name(), id, schema.name()));
+        if (known.byId.contains(id)) {
+            known.schemata.removeIf(
+                [&id](const MvCalendariumLayoutSchema &other) { return other.ID().toString() == id; });
+            known.places.value(id).warn(
+                tr("Das Layout „%1“ bleibt weg, denn seine Kennung %2 hat auch „%3“. Eine andere, "
+                   "die mit USER_ beginnt, bringt es zurück.")
+                    .arg(known.byId.value(id).name(), id, schema.name()));
         }
-        m_schemata.append(schema);
-        m_byId.insert(id, schema);
-        m_places.insert(id, MvSchemaPlace(file, area));
+        known.schemata.append(schema);
+        known.byId.insert(id, schema);
+        known.places.insert(id, MvSchemaPlace(file, area));
     }
 }
 
 MvCalendariumLayoutSchema MvCalendariumLayoutSchemaRegistry::findSchema(const MvCalendariumLayoutSchemaID &id) const
 {
-    return m_byId.value(id.toString());
+    const QString key = id.toString();
+    {
+        const QMutexLocker lock(&m_mutex);
+        if (!m_known.isComplete && !m_single.contains(key)) {
+            if (const QDomElement area = shippedSchemata().one(key); !area.isNull())
+                m_single.insert(key, MvCalendariumLayoutSchema(area));
+        }
+        if (m_single.contains(key))
+            return m_single.value(key);
+    }
+    return known().byId.value(key);
 }
 
 MvCalendariumLayoutSchema MvCalendariumLayoutSchemaRegistry::schema(int index) const
 {
-    return m_schemata.value(index);
+    return known().schemata.value(index);
 }
 
 MvCalendariumLayoutSchema MvCalendariumLayoutSchemaRegistry::defaultSchema() const
 {
-    const MvCalendariumLayoutSchema usual = m_byId.value(defaultId);
+    const MvCalendariumLayoutSchema usual = known().byId.value(defaultId);
     if (usual.isValid())
         return usual;
-    const auto shipped =
-        std::find_if(m_schemata.cbegin(), m_schemata.cend(), [](const auto &schema) { return !schema.isUserSchema(); });
-    return shipped != m_schemata.cend() ? *shipped : m_schemata.value(0);
+    const auto shipped = std::find_if(known().schemata.cbegin(), known().schemata.cend(),
+                                      [](const auto &schema) { return !schema.isUserSchema(); });
+    return shipped != known().schemata.cend() ? *shipped : known().schemata.value(0);
 }
 
 QStringList MvCalendariumLayoutSchemaRegistry::schemaNames() const
 {
     QStringList names;
-    for (const MvCalendariumLayoutSchema &schema : m_schemata)
+    for (const MvCalendariumLayoutSchema &schema : known().schemata)
         names.append(schema.name());
     return names;
 }
@@ -110,9 +143,9 @@ bool MvCalendariumLayoutSchemaRegistry::recordUserSchema(const MvCalendariumLayo
 {
     if (!schema.isUserSchema())
         return false;
-    m_schemata.removeIf([&schema](const MvCalendariumLayoutSchema &known) { return known.ID() == schema.ID(); });
-    m_schemata.append(schema);
-    m_byId.insert(schema.ID().toString(), schema);
+    known().schemata.removeIf([&schema](const MvCalendariumLayoutSchema &each) { return each.ID() == schema.ID(); });
+    known().schemata.append(schema);
+    known().byId.insert(schema.ID().toString(), schema);
     return true;
 }
 
@@ -123,7 +156,7 @@ QString MvCalendariumLayoutSchemaRegistry::userSchemaFile()
 
 bool MvCalendariumLayoutSchemaRegistry::saveUserSchemaFile()
 {
-    const MvCalendariumLayoutSchemaList users = m_schemata.userSchemaList();
+    const MvCalendariumLayoutSchemaList users = known().schemata.userSchemaList();
     MvUserSchemaFile::Areas mine;
     for (const MvCalendariumLayoutSchema &schema : users)
         mine.append(areaOf(schema));
@@ -133,9 +166,9 @@ bool MvCalendariumLayoutSchemaRegistry::saveUserSchemaFile()
         return false;
     for (const MvUserSchemaFile::Area &area : std::as_const(mine)) {
         if (!saved.areas.contains(area)) {
-            m_schemata.removeIf(
-                [&area](const MvCalendariumLayoutSchema &known) { return known.ID().toString() == area.id; });
-            m_byId.remove(area.id);
+            known().schemata.removeIf(
+                [&area](const MvCalendariumLayoutSchema &each) { return each.ID().toString() == area.id; });
+            known().byId.remove(area.id);
         }
     }
     for (const MvUserSchemaFile::Area &area : saved.areas) {

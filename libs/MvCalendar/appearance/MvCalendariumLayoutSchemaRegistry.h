@@ -8,12 +8,15 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QMutex>
 #include <QStringList>
 
 class MvCalendariumLayoutSchemaRegistry;
 extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendariumLayoutSchemaRegistry>;
 
 /// All layout schemas of the process: those of the user's file, then the shipped ones, which win where ids are equal.
+/// Where the user has none, a shipped one is read when it is asked for, the others when somebody asks for more than
+/// one.
 class MVCALENDAR_EXPORT MvCalendariumLayoutSchemaRegistry : public MvSingleton<MvCalendariumLayoutSchemaRegistry>
 {
     Q_DECLARE_TR_FUNCTIONS(MvCalendariumLayoutSchemaRegistry)
@@ -27,7 +30,7 @@ public:
     MvCalendariumLayoutSchema findSchema(const MvCalendariumLayoutSchemaID &id) const;
     /// The schema at a position of the list; an invalid one out of range.
     MvCalendariumLayoutSchema schema(int index) const;
-    const MvCalendariumLayoutSchemaList &schemata() const { return m_schemata; }
+    const MvCalendariumLayoutSchemaList &schemata() const { return known().schemata; }
     /// What new pages begin with and what stands in for unknown layouts: a shipped one, whatever the user has made. An
     /// invalid schema when nothing is shipped.
     MvCalendariumLayoutSchema defaultSchema() const;
@@ -45,11 +48,22 @@ public:
     QString saveError() const { return m_saveError; }
 
 private:
-    void read(const QDomElement &element, const QFileInfo &file);
+    struct Known
+    {
+        MvCalendariumLayoutSchemaList schemata;
+        QHash<QString, MvCalendariumLayoutSchema> byId;
+        QHash<QString, MvSchemaPlace> places; // by id
+        bool isComplete = false;
+    };
 
-    MvCalendariumLayoutSchemaList m_schemata;
-    QHash<QString, MvCalendariumLayoutSchema> m_byId;
-    QHash<QString, MvSchemaPlace> m_places; // by id
+    /// All of them.
+    Known &known() const;
+    void readShipped() const;
+    static void read(Known &known, const QDomElement &element, const QFileInfo &file);
+
+    mutable Known m_known;
+    mutable QHash<QString, MvCalendariumLayoutSchema> m_single; // shipped ones, until all are known
+    mutable QMutex m_mutex;                                     // guards both until then
     MvUserSchemaFile m_userFile;
     QString m_saveError;
 };

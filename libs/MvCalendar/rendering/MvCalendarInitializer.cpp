@@ -8,7 +8,7 @@
 #include "MvCore/MvBackground.h"
 #include "MvCore/MvInitializer.h"
 #include "MvCore/MvSafeFileWriter.h"
-#include "MvModelBase/MvShippedFonts.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
 
 #include <QGuiApplication>
@@ -28,7 +28,7 @@ void MvCalendarInitializer::setup(MvInitializerOption)
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
         MvBackground::keepThreads();       // while there are some
     MvSafeFileWriter::finishInterrupted(); // before anything reads the files
-    MvShippedFonts::registerAll();
+    MvFontSupply::start();
     initCalendarHolidays();
 }
 

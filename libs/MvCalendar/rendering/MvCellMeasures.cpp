@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCore/MvMath.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvTextPainter.h"
 
 #include <QFontMetricsF>
@@ -24,7 +25,9 @@ QSizeF MvCellMeasures::minimumSizeFont(const MvCalendarCellType &type, QPaintDev
 {
     if (text.isEmpty())
         return {0.0, 0.0};
-    const QFontMetricsF metrics = MvCalendariumRenderer::calculateFontMetrics(m_renderer.font(type), device);
+    const QFont font = m_renderer.font(type);
+    MvFontSupply::provide(font, text);
+    const QFontMetricsF metrics = MvCalendariumRenderer::calculateFontMetrics(font, device);
     return {metrics.horizontalAdvance(text), metrics.height()};
 }
 

@@ -25,13 +25,16 @@ Tables tablesOf(const QRawFont &font)
     return tables;
 }
 
+hb_blob_t *blobOf(const QByteArray &bytes)
+{
+    return hb_blob_create(bytes.constData(), static_cast<unsigned>(bytes.size()), HB_MEMORY_MODE_READONLY,
+                          new QByteArray(bytes), [](void *kept) { delete static_cast<QByteArray *>(kept); });
+}
+
 hb_blob_t *referTo(hb_face_t *, hb_tag_t tag, void *tables)
 {
     const QByteArray table = static_cast<const Tables *>(tables)->value(tag);
-    return table.isEmpty()
-               ? nullptr
-               : hb_blob_create(table.constData(), static_cast<unsigned>(table.size()), HB_MEMORY_MODE_READONLY,
-                                new QByteArray(table), [](void *kept) { delete static_cast<QByteArray *>(kept); });
+    return table.isEmpty() ? nullptr : blobOf(table);
 }
 
 constexpr double steps =
@@ -95,8 +98,20 @@ MvFontDrawing::MvFontDrawing(const QRawFont &font)
     const bool hasOutlines = !tables->value(glyf).isEmpty() || !tables->value(cff).isEmpty();
     if (!hasOutlines || !font.fontTable("fvar").isEmpty())
         return;
-    hb_face_t *face =
-        hb_face_create_for_tables(referTo, tables.release(), [](void *owned) { delete static_cast<Tables *>(owned); });
+    setFace(
+        hb_face_create_for_tables(referTo, tables.release(), [](void *owned) { delete static_cast<Tables *>(owned); }));
+}
+
+MvFontDrawing::MvFontDrawing(const QByteArray &file)
+{
+    hb_blob_t *bytes = blobOf(file);
+    setFace(hb_face_create(bytes, 0));
+    hb_blob_destroy(bytes); // the face holds it
+}
+
+/// Takes it over.
+void MvFontDrawing::setFace(hb_face_t *face)
+{
     m_unitsPerEm = static_cast<int>(hb_face_get_upem(face));
     m_font.reset(hb_font_create(face));
     hb_face_destroy(face); // the font holds it

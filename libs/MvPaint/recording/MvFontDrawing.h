@@ -5,7 +5,9 @@
 
 #include <memory>
 
+class QByteArray;
 class QRawFont;
+struct hb_face_t;
 struct hb_font_t;
 
 /// How a font's glyphs are drawn, read from its tables: in any size the same shape. The text engine would take each
@@ -17,6 +19,8 @@ class MvFontDrawing
 {
 public:
     explicit MvFontDrawing(const QRawFont &font);
+    /// The first font of a file.
+    explicit MvFontDrawing(const QByteArray &file);
 
     /// False for a font without outlines of its own or with variable ones: only the text engine knows these.
     bool isThere() const { return m_font != nullptr; }
@@ -29,6 +33,8 @@ private:
     {
         void operator()(hb_font_t *font) const;
     };
+
+    void setFace(hb_face_t *face);
 
     std::unique_ptr<hb_font_t, Release> m_font;
     int m_unitsPerEm = 1000;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvGlyphCoverage.h"
 
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvPrintableText.h"
 
 #include <QGlyphRun>
-#include <QGuiApplication>
 #include <QHash>
 #include <QMutex>
 #include <QTextLayout>
@@ -50,8 +50,7 @@ class Known
 public:
     Known()
     {
-        if (qGuiApp)
-            QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [this] { clear(); });
+        MvFontSupply::whenFontsChange([this] { clear(); });
     }
 
     bool isShown(const QFont &font, char32_t c)
@@ -81,6 +80,7 @@ private:
 QString MvGlyphCoverage::missingCharacters(const QFont &font, const QString &text)
 {
     static Known known;
+    MvFontSupply::provide(font, text);
     QString missing;
     const QList<uint> characters = MvPrintableText::shapeable(text).toUcs4();
     for (const char32_t c : characters) {

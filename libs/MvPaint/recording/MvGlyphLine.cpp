@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvGlyphLine.h"
 
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvGlyphOutlines.h"
 #include "MvPaint/MvGlyphPictures.h"
 
@@ -53,16 +54,6 @@ std::optional<Step> stepToMatch(const QList<quint32> &characters, qsizetype char
     return std::nullopt;
 }
 
-/// The glyph where it stands, as a path of its own: filling a path changes it, and the glyph's is that of many texts.
-QPainterPath placed(const MvTextOutline::Glyph &glyph)
-{
-    QPainterPath path;
-    path.setFillRule(Qt::WindingFill);
-    path.addPath(glyph.path);
-    path.translate(glyph.origin);
-    return path;
-}
-
 /// Boxes in place of letters whose script no font can set: they have no size, and whoever asks for the name of such a
 /// font crashes.
 bool hasNoFont(const QGlyphRun &run)
@@ -84,6 +75,7 @@ QList<QGlyphRun> fromLeftToRight(QList<QGlyphRun> runs)
 MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
     : m_seen(asShown(text, font.capitalization()))
 {
+    MvFontSupply::provide(font, text);
     m_path.setFillRule(Qt::WindingFill);
     const bool hasPictures = MvGlyphPictures::mayBeNeeded(font, text);
     if (isDecorated(font) && !hasPictures) {
@@ -132,18 +124,9 @@ void MvGlyphLine::add(const QGlyphRun &run, double baseline)
         glyph.origin = positions.at(i) - QPointF(0.0, baseline);
         glyph.path = outlines.outline(face, font, indexes[i]);
         m_glyphs.append(glyph);
-        addPart(placed(glyph));
+        m_path.addPath(glyph.path.translated(glyph.origin));
     }
     assignCharacters(run, first);
-}
-
-void MvGlyphLine::addPart(const QPainterPath &path)
-{
-    if (path.isEmpty())
-        return;
-    m_path.addPath(path);
-    const QRectF bounds = path.controlPointRect();
-    m_parts.append({path, bounds.left(), bounds.right(), bounds.top(), bounds.bottom()});
 }
 
 void MvGlyphLine::addPictures(const QGlyphRun &run, double baseline)

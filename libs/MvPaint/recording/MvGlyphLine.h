@@ -19,12 +19,9 @@ public:
     const QList<MvTextOutline::Glyph> &glyphs() const { return m_glyphs; }
     const QList<MvTextOutline::Picture> &pictures() const { return m_pictures; }
     const QPainterPath &path() const { return m_path; }
-    /// The path by glyphs, those that are seen; empty when the path is of none.
-    const QList<MvTextOutline::Group> &parts() const { return m_parts; }
 
 private:
     void add(const QGlyphRun &run, double baseline);
-    void addPart(const QPainterPath &path);
     void addPictures(const QGlyphRun &run, double baseline);
     /// Finds the characters that the glyphs from `first` on stand for. The text engine does not say it: glyphs that are
     /// those of single characters are recognised, and what lies between belongs together, as a ligature does.
@@ -36,5 +33,4 @@ private:
     QList<MvTextOutline::Glyph> m_glyphs;
     QList<MvTextOutline::Picture> m_pictures;
     QPainterPath m_path;
-    QList<MvTextOutline::Group> m_parts;
 };

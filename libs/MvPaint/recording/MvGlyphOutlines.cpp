@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvGlyphOutlines.h"
 
+#include "MvModelBase/MvFontSupply.h"
+
 #include <QRawFont>
 
 #include <algorithm>
@@ -51,15 +53,22 @@ QPainterPath MvGlyphOutlines::outline(int face, const QRawFont &font, quint32 in
 
 QPainterPath MvGlyphOutlines::drawn(int face, const QRawFont &font, quint32 index)
 {
-    Drawing drawing;
-    {
+    std::optional<Drawing> drawing = known(face);
+    if (!drawing) {
+        const QByteArray file = MvFontSupply::fileOf(font); // which locks, too
         const QMutexLocker lock(&m_mutex);
-        const auto known = m_drawings.constFind(face);
-        if (known == m_drawings.cend())
+        if (file.isEmpty())
             return compared(face, font, index);
-        drawing = *known;
+        drawing = m_drawings[face] = std::make_shared<MvFontDrawing>(file);
     }
-    return drawing ? drawing->glyph(index, font.pixelSize()) : font.pathForGlyph(index);
+    return *drawing ? (*drawing)->glyph(index, font.pixelSize()) : font.pathForGlyph(index);
+}
+
+std::optional<MvGlyphOutlines::Drawing> MvGlyphOutlines::known(int face)
+{
+    const QMutexLocker lock(&m_mutex);
+    const auto known = m_drawings.constFind(face);
+    return known != m_drawings.cend() ? std::optional(*known) : std::nullopt;
 }
 
 /// The first glyph of a face that is seen tells whether the font's own drawing is what the text engine shows.

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class QRawFont;
 
@@ -58,6 +59,7 @@ private:
 
     using Drawing = std::shared_ptr<const MvFontDrawing>;
 
+    std::optional<Drawing> known(int face);
     QPainterPath drawn(int face, const QRawFont &font, quint32 index);
     QPainterPath compared(int face, const QRawFont &font, quint32 index);
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace {
 /// Rasterising works in 1/64 of a pixel; a pixel nearer than this to a shape may be touched by it.
@@ -67,7 +68,7 @@ void fillInParts(QPainter &painter, const MvTextOutline &outline, const QBrush &
         while (end < groups.size() && firstColumn(groups[end]) <= lastColumn(groups[end - 1]))
             ++end;
         if (end - first == groups.size()) {
-            painter.fillPath(outline.path(), brush);
+            painter.fillPath(outline.pathForRaster(), brush);
         } else if (end - first == 1) {
             painter.fillPath(groups[first].path, brush);
         } else {
@@ -86,12 +87,15 @@ void fillOnRaster(QPainter &painter, const MvPlacedOutline &line, const QBrush &
     if (canSplit(painter))
         fillInParts(painter, line.outline, brush);
     else
-        painter.fillPath(line.outline.path(), brush);
+        painter.fillPath(line.outline.pathForRaster(), brush);
 }
 
 QPainterPath joined(const QList<MvPlacedOutline> &lines)
 {
     QPainterPath path;
+    path.reserve(std::accumulate(lines.cbegin(), lines.cend(), 1, [](int count, const MvPlacedOutline &line) {
+        return count + line.outline.elementCount();
+    }));
     for (const MvPlacedOutline &line : lines)
         path.addPath(line.outline.path().translated(line.baseline));
     path.setFillRule(Qt::WindingFill);

@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <mutex>
 #include <vector>
 
 struct MvTextOutlineImpl : MvSharedData
@@ -18,9 +19,11 @@ struct MvTextOutlineImpl : MvSharedData
     QPainterPath path;
     QRectF bounds;
     double advance = 0.0;
-    QList<MvTextOutline::Group> groups;
     QList<MvTextOutline::Glyph> glyphs;
     QList<MvTextOutline::Picture> pictures;
+
+    mutable std::once_flag isForRaster;
+    mutable QList<MvTextOutline::Group> groups; // when it is
 };
 
 namespace {
@@ -80,6 +83,27 @@ QList<Group> contoursAsParts(const QPainterPath &path)
     return parts;
 }
 
+/// The glyph where it stands, as a path of its own: filling a path changes it, and the glyph's is that of many texts.
+Group placed(const MvTextOutline::Glyph &glyph)
+{
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    path.addPath(glyph.path);
+    path.translate(glyph.origin);
+    const QRectF bounds = path.controlPointRect();
+    return {path, bounds.left(), bounds.right(), bounds.top(), bounds.bottom()};
+}
+
+QList<Group> glyphsAsParts(const QList<MvTextOutline::Glyph> &glyphs)
+{
+    QList<Group> parts;
+    for (const MvTextOutline::Glyph &glyph : glyphs) {
+        if (!glyph.path.isEmpty())
+            parts.append(placed(glyph));
+    }
+    return parts;
+}
+
 /// Joins the parts that share an x.
 QList<Group> groupsOf(QList<Group> parts)
 {
@@ -99,8 +123,8 @@ QList<Group> groupsOf(QList<Group> parts)
     return groups;
 }
 
-/// QPainterPath caches a converted form inside its shared data when it is first filled. Filling it here, before the
-/// path is shared, means that threads that fill it later only read.
+/// QPainterPath caches a converted form inside its shared data when it is first filled. Filling it here, before others
+/// may fill it, means that threads that do so later only read.
 void prepareForThreads(const MvTextOutlineImpl &outline)
 {
     thread_local QImage image(1, 1, QImage::Format_ARGB32_Premultiplied); // making it takes as long as a short text
@@ -111,18 +135,22 @@ void prepareForThreads(const MvTextOutlineImpl &outline)
         painter.fillPath(group.path, Qt::black);
 }
 
-/// The parts of the path, if they are known.
-void setPath(MvTextOutlineImpl &outline, const QPainterPath &path, const QList<Group> &parts)
+void makeForRaster(const MvTextOutlineImpl &outline)
 {
-    outline.path = path;
-    outline.path.setFillRule(Qt::WindingFill);
-    outline.bounds = path.controlPointRect();
-    if (path.isEmpty())
+    if (outline.path.isEmpty())
         return;
+    const QList<Group> parts = glyphsAsParts(outline.glyphs);
     outline.groups = groupsOf(parts.isEmpty() ? contoursAsParts(outline.path) : parts);
     if (outline.groups.size() == 1)
         outline.groups.first().path = outline.path; // one record instead of two
     prepareForThreads(outline);
+}
+
+void setPath(MvTextOutlineImpl &outline, const QPainterPath &path)
+{
+    outline.path = path;
+    outline.path.setFillRule(Qt::WindingFill);
+    outline.bounds = path.controlPointRect();
 }
 } // namespace
 
@@ -137,7 +165,7 @@ MvTextOutline::MvTextOutline(const QFont &font, const QString &text)
     d->text = text;
     d->advance = MvTextOutlineCache::instance().advance(font, text); // mostly asked for before
     const MvGlyphLine line(font, text);
-    setPath(*d, line.path(), line.parts());
+    setPath(*d, line.path());
     d->glyphs = line.glyphs();
     d->pictures = line.pictures();
     for (const Picture &picture : line.pictures())
@@ -150,7 +178,7 @@ MvTextOutline::MvTextOutline(const QFont &font, const QString &text, const QPain
     d->font = font;
     d->text = text;
     d->advance = advance;
-    setPath(*d, path, {});
+    setPath(*d, path);
 }
 
 MvTextOutline::MvTextOutline(const MvTextOutline &) = default;
@@ -161,7 +189,7 @@ MvTextOutline::~MvTextOutline() = default;
 
 bool MvTextOutline::isEmpty() const
 {
-    return d->groups.isEmpty() && d->pictures.isEmpty();
+    return d->path.isEmpty() && d->pictures.isEmpty();
 }
 
 QFont MvTextOutline::font() const
@@ -176,6 +204,12 @@ QString MvTextOutline::text() const
 
 const QPainterPath &MvTextOutline::path() const
 {
+    return d->path;
+}
+
+const QPainterPath &MvTextOutline::pathForRaster() const
+{
+    groups();
     return d->path;
 }
 
@@ -206,5 +240,6 @@ int MvTextOutline::elementCount() const
 
 const QList<MvTextOutline::Group> &MvTextOutline::groups() const
 {
+    std::call_once(d->isForRaster, [this] { makeForRaster(*d); });
     return d->groups;
 }

@@ -71,7 +71,10 @@ public:
 
     QFont font() const;
     QString text() const;
+    /// To be filled by one thread at a time: Qt keeps in a path what it makes of it for raster targets.
     const QPainterPath &path() const;
+    /// The same for several threads.
+    const QPainterPath &pathForRaster() const;
 
     /// The glyphs that make up the path, blanks too, from left to right; empty when that is not known: for an outline
     /// that was shaped elsewhere, and under decorations.
@@ -85,11 +88,12 @@ public:
     double advance() const;
     int elementCount() const;
 
-    /// From left to right.
+    /// From left to right. For raster targets, which most outlines never meet: made when they are first asked for. Safe
+    /// to be asked for, and filled, by several threads.
     const QList<Group> &groups() const;
 
 private:
-    QSharedDataPointer<MvTextOutlineImpl> d;
+    QExplicitlySharedDataPointer<MvTextOutlineImpl> d;
 };
 
 /// A line of text with the place of its baseline's start.

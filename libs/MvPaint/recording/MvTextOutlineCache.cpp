@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvTextOutlineCache.h"
 
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvGlyphOutlines.h"
 
 #include <QFontMetricsF>
-#include <QGuiApplication>
 
 #include <algorithm>
 
@@ -21,11 +21,10 @@ MvTextOutlineCache::MvTextOutlineCache(int maximumElements)
 
 void MvTextOutlineCache::setupInstance()
 {
-    if (qGuiApp)
-        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [this] {
-            MvGlyphOutlines::instance().forget();
-            clear();
-        });
+    MvFontSupply::whenFontsChange([this] {
+        MvGlyphOutlines::instance().forget();
+        clear();
+    });
 }
 
 MvTextOutlineCache::Key MvTextOutlineCache::key(const QFont &font, const QString &text)
@@ -41,6 +40,7 @@ double MvTextOutlineCache::advance(const QFont &font, const QString &text)
         if (const double *known = m_advances.object(key))
             return *known;
     }
+    MvFontSupply::provide(font, text);
     const double fresh = QFontMetricsF(font).horizontalAdvance(text);
     if (text.size() > longestKept)
         return fresh;

@@ -12,3 +12,11 @@ QFont MvFontCreator::createDefaultFont()
 {
     return QFont(instance().defaultFontFamily(), 10);
 }
+
+QFont MvFontCreator::createMarkFont(int pixelSize)
+{
+    QFont font = createDefaultFont();
+    font.setPixelSize(pixelSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}

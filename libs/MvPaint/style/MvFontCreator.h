@@ -17,4 +17,6 @@ public:
     QString defaultFontFamily() const;
     /// The default family at 10 points, normal weight.
     static QFont createDefaultFont();
+    /// The default family for what stands beside pages, in sizes that no screen has a say in.
+    static QFont createMarkFont(int pixelSize);
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvModelBase/MvFontTester.h"
 
+#include "MvModelBase/MvFontSupply.h"
+
 #include <QFont>
 #include <QFontDatabase>
 #include <QRawFont>
@@ -37,6 +39,7 @@ bool hasLetters(const QString &family)
 void MvFontTester::updateFonts()
 {
     m_goodFonts.clear();
+    MvFontSupply::provideAll();
     const QStringList families = QFontDatabase::families();
     std::copy_if(families.cbegin(), families.cend(), std::back_inserter(m_goodFonts), isGoodFont);
     m_goodFonts.sort(Qt::CaseInsensitive);

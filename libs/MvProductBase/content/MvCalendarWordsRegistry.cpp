@@ -2,8 +2,9 @@
 #include "MvProductBase/MvCalendarWordsRegistry.h"
 
 #include "MvCore/MvDirectoryConfig.h"
-#include "MvXML/MvXMLLoader.h"
-#include "MvXML/MvXMLParser.h"
+#include "MvXML/MvXMLElement.h"
+
+#include <QDebug>
 
 template class MvSingleton<MvCalendarWordsRegistry>;
 
@@ -16,6 +17,17 @@ QString withoutDot(QString name)
     while (name.endsWith(u'.'))
         name.chop(1);
     return name;
+}
+
+/// The root element of a file of words; a null one, which is told, when it cannot be read.
+MvXMLElement rootOf(const QString &file)
+{
+    const QFileInfo found = MvDirectoryConfig::instance().resource(u"words/"_s + file);
+    MvXMLFile::Error error;
+    const MvXMLElement root = found.exists() ? MvXMLElement::load(found, &error) : MvXMLElement();
+    if (error.isError())
+        qWarning().noquote() << error.describe(found);
+    return root;
 }
 
 bool isDay(int day)
@@ -52,55 +64,55 @@ MvLocale MvCalendarWordsRegistry::defaultLanguage()
 
 void MvCalendarWordsRegistry::readWeekWords()
 {
-    const QFileInfo file = MvDirectoryConfig::instance().resource(u"words/weeks.xml"_s);
-    const QDomElement root = MvXMLLoader::loadDocumentElement(file);
-    for (QDomElement week = root.firstChildElement(u"week"_s); !week.isNull();
-         week = week.nextSiblingElement(u"week"_s)) {
+    const MvXMLElement root = rootOf(u"weeks.xml"_s);
+    for (const MvXMLElement &week : root.children) {
+        if (week.name != u"week")
+            continue;
         WeekWords words;
-        words.shortWord = MvXMLParser::textAttribute(week, u"short"_s, u"W"_s);
-        words.headline = MvXMLParser::textAttribute(week, u"headline"_s, words.shortWord);
-        words.text = MvXMLParser::textAttribute(week, u"text"_s, u"%1"_s);
-        m_weekWords.insert(MvXMLParser::textAttribute(week, u"language"_s), words);
+        words.shortWord = week.attribute(u"short"_s, u"W"_s);
+        words.headline = week.attribute(u"headline"_s, words.shortWord);
+        words.text = week.attribute(u"text"_s, u"%1"_s);
+        m_weekWords.insert(week.attribute(u"language"_s), words);
     }
 }
 
 void MvCalendarWordsRegistry::readPhrases()
 {
-    const QFileInfo file = MvDirectoryConfig::instance().resource(u"words/phrases.xml"_s);
-    const QDomElement root = MvXMLLoader::loadDocumentElement(file);
-    for (QDomElement element = root.firstChildElement(u"phrases"_s); !element.isNull();
-         element = element.nextSiblingElement(u"phrases"_s)) {
+    const MvXMLElement root = rootOf(u"phrases.xml"_s);
+    for (const MvXMLElement &element : root.children) {
+        if (element.name != u"phrases")
+            continue;
         Phrases phrases;
-        phrases.schoolYear = MvXMLParser::textAttribute(element, u"schoolyear"_s, phrases.schoolYear);
-        phrases.mother = MvXMLParser::textAttribute(element, u"mother"_s);
-        phrases.father = MvXMLParser::textAttribute(element, u"father"_s);
-        phrases.child = MvXMLParser::textAttribute(element, u"child"_s);
-        phrases.photo = MvXMLParser::textAttribute(element, u"photo"_s, phrases.photo);
+        phrases.schoolYear = element.attribute(u"schoolyear"_s, phrases.schoolYear);
+        phrases.mother = element.attribute(u"mother"_s);
+        phrases.father = element.attribute(u"father"_s);
+        phrases.child = element.attribute(u"child"_s);
+        phrases.photo = element.attribute(u"photo"_s, phrases.photo);
         Titles &titles = phrases.titles;
-        titles.calendar = MvXMLParser::textAttribute(element, u"calendar"_s, titles.calendar);
-        titles.period = MvXMLParser::textAttribute(element, u"period"_s, titles.period);
-        titles.cover = MvXMLParser::textAttribute(element, u"cover"_s, titles.cover);
-        titles.back = MvXMLParser::textAttribute(element, u"back"_s, titles.back);
-        titles.further = MvXMLParser::textAttribute(element, u"further"_s, titles.further);
+        titles.calendar = element.attribute(u"calendar"_s, titles.calendar);
+        titles.period = element.attribute(u"period"_s, titles.period);
+        titles.cover = element.attribute(u"cover"_s, titles.cover);
+        titles.back = element.attribute(u"back"_s, titles.back);
+        titles.further = element.attribute(u"further"_s, titles.further);
         Sheets &sheets = phrases.sheets;
-        sheets.sheet = MvXMLParser::textAttribute(element, u"sheet"_s, sheets.sheet);
-        sheets.tile = MvXMLParser::textAttribute(element, u"tile"_s, sheets.tile);
-        sheets.back = MvXMLParser::textAttribute(element, u"sheetback"_s, sheets.back);
-        phrases.anniversary = MvXMLParser::textAttribute(element, u"anniversary"_s, phrases.anniversary);
-        m_phrases.insert(MvXMLParser::textAttribute(element, u"language"_s), phrases);
+        sheets.sheet = element.attribute(u"sheet"_s, sheets.sheet);
+        sheets.tile = element.attribute(u"tile"_s, sheets.tile);
+        sheets.back = element.attribute(u"sheetback"_s, sheets.back);
+        phrases.anniversary = element.attribute(u"anniversary"_s, phrases.anniversary);
+        m_phrases.insert(element.attribute(u"language"_s), phrases);
     }
 }
 
 void MvCalendarWordsRegistry::readPatterns()
 {
-    const QFileInfo file = MvDirectoryConfig::instance().resource(u"words/patterns.xml"_s);
-    const QDomElement root = MvXMLLoader::loadDocumentElement(file);
-    for (QDomElement element = root.firstChildElement(u"patterns"_s); !element.isNull();
-         element = element.nextSiblingElement(u"patterns"_s)) {
+    const MvXMLElement root = rootOf(u"patterns.xml"_s);
+    for (const MvXMLElement &element : root.children) {
+        if (element.name != u"patterns")
+            continue;
         const auto pattern = [&element](const QString &name, const QString &otherwise) {
-            return MvXMLParser::textAttribute(element, name, otherwise);
+            return element.attribute(name, otherwise);
         };
-        m_patterns.insert(MvXMLParser::textAttribute(element, u"language"_s),
+        m_patterns.insert(element.attribute(u"language"_s),
                           {pattern(u"month"_s, u"%1 %2"_s), pattern(u"week"_s, u"%1 %2"_s), pattern(u"day"_s, u"d.M"_s),
                            pattern(u"ofday"_s, u"%1: %2"_s), pattern(u"oftwodays"_s, u"%1/%2: %3"_s),
                            pattern(u"ofdays"_s, u"%1-%2: %3"_s)});

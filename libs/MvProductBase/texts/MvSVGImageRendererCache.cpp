@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProductBase/MvSVGImageRendererCache.h"
 
+#include "MvModelBase/MvFontSupply.h"
 #include "MvProductBase/MvSVGCompilerInstructionsFactory.h"
 
 #include <QSvgRenderer>
@@ -18,6 +19,8 @@ std::shared_ptr<QSvgRenderer> MvSVGImageRendererCache::renderer(const QByteArray
     if (const std::shared_ptr<QSvgRenderer> *known = m_cache.object(cacheKey))
         return *known;
     const QByteArray filled = MvSVGCompilerInstructionsFactory::instance().artwork(svg, key);
+    if (filled.contains("<text"))
+        MvFontSupply::provideAll();
     auto made = std::make_shared<QSvgRenderer>(filled);
     m_cache.insert(cacheKey, new std::shared_ptr<QSvgRenderer>(made), svg.size() + filled.size());
     return made;

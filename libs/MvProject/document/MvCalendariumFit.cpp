@@ -3,9 +3,9 @@
 
 #include "MvCalendar/MvCalendariumRenderer.h"
 #include "MvCalendar/MvCalendariumRendererFactory.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvPaintRecorder.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
@@ -55,9 +55,8 @@ int firstStep(int from, const std::function<bool(int)> &isSmallEnough)
 QList<MvCalendariumFit> &keptFits()
 {
     static QList<MvCalendariumFit> fits;
-    static const QMetaObject::Connection forgetting = // fonts that come or go change what fits
-        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, [] { fits.clear(); });
-    Q_UNUSED(forgetting)
+    static const bool isForgetting [[maybe_unused]] = // fonts that come or go change what fits
+        (MvFontSupply::whenFontsChange([] { fits.clear(); }), true);
     return fits;
 }
 

@@ -3,6 +3,7 @@
 
 #include "MvCalendar/MvCalendariumWords.h"
 #include "MvCore/MvMath.h"
+#include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvGlyphCoverage.h"
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvPaint/MvPaintMark.h"
@@ -138,6 +139,7 @@ QFont MvPageTextPainter::font(const MvTextElement &text) const
     font.setLetterSpacing(QFont::PercentageSpacing, 100.0);
     if (text.letterSpacing() != 0.0)
         font.setLetterSpacing(QFont::AbsoluteSpacing, font.pixelSize() * text.letterSpacing() / 100.0);
+    MvFontSupply::provide(font);
     return font;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPressSheet.h"
 
+#include "MvModelBase/MvFontCreator.h"
 #include "MvProject/MvPressSettings.h"
 
 #include <QFont>
@@ -129,8 +130,7 @@ MvTextOutline MvPressSheet::slug(const QString &text) const
 {
     if (!m_hasMarks)
         return {};
-    QFont font(u"Lato"_s);
-    font.setPixelSize(slugPixels);
+    const QFont font = MvFontCreator::createMarkFont(slugPixels);
     const double room = m_bleed.width() / slugScale();
     MvTextOutline outline(font, text);
     for (qsizetype length = text.size(); outline.advance() > room && length > 0;) {

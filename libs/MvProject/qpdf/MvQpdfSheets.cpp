@@ -2,6 +2,7 @@
 #include "MvProject/MvQpdfSheets.h"
 
 #include "MvCore/MvLocale.h"
+#include "MvModelBase/MvFontCreator.h"
 #include "MvPaint/MvTextOutline.h"
 #include "MvProject/MvPdfContent.h"
 #include "MvProject/MvPdfPipeline.h"
@@ -55,9 +56,7 @@ public:
     /// name are added to the objects.
     QByteArray line(const QString &text, const QPointF &place, double length, QByteArray &objects)
     {
-        QFont font(u"Lato"_s);
-        font.setPixelSize(typePixels);
-        const MvTextOutline outline(font, text);
+        const MvTextOutline outline(MvFontCreator::createMarkFont(typePixels), text);
         const double scale = typeSize / typePixels * pointsPerTenth; // points of a pixel
         QByteArray commands;
         if (outline.advance() * scale > length)
