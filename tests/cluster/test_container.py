@@ -38,7 +38,8 @@ class Container(unittest.TestCase):
             root = folder / "root"
             root.mkdir()
             run("tar", "-xf", folder / "image.tar", "-C", root, "--exclude=./dev/*")
-            self.assertEqual([str(path) for path in root.rglob("libQt6Widgets*")], [])
+            for needless in ("libQt6Widgets.so*", "libLLVM*.so*", "libz3.so*", "libperl.so*"):
+                self.assertEqual([str(path) for path in root.rglob(needless)], [])
             environment = {"SOURCE_DATE_EPOCH": "1800000000", "LANG": "C.UTF-8", "XDG_CACHE_HOME": "/tmp/cache",
                            "PATH": "/usr/bin:/bin:/usr/sbin"}
             inside = ("chroot", "--userspec=1000:1000", root, "/usr/bin/mvcalendar")
