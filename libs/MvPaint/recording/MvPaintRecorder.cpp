@@ -6,9 +6,34 @@
 #include <QPaintEngine>
 #include <QTextItem>
 
+#include <cmath>
 #include <utility>
 
 using namespace MvPaintShape;
+
+namespace {
+
+/// False for circles of colours so far off that the squares of their distances are no numbers: Qt would read colours
+/// from beside its table of them.
+bool canBePainted(const QBrush &brush, const QTransform &transform)
+{
+    const QGradient *gradient = brush.gradient();
+    if (!gradient || gradient->type() != QGradient::RadialGradient)
+        return true;
+    const auto isNear = [](const QPointF &point) {
+        constexpr double farthest = 1e12;
+        return std::abs(point.x()) < farthest && std::abs(point.y()) < farthest;
+    };
+    const auto staysNear = [isNear](const QTransform &way) {
+        return isNear({way.m11(), way.m12()}) && isNear({way.m21(), way.m22()}) && isNear({way.dx(), way.dy()});
+    };
+    const auto &radial = static_cast<const QRadialGradient &>(*gradient);
+    const QTransform there = brush.transform() * transform;
+    return isNear(radial.center()) && isNear(radial.focalPoint()) && isNear({radial.radius(), radial.focalRadius()}) &&
+           staysNear(there) && staysNear(there.inverted());
+}
+
+} // namespace
 
 /// Turns the calls of a painter into operations; states are kept once for all operations between two changes.
 class MvPaintRecorderEngine : public QPaintEngine
@@ -93,6 +118,11 @@ void MvPaintRecorderEngine::add(MvPaintOperation::Shape &&shape)
 {
     if (!m_stateKept) {
         m_data->states.push_back(m_state);
+        MvPaintState &kept = m_data->states.back();
+        if (!canBePainted(kept.pen.brush(), kept.transform))
+            kept.pen = Qt::NoPen;
+        if (!canBePainted(kept.brush, kept.transform))
+            kept.brush = Qt::NoBrush;
         m_stateKept = true;
     }
     m_data->operations.push_back({std::move(shape), m_data->states.size() - 1, mark});

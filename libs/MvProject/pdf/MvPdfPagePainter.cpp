@@ -164,6 +164,13 @@ double scaleOf(const QTransform &transform)
     return std::sqrt(std::abs(transform.determinant()));
 }
 
+/// How many dots a side of a picture takes; all that there are where it has more room, or a length that is no number.
+int dotsOf(const QPointF &side, double dot, int most)
+{
+    const double dots = std::ceil(std::hypot(side.x(), side.y()) / dot);
+    return dots < most ? int(dots) : most;
+}
+
 bool contains(const QRectF &outer, const QRectF &inner)
 {
     constexpr double noise = 0.5; // units: less than rounding
@@ -407,8 +414,7 @@ void MvPdfPagePainter::placeImage(const QImage &image, const QRect &part, const 
     const QPointF width = place(target.bottomRight()) - origin;
     const QPointF height = place(target.topLeft()) - origin;
     const double dot = scaleOf(m_toUnits);
-    const QSize needed(int(std::ceil(std::hypot(width.x(), width.y()) / dot)),
-                       int(std::ceil(std::hypot(height.x(), height.y()) / dot)));
+    const QSize needed(dotsOf(width, dot, part.width()), dotsOf(height, dot, part.height()));
     const int object = m_shared.images.object(image, part, needed);
     m_content.save();
     m_content.concat({width.x(), width.y(), height.x(), height.y(), origin.x(), origin.y()});
