@@ -110,7 +110,7 @@ std::shared_ptr<const MvSchoolVacationTable> MvHolidayBook::vacations(const MvLo
 }
 
 /// Files from outside are read as a whole, and once, so that each is complained about once.
-void MvHolidayBook::readVacations(const QString &code, Country &country, QStringList regions) const
+void MvHolidayBook::readVacations(const QString &code, Country &country, const QStringList &regions) const
 {
     QList<QFileInfo> files;
     for (const QString &name : {u"holidays/vacations-%1.xml"_s, u"holidays/vacations-%1-odbl.xml"_s})

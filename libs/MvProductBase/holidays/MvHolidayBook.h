@@ -55,7 +55,7 @@ private:
     /// With the vacations of at least these regions that end in the year or later.
     std::shared_ptr<const MvSchoolVacationTable> vacations(const MvLocale &locale, const QStringList &regions,
                                                            int sinceYear) const;
-    void readVacations(const QString &code, Country &country, QStringList regions) const;
+    void readVacations(const QString &code, Country &country, const QStringList &regions) const;
 
     FileFinder m_finder;
     QFileInfo m_ownFile;
