@@ -148,7 +148,9 @@ void MvGlyphLine::assignCharacters(const QGlyphRun &run, qsizetype first)
     const QString rest = m_seen.sliced(m_nextCharacter);
     const QList<quint32> characters = run.rawFont().glyphIndexesForString(rest); // one of each character
     const QList<quint32> glyphs = run.glyphIndexes();
-    const auto sizeAt = [&rest](qsizetype at) { return at < rest.size() && rest[at].isHighSurrogate() ? 2 : 1; };
+    const auto sizeAt = [&rest](qsizetype at) { // half of a pair is a character, too
+        return at + 1 < rest.size() && rest[at].isHighSurrogate() && rest[at + 1].isLowSurrogate() ? 2 : 1;
+    };
     qsizetype character = 0; // of the characters
     qsizetype unit = 0;      // of the rest
     qsizetype glyph = 0;
