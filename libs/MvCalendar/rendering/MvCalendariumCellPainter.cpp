@@ -165,11 +165,11 @@ MvCalendariumCellLine MvCalendariumCellPainter::numberLine(const QRectF &rect, c
                                                            const QString &number) const
 {
     const MvTextFitter fitter = m_renderer.fitter(type);
-    const QList<QFont> sizes = fitter.sizes();
     const auto hasRoom = [&](const QFont &font) { // all numbers of a page are as large as the widest
         return MvTextPainter::advance(font, widestNumber) + numberAir * font.pixelSize() <= rect.width() &&
                QFontMetricsF(font).capHeight() <= rect.height() - 2.0 * leastMargin;
     };
+    const QList<QFont> sizes = hasRoom(fitter.font()) ? QList{fitter.font()} : fitter.sizes();
     const auto size = std::find_if(sizes.cbegin(), sizes.cend(), hasRoom);
     const QFont font = size == sizes.cend() ? sizes.constLast() : *size;
     const MvTextFitter fixed(font, fitter.floor(), MvHyphenator());

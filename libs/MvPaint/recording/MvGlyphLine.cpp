@@ -4,6 +4,7 @@
 #include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvGlyphOutlines.h"
 #include "MvPaint/MvGlyphPictures.h"
+#include "MvPaint/MvJoinedPath.h"
 
 #include <QGlyphRun>
 #include <QRawFont>
@@ -11,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <optional>
 
 namespace {
@@ -103,6 +105,18 @@ MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
         else
             add(run, line.ascent());
     }
+    join();
+}
+
+void MvGlyphLine::join()
+{
+    MvJoinedPath joined(
+        std::accumulate(m_glyphs.cbegin(), m_glyphs.cend(), 0, [](int count, const MvTextOutline::Glyph &glyph) {
+            return count + glyph.path.elementCount();
+        }));
+    for (const MvTextOutline::Glyph &glyph : std::as_const(m_glyphs))
+        joined.add(glyph.path, glyph.origin);
+    m_path = joined.path();
 }
 
 void MvGlyphLine::add(const QGlyphRun &run, double baseline)
@@ -124,7 +138,6 @@ void MvGlyphLine::add(const QGlyphRun &run, double baseline)
         glyph.origin = positions.at(i) - QPointF(0.0, baseline);
         glyph.path = outlines.outline(face, font, indexes[i]);
         m_glyphs.append(glyph);
-        m_path.addPath(glyph.path.translated(glyph.origin));
     }
     assignCharacters(run, first);
 }

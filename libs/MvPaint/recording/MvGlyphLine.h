@@ -22,6 +22,7 @@ public:
 
 private:
     void add(const QGlyphRun &run, double baseline);
+    void join();
     void addPictures(const QGlyphRun &run, double baseline);
     /// Finds the characters that the glyphs from `first` on stand for. The text engine does not say it: glyphs that are
     /// those of single characters are recognised, and what lies between belongs together, as a ligature does.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvOutlinePainter.h"
 
+#include "MvPaint/MvJoinedPath.h"
 #include "MvPaint/MvPaintRecorder.h"
 
 #include <QPaintEngine>
@@ -92,14 +93,12 @@ void fillOnRaster(QPainter &painter, const MvPlacedOutline &line, const QBrush &
 
 QPainterPath joined(const QList<MvPlacedOutline> &lines)
 {
-    QPainterPath path;
-    path.reserve(std::accumulate(lines.cbegin(), lines.cend(), 1, [](int count, const MvPlacedOutline &line) {
+    MvJoinedPath joined(std::accumulate(lines.cbegin(), lines.cend(), 0, [](int count, const MvPlacedOutline &line) {
         return count + line.outline.elementCount();
     }));
     for (const MvPlacedOutline &line : lines)
-        path.addPath(line.outline.path().translated(line.baseline));
-    path.setFillRule(Qt::WindingFill);
-    return path;
+        joined.add(line.outline.path(), line.baseline);
+    return joined.path();
 }
 
 /// Whether the target writes coordinates as text, in units so small that fractions of them do not matter: whole ones
