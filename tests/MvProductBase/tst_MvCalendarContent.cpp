@@ -18,6 +18,7 @@ class tst_MvCalendarContent : public MvTest
 
 private Q_SLOTS:
     void featuresAreWrittenByName();
+    void hasFeaturesMeansAll();
     void equalityAndHashes();
     void defaultCalendar();
     void ranges_data();
@@ -37,6 +38,19 @@ void tst_MvCalendarContent::featuresAreWrittenByName()
     QCOMPARE(MvCalendariumFeatures(names).toInt(), 127);
     QCOMPARE(MvCalendariumFeatures(u"Entries,unknown, calendarweeks"_s).toInt(), 68);
     QCOMPARE(MvCalendariumHolidayType(240).encodeCSV(), u"schoolVacation, public, optional, observance"_s);
+}
+
+void tst_MvCalendarContent::hasFeaturesMeansAll()
+{
+    for (const auto &[on, asked, answer] :
+         {std::tuple(1, 1, true), {7, 2, true}, {3, 3, true}, {5, 3, false}, {0, 0, true}}) {
+        MvCalendariumHolidayConfig config({}, {}, MvCalendariumFeatures(on));
+        QCOMPARE(config.hasFeatures(MvCalendariumFeatures(asked)), answer);
+        config.setFeature(MvCalendariumFeatures(asked), true);
+        QCOMPARE(config.features().toInt(), on | asked);
+        config.setFeature(MvCalendariumFeatures(asked), false);
+        QCOMPARE(config.features().toInt(), on & ~asked);
+    }
 }
 
 void tst_MvCalendarContent::equalityAndHashes()

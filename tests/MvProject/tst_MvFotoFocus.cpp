@@ -216,7 +216,7 @@ void tst_MvFotoFocus::keepsTheHeadOfAThing()
     QImage image = scene({800, 800}, {}, {0.3, 0.32, 0.25, 0.6});
     QPainter painter(&image);
     painter.scale(image.width(), image.height());
-    paintDetail(painter, {0.3, 0.02, 0.12, 0.1});
+    paintDetail(painter, {0.5, 0.04, 0.3, 0.14});
     painter.end();
     const MvFotoFocus::Found found = MvFotoFocus::in(image);
     MvFotoElement foto(u"/foto.jpg"_qs);

@@ -31,6 +31,7 @@ private Q_SLOTS:
     void recentFiles();
     void fileChangedByOthers();
     void dropOfAProject();
+    void undoTexts();
     void statusBar();
     void recovery();
     void leapDayEntries();
@@ -256,6 +257,22 @@ void tst_MvStudioWindow::dropOfAProject()
     QVERIFY(!MvStudioFixture::dropFile(window(), {5, 5}, path(u"bild.jpg"_s)));
     QVERIFY(MvStudioFixture::dropFile(window(), {5, 5}, file));
     QCOMPARE(project()->fileInfo().filePath(), file);
+}
+
+void tst_MvStudioWindow::undoTexts()
+{
+    auto *undo = window()->findChild<QAction *>(u"undo"_s);
+    auto *redo = window()->findChild<QAction *>(u"redo"_s);
+    QCOMPARE(undo->text().remove(u'&'), u"Rückgängig"_s);
+    QVERIFY(!undo->isEnabled());
+    rename(u"Neu"_s);
+    QCOMPARE(undo->text().remove(u'&'), u"Rückgängig: Titel ändern"_s);
+    QTest::keyClick(window(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(project()->document().title() != u"Neu"_s);
+    QVERIFY(!project()->isModified());
+    QCOMPARE(redo->text().remove(u'&'), u"Wiederholen: Titel ändern"_s);
+    QTest::keyClick(window(), Qt::Key_Y, Qt::ControlModifier);
+    QCOMPARE(project()->document().title(), u"Neu"_s);
 }
 
 void tst_MvStudioWindow::statusBar()
