@@ -16,11 +16,12 @@ using Tables = QHash<hb_tag_t, QByteArray>;
 constexpr hb_tag_t glyf = HB_TAG('g', 'l', 'y', 'f');
 constexpr hb_tag_t cff = HB_TAG('C', 'F', 'F', ' ');
 
-/// What outlines are made of, in both kinds of fonts.
+/// What outlines are made of, in both kinds of fonts. Where one stands is in its bearing, which need not be that of its
+/// points.
 Tables tablesOf(const QRawFont &font)
 {
     Tables tables;
-    for (const char *name : {"head", "maxp", "loca", "glyf", "CFF "})
+    for (const char *name : {"head", "maxp", "hhea", "hmtx", "loca", "glyf", "CFF "})
         tables.insert(hb_tag_from_string(name, -1), font.fontTable(name));
     return tables;
 }
