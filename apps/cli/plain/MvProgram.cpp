@@ -10,19 +10,22 @@
 #include "plain/MvCli.h"
 
 #include <QFile>
+#include <QMutex>
 
 #include <cstdio>
 
 namespace {
 
-/// Warnings of the libraries, as lines like the program's own.
+/// Warnings of the libraries, as lines like the program's own; from any thread.
 void printMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
     const bool isOfOurs = !context.category || qstrcmp(context.category, "default") == 0;
     if (type == QtDebugMsg || type == QtInfoMsg || (type == QtWarningMsg && !isOfOurs))
         return;
     if (message.startsWith(QLatin1StringView("QStandardPaths:")))
-        return;          // about the desktop session, which nothing here needs
+        return; // about the desktop session, which nothing here needs
+    static QMutex mutex;
+    const QMutexLocker locker(&mutex);
     static QString last; // a file that is read twice has no more to say
     if (message == last)
         return;
