@@ -102,6 +102,9 @@ void tst_MvTextOutlineCache::groups()
     const auto [text, groups] = MvRows<QString, int>::current();
     const MvTextOutline outline(MvBoxFont::font(100), text);
     QCOMPARE(outline.isEmpty(), outline.groups().isEmpty());
+    QCOMPARE(outline.isEmpty(), outline.path().elementCount() == 0); // threads that ask for it change a mere start
+    for (const MvTextOutline::Glyph &glyph : outline.glyphs())
+        QVERIFY(glyph.path.elementCount() != 1);
     QCOMPARE(int(outline.groups().size()), groups);
     QCOMPARE(outline.advance(), 50.0 * double(text.size()));
     for (int i = 0; i < outline.groups().size(); ++i) {

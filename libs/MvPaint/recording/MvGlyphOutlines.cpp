@@ -45,7 +45,10 @@ QPainterPath MvGlyphOutlines::outline(int face, const QRawFont &font, quint32 in
             return *known;
     }
     QPainterPath fresh = drawn(face, font, index);
-    fresh.setFillRule(Qt::WindingFill);
+    if (fresh.isEmpty())
+        fresh = {}; // without a start: QPainterPath changes one when it is asked whether it is empty
+    else
+        fresh.setFillRule(Qt::WindingFill);
     const QMutexLocker lock(&m_mutex);
     m_outlines.insert(key, new QPainterPath(fresh), entryCost + fresh.elementCount());
     return fresh;

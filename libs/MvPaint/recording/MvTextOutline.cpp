@@ -148,6 +148,8 @@ void makeForRaster(const MvTextOutlineImpl &outline)
 
 void setPath(MvTextOutlineImpl &outline, const QPainterPath &path)
 {
+    if (path.isEmpty())
+        return; // not even its start: QPainterPath changes that when it is asked whether it is empty
     outline.path = path;
     outline.path.setFillRule(Qt::WindingFill);
     outline.bounds = path.controlPointRect();
