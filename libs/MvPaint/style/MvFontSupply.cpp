@@ -8,11 +8,11 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QRawFont>
-#include <QRecursiveMutex>
 
 #include <algorithm>
 #include <atomic>
 #include <memory>
+#include <mutex>
 #include <vector>
 
 #include <hb.h>
@@ -116,7 +116,7 @@ public:
         isOnDemand = false; // last: until then others wait
     }
 
-    QRecursiveMutex mutex; // fonts that become known are announced, and who hears of it may ask for one
+    std::recursive_mutex mutex; // fonts that become known are announced, and who hears of it may ask for one
 
 private:
     std::vector<std::unique_ptr<Known>> m_known; // few
@@ -147,7 +147,7 @@ void MvFontSupply::provide(const QFont &font)
     if (!isOnDemand || !hasFonts())
         return;
     Supply &supply = Supply::instance();
-    const QMutexLocker lock(&supply.mutex);
+    const std::lock_guard lock(supply.mutex);
     if (isOnDemand)
         supply.face(font);
 }
@@ -157,7 +157,7 @@ void MvFontSupply::provide(const QFont &font, const QString &text)
     if (!isOnDemand || !hasFonts())
         return;
     Supply &supply = Supply::instance();
-    const QMutexLocker lock(&supply.mutex);
+    const std::lock_guard lock(supply.mutex);
     if (!isOnDemand)
         return;
     const Known *face = supply.face(font);
@@ -170,7 +170,7 @@ QByteArray MvFontSupply::fileOf(const QRawFont &font)
     if (!isOnDemand)
         return {};
     Supply &supply = Supply::instance();
-    const QMutexLocker lock(&supply.mutex);
+    const std::lock_guard lock(supply.mutex);
     const Known *known = supply.find(font);
     return known ? known->file : QByteArray();
 }
@@ -180,7 +180,7 @@ void MvFontSupply::provideAll()
     if (!isOnDemand || !hasFonts())
         return;
     Supply &supply = Supply::instance();
-    const QMutexLocker lock(&supply.mutex);
+    const std::lock_guard lock(supply.mutex);
     if (isOnDemand)
         supply.provideAll();
 }
