@@ -6,12 +6,23 @@
 #include <QPaintEngine>
 #include <QTextItem>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
 using namespace MvPaintShape;
 
 namespace {
+
+bool isPlaced(const QPointF &point)
+{
+    return std::isfinite(point.x()) && std::isfinite(point.y());
+}
+
+bool isPlaced(const QRectF &rect)
+{
+    return isPlaced(rect.topLeft()) && isPlaced(rect.bottomRight());
+}
 
 /// False for circles of colours so far off that the squares of their distances are no numbers: Qt would read colours
 /// from beside its table of them.
@@ -53,7 +64,11 @@ public:
     void drawLines(const QLine *lines, int count) override { add(Lines<QLine>{{lines, lines + count}}); }
     void drawLines(const QLineF *lines, int count) override { add(Lines<QLineF>{{lines, lines + count}}); }
     void drawRects(const QRect *rects, int count) override { add(Rects<QRect>{{rects, rects + count}}); }
-    void drawRects(const QRectF *rects, int count) override { add(Rects<QRectF>{{rects, rects + count}}); }
+    void drawRects(const QRectF *rects, int count) override
+    {
+        if (std::all_of(rects, rects + count, [](const QRectF &rect) { return isPlaced(rect); }))
+            add(Rects<QRectF>{{rects, rects + count}}); // Qt would never end to fill others with a gradient
+    }
     void drawEllipse(const QRect &rect) override { add(Ellipse<QRect>{rect}); }
     void drawEllipse(const QRectF &rect) override { add(Ellipse<QRectF>{rect}); }
     void drawPoints(const QPoint *points, int count) override { add(Points<QPoint>{{points, points + count}}); }
@@ -71,7 +86,8 @@ public:
     void drawImage(const QRectF &target, const QImage &image, const QRectF &source,
                    Qt::ImageConversionFlags flags) override
     {
-        add(Image{image, target, source, flags});
+        if (isPlaced(target))
+            add(Image{image, target, source, flags});
     }
     void drawTiledPixmap(const QRectF &target, const QPixmap &pixmap, const QPointF &offset) override
     {
