@@ -77,7 +77,7 @@ void MvCalendariumColorSchemaRegistry::readShippedSchemata()
 
 MvCalendariumColorSchemaRegistry &MvCalendariumColorSchemaRegistry::complete()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     if (!m_isComplete) {
         m_isComplete = true;
         m_single.clear();
@@ -101,7 +101,7 @@ void MvCalendariumColorSchemaRegistry::readFrom(const QDomElement &element,
                                                 const MvCalendariumColorSchemaVisibility &visibility,
                                                 const QFileInfo &file)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     for (QDomElement area = element.firstChildElement(areaTag); !area.isNull(); area = area.nextSiblingElement(areaTag))
         recordRead(area, visibility, file);
 }
@@ -164,7 +164,7 @@ void MvCalendariumColorSchemaRegistry::takeFromOther(const MvCalendariumColorSch
 MvCalendariumColorSchema MvCalendariumColorSchemaRegistry::findSchema(const MvCalendariumColorSchemaID &id) const
 {
     {
-        const QMutexLocker lock(&m_mutex);
+        const std::lock_guard lock(m_mutex);
         if (!m_isComplete && !m_single.contains(id)) {
             if (const QDomElement area = shippedSchemata().one(id.toString()); !area.isNull())
                 m_single.insert(id, MvCalendariumColorSchema(area));
@@ -429,7 +429,7 @@ bool MvCalendariumColorSchemaRegistry::saveSystemUserSchemata()
 
 void MvCalendariumColorSchemaRegistry::adopt(const MvUserSchemaFile::Areas &mine, const MvUserSchemaFile::Areas &saved)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     for (const MvUserSchemaFile::Area &area : mine) {
         if (!saved.contains(area))
             removeId(MvCalendariumColorSchemaID(area.id));
@@ -452,7 +452,7 @@ QFileInfo MvCalendariumColorSchemaRegistry::systemUserSchemaFile()
 
 void MvCalendariumColorSchemaRegistry::resetToFactoryDefaults()
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     QStringList ignored = MvGeneralSettings::instance().idsToIgnore();
     ignored.removeIf([this](const QString &text) { return contains(MvCalendariumColorSchemaID(text)); });
     MvGeneralSettings::instance().setIDsToIgnore(ignored);

@@ -12,9 +12,9 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QMultiHash>
-#include <QRecursiveMutex>
 
 #include <memory>
+#include <mutex>
 
 class MvCalendariumColorSchemaRegistry;
 extern template class MVCALENDAR_EXPORT MvSingleton<MvCalendariumColorSchemaRegistry>;
@@ -150,5 +150,5 @@ private:
     mutable QHash<MvCalendariumColorSchemaID, MvCalendariumColorSchema> m_single; // shipped ones, until it is
     MvUserSchemaFile m_userFile;
     QString m_saveError;
-    mutable QRecursiveMutex m_mutex;
+    mutable std::recursive_mutex m_mutex;
 };
