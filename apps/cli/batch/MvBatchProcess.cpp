@@ -21,11 +21,15 @@ void limit(pid_t batch, rlim_t bytes)
     if (::getppid() != batch)
         ::_exit(1);
 #endif
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    Q_UNUSED(bytes) // the sanitizers take terabytes of addresses for themselves
+#else
     rlimit memory = {};
     ::getrlimit(RLIMIT_DATA, &memory);
     memory.rlim_max = qMin(memory.rlim_max, bytes);
     memory.rlim_cur = memory.rlim_max;
     ::setrlimit(RLIMIT_DATA, &memory);
+#endif
 }
 
 } // namespace

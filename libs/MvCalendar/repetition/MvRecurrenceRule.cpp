@@ -268,13 +268,8 @@ QString daysInWords(const Rule &rule)
 
 bool MvRecurrenceRule::isPlain() const
 {
-    MvRecurrenceRule plain;
-    plain.frequency = frequency;
-    plain.interval = interval;
-    plain.count = count;
-    plain.until = until;
-    plain.weekStart = weekStart;
-    return !isNone() && *this == plain;
+    return !isNone() && months.isEmpty() && weeks.isEmpty() && yearDays.isEmpty() && monthDays.isEmpty() &&
+           weekDays.isEmpty() && positions.isEmpty();
 }
 
 MvRecurrenceRuleReading MvRecurrenceRule::parse(const QString &text)
