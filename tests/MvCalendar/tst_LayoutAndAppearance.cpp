@@ -148,6 +148,8 @@ void tst_LayoutAndAppearance::suggestionsForNewPages()
 void tst_LayoutAndAppearance::unknownLayouts()
 {
     QVERIFY(!MvCalendariumLayoutSchemaRegistry::instance().findSchema(MvCalendariumLayoutSchemaID(u"?"_s)).isValid());
+    const QString withMore = u"MONTH_GRID_CLASSIC\" name=\"Monatsraster klassisch"_s; // as it stands in the file
+    QVERIFY(!MvCalendariumLayoutSchemaRegistry().findSchema(MvCalendariumLayoutSchemaID(withMore)).isValid());
     QVERIFY(!MvCalendariumLayoutSchemaRegistry::instance().schema(-1).isValid());
     QVERIFY(!layout(QString(), u"type='CALENDAR_YEAR'"_s).isValid()); // no id
     QVERIFY(!MvCalendariumLayoutSchemaID(u"user_1"_s).isUserID());    // case matters

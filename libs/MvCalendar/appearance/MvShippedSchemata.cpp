@@ -29,5 +29,6 @@ QDomElement MvShippedSchemata::one(const QString &id) const
     const qsizetype start = bytes.lastIndexOf("<calendararea", named);
     QDomDocument document;
     document.setContent(bytes.sliced(start, end + last.size() - start));
-    return document.documentElement();
+    const QDomElement area = document.documentElement();
+    return area.attribute(QString::fromUtf8(m_idAttribute)) == id ? area : QDomElement(); // ids come from files, too
 }
