@@ -246,9 +246,14 @@ QString recover(const QDir &, int)
     if (found.isEmpty())
         return u"nothing found"_s;
     auto *project = new MvProject; // stays: a program that ends gives up what it has not saved
-    new MvProjectAutosave(project);
+    auto autosave = std::make_unique<MvProjectAutosave>(project);
     const MvOutcome opened = MvProjectRecovery::open(found.first(), *project);
-    return opened.isOk() ? project->save().error : opened.error;
+    const QString error = opened.isOk() ? project->save().error : opened.error;
+    if (error.isEmpty())
+        autosave.reset(); // once the state that was found is gone: its room must not come free at some later time
+    else
+        static_cast<void>(autosave.release());
+    return error;
 }
 
 /// What was found is in the project, or lies there still.
