@@ -167,8 +167,11 @@ void MvPagePreview::make()
             painter.drawImage(part.place, page);
             paintBleed(painter, part, page);
         }
-        painter.setPen(QPen(Qt::black, 1.0 / scale));
-        painter.drawLines(sheet.cutMarks);
+        QPen pen(Qt::black, 1.0 / scale);
+        painter.strokePath(sheet.marks, pen);
+        pen.setStyle(Qt::DashLine);
+        painter.setPen(pen);
+        painter.drawLines(sheet.foldMarks);
     }
     update();
 }

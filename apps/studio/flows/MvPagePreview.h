@@ -13,8 +13,9 @@ class QLabel;
 class QPainter;
 class QToolButton;
 
-/// The sheets that come out of an export, small, one at a time: a page with its bleed and the line along which it is
-/// cut, or several pages with their marks; and a mark around the place that a list speaks of.
+/// The sheets that come out of an export, small, one at a time: a page with its bleed, the line along which it is
+/// cut and the marks of a print shop, or several pages with their marks; and a mark around the place that a list speaks
+/// of.
 class MvPagePreview : public QWidget
 {
     Q_OBJECT

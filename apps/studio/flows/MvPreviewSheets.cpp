@@ -28,15 +28,22 @@ MvPreviewSheets::Sheet MvPreviewSheets::at(int sheet) const
         return {};
     if (!hasSeveral()) {
         const int page = m_options.pages.at(sheet);
-        const double bleed = madeUpBleed();
         const QRectF media = m_document.format().mediaRect();
-        return {media.adjusted(-bleed, -bleed, bleed, bleed),
-                {{page, media, media}},
-                {},
-                MvPrintCheck::pageName(m_document, page)};
+        Sheet found{media, {{page, media, media}}, {}, {}, MvPrintCheck::pageName(m_document, page)};
+        if (isForPress()) {
+            const MvPressSheet around = pressSheet(page);
+            found.paper = around.sheet();
+            found.marks = around.marks();
+            found.foldMarks = around.foldMarks();
+        }
+        return found;
     }
     const MvSheetPlan plan = this->plan();
-    Sheet found{{QPointF(), plan.sheet()}, plan.parts(sheet), plan.cutMarks(sheet), {}};
+    Sheet found{{QPointF(), plan.sheet()}, plan.parts(sheet), {}, {}, {}};
+    for (const QLineF &line : plan.cutMarks(sheet)) {
+        found.marks.moveTo(line.p1());
+        found.marks.lineTo(line.p2());
+    }
     for (MvSheetPlan::Part &part : found.parts)
         part.page = m_options.pages.at(part.page);
     if (!plan.isTwoSided())
@@ -70,5 +77,11 @@ QList<QRectF> MvPreviewSheets::tiles() const
 
 double MvPreviewSheets::madeUpBleed() const
 {
-    return m_options.press.isEmpty() || m_document.format().bleed() > 0.0 ? 0.0 : m_options.forPress.bleed;
+    return isForPress() ? pressSheet(0).missingBleed() : 0.0;
+}
+
+MvPressSheet MvPreviewSheets::pressSheet(int page) const
+{
+    const MvPageFormat &format = m_document.format();
+    return {m_options.forPress, format.trimRect(), format.mediaRect(), m_document.bindingRect(page)};
 }

@@ -2,16 +2,19 @@
 #pragma once
 
 #include "MvProject/MvCalendarDocument.h"
+#include "MvProject/MvPressSheet.h"
 #include "MvProject/MvSheetPlan.h"
 #include "flows/MvExportOptions.h"
 
 #include <QCoreApplication>
 #include <QLineF>
 #include <QList>
+#include <QPainterPath>
 #include <QRectF>
 
-/// What an export puts on its sheets, for a preview: a page with its bleed, or several pages as they lie on the paper.
-/// Tiles stay together, as the page that they are glued to. A value; all lengths are tenths of a millimetre.
+/// What an export puts on its sheets, for a preview: a page with its bleed and the marks of a print shop, or several
+/// pages as they lie on the paper. Tiles stay together, as the page that they are glued to. A value; all lengths are
+/// tenths of a millimetre.
 class MvPreviewSheets
 {
     Q_DECLARE_TR_FUNCTIONS(MvPreviewSheets)
@@ -23,7 +26,8 @@ public:
     {
         QRectF paper;
         QList<MvSheetPlan::Part> parts; // the pages are those of the document
-        QList<QLineF> cutMarks;
+        QPainterPath marks;             // to cut by
+        QList<QLineF> foldMarks;
         QString name;
 
         /// The number of its first page; -1 without any.
@@ -48,10 +52,12 @@ public:
     /// How far a bleed is made up beyond pages without one; 0 when it is not.
     double madeUpBleed() const;
     /// Whether pictures that end at the trim get a made-up bleed beside that of the page.
-    bool fillsBleedOfPictures() const { return !m_options.press.isEmpty() && m_document.format().bleed() > 0.0; }
+    bool fillsBleedOfPictures() const { return isForPress() && m_document.format().bleed() > 0.0; }
     MvPressSettings::Bleed bleedKind() const { return m_options.forPress.bleedKind; }
 
 private:
+    bool isForPress() const { return !m_options.press.isEmpty(); }
+    MvPressSheet pressSheet(int page) const;
     MvSheetPlan plan() const { return {m_options.sheets, m_document.format().trimSize(), int(m_options.pages.size())}; }
 
     MvCalendarDocument m_document;

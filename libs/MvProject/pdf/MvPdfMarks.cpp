@@ -10,32 +10,9 @@
 #include <QPainterPath>
 #include <QPen>
 
-namespace {
-
-/// A cross in a circle.
-QPainterPath registrationMark(const QPointF &place)
-{
-    constexpr double arm = MvPressSheet::registrationRadius * 1.6;
-    QPainterPath path;
-    path.addEllipse(place, MvPressSheet::registrationRadius, MvPressSheet::registrationRadius);
-    path.moveTo(place - QPointF(arm, 0.0));
-    path.lineTo(place + QPointF(arm, 0.0));
-    path.moveTo(place - QPointF(0.0, arm));
-    path.lineTo(place + QPointF(0.0, arm));
-    return path;
-}
-
-} // namespace
-
 void MvPdfMarks::paint(MvPdfContent &content, const MvPressSheet &sheet, const QTransform &toUnits, MvPdfFile &file)
 {
-    QPainterPath solid;
-    for (const QLineF &line : sheet.cropMarks() + sheet.bleedMarks()) {
-        solid.moveTo(line.p1());
-        solid.lineTo(line.p2());
-    }
-    for (const QPointF &place : sheet.registrationMarks())
-        solid.addPath(registrationMark(place));
+    const QPainterPath solid = sheet.marks();
     if (solid.isEmpty())
         return;
     QPainterPath dashed;

@@ -54,6 +54,17 @@ private:
     QList<QLineF> m_lines;
 };
 
+/// A cross in a circle.
+void addRegistrationMark(QPainterPath &path, const QPointF &place)
+{
+    constexpr double arm = MvPressSheet::registrationRadius * 1.6;
+    path.addEllipse(place, MvPressSheet::registrationRadius, MvPressSheet::registrationRadius);
+    path.moveTo(place - QPointF(arm, 0.0));
+    path.lineTo(place + QPointF(arm, 0.0));
+    path.moveTo(place - QPointF(0.0, arm));
+    path.lineTo(place + QPointF(0.0, arm));
+}
+
 } // namespace
 
 MvPressSheet::MvPressSheet(const MvPressSettings &settings, const QRectF &trim, const QRectF &painted,
@@ -114,6 +125,18 @@ QList<QPointF> MvPressSheet::registrationMarks() const
     if (m_trim.height() >= smallest)
         places += {{m_bleed.left() - away, middle.y()}, {m_bleed.right() + away, middle.y()}};
     return places;
+}
+
+QPainterPath MvPressSheet::marks() const
+{
+    QPainterPath path;
+    for (const QLineF &line : cropMarks() + bleedMarks()) {
+        path.moveTo(line.p1());
+        path.lineTo(line.p2());
+    }
+    for (const QPointF &place : registrationMarks())
+        addRegistrationMark(path, place);
+    return path;
 }
 
 double MvPressSheet::slugScale()

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "MvPaint/MvTextOutline.h"
+#include "MvProject/mvproject_export.h"
 
 #include <QLineF>
 #include <QList>
+#include <QPainterPath>
 #include <QRectF>
 
 struct MvPressSettings;
@@ -14,7 +16,7 @@ struct MvPressSettings;
 ///
 /// From the bleed outwards come a gap, the marks, and a line about the page; upper and lower margin are equal, so that
 /// the page stands in the middle.
-class MvPressSheet
+class MVPROJECT_EXPORT MvPressSheet
 {
 public:
     /// `painted` is the page with the bleed that it has of its own, `binding` the part that the binding takes, if any.
@@ -35,6 +37,8 @@ public:
     /// The places of the crosses that tell whether all inks meet.
     QList<QPointF> registrationMarks() const;
     static constexpr double registrationRadius = 15.0;
+    /// All that is drawn in one stroke: crop marks, bleed marks, and crosses in circles. Empty without marks.
+    QPainterPath marks() const;
     static constexpr double lineWidth = 0.9; // a quarter of a point
 
     /// The line about the page, shortened to the room there is. Empty without marks.
