@@ -35,7 +35,9 @@ MvCalendarEventList MvHolidayEntries::of(const MvCalendariumHolidayConfig &confi
         config.language(), config.province(),
         MvCalendariumFeatures(FEATURE_SCHOOL_VACATIONS | FEATURE_VACATION_NAMES_DAILY));
     MvCalendariumHolidayList holidays;
-    for (int year = firstYear - 1; year <= lastYear + 1; ++year) // of which vacations may reach into the others
+    // vacations of the year before may reach into the first one; its own first ones are whole, and counted as always,
+    // together with those of the year before that
+    for (int year = firstYear - 2; year <= lastYear + 1; ++year)
         holidays.append(
             MvCalendariumHolidayCalculator::instance().holidaysOfYear(MvCalendariumHolidayCacheKey(year, all)));
     const QString place = all.language().language() + u'_' + all.language().country() + u'/' + all.province() + u'/';
