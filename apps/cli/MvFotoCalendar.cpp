@@ -26,8 +26,7 @@ QString themeId(MvCliValues &values)
     const QString wanted = values.text(u"theme"_s).trimmed();
     QStringList names;
     for (const MvCalendarTheme &theme : registry.themes()) {
-        if (theme.id().compare(wanted, Qt::CaseInsensitive) == 0 ||
-            theme.name().compare(wanted, Qt::CaseInsensitive) == 0)
+        if (theme.id().compare(wanted, Qt::CaseInsensitive) == 0 || theme.localizedName().isAnyOf(wanted))
             return theme.id();
         names.append(theme.name());
     }

@@ -64,7 +64,7 @@ void tst_FotoCalendars::fotoCalendar()
     for (const auto &foto : report.value(u"photos"_s).toArray())
         QVERIFY(foto[u"element"_s].toInt() > 0 && foto[u"ppi"_s].toInt() > 0);
 
-    const Call atOnce = run(u"render --dpi 40 -o d-%m.png"_s + options);
+    const Call atOnce = run(u"render --dpi 40 -o d-%m.png"_s + options, {{u"MVCALENDAR_LANGUAGE"_s, u"en"_s}});
     QCOMPARE(atOnce.outLines().size(), 4);
     QSet<QByteArray> looks;
     for (const QString &name : {u"cover"_s, u"01"_s, u"02"_s, u"back"_s}) {

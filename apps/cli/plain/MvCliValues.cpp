@@ -39,7 +39,8 @@ int MvCliValues::number(const QString &name, int minimum, int maximum, int defau
     const int value = text(name).toInt(&isNumber);
     if (isNumber && value >= minimum && value <= maximum)
         return value;
-    setError(tr("--%1 „%2“: erlaubt sind ganze Zahlen von %3 bis %4").arg(name, text(name)).arg(minimum).arg(maximum));
+    setError(tr("--%1 „%2“: erlaubt sind ganze Zahlen von %3 bis %4")
+                 .arg(name, text(name), QString::number(minimum), QString::number(maximum)));
     return defaultValue;
 }
 
@@ -51,7 +52,7 @@ double MvCliValues::millimetres(const QString &name, double maximum, double defa
     const double value = text(name).replace(u',', u'.').toDouble(&isNumber);
     if (isNumber && value >= 0.0 && value <= maximum)
         return value;
-    setError(tr("--%1 „%2“: erlaubt sind 0 bis %3 Millimeter").arg(name, text(name)).arg(maximum));
+    setError(tr("--%1 „%2“: erlaubt sind 0 bis %3 Millimeter").arg(name, text(name), QString::number(maximum)));
     return defaultValue;
 }
 
@@ -107,7 +108,7 @@ MvLocale MvCliValues::country()
     for (const MvLocale &locale : locales) {
         if (!codes.contains(locale.country()))
             codes.append(locale.country());
-        if ((isCode ? locale.country() : countryName(locale)).compare(wanted, Qt::CaseInsensitive) != 0)
+        if (isCode ? locale.country().compare(wanted, Qt::CaseInsensitive) != 0 : !locale.isCountryCalled(wanted))
             continue;
         languages.append(locale.language());
         const bool isWanted = language.isEmpty() || locale.language().compare(language, Qt::CaseInsensitive) == 0;

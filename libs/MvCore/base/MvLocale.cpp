@@ -108,11 +108,24 @@ QLocale MvLocale::toQLocale() const
     return isValid() ? QLocale(name()) : QLocale::c();
 }
 
-QString MvLocale::visibleName() const
+QString MvLocale::visibleCountryName() const
 {
     const CountryName known = countryNames().value(m_country);
-    QString name = known.name ? QCoreApplication::translate("MvLocale", known.name) : toQLocale().nativeCountryName();
-    if (name.isEmpty())
-        name = m_country;
-    return known.hasSeveralLanguages ? u"%1 (%2)"_s.arg(name, languageName(m_language)) : name;
+    const QString name =
+        known.name ? QCoreApplication::translate("MvLocale", known.name) : toQLocale().nativeCountryName();
+    return name.isEmpty() ? m_country : name;
+}
+
+QString MvLocale::visibleName() const
+{
+    const QString name = visibleCountryName();
+    return countryNames().value(m_country).hasSeveralLanguages ? u"%1 (%2)"_s.arg(name, languageName(m_language))
+                                                               : name;
+}
+
+bool MvLocale::isCountryCalled(const QString &name) const
+{
+    const QStringList names{visibleCountryName(), QString::fromUtf8(countryNames().value(m_country).name),
+                            QLocale::countryToString(toQLocale().country())};
+    return isValid() && !name.isEmpty() && names.contains(name, Qt::CaseInsensitive);
 }

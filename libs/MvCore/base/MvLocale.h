@@ -29,11 +29,16 @@ public:
     /// The country in the program's language, for choosers: "Deutschland"; "Schweiz (Französisch)" where it has several
     /// languages.
     QString visibleName() const;
+    /// Whether the country is called so, in capitals or not: in German, in English, or in the program's language. What
+    /// a file or a script says means the same in every language of the program.
+    bool isCountryCalled(const QString &name) const;
 
     bool operator==(const MvLocale &) const = default;
     auto operator<=>(const MvLocale &other) const { return name().compare(other.name()) <=> 0; }
 
 private:
+    QString visibleCountryName() const;
+
     QString m_language;
     QString m_country;
 };

@@ -27,6 +27,7 @@ public:
     QString id() const { return m_id; }
     /// In the language of the program.
     QString name() const { return m_name.text(); }
+    const MvLocalizedText &localizedName() const { return m_name; }
     /// A sentence for choosers.
     QString description() const { return m_description.text(); }
 
