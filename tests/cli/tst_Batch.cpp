@@ -2,6 +2,8 @@
 #include "MvProgramTest.h"
 #include "MvRows.h"
 
+#include "MvProject/MvPressProfile.h"
+#include "batch/MvBatchJob.h"
 #include "batch/MvBatchOutputs.h"
 
 #include <csignal>
@@ -127,6 +129,8 @@ void tst_Batch::outputsThatMeet_data()
     row("a longer beginning", QStringList{u"a%n.svg"_s, u"a1%n.svg"_s}, 2);
     row("a number that is longer", QStringList{u"1-%m.png"_s, u"11-%m.png"_s, u"1-b-%m.png"_s}, 0);
     row("percent signs", QStringList{u"a%%m.png"_s, u"a%m.png"_s}, 0);
+    row("other ends", QStringList{u"a-%m-1.png"_s, u"a-%m-2.png"_s, u"a-%y-1-%m.png"_s, u"a-%y-2-%m.png"_s}, 0);
+    row("a year in digits", QStringList{u"%y-7-%m.png"_s, u"2027-7-01.png"_s, u"2027-8-01.png"_s}, 2);
     row("three", QStringList{u"a.pdf"_s, u"a.pdf"_s, u"a.pdf"_s}, 3);
 }
 
@@ -201,17 +205,19 @@ void tst_Batch::writesWhatRenderWrites()
 {
     write(path(u"list.jsonl"_s), R"({"output":"x.pdf","year":2028,"layout":"YEAR_PLANNER"}
 {"output":"y.pdf","from":"2027-02","months":2,"country":"AT","colors":"NIGHT"}
-{"id":"4711","from":"2027-02","months":2,"vacations":true,"region":"BY","output":["a.pdf","a-%m.png"],"dpi":40}
+{"id":12345678901234567,"from":"2027-02","months":2,"vacations":true,"region":"BY","output":["a.pdf","a-%m.png"],"dpi":40}
 )");
     const Call call = run(u"batch --jobs 1 -"_s, {}, 0, contentOf(path(u"list.jsonl"_s)));
     QCOMPARE(call.exitCode, 0);
     const QJsonObject told = QJsonDocument::fromJson(call.outLines().value(2)).object();
-    QCOMPARE(told.value(u"id"_s), u"4711"_s);
+    QCOMPARE(told.value(u"id"_s), u"12345678901234567"_s);
     QCOMPARE(told.value(u"files"_s).toArray().size(), 3);
     QCOMPARE(told.value(u"pages"_s), 2);
     QVERIFY(told.value(u"peakMemory"_s).toDouble() > 1 && told.value(u"cpuSeconds"_s).toDouble() > 0);
     QCOMPARE(run(u"render --from 2027-02 --months 2 --vacations --region BY -o b.pdf -o b-%m.png --dpi 40"_s).exitCode,
              0);
+    const MvBatchJob dateless = MvBatchJob::fromLine(R"({"output":"a.pdf","year":null,"project":null})", 1);
+    QVERIFY(dateless.options.value(u"year"_s).toInt() > 2025); // next year it is another one
     for (const QString &end : {u".pdf"_s, u"-02.png"_s, u"-03.png"_s})
         QVERIFY2(contentOf(path(u'a' + end)) == contentOf(path(u'b' + end)), qPrintable(end));
 }
@@ -225,6 +231,7 @@ void tst_Batch::makesAnewWhatChanged_data()
     row("an input", u"e-2.xml"_s, entriesFile("Adam", "1990-01-14"), u"done 1, skipped 2"_s);
     row("an input to the same", u"e-2.xml"_s, entries, u"skipped 3"_s);
     row("an output", u"c-2.pdf"_s, QByteArray("%PDF-"), u"done 1, skipped 2"_s);
+    row("a profile", u"own.icc"_s, contentOf(MvPressProfile::fileOf(u"fogra29"_s)), u"done 1, skipped 2"_s);
     row("a cut report", u"report.jsonl"_s, QByteArray(), u"done 1, skipped 2"_s);
 }
 
@@ -232,6 +239,10 @@ void tst_Batch::makesAnewWhatChanged()
 {
     const auto [file, content, states] = MvRows<QString, QByteArray, QString>::current();
     writeList(3);
+    QVERIFY(QFile::copy(MvPressProfile::fileOf(u"fogra39"_s), path(u"own.icc"_s)));
+    write(path(u"list.jsonl"_s), contentOf(path(u"list.jsonl"_s))
+                                     .replace(R"("months":3)", R"("months":1)")
+                                     .replace(R"("id":3,)", R"("press":"own.icc",)"));
     QCOMPARE(run(m_call).exitCode, 0);
     QCOMPARE(this->states(), u"done 3"_s);
     const QByteArray before = contentOf(path(u"c-2.pdf"_s));

@@ -3,6 +3,7 @@
 
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvCore/MvRegularFile.h"
+#include "MvProject/MvPressProfile.h"
 #include "MvRenderCommand.h"
 #include "plain/MvCliArguments.h"
 
@@ -64,8 +65,8 @@ QByteArray digestOfOwnResources()
     roots.removeAll(QString());
     QCryptographicHash hash(algorithm);
     for (const QString &root : std::as_const(roots)) {
-        for (const QString &kind : {u"fonts"_s, u"holidays"_s, u"hyphenation"_s, u"schemas"_s, u"styles"_s,
-                                    u"templates"_s, u"themes"_s, u"words"_s}) {
+        for (const QString &kind : {u"fonts"_s, u"holidays"_s, u"hyphenation"_s, u"profiles"_s, u"schemas"_s,
+                                    u"styles"_s, u"templates"_s, u"themes"_s, u"words"_s}) {
             const QString folder = root + u'/' + kind;
             if (QFileInfo(folder).isDir())
                 hash.addData(kind.toUtf8() + digestOf(folder));
@@ -95,6 +96,8 @@ QStringList MvBatchInputs::of(const MvCliArguments &call, const MvRenderOutcome 
     files += outcome.document.fotoUses().keys();
     files += outcome.document.entriesFile();
     files += outcome.entries.file().filePath();
+    if (const QString press = call.value(u"press"_s); !MvPressProfile::names().contains(press, Qt::CaseInsensitive))
+        files += MvPressProfile::fileOf(press);
     if (outcome.entries.isList() || call.has(u"project"_s)) { // photos of other files lie within these
         for (const MvCalendarEvent &event : outcome.entries.list())
             files += event.foto().localFilePath();

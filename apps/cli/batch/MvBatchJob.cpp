@@ -20,6 +20,14 @@ const QStringList &strangers()
     return names;
 }
 
+/// As it was written: the numbers of orders can be longer than a double has digits.
+QString numberText(const QJsonValue &value)
+{
+    const qint64 whole = value.toInteger();
+    return double(whole) == value.toDouble() ? QString::number(whole)
+                                             : QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
+}
+
 /// The value as words of a call; nothing for one that cannot be an option's.
 QStringList words(const QString &name, const QJsonValue &value)
 {
@@ -28,7 +36,7 @@ QStringList words(const QString &name, const QJsonValue &value)
     case QJsonValue::Bool:
         return value.toBool() ? QStringList{option} : QStringList();
     case QJsonValue::Double:
-        return {option + u'=' + QString::number(value.toDouble(), 'g', 15)};
+        return {option + u'=' + numberText(value)};
     case QJsonValue::String:
         return {option + u'=' + value.toString()};
     case QJsonValue::Array: {
@@ -74,10 +82,12 @@ MvBatchJob MvBatchJob::fromLine(const QByteArray &text, int line)
             job.error =
                 tr("„%1“: erlaubt sind Text, Zahl, true, false und Listen davon").replace(u"%1"_s, option.key());
     }
-    if (job.error.isEmpty())
-        job.error = job.call().error;
-    if (job.error.isEmpty())
-        job.completeYear();
+    if (!job.error.isEmpty())
+        return job;
+    const Call call = job.call();
+    job.error = call.error;
+    if (call.isOk())
+        job.completeYear(call.arguments);
     return job;
 }
 
@@ -85,7 +95,7 @@ void MvBatchJob::readId()
 {
     const QJsonValue value = options.take(u"id"_s);
     if (value.isDouble())
-        id = QString::number(value.toDouble(), 'g', 15);
+        id = numberText(value);
     else if (value.isString() || value.isUndefined() || value.isNull())
         id = value.toString();
     else
@@ -93,11 +103,10 @@ void MvBatchJob::readId()
 }
 
 /// The usual year is another one next year, and a calendar that was made would pass for one that is to be made.
-void MvBatchJob::completeYear()
+void MvBatchJob::completeYear(const MvCliArguments &given)
 {
     const QStringList deciding{u"year"_s, u"from"_s, u"project"_s};
-    if (std::none_of(deciding.cbegin(), deciding.cend(),
-                     [this](const QString &name) { return options.contains(name); }))
+    if (std::none_of(deciding.cbegin(), deciding.cend(), [&](const QString &name) { return given.has(name); }))
         options.insert(u"year"_s, MvDateRange::createDefaultCalendarStart().year());
 }
 

@@ -39,5 +39,5 @@ public:
 
 private:
     void readId();
-    void completeYear();
+    void completeYear(const MvCliArguments &given);
 };

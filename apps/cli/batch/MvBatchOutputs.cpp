@@ -29,6 +29,8 @@ const QList<Placeholder> &placeholders()
     return all;
 }
 
+constexpr QChar anyDigit(0xe000); // in what is fixed of a name
+
 const Placeholder *placeholderAt(const QString &name, qsizetype at)
 {
     if (name[at] != u'%' || at + 1 >= name.size())
@@ -36,6 +38,23 @@ const Placeholder *placeholderAt(const QString &name, qsizetype at)
     const auto found = std::find_if(placeholders().cbegin(), placeholders().cend(),
                                     [&](const Placeholder &known) { return known.letter == name[at + 1]; });
     return found == placeholders().cend() ? nullptr : &*found;
+}
+
+bool areAlike(QChar one, QChar other)
+{
+    const auto isDigit = [](QChar letter) { return letter == anyDigit || (letter >= u'0' && letter <= u'9'); };
+    return one == other || ((one == anyDigit || other == anyDigit) && isDigit(one) && isDigit(other));
+}
+
+/// Whether names can be the same as far as both are fixed.
+template <typename Iterator>
+bool agree(Iterator one, Iterator endOfOne, Iterator other, Iterator endOfOther)
+{
+    while (one != endOfOne && other != endOfOther && areAlike(*one, *other)) {
+        ++one;
+        ++other;
+    }
+    return one == endOfOne || other == endOfOther;
 }
 
 } // namespace
@@ -62,6 +81,8 @@ void MvBatchOutputs::add(int owner, const QString &pattern)
     QStringList examples{folder};
     output.beginning = folder;
     bool isLiteral = true;
+    bool isFront = true;
+    output.front = folder;
     for (qsizetype i = 0; i < name.size(); ++i) {
         const Placeholder *placeholder = placeholderAt(name, i);
         const QStringList texts = placeholder ? placeholder->examples : QStringList{name[i]};
@@ -69,6 +90,13 @@ void MvBatchOutputs::add(int owner, const QString &pattern)
         isLiteral = isLiteral && (!placeholder || placeholder->letter == u'%');
         if (isLiteral)
             output.beginning += texts.constFirst();
+        const bool isYear = placeholder && placeholder->letter == u'y';
+        const bool isOpen = placeholder && !isYear && placeholder->letter != u'%';
+        const QString fixed = isYear ? QString(4, anyDigit) : texts.constFirst();
+        isFront = isFront && !isOpen;
+        if (isFront)
+            output.front += fixed;
+        output.back = isOpen ? QString() : output.back + fixed;
         QStringList longer;
         for (const QString &example : std::as_const(examples)) {
             for (const QString &text : texts)
@@ -86,6 +114,10 @@ void MvBatchOutputs::add(int owner, const QString &pattern)
 
 bool MvBatchOutputs::meet(const Output &one, const Output &other)
 {
+    const qsizetype same = qMin(one.beginning.size(), other.beginning.size());
+    if (!agree(one.back.crbegin(), one.back.crend(), other.back.crbegin(), other.back.crend()) ||
+        !agree(one.front.cbegin() + same, one.front.cend(), other.front.cbegin() + same, other.front.cend()))
+        return false;
     const auto matches = [](const QRegularExpression &shape, const QStringList &examples) {
         return std::any_of(examples.cbegin(), examples.cend(),
                            [&](const QString &example) { return shape.match(example).hasMatch(); });

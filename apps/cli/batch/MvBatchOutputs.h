@@ -7,8 +7,8 @@
 #include <QString>
 
 /// Which calendars of a batch would write the same file: two names that are equal, whatever way leads to the folder, or
-/// patterns ("%m") that may give the same name. With ten thousand calendars as quick as with ten, as long as their
-/// names differ before the first placeholder.
+/// patterns ("%m") that may give the same name. With ten thousand calendars a matter of a second, as long as their
+/// names differ before the first placeholder or behind the last one.
 class MvBatchOutputs
 {
 public:
@@ -30,11 +30,14 @@ private:
         int owner = 0;
         QString pattern;
         QString beginning; // whole path up to the first placeholder
+        QString front;     // up to the first placeholder of which it is not known how long it will be
+        QString back;      // what follows the last one of these
         QRegularExpression shape;
         QStringList examples; // whole paths that it may become
     };
 
     QString folderOf(const QString &pattern);
+    /// Of two of which one begins as the other does up to its first placeholder.
     static bool meet(const Output &one, const Output &other);
 
     QList<Output> m_outputs;

@@ -37,6 +37,15 @@ const QList<Shipped> &shipped()
     return all;
 }
 
+/// The one of this name; null when there is none.
+const Shipped *shippedAs(const QString &name)
+{
+    const auto known = std::find_if(shipped().cbegin(), shipped().cend(), [&](const Shipped &profile) {
+        return profile.name.compare(name, Qt::CaseInsensitive) == 0;
+    });
+    return known == shipped().cend() ? nullptr : &*known;
+}
+
 struct Closed
 {
     void operator()(void *profile) const { cmsCloseProfile(profile); }
@@ -91,21 +100,24 @@ QString MvPressProfile::installed(const QString &name)
     return found.value(0);
 }
 
+QString MvPressProfile::fileOf(const QString &nameOrFile)
+{
+    if (const Shipped *known = shippedAs(nameOrFile))
+        return MvDirectoryConfig::instance().resource(u"profiles/"_s + known->file).filePath();
+    return QFileInfo::exists(nameOrFile) ? nameOrFile : installed(nameOrFile);
+}
+
 MvPressProfile::Loaded MvPressProfile::load(const QString &nameOrFile)
 {
     Loaded loaded;
-    const auto known = std::find_if(shipped().cbegin(), shipped().cend(), [&](const Shipped &profile) {
-        return profile.name.compare(nameOrFile, Qt::CaseInsensitive) == 0;
-    });
-    if (known != shipped().cend()) {
-        loaded.error =
-            loaded.profile.read(MvDirectoryConfig::instance().resource(u"profiles/"_s + known->file).filePath());
+    const QString path = fileOf(nameOrFile);
+    if (const Shipped *known = shippedAs(nameOrFile)) {
+        loaded.error = loaded.profile.read(path);
         loaded.profile.m_condition = known->condition;
         loaded.profile.m_isRegistered = true;
         loaded.profile.m_inkLimit = known->inkLimit;
         return loaded;
     }
-    const QString path = QFileInfo::exists(nameOrFile) ? nameOrFile : installed(nameOrFile);
     loaded.error = path.isEmpty()
                        ? tr("%1: ein solches Farbprofil gibt es nicht; möglich sind %2 oder eine Datei (.icc)")
                              .replace(u"%1"_s, nameOrFile)

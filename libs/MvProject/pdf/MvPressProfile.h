@@ -23,6 +23,8 @@ public:
     /// One of names(), whatever the case; a file; or the name of a profile that is installed for all programs
     /// ("ISOcoated_v2"). What is no profile of a press is an error that names the file.
     static Loaded load(const QString &nameOrFile);
+    /// The file that load() reads; empty when there is none.
+    static QString fileOf(const QString &nameOrFile);
     /// Those that are shipped: "fogra39", …
     static QStringList names();
 
