@@ -35,12 +35,33 @@ MvLocale countryIn(const QStringList &words)
     return MvCliValues(arguments).country();
 }
 
+/// Options and their values apart, whether they were typed as one word, or taken apart by the shell: "--country=A" and
+/// "--country", "=", "A" are "--country", "A". What the last word begins with beside the value is the prefix.
+QStringList apart(const QStringList &typed, QString &prefix)
+{
+    QStringList words;
+    for (const QString &word : typed) {
+        const QString whole = MvCliArguments::longForm(word);
+        prefix.clear();
+        if (word == u"="_s) {
+            if (&word == &typed.constLast())
+                words.append(QString());
+        } else if (whole.startsWith(u"--"_s) && whole.contains(u'=')) {
+            words += {whole.section(u'=', 0, 0), whole.section(u'=', 1)};
+            prefix = word.chopped(words.constLast().size());
+        } else {
+            words.append(word);
+        }
+    }
+    return words;
+}
+
 } // namespace
 
 QList<MvCompletion::Candidate> MvCompletion::candidates(const QStringList &words) const
 {
     QList<Candidate> found;
-    if (words.size() <= 1) {
+    if (words.size() <= 1 || (words.size() == 2 && words.constFirst() == u"help"_s)) {
         for (const auto &command : m_commands)
             found.append({command->name(), command->summary()});
         return found;
@@ -125,9 +146,11 @@ QList<MvCompletion::Candidate> MvCompletion::places(const QString &option, const
 
 void MvCompletion::print(const QStringList &words, QTextStream &out) const
 {
-    const QString typed = words.isEmpty() ? QString() : words.constLast();
-    for (const Candidate &candidate : candidates(words)) {
+    QString prefix;
+    const QStringList all = apart(words, prefix);
+    const QString typed = all.isEmpty() ? QString() : all.constLast();
+    for (const Candidate &candidate : candidates(all)) {
         if (candidate.text.startsWith(typed, Qt::CaseInsensitive))
-            out << candidate.text << '\t' << candidate.help << '\n';
+            out << prefix << candidate.text << '\t' << candidate.help << '\n';
     }
 }

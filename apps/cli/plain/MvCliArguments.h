@@ -23,6 +23,8 @@ public:
     static const QMap<QChar, QString> &shortNames();
     /// The option's names as a person reads them: "-o, --output".
     static QString describe(const QString &name);
+    /// "-o" and "-ofile" as "--output" and "--output=file".
+    static QString longForm(const QString &argument);
     /// Sets what the call did not say itself; the line is that of the file where it stands.
     void set(const QString &name, const QString &value, int line);
     /// The line of the file that set the option; 0 for one of the call.
@@ -34,9 +36,6 @@ public:
     QStringList values(const QString &name) const { return m_values.value(name); }
 
 private:
-    /// "-o" and "-ofile" as "--output" and "--output=file".
-    static QString longForm(const QString &argument);
-
     QHash<QString, QStringList> m_values;
     QHash<QString, int> m_lines;
 };
