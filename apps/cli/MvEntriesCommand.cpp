@@ -142,9 +142,8 @@ MvCliCommand::Result MvEntriesCommand::check(const MvEntryReading &reading, cons
 {
     MvEntriesInput::printSkipped(reading, file, streams.hints);
     streams.out << tr("%1: %2 Einträge, %3 ausgelassen")
-                       .arg(QDir::toNativeSeparators(file))
-                       .arg(reading.events.size())
-                       .arg(reading.skipped.size())
+                       .arg(MvEntriesInput::nameOf(file), QString::number(reading.events.size()),
+                            QString::number(reading.skipped.size()))
                 << '\n';
     return {reading.skipped.isEmpty() ? Done : PrintsBadly, {}};
 }

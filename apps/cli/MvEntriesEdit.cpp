@@ -229,8 +229,7 @@ Result MvEntriesEdit::remove(const MvCliArguments &arguments, const MvCliCommand
             streams.hints << events.at(i).uuid().toString(QUuid::WithoutBraces) << u"  "_s
                           << MvEntriesPrinter::datesOf(events.at(i)) << u"  "_s << events.at(i).description() << '\n';
         return misused(tr("„%1“ passt auf %2 Einträge: Datum oder Kennung sagt, welcher gemeint ist, --all alle")
-                           .arg(text)
-                           .arg(positions.size()));
+                           .arg(text, QString::number(positions.size())));
     }
     MvCalendarEventList removed;
     removed.setGroups(events.groups());

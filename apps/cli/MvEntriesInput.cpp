@@ -26,12 +26,17 @@ bool MvEntriesInput::isProject(const QString &file)
     return opened.isOk() && opened.file->peek(4096).contains("<calendarproject");
 }
 
+QString MvEntriesInput::nameOf(const QString &file)
+{
+    return isStandardStream(file) ? tr("Standardeingabe") : QDir::toNativeSeparators(file);
+}
+
 MvEntryReading MvEntriesInput::readStandardInput(const MvLocale &language)
 {
     QFile input;
     const QByteArray bytes =
         input.open(stdin, QIODevice::ReadOnly) ? input.read(MvEntryIntake::largestFile + 1) : QByteArray();
-    const QString name = tr("Standardeingabe");
+    const QString name = nameOf(u"-"_s);
     MvEntryReading reading;
     if (bytes.size() > MvEntryIntake::largestFile)
         reading.error = tr("%1: mehr als %2 MB").arg(name).arg(MvEntryIntake::largestFile >> 20);
@@ -67,7 +72,7 @@ MvEntryReading MvEntriesInput::read(const QString &file, const MvLocale &languag
 
 void MvEntriesInput::printSkipped(const MvEntryReading &reading, const QString &file, QTextStream &hints)
 {
-    const QString name = QDir::toNativeSeparators(file);
+    const QString name = nameOf(file);
     for (const MvCalendarEventFile::Skipped &skipped : reading.skipped.mid(0, mostHints))
         hints << tr("%1: ausgelassen: %2").arg(name, skipped.describe()) << '\n';
     if (reading.skipped.size() > mostHints)

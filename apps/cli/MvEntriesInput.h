@@ -15,6 +15,8 @@ class MvEntriesInput
 public:
     /// The name that stands for standard input, and for standard output.
     static bool isStandardStream(const QString &file) { return file == QStringLiteral("-"); }
+    /// As a person calls it: "Standardeingabe", or the file's path.
+    static QString nameOf(const QString &file);
     /// A calendar of this program: its entries are part of it.
     static bool isProject(const QString &file);
 

@@ -11,14 +11,14 @@
 
 namespace {
 
-std::atomic_bool isAskedFor{false};
+std::atomic_int askedFor{0}; // the signal
 std::atomic_bool endsAtSecond{false};
-static_assert(std::atomic_bool::is_always_lock_free, "a signal must not wait");
+static_assert(std::atomic_bool::is_always_lock_free && std::atomic_int::is_always_lock_free, "a signal must not wait");
 int ends[2] = {-1, -1}; // of the pipe that wakes the event loop
 
 extern "C" void take(int signal)
 {
-    if (isAskedFor.exchange(true)) {
+    if (askedFor.exchange(signal) != 0) {
         if (endsAtSecond)
             ::_exit(128 + signal);
         return;
@@ -43,7 +43,15 @@ void MvInterruption::watch(Again again)
 
 bool MvInterruption::isAsked()
 {
-    return isAskedFor;
+    return askedFor != 0;
+}
+
+void MvInterruption::endWatch()
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        ::signal(signal, SIG_DFL);
+    if (const int signal = askedFor; signal != 0)
+        ::raise(signal);
 }
 
 MvInterruption::MvInterruption(QObject *parent)

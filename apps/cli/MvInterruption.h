@@ -17,6 +17,8 @@ public:
 
     /// For a program's start. A call of the system that is waiting when a signal comes is not begun again.
     static void watch(Again again);
+    /// Signals end the program as usual again; so does the one that came meanwhile.
+    static void endWatch();
     /// Whether there was such a signal. Any thread.
     static bool isAsked();
 

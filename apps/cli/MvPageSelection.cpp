@@ -49,8 +49,7 @@ MvPageSelection::Pages MvPageSelection::parse(const QString &text, const MvCalen
             return {
                 {tr("--pages „%1“: erlaubt sind Seiten von 1 bis %2, Bereiche wie 2-4 und cover, months, free, back, "
                     "soweit es sie gibt")
-                     .arg(word.trimmed())
-                     .arg(document.pages().size()),
+                     .arg(word.trimmed(), QString::number(document.pages().size())),
                  {}},
                 {}};
         }

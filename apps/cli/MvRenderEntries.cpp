@@ -97,7 +97,7 @@ MvRenderEntries MvRenderEntries::own()
 
 void MvRenderEntries::printHints(QTextStream &hints) const
 {
-    const QString file = QDir::toNativeSeparators(m_file.filePath());
+    const QString file = MvEntriesInput::nameOf(m_file.filePath());
     for (const MvCalendarEventFile::Skipped &skipped : m_skipped.mid(0, mostHints))
         hints << tr("%1: nicht gedruckt: %2").arg(file, skipped.describe()) << '\n';
     if (m_skipped.size() > mostHints)

@@ -10,7 +10,10 @@
 #include "MvSheetOptions.h"
 #include "plain/MvCliValues.h"
 
+#include <QDir>
 #include <QFile>
+#include <QSet>
+#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -36,7 +39,9 @@ public:
     void pagesDone(int done, int total) override
     {
         if (m_stream) {
-            *m_stream << MvRenderTargets::tr("%1: Seite %2 von %3").arg(m_name).arg(done).arg(total) << '\n';
+            *m_stream
+                << MvRenderTargets::tr("%1: Seite %2 von %3").arg(m_name, QString::number(done), QString::number(total))
+                << '\n';
             m_stream->flush();
         }
     }
@@ -73,7 +78,7 @@ MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &argu
     , m_press(MvPressOptions::settings(values, arguments))
     , m_sheets(MvSheetOptions::settings(values, arguments))
 {
-    const int jobs = values.number(u"jobs"_s, 1, mostJobs, 0);
+    m_jobs = values.number(u"jobs"_s, 1, mostJobs, 0);
     const QString format = values.choice(u"format"_s, {u"pdf"_s, u"html"_s, u"png"_s, u"jpg"_s, u"tif"_s, u"svg"_s});
     values.exclude(u"overwrite"_s, u"no-overwrite"_s);
     QStringList paths = arguments.values(u"output"_s);
@@ -85,19 +90,13 @@ MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &argu
             values.setError(tr("-o - steht allein: die Standardausgabe kann nur eine Datei sein"));
         values.exclude(u"output"_s, u"report"_s);
         m_name = tr("Standardausgabe");
-        m_folder = std::make_unique<QTemporaryDir>();
-        if (!m_folder->isValid())
-            values.setError(m_folder->errorString());
-        paths = {m_folder->filePath(u"kalender."_s + format)};
+        m_isStandardOutput = true;
+        paths = {QDir::temp().filePath(u"kalender."_s + format)};
     } else if (values.has(u"format"_s)) {
         values.setError(tr("--format sagt, was -o - ausgibt; bei einer Datei sagt es ihr Name"));
     }
-    for (const QString &path : std::as_const(paths)) {
-        m_targets.append(MvExportTarget(path, MvExportTarget::Pdf::OneOfEachPage));
-        m_targets.last().setJobs(jobs);
-        m_targets.last().setPress(m_press);
-        m_targets.last().setSheets(m_sheets);
-    }
+    for (const QString &path : std::as_const(paths))
+        m_targets.append(target(path));
     const bool isAsked = m_press.isForPress() && arguments.line(u"press"_s) == 0; // not only set for all calls
     const bool hasPdf =
         std::any_of(m_targets.cbegin(), m_targets.cend(), [](const auto &target) { return target.isPdf(); });
@@ -107,6 +106,15 @@ MvRenderTargets::MvRenderTargets(MvCliValues &values, const MvCliArguments &argu
                             .replace(u"%1"_s, values.has(u"tiles"_s) ? u"tiles"_s : u"n-up"_s));
     if (isAsked && !hasPdf)
         values.setError(tr("--press macht ein PDF für die Druckerei; %1 ist keines").replace(u"%1"_s, m_name));
+}
+
+MvExportTarget MvRenderTargets::target(const QString &path) const
+{
+    MvExportTarget target(path, MvExportTarget::Pdf::OneOfEachPage);
+    target.setJobs(m_jobs);
+    target.setPress(m_press);
+    target.setSheets(m_sheets);
+    return target;
 }
 
 MvCliCommand::Result MvRenderTargets::check(const MvPageSource &pages) const
@@ -127,8 +135,27 @@ MvCliCommand::Result MvRenderTargets::check(const MvPageSource &pages) const
                 return {MvCliCommand::Failed, checked.error};
         const QStringList files = target.files(pages).paths;
         for (const QString &file : files) {
-            if (!m_replaces && QFile::exists(file))
+            if (!m_replaces && !isStandardOutput() && QFile::exists(file))
                 return {MvCliCommand::Failed, tr("%1 gibt es schon; --overwrite ersetzt es").replace(u"%1"_s, file)};
+        }
+    }
+    if (const QString path = writtenTwice(pages); !path.isEmpty())
+        return {MvCliCommand::Misused, tr("%1 würde zweimal geschrieben").arg(path)};
+    return {};
+}
+
+/// A file that two targets would write, in whatever way they name it; empty when there is none.
+QString MvRenderTargets::writtenTwice(const MvPageSource &pages) const
+{
+    QSet<QString> known;
+    for (const MvExportTarget &target : m_targets) {
+        const QStringList files = target.files(pages).paths;
+        for (const QString &file : files) {
+            const QFileInfo info(file);
+            const QString whole = QFileInfo(info.path()).canonicalFilePath() + u'/' + info.fileName();
+            if (known.contains(whole))
+                return file;
+            known.insert(whole);
         }
     }
     return {};
@@ -142,9 +169,11 @@ void MvRenderTargets::hintAtSheets(const MvPageSource &pages, QTextStream &hints
 
 MvExportResult MvRenderTargets::write(const MvPageSource &pages, const MvCliCommand::Streams &streams) const
 {
+    if (isStandardOutput())
+        return writeToStandardOutput(pages, streams);
     MvExportResult all;
     for (const MvExportTarget &target : m_targets) {
-        Progress progress(isStandardOutput() ? m_name : target.path(), streams.progress);
+        Progress progress(target.path(), streams.progress);
         const MvExportResult one = target.write(pages, m_dpi, &progress);
         all.files += one.files;
         all.missingFotos += one.missingFotos;
@@ -152,19 +181,34 @@ MvExportResult MvRenderTargets::write(const MvPageSource &pages, const MvCliComm
             all.inks = one.inks;
         all.error = one.error;
         all.isCancelled = one.isCancelled;
-        if (all.isOk() && isStandardOutput())
-            all.error = copy(one.files.value(0), streams.out).error;
         if (!all.isOk())
             break;
     }
     return all;
 }
 
-MvOutcome MvRenderTargets::copy(const QFileInfo &file, QTextStream &out)
+/// By way of a file. Nothing is left behind when a signal ends the program, or whoever reads goes away.
+MvExportResult MvRenderTargets::writeToStandardOutput(const MvPageSource &pages,
+                                                      const MvCliCommand::Streams &streams) const
 {
-    QFile source(file.filePath());
-    if (!source.open(QIODevice::ReadOnly))
-        return {source.errorString(), {}};
+    MvInterruption::watch(MvInterruption::Again::EndsTheProgram);
+    QTemporaryDir folder;
+    const QString name = QFileInfo(m_targets.constFirst().path()).fileName();
+    Progress progress(m_name, streams.progress);
+    MvExportResult result = folder.isValid() ? target(folder.filePath(name)).write(pages, m_dpi, &progress)
+                                             : MvExportResult::failed(folder.errorString());
+    QFile file(result.files.value(0).filePath());
+    if (result.isOk() && !file.open(QIODevice::ReadOnly))
+        result.error = file.errorString();
+    folder.remove();
+    MvInterruption::endWatch();
+    if (result.isOk())
+        result.error = copy(file, streams.out).error;
+    return result;
+}
+
+MvOutcome MvRenderTargets::copy(QFile &source, QTextStream &out)
+{
     out.flush();
     QIODevice *device = out.device();
     while (device && !source.atEnd()) {

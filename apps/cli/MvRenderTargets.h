@@ -9,9 +9,6 @@
 
 #include <QCoreApplication>
 #include <QList>
-#include <QTemporaryDir>
-
-#include <memory>
 
 class MvCliValues;
 
@@ -31,7 +28,7 @@ public:
     int inkLimit() const { return m_press.usedInkLimit(); }
     /// What hints are about.
     QString name() const { return m_name; }
-    bool isStandardOutput() const { return m_folder != nullptr; }
+    bool isStandardOutput() const { return m_isStandardOutput; }
 
     /// Says what becomes of the pages on a printer's sheets.
     void hintAtSheets(const MvPageSource &pages, QTextStream &hints) const;
@@ -41,7 +38,10 @@ public:
     MvExportResult write(const MvPageSource &pages, const MvCliCommand::Streams &streams) const;
 
 private:
-    static MvOutcome copy(const QFileInfo &file, QTextStream &out);
+    QString writtenTwice(const MvPageSource &pages) const;
+    MvExportTarget target(const QString &path) const;
+    MvExportResult writeToStandardOutput(const MvPageSource &pages, const MvCliCommand::Streams &streams) const;
+    static MvOutcome copy(QFile &source, QTextStream &out);
 
     QList<MvExportTarget> m_targets;
     QString m_name;
@@ -49,5 +49,6 @@ private:
     bool m_replaces = true;
     MvPressSettings m_press;
     MvSheetSettings m_sheets;
-    std::unique_ptr<QTemporaryDir> m_folder; // of what goes to the standard output
+    int m_jobs = 0;
+    bool m_isStandardOutput = false;
 };

@@ -1071,7 +1071,7 @@
     </message>
     <message>
         <source>Hochformat</source>
-        <translation>Portrait</translation>
+        <translation>portrait</translation>
     </message>
     <message>
         <source>Beschnitt an jeder Kante, nur im PDF (0)</source>
@@ -6740,6 +6740,10 @@ Save it under another name or in another folder.</translation>
         <source>Ferien bis %1</source>
         <translation>school holidays until %1</translation>
     </message>
+    <message>
+        <source>nur dieser Staat, Kürzel oder Name (alle)</source>
+        <translation>this country alone, code or name (all)</translation>
+    </message>
 </context>
 <context>
     <name>MvRegularFile</name>
@@ -6983,6 +6987,10 @@ Save it under another name or in another folder.</translation>
     <message>
         <source>--%1 legt die Seiten eines PDF auf Blätter; %2 ist keines</source>
         <translation>--%1 lays the pages of a PDF on sheets; %2 is none</translation>
+    </message>
+    <message>
+        <source>%1 würde zweimal geschrieben</source>
+        <translation>%1 would be written twice</translation>
     </message>
 </context>
 <context>

@@ -14,6 +14,7 @@ class tst_Scripts : public MvProgramTest
 private Q_SLOTS:
     void standardOutput_data();
     void standardOutput();
+    void leavesNothingBehind();
     void samePicturesByAnyNumberOfJobs();
     void keepsWhatIsThere();
     void saysAsMuchAsWanted();
@@ -51,13 +52,23 @@ void tst_Scripts::standardOutput()
     QCOMPARE(files(), QStringList());
 }
 
+/// Whoever reads the standard output goes away, or the call is ended; a signal ends it as usual.
+void tst_Scripts::leavesNothingBehind()
+{
+    const QString call = u"cd %1; TMPDIR=. %2 render --year 2027 -o - "_s.arg(path({}), QStringLiteral(MV_PROGRAM));
+    for (const QString &end :
+         {u"| head -c 1"_s, u"& until ls mvcalendar-*; do :; done >&2; kill -TERM $!; wait $!; echo -n $?"_s})
+        QCOMPARE(outputOf(u"bash"_s, {u"-c"_s, call + end}).right(3), end.startsWith(u'|') ? "%" : "143");
+    QCOMPARE(files().filter(u"mvcalendar"_s), QStringList());
+}
+
 void tst_Scripts::samePicturesByAnyNumberOfJobs()
 {
     const QString calendar = u"render --country AT --region Tirol --year 2027 --dpi 40 "_s;
-    QCOMPARE(run(calendar + u"-j1 -o a-%r-%m.png -o a.svg --pages 5 -o a-%r.pdf"_s).err, QByteArray());
+    QCOMPARE(run(calendar + u"-j1 -o a-%r-%m.png -o a.svg --pages 5 -o a%%-%r.pdf"_s).err, QByteArray());
     QCOMPARE(run(calendar + u"-j1 -o a-%r-%m.png"_s).exitCode, 0);
     QCOMPARE(run(calendar + u"--jobs 7 -o b-%r-%m.png -o b-%n.svg"_s).exitCode, 0);
-    QVERIFY(files().contains(u"a-7.pdf"_s));
+    QVERIFY(files().contains(u"a%-7.pdf"_s));
     for (int month = 1; month <= 12; ++month) {
         const QString name = u"-7-%1.png"_s.arg(month, 2, 10, QChar(u'0'));
         QCOMPARE(contentOf(path(u'a' + name)), contentOf(path(u'b' + name)));
@@ -100,6 +111,7 @@ void tst_Scripts::settings_data()
     row("for a command alone", "[holidays]\ncountry = AT\n", file, "k-DE.pdf\n");
     row("not wanted", own, u"--no-config"_s + file, "k-DE.pdf\n");
     row("a theme is nothing without photos", "theme = SEA\nlayout = MONTH_ONLY\n", file, "k-DE.pdf\n");
+    row("what is nothing together", "quiet\n\nverbose\n", file, "schließen einander aus (set.conf, Zeile 1)");
     row("a value that makes no sense", "\npage = A99\n", file, "--page „A99“");
     row("... and its place", "\npage = A99\n", file, "(set.conf, Zeile 2)");
     row("no such option", "contry = AT", file, "set.conf, Zeile 1: „contry“ gibt es hier nicht");
@@ -128,6 +140,9 @@ void tst_Scripts::completes_data()
     row("commands", u"mvcalendar re"_s, QStringList{u"render"_s, u"regions"_s});
     row("options", u"mvcalendar render --year 2027 --no-ho"_s, QStringList{u"--no-holidays"_s});
     row("regions of the country", u"mvcalendar render --country AT -r 9"_s, QStringList{u"9"_s});
+    row("as one word, which bash takes apart", u"mvcalendar render --country = CH --region = A"_s,
+        QStringList{u"AG"_s, u"AR"_s, u"AI"_s});
+    row("as one word", u"mvcalendar render -cCH -rJ"_s, QStringList{u"-rJU"_s});
     row("words of an option", u"mvcalendar render --binding s"_s, QStringList{u"side"_s});
     row("what to do", u"mvcalendar entries re"_s, QStringList{u"remove"_s});
     row("presses", u"mvcalendar render --press fo"_s, QStringList{u"fogra39"_s, u"fogra29"_s});
@@ -153,7 +168,7 @@ void tst_Scripts::completesElsewhere_data()
     const QString scripts = QStringLiteral(MV_COMPLETION);
     row("fish", u"fish"_s, u"source "_s + scripts + u"/mvcalendar.fish; complete -C '%1'"_s);
     row("zsh", u"zsh"_s,
-        u"_files() { ls }; _describe() { print -l ${(P)2} }; words=(${(z):-%1x}); "
+        u"_files() { ls }; _describe() { print -l -- ${(P)2} }; words=(${(z):-%1x}); "
         "words[-1]=${words[-1]%x}; CURRENT=$#words; complete() { . "_s +
             scripts + u"/_mvcalendar }; complete"_s);
 }
@@ -167,6 +182,7 @@ void tst_Scripts::completesElsewhere()
     write(path(u"k.pdf"_s), {});
     const QString program = QFileInfo(QStringLiteral(MV_PROGRAM)).path();
     for (const auto &[line, offered] : {std::pair(u"mvcalendar render --press "_s, "fogra39 fogra29 gracol"),
+                                        {u"mvcalendar render --press=fogra2"_s, "--press=fogra29"},
                                         {u"mvcalendar render -o "_s, "k.pdf"},
                                         {u"mvcalendar render -l YEAR_P"_s, "YEAR_PLANNER:Jahresplaner"}}) {
         const QByteArray out = outputOf(

@@ -78,5 +78,6 @@ void MvBatchList::refuseSharedOutputs()
 QString MvBatchList::placeOf(const MvBatchJob &job) const
 {
     const QString name = job.name();
-    return tr("%1, Zeile %2").arg(place).arg(job.line) + (name.isEmpty() ? QString() : u" ("_s + name + u')');
+    return tr("%1, Zeile %2").arg(place, QString::number(job.line)) +
+           (name.isEmpty() ? QString() : u" ("_s + name + u')');
 }

@@ -53,8 +53,7 @@ MvOutcome MvBatchReport::readLines()
         const std::optional<MvBatchResult> result = MvBatchResult::fromLine(line);
         if (!result && !m_isLacking && !line.trimmed().isEmpty())
             return {tr("%1, Zeile %2: das ist kein Bericht eines Stapels; er bleibt, wie er ist")
-                        .arg(m_file.fileName())
-                        .arg(number),
+                        .arg(m_file.fileName(), QString::number(number)),
                     {}};
         if (!result && number == 1 && !line.trimmed().isEmpty())
             return {tr("%1 ist kein Bericht eines Stapels; die Datei bleibt, wie sie ist").arg(m_file.fileName()), {}};

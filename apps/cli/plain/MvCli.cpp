@@ -113,8 +113,10 @@ MvCliCommand::Result MvCli::runCommand(const MvCliCommand &command, const QStrin
         return {MvCliCommand::Misused, applied.error};
 
     const bool isQuiet = call.has(u"quiet"_s);
-    if (isQuiet && call.has(u"verbose"_s))
-        return {MvCliCommand::Misused, tr("--quiet und --verbose schließen einander aus")};
+    if (isQuiet && call.has(u"verbose"_s)) {
+        const QString error = tr("--quiet und --verbose schließen einander aus");
+        return {MvCliCommand::Misused, error + config.placeOf(error, call)};
+    }
     QString unsaid;
     QTextStream silence(&unsaid);
     MvCliCommand::Result result =

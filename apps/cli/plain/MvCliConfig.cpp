@@ -147,7 +147,7 @@ void MvCliConfig::readLine(const QString &text, int number, const QStringList &c
 
 QString MvCliConfig::place(int line) const
 {
-    return tr("%1, Zeile %2").arg(m_path).arg(line);
+    return tr("%1, Zeile %2").arg(m_path, QString::number(line));
 }
 
 void MvCliConfig::fail(int line, const QString &what)

@@ -43,7 +43,9 @@ QString MvRegionsCommand::summary() const
 
 QList<MvCliOption> MvRegionsCommand::options() const
 {
-    return {countryOption(), languageOption(), formatOption({u"text"_s, u"json"_s}), jsonOption()};
+    MvCliOption country = countryOption();
+    country.help = tr("nur dieser Staat, Kürzel oder Name (alle)");
+    return {country, languageOption(), formatOption({u"text"_s, u"json"_s}), jsonOption()};
 }
 
 QStringList MvRegionsCommand::examples() const

@@ -62,8 +62,7 @@ QString MvFileNamePattern::path(const QDate &month, int page, MvPageKind kind, c
 
 QString MvFileNamePattern::pathOfAll(const MvPageSource &pages) const
 {
-    const qsizetype nameStart = m_path.lastIndexOf(u'/') + 1;
-    return m_path.left(nameStart) + m_path.mid(nameStart).replace(u"%r"_s, pages.region);
+    return path({}, 0, MvPageKind::Month, pages.region);
 }
 
 MvFileNamePattern::Paths MvFileNamePattern::paths(const MvPageSource &pages) const

@@ -29,7 +29,7 @@ public:
 
     /// The name of one page's file, counted from 0. An unknown placeholder stays as it stands.
     QString path(const QDate &month, int page, MvPageKind kind = MvPageKind::Month, const QString &region = {}) const;
-    /// The name of one file with all pages, in which %r alone is replaced: all else is as it stands.
+    /// The name of one file with all pages, in which %r and %% are replaced: all else is as it stands.
     QString pathOfAll(const MvPageSource &pages) const;
 
     struct Paths : MvOutcome
