@@ -103,9 +103,19 @@ MvCalendariumAppearance MvCalendarOptions::appearance(MvCliValues &values)
         settings.setFont(values.text(u"font"_s));
         appearance.setFontSettings(settings);
     }
-    if (!appearance.isValid())
-        values.setError(tr("Layouts und Farbschemata fehlen; das Programm ist unvollständig installiert"));
     return appearance;
+}
+
+QString MvCalendarOptions::problem(const MvCalendarDocument &document)
+{
+    using Kind = MvSchemaNames::Kind;
+    if (document.appearance().isValid())
+        return {};
+    MvCalendariumAppearance simplest; // the options may ask for what there is not
+    simplest.setLayoutSchemaByID(MvCalendariumLayoutSchemaID(MvSchemaNames::defaultId(Kind::Layouts)));
+    simplest.setColorSchemaById(MvCalendariumColorSchemaID(MvSchemaNames::defaultId(Kind::Colors)));
+    return simplest.isValid() ? QString()
+                              : tr("Layouts und Farbschemata fehlen; das Programm ist unvollständig installiert");
 }
 
 QStringList MvCalendarOptions::columns(MvCliValues &values, const MvCalendariumAppearance &appearance)

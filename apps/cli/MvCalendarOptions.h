@@ -33,6 +33,8 @@ public:
     static MvPageFormat pageFormat(MvCliValues &values);
     /// A calendar of simple pages as the options have it.
     static MvCalendarDocument document(MvCliValues &values);
+    /// Why no calendar at all can be made, whatever the options, when this one cannot; else empty.
+    static QString problem(const MvCalendarDocument &document);
 
 private:
     /// The headings of the free columns.

@@ -83,6 +83,9 @@ MvCliCommand::Result MvRenderCommand::render(const MvCliArguments &arguments, co
     if (values.has(u"report"_s))
         values.choice(u"report"_s, {u"json"_s});
     const MvRenderTargets targets(values, arguments);
+    if (!isProject && !isFotoCalendar)
+        if (const QString problem = MvCalendarOptions::problem(document); !problem.isEmpty())
+            return failed(problem);
     if (!values.isOk())
         return misused(values.error());
 
