@@ -201,8 +201,10 @@ void tst_MvPress::plates()
         [&](QPainter &painter) {
             ground(painter);
             write(painter, {60, 200}, u"Pfingsten"_s, Qt::black);
-            write(painter, {60, 340}, u"Ferien"_s, QColor(140, 140, 140));
-            write(painter, {300, 600}, u"Öffner 24"_s, QColor(30, 30, 32)); // over both grounds
+            write(painter, {60, 340}, u"Ferien"_s, QColor(104, 113, 124)); // grey with a tint
+            write(painter, {300, 600}, u"Öffner 24"_s, QColor(37, 41, 46)); // over both grounds
+            painter.setPen(QPen(QColor(198, 203, 209), 2.0));
+            painter.drawLine(60, 370, 900, 370);
         },
         false, 30.0));
     for (int ink = 0; ink < 3; ++ink)

@@ -320,10 +320,14 @@ void MvPdfPagePainter::stroke(const QPainterPath &path)
     const bool isCosmetic = pen.isCosmetic();
     if (pen.widthF() == 0.0)
         pen.setWidthF(1.0);
-    m_content.setStrokeColor(pen.color().rgb());
-    noteInk(pen.color().rgb());
+    constexpr double thin = 142.0; // units: half a millimetre
+    const double scale = scaleOf(isCosmetic ? m_toUnits : m_transform);
+    const bool isLikeType = m_shared.press && pen.widthF() * scale <= thin;
+    const QRgb color = isLikeType ? MvPressColors::colorOfType(pen.color().rgb()) : pen.color().rgb();
+    m_content.setStrokeColor(color);
+    noteInk(color);
     if (isCosmetic || keepsShapes(m_transform)) {
-        m_content.setPen(pen, scaleOf(isCosmetic ? m_toUnits : m_transform));
+        m_content.setPen(pen, scale);
         m_content.addPath(m_transform.map(path), MvPdfContent::Subpaths::Closed);
         m_content.finishPath("S");
         return;

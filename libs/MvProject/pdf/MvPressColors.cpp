@@ -127,9 +127,14 @@ MvPressColors::Inks MvPressColors::inks(QRgb color) const
 
 QRgb MvPressColors::colorOfType(QRgb color)
 {
-    constexpr int nearlyBlack = 48;
-    const auto gray = grayOf(color);
-    return gray && *gray <= nearlyBlack ? qRgb(0, 0, 0) : color;
+    constexpr int nearlyBlack = 60;
+    constexpr int tint = 24; // between the parts of a colour: too little for a hue in strokes so thin
+    constexpr int darkTint = 32;
+    const auto [least, most] = std::minmax({qRed(color), qGreen(color), qBlue(color)});
+    const int gray = qGray(color);
+    if (gray <= nearlyBlack && most - least <= darkTint)
+        return qRgb(0, 0, 0);
+    return most - least <= tint ? qRgb(gray, gray, gray) : color;
 }
 
 QByteArray MvPressColors::photo(const QImage &image) const

@@ -31,8 +31,8 @@ public:
     MvPressColors &operator=(const MvPressColors &) = delete;
 
     Inks inks(QRgb color) const;
-    /// What type of that colour is printed in: pure black for one that is so dark a grey that it would only be black
-    /// with holes, else the colour itself.
+    /// What type and thin lines of that colour are printed in, so that they need no plates to meet: pure black for one
+    /// so dark that it would only be black with holes, grey for one with a mere tint, else the colour itself.
     static QRgb colorOfType(QRgb color);
 
     /// Four bytes for each pixel, row by row, as the profile wants photos to be printed. The opacity is ignored.
