@@ -43,6 +43,14 @@ QImage photo()
     return image;
 }
 
+QImage veiled(QImage image)
+{
+    image = image.convertToFormat(QImage::Format_ARGB32);
+    for (int x = 0; x < image.width(); ++x)
+        image.setPixel(x, 0, image.pixel(x, 0) & 0x7fffffff);
+    return image;
+}
+
 /// Pixels of the part with more than a trace of ink.
 int inked(const QImage &plate, const QRect &part)
 {
@@ -80,6 +88,7 @@ private Q_SLOTS:
     void bleedGoesOn_data();
     void bleedGoesOn();
     void fotosKeepTheirColors();
+    void translucentFotosAreFotos();
     void mostInk();
     void sameBytes();
 
@@ -201,7 +210,7 @@ void tst_MvPress::plates()
         [&](QPainter &painter) {
             ground(painter);
             write(painter, {60, 200}, u"Pfingsten"_s, Qt::black);
-            write(painter, {60, 340}, u"Ferien"_s, QColor(104, 113, 124)); // grey with a tint
+            write(painter, {60, 340}, u"Ferien"_s, QColor(104, 113, 124));  // grey with a tint
             write(painter, {300, 600}, u"Öffner 24"_s, QColor(37, 41, 46)); // over both grounds
             painter.setPen(QPen(QColor(198, 203, 209), 2.0));
             painter.drawLine(60, 370, 900, 370);
@@ -353,11 +362,26 @@ void tst_MvPress::fotosKeepTheirColors()
             painter.fillRect(page, Qt::yellow);
             painter.drawImage(QRectF(100, 100, 300, 200), photo());
             painter.drawImage(QRectF(500, 100, 300, 200), photo().convertToFormat(QImage::Format_Grayscale8));
+            painter.drawImage(QRectF(100, 400, 300, 200), veiled(photo()));
         },
         press, 30.0);
     QVERIFY(m_inks.constFirst().percent > 200.0); // of the photo, once it is printed
     const QByteArray pictures = outputOf(u"pdfimages"_s, {u"-list"_s, file});
-    QVERIFY2(pictures.count(" icc ") == 1 && pictures.count(" gray ") == 1, pictures);
+    QVERIFY2(pictures.count(" icc ") == 2 && pictures.count(" gray ") == 2, pictures); // one is the veil
+}
+
+/// All pixels in the inks of the profile: greys of black alone among them would be spots in shadows.
+void tst_MvPress::translucentFotosAreFotos()
+{
+    QImage dusk(400, 320, QImage::Format_RGB32); // hardly any colour, but not grey
+    for (int y = 0; y < dusk.height(); ++y)
+        for (int x = 0; x < dusk.width(); ++x) {
+            const int light = 20 + int(qHash(1000 * y + x) % 40);
+            dusk.setPixel(x, y, qRgb(light, light + x % 3, light));
+        }
+    const QList<QImage> plates =
+        separated(pdf([&](QPainter &painter) { painter.drawImage(page, veiled(dusk)); }, false, 30.0));
+    QVERIFY(inked(plates[0], QRect(400, 300, 100, 100)) > 9900);
 }
 
 void tst_MvPress::mostInk()

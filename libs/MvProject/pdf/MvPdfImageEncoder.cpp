@@ -136,9 +136,10 @@ MvPdfImageEncoder::Stream MvPdfImageEncoder::inks(const QImage &image, const MvP
         return stream;
     }
     const auto plain = [](const QImage &part) { return part.convertToFormat(QImage::Format_RGB888); };
-    const bool isDrawing = isTranslucent(image) || isFlat(image, plain);
+    const bool isDrawing = isFlat(image, plain);
+    const bool isExact = isDrawing || isTranslucent(image); // colours must end where the opacity does
     const QByteArray inks = isDrawing ? press.drawing(image) : press.photo(image);
-    const QByteArray photo = isDrawing ? QByteArray() : MvInkJpeg::packed(inks, image.size(), quality);
+    const QByteArray photo = isExact ? QByteArray() : MvInkJpeg::packed(inks, image.size(), quality);
     const Ink most = mostInk(inks, image.size(), inkCount);
     if (!photo.isEmpty())
         return {entriesIn("/DeviceCMYK", image.size(), "/Filter/DCTDecode"), photo, most};
@@ -153,7 +154,7 @@ MvPdfImageEncoder::Ink MvPdfImageEncoder::inkOf(const QImage &image, const MvPre
 bool MvPdfImageEncoder::isColorFoto(const QImage &image)
 {
     const auto plain = [](const QImage &part) { return part.convertToFormat(QImage::Format_RGB888); };
-    return !image.allGray() && !isTranslucent(image) && !isFlat(image, plain);
+    return !image.allGray() && !isFlat(image, plain);
 }
 
 MvPdfImageEncoder::Stream MvPdfImageEncoder::opacity(const QImage &image)

@@ -37,7 +37,7 @@ public:
     static Stream inks(const QImage &image, const MvPressColors &press);
     /// Where a photo would have most of all inks.
     static Ink inkOf(const QImage &image, const MvPressColors &press);
-    /// Whether it is opaque, has colours, and no areas of one as drawings have.
+    /// Whether it has colours, and no areas of one as drawings have.
     static bool isColorFoto(const QImage &image);
     /// The opacity as shades of grey.
     static Stream opacity(const QImage &image);
