@@ -5,6 +5,7 @@
 #include "MvPaint/MvGlyphOutlines.h"
 #include "MvPaint/MvGlyphPictures.h"
 #include "MvPaint/MvJoinedPath.h"
+#include "MvPaint/MvPrintableText.h"
 
 #include <QGlyphRun>
 #include <QRawFont>
@@ -16,6 +17,8 @@
 #include <optional>
 
 namespace {
+
+constexpr qsizetype longestTurned = 2000; // asking where each character stands takes the square of their number
 
 bool isDecorated(const QFont &font)
 {
@@ -56,8 +59,7 @@ std::optional<Step> stepToMatch(const QList<quint32> &characters, qsizetype char
     return std::nullopt;
 }
 
-/// Boxes in place of letters whose script no font can set: they have no size, and whoever asks for the name of such a
-/// font crashes.
+/// Stands for letters whose script no font can set: it has no size, and whoever asks for its name crashes.
 bool hasNoFont(const QGlyphRun &run)
 {
     return run.rawFont().pixelSize() <= 0.0;
@@ -76,6 +78,7 @@ QList<QGlyphRun> fromLeftToRight(QList<QGlyphRun> runs)
 
 MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
     : m_seen(asShown(text, font.capitalization()))
+    , m_isTurned(text.size() <= longestTurned && MvPrintableText::isTurned(text))
 {
     MvFontSupply::provide(font, text);
     m_path.setFillRule(Qt::WindingFill);
@@ -99,12 +102,14 @@ MvGlyphLine::MvGlyphLine(const QFont &font, const QString &text)
     const QList<QGlyphRun> runs = fromLeftToRight(layout.glyphRuns());
     for (const QGlyphRun &run : runs) {
         if (hasNoFont(run))
-            continue;
-        if (hasPictures && MvGlyphPictures::hasNoOutlines(run.rawFont()))
+            addBoxes(run, QRawFont::fromFont(font), line.ascent());
+        else if (hasPictures && MvGlyphPictures::hasNoOutlines(run.rawFont()))
             addPictures(run, line.ascent());
         else
             add(run, line.ascent());
     }
+    if (m_isTurned)
+        assignTurnedCharacters(layout, line.ascent());
     join();
 }
 
@@ -121,13 +126,18 @@ void MvGlyphLine::join()
 
 void MvGlyphLine::add(const QGlyphRun &run, double baseline)
 {
-    const QRawFont font = run.rawFont();
+    const qsizetype first = m_glyphs.size();
+    add(run.rawFont(), run.glyphIndexes(), run.positions(), baseline);
+    if (!m_isTurned)
+        assignCharacters(run, first);
+}
+
+void MvGlyphLine::add(const QRawFont &font, const QList<quint32> &indexes, const QList<QPointF> &positions,
+                      double baseline)
+{
     MvGlyphOutlines &outlines = MvGlyphOutlines::instance();
     const int face = outlines.faceOf(font);
-    const QList<quint32> indexes = run.glyphIndexes();
-    const QList<QPointF> positions = run.positions();
     const QList<QPointF> advances = font.advancesForGlyphIndexes(indexes, QRawFont::UseDesignMetrics);
-    const qsizetype first = m_glyphs.size();
     for (qsizetype i = 0; i < indexes.size(); ++i) {
         MvTextOutline::Glyph glyph;
         glyph.face = face;
@@ -139,7 +149,19 @@ void MvGlyphLine::add(const QGlyphRun &run, double baseline)
         glyph.path = outlines.outline(face, font, indexes[i]);
         m_glyphs.append(glyph);
     }
-    assignCharacters(run, first);
+}
+
+/// One for each character, as for a character that is missing in its font.
+void MvGlyphLine::addBoxes(const QGlyphRun &run, const QRawFont &font, double baseline)
+{
+    constexpr quint32 box = 0;
+    const QList<QPointF> positions = run.positions();
+    const qsizetype first = m_glyphs.size();
+    add(font, QList<quint32>(positions.size(), box), positions, baseline);
+    for (qsizetype i = first; i < m_glyphs.size() && m_nextCharacter < m_seen.size(); ++i) {
+        m_glyphs[i].firstCharacter = int(m_nextCharacter++);
+        m_glyphs[i].characters = 1;
+    }
 }
 
 void MvGlyphLine::addPictures(const QGlyphRun &run, double baseline)
@@ -181,8 +203,7 @@ void MvGlyphLine::assignCharacters(const QGlyphRun &run, qsizetype first)
         glyph += isSame ? 1 : step.glyphs;
     }
     m_nextCharacter += unit;
-    if (!run.isRightToLeft())
-        shareCharacters(first);
+    shareCharacters(first);
 }
 
 /// Of "fff" as a ligature and a letter one may have been given all: a glyph without characters takes one of those of
@@ -205,4 +226,49 @@ void MvGlyphLine::shareCharacters(qsizetype first)
         owner.firstCharacter += isFromNext ? 1 : 0;
         --owner.characters;
     }
+}
+
+void MvGlyphLine::assignTurnedCharacters(const QTextLayout &layout, double baseline)
+{
+    std::stable_sort(m_glyphs.begin(), m_glyphs.end(),
+                     [](const auto &a, const auto &b) { return a.origin.x() < b.origin.x(); });
+    const int end = int(m_seen.size());
+    for (int at = 0, next = 0; at < end; at = next) {
+        next = std::max(at + 1, layout.nextCursorPosition(at)); // a letter with its marks
+        const QList<qsizetype> places = placesOf(layout.glyphRuns(at, next - at), baseline);
+        if (places.isEmpty())
+            continue;
+        MvTextOutline::Glyph &first = m_glyphs[places.first()];
+        if (first.characters > 0) { // a ligature's second letter
+            first.characters += next - at;
+        } else if (places.size() == next - at) {
+            for (const qsizetype place : places) {
+                m_glyphs[place].firstCharacter = at++;
+                m_glyphs[place].characters = 1;
+            }
+        } else {
+            first.firstCharacter = at;
+            first.characters = next - at;
+        }
+    }
+}
+
+QList<qsizetype> MvGlyphLine::placesOf(const QList<QGlyphRun> &runs, double baseline) const
+{
+    constexpr double near = 0.01; // pixels
+    QList<qsizetype> places;
+    for (const QGlyphRun &run : runs) {
+        const QList<quint32> indexes = run.glyphIndexes();
+        const QList<QPointF> positions = run.positions();
+        for (qsizetype i = 0; i < indexes.size(); ++i) {
+            const QPointF place = positions[i] - QPointF(0.0, baseline);
+            auto found = std::lower_bound(m_glyphs.cbegin(), m_glyphs.cend(), place.x() - near,
+                                          [](const auto &glyph, double x) { return glyph.origin.x() < x; });
+            while (found != m_glyphs.cend() && found->index != indexes[i])
+                ++found;
+            if (found != m_glyphs.cend() && found->origin.x() <= place.x() + near)
+                places.append(found - m_glyphs.cbegin());
+        }
+    }
+    return places;
 }

@@ -3,6 +3,8 @@
 
 #include "MvCore/MvStringHelper.h"
 
+#include <algorithm>
+
 namespace {
 
 bool isWholePair(QStringView text, qsizetype at)
@@ -85,4 +87,10 @@ QString MvPrintableText::shapeable(const QString &text)
             clean[i] = u' ';
     }
     return clean;
+}
+
+bool MvPrintableText::isTurned(const QString &text)
+{
+    return std::any_of(text.cbegin(), text.cend(),
+                       [](QChar c) { return c.direction() == QChar::DirR || c.direction() == QChar::DirAL; });
 }

@@ -23,4 +23,6 @@ public:
     /// The text, character by character fit for shaping: controls and line breaks become blanks, halves of surrogate
     /// pairs and what is no character U+FFFD. Length and blanks stay.
     static QString shapeable(const QString &text);
+    /// Whether letters of the text are written from right to left.
+    static bool isTurned(const QString &text);
 };

@@ -12,6 +12,7 @@
 
 namespace {
 
+constexpr int measureCode = 31;
 constexpr int firstCode = 32;
 constexpr int codeCount = 256 - firstCode;
 
@@ -27,10 +28,20 @@ QPainterPath inUnits(const MvTextOutline::Glyph &glyph)
     return QTransform::fromScale(scale, -scale).map(glyph.path);
 }
 
-/// The name that readers know: "A", "uni00C4".
+/// In ems: what readers would take for a gap or an overlap; nothing where they would not.
+double seenRoom(double room)
+{
+    constexpr double seen = 0.08; // they begin at a tenth
+    constexpr double largest = 2.0;
+    constexpr double step = 0.02; // so that few widths are needed
+    return std::abs(room) >= seen && std::abs(room) <= largest ? std::round(room / step) * step : 0.0;
+}
+
+/// The name that readers know: "A", "uni00C4". Not "m": they measure by it (see write()).
 QByteArray nameOf(QStringView characters)
 {
-    if (characters.size() == 1 && QChar::isLetter(characters[0].unicode()) && characters[0].unicode() < 0x80)
+    if (characters.size() == 1 && QChar::isLetter(characters[0].unicode()) && characters[0].unicode() < 0x80 &&
+        characters[0] != u'm')
         return QByteArray(1, characters[0].toLatin1());
     return "uni" + (characters.isEmpty() ? QByteArray("200B") : MvPdfSyntax::utf16(characters));
 }
@@ -49,13 +60,16 @@ QList<int> sortedCodes(const auto &codes)
 
 } // namespace
 
-MvPdfFonts::Place MvPdfFonts::place(const MvTextOutline::Glyph &glyph, QStringView characters)
+MvPdfFonts::Place MvPdfFonts::place(const MvTextOutline::Glyph &glyph, QStringView characters, double room)
 {
     Shape &shape = m_shapes[keyOf(glyph)];
     if (glyph.em > shape.glyph.em)
         shape.glyph = glyph;
+    if (shape.width < 0)
+        shape.width = int(std::lround(glyph.advance / glyph.em * glyph.unitsPerEm));
+    const double behind = seenRoom(room);
     for (const Use &use : std::as_const(shape.uses)) {
-        if (use.characters == characters)
+        if (use.characters == characters && use.room == behind)
             return use.place;
     }
     Font &font = fontFor(glyph);
@@ -67,10 +81,10 @@ MvPdfFonts::Place MvPdfFonts::place(const MvTextOutline::Glyph &glyph, QStringVi
     if (const int again = font.names[code.name]++; again > 0)
         code.name += '.' + QByteArray::number(again);
     code.glyph = keyOf(glyph);
-    code.width = int(std::lround(glyph.advance / glyph.em * glyph.unitsPerEm));
+    code.width = shape.width + int(std::lround(behind * glyph.unitsPerEm));
     font.codes.insert(number, code);
     const Place place{font.object, number, double(code.width) / glyph.unitsPerEm};
-    shape.uses.append({code.characters, place});
+    shape.uses.append({code.characters, behind, place});
     return place;
 }
 
@@ -104,14 +118,15 @@ uchar MvPdfFonts::freeCode(const Font &font, QStringView characters) const
 
 int MvPdfFonts::shapeOf(const Code &code)
 {
-    Shape &shape = m_shapes[code.glyph];
-    if (shape.object == 0) {
+    const Shape &shape = m_shapes[code.glyph];
+    int &object = m_shapes[code.glyph].objects[code.width];
+    if (object == 0) {
         MvPdfContent content;
         content.addPath(inUnits(shape.glyph), MvPdfContent::Subpaths::AsTheyAre);
-        shape.object = m_file.addStream({}, QByteArray::number(code.width) + " 0 d0\n" + content.bytes() +
-                                                (shape.glyph.path.isEmpty() ? "" : "f"));
+        object = m_file.addStream({}, QByteArray::number(code.width) + " 0 d0\n" + content.bytes() +
+                                          (shape.glyph.path.isEmpty() ? "" : "f"));
     }
-    return shape.object;
+    return object;
 }
 
 QByteArray MvPdfFonts::boundsOf(const Font &font) const
@@ -136,9 +151,10 @@ void MvPdfFonts::write(const Font &font)
 {
     const QList<int> codes = sortedCodes(font.codes);
     QByteArray shapes;
-    QByteArray names;
-    QByteArray widths;
-    int expected = -1;
+    // some readers take the em for as large as an "m" usually goes with, and look for gaps between words by that
+    QByteArray names = QByteArray::number(measureCode) + "/m";
+    QByteArray widths = QByteArray::number(std::lround(0.6 * font.unitsPerEm)) + ' ';
+    int expected = measureCode + 1;
     for (const int number : codes) {
         const Code code = font.codes.value(number);
         shapes += '/' + code.name + ' ' + MvPdfSyntax::reference(shapeOf(code));
@@ -147,14 +163,14 @@ void MvPdfFonts::write(const Font &font)
         names += '/' + code.name;
         expected = number + 1;
     }
-    for (int number = codes.first(); number <= codes.last(); ++number)
+    for (int number = measureCode + 1; number <= codes.last(); ++number)
         widths += QByteArray::number(font.codes.value(number).width) + ' ';
     const QByteArray scale = MvPdfSyntax::number(1.0 / font.unitsPerEm, 10);
     m_file.set(
         font.object,
         "<</Type/Font/Subtype/Type3/FontBBox[" + boundsOf(font) + "]/FontMatrix[" + scale + " 0 0 " + scale +
             " 0 0]/CharProcs<<" + shapes + ">>/Encoding<</Type/Encoding/Differences[" + names + "]>>/FirstChar " +
-            QByteArray::number(codes.first()) + "/LastChar " + QByteArray::number(codes.last()) + "/Widths[" + widths +
+            QByteArray::number(measureCode) + "/LastChar " + QByteArray::number(codes.last()) + "/Widths[" + widths +
             "]/Resources<<>>/FontDescriptor " +
             MvPdfSyntax::reference(m_file.addOnce("<</Type/FontDescriptor/FontName/Kalender/Flags 4/ItalicAngle 0>>")) +
             "/ToUnicode " + MvPdfSyntax::reference(addCharacterMap(font)) + ">>");

@@ -31,8 +31,10 @@ public:
         : m_file(file)
     {}
 
-    /// Takes the glyph in if it is new; the same glyph for other characters has a code of its own.
-    Place place(const MvTextOutline::Glyph &glyph, QStringView characters);
+    /// Takes the glyph in if it is new; the same glyph for other characters has a code of its own, and so has one with
+    /// so much more room behind it, in ems, that readers would see the end of a word there, or so much less that they
+    /// would see two words one over the other.
+    Place place(const MvTextOutline::Glyph &glyph, QStringView characters, double room);
 
     /// Whether the characters of every glyph are given; those of the second part of an accent, for one, are not.
     bool areLettersKnown() const { return m_areLettersKnown; }
@@ -59,13 +61,15 @@ private:
     struct Use
     {
         QString characters;
+        double room = 0.0;
         Place place;
     };
     struct Shape
     {
         MvTextOutline::Glyph glyph; // in its largest size, where the outline is most exact
         QList<Use> uses;
-        int object = 0; // of its procedure, once written
+        int width = -1;          // in units of the em
+        QHash<int, int> objects; // of its procedures, by width, once written
     };
 
     Font &fontFor(const MvTextOutline::Glyph &glyph);

@@ -2,6 +2,7 @@
 #include "MvProject/MvPdfPageParts.h"
 
 #include "MvPaint/MvPaintRecordingData.h"
+#include "MvPaint/MvPrintableText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,7 +44,8 @@ MvPdfPageParts::MvPdfPageParts(const MvPaintRecordingData &recording)
             if (part != decoration) {
                 Part &read = m_parts[size_t(part)];
                 read.painted.append(line.outline.text().simplified());
-                read.isDrawn |= line.outline.glyphs().isEmpty() || !line.outline.pictures().isEmpty();
+                read.isDrawn |= line.outline.glyphs().isEmpty() || !line.outline.pictures().isEmpty() ||
+                                MvPrintableText::isTurned(line.outline.text());
                 read.size = std::max(read.size, sizeOf(line.outline, recording.states[operation.state].transform));
             }
         }

@@ -33,7 +33,8 @@ public:
         int text = 0;          ///< of a text in a cell: its number
         MvPdfWholeTexts texts;
         QStringList painted = {}; ///< its lines
-        bool isDrawn = false;     ///< letters among them are shapes or pictures that say nothing by themselves
+        /// Letters among them are shapes or pictures that say nothing by themselves, or stand from right to left.
+        bool isDrawn = false;
         double size = 0.0;        ///< of the largest letters
         QRectF bounds;            ///< upwards, in the units of the content
         QList<int> contents = {}; ///< the numbers of what is marked

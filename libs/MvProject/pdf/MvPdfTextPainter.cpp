@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvPdfTextPainter.h"
 
+#include "MvPaint/MvPrintableText.h"
 #include "MvProject/MvPdfContent.h"
 #include "MvProject/MvPdfFonts.h"
 #include "MvProject/MvPdfSyntax.h"
@@ -12,9 +13,20 @@ namespace {
 constexpr double tolerance = 0.6;      // units by which a glyph may stand beside its place
 constexpr double thousandths = 1000.0; // of the size, in which distances between glyphs are given
 
-QStringView charactersOf(const MvTextOutline::Glyph &glyph, const QString &text)
+/// Letters that are written from right to left come as they stand, and readers turn them round: but not within a
+/// ligature, which is therefore a character of its own.
+QString charactersOf(const MvTextOutline::Glyph &glyph, const QString &text)
 {
-    return QStringView(text).mid(glyph.firstCharacter, glyph.characters);
+    constexpr char16_t firstLigature = 0xfef5; // of lam and alef; each is followed by its form within words
+    constexpr char16_t lastLigature = 0xfefb;
+    QString characters = text.mid(glyph.firstCharacter, glyph.characters);
+    if (characters.size() != 2 || characters[0] != QChar(0x0644))
+        return characters;
+    for (char16_t ligature = firstLigature; ligature <= lastLigature; ligature += 2) {
+        if (const QString known(QChar{ligature}); known.normalized(QString::NormalizationForm_KC) == characters)
+            return known;
+    }
+    return characters;
 }
 
 /// Whether the characters of the glyphs, one after the other, are the text.
@@ -52,7 +64,7 @@ void MvPdfTextPainter::paint(const QList<MvPlacedOutline> &lines)
 void MvPdfTextPainter::paintLine(const MvPlacedOutline &line)
 {
     const QString text = line.outline.text();
-    const bool isReadable = isReadInOrder(line.outline, text);
+    const bool isReadable = MvPrintableText::isTurned(text) || isReadInOrder(line.outline, text);
     if (!isReadable)
         m_content.append("/Span<</ActualText<FEFF" + MvPdfSyntax::utf16(text) + ">>>BDC\n");
     for (qsizetype next = 0; next < line.outline.glyphs().size();)
@@ -89,7 +101,16 @@ qsizetype MvPdfTextPainter::paintRun(const MvPlacedOutline &line, qsizetype firs
     const Glyph &start = glyphs[first];
     const double size = start.em * m_scale;
     const int decimals = size > large ? 1 : 0;
-    const int font = m_fonts.place(start, charactersOf(start, text)).font;
+    const auto isOfRun = [&start](const Glyph &glyph) {
+        return glyph.em == start.em && glyph.origin.y() == start.origin.y();
+    };
+    const auto placeAt = [&](qsizetype at) {
+        const Glyph &glyph = glyphs[at];
+        const bool isLast = at + 1 == glyphs.size() || !isOfRun(glyphs[at + 1]);
+        const double room = isLast ? 0.0 : glyphs[at + 1].origin.x() - glyph.origin.x() - glyph.advance;
+        return m_fonts.place(glyph, charactersOf(glyph, text), room / glyph.em);
+    };
+    const int font = placeAt(first).font;
     m_content.setFont(font, size);
     moveTo(m_transform.map(line.baseline + start.origin));
 
@@ -99,8 +120,8 @@ qsizetype MvPdfTextPainter::paintRun(const MvPlacedOutline &line, qsizetype firs
     qsizetype next = first;
     for (; next < glyphs.size(); ++next) {
         const Glyph &glyph = glyphs[next];
-        const MvPdfFonts::Place place = m_fonts.place(glyph, charactersOf(glyph, text));
-        if (place.font != font || glyph.em != start.em || glyph.origin.y() != start.origin.y())
+        const MvPdfFonts::Place place = placeAt(next);
+        if (place.font != font || !isOfRun(glyph))
             break;
         const double gap = (glyph.origin.x() - start.origin.x()) * m_scale - reached;
         if (std::abs(gap) > tolerance) {
