@@ -6,6 +6,7 @@
 #include "MvInterruption.h"
 #include "MvPaint/MvTextOutlineCache.h"
 #include "MvRenderCommand.h"
+#include "plain/MvProgram.h"
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -49,6 +50,8 @@ private:
             usual(type, context, text);
             return;
         }
+        if (MvProgram::isNoise(text))
+            return;
         const QMutexLocker locker(&mutex);
         if (!lines.contains(text.simplified()))
             lines.append(text.simplified());

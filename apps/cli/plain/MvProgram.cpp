@@ -22,8 +22,8 @@ void printMessage(QtMsgType type, const QMessageLogContext &context, const QStri
     const bool isOfOurs = !context.category || qstrcmp(context.category, "default") == 0;
     if (type == QtDebugMsg || type == QtInfoMsg || (type == QtWarningMsg && !isOfOurs))
         return;
-    if (message.startsWith(QLatin1StringView("QStandardPaths:")))
-        return; // about the desktop session, which nothing here needs
+    if (MvProgram::isNoise(message))
+        return;
     static QMutex mutex;
     const QMutexLocker locker(&mutex);
     static QString last; // a file that is read twice has no more to say
@@ -41,6 +41,12 @@ void MvProgram::prepare()
         qputenv("QT_QPA_PLATFORM", "offscreen"); // no window is ever opened
     MvProcessTimeZone::askOnce();
     qInstallMessageHandler(printMessage);
+}
+
+bool MvProgram::isNoise(const QString &warning)
+{
+    return warning.startsWith(QLatin1StringView("QStandardPaths:")) ||
+           warning.trimmed().startsWith(QLatin1StringView("OpenType support missing"));
 }
 
 QStringList MvProgram::arguments(int argc, char **argv)

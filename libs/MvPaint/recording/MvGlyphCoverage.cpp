@@ -7,6 +7,7 @@
 #include <QGlyphRun>
 #include <QHash>
 #include <QMutex>
+#include <QRawFont>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -40,8 +41,10 @@ bool hasGlyph(const QFont &font, const QString &character)
     layout.createLine();
     layout.endLayout();
     const QList<QGlyphRun> runs = layout.glyphRuns();
-    return std::none_of(runs.cbegin(), runs.cend(),
-                        [](const QGlyphRun &run) { return run.glyphIndexes().contains(0); });
+    return std::none_of(runs.cbegin(), runs.cend(), [](const QGlyphRun &run) {
+        const bool hasNoFont = run.rawFont().pixelSize() <= 0.0; // for its script
+        return hasNoFont || run.glyphIndexes().contains(0);
+    });
 }
 
 /// What is known of the characters of each family.
