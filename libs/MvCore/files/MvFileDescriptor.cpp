@@ -86,3 +86,10 @@ QString MvFileDescriptor::errorText(int systemError)
         return QString::fromLocal8Bit(std::strerror(systemError));
     }
 }
+
+QString MvFileDescriptor::writeErrorText(const QFileDevice &file)
+{
+    // no error at all: a part had room on the disk
+    const bool isFull = file.error() == QFileDevice::NoError || file.error() == QFileDevice::ResourceError;
+    return isFull ? errorText(ENOSPC) : file.errorString();
+}

@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+class QFileDevice;
+
 /// An open file of the operating system, closed when it goes. Failures are told through errno.
 class MVCORE_EXPORT MvFileDescriptor
 {
@@ -36,6 +38,8 @@ public:
     static bool syncFolder(const QString &folder);
     /// The reason for a person, without the file's name.
     static QString errorText(int systemError);
+    /// The same for a file of which less was written than was given.
+    static QString writeErrorText(const QFileDevice &file);
 
 private:
     int m_descriptor = -1;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProject/MvQpdfObjects.h"
 
+#include "MvCore/MvFileDescriptor.h"
 #include "MvProject/MvPdfPipeline.h"
 
 #include <QDir>
@@ -72,7 +73,7 @@ struct MvQpdfObjects::Private
             fail(waiting.errorString());
         const qint64 place = waiting.size();
         if (!waiting.seek(place) || waiting.write(content) != content.size())
-            fail(waiting.errorString());
+            fail(MvFileDescriptor::writeErrorText(waiting));
         stream.replaceStreamData([this, place, size = content.size()](Pipeline *next) { give(place, size, next); },
                                  stream.getDict().getKey("/Filter"), stream.getDict().getKey("/DecodeParms"));
     }
@@ -128,7 +129,7 @@ void MvQpdfObjects::setLeastVersion(const QByteArray &version)
 MvOutcome MvQpdfObjects::write(QFile &file)
 {
     if (d->waiting.isOpen() && !d->waiting.flush())
-        d->fail(d->waiting.errorString());
+        d->fail(MvFileDescriptor::writeErrorText(d->waiting));
     if (!d->error.isEmpty())
         return {d->error, {}};
     MvPdfPipeline pipeline(file);
