@@ -85,6 +85,7 @@ private Q_SLOTS:
     void forgetsWhenFontsChange();
     void servesThreads();
     void emojiArePictures();
+    void postScriptFontsAreOutlines();
     void missingCharacters_data();
     void missingCharacters();
 };
@@ -353,6 +354,23 @@ void tst_MvTextOutlineCache::emojiArePictures()
             colored += image.pixelColor(x, 100 - pixels / 4).hsvSaturation() > 40 ? 1 : 0;
         QVERIFY(colored > cake.width() / 3);
     }
+}
+
+/// They have outlines, too, though not in tables.
+void tst_MvTextOutlineCache::postScriptFontsAreOutlines()
+{
+    for (const QString &family : {u"Nimbus Sans"_s, u"Z003"_s, u"C059"_s, u"P052"_s}) {
+        QFont font(family);
+        font.setPixelSize(40);
+        const QRawFont raw = QRawFont::fromFont(font);
+        if (raw.familyName() != family || !raw.fontTable("head").isEmpty())
+            continue;
+        const MvTextOutline outline(font, u"Mai 2027"_s);
+        QVERIFY(outline.pictures().isEmpty());
+        QCOMPARE(outline.glyphs().size(), 8);
+        return;
+    }
+    QSKIP("no such font on this computer");
 }
 
 void tst_MvTextOutlineCache::missingCharacters_data()

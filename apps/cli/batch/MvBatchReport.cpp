@@ -83,7 +83,8 @@ MvOutcome MvBatchReport::write(const QByteArray &bytes)
     if (m_file.write(bytes) == bytes.size() && m_file.flush())
         return {};
     const QString name = m_file.fileName().isEmpty() ? tr("die Standardausgabe") : m_file.fileName();
-    return {tr("%1: der Bericht lässt sich nicht schreiben: %2").arg(name, MvFileDescriptor::writeErrorText(m_file)), {}};
+    return {tr("%1: der Bericht lässt sich nicht schreiben: %2").arg(name, MvFileDescriptor::writeErrorText(m_file)),
+            {}};
 }
 
 MvOutcome MvBatchReport::finish(const QHash<QString, int> &others)

@@ -3,6 +3,7 @@
 
 #include <QCache>
 #include <QFont>
+#include <QFontDatabase>
 #include <QGlyphRun>
 #include <QHash>
 #include <QMutex>
@@ -97,8 +98,10 @@ bool MvGlyphPictures::hasNoOutlines(const QRawFont &font)
     if (const auto found = known.constFind(name); found != known.cend())
         return *found;
     // "loca" says where the outlines of "glyf" are, and is far smaller to copy
-    const bool isBitmap =
+    bool isBitmap =
         font.fontTable("loca").isEmpty() && font.fontTable("CFF ").isEmpty() && font.fontTable("CFF2").isEmpty();
+    if (isBitmap && font.fontTable("head").isEmpty()) // a file without tables, such as those of PostScript's fonts
+        isBitmap = !QFontDatabase::isSmoothlyScalable(font.familyName(), font.styleName());
     return *known.insert(name, isBitmap);
 }
 
