@@ -250,7 +250,7 @@ QString tst_MvPdfStructure::write(const MvPageSource &pages, const MvSheetSettin
     return isWritten && outputOf(u"qpdf"_s, {u"--check"_s, file}).contains(u"No syntax"_s) ? file : QString();
 }
 
-/// With weeks, a photo, and on the 12th two texts and a photo.
+/// With weeks, a photo, on the 12th two texts and a photo, and from the 19th on a bar of three days.
 QString tst_MvPdfStructure::january(const QString &layout) const
 {
     MvProjectFixture::writeFoto(path(u"foto.png"_s), {300, 200});
@@ -260,8 +260,10 @@ QString tst_MvPdfStructure::january(const QString &layout) const
         MvCalendariumFeatures(FEATURE_HOLIDAYS | FEATURE_ENTRIES | FEATURE_SCHOOL_VACATIONS | FEATURE_CALENDAR_WEEKS)));
     calendar.setFormat(MvPageFormat(QSizeF(6000, 3000))); // with room for texts beside a photo
     MvProjectFixture::setFoto(calendar, 0, MvFotoFrame(path(u"foto.png"_s), MvFotoFrame::Placement::Left));
+    MvCalendarEvent journey = MvEntries::entry(u"Reise"_s, {2027, 1, 19}, {}, false);
+    journey.setEndDate({2027, 1, 21});
     const MvCalendarEventList list{
-        MvEntries::entry(u"Do"_s, {2027, 1, 7}),
+        journey, MvEntries::entry(u"Do"_s, {2027, 1, 7}),
         MvEntries::entry(u"Oma Gertrud"_s, {2027, 1, 12}, MvFoto(QFileInfo(path(u"foto.png"_s)))),
         MvEntries::entry(u"Donaudampfschifffahrtsgesellschaftsversammlung mit Wahl"_s, {2027, 1, 12})};
     const MvCalendarEventListSource entries(list);
@@ -292,8 +294,10 @@ void tst_MvPdfStructure::daysAreReadInOrder_data()
     const MvRows<QString, QString> row; // layout, pattern
     const QString heading = u"Sect Januar 2027 H1 Januar 2027 .*"_s;
     row("grid", u"MONTH_GRID_CLASSIC"_s,
-        heading + u"Table .*TR TH 53( TD){5} 1 P Neujahr.* TD 2 TD 3 TR TH 1 TD 4 .* TD 31$"_s);
-    row("list", u"DAY_LIST"_s, u"TR TH 1 Fr\\w* TD P Neujahr.* TR TH 2 .* TR TH 7 Do\\w* TD P Do TR TH 8 .*TH 31 So"_s);
+        heading +
+            u"Table .*TR TH 53( TD){5} 1 P Neujahr.* TD 2 TD 3 TR TH 1 TD 4 .* TD 19 P Reise TD 20 Figure TD 21 Figure TD 22 .* TD 31$"_s);
+    row("list", u"DAY_LIST"_s,
+        u"TR TH 1 Fr\\w* TD P Neujahr.* TR TH 2 .* TR TH 7 Do\\w* TD P Do TR TH 8 .* TD Figure .*TH 31 So"_s);
     row("strip", u"ONE_ROW_STRIP"_s,
         heading + u"Table .*TR TH Fr 1 TD .*TR TH Sa 2 TD .*TR TH Do 7 TD .*TR TH So 31 TD"_s);
     row("columns of weeks", u"WEEK_COLUMNS_COMPACT"_s,

@@ -368,9 +368,14 @@ QRectF MvCalendariumCellPainter::drawBars(const QRectF &rect, const QDate &date,
     const QColor text = m_renderer.fontColor(weekday, even);
     const QColor ground = m_renderer.backgroundColor(weekday, true);
     const QColor usual = mixed(ground.alpha() > 0 ? ground : QColor(Qt::white), text, strengthOfBars);
-    for (const MvSpanBars::Bar &bar : std::as_const(shown))
+    const QStringList written = m_renderer.day(date).texts;
+    for (const MvSpanBars::Bar &bar : std::as_const(shown)) {
+        const bool isNamed = written.contains(bar.text);
+        const MvPaintMarking mark(m_painter, isNamed ? MvPaintMark::Kind::Decoration : MvPaintMark::Kind::Figure,
+                                  1 + bar.lane, 0, {bar.text});
         m_painter.fillRect(MvSpanBars::rectOf(bar, rect, edge).intersected(rect.adjusted(0, 0, 1, 1)),
                            bar.color.isValid() ? bar.color : usual);
+    }
     return MvSpanBars::rest(shown, rect, edge);
 }
 
