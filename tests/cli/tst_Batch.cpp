@@ -5,6 +5,9 @@
 #include "MvProject/MvPressProfile.h"
 #include "batch/MvBatchJob.h"
 #include "batch/MvBatchOutputs.h"
+#include "batch/MvBatchReport.h"
+
+#include <QImage>
 
 #include <csignal>
 
@@ -224,15 +227,17 @@ void tst_Batch::writesWhatRenderWrites()
 
 void tst_Batch::makesAnewWhatChanged_data()
 {
-    // file: written with the content between the runs; the report is cut if it is that
+    // file: written with the content between the runs; the report is cut by as much
     const MvRows<QString, QByteArray, QString> row;
     const QByteArray entries = entriesFile("Eva 2", "1990-01-14");
     row("nothing", u"none"_s, QByteArray(), u"skipped 3"_s);
     row("an input", u"e-2.xml"_s, entriesFile("Adam", "1990-01-14"), u"done 1, skipped 2"_s);
     row("an input to the same", u"e-2.xml"_s, entries, u"skipped 3"_s);
     row("an output", u"c-2.pdf"_s, QByteArray("%PDF-"), u"done 1, skipped 2"_s);
+    row("a folder", u"album/b.jpg"_s, QByteArray("no photo"), u"done 1, skipped 2"_s);
     row("a profile", u"own.icc"_s, contentOf(MvPressProfile::fileOf(u"fogra29"_s)), u"done 1, skipped 2"_s);
-    row("a cut report", u"report.jsonl"_s, QByteArray(), u"done 1, skipped 2"_s);
+    row("a cut report", u"report.jsonl"_s, QByteArray(20, ' '), u"done 1, skipped 2"_s);
+    row("a cut first line", u"report.jsonl"_s, QByteArray(9999, ' '), u"done 3"_s);
 }
 
 void tst_Batch::makesAnewWhatChanged()
@@ -242,14 +247,18 @@ void tst_Batch::makesAnewWhatChanged()
     QVERIFY(QFile::copy(MvPressProfile::fileOf(u"fogra39"_s), path(u"own.icc"_s)));
     write(path(u"list.jsonl"_s), contentOf(path(u"list.jsonl"_s))
                                      .replace(R"("months":3)", R"("months":1)")
-                                     .replace(R"("id":3,)", R"("press":"own.icc",)"));
+                                     .replace(R"("id":3,)", R"("press":"own.icc",)")
+                                     .replace(R"("c-1.pdf")", R"("album/c-1.pdf","photos":["album"])"));
+    QVERIFY(QDir(path({})).mkdir(u"album"_s) && QImage(60, 40, QImage::Format_RGB32).save(path(u"album/a.jpg"_s)));
     QCOMPARE(run(m_call).exitCode, 0);
     QCOMPARE(this->states(), u"done 3"_s);
     const QByteArray before = contentOf(path(u"c-2.pdf"_s));
-    if (file == u"report.jsonl"_s)
-        write(path(file), contentOf(path(file)).chopped(20));
-    else
-        write(path(file), content);
+    const QByteArray report = contentOf(path(u"report.jsonl"_s));
+    write(path(file), file == u"report.jsonl"_s ? report.left(qMax(30, report.size() - content.size())) : content);
+    if (file == u"report.jsonl"_s) { // a run that is killed, too, leaves whole lines behind
+        QVERIFY(MvBatchReport().open(path(file)).isOk());
+        QVERIFY(contentOf(path(file)).endsWith("}\n") || contentOf(path(file)).isEmpty());
+    }
     QCOMPARE(run(m_call).exitCode, 0);
     QCOMPARE(this->states(), states);
     QCOMPARE(contentOf(path(u"c-2.pdf"_s)) == before, !content.contains("Adam"));

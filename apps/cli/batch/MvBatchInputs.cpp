@@ -13,6 +13,7 @@
 #include <QDirIterator>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -33,23 +34,29 @@ QByteArray digestOfFile(const QString &path)
     return hash.result().toHex();
 }
 
-QStringList filesIn(const QString &folder)
+QStringList filesIn(const QString &folder, const QStringList &results)
 {
+    QSet<QString> left;
+    for (const QString &result : results)
+        left.insert(QFileInfo(result).canonicalFilePath());
     QStringList names;
     QDirIterator files(folder, QDir::Files | QDir::Readable, QDirIterator::Subdirectories);
-    while (files.hasNext())
-        names.append(files.next().mid(folder.size() + 1));
+    while (files.hasNext()) {
+        const QString file = files.next();
+        if (left.isEmpty() || !left.contains(files.fileInfo().canonicalFilePath()))
+            names.append(file.mid(folder.size() + 1));
+    }
     names.sort();
     return names;
 }
 
-QByteArray digestOf(const QString &path)
+QByteArray digestOf(const QString &path, const QStringList &results = {})
 {
     if (!QFileInfo(path).isDir())
         return digestOfFile(path);
     QCryptographicHash hash(algorithm);
     const QString folder = QDir::cleanPath(path);
-    for (const QString &name : filesIn(folder))
+    for (const QString &name : filesIn(folder, results))
         hash.addData(name.toUtf8() + '\n' + digestOfFile(folder + u'/' + name) + '\n');
     return hash.result().toHex();
 }
@@ -114,11 +121,11 @@ QStringList MvBatchInputs::of(const MvCliArguments &call, const MvRenderOutcome 
     return all;
 }
 
-QJsonArray MvBatchInputs::digests(const QStringList &paths)
+QJsonArray MvBatchInputs::digests(const QStringList &paths, const QStringList &results)
 {
     QJsonArray digests;
     for (const QString &path : paths) {
-        QJsonObject digest{{u"path"_s, path}, {u"hash"_s, QString::fromLatin1(digestOf(path))}};
+        QJsonObject digest{{u"path"_s, path}, {u"hash"_s, QString::fromLatin1(digestOf(path, results))}};
         if (const QFileInfo file(path); file.isFile())
             digest.insert(u"bytes"_s, file.size());
         digests.append(digest);
@@ -126,19 +133,19 @@ QJsonArray MvBatchInputs::digests(const QStringList &paths)
     return digests;
 }
 
-bool MvBatchInputs::areUnchanged(const QJsonArray &digests)
+bool MvBatchInputs::areUnchanged(const QJsonArray &digests, const QStringList &results)
 {
-    return std::all_of(digests.cbegin(), digests.cend(), [](const QJsonValue &value) {
+    return std::all_of(digests.cbegin(), digests.cend(), [&](const QJsonValue &value) {
         const QJsonObject digest = value.toObject();
         const QString path = digest.value(u"path"_s).toString();
         if (const QFileInfo file(path);
             file.isFile() && file.size() != digest.value(u"bytes"_s).toInteger(-1)) // nobody needs to read it
             return false;
-        return QString::fromLatin1(digestOf(path)) == digest.value(u"hash"_s).toString();
+        return QString::fromLatin1(digestOf(path, results)) == digest.value(u"hash"_s).toString();
     });
 }
 
-bool MvBatchInputs::anyWrittenSince(const QStringList &paths, qint64 moment)
+bool MvBatchInputs::anyWrittenSince(const QStringList &paths, qint64 moment, const QStringList &results)
 {
     const auto isNew = [&](const QString &path) {
         return QFileInfo(path).lastModified().toMSecsSinceEpoch() >= moment;
@@ -146,7 +153,7 @@ bool MvBatchInputs::anyWrittenSince(const QStringList &paths, qint64 moment)
     return std::any_of(paths.cbegin(), paths.cend(), [&](const QString &path) {
         if (!QFileInfo(path).isDir())
             return isNew(path);
-        const QStringList names = filesIn(path);
+        const QStringList names = filesIn(path, results);
         return std::any_of(names.cbegin(), names.cend(),
                            [&](const QString &name) { return isNew(path + u'/' + name); });
     });

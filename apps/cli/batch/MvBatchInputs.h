@@ -20,11 +20,11 @@ public:
     static QStringList of(const MvCliArguments &call, const MvRenderOutcome &outcome);
 
     /// A list of {"path", "hash", "bytes"}. What is not there or cannot be read has an empty hash. A folder counts with
-    /// the names and contents of all that is in it and not hidden.
-    static QJsonArray digests(const QStringList &paths);
+    /// the names and contents of all that is in it, not hidden, and none of the calendar's own files, the results.
+    static QJsonArray digests(const QStringList &paths, const QStringList &results = {});
     /// Whether all of them are still what they were; an empty list is.
-    static bool areUnchanged(const QJsonArray &digests);
+    static bool areUnchanged(const QJsonArray &digests, const QStringList &results = {});
     /// Whether one of them was written since, a moment that QDateTime gives in milliseconds: then nobody can tell which
     /// content was read.
-    static bool anyWrittenSince(const QStringList &paths, qint64 moment);
+    static bool anyWrittenSince(const QStringList &paths, qint64 moment, const QStringList &results);
 };

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QJsonDocument>
 
 #include <algorithm>
 
@@ -45,19 +46,33 @@ bool MvBatchReport::lock()
            opened.st_dev == present.st_dev;
 }
 
+/// The run before was killed, or the disk was full; a first line must look like the beginning of one.
+bool MvBatchReport::isCut(const QByteArray &line, int number)
+{
+    return number > 1 || (line.startsWith("{\"") && QJsonDocument::fromJson(line).isNull());
+}
+
+/// What follows would not be readable behind it.
+MvOutcome MvBatchReport::dropFrom(qint64 begin)
+{
+    m_isLacking = false;
+    return {m_file.resize(begin) ? QString() : m_file.fileName() + u": "_s + m_file.errorString(), {}};
+}
+
 MvOutcome MvBatchReport::readLines()
 {
     m_file.seek(0);
     for (int number = 1; !m_file.atEnd(); ++number) {
+        const qint64 begin = m_file.pos();
         const QByteArray line = m_file.readLine();
         m_isLacking = !line.endsWith('\n');
         const std::optional<MvBatchResult> result = MvBatchResult::fromLine(line);
-        if (!result && !m_isLacking && !line.trimmed().isEmpty())
+        if (!result && m_isLacking && isCut(line, number))
+            return dropFrom(begin);
+        if (!result && !line.trimmed().isEmpty())
             return {tr("%1, Zeile %2: das ist kein Bericht eines Stapels; er bleibt, wie er ist")
                         .arg(m_file.fileName(), QString::number(number)),
                     {}};
-        if (!result && number == 1 && !line.trimmed().isEmpty())
-            return {tr("%1 ist kein Bericht eines Stapels; die Datei bleibt, wie sie ist").arg(m_file.fileName()), {}};
         if (result && !result->fingerprint().isEmpty())
             m_known.insert(result->fingerprint(), *result);
     }

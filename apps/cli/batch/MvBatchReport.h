@@ -33,6 +33,8 @@ public:
 
 private:
     bool lock();
+    static bool isCut(const QByteArray &line, int number);
+    MvOutcome dropFrom(qint64 begin);
     MvOutcome readLines();
     MvOutcome write(const QByteArray &bytes);
 

@@ -174,8 +174,12 @@ MvBatchResult MvBatchWorker::perform(const Task &task)
 bool MvBatchWorker::isThere(const MvBatchResult &known)
 {
     const QJsonArray files = known.facts.value(u"files"_s).toArray();
+    QStringList results;
+    for (const auto &file : files)
+        results.append(file[u"path"_s].toString());
     return known.isComplete() && known.facts.contains(u"inputs"_s) && !files.isEmpty() &&
-           MvBatchInputs::areUnchanged(files) && MvBatchInputs::areUnchanged(known.facts.value(u"inputs"_s).toArray());
+           MvBatchInputs::areUnchanged(files) &&
+           MvBatchInputs::areUnchanged(known.facts.value(u"inputs"_s).toArray(), results);
 }
 
 MvBatchResult MvBatchWorker::render(const Task &task)
@@ -207,14 +211,15 @@ MvBatchResult MvBatchWorker::render(const Task &task)
     result.facts = outcome.report;
     result.facts.insert(u"photos"_s, coarse(outcome.report.value(u"photos"_s).toArray()));
     result.facts.insert(u"pages"_s, outcome.pages);
-    result.facts.insert(u"files"_s, MvBatchInputs::digests(paths(outcome.report.value(u"files"_s).toArray())));
+    const QStringList results = paths(outcome.report.value(u"files"_s).toArray());
+    result.facts.insert(u"files"_s, MvBatchInputs::digests(results));
     result.facts.insert(u"hints"_s,
                         QJsonArray::fromStringList(hintText.split(u'\n', Qt::SkipEmptyParts) + Messages::all()));
     if (result.isComplete()) {
         result.facts.insert(u"fingerprint"_s, task.fingerprint);
         const QStringList inputs = MvBatchInputs::of(call.arguments, outcome);
-        if (!MvBatchInputs::anyWrittenSince(inputs, begin))
-            result.facts.insert(u"inputs"_s, MvBatchInputs::digests(inputs));
+        if (!MvBatchInputs::anyWrittenSince(inputs, begin, results))
+            result.facts.insert(u"inputs"_s, MvBatchInputs::digests(inputs, results));
     }
     const QJsonObject used = usage.toJson();
     for (auto value = used.constBegin(); value != used.constEnd(); ++value)
