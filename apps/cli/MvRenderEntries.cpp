@@ -15,13 +15,14 @@ namespace {
 
 constexpr int mostHints = 20;
 
-/// What cannot be opened counts as one: then that is what is said of it.
+/// What cannot be opened or is empty counts as one: then that is what is said of it.
 bool isListFile(const QString &path)
 {
     if (MvEntriesInput::isStandardStream(path) || MvEntriesInput::isProject(path))
         return false;
     const MvRegularFile::Opened opened = MvRegularFile::open(QFileInfo(path));
-    return !opened.isOk() || MvEntryIntake::kindOf(opened.file->peek(4096)) == MvEntryIntake::Kind::List;
+    return !opened.isOk() || opened.file->size() == 0 ||
+           MvEntryIntake::kindOf(opened.file->peek(4096)) == MvEntryIntake::Kind::List;
 }
 
 } // namespace
@@ -40,9 +41,7 @@ MvRenderEntries MvRenderEntries::ofFile(const QString &path, const MvLocale &lan
         entries.m_notes = reading.notes;
         entries.m_fotos = reading.fotos;
     }
-    const bool isUnknown =
-        !content.error.isEmpty() && !MvEntriesInput::isStandardStream(path) && !MvEntriesInput::isProject(path);
-    if (entries.m_isList || isUnknown) // which says best what is wrong
+    if (entries.m_isList)
         content = MvEntryIntake::readAsList(QFileInfo(path));
     entries.take(content, QFileInfo(path));
     return entries;

@@ -130,9 +130,10 @@ MvCliCommand::Result MvRenderTargets::check(const MvPageSource &pages) const
             if (!checked.isOk())
                 return {MvCliCommand::Misused, checked.error};
     for (const MvExportTarget &target : m_targets) {
-        for (const MvOutcome &checked : {target.checkPlace(), target.checkSize(pages.format, m_dpi)})
-            if (!checked.isOk())
-                return {MvCliCommand::Failed, checked.error};
+        if (const MvOutcome place = target.checkPlace(); !place.isOk())
+            return {MvCliCommand::Failed, place.error};
+        if (const MvOutcome size = target.checkSize(pages.format, m_dpi); !size.isOk())
+            return {MvCliCommand::Failed, u"%1: %2"_s.arg(isStandardOutput() ? m_name : target.path(), size.error)};
         const QStringList files = target.files(pages).paths;
         for (const QString &file : files) {
             if (!m_replaces && !isStandardOutput() && QFile::exists(file))

@@ -209,10 +209,6 @@
         <translation>%1, line %2: this is not a report of a batch; it stays as it is</translation>
     </message>
     <message>
-        <source>%1 ist kein Bericht eines Stapels; die Datei bleibt, wie sie ist</source>
-        <translation>%1 is not a report of a batch; the file stays as it is</translation>
-    </message>
-    <message>
         <source>die Standardausgabe</source>
         <translation>the standard output</translation>
     </message>
@@ -5898,7 +5894,7 @@ The context menu replaces it by another photo.</translation>
     </message>
     <message>
         <source>Die Seite wäre %1 × %2 Bildpunkte groß; erlaubt sind %3 je Seite</source>
-        <translation>The page would be %1 × %2 pixels large; allowed are %3 per page</translation>
+        <translation>The page would be %1 × %2 pixels large; allowed are %3 on each side</translation>
     </message>
     <message>
         <source>Der Speicher reicht nicht für eine Seite</source>

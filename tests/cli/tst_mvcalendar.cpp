@@ -476,7 +476,8 @@ void tst_mvcalendar::entriesAreAddedAndRemoved()
 void tst_mvcalendar::damagedEntries()
 {
     for (const auto &[content, place] : {std::pair(entriesFile("Klaus", "1980-02-03").left(120), u"bad.xml:5:"_s),
-                                         {QByteArray(), u"bad.xml"_s},
+                                         {QByteArray(), u"bad.xml: Die Datei ist leer"_s},
+                                         {QByteArray("a;b\n1;2\n"), u"bad.xml: Die Tabelle hat keine Spalte"_s},
                                          {QByteArray("<html/>"), u"bad.xml: Das ist keine Liste"_s}}) {
         write(path(u"bad.xml"_s), content);
         const Call call = run(u"render --entries bad.xml -o k.pdf"_s);
