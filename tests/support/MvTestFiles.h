@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #pragma once
 
+#include <QBuffer>
 #include <QColor>
 #include <QDir>
 #include <QFile>
@@ -27,6 +28,17 @@ inline bool writeFoto(const QString &path, const QSize &size = {16, 12}, const Q
     return QFileInfo(path).dir().mkpath(QStringLiteral(".")) && image.save(path);
 }
 
+/// A photo without two fields alike, as the bytes of a file.
+inline QByteArray fotoBytes(const QSize &size, const char *format, QImage::Format pixels = QImage::Format_RGB32)
+{
+    QImage image(size, pixels);
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x)
+            image.setPixelColor(x, y, QColor((x * 37 + y * 11) % 256, (x * y) % 256, (x + y * 53) % 256));
+    QBuffer buffer;
+    return image.save(&buffer, format) ? buffer.data() : QByteArray();
+}
+
 /// Empty when it cannot be read.
 inline QByteArray contentOf(const QString &path)
 {
@@ -40,6 +52,12 @@ inline QByteArray outputOf(const QString &program, const QStringList &arguments)
     QProcess process;
     process.start(program, arguments);
     return process.waitForFinished() && process.exitCode() == 0 ? process.readAllStandardOutput() : QByteArray();
+}
+
+/// Whether another program finds nothing wrong with it.
+inline bool isSoundPdf(const QString &path)
+{
+    return outputOf(QStringLiteral("qpdf"), {QStringLiteral("--check"), path}).contains("No syntax");
 }
 
 } // namespace MvTestFiles

@@ -26,9 +26,7 @@ Window *openWindow()
 
 inline bool writeFoto(const QString &path, const QColor &color, const QSize &size = {40, 30})
 {
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(color);
-    return image.save(path);
+    return MvTestFiles::writeFoto(path, size, color);
 }
 
 using MvTestFiles::write;
