@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include "MvCore/MvFileBackup.h"
 #include "MvCore/MvFileDescriptor.h"
@@ -20,12 +20,11 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_MvSafeFileWriter : public MvTest
+class tst_MvSafeFileWriter : public MvFreshFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void replacesAndKeepsMode();
     void writesThroughLinks();
     void refuses_data();
@@ -48,46 +47,17 @@ private Q_SLOTS:
     void freeNames();
 
 private:
-    QString path(const QString &name) const { return QDir(m_dir->path()).absoluteFilePath(name); }
-    QByteArray contentOf(const QString &name) const;
-    void put(const QString &name, const QByteArray &content) const;
     /// Of a file; of the folder when the name is empty.
     QByteArray native(const QString &name = {}) const
     {
-        return QFile::encodeName(name.isEmpty() ? m_dir->path() : path(name));
+        return QFile::encodeName(name.isEmpty() ? m_folder->path() : path(name));
     }
     bool setMode(const QString &name, int mode) const { return ::chmod(native(name).constData(), mode_t(mode)) == 0; }
     MvOutcome write(const QString &name, const QByteArray &content) const
     {
         return MvSafeFileWriter::write(QFileInfo(path(name)), content);
     }
-    QStringList names() const
-    {
-        return QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    }
-
-    std::unique_ptr<QTemporaryDir> m_dir;
 };
-
-void tst_MvSafeFileWriter::init()
-{
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
-}
-
-QByteArray tst_MvSafeFileWriter::contentOf(const QString &name) const
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-void tst_MvSafeFileWriter::put(const QString &name, const QByteArray &content) const
-{
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
 
 void tst_MvSafeFileWriter::replacesAndKeepsMode()
 {
@@ -95,14 +65,14 @@ void tst_MvSafeFileWriter::replacesAndKeepsMode()
     QVERIFY(setMode(u"a.xml"_s, 0640));
     QVERIFY(MvSafeFileWriter::write(QFileInfo(path(u"a.xml"_s)), "new", MvSafeFileWriter::Backups::None).isOk());
     QCOMPARE(contentOf(u"a.xml"_s), "new");
-    QCOMPARE(names(), QStringList{u"a.xml"_s});
+    QCOMPARE(files(), QStringList{u"a.xml"_s});
     struct stat status = {};
     QVERIFY(::stat(native(u"a.xml"_s).constData(), &status) == 0 && (status.st_mode & 07777) == 0640u);
 }
 
 void tst_MvSafeFileWriter::writesThroughLinks()
 {
-    QVERIFY(QDir(m_dir->path()).mkdir(u"elsewhere"_s));
+    QVERIFY(QDir(m_folder->path()).mkdir(u"elsewhere"_s));
     put(u"elsewhere/real.xml"_s, "old");
     QVERIFY(QFile::link(u"elsewhere/real.xml"_s, path(u"one.xml"_s)));
     QVERIFY(QFile::link(u"one.xml"_s, path(u"two.xml"_s)));
@@ -132,15 +102,15 @@ void tst_MvSafeFileWriter::refuses_data()
 void tst_MvSafeFileWriter::refuses()
 {
     const auto [name, message] = MvRows<QString, QString>::current();
-    QVERIFY(QDir(m_dir->path()).mkdir(u"folder"_s));
+    QVERIFY(QDir(m_folder->path()).mkdir(u"folder"_s));
     put(u"file"_s, "kept");
     QCOMPARE(::mkfifo(native(u"pipe"_s).constData(), 0600), 0);
     QVERIFY(QFile::link(u"circle"_s, path(u"circle"_s)));
-    const QStringList before = names();
+    const QStringList before = files();
     const auto result = write(name, "new");
     QVERIFY2(result.error.contains(message), qPrintable(result.error));
     QVERIFY(result.error.contains(name.right(20)));
-    QCOMPARE(names(), before);
+    QCOMPARE(files(), before);
     QCOMPARE(contentOf(u"file"_s), "kept");
 }
 
@@ -158,7 +128,7 @@ void tst_MvSafeFileWriter::sizeLimitLeavesTheOldFile()
     std::signal(SIGXFSZ, handler);
     QVERIFY2(result.error.contains(u"größer als erlaubt"_s), qPrintable(result.error));
     QCOMPARE(contentOf(u"a.xml"_s), "old");
-    QCOMPARE(names(), QStringList{u"a.xml"_s});
+    QCOMPARE(files(), QStringList{u"a.xml"_s});
 }
 
 void tst_MvSafeFileWriter::closedFolderIsWrittenInPlace()
@@ -397,7 +367,7 @@ void tst_MvSafeFileWriter::backupsWithAWrongClock()
 
 void tst_MvSafeFileWriter::sweepsTemporaries()
 {
-    const QString mine = QFileInfo(QFile::decodeName(MvFileBackup::temporaryPath(m_dir->path()))).fileName();
+    const QString mine = QFileInfo(QFile::decodeName(MvFileBackup::temporaryPath(m_folder->path()))).fileName();
     const QStringList parts = mine.split(u'-');
     const pid_t child = ::fork(); // a process number that is certainly gone
     if (child == 0)
@@ -415,7 +385,7 @@ void tst_MvSafeFileWriter::sweepsTemporaries()
     QVERIFY(write(u"a.xml"_s, "new").isOk());
     QStringList expected = {mine, ofOtherHost, u"a.xml"_s};
     expected.sort();
-    QStringList present = names();
+    QStringList present = files();
     present.sort();
     QCOMPARE(present, expected);
 }

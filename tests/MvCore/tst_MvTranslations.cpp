@@ -15,24 +15,11 @@ class tst_MvTranslations : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void languageFor_data();
+    void languageFor_data() { MvRows<QStringList, QString>().read(u"program-languages"_s); }
     void languageFor();
     void environmentDecides();
     void installs();
 };
-
-void tst_MvTranslations::languageFor_data()
-{
-    const MvRows<QStringList, QString> row; // preferred, language
-    row("American", QStringList{u"en-US"_s}, u"en"_s);
-    row("with encoding", QStringList{u"en_GB.UTF-8"_s}, u"en"_s);
-    row("bare, capitals", QStringList{u"EN"_s}, u"en"_s);
-    row("Austrian", QStringList{u"de-AT"_s, u"en-US"_s}, u"de"_s);
-    row("the first one counts", QStringList{u"fr-FR"_s, u"en-US"_s}, u"de"_s);
-    row("begins like English", QStringList{u"enm"_s}, u"de"_s);
-    row("C", QStringList{u"C"_s}, u"de"_s);
-    row("nothing", QStringList(), u"de"_s);
-}
 
 void tst_MvTranslations::languageFor()
 {

@@ -35,28 +35,10 @@ class tst_MvUndoController : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void steps_data();
+    void steps_data() { MvRows<QString, QString, int>().read(u"undo-steps"_s); }
     void steps();
     void childrenGoWithTheirParent();
 };
-
-void tst_MvUndoController::steps_data()
-{
-    // ( and ) begin and end a macro, < undoes, > redoes, ! clears, 0 pushes nothing and a step without effect, a letter
-    // is a command
-    const MvRows<QString, QString, int> row; // actions; log; count: of the steps in the end
-    row("there and back", u"ab<<<>>>"_s, u"+a +b -b -a +a +b"_s, 2);
-    row("new steps replace undone ones", u"a<b><"_s, u"+a -a +b ~a -b"_s, 1);
-    row("a macro is one step", u"a(bc)<"_s, u"+a +b +c -c -b"_s, 2);
-    row("in each other", u"(a(b(c))d)<"_s, u"+a +b +c +d -d -c -b -a"_s, 1);
-    row("an empty one leaves no step", u"a()<"_s, u"+a -a"_s, 1);
-    row("empty ones in each other", u"a(())<"_s, u"+a -a"_s, 1);
-    row("an empty one in a full one", u"(()a())b<"_s, u"+a +b -b"_s, 2);
-    row("one after an empty one", u"()(ab)<"_s, u"+a +b -b -a"_s, 1);
-    row("without effect there is no step", u"a<0>"_s, u"+a -a ~none +a"_s, 1);
-    row("undo waits for the macro", u"a(<b<)<"_s, u"+a +b -b"_s, 2);
-    row("clears without undoing", u"a(!b"_s, u"+a ~a +b"_s, 1);
-}
 
 void tst_MvUndoController::steps()
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvExifFixture.h"
 #include "MvFoto/MvFotoFacts.h"
@@ -8,7 +9,7 @@
 
 #include <sys/stat.h>
 
-class tst_MvFotoFacts : public MvTest
+class tst_MvFotoFacts : public MvFolderTest
 {
     Q_OBJECT
 
@@ -26,21 +27,14 @@ private Q_SLOTS:
 private:
     MvFotoFacts factsOf(const QString &name, const QByteArray &content) const
     {
-        QFile file(m_dir.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush()
-                   ? MvFotoFacts::of(QFileInfo(file.fileName()))
-                   : MvFotoFacts();
+        put(name, content);
+        return MvFotoFacts::of(file(name));
     }
-
-    QTemporaryDir m_dir;
 };
 
 static QByteArray written(const char *format)
 {
-    QImage image(40, 30, QImage::Format_RGB32);
-    image.fill(Qt::darkGreen);
-    QBuffer buffer;
-    return image.save(&buffer, format) ? buffer.data() : QByteArray();
+    return MvTestFiles::fotoBytes({40, 30}, format);
 }
 
 void tst_MvFotoFacts::captured_data()
@@ -143,13 +137,13 @@ void tst_MvFotoFacts::damagedNotes()
 
 void tst_MvFotoFacts::unreadable()
 {
-    QCOMPARE(::mkfifo(QFile::encodeName(m_dir.filePath(u"pipe.jpg"_qs)).constData(), 0600), 0);
+    QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe.jpg"_qs)).constData(), 0600), 0);
     const auto check = [](const MvFotoFacts &facts, const QByteArray &format) {
         QVERIFY(!facts.isValid() && !facts.error.isEmpty());
         QCOMPARE(facts.format, format);
     };
-    check(MvFotoFacts::of(QFileInfo(m_dir.filePath(u"pipe.jpg"_qs))), {});
-    check(MvFotoFacts::of(QFileInfo(m_dir.filePath(u"gone.jpg"_qs))), {});
+    check(MvFotoFacts::of(file(u"pipe.jpg"_qs)), {});
+    check(MvFotoFacts::of(file(u"gone.jpg"_qs)), {});
     check(factsOf(u"a.jpg"_qs, "no photo at all"), {});
     check(factsOf(u"b.jpg"_qs, written("png").first(12)), "png");
     check(factsOf(u"c.heic"_qs, QByteArray("\0\0\0\x18"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include "MvFoto/MvFotoPass.h"
 #include "MvFoto/MvFotoService.h"
@@ -14,14 +14,11 @@ using Urgency = MvFotoService::Urgency;
 /// Photos of 64 x 32 pixels: red, with a green square of half the width in the middle.
 constexpr int mostThreads = 3; // of a service
 
-class tst_MvFotoService : public MvTest
+class tst_MvFotoService : public MvFolderTest
 {
     Q_OBJECT
 
 private:
-    QTemporaryDir m_folder;
-
-    QString path(const QString &name) const { return m_folder.filePath(name); }
     MvFotoOrder order(const QString &name, const QSize &size = {16, 16}, Fit fit = Fit::Within) const
     {
         return {path(name), size, fit, MvFotoStamp::of(path(name))};
@@ -52,8 +49,7 @@ void tst_MvFotoService::initTestCase()
 {
     for (const QString &name : {u"a.png"_qs, u"b.png"_qs, u"c.png"_qs, u"d.png"_qs, u"e.png"_qs, u"f.png"_qs})
         write(name);
-    QFile broken(path(u"broken.jpg"_qs));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no photo") == 8);
+    put(u"broken.jpg"_qs, "no photo");
 }
 
 void tst_MvFotoService::mostUrgentFirst()

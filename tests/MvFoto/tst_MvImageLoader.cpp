@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvExifFixture.h"
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include "MvFoto/MvGuardedImageReader.h"
 #include "MvFoto/MvImageFormat.h"
@@ -14,7 +14,7 @@
 
 #include <sys/stat.h>
 
-class tst_MvImageLoader : public MvTest
+class tst_MvImageLoader : public MvFreshFolderTest
 {
     Q_OBJECT
 
@@ -37,12 +37,6 @@ private Q_SLOTS:
     void decodesOnce();
     void decodesOnceInManyThreads();
     void cacheIsBounded();
-
-private:
-    QString path(const QString &name) const { return m_dir->filePath(name); }
-    void put(const QString &name, const QByteArray &content) const;
-
-    std::unique_ptr<QTemporaryDir> m_dir;
 };
 
 /// Four fields: red, green, blue and white from the top left, in reading order.
@@ -98,17 +92,8 @@ static QByteArray manyScans(int count)
 
 void tst_MvImageLoader::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_qs));
-    m_dir = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_dir->isValid());
+    MvFreshFolderTest::init();
     MvImageLoader::instance().clear();
-}
-
-void tst_MvImageLoader::put(const QString &name, const QByteArray &content) const
-{
-    QFile file(path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
 }
 
 void tst_MvImageLoader::formats_data()
@@ -219,7 +204,7 @@ void tst_MvImageLoader::refuses()
     QVERIFY(MvImageLoader::instance().loadScaled(file, {9000, 9000}).isNull());
 
     QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_qs)).constData(), 0600), 0);
-    for (const QString &other : {path(u"pipe"_qs), path(u"missing.png"_qs), m_dir->path(), u"/dev/zero"_qs})
+    for (const QString &other : {path(u"pipe"_qs), path(u"missing.png"_qs), m_folder->path(), u"/dev/zero"_qs})
         QVERIFY2(MvImageLoader::instance().load(QFileInfo(other)).isNull(), qPrintable(other));
 }
 

@@ -274,12 +274,8 @@ private Q_SLOTS:
 
 void tst_MvPaintRecording::replaysPixelForPixel_data()
 {
-    QTest::addColumn<Painting>("painting");
-    QTest::addColumn<QTransform>("transform");
-    QTest::addColumn<bool>("antialiased");
-    QTest::addColumn<double>("pixelRatio");
-    QTest::addColumn<bool>("clipped");
-
+    // clipped: to switch clips off would free the painting from that of the target, too
+    const MvRows<Painting, QTransform, bool, double, bool> row;
     const std::pair<const char *, Painting> paintings[] = {
         {"shapes", drawShapes},     {"fills", drawFills},
         {"grounds", drawGrounds},   {"patterns", drawPatterns},
@@ -297,9 +293,9 @@ void tst_MvPaintRecording::replaysPixelForPixel_data()
         for (const auto &[transformName, transform] : transforms) {
             for (const bool antialiased : {true, false}) {
                 for (const double pixelRatio : {1.0, 2.0})
-                    QTest::addRow("%s %s %s %g", paintingName, transformName, antialiased ? "soft" : "hard", pixelRatio)
-                        << painting << transform << antialiased << pixelRatio
-                        << (qstrcmp(paintingName, "switched clips") != 0);
+                    row(QString::asprintf("%s %s %s %g", paintingName, transformName, antialiased ? "soft" : "hard",
+                                          pixelRatio),
+                        painting, transform, antialiased, pixelRatio, qstrcmp(paintingName, "switched clips") != 0);
             }
         }
     }
@@ -307,12 +303,10 @@ void tst_MvPaintRecording::replaysPixelForPixel_data()
 
 void tst_MvPaintRecording::replaysPixelForPixel()
 {
-    QFETCH(Painting, painting);
-    QFETCH(QTransform, transform);
-    QFETCH(bool, antialiased);
-    QFETCH(double, pixelRatio);
-    QFETCH(bool, clipped); // to switch clips off would free the painting from that of the target, too
-    const auto painted = [&](bool throughRecording) {
+    const auto [painting, transform, antialiased, pixelRatio, clipped] =
+        MvRows<Painting, QTransform, bool, double, bool>::current();
+    const auto painted = [painting = painting, transform = transform, antialiased = antialiased,
+                          pixelRatio = pixelRatio, clipped = clipped](bool throughRecording) {
         QImage image = canvas(pixelRatio);
         QPainter painter(&image);
         painter.setRenderHints(hintsOfTarget, antialiased);

@@ -5,6 +5,7 @@
 #include "MvCore/MvDirectoryConfig.h"
 #include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <algorithm>
 #include <atomic>
@@ -47,9 +48,9 @@ private Q_SLOTS:
     void everyCountryIsSound();
     void countriesAndRegions();
     void findsProvinces();
-    void days_data();
+    void days_data() { MvRows<QString, QString, QDate, QStringList>().read(u"holidays-of-days"_s); }
     void days();
-    void schoolVacations_data();
+    void schoolVacations_data() { MvRows<QString, QString, QDate, QDate, QString>().read(u"school-vacations"_s); }
     void schoolVacations();
     void vacationsSpeakTheLanguageOfThePage();
     void worksWithoutShareAlikeData();
@@ -131,64 +132,16 @@ void tst_MvCalendariumHolidayCalculator::findsProvinces()
         QCOMPARE(calculator().findProvince(MvLocale(locale), text), code);
 }
 
-void tst_MvCalendariumHolidayCalculator::days_data()
-{
-    const MvRows<QString, QString, QDate, QStringList> row; // locale, region, day, texts
-    const QString german = u"de_DE"_s;
-    row("Augsburg: its own", german, u"BY-A"_s, {2026, 8, 8}, {u"Augsburger Hohes Friedensfest"_s});
-    row("Augsburg: that of Bavaria", german, u"BY-A"_s, {2026, 8, 15}, {u"Mariä Himmelfahrt"_s});
-    row("BY: not that of Augsburg", german, u"BY"_s, {2026, 8, 8}, {});
-    row("two on one day", german, u"NW"_s, {2008, 5, 1}, {u"Tag der Arbeit"_s, u"Christi Himmelfahrt"_s});
-    row("4th Advent on Christmas Eve", german, u"NW"_s, {2028, 12, 24}, {u"4. Advent"_s, u"Heiligabend"_s});
-    row("500 years of the Reformation, everywhere", german, u"BY"_s, {2017, 10, 31}, {u"Reformationstag"_s});
-    row("and only then", german, u"BY"_s, {2018, 10, 31}, {});
-    row("1990 had two days of unity: the old", german, u"NW"_s, {1990, 6, 17}, {u"Tag der deutschen Einheit"_s});
-    row("and the new", german, u"NW"_s, {1990, 10, 3}, {u"Tag der Deutschen Einheit"_s});
-    row("Easter Sunday in Brandenburg stands once", german, u"BB"_s, {2026, 4, 5}, {u"Ostersonntag"_s});
-    row("French in the Jura", u"fr_CH"_s, u"JU"_s, {2026, 8, 1}, {u"Fête nationale"_s});
-    row("French in Ontario", u"fr_CA"_s, u"ON"_s, {2027, 12, 26}, {u"Lendemain de Noël"_s});
-    row("Catalan on the islands", u"ca_ES"_s, u"IB"_s, {2027, 3, 1}, {u"Diada de les Illes Balears"_s});
-    row("a Saturday's Friday lies in the old year", u"en_US"_s, {}, {2027, 12, 31},
-        {u"New Year's Day (observed)"_s, u"New Year's Eve"_s});
-}
-
 void tst_MvCalendariumHolidayCalculator::days()
 {
     const auto [locale, region, day, texts] = MvRows<QString, QString, QDate, QStringList>::current();
     QCOMPARE(textsOn(holidays(day.year(), locale, region), day), texts);
 }
 
-// as published by the ministries of the Länder
-void tst_MvCalendariumHolidayCalculator::schoolVacations_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("region");
-    QTest::addColumn<QDate>("first");
-    QTest::addColumn<QDate>("last");
-    QTest::addColumn<QString>("name");
-    const auto row = [](const QString &locale, const QString &region, const QDate &first, const QDate &last,
-                        const QString &name) {
-        QTest::addRow("%s %s, %s", qPrintable(locale), qPrintable(region), qPrintable(name))
-            << locale << region << first << last << name;
-    };
-    row(u"de_DE"_s, u"BY"_s, {2026, 8, 3}, {2026, 9, 14}, u"Sommerferien"_s);
-    row(u"de_DE"_s, u"NW"_s, {2026, 7, 20}, {2026, 9, 1}, u"Sommerferien"_s);
-    row(u"de_DE"_s, u"SN-K"_s, {2026, 7, 4}, {2026, 8, 14}, u"Sommerferien"_s); // a part of a Land
-    row(u"de_CH"_s, u"ZG"_s, {2027, 10, 2}, {2027, 10, 17}, u"Herbstferien"_s); // two weeks from a Saturday
-    row(u"it_CH"_s, u"ZG"_s, {2029, 4, 14}, {2029, 4, 29}, u"Vacanze di primavera"_s);
-    row(u"fr_CH"_s, u"GE"_s, {2026, 10, 19}, {2026, 10, 23}, u"Vacances d'automne"_s);
-    row(u"de_CH"_s, u"GE"_s, {2027, 3, 26}, {2027, 4, 9}, u"Osterferien"_s);
-    row(u"lb_LU"_s, {}, {2027, 2, 6}, {2027, 2, 14}, u"Fuesvakanz"_s);
-}
-
 void tst_MvCalendariumHolidayCalculator::schoolVacations()
 {
-    QFETCH(QString, locale);
-    QFETCH(QString, region);
-    QFETCH(QDate, first);
-    QFETCH(QDate, last);
-    QFETCH(QString, name);
-    const auto named = [&](int features) {
+    const auto [locale, region, first, last, name] = MvRows<QString, QString, QDate, QDate, QString>::current();
+    const auto named = [locale = locale, region = region, first = first, name = name](int features) {
         const MvCalendariumHolidayList list = holidays(first.year(), locale, region, features);
         QList<QDate> days;
         for (const MvCalendariumHoliday &holiday : list) {
@@ -266,20 +219,17 @@ void tst_MvCalendariumHolidayCalculator::regionsAreReadAlone()
 
 void tst_MvCalendariumHolidayCalculator::ownFileCountsAfterReload()
 {
-    const QFileInfo file = MvDirectoryConfig::instance().programDataFile(u"my-holidays.xml"_s);
-    QVERIFY(QDir().mkpath(file.absolutePath()));
-    QFile own(file.filePath());
-    QVERIFY(own.open(QIODevice::WriteOnly));
-    own.write("<MyHolidays><country code=\"DE\"><holiday name=\"Firmenjubil\xc3\xa4um\" rule=\"03-17\"/>"
-              "<remove name=\"Valentinstag\"/></country></MyHolidays>");
-    own.close();
+    const QString own = MvDirectoryConfig::instance().programDataFile(u"my-holidays.xml"_s).filePath();
+    QVERIFY(MvTestFiles::write(
+        own, "<MyHolidays><country code=\"DE\"><holiday name=\"Firmenjubil\xc3\xa4um\" rule=\"03-17\"/>"
+             "<remove name=\"Valentinstag\"/></country></MyHolidays>"));
 
     const QDate jubilee(2026, 3, 17);
     const QDate valentine(2026, 2, 14);
     QVERIFY(textsOn(holidays(2026, u"de_DE"_s, u"NW"_s), jubilee).isEmpty());
     MvCalendariumHolidayCalculator::instance().reloadData();
     const MvCalendariumHolidayList changed = holidays(2026, u"de_DE"_s, u"NW"_s);
-    QVERIFY(own.remove());
+    QVERIFY(QFile::remove(own));
     MvCalendariumHolidayCalculator::instance().reloadData();
     QCOMPARE(textsOn(changed, jubilee), QStringList{u"Firmenjubiläum"_s});
     QVERIFY(!textsOn(changed, valentine).contains(u"Valentinstag"_s));

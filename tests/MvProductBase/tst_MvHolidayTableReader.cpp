@@ -2,8 +2,8 @@
 #include "MvProductBase/MvHolidayBook.h"
 #include "MvProductBase/MvHolidayTableReader.h"
 
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,12 +31,11 @@ QByteArray ownFile(const QByteArray &elements)
 
 } // namespace
 
-class tst_MvHolidayTableReader : public MvTest
+class tst_MvHolidayTableReader : public MvFreshFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { QVERIFY(m_folder.isValid()); }
     void init();
 
     void entries_data();
@@ -55,36 +54,23 @@ private Q_SLOTS:
     void regionsThatBelongToEachOther();
 
 private:
-    QFileInfo write(const QString &name, const QByteArray &content) const;
     MvHolidayBook book() const;
     /// "0101 Neujahr" for each day of 2026 in the region.
     QStringList days(const QString &region, const MvCalendariumFeatures &features = {}, int year = 2026,
                      const QString &language = u"de"_s) const;
-
-    QTemporaryDir m_folder;
 };
 
 void tst_MvHolidayTableReader::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    QDir(m_folder.path()).removeRecursively();
-    QDir().mkpath(m_folder.path());
-    write(u"countries.xml"_s,
-          R"(<HolidayCountries><country code="ZZ" name="Land" languages="de xx"/></HolidayCountries>)");
-}
-
-QFileInfo tst_MvHolidayTableReader::write(const QString &name, const QByteArray &content) const
-{
-    QFile file(m_folder.filePath(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write a test file");
-    return QFileInfo(file.fileName());
+    MvFreshFolderTest::init();
+    put(u"countries.xml"_s,
+        R"(<HolidayCountries><country code="ZZ" name="Land" languages="de xx"/></HolidayCountries>)");
 }
 
 MvHolidayBook tst_MvHolidayTableReader::book() const
 {
-    return MvHolidayBook([this](const QString &name) { return QFileInfo(m_folder.filePath(name.section(u'/', -1))); },
-                         QFileInfo(m_folder.filePath(u"my-holidays.xml"_s)));
+    return MvHolidayBook([this](const QString &name) { return file(name.section(u'/', -1)); },
+                         file(u"my-holidays.xml"_s));
 }
 
 QStringList tst_MvHolidayTableReader::days(const QString &region, const MvCalendariumFeatures &features, int year,
@@ -130,20 +116,20 @@ void tst_MvHolidayTableReader::entries_data()
 void tst_MvHolidayTableReader::entries()
 {
     const auto [holiday, region, year, expected] = MvRows<QByteArray, QString, int, QStringList>::current();
-    write(u"ZZ.xml"_s, tableFile(holiday));
+    put(u"ZZ.xml"_s, tableFile(holiday));
     QCOMPARE(days(region, {}, year), expected);
 }
 
 void tst_MvHolidayTableReader::sameDay()
 {
-    write(u"ZZ.xml"_s, tableFile(R"(
+    put(u"ZZ.xml"_s, tableFile(R"(
         <holiday name="Gedenktag" type="observance" rule="06-01"/>
         <holiday name="Doppelt" type="observance" rule="06-01"/>
         <holiday name="Doppelt" type="public" rule="06-01" regions="S"/>
         <holiday name="Schulfrei" type="optional" rule="06-01"/>
         <holiday name="Feiertag" type="public" rule="06-01"/>
         <holiday name="Zuvor" type="observance" rule="05-31"/>)"));
-    write(u"vacations-ZZ.xml"_s, vacationFile(R"(
+    put(u"vacations-ZZ.xml"_s, vacationFile(R"(
         <region code="S"><vacation name="Ferien" start="2026-06-01" end="2026-06-02"/></region>)"));
     const QStringList expected = {u"0531 Zuvor"_s,     u"0601 Doppelt"_s, u"0601 Feiertag"_s, u"0601 Schulfrei"_s,
                                   u"0601 Gedenktag"_s, u"0601 Ferien"_s,  u"0602 "_s};
@@ -168,14 +154,14 @@ void tst_MvHolidayTableReader::names_data()
 
 void tst_MvHolidayTableReader::names()
 {
-    write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Nur so" rule="01-02"/><holiday name="Neujahr" rule="01-01">
+    put(u"ZZ.xml"_s, tableFile(R"(<holiday name="Nur so" rule="01-02"/><holiday name="Neujahr" rule="01-01">
         <name language="fr" text="Nouvel An"/><name language="xx" text="Xx"/></holiday>)"));
-    write(u"vacations-ZZ.xml"_s, vacationFile(R"(<region code="">
+    put(u"vacations-ZZ.xml"_s, vacationFile(R"(<region code="">
         <vacation name="Woche" start="2026-01-04" end="2026-01-04"/>
         <vacation name="Woche" start="2026-01-06" end="2026-01-06"><name language="fr" text="Semaine blanche"/>
             <name language="en" text="Week"/></vacation></region>
         <names of="Woche"><name language="fr" text="Semaine"/><name language="en" text=""/></names>)"));
-    write(u"my-holidays.xml"_s, ::ownFile(R"(<vacation name="Brücke" start="2026-01-08" end="2026-01-08">
+    put(u"my-holidays.xml"_s, ::ownFile(R"(<vacation name="Brücke" start="2026-01-08" end="2026-01-08">
         <name language="fr" text="Pont"/></vacation>)"));
     auto [language, region, expected] = MvRows<QString, QString, QString>::current();
     QCOMPARE(days(region, FEATURE_SCHOOL_VACATIONS, 2026, language).join(u", "_s), expected);
@@ -201,13 +187,13 @@ void tst_MvHolidayTableReader::vacations_data()
 
 void tst_MvHolidayTableReader::vacations()
 {
-    write(u"ZZ.xml"_s, tableFile({}));
-    write(u"vacations-ZZ.xml"_s, vacationFile(R"(<region code="S">
+    put(u"ZZ.xml"_s, tableFile({}));
+    put(u"vacations-ZZ.xml"_s, vacationFile(R"(<region code="S">
         <vacation name="Winter" start="2026-12-30" end="2027-01-02"/>
         <vacation name="Sommer" start="2028-07-01" end="2028-07-02"/>
         <vacation name="Hitzefrei" start="2028-07-05" end="2028-07-05"/>
         <vacation name="Winter" start="2030-01-01" end="2030-01-01"/></region>)"));
-    write(u"vacations-ZZ-odbl.xml"_s, vacationFile(R"(<region code="S">
+    put(u"vacations-ZZ-odbl.xml"_s, vacationFile(R"(<region code="S">
         <vacation name="Sommer" start="2028-07-02" end="2028-07-03"/>
         <vacation name="Sommer" start="2028-07-04" end="2028-07-04"/></region>)"));
     const auto [region, year, features, expected] = MvRows<QString, int, int, QStringList>::current();
@@ -216,8 +202,8 @@ void tst_MvHolidayTableReader::vacations()
 
 void tst_MvHolidayTableReader::vacationsKnownUntil()
 {
-    write(u"ZZ.xml"_s, tableFile({}));
-    write(u"vacations-ZZ.xml"_s, vacationFile(R"xml(<region code="S">
+    put(u"ZZ.xml"_s, tableFile({}));
+    put(u"vacations-ZZ.xml"_s, vacationFile(R"xml(<region code="S">
         <vacation name="Sommer" start="2028-07-01" end="2028-08-02"/>
         <vacation name="Winter" start="2027-12-24" end="2028-01-02"/>
         <vacation name="Buß- und Bettag (schulfrei)" start="2030-11-20" end="2030-11-20"/></region>)xml"));
@@ -263,8 +249,8 @@ void tst_MvHolidayTableReader::brokenFiles_data()
 void tst_MvHolidayTableReader::brokenFiles()
 {
     const auto [file, content, warning, rest] = MvRows<QString, QByteArray, QString, QStringList>::current();
-    write(u"ZZ.xml"_s, tableFile("<holiday name=\"Gut\" rule=\"06-01\"/>"));
-    write(file, content);
+    put(u"ZZ.xml"_s, tableFile("<holiday name=\"Gut\" rule=\"06-01\"/>"));
+    put(file, content);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(warning)); // once: a second warning fails the test
     QCOMPARE(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), rest);
 }
@@ -295,17 +281,17 @@ void tst_MvHolidayTableReader::ownFile_data()
 void tst_MvHolidayTableReader::ownFile()
 {
     const auto [own, north, south] = MvRows<QByteArray, QStringList, QStringList>::current();
-    write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Erster" rule="06-01"/><holiday name="Zweiter" rule="06-02"/>)"));
-    write(u"my-holidays.xml"_s, own);
+    put(u"ZZ.xml"_s, tableFile(R"(<holiday name="Erster" rule="06-01"/><holiday name="Zweiter" rule="06-02"/>)"));
+    put(u"my-holidays.xml"_s, own);
     QCOMPARE(days(u"N"_s, FEATURE_SCHOOL_VACATIONS), north);
     QCOMPARE(days(u"S"_s, FEATURE_SCHOOL_VACATIONS), south);
 }
 
 void tst_MvHolidayTableReader::ownFileWithErrors()
 {
-    write(u"ZZ.xml"_s, tableFile(R"(<holiday name="Erster" rule="06-01"/>)"));
-    write(u"my-holidays.xml"_s, ::ownFile("\n"
-                                          R"(<holiday name="Erster" rule="Juni"/>
+    put(u"ZZ.xml"_s, tableFile(R"(<holiday name="Erster" rule="06-01"/>)"));
+    put(u"my-holidays.xml"_s, ::ownFile("\n"
+                                        R"(<holiday name="Erster" rule="Juni"/>
         <remove name="Erster" regions="Mond"/><holiday name="Neu" rule="06-02"/>)"));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"my-holidays\\.xml:3: .*Mond.*1 weitere"_s));
     QCOMPARE(days(u"S"_s), (QStringList{u"0601 Erster"_s, u"0602 Neu"_s})); // what is wrong takes nothing away
@@ -313,7 +299,7 @@ void tst_MvHolidayTableReader::ownFileWithErrors()
 
 void tst_MvHolidayTableReader::regionsThatBelongToEachOther()
 {
-    write(u"ZZ.xml"_s, R"(<HolidayTable country="ZZ" language="de"><region code="A" parent="B"/>
+    put(u"ZZ.xml"_s, R"(<HolidayTable country="ZZ" language="de"><region code="A" parent="B"/>
         <region code="B" parent="A"/><region code="C" parent="Mond"/>
         <holiday name="Tag" rule="06-01" regions="B"/></HolidayTable>)");
     QCOMPARE(days(u"A"_s), QStringList{u"0601 Tag"_s});

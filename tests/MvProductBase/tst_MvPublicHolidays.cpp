@@ -8,39 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum class Side { OnlyHere, OnlyThere };
-
-/// Where this calculator and the independent source differ, and why that is right.
-struct Difference
-{
-    const char *places; // "CC-region", several separated by blanks
-    const char *name;   // as the side that has it calls it
-    Side side;
-    int count; // of days in the five years
-    const char *reason;
-};
-
-const Difference differences[] = {
-    {"DE-BY", "Mariä Himmelfahrt", Side::OnlyHere, 5,
-     "legal in the municipalities with a Catholic majority, most of them"},
-    {"GB-SCT", "World Cup bank holiday", Side::OnlyHere, 1, "proclaimed for 15 June 2026, too late for the source"},
-    // Easter, Whit Sunday and the day of prayer are Sundays in Switzerland, not days off of their own
-    {"CH-BE CH-BS CH-GL CH-ZH", "Ostersonntag", Side::OnlyThere, 5, "Sunday"},
-    {"CH-BE CH-BS CH-GL CH-ZH", "Pfingstsonntag", Side::OnlyThere, 5, "Sunday"},
-    {"CH-BE CH-BS CH-ZH", "Eidg. Dank-  Buss- und Bettag", Side::OnlyThere, 5, "Sunday"},
-    {"CH-GE", "Pâques", Side::OnlyThere, 5, "Sunday"},
-    {"CH-GE", "Pentecôte", Side::OnlyThere, 5, "Sunday"},
-    {"CH-TI", "Domenica di Pasqua", Side::OnlyThere, 5, "Sunday"},
-    {"CH-TI", "Pentecoste", Side::OnlyThere, 5, "Sunday"},
-    {"CH-TI", "Digiuno federale", Side::OnlyThere, 5, "Sunday"},
-    // shops close early in Glarus, but the law does not list the days
-    {"CH-GL", "Heiliger Abend", Side::OnlyThere, 5, "not in the cantonal law"},
-    {"CH-GL", "Silvester", Side::OnlyThere, 5, "not in the cantonal law"},
-    // the first Thursday of April, a week later only when that is Maundy Thursday; in 2027 that is 25 March
-    {"CH-GL", "Näfelser Fahrt", Side::OnlyHere, 1, "2027 on 1 April"},
-    {"CH-GL", "Näfelser Fahrt", Side::OnlyThere, 1, "2027 on 8 April"},
-};
-
 constexpr int firstYear = 2026;
 constexpr int lastYear = 2030;
 
@@ -99,15 +66,15 @@ QStringList datesOnlyIn(const NamesByDate &a, const NamesByDate &b)
 }
 
 // takes the explained days away and says whether each explanation was needed as often as it claims
-QString takeExplained(const QString &place, Side side, QStringList &days)
+QString takeExplained(const QString &place, const QString &side, QStringList &days)
 {
-    for (const Difference &difference : differences) {
-        if (difference.side != side || !QString::fromUtf8(difference.places).split(u' ').contains(place))
+    for (const QStringList &difference : MvRowsFile::lines(u"public-holiday-differences"_s, 4)) {
+        if (difference.at(2) != side || !difference.first().split(u' ').contains(place))
             continue;
-        const QString name = QString::fromUtf8(difference.name);
+        const QString &name = difference.at(1);
         const auto removed = days.removeIf([&name](const QString &day) { return day.mid(11) == name; });
-        if (removed != difference.count)
-            return u"%1: %2 days instead of %3"_s.arg(name).arg(removed).arg(difference.count);
+        if (removed != difference.at(3).toInt())
+            return u"%1: %2 days instead of %3"_s.arg(name).arg(removed).arg(difference.at(3));
     }
     return {};
 }
@@ -141,8 +108,8 @@ void tst_MvPublicHolidays::agreeWithIndependentSource()
     const NamesByDate here = computed(place);
     QStringList onlyHere = datesOnlyIn(here, facts);
     QStringList onlyThere = datesOnlyIn(facts, here);
-    QCOMPARE(takeExplained(place, Side::OnlyHere, onlyHere), QString());
-    QCOMPARE(takeExplained(place, Side::OnlyThere, onlyThere), QString());
+    QCOMPARE(takeExplained(place, u"here"_s, onlyHere), QString());
+    QCOMPARE(takeExplained(place, u"there"_s, onlyThere), QString());
     QCOMPARE(onlyHere, QStringList());
     QCOMPARE(onlyThere, QStringList());
 }

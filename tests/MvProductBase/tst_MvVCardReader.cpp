@@ -4,6 +4,7 @@
 #include "MvProductBase/MvVCardReader.h"
 #include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include <sys/stat.h>
 
@@ -18,7 +19,7 @@ private Q_SLOTS:
     void dates_data();
     void dates();
     void shortYears();
-    void orderOfDayAndMonth_data();
+    void orderOfDayAndMonth_data() { MvRows<QStringList, QString, QString>().read(u"days-and-months"_s); }
     void orderOfDayAndMonth();
     void names_data();
     void names();
@@ -44,35 +45,8 @@ QByteArray card(const QByteArray &lines, const QByteArray &version = "3.0")
 void tst_MvVCardReader::dates_data()
 {
     const MvRows<QByteArray, QDate> row; // line, date
-    const QDate may(1990, 5, 17);
-    const QByteArray written =
-        "1990-05-17|19900517|1990-05-17T23:00:00Z|19900517T000000|1990-05-17+02:00|1990-5-17|"
-        "1990/05/17|1990.05.17|17.05.1990|17.5.1990|17.05.90|17. 5. 1990|17.05.1990, 00:00|"
-        "17/05/1990|05/17/1990|17-05-1990|5/17/1990 12:00|17 05 1990|17 May 1990|May 17, 1990|"
-        "17. Mai 1990|17-May-1990|1990 May 17|May 17th, 1990|17 mai 1990|17 de mayo, 1990|"
-        "17 mei 1990|Donnerstag, 17.Mai 90|Thu, 17 May 1990|\"1990-05-17\"|１９９０-０５-１７|١٩٩٠-٠٥-١٧|"
-        "1990年5月17日|1990–05–17|1990-05-17\\n";
-    for (const QByteArray &text : written.split('|'))
-        row(text.constData(), "BDAY:" + text, may);
-    row("typed", QByteArray("BDAY;VALUE=date:1990-05-17"), may);
-    row("typed as text", QByteArray("BDAY;VALUE=text:17 May 1990"), may);
-    row("quoted-printable", QByteArray("BDAY;QUOTED-PRINTABLE:17=2E05=2E1990"), may);
-    row("grouped, small letters", QByteArray("item1.bday:1990-05-17"), may);
-    row("an empty one follows", QByteArray("BDAY:1990-05-17\r\nBDAY:"), may);
-    row("same number twice", QByteArray("BDAY:05/05/1990"), QDate(1990, 5, 5));
-    row("leap day of a short year", QByteArray("BDAY:29.02.00"), QDate(2000, 2, 29));
-    for (const char *text : {"--0214", "--02-14", "--2-14", "0000-02-14", "14.02.", "14 Feb", "February 14"})
-        row(text, QByteArray("BDAY:") + text, QDate(1604, 2, 14));
-    row("leap day without a year", QByteArray("BDAY:--0229"), QDate(1604, 2, 29));
-    row("year to be left out", QByteArray("BDAY;X-APPLE-OMIT-YEAR=1604:1604-06-20"), QDate(1604, 6, 20));
-    row("another year to be left out", QByteArray("BDAY;X-APPLE-OMIT-YEAR=1904:1904-06-20"), QDate(1604, 6, 20));
-    row("a real birthday in that year", QByteArray("BDAY:1904-06-20"), QDate(1904, 6, 20));
-    const QByteArray notUnderstood =
-        "1990-05|1990-02-30|--0230|---17|0000-00-00|31.04.1990|29.02.1990|12/04/1985|4-12-1985|"
-        "12/85|12-04-85|Mai 1990|17 Maig 1990|May 17 June|2990-05-17|1580-05-17|around 1800|"
-        "17.05.90.12|T1030|17";
-    for (const QByteArray &text : notUnderstood.split('|'))
-        row(text.constData(), "BDAY;VALUE=text:" + text, QDate());
+    row.read(u"card-dates"_s);
+    row("an empty one follows", QByteArray("BDAY:1990-05-17\r\nBDAY:"), QDate(1990, 5, 17));
 }
 
 void tst_MvVCardReader::dates()
@@ -97,20 +71,6 @@ void tst_MvVCardReader::shortYears()
     QCOMPARE(read(u"21.11.26"_s), QDate(2026, 11, 21));
     QCOMPARE(read(u"22.11.26"_s), QDate(1926, 11, 22));
     QCOMPARE(read(u"2026-11-22"_s), QDate());
-}
-
-void tst_MvVCardReader::orderOfDayAndMonth_data()
-{
-    // example: that nothing settles; dates: with the day first, where somebody has to say it
-    const MvRows<QStringList, QString, QString> row;
-    row("settled by a day", {u"04/12/1985"_s, u"17/05/1990"_s}, {}, u"1985-12-04 1990-05-17"_s);
-    row("settled by a day in the second place", {u"04/12/1985"_s, u"05/17/90"_s}, {}, u"1985-04-12 1990-05-17"_s);
-    row("nothing settles", {u"04/12/1985"_s, u"1990-05-17"_s}, u"04/12/1985"_s, u"1985-12-04 1990-05-17"_s);
-    row("contradiction", {u"17/05/1990"_s, u"05/17/1990"_s, u"04/12/1985"_s}, u"04/12/1985"_s,
-        u"1990-05-17 1990-05-17 1985-12-04"_s);
-    row("other forms say nothing", {u"04/12/1985"_s, u"05-17-1990"_s}, u"04/12/1985"_s, u"1985-12-04 1990-05-17"_s);
-    row("nor do other files", {u"04/12/1985"_s, u"-"_s, u"05/17/1990"_s}, u"04/12/1985"_s, u"1985-12-04 1990-05-17"_s);
-    row("nor impossible dates", {u"04/12/1985"_s, u"02/30/1990"_s}, u"04/12/1985"_s, u"1985-12-04"_s);
 }
 
 void tst_MvVCardReader::orderOfDayAndMonth()
@@ -186,12 +146,7 @@ void tst_MvVCardReader::names()
 
 void tst_MvVCardReader::pictures()
 {
-    QImage picture(6, 4, QImage::Format_RGB32);
-    picture.fill(Qt::red);
-    QByteArray png;
-    QBuffer buffer(&png);
-    QVERIFY(picture.save(&buffer, "PNG"));
-    const QByteArray code = png.toBase64();
+    const QByteArray code = MvTestFiles::fotoBytes({6, 4}, "png").toBase64();
     const QByteArray folded = code.left(40) + "\r\n " + code.mid(40);
     const QByteArray unindented = code.left(40) + "\r\n" + code.mid(40) + "\r\n";
     const QByteArray rest = "\r\nFN:Anna\r\nBDAY:19900517";
@@ -200,7 +155,7 @@ void tst_MvVCardReader::pictures()
           card("PHOTO:data:image/png;base64," + folded + rest, "4.0")}) {
         const MvVCardReader::Content content = MvVCardReader::read(bytes);
         QCOMPARE(content.persons.size(), 1);
-        QCOMPARE(content.persons.first().image().size(), picture.size());
+        QCOMPARE(content.persons.first().image().size(), QSize(6, 4));
     }
     const auto elsewhere = MvVCardReader::read(card("PHOTO;VALUE=uri:file:///etc/hostname" + rest));
     QVERIFY(elsewhere.persons.first().image().isNull());
@@ -298,10 +253,8 @@ void tst_MvVCardReader::addressBook()
     MvVCardAddressBook book;
     QList<QFileInfo> files{QFileInfo(folder.filePath(u"fehlt.vcf"_s))};
     for (const QString &name : {u"a.vcf"_s, u"b.vcf"_s}) {
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(card("FN:Anna\r\nBDAY:19900517"));
-        files.append(QFileInfo(file.fileName()));
+        files.append(QFileInfo(folder.filePath(name)));
+        QVERIFY(MvTestFiles::write(files.last().filePath(), card("FN:Anna\r\nBDAY:19900517")));
     }
     book.setFiles(files);
     QCOMPARE(book.addressBookContacts().size(), 1);

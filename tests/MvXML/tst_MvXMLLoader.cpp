@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvXML/MvXMLLoader.h"
 
@@ -168,17 +169,13 @@ void tst_MvXMLLoader::warnsOnceOfUnreadableFiles()
     const QTemporaryDir dir;
     QVERIFY(MvXMLLoader::loadDocumentElement(QFileInfo(dir.filePath(u"missing.xml"_s))).isNull()); // silently
 
-    QFile file(dir.filePath(u"cut.xml"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<a>\n<b>");
-    file.close();
+    const QString file = dir.filePath(u"cut.xml"_s);
+    QVERIFY(MvTestFiles::write(file, "<a>\n<b>"));
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"cut\\.xml:2:\\d+: Die Datei endet zu früh"_s));
-    QVERIFY(MvXMLLoader::loadDocumentElement(QFileInfo(file.fileName())).isNull());
+    QVERIFY(MvXMLLoader::loadDocumentElement(QFileInfo(file)).isNull());
 
-    QVERIFY(file.open(QIODevice::Append));
-    file.write("</b></a>");
-    file.close();
-    QCOMPARE(MvXMLLoader::loadDocumentElement(QFileInfo(file.fileName())).tagName(), u"a"_s);
+    QVERIFY(MvTestFiles::write(file, "<a>\n<b></b></a>"));
+    QCOMPARE(MvXMLLoader::loadDocumentElement(QFileInfo(file)).tagName(), u"a"_s);
 }
 
 MV_TEST_MAIN(tst_MvXMLLoader)
