@@ -2,6 +2,7 @@
 #include "MvBoxFont.h"
 #include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendariumAppearance.h"
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
@@ -56,7 +57,7 @@ private Q_SLOTS:
 
     void fontSettings_data();
     void fontSettings();
-    void fontSize_data();
+    void fontSize_data() { MvRows<int, int, int, int, int>().read(u"font-sizes"_s); }
     void fontSize();
     void unknownFontWordsTakeDefaults();
     void metricsDoNotDependOnTheScreen();
@@ -206,15 +207,13 @@ void tst_LayoutAndAppearance::userLayoutsAreKept()
 void tst_LayoutAndAppearance::mistakesInUserLayouts()
 {
     const QString path = MvCalendariumLayoutSchemaRegistry::userSchemaFile();
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("<l><calendararea layoutschema='DAY_LIST' name='Mein Monat' type='CALENDAR_YEAR'/>\n"
-               "<calendararea layoutschema='USER_1' type='CALENDAR_ONE_WEEK_PER_ROWS'/>\n"
-               "<calendararea layoutschema='USER_2' type='CALENDAR_YEAR' renderinfo='calendar_render_nothing, dayz'>\n"
-               "<cell type='CALENDAR_CELL_TYPE_SUNDY' bordertype='CALENDAR_BORDER_TOPP'/></calendararea>\n"
-               "<calendararea layoutschema='USER_3' type='CALENDAR_YEAR'/>\n"
-               "<calendararea layoutschema='USER_3' type='CALENDAR_MONTH_ONLY'/></l>");
-    file.close();
+    QVERIFY(MvTestFiles::write(
+        path, "<l><calendararea layoutschema='DAY_LIST' name='Mein Monat' type='CALENDAR_YEAR'/>\n"
+              "<calendararea layoutschema='USER_1' type='CALENDAR_ONE_WEEK_PER_ROWS'/>\n"
+              "<calendararea layoutschema='USER_2' type='CALENDAR_YEAR' renderinfo='calendar_render_nothing, dayz'>\n"
+              "<cell type='CALENDAR_CELL_TYPE_SUNDY' bordertype='CALENDAR_BORDER_TOPP'/></calendararea>\n"
+              "<calendararea layoutschema='USER_3' type='CALENDAR_YEAR'/>\n"
+              "<calendararea layoutschema='USER_3' type='CALENDAR_MONTH_ONLY'/></l>"));
     for (const QString &warning :
          {u":1:\\d+: .*„Mein Monat“.*DAY_LIST"_s, u":2:\\d+: .*USER_1.*_ROWS"_s, u":3:\\d+: .*USER_2.*„dayz“"_s,
           u":4:\\d+: .*USER_2.*_SUNDY"_s, u":4:\\d+: .*USER_2.*_TOPP"_s, u":5:\\d+: .*„USER_3“"_s})
@@ -231,7 +230,7 @@ void tst_LayoutAndAppearance::mistakesInUserLayouts()
     QTest::ignoreMessage(QtWarningMsg,
                          QRegularExpression(u"Der alte Stand liegt in"_s)); // what was left out is not lost
     QVERIFY(registry.saveUserSchemaFile());
-    QVERIFY(file.remove());
+    QVERIFY(QFile::remove(path));
 }
 
 void tst_LayoutAndAppearance::fontSettings_data()
@@ -251,22 +250,6 @@ void tst_LayoutAndAppearance::fontSettings()
     QCOMPARE(settings.fontSizePercentage(), percentage);
     QCOMPARE(settings.fontSizePercentageHolidays(), holidays);
     QCOMPARE(settings.fontName(), u"Lato"_s); // the default family where a page names none
-}
-
-void tst_LayoutAndAppearance::fontSize_data()
-{
-    const MvRows<int, int, int, int, int> row; // percentage, target, minimum, largest, pixels
-    // 20 points are 20 * 200 / 72 = 55.56 pixels at 200 dpi
-    row("layout size", 0, 0, 6, 0, 56);
-    row("larger", 20, 0, 6, 0, 67);              // 24 points
-    row("points are truncated", 4, 0, 6, 0, 56); // 20.8 points count as 20
-    row("half", -50, 0, 6, 0, 28);               // 10 points
-    row("two paper classes up", 0, 512, 6, 0, 112);
-    row("smallest size", -95, 0, 6, 0, 21); // 6 points are 21.2 pixels at 254 dpi
-    row("never nothing", -100, 0, 0, 0, 1);
-    row("largest size of the layout", 50, 0, 6, 24, 67);
-    row("that of larger paper", 50, 512, 6, 24, 133);
-    row("below it", -50, 0, 6, 24, 28);
 }
 
 void tst_LayoutAndAppearance::fontSize()

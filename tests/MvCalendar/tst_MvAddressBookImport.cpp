@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvAddressBookImport.h"
 #include "MvFoto/MvImageLoader.h"
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 using namespace Qt::StringLiterals;
 
 /// Files of cards become entries with photos.
-class tst_MvAddressBookImport : public MvTest
+class tst_MvAddressBookImport : public MvFreshFolderTest
 {
     Q_OBJECT
 
@@ -23,8 +23,6 @@ private Q_SLOTS:
 private:
     QFileInfo write(const QByteArray &cards) const;
     static QDir folder() { return MvCalendarEvent::imageDirectory(); }
-
-    std::unique_ptr<QTemporaryDir> m_dir;
 };
 
 namespace {
@@ -33,15 +31,6 @@ QByteArray card(const QByteArray &name, const QByteArray &picture, const QByteAr
 {
     return "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + name + "\r\nPHOTO;ENCODING=b:" + picture.toBase64() + "\r\n" + rest +
            "\r\nEND:VCARD\r\n";
-}
-
-QByteArray picture(const char *format, const QSize &size)
-{
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::darkCyan);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    return image.save(&buffer, format) ? bytes : QByteArray();
 }
 
 /// As a camera says that is held upright: orientation 6.
@@ -57,27 +46,26 @@ QByteArray turned(QByteArray jpeg)
 
 void tst_MvAddressBookImport::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_dir = std::make_unique<QTemporaryDir>();
+    MvFreshFolderTest::init();
     for (const QString &file : folder().entryList(QDir::Files))
         folder().remove(file);
 }
 
 QFileInfo tst_MvAddressBookImport::write(const QByteArray &cards) const
 {
-    const QString path = m_dir->filePath(u"karten.vcf"_s);
-    return MvTestFiles::write(path, cards) ? QFileInfo(path) : QFileInfo();
+    put(u"karten.vcf"_s, cards);
+    return file(u"karten.vcf"_s);
 }
 
 void tst_MvAddressBookImport::fotos_data()
 {
     // format: of the photo; empty without one; isKept: byte by byte
     const MvRows<QByteArray, QByteArray, QSize, bool> row;
-    row("JPEG", picture("jpeg", {720, 600}), QByteArray("jpeg"), QSize(720, 600), true);
-    row("PNG", picture("png", {60, 1200}), QByteArray("png"), QSize(60, 1200), true);
-    row("turned", turned(picture("jpeg", {400, 300})), QByteArray("jpeg"), QSize(300, 400), false);
-    row("large", picture("jpeg", {2400, 1200}), QByteArray("jpeg"), QSize(1200, 600), false);
-    row("another format", picture("bmp", {40, 30}), QByteArray("png"), QSize(40, 30), false);
+    row("JPEG", MvTestFiles::fotoBytes({720, 600}, "jpeg"), QByteArray("jpeg"), QSize(720, 600), true);
+    row("PNG", MvTestFiles::fotoBytes({60, 1200}, "png"), QByteArray("png"), QSize(60, 1200), true);
+    row("turned", turned(MvTestFiles::fotoBytes({400, 300}, "jpeg")), QByteArray("jpeg"), QSize(300, 400), false);
+    row("large", MvTestFiles::fotoBytes({2400, 1200}, "jpeg"), QByteArray("jpeg"), QSize(1200, 600), false);
+    row("another format", MvTestFiles::fotoBytes({40, 30}, "bmp"), QByteArray("png"), QSize(40, 30), false);
     row("no picture", QByteArray("GIF89a, or so it says"), QByteArray(), QSize(), false);
     row("too large", QByteArray(20'000'000, 'x'), QByteArray(), QSize(), false);
 }
@@ -106,7 +94,7 @@ void tst_MvAddressBookImport::fotos()
 
 void tst_MvAddressBookImport::newOnesAlone()
 {
-    const QByteArray foto = picture("png", {4, 4});
+    const QByteArray foto = MvTestFiles::fotoBytes({4, 4}, "png");
     const QFileInfo file = write(card("Anna", foto) + card("Bert", foto) + card("Bert", foto) +
                                  card("Carl", foto, "BDAY:12/04/1985") + card("Ohne", foto, "TEL:1"));
     MvCalendarEventList known;
@@ -130,7 +118,7 @@ void tst_MvAddressBookImport::newOnesAlone()
 /// Nobody gets the face of another one whose card stands there now.
 void tst_MvAddressBookImport::changedBetweenTheSteps()
 {
-    const QByteArray foto = picture("png", {4, 4});
+    const QByteArray foto = MvTestFiles::fotoBytes({4, 4}, "png");
     MvAddressBookImport import({write(card("Anna", foto))});
     import.readCards();
     write(card("Bert", foto) + card("Anna", foto));
@@ -140,7 +128,7 @@ void tst_MvAddressBookImport::changedBetweenTheSteps()
 
 void tst_MvAddressBookImport::nothingStaysOfWhatIsDropped()
 {
-    const QFileInfo file = write(card("Anna", picture("png", {4, 4})));
+    const QFileInfo file = write(card("Anna", MvTestFiles::fotoBytes({4, 4}, "png")));
     {
         MvAddressBookImport import({file});
         import.readCards();

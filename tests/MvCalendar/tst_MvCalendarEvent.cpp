@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEvent.h"
@@ -20,13 +20,13 @@ using namespace Qt::StringLiterals;
 
 using MvEntries::entry;
 
-class tst_MvCalendarEvent : public MvTest
+class tst_MvCalendarEvent : public MvFreshFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init();
-    void isAtDay_data();
+    void isAtDay_data() { MvRows<QDate, bool, QDate, bool>().read(u"entry-days"_s); }
     void isAtDay();
     void baseOrder();
     void comparesWithoutUuid();
@@ -41,16 +41,9 @@ private Q_SLOTS:
     void unreadableFotoWarns();
     void keepsTheFormerFoto_data();
     void keepsTheFormerFoto();
-    void fotoPaths_data();
+    void fotoPaths_data() { MvRows<QString, QString, bool>().read(u"entry-photo-paths"_s); }
     void fotoPaths();
     void movedUserFolder();
-    void largeFilesReadAlike();
-
-private:
-    QString outside(const QString &name) const { return m_outside->filePath(name); }
-
-    std::unique_ptr<QTemporaryDir> m_data;
-    std::unique_ptr<QTemporaryDir> m_outside;
 };
 
 static QDomElement parsed(QDomDocument &document, const QString &xml)
@@ -61,25 +54,8 @@ static QDomElement parsed(QDomDocument &document, const QString &xml)
 
 void tst_MvCalendarEvent::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_data = std::make_unique<QTemporaryDir>();
-    m_outside = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_data->isValid() && m_outside->isValid());
-    MvDirectoryConfig::instance().setProgramDataDir(m_data->filePath(u"mv"_s));
-}
-
-void tst_MvCalendarEvent::isAtDay_data()
-{
-    const MvRows<QDate, bool, QDate, bool> row; // date, recurrent, day, isAtDay
-    const QDate birthday(1990, 5, 17);
-    row("every year", birthday, true, QDate(2025, 5, 17), true);
-    row("once, another year", birthday, false, QDate(2025, 5, 17), false);
-    row("once, that day", birthday, false, birthday, true);
-    row("another month", birthday, true, QDate(2025, 6, 17), false);
-    row("another day", birthday, true, QDate(2025, 5, 16), false);
-    row("before it began", birthday, true, QDate(1980, 5, 17), true);
-    row("leap day in a common year", QDate(1992, 2, 29), true, QDate(2026, 2, 28), false);
-    row("leap day", QDate(1992, 2, 29), true, QDate(2028, 2, 29), true);
+    MvFreshFolderTest::init();
+    MvDirectoryConfig::instance().setProgramDataDir(path(u"mv"_s)); // what lies beside it is somebody else's
 }
 
 void tst_MvCalendarEvent::isAtDay()
@@ -161,7 +137,7 @@ void tst_MvCalendarEvent::roundTrip()
     const auto [name, readName] = MvRows<QString, QString>::current();
     const MvCalendarEvent event(name, QDate(1944, 2, 29).startOfDay(), false, MvFoto(), QUuid::createUuid(),
                                 QDateTime());
-    const QString file = outside(u"list.xml"_s);
+    const QString file = path(u"list.xml"_s);
     QVERIFY(MvTestFiles::write(file, MvCalendarEventFile::toBytes({event})));
     const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file));
     QCOMPARE(content.error, QString());
@@ -231,9 +207,9 @@ void tst_MvCalendarEvent::invalidEntryIsEmptyElement()
 
 void tst_MvCalendarEvent::setFotoCopies()
 {
-    QVERIFY(MvTestFiles::writeFoto(outside(u"groß.jpg"_s), {4000, 3000}));
+    QVERIFY(MvTestFiles::writeFoto(path(u"groß.jpg"_s), {4000, 3000}));
     MvCalendarEvent event = entry(u"Oma"_s, QDate(2000, 1, 1));
-    event.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_s))));
+    event.setFoto(MvFoto(QFileInfo(path(u"groß.jpg"_s))));
     QVERIFY(event.isInAppSafeArea(event.imagePath()));
     QCOMPARE(event.imagePath().fileName(), u"groß.jpg"_s);
     QCOMPARE(event.imageSize(), QSize(2048, 1536));
@@ -242,8 +218,8 @@ void tst_MvCalendarEvent::setFotoCopies()
     MvCalendarEvent other = event;
     other.setFoto(event.foto()); // lies there already
     QVERIFY(other == event);
-    QCOMPARE(MvCalendarEvent::imageDirectory().count(), 3u);  // with "." and ".."
-    other.setFoto(MvFoto(QFileInfo(outside(u"groß.jpg"_s)))); // another copy under another name
+    QCOMPARE(MvCalendarEvent::imageDirectory().count(), 3u); // with "." and ".."
+    other.setFoto(MvFoto(QFileInfo(path(u"groß.jpg"_s))));   // another copy under another name
     QCOMPARE(other.imagePath().fileName(), u"groß_2.jpg"_s);
     other.setFoto(MvFoto());
     QVERIFY(!other.foto().isValid() && !other.imageSize().isValid() && other.image().isNull());
@@ -255,7 +231,7 @@ void tst_MvCalendarEvent::unreadableFotoWarns()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"^Unable to open image : MvFoto"_s));
     QTest::ignoreMessage(QtWarningMsg,
                          QRegularExpression(u"^Unable to save image to : .*calendarEventFotos/missing\\.jpg$"_s));
-    event.setFoto(MvFoto(QFileInfo(outside(u"missing.jpg"_s))));
+    event.setFoto(MvFoto(QFileInfo(path(u"missing.jpg"_s))));
     QVERIFY(event.foto().isValid());
     QVERIFY(!event.imagePath().exists());
 }
@@ -272,13 +248,13 @@ void tst_MvCalendarEvent::keepsTheFormerFoto_data()
 void tst_MvCalendarEvent::keepsTheFormerFoto()
 {
     auto [file, isFull, reason] = MvRows<QString, bool, QString>::current();
-    QVERIFY(MvTestFiles::writeFoto(outside(u"good.png"_s)));
-    QVERIFY(MvTestFiles::writeFoto(outside(u"new.png"_s), {400, 300}));
-    file = file.startsWith(u'F') ? MvCalendarEvent::imageDirectory().filePath(file.mid(6)) : outside(file);
+    QVERIFY(MvTestFiles::writeFoto(path(u"good.png"_s)));
+    QVERIFY(MvTestFiles::writeFoto(path(u"new.png"_s), {400, 300}));
+    file = file.startsWith(u'F') ? MvCalendarEvent::imageDirectory().filePath(file.mid(6)) : path(file);
     if (file.endsWith(u"text.jpg"_s))
         QVERIFY(MvTestFiles::write(file, "kein Foto"));
     MvCalendarEvent event = entry(u"Oma"_s, QDate(2000, 1, 1));
-    QVERIFY(event.takeFoto(MvFoto(QFileInfo(outside(u"good.png"_s)))).isOk());
+    QVERIFY(event.takeFoto(MvFoto(QFileInfo(path(u"good.png"_s)))).isOk());
     const MvCalendarEvent before = event;
     const qsizetype files = MvCalendarEvent::imageDirectory().entryList(QDir::Files).size();
 
@@ -295,50 +271,25 @@ void tst_MvCalendarEvent::keepsTheFormerFoto()
     QCOMPARE(MvCalendarEvent::imageDirectory().entryList(QDir::Files).size(), files);
 }
 
-void tst_MvCalendarEvent::fotoPaths_data()
-{
-    // text: LIST: the list's folder, FOTOS: the photo folder; path: empty: no photo
-    const MvRows<QString, QString, bool> row;
-    row("own photo", u"FOTOS/own.png"_s, u"FOTOS/own.png"_s, true);
-    row("own photo by name", u"own.png"_s, u"FOTOS/own.png"_s, true);
-    row("the one beside before the own one", u"both.png"_s, u"LIST/both.png"_s, true);
-    row("own photo of somebody else", u"/home/x/calendarEventFotos/own.png"_s, u"/home/x/calendarEventFotos/own.png"_s,
-        false);
-    row("own photo in the bin", u"FOTOS/binned.png"_s, u"FOTOS/binned.png"_s, true);
-    row("somebody else's in the bin", u"/home/x/calendarEventFotos/binned.png"_s,
-        u"/home/x/calendarEventFotos/binned.png"_s, false);
-    row("beside the list", u"beside.png"_s, u"LIST/beside.png"_s, true);
-    row("below the list", u"fotos/below.png"_s, u"LIST/fotos/below.png"_s, true);
-    row("named in full beside the list", u"LIST/beside.png"_s, u"LIST/beside.png"_s, true);
-    row("out of the list's folder", u"../secret.png"_s, u"LIST/../secret.png"_s, false);
-    row("out and in again", u"../list/beside.png"_s, u"LIST/beside.png"_s, true);
-    row("link out of the folder", u"link.png"_s, u"LIST/link.png"_s, false);
-    row("folder link out of the folder", u"up/secret.png"_s, u"LIST/up/secret.png"_s, false);
-    row("elsewhere", u"/etc/hostname"_s, u"/etc/hostname"_s, false);
-    row("elsewhere and missing", u"/nowhere/a.png"_s, u"/nowhere/a.png"_s, false);
-    row("missing", u"missing.png"_s, u"FOTOS/missing.png"_s, true);
-    row("none", QString(), QString(), false);
-}
-
 void tst_MvCalendarEvent::fotoPaths()
 {
-    const auto [text, path, mayBeOpened] = MvRows<QString, QString, bool>::current();
-    const QString folder = outside(u"list"_s);
+    const auto [text, place, mayBeOpened] = MvRows<QString, QString, bool>::current();
+    const QString folder = path(u"list"_s);
     const QString fotos = MvCalendarEvent::imageDirectory().absolutePath();
     const auto inPlace = [&](QString pattern) { return pattern.replace(u"LIST"_s, folder).replace(u"FOTOS"_s, fotos); };
     for (const QString &file : {fotos + u"/own.png"_s, fotos + u"/both.png"_s, folder + u"/both.png"_s,
-                                folder + u"/beside.png"_s, folder + u"/fotos/below.png"_s, outside(u"secret.png"_s)})
+                                folder + u"/beside.png"_s, folder + u"/fotos/below.png"_s, path(u"secret.png"_s)})
         QVERIFY(MvTestFiles::writeFoto(file));
     QVERIFY(MvTestFiles::writeFoto(fotos + u"/papierkorb/2026-01-01/binned.png"_s));
-    QVERIFY(QFile::link(outside(u"secret.png"_s), folder + u"/link.png"_s));
-    QVERIFY(QFile::link(m_outside->path(), folder + u"/up"_s));
+    QVERIFY(QFile::link(path(u"secret.png"_s), folder + u"/link.png"_s));
+    QVERIFY(QFile::link(m_folder->path(), folder + u"/up"_s));
 
     QDomDocument document;
     const QDomElement element =
         parsed(document, u"<CalendarEvent><Name>x</Name><Image>%1</Image></CalendarEvent>"_s.arg(inPlace(text)));
     MvCalendarEventFotoFinder fotosOfList{QFileInfo(folder + u"/list.xml"_s)};
     const MvCalendarEvent event(MvCalendarEventTexts{element}, fotosOfList);
-    const QString expected = path.isEmpty() ? QString() : QDir::cleanPath(inPlace(path));
+    const QString expected = place.isEmpty() ? QString() : QDir::cleanPath(inPlace(place));
     QCOMPARE(event.foto().localFilePath(), expected);
     QCOMPARE(event.foto().mayBeOpened(), mayBeOpened);
     QCOMPARE(event.image().isNull(), !(mayBeOpened && QFileInfo::exists(expected)));
@@ -356,20 +307,6 @@ void tst_MvCalendarEvent::movedUserFolder()
     MvCalendarEventFotoFinder ofBackup{MvDirectoryConfig::instance().programDataFile(u"calendarEvents.xml~"_s)};
     const QString text = u"/home/früher/mv/calendarEventFotos/oma.png"_s;
     QCOMPARE(ofBackup.find(text), event.foto());
-}
-
-void tst_MvCalendarEvent::largeFilesReadAlike()
-{
-    MvCalendarEventList events;
-    for (int i = 0; i < 10000; ++i)
-        events.append(entry(u"Person %1"_s.arg(i / 2), QDate(1950, 1, 1).addDays(i / 2))); // each twice
-    const QString file = outside(u"large.xml"_s);
-    QVERIFY(MvTestFiles::write(file, MvCalendarEventFile::toBytes(events)));
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file));
-    QVERIFY(content.isRead() && content.isComplete);
-    QCOMPARE(content.events.size(), 5000);
-    for (qsizetype i = 0; i < content.events.size(); ++i)
-        QCOMPARE(content.events.at(i), events.at(2 * i));
 }
 
 MV_TEST_MAIN(tst_MvCalendarEvent)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -16,7 +16,7 @@
 using namespace Qt::StringLiterals;
 
 /// Photos on their way into the photo folder, into its bin and back.
-class tst_MvCalendarEventFotoFolder : public MvTest
+class tst_MvCalendarEventFotoFolder : public MvFreshFolderTest
 {
     Q_OBJECT
 
@@ -31,22 +31,17 @@ private Q_SLOTS:
     void sweepsInNoDoubt();
 
 private:
-    QString path(const QString &name) const { return m_data->filePath(name); }
     QString foto(const QString &name) const { return path(u"calendarEventFotos/"_s + name); }
     static QStringList fotos() { return MvCalendarEvent::imageDirectory().entryList(QDir::Files, QDir::Name); }
     /// A photo of two days ago.
     static void putFoto(const QString &path, const QColor &color = Qt::red);
     static MvCalendarEvent entry(const QString &name, const QString &foto);
-
-    std::unique_ptr<QTemporaryDir> m_data;
 };
 
 void tst_MvCalendarEventFotoFolder::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_data = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_data->isValid());
-    MvDirectoryConfig::instance().setProgramDataDir(m_data->path());
+    MvFreshFolderTest::init();
+    MvDirectoryConfig::instance().setProgramDataDir(m_folder->path());
 }
 
 void tst_MvCalendarEventFotoFolder::putFoto(const QString &path, const QColor &color)
@@ -155,7 +150,7 @@ void tst_MvCalendarEventFotoFolder::sweeps()
     QVERIFY(MvTestFiles::write(path(u"calendarEvents.unlesbar-2026-01-02.xml"_s),
                                QByteArray(reinterpret_cast<const char *>(wide.utf16()), 2 * wide.size())));
 
-    QVERIFY(QDir(m_data->path()).mkpath(u"unfinished/0-1"_s)); // copies of a writing that was stopped
+    QVERIFY(QDir(m_folder->path()).mkpath(u"unfinished/0-1"_s)); // copies of a writing that was stopped
     QVERIFY(MvTestFiles::write(path(u"unfinished/0-1/previous.xml"_s), folder + "stopped.png</Image>"));
 
     QVERIFY(MvTestFiles::write(path(u"calendarEventFotos/papierkorb/2020-01-01/.ueberfaellig"_s), "2020-02-02"));

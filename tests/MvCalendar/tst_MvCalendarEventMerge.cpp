@@ -15,7 +15,7 @@ class tst_MvCalendarEventMerge : public MvTest
 private Q_SLOTS:
     void joins_data();
     void joins();
-    void threeWay_data();
+    void threeWay_data() { MvRows<QString, QString, QString, QString>().read(u"entry-merges"_s); }
     void threeWay();
     void laterChangeOfAFieldWins();
     void partlyReadRemovesNothing();
@@ -65,35 +65,6 @@ void tst_MvCalendarEventMerge::joins()
 {
     const auto [base, other, keepBase, result] = MvRows<QString, QString, bool, QString>::current();
     QCOMPARE(names(MvCalendarEventMerge::joined(list(base), list(other), keepBase)), result);
-}
-
-void tst_MvCalendarEventMerge::threeWay_data()
-{
-    const MvRows<QString, QString, QString, QString> row; // base, mine, theirs, result
-    row("nothing happened", u"a b"_s, u"a b"_s, u"a b"_s, u"a b"_s);
-    row("both add", u"a"_s, u"a b"_s, u"a c"_s, u"a b c"_s);
-    row("I remove", u"a b"_s, u"a"_s, u"a b"_s, u"a"_s);
-    row("they remove", u"a b"_s, u"a b"_s, u"a"_s, u"a"_s);
-    row("I change", u"a b"_s, u"a b:B"_s, u"a b"_s, u"a B"_s);
-    row("they change", u"a b"_s, u"a b"_s, u"a b:B"_s, u"a B"_s);
-    row("I change what they remove", u"a b"_s, u"a b:B"_s, u"a"_s, u"a B"_s);
-    row("I remove what they change", u"a b"_s, u"a"_s, u"a b:B"_s, u"a B"_s);
-    row("both add the same text", u"a"_s, u"a b:x"_s, u"a c:x"_s, u"a x"_s);
-    row("without uuid: I remove", u"-x a"_s, u"a"_s, u"-x a c"_s, u"a c"_s);
-    row("without uuid: they add", u"a"_s, u"a"_s, u"a -x"_s, u"a x"_s);
-    row("order is mine", u"a b c"_s, u"c b a"_s, u"a b c d"_s, u"c b a d"_s);
-    const QString series = u"s:A@1 s:B@2 s:C@3"_s;
-    row("series: I continue, they add", u"s:A@1"_s, series, u"s:A@1 y"_s, u"A@1 B@2 C@3 y"_s);
-    row("series: they rename", series, u"s:A@1 s:B@2 s:C@3 n"_s, u"s:A@1 s:B@2 s:X@3"_s, u"A@1 B@2 X@3 n"_s);
-    row("series: they rename one and I another", series, u"s:A@1 s:B@2 s:X@3"_s, u"s:Y@1 s:B@2 s:C@3"_s,
-        u"Y@1 B@2 X@3"_s);
-    row("series: they remove one", series, series, u"s:B@2 s:C@3"_s, u"B@2 C@3"_s);
-    row("series: both rename one, both stay", series, u"s:A@1 s:X@2 s:C@3"_s, u"s:A@1 s:Y@2 s:C@3"_s,
-        u"A@1 X@2 Y@2 C@3"_s);
-    row("each reading makes new uuids", u"?x ?y ?z"_s, u"?x ?y ?z ?mine"_s, u"?x ?z ?theirs"_s, u"x z mine theirs"_s);
-    row("new uuids: both edit", u"1:x 2:y"_s, u"1:X 2:y"_s, u"3:x 4:Y"_s, u"X Y"_s);
-    row("two equal ones are two", u"-x -x"_s, u"-x -x a"_s, u"-x -x -x"_s, u"x x a x"_s);
-    row("one of two equal ones goes", u"-x -x"_s, u"-x -x a"_s, u"-x"_s, u"x a"_s);
 }
 
 void tst_MvCalendarEventMerge::threeWay()

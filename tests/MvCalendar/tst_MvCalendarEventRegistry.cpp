@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -54,7 +54,7 @@ MvCalendariumContentKey keyAt(const QDate &date, const MvProjectIdentifier &proj
 
 } // namespace
 
-class tst_MvCalendarEventRegistry : public MvTest
+class tst_MvCalendarEventRegistry : public MvFreshFolderTest
 {
     Q_OBJECT
 
@@ -63,7 +63,7 @@ private Q_SLOTS:
     void cleanup();
     void savesAtOnce();
     void fileForm();
-    void changesOneEntry_data();
+    void changesOneEntry_data() { MvRows<QString, QString, QString, bool>().read(u"entry-changes"_s); }
     void changesOneEntry();
     void changesTheVeryEntry();
     void loadsWithMergeFlag();
@@ -79,11 +79,8 @@ private Q_SLOTS:
     void sampleList();
 
 private:
-    QString path(const QString &name) const { return m_data->filePath(name); }
-    QByteArray contentOf(const QString &name) const;
     static QStringList fotos() { return MvCalendarEvent::imageDirectory().entryList(QDir::Files, QDir::Name); }
 
-    std::unique_ptr<QTemporaryDir> m_data;
     QStringList m_log;
     QStringList m_written;
     TestPlatform *m_platform = nullptr;
@@ -91,10 +88,8 @@ private:
 
 void tst_MvCalendarEventRegistry::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_data = std::make_unique<QTemporaryDir>();
-    QVERIFY(m_data->isValid());
-    MvDirectoryConfig::instance().setProgramDataDir(m_data->path());
+    MvFreshFolderTest::init();
+    MvDirectoryConfig::instance().setProgramDataDir(m_folder->path());
     m_log.clear();
     m_written.clear();
     MvLogger::instance().setSink([this](const QString &line) { m_log.append(line); });
@@ -107,12 +102,6 @@ void tst_MvCalendarEventRegistry::cleanup()
 {
     MvLogger::instance().setSink({});
     MvPlatformIndependent::setInstance(nullptr);
-}
-
-QByteArray tst_MvCalendarEventRegistry::contentOf(const QString &name) const
-{
-    QFile file(path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void tst_MvCalendarEventRegistry::savesAtOnce()
@@ -146,18 +135,6 @@ void tst_MvCalendarEventRegistry::fileForm()
              "    <DateTime>1941-03-09T00:00:00</DateTime>\n    <Recurrent>false</Recurrent>\n    <Image/>\n"
              "    <UUID>{11111111-2222-3333-4444-555555555555}</UUID>\n"
              "    <LastChanged>2026-01-02T03:04:05</LastChanged>\n  </CalendarEvent>\n</CalendarEvents>\n");
-}
-
-void tst_MvCalendarEventRegistry::changesOneEntry_data()
-{
-    const MvRows<QString, QString, QString, bool> row; // before, after, result, changes
-    row("adds", QString(), u"C"_s, u"A B C"_s, true);
-    row("removes", u"A"_s, QString(), u"B"_s, true);
-    row("replaces in place", u"A"_s, u"C"_s, u"C B"_s, true);
-    row("the same", u"A"_s, u"A"_s, u"A B"_s, false);
-    row("nothing for nothing", QString(), QString(), u"A B"_s, false);
-    row("unknown one is added", u"X"_s, u"C"_s, u"A B C"_s, true);
-    row("unknown one is not removed", u"X"_s, QString(), u"A B"_s, false);
 }
 
 void tst_MvCalendarEventRegistry::changesOneEntry()
@@ -295,7 +272,7 @@ void tst_MvCalendarEventRegistry::setsUnreadableFilesAside()
     registry.cleanupImageDirectory(); // the lost list may have used it
     QCOMPARE(fotos(), QStringList{u"in-use.png"_s});
     registry.setEvents({});
-    QCOMPARE(QDir(m_data->path()).entryList({u"*unlesbar*"_s}).size(), 1);
+    QCOMPARE(QDir(m_folder->path()).entryList({u"*unlesbar*"_s}).size(), 1);
 }
 
 void tst_MvCalendarEventRegistry::takesImportedFotosOver()

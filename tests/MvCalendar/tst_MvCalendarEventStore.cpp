@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvFreshFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 using Problem = MvCalendarEventStore::Problem;
 
-class tst_MvCalendarEventStore : public MvTest
+class tst_MvCalendarEventStore : public MvFreshFolderTest
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ private Q_SLOTS:
     void writesEachChange();
 
 private:
-    QString path() const { return m_data->filePath(u"calendarEvents.xml"_s); }
+    QString path() const { return MvFolderTest::path(u"calendarEvents.xml"_s); }
     QString onDisk() const { return names(MvCalendarEventFile::read(QFileInfo(path())).events); }
 
     static QString names(const MvCalendarEventList &events) { return MvEntries::names(events).join(u' '); }
@@ -52,15 +52,12 @@ private:
             list += "<CalendarEvent><Name>" + name + "</Name><DateTime>2000-01-01T00:00:00</DateTime></CalendarEvent>";
         return "<CalendarEvents>" + list + "</CalendarEvents>";
     }
-
-    std::unique_ptr<QTemporaryDir> m_data;
 };
 
 void tst_MvCalendarEventStore::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_data = std::make_unique<QTemporaryDir>();
-    MvDirectoryConfig::instance().setProgramDataDir(m_data->path());
+    MvFreshFolderTest::init();
+    MvDirectoryConfig::instance().setProgramDataDir(m_folder->path());
 }
 
 /// Another program stands still while it saves, and goes on much later.
@@ -151,14 +148,14 @@ void tst_MvCalendarEventStore::restoresBackups()
         registry.changeEvent(registry.activeEventList().last(), {});
     }
     QCOMPARE(names(MvCalendarEventFile::read(backup).events), u"A B"_s); // saving has not pushed it out
-    QVERIFY(store.restoreBackup(QFileInfo(m_data->filePath(u"missing.xml"_s))).error.contains(u"missing.xml"_s));
+    QVERIFY(store.restoreBackup(file(u"missing.xml"_s)).error.contains(u"missing.xml"_s));
     QSignalSpy changed(&registry, &MvCalendarEventRegistry::eventsChanged);
     QCOMPARE(store.restoreBackup(backup).error, QString());
     QCOMPARE(names(registry.activeEventList()), result);
     QCOMPARE(onDisk(), result);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(store.problem().kind, Problem::None);
-    QCOMPARE(MvTestFiles::contentOf(QDir(m_data->path()).entryInfoList({u"*unlesbar*"_s}).value(0).filePath()),
+    QCOMPARE(MvTestFiles::contentOf(QDir(m_folder->path()).entryInfoList({u"*unlesbar*"_s}).value(0).filePath()),
              damaged);
 }
 

@@ -32,9 +32,9 @@ class tst_MvCalendariumRenderer : public MvTest
 private Q_SLOTS:
     void cleanup() { MvCalendarEventRegistry::instance().setEvents({}); }
 
-    void weeksOfMonth_data();
+    void weeksOfMonth_data() { MvRows<QDate, int>().read(u"weeks-of-months"_s); }
     void weeksOfMonth();
-    void weekParity_data();
+    void weekParity_data() { MvRows<QDate, QDate, bool>().read(u"week-parity"_s); }
     void weekParity();
     void cellTypes_data();
     void cellTypes();
@@ -58,18 +58,6 @@ private Q_SLOTS:
     void invisibleTextsAreNotDrawn();
 };
 
-void tst_MvCalendariumRenderer::weeksOfMonth_data()
-{
-    const MvRows<QDate, int> row; // month, weeks
-    row("28 days from Monday", QDate(2027, 2, 1), 4);
-    row("28 days from Thursday", QDate(2029, 2, 1), 5);
-    row("30 days from Sunday", QDate(2031, 6, 1), 6);
-    row("31 days from Friday", QDate(2027, 10, 1), 5);
-    row("31 days from Sunday", QDate(2027, 8, 1), 6);
-    row("any day of the month counts", QDate(2027, 2, 28), 4);
-    row("no month", QDate(), 6);
-}
-
 void tst_MvCalendariumRenderer::weeksOfMonth()
 {
     const auto [month, weeks] = MvRows<QDate, int>::current();
@@ -77,20 +65,6 @@ void tst_MvCalendariumRenderer::weeksOfMonth()
     QCOMPARE(page.renderer().numberOfWeeks(month), weeks);
     MvPageFixture withEmptyWeeks(MvPageFixture::appearance(u"calendar_render_title"_s), QDate(2027, 1, 1));
     QCOMPARE(withEmptyWeeks.renderer().numberOfWeeks(month), 6);
-}
-
-void tst_MvCalendariumRenderer::weekParity_data()
-{
-    const MvRows<QDate, QDate, bool> row; // page, date, even
-    row("first week is odd", QDate(2027, 10, 1), QDate(2027, 10, 3), false);
-    row("second week is even", QDate(2027, 10, 1), QDate(2027, 10, 4), true);
-    row("third week is odd", QDate(2027, 10, 1), QDate(2027, 10, 17), false);
-    row("days before the month", QDate(2027, 10, 1), QDate(2027, 9, 28), false);
-    row("days after the month follow its last day", QDate(2027, 9, 1), QDate(2027, 10, 3), false);
-    row("December before January", QDate(2027, 1, 1), QDate(2026, 12, 30), false);
-    // 1 January 2027 lies in week 53, 4 January in week 1: both odd, so that the rows do not alternate here
-    row("after week 53", QDate(2027, 1, 1), QDate(2027, 1, 4), false);
-    row("January after December", QDate(2026, 12, 1), QDate(2027, 1, 2), false);
 }
 
 void tst_MvCalendariumRenderer::weekParity()

@@ -65,9 +65,9 @@ private Q_SLOTS:
 
     void arrangement_data();
     void arrangement();
-    void titles_data();
+    void titles_data() { MvRows<QDate, QString, QString, QString>().read(u"year-titles"_s); }
     void titles();
-    void monthsOfTheCalendar_data();
+    void monthsOfTheCalendar_data() { MvRows<int, QDate, int, QDate>().read(u"months-of-years"_s); }
     void monthsOfTheCalendar();
     void shortMonthsWhereNarrow();
     void weekGivesWayToTexts();
@@ -99,25 +99,6 @@ void tst_MvCalendariumRendererYear::arrangement()
     QCOMPARE(lefts.size(), columns);
 }
 
-void tst_MvCalendariumRendererYear::titles_data()
-{
-    const MvRows<QDate, QString, QString, QString> row; // from, info, headers, title
-    const QDate january(2027, 1, 1);
-    const QDate august(2026, 8, 1);
-    const QString longYear = u"calendar_render_year_long"_s;
-    const QString shortYear = u"calendar_render_year_short"_s;
-    const QString school = u", calendar_render_year_school"_s;
-    const QString all = u", calendar_render_all_years"_s;
-    row("year", january, longYear, QString(), u"2027"_s);
-    row("short", january, shortYear, QString(), u"'27"_s);
-    row("not said how", january, u"calendar_render_month_long"_s, QString(), u"2027"_s);
-    row("two years", august, longYear, QString(), u"2026/27"_s);
-    row("over the century", QDate(2099, 9, 1), longYear, QString(), u"2099/00"_s);
-    row("school year", august, longYear + school, QString(), u"Schuljahr 2026/27"_s);
-    row("both in full", august, longYear + school + all, QString(), u"Schuljahr 2026/2027"_s);
-    row("own separator", august, longYear + all, u" bis "_s, u"2026 bis 2027"_s);
-}
-
 void tst_MvCalendariumRendererYear::titles()
 {
     const auto [from, info, headers, title] = MvRows<QDate, QString, QString, QString>::current();
@@ -132,18 +113,6 @@ void tst_MvCalendariumRendererYear::titles()
         QCOMPARE(MvPageFixture::texts(page.render(a4)).contains(title), hasTitle);
         QCOMPARE(yearOf(page).titleRect(a4).height() > 0.0, hasTitle);
     }
-}
-
-void tst_MvCalendariumRendererYear::monthsOfTheCalendar_data()
-{
-    const MvRows<int, QDate, int, QDate> row; // months, shown, offset, first
-    row("page of May shows the calendar's year", 12, QDate(2026, 12, 1), 0, QDate(2026, 8, 1));
-    row("half a year shows a whole one", 6, QDate(2026, 8, 1), 0, QDate(2026, 8, 1));
-    row("second year", 24, QDate(2027, 8, 1), 0, QDate(2027, 8, 1));
-    row("within the second year", 24, QDate(2028, 7, 1), 0, QDate(2027, 8, 1));
-    row("ahead of the page", 12, QDate(2026, 8, 1), 3, QDate(2026, 11, 1));
-    row("before the calendar", 12, QDate(2020, 1, 1), 0, QDate(2026, 8, 1));
-    row("after it", 24, QDate(2040, 1, 1), 0, QDate(2027, 8, 1));
 }
 
 void tst_MvCalendariumRendererYear::monthsOfTheCalendar()

@@ -2,6 +2,7 @@
 #include "MvEntries.h"
 #include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
 #include "MvCalendar/MvCalendarEventIndex.h"
@@ -45,24 +46,9 @@ private:
 
 void tst_MvEventRepetition::readsRules_data()
 {
-    const MvRows<QString, QString> add; // text; expected: the shortest form, or a part of the reason
-    const auto row = [&](const char *text, const char *expected) {
-        add(text, QString::fromLatin1(text), QString::fromUtf8(expected));
-    };
-    row("rrule:byday=th;freq=weekly;interval=2", "FREQ=WEEKLY;INTERVAL=2;BYDAY=TH");
-    row("FREQ=MONTHLY;BYDAY=-1FR;WKST=MO;BYHOUR=9", "FREQ=MONTHLY;BYDAY=-1FR");
-    row("FREQ=DAILY;UNTIL=20271231T235959Z", "FREQ=DAILY;UNTIL=20271231");
-    row("FREQ=SECONDLY", "öfter als einmal am Tag");
-    row("FREQ=DAILY;BYHOUR=9,17;COUNT=4", "öfter als einmal am Tag");
-    row("FREQ=DAILY;UNTIL=20270230", "UNTIL=20270230");
-    row("FREQ=DAILY;UNTIL=20270228T250000", "UNTIL=20270228T250000");
-    row("FREQ=DAILY;COUNT=3;UNTIL=20270228", "COUNT und UNTIL");
-    row("FREQ=WEEKLY;BYDAY=2MO", "wievielten Wochentag");
-    row("FREQ=WEEKLY;BYMONTHDAY=3", "Tage des Monats");
-    row("FREQ=YEARLY;RSCALE=HEBREW", "RSCALE");
-    row("FREQ=YEARLY;FREQ=DAILY", "zweimal");
-    row("INTERVAL=2", "FREQ");
-    row("", "FREQ");
+    const MvRows<QString, QString> row; // text, expected
+    row.read(u"recurrence-rules"_s);
+    row("", QString(), u"FREQ"_s);
 }
 
 void tst_MvEventRepetition::readsRules()
@@ -79,44 +65,13 @@ void tst_MvEventRepetition::readsRules()
 
 void tst_MvEventRepetition::understandsWords_data()
 {
-    const MvRows<QString, QString> add; // words; expected: a rule, or "once", "yearly", "?"
-    const auto row = [&](const char *words, const char *expected) {
-        add(words, QString::fromUtf8(words), QString::fromLatin1(expected));
-    };
-    row("Einmal", "once");
-    row("jedes Jahr", "yearly");
-    row("every year", "yearly");
-    row("FREQ=YEARLY", "yearly");
-    row("alle 3 Jahre", "FREQ=YEARLY;INTERVAL=3");
-    row("jährlich, bis 31.12.2030", "FREQ=YEARLY;UNTIL=20301231");
-    row("alle zwei Wochen am Donnerstag", "FREQ=WEEKLY;INTERVAL=2;BYDAY=TH");
-    row("jeden zweiten Donnerstag", "FREQ=WEEKLY;INTERVAL=2;BYDAY=TH");
-    row("every other week on Monday and Friday", "FREQ=WEEKLY;INTERVAL=2;BYDAY=MO,FR");
-    row("dienstags, donnerstags", "FREQ=WEEKLY;BYDAY=TU,TH");
-    row("werktags", "FREQ=WEEKLY;BYDAY=MO,TU,WE,TH,FR");
-    row("jeden Monat am letzten Freitag", "FREQ=MONTHLY;BYDAY=-1FR");
-    row("letzter Freitag im Monat", "FREQ=MONTHLY;BYDAY=-1FR");
-    row("every last Friday of the month", "FREQ=MONTHLY;BYDAY=-1FR");
-    row("second Tuesday of every month, 10 times", "FREQ=MONTHLY;COUNT=10;BYDAY=2TU");
-    row("jeden ersten Montag", "FREQ=MONTHLY;BYDAY=1MO");
-    row("jeden Monat am 15.", "FREQ=MONTHLY;BYMONTHDAY=15");
-    row("am 15. jeden Monats", "FREQ=MONTHLY;BYMONTHDAY=15");
-    row("every 2 months on the last day", "FREQ=MONTHLY;INTERVAL=2;BYMONTHDAY=-1");
-    row("14-tägig", "FREQ=WEEKLY;INTERVAL=2");
-    row("jeden Tag, 10-mal", "FREQ=DAILY;COUNT=10");
-    row("jeden dritten Dienstag", "?"); // of the month, or every three weeks
-    row("am 15.", "?");
-    row("jede Woche am 15.", "?");
-    row("alle 0 Wochen", "?");
-    row("jeden Monat am 32.", "?");
-    row("einmal, bis 1.1.2030", "?");
-    row("jede Woche, bis irgendwann", "?");
-    row("ab und zu", "?");
-    row("", "?");
+    const MvRows<QString, QString> row; // words, expected
+    row.read(u"repetition-words"_s);
+    row("", QString(), u"?"_s);
     for (const char *rule : {"FREQ=DAILY;INTERVAL=3;COUNT=4", "FREQ=WEEKLY;INTERVAL=2;UNTIL=20271231;BYDAY=MO,SU",
                              "FREQ=MONTHLY;INTERVAL=3;BYDAY=-2SA", "FREQ=MONTHLY;BYDAY=4WE",
                              "FREQ=MONTHLY;BYMONTHDAY=-1", "FREQ=YEARLY;INTERVAL=5;UNTIL=20401231"})
-        add(rule, MvRecurrenceRule::parse(QString::fromLatin1(rule)).rule.describe(), QString::fromLatin1(rule));
+        row(rule, MvRecurrenceRule::parse(QString::fromLatin1(rule)).rule.describe(), QString::fromLatin1(rule));
 }
 
 void tst_MvEventRepetition::understandsWords()
@@ -232,11 +187,10 @@ void tst_MvEventRepetition::keepsItsFile()
     list.groups()[0].entryText = u"%name (%age)"_s;
 
     QTemporaryDir folder;
-    QFile file(folder.filePath(u"list.xml"_s));
+    const QString file = folder.filePath(u"list.xml"_s);
     const auto readBack = [&file](const QByteArray &bytes) {
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && (file.close(), true)
-                   ? MvCalendarEventFile::read(QFileInfo(file.fileName()))
-                   : MvCalendarEventFile::Content();
+        return MvTestFiles::write(file, bytes) ? MvCalendarEventFile::read(QFileInfo(file))
+                                               : MvCalendarEventFile::Content();
     };
     const QByteArray bytes = MvCalendarEventFile::toBytes(list);
     const MvCalendarEventFile::Content content = readBack(bytes);

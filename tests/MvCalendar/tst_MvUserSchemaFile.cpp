@@ -70,7 +70,7 @@ class tst_MvUserSchemaFile : public MvTest
 private Q_SLOTS:
     void cleanup();
 
-    void twoPrograms_data();
+    void twoPrograms_data() { MvRows<QString, QString, QString, QString>().read(u"schemas-of-two-programs"_s); }
     void twoPrograms();
     void setsAside_data();
     void setsAside();
@@ -83,22 +83,6 @@ private:
 void tst_MvUserSchemaFile::cleanup()
 {
     QDir(Program().file().absolutePath()).removeRecursively();
-}
-
-void tst_MvUserSchemaFile::twoPrograms_data()
-{
-    const MvRows<QString, QString, QString, QString> row; // before, theirs, mine, after
-    row("each adds one", u"1=red"_s, u"1=red 2=blue"_s, u"1=red 3=green"_s, u"1=red 3=green 2=blue"_s);
-    row("each adds the same", u"1=red"_s, u"1=red 2=blue"_s, u"1=red 2=blue"_s, u"1=red 2=blue"_s);
-    row("each adds one under the same id", u""_s, u"1=red"_s, u"1=blue"_s, u"1=red 90=blue"_s);
-    row("removed there", u"1=red 2=blue"_s, u"2=blue"_s, u"1=red 2=blue"_s, u"2=blue"_s);
-    row("removed here", u"1=red 2=blue"_s, u"1=red 2=blue 3=green"_s, u"2=blue"_s, u"2=blue 3=green"_s);
-    row("changed there", u"1=red"_s, u"1=pink"_s, u"1=red"_s, u"1=pink"_s);
-    row("changed here", u"1=red"_s, u"1=red"_s, u"1=pink"_s, u"1=pink"_s);
-    row("changed in both", u"1=red"_s, u"1=pink"_s, u"1=rose"_s, u"1=pink 90=rose"_s);
-    row("changed there, removed here", u"1=red"_s, u"1=pink"_s, u""_s, u"1=pink"_s);
-    row("removed there, changed here", u"1=red 2=blue"_s, u"2=blue"_s, u"1=pink 2=blue"_s, u"1=pink 2=blue"_s);
-    row("a fresh id that is taken", u""_s, u"1=red 90=white"_s, u"1=blue"_s, u"1=red 90=white 91=blue"_s);
 }
 
 void tst_MvUserSchemaFile::twoPrograms()
