@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include "MvProject/MvExportJob.h"
@@ -19,7 +19,7 @@ Q_DECLARE_METATYPE(MvExportResult)
 
 /// Files under a photo's name that are none, or odd ones: from the pool over the frame to paper, nobody waits for them,
 /// nothing else suffers, and what stays empty is named.
-class tst_HostileFotos : public MvTest
+class tst_HostileFotos : public MvFolderTest
 {
     Q_OBJECT
 
@@ -32,28 +32,8 @@ private Q_SLOTS:
     void changesOnTheWay();
 
 private:
-    QString path(const QString &name) const { return m_folder.filePath(name); }
     MvCalendarDocument calendar(int page) const;
-    void put(const QByteArray &content) const;
-
-    QTemporaryDir m_folder;
 };
-
-static QByteArray picture(const QSize &size, const char *format, QImage::Format pixels = QImage::Format_RGB32)
-{
-    QImage image(size, pixels);
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x)
-            image.setPixelColor(x, y, QColor((x * 37 + y * 11) % 256, (x * y) % 256, (x + y * 53) % 256));
-    QBuffer buffer;
-    return image.save(&buffer, format) ? buffer.data() : QByteArray();
-}
-
-void tst_HostileFotos::put(const QByteArray &content) const
-{
-    QFile file(path(u"foto.jpg"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
 
 /// The file in a frame and as the ground of one of two pages, a good photo on the other.
 MvCalendarDocument tst_HostileFotos::calendar(int number) const
@@ -78,17 +58,17 @@ void tst_HostileFotos::wayToPaper_data()
         row(name, content, QString(), size);
     };
     const auto special = [&](const char *name, const QString &place) { row(name, QByteArray(), place, QSize()); };
-    file("one pixel", picture({1, 1}, "png"), {1, 1});
-    file("16 bits", picture({50, 40}, "png", QImage::Format_RGBA64), {50, 40});
-    file("panorama", picture({30000, 4}, "png"), {30000, 4});
-    file("chimney", picture({3, 20000}, "jpeg"), {3, 20000});
+    file("one pixel", MvTestFiles::fotoBytes({1, 1}, "png"), {1, 1});
+    file("16 bits", MvTestFiles::fotoBytes({50, 40}, "png", QImage::Format_RGBA64), {50, 40});
+    file("panorama", MvTestFiles::fotoBytes({30000, 4}, "png"), {30000, 4});
+    file("chimney", MvTestFiles::fotoBytes({3, 20000}, "jpeg"), {3, 20000});
     QFile inks(QStringLiteral(MV_TEST_DATA "/fotos/cmyk.jpg"));
     QVERIFY(inks.open(QIODevice::ReadOnly));
     file("inks of a print shop", inks.readAll(), {32, 24});
-    const QByteArray jpeg = picture({640, 480}, "jpeg");
+    const QByteArray jpeg = MvTestFiles::fotoBytes({640, 480}, "jpeg");
     file("cut off after half", jpeg.first(jpeg.size() / 2));
     file("cut off after its head", jpeg.first(700));
-    file("PNG cut off", picture({300, 200}, "png").first(9000));
+    file("PNG cut off", MvTestFiles::fotoBytes({300, 200}, "png").first(9000));
     file("bomb", QByteArray::fromHex("524946461a000000574542505650384c0d0000002ffebfff0f111111111111111100"));
     QByteArray claiming = jpeg;
     claiming.replace(claiming.indexOf("\xff\xc0") + 5, 4, QByteArray::fromHex("ea60ea60"));
@@ -113,7 +93,7 @@ void tst_HostileFotos::wayToPaper()
     else if (place == u"pipe"_s)
         QCOMPARE(::mkfifo(QFile::encodeName(foto).constData(), 0600), 0);
     else if (place.isEmpty())
-        put(content);
+        put(u"foto.jpg"_s, content);
     else if (place != u"nothing"_s)
         QVERIFY(QFile::link(place, foto));
     const bool isReadable = size.isValid();
@@ -159,8 +139,8 @@ void tst_HostileFotos::changesOnTheWay_data()
 {
     const MvRows<QByteArray, bool> row; // content: null: the file vanishes; isReadable
     row("vanishes", QByteArray(), false);
-    row("is being written", picture({640, 480}, "jpeg").first(2000), false);
-    row("another photo, upright and of another format", picture({40, 90}, "png"), true);
+    row("is being written", MvTestFiles::fotoBytes({640, 480}, "jpeg").first(2000), false);
+    row("another photo, upright and of another format", MvTestFiles::fotoBytes({40, 90}, "png"), true);
 }
 
 /// Between pool and export, and while the page before is exported.
@@ -170,7 +150,7 @@ void tst_HostileFotos::changesOnTheWay()
     const QString foto = path(u"foto.jpg"_s);
     for (const bool isWhileExporting : {false, true}) {
         QFile::remove(foto);
-        put(picture({90, 60}, "jpeg"));
+        put(u"foto.jpg"_s, MvTestFiles::fotoBytes({90, 60}, "jpeg"));
         MvCalendarDocument document = calendar(1);
         MvFotoPool pool;
         pool.add(MvFotoPoolIntake::gather({foto}).items);
@@ -178,7 +158,7 @@ void tst_HostileFotos::changesOnTheWay()
         const auto change = [&, content = content] {
             QVERIFY(QFile::remove(foto));
             if (!content.isNull())
-                put(content);
+                put(u"foto.jpg"_s, content);
         };
         if (!isWhileExporting)
             change();

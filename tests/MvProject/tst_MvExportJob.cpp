@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFreshFolderTest.h"
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
-#include "MvTestFiles.h"
 
 using namespace Qt::StringLiterals;
-using MvTestFiles::contentOf;
 using namespace MvProjectFixture;
 
 Q_DECLARE_METATYPE(MvExportResult)
@@ -32,13 +30,12 @@ QStringList namesOf(const QList<QFileInfo> &files)
 
 } // namespace
 
-class tst_MvExportJob : public MvTest
+class tst_MvExportJob : public MvFreshFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { cleanup(); }
-    void cleanup();
+    void init();
     void writesWhatTheExporterWrites_data();
     void writesWhatTheExporterWrites();
     void cancels_data();
@@ -48,26 +45,22 @@ private Q_SLOTS:
 
 private:
     MvCalendarDocument calendar(int pages) const;
-    QString path(const QString &name) const { return m_folder->filePath(name); }
-    QStringList files() const
-    {
-        return QDir(m_folder->path()).entryList({u"*.pdf"_s, u"k-*"_s, u".mvtmp*"_s}, QDir::Files | QDir::Hidden);
-    }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    const QTemporaryDir m_album;
+    const QString m_foto = m_album.filePath(u"foto.png"_s);
 };
 
-void tst_MvExportJob::cleanup()
+void tst_MvExportJob::init()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
-    QVERIFY(writeFoto(path(u"foto.png"_s), {600, 400}));
+    MvFreshFolderTest::init();
+    QVERIFY(writeFoto(m_foto, {600, 400}));
 }
 
 MvCalendarDocument tst_MvExportJob::calendar(int pages) const
 {
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, pages);
     for (int page = 0; page < pages; ++page)
-        setFoto(calendar, page, MvFotoFrame(path(u"foto.png"_s), MvFotoFrame::Placement(page % 3)));
+        setFoto(calendar, page, MvFotoFrame(m_foto, MvFotoFrame::Placement(page % 3)));
     return calendar;
 }
 
@@ -101,7 +94,7 @@ void tst_MvExportJob::writesWhatTheExporterWrites()
         const MvExportTarget direct(path(u"direkt/"_s + name), MvExportTarget::Pdf::OneOfEachPage);
         QVERIFY(direct.write(document.pageSource(), 72).isOk());
         for (const QFileInfo &file : result.files)
-            QCOMPARE(contentOf(file.filePath()), contentOf(path(u"direkt/"_s + file.fileName())));
+            QCOMPARE(contentOf(file.filePath()), contentOf(u"direkt/"_s + file.fileName()));
     }
 }
 

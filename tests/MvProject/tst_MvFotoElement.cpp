@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFolderTest.h"
 #include "MvProject/MvFotoElement.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include <QPainter>
 
@@ -14,7 +14,7 @@ using namespace MvProjectFixture;
 using Fit = MvFotoElement::Fit;
 
 /// Photos in frames: what of them is seen, and that it is painted so.
-class tst_MvFotoElement : public MvTest
+class tst_MvFotoElement : public MvFolderTest
 {
     Q_OBJECT
 
@@ -30,9 +30,6 @@ private Q_SLOTS:
     void painted();
     void corrected_data();
     void corrected();
-
-private:
-    const QTemporaryDir m_folder;
 };
 
 void tst_MvFotoElement::seenPart_data()
@@ -185,9 +182,8 @@ void tst_MvFotoElement::painted()
 {
     const auto [turns, straightening, rotation, fit, border, colors] =
         MvRows<int, double, double, Fit, double, QStringList>::current();
-    const QString path = m_folder.filePath(u"vier.png"_s);
-    QVERIFY(QFileInfo::exists(path) || writeFoto(path, {600, 400}));
-    MvFotoElement foto(path);
+    QVERIFY(writeFoto(path(u"vier.png"_s), {600, 400}));
+    MvFotoElement foto(path(u"vier.png"_s));
     foto.setQuarterTurns(turns);
     foto.setStraightening(straightening);
     foto.setFit(fit);
@@ -239,13 +235,12 @@ void tst_MvFotoElement::corrected()
 {
     const auto [brightness, contrast, dark, light, keepsEnds] = MvRows<int, int, int, int, bool>::current();
     const QList<int> tones = {0, 70, 180, 255};
-    const QString path = m_folder.filePath(u"stufen.png"_s);
     QImage steps(400, 400, QImage::Format_RGB32);
     QPainter stepPainter(&steps);
     for (int i = 0; i < tones.size(); ++i)
         stepPainter.fillRect(100 * i, 0, 100, 400, QColor(tones[i], tones[i], tones[i]));
-    QVERIFY(stepPainter.end() && steps.save(path));
-    MvFotoElement foto(path);
+    QVERIFY(stepPainter.end() && steps.save(path(u"stufen.png"_s)));
+    MvFotoElement foto(path(u"stufen.png"_s));
     foto.setBrightness(brightness);
     foto.setContrast(contrast);
     for (const double rotation : {0.0, 2.0}) {

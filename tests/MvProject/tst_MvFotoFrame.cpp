@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvEntries.h"
+#include "MvFolderTest.h"
 #include "MvPaint/MvPaintRecorder.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPrintedFoto.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include <QPainter>
 
@@ -20,7 +20,7 @@ using Item = MvPaintRecording::Item;
 using Placement = MvFotoFrame::Placement;
 Q_DECLARE_METATYPE(Placement)
 
-class tst_MvFotoFrame : public MvTest
+class tst_MvFotoFrame : public MvFolderTest
 {
     Q_OBJECT
 
@@ -37,13 +37,12 @@ private Q_SLOTS:
 private:
     static QList<Item> itemsOf(const MvCalendarPage &page, const MvPageFormat &format, unsigned rule);
 
-    const QTemporaryDir m_folder;
     QString m_foto;
 };
 
 void tst_MvFotoFrame::initTestCase()
 {
-    m_foto = m_folder.filePath(u"foto.png"_s);
+    m_foto = path(u"foto.png"_s);
     QVERIFY(writeFoto(m_foto, {300, 200}));
 }
 
@@ -102,16 +101,14 @@ void tst_MvFotoFrame::sharesThePage()
 void tst_MvFotoFrame::missing()
 {
     for (const QByteArray &content : QByteArrayList{"no file", "Liebe Oma,", "\x89PNG\r\n\x1a\n...."}) {
-        const QString path = m_folder.filePath(u"weg %1.jpg"_s.arg(content.size()));
-        QFile file(path);
+        const QString foto = path(u"weg %1.jpg"_s.arg(content.size()));
         if (content != "no file")
-            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        file.close();
+            put(foto, content);
         MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 3);
-        setFoto(calendar, 0, MvFotoFrame(path));
+        setFoto(calendar, 0, MvFotoFrame(foto));
         setFoto(calendar, 1, MvFotoFrame(m_foto));
-        setFoto(calendar, 2, MvFotoFrame(path));
-        QCOMPARE(calendar.missingFotos(), QStringList{path});
+        setFoto(calendar, 2, MvFotoFrame(foto));
+        QCOMPARE(calendar.missingFotos(), QStringList{foto});
 
         const MvCalendarPage page = calendar.pages()[0];
         const QRectF frame = page.fotoFrame().rect(calendar.format());
@@ -130,7 +127,7 @@ void tst_MvFotoFrame::missing()
         QCOMPARE(inFrame(MvRenderingRule::Thumbnail).size(), 1);
         const QStringList onScreen = inFrame(MvRenderingRule::InteractiveScreen);
         QCOMPARE(onScreen.size(), 3);
-        QCOMPARE(onScreen.last(), QFileInfo(path).fileName());
+        QCOMPARE(onScreen.last(), QFileInfo(foto).fileName());
     }
 }
 
@@ -147,12 +144,12 @@ void tst_MvFotoFrame::resolution_data()
 void tst_MvFotoFrame::resolution()
 {
     const auto [paper, share, expected, isMarked] = MvRows<QString, double, double, bool>::current();
-    const QString path = m_folder.filePath(u"gross.png"_s);
-    QVERIFY(QFileInfo::exists(path) || QImage(1600, 1200, QImage::Format_RGB32).save(path));
+    const QString large = path(u"gross.png"_s);
+    QVERIFY(QImage(1600, 1200, QImage::Format_RGB32).save(large));
     MvPageFormat format = MvPageFormat::fromName(paper);
     format.setOrientation(MvPageFormat::Orientation::Landscape);
     format.setBleed(30.0);
-    MvFotoFrame frame(path, Placement::Left);
+    MvFotoFrame frame(large, Placement::Left);
     frame.setShare(share);
     MvCalendarPage page = document(u"MONTH_GRID_CLASSIC"_s, 1).pages()[0];
     page.setFotoFrame(frame);
@@ -171,7 +168,7 @@ void tst_MvFotoFrame::resolution()
 
 void tst_MvFotoFrame::resolutionInCells()
 {
-    const QString small = m_folder.filePath(u"klein.png"_s);
+    const QString small = path(u"klein.png"_s);
     QVERIFY(writeFoto(small, {90, 60}));
     const auto entry = [](const QDate &date, const QString &foto) {
         return MvEntries::entry(u"Oma"_s, date, MvFoto(QFileInfo(foto)));

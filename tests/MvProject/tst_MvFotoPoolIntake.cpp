@@ -1,51 +1,30 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
-#include "MvTest.h"
+#include "MvFolderTest.h"
 
 #include "MvExifFixture.h"
 #include "MvProject/MvFotoPoolIntake.h"
 #include "MvProject/MvFotoRelocation.h"
 #include "MvProjectFixture.h"
+#include "MvTestFiles.h"
 
 #include <sys/stat.h>
 
 using Reason = MvFotoPoolIntake::Reason;
 
-class tst_MvFotoPoolIntake : public MvTest
+class tst_MvFotoPoolIntake : public MvFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase();
-    void init() { QTest::failOnWarning(QRegularExpression(u".?"_qs)); }
     void gathers();
     void besideAWindow();
     void findsAgain();
-
-private:
-    QString path(const QString &name) const { return m_dir.filePath(name); }
-    void put(const QString &name, const QByteArray &content) const
-    {
-        QFileInfo(path(name)).dir().mkpath(u"."_qs);
-        QFile file(path(name));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-    }
-
-    QTemporaryDir m_dir;
 };
-
-static QByteArray picture(const QSize &size, const char *format)
-{
-    QImage image(size, QImage::Format_RGB32);
-    for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x)
-            image.setPixelColor(x, y, QColor((x * 37 + y * 11) % 256, (x * y) % 256, (x + y * 53) % 256));
-    QBuffer buffer;
-    return image.save(&buffer, format) ? buffer.data() : QByteArray();
-}
 
 static QByteArray taken(const QByteArray &time, const QSize &size = {60, 40})
 {
-    return MvExifFixture::inJpeg(picture(size, "jpeg"), MvExifFixture::block(1, time));
+    return MvExifFixture::inJpeg(MvTestFiles::fotoBytes(size, "jpeg"), MvExifFixture::block(1, time));
 }
 
 static QStringList namesOf(const QList<MvFotoPoolItem> &items)
@@ -60,8 +39,8 @@ void tst_MvFotoPoolIntake::initTestCase()
 {
     put(u"fotos/b.jpg"_qs, taken("2026:07:14 15:30:12"));
     put(u"fotos/a.jpg"_qs, taken("2026:08:01 10:00:00"));
-    put(u"fotos/Bild 10.png"_qs, picture({60, 40}, "png"));
-    put(u"fotos/Bild 9.png"_qs, picture({60, 40}, "png"));
+    put(u"fotos/Bild 10.png"_qs, MvTestFiles::fotoBytes({60, 40}, "png"));
+    put(u"fotos/Bild 9.png"_qs, MvTestFiles::fotoBytes({60, 40}, "png"));
     put(u"fotos/.versteckt/c.jpg"_qs, taken("2026:07:14 15:30:12"));
     put(u"fotos/mehr/noch/d.jpg"_qs, taken("2026:07:14 15:30:11"));
     put(u"fotos/Thumbs.db"_qs, "no photo");

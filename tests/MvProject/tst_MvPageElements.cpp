@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvContrast.h"
+#include "MvFolderTest.h"
 #include "MvPaint/MvPaintRecording.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include <QPainter>
 
@@ -16,7 +17,7 @@ using Item = MvPaintRecording::Item;
 using FrameId = MvCalendarDocument::FrameId;
 
 /// Pages of elements: templates, the order of pages, and what is painted of texts and calendaria.
-class tst_MvPageElements : public MvTest
+class tst_MvPageElements : public MvFolderTest
 {
     Q_OBJECT
 
@@ -33,7 +34,7 @@ private Q_SLOTS:
     void texts();
     void textsStayInTheirFrames();
     void severalCalendaria();
-    void veils_data();
+    void veils_data() { MvRows<QString, int, int, bool>().read(u"veils"_s); }
     void veils();
 
 private:
@@ -41,8 +42,6 @@ private:
     static QStringList fotosOf(const MvCalendarPage &page);
     static MvCalendarDocument templated(int months, const MvPageTemplate &pageTemplate);
     static MvPaintRecording recorded(const MvCalendarDocument &calendar, int page, MvPageFindings *findings = nullptr);
-
-    const QTemporaryDir m_folder;
 };
 
 MvPageElement tst_MvPageElements::text(const QString &words, const QRectF &rect)
@@ -397,18 +396,6 @@ void tst_MvPageElements::severalCalendaria()
     QVERIFY(!page.printedMonths().isValid());
 }
 
-void tst_MvPageElements::veils_data()
-{
-    const MvRows<QString, int, int, bool> row; // colors; dark: the photo's tones, in stripes; light; isSeen
-    row("dark on a light sky", u"PAPER_WHITE"_s, 235, 255, false);
-    row("dark on a wood", u"PAPER_WHITE"_s, 10, 60, true);
-    row("dark on stripes", u"PAPER_WHITE"_s, 0, 255, true);
-    row("light on the night", u"NIGHT"_s, 0, 12, false);
-    row("light on snow", u"NIGHT"_s, 240, 255, true);
-    row("light on grey", u"NIGHT"_s, 120, 130, true);
-    row("white words of a white page, on a sky", u""_s, 180, 200, true);
-}
-
 /// Contrast by the definition of the web's rules, over again: 4.5 for all but what a letter covers itself.
 void tst_MvPageElements::veils()
 {
@@ -417,8 +404,8 @@ void tst_MvPageElements::veils()
     for (int y = 0; y < 400; ++y)
         for (int x = 0; x < 400; ++x)
             stripes.setPixelColor(x, y, x / 40 % 2 == 0 ? QColor(dark, dark, dark) : QColor(light, light, light));
-    const QString path = m_folder.filePath(u"%1-%2.png"_s.arg(dark).arg(light));
-    QVERIFY(stripes.save(path));
+    const QString photo = path(u"%1-%2.png"_s.arg(dark).arg(light));
+    QVERIFY(stripes.save(photo));
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 1);
     const bool isWhite = colors.isEmpty();
     calendar.setAppearance(appearance(u"MONTH_GRID_CLASSIC"_s, isWhite ? u"PAPER_WHITE"_s : colors));
@@ -431,21 +418,16 @@ void tst_MvPageElements::veils()
     words.setPoints(40.0);
     MvCalendarPage page = calendar.pages()[0];
     const QRectF frame(200, 200, 1000, 800);
-    page.setElements({{{0, 0, 1400, 1400}, MvFotoElement(path)}, {frame, words}});
+    page.setElements({{{0, 0, 1400, 1400}, MvFotoElement(photo)}, {frame, words}});
     const QList<Item> fills = page.record(calendar.format(), calendar.context()).items(Item::Rect);
     QCOMPARE(fills.size(), isSeen ? 1 : 0);
     if (!isSeen)
         return;
     QVERIFY(frame.contains(fills[0].bounds) && fills[0].bounds.height() < 400.0); // as large as the words
-    const auto luminance = [](double tone) {
-        const double value = tone / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
     const double alpha = fills[0].fill.alphaF();
-    const double own = luminance(qGray(ink.rgb()));
     for (const int tone : {dark, light}) {
-        const double veiled = luminance(tone + (qGray(fills[0].fill.rgb()) - tone) * alpha);
-        QVERIFY((std::max(own, veiled) + 0.05) / (std::min(own, veiled) + 0.05) > 4.4); // greys are rounded
+        const int veiled = qRound(tone + (qGray(fills[0].fill.rgb()) - tone) * alpha);
+        QVERIFY(MvContrast::ratio(ink, QColor(veiled, veiled, veiled)) > 4.4); // greys are rounded
     }
 }
 

@@ -12,38 +12,15 @@ class tst_MvPageFormat : public MvTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsNames_data();
+    void readsNames_data() { MvRows<QString, QSizeF, QString>().read(u"page-formats"_s); }
     void readsNames();
     void rectangles();
     void shapes_data();
     void shapes();
     void binding();
-    void namesFiles_data();
+    void namesFiles_data() { MvRows<QString, int, QString>().read(u"page-file-names"_s); }
     void namesFiles();
 };
-
-void tst_MvPageFormat::readsNames_data()
-{
-    const MvRows<QString, QSizeF, QString> row; // name; size: invalid: the name is not understood; magnitude
-    row("A4", u"A4"_s, QSizeF(2100, 2970), u"a4"_s);
-    row("case and blanks do not matter", u" a0 "_s, QSizeF(8410, 11890), u"a0"_s);
-    row("smallest", u"A6"_s, QSizeF(1050, 1480), u"a6"_s);
-    row("millimetres stay as they are turned", u"300x200"_s, QSizeF(3000, 2000), u"a4"_s);
-    row("decimal comma and point", u"148,5X210.5"_s, QSizeF(1485, 2105), u"a5"_s);
-    row("multiplication sign", u"300 × 300"_s, QSizeF(3000, 3000), u"a3"_s);
-    row("centimetres", u"13x18cm"_s, QSizeF(1300, 1800), u"a5"_s);
-    row("own centimetres", u"15,5 x 15 CM"_s, QSizeF(1550, 1500), u"a5"_s);
-    row("letter", u"LETTER"_s, QSizeF(2159, 2794), u"a4"_s);
-    row("legal", u"Legal"_s, QSizeF(2159, 3556), u"a4"_s);
-    row("panorama", u"Panorama"_s, QSizeF(1485, 4200), u"a4"_s);
-    row("unknown class", u"A7"_s, QSizeF(), QString());
-    row("a class of another row", u"B4"_s, QSizeF(), QString());
-    row("no height", u"300x"_s, QSizeF(), QString());
-    row("three sides", u"300x200x100"_s, QSizeF(), QString());
-    row("nothing", QString(), QSizeF(), QString());
-    row("too small", u"10x200"_s, QSizeF(), QString());
-    row("too large", u"300x3001"_s, QSizeF(), QString());
-}
 
 void tst_MvPageFormat::readsNames()
 {
@@ -125,21 +102,6 @@ void tst_MvPageFormat::binding()
             QVERIFY2(!format.bindingRect().intersects(format.contentRect()), qPrintable(name));
         }
     }
-}
-
-void tst_MvPageFormat::namesFiles_data()
-{
-    const MvRows<QString, int, QString> row; // pattern; months; last: empty: refused
-    row("month", u"out/seite-%m.png"_s, 12, u"out/seite-07.png"_s);
-    row("year and month", u"%y-%m.png"_s, 13, u"2027-08.png"_s);
-    row("page number", u"%n.png"_s, 120, u"120.png"_s);
-    row("one page needs none", u"blatt.png"_s, 1, u"blatt.png"_s);
-    row("percent sign", u"100%%-%n.png"_s, 2, u"100%-02.png"_s);
-    row("the folder's name is left alone", u"50%m/%n.png"_s, 2, u"50%m/02.png"_s);
-    row("none for several pages", u"seite.png"_s, 12, QString());
-    row("months come back", u"seite-%m.png"_s, 13, QString());
-    row("unknown placeholder", u"%n-%d.png"_s, 2, QString());
-    row("lone percent sign", u"%n.%"_s, 2, QString());
 }
 
 void tst_MvPageFormat::namesFiles()

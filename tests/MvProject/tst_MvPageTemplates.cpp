@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvContrast.h"
 #include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarCellColorKey.h"
 #include "MvCore/MvDirectoryConfig.h"
@@ -75,20 +77,6 @@ QString faultOf(const QList<MvTemplateSlot> &places, const MvPageFormat &format)
         }
     }
     return {};
-}
-
-double luminance(const QColor &color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other)
-{
-    const auto [dark, light] = std::minmax({luminance(one), luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
 }
 
 } // namespace
@@ -182,10 +170,8 @@ void tst_MvPageTemplates::veilsReachTheEdges()
 {
     const auto [id, edges] = MvRows<QString, Qt::Edges>::current();
     const QTemporaryDir folder;
-    QImage grey(300, 200, QImage::Format_RGB32);
-    grey.fill(QColor(120, 120, 120));
     const QString path = folder.filePath(u"grey.png"_s);
-    QVERIFY(grey.save(path));
+    QVERIFY(MvTestFiles::writeFoto(path, {300, 200}, QColor(120, 120, 120)));
     MvNewCalendar wanted;
     wanted.themeId = u"PAPER"_s;
     const MvCalendarDocument calendar = wanted.make();
@@ -245,7 +231,7 @@ void tst_MvPageTemplates::themes()
                 const QColor ink = color(Role::textcolor, type, parity);
                 const QColor cell = color(Role::bgcolor, type, parity);
                 const QColor beneath = look.isOpaqueColor(cell) ? cell : ground;
-                QVERIFY2(contrast(ink, beneath) >= 4.5, qPrintable(MvCalendarCellType(type).encodeCSV()));
+                QVERIFY2(MvContrast::ratio(ink, beneath) >= 4.5, qPrintable(MvCalendarCellType(type).encodeCSV()));
             }
         }
         constexpr double onPaper = 0.79; // of a layout's points
@@ -314,10 +300,7 @@ void tst_MvPageTemplates::ownFiles()
 {
     const auto [folder, content, message] = MvRows<QString, QByteArray, QString>::current();
     const QDir own = MvDirectoryConfig::instance().programDataSubDir(folder);
-    QFile file(own.filePath(u"own.xml"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
+    QVERIFY(MvTestFiles::write(own.filePath(u"own.xml"_s), content));
     if (!message.isEmpty())
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(message));
     const bool isThere = folder == u"themes"_s ? MvThemeRegistry().findTheme(u"MINE"_s).isValid()
@@ -326,7 +309,7 @@ void tst_MvPageTemplates::ownFiles()
     const MvPageTemplate shipped = MvPageTemplateRegistry::instance().findTemplate(u"MONTH_ABOVE"_s);
     QCOMPARE(MvPageTemplateRegistry::fotoCount(shipped, MvPageFormat::fromName(u"A4"_s)), 1);
     QVERIFY(shipped.name() != u"X"_s);
-    QVERIFY(file.remove());
+    QVERIFY(QFile::remove(own.filePath(u"own.xml"_s)));
 }
 
 MV_TEST_MAIN(tst_MvPageTemplates)

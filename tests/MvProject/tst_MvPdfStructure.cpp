@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
 #include "MvExifFixture.h"
+#include "MvFreshFolderTest.h"
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvPaint/MvPaintMark.h"
 #include "MvProject/MvPageSource.h"
@@ -8,7 +9,7 @@
 #include "MvProject/MvSheetSettings.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventListSource.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
@@ -23,6 +24,7 @@
 #include <set>
 
 using namespace Qt::StringLiterals;
+using MvTestFiles::outputOf;
 
 namespace {
 
@@ -207,22 +209,13 @@ MvPageSource page(const std::function<void(QPainter &)> &paint)
     return source;
 }
 
-QString outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished() && process.exitCode() == 0 ? QString::fromUtf8(process.readAllStandardOutput())
-                                                                : QString();
-}
-
 } // namespace
 
-class tst_MvPdfStructure : public MvTest
+class tst_MvPdfStructure : public MvFreshFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void everythingIsRead_data();
     void everythingIsRead();
     void daysAreReadInOrder_data();
@@ -236,18 +229,15 @@ private Q_SLOTS:
     void sheetsAreRead();
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
     QString write(const MvPageSource &pages, const MvSheetSettings &sheets = {}) const;
     QString january(const QString &layout) const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QString tst_MvPdfStructure::write(const MvPageSource &pages, const MvSheetSettings &sheets) const
 {
     const QString file = path(u"k.pdf"_s);
     const bool isWritten = MvPdfExporter::write(pages, QFileInfo(file), nullptr, 1, {}, sheets).isOk();
-    return isWritten && outputOf(u"qpdf"_s, {u"--check"_s, file}).contains(u"No syntax"_s) ? file : QString();
+    return isWritten && MvTestFiles::isSoundPdf(file) ? file : QString();
 }
 
 /// With weeks, a photo, on the 12th two texts and a photo, and from the 19th on a bar of three days.
@@ -312,7 +302,7 @@ void tst_MvPdfStructure::daysAreReadInOrder()
 {
     const auto [layout, pattern] = MvRows<QString, QString>::current();
     QStringList words;
-    for (QString line : outputOf(u"pdfinfo"_s, {u"-struct-text"_s, january(layout)}).split(u'\n')) {
+    for (QString line : QString::fromUtf8(outputOf(u"pdfinfo"_s, {u"-struct-text"_s, january(layout)})).split(u'\n')) {
         line = line.remove(u" (block)"_s).remove(u'"').simplified();
         if (!line.isEmpty() && !line.startsWith(u'/'))
             words.append(line.endsWith(u':') ? line.chopped(1) : line);
@@ -323,44 +313,36 @@ void tst_MvPdfStructure::daysAreReadInOrder()
 
 void tst_MvPdfStructure::textsAreWhole_data()
 {
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<QStringList>("lines");
-    QTest::addColumn<QStringList>("wholes");
-    QTest::addColumn<int>("paragraphs");
-    const auto row = [](const char *name, Kind kind, const QStringList &texts, const QStringList &lines,
-                        const QStringList &wholes,
-                        int paragraphs = 0) { QTest::newRow(name) << kind << texts << lines << wholes << paragraphs; };
+    const MvRows<Kind, QStringList, QStringList, QStringList, int> row; // kind, texts, lines, wholes, paragraphs
     row("as painted", Kind::Cell, {u"3"_s, u"Zahnarzt"_s}, {u"Zahnarzt"_s, u"3"_s}, {}, 1);
     row("divided", Kind::Cell, {u"3"_s, u"Elternsprechtag"_s}, {u"3"_s, u"Elternsprech-"_s, u"tag"_s},
         {u"Elternsprechtag"_s}, 1);
     row("on two lines", Kind::Paragraph, {u"Christi Himmelfahrt"_s}, {u"Christi"_s, u"Himmelfahrt"_s},
-        {u"Christi Himmelfahrt"_s}); // the page's heading
+        {u"Christi Himmelfahrt"_s}, 0); // the page's heading
     row("shortened", Kind::Cell, {u"3"_s, u"Oma Gertrud"_s, u"Opa"_s}, {u"3"_s, u"Oma Ger…"_s, u"Opa"_s},
         {u"Oma Gertrud"_s}, 2);
     row("other ends than lines", Kind::Cell, {u"3"_s, u"Oma"_s, u"Opa Hans"_s}, {u"3"_s, u"Oma, Opa"_s, u"Hans"_s},
         {u"Oma, Opa Hans"_s}, 1);
     row("a number in a text", Kind::Cell, {u"3"_s, u"3 Könige"_s}, {u"3 Könige"_s, u"3"_s}, {}, 1);
     row("only one has room", Kind::Cell, {u"3"_s, u"Oma"_s, u"Opa"_s}, {u"3"_s, u"Oma"_s, u"…"_s}, {u"Oma"_s}, 1);
-    row("head of a column", Kind::ColumnHead, {u"Montag"_s}, {u"M"_s}, {u"Montag"_s});
-    row("head of a row", Kind::RowHead, {u"KW 18"_s}, {u"18"_s}, {u"KW 18"_s});
-    row("pieces of a head", Kind::RowHead, {}, {u"Mo"_s, u"3"_s}, {u"Mo 3"_s});
+    row("head of a column", Kind::ColumnHead, {u"Montag"_s}, {u"M"_s}, {u"Montag"_s}, 0);
+    row("head of a row", Kind::RowHead, {u"KW 18"_s}, {u"18"_s}, {u"KW 18"_s}, 0);
+    row("pieces of a head", Kind::RowHead, {}, {u"Mo"_s, u"3"_s}, {u"Mo 3"_s}, 0);
 }
 
 void tst_MvPdfStructure::textsAreWhole()
 {
-    QFETCH(const Kind, kind);
-    QFETCH(const QStringList, texts);
-    QFETCH(const QStringList, lines);
-    const Structure structure(write(page([&](QPainter &painter) {
+    const auto [kind, texts, lines, wholes, paragraphs] =
+        MvRows<Kind, QStringList, QStringList, QStringList, int>::current();
+    const Structure structure(write(page([kind = kind, texts = texts, lines = lines](QPainter &painter) {
         const MvPaintMarking table(painter, Kind::Table);
         const MvPaintMarking mark(painter, kind, 1, 1, texts);
         for (double y = 100; const QString &line : lines)
             paintLine(painter, y += 60, line);
     })));
     QCOMPARE(structure.problems.join(u'\n'), QString());
-    QTEST(structure.texts("/ActualText") + structure.texts("/E"), "wholes");
-    QTEST(int(structure.types.count(u"P"_s)), "paragraphs");
+    QCOMPARE(structure.texts("/ActualText") + structure.texts("/E"), wholes);
+    QCOMPARE(int(structure.types.count(u"P"_s)), paragraphs);
 }
 
 void tst_MvPdfStructure::picturesAreDescribed()
@@ -368,19 +350,15 @@ void tst_MvPdfStructure::picturesAreDescribed()
     MvProjectFixture::writeFoto(path(u"foto.png"_s), {300, 200});
     MvCalendarDocument calendar = MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 1);
     calendar.setHolidayConfig(MvCalendariumHolidayConfig(MvLocale(u"en_GB"_s), {}, FEATURE_NONE));
-    QFile plain(path(u"plain.jpg"_s));
-    QVERIFY(QImage(path(u"foto.png"_s)).save(plain.fileName()) && plain.open(QIODevice::ReadOnly));
-    QFile noted(path(u"noted.jpg"_s));
-    QVERIFY(noted.open(QIODevice::WriteOnly));
-    noted.write(MvExifFixture::inJpeg(plain.readAll(), MvExifFixture::described("Oma im Garten")));
-    noted.close();
+    QVERIFY(QImage(path(u"foto.png"_s)).save(path(u"plain.jpg"_s)));
+    put(u"noted.jpg"_s, MvExifFixture::inJpeg(contentOf(u"plain.jpg"_s), MvExifFixture::described("Oma im Garten")));
     MvFotoElement foto(path(u"foto.png"_s));
     MvFotoElement named = foto;
     named.setCaption(u"Über den Dächern"_s);
     MvCalendarPage page = calendar.pages()[0];
     page.setElements({{QRectF(100, 100, 300, 200), foto},
                       {QRectF(500, 400, 300, 200), named},
-                      {QRectF(900, 700, 300, 200), MvFotoElement(noted.fileName())}});
+                      {QRectF(900, 700, 300, 200), MvFotoElement(path(u"noted.jpg"_s))}});
     calendar.setPage(0, page);
     const Structure structure(write(calendar.pageSource()));
     QCOMPARE(structure.problems.join(u'\n'), QString());
@@ -400,9 +378,9 @@ void tst_MvPdfStructure::promisesWhatItKeeps()
     const auto [text, title, isForEverybody] = MvRows<QString, QString, bool>::current();
     MvPageSource source = page([text = text](QPainter &painter) { paintLine(painter, 200, text); });
     source.title = title;
-    const QString metadata = outputOf(u"pdfinfo"_s, {u"-meta"_s, write(source)});
-    QVERIFY(metadata.contains(u"dc:title"_s));
-    QCOMPARE(metadata.contains(u"pdfua/ns/id/\">1<"_s), isForEverybody);
+    const QByteArray metadata = outputOf(u"pdfinfo"_s, {u"-meta"_s, write(source)});
+    QVERIFY(metadata.contains("dc:title"));
+    QCOMPARE(metadata.contains("pdfua/ns/id/\">1<"), isForEverybody);
 }
 
 void tst_MvPdfStructure::sheetsAreRead_data()
@@ -436,7 +414,7 @@ void tst_MvPdfStructure::sheetsAreRead()
     QCOMPARE(structure.types.count(u"TD"_s), pages.types.count(u"TD"_s));
     QCOMPARE(QSet<QString>(structure.boxes.begin(), structure.boxes.end()).size(),
              sheets.kind == MvSheetSettings::Kind::Several ? 2 : 1); // two places on a sheet
-    QVERIFY(outputOf(u"pdfinfo"_s, {u"-meta"_s, file}).contains(u"pdfua/ns/id/\">1<"_s));
+    QVERIFY(outputOf(u"pdfinfo"_s, {u"-meta"_s, file}).contains("pdfua/ns/id/\">1<"));
 }
 
 MV_TEST_MAIN(tst_MvPdfStructure)

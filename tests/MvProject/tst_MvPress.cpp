@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFreshFolderTest.h"
 #include "MvPaint/MvOutlinePainter.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include <QColorSpace>
@@ -71,15 +71,14 @@ MvPressSettings settings(bool hasMarks)
 
 } // namespace
 
-class tst_MvPress : public MvTest
+class tst_MvPress : public MvFreshFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
-    void profiles_data();
+    void profiles_data() { MvRows<QString, QString>().read(u"press-profiles"_s); }
     void profiles();
-    void knownInks_data();
+    void knownInks_data() { MvRows<QString, QStringList>().read(u"known-inks"_s); }
     void knownInks();
     void plates();
     void marks();
@@ -93,14 +92,12 @@ private Q_SLOTS:
     void sameBytes();
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
     /// On a page of 10 by 8 cm; its own bleed in tenths of a millimetre.
     QString pdf(const Painting &paint, bool hasMarks, double bleed = 0.0);
     QString pdf(const Painting &paint, const MvPressSettings &press, double bleed);
     /// Cyan, magenta, yellow, black as Ghostscript separates them: dark where ink is.
     QList<QImage> separated(const QString &file) const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QList<MvInkUse> m_inks; // of the last file
 };
 
@@ -125,7 +122,7 @@ QString tst_MvPress::pdf(const Painting &paint, const MvPressSettings &press, do
     const QString file = path(u"k.pdf"_s);
     const MvExportResult result = MvPdfExporter::write(source, QFileInfo(file), nullptr, 0, press);
     m_inks = result.inks;
-    return result.isOk() && outputOf(u"qpdf"_s, {u"--check"_s, file}).contains("No syntax") ? file : QString();
+    return result.isOk() && MvTestFiles::isSoundPdf(file) ? file : QString();
 }
 
 QList<QImage> tst_MvPress::separated(const QString &file) const
@@ -138,19 +135,6 @@ QList<QImage> tst_MvPress::separated(const QString &file) const
     return plates;
 }
 
-void tst_MvPress::profiles_data()
-{
-    // file: a name, or one of the files below; said: its printing condition, or a part of what is wrong
-    const MvRows<QString, QString> row;
-    row("by name", u"FOGRA39"_s, u"FOGRA39"_s);
-    row("uncoated", u"fogra29"_s, u"FOGRA29"_s);
-    row("American", u"gracol"_s, u"CGATS TR 006"_s);
-    row("of a screen", u"screen.icc"_s, u"RGB"_s);
-    row("cut off", u"cut.icc"_s, u"cut.icc"_s);
-    row("no profile", u"text.icc"_s, u"text.icc"_s);
-    row("unknown", u"fogra93"_s, u"fogra93"_s);
-}
-
 void tst_MvPress::profiles()
 {
     const auto [file, said] = MvRows<QString, QString>::current();
@@ -160,10 +144,9 @@ void tst_MvPress::profiles()
                               std::pair{u"text.icc"_s, QByteArray(4000, 'x')}};
     QString name = file;
     for (const auto &[known, content] : contents) {
-        QFile made(path(known));
-        QVERIFY(made.open(QIODevice::WriteOnly) && made.write(content) == content.size());
+        put(known, content);
         if (known == file)
-            name = made.fileName();
+            name = path(known);
     }
     const MvPressProfile::Loaded loaded = MvPressProfile::load(name);
     QVERIFY2(loaded.isOk() ? loaded.profile.condition() == said : loaded.error.contains(said),
@@ -172,30 +155,16 @@ void tst_MvPress::profiles()
     QCOMPARE(loaded.isOk(), !file.contains(u'.') && file != u"fogra93"_s);
 }
 
-void tst_MvPress::knownInks_data()
-{
-    // color: what was measured of prints on coated paper (FOGRA39), as if paper was white
-    const MvRows<QColor, QList<int>> row;
-    row("cyan", QColor(0xa3, 0xda, 0xf8), QList<int>{40, 0, 0, 0});
-    row("magenta", QColor(0xf5, 0xb6, 0xd3), QList<int>{0, 40, 0, 0});
-    row("green", QColor(0xa9, 0xd4, 0xb0), QList<int>{40, 0, 40, 0});
-    row("violet", QColor(0xd1, 0xaa, 0xd0), QList<int>{20, 40, 0, 0});
-    row("orange", QColor(0xf6, 0xb0, 0x97), QList<int>{0, 40, 40, 0});
-    row("gray", QColor(0xb4, 0xb3, 0xb3), QList<int>{0, 0, 0, 40});
-    row("black", QColor(Qt::black), QList<int>{0, 0, 0, 100});
-    row("white", QColor(Qt::white), QList<int>{0, 0, 0, 0});
-}
-
 void tst_MvPress::knownInks()
 {
-    const auto [color, inks] = MvRows<QColor, QList<int>>::current();
+    const auto [color, inks] = MvRows<QString, QStringList>::current();
     constexpr int tolerance = 8; // percent
     const QList<QImage> plates =
-        separated(pdf([&, color = color](QPainter &painter) { painter.fillRect(page, color); }, false));
+        separated(pdf([&, color = color](QPainter &painter) { painter.fillRect(page, QColor(color)); }, false));
     for (int ink = 0; ink < 4; ++ink) {
         QVERIFY(!plates[ink].isNull());
         const double found = 100.0 - qGray(plates[ink].pixel(500, 400)) / 2.55;
-        QVERIFY2(std::abs(found - inks[ink]) <= tolerance, qPrintable(u"%1: %2 %"_s.arg(ink).arg(found)));
+        QVERIFY2(std::abs(found - inks[ink].toInt()) <= tolerance, qPrintable(u"%1: %2 %"_s.arg(ink).arg(found)));
     }
 }
 
@@ -407,9 +376,8 @@ void tst_MvPress::sameBytes()
 {
     qputenv("SOURCE_DATE_EPOCH", "1700000000");
     QList<QByteArray> files;
-    for (int time = 0; time < 2; ++time) {
-        files.append(MvTestFiles::contentOf(pdf([](QPainter &painter) { painter.drawImage(page, photo()); }, true)));
-    }
+    for (int time = 0; time < 2; ++time)
+        files.append(contentOf(pdf([](QPainter &painter) { painter.drawImage(page, photo()); }, true)));
     qunsetenv("SOURCE_DATE_EPOCH");
     QVERIFY(!files[0].isEmpty() && files[0] == files[1]);
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFolderTest.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include "MvProject/MvPrintCheck.h"
 #include "MvProjectFixture.h"
@@ -8,7 +8,7 @@
 using Kind = MvPrintFinding::Kind;
 using Severity = MvPrintFinding::Severity;
 
-class tst_MvPrintCheck : public MvTest
+class tst_MvPrintCheck : public MvFolderTest
 {
     Q_OBJECT
 
@@ -16,9 +16,6 @@ private Q_SLOTS:
     void finds_data();
     void finds();
     void plainCalendarsPrintWell();
-
-private:
-    QTemporaryDir m_dir;
 };
 
 void tst_MvPrintCheck::finds_data()
@@ -26,11 +23,10 @@ void tst_MvPrintCheck::finds_data()
     const MvRows<MvPageElement, QString, int> add; // element; kind: empty: prints well; severity
     const auto row = [&](const char *name, const MvPageElement &element, const QString &kind,
                          Severity severity = Severity::Hint) { add(name, element, kind, int(severity)); };
-    const QString path = m_dir.filePath(u"600x400.png"_qs);
-    QVERIFY(MvProjectFixture::writeFoto(path, {600, 400}));
-    QFile broken(m_dir.filePath(u"broken.jpg"_qs));
-    QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("no photo"));
-    const MvFotoElement foto(path);
+    const QString fine = path(u"600x400.png"_qs);
+    QVERIFY(MvProjectFixture::writeFoto(fine, {600, 400}));
+    put(u"broken.jpg"_qs, "no photo");
+    const MvFotoElement foto(fine);
     MvFotoElement zoomed = foto;
     zoomed.setZoom(2.0);
     // 600 pixels on 254 tenths of a millimetre are 600 to the inch
@@ -38,9 +34,8 @@ void tst_MvPrintCheck::finds_data()
     row("150 to the inch", {{300, 300, 1016, 677}, foto}, {});
     row("a little less", {{300, 300, 1026, 684}, foto}, u"coarse-photo"_qs);
     row("very coarse by zooming", {{300, 300, 1016, 677}, zoomed}, u"coarse-photo"_qs, Severity::Strong);
-    row("missing", {{300, 300, 100, 100}, MvFotoElement(m_dir.filePath(u"weg.jpg"_qs))}, u"missing-photo"_qs,
-        Severity::Strong);
-    row("unreadable", {{300, 300, 100, 100}, MvFotoElement(broken.fileName())}, u"unreadable-photo"_qs,
+    row("missing", {{300, 300, 100, 100}, MvFotoElement(path(u"weg.jpg"_qs))}, u"missing-photo"_qs, Severity::Strong);
+    row("unreadable", {{300, 300, 100, 100}, MvFotoElement(path(u"broken.jpg"_qs))}, u"unreadable-photo"_qs,
         Severity::Strong);
     row("empty frame", {{300, 300, 100, 100}, MvFotoElement()}, u"empty-frame"_qs);
     row("text", {{300, 300, 600, 100}, MvTextElement(u"Sommer"_qs)}, {});

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvDirectoryConfig.h"
+#include "MvFolderTest.h"
 #include "MvProject/MvProject.h"
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProject/MvProjectRecovery.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 using namespace Qt::StringLiterals;
@@ -28,39 +28,23 @@ QStringList recoveryFiles()
 
 } // namespace
 
-class tst_MvProjectAutosave : public MvTest
+class tst_MvProjectAutosave : public MvFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { cleanup(); }
-    void cleanup() { MvDirectoryConfig::instance().setProgramDataDir(m_folder.filePath(u"daten"_s)); }
-    void knowsWhetherTheFileIsAnother_data();
+    void cleanup() { MvDirectoryConfig::instance().setProgramDataDir(path(u"daten"_s)); }
+    void knowsWhetherTheFileIsAnother_data() { MvRows<bool, QString, bool>().read(u"recovered-originals"_s); }
     void knowsWhetherTheFileIsAnother();
     void goesWhenNothingIsLost();
     void tellsOfFailures();
-
-private:
-    const QTemporaryDir m_folder;
 };
-
-void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother_data()
-{
-    const MvRows<bool, QString, bool> row; // hasStamp, meanwhile, isAnother
-    row("as it was", true, QString(), false);
-    row("saved meanwhile", true, u"saved"_s, true);
-    row("saved meanwhile, clock set back", true, u"saved before"_s, true);
-    row("removed", true, u"removed"_s, true);
-    row("after a restart of the computer", true, u"device"_s, false);
-    row("as it was, no stamp", false, QString(), false);
-    row("saved meanwhile, no stamp", false, u"saved"_s, true);
-    row("removed, no stamp", false, u"removed"_s, true);
-}
 
 void tst_MvProjectAutosave::knowsWhetherTheFileIsAnother()
 {
     const auto [hasStamp, meanwhile, isAnother] = MvRows<bool, QString, bool>::current();
-    const QFileInfo original(m_folder.filePath(u"original.mvcalendar"_s));
+    const QFileInfo original = file(u"original.mvcalendar"_s);
     MvProject before;
     before.newProject(titled(u"vorher"_s));
     QVERIFY(before.saveAs(original));
@@ -100,7 +84,7 @@ void tst_MvProjectAutosave::goesWhenNothingIsLost()
     QVERIFY(change(u"neu"_s));
     QVERIFY(MvProjectFile::read(autosave->file()).document == project.document());
     QCOMPARE(recoveryFiles().size(), 2); // with its lock
-    QVERIFY(project.saveAs(QFileInfo(m_folder.filePath(u"a.mvcalendar"_s))));
+    QVERIFY(project.saveAs(QFileInfo(path(u"a.mvcalendar"_s))));
     QTRY_COMPARE(recoveryFiles(), QStringList());
 
     QVERIFY(change(u"noch neuer"_s));
@@ -118,9 +102,8 @@ void tst_MvProjectAutosave::goesWhenNothingIsLost()
 
 void tst_MvProjectAutosave::tellsOfFailures()
 {
-    QFile blocker(m_folder.filePath(u"keinordner"_s));
-    QVERIFY(blocker.open(QIODevice::WriteOnly));
-    MvDirectoryConfig::instance().setProgramDataDir(blocker.fileName());
+    put(u"keinordner"_s, {});
+    MvDirectoryConfig::instance().setProgramDataDir(path(u"keinordner"_s));
     MvProject project;
     project.newProject(titled(u"alt"_s));
     MvProjectAutosave autosave(&project);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvFreshFolderTest.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include "MvCalendar/MvCalendarEventFile.h"
@@ -22,7 +22,7 @@ using MvEntries::names;
 using Reach = MvCalendarEventStep::Reach;
 
 /// Each calendar with its own list of entries, and the user's list beside them.
-class tst_MvProjectEntries : public MvTest
+class tst_MvProjectEntries : public MvFreshFolderTest
 {
     Q_OBJECT
 
@@ -44,7 +44,6 @@ private Q_SLOTS:
 
 private:
     static MvCalendarEventRegistry &registry() { return MvCalendarEventRegistry::instance(); }
-    QString path(const QString &name) const { return m_folder->filePath(name); }
     QFileInfo file(const QString &name = u"k.mvcalendar"_s) const { return QFileInfo(path(name)); }
     static MvCalendarDocument document() { return MvProjectFixture::document(u"MONTH_GRID_CLASSIC"_s, 1); }
     static MvCalendarEvent added(const QString &name)
@@ -67,14 +66,12 @@ private:
         return MvCalendarEventFile::read(QFileInfo(path(u"daten/calendarEvents.xml"_s))).events;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<MvProject> m_project;
 };
 
 void tst_MvProjectEntries::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
-    m_folder = std::make_unique<QTemporaryDir>();
+    MvFreshFolderTest::init();
     MvDirectoryConfig::instance().setProgramDataDir(path(u"daten"_s));
     registry().setEvents({});
     m_project = std::make_unique<MvProject>();

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCalendar/MvCalendariumColorSchemaRegistry.h"
 #include "MvCalendar/MvCalendariumLayoutSchemaRegistry.h"
+#include "MvFolderTest.h"
 #include "MvProject/MvPageTemplateRegistry.h"
 #include "MvProject/MvProjectFile.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 using namespace Qt::StringLiterals;
 using namespace MvProjectFixture;
 
-class tst_MvProjectFile : public MvTest
+class tst_MvProjectFile : public MvFolderTest
 {
     Q_OBJECT
 
@@ -30,18 +30,14 @@ private Q_SLOTS:
     void namesTheBackup();
 
 private:
-    QFileInfo file(const QString &name = u"k.mvcalendar"_s) const { return QFileInfo(m_folder.filePath(name)); }
+    QFileInfo file(const QString &name = u"k.mvcalendar"_s) const { return MvFolderTest::file(name); }
     QFileInfo put(const QByteArray &content) const;
     MvCalendarDocument everythingNew();
-
-    QTemporaryDir m_folder;
 };
 
 QFileInfo tst_MvProjectFile::put(const QByteArray &content) const
 {
-    QFile device(file().filePath());
-    if (!device.open(QIODevice::WriteOnly) || device.write(content) != content.size())
-        qFatal("cannot write");
+    MvFolderTest::put(u"k.mvcalendar"_s, content);
     return file();
 }
 
@@ -103,7 +99,7 @@ MvCalendarDocument tst_MvProjectFile::everythingNew()
     format.setSafeMargin(42.0);
     calendar.setFormat(format);
     calendar.setThemeId(u"PAPIER"_s);
-    calendar.setEntriesFile(m_folder.filePath(u"eintraege.xml"_s));
+    calendar.setEntriesFile(path(u"eintraege.xml"_s));
 
     MvFotoElement foto(u"/anderswo/Oma & Opa.jpg"_s);
     foto.setFit(MvFotoElement::Fit::Whole);
@@ -139,7 +135,7 @@ MvCalendarDocument tst_MvProjectFile::everythingNew()
     page.setSpareElements({{{1, 2, 3, 4}, foto, u"photo 9"_s}});
     page.nameTemplate(MvPageTemplateRegistry::instance().templates().value(0));
     MvPageBackground background{QColor(10, 20, 30, 200)};
-    background.setFoto(MvFotoElement(m_folder.filePath(u"grund.jpg"_s)));
+    background.setFoto(MvFotoElement(path(u"grund.jpg"_s)));
     background.setVeil(0.35);
     page.setBackground(background);
     calendar.setPage(1, page);
@@ -159,7 +155,7 @@ MvCalendarDocument tst_MvProjectFile::everythingNew()
     calendar.duplicatePage(1);
     MvFotoPool pool;
     pool.add({u"/anderswo/Oma & Opa.jpg"_s, {4000, 3000}, QDateTime({2026, 4, 5}, {12, 30, 59, 120}), {0.25, 0.75}});
-    pool.add({m_folder.filePath(u"neu.heic"_s), {}, {}, {0.5, 0.5}});
+    pool.add({path(u"neu.heic"_s), {}, {}, {0.5, 0.5}});
     calendar.setFotoPool(pool);
     calendar.setRange({{2027, 1, 1}, {2027, 2, 28}}); // the third page is spare
     return calendar;
@@ -235,7 +231,7 @@ void tst_MvProjectFile::roundTripOfAppearances()
 /// What needs nothing new stays readable for older programs.
 void tst_MvProjectFile::versions()
 {
-    const QDir folder(m_folder.path());
+    const QDir folder(m_folder->path());
     MvCalendarDocument calendar = document(u"DAY_LIST"_s, 2);
     setFoto(calendar, 0, MvFotoFrame(u"/anderswo/Foto.jpg"_s));
     calendar.setRange({{2027, 2, 1}, {2027, 2, 28}});
@@ -257,17 +253,17 @@ void tst_MvProjectFile::writesNothingThatDoesNotOpenAgain()
 
 void tst_MvProjectFile::fotosMoveWithTheirFolder()
 {
-    QVERIFY(QDir(m_folder.path()).mkpath(u"alt/fotos"_s));
+    QVERIFY(QDir(m_folder->path()).mkpath(u"alt/fotos"_s));
     MvCalendarDocument calendar = document(u"MONTH_GRID_CLASSIC"_s, 2);
-    setFoto(calendar, 0, MvFotoFrame(m_folder.filePath(u"alt/fotos/oma.png"_s)));
-    setFoto(calendar, 1, MvFotoFrame(m_folder.filePath(u"neben.png"_s)));
+    setFoto(calendar, 0, MvFotoFrame(path(u"alt/fotos/oma.png"_s)));
+    setFoto(calendar, 1, MvFotoFrame(path(u"neben.png"_s)));
     QCOMPARE(MvProjectFile::write(calendar, file(u"alt/k.mvcalendar"_s)).error, QString());
-    QVERIFY(QDir(m_folder.path()).rename(u"alt"_s, u"neu"_s));
-    QVERIFY(writeFoto(m_folder.filePath(u"neu/fotos/oma.png"_s), {40, 30}));
+    QVERIFY(QDir(m_folder->path()).rename(u"alt"_s, u"neu"_s));
+    QVERIFY(writeFoto(path(u"neu/fotos/oma.png"_s), {40, 30}));
     const MvProjectFile::Content content = MvProjectFile::read(file(u"neu/k.mvcalendar"_s));
-    QCOMPARE(content.document.pages()[0].fotoFrame().path(), m_folder.filePath(u"neu/fotos/oma.png"_s));
+    QCOMPARE(content.document.pages()[0].fotoFrame().path(), path(u"neu/fotos/oma.png"_s));
     // what is missing keeps its path and is told
-    QCOMPARE(content.document.missingFotos(), QStringList{m_folder.filePath(u"neben.png"_s)});
+    QCOMPARE(content.document.missingFotos(), QStringList{path(u"neben.png"_s)});
 }
 
 void tst_MvProjectFile::keepsUnknownSchemas()
@@ -373,9 +369,7 @@ void tst_MvProjectFile::namesTheBackup()
     const QFileInfo twice = file(u"zweimal.mvcalendar"_s);
     QCOMPARE(MvProjectFile::write(calendar, twice).error, QString());
     QCOMPARE(MvProjectFile::write(document(u"DAY_LIST"_s, 2), twice).error, QString());
-    QFile device(twice.filePath());
-    QVERIFY(device.open(QIODevice::WriteOnly) && device.write("<kaputt") > 0);
-    device.close();
+    MvFolderTest::put(twice.fileName(), "<kaputt");
     const QString error = MvProjectFile::read(twice).error;
     QVERIFY2(error.contains(u"zweimal.mvcalendar~"_s), qPrintable(error));
     QVERIFY(MvProjectFile::read(file(u"zweimal.mvcalendar~"_s)).document == calendar);

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvFreshFolderTest.h"
 #include "MvProject/MvPageSource.h"
 #include "MvProject/MvPdfExporter.h"
 #include "MvProject/MvSheetPlan.h"
 #include "MvRows.h"
-#include "MvTest.h"
 #include "MvTestFiles.h"
 
 #include <QPainter>
@@ -36,12 +36,11 @@ MvSheetSettings several(int perSheet, bool isForCutting, bool isTwoSided = false
 
 } // namespace
 
-class tst_MvSheets : public MvTest
+class tst_MvSheets : public MvFreshFolderTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void plans_data();
     void plans();
     void refused();
@@ -51,12 +50,9 @@ private Q_SLOTS:
     void severalInAFile();
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
     /// Pages with a bleed of 3 mm.
     QString pdf(const QSizeF &page, int count, const MvSheetSettings &sheets);
     QImage picture(const QString &file, int page) const;
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 QString tst_MvSheets::pdf(const QSizeF &page, int count, const MvSheetSettings &sheets)
@@ -77,7 +73,7 @@ QString tst_MvSheets::pdf(const QSizeF &page, int count, const MvSheetSettings &
     };
     const QString file = path(sheets.areSheets() ? u"sheets.pdf"_s : u"pages.pdf"_s);
     const MvExportResult result = MvPdfExporter::write(source, QFileInfo(file), nullptr, 1, {}, sheets);
-    return result.isOk() && outputOf(u"qpdf"_s, {u"--check"_s, file}).contains("No syntax") ? file : QString();
+    return result.isOk() && MvTestFiles::isSoundPdf(file) ? file : QString();
 }
 
 QImage tst_MvSheets::picture(const QString &file, int page) const
@@ -218,16 +214,9 @@ void tst_MvSheets::tilesLaidTogether()
 
 void tst_MvSheets::severalInAFile()
 {
-    qputenv("SOURCE_DATE_EPOCH", "1700000000");
     const MvSheetSettings settings = several(2, true, true);
     const QSizeF page(2970, 2100);
-    QList<QByteArray> files;
-    for (int time = 0; time < 2; ++time) {
-        files.append(MvTestFiles::contentOf(pdf(page, 7, settings)));
-    }
-    qunsetenv("SOURCE_DATE_EPOCH");
-    QVERIFY(!files[0].isEmpty() && files[0] == files[1]);
-    const QString file = path(u"sheets.pdf"_s);
+    const QString file = pdf(page, 7, settings);
     const MvSheetPlan plan(settings, page, 7);
     const QImage sheet = picture(file, 0);
     const QString pages = pdf(page, 7, {});

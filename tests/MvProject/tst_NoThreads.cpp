@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvCore/MvBackground.h"
+#include "MvFolderTest.h"
 #include "MvProject/MvExportJob.h"
 #include "MvProject/MvFotoPoolIntake.h"
 #include "MvProject/MvPageSource.h"
@@ -7,7 +8,6 @@
 #include "MvProject/MvProjectAutosave.h"
 #include "MvProjectFixture.h"
 #include "MvRows.h"
-#include "MvTest.h"
 
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvEntries.h"
@@ -38,7 +38,7 @@ extern "C" int pthread_create(pthread_t *thread, const pthread_attr_t *attribute
 
 /// On a computer that has no thread left to give, what is done beside the window is done all the same; pages are
 /// painted with the threads that were kept.
-class tst_NoThreads : public MvTest
+class tst_NoThreads : public MvFolderTest
 {
     Q_OBJECT
 
@@ -52,10 +52,7 @@ private Q_SLOTS:
     void takesFotosAndSaves();
 
 private:
-    QString path(const QString &name) const { return m_folder.filePath(name); }
     MvCalendarDocument calendar() const;
-
-    const QTemporaryDir m_folder;
 };
 
 /// With a photo on the page, and one of a day, which other threads decode elsewhere.

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvContrast.h"
 #include "MvRows.h"
 #include "MvTest.h"
 
@@ -8,8 +9,6 @@
 #include "MvProject/MvThemeRegistry.h"
 
 #include <QPainter>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 using Item = MvPaintRecording::Item;
@@ -38,20 +37,12 @@ namespace {
 
 constexpr double demanded = 4.4; // 4.5, less what a veil is coarser than its samples
 
-double luminance(const QColor &color)
-{
-    const auto linear = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
 double meanLuminance(const QImage &image, const QRect &rect)
 {
     double sum = 0.0;
     for (int y = rect.top(); y <= rect.bottom(); ++y)
         for (int x = rect.left(); x <= rect.right(); ++x)
-            sum += luminance(image.pixelColor(x, y));
+            sum += MvContrast::luminance(image.pixelColor(x, y));
     return sum / (rect.width() * rect.height());
 }
 
@@ -103,8 +94,7 @@ public:
         const QRect pixels = scaled.toAlignedRect() & m_image.rect();
         if (pixels.isEmpty())
             return 21.0;
-        const auto [dark, light] = std::minmax({luminance(text.fill), meanLuminance(m_image, pixels)});
-        return (light + 0.05) / (dark + 0.05);
+        return MvContrast::ratio(MvContrast::luminance(text.fill), meanLuminance(m_image, pixels));
     }
 
 private:
