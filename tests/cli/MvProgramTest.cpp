@@ -21,19 +21,6 @@ MvProgramTest::Call MvProgramTest::run(const QString &arguments, const QMap<QStr
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-void MvProgramTest::write(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-}
-
-QByteArray MvProgramTest::contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QByteArray MvProgramTest::entriesFile(const QByteArray &name, const QByteArray &date)
 {
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<CalendarEvents>\n"

@@ -35,8 +35,8 @@ void tst_FotoCalendars::writeFotos() const
         QVERIFY(image.save(path(name)));
         hue += 80;
     }
-    write(path(u"fotos/liesmich.txt"_s), "no photo");
-    write(path(u"fotos/kaputt.jpg"_s), contentOf(path(u"fotos/a.jpg"_s)).left(200));
+    put(u"fotos/liesmich.txt"_s, "no photo");
+    put(u"fotos/kaputt.jpg"_s, contentOf(u"fotos/a.jpg"_s).left(200));
 }
 
 QList<QImage> tst_FotoCalendars::renderProject(const QString &project, const QMap<QString, QString> &environment) const
@@ -93,13 +93,13 @@ void tst_FotoCalendars::validate()
 {
     const QByteArray paper = "<calendarproject version='1'><paper width='1480' height='2100'/><page month='2027-02'>"
                              "<calendarium layoutschema='DAY_LIST' colorschema='NIGHT'/><content language='de_DE'/>";
-    write(path(u"gut.mvcalendar"_s), paper + "</page></calendarproject>");
+    put(u"gut.mvcalendar"_s, paper + "</page></calendarproject>");
     const Call good = run(u"validate gut.mvcalendar --json"_s);
     QCOMPARE(good.exitCode, 0);
     QCOMPARE(QJsonDocument::fromJson(good.out).array(), QJsonArray());
 
     writeFotos();
-    write(path(u"grob.mvcalendar"_s), paper + "<photo path='fotos/a.jpg' placement='top'/></page></calendarproject>");
+    put(u"grob.mvcalendar"_s, paper + "<photo path='fotos/a.jpg' placement='top'/></page></calendarproject>");
     const Call coarse = run(u"validate --project grob.mvcalendar --json"_s);
     QCOMPARE(coarse.exitCode, 3);
     const QJsonObject finding = QJsonDocument::fromJson(coarse.out)[0].toObject();
@@ -107,8 +107,8 @@ void tst_FotoCalendars::validate()
     QCOMPARE(finding[u"severity"_s].toString(), u"strong"_s);
     QCOMPARE(finding[u"page"_s].toInt(), 1);
     QVERIFY(finding[u"ppi"_s].toInt() > 30 && finding[u"ppi"_s].toInt() < 100); // 320 pixels on 10 to 15 cm
-    const QByteArray whole = contentOf(path(u"fotos/a.jpg"_s));
-    write(path(u"fotos/a.jpg"_s), whole.left(whole.size() / 2)); // its head says nothing of that
+    const QByteArray whole = contentOf(u"fotos/a.jpg"_s);
+    put(u"fotos/a.jpg"_s, whole.left(whole.size() / 2)); // its head says nothing of that
     const Call cut = run(u"render --project grob.mvcalendar --dpi 40 -o g.png --report json"_s);
     QCOMPARE(QJsonDocument::fromJson(cut.out)[u"missingPhotos"_s].toArray(), QJsonArray{path(u"fotos/a.jpg"_s)});
     const QByteArray hints = run(u"render --project grob.mvcalendar --dpi 40 -o g.png"_s).err;
@@ -123,7 +123,7 @@ void tst_FotoCalendars::validate()
 void tst_FotoCalendars::pack()
 {
     writeFotos();
-    write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-01-10").replace("<UUID>", "<Image>fotos/b.png</Image><UUID>"));
+    put(u"e.xml"_s, entriesFile("Gudrun", "1956-01-10").replace("<UUID>", "<Image>fotos/b.png</Image><UUID>"));
     QCOMPARE(run(u"new --photos fotos --from 2027-01 --months 2 --no-cover --no-back --entries e.xml -o k.mvcalendar"_s)
                  .exitCode,
              0);
@@ -155,7 +155,7 @@ void tst_FotoCalendars::ownEntries()
     const QByteArray gudrun = entriesFile("Gudrun", "1956-01-10");
     QVERIFY(QDir(m_folder->path()).mkpath(u"daten/calendarEventFotos"_s) && QDir(m_folder->path()).mkpath(u"k"_s));
     QVERIFY(QFile::copy(path(u"fotos/b.png"_s), path(u"daten/calendarEventFotos/g.png"_s)));
-    write(path(u"daten/calendarEvents.xml"_s), QByteArray(gudrun).replace("<UUID>", "<Image>g.png</Image><UUID>"));
+    put(u"daten/calendarEvents.xml"_s, QByteArray(gudrun).replace("<UUID>", "<Image>g.png</Image><UUID>"));
     const QMap<QString, QString> user{{u"MVCALENDAR_DATA"_s, path(u"daten"_s)}};
     const Call made =
         run(u"new --photos fotos/a.jpg --from 2027-01 --months 1 --no-cover --no-back --my-entries -o k/k.mvcalendar"_s,
@@ -163,10 +163,10 @@ void tst_FotoCalendars::ownEntries()
     QVERIFY2(made.exitCode == 0 && made.err.isEmpty(), made.err.constData());
     const QList<QImage> pages = renderProject(u"k/k.mvcalendar"_s, user);
     QVERIFY(pages.size() == 1 && QDir(path(u"daten/calendarEventFotos"_s)).removeRecursively());
-    write(path(u"daten/calendarEvents.xml"_s), entriesFile("Jemand anders", "1970-01-20"));
+    put(u"daten/calendarEvents.xml"_s, entriesFile("Jemand anders", "1970-01-20"));
     QVERIFY(QDir().rename(path(u"k"_s), path(u"weg"_s)));
     QCOMPARE(renderProject(u"weg/k.mvcalendar"_s, user), pages);
-    write(path(u"e.xml"_s), gudrun); // without her photo
+    put(u"e.xml"_s, gudrun); // without her photo
     for (const QString &option : {u"--my-entries"_s, u"--entries e.xml"_s}) {
         QCOMPARE(run(u"render --dpi 40 -o w.png --project weg/k.mvcalendar "_s + option, user).exitCode, 0);
         QVERIFY(QImage(path(u"w.png"_s)) != pages.first());

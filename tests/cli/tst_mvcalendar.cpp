@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvProgramTest.h"
 #include "MvRows.h"
+#include "MvTestFiles.h"
 
 #include <QImage>
 
@@ -14,7 +15,7 @@ class tst_mvcalendar : public MvProgramTest
 private Q_SLOTS:
     void initTestCase();
 
-    void refuses_data();
+    void refuses_data() { MvRows<QString, int, QStringList>().read(u"refused-calls"_s); }
     void refuses();
     void help();
     void holidays();
@@ -25,14 +26,13 @@ private Q_SLOTS:
     void usersSchemataAreNoDefaults();
     void rendersPdf_data();
     void rendersPdf();
-    void rendersPng();
     void entries();
     void entriesOfOtherPrograms();
     void entriesAreAddedAndRemoved_data();
     void entriesAreAddedAndRemoved();
     void damagedEntries();
     void skippedEntries();
-    void hints_data();
+    void hints_data() { MvRows<QString, QString>().read(u"hints"_s); }
     void hints();
     void reportsTextsWithoutRoom();
     void reportsCoarseFotos();
@@ -71,80 +71,6 @@ QList<QImage> tst_mvcalendar::render(const QString &extraArguments) const
     for (const QByteArray &line : call.outLines())
         pages.append(QImage(path(QString::fromUtf8(line))));
     return call.exitCode == 0 && call.err.isEmpty() ? pages : QList<QImage>();
-}
-
-void tst_mvcalendar::refuses_data()
-{
-    // arguments: blanks part them; words: of the one line on stderr
-    const MvRows<QString, int, QStringList> row;
-    row("no command", QString(), 2, {u"render"_s, u"holidays"_s, u"regions"_s});
-    row("unknown command", u"holiday"_s, 2, {u"„holiday“"_s, u"meinten Sie „holidays“"_s});
-    row("unknown option", u"render --regoin BY -o a.pdf"_s, 2, {u"--regoin"_s, u"meinten Sie „--region“"_s});
-    row("option of another command", u"layouts --year 2027"_s, 2, {u"--year"_s});
-    row("missing value", u"render -o a.pdf --region"_s, 2, {u"--region"_s});
-    row("project and layout", u"render --project k.mvcalendar --layout DAY_LIST -o a.pdf"_s, 2,
-        {u"--layout"_s, u"--project"_s});
-    row("no such project", u"render --project fehlt.mvcalendar -o a.pdf"_s, 1, {u"fehlt.mvcalendar"_s});
-    row("year that is none", u"render --year 20x7 -o a.pdf"_s, 2, {u"20x7"_s, u"1583"_s, u"9999"_s});
-    row("what is a sign elsewhere", u"holidays --year %3"_s, 2, {u"„%3“"_s, u"9999"_s});
-    row("a file twice", u"render --pages 1 -o a-%m.pdf -o ./a-01.pdf"_s, 2, {u"./a-01.pdf"_s, u"zweimal"_s});
-    row("year before the calendar", u"holidays --year 1500"_s, 2, {u"1500"_s, u"1583"_s});
-    row("years the wrong way round", u"holidays --year 2027 --to 2026"_s, 2, {u"2026"_s, u"2027"_s});
-    row("month that is none", u"render --from 2026-13 -o a.pdf"_s, 2, {u"2026-13"_s, u"2026-08"_s});
-    row("no months", u"render --from 2026-08 --months 0 -o a.pdf"_s, 2, {u"--months"_s, u"1 bis 120"_s});
-    row("year and first month", u"render --year 2027 --from 2026-08 -o a.pdf"_s, 2, {u"--year"_s, u"--from"_s});
-    row("unknown country", u"regions --country ZZ"_s, 2, {u"ZZ"_s, u"DE, AT, CH"_s});
-    row("unknown region", u"holidays --region Bayer"_s, 2, {u"Deutschland"_s, u"BY"_s, u"meinten Sie „Bayern“"_s});
-    row("region of another country", u"holidays --country AT --region BY"_s, 2, {u"BY"_s, u"Österreich"_s});
-    row("unknown layout", u"render --layout MONTH_GRID_CLASIC -o a.pdf"_s, 2,
-        {u"MONTH_GRID_LINES"_s, u"meinten Sie „MONTH_GRID_CLASSIC“"_s});
-    row("unknown colours", u"render --colors PAPER_WHIT -o a.pdf"_s, 2, {u"NIGHT"_s, u"meinten Sie „PAPER_WHITE“"_s});
-    row("colours from nowhere", u"colors --save Blau"_s, 2, {u"--from"_s});
-    row("two things at once", u"colors --hide NIGHT --reset"_s, 2, {u"--hide"_s, u"--reset"_s});
-    row("removing what is shipped", u"colors --remove NIGHT"_s, 2, {u"NIGHT"_s, u"--hide"_s});
-    row("hiding what there is not", u"colors --hide NIGT"_s, 2, {u"meinten Sie „NIGHT“"_s});
-    row("a name that is taken", u"colors --save nacht --from k.mvcalendar"_s, 2, {u"„nacht“"_s});
-    row("colours of no file", u"colors --save Blau --from fehlt.xml"_s, 1, {u"fehlt.xml"_s});
-    row("unknown paper", u"render --page A9 -o a.pdf"_s, 2, {u"A9"_s, u"A0, A1"_s});
-    row("upright and across", u"render --landscape --portrait -o a.pdf"_s, 2, {u"--portrait"_s});
-    row("too much bleed", u"render --bleed 21 -o a.pdf"_s, 2, {u"21"_s, u"20"_s});
-    row("too few dots", u"render --dpi 5 -o a.png"_s, 2, {u"10 bis 1200"_s});
-    row("entry without a date", u"entries add Oma"_s, 2, {u"Datum"_s});
-    row("day that is none", u"entries add Oma 30.02.2027"_s, 2, {u"30.02.2027"_s});
-    row("repetition that may mean two things", u"entries add Oma 1.2.2027 --repeat=dienstags-und"_s, 2,
-        {u"„dienstags-und“"_s, u"alle 2 Wochen"_s});
-    row("weekly without a year", u"entries add Oma 1.2. --repeat wöchentlich"_s, 2, {u"Jahr"_s});
-    row("until before it begins", u"entries add Oma 1.2.2027 --until 1.1.2027"_s, 2, {u"--until"_s});
-    row("once, until", u"entries add Oma 1.2.2027 --repeat einmal --until 1.3.2027"_s, 2, {u"--until"_s});
-    row("photo that is none", u"entries add Oma 1.2.2027 --photo fehlt.png"_s, 1, {u"fehlt.png"_s});
-    row("removing what is not there", u"entries remove Oma --into fehlt.xml"_s, 1, {u"„Oma“"_s});
-    row("group of a list", u"entries list --group Verein"_s, 2, {u"--group"_s});
-    row("unknown action", u"entries exprot"_s, 2, {u"meinten Sie „export“"_s});
-    row("no output", u"render --year 2027"_s, 2, {u"-o"_s, u".pdf"_s});
-    row("suffix", u"render -o a.docx"_s, 2, {u"a.docx"_s, u".jpg, .tif oder .svg"_s});
-    row("one name for twelve pictures", u"render -o a.png"_s, 2, {u"a.png"_s, u"%m"_s});
-    row("unknown placeholder", u"render -o %q.png"_s, 2, {u"%q.png"_s, u"%m"_s});
-    row("second target is wrong", u"render -o a.pdf -o b.txt"_s, 2, {u"b.txt"_s});
-    row("unknown format", u"holidays --format cvs"_s, 2, {u"text, csv, json"_s, u"meinten Sie „csv“"_s});
-    row("folder that is not there", u"render -o nowhere/a.pdf"_s, 1, {u"nowhere"_s});
-    row("folder that is a file", u"render -o /proc/version/a.pdf"_s, 1, {u"/proc/version"_s});
-    row("folder that takes nothing", u"render -o /proc/a.pdf"_s, 1, {u"/proc/a.pdf"_s});
-    row("entries that are not there", u"render --entries gone.xml -o a.pdf"_s, 1, {u"gone.xml"_s});
-    row("theme that is none", u"new --theme PAPIR -o a.mvcalendar"_s, 2, {u"GALLERY"_s, u"meinten Sie „PAPER“"_s});
-    row("photos that are not there", u"render --photos nowhere -o a.pdf"_s, 1, {u"nowhere"_s});
-    row("theme and layout", u"render --theme PAPER --layout DAY_LIST -o a.pdf"_s, 2, {u"--layout"_s, u"--theme"_s});
-    row("project and photos", u"render --project k.mvcalendar --photos . -o a.pdf"_s, 2, {u"--photos"_s});
-    row("project under another suffix", u"new --photos . -o a.xml"_s, 2, {u"-o"_s, u".mvcalendar"_s});
-    row("new calendar in no folder", u"new -o nowhere/a.mvcalendar"_s, 1, {u"nowhere"_s});
-    row("page that there is not", u"render --year 2027 --pages 2-13 -o a.pdf"_s, 2, {u"„2-13“"_s, u"12"_s});
-    row("cover that there is not", u"render --year 2027 --pages 1,cover -o a.pdf"_s, 2, {u"„cover“"_s});
-    row("binding at no edge", u"render --binding left -o a.pdf"_s, 2, {u"none, top, side"_s});
-    row("nothing to pack", u"pack -o a.zip"_s, 2, {u"pack DATEI"_s});
-    row("nowhere to pack to", u"pack k.mvcalendar"_s, 2, {u"-o"_s});
-    row("one project too many", u"pack a.mvcalendar b.mvcalendar -o c"_s, 2, {u"„b.mvcalendar“"_s});
-    row("no project to check", u"validate fehlt.mvcalendar"_s, 1, {u"fehlt.mvcalendar"_s});
-    row("two forms of a list", u"themes --json --format text"_s, 2, {u"--json"_s, u"--format"_s});
-    row("both kinds of entries", u"render --entries a.xml --my-entries -o a.pdf"_s, 2, {u"--my-entries"_s});
 }
 
 void tst_mvcalendar::refuses()
@@ -245,14 +171,14 @@ void tst_mvcalendar::plainCallsSayTheSame()
         QList<QByteArray> said;
         for (bool isPlain : {true, false}) {
             if (!isPlain)
-                write(m_userFolder.filePath(u"000-user-calendar-layout.xml"_s), "<calendarlayout/>");
+                put(m_userFolder.filePath(u"000-user-calendar-layout.xml"_s), "<calendarlayout/>");
             for (const QString &call : {u"layouts"_s, u"layouts --json"_s})
                 said.append(run(call, environment).out);
         }
         QCOMPARE(said.mid(0, 2), said.mid(2));
         forgetUserSchemata();
     }
-    write(path(u"wrong.conf"_s), "[nothing]\n");
+    put(u"wrong.conf"_s, "[nothing]\n");
     const QMap<QString, QString> wrong{{u"MVCALENDAR_CONFIG"_s, u"wrong.conf"_s}};
     const Call plain = run(u"regions"_s, wrong);
     QVERIFY(plain.exitCode == 2 && plain.err.contains("render, batch"));
@@ -263,10 +189,10 @@ void tst_mvcalendar::plainCallsSayTheSame()
 void tst_mvcalendar::colors()
 {
     const auto tidy = qScopeGuard([this] { forgetUserSchemata(); });
-    write(path(u"k.mvcalendar"_s),
-          "<calendarproject version='1'><page month='2027-02'><calendarium layoutschema='DAY_LIST' font=''>"
-          "<colorschema><celldefault bgcolor='#ffeedd'/></colorschema></calendarium><content language='de_DE'/></page>"
-          "</calendarproject>");
+    put(u"k.mvcalendar"_s,
+        "<calendarproject version='1'><page month='2027-02'><calendarium layoutschema='DAY_LIST' font=''>"
+        "<colorschema><celldefault bgcolor='#ffeedd'/></colorschema></calendarium><content language='de_DE'/></page>"
+        "</calendarproject>");
     const auto colors = [this](const QString &arguments) { return run(u"colors "_s + arguments); };
     const QByteArray kept = colors(u"--save Sand --from k.mvcalendar"_s).out;
     QVERIFY2(QRegularExpression(u"^USER_\\d+  Sand\n$"_s).match(QString::fromUtf8(kept)).hasMatch(), kept.constData());
@@ -290,16 +216,16 @@ void tst_mvcalendar::usersSchemataAreNoDefaults()
     const auto tidy = qScopeGuard([this] { forgetUserSchemata(); });
     const auto page = [this](const QString &options) {
         const Call call = run(u"render --from 2027-03 --months 1 -o p.svg "_s + options);
-        return call.exitCode == 0 ? contentOf(path(u"p.svg"_s)) : call.err;
+        return call.exitCode == 0 ? contentOf(u"p.svg"_s) : call.err;
     };
     const QString shipped = u"--colors Nacht --layout Tagesliste"_s;
     const QByteArray plain = page({});
     const QByteArray named = page(shipped);
-    write(m_userFolder.filePath(u"000-user-calendar-schema.xml"_s),
-          "<s><calendararea colorschema='USER_1' name='Nacht'><celldefault bgcolor='#ff0000'/></calendararea>"
-          "<calendararea colorschema='PAPER_WHITE'><celldefault bgcolor='#00ff00'/></calendararea></s>");
-    write(m_userFolder.filePath(u"000-user-calendar-layout.xml"_s),
-          "<l><calendararea layoutschema='USER_1' name='Tagesliste' type='CALENDAR_YEAR'/></l>");
+    put(m_userFolder.filePath(u"000-user-calendar-schema.xml"_s),
+        "<s><calendararea colorschema='USER_1' name='Nacht'><celldefault bgcolor='#ff0000'/></calendararea>"
+        "<calendararea colorschema='PAPER_WHITE'><celldefault bgcolor='#00ff00'/></calendararea></s>");
+    put(m_userFolder.filePath(u"000-user-calendar-layout.xml"_s),
+        "<l><calendararea layoutschema='USER_1' name='Tagesliste' type='CALENDAR_YEAR'/></l>");
     QCOMPARE(page({}), plain);
     QCOMPARE(page(shipped), named);
     QVERIFY(page(u"--colors user_1"_s) != plain);
@@ -337,24 +263,12 @@ void tst_mvcalendar::rendersPdf()
     QVERIFY(plain.contains("/Lang (" + language + ')'));
 }
 
-void tst_mvcalendar::rendersPng()
-{
-    const Call call = run(u"render --from 2026-12 --months 2 -o s-%y-%m.png -o k-%m.pdf --dpi 127"_s);
-    QCOMPARE(call.err, QByteArray());
-    QCOMPARE(call.out, QByteArray("s-2026-12.png\ns-2027-01.png\nk-12.pdf\nk-01.pdf\n"));
-    QCOMPARE(files(), (QStringList{u"k-01.pdf"_s, u"k-12.pdf"_s, u"s-2026-12.png"_s, u"s-2027-01.png"_s}));
-    const QImage december(path(u"s-2026-12.png"_s));
-    QCOMPARE(december.size(), QSize(1485, 1050)); // 5 pixels per millimetre
-    QCOMPARE(december.dotsPerMeterX(), 5000);
-    QVERIFY(december != QImage(path(u"s-2027-01.png"_s)));
-}
-
 void tst_mvcalendar::entries()
 {
     const QString own = m_userFolder.filePath(u"calendarEvents.xml"_s);
     const QByteArray ownContent = entriesFile("Oma Erna", "1950-03-10");
-    write(own, ownContent);
-    write(path(u"other.xml"_s), entriesFile("Klaus", "1980-02-03"));
+    put(own, ownContent);
+    put(u"other.xml"_s, entriesFile("Klaus", "1980-02-03"));
 
     const QList<QImage> blank = render();
     const QList<QImage> mine = render(u"--my-entries"_s);
@@ -368,7 +282,7 @@ void tst_mvcalendar::entries()
     while (written.hasNext())
         QCOMPARE(written.next(), own);
 
-    write(path(u"none.xml"_s), "<CalendarEvents/>");
+    put(u"none.xml"_s, "<CalendarEvents/>");
     const Call call = run(u"render --from 2027-03 --months 1 --dpi 60 --entries none.xml -o p.png"_s);
     QCOMPARE(call.exitCode, 0);
     QVERIFY2(call.err.contains("none.xml: keine Einträge") && call.err.count('\n') == 1, call.err.constData());
@@ -379,7 +293,7 @@ void tst_mvcalendar::entries()
 /// By content, whatever the file is called, and from standard input.
 void tst_mvcalendar::entriesOfOtherPrograms()
 {
-    write(path(u"e.xml"_s), entriesFile("Klaus", "1980-02-03"));
+    put(u"e.xml"_s, entriesFile("Klaus", "1980-02-03"));
     const QList<QImage> expected = render(u"--entries e.xml"_s);
     const Call exported = run(u"entries export e.xml --format ics"_s);
     QCOMPARE(exported.exitCode, 0);
@@ -388,7 +302,7 @@ void tst_mvcalendar::entriesOfOtherPrograms()
         {"csv", "Name;Geburtstag\nKlaus;03.02.1980\nA;\n"},
         {"vcf", "BEGIN:VCARD\nVERSION:4.0\nFN:Klaus\nBDAY:19800203\nEND:VCARD\n"}};
     for (const auto &[name, content] : files) {
-        write(path(u"einträge"_s), content);
+        put(u"einträge"_s, content);
         const QString page = u"render --from 2027-02 --months 1 --dpi 60 -o p.png --entries "_s;
         for (const QString &place : {u"einträge"_s, u"-"_s}) {
             const Call call = run(page + place, {}, 0, place == u"-" ? content : QByteArray());
@@ -401,7 +315,7 @@ void tst_mvcalendar::entriesOfOtherPrograms()
         QCOMPARE(entry.value(u"date"_s).toString(), u"1980-02-03"_s);
         QVERIFY(entry.value(u"end"_s).isNull() && entry.value(u"days"_s).toInt() == 1);
     }
-    write(path(u"k.ics"_s), exported.out);
+    put(u"k.ics"_s, exported.out);
     QCOMPARE(run(u"new --entries k.ics --from 2027-02 --months 1 --no-cover --no-back -o k.mvcalendar"_s).exitCode, 0);
     QVERIFY(QFile::remove(path(u"k.ics"_s)));
     const QByteArray uid = exported.out.mid(exported.out.indexOf("UID:"), 40);
@@ -430,18 +344,15 @@ void tst_mvcalendar::entriesAreAddedAndRemoved()
 {
     const auto [into] = MvRows<QString>::current();
     QVERIFY(QDir().mkpath(path(u"k"_s)));
-    write(path(u"leer.csv"_s), "Name;Datum\n");
+    put(u"leer.csv"_s, "Name;Datum\n");
     QCOMPARE(run(u"new --entries leer.csv --from 2027-02 --months 1 --no-cover --no-back -o k/k.mvcalendar"_s).exitCode,
              0);
-    QImage foto(40, 30, QImage::Format_RGB32);
-    foto.fill(Qt::red);
-    QVERIFY(foto.save(path(u"rot.png"_s)));
+    QVERIFY(MvTestFiles::writeFoto(path(u"rot.png"_s), {40, 30}, Qt::red));
     const auto json = [&, into = into] {
         return QJsonDocument::fromJson(run(u"entries list --json "_s + into.section(u' ', 2)).out).array();
     };
     const Call noList = run(u"entries add Oma 17.05.1941 --into leer.csv"_s);
-    QVERIFY(noList.exitCode == 1 && noList.err.contains("leer.csv") &&
-            contentOf(path(u"leer.csv"_s)).startsWith("Name"));
+    QVERIFY(noList.exitCode == 1 && noList.err.contains("leer.csv") && contentOf(u"leer.csv"_s).startsWith("Name"));
     const Call added = run(u"entries add Oma 17.05.1941 --group Familie --group=Nachbarn --photo rot.png"_s + into);
     QVERIFY2(added.exitCode == 0, added.err.constData());
     const Call again = run(u"entries add Oma 17.5.1941 --group Familie --group=Nachbarn"_s + into);
@@ -479,7 +390,7 @@ void tst_mvcalendar::damagedEntries()
                                          {QByteArray(), u"bad.xml: Die Datei ist leer"_s},
                                          {QByteArray("a;b\n1;2\n"), u"bad.xml: Die Tabelle hat keine Spalte"_s},
                                          {QByteArray("<html/>"), u"bad.xml: Das ist keine Liste"_s}}) {
-        write(path(u"bad.xml"_s), content);
+        put(u"bad.xml"_s, content);
         const Call call = run(u"render --entries bad.xml -o k.pdf"_s);
         QCOMPARE(call.exitCode, 1);
         QCOMPARE(call.err.count('\n'), 1);
@@ -487,8 +398,8 @@ void tst_mvcalendar::damagedEntries()
         QCOMPARE(files(), QStringList{u"bad.xml"_s});
 
         const QString own = m_userFolder.filePath(u"calendarEvents.xml"_s);
-        write(own, content);
-        write(own + u'~', entriesFile("Klaus", "1980-02-03"));
+        put(own, content);
+        put(own + u'~', entriesFile("Klaus", "1980-02-03"));
         const Call mine = run(u"render --my-entries -o k.pdf"_s);
         QCOMPARE(mine.exitCode, 1);
         const QString lastLine = QString::fromUtf8(mine.err.trimmed().split('\n').last());
@@ -506,7 +417,7 @@ void tst_mvcalendar::skippedEntries()
     content.replace("</DateTime>", "</DateTime><Image>/etc/hostname</Image>"); // a photo that is not opened
     content.replace("</CalendarEvents>", second.mid(second.indexOf("  <CalendarEvent>")));
     for (const auto &[file, option] : {std::pair(path(u"e.xml"_s), u"--entries e.xml"_s), {own, u"--my-entries"_s}}) {
-        write(file, content);
+        put(file, content);
         const QString arguments = u"render --months 1 -o k.pdf "_s + option;
         const Call call = run(arguments);
         QCOMPARE(call.exitCode, 0);
@@ -524,27 +435,10 @@ void tst_mvcalendar::skippedEntries()
     QVERIFY(QFile::remove(own));
 }
 
-void tst_mvcalendar::hints_data()
-{
-    const MvRows<QString, QString> add; // arguments; hint: after the file's name; none when empty
-    const auto row = [&](const char *name, const QString &arguments, const QString &hint = {}) {
-        add(name, arguments, hint);
-    };
-    row("vacations without a region", u"--vacations"_s, u"ohne --region keine Schulferien: .*--country DE“.*"_s);
-    row("vacations of a country without any", u"--vacations --country FR"_s, u"Ferien FR: keine bekannt"_s);
-    row("vacations of a country without regions", u"--vacations --country LU --year 2025"_s);
-    row("vacations beyond what is known", u"--vacations --region BY --year 2060"_s, u"Ferien BY bis 20\\d\\d-\\d\\d"_s);
-    row("nobody asked for vacations", u"--year 2060"_s);
-    row("a font that is not there", u"--font GibtsnichtSans"_s, u"Schrift nicht installiert.*: GibtsnichtSans"_s);
-    row("29 February in a common year", u"--entries e.xml --from 2027-02"_s, u"29\\. Februar .*: Gudrun"_s);
-    row("a year's page has it, months after its first",
-        u"--entries e.xml --from 2027-05 --layout YEAR_PLANNER --page A2"_s);
-}
-
 void tst_mvcalendar::hints()
 {
     const auto [arguments, hint] = MvRows<QString, QString>::current();
-    write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-02-29"));
+    put(u"e.xml"_s, entriesFile("Gudrun", "1956-02-29"));
     QString range = arguments.contains(u"--from"_s) ? u"--months 1"_s : u"--months 1 --from 2027-03"_s;
     if (arguments.contains(u"--year"_s))
         range.clear();
@@ -557,10 +451,10 @@ void tst_mvcalendar::hints()
 void tst_mvcalendar::reportsCoarseFotos()
 {
     QVERIFY(QImage(900, 700, QImage::Format_RGB32).save(path(u"grob.png"_s)));
-    write(path(u"k.mvcalendar"_s),
-          "<calendarproject version='1'><paper width='1480' height='2100' bleed='0'/><page month='2027-02'>"
-          "<calendarium layoutschema='MONTH_GRID_CLASSIC' colorschema='NIGHT'/><content language='de_DE'/>"
-          "<photo path='grob.png' placement='top' share='0.5'/></page></calendarproject>");
+    put(u"k.mvcalendar"_s,
+        "<calendarproject version='1'><paper width='1480' height='2100' bleed='0'/><page month='2027-02'>"
+        "<calendarium layoutschema='MONTH_GRID_CLASSIC' colorschema='NIGHT'/><content language='de_DE'/>"
+        "<photo path='grob.png' placement='top' share='0.5'/></page></calendarproject>");
     const QString arguments = u"render --project k.mvcalendar -o k.pdf"_s;
     const QString err = QString::fromUtf8(run(arguments).err); // 148 mm are 5.83 inches: 154 pixels each
     QVERIFY2(err.startsWith(u"mvcalendar: k.mvcalendar: 1 Foto "_s) && err.count(u'\n') == 1, qPrintable(err));
@@ -578,7 +472,7 @@ void tst_mvcalendar::reportsCoarseFotos()
 void tst_mvcalendar::reportsTextsWithoutRoom()
 {
     const QByteArray text = QByteArray("Donaudampfschifffahrtsgesellschaftsjubiläum ").repeated(12).trimmed();
-    write(path(u"e.xml"_s), entriesFile(text, "1956-03-10"));
+    put(u"e.xml"_s, entriesFile(text, "1956-03-10"));
     const QString arguments = u"render --from 2027-02 --months 2 --page A5 --entries e.xml -o k.pdf"_s;
     const Call silent = run(arguments);
     QVERIFY2(silent.err.contains("10.3.2027"), silent.err.constData());
@@ -604,12 +498,12 @@ void tst_mvcalendar::reportsTextsWithoutRoom()
 
 void tst_mvcalendar::project()
 {
-    write(path(u"k.mvcalendar"_s),
-          "<calendarproject version='1' title='Familie'><paper width='1480' height='2100' bleed='30'/>"
-          "<page month='2027-02'><calendarium layoutschema='DAY_LIST' colorschema='NIGHT'/>"
-          "<content language='de_DE' features='holidays'/><photo path='fehlt.jpg' placement='top'/></page>"
-          "<page month='2027-03'><calendarium layoutschema='USER_9' colorschema='NIGHT'/>"
-          "<content language='de_DE' features='holidays'/></page></calendarproject>");
+    put(u"k.mvcalendar"_s,
+        "<calendarproject version='1' title='Familie'><paper width='1480' height='2100' bleed='30'/>"
+        "<page month='2027-02'><calendarium layoutschema='DAY_LIST' colorschema='NIGHT'/>"
+        "<content language='de_DE' features='holidays'/><photo path='fehlt.jpg' placement='top'/></page>"
+        "<page month='2027-03'><calendarium layoutschema='USER_9' colorschema='NIGHT'/>"
+        "<content language='de_DE' features='holidays'/></page></calendarproject>");
     const Call call = run(u"render --project k.mvcalendar --dpi 60 -o s-%m.png"_s);
     QCOMPARE(call.exitCode, 0);
     QCOMPARE(call.out, QByteArray("s-02.png\ns-03.png\n"));
@@ -619,7 +513,7 @@ void tst_mvcalendar::project()
     const QJsonArray missing = QJsonDocument::fromJson(report.out).object().value(u"missingPhotos"_s).toArray();
     QCOMPARE(missing, QJsonArray{path(u"fehlt.jpg"_s)});
 
-    write(path(u"e.xml"_s), entriesFile("Gudrun", "1956-03-10"));
+    put(u"e.xml"_s, entriesFile("Gudrun", "1956-03-10"));
     const Call entries = run(u"render --project k.mvcalendar --entries e.xml --dpi 60 -o e-%m.png"_s);
     QCOMPARE(entries.exitCode, 0);
     QCOMPARE(QImage(path(u"e-02.png"_s)), QImage(path(u"s-02.png"_s)));
@@ -648,7 +542,7 @@ void tst_mvcalendar::littleMemory()
     rlim_t enough = 64;
     while (enough < 4096 && run(page, oneArena, enough).exitCode != 0)
         enough += 16;
-    write(path(u"large.xml"_s), entriesFile("Eva", "1990-01-14") + "<!--" + QByteArray(60 << 20, ' ') + "-->");
+    put(u"large.xml"_s, entriesFile("Eva", "1990-01-14") + "<!--" + QByteArray(60 << 20, ' ') + "-->");
     QVERIFY(QFile::remove(path(u"p.pdf"_s)));
     const Call call = run(page + u" --entries large.xml"_s, oneArena, enough + 16);
     QCOMPARE(call.exitCode, 1);
@@ -710,16 +604,15 @@ void tst_mvcalendar::printsTheSameInEveryLanguage()
 // a computer with a Lato of its own that is none, and no other font: what is shipped comes first
 void tst_mvcalendar::printsTheSameWithOtherFonts()
 {
-    write(path(u"fonts.conf"_s),
-          "<fontconfig><dir>" MV_TEST_DATA "</dir><cachedir>cache</cachedir><match target='scan'>"
-          "<edit name='family' mode='assign'><string>Lato</string></edit></match></fontconfig>");
+    put(u"fonts.conf"_s, "<fontconfig><dir>" MV_TEST_DATA "</dir><cachedir>cache</cachedir><match target='scan'>"
+                         "<edit name='family' mode='assign'><string>Lato</string></edit></match></fontconfig>");
     for (const QString &layout : {u"MONTH_GRID_CLASSIC"_s, u"MONTH_GRID_SERIF"_s, u"MONTH_ONLY_SERIF"_s}) {
         QByteArrayList pages;
         for (const QMap<QString, QString> &fonts :
              {{}, QMap<QString, QString>{{u"FONTCONFIG_FILE"_s, path(u"fonts.conf"_s)}}}) {
             const Call call = run(u"render --from 2027-03 --months 1 -o p.svg --layout "_s + layout, fonts);
             QCOMPARE(call.err, "");
-            pages.append(contentOf(path(u"p.svg"_s)));
+            pages.append(contentOf(u"p.svg"_s));
         }
         QVERIFY2(pages.first() == pages.last(), qPrintable(layout));
     }

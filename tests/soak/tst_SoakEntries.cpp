@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRows.h"
 #include "MvTest.h"
+#include "MvTestFiles.h"
 
 #include "MvEntryHistory.h"
 
@@ -135,10 +136,8 @@ void tst_SoakEntries::programsShareAFile()
     const int edits = qEnvironmentVariableIsSet("MV_NIGHTLY") ? 400 : 50;
     const QTemporaryDir dir;
     MvEntryHistory history;
-    QFile file(dir.filePath(u"calendarEvents.xml"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(listWithoutUuids(history));
-    file.close();
+    const QString file = dir.filePath(u"calendarEvents.xml"_s);
+    QVERIFY(MvTestFiles::write(file, listWithoutUuids(history)));
 
     QRandomGenerator random(quint32(programs * 10 + areKilled));
     std::vector<std::unique_ptr<QProcess>> running;
@@ -173,7 +172,7 @@ void tst_SoakEntries::programsShareAFile()
     }
     for (int number = 1; number <= programs; ++number)
         noteJournal(history, number, running[size_t(number - 1)]->readAllStandardOutput());
-    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file.fileName()));
+    const MvCalendarEventFile::Content content = MvCalendarEventFile::read(QFileInfo(file));
     QCOMPARE(content.error, QString());
     QVERIFY(content.isComplete);
     QCOMPARE(history.mistakeIn(content.events), QString());
