@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRequestScript.h"
 #include "MvRows.h"
 #include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
@@ -8,28 +9,10 @@
 #include "MvCalendar/MvCalendarEventRegistry.h"
 #include "MvCalendar/MvUndoCommandCalendarEvent.h"
 #include "MvCore/MvApplicationLocale.h"
-#include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
 #include "MvFoto/MvFotoService.h"
 
 using MvEntries::entry;
-
-namespace {
-
-/// Chooses a file at once and notes what is reported.
-struct Script : MvRequestHandler
-{
-    explicit Script(QString file)
-        : chosen(std::move(file))
-    {}
-    void askForFile(const FileRequest &, QObject *, const FileAnswer &answer) override { answer(chosen); }
-    void askYesNo(const QString &, const QString &, QObject *, const YesNoAnswer &answer) override { answer(false); }
-    void report(const QString &, const QString &text, QObject *) override { reports.append(text); }
-    QString chosen;
-    QStringList reports;
-};
-
-} // namespace
 
 class tst_MvCalendarDayEditorDialog : public MvWidgetTest
 {
@@ -347,7 +330,8 @@ void tst_MvCalendarDayEditorDialog::drops()
 
 void tst_MvCalendarDayEditorDialog::choosesByKeyboard()
 {
-    auto *script = new Script(path(u"text.png"_qs));
+    auto *script = new MvRequestScript;
+    script->file = path(u"text.png"_qs);
     MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(script));
     MvCalendarDayEditorDialog dialog(nullptr);
     dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5)));
@@ -356,11 +340,11 @@ void tst_MvCalendarDayEditorDialog::choosesByKeyboard()
     QCOMPARE(script->reports.size(), 1); // names the file that is no photo
     QVERIFY(script->reports.first().contains(u"text.png"_qs));
     QVERIFY(!dialog.hasPhoto());
-    script->chosen = path(u"rot.png"_qs);
+    script->file = path(u"rot.png"_qs);
     QTest::keyClick(label, Qt::Key_Return);
     QVERIFY(dialog.hasPhoto());
     QVERIFY(dialog.isVisible()); // Enter went to the photo, not to OK
-    script->chosen.clear();
+    script->file.clear();
     QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(label);
     QCOMPARE(accessible->role(), QAccessible::Button);
     accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
@@ -395,7 +379,7 @@ void tst_MvCalendarDayEditorDialog::unreadableFotosAreKept()
     dialog.openDayEditorSingle(entry(u"Foto"_qs, QDate(2027, 6, 5), MvFoto(QFileInfo(file))));
     QVERIFY(part<QLabel>(dialog, u"fotoLabel"_qs)->text().contains(u"kaputt.png"_qs));
     description(dialog)->setText(u"\tganz \u0007 anders"_qs);
-    auto *script = new Script({});
+    auto *script = new MvRequestScript;
     MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(script));
     dialog.setFoto(MvFoto(QFileInfo(path(u"text.png"_qs)))); // not instead of the other one
     ok(dialog)->click();
@@ -524,7 +508,7 @@ void tst_MvCalendarDayEditorDialog::followsItsEntry()
 
 void tst_MvCalendarDayEditorDialog::entriesThatAreGone()
 {
-    auto *script = new Script({});
+    auto *script = new MvRequestScript;
     MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(script));
     const auto restored = qScopeGuard([] { MvRequestHandler::install(nullptr); });
     const MvCalendarEvent anna = entry(u"Anna"_qs, QDate(2027, 5, 6));

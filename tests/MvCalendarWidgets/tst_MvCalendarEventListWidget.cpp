@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
+#include "MvRequestScript.h"
 #include "MvRows.h"
 #include "MvWidgetDriver.h"
 #include "MvWidgetTest.h"
@@ -16,40 +17,12 @@
 #include "MvCore/MvLogger.h"
 #include "MvCore/MvPlatformIndependent.h"
 #include "MvCore/MvProactiveHelpController.h"
-#include "MvCore/MvRequestHandler.h"
 #include "MvCore/MvUndoController.h"
 #include "MvGUIWidgets/MvTableView.h"
 
 using MvEntries::entry;
 
 namespace {
-
-/// Answers at once and notes what was asked and reported.
-struct Script : MvRequestHandler
-{
-    void askForFile(const FileRequest &request, QObject *, const FileAnswer &answer) override
-    {
-        requests.append(u"%1 %2 %3"_qs.arg(request.kind).arg(request.title, request.filter));
-        answer(file);
-    }
-    void askYesNo(const QString &title, const QString &text, QObject *, const YesNoAnswer &answer) override
-    {
-        requests.append(title == text ? title : text);
-        answer(agrees);
-    }
-    void askChoice(const ChoiceRequest &request, QObject *asker, const ChoiceAnswer &answer) override
-    {
-        MvRequestHandler::askChoice(request, asker, answer);
-        details = request.details;
-    }
-    void report(const QString &, const QString &text, QObject *) override { reports.append(text); }
-
-    QString file;
-    bool agrees = true;
-    QStringList requests;
-    QStringList reports;
-    QString details;
-};
 
 struct Contacts : MvPlatformIndependent
 {
@@ -110,7 +83,7 @@ private:
     QString path(const QString &file) const { return m_folder.filePath(file); }
 
     QTemporaryDir m_folder;
-    Script *m_script = nullptr;
+    MvRequestScript *m_script = nullptr;
     QStringList m_log;
 };
 
@@ -124,7 +97,7 @@ void tst_MvCalendarEventListWidget::initTestCase()
 void tst_MvCalendarEventListWidget::init()
 {
     failOnWarnings();
-    m_script = new Script;
+    m_script = new MvRequestScript;
     MvRequestHandler::install(std::unique_ptr<MvRequestHandler>(m_script));
     fill();
     MvUndoController::instance().clear();
@@ -296,11 +269,8 @@ void tst_MvCalendarEventListWidget::decidesAboutDoubtfulFiles()
     const auto [entries, merge, asks, told, result] = MvRows<QByteArray, bool, bool, QString, QString>::current();
     MvCalendarEventListWidget list;
     m_script->file = path(u"liste.xml"_qs);
-    QFile file(m_script->file);
     const bool isOther = entries.startsWith("<Layouts");
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(isOther ? entries : "<CalendarEvents>" + entries + "</CalendarEvents>");
-    file.close();
+    QVERIFY(MvTestFiles::write(m_script->file, isOther ? entries : "<CalendarEvents>" + entries + "</CalendarEvents>"));
     for (const bool agrees : {false, true}) {
         fill();
         m_script->agrees = agrees;

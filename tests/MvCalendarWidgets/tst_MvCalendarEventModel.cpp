@@ -232,23 +232,20 @@ void tst_MvCalendarEventModel::movedEntriesKeepTheirEdits()
 
 void tst_MvCalendarEventModel::sorts_data()
 {
-    QTest::addColumn<int>("column");
-    QTest::addColumn<Qt::SortOrder>("order");
-    QTest::addColumn<QString>("order of names");
-    QTest::newRow("date, smallest first") << 1 << Qt::DescendingOrder << u"Anna Moritz Xaver"_qs;
-    QTest::newRow("date, largest first") << 1 << Qt::AscendingOrder << u"Xaver Moritz Anna"_qs;
-    QTest::newRow("name, smallest first") << 2 << Qt::DescendingOrder << u"Anna Moritz Xaver"_qs;
-    QTest::newRow("name, largest first") << 2 << Qt::AscendingOrder << u"Xaver Moritz Anna"_qs;
+    const MvRows<int, Qt::SortOrder, QString> row; // column, order, sorted
+    row("date, smallest first", 1, Qt::DescendingOrder, u"Anna Moritz Xaver"_qs);
+    row("date, largest first", 1, Qt::AscendingOrder, u"Xaver Moritz Anna"_qs);
+    row("name, smallest first", 2, Qt::DescendingOrder, u"Anna Moritz Xaver"_qs);
+    row("name, largest first", 2, Qt::AscendingOrder, u"Xaver Moritz Anna"_qs);
     // every entry counts as recurrent: what remains is the stored flag, then the name
-    QTest::newRow("recurrence, smallest first") << 3 << Qt::DescendingOrder << u"Moritz Anna Xaver"_qs;
-    QTest::newRow("recurrence, largest first") << 3 << Qt::AscendingOrder << u"Xaver Anna Moritz"_qs;
-    QTest::newRow("photo, which only begins a reset") << 0 << Qt::AscendingOrder << u"Anna Moritz Xaver"_qs;
+    row("recurrence, smallest first", 3, Qt::DescendingOrder, u"Moritz Anna Xaver"_qs);
+    row("recurrence, largest first", 3, Qt::AscendingOrder, u"Xaver Anna Moritz"_qs);
+    row("photo, which only begins a reset", 0, Qt::AscendingOrder, u"Anna Moritz Xaver"_qs);
 }
 
 void tst_MvCalendarEventModel::sorts()
 {
-    QFETCH(const int, column);
-    QFETCH(const Qt::SortOrder, order);
+    const auto [column, order, sorted] = MvRows<int, Qt::SortOrder, QString>::current();
     MvCalendarEventModel model;
     model.load();
     QSignalSpy begun(&model, &QAbstractItemModel::modelAboutToBeReset);
@@ -256,7 +253,7 @@ void tst_MvCalendarEventModel::sorts()
     model.sort(column, order);
     QCOMPARE(begun.count(), 1);
     QCOMPARE(ended.count(), column == MvCalendarEventModel::FotoColumn ? 0 : 1);
-    QTEST(names(model), "order of names");
+    QCOMPARE(names(model), sorted);
 }
 
 void tst_MvCalendarEventModel::sortsSharedDays()

@@ -105,23 +105,18 @@ void tst_MvGraphicsItemCalendariumCells::init()
 
 void tst_MvGraphicsItemCalendariumCells::passes_data()
 {
-    QTest::addColumn<QDate>("month");
-    QTest::addColumn<QRectF>("rect");
-    QTest::addColumn<bool>("titleLine");
-    QTest::addColumn<bool>("keeps");
-    QTest::addColumn<bool>("keeps other months");
+    const MvRows<QDate, QRectF, bool, bool, bool> row; // month, rect, titleLine, keeps, keepsOtherMonths
     const QDate june(2027, 6, 1);
-    QTest::newRow("the same") << june << pageRect << false << true << true;
-    QTest::newRow("equal but for rounding") << june << pageRect.adjusted(0, 0, 1e-11, 0) << false << true << true;
-    QTest::newRow("another rectangle") << june << pageRect.adjusted(0, 0, 1, 0) << false << false << true;
-    QTest::newRow("a title line") << june << pageRect << true << false << true;
-    QTest::newRow("another month") << QDate(2027, 7, 1) << pageRect << false << false << false;
+    row("the same", june, pageRect, false, true, true);
+    row("equal but for rounding", june, pageRect.adjusted(0, 0, 1e-11, 0), false, true, true);
+    row("another rectangle", june, pageRect.adjusted(0, 0, 1, 0), false, false, true);
+    row("a title line", june, pageRect, true, false, true);
+    row("another month", QDate(2027, 7, 1), pageRect, false, false, false);
 }
 
 void tst_MvGraphicsItemCalendariumCells::passes()
 {
-    QFETCH(const QDate, month);
-    QFETCH(const QRectF, rect);
+    const auto [month, rect, titleLine, keeps, keepsOtherMonths] = MvRows<QDate, QRectF, bool, bool, bool>::current();
     Canvas canvas;
     canvas.pass({2027, 6, 1}, pageRect);
     canvas.manager->addRectForDate({2027, 5, 31}, {0, 0, 20.7, 28}); // of the month before
@@ -131,13 +126,12 @@ void tst_MvGraphicsItemCalendariumCells::passes()
     QCOMPARE(cell->sceneBoundingRect(), QRectF(120, 0, 28, 28));
 
     canvas.manager->resetRectsForMonth(month, rect);
-    QFETCH(const bool, titleLine);
     canvas.manager->resetRectsForTitleLine(titleLine);
-    QTEST(canvas.manager->cell(day) == cell, "keeps");
-    QTEST(canvas.manager->cell({2027, 5, 31}) == other, "keeps other months");
-    QTEST(cell->scene() != nullptr, "keeps");
+    QCOMPARE(canvas.manager->cell(day) == cell, keeps);
+    QCOMPARE(canvas.manager->cell({2027, 5, 31}) == other, keepsOtherMonths);
+    QCOMPARE(cell->scene() != nullptr, keeps);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QTEST(cell != nullptr, "keeps");
+    QCOMPARE(cell != nullptr, keeps);
 }
 
 void tst_MvGraphicsItemCalendariumCells::clicks_data()
@@ -361,16 +355,13 @@ void tst_MvGraphicsItemCalendariumCells::screenReader()
 
 void tst_MvGraphicsItemCalendariumCells::droppedFotos_data()
 {
-    QTest::addColumn<int>("entries");
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<bool>("accepted");
-    QTest::addColumn<bool>("opens the editor");
+    const MvRows<int, QStringList, bool, bool> row; // entries, files, accepted, opensTheEditor
     const QStringList fotos{u"text.txt"_s, u"rot.png"_s, u"blau.png"_s};
-    QTest::newRow("no photo among the files") << 1 << QStringList{u"text.txt"_s} << false << false;
-    QTest::newRow("a day without entries") << 0 << fotos << true << true;
-    QTest::newRow("a day with one") << 1 << fotos << true << false;
-    QTest::newRow("a day with two") << 2 << fotos << true << true;
-    QTest::newRow("a photo that claims to be huge") << 1 << QStringList{u"huge.webp"_s} << true << false;
+    row("no photo among the files", 1, QStringList{u"text.txt"_s}, false, false);
+    row("a day without entries", 0, fotos, true, true);
+    row("a day with one", 1, fotos, true, false);
+    row("a day with two", 2, fotos, true, true);
+    row("a photo that claims to be huge", 1, QStringList{u"huge.webp"_s}, true, false);
 }
 
 void tst_MvGraphicsItemCalendariumCells::droppedFotos()
@@ -380,15 +371,13 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos()
     QVERIFY(MvWidgetDriver::writeFoto(folder.filePath(u"blau.png"_s), Qt::blue));
     QVERIFY(MvWidgetDriver::writeHugeFoto(folder.filePath(u"huge.webp"_s)));
     QVERIFY(MvWidgetDriver::write(folder.filePath(u"text.txt"_s), "kein Foto"));
-    QFETCH(QStringList, files);
+    auto [entries, files, accepted, opensTheEditor] = MvRows<int, QStringList, bool, bool>::current();
     for (QString &file : files)
         file = folder.filePath(file);
 
-    QFETCH(const int, entries);
     MvCalendarEventList events;
     for (int i = 0; i < entries; ++i)
         events.append(entry(QString::number(i), day));
-    QFETCH(const bool, accepted);
     const bool isBroken = files.first().endsWith(u"huge.webp"_s);
     if (isBroken) {
         events.first().setFoto(MvFoto(QFileInfo(folder.filePath(u"rot.png"_s))));
@@ -402,11 +391,11 @@ void tst_MvGraphicsItemCalendariumCells::droppedFotos()
 
     const QPoint pos = canvas.centre(day);
     MvWidgetDriver::Drag drag(canvas.view.viewport(), files);
-    QTEST(drag.isTaken(pos), "accepted");
+    QCOMPARE(drag.isTaken(pos), accepted);
     drag.drop(pos);
 
     const QPointer<MvCalendarDayEditorDialog> editor = openEditor();
-    QTEST(editor != nullptr, "opens the editor");
+    QCOMPARE(editor != nullptr, opensTheEditor);
     QCOMPARE(MvUndoController::instance().stack()->count(), int(accepted && !editor && !isBroken));
     if (accepted && !editor) {
         const MvFoto foto = MvCalendarEventRegistry::instance().activeEventList().first().foto();

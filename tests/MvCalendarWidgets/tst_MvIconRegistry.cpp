@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRows.h"
+#include "MvTestFiles.h"
 #include "MvWidgetTest.h"
 
 #include "MvCore/MvDirectoryConfig.h"
@@ -95,11 +96,9 @@ void tst_MvIconRegistry::overrideFolder()
     const auto [svg, isTaken] = MvRows<QByteArray, bool>::current();
     const QString name = u"ico_studio_remove"_s; // a bar: its corners are empty
     const QDir folder = MvDirectoryConfig::instance().programDataSubDir(u"icons"_s);
-    QFile file(folder.filePath(name + u".svg"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(svg);
-    file.close();
-    const auto cleanUp = qScopeGuard([&file] { file.remove(); });
+    const QString file = folder.filePath(name + u".svg"_s);
+    QVERIFY(MvTestFiles::write(file, svg));
+    const auto cleanUp = qScopeGuard([&file] { QFile::remove(file); });
 
     const MvIconRegistry registry;
     const QImage image = registry.icon(name).pixmap(QSize(24, 24)).toImage();

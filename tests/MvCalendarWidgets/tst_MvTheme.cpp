@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvContrast.h"
 #include "MvRows.h"
 #include "MvTestFiles.h"
 #include "MvWidgetTest.h"
 
 #include "MvGUIWidgets/MvTheme.h"
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -20,21 +19,7 @@ private Q_SLOTS:
     void outlines();
     void everyCssStyleIsDefined();
     void switchesColours();
-
-private:
-    static double contrastOf(const QColor &one, const QColor &other);
 };
-
-/// The ratio of WCAG 2.1.
-double tst_MvTheme::contrastOf(const QColor &one, const QColor &other)
-{
-    const auto luminance = [](const QColor &colour) {
-        const auto linear = [](double c) { return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
-    };
-    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
-    return (high + 0.05) / (low + 0.05);
-}
 
 void tst_MvTheme::contrast_data()
 {
@@ -66,13 +51,14 @@ void tst_MvTheme::contrast()
     const auto colorGroup = QPalette::ColorGroup(group);
     for (const auto &[text, grounds] : pairs)
         for (const Role ground : grounds) {
-            const double ratio = contrastOf(palette.color(colorGroup, text), palette.color(colorGroup, ground));
+            const double ratio = MvContrast::ratio(palette.color(colorGroup, text), palette.color(colorGroup, ground));
             QVERIFY2(ratio >= minimum, qPrintable(u"text role %1 on %2: %3"_s.arg(text).arg(ground).arg(ratio)));
         }
     if (colorGroup != QPalette::Disabled) // outlines of controls, and of what has the focus
         for (const Role outline : {QPalette::Mid, QPalette::Highlight})
             for (const Role ground : {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button}) {
-                const double ratio = contrastOf(palette.color(colorGroup, outline), palette.color(colorGroup, ground));
+                const double ratio =
+                    MvContrast::ratio(palette.color(colorGroup, outline), palette.color(colorGroup, ground));
                 QVERIFY2(ratio >= 3.0, qPrintable(u"outline role %1 on %2: %3"_s.arg(outline).arg(ground).arg(ratio)));
             }
 }
@@ -101,7 +87,7 @@ void tst_MvTheme::outlines()
             const QColor ground = QApplication::palette().color(QPalette::Window);
             double best = 1.0;
             for (int x = 9; x < 13; ++x)
-                best = std::max(best, contrastOf(image.pixelColor(x, 10 + widget->height() / 2), ground));
+                best = std::max(best, MvContrast::ratio(image.pixelColor(x, 10 + widget->height() / 2), ground));
             widget->setParent(nullptr);
             QVERIFY2(best >= 3.0, widget->metaObject()->className());
         }

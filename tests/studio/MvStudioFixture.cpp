@@ -92,10 +92,7 @@ void MvStudioFixture::restart()
     m_studio.reset();
     const QByteArray left = contentOf(path);
     registry.setEvents({}); // as in a new process: nothing is known but by reading
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(left), qint64(left.size()));
-    file.close();
+    QVERIFY(MvTestFiles::write(path, left));
     registry.load();
     start();
     project()->newProject(calendarOf2027(u"MONTH_GRID_CLASSIC"_s));

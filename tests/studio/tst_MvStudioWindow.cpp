@@ -201,12 +201,9 @@ void tst_MvStudioWindow::saveAndOpen()
     m_studio->start({file});                            // from the command line
     QTRY_COMPARE(project()->fileInfo().filePath(), file);
 
-    QFile broken(path(u"kaputt.mvcalendar"_s));
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    broken.write("<calendarproject");
-    broken.close();
+    QVERIFY(MvTestFiles::write(path(u"kaputt.mvcalendar"_s), "<calendarproject"));
     trigger("openProject");
-    chooseFile(broken.fileName());
+    chooseFile(path(u"kaputt.mvcalendar"_s));
     auto *error = dialog<QMessageBox>("errorMessage");
     QVERIFY(error);
     QVERIFY2(error->informativeText().contains(u"kaputt.mvcalendar"_s), qPrintable(error->informativeText()));
@@ -310,9 +307,7 @@ void tst_MvStudioWindow::statusBar()
 
     // so are characters that no font has, and photos of few pixels
     MvCalendarEventRegistry::instance().setEvents({MvEntries::entry(u"Anna \u0378"_s, {1990, 5, 17})});
-    QImage few(30, 20, QImage::Format_RGB32);
-    few.fill(Qt::green);
-    QVERIFY(few.save(path(u"klein.png"_s)));
+    QVERIFY(MvTestFiles::writeFoto(path(u"klein.png"_s), {30, 20}));
     MvCalendarPage page = project()->document().pages().at(4);
     page.setFotoFrame(MvFotoFrame(path(u"klein.png"_s)));
     project()->changePage(4, page, u"Foto"_s);
@@ -382,13 +377,12 @@ void tst_MvStudioWindow::leapDayEntries()
 
 void tst_MvStudioWindow::importCards(const QByteArrayList &cards)
 {
-    QFile file(path(u"kontakte.vcf"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    QByteArray content;
     for (const QByteArray &card : cards)
-        file.write("BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + card + "\r\nEND:VCARD\r\n");
-    file.close();
+        content += "BEGIN:VCARD\r\nVERSION:3.0\r\nFN:" + card + "\r\nEND:VCARD\r\n";
+    QVERIFY(MvTestFiles::write(path(u"kontakte.vcf"_s), content));
     trigger("importBirthdays");
-    chooseFile(file.fileName());
+    chooseFile(path(u"kontakte.vcf"_s));
 }
 
 /// What the import tells at its end; an empty text when it does not come.

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvEntries.h"
-#include "MvRows.h"
 #include "MvStudioFixture.h"
 #include "MvTestFiles.h"
 #include "MvWidgetDriver.h"
-#include "common/MvStudioSettings.h"
 #include "pages/MvPageCanvas.h"
 #include "pages/MvPageEntries.h"
 #include "pages/MvPageItem.h"
@@ -80,7 +78,6 @@ private Q_SLOTS:
     void groupsAreUndoneWithTheirEntries();
     void teacherDropsExamWeeks();
     void tableIsShownFirst();
-    void bubbleStaysOnTheScreen_data();
     void bubbleStaysOnTheScreen();
 };
 
@@ -356,18 +353,9 @@ void tst_StudioDateJourneys::tableIsShownFirst()
     QCOMPARE(studio.steps(), 0);
 }
 
-void tst_StudioDateJourneys::bubbleStaysOnTheScreen_data()
-{
-    const MvRows<QString> row; // theme
-    row("light", u"light"_s);
-    row("dark", u"dark"_s);
-}
-
 /// At days in all corners of a small window.
 void tst_StudioDateJourneys::bubbleStaysOnTheScreen()
 {
-    const auto [theme] = MvRows<QString>::current();
-    MvStudioSettings::setTheme(theme);
     MvStudioFixture studio;
     registry().setEvents({entry(u"Oma"_s, {2027, 1, 1}), entry(u"Opa"_s, {2027, 1, 1})});
     studio.window()->resize(1024, 600);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvRows.h"
 #include "MvStudioFixture.h"
+#include "MvTestFiles.h"
 
 #include "flows/MvFotoFlow.h"
 #include "flows/MvMissingFotos.h"
@@ -138,10 +139,7 @@ void tst_StudioFileJourneys::exported()
         QCOMPARE(QImage(file).size(), QSize(842, 595)); // A4 at 72 dpi
         return;
     }
-    QProcess reader;
-    reader.start(u"pdfinfo"_s, {file});
-    QVERIFY(reader.waitForFinished());
-    const QByteArray said = reader.readAllStandardOutput();
+    const QByteArray said = MvTestFiles::outputOf(u"pdfinfo"_s, {file});
     QCOMPARE(said.contains("PDF/X-4"), !press.isEmpty());
     // 303 mm x 216 mm in points; 317 mm x 238 mm with marks
     QVERIFY2(said.contains(press.isEmpty() ? "858.898 x 612.28" : "898.583 x 674.646"), said);

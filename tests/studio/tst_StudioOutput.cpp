@@ -68,8 +68,7 @@ void tst_StudioOutput::exportErrors()
     QVERIFY(message->text().contains(u"1 bis 12"_s));
 
     // what is told to be replaced is what would be written
-    QFile existing(path(u"k-05.png"_s));
-    QVERIFY(existing.open(QIODevice::WriteOnly));
+    QVERIFY(MvTestFiles::write(path(u"k-05.png"_s), {}));
     pattern->setText(u"k-%n"_s);
     for (const auto &[text, isReplaced] :
          {std::pair(u"5-6"_s, true), std::pair(u"1-5"_s, true), std::pair(u"8-12"_s, false)}) {
@@ -127,10 +126,7 @@ void tst_StudioOutput::exportSheets()
     click(settings, "exportButton");
     QTRY_VERIFY_WITH_TIMEOUT(dialog<QMessageBox>("informationMessage"), 60000);
     dialog<QMessageBox>("informationMessage")->close();
-    QProcess reader;
-    reader.start(u"qpdf"_s, {u"--show-npages"_s, file});
-    QVERIFY(reader.waitForFinished());
-    QCOMPARE(reader.readAllStandardOutput().trimmed(), QByteArray("4"));
+    QCOMPARE(MvTestFiles::outputOf(u"qpdf"_s, {u"--show-npages"_s, file}).trimmed(), QByteArray("4"));
     trigger("exportPdf"); // as it was the last time
     settings = dialog("exportDialog");
     const MvExportOptions again = static_cast<MvExportDialog *>(settings)->options();
