@@ -212,6 +212,9 @@ void tst_MvEntryExchange::holidaysOfTheCountry()
           u"2027-08-02-2027-09-13 Sommerferien {Schulferien}"_s, u"2027-03-26 Karfreitag {Feiertage}"_s,
           u"2027-01-06 Heilige Drei Könige {Feiertage}"_s})
         QVERIFY2(said.contains(line), qPrintable(said));
+    qputenv("SOURCE_DATE_EPOCH", "1000000000");
+    QCOMPARE(MvICalendar::toBytes(days).count("DTSTAMP:20010909T014640Z"), days.size());
+    qunsetenv("SOURCE_DATE_EPOCH");
     MvEntryIntake::Report report;
     MvEntryReading next;
     next.events = MvHolidayEntries::of(bavaria, 2020, 2028, all); // the vacations over new year are the same

@@ -82,13 +82,21 @@ QUuid uidOf(const MvCalendarEvent &event, QSet<QUuid> &known)
     return uid;
 }
 
+/// When it was changed, but not after the moment that a reproducible build names.
+QDateTime stampOf(const MvCalendarEvent &event)
+{
+    bool isGiven = false;
+    const qint64 latest = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isGiven);
+    const qint64 changed = event.lastChanged().isValid() ? event.lastChanged().toSecsSinceEpoch() : 0;
+    return QDateTime::fromSecsSinceEpoch(isGiven ? qMin(changed, latest) : changed, Qt::UTC);
+}
+
 void addEvent(QByteArray &bytes, const MvCalendarEvent &event, const QUuid &uid, const MvEventGroupList &groups)
 {
     const QDate date = event.dateTime().date();
     addLine(bytes, u"BEGIN:VEVENT"_s);
     addLine(bytes, u"UID:"_s + uid.toString(QUuid::WithoutBraces));
-    const QDateTime changed = event.lastChanged().isValid() ? event.lastChanged() : QDateTime::fromSecsSinceEpoch(0);
-    addLine(bytes, u"DTSTAMP:"_s + changed.toUTC().toString(u"yyyyMMdd'T'HHmmss'Z'"_s));
+    addLine(bytes, u"DTSTAMP:"_s + stampOf(event).toString(u"yyyyMMdd'T'HHmmss'Z'"_s));
     addDate(bytes, u"DTSTART"_s, event, {date});
     if (!event.time().isValid())
         addDate(bytes, u"DTEND"_s, event, {date.addDays(event.dayCount())});
