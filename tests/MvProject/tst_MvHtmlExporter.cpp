@@ -1,4 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
+#include "MvCalendar/MvCalendarEventList.h"
+#include "MvCalendar/MvCalendarEventListSource.h"
+#include "MvCalendar/MvRenderingSources.h"
 #include "MvProductBase/MvCalendariumHolidayConfig.h"
 #include "MvProject/MvCalendarDocument.h"
 #include "MvProject/MvHtmlExporter.h"
@@ -19,6 +22,7 @@ private Q_SLOTS:
     void everyDayOnce_data();
     void everyDayOnce();
     void saysWhatThePageSays();
+    void daysInTheMiddle();
     void foreignTextsAreText();
 };
 
@@ -120,6 +124,31 @@ void tst_MvHtmlExporter::saysWhatThePageSays()
     QVERIFY(ascension.attribute(u"class"_s) != wednesday.attribute(u"class"_s)); // a holiday's colours
     const QString style = all(document, u"style"_s).value(0).text();
     QVERIFY(style.contains(u'.' + ascension.attribute(u"class"_s) + u" {"_s));
+}
+
+/// Where the page has bars and colours, the table has words: of entries for all, of vacations for those who hear.
+void tst_MvHtmlExporter::daysInTheMiddle()
+{
+    MvCalendarDocument calendar = calendarOf(u"MONTH_GRID_CLASSIC"_s, u"de_DE"_s, u"BY"_s, 1);
+    calendar.setFeature(MvCalendariumFeatures(FEATURE_SCHOOL_VACATIONS | FEATURE_ENTRIES), true);
+    MvCalendarEvent entry(u"Kur"_s, MvCalendarEvent::startOf({2027, 1, 5}), false, {}, QUuid::createUuid(), {});
+    entry.setEndDate({2027, 1, 12});
+    MvCalendarEventList entries;
+    entries.append(entry);
+    MvRenderingSources sources;
+    const MvCalendarEventListSource source(entries);
+    sources.entries = &source;
+    const QList<QDomElement> cells = all(parsed(MvHtmlExporter::document(calendar.pageSource(sources))), u"td"_s);
+    const auto words = [&](int day) {
+        QStringList found;
+        for (const QDomElement &item : all(cells.value(day + 3), u"li"_s)) // 1 January 2027 is a Friday
+            found.append(item.text() + item.attribute(u"class"_s));
+        return found;
+    };
+    QCOMPARE(words(5), (QStringList{u"Kur"_s, u"Weihnachtsferienheard"_s}));
+    QCOMPARE(words(7), words(5));
+    QCOMPARE(words(12), QStringList{u"Kur"_s});
+    QCOMPARE(words(13), QStringList());
 }
 
 void tst_MvHtmlExporter::foreignTextsAreText()

@@ -2,7 +2,9 @@
 #include "MvCalendar/MvMonthTable.h"
 
 #include "MvCalendar/MvCalendariumDay.h"
+#include "MvCalendar/MvCalendariumHolidayCache.h"
 #include "MvCalendar/MvCalendariumRenderer.h"
+#include "MvPaint/MvPrintableText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,11 +12,37 @@ namespace {
 
 constexpr int daysPerWeek = 7;
 
+QStringList vacationsOf(const MvCalendariumRenderer &renderer, const QDate &date)
+{
+    MvCalendariumHolidayConfig config = renderer.calendariumContent().holidayConfig();
+    config.setFeature(FEATURE_VACATION_NAMES_DAILY, true);
+    const MvCalendariumHolidayList holidays =
+        MvCalendariumHolidayCache::instance().days({date.year(), config}).value(date);
+    QStringList names;
+    for (const MvCalendariumHoliday &holiday : holidays) {
+        if (holiday.type() == HOLIDAY_TYPE_SCHOOL_VACATION)
+            names.append(holiday.description());
+    }
+    return MvPrintableText::onOneLineEach(names);
+}
+
 MvMonthTable::Day dayOf(const MvCalendariumRenderer &renderer, const QDate &date)
 {
     const MvCalendariumDay day = renderer.day(date);
-    return {date, day.texts, renderer.backgroundColor(day.content, day.isEven),
-            renderer.fontColor(day.content, day.isEven)};
+    MvMonthTable::Day shown{date,
+                            day.texts,
+                            renderer.backgroundColor(day.content, day.isEven),
+                            renderer.fontColor(day.content, day.isEven),
+                            {}};
+    for (const MvEventText &entry : day.entries) {
+        if (entry.start != date && !shown.texts.contains(entry.text))
+            shown.texts.append(entry.text);
+    }
+    if (renderer.appearance().showHolidays() && !renderer.renderingInformation().hasAnyOf(calendar_render_no_texts)) {
+        shown.running = vacationsOf(renderer, date);
+        shown.running.removeIf([&](const QString &name) { return shown.texts.contains(name); });
+    }
+    return shown;
 }
 
 } // namespace

@@ -18,10 +18,11 @@ class MVCALENDAR_EXPORT MvMonthTable
 public:
     struct Day
     {
-        QDate date; // invalid beyond the month
-        QStringList texts;
-        QColor ground; // invalid or transparent: the page is seen through
+        QDate date;        // invalid beyond the month
+        QStringList texts; // those of entries that last several days on each of them: a table has no bars
+        QColor ground;     // invalid or transparent: the page is seen through
         QColor ink;
+        QStringList running; // vacations that began before, which the page shows by their ground alone
     };
     struct Week
     {

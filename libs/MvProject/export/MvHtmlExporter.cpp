@@ -221,10 +221,12 @@ void Writer::day(const MvMonthTable::Day &day)
     m_xml.writeStartElement(u"td"_s);
     colors(day.ground, day.ink);
     element(u"time"_s, QString::number(day.date.day()), {{u"datetime"_s, day.date.toString(Qt::ISODate)}});
-    if (!day.texts.isEmpty()) {
+    if (!day.texts.isEmpty() || !day.running.isEmpty()) {
         m_xml.writeStartElement(u"ul"_s);
         for (const QString &text : day.texts)
             element(u"li"_s, text);
+        for (const QString &text : day.running)
+            element(u"li"_s, text, {{u"class"_s, u"heard"_s}});
         m_xml.writeEndElement();
     }
     m_xml.writeEndElement();
