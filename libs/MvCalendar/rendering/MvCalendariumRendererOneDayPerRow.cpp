@@ -330,6 +330,7 @@ void MvCalendariumRendererOneDayPerRow::renderHead(QPainter &painter, int column
         MvCalendariumCellLine line(fitter, room, headers.at(column));
         if (column >= columns || line.isCut())
             reportUnfitting(startDate(), headers.at(column), cell);
+        reportMissingGlyphs(startDate(), {headers.at(column)}, line.font(), cell);
         line.align(cell, Qt::AlignHCenter | Qt::AlignVCenter);
         line.keepInside(cell);
         const MvPaintMarking mark = MvMonthMarks(*this, painter, startDate()).listHead(column);
