@@ -359,18 +359,12 @@ void tst_MvTextOutlineCache::emojiArePictures()
 /// They have outlines, too, though not in tables.
 void tst_MvTextOutlineCache::postScriptFontsAreOutlines()
 {
-    for (const QString &family : {u"Nimbus Sans"_s, u"Z003"_s, u"C059"_s, u"P052"_s}) {
-        QFont font(family);
-        font.setPixelSize(40);
-        const QRawFont raw = QRawFont::fromFont(font);
-        if (raw.familyName() != family || !raw.fontTable("head").isEmpty())
-            continue;
-        const MvTextOutline outline(font, u"Mai 2027"_s);
-        QVERIFY(outline.pictures().isEmpty());
-        QCOMPARE(outline.glyphs().size(), 8);
-        return;
-    }
-    QSKIP("no such font on this computer");
+    QFont font(u"Nimbus Sans"_s);
+    font.setPixelSize(40);
+    if (const QRawFont raw = QRawFont::fromFont(font);
+        raw.familyName() != font.family() || !raw.fontTable("head").isEmpty())
+        QSKIP("no such font on this computer");
+    QCOMPARE(MvTextOutline(font, u"Mai 2027"_s).glyphs().size(), 8);
 }
 
 void tst_MvTextOutlineCache::missingCharacters_data()
