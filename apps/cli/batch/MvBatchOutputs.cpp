@@ -82,6 +82,7 @@ void MvBatchOutputs::add(int owner, const QString &pattern)
     output.beginning = folder;
     bool isLiteral = true;
     bool isFront = true;
+    QString core;
     output.front = folder;
     for (qsizetype i = 0; i < name.size(); ++i) {
         const Placeholder *placeholder = placeholderAt(name, i);
@@ -96,6 +97,8 @@ void MvBatchOutputs::add(int owner, const QString &pattern)
         isFront = isFront && !isOpen;
         if (isFront)
             output.front += fixed;
+        core = isOpen || isYear ? QString() : core + fixed;
+        output.core = core.size() > output.core.size() ? core : output.core;
         output.back = isOpen ? QString() : output.back + fixed;
         QStringList longer;
         for (const QString &example : std::as_const(examples)) {
@@ -118,11 +121,12 @@ bool MvBatchOutputs::meet(const Output &one, const Output &other)
     if (!agree(one.back.crbegin(), one.back.crend(), other.back.crbegin(), other.back.crend()) ||
         !agree(one.front.cbegin() + same, one.front.cend(), other.front.cbegin() + same, other.front.cend()))
         return false;
-    const auto matches = [](const QRegularExpression &shape, const QStringList &examples) {
-        return std::any_of(examples.cbegin(), examples.cend(),
-                           [&](const QString &example) { return shape.match(example).hasMatch(); });
+    const auto matches = [](const Output &pattern, const QStringList &examples) {
+        return std::any_of(examples.cbegin(), examples.cend(), [&](const QString &example) {
+            return example.contains(pattern.core) && pattern.shape.match(example).hasMatch();
+        });
     };
-    return matches(one.shape, other.examples) || matches(other.shape, one.examples);
+    return matches(one, other.examples) || matches(other, one.examples);
 }
 
 QList<MvBatchOutputs::Clash> MvBatchOutputs::clashes() const
@@ -133,7 +137,8 @@ QList<MvBatchOutputs::Clash> MvBatchOutputs::clashes() const
         const QString &beginning = m_outputs[i].beginning;
         for (qsizetype length = beginning.lastIndexOf(u'/') + 1; length <= beginning.size(); ++length) {
             for (const int other : m_byBeginning.value(beginning.left(length))) {
-                if (other == i || (others[i] >= 0 && others[other] >= 0) || !meet(m_outputs[i], m_outputs[other]))
+                const bool isKnown = other <= i && length == beginning.size(); // or it is the same
+                if (isKnown || (others[i] >= 0 && others[other] >= 0) || !meet(m_outputs[i], m_outputs[other]))
                     continue;
                 others[i] = others[i] < 0 ? other : others[i];
                 others[other] = others[other] < 0 ? i : others[other];

@@ -7,8 +7,8 @@
 #include <QString>
 
 /// Which calendars of a batch would write the same file: two names that are equal, whatever way leads to the folder, or
-/// patterns ("%m") that may give the same name. With ten thousand calendars a matter of a second, as long as their
-/// names differ before the first placeholder or behind the last one.
+/// patterns ("%m") that may give the same name. With ten thousand calendars a matter of a second or two, as long as
+/// their names differ before the first placeholder or behind the last one.
 class MvBatchOutputs
 {
 public:
@@ -32,6 +32,7 @@ private:
         QString beginning; // whole path up to the first placeholder
         QString front;     // up to the first placeholder of which it is not known how long it will be
         QString back;      // what follows the last one of these
+        QString core;      // its longest piece without a placeholder
         QRegularExpression shape;
         QStringList examples; // whole paths that it may become
     };
