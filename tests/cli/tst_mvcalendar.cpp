@@ -491,6 +491,8 @@ void tst_mvcalendar::reportsTextsWithoutRoom()
     QVERIFY(entry.value(u"rect"_s).toObject().value(u"width"_s).toDouble() > 100.0);
     QCOMPARE(run(arguments + u" --report xml"_s).exitCode, 2);
 
+    if (!outputOf(u"fc-list"_s, {u":lang=ml"_s}).isEmpty())
+        return;
     put(u"e.xml"_s, entriesFile("\u0d05\u0d2e\u0d4d\u0d2e", "1956-03-10")); // in a script without a font
     const QByteArray err = run(arguments).err;
     QVERIFY2(err.contains("\u0d05\u0d2e") && err.count('\n') == 1, err.constData());
