@@ -372,7 +372,7 @@ void tst_MvTextOutlineCache::missingCharacters_data()
     const MvRows<QString, QString> row; // text, missing
     row("none", u"Jörg\u00a0– „Süß“ Žižek"_s, QString());
     row("each once", u"x\U000F1234y\U00101234\U000F1234"_s, u"\U000F1234\U00101234"_s);
-    row("never seen", u"a\u200d\ufe0f\u0301\u00ad\t"_s, QString());
+    row("never seen", u"a\u200d\ufe0f\u0301\u00ad\u3164\t"_s, QString());
 }
 
 void tst_MvTextOutlineCache::missingCharacters()

@@ -74,6 +74,11 @@ bool MvStringHelper::isVisible(const QString &text)
     return !std::all_of(characters.cbegin(), characters.cend(), isInvisible);
 }
 
+bool MvStringHelper::isVisible(char32_t character)
+{
+    return !isInvisible(character);
+}
+
 QString MvStringHelper::beginning(const QString &text, qsizetype length)
 {
     if (text.size() <= length)

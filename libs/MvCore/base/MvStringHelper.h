@@ -22,6 +22,8 @@ public:
     static QString simplifiedName(const QString &name);
     /// Whether something of the text would be seen: not blanks, controls and invisible format characters alone.
     static bool isVisible(const QString &text);
+    /// The same for one character.
+    static bool isVisible(char32_t character);
     /// The text's beginning, of at most so many UTF-16 units, without cutting a character with its marks in two.
     static QString beginning(const QString &text, qsizetype length);
 };

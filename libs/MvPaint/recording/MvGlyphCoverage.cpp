@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: LGPL-2.1-or-later
 #include "MvPaint/MvGlyphCoverage.h"
 
+#include "MvCore/MvStringHelper.h"
 #include "MvModelBase/MvFontSupply.h"
 #include "MvPaint/MvPrintableText.h"
 
@@ -17,21 +18,13 @@ namespace {
 constexpr char32_t alwaysThere = 0x0100; // Latin-1: in every font that anybody prints with
 constexpr qsizetype mostKnown = 50'000;
 
+/// Whether it needs a glyph of its own. Marks join that of their letter.
 bool isSeen(char32_t c)
 {
-    switch (QChar::category(c)) {
-    case QChar::Mark_NonSpacing:
-    case QChar::Mark_SpacingCombining:
-    case QChar::Mark_Enclosing:
-    case QChar::Separator_Space:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-        return false;
-    default:
-        return true;
-    }
+    const QChar::Category category = QChar::category(c);
+    const bool isMark = category == QChar::Mark_NonSpacing || category == QChar::Mark_SpacingCombining ||
+                        category == QChar::Mark_Enclosing;
+    return !isMark && MvStringHelper::isVisible(c);
 }
 
 bool hasGlyph(const QFont &font, const QString &character)
