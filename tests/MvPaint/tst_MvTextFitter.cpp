@@ -90,7 +90,7 @@ void tst_MvTextFitter::running_data()
 void tst_MvTextFitter::running()
 {
     const auto [room, lines, cutTexts] = MvRows<QSizeF, QStringList, QStringList>::current();
-    const MvFittedText fitted = fitter(12.0).fitRunning(room, {u"Oma"_s, u"Eva Maria"_s, u"Max"_s}, u", "_s);
+    const MvFittedText fitted = fitter(12.0).fitRunning(room, {u"Oma"_s, {}, u"Eva Maria"_s, u"Max"_s, {}}, u", "_s);
     QCOMPARE(fitted.lines, lines);
     QCOMPARE(fitted.cutTexts, cutTexts);
     QCOMPARE(fitted.isCut, !cutTexts.isEmpty());

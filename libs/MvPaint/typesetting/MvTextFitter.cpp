@@ -67,7 +67,9 @@ MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, dou
 
 MvFittedText MvTextFitter::fitRunning(const QSizeF &room, const QStringList &texts, const QString &separator) const
 {
-    return fit(room, texts, separator, static_cast<int>(room.width()));
+    QStringList said = texts;
+    said.removeAll(QString()); // which would leave their separators
+    return fit(room, said, separator, static_cast<int>(room.width()));
 }
 
 MvFittedText MvTextFitter::fit(const QSizeF &room, const QStringList &texts, const QString &separator,
